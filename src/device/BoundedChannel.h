@@ -1,0 +1,38 @@
+#pragma once
+
+#include <chrono>
+#include <memory>
+
+#include "device/ProjectorChannel.h"
+
+/// Puts a bound on how long a command may take, whatever the channel behind it does.
+///
+/// The inner channel runs on a thread of this object's own. `Execute` waits for it; after a moment
+/// it lets the calling thread's event loop run, without user input, so that windows go on painting.
+/// A command started from inside that loop is refused. A command without an answer in time yields
+/// an unanswered refusal; from then on further commands fail at once, until the retry interval is
+/// over and the outstanding command has come back. So a projector that does not answer costs one
+/// time-out and not one per command.
+///
+/// Destroying the object does not wait for an outstanding command: the inner channel lives on until
+/// that command returns.
+class BoundedChannel : public ProjectorChannel {
+ public:
+  struct Limits {
+    std::chrono::milliseconds timeOut{2000};
+    std::chrono::milliseconds retryAfter{3000};  ///< Counted from the unanswered command's end.
+    std::chrono::milliseconds quickAnswer{5};    ///< Waited for before the event loop runs.
+  };
+
+  explicit BoundedChannel(std::shared_ptr<ProjectorChannel> inner) : BoundedChannel(inner, {}) {}
+  BoundedChannel(std::shared_ptr<ProjectorChannel> inner, const Limits& limits);
+  ~BoundedChannel() override;
+  BoundedChannel(const BoundedChannel&) = delete;
+  BoundedChannel& operator=(const BoundedChannel&) = delete;
+
+  PjtReply Execute(const PjtCommand& command) override;
+
+ private:
+  struct State;
+  std::shared_ptr<State> state_;
+};

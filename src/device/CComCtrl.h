@@ -1,0 +1,16 @@
+#pragma once
+
+#include <cstdint>
+
+/// Parameters of a serial connection. A value: copying it copies the parameters.
+class CComCtrl {
+ public:
+  CComCtrl() = default;
+  CComCtrl(const CComCtrl&) = default;
+  CComCtrl& operator=(const CComCtrl& other);
+
+  std::int32_t Port = 0;      ///< Zero-based; shown to people plus one.
+  std::int32_t BaudRate = 0;  ///< Bits per second; 0 when the host named none.
+
+  friend bool operator==(const CComCtrl&, const CComCtrl&) = default;
+};

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "device/ModelData.h"
+
+/// The short model record of hosts that know neither series code nor ranges.
+/// A value: copying it copies every member.
+class CModelInfo {
+ public:
+  CModelInfo() = default;
+  CModelInfo(const CModelInfo& other);
+  CModelInfo& operator=(const CModelInfo& other);
+
+  std::string ModelName;
+  std::int32_t DialogType = 0;  ///< Page set 1..5.
+  SourceList MySourceList;
+  CountedList AspectList;
+  CountedList GammaList;
+  CountedList ColorTempList;
+};

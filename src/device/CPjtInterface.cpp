@@ -1,0 +1,161 @@
+#include "device/CPjtInterface.h"
+
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
+#include "device/ModelData.h"
+
+namespace {
+
+constexpr int kNetworkKind = 1;
+
+using Op = PjtOperation;
+
+std::int16_t Word(int value) { return static_cast<std::int16_t>(value); }
+
+std::string BoundedText(const char* text) {
+  return text ? std::string(text, strnlen(text, NameSlot{}.size())) : std::string();
+}
+
+int KeepList(int count, const int* values, std::vector<std::int32_t>& kept) {
+  const int size = values ? std::clamp(count, 0, CountedList::kCapacity) : 0;
+  kept.assign(values, values + size);
+  return size;
+}
+
+}  // namespace
+
+CPjtInterface::CPjtInterface() = default;
+CPjtInterface::~CPjtInterface() = default;
+
+void CPjtInterface::SetChannel(std::shared_ptr<ProjectorChannel> channel) {
+  channel_ = std::move(channel);
+}
+
+void CPjtInterface::CopyData(int kind, int number, int parameter, const char* text1,
+                             const char* text2) {
+  connectionKind_ = kind;
+  connectionNumber_ = number;
+  connectionParameter_ = parameter;
+  connectionText1_ = BoundedText(text1);
+  connectionText2_ = BoundedText(text2);
+  serial_ = {};
+  network_ = {};
+  if (kind == kNetworkKind) {
+    network_.Address = connectionText1_;
+    network_.Secret = connectionText2_;
+    network_.Port = parameter;
+  } else {
+    serial_.Port = number;
+    serial_.BaudRate = parameter;
+  }
+}
+
+int CPjtInterface::CopyAspectData(int count, const int* values) {
+  return KeepList(count, values, aspectValues_);
+}
+
+int CPjtInterface::CopyGammaData(int count, const int* values) {
+  return KeepList(count, values, gammaValues_);
+}
+
+PjtReply CPjtInterface::Execute(const PjtCommand& command) const {
+  // Held for the whole call: whoever runs while the channel waits may give this object another one.
+  const std::shared_ptr<ProjectorChannel> channel = channel_;
+  if (!channel) return {.result = RefusedResult(command.operation), .answered = false};
+  return channel->Execute(command);
+}
+
+int CPjtInterface::ExecuteInto(const PjtCommand& command, short* value) const {
+  if (!value) return RefusedResult(command.operation);
+  const PjtReply reply = Execute(command);
+  if (IsSuccess(command.operation, reply.result)) *value = reply.value;
+  return reply.result;
+}
+
+short CPjtInterface::ExecuteFor(const PjtCommand& command, short otherwise) const {
+  const PjtReply reply = Execute(command);
+  return IsSuccess(command.operation, reply.result) ? reply.value : otherwise;
+}
+
+// One definition per family; the list of operations says which members there are.
+
+#define PJT_FORM_Action(name) \
+  int CPjtInterface::name() { return Execute({Op::name}).result; }
+#define PJT_FORM_CheckedReset(name) PJT_FORM_Action(name)
+#define PJT_FORM_PointReset(name) \
+  int CPjtInterface::name(int point) { return Execute({Op::name, 0, Word(point)}).result; }
+#define PJT_FORM_SilentAction(name) \
+  void CPjtInterface::name() { Execute({Op::name}); }
+#define PJT_FORM_PointerGetter(name) \
+  int CPjtInterface::name(short* value) { return ExecuteInto({Op::name}, value); }
+#define PJT_FORM_IntSetter(name) \
+  int CPjtInterface::name(int value) { return Execute({Op::name, 0, Word(value)}).result; }
+#define PJT_FORM_ShortSetter(name) \
+  int CPjtInterface::name(short value) { return Execute({Op::name, 0, value}).result; }
+#define PJT_FORM_FlaggedSetter(name)                         \
+  int CPjtInterface::name(short value, int flag) {           \
+    return Execute({Op::name, 0, value, Word(flag)}).result; \
+  }
+#define PJT_FORM_SilentSetter(name) \
+  void CPjtInterface::name(int value) { Execute({Op::name, 0, Word(value)}); }
+#define PJT_FORM_SilentFlaggedSetter(name) \
+  void CPjtInterface::name(int value, int flag) { Execute({Op::name, 0, Word(value), Word(flag)}); }
+#define PJT_FORM_PointerStepper(name)                                    \
+  int CPjtInterface::name(short* value) {                                \
+    return ExecuteInto({Op::name, 0, value ? *value : short{0}}, value); \
+  }
+#define PJT_FORM_SourceGetter(name)                         \
+  int CPjtInterface::name(int source, short* value) {       \
+    return ExecuteInto({Op::name, 0, Word(source)}, value); \
+  }
+#define PJT_FORM_SourceStepper(name) PJT_FORM_SourceGetter(name)
+#define PJT_FORM_SourceSetter(name)                            \
+  int CPjtInterface::name(int source, short value) {           \
+    return Execute({Op::name, 0, Word(source), value}).result; \
+  }
+#define PJT_FORM_ShortSourceSetter(name)                 \
+  int CPjtInterface::name(short source, short value) {   \
+    return Execute({Op::name, 0, source, value}).result; \
+  }
+#define PJT_FORM_DirectGetter(name) \
+  short CPjtInterface::name() { return ExecuteFor({Op::name}, 0); }
+#define PJT_FORM_PointGetter(name) \
+  short CPjtInterface::name(int point) { return ExecuteFor({Op::name, 0, Word(point)}, 0); }
+#define PJT_FORM_ChannelStepper(name)                              \
+  short CPjtInterface::name(int channel, short value) {            \
+    return ExecuteFor({Op::name, 0, Word(channel), value}, value); \
+  }
+#define PJT_FORM_Generic(name)
+#define PJT_OPERATION(name, family) PJT_FORM_##family(name)
+#include "device/PjtOperations.def"
+
+short CPjtInterface::IncrementAutoPowerOff(short value) {
+  return ExecuteFor({Op::IncrementAutoPowerOff, 0, value}, value);
+}
+
+short CPjtInterface::DecrementAutoPowerOff(short value) {
+  return ExecuteFor({Op::DecrementAutoPowerOff, 0, value}, value);
+}
+
+int CPjtInterface::Get(unsigned short code, unsigned short argument, CPjtInterface*,
+                       unsigned short* value) {
+  short read = 0;
+  const int result =
+      value ? ExecuteInto({Op::Get, code, Word(argument)}, &read) : RefusedResult(Op::Get);
+  if (IsSuccess(Op::Get, result)) *value = static_cast<unsigned short>(read);
+  return result;
+}
+
+int CPjtInterface::Set(unsigned short code, unsigned short value, CPjtInterface*) {
+  return Execute({Op::Set, code, Word(value)}).result;
+}
+
+int CPjtInterface::Inc(unsigned short code, unsigned short argument, CPjtInterface*) {
+  return Execute({Op::Inc, code, Word(argument)}).result;
+}
+
+int CPjtInterface::Dec(unsigned short code, unsigned short argument, CPjtInterface*) {
+  return Execute({Op::Dec, code, Word(argument)}).result;
+}

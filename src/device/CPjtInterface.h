@@ -1,0 +1,125 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "device/CComCtrl.h"
+#include "device/CSocketCtrl.h"
+#include "device/ProjectorChannel.h"
+
+/// The connection to one projector and every operation it offers.
+///
+/// Each operation builds one `PjtCommand`, hands it to the channel and returns when the channel
+/// does. Copies share the channel. Without a channel every operation is refused. What each form of
+/// operation takes and returns is listed with the forms below; a refused operation writes nothing
+/// through its pointer. Values are device values; the pages own every bias.
+class CPjtInterface {
+ public:
+  CPjtInterface();
+  CPjtInterface(const CPjtInterface& other);
+  CPjtInterface& operator=(const CPjtInterface& other);
+  ~CPjtInterface();
+
+  /// The way to the projector; may be null.
+  void SetChannel(std::shared_ptr<ProjectorChannel> channel);
+  const std::shared_ptr<ProjectorChannel>& Channel() const { return channel_; }
+
+  /// Takes the connection parameters. Kind 1 is a network connection identified by `text1`; any
+  /// other is a serial one identified by `number`. A text ends at its first zero or after 64
+  /// characters; null is an empty text.
+  void CopyData(int kind, int number, int parameter, const char* text1, const char* text2);
+
+  /// Take the model's aspect and gamma device values, in list order. At most 32 are kept; a null
+  /// list or a negative count is an empty one. The result is the number kept.
+  int CopyAspectData(int count, const int* values);
+  int CopyGammaData(int count, const int* values);
+
+  int ConnectionKind() const { return connectionKind_; }
+  int ConnectionNumber() const { return connectionNumber_; }
+  int ConnectionParameter() const { return connectionParameter_; }
+  const std::string& ConnectionText1() const { return connectionText1_; }
+  const std::string& ConnectionText2() const { return connectionText2_; }
+  const CComCtrl& Serial() const { return serial_; }
+  const CSocketCtrl& Network() const { return network_; }
+  const std::vector<std::int32_t>& AspectValues() const { return aspectValues_; }
+  const std::vector<std::int32_t>& GammaValues() const { return gammaValues_; }
+
+  /// Written by the dialog when it opens; carried for the connection.
+  std::int32_t HostOption = 0;
+  std::int32_t DialogType = 0;
+  /// Text of the list entry that a page is about to send; pages write it and never read it.
+  std::string SettingText;
+
+  // The named operations, declared in the form of their family.
+
+#define PJT_FORM_Action(name) int name();
+#define PJT_FORM_CheckedReset(name) int name();
+#define PJT_FORM_PointReset(name) int name(int point);
+#define PJT_FORM_SilentAction(name) void name();
+#define PJT_FORM_PointerGetter(name) int name(short* value);
+#define PJT_FORM_IntSetter(name) int name(int value);
+#define PJT_FORM_ShortSetter(name) int name(short value);
+#define PJT_FORM_FlaggedSetter(name) int name(short value, int flag);
+#define PJT_FORM_SilentSetter(name) void name(int value);
+#define PJT_FORM_SilentFlaggedSetter(name) void name(int value, int flag);
+#define PJT_FORM_PointerStepper(name) int name(short* value);
+#define PJT_FORM_SourceGetter(name) int name(int source, short* value);
+#define PJT_FORM_SourceStepper(name) int name(int source, short* value);
+#define PJT_FORM_SourceSetter(name) int name(int source, short value);
+#define PJT_FORM_ShortSourceSetter(name) int name(short source, short value);
+#define PJT_FORM_DirectGetter(name) short name();          // 0 when the read fails.
+#define PJT_FORM_PointGetter(name) short name(int point);  // 0 when the read fails.
+#define PJT_FORM_ChannelStepper(name) short name(int channel, short value);  // `value` if refused.
+#define PJT_FORM_Generic(name)
+#define PJT_OPERATION(name, family) PJT_FORM_##family(name)
+#include "device/PjtOperations.def"
+#undef PJT_FORM_Action
+#undef PJT_FORM_CheckedReset
+#undef PJT_FORM_PointReset
+#undef PJT_FORM_SilentAction
+#undef PJT_FORM_PointerGetter
+#undef PJT_FORM_IntSetter
+#undef PJT_FORM_ShortSetter
+#undef PJT_FORM_FlaggedSetter
+#undef PJT_FORM_SilentSetter
+#undef PJT_FORM_SilentFlaggedSetter
+#undef PJT_FORM_PointerStepper
+#undef PJT_FORM_SourceGetter
+#undef PJT_FORM_SourceStepper
+#undef PJT_FORM_SourceSetter
+#undef PJT_FORM_ShortSourceSetter
+#undef PJT_FORM_DirectGetter
+#undef PJT_FORM_PointGetter
+#undef PJT_FORM_ChannelStepper
+#undef PJT_FORM_Generic
+
+  /// The same steps with the caller's value instead of a pointer: the new value, or `value` when
+  /// the projector refused.
+  short IncrementAutoPowerOff(short value);
+  short DecrementAutoPowerOff(short value);
+
+  // The generic operations, by command code. `self` is the object called through.
+  // Exactly 1 is success. `Inc` and `Dec` step by one; read the setting afterwards with `Get`.
+  int Get(unsigned short code, unsigned short argument, CPjtInterface* self, unsigned short* value);
+  int Set(unsigned short code, unsigned short value, CPjtInterface* self);
+  int Inc(unsigned short code, unsigned short argument, CPjtInterface* self);
+  int Dec(unsigned short code, unsigned short argument, CPjtInterface* self);
+
+ private:
+  PjtReply Execute(const PjtCommand& command) const;
+  int ExecuteInto(const PjtCommand& command, short* value) const;
+  short ExecuteFor(const PjtCommand& command, short otherwise) const;
+
+  std::shared_ptr<ProjectorChannel> channel_;
+  int connectionKind_ = 0;
+  int connectionNumber_ = 0;
+  int connectionParameter_ = 0;
+  std::string connectionText1_;
+  std::string connectionText2_;
+  CComCtrl serial_;
+  CSocketCtrl network_;
+  std::vector<std::int32_t> aspectValues_;
+  std::vector<std::int32_t> gammaValues_;
+};

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+/// Parameters of a network connection. A value: copying it copies the parameters.
+class CSocketCtrl {
+ public:
+  CSocketCtrl() = default;
+  CSocketCtrl(const CSocketCtrl&) = default;
+  CSocketCtrl& operator=(const CSocketCtrl& other);
+
+  std::string Address;    ///< Host name or dotted address.
+  std::string Secret;     ///< What the projector asks for when a connection opens; may be empty.
+  std::int32_t Port = 0;  ///< 0 when the host named none.
+
+  friend bool operator==(const CSocketCtrl&, const CSocketCtrl&) = default;
+};

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+/// A name in a fixed 64-byte slot, zero-terminated unless it fills the slot; UTF-8.
+using NameSlot = std::array<char, 64>;
+
+/// The text in a slot, up to its first zero or the slot's end.
+std::string_view NameText(const NameSlot& slot);
+
+/// Puts `text` into a slot, cut at a character boundary where it does not fit; the rest is zeros.
+NameSlot MakeNameSlot(std::string_view text);
+
+/// A capability list: only the first `count` entries are meaningful, though the arrays may hold
+/// more.
+struct CountedList {
+  static constexpr int kCapacity = 32;
+
+  std::int32_t count = 0;
+  std::array<std::int32_t, kCapacity> values{};  ///< Device value of each entry.
+  std::array<NameSlot, kCapacity> names{};
+
+  /// `count` held inside 0..kCapacity, whatever a host passed.
+  int Size() const { return count < 0 ? 0 : count > kCapacity ? kCapacity : count; }
+
+  /// Index of the first meaningful entry with this device value, or −1.
+  int IndexOf(std::int32_t value) const;
+};
+
+/// The input sources that the model knows.
+struct SourceList {
+  static constexpr int kCapacity = 16;
+
+  std::int32_t count = 0;
+  std::array<NameSlot, kCapacity> names{};
+  std::array<std::int32_t, kCapacity> firstValues{};   ///< Input source number of each entry.
+  std::array<std::int32_t, kCapacity> secondValues{};  ///< Second host value of each entry.
+
+  int Size() const { return count < 0 ? 0 : count > kCapacity ? kCapacity : count; }
+};
+
+/// Position of each adjustment range in `ModelData::RangeTexts`.
+namespace RangeIndex {
+inline constexpr std::size_t AutoOff = 0;
+inline constexpr std::size_t ColorTempAdjust = 1;  ///< Six: gain R, G, B, offset R, G, B.
+inline constexpr std::size_t GammaPoint = 7;       ///< Eight: user gamma points 1..8.
+inline constexpr std::size_t Brightness = 17;
+inline constexpr std::size_t Contrast = 18;
+inline constexpr std::size_t KeystoneV = 19;
+inline constexpr std::size_t KeystoneH = 20;
+inline constexpr std::size_t Volume = 21;
+inline constexpr std::size_t Sharpness = 26;
+inline constexpr std::size_t Color = 27;
+inline constexpr std::size_t Tint = 28;
+inline constexpr std::size_t Treble = 32;
+inline constexpr std::size_t Bass = 33;
+inline constexpr std::size_t Count = 34;
+}  // namespace RangeIndex
+
+/// What the host tells of the selected projector's model. Nothing in it changes after intake.
+struct ModelData {
+  std::string ModelName;        ///< UTF-8, as the host knows it.
+  std::int32_t ModelCode = 0;   ///< Series code; refines tabs and rows.
+  std::int32_t DialogType = 0;  ///< Page set 1..5; any other has the status page only.
+  SourceList MySourceList;
+  CountedList WhisperList;
+  CountedList AspectList;
+  CountedList GammaList;
+  CountedList ColorTempList;
+  CountedList MyButtonList;
+  std::int32_t ModelWord = 0;                ///< Carried for the host; no page reads it.
+  std::array<std::int32_t, 2> ModelWords{};  ///< Carried for the host; no page reads them.
+  /// "minimum,maximum" in device units, empty for a page's default; by `RangeIndex`.
+  std::array<std::string, RangeIndex::Count> RangeTexts;
+};

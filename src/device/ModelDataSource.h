@@ -1,0 +1,12 @@
+#pragma once
+
+#include "device/ModelData.h"
+
+/// Whoever holds the model data that the pages and pop-ups read: the dialog they belong to.
+class ModelDataSource {
+ public:
+  virtual ~ModelDataSource() = default;
+
+  /// Owned by the source; unchanged while its pages live.
+  virtual const ModelData& Model() const = 0;
+};

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstdint>
+
+#include "device/PjtOperation.h"
+
+/// One command to the projector.
+struct PjtCommand {
+  PjtOperation operation;
+  std::uint16_t code = 0;  ///< Command code of the generic operations, 0 for the named ones.
+  std::int16_t first = 0;  ///< Value, or the source, channel or point that the operation addresses.
+  std::int16_t second = 0;  ///< Value of an addressed operation, or the operation's flag.
+
+  friend bool operator==(const PjtCommand&, const PjtCommand&) = default;
+};
+
+/// What came back.
+struct PjtReply {
+  int result = 0;          ///< Success or refusal as the operation's family says (`IsSuccess`).
+  std::int16_t value = 0;  ///< The value read or stepped to; meaningful only on success.
+  bool answered = true;    ///< False when no answer came; `result` is then a refusal.
+};
+
+/// The way to one projector: a real connection, a simulation, or a channel around a channel that
+/// logs, bounds or disturbs. Called from one thread at a time.
+class ProjectorChannel {
+ public:
+  virtual ~ProjectorChannel() = default;
+
+  /// Blocks until the projector answered or the channel gave up. Never throws.
+  virtual PjtReply Execute(const PjtCommand& command) = 0;
+};

@@ -1,0 +1,78 @@
+#include "simulator/FaultChannel.h"
+
+namespace {
+
+template <typename Key>
+void Store(std::map<Key, Fault>& faults, Key key, const Fault& fault) {
+  if (fault.kind == Fault::Kind::None) {
+    faults.erase(key);
+  } else {
+    faults[key] = fault;
+  }
+}
+
+}  // namespace
+
+void FaultChannel::SetFault(const Fault& fault) {
+  const std::lock_guard lock(mutex_);
+  forAll_ = fault;
+  changed_.notify_all();
+}
+
+void FaultChannel::SetFault(PjtOperation operation, const Fault& fault) {
+  const std::lock_guard lock(mutex_);
+  Store(byOperation_, operation, fault);
+  changed_.notify_all();
+}
+
+void FaultChannel::SetFault(std::uint16_t code, const Fault& fault) {
+  const std::lock_guard lock(mutex_);
+  Store(byCode_, code, fault);
+  changed_.notify_all();
+}
+
+void FaultChannel::Clear() {
+  const std::lock_guard lock(mutex_);
+  forAll_ = {};
+  byOperation_.clear();
+  byCode_.clear();
+  changed_.notify_all();
+}
+
+Fault FaultChannel::FaultOf(const PjtCommand& command) const {
+  if (FamilyOf(command.operation) == OperationFamily::Generic) {
+    if (const auto found = byCode_.find(command.code); found != byCode_.end()) {
+      return found->second;
+    }
+  }
+  const auto found = byOperation_.find(command.operation);
+  return found == byOperation_.end() ? forAll_ : found->second;
+}
+
+void FaultChannel::Wait(std::unique_lock<std::mutex>& lock, const PjtCommand& command,
+                        const Fault& fault, std::chrono::milliseconds time) {
+  changed_.wait_for(lock, time, [&] { return FaultOf(command) != fault; });
+}
+
+PjtReply FaultChannel::Execute(const PjtCommand& command) {
+  const PjtReply refusal{.result = RefusedResult(command.operation)};
+  std::unique_lock lock(mutex_);
+  const Fault fault = FaultOf(command);
+  switch (fault.kind) {
+    case Fault::Kind::None:
+      break;
+    case Fault::Kind::Refuse:
+      return refusal;
+    case Fault::Kind::FailRead:
+      if (IsRead(command.operation)) return refusal;
+      break;
+    case Fault::Kind::Late:
+      Wait(lock, command, fault, fault.delay);
+      break;
+    case Fault::Kind::DropOut:
+      Wait(lock, command, fault, dropOut_);
+      return {.result = refusal.result, .answered = false};
+  }
+  lock.unlock();
+  return inner_->Execute(command);
+}

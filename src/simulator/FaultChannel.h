@@ -1,0 +1,62 @@
+#pragma once
+
+#include <chrono>
+#include <condition_variable>
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <utility>
+
+#include "device/ProjectorChannel.h"
+
+/// What goes wrong with a command.
+struct Fault {
+  enum class Kind {
+    None,
+    Refuse,    ///< The projector refuses the command.
+    FailRead,  ///< It refuses to be read; anything else goes through.
+    Late,      ///< It answers after `delay`.
+    DropOut,   ///< It does not answer.
+  };
+
+  Kind kind = Kind::None;
+  std::chrono::milliseconds delay{0};  ///< Of `Late`.
+
+  friend bool operator==(const Fault&, const Fault&) = default;
+};
+
+/// Disturbs the commands on their way to another channel. A fault may be set for one operation, for
+/// the generic operations of one code, or for every command; the narrower one counts.
+///
+/// Faults may be set from any thread while a command is under way; a command that waits goes on as
+/// soon as the fault it waits for is over.
+class FaultChannel : public ProjectorChannel {
+ public:
+  /// A command that drops out blocks for `dropOut` and is then unanswered.
+  explicit FaultChannel(std::shared_ptr<ProjectorChannel> inner,
+                        std::chrono::milliseconds dropOut = std::chrono::seconds(10))
+      : inner_(std::move(inner)), dropOut_(dropOut) {}
+
+  /// `Kind::None` takes the fault back.
+  void SetFault(const Fault& fault);
+  void SetFault(PjtOperation operation, const Fault& fault);
+  void SetFault(std::uint16_t code, const Fault& fault);
+  void Clear();
+
+  PjtReply Execute(const PjtCommand& command) override;
+
+ private:
+  Fault FaultOf(const PjtCommand& command) const;
+  /// Waits while `fault` holds for the command, at most for `time`.
+  void Wait(std::unique_lock<std::mutex>& lock, const PjtCommand& command, const Fault& fault,
+            std::chrono::milliseconds time);
+
+  std::shared_ptr<ProjectorChannel> inner_;
+  const std::chrono::milliseconds dropOut_;
+  mutable std::mutex mutex_;
+  std::condition_variable changed_;
+  Fault forAll_;
+  std::map<PjtOperation, Fault> byOperation_;
+  std::map<std::uint16_t, Fault> byCode_;
+};

@@ -1,0 +1,444 @@
+#include "simulator/SettingsTable.h"
+
+#include "device/ModelData.h"
+
+namespace {
+
+using Id = SettingId;
+using Op = PjtOperation;
+using Operations = std::array<Binding, Setting::kOperations>;
+
+constexpr Binding Read(Op operation, int selector = Binding::kAny) {
+  return {.operation = operation, .verb = Verb::Read, .selector = selector};
+}
+constexpr Binding Write(Op operation, ValueForm form = ValueForm::Device) {
+  return {.operation = operation, .verb = Verb::Write, .form = form};
+}
+constexpr Binding Up(Op operation) { return {.operation = operation, .verb = Verb::StepUp}; }
+constexpr Binding Down(Op operation) { return {.operation = operation, .verb = Verb::StepDown}; }
+constexpr Binding Reset(Op operation, int selector = Binding::kAny) {
+  return {.operation = operation, .verb = Verb::Reset, .selector = selector};
+}
+constexpr Binding TurnTo(Op operation, int value) {
+  return {.operation = operation, .verb = Verb::TurnTo, .turnTo = value};
+}
+
+constexpr SettingRange kSwitch{0, 1};
+constexpr SettingRange kWord{0, 0xFFFF};
+
+constexpr int kIrisValues[] = {0x00, 0x10, 0x11};
+constexpr int kVideoFormatValues[] = {10, 4, 5, 9, 2, 8, 7};
+constexpr int kSrsWowValues[] = {0, 2, 3};
+constexpr int kDigitalAudioValues[] = {0, 1, 2, 3, 4, 32};
+constexpr int kMiuAudioValues[] = {0, 1, 2, 3, 4, 16};
+constexpr int kMonitorOutValues[] = {255, 0, 4};
+constexpr int kStartUpValues[] = {0, 1, 32};
+
+constexpr Setting GammaPoint(int point, std::string_view name) {
+  const auto offset = static_cast<std::size_t>(point - 1);
+  return {
+      .id = static_cast<Id>(static_cast<std::size_t>(Id::GammaPoint1) + offset),
+      .name = name,
+      .code = static_cast<std::uint16_t>(0x3090 + offset),
+      .range = {112, 144},
+      .standard = 128,
+      .inMemory = true,
+      .rangeText = RangeIndex::GammaPoint + offset,
+      .operations = {Read(Op::GetUserGammaPoint, point), Reset(Op::ExecUserGammaPReset, point)}};
+}
+
+/// A gain or offset; its steppers name the channel and exchange shown values.
+constexpr Setting ColorTempAdjust(Id id, std::string_view name, std::uint16_t code, int channel,
+                                  std::size_t rangeText, Op read, Op up, Op down, Op reset) {
+  return {.id = id,
+          .name = name,
+          .code = code,
+          .standard = 128,
+          .inMemory = true,
+          .rangeText = rangeText,
+          .operations = {Read(read),
+                         {up, Verb::StepUp, ValueForm::Shown, channel},
+                         {down, Verb::StepDown, ValueForm::Shown, channel},
+                         Reset(reset)}};
+}
+
+constexpr Setting Gain(Id id, std::string_view name, int channel, Op read, Op reset) {
+  const auto offset = static_cast<std::size_t>(channel);
+  return ColorTempAdjust(id, name, static_cast<std::uint16_t>(0x30B1 + channel), channel,
+                         RangeIndex::ColorTempAdjust + offset, read, Op::IncrementColorTempGain,
+                         Op::DecrementColorTempGain, reset);
+}
+
+constexpr Setting Offset(Id id, std::string_view name, int channel, Op read, Op reset) {
+  const auto offset = static_cast<std::size_t>(channel);
+  return ColorTempAdjust(id, name, static_cast<std::uint16_t>(0x30B5 + channel), channel,
+                         RangeIndex::ColorTempAdjust + 3 + offset, read,
+                         Op::IncrementColorTempOffset, Op::DecrementColorTempOffset, reset);
+}
+
+/// A value that the projector keeps from −128 to 127 around 128.
+constexpr Setting Balance(Id id, std::string_view name, std::uint16_t code, SettingRange range,
+                          std::size_t rangeText, Operations operations) {
+  return {.id = id,
+          .name = name,
+          .code = code,
+          .range = range,
+          .standard = 128,
+          .inMemory = true,
+          .rangeText = rangeText,
+          .operations = operations};
+}
+
+constexpr Setting Plain(Id id, std::string_view name, SettingRange range, Operations operations,
+                        int standard = 0) {
+  return {.id = id, .name = name, .range = range, .standard = standard, .operations = operations};
+}
+
+constexpr Setting Coded(Id id, std::string_view name, std::uint16_t code, SettingRange range,
+                        Operations operations, int standard = 0) {
+  return {.id = id,
+          .name = name,
+          .code = code,
+          .range = range,
+          .standard = standard,
+          .operations = operations};
+}
+
+constexpr Setting OneOf(Id id, std::string_view name, std::uint16_t code,
+                        std::span<const int> values, Operations operations) {
+  return {.id = id,
+          .name = name,
+          .code = code,
+          .values = values,
+          .standard = values.front(),
+          .operations = operations};
+}
+
+constexpr Setting ForSets(PageSets sets, Setting setting) {
+  setting.sets = sets;
+  return setting;
+}
+
+constexpr Setting InMemory(Setting setting) {
+  setting.inMemory = true;
+  return setting;
+}
+
+constexpr Setting kSettings[] = {
+    // State of the projector.
+    {.id = Id::Power,
+     .name = "Power",  // 0 standby, 1 on, 2 cooling down
+     .code = 0x6000,
+     .range = {0, 2},
+     .standard = 1,
+     .reported = true,
+     .operations = {TurnTo(Op::SetPowerOn, 1), TurnTo(Op::SetPowerOff, 0)}},
+    Coded(Id::InputSource, "Input source", 0x2000, {0, 255}, {Read(Op::GetInputSource)}),
+    {.id = Id::ErrorStatus,
+     .name = "Error status",
+     .code = 0x6020,
+     .range = kWord,
+     .reported = true},
+    Coded(Id::Blank, "Blank", 0x3020, kSwitch, {Write(Op::SetBlank)}),
+    Coded(Id::Mute, "Mute", 0x2002, kSwitch, {Write(Op::SetMute)}),
+    Coded(Id::Freeze, "Freeze", 0x3002, kSwitch, {Write(Op::SetFreeze)}),
+    {.id = Id::LampTime,
+     .name = "Lamp time",
+     .code = 0x1090,
+     .range = kWord,
+     .standard = 1240,
+     .reset = 0,
+     .reported = true,
+     .operations = {Reset(Op::ExecLampTimeReset)}},
+    {.id = Id::FilterTime,
+     .name = "Filter time",
+     .code = 0x10A0,
+     .range = kWord,
+     .standard = 310,
+     .reset = 0,
+     .reported = true,
+     .operations = {Reset(Op::ExecFilterTimeReset)}},
+
+    // Picture. Ranges are the widest that any model's page offers.
+    Balance(Id::Brightness, "Brightness", 0x2003, {96, 160}, RangeIndex::Brightness,
+            {Write(Op::SetBrightness), Reset(Op::ExecBrightnessReset)}),
+    Balance(Id::Contrast, "Contrast", 0x2004, {80, 176}, RangeIndex::Contrast,
+            {Write(Op::SetContrast), Reset(Op::ExecContrastReset)}),
+    Balance(Id::Color, "Color", 0x2202, {65, 191}, RangeIndex::Color,
+            {Write(Op::SetColor), Reset(Op::ExecColorReset)}),
+    Balance(Id::Tint, "Tint", 0x2203, {96, 160}, RangeIndex::Tint,
+            {Write(Op::SetTint), Reset(Op::ExecTintReset)}),
+    Balance(Id::Sharpness, "Sharpness", 0x2201, {120, 136}, RangeIndex::Sharpness,
+            {Write(Op::SetSharpness), Reset(Op::ExecSharpnessReset)}),
+    Balance(Id::ColorBalanceR, "Color balance R", 0x2005, {65, 191}, Setting::kNoRangeText,
+            {Reset(Op::ExecColorBalRReset)}),
+    Balance(Id::ColorBalanceG, "Color balance G", 0x2012, {65, 191}, Setting::kNoRangeText,
+            {Reset(Op::ExecColorBalGReset)}),
+    Balance(Id::ColorBalanceB, "Color balance B", 0x2006, {65, 191}, Setting::kNoRangeText,
+            {Reset(Op::ExecColorBalBReset)}),
+    InMemory(
+        Coded(Id::Gamma, "Gamma", 0x30A1, {0, 255}, {Write(Op::SetGamma, ValueForm::Position)})),
+    Balance(Id::CustomGamma, "Custom gamma", 0x30A0, {0, 255}, Setting::kNoRangeText, {}),
+    GammaPoint(1, "User gamma point 1"),
+    GammaPoint(2, "User gamma point 2"),
+    GammaPoint(3, "User gamma point 3"),
+    GammaPoint(4, "User gamma point 4"),
+    GammaPoint(5, "User gamma point 5"),
+    GammaPoint(6, "User gamma point 6"),
+    GammaPoint(7, "User gamma point 7"),
+    GammaPoint(8, "User gamma point 8"),
+    InMemory(Coded(Id::ColorTemp, "Color temperature", 0x30B0, {0, 255}, {})),
+    Gain(Id::ColorTempGainR, "Gain R", 0, Op::GetColorTempGainR, Op::ExecColorTempGainRReset),
+    Gain(Id::ColorTempGainG, "Gain G", 1, Op::GetColorTempGainG, Op::ExecColorTempGainGReset),
+    Gain(Id::ColorTempGainB, "Gain B", 2, Op::GetColorTempGainB, Op::ExecColorTempGainBReset),
+    Offset(Id::ColorTempOffsetR, "Offset R", 0, Op::GetColorTempOffsetR,
+           Op::ExecColorTempOffsetRReset),
+    Offset(Id::ColorTempOffsetG, "Offset G", 1, Op::GetColorTempOffsetG,
+           Op::ExecColorTempOffsetGReset),
+    Offset(Id::ColorTempOffsetB, "Offset B", 2, Op::GetColorTempOffsetB,
+           Op::ExecColorTempOffsetBReset),
+    InMemory(OneOf(Id::ActiveIris, "Active iris", 0x3304, kIrisValues, {})),
+    Coded(Id::TestPattern, "Test pattern", 0x3080, {0, 3}, {}),
+
+    // Position and size.
+    Coded(Id::Aspect, "Aspect", 0x2008, {0, 255}, {Write(Op::SetAspect, ValueForm::Position)}),
+    Coded(Id::OverScan, "Over scan", 0x2209, {0, 255}, {Reset(Op::ExecOverScanReset)}, 5),
+    Coded(Id::PositionV, "V position", 0x2100, {0, 255},
+          {Reset(Op::ExecVPosReset), Reset(Op::ExecAutoAdjust)}, 40),
+    Coded(Id::PositionH, "H position", 0x2101, {0, 999},
+          {Reset(Op::ExecHPosReset), Reset(Op::ExecAutoAdjust)}, 220),
+    Coded(Id::PhaseH, "H phase", 0x2103, {0, 248}, {Reset(Op::ExecAutoAdjust)}, 16),
+    Coded(Id::SizeH, "H size", 0x2102, {0, 4095},
+          {Reset(Op::ExecHSizeReset), Reset(Op::ExecAutoAdjust)}, 1344),
+
+    // Signals of the inputs.
+    Coded(Id::Progressive, "Progressive", 0x2207, {0, 2},
+          {Read(Op::GetProgressive), Write(Op::SetProgressive)}),
+    ForSets(PageSets::ButThird,
+            Coded(Id::VideoNoiseReduction, "Video NR", 0x2206, {1, 3},
+                  {Read(Op::GetVideoNrVal), Write(Op::SetVideoNR, ValueForm::OneBased)}, 1)),
+    ForSets(PageSets::Third, Coded(Id::VideoNoiseReduction, "Video NR", 0x2206, kSwitch,
+                                   {Read(Op::GetVideoNrVal), Write(Op::SetVideoNR)})),
+    Coded(Id::ThreeDYcs, "3D-YCS", 0x220A, {0, 2}, {Read(Op::Get3dycs), Write(Op::Set3DYCS)}),
+    Coded(Id::ColorSpace, "Color space", 0x2204, {0, 4},
+          {Read(Op::GetColorSpace), Write(Op::SetColorSpace)}),
+    Coded(Id::Component, "Component", 0x2017, kSwitch,
+          {Read(Op::GetComponent), Write(Op::SetComponent)}),
+    OneOf(Id::VideoFormat, "Video format", 0x2200, kVideoFormatValues,
+          {Write(Op::SetVideoFormat, ValueForm::Position)}),
+    OneOf(Id::CVideoFormat, "C-Video format", 0, kVideoFormatValues,
+          {Read(Op::GetVideoFormat, 1), Write(Op::SetCVideoFormat, ValueForm::Position)}),
+    OneOf(Id::SVideoFormat, "S-Video format", 0, kVideoFormatValues,
+          {Read(Op::GetVideoFormat, 0), Write(Op::SetSVideoFormat, ValueForm::Position)}),
+    Plain(Id::Hdmi, "HDMI", {0, 2}, {Read(Op::GetHDMI), Write(Op::SetHDMI)}),
+    Plain(Id::M1D, "M1-D", kSwitch, {Read(Op::GetM1d), Write(Op::SetM1D)}),
+    Coded(Id::FrameLock, "Frame lock", 0x3014, kSwitch,
+          {Read(Op::GetFrameLock), Write(Op::SetFrameLock)}),
+    Plain(Id::FrameLockComputer1, "Frame lock, computer 1", kSwitch,
+          {Read(Op::GetFrameLockComp1), Write(Op::SetFrameLockComp1)}),
+    Plain(Id::FrameLockComputer2, "Frame lock, computer 2", kSwitch,
+          {Read(Op::GetFrameLockComp2), Write(Op::SetFrameLockComp2)}),
+    Plain(Id::FrameLockHdmi, "Frame lock, HDMI", kSwitch,
+          {Read(Op::GetFrameLockHDMI), Write(Op::SetFrameLockHDMI)}),
+    Plain(Id::RgbIn1, "Computer in 1", {2, 3},
+          {Read(Op::GetRgbIn, 1), Write(Op::SetRgbIn1, ValueForm::TwoBased)}, 2),
+    Plain(Id::RgbIn2, "Computer in 2", {2, 3},
+          {Read(Op::GetRgbIn, 2), Write(Op::SetRgbIn2, ValueForm::TwoBased)}, 2),
+    Coded(Id::S2Aspect, "S2-aspect", 0x220B, kSwitch, {Write(Op::SetS2Aspect)}),
+    Coded(Id::Bnc, "BNC", 0x2011, kSwitch, {Write(Op::SetBNC)}),
+    Coded(Id::Hdtv, "HDTV", 0x2205, kSwitch, {Write(Op::SetHDTV)}),
+    Coded(Id::SyncOnGreen, "Sync on G", 0x3008, kSwitch, {Write(Op::SetSyncOnG)}),
+    Coded(Id::Dvi, "DVI", 0x2020, kSwitch, {Write(Op::SetDVI)}),
+    Coded(Id::Black, "Black", 0x2208, kSwitch, {Write(Op::SetBlack)}),
+    // The third page set's models number the picture-in-picture codes in their own way.
+    ForSets(PageSets::ButThird,
+            Coded(Id::PinPSize, "P in P size", 0x2300, {0, 2}, {Write(Op::SetPinPSize)})),
+    ForSets(PageSets::Third,
+            Coded(Id::PinPSize, "P in P size", 0x2303, {0, 2}, {Write(Op::SetPinPSize)})),
+    Coded(Id::PinPPosition, "P in P position", 0x2301, {0, 3}, {Write(Op::SetPinPPosition)}),
+    ForSets(PageSets::ButThird, Coded(Id::PinPInput, "P in P input", 0x2302, {1, 3},
+                                      {Write(Op::SetPinPInput, ValueForm::OneBased)}, 1)),
+    ForSets(PageSets::Third,
+            Coded(Id::PinPInput, "P in P input", 0x2300, {0, 2}, {Write(Op::SetPinPInput)})),
+    ForSets(PageSets::ButThird,
+            Coded(Id::PinPAudio, "P in P audio", 0x2303, kSwitch, {Write(Op::SetPinPAudio)})),
+    ForSets(PageSets::Third,
+            Coded(Id::PinPAudio, "P in P audio", 0x2302, kSwitch, {Write(Op::SetPinPAudio)})),
+    Coded(Id::PbyP, "P by P", 0x2310, {0, 31}, {}),
+    Coded(Id::PbyPSize, "P by P size", 0x2311, {0, 31}, {}),
+    Coded(Id::PbyPSubSource, "P by P sub source", 0x2312, {0, 31}, {}),
+    Coded(Id::PbyPMainArea, "P by P main area", 0x2313, {0, 31}, {}),
+    Coded(Id::PbyPStartArea, "P by P start area", 0x2314, {0, 31}, {}),
+    Coded(Id::PbyPMainSource, "P by P main source", 0x2315, {0, 31}, {}),
+    Coded(Id::PowerUpInput, "Power up input", 0x2018, {0, 16}, {}, 16),  // 16 is the last input
+
+    // Installation.
+    Plain(Id::AutoKeystone, "Auto keystone", kSwitch,
+          {Read(Op::GetAutoKeystone), Write(Op::SetAutoKeystone)}),
+    Coded(Id::Keystone, "Keystone", 0x2007, {0, 255},
+          {Reset(Op::ExecKeyStoneReset), Reset(Op::ExecAutoKeyStone)}, 128),
+    {.id = Id::KeystoneV,
+     .name = "Keystone V",
+     .standard = 128,
+     .rangeText = RangeIndex::KeystoneV,
+     .operations = {Read(Op::GetKeystoneV), Write(Op::SetKeystoneV), Up(Op::IncrementKeystoneV),
+                    Down(Op::DecrementKeystoneV), Reset(Op::ExecKeyStoneVReset),
+                    Reset(Op::ExecAutoKeyStone)}},
+    {.id = Id::KeystoneH,
+     .name = "Keystone H",
+     .standard = 128,
+     .rangeText = RangeIndex::KeystoneH,
+     .operations = {Read(Op::GetKeystoneH), Write(Op::SetKeystoneH), Up(Op::IncrementKeystoneH),
+                    Down(Op::DecrementKeystoneH), Reset(Op::ExecKeyStoneHReset),
+                    Reset(Op::ExecAutoKeyStone)}},
+    Coded(Id::DigitalZoom, "Digital zoom", 0x300A, {80, 100},
+          {Reset(Op::ExecDZoomReset), Reset(Op::ExecElectricZoomReset)}, 100),
+    Coded(Id::DigitalShiftV, "Digital shift V", 0x300B, {96, 160}, {Reset(Op::ExecDShiftVReset)},
+          128),
+    Coded(Id::DigitalShiftH, "Digital shift H", 0x300C, {96, 160}, {Reset(Op::ExecDShiftHReset)},
+          128),
+    ForSets(PageSets::ButThird,
+            Plain(Id::Mirror, "Mirror", {0, 3}, {Read(Op::GetMirror), Write(Op::SetMirror)})),
+    ForSets(PageSets::Third, Coded(Id::Mirror, "Mirror", 0x3004, {0, 3},
+                                   {Read(Op::GetMirror), Write(Op::SetMirror)})),
+    Coded(Id::Whisper, "Whisper", 0x3300, {0, 31}, {Read(Op::GetWhisper), Write(Op::SetWhisper)}),
+    Plain(Id::LensLock, "Lens lock", {0, 255}, {Write(Op::SetLensLock)}),
+    Plain(Id::LensType, "Lens type", {0, 255}, {Write(Op::SetLensType)}),
+    Plain(Id::ScreenType, "Screen type", {0, 255}, {Write(Op::SetScreenType)}),
+    Plain(Id::PicturePosition, "Picture position", {0, 255}, {Write(Op::SetPicturePosition)}),
+
+    // Sound.
+    {.id = Id::Volume,
+     .name = "Volume",
+     .code = 0x2001,
+     .range = {0, 48},
+     .standard = 16,
+     .perSource = true,
+     .rangeText = RangeIndex::Volume,
+     .operations = {Read(Op::GetInputSrcVolume), Write(Op::SetVolumeEachSrc),
+                    Up(Op::IncrementInputSrcVol), Down(Op::DecrementInputSrcVol)}},
+    {.id = Id::Treble,
+     .name = "Treble",
+     .range = {124, 132},
+     .standard = 128,
+     .perSource = true,
+     .rangeText = RangeIndex::Treble,
+     .operations = {Read(Op::GetInputSrcTreble), Write(Op::SetInputSrcTreble),
+                    Up(Op::IncrementInputSrcTreb), Down(Op::DecrementInputSrcTreb)}},
+    {.id = Id::Bass,
+     .name = "Bass",
+     .range = {124, 132},
+     .standard = 128,
+     .perSource = true,
+     .rangeText = RangeIndex::Bass,
+     .operations = {Read(Op::GetInputSrcBass), Write(Op::SetInputSrcBass),
+                    Up(Op::IncrementInputSrcBass), Down(Op::DecrementInputSrcBass)}},
+    {.id = Id::SrsWow,
+     .name = "SRS WOW",
+     .values = kSrsWowValues,
+     .perSource = true,
+     .operations = {Read(Op::GetSRSWOW), Write(Op::SetSRSWOW)}},
+    Plain(Id::Speaker, "Speaker", kSwitch, {Read(Op::GetSpeaker), Write(Op::SetSpeaker)}, 1),
+    Plain(Id::Stereo, "Stereo", {0, 255}, {Write(Op::SetStereo)}),
+    Plain(Id::AudioRgb1, "Audio, computer 1", {0, 4},
+          {Read(Op::GetAudioRGB1), Write(Op::SetAudioRGB1), Write(Op::SetAudioComputer1)}, 1),
+    Plain(Id::AudioRgb2, "Audio, computer 2", {0, 4},
+          {Read(Op::GetAudioRGB2), Write(Op::SetAudioRGB2), Write(Op::SetAudioComputer2)}, 1),
+    OneOf(Id::AudioM1D, "Audio, M1-D and HDMI", 0, kDigitalAudioValues,
+          {Read(Op::GetAudioM1D), Write(Op::SetAudioM1D)}),
+    Plain(Id::AudioVideo, "Audio, video", {0, 4},
+          {Read(Op::GetAudioVideo), Write(Op::SetAudioVideo)}, 3),
+    Plain(Id::AudioSVideo, "Audio, S-video", {0, 4},
+          {Read(Op::GetAudioSVideo), Write(Op::SetAudioSVideo)}, 3),
+    Plain(Id::AudioComponent, "Audio, component", {0, 4},
+          {Read(Op::GetAudioComponent), Write(Op::SetAudioComponent)}, 2),
+    OneOf(Id::AudioMiu, "Audio, MIU", 0, kMiuAudioValues,
+          {Read(Op::GetAudioMIU), Write(Op::SetAudioMIU)}),
+    Plain(Id::AudioOutStandby, "Audio out in standby", {0, 4},
+          {Read(Op::GetAudioOutStandby), Write(Op::SetAudioOutStandby)}),
+    Plain(Id::HdmiAudio, "HDMI audio", {1, 2}, {Read(Op::GetHDMIAudio), Write(Op::SetHDMIAudio)},
+          1),
+    OneOf(Id::MonitorOutComputer1, "Monitor out, computer 1", 0, kMonitorOutValues,
+          {Read(Op::GetMonitorOutComputer1), Write(Op::SetMonitorOutComputer1)}),
+    OneOf(Id::MonitorOutComputer2, "Monitor out, computer 2", 0, kMonitorOutValues,
+          {Read(Op::GetMonitorOutComputer2), Write(Op::SetMonitorOutComputer2)}),
+    OneOf(Id::MonitorOutHdmi, "Monitor out, HDMI", 0, kMonitorOutValues,
+          {Read(Op::GetMonitorOutHDMI), Write(Op::SetMonitorOutHDMI)}),
+    OneOf(Id::MonitorOutComponent, "Monitor out, component", 0, kMonitorOutValues,
+          {Read(Op::GetMonitorOutComponent), Write(Op::SetMonitorOutComponent)}),
+    OneOf(Id::MonitorOutSVideo, "Monitor out, S-video", 0, kMonitorOutValues,
+          {Read(Op::GetMonitorOutSVideo), Write(Op::SetMonitorOutSVideo)}),
+    OneOf(Id::MonitorOutVideo, "Monitor out, video", 0, kMonitorOutValues,
+          {Read(Op::GetMonitorOutVideo), Write(Op::SetMonitorOutVideo)}),
+    OneOf(Id::MonitorOutMiu, "Monitor out, MIU", 0, kMonitorOutValues,
+          {Read(Op::GetMonitorOutMIU), Write(Op::SetMonitorOutMIU)}),
+    OneOf(Id::MonitorOutStandby, "Monitor out in standby", 0, kMonitorOutValues,
+          {Read(Op::GetMonitorOutStandby), Write(Op::SetMonitorOutStandby)}),
+    Plain(Id::StandbyMode, "Standby mode", kSwitch,
+          {Read(Op::GetStandbyMode), Write(Op::SetStandbyMode)}),
+
+    // Screen and menu.
+    Coded(Id::BlankColor, "Blank color", 0x3000, {0, 255}, {Write(Op::SetBlankColor)}, 3),
+    ForSets(PageSets::ButThird, OneOf(Id::StartUp, "Start-up", 0x3004, kStartUpValues,
+                                      {Write(Op::SetStartup, ValueForm::Position)})),
+    ForSets(PageSets::Third,
+            Coded(Id::StartUp, "Start-up", 0x3001, {0, 255}, {Write(Op::SetStartup)})),
+    Coded(Id::MyScreenSize, "MyScreen size", 0x3012, {0, 3}, {Write(Op::SetMyScreenSize)}),
+    Coded(Id::MyScreenLock, "MyScreen lock", 0x30C0, kSwitch, {Write(Op::SetMyScreenLock)}),
+    Coded(Id::MenuPositionV, "Menu position V", 0x3016, {0, 255},
+          {Reset(Op::ExecMenuPositionVReset)}, 60),
+    Coded(Id::MenuPositionH, "Menu position H", 0x3015, {0, 255},
+          {Reset(Op::ExecMenuPositionHReset)}, 80),
+    Plain(Id::MenuColor, "Menu color", {0, 255}, {Write(Op::SetMenuColor)}),
+    Coded(Id::Message, "Message", 0x3017, kSwitch, {Write(Op::SetMessage)}, 1),
+    Coded(Id::OsdBrightness, "OSD brightness", 0x3018, {0, 255}, {}, 15),
+    Coded(Id::Template, "Template", 0x3022, {0, 31}, {}),
+    Plain(Id::Language, "Language", {0, 31}, {Write(Op::SetLanguage)}),
+    Plain(Id::ClosedCaptionDisplay, "C.C. display", {0, 2},
+          {Read(Op::GetCCDisplay), Write(Op::SetCCDisplay)}),
+    Plain(Id::ClosedCaptionMode, "C.C. mode", kSwitch, {Read(Op::GetCCMode), Write(Op::SetCCMode)}),
+    Plain(Id::ClosedCaptionChannel, "C.C. channel", {1, 4},
+          {Read(Op::GetCCChannel), Write(Op::SetCCChannel)}, 1),
+
+    // Options and service.
+    Coded(Id::AutoSearch, "Auto search", 0x2016, kSwitch,
+          {Read(Op::GetAutoSearch), Write(Op::SetAutoSearch)}),
+    Coded(Id::AutoPowerOn, "Auto power on", 0x3120, kSwitch,
+          {Read(Op::GetAutoOn), Write(Op::SetAutoPowerOn)}),
+    {.id = Id::AutoPowerOff,
+     .name = "Auto power off",
+     .code = 0x3110,
+     .range = {0, 99},
+     .rangeText = RangeIndex::AutoOff,
+     .operations = {Read(Op::GetAutoOff), Write(Op::SetAutoPowerOff), Up(Op::IncrementAutoPowerOff),
+                    Down(Op::DecrementAutoPowerOff)}},
+    Plain(Id::AutoAdjustEnable, "Auto adjust enable", {0, 2},
+          {Read(Op::GetAutoAdjustEnable), Write(Op::SetAutoAdjustEnable)}, 1),
+    Plain(Id::MyButton1, "My button 1", {0, 255},
+          {Read(Op::GetMyButton1), Write(Op::SetMyButton1)}),
+    Plain(Id::MyButton2, "My button 2", {0, 255},
+          {Read(Op::GetMyButton2), Write(Op::SetMyButton2)}),
+    Coded(Id::MySource, "My source", 0x3620, kWord, {}),
+    Plain(Id::OneTouch, "One touch", {0, 255}, {Write(Op::SetOneTouch)}),
+    Plain(Id::IpRemoteId, "IP remote ID", {0, 255}, {Write(Op::SetIPRemoteID)}),
+    Plain(Id::IrFront, "IR front", kSwitch, {Read(Op::GetIRRemoteFront), Write(Op::SetIRFront)}, 1),
+    Plain(Id::IrRear, "IR rear", kSwitch, {Read(Op::GetIRRemoteRear), Write(Op::SetIRRear)}, 1),
+    Plain(Id::IrTop, "IR top", kSwitch, {Read(Op::GetIRRemoteTop), Write(Op::SetIRTop)}, 1),
+    Plain(Id::IrFrequencyNormal, "IR frequency normal", kSwitch,
+          {Read(Op::GetIRREmoteFreqNormal), Write(Op::SetIRRemoteFreqNormal)}, 1),
+    Plain(Id::IrFrequencyHigh, "IR frequency high", kSwitch,
+          {Read(Op::GetIRRemoteFreqHigh), Write(Op::SetIRRemoteFreqHigh)}, 1),
+    Plain(Id::FocusLock, "Focus lock", kSwitch, {Read(Op::GetFocusLock), Write(Op::SetFocusLock)}),
+};
+
+constexpr std::uint16_t kPlainCodes[] = {
+    0x2009, 0x200B, 0x200E, 0x2013, 0x2019, 0x201A, 0x201B, 0x201C, 0x201D, 0x201E, 0x201F,
+    0x2030, 0x2031, 0x2032, 0x2033, 0x2034, 0x2035, 0x2400, 0x2401, 0x2410, 0x2570, 0x2600,
+    0x2601, 0x2602, 0x2608, 0x3001, 0x3003, 0x3004, 0x3005, 0x3006, 0x3007, 0x30BA, 0x3500,
+};
+
+}  // namespace
+
+std::span<const Setting> SettingsTable() { return kSettings; }
+
+std::span<const std::uint16_t> PlainCodes() { return kPlainCodes; }

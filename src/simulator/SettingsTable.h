@@ -1,0 +1,225 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string_view>
+
+#include "device/PjtOperation.h"
+
+/// Every setting and state that a projector has, by what it is rather than by who reads it.
+enum class SettingId {
+  Power,
+  InputSource,
+  ErrorStatus,
+  Blank,
+  Mute,
+  Freeze,
+  LampTime,
+  FilterTime,
+
+  Brightness,
+  Contrast,
+  Color,
+  Tint,
+  Sharpness,
+  ColorBalanceR,
+  ColorBalanceG,
+  ColorBalanceB,
+  Gamma,
+  CustomGamma,
+  GammaPoint1,
+  GammaPoint2,
+  GammaPoint3,
+  GammaPoint4,
+  GammaPoint5,
+  GammaPoint6,
+  GammaPoint7,
+  GammaPoint8,
+  ColorTemp,
+  ColorTempGainR,
+  ColorTempGainG,
+  ColorTempGainB,
+  ColorTempOffsetR,
+  ColorTempOffsetG,
+  ColorTempOffsetB,
+  ActiveIris,
+  TestPattern,
+
+  Aspect,
+  OverScan,
+  PositionV,
+  PositionH,
+  PhaseH,
+  SizeH,
+
+  Progressive,
+  VideoNoiseReduction,
+  ThreeDYcs,
+  ColorSpace,
+  Component,
+  VideoFormat,
+  CVideoFormat,
+  SVideoFormat,
+  Hdmi,
+  M1D,
+  FrameLock,
+  FrameLockComputer1,
+  FrameLockComputer2,
+  FrameLockHdmi,
+  RgbIn1,
+  RgbIn2,
+  S2Aspect,
+  Bnc,
+  Hdtv,
+  SyncOnGreen,
+  Dvi,
+  Black,
+  PinPSize,
+  PinPPosition,
+  PinPInput,
+  PinPAudio,
+  PbyP,
+  PbyPSize,
+  PbyPSubSource,
+  PbyPMainArea,
+  PbyPStartArea,
+  PbyPMainSource,
+  PowerUpInput,
+
+  AutoKeystone,
+  Keystone,
+  KeystoneV,
+  KeystoneH,
+  DigitalZoom,
+  DigitalShiftV,
+  DigitalShiftH,
+  Mirror,
+  Whisper,
+  LensLock,
+  LensType,
+  ScreenType,
+  PicturePosition,
+
+  Volume,
+  Treble,
+  Bass,
+  SrsWow,
+  Speaker,
+  Stereo,
+  AudioRgb1,
+  AudioRgb2,
+  AudioM1D,
+  AudioVideo,
+  AudioSVideo,
+  AudioComponent,
+  AudioMiu,
+  AudioOutStandby,
+  HdmiAudio,
+  MonitorOutComputer1,
+  MonitorOutComputer2,
+  MonitorOutHdmi,
+  MonitorOutComponent,
+  MonitorOutSVideo,
+  MonitorOutVideo,
+  MonitorOutMiu,
+  MonitorOutStandby,
+  StandbyMode,
+
+  BlankColor,
+  StartUp,
+  MyScreenSize,
+  MyScreenLock,
+  MenuPositionV,
+  MenuPositionH,
+  MenuColor,
+  Message,
+  OsdBrightness,
+  Template,
+  Language,
+  ClosedCaptionDisplay,
+  ClosedCaptionMode,
+  ClosedCaptionChannel,
+
+  AutoSearch,
+  AutoPowerOn,
+  AutoPowerOff,
+  AutoAdjustEnable,
+  MyButton1,
+  MyButton2,
+  MySource,
+  OneTouch,
+  IpRemoteId,
+  IrFront,
+  IrRear,
+  IrTop,
+  IrFrequencyNormal,
+  IrFrequencyHigh,
+  FocusLock,
+
+  Count
+};
+
+inline constexpr std::size_t kSettingCount = static_cast<std::size_t>(SettingId::Count);
+
+/// What a named operation does to a setting.
+enum class Verb { None, Read, Write, StepUp, StepDown, Reset, TurnTo };
+
+/// How a named operation's value stands to the device value, which generic commands exchange.
+enum class ValueForm {
+  Device,    ///< The same.
+  OneBased,  ///< Written as device − 1.
+  TwoBased,  ///< Written as device − 2.
+  Position,  ///< Written as the position in the setting's list of values.
+  Shown,     ///< Stepped to and returned as device − 128.
+};
+
+/// One named operation of a setting.
+struct Binding {
+  static constexpr int kAny = -1;
+
+  PjtOperation operation{};
+  Verb verb = Verb::None;
+  ValueForm form = ValueForm::Device;
+  int selector = kAny;  ///< The point, channel or input that the command must name in `first`.
+  int turnTo = 0;       ///< Value that `TurnTo` gives.
+};
+
+/// The page sets whose models know a setting in this form.
+enum class PageSets { All, Third, ButThird };
+
+struct SettingRange {
+  int minimum = 0;
+  int maximum = 0;
+
+  friend bool operator==(const SettingRange&, const SettingRange&) = default;
+};
+
+/// One row of the table: everything the simulation knows of a setting. All values are device
+/// values.
+struct Setting {
+  static constexpr std::size_t kOperations = 6;
+  static constexpr std::size_t kNoRangeText = static_cast<std::size_t>(-1);
+
+  SettingId id;
+  std::string_view name;
+  std::uint16_t code = 0;  ///< Command code of the generic operations, 0 when there is none.
+  SettingRange range{0, 255};
+  std::span<const int> values{};  ///< When not empty, the values allowed instead of the range.
+  int standard = 0;               ///< Value of a new projector.
+  std::optional<int> reset{};     ///< Value that a reset gives, when it is not the standard one.
+  bool perSource = false;         ///< Kept for each input source, and for standby as source 15.
+  bool inMemory = false;          ///< Saved and loaded with the memories.
+  bool reported = false;          ///< A state: generic commands cannot change it.
+  PageSets sets = PageSets::All;
+  std::size_t rangeText = kNoRangeText;  ///< `RangeIndex` of the model's own range.
+  std::array<Binding, kOperations> operations{};
+};
+
+/// Every setting; one with two forms has two rows, for different page sets.
+std::span<const Setting> SettingsTable();
+
+/// Command codes without a known meaning: each keeps what is written to it, 0 at first.
+std::span<const std::uint16_t> PlainCodes();

@@ -1,0 +1,89 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <map>
+#include <mutex>
+#include <optional>
+#include <set>
+#include <span>
+#include <vector>
+
+#include "device/ModelData.h"
+#include "device/ProjectorChannel.h"
+#include "simulator/SettingsTable.h"
+
+/// What sets one model's projector apart from the settings table.
+struct SimulatedModel {
+  int pageSet = 5;                                 ///< 1..5.
+  std::map<SettingId, SettingRange> ranges;        ///< Instead of the table's, in device values.
+  std::map<SettingId, std::vector<int>> values{};  ///< The device values allowed, in list order.
+  std::set<SettingId> missing{};                   ///< Commands for these are refused.
+};
+
+/// The model as a host describes it: its page set, ranges, sources, aspects, gammas and colour
+/// temperatures. A range text that does not give two ascending numbers is left out.
+SimulatedModel DescribeModel(const ModelData& data);
+
+/// A projector made of the settings table: it answers every command, keeps what it accepts and
+/// refuses what is out of range. Named and generic commands reach the same settings.
+///
+/// Safe to use from several threads at once.
+class SimulatedProjector : public ProjectorChannel {
+ public:
+  static constexpr int kCurrentSource = -1;
+  static constexpr int kStandbySource = 15;
+
+  explicit SimulatedProjector(SimulatedModel model = {});
+  ~SimulatedProjector() override;
+  SimulatedProjector(const SimulatedProjector&) = delete;
+  SimulatedProjector& operator=(const SimulatedProjector&) = delete;
+
+  PjtReply Execute(const PjtCommand& command) override;
+
+  /// The settings this projector has, in the table's order. Does not change.
+  std::span<const SettingId> Settings() const { return present_; }
+  bool Has(SettingId id) const;
+
+  // The following hold for settings that the projector has. Of any other the value is 0, the range
+  // and the list are empty, and setting it does nothing.
+
+  /// The table row of the setting in the form that this model knows; null when it has none.
+  const Setting* Describe(SettingId id) const;
+  SettingRange RangeOf(SettingId id) const;
+  /// The values allowed instead of the range; empty when the range counts.
+  std::span<const int> ValuesOf(SettingId id) const;
+
+  /// The device value; of a setting kept per source, the one of `source`.
+  int Value(SettingId id, int source = kCurrentSource) const;
+  /// Changes the setting as if at the projector itself: any value is taken.
+  void SetValue(SettingId id, int value, int source = kCurrentSource);
+
+  /// The same by command code; nothing for a code that the projector does not know.
+  std::optional<int> CodeValue(std::uint16_t code) const;
+  void SetCodeValue(std::uint16_t code, int value);
+
+ private:
+  struct Slot;
+  struct Route;
+
+  void AddSlot(const Setting& setting, SimulatedModel& model);
+  Slot* SlotOf(SettingId id);
+  const Slot* SlotOf(SettingId id) const;
+  int SourceOrCurrent(int source) const;
+  std::optional<int> ExecuteGeneric(const PjtCommand& command);
+  std::optional<int> ExecuteNamed(const PjtCommand& command);
+  std::optional<int> ExecuteRoute(const Route& route, const PjtCommand& command);
+  bool UseMemory(int position);
+
+  // Built once, then only read.
+  std::vector<SettingId> present_;
+  std::array<int, kSettingCount> slotOfSetting_{};
+  std::map<std::uint16_t, std::size_t> slotOfCode_;
+  std::array<std::vector<Route>, kOperationCount> routes_;
+
+  mutable std::mutex mutex_;
+  // Under the mutex.
+  std::vector<Slot> slots_;
+  std::array<std::vector<int>, 4> memories_;
+};

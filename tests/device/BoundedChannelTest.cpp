@@ -1,0 +1,192 @@
+#include <atomic>
+#include <condition_variable>
+#include <mutex>
+#include <thread>
+
+#include <QCoreApplication>
+#include <QTimer>
+#include <QWidget>
+#include <gtest/gtest.h>
+
+#include "device/BoundedChannel.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+using Clock = std::chrono::steady_clock;
+
+constexpr PjtCommand kCommand{PjtOperation::GetMirror};
+
+/// Answers at once, or not before it is let go.
+class Gate final : public ProjectorChannel {
+ public:
+  PjtReply Execute(const PjtCommand&) override {
+    std::unique_lock lock(mutex_);
+    ++executed;
+    changed_.wait(lock, [this] { return open_; });
+    ++returned;
+    return {.result = 1, .value = 7, .answered = answered};
+  }
+
+  void Open(bool open) {
+    const std::lock_guard lock(mutex_);
+    open_ = open;
+    changed_.notify_all();
+  }
+
+  std::atomic<int> executed = 0;
+  std::atomic<int> returned = 0;
+  std::atomic<bool> answered = true;
+
+ private:
+  std::mutex mutex_;
+  std::condition_variable changed_;
+  bool open_ = true;
+};
+
+class BoundedChannelTest : public testing::Test {
+ protected:
+  ~BoundedChannelTest() override { gate_->Open(true); }
+
+  template <typename Condition>
+  static bool Eventually(Condition condition) {
+    for (int i = 0; i < 500; ++i) {
+      if (condition()) return true;
+      std::this_thread::sleep_for(10ms);
+    }
+    return false;
+  }
+
+  std::shared_ptr<Gate> gate_ = std::make_shared<Gate>();
+  BoundedChannel channel_{gate_, {.timeOut = 150ms, .retryAfter = 300ms}};
+};
+
+TEST_F(BoundedChannelTest, PassesAnswersOn) {
+  for (int i = 0; i < 3; ++i) {
+    const PjtReply reply = channel_.Execute(kCommand);
+    EXPECT_TRUE(reply.answered);
+    EXPECT_EQ(reply.result, 1);
+    EXPECT_EQ(reply.value, 7);
+  }
+}
+
+TEST_F(BoundedChannelTest, ASilentProjectorCostsOneTimeOut) {
+  gate_->Open(false);
+  const auto start = Clock::now();
+  const PjtReply reply = channel_.Execute(kCommand);
+  const auto waited = Clock::now() - start;
+  EXPECT_FALSE(reply.answered);
+  EXPECT_EQ(reply.result, 0);
+  EXPECT_GE(waited, 150ms);
+  EXPECT_LT(waited, 1s);
+
+  const auto again = Clock::now();
+  EXPECT_FALSE(channel_.Execute(kCommand).answered);
+  // The retry interval is over, the first command is still out.
+  std::this_thread::sleep_for(350ms);
+  EXPECT_FALSE(channel_.Execute(kCommand).answered);
+  EXPECT_LT(Clock::now() - again - 350ms, 100ms) << "these fail at once";
+  EXPECT_EQ(gate_->executed, 1);
+
+  gate_->Open(true);
+  ASSERT_TRUE(Eventually([&] { return gate_->returned == 1; }));
+  EXPECT_TRUE(Eventually([&] { return channel_.Execute(kCommand).answered; }));
+  EXPECT_EQ(gate_->executed, 2) << "the late answer is nobody's";
+}
+
+TEST_F(BoundedChannelTest, ALostCommandStartsTheRetryIntervalToo) {
+  gate_->answered = false;
+  EXPECT_FALSE(channel_.Execute(kCommand).answered);
+  gate_->answered = true;
+  EXPECT_FALSE(channel_.Execute(kCommand).answered);
+  EXPECT_EQ(gate_->executed, 1);
+  std::this_thread::sleep_for(310ms);
+  EXPECT_TRUE(channel_.Execute(kCommand).answered);
+}
+
+class Painted final : public QWidget {
+ public:
+  int paints = 0;
+
+ protected:
+  void paintEvent(QPaintEvent*) override { ++paints; }
+};
+
+TEST_F(BoundedChannelTest, WindowsGoOnPaintingWhileItWaits) {
+  Painted window;
+  window.show();
+  QCoreApplication::processEvents();
+  const int before = window.paints;
+
+  gate_->Open(false);
+  int ticks = 0;
+  QTimer timer;
+  QObject::connect(&timer, &QTimer::timeout, [&] {
+    window.update();
+    if (++ticks == 5) gate_->Open(true);
+  });
+  timer.start(10);
+  const auto start = Clock::now();
+  EXPECT_TRUE(channel_.Execute(kCommand).answered);
+  EXPECT_LT(Clock::now() - start, 145ms) << "an answer ends the wait";
+  EXPECT_GE(ticks, 5);
+  EXPECT_GT(window.paints, before + 1);
+}
+
+TEST_F(BoundedChannelTest, ACommandFromInsideTheWaitIsRefused) {
+  gate_->Open(false);
+  PjtReply inside{.result = 1};
+  QTimer::singleShot(20, [&] {
+    inside = channel_.Execute(kCommand);
+    gate_->Open(true);
+  });
+  EXPECT_TRUE(channel_.Execute(kCommand).answered);
+  EXPECT_EQ(inside.result, 0);
+  EXPECT_FALSE(inside.answered);
+  EXPECT_EQ(gate_->executed, 1);
+}
+
+TEST_F(BoundedChannelTest, WaitsOnThreadsWithoutEventLoopToo) {
+  gate_->Open(false);
+  std::thread([&] { EXPECT_FALSE(channel_.Execute(kCommand).answered); }).join();
+}
+
+TEST_F(BoundedChannelTest, QuittingTheApplicationDoesNotCutTheWaitShort) {
+  gate_->Open(false);
+  PjtReply reply{.answered = false};
+  QTimer::singleShot(0, [&] { reply = channel_.Execute(kCommand); });
+  QTimer::singleShot(20, [] { QCoreApplication::quit(); });
+  std::thread opener([&] {
+    std::this_thread::sleep_for(70ms);
+    gate_->Open(true);
+  });
+  QCoreApplication::exec();
+  opener.join();
+  EXPECT_TRUE(reply.answered);
+}
+
+TEST_F(BoundedChannelTest, DestructionWaitsForNobody) {
+  gate_->Open(false);
+  auto channel = std::make_unique<BoundedChannel>(gate_, BoundedChannel::Limits{.timeOut = 20ms});
+  EXPECT_FALSE(channel->Execute(kCommand).answered);
+  const auto start = Clock::now();
+  channel.reset();
+  EXPECT_LT(Clock::now() - start, 500ms);
+  gate_->Open(true);
+  EXPECT_TRUE(Eventually([&] { return gate_->returned == 1 && gate_.use_count() == 2; }))
+      << "the worker lets the inner channel go";
+}
+
+TEST_F(BoundedChannelTest, DestructionFromInsideTheWaitIsSafe) {
+  gate_->Open(false);
+  auto channel = std::make_unique<BoundedChannel>(gate_, BoundedChannel::Limits{.timeOut = 500ms});
+  QTimer::singleShot(10, [&] {
+    channel.reset();
+    gate_->Open(true);
+  });
+  BoundedChannel* const inUse = channel.get();
+  EXPECT_TRUE(inUse->Execute(kCommand).answered);
+  EXPECT_EQ(channel, nullptr);
+}
+
+}  // namespace

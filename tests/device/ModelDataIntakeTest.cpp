@@ -1,0 +1,126 @@
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "device/ModelDataIntake.h"
+
+namespace {
+
+/// A record whose every field tells where it stands.
+CModelInfo2 NumberedRecord() {
+  CModelInfo2 info;
+  info.ModelName = "record";
+  info.DialogType = 5;
+  info.ModelCode = 42;
+  int mark = 100;
+  for (CountedList* list : {&info.WhisperList, &info.AspectList, &info.GammaList,
+                            &info.ColorTempList, &info.MyButtonList}) {
+    list->count = mark;
+    list->values.back() = mark + 1;
+    list->names.back() = MakeNameSlot(std::to_string(mark));
+    mark += 10;
+  }
+  info.MySourceList.count = 16;
+  info.MySourceList.secondValues.back() = 7;
+  info.ModelWord = 1;
+  info.ModelWords = {2, 3};
+  for (std::size_t slot = 0; slot < CModelInfo2::kRangeSlots; ++slot) {
+    info.RangeSlots[slot] = std::to_string(956 + 4 * slot);
+  }
+  for (std::size_t i = 0; i < CModelInfo2::kConnections; ++i) {
+    const int number = static_cast<int>(i);
+    info.ConnectionKinds[i] = number;
+    info.ConnectionNumbers[i] = 10 + number;
+    info.ConnectionParameters[i] = 20 + number;
+    info.ConnectionTexts1[i] = MakeNameSlot("first " + std::to_string(i));
+    info.ConnectionTexts2[i].fill('z');
+  }
+  return info;
+}
+
+TEST(ModelDataIntakeTest, EveryMemberIsCopied) {
+  const CModelInfo2 info = NumberedRecord();
+  const ModelData data = MakeModelData(info);
+  EXPECT_EQ(data.ModelName, "record");
+  EXPECT_EQ(data.DialogType, 5);
+  EXPECT_EQ(data.ModelCode, 42);
+  EXPECT_EQ(data.ModelWord, 1);
+  EXPECT_EQ(data.ModelWords, info.ModelWords);
+  EXPECT_EQ(data.MySourceList.secondValues.back(), 7);
+  int mark = 100;
+  for (const CountedList* list : {&data.WhisperList, &data.AspectList, &data.GammaList,
+                                  &data.ColorTempList, &data.MyButtonList}) {
+    EXPECT_EQ(list->count, mark);
+    EXPECT_EQ(list->values.back(), mark + 1) << "whole arrays are copied, whatever the count";
+    EXPECT_EQ(NameText(list->names.back()), std::to_string(mark));
+    EXPECT_EQ(list->Size(), 32);
+    mark += 10;
+  }
+}
+
+TEST(ModelDataIntakeTest, RangeTextsComeFromTheirPlacesInTheRecord) {
+  const ModelData data = MakeModelData(NumberedRecord());
+  const auto text = [&](std::size_t index) { return data.RangeTexts[index]; };
+  EXPECT_EQ(text(RangeIndex::AutoOff), "1080");
+  EXPECT_EQ(text(RangeIndex::ColorTempAdjust), "1008");
+  EXPECT_EQ(text(RangeIndex::ColorTempAdjust + 5), "1028");
+  EXPECT_EQ(text(RangeIndex::GammaPoint), "976");
+  EXPECT_EQ(text(RangeIndex::GammaPoint + 7), "1004");
+  EXPECT_EQ(text(RangeIndex::Brightness), "956");
+  EXPECT_EQ(text(RangeIndex::Contrast), "960");
+  EXPECT_EQ(text(RangeIndex::Color), "964");
+  EXPECT_EQ(text(RangeIndex::Tint), "968");
+  EXPECT_EQ(text(RangeIndex::Sharpness), "972");
+  EXPECT_EQ(text(RangeIndex::KeystoneV), "1040");
+  EXPECT_EQ(text(RangeIndex::KeystoneH), "1044");
+  EXPECT_EQ(text(RangeIndex::Volume), "1048");
+  EXPECT_EQ(text(RangeIndex::Treble), "1064");
+  EXPECT_EQ(text(RangeIndex::Bass), "1068");
+}
+
+TEST(ModelDataIntakeTest, AConnectionIsChosenByItsIndex) {
+  const CModelInfo2 info = NumberedRecord();
+  for (const int index : {0, 4}) {
+    EXPECT_EQ(MakeConnectionData(info, index),
+              (ConnectionData{index, 10 + index, 20 + index, "first " + std::to_string(index),
+                              std::string(64, 'z')}));
+  }
+  EXPECT_EQ(MakeConnectionData(info, -1), ConnectionData());
+  EXPECT_EQ(MakeConnectionData(info, 5), ConnectionData());
+}
+
+TEST(ModelDataIntakeTest, AnItemBringsItsOwnNameAndConnection) {
+  const CModelInfo2 info = NumberedRecord();
+  CProjectorItem item{.Name = "item",
+                      .ConnectionKind = 1,
+                      .ConnectionNumber = 2,
+                      .ConnectionParameter = 23,
+                      .Address = 0xC0000207,
+                      .ConnectionText2 = MakeNameSlot("second"),
+                      .Model = &info};
+  EXPECT_EQ(MakeModelData(item).ModelName, "item");
+  EXPECT_EQ(MakeModelData(item).ModelCode, 42);
+  EXPECT_EQ(MakeConnectionData(item), (ConnectionData{1, 2, 23, "192.0.2.7", "second"}));
+
+  item.Model = nullptr;
+  EXPECT_EQ(MakeModelData(item).ModelName, "item");
+  EXPECT_EQ(MakeModelData(item).DialogType, 0);
+  EXPECT_EQ(DottedAddress(0xFFFFFFFF), "255.255.255.255");
+}
+
+TEST(NameSlotTest, ATextIsCutBetweenCharacters) {
+  EXPECT_EQ(NameText(MakeNameSlot(std::string(64, 'a'))), std::string(64, 'a'));
+  const std::string twoBytes = std::string(63, 'a') + "\u00e9";
+  EXPECT_EQ(NameText(MakeNameSlot(twoBytes)), std::string(63, 'a'));
+  EXPECT_EQ(NameText(MakeNameSlot(twoBytes.substr(1))), twoBytes.substr(1));
+}
+
+TEST(CountedListTest, OnlyMeaningfulEntriesAreFound) {
+  CountedList list{.count = 2, .values = {4, 7, 9}, .names = {}};
+  EXPECT_EQ(list.IndexOf(7), 1);
+  EXPECT_EQ(list.IndexOf(9), -1);
+  list.count = -3;
+  EXPECT_EQ(list.IndexOf(4), -1);
+}
+
+}  // namespace

@@ -1,0 +1,146 @@
+#include "i18n/Catalog.h"
+
+#include <algorithm>
+#include <cstring>
+#include <dlfcn.h>
+#include <exception>
+#include <filesystem>
+#include <optional>
+#include <string_view>
+#include <system_error>
+#include <unistd.h>
+#include <utility>
+#include <vector>
+
+#include "i18n/MessageCatalog.h"
+#include "i18n/SystemLanguage.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kEnglishMarker = "GETENG";
+constexpr const char* kChineseMarker = "GETSCH";
+constexpr std::string_view kNoCatalog = "No Message Catalog";
+
+// Constructed by its first user, hence also before main and from other static objects.
+std::optional<MessageCatalog>& LoadedCatalog() {
+  static std::optional<MessageCatalog> catalog;
+  return catalog;
+}
+
+// Whether the current directory holds something of this name.
+bool MarkerExists(const char* name) { return access(name, F_OK) == 0; }
+
+std::vector<std::string> CatalogFolders() {
+  Dl_info library{};
+  fs::path libraryFolder;
+  if (dladdr(reinterpret_cast<const void*>(&IsCatalogLoaded), &library) != 0 && library.dli_fname) {
+    libraryFolder = fs::path(library.dli_fname).parent_path();
+  }
+  std::error_code error;
+  const fs::path program = fs::read_symlink("/proc/self/exe", error);
+
+  std::vector<std::string> folders;
+  if (!libraryFolder.empty()) folders.push_back(libraryFolder.string());
+  if (!program.empty()) folders.push_back(program.parent_path().string());
+  if (!libraryFolder.empty()) {
+    folders.push_back((libraryFolder / "../share/advanced-control").string());
+  }
+#ifdef ADVANCEDCONTROL_DATADIR
+  folders.emplace_back(ADVANCEDCONTROL_DATADIR);
+#endif
+  folders.emplace_back();
+  return folders;
+}
+
+// The text of a message, expanded into `storage` where it has % sequences.
+std::optional<std::string_view> TextOf(const CatalogMessage& message,
+                                       std::span<const CatalogInsert> inserts,
+                                       std::string& storage) {
+  if (message.plain) return message.text;
+  auto expanded = ExpandMessage(message.text, inserts);
+  if (!expanded) return {};
+  storage = std::move(*expanded);
+  return storage;
+}
+
+std::optional<std::string_view> FindText(int category, int number,
+                                         std::span<const CatalogInsert> inserts,
+                                         std::string& storage) {
+  const auto& catalog = LoadedCatalog();
+  if (!catalog || number < 0 || number > 0xFFFF || category < -256 || category > 0xFEFF) return {};
+  const std::uint32_t id = MessageId(category, number);
+  const auto english = catalog->Find(kEnglishUnitedStates, id);
+  // Nothing can change what this call finds. That is so for nearly every text, and asking for the
+  // language and the markers takes longer than all the rest.
+  if (english && english->sameEverywhere) return TextOf(*english, inserts, storage);
+  const std::uint32_t language = SystemLanguageId();
+  if (language != kEnglishUnitedStates) {
+    const auto own = catalog->Find(language, id);
+    // With either marker the text of 1033 is the result.
+    if (own && !MarkerExists(kChineseMarker) && !MarkerExists(kEnglishMarker)) {
+      if (const auto text = TextOf(*own, inserts, storage)) return text;
+    }
+  }
+  return english ? TextOf(*english, inserts, storage) : std::nullopt;
+}
+
+bool ContinuesCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; }
+
+std::string_view WithoutLastCharacter(std::string_view text) {
+  while (!text.empty() && ContinuesCharacter(text.back())) text.remove_suffix(1);
+  if (!text.empty()) text.remove_suffix(1);
+  return text;
+}
+
+void CopyText(std::string_view text, int bufferSize, char* buffer) {
+  const auto room = static_cast<std::size_t>(bufferSize) - 1;
+  std::size_t length = std::min(text.size(), room);
+  if (length < text.size()) {
+    while (length > 0 && ContinuesCharacter(text[length])) --length;
+  }
+  std::memcpy(buffer, text.data(), length);
+  buffer[length] = '\0';
+}
+
+}  // namespace
+
+int LoadCatalog() {
+  try {
+    return LoadCatalog(CatalogFolders());
+  } catch (const std::exception&) {
+    ReleaseCatalog();
+    return -1;
+  }
+}
+
+int LoadCatalog(std::span<const std::string> folders) {
+  ReleaseCatalog();
+  const bool chinese = SystemLanguageId() == kChineseSimplified || MarkerExists(kChineseMarker);
+  const char* module = chinese ? "mcschn.dll" : "mcdll.dll";
+  for (const std::string& folder : folders) {
+    const fs::path path = fs::path(folder) / module;
+    std::error_code error;
+    if (!fs::is_regular_file(path, error)) continue;
+    LoadedCatalog() = MessageCatalog::Load(path.string());
+    break;
+  }
+  return IsCatalogLoaded() ? 0 : -1;
+}
+
+void ReleaseCatalog() { LoadedCatalog().reset(); }
+
+bool IsCatalogLoaded() { return LoadedCatalog().has_value(); }
+
+void GetCatalogTextV(int category, int number, int bufferSize, char* buffer,
+                     std::span<const CatalogInsert> inserts) {
+  if (bufferSize <= 0 || !buffer) return;
+  std::string storage;
+  if (const auto text = FindText(category, number, inserts, storage)) {
+    // The line break that ends every entry.
+    CopyText(WithoutLastCharacter(WithoutLastCharacter(*text)), bufferSize, buffer);
+  } else {
+    CopyText(kNoCatalog, bufferSize, buffer);
+  }
+}

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string>
+
+#include "i18n/MessageFormat.h"
+
+// The process-wide message catalog. Called from the user-interface thread, and at load and unload
+// of the library.
+
+/// The identifier of a message: the category above the number. Both must fit in 16 bits, the
+/// category after 256 is added.
+constexpr std::uint32_t MessageId(int category, int number) {
+  return (static_cast<std::uint32_t>(category) + 256U) << 16 | static_cast<std::uint32_t>(number);
+}
+
+/// Loads the catalog module of the system language in place of any loaded before: "mcschn.dll" for
+/// Simplified Chinese or where a file "GETSCH" is in the current directory, else "mcdll.dll".
+///
+/// The module is the first file of that name beside the library, beside the application, in
+/// "../share/advanced-control" from the library, in the installed data folder, or in the current
+/// directory; if that one is damaged, no other is tried. Returns 0, or -1 and no catalog is loaded.
+int LoadCatalog();
+
+/// The same with `folders` to look in, in their order; an empty name is the current directory.
+int LoadCatalog(std::span<const std::string> folders);
+
+void ReleaseCatalog();
+bool IsCatalogLoaded();
+
+/// `GetCatalogText` with the inserts in an array.
+void GetCatalogTextV(int category, int number, int bufferSize, char* buffer,
+                     std::span<const CatalogInsert> inserts);
+
+/// Writes a catalog text, UTF-8, without its closing line break, to `buffer`.
+///
+/// `bufferSize` is the buffer's size in bytes with the closing zero, which is always written; a
+/// longer text is cut before the character that does not fit. With a size of 0 or less, or a null
+/// buffer, nothing happens. `inserts` (texts and integers) fill the message's %1, %2 ...
+///
+/// The text is that of the system language, else the one of language 1033; with a file "GETENG" or
+/// "GETSCH" in the current directory only the latter. The files and the environment are looked at
+/// anew in each call. Where no text is found or can be formatted the text is "No Message Catalog".
+template <class... Inserts>
+void GetCatalogText(int category, int number, int bufferSize, char* buffer,
+                    const Inserts&... inserts) {
+  const std::array<CatalogInsert, sizeof...(Inserts)> list{CatalogInsert(inserts)...};
+  GetCatalogTextV(category, number, bufferSize, buffer, list);
+}
+
+/// The text that `GetCatalogText` writes to a buffer of `bufferSize` bytes.
+template <int bufferSize = 1024, class... Inserts>
+std::string CatalogText(int category, int number, const Inserts&... inserts) {
+  std::array<char, static_cast<std::size_t>(bufferSize)> buffer;
+  GetCatalogText(category, number, bufferSize, buffer.data(), inserts...);
+  return buffer.data();
+}

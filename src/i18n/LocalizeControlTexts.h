@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+#include "i18n/Catalog.h"
+
+class QWidget;
+
+/// Replaces the caption of `dialog` and of each of its direct children, where it has the form
+/// number, ";", default text, by the catalog text of that number in `category`. Other captions and
+/// nested children are left alone. Without a catalog nothing changes.
+void LocalizeControlTexts(int category, QWidget& dialog);
+
+/// A catalog text for the user interface; see `CatalogText`.
+template <class... Inserts>
+QString CatalogString(int category, int number, const Inserts&... inserts) {
+  return QString::fromStdString(CatalogText(category, number, inserts...));
+}

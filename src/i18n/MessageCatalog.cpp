@@ -1,0 +1,20 @@
+#include "i18n/MessageCatalog.h"
+
+#include <exception>
+
+std::optional<MessageCatalog> MessageCatalog::Load(const std::string& path) {
+  try {
+    auto messages = MessageTable::Read(path);
+    if (messages) return MessageCatalog(std::move(*messages));
+  } catch (const std::exception&) {
+    // Out of memory: as good as no module.
+  }
+  return {};
+}
+
+std::optional<std::string> MessageCatalog::Format(std::uint32_t languageId, std::uint32_t messageId,
+                                                  std::span<const CatalogInsert> inserts) const {
+  const auto message = Find(languageId, messageId);
+  if (!message) return {};
+  return ExpandMessage(message->text, inserts);
+}

@@ -1,0 +1,432 @@
+#include "i18n/MessageTable.h"
+
+#include <algorithm>
+#include <array>
+#include <fcntl.h>
+#include <memory>
+#include <numeric>
+#include <sys/mman.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+#include <unicode/ucnv.h>
+#include <unicode/ustring.h>
+
+namespace {
+
+using Bytes = std::span<const std::byte>;
+
+constexpr std::size_t kMaxFileBytes = std::size_t{32} << 20;
+constexpr std::size_t kMaxMessages = std::size_t{1} << 20;
+// An honest module has nothing that is read twice, except that two languages may share a table.
+constexpr std::uint64_t kMaxReadsOfAByte = 2;
+constexpr std::size_t kMaxSections = 96;
+constexpr std::uint32_t kMessageTableType = 11;
+
+// A file mapped for reading; empty if it is not a plain file of acceptable size.
+class MappedFile {
+ public:
+  explicit MappedFile(const std::string& path) {
+    // Opening must not wait for the other end of a pipe that bears the module's name.
+    const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (file < 0) return;
+    struct stat status {};
+    if (fstat(file, &status) == 0 && S_ISREG(status.st_mode) && status.st_size > 0 &&
+        std::cmp_less_equal(status.st_size, kMaxFileBytes)) {
+      const auto size = static_cast<std::size_t>(status.st_size);
+      void* start = mmap(nullptr, size, PROT_READ, MAP_PRIVATE, file, 0);
+      if (start != MAP_FAILED) bytes_ = {static_cast<const std::byte*>(start), size};
+    }
+    close(file);
+  }
+  ~MappedFile() {
+    if (!bytes_.empty()) munmap(const_cast<std::byte*>(bytes_.data()), bytes_.size());
+  }
+  MappedFile(const MappedFile&) = delete;
+  MappedFile& operator=(const MappedFile&) = delete;
+
+  Bytes Content() const { return bytes_; }
+
+ private:
+  Bytes bytes_;
+};
+
+std::optional<Bytes> Slice(Bytes bytes, std::uint64_t offset, std::uint64_t length) {
+  if (offset > bytes.size() || length > bytes.size() - offset) return {};
+  return bytes.subspan(static_cast<std::size_t>(offset), static_cast<std::size_t>(length));
+}
+
+// Little-endian fields of a slice already known to hold them.
+std::uint16_t U16(Bytes bytes, std::size_t offset) {
+  return static_cast<std::uint16_t>(std::to_integer<unsigned>(bytes[offset]) |
+                                    std::to_integer<unsigned>(bytes[offset + 1]) << 8);
+}
+
+std::uint32_t U32(Bytes bytes, std::size_t offset) {
+  return U16(bytes, offset) | static_cast<std::uint32_t>(U16(bytes, offset + 2)) << 16;
+}
+
+// The sections of a module and its resource directory.
+class ModuleImage {
+ public:
+  static std::optional<ModuleImage> Open(Bytes file) {
+    const auto dosHeader = Slice(file, 0, 64);
+    if (!dosHeader || U16(*dosHeader, 0) != 0x5A4D) return {};
+    const std::uint64_t headerAt = U32(*dosHeader, 0x3C);
+    const auto header = Slice(file, headerAt, 24);
+    if (!header || U32(*header, 0) != 0x00004550) return {};
+
+    const std::size_t optionalSize = U16(*header, 20);
+    const auto optional = Slice(file, headerAt + 24, optionalSize);
+    if (!optional || optionalSize < 2) return {};
+    const std::uint16_t magic = U16(*optional, 0);
+    if (magic != 0x010B && magic != 0x020B) return {};
+    const std::size_t directoriesAt = magic == 0x020B ? 112 : 96;
+    constexpr std::size_t kResourceDirectory = 2;
+    if (optionalSize < directoriesAt + 8 * (kResourceDirectory + 1)) return {};
+    if (U32(*optional, directoriesAt - 4) <= kResourceDirectory) return {};
+
+    ModuleImage image;
+    const std::size_t sections = U16(*header, 6);
+    const auto table = Slice(file, headerAt + 24 + optionalSize, 40 * sections);
+    if (!table || sections > kMaxSections) return {};
+    for (std::size_t i = 0; i < sections; ++i) {
+      const Bytes entry = table->subspan(40 * i, 40);
+      const std::uint32_t size = U32(entry, 16);
+      const auto content = Slice(file, size == 0 ? 0 : U32(entry, 20), size);
+      if (!content) return {};
+      image.sections_.push_back({U32(entry, 12), *content});
+    }
+
+    const auto resources = image.From(U32(*optional, directoriesAt + 8 * kResourceDirectory));
+    if (!resources) return {};
+    image.resources_ = *resources;
+    return image;
+  }
+
+  // What is at a relative virtual address, up to the end of its section.
+  std::optional<Bytes> From(std::uint32_t address) const {
+    for (const Section& section : sections_) {
+      if (address >= section.address && address - section.address < section.content.size()) {
+        return section.content.subspan(address - section.address);
+      }
+    }
+    return {};
+  }
+
+  Bytes Resources() const { return resources_; }
+
+ private:
+  struct Section {
+    std::uint32_t address;
+    Bytes content;
+  };
+  std::vector<Section> sections_;
+  Bytes resources_;
+};
+
+// The converters of the ANSI code pages that the platform assigns to languages: whole identifiers,
+// or primary languages (below 0x400). The first line that names a language counts.
+struct AnsiCodePage {
+  const char* converter;
+  std::array<std::uint16_t, 10> languages;
+};
+
+constexpr AnsiCodePage kAnsiCodePages[] = {
+    {"windows-950", {0x0404, 0x0C04, 0x1404}},
+    {"windows-936", {0x04}},
+    {"windows-932", {0x11}},
+    {"windows-949", {0x12}},
+    {"windows-874", {0x1E}},
+    // Serbian and Bosnian in Cyrillic letters, Azeri and Uzbek likewise.
+    {"windows-1251", {0x0C1A, 0x1C1A, 0x201A, 0x281A, 0x301A, 0x082C, 0x0843}},
+    {"windows-1250", {0x05, 0x0E, 0x15, 0x18, 0x1A, 0x1B, 0x1C, 0x24}},
+    {"windows-1251", {0x02, 0x19, 0x22, 0x23, 0x2F, 0x3F, 0x40, 0x44}},
+    {"windows-1253", {0x08}},
+    {"windows-1254", {0x1F, 0x2C, 0x43}},
+    {"windows-1255", {0x0D}},
+    {"windows-1256", {0x01, 0x20, 0x29}},
+    {"windows-1257", {0x25, 0x26, 0x27}},
+    {"windows-1258", {0x2A}},
+};
+
+const char* AnsiConverter(std::uint32_t languageId) {
+  for (const AnsiCodePage& codePage : kAnsiCodePages) {
+    for (const std::uint32_t language : codePage.languages) {
+      if (language != 0 && (language == languageId || language == (languageId & 0x3FF))) {
+        return codePage.converter;
+      }
+    }
+  }
+  return "windows-1252";
+}
+
+// Decodes the texts of entries; keeps the converter of the last language.
+class TextDecoder {
+ public:
+  // Appends the text up to its first zero character, as UTF-8; what is no character becomes
+  // U+FFFD.
+  bool AppendUnicode(Bytes bytes, std::vector<char>& texts) {
+    utf16_.clear();
+    for (std::size_t i = 0; i + 1 < bytes.size() && U16(bytes, i) != 0; i += 2) {
+      utf16_.push_back(static_cast<char16_t>(U16(bytes, i)));
+    }
+    return AppendUtf16(utf16_.size(), texts);
+  }
+
+  bool AppendAnsi(std::uint32_t languageId, Bytes bytes, std::vector<char>& texts) {
+    UErrorCode error = U_ZERO_ERROR;
+    const char* codePage = AnsiConverter(languageId);
+    if (codePage != codePage_) {
+      converter_.reset(ucnv_open(codePage, &error));
+      codePage_ = converter_ ? codePage : nullptr;
+    }
+    if (!converter_) return false;
+    const auto end = std::find(bytes.begin(), bytes.end(), std::byte{0});
+    const auto length = static_cast<std::int32_t>(end - bytes.begin());
+    utf16_.resize(4 * static_cast<std::size_t>(length) + 8);
+    const std::int32_t units =
+        ucnv_toUChars(converter_.get(), utf16_.data(), static_cast<std::int32_t>(utf16_.size()),
+                      reinterpret_cast<const char*>(bytes.data()), length, &error);
+    return U_SUCCESS(error) && AppendUtf16(static_cast<std::size_t>(units), texts);
+  }
+
+ private:
+  bool AppendUtf16(std::size_t units, std::vector<char>& texts) {
+    const std::size_t start = texts.size();
+    texts.resize(start + 3 * units);
+    std::int32_t length = 0;
+    UErrorCode error = U_ZERO_ERROR;
+    u_strToUTF8WithSub(texts.data() + start, static_cast<std::int32_t>(3 * units), &length,
+                       utf16_.data(), static_cast<std::int32_t>(units), 0xFFFD, nullptr, &error);
+    if (U_FAILURE(error)) return false;
+    texts.resize(start + static_cast<std::size_t>(length));
+    return true;
+  }
+
+  struct CloseConverter {
+    void operator()(UConverter* converter) const { ucnv_close(converter); }
+  };
+  std::u16string utf16_;
+  std::unique_ptr<UConverter, CloseConverter> converter_;
+  const char* codePage_ = nullptr;
+};
+
+bool IsPlain(std::string_view text) {
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == '%' || text[i] == '\n') return false;
+    if (text[i] == '\r') {
+      if (i + 1 == text.size() || text[i + 1] != '\n') return false;
+      ++i;
+    }
+  }
+  return true;
+}
+
+struct Entry {
+  std::uint64_t key;
+  std::uint32_t resource;  // which of the module's message tables; lower comes first
+  std::uint32_t offset;
+  std::uint32_t length;
+};
+
+// Collects all messages of a module. Every member answers false for a damaged module.
+class TableReader {
+ public:
+  TableReader(Bytes file, const ModuleImage& image)
+      : image_(image), budget_(kMaxReadsOfAByte * file.size()) {}
+
+  bool ReadTypes() {
+    const auto types = Directory(0);
+    if (!types) return false;
+    for (const DirectoryEntry& type : *types) {
+      if (type.name == kMessageTableType && !(type.isDirectory && ReadResources(type.target))) {
+        return false;
+      }
+    }
+    return SortEntries();
+  }
+
+  std::vector<Entry> entries;
+  std::vector<char> texts;
+
+ private:
+  struct DirectoryEntry {
+    std::uint32_t name;  // a number, or with the highest bit set the place of a string
+    bool isDirectory;
+    std::uint32_t target;
+
+    bool HasNumber() const { return (name & 0x80000000) == 0; }
+  };
+
+  // Whether `bytes` more may be read. What overlaps over and over exhausts the budget.
+  bool Spend(std::uint64_t bytes) {
+    if (bytes > budget_) return false;
+    budget_ -= bytes;
+    return true;
+  }
+
+  // The entries of a resource directory, numbered ones first.
+  std::optional<std::vector<DirectoryEntry>> Directory(std::uint32_t offset) {
+    const auto header = Slice(image_.Resources(), offset, 16);
+    if (!header) return {};
+    const std::size_t named = U16(*header, 12);
+    const std::size_t count = named + U16(*header, 14);
+    const auto table = Slice(image_.Resources(), std::uint64_t{offset} + 16, 8 * count);
+    if (!table || !Spend(16 + 8 * count)) return {};
+    std::vector<DirectoryEntry> result;
+    result.reserve(count);
+    for (std::size_t i = 0; i < count; ++i) {
+      const std::uint32_t target = U32(*table, 8 * i + 4);
+      const DirectoryEntry entry{.name = U32(*table, 8 * i),
+                                 .isDirectory = (target & 0x80000000) != 0,
+                                 .target = target & 0x7FFFFFFF};
+      if (entry.HasNumber() == (i < named)) return {};
+      result.push_back(entry);
+    }
+    std::rotate(result.begin(), result.begin() + static_cast<std::ptrdiff_t>(named), result.end());
+    return result;
+  }
+
+  bool ReadResources(std::uint32_t offset) {
+    const auto resources = Directory(offset);
+    if (!resources) return false;
+    for (const DirectoryEntry& resource : *resources) {
+      const auto languages =
+          resource.isDirectory ? Directory(resource.target) : decltype(resources){};
+      if (!languages) return false;
+      for (const DirectoryEntry& language : *languages) {
+        if (language.isDirectory || !language.HasNumber() || !ReadLeaf(language)) return false;
+      }
+      ++resource_;
+    }
+    return true;
+  }
+
+  bool ReadLeaf(const DirectoryEntry& language) {
+    const auto leaf = Slice(image_.Resources(), language.target, 16);
+    if (!leaf) return false;
+    const auto data = image_.From(U32(*leaf, 0));
+    const auto table = data ? Slice(*data, 0, U32(*leaf, 4)) : std::nullopt;
+    return table && ReadTable(language.name, *table);
+  }
+
+  bool ReadTable(std::uint32_t languageId, Bytes table) {
+    const auto header = Slice(table, 0, 4);
+    if (!header) return false;
+    const std::uint64_t blockCount = U32(*header, 0);
+    const auto blocks = Slice(table, 4, 12 * blockCount);
+    if (!blocks || !Spend(blocks->size())) return false;
+    for (std::size_t at = 0; at < blocks->size(); at += 12) {
+      const std::uint32_t low = U32(*blocks, at);
+      const std::uint32_t high = U32(*blocks, at + 4);
+      std::uint64_t offset = U32(*blocks, at + 8);
+      if (low > high) return false;
+      for (std::uint64_t id = low; id <= high; ++id) {
+        const auto head = Slice(table, offset, 4);
+        const std::size_t length = head ? U16(*head, 0) : 0;
+        const auto entry = Slice(table, offset, length);
+        if (length < 4 || !entry || !Spend(length)) return false;
+        const auto messageId = static_cast<std::uint32_t>(id);
+        if (!AddMessage(languageId, messageId, U16(*head, 2), entry->subspan(4))) return false;
+        offset += length;
+      }
+    }
+    return true;
+  }
+
+  bool AddMessage(std::uint32_t languageId, std::uint32_t id, std::uint16_t flags, Bytes text) {
+    if (entries.size() == kMaxMessages) return false;
+    const std::size_t start = texts.size();
+    const bool decoded = flags == 1   ? decoder_.AppendUnicode(text, texts)
+                         : flags == 0 ? decoder_.AppendAnsi(languageId, text, texts)
+                                      : false;
+    if (!decoded) return false;
+    entries.push_back({.key = std::uint64_t{languageId} << 32 | id,
+                       .resource = resource_,
+                       .offset = static_cast<std::uint32_t>(start),
+                       .length = static_cast<std::uint32_t>(texts.size() - start)});
+    return true;
+  }
+
+  // Sorts by key and keeps the first resource's message. One resource with two texts for the same
+  // message contradicts itself.
+  bool SortEntries() {
+    std::ranges::sort(entries, {},
+                      [](const Entry& entry) { return std::pair(entry.key, entry.resource); });
+    for (std::size_t i = 1; i < entries.size(); ++i) {
+      if (entries[i].key == entries[i - 1].key && entries[i].resource == entries[i - 1].resource) {
+        return false;
+      }
+    }
+    const auto sameKey = [](const Entry& a, const Entry& b) { return a.key == b.key; };
+    entries.erase(std::unique(entries.begin(), entries.end(), sameKey), entries.end());
+    return !entries.empty();
+  }
+
+  const ModuleImage& image_;
+  std::uint64_t budget_;
+  std::uint32_t resource_ = 0;
+  TextDecoder decoder_;
+};
+
+}  // namespace
+
+std::optional<MessageTable> MessageTable::Read(const std::string& path) {
+  const MappedFile file(path);
+  return Parse(file.Content());
+}
+
+std::optional<MessageTable> MessageTable::Parse(std::span<const std::byte> module) {
+  if (module.size() > kMaxFileBytes) return {};
+  const auto image = ModuleImage::Open(module);
+  if (!image) return {};
+  TableReader reader(module, *image);
+  if (!reader.ReadTypes()) return {};
+
+  MessageTable table;
+  table.texts_ = std::move(reader.texts);
+  table.texts_.shrink_to_fit();
+  table.keys_.reserve(reader.entries.size());
+  table.places_.reserve(reader.entries.size());
+  for (const Entry& entry : reader.entries) {
+    const std::string_view text(table.texts_.data() + entry.offset, entry.length);
+    table.keys_.push_back(entry.key);
+    table.places_.push_back({.offset = entry.offset,
+                             .length = entry.length & 0x3FFFFFFF,
+                             .plain = IsPlain(text) ? 1U : 0U,
+                             .sameEverywhere = 0});
+  }
+  table.MarkSameEverywhere();
+  return table;
+}
+
+CatalogMessage MessageTable::At(Place place) const {
+  return {.text = {texts_.data() + place.offset, place.length},
+          .plain = place.plain != 0,
+          .sameEverywhere = place.sameEverywhere != 0};
+}
+
+void MessageTable::MarkSameEverywhere() {
+  const auto messageOf = [this](std::size_t i) { return static_cast<std::uint32_t>(keys_[i]); };
+  std::vector<std::size_t> byMessage(keys_.size());
+  std::iota(byMessage.begin(), byMessage.end(), std::size_t{0});
+  std::ranges::sort(byMessage, {}, messageOf);
+  for (auto first = byMessage.begin(); first != byMessage.end();) {
+    const auto last = std::find_if(
+        first, byMessage.end(), [&](std::size_t i) { return messageOf(i) != messageOf(*first); });
+    const bool same = std::all_of(first, last, [&](std::size_t i) {
+      return At(places_[i]).text == At(places_[*first]).text;
+    });
+    for (; first != last; ++first) places_[*first].sameEverywhere = same ? 1 : 0;
+  }
+}
+
+std::optional<CatalogMessage> MessageTable::Find(std::uint32_t languageId,
+                                                 std::uint32_t messageId) const {
+  const std::uint64_t key = std::uint64_t{languageId} << 32 | messageId;
+  const auto found = std::ranges::lower_bound(keys_, key);
+  if (found == keys_.end() || *found != key) return {};
+  return At(places_[static_cast<std::size_t>(found - keys_.begin())]);
+}

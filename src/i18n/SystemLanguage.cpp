@@ -1,0 +1,54 @@
+#include "i18n/SystemLanguage.h"
+
+#include <array>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+
+#include <unicode/uloc.h>
+
+namespace {
+
+const char* EnvironmentLocale() {
+  for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+    const char* value = std::getenv(variable);
+    if (value && *value) return value;
+  }
+  return "";
+}
+
+// Identifiers without a region, where the default region is not simply the first one.
+std::uint32_t WithRegion(std::uint32_t languageId) {
+  constexpr std::uint32_t kChinese = 0x7804;
+  constexpr std::uint32_t kSimplifiedScript = 0x0004;
+  constexpr std::uint32_t kTraditionalScript = 0x7C04;
+  constexpr std::uint32_t kTaiwan = 0x0404;
+  constexpr std::uint32_t kFirstRegion = 0x0400;
+  if (languageId == kChinese || languageId == kSimplifiedScript) return kChineseSimplified;
+  if (languageId == kTraditionalScript) return kTaiwan;
+  return languageId < kFirstRegion ? languageId | kFirstRegion : languageId;
+}
+
+std::uint32_t LanguageIdOf(std::string_view locale) {
+  const std::string name(locale.substr(0, locale.find_first_of(".@")));
+  std::array<char, ULOC_FULLNAME_CAPACITY> canonical{};
+  UErrorCode error = U_ZERO_ERROR;
+  uloc_canonicalize(name.c_str(), canonical.data(), ULOC_FULLNAME_CAPACITY, &error);
+  if (U_FAILURE(error) || error == U_STRING_NOT_TERMINATED_WARNING) return kEnglishUnitedStates;
+  // The upper half may name a sort order.
+  const std::uint32_t languageId = uloc_getLCID(canonical.data()) & 0xFFFF;
+  return languageId == 0 ? kEnglishUnitedStates : WithRegion(languageId);
+}
+
+}  // namespace
+
+std::uint32_t SystemLanguageId() {
+  static std::string knownLocale;
+  static std::uint32_t languageId = LanguageIdOf(knownLocale);
+  const char* locale = EnvironmentLocale();
+  if (knownLocale != locale) {
+    knownLocale = locale;
+    languageId = LanguageIdOf(knownLocale);
+  }
+  return languageId;
+}

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <cstdint>
+
+/// Language identifiers that the catalog treats specially.
+inline constexpr std::uint32_t kEnglishUnitedStates = 1033;
+inline constexpr std::uint32_t kChineseSimplified = 2052;
+
+/// The system default language identifier: that of the locale in LC_ALL, LC_MESSAGES or LANG,
+/// whichever is first set and not empty. Encoding and modifier do not count. A locale without a
+/// region has the language's default one, so that plain Chinese is 2052. No locale, "C", "POSIX"
+/// and locales without an identifier are 1033.
+///
+/// Follows changes of the environment. Called from the user-interface thread.
+std::uint32_t SystemLanguageId();

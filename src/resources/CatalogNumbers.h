@@ -1,0 +1,282 @@
+#pragma once
+
+/// Numbers of the message catalog. The texts are in `resources/catalog`, one file a category. A
+/// caption that a template names ("73;Brightness") needs no name here. The build fails when a
+/// number of this file or of a template has no text in one of the languages.
+
+inline constexpr int kCaptionCategory = 4;   ///< Captions of controls, tabs and dialogs.
+inline constexpr int kListCategory = 5;      ///< Entries of lists, texts of states.
+inline constexpr int kErrorCategory = 2201;  ///< Errors and questions, for message boxes.
+
+namespace Caption {
+// Titles of the dialog.
+inline constexpr int TitleNetwork = 155;  // %1 model name, %2 address
+inline constexpr int TitleSerial = 170;   // %1 model name, %2 port number (integer)
+
+// Tabs.
+inline constexpr int TabStatus = 156;
+inline constexpr int TabMain = 157;
+inline constexpr int TabPicture1 = 158;
+inline constexpr int TabPicture2 = 159;
+inline constexpr int TabInput = 160;
+inline constexpr int TabAuto = 161;
+inline constexpr int TabScreen = 162;
+inline constexpr int TabOption = 163;
+inline constexpr int TabOther = 164;
+inline constexpr int TabSetup = 165;
+inline constexpr int TabPicture = 166;
+inline constexpr int TabImage = 167;
+inline constexpr int TabVideo = 3168;
+inline constexpr int TabAudio = 3169;
+}  // namespace Caption
+
+/// A number that ends in `Base` starts a run: the text is that of the base plus an index or a
+/// device value. The values that have a text are listed in `cmake/CheckCatalog.cmake`.
+namespace ListText {
+// Switches of most lists.
+inline constexpr int Off = 30;
+inline constexpr int On = 31;
+inline constexpr int SwitchOff = 327;
+inline constexpr int SwitchOn = 329;
+inline constexpr int Auto = 98;
+inline constexpr int Disable = 141;
+inline constexpr int Enable = 142;
+
+// Picture: lists of the model.
+inline constexpr int GammaBase = 204;               // + device value
+inline constexpr int ColorTempBase = 250;           // + device value
+inline constexpr int Picture1ColorTempBase = 2250;  // + device value
+inline constexpr int AspectBase = 1;                // + device value
+inline constexpr int WideAspectBase = 350;          // + device value; ModelCode 8, 10, 47, 48
+
+// Picture: active iris, memories.
+inline constexpr int IrisTheater = 303;
+inline constexpr int IrisPresentation = 304;
+inline constexpr int MyMemoryBase = 280;  // + 0..3 load, 4..7 save
+
+// Entries of the reset lists.
+inline constexpr int Brightness = 105;
+inline constexpr int PicBrightness = 3105;  // only on the picture page of dialog type 4
+inline constexpr int Contrast = 106;
+inline constexpr int Keystone = 107;
+inline constexpr int Color = 290;
+inline constexpr int Tint = 291;
+inline constexpr int Sharpness = 292;
+inline constexpr int ColorBalR = 296;
+inline constexpr int ColorBalG = 297;
+inline constexpr int ColorBalB = 298;
+inline constexpr int VPosition = 299;
+inline constexpr int HPosition = 300;
+inline constexpr int HSize = 301;
+inline constexpr int OverScan = 302;
+inline constexpr int Picture22OverScan = 363;
+inline constexpr int KeystoneV = 334;
+inline constexpr int KeystoneH = 335;
+inline constexpr int DZoom = 414;
+inline constexpr int DShiftV = 415;
+inline constexpr int DShiftH = 416;
+inline constexpr int MenuPositionV = 448;
+inline constexpr int MenuPositionH = 449;
+
+// Custom pop-ups: test patterns.
+inline constexpr int PatternOff = 3374;
+inline constexpr int PatternGrayScale9 = 3050;
+inline constexpr int PatternGrayScale15 = 3051;
+inline constexpr int PatternRamp = 52;
+
+// Whisper and mirror.
+inline constexpr int WhisperNormal = 25;
+inline constexpr int WhisperWhisper = 26;
+inline constexpr int WhisperBright = 27;
+inline constexpr int MirrorNormal = 21;
+inline constexpr int MirrorHInverse = 22;
+inline constexpr int MirrorVInverse = 23;
+inline constexpr int MirrorHVInverse = 24;
+
+// Audio and standby.
+inline constexpr int Audio1 = 40;
+inline constexpr int Audio2 = 41;
+inline constexpr int Audio3 = 42;
+inline constexpr int Audio4 = 43;
+inline constexpr int AudioMIU = 44;
+inline constexpr int AudioHDMI = 45;
+inline constexpr int AudioOnly = 1000;  // the one audio input of ModelCode 38
+inline constexpr int SurroundMid = 32;
+inline constexpr int SurroundHigh = 33;
+inline constexpr int StandbyNormal = 1020;
+inline constexpr int StandbySaving = 1021;
+
+// Image and screen pages.
+inline constexpr int BlankBlue = 60;
+inline constexpr int BlankWhite = 61;
+inline constexpr int BlankBlack = 62;
+inline constexpr int BlankMyScreen = 63;
+inline constexpr int BlankOriginal = 64;
+inline constexpr int ImageMirrorNormal = 65;
+inline constexpr int ImageMirrorHInverse = 66;
+inline constexpr int ImageMirrorVInverse = 67;
+inline constexpr int ImageMirrorHVInverse = 68;
+inline constexpr int StartupOn = 331;
+
+// Picture in picture, image and input pages.
+inline constexpr int PinPInputVideo = 87;
+inline constexpr int PinPInputSVideo = 88;
+inline constexpr int PinPInputComponent = 89;
+inline constexpr int PinPUpperLeft = 90;
+inline constexpr int PinPUpperRight = 91;
+inline constexpr int PinPBottomLeft = 92;
+inline constexpr int PinPBottomRight = 93;
+inline constexpr int PinPAudioRgb = 94;
+inline constexpr int PinPLarge = 95;
+inline constexpr int PinPSmall = 96;
+inline constexpr int PinPSizeOff = 330;
+inline constexpr int InputPinPSizeOff = 3330;  // only on the input page of dialog type 1
+
+// Screen pages.
+inline constexpr int LanguageBase = 110;  // + position; each language in its own name
+inline constexpr int MyScreenSizeX1 = 430;
+inline constexpr int MyScreenSizeFull = 431;
+inline constexpr int TemplateTestPattern = 432;
+inline constexpr int TemplateDotLine1 = 433;
+inline constexpr int TemplateDotLine2 = 434;
+inline constexpr int TemplateDotLine3 = 435;
+inline constexpr int TemplateDotLine4 = 436;
+inline constexpr int TemplateCircle1 = 437;
+inline constexpr int TemplateCircle2 = 438;
+inline constexpr int TemplateMap1 = 439;
+inline constexpr int TemplateMap2 = 440;
+inline constexpr int PbyPSizeSmall = 441;
+inline constexpr int PbyPSizeMiddle = 442;
+inline constexpr int PbyPSizeLarge = 443;
+inline constexpr int PbyPSizeFull = 444;
+inline constexpr int PbyPAreaLeft = 445;
+inline constexpr int PbyPAreaRight = 446;
+
+// Input pages.
+inline constexpr int ProgressiveTv = 2011;
+inline constexpr int ProgressiveFilm = 2012;
+inline constexpr int LegacyProgressiveTv = 370;
+inline constexpr int LegacyProgressiveFilm = 326;
+inline constexpr int NoiseReductionLow = 367;
+inline constexpr int NoiseReductionMiddle = 3368;
+inline constexpr int LegacyNoiseReductionMiddle = 368;
+inline constexpr int NoiseReductionHigh = 369;
+inline constexpr int YcsMovie = 417;
+inline constexpr int YcsStillImage = 3418;
+inline constexpr int LegacyYcsNormal = 338;
+inline constexpr int LegacyYcsStillImage = 97;
+inline constexpr int HdmiAuto = 405;
+inline constexpr int HdmiNormal = 406;
+inline constexpr int HdmiEnhanced = 407;
+inline constexpr int M1DNormal = 17;
+inline constexpr int M1DEnhanced = 104;
+inline constexpr int SyncOnGreenOff = 102;
+inline constexpr int SyncOnGreenOn = 103;
+inline constexpr int LastInput = 3371;
+
+// Option page: closed captions and my buttons.
+inline constexpr int ClosedCaptionOff = 408;
+inline constexpr int ClosedCaptionOn = 409;
+inline constexpr int ClosedCaptionAuto = 410;
+inline constexpr int ClosedCaptionCaptions = 411;
+inline constexpr int ClosedCaptionText = 412;
+inline constexpr int MyButtonBase = 170;  // + function code
+inline constexpr int MyButtonComputer1 = 1001;
+inline constexpr int MyButtonComputer2 = 1002;
+inline constexpr int MyButtonComputer = 1003;
+inline constexpr int MyButtonHdmi = 1006;
+inline constexpr int MyButtonTemplate = 1007;
+inline constexpr int MyButtonMiuLiveMode = 1008;
+inline constexpr int MyButtonMiuSlideshow = 1009;
+inline constexpr int MyButtonMiuDirectory = 1010;
+inline constexpr int MyButtonMiuMyImage = 1011;
+inline constexpr int MyButtonMiuMessenger = 1012;
+inline constexpr int MyButtonDZoom = 1013;
+inline constexpr int MyButtonDShift = 1014;
+inline constexpr int MyButtonMySource = 1015;
+inline constexpr int MyButtonPbyP = 1016;
+inline constexpr int MyButtonOther = 1017;  // an assignment that the list does not offer
+inline constexpr int MyButtonAvMute = 1018;
+
+// Service dialog.
+inline constexpr int AutoAdjustFine = 1004;
+inline constexpr int AutoAdjustFast = 1005;
+inline constexpr int FocusLockOff = 408;
+inline constexpr int FocusLockOn = 409;
+
+// Status page.
+inline constexpr int StatusValue = 319;  // %1 the text of the state
+inline constexpr int Hours = 320;        // %1 hours (integer)
+inline constexpr int FilterTime = 321;
+inline constexpr int LampTime = 322;
+inline constexpr int PowerCoolingDown = 3309;
+inline constexpr int ErrorNone = 332;
+inline constexpr int ErrorCover = 3310;
+inline constexpr int ErrorFan = 3311;
+inline constexpr int ErrorLamp = 3312;
+inline constexpr int ErrorTemperature = 3313;
+inline constexpr int ErrorAirFlow = 3314;
+inline constexpr int ErrorLampTime = 3315;
+inline constexpr int ErrorCool = 3316;
+inline constexpr int ErrorFilter = 3317;
+inline constexpr int ErrorOther = 3318;
+inline constexpr int ErrorStatus12 = 413;
+inline constexpr int Freeze = 3333;
+inline constexpr int FreezeNormal = 3336;
+}  // namespace ListText
+
+namespace ErrorText {
+// Picture, image and setup pages.
+inline constexpr int BrightnessRefused = 58;
+inline constexpr int ContrastRefused = 59;
+inline constexpr int ColorRefused = 60;
+inline constexpr int TintRefused = 15;
+inline constexpr int SharpnessRefused = 17;
+inline constexpr int ColorTempRefused = 61;
+inline constexpr int ImageColorTempRefused = 343;
+inline constexpr int ActiveIrisRefused = 78;
+inline constexpr int CustomGammaRefused = 77;
+inline constexpr int CustomUserRRefused = 74;
+inline constexpr int CustomUserGRefused = 75;
+inline constexpr int CustomUserBRefused = 76;
+inline constexpr int ColorBalRRefused = 73;
+inline constexpr int ColorBalGRefused = 81;
+inline constexpr int ColorBalBRefused = 72;
+inline constexpr int OverScanRefused = 53;
+inline constexpr int PositionRefused = 54;
+inline constexpr int HPhaseRefused = 55;
+inline constexpr int HSizeRefused = 56;
+inline constexpr int KeystoneRefused = 64;
+inline constexpr int VolumeRefused = 65;
+inline constexpr int ElectricZoomRefused = 79;
+inline constexpr int DZoomRefused = 314;
+inline constexpr int DShiftRefused = 315;
+
+// Custom pop-ups.
+inline constexpr int ColorTempGainRRefused = 38;
+inline constexpr int ColorTempGainGRefused = 39;
+inline constexpr int ColorTempGainBRefused = 40;
+inline constexpr int ColorTempOffsetRRefused = 41;
+inline constexpr int ColorTempOffsetGRefused = 42;
+inline constexpr int ColorTempOffsetBRefused = 43;
+inline constexpr int GammaPointRefusedBase = 44;  // + point − 1
+inline constexpr int TestPatternRefused = 52;
+
+// Input and option pages.
+inline constexpr int PowerUpInputRefused = 57;
+inline constexpr int MySourceRefused = 335;
+
+// Screen pages.
+inline constexpr int MenuPositionRefused = 62;
+inline constexpr int OsdBrightRefused = 63;
+inline constexpr int TemplateRefused = 336;
+inline constexpr int PbyPRefused = 337;
+inline constexpr int PbyPSizeRefused = 338;
+inline constexpr int PbyPSubSourceRefused = 339;
+inline constexpr int PbyPMainAreaRefused = 340;
+inline constexpr int PbyPStartAreaRefused = 341;
+inline constexpr int PbyPMainSourceRefused = 342;
+
+// Questions.
+inline constexpr int StandbySavingQuestion = 1002;
+}  // namespace ErrorText

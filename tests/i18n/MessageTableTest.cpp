@@ -1,0 +1,245 @@
+#include <chrono>
+#include <filesystem>
+#include <functional>
+#include <random>
+#include <string>
+#include <sys/stat.h>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "i18n/MessageTable.h"
+#include "tests/i18n/ModuleBuilder.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string TextIn(const MessageTable& table, std::uint32_t language, std::uint32_t id) {
+  const auto message = table.Find(language, id);
+  return message ? std::string(message->text) : "(none)";
+}
+
+std::vector<TestTable> SampleTables() {
+  return {
+      {1033,
+       {{0x01040001, {Unicode(u"One\r\n"), Unicode(u"Two\r\n")}},
+        {0xFFFFFFFE,
+         {Ansi("Stra\xDF"
+               "e\r\n"),
+          Ansi("")}}}},
+      {2052, {{0x01040001, {Unicode(u"\u4EAE\u5EA6\r\n"), Ansi("\xD6\xD0\xCE\xC4\r\n")}}}},
+      {1041, {{7, {Ansi("\x93\xFA\x96\x7B"), Unicode(u"\xD83D\xDE00|\xD83D|")}}}, 9},
+  };
+}
+
+TEST(MessageTable, ReadsBothModuleKindsAndBothEncodings) {
+  for (const bool wide : {false, true}) {
+    const auto table = MessageTable::Parse(TestModule(SampleTables(), wide).bytes);
+    ASSERT_TRUE(table) << wide;
+    EXPECT_EQ(table->Count(), 8U);
+    EXPECT_EQ(TextIn(*table, 1033, 0x01040001), "One\r\n");
+    EXPECT_EQ(TextIn(*table, 1033, 0x01040002), "Two\r\n");
+    EXPECT_EQ(TextIn(*table, 1033, 0xFFFFFFFE), "Straße\r\n");
+    EXPECT_EQ(TextIn(*table, 1033, 0xFFFFFFFF), "");
+    EXPECT_EQ(TextIn(*table, 2052, 0x01040001), "亮度\r\n");
+    EXPECT_EQ(TextIn(*table, 2052, 0x01040002), "中文\r\n");
+    EXPECT_EQ(TextIn(*table, 1041, 7), "日本");
+    EXPECT_EQ(TextIn(*table, 1041, 8), "😀|\uFFFD|");
+    // Neither another language of the module nor a neighbour of a block.
+    EXPECT_FALSE(table->Find(1041, 0x01040001));
+    EXPECT_FALSE(table->Find(9, 0x01040001));
+    for (const std::uint32_t id : {0x01040000U, 0x01040003U, 0xFFFFFFFDU, 0U}) {
+      EXPECT_FALSE(table->Find(1033, id)) << id;
+    }
+  }
+}
+
+TEST(MessageTable, LowerResourceComesFirst) {
+  const TestModule module({{1033, {{1, {Unicode(u"second"), Unicode(u"only here")}}}, 5},
+                           {1033, {{1, {Unicode(u"first")}}}, 1}});
+  const auto table = MessageTable::Parse(module.bytes);
+  ASSERT_TRUE(table);
+  EXPECT_EQ(TextIn(*table, 1033, 1), "first");
+  EXPECT_EQ(TextIn(*table, 1033, 2), "only here");
+}
+
+TEST(MessageTable, KnowsWhichTextsNeedNoExpansion) {
+  const std::vector<std::pair<std::u16string, bool>> cases = {
+      {u"", true},        {u"text\r\n", true}, {u"a\r\nb\r\n", true}, {u"100 %%", false},
+      {u"text\n", false}, {u"a\rb", false},    {u"end\r", false},
+  };
+  for (const auto& [text, plain] : cases) {
+    const auto table = MessageTable::Parse(TestModule({{1033, {{1, {Unicode(text)}}}}}).bytes);
+    ASSERT_TRUE(table);
+    EXPECT_EQ(table->Find(1033, 1)->plain, plain) << TextIn(*table, 1033, 1);
+  }
+}
+
+TEST(MessageTable, KnowsWhichTextsDependOnTheLanguage) {
+  const auto table = MessageTable::Parse(
+      TestModule({{1031, {{1, {Unicode(u"a"), Unicode(u"b")}}, {4, {Unicode(u"d")}}}},
+                  {1033, {{1, {Unicode(u"a"), Unicode(u"b"), Unicode(u"c")}}}},
+                  {2052, {{1, {Unicode(u"a"), Unicode(u"x")}}}}})
+          .bytes);
+  ASSERT_TRUE(table);
+  const auto same = [&](std::uint32_t language, std::uint32_t id) {
+    return table->Find(language, id)->sameEverywhere;
+  };
+  EXPECT_TRUE(same(1031, 1) && same(1033, 1) && same(2052, 1));
+  EXPECT_FALSE(same(1031, 2) || same(1033, 2) || same(2052, 2));
+  EXPECT_TRUE(same(1033, 3) && same(1031, 4));
+}
+
+TEST(MessageTable, RefusesDamagedModules) {
+  struct Case {
+    const char* name;
+    std::function<void(TestModule&)> damage;
+  };
+  const Case cases[] = {
+      {"first magic", [](TestModule& m) { m.Put16(0, 0); }},
+      {"header outside", [](TestModule& m) { m.Put32(0x3C, 0xFFFFFFF0); }},
+      {"second magic", [](TestModule& m) { m.Put32(m.kHeader, 0x4551); }},
+      {"kind of module", [](TestModule& m) { m.Put16(m.kOptional, 0x0107); }},
+      {"header too small", [](TestModule& m) { m.Put16(m.kHeader + 20, 100); }},
+      {"no header", [](TestModule& m) { m.Put16(m.kHeader + 20, 0); }},
+      {"too few directories", [](TestModule& m) { m.Put32(m.kOptional + 108, 2); }},
+      {"no resources", [](TestModule& m) { m.Put32(m.kOptional + 128, 0); }},
+      {"no section", [](TestModule& m) { m.Put16(m.kHeader + 6, 0); }},
+      {"section count", [](TestModule& m) { m.Put16(m.kHeader + 6, 0xFFFF); }},
+      {"section outside", [](TestModule& m) { m.Put32(m.section + 20, 0xFFFFFF00); }},
+      {"section too long", [](TestModule& m) { m.Put32(m.section + 16, 0xFFFFFFFF); }},
+      {"no message table", [](TestModule& m) { m.Put32(m.types + 16, 10); }},
+      {"type is a leaf", [](TestModule& m) { m.Put32(m.types + 20, 24); }},
+      {"type holds itself", [](TestModule& m) { m.Put32(m.types + 20, m.kDirectory); }},
+      {"entry count", [](TestModule& m) { m.Put32(m.names + 12, 0xFFFFFFFF); }},
+      {"number among names", [](TestModule& m) { m.Put32(m.names + 12, 1); }},
+      {"resource is a leaf", [](TestModule& m) { m.Put32(m.names + 20, 24); }},
+      {"directory outside", [](TestModule& m) { m.Put32(m.names + 20, 0xFFFFFFFF); }},
+      {"leaf outside", [](TestModule& m) { m.Put32(m.lastLeaf - 4, 0x7FFFFFFF); }},
+      {"language is a directory", [](TestModule& m) { m.Put32(m.lastLeaf - 4, m.kDirectory); }},
+      {"table outside", [](TestModule& m) { m.Put32(m.lastLeaf, 0xFFFFFFFF); }},
+      {"table too long", [](TestModule& m) { m.Put32(m.lastLeaf + 4, 0xFFFFFFFF); }},
+      {"table too short", [](TestModule& m) { m.Put32(m.lastLeaf + 4, 3); }},
+      {"block count", [](TestModule& m) { m.Put32(m.LastTable(), 0x15555556); }},
+      {"block upside down", [](TestModule& m) { m.Put32(m.LastTable() + 4, 9); }},
+      {"every identifier",
+       [](TestModule& m) {
+         m.Put32(m.LastTable() + 4, 0);
+         m.Put32(m.LastTable() + 8, 0xFFFFFFFF);
+       }},
+      {"entries outside", [](TestModule& m) { m.Put32(m.LastTable() + 12, 0xFFFFFFFC); }},
+      {"entry of no length", [](TestModule& m) { m.Put16(m.LastTable() + 16, 0); }},
+      {"entry too long", [](TestModule& m) { m.Put16(m.LastTable() + 16, 0xFFFF); }},
+      {"unknown encoding", [](TestModule& m) { m.Put16(m.LastTable() + 18, 4); }},
+  };
+  for (const Case& hostile : cases) {
+    TestModule module(SampleTables());
+    ASSERT_TRUE(MessageTable::Parse(module.bytes));
+    hostile.damage(module);
+    EXPECT_FALSE(MessageTable::Parse(module.bytes)) << hostile.name;
+  }
+  EXPECT_FALSE(MessageTable::Parse({}));
+}
+
+TEST(MessageTable, RefusesTwoTextsForOneMessage) {
+  EXPECT_FALSE(MessageTable::Parse(
+      TestModule({{1033, {{1, {Ansi("a"), Ansi("b")}}, {2, {Ansi("c")}}}}}).bytes));
+}
+
+// A few bytes of the file, read as the texts of very many messages.
+TEST(MessageTable, SharedBytesDoNotMultiply) {
+  constexpr std::uint32_t kBlocks = 20000;
+  std::vector<TestBlock> blocks;
+  for (std::uint32_t i = 0; i < kBlocks; ++i) blocks.push_back({i, {Ansi("")}});
+  blocks.back().entries = {Ansi(std::string(60000, 'x'))};
+  TestModule module({{1033, blocks}});
+  const auto lastBlock = module.LastTable() + 4 + 12 * (kBlocks - 1);
+  std::uint32_t longEntry = 0;
+  for (std::size_t i = 4; i-- > 0;) {
+    longEntry = longEntry << 8 | std::to_integer<std::uint32_t>(module.bytes[lastBlock + 8 + i]);
+  }
+  ASSERT_TRUE(MessageTable::Parse(module.bytes));
+  for (std::uint32_t i = 0; i < kBlocks; ++i) {
+    module.Put32(module.LastTable() + 4 + 12 * i + 8, longEntry);
+  }
+  const auto start = std::chrono::steady_clock::now();
+  EXPECT_FALSE(MessageTable::Parse(module.bytes));
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
+}
+
+TEST(MessageTable, EveryTruncationIsRefused) {
+  const TestModule module(SampleTables());
+  for (std::size_t size = 0; size < module.bytes.size(); ++size) {
+    const std::vector<std::byte> part(module.bytes.begin(),
+                                      module.bytes.begin() + static_cast<std::ptrdiff_t>(size));
+    EXPECT_FALSE(MessageTable::Parse(part)) << size;
+  }
+}
+
+TEST(MessageTable, MutationsAreHarmless) {
+  const TestModule module(SampleTables());
+  std::size_t accepted = 0;
+  for (unsigned seed = 1; seed <= 5000; ++seed) {
+    SCOPED_TRACE(seed);
+    std::mt19937 random(seed);
+    auto bytes = module.bytes;
+    for (unsigned changes = 1 + random() % 4; changes > 0; --changes) {
+      // Mostly where the structures are, and mostly values at the edges.
+      const std::size_t at = random() % 4 ? module.types + random() % (bytes.size() - module.types)
+                                          : random() % bytes.size();
+      constexpr unsigned kEdges[] = {0, 1, 0x7F, 0x80, 0xFF};
+      bytes[at] = static_cast<std::byte>(random() % 2 ? kEdges[random() % 5] : random() % 256);
+    }
+    const auto table = MessageTable::Parse(bytes);
+    if (!table) continue;
+    ++accepted;
+    EXPECT_LE(table->Count(), bytes.size() / 2);
+    for (const std::uint32_t language : {1033U, 2052U, 1041U}) {
+      for (const std::uint32_t id : {0x01040001U, 0x01040002U, 0xFFFFFFFEU, 7U}) {
+        EXPECT_LE(TextIn(*table, language, id).size(), 3 * bytes.size());
+      }
+    }
+  }
+  // Some must get past the checks, or the mutations test nothing behind them.
+  EXPECT_GT(accepted, 100U);
+}
+
+TEST(MessageTable, ReadsFilesAndRefusesWhatIsNone) {
+  const fs::path folder = fs::path(testing::TempDir()) / "message_table_test";
+  fs::remove_all(folder);
+  fs::create_directories(folder / "directory");
+  const auto path = [&](const char* name) { return (folder / name).string(); };
+  TestModule(SampleTables()).Save(path("good"));
+  const auto moved = [table = MessageTable::Read(path("good"))]() mutable {
+    return std::move(table);
+  }();
+  ASSERT_TRUE(moved);
+  fs::remove(path("good"));
+  EXPECT_EQ(TextIn(*moved, 2052, 0x01040001), "亮度\r\n");
+
+  std::ofstream(path("empty"));
+  std::ofstream(path("huge")).put('M');
+  fs::resize_file(path("huge"), std::uintmax_t{1} << 40);
+  ASSERT_EQ(mkfifo(path("pipe").c_str(), 0600), 0);
+  for (const char* name : {"absent", "directory", "empty", "huge", "pipe"}) {
+    EXPECT_FALSE(MessageTable::Read(path(name))) << name;
+  }
+  EXPECT_FALSE(MessageTable::Read("/dev/zero"));
+  fs::remove_all(folder);
+}
+
+TEST(MessageTable, BuiltModulesHoldTheirLanguages) {
+  const auto english = MessageTable::Read(TEST_CATALOG_DIR "/mcdll.dll");
+  const auto chinese = MessageTable::Read(TEST_CATALOG_DIR "/mcschn.dll");
+  ASSERT_TRUE(english && chinese);
+  EXPECT_EQ(chinese->Count(), 2 * english->Count());
+  constexpr std::uint32_t kStatusTab = 0x0104009C;
+  EXPECT_TRUE(english->Find(1033, kStatusTab));
+  EXPECT_FALSE(english->Find(2052, kStatusTab));
+  EXPECT_EQ(TextIn(*chinese, 1033, kStatusTab), TextIn(*chinese, 2052, kStatusTab));
+  EXPECT_NE(TextIn(*chinese, 2052, kStatusTab), TextIn(*english, 1033, kStatusTab));
+  EXPECT_TRUE(english->Find(1033, kStatusTab)->text.ends_with("\r\n"));
+}
+
+}  // namespace

@@ -1,0 +1,32 @@
+#include "toolkit/CComboBox.h"
+
+#include <QWheelEvent>
+
+CComboBox::CComboBox(QWidget* parent) : QComboBox(parent) {
+  setFocusPolicy(Qt::StrongFocus);
+  setSizeAdjustPolicy(QComboBox::AdjustToContents);
+  setMaxVisibleItems(20);
+}
+
+void CComboBox::Select(int position) {
+  setCurrentIndex(position >= 0 && position < count() ? position : -1);
+}
+
+bool CComboBox::SelectValue(int value) {
+  const int position = findData(value);
+  if (position >= 0) setCurrentIndex(position);
+  return position >= 0;
+}
+
+std::optional<int> CComboBox::SelectedValue() const {
+  const QVariant value = currentData();
+  return value.isValid() ? std::optional(value.toInt()) : std::nullopt;
+}
+
+void CComboBox::wheelEvent(QWheelEvent* event) {
+  if (hasFocus()) {
+    QComboBox::wheelEvent(event);
+  } else {
+    event->ignore();
+  }
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <optional>
+
+#include <QComboBox>
+
+/// A drop-down list. `activated` reports a choice of the user, also of the entry that is selected
+/// already; selecting by program reports nothing. The wheel is taken only with the focus.
+class CComboBox : public QComboBox {
+  Q_OBJECT
+
+ public:
+  explicit CComboBox(QWidget* parent = nullptr);
+
+  /// Adds an entry that stands for its own position.
+  void Add(const QString& text) { Add(text, count()); }
+  /// Adds an entry that stands for `value`.
+  void Add(const QString& text, int value) { addItem(text, value); }
+
+  /// Selects a position; one outside the list leaves the list without a selection.
+  void Select(int position);
+
+  /// Selects the first entry that stands for `value`. False, and nothing changes, without one.
+  bool SelectValue(int value);
+
+  /// What the selected entry stands for; nothing without a selection.
+  std::optional<int> SelectedValue() const;
+
+ protected:
+  void wheelEvent(QWheelEvent* event) override;
+};

@@ -1,0 +1,293 @@
+#include "toolkit/CDialog.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QFontMetrics>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QTabBar>
+
+#include "toolkit/CComboBox.h"
+#include "toolkit/CSliderCtrl.h"
+#include "toolkit/ResourceModule.h"
+#include "toolkit/TemplateControls.h"
+#include "toolkit/WindowText.h"
+
+namespace {
+
+constexpr int kColumnGap = 32;
+
+bool Has(const DialogTemplate& dialog, auto predicate) {
+  return std::ranges::any_of(dialog.rows, predicate);
+}
+
+bool HoldsTab(const RowTemplate& row) {
+  return std::ranges::any_of(row.controls,
+                             [](const auto& control) { return control.kind == ControlKind::Tab; });
+}
+
+QGridLayout* MakeColumn() {
+  auto* grid = new QGridLayout;
+  grid->setContentsMargins(0, 0, 0, 0);
+  grid->setVerticalSpacing(0);
+  grid->setHorizontalSpacing(6);
+  grid->setColumnStretch(RowColumn::Slider, 1);
+  return grid;
+}
+
+// Top-level dialogs that are created and not closed yet, oldest first.
+std::vector<CDialog*>& OpenDialogs() {
+  static std::vector<CDialog*> dialogs;
+  return dialogs;
+}
+
+// What a screen reader says for a caption: without the tabs and the colon of a template text.
+QString SpokenCaption(const QString& caption) {
+  QString spoken = caption.simplified();
+  while (spoken.endsWith(QLatin1Char(':'))) spoken.chop(1);
+  return spoken.trimmed();
+}
+
+}  // namespace
+
+CDialog::CDialog(int templateNumber, CWnd* owner)
+    : QDialog(owner), templateNumber_(templateNumber) {}
+
+CDialog::~CDialog() { Destroy(); }
+
+bool CDialog::Create() {
+  Destroy();
+  // A dialog may be run again; the controls of its last run may have been in use until it closed.
+  for (const auto& [id, control] : std::exchange(controls_, {})) delete control;
+  rows_.clear();
+  delete layout();
+
+  template_ = ResourceChain::FindDialog(templateNumber_);
+  if (template_ == nullptr) return false;
+  created_ = true;
+  if (isWindow()) OpenDialogs().push_back(this);
+  BuildControls();
+  DoDataExchange();
+  ConnectNotifications();
+  OnInitDialog();
+  UpdateRows();
+  NameControls();
+  return true;
+}
+
+int CDialog::DoModal() {
+  const bool adopted = parentWidget() == nullptr;
+  if (adopted) {
+    QWidget* owner = OpenDialogs().empty() ? QApplication::activeWindow() : OpenDialogs().back();
+    if (owner != nullptr && owner != this) setParent(owner, windowFlags());
+  }
+  setWindowModality(parentWidget() != nullptr ? Qt::WindowModal : Qt::ApplicationModal);
+  const int result = Create() ? exec() : -1;
+  // The dialog is its creator's: it must not die with an owner that it only had for this run.
+  if (adopted && parentWidget() != nullptr) setParent(nullptr, windowFlags());
+  return result;
+}
+
+QWidget* CDialog::GetDlgItem(int id) const {
+  const auto found = controls_.find(id);
+  return found == controls_.end() ? nullptr : found->second;
+}
+
+void CDialog::NoSuchControl(int id) const {
+  qFatal("dialog %d has no control %d of the kind asked for", templateNumber_, id);
+}
+
+CDialog::PlacedRow* CDialog::RowOf(int id) {
+  QWidget* control = GetDlgItem(id);
+  const auto row = std::ranges::find_if(rows_, [control](const PlacedRow& candidate) {
+    return std::ranges::find(candidate.controls, control) != candidate.controls.end();
+  });
+  return control == nullptr || row == rows_.end() ? nullptr : &*row;
+}
+
+void CDialog::ShowRow(int id, bool present) {
+  PlacedRow* row = RowOf(id);
+  if (row == nullptr) NoSuchControl(id);
+  row->present = present;
+  for (QWidget* control : row->controls) control->setVisible(present);
+  if (row->grid != nullptr) row->grid->setRowMinimumHeight(row->gridRow, present ? pitch_ : 0);
+}
+
+bool CDialog::IsRowShown(int id) const {
+  const PlacedRow* row = const_cast<CDialog*>(this)->RowOf(id);
+  return row != nullptr && row->present;
+}
+
+QSize CDialog::FromDialogUnits(int width, int height) const {
+  const QFontMetrics metrics(font());
+  const int alphabet = metrics.horizontalAdvance(
+      QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz"));
+  const int baseX = (alphabet / 26 + 1) / 2;
+  return {width * baseX / 4, height * metrics.height() / 8};
+}
+
+QSize CDialog::DialogSize() const {
+  QSize size =
+      template_ != nullptr ? FromDialogUnits(template_->width, template_->height) : QSize();
+  if (layout() != nullptr) size = size.expandedTo(layout()->totalSizeHint());
+  return size;
+}
+
+void CDialog::BuildControls() {
+  setWindowTitle(QString::fromUtf8(template_->caption));
+  // A dialog of tabs places its pages and controls itself.
+  const bool laidOut = !Has(*template_, HoldsTab);
+  QGridLayout* left = nullptr;
+  QGridLayout* right = nullptr;
+  if (laidOut) {
+    auto* columns = new QHBoxLayout(this);
+    columns->setContentsMargins(isWindow() ? 16 : 0, isWindow() ? 12 : 0, isWindow() ? 16 : 0,
+                                isWindow() ? 12 : 0);
+    columns->setSpacing(kColumnGap);
+    if (isWindow()) columns->setSizeConstraint(QLayout::SetFixedSize);  // follows absent rows
+    columns->addLayout(left = MakeColumn(), 1);
+    // Pages keep two columns even where only one is used, so that rows do not jump between tabs.
+    if (!isWindow()) columns->addLayout(right = MakeColumn(), 1);
+  }
+  int leftRow = 0;
+  int rightRow = 0;
+  bool stretched = false;
+  for (const RowTemplate& row : template_->rows) {
+    PlacedRow placed{};
+    for (const ControlTemplate& control : row.controls) {
+      if (control.kind == ControlKind::None) break;
+      QWidget* widget = MakeControl(control, this);
+      placed.controls.push_back(widget);
+      controls_[control.id] = widget;
+      if (control.kind == ControlKind::Close) {
+        connect(static_cast<QPushButton*>(widget), &QPushButton::clicked, this, &QDialog::accept);
+      }
+    }
+    if (laidOut) {
+      if (row.place == RowPlace::Bottom && !stretched) {
+        left->setRowStretch(leftRow++, 1);
+        stretched = true;
+      }
+      placed.grid = row.place == RowPlace::Right && right != nullptr ? right : left;
+      placed.gridRow = placed.grid == left ? leftRow++ : rightRow++;
+      PlaceRow(row, placed.controls, placed.grid, placed.gridRow);
+    }
+    rows_.push_back(std::move(placed));
+  }
+  if (left != nullptr && !stretched) left->setRowStretch(leftRow, 1);
+  if (right != nullptr) right->setRowStretch(rightRow, 1);
+}
+
+void CDialog::ConnectNotifications() {
+  for (const Notification& entry : Notifications().Entries()) {
+    switch (entry.event) {
+      case Notification::Event::Clicked:
+        connect(&Item<QAbstractButton>(entry.id), &QAbstractButton::clicked, this,
+                [this, &entry] { entry.handle(*this, nullptr); });
+        break;
+      case Notification::Event::SelChange:
+        if (auto* tabs = qobject_cast<QTabBar*>(GetDlgItem(entry.id))) {
+          connect(tabs, &QTabBar::currentChanged, this,
+                  [this, &entry] { entry.handle(*this, nullptr); });
+        } else {
+          connect(&Item<QComboBox>(entry.id), &QComboBox::activated, this,
+                  [this, &entry] { entry.handle(*this, nullptr); });
+        }
+        break;
+      case Notification::Event::HScroll:
+        for (const auto& [id, control] : controls_) {
+          if (auto* slider = qobject_cast<CSliderCtrl*>(control)) {
+            connect(slider, &CSliderCtrl::EndScroll, this,
+                    [this, &entry, slider] { entry.handle(*this, slider); });
+          }
+        }
+        break;
+      case Notification::Event::Passive:
+        break;
+    }
+  }
+}
+
+void CDialog::NameControls() {
+  QString caption;
+  for (std::size_t i = 0; i < rows_.size(); ++i) {
+    // A row without a caption continues the one above; "V" and "H" tell the parts of a row apart.
+    QString part;
+    for (std::size_t k = 0; k < rows_[i].controls.size(); ++k) {
+      const ControlKind kind = template_->rows[i].controls[k].kind;
+      QWidget* control = rows_[i].controls[k];
+      const QString own = SpokenCaption(WindowText(*control));
+      if (kind == ControlKind::Label) {
+        caption = own;
+      } else if (kind == ControlKind::Text) {
+        part = own;
+        control->setAccessibleDescription(caption);
+      } else if (kind != ControlKind::Colon && kind != ControlKind::Tab) {
+        control->setAccessibleName(
+            QStringList{caption, part, own}.join(QLatin1Char(' ')).simplified());
+      }
+    }
+  }
+}
+
+void CDialog::UpdateRows() {
+  pitch_ = FromDialogUnits(0, template_->rulerHeight).height();
+  int buttonWidth = 0;
+  for (const PlacedRow& row : rows_) {
+    if (!row.present) continue;
+    for (const QWidget* control : row.controls) {
+      pitch_ = std::max(pitch_, control->sizeHint().height() + 2);
+    }
+  }
+  std::vector<QWidget*> buttons;
+  for (const RowTemplate& row : template_->rows) {
+    for (const ControlTemplate& control : row.controls) {
+      if (control.kind != ControlKind::Button && control.kind != ControlKind::Close) continue;
+      buttons.push_back(GetDlgItem(control.id));
+      buttonWidth = std::max(buttonWidth, buttons.back()->sizeHint().width());
+    }
+  }
+  for (QWidget* button : buttons) button->setMinimumWidth(buttonWidth);
+  for (const PlacedRow& row : rows_) {
+    if (row.grid != nullptr) row.grid->setRowMinimumHeight(row.gridRow, row.present ? pitch_ : 0);
+  }
+}
+
+const NotificationMap& CDialog::Notifications() const {
+  static const NotificationMap none{};
+  return none;
+}
+
+void CDialog::setVisible(bool visible) {
+  // A page is part of its dialog: showing it must not move the focus or end an event loop.
+  if (isWindow()) {
+    QDialog::setVisible(visible);
+  } else {
+    QWidget::setVisible(visible);
+  }
+}
+
+void CDialog::done(int result) {
+  if (!isWindow()) return;
+  QDialog::done(result);
+  Destroy();
+}
+
+void CDialog::Destroy() {
+  if (!std::exchange(created_, false) || !isWindow()) return;
+  std::erase(OpenDialogs(), this);
+  OnDestroy();
+}
+
+void CDialog::keyPressEvent(QKeyEvent* event) {
+  if (isWindow()) {
+    QDialog::keyPressEvent(event);
+  } else {
+    event->ignore();
+  }
+}

@@ -1,0 +1,64 @@
+#include "toolkit/CSliderCtrl.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QWheelEvent>
+
+CSliderCtrl::CSliderCtrl(QWidget* parent) : QSlider(Qt::Horizontal, parent) {
+  setFocusPolicy(Qt::StrongFocus);
+  setTickPosition(QSlider::TicksBelow);
+}
+
+void CSliderCtrl::SetRange(int minimum, int maximum, int tickFrequency) {
+  setRange(minimum, maximum);
+  setTickInterval(std::max(1, tickFrequency));
+  setSingleStep(1);
+  setPageStep(std::max(1, (maximum - minimum) / 10));
+}
+
+void CSliderCtrl::mouseReleaseEvent(QMouseEvent* event) {
+  const bool scrolled = event->button() == Qt::LeftButton;
+  QSlider::mouseReleaseEvent(event);
+  if (scrolled) Q_EMIT EndScroll();
+}
+
+void CSliderCtrl::keyPressEvent(QKeyEvent* event) {
+  const int before = value();
+  QSlider::keyPressEvent(event);
+  if (value() != before) keyScrolling_ = true;
+}
+
+void CSliderCtrl::keyReleaseEvent(QKeyEvent* event) {
+  QSlider::keyReleaseEvent(event);
+  if (!event->isAutoRepeat()) EndKeyScroll();
+}
+
+void CSliderCtrl::wheelEvent(QWheelEvent* event) {
+  if (!hasFocus()) {
+    event->ignore();
+    return;
+  }
+  const int before = value();
+  QSlider::wheelEvent(event);
+  event->accept();  // at the end of the range too, or the wheel would scroll something behind
+  if (value() != before) Q_EMIT EndScroll();
+}
+
+void CSliderCtrl::focusOutEvent(QFocusEvent* event) {
+  QSlider::focusOutEvent(event);
+  EndKeyScroll();
+}
+
+void CSliderCtrl::changeEvent(QEvent* event) {
+  QSlider::changeEvent(event);
+  // A slider that is disabled in mid-step gets no key release any more.
+  if (event->type() == QEvent::EnabledChange && !isEnabled()) keyScrolling_ = false;
+}
+
+void CSliderCtrl::EndKeyScroll() {
+  if (std::exchange(keyScrolling_, false)) Q_EMIT EndScroll();
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QSlider>
+
+/// A slider that reports when the user has finished moving it: at the mouse release after a drag
+/// or a click in the groove, at the release of a stepping key, at each wheel notch, and when the
+/// focus leaves while a key is still down. Moving it by program reports nothing. The wheel is
+/// taken only while it has the focus.
+class CSliderCtrl : public QSlider {
+  Q_OBJECT
+
+ public:
+  explicit CSliderCtrl(QWidget* parent = nullptr);
+
+  /// Sets range and tick distance (at least 1); the position is kept inside the range.
+  void SetRange(int minimum, int maximum, int tickFrequency);
+
+ Q_SIGNALS:
+  void EndScroll();
+
+ protected:
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void EndKeyScroll();
+
+  bool keyScrolling_ = false;
+};

@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QWidget>
+
+/// Any window or control, as the dialogs' public interfaces name it.
+using CWnd = QWidget;

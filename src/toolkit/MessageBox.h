@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+/// Tells the user of a failure: stop icon, one OK button. Modal to `owner`'s window, whose title
+/// it bears; returns when the user has closed it.
+void ShowStopMessage(QWidget* owner, const QString& text);
+
+/// Asks the user: information icon, Yes and No buttons, No preselected. Closing the box or Esc
+/// answers No. True for Yes.
+bool AskYesNo(QWidget* owner, const QString& text);

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <initializer_list>
+#include <utility>
+#include <vector>
+
+class CDialog;
+class CSliderCtrl;
+
+/// What a control reports and who handles it.
+struct Notification {
+  enum class Event : std::uint8_t {
+    Clicked,    ///< The user pressed a button or changed a check box.
+    SelChange,  ///< The user chose an entry of a list or another tab.
+    HScroll,    ///< The user finished moving any slider of the dialog.
+    Passive,    ///< Nothing is reported: the control is read by another control's handler.
+  };
+
+  Event event;
+  int id;  ///< Control number; 0 for HScroll, which serves every slider.
+  std::function<void(CDialog&, CSliderCtrl*)> handle;
+};
+
+/// A dialog's notifications, one line each. Every control that a user can operate stands in it
+/// exactly once; sliders share the dialog's one HScroll line.
+class NotificationMap {
+ public:
+  NotificationMap(std::initializer_list<Notification> entries) : entries_(entries) {}
+  explicit NotificationMap(std::vector<Notification> entries) : entries_(std::move(entries)) {}
+
+  const std::vector<Notification>& Entries() const { return entries_; }
+
+ private:
+  std::vector<Notification> entries_;
+};
+
+template <class Dialog>
+Notification Clicked(int id, void (Dialog::*handler)()) {
+  return {Notification::Event::Clicked, id,
+          [handler](CDialog& dialog, CSliderCtrl*) { (static_cast<Dialog&>(dialog).*handler)(); }};
+}
+
+/// One handler for the same button of several rows; it is told which row.
+template <class Dialog>
+Notification Clicked(int id, void (Dialog::*handler)(std::size_t), std::size_t row) {
+  return {Notification::Event::Clicked, id, [handler, row](CDialog& dialog, CSliderCtrl*) {
+            (static_cast<Dialog&>(dialog).*handler)(row);
+          }};
+}
+
+template <class Dialog>
+Notification SelChange(int id, void (Dialog::*handler)()) {
+  return {Notification::Event::SelChange, id,
+          [handler](CDialog& dialog, CSliderCtrl*) { (static_cast<Dialog&>(dialog).*handler)(); }};
+}
+
+template <class Dialog>
+Notification HScroll(void (Dialog::*handler)(CSliderCtrl&)) {
+  return {Notification::Event::HScroll, 0, [handler](CDialog& dialog, CSliderCtrl* slider) {
+            (static_cast<Dialog&>(dialog).*handler)(*slider);
+          }};
+}
+
+inline Notification Passive(int id) {
+  return {Notification::Event::Passive, id, [](CDialog&, CSliderCtrl*) {}};
+}

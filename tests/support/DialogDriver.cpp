@@ -1,0 +1,161 @@
+#include "tests/support/DialogDriver.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QStyleOptionSlider>
+#include <QTabBar>
+#include <QTest>
+#include <QWheelEvent>
+#include <gtest/gtest.h>
+
+#include "pages/common/CTabPage.h"
+#include "toolkit/CSliderCtrl.h"
+
+CModelInfo2 MakeModel(int dialogType, int modelCode) {
+  CModelInfo2 model;
+  model.ModelName = "Model";
+  model.DialogType = dialogType;
+  model.ModelCode = modelCode;
+  return model;
+}
+
+void AddEntry(CountedList& list, int value, const char* name) {
+  const auto index = static_cast<std::size_t>(list.count++);
+  list.values[index] = value;
+  list.names[index] = MakeNameSlot(name);
+}
+
+void AddSource(SourceList& list, int value, const char* name) {
+  const auto index = static_cast<std::size_t>(list.count++);
+  list.firstValues[index] = value;
+  list.names[index] = MakeNameSlot(name);
+}
+
+void DialogDriver::Click(int id) const {
+  auto& button = Item<QAbstractButton>(id);
+  ASSERT_TRUE(button.isVisible()) << "button " << id << " cannot be clicked: it is not there";
+  QTest::mouseClick(&button, Qt::LeftButton);
+}
+
+void DialogDriver::Choose(int id, int position) const {
+  auto& combo = Item<QComboBox>(id);
+  ASSERT_TRUE(combo.isVisible() && combo.isEnabled()) << "list " << id << " is not in use";
+  ASSERT_LT(position, combo.count());
+  combo.setFocus();
+  combo.showPopup();
+  combo.view()->setCurrentIndex(combo.model()->index(position, 0));
+  QTest::keyClick(combo.view(), Qt::Key_Enter);
+}
+
+QPoint DialogDriver::HandleCentre(int id) const {
+  const auto& slider = Item<CSliderCtrl>(id);
+  QStyleOptionSlider option;
+  option.initFrom(&slider);
+  option.orientation = Qt::Horizontal;
+  option.minimum = slider.minimum();
+  option.maximum = slider.maximum();
+  option.sliderPosition = slider.sliderPosition();
+  option.sliderValue = slider.value();
+  option.tickPosition = slider.tickPosition();
+  option.subControls = QStyle::SC_All;
+  return slider.style()
+      ->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, &slider)
+      .center();
+}
+
+void DialogDriver::Drag(int id, int position) const {
+  auto& slider = Item<CSliderCtrl>(id);
+  ASSERT_TRUE(slider.isVisible() && slider.isEnabled()) << "slider " << id << " is not in use";
+  QPoint at = HandleCentre(id);
+  QTest::mousePress(&slider, Qt::LeftButton, {}, at);
+  // The pixel that stands for a position depends on the style: follow the handle.
+  for (int guard = 0; slider.sliderPosition() != position && guard < 4 * slider.width(); ++guard) {
+    at.rx() += slider.sliderPosition() < position ? 1 : -1;
+    QTest::mouseMove(&slider, at);
+  }
+  EXPECT_EQ(slider.sliderPosition(), position);
+  QTest::mouseRelease(&slider, Qt::LeftButton, {}, at);
+}
+
+void DialogDriver::Press(int id, Qt::Key key) const {
+  auto& control = Item<QWidget>(id);
+  control.setFocus();
+  QTest::keyClick(&control, key);
+}
+
+void DialogDriver::Wheel(int id, int notches) const {
+  auto& control = Item<QWidget>(id);
+  const QPointF at = control.rect().center();
+  QWheelEvent event(at, control.mapToGlobal(at), {}, {0, 120 * notches}, Qt::NoButton, {},
+                    Qt::NoScrollPhase, false);
+  QApplication::sendEvent(&control, &event);
+}
+
+bool DialogDriver::IsEnabled(int id) const { return Item<QWidget>(id).isEnabled(); }
+
+QString DialogDriver::Text(int id) const {
+  const QWidget* control = &Item<QWidget>(id);
+  if (const auto* label = qobject_cast<const QLabel*>(control)) return label->text();
+  if (const auto* field = qobject_cast<const QLineEdit*>(control)) return field->text();
+  if (const auto* combo = qobject_cast<const QComboBox*>(control)) return combo->currentText();
+  return Item<QAbstractButton>(id).text();
+}
+
+QStringList DialogDriver::Entries(int id) const {
+  const auto& combo = Item<QComboBox>(id);
+  QStringList entries;
+  for (int i = 0; i < combo.count(); ++i) entries << combo.itemText(i);
+  return entries;
+}
+
+int DialogDriver::Selected(int id) const { return Item<QComboBox>(id).currentIndex(); }
+
+int DialogDriver::SliderAt(int id) const { return Item<QSlider>(id).value(); }
+
+OpenDialog::OpenDialog(const CModelInfo2& model, int tab,
+                       std::function<void(RecordingChannel&)> script) {
+  if (script) script(*projector_);
+  dialog_.CopyData(&model, 0);
+  dialog_.Projector().SetChannel(projector_);
+  EXPECT_TRUE(dialog_.Create());
+  dialog_.show();
+  dialog_.activateWindow();
+  if (!QTest::qWaitForWindowActive(&dialog_)) ADD_FAILURE() << "the dialog did not come up";
+  if (tab != 0) SelectTab(tab);
+  projector_->Take();
+}
+
+DialogDriver OpenDialog::Driver() { return DialogDriver(*dialog_.ShownPage()); }
+
+void OpenDialog::SelectTab(int tab) { dialog_.findChild<QTabBar*>()->setCurrentIndex(tab); }
+
+MessageBoxes::MessageBoxes(bool yes) : yes_(yes) {
+  QObject::connect(&timer_, &QTimer::timeout, [this] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (box == nullptr || !box->isVisible()) return;
+    boxes_.push_back({box->text(), box->icon()});
+    QAbstractButton* button = box->button(QMessageBox::Ok);
+    if (button == nullptr) button = box->button(yes_ ? QMessageBox::Yes : QMessageBox::No);
+    QTest::mouseClick(button, Qt::LeftButton);
+  });
+  timer_.start(1);
+}
+
+std::vector<MessageBoxes::Box> MessageBoxes::Take() { return std::exchange(boxes_, {}); }
+
+void WhenModal(const char* className, std::function<void(CDialog&)> act) {
+  QTimer::singleShot(0, [className, act = std::move(act)] {
+    auto* dialog = qobject_cast<CDialog*>(QApplication::activeModalWidget());
+    if (dialog == nullptr || !dialog->inherits(className)) {
+      ADD_FAILURE() << "no " << className << " came up";
+      return;
+    }
+    act(*dialog);
+    QTest::keyClick(dialog, Qt::Key_Escape);
+  });
+}

@@ -1,0 +1,94 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <QMessageBox>
+#include <QSlider>
+#include <QString>
+#include <QStringList>
+#include <QTimer>
+
+#include "host/CAdvanceDlg.h"
+#include "pages/common/CTabPage.h"
+#include "tests/support/RecordingChannel.h"
+#include "toolkit/CComboBox.h"
+
+/// A model record with the essentials filled.
+CModelInfo2 MakeModel(int dialogType, int modelCode);
+void AddEntry(CountedList& list, int value, const char* name);
+void AddSource(SourceList& list, int value, const char* name);
+
+/// Acts on a dialog's controls as a user does: with mouse, keys and wheel on the real widgets.
+class DialogDriver {
+ public:
+  explicit DialogDriver(CDialog& dialog) : dialog_(dialog) {}
+
+  template <class Control>
+  Control& Item(int id) const {
+    return dialog_.Item<Control>(id);
+  }
+
+  void Click(int id) const;
+  /// Opens the list and picks a position.
+  void Choose(int id, int position) const;
+  /// Drags the slider's handle until it shows this position, and lets go.
+  void Drag(int id, int position) const;
+  void Press(int id, Qt::Key key) const;
+  void Wheel(int id, int notches) const;
+
+  /// Centre of the slider's handle, in the slider's coordinates.
+  QPoint HandleCentre(int id) const;
+
+  bool IsEnabled(int id) const;
+  /// Text of a label, button, field, or of a list's selected entry.
+  QString Text(int id) const;
+  QStringList Entries(int id) const;
+  int Selected(int id) const;
+  int SliderAt(int id) const;
+
+ private:
+  CDialog& dialog_;
+};
+
+/// The whole dialog, opened on a scripted projector.
+class OpenDialog {
+ public:
+  /// `tab` is selected after opening; the commands sent until then are forgotten.
+  explicit OpenDialog(const CModelInfo2& model, int tab = 0,
+                      std::function<void(RecordingChannel&)> script = {});
+
+  CAdvanceDlg& Dialog() { return dialog_; }
+  RecordingChannel& Projector() { return *projector_; }
+  CTabPage& Page() { return *dialog_.ShownPage(); }
+  DialogDriver Driver();
+  void SelectTab(int tab);
+
+ private:
+  std::shared_ptr<RecordingChannel> projector_ = std::make_shared<RecordingChannel>();
+  CAdvanceDlg dialog_;
+};
+
+/// Answers the message boxes that come up while it lives, and remembers them.
+class MessageBoxes {
+ public:
+  /// `yes` answers yes/no questions.
+  explicit MessageBoxes(bool yes = false);
+
+  struct Box {
+    QString text;
+    int icon;
+  };
+  /// The boxes answered since the last call.
+  std::vector<Box> Take();
+
+ private:
+  QTimer timer_;
+  bool yes_;
+  std::vector<Box> boxes_;
+};
+
+/// Runs `act` on the next modal dialog of this class, then closes it with Esc.
+void WhenModal(const char* className, std::function<void(CDialog&)> act);

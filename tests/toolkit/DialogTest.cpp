@@ -1,0 +1,204 @@
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include "tests/support/DialogDriver.h"
+#include "toolkit/CComboBox.h"
+#include "toolkit/CSliderCtrl.h"
+#include "toolkit/MessageBox.h"
+#include "toolkit/ResourceModule.h"
+
+namespace {
+
+using namespace tmpl;
+using enum RowPlace;
+
+constexpr const char* kEntries[] = {"Zero", "One", "Two"};
+constexpr RowTemplate kRows[] = {
+    SliderRow(Left, Label(1, "Level:"), 2, {3, 4, 5, 6}),
+    Row(Left, Label(7, "Mode:"), Colon(8), Combo(9, kEntries), Button(10, "Do")),
+    Row(Left, Label(11, "Last:"), Colon(12), Combo(13, kEntries)),
+    Row(Bottom, Close(14, "Close")),
+};
+constexpr DialogTemplate kTemplate{
+    .number = 900, .caption = "Sample", .rulerId = 99, .rulerHeight = 20, .rows = kRows};
+constexpr const DialogTemplate* kTemplates[] = {&kTemplate};
+constexpr ResourceModule kModule{kTemplates};
+
+class SampleDialog : public CDialog {
+ public:
+  explicit SampleDialog(CWnd* owner = nullptr) : CDialog(900, owner) {}
+  const NotificationMap& Notifications() const override {
+    static const NotificationMap map{Clicked(10, &SampleDialog::OnDo),
+                                     SelChange(9, &SampleDialog::OnMode), Passive(13),
+                                     HScroll(&SampleDialog::OnScroll)};
+    return map;
+  }
+  void OnDo() { ++presses; }
+  void OnMode() { ++choices; }
+  void OnScroll(CSliderCtrl& slider) { scrolls.push_back(slider.value()); }
+  void OnDestroy() override { ++destroyed; }
+
+  int presses = 0;
+  int choices = 0;
+  int destroyed = 0;
+  std::vector<int> scrolls;
+};
+
+class DialogTest : public testing::Test {
+ protected:
+  DialogTest() {
+    ResourceChain::Register(kModule);
+    EXPECT_TRUE(dialog.Create());
+    dialog.Item<CSliderCtrl>(4).SetRange(-10, 10, 2);
+    dialog.show();
+    dialog.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+  }
+  ~DialogTest() override { ResourceChain::Unregister(kModule); }
+
+  SampleDialog dialog;
+  DialogDriver driver{dialog};
+};
+
+TEST_F(DialogTest, ASliderReportsOnlyTheEndOfWhatTheUserDoes) {
+  dialog.Item<CSliderCtrl>(4).setValue(3);
+  EXPECT_TRUE(dialog.scrolls.empty()) << "moved by program";
+
+  driver.Drag(4, 7);
+  EXPECT_EQ(dialog.scrolls, std::vector{7}) << "one report a drag, at its end";
+
+  auto& slider = dialog.Item<CSliderCtrl>(4);
+  slider.setFocus();
+  QTest::keyPress(&slider, Qt::Key_Left);
+  QTest::keyPress(&slider, Qt::Key_Left);
+  EXPECT_EQ(dialog.scrolls.size(), 1U) << "the key is still down";
+  QTest::keyRelease(&slider, Qt::Key_Left);
+  EXPECT_EQ(dialog.scrolls, (std::vector{7, 5}));
+
+  QTest::keyPress(&slider, Qt::Key_Right);
+  dialog.GetDlgItem(10)->setFocus();
+  EXPECT_EQ(dialog.scrolls, (std::vector{7, 5, 6})) << "focus lost in mid-step";
+
+  QTest::mouseClick(&slider, Qt::LeftButton, {},
+                    QPoint(slider.width() - 4, driver.HandleCentre(4).y()));
+  ASSERT_EQ(dialog.scrolls.size(), 4U) << "a click in the groove";
+  EXPECT_GT(dialog.scrolls.back(), 6);
+}
+
+TEST_F(DialogTest, TheWheelNeedsTheFocus) {
+  dialog.GetDlgItem(10)->setFocus();
+  driver.Wheel(4, 1);
+  driver.Wheel(9, -1);
+  EXPECT_EQ(driver.SliderAt(4), 0);
+  EXPECT_EQ(driver.Selected(9), 0);
+  dialog.GetDlgItem(4)->setFocus();
+  driver.Wheel(4, 1);
+  EXPECT_EQ(dialog.scrolls.size(), 1U);
+  EXPECT_NE(driver.SliderAt(4), 0);
+  dialog.GetDlgItem(9)->setFocus();
+  driver.Wheel(9, -1);
+  EXPECT_EQ(driver.Selected(9), 1);
+  EXPECT_EQ(dialog.choices, 1);
+}
+
+TEST_F(DialogTest, AListReportsChoicesOfTheUserOnly) {
+  auto& combo = dialog.Item<CComboBox>(9);
+  combo.Select(2);
+  combo.Select(7);
+  EXPECT_EQ(combo.currentIndex(), -1);
+  EXPECT_EQ(dialog.choices, 0);
+  driver.Choose(9, 1);
+  driver.Choose(9, 1);
+  EXPECT_EQ(dialog.choices, 2) << "choosing the shown entry again sends it again";
+  combo.clear();
+  combo.Add(QStringLiteral("Five"), 5);
+  combo.Add(QStringLiteral("Six"), 6);
+  EXPECT_TRUE(combo.SelectValue(6));
+  EXPECT_FALSE(combo.SelectValue(7));
+  EXPECT_EQ(combo.SelectedValue(), 6);
+}
+
+TEST_F(DialogTest, EnterPressesNothingAndEscCloses) {
+  for (const int id : {9, 4, 10}) driver.Press(id, Qt::Key_Return);
+  EXPECT_EQ(dialog.presses, 0);
+  driver.Press(10, Qt::Key_Space);
+  EXPECT_EQ(dialog.presses, 1);
+  EXPECT_TRUE(dialog.isVisible());
+  driver.Press(9, Qt::Key_Escape);
+  EXPECT_FALSE(dialog.isVisible());
+  EXPECT_EQ(dialog.destroyed, 1);
+}
+
+TEST_F(DialogTest, AnAbsentRowTakesNoSpaceAndRowsKeepOnePitch) {
+  const auto top = [this](int id) { return dialog.GetDlgItem(id)->geometry().center().y(); };
+  const int pitch = top(7) - top(1);
+  EXPECT_EQ(top(11) - top(7), pitch);
+  EXPECT_LE(std::abs(top(9) - top(7)), 1) << "a list is centred on its caption";
+  const int height = dialog.height();
+  dialog.ShowRow(9, false);
+  QTest::qWait(1);
+  EXPECT_FALSE(dialog.GetDlgItem(7)->isVisible());
+  EXPECT_EQ(top(11) - top(1), pitch);
+  EXPECT_EQ(dialog.height(), height - pitch) << "a pop-up follows its rows";
+}
+
+TEST_F(DialogTest, ValueControlsAreNamedByTheirCaption) {
+  EXPECT_EQ(dialog.GetDlgItem(4)->accessibleName(), QStringLiteral("Level"));
+  EXPECT_EQ(dialog.GetDlgItem(6)->accessibleName(), QStringLiteral("Level"));
+  EXPECT_EQ(dialog.GetDlgItem(9)->accessibleName(), QStringLiteral("Mode"));
+  EXPECT_EQ(dialog.GetDlgItem(10)->accessibleName(), QStringLiteral("Mode Do"));
+}
+
+TEST_F(DialogTest, RunsModallyAgainAndAgain) {
+  SampleDialog modal;
+  for (int run = 1; run <= 2; ++run) {
+    QTimer::singleShot(0, &modal, [&] {
+      EXPECT_EQ(modal.parentWidget(), &dialog) << "it belongs to the dialog opened before it";
+      EXPECT_FALSE(dialog.windowHandle()->isActive() && !modal.isVisible());
+      DialogDriver(modal).Click(10);
+      DialogDriver(modal).Click(14);
+    });
+    EXPECT_EQ(modal.DoModal(), QDialog::Accepted);
+    EXPECT_EQ(modal.presses, run);
+    EXPECT_EQ(modal.destroyed, run);
+    EXPECT_EQ(modal.parentWidget(), nullptr) << "and is its creator's again";
+  }
+}
+
+TEST_F(DialogTest, MessageBoxesTellAndAsk) {
+  MessageBoxes no(false);
+  ShowStopMessage(&dialog, QStringLiteral("Refused <b>"));
+  EXPECT_FALSE(AskYesNo(&dialog, QStringLiteral("Sure?")));
+  const auto boxes = no.Take();
+  ASSERT_EQ(boxes.size(), 2U);
+  EXPECT_EQ(boxes[0].text, QStringLiteral("Refused <b>"));
+  EXPECT_EQ(boxes[0].icon, QMessageBox::Critical);
+  EXPECT_EQ(boxes[1].icon, QMessageBox::Information);
+}
+
+TEST(Dialog, WithoutATemplateStaysEmpty) {
+  CDialog dialog(12345);
+  EXPECT_FALSE(dialog.Create());
+  EXPECT_EQ(dialog.DoModal(), -1);
+  EXPECT_EQ(dialog.GetDlgItem(1), nullptr);
+}
+
+TEST(ResourceChain, LooksInTheCurrentModuleFirst) {
+  static constexpr DialogTemplate other{.number = 900};
+  static constexpr const DialogTemplate* others[] = {&other};
+  static constexpr ResourceModule module{others};
+  ResourceChain::Register(kModule);
+  const ResourceModule* before = ResourceChain::SetCurrent(&module);
+  EXPECT_EQ(ResourceChain::FindDialog(900), &other);
+  EXPECT_EQ(ResourceChain::SetCurrent(before), &module);
+  EXPECT_EQ(ResourceChain::FindDialog(900), &kTemplate);
+  ResourceChain::Unregister(kModule);
+  EXPECT_EQ(ResourceChain::FindDialog(900), nullptr);
+}
+
+}  // namespace

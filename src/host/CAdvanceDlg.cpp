@@ -1,0 +1,354 @@
+#include "host/CAdvanceDlg.h"
+
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
+#include <QLayout>
+#include <QPushButton>
+#include <QShortcut>
+#include <QStyleOptionTabWidgetFrame>
+#include <QStylePainter>
+
+#include "device/ModelDataIntake.h"
+#include "i18n/LocalizeControlTexts.h"
+#include "pages/PlainPages.h"
+#include "pages/picture/CPictureTabType5Dlg.h"
+#include "pages/status/CStatusTabDlg.h"
+#include "resources/AdvancedControlResources.h"
+#include "resources/CatalogNumbers.h"
+#include "toolkit/CTabCtrl.h"
+
+namespace {
+
+constexpr int kTabControlId = 20001;
+constexpr int kCloseId = 1;
+constexpr int kTabWidth = 120;
+constexpr QPoint kPagePosition{20, 64};
+constexpr int kMargin = 12;
+
+constexpr int kNetworkConnection = 1;
+
+template <class Array>
+void CopyWhole(Array& to, const void* from) {
+  if (from != nullptr) {
+    std::memcpy(to.data(), from, sizeof to);
+  } else {
+    to = {};
+  }
+}
+
+void CopyList(CountedList& list, int count, const int* values, const char* names) {
+  list.count = count;
+  CopyWhole(list.values, values);
+  CopyWhole(list.names, names);
+}
+
+void Configure(CPjtInterface& projector, const ConnectionData& connection) {
+  projector.CopyData(connection.Kind, connection.Number, connection.Parameter,
+                     connection.Text1.c_str(), connection.Text2.c_str());
+}
+
+void CopySources(SourceList& list, int count, const char* names, const int* firstValues,
+                 const int* secondValues) {
+  list.count = count;
+  CopyWhole(list.names, names);
+  CopyWhole(list.firstValues, firstValues);
+  CopyWhole(list.secondValues, secondValues);
+}
+
+}  // namespace
+
+struct CAdvanceDlg::Pages {
+  explicit Pages(CWnd* dialog);
+
+  CStatusTabDlg status;
+  CMainTabDlg main;
+  CMain2TabDlg main2;
+  CPicture1TabDlg picture1;
+  CPicture12TabDlg picture12;
+  CPicture2TabDlg picture2;
+  CPicture22TabDlg picture22;
+  CInputTabDlg input;
+  CInput2TabDlg input2;
+  CAutoTabDlg automatic;
+  CAuto2TabDlg automatic2;
+  COptionTabDlg option;
+  COption2TabDlg option2;
+  CScreenTabDlg screen;
+  COtherTabDlg other;
+  CImageTabDlg image;
+  CImage4TabDlg image4;
+  CVideoTabDlg video;
+  CInput4TabDlg input4;
+  CScreen4TabDlg screen4;
+  CSetup4TabDlg setup4;
+  COption4TabDlg option4;
+  COther4TabDlg other4;
+  CPicTabDlg pic;
+  CPictureTabType5Dlg pictureType5;
+  CInputType5Dlg inputType5;
+  CSetupType5TabDlg setupType5;
+  CAudioType5Dlg audioType5;
+  COption5TabDlg option5;
+  CSetupTabDlg setup;
+  CInput3TabDlg input3;
+  COption3TabDlg option3;
+
+  // In the order of PageId.
+  std::array<CTabPage*, kPageCount> byId{
+      &status,  &main,   &main2,     &picture1,     &picture12,  &picture2,   &picture22,
+      &input,   &input2, &automatic, &automatic2,   &option,     &option2,    &screen,
+      &other,   &image,  &image4,    &video,        &input4,     &screen4,    &setup4,
+      &option4, &other4, &pic,       &pictureType5, &inputType5, &setupType5, &audioType5,
+      &option5, &setup,  &input3,    &option3};
+};
+
+CAdvanceDlg::Pages::Pages(CWnd* dialog)
+    : status(dialog),
+      main(dialog),
+      main2(dialog),
+      picture1(dialog),
+      picture12(dialog),
+      picture2(dialog),
+      picture22(dialog),
+      input(dialog),
+      input2(dialog),
+      automatic(dialog),
+      automatic2(dialog),
+      option(dialog),
+      option2(dialog),
+      screen(dialog),
+      other(dialog),
+      image(dialog),
+      image4(dialog),
+      video(dialog),
+      input4(dialog),
+      screen4(dialog),
+      setup4(dialog),
+      option4(dialog),
+      other4(dialog),
+      pic(dialog),
+      pictureType5(dialog),
+      inputType5(dialog),
+      setupType5(dialog),
+      audioType5(dialog),
+      option5(dialog),
+      setup(dialog),
+      input3(dialog),
+      option3(dialog) {
+  for (CTabPage* page : byId) {
+    page->setWindowFlags(Qt::Widget);
+    page->hide();  // or it would come up together with the dialog
+  }
+}
+
+CAdvanceDlg::CAdvanceDlg(CWnd* parent)
+    : CDialog(TemplateId::Advance, parent), pages_(std::make_unique<Pages>(this)) {
+  const auto addShortcut = [this](const QKeySequence& keys, int step) {
+    connect(new QShortcut(keys, this), &QShortcut::activated, this,
+            [this, step] { SelectNeighbourTab(step); });
+  };
+  addShortcut(QKeySequence(Qt::CTRL | Qt::Key_Tab), 1);
+  addShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab), -1);
+  addShortcut(QKeySequence(Qt::CTRL | Qt::Key_PageDown), 1);
+  addShortcut(QKeySequence(Qt::CTRL | Qt::Key_PageUp), -1);
+}
+
+CAdvanceDlg::~CAdvanceDlg() { Destroy(); }
+
+void CAdvanceDlg::DoDataExchange() { tabs_ = &Item<CTabCtrl>(kTabControlId); }
+
+const NotificationMap& CAdvanceDlg::Notifications() const {
+  static const NotificationMap map{
+      SelChange(kTabControlId, &CAdvanceDlg::OnSelchangeAdvanceTab),
+  };
+  return map;
+}
+
+void CAdvanceDlg::CopyData(std::string modelName, int dialogType, int mySourceCount,
+                           const char* mySourceNames, const int* mySourceFirstValues,
+                           const int* mySourceSecondValues, int aspectCount,
+                           const int* aspectValues, const char* aspectNames, int gammaCount,
+                           const int* gammaValues, const char* gammaNames, int colorTempCount,
+                           const int* colorTempValues, const char* colorTempNames) {
+  model_.ModelName = std::move(modelName);
+  model_.DialogType = dialogType;
+  CopySources(model_.MySourceList, mySourceCount, mySourceNames, mySourceFirstValues,
+              mySourceSecondValues);
+  CopyList(model_.AspectList, aspectCount, aspectValues, aspectNames);
+  CopyList(model_.GammaList, gammaCount, gammaValues, gammaNames);
+  CopyList(model_.ColorTempList, colorTempCount, colorTempValues, colorTempNames);
+}
+
+void CAdvanceDlg::CopyData2(std::string modelName, int modelCode, int dialogType, int mySourceCount,
+                            const char* mySourceNames, const int* mySourceFirstValues,
+                            const int* mySourceSecondValues, int whisperCount,
+                            const int* whisperValues, const char* whisperNames, int aspectCount,
+                            const int* aspectValues, const char* aspectNames, int gammaCount,
+                            const int* gammaValues, const char* gammaNames, int colorTempCount,
+                            const int* colorTempValues, const char* colorTempNames) {
+  CopyData(std::move(modelName), dialogType, mySourceCount, mySourceNames, mySourceFirstValues,
+           mySourceSecondValues, aspectCount, aspectValues, aspectNames, gammaCount, gammaValues,
+           gammaNames, colorTempCount, colorTempValues, colorTempNames);
+  model_.ModelCode = modelCode;
+  CopyList(model_.WhisperList, whisperCount, whisperValues, whisperNames);
+}
+
+void CAdvanceDlg::CopyRangeTexts(std::array<std::string, kCopiedRangeTexts> rangeTexts) {
+  std::ranges::move(rangeTexts, model_.RangeTexts.begin());
+}
+
+void CAdvanceDlg::CopyData(const CModelInfo2* model, int connection) {
+  if (model == nullptr) return;
+  model_ = MakeModelData(*model);
+  Configure(projector_, MakeConnectionData(*model, connection));
+}
+
+void CAdvanceDlg::CopyData(const CProjectorItem* item) {
+  if (item == nullptr) return;
+  model_ = MakeModelData(*item);
+  Configure(projector_, MakeConnectionData(*item));
+}
+
+bool CAdvanceDlg::OnInitDialog() {
+  CDialog::OnInitDialog();
+  savedResources_ = ResourceChain::SetCurrent(&AdvancedControlResources());
+  resourcesSaved_ = true;
+  LocalizeControlTexts(kCaptionCategory, *this);
+  projector_.HostOption = hostOption_ ? 1 : 0;
+  projector_.DialogType = model_.DialogType;
+  projector_.CopyAspectData(model_.AspectList.count, model_.AspectList.values.data());
+  projector_.CopyGammaData(model_.GammaList.count, model_.GammaList.values.data());
+  CreatePages();
+  InsertTabs();
+  SetTitle();
+  FitToPages();
+  OrderFocus();
+  DispTabScreen();
+  return true;
+}
+
+void CAdvanceDlg::CreatePages() {
+  CreatePage(PageId::Status);
+  for (const PageId page : PagesOf(model_.DialogType)) CreatePage(page);
+}
+
+void CAdvanceDlg::CreatePage(PageId id) {
+  CTabPage& page = Page(id);
+  page.projector = &projector_;
+  page.Create();
+  page.hide();
+  page.raise();
+  page.move(kPagePosition);
+  page.resize(page.DialogSize());
+}
+
+void CAdvanceDlg::InsertTabs() {
+  tabs_->SetItemWidth(kTabWidth);
+  const auto insert = [this](int caption) {
+    tabs_->addTab(CatalogString(kCaptionCategory, caption));
+  };
+  const QSignalBlocker quiet(tabs_);  // the first tab selects itself before the dialog is ready
+  insert(Caption::TabStatus);
+  for (const PageTab& tab : TabsOf(model_.DialogType, model_.ModelCode)) insert(tab.caption);
+}
+
+void CAdvanceDlg::SetTitle() {
+  setWindowTitle(projector_.ConnectionKind() == kNetworkConnection
+                     ? CatalogString(kCaptionCategory, Caption::TitleNetwork, model_.ModelName,
+                                     projector_.ConnectionText1())
+                     : CatalogString(kCaptionCategory, Caption::TitleSerial, model_.ModelName,
+                                     projector_.ConnectionNumber() + 1));
+}
+
+void CAdvanceDlg::FitToPages() {
+  QSize pages;
+  for (const CTabPage* page : pages_->byId) {
+    if (page->Template() != nullptr) pages = pages.expandedTo(page->size());
+  }
+  const int width = std::max(tabs_->sizeHint().width() + 2 * kMargin,
+                             kPagePosition.x() + pages.width() + kPagePosition.x());
+  const int height = kPagePosition.y() + pages.height() + kPagePosition.x() +
+                     GetDlgItem(kCloseId)->sizeHint().height() + 2 * kMargin;
+  setMinimumSize(width, height);
+  resize(width, height);
+}
+
+void CAdvanceDlg::OrderFocus() {
+  QWidget* last = tabs_;
+  for (const CTabPage* page : pages_->byId) {
+    if (page->Template() == nullptr) continue;
+    for (const RowTemplate& row : page->Template()->rows) {
+      for (const ControlTemplate& control : row.controls) {
+        QWidget* next = page->GetDlgItem(control.id);
+        if (next == nullptr || next->focusPolicy() == Qt::NoFocus) continue;
+        setTabOrder(last, next);
+        last = next;
+      }
+    }
+  }
+  setTabOrder(last, GetDlgItem(kCloseId));
+}
+
+void CAdvanceDlg::DispTabScreen() {
+  for (CTabPage* page : pages_->byId) {
+    if (page->Template() != nullptr) page->hide();
+  }
+  shownPage_ = nullptr;
+  const int selection = tabs_->currentIndex();
+  const auto tabs = TabsOf(model_.DialogType, model_.ModelCode);
+  if (selection == 0) {
+    shownPage_ = &Page(PageId::Status);
+  } else if (selection > 0 && static_cast<std::size_t>(selection) <= tabs.size()) {
+    shownPage_ = &Page(tabs[static_cast<std::size_t>(selection) - 1].page);
+  }
+  if (shownPage_ == nullptr) return;
+  shownPage_->show();
+  shownPage_->InitDisp();
+  if (shownPage_->layout() != nullptr) shownPage_->layout()->activate();
+}
+
+void CAdvanceDlg::OnSelchangeAdvanceTab() { DispTabScreen(); }
+
+void CAdvanceDlg::OnDestroy() {
+  CDialog::OnDestroy();
+  if (std::exchange(resourcesSaved_, false)) ResourceChain::SetCurrent(savedResources_);
+}
+
+CTabPage& CAdvanceDlg::Page(PageId page) const {
+  return *pages_->byId[static_cast<std::size_t>(page)];
+}
+
+void CAdvanceDlg::SelectNeighbourTab(int step) {
+  const int count = tabs_ != nullptr ? tabs_->count() : 0;
+  if (count == 0) return;
+  tabs_->setFocus(Qt::ShortcutFocusReason);
+  tabs_->setCurrentIndex((tabs_->currentIndex() + step + count) % count);
+}
+
+void CAdvanceDlg::resizeEvent(QResizeEvent* event) {
+  CDialog::resizeEvent(event);
+  if (tabs_ == nullptr) return;
+  const QSize tabs = tabs_->sizeHint();
+  tabs_->setGeometry(kMargin, kPagePosition.y() - kMargin - tabs.height(), width() - 2 * kMargin,
+                     tabs.height());
+  QWidget* close = GetDlgItem(kCloseId);
+  const QSize button = close->sizeHint().expandedTo(QSize(90, 0));
+  close->setGeometry(width() - kMargin - button.width(), height() - kMargin - button.height(),
+                     button.width(), button.height());
+}
+
+void CAdvanceDlg::paintEvent(QPaintEvent* event) {
+  CDialog::paintEvent(event);
+  if (tabs_ == nullptr) return;
+  QStylePainter painter(this);
+  QStyleOptionTabWidgetFrame frame;
+  frame.initFrom(this);
+  const int top = tabs_->geometry().bottom();
+  frame.rect = QRect(kMargin, top, width() - 2 * kMargin,
+                     GetDlgItem(kCloseId)->geometry().top() - kMargin - top);
+  frame.lineWidth = 1;
+  frame.tabBarSize = tabs_->size();
+  painter.drawPrimitive(QStyle::PE_FrameTabWidget, frame);
+}

@@ -1,0 +1,115 @@
+#pragma once
+
+#include <array>
+#include <memory>
+#include <string>
+
+#include "device/CModelInfo2.h"
+#include "device/CPjtInterface.h"
+#include "device/CProjectorItem.h"
+#include "device/ModelData.h"
+#include "device/ModelDataSource.h"
+#include "host/PageSets.h"
+#include "toolkit/CDialog.h"
+
+class CTabCtrl;
+class CTabPage;
+class ResourceModule;
+
+/// The "Advanced Control" dialog of one projector: a tab per group of settings, each read live and
+/// changed at once.
+///
+/// Use: construct, hand over the model with one of the `CopyData` forms, give `Projector()` the
+/// channel to the projector, then `DoModal`. The dialog keeps its own copy of all it is given and
+/// talks to the projector from the thread it lives on, the user-interface thread.
+class CAdvanceDlg : public CDialog, public ModelDataSource {
+  Q_OBJECT
+
+ public:
+  /// `parent`, not owned, is the window that takes no input while the dialog runs; may be null.
+  explicit CAdvanceDlg(CWnd* parent = nullptr);
+  ~CAdvanceDlg() override;
+
+  /// Oldest intake form: no `ModelCode`, no whisper list. `mySourceNames` has 1024 bytes (16 names
+  /// of 64), its value columns 16 integers each; each further list 32 integers and 2048 bytes (32
+  /// names of 64). Arrays are copied whole, whatever the counts say; null leaves zeros.
+  void CopyData(std::string modelName, int dialogType, int mySourceCount, const char* mySourceNames,
+                const int* mySourceFirstValues, const int* mySourceSecondValues, int aspectCount,
+                const int* aspectValues, const char* aspectNames, int gammaCount,
+                const int* gammaValues, const char* gammaNames, int colorTempCount,
+                const int* colorTempValues, const char* colorTempNames);
+
+  /// The same with `ModelCode` and the whisper list.
+  void CopyData2(std::string modelName, int modelCode, int dialogType, int mySourceCount,
+                 const char* mySourceNames, const int* mySourceFirstValues,
+                 const int* mySourceSecondValues, int whisperCount, const int* whisperValues,
+                 const char* whisperNames, int aspectCount, const int* aspectValues,
+                 const char* aspectNames, int gammaCount, const int* gammaValues,
+                 const char* gammaNames, int colorTempCount, const int* colorTempValues,
+                 const char* colorTempNames);
+
+  static constexpr std::size_t kCopiedRangeTexts = 32;
+
+  /// Range texts 0..31, in order; the two tone ranges are not touched. Takes exactly 32 strings.
+  template <class... Texts>
+  void CopyData3(Texts&&... rangeTexts) {
+    static_assert(sizeof...(Texts) == kCopiedRangeTexts);
+    CopyRangeTexts({std::string(std::forward<Texts>(rangeTexts))...});
+  }
+
+  /// Everything from a model record, with connection entry `connection` (0..4; another index
+  /// gives an empty connection). Null changes nothing.
+  void CopyData(const CModelInfo2* model, int connection);
+
+  /// Everything from a projector of the host's list: its own name and connection, and the record
+  /// of its model. Null changes nothing; an item without a record gives a model of which only the
+  /// name is known.
+  void CopyData(const CProjectorItem* item);
+
+  /// The connection object that all pages use; owned by the dialog.
+  CPjtInterface& Projector() { return projector_; }
+
+  const ModelData& Model() const override { return model_; }
+
+  /// Passed on to the connection object when the dialog is initialised.
+  void SetHostOption(bool option) { hostOption_ = option; }
+
+  bool OnInitDialog() override;
+  /// Shows the page of the selected tab, read afresh, and hides all others.
+  void DispTabScreen();
+  void OnSelchangeAdvanceTab();
+  void OnDestroy() override;
+
+  /// The page behind the selected tab, or null.
+  CTabPage* ShownPage() const { return shownPage_; }
+  /// Any page of the dialog; only those of the model's page set have controls once it is open.
+  CTabPage& Page(PageId page) const;
+
+  const NotificationMap& Notifications() const override;
+
+ protected:
+  void DoDataExchange() override;
+  void resizeEvent(QResizeEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  struct Pages;
+
+  void CopyRangeTexts(std::array<std::string, kCopiedRangeTexts> rangeTexts);
+  void CreatePages();
+  void CreatePage(PageId id);
+  void InsertTabs();
+  void SetTitle();
+  void FitToPages();
+  void OrderFocus();
+  void SelectNeighbourTab(int step);
+
+  const ResourceModule* savedResources_ = nullptr;
+  bool resourcesSaved_ = false;
+  ModelData model_;
+  CPjtInterface projector_;
+  std::unique_ptr<Pages> pages_;
+  bool hostOption_ = false;
+  CTabCtrl* tabs_ = nullptr;
+  CTabPage* shownPage_ = nullptr;
+};

@@ -1,0 +1,24 @@
+#include "i18n/Catalog.h"
+#include "resources/AdvancedControlResources.h"
+#include "toolkit/ResourceModule.h"
+
+namespace {
+
+/// Lives as long as the library is loaded. Without a catalog the dialogs show their template texts.
+class LibraryAttachment {
+ public:
+  LibraryAttachment() {
+    LoadCatalog();
+    ResourceChain::Register(AdvancedControlResources());
+  }
+  ~LibraryAttachment() {
+    ResourceChain::Unregister(AdvancedControlResources());
+    ReleaseCatalog();
+  }
+  LibraryAttachment(const LibraryAttachment&) = delete;
+  LibraryAttachment& operator=(const LibraryAttachment&) = delete;
+};
+
+const LibraryAttachment attachment;
+
+}  // namespace

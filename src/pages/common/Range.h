@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string_view>
+
+/// Bounds of an adjustment, both included.
+struct Range {
+  int minimum = 0;
+  int maximum = 0;
+
+  friend bool operator==(const Range&, const Range&) = default;
+};
+
+/// A model's range text, "minimum,maximum" in device units, as shown values: device value − bias.
+/// A text that is empty, is not two decimal 16-bit integers around the first comma, or holds them
+/// in the wrong order gives `fallback`, which is in shown values already.
+Range ParseRange(std::string_view text, int bias, Range fallback);

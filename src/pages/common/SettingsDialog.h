@@ -1,0 +1,30 @@
+#pragma once
+
+#include "device/CPjtInterface.h"
+#include "device/ModelData.h"
+#include "i18n/LocalizeControlTexts.h"
+#include "resources/CatalogNumbers.h"
+#include "toolkit/CDialog.h"
+
+/// What every page and pop-up needs: the projector, the model data, texts and error boxes.
+/// Nothing in here belongs to one page.
+class SettingsDialog : public CDialog {
+  Q_OBJECT
+
+ public:
+  using CDialog::CDialog;
+
+  /// The connection that the page works on. Not owned; set by the opener before creation.
+  CPjtInterface* projector = nullptr;
+
+ protected:
+  /// The model data of the dialog this one belongs to, at any distance; empty data when there is
+  /// none, so that a page on its own shows its generic form.
+  const ModelData& Model() const;
+
+  /// Catalog text of the list category.
+  static QString ListString(int number) { return CatalogString(kListCategory, number); }
+
+  /// Tells a refusal: stop-icon box with the error category's text.
+  void ShowError(int errorNumber);
+};

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+
+#include "pages/common/Range.h"
+#include "toolkit/DialogTemplate.h"
+
+class CDialog;
+class CSliderCtrl;
+class QAbstractButton;
+class QLineEdit;
+
+/// − button, slider, + button and number field of one setting, and the last value known of it.
+/// Values are shown values; what is sent, and what a refusal does, is the page's business.
+class SliderRow {
+ public:
+  /// Finds the row's controls in `dialog`, which owns them and outlives the row's use.
+  void Bind(const CDialog& dialog, const tmpl::SliderIds& ids);
+
+  /// Slider bounds and the distance of its ticks.
+  void SetRange(Range range, int tickFrequency);
+  Range Bounds() const { return bounds_; }
+
+  bool Owns(const CSliderCtrl& slider) const { return slider_ == &slider; }
+  int Position() const;
+
+  /// Slider and field show `value`.
+  void Show(int value);
+  void MoveSlider(int value);
+  void ShowNumber(int value);
+  void ClearNumber();
+
+  /// Takes −, slider and + in or out of use; a disabled row's field is empty.
+  void Enable();
+  void Disable();
+
+  /// Last value known, which a refused change goes back to. Pages decide what they remember.
+  std::int16_t current = 0;
+
+ private:
+  QAbstractButton* minus_ = nullptr;
+  CSliderCtrl* slider_ = nullptr;
+  QAbstractButton* plus_ = nullptr;
+  QLineEdit* field_ = nullptr;
+  Range bounds_;
+};

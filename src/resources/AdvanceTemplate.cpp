@@ -1,0 +1,17 @@
+#include "resources/AdvancedControlResources.h"
+#include "resources/Templates.h"
+
+namespace {
+
+using namespace tmpl;
+using enum RowPlace;
+
+constexpr RowTemplate kRows[] = {
+    Row(Left, Tab(20001)),
+    Row(Bottom, Close(1, "27;Close")),
+};
+
+}  // namespace
+
+const DialogTemplate kAdvanceTemplate{
+    .number = TemplateId::Advance, .caption = "Advanced Control", .rows = kRows};

@@ -1,0 +1,81 @@
+#include "resources/AdvancedControlResources.h"
+#include "resources/Templates.h"
+
+namespace {
+
+using namespace tmpl;
+using enum RowPlace;
+
+constexpr const char* kGammas[] = {"#1-Custom",  "#2-Custom",  "#3-Custom",  "#4-Custom",
+                                   "#5-Custom",  "#1-Default", "#2-Default", "#3-Default",
+                                   "#4-Default", "#5-Default"};
+constexpr const char* kIrises[] = {"Off", "Theater", "Presentation"};
+constexpr const char* kMemories[] = {"Load1", "Load2", "Load3", "Load4",
+                                     "Save1", "Save2", "Save3", "Save4"};
+constexpr const char* kResets[] = {"Brightness", "Contrast", "Color", "Tint", "Sharpness"};
+constexpr const char* kPatterns[] = {"Off", "9step Gray Scale", "15step Gray Scale", "Ramp"};
+
+constexpr RowTemplate kPictureRows[] = {
+    SliderRow(Left, Label(20534, "73;Brightness\t:"), 20535, {20134, 20136, 20135, 20329}),
+    SliderRow(Left, Label(20536, "74;Contrast\t:"), 20537, {20137, 20138, 20139, 20330}),
+    Row(Left, Label(20468, "41;Gamma\t\t:"), Colon(20476), Combo(20142, kGammas),
+        Button(20133, "120;Custom...")),
+    Row(Left, Label(20593, "115;Color Temp\t:"), Colon(20594), Combo(20144),
+        Button(20143, "120;Custom...")),
+    SliderRow(Left, Label(20595, "116;Color\t\t:"), 20596, {20147, 20151, 20149, 20331}),
+    SliderRow(Left, Label(20597, "117;Tint\t\t:"), 20598, {21061, 21062, 21063, 20332}),
+    SliderRow(Left, Label(20599, "118;Sharpness\t:"), 20600, {20148, 20152, 20150, 20333}),
+    Row(Left, Label(20621, "128;Active Iris\t:"), Colon(20622), Combo(20293, kIrises)),
+    Row(Left, Label(20601, "119;My Memory\t:"), Colon(20602), Combo(21064, kMemories),
+        Button(21065, "17;Execute")),
+    Row(Bottom, Label(20487, "51;Reset\t\t:"), Colon(20423), Combo(20157, kResets),
+        Button(21070, "17;Execute")),
+};
+
+// A row of a custom pop-up: no colon, a Reset button of its own.
+constexpr RowTemplate CustomRow(const ControlTemplate& label, const SliderIds& ids, int reset) {
+  return Row(Left, label, Minus(ids.minus), Slider(ids.slider), Plus(ids.plus), Field(ids.field),
+             Button(reset, "1026;Reset"));
+}
+
+constexpr RowTemplate kGammaRows[] = {
+    Row(Left, Label(20660, "1029;User Gamma Pattern"), Combo(20158, kPatterns)),
+    CustomRow(Label(20661, "1030;User Gamma Point 1"), {20160, 20181, 20161, 20162}, 20336),
+    CustomRow(Label(20662, "1031;User Gamma Point 2"), {20163, 21024, 20164, 20165}, 20337),
+    CustomRow(Label(20663, "1032;User Gamma Point 3"), {20166, 21025, 20167, 20168}, 20338),
+    CustomRow(Label(20664, "1033;User Gamma Point 4"), {20169, 21026, 20170, 20171}, 20339),
+    CustomRow(Label(20665, "1034;User Gamma Point 5"), {20172, 21027, 20173, 20174}, 20340),
+    CustomRow(Label(20666, "1035;User Gamma Point 6"), {20175, 21028, 20176, 20177}, 20341),
+    CustomRow(Label(20667, "1036;User Gamma Point 7"), {20178, 21029, 20179, 20180}, 20342),
+    CustomRow(Label(20668, "1037;User Gamma Point 8"), {20182, 21030, 20183, 20184}, 20343),
+    Row(Bottom, Close(1, "27;Close")),
+};
+
+constexpr RowTemplate kColorTempRows[] = {
+    Row(Left, Label(20660, "1029;User Gamma Pattern"), Combo(20158, kPatterns)),
+    CustomRow(Label(20661, "1020;Color Temp Gain R"), {20182, 20181, 20188, 20194}, 20334),
+    CustomRow(Label(20662, "1021;Color Temp Gain G"), {20183, 21024, 20189, 20195}, 20335),
+    CustomRow(Label(20663, "1022;Color Temp Gain B"), {20184, 21025, 20190, 20196}, 20336),
+    CustomRow(Label(20664, "1023;Color Temp Offset R"), {20185, 21026, 20191, 20197}, 20337),
+    CustomRow(Label(20665, "1024;Color Temp Offset G"), {20186, 21027, 20192, 20198}, 20338),
+    CustomRow(Label(20666, "1025;Color Temp Offset B"), {20187, 21028, 20193, 20199}, 20339),
+    Row(Bottom, Close(1, "27;Close")),
+};
+
+}  // namespace
+
+const DialogTemplate kPictureType5Template{.number = TemplateId::PictureType5,
+                                           .width = kPageWidth,
+                                           .height = kPageHeight,
+                                           .rulerId = 20676,
+                                           .rows = kPictureRows};
+
+const DialogTemplate kGammaTemplate{.number = TemplateId::Gamma,
+                                    .caption = "28;Gamma -Custom-",
+                                    .rulerId = 20652,
+                                    .rows = kGammaRows};
+
+const DialogTemplate kColorTempTemplate{.number = TemplateId::ColorTemp,
+                                        .caption = "19;Color Temp -Custom-",
+                                        .rulerId = 20651,
+                                        .rows = kColorTempRows};

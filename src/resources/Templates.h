@@ -1,0 +1,9 @@
+#pragma once
+
+#include "toolkit/DialogTemplate.h"
+
+extern const DialogTemplate kAdvanceTemplate;
+extern const DialogTemplate kStatusTemplate;
+extern const DialogTemplate kPictureType5Template;
+extern const DialogTemplate kGammaTemplate;
+extern const DialogTemplate kColorTempTemplate;

@@ -1,0 +1,202 @@
+#include <gmock/gmock.h>
+
+#include <QApplication>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include "host/PageSets.h"
+#include "pages/common/CTabPage.h"
+#include "resources/AdvancedControlResources.h"
+#include "tests/support/DialogDriver.h"
+#include "toolkit/ResourceModule.h"
+
+namespace {
+
+struct TabCase {
+  int dialogType;
+  std::vector<int> modelCodes;
+  std::vector<int> captions;
+  std::vector<int> templates;
+};
+
+const std::vector<int> kLongOld{156, 157, 158, 159, 160, 161, 162, 163, 164};
+const std::vector<int> kShortOld{156, 157, 158, 159, 160, 162, 163, 164};
+const std::vector<int> kNew{156, 166, 167, 160, 165, 162, 163, 164};
+
+const TabCase kTabCases[] = {
+    {0, {0, 30}, {156}, {20000}},
+    {6, {6}, {156}, {20000}},
+    {-1, {1}, {156}, {20000}},
+    {1,
+     {0, 1, 3, 16, 30},
+     kLongOld,
+     {20000, 22153, 22154, 22155, 22156, 22157, 22158, 22159, 22152}},
+    {2, {6, 7}, kLongOld, {20000, 20003, 20005, 20009, 20011, 20013, 22158, 20014, 22152}},
+    {2, {5, 8, 14, 20}, kShortOld, {20000, 20003, 20005, 20009, 20011, 22158, 20014, 22152}},
+    {3,
+     {10, 47, 48, 71},
+     {156, 165, 160, 167, 163, 164},
+     {20000, 20016, 20018, 20020, 20022, 22152}},
+    {3, {4, 5, 8}, {156, 166, 160, 167, 163, 164}, {20000, 20016, 20018, 20020, 20022, 22152}},
+    {4,
+     {9, 22},
+     {156, 166, 167, 3168, 160, 165, 162, 163, 164},
+     {20000, 22160, 20029, 20031, 20033, 20037, 20035, 20039, 20041}},
+    {4, {11, 21, 29}, kNew, {20000, 22160, 20029, 20033, 20037, 20035, 20039, 20041}},
+    {5,
+     {30, 31, 41, 43, 46, 49, 50, 51, 52, 53, 54},
+     {156, 166, 167, 160, 165, 3169, 162, 163, 164},
+     {20000, 107, 20029, 20046, 20048, 20050, 20035, 20052, 20041}},
+    {5,
+     {0, 29, 32, 40, 42, 44, 47, 48, 55},
+     kNew,
+     {20000, 107, 20029, 20046, 20048, 20035, 20052, 20041}},
+};
+
+TEST(Tabs, EveryModelHasItsTabsAndEveryTabItsPage) {
+  for (const TabCase& expected : kTabCases) {
+    for (const int code : expected.modelCodes) {
+      SCOPED_TRACE("type " + std::to_string(expected.dialogType) + " code " + std::to_string(code));
+      OpenDialog open(MakeModel(expected.dialogType, code));
+      const auto& tabs = *open.Dialog().findChild<QTabBar*>();
+      ASSERT_EQ(tabs.count(), static_cast<int>(expected.captions.size()));
+      for (int i = 0; i < tabs.count(); ++i) {
+        const auto position = static_cast<std::size_t>(i);
+        EXPECT_EQ(tabs.tabText(i), CatalogString(4, expected.captions[position]));
+        open.SelectTab(i);
+        EXPECT_EQ(open.Page().TemplateNumber(), expected.templates[position]);
+        int visible = 0;
+        for (std::size_t page = 0; page < kPageCount; ++page) {
+          visible += open.Dialog().Page(static_cast<PageId>(page)).isVisible();
+        }
+        EXPECT_EQ(visible, 1);
+      }
+    }
+  }
+}
+
+TEST(Tabs, APageWithoutATabExistsAndIsNeverShown) {
+  OpenDialog open(MakeModel(2, 5));
+  CTabPage& hidden = open.Dialog().Page(PageId::Auto2);
+  EXPECT_NE(hidden.Template(), nullptr);
+  EXPECT_EQ(hidden.pos(), QPoint(20, 64));
+  EXPECT_EQ(open.Dialog().Page(PageId::Main).Template(), nullptr) << "of another page set";
+  for (int i = 0; i < 8; ++i) {
+    open.SelectTab(i);
+    EXPECT_FALSE(hidden.isVisible());
+  }
+}
+
+TEST(Tabs, EveryTabChangeReadsTheProjectorAgain) {
+  OpenDialog open(MakeModel(5, 30));
+  open.SelectTab(1);
+  EXPECT_THAT(open.Projector().Take(), testing::Contains("Get 0x2003"));
+  open.SelectTab(0);
+  EXPECT_THAT(open.Projector().Take(),
+              testing::AllOf(testing::Contains("Get 0x6000"),
+                             testing::Not(testing::Contains("Get 0x2003"))))
+      << "hidden pages are not read";
+  open.SelectTab(1);
+  EXPECT_THAT(open.Projector().Take(), testing::Contains("Get 0x2003"));
+}
+
+TEST(Tabs, TheTitleTellsModelAndConnection) {
+  CModelInfo2 record = MakeModel(5, 30);
+  record.ModelName = "Hall %1";
+  record.ConnectionKinds[0] = 1;
+  record.ConnectionTexts1[0] = MakeNameSlot("10.0.0.7");
+  OpenDialog network(record);
+  EXPECT_EQ(network.Dialog().windowTitle(), CatalogString(4, 155, "Hall %1", "10.0.0.7"));
+  EXPECT_TRUE(network.Dialog().windowTitle().contains(QStringLiteral("Hall %1")));
+  record.ConnectionKinds[0] = 0;
+  record.ConnectionNumbers[0] = 3;
+  OpenDialog serial(record);
+  EXPECT_TRUE(serial.Dialog().windowTitle().contains(QStringLiteral("4")));
+}
+
+TEST(Tabs, InitialisationConfiguresTheConnection) {
+  CModelInfo2 record = MakeModel(5, 30);
+  AddEntry(record.GammaList, 17, "g");
+  AddEntry(record.AspectList, 5, "a");
+  CAdvanceDlg dialog;
+  dialog.CopyData(&record, 0);
+  dialog.SetHostOption(true);
+  ASSERT_TRUE(dialog.Create());
+  EXPECT_EQ(dialog.Projector().HostOption, 1);
+  EXPECT_EQ(dialog.Projector().DialogType, 5);
+  EXPECT_EQ(dialog.Projector().GammaValues(), std::vector{17});
+  EXPECT_EQ(dialog.Projector().AspectValues(), std::vector{5});
+}
+
+TEST(Tabs, TheHostsResourceModuleComesBack) {
+  static constexpr ResourceModule host{std::span<const DialogTemplate* const>{}};
+  const ResourceModule* before = ResourceChain::SetCurrent(&host);
+  {
+    OpenDialog open(MakeModel(1, 1));
+    EXPECT_EQ(ResourceChain::Current(), &AdvancedControlResources());
+    open.Dialog().reject();
+    EXPECT_EQ(ResourceChain::Current(), &host) << "after closing";
+  }
+  {
+    const OpenDialog open(MakeModel(1, 1));
+    EXPECT_EQ(ResourceChain::Current(), &AdvancedControlResources());
+  }
+  EXPECT_EQ(ResourceChain::SetCurrent(before), &host) << "after destruction without closing";
+}
+
+TEST(Keyboard, EscOnAPageClosesTheDialogAndNeverHidesThePage) {
+  OpenDialog open(MakeModel(5, 30), 1);
+  open.Driver().Press(20142, Qt::Key_Escape);
+  EXPECT_FALSE(open.Dialog().isVisible());
+  EXPECT_FALSE(open.Page().isHidden());
+}
+
+TEST(Keyboard, FocusGoesThroughTheRowsAndOnToTheButton) {
+  OpenDialog open(MakeModel(5, 30), 1);
+  QTabBar* tabs = open.Dialog().findChild<QTabBar*>();
+  tabs->setFocus();
+  std::vector<QWidget*> seen;
+  for (int guard = 0; guard < 60; ++guard) {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    if (QApplication::focusWidget() == tabs) break;
+    seen.push_back(QApplication::focusWidget());
+  }
+  ASSERT_EQ(QApplication::focusWidget(), tabs) << "the focus never came round";
+  EXPECT_EQ(seen.back(), open.Dialog().GetDlgItem(1));
+  seen.pop_back();
+  int last = -1;
+  for (QWidget* control : seen) {
+    ASSERT_EQ(control->parentWidget(), &open.Page());
+    const int at = (control->geometry().center().y() / 8) * 1000 + control->x();
+    EXPECT_GT(at, last) << "row by row, left to right";
+    last = at;
+  }
+  EXPECT_GE(seen.size(), 20U);
+}
+
+TEST(Keyboard, ControlTabTurnsThePages) {
+  OpenDialog open(MakeModel(3, 4));
+  QTabBar* tabs = open.Dialog().findChild<QTabBar*>();
+  QTest::keyClick(&open.Dialog(), Qt::Key_PageUp, Qt::ControlModifier);
+  EXPECT_EQ(tabs->currentIndex(), 5);
+  QTest::keyClick(&open.Dialog(), Qt::Key_PageDown, Qt::ControlModifier);
+  EXPECT_EQ(tabs->currentIndex(), 0);
+}
+
+TEST(Modal, TheHostRunsTheDialogUntilTheUserClosesIt) {
+  CAdvanceDlg dialog;
+  CModelInfo2 record = MakeModel(5, 30);
+  dialog.CopyData(&record, 0);
+  for (int run = 0; run < 2; ++run) {
+    QTimer::singleShot(0, &dialog, [&] {
+      EXPECT_TRUE(dialog.isVisible());
+      QTest::mouseClick(dialog.GetDlgItem(1), Qt::LeftButton);
+    });
+    EXPECT_EQ(dialog.DoModal(), QDialog::Accepted);
+    EXPECT_FALSE(dialog.isVisible());
+  }
+}
+
+}  // namespace

@@ -1,0 +1,167 @@
+// Rules that hold for every page of every model.
+
+#include <map>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSlider>
+#include <QStyle>
+#include <QTabBar>
+#include <gtest/gtest.h>
+
+#include "i18n/Catalog.h"
+#include "pages/common/CTabPage.h"
+#include "pages/picture/CColorDlg.h"
+#include "pages/picture/CGammaDlg.h"
+#include "tests/support/DialogDriver.h"
+#include "toolkit/WindowText.h"
+
+namespace {
+
+CModelInfo2 FullModel(int dialogType, int modelCode) {
+  CModelInfo2 model = MakeModel(dialogType, modelCode);
+  for (const int value : {16, 17, 32, 33}) AddEntry(model.GammaList, value, "gamma");
+  for (const int value : {1, 2, 3, 17}) AddEntry(model.ColorTempList, value, "temperature");
+  for (const char* name : {"Normal", "Whisper", "Bright"}) {
+    AddEntry(model.WhisperList, model.WhisperList.count, name);
+  }
+  for (const int value : {0, 4, 3, 16, 17, 18, 25}) AddEntry(model.MyButtonList, value, "button");
+  for (const char* name : {"Computer1", "Computer2", "Component", "S-Video", "Video"}) {
+    AddSource(model.MySourceList, model.MySourceList.count, name);
+  }
+  return model;
+}
+
+// Every dialog type, and of type 5 every model that has rows of its own.
+std::vector<CModelInfo2> SweepModels() {
+  std::vector<CModelInfo2> models;
+  for (const int type : {1, 2, 3, 4}) models.push_back(FullModel(type, 9));
+  for (int code = 29; code <= 55; ++code) models.push_back(FullModel(5, code));
+  return models;
+}
+
+void ForEachPage(const std::function<void(OpenDialog&, CTabPage&)>& check) {
+  for (const CModelInfo2& model : SweepModels()) {
+    OpenDialog open(model);
+    const int tabs = open.Dialog().findChild<QTabBar*>()->count();
+    for (int tab = 0; tab < tabs; ++tab) {
+      open.SelectTab(tab);
+      SCOPED_TRACE("type " + std::to_string(model.DialogType) + " code " +
+                   std::to_string(model.ModelCode) + " tab " + std::to_string(tab));
+      check(open, open.Page());
+    }
+  }
+}
+
+bool UserOperates(ControlKind kind) {
+  switch (kind) {
+    case ControlKind::Minus:
+    case ControlKind::Plus:
+    case ControlKind::Combo:
+    case ControlKind::Button:
+    case ControlKind::Arrow:
+    case ControlKind::Check:
+      return true;
+    default:
+      return false;
+  }
+}
+
+void ExpectEachControlMappedOnce(const CDialog& dialog) {
+  std::map<int, int> handlers;
+  for (const Notification& entry : dialog.Notifications().Entries()) ++handlers[entry.id];
+  for (const RowTemplate& row : dialog.Template()->rows) {
+    for (const ControlTemplate& control : row.controls) {
+      const int slot = control.kind == ControlKind::Slider ? 0 : control.id;
+      if (control.kind != ControlKind::Slider && !UserOperates(control.kind)) continue;
+      EXPECT_EQ(handlers[slot], 1) << "control " << control.id;
+    }
+  }
+}
+
+TEST(Sweep, EveryControlHasExactlyOneHandler) {
+  ForEachPage([](OpenDialog&, CTabPage& page) { ExpectEachControlMappedOnce(page); });
+  CAdvanceDlg host;
+  CPjtInterface projector;
+  for (SettingsDialog* popup : std::initializer_list<SettingsDialog*>{
+           new CGammaDlg(false, &host), new CColorDlg(false, &host)}) {
+    popup->projector = &projector;
+    ASSERT_TRUE(popup->Create());
+    ExpectEachControlMappedOnce(*popup);
+  }
+}
+
+TEST(Sweep, ShowingAPageOnlyReads) {
+  ForEachPage([](OpenDialog& open, CTabPage& page) {
+    open.Projector().Take();
+    page.InitDisp();
+    EXPECT_EQ(open.Projector().TakeChanges(), std::vector<std::string>{});
+  });
+}
+
+TEST(Sweep, EveryValueControlIsNamedForAScreenReader) {
+  ForEachPage([](OpenDialog&, CTabPage& page) {
+    for (const RowTemplate& row : page.Template()->rows) {
+      for (const ControlTemplate& control : row.controls) {
+        if (!UserOperates(control.kind) && control.kind != ControlKind::Slider &&
+            control.kind != ControlKind::Field) {
+          continue;
+        }
+        EXPECT_FALSE(page.GetDlgItem(control.id)->accessibleName().isEmpty()) << control.id;
+      }
+    }
+  });
+}
+
+bool IsSmall(ControlKind kind) {
+  return kind == ControlKind::Minus || kind == ControlKind::Plus || kind == ControlKind::Arrow;
+}
+
+QSize TextSize(const QWidget& widget, const QString& text) {
+  return {widget.fontMetrics().horizontalAdvance(text) + 8, widget.fontMetrics().height()};
+}
+
+// A visible control lies inside its page, has the room its text needs, and covers no other.
+void ExpectNothingClipped(const CTabPage& page) {
+  std::vector<const QWidget*> visible;
+  for (const RowTemplate& row : page.Template()->rows) {
+    for (const ControlTemplate& control : row.controls) {
+      const QWidget* widget = page.GetDlgItem(control.id);
+      if (widget == nullptr || !widget->isVisible()) continue;
+      EXPECT_TRUE(page.rect().contains(widget->geometry())) << control.id;
+      const QSize needed = control.kind == ControlKind::Slider ? widget->minimumSizeHint()
+                           : control.kind == ControlKind::Field
+                               ? TextSize(*widget, QStringLiteral("-128"))
+                           : IsSmall(control.kind) ? TextSize(*widget, WindowText(*widget))
+                                                   : widget->sizeHint();
+      EXPECT_GE(widget->width(), needed.width()) << control.id;
+      EXPECT_GE(widget->height(), needed.height()) << control.id;
+      for (const QWidget* other : visible) {
+        EXPECT_FALSE(other->geometry().intersects(widget->geometry())) << control.id;
+      }
+      visible.push_back(widget);
+    }
+  }
+}
+
+TEST(Sweep, NothingIsClippedInEitherLanguageAtAnyFontSize) {
+  const QFont before = QApplication::font();
+  for (const char* language : {"en_US.UTF-8", "zh_CN.UTF-8"}) {
+    qputenv("LC_ALL", language);
+    ASSERT_EQ(LoadCatalog(), 0);
+    for (const double scale : {1.0, 1.5}) {
+      QFont font = before;
+      font.setPointSizeF(before.pointSizeF() * scale);
+      QApplication::setFont(font);
+      SCOPED_TRACE(std::string(language) + " at " + std::to_string(scale));
+      ForEachPage([](OpenDialog&, CTabPage& page) { ExpectNothingClipped(page); });
+    }
+  }
+  QApplication::setFont(before);
+  qputenv("LC_ALL", "en_US.UTF-8");
+  ASSERT_EQ(LoadCatalog(), 0);
+}
+
+}  // namespace

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "pages/picture/CustomDialog.h"
+
+/// The pop-up that shapes the user gamma curve: eight points and a test pattern.
+class CGammaDlg final : public CustomDialog {
+  Q_OBJECT
+
+ public:
+  /// `hidePointResets` leaves out the points' Reset buttons. Without a parent the dialog belongs
+  /// to the dialog that runs it.
+  explicit CGammaDlg(bool hidePointResets, CWnd* parent = nullptr);
+
+  const NotificationMap& Notifications() const override;
+
+ protected:
+  void StepUp(std::size_t point) override;
+  void StepDown(std::size_t point) override;
+  void Reset(std::size_t point) override;
+};

@@ -1,0 +1,35 @@
+#!/usr/bin/env bash
+# Installs what building, running and testing needs, where it is missing. Without anything missing
+# it asks nothing of the network.
+set -euo pipefail
+
+packages=(
+  g++ cmake ninja-build
+  qt6-base-dev
+  libicu-dev
+  binutils-mingw-w64-x86-64
+  libgtest-dev libgmock-dev
+  libbenchmark-dev
+  gettext qt6-l10n-tools
+  fonts-dejavu-core fonts-wqy-microhei
+)
+
+missing=()
+for package in "${packages[@]}"; do
+  dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' ||
+    missing+=("$package")
+done
+[ ${#missing[@]} -eq 0 ] && exit 0
+
+as_root=()
+if [ "$(id -u)" -ne 0 ]; then
+  command -v sudo >/dev/null || {
+    echo "Missing: ${missing[*]}. Install them as root, or install sudo." >&2
+    exit 1
+  }
+  as_root=(sudo)
+fi
+echo "Installing: ${missing[*]}"
+"${as_root[@]}" apt-get update -q
+"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+  apt-get install -y -q --no-install-recommends "${missing[@]}"

@@ -1,0 +1,12 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds with the address and undefined-behaviour sanitizers, and runs
+# all tests. Arguments go to ctest.
+set -euo pipefail
+cd "$(dirname "$0")"
+
+scripts/setup.sh
+echo "Building (build/asan)"
+cmake --preset asan >/dev/null
+cmake --build --preset asan
+echo "Testing"
+ctest --preset asan -j "$(nproc)" "$@"

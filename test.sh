@@ -8,5 +8,6 @@ scripts/setup.sh
 echo "Building (build/asan)"
 cmake --preset asan >/dev/null
 cmake --build --preset asan
+cmake --build --preset asan --target format-check
 echo "Testing"
 ctest --preset asan -j "$(nproc)" "$@"

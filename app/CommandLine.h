@@ -1,0 +1,25 @@
+#pragma once
+
+#include <optional>
+
+#include <QString>
+#include <QStringList>
+
+/// What the program was asked to do.
+struct CommandLine {
+  enum class Action { Window, List, Screenshot, Tour, Help, Version };
+
+  Action action = Action::Window;
+  QString profiles;             ///< Empty for the file that comes with the program.
+  QString open;                 ///< Name of the projector to open; empty for none.
+  std::optional<int> tab;       ///< Tab to select, from 0.
+  QString target;               ///< File of `Screenshot`, folder of `Tour`.
+  std::optional<int> language;  ///< 1033 or 2052.
+  QString help;                 ///< The text for `Help`.
+
+  /// One line; empty when the arguments can be followed.
+  QString error;
+};
+
+/// Reads the arguments, the first of which is the program's name. Needs an application object.
+CommandLine ParseCommandLine(const QStringList& arguments);

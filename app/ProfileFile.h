@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include <QByteArray>
+#include <QString>
+
+#include "device/CModelInfo2.h"
+#include "simulator/SettingsTable.h"
+
+/// One projector of a profile file: what a host knows of it, and how its simulation is made.
+struct ProjectorProfile {
+  std::string Name;              ///< Unique in its file; UTF-8.
+  CModelInfo2 Model;             ///< With the connection as connection 0.
+  std::vector<SettingId> Lacks;  ///< Settings that the simulated model does not have.
+};
+
+struct ProfileFileContents {
+  std::vector<ProjectorProfile> projectors;  ///< In the order of the file; empty after an error.
+  /// One line that names the place and what is wrong there; empty when all is well.
+  QString error;
+};
+
+/// The projectors of a profile file. Its format is described in `docs/profiles.md`.
+ProfileFileContents ReadProfileFile(const QString& fileName);
+
+/// The same from a text; `fileName` stands in error messages.
+ProfileFileContents ParseProfiles(const QByteArray& text, const QString& fileName);
+
+/// "192.0.2.30:4352" or "serial port 1", of connection 0.
+QString ConnectionText(const CModelInfo2& model);

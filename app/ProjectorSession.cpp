@@ -1,0 +1,53 @@
+#include "app/ProjectorSession.h"
+
+#include <utility>
+
+#include "device/BoundedChannel.h"
+#include "device/ModelDataIntake.h"
+#include "host/CAdvanceDlg.h"
+
+namespace {
+
+SimulatedModel Simulate(const ProjectorProfile& profile) {
+  SimulatedModel model = DescribeModel(MakeModelData(profile.Model));
+  model.missing = {profile.Lacks.begin(), profile.Lacks.end()};
+  return model;
+}
+
+}  // namespace
+
+// The log stands outermost: it shows what the dialog got, also where a command was given up before
+// its answer came or was not passed on at all.
+ProjectorSession::ProjectorSession(ProjectorProfile profile, LoggingChannel::Observer observer)
+    : profile_(std::move(profile)),
+      simulator_(std::make_shared<SimulatedProjector>(Simulate(profile_))),
+      faultChannel_(std::make_shared<FaultChannel>(simulator_)),
+      channel_(std::make_shared<LoggingChannel>(std::make_shared<BoundedChannel>(faultChannel_),
+                                                std::move(observer))) {}
+
+void ProjectorSession::SetFault(const FaultTarget& target, const Fault& fault) {
+  if (const auto* operation = std::get_if<PjtOperation>(&target)) {
+    faultChannel_->SetFault(*operation, fault);
+  } else if (const auto* code = std::get_if<std::uint16_t>(&target)) {
+    faultChannel_->SetFault(*code, fault);
+  } else {
+    faultChannel_->SetFault(fault);
+  }
+  if (fault.kind == Fault::Kind::None) {
+    faults_.erase(target);
+  } else {
+    faults_[target] = fault;
+  }
+}
+
+void ProjectorSession::ClearFaults() {
+  faultChannel_->Clear();
+  faults_.clear();
+}
+
+std::unique_ptr<CAdvanceDlg> ProjectorSession::MakeDialog() const {
+  auto dialog = std::make_unique<CAdvanceDlg>();
+  dialog->CopyData(&profile_.Model, 0);
+  dialog->Projector().SetChannel(channel_);
+  return dialog;
+}

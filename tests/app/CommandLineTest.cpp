@@ -1,0 +1,105 @@
+#include <gmock/gmock.h>
+#include <string>
+
+#include <QImage>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace {
+
+using testing::HasSubstr;
+
+struct Outcome {
+  int exitCode;
+  QString output;
+  QString errors;
+};
+
+/// Runs the program as a person without a display does.
+Outcome RunProgram(const QStringList& arguments) {
+  QProcess process;
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+    environment.remove(QLatin1String(name));
+  }
+  process.setProcessEnvironment(environment);
+  process.start(ADVANCED_CONTROL_PROGRAM, arguments);
+  const bool finished = process.waitForFinished(60000);
+  return {finished && process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+          QString::fromUtf8(process.readAllStandardOutput()),
+          QString::fromUtf8(process.readAllStandardError())};
+}
+
+struct WrongArguments {
+  const char* name;
+  QStringList arguments;
+  const char* error;
+};
+
+void PrintTo(const WrongArguments& wrong, std::ostream* out) { *out << wrong.name; }
+
+class WrongCommandLine : public testing::TestWithParam<WrongArguments> {};
+
+TEST_P(WrongCommandLine, GetsOneLineAndExitCode2) {
+  const Outcome run = RunProgram(GetParam().arguments);
+  EXPECT_EQ(run.exitCode, 2);
+  EXPECT_THAT(run.errors.toStdString(), HasSubstr(GetParam().error));
+  EXPECT_EQ(run.errors.count('\n'), 1) << run.errors.toStdString();
+  EXPECT_EQ(run.output, "");
+}
+
+const WrongArguments kWrongArguments[] = {
+    {"Option", {"--colour"}, "Unknown option 'colour'"},
+    {"Positional", {"hall"}, "Unexpected argument 'hall'"},
+    {"MissingValue", {"--open"}, "open"},
+    {"EmptyValue", {"--open="}, "--open needs a value"},
+    {"Projector", {"--open", "Nobody"}, "there is no projector 'Nobody'"},
+    {"TabAlone", {"--tab", "1"}, "--tab needs --open"},
+    {"TabNoNumber", {"--open", "Projector 5-30", "--tab", "x"}, "'x' is not a number"},
+    {"TabNegative", {"--open", "Projector 5-30", "--tab=-1"}, "tabs 0 to 8"},
+    {"TabTooHigh", {"--open", "Projector 5-32", "--tab", "8"}, "tabs 0 to 7"},
+    {"ScreenshotAlone", {"--screenshot", "a.png"}, "--screenshot needs --open"},
+    {"Screenshot",
+     {"--open", "Projector 5-30", "--screenshot", "/nowhere/a.png"},
+     "/nowhere/a.png: "},
+    {"Tour", {"--tour", "/dev/null/tour"}, "/dev/null/tour"},
+    {"TwoTasks", {"--list", "--tour", "x"}, "Only one of"},
+    {"Language", {"--list", "--language", "1034"}, "'1034' is neither"},
+    {"MissingProfiles", {"--profiles", "/nowhere.json"}, "cannot read profiles /nowhere.json: "},
+    {"WrongProfiles", {"--profiles", "/dev/null"}, "/dev/null:1:1: "},
+};
+
+INSTANTIATE_TEST_SUITE_P(Table, WrongCommandLine, testing::ValuesIn(kWrongArguments),
+                         [](const auto& test) { return std::string(test.param.name); });
+
+TEST(Program, ListsItsProjectors) {
+  const Outcome run = RunProgram({"--list"});
+  EXPECT_EQ(run.exitCode, 0);
+  EXPECT_THAT(run.output.toStdString(),
+              testing::ContainsRegex("Projector 4-11 +QD-M7450 +4 +11 +192\\.0\\.2\\."));
+  EXPECT_EQ(run.errors, "");
+}
+
+TEST(Program, SavesPicturesOfTheTabAndLanguageAskedFor) {
+  const QTemporaryDir folder;
+  const auto picture = [&folder](const QStringList& arguments) {
+    const QString file = folder.filePath("picture.png");
+    const Outcome run =
+        RunProgram(QStringList{"--open", "Projector 5-30", "--screenshot", file} + arguments);
+    EXPECT_EQ(run.exitCode, 0) << run.errors.toStdString();
+    return QImage(file);
+  };
+  const QImage status = picture({"--language", "1033"});
+  EXPECT_GT(status.width(), 400);
+  EXPECT_NE(status, picture({"--language", "1033", "--tab", "1"}));
+  EXPECT_NE(status, picture({"--language", "2052"}));
+}
+
+TEST(Program, WithoutADisplayOpensNoWindow) {
+  const Outcome run = RunProgram({});
+  EXPECT_EQ(run.exitCode, 1);
+  EXPECT_THAT(run.errors.toStdString(), HasSubstr("no display"));
+}
+
+}  // namespace

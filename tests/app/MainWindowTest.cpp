@@ -1,0 +1,180 @@
+#include <cstdlib>
+#include <functional>
+#include <memory>
+#include <utility>
+#include <vector>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QListWidget>
+#include <QPointer>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTabBar>
+#include <QTableView>
+#include <QTableWidget>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include "app/CommandLog.h"
+#include "app/FaultPanel.h"
+#include "app/MainWindow.h"
+#include "host/CAdvanceDlg.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+
+ProjectorProfile Profile(const char* name) {
+  ProjectorProfile profile;
+  profile.Name = name;
+  profile.Model.ModelName = name;
+  profile.Model.DialogType = 5;
+  profile.Model.ModelCode = 30;
+  return profile;
+}
+
+QComboBox& Combo(const QWidget& window, const QString& accessibleName) {
+  for (auto* combo : window.findChildren<QComboBox*>()) {
+    if (combo->accessibleName() == accessibleName) return *combo;
+  }
+  ADD_FAILURE() << "no list " << accessibleName.toStdString();
+  std::abort();
+}
+
+QPushButton& Button(const QWidget& window, const QString& text) {
+  for (auto* button : window.findChildren<QPushButton*>()) {
+    if (button->text() == text) return *button;
+  }
+  ADD_FAILURE() << "no button " << text.toStdString();
+  std::abort();
+}
+
+/// Runs the steps, each from the program's event loop, as in the running program.
+void RunProgram(const std::vector<std::function<void()>>& steps) {
+  std::chrono::milliseconds start = 0ms;
+  for (const auto& step : steps) QTimer::singleShot(start += 20ms, qApp, step);
+  QTimer::singleShot(20s, qApp, [] { QApplication::exit(-1); });
+  EXPECT_EQ(QApplication::exec(), 0) << "the program did not come to its end";
+}
+
+// Closes dialog or window while a tab change waits for a late projector.
+void CloseWhileACommandWaits(bool wholeWindow) {
+  auto window = std::make_unique<MainWindow>(std::vector{Profile("A")});
+  window->show();
+  QPointer<CAdvanceDlg> dialog;
+  bool waited = false;
+  RunProgram({
+      [&] { dialog = window->OpenDialog(0); },
+      [&] {
+        auto& panel = *window->findChild<FaultPanel*>();
+        Combo(panel, "Fault").setCurrentText("Delay");
+        panel.findChild<QSpinBox*>()->setValue(200);
+        QTest::mouseClick(&Button(panel, "&Set Fault"), Qt::LeftButton);
+        QWidget* closed = wholeWindow ? static_cast<QWidget*>(window.get()) : dialog.data();
+        QTimer::singleShot(100ms, closed, &QWidget::close);
+        dialog->findChild<QTabBar*>()->setCurrentIndex(1);
+        ASSERT_NE(dialog, nullptr) << "deleted under its own handler";
+        waited = true;
+        if (wholeWindow) return;
+        EXPECT_EQ(window->Dialog(0), nullptr);
+        QTimer::singleShot(200ms, window.get(), &QWidget::close);
+      },
+  });
+  EXPECT_TRUE(waited);
+  EXPECT_EQ(dialog.isNull(), !wholeWindow);
+  window.reset();
+  EXPECT_EQ(dialog, nullptr);
+}
+
+TEST(MainWindow, DialogClosedWhileACommandWaits) { CloseWhileACommandWaits(false); }
+TEST(MainWindow, WindowClosedWhileACommandWaits) { CloseWhileACommandWaits(true); }
+
+TEST(MainWindow, HasOneDialogPerProjectorAndLogsTheirCommands) {
+  MainWindow window({Profile("A"), Profile("B")});
+  window.show();
+  auto& table = *window.findChild<QTableWidget*>();
+  RunProgram({
+      [&] {
+        table.setCurrentCell(1, 2);
+        QTest::keyClick(&table, Qt::Key_Return);
+        ASSERT_NE(window.Dialog(1), nullptr);
+        EXPECT_TRUE(window.Dialog(1)->windowTitle().contains("B"));
+        EXPECT_EQ(window.OpenDialog(1), window.Dialog(1));
+        QTest::mouseClick(&Button(window, "&Open"), Qt::LeftButton);
+        EXPECT_EQ(window.Dialog(0), nullptr);
+        EXPECT_NE(window.OpenDialog(0), nullptr);
+        EXPECT_TRUE(window.isEnabled() && table.isEnabled());
+      },
+      [&] {
+        QTest::qWait(100);  // the log gathers entries
+        const auto* log = window.findChild<CommandLog*>()->findChild<QTableView*>()->model();
+        EXPECT_GT(log->rowCount(), 10);
+        EXPECT_EQ(log->index(0, CommandLogModel::Projector).data(), "B");
+        EXPECT_EQ(log->index(0, CommandLogModel::Command).data(), "Get 0x6000");
+        EXPECT_EQ(log->index(0, CommandLogModel::Value).data(), "1");
+        EXPECT_EQ(log->index(0, CommandLogModel::Result).data(), "ok");
+        window.close();
+      },
+  });
+}
+
+TEST(CommandLog, KeepsTheNewestEntries) {
+  CommandLogModel model;
+  for (const int size : {3, 5000, 4}) {
+    std::vector<CommandLogModel::Entry> entries(static_cast<std::size_t>(size),
+                                                {.time = {},
+                                                 .projector = QString::number(size),
+                                                 .command = {PjtOperation::SetBrightness, 0, 140},
+                                                 .reply = {.result = 0},
+                                                 .elapsed = {}});
+    model.Append(std::move(entries));
+  }
+  ASSERT_EQ(model.rowCount(), 5000);
+  EXPECT_EQ(model.index(4995, 1).data(), "5000");
+  EXPECT_EQ(model.index(4996, 1).data(), "4");
+  EXPECT_EQ(model.index(4999, CommandLogModel::Command).data(), "SetBrightness");
+  EXPECT_EQ(model.index(4999, CommandLogModel::Value).data(), "140");
+  EXPECT_EQ(model.index(4999, CommandLogModel::Result).data(), "refused");
+}
+
+TEST(FaultPanel, SetsAndRemovesFaultsOfTheSelectedProjector) {
+  ProjectorSession first(Profile("A"), nullptr);
+  ProjectorSession second(Profile("B"), nullptr);
+  FaultPanel panel;
+  panel.show();
+  panel.SetSession(&first);
+  QComboBox& target = Combo(panel, "Command");
+  auto* list = panel.findChild<QListWidget*>();
+  QPushButton& set = Button(panel, "&Set Fault");
+
+  target.setEditText("nothing of the kind");
+  EXPECT_FALSE(set.isEnabled());
+  target.setEditText("0x2003 Brightness");
+  QTest::mouseClick(&set, Qt::LeftButton);
+  target.setEditText("SetBrightness");
+  QTest::mouseClick(&set, Qt::LeftButton);
+  EXPECT_EQ(first.Faults().size(), 2U);
+  EXPECT_EQ(first.Faults().at(std::uint16_t{0x2003}).kind, Fault::Kind::Refuse);
+  EXPECT_EQ(list->item(0)->text(), "SetBrightness: Refuse");
+
+  const auto brightness = [](const ProjectorSession& session) {
+    unsigned short value = 0;
+    const auto dialog = session.MakeDialog();
+    CPjtInterface& projector = dialog->Projector();
+    return projector.Get(0x2003, 0, &projector, &value);
+  };
+  panel.SetSession(&second);
+  EXPECT_EQ(list->count(), 0);
+  EXPECT_NE(brightness(first), 1);
+  EXPECT_EQ(brightness(second), 1);
+
+  panel.SetSession(&first);
+  QTest::mouseClick(&Button(panel, "&Remove"), Qt::LeftButton);
+  EXPECT_EQ(first.Faults().size(), 1U);
+  QTest::mouseClick(&Button(panel, "Remove &All"), Qt::LeftButton);
+  EXPECT_TRUE(first.Faults().empty());
+  EXPECT_EQ(brightness(first), 1);
+}
+
+}  // namespace

@@ -8,6 +8,12 @@ CComboBox::CComboBox(QWidget* parent) : QComboBox(parent) {
   setMaxVisibleItems(20);
 }
 
+void CComboBox::Add(const QString& text, int value) {
+  const bool first = count() == 0;
+  addItem(text, value);
+  if (first) setCurrentIndex(-1);
+}
+
 void CComboBox::Select(int position) {
   setCurrentIndex(position >= 0 && position < count() ? position : -1);
 }

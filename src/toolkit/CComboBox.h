@@ -12,10 +12,11 @@ class CComboBox : public QComboBox {
  public:
   explicit CComboBox(QWidget* parent = nullptr);
 
-  /// Adds an entry that stands for its own position.
+  /// Adds an entry that stands for its own position. Adding selects nothing: a list shows no value
+  /// before one is known.
   void Add(const QString& text) { Add(text, count()); }
   /// Adds an entry that stands for `value`.
-  void Add(const QString& text, int value) { addItem(text, value); }
+  void Add(const QString& text, int value);
 
   /// Selects a position; one outside the list leaves the list without a selection.
   void Select(int position);

@@ -41,7 +41,7 @@ QLineEdit* MakeField(QWidget* parent) {
 
 CComboBox* MakeCombo(std::span<const char* const> entries, QWidget* parent) {
   auto* combo = new CComboBox(parent);
-  for (const char* entry : entries) combo->addItem(QString::fromUtf8(entry));
+  for (const char* entry : entries) combo->Add(QString::fromUtf8(entry));
   return combo;
 }
 

@@ -91,6 +91,8 @@ TEST_F(DialogTest, ASliderReportsOnlyTheEndOfWhatTheUserDoes) {
 }
 
 TEST_F(DialogTest, TheWheelNeedsTheFocus) {
+  EXPECT_EQ(driver.Selected(9), -1) << "a list shows nothing before something is selected";
+  dialog.Item<CComboBox>(9).Select(0);
   dialog.GetDlgItem(10)->setFocus();
   driver.Wheel(4, 1);
   driver.Wheel(9, -1);

@@ -2,10 +2,13 @@
 
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 #include <utility>
+#include <vector>
 
 #include <QLayout>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QShortcut>
 #include <QStyleOptionTabWidgetFrame>
 #include <QStylePainter>
@@ -47,6 +50,12 @@ void CopyList(CountedList& list, int count, const int* values, const char* names
 void Configure(CPjtInterface& projector, const ConnectionData& connection) {
   projector.CopyData(connection.Kind, connection.Number, connection.Parameter,
                      connection.Text1.c_str(), connection.Text2.c_str());
+}
+
+// Dialogs that have made this library's resources current, in the order of their opening.
+std::vector<CAdvanceDlg*>& OpenDialogs() {
+  static std::vector<CAdvanceDlg*> dialogs;
+  return dialogs;
 }
 
 void CopySources(SourceList& list, int count, const char* names, const int* firstValues,
@@ -214,7 +223,7 @@ void CAdvanceDlg::CopyData(const CProjectorItem* item) {
 bool CAdvanceDlg::OnInitDialog() {
   CDialog::OnInitDialog();
   savedResources_ = ResourceChain::SetCurrent(&AdvancedControlResources());
-  resourcesSaved_ = true;
+  OpenDialogs().push_back(this);
   LocalizeControlTexts(kCaptionCategory, *this);
   projector_.HostOption = hostOption_ ? 1 : 0;
   projector_.DialogType = model_.DialogType;
@@ -259,7 +268,7 @@ void CAdvanceDlg::SetTitle() {
                      ? CatalogString(kCaptionCategory, Caption::TitleNetwork, model_.ModelName,
                                      projector_.ConnectionText1())
                      : CatalogString(kCaptionCategory, Caption::TitleSerial, model_.ModelName,
-                                     projector_.ConnectionNumber() + 1));
+                                     std::int64_t{projector_.ConnectionNumber()} + 1));
 }
 
 void CAdvanceDlg::FitToPages() {
@@ -271,7 +280,8 @@ void CAdvanceDlg::FitToPages() {
                              kPagePosition.x() + pages.width() + kPagePosition.x());
   const int height = kPagePosition.y() + pages.height() + kPagePosition.x() +
                      GetDlgItem(kCloseId)->sizeHint().height() + 2 * kMargin;
-  setMinimumSize(width, height);
+  // On a small screen the tabs scroll; the pages need their room.
+  setMinimumSize(kPagePosition.x() + pages.width() + kPagePosition.x(), height);
   resize(width, height);
 }
 
@@ -292,28 +302,48 @@ void CAdvanceDlg::OrderFocus() {
 }
 
 void CAdvanceDlg::DispTabScreen() {
-  for (CTabPage* page : pages_->byId) {
-    if (page->Template() != nullptr) page->hide();
+  // Reading waits for the projector; a tab changed meanwhile is shown afterwards.
+  if (reading_) {
+    tabChanged_ = true;
+    return;
   }
-  shownPage_ = nullptr;
+  const Busy busy(*this);
+  const QScopedValueRollback reading(reading_, true);
+  do {
+    tabChanged_ = false;
+    for (CTabPage* page : pages_->byId) {
+      if (page->Template() != nullptr) page->hide();
+    }
+    shownPage_ = SelectedPage();
+    if (shownPage_ == nullptr) continue;
+    shownPage_->show();
+    shownPage_->InitDisp();
+    if (shownPage_->layout() != nullptr) shownPage_->layout()->activate();
+  } while (tabChanged_);
+}
+
+CTabPage* CAdvanceDlg::SelectedPage() const {
   const int selection = tabs_->currentIndex();
   const auto tabs = TabsOf(model_.DialogType, model_.ModelCode);
-  if (selection == 0) {
-    shownPage_ = &Page(PageId::Status);
-  } else if (selection > 0 && static_cast<std::size_t>(selection) <= tabs.size()) {
-    shownPage_ = &Page(tabs[static_cast<std::size_t>(selection) - 1].page);
-  }
-  if (shownPage_ == nullptr) return;
-  shownPage_->show();
-  shownPage_->InitDisp();
-  if (shownPage_->layout() != nullptr) shownPage_->layout()->activate();
+  if (selection == 0) return &Page(PageId::Status);
+  if (selection < 0 || static_cast<std::size_t>(selection) > tabs.size()) return nullptr;
+  return &Page(tabs[static_cast<std::size_t>(selection) - 1].page);
 }
 
 void CAdvanceDlg::OnSelchangeAdvanceTab() { DispTabScreen(); }
 
 void CAdvanceDlg::OnDestroy() {
   CDialog::OnDestroy();
-  if (std::exchange(resourcesSaved_, false)) ResourceChain::SetCurrent(savedResources_);
+  auto& open = OpenDialogs();
+  const auto self = std::ranges::find(open, this);
+  if (self == open.end()) return;
+  // A dialog opened after this one saved this library's module; the host's is now its to put back.
+  if (const auto next = std::next(self); next != open.end()) {
+    (*next)->savedResources_ = savedResources_;
+  } else {
+    ResourceChain::SetCurrent(savedResources_);
+  }
+  open.erase(self);
 }
 
 CTabPage& CAdvanceDlg::Page(PageId page) const {

@@ -3,6 +3,7 @@
 #include <array>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "device/CModelInfo2.h"
 #include "device/CPjtInterface.h"
@@ -20,7 +21,8 @@ class ResourceModule;
 /// changed at once.
 ///
 /// Use: construct, hand over the model with one of the `CopyData` forms, give `Projector()` the
-/// channel to the projector, then `DoModal`. The dialog keeps its own copy of all it is given and
+/// channel to the projector, then `DoModal`, or `Create` and `show` for a dialog beside the host's
+/// other windows. The dialog keeps its own copy of all it is given and
 /// talks to the projector from the thread it lives on, the user-interface thread.
 class CAdvanceDlg : public CDialog, public ModelDataSource {
   Q_OBJECT
@@ -74,10 +76,13 @@ class CAdvanceDlg : public CDialog, public ModelDataSource {
   /// Passed on to the connection object when the dialog is initialised.
   void SetHostOption(bool option) { hostOption_ = option; }
 
+  /// Configures the connection, creates the pages and inserts the tabs.
   bool OnInitDialog() override;
   /// Shows the page of the selected tab, read afresh, and hides all others.
   void DispTabScreen();
+  /// Another tab was selected.
   void OnSelchangeAdvanceTab();
+  /// Puts the host's resource module back.
   void OnDestroy() override;
 
   /// The page behind the selected tab, or null.
@@ -100,16 +105,18 @@ class CAdvanceDlg : public CDialog, public ModelDataSource {
   void CreatePage(PageId id);
   void InsertTabs();
   void SetTitle();
+  CTabPage* SelectedPage() const;
   void FitToPages();
   void OrderFocus();
   void SelectNeighbourTab(int step);
 
-  const ResourceModule* savedResources_ = nullptr;
-  bool resourcesSaved_ = false;
+  const ResourceModule* savedResources_ = nullptr;  // put back when the dialog closes
   ModelData model_;
   CPjtInterface projector_;
   std::unique_ptr<Pages> pages_;
   bool hostOption_ = false;
   CTabCtrl* tabs_ = nullptr;
   CTabPage* shownPage_ = nullptr;
+  bool reading_ = false;     // a page is being read
+  bool tabChanged_ = false;  // while it was
 };

@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTabBar>
+#include <QWindow>
 
 #include "toolkit/CComboBox.h"
 #include "toolkit/CSliderCtrl.h"
@@ -58,7 +59,11 @@ QString SpokenCaption(const QString& caption) {
 CDialog::CDialog(int templateNumber, CWnd* owner)
     : QDialog(owner), templateNumber_(templateNumber) {}
 
-CDialog::~CDialog() { Destroy(); }
+CDialog::~CDialog() {
+  // Hiding takes the focus from a control, which may report to a handler that is gone by now.
+  for (const auto& [id, control] : controls_) control->disconnect(this);
+  Destroy();
+}
 
 bool CDialog::Create() {
   Destroy();
@@ -81,16 +86,67 @@ bool CDialog::Create() {
 }
 
 int CDialog::DoModal() {
-  const bool adopted = parentWidget() == nullptr;
-  if (adopted) {
-    QWidget* owner = OpenDialogs().empty() ? QApplication::activeWindow() : OpenDialogs().back();
-    if (owner != nullptr && owner != this) setParent(owner, windowFlags());
+  const QPointer<CDialog> self(this);
+  if (parentWidget() == nullptr) AdoptOwner();
+  setWindowModality(Owner() != nullptr ? Qt::WindowModal : Qt::ApplicationModal);
+  if (!Create()) return -1;
+  int result = Rejected;
+  if (created_) {  // unless it was closed while its first page was read
+    if (parentWidget() == nullptr && owner_ != nullptr) {
+      winId();  // a window of its own is needed to stay above the owner
+      windowHandle()->setTransientParent(owner_->window()->windowHandle());
+      adjustSize();
+      move(owner_->window()->frameGeometry().center() - rect().center());
+    }
+    QMetaObject::Connection orphaned;
+    if (owner_ != nullptr) {
+      orphaned = connect(owner_, &QObject::destroyed, this, [this] { done(Rejected); });
+    }
+    result = exec();
+    disconnect(orphaned);
   }
-  setWindowModality(parentWidget() != nullptr ? Qt::WindowModal : Qt::ApplicationModal);
-  const int result = Create() ? exec() : -1;
-  // The dialog is its creator's: it must not die with an owner that it only had for this run.
-  if (adopted && parentWidget() != nullptr) setParent(nullptr, windowFlags());
+  if (self == nullptr) return Rejected;
+  owner_.clear();
+  hide();
+  Destroy();  // the event loop may also have ended in other ways than by closing the dialog
   return result;
+}
+
+// The dialog that the user works on runs the one without a parent. It becomes no parent: this one
+// is its creator's and must not die with it.
+void CDialog::AdoptOwner() {
+  const auto& open = OpenDialogs();
+  QWidget* active = QApplication::activeWindow();
+  const auto isActive = [active](const CDialog* dialog) { return dialog == active; };
+  const auto isVisible = [](const CDialog* dialog) { return dialog->isVisible(); };
+  if (std::ranges::none_of(open, isActive)) {
+    const auto newest = std::find_if(open.rbegin(), open.rend(), isVisible);
+    if (newest != open.rend()) active = *newest;
+  }
+  owner_ = active != this ? active : nullptr;
+}
+
+CDialog::Busy::Busy(const CDialog& dialog) : top_(qobject_cast<CDialog*>(dialog.window())) {
+  if (top_ != nullptr) ++top_->busy_;
+}
+
+CDialog::Busy::~Busy() {
+  if (top_ == nullptr || --top_->busy_ > 0 || !top_->deletionWaits_) return;
+  QMetaObject::invokeMethod(
+      qApp, [dialog = QPointer<CDialog>(top_)] { delete dialog; }, Qt::QueuedConnection);
+}
+
+bool CDialog::event(QEvent* event) {
+  if (event->type() == QEvent::DeferredDelete && busy_ > 0) {
+    deletionWaits_ = true;
+    return true;
+  }
+  return QDialog::event(event);
+}
+
+void CDialog::RunHandler(const Notification& entry, CSliderCtrl* slider) {
+  const Busy busy(*this);
+  entry.handle(*this, slider);
 }
 
 QWidget* CDialog::GetDlgItem(int id) const {
@@ -188,22 +244,22 @@ void CDialog::ConnectNotifications() {
     switch (entry.event) {
       case Notification::Event::Clicked:
         connect(&Item<QAbstractButton>(entry.id), &QAbstractButton::clicked, this,
-                [this, &entry] { entry.handle(*this, nullptr); });
+                [this, &entry] { RunHandler(entry, nullptr); });
         break;
       case Notification::Event::SelChange:
         if (auto* tabs = qobject_cast<QTabBar*>(GetDlgItem(entry.id))) {
           connect(tabs, &QTabBar::currentChanged, this,
-                  [this, &entry] { entry.handle(*this, nullptr); });
+                  [this, &entry] { RunHandler(entry, nullptr); });
         } else {
           connect(&Item<QComboBox>(entry.id), &QComboBox::activated, this,
-                  [this, &entry] { entry.handle(*this, nullptr); });
+                  [this, &entry] { RunHandler(entry, nullptr); });
         }
         break;
       case Notification::Event::HScroll:
         for (const auto& [id, control] : controls_) {
           if (auto* slider = qobject_cast<CSliderCtrl*>(control)) {
             connect(slider, &CSliderCtrl::EndScroll, this,
-                    [this, &entry, slider] { entry.handle(*this, slider); });
+                    [this, &entry, slider] { RunHandler(entry, slider); });
           }
         }
         break;

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <memory>
 #include <unordered_map>
 #include <vector>
 
 #include <QDialog>
+#include <QPointer>
 
 #include "toolkit/CWnd.h"
 #include "toolkit/DialogTemplate.h"
@@ -14,6 +14,9 @@ class QGridLayout;
 
 /// A dialog built from a numbered template, either run modally or created as a child (a page of
 /// another dialog). Esc and Enter never act on a child; Esc closes the dialog it belongs to.
+///
+/// A handler may run an event loop: while a command waits, or for a message box or pop-up. Until it
+/// has returned the dialog must not be deleted; `deleteLater` waits for that by itself.
 class CDialog : public QDialog {
   Q_OBJECT
 
@@ -28,10 +31,15 @@ class CDialog : public QDialog {
   bool Create();
 
   /// Creates, shows and runs the dialog until it is closed; QDialog::Accepted or Rejected, or −1
-  /// when it could not be created. While it runs, its owner takes no input.
+  /// when it could not be created. While it runs, its owner takes no input. A dialog without a
+  /// parent that dies while it runs ends the run as Rejected; so does the death of its owner.
   int DoModal();
 
+  /// The parent, or the window that a running dialog without a parent belongs to; may be null.
+  QWidget* Owner() const { return parentWidget() != nullptr ? parentWidget() : owner_.data(); }
+
   int TemplateNumber() const { return templateNumber_; }
+  /// The template the controls were built from; null before `Create`.
   const DialogTemplate* Template() const { return template_; }
 
   /// The control with this number, owned by the dialog, or null.
@@ -77,6 +85,19 @@ class CDialog : public QDialog {
   QSize FromDialogUnits(int width, int height) const;
 
   void keyPressEvent(QKeyEvent* event) override;
+  bool event(QEvent* event) override;
+
+  /// Holds back the deletion of `dialog`'s top-level dialog while it lives.
+  class Busy {
+   public:
+    explicit Busy(const CDialog& dialog);
+    ~Busy();
+    Busy(const Busy&) = delete;
+    Busy& operator=(const Busy&) = delete;
+
+   private:
+    CDialog* top_;
+  };
 
  private:
   struct PlacedRow {
@@ -87,6 +108,8 @@ class CDialog : public QDialog {
   };
 
   [[noreturn]] void NoSuchControl(int id) const;
+  void RunHandler(const Notification& entry, CSliderCtrl* slider);
+  void AdoptOwner();
   void BuildControls();
   void ConnectNotifications();
   void NameControls();
@@ -95,6 +118,9 @@ class CDialog : public QDialog {
   int templateNumber_;
   const DialogTemplate* template_ = nullptr;
   bool created_ = false;
+  int busy_ = 0;
+  bool deletionWaits_ = false;
+  QPointer<QWidget> owner_;
   int pitch_ = 0;  // of the present rows, in pixels
   std::unordered_map<int, QWidget*> controls_;
   std::vector<PlacedRow> rows_;

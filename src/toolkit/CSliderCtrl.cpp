@@ -20,6 +20,15 @@ void CSliderCtrl::SetRange(int minimum, int maximum, int tickFrequency) {
   setPageStep(std::max(1, (maximum - minimum) / 10));
 }
 
+void CSliderCtrl::mousePressEvent(QMouseEvent* event) {
+  // Some styles also scroll with the middle button; here only the left one acts.
+  if (event->button() == Qt::LeftButton) {
+    QSlider::mousePressEvent(event);
+  } else {
+    event->ignore();
+  }
+}
+
 void CSliderCtrl::mouseReleaseEvent(QMouseEvent* event) {
   const bool scrolled = event->button() == Qt::LeftButton;
   QSlider::mouseReleaseEvent(event);
@@ -50,13 +59,9 @@ void CSliderCtrl::wheelEvent(QWheelEvent* event) {
 
 void CSliderCtrl::focusOutEvent(QFocusEvent* event) {
   QSlider::focusOutEvent(event);
+  // A slider that is disabled in mid-step loses the focus by that: the user did not finish.
+  if (!isEnabled()) keyScrolling_ = false;
   EndKeyScroll();
-}
-
-void CSliderCtrl::changeEvent(QEvent* event) {
-  QSlider::changeEvent(event);
-  // A slider that is disabled in mid-step gets no key release any more.
-  if (event->type() == QEvent::EnabledChange && !isEnabled()) keyScrolling_ = false;
 }
 
 void CSliderCtrl::EndKeyScroll() {

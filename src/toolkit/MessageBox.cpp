@@ -1,18 +1,22 @@
 #include "toolkit/MessageBox.h"
 
 #include <QMessageBox>
+#include <QPointer>
 
 namespace {
 
 int Run(QWidget* owner, QMessageBox::Icon icon, const QString& text,
         QMessageBox::StandardButtons buttons, QMessageBox::StandardButton preselected) {
   QWidget* window = owner != nullptr ? owner->window() : nullptr;
-  QMessageBox box(icon, window != nullptr ? window->windowTitle() : QString(), text, buttons,
-                  window);
-  box.setTextFormat(Qt::PlainText);
-  box.setDefaultButton(preselected);
-  if (window != nullptr) box.setWindowModality(Qt::WindowModal);
-  return box.exec();
+  // On the heap: a window that dies while the box is up takes the box with it.
+  const QPointer<QMessageBox> box = new QMessageBox(
+      icon, window != nullptr ? window->windowTitle() : QString(), text, buttons, window);
+  box->setTextFormat(Qt::PlainText);
+  box->setDefaultButton(preselected);
+  if (window != nullptr) box->setWindowModality(Qt::WindowModal);
+  const int answer = box->exec();
+  delete box;
+  return answer;
 }
 
 }  // namespace

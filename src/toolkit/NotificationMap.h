@@ -14,7 +14,7 @@ class CSliderCtrl;
 struct Notification {
   enum class Event : std::uint8_t {
     Clicked,    ///< The user pressed a button or changed a check box.
-    SelChange,  ///< The user chose an entry of a list or another tab.
+    SelChange,  ///< The user chose an entry of a list, or another tab was selected by anyone.
     HScroll,    ///< The user finished moving any slider of the dialog.
     Passive,    ///< Nothing is reported: the control is read by another control's handler.
   };

@@ -28,6 +28,7 @@ const ResourceModule* SetCurrent(const ResourceModule* module);
 
 /// Adds a module to the chain, so that searches of other modules also find its resources.
 void Register(const ResourceModule& module);
+/// Takes a module out; if it is the current one, there is none any more.
 void Unregister(const ResourceModule& module);
 
 /// The template with this number along the chain, or null.

@@ -146,6 +146,20 @@ TEST(Tabs, TheHostsResourceModuleComesBack) {
   EXPECT_EQ(ResourceChain::SetCurrent(before), &host) << "after destruction without closing";
 }
 
+TEST(Tabs, TheHostsResourceModuleComesBackInAnyOrderOfClosing) {
+  static constexpr ResourceModule host{std::span<const DialogTemplate* const>{}};
+  const ResourceModule* before = ResourceChain::SetCurrent(&host);
+  for (const bool firstFirst : {true, false}) {
+    OpenDialog first(MakeModel(1, 1));
+    OpenDialog second(MakeModel(1, 1));
+    (firstFirst ? first : second).Dialog().reject();
+    EXPECT_EQ(ResourceChain::Current(), &AdvancedControlResources()) << "one is still open";
+    (firstFirst ? second : first).Dialog().reject();
+    EXPECT_EQ(ResourceChain::Current(), &host);
+  }
+  ResourceChain::SetCurrent(before);
+}
+
 TEST(Keyboard, EscOnAPageClosesTheDialogAndNeverHidesThePage) {
   OpenDialog open(MakeModel(5, 30), 1);
   open.Driver().Press(20142, Qt::Key_Escape);

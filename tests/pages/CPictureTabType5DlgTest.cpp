@@ -1,4 +1,5 @@
 #include <QMessageBox>
+#include <QTest>
 #include <gtest/gtest.h>
 
 #include "pages/picture/CPictureTabType5Dlg.h"
@@ -244,9 +245,35 @@ TEST(PictureRows, OnlySomeModelsHaveTheActiveIris) {
   }
 }
 
+TEST(PictureRows, BeforeAnythingIsKnownTheListsShowNothing) {
+  OpenDialog open(PictureModel(), 1, [](RecordingChannel& projector) {
+    projector.Refuse("Get 0x30A1");
+    projector.Answer("Get 0x3304", 0x12);
+  });
+  DialogDriver driver = open.Driver();
+  EXPECT_EQ(driver.Selected(20142), -1);
+  EXPECT_FALSE(driver.IsEnabled(20133));
+  EXPECT_EQ(driver.Selected(20293), -1);
+  EXPECT_EQ(driver.Text(21064), QStringLiteral("Load1"));
+}
+
+TEST(PictureRows, WithTwoDialogsOpenAPopUpBelongsToTheOneInUse) {
+  CModelInfo2 wide = PictureModel();
+  wide.RangeText(RangeIndex::GammaPoint) = "78,178";
+  OpenDialog first(wide, 1, Centred);
+  OpenDialog second(PictureModel(), 1, Centred);
+  first.Dialog().activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&first.Dialog()));
+  WhenModal("CGammaDlg", [&](CDialog& dialog) {
+    EXPECT_EQ(dialog.Owner(), &first.Dialog());
+    EXPECT_EQ(dialog.Item<QSlider>(20181).maximum(), 50);
+  });
+  first.Driver().Click(20133);
+}
+
 TEST_F(PictureTest, TheCustomButtonsOpenTheirDialogs) {
   WhenModal("CGammaDlg", [&](CDialog& dialog) {
-    EXPECT_EQ(dialog.parentWidget(), &open.Dialog());
+    EXPECT_EQ(dialog.Owner(), &open.Dialog());
     EXPECT_TRUE(dialog.GetDlgItem(20336)->isVisible()) << "with reset buttons";
     projector.Take();
   });

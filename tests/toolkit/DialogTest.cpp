@@ -38,7 +38,10 @@ class SampleDialog : public CDialog {
                                      HScroll(&SampleDialog::OnScroll)};
     return map;
   }
-  void OnDo() { ++presses; }
+  void OnDo() {
+    ++presses;
+    if (whenDone) whenDone();
+  }
   void OnMode() { ++choices; }
   void OnScroll(CSliderCtrl& slider) { scrolls.push_back(slider.value()); }
   void OnDestroy() override { ++destroyed; }
@@ -47,6 +50,7 @@ class SampleDialog : public CDialog {
   int choices = 0;
   int destroyed = 0;
   std::vector<int> scrolls;
+  std::function<void()> whenDone;
 };
 
 class DialogTest : public testing::Test {
@@ -88,6 +92,57 @@ TEST_F(DialogTest, ASliderReportsOnlyTheEndOfWhatTheUserDoes) {
                     QPoint(slider.width() - 4, driver.HandleCentre(4).y()));
   ASSERT_EQ(dialog.scrolls.size(), 4U) << "a click in the groove";
   EXPECT_GT(dialog.scrolls.back(), 6);
+}
+
+TEST_F(DialogTest, OnlyTheLeftButtonMovesASlider) {
+  auto& slider = dialog.Item<CSliderCtrl>(4);
+  QTest::mouseClick(&slider, Qt::MiddleButton, {}, QPoint(4, driver.HandleCentre(4).y()));
+  QTest::mouseClick(&slider, Qt::RightButton, {}, QPoint(4, driver.HandleCentre(4).y()));
+  EXPECT_EQ(slider.value(), 0);
+  EXPECT_TRUE(dialog.scrolls.empty());
+}
+
+TEST_F(DialogTest, ASliderThatIsTakenOutOfUseInMidStepReportsNothing) {
+  auto& slider = dialog.Item<CSliderCtrl>(4);
+  slider.setFocus();
+  QTest::keyPress(&slider, Qt::Key_Right);
+  slider.setEnabled(false);
+  slider.setEnabled(true);
+  QTest::keyRelease(&slider, Qt::Key_Right);
+  EXPECT_TRUE(dialog.scrolls.empty());
+}
+
+TEST_F(DialogTest, ADialogThatDiesWithAKeyDownReportsNothing) {
+  auto* dying = new SampleDialog;
+  ASSERT_TRUE(dying->Create());
+  dying->show();
+  dying->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(dying));
+  dying->GetDlgItem(4)->setFocus();
+  QTest::keyPress(dying->GetDlgItem(4), Qt::Key_Right);
+  delete dying;  // the sanitizers see a handler that runs
+}
+
+TEST_F(DialogTest, DeleteLaterWaitsForTheRunningHandler) {
+  const QPointer<SampleDialog> dying = new SampleDialog;
+  ASSERT_TRUE(dying->Create());
+  dying->show();
+  dying->whenDone = [&dying] {
+    dying->deleteLater();
+    QEventLoop loop;
+    QTimer::singleShot(5, &loop, &QEventLoop::quit);
+    loop.exec();
+    ASSERT_NE(dying, nullptr) << "its handler is still running";
+  };
+  DialogDriver(*dying).Click(10);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return dying == nullptr; }));
+}
+
+TEST_F(DialogTest, AModalDialogMayDieWhileItRuns) {
+  QPointer<SampleDialog> dying = new SampleDialog;
+  QTimer::singleShot(0, dying, [&] { delete dying; });
+  EXPECT_EQ(dying->DoModal(), QDialog::Rejected);
+  EXPECT_EQ(dying, nullptr);
 }
 
 TEST_F(DialogTest, TheWheelNeedsTheFocus) {
@@ -160,15 +215,14 @@ TEST_F(DialogTest, RunsModallyAgainAndAgain) {
   SampleDialog modal;
   for (int run = 1; run <= 2; ++run) {
     QTimer::singleShot(0, &modal, [&] {
-      EXPECT_EQ(modal.parentWidget(), &dialog) << "it belongs to the dialog opened before it";
-      EXPECT_FALSE(dialog.windowHandle()->isActive() && !modal.isVisible());
+      EXPECT_EQ(modal.Owner(), &dialog) << "it belongs to the dialog opened before it";
+      EXPECT_EQ(modal.parentWidget(), nullptr) << "but stays its creator's";
       DialogDriver(modal).Click(10);
       DialogDriver(modal).Click(14);
     });
     EXPECT_EQ(modal.DoModal(), QDialog::Accepted);
     EXPECT_EQ(modal.presses, run);
     EXPECT_EQ(modal.destroyed, run);
-    EXPECT_EQ(modal.parentWidget(), nullptr) << "and is its creator's again";
   }
 }
 

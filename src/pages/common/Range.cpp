@@ -1,21 +1,20 @@
 #include "pages/common/Range.h"
 
+#include <algorithm>
 #include <charconv>
+#include <cstdint>
 #include <limits>
 #include <optional>
 
 namespace {
 
+// Blanks, a sign and digits; what follows the digits does not count.
 std::optional<int> ParseNumber(std::string_view text) {
-  constexpr std::string_view blanks = " \t\r\n";
-  const auto begin = text.find_first_not_of(blanks);
-  if (begin == std::string_view::npos) return {};
-  text = text.substr(begin, text.find_last_not_of(blanks) - begin + 1);
+  text.remove_prefix(std::min(text.find_first_not_of(" \t\r\n"), text.size()));
   if (text.size() > 1 && text.front() == '+' && text[1] != '-') text.remove_prefix(1);
   int number = 0;
   const auto [stop, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (error != std::errc() || stop != text.data() + text.size()) return {};
-  if (number < std::numeric_limits<std::int16_t>::min() ||
+  if (error != std::errc() || number < std::numeric_limits<std::int16_t>::min() ||
       number > std::numeric_limits<std::uint16_t>::max()) {
     return {};
   }

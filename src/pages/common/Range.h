@@ -11,6 +11,6 @@ struct Range {
 };
 
 /// A model's range text, "minimum,maximum" in device units, as shown values: device value − bias.
-/// A text that is empty, is not two decimal 16-bit integers around the first comma, or holds them
-/// in the wrong order gives `fallback`, which is in shown values already.
+/// A text that is empty, does not have a decimal 16-bit integer on both sides of its first comma,
+/// or has them in the wrong order gives `fallback`, which is in shown values already.
 Range ParseRange(std::string_view text, int bias, Range fallback);

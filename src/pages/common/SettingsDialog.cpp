@@ -4,13 +4,22 @@
 #include "toolkit/MessageBox.h"
 
 const ModelData& SettingsDialog::Model() const {
-  for (const QWidget* window = this; window != nullptr; window = window->parentWidget()) {
+  const QWidget* window = this;
+  while (window != nullptr) {
     if (const auto* source = dynamic_cast<const ModelDataSource*>(window)) return source->Model();
+    const auto* dialog = qobject_cast<const CDialog*>(window);
+    window = dialog != nullptr ? dialog->Owner() : window->parentWidget();
   }
   static const ModelData none;
   return none;
 }
 
 void SettingsDialog::ShowError(int errorNumber) {
+  if (!window()->isVisible()) return;
   ShowStopMessage(this, CatalogString(kErrorCategory, errorNumber));
+}
+
+CPjtInterface& SettingsDialog::Unconnected() {
+  static CPjtInterface projector;
+  return projector;
 }

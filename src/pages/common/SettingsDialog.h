@@ -14,8 +14,9 @@ class SettingsDialog : public CDialog {
  public:
   using CDialog::CDialog;
 
-  /// The connection that the page works on. Not owned; set by the opener before creation.
-  CPjtInterface* projector = nullptr;
+  /// The connection that the page works on. Not owned, never null; set by the opener before
+  /// creation, until then a connection that refuses everything.
+  CPjtInterface* projector = &Unconnected();
 
  protected:
   /// The model data of the dialog this one belongs to, at any distance; empty data when there is
@@ -25,6 +26,10 @@ class SettingsDialog : public CDialog {
   /// Catalog text of the list category.
   static QString ListString(int number) { return CatalogString(kListCategory, number); }
 
-  /// Tells a refusal: stop-icon box with the error category's text.
+  /// Tells a refusal: stop-icon box with the error category's text. Nothing is told to a user who
+  /// has closed the dialog meanwhile.
   void ShowError(int errorNumber);
+
+ private:
+  static CPjtInterface& Unconnected();
 };

@@ -141,11 +141,10 @@ short CPjtInterface::DecrementAutoPowerOff(short value) {
 
 int CPjtInterface::Get(unsigned short code, unsigned short argument, CPjtInterface*,
                        unsigned short* value) {
-  short read = 0;
-  const int result =
-      value ? ExecuteInto({Op::Get, code, Word(argument)}, &read) : RefusedResult(Op::Get);
-  if (IsSuccess(Op::Get, result)) *value = static_cast<unsigned short>(read);
-  return result;
+  if (!value) return RefusedResult(Op::Get);
+  const PjtReply reply = Execute({Op::Get, code, Word(argument)});
+  if (reply.result != 0) *value = static_cast<unsigned short>(reply.value);
+  return reply.result;
 }
 
 int CPjtInterface::Set(unsigned short code, unsigned short value, CPjtInterface*) {

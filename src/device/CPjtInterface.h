@@ -101,7 +101,8 @@ class CPjtInterface {
   short DecrementAutoPowerOff(short value);
 
   // The generic operations, by command code. `self` is the object called through.
-  // Exactly 1 is success. `Inc` and `Dec` step by one; read the setting afterwards with `Get`.
+  // Exactly 1 is success, though some callers take any result but 0 for it: `Get` then stores the
+  // value as well. `Inc` and `Dec` step by one; read the setting afterwards with `Get`.
   int Get(unsigned short code, unsigned short argument, CPjtInterface* self, unsigned short* value);
   int Set(unsigned short code, unsigned short value, CPjtInterface* self);
   int Inc(unsigned short code, unsigned short argument, CPjtInterface* self);

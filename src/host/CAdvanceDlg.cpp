@@ -17,6 +17,7 @@
 #include "i18n/LocalizeControlTexts.h"
 #include "pages/PlainPages.h"
 #include "pages/picture/CPictureTabType5Dlg.h"
+#include "pages/setup/CSetupType5TabDlg.h"
 #include "pages/status/CStatusTabDlg.h"
 #include "resources/AdvancedControlResources.h"
 #include "resources/CatalogNumbers.h"

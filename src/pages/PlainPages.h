@@ -34,7 +34,6 @@ using COption4TabDlg = PlainPage<TemplateId::Option4>;
 using COther4TabDlg = PlainPage<TemplateId::Other4>;
 using CPicTabDlg = PlainPage<TemplateId::Pic>;
 using CInputType5Dlg = PlainPage<TemplateId::InputType5>;
-using CSetupType5TabDlg = PlainPage<TemplateId::SetupType5>;
 using CAudioType5Dlg = PlainPage<TemplateId::AudioType5>;
 using COption5TabDlg = PlainPage<TemplateId::OptionType5>;
 using CSetupTabDlg = PlainPage<TemplateId::Setup>;

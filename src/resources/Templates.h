@@ -7,3 +7,4 @@ extern const DialogTemplate kStatusTemplate;
 extern const DialogTemplate kPictureType5Template;
 extern const DialogTemplate kGammaTemplate;
 extern const DialogTemplate kColorTempTemplate;
+extern const DialogTemplate kSetupType5Template;

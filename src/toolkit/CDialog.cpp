@@ -277,7 +277,9 @@ void CDialog::NameControls() {
     for (std::size_t k = 0; k < rows_[i].controls.size(); ++k) {
       const ControlKind kind = template_->rows[i].controls[k].kind;
       QWidget* control = rows_[i].controls[k];
-      const QString own = SpokenCaption(WindowText(*control));
+      // A button with a picture instead of a text brings a name of its own.
+      const QString text = WindowText(*control);
+      const QString own = SpokenCaption(text.isEmpty() ? control->accessibleName() : text);
       if (kind == ControlKind::Label) {
         caption = own;
       } else if (kind == ControlKind::Text) {

@@ -47,12 +47,13 @@ CComboBox* MakeCombo(std::span<const char* const> entries, QWidget* parent) {
 
 // Controls that share the value columns: an arrow pad, check boxes, a lone button.
 void PlaceTogether(const std::vector<QWidget*>& controls, QGridLayout* grid, int gridRow,
-                   int columns) {
+                   int firstColumn, int endColumn) {
   auto* box = new QHBoxLayout;
   box->setContentsMargins(0, 0, 0, 0);
+  box->setSpacing(grid->horizontalSpacing());
   for (QWidget* control : controls) box->addWidget(control, 0, Qt::AlignVCenter);
   box->addStretch(1);
-  grid->addLayout(box, gridRow, RowColumn::Minus, 1, columns);
+  grid->addLayout(box, gridRow, firstColumn, 1, endColumn - firstColumn);
 }
 
 }  // namespace
@@ -96,8 +97,11 @@ QWidget* MakeControl(const ControlTemplate& control, QWidget* parent) {
 
 void PlaceRow(const RowTemplate& row, const std::vector<QWidget*>& controls, QGridLayout* grid,
               int gridRow) {
-  const bool hasSlider = std::ranges::any_of(
-      row.controls, [](const auto& control) { return control.kind == ControlKind::Slider; });
+  const auto has = [&row](ControlKind kind) {
+    return std::ranges::find(row.controls, kind, &ControlTemplate::kind) != row.controls.end();
+  };
+  const bool hasSlider = has(ControlKind::Slider);
+  const bool hasArrows = has(ControlKind::Arrow);
   bool afterCombo = false;
   std::vector<QWidget*> together;
   for (std::size_t i = 0; i < controls.size(); ++i) {
@@ -148,6 +152,14 @@ void PlaceRow(const RowTemplate& row, const std::vector<QWidget*>& controls, QGr
         grid->addWidget(widget, gridRow, RowColumn::Label, 1, RowColumn::Count,
                         Qt::AlignVCenter | Qt::AlignRight);
         break;
+      case ControlKind::Text:
+        // The captions of an arrow pad's parts have a column, so that its arrows are in line.
+        if (hasArrows) {
+          grid->addWidget(widget, gridRow, RowColumn::Minus, Qt::AlignVCenter);
+        } else {
+          together.push_back(widget);
+        }
+        break;
       default:
         together.push_back(widget);
         break;
@@ -156,5 +168,6 @@ void PlaceRow(const RowTemplate& row, const std::vector<QWidget*>& controls, QGr
   if (together.empty()) return;
   const bool fieldColumnTaken =
       controls.size() > 1 && row.controls[controls.size() - 1].kind == ControlKind::Field;
-  PlaceTogether(together, grid, gridRow, fieldColumnTaken ? 3 : RowColumn::Count - 2);
+  PlaceTogether(together, grid, gridRow, hasArrows ? RowColumn::Slider : RowColumn::Minus,
+                fieldColumnTaken ? RowColumn::Field : RowColumn::Count);
 }

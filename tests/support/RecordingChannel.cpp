@@ -51,7 +51,8 @@ PjtReply RecordingChannel::Execute(const PjtCommand& command) {
     return {.result = RefusedResult(command.operation), .value = -1};
   }
   const auto value = values_.find(described.key);
-  return {.result = AcceptedResult(command.operation),
+  const auto result = results_.find(described.key);
+  return {.result = result == results_.end() ? AcceptedResult(command.operation) : result->second,
           .value = static_cast<std::int16_t>(value == values_.end() ? 0 : value->second)};
 }
 

@@ -21,6 +21,8 @@ class RecordingChannel final : public ProjectorChannel {
   void Answer(const std::string& key, int value) { values_[key] = value; }
   /// The commands with this key are refused, as their family says it.
   void Refuse(const std::string& key) { refused_.insert(key); }
+  /// The commands with this key, unless refused, answer with this result instead of plain success.
+  void AnswerResult(const std::string& key, int result) { results_[key] = result; }
   void Accept(const std::string& key) { refused_.erase(key); }
 
   /// The commands since the last call, oldest first.
@@ -30,6 +32,7 @@ class RecordingChannel final : public ProjectorChannel {
 
  private:
   std::map<std::string, int> values_;
+  std::map<std::string, int> results_;
   std::set<std::string> refused_;
   std::vector<std::string> sent_;
 };

@@ -43,3 +43,5 @@ void SliderRow::Disable() {
   plus_->setEnabled(false);
   ClearNumber();
 }
+
+void SliderRow::EnableField(bool enable) { field_->setEnabled(enable); }

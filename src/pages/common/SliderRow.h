@@ -33,6 +33,8 @@ class SliderRow {
   /// Takes −, slider and + in or out of use; a disabled row's field is empty.
   void Enable();
   void Disable();
+  /// Greys the number field or not; `Enable` and `Disable` leave it.
+  void EnableField(bool enable);
 
   /// Last value known, which a refused change goes back to. Pages decide what they remember.
   std::int16_t current = 0;

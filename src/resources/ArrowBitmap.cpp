@@ -1,0 +1,65 @@
+#include "resources/ArrowBitmap.h"
+
+#include <optional>
+
+#include <QGuiApplication>
+#include <QIconEngine>
+#include <QPainter>
+#include <QPalette>
+
+namespace {
+
+// How far the arrow that points up is turned, clockwise.
+std::optional<int> Turn(int number) {
+  switch (number) {
+    case BitmapId::ArrowUp:
+      return 0;
+    case BitmapId::ArrowRight:
+      return 90;
+    case BitmapId::ArrowDown:
+      return 180;
+    case BitmapId::ArrowLeft:
+      return 270;
+    default:
+      return {};
+  }
+}
+
+class ArrowEngine final : public QIconEngine {
+ public:
+  explicit ArrowEngine(int turn) : turn_(turn) {}
+
+  void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
+    const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
+    static constexpr QPointF kUp[] = {{0, -0.3}, {0.4, 0.25}, {-0.4, 0.25}};
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(QGuiApplication::palette().brush(group, QPalette::ButtonText));
+    painter->translate(QRectF(rect).center());
+    painter->rotate(turn_);
+    painter->scale(rect.width(), rect.height());
+    painter->drawPolygon(kUp, 3);
+    painter->restore();
+  }
+
+  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+    QPixmap pixmap(size);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    paint(&painter, pixmap.rect(), mode, state);
+    return pixmap;
+  }
+
+  QIconEngine* clone() const override { return new ArrowEngine(turn_); }
+
+ private:
+  int turn_;
+};
+
+}  // namespace
+
+QIcon ArrowBitmap(int number) {
+  const auto turn = Turn(number);
+  return turn ? QIcon(new ArrowEngine(*turn)) : QIcon();
+}

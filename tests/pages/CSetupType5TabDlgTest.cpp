@@ -1,0 +1,720 @@
+#include <algorithm>
+#include <iterator>
+#include <memory>
+#include <sstream>
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QLineEdit>
+#include <gtest/gtest.h>
+
+#include "pages/setup/CSetupType5TabDlg.h"
+#include "resources/ArrowBitmap.h"
+#include "tests/support/DialogDriver.h"
+
+namespace {
+
+using Strings = std::vector<std::string>;
+using Script = std::function<void(RecordingChannel&)>;
+
+constexpr int kSetupTab = 4;
+
+CModelInfo2 SetupModel(int modelCode) {
+  CModelInfo2 model = MakeModel(5, modelCode);
+  for (const char* name : {"Normal", "Eco", "Bright"}) AddEntry(model.WhisperList, 0, name);
+  return model;
+}
+
+struct SetupPage {
+  explicit SetupPage(int modelCode, const Script& script = {})
+      : SetupPage(SetupModel(modelCode), script) {}
+  explicit SetupPage(const CModelInfo2& model, const Script& script = {})
+      : open(model, kSetupTab, script) {}
+
+  // Reads the page afresh after `script`, and forgets the reads.
+  void Refresh(const Script& script) {
+    script(projector);
+    open.Page().InitDisp();
+    projector.Take();
+  }
+
+  OpenDialog open;
+  DialogDriver driver = open.Driver();
+  RecordingChannel& projector = open.Projector();
+};
+
+// Short name, controls and reads of each row, from top to bottom.
+struct RowFacts {
+  std::string name;
+  std::vector<int> controls;
+  Strings reads = {};
+};
+
+const std::vector<RowFacts> kLeft{
+    {"Auto", {20305}},
+    {"V", {20308, 20310, 20309, 20314}, {"GetKeystoneV"}},
+    {"H", {20312, 20311, 20313, 20141}, {"GetKeystoneH"}},
+    {"Whisper", {20315}, {"GetWhisper"}},
+    {"Mirror", {20316}, {"GetMirror"}},
+    {"Volume", {20318, 20317, 20319, 20142}, {"GetInputSource", "GetInputSrcVolume 0"}},
+    {"Input", {20337}},
+    {"Speaker", {20321}, {"GetSpeaker"}},
+    {"Zoom", {20331, 20332, 20333, 20143}, {"Get 0x300A"}},
+    {"ShiftV", {20335, 20336, 20144}, {"Get 0x300B"}},
+    {"ShiftH", {20334, 20350, 20145}, {"Get 0x300C"}},
+    {"Reset", {20327, 20328}},
+};
+const std::vector<RowFacts> kRight{
+    {"RGB1", {20320}, {"GetAudioRGB1"}},
+    {"Comp1", {20369}, {"GetAudioRGB1"}},
+    {"RGB2", {20322}, {"GetAudioRGB2"}},
+    {"Comp2", {20370}, {"GetAudioRGB2"}},
+    {"HDMI", {20329}, {"GetAudioM1D"}},
+    {"Vid", {20323}, {"GetAudioVideo"}},
+    {"SVid", {20324}, {"GetAudioSVideo"}},
+    {"Cmp", {20325}, {"GetAudioComponent"}},
+    {"MIU", {20326}, {"GetAudioMIU"}},
+    {"HDMIAudio", {20330}, {"GetHDMIAudio"}},
+    {"Standby", {20368}, {"GetStandbyMode"}},
+    {"oRGB1", {20371}, {"GetMonitorOutComputer1"}},
+    {"oComp1", {20360}, {"GetMonitorOutComputer1"}},
+    {"oRGB2", {20372}, {"GetMonitorOutComputer2"}},
+    {"oComp2", {20361}, {"GetMonitorOutComputer2"}},
+    {"oHDMI", {20362}, {"GetMonitorOutHDMI"}},
+    {"oCmp", {20363}, {"GetMonitorOutComponent"}},
+    {"oSVid", {20364}, {"GetMonitorOutSVideo"}},
+    {"oVid", {20365}, {"GetMonitorOutVideo"}},
+    {"oMIU", {20366}, {"GetMonitorOutMIU"}},
+    {"oStandby", {20367}, {"GetMonitorOutStandby"}},
+};
+// Two groups are read in another order than they stand in.
+const char* const kReadOrder =
+    "V H Whisper Mirror Speaker Volume Zoom ShiftV ShiftH RGB1 Comp1 RGB2 Comp2 HDMI Cmp SVid Vid "
+    "MIU HDMIAudio Standby oRGB1 oComp1 oRGB2 oComp2 oHDMI oCmp oSVid oVid oMIU oStandby";
+
+struct ModelCase {
+  std::vector<int> codes;
+  const char* left;
+  const char* right;
+};
+
+// clang-format off
+const ModelCase kModels[] = {
+    {{30, 31, 41, 43, 46, 52}, "Auto V H Whisper Mirror", ""},
+    {{32, 33}, "Auto V Whisper Mirror Volume Input", "RGB1 RGB2 Vid SVid Cmp"},
+    {{36}, "Auto V Whisper Mirror Volume Input", "RGB1 RGB2 Vid SVid Cmp MIU"},
+    {{37}, "Auto V Whisper Mirror Volume Input", "Comp1 Comp2 Vid SVid"},
+    {{38}, "Auto V Whisper Mirror Volume Input", "MIU"},
+    {{39, 45}, "Auto V Whisper Mirror Volume Input Speaker", "Comp1 Comp2 Vid SVid Cmp"},
+    {{40}, "Auto V Whisper Mirror Volume Input Speaker", "Comp1 Comp2 Vid SVid Cmp MIU"},
+    {{42}, "Auto V H Whisper Mirror Volume Input Speaker",
+     "Comp1 Comp2 HDMI Vid SVid Cmp MIU HDMIAudio"},
+    {{44}, "V Whisper Mirror Volume Input Speaker Zoom ShiftV ShiftH", "Comp1 Comp2 Vid SVid Cmp"},
+    {{49, 50}, "Auto V Whisper Mirror", "Standby oComp1 oComp2 oCmp oSVid oVid oStandby"},
+    {{51}, "Auto V H Whisper Mirror", "oRGB1 oRGB2 oHDMI oCmp oSVid oVid oStandby"},
+    {{53}, "Auto V Whisper Mirror", "Standby oComp1 oComp2 oHDMI oCmp oSVid oVid oStandby"},
+    {{54}, "Auto V H Whisper Mirror", "oRGB1 oRGB2 oHDMI oCmp oSVid oVid oMIU oStandby"},
+    {{34, 35, 47, 48, 29, 55, 0}, "", ""},
+};
+// clang-format on
+
+Strings Words(const std::string& text) {
+  std::istringstream words(text);
+  return {std::istream_iterator<std::string>(words), {}};
+}
+
+// The visible rows of a column, which stand packed at `pitch` (found with the first two rows) with
+// all their controls on one line.
+std::string VisibleRows(SetupPage& page, const std::vector<RowFacts>& column, int& pitch) {
+  std::string names;
+  int last = 0;
+  for (const RowFacts& row : column) {
+    const auto visible = std::ranges::count_if(
+        row.controls, [&page](int id) { return page.driver.Item<QWidget>(id).isVisible(); });
+    if (visible == 0) continue;
+    EXPECT_EQ(visible, std::ssize(row.controls)) << row.name << " is shown in part";
+    const int line = page.driver.Item<QWidget>(row.controls[0]).geometry().center().y();
+    for (const int id : row.controls) {
+      EXPECT_NEAR(page.driver.Item<QWidget>(id).geometry().center().y(), line, 1) << id;
+    }
+    if (row.name == "Reset") continue;  // at the foot of the page
+    if (!names.empty()) {
+      if (pitch == 0) pitch = line - last;
+      EXPECT_NEAR(line - last, pitch, 1) << row.name << " leaves a gap";
+      names += ' ';
+    }
+    names += row.name;
+    last = line;
+  }
+  return names;
+}
+
+TEST(SetupRowsTest, EachModelShowsPacksAndReadsItsRows) {
+  for (const ModelCase& model : kModels) {
+    Strings reads;
+    const Strings present = Words(std::string(model.left) + ' ' + model.right);
+    for (const std::string& name : Words(kReadOrder)) {
+      if (std::ranges::find(present, name) == present.end()) continue;
+      for (const auto* column : {&kLeft, &kRight}) {
+        const auto row = std::ranges::find(*column, name, &RowFacts::name);
+        if (row != column->end()) reads.insert(reads.end(), row->reads.begin(), row->reads.end());
+      }
+    }
+    for (const int code : model.codes) {
+      SCOPED_TRACE(code);
+      SetupPage page(code);
+      int pitch = 0;
+      EXPECT_EQ(VisibleRows(page, kLeft, pitch), model.left);
+      EXPECT_EQ(VisibleRows(page, kRight, pitch), model.right);
+      EXPECT_TRUE(page.driver.Item<QWidget>(20328).isVisible()) << "the resets are always there";
+      page.open.Page().InitDisp();
+      EXPECT_EQ(page.projector.Take(), reads);
+    }
+  }
+}
+
+TEST(SetupRowsTest, RangeTextsSetTheSliders) {
+  struct Case {
+    const char* text;
+    Range keystone;
+    int keystoneTicks;
+    Range volume;
+    int volumeTicks;
+  };
+  for (const Case& expected :
+       {Case{"", {-128, 127}, 15, {0, 32}, 4}, Case{"0,255", {-128, 127}, 15, {0, 255}, 31},
+        Case{"100,156", {-28, 28}, 3, {100, 156}, 19}, Case{"126,130", {-2, 2}, 1, {126, 130}, 16},
+        Case{"0,100", {-128, -28}, 1, {0, 100}, 12},
+        Case{"from 1 to 5", {-128, 127}, 15, {0, 32}, 4},
+        Case{"9,", {-128, 127}, 15, {0, 32}, 4}}) {
+    SCOPED_TRACE(expected.text);
+    CModelInfo2 model = SetupModel(42);
+    for (const auto index : {RangeIndex::KeystoneV, RangeIndex::KeystoneH, RangeIndex::Volume}) {
+      model.RangeText(index) = expected.text;
+    }
+    SetupPage page(model);
+    const auto expectSlider = [&page](int id, Range range, int ticks) {
+      const auto& slider = page.driver.Item<QSlider>(id);
+      EXPECT_EQ((Range{slider.minimum(), slider.maximum()}), range) << id;
+      EXPECT_EQ(slider.tickInterval(), ticks) << id;
+    };
+    expectSlider(20310, expected.keystone, expected.keystoneTicks);
+    expectSlider(20311, expected.keystone, expected.keystoneTicks);
+    expectSlider(20317, expected.volume, expected.volumeTicks);
+    expectSlider(20332, {80, 100}, 2);
+  }
+}
+
+TEST(SetupRowsTest, FailedReadsDisableTheirRowsOnly) {
+  for (const int code : {42, 44, 53}) {
+    SCOPED_TRACE(code);
+    SetupPage page(code);
+    page.projector.Answer("GetInputSource", 3);
+    const auto refuse = [&page](bool refused) {
+      for (const auto* column : {&kLeft, &kRight}) {
+        for (const RowFacts& row : *column) {
+          for (std::string read : row.reads) {
+            if (read == "GetInputSource") continue;  // the volume read fails on its own
+            if (read == "GetInputSrcVolume 0") read = "GetInputSrcVolume 3";
+            if (refused) {
+              page.projector.Refuse(read);
+            } else {
+              page.projector.Accept(read);
+            }
+          }
+        }
+      }
+      page.open.Page().InitDisp();
+    };
+    for (const bool refused : {true, false}) {
+      refuse(refused);
+      for (const auto* column : {&kLeft, &kRight}) {
+        for (const RowFacts& row : *column) {
+          for (const int id : row.controls) {
+            const auto* control = &page.driver.Item<QWidget>(id);
+            if (!control->isVisible()) continue;
+            if (const auto* field = qobject_cast<const QLineEdit*>(control)) {
+              EXPECT_EQ(field->text().isEmpty(), refused && id != 20337) << id;
+            } else {
+              EXPECT_EQ(control->isEnabled(), row.reads.empty() || !refused) << id;
+            }
+          }
+        }
+      }
+      EXPECT_EQ(page.driver.IsEnabled(20314), !refused) << "the keystone field goes grey too";
+      EXPECT_GT(page.driver.Entries(20327).size(), 0) << "resets do not depend on the reads";
+    }
+  }
+}
+
+struct KeystoneCase {
+  int minus, slider, plus, field;
+  const char* axis;
+};
+constexpr KeystoneCase kKeystones[] = {{20308, 20310, 20309, 20314, "KeystoneV"},
+                                       {20312, 20311, 20313, 20141, "KeystoneH"}};
+
+struct KeystoneTest : testing::Test, SetupPage {
+  KeystoneTest()
+      : SetupPage(42, [](RecordingChannel& channel) {
+          channel.Answer("GetKeystoneV", 100);
+          channel.Answer("GetKeystoneH", 140);
+        }) {}
+};
+
+TEST_F(KeystoneTest, ButtonsStepFromTheProjectorsValue) {
+  for (const KeystoneCase& row : kKeystones) {
+    SCOPED_TRACE(row.axis);
+    const std::string axis = row.axis;
+    projector.Answer("Increment" + axis, 131);
+    driver.Click(row.plus);
+    EXPECT_EQ(projector.Take(), (Strings{"Get" + axis, "Increment" + axis}));
+    EXPECT_EQ(driver.Text(row.field), QStringLiteral("3"));
+    EXPECT_EQ(driver.SliderAt(row.slider), 3);
+    projector.Refuse("Decrement" + axis);
+    driver.Click(row.minus);
+    EXPECT_EQ(projector.Take(), (Strings{"Get" + axis, "Decrement" + axis}));
+    projector.Refuse("Get" + axis);
+    driver.Click(row.minus);
+    EXPECT_EQ(projector.Take(), Strings{"Get" + axis});
+    EXPECT_EQ(driver.Text(row.field), QStringLiteral("3"));
+    EXPECT_EQ(driver.SliderAt(row.slider), 3);
+  }
+}
+
+TEST_F(KeystoneTest, ARefusedHorizontalMoveGoesToTheVerticalMemory) {
+  projector.Refuse("SetKeystoneH");
+  driver.Press(20311, Qt::Key_Left);
+  EXPECT_EQ(projector.Take(), Strings{"SetKeystoneH 139"});
+  EXPECT_EQ(driver.SliderAt(20311), 100);
+  EXPECT_EQ(driver.Text(20141), QStringLiteral("12")) << "only the slider moves";
+}
+
+TEST_F(KeystoneTest, ReadsAndStepsRememberDeviceValuesAndReleasesPositions) {
+  const auto positionAfterRefusal = [this] {
+    projector.Refuse("SetKeystoneV");
+    driver.Press(20310, Qt::Key_Right);
+    projector.Accept("SetKeystoneV");
+    return driver.SliderAt(20310);
+  };
+  EXPECT_EQ(positionAfterRefusal(), 100) << "as read";
+  projector.Answer("DecrementKeystoneV", 99);
+  driver.Click(20308);
+  EXPECT_EQ(positionAfterRefusal(), 99) << "as stepped";
+  projector.Take();
+  driver.Press(20310, Qt::Key_Home);
+  EXPECT_EQ(projector.Take(), Strings{"SetKeystoneV 0"});
+  EXPECT_EQ(driver.Text(20314), QStringLiteral("-128"));
+  EXPECT_EQ(positionAfterRefusal(), -128) << "as released";
+  projector.Answer("GetKeystoneV", 128);
+  driver.Click(20328);
+  EXPECT_EQ(driver.SliderAt(20310), 0);
+  EXPECT_EQ(positionAfterRefusal(), -128) << "a reset is not remembered";
+}
+
+TEST_F(KeystoneTest, AutoKeystoneActsAtOnce) {
+  MessageBoxes boxes;
+  driver.Click(20305);
+  EXPECT_EQ(projector.Take(), Strings{"ExecAutoKeyStone"});
+  EXPECT_TRUE(boxes.Take().empty());
+}
+
+struct VolumeTest : testing::Test, SetupPage {
+  VolumeTest()
+      : SetupPage(42, [](RecordingChannel& channel) {
+          channel.Answer("GetInputSource", 3);
+          channel.Answer("GetInputSrcVolume 3", 12);
+        }) {}
+};
+
+TEST_F(VolumeTest, StepsAndDragsGoToTheCurrentInput) {
+  EXPECT_EQ(driver.Text(20142), QStringLiteral("12"));
+  EXPECT_EQ(driver.Text(20337), QStringLiteral("3"));
+  projector.Answer("GetInputSource", 5);
+  projector.Answer("IncrementInputSrcVol 5", 14);
+  driver.Click(20319);
+  EXPECT_EQ(projector.Take(), (Strings{"GetInputSource", "IncrementInputSrcVol 5"}));
+  EXPECT_EQ(driver.Text(20337), QStringLiteral("5"));
+  EXPECT_EQ(driver.Text(20142), QStringLiteral("14"));
+  projector.Refuse("DecrementInputSrcVol 5");
+  driver.Click(20318);
+  EXPECT_EQ(projector.Take(), (Strings{"GetInputSource", "DecrementInputSrcVol 5"}));
+  EXPECT_EQ(driver.SliderAt(20317), 14);
+  driver.Drag(20317, 20);
+  EXPECT_EQ(projector.Take(), (Strings{"GetInputSource", "SetVolumeEachSrc 5 20"}));
+  EXPECT_EQ(driver.Text(20142), QStringLiteral("20"));
+  projector.Refuse("SetVolumeEachSrc 5");
+  driver.Drag(20317, 30);
+  EXPECT_EQ(driver.SliderAt(20317), 20);
+  EXPECT_EQ(driver.Text(20142), QStringLiteral("20"));
+}
+
+TEST_F(VolumeTest, WithoutASourceOnlyTheButtonsGoOn) {
+  projector.Refuse("GetInputSource");
+  driver.Drag(20317, 30);
+  EXPECT_EQ(projector.Take(), Strings{"GetInputSource"});
+  EXPECT_EQ(driver.SliderAt(20317), 12);
+  driver.Click(20318);
+  EXPECT_EQ(projector.Take(), (Strings{"GetInputSource", "DecrementInputSrcVol 0"}));
+  EXPECT_EQ(driver.Text(20337), QStringLiteral("0"));
+  open.Page().InitDisp();
+  EXPECT_FALSE(driver.IsEnabled(20317));
+  EXPECT_EQ(driver.Text(20142), QString());
+  EXPECT_EQ(driver.Text(20337), QString());
+}
+
+struct ZoomShiftTest : testing::Test, SetupPage {
+  ZoomShiftTest()
+      : SetupPage(44, [](RecordingChannel& channel) {
+          channel.Answer("Get 0x300A", 90);
+          channel.Answer("Get 0x300B", 130);
+          channel.Answer("Get 0x300C", 120);
+        }) {}
+
+  void ExpectBox(int errorNumber) {
+    const auto seen = boxes.Take();
+    ASSERT_EQ(seen.size(), 1U);
+    EXPECT_EQ(seen[0].text, CatalogString(2201, errorNumber));
+    EXPECT_EQ(seen[0].icon, QMessageBox::Critical);
+  }
+
+  MessageBoxes boxes;
+};
+
+TEST_F(ZoomShiftTest, ZoomButtonsStepInsideTheRange) {
+  projector.Answer("Get 0x300A", 80);
+  driver.Click(20331);
+  EXPECT_EQ(projector.Take(), (Strings{"Dec 0x300A", "Get 0x300A"}));
+  EXPECT_EQ(driver.Text(20143), QStringLiteral("80"));
+  driver.Click(20331);
+  EXPECT_EQ(projector.Take(), Strings{});
+  driver.Drag(20332, 100);
+  EXPECT_EQ(projector.Take(), Strings{"Set 0x300A 100"});
+  driver.Click(20333);
+  EXPECT_EQ(projector.Take(), Strings{});
+  projector.Refuse("Dec 0x300A");
+  driver.Click(20331);
+  EXPECT_EQ(projector.Take(), Strings{"Dec 0x300A"});
+  ExpectBox(314);
+  projector.Refuse("Set 0x300A");
+  driver.Drag(20332, 85);
+  EXPECT_EQ(driver.SliderAt(20332), 100);
+  EXPECT_TRUE(boxes.Take().empty()) << "a refused drag stays quiet";
+  projector.Answer("Get 0x300A", 90);
+  driver.Choose(20327, 1);
+  driver.Click(20328);
+  EXPECT_EQ(driver.SliderAt(20332), 90);
+  driver.Drag(20332, 85);
+  EXPECT_EQ(driver.SliderAt(20332), 100) << "a reset is not remembered";
+}
+
+TEST_F(ZoomShiftTest, OnlyTheZoomButtonsInsistOnTheResultOne) {
+  for (const char* key : {"Get 0x300A", "Set 0x300A", "Inc 0x300A", "Get 0x300B", "Inc 0x300B"}) {
+    projector.AnswerResult(key, 2);
+  }
+  projector.Answer("Get 0x300A", 95);
+  open.Page().InitDisp();
+  EXPECT_TRUE(driver.IsEnabled(20332));
+  EXPECT_EQ(driver.Text(20143), QStringLiteral("95"));
+  driver.Drag(20332, 91);
+  EXPECT_EQ(driver.Text(20143), QStringLiteral("91"));
+  projector.Take();
+
+  driver.Click(20333);
+  EXPECT_EQ(projector.Take(), Strings{"Inc 0x300A"});
+  ExpectBox(314);
+  projector.AnswerResult("Inc 0x300A", 1);
+  driver.Click(20333);
+  EXPECT_EQ(projector.Take(), (Strings{"Inc 0x300A", "Get 0x300A"}));
+  EXPECT_EQ(driver.Text(20143), QStringLiteral("91")) << "a read-back with another result";
+
+  projector.Answer("Get 0x300B", 131);
+  driver.Click(20335);
+  EXPECT_EQ(projector.Take(), (Strings{"Inc 0x300B", "Get 0x300B"}));
+  EXPECT_EQ(driver.Text(20144), QStringLiteral("3"));
+  EXPECT_TRUE(boxes.Take().empty());
+}
+
+TEST_F(ZoomShiftTest, ArrowsStepTheirAxisAndTellRefusals) {
+  struct Arrow {
+    int button;
+    const char* step;
+    const char* code;
+    int field;
+    const char* name;
+  };
+  for (const Arrow& arrow : {Arrow{20335, "Inc ", "0x300B", 20144, "D-Shift V ↑"},
+                             Arrow{20336, "Dec ", "0x300B", 20144, "D-Shift V ↓"},
+                             Arrow{20334, "Dec ", "0x300C", 20145, "D-Shift H ←"},
+                             Arrow{20350, "Inc ", "0x300C", 20145, "D-Shift H →"}}) {
+    SCOPED_TRACE(arrow.name);
+    const std::string step = std::string(arrow.step) + arrow.code;
+    const std::string read = std::string("Get ") + arrow.code;
+    const auto& button = driver.Item<QAbstractButton>(arrow.button);
+    EXPECT_EQ(button.accessibleName(), QString::fromUtf8(arrow.name));
+    EXPECT_EQ(button.text(), QString());
+    EXPECT_FALSE(button.icon().isNull());
+    projector.Answer(read, 118);
+    driver.Click(arrow.button);
+    EXPECT_EQ(projector.Take(), (Strings{step, read}));
+    EXPECT_EQ(driver.Text(arrow.field), QStringLiteral("-10"));
+    projector.Refuse(step);
+    driver.Click(arrow.button);
+    EXPECT_EQ(projector.Take(), Strings{step});
+    ExpectBox(315);
+  }
+}
+
+TEST(ArrowBitmapTest, PointsWhereItsNumberSays) {
+  const auto ink = [](int number, const QRect& part) {
+    const QImage image = ArrowBitmap(number).pixmap(40, 40).toImage().scaled(40, 40);
+    int sum = 0;
+    for (int y = part.top(); y <= part.bottom(); ++y) {
+      for (int x = part.left(); x <= part.right(); ++x) sum += qAlpha(image.pixel(x, y));
+    }
+    return sum;
+  };
+  const QRect top(0, 0, 40, 20), bottom(0, 20, 40, 20), left(0, 0, 20, 40), right(20, 0, 20, 40);
+  // The half with the tip has less to fill.
+  EXPECT_LT(2 * ink(BitmapId::ArrowUp, top), ink(BitmapId::ArrowUp, bottom));
+  EXPECT_LT(2 * ink(BitmapId::ArrowDown, bottom), ink(BitmapId::ArrowDown, top));
+  EXPECT_LT(2 * ink(BitmapId::ArrowLeft, left), ink(BitmapId::ArrowLeft, right));
+  EXPECT_LT(2 * ink(BitmapId::ArrowRight, right), ink(BitmapId::ArrowRight, left));
+  EXPECT_GT(ink(BitmapId::ArrowUp, top), 0);
+  EXPECT_TRUE(ArrowBitmap(1).isNull());
+}
+
+TEST(SetupResetTest, EverySubsetOfRowsMapsItsPositions) {
+  using enum SetupReset;
+  for (unsigned subset = 0; subset < 16; ++subset) {
+    SCOPED_TRACE(subset);
+    SetupRows rows;
+    std::vector<SetupReset> expected;
+    if (subset & 1) rows.Add(SetupRow::KeystoneV), expected.push_back(KeystoneV);
+    if (subset & 2) rows.Add(SetupRow::KeystoneH), expected.push_back(KeystoneH);
+    if (subset & 4) rows.Add(SetupRow::DZoom), expected.push_back(DZoom);
+    if (subset & 8) {
+      rows.Add(SetupRow::DShift);
+      expected.insert(expected.end(), {DShiftV, DShiftH});
+    }
+    const int count = static_cast<int>(expected.size());
+    for (int position = 0; position < count; ++position) {
+      EXPECT_EQ(SetupResetAt(rows, position), expected[static_cast<std::size_t>(position)]);
+    }
+    EXPECT_EQ(SetupResetAt(rows, -1), std::nullopt);
+    EXPECT_EQ(SetupResetAt(rows, count), std::nullopt);
+  }
+}
+
+TEST(SetupResetTest, EachModelsListResetsWhatItNames) {
+  struct Reset {
+    QString text;
+    std::string execute;
+    std::string read;
+    int field;
+    int slider;
+  };
+  const Reset keystoneV{"Keystone V", "ExecKeyStoneVReset", "GetKeystoneV", 20314, 20310};
+  const Reset keystoneH{"Keystone H", "ExecKeyStoneHReset", "GetKeystoneH", 20141, 20311};
+  const Reset zoom{"D-Zoom", "ExecDZoomReset", "Get 0x300A", 20143, 20332};
+  const Reset shiftV{"D-Shift V", "ExecDShiftVReset", "Get 0x300B", 20144, 0};
+  const Reset shiftH{"D-Shift H", "ExecDShiftHReset", "Get 0x300C", 20145, 0};
+  struct Case {
+    int code;
+    std::vector<Reset> resets;
+  };
+  for (const Case& model : {Case{42, {keystoneV, keystoneH}}, Case{32, {keystoneV}},
+                            Case{44, {keystoneV, zoom, shiftV, shiftH}}, Case{35, {}}}) {
+    SCOPED_TRACE(model.code);
+    SetupPage page(model.code);
+    MessageBoxes boxes;
+    QStringList texts;
+    for (const Reset& reset : model.resets) texts << reset.text;
+    EXPECT_EQ(page.driver.Entries(20327), texts);
+    EXPECT_EQ(page.driver.Selected(20327), texts.isEmpty() ? -1 : 0);
+    if (texts.isEmpty()) page.driver.Click(20328);
+    EXPECT_EQ(page.projector.Take(), Strings{});
+    for (std::size_t i = 0; i < model.resets.size(); ++i) {
+      const Reset& reset = model.resets[i];
+      SCOPED_TRACE(reset.execute);
+      const bool isZoom = reset.read == zoom.read;
+      page.driver.Choose(20327, static_cast<int>(i));
+      EXPECT_EQ(page.projector.Take(), Strings{}) << "choosing does not reset";
+      page.projector.Answer(reset.read, isZoom ? 97 : 133);
+      page.driver.Click(20328);
+      EXPECT_EQ(page.projector.Take(), (Strings{reset.execute, reset.read}));
+      EXPECT_EQ(page.driver.Text(reset.field), isZoom ? "97" : "5");
+      if (reset.slider != 0) {
+        EXPECT_EQ(page.driver.SliderAt(reset.slider), isZoom ? 97 : 5);
+      }
+      page.projector.Refuse(reset.execute);
+      page.driver.Click(20328);
+      EXPECT_EQ(page.projector.Take(), Strings{reset.execute});
+      EXPECT_TRUE(boxes.Take().empty());
+    }
+  }
+}
+
+// Keeps what the connection had been told when the last change was sent.
+struct TextProbe final : ProjectorChannel {
+  TextProbe(CPjtInterface& projector, std::shared_ptr<ProjectorChannel> channel)
+      : connection(projector), next(std::move(channel)) {}
+  PjtReply Execute(const PjtCommand& command) override {
+    if (!IsRead(command.operation)) told = connection.SettingText;
+    return next->Execute(command);
+  }
+
+  CPjtInterface& connection;
+  std::shared_ptr<ProjectorChannel> next;
+  std::string told;
+};
+
+struct ListCase {
+  std::vector<int> codes;
+  int combo;
+  std::string set;
+  std::string get;
+  const char* list;  // value and text of each entry
+  bool tellsText = false;
+  const char* flag = "";  // sent behind the value
+};
+
+const char* const kTwo = "0=Off,1=Audio1,2=Audio2";
+const char* const kThree = "0=Off,1=Audio1,2=Audio2,3=Audio3";
+const char* const kMiu = "0=Off,1=Audio1,2=Audio2,3=Audio3,16=Audio MIU";
+const char* const kComputers = "255=Off,0=Computer1,4=Computer2";
+const char* const kRgbs = "255=Off,0=RGB1,4=RGB2";
+
+// clang-format off
+const ListCase kListCases[] = {
+    {{44}, 20315, "SetWhisper", "GetWhisper", "0=Normal,1=Bright"},
+    {{44}, 20316, "SetMirror", "GetMirror", "0=Normal,1=H Inverse,2=V Inverse,3=H&V Inverse"},
+    {{44}, 20321, "SetSpeaker", "GetSpeaker", "0=Off,1=On", true},
+    {{32, 36}, 20320, "SetAudioRGB1", "GetAudioRGB1", kThree},
+    {{32}, 20322, "SetAudioRGB2", "GetAudioRGB2", kThree},
+    {{39, 42}, 20369, "SetAudioComputer1", "GetAudioRGB1", kThree, true},
+    {{40}, 20370, "SetAudioComputer2", "GetAudioRGB2", kThree, true},
+    {{37}, 20369, "SetAudioComputer1", "GetAudioRGB1", kTwo, true},
+    {{37}, 20370, "SetAudioComputer2", "GetAudioRGB2", kTwo, true},
+    {{36}, 20323, "SetAudioVideo", "GetAudioVideo", kThree},
+    {{37}, 20323, "SetAudioVideo", "GetAudioVideo", kTwo},
+    {{36}, 20324, "SetAudioSVideo", "GetAudioSVideo", kThree},
+    {{37}, 20324, "SetAudioSVideo", "GetAudioSVideo", kTwo},
+    {{36}, 20325, "SetAudioComponent", "GetAudioComponent", kThree},
+    {{42}, 20329, "SetAudioM1D", "GetAudioM1D",
+     "0=Off,1=Audio1,2=Audio2,3=Audio3,32=Audio HDMI", true, " 1"},
+    {{36, 40, 42}, 20326, "SetAudioMIU", "GetAudioMIU", kMiu},
+    {{38}, 20326, "SetAudioMIU", "GetAudioMIU", "0=Off,1=Audio,16=Audio MIU"},
+    {{42}, 20330, "SetHDMIAudio", "GetHDMIAudio", "1=1,2=2"},
+    {{49, 53}, 20360, "SetMonitorOutComputer1", "GetMonitorOutComputer1", "255=Off,0=Computer1"},
+    {{50}, 20361, "SetMonitorOutComputer2", "GetMonitorOutComputer2", "255=Off,4=Computer2"},
+    {{51}, 20371, "SetMonitorOutComputer1", "GetMonitorOutComputer1", kRgbs},
+    {{51}, 20372, "SetMonitorOutComputer2", "GetMonitorOutComputer2", kRgbs},
+    {{54}, 20371, "SetMonitorOutComputer1", "GetMonitorOutComputer1", "255=Off,0=RGB1"},
+    {{54}, 20372, "SetMonitorOutComputer2", "GetMonitorOutComputer2", "255=Off,4=RGB2"},
+    {{53}, 20362, "SetMonitorOutHDMI", "GetMonitorOutHDMI", kComputers},
+    {{51, 54}, 20362, "SetMonitorOutHDMI", "GetMonitorOutHDMI", kRgbs},
+    {{49}, 20363, "SetMonitorOutComponent", "GetMonitorOutComponent", kComputers},
+    {{51}, 20363, "SetMonitorOutComponent", "GetMonitorOutComponent", kRgbs},
+    {{49}, 20364, "SetMonitorOutSVideo", "GetMonitorOutSVideo", kComputers},
+    {{54}, 20364, "SetMonitorOutSVideo", "GetMonitorOutSVideo", kRgbs},
+    {{49}, 20365, "SetMonitorOutVideo", "GetMonitorOutVideo", kComputers},
+    {{54}, 20365, "SetMonitorOutVideo", "GetMonitorOutVideo", kRgbs},
+    {{54}, 20366, "SetMonitorOutMIU", "GetMonitorOutMIU", kRgbs},
+    {{49}, 20367, "SetMonitorOutStandby", "GetMonitorOutStandby", kComputers},
+    {{54}, 20367, "SetMonitorOutStandby", "GetMonitorOutStandby", kRgbs},
+};
+// clang-format on
+
+void ExpectListSendsAndShows(const ListCase& list, int code) {
+  SetupPage page(code);
+  CPjtInterface& connection = page.open.Dialog().Projector();
+  const auto probe = std::make_shared<TextProbe>(connection, connection.Channel());
+  connection.SetChannel(probe);
+  QStringList texts;
+  std::vector<int> values;
+  for (const QString& entry : QString(list.list).split(',')) {
+    values.push_back(entry.section('=', 0, 0).toInt());
+    texts << entry.section('=', 1);
+  }
+  ASSERT_EQ(page.driver.Entries(list.combo), texts);
+  for (std::size_t i = 0; i < values.size(); ++i) {
+    const auto position = static_cast<int>(i);
+    const auto other = static_cast<int>((i + 1) % values.size());
+    const std::string sent = list.set + ' ' + std::to_string(values[i]) + list.flag;
+    connection.SettingText = "before";
+    page.projector.Accept(list.set);
+    page.driver.Choose(list.combo, position);
+    EXPECT_EQ(page.projector.Take(), Strings{sent});
+    EXPECT_EQ(probe->told, list.tellsText ? texts[position].toStdString() : "before");
+
+    page.projector.Refuse(list.set);
+    page.projector.Answer(list.get, values[(i + 1) % values.size()]);
+    page.driver.Choose(list.combo, position);
+    EXPECT_EQ(page.projector.Take(), (Strings{sent, list.get})) << "a refusal is read back";
+    EXPECT_EQ(page.driver.Selected(list.combo), other);
+
+    page.Refresh([&](RecordingChannel& channel) { channel.Answer(list.get, values[i]); });
+    EXPECT_EQ(page.driver.Selected(list.combo), position);
+
+    page.projector.Refuse(list.get);
+    page.driver.Choose(list.combo, other);
+    EXPECT_EQ(page.driver.Selected(list.combo), other) << "nothing to go back to";
+    page.projector.Accept(list.get);
+    page.projector.Take();
+  }
+}
+
+TEST(SetupListTest, EntriesSendAndShowTheirValues) {
+  for (const ListCase& list : kListCases) {
+    for (const int code : list.codes) {
+      SCOPED_TRACE(list.set + " of " + std::to_string(code));
+      ExpectListSendsAndShows(list, code);
+    }
+  }
+}
+
+TEST(SetupListTest, AValueWithoutAnEntryLeavesRoutingsAndClearsModes) {
+  SetupPage page(42);
+  EXPECT_EQ(page.driver.Selected(20330), -1) << "0 is no HDMI sound mode";
+  page.driver.Choose(20330, 1);
+  page.projector.Refuse("SetHDMIAudio");
+  page.driver.Choose(20330, 0);
+  EXPECT_EQ(page.driver.Selected(20330), 0);
+  page.Refresh([](RecordingChannel& channel) {
+    channel.Answer("GetHDMIAudio", 9);
+    channel.Answer("GetWhisper", 2);  // the list has lost its unknown middle name
+  });
+  EXPECT_EQ(page.driver.Selected(20330), 0);
+  EXPECT_TRUE(page.driver.IsEnabled(20330));
+  EXPECT_EQ(page.driver.Selected(20315), -1);
+}
+
+TEST(SetupStandbyTest, SavingIsAskedForFirst) {
+  SetupPage page(53);
+  {
+    MessageBoxes no(false);
+    page.driver.Choose(20368, 1);
+    const auto seen = no.Take();
+    ASSERT_EQ(seen.size(), 1U);
+    EXPECT_EQ(seen[0].text, CatalogString(2201, 1002));
+    EXPECT_EQ(seen[0].icon, QMessageBox::Information);
+    EXPECT_EQ(page.projector.Take(), Strings{"GetStandbyMode"});
+    EXPECT_EQ(page.driver.Selected(20368), 0);
+  }
+  MessageBoxes yes(true);
+  page.driver.Choose(20368, 1);
+  EXPECT_EQ(yes.Take().size(), 1U);
+  EXPECT_EQ(page.projector.Take(), Strings{"SetStandbyMode 1"});
+  EXPECT_EQ(page.driver.Selected(20368), 1);
+  page.driver.Choose(20368, 0);
+  EXPECT_EQ(page.projector.Take(), Strings{"SetStandbyMode 0"});
+  page.projector.Refuse("SetStandbyMode");
+  page.projector.Answer("GetStandbyMode", 1);
+  page.driver.Choose(20368, 0);
+  EXPECT_EQ(page.projector.Take(), (Strings{"SetStandbyMode 0", "GetStandbyMode"}));
+  EXPECT_EQ(page.driver.Selected(20368), 1);
+  EXPECT_TRUE(yes.Take().empty()) << "only Saving is asked for, and no refusal is told";
+}
+
+}  // namespace

@@ -9,8 +9,9 @@
 
 /// The full model record of a host, with up to five connections side by side.
 ///
-/// The record's byte layout is fixed for a four-byte `String`; the templates below prove it. Hosts
-/// and this library exchange `CModelInfo2`, the instance with `std::string`, by member.
+/// The record's byte layout is fixed for a four-byte `String`; the intake proves it while it is
+/// compiled. Hosts and this library exchange `CModelInfo2`, the instance with `std::string`, by
+/// member.
 template <typename String>
 struct BasicModelInfo2 {
   static constexpr std::size_t kConnections = 5;

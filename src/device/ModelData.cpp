@@ -22,9 +22,3 @@ NameSlot MakeNameSlot(std::string_view text) {
   std::copy_n(text.begin(), length, slot.begin());
   return slot;
 }
-
-int CountedList::IndexOf(std::int32_t value) const {
-  const auto* const end = values.begin() + Size();
-  const auto* const found = std::find(values.begin(), end, value);
-  return found == end ? -1 : static_cast<int>(found - values.begin());
-}

@@ -26,9 +26,6 @@ struct CountedList {
 
   /// `count` held inside 0..kCapacity, whatever a host passed.
   int Size() const { return count < 0 ? 0 : count > kCapacity ? kCapacity : count; }
-
-  /// Index of the first meaningful entry with this device value, or −1.
-  int IndexOf(std::int32_t value) const;
 };
 
 /// The input sources that the model knows.

@@ -28,7 +28,10 @@ int LoadCatalog();
 /// The same with `folders` to look in, in their order; an empty name is the current directory.
 int LoadCatalog(std::span<const std::string> folders);
 
+/// Releases the loaded module, if any.
 void ReleaseCatalog();
+
+/// Whether a module is loaded; without one every text is "No Message Catalog".
 bool IsCatalogLoaded();
 
 /// `GetCatalogText` with the inserts in an array.

@@ -11,10 +11,3 @@ std::optional<MessageCatalog> MessageCatalog::Load(const std::string& path) {
   }
   return {};
 }
-
-std::optional<std::string> MessageCatalog::Format(std::uint32_t languageId, std::uint32_t messageId,
-                                                  std::span<const CatalogInsert> inserts) const {
-  const auto message = Find(languageId, messageId);
-  if (!message) return {};
-  return ExpandMessage(message->text, inserts);
-}

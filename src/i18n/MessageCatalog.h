@@ -2,11 +2,9 @@
 
 #include <cstdint>
 #include <optional>
-#include <span>
 #include <string>
 #include <utility>
 
-#include "i18n/MessageFormat.h"
 #include "i18n/MessageTable.h"
 
 /// A loaded catalog module. Movable; independent of the file once loaded.
@@ -19,11 +17,6 @@ class MessageCatalog {
   std::optional<CatalogMessage> Find(std::uint32_t languageId, std::uint32_t messageId) const {
     return messages_.Find(languageId, messageId);
   }
-
-  /// The message of exactly this language with its inserts expanded (`ExpandMessage`), closing line
-  /// break included. Nothing if it is missing or cannot be expanded.
-  std::optional<std::string> Format(std::uint32_t languageId, std::uint32_t messageId,
-                                    std::span<const CatalogInsert> inserts = {}) const;
 
  private:
   explicit MessageCatalog(MessageTable messages) : messages_(std::move(messages)) {}

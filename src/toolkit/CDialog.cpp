@@ -174,11 +174,6 @@ void CDialog::ShowRow(int id, bool present) {
   if (row->grid != nullptr) row->grid->setRowMinimumHeight(row->gridRow, present ? pitch_ : 0);
 }
 
-bool CDialog::IsRowShown(int id) const {
-  const PlacedRow* row = const_cast<CDialog*>(this)->RowOf(id);
-  return row != nullptr && row->present;
-}
-
 QSize CDialog::FromDialogUnits(int width, int height) const {
   const QFontMetrics metrics(font());
   const int alphabet = metrics.horizontalAdvance(

@@ -55,7 +55,6 @@ class CDialog : public QDialog {
 
   /// Shows or removes the row that holds this control; the rows below close the gap.
   void ShowRow(int id, bool present);
-  bool IsRowShown(int id) const;
 
   /// Size that the template gives or that the present contents need, whichever is larger.
   QSize DialogSize() const;

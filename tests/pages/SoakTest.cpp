@@ -14,6 +14,7 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include "device/LoggingChannel.h"
 #include "device/ModelDataIntake.h"
 #include "simulator/FaultChannel.h"
 #include "simulator/SimulatedProjector.h"
@@ -21,7 +22,7 @@
 
 namespace {
 
-constexpr int kActionsPerModel = 1500;
+constexpr int kActionsPerModel = 6000;
 constexpr auto kTimePerModel = std::chrono::milliseconds(2500);
 
 CModelInfo2 SoakModel(int modelCode) {
@@ -170,9 +171,14 @@ TEST_P(SoakTest, EveryControlEndsUpShowingTheProjectorsValue) {
   const CModelInfo2 model = SoakModel(GetParam());
   const auto projector = std::make_shared<SimulatedProjector>(DescribeModel(MakeModelData(model)));
   const auto faults = std::make_shared<FaultChannel>(projector);
+  int changes = 0;
+  const auto counted = std::make_shared<LoggingChannel>(
+      faults, [&changes](const PjtCommand& command, const PjtReply&, auto) {
+        changes += !IsRead(command.operation);
+      });
   const auto open = [&](CAdvanceDlg& dialog) {
     dialog.CopyData(&model, 0);
-    dialog.Projector().SetChannel(faults);
+    dialog.Projector().SetChannel(counted);
     ASSERT_TRUE(dialog.Create());
     dialog.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&dialog));
@@ -188,6 +194,8 @@ TEST_P(SoakTest, EveryControlEndsUpShowingTheProjectorsValue) {
       ASSERT_TRUE(used.isVisible()) << "action " << i << " closed the dialog";
     }
   }
+
+  EXPECT_GT(changes, 100) << "the user reached hardly any control";
 
   faults->Clear();
   CAdvanceDlg fresh;

@@ -55,6 +55,18 @@ void ForEachPage(const std::function<void(OpenDialog&, CTabPage&)>& check) {
   }
 }
 
+void ForEachPopup(const std::function<void(CDialog&)>& check) {
+  CAdvanceDlg host;
+  CGammaDlg gamma(false, &host);
+  CColorDlg colorTemp(false, &host);
+  for (CDialog* popup : std::initializer_list<CDialog*>{&gamma, &colorTemp}) {
+    ASSERT_TRUE(popup->Create());
+    popup->show();
+    SCOPED_TRACE(popup->metaObject()->className());
+    check(*popup);
+  }
+}
+
 bool UserOperates(ControlKind kind) {
   switch (kind) {
     case ControlKind::Minus:
@@ -83,14 +95,7 @@ void ExpectEachControlMappedOnce(const CDialog& dialog) {
 
 TEST(Sweep, EveryControlHasExactlyOneHandler) {
   ForEachPage([](OpenDialog&, CTabPage& page) { ExpectEachControlMappedOnce(page); });
-  CAdvanceDlg host;
-  CPjtInterface projector;
-  for (SettingsDialog* popup : std::initializer_list<SettingsDialog*>{
-           new CGammaDlg(false, &host), new CColorDlg(false, &host)}) {
-    popup->projector = &projector;
-    ASSERT_TRUE(popup->Create());
-    ExpectEachControlMappedOnce(*popup);
-  }
+  ForEachPopup(ExpectEachControlMappedOnce);
 }
 
 TEST(Sweep, ShowingAPageOnlyReads) {
@@ -124,7 +129,7 @@ QSize TextSize(const QWidget& widget, const QString& text) {
 }
 
 // A visible control lies inside its page, has the room its text needs, and covers no other.
-void ExpectNothingClipped(const CTabPage& page) {
+void ExpectNothingClipped(const CDialog& page) {
   std::vector<const QWidget*> visible;
   for (const RowTemplate& row : page.Template()->rows) {
     for (const ControlTemplate& control : row.controls) {
@@ -157,6 +162,7 @@ TEST(Sweep, NothingIsClippedInEitherLanguageAtAnyFontSize) {
       QApplication::setFont(font);
       SCOPED_TRACE(std::string(language) + " at " + std::to_string(scale));
       ForEachPage([](OpenDialog&, CTabPage& page) { ExpectNothingClipped(page); });
+      ForEachPopup([](CDialog& popup) { ExpectNothingClipped(popup); });
     }
   }
   QApplication::setFont(before);

@@ -22,6 +22,8 @@ class CPictureTabType5Dlg final : public CTabPage {
   /// Position of a device value in the active-iris list, or −1.
   static short ActIrisValueToIdx(short value);
 
+  // What the controls report: + and − of each slider, the pop-ups, lists, memories and resets.
+  // Each acts on the projector at once.
   void OnBnClickedPicBgpBtn();
   void OnBnClickedPicBgnBtn();
   void OnBnClickedPicCnpBtn();

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <array>
-
 #include "pages/common/CTabPage.h"
 
 class CComboBox;

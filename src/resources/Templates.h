@@ -8,3 +8,7 @@ extern const DialogTemplate kPictureType5Template;
 extern const DialogTemplate kGammaTemplate;
 extern const DialogTemplate kColorTempTemplate;
 extern const DialogTemplate kSetupType5Template;
+extern const DialogTemplate kInputType5Template;
+extern const DialogTemplate kOptionType5Template;
+extern const DialogTemplate kServiceTemplate;
+extern const DialogTemplate kAudioType5Template;

@@ -215,7 +215,7 @@ void CDialog::BuildControls() {
       QWidget* widget = MakeControl(control, this);
       placed.controls.push_back(widget);
       controls_[control.id] = widget;
-      if (control.kind == ControlKind::Close) {
+      if (control.kind == ControlKind::Close && !Notifications().Names(control.id)) {
         connect(static_cast<QPushButton*>(widget), &QPushButton::clicked, this, &QDialog::accept);
       }
     }
@@ -230,7 +230,14 @@ void CDialog::BuildControls() {
     }
     rows_.push_back(std::move(placed));
   }
-  if (left != nullptr && !stretched) left->setRowStretch(leftRow, 1);
+  if (left != nullptr && !stretched) left->setRowStretch(leftRow++, 1);
+  if (left != nullptr && isWindow()) {
+    // Absent rows make a window lower, but not narrower than its template.
+    const QMargins margins = layout()->contentsMargins();
+    const int width = FromDialogUnits(template_->width, 0).width();
+    left->addItem(new QSpacerItem(width - margins.left() - margins.right(), 0), leftRow, 0, 1,
+                  RowColumn::Count);
+  }
   if (right != nullptr) right->setRowStretch(rightRow, 1);
 }
 

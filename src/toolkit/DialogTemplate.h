@@ -20,7 +20,7 @@ enum class ControlKind : std::uint8_t {
   Arrow,   ///< Small button of an arrow pad.
   Check,
   Tab,
-  Close,  ///< The button that ends the dialog.
+  Close,  ///< Ends the dialog, by itself unless the dialog has a handler for it.
 };
 
 /// One control of a row.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -32,6 +33,9 @@ class NotificationMap {
   explicit NotificationMap(std::vector<Notification> entries) : entries_(std::move(entries)) {}
 
   const std::vector<Notification>& Entries() const { return entries_; }
+
+  /// Whether a line stands for this control.
+  bool Names(int id) const { return std::ranges::count(entries_, id, &Notification::id) != 0; }
 
  private:
   std::vector<Notification> entries_;

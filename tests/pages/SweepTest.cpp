@@ -13,6 +13,7 @@
 
 #include "i18n/Catalog.h"
 #include "pages/common/CTabPage.h"
+#include "pages/input/CServiceDlg.h"
 #include "pages/picture/CColorDlg.h"
 #include "pages/picture/CGammaDlg.h"
 #include "tests/support/DialogDriver.h"
@@ -59,7 +60,9 @@ void ForEachPopup(const std::function<void(CDialog&)>& check) {
   CAdvanceDlg host;
   CGammaDlg gamma(false, &host);
   CColorDlg colorTemp(false, &host);
-  for (CDialog* popup : std::initializer_list<CDialog*>{&gamma, &colorTemp}) {
+  CServiceDlg service(&host);
+  service.ModelCode = 44;
+  for (CDialog* popup : std::initializer_list<CDialog*>{&gamma, &colorTemp, &service}) {
     ASSERT_TRUE(popup->Create());
     popup->show();
     SCOPED_TRACE(popup->metaObject()->className());

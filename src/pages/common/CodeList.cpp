@@ -9,6 +9,14 @@ void FillList(CComboBox& combo, std::span<const int> listTexts) {
   for (const int number : listTexts) combo.Add(CatalogString(kListCategory, number));
 }
 
+void FillList(CComboBox& combo, std::span<const ListEntry> entries) {
+  combo.clear();
+  for (const ListEntry& entry : entries) {
+    combo.Add(entry.text != nullptr ? QString::fromUtf8(entry.text)
+                                    : CatalogString(kListCategory, entry.number));
+  }
+}
+
 void FillList(CComboBox& combo, const CountedList& values, int base) {
   combo.clear();
   for (int i = 0; i < values.Size(); ++i) {

@@ -11,6 +11,18 @@ class CComboBox;
 /// Empties a list and fills it with texts of the list category; each entry stands for its position.
 void FillList(CComboBox& combo, std::span<const int> listTexts);
 
+/// A text of the list category, or one that is the same in every language.
+struct ListEntry {
+  constexpr ListEntry(int listText) : number(listText) {}
+  constexpr ListEntry(const char* fixedText) : text(fixedText) {}
+
+  int number = 0;
+  const char* text = nullptr;
+};
+
+/// The same with texts of both kinds.
+void FillList(CComboBox& combo, std::span<const ListEntry> entries);
+
 /// The same with a model's capability list: an entry stands for its device value v and shows text
 /// `base` + v.
 void FillList(CComboBox& combo, const CountedList& values, int base);

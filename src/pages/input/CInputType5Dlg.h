@@ -1,0 +1,59 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+
+#include "pages/common/CTabPage.h"
+#include "pages/common/ModelRows.h"
+
+class CComboBox;
+
+/// Input settings of the newest page set: signal processing, formats and modes of the inputs, one
+/// list a row. A choice is sent at once and never read back before the next refresh.
+class CInputType5Dlg final : public CTabPage {
+  Q_OBJECT
+
+ public:
+  static constexpr std::size_t kRowCount = 19;
+
+  explicit CInputType5Dlg(CWnd* parent);
+
+  void InitDisp() override;
+  const NotificationMap& Notifications() const override;
+
+  /// Reads every present row; a row that cannot be read is out of use until the next time.
+  void Init();
+
+  /// Position of a device value in the two video-format lists, or −1.
+  static int VideoFmtToIdx(short value);
+
+  void OnCbnSelchangeInput5ProgComb();
+  void OnCbnSelchangeInput5VidnrComb();
+  void OnCbnSelchangeInput53dycsComb();
+  void OnCbnSelchangeInput5CospsComb();
+  void OnCbnSelchangeInput5CompoComb();
+  void OnCbnSelchangeInput5CvidfmtComb();
+  void OnCbnSelchangeInput5SvidfmtComb();
+  void OnCbnSelchangeInput5HdmiComb();
+  void OnCbnSelchangeInput5M1dComb();
+  void OnCbnSelchangeInput5FrlckCombo();
+  void OnCbnSelchangeInput5Framelockrgb1Comb();
+  void OnCbnSelchangeInput5Framelockcomp1Comb();
+  void OnCbnSelchangeInput5Framelockrgb2Comb();
+  void OnCbnSelchangeInput5Framelockcomp2Comb();
+  void OnCbnSelchangeInput5FramelockhdmiComb();
+  void OnCbnSelchangeInput5Rgbin1Comb();
+  void OnCbnSelchangeInput5Computerin1Comb();
+  void OnCbnSelchangeInput5Rgbin2Comb();
+  void OnCbnSelchangeInput5Computerin2Comb();
+
+ protected:
+  void DoDataExchange() override;
+  bool OnInitDialog() override;
+
+ private:
+  int Position(std::size_t row) const;
+
+  std::array<CComboBox*, kRowCount> lists_{};
+  RowSet rows_;
+};

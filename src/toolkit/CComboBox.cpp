@@ -4,7 +4,6 @@
 
 CComboBox::CComboBox(QWidget* parent) : QComboBox(parent) {
   setFocusPolicy(Qt::StrongFocus);
-  setSizeAdjustPolicy(QComboBox::AdjustToContents);
   setMaxVisibleItems(20);
 }
 

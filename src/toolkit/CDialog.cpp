@@ -32,15 +32,6 @@ bool HoldsTab(const RowTemplate& row) {
                              [](const auto& control) { return control.kind == ControlKind::Tab; });
 }
 
-QGridLayout* MakeColumn() {
-  auto* grid = new QGridLayout;
-  grid->setContentsMargins(0, 0, 0, 0);
-  grid->setVerticalSpacing(0);
-  grid->setHorizontalSpacing(6);
-  grid->setColumnStretch(RowColumn::Slider, 1);
-  return grid;
-}
-
 // Top-level dialogs that are created and not closed yet, oldest first.
 std::vector<CDialog*>& OpenDialogs() {
   static std::vector<CDialog*> dialogs;
@@ -201,9 +192,9 @@ void CDialog::BuildControls() {
                                 isWindow() ? 12 : 0);
     columns->setSpacing(kColumnGap);
     if (isWindow()) columns->setSizeConstraint(QLayout::SetFixedSize);  // follows absent rows
-    columns->addLayout(left = MakeColumn(), 1);
+    columns->addLayout(left = MakeRowColumns(*this), 1);
     // Pages keep two columns even where only one is used, so that rows do not jump between tabs.
-    if (!isWindow()) columns->addLayout(right = MakeColumn(), 1);
+    if (!isWindow()) columns->addLayout(right = MakeRowColumns(*this), 1);
   }
   int leftRow = 0;
   int rightRow = 0;

@@ -16,6 +16,8 @@ namespace {
 
 constexpr int kSliderMinimumWidth = 150;
 
+int SmallButtonWidth(const QWidget& widget) { return widget.fontMetrics().height() * 2; }
+
 QPushButton* MakeButton(const QString& caption, QWidget* parent) {
   auto* button = new QPushButton(caption, parent);
   // Enter must not press a button that merely exists.
@@ -25,8 +27,7 @@ QPushButton* MakeButton(const QString& caption, QWidget* parent) {
 
 QPushButton* MakeSmallButton(const QString& caption, QWidget* parent) {
   QPushButton* button = MakeButton(caption, parent);
-  const int side = button->fontMetrics().height() * 2;
-  button->setFixedWidth(side);
+  button->setFixedWidth(SmallButtonWidth(*button));
   return button;
 }
 
@@ -57,6 +58,18 @@ void PlaceTogether(const std::vector<QWidget*>& controls, QGridLayout* grid, int
 }
 
 }  // namespace
+
+QGridLayout* MakeRowColumns(const QWidget& dialog) {
+  auto* grid = new QGridLayout;
+  grid->setContentsMargins(0, 0, 0, 0);
+  grid->setVerticalSpacing(0);
+  grid->setHorizontalSpacing(6);
+  grid->setColumnMinimumWidth(RowColumn::Minus, SmallButtonWidth(dialog));
+  grid->setColumnMinimumWidth(RowColumn::Slider, kSliderMinimumWidth);
+  grid->setColumnMinimumWidth(RowColumn::Plus, SmallButtonWidth(dialog));
+  grid->setColumnStretch(RowColumn::Slider, 1);
+  return grid;
+}
 
 QWidget* MakeControl(const ControlTemplate& control, QWidget* parent) {
   const QString caption = QString::fromUtf8(control.caption);

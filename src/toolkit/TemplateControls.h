@@ -19,6 +19,9 @@ inline constexpr int Button = 6;
 inline constexpr int Count = 7;
 }  // namespace RowColumn
 
+/// A column of rows: a grid of the shared columns, as wide in every dialog.
+QGridLayout* MakeRowColumns(const QWidget& dialog);
+
 /// The widget for a control of a template, a direct child of `parent`, which owns it.
 QWidget* MakeControl(const ControlTemplate& control, QWidget* parent);
 

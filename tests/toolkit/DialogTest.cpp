@@ -204,6 +204,15 @@ TEST_F(DialogTest, AnAbsentRowTakesNoSpaceAndRowsKeepOnePitch) {
   EXPECT_EQ(dialog.height(), height - pitch) << "a pop-up follows its rows";
 }
 
+TEST_F(DialogTest, ListsAreAsWideAsTheirColumnWhateverTheyHold) {
+  dialog.Item<CComboBox>(13).clear();
+  dialog.Item<CComboBox>(13).Add(QStringLiteral("1"));
+  QTest::qWait(60);
+  EXPECT_EQ(dialog.GetDlgItem(9)->width(), dialog.GetDlgItem(13)->width());
+  EXPECT_EQ(dialog.GetDlgItem(9)->x(), dialog.GetDlgItem(3)->x());
+  EXPECT_EQ(dialog.GetDlgItem(9)->geometry().right(), dialog.GetDlgItem(5)->geometry().right());
+}
+
 TEST_F(DialogTest, ValueControlsAreNamedByTheirCaption) {
   EXPECT_EQ(dialog.GetDlgItem(4)->accessibleName(), QStringLiteral("Level"));
   EXPECT_EQ(dialog.GetDlgItem(6)->accessibleName(), QStringLiteral("Level"));

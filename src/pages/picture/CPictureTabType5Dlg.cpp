@@ -1,13 +1,12 @@
 #include "pages/picture/CPictureTabType5Dlg.h"
 
-#include <algorithm>
 #include <functional>
-#include <iterator>
 
 #include <QAbstractButton>
 
 #include "device/CommandCode.h"
 #include "pages/common/CodeList.h"
+#include "pages/common/ModelRows.h"
 #include "pages/common/ValueTable.h"
 #include "pages/picture/CColorDlg.h"
 #include "pages/picture/CGammaDlg.h"
@@ -16,7 +15,7 @@
 
 namespace {
 
-constexpr int kCodesWithActiveIris[] = {30, 31, 41, 43, 46, 51, 52, 54};
+constexpr ModelCodes kCodesWithActiveIris{30, 31, 41, 43, 46, 51, 52, 54};
 
 constexpr int kBias = 128;
 // Sharpness has a zero point of its own.
@@ -106,8 +105,7 @@ const NotificationMap& CPictureTabType5Dlg::Notifications() const {
 
 bool CPictureTabType5Dlg::OnInitDialog() {
   LocalizeControlTexts(kCaptionCategory, *this);
-  hasActiveIris_ =
-      std::ranges::find(kCodesWithActiveIris, Model().ModelCode) != std::end(kCodesWithActiveIris);
+  hasActiveIris_ = kCodesWithActiveIris.Contains(Model().ModelCode);
   ShowRow(20293, hasActiveIris_);
 
   const auto& ranges = Model().RangeTexts;

@@ -1,61 +1,43 @@
 #include "pages/setup/SetupType5Rows.h"
 
 #include <algorithm>
-#include <array>
-#include <string_view>
 
+#include "pages/common/ModelRows.h"
 #include "resources/CatalogNumbers.h"
 
 namespace {
 
-constexpr int kMaxCodes = 6;
-using Codes = std::array<int, kMaxCodes>;
-
-bool Names(const Codes& codes, int modelCode) {
-  return modelCode != 0 && std::ranges::find(codes, modelCode) != codes.end();
-}
-
-struct ModelRows {
-  Codes codes;
-  // 1 = the models have the row; one digit a row, in the order of SetupRow.
-  std::string_view geometry;
-  std::string_view audio;
-  std::string_view monitorOut;
-};
-
 // clang-format off
 constexpr ModelRows kModelRows[] = {
-    //                          Geometry and volume Audio                  Monitor out
-    //                          Auto Keystone       RGB1                   RGB1
-    //                          |Keystone V         |Computer1             |Computer1
-    //                          ||Keystone H        ||RGB2                 ||RGB2
-    //                          |||Whisper          |||Computer2           |||Computer2
-    //                          ||||Mirror          ||||HDMI               ||||HDMI
-    //                          |||||Volume         |||||Video             |||||Component
-    //                          ||||||Speaker       ||||||S-Video          ||||||S-Video
-    //                          |||||||D-Zoom       |||||||Component       |||||||Video
-    //                          ||||||||D-Shift     ||||||||MIU            ||||||||MIU
-    //                          |||||||||           |||||||||HDMI Audio    |||||||||Standby
-    //                          |||||||||           ||||||||||             ||||||||||Standby Mode
-    {{30, 31, 41, 43, 46, 52}, "111110000",        "0000000000",          "00000000000"},
-    {{32, 33},                 "110111000",        "1010011100",          "00000000000"},
-    {{36},                     "110111000",        "1010011110",          "00000000000"},
-    {{37},                     "110111000",        "0101011000",          "00000000000"},
-    {{38},                     "110111000",        "0000000010",          "00000000000"},
-    {{39, 45},                 "110111100",        "0101011100",          "00000000000"},
-    {{40},                     "110111100",        "0101011110",          "00000000000"},
-    {{42},                     "111111100",        "0101111111",          "00000000000"},
-    {{44},                     "010111111",        "0101011100",          "00000000000"},
-    {{49, 50},                 "110110000",        "0000000000",          "01010111011"},
-    {{51},                     "111110000",        "0000000000",          "10101111010"},
-    {{53},                     "110110000",        "0000000000",          "01011111011"},
-    {{54},                     "111110000",        "0000000000",          "10101111110"},
+    //                          Auto Keystone         Audio                 Monitor out
+    //                          |Keystone V           RGB1                  RGB1
+    //                          ||Keystone H          |Computer1            |Computer1
+    //                          |||Whisper            ||RGB2                ||RGB2
+    //                          ||||Mirror            |||Computer2          |||Computer2
+    //                          |||||Volume           ||||HDMI              ||||HDMI
+    //                          ||||||Speaker         |||||Video            |||||Component
+    //                          |||||||D-Zoom         ||||||S-Video         ||||||S-Video
+    //                          ||||||||D-Shift       |||||||Component      |||||||Video
+    //                          |||||||||             ||||||||MIU           ||||||||MIU
+    //                          |||||||||             |||||||||HDMI Audio   |||||||||Standby
+    //                          |||||||||             ||||||||||            ||||||||||Standby Mode
+    {{30, 31, 41, 43, 46, 52}, "111110000             0000000000            00000000000"},
+    {{32, 33},                 "110111000             1010011100            00000000000"},
+    {{36},                     "110111000             1010011110            00000000000"},
+    {{37},                     "110111000             0101011000            00000000000"},
+    {{38},                     "110111000             0000000010            00000000000"},
+    {{39, 45},                 "110111100             0101011100            00000000000"},
+    {{40},                     "110111100             0101011110            00000000000"},
+    {{42},                     "111111100             0101111111            00000000000"},
+    {{44},                     "010111111             0101011100            00000000000"},
+    {{49, 50},                 "110110000             0000000000            01010111011"},
+    {{51},                     "111110000             0000000000            10101111010"},
+    {{53},                     "110110000             0000000000            01011111011"},
+    {{54},                     "111110000             0000000000            10101111110"},
 };
 // clang-format on
 
-static_assert(std::ranges::all_of(kModelRows, [](const ModelRows& rows) {
-  return rows.geometry.size() == 9 && rows.audio.size() == 10 && rows.monitorOut.size() == 11;
-}));
+static_assert(AreComplete(kModelRows, kSetupRowCount));
 
 // The lists. Most stand for their positions; the projector has odd numbers for a few inputs.
 
@@ -98,7 +80,7 @@ struct RowList {
   SetupRow row;
   std::span<const SetupListEntry> entries;
   // The list of these models; the other models have `entries`.
-  Codes exceptions{};
+  ModelCodes exceptions{};
   std::span<const SetupListEntry> exceptionEntries{};
 };
 
@@ -144,16 +126,10 @@ constexpr RowReset kResets[] = {
 }  // namespace
 
 SetupRows SetupRowsOf(int modelCode) {
+  const RowSet listed = RowSet::Of(modelCode, kModelRows);
   SetupRows rows;
-  const auto found = std::ranges::find_if(
-      kModelRows, [modelCode](const ModelRows& model) { return Names(model.codes, modelCode); });
-  if (found == std::end(kModelRows)) return rows;
-  int row = 0;
-  for (const std::string_view flags : {found->geometry, found->audio, found->monitorOut}) {
-    for (const char flag : flags) {
-      if (flag == '1') rows.Add(static_cast<SetupRow>(row));
-      ++row;
-    }
+  for (std::size_t row = 0; row < kSetupRowCount; ++row) {
+    if (listed.Has(row)) rows.Add(static_cast<SetupRow>(row));
   }
   return rows;
 }
@@ -161,7 +137,7 @@ SetupRows SetupRowsOf(int modelCode) {
 std::span<const SetupListEntry> SetupListOf(SetupRow row, int modelCode) {
   const auto* found = std::ranges::find(kLists, row, &RowList::row);
   if (found == std::end(kLists)) return {};
-  return Names(found->exceptions, modelCode) ? found->exceptionEntries : found->entries;
+  return found->exceptions.Contains(modelCode) ? found->exceptionEntries : found->entries;
 }
 
 std::vector<SetupReset> SetupResetsOf(const SetupRows& rows) {

@@ -166,11 +166,17 @@ void CDialog::ShowRow(int id, bool present) {
 }
 
 QSize CDialog::FromDialogUnits(int width, int height) const {
-  const QFontMetrics metrics(font());
-  const int alphabet = metrics.horizontalAdvance(
-      QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz"));
-  const int baseX = (alphabet / 26 + 1) / 2;
-  return {width * baseX / 4, height * metrics.height() / 8};
+  // Shaping the alphabet costs more than making several controls: once a font will do.
+  static QString measuredFont;
+  static QSize base;
+  if (const QString key = font().key(); key != measuredFont) {
+    const QFontMetrics metrics(font());
+    const int alphabet = metrics.horizontalAdvance(
+        QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz"));
+    base = {(alphabet / 26 + 1) / 2, metrics.height()};
+    measuredFont = key;
+  }
+  return {width * base.width() / 4, height * base.height() / 8};
 }
 
 QSize CDialog::DialogSize() const {

@@ -1,0 +1,145 @@
+#include <clocale>
+#include <libintl.h>
+#include <string>
+#include <vector>
+
+#include <QTranslator>
+#include <benchmark/benchmark.h>
+
+#include "bench/BenchSupport.h"
+#include "i18n/Catalog.h"
+#include "i18n/LocalizeControlTexts.h"
+
+extern "C" int _nl_msg_cat_cntr;  // gettext's sign that the language changed
+
+namespace {
+
+struct CatalogText {
+  int category;
+  int number;
+};
+constexpr CatalogText kTexts[] = {
+#include "CatalogTexts.inc"
+};
+
+constexpr const char* kDomain = "catalog";
+constexpr const char* kContext = "Catalog";
+
+/// A system language, as each side calls it.
+struct Language {
+  const char* locale;
+  const char* translation;
+  const char* catalogFolder;
+};
+constexpr Language kEnglish{"en_US.UTF-8", "en", BENCH_CATALOG_DIR};
+constexpr Language kChinese{"zh_CN.UTF-8", "zh_CN", BENCH_CATALOG_DIR};
+constexpr Language kChineseOfTwo{"zh_CN.UTF-8", "zh_CN", BENCH_TWO_LANGUAGES_DIR};
+
+/// Makes a language the system's for as long as it lives.
+class LanguageScope {
+ public:
+  explicit LanguageScope(const Language& language) {
+    qputenv("LC_ALL", language.locale);
+    const std::string folder = language.catalogFolder;
+    loaded_ = LoadCatalog(std::span(&folder, 1)) == 0;
+    qputenv("LANGUAGE", language.translation);
+    ++_nl_msg_cat_cntr;
+    std::setlocale(LC_MESSAGES, "C.UTF-8");  // in plain "C" gettext looks nothing up
+    bindtextdomain(kDomain, BENCH_TRANSLATIONS_DIR);
+    bind_textdomain_codeset(kDomain, "UTF-8");
+    const auto file = QStringLiteral(BENCH_TRANSLATIONS_DIR "/%1.qm").arg(language.translation);
+    loaded_ = translator_.load(file) && loaded_;
+  }
+  ~LanguageScope() {
+    qputenv("LC_ALL", "en_US.UTF-8");
+    qunsetenv("LANGUAGE");
+    std::setlocale(LC_MESSAGES, "C");
+    LoadCatalog();
+  }
+  LanguageScope(const LanguageScope&) = delete;
+  LanguageScope& operator=(const LanguageScope&) = delete;
+
+  bool Loaded() const { return loaded_; }
+  const QTranslator& Translator() const { return translator_; }
+
+ private:
+  bool loaded_ = false;
+  QTranslator translator_;
+};
+
+bool HasInserts(const std::string& text) { return text.find('%') != std::string::npos; }
+
+// All sides in turn over all texts, so that whatever disturbs one disturbs the others as well.
+void LookUpTexts(benchmark::State& state, const Language& language) {
+  const LanguageScope scope(language);
+  const QTranslator& translator = scope.Translator();
+  std::vector<std::string> keys;
+  for (const CatalogText& text : kTexts) {
+    keys.push_back(std::to_string(text.category) + '.' + std::to_string(text.number));
+  }
+  char buffer[1024];
+  const auto catalogText = [&buffer](const CatalogText& text) {
+    GetCatalogText(text.category, text.number, sizeof buffer, buffer, "1", 2);
+  };
+  bool equal = scope.Loaded();
+  for (std::size_t i = 0; i < std::size(kTexts) && equal; ++i) {
+    const std::string translated = dgettext(kDomain, keys[i].c_str());
+    catalogText(kTexts[i]);
+    equal = translated != keys[i] && (translated == buffer || HasInserts(translated)) &&
+            translator.translate(kContext, keys[i].c_str()).toStdString() == translated;
+  }
+  if (!equal) {
+    state.SkipWithError("the sides do not give the same texts");
+    return;
+  }
+
+  std::vector<double> catalog;
+  std::vector<double> catalogString;
+  std::vector<double> gettext;
+  std::vector<double> qt;
+  const auto time = [](std::vector<double>& times, auto lookUpAll) {
+    const auto start = Clock::now();
+    lookUpAll();
+    times.push_back(SecondsSince(start) / std::size(kTexts));
+  };
+  for ([[maybe_unused]] auto iteration : state) {
+    time(catalog, [&] {
+      for (const CatalogText& text : kTexts) {
+        catalogText(text);
+        benchmark::DoNotOptimize(buffer);
+      }
+    });
+    state.SetIterationTime(catalog.back() * std::size(kTexts));
+    time(qt, [&] {
+      for (const std::string& key : keys) {
+        benchmark::DoNotOptimize(translator.translate(kContext, key.c_str()));
+      }
+    });
+    time(gettext, [&] {
+      for (const std::string& key : keys) {
+        benchmark::DoNotOptimize(dgettext(kDomain, key.c_str()));
+      }
+    });
+    time(catalogString, [&] {
+      for (const CatalogText& text : kTexts) {
+        benchmark::DoNotOptimize(CatalogString(text.category, text.number, "1", 2));
+      }
+    });
+  }
+  state.counters["texts"] = static_cast<double>(std::size(kTexts));
+  state.counters["GetCatalogText_ns"] = Median(catalog) * 1e9;
+  state.counters["CatalogString_ns"] = Median(catalogString) * 1e9;
+  state.counters["dgettext_ns"] = Median(gettext) * 1e9;
+  state.counters["QTranslator_ns"] = Median(qt) * 1e9;
+  state.counters["ratio_to_Qt"] = Median(catalog) / Median(qt);
+}
+
+void CatalogTimes(benchmark::internal::Benchmark* bench) {
+  bench->UseManualTime()->Unit(benchmark::kMicrosecond)->Iterations(500);
+}
+
+}  // namespace
+
+BENCHMARK_CAPTURE(LookUpTexts, English, kEnglish)->Apply(CatalogTimes);
+BENCHMARK_CAPTURE(LookUpTexts, Chinese, kChinese)->Apply(CatalogTimes);
+BENCHMARK_CAPTURE(LookUpTexts, ChineseModuleOfTwoLanguages, kChineseOfTwo)->Apply(CatalogTimes);

@@ -69,7 +69,8 @@ TEST(Intake, TheSecondFormAddsModelCodeAndWhisperListAndTheThirdTheRanges) {
   EXPECT_EQ(model.AspectList.count, 3);
   EXPECT_EQ(model.GammaList.values[0], 500);
   EXPECT_EQ(model.ColorTempList.values[0], 600);
-  for (std::size_t i = 0; i < 32; ++i) EXPECT_EQ(model.RangeTexts[i], "r" + std::to_string(i));
+  for (std::size_t i = 0; i < 32; ++i)
+    EXPECT_EQ(model.RangeTexts[i], std::string("r") + std::to_string(i));
   EXPECT_EQ(model.RangeTexts[RangeIndex::Treble], "");
   EXPECT_EQ(model.RangeTexts[RangeIndex::Bass], "");
 }

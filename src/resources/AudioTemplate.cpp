@@ -32,8 +32,5 @@ constexpr RowTemplate kRows[] = {
 
 }  // namespace
 
-const DialogTemplate kAudioType5Template{.number = TemplateId::AudioType5,
-                                         .width = kPageWidth,
-                                         .height = kPageHeight,
-                                         .rulerId = 20648,
-                                         .rows = kRows};
+const DialogTemplate kAudioType5Template{
+    .number = TemplateId::AudioType5, .width = kPageWidth, .height = kPageHeight, .rows = kRows};

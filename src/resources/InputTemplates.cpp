@@ -45,5 +45,4 @@ constexpr RowTemplate kInputType5Rows[] = {
 const DialogTemplate kInputType5Template{.number = TemplateId::InputType5,
                                          .width = kPageWidth,
                                          .height = kPageHeight,
-                                         .rulerId = 20659,
                                          .rows = kInputType5Rows};

@@ -46,12 +46,10 @@ constexpr RowTemplate kServiceRows[] = {
 const DialogTemplate kOptionType5Template{.number = TemplateId::OptionType5,
                                           .width = kPageWidth,
                                           .height = kPageHeight,
-                                          .rulerId = 20666,
                                           .rows = kOptionType5Rows};
 
 const DialogTemplate kServiceTemplate{.number = TemplateId::Service,
                                       .caption = "3136;Service",
                                       .width = 238,
                                       .height = 130,
-                                      .rulerId = 20681,
                                       .rows = kServiceRows};

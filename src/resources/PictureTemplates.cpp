@@ -67,15 +67,10 @@ constexpr RowTemplate kColorTempRows[] = {
 const DialogTemplate kPictureType5Template{.number = TemplateId::PictureType5,
                                            .width = kPageWidth,
                                            .height = kPageHeight,
-                                           .rulerId = 20676,
                                            .rows = kPictureRows};
 
-const DialogTemplate kGammaTemplate{.number = TemplateId::Gamma,
-                                    .caption = "28;Gamma -Custom-",
-                                    .rulerId = 20652,
-                                    .rows = kGammaRows};
+const DialogTemplate kGammaTemplate{
+    .number = TemplateId::Gamma, .caption = "28;Gamma -Custom-", .rows = kGammaRows};
 
-const DialogTemplate kColorTempTemplate{.number = TemplateId::ColorTemp,
-                                        .caption = "19;Color Temp -Custom-",
-                                        .rulerId = 20651,
-                                        .rows = kColorTempRows};
+const DialogTemplate kColorTempTemplate{
+    .number = TemplateId::ColorTemp, .caption = "19;Color Temp -Custom-", .rows = kColorTempRows};

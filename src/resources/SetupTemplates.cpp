@@ -59,5 +59,4 @@ constexpr RowTemplate kSetupType5Rows[] = {
 const DialogTemplate kSetupType5Template{.number = TemplateId::SetupType5,
                                          .width = kPageWidth,
                                          .height = kPageHeight,
-                                         .rulerId = 20682,
                                          .rows = kSetupType5Rows};

@@ -23,8 +23,5 @@ constexpr RowTemplate kRows[] = {
 
 }  // namespace
 
-const DialogTemplate kStatusTemplate{.number = TemplateId::Status,
-                                     .width = kPageWidth,
-                                     .height = kPageHeight,
-                                     .rulerId = 20684,
-                                     .rows = kRows};
+const DialogTemplate kStatusTemplate{
+    .number = TemplateId::Status, .width = kPageWidth, .height = kPageHeight, .rows = kRows};

@@ -53,7 +53,6 @@ struct DialogTemplate {
   const char* caption = "";  ///< Title, empty for a page.
   int width = 0;             ///< In horizontal dialog units (a quarter of a character's width).
   int height = 0;            ///< In vertical dialog units (an eighth of a character's height).
-  int rulerId = 0;           ///< The hidden static whose height is the row pitch; 0 for none.
   int rulerHeight = 20;      ///< In vertical dialog units.
   std::span<const RowTemplate> rows = {};
 };

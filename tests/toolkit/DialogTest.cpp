@@ -25,7 +25,7 @@ constexpr RowTemplate kRows[] = {
     Row(Bottom, Close(14, "Close")),
 };
 constexpr DialogTemplate kTemplate{
-    .number = 900, .caption = "Sample", .rulerId = 99, .rulerHeight = 20, .rows = kRows};
+    .number = 900, .caption = "Sample", .rulerHeight = 20, .rows = kRows};
 constexpr const DialogTemplate* kTemplates[] = {&kTemplate};
 constexpr ResourceModule kModule{kTemplates};
 

@@ -1,7 +1,11 @@
+#include <QElapsedTimer>
+#include <QTest>
 #include <gtest/gtest.h>
 
+#include "device/BoundedChannel.h"
 #include "i18n/LocalizeControlTexts.h"
 #include "pages/common/CTabPage.h"
+#include "simulator/FaultChannel.h"
 #include "tests/support/DialogDriver.h"
 
 namespace {
@@ -86,6 +90,30 @@ TEST_F(StatusTest, AFailedReadShowsADashInItsRowOnly) {
   EXPECT_EQ(driver.Text(20012), QStringLiteral("-"));
   EXPECT_EQ(driver.Text(20008), CatalogString(5, 31));
   EXPECT_TRUE(driver.IsEnabled(20018));
+}
+
+TEST(StatusOfASilentProjector, CostsOneTimeOutAndComesBack) {
+  using std::chrono::milliseconds;
+  const auto faults = std::make_shared<FaultChannel>(std::make_shared<RecordingChannel>());
+  faults->SetFault({.kind = Fault::Kind::DropOut});
+  CAdvanceDlg dialog;
+  const CModelInfo2 model = MakeModel(5, 30);
+  dialog.CopyData(&model, 0);
+  dialog.Projector().SetChannel(std::make_shared<BoundedChannel>(
+      faults,
+      BoundedChannel::Limits{.timeOut = milliseconds(150), .retryAfter = milliseconds(300)}));
+  QElapsedTimer clock;
+  clock.start();
+  ASSERT_TRUE(dialog.Create());
+  dialog.show();
+  EXPECT_LT(clock.elapsed(), 8 * 150) << "not a time-out for each of the eight reads";
+  const DialogDriver driver(*dialog.ShownPage());
+  for (int id = 20008; id <= 20015; ++id) EXPECT_EQ(driver.Text(id), QStringLiteral("-"));
+
+  faults->Clear();
+  QTest::qWait(400);
+  dialog.ShownPage()->InitDisp();
+  EXPECT_EQ(driver.Text(20008), CatalogString(5, 30));
 }
 
 TEST_F(StatusTest, ResetsTheChosenTime) {

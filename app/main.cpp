@@ -15,9 +15,9 @@
 #include "app/Pictures.h"
 #include "app/ProfileFile.h"
 #include "host/CAdvanceDlg.h"
-#include "host/PageSets.h"
 #include "i18n/Catalog.h"
 #include "i18n/SystemLanguage.h"
+#include "settings/PageSets.h"
 
 namespace {
 

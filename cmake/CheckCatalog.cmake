@@ -1,7 +1,7 @@
 # cmake -DCATALOG_DIR=src/resources/catalog -DSOURCE_DIR=src -P CheckCatalog.cmake
 #
 # Fails when a text that the code names is missing from the message catalog in any language. The
-# code names a text by a constant of resources/CatalogNumbers.h or by a caption of a template
+# code names a text by a constant of settings/CatalogNumbers.h or by a caption of a template
 # ("73;Brightness"). The sources themselves are checked too: each entry once, with one text in every
 # language of prologue.mc, and the same inserts in each.
 
@@ -123,7 +123,7 @@ macro(require category number user)
 endmacro()
 
 # The constants.
-read_text("${SOURCE_DIR}/resources/CatalogNumbers.h" header)
+read_text("${SOURCE_DIR}/settings/CatalogNumbers.h" header)
 set(named 0)
 foreach(group "Caption kCaptionCategory" "ListText kListCategory" "ErrorText kErrorCategory")
   string(REGEX MATCH "^(.*) (.*)$" group "${group}")

@@ -108,8 +108,10 @@ class CPjtInterface {
   int Inc(unsigned short code, unsigned short argument, CPjtInterface* self);
   int Dec(unsigned short code, unsigned short argument, CPjtInterface* self);
 
- private:
+  /// Any of the operations as a command, with the reply as the channel gave it.
   PjtReply Execute(const PjtCommand& command) const;
+
+ private:
   int ExecuteInto(const PjtCommand& command, short* value) const;
   short ExecuteFor(const PjtCommand& command, short otherwise) const;
 

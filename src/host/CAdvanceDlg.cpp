@@ -15,7 +15,7 @@
 
 #include "device/ModelDataIntake.h"
 #include "i18n/LocalizeControlTexts.h"
-#include "pages/PlainPages.h"
+#include "pages/TablePages.h"
 #include "pages/input/CInputType5Dlg.h"
 #include "pages/input/COption5TabDlg.h"
 #include "pages/picture/CPictureTabType5Dlg.h"
@@ -23,7 +23,7 @@
 #include "pages/setup/CSetupType5TabDlg.h"
 #include "pages/status/CStatusTabDlg.h"
 #include "resources/AdvancedControlResources.h"
-#include "resources/CatalogNumbers.h"
+#include "settings/CatalogNumbers.h"
 #include "toolkit/CTabCtrl.h"
 
 namespace {
@@ -73,91 +73,37 @@ void CopySources(SourceList& list, int count, const char* names, const int* firs
 }  // namespace
 
 struct CAdvanceDlg::Pages {
-  explicit Pages(CWnd* dialog);
-
-  CStatusTabDlg status;
-  CMainTabDlg main;
-  CMain2TabDlg main2;
-  CPicture1TabDlg picture1;
-  CPicture12TabDlg picture12;
-  CPicture2TabDlg picture2;
-  CPicture22TabDlg picture22;
-  CInputTabDlg input;
-  CInput2TabDlg input2;
-  CAutoTabDlg automatic;
-  CAuto2TabDlg automatic2;
-  COptionTabDlg option;
-  COption2TabDlg option2;
-  CScreenTabDlg screen;
-  COtherTabDlg other;
-  CImageTabDlg image;
-  CImage4TabDlg image4;
-  CVideoTabDlg video;
-  CInput4TabDlg input4;
-  CScreen4TabDlg screen4;
-  CSetup4TabDlg setup4;
-  COption4TabDlg option4;
-  COther4TabDlg other4;
-  CPicTabDlg pic;
-  CPictureTabType5Dlg pictureType5;
-  CInputType5Dlg inputType5;
-  CSetupType5TabDlg setupType5;
-  CAudioType5Dlg audioType5;
-  COption5TabDlg option5;
-  CSetupTabDlg setup;
-  CInput3TabDlg input3;
-  COption3TabDlg option3;
-
-  // In the order of PageId.
-  std::array<CTabPage*, kPageCount> byId{
-      &status,  &main,   &main2,     &picture1,     &picture12,  &picture2,   &picture22,
-      &input,   &input2, &automatic, &automatic2,   &option,     &option2,    &screen,
-      &other,   &image,  &image4,    &video,        &input4,     &screen4,    &setup4,
-      &option4, &other4, &pic,       &pictureType5, &inputType5, &setupType5, &audioType5,
-      &option5, &setup,  &input3,    &option3};
+  std::array<std::unique_ptr<CTabPage>, kPageCount> byId;
 };
 
-CAdvanceDlg::Pages::Pages(CWnd* dialog)
-    : status(dialog),
-      main(dialog),
-      main2(dialog),
-      picture1(dialog),
-      picture12(dialog),
-      picture2(dialog),
-      picture22(dialog),
-      input(dialog),
-      input2(dialog),
-      automatic(dialog),
-      automatic2(dialog),
-      option(dialog),
-      option2(dialog),
-      screen(dialog),
-      other(dialog),
-      image(dialog),
-      image4(dialog),
-      video(dialog),
-      input4(dialog),
-      screen4(dialog),
-      setup4(dialog),
-      option4(dialog),
-      other4(dialog),
-      pic(dialog),
-      pictureType5(dialog),
-      inputType5(dialog),
-      setupType5(dialog),
-      audioType5(dialog),
-      option5(dialog),
-      setup(dialog),
-      input3(dialog),
-      option3(dialog) {
-  for (CTabPage* page : byId) {
+namespace {
+
+template <class... Page>
+auto MakePages(CWnd* dialog) {
+  static_assert(sizeof...(Page) == kPageCount);
+  std::array<std::unique_ptr<CTabPage>, kPageCount> pages{std::make_unique<Page>(dialog)...};
+  for (const auto& page : pages) {
     page->setWindowFlags(Qt::Widget);
     page->hide();  // or it would come up together with the dialog
   }
+  return pages;
 }
 
+// In the order of PageId.
+auto MakeAllPages(CWnd* dialog) {
+  return MakePages<CStatusTabDlg, CMainTabDlg, CMain2TabDlg, CPicture1TabDlg, CPicture12TabDlg,
+                   CPicture2TabDlg, CPicture22TabDlg, CInputTabDlg, CInput2TabDlg, CAutoTabDlg,
+                   CAuto2TabDlg, COptionTabDlg, COption2TabDlg, CScreenTabDlg, COtherTabDlg,
+                   CImageTabDlg, CImage4TabDlg, CVideoTabDlg, CInput4TabDlg, CScreen4TabDlg,
+                   CSetup4TabDlg, COption4TabDlg, COther4TabDlg, CPicTabDlg, CPictureTabType5Dlg,
+                   CInputType5Dlg, CSetupType5TabDlg, CAudioType5Dlg, COption5TabDlg, CSetupTabDlg,
+                   CInput3TabDlg, COption3TabDlg>(dialog);
+}
+
+}  // namespace
+
 CAdvanceDlg::CAdvanceDlg(CWnd* parent)
-    : CDialog(TemplateId::Advance, parent), pages_(std::make_unique<Pages>(this)) {
+    : CDialog(TemplateId::Advance, parent), pages_(new Pages{MakeAllPages(this)}) {
   const auto addShortcut = [this](const QKeySequence& keys, int step) {
     connect(new QShortcut(keys, this), &QShortcut::activated, this,
             [this, step] { SelectNeighbourTab(step); });
@@ -277,7 +223,7 @@ void CAdvanceDlg::SetTitle() {
 
 void CAdvanceDlg::FitToPages() {
   QSize pages;
-  for (const CTabPage* page : pages_->byId) {
+  for (const auto& page : pages_->byId) {
     if (page->Template() != nullptr) pages = pages.expandedTo(page->size());
   }
   const int width = std::max(tabs_->sizeHint().width() + 2 * kMargin,
@@ -291,7 +237,7 @@ void CAdvanceDlg::FitToPages() {
 
 void CAdvanceDlg::OrderFocus() {
   QWidget* last = tabs_;
-  for (const CTabPage* page : pages_->byId) {
+  for (const auto& page : pages_->byId) {
     if (page->Template() == nullptr) continue;
     for (const RowTemplate& row : page->Template()->rows) {
       for (const ControlTemplate& control : row.controls) {
@@ -315,7 +261,7 @@ void CAdvanceDlg::DispTabScreen() {
   const QScopedValueRollback reading(reading_, true);
   do {
     tabChanged_ = false;
-    for (CTabPage* page : pages_->byId) {
+    for (const auto& page : pages_->byId) {
       if (page->Template() != nullptr) page->hide();
     }
     shownPage_ = SelectedPage();

@@ -10,7 +10,7 @@
 #include "device/CProjectorItem.h"
 #include "device/ModelData.h"
 #include "device/ModelDataSource.h"
-#include "host/PageSets.h"
+#include "settings/PageSets.h"
 #include "toolkit/CDialog.h"
 
 class CTabCtrl;

@@ -1,44 +1,24 @@
 #include "resources/AdvancedControlResources.h"
 
-#include <array>
-
 #include "resources/Templates.h"
 
 namespace {
 
-// A page that has its place and size, but no controls yet.
-constexpr DialogTemplate Plain(int number) {
-  return {.number = number, .width = kPageWidth, .height = kPageHeight};
-}
-
-constexpr std::array kPlainPages{
-    Plain(TemplateId::Main),      Plain(TemplateId::Main2),    Plain(TemplateId::Picture1),
-    Plain(TemplateId::Picture12), Plain(TemplateId::Picture2), Plain(TemplateId::Picture22),
-    Plain(TemplateId::Input),     Plain(TemplateId::Input2),   Plain(TemplateId::Auto),
-    Plain(TemplateId::Auto2),     Plain(TemplateId::Option),   Plain(TemplateId::Option2),
-    Plain(TemplateId::Screen),    Plain(TemplateId::Other),    Plain(TemplateId::Image),
-    Plain(TemplateId::Image4),    Plain(TemplateId::Video),    Plain(TemplateId::Input4),
-    Plain(TemplateId::Screen4),   Plain(TemplateId::Setup4),   Plain(TemplateId::Option4),
-    Plain(TemplateId::Other4),    Plain(TemplateId::Pic),      Plain(TemplateId::Setup),
-    Plain(TemplateId::Input3),    Plain(TemplateId::Option3),
-};
-
-constexpr std::array kFilledDialogs{
+constexpr const DialogTemplate* kDialogs[] = {
     &kAdvanceTemplate,   &kStatusTemplate,     &kPictureType5Template, &kGammaTemplate,
     &kColorTempTemplate, &kSetupType5Template, &kInputType5Template,   &kOptionType5Template,
-    &kServiceTemplate,   &kAudioType5Template};
-
-constexpr auto kAllDialogs = [] {
-  std::array<const DialogTemplate*, kFilledDialogs.size() + kPlainPages.size()> all{};
-  std::size_t next = 0;
-  for (const DialogTemplate* dialog : kFilledDialogs) all[next++] = dialog;
-  for (const DialogTemplate& dialog : kPlainPages) all[next++] = &dialog;
-  return all;
-}();
+    &kServiceTemplate,   &kAudioType5Template, &kPicTemplate,          &kPicture1Template,
+    &kPicture12Template, &kPicture2Template,   &kPicture22Template,    &kImageTemplate,
+    &kImage4Template,    &kSetupTemplate,      &kSetup4Template,       &kScreenTemplate,
+    &kScreen4Template,   &kInputTemplate,      &kInput2Template,       &kInput3Template,
+    &kInput4Template,    &kVideoTemplate,      &kMainTemplate,         &kMain2Template,
+    &kAutoTemplate,      &kAuto2Template,      &kOptionTemplate,       &kOption2Template,
+    &kOption3Template,   &kOption4Template,    &kOtherTemplate,        &kOther4Template,
+};
 
 }  // namespace
 
 const ResourceModule& AdvancedControlResources() {
-  static constexpr ResourceModule module{kAllDialogs};
+  static constexpr ResourceModule module{kDialogs};
   return module;
 }

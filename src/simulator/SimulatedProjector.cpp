@@ -5,9 +5,11 @@
 #include <string_view>
 #include <utility>
 
+#include "device/CommandCode.h"
+
 namespace {
 
-constexpr int kShownBias = 128;
+constexpr int kShownBias = CommandCode::kZeroPoint;
 
 /// What a command code without a known meaning is: a value that is just kept.
 constexpr Setting kPlain{.id = SettingId::Count, .name = "", .range = {0, 0xFFFF}};

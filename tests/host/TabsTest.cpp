@@ -6,9 +6,9 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
-#include "host/PageSets.h"
 #include "pages/common/CTabPage.h"
 #include "resources/AdvancedControlResources.h"
+#include "settings/PageSets.h"
 #include "tests/support/DialogDriver.h"
 #include "toolkit/ResourceModule.h"
 

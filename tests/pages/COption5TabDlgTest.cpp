@@ -3,7 +3,7 @@
 
 #include "pages/input/COption5TabDlg.h"
 #include "pages/input/CServiceDlg.h"
-#include "resources/CatalogNumbers.h"
+#include "settings/CatalogNumbers.h"
 #include "tests/support/NumberedCatalog.h"
 #include "tests/support/PageTables.h"
 

@@ -455,28 +455,6 @@ TEST(ArrowBitmapTest, PointsWhereItsNumberSays) {
   EXPECT_TRUE(ArrowBitmap(1).isNull());
 }
 
-TEST(SetupResetTest, EverySubsetOfRowsMapsItsPositions) {
-  using enum SetupReset;
-  for (unsigned subset = 0; subset < 16; ++subset) {
-    SCOPED_TRACE(subset);
-    SetupRows rows;
-    std::vector<SetupReset> expected;
-    if (subset & 1) rows.Add(SetupRow::KeystoneV), expected.push_back(KeystoneV);
-    if (subset & 2) rows.Add(SetupRow::KeystoneH), expected.push_back(KeystoneH);
-    if (subset & 4) rows.Add(SetupRow::DZoom), expected.push_back(DZoom);
-    if (subset & 8) {
-      rows.Add(SetupRow::DShift);
-      expected.insert(expected.end(), {DShiftV, DShiftH});
-    }
-    const int count = static_cast<int>(expected.size());
-    for (int position = 0; position < count; ++position) {
-      EXPECT_EQ(SetupResetAt(rows, position), expected[static_cast<std::size_t>(position)]);
-    }
-    EXPECT_EQ(SetupResetAt(rows, -1), std::nullopt);
-    EXPECT_EQ(SetupResetAt(rows, count), std::nullopt);
-  }
-}
-
 TEST(SetupResetTest, EachModelsListResetsWhatItNames) {
   struct Reset {
     QString text;

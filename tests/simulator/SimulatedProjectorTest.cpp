@@ -312,10 +312,10 @@ TEST_F(SimulatedProjectorTest, PowerAndStatesFollowTheirOwnCommandsOnly) {
 }
 
 TEST_F(SimulatedProjectorTest, CodesWithoutMeaningKeepWhatIsWritten) {
-  EXPECT_EQ(Get(0x3500), 0);
-  EXPECT_EQ(pjt_.Set(0x3500, 0xFFFF, &pjt_), 1);
-  EXPECT_EQ(Get(0x3500), 0xFFFF);
-  EXPECT_NE(pjt_.Inc(0x3500, 0, &pjt_), 1);
+  EXPECT_EQ(Get(0x2035), 0);
+  EXPECT_EQ(pjt_.Set(0x2035, 0xFFFF, &pjt_), 1);
+  EXPECT_EQ(Get(0x2035), 0xFFFF);
+  EXPECT_NE(pjt_.Inc(0x2035, 0, &pjt_), 1);
   EXPECT_EQ(Get(0x30B4), -1) << "nobody has this code";
 }
 

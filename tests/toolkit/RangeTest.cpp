@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "pages/common/Range.h"
+#include "settings/Range.h"
 
 TEST(Range, TakesTwoDecimalsAroundTheFirstComma) {
   const Range fallback{-32, 32};

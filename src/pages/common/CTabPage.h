@@ -1,14 +1,24 @@
 #pragma once
 
-#include "pages/common/SettingsDialog.h"
+#include "pages/common/RowDialog.h"
 
 /// A page behind a tab.
-class CTabPage : public SettingsDialog {
+class CTabPage : public RowDialog {
   Q_OBJECT
 
  public:
-  using SettingsDialog::SettingsDialog;
+  using RowDialog::RowDialog;
 
   /// Reads the projector and shows what it says; runs each time the page is brought to the front.
-  virtual void InitDisp() {}
+  virtual void InitDisp() { Refresh(); }
+
+ protected:
+  void ReadAgain() override { InitDisp(); }
+};
+
+/// A page that is nothing but its table.
+template <int templateNumber, const PageTable& table>
+class TablePage final : public CTabPage {
+ public:
+  explicit TablePage(CWnd* parent) : CTabPage(templateNumber, table, parent) {}
 };

@@ -3,7 +3,7 @@
 #include "device/CPjtInterface.h"
 #include "device/ModelData.h"
 #include "i18n/LocalizeControlTexts.h"
-#include "resources/CatalogNumbers.h"
+#include "settings/CatalogNumbers.h"
 #include "toolkit/CDialog.h"
 
 /// What every page and pop-up needs: the projector, the model data, texts and error boxes.
@@ -21,7 +21,7 @@ class SettingsDialog : public CDialog {
  protected:
   /// The model data of the dialog this one belongs to, at any distance; empty data when there is
   /// none, so that a page on its own shows its generic form.
-  const ModelData& Model() const;
+  virtual const ModelData& Model() const;
 
   /// Catalog text of the list category.
   static QString ListString(int number) { return CatalogString(kListCategory, number); }

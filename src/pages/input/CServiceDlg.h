@@ -1,11 +1,10 @@
 #pragma once
 
-#include "pages/common/ModelRows.h"
-#include "pages/common/SettingsDialog.h"
+#include "pages/common/RowDialog.h"
 
 /// The pop-up with the settings of installers: automatic adjustment, remote-control receivers and
 /// frequencies, focus lock. Each change applies at once; a refused one is silently undone.
-class CServiceDlg final : public SettingsDialog {
+class CServiceDlg final : public RowDialog {
   Q_OBJECT
 
  public:
@@ -14,24 +13,21 @@ class CServiceDlg final : public SettingsDialog {
   /// Decides which rows there are; set by the opener, like the projector, before the dialog runs.
   int ModelCode = 0;
 
-  const NotificationMap& Notifications() const override;
-
-  void OnCbnSelchangeSvcAtadjenbcomb();
-  void OnBnClickedSvcIrfrontchk();
-  void OnBnClickedSvcIrrearchk();
-  void OnBnClickedSvcIrtopchk();
-  void OnCbnSelchangeSvcIrfreqncomb();
-  void OnCbnSelchangeSvcIrfreqhcomb();
-  void OnCbnSelchangeSvcFocuslockcomb();
-  void OnBnClickedSvcBtnclose();
+  // A change of each control, by name.
+  void OnCbnSelchangeSvcAtadjenbcomb() { Act(20374); }
+  void OnBnClickedSvcIrfrontchk() { Act(20375); }
+  void OnBnClickedSvcIrrearchk() { Act(20376); }
+  void OnBnClickedSvcIrtopchk() { Act(20377); }
+  void OnCbnSelchangeSvcIrfreqncomb() { Act(20378); }
+  void OnCbnSelchangeSvcIrfreqhcomb() { Act(20379); }
+  void OnCbnSelchangeSvcFocuslockcomb() { Act(20381); }
+  void OnBnClickedSvcBtnclose() { accept(); }
 
  protected:
+  const ModelData& Model() const override { return model_; }
+  std::vector<Notification> OwnNotifications() const override;
   bool OnInitDialog() override;
 
  private:
-  void FillLists();
-  void Refresh();
-  int Shown(int control) const;
-  void Show(int control, int value);
-  void UndoIfRefused(int control, int result);
+  ModelData model_;  // nothing but `ModelCode`
 };

@@ -12,14 +12,13 @@ class CColorDlg final : public CustomDialog {
   /// dialog that runs it.
   explicit CColorDlg(bool hideResets, CWnd* parent = nullptr);
 
-  const NotificationMap& Notifications() const override;
-
  protected:
-  void StepUp(std::size_t row) override;
-  void StepDown(std::size_t row) override;
-  void Reset(std::size_t row) override;
+  std::vector<Notification> OwnNotifications() const override;
+  std::optional<int> Reset(std::size_t row) override;
 
  private:
+  void StepUp(std::size_t row);
+  void StepDown(std::size_t row);
   using Stepper = short (CPjtInterface::*)(int channel, short value);
   void Step(std::size_t row, Stepper stepper);
 };

@@ -11,10 +11,6 @@ class CGammaDlg final : public CustomDialog {
   /// to the dialog that runs it.
   explicit CGammaDlg(bool hidePointResets, CWnd* parent = nullptr);
 
-  const NotificationMap& Notifications() const override;
-
  protected:
-  void StepUp(std::size_t point) override;
-  void StepDown(std::size_t point) override;
-  void Reset(std::size_t point) override;
+  std::optional<int> Reset(std::size_t point) override;
 };

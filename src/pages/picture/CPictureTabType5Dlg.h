@@ -1,13 +1,9 @@
 #pragma once
 
 #include "pages/common/CTabPage.h"
-#include "pages/common/GenericSliderRow.h"
 
-class CComboBox;
-class QAbstractButton;
-
-/// Picture settings of the newest page set: brightness, contrast, colour, tint, sharpness, gamma,
-/// colour temperature, active iris, memories and resets.
+/// Picture settings of the newest page set: brightness, contrast, color, tint and sharpness; gamma
+/// and color temperature with their custom pop-ups; active iris; memories; resets.
 class CPictureTabType5Dlg final : public CTabPage {
   Q_OBJECT
 
@@ -15,54 +11,36 @@ class CPictureTabType5Dlg final : public CTabPage {
   explicit CPictureTabType5Dlg(CWnd* parent);
 
   void InitDisp() override;
-  const NotificationMap& Notifications() const override;
 
-  /// Device value of a position 0..2 of the active-iris list.
+  /// Device value of a position of the active-iris list, which must be inside it.
   static short ActIrisIdxToValue(short index);
   /// Position of a device value in the active-iris list, or −1.
   static short ActIrisValueToIdx(short value);
 
-  // What the controls report: + and − of each slider, the pop-ups, lists, memories and resets.
-  // Each acts on the projector at once.
-  void OnBnClickedPicBgpBtn();
-  void OnBnClickedPicBgnBtn();
-  void OnBnClickedPicCnpBtn();
-  void OnBnClickedPicCnnBtn();
-  void OnBnClickedPicClrpBtn();
-  void OnBnClickedPicClrnBtn();
-  void OnBnClickedPicTintpBtn();
-  void OnBnClickedPicTintnBtn();
-  void OnBnClickedPicShppBtn();
-  void OnBnClickedPicShpnBtn();
-  void OnBnClickedPicGammaBtn();
-  void OnBnClickedPicColorBtn();
-  void OnBnClickedPicMyldBtn();
+  // What the user does with each control, by name.
+  void OnBnClickedPicBgpBtn() { Act(20135); }
+  void OnBnClickedPicBgnBtn() { Act(20134); }
+  void OnBnClickedPicCnpBtn() { Act(20139); }
+  void OnBnClickedPicCnnBtn() { Act(20137); }
+  void OnBnClickedPicClrpBtn() { Act(20149); }
+  void OnBnClickedPicClrnBtn() { Act(20147); }
+  void OnBnClickedPicTintpBtn() { Act(21063); }
+  void OnBnClickedPicTintnBtn() { Act(21061); }
+  void OnBnClickedPicShppBtn() { Act(20150); }
+  void OnBnClickedPicShpnBtn() { Act(20148); }
+  void OnBnClickedPicMyldBtn() { Act(21065); }
+  void OnCbnSelchangePic5ActilisCombo() { Act(20293); }
+  void OnBnClickedPicRstBtn() { Act(21070); }
+  using CTabPage::OnHScroll;
+
   void OnCbnSelchangePicGammaComb();
   void OnCbnSelchangePicCctComb();
-  void OnCbnSelchangePic5ActilisCombo();
-  void OnBnClickedPicRstBtn();
-  void OnHScroll(CSliderCtrl& slider);
+  void OnBnClickedPicGammaBtn();
+  void OnBnClickedPicColorBtn();
 
  protected:
-  void DoDataExchange() override;
-  bool OnInitDialog() override;
+  std::vector<Notification> OwnNotifications() const override;
 
  private:
-  void StepUp(GenericSliderRow& row);
-  void StepDown(GenericSliderRow& row);
   void EnableCustomButtons();
-
-  GenericSliderRow brightness_;
-  GenericSliderRow contrast_;
-  GenericSliderRow color_;
-  GenericSliderRow tint_;
-  GenericSliderRow sharpness_;
-  CComboBox* gamma_ = nullptr;
-  QAbstractButton* customGamma_ = nullptr;
-  CComboBox* colorTemp_ = nullptr;
-  QAbstractButton* customColorTemp_ = nullptr;
-  CComboBox* activeIris_ = nullptr;
-  CComboBox* myMemory_ = nullptr;
-  CComboBox* reset_ = nullptr;
-  bool hasActiveIris_ = false;
 };

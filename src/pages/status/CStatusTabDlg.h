@@ -2,8 +2,6 @@
 
 #include "pages/common/CTabPage.h"
 
-class CComboBox;
-
 /// The first tab of every page set: eight states of the projector, read-only, and the reset of the
 /// lamp and filter times.
 class CStatusTabDlg final : public CTabPage {
@@ -12,15 +10,9 @@ class CStatusTabDlg final : public CTabPage {
  public:
   explicit CStatusTabDlg(CWnd* parent);
 
-  void InitDisp() override;
-  const NotificationMap& Notifications() const override;
-
  protected:
-  void DoDataExchange() override;
-  bool OnInitDialog() override;
+  void RefreshOwn(const OwnRow& row) override;
 
  private:
-  void OnBnClickedStsRstBtn();
-
-  CComboBox* resetList_ = nullptr;
+  QString TextOf(int control, int value) const;
 };

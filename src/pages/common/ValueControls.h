@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
-#include "pages/common/Range.h"
-#include "toolkit/DialogTemplate.h"
+#include "settings/Range.h"
+#include "settings/Rows.h"
 
 class CDialog;
 class CSliderCtrl;
@@ -11,11 +11,12 @@ class QAbstractButton;
 class QLineEdit;
 
 /// − button, slider, + button and number field of one setting, and the last value known of it.
-/// Values are shown values; what is sent, and what a refusal does, is the page's business.
-class SliderRow {
+/// Values are shown values; what is sent, and what a refusal does, is the user's business. A row of
+/// two arrow buttons and a field has no slider.
+class ValueControls {
  public:
   /// Finds the row's controls in `dialog`, which owns them and outlives the row's use.
-  void Bind(const CDialog& dialog, const tmpl::SliderIds& ids);
+  void Bind(const CDialog& dialog, const ValueIds& ids);
 
   /// Slider bounds and the distance of its ticks.
   void SetRange(Range range, int tickFrequency);
@@ -40,6 +41,8 @@ class SliderRow {
   std::int16_t current = 0;
 
  private:
+  void EnableButtons(bool enable);
+
   QAbstractButton* minus_ = nullptr;
   CSliderCtrl* slider_ = nullptr;
   QAbstractButton* plus_ = nullptr;

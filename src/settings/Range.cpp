@@ -1,4 +1,4 @@
-#include "pages/common/Range.h"
+#include "settings/Range.h"
 
 #include <algorithm>
 #include <charconv>

@@ -1,8 +1,10 @@
-#include "host/PageSets.h"
+#include "settings/PageSets.h"
 
 #include <algorithm>
+#include <iterator>
 
-#include "resources/CatalogNumbers.h"
+#include "settings/CatalogNumbers.h"
+#include "settings/PageTables.h"
 
 namespace {
 
@@ -86,6 +88,18 @@ constexpr TabRule kTabRules[] = {
     {5, kCodesWithAudio, kTabs5WithAudio, kTabs5},
 };
 
+// In the order of PageId.
+constexpr const PageTable* kTables[] = {
+    &kStatusRows,     &kMainRows,       &kMain2Rows,      &kPicture1Rows,    &kPicture12Rows,
+    &kPicture2Rows,   &kPicture22Rows,  &kInputRows,      &kInput2Rows,      &kAutoRows,
+    &kAuto2Rows,      &kOptionRows,     &kOption2Rows,    &kScreenRows,      &kOtherRows,
+    &kImageRows,      &kImage4Rows,     &kVideoRows,      &kInput4Rows,      &kScreen4Rows,
+    &kSetup4Rows,     &kOption4Rows,    &kOther4Rows,     &kPicRows,         &kPictureType5Rows,
+    &kInputType5Rows, &kSetupType5Rows, &kAudioType5Rows, &kOptionType5Rows, &kSetupRows,
+    &kInput3Rows,     &kOption3Rows,
+};
+static_assert(std::size(kTables) == kPageCount);
+
 }  // namespace
 
 std::span<const PageId> PagesOf(int dialogType) {
@@ -111,3 +125,5 @@ std::span<const PageTab> TabsOf(int dialogType, int modelCode) {
   const bool isListed = std::ranges::find(rule->codes, modelCode) != rule->codes.end();
   return isListed ? rule->listed : rule->others;
 }
+
+const PageTable& TableOf(PageId page) { return *kTables[static_cast<std::size_t>(page)]; }

@@ -17,6 +17,7 @@ class ModelCodes {
     static_assert(sizeof...(codes) <= kCapacity);
   }
 
+  constexpr bool Empty() const { return count_ == 0; }
   constexpr bool Contains(int code) const {
     const auto end = codes_.begin() + count_;
     return std::find(codes_.begin(), end, code) != end;
@@ -27,42 +28,45 @@ class ModelCodes {
   std::ptrdiff_t count_;
 };
 
+/// The models that have a row, told by the row itself; all of them unless told otherwise.
+struct Presence {
+  ModelCodes codes{};
+  bool except = true;  ///< `codes` are the ones that lack the row, else the ones that have it.
+
+  constexpr bool Has(int modelCode) const { return codes.Contains(modelCode) != except; }
+};
+
+constexpr Presence OnlyOn(std::same_as<int> auto... codes) { return {{codes...}, false}; }
+constexpr Presence NotOn(std::same_as<int> auto... codes) { return {{codes...}, true}; }
+
+/// Something that some models have in another form than all others.
+template <class Value>
+struct PerModel {
+  constexpr PerModel() = default;
+  constexpr PerModel(Value all) : value(all) {}
+  constexpr PerModel(Value others, ModelCodes models, Value own)
+      : value(others), codes(models), exception(own) {}
+
+  constexpr Value Of(int modelCode) const { return codes.Contains(modelCode) ? exception : value; }
+
+  Value value{};
+  ModelCodes codes{};
+  Value exception{};
+};
+
 /// The rows of some models: a digit per row in the page's row order, 1 for a row that they have.
 /// Blanks may group the digits.
 struct ModelRows {
   ModelCodes codes;
   std::string_view digits;
-};
 
-/// Which rows of a page a model has.
-class RowSet {
- public:
-  static constexpr std::size_t kCapacity = 32;
-
-  constexpr RowSet() = default;
-
-  /// The rows of a model; none for a code that the table does not list.
-  constexpr static RowSet Of(int modelCode, std::span<const ModelRows> table) {
-    RowSet rows;
-    for (const ModelRows& models : table) {
-      if (!models.codes.Contains(modelCode)) continue;
-      rows.known_ = true;
-      std::size_t row = 0;
-      for (const char digit : models.digits) {
-        if (digit != ' ') rows.has_[row++] = digit == '1';
-      }
-      break;
+  /// The digit of a row; a row behind the last digit is one that every model has.
+  constexpr bool Has(std::size_t row) const {
+    for (const char digit : digits) {
+      if (digit != ' ' && row-- == 0) return digit == '1';
     }
-    return rows;
+    return true;
   }
-
-  /// The table lists the model.
-  constexpr bool Known() const { return known_; }
-  constexpr bool Has(std::size_t row) const { return has_[row]; }
-
- private:
-  std::array<bool, kCapacity> has_{};
-  bool known_ = false;
 };
 
 /// For a static_assert beside a table: each line tells every row.

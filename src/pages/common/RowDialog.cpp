@@ -1,0 +1,412 @@
+#include "pages/common/RowDialog.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QAbstractButton>
+#include <QCheckBox>
+
+#include "resources/ArrowBitmap.h"
+#include "toolkit/CComboBox.h"
+#include "toolkit/CSliderCtrl.h"
+
+namespace {
+
+/// The controls of a row that a user operates, sliders apart.
+std::vector<int> OperatedControls(const PageRow& row) {
+  if (const auto* value = std::get_if<ValueRow>(&row)) return {value->ids.minus, value->ids.plus};
+  if (std::holds_alternative<OwnRow>(row)) return {};  // its page maps it
+  return {ControlOf(row)};
+}
+
+bool Owns(const PageRow& row, int control) {
+  if (const auto* value = std::get_if<ValueRow>(&row)) {
+    return control == value->Control() || control == value->ids.minus || control == value->ids.plus;
+  }
+  return control == ControlOf(row);
+}
+
+/// The list beside an action's button, or 0.
+int ListBeside(const PageRow& row) {
+  if (const auto* action = std::get_if<ActionRow>(&row)) return action->list;
+  const auto* reset = std::get_if<ResetRow>(&row);
+  return reset != nullptr ? reset->list : 0;
+}
+
+QString TextOf(const ListEntry& entry) {
+  if (entry.text != 0) return CatalogString(kListCategory, entry.text);
+  return QString::fromUtf8(entry.name.data(), static_cast<qsizetype>(entry.name.size()));
+}
+
+}  // namespace
+
+/// What a dialog holds of one row.
+struct RowDialog::Bound {
+  bool present = false;  // shown and read
+  ValueControls value;
+};
+
+RowDialog::RowDialog(int templateNumber, const PageTable& table, CWnd* owner)
+    : SettingsDialog(templateNumber, owner), table_(table), bound_(table.rows.size()) {}
+
+RowDialog::~RowDialog() = default;
+
+const NotificationMap& RowDialog::Notifications() const {
+  if (notifications_) return *notifications_;
+  std::vector<Notification> entries = OwnNotifications();
+  const auto add = [&entries](Notification::Event event, int id, auto handle) {
+    const bool own = std::ranges::find(entries, id, &Notification::id) != entries.end();
+    if (id != 0 && own) return;
+    entries.push_back({event, id, std::move(handle)});
+  };
+  const auto act = [](int id) {
+    return [id](CDialog& dialog, CSliderCtrl*) { static_cast<RowDialog&>(dialog).Act(id); };
+  };
+  using Event = Notification::Event;
+  bool slides = false;
+  for (const PageRow& row : table_.rows) {
+    const Event event = std::holds_alternative<ListRow>(row) ? Event::SelChange : Event::Clicked;
+    for (const int id : OperatedControls(row)) {
+      if (id != 0) add(event, id, act(id));
+    }
+    if (const int list = ListBeside(row); list != 0) {
+      add(Event::Passive, list, [](CDialog&, CSliderCtrl*) {});
+    }
+    const auto* value = std::get_if<ValueRow>(&row);
+    slides = slides || (value != nullptr && value->ids.slider != 0);
+  }
+  if (slides && std::ranges::find(entries, Event::HScroll, &Notification::event) == entries.end()) {
+    entries.push_back(HScroll(&RowDialog::OnHScroll));
+  }
+  return notifications_.emplace(std::move(entries));
+}
+
+std::vector<PjtCommand> RowDialog::Reads() const {
+  std::vector<PjtCommand> commands;
+  for (std::size_t i = 0; i < bound_.size(); ++i) {
+    if (!bound_[i].present) continue;
+    if (const auto call = ReadingOf(table_.rows[i], Model())) commands.push_back(call->Command());
+  }
+  return commands;
+}
+
+void RowDialog::DoDataExchange() {
+  for (std::size_t i = 0; i < bound_.size(); ++i) {
+    if (const auto* value = std::get_if<ValueRow>(&table_.rows[i])) {
+      bound_[i].value.Bind(*this, value->ids);
+    }
+  }
+}
+
+bool RowDialog::OnInitDialog() {
+  LocalizeControlTexts(kCaptionCategory, *this);
+  PrepareRows();
+  return true;
+}
+
+void RowDialog::PrepareRows() {
+  const int code = Model().ModelCode;
+  const bool keepsTemplate = KeepsTemplate(table_, code);
+  for (std::size_t i = 0; i < bound_.size(); ++i) {
+    bound_[i].present = !keepsTemplate && ::Has(table_, i, code);
+  }
+  if (keepsTemplate) {
+    UseTemplateLists();
+    return;
+  }
+  DrawArrows();
+  ShowPresentRows();
+  // Absent rows too: their handlers have names, and work for a host that calls them.
+  for (std::size_t i = 0; i < bound_.size(); ++i) {
+    std::visit([&](const auto& row) { Prepare(row, bound_[i]); }, table_.rows[i]);
+  }
+}
+
+// Arrow buttons bear a picture, and keep their sign as their name.
+void RowDialog::DrawArrows() {
+  static constexpr std::pair<std::string_view, int> kBitmaps[] = {{"↑", BitmapId::ArrowUp},
+                                                                  {"↓", BitmapId::ArrowDown},
+                                                                  {"←", BitmapId::ArrowLeft},
+                                                                  {"→", BitmapId::ArrowRight}};
+  for (const RowTemplate& row : Template()->rows) {
+    for (const ControlTemplate& control : row.controls) {
+      if (control.kind != ControlKind::Arrow) continue;
+      auto& button = Item<QAbstractButton>(control.id);
+      button.setAccessibleName(button.text());
+      button.setText({});
+      const int side = button.fontMetrics().height();  // as high as the buttons that bear a text
+      button.setIconSize({side, side});
+      for (const auto& [sign, bitmap] : kBitmaps) {
+        if (sign == control.caption) button.setIcon(ArrowBitmap(bitmap));
+      }
+    }
+  }
+}
+
+void RowDialog::ShowPresentRows() {
+  // Several rows of the table may stand in one row of the template: it is there if any of them is.
+  for (const bool present : {false, true}) {
+    for (std::size_t i = 0; i < bound_.size(); ++i) {
+      if (bound_[i].present == present) ShowRow(ControlOf(table_.rows[i]), present);
+    }
+  }
+  for (std::size_t i = 0; i < bound_.size(); ++i) {
+    QWidget* control = GetDlgItem(ControlOf(table_.rows[i]));
+    if (bound_[i].present || control->isHidden()) continue;
+    QSizePolicy keepsItsPlace = control->sizePolicy();
+    keepsItsPlace.setRetainSizeWhenHidden(true);
+    control->setSizePolicy(keepsItsPlace);
+    control->hide();
+  }
+}
+
+// The entries keep their texts and stand for what the rows' own entries at their places do.
+void RowDialog::UseTemplateLists() {
+  for (const PageRow& row : table_.rows) {
+    const auto* list = std::get_if<ListRow>(&row);
+    if (list == nullptr) continue;
+    CComboBox& combo = List(list->control);
+    const std::vector<ListEntry> entries = list->entries.Of({});
+    const int count = std::min(combo.count(), static_cast<int>(entries.size()));
+    for (int i = 0; i < count; ++i) {
+      combo.setItemData(i, entries[static_cast<std::size_t>(i)].value);
+    }
+  }
+}
+
+CComboBox& RowDialog::List(int control) const { return Item<CComboBox>(control); }
+
+void RowDialog::FillList(int control, const Entries& entries) {
+  CComboBox& list = List(control);
+  list.clear();
+  for (const ListEntry& entry : entries.Of(Model())) list.Add(TextOf(entry), entry.value);
+}
+
+void RowDialog::Prepare(const ListRow& row, Bound&) { FillList(row.control, row.entries); }
+
+void RowDialog::Prepare(const ValueRow& row, Bound& bound) {
+  bound.value.SetRange(SliderRange(row, Model()), row.ticks);
+  if (!row.initial) return;
+  bound.value.current = static_cast<std::int16_t>(*row.initial);
+  bound.value.MoveSlider(*row.initial);
+}
+
+void RowDialog::Prepare(const ActionRow& row, Bound&) {
+  if (row.list != 0) FillList(row.list, row.entries);
+}
+
+void RowDialog::Prepare(const ResetRow& row, Bound&) { FillResets(row.list); }
+
+void RowDialog::FillResets(int list) {
+  CComboBox& combo = List(list);
+  combo.clear();
+  for (const PageRow& row : table_.rows) {
+    const auto* reset = std::get_if<ResetRow>(&row);
+    if (reset == nullptr || reset->list != list) continue;
+    for (const ResetEntry& entry : reset->entries) {
+      // The entry's place in the table rides along: what is listed does not tell it.
+      if (entry.of == 0 || Has(entry.of)) {
+        combo.Add(CatalogString(kListCategory, entry.text),
+                  static_cast<int>(&entry - reset->entries.data()));
+      }
+    }
+  }
+}
+
+void RowDialog::Refresh() {
+  for (std::size_t i = 0; i < bound_.size(); ++i) {
+    if (!bound_[i].present) continue;
+    std::visit([&](const auto& row) { Refresh(row, bound_[i]); }, table_.rows[i]);
+  }
+  for (const PageRow& row : table_.rows) {
+    if (const int list = ListBeside(row); list != 0) Preselect(list);
+  }
+}
+
+void RowDialog::Preselect(int list) {
+  if (CComboBox& combo = List(list); combo.currentIndex() < 0) combo.Select(0);
+}
+
+void RowDialog::Refresh(const ListRow& row, Bound&) {
+  if (!row.read) return;
+  CComboBox& list = List(row.control);
+  const bool asks = !row.rules.emptyIsNotRead || list.count() > 0;
+  const auto value = asks ? Read(*projector, *row.read) : std::nullopt;
+  if (!value) {
+    if (row.rules.failedReadDisables) list.setEnabled(false);
+    return;
+  }
+  if (row.rules.noEntry == NoEntry::Ignored && list.findData(*value) < 0) return;
+  list.setEnabled(true);
+  Select(row, *value);
+}
+
+void RowDialog::Select(const ListRow& row, int value) {
+  CComboBox& list = List(row.control);
+  if (list.SelectValue(value)) return;
+  if (row.rules.noEntry == NoEntry::Clears) list.Select(-1);
+  if (row.rules.noEntry == NoEntry::IsPosition) list.Select(value);
+}
+
+void RowDialog::Refresh(const ValueRow& row, Bound& bound) {
+  if (const auto value = Read(*projector, row.Reading())) {
+    bound.value.Enable();
+    bound.value.current = static_cast<std::int16_t>(*value - row.bias);
+    bound.value.Show(bound.value.current);
+  } else {
+    bound.value.Disable();
+  }
+}
+
+void RowDialog::Refresh(const CheckRow& row, Bound&) {
+  auto& check = Item<QCheckBox>(row.control);
+  const auto value = Read(*projector, row.read);
+  check.setEnabled(value.has_value());
+  if (value) check.setChecked(*value != 0);
+}
+
+void RowDialog::Refresh(const OwnRow& row, Bound&) { RefreshOwn(row); }
+
+void RowDialog::Act(int control) {
+  for (std::size_t i = 0; i < bound_.size(); ++i) {
+    if (!Owns(table_.rows[i], control)) continue;
+    std::visit([&](const auto& row) { Operate(row, bound_[i], control); }, table_.rows[i]);
+    return;
+  }
+}
+
+void RowDialog::Operate(const ListRow& row, Bound&, int) {
+  CComboBox& list = List(row.control);
+  const auto chosen = list.SelectedValue();
+  if (!chosen || !row.send) return;
+  const int value = row.rules.sendsPosition ? list.currentIndex() : *chosen;
+  if (row.rules.tellsText) projector->SettingText = list.currentText().toStdString();
+  if (Perform(*projector, *row.send, value, Model().ModelCode).accepted) return;
+  if (row.rules.refused != Refused::Silent) ReadBack(row);
+  if (row.rules.error != 0) ShowError(row.rules.error);
+}
+
+void RowDialog::ReadBack(const ListRow& row) {
+  const auto value = row.read ? Read(*projector, *row.read) : std::nullopt;
+  if (!value) return;
+  if (row.rules.refused == Refused::ReadsBackPosition) {
+    List(row.control).Select(*value);
+  } else {
+    Select(row, *value);
+  }
+}
+
+void RowDialog::ReadBack(int control) {
+  for (const PageRow& row : table_.rows) {
+    if (ControlOf(row) != control) continue;
+    if (const auto* list = std::get_if<ListRow>(&row)) ReadBack(*list);
+  }
+}
+
+void RowDialog::Operate(const CheckRow& row, Bound&, int) {
+  auto& check = Item<QCheckBox>(row.control);
+  if (Perform(*projector, row.send, check.isChecked() ? 1 : 0, Model().ModelCode).accepted) return;
+  if (const auto value = Read(*projector, row.read)) check.setChecked(*value != 0);
+}
+
+void RowDialog::Operate(const ValueRow& row, Bound& bound, int control) {
+  ValueControls& controls = bound.value;
+  const bool upwards = control == row.ids.plus;
+  const Range bounds = StepBounds(row, Model(), controls.Bounds());
+  const Call step = row.Stepping(upwards);
+  if (FamilyOf(step.operation) == OperationFamily::PointerStepper) {
+    StepByValue(row, controls, step);
+    return;
+  }
+  // A field has no range of its own.
+  const bool bounded = row.bounds || row.ids.slider != 0;
+  if (bounded &&
+      (upwards ? controls.current >= bounds.maximum : controls.current <= bounds.minimum))
+    return;
+  if (!Perform(*projector, step).accepted) {
+    controls.MoveSlider(controls.current);
+    if (row.error != 0) ShowError(row.error);
+    return;
+  }
+  // The read back is as strict as the step.
+  Call reading = row.Reading();
+  reading.anyResult = step.anyResult;
+  if (const auto value = Read(*projector, reading)) {
+    controls.current = static_cast<std::int16_t>(*value - row.bias);
+    controls.Show(controls.current);
+  }
+}
+
+// Steppers that take the present value and answer with the new one.
+void RowDialog::StepByValue(const ValueRow& row, ValueControls& controls, const Call& step) {
+  const auto value = Read(*projector, row.Reading());
+  if (!value) return;
+  const Answer stepped = Perform(*projector, step, *value);
+  if (stepped.accepted) {
+    controls.current = static_cast<std::int16_t>(stepped.value - row.bias);
+    controls.Show(controls.current);
+  } else if (row.error != 0) {
+    ShowError(row.error);
+  }
+}
+
+void RowDialog::OnHScroll(CSliderCtrl& slider) {
+  for (std::size_t i = 0; i < bound_.size(); ++i) {
+    const auto* row = std::get_if<ValueRow>(&table_.rows[i]);
+    if (row != nullptr && bound_[i].value.Owns(slider)) {
+      Drag(*row, bound_[i].value);
+      return;
+    }
+  }
+}
+
+void RowDialog::Drag(const ValueRow& row, ValueControls& controls) {
+  const int position = controls.Position();
+  if (Perform(*projector, row.Setting(), position + row.bias, Model().ModelCode).accepted) {
+    controls.current = static_cast<std::int16_t>(position);
+    controls.Show(position);
+    return;
+  }
+  controls.MoveSlider(row.refusedDrag == RefusedDrag::Stays ? position : controls.current);
+  if (row.refusedDrag == RefusedDrag::Told && row.error != 0) ShowError(row.error);
+}
+
+void RowDialog::Operate(const ActionRow& row, Bound&, int) {
+  const int position = row.list != 0 ? List(row.list).currentIndex() : 0;
+  if (position < 0) return;
+  ReadAgainAfter(row.rereads, Perform(*projector, row.call, position).accepted);
+}
+
+void RowDialog::Operate(const ResetRow& row, Bound&, int) {
+  const ResetEntry* const reset = ChosenReset(row.control);
+  const bool done = reset != nullptr && Perform(*projector, Named(reset->operation)).accepted;
+  ReadAgainAfter(row.rereads, done);
+}
+
+void RowDialog::ReadAgainAfter(Rereads rereads, bool done) {
+  if (rereads == Rereads::Always || (rereads == Rereads::WhenDone && done)) ReadAgain();
+}
+
+const ResetEntry* RowDialog::ChosenReset(int button) const {
+  for (const PageRow& row : table_.rows) {
+    const auto* reset = std::get_if<ResetRow>(&row);
+    if (reset == nullptr || reset->control != button) continue;
+    const auto chosen = List(reset->list).SelectedValue();
+    return chosen ? &reset->entries[static_cast<std::size_t>(*chosen)] : nullptr;
+  }
+  return nullptr;
+}
+
+bool RowDialog::Has(int control) const {
+  for (std::size_t i = 0; i < bound_.size(); ++i) {
+    if (bound_[i].present && Owns(table_.rows[i], control)) return true;
+  }
+  return false;
+}
+
+ValueControls& RowDialog::Value(int control) {
+  for (std::size_t i = 0; i < bound_.size(); ++i) {
+    if (ControlOf(table_.rows[i]) == control) return bound_[i].value;
+  }
+  qFatal("no value row has the control %d", control);
+}

@@ -1,0 +1,103 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "pages/common/SettingsDialog.h"
+#include "pages/common/ValueControls.h"
+#include "settings/Rows.h"
+
+class CComboBox;
+
+/// A page or pop-up made of a table of rows: binds them to the template's controls, shows those
+/// that the model has, fills their lists, reads them, and does with a change what each row says.
+/// What fits no row is a handler of the class derived from it, which takes the place of the
+/// generated one.
+class RowDialog : public SettingsDialog {
+  Q_OBJECT
+
+ public:
+  /// `table` outlives the dialog.
+  RowDialog(int templateNumber, const PageTable& table, CWnd* owner);
+  ~RowDialog() override;
+
+  /// One line for each control of the table; `OwnNotifications` replace those of the same control.
+  const NotificationMap& Notifications() const final;
+
+  /// The commands that a refresh sends for the rows in their present state, in order. A row that
+  /// asks further, by what it has read, is here with its first question.
+  virtual std::vector<PjtCommand> Reads() const;
+
+ protected:
+  /// The lines of controls that the class handles itself.
+  virtual std::vector<Notification> OwnNotifications() const { return {}; }
+
+  void DoDataExchange() override;
+  /// Localizes the captions, shows the model's rows, sets ranges and fills lists.
+  bool OnInitDialog() override;
+
+  /// All but the captions of it. Nothing for a model that keeps the template as it is.
+  void PrepareRows();
+
+  /// Reads and shows every present row in the table's order.
+  void Refresh();
+  /// Reads and shows a row whose mechanics are the page's own.
+  virtual void RefreshOwn(const OwnRow&) {}
+  /// A reset or an action of the table asks for the page to be read again.
+  virtual void ReadAgain() { Refresh(); }
+
+  /// The user operated this control: does what its row says.
+  void Act(int control);
+  void OnHScroll(CSliderCtrl& slider);
+
+  /// Whether the model has the row that this control belongs to.
+  bool Has(int control) const;
+  /// The controls of a value row, by the number of its slider, or of its field without one.
+  ValueControls& Value(int control);
+  /// Reads a list or check box again and shows what it says; a failed read changes nothing.
+  void ReadBack(int control);
+  /// Fills a list of resets with those of the present rows; nothing is selected then.
+  void FillResets(int list);
+  /// The reset chosen in the list that a button belongs to, or null.
+  const ResetEntry* ChosenReset(int button) const;
+
+  CComboBox& List(int control) const;
+
+ private:
+  struct Bound;
+
+  void DrawArrows();
+  void ShowPresentRows();
+  void UseTemplateLists();
+  void FillList(int control, const Entries& entries);
+
+  void Prepare(const ListRow& row, Bound& bound);
+  void Prepare(const ValueRow& row, Bound& bound);
+  void Prepare(const ActionRow& row, Bound& bound);
+  void Prepare(const ResetRow& row, Bound& bound);
+  void Prepare(const auto&, Bound&) {}
+
+  void Refresh(const ListRow& row, Bound& bound);
+  void Refresh(const ValueRow& row, Bound& bound);
+  void Refresh(const CheckRow& row, Bound& bound);
+  void Refresh(const OwnRow& row, Bound& bound);
+  void Refresh(const auto&, Bound&) {}
+
+  void Operate(const ListRow& row, Bound& bound, int control);
+  void Operate(const ValueRow& row, Bound& bound, int control);
+  void Operate(const CheckRow& row, Bound& bound, int control);
+  void Operate(const ActionRow& row, Bound& bound, int control);
+  void Operate(const ResetRow& row, Bound& bound, int control);
+  void Operate(const OwnRow&, Bound&, int) {}
+
+  void Select(const ListRow& row, int value);
+  void ReadBack(const ListRow& row);
+  void StepByValue(const ValueRow& row, ValueControls& controls, const Call& step);
+  void Drag(const ValueRow& row, ValueControls& controls);
+  void Preselect(int list);
+  void ReadAgainAfter(Rereads rereads, bool done);
+
+  const PageTable& table_;
+  std::vector<Bound> bound_;  // one for each row of the table
+  mutable std::optional<NotificationMap> notifications_;
+};

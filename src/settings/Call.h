@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "device/CPjtInterface.h"
+#include "settings/ModelCodes.h"
+
+/// An operation of the projector as a row's data: all of a command but the value that it carries.
+struct Call {
+  PjtOperation operation{};
+  std::uint16_t code = 0;    ///< Command code of a generic operation.
+  std::int16_t address = 0;  ///< Source, point or channel of an addressed operation.
+  PerModel<int> flag{0};     ///< Second argument of a flagged setter.
+  bool anyResult = false;    ///< Any result but 0 is a success, whatever the family says.
+
+  /// The command for a model, with `value` where the operation takes one.
+  PjtCommand Command(int value = 0, int modelCode = 0) const;
+};
+
+/// What came of a call.
+struct Answer {
+  bool accepted = false;
+  int value = 0;  ///< The value read or stepped to; meaningful only when accepted.
+};
+
+/// Sends a call. What a caller cannot learn counts as accepted: operations without a result.
+Answer Perform(CPjtInterface& projector, const Call& call, int value = 0, int modelCode = 0);
+
+/// Reads a setting; nothing when the read fails.
+std::optional<int> Read(CPjtInterface& projector, const Call& call);
+
+// How a table names its calls.
+
+constexpr Call Get(std::uint16_t code) { return {PjtOperation::Get, code}; }
+constexpr Call Set(std::uint16_t code) { return {PjtOperation::Set, code}; }
+constexpr Call Inc(std::uint16_t code) { return {PjtOperation::Inc, code}; }
+constexpr Call Dec(std::uint16_t code) { return {PjtOperation::Dec, code}; }
+/// A named operation; `address` for those that take one.
+constexpr Call Named(PjtOperation operation, int address = 0) {
+  return {operation, 0, static_cast<std::int16_t>(address)};
+}
+/// A named setter with a flag.
+constexpr Call Flagged(PjtOperation operation, PerModel<int> flag) {
+  return {.operation = operation, .flag = flag};
+}
+/// The same call, with any result but 0 a success.
+constexpr Call AnyResult(Call call) {
+  call.anyResult = true;
+  return call;
+}

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "device/ModelData.h"
+#include "settings/ModelCodes.h"
+
+/// An entry of a list: its text, and the device value that it stands for.
+struct ListEntry {
+  constexpr ListEntry() = default;
+  constexpr ListEntry(int listText, int deviceValue = 0) : text(listText), value(deviceValue) {}
+  constexpr ListEntry(const char* fixedText, int deviceValue = 0)
+      : name(fixedText), value(deviceValue) {}
+  constexpr ListEntry(std::string_view fixedText, int deviceValue)
+      : name(fixedText), value(deviceValue) {}
+
+  int text = 0;             ///< Number in the list category of the catalog; 0 where `name` is it.
+  std::string_view name{};  ///< A text that is the same in every language.
+  int value = 0;
+};
+
+/// Entries that stand for `first` and the values after it.
+template <int first = 0, class... Texts>
+constexpr std::array<ListEntry, sizeof...(Texts)> Numbered(Texts... texts) {
+  std::array<ListEntry, sizeof...(Texts)> entries{ListEntry(texts)...};
+  for (std::size_t i = 0; i < entries.size(); ++i) entries[i].value = first + static_cast<int>(i);
+  return entries;
+}
+
+/// The entries of some models; without codes those of every other model.
+struct ModelEntries {
+  ModelCodes codes;
+  std::span<const ListEntry> entries;
+};
+
+/// The entries of a list: the same for every model, told per model, or made from the model's data.
+class Entries {
+ public:
+  using Maker = std::vector<ListEntry> (*)(const ModelData& model);
+
+  constexpr Entries() = default;
+  template <std::size_t count>
+  constexpr Entries(const std::array<ListEntry, count>& entries) : fixed_(entries) {}
+  template <std::size_t count>
+  constexpr Entries(const ListEntry (&entries)[count]) : fixed_(entries) {}
+  template <std::size_t count>
+  constexpr Entries(const ModelEntries (&perModel)[count]) : perModel_(perModel) {}
+  constexpr Entries(Maker maker) : maker_(maker) {}
+
+  /// The entries of this model, in list order. Names may point into `model`.
+  std::vector<ListEntry> Of(const ModelData& model) const;
+
+ private:
+  std::span<const ListEntry> fixed_{};
+  std::span<const ModelEntries> perModel_{};
+  Maker maker_ = nullptr;
+};
+
+// Lists that the model brings with it.
+
+std::vector<ListEntry> GammaEntries(const ModelData& model);
+std::vector<ListEntry> ColorTempEntries(const ModelData& model);
+/// The lamp modes that the dialogs have a text for. Each stands for its position, so that an
+/// unknown name moves the modes behind it up: the position is what the projector takes.
+std::vector<ListEntry> WhisperEntries(const ModelData& model);
+std::vector<ListEntry> AspectEntries(const ModelData& model);
+/// The input sources under their own names; the upper half of a source's word is none of its code.
+std::vector<ListEntry> SourceEntries(const ModelData& model);
+
+/// Position of the first entry that stands for `value`, or −1.
+int PositionOf(std::span<const ListEntry> entries, int value);

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "settings/PageSets.h"
+#include "settings/Rows.h"
+
+// The rows of every page, one line a row.
+
+extern const PageTable kStatusRows;
+extern const PageTable kMainRows;
+extern const PageTable kMain2Rows;
+extern const PageTable kPicture1Rows;
+extern const PageTable kPicture12Rows;
+extern const PageTable kPicture2Rows;
+extern const PageTable kPicture22Rows;
+extern const PageTable kInputRows;
+extern const PageTable kInput2Rows;
+extern const PageTable kAutoRows;
+extern const PageTable kAuto2Rows;
+extern const PageTable kOptionRows;
+extern const PageTable kOption2Rows;
+extern const PageTable kScreenRows;
+extern const PageTable kOtherRows;
+extern const PageTable kImageRows;
+extern const PageTable kImage4Rows;
+extern const PageTable kVideoRows;
+extern const PageTable kInput4Rows;
+extern const PageTable kScreen4Rows;
+extern const PageTable kSetup4Rows;
+extern const PageTable kOption4Rows;
+extern const PageTable kOther4Rows;
+extern const PageTable kPicRows;
+extern const PageTable kPictureType5Rows;
+extern const PageTable kInputType5Rows;
+extern const PageTable kSetupType5Rows;
+extern const PageTable kAudioType5Rows;
+extern const PageTable kOptionType5Rows;
+extern const PageTable kSetupRows;
+extern const PageTable kInput3Rows;
+extern const PageTable kOption3Rows;
+
+// The pop-ups of the pages.
+extern const PageTable kServiceRows;
+extern const PageTable kGammaRows;
+extern const PageTable kColorTempRows;
+
+/// The rows of a page.
+const PageTable& TableOf(PageId page);

@@ -1,0 +1,80 @@
+#include "settings/Rows.h"
+
+#include <algorithm>
+#include <type_traits>
+
+namespace {
+
+const ModelRows* RowsOf(const PageTable& table, int modelCode) {
+  const auto found = std::ranges::find_if(table.models, [modelCode](const ModelRows& models) {
+    return models.codes.Contains(modelCode);
+  });
+  return found == table.models.end() ? nullptr : &*found;
+}
+
+bool IsOn(const PageRow& row, int modelCode) {
+  return std::visit(
+      [modelCode](const auto& kind) {
+        if constexpr (std::is_same_v<decltype(kind), const ResetRow&>) {
+          return true;
+        } else {
+          return kind.on.Has(modelCode);
+        }
+      },
+      row);
+}
+
+}  // namespace
+
+std::string_view KeyOf(const PageRow& row) {
+  return std::visit([](const auto& kind) { return kind.key; }, row);
+}
+
+int ControlOf(const PageRow& row) {
+  return std::visit(
+      [](const auto& kind) {
+        if constexpr (std::is_same_v<decltype(kind), const ValueRow&>) {
+          return kind.Control();
+        } else {
+          return kind.control;
+        }
+      },
+      row);
+}
+
+const PageRow& FindRow(const PageTable& table, int control) {
+  return *std::ranges::find(table.rows, control, ControlOf);
+}
+
+bool KeepsTemplate(const PageTable& table, int modelCode) {
+  return table.unlisted == Unlisted::Template && RowsOf(table, modelCode) == nullptr;
+}
+
+bool Has(const PageTable& table, std::size_t row, int modelCode) {
+  if (!IsOn(table.rows[row], modelCode)) return false;
+  if (table.models.empty()) return true;
+  const ModelRows* const own = RowsOf(table, modelCode);
+  if (own != nullptr) return own->Has(row);
+  return table.unlisted == Unlisted::AllRows || std::holds_alternative<ResetRow>(table.rows[row]);
+}
+
+std::optional<Call> ReadingOf(const PageRow& row, const ModelData& model) {
+  if (const auto* list = std::get_if<ListRow>(&row)) {
+    if (list->rules.emptyIsNotRead && list->entries.Of(model).empty()) return {};
+    return list->read;
+  }
+  if (const auto* value = std::get_if<ValueRow>(&row)) return value->Reading();
+  if (const auto* check = std::get_if<CheckRow>(&row)) return check->read;
+  if (const auto* own = std::get_if<OwnRow>(&row)) return own->read;
+  return {};
+}
+
+Range SliderRange(const ValueRow& row, const ModelData& model) {
+  const Range fallback = row.range.Of(model.ModelCode);
+  if (row.rangeText == ValueRow::kNoRangeText) return fallback;
+  return ParseRange(model.RangeTexts[static_cast<std::size_t>(row.rangeText)], row.bias, fallback);
+}
+
+Range StepBounds(const ValueRow& row, const ModelData& model, Range slider) {
+  return row.bounds ? row.bounds->Of(model.ModelCode) : slider;
+}

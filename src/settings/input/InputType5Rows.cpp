@@ -1,0 +1,84 @@
+#include "settings/CatalogNumbers.h"
+#include "settings/PageTables.h"
+
+namespace {
+
+using Op = PjtOperation;
+
+constexpr auto kProgressive =
+    Numbered(ListText::Off, ListText::ProgressiveTv, ListText::ProgressiveFilm);
+// "Middle" and "Still Image" have numbers of their own, apart from those of the older input pages.
+constexpr auto kNoiseReductions = Numbered<1>(
+    ListText::NoiseReductionLow, ListText::NoiseReductionMiddle, ListText::NoiseReductionHigh);
+constexpr auto kYcs = Numbered(ListText::Off, ListText::YcsMovie, ListText::YcsStillImage);
+constexpr auto kColorSpaces = Numbered(ListText::Auto, "RGB", "SMPTE240", "REC709", "REC601");
+constexpr auto kComponents = Numbered("Component", "Scart RGB");
+constexpr ListEntry kVideoFormats[] = {{ListText::Auto, 10}, {"NTSC", 4},     {"PAL", 5},
+                                       {"SECAM", 9},         {"NTSC4.43", 2}, {"M-PAL", 8},
+                                       {"N-PAL", 7}};
+constexpr auto kHdmis = Numbered(ListText::HdmiAuto, ListText::HdmiNormal, ListText::HdmiEnhanced);
+constexpr auto kM1Ds = Numbered(ListText::M1DNormal, ListText::M1DEnhanced);
+constexpr auto kSwitch = Numbered(ListText::SwitchOff, ListText::SwitchOn);
+constexpr auto kSyncOnGreen = Numbered<2>(ListText::SyncOnGreenOff, ListText::SyncOnGreenOn);
+constexpr auto kAutomaticInput = Numbered<2>(ListText::SyncOnGreenOff, ListText::Auto);
+constexpr ModelEntries kInputs[] = {{{37, 38, 41, 43, 51, 52, 54}, kAutomaticInput},
+                                    {{}, kSyncOnGreen}};
+
+// The projector interface takes positions, also of lists whose values are mapped when they are
+// read, and maps them back.
+constexpr ListRules kPosition{.sendsPosition = true};
+
+// The RGB and the Computer row of an input are two labels of one setting; the flag tells which one
+// the user saw: 1 for RGB, 0 for Computer.
+// clang-format off
+constexpr PageRow kRows[] = {
+    ListRow{"input.progressive", 60, 20294, kProgressive, Named(Op::GetProgressive), Named(Op::SetProgressive), kPosition},
+    ListRow{"input.video-nr", 1058, 20295, kNoiseReductions, Named(Op::GetVideoNrVal), Flagged(Op::SetVideoNR, 1), kPosition},
+    ListRow{"input.3d-ycs", 57, 20296, kYcs, Named(Op::Get3dycs), Named(Op::Set3DYCS), kPosition},
+    ListRow{"input.color-space", 54, 20297, kColorSpaces, Named(Op::GetColorSpace), Named(Op::SetColorSpace), kPosition},
+    ListRow{"input.component", 1055, 20298, kComponents, Named(Op::GetComponent), Named(Op::SetComponent), kPosition},
+    ListRow{"input.c-video-format", 1068, 20299, kVideoFormats, Named(Op::GetVideoFormat, 1), Named(Op::SetCVideoFormat), kPosition},
+    ListRow{"input.s-video-format", 1069, 20300, kVideoFormats, Named(Op::GetVideoFormat, 0), Named(Op::SetSVideoFormat), kPosition},
+    ListRow{"input.hdmi", 187, 20307, kHdmis, Named(Op::GetHDMI), Named(Op::SetHDMI), kPosition},
+    ListRow{"input.m1-d", 70, 20301, kM1Ds, Named(Op::GetM1d), Named(Op::SetM1D), kPosition},
+    ListRow{"input.frame-lock", 59, 20302, kSwitch, Named(Op::GetFrameLock), Named(Op::SetFrameLock), kPosition},
+    ListRow{"input.frame-lock-rgb1", 1188, 20309, kSwitch, Named(Op::GetFrameLockComp1), Flagged(Op::SetFrameLockComp1, 1), kPosition},
+    ListRow{"input.frame-lock-computer1", 185, 20305, kSwitch, Named(Op::GetFrameLockComp1), Flagged(Op::SetFrameLockComp1, 0), kPosition},
+    ListRow{"input.frame-lock-rgb2", 1189, 20310, kSwitch, Named(Op::GetFrameLockComp2), Flagged(Op::SetFrameLockComp2, 1), kPosition},
+    ListRow{"input.frame-lock-computer2", 186, 20306, kSwitch, Named(Op::GetFrameLockComp2), Flagged(Op::SetFrameLockComp2, 0), kPosition},
+    ListRow{"input.frame-lock-hdmi", 1190, 20308, kSwitch, Named(Op::GetFrameLockHDMI), Named(Op::SetFrameLockHDMI), kPosition},
+    ListRow{"input.rgb-in-1", 1071, 20303, kInputs, Named(Op::GetRgbIn, 1), Flagged(Op::SetRgbIn1, 1), kPosition},
+    ListRow{"input.computer-in-1", 179, 20311, kInputs, Named(Op::GetRgbIn, 1), Flagged(Op::SetRgbIn1, 0), kPosition},
+    ListRow{"input.rgb-in-2", 1072, 20304, kInputs, Named(Op::GetRgbIn, 2), Flagged(Op::SetRgbIn2, 1), kPosition},
+    ListRow{"input.computer-in-2", 180, 20312, kInputs, Named(Op::GetRgbIn, 2), Flagged(Op::SetRgbIn2, 0), kPosition},
+};
+
+constexpr ModelRows kModels[] = {
+    //                  Progressive M1-D
+    //                  |Video NR   |Frame Lock
+    //                  ||3D-YCS    || RGB1
+    //                  |||Color    || |Computer1
+    //                  |||| Space  || ||RGB2
+    //                  ||||Comp.   || |||Computer2
+    //                  |||||C-Video|| ||||HDMI
+    //                  ||||||S-Vid.|| ||||| RGB IN-1
+    //                  |||||||HDMI || ||||| |Computer in-1
+    //                  ||||||||    || ||||| ||RGB IN-2
+    //                  ||||||||    || ||||| |||Computer in-2
+    {{30, 31},         "11111110    11 00000 1010"},
+    {{32, 33, 36},     "11011110    01 00000 1010"},
+    {{37},             "11010110    01 00000 0101"},
+    {{38},             "11010110    01 00000 0100"},
+    {{39, 45},         "11011110    01 00000 0101"},
+    {{40, 44, 49, 50}, "11011110    00 01010 0101"},
+    {{41, 43, 51, 54}, "11111111    00 10101 1010"},
+    {{42, 53},         "11011111    00 01011 0101"},
+    {{46},             "11111110    01 00000 1010"},
+    {{52},             "11111110    00 10100 1010"},
+};
+// clang-format on
+static_assert(AreComplete(kModels, std::ssize(kRows)));
+
+}  // namespace
+
+constinit const PageTable kInputType5Rows{kRows, kModels, Unlisted::Template};

@@ -1,0 +1,3 @@
+#include "settings/PageTables.h"
+
+constinit const PageTable kPicture1Rows{};

@@ -1,0 +1,96 @@
+#include "device/CommandCode.h"
+#include "settings/CatalogNumbers.h"
+#include "settings/PageTables.h"
+
+namespace {
+
+using Op = PjtOperation;
+
+constexpr auto kSwitch = Numbered(ListText::SwitchOff, ListText::SwitchOn);
+constexpr auto kHdmiAudio = Numbered<1>("1", "2");
+
+// The audio inputs that a source can have. The digital and the MIU list have an entry of their own
+// behind the others; only where it is the sixth does it stand for the projector's own number.
+constexpr int kHdmiInput = 32;
+constexpr int kMiuInput = 16;
+constexpr auto kInputs =
+    Numbered(ListText::Off, ListText::Audio1, ListText::Audio2, ListText::Audio3);
+constexpr auto kInputsWith4 =
+    Numbered(ListText::Off, ListText::Audio1, ListText::Audio2, ListText::Audio3, ListText::Audio4);
+
+template <int text>
+constexpr auto kInputsAnd = Numbered(ListText::Off, ListText::Audio1, ListText::Audio2,
+                                     ListText::Audio3, text);
+template <int text, int value>
+constexpr ListEntry kInputsWith4And[] = {{ListText::Off, 0},    {ListText::Audio1, 1},
+                                         {ListText::Audio2, 2}, {ListText::Audio3, 3},
+                                         {ListText::Audio4, 4}, {text, value}};
+
+constexpr ModelCodes kCodesWith4{30, 31, 41, 43, 46, 51, 52, 54};
+constexpr ModelEntries kSources[] = {{kCodesWith4, kInputsWith4}, {{}, kInputs}};
+constexpr ModelEntries kHdmiSources[] = {
+    {kCodesWith4, kInputsWith4And<ListText::AudioHDMI, kHdmiInput>},
+    {{}, kInputsAnd<ListText::AudioHDMI>}};
+constexpr ModelEntries kMiuSources[] = {
+    {kCodesWith4, kInputsWith4And<ListText::AudioMIU, kMiuInput>},
+    {{}, kInputsAnd<ListText::AudioMIU>}};
+
+// Other than in a refresh, what is read back is the position: 32 and 16 leave no selection then.
+constexpr ListRules kRouting{.noEntry = NoEntry::IsPosition,
+                             .refused = Refused::ReadsBackPosition,
+                             .failedReadDisables = false,
+                             .tellsText = true};
+constexpr ListRules kHdmiMode{
+    .noEntry = NoEntry::Keeps, .refused = Refused::ReadsBack, .failedReadDisables = false};
+
+// The two digital rows share one operation; a flag tells the projector which of its inputs is
+// meant, and which models want it differs by row.
+constexpr Call kSetM1D = Flagged(Op::SetAudioM1D, {0, {41, 43}, 1});
+constexpr Call kSetHdmi = Flagged(Op::SetAudioM1D, {0, {41, 43, 51, 53, 54}, 1});
+
+// A Computer row names the same input as its RGB row, and the projector reports both with the RGB
+// operation.
+// clang-format off
+constexpr PageRow kRows[] = {
+    OwnRow{"audio.volume", 1, 20347},
+    OwnRow{"audio.treble", 2, 20350},
+    OwnRow{"audio.bass", 3, 20353},
+    OwnRow{"audio.srs-wow", 4, 20381},
+    ListRow{"audio.speaker", 5, 20354, kSwitch, Named(Op::GetSpeaker), Named(Op::SetSpeaker), kRouting},
+    ListRow{"audio.rgb1", 1006, 20356, kSources, Named(Op::GetAudioRGB1), Named(Op::SetAudioRGB1), kRouting},
+    ListRow{"audio.computer1", 181, 20365, kSources, Named(Op::GetAudioRGB1), Named(Op::SetAudioComputer1), kRouting},
+    ListRow{"audio.rgb2", 1007, 20358, kSources, Named(Op::GetAudioRGB2), Named(Op::SetAudioRGB2), kRouting},
+    ListRow{"audio.computer2", 182, 20366, kSources, Named(Op::GetAudioRGB2), Named(Op::SetAudioComputer2), kRouting},
+    ListRow{"audio.m1-d", 1008, 20359, kSources, Named(Op::GetAudioM1D), kSetM1D, kRouting},
+    ListRow{"audio.hdmi", 1183, 20367, kHdmiSources, Named(Op::GetAudioM1D), kSetHdmi, kRouting},
+    ListRow{"audio.video", 1009, 20360, kSources, Named(Op::GetAudioVideo), Named(Op::SetAudioVideo), kRouting},
+    ListRow{"audio.s-video", 1010, 20361, kSources, Named(Op::GetAudioSVideo), Named(Op::SetAudioSVideo), kRouting},
+    ListRow{"audio.component", 1011, 20362, kSources, Named(Op::GetAudioComponent), Named(Op::SetAudioComponent), kRouting},
+    ListRow{"audio.miu", 12, 20363, kMiuSources, Named(Op::GetAudioMIU), Named(Op::SetAudioMIU), kRouting},
+    ListRow{"audio.out-standby", 206, 20368, kSources, Named(Op::GetAudioOutStandby), Named(Op::SetAudioOutStandby), kRouting},
+    ListRow{"audio.hdmi-audio", 184, 20364, kHdmiAudio, Named(Op::GetHDMIAudio), Named(Op::SetHDMIAudio), kHdmiMode},
+};
+
+constexpr ModelRows kModels[] = {
+    //          Volume RGB1         Video
+    //          |Tre.  |Computer1   |S-Video
+    //          ||Bass ||RGB2       ||Component
+    //          |||SRS |||Computer2 |||MIU
+    //          ||||Sp.|||| M1-D    |||| Out Standby
+    //          |||||  |||| |HDMI   |||| |HDMI Audio
+    {{30},     "11111  1010 10      1110 00"},
+    {{31},     "11111  1010 10      1111 00"},
+    {{41},     "11111  1010 01      1111 01"},
+    {{43},     "11111  1010 01      1110 01"},
+    {{46, 52}, "10001  1010 00      1110 00"},
+    {{49, 50}, "10001  0101 00      1110 10"},
+    {{51},     "11111  1010 01      1110 11"},
+    {{53},     "10001  0101 01      1110 11"},
+    {{54},     "11111  1010 01      1111 11"},
+};
+// clang-format on
+static_assert(AreComplete(kModels, std::ssize(kRows)));
+
+}  // namespace
+
+constinit const PageTable kAudioType5Rows{kRows, kModels, Unlisted::NoRow};

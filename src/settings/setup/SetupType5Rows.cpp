@@ -1,0 +1,148 @@
+#include "device/CommandCode.h"
+#include "settings/CatalogNumbers.h"
+#include "settings/PageTables.h"
+
+namespace {
+
+using Op = PjtOperation;
+
+constexpr auto kMirrors = Numbered(ListText::MirrorNormal, ListText::MirrorHInverse,
+                                   ListText::MirrorVInverse, ListText::MirrorHVInverse);
+constexpr auto kSwitch = Numbered(ListText::SwitchOff, ListText::SwitchOn);
+
+// Audio routing. The projector has odd numbers for a few inputs.
+constexpr int kHdmiInput = 32;
+constexpr int kMiuInput = 16;
+constexpr auto kThreeAudios =
+    Numbered(ListText::Off, ListText::Audio1, ListText::Audio2, ListText::Audio3);
+constexpr auto kTwoAudios = Numbered(ListText::Off, ListText::Audio1, ListText::Audio2);
+constexpr ModelEntries kAudios[] = {{{37}, kTwoAudios}, {{}, kThreeAudios}};
+constexpr ListEntry kAudioHdmi[] = {{ListText::Off, 0},
+                                    {ListText::Audio1, 1},
+                                    {ListText::Audio2, 2},
+                                    {ListText::Audio3, 3},
+                                    {ListText::AudioHDMI, kHdmiInput}};
+constexpr ListEntry kMiuOf38[] = {
+    {ListText::Off, 0}, {ListText::AudioOnly, 1}, {ListText::AudioMIU, kMiuInput}};
+constexpr ListEntry kMiuOfOthers[] = {{ListText::Off, 0},
+                                      {ListText::Audio1, 1},
+                                      {ListText::Audio2, 2},
+                                      {ListText::Audio3, 3},
+                                      {ListText::AudioMIU, kMiuInput}};
+constexpr ModelEntries kAudioMiu[] = {{{38}, kMiuOf38}, {{}, kMiuOfOthers}};
+constexpr auto kHdmiAudio = Numbered<1>("1", "2");
+constexpr auto kStandbys = Numbered(ListText::StandbyNormal, ListText::StandbySaving);
+
+// Monitor out: 255 is off, 0 the first computer input, 4 the second.
+constexpr ListEntry kOutOff{ListText::Off, 255};
+constexpr ListEntry kOutComputer1[] = {kOutOff, {"Computer1", 0}};
+constexpr ListEntry kOutComputer2[] = {kOutOff, {"Computer2", 4}};
+constexpr ListEntry kOutComputers[] = {kOutOff, {"Computer1", 0}, {"Computer2", 4}};
+constexpr ListEntry kOutRgb1[] = {kOutOff, {"RGB1", 0}};
+constexpr ListEntry kOutRgb2[] = {kOutOff, {"RGB2", 4}};
+constexpr ListEntry kOutRgbs[] = {kOutOff, {"RGB1", 0}, {"RGB2", 4}};
+constexpr ModelEntries kMonitorRgb1[] = {{{54}, kOutRgb1}, {{}, kOutRgbs}};
+constexpr ModelEntries kMonitorRgb2[] = {{{54}, kOutRgb2}, {{}, kOutRgbs}};
+constexpr ModelEntries kMonitors[] = {{{51, 54}, kOutRgbs}, {{}, kOutComputers}};
+
+constexpr ListRules kMode{.refused = Refused::ReadsBack};
+constexpr ListRules kModeTold{.refused = Refused::ReadsBack, .tellsText = true};
+// A value without an entry leaves the selection of a routing list.
+constexpr ListRules kRouting{.noEntry = NoEntry::Keeps, .refused = Refused::ReadsBack};
+constexpr ListRules kRoutingTold{
+    .noEntry = NoEntry::Keeps, .refused = Refused::ReadsBack, .tellsText = true};
+
+// One direction of the digital shift. Any result but 0 counts; nothing on our side bounds it.
+constexpr ValueRow Shift(std::string_view key, const ValueIds& ids, std::uint16_t code) {
+  return {.key = key,
+          .caption = 195,
+          .ids = ids,
+          .code = code,
+          .read = AnyResult(Get(code)),
+          .down = AnyResult(Dec(code)),
+          .up = AnyResult(Inc(code)),
+          .bias = CommandCode::kZeroPoint,
+          .error = ErrorText::DShiftRefused};
+}
+
+constexpr ResetEntry kResets[] = {
+    {ListText::KeystoneV, Op::ExecKeyStoneVReset, 20310},
+    {ListText::KeystoneH, Op::ExecKeyStoneHReset, 20311},
+    {ListText::DZoom, Op::ExecDZoomReset, 20332},
+    {ListText::DShiftV, Op::ExecDShiftVReset, 20144},
+    {ListText::DShiftH, Op::ExecDShiftHReset, 20145},
+};
+
+// A Computer row is the RGB input under its newer name: the projector reports both in one way.
+// clang-format off
+constexpr PageRow kRows[] = {
+    ActionRow{"setup.auto-keystone", 18, 20305, Named(Op::ExecAutoKeyStone)},
+    OwnRow{"setup.keystone-v", 137, 20310, Named(Op::GetKeystoneV)},
+    OwnRow{"setup.keystone-h", 138, 20311, Named(Op::GetKeystoneH)},
+    ListRow{"setup.whisper", 75, 20315, WhisperEntries, Named(Op::GetWhisper), Named(Op::SetWhisper), kMode},
+    ListRow{"setup.mirror", 40, 20316, kMirrors, Named(Op::GetMirror), Named(Op::SetMirror), kMode},
+    ListRow{"setup.speaker", 5, 20321, kSwitch, Named(Op::GetSpeaker), Named(Op::SetSpeaker), kModeTold},
+    OwnRow{"setup.volume", 1, 20317, Named(Op::GetInputSource)},
+    // Only the buttons are strict about the result.
+    ValueRow{.key = "setup.d-zoom", .caption = 194, .ids = {20331, 20332, 20333, 20143}, .code = CommandCode::DigitalZoom,
+             .read = AnyResult(Get(CommandCode::DigitalZoom)), .set = AnyResult(Set(CommandCode::DigitalZoom)),
+             .range = Range{80, 100}, .ticks = 2, .refusedDrag = RefusedDrag::GoesBack, .error = ErrorText::DZoomRefused},
+    Shift("setup.d-shift-v", {20336, 0, 20335, 20144}, CommandCode::DigitalShiftV),
+    Shift("setup.d-shift-h", {20334, 0, 20350, 20145}, CommandCode::DigitalShiftH),
+    ListRow{"setup.audio-rgb1", 139, 20320, kThreeAudios, Named(Op::GetAudioRGB1), Named(Op::SetAudioRGB1), kRouting},
+    ListRow{"setup.audio-computer1", 181, 20369, kAudios, Named(Op::GetAudioRGB1), Named(Op::SetAudioComputer1), kRoutingTold},
+    ListRow{"setup.audio-rgb2", 140, 20322, kThreeAudios, Named(Op::GetAudioRGB2), Named(Op::SetAudioRGB2), kRouting},
+    ListRow{"setup.audio-computer2", 182, 20370, kAudios, Named(Op::GetAudioRGB2), Named(Op::SetAudioComputer2), kRoutingTold},
+    ListRow{"setup.audio-hdmi", 183, 20329, kAudioHdmi, Named(Op::GetAudioM1D), Flagged(Op::SetAudioM1D, {0, {42}, 1}), kRoutingTold},
+    ListRow{"setup.audio-component", 143, 20325, kThreeAudios, Named(Op::GetAudioComponent), Named(Op::SetAudioComponent), kRouting},
+    ListRow{"setup.audio-s-video", 142, 20324, kAudios, Named(Op::GetAudioSVideo), Named(Op::SetAudioSVideo), kRouting},
+    ListRow{"setup.audio-video", 141, 20323, kAudios, Named(Op::GetAudioVideo), Named(Op::SetAudioVideo), kRouting},
+    ListRow{"setup.audio-miu", 144, 20326, kAudioMiu, Named(Op::GetAudioMIU), Named(Op::SetAudioMIU), kRouting},
+    ListRow{"setup.hdmi-audio", 184, 20330, kHdmiAudio, Named(Op::GetHDMIAudio), Named(Op::SetHDMIAudio), kRouting},
+    ListRow{"setup.standby-mode", 205, 20368, kStandbys, Named(Op::GetStandbyMode), Named(Op::SetStandbyMode), kRouting},
+    ListRow{"setup.monitor-out-rgb1", 207, 20371, kMonitorRgb1, Named(Op::GetMonitorOutComputer1), Named(Op::SetMonitorOutComputer1), kRouting},
+    ListRow{"setup.monitor-out-computer1", 197, 20360, kOutComputer1, Named(Op::GetMonitorOutComputer1), Named(Op::SetMonitorOutComputer1), kRouting},
+    ListRow{"setup.monitor-out-rgb2", 208, 20372, kMonitorRgb2, Named(Op::GetMonitorOutComputer2), Named(Op::SetMonitorOutComputer2), kRouting},
+    ListRow{"setup.monitor-out-computer2", 198, 20361, kOutComputer2, Named(Op::GetMonitorOutComputer2), Named(Op::SetMonitorOutComputer2), kRouting},
+    ListRow{"setup.monitor-out-hdmi", 199, 20362, kMonitors, Named(Op::GetMonitorOutHDMI), Named(Op::SetMonitorOutHDMI), kRouting},
+    ListRow{"setup.monitor-out-component", 200, 20363, kMonitors, Named(Op::GetMonitorOutComponent), Named(Op::SetMonitorOutComponent), kRouting},
+    ListRow{"setup.monitor-out-s-video", 201, 20364, kMonitors, Named(Op::GetMonitorOutSVideo), Named(Op::SetMonitorOutSVideo), kRouting},
+    ListRow{"setup.monitor-out-video", 202, 20365, kMonitors, Named(Op::GetMonitorOutVideo), Named(Op::SetMonitorOutVideo), kRouting},
+    ListRow{"setup.monitor-out-miu", 203, 20366, kMonitors, Named(Op::GetMonitorOutMIU), Named(Op::SetMonitorOutMIU), kRouting},
+    ListRow{"setup.monitor-out-standby", 204, 20367, kMonitors, Named(Op::GetMonitorOutStandby), Named(Op::SetMonitorOutStandby), kRouting},
+    ResetRow{"setup.reset", 20327, 20328, kResets, Rereads::Never},
+};
+
+constexpr ModelRows kModels[] = {
+    //                          Auto Keystone         Audio                 Standby Mode
+    //                          |Keystone V           RGB1                  | Monitor out
+    //                          ||Keystone H          |Computer1            | RGB1
+    //                          |||Whisper            ||RGB2                | |Computer1
+    //                          ||||Mirror            |||Computer2          | ||RGB2
+    //                          |||||Speaker          ||||HDMI              | |||Computer2
+    //                          ||||||Volume          |||||Component        | ||||HDMI
+    //                          |||||||D-Zoom         ||||||S-Video         | |||||Component
+    //                          ||||||||D-Shift V     |||||||Video          | ||||||S-Video
+    //                          |||||||||D-Shift H    ||||||||MIU           | |||||||Video
+    //                          ||||||||||            |||||||||HDMI Audio   | ||||||||MIU
+    //                          ||||||||||            ||||||||||            | |||||||||Standby
+    {{30, 31, 41, 43, 46, 52}, "1111100000            0000000000            0 0000000000"},
+    {{32, 33},                 "1101101000            1010011100            0 0000000000"},
+    {{36},                     "1101101000            1010011110            0 0000000000"},
+    {{37},                     "1101101000            0101001100            0 0000000000"},
+    {{38},                     "1101101000            0000000010            0 0000000000"},
+    {{39, 45},                 "1101111000            0101011100            0 0000000000"},
+    {{40},                     "1101111000            0101011110            0 0000000000"},
+    {{42},                     "1111111000            0101111111            0 0000000000"},
+    {{44},                     "0101111111            0101011100            0 0000000000"},
+    {{49, 50},                 "1101100000            0000000000            1 0101011101"},
+    {{51},                     "1111100000            0000000000            0 1010111101"},
+    {{53},                     "1101100000            0000000000            1 0101111101"},
+    {{54},                     "1111100000            0000000000            0 1010111111"},
+};
+// clang-format on
+static_assert(AreComplete(kModels, std::ssize(kRows) - 1));  // every model has the resets
+
+}  // namespace
+
+constinit const PageTable kSetupType5Rows{kRows, kModels, Unlisted::NoRow};

@@ -5,9 +5,33 @@ set_target_properties(ProjectorCommon AdvancedControl PROPERTIES INSTALL_RPATH "
 target_compile_features(ProjectorCommon PUBLIC cxx_std_20)
 install(TARGETS ProjectorCommon AdvancedControl EXPORT AdvancedControlTargets
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
-install(DIRECTORY src/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/AdvancedControl
-        FILES_MATCHING PATTERN "*.h" PATTERN "*.def"
-        PATTERN catalog EXCLUDE)
+
+# The headers a host needs, and what those include.
+file(GLOB headers RELATIVE ${PROJECT_SOURCE_DIR}/src CONFIGURE_DEPENDS
+  src/device/*.h src/device/*.def src/simulator/*.h)
+list(APPEND headers
+  host/CAdvanceDlg.h i18n/Catalog.h i18n/LocalizeControlTexts.h i18n/SystemLanguage.h
+  pages/input/CInputType5Dlg.h pages/input/COption5TabDlg.h pages/input/CServiceDlg.h
+  pages/picture/CPictureTabType5Dlg.h pages/setup/CAudioType5Dlg.h
+  pages/setup/CSetupType5TabDlg.h)
+set(next 0)
+list(LENGTH headers count)
+while(next LESS count)
+  list(GET headers ${next} header)
+  file(STRINGS src/${header} includes REGEX "^#include \"")
+  foreach(include IN LISTS includes)
+    string(REGEX REPLACE "^#include \"(.*)\".*" "\\1" include "${include}")
+    list(APPEND headers ${include})
+  endforeach()
+  list(REMOVE_DUPLICATES headers)
+  list(LENGTH headers count)
+  math(EXPR next "${next} + 1")
+endwhile()
+foreach(header IN LISTS headers)
+  get_filename_component(folder ${header} DIRECTORY)
+  install(FILES src/${header}
+          DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/AdvancedControl/${folder})
+endforeach()
 install(FILES ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/mcdll.dll ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/mcschn.dll
         DESTINATION ${CMAKE_INSTALL_DATADIR}/advanced-control)
 

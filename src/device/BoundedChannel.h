@@ -3,6 +3,7 @@
 #include <chrono>
 #include <memory>
 
+#include "AdvancedControlExport.h"
 #include "device/ProjectorChannel.h"
 
 /// Puts a bound on how long a command may take, whatever the channel behind it does.
@@ -16,7 +17,7 @@
 ///
 /// Destroying the object does not wait for an outstanding command: the inner channel lives on until
 /// that command returns.
-class BoundedChannel : public ProjectorChannel {
+class ADVANCED_CONTROL_EXPORT BoundedChannel : public ProjectorChannel {
  public:
   struct Limits {
     std::chrono::milliseconds timeOut{2000};

@@ -2,8 +2,10 @@
 
 #include <cstdint>
 
+#include "AdvancedControlExport.h"
+
 /// Parameters of a serial connection. A value: copying it copies the parameters.
-class CComCtrl {
+class ADVANCED_CONTROL_EXPORT CComCtrl {
  public:
   CComCtrl() = default;
   CComCtrl(const CComCtrl&) = default;

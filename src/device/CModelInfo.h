@@ -3,11 +3,12 @@
 #include <cstdint>
 #include <string>
 
+#include "AdvancedControlExport.h"
 #include "device/ModelData.h"
 
 /// The short model record of hosts that know neither series code nor ranges.
 /// A value: copying it copies every member.
-class CModelInfo {
+class ADVANCED_CONTROL_EXPORT CModelInfo {
  public:
   CModelInfo() = default;
   CModelInfo(const CModelInfo& other);

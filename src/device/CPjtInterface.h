@@ -15,7 +15,7 @@
 /// does. Copies share the channel. Without a channel every operation is refused. What each form of
 /// operation takes and returns is listed with the forms below; a refused operation writes nothing
 /// through its pointer. Values are device values; the pages own every bias.
-class CPjtInterface {
+class ADVANCED_CONTROL_EXPORT CPjtInterface {
  public:
   CPjtInterface();
   CPjtInterface(const CPjtInterface& other);
@@ -74,6 +74,7 @@ class CPjtInterface {
 #define PJT_FORM_ChannelStepper(name) short name(int channel, short value);  // `value` if refused.
 #define PJT_FORM_Generic(name)
 #define PJT_OPERATION(name, family) PJT_FORM_##family(name)
+#include "AdvancedControlExport.h"
 #include "device/PjtOperations.def"
 #undef PJT_FORM_Action
 #undef PJT_FORM_CheckedReset

@@ -2,8 +2,10 @@
 
 #include <cstdint>
 
+#include "AdvancedControlExport.h"
+
 /// One entry of a projector's schedule. A value: copying it copies every member.
-class CScheduleInfo {
+class ADVANCED_CONTROL_EXPORT CScheduleInfo {
  public:
   enum class Action : std::int32_t { PowerOff, PowerOn, SelectInput };
 

@@ -3,8 +3,10 @@
 #include <cstdint>
 #include <string>
 
+#include "AdvancedControlExport.h"
+
 /// Parameters of a network connection. A value: copying it copies the parameters.
-class CSocketCtrl {
+class ADVANCED_CONTROL_EXPORT CSocketCtrl {
  public:
   CSocketCtrl() = default;
   CSocketCtrl(const CSocketCtrl&) = default;

@@ -6,10 +6,11 @@
 #include <string>
 #include <utility>
 
+#include "AdvancedControlExport.h"
 #include "device/ProjectorChannel.h"
 
 /// Reports every command that passes through to an observer, once the reply is there.
-class LoggingChannel : public ProjectorChannel {
+class ADVANCED_CONTROL_EXPORT LoggingChannel : public ProjectorChannel {
  public:
   /// Called on the thread that executes the command.
   using Observer =
@@ -28,4 +29,5 @@ class LoggingChannel : public ProjectorChannel {
 /// The command as one line of a log, and what came back when `reply` is given:
 /// "SetBrightness(140)", "GetInputSrcVolume(3) = 16", "Get 0x2003 = 128", "Set 0x3304 (0x10)
 /// refused".
-std::string FormatCommand(const PjtCommand& command, const PjtReply* reply = nullptr);
+ADVANCED_CONTROL_EXPORT std::string FormatCommand(const PjtCommand& command,
+                                                  const PjtReply* reply = nullptr);

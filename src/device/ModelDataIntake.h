@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 
+#include "AdvancedControlExport.h"
 #include "device/CModelInfo2.h"
 #include "device/CProjectorItem.h"
 #include "device/ModelData.h"
@@ -19,17 +20,17 @@ struct ConnectionData {
 };
 
 /// Everything that the record says of the model.
-ModelData MakeModelData(const CModelInfo2& info);
+ADVANCED_CONTROL_EXPORT ModelData MakeModelData(const CModelInfo2& info);
 
 /// The same from the item's model record, under the item's own name. An item without a record
 /// gives the name alone.
-ModelData MakeModelData(const CProjectorItem& item);
+ADVANCED_CONTROL_EXPORT ModelData MakeModelData(const CProjectorItem& item);
 
 /// Connection `index` of the record; an index that the record does not have gives an empty one.
-ConnectionData MakeConnectionData(const CModelInfo2& info, int index);
+ADVANCED_CONTROL_EXPORT ConnectionData MakeConnectionData(const CModelInfo2& info, int index);
 
 /// The item's connection; its first text is the dotted address.
-ConnectionData MakeConnectionData(const CProjectorItem& item);
+ADVANCED_CONTROL_EXPORT ConnectionData MakeConnectionData(const CProjectorItem& item);
 
 /// "a.b.c.d", `a` from the most significant byte.
-std::string DottedAddress(std::uint32_t address);
+ADVANCED_CONTROL_EXPORT std::string DottedAddress(std::uint32_t address);

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "AdvancedControlExport.h"
 #include "device/ModelData.h"
 
 /// Whoever holds the model data that the pages and pop-ups read: the dialog they belong to.
-class ModelDataSource {
+class ADVANCED_CONTROL_EXPORT ModelDataSource {
  public:
   virtual ~ModelDataSource() = default;
 

@@ -37,24 +37,25 @@ enum class OperationFamily {
 /// Number of operations; their enumerators run from 0 to `kOperationCount` − 1.
 inline constexpr std::size_t kOperationCount = 0
 #define PJT_OPERATION(name, family) +1
+#include "AdvancedControlExport.h"
 #include "device/PjtOperations.def"
     ;
 
 /// The operation's name, as its member of `CPjtInterface` is called.
-std::string_view OperationName(PjtOperation operation);
+ADVANCED_CONTROL_EXPORT std::string_view OperationName(PjtOperation operation);
 
 /// The operation of that name, or nothing.
-std::optional<PjtOperation> OperationByName(std::string_view name);
+ADVANCED_CONTROL_EXPORT std::optional<PjtOperation> OperationByName(std::string_view name);
 
-OperationFamily FamilyOf(PjtOperation operation);
+ADVANCED_CONTROL_EXPORT OperationFamily FamilyOf(PjtOperation operation);
 
 /// Whether `result`, as a reply carries it, says that the projector did what was asked. Families
 /// whose caller gets no result still carry one in the reply: nonzero is success.
-bool IsSuccess(PjtOperation operation, int result);
+ADVANCED_CONTROL_EXPORT bool IsSuccess(PjtOperation operation, int result);
 
 /// A result that says success, and one that says refusal, by the operation's family.
-int AcceptedResult(PjtOperation operation);
-int RefusedResult(PjtOperation operation);
+ADVANCED_CONTROL_EXPORT int AcceptedResult(PjtOperation operation);
+ADVANCED_CONTROL_EXPORT int RefusedResult(PjtOperation operation);
 
 /// Whether the operation only reads.
-bool IsRead(PjtOperation operation);
+ADVANCED_CONTROL_EXPORT bool IsRead(PjtOperation operation);

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "AdvancedControlExport.h"
 #include "device/PjtOperation.h"
 
 /// One command to the projector.
@@ -23,7 +24,7 @@ struct PjtReply {
 
 /// The way to one projector: a real connection, a simulation, or a channel around a channel that
 /// logs, bounds or disturbs. Called from one thread at a time.
-class ProjectorChannel {
+class ADVANCED_CONTROL_EXPORT ProjectorChannel {
  public:
   virtual ~ProjectorChannel() = default;
 

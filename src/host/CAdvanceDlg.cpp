@@ -154,8 +154,25 @@ void CAdvanceDlg::CopyData2(std::string modelName, int modelCode, int dialogType
   CopyList(model_.WhisperList, whisperCount, whisperValues, whisperNames);
 }
 
-void CAdvanceDlg::CopyRangeTexts(std::array<std::string, kCopiedRangeTexts> rangeTexts) {
-  std::ranges::move(rangeTexts, model_.RangeTexts.begin());
+void CAdvanceDlg::CopyData3(std::string text0, std::string text1, std::string text2,
+                            std::string text3, std::string text4, std::string text5,
+                            std::string text6, std::string text7, std::string text8,
+                            std::string text9, std::string text10, std::string text11,
+                            std::string text12, std::string text13, std::string text14,
+                            std::string text15, std::string text16, std::string text17,
+                            std::string text18, std::string text19, std::string text20,
+                            std::string text21, std::string text22, std::string text23,
+                            std::string text24, std::string text25, std::string text26,
+                            std::string text27, std::string text28, std::string text29,
+                            std::string text30, std::string text31) {
+  std::string* const texts[] = {&text0,  &text1,  &text2,  &text3,  &text4,  &text5,  &text6,
+                                &text7,  &text8,  &text9,  &text10, &text11, &text12, &text13,
+                                &text14, &text15, &text16, &text17, &text18, &text19, &text20,
+                                &text21, &text22, &text23, &text24, &text25, &text26, &text27,
+                                &text28, &text29, &text30, &text31};
+  for (std::size_t i = 0; i < std::size(texts); ++i) {
+    model_.RangeTexts[i] = std::move(*texts[i]);
+  }
 }
 
 void CAdvanceDlg::CopyData(const CModelInfo2* model, int connection) {

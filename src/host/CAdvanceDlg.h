@@ -5,6 +5,7 @@
 #include <string>
 #include <utility>
 
+#include "AdvancedControlExport.h"
 #include "device/CModelInfo2.h"
 #include "device/CPjtInterface.h"
 #include "device/CProjectorItem.h"
@@ -24,7 +25,7 @@ class ResourceModule;
 /// channel to the projector, then `DoModal`, or `Create` and `show` for a dialog beside the host's
 /// other windows. The dialog keeps its own copy of all it is given and
 /// talks to the projector from the thread it lives on, the user-interface thread.
-class CAdvanceDlg : public CDialog, public ModelDataSource {
+class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSource {
   Q_OBJECT
 
  public:
@@ -50,14 +51,15 @@ class CAdvanceDlg : public CDialog, public ModelDataSource {
                  const char* gammaNames, int colorTempCount, const int* colorTempValues,
                  const char* colorTempNames);
 
-  static constexpr std::size_t kCopiedRangeTexts = 32;
-
-  /// Range texts 0..31, in order; the two tone ranges are not touched. Takes exactly 32 strings.
-  template <class... Texts>
-  void CopyData3(Texts&&... rangeTexts) {
-    static_assert(sizeof...(Texts) == kCopiedRangeTexts);
-    CopyRangeTexts({std::string(std::forward<Texts>(rangeTexts))...});
-  }
+  /// Range texts 0..31, in order; the two tone ranges are not touched.
+  void CopyData3(std::string text0, std::string text1, std::string text2, std::string text3,
+                 std::string text4, std::string text5, std::string text6, std::string text7,
+                 std::string text8, std::string text9, std::string text10, std::string text11,
+                 std::string text12, std::string text13, std::string text14, std::string text15,
+                 std::string text16, std::string text17, std::string text18, std::string text19,
+                 std::string text20, std::string text21, std::string text22, std::string text23,
+                 std::string text24, std::string text25, std::string text26, std::string text27,
+                 std::string text28, std::string text29, std::string text30, std::string text31);
 
   /// Everything from a model record, with connection entry `connection` (0..4; another index
   /// gives an empty connection). Null changes nothing.
@@ -100,7 +102,6 @@ class CAdvanceDlg : public CDialog, public ModelDataSource {
  private:
   struct Pages;
 
-  void CopyRangeTexts(std::array<std::string, kCopiedRangeTexts> rangeTexts);
   void CreatePages();
   void CreatePage(PageId id);
   void InsertTabs();

@@ -133,6 +133,10 @@ void ReleaseCatalog() { LoadedCatalog().reset(); }
 
 bool IsCatalogLoaded() { return LoadedCatalog().has_value(); }
 
+void GetCatalogText(int category, int number, int bufferSize, char* buffer) {
+  GetCatalogTextV(category, number, bufferSize, buffer, {});
+}
+
 void GetCatalogTextV(int category, int number, int bufferSize, char* buffer,
                      std::span<const CatalogInsert> inserts) {
   if (bufferSize <= 0 || !buffer) return;

@@ -6,6 +6,7 @@
 #include <span>
 #include <string>
 
+#include "AdvancedControlExport.h"
 #include "i18n/MessageFormat.h"
 
 // The process-wide message catalog. Called from the user-interface thread, and at load and unload
@@ -23,20 +24,20 @@ constexpr std::uint32_t MessageId(int category, int number) {
 /// The module is the first file of that name beside the library, beside the application, in
 /// "../share/advanced-control" from the library, in the installed data folder, or in the current
 /// directory; if that one is damaged, no other is tried. Returns 0, or -1 and no catalog is loaded.
-int LoadCatalog();
+ADVANCED_CONTROL_EXPORT int LoadCatalog();
 
 /// The same with `folders` to look in, in their order; an empty name is the current directory.
-int LoadCatalog(std::span<const std::string> folders);
+ADVANCED_CONTROL_EXPORT int LoadCatalog(std::span<const std::string> folders);
 
 /// Releases the loaded module, if any.
-void ReleaseCatalog();
+ADVANCED_CONTROL_EXPORT void ReleaseCatalog();
 
 /// Whether a module is loaded; without one every text is "No Message Catalog".
-bool IsCatalogLoaded();
+ADVANCED_CONTROL_EXPORT bool IsCatalogLoaded();
 
 /// `GetCatalogText` with the inserts in an array.
-void GetCatalogTextV(int category, int number, int bufferSize, char* buffer,
-                     std::span<const CatalogInsert> inserts);
+ADVANCED_CONTROL_EXPORT void GetCatalogTextV(int category, int number, int bufferSize, char* buffer,
+                                             std::span<const CatalogInsert> inserts);
 
 /// Writes a catalog text, UTF-8, without its closing line break, to `buffer`.
 ///
@@ -47,9 +48,10 @@ void GetCatalogTextV(int category, int number, int bufferSize, char* buffer,
 /// The text is that of the system language, else the one of language 1033; with a file "GETENG" or
 /// "GETSCH" in the current directory only the latter. The files and the environment are looked at
 /// anew in each call. Where no text is found or can be formatted the text is "No Message Catalog".
+ADVANCED_CONTROL_EXPORT void GetCatalogText(int category, int number, int bufferSize, char* buffer);
 template <class... Inserts>
-void GetCatalogText(int category, int number, int bufferSize, char* buffer,
-                    const Inserts&... inserts) {
+requires(sizeof...(Inserts) > 0) void GetCatalogText(int category, int number, int bufferSize,
+                                                     char* buffer, const Inserts&... inserts) {
   const std::array<CatalogInsert, sizeof...(Inserts)> list{CatalogInsert(inserts)...};
   GetCatalogTextV(category, number, bufferSize, buffer, list);
 }

@@ -2,6 +2,8 @@
 
 #include <cstdint>
 
+#include "AdvancedControlExport.h"
+
 /// Language identifiers that the catalog treats specially.
 inline constexpr std::uint32_t kEnglishUnitedStates = 1033;
 inline constexpr std::uint32_t kChineseSimplified = 2052;
@@ -12,4 +14,4 @@ inline constexpr std::uint32_t kChineseSimplified = 2052;
 /// and locales without an identifier are 1033.
 ///
 /// Follows changes of the environment. Called from the user-interface thread.
-std::uint32_t SystemLanguageId();
+ADVANCED_CONTROL_EXPORT std::uint32_t SystemLanguageId();

@@ -6,14 +6,11 @@ namespace {
 using namespace tmpl;
 using enum RowPlace;
 
-constexpr const char* kSurrounds[] = {"Off", "Mid", "High"};
-constexpr const char* kHdmiAudios[] = {"1", "2"};
-
 constexpr RowTemplate kRows[] = {
     SliderRow(Left, Label(20601, "1;Volume\t\t:"), 20621, {20345, 20347, 20346, 20355}),
     SliderRow(Left, Label(20602, "2;Treble\t\t:"), 20622, {20348, 20350, 20349, 20315}),
     SliderRow(Left, Label(20603, "3;Base\t\t:"), 20623, {20351, 20353, 20352, 20316}),
-    Row(Left, Label(20604, "4;SRS WOW\t:"), Colon(20624), Combo(20381, kSurrounds)),
+    Row(Left, Label(20604, "4;SRS WOW\t:"), Colon(20624), Combo(20381)),
     Row(Left, Label(20605, "5;Speaker\t\t:"), Colon(20625), Combo(20354)),
 
     Row(Right, Label(20606, "1006;Audio RGB1"), Colon(20626), Combo(20356)),
@@ -27,7 +24,7 @@ constexpr RowTemplate kRows[] = {
     Row(Right, Label(20614, "1011;Audio Component"), Colon(20634), Combo(20362)),
     Row(Right, Label(20615, "12;Audio MIU"), Colon(20635), Combo(20363)),
     Row(Right, Label(20616, "206;Audio Out Standby"), Colon(20636), Combo(20368)),
-    Row(Right, Label(20617, "184;HDMI Audio"), Colon(20637), Combo(20364, kHdmiAudios)),
+    Row(Right, Label(20617, "184;HDMI Audio"), Colon(20637), Combo(20364)),
 };
 
 }  // namespace

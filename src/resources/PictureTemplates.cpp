@@ -6,29 +6,20 @@ namespace {
 using namespace tmpl;
 using enum RowPlace;
 
-constexpr const char* kGammas[] = {"#1-Custom",  "#2-Custom",  "#3-Custom",  "#4-Custom",
-                                   "#5-Custom",  "#1-Default", "#2-Default", "#3-Default",
-                                   "#4-Default", "#5-Default"};
-constexpr const char* kIrises[] = {"Off", "Theater", "Presentation"};
-constexpr const char* kMemories[] = {"Load1", "Load2", "Load3", "Load4",
-                                     "Save1", "Save2", "Save3", "Save4"};
-constexpr const char* kResets[] = {"Brightness", "Contrast", "Color", "Tint", "Sharpness"};
-constexpr const char* kPatterns[] = {"Off", "9step Gray Scale", "15step Gray Scale", "Ramp"};
-
 constexpr RowTemplate kPictureRows[] = {
     SliderRow(Left, Label(20534, "73;Brightness\t:"), 20535, {20134, 20136, 20135, 20329}),
     SliderRow(Left, Label(20536, "74;Contrast\t:"), 20537, {20137, 20138, 20139, 20330}),
-    Row(Left, Label(20468, "41;Gamma\t\t:"), Colon(20476), Combo(20142, kGammas),
+    Row(Left, Label(20468, "41;Gamma\t\t:"), Colon(20476), Combo(20142),
         Button(20133, "120;Custom...")),
     Row(Left, Label(20593, "115;Color Temp\t:"), Colon(20594), Combo(20144),
         Button(20143, "120;Custom...")),
     SliderRow(Left, Label(20595, "116;Color\t\t:"), 20596, {20147, 20151, 20149, 20331}),
     SliderRow(Left, Label(20597, "117;Tint\t\t:"), 20598, {21061, 21062, 21063, 20332}),
     SliderRow(Left, Label(20599, "118;Sharpness\t:"), 20600, {20148, 20152, 20150, 20333}),
-    Row(Left, Label(20621, "128;Active Iris\t:"), Colon(20622), Combo(20293, kIrises)),
-    Row(Left, Label(20601, "119;My Memory\t:"), Colon(20602), Combo(21064, kMemories),
+    Row(Left, Label(20621, "128;Active Iris\t:"), Colon(20622), Combo(20293)),
+    Row(Left, Label(20601, "119;My Memory\t:"), Colon(20602), Combo(21064),
         Button(21065, "17;Execute")),
-    Row(Bottom, Label(20487, "51;Reset\t\t:"), Colon(20423), Combo(20157, kResets),
+    Row(Bottom, Label(20487, "51;Reset\t\t:"), Colon(20423), Combo(20157),
         Button(21070, "17;Execute")),
 };
 
@@ -39,7 +30,7 @@ constexpr RowTemplate CustomRow(const ControlTemplate& label, const SliderIds& i
 }
 
 constexpr RowTemplate kGammaRows[] = {
-    Row(Left, Label(20660, "1029;User Gamma Pattern"), Combo(20158, kPatterns)),
+    Row(Left, Label(20660, "1029;User Gamma Pattern"), Combo(20158)),
     CustomRow(Label(20661, "1030;User Gamma Point 1"), {20160, 20181, 20161, 20162}, 20336),
     CustomRow(Label(20662, "1031;User Gamma Point 2"), {20163, 21024, 20164, 20165}, 20337),
     CustomRow(Label(20663, "1032;User Gamma Point 3"), {20166, 21025, 20167, 20168}, 20338),
@@ -52,7 +43,7 @@ constexpr RowTemplate kGammaRows[] = {
 };
 
 constexpr RowTemplate kColorTempRows[] = {
-    Row(Left, Label(20660, "1029;User Gamma Pattern"), Combo(20158, kPatterns)),
+    Row(Left, Label(20660, "1029;User Gamma Pattern"), Combo(20158)),
     CustomRow(Label(20661, "1020;Color Temp Gain R"), {20182, 20181, 20188, 20194}, 20334),
     CustomRow(Label(20662, "1021;Color Temp Gain G"), {20183, 21024, 20189, 20195}, 20335),
     CustomRow(Label(20663, "1022;Color Temp Gain B"), {20184, 21025, 20190, 20196}, 20336),

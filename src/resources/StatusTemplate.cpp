@@ -6,8 +6,6 @@ namespace {
 using namespace tmpl;
 using enum RowPlace;
 
-constexpr const char* kResets[] = {"Lamp Time", "Filter Time"};
-
 constexpr RowTemplate kRows[] = {
     Row(Left, Label(20000, "145;Power Status   "), Colon(20642), Text(20008)),
     Row(Left, Label(20001, "146;Input Source   "), Colon(20643), Text(20009)),
@@ -17,7 +15,7 @@ constexpr RowTemplate kRows[] = {
     Row(Left, Label(20005, "150;Freeze         "), Colon(20647), Text(20013)),
     Row(Left, Label(20006, "151;Lamp Time      "), Colon(20648), Text(20014)),
     Row(Left, Label(20007, "152;Filter Time    "), Colon(20649), Text(20015)),
-    Row(Bottom, Label(20077, "51;Reset\t\t:"), Colon(20641), Combo(20019, kResets),
+    Row(Bottom, Label(20077, "51;Reset\t\t:"), Colon(20641), Combo(20019),
         Button(20018, "17;Execute")),
 };
 

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <span>
 
+#include "AdvancedControlExport.h"
+
 /// Every page class, in the order in which the dialog holds them.
 enum class PageId : std::uint8_t {
   Status,
@@ -50,7 +52,7 @@ struct PageTab {
 
 /// The pages that a page set creates after the status page, in order; none for a dialog type
 /// outside 1..5. Some get no tab on some models.
-std::span<const PageId> PagesOf(int dialogType);
+ADVANCED_CONTROL_EXPORT std::span<const PageId> PagesOf(int dialogType);
 
 /// The tabs that a model shows after the status tab, in order.
-std::span<const PageTab> TabsOf(int dialogType, int modelCode);
+ADVANCED_CONTROL_EXPORT std::span<const PageTab> TabsOf(int dialogType, int modelCode);

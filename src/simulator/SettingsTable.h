@@ -7,6 +7,7 @@
 #include <span>
 #include <string_view>
 
+#include "AdvancedControlExport.h"
 #include "device/PjtOperation.h"
 
 /// Every setting and state that a projector has, by what it is rather than by who reads it.
@@ -219,7 +220,7 @@ struct Setting {
 };
 
 /// Every setting; one with two forms has two rows, for different page sets.
-std::span<const Setting> SettingsTable();
+ADVANCED_CONTROL_EXPORT std::span<const Setting> SettingsTable();
 
 /// Command codes without a known meaning: each keeps what is written to it, 0 at first.
-std::span<const std::uint16_t> PlainCodes();
+ADVANCED_CONTROL_EXPORT std::span<const std::uint16_t> PlainCodes();

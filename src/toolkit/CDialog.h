@@ -6,6 +6,7 @@
 #include <QDialog>
 #include <QPointer>
 
+#include "AdvancedControlExport.h"
 #include "toolkit/CWnd.h"
 #include "toolkit/DialogTemplate.h"
 #include "toolkit/NotificationMap.h"
@@ -17,7 +18,7 @@ class QGridLayout;
 ///
 /// A handler may run an event loop: while a command waits, or for a message box or pop-up. Until it
 /// has returned the dialog must not be deleted; `deleteLater` waits for that by itself.
-class CDialog : public QDialog {
+class ADVANCED_CONTROL_EXPORT CDialog : public QDialog {
   Q_OBJECT
 
  public:

@@ -108,79 +108,68 @@ QWidget* MakeControl(const ControlTemplate& control, QWidget* parent) {
   return nullptr;
 }
 
+namespace {
+
+bool Has(const RowTemplate& row, ControlKind kind) {
+  return std::ranges::find(row.controls, kind, &ControlTemplate::kind) != row.controls.end();
+}
+
+/// Where a control of a row stands; no column for one that stands together with its neighbours.
+struct Place {
+  int column = -1;
+  int span = 1;
+  Qt::Alignment horizontal{};
+};
+
+Place PlaceOf(const RowTemplate& row, std::size_t index, std::size_t count) {
+  const bool hasSlider = Has(row, ControlKind::Slider);
+  switch (row.controls[index].kind) {
+    case ControlKind::Label:
+      return {RowColumn::Label};
+    case ControlKind::Colon:
+      return {RowColumn::Colon};
+    case ControlKind::Slider:
+      return {RowColumn::Slider};
+    case ControlKind::Minus:
+      return hasSlider ? Place{RowColumn::Minus} : Place{};
+    case ControlKind::Plus:
+      return hasSlider ? Place{RowColumn::Plus} : Place{};
+    case ControlKind::Combo:
+      return {RowColumn::Minus, 3};
+    case ControlKind::Field:
+      // The last field of a row stands in the column of all fields.
+      return hasSlider || index + 1 >= count ? Place{RowColumn::Field} : Place{};
+    case ControlKind::Button:
+      if (hasSlider) return {RowColumn::Button};
+      return Has(row, ControlKind::Combo) ? Place{RowColumn::Field, 2, Qt::AlignLeft} : Place{};
+    case ControlKind::Close:
+      return {RowColumn::Label, RowColumn::Count, Qt::AlignRight};
+    case ControlKind::Text:
+      // The captions of an arrow pad's parts have a column, so that its arrows are in line.
+      return Has(row, ControlKind::Arrow) ? Place{RowColumn::Minus} : Place{};
+    default:
+      return {};
+  }
+}
+
+}  // namespace
+
 void PlaceRow(const RowTemplate& row, const std::vector<QWidget*>& controls, QGridLayout* grid,
               int gridRow) {
-  const auto has = [&row](ControlKind kind) {
-    return std::ranges::find(row.controls, kind, &ControlTemplate::kind) != row.controls.end();
-  };
-  const bool hasSlider = has(ControlKind::Slider);
-  const bool hasArrows = has(ControlKind::Arrow);
-  bool afterCombo = false;
   std::vector<QWidget*> together;
   for (std::size_t i = 0; i < controls.size(); ++i) {
-    QWidget* widget = controls[i];
-    switch (row.controls[i].kind) {
-      case ControlKind::Label:
-        grid->addWidget(widget, gridRow, RowColumn::Label, Qt::AlignVCenter);
-        break;
-      case ControlKind::Colon:
-        grid->addWidget(widget, gridRow, RowColumn::Colon, Qt::AlignVCenter);
-        break;
-      case ControlKind::Slider:
-        grid->addWidget(widget, gridRow, RowColumn::Slider, Qt::AlignVCenter);
-        break;
-      case ControlKind::Minus:
-      case ControlKind::Plus:
-        if (hasSlider) {
-          const bool minus = row.controls[i].kind == ControlKind::Minus;
-          grid->addWidget(widget, gridRow, minus ? RowColumn::Minus : RowColumn::Plus,
-                          Qt::AlignVCenter);
-        } else {
-          together.push_back(widget);
-        }
-        break;
-      case ControlKind::Combo:
-        grid->addWidget(widget, gridRow, RowColumn::Minus, 1, 3, Qt::AlignVCenter);
-        afterCombo = true;
-        break;
-      case ControlKind::Field:
-        // The last field of a row stands in the column of all fields.
-        if (i + 1 >= controls.size() || hasSlider) {
-          grid->addWidget(widget, gridRow, RowColumn::Field, Qt::AlignVCenter);
-        } else {
-          together.push_back(widget);
-        }
-        break;
-      case ControlKind::Button:
-        if (hasSlider) {
-          grid->addWidget(widget, gridRow, RowColumn::Button, Qt::AlignVCenter);
-        } else if (afterCombo) {
-          grid->addWidget(widget, gridRow, RowColumn::Field, 1, 2,
-                          Qt::AlignVCenter | Qt::AlignLeft);
-        } else {
-          together.push_back(widget);
-        }
-        break;
-      case ControlKind::Close:
-        grid->addWidget(widget, gridRow, RowColumn::Label, 1, RowColumn::Count,
-                        Qt::AlignVCenter | Qt::AlignRight);
-        break;
-      case ControlKind::Text:
-        // The captions of an arrow pad's parts have a column, so that its arrows are in line.
-        if (hasArrows) {
-          grid->addWidget(widget, gridRow, RowColumn::Minus, Qt::AlignVCenter);
-        } else {
-          together.push_back(widget);
-        }
-        break;
-      default:
-        together.push_back(widget);
-        break;
+    const Place place = PlaceOf(row, i, controls.size());
+    if (place.column < 0) {
+      together.push_back(controls[i]);
+    } else {
+      grid->addWidget(controls[i], gridRow, place.column, 1, place.span,
+                      Qt::AlignVCenter | place.horizontal);
     }
   }
   if (together.empty()) return;
   const bool fieldColumnTaken =
       controls.size() > 1 && row.controls[controls.size() - 1].kind == ControlKind::Field;
-  PlaceTogether(together, grid, gridRow, hasArrows ? RowColumn::Slider : RowColumn::Minus,
+  PlaceTogether(together, grid, gridRow,
+                Has(row, ControlKind::Arrow) ? RowColumn::Slider : RowColumn::Minus,
                 fieldColumnTaken ? RowColumn::Field : RowColumn::Count);
 }

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "AdvancedControlExport.h"
 #include "pages/common/RowDialog.h"
 
 /// A page behind a tab.
-class CTabPage : public RowDialog {
+class ADVANCED_CONTROL_EXPORT CTabPage : public RowDialog {
   Q_OBJECT
 
  public:

@@ -3,6 +3,7 @@
 #include <optional>
 #include <vector>
 
+#include "AdvancedControlExport.h"
 #include "pages/common/SettingsDialog.h"
 #include "pages/common/ValueControls.h"
 #include "settings/Rows.h"
@@ -13,7 +14,7 @@ class CComboBox;
 /// that the model has, fills their lists, reads them, and does with a change what each row says.
 /// What fits no row is a handler of the class derived from it, which takes the place of the
 /// generated one.
-class RowDialog : public SettingsDialog {
+class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
   Q_OBJECT
 
  public:

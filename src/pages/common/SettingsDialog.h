@@ -1,5 +1,6 @@
 #pragma once
 
+#include "AdvancedControlExport.h"
 #include "device/CPjtInterface.h"
 #include "device/ModelData.h"
 #include "i18n/LocalizeControlTexts.h"
@@ -8,7 +9,7 @@
 
 /// What every page and pop-up needs: the projector, the model data, texts and error boxes.
 /// Nothing in here belongs to one page.
-class SettingsDialog : public CDialog {
+class ADVANCED_CONTROL_EXPORT SettingsDialog : public CDialog {
   Q_OBJECT
 
  public:

@@ -1,10 +1,11 @@
 #pragma once
 
+#include "AdvancedControlExport.h"
 #include "pages/common/CTabPage.h"
 
 /// Input settings of the newest page set: signal processing, formats and modes of the inputs, one
 /// list a row. A choice is sent at once and never read back before the next refresh.
-class CInputType5Dlg final : public CTabPage {
+class ADVANCED_CONTROL_EXPORT CInputType5Dlg final : public CTabPage {
   Q_OBJECT
 
  public:

@@ -2,11 +2,12 @@
 
 #include <vector>
 
+#include "AdvancedControlExport.h"
 #include "pages/common/CTabPage.h"
 
 /// Options of the newest page set: automatic functions, my buttons, my source, closed captions and
 /// the way to the service settings.
-class COption5TabDlg final : public CTabPage {
+class ADVANCED_CONTROL_EXPORT COption5TabDlg final : public CTabPage {
   Q_OBJECT
 
  public:

@@ -1,10 +1,11 @@
 #pragma once
 
+#include "AdvancedControlExport.h"
 #include "pages/common/RowDialog.h"
 
 /// The pop-up with the settings of installers: automatic adjustment, remote-control receivers and
 /// frequencies, focus lock. Each change applies at once; a refused one is silently undone.
-class CServiceDlg final : public RowDialog {
+class ADVANCED_CONTROL_EXPORT CServiceDlg final : public RowDialog {
   Q_OBJECT
 
  public:

@@ -1,10 +1,11 @@
 #pragma once
 
+#include "AdvancedControlExport.h"
 #include "pages/common/CTabPage.h"
 
 /// Picture settings of the newest page set: brightness, contrast, color, tint and sharpness; gamma
 /// and color temperature with their custom pop-ups; active iris; memories; resets.
-class CPictureTabType5Dlg final : public CTabPage {
+class ADVANCED_CONTROL_EXPORT CPictureTabType5Dlg final : public CTabPage {
   Q_OBJECT
 
  public:

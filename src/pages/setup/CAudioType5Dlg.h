@@ -3,11 +3,12 @@
 #include <array>
 #include <optional>
 
+#include "AdvancedControlExport.h"
 #include "pages/common/CTabPage.h"
 
 /// Sound settings of the newest page set: volume, treble, bass and surround of the source that
 /// plays now, the audio input of every source, speaker and standby. No refusal is told in words.
-class CAudioType5Dlg final : public CTabPage {
+class ADVANCED_CONTROL_EXPORT CAudioType5Dlg final : public CTabPage {
   Q_OBJECT
 
  public:

@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "AdvancedControlExport.h"
 #include "pages/common/CTabPage.h"
 
 class QLineEdit;
@@ -9,7 +10,7 @@ class QLineEdit;
 /// Installation settings of the newest page set: keystone, digital zoom and shift, whisper, mirror,
 /// volume, speaker and their resets on the left; audio routing, monitor out and standby on the
 /// right. A refusal mostly goes back to what the projector reports without a word.
-class CSetupType5TabDlg final : public CTabPage {
+class ADVANCED_CONTROL_EXPORT CSetupType5TabDlg final : public CTabPage {
   Q_OBJECT
 
  public:

@@ -1,0 +1,34 @@
+#!/usr/bin/env bash
+# A folder of src/ includes only what stands below it.
+set -euo pipefail
+cd "$(dirname "$0")/../src"
+
+declare -A below=(
+  [toolkit]=""
+  [device]=""
+  [simulator]="device"
+  [settings]="device"
+  [i18n]="toolkit"
+  [resources]="toolkit"
+  [pages]="toolkit device settings i18n resources"
+  [host]="toolkit device settings i18n resources pages"
+)
+
+wrong=0
+for folder in */; do
+  folder=${folder%/}
+  [ -n "${below[$folder]+known}" ] || { echo "src/$folder has no floor"; exit 1; }
+  allowed="$folder ${below[$folder]}"
+  while IFS=: read -r file line include; do
+    used=${include#*\"}
+    used=${used%%/*}
+    case " $allowed AdvancedControlExport.h\" " in
+      *" $used "*) ;;
+      *)
+        echo "src/$file:$line: ${include#*\#} is above $folder"
+        wrong=1
+        ;;
+    esac
+  done < <(grep -rn --include='*.h' --include='*.cpp' --include='*.def' '^#include "[^"]*' "$folder")
+done
+exit $wrong

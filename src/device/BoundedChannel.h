@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <memory>
+#include <utility>
 
 #include "AdvancedControlExport.h"
 #include "device/ProjectorChannel.h"
@@ -25,7 +26,8 @@ class ADVANCED_CONTROL_EXPORT BoundedChannel : public ProjectorChannel {
     std::chrono::milliseconds quickAnswer{5};    ///< Waited for before the event loop runs.
   };
 
-  explicit BoundedChannel(std::shared_ptr<ProjectorChannel> inner) : BoundedChannel(inner, {}) {}
+  explicit BoundedChannel(std::shared_ptr<ProjectorChannel> inner)
+      : BoundedChannel(std::move(inner), {}) {}
   BoundedChannel(std::shared_ptr<ProjectorChannel> inner, const Limits& limits);
   ~BoundedChannel() override;
   BoundedChannel(const BoundedChannel&) = delete;

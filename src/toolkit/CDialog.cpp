@@ -325,7 +325,7 @@ void CDialog::setVisible(bool visible) {
   if (isWindow()) {
     QDialog::setVisible(visible);
   } else {
-    QWidget::setVisible(visible);
+    QWidget::setVisible(visible);  // NOLINT(bugprone-parent-virtual-call)
   }
 }
 

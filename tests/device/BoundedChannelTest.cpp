@@ -74,19 +74,15 @@ TEST_F(BoundedChannelTest, ASilentProjectorCostsOneTimeOut) {
   gate_->Open(false);
   const auto start = Clock::now();
   const PjtReply reply = channel_.Execute(kCommand);
-  const auto waited = Clock::now() - start;
+  EXPECT_GE(Clock::now() - start, 150ms);
   EXPECT_FALSE(reply.answered);
   EXPECT_EQ(reply.result, 0);
-  EXPECT_GE(waited, 150ms);
-  EXPECT_LT(waited, 1s);
 
-  const auto again = Clock::now();
   EXPECT_FALSE(channel_.Execute(kCommand).answered);
   // The retry interval is over, the first command is still out.
   std::this_thread::sleep_for(350ms);
   EXPECT_FALSE(channel_.Execute(kCommand).answered);
-  EXPECT_LT(Clock::now() - again - 350ms, 100ms) << "these fail at once";
-  EXPECT_EQ(gate_->executed, 1);
+  EXPECT_EQ(gate_->executed, 1) << "these fail without being sent";
 
   gate_->Open(true);
   ASSERT_TRUE(Eventually([&] { return gate_->returned == 1; }));
@@ -126,21 +122,21 @@ TEST_F(BoundedChannelTest, WindowsGoOnPaintingWhileItWaits) {
     if (++ticks == 5) gate_->Open(true);
   });
   timer.start(10);
-  const auto start = Clock::now();
-  EXPECT_TRUE(channel_.Execute(kCommand).answered);
-  EXPECT_LT(Clock::now() - start, 145ms) << "an answer ends the wait";
+  BoundedChannel patient(gate_, {.timeOut = 1h});  // only an answer ends its wait
+  EXPECT_TRUE(patient.Execute(kCommand).answered);
   EXPECT_GE(ticks, 5);
   EXPECT_GT(window.paints, before + 1);
 }
 
 TEST_F(BoundedChannelTest, ACommandFromInsideTheWaitIsRefused) {
   gate_->Open(false);
+  BoundedChannel patient(gate_, {.timeOut = 1h});
   PjtReply inside{.result = 1};
   QTimer::singleShot(20, [&] {
-    inside = channel_.Execute(kCommand);
+    inside = patient.Execute(kCommand);
     gate_->Open(true);
   });
-  EXPECT_TRUE(channel_.Execute(kCommand).answered);
+  EXPECT_TRUE(patient.Execute(kCommand).answered);
   EXPECT_EQ(inside.result, 0);
   EXPECT_FALSE(inside.answered);
   EXPECT_EQ(gate_->executed, 1);
@@ -153,8 +149,9 @@ TEST_F(BoundedChannelTest, WaitsOnThreadsWithoutEventLoopToo) {
 
 TEST_F(BoundedChannelTest, QuittingTheApplicationDoesNotCutTheWaitShort) {
   gate_->Open(false);
+  BoundedChannel patient(gate_, {.timeOut = 1h});
   PjtReply reply{.answered = false};
-  QTimer::singleShot(0, [&] { reply = channel_.Execute(kCommand); });
+  QTimer::singleShot(0, [&] { reply = patient.Execute(kCommand); });
   QTimer::singleShot(20, [] { QCoreApplication::quit(); });
   std::thread opener([&] {
     std::this_thread::sleep_for(70ms);
@@ -169,9 +166,8 @@ TEST_F(BoundedChannelTest, DestructionWaitsForNobody) {
   gate_->Open(false);
   auto channel = std::make_unique<BoundedChannel>(gate_, BoundedChannel::Limits{.timeOut = 20ms});
   EXPECT_FALSE(channel->Execute(kCommand).answered);
-  const auto start = Clock::now();
   channel.reset();
-  EXPECT_LT(Clock::now() - start, 500ms);
+  EXPECT_EQ(gate_->returned, 0);
   gate_->Open(true);
   EXPECT_TRUE(Eventually([&] { return gate_->returned == 1 && gate_.use_count() == 2; }))
       << "the worker lets the inner channel go";
@@ -179,7 +175,7 @@ TEST_F(BoundedChannelTest, DestructionWaitsForNobody) {
 
 TEST_F(BoundedChannelTest, DestructionFromInsideTheWaitIsSafe) {
   gate_->Open(false);
-  auto channel = std::make_unique<BoundedChannel>(gate_, BoundedChannel::Limits{.timeOut = 500ms});
+  auto channel = std::make_unique<BoundedChannel>(gate_, BoundedChannel::Limits{.timeOut = 1h});
   QTimer::singleShot(10, [&] {
     channel.reset();
     gate_->Open(true);

@@ -1,7 +1,8 @@
-// Thousands of random user actions on the whole dialog of every model, with a projector that
-// refuses and fails at random; afterwards the dialog must show what the projector says.
+// Random user actions on the whole dialog of every model, with a projector that refuses and fails
+// at random; afterwards every control must show what the projector itself says. SOAK_SEED gives
+// another walk, SOAK_ACTIONS a longer one.
 
-#include <chrono>
+#include <algorithm>
 #include <cstdlib>
 #include <random>
 
@@ -16,17 +17,31 @@
 
 #include "device/LoggingChannel.h"
 #include "device/ModelDataIntake.h"
+#include "settings/PageTables.h"
 #include "simulator/FaultChannel.h"
 #include "simulator/SimulatedProjector.h"
 #include "tests/support/DialogDriver.h"
+#include "tests/support/Models.h"
 
 namespace {
 
-constexpr int kActionsPerModel = 6000;
-constexpr auto kTimePerModel = std::chrono::milliseconds(2500);
+constexpr int kActionsPerModel = 3000;
 
-CModelInfo2 SoakModel(int modelCode) {
-  CModelInfo2 model = MakeModel(5, modelCode);
+int Given(const char* variable, int otherwise) {
+  const char* given = std::getenv(variable);
+  return given != nullptr ? static_cast<int>(std::strtol(given, nullptr, 10)) : otherwise;
+}
+
+struct SoakModelCode {
+  int dialogType;
+  int modelCode;
+};
+void PrintTo(const SoakModelCode& model, std::ostream* stream) {
+  *stream << "type " << model.dialogType << " code " << model.modelCode;
+}
+
+CModelInfo2 SoakModel(const SoakModelCode& code) {
+  CModelInfo2 model = MakeModel(code.dialogType, code.modelCode);
   for (const int value : {16, 17, 32, 33}) AddEntry(model.GammaList, value, "gamma");
   for (const int value : {1, 2, 3, 17}) AddEntry(model.ColorTempList, value, "temperature");
   for (const char* name : {"Normal", "Whisper"}) {
@@ -131,88 +146,95 @@ class RandomUser {
   QTimer boxes_;  // a timer of its own: boxes come up while a pop-up is in use
 };
 
-// What a page shows: text, position and state of every control that follows the projector.
-std::vector<std::string> Shown(const CTabPage& page) {
-  std::set<int> passive;
-  for (const Notification& entry : page.Notifications().Entries()) {
-    if (entry.event == Notification::Event::Passive) passive.insert(entry.id);
+// What a control of a row shows, and what it has to show for the projector's value.
+void ExpectShows(const ListRow& row, int value, const CTabPage& page) {
+  const auto& list = page.Item<CComboBox>(row.control);
+  EXPECT_TRUE(list.isEnabled());
+  int position = list.findData(value);
+  if (position < 0 && row.rules.noEntry == NoEntry::IsPosition && value < list.count()) {
+    position = value;
   }
-  std::vector<std::string> shown;
-  for (const RowTemplate& row : page.Template()->rows) {
-    for (const ControlTemplate& control : row.controls) {
-      const QWidget* widget = page.GetDlgItem(control.id);
-      if (widget == nullptr || !widget->isVisible() || passive.contains(control.id)) continue;
-      std::string text = std::to_string(control.id) + (widget->isEnabled() ? " on" : " off");
-      if (const auto* slider = qobject_cast<const QSlider*>(widget)) {
-        text += ' ' + std::to_string(slider->value());
-      } else if (const auto* combo = qobject_cast<const QComboBox*>(widget)) {
-        text += ' ' + std::to_string(combo->currentIndex());
-      } else if (const auto* button = qobject_cast<const QAbstractButton*>(widget)) {
-        text += button->isChecked() ? " checked" : "";
-      } else if (const auto* field = qobject_cast<const QLineEdit*>(widget)) {
-        text += ' ' + field->text().toStdString();
-      } else if (const auto* label = qobject_cast<const QLabel*>(widget)) {
-        text += ' ' + label->text().toStdString();
-      }
-      shown.push_back(text);
-    }
+  if (position >= 0 || row.rules.noEntry == NoEntry::Clears) {
+    EXPECT_EQ(list.currentIndex(), position);
   }
-  return shown;
 }
 
-class SoakTest : public testing::TestWithParam<int> {};
+void ExpectShows(const ValueRow& row, int value, const CTabPage& page) {
+  EXPECT_EQ(page.Item<QLineEdit>(row.ids.field).text(), QString::number(value - row.bias));
+  if (row.ids.slider == 0) return;
+  const auto& slider = page.Item<QSlider>(row.ids.slider);
+  EXPECT_TRUE(slider.isEnabled());
+  EXPECT_EQ(slider.value(), std::clamp(value - row.bias, slider.minimum(), slider.maximum()));
+}
+
+void ExpectShows(const CheckRow& row, int value, const CTabPage& page) {
+  EXPECT_EQ(page.Item<QAbstractButton>(row.control).isChecked(), value != 0);
+}
+
+void ExpectShows(const auto&, int, const CTabPage&) {}
+
+void ExpectShowsProjector(const CTabPage& page, const PageTable& table, const ModelData& model,
+                          SimulatedProjector& projector) {
+  for (std::size_t i = 0; i < table.rows.size(); ++i) {
+    const PageRow& row = table.rows[i];
+    if (KeepsTemplate(table, model.ModelCode) || !Has(table, i, model.ModelCode)) continue;
+    const auto reading = ReadingOf(row, model);
+    if (!reading) continue;
+    SCOPED_TRACE(KeyOf(row));
+    const PjtReply reply = projector.Execute(reading->Command());
+    EXPECT_TRUE(IsSuccess(reading->operation, reply.result));
+    std::visit([&](const auto& kind) { ExpectShows(kind, reply.value, page); }, row);
+  }
+}
+
+class SoakTest : public testing::TestWithParam<SoakModelCode> {};
 
 TEST_P(SoakTest, EveryControlEndsUpShowingTheProjectorsValue) {
-  const char* given = std::getenv("SOAK_SEED");
-  const unsigned seed = given != nullptr ? static_cast<unsigned>(std::strtoul(given, nullptr, 10))
-                                         : std::random_device()();
-  SCOPED_TRACE("SOAK_SEED=" + std::to_string(seed));
-
-  const CModelInfo2 model = SoakModel(GetParam());
-  const auto projector = std::make_shared<SimulatedProjector>(DescribeModel(MakeModelData(model)));
+  const auto seed = static_cast<unsigned>(Given("SOAK_SEED", GetParam().modelCode));
+  const CModelInfo2 info = SoakModel(GetParam());
+  const ModelData model = MakeModelData(info);
+  const auto projector = std::make_shared<SimulatedProjector>(DescribeModel(model));
   const auto faults = std::make_shared<FaultChannel>(projector);
   int changes = 0;
-  const auto counted = std::make_shared<LoggingChannel>(
+  CAdvanceDlg dialog;
+  dialog.CopyData(&info, 0);
+  dialog.Projector().SetChannel(std::make_shared<LoggingChannel>(
       faults, [&changes](const PjtCommand& command, const PjtReply&, auto) {
         changes += !IsRead(command.operation);
-      });
-  const auto open = [&](CAdvanceDlg& dialog) {
-    dialog.CopyData(&model, 0);
-    dialog.Projector().SetChannel(counted);
-    ASSERT_TRUE(dialog.Create());
-    dialog.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&dialog));
-  };
-
-  CAdvanceDlg used;
-  open(used);
+      }));
+  ASSERT_TRUE(dialog.Create());
+  dialog.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&dialog));
   {
-    RandomUser user(used, *faults, seed);
-    const auto end = std::chrono::steady_clock::now() + kTimePerModel;
-    for (int i = 0; i < kActionsPerModel && std::chrono::steady_clock::now() < end; ++i) {
+    RandomUser user(dialog, *faults, seed);
+    const int actions = Given("SOAK_ACTIONS", kActionsPerModel);
+    for (int i = 0; i < actions; ++i) {
       user.Act();
-      ASSERT_TRUE(used.isVisible()) << "action " << i << " closed the dialog";
+      ASSERT_TRUE(dialog.isVisible()) << "action " << i << " closed the dialog";
     }
   }
-
   EXPECT_GT(changes, 100) << "the user reached hardly any control";
 
   faults->Clear();
-  CAdvanceDlg fresh;
-  open(fresh);
-  auto* usedTabs = used.findChild<QTabBar*>();
-  auto* freshTabs = fresh.findChild<QTabBar*>();
-  for (int tab = 0; tab < usedTabs->count(); ++tab) {
-    usedTabs->setCurrentIndex(tab);
-    freshTabs->setCurrentIndex(tab);
-    used.ShownPage()->InitDisp();
-    fresh.ShownPage()->InitDisp();
-    EXPECT_EQ(Shown(*used.ShownPage()), Shown(*fresh.ShownPage())) << "tab " << tab;
+  auto* tabs = dialog.findChild<QTabBar*>();
+  const auto pages = TabsOf(model.DialogType, model.ModelCode);
+  for (int tab = 0; tab < tabs->count(); ++tab) {
+    SCOPED_TRACE("tab " + std::to_string(tab));
+    tabs->setCurrentIndex(tab);
+    dialog.ShownPage()->InitDisp();
+    const PageId page = tab == 0 ? PageId::Status : pages[static_cast<std::size_t>(tab) - 1].page;
+    ExpectShowsProjector(*dialog.ShownPage(), TableOf(page), model, *projector);
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(EveryModel, SoakTest,
-                         testing::Values(30, 31, 32, 33, 36, 37, 38, 39, 40, 41, 42, 43, 44, 45, 46,
-                                         49, 50, 51, 52, 53, 54));
+std::vector<SoakModelCode> SoakModels() {
+  std::vector<SoakModelCode> models;
+  for (const auto& [dialogType, codes] : ListedModels()) {
+    for (const int code : codes) models.push_back({dialogType, code});
+  }
+  return models;
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryModel, SoakTest, testing::ValuesIn(SoakModels()));
 
 }  // namespace

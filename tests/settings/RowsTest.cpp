@@ -1,7 +1,6 @@
 // The rows of every model, used as a program without a window uses them, on the simulated
 // projector: it says for itself what a projector does, so rows and simulation check each other.
 
-#include <map>
 #include <set>
 #include <string>
 
@@ -9,6 +8,7 @@
 
 #include "settings/PageTables.h"
 #include "simulator/SimulatedProjector.h"
+#include "tests/support/Models.h"
 
 namespace {
 
@@ -37,18 +37,8 @@ ModelData Model(int dialogType, int modelCode) {
   return model;
 }
 
-// Every model code that some page of a page set treats apart, and one that none does.
-const std::map<int, std::vector<int>> kModels{
-    {1, {0, 1, 2, 3, 16, 17}},
-    {2, {0, 6, 7, 14, 15, 18, 19, 20}},
-    {3, {0, 4, 5, 8, 10, 47, 48, 71}},
-    {4, {0, 9, 11, 12, 13, 21, 22, 23, 24, 25, 26, 27, 28, 29}},
-    {5, {29, 30, 31, 32, 33, 34, 35, 36, 37, 38, 39, 40, 41, 42,
-         43, 44, 45, 46, 47, 48, 49, 50, 51, 52, 53, 54, 55}},
-};
-
 void ForEachModel(const auto& check) {
-  for (const auto& [dialogType, codes] : kModels) {
+  for (const auto& [dialogType, codes] : ListedModels()) {
     for (const int code : codes) {
       SCOPED_TRACE("type " + std::to_string(dialogType) + " code " + std::to_string(code));
       check(Model(dialogType, code));

@@ -9,7 +9,7 @@ packages=(
   libicu-dev
   binutils-mingw-w64-x86-64
   libgtest-dev libgmock-dev
-  clang-format
+  clang-format clang-tidy
   libbenchmark-dev
   gettext qt6-l10n-tools
   fonts-dejavu-core fonts-wqy-microhei

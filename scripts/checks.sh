@@ -1,0 +1,27 @@
+#!/usr/bin/env bash
+# The checks beside the tests: floors, release build without warnings, what the installed library
+# offers, benchmarks that run, clang-tidy, and the channels under the thread sanitizer.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+echo "Checking the floors"
+scripts/check-floors.sh
+
+echo "Building (build/check): optimised, without tests, warnings are errors"
+cmake --preset release -B build/check -DADVANCEDCONTROL_TESTS=OFF >/dev/null
+cmake --build build/check
+
+echo "Checking the installed library"
+cmake -DBUILD_DIR="$PWD/build/check" -DSOURCE_DIR="$PWD" -P scripts/CheckInstalled.cmake
+
+echo "Running the benchmarks for a moment"
+QT_QPA_PLATFORM=offscreen build/check/bin/advanced-control-bench --benchmark_min_time=0.01 \
+  --benchmark_filter='OpenDialog|RefreshPicture/ms:0' >/dev/null
+
+echo "clang-tidy"
+scripts/tidy.sh build/check
+
+echo "Building (build/tsan) and testing the channels under the thread sanitizer"
+cmake --preset tsan >/dev/null
+cmake --build --preset tsan --target device_tests
+QT_QPA_PLATFORM=offscreen build/tsan/bin/device_tests --gtest_brief=1

@@ -131,6 +131,14 @@ void CAudioType5Dlg::InitDisp() {
   CTabPage::InitDisp();
 }
 
+std::vector<PjtCommand> CAudioType5Dlg::Reads() const {
+  std::vector<PjtCommand> commands = CTabPage::Reads();
+  if (!Has(kTones[0].ids.slider)) return commands;
+  commands.insert(commands.begin(), {Get(CommandCode::RunningState).Command(),
+                                     Named(PjtOperation::GetInputSource).Command()});
+  return commands;
+}
+
 std::optional<int> CAudioType5Dlg::ActiveSource() const {
   const int state = Read(*projector, Get(CommandCode::RunningState)).value_or(kUnknown);
   const int input = Read(*projector, Named(PjtOperation::GetInputSource)).value_or(kUnknown);

@@ -18,6 +18,7 @@ class ADVANCED_CONTROL_EXPORT CAudioType5Dlg final : public CTabPage {
   explicit CAudioType5Dlg(CWnd* parent);
 
   void InitDisp() override;
+  std::vector<PjtCommand> Reads() const override;
 
   // What the user does with each control, by name.
   void OnCbnSelchangeAud5Spekcomb() { Act(20354); }

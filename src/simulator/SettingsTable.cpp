@@ -107,6 +107,11 @@ constexpr Setting Coded(Id id, std::string_view name, std::uint16_t code, Settin
           .operations = operations};
 }
 
+constexpr Setting Ranged(std::size_t rangeText, Setting setting) {
+  setting.rangeText = rangeText;
+  return setting;
+}
+
 constexpr Setting OneOf(Id id, std::string_view name, std::uint16_t code,
                         std::span<const int> values, Operations operations) {
   return {.id = id,
@@ -175,15 +180,15 @@ constexpr Setting kSettings[] = {
     Balance(Id::Sharpness, "Sharpness", CommandCode::Sharpness, {120, 136}, RangeIndex::Sharpness,
             {Write(Op::SetSharpness), Reset(Op::ExecSharpnessReset)}),
     Balance(Id::ColorBalanceR, "Color balance R", CommandCode::ColorBalR, {65, 191},
-            Setting::kNoRangeText, {Reset(Op::ExecColorBalRReset)}),
+            RangeIndex::ColorBalR, {Reset(Op::ExecColorBalRReset)}),
     Balance(Id::ColorBalanceG, "Color balance G", CommandCode::ColorBalG, {65, 191},
-            Setting::kNoRangeText, {Reset(Op::ExecColorBalGReset)}),
+            RangeIndex::ColorBalG, {Reset(Op::ExecColorBalGReset)}),
     Balance(Id::ColorBalanceB, "Color balance B", CommandCode::ColorBalB, {65, 191},
-            Setting::kNoRangeText, {Reset(Op::ExecColorBalBReset)}),
+            RangeIndex::ColorBalB, {Reset(Op::ExecColorBalBReset)}),
     InMemory(Coded(Id::Gamma, "Gamma", CommandCode::Gamma, {0, 255},
                    {Write(Op::SetGamma, ValueForm::Position)})),
     Balance(Id::CustomGamma, "Custom gamma", CommandCode::CustomGamma, {0, 255},
-            Setting::kNoRangeText, {}),
+            RangeIndex::CustomGamma, {}),
     GammaPoint(1, "User gamma point 1"),
     GammaPoint(2, "User gamma point 2"),
     GammaPoint(3, "User gamma point 3"),
@@ -208,13 +213,14 @@ constexpr Setting kSettings[] = {
     // Position and size.
     Coded(Id::Aspect, "Aspect", CommandCode::Aspect, {0, 255},
           {Write(Op::SetAspect, ValueForm::Position)}),
-    Coded(Id::OverScan, "Over scan", CommandCode::OverScan, {0, 255},
-          {Reset(Op::ExecOverScanReset)}, 5),
+    Ranged(RangeIndex::OverScan, Coded(Id::OverScan, "Over scan", CommandCode::OverScan, {0, 255},
+                                       {Reset(Op::ExecOverScanReset)}, 5)),
     Coded(Id::PositionV, "V position", CommandCode::PositionV, {0, 255},
           {Reset(Op::ExecVPosReset), Reset(Op::ExecAutoAdjust)}, 40),
     Coded(Id::PositionH, "H position", CommandCode::PositionH, {0, 999},
           {Reset(Op::ExecHPosReset), Reset(Op::ExecAutoAdjust)}, 220),
-    Coded(Id::PhaseH, "H phase", CommandCode::HPhase, {0, 248}, {Reset(Op::ExecAutoAdjust)}, 16),
+    Ranged(RangeIndex::HPhase, Coded(Id::PhaseH, "H phase", CommandCode::HPhase, {0, 248},
+                                     {Reset(Op::ExecAutoAdjust)}, 16)),
     Coded(Id::SizeH, "H size", CommandCode::HSize, {0, 4095},
           {Reset(Op::ExecHSizeReset), Reset(Op::ExecAutoAdjust)}, 1344),
 

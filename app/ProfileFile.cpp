@@ -60,6 +60,8 @@ constexpr NamedRange kNamedRanges[] = {
     {"color", RangeIndex::Color},
     {"tint", RangeIndex::Tint},
     {"customGamma", RangeIndex::CustomGamma},
+    {"osdBrightness", RangeIndex::OsdBrightness},
+    {"electricZoom", RangeIndex::ElectricZoom},
     {"treble", RangeIndex::Treble},
     {"bass", RangeIndex::Bass},
 };

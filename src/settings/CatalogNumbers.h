@@ -70,6 +70,7 @@ inline constexpr int HPosition = 300;
 inline constexpr int HSize = 301;
 inline constexpr int OverScan = 302;
 inline constexpr int Picture22OverScan = 363;
+inline constexpr int ElectricZoom = 4100;
 inline constexpr int KeystoneV = 334;
 inline constexpr int KeystoneH = 335;
 inline constexpr int DZoom = 414;

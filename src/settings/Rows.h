@@ -88,6 +88,7 @@ struct ValueRow {
   std::optional<int> initial{};  ///< Taken for the last value known until there is one.
   RefusedDrag refusedDrag = RefusedDrag::Told;
   int error = 0;
+  bool greysField = false;  ///< A failed read takes the field out of use as well.
   Presence on{};
 
   constexpr Call Reading() const { return read.value_or(Get(code)); }

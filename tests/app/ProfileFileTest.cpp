@@ -111,7 +111,7 @@ TEST(ProfileFile, EntryGoesOverItsFamilies) {
                "ranges": {"brightness": [90, 160], "contrast": [80, 170], "tint": [1, 2]},
                "lacks": ["Active iris"]},
       "derived": {"like": "base", "gamma": [{"value": 16, "name": "Warm"}],
-                  "ranges": {"contrast": [-5, 5], "31": [3, 4]}}
+                  "ranges": {"contrast": [-5, 5], "22": [3, 4]}}
     },
     "projectors": [
       {"name": "A", "model": "M", "like": "derived", "modelCode": 30,
@@ -138,7 +138,7 @@ TEST(ProfileFile, EntryGoesOverItsFamilies) {
   EXPECT_EQ(a.RangeText(RangeIndex::Brightness), "90,160");
   EXPECT_EQ(a.RangeText(RangeIndex::Contrast), "-5,5");
   EXPECT_EQ(a.RangeText(RangeIndex::Tint), "");
-  EXPECT_EQ(a.RangeText(31), "3,4");
+  EXPECT_EQ(a.RangeText(22), "3,4");
   EXPECT_EQ(a.ConnectionKinds[0], 1);
   EXPECT_EQ(ConnectionText(a), "192.0.2.1:23");
   EXPECT_EQ(contents.projectors[0].Lacks, std::vector{SettingId::ActiveIris});

@@ -249,7 +249,9 @@ void RowDialog::Select(const ListRow& row, int value) {
 }
 
 void RowDialog::Refresh(const ValueRow& row, Bound& bound) {
-  if (const auto value = Read(*projector, row.Reading())) {
+  const auto value = Read(*projector, row.Reading());
+  if (row.greysField) bound.value.EnableField(value.has_value());
+  if (value) {
     bound.value.Enable();
     bound.value.current = static_cast<std::int16_t>(*value - row.bias);
     bound.value.Show(bound.value.current);

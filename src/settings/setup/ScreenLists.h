@@ -1,0 +1,31 @@
+#pragma once
+
+#include "device/CommandCode.h"
+#include "settings/CatalogNumbers.h"
+#include "settings/Rows.h"
+
+// What the screen pages have in common.
+
+inline constexpr auto kScreenSwitch = Numbered(ListText::SwitchOff, ListText::SwitchOn);
+inline constexpr ListEntry kBlanks[] = {{ListText::BlankBlue, 3},
+                                        {ListText::BlankWhite, 5},
+                                        {ListText::BlankBlack, 6},
+                                        {ListText::BlankMyScreen, 32},
+                                        {ListText::BlankOriginal, 64}};
+inline constexpr ListEntry kStartups[] = {
+    {ListText::BlankOriginal, 0}, {ListText::Off, 1}, {ListText::BlankMyScreen, 32}};
+
+// A value that these lists do not have leaves the selection.
+inline constexpr ListRules kBlankRules{.noEntry = NoEntry::Keeps};
+// The projector takes the position, though it reports 32 for the third entry.
+inline constexpr ListRules kStartupRules{.sendsPosition = true, .noEntry = NoEntry::Keeps};
+
+/// One direction of the menu's position. Nothing on our side bounds it.
+constexpr ValueRow MenuPosition(std::string_view key, const ValueIds& ids, std::uint16_t code) {
+  return {.key = key,
+          .caption = 132,
+          .ids = ids,
+          .code = code,
+          .error = ErrorText::MenuPositionRefused,
+          .greysField = true};
+}

@@ -16,6 +16,7 @@
 #include "device/ModelDataIntake.h"
 #include "i18n/LocalizeControlTexts.h"
 #include "pages/TablePages.h"
+#include "pages/input/CInputTabDlg.h"
 #include "pages/input/CInputType5Dlg.h"
 #include "pages/input/COption5TabDlg.h"
 #include "pages/picture/CPictureTabType5Dlg.h"

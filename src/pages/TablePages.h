@@ -12,7 +12,6 @@ using CPicture1TabDlg = TablePage<TemplateId::Picture1, kPicture1Rows>;
 using CPicture12TabDlg = TablePage<TemplateId::Picture12, kPicture12Rows>;
 using CPicture2TabDlg = TablePage<TemplateId::Picture2, kPicture2Rows>;
 using CPicture22TabDlg = TablePage<TemplateId::Picture22, kPicture22Rows>;
-using CInputTabDlg = TablePage<TemplateId::Input, kInputRows>;
 using CInput2TabDlg = TablePage<TemplateId::Input2, kInput2Rows>;
 using CAutoTabDlg = TablePage<TemplateId::Auto, kAutoRows>;
 using CAuto2TabDlg = TablePage<TemplateId::Auto2, kAuto2Rows>;

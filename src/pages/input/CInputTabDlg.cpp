@@ -1,0 +1,24 @@
+#include "pages/input/CInputTabDlg.h"
+
+#include "resources/AdvancedControlResources.h"
+#include "settings/PageTables.h"
+#include "toolkit/CComboBox.h"
+
+namespace {
+
+constexpr int kPowerUpInput = 21057;
+constexpr int kHighestInput = 5;
+
+}  // namespace
+
+CInputTabDlg::CInputTabDlg(CWnd* parent) : CTabPage(TemplateId::Input, kInputRows, parent) {}
+
+std::vector<Notification> CInputTabDlg::OwnNotifications() const {
+  return {SelChange(kPowerUpInput, &CInputTabDlg::OnSelchangePowerUpInput)};
+}
+
+// The first entry, the last input, is no source of the list and always sent.
+void CInputTabDlg::OnSelchangePowerUpInput() {
+  const CComboBox& list = List(kPowerUpInput);
+  if (list.currentIndex() == 0 || list.SelectedValue() <= kHighestInput) Act(kPowerUpInput);
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "device/CommandCode.h"
+#include "settings/CatalogNumbers.h"
+#include "settings/Rows.h"
+
+// What the older input pages have in common.
+
+inline constexpr auto kInputSwitch = Numbered(ListText::SwitchOff, ListText::SwitchOn);
+inline constexpr auto kLegacyColorSpaces =
+    Numbered(ListText::Auto, "RGB", "SMPTE240", "REC709", "REC601");
+inline constexpr auto kLegacyComponents = Numbered("Component", "Scart RGB");
+inline constexpr ListEntry kLegacyVideoFormats[] = {
+    {ListText::Auto, 10}, {"NTSC", 4},  {"PAL", 5},  {"SECAM", 9},
+    {"NTSC 4.43", 2},     {"M-PAL", 8}, {"N-PAL", 7}};
+inline constexpr auto kHdtvs = Numbered("1080i", "1035i");
+inline constexpr auto kLegacyYcs =
+    Numbered(ListText::Off, ListText::LegacyYcsNormal, ListText::LegacyYcsStillImage);
+inline constexpr auto kLegacyNoiseReductions =
+    Numbered<1>(ListText::NoiseReductionLow, ListText::LegacyNoiseReductionMiddle,
+                ListText::NoiseReductionHigh);
+inline constexpr auto kLegacyProgressive =
+    Numbered(ListText::Off, ListText::LegacyProgressiveTv, ListText::LegacyProgressiveFilm);
+inline constexpr auto kPinPPositions =
+    Numbered(ListText::PinPUpperLeft, ListText::PinPUpperRight, ListText::PinPBottomLeft,
+             ListText::PinPBottomRight);
+
+// The projector interface takes positions, also of lists whose values are mapped when they are
+// read, and maps them back.
+inline constexpr ListRules kSendsPosition{.sendsPosition = true};
+// A format that the list does not have is the position itself.
+inline constexpr ListRules kFormatRules{.sendsPosition = true, .noEntry = NoEntry::IsPosition};
+
+constexpr ListRow VideoFormatRow(int control) {
+  return {"input.video-format",
+          1173,
+          control,
+          kLegacyVideoFormats,
+          Get(CommandCode::VideoFormat),
+          Named(PjtOperation::SetVideoFormat),
+          kFormatRules};
+}

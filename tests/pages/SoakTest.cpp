@@ -40,20 +40,6 @@ void PrintTo(const SoakModelCode& model, std::ostream* stream) {
   *stream << "type " << model.dialogType << " code " << model.modelCode;
 }
 
-CModelInfo2 SoakModel(const SoakModelCode& code) {
-  CModelInfo2 model = MakeModel(code.dialogType, code.modelCode);
-  for (const int value : {16, 17, 32, 33}) AddEntry(model.GammaList, value, "gamma");
-  for (const int value : {1, 2, 3, 17}) AddEntry(model.ColorTempList, value, "temperature");
-  for (const char* name : {"Normal", "Whisper"}) {
-    AddEntry(model.WhisperList, model.WhisperList.count, name);
-  }
-  for (const int value : {0, 4, 3, 16, 17, 255}) AddEntry(model.MyButtonList, value, "button");
-  for (const char* name : {"Computer1", "Computer2", "Component", "S-Video", "Video"}) {
-    AddSource(model.MySourceList, model.MySourceList.count, name);
-  }
-  return model;
-}
-
 class RandomUser {
  public:
   RandomUser(CAdvanceDlg& dialog, FaultChannel& faults, unsigned seed)
@@ -191,7 +177,7 @@ class SoakTest : public testing::TestWithParam<SoakModelCode> {};
 
 TEST_P(SoakTest, EveryControlEndsUpShowingTheProjectorsValue) {
   const auto seed = static_cast<unsigned>(Given("SOAK_SEED", GetParam().modelCode));
-  const CModelInfo2 info = SoakModel(GetParam());
+  const CModelInfo2 info = FullModel(GetParam().dialogType, GetParam().modelCode);
   const ModelData model = MakeModelData(info);
   const auto projector = std::make_shared<SimulatedProjector>(DescribeModel(model));
   const auto faults = std::make_shared<FaultChannel>(projector);

@@ -17,29 +17,16 @@
 #include "pages/picture/CColorDlg.h"
 #include "pages/picture/CGammaDlg.h"
 #include "tests/support/DialogDriver.h"
+#include "tests/support/Models.h"
 #include "toolkit/WindowText.h"
 
 namespace {
 
-CModelInfo2 FullModel(int dialogType, int modelCode) {
-  CModelInfo2 model = MakeModel(dialogType, modelCode);
-  for (const int value : {16, 17, 32, 33}) AddEntry(model.GammaList, value, "gamma");
-  for (const int value : {1, 2, 3, 17}) AddEntry(model.ColorTempList, value, "temperature");
-  for (const char* name : {"Normal", "Whisper", "Bright"}) {
-    AddEntry(model.WhisperList, model.WhisperList.count, name);
-  }
-  for (const int value : {0, 4, 3, 16, 17, 18, 25}) AddEntry(model.MyButtonList, value, "button");
-  for (const char* name : {"Computer1", "Computer2", "Component", "S-Video", "Video"}) {
-    AddSource(model.MySourceList, model.MySourceList.count, name);
-  }
-  return model;
-}
-
-// Every dialog type, and of type 5 every model that has rows of its own.
 std::vector<CModelInfo2> SweepModels() {
   std::vector<CModelInfo2> models;
-  for (const int type : {1, 2, 3, 4}) models.push_back(FullModel(type, 9));
-  for (int code = 29; code <= 55; ++code) models.push_back(FullModel(5, code));
+  for (const auto& [dialogType, codes] : ListedModels()) {
+    for (const int code : codes) models.push_back(FullModel(dialogType, code));
+  }
   return models;
 }
 

@@ -36,6 +36,23 @@ void AddSource(SourceList& list, int value, const char* name) {
   list.names[index] = MakeNameSlot(name);
 }
 
+CModelInfo2 FullModel(int dialogType, int modelCode) {
+  CModelInfo2 model = MakeModel(dialogType, modelCode);
+  for (const int value : {16, 17, 32, 33}) AddEntry(model.GammaList, value, "gamma");
+  for (const int value : {1, 2, 3, 17}) AddEntry(model.ColorTempList, value, "temperature");
+  for (const int value : {0, 1, 8, 9}) AddEntry(model.AspectList, value, "aspect");
+  for (const char* name : {"Normal", "Whisper", "Bright"}) {
+    AddEntry(model.WhisperList, model.WhisperList.count, name);
+  }
+  for (const int value : {0, 4, 3, 16, 17, 18, 25, 255})
+    AddEntry(model.MyButtonList, value, "button");
+  AddSource(model.MySourceList, 0, "Computer1");
+  AddSource(model.MySourceList, 4, "Computer2");
+  AddSource(model.MySourceList, 6, "MIU");
+  AddSource(model.MySourceList, 1, "Video");
+  return model;
+}
+
 void DialogDriver::Click(int id) const {
   auto& button = Item<QAbstractButton>(id);
   ASSERT_TRUE(button.isVisible()) << "button " << id << " cannot be clicked: it is not there";

@@ -18,6 +18,8 @@
 
 /// A model record with the essentials filled.
 CModelInfo2 MakeModel(int dialogType, int modelCode);
+/// The same with every list filled.
+CModelInfo2 FullModel(int dialogType, int modelCode);
 void AddEntry(CountedList& list, int value, const char* name);
 void AddSource(SourceList& list, int value, const char* name);
 

@@ -69,6 +69,7 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
 
   void DrawArrows();
   void ShowPresentRows();
+  void ExplainEmptyPage();
   void UseTemplateLists();
   void FillList(int control, const Entries& entries);
 

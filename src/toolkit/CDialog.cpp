@@ -167,6 +167,7 @@ void CDialog::ShowRow(int id, bool present) {
 
 void CDialog::ShowNotice(const QString& text) {
   auto* notice = new QLabel(text, this);
+  notice->setMinimumHeight(FromDialogUnits(0, template_->rulerHeight).height());  // a row's place
   controls_[kNoticeId] = notice;
   auto* left = static_cast<QGridLayout*>(layout()->itemAt(0)->layout());
   left->addWidget(notice, 0, 0, 1, RowColumn::Count, Qt::AlignTop | Qt::AlignLeft);

@@ -101,6 +101,7 @@ void RowDialog::DoDataExchange() {
 bool RowDialog::OnInitDialog() {
   LocalizeControlTexts(kCaptionCategory, *this);
   PrepareRows();
+  ExplainEmptyPage();
   return true;
 }
 
@@ -158,11 +159,11 @@ void RowDialog::ShowPresentRows() {
     control->setSizePolicy(keepsItsPlace);
     control->hide();
   }
-  ExplainEmptyPage();
 }
 
 // A model without the settings that a page is for would see a page that looks broken.
 void RowDialog::ExplainEmptyPage() {
+  if (KeepsTemplate(table_, Model().ModelCode)) return;
   for (std::size_t i = 0; i < bound_.size(); ++i) {
     const bool isReset = std::holds_alternative<ResetRow>(table_.rows[i]);  // resets other rows
     if (bound_[i].present && !isReset) return;

@@ -2,9 +2,7 @@
 
 #include <string_view>
 
-#include "device/CommandCode.h"
-#include "settings/CatalogNumbers.h"
-#include "settings/Rows.h"
+#include "settings/LegacyRows.h"
 
 /// Rows that several main, automatic, option and other pages have: a setting is read, sent and told
 /// in one way, and a page gives it its key and its controls.
@@ -29,56 +27,25 @@ inline constexpr auto kLanguages = [] {
 inline constexpr ListRules kReadBack{.refused = Refused::ReadsBack};
 inline constexpr ListRules kSilent{.readsBackAlways = true};
 
-/// Brightness, contrast and keystone, around their zero point.
-constexpr ValueRow Balance(std::string_view key, int caption, const ValueIds& ids,
-                           std::uint16_t code, Range range, int ticks, int error) {
-  return {.key = key,
-          .caption = caption,
-          .ids = ids,
-          .code = code,
-          .bias = CommandCode::kZeroPoint,
-          .range = range,
-          .ticks = ticks,
-          .error = error};
-}
-
 constexpr ValueRow Brightness(std::string_view key, const ValueIds& ids) {
-  ValueRow row =
-      Balance(key, 73, ids, CommandCode::Brightness, {-32, 32}, 4, ErrorText::BrightnessRefused);
-  row.rangeText = RangeIndex::Brightness;
-  return row;
+  return CentredSlider(key, 73, ids, CommandCode::Brightness, ErrorText::BrightnessRefused,
+                       RangeIndex::Brightness);
 }
-
 constexpr ValueRow Contrast(std::string_view key, const ValueIds& ids) {
-  ValueRow row =
-      Balance(key, 74, ids, CommandCode::Contrast, {-32, 32}, 4, ErrorText::ContrastRefused);
-  row.rangeText = RangeIndex::Contrast;
-  return row;
+  return CentredSlider(key, 74, ids, CommandCode::Contrast, ErrorText::ContrastRefused,
+                       RangeIndex::Contrast);
 }
-
 constexpr ValueRow Volume(std::string_view key, const ValueIds& ids) {
-  return {.key = key,
-          .caption = 1,
-          .ids = ids,
-          .code = CommandCode::Volume,
-          .rangeText = RangeIndex::Volume,
-          .range = Range{0, 32},
-          .ticks = 4,
-          .error = ErrorText::VolumeRefused};
+  return PlainSlider(key, 1, ids, CommandCode::Volume, ErrorText::VolumeRefused, RangeIndex::Volume,
+                     {0, 32}, 4);
 }
-
 /// Minutes; 0 is off.
 constexpr ValueRow AutoOff(std::string_view key, const ValueIds& ids) {
-  return {.key = key,
-          .caption = 4210,
-          .ids = ids,
-          .code = CommandCode::AutoPowerOff,
-          .down = Named(Op::DecrementAutoPowerOff),
-          .up = Named(Op::IncrementAutoPowerOff),
-          .rangeText = RangeIndex::AutoOff,
-          .range = Range{0, 99},
-          .ticks = 5,
-          .error = ErrorText::AutoOffRefused};
+  ValueRow row = PlainSlider(key, 4210, ids, CommandCode::AutoPowerOff, ErrorText::AutoOffRefused,
+                             RangeIndex::AutoOff, {0, 99}, 5);
+  row.down = Named(Op::DecrementAutoPowerOff);
+  row.up = Named(Op::IncrementAutoPowerOff);
+  return row;
 }
 
 // clang-format off

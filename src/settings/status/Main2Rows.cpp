@@ -17,7 +17,8 @@ constexpr PageRow kRows[] = {
     shared::Contrast("main.contrast", {20104, 20105, 20106, 20107}),
     shared::Aspect("main.aspect", 20108),
     ListRow{"main.gamma", 41, 20109, GammaEntries, Get(CommandCode::Gamma), Set(CommandCode::Gamma), {.refused = Refused::ReadsBack, .emptyIsNotRead = true}},
-    shared::Balance("main.keystone", 77, {20114, 20115, 20116, 20117}, CommandCode::Keystone, {-128, 127}, 16, ErrorText::KeystoneRefused),
+    ValueRow{.key = "main.keystone", .caption = 77, .ids = {20114, 20115, 20116, 20117}, .code = CommandCode::Keystone, .bias = CommandCode::kZeroPoint,
+             .range = Range{-128, 127}, .ticks = 16, .error = ErrorText::KeystoneRefused},
     shared::Mirror("main.mirror", 20110),
     ResetRow{"main.reset", 20111, 20112, kResets, Rereads::Always},
 };

@@ -2,10 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "device/ModelDataIntake.h"
 #include "settings/CatalogNumbers.h"
-#include "settings/PageTables.h"
-#include "simulator/SimulatedProjector.h"
 #include "tests/support/RowCases.h"
 
 namespace {
@@ -156,24 +153,6 @@ TEST(OtherPages, AListIsOutOfUseWhileWhatASilentSetterDidIsUnknown) {
   open.Projector().Refuse("Get 0x2002");
   open.Driver().Choose(20105, 1);
   EXPECT_FALSE(open.Driver().IsEnabled(20105));
-}
-
-TEST(OtherPages, TheSimulationKeepsWhatThePagesSend) {
-  for (const PageCase& page : kPages) {
-    const ModelData model = MakeModelData(Model(page.dialogType, page.modelCode));
-    CPjtInterface projector;
-    projector.SetChannel(std::make_shared<SimulatedProjector>(DescribeModel(model)));
-    const PageTab tab = TabsOf(page.dialogType, page.modelCode)[std::size_t(page.tab) - 1];
-    for (const PageRow& row : TableOf(tab.page).rows) {
-      const auto* list = std::get_if<ListRow>(&row);
-      const auto entries = list != nullptr ? list->entries.Of(model) : std::vector<ListEntry>{};
-      for (int i = 0; i < std::ssize(entries); ++i) {
-        const int value = entries[std::size_t(i)].value;
-        Perform(projector, *list->send, list->rules.sendsPosition ? i : value);
-        EXPECT_EQ(Read(projector, *list->read), value) << page.page << " " << list->key;
-      }
-    }
-  }
 }
 
 constexpr int kOn = 20100, kOff = 20101, kState = 20102;

@@ -224,6 +224,18 @@ inline constexpr int ErrorOther = 3318;
 inline constexpr int ErrorStatus12 = 413;
 inline constexpr int Freeze = 3333;
 inline constexpr int FreezeNormal = 3336;
+
+// Main, option and other pages of the older page sets.
+inline constexpr int NoSettings = 4200;  // a sentence on a page without rows
+inline constexpr int LensStandard = 4201;
+inline constexpr int LensShortThrow = 4202;
+inline constexpr int LensLongThrow = 4203;
+inline constexpr int PositionCenter = 4204;
+inline constexpr int PositionTop = 4205;
+inline constexpr int PositionBottom = 4206;
+inline constexpr int MenuColorGray = 4207;
+inline constexpr int MenuColorGreen = 4208;
+inline constexpr int AllRemoteIds = 4209;
 }  // namespace ListText
 
 namespace ErrorText {
@@ -278,6 +290,13 @@ inline constexpr int PbyPMainAreaRefused = 340;
 inline constexpr int PbyPStartAreaRefused = 341;
 inline constexpr int PbyPMainSourceRefused = 342;
 
+// Other and automatic pages.
+inline constexpr int InputSourceRefused = 4200;
+inline constexpr int PowerRefused = 4201;
+inline constexpr int AutoAdjustRefused = 4203;
+inline constexpr int AutoOffRefused = 4204;
+
 // Questions.
 inline constexpr int StandbySavingQuestion = 1002;
+inline constexpr int PowerOffQuestion = 4202;
 }  // namespace ErrorText

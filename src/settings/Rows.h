@@ -40,6 +40,9 @@ struct ListRules {
   bool failedReadDisables = true;
   bool emptyIsNotRead = false;  ///< A list without entries is disabled without asking.
   bool tellsText = false;       ///< The connection gets the chosen entry's text before the setting.
+  /// After every choice the setting is read as in a refresh: the setter has no result, so nothing
+  /// else tells what the projector made of it.
+  bool readsBackAlways = false;
 };
 
 /// A setting with a list of values.
@@ -123,6 +126,7 @@ struct ActionRow {
   int list = 0;  ///< List whose position the call takes; 0 for none.
   Entries entries{};
   Presence on{};
+  int error = 0;  ///< Text that tells a refusal; 0 for none.
 };
 
 /// One of the resets of a page.

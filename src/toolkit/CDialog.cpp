@@ -165,6 +165,14 @@ void CDialog::ShowRow(int id, bool present) {
   if (row->grid != nullptr) row->grid->setRowMinimumHeight(row->gridRow, present ? pitch_ : 0);
 }
 
+void CDialog::ShowNotice(const QString& text) {
+  auto* notice = new QLabel(text, this);
+  notice->setMinimumHeight(FromDialogUnits(0, template_->rulerHeight).height());  // a row's place
+  controls_[kNoticeId] = notice;
+  auto* left = static_cast<QGridLayout*>(layout()->itemAt(0)->layout());
+  left->addWidget(notice, 0, 0, 1, RowColumn::Count, Qt::AlignTop | Qt::AlignLeft);
+}
+
 QSize CDialog::FromDialogUnits(int width, int height) const {
   // Shaping the alphabet costs more than making several controls: once a font will do.
   static QString measuredFont;

@@ -39,6 +39,9 @@ class ADVANCED_CONTROL_EXPORT CDialog : public QDialog {
   /// The parent, or the window that a running dialog without a parent belongs to; may be null.
   QWidget* Owner() const { return parentWidget() != nullptr ? parentWidget() : owner_.data(); }
 
+  /// Number of the sentence that `ShowNotice` shows.
+  static constexpr int kNoticeId = -1;
+
   int TemplateNumber() const { return templateNumber_; }
   /// The template the controls were built from; null before `Create`.
   const DialogTemplate* Template() const { return template_; }
@@ -77,6 +80,9 @@ class ADVANCED_CONTROL_EXPORT CDialog : public QDialog {
   /// Runs `OnDestroy` if the dialog is created and it has not run yet. A class that overrides
   /// `OnDestroy` calls this in its destructor.
   void Destroy();
+
+  /// Shows a sentence at the top of a dialog whose upper rows are all absent.
+  void ShowNotice(const QString& text);
 
   /// Lays the present rows out afresh; needed after texts or presence changed outside `Create`.
   void UpdateRows();

@@ -4,6 +4,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSlider>
@@ -11,6 +12,7 @@
 #include <QTabBar>
 #include <gtest/gtest.h>
 
+#include "app/ProfileFile.h"
 #include "i18n/Catalog.h"
 #include "pages/common/CTabPage.h"
 #include "pages/input/CServiceDlg.h"
@@ -30,8 +32,10 @@ std::vector<CModelInfo2> SweepModels() {
   return models;
 }
 
-void ForEachPage(const std::function<void(OpenDialog&, CTabPage&)>& check) {
-  for (const CModelInfo2& model : SweepModels()) {
+using PageCheck = std::function<void(OpenDialog&, CTabPage&)>;
+
+void ForEachPage(const std::vector<CModelInfo2>& models, const PageCheck& check) {
+  for (const CModelInfo2& model : models) {
     OpenDialog open(model);
     const int tabs = open.Dialog().findChild<QTabBar*>()->count();
     for (int tab = 0; tab < tabs; ++tab) {
@@ -42,6 +46,8 @@ void ForEachPage(const std::function<void(OpenDialog&, CTabPage&)>& check) {
     }
   }
 }
+
+void ForEachPage(const PageCheck& check) { ForEachPage(SweepModels(), check); }
 
 void ForEachPopup(const std::function<void(CDialog&)>& check) {
   CAdvanceDlg host;
@@ -107,6 +113,33 @@ TEST(Sweep, EveryValueControlIsNamedForAScreenReader) {
         EXPECT_FALSE(page.GetDlgItem(control.id)->accessibleName().isEmpty()) << control.id;
       }
     }
+  });
+}
+
+// Whether a row of the template can be used; the button beside an empty list does nothing.
+bool IsOperable(const CDialog& page, const RowTemplate& row) {
+  bool operable = false;
+  for (const ControlTemplate& control : row.controls) {
+    const QWidget* widget = page.GetDlgItem(control.id);
+    if (widget == nullptr || !widget->isVisible() || !widget->isEnabled()) continue;
+    const auto* list = qobject_cast<const QComboBox*>(widget);
+    if (list != nullptr && list->count() == 0) return false;
+    operable |= UserOperates(control.kind) || control.kind == ControlKind::Slider;
+  }
+  return operable;
+}
+
+TEST(Sweep, NoTabOfAnyShippedProfileIsBlank) {
+  std::vector<CModelInfo2> models;
+  const ProfileFileContents profiles = ReadProfileFile(TEST_CATALOG_DIR "/projectors.json");
+  for (const ProjectorProfile& profile : profiles.projectors) models.push_back(profile.Model);
+  ASSERT_FALSE(models.empty()) << profiles.error.toStdString();
+  ForEachPage(models, [](OpenDialog&, CTabPage& page) {
+    EXPECT_FALSE(page.Template()->rows.empty()) << "a page that no model has a row of";
+    const auto* notice = qobject_cast<QLabel*>(page.GetDlgItem(CDialog::kNoticeId));
+    const bool operable = std::ranges::any_of(
+        page.Template()->rows, [&page](const RowTemplate& row) { return IsOperable(page, row); });
+    EXPECT_NE(operable, notice != nullptr && notice->isVisible() && !notice->text().isEmpty());
   });
 }
 

@@ -101,6 +101,7 @@ void RowDialog::DoDataExchange() {
 bool RowDialog::OnInitDialog() {
   LocalizeControlTexts(kCaptionCategory, *this);
   PrepareRows();
+  ExplainEmptyPage();
   return true;
 }
 
@@ -158,6 +159,16 @@ void RowDialog::ShowPresentRows() {
     control->setSizePolicy(keepsItsPlace);
     control->hide();
   }
+}
+
+// A model without the settings that a page is for would see a page that looks broken.
+void RowDialog::ExplainEmptyPage() {
+  if (KeepsTemplate(table_, Model().ModelCode)) return;
+  for (std::size_t i = 0; i < bound_.size(); ++i) {
+    const bool isReset = std::holds_alternative<ResetRow>(table_.rows[i]);  // resets other rows
+    if (bound_[i].present && !isReset) return;
+  }
+  ShowNotice(CatalogString(kListCategory, ListText::NoSettings));
 }
 
 // The entries keep their texts and stand for what the rows' own entries at their places do.
@@ -277,13 +288,15 @@ void RowDialog::Act(int control) {
   }
 }
 
-void RowDialog::Operate(const ListRow& row, Bound&, int) {
+void RowDialog::Operate(const ListRow& row, Bound& bound, int) {
   CComboBox& list = List(row.control);
   const auto chosen = list.SelectedValue();
   if (!chosen || !row.send) return;
   const int value = row.rules.sendsPosition ? list.currentIndex() : *chosen;
   if (row.rules.tellsText) projector->SettingText = list.currentText().toStdString();
-  if (Perform(*projector, *row.send, value, Model().ModelCode).accepted) return;
+  const bool accepted = Perform(*projector, *row.send, value, Model().ModelCode).accepted;
+  if (row.rules.readsBackAlways) Refresh(row, bound);
+  if (accepted) return;
   if (row.rules.refused != Refused::Silent) ReadBack(row);
   if (row.rules.error != 0) ShowError(row.rules.error);
 }
@@ -376,7 +389,9 @@ void RowDialog::Drag(const ValueRow& row, ValueControls& controls) {
 void RowDialog::Operate(const ActionRow& row, Bound&, int) {
   const int position = row.list != 0 ? List(row.list).currentIndex() : 0;
   if (position < 0) return;
-  ReadAgainAfter(row.rereads, Perform(*projector, row.call, position).accepted);
+  const bool done = Perform(*projector, row.call, position).accepted;
+  ReadAgainAfter(row.rereads, done);
+  if (!done && row.error != 0) ShowError(row.error);
 }
 
 void RowDialog::Operate(const ResetRow& row, Bound&, int) {

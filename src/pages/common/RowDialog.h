@@ -34,10 +34,12 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
   virtual std::vector<Notification> OwnNotifications() const { return {}; }
 
   void DoDataExchange() override;
-  /// Localizes the captions, shows the model's rows, sets ranges and fills lists.
+  /// Localizes the captions, shows the model's rows, sets ranges and fills lists. A page that has
+  /// none of its rows says so.
   bool OnInitDialog() override;
 
-  /// All but the captions of it. Nothing for a model that keeps the template as it is.
+  /// Shows the model's rows, sets ranges and fills lists. Nothing for a model that keeps the
+  /// template as it is.
   void PrepareRows();
 
   /// Reads and shows every present row in the table's order.
@@ -69,6 +71,7 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
 
   void DrawArrows();
   void ShowPresentRows();
+  void ExplainEmptyPage();
   void UseTemplateLists();
   void FillList(int control, const Entries& entries);
 

@@ -1,3 +1,13 @@
 #include "settings/PageTables.h"
+#include "settings/SharedRows.h"
 
-constinit const PageTable kOtherRows{};
+namespace {
+
+constexpr PageRow kRows[] = {
+    shared::Power(20100), shared::InputSource(20103), shared::Blank(20104),
+    shared::Mute(20105),  shared::Freeze(20106),
+};
+
+}  // namespace
+
+constinit const PageTable kOtherRows{.rows = kRows};

@@ -1,3 +1,15 @@
 #include "settings/PageTables.h"
+#include "settings/SharedRows.h"
 
-constinit const PageTable kAutoRows{};
+namespace {
+
+constexpr PageRow kRows[] = {
+    shared::AutoAdjust("auto.adjust", 20120),
+    shared::AutoSearch("auto.search", 20121),
+    shared::AutoOff("auto.off", {20122, 20123, 20124, 20125}),
+    shared::AutoOn("auto.on", 20126),
+};
+
+}  // namespace
+
+constinit const PageTable kAutoRows{.rows = kRows};

@@ -1,0 +1,105 @@
+#pragma once
+
+#include <string_view>
+
+#include "settings/LegacyRows.h"
+
+/// Rows that several main, automatic, option and other pages have: a setting is read, sent and told
+/// in one way, and a page gives it its key and its controls.
+namespace shared {
+
+using Op = PjtOperation;
+
+inline constexpr auto kSwitch = Numbered(ListText::SwitchOff, ListText::SwitchOn);
+inline constexpr auto kMirrors = Numbered(ListText::MirrorNormal, ListText::MirrorHInverse,
+                                          ListText::MirrorVInverse, ListText::MirrorHVInverse);
+inline constexpr auto kMenuColors = Numbered(ListText::BlankBlue, ListText::BlankBlack,
+                                             ListText::MenuColorGray, ListText::MenuColorGreen);
+inline constexpr auto kRemoteIds = Numbered(ListText::AllRemoteIds, "1", "2", "3", "4");
+inline constexpr auto kLanguages = [] {
+  std::array<ListEntry, 17> languages;
+  for (int i = 0; i < std::ssize(languages); ++i) {
+    languages[static_cast<std::size_t>(i)] = {ListText::LanguageBase + i, i};
+  }
+  return languages;
+}();
+
+inline constexpr ListRules kReadBack{.refused = Refused::ReadsBack};
+inline constexpr ListRules kSilent{.readsBackAlways = true};
+
+constexpr ValueRow Brightness(std::string_view key, const ValueIds& ids) {
+  return CentredSlider(key, 73, ids, CommandCode::Brightness, ErrorText::BrightnessRefused,
+                       RangeIndex::Brightness);
+}
+constexpr ValueRow Contrast(std::string_view key, const ValueIds& ids) {
+  return CentredSlider(key, 74, ids, CommandCode::Contrast, ErrorText::ContrastRefused,
+                       RangeIndex::Contrast);
+}
+constexpr ValueRow Volume(std::string_view key, const ValueIds& ids) {
+  return PlainSlider(key, 1, ids, CommandCode::Volume, ErrorText::VolumeRefused, RangeIndex::Volume,
+                     {0, 32}, 4);
+}
+/// Minutes; 0 is off.
+constexpr ValueRow AutoOff(std::string_view key, const ValueIds& ids) {
+  ValueRow row = PlainSlider(key, 4210, ids, CommandCode::AutoPowerOff, ErrorText::AutoOffRefused,
+                             RangeIndex::AutoOff, {0, 99}, 5);
+  row.down = Named(Op::DecrementAutoPowerOff);
+  row.up = Named(Op::IncrementAutoPowerOff);
+  return row;
+}
+
+// clang-format off
+constexpr ListRow Aspect(std::string_view key, int list) {
+  return {key, 46, list, AspectEntries, Get(CommandCode::Aspect), Named(Op::SetAspect), {.sendsPosition = true, .emptyIsNotRead = true, .readsBackAlways = true}};
+}
+constexpr ListRow Whisper(std::string_view key, int list) {
+  return {key, 75, list, WhisperEntries, Get(CommandCode::Whisper), Named(Op::SetWhisper), {.refused = Refused::ReadsBack, .emptyIsNotRead = true}};
+}
+constexpr ListRow Mirror(std::string_view key, int list) {
+  return {key, 40, list, kMirrors, Named(Op::GetMirror), Named(Op::SetMirror), kReadBack};
+}
+constexpr ListRow AutoSearch(std::string_view key, int list) {
+  return {key, 16, list, kSwitch, Get(CommandCode::AutoSearch), Named(Op::SetAutoSearch), kReadBack};
+}
+constexpr ListRow AutoOn(std::string_view key, int list) {
+  return {key, 93, list, kSwitch, Get(CommandCode::AutoPowerOn), Named(Op::SetAutoPowerOn), kReadBack};
+}
+constexpr ListRow Stereo(std::string_view key, int list) {
+  return {key, 78, list, kSwitch, Get(CommandCode::Stereo), Named(Op::SetStereo), kSilent};
+}
+constexpr ListRow Language(std::string_view key, int list) {
+  return {key, 76, list, kLanguages, Get(CommandCode::Language), Named(Op::SetLanguage), kSilent};
+}
+constexpr ListRow MenuColor(std::string_view key, int list) {
+  return {key, 4207, list, kMenuColors, Get(CommandCode::MenuColor), Named(Op::SetMenuColor), kSilent};
+}
+constexpr ListRow OneTouch(std::string_view key, int list) {
+  return {key, 4208, list, kSwitch, Get(CommandCode::OneTouch), Named(Op::SetOneTouch), kSilent};
+}
+constexpr ListRow IpRemoteId(std::string_view key, int list) {
+  return {key, 4209, list, kRemoteIds, Get(CommandCode::IpRemoteId), Named(Op::SetIPRemoteID), kSilent};
+}
+constexpr ActionRow AutoAdjust(std::string_view key, int button) {
+  return {.key = key, .caption = 1013, .control = button, .call = Named(Op::ExecAutoAdjust), .error = ErrorText::AutoAdjustRefused};
+}
+
+// The rows of every other page.
+/// The button that turns the projector on; its page does the rest.
+constexpr OwnRow Power(int button) {
+  return {"other.power", 4200, button, Get(CommandCode::RunningState)};
+}
+constexpr ListRow InputSource(int list) {
+  return {"other.input-source", 146, list, SourceEntries, Get(CommandCode::InputSource), Set(CommandCode::InputSource), {.refused = Refused::ReadsBack, .error = ErrorText::InputSourceRefused, .emptyIsNotRead = true}};
+}
+constexpr ListRow Blank(int list) {
+  return {"other.blank", 38, list, kSwitch, Get(CommandCode::BlankState), Named(Op::SetBlank), kSilent};
+}
+constexpr ListRow Mute(int list) {
+  return {"other.mute", 149, list, kSwitch, Get(CommandCode::Mute), Named(Op::SetMute), kSilent};
+}
+constexpr ListRow Freeze(int list) {
+  return {"other.freeze", 150, list, kSwitch, Get(CommandCode::Freeze), Named(Op::SetFreeze), kSilent};
+}
+// clang-format on
+
+}  // namespace shared

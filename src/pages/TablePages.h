@@ -27,7 +27,6 @@ using CScreen4TabDlg = TablePage<TemplateId::Screen4, kScreen4Rows>;
 using CSetup4TabDlg = TablePage<TemplateId::Setup4, kSetup4Rows>;
 using COption4TabDlg = TablePage<TemplateId::Option4, kOption4Rows>;
 using COther4TabDlg = TablePage<TemplateId::Other4, kOther4Rows>;
-using CPicTabDlg = TablePage<TemplateId::Pic, kPicRows>;
 using CSetupTabDlg = TablePage<TemplateId::Setup, kSetupRows>;
 using CInput3TabDlg = TablePage<TemplateId::Input3, kInput3Rows>;
 using COption3TabDlg = TablePage<TemplateId::Option3, kOption3Rows>;

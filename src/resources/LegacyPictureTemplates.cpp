@@ -28,9 +28,10 @@ constexpr RowTemplate PositionH(const ArrowIds& ids) {
              Field(ids.fieldH));
 }
 
+// The number stands in line with those of the slider rows.
 constexpr RowTemplate FieldRow(const ControlTemplate& label, int colon, int minus, int field,
                                int plus) {
-  return Row(Left, label, Colon(colon), Minus(minus), Field(field), Plus(plus));
+  return Row(Left, label, Colon(colon), Minus(minus), Plus(plus), Field(field));
 }
 
 constexpr ArrowIds kImage4Arrows{20202, 20204, 20201, 20203, 20205, 20206};

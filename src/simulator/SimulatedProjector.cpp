@@ -213,7 +213,7 @@ std::optional<int> SimulatedProjector::ExecuteGeneric(const PjtCommand& command)
   if (command.operation == PjtOperation::Set && !target->Allows(written)) {
     const auto other = std::ranges::find(
         slots_, command.code, [](const Slot& candidate) { return candidate.setting->alsoSetBy; });
-    if (other != slots_.end()) target = &*other;
+    if (other != slots_.end() && !other->values.empty()) target = &*other;
   }
   Slot& slot = *target;
   const int source = SourceOrCurrent(kCurrentSource);

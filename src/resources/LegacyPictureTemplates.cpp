@@ -106,8 +106,8 @@ constexpr RowTemplate kImageRows[] = {
     ListRow(Right, Label(20606, "43;P.IN P.Position\t:"), 20706, 20117),
     ListRow(Right, Label(20607, "44;P.IN P.Audio\t:"), 20707, 20118),
     ListRow(Right, Label(20608, "45;P.IN P.Size\t:"), 20708, 20119),
-    ListRow(Left, Label(20609, "41;Gamma"), 20709, 20115),
-    ListRow(Left, Label(20610, "115;Color Temp"), 20710, 20121),
+    ListRow(Right, Label(20609, "41;Gamma"), 20709, 20115),
+    ListRow(Right, Label(20610, "115;Color Temp"), 20710, 20121),
     ExecuteRow(Bottom, Label(20611, "51;Reset"), 20711, 20120, 20643),
 };
 

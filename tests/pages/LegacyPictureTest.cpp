@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "device/ModelDataIntake.h"
-#include "simulator/SimulatedProjector.h"
 #include "tests/support/NumberedCatalog.h"
 #include "tests/support/RowCases.h"
 
@@ -124,33 +122,6 @@ const PageCase kPages[] = {
 
 INSTANTIATE_TEST_SUITE_P(Pages, LegacyPicture, testing::ValuesIn(kPages),
                          [](const auto& page) { return page.param.name; });
-
-// On the simulation, each page shows after a refresh what was set, and no command is refused.
-TEST_P(LegacyPicture, TheSimulationKeepsWhatIsSet) {
-  const PageCase& page = GetParam();
-  const CModelInfo2 model = Model(page.dialogType, page.modelCode);
-  OpenDialog open(model, page.tab);
-  open.Dialog().Projector().SetChannel(
-      std::make_shared<SimulatedProjector>(DescribeModel(MakeModelData(model))));
-  const DialogDriver driver = open.Driver();
-  MessageBoxes boxes;
-  for (const RowCase& row : page.rows) {
-    SCOPED_TRACE(row.control);
-    open.Page().InitDisp();
-    const Use& use = row.uses.front();
-    const bool isList = qobject_cast<CComboBox*>(open.Page().GetDlgItem(use.control)) != nullptr;
-    if (row.control != use.control) {  // a field beside buttons
-      const int before = driver.Text(row.control).toInt();
-      driver.Click(use.control);
-      EXPECT_EQ(driver.Text(row.control).toInt(), before + 1);
-    } else {
-      isList ? driver.Choose(use.control, use.position) : driver.Drag(use.control, use.position);
-      open.Page().InitDisp();
-      EXPECT_EQ(isList ? driver.Selected(use.control) : driver.SliderAt(use.control), use.position);
-    }
-    EXPECT_TRUE(boxes.Take().empty());
-  }
-}
 
 // A reset is done when it returns 0, a memory when it returns anything else.
 TEST_P(LegacyPicture, IsReadAgainAfterAResetOrActionThatIsDone) {

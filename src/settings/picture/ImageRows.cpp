@@ -1,17 +1,12 @@
 #include "settings/PageTables.h"
 #include "settings/picture/PictureRows.h"
+#include "settings/setup/ScreenLists.h"
 
 namespace {
 
 using Op = PjtOperation;
 
-// The projector's numbers for the blank picture, as the screen pages have them.
-constexpr ListEntry kBlanks[] = {{ListText::BlankBlue, 3},
-                                 {ListText::BlankWhite, 5},
-                                 {ListText::BlankBlack, 6},
-                                 {ListText::BlankMyScreen, 32},
-                                 {ListText::BlankOriginal, 64}};
-constexpr auto kStartups = Numbered(ListText::StartupOff, ListText::StartupOn);
+constexpr auto kOffOn = Numbered(ListText::StartupOff, ListText::StartupOn);
 constexpr auto kMirrors = Numbered(ListText::ImageMirrorNormal, ListText::ImageMirrorHInverse,
                                    ListText::ImageMirrorVInverse, ListText::ImageMirrorHVInverse);
 constexpr auto kPinPInputs =
@@ -36,8 +31,8 @@ constexpr ValueRow Keystone() {
 // clang-format off
 constexpr PageRow kRows[] = {
     Keystone(),
-    ListRow{"image.blank", 38, 20112, kBlanks, Get(CommandCode::BlankColor), Named(Op::SetBlankColor)},
-    ListRow{"image.startup", 39, 20113, kStartups, Get(CommandCode::ImageStartup), Named(Op::SetStartup)},
+    ListRow{"image.blank", 38, 20112, kBlanks, Get(CommandCode::BlankColor), Named(Op::SetBlankColor), kBlankRules},
+    ListRow{"image.startup", 39, 20113, kOffOn, Get(CommandCode::ImageStartup), Named(Op::SetStartup)},
     ListRow{"image.mirror", 40, 20114, kMirrors, Get(CommandCode::ImageMirror), Named(Op::SetMirror)},
     ListRow{"image.pin-p-input", 42, 20116, kPinPInputs, Get(CommandCode::ImagePinPInput), Named(Op::SetPinPInput)},
     ListRow{"image.pin-p-position", 43, 20117, kPinPPositions, Get(CommandCode::PinPPosition), Named(Op::SetPinPPosition)},

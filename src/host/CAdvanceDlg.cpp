@@ -20,6 +20,7 @@
 #include "pages/input/CInputType5Dlg.h"
 #include "pages/input/COption5TabDlg.h"
 #include "pages/input/COtherTabDlg.h"
+#include "pages/picture/CPicTabDlg.h"
 #include "pages/picture/CPictureTabType5Dlg.h"
 #include "pages/setup/CAudioType5Dlg.h"
 #include "pages/setup/CSetupType5TabDlg.h"

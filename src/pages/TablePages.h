@@ -25,7 +25,6 @@ using CInput4TabDlg = TablePage<TemplateId::Input4, kInput4Rows>;
 using CScreen4TabDlg = TablePage<TemplateId::Screen4, kScreen4Rows>;
 using CSetup4TabDlg = TablePage<TemplateId::Setup4, kSetup4Rows>;
 using COption4TabDlg = TablePage<TemplateId::Option4, kOption4Rows>;
-using CPicTabDlg = TablePage<TemplateId::Pic, kPicRows>;
 using CSetupTabDlg = TablePage<TemplateId::Setup, kSetupRows>;
 using CInput3TabDlg = TablePage<TemplateId::Input3, kInput3Rows>;
 using COption3TabDlg = TablePage<TemplateId::Option3, kOption3Rows>;

@@ -117,6 +117,7 @@ inline constexpr int ImageMirrorNormal = 65;
 inline constexpr int ImageMirrorHInverse = 66;
 inline constexpr int ImageMirrorVInverse = 67;
 inline constexpr int ImageMirrorHVInverse = 68;
+inline constexpr int StartupOff = 330;
 inline constexpr int StartupOn = 331;
 
 // Picture in picture, image and input pages.

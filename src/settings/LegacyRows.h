@@ -9,14 +9,14 @@
 
 /// A slider of a setting that has its zero point in the middle.
 constexpr ValueRow CentredSlider(std::string_view key, int caption, const ValueIds& ids,
-                                 std::uint16_t code, int error, std::size_t rangeText,
+                                 std::uint16_t code, int error, int rangeText,
                                  PerModel<Range> range = Range{-32, 32}, int ticks = 4) {
   return {.key = key,
           .caption = caption,
           .ids = ids,
           .code = code,
           .bias = CommandCode::kZeroPoint,
-          .rangeText = static_cast<int>(rangeText),
+          .rangeText = rangeText,
           .range = range,
           .ticks = ticks,
           .error = error};
@@ -24,7 +24,7 @@ constexpr ValueRow CentredSlider(std::string_view key, int caption, const ValueI
 
 /// A slider of a setting that is shown as it is.
 constexpr ValueRow PlainSlider(std::string_view key, int caption, const ValueIds& ids,
-                               std::uint16_t code, int error, std::size_t rangeText, Range range,
+                               std::uint16_t code, int error, int rangeText, Range range,
                                int ticks = 1) {
   ValueRow row = CentredSlider(key, caption, ids, code, error, rangeText, range, ticks);
   row.bias = 0;

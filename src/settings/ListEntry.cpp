@@ -44,6 +44,10 @@ std::vector<ListEntry> ColorTempEntries(const ModelData& model) {
   return FromList(model.ColorTempList, ListText::ColorTempBase);
 }
 
+std::vector<ListEntry> Picture1ColorTempEntries(const ModelData& model) {
+  return FromList(model.ColorTempList, ListText::Picture1ColorTempBase);
+}
+
 std::vector<ListEntry> WhisperEntries(const ModelData& model) {
   std::vector<ListEntry> entries;
   for (int i = 0; i < model.WhisperList.Size(); ++i) {

@@ -64,6 +64,8 @@ class Entries {
 
 std::vector<ListEntry> GammaEntries(const ModelData& model);
 std::vector<ListEntry> ColorTempEntries(const ModelData& model);
+/// The same under the texts that only one page uses.
+std::vector<ListEntry> Picture1ColorTempEntries(const ModelData& model);
 /// The lamp modes that the dialogs have a text for. Each stands for its position, so that an
 /// unknown name moves the modes behind it up: the position is what the projector takes.
 std::vector<ListEntry> WhisperEntries(const ModelData& model);

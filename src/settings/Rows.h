@@ -169,6 +169,7 @@ struct PageTable {
   /// Which rows a model has, a digit a row; empty where only the rows' own `on` tells.
   std::span<const ModelRows> models{};
   Unlisted unlisted = Unlisted::AllRows;
+  bool refusedIsReadBack = false;  ///< A refused value or choice is read again, before it is told.
 };
 
 /// Key, and the control by which a row is found in its template.

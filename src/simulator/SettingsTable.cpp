@@ -132,6 +132,14 @@ constexpr Setting InMemory(Setting setting) {
   return setting;
 }
 
+constexpr Setting ColorTemp(std::uint16_t alsoSetBy = 0) {
+  return {.id = Id::ColorTemp,
+          .name = "Color temperature",
+          .code = CommandCode::ColorTemp,
+          .alsoSetBy = alsoSetBy,
+          .inMemory = true};
+}
+
 constexpr Setting kSettings[] = {
     // State of the projector.
     {.id = Id::Power,
@@ -197,7 +205,8 @@ constexpr Setting kSettings[] = {
     GammaPoint(6, "User gamma point 6"),
     GammaPoint(7, "User gamma point 7"),
     GammaPoint(8, "User gamma point 8"),
-    InMemory(Coded(Id::ColorTemp, "Color temperature", CommandCode::ColorTemp, {0, 255}, {})),
+    ForSets(PageSets::ButThird, ColorTemp()),
+    ForSets(PageSets::Third, ColorTemp(CommandCode::Gamma)),
     Gain(Id::ColorTempGainR, "Gain R", 0, Op::GetColorTempGainR, Op::ExecColorTempGainRReset),
     Gain(Id::ColorTempGainG, "Gain G", 1, Op::GetColorTempGainG, Op::ExecColorTempGainGReset),
     Gain(Id::ColorTempGainB, "Gain B", 2, Op::GetColorTempGainB, Op::ExecColorTempGainBReset),

@@ -208,6 +208,7 @@ struct Setting {
   std::string_view name;
   std::uint16_t code = 0;  ///< Command code of the generic operations, 0 when there is none.
   SettingRange range{0, 255};
+  std::uint16_t alsoSetBy = 0;    ///< Code whose `Set` takes the values listed here too.
   std::span<const int> values{};  ///< When not empty, the values allowed instead of the range.
   int standard = 0;               ///< Value of a new projector.
   std::optional<int> reset{};     ///< Value that a reset gives, when it is not the standard one.

@@ -208,7 +208,14 @@ PjtReply SimulatedProjector::Execute(const PjtCommand& command) {
 std::optional<int> SimulatedProjector::ExecuteGeneric(const PjtCommand& command) {
   const auto found = slotOfCode_.find(command.code);
   if (found == slotOfCode_.end()) return std::nullopt;
-  Slot& slot = slots_[found->second];
+  Slot* target = &slots_[found->second];
+  const int written = static_cast<std::uint16_t>(command.first);
+  if (command.operation == PjtOperation::Set && !target->Allows(written)) {
+    const auto other = std::ranges::find(
+        slots_, command.code, [](const Slot& candidate) { return candidate.setting->alsoSetBy; });
+    if (other != slots_.end() && !other->values.empty()) target = &*other;
+  }
+  Slot& slot = *target;
   const int source = SourceOrCurrent(kCurrentSource);
   const int current = slot.At(source);
 
@@ -217,7 +224,7 @@ std::optional<int> SimulatedProjector::ExecuteGeneric(const PjtCommand& command)
     case PjtOperation::Get:
       return current;
     case PjtOperation::Set:
-      wanted = static_cast<std::uint16_t>(command.first);
+      wanted = written;
       break;
     case PjtOperation::Inc:
       wanted = slot.Next(current, +1);

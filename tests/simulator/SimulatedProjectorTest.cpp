@@ -323,6 +323,7 @@ TEST(SimulatedModelTest, AHostsDescriptionShapesTheProjector) {
   ModelData data;
   data.DialogType = 3;
   data.GammaList = {.count = 2, .values = {16, 20, 99}, .names = {}};
+  data.ColorTempList = {.count = 2, .values = {1, 3}, .names = {}};
   data.MySourceList.count = 2;
   data.MySourceList.firstValues = {4, 1};
   data.RangeTexts[RangeIndex::Brightness] = "100, 156";
@@ -338,6 +339,9 @@ TEST(SimulatedModelTest, AHostsDescriptionShapesTheProjector) {
   projector.Execute({Op::SetGamma, 0, 1});
   EXPECT_EQ(projector.CodeValue(0x30A1), 20);
   EXPECT_NE(projector.Execute({Op::Set, 0x30A1, 99}).result, 1);
+  EXPECT_EQ(projector.Execute({Op::Set, 0x30A1, 3}).result, 1);
+  EXPECT_EQ(projector.CodeValue(0x30B0), 3) << "this page set takes a color temperature there too";
+  EXPECT_EQ(projector.CodeValue(0x30A1), 20);
   EXPECT_EQ(projector.Value(Id::InputSource), 4);
   EXPECT_FALSE(projector.Has(Id::Tint));
   EXPECT_EQ(projector.Execute({Op::SetTint, 0, 128}).result, 0);

@@ -7,16 +7,17 @@
 #include "i18n/Catalog.h"
 #include "tests/i18n/ModuleBuilder.h"
 
-/// While it lives, every text of the list category is its own number, behind `sign`, so that a test
-/// sees which text a list asks for, also where two texts read the same.
+/// While it lives, every caption and every text of the list category is its own number, behind
+/// `sign`, so that a test sees which text is asked for, also where two texts read the same.
 struct NumberedCatalog {
   explicit NumberedCatalog(const std::string& sign = {}) {
-    TestBlock block{MessageId(5, 0), {}};
+    TestBlock captions{MessageId(4, 0), {}};
     for (int number = 0; number < 4400; ++number) {
-      block.entries.push_back(Ansi(sign + std::to_string(number) + "\r\n"));
+      captions.entries.push_back(Ansi(sign + std::to_string(number) + "\r\n"));
     }
+    const TestBlock list{MessageId(5, 0), captions.entries};
     const std::string folder = testing::TempDir();
-    TestModule({{1033, {block}}}).Save(folder + "/mcdll.dll");
+    TestModule({{1033, {captions, list}}}).Save(folder + "/mcdll.dll");
     EXPECT_EQ(LoadCatalog(std::span(&folder, 1)), 0);
   }
   ~NumberedCatalog() { LoadCatalog(); }

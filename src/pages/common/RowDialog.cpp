@@ -297,7 +297,7 @@ void RowDialog::Operate(const ListRow& row, Bound& bound, int) {
   const bool accepted = Perform(*projector, *row.send, value, Model().ModelCode).accepted;
   if (row.rules.readsBackAlways) Refresh(row, bound);
   if (accepted) return;
-  if (row.rules.refused != Refused::Silent) ReadBack(row);
+  if (table_.refusedIsReadBack || row.rules.refused != Refused::Silent) ReadBack(row);
   if (row.rules.error != 0) ShowError(row.rules.error);
 }
 
@@ -338,18 +338,28 @@ void RowDialog::Operate(const ValueRow& row, Bound& bound, int control) {
   if (bounded &&
       (upwards ? controls.current >= bounds.maximum : controls.current <= bounds.minimum))
     return;
-  if (!Perform(*projector, step).accepted) {
-    controls.MoveSlider(controls.current);
-    if (row.error != 0) ShowError(row.error);
-    return;
+  if (Perform(*projector, step).accepted) {
+    // The read back is as strict as the step.
+    ReadBack(row, controls, step.anyResult);
+  } else {
+    Refuse(row, controls, controls.current, true);
   }
-  // The read back is as strict as the step.
+}
+
+void RowDialog::ReadBack(const ValueRow& row, ValueControls& controls, bool anyResult) {
   Call reading = row.Reading();
-  reading.anyResult = step.anyResult;
+  reading.anyResult = anyResult;
   if (const auto value = Read(*projector, reading)) {
     controls.current = static_cast<std::int16_t>(*value - row.bias);
     controls.Show(controls.current);
   }
+}
+
+// The slider stands at `position` afterwards, unless the value is read again.
+void RowDialog::Refuse(const ValueRow& row, ValueControls& controls, int position, bool told) {
+  controls.MoveSlider(position);
+  if (table_.refusedIsReadBack) ReadBack(row, controls);
+  if (told && row.error != 0) ShowError(row.error);
 }
 
 // Steppers that take the present value and answer with the new one.
@@ -382,8 +392,8 @@ void RowDialog::Drag(const ValueRow& row, ValueControls& controls) {
     controls.Show(position);
     return;
   }
-  controls.MoveSlider(row.refusedDrag == RefusedDrag::Stays ? position : controls.current);
-  if (row.refusedDrag == RefusedDrag::Told && row.error != 0) ShowError(row.error);
+  Refuse(row, controls, row.refusedDrag == RefusedDrag::Stays ? position : controls.current,
+         row.refusedDrag == RefusedDrag::Told);
 }
 
 void RowDialog::Operate(const ActionRow& row, Bound&, int) {

@@ -96,6 +96,8 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
 
   void Select(const ListRow& row, int value);
   void ReadBack(const ListRow& row);
+  void ReadBack(const ValueRow& row, ValueControls& controls, bool anyResult = false);
+  void Refuse(const ValueRow& row, ValueControls& controls, int position, bool told);
   void StepByValue(const ValueRow& row, ValueControls& controls, const Call& step);
   void Drag(const ValueRow& row, ValueControls& controls);
   void Preselect(int list);

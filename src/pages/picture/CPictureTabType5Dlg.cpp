@@ -1,18 +1,12 @@
 #include "pages/picture/CPictureTabType5Dlg.h"
 
-#include "pages/picture/CColorDlg.h"
-#include "pages/picture/CGammaDlg.h"
 #include "resources/AdvancedControlResources.h"
 #include "settings/PageTables.h"
 #include "toolkit/CComboBox.h"
 
 namespace {
 
-constexpr int kGammaList = 20142;
-constexpr int kColorTempList = 20144;
 constexpr int kActiveIrisList = 20293;
-constexpr int kCustomGamma = 20133;
-constexpr int kCustomColorTemp = 20143;
 
 // Up to here a gamma, and from here a colour temperature, is one that the user can shape.
 constexpr int kLastCustomGamma = 21;
@@ -25,21 +19,16 @@ std::vector<ListEntry> ActiveIrisEntries() {
 }  // namespace
 
 CPictureTabType5Dlg::CPictureTabType5Dlg(CWnd* parent)
-    : CTabPage(TemplateId::PictureType5, kPictureType5Rows, parent) {}
+    : PicturePage(TemplateId::PictureType5, kPictureType5Rows, false, parent) {}
 
-std::vector<Notification> CPictureTabType5Dlg::OwnNotifications() const {
-  using Self = CPictureTabType5Dlg;
-  return {
-      SelChange(kGammaList, &Self::OnCbnSelchangePicGammaComb),
-      SelChange(kColorTempList, &Self::OnCbnSelchangePicCctComb),
-      Clicked(kCustomGamma, &Self::OnBnClickedPicGammaBtn),
-      Clicked(kCustomColorTemp, &Self::OnBnClickedPicColorBtn),
-  };
+bool CPictureTabType5Dlg::IsCustomGamma(const CComboBox& list) const {
+  const auto gamma = list.SelectedValue();
+  return gamma && *gamma <= kLastCustomGamma;
 }
 
-void CPictureTabType5Dlg::InitDisp() {
-  CTabPage::InitDisp();
-  EnableCustomButtons();
+bool CPictureTabType5Dlg::IsCustomColorTemp(const CComboBox& list) const {
+  const auto colorTemp = list.SelectedValue();
+  return colorTemp && *colorTemp >= kFirstCustomColorTemp;
 }
 
 short CPictureTabType5Dlg::ActIrisIdxToValue(short index) {
@@ -48,33 +37,4 @@ short CPictureTabType5Dlg::ActIrisIdxToValue(short index) {
 
 short CPictureTabType5Dlg::ActIrisValueToIdx(short value) {
   return static_cast<short>(PositionOf(ActiveIrisEntries(), value));
-}
-
-void CPictureTabType5Dlg::EnableCustomButtons() {
-  const auto gamma = List(kGammaList).SelectedValue();
-  GetDlgItem(kCustomGamma)->setEnabled(gamma && *gamma <= kLastCustomGamma);
-  const auto colorTemp = List(kColorTempList).SelectedValue();
-  GetDlgItem(kCustomColorTemp)->setEnabled(colorTemp && *colorTemp >= kFirstCustomColorTemp);
-}
-
-void CPictureTabType5Dlg::OnCbnSelchangePicGammaComb() {
-  Act(kGammaList);
-  EnableCustomButtons();
-}
-
-void CPictureTabType5Dlg::OnCbnSelchangePicCctComb() {
-  Act(kColorTempList);
-  EnableCustomButtons();
-}
-
-void CPictureTabType5Dlg::OnBnClickedPicGammaBtn() {
-  CGammaDlg dialog(false, nullptr);
-  dialog.projector = projector;
-  dialog.DoModal();
-}
-
-void CPictureTabType5Dlg::OnBnClickedPicColorBtn() {
-  CColorDlg dialog(false, nullptr);
-  dialog.projector = projector;
-  dialog.DoModal();
 }

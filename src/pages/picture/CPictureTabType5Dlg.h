@@ -1,17 +1,15 @@
 #pragma once
 
 #include "AdvancedControlExport.h"
-#include "pages/common/CTabPage.h"
+#include "pages/picture/PicturePage.h"
 
 /// Picture settings of the newest page set: brightness, contrast, color, tint and sharpness; gamma
 /// and color temperature with their custom pop-ups; active iris; memories; resets.
-class ADVANCED_CONTROL_EXPORT CPictureTabType5Dlg final : public CTabPage {
+class ADVANCED_CONTROL_EXPORT CPictureTabType5Dlg final : public PicturePage {
   Q_OBJECT
 
  public:
   explicit CPictureTabType5Dlg(CWnd* parent);
-
-  void InitDisp() override;
 
   /// Device value of a position of the active-iris list, which must be inside it.
   static short ActIrisIdxToValue(short index);
@@ -32,16 +30,9 @@ class ADVANCED_CONTROL_EXPORT CPictureTabType5Dlg final : public CTabPage {
   void OnBnClickedPicMyldBtn() { Act(21065); }
   void OnCbnSelchangePic5ActilisCombo() { Act(20293); }
   void OnBnClickedPicRstBtn() { Act(21070); }
-  using CTabPage::OnHScroll;
-
-  void OnCbnSelchangePicGammaComb();
-  void OnCbnSelchangePicCctComb();
-  void OnBnClickedPicGammaBtn();
-  void OnBnClickedPicColorBtn();
+  using PicturePage::OnHScroll;
 
  protected:
-  std::vector<Notification> OwnNotifications() const override;
-
- private:
-  void EnableCustomButtons();
+  bool IsCustomGamma(const CComboBox& list) const override;
+  bool IsCustomColorTemp(const CComboBox& list) const override;
 };

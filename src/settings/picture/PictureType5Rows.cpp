@@ -1,6 +1,5 @@
-#include "device/CommandCode.h"
-#include "settings/CatalogNumbers.h"
 #include "settings/PageTables.h"
+#include "settings/picture/PictureRows.h"
 
 namespace {
 
@@ -12,11 +11,6 @@ constexpr int kSharpnessBias = 124;
 
 constexpr ListEntry kActiveIris[] = {
     {ListText::Off, 0x00}, {ListText::IrisTheater, 0x10}, {ListText::IrisPresentation, 0x11}};
-
-constexpr int kLoad = ListText::MyMemoryBase;
-constexpr int kSave = kLoad + 4;
-constexpr auto kMyMemories = Numbered(kLoad, kLoad + 1, kLoad + 2, kLoad + 3,  //
-                                      kSave, kSave + 1, kSave + 2, kSave + 3);
 
 constexpr ResetEntry kResets[] = {
     {ListText::Brightness, Op::ExecBrightnessReset, 20136},
@@ -61,9 +55,8 @@ constexpr PageRow kRows[] = {
     Slider("picture.color", 116, {20147, 20151, 20149, 20331}, CommandCode::Color, Op::SetColor, RangeIndex::Color, ErrorText::ColorRefused),
     Slider("picture.tint", 117, {21061, 21062, 21063, 20332}, CommandCode::Tint, Op::SetTint, RangeIndex::Tint, ErrorText::TintRefused),
     Sharpness(),
-    // The projector takes a gamma's position, not its value.
-    ListRow{"picture.gamma", 41, 20142, GammaEntries, Get(CommandCode::Gamma), Named(Op::SetGamma), {.sendsPosition = true, .emptyIsNotRead = true}},
-    ListRow{"picture.color-temp", 115, 20144, ColorTempEntries, Get(CommandCode::ColorTemp), Set(CommandCode::ColorTemp), {.error = ErrorText::ColorTempRefused, .emptyIsNotRead = true}},
+    ListRow{"picture.gamma", 41, 20142, GammaEntries, Get(CommandCode::Gamma), Named(Op::SetGamma), kGammaRules},
+    ListRow{"picture.color-temp", 115, 20144, ColorTempEntries, Get(CommandCode::ColorTemp), Set(CommandCode::ColorTemp), kColorTempRules},
     // A mode that the list does not know leaves the row as it was.
     ListRow{"picture.active-iris", 128, 20293, kActiveIris, Get(CommandCode::ActiveIris), Set(CommandCode::ActiveIris), {.noEntry = NoEntry::Ignored, .error = ErrorText::ActiveIrisRefused}, OnlyOn(30, 31, 41, 43, 46, 51, 52, 54)},
     ActionRow{"picture.my-memory", 119, 21065, Named(Op::SetMyMemory), Rereads::WhenDone, 21064, kMyMemories},

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "AdvancedControlExport.h"
+#include "pages/common/CTabPage.h"
+
+/// A picture page with lists of gammas and colour temperatures, each beside a button that opens the
+/// pop-up for those that the user can shape. The controls have the same numbers on every such page.
+class ADVANCED_CONTROL_EXPORT PicturePage : public CTabPage {
+  Q_OBJECT
+
+ public:
+  void InitDisp() override;
+
+  void OnCbnSelchangePicGammaComb();
+  void OnCbnSelchangePicCctComb();
+  void OnBnClickedPicGammaBtn();
+  void OnBnClickedPicColorBtn();
+
+ protected:
+  /// `hideResets` leaves out the Reset buttons of the pop-ups.
+  PicturePage(int templateNumber, const PageTable& table, bool hideResets, CWnd* parent);
+
+  std::vector<Notification> OwnNotifications() const override;
+
+  /// Whether the user can shape the chosen entry.
+  virtual bool IsCustomGamma(const CComboBox& list) const = 0;
+  virtual bool IsCustomColorTemp(const CComboBox& list) const = 0;
+
+ private:
+  void EnableCustomButtons();
+
+  bool hideResets_;
+};

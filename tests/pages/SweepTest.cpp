@@ -1,6 +1,7 @@
 // Rules that hold for every page of every model.
 
 #include <map>
+#include <set>
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -102,6 +103,35 @@ TEST(Sweep, ShowingAPageOnlyReads) {
   });
 }
 
+TEST(Sweep, EveryNumberIsOneControls) {
+  const auto expectUnique = [](const CDialog& dialog) {
+    std::set<int> numbers;
+    for (const RowTemplate& row : dialog.Template()->rows) {
+      for (const ControlTemplate& control : row.controls) {
+        if (control.kind == ControlKind::None) break;
+        EXPECT_TRUE(numbers.insert(control.id).second) << control.id;
+      }
+    }
+  };
+  ForEachPage([&](OpenDialog&, CTabPage& page) { expectUnique(page); });
+  ForEachPopup(expectUnique);
+}
+
+// What is read of a source follows what the page asked first; the rest is told beforehand.
+TEST(Sweep, APageTellsWhatItWillRead) {
+  ForEachPage([](OpenDialog& open, CTabPage& page) {
+    open.Projector().Take();
+    for (const PjtCommand& command : page.Reads()) open.Projector().Execute(command);
+    const std::vector<std::string> told = open.Projector().Take();
+    page.InitDisp();
+    std::vector<std::string> sent = open.Projector().Take();
+    std::erase_if(sent, [](const std::string& read) {
+      return read.starts_with("GetInputSrc") || read.starts_with("GetSRSWOW");
+    });
+    EXPECT_EQ(told, sent);
+  });
+}
+
 TEST(Sweep, EveryValueControlIsNamedForAScreenReader) {
   ForEachPage([](OpenDialog&, CTabPage& page) {
     for (const RowTemplate& row : page.Template()->rows) {
@@ -179,7 +209,7 @@ TEST(Sweep, NothingIsClippedInEitherLanguageAtAnyFontSize) {
   for (const char* language : {"en_US.UTF-8", "zh_CN.UTF-8"}) {
     qputenv("LC_ALL", language);
     ASSERT_EQ(LoadCatalog(), 0);
-    for (const double scale : {1.0, 1.5}) {
+    for (const double scale : {1.0, 1.5, 2.0}) {
       QFont font = before;
       font.setPointSizeF(before.pointSizeF() * scale);
       QApplication::setFont(font);

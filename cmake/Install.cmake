@@ -1,7 +1,10 @@
 # What `cmake --install` lays down: libraries, headers, catalog modules and the package config.
 include(CMakePackageConfigHelpers)
 
-set_target_properties(ProjectorCommon AdvancedControl PROPERTIES INSTALL_RPATH "$ORIGIN")
+# The path of the build is that of the installation: what CMake would patch on installing it pads, and
+# an empty entry means the current directory.
+set_target_properties(ProjectorCommon AdvancedControl PROPERTIES
+  INSTALL_RPATH "$ORIGIN" BUILD_WITH_INSTALL_RPATH ON)
 target_compile_features(ProjectorCommon PUBLIC cxx_std_20)
 install(TARGETS ProjectorCommon AdvancedControl EXPORT AdvancedControlTargets
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})

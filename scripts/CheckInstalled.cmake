@@ -35,6 +35,23 @@ if(NOT result MATCHES "timeout")
   message(FATAL_ERROR "The example ended by itself: ${result}\n${errors}")
 endif()
 
+# Hardened, and no library is looked for in the current directory.
+foreach(built libAdvancedControl.so libProjectorCommon.so advanced-control)
+  execute_process(COMMAND readelf -Wd ${BUILD_DIR}/bin/${built} OUTPUT_VARIABLE dynamic
+                  COMMAND_ERROR_IS_FATAL ANY)
+  if(NOT dynamic MATCHES "BIND_NOW|Flags: NOW")
+    message(FATAL_ERROR "${built} is not bound when it starts")
+  endif()
+  if(dynamic MATCHES "(RUNPATH|RPATH)[^\n]*(:\\]|::|\\[:)")
+    message(FATAL_ERROR "${built} looks for libraries in the current directory:\n${dynamic}")
+  endif()
+  execute_process(COMMAND nm -D ${BUILD_DIR}/bin/${built} OUTPUT_VARIABLE used
+                  COMMAND_ERROR_IS_FATAL ANY)
+  if(NOT used MATCHES "__stack_chk_fail")
+    message(FATAL_ERROR "${built} has no stack protector")
+  endif()
+endforeach()
+
 execute_process(COMMAND nm -DC --defined-only ${BUILD_DIR}/bin/libAdvancedControl.so
                 OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
 foreach(shown "CAdvanceDlg::CopyData3(" "CAdvanceDlg::DispTabScreen(" "GetCatalogText("

@@ -21,6 +21,15 @@ PjtReply Unanswered(const PjtCommand& command) {
   return {.result = RefusedResult(command.operation), .answered = false};
 }
 
+// A channel that throws has not answered.
+PjtReply Ask(ProjectorChannel& channel, const PjtCommand& command) {
+  try {
+    return channel.Execute(command);
+  } catch (...) {
+    return Unanswered(command);
+  }
+}
+
 bool HasEventLoop() {
   return QCoreApplication::instance() && QAbstractEventDispatcher::instance() != nullptr;
 }
@@ -60,7 +69,7 @@ void BoundedChannel::State::Work() {
     if (ended) return;
     const PjtCommand taken = *std::exchange(command, std::nullopt);
     lock.unlock();
-    const PjtReply answer = inner->Execute(taken);
+    const PjtReply answer = Ask(*inner, taken);
     lock.lock();
     outstanding = false;
     if (!awaited) continue;

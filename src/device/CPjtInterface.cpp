@@ -63,8 +63,13 @@ int CPjtInterface::CopyGammaData(int count, const int* values) {
 PjtReply CPjtInterface::Execute(const PjtCommand& command) const {
   // Held for the whole call: whoever runs while the channel waits may give this object another one.
   const std::shared_ptr<ProjectorChannel> channel = channel_;
-  if (!channel) return {.result = RefusedResult(command.operation), .answered = false};
-  return channel->Execute(command);
+  const PjtReply unanswered{.result = RefusedResult(command.operation), .answered = false};
+  if (!channel) return unanswered;
+  try {
+    return channel->Execute(command);
+  } catch (...) {  // a host's channel may do anything; the dialog's handlers know no exceptions
+    return unanswered;
+  }
 }
 
 int CPjtInterface::ExecuteInto(const PjtCommand& command, short* value) const {

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <fcntl.h>
 #include <memory>
 #include <numeric>
-#include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -24,33 +24,29 @@ constexpr std::uint64_t kMaxReadsOfAByte = 2;
 constexpr std::size_t kMaxSections = 96;
 constexpr std::uint32_t kMessageTableType = 11;
 
-// A file mapped for reading; empty if it is not a plain file of acceptable size.
-class MappedFile {
- public:
-  explicit MappedFile(const std::string& path) {
-    // Opening must not wait for the other end of a pipe that bears the module's name.
-    const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-    if (file < 0) return;
-    struct stat status {};
-    if (fstat(file, &status) == 0 && S_ISREG(status.st_mode) && status.st_size > 0 &&
-        std::cmp_less_equal(status.st_size, kMaxFileBytes)) {
-      const auto size = static_cast<std::size_t>(status.st_size);
-      void* start = mmap(nullptr, size, PROT_READ, MAP_PRIVATE, file, 0);
-      if (start != MAP_FAILED) bytes_ = {static_cast<const std::byte*>(start), size};
+// The bytes of a plain file of acceptable size, else none. Read and not mapped: a file that is cut
+// short while it is mapped ends the program.
+std::vector<std::byte> ReadFile(const std::string& path) {
+  std::vector<std::byte> bytes;
+  // Opening must not wait for the other end of a pipe that bears the module's name.
+  const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+  if (file < 0) return bytes;
+  struct stat status {};
+  if (fstat(file, &status) == 0 && S_ISREG(status.st_mode) && status.st_size > 0 &&
+      std::cmp_less_equal(status.st_size, kMaxFileBytes)) {
+    bytes.resize(static_cast<std::size_t>(status.st_size));
+    std::size_t got = 0;
+    while (got < bytes.size()) {
+      const ssize_t count = read(file, bytes.data() + got, bytes.size() - got);
+      if (count < 0 && errno == EINTR) continue;
+      if (count <= 0) break;
+      got += static_cast<std::size_t>(count);
     }
-    close(file);
+    bytes.resize(got);
   }
-  ~MappedFile() {
-    if (!bytes_.empty()) munmap(const_cast<std::byte*>(bytes_.data()), bytes_.size());
-  }
-  MappedFile(const MappedFile&) = delete;
-  MappedFile& operator=(const MappedFile&) = delete;
-
-  Bytes Content() const { return bytes_; }
-
- private:
-  Bytes bytes_;
-};
+  close(file);
+  return bytes;
+}
 
 std::optional<Bytes> Slice(Bytes bytes, std::uint64_t offset, std::uint64_t length) {
   if (offset > bytes.size() || length > bytes.size() - offset) return {};
@@ -318,22 +314,29 @@ class TableReader {
     const std::uint64_t blockCount = U32(*header, 0);
     const auto blocks = Slice(table, 4, 12 * blockCount);
     if (!blocks || !Spend(blocks->size())) return false;
+    // The texts follow the blocks and each other without overlap or gap, and the identifiers
+    // ascend: else a damaged number would show texts under other texts' numbers.
+    std::uint64_t offset = 4 + blocks->size();
+    std::int64_t last = -1;
     for (std::size_t at = 0; at < blocks->size(); at += 12) {
       const std::uint32_t low = U32(*blocks, at);
       const std::uint32_t high = U32(*blocks, at + 4);
-      std::uint64_t offset = U32(*blocks, at + 8);
-      if (low > high) return false;
+      if (low > high || std::cmp_less_equal(low, last) || U32(*blocks, at + 8) != offset) {
+        return false;
+      }
+      last = high;
       for (std::uint64_t id = low; id <= high; ++id) {
         const auto head = Slice(table, offset, 4);
         const std::size_t length = head ? U16(*head, 0) : 0;
         const auto entry = Slice(table, offset, length);
-        if (length < 4 || !entry || !Spend(length)) return false;
+        if (length < 4 || length % 4 != 0 || !entry || !Spend(length)) return false;
         const auto messageId = static_cast<std::uint32_t>(id);
         if (!AddMessage(languageId, messageId, U16(*head, 2), entry->subspan(4))) return false;
         offset += length;
       }
     }
-    return true;
+    constexpr std::size_t kPadding = 4;
+    return table.size() - offset < kPadding;
   }
 
   bool AddMessage(std::uint32_t languageId, std::uint32_t id, std::uint16_t flags, Bytes text) {
@@ -374,8 +377,7 @@ class TableReader {
 }  // namespace
 
 std::optional<MessageTable> MessageTable::Read(const std::string& path) {
-  const MappedFile file(path);
-  return Parse(file.Content());
+  return Parse(ReadFile(path));
 }
 
 std::optional<MessageTable> MessageTable::Parse(std::span<const std::byte> module) {

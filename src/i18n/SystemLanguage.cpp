@@ -1,5 +1,6 @@
 #include "i18n/SystemLanguage.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <string>
@@ -29,8 +30,20 @@ std::uint32_t WithRegion(std::uint32_t languageId) {
   return languageId < kFirstRegion ? languageId | kFirstRegion : languageId;
 }
 
+// A language of two or three letters, then script, region or variants. Anything else, "C" and the
+// registered oddities ("i-default") among them, must not reach the locale library: it may ask for
+// the system's locale while it is finding it out, and wait for itself.
+bool IsPlainName(std::string_view name) {
+  constexpr std::size_t kLongest = 64;
+  const std::size_t language = std::min(name.find_first_of("_-"), name.size());
+  const auto isLetter = [](char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); };
+  return name.size() <= kLongest && (language == 2 || language == 3) &&
+         std::ranges::all_of(name.substr(0, language), isLetter);
+}
+
 std::uint32_t LanguageIdOf(std::string_view locale) {
   const std::string name(locale.substr(0, locale.find_first_of(".@")));
+  if (!IsPlainName(name)) return kEnglishUnitedStates;
   std::array<char, ULOC_FULLNAME_CAPACITY> canonical{};
   UErrorCode error = U_ZERO_ERROR;
   uloc_canonicalize(name.c_str(), canonical.data(), ULOC_FULLNAME_CAPACITY, &error);

@@ -188,7 +188,7 @@ TEST_F(CatalogTest, MessageThatCannotBeFormattedFallsBack) {
 }
 
 TEST_F(CatalogTest, NumbersThatAreNone) {
-  LoadTables({{1033, {{kFirst, {Unicode(u"text\r\n")}}, {0xFFFF, {Unicode(u"lowest\r\n")}}}}});
+  LoadTables({{1033, {{0xFFFF, {Unicode(u"lowest\r\n")}}, {kFirst, {Unicode(u"text\r\n")}}}}});
   EXPECT_EQ(CatalogText(-256, 0xFFFF), "lowest");
   constexpr std::pair<int, int> kNone[] = {{4, 0},       {4, 2},    {3, 0x10001}, {4, -1},
                                            {0x10004, 1}, {-257, 1}, {5, 0x1FFFF}};

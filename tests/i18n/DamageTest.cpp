@@ -1,0 +1,57 @@
+// What a damaged module and a wrong environment may not do.
+
+#include <cstdlib>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "i18n/MessageTable.h"
+#include "i18n/SystemLanguage.h"
+#include "tests/i18n/ModuleBuilder.h"
+
+namespace {
+
+TEST(SystemLanguage, NoEnvironmentHangsOrFails) {
+  const char* before = std::getenv("LC_ALL");
+  const std::string kept = before != nullptr ? before : "";
+  const std::string values[] = {
+      "i-default_DE", "i-klingon", "x",  "POSIX",   "_",
+      "12_34",        "-",         "??", "C.UTF-8", std::string(5000, 'a')};
+  for (const std::string& value : values) {
+    setenv("LC_ALL", value.c_str(), 1);
+    EXPECT_EQ(SystemLanguageId(), 1033U) << value;
+  }
+  setenv("LC_ALL", kept.c_str(), 1);
+}
+
+// A flipped bit is refused, or changes nothing but the text in which it lies.
+TEST(DamagedTable, NoFlippedBitShowsATextUnderAnotherNumber) {
+  TestBlock low{10, {}}, high{20, {}};
+  for (const char* text : {"one....\r\n..", "twotwo\r\n"}) low.entries.push_back(Ansi(text));
+  for (const char* text : {"three.\r\n", "four..\r\n"}) high.entries.push_back(Ansi(text));
+  TestModule module({{1033, {low, high}}});
+  const auto intact = MessageTable::Parse(module.bytes);
+  ASSERT_TRUE(intact);
+  ASSERT_EQ(intact->Count(), 4U);
+  int accepted = 0;
+  for (std::size_t at = module.LastTable(); at < module.bytes.size(); ++at) {
+    for (int bit = 0; bit < 8; ++bit) {
+      TestModule flipped = module;
+      flipped.bytes[at] ^= std::byte(1 << bit);
+      const auto table = MessageTable::Parse(flipped.bytes);
+      if (!table) continue;
+      ++accepted;
+      EXPECT_EQ(table->Count(), 4U) << at << '.' << bit;
+      int changed = 0;
+      for (const std::uint32_t id : {10U, 11U, 20U, 21U}) {
+        const auto text = table->Find(1033, id);
+        ASSERT_TRUE(text) << id << " at " << at << '.' << bit;
+        changed += text->text != intact->Find(1033, id)->text;
+      }
+      EXPECT_LE(changed, 1) << at << '.' << bit;
+    }
+  }
+  EXPECT_GT(accepted, 0) << "a changed letter is a text all the same";
+}
+
+}  // namespace

@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QSplitter>
+#include <QStatusBar>
 #include <QStyle>
 #include <QTableWidget>
 #include <QThread>
@@ -20,6 +21,7 @@
 #include "app/CommandLog.h"
 #include "app/FaultPanel.h"
 #include "host/CAdvanceDlg.h"
+#include "i18n/Catalog.h"
 
 namespace {
 
@@ -64,6 +66,9 @@ MainWindow::MainWindow(std::vector<ProjectorProfile> profiles)
   }
 
   setWindowTitle(QStringLiteral("Advanced Control: Simulated Projectors"));
+  if (const std::string problem = CatalogProblem(); !problem.empty()) {
+    statusBar()->addWidget(new QLabel(QString::fromStdString(problem)));
+  }
   auto* tools = new QSplitter(Qt::Vertical);
   tools->addWidget(faults_);
   tools->addWidget(log_);

@@ -30,6 +30,8 @@ while(next LESS count)
   list(LENGTH headers count)
   math(EXPR next "${next} + 1")
 endwhile()
+list(TRANSFORM headers PREPEND src/ OUTPUT_VARIABLE read)
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${read})
 foreach(header IN LISTS headers)
   get_filename_component(folder ${header} DIRECTORY)
   install(FILES src/${header}

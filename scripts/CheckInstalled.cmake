@@ -55,14 +55,21 @@ endforeach()
 execute_process(COMMAND nm -DC --defined-only ${BUILD_DIR}/bin/libAdvancedControl.so
                 OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
 foreach(shown "CAdvanceDlg::CopyData3(" "CAdvanceDlg::DispTabScreen(" "GetCatalogText("
-              "CPictureTabType5Dlg::ActIrisValueToIdx(" "CServiceDlg::CServiceDlg("
+              "CPictureTabType5Dlg::ActIrisValueToIdx(" "CServiceDlg::CServiceDlg(" "CServiceDlg::OnBnClickedSvcIrtopchk("
+              "CInputType5Dlg::OnCbnSelchangeInput5ProgComb(" "COption5TabDlg::OnHScroll("
               "CPjtInterface::operator=(")
   string(FIND "${symbols}" "${shown}" found)
   if(found EQUAL -1)
     message(FATAL_ERROR "${shown} is hidden from the library's users")
   endif()
 endforeach()
-foreach(hidden "CSliderCtrl::" "ResourceChain::" "CStatusTabDlg::" "ParseRange(" "MessageTable::")
+string(REGEX MATCHALL "[^\n]* T [^\n]*" functions "${symbols}")
+foreach(function IN LISTS functions)
+  if(NOT function MATCHES " T (non-virtual thunk to |virtual thunk to )?(CAdvanceDlg|CDialog|SettingsDialog|RowDialog|CTabPage|PicturePage|CPictureTabType5Dlg|CSetupType5TabDlg|CAudioType5Dlg|CInputType5Dlg|COption5TabDlg|CServiceDlg|CPjtInterface|CModelInfo|CScheduleInfo|CComCtrl|CSocketCtrl|LoadCatalog|ReleaseCatalog|IsCatalogLoaded|CatalogProblem|GetCatalogText|GetCatalogTextV|LocalizeControlTexts|SystemLanguageId|WindowText|SetWindowText|PagesOf|TabsOf|KeyOf|ControlOf|FindRow|KeepsTemplate|Has|ReadingOf|SliderRange|StepBounds|Perform|Read|GammaEntries|ColorTempEntries|Picture1ColorTempEntries|WhisperEntries|AspectEntries|SourceEntries|PositionOf|ParseRange)(::|\\()")
+    message(FATAL_ERROR "The library shows its users more than it offers: ${function}")
+  endif()
+endforeach()
+foreach(hidden "CSliderCtrl::" "ResourceChain::" "CStatusTabDlg::" "MessageTable::")
   string(FIND "${symbols}" "${hidden}" found)
   if(NOT found EQUAL -1)
     message(FATAL_ERROR "${hidden} is shown to the library's users")

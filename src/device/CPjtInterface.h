@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "AdvancedControlExport.h"
 #include "device/CComCtrl.h"
 #include "device/CSocketCtrl.h"
 #include "device/ProjectorChannel.h"
@@ -74,7 +75,6 @@ class ADVANCED_CONTROL_EXPORT CPjtInterface {
 #define PJT_FORM_ChannelStepper(name) short name(int channel, short value);  // `value` if refused.
 #define PJT_FORM_Generic(name)
 #define PJT_OPERATION(name, family) PJT_FORM_##family(name)
-#include "AdvancedControlExport.h"
 #include "device/PjtOperations.def"
 #undef PJT_FORM_Action
 #undef PJT_FORM_CheckedReset

@@ -4,6 +4,8 @@
 #include <optional>
 #include <string_view>
 
+#include "AdvancedControlExport.h"
+
 /// Every operation that the projector understands, named as `CPjtInterface` names it.
 enum class PjtOperation {
 #define PJT_OPERATION(name, family) name,
@@ -37,7 +39,6 @@ enum class OperationFamily {
 /// Number of operations; their enumerators run from 0 to `kOperationCount` − 1.
 inline constexpr std::size_t kOperationCount = 0
 #define PJT_OPERATION(name, family) +1
-#include "AdvancedControlExport.h"
 #include "device/PjtOperations.def"
     ;
 

@@ -1,6 +1,7 @@
 #include "i18n/Catalog.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstring>
 #include <dlfcn.h>
 #include <exception>
@@ -11,6 +12,8 @@
 #include <unistd.h>
 #include <utility>
 #include <vector>
+
+#include <QLoggingCategory>
 
 #include "i18n/MessageCatalog.h"
 #include "i18n/SystemLanguage.h"
@@ -27,6 +30,19 @@ constexpr std::string_view kNoCatalog = "No Message Catalog";
 std::optional<MessageCatalog>& LoadedCatalog() {
   static std::optional<MessageCatalog> catalog;
   return catalog;
+}
+
+// Why no catalog is loaded.
+std::string& Problem() {
+  static std::string problem;
+  return problem;
+}
+
+int Fail(std::string problem) {
+  Problem() = std::move(problem);
+  static const QLoggingCategory category("advancedcontrol.catalog");
+  qCWarning(category, "%s", Problem().c_str());
+  return -1;
 }
 
 // Whether the current directory holds something of this name.
@@ -46,6 +62,8 @@ std::vector<std::string> CatalogFolders() {
   if (!program.empty()) folders.push_back(program.parent_path().string());
   if (!libraryFolder.empty()) {
     folders.push_back((libraryFolder / "../share/advanced-control").string());
+    // A library in a folder of its architecture.
+    folders.push_back((libraryFolder / "../../share/advanced-control").string());
   }
 #ifdef ADVANCEDCONTROL_DATADIR
   folders.emplace_back(ADVANCEDCONTROL_DATADIR);
@@ -119,15 +137,26 @@ int LoadCatalog(std::span<const std::string> folders) {
   ReleaseCatalog();
   const bool chinese = SystemLanguageId() == kChineseSimplified || MarkerExists(kChineseMarker);
   const char* module = chinese ? "mcschn.dll" : "mcdll.dll";
+  Problem().clear();
+  std::string looked;
   for (const std::string& folder : folders) {
     const fs::path path = fs::path(folder) / module;
     std::error_code error;
-    if (!fs::is_regular_file(path, error)) continue;
+    if (!fs::is_regular_file(path, error)) {
+      looked += (looked.empty() ? "" : ", ") + (folder.empty() ? std::string(".") : folder);
+      continue;
+    }
     LoadedCatalog() = MessageCatalog::Load(path.string());
-    break;
+    if (IsCatalogLoaded()) return 0;
+    const char* const reason = access(path.c_str(), R_OK) == 0
+                                   ? "it is no message module, or a damaged one"
+                                   : std::strerror(errno);
+    return Fail(path.string() + " is refused: " + reason);
   }
-  return IsCatalogLoaded() ? 0 : -1;
+  return Fail(std::string(module) + " is not found in " + looked);
 }
+
+std::string CatalogProblem() { return Problem(); }
 
 void ReleaseCatalog() { LoadedCatalog().reset(); }
 

@@ -22,8 +22,9 @@ constexpr std::uint32_t MessageId(int category, int number) {
 /// Simplified Chinese or where a file "GETSCH" is in the current directory, else "mcdll.dll".
 ///
 /// The module is the first file of that name beside the library, beside the application, in
-/// "../share/advanced-control" from the library, in the installed data folder, or in the current
-/// directory; if that one is damaged, no other is tried. Returns 0, or -1 and no catalog is loaded.
+/// "../share/advanced-control" or "../../share/advanced-control" from the library, in the installed
+/// data folder, or in the current directory; if that one is damaged, no other is tried. Returns 0,
+/// or -1 and no catalog is loaded.
 ADVANCED_CONTROL_EXPORT int LoadCatalog();
 
 /// The same with `folders` to look in, in their order; an empty name is the current directory.
@@ -31,6 +32,10 @@ ADVANCED_CONTROL_EXPORT int LoadCatalog(std::span<const std::string> folders);
 
 /// Releases the loaded module, if any.
 ADVANCED_CONTROL_EXPORT void ReleaseCatalog();
+
+/// Which module was refused and why, or where none was found; empty with a catalog. Each failed
+/// `LoadCatalog` also logs it, as a warning of the category "advancedcontrol.catalog".
+ADVANCED_CONTROL_EXPORT std::string CatalogProblem();
 
 /// Whether a module is loaded; without one every text is "No Message Catalog".
 ADVANCED_CONTROL_EXPORT bool IsCatalogLoaded();

@@ -49,7 +49,7 @@ constexpr RowTemplate kPower =
     Row(Left, Label(20630, "4200;Power"), Colon(20730), Button(20100, "4201;Turn On"),
         Button(20101, "4202;Turn Off"), Text(20102));
 constexpr RowTemplate kInputSource = ListRow(31, "146;Input Source", 20103);
-constexpr RowTemplate kBlank = ListRow(32, "38;Blank", 20104);
+constexpr RowTemplate kBlank = ListRow(32, "148;Blank On/Off", 20104);
 constexpr RowTemplate kMute = ListRow(33, "149;Mute", 20105);
 constexpr RowTemplate kFreeze = ListRow(34, "150;Freeze", 20106);
 

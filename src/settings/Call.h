@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 
+#include "AdvancedControlExport.h"
 #include "device/CPjtInterface.h"
 #include "settings/ModelCodes.h"
 
@@ -25,10 +26,11 @@ struct Answer {
 };
 
 /// Sends a call. What a caller cannot learn counts as accepted: operations without a result.
-Answer Perform(CPjtInterface& projector, const Call& call, int value = 0, int modelCode = 0);
+ADVANCED_CONTROL_EXPORT Answer Perform(CPjtInterface& projector, const Call& call, int value = 0,
+                                       int modelCode = 0);
 
 /// Reads a setting; nothing when the read fails.
-std::optional<int> Read(CPjtInterface& projector, const Call& call);
+ADVANCED_CONTROL_EXPORT std::optional<int> Read(CPjtInterface& projector, const Call& call);
 
 // How a table names its calls.
 

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "AdvancedControlExport.h"
 #include "device/ModelData.h"
 #include "settings/ModelCodes.h"
 
@@ -62,16 +63,16 @@ class Entries {
 
 // Lists that the model brings with it.
 
-std::vector<ListEntry> GammaEntries(const ModelData& model);
-std::vector<ListEntry> ColorTempEntries(const ModelData& model);
+ADVANCED_CONTROL_EXPORT std::vector<ListEntry> GammaEntries(const ModelData& model);
+ADVANCED_CONTROL_EXPORT std::vector<ListEntry> ColorTempEntries(const ModelData& model);
 /// The same under the texts that only one page uses.
 std::vector<ListEntry> Picture1ColorTempEntries(const ModelData& model);
 /// The lamp modes that the dialogs have a text for. Each stands for its position, so that an
 /// unknown name moves the modes behind it up: the position is what the projector takes.
-std::vector<ListEntry> WhisperEntries(const ModelData& model);
-std::vector<ListEntry> AspectEntries(const ModelData& model);
+ADVANCED_CONTROL_EXPORT std::vector<ListEntry> WhisperEntries(const ModelData& model);
+ADVANCED_CONTROL_EXPORT std::vector<ListEntry> AspectEntries(const ModelData& model);
 /// The input sources under their own names; the upper half of a source's word is none of its code.
-std::vector<ListEntry> SourceEntries(const ModelData& model);
+ADVANCED_CONTROL_EXPORT std::vector<ListEntry> SourceEntries(const ModelData& model);
 
 /// Position of the first entry that stands for `value`, or −1.
-int PositionOf(std::span<const ListEntry> entries, int value);
+ADVANCED_CONTROL_EXPORT int PositionOf(std::span<const ListEntry> entries, int value);

@@ -2,6 +2,8 @@
 
 #include <string_view>
 
+#include "AdvancedControlExport.h"
+
 /// Bounds of an adjustment, both included.
 struct Range {
   int minimum = 0;
@@ -13,4 +15,4 @@ struct Range {
 /// A model's range text, "minimum,maximum" in device units, as shown values: device value − bias.
 /// A text that is empty, does not have a decimal 16-bit integer on both sides of its first comma,
 /// or has them in the wrong order gives `fallback`, which is in shown values already.
-Range ParseRange(std::string_view text, int bias, Range fallback);
+ADVANCED_CONTROL_EXPORT Range ParseRange(std::string_view text, int bias, Range fallback);

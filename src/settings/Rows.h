@@ -6,6 +6,7 @@
 #include <string_view>
 #include <variant>
 
+#include "AdvancedControlExport.h"
 #include "settings/Call.h"
 #include "settings/ListEntry.h"
 #include "settings/ModelCodes.h"
@@ -173,21 +174,21 @@ struct PageTable {
 };
 
 /// Key, and the control by which a row is found in its template.
-std::string_view KeyOf(const PageRow& row);
-int ControlOf(const PageRow& row);
+ADVANCED_CONTROL_EXPORT std::string_view KeyOf(const PageRow& row);
+ADVANCED_CONTROL_EXPORT int ControlOf(const PageRow& row);
 
 /// The row that is found by a control, which the table must have.
-const PageRow& FindRow(const PageTable& table, int control);
+ADVANCED_CONTROL_EXPORT const PageRow& FindRow(const PageTable& table, int control);
 
 /// Whether the page uses the template as it is for this model.
-bool KeepsTemplate(const PageTable& table, int modelCode);
+ADVANCED_CONTROL_EXPORT bool KeepsTemplate(const PageTable& table, int modelCode);
 /// Whether a model has the row at an index of the table.
-bool Has(const PageTable& table, std::size_t row, int modelCode);
+ADVANCED_CONTROL_EXPORT bool Has(const PageTable& table, std::size_t row, int modelCode);
 
 /// How a row is read in the model's present state; nothing for one that shows no setting.
-std::optional<Call> ReadingOf(const PageRow& row, const ModelData& model);
+ADVANCED_CONTROL_EXPORT std::optional<Call> ReadingOf(const PageRow& row, const ModelData& model);
 
 /// The slider's range for a model, in shown values.
-Range SliderRange(const ValueRow& row, const ModelData& model);
+ADVANCED_CONTROL_EXPORT Range SliderRange(const ValueRow& row, const ModelData& model);
 /// Where − and + stop, in shown values; `slider` is the slider's range.
-Range StepBounds(const ValueRow& row, const ModelData& model, Range slider);
+ADVANCED_CONTROL_EXPORT Range StepBounds(const ValueRow& row, const ModelData& model, Range slider);

@@ -79,8 +79,8 @@ constexpr ListRow OneTouch(std::string_view key, int list) {
 constexpr ListRow IpRemoteId(std::string_view key, int list) {
   return {key, 4209, list, kRemoteIds, Get(CommandCode::IpRemoteId), Named(Op::SetIPRemoteID), kSilent};
 }
-constexpr ActionRow AutoAdjust(std::string_view key, int button) {
-  return {.key = key, .caption = 1013, .control = button, .call = Named(Op::ExecAutoAdjust), .error = ErrorText::AutoAdjustRefused};
+constexpr ActionRow AutoAdjust(std::string_view key, int button, Rereads rereads = Rereads::Never) {
+  return {.key = key, .caption = 1013, .control = button, .call = Named(Op::ExecAutoAdjust), .rereads = rereads, .error = ErrorText::AutoAdjustRefused};
 }
 
 // The rows of every other page.
@@ -92,7 +92,7 @@ constexpr ListRow InputSource(int list) {
   return {"other.input-source", 146, list, SourceEntries, Get(CommandCode::InputSource), Set(CommandCode::InputSource), {.refused = Refused::ReadsBack, .error = ErrorText::InputSourceRefused, .emptyIsNotRead = true}};
 }
 constexpr ListRow Blank(int list) {
-  return {"other.blank", 38, list, kSwitch, Get(CommandCode::BlankState), Named(Op::SetBlank), kSilent};
+  return {"other.blank", 148, list, kSwitch, Get(CommandCode::BlankState), Named(Op::SetBlank), kSilent};
 }
 constexpr ListRow Mute(int list) {
   return {"other.mute", 149, list, kSwitch, Get(CommandCode::Mute), Named(Op::SetMute), kSilent};

@@ -1,10 +1,15 @@
 // What a damaged module and a wrong environment may not do.
 
 #include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <span>
 #include <string>
 
+#include <QString>
 #include <gtest/gtest.h>
 
+#include "i18n/Catalog.h"
 #include "i18n/MessageTable.h"
 #include "i18n/SystemLanguage.h"
 #include "tests/i18n/ModuleBuilder.h"
@@ -52,6 +57,26 @@ TEST(DamagedTable, NoFlippedBitShowsATextUnderAnotherNumber) {
     }
   }
   EXPECT_GT(accepted, 0) << "a changed letter is a text all the same";
+}
+
+TEST(CatalogProblem, SaysWhichModuleWasRefusedOrWhereNoneWas) {
+  static std::string logged;
+  const auto before =
+      qInstallMessageHandler([](QtMsgType, const QMessageLogContext& context, const QString& text) {
+        logged = std::string(context.category) + ": " + text.toStdString();
+      });
+  const std::string folder = testing::TempDir() + "no-catalog";
+  std::filesystem::create_directory(folder);
+  std::filesystem::remove(folder + "/mcdll.dll");
+  EXPECT_EQ(LoadCatalog(std::span(&folder, 1)), -1);
+  EXPECT_NE(CatalogProblem().find("mcdll.dll is not found in " + folder), std::string::npos);
+  std::ofstream(folder + "/mcdll.dll") << "no module";
+  EXPECT_EQ(LoadCatalog(std::span(&folder, 1)), -1);
+  EXPECT_NE(CatalogProblem().find(folder + "/mcdll.dll is refused"), std::string::npos);
+  EXPECT_EQ(logged, "advancedcontrol.catalog: " + CatalogProblem());
+  EXPECT_EQ(LoadCatalog(), 0);
+  EXPECT_EQ(CatalogProblem(), "");
+  qInstallMessageHandler(before);
 }
 
 }  // namespace

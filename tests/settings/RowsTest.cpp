@@ -52,7 +52,9 @@ std::vector<const PageRow*> RowsOf(const ModelData& model) {
   for (const PageTab& tab : TabsOf(model.DialogType, model.ModelCode)) {
     tables.push_back(&TableOf(tab.page));
   }
-  if (model.DialogType == 5) tables.push_back(&kServiceRows);
+  if (model.DialogType == 5) {
+    tables.insert(tables.end(), {&kServiceRows, &kGammaRows, &kColorTempRows});
+  }
   std::vector<const PageRow*> rows;
   for (const PageTable* table : tables) {
     if (KeepsTemplate(*table, model.ModelCode)) continue;
@@ -162,6 +164,15 @@ TEST(RowsTest, EveryRowHasAKeyOfItsOwn) {
     }
     EXPECT_GE(keys.size(), 9U) << "the status page alone has nine";
   });
+}
+
+TEST(RowsTest, NoTableUsesAControlTwice) {
+  for (std::size_t page = 0; page < kPageCount; ++page) {
+    std::set<int> controls;
+    for (const PageRow& row : TableOf(static_cast<PageId>(page)).rows) {
+      EXPECT_TRUE(controls.insert(ControlOf(row)).second) << KeyOf(row);
+    }
+  }
 }
 
 }  // namespace

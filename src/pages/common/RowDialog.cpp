@@ -330,7 +330,7 @@ void RowDialog::Operate(const ValueRow& row, Bound& bound, int control) {
   const Range bounds = StepBounds(row, Model(), controls.Bounds());
   const Call step = row.Stepping(upwards);
   if (FamilyOf(step.operation) == OperationFamily::PointerStepper) {
-    StepByValue(row, controls, step);
+    StepByValue(row, controls, step, bounds);
     return;
   }
   // A field has no range of its own.
@@ -363,10 +363,16 @@ void RowDialog::Refuse(const ValueRow& row, ValueControls& controls, int positio
 }
 
 // Steppers that take the present value and answer with the new one.
-void RowDialog::StepByValue(const ValueRow& row, ValueControls& controls, const Call& step) {
+void RowDialog::StepByValue(const ValueRow& row, ValueControls& controls, const Call& step,
+                            Range bounds) {
   const auto value = Read(*projector, row.Reading());
-  if (!value) return;
-  const Answer stepped = Perform(*projector, step, *value);
+  // A row that tells refusals must not be told at its own end.
+  const bool upwards = step.operation == row.Stepping(true).operation;
+  if (value && row.error != 0 &&
+      (upwards ? *value - row.bias >= bounds.maximum : *value - row.bias <= bounds.minimum)) {
+    return;
+  }
+  const Answer stepped = value ? Perform(*projector, step, *value) : Answer{};
   if (stepped.accepted) {
     controls.current = static_cast<std::int16_t>(stepped.value - row.bias);
     controls.Show(controls.current);
@@ -419,7 +425,8 @@ const ResetEntry* RowDialog::ChosenReset(int button) const {
     const auto* reset = std::get_if<ResetRow>(&row);
     if (reset == nullptr || reset->control != button) continue;
     const auto chosen = List(reset->list).SelectedValue();
-    return chosen ? &reset->entries[static_cast<std::size_t>(*chosen)] : nullptr;
+    const bool listed = chosen && std::cmp_less(*chosen, reset->entries.size());
+    return listed ? &reset->entries[static_cast<std::size_t>(*chosen)] : nullptr;
   }
   return nullptr;
 }

@@ -57,7 +57,7 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
   bool Has(int control) const;
   /// The controls of a value row, by the number of its slider, or of its field without one.
   ValueControls& Value(int control);
-  /// Reads a list or check box again and shows what it says; a failed read changes nothing.
+  /// Reads a list again and shows what it says; a failed read changes nothing.
   void ReadBack(int control);
   /// Fills a list of resets with those of the present rows; nothing is selected then.
   void FillResets(int list);
@@ -98,7 +98,7 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
   void ReadBack(const ListRow& row);
   void ReadBack(const ValueRow& row, ValueControls& controls, bool anyResult = false);
   void Refuse(const ValueRow& row, ValueControls& controls, int position, bool told);
-  void StepByValue(const ValueRow& row, ValueControls& controls, const Call& step);
+  void StepByValue(const ValueRow& row, ValueControls& controls, const Call& step, Range bounds);
   void Drag(const ValueRow& row, ValueControls& controls);
   void Preselect(int list);
   void ReadAgainAfter(Rereads rereads, bool done);

@@ -45,7 +45,7 @@ void COption5TabDlg::InitDisp() {
   // The last entry of these models' lists is the one for assignments that the list does not offer.
   for (const int id : {kMyButton1, kMyButton2}) {
     CComboBox& list = List(id);
-    if (list.isEnabled() && list.currentIndex() < 0) list.Select(list.count() - 1);
+    if (list.isEnabledTo(this) && list.currentIndex() < 0) list.Select(list.count() - 1);
   }
 }
 
@@ -83,3 +83,14 @@ void COption5TabDlg::OnBnClickedOpt5Btnsvc() {
   dialog.ModelCode = Model().ModelCode;
   dialog.DoModal();
 }
+
+void COption5TabDlg::OnCbnSelchangeOpt5Atseacomb() { Act(20364); }
+void COption5TabDlg::OnCbnSelchangeOpt5Atkscomb() { Act(20365); }
+void COption5TabDlg::OnCbnSelchangeOpt5Atoncomb() { Act(20366); }
+void COption5TabDlg::OnBnClickedOpt5Btnatoffneg() { Act(20367); }
+void COption5TabDlg::OnBnClickedOpt5Btnatoffpos() { Act(20368); }
+void COption5TabDlg::OnCbnSelchangeOpt5Mysrccomb() { Act(20374); }
+void COption5TabDlg::OnCbnSelchangeOth4CcdisplayComb() { Act(20292); }
+void COption5TabDlg::OnCbnSelchangeOth4CcmodeComb() { Act(20293); }
+void COption5TabDlg::OnCbnSelchangeOth4CcchannelComb() { Act(20294); }
+void COption5TabDlg::OnHScroll(CSliderCtrl& slider) { CTabPage::OnHScroll(slider); }

@@ -21,16 +21,16 @@ class ADVANCED_CONTROL_EXPORT COption5TabDlg final : public CTabPage {
   int GetMyBtnVal(int index) const;
 
   // What the user does with each control, by name.
-  void OnCbnSelchangeOpt5Atseacomb() { Act(20364); }
-  void OnCbnSelchangeOpt5Atkscomb() { Act(20365); }
-  void OnCbnSelchangeOpt5Atoncomb() { Act(20366); }
-  void OnBnClickedOpt5Btnatoffneg() { Act(20367); }
-  void OnBnClickedOpt5Btnatoffpos() { Act(20368); }
-  void OnCbnSelchangeOpt5Mysrccomb() { Act(20374); }
-  void OnCbnSelchangeOth4CcdisplayComb() { Act(20292); }
-  void OnCbnSelchangeOth4CcmodeComb() { Act(20293); }
-  void OnCbnSelchangeOth4CcchannelComb() { Act(20294); }
-  using CTabPage::OnHScroll;
+  void OnCbnSelchangeOpt5Atseacomb();
+  void OnCbnSelchangeOpt5Atkscomb();
+  void OnCbnSelchangeOpt5Atoncomb();
+  void OnBnClickedOpt5Btnatoffneg();
+  void OnBnClickedOpt5Btnatoffpos();
+  void OnCbnSelchangeOpt5Mysrccomb();
+  void OnCbnSelchangeOth4CcdisplayComb();
+  void OnCbnSelchangeOth4CcmodeComb();
+  void OnCbnSelchangeOth4CcchannelComb();
+  void OnHScroll(CSliderCtrl& slider);
 
   void OnCbnSelchangeOpt5Mybtn1comb();
   void OnCbnSelchangeOpt5Mybtn2comb();

@@ -2,8 +2,10 @@
 
 #include <QLabel>
 
+#include "device/CommandCode.h"
 #include "resources/AdvancedControlResources.h"
 #include "settings/PageTables.h"
+#include "toolkit/CComboBox.h"
 #include "toolkit/MessageBox.h"
 
 namespace {
@@ -56,11 +58,14 @@ void COtherTabDlg::OnBnClickedOtherPowerOff() {
   if (!AskYesNo(this, CatalogString(kErrorCategory, ErrorText::PowerOffQuestion))) return;
   projector->SetPowerOff();
   InitDisp();
-  // The command has no result: only a projector that is still on tells that it was refused.
-  if (runningState_ == kOn) ShowError(ErrorText::PowerRefused);
+  // The command has no result: a projector that is still on, or does not say, tells the refusal.
+  if (!runningState_ || runningState_ == kOn) ShowError(ErrorText::PowerRefused);
 }
 
 void COtherTabDlg::OnCbnSelchangeOtherInput() {
-  Act(kInputSource);
+  const auto source = List(kInputSource).SelectedValue();
+  if (!source) return;
+  const bool accepted = Perform(*projector, Set(CommandCode::InputSource), *source).accepted;
   InitDisp();
+  if (!accepted) ShowError(ErrorText::InputSourceRefused);
 }

@@ -15,3 +15,12 @@ bool CServiceDlg::OnInitDialog() {
   Refresh();
   return true;
 }
+
+void CServiceDlg::OnCbnSelchangeSvcAtadjenbcomb() { Act(20374); }
+void CServiceDlg::OnBnClickedSvcIrfrontchk() { Act(20375); }
+void CServiceDlg::OnBnClickedSvcIrrearchk() { Act(20376); }
+void CServiceDlg::OnBnClickedSvcIrtopchk() { Act(20377); }
+void CServiceDlg::OnCbnSelchangeSvcIrfreqncomb() { Act(20378); }
+void CServiceDlg::OnCbnSelchangeSvcIrfreqhcomb() { Act(20379); }
+void CServiceDlg::OnCbnSelchangeSvcFocuslockcomb() { Act(20381); }
+void CServiceDlg::OnBnClickedSvcBtnclose() { accept(); }

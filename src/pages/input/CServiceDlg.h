@@ -15,14 +15,14 @@ class ADVANCED_CONTROL_EXPORT CServiceDlg final : public RowDialog {
   int ModelCode = 0;
 
   // A change of each control, by name.
-  void OnCbnSelchangeSvcAtadjenbcomb() { Act(20374); }
-  void OnBnClickedSvcIrfrontchk() { Act(20375); }
-  void OnBnClickedSvcIrrearchk() { Act(20376); }
-  void OnBnClickedSvcIrtopchk() { Act(20377); }
-  void OnCbnSelchangeSvcIrfreqncomb() { Act(20378); }
-  void OnCbnSelchangeSvcIrfreqhcomb() { Act(20379); }
-  void OnCbnSelchangeSvcFocuslockcomb() { Act(20381); }
-  void OnBnClickedSvcBtnclose() { accept(); }
+  void OnCbnSelchangeSvcAtadjenbcomb();
+  void OnBnClickedSvcIrfrontchk();
+  void OnBnClickedSvcIrrearchk();
+  void OnBnClickedSvcIrtopchk();
+  void OnCbnSelchangeSvcIrfreqncomb();
+  void OnCbnSelchangeSvcIrfreqhcomb();
+  void OnCbnSelchangeSvcFocuslockcomb();
+  void OnBnClickedSvcBtnclose();
 
  protected:
   const ModelData& Model() const override { return model_; }

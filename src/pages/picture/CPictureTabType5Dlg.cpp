@@ -38,3 +38,18 @@ short CPictureTabType5Dlg::ActIrisIdxToValue(short index) {
 short CPictureTabType5Dlg::ActIrisValueToIdx(short value) {
   return static_cast<short>(PositionOf(ActiveIrisEntries(), value));
 }
+
+void CPictureTabType5Dlg::OnBnClickedPicBgpBtn() { Act(20135); }
+void CPictureTabType5Dlg::OnBnClickedPicBgnBtn() { Act(20134); }
+void CPictureTabType5Dlg::OnBnClickedPicCnpBtn() { Act(20139); }
+void CPictureTabType5Dlg::OnBnClickedPicCnnBtn() { Act(20137); }
+void CPictureTabType5Dlg::OnBnClickedPicClrpBtn() { Act(20149); }
+void CPictureTabType5Dlg::OnBnClickedPicClrnBtn() { Act(20147); }
+void CPictureTabType5Dlg::OnBnClickedPicTintpBtn() { Act(21063); }
+void CPictureTabType5Dlg::OnBnClickedPicTintnBtn() { Act(21061); }
+void CPictureTabType5Dlg::OnBnClickedPicShppBtn() { Act(20150); }
+void CPictureTabType5Dlg::OnBnClickedPicShpnBtn() { Act(20148); }
+void CPictureTabType5Dlg::OnBnClickedPicMyldBtn() { Act(21065); }
+void CPictureTabType5Dlg::OnCbnSelchangePic5ActilisCombo() { Act(20293); }
+void CPictureTabType5Dlg::OnBnClickedPicRstBtn() { Act(21070); }
+void CPictureTabType5Dlg::OnHScroll(CSliderCtrl& slider) { PicturePage::OnHScroll(slider); }

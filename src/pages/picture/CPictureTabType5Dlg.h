@@ -17,20 +17,20 @@ class ADVANCED_CONTROL_EXPORT CPictureTabType5Dlg final : public PicturePage {
   static short ActIrisValueToIdx(short value);
 
   // What the user does with each control, by name.
-  void OnBnClickedPicBgpBtn() { Act(20135); }
-  void OnBnClickedPicBgnBtn() { Act(20134); }
-  void OnBnClickedPicCnpBtn() { Act(20139); }
-  void OnBnClickedPicCnnBtn() { Act(20137); }
-  void OnBnClickedPicClrpBtn() { Act(20149); }
-  void OnBnClickedPicClrnBtn() { Act(20147); }
-  void OnBnClickedPicTintpBtn() { Act(21063); }
-  void OnBnClickedPicTintnBtn() { Act(21061); }
-  void OnBnClickedPicShppBtn() { Act(20150); }
-  void OnBnClickedPicShpnBtn() { Act(20148); }
-  void OnBnClickedPicMyldBtn() { Act(21065); }
-  void OnCbnSelchangePic5ActilisCombo() { Act(20293); }
-  void OnBnClickedPicRstBtn() { Act(21070); }
-  using PicturePage::OnHScroll;
+  void OnBnClickedPicBgpBtn();
+  void OnBnClickedPicBgnBtn();
+  void OnBnClickedPicCnpBtn();
+  void OnBnClickedPicCnnBtn();
+  void OnBnClickedPicClrpBtn();
+  void OnBnClickedPicClrnBtn();
+  void OnBnClickedPicTintpBtn();
+  void OnBnClickedPicTintnBtn();
+  void OnBnClickedPicShppBtn();
+  void OnBnClickedPicShpnBtn();
+  void OnBnClickedPicMyldBtn();
+  void OnCbnSelchangePic5ActilisCombo();
+  void OnBnClickedPicRstBtn();
+  void OnHScroll(CSliderCtrl& slider);
 
  protected:
   bool IsCustomGamma(const CComboBox& list) const override;

@@ -206,3 +206,23 @@ void CAudioType5Dlg::OnCbnSelchangeAud5Srswcomb() {
   const auto value = static_cast<short>(SurroundValue(surround.currentIndex()));
   if (projector->SetSRSWOW(*source, value) == 0) RefreshSurround(*source);
 }
+
+void CAudioType5Dlg::OnCbnSelchangeAud5Spekcomb() { Act(20354); }
+void CAudioType5Dlg::OnCbnSelchangeAud5Argb1comb() { Act(20356); }
+void CAudioType5Dlg::OnCbnSelchangeAud5Acomp1comb() { Act(20365); }
+void CAudioType5Dlg::OnCbnSelchangeAud5Argb2comb() { Act(20358); }
+void CAudioType5Dlg::OnCbnSelchangeAud5Acomp2comb() { Act(20366); }
+void CAudioType5Dlg::OnCbnSelchangeAud5Am1dcomb() { Act(20359); }
+void CAudioType5Dlg::OnCbnSelchangeAud5Ahdmicomb() { Act(20367); }
+void CAudioType5Dlg::OnCbnSelchangeAud5Avidcomb() { Act(20360); }
+void CAudioType5Dlg::OnCbnSelchangeAud5Asvidcomb() { Act(20361); }
+void CAudioType5Dlg::OnCbnSelchangeAud5Acompcomb() { Act(20362); }
+void CAudioType5Dlg::OnCbnSelchangeAud5Amiucomb() { Act(20363); }
+void CAudioType5Dlg::OnCbnSelchangeAud5Aoutstbcomb() { Act(20368); }
+void CAudioType5Dlg::OnCbnSelchangeAud5Hdmiaudiocomb() { Act(20364); }
+void CAudioType5Dlg::OnBnClickedAud5Btnvolneg() { Step(0, false); }
+void CAudioType5Dlg::OnBnClickedAud5Btnvolpos() { Step(0, true); }
+void CAudioType5Dlg::OnBnClickedAud5Btntreneg() { Step(1, false); }
+void CAudioType5Dlg::OnBnClickedAud5Btntrepos() { Step(1, true); }
+void CAudioType5Dlg::OnBnClickedAud5Btnbasneg() { Step(2, false); }
+void CAudioType5Dlg::OnBnClickedAud5Btnbaspos() { Step(2, true); }

@@ -21,27 +21,27 @@ class ADVANCED_CONTROL_EXPORT CAudioType5Dlg final : public CTabPage {
   std::vector<PjtCommand> Reads() const override;
 
   // What the user does with each control, by name.
-  void OnCbnSelchangeAud5Spekcomb() { Act(20354); }
-  void OnCbnSelchangeAud5Argb1comb() { Act(20356); }
-  void OnCbnSelchangeAud5Acomp1comb() { Act(20365); }
-  void OnCbnSelchangeAud5Argb2comb() { Act(20358); }
-  void OnCbnSelchangeAud5Acomp2comb() { Act(20366); }
-  void OnCbnSelchangeAud5Am1dcomb() { Act(20359); }
-  void OnCbnSelchangeAud5Ahdmicomb() { Act(20367); }
-  void OnCbnSelchangeAud5Avidcomb() { Act(20360); }
-  void OnCbnSelchangeAud5Asvidcomb() { Act(20361); }
-  void OnCbnSelchangeAud5Acompcomb() { Act(20362); }
-  void OnCbnSelchangeAud5Amiucomb() { Act(20363); }
-  void OnCbnSelchangeAud5Aoutstbcomb() { Act(20368); }
-  void OnCbnSelchangeAud5Hdmiaudiocomb() { Act(20364); }
+  void OnCbnSelchangeAud5Spekcomb();
+  void OnCbnSelchangeAud5Argb1comb();
+  void OnCbnSelchangeAud5Acomp1comb();
+  void OnCbnSelchangeAud5Argb2comb();
+  void OnCbnSelchangeAud5Acomp2comb();
+  void OnCbnSelchangeAud5Am1dcomb();
+  void OnCbnSelchangeAud5Ahdmicomb();
+  void OnCbnSelchangeAud5Avidcomb();
+  void OnCbnSelchangeAud5Asvidcomb();
+  void OnCbnSelchangeAud5Acompcomb();
+  void OnCbnSelchangeAud5Amiucomb();
+  void OnCbnSelchangeAud5Aoutstbcomb();
+  void OnCbnSelchangeAud5Hdmiaudiocomb();
 
   void OnHScroll(CSliderCtrl& slider);
-  void OnBnClickedAud5Btnvolneg() { Step(0, false); }
-  void OnBnClickedAud5Btnvolpos() { Step(0, true); }
-  void OnBnClickedAud5Btntreneg() { Step(1, false); }
-  void OnBnClickedAud5Btntrepos() { Step(1, true); }
-  void OnBnClickedAud5Btnbasneg() { Step(2, false); }
-  void OnBnClickedAud5Btnbaspos() { Step(2, true); }
+  void OnBnClickedAud5Btnvolneg();
+  void OnBnClickedAud5Btnvolpos();
+  void OnBnClickedAud5Btntreneg();
+  void OnBnClickedAud5Btntrepos();
+  void OnBnClickedAud5Btnbasneg();
+  void OnBnClickedAud5Btnbaspos();
   void OnCbnSelchangeAud5Srswcomb();
 
  protected:

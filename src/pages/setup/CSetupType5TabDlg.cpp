@@ -227,7 +227,9 @@ void CSetupType5TabDlg::OnBnClickedStu5Btreset() {
 
 void CSetupType5TabDlg::ShowReset(ValueControls& row, int bias, int result, const Call& read) {
   if (result != 0) return;
-  if (const auto value = Read(*projector, read)) row.Show(*value - bias);
+  if (const auto value = Read(*projector, read)) {
+    row.Show(static_cast<std::int16_t>(*value) - bias);
+  }
 }
 
 void CSetupType5TabDlg::ResetKeystoneV() {
@@ -261,3 +263,34 @@ void CSetupType5TabDlg::OnCbnSelchangeCombStandbymode() {
   }
   Act(kStandbyMode);
 }
+
+void CSetupType5TabDlg::OnBnClickedStu5Btnatks() { Act(20305); }
+void CSetupType5TabDlg::OnCbnSelchangeStu5Wspcomb() { Act(20315); }
+void CSetupType5TabDlg::OnCbnSelchangeStu5Mircomb() { Act(20316); }
+void CSetupType5TabDlg::OnCbnSelchangeStu5Speakercomb() { Act(20321); }
+void CSetupType5TabDlg::OnBnClickedDzoomDecBtn() { Act(20331); }
+void CSetupType5TabDlg::OnBnClickedDzoomIncBtn() { Act(20333); }
+void CSetupType5TabDlg::OnBnClickedDshiftUpBtn() { Act(20335); }
+void CSetupType5TabDlg::OnBnClickedDshiftDownBtn() { Act(20336); }
+void CSetupType5TabDlg::OnBnClickedDshiftLeftBtn() { Act(20334); }
+void CSetupType5TabDlg::OnBnClickedDshiftRightBtn() { Act(20350); }
+void CSetupType5TabDlg::OnCbnSelchangeStu5Argb1comb() { Act(20320); }
+void CSetupType5TabDlg::OnCbnSelchangeStu5Acomp1comb() { Act(20369); }
+void CSetupType5TabDlg::OnCbnSelchangeStu5Argb2comb() { Act(20322); }
+void CSetupType5TabDlg::OnCbnSelchangeStu5Acomp2comb() { Act(20370); }
+void CSetupType5TabDlg::OnCbnSelchangeStu5Ahdmicomb() { Act(20329); }
+void CSetupType5TabDlg::OnCbnSelchangeStu5Avidcomb() { Act(20323); }
+void CSetupType5TabDlg::OnCbnSelchangeStu5Asvidcomb() { Act(20324); }
+void CSetupType5TabDlg::OnCbnSelchangeStu5Acompcomb() { Act(20325); }
+void CSetupType5TabDlg::OnCbnSelchangeStu5Amiucomb() { Act(20326); }
+void CSetupType5TabDlg::OnCbnSelchangeStu5HdmiaudioComb() { Act(20330); }
+void CSetupType5TabDlg::OnCbnSelchangeCombMonitoroutRgb1() { Act(20371); }
+void CSetupType5TabDlg::OnCbnSelchangeCombMonitoroutComputer1() { Act(20360); }
+void CSetupType5TabDlg::OnCbnSelchangeCombMonitoroutRgb2() { Act(20372); }
+void CSetupType5TabDlg::OnCbnSelchangeCombMonitoroutComputer2() { Act(20361); }
+void CSetupType5TabDlg::OnCbnSelchangeCombMonitoroutHdmi() { Act(20362); }
+void CSetupType5TabDlg::OnCbnSelchangeCombMonitoroutComponent() { Act(20363); }
+void CSetupType5TabDlg::OnCbnSelchangeCombMonitoroutSvideo() { Act(20364); }
+void CSetupType5TabDlg::OnCbnSelchangeCombMonitoroutVideo() { Act(20365); }
+void CSetupType5TabDlg::OnCbnSelchangeCombMonitoroutMiu() { Act(20366); }
+void CSetupType5TabDlg::OnCbnSelchangeCombMonitoroutStandby() { Act(20367); }

@@ -23,36 +23,36 @@ class ADVANCED_CONTROL_EXPORT CSetupType5TabDlg final : public CTabPage {
   int DisableVolumeCtrl(bool disable);
 
   // What the user does with each control, by name.
-  void OnBnClickedStu5Btnatks() { Act(20305); }
-  void OnCbnSelchangeStu5Wspcomb() { Act(20315); }
-  void OnCbnSelchangeStu5Mircomb() { Act(20316); }
-  void OnCbnSelchangeStu5Speakercomb() { Act(20321); }
-  void OnBnClickedDzoomDecBtn() { Act(20331); }
-  void OnBnClickedDzoomIncBtn() { Act(20333); }
-  void OnBnClickedDshiftUpBtn() { Act(20335); }
-  void OnBnClickedDshiftDownBtn() { Act(20336); }
-  void OnBnClickedDshiftLeftBtn() { Act(20334); }
-  void OnBnClickedDshiftRightBtn() { Act(20350); }
-  void OnCbnSelchangeStu5Argb1comb() { Act(20320); }
-  void OnCbnSelchangeStu5Acomp1comb() { Act(20369); }
-  void OnCbnSelchangeStu5Argb2comb() { Act(20322); }
-  void OnCbnSelchangeStu5Acomp2comb() { Act(20370); }
-  void OnCbnSelchangeStu5Ahdmicomb() { Act(20329); }
-  void OnCbnSelchangeStu5Avidcomb() { Act(20323); }
-  void OnCbnSelchangeStu5Asvidcomb() { Act(20324); }
-  void OnCbnSelchangeStu5Acompcomb() { Act(20325); }
-  void OnCbnSelchangeStu5Amiucomb() { Act(20326); }
-  void OnCbnSelchangeStu5HdmiaudioComb() { Act(20330); }
-  void OnCbnSelchangeCombMonitoroutRgb1() { Act(20371); }
-  void OnCbnSelchangeCombMonitoroutComputer1() { Act(20360); }
-  void OnCbnSelchangeCombMonitoroutRgb2() { Act(20372); }
-  void OnCbnSelchangeCombMonitoroutComputer2() { Act(20361); }
-  void OnCbnSelchangeCombMonitoroutHdmi() { Act(20362); }
-  void OnCbnSelchangeCombMonitoroutComponent() { Act(20363); }
-  void OnCbnSelchangeCombMonitoroutSvideo() { Act(20364); }
-  void OnCbnSelchangeCombMonitoroutVideo() { Act(20365); }
-  void OnCbnSelchangeCombMonitoroutMiu() { Act(20366); }
-  void OnCbnSelchangeCombMonitoroutStandby() { Act(20367); }
+  void OnBnClickedStu5Btnatks();
+  void OnCbnSelchangeStu5Wspcomb();
+  void OnCbnSelchangeStu5Mircomb();
+  void OnCbnSelchangeStu5Speakercomb();
+  void OnBnClickedDzoomDecBtn();
+  void OnBnClickedDzoomIncBtn();
+  void OnBnClickedDshiftUpBtn();
+  void OnBnClickedDshiftDownBtn();
+  void OnBnClickedDshiftLeftBtn();
+  void OnBnClickedDshiftRightBtn();
+  void OnCbnSelchangeStu5Argb1comb();
+  void OnCbnSelchangeStu5Acomp1comb();
+  void OnCbnSelchangeStu5Argb2comb();
+  void OnCbnSelchangeStu5Acomp2comb();
+  void OnCbnSelchangeStu5Ahdmicomb();
+  void OnCbnSelchangeStu5Avidcomb();
+  void OnCbnSelchangeStu5Asvidcomb();
+  void OnCbnSelchangeStu5Acompcomb();
+  void OnCbnSelchangeStu5Amiucomb();
+  void OnCbnSelchangeStu5HdmiaudioComb();
+  void OnCbnSelchangeCombMonitoroutRgb1();
+  void OnCbnSelchangeCombMonitoroutComputer1();
+  void OnCbnSelchangeCombMonitoroutRgb2();
+  void OnCbnSelchangeCombMonitoroutComputer2();
+  void OnCbnSelchangeCombMonitoroutHdmi();
+  void OnCbnSelchangeCombMonitoroutComponent();
+  void OnCbnSelchangeCombMonitoroutSvideo();
+  void OnCbnSelchangeCombMonitoroutVideo();
+  void OnCbnSelchangeCombMonitoroutMiu();
+  void OnCbnSelchangeCombMonitoroutStandby();
 
   void OnHScroll(CSliderCtrl& slider);
   void OnBnClickedStu5Btksvneg();

@@ -7,6 +7,7 @@
 
 #include "resources/AdvancedControlResources.h"
 #include "settings/PageTables.h"
+#include "toolkit/CComboBox.h"
 
 namespace {
 
@@ -46,6 +47,12 @@ QString InputText(const ModelData& model, int value) {
 }  // namespace
 
 CStatusTabDlg::CStatusTabDlg(CWnd* parent) : CTabPage(TemplateId::Status, kStatusRows, parent) {}
+
+bool CStatusTabDlg::OnInitDialog() {
+  CTabPage::OnInitDialog();
+  List(20019).Select(0);
+  return true;
+}
 
 void CStatusTabDlg::RefreshOwn(const OwnRow& row) {
   QString text = QStringLiteral("-");

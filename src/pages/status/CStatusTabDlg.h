@@ -11,6 +11,7 @@ class CStatusTabDlg final : public CTabPage {
   explicit CStatusTabDlg(CWnd* parent);
 
  protected:
+  bool OnInitDialog() override;
   void RefreshOwn(const OwnRow& row) override;
 
  private:

@@ -1,4 +1,5 @@
 #include "settings/PageTables.h"
+#include "settings/SharedRows.h"
 #include "settings/input/LegacyInputLists.h"
 
 namespace {
@@ -18,7 +19,7 @@ constexpr PageRow kRows[] = {
     VideoFormatRow(20055),
     ListRow{"input.hdtv", 64, 20047, kHdtvs, Get(CommandCode::Hdtv), Named(Op::SetHDTV), kSendsPosition},
     ListRow{"input.sync-on-green", 65, 20048, kSyncOnGreen, Get(CommandCode::SyncOnGreen), Named(Op::SetSyncOnG), kSendsPosition},
-    ActionRow{"input.auto-adjust", 1013, 20049, Named(Op::ExecAutoAdjust)},
+    shared::AutoAdjust("input.auto-adjust", 20049),
     ListRow{"input.p-in-p-input", 42, 20050, kPinPInputs, Get(CommandCode::PinPInput), Named(Op::SetPinPInput), kSendsPosition},
     ListRow{"input.p-in-p-position", 43, 20051, kPinPPositions, Get(CommandCode::PinPPosition), Named(Op::SetPinPPosition), kSendsPosition},
     ListRow{"input.p-in-p-audio", 44, 20052, kPinPAudios, Get(CommandCode::PinPAudio), Named(Op::SetPinPAudio), kSendsPosition},
@@ -40,4 +41,6 @@ static_assert(AreComplete(kModels, std::ssize(kRows)));
 
 }  // namespace
 
-constinit const PageTable kInput2Rows{kRows, kModels};
+// Of a model that is not listed nothing is known: every row is there, and those that it refuses
+// grey.
+constinit const PageTable kInput2Rows{kRows, kModels, Unlisted::AllRows};

@@ -1,4 +1,5 @@
 #include "settings/PageTables.h"
+#include "settings/SharedRows.h"
 #include "settings/input/LegacyInputLists.h"
 
 namespace {
@@ -12,7 +13,7 @@ constexpr PageRow kRows[] = {
     ListRow{"input.progressive", 60, 21054, kLegacyProgressive, Get(CommandCode::Progressive), Named(Op::SetProgressive), kSendsPosition, NotOn(10, 47, 48, 71)},
     ListRow{"input.black", 66, 21055, kInputSwitch, Get(CommandCode::Black), Named(Op::SetBlack), kSendsPosition, NotOn(10, 47, 48, 71)},
     ListRow{"input.hdtv", 64, 20111, kHdtvs, Get(CommandCode::Hdtv), Named(Op::SetHDTV), kSendsPosition, NotOn(47)},
-    ActionRow{"input.auto-adjust", 1013, 20108, Named(Op::ExecAutoAdjust)},
+    shared::AutoAdjust("input.auto-adjust", 20108),
 };
 // clang-format on
 

@@ -57,4 +57,6 @@ static_assert(AreComplete(kModels, std::ssize(kRows)));
 
 }  // namespace
 
-constinit const PageTable kInputRows{kRows, kModels};
+// Of a model that is not listed nothing is known: every row is there, and those that it refuses
+// grey.
+constinit const PageTable kInputRows{kRows, kModels, Unlisted::AllRows};

@@ -9,13 +9,15 @@ namespace {
 constexpr auto kPatterns = Numbered(ListText::PatternOff, ListText::PatternGrayScale9,
                                     ListText::PatternGrayScale15, ListText::PatternRamp);
 
-constexpr ListRow kPattern{"custom.pattern",
-                           1029,
-                           20158,
-                           kPatterns,
-                           Get(CommandCode::TestPattern),
-                           Set(CommandCode::TestPattern),
-                           {.error = ErrorText::TestPatternRefused, .failedReadDisables = false}};
+constexpr ListRow Pattern(std::string_view key) {
+  return {key,
+          1029,
+          20158,
+          kPatterns,
+          Get(CommandCode::TestPattern),
+          Set(CommandCode::TestPattern),
+          {.error = ErrorText::TestPatternRefused, .failedReadDisables = false}};
+}
 
 // The − and + buttons stop at the default range whatever range the model gives its sliders.
 constexpr ValueRow Row(std::string_view key, int caption, const ValueIds& ids, int code,
@@ -39,7 +41,7 @@ constexpr ValueRow Point(std::string_view key, int index, const ValueIds& ids) {
 }
 
 constexpr PageRow kGamma[] = {
-    kPattern,
+    Pattern("gamma.pattern"),
     Point("gamma.point-1", 0, {20160, 20181, 20161, 20162}),
     Point("gamma.point-2", 1, {20163, 21024, 20164, 20165}),
     Point("gamma.point-3", 2, {20166, 21025, 20167, 20168}),
@@ -60,7 +62,7 @@ constexpr ValueRow Adjust(std::string_view key, int index, int code, const Value
 constexpr int kGain = CommandCode::ColorTempGainR;
 constexpr int kOffset = CommandCode::ColorTempOffsetR;
 constexpr PageRow kColorTemp[] = {
-    kPattern,
+    Pattern("color-temp.pattern"),
     Adjust("color-temp.gain-r", 0, kGain, {20182, 20181, 20188, 20194}),
     Adjust("color-temp.gain-g", 1, kGain + 1, {20183, 21024, 20189, 20195}),
     Adjust("color-temp.gain-b", 2, kGain + 2, {20184, 21025, 20190, 20196}),

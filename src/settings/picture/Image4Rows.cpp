@@ -1,4 +1,5 @@
 #include "settings/PageTables.h"
+#include "settings/SharedRows.h"
 #include "settings/picture/PictureRows.h"
 
 namespace {
@@ -22,10 +23,10 @@ constexpr PageRow kRows[] = {
     PlainSlider("image.over-scan", 47, {20046, 20047, 20048, 20049}, CommandCode::OverScan, ErrorText::OverScanRefused, RangeIndex::OverScan, kOverScan),
     PositionV("image.position-v", kArrows),
     PositionH("image.position-h", kArrows),
-    PlainSlider("image.h-phase", 49, {20207, 20209, 20208, 20210}, CommandCode::HPhase, ErrorText::HPhaseRefused, RangeIndex::HPhase, kHPhase, 4),
+    PlainSlider("image.h-phase", 49, {20207, 20209, 20208, 20210}, CommandCode::HPhase, ErrorText::HPhaseRefused, RangeIndex::HPhase, kImageHPhase, 4),
     SteppedField("image.h-size", 50, {.minus = 20211, .plus = 20213, .field = 20212}, CommandCode::HSize, ErrorText::HSizeRefused),
     // It moves what the rows above show.
-    ActionRow{"image.auto-adjust", 1013, 20215, Named(Op::ExecAutoAdjust), Rereads::WhenDone},
+    shared::AutoAdjust("image.auto-adjust", 20215, Rereads::WhenDone),
     ResetRow{"image.reset", 20214, 20216, kResets},
 };
 // clang-format on

@@ -15,14 +15,15 @@ constexpr ResetEntry kResets[] = {
     {ListText::VPosition, Op::ExecVPosReset, 20045},
     {ListText::HPosition, Op::ExecHPosReset, 20044},
     {ListText::HSize, Op::ExecHSizeReset, 20040},
-    {ListText::Picture22OverScan, Op::ExecOverScanReset, 20030},
+    // Model 15 shows no over scan but has it, so that it can still be reset.
+    {ListText::Picture22OverScan, Op::ExecOverScanReset},
 };
 
 // clang-format off
 constexpr PageRow kRows[] = {
     PositionV("picture.position-v", kArrows),
     PositionH("picture.position-h", kArrows),
-    PlainSlider("picture.h-phase", 49, {20801, 20036, 20802, 20038}, CommandCode::HPhase, ErrorText::HPhaseRefused, RangeIndex::HPhase, kHPhase, 4),
+    PlainSlider("picture.h-phase", 49, {20801, 20036, 20802, 20038}, CommandCode::HPhase, ErrorText::HPhaseRefused, RangeIndex::HPhase, kHPhase, kHPhaseTicks),
     SteppedField("picture.h-size", 50, {.minus = 20803, .plus = 20804, .field = 20040}, CommandCode::HSize, ErrorText::HSizeRefused),
     ListRow{"picture.over-scan", 47, 20030, kOverScans, Get(CommandCode::OverScan), Set(CommandCode::OverScan), {.error = ErrorText::OverScanRefused}, NotOn(15)},
     ResetRow{"picture.position-reset", 20042, 20043, kResets},

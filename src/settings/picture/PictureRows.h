@@ -17,9 +17,14 @@ inline constexpr ListRules kGammaRules{.sendsPosition = true, .emptyIsNotRead = 
 inline constexpr ListRules kColorTempRules{.error = ErrorText::ColorTempRefused,
                                            .emptyIsNotRead = true};
 
+// Positions, phase and over scan have no zero point: they are shown as the projector counts them.
+// Where the model tells no range, over scan ends at the projector's last step.
 inline constexpr Range kOverScan{0, 10};
-inline constexpr Range kHPhase{0, 31};
-// Model 3 is offered the finer steps that others have for color; what it lacks of them it refuses.
+// The phase of the sets whose setup page has it too, and of the image page's newer models.
+inline constexpr Range kHPhase{0, 248};
+inline constexpr int kHPhaseTicks = 32;
+inline constexpr Range kImageHPhase{0, 31};
+// Model 3 counts a balance as it counts color, in a wider range.
 inline constexpr PerModel<Range> kColorBalance{{-32, 32}, {3}, {-63, 63}};
 
 /// A number of two digits at most, as text.

@@ -33,7 +33,7 @@ constexpr PageRow kRows[] = {
              .rangeText = RangeIndex::ElectricZoom, .range = kZoom, .bounds = kZoom, .ticks = 2, .error = ErrorText::ElectricZoomRefused},
     ValueRow{.key = "setup.keystone", .caption = 77, .ids = {20249, 20250, 20251, 20252}, .code = CommandCode::Keystone, .bias = CommandCode::kZeroPoint,
              .rangeText = RangeIndex::KeystoneV, .range = kKeystone, .bounds = kKeystone, .ticks = 16, .error = ErrorText::KeystoneRefused},
-    ListRow{"setup.whisper", 75, 20242, WhisperEntries, Get(CommandCode::Whisper), Named(Op::SetWhisper), kMode},
+    ListRow{"setup.whisper", 75, 20242, WhisperEntries, Get(CommandCode::Whisper), Named(Op::SetWhisper), {.refused = Refused::ReadsBack, .emptyIsNotRead = true}},
     ListRow{"setup.mirror", 40, 20243, kMirrors, Named(Op::GetMirror), Named(Op::SetMirror), kMode},
     ValueRow{.key = "setup.volume", .caption = 1, .ids = {20244, 20245, 20246, 20256}, .code = CommandCode::Volume,
              .rangeText = RangeIndex::Volume, .range = kVolume, .bounds = kVolumeBounds, .ticks = 4, .error = ErrorText::VolumeRefused},

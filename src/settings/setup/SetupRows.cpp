@@ -51,7 +51,7 @@ constexpr PageRow kRows[] = {
     Bounded(kBalance, CentredSlider("setup.color-balance-r", 125, {20103, 20104, 20105, 20106}, CommandCode::ColorBalR, ErrorText::ColorBalRRefused, RangeIndex::ColorBalR)),
     Bounded(kBalance, CentredSlider("setup.color-balance-b", 127, {21042, 21043, 21068, 20107}, CommandCode::ColorBalB, ErrorText::ColorBalBRefused, RangeIndex::ColorBalB)),
     // The projector takes the position in the model's list, and reports the value.
-    ListRow{"setup.aspect", 46, 20099, AspectEntries, Get(CommandCode::Aspect), Named(Op::SetAspect), {.sendsPosition = true}},
+    ListRow{"setup.aspect", 46, 20099, AspectEntries, Get(CommandCode::Aspect), Named(Op::SetAspect), {.sendsPosition = true, .emptyIsNotRead = true}},
     ResetRow{"setup.reset", 21069, 21073, kResets},
 };
 // clang-format on

@@ -204,6 +204,27 @@ void ExpectNothingClipped(const CDialog& page) {
   }
 }
 
+// The present rows of a column stand at one pitch, each with its controls on one line.
+TEST(Sweep, PresentRowsArePacked) {
+  ForEachPage([](OpenDialog&, CTabPage& page) {
+    std::map<RowPlace, int> above;
+    std::vector<int> pitches;
+    for (const RowTemplate& row : page.Template()->rows) {
+      int line = 0;
+      for (const ControlTemplate& control : row.controls) {
+        const QWidget* widget = page.GetDlgItem(control.id);
+        if (widget == nullptr || !widget->isVisible()) continue;
+        if (line == 0) line = widget->geometry().center().y();
+        EXPECT_NEAR(widget->geometry().center().y(), line, 1) << control.id;
+      }
+      if (line == 0 || row.place == RowPlace::Bottom) continue;
+      if (above.contains(row.place)) pitches.push_back(line - above[row.place]);
+      above[row.place] = line;
+    }
+    for (const int pitch : pitches) EXPECT_NEAR(pitch, pitches.front(), 1);
+  });
+}
+
 TEST(Sweep, NothingIsClippedInEitherLanguageAtAnyFontSize) {
   const QFont before = QApplication::font();
   for (const char* language : {"en_US.UTF-8", "zh_CN.UTF-8"}) {

@@ -40,8 +40,9 @@ std::optional<JsonLines::Fault> StringFault(const QByteArray& text, qsizetype& a
     }
     const int unit = EscapedUnit(text, at);
     if (unit < 0) {
-      if (at + 1 < text.size() && QByteArrayView("bfnrt").contains(text[at + 1])) return control();
-      at += 2;
+      const char escaped = ++at < text.size() ? text[at] : '"';
+      if (QByteArrayView("bfnrt").contains(escaped)) return control();
+      if (escaped == '"' || escaped == '\\') ++at;
       continue;
     }
     if (unit < 0x20 || unit == 0x7F) return control();

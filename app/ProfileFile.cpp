@@ -84,7 +84,7 @@ QString At(const QString& path, const QString& key) {
   return path.isEmpty() ? key : path + QLatin1Char('.') + key;
 }
 
-QString At(const QString& path, int index) { return QStringLiteral("%1[%2]").arg(path).arg(index); }
+QString At(const QString& path, int index) { return path + QStringLiteral("[%1]").arg(index); }
 
 void CheckKeys(const QJsonObject& object, const QString& path, const QStringList& known) {
   for (auto member = object.begin(); member != object.end(); ++member) {
@@ -387,9 +387,10 @@ std::vector<ProjectorProfile> Profiles(const QJsonDocument& document) {
     }
     const auto [named, isNew] = entryOfName.emplace(draft.profile.Name, i);
     if (!isNew) {
-      throw WrongValue{At(path, "name"), QStringLiteral("\"%1\" is the name of projectors[%2] too")
-                                             .arg(Text(draft.profile.Name))
-                                             .arg(named->second)};
+      throw WrongValue{
+          At(path, "name"),
+          QLatin1Char('"') + Text(draft.profile.Name) +
+              QStringLiteral("\" is the name of projectors[%1] too").arg(named->second)};
     }
     profiles.push_back(std::move(draft.profile));
   }
@@ -404,7 +405,7 @@ ProfileFileContents Wrong(const QString& error) { return {.projectors = {}, .err
 ProfileFileContents ParseProfiles(const QByteArray& text, const QString& fileName) {
   const auto faultAt = [&](qsizetype offset, const QString& message) {
     const auto [line, column] = JsonLines::PlaceOf(text, offset);
-    return Wrong(QStringLiteral("%1:%2:%3: %4").arg(fileName).arg(line).arg(column).arg(message));
+    return Wrong(fileName + QStringLiteral(":%1:%2: ").arg(line).arg(column) + message);
   };
   if (const auto fault = JsonLines::FaultOf(text)) return faultAt(fault->offset, fault->message);
   QJsonParseError syntax;
@@ -413,7 +414,7 @@ ProfileFileContents ParseProfiles(const QByteArray& text, const QString& fileNam
 
   const auto wrongValue = [&](const QString& path, int line, const QString& message) {
     const QString place = path.isEmpty() ? QString() : path + QStringLiteral(": ");
-    return Wrong(QStringLiteral("%1:%2: ").arg(fileName).arg(line) + place + message);
+    return Wrong(fileName + QStringLiteral(":%1: ").arg(line) + place + message);
   };
   const JsonLines lines(text);
   if (const auto repeated = lines.RepeatedKey()) {

@@ -5,6 +5,8 @@
 #include <cstdlib>
 #include <string>
 
+#include <unicode/uclean.h>
+
 #include "fuzz/Check.h"
 #include "i18n/SystemLanguage.h"
 
@@ -13,5 +15,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   setenv("LC_ALL", name.c_str(), 1);
   const std::uint32_t language = SystemLanguageId();
   Check(language > 0 && language <= UINT16_MAX);
+  // The locale library finds out its own default from the environment, but only at first.
+  u_cleanup();
   return 0;
 }

@@ -106,6 +106,8 @@ constexpr WrongFile kWrongFiles[] = {
     {"HighSurrogateAlone", "[\"\\ud800\\u0041\"]", "p.json:1:3: half a surrogate pair in a text"},
     {"LowSurrogateAlone", "[\"\\ud83d\\ude00\\ude00\"]",
      "p.json:1:15: half a surrogate pair in a text"},
+    {"PlaceholderAsFamily", "{\"families\": {\n\"%1\": {\"gamma\": [\n-1]}}}",
+     "p.json:3: families.%1.gamma[0]: is -1;"},
     {"LackOfNothing", "{\"projectors\": [{\"lacks\": [\"Active iris\", \"Coffee\"]}]}",
      "p.json:1: projectors[0].lacks[1]: there is no setting \"Coffee\""},
     {"UnknownFamily", "{\"projectors\": [{\"like\": \"x\"}]}",

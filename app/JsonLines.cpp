@@ -27,11 +27,8 @@ std::optional<JsonLines::Fault> StringFault(const QByteArray& text, qsizetype& a
   const auto control = [&at] {
     return JsonLines::Fault{at, QStringLiteral("control character in a text")};
   };
-  while (at < text.size() && text[at] != '"') {
-    if (at - begin > JsonLines::kMaximumStringBytes) {
-      return JsonLines::Fault{
-          begin, QStringLiteral("text of more than %1 bytes").arg(JsonLines::kMaximumStringBytes)};
-    }
+  const qsizetype last = begin + 1 + JsonLines::kMaximumStringBytes;
+  while (at < text.size() && at <= last && text[at] != '"') {
     const auto byte = static_cast<unsigned char>(text[at]);
     if (byte < 0x20 || byte == 0x7F) return control();
     if (byte != '\\') {
@@ -40,9 +37,9 @@ std::optional<JsonLines::Fault> StringFault(const QByteArray& text, qsizetype& a
     }
     const int unit = EscapedUnit(text, at);
     if (unit < 0) {
-      const char escaped = ++at < text.size() ? text[at] : '"';
+      const char escaped = at + 1 < text.size() ? text[at + 1] : '"';
       if (QByteArrayView("bfnrt").contains(escaped)) return control();
-      if (escaped == '"' || escaped == '\\') ++at;
+      at += escaped == '"' || escaped == '\\' ? 2 : 1;
       continue;
     }
     if (unit < 0x20 || unit == 0x7F) return control();
@@ -52,6 +49,10 @@ std::optional<JsonLines::Fault> StringFault(const QByteArray& text, qsizetype& a
       return JsonLines::Fault{at, QStringLiteral("half a surrogate pair in a text")};
     }
     at += isPair ? 12 : 6;
+  }
+  if (at > last) {
+    return JsonLines::Fault{
+        begin, QStringLiteral("text of more than %1 bytes").arg(JsonLines::kMaximumStringBytes)};
   }
   ++at;
   return {};
@@ -92,8 +93,10 @@ std::optional<JsonLines::Fault> JsonLines::FaultOf(const QByteArray& text) {
 template <typename Visitor>
 class JsonLines::Walk {
  public:
-  Walk(const QByteArray& text, Visitor& visitor) : text_(text), visitor_(visitor) {
-    if (text.startsWith(kByteOrderMark)) at_ = kByteOrderMark.size();
+  Walk(const QByteArray& text, Visitor& visitor) : text_(text), visitor_(visitor) {}
+
+  void Run() {
+    if (text_.startsWith(kByteOrderMark)) at_ = kByteOrderMark.size();
     Value(nullptr);
   }
 
@@ -193,7 +196,7 @@ int JsonLines::LineOf(const QString& path) const {
     const QString& wanted;
     int line = 1;
   } finder{.wanted = path};
-  Walk(text_, finder);
+  Walk(text_, finder).Run();
   return finder.line;
 }
 
@@ -209,7 +212,7 @@ std::optional<JsonLines::Repeated> JsonLines::RepeatedKey() const {
     QList<QSet<QString>> open;
     std::optional<Repeated> found;
   } finder;
-  Walk(text_, finder);
+  Walk(text_, finder).Run();
   return finder.found;
 }
 

@@ -102,7 +102,7 @@ QJsonObject Object(const QJsonValue& value, const QString& path) {
 
 QJsonArray Array(const QJsonValue& value, const QString& path, int capacity) {
   if (!value.isArray()) throw WrongValue{path, QStringLiteral("must be an array")};
-  const QJsonArray array = value.toArray();
+  QJsonArray array = value.toArray();
   if (array.size() > capacity) {
     throw WrongValue{
         path,

@@ -145,6 +145,7 @@ TEST(ProfileFile, TooMuchIsRefusedAtOnce) {
       {Repeat("{\"a\":", 900'000), "p.json:1:1: more than 4194304 bytes"},
       {"[" + Repeat("1,", 25'000'000), "p.json:1:1: more than 4194304 bytes"},
       {"[\n" + Repeat("1,", 200'000), "p.json:2:199998: more than 100000 values"},
+      {"[\"" + Repeat("a", 256) + "\"]", "p.json:1: the file must hold an object"},
       {"[\"" + Repeat("a", 257) + "\"]", "p.json:1:2: text of more than 256 bytes"},
       {"{\"projectors\": [" + Repeat("0,", 1000) + "0]}",
        "p.json:1: projectors: has 1001 entries; at most 1000"},

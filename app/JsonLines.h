@@ -1,22 +1,42 @@
 #pragma once
 
+#include <optional>
+
 #include <QByteArray>
-#include <QHash>
 #include <QString>
 
 /// Where each value of a JSON text stands. Paths are written "projectors[3].ranges.brightness"; the
 /// whole text has an empty one.
 class JsonLines {
  public:
-  /// `text` must be well-formed JSON.
-  explicit JsonLines(const QByteArray& text);
+  /// What a text may hold at most. What exceeds it is not read at all.
+  static constexpr qsizetype kMaximumBytes = qsizetype{4} << 20;
+  static constexpr int kMaximumDepth = 16;
+  static constexpr int kMaximumValues = 100'000;
+  static constexpr qsizetype kMaximumStringBytes = 256;
+
+  struct Fault {
+    qsizetype offset;
+    QString message;
+  };
+
+  /// The first thing in a text, well-formed or not, that no reader should be given: what exceeds a
+  /// limit, control characters in a string, half a surrogate pair. Takes linear time and no memory.
+  static std::optional<Fault> FaultOf(const QByteArray& text);
+
+  /// `text` must be well-formed JSON without a fault, and live as long as this.
+  explicit JsonLines(const QByteArray& text) : text_(text) {}
 
   /// Line, from 1, in which the value begins; for a path that the text does not have, that of the
   /// innermost value around it that it has.
-  int LineOf(QString path) const;
+  int LineOf(const QString& path) const;
 
-  /// Path of the first key that stands twice in its object; empty when there is none.
-  const QString& RepeatedKey() const { return repeatedKey_; }
+  /// Path of the first key that stands twice in its object, and the line of its second value.
+  struct Repeated {
+    QString path;
+    int line;
+  };
+  std::optional<Repeated> RepeatedKey() const;
 
   /// Line and column, from 1, of a byte; the column counts characters.
   struct Place {
@@ -26,8 +46,8 @@ class JsonLines {
   static Place PlaceOf(const QByteArray& text, qsizetype offset);
 
  private:
-  class Scanner;
+  template <typename Visitor>
+  class Walk;
 
-  QHash<QString, int> lines_;
-  QString repeatedKey_;
+  const QByteArray& text_;
 };

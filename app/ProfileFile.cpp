@@ -1,10 +1,14 @@
 #include "app/ProfileFile.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <fcntl.h>
 #include <limits>
 #include <map>
 #include <optional>
 #include <string_view>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <QFile>
 #include <QJsonArray>
@@ -18,6 +22,12 @@ namespace {
 constexpr int kNetworkKind = 1;
 constexpr int kSerialKind = 0;
 constexpr int kMaximumPort = 65535;
+constexpr int kMaximumSerialPort = 256;
+constexpr int kMaximumBaud = 4'000'000;
+constexpr int kMaximumDeviceValue = std::numeric_limits<std::uint16_t>::max();
+constexpr int kMaximumProjectors = 1000;
+constexpr int kMaximumFamilies = 1000;
+constexpr int kMaximumLikes = 16;  // families that are like one another in a row
 
 /// Thrown while a file is read, caught before the reader returns.
 struct WrongValue {
@@ -74,7 +84,7 @@ QString At(const QString& path, const QString& key) {
   return path.isEmpty() ? key : path + QLatin1Char('.') + key;
 }
 
-QString At(const QString& path, int index) { return QStringLiteral("%1[%2]").arg(path).arg(index); }
+QString At(const QString& path, int index) { return path + QStringLiteral("[%1]").arg(index); }
 
 void CheckKeys(const QJsonObject& object, const QString& path, const QStringList& known) {
   for (auto member = object.begin(); member != object.end(); ++member) {
@@ -92,7 +102,7 @@ QJsonObject Object(const QJsonValue& value, const QString& path) {
 
 QJsonArray Array(const QJsonValue& value, const QString& path, int capacity) {
   if (!value.isArray()) throw WrongValue{path, QStringLiteral("must be an array")};
-  const QJsonArray array = value.toArray();
+  QJsonArray array = value.toArray();
   if (array.size() > capacity) {
     throw WrongValue{
         path,
@@ -131,6 +141,10 @@ std::int32_t Integer(const QJsonValue& value, const QString& path,
   return static_cast<std::int32_t>(integer);
 }
 
+std::int32_t DeviceValue(const QJsonValue& value, const QString& path) {
+  return Integer(value, path, 0, kMaximumDeviceValue);
+}
+
 // An entry is a value, a name whose value is its position, or both.
 CountedList List(const QJsonValue& value, const QString& path) {
   const QJsonArray array = Array(value, path, CountedList::kCapacity);
@@ -140,14 +154,14 @@ CountedList List(const QJsonValue& value, const QString& path) {
     const auto index = static_cast<std::size_t>(i);
     const QJsonValue entry = array[i];
     if (entry.isDouble()) {
-      list.values[index] = Integer(entry, entryPath);
+      list.values[index] = DeviceValue(entry, entryPath);
     } else if (entry.isString()) {
       list.values[index] = i;
       list.names[index] = Slot(entry, entryPath);
     } else if (entry.isObject()) {
       const QJsonObject object = entry.toObject();
       CheckKeys(object, entryPath, {"value", "name"});
-      list.values[index] = Integer(object["value"], At(entryPath, "value"));
+      list.values[index] = DeviceValue(object["value"], At(entryPath, "value"));
       list.names[index] = Slot(object["name"], At(entryPath, "name"));
     } else {
       throw WrongValue{entryPath, QStringLiteral("must be a number, a text or an object with "
@@ -166,7 +180,7 @@ SourceList Sources(const QJsonValue& value, const QString& path) {
     const QJsonObject entry = Object(array[i], entryPath);
     CheckKeys(entry, entryPath, {"name", "value", "second"});
     list.names[index] = Slot(entry["name"], At(entryPath, "name"));
-    list.firstValues[index] = Integer(entry["value"], At(entryPath, "value"));
+    list.firstValues[index] = DeviceValue(entry["value"], At(entryPath, "value"));
     if (entry.contains("second")) {
       list.secondValues[index] = Integer(entry["second"], At(entryPath, "second"));
     }
@@ -180,7 +194,7 @@ std::size_t RangeNumber(const QString& key, const QString& path) {
   if (named != std::end(kNamedRanges)) return named->index;
   bool isNumber = false;
   const std::size_t index = key.toULongLong(&isNumber);
-  if (!isNumber || index >= RangeIndex::Count) {
+  if (!isNumber || index >= RangeIndex::Count || key != QString::number(index)) {
     throw WrongValue{path, QStringLiteral("is neither the name of a range nor a number 0 to %1")
                                .arg(RangeIndex::Count - 1)};
   }
@@ -204,8 +218,10 @@ void ApplyRanges(const QJsonObject& ranges, const QString& path, CModelInfo2& mo
     if (ends.size() != 2) {
       throw WrongValue{rangePath, QStringLiteral("must be [minimum, maximum] or null")};
     }
-    const std::int32_t minimum = Integer(ends[0], At(rangePath, 0));
-    const std::int32_t maximum = Integer(ends[1], At(rangePath, 1));
+    // Ends below zero are for settings whose device values are signed.
+    constexpr int kLowest = std::numeric_limits<std::int16_t>::min();
+    const auto minimum = Integer(ends[0], At(rangePath, 0), kLowest, kMaximumDeviceValue);
+    const auto maximum = Integer(ends[1], At(rangePath, 1), kLowest, kMaximumDeviceValue);
     if (minimum > maximum) {
       throw WrongValue{rangePath, QStringLiteral("has a minimum above its maximum")};
     }
@@ -234,9 +250,12 @@ void ApplyConnection(const QJsonObject& connection, const QString& path, CModelI
   } else {
     CheckKeys(parameters, kindPath, {"port", "baud"});
     model.ConnectionKinds[0] = kSerialKind;
-    model.ConnectionNumbers[0] = Integer(parameters["port"], At(kindPath, "port"), 1, 256) - 1;
+    model.ConnectionNumbers[0] =
+        Integer(parameters["port"], At(kindPath, "port"), 1, kMaximumSerialPort) - 1;
     model.ConnectionParameters[0] =
-        parameters.contains("baud") ? Integer(parameters["baud"], At(kindPath, "baud"), 1) : 0;
+        parameters.contains("baud")
+            ? Integer(parameters["baud"], At(kindPath, "baud"), 1, kMaximumBaud)
+            : 0;
     model.ConnectionTexts1[0] = {};
     model.ConnectionTexts2[0] = {};
   }
@@ -289,20 +308,28 @@ void Apply(const QJsonObject& settings, const QString& path, ProjectorProfile& p
 struct Draft {
   ProjectorProfile profile;
   QStringList keys;
+  int likes = 0;  // families below it
 };
 
 class FamilyTree {
  public:
   explicit FamilyTree(const QJsonObject& families) : families_(families) {
-    for (const QString& name : families.keys()) Resolve(name, QString());
+    if (families.size() > kMaximumFamilies) {
+      throw WrongValue{"families", QStringLiteral("has %1 families; at most %2 are possible")
+                                       .arg(families.size())
+                                       .arg(kMaximumFamilies)};
+    }
+    for (const QString& name : families.keys()) Resolve(name, QString(), 0);
   }
 
   /// What `settings` are like, under what they say themselves.
-  Draft Derive(const QJsonObject& settings, const QString& path) {
+  Draft Derive(const QJsonObject& settings, const QString& path, int above = 0) {
     Draft draft;
     if (settings.contains("like")) {
       const QString likePath = At(path, "like");
-      draft = Resolve(Text(String(settings["like"], likePath)), likePath);
+      draft = Resolve(Text(String(settings["like"], likePath)), likePath, above + 1);
+      // Checked on the way down too: the chain may be too long to go to its end.
+      if (++draft.likes + above > kMaximumLikes) ThrowTooManyLikes(likePath);
     }
     Apply(settings, path, draft.profile);
     draft.keys += settings.keys();
@@ -310,7 +337,14 @@ class FamilyTree {
   }
 
  private:
-  const Draft& Resolve(const QString& name, const QString& askedAt) {
+  [[noreturn]] static void ThrowTooManyLikes(const QString& path) {
+    throw WrongValue{path,
+                     QStringLiteral("leads through more than %1 families").arg(kMaximumLikes)};
+  }
+
+  // `above` is the number of families and entries that wait for this one.
+  const Draft& Resolve(const QString& name, const QString& askedAt, int above) {
+    if (above > kMaximumLikes) ThrowTooManyLikes(askedAt);
     if (const auto known = drafts_.find(name); known != drafts_.end()) {
       if (known->second.has_value()) return *known->second;
       throw WrongValue{askedAt, QStringLiteral("makes \"%1\" like itself").arg(name)};
@@ -322,7 +356,7 @@ class FamilyTree {
     const QString path = At("families", name);
     const QJsonObject settings = Object(families_[name], path);
     CheckKeys(settings, path, kFamilyKeys);
-    return drafts_[name].emplace(Derive(settings, path));
+    return drafts_[name].emplace(Derive(settings, path, above));
   }
 
   const QJsonObject families_;
@@ -337,8 +371,7 @@ std::vector<ProjectorProfile> Profiles(const QJsonDocument& document) {
                                                 : QJsonObject());
   if (!file.contains("projectors"))
     throw WrongValue{{}, QStringLiteral("\"projectors\" is missing")};
-  const QJsonArray entries =
-      Array(file["projectors"], "projectors", std::numeric_limits<int>::max());
+  const QJsonArray entries = Array(file["projectors"], "projectors", kMaximumProjectors);
 
   std::vector<ProjectorProfile> profiles;
   std::map<std::string, int> entryOfName;
@@ -354,9 +387,10 @@ std::vector<ProjectorProfile> Profiles(const QJsonDocument& document) {
     }
     const auto [named, isNew] = entryOfName.emplace(draft.profile.Name, i);
     if (!isNew) {
-      throw WrongValue{At(path, "name"), QStringLiteral("\"%1\" is the name of projectors[%2] too")
-                                             .arg(Text(draft.profile.Name))
-                                             .arg(named->second)};
+      throw WrongValue{
+          At(path, "name"),
+          QLatin1Char('"') + Text(draft.profile.Name) +
+              QStringLiteral("\" is the name of projectors[%1] too").arg(named->second)};
     }
     profiles.push_back(std::move(draft.profile));
   }
@@ -364,44 +398,54 @@ std::vector<ProjectorProfile> Profiles(const QJsonDocument& document) {
   return profiles;
 }
 
+ProfileFileContents Wrong(const QString& error) { return {.projectors = {}, .error = error}; }
+
 }  // namespace
 
 ProfileFileContents ParseProfiles(const QByteArray& text, const QString& fileName) {
+  const auto faultAt = [&](qsizetype offset, const QString& message) {
+    const auto [line, column] = JsonLines::PlaceOf(text, offset);
+    return Wrong(fileName + QStringLiteral(":%1:%2: ").arg(line).arg(column) + message);
+  };
+  if (const auto fault = JsonLines::FaultOf(text)) return faultAt(fault->offset, fault->message);
   QJsonParseError syntax;
   const QJsonDocument document = QJsonDocument::fromJson(text, &syntax);
-  if (document.isNull()) {
-    const auto [line, column] = JsonLines::PlaceOf(text, syntax.offset);
-    return {.projectors = {},
-            .error = QStringLiteral("%1:%2:%3: %4")
-                         .arg(fileName)
-                         .arg(line)
-                         .arg(column)
-                         .arg(syntax.errorString())};
-  }
+  if (document.isNull()) return faultAt(syntax.offset, syntax.errorString());
+
+  const auto wrongValue = [&](const QString& path, int line, const QString& message) {
+    const QString place = path.isEmpty() ? QString() : path + QStringLiteral(": ");
+    return Wrong(fileName + QStringLiteral(":%1: ").arg(line) + place + message);
+  };
   const JsonLines lines(text);
+  if (const auto repeated = lines.RepeatedKey()) {
+    return wrongValue(repeated->path, repeated->line, QStringLiteral("stands here twice"));
+  }
   try {
-    if (!lines.RepeatedKey().isEmpty()) {
-      throw WrongValue{lines.RepeatedKey(), QStringLiteral("stands here twice")};
-    }
     return {.projectors = Profiles(document), .error = {}};
   } catch (const WrongValue& wrong) {
-    const QString place = wrong.path.isEmpty() ? QString() : wrong.path + QStringLiteral(": ");
-    return {.projectors = {},
-            .error = QStringLiteral("%1:%2: %3%4")
-                         .arg(fileName)
-                         .arg(lines.LineOf(wrong.path))
-                         .arg(place, wrong.message)};
+    return wrongValue(wrong.path, lines.LineOf(wrong.path), wrong.message);
   }
 }
 
 ProfileFileContents ReadProfileFile(const QString& fileName) {
-  QFile file(fileName);
-  if (!file.open(QFile::ReadOnly)) {
-    return {
-        .projectors = {},
-        .error = QStringLiteral("cannot read profiles %1: %2").arg(fileName, file.errorString())};
+  const auto cannotRead = [&fileName](const QString& why) {
+    return Wrong(QStringLiteral("cannot read profiles %1: %2").arg(fileName, why));
+  };
+  // Opening must not wait for the other end of a pipe.
+  const int descriptor =
+      open(QFile::encodeName(fileName).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+  if (descriptor < 0) return cannotRead(qt_error_string());
+  struct stat status {};
+  if (fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
+    close(descriptor);
+    return cannotRead(QStringLiteral("not a regular file"));
   }
-  return ParseProfiles(file.readAll(), fileName);
+  QFile file;
+  if (!file.open(descriptor, QFile::ReadOnly | QFile::Unbuffered, QFile::AutoCloseHandle)) {
+    return cannotRead(file.errorString());
+  }
+  // One byte more than the limit shows that the file exceeds it, whatever size it claims.
+  return ParseProfiles(file.read(JsonLines::kMaximumBytes + 1), fileName);
 }
 
 QString ConnectionText(const CModelInfo2& model) {

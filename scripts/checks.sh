@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # The checks beside the tests: floors, release build without warnings, what the installed library
-# offers, benchmarks that run, clang-tidy, and the channels under the thread sanitizer.
+# offers, benchmarks that run, clang-tidy, the channels under the thread sanitizer, and the fuzz
+# targets for a moment.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -25,3 +26,5 @@ echo "Building (build/tsan) and testing the channels under the thread sanitizer"
 cmake --preset tsan >/dev/null
 cmake --build --preset tsan --target device_tests
 QT_QPA_PLATFORM=offscreen build/tsan/bin/device_tests --gtest_brief=1
+
+scripts/fuzz.sh 5

@@ -10,6 +10,7 @@ packages=(
   binutils-mingw-w64-x86-64
   libgtest-dev libgmock-dev
   clang-format clang-tidy
+  clang libclang-rt-14-dev
   libbenchmark-dev
   gettext qt6-l10n-tools
   fonts-dejavu-core fonts-wqy-microhei

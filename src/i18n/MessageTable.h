@@ -39,6 +39,9 @@ class MessageTable {
   /// Number of messages, each language counted.
   std::size_t Count() const { return keys_.size(); }
 
+  /// The message at a position below `Count()`, in the order of languages and numbers.
+  CatalogMessage At(std::size_t position) const { return At(places_[position]); }
+
  private:
   struct Place {
     std::uint32_t offset;

@@ -67,7 +67,9 @@ const WrongArguments kWrongArguments[] = {
     {"TwoTasks", {"--list", "--tour", "x"}, "Only one of"},
     {"Language", {"--list", "--language", "1034"}, "'1034' is neither"},
     {"MissingProfiles", {"--profiles", "/nowhere.json"}, "cannot read profiles /nowhere.json: "},
-    {"WrongProfiles", {"--profiles", "/dev/null"}, "/dev/null:1:1: "},
+    {"DeviceAsProfiles",
+     {"--profiles", "/dev/zero"},
+     "cannot read profiles /dev/zero: not a regular"},
 };
 
 INSTANTIATE_TEST_SUITE_P(Table, WrongCommandLine, testing::ValuesIn(kWrongArguments),

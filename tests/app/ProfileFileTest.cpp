@@ -1,8 +1,11 @@
 #include <gmock/gmock.h>
 #include <set>
 #include <string>
+#include <sys/stat.h>
 #include <utility>
 
+#include <QElapsedTimer>
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 #include "app/ProfileFile.h"
@@ -80,6 +83,31 @@ constexpr WrongFile kWrongFiles[] = {
      "p.json:1: projectors[0].connection.network.port: is 65536; it must be 1 to 65535"},
     {"SerialPortZero", "{\"projectors\": [{\"connection\": {\"serial\": {\"port\": 0}}}]}",
      "p.json:1: projectors[0].connection.serial.port: is 0;"},
+    {"SerialPortTooHigh", "{\"projectors\": [{\"connection\": {\"serial\": {\"port\": 257}}}]}",
+     "p.json:1: projectors[0].connection.serial.port: is 257; it must be 1 to 256"},
+    {"BaudTooHigh",
+     "{\"projectors\": [{\"connection\": {\"serial\": {\"port\": 1, \"baud\": 4000001}}}]}",
+     "p.json:1: projectors[0].connection.serial.baud: is 4000001;"},
+    {"RangeEndTooHigh", "{\"projectors\": [{\"ranges\": {\"bass\": [0, 65536]}}]}",
+     "p.json:1: projectors[0].ranges.bass[1]: is 65536; it must be -32768 to 65535"},
+    {"RangeEndTooLow", "{\"projectors\": [{\"ranges\": {\"bass\": [-32769, 0]}}]}",
+     "p.json:1: projectors[0].ranges.bass[0]: is -32769;"},
+    {"RangeNumberWrittenOddly", "{\"projectors\": [{\"ranges\": {\"022\": [0, 1]}}]}",
+     "p.json:1: projectors[0].ranges.022: is neither"},
+    {"DeviceValueTooHigh", "{\"projectors\": [{\"gamma\": [1, 65536]}]}",
+     "p.json:1: projectors[0].gamma[1]: is 65536; it must be 0 to 65535"},
+    {"NegativeNamedValue", "{\"projectors\": [{\"aspect\": [{\"value\": -1, \"name\": \"A\"}]}]}",
+     "p.json:1: projectors[0].aspect[0].value: is -1;"},
+    {"SourceTooHigh", "{\"projectors\": [{\"mySources\": [{\"name\": \"A\", \"value\": 65536}]}]}",
+     "p.json:1: projectors[0].mySources[0].value: is 65536;"},
+    {"EscapedNul", "{\n\"a\\u0000b\": 1}", "p.json:2:3: control character in a text"},
+    {"EscapedLineBreak", "{\"a\\nb\": 1}", "p.json:1:4: control character in a text"},
+    {"RawControlCharacter", "{\"a\x1b\": 1}", "p.json:1:4: control character in a text"},
+    {"HighSurrogateAlone", "[\"\\ud800\\u0041\"]", "p.json:1:3: half a surrogate pair in a text"},
+    {"LowSurrogateAlone", "[\"\\ud83d\\ude00\\ude00\"]",
+     "p.json:1:15: half a surrogate pair in a text"},
+    {"PlaceholderAsFamily", "{\"families\": {\n\"%1\": {\"gamma\": [\n-1]}}}",
+     "p.json:3: families.%1.gamma[0]: is -1;"},
     {"LackOfNothing", "{\"projectors\": [{\"lacks\": [\"Active iris\", \"Coffee\"]}]}",
      "p.json:1: projectors[0].lacks[1]: there is no setting \"Coffee\""},
     {"UnknownFamily", "{\"projectors\": [{\"like\": \"x\"}]}",
@@ -94,6 +122,53 @@ constexpr WrongFile kWrongFiles[] = {
 
 INSTANTIATE_TEST_SUITE_P(Table, WrongProfiles, testing::ValuesIn(kWrongFiles),
                          [](const auto& test) { return std::string(test.param.name); });
+
+std::string Repeat(const std::string& text, int count) {
+  std::string result;
+  for (int i = 0; i < count; ++i) result += text;
+  return result;
+}
+
+// What is too much is refused before it takes time or memory.
+TEST(ProfileFile, TooMuchIsRefusedAtOnce) {
+  std::string families = "{\"families\": {\"f99\": {}";
+  for (int i = 1; i <= 17; ++i) {
+    families +=
+        ", \"f" + std::to_string(99 - i) + "\": {\"like\": \"f" + std::to_string(100 - i) + "\"}";
+  }
+  struct Excess {
+    std::string text;
+    const char* error;
+  };
+  const Excess tooMuch[] = {
+      {Repeat("{\"a\":", 1000), "p.json:1:81: nested more than 16 deep"},
+      {Repeat("{\"a\":", 900'000), "p.json:1:1: more than 4194304 bytes"},
+      {"[" + Repeat("1,", 25'000'000), "p.json:1:1: more than 4194304 bytes"},
+      {"[\n" + Repeat("1,", 200'000), "p.json:2:199998: more than 100000 values"},
+      {"[\"" + Repeat("a", 256) + "\"]", "p.json:1: the file must hold an object"},
+      {"[\"" + Repeat("a", 257) + "\"]", "p.json:1:2: text of more than 256 bytes"},
+      {"{\"projectors\": [" + Repeat("0,", 1000) + "0]}",
+       "p.json:1: projectors: has 1001 entries; at most 1000"},
+      {families + "}}", "p.json:1: families.f98.like: leads through more than 16 families"},
+  };
+  for (const Excess& excess : tooMuch) {
+    QElapsedTimer timer;
+    timer.start();
+    const auto contents = ParseProfiles(QByteArray::fromStdString(excess.text), "p.json");
+    EXPECT_THAT(contents.error.toStdString(), StartsWith(excess.error));
+    EXPECT_LT(timer.elapsed(), 1000) << excess.error;
+  }
+}
+
+TEST(ProfileFile, OnlyRegularFilesAreOpened) {
+  const QTemporaryDir folder;
+  const QString pipe = folder.filePath("pipe");
+  ASSERT_EQ(mkfifo(qPrintable(pipe), 0600), 0);
+  for (const QString& name : {pipe, QStringLiteral("/dev/zero"), folder.path()}) {
+    EXPECT_EQ(ReadProfileFile(name).error,
+              QStringLiteral("cannot read profiles %1: not a regular file").arg(name));
+  }
+}
 
 TEST(ProfileFile, NameTwiceNamesBothEntries) {
   const char* entry = R"({"name": "A", "model": "M", "dialogType": 1, "modelCode": 1,

@@ -1,3 +1,5 @@
+#include <tuple>
+
 #include <QCheckBox>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -10,8 +12,7 @@ namespace {
 using Strings = std::vector<std::string>;
 
 struct Service {
-  explicit Service(int code, const std::string& refused = {}) {
-    channel->Refuse(refused);
+  explicit Service(int code) {
     projector.SetChannel(channel);
     dialog.projector = &projector;
     dialog.ModelCode = code;
@@ -22,12 +23,6 @@ struct Service {
 
   QCheckBox* Check(int id) const { return qobject_cast<QCheckBox*>(dialog.GetDlgItem(id)); }
   int Shown(int id) const { return Check(id) ? int{Check(id)->isChecked()} : driver.Selected(id); }
-  // What turning a setting on sends.
-  Strings TurnOn(int id) const {
-    channel->Take();
-    Check(id) ? driver.Click(id) : driver.Choose(id, 1);
-    return channel->Take();
-  }
   int Top(int id) const { return dialog.GetDlgItem(id)->y(); }
 
   std::shared_ptr<RecordingChannel> channel = std::make_shared<RecordingChannel>();
@@ -49,27 +44,23 @@ TEST(ServiceDialog, TheHeightFollowsThePresentRows) {
 }
 
 TEST(ServiceDialog, ARefusalIsSilentlyUndone) {
-  const struct {
-    int code, id;
-    std::string set, get;
-  } rows[] = {
-      {44, 20374, "SetAutoAdjustEnable", "GetAutoAdjustEnable"},
-      {30, 20375, "SetIRFront", "GetIRRemoteFront"},
-      {30, 20376, "SetIRRear", "GetIRRemoteRear"},
-      {30, 20377, "SetIRTop", "GetIRRemoteTop"},
-      {30, 20378, "SetIRRemoteFreqNormal", "GetIRREmoteFreqNormal"},
-      {30, 20379, "SetIRRemoteFreqHigh", "GetIRRemoteFreqHigh"},
-      {44, 20381, "SetFocusLock", "GetFocusLock"},
-  };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.set);
-    const Service service(row.code, row.set);
-    EXPECT_EQ(service.TurnOn(row.id), (Strings{row.set + " 1", row.get}));
-    EXPECT_EQ(service.Shown(row.id), 0);
-    service.channel->Refuse(row.get);
-    service.TurnOn(row.id);
-    EXPECT_EQ(service.Shown(row.id), 1) << "nothing better is known";
-    EXPECT_FALSE(Service(row.code, row.get).driver.IsEnabled(row.id)) << "a failed read";
+  using Case = std::tuple<int, int, std::string>;
+  for (const auto& [code, id, get] :
+       {Case{44, 20374, "GetAutoAdjustEnable"}, Case{30, 20375, "GetIRRemoteFront"},
+        Case{30, 20376, "GetIRRemoteRear"}, Case{30, 20377, "GetIRRemoteTop"},
+        Case{30, 20378, "GetIRREmoteFreqNormal"}, Case{30, 20379, "GetIRRemoteFreqHigh"},
+        Case{44, 20381, "GetFocusLock"}}) {
+    const Service service(code);
+    service.channel->RefuseChanges(true);
+    for (const bool known : {true, false}) {
+      if (!known) service.channel->Refuse(get);
+      service.channel->Take();
+      service.Check(id) ? service.driver.Click(id) : service.driver.Choose(id, 1);
+      const Strings sent = service.channel->Take();
+      EXPECT_EQ(sent.back(), get);
+      EXPECT_EQ(sent.size(), 2U);
+      EXPECT_EQ(service.Shown(id), known ? 0 : 1) << get;
+    }
   }
 }
 

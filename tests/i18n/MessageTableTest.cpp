@@ -65,10 +65,9 @@ TEST(MessageTable, LowerResourceComesFirst) {
 }
 
 TEST(MessageTable, KnowsWhichTextsNeedNoExpansion) {
-  const std::vector<std::pair<std::u16string, bool>> cases = {
+  const std::pair<std::u16string, bool> cases[] = {
       {u"", true},        {u"text\r\n", true}, {u"a\r\nb\r\n", true}, {u"100 %%", false},
-      {u"text\n", false}, {u"a\rb", false},    {u"end\r", false},
-  };
+      {u"text\n", false}, {u"a\rb", false},    {u"end\r", false}};
   for (const auto& [text, plain] : cases) {
     const auto table = MessageTable::Parse(TestModule({{1033, {{1, {Unicode(text)}}}}}).bytes);
     ASSERT_TRUE(table);
@@ -92,53 +91,43 @@ TEST(MessageTable, KnowsWhichTextsDependOnTheLanguage) {
 }
 
 TEST(MessageTable, RefusesDamagedModules) {
-  struct Case {
-    const char* name;
-    std::function<void(TestModule&)> damage;
+  const TestModule m(SampleTables());
+  ASSERT_TRUE(MessageTable::Parse(m.bytes));
+  const std::size_t header = m.kHeader, options = m.kOptional, section = m.section;
+  const std::size_t types = m.types, names = m.names, leaf = m.lastLeaf, table = m.LastTable();
+  using Damage = std::pair<std::size_t, std::uint32_t>;
+  // Magics, kind of module; header too small, none; no section, too many; an entry without length,
+  // too long, in an unknown encoding.
+  const Damage words[] = {{0, 0},           {options, 0x0107},    {header + 20, 100},
+                          {header + 20, 0}, {header + 6, 0},      {header + 6, 0xFFFF},
+                          {table + 16, 0},  {table + 16, 0xFFFF}, {table + 18, 4}};
+  // Header outside, second magic; too few directories, no resources; sections outside, too long; no
+  // message table.
+  const Damage headers[] = {
+      {0x3C, 0xFFFFFFF0}, {header, 0x4551},           {options + 108, 2},
+      {options + 128, 0}, {section + 20, 0xFFFFFF00}, {section + 16, 0xFFFFFFFF},
+      {types + 16, 10}};
+  // Directories that are leaves, hold themselves, are outside, have too many entries, or a number
+  // among the names; leaves that are directories or outside.
+  const Damage directories[] = {{types + 20, 24},         {types + 20, m.kDirectory},
+                                {names + 20, 24},         {names + 20, 0xFFFFFFFF},
+                                {names + 12, 0xFFFFFFFF}, {names + 12, 1},
+                                {leaf - 4, m.kDirectory}, {leaf - 4, 0x7FFFFFFF}};
+  // Tables outside, too long, too short; blocks too many, upside down, endless, outside.
+  const Damage tables[] = {{leaf, 0xFFFFFFFF},      {leaf + 4, 0xFFFFFFFF}, {leaf + 4, 3},
+                           {table, 0x15555556},     {table + 4, 9},         {table + 8, 0xFFFFFFFF},
+                           {table + 12, 0xFFFFFFFC}};
+  const auto expectRefused = [&m](std::span<const Damage> damages, bool word) {
+    for (const auto& [at, value] : damages) {
+      TestModule module = m;
+      word ? module.Put16(at, static_cast<std::uint16_t>(value)) : module.Put32(at, value);
+      EXPECT_FALSE(MessageTable::Parse(module.bytes)) << at << ": " << value;
+    }
   };
-  const Case cases[] = {
-      {"first magic", [](TestModule& m) { m.Put16(0, 0); }},
-      {"header outside", [](TestModule& m) { m.Put32(0x3C, 0xFFFFFFF0); }},
-      {"second magic", [](TestModule& m) { m.Put32(m.kHeader, 0x4551); }},
-      {"kind of module", [](TestModule& m) { m.Put16(m.kOptional, 0x0107); }},
-      {"header too small", [](TestModule& m) { m.Put16(m.kHeader + 20, 100); }},
-      {"no header", [](TestModule& m) { m.Put16(m.kHeader + 20, 0); }},
-      {"too few directories", [](TestModule& m) { m.Put32(m.kOptional + 108, 2); }},
-      {"no resources", [](TestModule& m) { m.Put32(m.kOptional + 128, 0); }},
-      {"no section", [](TestModule& m) { m.Put16(m.kHeader + 6, 0); }},
-      {"section count", [](TestModule& m) { m.Put16(m.kHeader + 6, 0xFFFF); }},
-      {"section outside", [](TestModule& m) { m.Put32(m.section + 20, 0xFFFFFF00); }},
-      {"section too long", [](TestModule& m) { m.Put32(m.section + 16, 0xFFFFFFFF); }},
-      {"no message table", [](TestModule& m) { m.Put32(m.types + 16, 10); }},
-      {"type is a leaf", [](TestModule& m) { m.Put32(m.types + 20, 24); }},
-      {"type holds itself", [](TestModule& m) { m.Put32(m.types + 20, m.kDirectory); }},
-      {"entry count", [](TestModule& m) { m.Put32(m.names + 12, 0xFFFFFFFF); }},
-      {"number among names", [](TestModule& m) { m.Put32(m.names + 12, 1); }},
-      {"resource is a leaf", [](TestModule& m) { m.Put32(m.names + 20, 24); }},
-      {"directory outside", [](TestModule& m) { m.Put32(m.names + 20, 0xFFFFFFFF); }},
-      {"leaf outside", [](TestModule& m) { m.Put32(m.lastLeaf - 4, 0x7FFFFFFF); }},
-      {"language is a directory", [](TestModule& m) { m.Put32(m.lastLeaf - 4, m.kDirectory); }},
-      {"table outside", [](TestModule& m) { m.Put32(m.lastLeaf, 0xFFFFFFFF); }},
-      {"table too long", [](TestModule& m) { m.Put32(m.lastLeaf + 4, 0xFFFFFFFF); }},
-      {"table too short", [](TestModule& m) { m.Put32(m.lastLeaf + 4, 3); }},
-      {"block count", [](TestModule& m) { m.Put32(m.LastTable(), 0x15555556); }},
-      {"block upside down", [](TestModule& m) { m.Put32(m.LastTable() + 4, 9); }},
-      {"every identifier",
-       [](TestModule& m) {
-         m.Put32(m.LastTable() + 4, 0);
-         m.Put32(m.LastTable() + 8, 0xFFFFFFFF);
-       }},
-      {"entries outside", [](TestModule& m) { m.Put32(m.LastTable() + 12, 0xFFFFFFFC); }},
-      {"entry of no length", [](TestModule& m) { m.Put16(m.LastTable() + 16, 0); }},
-      {"entry too long", [](TestModule& m) { m.Put16(m.LastTable() + 16, 0xFFFF); }},
-      {"unknown encoding", [](TestModule& m) { m.Put16(m.LastTable() + 18, 4); }},
-  };
-  for (const Case& hostile : cases) {
-    TestModule module(SampleTables());
-    ASSERT_TRUE(MessageTable::Parse(module.bytes));
-    hostile.damage(module);
-    EXPECT_FALSE(MessageTable::Parse(module.bytes)) << hostile.name;
-  }
+  expectRefused(words, true);
+  expectRefused(headers, false);
+  expectRefused(directories, false);
+  expectRefused(tables, false);
   EXPECT_FALSE(MessageTable::Parse({}));
 }
 
@@ -211,9 +200,8 @@ TEST(MessageTable, ReadsFilesAndRefusesWhatIsNone) {
   fs::create_directories(folder / "directory");
   const auto path = [&](const char* name) { return (folder / name).string(); };
   TestModule(SampleTables()).Save(path("good"));
-  const auto moved = [table = MessageTable::Read(path("good"))]() mutable {
-    return std::move(table);
-  }();
+  auto table = MessageTable::Read(path("good"));
+  const auto moved = std::move(table);
   ASSERT_TRUE(moved);
   fs::remove(path("good"));
   EXPECT_EQ(TextIn(*moved, 2052, 0x01040001), "亮度\r\n");

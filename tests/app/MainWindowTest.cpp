@@ -34,20 +34,18 @@ ProjectorProfile Profile(const char* name) {
   return profile;
 }
 
-QComboBox& Combo(const QWidget& window, const QString& accessibleName) {
-  for (auto* combo : window.findChildren<QComboBox*>()) {
-    if (combo->accessibleName() == accessibleName) return *combo;
+/// The child that shows or is called so.
+template <typename Widget>
+Widget& Child(const QWidget& window, const char* name) {
+  for (auto* child : window.findChildren<Widget*>()) {
+    if (child->accessibleName() == name || child->property("text") == name) return *child;
   }
-  ADD_FAILURE() << "no list " << accessibleName.toStdString();
+  ADD_FAILURE() << "there is no " << name;
   std::abort();
 }
 
-QPushButton& Button(const QWidget& window, const QString& text) {
-  for (auto* button : window.findChildren<QPushButton*>()) {
-    if (button->text() == text) return *button;
-  }
-  ADD_FAILURE() << "no button " << text.toStdString();
-  std::abort();
+void ClickButton(const QWidget& window, const char* text) {
+  QTest::mouseClick(&Child<QPushButton>(window, text), Qt::LeftButton);
 }
 
 /// Runs the steps, each from the program's event loop, as in the running program.
@@ -68,9 +66,9 @@ void CloseWhileACommandWaits(bool wholeWindow) {
       [&] { dialog = window->OpenDialog(0); },
       [&] {
         auto& panel = *window->findChild<FaultPanel*>();
-        Combo(panel, "Fault").setCurrentText("Delay");
+        Child<QComboBox>(panel, "Fault").setCurrentText("Delay");
         panel.findChild<QSpinBox*>()->setValue(200);
-        QTest::mouseClick(&Button(panel, "&Set Fault"), Qt::LeftButton);
+        ClickButton(panel, "&Set Fault");
         QWidget* closed = wholeWindow ? static_cast<QWidget*>(window.get()) : dialog.data();
         QTimer::singleShot(100ms, closed, &QWidget::close);
         dialog->findChild<QTabBar*>()->setCurrentIndex(1);
@@ -101,7 +99,7 @@ TEST(MainWindow, HasOneDialogPerProjectorAndLogsTheirCommands) {
         ASSERT_NE(window.Dialog(1), nullptr);
         EXPECT_TRUE(window.Dialog(1)->windowTitle().contains("B"));
         EXPECT_EQ(window.OpenDialog(1), window.Dialog(1));
-        QTest::mouseClick(&Button(window, "&Open"), Qt::LeftButton);
+        ClickButton(window, "&Open");
         EXPECT_EQ(window.Dialog(0), nullptr);
         EXPECT_NE(window.OpenDialog(0), nullptr);
         EXPECT_TRUE(window.isEnabled() && table.isEnabled());
@@ -144,16 +142,16 @@ TEST(FaultPanel, SetsAndRemovesFaultsOfTheSelectedProjector) {
   FaultPanel panel;
   panel.show();
   panel.SetSession(&first);
-  QComboBox& target = Combo(panel, "Command");
+  QComboBox& target = Child<QComboBox>(panel, "Command");
   auto* list = panel.findChild<QListWidget*>();
-  QPushButton& set = Button(panel, "&Set Fault");
+  const auto& set = Child<QPushButton>(panel, "&Set Fault");
 
   target.setEditText("nothing of the kind");
   EXPECT_FALSE(set.isEnabled());
   target.setEditText("0x2003 Brightness");
-  QTest::mouseClick(&set, Qt::LeftButton);
+  ClickButton(panel, "&Set Fault");
   target.setEditText("SetBrightness");
-  QTest::mouseClick(&set, Qt::LeftButton);
+  ClickButton(panel, "&Set Fault");
   EXPECT_EQ(first.Faults().size(), 2U);
   EXPECT_EQ(first.Faults().at(std::uint16_t{0x2003}).kind, Fault::Kind::Refuse);
   EXPECT_EQ(list->item(0)->text(), "SetBrightness: Refuse");
@@ -170,9 +168,9 @@ TEST(FaultPanel, SetsAndRemovesFaultsOfTheSelectedProjector) {
   EXPECT_EQ(brightness(second), 1);
 
   panel.SetSession(&first);
-  QTest::mouseClick(&Button(panel, "&Remove"), Qt::LeftButton);
+  ClickButton(panel, "&Remove");
   EXPECT_EQ(first.Faults().size(), 1U);
-  QTest::mouseClick(&Button(panel, "Remove &All"), Qt::LeftButton);
+  ClickButton(panel, "Remove &All");
   EXPECT_TRUE(first.Faults().empty());
   EXPECT_EQ(brightness(first), 1);
 }

@@ -95,18 +95,18 @@ TEST_F(CatalogTest, SystemLanguage) {
 TEST_F(CatalogTest, ChoosesTheModule) {
   TestModule({{1033, {{kFirst, {Unicode(u"english\r\n")}}}}}).Save("mcdll.dll");
   TestModule({{1033, {{kFirst, {Unicode(u"chinese\r\n")}}}}}).Save("mcschn.dll");
-  const auto loaded = [] { return LoadHere() == 0 ? CatalogText(4, 1) : "(failed)"; };
-  EXPECT_EQ(loaded(), "english");
-  SetLocale("zh_TW");
-  EXPECT_EQ(loaded(), "english");
-  SetLocale("zh_CN");
-  EXPECT_EQ(loaded(), "chinese");
+  const auto expectLoaded = [](const char* locale, const char* module) {
+    SetLocale(locale);
+    EXPECT_EQ(LoadHere() == 0 ? CatalogText(4, 1) : "(failed)", module) << locale;
+  };
+  expectLoaded("", "english");
+  expectLoaded("zh_TW", "english");
+  expectLoaded("zh_CN", "chinese");
   Touch("GETENG");
-  EXPECT_EQ(loaded(), "chinese");
-  SetLocale("en_US");
-  EXPECT_EQ(loaded(), "english");
+  expectLoaded("zh_CN", "chinese");
+  expectLoaded("en_US", "english");
   Touch("GETSCH");
-  EXPECT_EQ(loaded(), "chinese");
+  expectLoaded("en_US", "chinese");
 }
 
 TEST_F(CatalogTest, TakesTheFirstFileAndNoneAfterADamagedOne) {
@@ -132,26 +132,26 @@ TEST_F(CatalogTest, LanguageOfEachCall) {
   SetLocale("zh_CN");
   LoadTables({{1033, {{kFirst, {Unicode(u"in 1033\r\n"), Unicode(u"only in 1033\r\n")}}}},
               {2052, {{kFirst, {Unicode(u"in 2052\r\n")}}, {kFirst + 2, {Unicode(u"only\r\n")}}}}});
-  EXPECT_EQ(CatalogText(4, 1), "in 2052");
-  EXPECT_EQ(CatalogText(4, 2), "only in 1033");
-  EXPECT_EQ(CatalogText(4, 3), "only");
+  const auto expectTexts = [](const char* first, const char* third) {
+    EXPECT_EQ(CatalogText(4, 1), first);
+    EXPECT_EQ(CatalogText(4, 2), "only in 1033");
+    EXPECT_EQ(CatalogText(4, 3), third);
+  };
+  expectTexts("in 2052", "only");
+  fs::create_directories("elsewhere");
   for (const char* marker : {"GETENG", "GETSCH"}) {
+    SCOPED_TRACE(marker);
     Touch(marker);
-    EXPECT_EQ(CatalogText(4, 1), "in 1033") << marker;
-    EXPECT_EQ(CatalogText(4, 3), kNoCatalog) << marker;
-    fs::create_directories("elsewhere");
+    expectTexts("in 1033", kNoCatalog);
     fs::current_path("elsewhere");
-    EXPECT_EQ(CatalogText(4, 1), "in 2052") << marker;
+    expectTexts("in 2052", "only");
     fs::current_path("..");
-    EXPECT_EQ(CatalogText(4, 1), "in 1033") << marker;
+    expectTexts("in 1033", kNoCatalog);
     fs::remove(marker);
-    EXPECT_EQ(CatalogText(4, 1), "in 2052") << marker;
+    expectTexts("in 2052", "only");
   }
   SetLocale("de_DE");
-  EXPECT_EQ(CatalogText(4, 1), "in 1033");
-  EXPECT_EQ(CatalogText(4, 3), kNoCatalog);
-  SetLocale("zh_CN");
-  EXPECT_EQ(CatalogText(4, 1), "in 2052");
+  expectTexts("in 1033", kNoCatalog);
 }
 
 TEST_F(CatalogTest, MessageThatCannotBeFormattedFallsBack) {

@@ -34,24 +34,27 @@ std::vector<TestTable> SampleTables() {
 }
 
 TEST(MessageTable, ReadsBothModuleKindsAndBothEncodings) {
+  const std::tuple<std::uint32_t, std::uint32_t, const char*> texts[] = {
+      {1033, 0x01040001, "One\r\n"},
+      {1033, 0x01040002, "Two\r\n"},
+      {1033, 0xFFFFFFFE, "Straße\r\n"},
+      {1033, 0xFFFFFFFF, ""},
+      {2052, 0x01040001, "亮度\r\n"},
+      {2052, 0x01040002, "中文\r\n"},
+      {1041, 7, "日本"},
+      {1041, 8, "😀|\uFFFD|"},
+      // Neither another language of the module nor a neighbour of a block.
+      {1041, 0x01040001, "(none)"},
+      {9, 0x01040001, "(none)"},
+      {1033, 0x01040000, "(none)"},
+      {1033, 0x01040003, "(none)"},
+      {1033, 0xFFFFFFFD, "(none)"},
+      {1033, 0, "(none)"}};
   for (const bool wide : {false, true}) {
     const auto table = MessageTable::Parse(TestModule(SampleTables(), wide).bytes);
     ASSERT_TRUE(table) << wide;
     EXPECT_EQ(table->Count(), 8U);
-    EXPECT_EQ(TextIn(*table, 1033, 0x01040001), "One\r\n");
-    EXPECT_EQ(TextIn(*table, 1033, 0x01040002), "Two\r\n");
-    EXPECT_EQ(TextIn(*table, 1033, 0xFFFFFFFE), "Straße\r\n");
-    EXPECT_EQ(TextIn(*table, 1033, 0xFFFFFFFF), "");
-    EXPECT_EQ(TextIn(*table, 2052, 0x01040001), "亮度\r\n");
-    EXPECT_EQ(TextIn(*table, 2052, 0x01040002), "中文\r\n");
-    EXPECT_EQ(TextIn(*table, 1041, 7), "日本");
-    EXPECT_EQ(TextIn(*table, 1041, 8), "😀|\uFFFD|");
-    // Neither another language of the module nor a neighbour of a block.
-    EXPECT_FALSE(table->Find(1041, 0x01040001));
-    EXPECT_FALSE(table->Find(9, 0x01040001));
-    for (const std::uint32_t id : {0x01040000U, 0x01040003U, 0xFFFFFFFDU, 0U}) {
-      EXPECT_FALSE(table->Find(1033, id)) << id;
-    }
+    for (const auto& [language, id, text] : texts) EXPECT_EQ(TextIn(*table, language, id), text);
   }
 }
 
@@ -175,19 +178,18 @@ TEST(MessageTable, MutationsAreHarmless) {
     auto bytes = module.bytes;
     for (unsigned changes = 1 + random() % 4; changes > 0; --changes) {
       // Mostly where the structures are, and mostly values at the edges.
-      const std::size_t at = random() % 4 ? module.types + random() % (bytes.size() - module.types)
-                                          : random() % bytes.size();
+      const std::size_t from = random() % 4 ? module.types : 0;
       constexpr unsigned kEdges[] = {0, 1, 0x7F, 0x80, 0xFF};
-      bytes[at] = static_cast<std::byte>(random() % 2 ? kEdges[random() % 5] : random() % 256);
+      bytes[from + random() % (bytes.size() - from)] =
+          static_cast<std::byte>(random() % 2 ? kEdges[random() % 5] : random() % 256);
     }
     const auto table = MessageTable::Parse(bytes);
     if (!table) continue;
     ++accepted;
     EXPECT_LE(table->Count(), bytes.size() / 2);
-    for (const std::uint32_t language : {1033U, 2052U, 1041U}) {
-      for (const std::uint32_t id : {0x01040001U, 0x01040002U, 0xFFFFFFFEU, 7U}) {
-        EXPECT_LE(TextIn(*table, language, id).size(), 3 * bytes.size());
-      }
+    for (const auto& [language, id] :
+         {std::pair{1033U, 0x01040001U}, {1033U, 0xFFFFFFFEU}, {2052U, 0x01040001U}, {1041U, 7U}}) {
+      EXPECT_LE(TextIn(*table, language, id).size(), 3 * bytes.size());
     }
   }
   // Some must get past the checks, or the mutations test nothing behind them.

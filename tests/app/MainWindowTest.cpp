@@ -88,6 +88,15 @@ void CloseWhileACommandWaits(bool wholeWindow) {
 TEST(MainWindow, DialogClosedWhileACommandWaits) { CloseWhileACommandWaits(false); }
 TEST(MainWindow, WindowClosedWhileACommandWaits) { CloseWhileACommandWaits(true); }
 
+void ExpectEntry(const QAbstractItemModel& log, int row, const QStringList& expected) {
+  QStringList entry;
+  for (const auto column : {CommandLogModel::Projector, CommandLogModel::Command,
+                            CommandLogModel::Value, CommandLogModel::Result}) {
+    entry += log.index(row, column).data().toString();
+  }
+  EXPECT_EQ(entry, expected);
+}
+
 TEST(MainWindow, HasOneDialogPerProjectorAndLogsTheirCommands) {
   MainWindow window({Profile("A"), Profile("B")});
   window.show();
@@ -108,10 +117,7 @@ TEST(MainWindow, HasOneDialogPerProjectorAndLogsTheirCommands) {
         QTest::qWait(100);  // the log gathers entries
         const auto* log = window.findChild<CommandLog*>()->findChild<QTableView*>()->model();
         EXPECT_GT(log->rowCount(), 10);
-        EXPECT_EQ(log->index(0, CommandLogModel::Projector).data(), "B");
-        EXPECT_EQ(log->index(0, CommandLogModel::Command).data(), "Get 0x6000");
-        EXPECT_EQ(log->index(0, CommandLogModel::Value).data(), "1");
-        EXPECT_EQ(log->index(0, CommandLogModel::Result).data(), "ok");
+        ExpectEntry(*log, 0, {"B", "Get 0x6000", "1", "ok"});
         window.close();
       },
   });
@@ -120,20 +126,14 @@ TEST(MainWindow, HasOneDialogPerProjectorAndLogsTheirCommands) {
 TEST(CommandLog, KeepsTheNewestEntries) {
   CommandLogModel model;
   for (const int size : {3, 5000, 4}) {
-    std::vector<CommandLogModel::Entry> entries(static_cast<std::size_t>(size),
-                                                {.time = {},
-                                                 .projector = QString::number(size),
-                                                 .command = {PjtOperation::SetBrightness, 0, 140},
-                                                 .reply = {.result = 0},
-                                                 .elapsed = {}});
-    model.Append(std::move(entries));
+    const CommandLogModel::Entry entry{
+        {}, QString::number(size), {PjtOperation::SetBrightness, 0, 140}, {.result = 0}, {}};
+    model.Append(std::vector(static_cast<std::size_t>(size), entry));
   }
   ASSERT_EQ(model.rowCount(), 5000);
   EXPECT_EQ(model.index(4995, 1).data(), "5000");
   EXPECT_EQ(model.index(4996, 1).data(), "4");
-  EXPECT_EQ(model.index(4999, CommandLogModel::Command).data(), "SetBrightness");
-  EXPECT_EQ(model.index(4999, CommandLogModel::Value).data(), "140");
-  EXPECT_EQ(model.index(4999, CommandLogModel::Result).data(), "refused");
+  ExpectEntry(model, 4999, {"4", "SetBrightness", "140", "refused"});
 }
 
 TEST(FaultPanel, SetsAndRemovesFaultsOfTheSelectedProjector) {

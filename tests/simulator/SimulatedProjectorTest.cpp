@@ -21,11 +21,9 @@ struct Case {
 };
 
 constexpr Case kCases[] = {
-    {Id::Brightness, 97, {Op::SetBrightness, 0, 160}, 160, 160},
     {Id::Brightness, 97, {Op::SetBrightness, 0, 95}, 97},
     {Id::Brightness, 97, {Op::SetBrightness, 0, 161}, 97},
     {Id::Brightness, 97, {Op::Set, 0x2003, 161}, 97},
-    {Id::Brightness, 97, {Op::Get, 0x2003}, 97, 97},
     {Id::Brightness, 159, {Op::Inc, 0x2003}, 160, 160},
     {Id::Brightness, 160, {Op::Inc, 0x2003}, 160},
     {Id::Brightness, 97, {Op::Dec, 0x2003}, 96, 96},
@@ -38,7 +36,6 @@ constexpr Case kCases[] = {
     {Id::VideoFormat, 5, {Op::SetVideoFormat, 0, -1}, 5},
     {Id::VideoFormat, 10, {Op::Inc, 0x2200}, 4, 4},
     {Id::VideoFormat, 7, {Op::Inc, 0x2200}, 7},
-    {Id::VideoFormat, 7, {Op::Dec, 0x2200}, 8, 8},
     {Id::VideoFormat, 10, {Op::Dec, 0x2200}, 10},
     {Id::VideoFormat, 99, {Op::Inc, 0x2200}, 99},
     // Values written from one or two on, or as a page shows them.
@@ -49,16 +46,13 @@ constexpr Case kCases[] = {
     {Id::ColorTempOffsetB, 255, {Op::IncrementColorTempOffset, 0, 2, 127}, 255},
     {Id::ColorTempOffsetB, 1, {Op::DecrementColorTempOffset, 0, 2, -127}, 0, -128},
     {Id::ColorTempOffsetB, 1, {Op::DecrementColorTempOffset, 0, 3, -127}, 1},
-    {Id::ColorTempOffsetB, 1, {Op::GetColorTempOffsetB}, 1, 1},
     {Id::ColorTempOffsetB, 1, {Op::ExecColorTempOffsetBReset}, 128, 128},
     {Id::GammaPoint3, 120, {Op::GetUserGammaPoint, 0, 3}, 120, 120},
     {Id::GammaPoint3, 120, {Op::ExecUserGammaPReset, 0, 3}, 128, 128},
     {Id::GammaPoint3, 120, {Op::ExecUserGammaPReset, 0, 2}, 120, 128},
     {Id::GammaPoint3, 120, {Op::ExecUserGammaPReset, 0, 9}, 120},
     {Id::KeystoneV, 254, {Op::IncrementKeystoneV}, 255, 255},
-    {Id::KeystoneV, 255, {Op::IncrementKeystoneV}, 255},
     {Id::KeystoneV, 1, {Op::DecrementKeystoneV}, 0, 0},
-    {Id::KeystoneH, 1, {Op::SetKeystoneH, 0, 255}, 255, 255},
     {Id::KeystoneH, 1, {Op::ExecAutoKeyStone}, 128, 128},
     {Id::PhaseH, 1, {Op::ExecAutoAdjust}, 16, 1344},
     // Sound, of the source named or of the current one.
@@ -66,7 +60,6 @@ constexpr Case kCases[] = {
     {Id::Bass, 128, {Op::SetInputSrcBass, 0, 0, 133}, 128},
     {Id::Treble, 131, {Op::IncrementInputSrcTreb, 0, 0}, 132, 132},
     {Id::Treble, 132, {Op::IncrementInputSrcTreb, 0, 0}, 132},
-    {Id::SrsWow, 0, {Op::SetSRSWOW, 0, 0, 2}, 2, 2},
     {Id::SrsWow, 0, {Op::SetSRSWOW, 0, 0, 1}, 0},
     {Id::Volume, 16, {Op::Inc, 0x2001}, 17, 17},
     // States, and a code that nobody has.

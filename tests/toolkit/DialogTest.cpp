@@ -38,7 +38,10 @@ class SampleDialog : public CDialog {
     if (whenDone) whenDone();
   }
   void OnMode() { ++choices; }
-  void OnScroll(CSliderCtrl& slider) { scrolls.push_back(slider.value()); }
+  void OnScroll(CSliderCtrl& slider) {
+    scrolls.push_back(slider.value());
+    if (whenDone) whenDone();
+  }
   void OnDestroy() override { ++destroyed; }
 
   void Open() {
@@ -109,9 +112,12 @@ TEST_F(DialogTest, ASliderReportsOnlyTheEndOfWhatTheUserDoes) {
 TEST_F(DialogTest, ADialogThatDiesWithAKeyDownReportsNothing) {
   auto* dying = new SampleDialog;
   dying->Open();
+  bool reported = false;
+  dying->whenDone = [&reported] { reported = true; };
   dying->GetDlgItem(4)->setFocus();
   QTest::keyPress(dying->GetDlgItem(4), Qt::Key_Right);
-  delete dying;  // the sanitizers see a handler that runs
+  delete dying;
+  EXPECT_FALSE(reported);
 }
 
 TEST_F(DialogTest, DeleteLaterWaitsForTheRunningHandler) {
@@ -126,13 +132,6 @@ TEST_F(DialogTest, DeleteLaterWaitsForTheRunningHandler) {
   };
   DialogDriver(*dying).Click(10);
   EXPECT_TRUE(QTest::qWaitFor([&] { return dying == nullptr; }));
-}
-
-TEST_F(DialogTest, AModalDialogMayDieWhileItRuns) {
-  QPointer<SampleDialog> dying = new SampleDialog;
-  QTimer::singleShot(0, dying, [&] { delete dying; });
-  EXPECT_EQ(dying->DoModal(), QDialog::Rejected);
-  EXPECT_EQ(dying, nullptr);
 }
 
 TEST_F(DialogTest, TheWheelNeedsTheFocus) {
@@ -206,6 +205,13 @@ TEST_F(DialogTest, ListsAreAsWideAsTheirColumnWhateverTheyHold) {
 TEST_F(DialogTest, ValueControlsAreNamedByTheirCaption) {
   for (const auto& [id, name] : {std::pair{4, "Level"}, {6, "Level"}, {9, "Mode"}, {10, "Mode Do"}})
     EXPECT_EQ(dialog.GetDlgItem(id)->accessibleName(), QLatin1String(name));
+}
+
+TEST_F(DialogTest, AModalDialogMayDieWhileItRuns) {
+  QPointer<SampleDialog> dying = new SampleDialog;
+  QTimer::singleShot(0, dying, [&] { delete dying; });
+  EXPECT_EQ(dying->DoModal(), QDialog::Rejected);
+  EXPECT_EQ(dying, nullptr);
 }
 
 TEST_F(DialogTest, RunsModallyAgainAndAgain) {

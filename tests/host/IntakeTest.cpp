@@ -7,44 +7,34 @@
 
 namespace {
 
-template <class Array>
-void Fill(Array& array, int from) {
-  std::iota(array.begin(), array.end(), from);
+// As a host passes it, filled far beyond the count.
+CountedList Filled(int count, int from) {
+  CountedList list{.count = count};
+  std::iota(list.values.begin(), list.values.end(), from);
+  list.names.back() = MakeNameSlot("last of " + std::to_string(from));
+  return list;
 }
 
-// Whole arrays as a host passes them, filled far beyond the counts.
-struct HostLists {
-  char sourceNames[1024] = {};
-  std::array<int, 16> first, second;
-  std::array<int, 32> whisper, aspect, gamma, colorTemp;
-  char names[4][2048] = {};
-
-  HostLists() {
-    std::snprintf(sourceNames + 15 * 64, 64, "Last source");
-    Fill(first, 100);
-    Fill(second, 200);
-    Fill(whisper, 300);
-    Fill(aspect, 400);
-    Fill(gamma, 500);
-    Fill(colorTemp, 600);
-    for (int list = 0; list < 4; ++list) std::snprintf(names[list] + 31 * 64, 64, "Last %d", list);
-  }
-};
-
-/// Copied whole, whatever the count.
-void ExpectList(const CountedList& list, int count, int from, const char* lastName) {
-  EXPECT_EQ(list.count, count);
-  EXPECT_EQ(list.values.front(), from);
-  EXPECT_EQ(list.values.back(), from + 31);
-  EXPECT_EQ(NameText(list.names.back()), lastName);
+void ExpectSame(const CountedList& actual, const CountedList& expected) {
+  EXPECT_EQ(actual.count, expected.count);
+  EXPECT_EQ(actual.values, expected.values);
+  EXPECT_EQ(actual.names, expected.names);
 }
 
 TEST(Intake, EachFormAddsToTheOneBefore) {
-  const HostLists lists;
+  const CountedList whisper = Filled(4, 300), aspect = Filled(1, 400), gamma = Filled(2, 500),
+                    colorTemp = Filled(0, 600);
+  const auto names = [](const auto& list) { return list.names.data()->data(); };
+  SourceList sources{.count = 3};
+  sources.names.back() = MakeNameSlot("last");
+  sources.firstValues.back() = 115;
+  sources.secondValues.back() = 215;
   CAdvanceDlg dialog;
-  dialog.CopyData2("New", 42, 5, 3, lists.sourceNames, lists.first.data(), lists.second.data(), 4,
-                   lists.whisper.data(), lists.names[0], 1, lists.aspect.data(), lists.names[1], 2,
-                   lists.gamma.data(), lists.names[2], 0, lists.colorTemp.data(), lists.names[3]);
+  dialog.CopyData2("New", 42, 5, sources.count, names(sources), sources.firstValues.data(),
+                   sources.secondValues.data(), whisper.count, whisper.values.data(),
+                   names(whisper), aspect.count, aspect.values.data(), names(aspect), gamma.count,
+                   gamma.values.data(), names(gamma), colorTemp.count, colorTemp.values.data(),
+                   names(colorTemp));
   dialog.CopyData3("r0", "r1", "r2", "r3", "r4", "r5", "r6", "r7", "r8", "r9", "r10", "r11", "r12",
                    "r13", "r14", "r15", "r16", "r17", "r18", "r19", "r20", "r21", "r22", "r23",
                    "r24", "r25", "r26", "r27", "r28", "r29", "r30", "r31");
@@ -52,12 +42,12 @@ TEST(Intake, EachFormAddsToTheOneBefore) {
   EXPECT_EQ(model.ModelName, "New");
   EXPECT_EQ(model.DialogType, 5);
   EXPECT_EQ(model.MySourceList.count, 3);
-  EXPECT_EQ(NameText(model.MySourceList.names.back()), "Last source");
-  EXPECT_EQ(model.MySourceList.firstValues.back(), 115);
-  EXPECT_EQ(model.MySourceList.secondValues.front(), 200);
-  ExpectList(model.AspectList, 1, 400, "Last 1");
-  ExpectList(model.GammaList, 2, 500, "Last 2");
-  ExpectList(model.ColorTempList, 0, 600, "Last 3");
+  EXPECT_EQ(model.MySourceList.names, sources.names);
+  EXPECT_EQ(model.MySourceList.firstValues, sources.firstValues);
+  EXPECT_EQ(model.MySourceList.secondValues, sources.secondValues);
+  ExpectSame(model.AspectList, aspect);
+  ExpectSame(model.GammaList, gamma);
+  ExpectSame(model.ColorTempList, colorTemp);
   for (std::size_t i = 0; i < RangeIndex::Count; ++i) {
     EXPECT_EQ(model.RangeTexts[i], i < 32 ? "r" + std::to_string(i) : "");
   }
@@ -66,9 +56,9 @@ TEST(Intake, EachFormAddsToTheOneBefore) {
                   0, nullptr, nullptr);
   EXPECT_EQ(model.ModelName, "Old");
   EXPECT_EQ(model.DialogType, 2);
-  EXPECT_EQ(model.GammaList.values.back(), 0);
+  ExpectSame(model.GammaList, CountedList());
   EXPECT_EQ(model.ModelCode, 42) << "the oldest form sets neither this";
-  ExpectList(model.WhisperList, 4, 300, "Last 0");
+  ExpectSame(model.WhisperList, whisper);
 }
 
 void ExpectConnection(CAdvanceDlg& dialog, const ConnectionData& expected) {

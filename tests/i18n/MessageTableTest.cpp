@@ -34,27 +34,22 @@ std::vector<TestTable> SampleTables() {
 }
 
 TEST(MessageTable, ReadsBothModuleKindsAndBothEncodings) {
-  const std::tuple<std::uint32_t, std::uint32_t, const char*> texts[] = {
-      {1033, 0x01040001, "One\r\n"},
-      {1033, 0x01040002, "Two\r\n"},
-      {1033, 0xFFFFFFFE, "Straße\r\n"},
-      {1033, 0xFFFFFFFF, ""},
-      {2052, 0x01040001, "亮度\r\n"},
-      {2052, 0x01040002, "中文\r\n"},
-      {1041, 7, "日本"},
-      {1041, 8, "😀|\uFFFD|"},
-      // Neither another language of the module nor a neighbour of a block.
-      {1041, 0x01040001, "(none)"},
-      {9, 0x01040001, "(none)"},
-      {1033, 0x01040000, "(none)"},
-      {1033, 0x01040003, "(none)"},
-      {1033, 0xFFFFFFFD, "(none)"},
-      {1033, 0, "(none)"}};
   for (const bool wide : {false, true}) {
     const auto table = MessageTable::Parse(TestModule(SampleTables(), wide).bytes);
     ASSERT_TRUE(table) << wide;
+    const auto texts = [&table](std::uint32_t language, std::vector<std::uint32_t> ids) {
+      std::string all;
+      for (const std::uint32_t id : ids) all += TextIn(*table, language, id) + ';';
+      return all;
+    };
     EXPECT_EQ(table->Count(), 8U);
-    for (const auto& [language, id, text] : texts) EXPECT_EQ(TextIn(*table, language, id), text);
+    EXPECT_EQ(texts(1033, {0x01040001, 0x01040002}), "One\r\n;Two\r\n;");
+    EXPECT_EQ(texts(1033, {0xFFFFFFFE, 0xFFFFFFFF}), "Straße\r\n;;");
+    EXPECT_EQ(texts(2052, {0x01040001, 0x01040002}), "亮度\r\n;中文\r\n;");
+    EXPECT_EQ(texts(1041, {7, 8}), "日本;😀|\uFFFD|;");
+    // Neither another language of the module nor a neighbour of a block.
+    EXPECT_EQ(texts(1041, {0x01040001}) + texts(9, {0x01040001}), "(none);(none);");
+    EXPECT_EQ(texts(1033, {0x01040000, 0x01040003, 0xFFFFFFFD, 0}), "(none);(none);(none);(none);");
   }
 }
 
@@ -68,32 +63,28 @@ TEST(MessageTable, LowerResourceComesFirst) {
 }
 
 TEST(MessageTable, KnowsWhichTextsNeedNoExpansion) {
-  const std::pair<std::u16string, bool> cases[] = {
-      {u"", true},        {u"text\r\n", true}, {u"a\r\nb\r\n", true}, {u"100 %%", false},
-      {u"text\n", false}, {u"a\rb", false},    {u"end\r", false}};
-  for (const auto& [text, plain] : cases) {
-    const auto table = MessageTable::Parse(TestModule({{1033, {{1, {Unicode(text)}}}}}).bytes);
-    ASSERT_TRUE(table);
-    EXPECT_EQ(table->Find(1033, 1)->plain, plain) << TextIn(*table, 1033, 1);
+  TestBlock block{1, {}};
+  for (const auto* text : {u"", u"text\r\n", u"a\r\nb\r\n", u"100 %%", u"x\n", u"a\rb", u"end\r"}) {
+    block.entries.push_back(Unicode(text));
   }
+  const auto table = MessageTable::Parse(TestModule({{1033, {block}}}).bytes);
+  ASSERT_TRUE(table);
+  for (std::uint32_t id = 1; id <= 7; ++id) EXPECT_EQ(table->Find(1033, id)->plain, id <= 3) << id;
 }
 
 TEST(MessageTable, KnowsWhichTextsDependOnTheLanguage) {
-  const auto table = MessageTable::Parse(
-      TestModule({{1031, {{1, {Unicode(u"a"), Unicode(u"b")}}, {4, {Unicode(u"d")}}}},
-                  {1033, {{1, {Unicode(u"a"), Unicode(u"b"), Unicode(u"c")}}}},
-                  {2052, {{1, {Unicode(u"a"), Unicode(u"x")}}}}})
-          .bytes);
+  const auto table =
+      MessageTable::Parse(TestModule({{1031, {{1, {Ansi("a"), Ansi("b")}}, {4, {Ansi("d")}}}},
+                                      {1033, {{1, {Ansi("a"), Ansi("b"), Ansi("c")}}}},
+                                      {2052, {{1, {Ansi("a"), Ansi("x")}}}}})
+                              .bytes);
   ASSERT_TRUE(table);
-  for (const auto& [language, id] : {std::pair{1031U, 1U},
-                                     {1033U, 1U},
-                                     {2052U, 1U},
-                                     {1031U, 2U},
-                                     {1033U, 2U},
-                                     {2052U, 2U},
-                                     {1033U, 3U},
-                                     {1031U, 4U}}) {
-    EXPECT_EQ(table->Find(language, id)->sameEverywhere, id != 2) << language << ' ' << id;
+  for (const std::uint32_t language : {1031U, 1033U, 2052U}) {
+    for (std::uint32_t id = 1; id <= 4; ++id) {
+      if (const auto message = table->Find(language, id)) {
+        EXPECT_EQ(message->sameEverywhere, id != 2);
+      }
+    }
   }
 }
 

@@ -1,7 +1,6 @@
 #include <cstdlib>
 #include <functional>
 #include <memory>
-#include <utility>
 #include <vector>
 
 #include <QApplication>

@@ -1,7 +1,6 @@
 #include <cstdlib>
 #include <functional>
 #include <memory>
-#include <utility>
 #include <vector>
 
 #include <QApplication>
@@ -34,20 +33,18 @@ ProjectorProfile Profile(const char* name) {
   return profile;
 }
 
-QComboBox& Combo(const QWidget& window, const QString& accessibleName) {
-  for (auto* combo : window.findChildren<QComboBox*>()) {
-    if (combo->accessibleName() == accessibleName) return *combo;
+/// The child that shows or is called so.
+template <typename Widget>
+Widget& Child(const QWidget& window, const char* name) {
+  for (auto* child : window.findChildren<Widget*>()) {
+    if (child->accessibleName() == name || child->property("text") == name) return *child;
   }
-  ADD_FAILURE() << "no list " << accessibleName.toStdString();
+  ADD_FAILURE() << "there is no " << name;
   std::abort();
 }
 
-QPushButton& Button(const QWidget& window, const QString& text) {
-  for (auto* button : window.findChildren<QPushButton*>()) {
-    if (button->text() == text) return *button;
-  }
-  ADD_FAILURE() << "no button " << text.toStdString();
-  std::abort();
+void ClickButton(const QWidget& window, const char* text) {
+  QTest::mouseClick(&Child<QPushButton>(window, text), Qt::LeftButton);
 }
 
 /// Runs the steps, each from the program's event loop, as in the running program.
@@ -68,9 +65,9 @@ void CloseWhileACommandWaits(bool wholeWindow) {
       [&] { dialog = window->OpenDialog(0); },
       [&] {
         auto& panel = *window->findChild<FaultPanel*>();
-        Combo(panel, "Fault").setCurrentText("Delay");
+        Child<QComboBox>(panel, "Fault").setCurrentText("Delay");
         panel.findChild<QSpinBox*>()->setValue(200);
-        QTest::mouseClick(&Button(panel, "&Set Fault"), Qt::LeftButton);
+        ClickButton(panel, "&Set Fault");
         QWidget* closed = wholeWindow ? static_cast<QWidget*>(window.get()) : dialog.data();
         QTimer::singleShot(100ms, closed, &QWidget::close);
         dialog->findChild<QTabBar*>()->setCurrentIndex(1);
@@ -90,6 +87,15 @@ void CloseWhileACommandWaits(bool wholeWindow) {
 TEST(MainWindow, DialogClosedWhileACommandWaits) { CloseWhileACommandWaits(false); }
 TEST(MainWindow, WindowClosedWhileACommandWaits) { CloseWhileACommandWaits(true); }
 
+void ExpectEntry(const QAbstractItemModel& log, int row, const QStringList& expected) {
+  QStringList entry;
+  for (const auto column : {CommandLogModel::Projector, CommandLogModel::Command,
+                            CommandLogModel::Value, CommandLogModel::Result}) {
+    entry += log.index(row, column).data().toString();
+  }
+  EXPECT_EQ(entry, expected);
+}
+
 TEST(MainWindow, HasOneDialogPerProjectorAndLogsTheirCommands) {
   MainWindow window({Profile("A"), Profile("B")});
   window.show();
@@ -101,7 +107,7 @@ TEST(MainWindow, HasOneDialogPerProjectorAndLogsTheirCommands) {
         ASSERT_NE(window.Dialog(1), nullptr);
         EXPECT_TRUE(window.Dialog(1)->windowTitle().contains("B"));
         EXPECT_EQ(window.OpenDialog(1), window.Dialog(1));
-        QTest::mouseClick(&Button(window, "&Open"), Qt::LeftButton);
+        ClickButton(window, "&Open");
         EXPECT_EQ(window.Dialog(0), nullptr);
         EXPECT_NE(window.OpenDialog(0), nullptr);
         EXPECT_TRUE(window.isEnabled() && table.isEnabled());
@@ -110,10 +116,7 @@ TEST(MainWindow, HasOneDialogPerProjectorAndLogsTheirCommands) {
         QTest::qWait(100);  // the log gathers entries
         const auto* log = window.findChild<CommandLog*>()->findChild<QTableView*>()->model();
         EXPECT_GT(log->rowCount(), 10);
-        EXPECT_EQ(log->index(0, CommandLogModel::Projector).data(), "B");
-        EXPECT_EQ(log->index(0, CommandLogModel::Command).data(), "Get 0x6000");
-        EXPECT_EQ(log->index(0, CommandLogModel::Value).data(), "1");
-        EXPECT_EQ(log->index(0, CommandLogModel::Result).data(), "ok");
+        ExpectEntry(*log, 0, {"B", "Get 0x6000", "1", "ok"});
         window.close();
       },
   });
@@ -122,20 +125,14 @@ TEST(MainWindow, HasOneDialogPerProjectorAndLogsTheirCommands) {
 TEST(CommandLog, KeepsTheNewestEntries) {
   CommandLogModel model;
   for (const int size : {3, 5000, 4}) {
-    std::vector<CommandLogModel::Entry> entries(static_cast<std::size_t>(size),
-                                                {.time = {},
-                                                 .projector = QString::number(size),
-                                                 .command = {PjtOperation::SetBrightness, 0, 140},
-                                                 .reply = {.result = 0},
-                                                 .elapsed = {}});
-    model.Append(std::move(entries));
+    const CommandLogModel::Entry entry{
+        {}, QString::number(size), {PjtOperation::SetBrightness, 0, 140}, {.result = 0}, {}};
+    model.Append(std::vector(static_cast<std::size_t>(size), entry));
   }
   ASSERT_EQ(model.rowCount(), 5000);
   EXPECT_EQ(model.index(4995, 1).data(), "5000");
   EXPECT_EQ(model.index(4996, 1).data(), "4");
-  EXPECT_EQ(model.index(4999, CommandLogModel::Command).data(), "SetBrightness");
-  EXPECT_EQ(model.index(4999, CommandLogModel::Value).data(), "140");
-  EXPECT_EQ(model.index(4999, CommandLogModel::Result).data(), "refused");
+  ExpectEntry(model, 4999, {"4", "SetBrightness", "140", "refused"});
 }
 
 TEST(FaultPanel, SetsAndRemovesFaultsOfTheSelectedProjector) {
@@ -144,16 +141,16 @@ TEST(FaultPanel, SetsAndRemovesFaultsOfTheSelectedProjector) {
   FaultPanel panel;
   panel.show();
   panel.SetSession(&first);
-  QComboBox& target = Combo(panel, "Command");
+  QComboBox& target = Child<QComboBox>(panel, "Command");
   auto* list = panel.findChild<QListWidget*>();
-  QPushButton& set = Button(panel, "&Set Fault");
+  const auto& set = Child<QPushButton>(panel, "&Set Fault");
 
   target.setEditText("nothing of the kind");
   EXPECT_FALSE(set.isEnabled());
   target.setEditText("0x2003 Brightness");
-  QTest::mouseClick(&set, Qt::LeftButton);
+  ClickButton(panel, "&Set Fault");
   target.setEditText("SetBrightness");
-  QTest::mouseClick(&set, Qt::LeftButton);
+  ClickButton(panel, "&Set Fault");
   EXPECT_EQ(first.Faults().size(), 2U);
   EXPECT_EQ(first.Faults().at(std::uint16_t{0x2003}).kind, Fault::Kind::Refuse);
   EXPECT_EQ(list->item(0)->text(), "SetBrightness: Refuse");
@@ -170,9 +167,9 @@ TEST(FaultPanel, SetsAndRemovesFaultsOfTheSelectedProjector) {
   EXPECT_EQ(brightness(second), 1);
 
   panel.SetSession(&first);
-  QTest::mouseClick(&Button(panel, "&Remove"), Qt::LeftButton);
+  ClickButton(panel, "&Remove");
   EXPECT_EQ(first.Faults().size(), 1U);
-  QTest::mouseClick(&Button(panel, "Remove &All"), Qt::LeftButton);
+  ClickButton(panel, "Remove &All");
   EXPECT_TRUE(first.Faults().empty());
   EXPECT_EQ(brightness(first), 1);
 }

@@ -1,4 +1,5 @@
 #include <array>
+#include <functional>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -18,11 +19,10 @@ class OneReply final : public ProjectorChannel {
     last = command;
     return {
         .result = accepted ? AcceptedResult(command.operation) : RefusedResult(command.operation),
-        .value = value};
+        .value = -2};
   }
 
   bool accepted = true;
-  std::int16_t value = 77;
   PjtCommand last{};
 };
 
@@ -30,88 +30,68 @@ class CPjtInterfaceTest : public testing::Test {
  protected:
   CPjtInterfaceTest() { pjt_.SetChannel(channel_); }
 
-  /// Refuses from now on, be it by the projector or for want of a channel.
-  void Refuse(bool withoutChannel) {
-    channel_->accepted = false;
-    if (withoutChannel) pjt_.SetChannel(nullptr);
-  }
-
   std::shared_ptr<OneReply> channel_ = std::make_shared<OneReply>();
   CPjtInterface pjt_;
 };
 
-TEST_F(CPjtInterfaceTest, EveryFormBuildsItsCommand) {
-  short value = 5;
-  unsigned short word = 0;
-  const auto sent = [this] { return channel_->last; };
-
-  EXPECT_EQ(pjt_.ExecTintReset(), 0);
-  EXPECT_EQ(sent(), (PjtCommand{Op::ExecTintReset}));
-  EXPECT_NE(pjt_.ExecColorTempGainRReset(), 0);
-  EXPECT_EQ(sent(), (PjtCommand{Op::ExecColorTempGainRReset}));
-  EXPECT_NE(pjt_.ExecUserGammaPReset(8), 0);
-  EXPECT_EQ(sent(), (PjtCommand{Op::ExecUserGammaPReset, 0, 8}));
-  pjt_.SetPowerOff();
-  EXPECT_EQ(sent(), (PjtCommand{Op::SetPowerOff}));
-  EXPECT_NE(pjt_.GetKeystoneV(&value), 0);
-  EXPECT_EQ(sent(), (PjtCommand{Op::GetKeystoneV}));
-  EXPECT_EQ(value, 77);
-  EXPECT_NE(pjt_.SetColor(140), 0);
-  EXPECT_EQ(sent(), (PjtCommand{Op::SetColor, 0, 140}));
-  EXPECT_NE(pjt_.SetBrightness(-3), 0);
-  EXPECT_EQ(sent(), (PjtCommand{Op::SetBrightness, 0, -3}));
-  EXPECT_NE(pjt_.SetAudioM1D(32, 1), 0);
-  EXPECT_EQ(sent(), (PjtCommand{Op::SetAudioM1D, 0, 32, 1}));
-  pjt_.SetGamma(2);
-  EXPECT_EQ(sent(), (PjtCommand{Op::SetGamma, 0, 2}));
-  pjt_.SetVideoNR(2, 1);
-  EXPECT_EQ(sent(), (PjtCommand{Op::SetVideoNR, 0, 2, 1}));
-  EXPECT_NE(pjt_.GetVideoFormat(1, &value), 0);
-  EXPECT_EQ(sent(), (PjtCommand{Op::GetVideoFormat, 0, 1}));
-  EXPECT_NE(pjt_.SetVolumeEachSrc(15, 9), 0);
-  EXPECT_EQ(sent(), (PjtCommand{Op::SetVolumeEachSrc, 0, 15, 9}));
-  EXPECT_NE(pjt_.SetInputSrcBass(3, 130), 0);
-  EXPECT_EQ(sent(), (PjtCommand{Op::SetInputSrcBass, 0, 3, 130}));
-  EXPECT_EQ(pjt_.GetColorTempOffsetB(), 77);
-  EXPECT_EQ(pjt_.GetUserGammaPoint(3), 77);
-  EXPECT_EQ(sent(), (PjtCommand{Op::GetUserGammaPoint, 0, 3}));
-  EXPECT_EQ(pjt_.DecrementColorTempGain(2, -7), 77);
-  EXPECT_EQ(sent(), (PjtCommand{Op::DecrementColorTempGain, 0, 2, -7}));
-  value = 30;
-  EXPECT_NE(pjt_.IncrementAutoPowerOff(&value), 0);
-  EXPECT_EQ(sent(), (PjtCommand{Op::IncrementAutoPowerOff, 0, 30}));
-  EXPECT_EQ(value, 77);
-  EXPECT_EQ(pjt_.DecrementAutoPowerOff(short{30}), 77);
-  EXPECT_EQ(sent(), (PjtCommand{Op::DecrementAutoPowerOff, 0, 30}));
-
-  EXPECT_EQ(pjt_.Set(0x2003, 0xFFFE, &pjt_), 1);
-  EXPECT_EQ(sent(), (PjtCommand{Op::Set, 0x2003, -2}));
-  channel_->value = -2;
-  EXPECT_EQ(pjt_.Get(0x2003, 0, &pjt_, &word), 1);
-  EXPECT_EQ(word, 0xFFFE);
-  EXPECT_EQ(pjt_.Inc(0x2003, 0, &pjt_), 1);
-  EXPECT_EQ(sent(), (PjtCommand{Op::Inc, 0x2003}));
-}
-
-TEST_F(CPjtInterfaceTest, ARefusalLeavesTheCallersValuesAlone) {
-  for (const bool withoutChannel : {false, true}) {
-    Refuse(withoutChannel);
-    short value = 5;
-    unsigned short word = 6;
-    EXPECT_NE(pjt_.SetPowerOn(), 0);
-    EXPECT_EQ(pjt_.ExecColorTempOffsetGReset(), 0);
-    EXPECT_EQ(pjt_.GetMirror(&value), 0);
-    EXPECT_EQ(pjt_.DecrementKeystoneH(&value), 0);
-    EXPECT_EQ(pjt_.GetSRSWOW(3, &value), 0);
-    EXPECT_EQ(pjt_.IncrementInputSrcTreb(3, &value), 0);
-    EXPECT_EQ(value, 5);
-    EXPECT_NE(pjt_.Get(0x2003, 0, &pjt_, &word), 1);
-    EXPECT_EQ(word, 6);
-    EXPECT_NE(pjt_.Dec(0x2003, 0, &pjt_), 1);
-    EXPECT_EQ(pjt_.SetMyButton1(4), 0);
-    EXPECT_EQ(pjt_.GetColorTempGainR(), 0);
-    EXPECT_EQ(pjt_.IncrementColorTempOffset(1, -9), -9);
-    EXPECT_EQ(pjt_.IncrementAutoPowerOff(short{12}), 12);
+TEST_F(CPjtInterfaceTest, EveryFormBuildsItsCommandAndTakesItsReply) {
+  CPjtInterface& p = pjt_;
+  const short step = 12;
+  short got = 30;
+  unsigned short word = 30;
+  struct Form {
+    std::function<int()> call;
+    PjtCommand command;
+    int accepted;
+    int refused;
+    int value = 30;  ///< What an accepted one leaves behind the pointer.
+  };
+  const Form forms[] = {
+      {[&] { return p.ExecTintReset(); }, {Op::ExecTintReset}, 0, -1},
+      {[&] { return p.ExecColorTempGainRReset(); }, {Op::ExecColorTempGainRReset}, 1, 0},
+      {[&] { return p.ExecUserGammaPReset(8); }, {Op::ExecUserGammaPReset, 0, 8}, 1, 0},
+      {[&] { return p.SetPowerOff(), 0; }, {Op::SetPowerOff}, 0, 0},
+      {[&] { return p.GetKeystoneV(&got); }, {Op::GetKeystoneV}, 1, 0, -2},
+      {[&] { return p.SetColor(140); }, {Op::SetColor, 0, 140}, 1, 0},
+      {[&] { return p.SetMyButton1(-3); }, {Op::SetMyButton1, 0, -3}, 1, 0},
+      {[&] { return p.SetAudioM1D(32, 1); }, {Op::SetAudioM1D, 0, 32, 1}, 1, 0},
+      {[&] { return p.SetGamma(2), 0; }, {Op::SetGamma, 0, 2}, 0, 0},
+      {[&] { return p.SetVideoNR(2, 1), 0; }, {Op::SetVideoNR, 0, 2, 1}, 0, 0},
+      {[&] { return p.IncrementKeystoneV(&got); }, {Op::IncrementKeystoneV, 0, 30}, 1, 0, -2},
+      {[&] { return p.GetVideoFormat(1, &got); }, {Op::GetVideoFormat, 0, 1}, 1, 0, -2},
+      {[&] { return p.IncrementInputSrcVol(3, &got); }, {Op::IncrementInputSrcVol, 0, 3}, 1, 0, -2},
+      {[&] { return p.SetVolumeEachSrc(15, 9); }, {Op::SetVolumeEachSrc, 0, 15, 9}, 1, 0},
+      {[&] { return p.SetInputSrcBass(3, 130); }, {Op::SetInputSrcBass, 0, 3, 130}, 1, 0},
+      {[&] { return p.GetColorTempOffsetB(); }, {Op::GetColorTempOffsetB}, -2, 0},
+      {[&] { return p.GetUserGammaPoint(3); }, {Op::GetUserGammaPoint, 0, 3}, -2, 0},
+      {[&] { return p.DecrementColorTempGain(2, 7); },
+       {Op::DecrementColorTempGain, 0, 2, 7},
+       -2,
+       7},
+      {[&] { return p.IncrementAutoPowerOff(step); }, {Op::IncrementAutoPowerOff, 0, 12}, -2, 12},
+      {[&] { return p.DecrementAutoPowerOff(step); }, {Op::DecrementAutoPowerOff, 0, 12}, -2, 12},
+      {[&] { return p.Get(0x2003, 0, &p, &word); }, {Op::Get, 0x2003}, 1, 0, 0xFFFE},
+      {[&] { return p.Set(0x2003, 0xFFFE, &p); }, {Op::Set, 0x2003, -2}, 1, 0},
+      {[&] { return p.Inc(0x2003, 0, &p); }, {Op::Inc, 0x2003}, 1, 0},
+      {[&] { return p.Dec(0x2003, 0, &p); }, {Op::Dec, 0x2003}, 1, 0},
+  };
+  for (const Form& form : forms) {
+    SCOPED_TRACE(OperationName(form.command.operation));
+    const bool isGet = form.command.operation == Op::Get;
+    const auto expectCall = [&](int result, int left) {
+      got = 30;
+      word = 30;
+      EXPECT_EQ(form.call(), result);
+      EXPECT_EQ(isGet ? int{word} : int{got}, left);
+    };
+    channel_->accepted = true;
+    pjt_.SetChannel(channel_);
+    expectCall(form.accepted, form.value);
+    EXPECT_EQ(channel_->last, form.command);
+    channel_->accepted = false;
+    expectCall(form.refused, 30);
+    pjt_.SetChannel(nullptr);
+    expectCall(form.refused, 30);
   }
 }
 

@@ -60,22 +60,14 @@ TEST(ModelDataIntakeTest, EveryMemberIsCopied) {
 
 TEST(ModelDataIntakeTest, RangeTextsComeFromTheirPlacesInTheRecord) {
   const ModelData data = MakeModelData(NumberedRecord());
-  const auto text = [&](std::size_t index) { return data.RangeTexts[index]; };
-  EXPECT_EQ(text(RangeIndex::AutoOff), "1080");
-  EXPECT_EQ(text(RangeIndex::ColorTempAdjust), "1008");
-  EXPECT_EQ(text(RangeIndex::ColorTempAdjust + 5), "1028");
-  EXPECT_EQ(text(RangeIndex::GammaPoint), "976");
-  EXPECT_EQ(text(RangeIndex::GammaPoint + 7), "1004");
-  EXPECT_EQ(text(RangeIndex::Brightness), "956");
-  EXPECT_EQ(text(RangeIndex::Contrast), "960");
-  EXPECT_EQ(text(RangeIndex::Color), "964");
-  EXPECT_EQ(text(RangeIndex::Tint), "968");
-  EXPECT_EQ(text(RangeIndex::Sharpness), "972");
-  EXPECT_EQ(text(RangeIndex::KeystoneV), "1040");
-  EXPECT_EQ(text(RangeIndex::KeystoneH), "1044");
-  EXPECT_EQ(text(RangeIndex::Volume), "1048");
-  EXPECT_EQ(text(RangeIndex::Treble), "1064");
-  EXPECT_EQ(text(RangeIndex::Bass), "1068");
+  using namespace RangeIndex;
+  std::string places;
+  for (const std::size_t index :
+       {Brightness, Contrast, Color, Tint, Sharpness, GammaPoint, GammaPoint + 7, ColorTempAdjust,
+        ColorTempAdjust + 5, KeystoneV, KeystoneH, Volume, Treble, Bass, AutoOff}) {
+    places += data.RangeTexts[index] + ' ';
+  }
+  EXPECT_EQ(places, "956 960 964 968 972 976 1004 1008 1028 1040 1044 1048 1064 1068 1080 ");
 }
 
 TEST(ModelDataIntakeTest, AConnectionIsChosenByItsIndex) {
@@ -91,21 +83,10 @@ TEST(ModelDataIntakeTest, AConnectionIsChosenByItsIndex) {
 
 TEST(ModelDataIntakeTest, AnItemBringsItsOwnNameAndConnection) {
   const CModelInfo2 info = NumberedRecord();
-  CProjectorItem item{.Name = "item",
-                      .ConnectionKind = 1,
-                      .ConnectionNumber = 2,
-                      .ConnectionParameter = 23,
-                      .Address = 0xC0000207,
-                      .ConnectionText2 = MakeNameSlot("second"),
-                      .Model = &info};
+  const CProjectorItem item{"item", 1, 2, 23, 0xC0FF0207, MakeNameSlot("second"), &info};
   EXPECT_EQ(MakeModelData(item).ModelName, "item");
   EXPECT_EQ(MakeModelData(item).ModelCode, 42);
-  EXPECT_EQ(MakeConnectionData(item), (ConnectionData{1, 2, 23, "192.0.2.7", "second"}));
-
-  item.Model = nullptr;
-  EXPECT_EQ(MakeModelData(item).ModelName, "item");
-  EXPECT_EQ(MakeModelData(item).DialogType, 0);
-  EXPECT_EQ(DottedAddress(0xFFFFFFFF), "255.255.255.255");
+  EXPECT_EQ(MakeConnectionData(item), (ConnectionData{1, 2, 23, "192.255.2.7", "second"}));
 }
 
 TEST(NameSlotTest, ATextIsCutBetweenCharacters) {

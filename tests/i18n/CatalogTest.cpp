@@ -1,7 +1,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,29 +20,22 @@ static_assert(MessageId(-256, 0xFFFF) == 0x0000FFFF);
 
 constexpr const char* kNoCatalog = "No Message Catalog";
 
+constexpr std::uint32_t kFirst = MessageId(4, 1);
+
 // Runs in an empty current directory, with its own locale and modules.
 class CatalogTest : public testing::Test {
  protected:
-  void SetUp() override {
-    for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
-      const char* value = std::getenv(name);
-      environment_.emplace_back(name, value ? std::optional<std::string>(value) : std::nullopt);
-      unsetenv(name);
-    }
-    home_ = fs::current_path();
-    folder_ = fs::path(testing::TempDir()) / "catalog_test";
+  CatalogTest() {
+    for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) unsetenv(name);
     fs::remove_all(folder_);
     fs::create_directories(folder_);
     fs::current_path(folder_);
   }
 
-  void TearDown() override {
+  ~CatalogTest() override {
     ReleaseCatalog();
     fs::current_path(home_);
     fs::remove_all(folder_);
-    for (const auto& [name, value] : environment_) {
-      value ? setenv(name, value->c_str(), 1) : unsetenv(name);
-    }
   }
 
   static void SetLocale(const char* locale) { setenv("LC_ALL", locale, 1); }
@@ -54,27 +46,26 @@ class CatalogTest : public testing::Test {
     return LoadCatalog(std::span(&here, 1));
   }
 
-  // One catalog for every language, with these messages (4, 1), (4, 2) ... of each.
+  // One catalog for every language.
   static void LoadTables(const std::vector<TestTable>& tables) {
-    const bool chinese = SystemLanguageId() == kChineseSimplified || fs::exists("GETSCH");
-    TestModule(tables).Save(chinese ? "mcschn.dll" : "mcdll.dll");
+    for (const char* name : {"mcdll.dll", "mcschn.dll"}) TestModule(tables).Save(name);
     ASSERT_EQ(LoadHere(), 0);
   }
 
+  // The messages (4, 1), (4, 2) ... of English.
+  static void LoadTexts(const std::vector<const char16_t*>& texts) {
+    TestBlock block{kFirst, {}};
+    for (const char16_t* text : texts) block.entries.push_back(Unicode(text));
+    LoadTables({{1033, {block}}});
+  }
+
  private:
-  std::vector<std::pair<const char*, std::optional<std::string>>> environment_;
-  fs::path home_;
-  fs::path folder_;
+  const fs::path home_ = fs::current_path();
+  const fs::path folder_ = fs::path(testing::TempDir()) / "catalog_test";
 };
 
-constexpr std::uint32_t kFirst = MessageId(4, 1);
-
 TEST_F(CatalogTest, SystemLanguage) {
-  struct Case {
-    const char* locale;
-    std::uint32_t expected;
-  };
-  constexpr Case kCases[] = {
+  constexpr std::pair<const char*, std::uint32_t> kCases[] = {
       {"zh_CN", 2052},       {"zh_CN.UTF-8", 2052}, {"zh_CN.GB18030@pinyin", 2052},
       {"zh_Hans_CN", 2052},  {"zh", 2052},          {"zh_Hans", 2052},
       {"zh_TW", 1028},       {"zh_Hant", 1028},     {"zh_SG", 4100},
@@ -84,9 +75,9 @@ TEST_F(CatalogTest, SystemLanguage) {
       {"POSIX", 1033},       {"xx_YY", 1033},       {"???", 1033},
   };
   EXPECT_EQ(SystemLanguageId(), 1033U);
-  for (const Case& c : kCases) {
-    SetLocale(c.locale);
-    EXPECT_EQ(SystemLanguageId(), c.expected) << c.locale;
+  for (const auto& [locale, expected] : kCases) {
+    SetLocale(locale);
+    EXPECT_EQ(SystemLanguageId(), expected) << locale;
   }
   SetLocale(std::string(100000, 'z').c_str());
   EXPECT_EQ(SystemLanguageId(), 1033U);
@@ -104,18 +95,18 @@ TEST_F(CatalogTest, SystemLanguage) {
 TEST_F(CatalogTest, ChoosesTheModule) {
   TestModule({{1033, {{kFirst, {Unicode(u"english\r\n")}}}}}).Save("mcdll.dll");
   TestModule({{1033, {{kFirst, {Unicode(u"chinese\r\n")}}}}}).Save("mcschn.dll");
-  const auto loaded = [] { return LoadHere() == 0 ? CatalogText(4, 1) : "(failed)"; };
-  EXPECT_EQ(loaded(), "english");
-  SetLocale("zh_TW");
-  EXPECT_EQ(loaded(), "english");
-  SetLocale("zh_CN");
-  EXPECT_EQ(loaded(), "chinese");
+  const auto expectLoaded = [](const char* locale, const char* module) {
+    SetLocale(locale);
+    EXPECT_EQ(LoadHere() == 0 ? CatalogText(4, 1) : "(failed)", module) << locale;
+  };
+  expectLoaded("", "english");
+  expectLoaded("zh_TW", "english");
+  expectLoaded("zh_CN", "chinese");
   Touch("GETENG");
-  EXPECT_EQ(loaded(), "chinese");
-  SetLocale("en_US");
-  EXPECT_EQ(loaded(), "english");
+  expectLoaded("zh_CN", "chinese");
+  expectLoaded("en_US", "english");
   Touch("GETSCH");
-  EXPECT_EQ(loaded(), "chinese");
+  expectLoaded("en_US", "chinese");
 }
 
 TEST_F(CatalogTest, TakesTheFirstFileAndNoneAfterADamagedOne) {
@@ -125,6 +116,9 @@ TEST_F(CatalogTest, TakesTheFirstFileAndNoneAfterADamagedOne) {
   const std::vector<std::string> folders = {"absent", "empty", "good", "damaged"};
   EXPECT_EQ(LoadCatalog(folders), 0);
   EXPECT_EQ(CatalogText(4, 1), "good");
+  ReleaseCatalog();
+  EXPECT_EQ(CatalogText(4, 1), kNoCatalog);
+  EXPECT_EQ(LoadCatalog(folders), 0);
   fs::remove("empty/mcdll.dll");
   Touch("empty/mcdll.dll");
   EXPECT_EQ(LoadCatalog(folders), -1);
@@ -133,48 +127,31 @@ TEST_F(CatalogTest, TakesTheFirstFileAndNoneAfterADamagedOne) {
   EXPECT_EQ(CatalogText(4, 1), kNoCatalog);
 }
 
-TEST_F(CatalogTest, LoadsTheBuiltModules) {
-  const std::string folder = TEST_CATALOG_DIR;
-  ASSERT_EQ(LoadCatalog(std::span(&folder, 1)), 0);
-  const std::string english = CatalogText(4, 156);
-  SetLocale("zh_CN");
-  ASSERT_EQ(LoadCatalog(std::span(&folder, 1)), 0);
-  const std::string chinese = CatalogText(4, 156);
-  EXPECT_NE(english, kNoCatalog);
-  EXPECT_NE(chinese, kNoCatalog);
-  EXPECT_NE(english, chinese);
-  SetLocale("de_DE");
-  EXPECT_EQ(CatalogText(4, 156), chinese);
-  ReleaseCatalog();
-  EXPECT_FALSE(IsCatalogLoaded());
-  EXPECT_EQ(CatalogText(4, 156), kNoCatalog);
-}
-
 // Marker files, locale and current directory count at the moment of the call.
 TEST_F(CatalogTest, LanguageOfEachCall) {
   SetLocale("zh_CN");
   LoadTables({{1033, {{kFirst, {Unicode(u"in 1033\r\n"), Unicode(u"only in 1033\r\n")}}}},
               {2052, {{kFirst, {Unicode(u"in 2052\r\n")}}, {kFirst + 2, {Unicode(u"only\r\n")}}}}});
-  EXPECT_EQ(CatalogText(4, 1), "in 2052");
-  EXPECT_EQ(CatalogText(4, 2), "only in 1033");
-  EXPECT_EQ(CatalogText(4, 3), "only");
+  const auto expectTexts = [](const char* first, const char* third) {
+    EXPECT_EQ(CatalogText(4, 1), first);
+    EXPECT_EQ(CatalogText(4, 2), "only in 1033");
+    EXPECT_EQ(CatalogText(4, 3), third);
+  };
+  expectTexts("in 2052", "only");
+  fs::create_directories("elsewhere");
   for (const char* marker : {"GETENG", "GETSCH"}) {
+    SCOPED_TRACE(marker);
     Touch(marker);
-    EXPECT_EQ(CatalogText(4, 1), "in 1033") << marker;
-    EXPECT_EQ(CatalogText(4, 3), kNoCatalog) << marker;
-    fs::create_directories("elsewhere");
+    expectTexts("in 1033", kNoCatalog);
     fs::current_path("elsewhere");
-    EXPECT_EQ(CatalogText(4, 1), "in 2052") << marker;
+    expectTexts("in 2052", "only");
     fs::current_path("..");
-    EXPECT_EQ(CatalogText(4, 1), "in 1033") << marker;
+    expectTexts("in 1033", kNoCatalog);
     fs::remove(marker);
-    EXPECT_EQ(CatalogText(4, 1), "in 2052") << marker;
+    expectTexts("in 2052", "only");
   }
   SetLocale("de_DE");
-  EXPECT_EQ(CatalogText(4, 1), "in 1033");
-  EXPECT_EQ(CatalogText(4, 3), kNoCatalog);
-  SetLocale("zh_CN");
-  EXPECT_EQ(CatalogText(4, 1), "in 2052");
+  expectTexts("in 1033", kNoCatalog);
 }
 
 TEST_F(CatalogTest, MessageThatCannotBeFormattedFallsBack) {
@@ -198,36 +175,32 @@ TEST_F(CatalogTest, NumbersThatAreNone) {
 }
 
 TEST_F(CatalogTest, LastTwoCharactersAreDropped) {
-  LoadTables({{1033,
-               {{kFirst,
-                 {Unicode(u"\r\n"), Unicode(u""), Unicode(u"x"), Unicode(u"亮度中文"),
-                  Unicode(u"cut%0"), Unicode(u"x%0"), Unicode(u"lone\n")}}}}});
-  constexpr const char* kExpected[] = {"", "", "", "亮度", "c", "", "lone"};
-  int number = 1;
-  for (const char* expected : kExpected) {
-    EXPECT_EQ(CatalogText(4, number), expected) << number;
-    ++number;
+  LoadTexts({u"\r\n", u"", u"x", u"亮度中文", u"cut%0", u"x%0", u"lone\n"});
+  int number = 0;
+  for (const char* expected : {"", "", "", "亮度", "c", "", "lone"}) {
+    EXPECT_EQ(CatalogText(4, ++number), expected) << number;
   }
 }
 
 TEST_F(CatalogTest, CopyStaysInTheBuffer) {
-  LoadTables({{1033, {{kFirst, {Unicode(u"a亮😀z\r\n"), Unicode(u"%1\r\n")}}}}});
-  // Bytes of the whole characters that fit, by buffer size.
-  constexpr std::size_t kLengths[] = {0, 0, 1, 1, 1, 4, 4, 4, 4, 8, 9, 9};
-  for (int size = 1; size < static_cast<int>(std::size(kLengths)); ++size) {
+  LoadTexts({u"a亮😀z\r\n", u"%1\r\n"});
+  const auto copy = [](int size) {
     std::string buffer(16, '#');
     GetCatalogText(4, 1, size, buffer.data());
-    const std::size_t length = std::string_view("a亮😀z").substr(0, kLengths[size]).size();
-    EXPECT_EQ(buffer.substr(0, length), std::string("a亮😀z").substr(0, length)) << size;
-    EXPECT_EQ(buffer[length], '\0') << size;
-    EXPECT_EQ(buffer.substr(static_cast<std::size_t>(size)),
-              std::string(16 - static_cast<std::size_t>(size), '#'));
+    return buffer;
+  };
+  // Bytes of the whole characters that fit, by buffer size.
+  constexpr std::size_t kLengths[] = {0, 1, 1, 1, 4, 4, 4, 4, 8, 9, 9};
+  std::size_t size = 0;
+  for (const std::size_t length : kLengths) {
+    const std::string buffer = copy(static_cast<int>(++size));
+    EXPECT_TRUE(buffer.starts_with(std::string("a亮😀z", length) + '\0')) << size;
+    EXPECT_EQ(buffer.substr(size), std::string(16 - size, '#'));
   }
-  std::string buffer(16, '#');
-  GetCatalogText(4, 1, 0, buffer.data());
-  GetCatalogText(4, 1, -1, buffer.data());
+  EXPECT_EQ(copy(0), std::string(16, '#'));
+  EXPECT_EQ(copy(-1), std::string(16, '#'));
   GetCatalogText(4, 1, 16, nullptr);
-  EXPECT_EQ(buffer, std::string(16, '#'));
+  std::string buffer(16, '#');
   GetCatalogText(4, 999, 3, buffer.data());
   EXPECT_STREQ(buffer.c_str(), "No");
 

@@ -14,77 +14,65 @@ struct Case {
   std::optional<std::string> expected;
 };
 
-void Check(const std::vector<Case>& cases) {
-  for (const Case& c : cases) EXPECT_EQ(ExpandMessage(c.text, c.inserts), c.expected) << c.text;
+std::vector<CatalogInsert> Numbers(int last) {
+  std::vector<CatalogInsert> numbers;
+  for (int i = 1; i <= last; ++i) numbers.emplace_back(i);
+  return numbers;
 }
 
 constexpr std::nullopt_t kNoResult = std::nullopt;
 
-TEST(MessageFormat, Escapes) {
-  Check({
-      {"", {}, ""},
-      {"100%% %. %! %q%", {}, "100% . ! q"},
-      {"a%nb%rc%td%be% f", {}, "a\r\nb\rc\td e f"},
-      {"kept%0dropped\r\n", {}, "kept"},
-      {"%0", {}, ""},
-      {"a\nb\r\nc\rd\r\n", {}, "a\r\nb\r\nc\r\nd\r\n"},
-      {"%亮", {}, "亮"},
-  });
-}
+const Case kCases[] = {
+    // Escapes.
+    {"", {}, ""},
+    {"100%% %. %! %q%", {}, "100% . ! q"},
+    {"a%nb%rc%td%be% f", {}, "a\r\nb\rc\td e f"},
+    {"kept%0dropped\r\n", {}, "kept"},
+    {"%0", {}, ""},
+    {"a\nb\r\nc\rd\r\n", {}, "a\r\nb\r\nc\r\nd\r\n"},
+    {"%亮", {}, "亮"},
+    // Inserts by number.
+    {"%2-%1", {"a", "b"}, "b-a"},
+    {"%99 %10 %1", Numbers(99), "99 10 1"},
+    {"%123", Numbers(99), "123"},
+    {"%1%%1", {"x"}, "x%1"},
+    {"%1", {"%1%n"}, "%1%n"},
+    {"%2", {"only one"}, kNoResult},
+    {"text %1", {}, kNoResult},
+    // Conversions.
+    {"[%1!5d!|%1!-5d!|%1!05d!|%1!+d!|%1!.3i!]", {42}, "[   42|42   |00042|+42|042]"},
+    {"%1!x! %1!X! %1!#x! %1!o! %1!u!", {255}, "ff FF 0xff 377 255"},
+    {"%1!u! %1!hu! %1!hhx! %1!I64x!", {-1}, "4294967295 65535 ff ffffffffffffffff"},
+    {"%1 %1!d! %1!I64d! %1!lld! %1!I32u! %1!ld!",
+     {std::int64_t{0x100000001}},
+     "4294967297 1 4294967297 4294967297 1 1"},
+    {"%1 %1!I64u!",
+     {std::numeric_limits<std::uint64_t>::max()},
+     "18446744073709551615 18446744073709551615"},
+    {"%1 %1!I64i!",
+     {std::numeric_limits<std::int64_t>::min()},
+     "-9223372036854775808 -9223372036854775808"},
+    {"%1!p!", {255}, "00000000000000FF"},
+    {"%1!c!%2!C!%3!wc!|%1!3c!|", {'A', 0x4EAE, "中文"}, "A亮中|  A|"},
+    {"[%1!6s!|%1!-6S!|%1!.2ws!|%1!hs!]", {"亮度é"}, "[   亮度é|亮度é   |亮度|亮度é]"},
+    {"%1!*.*s! %4 %5!*s!", {4, 2, "Bill", "Bob", 6, "Bill"}, "  Bi Bob   Bill"},
+    {"[%1!*d!]", {-4, 7}, "[7   ]"},
+    // Inserts of the other kind.
+    {"%1|%1!4s!|%2!d!|%3!*s!", {-7, "-12", "3", "x"}, "-7|  -7|-12|  x"},
+    {"%1!d!", {"12 apples"}, kNoResult},
+    {"%1!d!", {""}, kNoResult},
+    {"%1!p!", {"text"}, kNoResult},
+    {"%1!*d!", {"wide", 1}, kNoResult},
+    {"%1!c!", {0x110000}, kNoResult},
+    {"%1!c!", {0xD800}, kNoResult},
+    {"%1", {static_cast<const char*>(nullptr)}, ""},
+};
 
-TEST(MessageFormat, NumbersOfInserts) {
-  std::vector<CatalogInsert> many;
-  for (int i = 1; i <= 99; ++i) many.emplace_back(i);
-  Check({
-      {"%2-%1", {"a", "b"}, "b-a"},
-      {"%99 %10 %1", many, "99 10 1"},
-      {"%123", many, "123"},
-      {"%1%%1", {"x"}, "x%1"},
-      {"%1", {"%1%n"}, "%1%n"},
-      {"%2", {"only one"}, kNoResult},
-      {"text %1", {}, kNoResult},
-  });
-}
-
-TEST(MessageFormat, Conversions) {
-  Check({
-      {"[%1!5d!|%1!-5d!|%1!05d!|%1!+d!|%1!.3i!]", {42}, "[   42|42   |00042|+42|042]"},
-      {"%1!x! %1!X! %1!#x! %1!o! %1!u!", {255}, "ff FF 0xff 377 255"},
-      {"%1!u! %1!hu! %1!hhx! %1!I64x!", {-1}, "4294967295 65535 ff ffffffffffffffff"},
-      {"%1 %1!d! %1!I64d! %1!lld! %1!I32u! %1!ld!",
-       {std::int64_t{0x100000001}},
-       "4294967297 1 4294967297 4294967297 1 1"},
-      {"%1 %1!I64u!",
-       {std::numeric_limits<std::uint64_t>::max()},
-       "18446744073709551615 18446744073709551615"},
-      {"%1 %1!I64i!",
-       {std::numeric_limits<std::int64_t>::min()},
-       "-9223372036854775808 -9223372036854775808"},
-      {"%1!p!", {255}, "00000000000000FF"},
-      {"%1!c!%2!C!%3!wc!|%1!3c!|", {'A', 0x4EAE, "中文"}, "A亮中|  A|"},
-      {"[%1!6s!|%1!-6S!|%1!.2ws!|%1!hs!]", {"亮度é"}, "[   亮度é|亮度é   |亮度|亮度é]"},
-      {"%1!*.*s! %4 %5!*s!", {4, 2, "Bill", "Bob", 6, "Bill"}, "  Bi Bob   Bill"},
-      {"[%1!*d!]", {-4, 7}, "[7   ]"},
-  });
-}
-
-TEST(MessageFormat, InsertsOfTheOtherKind) {
-  Check({
-      {"%1|%1!4s!|%2!d!|%3!*s!", {-7, "-12", "3", "x"}, "-7|  -7|-12|  x"},
-      {"%1!d!", {"12 apples"}, kNoResult},
-      {"%1!d!", {""}, kNoResult},
-      {"%1!p!", {"text"}, kNoResult},
-      {"%1!*d!", {"wide", 1}, kNoResult},
-      {"%1!c!", {0x110000}, kNoResult},
-      {"%1!c!", {0xD800}, kNoResult},
-      {"%1", {static_cast<const char*>(nullptr)}, ""},
-  });
-}
-
-TEST(MessageFormat, MalformedMessagesHaveNoResult) {
-  for (const char* text : {"%1!", "%1!!", "%1!d", "%1!d x", "%1!f!", "%1!n!", "%1!5%!", "%1!I65d!",
-                           "%1!.-1d!", "%1!*s!"}) {
-    EXPECT_EQ(ExpandMessage(text, std::vector<CatalogInsert>{1}), std::nullopt) << text;
+TEST(MessageFormat, ExpandsMessages) {
+  for (const Case& c : kCases) EXPECT_EQ(ExpandMessage(c.text, c.inserts), c.expected) << c.text;
+  for (const char* malformed : {"%1!", "%1!!", "%1!d", "%1!d x", "%1!f!", "%1!n!", "%1!5%!",
+                                "%1!I65d!", "%1!.-1d!", "%1!*s!"}) {
+    EXPECT_EQ(ExpandMessage(malformed, std::vector<CatalogInsert>{1}), kNoResult) << malformed;
   }
 }
 

@@ -192,6 +192,9 @@ void CAdvanceDlg::CopyData(const CProjectorItem* item) {
 
 bool CAdvanceDlg::OnInitDialog() {
   CDialog::OnInitDialog();
+  if (auto channel = std::exchange(cutOff_, nullptr); !projector_.Channel()) {
+    projector_.SetChannel(std::move(channel));
+  }
   savedResources_ = ResourceChain::SetCurrent(&AdvancedControlResources());
   OpenDialogs().push_back(this);
   LocalizeControlTexts(kCaptionCategory, *this);
@@ -277,7 +280,7 @@ void CAdvanceDlg::DispTabScreen() {
     tabChanged_ = true;
     return;
   }
-  const Busy busy(*this);
+  const Busy busy(this);
   const QScopedValueRollback reading(reading_, true);
   do {
     tabChanged_ = false;
@@ -301,6 +304,11 @@ CTabPage* CAdvanceDlg::SelectedPage() const {
 }
 
 void CAdvanceDlg::OnSelchangeAdvanceTab() { DispTabScreen(); }
+
+void CAdvanceDlg::OnOrphaned() {
+  cutOff_ = projector_.Channel();
+  projector_.SetChannel(nullptr);
+}
 
 void CAdvanceDlg::OnDestroy() {
   CDialog::OnDestroy();

@@ -96,6 +96,8 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
 
  protected:
   void DoDataExchange() override;
+  /// Takes the channel away until the dialog is created again.
+  void OnOrphaned() override;
   void resizeEvent(QResizeEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
@@ -114,6 +116,7 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
   const ResourceModule* savedResources_ = nullptr;  // put back when the dialog closes
   ModelData model_;
   CPjtInterface projector_;
+  std::shared_ptr<ProjectorChannel> cutOff_;
   std::unique_ptr<Pages> pages_;
   bool hostOption_ = false;
   CTabCtrl* tabs_ = nullptr;

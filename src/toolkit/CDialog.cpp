@@ -1,6 +1,7 @@
 #include "toolkit/CDialog.h"
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 #include <QApplication>
@@ -38,6 +39,24 @@ std::vector<CDialog*>& OpenDialogs() {
   return dialogs;
 }
 
+struct Block {
+  std::byte* begin;
+  std::size_t size;
+};
+
+// Memory from CDialog::operator new in which no dialog has been constructed yet.
+std::vector<Block>& NewBlocks() {
+  static std::vector<Block> blocks;
+  return blocks;
+}
+
+bool TakeNewBlock(const void* dialog) {
+  const auto* at = static_cast<const std::byte*>(dialog);
+  return std::erase_if(NewBlocks(), [at](const Block& block) {
+           return !std::less<>()(at, block.begin) && std::less<>()(at, block.begin + block.size);
+         }) > 0;
+}
+
 // What a screen reader says for a caption: without the tabs and the colon of a template text.
 QString SpokenCaption(const QString& caption) {
   QString spoken = caption.simplified();
@@ -48,7 +67,26 @@ QString SpokenCaption(const QString& caption) {
 }  // namespace
 
 CDialog::CDialog(int templateNumber, CWnd* owner)
-    : QDialog(owner), templateNumber_(templateNumber) {}
+    : QDialog(owner), templateNumber_(templateNumber), onHeap_(TakeNewBlock(this)) {}
+
+void* CDialog::operator new(std::size_t size) {
+  void* block = ::operator new(size);
+  NewBlocks().push_back({static_cast<std::byte*>(block), size});
+  return block;
+}
+
+void* CDialog::operator new(std::size_t size, const std::nothrow_t&) noexcept {
+  try {
+    return operator new(size);
+  } catch (const std::bad_alloc&) {
+    return nullptr;
+  }
+}
+
+void CDialog::operator delete(void* dialog) {
+  TakeNewBlock(dialog);  // still there if no dialog came to be constructed
+  ::operator delete(dialog);
+}
 
 CDialog::~CDialog() {
   // Hiding takes the focus from a control, which may report to a handler that is gone by now.
@@ -65,8 +103,11 @@ bool CDialog::Create() {
 
   template_ = ResourceChain::FindDialog(templateNumber_);
   if (template_ == nullptr) return false;
+  const Busy busy(this);
   created_ = true;
   if (isWindow()) OpenDialogs().push_back(this);
+  orphaned_ = false;
+  WatchOwner();
   BuildControls();
   DoDataExchange();
   ConnectNotifications();
@@ -79,6 +120,7 @@ bool CDialog::Create() {
 int CDialog::DoModal() {
   const QPointer<CDialog> self(this);
   if (parentWidget() == nullptr) AdoptOwner();
+  const Busy ownerBusy(Owner());
   setWindowModality(Owner() != nullptr ? Qt::WindowModal : Qt::ApplicationModal);
   if (!Create()) return -1;
   int result = Rejected;
@@ -89,15 +131,11 @@ int CDialog::DoModal() {
       adjustSize();
       move(owner_->window()->frameGeometry().center() - rect().center());
     }
-    QMetaObject::Connection orphaned;
-    if (owner_ != nullptr) {
-      orphaned = connect(owner_, &QObject::destroyed, this, [this] { done(Rejected); });
-    }
     result = exec();
-    disconnect(orphaned);
   }
   if (self == nullptr) return Rejected;
   owner_.clear();
+  if (parentWidget() == nullptr) disconnect(ownerDies_);
   hide();
   Destroy();  // the event loop may also have ended in other ways than by closing the dialog
   return result;
@@ -114,17 +152,63 @@ void CDialog::AdoptOwner() {
     const auto newest = std::find_if(open.rbegin(), open.rend(), isVisible);
     if (newest != open.rend()) active = *newest;
   }
-  owner_ = active != this ? active : nullptr;
+  // The list of one of this dialog's own controls may still be the active window.
+  const QObject* part = active;
+  while (part != nullptr && part != this) part = part->parent();
+  owner_ = part == nullptr ? active : nullptr;
 }
 
-CDialog::Busy::Busy(const CDialog& dialog) : top_(qobject_cast<CDialog*>(dialog.window())) {
+void CDialog::WatchOwner() {
+  disconnect(ownerDies_);
+  if (!isWindow() || Owner() == nullptr) return;
+  ownerDies_ = connect(Owner(), &QObject::destroyed, this, &CDialog::OnOwnerDying);
+}
+
+// Comes before the owner deletes its children.
+void CDialog::OnOwnerDying() {
+  if (!isWindow()) return;
+  if (parentWidget() != nullptr) {
+    if (onHeap_ && busy_ == 0) return;  // deleted as any child
+    deletionWaits_ = deletionWaits_ || onHeap_;
+    EndOrphaned();
+    setParent(nullptr, windowFlags());
+  } else {
+    EndOrphaned();
+  }
+}
+
+// Emits nothing: its listeners may be parts of the owner.
+void CDialog::EndOrphaned() {
+  if (std::exchange(orphaned_, true)) return;
+  OnOrphaned();
+  for (CDialog* dialog : std::vector(OpenDialogs())) {
+    if (dialog != this && dialog->Owner() != nullptr && dialog->Owner()->window() == this) {
+      dialog->EndOrphaned();
+    }
+  }
+  for (QDialog* box : findChildren<QDialog*>()) {
+    if (box->isWindow()) box->hide();
+  }
+  hide();
+  Destroy();
+}
+
+bool CDialog::IsOrphaned() const {
+  const auto* top = qobject_cast<const CDialog*>(window());
+  return top != nullptr && top->orphaned_;
+}
+
+CDialog::Busy::Busy(const QWidget* dialog)
+    : top_(dialog != nullptr ? qobject_cast<CDialog*>(dialog->window()) : nullptr) {
   if (top_ != nullptr) ++top_->busy_;
 }
 
 CDialog::Busy::~Busy() {
   if (top_ == nullptr || --top_->busy_ > 0 || !top_->deletionWaits_) return;
-  QMetaObject::invokeMethod(
-      qApp, [dialog = QPointer<CDialog>(top_)] { delete dialog; }, Qt::QueuedConnection);
+  // The dialog's own deferred deletion may be used up.
+  auto* last = new QObject;
+  QObject::connect(last, &QObject::destroyed, [dialog = QPointer(top_)] { delete dialog; });
+  last->deleteLater();
 }
 
 bool CDialog::event(QEvent* event) {
@@ -132,11 +216,12 @@ bool CDialog::event(QEvent* event) {
     deletionWaits_ = true;
     return true;
   }
+  if (event->type() == QEvent::ParentChange && created_) WatchOwner();
   return QDialog::event(event);
 }
 
 void CDialog::RunHandler(const Notification& entry, CSliderCtrl* slider) {
-  const Busy busy(*this);
+  const Busy busy(this);
   entry.handle(*this, slider);
 }
 
@@ -329,6 +414,7 @@ const NotificationMap& CDialog::Notifications() const {
 }
 
 void CDialog::setVisible(bool visible) {
+  if (visible && orphaned_) return;
   // A page is part of its dialog: showing it must not move the focus or end an event loop.
   if (isWindow()) {
     QDialog::setVisible(visible);

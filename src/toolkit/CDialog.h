@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <new>
 #include <unordered_map>
 #include <vector>
 
@@ -16,8 +18,11 @@ class QGridLayout;
 /// A dialog built from a numbered template, either run modally or created as a child (a page of
 /// another dialog). Esc and Enter never act on a child; Esc closes the dialog it belongs to.
 ///
-/// A handler may run an event loop: while a command waits, or for a message box or pop-up. Until it
-/// has returned the dialog must not be deleted; `deleteLater` waits for that by itself.
+/// A handler may run an event loop: while a command waits, or for a message box or pop-up. What may
+/// happen to the dialog meanwhile: it may be closed; `deleteLater` waits until the handler has
+/// returned; its owner may die in any way. The dialog then leaves its owner and ends, together with
+/// its pop-ups and message boxes, and is deleted after the handler if it was made with `new`. It
+/// must not be deleted itself (`delete dialog`, or as a member of the owner).
 class ADVANCED_CONTROL_EXPORT CDialog : public QDialog {
   Q_OBJECT
 
@@ -27,13 +32,21 @@ class ADVANCED_CONTROL_EXPORT CDialog : public QDialog {
   explicit CDialog(int templateNumber, CWnd* owner = nullptr);
   ~CDialog() override;
 
+  // Tell the dialogs that a dying owner would have deleted.
+  static void* operator new(std::size_t size);
+  static void* operator new(std::size_t size, const std::nothrow_t&) noexcept;
+  static void* operator new(std::size_t, void* place) noexcept { return place; }
+  static void operator delete(void* dialog);
+  static void operator delete(void* dialog, const std::nothrow_t&) { operator delete(dialog); }
+  static void operator delete(void*, void*) {}
+
   /// Builds the controls from the template and initialises the dialog without showing it. False
   /// when no module of the resource chain has the template; the dialog then stays empty.
   bool Create();
 
   /// Creates, shows and runs the dialog until it is closed; QDialog::Accepted or Rejected, or −1
-  /// when it could not be created. While it runs, its owner takes no input. A dialog without a
-  /// parent that dies while it runs ends the run as Rejected; so does the death of its owner.
+  /// when it could not be created. While it runs, its owner takes no input. The death of the
+  /// dialog or of its owner ends the run as Rejected.
   int DoModal();
 
   /// The parent, or the window that a running dialog without a parent belongs to; may be null.
@@ -41,6 +54,9 @@ class ADVANCED_CONTROL_EXPORT CDialog : public QDialog {
 
   /// Number of the sentence that `ShowNotice` shows.
   static constexpr int kNoticeId = -1;
+
+  /// Whether the dialog's window ended because its owner died; until it is created again.
+  bool IsOrphaned() const;
 
   int TemplateNumber() const { return templateNumber_; }
   /// The template the controls were built from; null before `Create`.
@@ -69,6 +85,18 @@ class ADVANCED_CONTROL_EXPORT CDialog : public QDialog {
   void setVisible(bool visible) override;
   void done(int result) override;
 
+  /// Holds back the deletion of `dialog`'s top-level dialog while it lives.
+  class Busy {
+   public:
+    explicit Busy(const QWidget* dialog);
+    ~Busy();
+    Busy(const Busy&) = delete;
+    Busy& operator=(const Busy&) = delete;
+
+   private:
+    CDialog* top_;
+  };
+
  protected:
   /// Binds members to controls; runs before `OnInitDialog`.
   virtual void DoDataExchange() {}
@@ -76,6 +104,10 @@ class ADVANCED_CONTROL_EXPORT CDialog : public QDialog {
   virtual bool OnInitDialog() { return true; }
   /// Runs once when a created top-level dialog closes or dies.
   virtual void OnDestroy() {}
+
+  /// The owner died while the dialog was open: from now on nothing may be sent. Handlers may still
+  /// be running.
+  virtual void OnOrphaned() {}
 
   /// Runs `OnDestroy` if the dialog is created and it has not run yet. A class that overrides
   /// `OnDestroy` calls this in its destructor.
@@ -93,18 +125,6 @@ class ADVANCED_CONTROL_EXPORT CDialog : public QDialog {
   void keyPressEvent(QKeyEvent* event) override;
   bool event(QEvent* event) override;
 
-  /// Holds back the deletion of `dialog`'s top-level dialog while it lives.
-  class Busy {
-   public:
-    explicit Busy(const CDialog& dialog);
-    ~Busy();
-    Busy(const Busy&) = delete;
-    Busy& operator=(const Busy&) = delete;
-
-   private:
-    CDialog* top_;
-  };
-
  private:
   struct PlacedRow {
     QGridLayout* grid;
@@ -116,6 +136,9 @@ class ADVANCED_CONTROL_EXPORT CDialog : public QDialog {
   [[noreturn]] void NoSuchControl(int id) const;
   void RunHandler(const Notification& entry, CSliderCtrl* slider);
   void AdoptOwner();
+  void WatchOwner();
+  void OnOwnerDying();
+  void EndOrphaned();
   void BuildControls();
   void ConnectNotifications();
   void NameControls();
@@ -123,10 +146,13 @@ class ADVANCED_CONTROL_EXPORT CDialog : public QDialog {
 
   int templateNumber_;
   const DialogTemplate* template_ = nullptr;
+  const bool onHeap_;
   bool created_ = false;
+  bool orphaned_ = false;
   int busy_ = 0;
   bool deletionWaits_ = false;
   QPointer<QWidget> owner_;
+  QMetaObject::Connection ownerDies_;
   int pitch_ = 0;  // of the present rows, in pixels
   std::unordered_map<int, QWidget*> controls_;
   std::vector<PlacedRow> rows_;

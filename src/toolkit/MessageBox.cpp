@@ -3,11 +3,17 @@
 #include <QMessageBox>
 #include <QPointer>
 
+#include "toolkit/CDialog.h"
+
 namespace {
 
 int Run(QWidget* owner, QMessageBox::Icon icon, const QString& text,
         QMessageBox::StandardButtons buttons, QMessageBox::StandardButton preselected) {
   QWidget* window = owner != nullptr ? owner->window() : nullptr;
+  if (const auto* dialog = qobject_cast<CDialog*>(window); dialog && dialog->IsOrphaned()) {
+    return QMessageBox::NoButton;
+  }
+  const CDialog::Busy busy(window);
   // On the heap: a window that dies while the box is up takes the box with it.
   const QPointer<QMessageBox> box = new QMessageBox(
       icon, window != nullptr ? window->windowTitle() : QString(), text, buttons, window);

@@ -225,6 +225,7 @@ void RowDialog::FillResets(int list) {
 }
 
 void RowDialog::Refresh() {
+  const Busy busy(this);
   for (std::size_t i = 0; i < bound_.size(); ++i) {
     if (!bound_[i].present) continue;
     std::visit([&](const auto& row) { Refresh(row, bound_[i]); }, table_.rows[i]);
@@ -281,6 +282,7 @@ void RowDialog::Refresh(const CheckRow& row, Bound&) {
 void RowDialog::Refresh(const OwnRow& row, Bound&) { RefreshOwn(row); }
 
 void RowDialog::Act(int control) {
+  const Busy busy(this);
   for (std::size_t i = 0; i < bound_.size(); ++i) {
     if (!Owns(table_.rows[i], control)) continue;
     std::visit([&](const auto& row) { Operate(row, bound_[i], control); }, table_.rows[i]);
@@ -382,6 +384,7 @@ void RowDialog::StepByValue(const ValueRow& row, ValueControls& controls, const 
 }
 
 void RowDialog::OnHScroll(CSliderCtrl& slider) {
+  const Busy busy(this);
   for (std::size_t i = 0; i < bound_.size(); ++i) {
     const auto* row = std::get_if<ValueRow>(&table_.rows[i]);
     if (row != nullptr && bound_[i].value.Owns(slider)) {

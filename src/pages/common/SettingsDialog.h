@@ -31,6 +31,8 @@ class ADVANCED_CONTROL_EXPORT SettingsDialog : public CDialog {
   /// has closed the dialog meanwhile.
   void ShowError(int errorNumber);
 
+  void OnOrphaned() override { projector = &Unconnected(); }
+
  private:
   static CPjtInterface& Unconnected();
 };

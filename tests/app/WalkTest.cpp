@@ -1,0 +1,236 @@
+// A random walk over the whole program: its window, the fault panel, its dialogs, and dialogs of
+// other owners that die at any time, also while a command waits. It ends in the middle of a
+// time-out. The sanitizers tell what is touched too late. WALK_SEED gives another walk,
+// WALK_ACTIONS a longer one.
+
+#include <algorithm>
+#include <cstdlib>
+#include <iterator>
+#include <random>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QPointer>
+#include <QSpinBox>
+#include <QTabBar>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include "app/FaultPanel.h"
+#include "app/MainWindow.h"
+#include "host/CAdvanceDlg.h"
+#include "pages/common/CTabPage.h"
+#include "toolkit/CSliderCtrl.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+
+int Given(const char* variable, int otherwise) {
+  const char* given = std::getenv(variable);
+  return given != nullptr ? static_cast<int>(std::strtol(given, nullptr, 10)) : otherwise;
+}
+
+ProjectorProfile Profile(int dialogType, int modelCode) {
+  ProjectorProfile profile;
+  profile.Model.DialogType = dialogType;
+  profile.Model.ModelCode = modelCode;
+  return profile;
+}
+
+const std::vector kProfiles{Profile(5, 30), Profile(4, 9), Profile(2, 6)};
+
+class Walk {
+ public:
+  Walk(unsigned seed, int actions) : actions_(actions), random_(seed) {
+    for (const ProjectorProfile& profile : kProfiles) {
+      sessions_.push_back(std::make_unique<ProjectorSession>(profile, nullptr));
+    }
+    window_->show();
+  }
+  ~Walk() {
+    window_.reset();
+    for (const Foreign& foreign : foreign_) delete foreign.owner;
+  }
+
+  void Run() {
+    QTimer::singleShot(0, qApp, [this] { Step(); });
+    EXPECT_EQ(QApplication::exec(), 0);
+    EXPECT_EQ(done_, actions_);
+  }
+
+  int opened = 0;
+  int died = 0;
+  int diedInMidCommand = 0;
+
+ private:
+  struct Foreign {
+    QPointer<QWidget> owner;
+    QPointer<CAdvanceDlg> dialog;
+  };
+
+  int Pick(int count) { return std::uniform_int_distribution(0, count - 1)(random_); }
+  template <class Item>
+  Item& Any(std::vector<Item>& items) {
+    return items[static_cast<std::size_t>(Pick(static_cast<int>(items.size())))];
+  }
+
+  // The next step is on its way before this one: it may come in an event loop inside this one.
+  void Step() {
+    if (done_ == actions_) return Quit();
+    ++done_;
+    QTimer::singleShot(3ms, qApp, [this] { Step(); });
+    ++depth_;
+    Act();
+    --depth_;
+  }
+
+  void Act() {
+    const int choice = Pick(20);
+    if (choice < 2) return ChangeFaults();
+    if (choice < 3) return Open();
+    if (choice < 5) return OpenForeign();
+    if (choice < 7) return KillOwner();
+    if (auto* modal = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        modal != nullptr && (choice < 10 || depth_ > 1)) {
+      return modal->done(QDialog::Rejected);
+    }
+    const std::vector<CAdvanceDlg*> dialogs = Dialogs();
+    if (dialogs.empty()) return Open();
+    CAdvanceDlg& dialog =
+        *dialogs[static_cast<std::size_t>(Pick(static_cast<int>(dialogs.size())))];
+    if (choice == 7) {
+      dialog.close();
+    } else if (choice < 11) {
+      auto* tabs = dialog.findChild<QTabBar*>();
+      tabs->setCurrentIndex(Pick(tabs->count()));
+    } else if (depth_ == 1) {  // no user input while a command waits
+      Use(*dialog.ShownPage());
+    }
+  }
+
+  std::vector<CAdvanceDlg*> Dialogs() const {
+    std::vector<CAdvanceDlg*> dialogs;
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+      auto* dialog = qobject_cast<CAdvanceDlg*>(widget);
+      if (dialog != nullptr && dialog->isVisible() && dialog->ShownPage() != nullptr) {
+        dialogs.push_back(dialog);
+      }
+    }
+    std::ranges::sort(dialogs, {}, [](const QWidget* dialog) { return dialog->winId(); });
+    return dialogs;
+  }
+
+  void ChangeFaults() {
+    auto& panel = *window_->findChild<FaultPanel*>();
+    const auto press = [&panel](const char* text) {
+      for (auto* button : panel.findChildren<QAbstractButton*>()) {
+        if (button->text() == QLatin1String(text)) button->click();
+      }
+    };
+    if (Pick(2) == 0) return press("Remove &All");
+    for (auto* list : panel.findChildren<QComboBox*>()) {
+      if (list->accessibleName() == QLatin1String("Fault"))
+        list->setCurrentIndex(Pick(list->count()));
+    }
+    panel.findChild<QSpinBox*>()->setValue(10 + Pick(40));
+    press("&Set Fault");
+    SetFaults({static_cast<Fault::Kind>(Pick(5)), std::chrono::milliseconds(10 + Pick(40))});
+  }
+
+  void SetFaults(const Fault& fault) {
+    for (const auto& session : sessions_) session->SetFault(std::monostate(), fault);
+  }
+
+  void Open() { opened += window_->OpenDialog(static_cast<std::size_t>(Pick(3))) != nullptr; }
+
+  void OpenForeign() {
+    std::erase_if(foreign_, [](const Foreign& foreign) { return foreign.owner == nullptr; });
+    if (foreign_.size() == 4) return KillOwner();
+    const auto& session = Any(sessions_);
+    Foreign foreign{new QWidget, nullptr};
+    foreign.owner->show();
+    foreign.dialog = new CAdvanceDlg(foreign.owner);
+    const QPointer dialog = foreign.dialog;
+    dialog->CopyData(&session->Profile().Model, 0);
+    {
+      const auto made = session->MakeDialog();
+      dialog->Projector().SetChannel(made->Projector().Channel());
+    }
+    foreign_.push_back(foreign);
+    ++opened;
+    if (Pick(2) == 0 && depth_ == 1) {
+      const int depth = std::exchange(depth_, 0);
+      dialog->DoModal();
+      depth_ = depth;
+    } else if (dialog->Create()) {
+      dialog->show();
+    }
+  }
+
+  void KillOwner() {
+    if (foreign_.empty()) return;
+    const QPointer owner = Any(foreign_).owner;
+    if (owner == nullptr) return;
+    ++died;
+    diedInMidCommand += depth_ > 1;
+    if (Pick(2) == 0) {
+      delete owner;
+    } else {
+      owner->deleteLater();
+    }
+  }
+
+  void Use(CTabPage& page) {
+    std::vector<QWidget*> usable;
+    for (const RowTemplate& row : page.Template()->rows) {
+      for (const ControlTemplate& control : row.controls) {
+        QWidget* widget = page.GetDlgItem(control.id);
+        if (widget != nullptr && widget->isVisible() && widget->isEnabled())
+          usable.push_back(widget);
+      }
+    }
+    if (usable.empty()) return;
+    static constexpr Qt::Key keys[] = {Qt::Key_Up, Qt::Key_Down, Qt::Key_Home, Qt::Key_End};
+    QWidget* control = Any(usable);
+    if (auto* button = qobject_cast<QAbstractButton*>(control)) {
+      button->click();
+    } else {
+      QTest::keyClick(control, keys[Pick(std::size(keys))]);
+    }
+  }
+
+  // In the middle of a time-out.
+  void Quit() {
+    const std::vector<CAdvanceDlg*> dialogs = Dialogs();
+    SetFaults({Fault::Kind::DropOut});
+    QTimer::singleShot(50ms, window_.get(), &QWidget::close);
+    if (!dialogs.empty()) dialogs.front()->DispTabScreen();
+  }
+
+  const int actions_;
+  int done_ = 0;
+  int depth_ = 0;  // of steps one in another
+  std::mt19937 random_;
+  std::vector<std::unique_ptr<ProjectorSession>> sessions_;
+  std::unique_ptr<MainWindow> window_ = std::make_unique<MainWindow>(kProfiles);
+  std::vector<Foreign> foreign_;
+};
+
+TEST(RandomWalk, OverTheWholeProgramLeavesNothingBehind) {
+  {
+    Walk walk(static_cast<unsigned>(Given("WALK_SEED", 1)), Given("WALK_ACTIONS", 500));
+    walk.Run();
+    EXPECT_GT(walk.opened, 10);
+    EXPECT_GT(walk.died, 10);
+    EXPECT_GT(walk.diedInMidCommand, 2);
+  }
+  EXPECT_TRUE(QTest::qWaitFor([] {
+    return std::ranges::none_of(QApplication::topLevelWidgets(), [](const QWidget* widget) {
+      return qobject_cast<const CDialog*>(widget) != nullptr;
+    });
+  }));
+}
+
+}  // namespace

@@ -65,10 +65,10 @@ const PageRules kPages[] = {
      "VPos HPos HSize OverScan", true},
     {"Picture22", 2, 14, 3, {{20045, 54}, {20044, 54}, {20036, 55, 16}, {20040, 56}, {20030, 53}},
      "VPos HPos HSize OverScan", true},
-    {"Picture22Short", 2, 15, 3, {{20045, 54}, {20044, 54}, {20036, 55, 16}, {20040, 56}}, "VPos HPos HSize", true},
+    {"Picture22Short", 2, 15, 3, {{20045, 54}, {20044, 54}, {20036, 55, 16}, {20040, 56}}, "VPos HPos HSize OverScan", true},
     {"Image", 3, 10, 3, {{21045, 64}, {20121, 343}}, "KeyStone", false, {}, {}, {20112}},
     {"Image4", 5, 30, 2,
-     {{20047, 53, 15}, {20205, 54}, {20206, 54}, {20209, 55, 16}, {20212, 56}, {20215, 0, -1, Rereads}},
+     {{20047, 53, 15}, {20205, 54}, {20206, 54}, {20209, 55, 16}, {20212, 56}, {20215, 4203, -1, Rereads}},
      "OverScan VPos HPos HSize"},
     // On the newest one a refused drag stays, and an iris mode without an entry is not shown.
     {"PictureType5", 5, 30, 1,
@@ -90,8 +90,8 @@ const PageRules kPages[] = {
     {"Input", 1, 1, 4, {{21057, 57}}, "", false, {}, {}, {}, {21076}},
     {"InputWithFrameLock", 1, 16, 4, {}, "", false, {}, {}, {}, {21076}},
     {"Input2", 2, 6, 4, {}, "", false, {}, {}, {}, {20055}},
-    {"Input2WithAutoAdjust", 2, 14, 4, {}, "", false, {}, {}, {}, {20055}},
-    {"Input3", 3, 4, 2, {}, "", false, {}, {}, {}, {20109}},
+    {"Input2WithAutoAdjust", 2, 14, 4, {{20049, 4203}}, "", false, {}, {}, {}, {20055}},
+    {"Input3", 3, 4, 2, {{20108, 4203}}, "", false, {}, {}, {}, {20109}},
     {"Input4", 4, 9, 4, {}, "", false, {}, {}, {}, {20224}},
     {"Input4WithFrameLock", 4, 11, 3, {}, "", false, {}, {}, {}, {20224}},
     {"Video", 4, 9, 3, {}},
@@ -199,7 +199,8 @@ void RowRules::Expect(const ListRow& row, const RowRule& rule) {
     Strings sent = Sent(refused, rule.error, [&] { driver.Choose(row.control, 1); });
     EXPECT_EQ(std::erase_if(sent, [](const auto& text) { return !text.starts_with("Get"); }),
               row.send ? 1U : 0U);
-    const bool readsBack = rule.then != Plain || (page.refusedIsReadBack && rule.error != 0);
+    const bool readsBack = (rule.then != Plain && rule.then != AlwaysRereads) ||
+                           (page.refusedIsReadBack && rule.error != 0);
     Strings reads;
     if (rule.then == AlwaysReads || (refused && readsBack)) reads.push_back(read);
     if (rule.then == AlwaysRereads) reads.insert(reads.end(), pageReads.begin(), pageReads.end());

@@ -370,11 +370,12 @@ void RowDialog::StepByValue(const ValueRow& row, ValueControls& controls, const 
   const auto value = Read(*projector, row.Reading());
   // A row that tells refusals must not be told at its own end.
   const bool upwards = step.operation == row.Stepping(true).operation;
-  if (value && row.error != 0 &&
+  if (!value) return;
+  if (row.error != 0 &&
       (upwards ? *value - row.bias >= bounds.maximum : *value - row.bias <= bounds.minimum)) {
     return;
   }
-  const Answer stepped = value ? Perform(*projector, step, *value) : Answer{};
+  const Answer stepped = Perform(*projector, step, *value);
   if (stepped.accepted) {
     controls.current = static_cast<std::int16_t>(stepped.value - row.bias);
     controls.Show(controls.current);

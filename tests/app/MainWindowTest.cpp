@@ -47,11 +47,18 @@ void ClickButton(const QWidget& window, const char* text) {
   QTest::mouseClick(&Child<QPushButton>(window, text), Qt::LeftButton);
 }
 
-/// Runs the steps, each from the program's event loop, as in the running program.
+/// Runs the steps, each from the program's event loop, as in the running program, and not before
+/// the one before it is done: a command that waits lets timers fire.
 void RunProgram(const std::vector<std::function<void()>>& steps) {
-  std::chrono::milliseconds start = 0ms;
-  for (const auto& step : steps) QTimer::singleShot(start += 20ms, qApp, step);
-  QTimer::singleShot(20s, qApp, [] { QApplication::exit(-1); });
+  QTimer watchdog;
+  watchdog.callOnTimeout([] { QApplication::exit(-1); });
+  watchdog.start(20s);
+  std::function<void(std::size_t)> run = [&](std::size_t step) {
+    steps[step]();
+    if (step + 1 == steps.size()) return;
+    QTimer::singleShot(20ms, &watchdog, [&run, step] { run(step + 1); });
+  };
+  QTimer::singleShot(20ms, &watchdog, [&run] { run(0); });
   EXPECT_EQ(QApplication::exec(), 0) << "the program did not come to its end";
 }
 

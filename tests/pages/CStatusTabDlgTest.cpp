@@ -1,11 +1,5 @@
-#include <QTest>
 #include <gtest/gtest.h>
 
-#include "device/BoundedChannel.h"
-#include "device/LoggingChannel.h"
-#include "i18n/LocalizeControlTexts.h"
-#include "pages/common/CTabPage.h"
-#include "simulator/FaultChannel.h"
 #include "tests/support/DialogDriver.h"
 
 namespace {
@@ -67,32 +61,6 @@ TEST_F(StatusTest, AFailedReadShowsADashInItsRowOnly) {
   EXPECT_EQ(driver.Text(20012), QStringLiteral("-"));
   EXPECT_EQ(driver.Text(20008), CatalogString(5, 31));
   EXPECT_TRUE(driver.IsEnabled(20018));
-}
-
-TEST(StatusOfASilentProjector, CostsOneTimeOutAndComesBack) {
-  using std::chrono::milliseconds;
-  const auto faults = std::make_shared<FaultChannel>(std::make_shared<RecordingChannel>());
-  faults->SetFault({.kind = Fault::Kind::DropOut});
-  int sent = 0;
-  const auto counted = std::make_shared<LoggingChannel>(
-      faults, [&sent](const PjtCommand&, const PjtReply&, auto) { ++sent; });
-  CAdvanceDlg dialog;
-  const CModelInfo2 model = MakeModel(5, 30);
-  dialog.CopyData(&model, 0);
-  dialog.Projector().SetChannel(std::make_shared<BoundedChannel>(
-      counted,
-      BoundedChannel::Limits{.timeOut = milliseconds(150), .retryAfter = milliseconds(300)}));
-  ASSERT_TRUE(dialog.Create());
-  dialog.show();
-  const DialogDriver driver(*dialog.ShownPage());
-  for (int id = 20008; id <= 20015; ++id) EXPECT_EQ(driver.Text(id), QStringLiteral("-"));
-
-  faults->Clear();
-  EXPECT_TRUE(QTest::qWaitFor([&] {
-    dialog.ShownPage()->InitDisp();
-    return driver.Text(20008) == CatalogString(5, 30);
-  }));
-  EXPECT_EQ(sent, 1 + 8) << "one of the first reads, not all eight, then all again";
 }
 
 }  // namespace

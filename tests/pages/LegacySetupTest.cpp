@@ -74,9 +74,10 @@ TEST(LegacyScreen, TheNamedModelOfASeriesHasALanguageMore) {
     OpenDialog open(model, 5);
     return open.Driver().Entries(20226).size();
   };
-  EXPECT_EQ(languages(11, "QD-M7450"), 16);
-  EXPECT_EQ(languages(12, "QD-M7400"), 16);
-  EXPECT_EQ(languages(13, "QD-S7350"), 16);
+  for (const auto& [code, name] : {std::pair{11, "QD-M7450"}, {12, "QD-M7400"}, {13, "QD-S7350"}}) {
+    EXPECT_EQ(languages(code, name), 16);
+    EXPECT_EQ(languages(code, "QD"), 15);
+  }
   EXPECT_EQ(languages(12, "QD-M7450"), 15) << "the name of another series";
   EXPECT_EQ(languages(23, "QD-M7400"), 17);
 }

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 #include "i18n/Catalog.h"
@@ -17,9 +18,11 @@ struct NumberedCatalog {
     }
     const TestBlock list{MessageId(5, 0), captions.entries};
     const TestBlock errors{MessageId(2201, 0), captions.entries};
-    const std::string folder = testing::TempDir();
+    const std::string folder = own.path().toStdString();
     TestModule({{1033, {captions, list, errors}}}).Save(folder + "/mcdll.dll");
     EXPECT_EQ(LoadCatalog(std::span(&folder, 1)), 0);
   }
   ~NumberedCatalog() { LoadCatalog(); }
+
+  QTemporaryDir own;  // tests that run side by side have catalogs of their own
 };

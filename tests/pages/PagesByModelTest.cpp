@@ -2,9 +2,9 @@
 // The real dialog is used, on a simulated projector. After a wanted change write the listing anew
 // with UPDATE_LISTING=1, and read what changed in it.
 
+#include <cctype>
 #include <fstream>
 #include <map>
-#include <regex>
 #include <sstream>
 
 #include <QAbstractButton>
@@ -168,17 +168,17 @@ void AddPages(Listing& listing, int dialogType, int code) {
 
 // Numbers of list texts get the texts behind them, so that a reader sees what they say.
 std::string WithTexts(const std::string& listing) {
-  static const std::regex number("#([0-9]+)");
   std::string text;
-  auto last = listing.cbegin();
-  for (std::sregex_iterator match(listing.begin(), listing.end(), number), end; match != end;
-       ++match) {
-    text.append(last, (*match)[0].first);
-    const std::string id = (*match)[1];
-    text += '#' + id + ' ' + CatalogText(kListCategory, std::stoi(id));
-    last = (*match)[0].second;
+  for (std::size_t at = 0; at < listing.size(); ++at) {
+    text += listing[at];
+    if (listing[at] != '#' || std::isdigit(static_cast<unsigned char>(listing[at + 1])) == 0) {
+      continue;
+    }
+    const int number = std::stoi(listing.substr(at + 1, 5));
+    text += std::to_string(number) + ' ' + CatalogText(kListCategory, number);
+    at += std::to_string(number).size();
   }
-  return text.append(last, listing.cend());
+  return text;
 }
 
 TEST(PagesByModel, AreAsListed) {

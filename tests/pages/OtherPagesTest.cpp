@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "settings/CatalogNumbers.h"
 #include "tests/support/DialogDriver.h"
 
 namespace {
@@ -45,7 +44,7 @@ TEST(OtherPages, TurningOnReadsThePageAgainAndTellsARefusal) {
   ExpectBox(boxes, 4201);
 }
 
-TEST(OtherPages, TurningOffAsksAndOneThatCoolsDownOrIsUnknownOffersNothing) {
+TEST(OtherPages, TurningOffAsksAndAProjectorThatStaysOnOrIsUnknownHasRefused) {
   OpenDialog open(MakeModel(5, 34), 7, [](RecordingChannel& p) { p.Answer("Get 0x6000", 1); });
   {
     MessageBoxes no;
@@ -57,6 +56,12 @@ TEST(OtherPages, TurningOffAsksAndOneThatCoolsDownOrIsUnknownOffersNothing) {
   open.Driver().Click(kOff);
   EXPECT_EQ(open.Projector().Take().size(), 1U + 8U) << "and the page is read again";
   ExpectBox(boxes, 4201);
+  open.Projector().Refuse("Get 0x6000");
+  open.Driver().Click(kOff);
+  ExpectBox(boxes, 4201);
+  ExpectPower(open, "-", false);
+  open.Projector().Accept("Get 0x6000");
+  open.Page().InitDisp();
   open.Projector().Answer("Get 0x6000", 0);
   open.Driver().Click(kOff);
   ExpectBox(boxes, 4202);
@@ -65,13 +70,6 @@ TEST(OtherPages, TurningOffAsksAndOneThatCoolsDownOrIsUnknownOffersNothing) {
   open.Driver().Click(kOff);
   ExpectBox(boxes, 4202);
   ExpectPower(open, "Cooling Down", false);
-  open.Projector().Refuse("Get 0x6000");
-  open.Page().InitDisp();
-  ExpectPower(open, "-", false);
-  open.Projector().Accept("Get 0x6000");
-  open.Projector().Answer("Get 0x6000", 1);
-  open.Page().InitDisp();
-  ExpectPower(open, "On", true);
 }
 
 }  // namespace

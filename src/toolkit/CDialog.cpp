@@ -206,7 +206,7 @@ CDialog::Busy::Busy(const QWidget* dialog)
 CDialog::Busy::~Busy() {
   if (top_ == nullptr || --top_->busy_ > 0 || !top_->deletionWaits_) return;
   // The dialog's own deferred deletion may be used up.
-  auto* last = new QObject;
+  auto* last = new QObject;  // NOLINT(bugprone-unhandled-exception-at-new): Qt ends without memory
   QObject::connect(last, &QObject::destroyed, [dialog = QPointer(top_)] { delete dialog; });
   last->deleteLater();
 }

@@ -20,6 +20,7 @@ std::vector<ListEntry> LanguageEntries(const ModelData& model) {
     if (code == model.ModelCode) count -= model.ModelName == name ? 1 : 2;
   }
   std::vector<ListEntry> entries;
+  entries.reserve(static_cast<std::size_t>(count));
   for (int i = 0; i < count; ++i) entries.emplace_back(ListText::LanguageBase + i, i);
   return entries;
 }

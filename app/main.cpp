@@ -1,5 +1,7 @@
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
+#include <exception>
 #include <variant>
 
 #include <QApplication>
@@ -158,9 +160,7 @@ std::variant<Request, int> Prepare(int argc, char* argv[]) {
   return request;
 }
 
-}  // namespace
-
-int main(int argc, char* argv[]) {
+int Run(int argc, char* argv[]) {
   auto prepared = Prepare(argc, argv);
   if (const int* exitCode = std::get_if<int>(&prepared)) return *exitCode;
   auto& [line, profiles, opened] = std::get<Request>(prepared);
@@ -186,5 +186,16 @@ int main(int argc, char* argv[]) {
     }
     default:
       return RunWindow(line, std::move(profiles), opened);
+  }
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  try {
+    return Run(argc, argv);
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "advanced-control: %s\n", error.what());
+    return EXIT_FAILURE;
   }
 }

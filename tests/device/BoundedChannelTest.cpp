@@ -1,6 +1,7 @@
 #include <atomic>
 #include <condition_variable>
 #include <mutex>
+#include <stdexcept>
 #include <thread>
 
 #include <QCoreApplication>
@@ -9,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include "device/BoundedChannel.h"
+#include "device/CPjtInterface.h"
 
 namespace {
 
@@ -183,6 +185,21 @@ TEST_F(BoundedChannelTest, DestructionFromInsideTheWaitIsSafe) {
   BoundedChannel* const inUse = channel.get();
   EXPECT_TRUE(inUse->Execute(kCommand).answered);
   EXPECT_EQ(channel, nullptr);
+}
+
+class Throwing final : public ProjectorChannel {
+ public:
+  PjtReply Execute(const PjtCommand&) override { throw std::runtime_error("broken"); }
+};
+
+TEST(ThrowingChannel, HasNotAnswered) {
+  const auto broken = std::make_shared<Throwing>();
+  EXPECT_FALSE(BoundedChannel(broken).Execute(kCommand).answered);
+  CPjtInterface projector;
+  projector.SetChannel(broken);
+  short value = 5;
+  EXPECT_EQ(projector.GetMirror(&value), 0);
+  EXPECT_EQ(value, 5);
 }
 
 }  // namespace

@@ -228,12 +228,14 @@ void CAdvanceDlg::CreatePage(PageId id) {
 
 void CAdvanceDlg::InsertTabs() {
   tabs_->SetItemWidth(kTabWidth);
-  const auto insert = [this](int caption) {
-    tabs_->addTab(CatalogString(kCaptionCategory, caption));
+  const auto insert = [this](int caption, PageId page) {
+    const QString text = CatalogString(kCaptionCategory, caption);
+    tabs_->addTab(text);
+    Page(page).setAccessibleName(text);
   };
   const QSignalBlocker quiet(tabs_);  // the first tab selects itself before the dialog is ready
-  insert(Caption::TabStatus);
-  for (const PageTab& tab : TabsOf(model_.DialogType, model_.ModelCode)) insert(tab.caption);
+  insert(Caption::TabStatus, PageId::Status);
+  for (const PageTab& tab : TabsOf(model_.DialogType, model_.ModelCode)) insert(tab.caption, tab.page);
 }
 
 void CAdvanceDlg::SetTitle() {

@@ -20,6 +20,12 @@ void CSliderCtrl::SetRange(int minimum, int maximum, int tickFrequency) {
   setPageStep(std::max(1, (maximum - minimum) / 10));
 }
 
+void CSliderCtrl::ScrollTo(int position) {
+  const int before = value();
+  setValue(position);
+  if (value() != before) Q_EMIT EndScroll();
+}
+
 void CSliderCtrl::mousePressEvent(QMouseEvent* event) {
   // Some styles also scroll with the middle button; here only the left one acts.
   if (event->button() == Qt::LeftButton) {

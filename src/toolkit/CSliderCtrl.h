@@ -15,6 +15,9 @@ class CSliderCtrl : public QSlider {
   /// Sets range and tick distance (at least 1); the position is kept inside the range.
   void SetRange(int minimum, int maximum, int tickFrequency);
 
+  /// Moves as a user does, and reports it. Nothing without a change.
+  void ScrollTo(int position);
+
  Q_SIGNALS:
   void EndScroll();
 

@@ -5,6 +5,7 @@
 
 #include <QAbstractItemView>
 #include <QAccessibleWidget>
+#include <QCheckBox>
 #include <QLabel>
 #include <QPointer>
 
@@ -51,6 +52,29 @@ class SliderInterface final : public QAccessibleWidget, public QAccessibleValueI
 
  private:
   CSliderCtrl& Slider() const { return *static_cast<CSliderCtrl*>(widget()); }
+};
+
+/// A check box that is clicked when it is toggled: only a click is reported.
+class CheckInterface final : public QAccessibleWidget {
+ public:
+  explicit CheckInterface(QCheckBox* check) : QAccessibleWidget(check, QAccessible::CheckBox) {}
+
+  QAccessible::State state() const override {
+    QAccessible::State state = QAccessibleWidget::state();
+    state.checkable = true;
+    state.checked = Check().isChecked();
+    return state;
+  }
+  QStringList actionNames() const override {
+    return QStringList{toggleAction()} + QAccessibleWidget::actionNames();
+  }
+  void doAction(const QString& action) override {
+    if (action != toggleAction()) return QAccessibleWidget::doAction(action);
+    ActLikeAUser(&Check(), [](QCheckBox& check) { check.click(); });
+  }
+
+ private:
+  QCheckBox& Check() const { return *static_cast<QCheckBox*>(widget()); }
 };
 
 /// A list by its caption's name; its text is the selected entry, its only child the drop-down.
@@ -239,6 +263,9 @@ QAccessibleInterface* MakeInterface(const QString& className, QObject* object) {
   }
   if (className == QLatin1String("CComboBox")) {
     return new ComboInterface(static_cast<CComboBox*>(object));
+  }
+  if (className == QLatin1String("QCheckBox") && qobject_cast<CDialog*>(object->parent())) {
+    return new CheckInterface(static_cast<QCheckBox*>(object));
   }
   if (className == QLatin1String("CDialog")) {
     return new DialogInterface(static_cast<CDialog*>(object));

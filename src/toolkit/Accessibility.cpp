@@ -43,8 +43,9 @@ class SliderInterface final : public QAccessibleWidget, public QAccessibleValueI
 
   QVariant currentValue() const override { return Slider().value(); }
   void setCurrentValue(const QVariant& value) override {
-    ActLikeAUser(&Slider(),
-                 [position = qRound(value.toDouble())](auto& slider) { slider.ScrollTo(position); });
+    ActLikeAUser(&Slider(), [position = qRound(value.toDouble())](auto& slider) {
+      slider.ScrollTo(position);
+    });
   }
   QVariant maximumValue() const override { return Slider().maximum(); }
   QVariant minimumValue() const override { return Slider().minimum(); }

@@ -17,6 +17,7 @@
 #include "toolkit/Accessibility.h"
 #include "toolkit/CComboBox.h"
 #include "toolkit/CSliderCtrl.h"
+#include "toolkit/FittedScroll.h"
 #include "toolkit/ResourceModule.h"
 #include "toolkit/TemplateControls.h"
 
@@ -95,6 +96,7 @@ bool CDialog::Create() {
   for (const auto& [id, control] : std::exchange(controls_, {})) delete control;
   rows_.clear();
   delete layout();
+  delete scroll_;
 
   template_ = ResourceChain::FindDialog(templateNumber_);
   if (template_ == nullptr) return false;
@@ -109,7 +111,29 @@ bool CDialog::Create() {
   OnInitDialog();
   UpdateRows();
   NameControls(*this);
+  FitToScreen();
   return true;
+}
+
+// A pop-up that the screen has no room for scrolls its rows; Close stays in sight.
+void CDialog::FitToScreen() {
+  if (!isWindow() || layout() == nullptr) return;
+  const QSize wanted = layout()->totalSizeHint();
+  if (wanted == wanted.boundedTo(RoomOnScreen(*this))) return;
+  auto* rows = new QWidget(this);
+  rows->setLayout(layout());  // the controls come along
+  auto* frame = new QVBoxLayout(this);
+  frame->addWidget(scroll_ = new FittedScroll(rows, this));
+  for (std::size_t i = 0; i < rows_.size(); ++i) {
+    const ControlTemplate& close = template_->rows[i].controls.front();
+    if (close.kind != ControlKind::Close) continue;
+    rows_[i].grid->setRowMinimumHeight(rows_[i].gridRow, 0);
+    rows_[i].grid = nullptr;
+    frame->addWidget(GetDlgItem(close.id), 0, Qt::AlignRight);
+  }
+  frame->activate();
+  const QSize outside = frame->totalSizeHint() - scroll_->sizeHint();
+  resize(FittedToScreen(*this, rows->layout()->totalSizeHint() + outside));
 }
 
 int CDialog::DoModal() {
@@ -124,7 +148,7 @@ int CDialog::DoModal() {
       winId();  // a window of its own is needed to stay above the owner
       windowHandle()->setTransientParent(owner_->window()->windowHandle());
       adjustSize();
-      move(owner_->window()->frameGeometry().center() - rect().center());
+      CentreOnScreen(*this, *owner_->window());
     }
     result = exec();
   }

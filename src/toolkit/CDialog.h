@@ -145,6 +145,7 @@ class ADVANCED_CONTROL_EXPORT CDialog : public QDialog {
   void OnOwnerDying();
   void EndOrphaned();
   void BuildControls();
+  void FitToScreen();
   void ConnectNotifications();
   PlacedRow* RowOf(int id);
 
@@ -157,7 +158,8 @@ class ADVANCED_CONTROL_EXPORT CDialog : public QDialog {
   bool deletionWaits_ = false;
   QPointer<QWidget> owner_;
   QMetaObject::Connection ownerDies_;
-  int pitch_ = 0;  // of the present rows, in pixels
+  QPointer<QWidget> scroll_;  // of the rows of a window that the screen has no room for
+  int pitch_ = 0;             // of the present rows, in pixels
   std::unordered_map<int, QWidget*> controls_;
   std::vector<PlacedRow> rows_;
 };

@@ -29,7 +29,9 @@ class OpenedDialog {
   explicit OpenedDialog(const ProjectorProfile& profile) : session_(profile, nullptr) {
     dialog_ = session_.MakeDialog();
     if (!dialog_->Create()) dialog_.reset();
-    if (dialog_) dialog_->show();
+    if (!dialog_) return;
+    dialog_->resize(dialog_->sizeHint());  // whatever screen there is
+    dialog_->show();
   }
 
   CAdvanceDlg* Dialog() const { return dialog_.get(); }

@@ -17,6 +17,7 @@ std::unique_ptr<CAdvanceDlg> OpenOurs(const CModelInfo2& model) {
   dialog->CopyData(&model, 0);
   dialog->Projector().SetChannel(std::make_shared<AnsweringChannel>());
   dialog->Create();
+  dialog->resize(dialog->sizeHint());
   dialog->show();
   return dialog;
 }

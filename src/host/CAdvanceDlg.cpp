@@ -6,12 +6,12 @@
 #include <utility>
 #include <vector>
 
-#include <QLayout>
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QShortcut>
 #include <QStyleOptionTabWidgetFrame>
 #include <QStylePainter>
+#include <QVBoxLayout>
 
 #include "device/ModelDataIntake.h"
 #include "i18n/LocalizeControlTexts.h"
@@ -28,6 +28,7 @@
 #include "resources/AdvancedControlResources.h"
 #include "settings/CatalogNumbers.h"
 #include "toolkit/CTabCtrl.h"
+#include "toolkit/FittedScroll.h"
 
 namespace {
 
@@ -82,9 +83,9 @@ struct CAdvanceDlg::Pages {
 namespace {
 
 template <class... Page>
-auto MakePages(CWnd* dialog) {
+auto MakePages(CWnd* parent) {
   static_assert(sizeof...(Page) == kPageCount);
-  std::array<std::unique_ptr<CTabPage>, kPageCount> pages{std::make_unique<Page>(dialog)...};
+  std::array<std::unique_ptr<CTabPage>, kPageCount> pages{std::make_unique<Page>(parent)...};
   for (const auto& page : pages) {
     page->setWindowFlags(Qt::Widget);
     page->hide();  // or it would come up together with the dialog
@@ -93,20 +94,24 @@ auto MakePages(CWnd* dialog) {
 }
 
 // In the order of PageId.
-auto MakeAllPages(CWnd* dialog) {
+auto MakeAllPages(CWnd* parent) {
   return MakePages<CStatusTabDlg, CMainTabDlg, CMain2TabDlg, CPicture1TabDlg, CPicture12TabDlg,
                    CPicture2TabDlg, CPicture22TabDlg, CInputTabDlg, CInput2TabDlg, CAutoTabDlg,
                    CAuto2TabDlg, COptionTabDlg, COption2TabDlg, CScreenTabDlg, COtherTabDlg,
                    CImageTabDlg, CImage4TabDlg, CVideoTabDlg, CInput4TabDlg, CScreen4TabDlg,
                    CSetup4TabDlg, COption4TabDlg, COther4TabDlg, CPicTabDlg, CPictureTabType5Dlg,
                    CInputType5Dlg, CSetupType5TabDlg, CAudioType5Dlg, COption5TabDlg, CSetupTabDlg,
-                   CInput3TabDlg, COption3TabDlg>(dialog);
+                   CInput3TabDlg, COption3TabDlg>(parent);
 }
 
 }  // namespace
 
 CAdvanceDlg::CAdvanceDlg(CWnd* parent)
-    : CDialog(TemplateId::Advance, parent), pages_(new Pages{MakeAllPages(this)}) {
+    : CDialog(TemplateId::Advance, parent),
+      scroll_(new FittedScroll(new QWidget, this)),
+      pages_(new Pages{MakeAllPages(scroll_->widget())}) {
+  auto* layout = new QVBoxLayout(scroll_->widget());
+  layout->setContentsMargins({});
   const auto addShortcut = [this](const QKeySequence& keys, int step) {
     connect(new QShortcut(keys, this), &QShortcut::activated, this,
             [this, step] { SelectNeighbourTab(step); });
@@ -221,19 +226,21 @@ void CAdvanceDlg::CreatePage(PageId id) {
   page.projector = &projector_;
   page.Create();
   page.hide();
-  page.raise();
-  page.move(kPagePosition);
-  page.resize(page.DialogSize());
+  page.setMinimumSize(page.DialogSize());
+  scroll_->widget()->layout()->addWidget(&page);
 }
 
 void CAdvanceDlg::InsertTabs() {
   tabs_->SetItemWidth(kTabWidth);
-  const auto insert = [this](int caption) {
-    tabs_->addTab(CatalogString(kCaptionCategory, caption));
+  const auto insert = [this](int caption, PageId page) {
+    const QString text = CatalogString(kCaptionCategory, caption);
+    tabs_->addTab(text);
+    Page(page).setAccessibleName(text);
   };
   const QSignalBlocker quiet(tabs_);  // the first tab selects itself before the dialog is ready
-  insert(Caption::TabStatus);
-  for (const PageTab& tab : TabsOf(model_.DialogType, model_.ModelCode)) insert(tab.caption);
+  insert(Caption::TabStatus, PageId::Status);
+  for (const PageTab& tab : TabsOf(model_.DialogType, model_.ModelCode))
+    insert(tab.caption, tab.page);
 }
 
 void CAdvanceDlg::SetTitle() {
@@ -247,15 +254,15 @@ void CAdvanceDlg::SetTitle() {
 void CAdvanceDlg::FitToPages() {
   QSize pages;
   for (const auto& page : pages_->byId) {
-    if (page->Template() != nullptr) pages = pages.expandedTo(page->size());
+    if (page->Template() != nullptr) pages = pages.expandedTo(page->minimumSize());
   }
   const int width = std::max(tabs_->sizeHint().width() + 2 * kMargin,
                              kPagePosition.x() + pages.width() + kPagePosition.x());
   const int height = kPagePosition.y() + pages.height() + kPagePosition.x() +
                      GetDlgItem(kCloseId)->sizeHint().height() + 2 * kMargin;
-  // On a small screen the tabs scroll; the pages need their room.
-  setMinimumSize(kPagePosition.x() + pages.width() + kPagePosition.x(), height);
-  resize(width, height);
+  wholeSize_ = {width, height};
+  setMinimumSize(wholeSize_ / 3);
+  resize(FittedToScreen(*this, wholeSize_));
 }
 
 void CAdvanceDlg::OrderFocus() {
@@ -290,6 +297,7 @@ void CAdvanceDlg::DispTabScreen() {
     shownPage_ = SelectedPage();
     if (shownPage_ == nullptr) continue;
     shownPage_->show();
+    scroll_->widget()->layout()->activate();
     shownPage_->InitDisp();
     if (shownPage_->layout() != nullptr) shownPage_->layout()->activate();
   } while (tabChanged_);
@@ -343,8 +351,12 @@ void CAdvanceDlg::resizeEvent(QResizeEvent* event) {
                      tabs.height());
   QWidget* close = GetDlgItem(kCloseId);
   const QSize button = close->sizeHint().expandedTo(QSize(90, 0));
-  close->setGeometry(width() - kMargin - button.width(), height() - kMargin - button.height(),
-                     button.width(), button.height());
+  const QRect bottomRight(width() - kMargin - button.width(), height() - kMargin - button.height(),
+                          button.width(), button.height());
+  close->setGeometry(QStyle::visualRect(layoutDirection(), rect(), bottomRight));
+  scroll_->setGeometry(
+      QRect(kPagePosition, QPoint(width(), bottomRight.top()) -
+                               QPoint(kPagePosition.x() + 1, kMargin + kPagePosition.x() + 1)));
 }
 
 void CAdvanceDlg::paintEvent(QPaintEvent* event) {

@@ -16,6 +16,7 @@
 
 class CTabCtrl;
 class CTabPage;
+class FittedScroll;
 class ResourceModule;
 
 /// The "Advanced Control" dialog of one projector: a tab per group of settings, each read live and
@@ -94,6 +95,10 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
 
   const NotificationMap& Notifications() const override;
 
+  /// The size that shows all tabs and every page whole. The dialog opens smaller where the screen
+  /// has no room for it: the page then scrolls.
+  QSize sizeHint() const override { return wholeSize_; }
+
  protected:
   void DoDataExchange() override;
   /// Takes the channel away until the dialog is created again.
@@ -117,7 +122,9 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
   ModelData model_;
   CPjtInterface projector_;
   std::shared_ptr<ProjectorChannel> cutOff_;
+  FittedScroll* scroll_;  // shows the pages
   std::unique_ptr<Pages> pages_;
+  QSize wholeSize_;
   bool hostOption_ = false;
   CTabCtrl* tabs_ = nullptr;
   CTabPage* shownPage_ = nullptr;

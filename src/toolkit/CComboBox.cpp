@@ -23,6 +23,13 @@ bool CComboBox::SelectValue(int value) {
   return position >= 0;
 }
 
+void CComboBox::Pick(int position) {
+  if (position < 0 || position >= count()) return;
+  hidePopup();
+  setCurrentIndex(position);
+  Q_EMIT activated(position);
+}
+
 std::optional<int> CComboBox::SelectedValue() const {
   const QVariant value = currentData();
   return value.isValid() ? std::optional(value.toInt()) : std::nullopt;

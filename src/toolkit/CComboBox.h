@@ -24,6 +24,9 @@ class CComboBox : public QComboBox {
   /// Selects the first entry that stands for `value`. False, and nothing changes, without one.
   bool SelectValue(int value);
 
+  /// Chooses a position as a user does, and reports it; nothing for one outside the list.
+  void Pick(int position);
+
   /// What the selected entry stands for; nothing without a selection.
   std::optional<int> SelectedValue() const;
 

@@ -14,11 +14,12 @@
 #include <QTabBar>
 #include <QWindow>
 
+#include "toolkit/Accessibility.h"
 #include "toolkit/CComboBox.h"
 #include "toolkit/CSliderCtrl.h"
+#include "toolkit/FittedScroll.h"
 #include "toolkit/ResourceModule.h"
 #include "toolkit/TemplateControls.h"
-#include "toolkit/WindowText.h"
 
 namespace {
 
@@ -57,17 +58,12 @@ bool TakeNewBlock(const void* dialog) {
          }) > 0;
 }
 
-// What a screen reader says for a caption: without the tabs and the colon of a template text.
-QString SpokenCaption(const QString& caption) {
-  QString spoken = caption.simplified();
-  while (spoken.endsWith(QLatin1Char(':'))) spoken.chop(1);
-  return spoken.trimmed();
-}
-
 }  // namespace
 
 CDialog::CDialog(int templateNumber, CWnd* owner)
-    : QDialog(owner), templateNumber_(templateNumber), onHeap_(TakeNewBlock(this)) {}
+    : QDialog(owner), templateNumber_(templateNumber), onHeap_(TakeNewBlock(this)) {
+  InstallAccessibility();
+}
 
 void* CDialog::operator new(std::size_t size) {
   void* block = ::operator new(size);
@@ -100,6 +96,7 @@ bool CDialog::Create() {
   for (const auto& [id, control] : std::exchange(controls_, {})) delete control;
   rows_.clear();
   delete layout();
+  delete scroll_;
 
   template_ = ResourceChain::FindDialog(templateNumber_);
   if (template_ == nullptr) return false;
@@ -113,8 +110,30 @@ bool CDialog::Create() {
   ConnectNotifications();
   OnInitDialog();
   UpdateRows();
-  NameControls();
+  NameControls(*this);
+  FitToScreen();
   return true;
+}
+
+// A pop-up that the screen has no room for scrolls its rows; Close stays in sight.
+void CDialog::FitToScreen() {
+  if (!isWindow() || layout() == nullptr) return;
+  const QSize wanted = layout()->totalSizeHint();
+  if (wanted == wanted.boundedTo(RoomOnScreen(*this))) return;
+  auto* rows = new QWidget(this);
+  rows->setLayout(layout());  // the controls come along
+  auto* frame = new QVBoxLayout(this);
+  frame->addWidget(scroll_ = new FittedScroll(rows, this));
+  for (std::size_t i = 0; i < rows_.size(); ++i) {
+    const ControlTemplate& close = template_->rows[i].controls.front();
+    if (close.kind != ControlKind::Close) continue;
+    rows_[i].grid->setRowMinimumHeight(rows_[i].gridRow, 0);
+    rows_[i].grid = nullptr;
+    frame->addWidget(GetDlgItem(close.id), 0, Qt::AlignRight);
+  }
+  frame->activate();
+  const QSize outside = frame->totalSizeHint() - scroll_->sizeHint();
+  resize(FittedToScreen(*this, rows->layout()->totalSizeHint() + outside));
 }
 
 int CDialog::DoModal() {
@@ -129,7 +148,7 @@ int CDialog::DoModal() {
       winId();  // a window of its own is needed to stay above the owner
       windowHandle()->setTransientParent(owner_->window()->windowHandle());
       adjustSize();
-      move(owner_->window()->frameGeometry().center() - rect().center());
+      CentreOnScreen(*this, *owner_->window());
     }
     result = exec();
   }
@@ -361,30 +380,6 @@ void CDialog::ConnectNotifications() {
   }
 }
 
-void CDialog::NameControls() {
-  QString caption;
-  for (std::size_t i = 0; i < rows_.size(); ++i) {
-    // A row without a caption continues the one above; "V" and "H" tell the parts of a row apart.
-    QString part;
-    for (std::size_t k = 0; k < rows_[i].controls.size(); ++k) {
-      const ControlKind kind = template_->rows[i].controls[k].kind;
-      QWidget* control = rows_[i].controls[k];
-      // A button with a picture instead of a text brings a name of its own.
-      const QString text = WindowText(*control);
-      const QString own = SpokenCaption(text.isEmpty() ? control->accessibleName() : text);
-      if (kind == ControlKind::Label) {
-        caption = own;
-      } else if (kind == ControlKind::Text) {
-        part = own;
-        control->setAccessibleDescription(caption);
-      } else if (kind != ControlKind::Colon && kind != ControlKind::Tab) {
-        control->setAccessibleName(
-            QStringList{caption, part, own}.join(QLatin1Char(' ')).simplified());
-      }
-    }
-  }
-}
-
 void CDialog::UpdateRows() {
   pitch_ = FromDialogUnits(0, template_->rulerHeight).height();
   int buttonWidth = 0;
@@ -436,9 +431,14 @@ void CDialog::Destroy() {
 }
 
 void CDialog::keyPressEvent(QKeyEvent* event) {
-  if (isWindow()) {
-    QDialog::keyPressEvent(event);
-  } else {
+  if (!isWindow()) {
     event->ignore();
+    return;
+  }
+  auto* button = qobject_cast<QPushButton*>(focusWidget());
+  if (button != nullptr && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
+    if (!event->isAutoRepeat()) button->click();
+  } else {
+    QDialog::keyPressEvent(event);
   }
 }

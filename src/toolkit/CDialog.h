@@ -16,7 +16,8 @@
 class QGridLayout;
 
 /// A dialog built from a numbered template, either run modally or created as a child (a page of
-/// another dialog). Esc and Enter never act on a child; Esc closes the dialog it belongs to.
+/// another dialog). Esc and Enter never act on a child: Esc closes the dialog it belongs to, Enter
+/// presses the button that has the focus and nothing else.
 ///
 /// A handler may run an event loop: while a command waits, or for a message box or pop-up. What may
 /// happen to the dialog meanwhile: it may be closed; `deleteLater` waits until the handler has
@@ -57,6 +58,10 @@ class ADVANCED_CONTROL_EXPORT CDialog : public QDialog {
 
   /// Whether the dialog's window ended because its owner died; until it is created again.
   bool IsOrphaned() const;
+
+  /// Whether a handler of the dialog's window runs; it may be waiting for the projector or for the
+  /// answer to a box.
+  bool IsBusy() const { return busy_ > 0; }
 
   int TemplateNumber() const { return templateNumber_; }
   /// The template the controls were built from; null before `Create`.
@@ -140,8 +145,8 @@ class ADVANCED_CONTROL_EXPORT CDialog : public QDialog {
   void OnOwnerDying();
   void EndOrphaned();
   void BuildControls();
+  void FitToScreen();
   void ConnectNotifications();
-  void NameControls();
   PlacedRow* RowOf(int id);
 
   int templateNumber_;
@@ -153,7 +158,8 @@ class ADVANCED_CONTROL_EXPORT CDialog : public QDialog {
   bool deletionWaits_ = false;
   QPointer<QWidget> owner_;
   QMetaObject::Connection ownerDies_;
-  int pitch_ = 0;  // of the present rows, in pixels
+  QPointer<QWidget> scroll_;  // of the rows of a window that the screen has no room for
+  int pitch_ = 0;             // of the present rows, in pixels
   std::unordered_map<int, QWidget*> controls_;
   std::vector<PlacedRow> rows_;
 };

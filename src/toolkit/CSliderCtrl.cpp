@@ -6,11 +6,20 @@
 #include <QEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QStyleOptionSlider>
 #include <QWheelEvent>
+
+namespace {
+
+constexpr int kTickLength = 4;
+constexpr int kTickGap = 1;       // between the handle and its ticks
+constexpr int kClosestTicks = 3;  // nearer to each other they are a line
+
+}  // namespace
 
 CSliderCtrl::CSliderCtrl(QWidget* parent) : QSlider(Qt::Horizontal, parent) {
   setFocusPolicy(Qt::StrongFocus);
-  setTickPosition(QSlider::TicksBelow);
 }
 
 void CSliderCtrl::SetRange(int minimum, int maximum, int tickFrequency) {
@@ -18,6 +27,45 @@ void CSliderCtrl::SetRange(int minimum, int maximum, int tickFrequency) {
   setTickInterval(std::max(1, tickFrequency));
   setSingleStep(1);
   setPageStep(std::max(1, (maximum - minimum) / 10));
+}
+
+void CSliderCtrl::ScrollTo(int position) {
+  const int before = value();
+  setValue(position);
+  if (value() != before) Q_EMIT EndScroll();
+}
+
+// The same room above the handle, so that the track is in the middle.
+QSize CSliderCtrl::sizeHint() const {
+  return QSlider::sizeHint() + QSize(0, 2 * (kTickGap + kTickLength));
+}
+
+QSize CSliderCtrl::minimumSizeHint() const {
+  return {QSlider::minimumSizeHint().width(), sizeHint().height()};
+}
+
+void CSliderCtrl::paintEvent(QPaintEvent* event) {
+  QSlider::paintEvent(event);
+  QStyleOptionSlider option;
+  initStyleOption(&option);
+  const QRect handle =
+      style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, this);
+  const int room = width() - handle.width();
+  const auto offset = [&](int value) {
+    return QStyle::sliderPositionFromValue(minimum(), maximum(), value, room, option.upsideDown);
+  };
+  const int span = maximum() - minimum();
+  if (span <= 0 || tickInterval() <= 0) return;
+  const int step = room / kClosestTicks < span / tickInterval() ? pageStep() : tickInterval();
+  QPainter painter(this);
+  QColor color = palette().color(QPalette::WindowText);
+  color.setAlphaF(0.5F);
+  painter.setPen(color);
+  const int top = handle.bottom() + 1 + kTickGap;
+  for (int value = minimum(); value <= maximum(); value += step) {
+    const int x = handle.width() / 2 + offset(value);
+    painter.drawLine(x, top, x, top + kTickLength - 1);
+  }
 }
 
 void CSliderCtrl::mousePressEvent(QMouseEvent* event) {

@@ -6,6 +6,9 @@
 /// or a click in the groove, at the release of a stepping key, at each wheel notch, and when the
 /// focus leaves while a key is still down. Moving it by program reports nothing. The wheel is
 /// taken only while it has the focus.
+///
+/// Its ticks are its own: styles draw them in the shade of a border, which a dark palette swallows,
+/// and push the track out of the middle for them.
 class CSliderCtrl : public QSlider {
   Q_OBJECT
 
@@ -15,10 +18,17 @@ class CSliderCtrl : public QSlider {
   /// Sets range and tick distance (at least 1); the position is kept inside the range.
   void SetRange(int minimum, int maximum, int tickFrequency);
 
+  /// Moves as a user does, and reports it. Nothing without a change.
+  void ScrollTo(int position);
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
  Q_SIGNALS:
   void EndScroll();
 
  protected:
+  void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;

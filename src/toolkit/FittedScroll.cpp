@@ -1,0 +1,46 @@
+#include "toolkit/FittedScroll.h"
+
+#include <algorithm>
+
+#include <QApplication>
+#include <QScreen>
+#include <QStyle>
+
+namespace {
+
+// Of a window manager's frame nothing is known before the window is on the screen.
+constexpr QSize kFrame{10, 40};
+
+}  // namespace
+
+FittedScroll::FittedScroll(QWidget* contents, QWidget* parent) : QScrollArea(parent) {
+  setFrameShape(NoFrame);
+  setFocusPolicy(Qt::NoFocus);
+  setWidgetResizable(true);
+  setWidget(contents);
+  contents->setAutoFillBackground(false);
+  viewport()->setAutoFillBackground(false);
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+    if (now != nullptr && widget()->isAncestorOf(now)) ensureWidgetVisible(now, 0, now->height());
+  });
+}
+
+QSize RoomOnScreen(const QWidget& window) {
+  return window.screen()->availableGeometry().size() - kFrame;
+}
+
+QSize FittedToScreen(const QWidget& window, QSize wanted) {
+  const QSize room = RoomOnScreen(window);
+  const int bar = window.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  const bool tooHigh = wanted.height() > room.height();
+  const bool tooWide = wanted.width() > room.width();
+  return (wanted + QSize(tooHigh ? bar : 0, tooWide ? bar : 0)).boundedTo(room);
+}
+
+void CentreOnScreen(QWidget& window, const QWidget& owner) {
+  const QRect screen = owner.screen()->availableGeometry();
+  const QPoint at = owner.frameGeometry().center() - window.rect().center();
+  const QPoint last = screen.bottomRight() - QPoint(window.width(), window.height());
+  window.move(std::max(screen.left(), std::min(at.x(), last.x())),
+              std::max(screen.top(), std::min(at.y(), last.y())));
+}

@@ -35,8 +35,8 @@ int Area(const QRect& rectangle) {
 
 }  // namespace
 
-DialogKeeper::DialogKeeper(const QWidget& window, const QWidget& inView, QSettings* settings)
-    : window_(window), inView_(inView), settings_(settings) {
+DialogKeeper::DialogKeeper(std::vector<const QWidget*> inView, QSettings* settings)
+    : inView_(std::move(inView)), settings_(settings) {
   deleteRetired_.setSingleShot(true);
   deleteRetired_.setInterval(kRetirementCheck);
   connect(&deleteRetired_, &QTimer::timeout, this, &DialogKeeper::DeleteRetired);
@@ -87,34 +87,36 @@ void DialogKeeper::Arrange(CAdvanceDlg& dialog) {
   if (!remembered || dialogs_.size() > 1) Place(dialog);
 }
 
-// Where the dialog leaves the window, or at least the log in it, in view. Further dialogs stand a
-// little apart from it, to the inside of the screen.
+// Further dialogs stand a little apart from the first, to the inside of the screen.
 void DialogKeeper::Place(CAdvanceDlg& dialog) const {
-  const QRect screen = window_.screen()->availableGeometry();
-  const QRect window = window_.frameGeometry();
-  const QRect inView(inView_.mapToGlobal(QPoint()), inView_.size());
-  const QSize frame = window.size() - window_.size();
-  const QSize size = dialog.size() + frame;
+  const QWidget& window = *inView_.front()->window();
+  const QRect screen = window.screen()->availableGeometry();
+  const QRect beside = window.frameGeometry();
+  const QSize size = dialog.size() + beside.size() - window.size();
   const int right = std::max(screen.left(), screen.right() + 1 - size.width());
   const int bottom = std::max(screen.top(), screen.bottom() + 1 - size.height());
-  const auto inside = [&](QPoint place) {
-    return QPoint(std::clamp(place.x(), screen.left(), right),
-                  std::clamp(place.y(), screen.top(), bottom));
+  const auto inside = [&](int x, int y) {
+    return QPoint(std::clamp(x, screen.left(), right), std::clamp(y, screen.top(), bottom));
   };
   const QPoint places[] = {
-      inside({window.right() + kGap, window.top()}),
-      inside({window.left() - kGap - size.width(), window.top()}),
-      inside({inView.left() - kGap - size.width(), window.top()}),
-      inside({right, screen.top()}),
-      inside({right, bottom}),
+      inside(beside.right() + kGap, beside.top()),
+      inside(beside.left() - kGap - size.width(), beside.top()),
+      inside(screen.left(), screen.top()),
+      inside(right, screen.top()),
+      inside(screen.left(), bottom),
+      inside(right, bottom),
   };
   const QPoint best = *std::ranges::min_element(places, {}, [&](QPoint place) {
-    const QRect covered(place, size);
-    return std::pair(Area(covered & inView), Area(covered & window));
+    std::vector<int> covered;
+    for (const QWidget* part : inView_) {
+      const QRect partPlace(part->mapToGlobal(QPoint()), part->size());
+      covered.push_back(Area(QRect(place, size) & partPlace));
+    }
+    return covered;
   });
   const auto others = std::min(dialogs_.size() - 1, kCascadeLength);
   const int apart = kCascade * static_cast<int>(others);
-  dialog.move(inside({best.x() + (best.x() > right / 2 ? -apart : apart), best.y() + apart}));
+  dialog.move(inside(best.x() + (best.x() == right ? -apart : apart), best.y() + apart));
 }
 
 void DialogKeeper::Close(const ProjectorSession& session) {

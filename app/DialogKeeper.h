@@ -19,9 +19,10 @@ class DialogKeeper : public QObject {
   Q_OBJECT
 
  public:
-  /// Dialogs open beside `window`, or so that they cover `inView` as little as possible. `settings`
-  /// may be null: then nothing is remembered. None is owned.
-  DialogKeeper(const QWidget& window, const QWidget& inView, QSettings* settings);
+  /// Dialogs open beside `inView`, the window and parts of it, the most important one first, or
+  /// cover as little of them as possible. `settings` may be null: then nothing is remembered. None
+  /// is owned.
+  DialogKeeper(std::vector<const QWidget*> inView, QSettings* settings);
   ~DialogKeeper() override;
 
   /// Opens a projector's dialog or brings the open one to the front. Null when it could not be
@@ -47,8 +48,7 @@ class DialogKeeper : public QObject {
   void Remember(const CAdvanceDlg& dialog);
   void DeleteRetired();
 
-  const QWidget& window_;
-  const QWidget& inView_;
+  const std::vector<const QWidget*> inView_;
   QSettings* settings_;
   std::map<const ProjectorSession*, std::unique_ptr<CAdvanceDlg>> dialogs_;
   /// Closed dialogs whose handlers may still be running.

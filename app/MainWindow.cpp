@@ -32,6 +32,7 @@ namespace {
 
 constexpr int kGap = 9;
 constexpr QSize kUsualSize{1240, 760};
+constexpr int kUsualListWidth = 440;
 
 constexpr const char* kGeometryKey = "window/geometry";
 constexpr const char* kSidesKey = "window/sides";
@@ -61,7 +62,8 @@ MainWindow::MainWindow(ProfileDocument profiles, QSettings* settings)
       tools_(new QSplitter(Qt::Vertical)),
       profileActions_(new ProfileActions(
           profiles_, [this] { return projectors_->CurrentRow(); }, *this)),
-      dialogs_(std::make_unique<DialogKeeper>(*this, *log_, settings)) {
+      dialogs_(std::make_unique<DialogKeeper>(std::vector<const QWidget*>{log_, tools_, this},
+                                              settings)) {
   MakeLayout();
   MakeMenus();
   if (const std::string problem = CatalogProblem(); !problem.empty()) {
@@ -223,7 +225,8 @@ QString MainWindow::LastProfiles(const QSettings& settings) {
   return settings.value(kProfilesKey).toString();
 }
 
-// At first the window stands at the right, where the dialog covers the list rather than the log.
+// At first the window stands at the lower right: a dialog at the upper left covers neither the log
+// nor the simulation.
 void MainWindow::Restore() {
   const QRect screen = MainWindow::screen()->availableGeometry();
   if (settings_ != nullptr && restoreGeometry(settings_->value(kGeometryKey).toByteArray())) {
@@ -235,7 +238,8 @@ void MainWindow::Restore() {
   }
   constexpr QSize kFrame{2 * kGap, 40};
   resize(kUsualSize.boundedTo(screen.size() - kFrame));
-  move(screen.right() + 1 - width() - kGap, screen.top() + (screen.height() - height()) / 2);
+  sides_->setSizes({kUsualListWidth, width() - kUsualListWidth});
+  move(screen.right() + 1 - width() - kGap, screen.bottom() + 1 - height() - kGap);
 }
 
 void MainWindow::Remember() {

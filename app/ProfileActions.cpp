@@ -26,7 +26,8 @@ void Tell(QWidget& window, const QString& title, const QString& error) {
 
 ProfileActions::ProfileActions(ProfileDocument& document, std::function<int()> current,
                                QWidget& window)
-    : document_(document),
+    : QObject(&window),
+      document_(document),
       current_(std::move(current)),
       window_(window),
       open_(Make(tr("&Open Profiles…"), QKeySequence::Open, &ProfileActions::OpenFile)),

@@ -14,8 +14,8 @@ class ProfileActions : public QObject {
   Q_OBJECT
 
  public:
-  /// `current` tells the selected projector's position, −1 for none. Document and window must
-  /// outlive this; the actions belong to it.
+  /// `current` tells the selected projector's position, −1 for none. The document must outlive
+  /// this, which belongs to the window; the actions belong to it.
   ProfileActions(ProfileDocument& document, std::function<int()> current, QWidget& window);
 
   QAction* Open() const { return open_; }

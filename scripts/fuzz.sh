@@ -12,17 +12,19 @@ echo "Building the fuzz targets (build/fuzz)"
 cmake --preset fuzz >/dev/null
 cmake --build --preset fuzz
 mkdir -p build/fuzz/findings
-for corpus in fuzz/corpus/*/; do
-  target="$(basename "$corpus")"
-  grown="build/fuzz/corpus/$target"
-  log="build/fuzz/$target.log"
-  mkdir -p "$grown"
-  echo "Fuzzing $target for $seconds s"
+fuzz() {
+  local target="$1" log="build/fuzz/$1.log"
+  mkdir -p "build/fuzz/corpus/$target"
   if ! "build/fuzz/bin/fuzz-$target" -max_total_time="$seconds" -timeout=5 -rss_limit_mb=1024 \
-    -max_len=8192 -artifact_prefix="build/fuzz/findings/$target-" "$grown" "$corpus" >"$log" 2>&1; then
+    -max_len=8192 -artifact_prefix="build/fuzz/findings/$target-" "build/fuzz/corpus/$target" \
+    "fuzz/corpus/$target" >"$log" 2>&1; then
     tail -n 60 "$log" >&2
     echo "scripts/fuzz.sh: $target: see $log" >&2
-    exit 1
+    return 255  # xargs starts no other
   fi
-  tail -n 1 "$log"
-done
+  echo "$target: $(tail -n 1 "$log")"
+}
+export -f fuzz
+export seconds
+echo "Fuzzing for $seconds s each"
+ls fuzz/corpus | xargs -P "$(nproc)" -I{} bash -c 'fuzz {}'

@@ -1,10 +1,10 @@
+#include <ctime>
 #include <gmock/gmock.h>
 #include <set>
 #include <string>
 #include <sys/stat.h>
 #include <utility>
 
-#include <QElapsedTimer>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -105,6 +105,8 @@ TEST(ProfileFile, TooMuchIsRefusedAtOnce) {
     families +=
         ", \"f" + std::to_string(99 - i) + "\": {\"like\": \"f" + std::to_string(100 - i) + "\"}";
   }
+  std::string many = "{\"families\": {\"0\": {}";
+  for (int i = 1; i <= 1000; ++i) many += ", \"" + std::to_string(i) + "\": {}";
   struct Excess {
     std::string text;
     const char* error;
@@ -118,14 +120,14 @@ TEST(ProfileFile, TooMuchIsRefusedAtOnce) {
       {"[\"" + Repeat("a", 257) + "\"]", "p.json:1:2: text of more than 256 bytes"},
       {"{\"projectors\": [" + Repeat("0,", 1000) + "0]}",
        "p.json:1: projectors: has 1001 entries; at most 1000"},
+      {many + "}}", "p.json:1: families: has 1001 families; at most 1000"},
       {families + "}}", "p.json:1: families.f98.like: leads through more than 16 families"},
   };
   for (const Excess& excess : tooMuch) {
-    QElapsedTimer timer;
-    timer.start();
+    const std::clock_t start = std::clock();
     const auto contents = ParseProfiles(QByteArray::fromStdString(excess.text), "p.json");
     EXPECT_THAT(contents.error.toStdString(), testing::StartsWith(excess.error));
-    EXPECT_LT(timer.elapsed(), 1000) << excess.error;
+    EXPECT_LT(std::clock() - start, CLOCKS_PER_SEC) << excess.error;
   }
 }
 

@@ -4,7 +4,6 @@
 // WALK_ACTIONS a longer one.
 
 #include <algorithm>
-#include <cstdlib>
 #include <iterator>
 #include <random>
 
@@ -21,17 +20,11 @@
 #include "app/FaultPanel.h"
 #include "app/MainWindow.h"
 #include "host/CAdvanceDlg.h"
-#include "pages/common/CTabPage.h"
-#include "toolkit/CSliderCtrl.h"
+#include "tests/support/DialogDriver.h"
 
 namespace {
 
 using namespace std::chrono_literals;
-
-int Given(const char* variable, int otherwise) {
-  const char* given = std::getenv(variable);
-  return given != nullptr ? static_cast<int>(std::strtol(given, nullptr, 10)) : otherwise;
-}
 
 ProjectorProfile Profile(int dialogType, int modelCode) {
   ProjectorProfile profile;
@@ -184,14 +177,7 @@ class Walk {
   }
 
   void Use(CTabPage& page) {
-    std::vector<QWidget*> usable;
-    for (const RowTemplate& row : page.Template()->rows) {
-      for (const ControlTemplate& control : row.controls) {
-        QWidget* widget = page.GetDlgItem(control.id);
-        if (widget != nullptr && widget->isVisible() && widget->isEnabled())
-          usable.push_back(widget);
-      }
-    }
+    std::vector<QWidget*> usable = UsableControls(page);
     if (usable.empty()) return;
     static constexpr Qt::Key keys[] = {Qt::Key_Up, Qt::Key_Down, Qt::Key_Home, Qt::Key_End};
     QWidget* control = Any(usable);

@@ -64,8 +64,9 @@ class BoundedChannelTest : public testing::Test {
 };
 
 TEST_F(BoundedChannelTest, PassesAnswersOn) {
+  BoundedChannel patient(gate_, {.timeOut = 1h});
   for (int i = 0; i < 3; ++i) {
-    const PjtReply reply = channel_.Execute(kCommand);
+    const PjtReply reply = patient.Execute(kCommand);
     EXPECT_TRUE(reply.answered);
     EXPECT_EQ(reply.result, 1);
     EXPECT_EQ(reply.value, 7);
@@ -93,13 +94,16 @@ TEST_F(BoundedChannelTest, ASilentProjectorCostsOneTimeOut) {
 }
 
 TEST_F(BoundedChannelTest, ALostCommandStartsTheRetryIntervalToo) {
+  BoundedChannel late(gate_, {.timeOut = 1h, .retryAfter = 1h});
+  BoundedChannel soon(gate_, {.timeOut = 1h, .retryAfter = 10ms});
   gate_->answered = false;
-  EXPECT_FALSE(channel_.Execute(kCommand).answered);
+  for (BoundedChannel* channel : {&late, &soon}) {
+    EXPECT_FALSE(channel->Execute(kCommand).answered);
+  }
   gate_->answered = true;
-  EXPECT_FALSE(channel_.Execute(kCommand).answered);
-  EXPECT_EQ(gate_->executed, 1);
-  std::this_thread::sleep_for(310ms);
-  EXPECT_TRUE(channel_.Execute(kCommand).answered);
+  EXPECT_FALSE(late.Execute(kCommand).answered);
+  EXPECT_EQ(gate_->executed, 2) << "it fails without being sent";
+  EXPECT_TRUE(Eventually([&] { return soon.Execute(kCommand).answered; }));
 }
 
 class Painted final : public QWidget {
@@ -168,6 +172,7 @@ TEST_F(BoundedChannelTest, DestructionWaitsForNobody) {
   gate_->Open(false);
   auto channel = std::make_unique<BoundedChannel>(gate_, BoundedChannel::Limits{.timeOut = 20ms});
   EXPECT_FALSE(channel->Execute(kCommand).answered);
+  ASSERT_TRUE(Eventually([&] { return gate_->executed == 1; })) << "the worker has it";
   channel.reset();
   EXPECT_EQ(gate_->returned, 0);
   gate_->Open(true);

@@ -2,7 +2,7 @@
 // box is open. What is touched afterwards, or leaks, the address sanitizer tells.
 
 #include <atomic>
-#include <thread>
+#include <functional>
 
 #include <QApplication>
 #include <QPushButton>
@@ -25,6 +25,7 @@ constexpr int kOptionTab = 7;
 constexpr int kService = 20373;
 constexpr int kRemoteTop = 20377;
 
+// Answers at once, but a late command not before it is let go.
 class SlowProjector final : public ProjectorChannel {
  public:
   explicit SlowProjector(const CModelInfo2& model)
@@ -32,11 +33,17 @@ class SlowProjector final : public ProjectorChannel {
 
   PjtReply Execute(const PjtCommand& command) override {
     ++sent;
-    waiting = late.exchange(false);
-    if (waiting) std::this_thread::sleep_for(100ms);
-    waiting = false;
+    if (late.exchange(false)) {
+      waiting = true;
+      waiting.wait(true);
+    }
     if (refuses) return {.result = RefusedResult(command.operation)};
     return simulation_.Execute(command);
+  }
+
+  void LetGo() {
+    waiting = false;
+    waiting.notify_all();
   }
 
   std::atomic<bool> late = false;  ///< Of the next command.
@@ -48,20 +55,41 @@ class SlowProjector final : public ProjectorChannel {
   SimulatedProjector simulation_;
 };
 
+// Acts from the event loop as soon as something is so.
+void When(const std::function<bool()>& isSo, const std::function<void()>& act) {
+  auto* timer = new QTimer(qApp);
+  timer->callOnTimeout([=] {
+    if (!isSo()) return;
+    timer->stop();
+    timer->deleteLater();
+    act();
+  });
+  timer->start(1);
+}
+
 enum class Death { Delete, DeleteLater };
 enum class Run { Modal, Modeless };
 enum class Moment { Opening, Refresh, Handler, PopUp, PopUpHandler, MessageBox };
 
 class Host {
  public:
-  explicit Host(Death death) : death_(death) { owner_->show(); }
+  explicit Host(Death death) : death_(death) {
+    owner_->show();
+    QObject::connect(owner_, &QObject::destroyed, [this] { projector->LetGo(); });
+  }
   ~Host() { delete owner_; }
 
   QWidget* Owner() { return owner_; }
 
   void Prepare(CAdvanceDlg& dialog) {
     dialog.CopyData(&model_, 0);
-    dialog.Projector().SetChannel(std::make_shared<BoundedChannel>(projector));
+    dialog.Projector().SetChannel(
+        std::make_shared<BoundedChannel>(projector, BoundedChannel::Limits{.timeOut = 20s}));
+  }
+
+  void DieWhileACommandWaits() {
+    projector->late = true;
+    When([this] { return projector->waiting.load(); }, [this] { LetDie(); });
   }
 
   void LetDie() {
@@ -76,9 +104,12 @@ class Host {
 
   void Die(CAdvanceDlg& dialog, Moment moment) {
     const auto slowly = [this](const auto& act) {
-      projector->late = true;
-      QTimer::singleShot(30ms, qApp, [this] { LetDie(); });
+      DieWhileACommandWaits();
       act();
+    };
+    const auto isModal = [](const char* name) {
+      const QWidget* modal = QApplication::activeModalWidget();
+      return modal != nullptr && modal->isVisible() && modal->inherits(name);
     };
     auto* tabs = dialog.findChild<QTabBar*>();
     const auto page = [&] { return DialogDriver(*dialog.ShownPage()); };
@@ -95,19 +126,16 @@ class Host {
         return slowly([&] { page().Click(kService); });
       case Moment::PopUpHandler:
         tabs->setCurrentIndex(kOptionTab);
-        QTimer::singleShot(50ms, qApp, [slowly] {
-          auto* popup = qobject_cast<CDialog*>(QApplication::activeModalWidget());
-          ASSERT_TRUE(popup != nullptr && popup->inherits("CServiceDlg"));
-          slowly([popup] { DialogDriver(*popup).Click(kRemoteTop); });
-        });
+        When([isModal] { return isModal("CServiceDlg"); },
+             [slowly] {
+               auto* popup = qobject_cast<CDialog*>(QApplication::activeModalWidget());
+               slowly([popup] { DialogDriver(*popup).Click(kRemoteTop); });
+             });
         return page().Click(kService);
       case Moment::MessageBox:
         tabs->setCurrentIndex(kPictureTab);
         projector->refuses = true;
-        QTimer::singleShot(50ms, qApp, [this] {
-          ASSERT_TRUE(qobject_cast<QMessageBox*>(QApplication::activeModalWidget()));
-          LetDie();
-        });
+        When([isModal] { return isModal("QMessageBox"); }, [this] { LetDie(); });
         return page().Choose(kActiveIris, 1);
     }
   }
@@ -139,10 +167,7 @@ TEST_P(OwnerTest, DiesWhileTheDialogIsInUse) {
   Host host(death);
   const QPointer<CAdvanceDlg> dialog = new CAdvanceDlg(new QWidget(host.Owner()));
   host.Prepare(*dialog);
-  if (moment == Moment::Opening) {
-    host.projector->late = true;
-    QTimer::singleShot(30ms, qApp, [&host] { host.LetDie(); });
-  }
+  if (moment == Moment::Opening) host.DieWhileACommandWaits();
   if (run == Run::Modal) {
     if (moment != Moment::Opening) {
       QTimer::singleShot(0, dialog, [&, moment = moment] { host.Die(*dialog, moment); });

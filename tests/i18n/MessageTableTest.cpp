@@ -1,7 +1,5 @@
-#include <chrono>
+#include <ctime>
 #include <filesystem>
-#include <functional>
-#include <random>
 #include <string>
 #include <sys/stat.h>
 #include <vector>
@@ -145,9 +143,9 @@ TEST(MessageTable, SharedBytesDoNotMultiply) {
   for (std::uint32_t i = 0; i < kBlocks; ++i) {
     module.Put32(module.LastTable() + 12 + 12 * i, 16 * kBlocks);  // where the long entry is
   }
-  const auto start = std::chrono::steady_clock::now();
+  const std::clock_t start = std::clock();
   EXPECT_FALSE(MessageTable::Parse(module.bytes));
-  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
+  EXPECT_LT(std::clock() - start, CLOCKS_PER_SEC);
 }
 
 TEST(MessageTable, EveryTruncationIsRefused) {
@@ -159,33 +157,6 @@ TEST(MessageTable, EveryTruncationIsRefused) {
   }
 }
 
-TEST(MessageTable, MutationsAreHarmless) {
-  const TestModule module(SampleTables());
-  std::size_t accepted = 0;
-  for (unsigned seed = 1; seed <= 5000; ++seed) {
-    SCOPED_TRACE(seed);
-    std::mt19937 random(seed);
-    auto bytes = module.bytes;
-    for (unsigned changes = 1 + random() % 4; changes > 0; --changes) {
-      // Mostly where the structures are, and mostly values at the edges.
-      const std::size_t from = random() % 4 ? module.types : 0;
-      constexpr unsigned kEdges[] = {0, 1, 0x7F, 0x80, 0xFF};
-      bytes[from + random() % (bytes.size() - from)] =
-          static_cast<std::byte>(random() % 2 ? kEdges[random() % 5] : random() % 256);
-    }
-    const auto table = MessageTable::Parse(bytes);
-    if (!table) continue;
-    ++accepted;
-    EXPECT_LE(table->Count(), bytes.size() / 2);
-    for (const auto& [language, id] :
-         {std::pair{1033U, 0x01040001U}, {1033U, 0xFFFFFFFEU}, {2052U, 0x01040001U}, {1041U, 7U}}) {
-      EXPECT_LE(TextIn(*table, language, id).size(), 3 * bytes.size());
-    }
-  }
-  // Some must get past the checks, or the mutations test nothing behind them.
-  EXPECT_GT(accepted, 100U);
-}
-
 TEST(MessageTable, ReadsFilesAndRefusesWhatIsNone) {
   const fs::path folder = fs::path(testing::TempDir()) / "message_table_test";
   fs::remove_all(folder);
@@ -195,7 +166,7 @@ TEST(MessageTable, ReadsFilesAndRefusesWhatIsNone) {
   auto table = MessageTable::Read(path("good"));
   const auto moved = std::move(table);
   ASSERT_TRUE(moved);
-  fs::remove(path("good"));
+  fs::resize_file(path("good"), 0);  // what is mapped ends the program at the next look
   EXPECT_EQ(TextIn(*moved, 2052, 0x01040001), "亮度\r\n");
 
   std::ofstream(path("empty"));

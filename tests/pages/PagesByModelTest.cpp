@@ -15,10 +15,8 @@
 
 #include "device/LoggingChannel.h"
 #include "device/ModelDataIntake.h"
-#include "pages/input/CServiceDlg.h"
 #include "simulator/SimulatedProjector.h"
 #include "tests/support/DialogDriver.h"
-#include "tests/support/Models.h"
 #include "tests/support/NumberedCatalog.h"
 #include "toolkit/CSliderCtrl.h"
 
@@ -47,8 +45,8 @@ class Describer {
   /// What is read, then a text for each row of the template; empty for a row that is not there.
   std::vector<std::string> Describe(CDialog& dialog, const std::function<void()>& refresh) {
     reads_.clear();
-    refresh();
-    std::vector<std::string> parts{"  reads:" + reads_ + '\n'};
+    const std::string sent = Sent(refresh);
+    std::vector<std::string> parts{"  reads:" + reads_ + '\n' + sent};
     for (const RowTemplate& row : dialog.Template()->rows) {
       std::string& part = parts.emplace_back();
       for (const ControlTemplate& control : row.controls) {
@@ -137,8 +135,9 @@ void Add(Listing& listing, const std::string& page, const std::vector<std::strin
   }
 }
 
-void AddPages(Listing& listing, int dialogType, int code) {
-  const CModelInfo2 info = FullModel(dialogType, code);
+void AddPages(Listing& listing, const CModelInfo2& info) {
+  const int code = info.ModelCode;
+  const std::string type = "type " + std::to_string(info.DialogType);
   Describer describer(info);
   CAdvanceDlg dialog;
   dialog.CopyData(&info, 0);
@@ -146,24 +145,23 @@ void AddPages(Listing& listing, int dialogType, int code) {
   ASSERT_TRUE(dialog.Create());
   dialog.show();
   auto* tabs = dialog.findChild<QTabBar*>();
+  std::string captions;
   for (int tab = 0; tab < tabs->count(); ++tab) {
     tabs->setCurrentIndex(tab);
     CTabPage& page = *dialog.ShownPage();
-    Add(listing,
-        "type " + std::to_string(dialogType) + ", page " + std::to_string(page.TemplateNumber()),
-        describer.Describe(page, [&page] { page.InitDisp(); }), code);
+    const std::string number = std::to_string(page.TemplateNumber());
+    captions += "  " + tabs->tabText(tab).toStdString().substr(1) + ": page " + number + '\n';
+    Add(listing, type + ", page " + number, describer.Describe(page, [&] { page.InitDisp(); }),
+        code);
   }
-  if (dialogType != 5) return;
-  CServiceDlg service(&dialog);
-  service.projector = &dialog.Projector();
-  service.ModelCode = code;
-  Add(listing, "type 5, service",
-      describer.Describe(service,
-                         [&service] {
-                           service.Create();
-                           service.show();
-                         }),
-      code);
+  Add(listing, type + ", tabs", {captions}, code);
+  if (info.DialogType != 5) return;
+  for (const auto& [kind, name] : {std::pair{PopUp::Gamma, "gamma"},
+                                   {PopUp::ColorTemp, "color temperature"},
+                                   {PopUp::Service, "service"}}) {
+    const auto popUp = MakePopUp(kind, dialog);
+    Add(listing, type + ", " + name, describer.Describe(*popUp, [&] { Open(*popUp); }), code);
+  }
 }
 
 // Numbers of list texts get the texts behind them, so that a reader sees what they say.
@@ -185,9 +183,7 @@ TEST(PagesByModel, AreAsListed) {
   Listing listing;
   {
     const NumberedCatalog numbers("#");
-    for (const auto& [dialogType, codes] : ListedModels()) {
-      for (const int code : codes) AddPages(listing, dialogType, code);
-    }
+    for (const CModelInfo2& model : EveryModel()) AddPages(listing, model);
   }
   std::string text;
   for (const auto& [page, parts] : listing) {

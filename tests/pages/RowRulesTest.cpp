@@ -3,8 +3,10 @@
 
 #include <QCheckBox>
 #include <QLineEdit>
+#include <QTest>
 #include <gtest/gtest.h>
 
+#include "device/LoggingChannel.h"
 #include "device/ModelDataIntake.h"
 #include "settings/PageTables.h"
 #include "tests/support/DialogDriver.h"
@@ -17,6 +19,8 @@ using Strings = std::vector<std::string>;
 enum class Then {
   Plain,          // Refused, a list keeps the choice, a slider goes back and a check box is read.
   Stays,          // A refused drag leaves the slider and tells nothing.
+  GoesBack,       // A refused drag tells nothing.
+  OwnSteps,       // The page has its own way to step.
   ReadsBack,      // A refused choice is read back,
   ReadsPosition,  // and taken for a position.
   AlwaysReads,    // Every choice is read back.
@@ -41,8 +45,54 @@ struct PageRules {
   std::string resets{};       // in the order of their list
   bool refusedIsReadBack = false;
   std::vector<int> readBack{}, alwaysRead{}, keep{}, positions{};
+  std::vector<int> readPosition{};
+  std::vector<int> tellText{};   // of a choice, to the connection, before it is sent
+  std::vector<int> stayInUse{};  // after a failed read
+  std::vector<int> own{};        // The page's own tests tell.
 };
 void PrintTo(const PageRules& page, std::ostream* stream) { *stream << page.name; }
+
+// Instead of a tab.
+constexpr int kGamma = -1, kColorTemp = -2, kService = -3;
+
+// The lists of the newest setup and audio pages; each model has some of them.
+const std::vector<int> kSetupLists{20315, 20316, 20321, 20320, 20322, 20323, 20324, 20325,
+                                   20326, 20330, 20369, 20370, 20329, 20360, 20361, 20371,
+                                   20372, 20362, 20363, 20364, 20365, 20366, 20367};
+const std::vector<int> kSetupRouting(kSetupLists.begin() + 3, kSetupLists.end());
+const std::vector<int> kAudioRouting{20354, 20356, 20358, 20359, 20360, 20361,
+                                     20362, 20363, 20365, 20366, 20367, 20368};
+const std::vector<int> kAudioLists = [] {
+  std::vector<int> lists = kAudioRouting;
+  lists.push_back(20364);
+  return lists;
+}();
+
+PageRules SetupType5(const char* name, int modelCode) {
+  return {.name = name,
+          .dialogType = 5,
+          .modelCode = modelCode,
+          .tab = 4,
+          .rows = {{20332, 314, -1, GoesBack}, {20144, 315}, {20145, 315}},
+          .readBack = kSetupLists,
+          .keep = kSetupRouting,
+          .tellText = {20321, 20369, 20370, 20329},
+          .own = {20328, 20368}};
+}
+
+PageRules AudioType5(const char* name, int modelCode) {
+  return {.name = name,
+          .dialogType = 5,
+          .modelCode = modelCode,
+          .tab = 5,
+          .rows = {},
+          .readBack = {20364},
+          .keep = {20364},
+          .positions = kAudioRouting,
+          .readPosition = kAudioRouting,
+          .tellText = kAudioRouting,
+          .stayInUse = kAudioLists};
+}
 
 // clang-format off
 const PageRules kPages[] = {
@@ -108,24 +158,44 @@ const PageRules kPages[] = {
     {"Other", 1, 1, 8, {{20103, 4200, -1, AlwaysRereads}}, "", false, {}, {20104, 20105, 20106}},
     {"Other4", 5, 34, 7, {{20103, 4200, -1, AlwaysRereads}}, "", false, {},
      {20104, 20105, 20106, 20107, 20108, 20109, 20110}},
+    {"InputType5", 5, 30, 3, {}}, {"InputType5WithM1D", 5, 41, 3, {}}, {"InputType5WithHdmi", 5, 53, 3, {}},
+    SetupType5("SetupType5Of36", 36), SetupType5("SetupType5Of42", 42), SetupType5("SetupType5Of44", 44),
+    SetupType5("SetupType5Of53", 53), SetupType5("SetupType5Of54", 54),
+    AudioType5("AudioType5Of30", 30), AudioType5("AudioType5Of53", 53), AudioType5("AudioType5Of54", 54),
+    {.name = "Gamma", .dialogType = 5, .modelCode = 30, .tab = kGamma,
+     .rows = {{20158, 52}, {20181, 44, 7}, {21024, 45, 8}, {21025, 46, 9}, {21026, 47, 10}, {21027, 48, 11},
+              {21028, 49, 12}, {21029, 50, 13}, {21030, 51, 14}},
+     .stayInUse = {20158}},
+    {.name = "ColorTemp", .dialogType = 5, .modelCode = 30, .tab = kColorTemp,
+     .rows = {{20158, 52}, {20181, 38, 1, OwnSteps}, {21024, 39, 2, OwnSteps}, {21025, 40, 3, OwnSteps},
+              {21026, 41, 4, OwnSteps}, {21027, 42, 5, OwnSteps}, {21028, 43, 6, OwnSteps}},
+     .stayInUse = {20158}},
+    {"Service", 5, 44, kService, {}, "", false, {20374, 20378, 20379, 20381}},
+    {"ServiceWithReceivers", 5, 30, kService, {}, "", false, {20374, 20378, 20379}},
 };
 // clang-format on
 
+bool Has(const std::vector<int>& controls, int control) {
+  return std::ranges::find(controls, control) != controls.end();
+}
+
 // The rule of a control, put together from all that is told of it.
 RowRule RuleOf(const PageRules& page, int control) {
-  const auto has = [control](const std::vector<int>& controls) {
-    return std::ranges::find(controls, control) != controls.end();
-  };
+  const auto has = [control](const std::vector<int>& controls) { return Has(controls, control); };
   const auto told = std::ranges::find(page.rows, control, &RowRule::control);
   RowRule rule = told != page.rows.end() ? *told : RowRule{control};
   if (has(page.readBack)) rule.then = ReadsBack;
   if (has(page.alwaysRead)) rule.then = AlwaysReads;
+  if (has(page.readPosition)) rule.then = ReadsPosition;
   if (has(page.keep)) rule.unknown = NoEntry::Keeps;
   if (has(page.positions)) rule.unknown = NoEntry::IsPosition;
   return rule;
 }
 
 const PageTable& TableOf(const PageRules& page) {
+  if (page.tab == kGamma) return kGammaRows;
+  if (page.tab == kColorTemp) return kColorTempRows;
+  if (page.tab == kService) return kServiceRows;
   const auto tab = static_cast<std::size_t>(page.tab);
   return TableOf(tab == 0 ? PageId::Status : TabsOf(page.dialogType, page.modelCode)[tab - 1].page);
 }
@@ -137,14 +207,36 @@ std::string Key(const Call& call) {
   return channel.Take().front();
 }
 
-// The page in front, on a projector whose values may change between two reads.
+// The page in front, or the pop-up over it.
+struct Shown {
+  Shown(const PageRules& page, const CModelInfo2& info) : open(info, std::max(page.tab, 0)) {
+    if (page.tab >= 0) return;
+    popUp = MakePopUp(static_cast<PopUp>(kGamma - page.tab), open.Dialog());
+    Open(*popUp);
+    EXPECT_TRUE(QTest::qWaitForWindowActive(popUp.get()));
+  }
+  CDialog& Dialog() { return popUp ? *popUp : static_cast<CDialog&>(open.Page()); }
+  void ReadAgain() { popUp ? Open(*popUp) : open.Page().InitDisp(); }
+
+  OpenDialog open;
+  std::unique_ptr<RowDialog> popUp;
+};
+
+// On a projector whose values may change between two reads.
 class RowRules : public testing::TestWithParam<PageRules> {
  protected:
+  RowRules() {
+    connection.SetChannel(std::make_shared<LoggingChannel>(
+        connection.Channel(), [this](const PjtCommand& command, auto&&...) {
+          if (!IsRead(command.operation)) textTold = connection.SettingText;
+        }));
+  }
+
   // The page shows `value`, and `later` is what is read from then on.
   void Show(const std::string& read, int value, int later) {
     projector.RefuseChanges(false);
     projector.Answer(read, value);
-    open.Page().InitDisp();
+    view.ReadAgain();
     projector.Answer(read, later);
   }
 
@@ -167,7 +259,7 @@ class RowRules : public testing::TestWithParam<PageRules> {
   void ExpectUnreadable(const std::string& read, std::initializer_list<int> controls) {
     for (const bool refused : {true, false}) {
       refused ? projector.Refuse(read) : projector.Accept(read);
-      open.Page().InitDisp();
+      view.ReadAgain();
       for (const int id : controls) EXPECT_NE(driver.IsEnabled(id), refused) << id;
     }
   }
@@ -183,9 +275,11 @@ class RowRules : public testing::TestWithParam<PageRules> {
   const CModelInfo2 info = FullModel(page.dialogType, page.modelCode);
   const ModelData model = MakeModelData(info);
   const NumberedCatalog numbers;
-  OpenDialog open{info, page.tab};
-  DialogDriver driver = open.Driver();
-  RecordingChannel& projector = open.Projector();
+  Shown view{page, info};
+  DialogDriver driver{view.Dialog()};
+  RecordingChannel& projector = view.open.Projector();
+  CPjtInterface& connection = view.open.Dialog().Projector();
+  std::string textTold;
   MessageBoxes boxes;
   Strings pageReads;
 };
@@ -195,13 +289,18 @@ void RowRules::Expect(const ListRow& row, const RowRule& rule) {
   const std::vector<ListEntry> entries = row.entries.Of(model);
   const std::size_t later = entries.size() > 2 ? 2 : 0;
   const std::string read = Key(*row.read);
+  const bool readsBack = rule.then != Plain || (page.refusedIsReadBack && rule.error != 0);
   for (const bool refused : {false, true}) {
     Show(read, entries[0].value, entries[later].value);
     EXPECT_EQ(driver.Selected(row.control), 0);
+    connection.SettingText = "before";
+    textTold.clear();
     Strings sent = Sent(refused, rule.error, [&] { driver.Choose(row.control, 1); });
     EXPECT_EQ(std::erase_if(sent, [](const auto& text) { return !text.starts_with("Get"); }),
               row.send ? 1U : 0U);
-    const bool readsBack = rule.then != Plain || (page.refusedIsReadBack && rule.error != 0);
+    EXPECT_EQ(textTold, Has(page.tellText, row.control)
+                            ? driver.Entries(row.control)[1].toStdString()
+                            : std::string(row.send ? "before" : ""));
     Strings reads = rule.then == AlwaysRereads ? pageReads : Strings{};
     if (rule.then == AlwaysReads || (refused && readsBack && reads.empty())) reads = {read};
     EXPECT_EQ(sent, reads);
@@ -209,13 +308,26 @@ void RowRules::Expect(const ListRow& row, const RowRule& rule) {
                                             : rule.then == ReadsPosition ? entries[later].value
                                                                          : static_cast<int>(later));
   }
-  ExpectUnreadable(read, {row.control});
+  projector.Refuse(read);
+  Sent(true, rule.error, [&] { driver.Choose(row.control, 0); });
+  EXPECT_EQ(driver.Selected(row.control), 0) << "nothing to go back to";
+  projector.Accept(read);
+  if (Has(page.stayInUse, row.control)) {
+    projector.Refuse(read);
+    view.ReadAgain();
+    EXPECT_TRUE(driver.IsEnabled(row.control));
+    projector.Accept(read);
+  } else {
+    ExpectUnreadable(read, {row.control});
+  }
+  if (view.popUp) return;  // shows nothing of before
   int unknown = 0;
   while (PositionOf(entries, unknown) >= 0) ++unknown;
   Show(read, entries[1].value, unknown);
-  open.Page().InitDisp();
+  view.ReadAgain();
+  const int position = unknown < std::ssize(entries) ? unknown : -1;
   EXPECT_EQ(driver.Selected(row.control), rule.unknown == NoEntry::Clears       ? -1
-                                          : rule.unknown == NoEntry::IsPosition ? unknown
+                                          : rule.unknown == NoEntry::IsPosition ? position
                                                                                 : 1);
 }
 
@@ -235,6 +347,7 @@ void RowRules::Expect(const ValueRow& row, const RowRule& rule) {
   for (const bool refused : {false, true}) {
     const bool isRead = !refused || page.refusedIsReadBack;
     for (const std::string& step : {"Dec" + up.substr(3), up}) {
+      if (rule.then == OwnSteps) break;
       Show(read, value + row.bias, value + row.bias + 1);
       projector.Answer(step, value + row.bias + 1);  // for steppers that answer with the value
       const int button = step == up ? row.ids.plus : row.ids.minus;
@@ -245,7 +358,7 @@ void RowRules::Expect(const ValueRow& row, const RowRule& rule) {
     }
     if (!slides) continue;
     Show(read, value + row.bias, value + row.bias + 1);
-    const int error = rule.then == Stays ? 0 : rule.error;
+    const int error = rule.then == Stays || rule.then == GoesBack ? 0 : rule.error;
     const Strings sent = Sent(refused, error, [&] { driver.Drag(row.ids.slider, range.maximum); });
     EXPECT_EQ(std::ranges::count(sent, read), refused && isRead ? 1 : 0);
     const int shown = refused ? value + isRead : range.maximum;
@@ -253,14 +366,16 @@ void RowRules::Expect(const ValueRow& row, const RowRule& rule) {
   }
   ExpectUnreadable(read, {row.ids.minus, slides ? row.ids.slider : row.ids.plus, row.ids.plus});
   projector.Refuse(read);
-  const Strings sent = Sent(false, 0, [&] { driver.Click(row.ids.plus); });
-  EXPECT_EQ(sent, asksFirst ? Strings{read} : (Strings{up, read})) << "from an unknown value";
-  expectShown(value + 1, value + 1);
-  open.Page().InitDisp();
+  if (rule.then != OwnSteps) {
+    const Strings sent = Sent(false, 0, [&] { driver.Click(row.ids.plus); });
+    EXPECT_EQ(sent, asksFirst ? Strings{read} : (Strings{up, read})) << "from an unknown value";
+    expectShown(value + 1, value + 1);
+  }
+  view.ReadAgain();
   EXPECT_EQ(driver.Text(row.ids.field), "");
   EXPECT_EQ(driver.IsEnabled(row.ids.field), rule.then != GreysField);
   projector.Accept(read);
-  open.Page().InitDisp();
+  view.ReadAgain();
   EXPECT_TRUE(driver.IsEnabled(row.ids.field));
 }
 
@@ -272,6 +387,10 @@ void RowRules::Expect(const CheckRow& row, const RowRule& rule) {
     EXPECT_EQ(std::ranges::count(sent, read), refused ? 1 : 0);
     EXPECT_EQ(driver.Item<QCheckBox>(row.control).isChecked(), !refused);
   }
+  projector.Refuse(read);
+  Sent(true, 0, [&] { driver.Click(row.control); });
+  EXPECT_TRUE(driver.Item<QCheckBox>(row.control).isChecked()) << "nothing to go back to";
+  projector.Accept(read);
   ExpectUnreadable(read, {row.control});
 }
 
@@ -303,13 +422,15 @@ void RowRules::Expect(const ResetRow& row, const RowRule& rule) {
 }
 
 TEST_P(RowRules, HoldForEveryRow) {
-  open.Page().InitDisp();
+  projector.Take();
+  view.ReadAgain();
   pageReads = projector.Take();
   const PageTable& table = TableOf(page);
   for (std::size_t i = 0; i < table.rows.size(); ++i) {
-    if (!Has(table, i, model.ModelCode)) continue;
+    const int control = ControlOf(table.rows[i]);
+    if (!::Has(table, i, model.ModelCode) || Has(page.own, control)) continue;
     SCOPED_TRACE(KeyOf(table.rows[i]));
-    const RowRule rule = RuleOf(page, ControlOf(table.rows[i]));
+    const RowRule rule = RuleOf(page, control);
     std::visit([&](const auto& row) { Expect(row, rule); }, table.rows[i]);
   }
 }
@@ -320,11 +441,11 @@ TEST_P(RowRules, RangesComeFromTheModel) {
   for (std::size_t i = 0; i < RangeIndex::Count; ++i) {
     wide.RangeText(i) = "0," + std::to_string(1000 + i);
   }
-  OpenDialog other(wide, page.tab);
+  Shown other(page, wide);
   for (const PageRow& row : TableOf(page).rows) {
     const auto* value = std::get_if<ValueRow>(&row);
     if (value == nullptr || value->ids.slider == 0) continue;
-    const int maximum = other.Driver().Item<QSlider>(value->ids.slider).maximum() + value->bias;
+    const int maximum = other.Dialog().Item<QSlider>(value->ids.slider).maximum() + value->bias;
     const int range = RuleOf(page, value->ids.slider).range;
     EXPECT_TRUE(range < 0 ? maximum < 1000 : maximum == 1000 + range) << value->key;
   }

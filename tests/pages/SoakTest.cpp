@@ -3,7 +3,6 @@
 // another walk, SOAK_ACTIONS a longer one.
 
 #include <algorithm>
-#include <cstdlib>
 #include <random>
 
 #include <QAbstractButton>
@@ -22,24 +21,10 @@
 #include "simulator/FaultChannel.h"
 #include "simulator/SimulatedProjector.h"
 #include "tests/support/DialogDriver.h"
-#include "tests/support/Models.h"
 
 namespace {
 
 constexpr int kActionsPerModel = 3000;
-
-int Given(const char* variable, int otherwise) {
-  const char* given = std::getenv(variable);
-  return given != nullptr ? static_cast<int>(std::strtol(given, nullptr, 10)) : otherwise;
-}
-
-struct SoakModelCode {
-  int dialogType;
-  int modelCode;
-};
-void PrintTo(const SoakModelCode& model, std::ostream* stream) {
-  *stream << "type " << model.dialogType << " code " << model.modelCode;
-}
 
 class RandomUser {
  public:
@@ -65,22 +50,13 @@ class RandomUser {
   }
 
  private:
-  int Pick(int count) { return std::uniform_int_distribution(0, count - 1)(random_); }
+  int Pick(std::ptrdiff_t count) {
+    return static_cast<int>(std::uniform_int_distribution<std::ptrdiff_t>(0, count - 1)(random_));
+  }
 
   void ActOn(CDialog& dialog) {
-    std::vector<QWidget*> usable;
-    for (const RowTemplate& row : dialog.Template()->rows) {
-      for (const ControlTemplate& control : row.controls) {
-        QWidget* widget = dialog.GetDlgItem(control.id);
-        if (widget == nullptr || !widget->isVisible() || !widget->isEnabled() ||
-            control.kind == ControlKind::Close) {
-          continue;
-        }
-        usable.push_back(widget);
-      }
-    }
-    if (usable.empty()) return;
-    Use(*usable[static_cast<std::size_t>(Pick(static_cast<int>(usable.size())))]);
+    const std::vector<QWidget*> usable = UsableControls(dialog);
+    if (!usable.empty()) Use(*usable[static_cast<std::size_t>(Pick(std::ssize(usable)))]);
   }
 
   void Use(QWidget& widget) {
@@ -116,7 +92,7 @@ class RandomUser {
     auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     if (box == nullptr) return;
     const auto buttons = box->buttons();
-    QTest::mouseClick(buttons[Pick(static_cast<int>(buttons.size()))], Qt::LeftButton);
+    QTest::mouseClick(buttons[Pick(buttons.size())], Qt::LeftButton);
   }
 
   void UsePopup() {
@@ -185,11 +161,11 @@ void ExpectShowsProjector(const CTabPage& page, const PageTable& table, const Mo
   }
 }
 
-class SoakTest : public testing::TestWithParam<SoakModelCode> {};
+class SoakTest : public testing::TestWithParam<CModelInfo2> {};
 
 TEST_P(SoakTest, EveryControlEndsUpShowingTheProjectorsValue) {
-  const auto seed = static_cast<unsigned>(Given("SOAK_SEED", GetParam().modelCode));
-  const CModelInfo2 info = FullModel(GetParam().dialogType, GetParam().modelCode);
+  const auto seed = static_cast<unsigned>(Given("SOAK_SEED", GetParam().ModelCode));
+  const CModelInfo2& info = GetParam();
   const ModelData model = MakeModelData(info);
   const auto projector = std::make_shared<SimulatedProjector>(DescribeModel(model));
   const auto faults = std::make_shared<FaultChannel>(projector);
@@ -225,14 +201,10 @@ TEST_P(SoakTest, EveryControlEndsUpShowingTheProjectorsValue) {
   }
 }
 
-std::vector<SoakModelCode> SoakModels() {
-  std::vector<SoakModelCode> models;
-  for (const auto& [dialogType, codes] : ListedModels()) {
-    for (const int code : codes) models.push_back({dialogType, code});
-  }
-  return models;
-}
-
-INSTANTIATE_TEST_SUITE_P(EveryModel, SoakTest, testing::ValuesIn(SoakModels()));
+INSTANTIATE_TEST_SUITE_P(EveryModel, SoakTest, testing::ValuesIn(EveryModel()),
+                         [](const auto& model) {
+                           return "Type" + std::to_string(model.param.DialogType) + "Code" +
+                                  std::to_string(model.param.ModelCode);
+                         });
 
 }  // namespace

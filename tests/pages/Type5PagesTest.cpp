@@ -4,11 +4,10 @@
 #include <QLabel>
 #include <gtest/gtest.h>
 
-#include "device/LoggingChannel.h"
 #include "pages/input/CInputType5Dlg.h"
 #include "pages/setup/CAudioType5Dlg.h"
 #include "resources/ArrowBitmap.h"
-#include "tests/support/RowCases.h"
+#include "tests/support/DialogDriver.h"
 
 namespace {
 
@@ -42,89 +41,6 @@ struct Type5Page : OpenDialog {
   MessageBoxes boxes;
 };
 
-/// What lists do beyond sending their entries.
-struct Lists {
-  int tab, modelCode;
-  std::vector<int> controls;
-  bool readsBack = true;           // after a refusal; else the choice just stays
-  bool keeps = false;              // the selection, where a value has no entry
-  bool told = false;               // the connection gets the text of a choice
-  bool failedReadDisables = true;  // and else leaves everything
-};
-
-// clang-format off
-const Lists kLists[] = {
-    {kInputTab, 30, {20294, 20295, 20296, 20297, 20298, 20299, 20300, 20301, 20302, 20303, 20304}, false},
-    {kInputTab, 41, {20307, 20309, 20310, 20308}, false},
-    {kInputTab, 53, {20305, 20306, 20311, 20312}, false},
-    {kSetupTab, 44, {20315, 20316}},
-    {kSetupTab, 44, {20321}, true, false, true},
-    {kSetupTab, 36, {20320, 20322, 20323, 20324, 20325, 20326}, true, true},
-    {kSetupTab, 42, {20330}, true, true},
-    {kSetupTab, 42, {20369, 20370, 20329}, true, true, true},
-    {kSetupTab, 53, {kStandby, 20360, 20361}, true, true},
-    {kSetupTab, 54, {20371, 20372, 20362, 20363, 20364, 20365, 20366, 20367}, true, true},
-    {kAudioTab, 30, {20359}, true, false, true, false},
-    {kAudioTab, 53, {20365, 20366}, true, false, true, false},
-    {kAudioTab, 54, {20354, 20356, 20358, kHdmi, 20360, 20361, 20362, kMiu, 20368}, true, false, true, false},
-    {kAudioTab, 54, {kHdmiAudio}, true, true, false, false},
-};
-// clang-format on
-
-void ExpectList(const Lists& lists, int list) {
-  MessageBoxes boxes(true);
-  OpenDialog open(FullModel(5, lists.modelCode), lists.tab);
-  const DialogDriver driver = open.Driver();
-  RecordingChannel& projector = open.Projector();
-  open.Page().InitDisp();
-  const Strings reads = projector.Take();
-  CPjtInterface& connection = open.Dialog().Projector();
-  connection.SettingText = "before";
-  std::string told;
-  connection.SetChannel(std::make_shared<LoggingChannel>(
-      connection.Channel(), [&](auto&&...) { told = connection.SettingText; }));
-
-  driver.Choose(list, 1);
-  EXPECT_EQ(told, lists.told ? driver.Text(list).toStdString() : "before");
-  EXPECT_EQ(boxes.Take().size(), list == kStandby && lists.tab == kSetupTab ? 1U : 0U);
-  const std::string other = projector.Take().at(0);
-  driver.Choose(list, 0);
-  const std::string sent = projector.Take().at(0);
-
-  projector.Refuse(sent.substr(0, sent.find(' ')));
-  const int value = std::stoi(other.substr(other.find(' ')));
-  for (const std::string& read : reads) projector.Answer(read, value);
-  driver.Choose(list, 0);
-  const Strings refused = projector.Take();
-  EXPECT_EQ(refused.front(), sent);
-  EXPECT_EQ(refused.size(), lists.readsBack ? 2U : 1U);
-  EXPECT_EQ(driver.Selected(list), lists.readsBack ? 1 : 0);
-
-  for (const std::string& read : reads) projector.Refuse(read);
-  driver.Choose(list, 0);
-  open.Page().InitDisp();
-  EXPECT_EQ(driver.Selected(list), 0) << "nothing to go back to, and nothing to show";
-  EXPECT_EQ(driver.IsEnabled(list), !lists.failedReadDisables);
-  EXPECT_TRUE(boxes.Take().empty());
-
-  for (const std::string& read : reads) {
-    projector.Accept(read);
-    projector.Answer(read, 99);
-  }
-  open.Page().InitDisp();
-  EXPECT_TRUE(driver.IsEnabled(list));
-  EXPECT_EQ(driver.Selected(list), lists.keeps ? 0 : -1);
-}
-
-TEST(Type5Pages, ListsTakeRefusalsFailedReadsAndUnknownValues) {
-  for (const Lists& lists : kLists) {
-    for (const int list : lists.controls) {
-      SCOPED_TRACE("list " + std::to_string(list) + " of " + std::to_string(lists.modelCode));
-      ExpectList(lists, list);
-    }
-  }
-}
-
 // The maximum alone tells how far apart the ticks of keystones and of the setup page's volume are.
 TEST(Type5Pages, RangeTextsSetTheSliders) {
   for (const auto& [tab, code, index, text, slider, minimum, maximum, ticks] :
@@ -143,12 +59,6 @@ TEST(Type5Pages, RangeTextsSetTheSliders) {
   }
 }
 
-TEST(Input5, AnUnreadListShowsNoSetting) {
-  const Type5Page page(kInputTab, 30, {{"GetVideoFormat 1", -1}});
-  EXPECT_EQ(page.driver.Selected(20299), -1);
-  EXPECT_TRUE(page.driver.IsEnabled(20300)) << "other lists are not concerned";
-}
-
 TEST(Input5, TheCaptionsOfAModelWithoutRowsAreLocalizedAllTheSame) {
   EXPECT_EQ(Type5Page(kInputTab, 47).driver.Text(20500), "Progressive");
 }
@@ -157,18 +67,6 @@ TEST(Input5, VideoFormatsHavePositions) {
   EXPECT_EQ(CInputType5Dlg::VideoFmtToIdx(7), 6);
   EXPECT_EQ(CInputType5Dlg::VideoFmtToIdx(-1), -1) << "the table's end is none of its values";
 }
-
-// clang-format off
-TEST(Setup5, ValuesReadSendAndTakeARefusal) {
-  ExpectRowCases(FullModel(5, 42), kSetupTab, {
-      {20317, "GetInputSrcVolume 0", 12, "12", {{20317, 32, {"GetInputSource", "SetVolumeEachSrc 0 32"}}}, "SetVolumeEachSrc 0"}});
-  ExpectRowCases(FullModel(5, 44), kSetupTab, {
-      {20332, "Get 0x300A", 90, "90", {{20332, 100, {"Set 0x300A 100"}}}, "Set 0x300A"},  // quietly
-      {20332, "Get 0x300A", 90, "90", {{20331, 0, {"Dec 0x300A", "Get 0x300A"}}}, "Dec 0x300A", 314},
-      {20144, "Get 0x300B", 118, "-10", {{20335, 0, {"Inc 0x300B", "Get 0x300B"}}}, "Inc 0x300B", 315},
-      {20145, "Get 0x300C", 118, "-10", {{20350, 0, {"Inc 0x300C", "Get 0x300C"}}}, "Inc 0x300C", 315}});
-}
-// clang-format on
 
 TEST(Setup5, KeystonesStepFromTheProjectorsValue) {
   for (const auto& [minus, slider, plus, field, axis] :

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include "device/ModelDataIntake.h"
 #include "settings/PageTables.h"
 #include "settings/RowUse.h"
 #include "simulator/SimulatedProjector.h"
@@ -14,37 +15,10 @@
 
 namespace {
 
-ModelData Model(int dialogType, int modelCode) {
-  ModelData model;
-  model.DialogType = dialogType;
-  model.ModelCode = modelCode;
-  const auto fill = [](CountedList& list, std::initializer_list<int> values) {
-    for (const int value : values) {
-      list.values[static_cast<std::size_t>(list.count++)] = value;
-    }
-  };
-  fill(model.AspectList, {0, 1, 8, 9});
-  fill(model.GammaList, {16, 17, 32, 33});
-  fill(model.ColorTempList, {1, 2, 3, 17});
-  fill(model.MyButtonList, {0, 4, 5, 16, 17});
-  for (const char* name : {"Normal", "Whisper"}) {
-    model.WhisperList.names[static_cast<std::size_t>(model.WhisperList.count++)] =
-        MakeNameSlot(name);
-  }
-  for (const int source : {0, 4, 1, 2, 5}) {
-    const auto index = static_cast<std::size_t>(model.MySourceList.count++);
-    model.MySourceList.firstValues[index] = source;
-    model.MySourceList.names[index] = MakeNameSlot("Source " + std::to_string(source));
-  }
-  return model;
-}
-
 void ForEachModel(const auto& check) {
-  for (const auto& [dialogType, codes] : ListedModels()) {
-    for (const int code : codes) {
-      SCOPED_TRACE("type " + std::to_string(dialogType) + " code " + std::to_string(code));
-      check(Model(dialogType, code));
-    }
+  for (const CModelInfo2& model : EveryModel()) {
+    SCOPED_TRACE(NameOf(model));
+    check(MakeModelData(model));
   }
 }
 

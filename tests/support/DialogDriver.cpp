@@ -14,44 +14,10 @@
 #include <gtest/gtest.h>
 
 #include "pages/common/CTabPage.h"
+#include "pages/input/CServiceDlg.h"
+#include "pages/picture/CColorDlg.h"
+#include "pages/picture/CGammaDlg.h"
 #include "toolkit/CSliderCtrl.h"
-
-CModelInfo2 MakeModel(int dialogType, int modelCode) {
-  CModelInfo2 model;
-  model.ModelName = "Model";
-  model.DialogType = dialogType;
-  model.ModelCode = modelCode;
-  return model;
-}
-
-void AddEntry(CountedList& list, int value, const char* name) {
-  const auto index = static_cast<std::size_t>(list.count++);
-  list.values[index] = value;
-  list.names[index] = MakeNameSlot(name);
-}
-
-void AddSource(SourceList& list, int value, const char* name) {
-  const auto index = static_cast<std::size_t>(list.count++);
-  list.firstValues[index] = value;
-  list.names[index] = MakeNameSlot(name);
-}
-
-CModelInfo2 FullModel(int dialogType, int modelCode) {
-  CModelInfo2 model = MakeModel(dialogType, modelCode);
-  for (const int value : {16, 17, 32, 33}) AddEntry(model.GammaList, value, "gamma");
-  for (const int value : {1, 2, 3, 17}) AddEntry(model.ColorTempList, value, "temperature");
-  for (const int value : {0, 1, 8, 9}) AddEntry(model.AspectList, value, "aspect");
-  for (const char* name : {"Normal", "Whisper", "Bright"}) {
-    AddEntry(model.WhisperList, model.WhisperList.count, name);
-  }
-  for (const int value : {0, 4, 3, 16, 17, 18, 25, 255})
-    AddEntry(model.MyButtonList, value, "button");
-  AddSource(model.MySourceList, 0, "Computer1");
-  AddSource(model.MySourceList, 4, "Computer2");
-  AddSource(model.MySourceList, 6, "MIU");
-  AddSource(model.MySourceList, 1, "Video");
-  return model;
-}
 
 void DialogDriver::Click(int id) const {
   auto& button = Item<QAbstractButton>(id);
@@ -150,6 +116,43 @@ OpenDialog::OpenDialog(const CModelInfo2& model, int tab,
 DialogDriver OpenDialog::Driver() { return DialogDriver(*dialog_.ShownPage()); }
 
 void OpenDialog::SelectTab(int tab) { dialog_.findChild<QTabBar*>()->setCurrentIndex(tab); }
+
+std::unique_ptr<RowDialog> MakePopUp(PopUp kind, CAdvanceDlg& host, bool hideResets) {
+  std::unique_ptr<RowDialog> popUp;
+  if (kind == PopUp::Gamma) popUp = std::make_unique<CGammaDlg>(hideResets, &host);
+  if (kind == PopUp::ColorTemp) popUp = std::make_unique<CColorDlg>(hideResets, &host);
+  if (kind == PopUp::Service) {
+    auto service = std::make_unique<CServiceDlg>(&host);
+    service->ModelCode = host.Model().ModelCode;
+    popUp = std::move(service);
+  }
+  popUp->projector = &host.Projector();
+  return popUp;
+}
+
+void Open(CDialog& popUp) {
+  ASSERT_TRUE(popUp.Create());
+  popUp.show();
+}
+
+std::vector<QWidget*> UsableControls(const CDialog& dialog) {
+  std::vector<QWidget*> usable;
+  for (const RowTemplate& row : dialog.Template()->rows) {
+    for (const ControlTemplate& control : row.controls) {
+      QWidget* widget = dialog.GetDlgItem(control.id);
+      if (widget != nullptr && widget->isVisible() && widget->isEnabled() &&
+          control.kind != ControlKind::Close) {
+        usable.push_back(widget);
+      }
+    }
+  }
+  return usable;
+}
+
+int Given(const char* variable, int otherwise) {
+  const QString given = qEnvironmentVariable(variable);
+  return given.isEmpty() ? otherwise : given.toInt();
+}
 
 MessageBoxes::MessageBoxes(bool yes) : yes_(yes) {
   QObject::connect(&timer_, &QTimer::timeout, [this] {

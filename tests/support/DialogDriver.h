@@ -13,15 +13,9 @@
 
 #include "host/CAdvanceDlg.h"
 #include "pages/common/CTabPage.h"
+#include "tests/support/Models.h"
 #include "tests/support/RecordingChannel.h"
 #include "toolkit/CComboBox.h"
-
-/// A model record with the essentials filled.
-CModelInfo2 MakeModel(int dialogType, int modelCode);
-/// The same with every list filled.
-CModelInfo2 FullModel(int dialogType, int modelCode);
-void AddEntry(CountedList& list, int value, const char* name);
-void AddSource(SourceList& list, int value, const char* name);
 
 /// Acts on a dialog's controls as a user does: with mouse, keys and wheel on the real widgets.
 class DialogDriver {
@@ -72,6 +66,19 @@ class OpenDialog {
   std::shared_ptr<RecordingChannel> projector_ = std::make_shared<RecordingChannel>();
   CAdvanceDlg dialog_;
 };
+
+enum class PopUp { Gamma, ColorTemp, Service };
+
+/// A pop-up of an open dialog, on its projector and for its model, to be opened.
+std::unique_ptr<RowDialog> MakePopUp(PopUp kind, CAdvanceDlg& host, bool hideResets = false);
+/// Opens it, or opens it again: either way it reads the projector.
+void Open(CDialog& popUp);
+
+/// The controls that can be used now, the closing button apart.
+std::vector<QWidget*> UsableControls(const CDialog& dialog);
+
+/// The number that an environment variable gives.
+int Given(const char* variable, int otherwise);
 
 /// Answers the message boxes that come up while it lives, and remembers them.
 class MessageBoxes {

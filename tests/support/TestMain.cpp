@@ -8,7 +8,9 @@ int main(int argc, char** argv) {
   // The tests bring their own display and language, whatever the caller has.
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qputenv("LC_ALL", "en_US.UTF-8");
+#ifndef WITHOUT_CATALOG
   LoadCatalog();
+#endif
   QApplication application(argc, argv);
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
   testing::InitGoogleTest(&argc, argv);

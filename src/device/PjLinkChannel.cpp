@@ -27,15 +27,13 @@ struct Mapping {
   std::uint16_t code;
   std::string_view command;
   Class protocolClass;
-  Parameter (*parameter)(int value);                ///< Nothing when there is no such value.
+  Parameter (*parameter)(int value);  ///< Nothing when there is no such value.
   std::optional<int> (*value)(std::string_view) = nullptr;  ///< Of reads.
 };
 
 template <char on, char off>
 Parameter OneOf(int value) {
-  return value == 0   ? Parameter{{off}}
-         : value == 1 ? Parameter{{on}}
-                      : std::nullopt;
+  return value == 0 ? Parameter{{off}} : value == 1 ? Parameter{{on}} : std::nullopt;
 }
 
 template <char part>
@@ -246,8 +244,8 @@ std::optional<std::string> PjLinkChannel::ReadLine(std::size_t longest,
   }
 }
 
-/// The parameter of the reply, `OK` and errors included. The connection must be usable; nothing when
-/// it is not any more.
+/// The parameter of the reply, `OK` and errors included. The connection must be usable; nothing
+/// when it is not any more.
 std::optional<std::string> PjLinkChannel::Ask(char protocolClass, std::string_view command,
                                               std::string_view parameter) {
   const PjLink::Line request{protocolClass, std::string(command), ' ', std::string(parameter)};

@@ -18,8 +18,9 @@ class QTcpSocket;
 
 /// An input of a projector.
 struct PjLinkInput {
-  std::int32_t number = 0;  ///< What reading the input source yields, as `PjLink::InputNumber` says.
-  std::string name;         ///< UTF-8; the projector's own, or else its kind and place: "Digital 1".
+  std::int32_t number =
+      0;             ///< What reading the input source yields, as `PjLink::InputNumber` says.
+  std::string name;  ///< UTF-8; the projector's own, or else its kind and place: "Digital 1".
 };
 
 /// What a projector tells of itself. A text that it does not tell is empty.
@@ -36,8 +37,8 @@ ADVANCED_CONTROL_EXPORT SourceList SourcesOf(const std::vector<PjLinkInput>& inp
 
 /// The way to a projector of any maker that speaks PJLink, class 1 or 2, over TCP.
 ///
-/// Power, input, error status, blank, mute, freeze, volume steps, lamp and filter hours are asked of
-/// the projector. All else is refused at once, without traffic, as not offered.
+/// Power, input, error status, blank, mute, freeze, volume steps, lamp and filter hours are asked
+/// of the projector. All else is refused at once, without traffic, as not offered.
 ///
 /// Connects when first used. A connection that the projector closed meanwhile, as many do after
 /// 30 seconds, is opened again; one that breaks while a reply is awaited leaves a change
@@ -74,7 +75,8 @@ class ADVANCED_CONTROL_EXPORT PjLinkChannel : public ProjectorChannel {
   PjtReply Execute(const PjtCommand& command) override;
 
   /// Asks the projector about itself, an exchange for each text and input name; nothing when one
-  /// stays unanswered. Ends with the connection closed, so that any thread may use the channel next.
+  /// stays unanswered. Ends with the connection closed, so that any thread may use the channel
+  /// next.
   std::optional<PjLinkDescription> Describe();
 
   /// How the connection stands, from any thread.

@@ -28,14 +28,14 @@ struct ServiceOptions {
 };
 
 /// A projector with everything that it can be reached through.
-struct ServedProjector {
+struct Service {
   std::string name;
   std::shared_ptr<FaultChannel> channel;
   std::unique_ptr<WireServer> wire;
   std::unique_ptr<PjLinkServer> pjLink;
   std::uint16_t wirePort = 0;
   int pjLinkPort = 0;
-  std::string terminal;  ///< Path; empty for none.
+  std::string terminal{};  ///< Path; empty for none.
 };
 
 /// The projectors of a profile file, served while the event loop runs.
@@ -45,7 +45,7 @@ class ServedProjectors {
   ServedProjectors(const std::vector<ProjectorProfile>& profiles, const ServiceOptions& options);
 
   const QString& ErrorText() const { return error_; }
-  std::size_t Count() const { return projectors_.size(); }
+  std::size_t Count() const { return services_.size(); }
 
   /// One line for each way to each projector: its name, a colon, an address.
   std::string Addresses() const;
@@ -60,6 +60,6 @@ class ServedProjectors {
   QJsonObject NetworkConnection(int port, const std::string& password) const;
 
   const ServiceOptions options_;
-  std::vector<ServedProjector> projectors_;
+  std::vector<Service> services_;
   QString error_;
 };

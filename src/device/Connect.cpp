@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "device/BoundedChannel.h"
+#include "device/PjLinkChannel.h"
 #include "device/SerialChannel.h"
 #include "device/TcpChannel.h"
 
@@ -101,7 +102,9 @@ struct ChannelMaker {
   Channel operator()(const TcpAddress& tcp) const {
     return std::make_shared<TcpChannel>(tcp.host, tcp.port);
   }
-  Channel operator()(const PjLinkAddress&) const { return nullptr; }
+  Channel operator()(const PjLinkAddress& pjLink) const {
+    return std::make_shared<PjLinkChannel>(pjLink.host, pjLink.port, pjLink.password);
+  }
   Channel operator()(const SerialAddress& serial) const {
     return std::make_shared<SerialChannel>(serial.device, serial.baud);
   }

@@ -22,6 +22,8 @@ struct PjtReply {
   int result = 0;          ///< Success or refusal as the operation's family says (`IsSuccess`).
   std::int16_t value = 0;  ///< The value read or stepped to; meaningful only on success.
   bool answered = true;    ///< False when no answer came; `result` is then a refusal.
+  bool offered = true;  ///< False when it is known that the projector has no such setting at all;
+                        ///< `result` is then a refusal.
 };
 
 /// The way to one projector: a real connection, a simulation, or a channel around a channel that

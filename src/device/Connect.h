@@ -59,7 +59,15 @@ ADVANCED_CONTROL_EXPORT ProjectorAddress ParseConnection(const ConnectionData& d
 ADVANCED_CONTROL_EXPORT ProjectorAddress ParseAddress(std::string_view text,
                                                       std::string_view password = {});
 
+/// The path of the serial port with that number, which counts from 0.
+inline std::string SerialDevice(int number) { return "/dev/ttyS" + std::to_string(number); }
+
 /// A way to the projector that connects with the first command, behind a `BoundedChannel`. That of
 /// an `AddressError` leaves every command unanswered at once. Never null.
 ADVANCED_CONTROL_EXPORT std::shared_ptr<ProjectorChannel> MakeChannel(
+    const ProjectorAddress& address);
+
+/// The same without a bound, for a host that puts a channel of its own around it and a
+/// `BoundedChannel` around both.
+ADVANCED_CONTROL_EXPORT std::shared_ptr<ProjectorChannel> MakeUnboundedChannel(
     const ProjectorAddress& address);

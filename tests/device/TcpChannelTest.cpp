@@ -133,8 +133,16 @@ TEST(TcpChannelTest, WhateverThePeerDoesTheStateIsClearAndTheNextCommandWorks) {
       {"half a frame", Says("\xA5\x5A\x02"), NoAnswer},
       {"lies about length", Says("\xA5\x5A\x02\xFF"), NotUnderstood},
       {"ten megabytes", Says(std::string(kMega, 'A')), NotUnderstood},
-      {"has another version", Says(FrameBytes({1, Wire::Welcome{0}})), OtherVersion},
-      {"never had a hello", Says(FrameBytes({1, Wire::Reply{Wire::Status::NoHello}})), NoAnswer},
+      {"welcomes somebody else", Says(FrameBytes({1, Wire::Welcome{}})), NoAnswer},
+      {"has another version", [](auto& socket, auto& responder) {
+         Wire::Decoder decoder;
+         decoder.Add(ReplyTo(socket, responder));
+         if (auto frame = decoder.Next()) {
+           frame->message = Wire::Welcome{0};
+           Send(socket, FrameBytes(*frame));
+         }
+       },
+       OtherVersion},
       {"replies to others, a flood of them",
        AfterWelcome([=](auto& socket, auto&) { Send(socket, foreign); }),
        NoAnswer},

@@ -322,7 +322,7 @@ TEST(PjLinkTest, TheServerAnswersAsTheStandardSays) {
   }
   EXPECT_EQ(served.Exchange(sent).toStdString(), (expected + "open").toStdString());
   EXPECT_EQ(served.Exchange("rubbish\r%1POWR ?\r"), "PJLINK 0\rclosed");
-  EXPECT_EQ(served.Exchange(QByteArray(10'000'000, '%')), "PJLINK 0\rclosed");
+  EXPECT_TRUE(served.Exchange(QByteArray(10'000'000, '%')).endsWith("closed"));
 
   const Served guarded({.password = "secret", .connections = 1, .idle = 200ms});
   EXPECT_TRUE(guarded.Exchange("%1POWR ?\r").endsWith("\rPJLINK ERRA\rclosed"));

@@ -21,7 +21,9 @@ SimulatedModel Simulate(const ProjectorProfile& profile) {
 ProjectorSession::ProjectorSession(ProjectorProfile profile, LoggingChannel::Observer observer)
     : profile_(std::move(profile)),
       simulator_(std::make_shared<SimulatedProjector>(Simulate(profile_))),
-      faultChannel_(std::make_shared<FaultChannel>(simulator_)),
+      faultChannel_(std::make_shared<FaultChannel>(
+          profile_.Link == ProjectorLink::Simulated ? simulator_
+                                                    : MakeUnboundedChannel(AddressOf(profile_)))),
       channel_(std::make_shared<LoggingChannel>(std::make_shared<BoundedChannel>(faultChannel_),
                                                 std::move(observer))) {}
 

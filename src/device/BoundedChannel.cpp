@@ -7,6 +7,7 @@
 #include <system_error>
 #include <thread>
 #include <utility>
+#include <vector>
 
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
@@ -22,8 +23,10 @@ PjtReply Unanswered(const PjtCommand& command) {
 }
 
 // A channel that throws has not answered.
-PjtReply Ask(ProjectorChannel& channel, const PjtCommand& command) {
+PjtReply Ask(ProjectorChannel& channel, const std::optional<std::vector<PjtCommand>>& announced,
+             const PjtCommand& command) {
   try {
+    if (announced) channel.Announce(*announced);
     return channel.Execute(command);
   } catch (...) {
     return Unanswered(command);
@@ -45,7 +48,7 @@ struct BoundedChannel::State {
   std::optional<PjtReply> WaitForReply();
   void RunEventLoop(Clock::time_point deadline);
 
-  const std::shared_ptr<ProjectorChannel> inner;
+  std::shared_ptr<ProjectorChannel> inner;  ///< The worker's own once there is a worker.
   const Limits limits;
   std::thread worker;
 
@@ -53,7 +56,8 @@ struct BoundedChannel::State {
   std::condition_variable commandGiven;
   std::condition_variable replyGiven;
   // All below under the mutex.
-  std::optional<PjtCommand> command;  ///< Given, and not yet taken by the worker.
+  std::optional<PjtCommand> command;                 ///< Given, and not yet taken by the worker.
+  std::optional<std::vector<PjtCommand>> announced;  ///< Likewise.
   std::optional<PjtReply> reply;
   bool outstanding = false;  ///< Given, and not yet back from the inner channel.
   bool awaited = false;      ///< Somebody waits for it.
@@ -66,10 +70,15 @@ void BoundedChannel::State::Work() {
   std::unique_lock lock(mutex);
   while (true) {
     commandGiven.wait(lock, [this] { return ended || command; });
-    if (ended) return;
+    if (ended) {
+      const auto last = std::exchange(inner, nullptr);
+      lock.unlock();
+      return;
+    }
     const PjtCommand taken = *std::exchange(command, std::nullopt);
+    const auto reads = std::exchange(announced, std::nullopt);
     lock.unlock();
-    const PjtReply answer = Ask(*inner, taken);
+    const PjtReply answer = Ask(*inner, reads, taken);
     lock.lock();
     outstanding = false;
     if (!awaited) continue;
@@ -134,10 +143,10 @@ BoundedChannel::~BoundedChannel() {
 PjtReply BoundedChannel::Execute(const PjtCommand& command) {
   // Events that run while we wait may destroy this object.
   const std::shared_ptr<State> state = state_;
-  if (!state->inner) return Unanswered(command);
   {
     const std::lock_guard lock(state->mutex);
-    if (state->ended || state->outstanding || state->awaited || Clock::now() < state->silentUntil) {
+    if (!state->inner || state->ended || state->outstanding || state->awaited ||
+        Clock::now() < state->silentUntil) {
       return Unanswered(command);
     }
     if (!state->worker.joinable()) {
@@ -158,4 +167,14 @@ PjtReply BoundedChannel::Execute(const PjtCommand& command) {
   const std::lock_guard lock(state->mutex);
   state->silentUntil = Clock::now() + state->limits.retryAfter;
   return reply.value_or(Unanswered(command));
+}
+
+void BoundedChannel::Announce(std::span<const PjtCommand> reads) {
+  const std::lock_guard lock(state_->mutex);
+  state_->announced.emplace(reads.begin(), reads.end());
+}
+
+ConnectionState BoundedChannel::Connection() const {
+  const std::lock_guard lock(state_->mutex);
+  return state_->inner ? state_->inner->Connection() : ConnectionState::None;
 }

@@ -268,3 +268,25 @@ std::optional<std::string> PjLinkChannel::Ask(char protocolClass, std::string_vi
   Drop(PjLink::SameWord(*text, PjLink::kWrongPassword) ? Link::WrongPassword : Link::NotUnderstood);
   return std::nullopt;
 }
+
+ConnectionState PjLinkChannel::Connection() const {
+  switch (link_) {
+    case Link::NotUsed:
+      return ConnectionState::Unused;
+    case Link::Connected:
+      return ConnectionState::Connected;
+    case Link::UnknownHost:
+      return ConnectionState::NameUnknown;
+    case Link::Unreachable:
+      return ConnectionState::NotReachable;
+    case Link::Silent:
+      return ConnectionState::NoAnswer;
+    case Link::Closed:
+      return ConnectionState::Lost;
+    case Link::NotUnderstood:
+      return ConnectionState::NotUnderstood;
+    case Link::WrongPassword:
+      return ConnectionState::PasswordRequired;
+  }
+  return ConnectionState::None;
+}

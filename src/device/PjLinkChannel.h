@@ -79,6 +79,8 @@ class ADVANCED_CONTROL_EXPORT PjLinkChannel : public ProjectorChannel {
   /// next.
   std::optional<PjLinkDescription> Describe();
 
+  ConnectionState Connection() const override;
+
   /// How the connection stands, from any thread.
   Link LinkState() const { return link_; }
   /// The same as an English sentence without its full stop.

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 
 #include "AdvancedControlExport.h"
+#include "device/ConnectionState.h"
 #include "device/PjtOperation.h"
 
 /// One command to the projector.
@@ -25,11 +27,18 @@ struct PjtReply {
 };
 
 /// The way to one projector: a real connection, a simulation, or a channel around a channel that
-/// logs, bounds or disturbs. Called from one thread at a time.
+/// logs, bounds or disturbs. Called from one thread at a time, `Connection` from any.
 class ADVANCED_CONTROL_EXPORT ProjectorChannel {
  public:
   virtual ~ProjectorChannel() = default;
 
   /// Blocks until the projector answered or the channel gave up. Never throws.
   virtual PjtReply Execute(const PjtCommand& command) = 0;
+
+  /// Says which reads are about to be executed, in this order, so that a channel may ask for all of
+  /// them at once. Binds nobody: any command may follow. Replaces what was announced before.
+  virtual void Announce(std::span<const PjtCommand>) {}
+
+  /// How the connection stands; of a channel that has none, `ConnectionState::None`.
+  virtual ConnectionState Connection() const { return ConnectionState::None; }
 };

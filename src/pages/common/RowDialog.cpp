@@ -226,6 +226,7 @@ void RowDialog::FillResets(int list) {
 
 void RowDialog::Refresh() {
   const Busy busy(this);
+  projector->Announce(Reads());
   for (std::size_t i = 0; i < bound_.size(); ++i) {
     if (!bound_[i].present) continue;
     std::visit([&](const auto& row) { Refresh(row, bound_[i]); }, table_.rows[i]);

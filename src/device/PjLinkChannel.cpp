@@ -15,6 +15,8 @@ namespace {
 using Op = PjtOperation;
 using Parameter = std::optional<std::string>;
 
+constexpr qint64 kReadBuffer = 512;  // more than any line
+
 enum class Class {
   First,
   Second,
@@ -194,10 +196,14 @@ bool PjLinkChannel::IsUsable() {
 }
 
 bool PjLinkChannel::Open() {
+  if (host_.empty() || port_ < 1 || port_ > UINT16_MAX) {
+    Drop(host_.empty() ? Link::UnknownHost : Link::Unreachable);
+    return false;
+  }
   const QDeadlineTimer deadline(limits_.connect);
   socket_ = std::make_unique<QTcpSocket>();
   socket_->setProxy(QNetworkProxy::NoProxy);
-  socket_->setReadBufferSize(static_cast<qint64>(2 * PjLink::kLongestInputs));
+  socket_->setReadBufferSize(kReadBuffer);
   socket_->connectToHost(QString::fromStdString(host_), static_cast<quint16>(port_));
   if (!socket_->waitForConnected(static_cast<int>(deadline.remainingTime()))) {
     Drop(socket_->error() == QAbstractSocket::HostNotFoundError ? Link::UnknownHost

@@ -43,9 +43,9 @@ QString UndoPath(const Arguments& arguments, const std::string& projector) {
 
 struct OutcomeList {
   Outcome outcome;
-  const char* member;  ///< Of the JSON.
-  const char* text;    ///< Of the summary, behind their number; none where the list is quiet.
-  const char* complaint;
+  const char* member;     ///< Of the JSON.
+  const char* text;       ///< Of the summary, behind their number; none where the list is quiet.
+  const char* complaint;  ///< In front of the keys; none where each has its own or none is due.
   int code;
 };
 
@@ -53,7 +53,7 @@ constexpr std::array<OutcomeList, 9> kLists{{
     {Outcome::Changed, "changed", "changed", nullptr, ExitCode::Done},
     {Outcome::Differs, "different", "different", nullptr, ExitCode::Done},
     {Outcome::AlreadySo, "alreadySo", "already so", nullptr, ExitCode::Done},
-    {Outcome::Refused, "refused", "refused", "refused", ExitCode::Refused},
+    {Outcome::Refused, "refused", "refused", nullptr, ExitCode::Refused},
     {Outcome::Unconfirmed, "unconfirmed", "unconfirmed", "sent, but not confirmed",
      ExitCode::NoAnswer},
     {Outcome::NotReached, "notDone", "not done", nullptr, ExitCode::Done},
@@ -101,23 +101,31 @@ QJsonObject Describe(const SettingTexts& texts, const RestoredSetting& restored)
   return json;
 }
 
-/// All lists for scripts, and what needs a person's eye.
+/// All lists for scripts, and what needs a person's eye: each refusal, and the rest by its reason.
 void Tell(const Work& work, const Restoration& restoration, Report& report) {
   std::map<QString, QJsonArray> lists;
+  std::array<std::string, kLists.size()> keys;
   for (const OutcomeList& list : kLists) lists[list.member];
   for (const RestoredSetting& restored : restoration.Settings()) {
     const OutcomeList& list = ListOf(restored.outcome);
     QJsonObject json = Describe(work.texts, restored);
-    if (list.complaint != nullptr) {
+    if (restored.outcome == Outcome::Refused) {
+      const std::string reason =
+          restored.now ? "refused, it is " + work.texts.Value(*restored.setting, *restored.now)
+                       : "it cannot be read now";
+      json["reason"] = Wide(reason);
+      report.Complain(restored.saved.key + ": " + reason, ExitCode::Refused);
+    } else if (list.complaint != nullptr) {
       json["reason"] = list.complaint;
-      std::string complaint = restored.saved.key + ": " + list.complaint;
-      if (restored.outcome == Outcome::Refused) {
-        complaint += restored.now ? ", it is " + work.texts.Value(*restored.setting, *restored.now)
-                                  : std::string(", it cannot be read now");
-      }
-      report.Complain(complaint, list.code);
+      std::string& same = keys[static_cast<std::size_t>(&list - kLists.data())];
+      same += (same.empty() ? "" : ", ") + restored.saved.key;
     }
     lists[list.member].append(json);
+  }
+  for (std::size_t i = 0; i < kLists.size(); ++i) {
+    if (!keys[i].empty()) {
+      report.Complain(std::string(kLists[i].complaint) + ": " + keys[i], kLists[i].code);
+    }
   }
   for (const auto& [member, list] : lists) report.json[member] = list;
 }

@@ -81,6 +81,8 @@ const std::vector<OptionForm>& Options() {
        [](A& a, Text text) { return TakeText(text, a.profiles); }},
       {"connect", "ADDRESS", "P tells only the model; the projector is at ADDRESS",
        [](A& a, Text text) { return TakeText(text, a.address); }},
+      {"password", "TEXT", "what the projector at ADDRESS asks for",
+       [](A& a, Text text) { return TakeText(text, a.password); }},
       {"json", "", "print JSON (docs/acctl.md)", [](A& a, Text) { return a.json = true; }},
       {"brief", "", "list, settings: names or keys alone, one a line",
        [](A& a, Text) { return a.brief = true; }},

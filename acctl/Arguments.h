@@ -30,6 +30,7 @@ struct Arguments {
 
   std::string profiles;                      ///< Empty for the file that comes with the program.
   std::string address;                       ///< Where the projector is, instead of its profile's.
+  std::string password;                      ///< That the projector at `address` asks for.
   std::vector<std::string> only;             ///< Patterns of keys; empty for all.
   std::string undoFolder;                    ///< Empty for the folder of `file`.
   std::optional<std::uint32_t> language;     ///< Of texts; the system's without.

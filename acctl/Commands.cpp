@@ -60,6 +60,7 @@ void ReadInto(const Work& work, ProjectorLink& link,
   const Progress progress = ProgressOf(work, link);
   Table table;
   QJsonArray values;
+  link.Settings().Announce(link.Connection(), settings);
   for (const ModelSetting* setting : settings) {
     if (!progress.goesOn()) break;
     if (const auto value = link.Settings().Read(link.Connection(), *setting)) {

@@ -15,6 +15,7 @@
 
 #include "acctl/Output.h"
 #include "acctl/Runner.h"
+#include "device/Connect.h"
 #include "i18n/Catalog.h"
 #include "i18n/SystemLanguage.h"
 
@@ -115,6 +116,16 @@ std::string ReadFile(const std::string& path, Snapshot& snapshot) {
   return {};
 }
 
+/// The projector's own simulation, or what is at the address that was given.
+std::shared_ptr<ProjectorChannel> ChannelTo(const ProjectorProfile& profile,
+                                            const Arguments& arguments) {
+  if (arguments.address.empty()) {
+    return std::make_shared<SimulatedProjector>(SimulatedModelOf(profile));
+  }
+  return MakeBlockingChannel(ParseAddress(arguments.address, arguments.password),
+                             arguments.timeOut);
+}
+
 using Run = Report (*)(const Work&, ProjectorLink&);
 
 Run RunOf(Command command) {
@@ -158,8 +169,7 @@ int RunOnProjectors(const Work& work, const std::vector<const ProjectorProfile*>
       static_cast<int>(projectors.size()), arguments.jobs, meter,
       [&](int number) {
         const ProjectorProfile& profile = *projectors[static_cast<std::size_t>(number)];
-        ProjectorLink link(profile,
-                           std::make_shared<SimulatedProjector>(SimulatedModelOf(profile)));
+        ProjectorLink link(profile, ChannelTo(profile, arguments));
         return run(work, link);
       },
       [&](int number, Report report) {
@@ -201,6 +211,10 @@ int Main(int argc, char* argv[]) {
   const bool takesOne = arguments.command == Command::Save || arguments.command == Command::Watch;
   if (projectors.size() > 1 && (takesOne || !arguments.address.empty())) {
     return Fail("this takes one projector, not " + std::to_string(projectors.size()));
+  }
+  if (const auto address = ParseAddress(arguments.address, arguments.password);
+      !arguments.address.empty() && std::holds_alternative<AddressError>(address)) {
+    return Fail("--connect: " + std::get<AddressError>(address).text);
   }
   const std::vector<std::string> folders = CatalogFolders();
   const SettingTexts texts(folders, arguments.language.value_or(SystemLanguageId()));

@@ -23,6 +23,8 @@ class PatientChannel : public ProjectorChannel {
   explicit PatientChannel(std::shared_ptr<ProjectorChannel> inner) : inner_(std::move(inner)) {}
 
   PjtReply Execute(const PjtCommand& command) override;
+  void Announce(std::span<const PjtCommand> reads) override { inner_->Announce(reads); }
+  ConnectionState Connection() const override { return inner_->Connection(); }
 
   bool IsGone() const { return gone_; }
   /// Whether the last command was answered.

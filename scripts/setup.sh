@@ -5,7 +5,7 @@ set -euo pipefail
 
 packages=(
   g++ cmake ninja-build
-  qt6-base-dev
+  qt6-base-dev qt6-serialport-dev
   libicu-dev
   binutils-mingw-w64-x86-64
   libgtest-dev libgmock-dev

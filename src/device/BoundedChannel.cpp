@@ -7,6 +7,7 @@
 #include <system_error>
 #include <thread>
 #include <utility>
+#include <vector>
 
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
@@ -22,8 +23,10 @@ PjtReply Unanswered(const PjtCommand& command) {
 }
 
 // A channel that throws has not answered.
-PjtReply Ask(ProjectorChannel& channel, const PjtCommand& command) {
+PjtReply Ask(ProjectorChannel& channel, const std::optional<std::vector<PjtCommand>>& announced,
+             const PjtCommand& command) {
   try {
+    if (announced) channel.Announce(*announced);
     return channel.Execute(command);
   } catch (...) {
     return Unanswered(command);
@@ -37,15 +40,15 @@ bool HasEventLoop() {
 }  // namespace
 
 /// Shared with the worker, which may outlive the channel object by one command.
-struct BoundedChannel::State {
-  State(std::shared_ptr<ProjectorChannel> channel, const Limits& bounds)
+struct BoundedChannel::Shared {
+  Shared(std::shared_ptr<ProjectorChannel> channel, const Limits& bounds)
       : inner(std::move(channel)), limits(bounds) {}
 
   void Work();
   std::optional<PjtReply> WaitForReply();
   void RunEventLoop(Clock::time_point deadline);
 
-  const std::shared_ptr<ProjectorChannel> inner;
+  std::shared_ptr<ProjectorChannel> inner;  ///< The worker's own once there is a worker.
   const Limits limits;
   std::thread worker;
 
@@ -53,7 +56,8 @@ struct BoundedChannel::State {
   std::condition_variable commandGiven;
   std::condition_variable replyGiven;
   // All below under the mutex.
-  std::optional<PjtCommand> command;  ///< Given, and not yet taken by the worker.
+  std::optional<PjtCommand> command;                 ///< Given, and not yet taken by the worker.
+  std::optional<std::vector<PjtCommand>> announced;  ///< Likewise.
   std::optional<PjtReply> reply;
   bool outstanding = false;  ///< Given, and not yet back from the inner channel.
   bool awaited = false;      ///< Somebody waits for it.
@@ -62,14 +66,19 @@ struct BoundedChannel::State {
   Clock::time_point silentUntil{};
 };
 
-void BoundedChannel::State::Work() {
+void BoundedChannel::Shared::Work() {
   std::unique_lock lock(mutex);
   while (true) {
     commandGiven.wait(lock, [this] { return ended || command; });
-    if (ended) return;
+    if (ended) {
+      const auto last = std::exchange(inner, nullptr);
+      lock.unlock();
+      return;
+    }
     const PjtCommand taken = *std::exchange(command, std::nullopt);
+    const auto reads = std::exchange(announced, std::nullopt);
     lock.unlock();
-    const PjtReply answer = Ask(*inner, taken);
+    const PjtReply answer = Ask(*inner, reads, taken);
     lock.lock();
     outstanding = false;
     if (!awaited) continue;
@@ -79,7 +88,7 @@ void BoundedChannel::State::Work() {
   }
 }
 
-void BoundedChannel::State::RunEventLoop(Clock::time_point deadline) {
+void BoundedChannel::Shared::RunEventLoop(Clock::time_point deadline) {
   QEventLoop eventLoop;
   {
     const std::lock_guard lock(mutex);
@@ -94,7 +103,7 @@ void BoundedChannel::State::RunEventLoop(Clock::time_point deadline) {
   loop = nullptr;
 }
 
-std::optional<PjtReply> BoundedChannel::State::WaitForReply() {
+std::optional<PjtReply> BoundedChannel::Shared::WaitForReply() {
   const Clock::time_point deadline = Clock::now() + limits.timeOut;
   const auto replied = [this] { return reply.has_value(); };
   std::unique_lock lock(mutex);
@@ -113,7 +122,7 @@ std::optional<PjtReply> BoundedChannel::State::WaitForReply() {
 }
 
 BoundedChannel::BoundedChannel(std::shared_ptr<ProjectorChannel> inner, const Limits& limits)
-    : state_(std::make_shared<State>(std::move(inner), limits)) {}
+    : state_(std::make_shared<Shared>(std::move(inner), limits)) {}
 
 BoundedChannel::~BoundedChannel() {
   bool returnsSoon = false;
@@ -133,11 +142,11 @@ BoundedChannel::~BoundedChannel() {
 
 PjtReply BoundedChannel::Execute(const PjtCommand& command) {
   // Events that run while we wait may destroy this object.
-  const std::shared_ptr<State> state = state_;
-  if (!state->inner) return Unanswered(command);
+  const std::shared_ptr<Shared> state = state_;
   {
     const std::lock_guard lock(state->mutex);
-    if (state->ended || state->outstanding || state->awaited || Clock::now() < state->silentUntil) {
+    if (!state->inner || state->ended || state->outstanding || state->awaited ||
+        Clock::now() < state->silentUntil) {
       return Unanswered(command);
     }
     if (!state->worker.joinable()) {
@@ -158,4 +167,14 @@ PjtReply BoundedChannel::Execute(const PjtCommand& command) {
   const std::lock_guard lock(state->mutex);
   state->silentUntil = Clock::now() + state->limits.retryAfter;
   return reply.value_or(Unanswered(command));
+}
+
+void BoundedChannel::Announce(std::span<const PjtCommand> reads) {
+  const std::lock_guard lock(state_->mutex);
+  state_->announced.emplace(reads.begin(), reads.end());
+}
+
+ConnectionState BoundedChannel::Connection() const {
+  const std::lock_guard lock(state_->mutex);
+  return state_->inner ? state_->inner->Connection() : ConnectionState::None;
 }

@@ -16,8 +16,10 @@
 /// over and the outstanding command has come back. So a projector that does not answer costs one
 /// time-out and not one per command.
 ///
+/// What is announced reaches the inner channel together with the next command.
+///
 /// Destroying the object does not wait for an outstanding command: the inner channel lives on until
-/// that command returns.
+/// that command returns. Unless somebody else holds it, it ends on the thread that it ran on.
 class ADVANCED_CONTROL_EXPORT BoundedChannel : public ProjectorChannel {
  public:
   struct Limits {
@@ -34,8 +36,10 @@ class ADVANCED_CONTROL_EXPORT BoundedChannel : public ProjectorChannel {
   BoundedChannel& operator=(const BoundedChannel&) = delete;
 
   PjtReply Execute(const PjtCommand& command) override;
+  void Announce(std::span<const PjtCommand> reads) override;
+  ConnectionState Connection() const override;
 
  private:
-  struct State;
-  std::shared_ptr<State> state_;
+  struct Shared;
+  std::shared_ptr<Shared> state_;
 };

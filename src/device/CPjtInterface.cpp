@@ -4,6 +4,7 @@
 #include <cstring>
 #include <utility>
 
+#include "device/Connect.h"
 #include "device/ModelData.h"
 
 namespace {
@@ -31,6 +32,11 @@ CPjtInterface::~CPjtInterface() = default;
 
 void CPjtInterface::SetChannel(std::shared_ptr<ProjectorChannel> channel) {
   channel_ = std::move(channel);
+  isHosts_ = channel_ != nullptr;
+}
+
+ConnectionState CPjtInterface::Connection() const {
+  return channel_ ? channel_->Connection() : ConnectionState::None;
 }
 
 void CPjtInterface::CopyData(int kind, int number, int parameter, const char* text1,
@@ -50,6 +56,9 @@ void CPjtInterface::CopyData(int kind, int number, int parameter, const char* te
     serial_.Port = number;
     serial_.BaudRate = parameter;
   }
+  if (isHosts_) return;
+  channel_ =
+      MakeChannel(ParseConnection({kind, number, parameter, connectionText1_, connectionText2_}));
 }
 
 int CPjtInterface::CopyAspectData(int count, const int* values) {
@@ -64,7 +73,7 @@ PjtReply CPjtInterface::Execute(const PjtCommand& command) const {
   // Held for the whole call: whoever runs while the channel waits may give this object another one.
   const std::shared_ptr<ProjectorChannel> channel = channel_;
   const PjtReply unanswered{.result = RefusedResult(command.operation), .answered = false};
-  if (!channel) return unanswered;
+  if (!channel || cutOff_) return unanswered;
   try {
     return channel->Execute(command);
   } catch (...) {  // a host's channel may do anything; the dialog's handlers know no exceptions
@@ -133,7 +142,7 @@ short CPjtInterface::ExecuteFor(const PjtCommand& command, short otherwise) cons
     return ExecuteFor({Op::name, 0, Word(channel), value}, value); \
   }
 #define PJT_FORM_Generic(name)
-#define PJT_OPERATION(name, family) PJT_FORM_##family(name)
+#define PJT_OPERATION(name, family, number) PJT_FORM_##family(name)
 #include "device/PjtOperations.def"
 
 short CPjtInterface::IncrementAutoPowerOff(short value) {

@@ -13,7 +13,8 @@
 /// The connection to one projector and every operation it offers.
 ///
 /// Each operation builds one `PjtCommand`, hands it to the channel and returns when the channel
-/// does. Copies share the channel. Without a channel every operation is refused. What each form of
+/// does. The channel is the host's, or else one of the object's own, made as the connection
+/// parameters say. Copies share it. Without a channel every operation is refused. What each form of
 /// operation takes and returns is listed with the forms below; a refused operation writes nothing
 /// through its pointer. Values are device values; the pages own every bias.
 class ADVANCED_CONTROL_EXPORT CPjtInterface {
@@ -23,13 +24,29 @@ class ADVANCED_CONTROL_EXPORT CPjtInterface {
   CPjtInterface& operator=(const CPjtInterface& other);
   ~CPjtInterface();
 
-  /// The way to the projector; may be null.
+  /// The host's way to the projector, which goes before the object's own, whenever it is set. Null
+  /// takes the channel away, until connection parameters are taken again.
   void SetChannel(std::shared_ptr<ProjectorChannel> channel);
   const std::shared_ptr<ProjectorChannel>& Channel() const { return channel_; }
 
-  /// Takes the connection parameters. Kind 1 is a network connection identified by `text1`; any
-  /// other is a serial one identified by `number`. A text ends at its first zero or after 64
-  /// characters; null is an empty text.
+  /// While cut off, every operation is refused and reaches no channel.
+  void CutOff(bool cutOff) { cutOff_ = cutOff; }
+
+  /// How the connection stands.
+  ConnectionState Connection() const;
+
+  /// Takes the connection parameters. A text ends at its first zero or after 64 characters; null is
+  /// an empty text.
+  ///
+  /// Unless the host has set a channel, the object connects by itself with its first command:
+  /// - Kind 1 is a network connection to the name or address `text1`, port `parameter`. On port
+  ///   4352, or where `parameter` is 0, it speaks PJLink with `text2` as the password; on any other
+  ///   port the wire of docs/wire.md. "pjlink://" or "tcp://" before the address says it outright.
+  /// - Any other kind is a serial connection with `parameter` bits per second, 0 for 19200, on the
+  ///   port `number`, which counts from 0 ("/dev/ttyS0"), or on the device whose path is `text1`.
+  ///
+  /// Parameters that name no connection leave every operation unanswered at once, and `Connection`
+  /// says so.
   void CopyData(int kind, int number, int parameter, const char* text1, const char* text2);
 
   /// Take the model's aspect and gamma device values, in list order. At most 32 are kept; a null
@@ -74,7 +91,7 @@ class ADVANCED_CONTROL_EXPORT CPjtInterface {
 #define PJT_FORM_PointGetter(name) short name(int point);  // 0 when the read fails.
 #define PJT_FORM_ChannelStepper(name) short name(int channel, short value);  // `value` if refused.
 #define PJT_FORM_Generic(name)
-#define PJT_OPERATION(name, family) PJT_FORM_##family(name)
+#define PJT_OPERATION(name, family, number) PJT_FORM_##family(name)
 #include "device/PjtOperations.def"
 #undef PJT_FORM_Action
 #undef PJT_FORM_CheckedReset
@@ -117,6 +134,8 @@ class ADVANCED_CONTROL_EXPORT CPjtInterface {
   short ExecuteFor(const PjtCommand& command, short otherwise) const;
 
   std::shared_ptr<ProjectorChannel> channel_;
+  bool isHosts_ = false;
+  bool cutOff_ = false;
   int connectionKind_ = 0;
   int connectionNumber_ = 0;
   int connectionParameter_ = 0;

@@ -20,6 +20,8 @@ class ADVANCED_CONTROL_EXPORT LoggingChannel : public ProjectorChannel {
       : inner_(std::move(inner)), observer_(std::move(observer)) {}
 
   PjtReply Execute(const PjtCommand& command) override;
+  void Announce(std::span<const PjtCommand> reads) override { inner_->Announce(reads); }
+  ConnectionState Connection() const override { return inner_->Connection(); }
 
  private:
   std::shared_ptr<ProjectorChannel> inner_;

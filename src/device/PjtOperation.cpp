@@ -8,10 +8,11 @@ namespace {
 struct Description {
   std::string_view name;
   OperationFamily family;
+  std::uint16_t number;
 };
 
 constexpr std::array<Description, kOperationCount> kDescriptions{{
-#define PJT_OPERATION(name, family) {#name, OperationFamily::family},
+#define PJT_OPERATION(name, family, number) {#name, OperationFamily::family, number},
 #include "device/PjtOperations.def"
 }};
 
@@ -19,14 +20,24 @@ const Description& Describe(PjtOperation operation) {
   return kDescriptions[static_cast<std::size_t>(operation)];
 }
 
+std::optional<PjtOperation> Find(const auto& key, auto member) {
+  const auto* found = std::ranges::find(kDescriptions, key, member);
+  if (found == kDescriptions.end()) return std::nullopt;
+  return static_cast<PjtOperation>(found - kDescriptions.begin());
+}
+
 }  // namespace
 
 std::string_view OperationName(PjtOperation operation) { return Describe(operation).name; }
 
 std::optional<PjtOperation> OperationByName(std::string_view name) {
-  const auto* found = std::ranges::find(kDescriptions, name, &Description::name);
-  if (found == kDescriptions.end()) return std::nullopt;
-  return static_cast<PjtOperation>(found - kDescriptions.begin());
+  return Find(name, &Description::name);
+}
+
+std::uint16_t OperationNumber(PjtOperation operation) { return Describe(operation).number; }
+
+std::optional<PjtOperation> OperationByNumber(std::uint16_t number) {
+  return Find(number, &Description::number);
 }
 
 OperationFamily FamilyOf(PjtOperation operation) { return Describe(operation).family; }

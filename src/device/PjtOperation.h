@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string_view>
 
@@ -8,7 +9,7 @@
 
 /// Every operation that the projector understands, named as `CPjtInterface` names it.
 enum class PjtOperation {
-#define PJT_OPERATION(name, family) name,
+#define PJT_OPERATION(name, family, number) name,
 #include "device/PjtOperations.def"
 };
 
@@ -38,7 +39,7 @@ enum class OperationFamily {
 
 /// Number of operations; their enumerators run from 0 to `kOperationCount` − 1.
 inline constexpr std::size_t kOperationCount = 0
-#define PJT_OPERATION(name, family) +1
+#define PJT_OPERATION(name, family, number) +1
 #include "device/PjtOperations.def"
     ;
 
@@ -47,6 +48,10 @@ ADVANCED_CONTROL_EXPORT std::string_view OperationName(PjtOperation operation);
 
 /// The operation of that name, or nothing.
 ADVANCED_CONTROL_EXPORT std::optional<PjtOperation> OperationByName(std::string_view name);
+
+/// The operation's number on the wire, 1 or above, and the operation of that number, or nothing.
+ADVANCED_CONTROL_EXPORT std::uint16_t OperationNumber(PjtOperation operation);
+ADVANCED_CONTROL_EXPORT std::optional<PjtOperation> OperationByNumber(std::uint16_t number);
 
 ADVANCED_CONTROL_EXPORT OperationFamily FamilyOf(PjtOperation operation);
 

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 
 #include "AdvancedControlExport.h"
+#include "device/ConnectionState.h"
 #include "device/PjtOperation.h"
 
 /// One command to the projector.
@@ -20,14 +22,23 @@ struct PjtReply {
   int result = 0;          ///< Success or refusal as the operation's family says (`IsSuccess`).
   std::int16_t value = 0;  ///< The value read or stepped to; meaningful only on success.
   bool answered = true;    ///< False when no answer came; `result` is then a refusal.
+  bool offered = true;  ///< False when it is known that the projector has no such setting at all;
+                        ///< `result` is then a refusal.
 };
 
 /// The way to one projector: a real connection, a simulation, or a channel around a channel that
-/// logs, bounds or disturbs. Called from one thread at a time.
+/// logs, bounds or disturbs. Called from one thread at a time, `Connection` from any.
 class ADVANCED_CONTROL_EXPORT ProjectorChannel {
  public:
   virtual ~ProjectorChannel() = default;
 
   /// Blocks until the projector answered or the channel gave up. Never throws.
   virtual PjtReply Execute(const PjtCommand& command) = 0;
+
+  /// Says which reads are about to be executed, in this order, so that a channel may ask for all of
+  /// them at once. Binds nobody: any command may follow. Replaces what was announced before.
+  virtual void Announce(std::span<const PjtCommand>) {}
+
+  /// How the connection stands; of a channel that has none, `ConnectionState::None`.
+  virtual ConnectionState Connection() const { return ConnectionState::None; }
 };

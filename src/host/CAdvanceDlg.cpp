@@ -192,9 +192,7 @@ void CAdvanceDlg::CopyData(const CProjectorItem* item) {
 
 bool CAdvanceDlg::OnInitDialog() {
   CDialog::OnInitDialog();
-  if (auto channel = std::exchange(cutOff_, nullptr); !projector_.Channel()) {
-    projector_.SetChannel(std::move(channel));
-  }
+  projector_.CutOff(false);
   savedResources_ = ResourceChain::SetCurrent(&AdvancedControlResources());
   OpenDialogs().push_back(this);
   LocalizeControlTexts(kCaptionCategory, *this);
@@ -305,10 +303,7 @@ CTabPage* CAdvanceDlg::SelectedPage() const {
 
 void CAdvanceDlg::OnSelchangeAdvanceTab() { DispTabScreen(); }
 
-void CAdvanceDlg::OnOrphaned() {
-  cutOff_ = projector_.Channel();
-  projector_.SetChannel(nullptr);
-}
+void CAdvanceDlg::OnOrphaned() { projector_.CutOff(true); }
 
 void CAdvanceDlg::OnDestroy() {
   CDialog::OnDestroy();

@@ -116,7 +116,6 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
   const ResourceModule* savedResources_ = nullptr;  // put back when the dialog closes
   ModelData model_;
   CPjtInterface projector_;
-  std::shared_ptr<ProjectorChannel> cutOff_;
   std::unique_ptr<Pages> pages_;
   bool hostOption_ = false;
   CTabCtrl* tabs_ = nullptr;

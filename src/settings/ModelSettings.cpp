@@ -142,6 +142,15 @@ const ModelSetting* ModelSettings::Find(std::string_view key) const {
   return found == settings_.end() ? nullptr : &*found;
 }
 
+void ModelSettings::Announce(CPjtInterface& projector,
+                             std::span<const ModelSetting* const> settings) const {
+  std::vector<PjtCommand> reads;
+  for (const ModelSetting* setting : settings) {
+    if (const auto call = ReadingOf(*setting->row, *model_)) reads.push_back(call->Command());
+  }
+  if (projector.Channel()) projector.Channel()->Announce(reads);
+}
+
 std::optional<int> ModelSettings::Read(CPjtInterface& projector,
                                        const ModelSetting& setting) const {
   const auto call = ReadingOf(*setting.row, *model_);

@@ -50,6 +50,9 @@ class ModelSettings {
   /// The setting of this key, or null.
   const ModelSetting* Find(std::string_view key) const;
 
+  /// Tells the connection what will be read next, in this order, so that it may ask for all at
+  /// once.
+  void Announce(CPjtInterface& projector, std::span<const ModelSetting* const> settings) const;
   /// The device value; nothing where the projector refuses it or does not answer.
   std::optional<int> Read(CPjtInterface& projector, const ModelSetting& setting) const;
   /// Sends a device value that the setting allows. `text` is the entry's text, which some

@@ -46,6 +46,8 @@ class ADVANCED_CONTROL_EXPORT FaultChannel : public ProjectorChannel {
   void Clear();
 
   PjtReply Execute(const PjtCommand& command) override;
+  void Announce(std::span<const PjtCommand> reads) override { inner_->Announce(reads); }
+  ConnectionState Connection() const override { return inner_->Connection(); }
 
  private:
   Fault FaultOf(const PjtCommand& command) const;

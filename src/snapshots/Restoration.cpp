@@ -37,6 +37,11 @@ Restoration::Restoration(const Snapshot& snapshot, const ModelSettings& model,
 }
 
 void Restoration::Read(const Progress& progress) {
+  std::vector<const ModelSetting*> asked;
+  for (const RestoredSetting& restored : settings_) {
+    if (restored.outcome == Outcome::NotReached) asked.push_back(restored.setting);
+  }
+  model_.Announce(connection_, asked);
   for (RestoredSetting& restored : settings_) {
     if (restored.outcome == Outcome::NotReached && progress.goesOn()) Read(restored, progress);
   }
@@ -85,6 +90,9 @@ void Restoration::Send(const SettingTexts& texts, const Progress& progress) {
 // Whatever a setter answers, the value read afterwards is what the projector has. Also after an
 // interruption, so that what is told is true.
 void Restoration::Confirm(const std::vector<RestoredSetting*>& sent, const Progress& progress) {
+  std::vector<const ModelSetting*> asked;
+  for (const RestoredSetting* restored : sent) asked.push_back(restored->setting);
+  model_.Announce(connection_, asked);
   for (RestoredSetting* restored : sent) {
     restored->now = model_.Read(connection_, *restored->setting);
     if (restored->now) {

@@ -95,8 +95,13 @@ Snapshot TakeSnapshot(const std::string& projector, const ModelSettings& setting
                       CPjtInterface& connection, const SettingTexts& texts,
                       const Progress& progress, std::vector<std::string>* unread) {
   Snapshot snapshot = EmptySnapshot(projector, settings.Model());
+  std::vector<const ModelSetting*> restorable;
   for (const ModelSetting& setting : settings.All()) {
-    if (!setting.Restorable()) continue;
+    if (setting.Restorable()) restorable.push_back(&setting);
+  }
+  settings.Announce(connection, restorable);
+  for (const ModelSetting* const entry : restorable) {
+    const ModelSetting& setting = *entry;
     if (!progress.goesOn()) break;
     if (const auto value = settings.Read(connection, setting)) {
       snapshot.settings.push_back({std::string(setting.key), *value, texts.Value(setting, *value)});

@@ -1,0 +1,120 @@
+#include "app/simulator/ServedProjectors.h"
+
+#include <utility>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include "app/simulator/PseudoTerminal.h"
+#include "device/ModelDataIntake.h"
+#include "simulator/SimulatedProjector.h"
+
+namespace {
+
+std::shared_ptr<FaultChannel> Simulate(const ProjectorProfile& profile) {
+  SimulatedModel model = DescribeModel(MakeModelData(profile.Model));
+  model.missing = {profile.Lacks.begin(), profile.Lacks.end()};
+  return std::make_shared<FaultChannel>(std::make_shared<SimulatedProjector>(std::move(model)));
+}
+
+PjLinkServer::Options PjLinkOptions(const ProjectorProfile& profile, const std::string& password) {
+  ServedProjector served;
+  served.inputs = InputsOf(profile.Model.MySourceList);
+  served.texts["NAME"] = profile.Name;
+  served.texts["INF2"] = profile.Model.ModelName;
+  return {.password = password, .served = std::move(served)};
+}
+
+}  // namespace
+
+ServedProjectors::ServedProjectors(const std::vector<ProjectorProfile>& profiles,
+                                   const ServiceOptions& options)
+    : options_(options) {
+  for (const ProjectorProfile& profile : profiles) {
+    if (!Serve(profile)) return;
+    SetFault(services_.size() - 1, options_.fault);
+  }
+}
+
+bool ServedProjectors::Serve(const ProjectorProfile& profile) {
+  Service service{.name = profile.Name, .channel = Simulate(profile), .wire = {}, .pjLink = {}};
+  const auto port = [this](std::size_t way) {
+    const std::size_t place = options_.firstPort + 2 * services_.size() + way;
+    return static_cast<std::uint16_t>(options_.firstPort == 0 ? 0 : place);
+  };
+  const auto cannot = [&](const QString& what) {
+    error_ = QString::fromStdString(profile.Name) + QStringLiteral(": ") + what;
+    return false;
+  };
+  service.wire = std::make_unique<WireServer>(service.channel);
+  service.wirePort = service.wire->Listen(options_.address, port(0));
+  if (service.wirePort == 0) {
+    return cannot(QStringLiteral("port %1: %2").arg(port(0)).arg(
+        QString::fromStdString(service.wire->ErrorText())));
+  }
+  service.pjLink = std::make_unique<PjLinkServer>(service.channel,
+                                                  PjLinkOptions(profile, options_.password));
+  if (!service.pjLink->Listen(options_.address.toString().toStdString(), port(1))) {
+    return cannot(QStringLiteral("port %1 cannot be had").arg(port(1)));
+  }
+  service.pjLinkPort = service.pjLink->Port();
+  if (options_.serial) {
+    auto terminal = std::make_unique<PseudoTerminal>();
+    if (!terminal->IsOpen()) return cannot(terminal->errorString());
+    service.terminal = terminal->Path();
+    service.wire->Serve(std::move(terminal));
+  }
+  services_.push_back(std::move(service));
+  return true;
+}
+
+std::string ServedProjectors::Addresses() const {
+  QString host = options_.address.toString();
+  if (host.contains(QLatin1Char(':'))) host = QLatin1Char('[') + host + QLatin1Char(']');
+  const std::string address = host.toStdString();
+  std::string lines;
+  for (const Service& service : services_) {
+    const std::string name = service.name + ": ";
+    lines += name + "tcp://" + address + ':' + std::to_string(service.wirePort) + '\n';
+    lines += name + "pjlink://" + address + ':' + std::to_string(service.pjLinkPort) + '\n';
+    if (!service.terminal.empty()) lines += name + "serial://" + service.terminal + '\n';
+  }
+  return lines;
+}
+
+QJsonObject ServedProjectors::NetworkConnection(int port, const std::string& password) const {
+  QJsonObject network{{"address", options_.address.toString()}, {"port", port}};
+  if (!password.empty()) network["secret"] = QString::fromStdString(password);
+  return {{"network", network}};
+}
+
+// Each projector over TCP, and once more for each of its other ways.
+QByteArray ServedProjectors::Profiles(const QByteArray& original) const {
+  QJsonObject file = QJsonDocument::fromJson(original).object();
+  QJsonArray entries;
+  for (const QJsonValue& value : file["projectors"].toArray()) {
+    QJsonObject entry = value.toObject();
+    const QString name = entry["name"].toString();
+    const auto service =
+        std::ranges::find(services_, name.toStdString(), &Service::name);
+    if (service == services_.end()) continue;
+    const auto add = [&](const QString& suffix, const char* link, const QJsonObject& connection) {
+      entry["name"] = name + suffix;
+      entry["link"] = QLatin1String(link);
+      entry["connection"] = connection;
+      entries.append(entry);
+    };
+    add({}, "network", NetworkConnection(service->wirePort, {}));
+    add(" (PJLink)", "pjlink", NetworkConnection(service->pjLinkPort, options_.password));
+    if (service->terminal.empty()) continue;
+    const QJsonObject serial{{"port", 1}, {"device", QString::fromStdString(service->terminal)}};
+    add(" (serial)", "serial", {{"serial", serial}});
+  }
+  file["projectors"] = entries;
+  return QJsonDocument(file).toJson();
+}
+
+void ServedProjectors::SetFault(std::size_t projector, const ServiceFault& fault) {
+  services_[projector].channel->SetFault(Fault{.kind = fault.projector});
+  services_[projector].wire->SetFault(fault.line);
+}

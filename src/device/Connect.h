@@ -1,0 +1,71 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <variant>
+
+#include "AdvancedControlExport.h"
+#include "device/ModelDataIntake.h"
+#include "device/ProjectorChannel.h"
+#include "device/WireFrame.h"
+
+/// A projector that speaks our wire (docs/wire.md) over TCP.
+struct TcpAddress {
+  std::string host;
+  std::uint16_t port = Wire::kDefaultPort;
+
+  friend bool operator==(const TcpAddress&, const TcpAddress&) = default;
+};
+
+/// A projector of any maker that speaks PJLink.
+struct PjLinkAddress {
+  static constexpr std::uint16_t kDefaultPort = 4352;
+
+  std::string host;
+  std::uint16_t port = kDefaultPort;
+  std::string password;  ///< Empty for none.
+
+  friend bool operator==(const PjLinkAddress&, const PjLinkAddress&) = default;
+};
+
+/// A projector that speaks our wire on a serial line.
+struct SerialAddress {
+  static constexpr std::int32_t kDefaultBaud = 19200;
+
+  std::string device;  ///< Path of the port.
+  std::int32_t baud = kDefaultBaud;
+
+  friend bool operator==(const SerialAddress&, const SerialAddress&) = default;
+};
+
+/// One English sentence, without its full stop, that says what is wrong with a connection's
+/// parameters.
+struct AddressError {
+  std::string text;
+
+  friend bool operator==(const AddressError&, const AddressError&) = default;
+};
+
+using ProjectorAddress = std::variant<AddressError, TcpAddress, PjLinkAddress, SerialAddress>;
+
+/// Reads connection parameters as `CPjtInterface::CopyData` takes them.
+ADVANCED_CONTROL_EXPORT ProjectorAddress ParseConnection(const ConnectionData& data);
+
+/// Reads an address as people write it: "tcp://HOST:PORT", "pjlink://HOST:PORT", "HOST:PORT",
+/// "serial:///dev/ttyUSB0?BAUD" or "/dev/ttyUSB0?BAUD". Ports and speed may be left out. Without a
+/// scheme, port 4352 and none stand for PJLink. An IPv6 address with a port stands in brackets.
+ADVANCED_CONTROL_EXPORT ProjectorAddress ParseAddress(std::string_view text,
+                                                      std::string_view password = {});
+
+/// A way to the projector that connects with the first command, behind a `BoundedChannel`. That of
+/// an `AddressError` leaves every command unanswered at once. Never null.
+ADVANCED_CONTROL_EXPORT std::shared_ptr<ProjectorChannel> MakeChannel(
+    const ProjectorAddress& address);
+
+/// The same without the `BoundedChannel`, for threads that may wait as long as the channel itself
+/// does: about `timeOut` for connecting and for an answer.
+ADVANCED_CONTROL_EXPORT std::shared_ptr<ProjectorChannel> MakeBlockingChannel(
+    const ProjectorAddress& address, std::chrono::milliseconds timeOut);

@@ -1,0 +1,286 @@
+#include "device/PjLinkChannel.h"
+
+#include <algorithm>
+#include <array>
+
+#include <QDeadlineTimer>
+#include <QNetworkProxy>
+#include <QTcpSocket>
+
+#include "device/CommandCode.h"
+#include "device/PjLinkLine.h"
+
+namespace {
+
+using Op = PjtOperation;
+using Parameter = std::optional<std::string>;
+
+enum class Class {
+  First,
+  Second,
+  Either,  ///< In both, with more values in the second.
+};
+
+/// One operation as PJLink has it.
+struct Mapping {
+  Op operation;
+  std::uint16_t code;
+  std::string_view command;
+  Class protocolClass;
+  Parameter (*parameter)(int value);  ///< Nothing when there is no such value.
+  std::optional<int> (*value)(std::string_view) = nullptr;  ///< Of reads.
+};
+
+template <char on, char off>
+Parameter OneOf(int value) {
+  return value == 0 ? Parameter{{off}} : value == 1 ? Parameter{{on}} : std::nullopt;
+}
+
+template <char part>
+Parameter PartMuted(int value) {
+  const Parameter state = OneOf<'1', '0'>(value);
+  return state ? Parameter{part + *state} : std::nullopt;
+}
+
+Parameter Query(int) { return std::string(PjLink::kQuery); }
+Parameter On(int) { return "1"; }
+Parameter Off(int) { return "0"; }
+
+constexpr auto kFreezeOrRun = OneOf<'1', '0'>;
+constexpr auto kPictureMuted = PartMuted<'1'>;
+constexpr auto kSoundMuted = PartMuted<'2'>;
+
+constexpr Mapping kMappings[] = {
+    {Op::Get, CommandCode::RunningState, "POWR", Class::First, Query, PjLink::PowerStatus},
+    {Op::SetPowerOn, 0, "POWR", Class::First, On},
+    {Op::SetPowerOff, 0, "POWR", Class::First, Off},
+    {Op::Get, CommandCode::InputSource, "INPT", Class::Either, Query, PjLink::InputNumber},
+    {Op::GetInputSource, 0, "INPT", Class::Either, Query, PjLink::InputNumber},
+    {Op::Set, CommandCode::InputSource, "INPT", Class::Either, PjLink::InputCode},
+    {Op::Get, CommandCode::ErrorStatus, "ERST", Class::First, Query, PjLink::ErrorStatus},
+    {Op::Get, CommandCode::BlankState, "AVMT", Class::First, Query, PjLink::Blank},
+    {Op::SetBlank, 0, "AVMT", Class::First, kPictureMuted},
+    {Op::Set, CommandCode::BlankState, "AVMT", Class::First, kPictureMuted},
+    {Op::Get, CommandCode::Mute, "AVMT", Class::First, Query, PjLink::Mute},
+    {Op::SetMute, 0, "AVMT", Class::First, kSoundMuted},
+    {Op::Set, CommandCode::Mute, "AVMT", Class::First, kSoundMuted},
+    {Op::Get, CommandCode::Freeze, "FREZ", Class::Second, Query, PjLink::Switch},
+    {Op::SetFreeze, 0, "FREZ", Class::Second, kFreezeOrRun},
+    {Op::Set, CommandCode::Freeze, "FREZ", Class::Second, kFreezeOrRun},
+    {Op::Inc, CommandCode::Volume, "SVOL", Class::Second, On},
+    {Op::Dec, CommandCode::Volume, "SVOL", Class::Second, Off},
+    {Op::Get, CommandCode::LampTime, "LAMP", Class::First, Query, PjLink::LampHours},
+    {Op::Get, CommandCode::FilterTime, "FILT", Class::Second, Query, PjLink::Hours},
+};
+
+const Mapping* Find(const PjtCommand& command) {
+  const auto* const found = std::ranges::find_if(kMappings, [&](const Mapping& mapping) {
+    return mapping.operation == command.operation && mapping.code == command.code;
+  });
+  return found == std::end(kMappings) ? nullptr : found;
+}
+
+bool IsError(std::string_view answer) {
+  return answer.size() == 4 && PjLink::SameWord(answer.substr(0, 3), "ERR");
+}
+
+std::string NameByCode(std::string_view code) {
+  constexpr std::array kKinds{"RGB", "Video", "Digital", "Storage", "Network", "Internal"};
+  return std::string(kKinds.at(static_cast<std::size_t>(code[0] - '1'))) + ' ' + code[1];
+}
+
+}  // namespace
+
+SourceList SourcesOf(const std::vector<PjLinkInput>& inputs) {
+  SourceList sources;
+  for (const PjLinkInput& input : inputs) {
+    if (sources.count == SourceList::kCapacity) break;
+    const auto next = static_cast<std::size_t>(sources.count++);
+    sources.names[next] = MakeNameSlot(input.name);
+    sources.firstValues[next] = input.number;
+    sources.secondValues[next] = input.number;
+  }
+  return sources;
+}
+
+PjLinkChannel::PjLinkChannel(std::string host, int port, std::string password, const Limits& limits)
+    : host_(std::move(host)), port_(port), password_(std::move(password)), limits_(limits) {}
+
+PjLinkChannel::~PjLinkChannel() = default;
+
+std::string PjLinkChannel::State() const {
+  switch (link_) {
+    case Link::NotUsed:
+      return "Not connected";
+    case Link::Connected:
+      return "Connected";
+    case Link::UnknownHost:
+      return "No projector has this name or address";
+    case Link::Unreachable:
+      return "The projector cannot be reached";
+    case Link::Silent:
+      return "The projector does not answer";
+    case Link::Closed:
+      return "The projector closed the connection";
+    case Link::NotUnderstood:
+      return "What answers is not understood";
+    case Link::WrongPassword:
+      return password_.empty() ? "The projector wants a password" : "The password is wrong";
+  }
+  return {};
+}
+
+PjtReply PjLinkChannel::Execute(const PjtCommand& command) {
+  const int refused = RefusedResult(command.operation);
+  const Mapping* const mapping = Find(command);
+  if (!mapping) return {.result = refused, .offered = false};
+  const Parameter parameter = mapping->parameter(command.first);
+  if (!parameter) return {.result = refused};
+
+  const auto ask = [&]() -> std::optional<std::string> {
+    if (!Connect()) return std::nullopt;
+    if (mapping->protocolClass == Class::First) return Ask('1', mapping->command, *parameter);
+    if (mapping->protocolClass == Class::Second && projectorClass_ == '1') {
+      return std::string(PjLink::kUndefined);
+    }
+    return Ask(projectorClass_, mapping->command, *parameter);
+  };
+  const bool reused = IsUsable();
+  Parameter answer = ask();
+  const bool isRead = mapping->value != nullptr;
+  if (!answer && reused && isRead && link_ == Link::Closed) answer = ask();
+  if (!answer) return {.result = refused, .answered = false};
+
+  if (PjLink::SameWord(*answer, PjLink::kUndefined)) return {.result = refused, .offered = false};
+  const std::optional<int> value = isRead ? mapping->value(*answer)
+                                   : PjLink::SameWord(*answer, PjLink::kDone) ? std::optional(0)
+                                                                              : std::nullopt;
+  if (!value) return {.result = refused};
+  return {.result = AcceptedResult(command.operation), .value = static_cast<std::int16_t>(*value)};
+}
+
+std::optional<PjLinkDescription> PjLinkChannel::Describe() {
+  if (!Connect()) return std::nullopt;
+  const char inputClass = projectorClass_;
+  bool answered = true;
+  const auto text = [&](char protocolClass, std::string_view command,
+                        std::string_view parameter = PjLink::kQuery) {
+    if (!answered) return std::string();
+    const auto answer = Ask(protocolClass, command, parameter);
+    answered = answer.has_value();
+    return answer && !IsError(*answer) ? *answer : std::string();
+  };
+  PjLinkDescription description{.protocolClass = projectorClass_ - '0',
+                                .name = text('1', "NAME"),
+                                .maker = text('1', "INF1"),
+                                .product = text('1', "INF2"),
+                                .inputs = {}};
+  const auto codes = PjLink::InputCodes(text(inputClass, "INST"));
+  for (const std::string& code : codes.value_or(std::vector<std::string>())) {
+    std::string name;
+    if (inputClass != '1') name = text(inputClass, "INNM", std::string(PjLink::kQuery) + code);
+    description.inputs.push_back({.number = *PjLink::InputNumber(code),
+                                  .name = name.empty() ? NameByCode(code) : std::move(name)});
+  }
+  if (!answered) return std::nullopt;
+  Drop(Link::NotUsed);
+  return description;
+}
+
+/// Whether the connection stands, and nothing came that nobody asked for.
+bool PjLinkChannel::IsUsable() {
+  return socket_ && !socket_->waitForReadyRead(0) && socket_->bytesAvailable() == 0 &&
+         socket_->state() == QAbstractSocket::ConnectedState;
+}
+
+bool PjLinkChannel::Open() {
+  const QDeadlineTimer deadline(limits_.connect);
+  socket_ = std::make_unique<QTcpSocket>();
+  socket_->setProxy(QNetworkProxy::NoProxy);
+  socket_->setReadBufferSize(static_cast<qint64>(2 * PjLink::kLongestInputs));
+  socket_->connectToHost(QString::fromStdString(host_), static_cast<quint16>(port_));
+  if (!socket_->waitForConnected(static_cast<int>(deadline.remainingTime()))) {
+    Drop(socket_->error() == QAbstractSocket::HostNotFoundError ? Link::UnknownHost
+                                                                : Link::Unreachable);
+    return false;
+  }
+  const auto greeting = ReadLine(PjLink::kLongestLine, deadline);
+  if (!greeting) return false;
+  const auto seed = PjLink::ParseGreeting(*greeting);
+  if (!seed) {
+    Drop(Link::NotUnderstood);
+    return false;
+  }
+  proof_ = seed->empty() ? std::string() : PjLink::Digest(*seed, password_);
+  const auto answer = Ask('1', "CLSS", PjLink::kQuery);
+  if (!answer) return false;
+  projectorClass_ = *answer == "2" ? '2' : '1';
+  link_ = Link::Connected;
+  return true;
+}
+
+void PjLinkChannel::Drop(Link reason) {
+  socket_.reset();
+  link_ = reason;
+}
+
+std::optional<std::string> PjLinkChannel::ReadLine(std::size_t longest,
+                                                   const QDeadlineTimer& deadline) {
+  while (true) {
+    const QByteArray seen = socket_->peek(static_cast<qint64>(longest));
+    const auto end = seen.indexOf('\r');
+    if (end >= 0) {
+      socket_->skip(end + 1);
+      return seen.left(end).toStdString();
+    }
+    if (static_cast<std::size_t>(seen.size()) == longest) {
+      Drop(Link::NotUnderstood);
+      return std::nullopt;
+    }
+    if (!socket_->waitForReadyRead(static_cast<int>(deadline.remainingTime()))) {
+      Drop(socket_->state() == QAbstractSocket::ConnectedState ? Link::Silent : Link::Closed);
+      return std::nullopt;
+    }
+  }
+}
+
+/// The parameter of the reply, `OK` and errors included. The connection must be usable; nothing
+/// when it is not any more.
+std::optional<std::string> PjLinkChannel::Ask(char protocolClass, std::string_view command,
+                                              std::string_view parameter) {
+  const PjLink::Line request{protocolClass, std::string(command), ' ', std::string(parameter)};
+  const std::string bytes = std::exchange(proof_, {}) + PjLink::Format(request) + '\r';
+  socket_->write(bytes.data(), static_cast<qint64>(bytes.size()));
+  const auto text = ReadLine(command == "INST" ? PjLink::kLongestInputs : PjLink::kLongestLine,
+                             QDeadlineTimer(limits_.answer));
+  if (!text) return std::nullopt;
+  const auto reply = PjLink::Parse(*text);
+  if (reply && reply->separator == '=' && reply->protocolClass == protocolClass &&
+      PjLink::SameWord(reply->command, command)) {
+    return reply->parameter;
+  }
+  Drop(PjLink::SameWord(*text, PjLink::kWrongPassword) ? Link::WrongPassword : Link::NotUnderstood);
+  return std::nullopt;
+}
+
+ConnectionState PjLinkChannel::Connection() const {
+  switch (link_) {
+    case Link::NotUsed:
+      return ConnectionState::Unused;
+    case Link::Connected:
+      return ConnectionState::Connected;
+    case Link::UnknownHost:
+      return ConnectionState::NameUnknown;
+    case Link::Unreachable:
+      return ConnectionState::NotReachable;
+    case Link::Silent:
+      return ConnectionState::NoAnswer;
+    case Link::Closed:
+      return ConnectionState::Lost;
+    case Link::NotUnderstood:
+      return ConnectionState::NotUnderstood;
+    case Link::WrongPassword:
+      return ConnectionState::PasswordRequired;
+  }
+  return ConnectionState::None;
+}

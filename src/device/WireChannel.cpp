@@ -1,0 +1,169 @@
+#include "device/WireChannel.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include <QDeadlineTimer>
+#include <QIODevice>
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr std::size_t kMaximumBurst = 64;
+constexpr int kIdlePieces = 64;  // taken of what came while nothing was asked
+
+int Rest(const QDeadlineTimer& deadline) { return static_cast<int>(deadline.remainingTime()); }
+
+}  // namespace
+
+WireChannel::WireChannel(Medium medium, const Limits& limits) : medium_(medium), limits_(limits) {}
+
+WireChannel::~WireChannel() = default;
+
+PjtReply WireChannel::Execute(const PjtCommand& command) {
+  const PjtReply unanswered{.result = RefusedResult(command.operation), .answered = false};
+  if (!IsRead(command.operation)) {
+    announced_.clear();
+    sent_.clear();
+  } else if (Clock::now() - lastSent_ > limits_.answer) {
+    sent_.clear();
+  }
+  if (!Connect()) return unanswered;
+  const auto reply = Ask(command);
+  if (!reply) return unanswered;
+  state_ = ConnectionState::Connected;
+  switch (reply->status) {
+    case Wire::Status::Answered:
+      return {.result = reply->result, .value = reply->value};
+    case Wire::Status::UnknownOperation:
+      return {.result = unanswered.result};
+    default:
+      return unanswered;
+  }
+}
+
+void WireChannel::Announce(std::span<const PjtCommand> reads) {
+  announced_.clear();
+  sent_.clear();
+  if (medium_ == Medium::Noisy) return;
+  std::ranges::copy_if(reads, std::back_inserter(announced_), IsRead, &PjtCommand::operation);
+}
+
+bool WireChannel::Connect() {
+  // Late replies may lie there, or the end of the connection.
+  for (int i = 0; line_ && i < kIdlePieces; ++i) {
+    const Arrival arrival = Receive(QDeadlineTimer(0));
+    if (arrival == Arrival::Late) return true;
+    if (arrival != Arrival::Bytes) line_.reset();
+  }
+  sent_.clear();
+  decoder_ = {};
+  welcome_.reset();
+  state_ = ConnectionState::Connecting;
+  const QDeadlineTimer deadline(limits_.connect);
+  auto problem = ConnectionState::NotReachable;
+  line_ = Open(deadline, problem);
+  if (!line_) return Fail(problem);
+
+  std::string bytes;
+  Wire::Append(bytes, {.sequence = ++sequence_, .message = Wire::Hello{}});
+  const auto welcomed = [this] { return welcome_.has_value(); };
+  if (!Write(bytes, deadline) || !Await(welcomed, deadline)) return false;
+  return welcome_->version == Wire::kVersion || Fail(ConnectionState::OtherVersion);
+}
+
+std::optional<Wire::Reply> WireChannel::Ask(const PjtCommand& command) {
+  const QDeadlineTimer deadline(limits_.answer);
+  auto own = std::ranges::find(sent_, command, &Sent::command);
+  if (own == sent_.end()) {
+    std::string bytes;
+    const auto announced = std::ranges::find(announced_, command);
+    if (announced == announced_.end()) {
+      Send({&command, 1}, bytes);
+      // Before the rest of a burst, whose replies still count.
+      sent_.push_front(sent_.back());
+      sent_.pop_back();
+    } else {
+      sent_.clear();
+      const std::size_t count = std::min<std::size_t>(
+          kMaximumBurst, static_cast<std::size_t>(announced_.end() - announced));
+      Send({&*announced, count}, bytes);
+      announced_.erase(announced_.begin(), announced + static_cast<std::ptrdiff_t>(count));
+      lastSent_ = Clock::now();
+    }
+    if (!Write(bytes, deadline)) return std::nullopt;
+    own = sent_.begin();
+  }
+  sent_.erase(sent_.begin(), own);  // passed over
+  const auto answered = [this] { return sent_.front().reply.has_value(); };
+  if (!Await(answered, deadline)) return std::nullopt;
+  const auto reply = sent_.front().reply;
+  sent_.pop_front();
+  return reply;
+}
+
+void WireChannel::Send(std::span<const PjtCommand> commands, std::string& bytes) {
+  for (const PjtCommand& command : commands) {
+    Wire::Append(bytes, {.sequence = ++sequence_, .message = Wire::MakeRequest(command)});
+    sent_.push_back({command, sequence_, {}});
+  }
+}
+
+bool WireChannel::Write(const std::string& bytes, const QDeadlineTimer& deadline) {
+  const auto size = static_cast<qint64>(bytes.size());
+  if (line_->write(bytes.data(), size) != size) return Fail(ConnectionState::Lost);
+  while (line_->bytesToWrite() > 0) {
+    if (line_->waitForBytesWritten(Rest(deadline))) continue;
+    return Fail(IsAlive(*line_) ? ConnectionState::NoAnswer : ConnectionState::Lost);
+  }
+  return true;
+}
+
+bool WireChannel::Await(const auto& arrived, const QDeadlineTimer& deadline) {
+  while (!arrived()) {
+    switch (deadline.hasExpired() ? Arrival::Late : Receive(deadline)) {
+      case Arrival::Bytes:
+        break;
+      case Arrival::Late:
+        return Fail(ConnectionState::NoAnswer);
+      case Arrival::Broken:
+        return Fail(ConnectionState::Lost);
+      case Arrival::Strange:
+        return Fail(ConnectionState::NotUnderstood);
+    }
+  }
+  return true;
+}
+
+WireChannel::Arrival WireChannel::Receive(const QDeadlineTimer& deadline) {
+  if (line_->bytesAvailable() == 0 && !line_->waitForReadyRead(Rest(deadline)) &&
+      line_->bytesAvailable() == 0) {
+    return IsAlive(*line_) ? Arrival::Late : Arrival::Broken;
+  }
+  std::array<char, 4096> piece;
+  const qint64 size = line_->read(piece.data(), piece.size());
+  if (size <= 0) return Arrival::Broken;
+  decoder_.Add({piece.data(), static_cast<std::size_t>(size)});
+  while (const auto frame = decoder_.Next()) Take(*frame);
+  const bool strange = medium_ == Medium::Reliable && decoder_.Skipped() > 0;
+  return strange ? Arrival::Strange : Arrival::Bytes;
+}
+
+// What belongs to no request, or comes a second time, is nobody's.
+void WireChannel::Take(const Wire::Frame& frame) {
+  if (const auto* welcome = std::get_if<Wire::Welcome>(&frame.message)) {
+    if (frame.sequence == sequence_ && !welcome_) welcome_ = *welcome;
+  } else if (const auto* reply = std::get_if<Wire::Reply>(&frame.message)) {
+    const auto sent = std::ranges::find(sent_, frame.sequence, &Sent::sequence);
+    if (sent != sent_.end() && !sent->reply) sent->reply = *reply;
+  }
+}
+
+bool WireChannel::Fail(ConnectionState problem) {
+  line_.reset();
+  sent_.clear();
+  state_ = problem;
+  return false;
+}

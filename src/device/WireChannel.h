@@ -1,0 +1,89 @@
+#pragma once
+
+#include <atomic>
+#include <chrono>
+#include <cstdint>
+#include <deque>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "AdvancedControlExport.h"
+#include "device/ProjectorChannel.h"
+#include "device/WireFrame.h"
+
+class QDeadlineTimer;
+class QIODevice;
+
+/// A projector at the other end of a line that carries the frames of docs/wire.md.
+///
+/// Connects when the first command is given, and again with the next command after the connection
+/// was lost. A command whose reply does not come in time, or during which the connection breaks, is
+/// unanswered and was sent at most once; its reply is nobody's if it comes later. All commands come
+/// from one thread, as those behind a `BoundedChannel` do.
+class ADVANCED_CONTROL_EXPORT WireChannel : public ProjectorChannel {
+ public:
+  struct Limits {
+    std::chrono::milliseconds connect{1500};  ///< Until the projector has welcomed us.
+    std::chrono::milliseconds answer{1500};
+  };
+
+  ~WireChannel() override;
+  WireChannel(const WireChannel&) = delete;
+  WireChannel& operator=(const WireChannel&) = delete;
+
+  PjtReply Execute(const PjtCommand& command) override;
+
+  /// The reads go out in one burst when the first of them is executed. A reply counts for its own
+  /// command in the order announced, as long as no change came in between and it is no older than
+  /// the time for answering.
+  void Announce(std::span<const PjtCommand> reads) override;
+
+  ConnectionState Connection() const override { return state_; }
+
+ protected:
+  enum class Medium {
+    Reliable,  ///< Bytes that are no frame show that no projector is there.
+    Noisy,     ///< Such bytes are skipped, and reads are asked for one at a time.
+  };
+
+  WireChannel(Medium medium, const Limits& limits);
+
+  /// A line that is open for reading and writing, or null; `problem` then says why.
+  virtual std::unique_ptr<QIODevice> Open(const QDeadlineTimer& deadline,
+                                          ConnectionState& problem) = 0;
+  /// Whether a line from `Open` can still be used.
+  virtual bool IsAlive(QIODevice& line) const = 0;
+
+ private:
+  /// A request on its way, and its reply once it is there.
+  struct Sent {
+    PjtCommand command;
+    std::uint16_t sequence;
+    std::optional<Wire::Reply> reply;
+  };
+  enum class Arrival { Bytes, Late, Broken, Strange };
+
+  bool Connect();
+  std::optional<Wire::Reply> Ask(const PjtCommand& command);
+  void Send(std::span<const PjtCommand> commands, std::string& bytes);
+  bool Write(const std::string& bytes, const QDeadlineTimer& deadline);
+  /// Receives until `arrived`; false, and the connection is gone, if that does not come to pass.
+  bool Await(const auto& arrived, const QDeadlineTimer& deadline);
+  Arrival Receive(const QDeadlineTimer& deadline);
+  void Take(const Wire::Frame& frame);
+  bool Fail(ConnectionState problem);
+
+  const Medium medium_;
+  const Limits limits_;
+  std::atomic<ConnectionState> state_ = ConnectionState::Unused;
+  std::unique_ptr<QIODevice> line_;
+  Wire::Decoder decoder_;
+  std::uint16_t sequence_ = 0;  ///< Of the last frame sent.
+  std::optional<Wire::Welcome> welcome_;
+  std::vector<PjtCommand> announced_;  ///< Not sent yet.
+  std::deque<Sent> sent_;
+  std::chrono::steady_clock::time_point lastSent_{};
+};

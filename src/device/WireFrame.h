@@ -1,0 +1,93 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
+
+#include "AdvancedControlExport.h"
+#include "device/ProjectorChannel.h"
+
+/// The frames in which a program and a projector talk over TCP and over serial lines; docs/wire.md
+/// says every byte. Bytes are held in `std::string`s.
+namespace Wire {
+
+inline constexpr std::uint8_t kVersion = 1;
+inline constexpr std::uint16_t kDefaultPort = 7240;
+inline constexpr std::size_t kMaximumFrame = 16;
+
+/// The versions that the program speaks.
+struct Hello {
+  std::uint8_t lowest = kVersion;
+  std::uint8_t highest = kVersion;
+
+  friend bool operator==(const Hello&, const Hello&) = default;
+};
+
+/// The version that the projector chose; 0 for none.
+struct Welcome {
+  std::uint8_t version = kVersion;
+
+  friend bool operator==(const Welcome&, const Welcome&) = default;
+};
+
+struct Request {
+  std::uint16_t operation = 0;  ///< Its number, known here or not.
+  std::uint16_t code = 0;
+  std::int16_t first = 0;
+  std::int16_t second = 0;
+
+  friend bool operator==(const Request&, const Request&) = default;
+};
+
+enum class Status : std::uint8_t {
+  Answered = 0,  ///< `result` and `value` are the projector's; a refusal is among them.
+  UnknownOperation = 1,
+  Unanswered = 2,  ///< The projector's inside did not answer.
+  NoHello = 3,     ///< A request came before the versions were settled.
+};
+
+struct Reply {
+  Status status = Status::Answered;
+  std::int32_t result = 0;
+  std::int16_t value = 0;
+
+  friend bool operator==(const Reply&, const Reply&) = default;
+};
+
+/// A reply bears the sequence number of its request, a welcome that of its hello.
+struct Frame {
+  std::uint16_t sequence = 0;
+  std::variant<Hello, Welcome, Request, Reply> message;
+
+  friend bool operator==(const Frame&, const Frame&) = default;
+};
+
+/// Puts the frame's bytes, at most `kMaximumFrame`, behind `bytes`.
+ADVANCED_CONTROL_EXPORT void Append(std::string& bytes, const Frame& frame);
+
+ADVANCED_CONTROL_EXPORT Request MakeRequest(const PjtCommand& command);
+/// Nothing where no operation has that number.
+ADVANCED_CONTROL_EXPORT std::optional<PjtCommand> MakeCommand(const Request& request);
+
+/// Finds frames in bytes that arrive in pieces of any size. What is no frame is skipped byte by
+/// byte, so that a frame behind noise is found.
+class ADVANCED_CONTROL_EXPORT Decoder {
+ public:
+  void Add(std::string_view bytes) { bytes_.append(bytes); }
+
+  /// The next frame, or nothing as long as none is complete. Afterwards fewer bytes are held than
+  /// the longest frame has.
+  std::optional<Frame> Next();
+
+  /// Number of bytes skipped so far.
+  std::size_t Skipped() const { return skipped_; }
+
+ private:
+  std::string bytes_;
+  std::size_t skipped_ = 0;
+};
+
+}  // namespace Wire

@@ -1,0 +1,82 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "AdvancedControlExport.h"
+#include "device/ModelData.h"
+#include "device/ProjectorChannel.h"
+
+/// An input as PJLink shows it.
+struct ServedInput {
+  std::string code;         ///< Two characters: kind 1..6, then 1..9 or, in class 2, A..Z.
+  std::int16_t source = 0;  ///< Its input source number on the projector.
+  std::string name;         ///< UTF-8, up to 128 bytes.
+};
+
+/// The sources of a model, as its first digital inputs, then network inputs.
+ADVANCED_CONTROL_EXPORT std::vector<ServedInput> InputsOf(const SourceList& sources);
+
+/// What a projector is that is shown over PJLink.
+struct ServedProjector {
+  int protocolClass = 2;  ///< 1 or 2.
+  std::vector<ServedInput> inputs;
+  /// What the commands that yield a text answer; UTF-8, cut where the standard bounds it.
+  std::map<std::string, std::string, std::less<>> texts{
+      {"NAME", "Simulated projector"},
+      {"INF1", "Advanced Control"},
+      {"INF2", "Simulation"},
+      {"INFO", ""},
+      {"SNUM", "1"},
+      {"SVER", "1.0"},
+      {"IRES", "1024x768"},
+      {"RRES", "1024x768"},
+      {"RLMP", ""},
+      {"RFIL", ""},
+  };
+};
+
+/// Answers PJLink requests on behalf of a projector.
+class ADVANCED_CONTROL_EXPORT PjLinkResponder {
+ public:
+  PjLinkResponder(std::shared_ptr<ProjectorChannel> projector, ServedProjector served);
+  ~PjLinkResponder();
+
+  /// The reply to a request, without its end of line; nothing when `text` is no request.
+  std::optional<std::string> Answer(std::string_view text);
+
+ private:
+  struct Command;
+  static const Command kCommands[];
+
+  template <typename Format>
+  std::string Report(std::uint16_t code, Format format);
+  std::string Change(const PjtCommand& command);
+  bool IsOn();
+  std::string Perform(char protocolClass, std::string_view name, std::string_view parameter);
+  std::optional<std::string> Text(char protocolClass, std::string_view name) const;
+
+  std::string Power();
+  std::string SetPower(std::string_view parameter);
+  std::string Input();
+  std::string SetInput(std::string_view code);
+  std::string Muted();
+  std::string SetMuted(std::string_view parameter);
+  std::string Errors();
+  std::string Lamp();
+  std::string Inputs();
+  std::string ProtocolClass();
+  std::string Frozen();
+  std::string SetFrozen(std::string_view parameter);
+  std::string StepVolume(std::string_view parameter);
+  std::string Filter();
+  std::string InputName(std::string_view code) const;
+
+  const std::shared_ptr<ProjectorChannel> projector_;
+  const ServedProjector served_;
+};

@@ -1,0 +1,148 @@
+#include "simulator/PjLinkServer.h"
+
+#include <cstdint>
+#include <string_view>
+#include <utility>
+
+#include <QHostAddress>
+#include <QRandomGenerator>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTimer>
+
+#include "device/PjLinkLine.h"
+
+namespace {
+
+/// A first request comes with a digest before it.
+constexpr std::size_t kLongestRequest = PjLink::kDigestLength + PjLink::kLongestLine;
+/// Replies that a client may leave unread.
+constexpr qint64 kMostUnread = 64 * 1024;
+
+std::string NewSeed() {
+  constexpr int kDigits = 8;
+  constexpr int kHexadecimal = 16;
+  return QString::number(QRandomGenerator::global()->generate(), kHexadecimal)
+      .rightJustified(kDigits, QLatin1Char('0'))
+      .toStdString();
+}
+
+/// Bounds what a client can make its socket hold, also while it waits to be served.
+class BoundedServer final : public QTcpServer {
+ protected:
+  void incomingConnection(qintptr descriptor) override {
+    auto* const socket = new QTcpSocket(this);
+    socket->setReadBufferSize(static_cast<qint64>(2 * kLongestRequest));
+    socket->setSocketDescriptor(descriptor);
+    addPendingConnection(socket);
+  }
+};
+
+/// One connection, as long as its socket lives.
+class Session final : public QObject {
+ public:
+  Session(QTcpSocket& socket, const PjLinkServer::Options& options, PjLinkResponder& responder)
+      : QObject(&socket), socket_(socket), responder_(responder) {
+    std::string seed;
+    if (!options.password.empty()) {
+      seed = NewSeed();
+      wantedProof_ = PjLink::Digest(seed, options.password);
+    }
+    connect(&idle_, &QTimer::timeout, this, [this] { socket_.abort(); });
+    connect(&socket, &QTcpSocket::readyRead, this, &Session::AnswerAll);
+    idle_.start(options.idle);
+    Send(PjLink::FormatGreeting(seed));
+    AnswerAll();
+  }
+
+ private:
+  void AnswerAll() {
+    while (socket_.state() == QAbstractSocket::ConnectedState && AnswerNext()) idle_.start();
+  }
+
+  bool AnswerNext() {
+    const auto longest = static_cast<qint64>(wantedProof_.size() + PjLink::kLongestLine);
+    const QByteArray seen = socket_.peek(longest);
+    const auto end = seen.indexOf('\r');
+    if (end < 0) {
+      if (seen.size() == longest) socket_.abort();
+      return false;
+    }
+    const std::string line = socket_.read(end + 1).chopped(1).toStdString();
+    if (!line.starts_with(wantedProof_)) {
+      Send(PjLink::kWrongPassword);
+      socket_.disconnectFromHost();
+      return false;
+    }
+    const auto answer = responder_.Answer(line.substr(wantedProof_.size()));
+    wantedProof_.clear();
+    if (answer) {
+      Send(*answer);
+    } else {
+      socket_.disconnectFromHost();
+    }
+    return answer.has_value();
+  }
+
+  void Send(std::string_view line) {
+    socket_.write(line.data(), static_cast<qint64>(line.size()));
+    socket_.write("\r");
+    if (socket_.bytesToWrite() > kMostUnread) socket_.abort();
+  }
+
+  QTcpSocket& socket_;
+  PjLinkResponder& responder_;
+  QTimer idle_;
+  std::string wantedProof_;  ///< Before the next request; empty once given, or without password.
+};
+
+}  // namespace
+
+struct PjLinkServer::State {
+  State(std::shared_ptr<ProjectorChannel> projector, Options&& given)
+      : options(std::move(given)), responder(std::move(projector), options.served) {
+    QObject::connect(&server, &QTcpServer::newConnection, &server, [this] { ServeWaiting(); });
+  }
+
+  void ServeWaiting();
+
+  const Options options;
+  PjLinkResponder responder;
+  std::size_t served = 0;
+  BoundedServer server;  // the first to go, with its sockets, which use the others
+};
+
+void PjLinkServer::State::ServeWaiting() {
+  while (served < options.connections && server.hasPendingConnections()) {
+    QTcpSocket* const socket = server.nextPendingConnection();
+    if (socket->state() != QAbstractSocket::ConnectedState) {  // left while it waited
+      socket->deleteLater();
+      continue;
+    }
+    ++served;
+    QObject::connect(socket, &QTcpSocket::disconnected, &server, [this, socket] {
+      --served;
+      socket->deleteLater();
+      ServeWaiting();
+    });
+    new Session(*socket, options, responder);
+  }
+}
+
+PjLinkServer::PjLinkServer(std::shared_ptr<ProjectorChannel> projector, Options options)
+    : state_(std::make_unique<State>(std::move(projector), std::move(options))) {}
+
+PjLinkServer::~PjLinkServer() = default;
+
+bool PjLinkServer::Listen(const std::string& address, int port) {
+  const QHostAddress host(QString::fromStdString(address));
+  return !host.isNull() && port >= 0 && port <= UINT16_MAX &&
+         state_->server.listen(host, static_cast<quint16>(port));
+}
+
+int PjLinkServer::Port() const { return state_->server.serverPort(); }
+
+void PjLinkServer::Close() {
+  state_->server.close();
+  for (QTcpSocket* const socket : state_->server.findChildren<QTcpSocket*>()) socket->abort();
+}

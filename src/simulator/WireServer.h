@@ -1,0 +1,76 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "AdvancedControlExport.h"
+#include "device/ProjectorChannel.h"
+#include "device/WireFrame.h"
+
+class QHostAddress;
+class QIODevice;
+
+/// The projector's end of one connection: takes the bytes that come in and makes those that go out.
+class ADVANCED_CONTROL_EXPORT WireResponder {
+ public:
+  explicit WireResponder(ProjectorChannel& projector) : projector_(projector) {}
+
+  /// The frames that answer what is complete by now; empty when nothing is.
+  std::string Receive(std::string_view bytes);
+
+  /// Whether a program has said hello in a version that we speak.
+  bool IsGreeted() const { return greeted_; }
+
+ private:
+  Wire::Reply Answer(const Wire::Request& request);
+
+  ProjectorChannel& projector_;
+  Wire::Decoder decoder_;
+  bool greeted_ = false;
+};
+
+/// What goes wrong with the replies of a server, whatever the projector answers.
+struct LineFault {
+  enum class Kind {
+    None,
+    Silent,   ///< Nothing is sent.
+    Late,     ///< Each reply is sent after `amount` milliseconds.
+    Cut,      ///< The connection is closed after `amount` bytes of the next reply.
+    Garbage,  ///< Replies are replaced by other bytes.
+    Trickle,  ///< Replies are sent byte by byte.
+  };
+
+  Kind kind = Kind::None;
+  int amount = 0;
+
+  friend bool operator==(const LineFault&, const LineFault&) = default;
+};
+
+/// Serves one projector over our wire: on a TCP port, and on lines that are handed over. Lives on a
+/// thread with an event loop; the projector should answer at once.
+class ADVANCED_CONTROL_EXPORT WireServer {
+ public:
+  static constexpr int kMaximumConnections = 8;  ///< Of the port; further ones are closed at once.
+
+  explicit WireServer(std::shared_ptr<ProjectorChannel> projector);
+  ~WireServer();
+  WireServer(const WireServer&) = delete;
+  WireServer& operator=(const WireServer&) = delete;
+
+  /// Listens; `port` 0 takes a free one. The port, or 0 when it cannot be had; `ErrorText` then says
+  /// why.
+  std::uint16_t Listen(const QHostAddress& address, std::uint16_t port);
+  std::string ErrorText() const;
+
+  /// Serves an open line until it closes. Takes it over.
+  void Serve(std::unique_ptr<QIODevice> line);
+
+  void SetFault(const LineFault& fault);
+
+ private:
+  struct Parts;
+  std::unique_ptr<Parts> parts_;
+};

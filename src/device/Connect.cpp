@@ -144,7 +144,7 @@ std::shared_ptr<ProjectorChannel> MakeChannel(const ProjectorAddress& address) {
 std::shared_ptr<ProjectorChannel> MakeBlockingChannel(const ProjectorAddress& address,
                                                       std::chrono::milliseconds timeOut) {
   const ChannelMaker maker{.wire = {.connect = timeOut, .answer = timeOut},
-                           .pjLink = {.connect = timeOut, .reply = timeOut}};
+                           .pjLink = {.connect = timeOut, .answer = timeOut}};
   auto channel = std::visit(maker, address);
   if (!channel) return std::make_shared<NoProjector>();
   return channel;

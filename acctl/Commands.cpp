@@ -231,10 +231,9 @@ Report RunSet(const Work& work, ProjectorLink& link) {
   for (const Change& change : changes) {
     if (!progress.goesOn()) break;
     Make(change, work, link, report);
-    settings.push_back(change.setting);
+    if (change.setting->readable) settings.push_back(change.setting);
     progress.step();
   }
-  std::erase_if(settings, [](const ModelSetting* setting) { return !setting->readable; });
   ReadInto(work, link, settings, report);
   return report;
 }

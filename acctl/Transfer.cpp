@@ -6,22 +6,13 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
-#include <QSaveFile>
 
 #include "acctl/Commands.h"
 #include "acctl/Output.h"
+#include "app/WholeFile.h"
 #include "snapshots/Restoration.h"
 
 namespace {
-
-/// Writes a file as a whole or not at all; an error as one line.
-std::string WriteFile(const QString& path, const QByteArray& bytes) {
-  QSaveFile file(path);
-  if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit()) {
-    return {};
-  }
-  return "cannot write " + path.toStdString() + ": " + file.errorString().toStdString();
-}
 
 /// A file name that nobody has yet: an older undo is not lost when the work is done again.
 QString UndoPath(const Arguments& arguments, const std::string& projector) {
@@ -180,8 +171,8 @@ Report RunSave(const Work& work, ProjectorLink& link) {
     report.json = QJsonObject();
     return report;
   }
-  if (std::string error = WriteFile(Wide(work.arguments.file), bytes); !error.empty()) {
-    report.Complain(std::move(error), ExitCode::Refused);
+  if (const QString error = WriteWholeFile(Wide(work.arguments.file), bytes); !error.isEmpty()) {
+    report.Complain(error.toStdString(), ExitCode::Refused);
     return report;
   }
   const auto count = static_cast<int>(snapshot.settings.size());
@@ -209,8 +200,8 @@ Report RunApply(const Work& work, ProjectorLink& link) {
   if (progress.goesOn() && restoration.Count(Outcome::Differs) > 0) {
     const QString undo = UndoPath(work.arguments, link.Name());
     const QByteArray bytes = WriteSnapshot(restoration.Undo(link.Name(), work.texts));
-    if (std::string error = WriteFile(undo, bytes); !error.empty()) {
-      report.Complain(error + "; nothing was sent", ExitCode::Refused);
+    if (const QString error = WriteWholeFile(undo, bytes); !error.isEmpty()) {
+      report.Complain(error.toStdString() + "; nothing was sent", ExitCode::Refused);
     } else {
       report.json["undo"] = undo;
       restoration.Send(work.texts, progress);

@@ -2,35 +2,15 @@
 
 #include <array>
 
-#include <QDateTime>
-#include <QDir>
-#include <QFileInfo>
 #include <QJsonArray>
 
 #include "acctl/Commands.h"
 #include "acctl/Output.h"
+#include "app/SettingsFile.h"
 #include "app/WholeFile.h"
 #include "snapshots/Restoration.h"
 
 namespace {
-
-/// A file name that nobody has yet: an older undo is not lost when the work is done again.
-QString UndoPath(const Arguments& arguments, const std::string& projector) {
-  const QFileInfo file(Wide(arguments.file));
-  const QDir folder(arguments.undoFolder.empty() ? file.path() : Wide(arguments.undoFolder));
-  QString name = Wide(projector);
-  for (QChar& character : name) {
-    if (!character.isLetterOrNumber() && character != '-') character = '_';
-  }
-  const QString base = (arguments.file == "-" ? QString() : file.completeBaseName() + '.') +
-                       QStringLiteral("undo.") + name.left(64) + '.' +
-                       QDateTime::currentDateTimeUtc().toString("yyyyMMdd'T'HHmmss'Z'");
-  QString path = folder.filePath(base + ".json");
-  for (int i = 2; QFileInfo::exists(path); ++i) {
-    path = folder.filePath(base + QStringLiteral("-%1.json").arg(i));
-  }
-  return path;
-}
 
 struct OutcomeList {
   Outcome outcome;
@@ -198,7 +178,8 @@ Report RunApply(const Work& work, ProjectorLink& link) {
   Restoration restoration = Restoring(work, link);
   restoration.Read(progress);
   if (progress.goesOn() && restoration.Count(Outcome::Differs) > 0) {
-    const QString undo = UndoPath(work.arguments, link.Name());
+    const QString undo =
+        UndoPath(Wide(work.arguments.file), Wide(work.arguments.undoFolder), link.Name());
     const QByteArray bytes = WriteSnapshot(restoration.Undo(link.Name(), work.texts));
     if (const QString error = WriteWholeFile(undo, bytes); !error.isEmpty()) {
       report.Complain(error.toStdString() + "; nothing was sent", ExitCode::Refused);

@@ -3,18 +3,17 @@
 #include <csignal>
 #include <cstdio>
 #include <exception>
-#include <fcntl.h>
 #include <unistd.h>
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 
 #include "acctl/Output.h"
 #include "acctl/Runner.h"
+#include "app/SettingsFile.h"
 #include "device/Connect.h"
 #include "i18n/Catalog.h"
 #include "i18n/SystemLanguage.h"
@@ -96,23 +95,6 @@ std::string Choose(const std::vector<std::string>& names,
     }
     if (!found) return "there is no projector '" + name + "'; acctl list names all";
   }
-  return {};
-}
-
-std::string ReadFile(const std::string& path, Snapshot& snapshot) {
-  QFile file;
-  bool open = false;
-  if (path == "-") {
-    open = file.open(stdin, QIODevice::ReadOnly);
-  } else {
-    file.setFileName(Wide(path));
-    open = file.open(QIODevice::ReadOnly);
-  }
-  if (!open) return "cannot read " + path + ": " + file.errorString().toStdString();
-  constexpr qint64 kMost = (qint64{4} << 20) + 1;
-  SnapshotContents contents = ReadSnapshot(file.read(kMost));
-  if (!contents.error.isEmpty()) return path + ": " + contents.error.toStdString();
-  snapshot = std::move(contents.snapshot);
   return {};
 }
 
@@ -224,8 +206,9 @@ int Main(int argc, char* argv[]) {
             .isInterrupted = [] { return receivedSignal != 0; },
             .step = [] {}};
   if (arguments.command == Command::Diff || arguments.command == Command::Apply) {
-    const std::string wrong = ReadFile(arguments.file, work.file.emplace());
-    if (!wrong.empty()) return Fail(wrong);
+    SnapshotContents contents = ReadSettingsFile(Wide(arguments.file));
+    if (!contents.error.isEmpty()) return Fail(contents.error.toStdString());
+    work.file = std::move(contents.snapshot);
   }
   WatchSignals();
   return RunOnProjectors(work, projectors);

@@ -24,6 +24,8 @@ class ProjectorSession {
   ProjectorSession(ProjectorProfile profile, LoggingChannel::Observer observer);
 
   const ProjectorProfile& Profile() const { return profile_; }
+  /// The way to the projector that dialogs take, too.
+  const std::shared_ptr<ProjectorChannel>& Channel() const { return channel_; }
   SimulatedProjector& Simulator() { return *simulator_; }
 
   /// `Fault::Kind::None` takes the fault back.

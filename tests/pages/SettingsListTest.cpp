@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "app/ProjectorLink.h"
+#include "device/ModelDataIntake.h"
 #include "i18n/SystemLanguage.h"
 #include "pages/input/CServiceDlg.h"
 #include "pages/picture/CColorDlg.h"

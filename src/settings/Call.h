@@ -51,3 +51,8 @@ constexpr Call AnyResult(Call call) {
   call.anyResult = true;
   return call;
 }
+/// The same call for an input source.
+constexpr Call At(Call call, int source) {
+  call.address = static_cast<std::int16_t>(source);
+  return call;
+}

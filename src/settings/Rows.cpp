@@ -65,7 +65,25 @@ std::optional<Call> ReadingOf(const PageRow& row, const ModelData& model) {
   }
   if (const auto* value = std::get_if<ValueRow>(&row)) return value->Reading();
   if (const auto* check = std::get_if<CheckRow>(&row)) return check->read;
-  if (const auto* own = std::get_if<OwnRow>(&row)) return own->read;
+  if (const auto* state = std::get_if<StateRow>(&row)) return state->read;
+  return {};
+}
+
+OfSource SourceOf(const PageRow& row) {
+  if (const auto* list = std::get_if<ListRow>(&row)) return list->of;
+  const auto* value = std::get_if<ValueRow>(&row);
+  return value != nullptr ? value->of : OfSource::None;
+}
+
+std::optional<Call> ResetOf(const PageTable& table, const PageRow& row) {
+  const auto* value = std::get_if<ValueRow>(&row);
+  if (value != nullptr && value->reset.button != 0) return value->reset.call;
+  for (const PageRow& other : table.rows) {
+    const auto* resets = std::get_if<ResetRow>(&other);
+    if (resets == nullptr) continue;
+    const auto found = std::ranges::find(resets->entries, ControlOf(row), &ResetEntry::of);
+    if (found != resets->entries.end()) return Named(found->operation);
+  }
   return {};
 }
 

@@ -14,8 +14,18 @@
 
 // The kinds of rows that a page's table is made of. A row tells what a setting is called, how it is
 // read, sent and stepped, and by which numbered controls a dialog shows it; no widget is needed to
-// use it. `key` is the setting's stable name, unique within a model; `caption` is its number in the
-// caption category of the catalog.
+// use it (see RowUse.h). `key` is the setting's stable name, unique within a model; `caption` is
+// its number in the caption category of the catalog.
+//
+//   kind      read  changed          values                     may be sent again later
+//   ListRow   yes   SendRow          the entries'               yes, where it is read and sent
+//   ValueRow  yes   SendRow, Step    SliderRange, with a bias   yes, where it has a slider
+//   CheckRow  yes   SendRow          0 and 1                    yes
+//   StateRow  yes   SendRow, if it   the entries' texts         no: what the projector does now
+//                   is a switch
+//   ActionRow       its call         positions of its entries   no
+//   ResetRow        its entries      see ResetOf                no
+//   PopUpRow        -                -                          no: a button of the page alone
 
 /// What a list shows for a value that it has no entry for.
 enum class NoEntry : std::uint8_t {
@@ -23,6 +33,19 @@ enum class NoEntry : std::uint8_t {
   Keeps,       ///< The selection stays.
   IsPosition,  ///< The value is taken for the position.
   Ignored,     ///< As if it had not been read: the list's state stays as well.
+  IsOrdinal,   ///< The value is taken for the position counted from 1.
+};
+
+/// The input source that a setting belongs to, which has a value of its own for each. The source is
+/// asked for afresh before the setting is read or changed, once for all rows that are read
+/// together.
+enum class OfSource : std::uint8_t {
+  None,
+  /// The current input. While it is unknown a step goes to source 0, and a slider is refused.
+  Current,
+  /// The source that is heard: the current input, or the standby source of models that have one and
+  /// do not run. While it is unknown nothing is changed.
+  Playing,
 };
 
 /// What follows when the projector refuses a choice.
@@ -56,6 +79,16 @@ struct ListRow {
   std::optional<Call> send{};  ///< None: the list is shown and a choice goes nowhere.
   ListRules rules{};
   Presence on{};
+  OfSource of = OfSource::None;
+
+  // The calls, for the source that the row belongs to.
+  constexpr std::optional<Call> Reading(int source) const { return For(source, read); }
+  constexpr std::optional<Call> Sending(int source) const { return For(source, send); }
+
+ private:
+  constexpr std::optional<Call> For(int source, const std::optional<Call>& call) const {
+    return call && of != OfSource::None ? At(*call, source) : call;
+  }
 };
 
 /// Controls of a value row; 0 for one that it does not have.
@@ -67,15 +100,32 @@ struct ValueIds {
 enum class RefusedDrag : std::uint8_t {
   Told,      ///< The row's text, and the slider goes back to the last value known.
   GoesBack,  ///< Only the latter.
+  Empties,   ///< The slider goes back, and the field is emptied.
   Stays,     ///< Nothing: the slider stays, and the field keeps the old value.
 };
 
 /// No bounds of − and + on our side.
 inline constexpr Range kUnbounded{-0x10000, 0x10000};
 
+/// When a row remembers the device value where it otherwise would the shown one. Deliberate: a
+/// slider always remembers its position, and a refused one goes back to what was remembered last.
+enum class DeviceMemory : std::uint8_t { Never, OfSteps, OfStepsAndReads };
+
+/// The button that resets one row. The value read then is shown, unless it lies below the row's own
+/// range, but not remembered.
+struct RowReset {
+  int button = 0;
+  Call call{};
+  Call read{};
+};
+
 /// A setting with a number: slider with − and +, or a field with two arrow buttons. Shown values
 /// are device values − `bias`. A step is sent only inside the bounds, and the value then read back;
 /// a refused one puts the slider back and is told with `error`, unless that is 0.
+///
+/// Some steppers answer with the new value. Those that take the present one read it first or, by
+/// channel, take the shown value remembered; what the latter leave as it was they have refused, and
+/// nobody is told.
 struct ValueRow {
   static constexpr int kNoRangeText = -1;
 
@@ -88,20 +138,30 @@ struct ValueRow {
   int rangeText = kNoRangeText;             ///< `RangeIndex` of the model's own slider range.
   PerModel<Range> range{};                  ///< Shown values; of the slider where there is no text.
   std::optional<PerModel<Range>> bounds{};  ///< Shown values, of − and +; else the slider's range.
-  int ticks = 1;
-  std::optional<int> initial{};  ///< Taken for the last value known until there is one.
+  int ticks = 1;                            ///< 0 is an eighth of the slider's maximum.
+  std::optional<int> initial{};  ///< Shown and taken for the last value known until there is one.
   RefusedDrag refusedDrag = RefusedDrag::Told;
   int error = 0;
-  bool greysField = false;  ///< A failed read takes the field out of use as well.
+  bool greysField = false;         ///< A failed read takes the field out of use as well.
+  bool failedReadDisables = true;  ///< Else it only empties the field.
+  DeviceMemory deviceMemory = DeviceMemory::Never;
+  OfSource of = OfSource::None;
+  RowReset reset{};
   Presence on{};
 
-  constexpr Call Reading() const { return read.value_or(Get(code)); }
-  constexpr Call Setting() const { return set.value_or(Set(code)); }
-  constexpr Call Stepping(bool upwards) const {
-    return upwards ? up.value_or(Inc(code)) : down.value_or(Dec(code));
+  // The calls, for the source that the row belongs to.
+  constexpr Call Reading(int source = 0) const { return For(source, read.value_or(Get(code))); }
+  constexpr Call Setting(int source = 0) const { return For(source, set.value_or(Set(code))); }
+  constexpr Call Stepping(bool upwards, int source = 0) const {
+    return For(source, upwards ? up.value_or(Inc(code)) : down.value_or(Dec(code)));
   }
   /// The control by which the row is found.
   constexpr int Control() const { return ids.slider != 0 ? ids.slider : ids.field; }
+
+ private:
+  constexpr Call For(int source, const Call& call) const {
+    return of == OfSource::None ? call : At(call, source);
+  }
 };
 
 /// A switch with a check box; a refused change is read back.
@@ -114,8 +174,27 @@ struct CheckRow {
   Presence on{};
 };
 
+/// A state of the projector, shown as a text.
+struct StateRow {
+  std::string_view key;
+  int caption = 0;
+  int control = 0;
+  Call read{};
+  Entries texts{};
+  int otherwise = 0;  ///< Text of any other value, which is its insert; 0 for an empty one.
+  int frame = 0;      ///< Text that the state's own is put into; 0 for none.
+  std::optional<Call> turnOff{}, turnOn{};  ///< Of a state that is a switch.
+  Presence on{};
+};
+
 /// When a page reads itself again after an action.
-enum class Rereads : std::uint8_t { Never, WhenDone, Always };
+enum class Rereads : std::uint8_t {
+  Never,
+  WhenDone,
+  Always,
+  /// When done, only the value row that was reset, which does not remember what it shows then.
+  ItsRow,
+};
 
 /// A button that makes the projector do something.
 struct ActionRow {
@@ -146,16 +225,15 @@ struct ResetRow {
   Rereads rereads = Rereads::WhenDone;
 };
 
-/// A row whose mechanics are its page's own; the table tells its place and what reads it.
-struct OwnRow {
+/// A button that opens a pop-up, which its page does.
+struct PopUpRow {
   std::string_view key;
   int caption = 0;
   int control = 0;
-  std::optional<Call> read{};
   Presence on{};
 };
 
-using PageRow = std::variant<ListRow, ValueRow, CheckRow, ActionRow, ResetRow, OwnRow>;
+using PageRow = std::variant<ListRow, ValueRow, CheckRow, StateRow, ActionRow, ResetRow, PopUpRow>;
 
 /// What a page shows for a model that its table of models does not list.
 enum class Unlisted : std::uint8_t {
@@ -185,8 +263,14 @@ ADVANCED_CONTROL_EXPORT bool KeepsTemplate(const PageTable& table, int modelCode
 /// Whether a model has the row at an index of the table.
 ADVANCED_CONTROL_EXPORT bool Has(const PageTable& table, std::size_t row, int modelCode);
 
-/// How a row is read in the model's present state; nothing for one that shows no setting.
+/// How a row is read in the model's present state; nothing for one that shows no setting. For a row
+/// of an input source the source is still to be told: `ReadRow` asks for it.
 ADVANCED_CONTROL_EXPORT std::optional<Call> ReadingOf(const PageRow& row, const ModelData& model);
+
+/// The input source that a row belongs to.
+ADVANCED_CONTROL_EXPORT OfSource SourceOf(const PageRow& row);
+/// How a row of the table is reset by itself; nothing for one that has no reset of its own.
+ADVANCED_CONTROL_EXPORT std::optional<Call> ResetOf(const PageTable& table, const PageRow& row);
 
 /// The slider's range for a model, in shown values.
 ADVANCED_CONTROL_EXPORT Range SliderRange(const ValueRow& row, const ModelData& model);

@@ -84,9 +84,14 @@ constexpr ActionRow AutoAdjust(std::string_view key, int button, Rereads rereads
 }
 
 // The rows of every other page.
-/// The button that turns the projector on; its page does the rest.
-constexpr OwnRow Power(int button) {
-  return {"other.power", 4200, button, Get(CommandCode::RunningState)};
+/// Running states; any other is standby.
+inline constexpr int kRunning = 1;
+inline constexpr int kCoolingDown = 2;
+inline constexpr ListEntry kPowers[] = {{ListText::On, kRunning}, {ListText::PowerCoolingDown, kCoolingDown}};
+/// Whether the projector runs, and the commands of the buttons beside, which are their page's.
+constexpr StateRow Power(int label) {
+  return {.key = "other.power", .caption = 4200, .control = label, .read = Get(CommandCode::RunningState), .texts = kPowers, .otherwise = ListText::Off,
+          .turnOff = Named(Op::SetPowerOff), .turnOn = Named(Op::SetPowerOn)};
 }
 constexpr ListRow InputSource(int list) {
   return {"other.input-source", 146, list, SourceEntries, Get(CommandCode::InputSource), Set(CommandCode::InputSource), {.refused = Refused::ReadsBack, .error = ErrorText::InputSourceRefused, .emptyIsNotRead = true}};

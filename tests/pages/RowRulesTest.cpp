@@ -177,7 +177,7 @@ class RowRules : public testing::TestWithParam<PageRules> {
   void Expect(const CheckRow& row, const RowRule& rule);
   void Expect(const ActionRow& row, const RowRule& rule);
   void Expect(const ResetRow& row, const RowRule& rule);
-  void Expect(const OwnRow&, const RowRule&) {}
+  void Expect(const auto&, const RowRule&) {}
 
   const PageRules& page = GetParam();
   const CModelInfo2 info = FullModel(page.dialogType, page.modelCode);

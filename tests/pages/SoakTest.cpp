@@ -18,6 +18,7 @@
 #include "device/LoggingChannel.h"
 #include "device/ModelDataIntake.h"
 #include "settings/PageTables.h"
+#include "settings/RowUse.h"
 #include "simulator/FaultChannel.h"
 #include "simulator/SimulatedProjector.h"
 #include "tests/support/DialogDriver.h"
@@ -133,7 +134,7 @@ class RandomUser {
 };
 
 // What a control of a row shows, and what it has to show for the projector's value.
-void ExpectShows(const ListRow& row, int value, const CTabPage& page) {
+void ExpectShows(const ListRow& row, int value, const CTabPage& page, const ModelData&) {
   const auto& list = page.Item<CComboBox>(row.control);
   EXPECT_TRUE(list.isEnabled());
   int position = list.findData(value);
@@ -145,7 +146,7 @@ void ExpectShows(const ListRow& row, int value, const CTabPage& page) {
   }
 }
 
-void ExpectShows(const ValueRow& row, int value, const CTabPage& page) {
+void ExpectShows(const ValueRow& row, int value, const CTabPage& page, const ModelData&) {
   EXPECT_EQ(page.Item<QLineEdit>(row.ids.field).text(), QString::number(value - row.bias));
   if (row.ids.slider == 0) return;
   const auto& slider = page.Item<QSlider>(row.ids.slider);
@@ -153,23 +154,34 @@ void ExpectShows(const ValueRow& row, int value, const CTabPage& page) {
   EXPECT_EQ(slider.value(), std::clamp(value - row.bias, slider.minimum(), slider.maximum()));
 }
 
-void ExpectShows(const CheckRow& row, int value, const CTabPage& page) {
+void ExpectShows(const CheckRow& row, int value, const CTabPage& page, const ModelData&) {
   EXPECT_EQ(page.Item<QAbstractButton>(row.control).isChecked(), value != 0);
 }
 
-void ExpectShows(const auto&, int, const CTabPage&) {}
+// The text of the state's entry, or the number, is somewhere in what is shown.
+void ExpectShows(const StateRow& row, int value, const CTabPage& page, const ModelData& model) {
+  const std::vector<ListEntry> texts = row.texts.Of(model);
+  const int position = PositionOf(texts, value);
+  const ListEntry text =
+      position >= 0 ? texts[static_cast<std::size_t>(position)] : ListEntry(row.otherwise);
+  const QString shown = page.Item<QLabel>(row.control).text();
+  EXPECT_TRUE(shown.contains(text.text != 0 ? CatalogString(kListCategory, text.text, value)
+                                            : QString::fromUtf8(text.name)))
+      << shown.toStdString();
+}
+
+void ExpectShows(const auto&, int, const CTabPage&, const ModelData&) {}
 
 void ExpectShowsProjector(const CTabPage& page, const PageTable& table, const ModelData& model,
-                          SimulatedProjector& projector) {
+                          CPjtInterface& projector) {
   for (std::size_t i = 0; i < table.rows.size(); ++i) {
     const PageRow& row = table.rows[i];
     if (KeepsTemplate(table, model.ModelCode) || !Has(table, i, model.ModelCode)) continue;
-    const auto reading = ReadingOf(row, model);
-    if (!reading) continue;
+    if (!ReadingOf(row, model)) continue;
     SCOPED_TRACE(KeyOf(row));
-    const PjtReply reply = projector.Execute(reading->Command());
-    EXPECT_TRUE(IsSuccess(reading->operation, reply.result));
-    std::visit([&](const auto& kind) { ExpectShows(kind, reply.value, page); }, row);
+    const auto value = ReadRow(projector, row, model);
+    ASSERT_TRUE(value);
+    std::visit([&](const auto& kind) { ExpectShows(kind, *value, page, model); }, row);
   }
 }
 
@@ -209,7 +221,7 @@ TEST_P(SoakTest, EveryControlEndsUpShowingTheProjectorsValue) {
     tabs->setCurrentIndex(tab);
     dialog.ShownPage()->InitDisp();
     const PageId page = tab == 0 ? PageId::Status : pages[static_cast<std::size_t>(tab) - 1].page;
-    ExpectShowsProjector(*dialog.ShownPage(), TableOf(page), model, *projector);
+    ExpectShowsProjector(*dialog.ShownPage(), TableOf(page), model, dialog.Projector());
   }
 }
 

@@ -1,12 +1,14 @@
 // The rows of every model, used as a program without a window uses them, on the simulated
 // projector: it says for itself what a projector does, so rows and simulation check each other.
 
+#include <cstdlib>
 #include <set>
 #include <string>
 
 #include <gtest/gtest.h>
 
 #include "settings/PageTables.h"
+#include "settings/RowUse.h"
 #include "simulator/SimulatedProjector.h"
 #include "tests/support/Models.h"
 
@@ -65,83 +67,75 @@ std::vector<const PageRow*> RowsOf(const ModelData& model) {
   return rows;
 }
 
-/// A simulated projector of the model, fresh for each row.
-struct Projector {
-  explicit Projector(const ModelData& model) {
+/// A row of a model on a simulated projector, fresh for each.
+struct RowInUse {
+  RowInUse(const PageRow& pageRow, const ModelData& modelData) : row(pageRow), model(modelData) {
     pjt.SetChannel(std::make_shared<SimulatedProjector>(DescribeModel(model)));
   }
+
+  std::optional<int> Read() { return ReadRow(pjt, row, model); }
+  // What is sent is read back, where it can be read.
+  void ExpectArrives(int value, bool reads = true) {
+    EXPECT_TRUE(SendRow(pjt, row, model, value)) << value;
+    if (reads) {
+      EXPECT_EQ(Read(), value);
+    }
+  }
+
+  void ExpectWorks(const ListRow& list) {
+    const std::vector<ListEntry> entries = list.entries.Of(model);
+    ASSERT_FALSE(entries.empty());
+    if (list.read) {
+      const auto value = Read();
+      ASSERT_TRUE(value) << "cannot be read";
+      if (list.rules.noEntry != NoEntry::IsPosition) {
+        EXPECT_GE(PositionOf(entries, *value), 0) << "a fresh projector's " << *value;
+      }
+    }
+    if (!list.send) return;
+    for (const ListEntry& entry : entries) ExpectArrives(entry.value, list.read.has_value());
+    EXPECT_FALSE(SendRow(pjt, row, model, 12345)) << "stands for no entry";
+  }
+
+  // Steps and positions arrive, inside the slider's range.
+  void ExpectWorks(const ValueRow& value) {
+    const auto first = Read();
+    ASSERT_TRUE(first) << "cannot be read";
+    const Stepped up = Step(pjt, value, model, true);
+    const Stepped stepped = up.value && up.value != first ? up : Step(pjt, value, model, false);
+    EXPECT_EQ(std::abs(stepped.value.value_or(*first) - *first), 1);
+    EXPECT_EQ(Read(), stepped.value);
+    if (const Call& reset = value.reset.call; value.reset.button != 0) {
+      EXPECT_TRUE(Perform(pjt, reset).accepted);
+      EXPECT_EQ(::Read(pjt, value.reset.read), Read());
+      EXPECT_EQ(Read(), first);
+    }
+    if (value.ids.slider == 0) return;
+    const Range range = SliderRange(value, model);
+    EXPECT_LT(range.minimum, range.maximum);
+    for (const int end : {range.minimum, range.maximum}) ExpectArrives(end + value.bias);
+  }
+
+  void ExpectWorks(const CheckRow&) {
+    for (const int state : {0, 1}) ExpectArrives(state);
+  }
+  void ExpectWorks(const StateRow& state) {
+    EXPECT_TRUE(Read());
+    EXPECT_EQ(SendRow(pjt, row, model, 1), state.turnOn.has_value());
+    EXPECT_EQ(SendRow(pjt, row, model, 0), state.turnOff.has_value());
+  }
+  void ExpectWorks(const ActionRow& action) { EXPECT_TRUE(Perform(pjt, action.call, 0).accepted); }
+  void ExpectWorks(const ResetRow& resets) {
+    for (const ResetEntry& reset : resets.entries) {
+      EXPECT_TRUE(Perform(pjt, Named(reset.operation)).accepted) << reset.text;
+    }
+  }
+  void ExpectWorks(const PopUpRow&) {}
+
+  const PageRow& row;
+  const ModelData& model;
   CPjtInterface pjt;
 };
-
-// What a list sends is read back, entry by entry.
-void ExpectListWorks(const ListRow& row, const ModelData& model) {
-  Projector projector(model);
-  const std::vector<ListEntry> entries = row.entries.Of(model);
-  ASSERT_FALSE(entries.empty());
-  if (row.read) {
-    const auto value = Read(projector.pjt, *row.read);
-    ASSERT_TRUE(value) << "cannot be read";
-    if (row.rules.noEntry != NoEntry::IsPosition) {
-      EXPECT_GE(PositionOf(entries, *value), 0) << "a fresh projector's " << *value;
-    }
-  }
-  if (!row.send) return;
-  for (std::size_t i = 0; i < entries.size(); ++i) {
-    const int sent = row.rules.sendsPosition ? static_cast<int>(i) : entries[i].value;
-    EXPECT_TRUE(Perform(projector.pjt, *row.send, sent, model.ModelCode).accepted) << sent;
-    if (row.read) {
-      EXPECT_EQ(Read(projector.pjt, *row.read), entries[i].value) << "entry " << i;
-    }
-  }
-}
-
-// Steps and positions arrive, inside the slider's range.
-void ExpectValueWorks(const ValueRow& row, const ModelData& model) {
-  Projector projector(model);
-  const auto first = Read(projector.pjt, row.Reading());
-  ASSERT_TRUE(first) << "cannot be read";
-  const auto step = [&](bool upwards) {
-    const Call call = row.Stepping(upwards);
-    return Perform(projector.pjt, call, *Read(projector.pjt, row.Reading())).accepted;
-  };
-  EXPECT_TRUE(step(true) || step(false));
-  EXPECT_NE(Read(projector.pjt, row.Reading()), first);
-  if (row.ids.slider == 0) return;
-  const Range range = SliderRange(row, model);
-  EXPECT_LT(range.minimum, range.maximum);
-  for (const int position : {range.minimum, range.maximum}) {
-    const int value = position + row.bias;
-    EXPECT_TRUE(Perform(projector.pjt, row.Setting(), value).accepted) << position;
-    EXPECT_EQ(Read(projector.pjt, row.Reading()), value);
-  }
-}
-
-void ExpectWorks(const CheckRow& row, const ModelData& model) {
-  Projector projector(model);
-  for (const int state : {0, 1}) {
-    EXPECT_TRUE(Perform(projector.pjt, row.send, state).accepted);
-    EXPECT_EQ(Read(projector.pjt, row.read), state);
-  }
-}
-
-void ExpectWorks(const ListRow& row, const ModelData& model) { ExpectListWorks(row, model); }
-void ExpectWorks(const ValueRow& row, const ModelData& model) { ExpectValueWorks(row, model); }
-void ExpectWorks(const ActionRow& row, const ModelData& model) {
-  Projector projector(model);
-  EXPECT_TRUE(Perform(projector.pjt, row.call, 0).accepted);
-}
-void ExpectWorks(const ResetRow& row, const ModelData& model) {
-  Projector projector(model);
-  for (const ResetEntry& reset : row.entries) {
-    EXPECT_TRUE(Perform(projector.pjt, Named(reset.operation)).accepted) << reset.text;
-  }
-}
-void ExpectWorks(const OwnRow& row, const ModelData& model) {
-  Projector projector(model);
-  if (row.read) {
-    EXPECT_TRUE(Read(projector.pjt, *row.read));
-  }
-}
 
 // Rows that do not read back what they send, for the reasons told in their tables.
 const std::set<std::string_view> kOneWay{"image.color-temp"};
@@ -151,7 +145,7 @@ TEST(RowsTest, EveryRowOfEveryModelWorksOnTheSimulation) {
     for (const PageRow* row : RowsOf(model)) {
       if (kOneWay.contains(KeyOf(*row))) continue;
       SCOPED_TRACE(KeyOf(*row));
-      std::visit([&](const auto& kind) { ExpectWorks(kind, model); }, *row);
+      std::visit([&](const auto& kind) { RowInUse(*row, model).ExpectWorks(kind); }, *row);
     }
   });
 }

@@ -5,8 +5,10 @@
 
 #include <QAbstractButton>
 #include <QCheckBox>
+#include <QLabel>
 
 #include "resources/ArrowBitmap.h"
+#include "settings/RowUse.h"
 #include "toolkit/CComboBox.h"
 #include "toolkit/CSliderCtrl.h"
 
@@ -14,14 +16,18 @@ namespace {
 
 /// The controls of a row that a user operates, sliders apart.
 std::vector<int> OperatedControls(const PageRow& row) {
-  if (const auto* value = std::get_if<ValueRow>(&row)) return {value->ids.minus, value->ids.plus};
-  if (std::holds_alternative<OwnRow>(row)) return {};  // its page maps it
-  return {ControlOf(row)};
+  if (const auto* value = std::get_if<ValueRow>(&row)) {
+    return {value->ids.minus, value->ids.plus, value->reset.button};
+  }
+  const bool isPages = std::holds_alternative<StateRow>(row) ||  // whose buttons its page maps
+                       std::holds_alternative<PopUpRow>(row);
+  return isPages ? std::vector<int>{} : std::vector{ControlOf(row)};
 }
 
 bool Owns(const PageRow& row, int control) {
   if (const auto* value = std::get_if<ValueRow>(&row)) {
-    return control == value->Control() || control == value->ids.minus || control == value->ids.plus;
+    return control == value->Control() || control == value->ids.minus ||
+           control == value->ids.plus || control == value->reset.button;
   }
   return control == ControlOf(row);
 }
@@ -33,18 +39,15 @@ int ListBeside(const PageRow& row) {
   return reset != nullptr ? reset->list : 0;
 }
 
+// A state's text is put into a catalog text of its own; both may be long.
+constexpr int kFramedTextSize = 2048;
+
 QString TextOf(const ListEntry& entry) {
   if (entry.text != 0) return CatalogString(kListCategory, entry.text);
   return QString::fromUtf8(entry.name.data(), static_cast<qsizetype>(entry.name.size()));
 }
 
 }  // namespace
-
-/// What a dialog holds of one row.
-struct RowDialog::Bound {
-  bool present = false;  // shown and read
-  ValueControls value;
-};
 
 RowDialog::RowDialog(int templateNumber, const PageTable& table, CWnd* owner)
     : SettingsDialog(templateNumber, owner), table_(table), bound_(table.rows.size()) {}
@@ -83,9 +86,16 @@ const NotificationMap& RowDialog::Notifications() const {
 
 std::vector<PjtCommand> RowDialog::Reads() const {
   std::vector<PjtCommand> commands;
+  OfSource asked = OfSource::None;
   for (std::size_t i = 0; i < bound_.size(); ++i) {
     if (!bound_[i].present) continue;
-    if (const auto call = ReadingOf(table_.rows[i], Model())) commands.push_back(call->Command());
+    const PageRow& row = table_.rows[i];
+    if (const OfSource of = SourceOf(row); of != OfSource::None) {
+      if (std::exchange(asked, of) == of) continue;
+      for (const Call& call : SourceQuestions(of)) commands.push_back(call.Command());
+    } else if (const auto call = ReadingOf(row, Model())) {
+      commands.push_back(call->Command());
+    }
   }
   return commands;
 }
@@ -195,13 +205,6 @@ void RowDialog::FillList(int control, const Entries& entries) {
 
 void RowDialog::Prepare(const ListRow& row, Bound&) { FillList(row.control, row.entries); }
 
-void RowDialog::Prepare(const ValueRow& row, Bound& bound) {
-  bound.value.SetRange(SliderRange(row, Model()), row.ticks);
-  if (!row.initial) return;
-  bound.value.current = static_cast<std::int16_t>(*row.initial);
-  bound.value.MoveSlider(*row.initial);
-}
-
 void RowDialog::Prepare(const ActionRow& row, Bound&) {
   if (row.list != 0) FillList(row.list, row.entries);
 }
@@ -226,9 +229,16 @@ void RowDialog::FillResets(int list) {
 
 void RowDialog::Refresh() {
   const Busy busy(this);
+  OfSource asked = OfSource::None;
+  std::optional<int> source = 0;
   for (std::size_t i = 0; i < bound_.size(); ++i) {
     if (!bound_[i].present) continue;
-    std::visit([&](const auto& row) { Refresh(row, bound_[i]); }, table_.rows[i]);
+    const OfSource of = SourceOf(table_.rows[i]);
+    if (of != OfSource::None && std::exchange(asked, of) != of) {
+      source = Ask(of);
+      ShowSource(source);
+    }
+    std::visit([&](const auto& row) { Refresh(row, bound_[i], source); }, table_.rows[i]);
   }
   for (const PageRow& row : table_.rows) {
     if (const int list = ListBeside(row); list != 0) Preselect(list);
@@ -239,11 +249,15 @@ void RowDialog::Preselect(int list) {
   if (CComboBox& combo = List(list); combo.currentIndex() < 0) combo.Select(0);
 }
 
-void RowDialog::Refresh(const ListRow& row, Bound&) {
+std::optional<int> RowDialog::Ask(OfSource of) {
+  return AskSource(*projector, of, Model().ModelCode);
+}
+
+void RowDialog::Refresh(const ListRow& row, Bound&, Source source) {
   if (!row.read) return;
   CComboBox& list = List(row.control);
-  const bool asks = !row.rules.emptyIsNotRead || list.count() > 0;
-  const auto value = asks ? Read(*projector, *row.read) : std::nullopt;
+  const bool asks = source && (!row.rules.emptyIsNotRead || list.count() > 0);
+  const auto value = asks ? Read(*projector, *row.Reading(*source)) : std::nullopt;
   if (!value) {
     if (row.rules.failedReadDisables) list.setEnabled(false);
     return;
@@ -258,28 +272,35 @@ void RowDialog::Select(const ListRow& row, int value) {
   if (list.SelectValue(value)) return;
   if (row.rules.noEntry == NoEntry::Clears) list.Select(-1);
   if (row.rules.noEntry == NoEntry::IsPosition) list.Select(value);
+  if (row.rules.noEntry == NoEntry::IsOrdinal) list.Select(value - 1);
 }
 
-void RowDialog::Refresh(const ValueRow& row, Bound& bound) {
-  const auto value = Read(*projector, row.Reading());
-  if (row.greysField) bound.value.EnableField(value.has_value());
-  if (value) {
-    bound.value.Enable();
-    bound.value.current = static_cast<std::int16_t>(*value - row.bias);
-    bound.value.Show(bound.value.current);
-  } else {
-    bound.value.Disable();
-  }
-}
-
-void RowDialog::Refresh(const CheckRow& row, Bound&) {
+void RowDialog::Refresh(const CheckRow& row, Bound&, Source) {
   auto& check = Item<QCheckBox>(row.control);
   const auto value = Read(*projector, row.read);
   check.setEnabled(value.has_value());
   if (value) check.setChecked(*value != 0);
 }
 
-void RowDialog::Refresh(const OwnRow& row, Bound&) { RefreshOwn(row); }
+void RowDialog::Refresh(const StateRow& row, Bound&, Source) {
+  ShowState(row, Read(*projector, row.read));
+}
+
+void RowDialog::ShowState(const StateRow& row, std::optional<int> value) {
+  QString text = QStringLiteral("-");
+  if (value) {
+    const std::vector<ListEntry> texts = row.texts.Of(Model());
+    const int position = PositionOf(texts, *value);
+    text = position >= 0        ? TextOf(texts[static_cast<std::size_t>(position)])
+           : row.otherwise != 0 ? CatalogString(kListCategory, row.otherwise, *value)
+                                : QString();
+    if (row.frame != 0) {
+      text = QString::fromStdString(
+          CatalogText<kFramedTextSize>(kListCategory, row.frame, text.toStdString()));
+    }
+  }
+  Item<QLabel>(row.control).setText(text);
+}
 
 void RowDialog::Act(int control) {
   const Busy busy(this);
@@ -294,17 +315,20 @@ void RowDialog::Operate(const ListRow& row, Bound& bound, int) {
   CComboBox& list = List(row.control);
   const auto chosen = list.SelectedValue();
   if (!chosen || !row.send) return;
+  const auto source = Ask(row.of);
+  if (!source) return;
   const int value = row.rules.sendsPosition ? list.currentIndex() : *chosen;
   if (row.rules.tellsText) projector->SettingText = list.currentText().toStdString();
-  const bool accepted = Perform(*projector, *row.send, value, Model().ModelCode).accepted;
-  if (row.rules.readsBackAlways) Refresh(row, bound);
+  const bool accepted =
+      Perform(*projector, *row.Sending(*source), value, Model().ModelCode).accepted;
+  if (row.rules.readsBackAlways) Refresh(row, bound, source);
   if (accepted) return;
-  if (table_.refusedIsReadBack || row.rules.refused != Refused::Silent) ReadBack(row);
+  if (table_.refusedIsReadBack || row.rules.refused != Refused::Silent) ReadBack(row, *source);
   if (row.rules.error != 0) ShowError(row.rules.error);
 }
 
-void RowDialog::ReadBack(const ListRow& row) {
-  const auto value = row.read ? Read(*projector, *row.read) : std::nullopt;
+void RowDialog::ReadBack(const ListRow& row, int source) {
+  const auto value = row.read ? Read(*projector, *row.Reading(source)) : std::nullopt;
   if (!value) return;
   if (row.rules.refused == Refused::ReadsBackPosition) {
     List(row.control).Select(*value);
@@ -316,7 +340,8 @@ void RowDialog::ReadBack(const ListRow& row) {
 void RowDialog::ReadBack(int control) {
   for (const PageRow& row : table_.rows) {
     if (ControlOf(row) != control) continue;
-    if (const auto* list = std::get_if<ListRow>(&row)) ReadBack(*list);
+    const auto* list = std::get_if<ListRow>(&row);
+    if (const auto source = list != nullptr ? Ask(list->of) : Source()) ReadBack(*list, *source);
   }
 }
 
@@ -324,86 +349,6 @@ void RowDialog::Operate(const CheckRow& row, Bound&, int) {
   auto& check = Item<QCheckBox>(row.control);
   if (Perform(*projector, row.send, check.isChecked() ? 1 : 0, Model().ModelCode).accepted) return;
   if (const auto value = Read(*projector, row.read)) check.setChecked(*value != 0);
-}
-
-void RowDialog::Operate(const ValueRow& row, Bound& bound, int control) {
-  ValueControls& controls = bound.value;
-  const bool upwards = control == row.ids.plus;
-  const Range bounds = StepBounds(row, Model(), controls.Bounds());
-  const Call step = row.Stepping(upwards);
-  if (FamilyOf(step.operation) == OperationFamily::PointerStepper) {
-    StepByValue(row, controls, step, bounds);
-    return;
-  }
-  // A field has no range of its own.
-  const bool bounded = row.bounds || row.ids.slider != 0;
-  if (bounded &&
-      (upwards ? controls.current >= bounds.maximum : controls.current <= bounds.minimum))
-    return;
-  if (Perform(*projector, step).accepted) {
-    // The read back is as strict as the step.
-    ReadBack(row, controls, step.anyResult);
-  } else {
-    Refuse(row, controls, controls.current, true);
-  }
-}
-
-void RowDialog::ReadBack(const ValueRow& row, ValueControls& controls, bool anyResult) {
-  Call reading = row.Reading();
-  reading.anyResult = anyResult;
-  if (const auto value = Read(*projector, reading)) {
-    controls.current = static_cast<std::int16_t>(*value - row.bias);
-    controls.Show(controls.current);
-  }
-}
-
-// The slider stands at `position` afterwards, unless the value is read again.
-void RowDialog::Refuse(const ValueRow& row, ValueControls& controls, int position, bool told) {
-  controls.MoveSlider(position);
-  if (table_.refusedIsReadBack) ReadBack(row, controls);
-  if (told && row.error != 0) ShowError(row.error);
-}
-
-// Steppers that take the present value and answer with the new one.
-void RowDialog::StepByValue(const ValueRow& row, ValueControls& controls, const Call& step,
-                            Range bounds) {
-  const auto value = Read(*projector, row.Reading());
-  // A row that tells refusals must not be told at its own end.
-  const bool upwards = step.operation == row.Stepping(true).operation;
-  if (!value) return;
-  if (row.error != 0 &&
-      (upwards ? *value - row.bias >= bounds.maximum : *value - row.bias <= bounds.minimum)) {
-    return;
-  }
-  const Answer stepped = Perform(*projector, step, *value);
-  if (stepped.accepted) {
-    controls.current = static_cast<std::int16_t>(stepped.value - row.bias);
-    controls.Show(controls.current);
-  } else if (row.error != 0) {
-    ShowError(row.error);
-  }
-}
-
-void RowDialog::OnHScroll(CSliderCtrl& slider) {
-  const Busy busy(this);
-  for (std::size_t i = 0; i < bound_.size(); ++i) {
-    const auto* row = std::get_if<ValueRow>(&table_.rows[i]);
-    if (row != nullptr && bound_[i].value.Owns(slider)) {
-      Drag(*row, bound_[i].value);
-      return;
-    }
-  }
-}
-
-void RowDialog::Drag(const ValueRow& row, ValueControls& controls) {
-  const int position = controls.Position();
-  if (Perform(*projector, row.Setting(), position + row.bias, Model().ModelCode).accepted) {
-    controls.current = static_cast<std::int16_t>(position);
-    controls.Show(position);
-    return;
-  }
-  Refuse(row, controls, row.refusedDrag == RefusedDrag::Stays ? position : controls.current,
-         row.refusedDrag == RefusedDrag::Told);
 }
 
 void RowDialog::Operate(const ActionRow& row, Bound&, int) {
@@ -417,6 +362,7 @@ void RowDialog::Operate(const ActionRow& row, Bound&, int) {
 void RowDialog::Operate(const ResetRow& row, Bound&, int) {
   const ResetEntry* const reset = ChosenReset(row.control);
   const bool done = reset != nullptr && Perform(*projector, Named(reset->operation)).accepted;
+  if (done && row.rereads == Rereads::ItsRow) ShowAgain(reset->of);
   ReadAgainAfter(row.rereads, done);
 }
 

@@ -44,14 +44,19 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
 
   /// Reads and shows every present row in the table's order.
   void Refresh();
-  /// Reads and shows a row whose mechanics are the page's own.
-  virtual void RefreshOwn(const OwnRow&) {}
+  /// Shows a state, or a dash for one that cannot be read.
+  virtual void ShowState(const StateRow& row, std::optional<int> value);
+  /// A row of an input source is read, or is about to be changed: `source` is its source, or
+  /// nothing while that is unknown.
+  virtual void ShowSource(std::optional<int>) {}
   /// A reset or an action of the table asks for the page to be read again.
   virtual void ReadAgain() { Refresh(); }
 
   /// The user operated this control: does what its row says.
   void Act(int control);
-  void OnHScroll(CSliderCtrl& slider);
+  void OnHScroll(CSliderCtrl& slider) { Release(slider); }
+  /// A slider of the table was released. False when the projector refused the position.
+  bool Release(CSliderCtrl& slider);
 
   /// Whether the model has the row that this control belongs to.
   bool Has(int control) const;
@@ -67,7 +72,11 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
   CComboBox& List(int control) const;
 
  private:
-  struct Bound;
+  /// What a dialog holds of one row.
+  struct Bound {
+    bool present = false;  // shown and read
+    ValueControls value;
+  };
 
   void DrawArrows();
   void ShowPresentRows();
@@ -81,26 +90,34 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
   void Prepare(const ResetRow& row, Bound& bound);
   void Prepare(const auto&, Bound&) {}
 
-  void Refresh(const ListRow& row, Bound& bound);
-  void Refresh(const ValueRow& row, Bound& bound);
-  void Refresh(const CheckRow& row, Bound& bound);
-  void Refresh(const OwnRow& row, Bound& bound);
-  void Refresh(const auto&, Bound&) {}
+  /// The input source of a row, as `AskSource`.
+  std::optional<int> Ask(OfSource of);
+
+  // `source` is the row's input source, nothing while that is unknown.
+  using Source = std::optional<int>;
+  void Refresh(const ListRow& row, Bound& bound, Source source);
+  void Refresh(const ValueRow& row, Bound& bound, Source source);
+  void Refresh(const CheckRow& row, Bound& bound, Source source);
+  void Refresh(const StateRow& row, Bound& bound, Source source);
+  void Refresh(const auto&, Bound&, Source) {}
 
   void Operate(const ListRow& row, Bound& bound, int control);
   void Operate(const ValueRow& row, Bound& bound, int control);
   void Operate(const CheckRow& row, Bound& bound, int control);
   void Operate(const ActionRow& row, Bound& bound, int control);
   void Operate(const ResetRow& row, Bound& bound, int control);
-  void Operate(const OwnRow&, Bound&, int) {}
+  void Operate(const auto&, Bound&, int) {}
 
   void Select(const ListRow& row, int value);
-  void ReadBack(const ListRow& row);
-  void ReadBack(const ValueRow& row, ValueControls& controls, bool anyResult = false);
-  void Refuse(const ValueRow& row, ValueControls& controls, int position, bool told);
-  void StepByValue(const ValueRow& row, ValueControls& controls, const Call& step, Range bounds);
-  void Drag(const ValueRow& row, ValueControls& controls);
+  void ReadBack(const ListRow& row, int source);
   void Preselect(int list);
+
+  // Of value rows, in ValueRows.cpp.
+  void Step(const ValueRow& row, ValueControls& controls, bool upwards);
+  bool Drag(const ValueRow& row, ValueControls& controls);
+  void Refuse(const ValueRow& row, ValueControls& controls, int position, bool told);
+  void RunReset(const ValueRow& row, ValueControls& controls);
+  void ShowAgain(int control);
   void ReadAgainAfter(Rereads rereads, bool done);
 
   const PageTable& table_;

@@ -1,10 +1,9 @@
 #include "pages/input/COtherTabDlg.h"
 
-#include <QLabel>
-
 #include "device/CommandCode.h"
 #include "resources/AdvancedControlResources.h"
 #include "settings/PageTables.h"
+#include "settings/SharedRows.h"
 #include "toolkit/CComboBox.h"
 #include "toolkit/MessageBox.h"
 
@@ -12,17 +11,7 @@ namespace {
 
 constexpr int kPowerOn = 20100;
 constexpr int kPowerOff = 20101;
-constexpr int kPowerState = 20102;
 constexpr int kInputSource = 20103;
-
-// Running states; any other is standby.
-constexpr int kOn = 1;
-constexpr int kCoolingDown = 2;
-
-int StateText(int state) {
-  if (state == kCoolingDown) return ListText::PowerCoolingDown;
-  return state == kOn ? ListText::On : ListText::Off;
-}
 
 }  // namespace
 
@@ -39,13 +28,12 @@ std::vector<Notification> COtherTabDlg::OwnNotifications() const {
   };
 }
 
-void COtherTabDlg::RefreshOwn(const OwnRow& row) {
-  runningState_ = Read(*projector, *row.read);
-  const bool ready = runningState_ && runningState_ != kCoolingDown;
+void COtherTabDlg::ShowState(const StateRow& row, std::optional<int> value) {
+  CTabPage::ShowState(row, value);
+  runningState_ = value;
+  const bool ready = value && value != shared::kCoolingDown;
   GetDlgItem(kPowerOn)->setEnabled(ready);
   GetDlgItem(kPowerOff)->setEnabled(ready);
-  Item<QLabel>(kPowerState)
-      .setText(runningState_ ? ListString(StateText(*runningState_)) : QStringLiteral("-"));
 }
 
 void COtherTabDlg::OnBnClickedOtherPowerOn() {
@@ -59,7 +47,7 @@ void COtherTabDlg::OnBnClickedOtherPowerOff() {
   projector->SetPowerOff();
   InitDisp();
   // The command has no result: a projector that is still on, or does not say, tells the refusal.
-  if (!runningState_ || runningState_ == kOn) ShowError(ErrorText::PowerRefused);
+  if (!runningState_ || runningState_ == shared::kRunning) ShowError(ErrorText::PowerRefused);
 }
 
 void COtherTabDlg::OnCbnSelchangeOtherInput() {

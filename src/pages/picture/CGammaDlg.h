@@ -1,6 +1,8 @@
 #pragma once
 
 #include "pages/picture/CustomDialog.h"
+#include "resources/AdvancedControlResources.h"
+#include "settings/PageTables.h"
 
 /// The pop-up that shapes the user gamma curve: eight points and a test pattern.
 class CGammaDlg final : public CustomDialog {
@@ -9,8 +11,6 @@ class CGammaDlg final : public CustomDialog {
  public:
   /// `hidePointResets` leaves out the points' Reset buttons. Without a parent the dialog belongs
   /// to the dialog that runs it.
-  explicit CGammaDlg(bool hidePointResets, CWnd* parent = nullptr);
-
- protected:
-  std::optional<int> Reset(std::size_t point) override;
+  explicit CGammaDlg(bool hidePointResets, CWnd* parent = nullptr)
+      : CustomDialog(TemplateId::Gamma, kGammaRows, hidePointResets, parent) {}
 };

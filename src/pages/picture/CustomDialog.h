@@ -1,7 +1,5 @@
 #pragma once
 
-#include <cstddef>
-
 #include "pages/common/RowDialog.h"
 
 /// What the two custom pop-ups share: a test pattern and a column of slider rows, each with a
@@ -10,24 +8,12 @@ class CustomDialog : public RowDialog {
   Q_OBJECT
 
  protected:
-  /// The rows' reset buttons bear the numbers from `firstReset`, in the order of the table.
-  CustomDialog(int templateNumber, const PageTable& table, int firstReset, bool hideResets,
-               CWnd* parent);
+  CustomDialog(int templateNumber, const PageTable& table, bool hideResets, CWnd* parent)
+      : RowDialog(templateNumber, table, parent), table_(table), hideResets_(hideResets) {}
 
-  std::vector<Notification> OwnNotifications() const override;
   bool OnInitDialog() override;
 
-  /// Resets the slider row at an index and gives the new device value, if the projector did it.
-  virtual std::optional<int> Reset(std::size_t row) = 0;
-
-  /// The slider rows, by index.
-  const ValueRow& RowAt(std::size_t row) const;
-  std::size_t RowCount() const { return table_.rows.size() - 1; }
-
  private:
-  void OnReset(std::size_t row);
-
-  const PageTable& table_;  // the pattern, then the slider rows
-  int firstReset_;
+  const PageTable& table_;
   bool hideResets_;
 };

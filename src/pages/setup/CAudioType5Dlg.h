@@ -1,8 +1,5 @@
 #pragma once
 
-#include <array>
-#include <optional>
-
 #include "AdvancedControlExport.h"
 #include "pages/common/CTabPage.h"
 
@@ -12,15 +9,17 @@ class ADVANCED_CONTROL_EXPORT CAudioType5Dlg final : public CTabPage {
   Q_OBJECT
 
  public:
-  /// The rows with a slider: volume, treble and bass.
-  static constexpr std::size_t kToneCount = 3;
-
   explicit CAudioType5Dlg(CWnd* parent);
 
-  void InitDisp() override;
-  std::vector<PjtCommand> Reads() const override;
-
   // What the user does with each control, by name.
+  void OnHScroll(CSliderCtrl& slider);
+  void OnBnClickedAud5Btnvolneg();
+  void OnBnClickedAud5Btnvolpos();
+  void OnBnClickedAud5Btntreneg();
+  void OnBnClickedAud5Btntrepos();
+  void OnBnClickedAud5Btnbasneg();
+  void OnBnClickedAud5Btnbaspos();
+  void OnCbnSelchangeAud5Srswcomb();
   void OnCbnSelchangeAud5Spekcomb();
   void OnCbnSelchangeAud5Argb1comb();
   void OnCbnSelchangeAud5Acomp1comb();
@@ -35,28 +34,6 @@ class ADVANCED_CONTROL_EXPORT CAudioType5Dlg final : public CTabPage {
   void OnCbnSelchangeAud5Aoutstbcomb();
   void OnCbnSelchangeAud5Hdmiaudiocomb();
 
-  void OnHScroll(CSliderCtrl& slider);
-  void OnBnClickedAud5Btnvolneg();
-  void OnBnClickedAud5Btnvolpos();
-  void OnBnClickedAud5Btntreneg();
-  void OnBnClickedAud5Btntrepos();
-  void OnBnClickedAud5Btnbasneg();
-  void OnBnClickedAud5Btnbaspos();
-  void OnCbnSelchangeAud5Srswcomb();
-
  protected:
-  std::vector<Notification> OwnNotifications() const override;
-  void DoDataExchange() override;
   bool OnInitDialog() override;
-
- private:
-  /// The source that the tone rows work on: the current input, or the standby source of models that
-  /// have one and do not run. Nothing when the projector does not say enough; asked afresh each
-  /// time.
-  std::optional<int> ActiveSource() const;
-  void RefreshTones(std::optional<int> source);
-  void RefreshSurround(int source);
-  void Step(std::size_t tone, bool up);
-
-  std::array<ValueControls, kToneCount> tones_;
 };

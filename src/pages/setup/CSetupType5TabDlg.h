@@ -1,11 +1,7 @@
 #pragma once
 
-#include <optional>
-
 #include "AdvancedControlExport.h"
 #include "pages/common/CTabPage.h"
-
-class QLineEdit;
 
 /// Installation settings of the newest page set: keystone, digital zoom and shift, whisper, mirror,
 /// volume, speaker and their resets on the left; audio routing, monitor out and standby on the
@@ -24,6 +20,13 @@ class ADVANCED_CONTROL_EXPORT CSetupType5TabDlg final : public CTabPage {
 
   // What the user does with each control, by name.
   void OnBnClickedStu5Btnatks();
+  void OnBnClickedStu5Btksvneg();
+  void OnBnClickedStu5Btksvpos();
+  void OnBnClickedStu5Btkshneg();
+  void OnBnClickedStu5Btkshpos();
+  void OnBnClickedStu5Btvolneg();
+  void OnBnClickedStu5Btvolpos();
+  void OnBnClickedStu5Btreset();
   void OnCbnSelchangeStu5Wspcomb();
   void OnCbnSelchangeStu5Mircomb();
   void OnCbnSelchangeStu5Speakercomb();
@@ -55,42 +58,10 @@ class ADVANCED_CONTROL_EXPORT CSetupType5TabDlg final : public CTabPage {
   void OnCbnSelchangeCombMonitoroutStandby();
 
   void OnHScroll(CSliderCtrl& slider);
-  void OnBnClickedStu5Btksvneg();
-  void OnBnClickedStu5Btksvpos();
-  void OnBnClickedStu5Btkshneg();
-  void OnBnClickedStu5Btkshpos();
-  void OnBnClickedStu5Btvolneg();
-  void OnBnClickedStu5Btvolpos();
-  void OnBnClickedStu5Btreset();
   void OnCbnSelchangeCombStandbymode();
 
  protected:
   std::vector<Notification> OwnNotifications() const override;
-  void DoDataExchange() override;
   bool OnInitDialog() override;
-  void RefreshOwn(const OwnRow& row) override;
-
- private:
-  using Getter = int (CPjtInterface::*)(short* value);
-  using Stepper = int (CPjtInterface::*)(short* value);
-  using SourceStepper = int (CPjtInterface::*)(int source, short* value);
-
-  void RefreshKeystone(ValueControls& row, const OwnRow& keystone);
-  void StepKeystone(ValueControls& row, Getter get, Stepper step);
-  void ResetKeystoneV();
-  void ResetKeystoneH();
-  void ResetDZoom();
-  void ResetDShiftV();
-  void ResetDShiftH();
-  void ShowReset(ValueControls& row, int bias, int result, const Call& read);
-
-  void RefreshVolume();
-  void StepVolume(SourceStepper step);
-  bool SendVolume(int position);
-  std::optional<short> ReadInputSource();
-
-  ValueControls keystoneV_;
-  ValueControls keystoneH_;
-  ValueControls volume_;
-  QLineEdit* inputSource_ = nullptr;
+  void ShowSource(std::optional<int> source) override;
 };

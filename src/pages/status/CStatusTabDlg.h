@@ -12,8 +12,4 @@ class CStatusTabDlg final : public CTabPage {
 
  protected:
   bool OnInitDialog() override;
-  void RefreshOwn(const OwnRow& row) override;
-
- private:
-  QString TextOf(int control, int value) const;
 };

@@ -70,7 +70,7 @@ constexpr PageRow kRows[] = {
     ListRow{"option.my-button-2", 96, 20372, MyButtonEntries, Named(Op::GetMyButton2), Named(Op::SetMyButton2), kMyButton},
     // Other than elsewhere, any result but 0 of the read is a success.
     ListRow{"option.my-source", 216, 20374, SourceEntries, AnyResult(Get(CommandCode::MySource)), Set(CommandCode::MySource), {.error = ErrorText::MySourceRefused}},
-    OwnRow{"option.service", 3097, 20373},
+    PopUpRow{"option.service", 3097, 20373},
     ListRow{"option.cc-display", 191, 20292, kCcDisplays, Named(Op::GetCCDisplay), Named(Op::SetCCDisplay)},
     ListRow{"option.cc-mode", 192, 20293, kCcModes, Named(Op::GetCCMode), Named(Op::SetCCMode)},
     ListRow{"option.cc-channel", 193, 20294, kCcChannels, Named(Op::GetCCChannel), Named(Op::SetCCChannel)},

@@ -13,7 +13,7 @@ constexpr auto kPicturePositions =
 
 // clang-format off
 constexpr PageRow kRows[] = {
-    shared::Power(20100),
+    shared::Power(20102),
     shared::InputSource(20103),
     shared::Blank(20104),
     shared::Mute(20105),

@@ -4,7 +4,7 @@
 namespace {
 
 constexpr PageRow kRows[] = {
-    shared::Power(20100), shared::InputSource(20103), shared::Blank(20104),
+    shared::Power(20102), shared::InputSource(20103), shared::Blank(20104),
     shared::Mute(20105),  shared::Freeze(20106),
 };
 

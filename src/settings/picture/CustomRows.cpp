@@ -6,6 +6,8 @@
 
 namespace {
 
+using Op = PjtOperation;
+
 constexpr auto kPatterns = Numbered(ListText::PatternOff, ListText::PatternGrayScale9,
                                     ListText::PatternGrayScale15, ListText::PatternRamp);
 
@@ -35,9 +37,12 @@ constexpr ValueRow Row(std::string_view key, int caption, const ValueIds& ids, i
 }
 
 constexpr ValueRow Point(std::string_view key, int index, const ValueIds& ids) {
-  return Row(key, 1030 + index, ids, CommandCode::UserGammaPoint1 + index,
-             RangeIndex::GammaPoint + static_cast<std::size_t>(index), {-16, 16}, 2,
-             ErrorText::GammaPointRefusedBase + index);
+  ValueRow row = Row(key, 1030 + index, ids, CommandCode::UserGammaPoint1 + index,
+                     RangeIndex::GammaPoint + static_cast<std::size_t>(index), {-16, 16}, 2,
+                     ErrorText::GammaPointRefusedBase + index);
+  row.reset = {20336 + index, Named(Op::ExecUserGammaPReset, index + 1),
+               Named(Op::GetUserGammaPoint, index + 1)};
+  return row;
 }
 
 constexpr PageRow kGamma[] = {
@@ -53,23 +58,32 @@ constexpr PageRow kGamma[] = {
 };
 
 // `index` counts gain R, G, B, offset R, G, B.
-constexpr ValueRow Adjust(std::string_view key, int index, int code, const ValueIds& ids) {
-  return Row(key, 1020 + index, ids, code,
-             RangeIndex::ColorTempAdjust + static_cast<std::size_t>(index), {-32, 32}, 4,
-             ErrorText::ColorTempGainRRefused + index);
+constexpr ValueRow Adjust(std::string_view key, int index, int code, const ValueIds& ids, Op reset,
+                          Op get) {
+  const bool isGain = index < 3;
+  const int channel = index % 3;
+  ValueRow row = Row(key, 1020 + index, ids, code,
+                     RangeIndex::ColorTempAdjust + static_cast<std::size_t>(index), {-32, 32}, 4,
+                     ErrorText::ColorTempGainRRefused + index);
+  row.down = Named(isGain ? Op::DecrementColorTempGain : Op::DecrementColorTempOffset, channel);
+  row.up = Named(isGain ? Op::IncrementColorTempGain : Op::IncrementColorTempOffset, channel);
+  row.reset = {20334 + index, Named(reset), Named(get)};
+  return row;
 }
 
 constexpr int kGain = CommandCode::ColorTempGainR;
 constexpr int kOffset = CommandCode::ColorTempOffsetR;
+// clang-format off
 constexpr PageRow kColorTemp[] = {
     Pattern("color-temp.pattern"),
-    Adjust("color-temp.gain-r", 0, kGain, {20182, 20181, 20188, 20194}),
-    Adjust("color-temp.gain-g", 1, kGain + 1, {20183, 21024, 20189, 20195}),
-    Adjust("color-temp.gain-b", 2, kGain + 2, {20184, 21025, 20190, 20196}),
-    Adjust("color-temp.offset-r", 3, kOffset, {20185, 21026, 20191, 20197}),
-    Adjust("color-temp.offset-g", 4, kOffset + 1, {20186, 21027, 20192, 20198}),
-    Adjust("color-temp.offset-b", 5, kOffset + 2, {20187, 21028, 20193, 20199}),
+    Adjust("color-temp.gain-r", 0, kGain, {20182, 20181, 20188, 20194}, Op::ExecColorTempGainRReset, Op::GetColorTempGainR),
+    Adjust("color-temp.gain-g", 1, kGain + 1, {20183, 21024, 20189, 20195}, Op::ExecColorTempGainGReset, Op::GetColorTempGainG),
+    Adjust("color-temp.gain-b", 2, kGain + 2, {20184, 21025, 20190, 20196}, Op::ExecColorTempGainBReset, Op::GetColorTempGainB),
+    Adjust("color-temp.offset-r", 3, kOffset, {20185, 21026, 20191, 20197}, Op::ExecColorTempOffsetRReset, Op::GetColorTempOffsetR),
+    Adjust("color-temp.offset-g", 4, kOffset + 1, {20186, 21027, 20192, 20198}, Op::ExecColorTempOffsetGReset, Op::GetColorTempOffsetG),
+    Adjust("color-temp.offset-b", 5, kOffset + 2, {20187, 21028, 20193, 20199}, Op::ExecColorTempOffsetBReset, Op::GetColorTempOffsetB),
 };
+// clang-format on
 
 }  // namespace
 

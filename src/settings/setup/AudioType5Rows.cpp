@@ -43,6 +43,44 @@ constexpr ListRules kRouting{.noEntry = NoEntry::IsPosition,
 constexpr ListRules kHdmiMode{
     .noEntry = NoEntry::Keeps, .refused = Refused::ReadsBack, .failedReadDisables = false};
 
+// Of the source that is heard. A refused position empties the field, and a failed read does no
+// more.
+constexpr ValueRow Tone(std::string_view key, int caption, const ValueIds& ids, int bias, Op get,
+                        Op set, Op down, Op up, int rangeText, Range range) {
+  return {.key = key,
+          .caption = caption,
+          .ids = ids,
+          .read = Named(get),
+          .set = Named(set),
+          .down = Named(down),
+          .up = Named(up),
+          .bias = bias,
+          .rangeText = rangeText,
+          .range = range,
+          .initial = 0,
+          .refusedDrag = RefusedDrag::Empties,
+          .failedReadDisables = false,
+          .deviceMemory = DeviceMemory::OfSteps,
+          .of = OfSource::Playing};
+}
+
+constexpr ValueRow Volume() {
+  ValueRow row = Tone("audio.volume", 1, {20345, 20347, 20346, 20355}, 0, Op::GetInputSrcVolume,
+                      Op::SetVolumeEachSrc, Op::DecrementInputSrcVol, Op::IncrementInputSrcVol,
+                      RangeIndex::Volume, {0, 48});
+  row.ticks = 4;
+  row.initial = 24;
+  return row;
+}
+
+// The projector knows a 1 too, which is taken for off.
+constexpr ListEntry kSurrounds[] = {
+    {ListText::SwitchOff, 0}, {ListText::SurroundMid, 2}, {ListText::SurroundHigh, 3}};
+constexpr ListRules kSurround{.noEntry = NoEntry::IsOrdinal,
+                              .refused = Refused::ReadsBack,
+                              .failedReadDisables = false,
+                              .tellsText = true};
+
 // The two digital rows share one operation; a flag tells the projector which of its inputs is
 // meant, and which models want it differs by row.
 constexpr Call kSetM1D = Flagged(Op::SetAudioM1D, {0, {41, 43}, 1});
@@ -52,10 +90,10 @@ constexpr Call kSetHdmi = Flagged(Op::SetAudioM1D, {0, {41, 43, 51, 53, 54}, 1})
 // operation.
 // clang-format off
 constexpr PageRow kRows[] = {
-    OwnRow{"audio.volume", 1, 20347},
-    OwnRow{"audio.treble", 2, 20350},
-    OwnRow{"audio.bass", 3, 20353},
-    OwnRow{"audio.srs-wow", 4, 20381},
+    Volume(),
+    Tone("audio.treble", 2, {20348, 20350, 20349, 20315}, CommandCode::kZeroPoint, Op::GetInputSrcTreble, Op::SetInputSrcTreble, Op::DecrementInputSrcTreb, Op::IncrementInputSrcTreb, RangeIndex::Treble, {-4, 4}),
+    Tone("audio.bass", 3, {20351, 20353, 20352, 20316}, CommandCode::kZeroPoint, Op::GetInputSrcBass, Op::SetInputSrcBass, Op::DecrementInputSrcBass, Op::IncrementInputSrcBass, RangeIndex::Bass, {-4, 4}),
+    ListRow{"audio.srs-wow", 4, 20381, kSurrounds, Named(Op::GetSRSWOW), Named(Op::SetSRSWOW), kSurround, {}, OfSource::Playing},
     ListRow{"audio.speaker", 5, 20354, kSwitch, Named(Op::GetSpeaker), Named(Op::SetSpeaker), kRouting},
     ListRow{"audio.rgb1", 1006, 20356, kSources, Named(Op::GetAudioRGB1), Named(Op::SetAudioRGB1), kRouting},
     ListRow{"audio.computer1", 181, 20365, kSources, Named(Op::GetAudioRGB1), Named(Op::SetAudioComputer1), kRouting},

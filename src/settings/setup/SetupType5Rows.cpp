@@ -52,6 +52,25 @@ constexpr ListRules kRouting{.noEntry = NoEntry::Keeps, .refused = Refused::Read
 constexpr ListRules kRoutingTold{
     .noEntry = NoEntry::Keeps, .refused = Refused::ReadsBack, .tellsText = true};
 
+// Ticks at eighths. A refused position is not told: the slider goes back to what was remembered.
+constexpr ValueRow Keystone(std::string_view key, int caption, const ValueIds& ids, Op get, Op set,
+                            Op down, Op up, int rangeText) {
+  return {.key = key,
+          .caption = caption,
+          .ids = ids,
+          .read = Named(get),
+          .set = Named(set),
+          .down = Named(down),
+          .up = Named(up),
+          .bias = CommandCode::kZeroPoint,
+          .rangeText = rangeText,
+          .range = Range{-128, 127},
+          .ticks = 0,
+          .refusedDrag = RefusedDrag::GoesBack,
+          .greysField = true,
+          .deviceMemory = DeviceMemory::OfStepsAndReads};
+}
+
 // One direction of the digital shift. Any result but 0 counts; nothing on our side bounds it.
 constexpr ValueRow Shift(std::string_view key, const ValueIds& ids, std::uint16_t code) {
   return {.key = key,
@@ -77,12 +96,14 @@ constexpr ResetEntry kResets[] = {
 // clang-format off
 constexpr PageRow kRows[] = {
     ActionRow{"setup.auto-keystone", 18, 20305, Named(Op::ExecAutoKeyStone)},
-    OwnRow{"setup.keystone-v", 137, 20310, Named(Op::GetKeystoneV)},
-    OwnRow{"setup.keystone-h", 138, 20311, Named(Op::GetKeystoneH)},
+    Keystone("setup.keystone-v", 137, {20308, 20310, 20309, 20314}, Op::GetKeystoneV, Op::SetKeystoneV, Op::DecrementKeystoneV, Op::IncrementKeystoneV, RangeIndex::KeystoneV),
+    Keystone("setup.keystone-h", 138, {20312, 20311, 20313, 20141}, Op::GetKeystoneH, Op::SetKeystoneH, Op::DecrementKeystoneH, Op::IncrementKeystoneH, RangeIndex::KeystoneH),
     ListRow{"setup.whisper", 75, 20315, WhisperEntries, Named(Op::GetWhisper), Named(Op::SetWhisper), kMode},
     ListRow{"setup.mirror", 40, 20316, kMirrors, Named(Op::GetMirror), Named(Op::SetMirror), kMode},
     ListRow{"setup.speaker", 5, 20321, kSwitch, Named(Op::GetSpeaker), Named(Op::SetSpeaker), kModeTold},
-    OwnRow{"setup.volume", 1, 20317, Named(Op::GetInputSource)},
+    ValueRow{.key = "setup.volume", .caption = 1, .ids = {20318, 20317, 20319, 20142}, .read = Named(Op::GetInputSrcVolume), .set = Named(Op::SetVolumeEachSrc),
+             .down = Named(Op::DecrementInputSrcVol), .up = Named(Op::IncrementInputSrcVol), .rangeText = RangeIndex::Volume, .range = Range{0, 32}, .ticks = 0,
+             .refusedDrag = RefusedDrag::GoesBack, .of = OfSource::Current},
     // Only the buttons are strict about the result.
     ValueRow{.key = "setup.d-zoom", .caption = 194, .ids = {20331, 20332, 20333, 20143}, .code = CommandCode::DigitalZoom,
              .read = AnyResult(Get(CommandCode::DigitalZoom)), .set = AnyResult(Set(CommandCode::DigitalZoom)),
@@ -110,7 +131,7 @@ constexpr PageRow kRows[] = {
     ListRow{"setup.monitor-out-video", 202, 20365, kMonitors, Named(Op::GetMonitorOutVideo), Named(Op::SetMonitorOutVideo), kRouting},
     ListRow{"setup.monitor-out-miu", 203, 20366, kMonitors, Named(Op::GetMonitorOutMIU), Named(Op::SetMonitorOutMIU), kRouting},
     ListRow{"setup.monitor-out-standby", 204, 20367, kMonitors, Named(Op::GetMonitorOutStandby), Named(Op::SetMonitorOutStandby), kRouting},
-    ResetRow{"setup.reset", 20327, 20328, kResets, Rereads::Never},
+    ResetRow{"setup.reset", 20327, 20328, kResets, Rereads::ItsRow},
 };
 
 constexpr ModelRows kModels[] = {

@@ -1,25 +1,57 @@
-#include "device/CommandCode.h"
-#include "settings/CatalogNumbers.h"
 #include "settings/PageTables.h"
+#include "settings/SharedRows.h"
 
 namespace {
 
 using Op = PjtOperation;
 
+constexpr ListEntry kErrors[] = {
+    {ListText::ErrorNone, 0},      {ListText::ErrorCover, 1},       {ListText::ErrorFan, 2},
+    {ListText::ErrorLamp, 3},      {ListText::ErrorTemperature, 4}, {ListText::ErrorAirFlow, 5},
+    {ListText::ErrorLampTime, 6},  {ListText::ErrorCool, 7},        {ListText::ErrorFilter, 8},
+    {ListText::ErrorStatus12, 12},
+};
+constexpr ListEntry kOn[] = {{ListText::On, 1}};
+constexpr ListEntry kFreeze[] = {{ListText::Freeze, 1}};
+
+// Every slot is searched, also those beyond the list's count: hosts leave sources there that the
+// projector can still report.
+std::vector<ListEntry> SourcesInAnySlot(const ModelData& model) {
+  const SourceList& sources = model.MySourceList;
+  std::vector<ListEntry> entries;
+  for (std::size_t i = 0; i < sources.names.size(); ++i) {
+    entries.emplace_back(NameText(sources.names[i]), sources.firstValues[i]);
+  }
+  return entries;
+}
+
+constexpr StateRow State(std::string_view key, int caption, int label, std::uint16_t code,
+                         Entries texts, int otherwise) {
+  return {.key = key,
+          .caption = caption,
+          .control = label,
+          .read = Get(code),
+          .texts = texts,
+          .otherwise = otherwise,
+          .frame = ListText::StatusValue};
+}
+
 constexpr ResetEntry kResets[] = {{ListText::LampTime, Op::ExecLampTimeReset},
                                   {ListText::FilterTime, Op::ExecFilterTimeReset}};
 
+// clang-format off
 constexpr PageRow kRows[] = {
-    OwnRow{"status.power", 145, 20008, Get(CommandCode::RunningState)},
-    OwnRow{"status.input-source", 146, 20009, Get(CommandCode::InputSource)},
-    OwnRow{"status.error", 147, 20010, Get(CommandCode::ErrorStatus)},
-    OwnRow{"status.blank", 148, 20011, Get(CommandCode::BlankState)},
-    OwnRow{"status.mute", 149, 20012, Get(CommandCode::Mute)},
-    OwnRow{"status.freeze", 150, 20013, Get(CommandCode::Freeze)},
-    OwnRow{"status.lamp-time", 151, 20014, Get(CommandCode::LampTime)},
-    OwnRow{"status.filter-time", 152, 20015, Get(CommandCode::FilterTime)},
+    State("status.power", 145, 20008, CommandCode::RunningState, shared::kPowers, ListText::Off),
+    State("status.input-source", 146, 20009, CommandCode::InputSource, SourcesInAnySlot, 0),
+    State("status.error", 147, 20010, CommandCode::ErrorStatus, kErrors, ListText::ErrorOther),
+    State("status.blank", 148, 20011, CommandCode::BlankState, kOn, ListText::Off),
+    State("status.mute", 149, 20012, CommandCode::Mute, kOn, ListText::Off),
+    State("status.freeze", 150, 20013, CommandCode::Freeze, kFreeze, ListText::FreezeNormal),
+    State("status.lamp-time", 151, 20014, CommandCode::LampTime, {}, ListText::Hours),
+    State("status.filter-time", 152, 20015, CommandCode::FilterTime, {}, ListText::Hours),
     ResetRow{"status.reset", 20019, 20018, kResets},
 };
+// clang-format on
 
 }  // namespace
 

@@ -2,25 +2,15 @@
 
 #include <utility>
 
+#include "app/ProjectorLink.h"
 #include "device/BoundedChannel.h"
-#include "device/ModelDataIntake.h"
 #include "host/CAdvanceDlg.h"
-
-namespace {
-
-SimulatedModel Simulate(const ProjectorProfile& profile) {
-  SimulatedModel model = DescribeModel(MakeModelData(profile.Model));
-  model.missing = {profile.Lacks.begin(), profile.Lacks.end()};
-  return model;
-}
-
-}  // namespace
 
 // The log stands outermost: it shows what the dialog got, also where a command was given up before
 // its answer came or was not passed on at all.
 ProjectorSession::ProjectorSession(ProjectorProfile profile, LoggingChannel::Observer observer)
     : profile_(std::move(profile)),
-      simulator_(std::make_shared<SimulatedProjector>(Simulate(profile_))),
+      simulator_(std::make_shared<SimulatedProjector>(SimulatedModelOf(profile_))),
       faultChannel_(std::make_shared<FaultChannel>(
           profile_.Link == ProjectorLink::Simulated ? simulator_
                                                     : MakeUnboundedChannel(AddressOf(profile_)))),

@@ -24,6 +24,8 @@ class ProjectorSession {
   ProjectorSession(ProjectorProfile profile, LoggingChannel::Observer observer);
 
   const ProjectorProfile& Profile() const { return profile_; }
+  /// The way to the projector that dialogs take, too.
+  const std::shared_ptr<ProjectorChannel>& Channel() const { return channel_; }
   /// Of a projector that is not simulated, a simulation that nobody uses.
   SimulatedProjector& Simulator() { return *simulator_; }
 

@@ -9,6 +9,7 @@ declare -A below=(
   [simulator]="device"
   [settings]="device"
   [i18n]="toolkit"
+  [snapshots]="device settings i18n"
   [resources]="toolkit"
   [pages]="toolkit device settings i18n resources"
   [host]="toolkit device settings i18n resources pages"

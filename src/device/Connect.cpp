@@ -100,14 +100,17 @@ struct ChannelMaker {
 
   Channel operator()(const AddressError&) const { return std::make_shared<NoProjector>(); }
   Channel operator()(const TcpAddress& tcp) const {
-    return std::make_shared<TcpChannel>(tcp.host, tcp.port);
+    return std::make_shared<TcpChannel>(tcp.host, tcp.port, wire);
   }
-  Channel operator()(const PjLinkAddress& pjLink) const {
-    return std::make_shared<PjLinkChannel>(pjLink.host, pjLink.port, pjLink.password);
+  Channel operator()(const PjLinkAddress& own) const {
+    return std::make_shared<PjLinkChannel>(own.host, own.port, own.password, pjLink);
   }
   Channel operator()(const SerialAddress& serial) const {
-    return std::make_shared<SerialChannel>(serial.device, serial.baud);
+    return std::make_shared<SerialChannel>(serial.device, serial.baud, wire);
   }
+
+  WireChannel::Limits wire{};
+  PjLinkChannel::Limits pjLink{};
 };
 
 }  // namespace
@@ -132,8 +135,11 @@ ProjectorAddress ParseAddress(std::string_view text, std::string_view password) 
   return MakeSerial(text.substr(0, mark), *baud);
 }
 
-std::shared_ptr<ProjectorChannel> MakeUnboundedChannel(const ProjectorAddress& address) {
-  return std::visit(ChannelMaker{}, address);
+std::shared_ptr<ProjectorChannel> MakeUnboundedChannel(const ProjectorAddress& address,
+                                                       std::chrono::milliseconds timeOut) {
+  const ChannelMaker maker{.wire = {.connect = timeOut, .answer = timeOut},
+                           .pjLink = {.connect = timeOut, .answer = timeOut}};
+  return std::visit(maker, address);
 }
 
 std::shared_ptr<ProjectorChannel> MakeChannel(const ProjectorAddress& address) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -67,7 +68,9 @@ inline std::string SerialDevice(int number) { return "/dev/ttyS" + std::to_strin
 ADVANCED_CONTROL_EXPORT std::shared_ptr<ProjectorChannel> MakeChannel(
     const ProjectorAddress& address);
 
-/// The same without a bound, for a host that puts a channel of its own around it and a
-/// `BoundedChannel` around both.
+/// The same without the `BoundedChannel`, for a host that puts a channel of its own in between, and
+/// for threads that may wait as long as the channel itself does: about `timeOut` for connecting and
+/// for an answer.
 ADVANCED_CONTROL_EXPORT std::shared_ptr<ProjectorChannel> MakeUnboundedChannel(
-    const ProjectorAddress& address);
+    const ProjectorAddress& address,
+    std::chrono::milliseconds timeOut = std::chrono::milliseconds(1500));

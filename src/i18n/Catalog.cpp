@@ -48,30 +48,6 @@ int Fail(std::string problem) {
 // Whether the current directory holds something of this name.
 bool MarkerExists(const char* name) { return access(name, F_OK) == 0; }
 
-std::vector<std::string> CatalogFolders() {
-  Dl_info library{};
-  fs::path libraryFolder;
-  if (dladdr(reinterpret_cast<const void*>(&IsCatalogLoaded), &library) != 0 && library.dli_fname) {
-    libraryFolder = fs::path(library.dli_fname).parent_path();
-  }
-  std::error_code error;
-  const fs::path program = fs::read_symlink("/proc/self/exe", error);
-
-  std::vector<std::string> folders;
-  if (!libraryFolder.empty()) folders.push_back(libraryFolder.string());
-  if (!program.empty()) folders.push_back(program.parent_path().string());
-  if (!libraryFolder.empty()) {
-    folders.push_back((libraryFolder / "../share/advanced-control").string());
-    // A library in a folder of its architecture.
-    folders.push_back((libraryFolder / "../../share/advanced-control").string());
-  }
-#ifdef ADVANCEDCONTROL_DATADIR
-  folders.emplace_back(ADVANCEDCONTROL_DATADIR);
-#endif
-  folders.emplace_back();
-  return folders;
-}
-
 // The text of a message, expanded into `storage` where it has % sequences.
 std::optional<std::string_view> TextOf(const CatalogMessage& message,
                                        std::span<const CatalogInsert> inserts,
@@ -123,6 +99,30 @@ void CopyText(std::string_view text, int bufferSize, char* buffer) {
 }
 
 }  // namespace
+
+std::vector<std::string> CatalogFolders() {
+  Dl_info library{};
+  fs::path libraryFolder;
+  if (dladdr(reinterpret_cast<const void*>(&IsCatalogLoaded), &library) != 0 && library.dli_fname) {
+    libraryFolder = fs::path(library.dli_fname).parent_path();
+  }
+  std::error_code error;
+  const fs::path program = fs::read_symlink("/proc/self/exe", error);
+
+  std::vector<std::string> folders;
+  if (!libraryFolder.empty()) folders.push_back(libraryFolder.string());
+  if (!program.empty()) folders.push_back(program.parent_path().string());
+  if (!libraryFolder.empty()) {
+    folders.push_back((libraryFolder / "../share/advanced-control").string());
+    // A library in a folder of its architecture.
+    folders.push_back((libraryFolder / "../../share/advanced-control").string());
+  }
+#ifdef ADVANCEDCONTROL_DATADIR
+  folders.emplace_back(ADVANCEDCONTROL_DATADIR);
+#endif
+  folders.emplace_back();
+  return folders;
+}
 
 int LoadCatalog() {
   try {

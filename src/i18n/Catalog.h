@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <span>
 #include <string>
+#include <vector>
 
 #include "AdvancedControlExport.h"
 #include "i18n/MessageFormat.h"
@@ -29,6 +30,9 @@ ADVANCED_CONTROL_EXPORT int LoadCatalog();
 
 /// The same with `folders` to look in, in their order; an empty name is the current directory.
 ADVANCED_CONTROL_EXPORT int LoadCatalog(std::span<const std::string> folders);
+
+/// The folders in which the first form looks.
+std::vector<std::string> CatalogFolders();
 
 /// Releases the loaded module, if any.
 ADVANCED_CONTROL_EXPORT void ReleaseCatalog();

@@ -4,6 +4,7 @@
 
 #include "resources/AdvancedControlResources.h"
 #include "settings/PageTables.h"
+#include "settings/picture/PictureRows.h"
 #include "toolkit/CComboBox.h"
 
 CPicTabDlg::CPicTabDlg(CWnd* parent) : PicturePage(TemplateId::Pic, kPicRows, true, parent) {}
@@ -11,7 +12,10 @@ CPicTabDlg::CPicTabDlg(CWnd* parent) : PicturePage(TemplateId::Pic, kPicRows, tr
 // The lists of these models begin with three gammas that the user can shape, and have such a colour
 // temperature in the fourth place only, whatever the entries stand for.
 bool CPicTabDlg::IsCustomGamma(const CComboBox& list) const {
-  return static_cast<std::uint16_t>(list.currentIndex()) <= 2;  // no selection is a large number
+  // No selection is a large number.
+  return static_cast<std::uint16_t>(list.currentIndex()) <= kLastCustomGammaPosition;
 }
 
-bool CPicTabDlg::IsCustomColorTemp(const CComboBox& list) const { return list.currentIndex() == 3; }
+bool CPicTabDlg::IsCustomColorTemp(const CComboBox& list) const {
+  return list.currentIndex() == kCustomColorTempPosition;
+}

@@ -2,15 +2,12 @@
 
 #include "resources/AdvancedControlResources.h"
 #include "settings/PageTables.h"
+#include "settings/picture/PictureRows.h"
 #include "toolkit/CComboBox.h"
 
 namespace {
 
 constexpr int kActiveIrisList = 20293;
-
-// Up to here a gamma, and from here a colour temperature, is one that the user can shape.
-constexpr int kLastCustomGamma = 21;
-constexpr int kFirstCustomColorTemp = 17;
 
 std::vector<ListEntry> ActiveIrisEntries() {
   return std::get<ListRow>(FindRow(kPictureType5Rows, kActiveIrisList)).entries.Of({});

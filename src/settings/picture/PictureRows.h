@@ -12,6 +12,13 @@ inline constexpr auto kMyMemories =
              ListText::MyMemoryBase + 3, ListText::MyMemoryBase + 4, ListText::MyMemoryBase + 5,
              ListText::MyMemoryBase + 6, ListText::MyMemoryBase + 7);
 
+// The gammas and colour temperatures that the user can shape: up to and from a value on the newest
+// models, by their position on the others.
+inline constexpr int kLastCustomGamma = 21;
+inline constexpr int kFirstCustomColorTemp = 17;
+inline constexpr int kLastCustomGammaPosition = 2;
+inline constexpr int kCustomColorTempPosition = 3;
+
 // A gamma is taken by its position, not by its value.
 inline constexpr ListRules kGammaRules{.sendsPosition = true, .emptyIsNotRead = true};
 inline constexpr ListRules kColorTempRules{.error = ErrorText::ColorTempRefused,

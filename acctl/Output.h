@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// Lines of aligned columns, as wide as a terminal shows them.
+class Table {
+ public:
+  void Add(std::vector<std::string> cells) { rows_.push_back(std::move(cells)); }
+  /// One line a row; the last column is not padded.
+  std::string Text() const;
+
+ private:
+  std::vector<std::vector<std::string>> rows_;
+};
+
+/// Columns that a terminal needs for a UTF-8 text.
+int DisplayWidth(std::string_view text);
+
+/// Writes to standard output at once. Nothing is left to do when it fails: the error is told,
+/// unless it is that nobody reads any more, and false.
+bool Print(std::string_view text);
+
+/// One line on standard error, behind the program's name.
+void Complain(std::string_view message);

@@ -1,0 +1,8 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+/// Writes a file as a whole, or leaves the one that is there untouched. One line that says what is
+/// wrong; empty when all is well.
+QString WriteWholeFile(const QString& path, const QByteArray& bytes);

@@ -1,0 +1,35 @@
+#include "i18n/CatalogTexts.h"
+
+#include <filesystem>
+#include <system_error>
+#include <utility>
+
+#include "i18n/Catalog.h"
+
+CatalogTexts::CatalogTexts(std::span<const std::string> folders) {
+  for (const char* module : {"mcdll.dll", "mcschn.dll"}) {
+    for (const std::string& folder : folders) {
+      const std::filesystem::path path = std::filesystem::path(folder) / module;
+      std::error_code error;
+      if (!std::filesystem::is_regular_file(path, error)) continue;
+      if (auto loaded = MessageCatalog::Load(path.string())) {
+        modules_.push_back(std::move(*loaded));
+      }
+      break;
+    }
+  }
+}
+
+std::optional<std::string> CatalogTexts::Find(std::uint32_t languageId, int category, int number,
+                                              std::span<const CatalogInsert> inserts) const {
+  for (const MessageCatalog& module : modules_) {
+    const auto message = module.Find(languageId, MessageId(category, number));
+    if (!message) continue;
+    auto text = message->plain ? std::optional<std::string>(message->text)
+                               : ExpandMessage(message->text, inserts);
+    if (!text) return {};
+    while (text->ends_with('\n') || text->ends_with('\r')) text->pop_back();
+    return text;
+  }
+  return {};
+}

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "snapshots/Snapshot.h"
+
+/// What has become of one saved setting.
+enum class Outcome : std::uint8_t {
+  NotReached,   ///< Nothing was sent for it: the work was cut off before.
+  AlreadySo,    ///< The projector has this value without being told.
+  Differs,      ///< It has another one, and was not told yet.
+  Changed,      ///< Told, and read back so.
+  Refused,      ///< Told in vain, or the projector does not even tell its value.
+  Unconfirmed,  ///< Told, but the projector was gone before it could be read back.
+  Unknown,      ///< The model does not have the setting.
+  NotSettable,  ///< The model has it, but it is not one to put back.
+  NotAllowed,   ///< The model does not take this value.
+};
+
+struct RestoredSetting {
+  SavedSetting saved;
+  const ModelSetting* setting = nullptr;  ///< Null for one that the model does not have.
+  Outcome outcome = Outcome::NotReached;
+  std::optional<int> before{};  ///< What the projector had, where it told it.
+  std::optional<int> now{};     ///< What it has after being told.
+};
+
+/// Puts the settings of a snapshot back on a projector, of the same model or another. First `Read`,
+/// then `Send`; whenever it ends, `Settings` tells the truth, and doing it all again completes it.
+/// `model` and `connection` outlive it.
+class Restoration {
+ public:
+  using Filter = std::function<bool(std::string_view key)>;
+
+  /// Only the settings that pass `filter` take part.
+  Restoration(
+      const Snapshot& snapshot, const ModelSettings& model, CPjtInterface& connection,
+      const Filter& filter = [](std::string_view) { return true; });
+
+  /// Reads the projector and tells what differs.
+  void Read(const Progress& progress = {});
+  /// Sends what differs, what others depend on first, and reads it back; texts are for connections
+  /// that are told them.
+  void Send(const SettingTexts& texts, const Progress& progress = {});
+
+  /// In the snapshot's order.
+  const std::vector<RestoredSetting>& Settings() const { return settings_; }
+  int Count(Outcome outcome) const;
+
+  /// What the projector had of everything that differs: restoring this undoes `Send`.
+  Snapshot Undo(const std::string& projector, const SettingTexts& texts) const;
+
+ private:
+  void Read(RestoredSetting& restored, const Progress& progress);
+  void Confirm(const std::vector<RestoredSetting*>& sent, const Progress& progress);
+
+  const ModelSettings& model_;
+  CPjtInterface& connection_;
+  std::vector<RestoredSetting> settings_;
+};

@@ -1,0 +1,118 @@
+#include "snapshots/SettingTexts.h"
+
+#include <algorithm>
+#include <charconv>
+
+#include <QString>
+
+#include "i18n/SystemLanguage.h"
+#include "settings/CatalogNumbers.h"
+
+namespace {
+
+// No setting is further away, and no sum of two such numbers overflows.
+constexpr int kLargest = 1'000'000;
+
+std::optional<int> Number(std::string_view text) {
+  if (text.starts_with('+')) text.remove_prefix(1);
+  int number = 0;
+  const auto [stop, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  const bool whole = error == std::errc() && stop == text.data() + text.size();
+  if (!whole || number < -kLargest || number > kLargest) return {};
+  return number;
+}
+
+QString Wide(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+bool SameText(std::string_view a, std::string_view b) {
+  return Wide(a).compare(Wide(b).trimmed(), Qt::CaseInsensitive) == 0;
+}
+
+/// The last part of a key in capitals, which is the caption where it is the same in every language.
+std::string Abbreviation(std::string_view key) {
+  return Wide(key.substr(key.rfind('.') + 1)).toUpper().toStdString();
+}
+
+}  // namespace
+
+SettingTexts::SettingTexts(std::span<const std::string> catalogFolders, std::uint32_t languageId)
+    : texts_(catalogFolders), languageId_(languageId) {}
+
+std::string SettingTexts::Text(int category, int number) const {
+  if (auto own = texts_.Find(languageId_, category, number)) return *own;
+  return texts_.Find(kEnglishUnitedStates, category, number).value_or(std::string());
+}
+
+std::string SettingTexts::Caption(const ModelSetting& setting) const {
+  const std::string text = setting.caption != 0 ? Text(kCaptionCategory, setting.caption) : "";
+  return text.empty() ? Abbreviation(setting.key) : text;
+}
+
+std::string SettingTexts::Tab(const ModelSetting& setting) const {
+  return Text(kCaptionCategory, setting.tab);
+}
+
+std::string SettingTexts::Entry(const ListEntry& entry) const {
+  return entry.text != 0 ? Text(kListCategory, entry.text) : std::string(entry.name);
+}
+
+std::string SettingTexts::Value(const ModelSetting& setting, int value) const {
+  const auto entry = std::ranges::find(setting.entries, value, &ListEntry::value);
+  if (entry != setting.entries.end()) {
+    if (std::string text = Entry(*entry); !text.empty()) return text;
+  }
+  return std::to_string(value - setting.bias);
+}
+
+std::string SettingTexts::Values(const ModelSetting& setting) const {
+  if (setting.range) {
+    return std::to_string(setting.range->minimum - setting.bias) + " to " +
+           std::to_string(setting.range->maximum - setting.bias);
+  }
+  if (setting.kind == ModelSetting::Kind::Number) return "a number";
+  std::string texts;
+  for (const ListEntry& entry : setting.entries) {
+    texts += (texts.empty() ? "" : ", ") + Entry(entry);
+  }
+  return texts;
+}
+
+bool SettingTexts::Is(const ListEntry& entry, std::string_view text) const {
+  if (entry.text == 0) return SameText(entry.name, text);
+  for (const std::uint32_t language : {languageId_, kEnglishUnitedStates, kChineseSimplified}) {
+    const auto known = texts_.Find(language, kListCategory, entry.text);
+    if (known && SameText(*known, text)) return true;
+  }
+  return false;
+}
+
+std::optional<TypedValue> SettingTexts::Parse(const ModelSetting& setting,
+                                              std::string_view text) const {
+  for (const ListEntry& entry : setting.entries) {
+    if (Is(entry, text)) return TypedValue{entry.value};
+  }
+  const bool absolute = text.starts_with('=');
+  const bool relative = text.starts_with('+') || text.starts_with('-');
+  const auto number = Number(absolute ? text.substr(1) : text);
+  if (!number) return {};
+  return TypedValue{relative ? *number : *number + setting.bias, relative};
+}
+
+std::optional<int> Resolve(const ModelSetting& setting, const TypedValue& typed,
+                           std::optional<int> present) {
+  int value = typed.amount;
+  if (typed.relative) {
+    if (!present) return {};
+    if (setting.kind == ModelSetting::Kind::Choice) {
+      const int position = PositionOf(setting.entries, *present);
+      const int wanted = position + typed.amount;
+      if (position < 0 || wanted < 0 || wanted >= std::ssize(setting.entries)) return {};
+      value = setting.entries[static_cast<std::size_t>(wanted)].value;
+    } else {
+      value = *present + typed.amount;
+    }
+  }
+  return setting.Allows(value) ? std::optional(value) : std::nullopt;
+}

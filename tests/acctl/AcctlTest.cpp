@@ -1,0 +1,261 @@
+// The program as scripts and people run it: what it prints, its exit codes, and what it leaves
+// behind when something goes wrong.
+
+#include <csignal>
+#include <gmock/gmock.h>
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+
+const QString kRoom = "Projector 5-30";
+
+struct Outcome {
+  int exitCode;
+  std::string output;
+  std::string errors;
+};
+
+Outcome Finish(QProcess& process) {
+  const bool finished = process.waitForFinished(30000);
+  return {finished && process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+          process.readAllStandardOutput().toStdString(),
+          process.readAllStandardError().toStdString()};
+}
+
+Outcome Run(const QString& program, const QStringList& arguments, const char* locale = "C") {
+  QProcess process;
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  environment.insert("LC_ALL", locale);
+  process.setProcessEnvironment(environment);
+  process.start(program, arguments);
+  return Finish(process);
+}
+
+Outcome Acctl(const QStringList& arguments, const char* locale = "C") {
+  return Run(ACCTL_PROGRAM, arguments, locale);
+}
+
+/// A line of the shell, with the program as "$0" and further arguments from "$1".
+Outcome Shell(const QString& line, const QStringList& arguments) {
+  return Run("bash", QStringList{"-c", line, ACCTL_PROGRAM} + arguments);
+}
+
+QByteArray Contents(const QString& path) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void Write(const QString& path, const QByteArray& text) {
+  QFile file(path);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
+}
+
+/// The simulator as a process of its own, so that what one run changes is there for the next.
+class Simulator {
+ public:
+  explicit Simulator(const QStringList& options = {}) {
+    process_.start(SIMULATOR_PROGRAM, QStringList{"--projector", kRoom} + options);
+    QByteArray output;
+    while (!output.contains("ready") && process_.waitForReadyRead(10000)) {
+      output += process_.readAllStandardOutput();
+    }
+    address_ = QRegularExpression("tcp://\\S+").match(QString::fromUtf8(output)).captured();
+  }
+  ~Simulator() {
+    process_.terminate();
+    process_.waitForFinished(5000);
+  }
+  QStringList At(const QStringList& arguments) const {
+    return QStringList{"--connect", address_} + arguments;
+  }
+
+ private:
+  QProcess process_;
+  QString address_;
+};
+
+TEST(Acctl, AnswersWrongUseWithOneLineAndExitCode2) {
+  const struct {
+    QStringList arguments;
+    const char* error;
+  } kCases[] = {
+      {{}, "a command is missing"},
+      {{"fly"}, "there is no command 'fly'"},
+      {{"--fast", "list"}, "there is no option --fast"},
+      {{"list", "--jobs"}, "--jobs needs N"},
+      {{"list", "--jobs", "0"}, "--jobs: '0' is not possible"},
+      {{"list", "--json=1"}, "--json takes no value"},
+      {{"list", "--timeout=0.001"}, "--timeout: '0.001'"},
+      {{"list", "--language", "1034"}, "--language: '1034'"},
+      {{"list", "x"}, "use: acctl list"},
+      {{"set", kRoom, "picture.tint"}, "use: acctl set P KEY VALUE"},
+      {{"get", "Nobody"}, "there is no projector 'Nobody'"},
+      {{"get", kRoom, "picture.smell"}, "picture.smell: this model has no such setting"},
+      {{"set", kRoom, "picture.tint", "99"}, "picture.tint: '99' is not one of: -31 to 31"},
+      {{"set", kRoom, "status.error", "1"}, "status.error: this cannot be set"},
+      {{"reset", kRoom, "picture.gamma"}, "picture.gamma: this cannot be reset"},
+      {{"save", "Projector 5-*", "x"}, "this takes one projector, not"},
+      {{"diff", kRoom, "/nowhere"}, "cannot read /nowhere: "},
+      {{"apply", "/etc/passwd", kRoom}, "/etc/passwd: line 1: "},
+      {{"apply", TEST_CATALOG_DIR "/projectors.json", kRoom}, "this is no file of saved settings"},
+      {{"--profiles", "/nowhere", "list"}, "cannot read profiles /nowhere"},
+      {{"--connect", "tcp://a:b", "status", kRoom}, "--connect: "},
+  };
+  for (const auto& [arguments, error] : kCases) {
+    SCOPED_TRACE(arguments.join(' ').toStdString());
+    const Outcome run = Acctl(arguments);
+    EXPECT_EQ(run.exitCode, 2);
+    EXPECT_EQ(run.output, "");
+    EXPECT_THAT(run.errors, testing::AllOf(StartsWith("acctl: "), HasSubstr(error)));
+    EXPECT_EQ(std::ranges::count(run.errors, '\n'), 1);
+  }
+}
+
+TEST(Acctl, PrintsAlignedTextInBothLanguages) {
+  EXPECT_EQ(Acctl({"get", kRoom, "picture.brightness", "picture.active-iris"}).output,
+            "picture.brightness   Brightness   0\n"
+            "picture.active-iris  Active Iris  Off\n");
+  EXPECT_EQ(Acctl({"get", kRoom, "picture.t*", "picture.gamma"}, "zh_CN.UTF-8").output,
+            "picture.tint   色调  0\n"
+            "picture.gamma  伽马  #1-默认\n");
+  EXPECT_EQ(Acctl({"set", kRoom, "picture.active-iris", "影院", "picture.tint", "=-3"}).output,
+            "picture.active-iris  Active Iris  Theater\n"
+            "picture.tint         Tint         -3\n");
+  const Outcome atEnd = Acctl({"set", kRoom, "screen.language", "-1"});
+  EXPECT_EQ(atEnd.exitCode, 2);
+  EXPECT_THAT(atEnd.errors, HasSubstr("screen.language: '-1' from English is not one of: English"));
+  EXPECT_THAT(Acctl({"settings", kRoom}).output, HasSubstr("picture.tint "));
+  EXPECT_THAT(Acctl({"list", "--brief"}).output, HasSubstr("\nProjector 5-30\n"));
+  EXPECT_THAT(Acctl({"--help"}).output, StartsWith("Use: acctl"));
+}
+
+TEST(Acctl, PrintsJsonForScripts) {
+  const Outcome run = Acctl({"--json", "get", "Projector 5-3[01]", "picture.sharpness"});
+  const QJsonArray projectors =
+      QJsonDocument::fromJson(QByteArray::fromStdString(run.output))["projectors"].toArray();
+  ASSERT_EQ(projectors.size(), 2);
+  EXPECT_EQ(projectors[1]["name"].toString(), "Projector 5-31");
+  const QJsonObject setting = projectors[0]["settings"][0].toObject();
+  EXPECT_EQ(setting, (QJsonObject{{"key", "picture.sharpness"},
+                                  {"caption", "Sharpness"},
+                                  {"value", 128},
+                                  {"shown", 4},
+                                  {"text", "4"}}));
+}
+
+TEST(Acctl, PutsSettingsBackAndUndoesIt) {
+  const QTemporaryDir folder;
+  const QString file = folder.filePath("good.json");
+  const Simulator simulator;
+  const auto run = [&](const QStringList& arguments) { return Acctl(simulator.At(arguments)); };
+  EXPECT_EQ(run({"set", kRoom, "picture.brightness", "7", "picture.gamma", "#2-Custom"}).exitCode,
+            0);
+  EXPECT_EQ(run({"save", kRoom, file}).exitCode, 0);
+  EXPECT_EQ(run({"set", kRoom, "picture.brightness", "-3", "other.input-source", "+1"}).exitCode,
+            0);
+  EXPECT_EQ(run({"reset", kRoom, "picture.tint"}).exitCode, 0);
+  const Outcome dry = run({"apply", "--dry-run", "--only", "picture.*", file, kRoom});
+  EXPECT_THAT(dry.output, HasSubstr("picture.brightness  Brightness  4  ->  7\n1 different, "));
+  EXPECT_THAT(run({"apply", file, kRoom}).output, StartsWith("2 changed, "));
+  EXPECT_THAT(run({"diff", kRoom, file}).output, testing::ContainsRegex("^[0-9]+ already so\n$"));
+  const QStringList undo = QDir(folder.path()).entryList({"good.undo.Projector_5-30.*.json"});
+  ASSERT_EQ(undo.size(), 1);
+  EXPECT_EQ(run({"apply", folder.filePath(undo.front()), kRoom}).output, "2 changed\n");
+  EXPECT_THAT(run({"get", kRoom, "picture.brightness"}).output, HasSubstr("  4\n"));
+}
+
+TEST(Acctl, TellsWhatIsRefusedAndWhatDoesNotAnswer) {
+  const Simulator refuses({"--fault", "refuse"});
+  const Outcome refused = Acctl(refuses.At({"set", kRoom, "picture.tint", "3"}));
+  EXPECT_EQ(refused.exitCode, 1);
+  EXPECT_THAT(refused.errors, StartsWith("acctl: Projector 5-30: picture.tint: refused\n"));
+
+  QElapsedTimer time;
+  time.start();
+  const Simulator silent({"--fault", "silent"});
+  const Outcome late = Acctl(silent.At({"--timeout", "0.5", "get", kRoom}));
+  EXPECT_EQ(late.exitCode, 3);
+  EXPECT_EQ(late.errors, "acctl: Projector 5-30: status.power: no answer\n");
+  const Outcome nobody = Acctl({"--connect", "tcp://127.0.0.1:1", "status", kRoom});
+  EXPECT_EQ(nobody.exitCode, 3);
+  EXPECT_LT(time.elapsed(), 10000);
+}
+
+TEST(Acctl, SaysWhenInterruptedWhatWasDone) {
+  const QTemporaryDir folder;
+  const QString file = folder.filePath("good.json");
+  ASSERT_EQ(Acctl({"save", kRoom, file}).exitCode, 0);
+  QByteArray other = Contents(file);
+  Write(file, other.replace("\"value\": 128", "\"value\": 129"));
+  const Simulator simulator({"--fault", "late 60"});
+  QProcess process;
+  process.start(ACCTL_PROGRAM, simulator.At({"apply", file, kRoom}));
+  while (QDir(folder.path()).entryList({"good.undo.*"}).isEmpty() &&
+         process.state() != QProcess::NotRunning) {
+    process.waitForFinished(20);
+  }
+  ::kill(static_cast<pid_t>(process.processId()), SIGINT);
+  const Outcome cut = Finish(process);
+  EXPECT_EQ(cut.exitCode, 128 + SIGINT);
+  EXPECT_THAT(cut.output, HasSubstr(" different, "));
+  EXPECT_THAT(cut.errors, HasSubstr("cut off"));
+  EXPECT_EQ(Acctl(simulator.At({"apply", file, kRoom})).exitCode, 0);
+  EXPECT_THAT(Acctl(simulator.At({"diff", kRoom, file})).output,
+              testing::ContainsRegex("^[0-9]+ already so\n$"));
+
+  QProcess watch;
+  watch.start(ACCTL_PROGRAM, simulator.At({"watch", kRoom, "picture.tint", "--interval", "0.05"}));
+  ASSERT_TRUE(watch.waitForReadyRead(10000));
+  EXPECT_EQ(Acctl(simulator.At({"set", kRoom, "picture.tint", "9"})).exitCode, 0);
+  ASSERT_TRUE(watch.waitForReadyRead(10000));
+  watch.terminate();
+  const Outcome watched = Finish(watch);
+  EXPECT_EQ(watched.exitCode, 0);
+  EXPECT_EQ(watched.output, "picture.tint  Tint  1\npicture.tint  Tint  9\n");
+}
+
+TEST(Acctl, LeavesNothingHalfWritten) {
+  const QTemporaryDir folder;
+  const QString file = folder.filePath("kept.json");
+  Write(file, "precious");
+  const QStringList save{"save", kRoom, file};
+  const Outcome full = Shell("trap '' XFSZ; ulimit -f 1; exec \"$0\" \"$@\"", save);
+  EXPECT_EQ(full.exitCode, 1);
+  EXPECT_THAT(full.errors, HasSubstr("cannot write " + file.toStdString()));
+  EXPECT_EQ(Contents(file), "precious");
+  EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList{"kept.json"});
+
+  ASSERT_EQ(Acctl({"save", kRoom, file}).exitCode, 0);
+  QByteArray text = Contents(file);
+  Write(file, text.replace("\"value\": 128", "\"value\": 129"));
+  const Outcome noUndo = Acctl({"apply", "--undo", "/proc", file, kRoom});
+  EXPECT_EQ(noUndo.exitCode, 1);
+  EXPECT_THAT(noUndo.errors, HasSubstr("nothing was sent"));
+  EXPECT_THAT(noUndo.output, HasSubstr(" different, "));
+
+  const Outcome readOnly = Acctl({"save", kRoom, "/proc/kept.json"});
+  EXPECT_EQ(readOnly.exitCode, 1);
+  EXPECT_THAT(readOnly.errors, HasSubstr("cannot write /proc/kept.json"));
+  const Outcome noSpace = Shell("exec \"$0\" \"$@\" > /dev/full", {"get", kRoom});
+  EXPECT_EQ(noSpace.exitCode, 1);
+  EXPECT_EQ(noSpace.errors, "acctl: cannot write: No space left on device\n");
+  const Outcome noReader =
+      Shell("set -o pipefail; (sleep 0.1; \"$0\" \"$@\") | true", {"get", kRoom});
+  EXPECT_EQ(noReader.exitCode, 1);
+  EXPECT_EQ(noReader.errors, "") << "who left does not want to be told";
+}
+
+}  // namespace

@@ -1,0 +1,132 @@
+// What the dialog shows of each projector of the profile file, held against the list of its
+// settings that programs without a window use.
+
+#include <gmock/gmock.h>
+#include <map>
+#include <set>
+
+#include <QCheckBox>
+#include <gtest/gtest.h>
+
+#include "app/ProjectorLink.h"
+#include "device/ModelDataIntake.h"
+#include "i18n/SystemLanguage.h"
+#include "pages/input/CServiceDlg.h"
+#include "pages/picture/CColorDlg.h"
+#include "pages/picture/CGammaDlg.h"
+#include "settings/PageTables.h"
+#include "snapshots/SettingTexts.h"
+#include "tests/support/DialogDriver.h"
+#include "toolkit/CSliderCtrl.h"
+
+namespace {
+
+const SettingTexts& Texts() {
+  static const std::vector<std::string> folders{TEST_CATALOG_DIR};
+  static const SettingTexts texts(folders, kEnglishUnitedStates);
+  return texts;
+}
+
+/// A control as its setting has it: what a person could choose there.
+using Shown = std::map<int, std::string>;
+
+std::string ListText(const std::vector<std::string>& texts) {
+  return testing::PrintToString(texts);
+}
+
+/// The settings that a dialog shows, by their controls.
+Shown ShownBy(const CDialog& dialog, const PageTable& table) {
+  std::set<int> helpers;  // lists of resets and actions, which are no settings
+  for (const PageRow& row : table.rows) {
+    if (const auto* reset = std::get_if<ResetRow>(&row)) helpers.insert(reset->list);
+    if (const auto* action = std::get_if<ActionRow>(&row)) helpers.insert(action->list);
+  }
+  Shown shown;
+  for (const RowTemplate& row : dialog.Template()->rows) {
+    for (const ControlTemplate& control : row.controls) {
+      if (control.kind == ControlKind::None || helpers.contains(control.id)) continue;
+      QWidget* const widget = dialog.GetDlgItem(control.id);
+      if (widget == nullptr || widget->isHidden()) continue;
+      if (const auto* list = qobject_cast<CComboBox*>(widget)) {
+        std::vector<std::string> texts;
+        for (int i = 0; i < list->count(); ++i) texts.push_back(list->itemText(i).toStdString());
+        shown[control.id] = ListText(texts);
+      } else if (const auto* slider = qobject_cast<CSliderCtrl*>(widget)) {
+        shown[control.id] =
+            std::to_string(slider->minimum()) + " to " + std::to_string(slider->maximum());
+      } else if (qobject_cast<QCheckBox*>(widget) != nullptr) {
+        shown[control.id] = ListText({"Off", "On"});
+      }
+    }
+  }
+  return shown;
+}
+
+/// The same as the list of settings says. Fields and buttons tell no choice: only that they show.
+Shown SaidFor(const ModelSettings& settings, const CDialog& dialog, const PageTable& table) {
+  Shown said;
+  for (const ModelSetting& setting : settings.All()) {
+    if (setting.row < table.rows.data() || setting.row >= table.rows.data() + table.rows.size()) {
+      continue;
+    }
+    const int control = ControlOf(*setting.row);
+    EXPECT_FALSE(dialog.GetDlgItem(control)->isHidden()) << setting.key;
+    if (std::holds_alternative<ListRow>(*setting.row) ||
+        std::holds_alternative<CheckRow>(*setting.row)) {
+      std::vector<std::string> texts;
+      for (const ListEntry& entry : setting.entries) texts.push_back(Texts().Entry(entry));
+      said[control] = ListText(texts);
+    } else if (setting.range) {
+      said[control] = Texts().Values(setting);
+    }
+  }
+  return said;
+}
+
+void ExpectSame(const ModelSettings& settings, const CDialog& dialog, const PageTable& table) {
+  Shown shown = ShownBy(dialog, table);
+  // Rows that are still their page's own say no more than that they are there.
+  for (const PageRow& row : table.rows) {
+    if (std::holds_alternative<OwnRow>(row)) shown.erase(ControlOf(row));
+  }
+  EXPECT_EQ(shown, SaidFor(settings, dialog, table));
+}
+
+TEST(SettingsList, HoldsWhatThePagesAndPopUpsOfEveryProjectorShow) {
+  const auto profiles = ReadProfileFile(TEST_CATALOG_DIR "/projectors.json").projectors;
+  ASSERT_GT(profiles.size(), 50U);
+  for (const ProjectorProfile& profile : profiles) {
+    SCOPED_TRACE(profile.Name);
+    const ModelSettings settings(MakeModelData(profile.Model));
+    CAdvanceDlg dialog;
+    dialog.CopyData(&profile.Model, 0);
+    dialog.Projector().SetChannel(std::make_shared<SimulatedProjector>(SimulatedModelOf(profile)));
+    ASSERT_TRUE(dialog.Create());
+    const auto tabs = TabsOf(profile.Model.DialogType, profile.Model.ModelCode);
+    for (std::size_t tab = 0; tab < tabs.size(); ++tab) {
+      dialog.findChild<QTabBar*>()->setCurrentIndex(static_cast<int>(tab) + 1);
+      SCOPED_TRACE(Texts().Tab({.key = "", .tab = tabs[tab].caption, .entries = {}}));
+      const PageTable& table = TableOf(tabs[tab].page);
+      if (KeepsTemplate(table, profile.Model.ModelCode)) continue;
+      ExpectSame(settings, *dialog.ShownPage(), table);
+    }
+    const auto popUp = [&](CDialog& window, const char* key, const PageTable& table) {
+      if (settings.Find(key) == nullptr) return;
+      SCOPED_TRACE(key);
+      ASSERT_TRUE(window.Create());
+      ExpectSame(settings, window, table);
+    };
+    CGammaDlg gamma(false, &dialog);
+    gamma.projector = &dialog.Projector();
+    popUp(gamma, "gamma.pattern", kGammaRows);
+    CColorDlg colorTemp(false, &dialog);
+    colorTemp.projector = &dialog.Projector();
+    popUp(colorTemp, "color-temp.pattern", kColorTempRows);
+    CServiceDlg service(&dialog);
+    service.projector = &dialog.Projector();
+    service.ModelCode = profile.Model.ModelCode;
+    popUp(service, "service.auto-adjust", kServiceRows);
+  }
+}
+
+}  // namespace

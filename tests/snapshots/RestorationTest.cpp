@@ -1,0 +1,232 @@
+// Snapshots on every projector of the profile file: kept, disturbed, put back.
+
+#include <gmock/gmock.h>
+#include <random>
+#include <set>
+
+#include <gtest/gtest.h>
+
+#include "app/ProjectorLink.h"
+#include "i18n/SystemLanguage.h"
+#include "snapshots/Restoration.h"
+
+namespace {
+
+using Random = std::minstd_rand;
+
+const SettingTexts& Texts() {
+  static const std::vector<std::string> folders{TEST_CATALOG_DIR};
+  static const SettingTexts texts(folders, kEnglishUnitedStates);
+  return texts;
+}
+
+const std::vector<ProjectorProfile>& Profiles() {
+  static const auto profiles = ReadProfileFile(TEST_CATALOG_DIR "/projectors.json").projectors;
+  return profiles;
+}
+
+const ProjectorProfile& Profile(std::string_view name) {
+  return *std::ranges::find(Profiles(), name, &ProjectorProfile::Name);
+}
+
+/// A projector whose commands may be refused, get lost on the way there or back, or end for good.
+struct Disturbed : ProjectorChannel {
+  PjtReply Execute(const PjtCommand& command) override {
+    ++count;
+    if (!IsRead(command.operation)) ++sent;
+    const PjtReply lost{.result = RefusedResult(command.operation), .answered = false};
+    if (count > deadAfter || Happens(lostPercent)) return lost;
+    if (Happens(refusedPercent)) return {.result = RefusedResult(command.operation)};
+    const PjtReply reply = projector.Execute(command);
+    return Happens(lostPercent) ? lost : reply;
+  }
+  bool Happens(int percent) { return static_cast<int>(random() % 100) < percent; }
+
+  explicit Disturbed(const ProjectorProfile& profile) : projector(SimulatedModelOf(profile)) {}
+  SimulatedProjector projector;
+  Random random{7};
+  int refusedPercent = 0, lostPercent = 0, deadAfter = 1 << 30;
+  int count = 0, sent = 0;
+};
+
+struct Room {
+  explicit Room(const ProjectorProfile& profile)
+      : channel(std::make_shared<Disturbed>(profile)), link(profile, channel) {}
+
+  Snapshot Take() { return TakeSnapshot(link.Name(), link.Settings(), link.Connection(), Texts()); }
+  Restoration Prepare(const Snapshot& snapshot) {
+    return {snapshot, link.Settings(), link.Connection()};
+  }
+  Progress Careful() {
+    return {.goesOn = [this] { return !link.Channel().IsGone(); }};
+  }
+  Restoration Restore(const Snapshot& snapshot) {
+    Restoration restoration = Prepare(snapshot);
+    restoration.Read(Careful());
+    restoration.Send(Texts(), Careful());
+    return restoration;
+  }
+  void ChangeAll(unsigned seed) {
+    Random random(seed);
+    for (const ModelSetting& setting : link.Settings().All()) {
+      if (!setting.Restorable()) continue;
+      const int value = AnyValue(setting, random);
+      link.Settings().Change(link.Connection(), setting, value);
+    }
+  }
+  static int AnyValue(const ModelSetting& setting, Random& random) {
+    if (setting.kind == ModelSetting::Kind::Choice) {
+      return setting.entries[random() % setting.entries.size()].value;
+    }
+    const Range range = setting.range.value_or(Range{100, 120});
+    const auto size = static_cast<unsigned>(range.maximum - range.minimum + 1);
+    return range.minimum + static_cast<int>(random() % size);
+  }
+
+  std::shared_ptr<Disturbed> channel;
+  ProjectorLink link;
+};
+
+TEST(Restoration, BringsEveryProjectorBackAndUndoesItself) {
+  ASSERT_GT(Profiles().size(), 50U);
+  for (const ProjectorProfile& profile : Profiles()) {
+    SCOPED_TRACE(profile.Name);
+    Room room(profile);
+    room.ChangeAll(1);
+    const Snapshot wanted = room.Take();
+    room.ChangeAll(2);
+    const Snapshot before = room.Take();
+    Restoration restoration = room.Prepare(wanted);
+    restoration.Read();
+    const Snapshot undo = restoration.Undo(profile.Name, Texts());
+    restoration.Send(Texts());
+    EXPECT_EQ(room.Take().settings, wanted.settings);
+    EXPECT_EQ(restoration.Count(Outcome::Changed) + restoration.Count(Outcome::AlreadySo),
+              static_cast<int>(wanted.settings.size()));
+    const int sent = room.channel->sent;
+    EXPECT_EQ(room.Restore(wanted).Count(Outcome::Changed), 0);
+    EXPECT_EQ(room.channel->sent, sent) << "what is so is not sent again";
+    room.Restore(undo);
+    EXPECT_EQ(room.Take().settings, before.settings);
+  }
+}
+
+// Whatever goes wrong, each list holds what is in it, and doing it again completes it.
+TEST(Restoration, TellsTheTruthWhenCommandsAreRefusedAndLost) {
+  const struct {
+    int refused, lost, deadAfter;
+  } kCases[] = {{1, 1, 1 << 30}, {30, 10, 1 << 30}, {0, 0, 40}, {0, 0, 100}, {0, 0, 130}};
+  const ProjectorProfile& profile = Profile("Projector 5-54");
+  for (const auto& disturbance : kCases) {
+    SCOPED_TRACE(testing::Message()
+                 << disturbance.refused << ' ' << disturbance.lost << ' ' << disturbance.deadAfter);
+    Room room(profile);
+    room.ChangeAll(1);
+    const Snapshot wanted = room.Take();
+    room.ChangeAll(2);
+    const Snapshot before = room.Take();
+    room.channel->count = 0;
+    room.channel->refusedPercent = disturbance.refused;
+    room.channel->lostPercent = disturbance.lost;
+    room.channel->deadAfter = disturbance.deadAfter;
+    const Restoration restoration = room.Restore(wanted);
+    room.channel->refusedPercent = room.channel->lostPercent = 0;
+    room.channel->deadAfter = 1 << 30;
+    ProjectorLink again(profile, room.channel);
+    for (const RestoredSetting& restored : restoration.Settings()) {
+      SCOPED_TRACE(restored.saved.key);
+      const auto now = again.Settings().Read(again.Connection(), *restored.setting);
+      const bool done =
+          restored.outcome == Outcome::Changed || restored.outcome == Outcome::AlreadySo;
+      if (done) {
+        EXPECT_EQ(now, restored.saved.value);
+      } else if (restored.outcome == Outcome::Refused && restored.now) {
+        EXPECT_EQ(now, restored.now);
+      } else if (restored.outcome == Outcome::NotReached || restored.outcome == Outcome::Differs) {
+        const auto same =
+            std::ranges::find(before.settings, restored.saved.key, &SavedSetting::key);
+        EXPECT_EQ(now, same->value) << "nothing was sent";
+      }
+    }
+    Restoration rest(wanted, again.Settings(), again.Connection());
+    rest.Read();
+    rest.Send(Texts());
+    EXPECT_EQ(rest.Count(Outcome::Changed) + rest.Count(Outcome::AlreadySo),
+              static_cast<int>(wanted.settings.size()));
+  }
+}
+
+TEST(Restoration, SkipsWhatTheModelDoesNotTakeAndStopsWhenTold) {
+  Room room(Profile("Projector 5-30"));
+  Snapshot snapshot = room.Take();
+  snapshot.settings = {{"picture.brightness", 1000, ""}, {"picture.gamma", 99, ""},
+                       {"status.power", 0, ""},          {"no.such", 1, ""},
+                       {"picture.contrast", 130, ""},    {"picture.tint", 131, ""}};
+  Restoration restoration = room.Prepare(snapshot);
+  restoration.Read();
+  restoration.Send(Texts(), {.goesOn = [&room] { return room.channel->sent == 0; }});
+  std::vector<Outcome> outcomes;
+  for (const auto& restored : restoration.Settings()) outcomes.push_back(restored.outcome);
+  EXPECT_THAT(outcomes,
+              testing::ElementsAre(Outcome::NotAllowed, Outcome::NotAllowed, Outcome::NotSettable,
+                                   Outcome::Unknown, Outcome::Changed, Outcome::Differs));
+}
+
+TEST(Snapshot, IsReadAsWrittenAndRefusedWhenWrong) {
+  Room room(Profiles().front());
+  const Snapshot snapshot = room.Take();
+  const QByteArray text = WriteSnapshot(snapshot);
+  const SnapshotContents contents = ReadSnapshot(text);
+  EXPECT_EQ(contents.error, "");
+  EXPECT_EQ(contents.snapshot, snapshot);
+  for (const auto& [from, to, error] : std::vector<std::array<const char*, 3>>{
+           {"\"format\"", "\"formal\"", "no file of saved settings"},
+           {"\"version\": 1", "\"version\": 2", "only version 1"},
+           {"\"value\": ", "\"value\": 0.5, \"x\": ", "settings[0].value: must be a whole"},
+           {"\"value\": ", "\"value\": 1e9, \"x\": ", "settings[0].value: must be a whole"},
+           {"\"settings\": [", "\"settings\": [1,", "settings[0]: must be an object"},
+           {"\"settings\"", "\"settingz\"", "settings: must be an array"},
+           {"\"key\": \"", "\"kez\": \"", "settings[0].key: must be a text"},
+           {"\"model\": {", "\"model\": {]", "line 3: "}}) {
+    QByteArray wrong = text;
+    wrong.replace(wrong.indexOf(from), static_cast<int>(strlen(from)), to);
+    EXPECT_THAT(ReadSnapshot(wrong).error.toStdString(), testing::HasSubstr(error));
+  }
+}
+
+TEST(SettingTexts, UnderstandsWhatPeopleType) {
+  const Room room(Profile("Projector 5-30"));
+  const struct {
+    const char* key;
+    const char* text;
+    std::optional<int> value;  // from present value `from`
+    int from = 0;
+  } kCases[] = {
+      {"picture.brightness", "5", 133},
+      {"picture.brightness", "=-31", 97},
+      {"picture.brightness", "32", {}},
+      {"picture.brightness", "+3", 131, 128},
+      {"picture.brightness", "-3", 125, 128},
+      {"picture.brightness", "+1", {}, 159},
+      {"picture.brightness", "", {}},
+      {"picture.brightness", "5x", {}},
+      {"picture.brightness", "99999999999", {}},
+      {"picture.sharpness", "4", 128},
+      {"picture.active-iris", "theater", 16},
+      {"picture.active-iris", "影院", 16},
+      {"picture.active-iris", "17", 17},
+      {"picture.active-iris", "1", {}},
+      {"picture.active-iris", "+1", 16, 0},
+      {"picture.active-iris", "+1", {}, 17},
+      {"input.hdmi-none", "1", {}},
+      {"setup.mirror", "H&V Inverse", 3},
+  };
+  for (const auto& [key, text, value, from] : kCases) {
+    const ModelSetting* const setting = room.link.Settings().Find(key);
+    if (setting == nullptr) continue;
+    const auto typed = Texts().Parse(*setting, text);
+    EXPECT_EQ(typed ? Resolve(*setting, *typed, from) : std::nullopt, value) << key << ' ' << text;
+  }
+}
+
+}  // namespace

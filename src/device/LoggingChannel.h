@@ -20,6 +20,7 @@ class ADVANCED_CONTROL_EXPORT LoggingChannel : public ProjectorChannel {
       : inner_(std::move(inner)), observer_(std::move(observer)) {}
 
   PjtReply Execute(const PjtCommand& command) override;
+  void Abandon() override { inner_->Abandon(); }
 
  private:
   std::shared_ptr<ProjectorChannel> inner_;

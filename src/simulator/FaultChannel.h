@@ -46,6 +46,7 @@ class ADVANCED_CONTROL_EXPORT FaultChannel : public ProjectorChannel {
   void Clear();
 
   PjtReply Execute(const PjtCommand& command) override;
+  void Abandon() override { inner_->Abandon(); }
 
  private:
   Fault FaultOf(const PjtCommand& command) const;

@@ -54,20 +54,17 @@ CAdvanceDlg* DialogKeeper::Open(const ProjectorSession& session) {
   const bool isNew = dialog == nullptr;
   if (isNew) {
     dialog = (dialogs_[&session] = session.MakeDialog()).get();
-    if (!dialog->Create()) {
-      dialogs_.erase(&session);
-      return nullptr;
-    }
     connect(dialog, &QDialog::finished, this, [this, key = &session] { Retire(key); });
-    Arrange(*dialog);
     Q_EMIT Opened(&session);
+    if (!dialog->CreateShown([this, dialog] { Arrange(*dialog); })) Retire(&session);
+    if (Of(session) != dialog) return nullptr;  // it may have been closed while it was read
   }
   dialog->setWindowState(dialog->windowState() & ~Qt::WindowMinimized);
   dialog->show();
   dialog->raise();
   dialog->activateWindow();
   if (isNew) ShowLastTab(*dialog, session.Profile().Model);
-  return Of(session);  // it may have been closed while the tab was read
+  return Of(session);  // and while the tab was read
 }
 
 void DialogKeeper::ShowLastTab(CAdvanceDlg& dialog, const CModelInfo2& model) {
@@ -130,6 +127,12 @@ void DialogKeeper::CloseAll() {
   for (const auto& [session, dialog] : dialogs_) Remember(*dialog);
   retired_.clear();
   dialogs_.clear();
+}
+
+void DialogKeeper::RejectAll() {
+  std::vector<CAdvanceDlg*> open;
+  for (const auto& [session, dialog] : dialogs_) open.push_back(dialog.get());
+  for (CAdvanceDlg* dialog : open) dialog->reject();
 }
 
 void DialogKeeper::Retire(const ProjectorSession* session) {

@@ -26,7 +26,7 @@ class DialogKeeper : public QObject {
   ~DialogKeeper() override;
 
   /// Opens a projector's dialog or brings the open one to the front. Null when it could not be
-  /// opened; owned by the keeper.
+  /// opened, or was closed while it was read; owned by the keeper.
   CAdvanceDlg* Open(const ProjectorSession& session);
 
   /// The projector's open dialog, or null.
@@ -35,6 +35,9 @@ class DialogKeeper : public QObject {
   /// Closes a projector's dialog, if it is open. The projector may be destroyed afterwards.
   void Close(const ProjectorSession& session);
   void CloseAll();
+  /// Takes all dialogs off the screen; those whose handlers still run live on until these have
+  /// returned.
+  void RejectAll();
 
  Q_SIGNALS:
   void Opened(const ProjectorSession* session);

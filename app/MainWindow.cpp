@@ -292,7 +292,9 @@ void MainWindow::ShowAbout() {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   Remember();
-  // Ends every event loop, also those of messages and pop-ups; the dialogs end with this window.
+  // Nobody waits for a projector any more. Then every event loop ends, also those of messages and
+  // pop-ups; the dialogs end with this window.
+  dialogs_->RejectAll();
   event->accept();
   QCoreApplication::exit();
 }

@@ -21,6 +21,7 @@ class ADVANCED_CONTROL_EXPORT LoggingChannel : public ProjectorChannel {
 
   PjtReply Execute(const PjtCommand& command) override;
   void Announce(std::span<const PjtCommand> reads) override { inner_->Announce(reads); }
+  void Abandon() override { inner_->Abandon(); }
   ConnectionState Connection() const override { return inner_->Connection(); }
 
  private:

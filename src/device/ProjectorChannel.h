@@ -39,6 +39,12 @@ class ADVANCED_CONTROL_EXPORT ProjectorChannel {
   /// them at once. Binds nobody: any command may follow. Replaces what was announced before.
   virtual void Announce(std::span<const PjtCommand>) {}
 
+  /// Nobody waits for the projector any more, nor for what was announced. An `Execute` that lets an
+  /// event loop run ends at once, unanswered; the reply to its command is dropped. A channel that
+  /// spares a silent projector forgets that it was silent. Called on the thread of `Execute`, from
+  /// inside its event loop or between two commands.
+  virtual void Abandon() {}
+
   /// How the connection stands; of a channel that has none, `ConnectionState::None`.
   virtual ConnectionState Connection() const { return ConnectionState::None; }
 };

@@ -47,6 +47,7 @@ class ADVANCED_CONTROL_EXPORT FaultChannel : public ProjectorChannel {
 
   PjtReply Execute(const PjtCommand& command) override;
   void Announce(std::span<const PjtCommand> reads) override { inner_->Announce(reads); }
+  void Abandon() override { inner_->Abandon(); }
   ConnectionState Connection() const override { return inner_->Connection(); }
 
  private:

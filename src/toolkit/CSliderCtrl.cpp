@@ -7,8 +7,11 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStyle>
 #include <QStyleOptionSlider>
 #include <QWheelEvent>
+
+#include "toolkit/DragBubble.h"
 
 namespace {
 
@@ -20,6 +23,13 @@ constexpr int kClosestTicks = 3;  // nearer to each other they are a line
 
 CSliderCtrl::CSliderCtrl(QWidget* parent) : QSlider(Qt::Horizontal, parent) {
   setFocusPolicy(Qt::StrongFocus);
+  AttachDragBubble(*this);
+}
+
+QRect CSliderCtrl::HandleRect() const {
+  QStyleOptionSlider option;
+  initStyleOption(&option);
+  return style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, this);
 }
 
 void CSliderCtrl::SetRange(int minimum, int maximum, int tickFrequency) {

@@ -21,6 +21,9 @@ class CSliderCtrl : public QSlider {
   /// Moves as a user does, and reports it. Nothing without a change.
   void ScrollTo(int position);
 
+  /// Where the handle is, in the slider's coordinates.
+  QRect HandleRect() const;
+
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
 

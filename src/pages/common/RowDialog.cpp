@@ -7,6 +7,7 @@
 #include <QCheckBox>
 #include <QLabel>
 
+#include "pages/common/WaitWatch.h"
 #include "resources/ArrowBitmap.h"
 #include "settings/RowUse.h"
 #include "toolkit/CComboBox.h"
@@ -32,13 +33,6 @@ bool Owns(const PageRow& row, int control) {
   return control == ControlOf(row);
 }
 
-/// The list beside an action's button, or 0.
-int ListBeside(const PageRow& row) {
-  if (const auto* action = std::get_if<ActionRow>(&row)) return action->list;
-  const auto* reset = std::get_if<ResetRow>(&row);
-  return reset != nullptr ? reset->list : 0;
-}
-
 // A state's text is put into a catalog text of its own; both may be long.
 constexpr int kFramedTextSize = 2048;
 
@@ -51,8 +45,6 @@ QString TextOf(const ListEntry& entry) {
 
 RowDialog::RowDialog(int templateNumber, const PageTable& table, CWnd* owner)
     : SettingsDialog(templateNumber, owner), table_(table), bound_(table.rows.size()) {}
-
-RowDialog::~RowDialog() = default;
 
 const NotificationMap& RowDialog::Notifications() const {
   if (notifications_) return *notifications_;
@@ -227,25 +219,6 @@ void RowDialog::FillResets(int list) {
   }
 }
 
-void RowDialog::Refresh() {
-  const Busy busy(this);
-  projector->Announce(Reads());
-  OfSource asked = OfSource::None;
-  std::optional<int> source = 0;
-  for (std::size_t i = 0; i < bound_.size(); ++i) {
-    if (!bound_[i].present) continue;
-    const OfSource of = SourceOf(table_.rows[i]);
-    if (of != OfSource::None && std::exchange(asked, of) != of) {
-      source = Ask(of);
-      ShowSource(source);
-    }
-    std::visit([&](const auto& row) { Refresh(row, bound_[i], source); }, table_.rows[i]);
-  }
-  for (const PageRow& row : table_.rows) {
-    if (const int list = ListBeside(row); list != 0) Preselect(list);
-  }
-}
-
 void RowDialog::Preselect(int list) {
   if (CComboBox& combo = List(list); combo.currentIndex() < 0) combo.Select(0);
 }
@@ -259,6 +232,7 @@ void RowDialog::Refresh(const ListRow& row, Bound&, Source source) {
   CComboBox& list = List(row.control);
   const bool asks = source && (!row.rules.emptyIsNotRead || list.count() > 0);
   const auto value = asks ? Read(*projector, *row.Reading(*source)) : std::nullopt;
+  if (projector->IsAbandoned()) return;
   if (!value) {
     if (row.rules.failedReadDisables) list.setEnabled(false);
     return;
@@ -279,6 +253,7 @@ void RowDialog::Select(const ListRow& row, int value) {
 void RowDialog::Refresh(const CheckRow& row, Bound&, Source) {
   auto& check = Item<QCheckBox>(row.control);
   const auto value = Read(*projector, row.read);
+  if (projector->IsAbandoned()) return;
   check.setEnabled(value.has_value());
   if (value) check.setChecked(*value != 0);
 }
@@ -322,7 +297,7 @@ void RowDialog::Operate(const ListRow& row, Bound& bound, int) {
   if (row.rules.tellsText) projector->SettingText = list.currentText().toStdString();
   const bool accepted =
       Perform(*projector, *row.Sending(*source), value, Model().ModelCode).accepted;
-  if (row.rules.readsBackAlways) Refresh(row, bound, source);
+  if (row.rules.readsBackAlways) RefreshRow(static_cast<std::size_t>(&bound - bound_.data()), source);
   if (accepted) return;
   if (table_.refusedIsReadBack || row.rules.refused != Refused::Silent) ReadBack(row, *source);
   if (row.rules.error != 0) ShowError(row.rules.error);

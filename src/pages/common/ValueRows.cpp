@@ -27,6 +27,7 @@ void RowDialog::Prepare(const ValueRow& row, Bound& bound) {
 void RowDialog::Refresh(const ValueRow& row, Bound& bound, Source source) {
   ValueControls& controls = bound.value;
   const auto value = source ? Read(*projector, row.Reading(*source)) : std::nullopt;
+  if (projector->IsAbandoned()) return;
   if (row.greysField) controls.EnableField(value.has_value());
   if (value) {
     controls.Enable();
@@ -86,12 +87,13 @@ bool RowDialog::Drag(const ValueRow& row, ValueControls& controls) {
   }
   Refuse(row, controls, row.refusedDrag == RefusedDrag::Stays ? position : controls.current,
          row.refusedDrag == RefusedDrag::Told);
-  if (row.refusedDrag == RefusedDrag::Empties) controls.ClearNumber();
+  if (row.refusedDrag == RefusedDrag::Empties && !projector->IsAbandoned()) controls.ClearNumber();
   return false;
 }
 
 // The slider stands at `position` afterwards, unless the value is read again.
 void RowDialog::Refuse(const ValueRow& row, ValueControls& controls, int position, bool told) {
+  if (projector->IsAbandoned()) return;
   controls.MoveSlider(position);
   if (table_.refusedIsReadBack) {
     if (const auto value = Read(*projector, row.Reading())) {

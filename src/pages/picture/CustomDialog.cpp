@@ -6,6 +6,7 @@ bool CustomDialog::OnInitDialog() {
     const auto* value = std::get_if<ValueRow>(&row);
     if (value != nullptr) GetDlgItem(value->reset.button)->setVisible(!hideResets_);
   }
+  ShowUnread();
   Refresh();
   return true;
 }

@@ -42,5 +42,6 @@ class CSliderCtrl : public QSlider {
  private:
   void EndKeyScroll();
 
+  bool pressed_ = false;
   bool keyScrolling_ = false;
 };

@@ -265,6 +265,9 @@ void RowDialog::Refresh(const ListRow& row, Bound&, Source source) {
   if (row.rules.noEntry == NoEntry::Ignored && list.findData(*value) < 0) return;
   list.setEnabled(true);
   Select(row, *value);
+  const bool hasPlaceholder =
+      row.rules.placeholder.Of(Model().ModelCode) != ListRules::kNoPlaceholder;
+  if (hasPlaceholder && list.currentIndex() < 0) list.Select(list.count() - 1);
 }
 
 void RowDialog::Select(const ListRow& row, int value) {
@@ -315,6 +318,10 @@ void RowDialog::Operate(const ListRow& row, Bound& bound, int) {
   CComboBox& list = List(row.control);
   const auto chosen = list.SelectedValue();
   if (!chosen || !row.send) return;
+  if (*chosen == row.rules.placeholder.Of(Model().ModelCode)) {
+    if (const auto value = Read(*projector, *row.read)) list.SelectValue(*value);
+    return;
+  }
   const auto source = Ask(row.of);
   if (!source) return;
   const int value = row.rules.sendsPosition ? list.currentIndex() : *chosen;

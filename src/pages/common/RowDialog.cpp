@@ -265,9 +265,10 @@ void RowDialog::Refresh(const ListRow& row, Bound&, Source source) {
   if (row.rules.noEntry == NoEntry::Ignored && list.findData(*value) < 0) return;
   list.setEnabled(true);
   Select(row, *value);
+  if (list.currentIndex() >= 0) return;
   const bool hasPlaceholder =
       row.rules.placeholder.Of(Model().ModelCode) != ListRules::kNoPlaceholder;
-  if (hasPlaceholder && list.currentIndex() < 0) list.Select(list.count() - 1);
+  if (hasPlaceholder) list.Select(list.count() - 1);
 }
 
 void RowDialog::Select(const ListRow& row, int value) {

@@ -67,8 +67,11 @@ struct RowInUse {
       }
     }
     if (!list.send) return;
-    for (const ListEntry& entry : entries) ExpectArrives(entry.value, list.read.has_value());
-    EXPECT_FALSE(SendRow(pjt, row, model, 12345)) << "stands for no entry";
+    const int placeholder = list.rules.placeholder.Of(model.ModelCode);
+    for (const ListEntry& entry : entries) {
+      if (entry.value != placeholder) ExpectArrives(entry.value, list.read.has_value());
+    }
+    for (const int value : {placeholder, 12345}) EXPECT_FALSE(SendRow(pjt, row, model, value));
   }
 
   // Steps and positions arrive, inside the slider's range.

@@ -12,7 +12,7 @@
 
 #include "device/BoundedChannel.h"
 #include "device/TcpChannel.h"
-#include "simulator/WireServer.h"
+#include "simulator/WireResponder.h"
 
 namespace {
 

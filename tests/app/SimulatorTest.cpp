@@ -1,7 +1,5 @@
 #include <chrono>
-#include <csignal>
 #include <map>
-#include <thread>
 
 #include <QProcess>
 #include <QTcpSocket>
@@ -36,6 +34,15 @@ class SimulatorTest : public testing::Test {
     const int port = addresses_["control"].section(':', 1).toInt();
     control_.connectToHost(QHostAddress::LocalHost, static_cast<std::uint16_t>(port));
     ASSERT_TRUE(control_.waitForConnected());
+  }
+
+  void TearDown() override { Stop(); }
+
+  void Stop() {
+    process_.terminate();
+    ASSERT_TRUE(process_.waitForFinished(5000));
+    EXPECT_EQ(process_.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(process_.exitCode(), 0);
   }
 
   void Start(const QStringList& arguments) {
@@ -116,8 +123,9 @@ TEST_F(SimulatorTest, FaultsOfTheLineAreUnansweredAndOver) {
     EXPECT_EQ(Control("* none"), "ok");
     EXPECT_EQ(channel.Execute(kVolume).value, 7);
   }
-  EXPECT_EQ(Control("1 late"), "error: faults are none, refuse, fail-read, silent, late "
-                               "MILLISECONDS, cut BYTES, garbage, trickle");
+  EXPECT_EQ(Control("1 late"),
+            "error: faults are none, refuse, fail-read, silent, late "
+            "MILLISECONDS, cut BYTES, garbage, trickle");
   EXPECT_EQ(Control("2 none"), "error: no projector '2'; there are 1 to 1, and *");
 }
 
@@ -153,10 +161,7 @@ TEST_F(SimulatorTest, AProjectorThatGoesAndComesBackIsFoundAgain) {
   const auto address = std::get<TcpAddress>(Address("tcp"));
   BoundedChannel channel(MakeUnboundedChannel(address), {.retryAfter = 0ms});
   EXPECT_TRUE(channel.Execute(kVolume).answered);
-  kill(static_cast<pid_t>(process_.processId()), SIGTERM);
-  ASSERT_TRUE(process_.waitForFinished(5000));
-  EXPECT_EQ(process_.exitStatus(), QProcess::NormalExit);
-  EXPECT_EQ(process_.exitCode(), 0);
+  Stop();
   EXPECT_FALSE(channel.Execute(kVolume).answered);
   EXPECT_EQ(channel.Connection(), ConnectionState::NotReachable);
   Start({"--projector", kName, "--port", QString::number(address.port)});

@@ -296,8 +296,9 @@ void CheckLink(const ProjectorProfile& profile, const QString& path) {
   if (profile.Link == ProjectorLink::Simulated) return;
   const bool serial = profile.Link == ProjectorLink::Serial;
   if (serial == (profile.Model.ConnectionKinds[0] == kNetworkKind)) {
-    throw WrongValue{path, QStringLiteral("needs a %1 connection")
-                               .arg(QLatin1String(serial ? "serial" : "network"))};
+    throw WrongValue{
+        path,
+        QStringLiteral("needs a %1 connection").arg(QLatin1String(serial ? "serial" : "network"))};
   }
 }
 
@@ -504,13 +505,11 @@ ProjectorAddress AddressOf(const ProjectorProfile& profile) {
     case ProjectorLink::Network:
       return TcpAddress{.host = text, .port = port};
     case ProjectorLink::PjLink:
-      return PjLinkAddress{.host = text,
-                           .port = port,
-                           .password = std::string(NameText(model.ConnectionTexts2[0]))};
+      return PjLinkAddress{
+          .host = text, .port = port, .password = std::string(NameText(model.ConnectionTexts2[0]))};
     case ProjectorLink::Serial:
-      return SerialAddress{
-          .device = text.empty() ? SerialDevice(model.ConnectionNumbers[0]) : text,
-          .baud = baud == 0 ? SerialAddress::kDefaultBaud : baud};
+      return SerialAddress{.device = text.empty() ? SerialDevice(model.ConnectionNumbers[0]) : text,
+                           .baud = baud == 0 ? SerialAddress::kDefaultBaud : baud};
     default:
       return AddressError{"the projector is simulated"};
   }

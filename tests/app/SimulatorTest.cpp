@@ -123,8 +123,9 @@ TEST_F(SimulatorTest, FaultsOfTheLineAreUnansweredAndOver) {
     EXPECT_EQ(Control("* none"), "ok");
     EXPECT_EQ(channel.Execute(kVolume).value, 7);
   }
-  EXPECT_EQ(Control("1 late"), "error: faults are none, refuse, fail-read, silent, late "
-                               "MILLISECONDS, cut BYTES, garbage, trickle");
+  EXPECT_EQ(Control("1 late"),
+            "error: faults are none, refuse, fail-read, silent, late "
+            "MILLISECONDS, cut BYTES, garbage, trickle");
   EXPECT_EQ(Control("2 none"), "error: no projector '2'; there are 1 to 1, and *");
 }
 

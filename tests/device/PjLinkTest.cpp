@@ -21,7 +21,7 @@
 namespace {
 
 using namespace std::chrono_literals;
-using Link = PjLinkChannel::Link;
+using State = ConnectionState;
 using Op = PjtOperation;
 
 constexpr PjLinkChannel::Limits kLimits{.connect = 1s, .answer = 1s};
@@ -180,7 +180,7 @@ TEST(PjLinkTest, EveryOperationReachesTheProjector) {
     EXPECT_TRUE(Accepted(command, channel.Execute(command))) << OperationName(operation);
     EXPECT_EQ(served.projector->CodeValue(affected), wanted) << OperationName(operation);
   }
-  EXPECT_EQ(channel.State(), "Connected");
+  EXPECT_EQ(channel.Connection(), State::Connected);
   const PjtReply standby = channel.Execute({Op::SetMute, 0, 0});
   EXPECT_TRUE(standby.answered && standby.offered && standby.result == 0);
 }
@@ -195,7 +195,7 @@ TEST(PjLinkTest, OnlyWhatTheProjectorMayHaveIsAsked) {
     EXPECT_TRUE(reply.answered && !reply.offered && !Accepted(command, reply));
   }
   EXPECT_TRUE(nowhere.Execute({Op::Set, CommandCode::InputSource, 305}).answered);
-  EXPECT_EQ(nowhere.LinkState(), Link::NotUsed);
+  EXPECT_EQ(nowhere.Connection(), State::Unused);
 
   const Served first({.served = {.protocolClass = 1}});
   PjLinkChannel channel = first.Channel();
@@ -210,7 +210,7 @@ TEST(PjLinkTest, PasswordsAndDescription) {
   for (const auto* const wrong : {"", "Secret"}) {
     PjLinkChannel channel = served.Channel(wrong);
     EXPECT_FALSE(channel.Execute(kGetPower).answered);
-    EXPECT_EQ(channel.LinkState(), Link::WrongPassword);
+    EXPECT_EQ(channel.Connection(), State::PasswordRequired);
   }
   PjLinkChannel channel = served.Channel("secret");
   const auto description = channel.Describe();
@@ -229,41 +229,41 @@ TEST(PjLinkTest, HostilePeersAreUnansweredAndTheNextCommandWorks) {
   const auto reply = [&](const std::string& text, bool keepsOpen = true) {
     return Script{{kGreeting, kFirstClass, text}, keepsOpen};
   };
-  std::vector<std::pair<Script, Link>> cases = {
-      {{{}, true}, Link::Silent},
-      {{{"PJLINK"}, true}, Link::Silent},
-      {{{"HTTP/1.1 400 Bad Request\r"}, true}, Link::NotUnderstood},
-      {{{"PJLINK 1 0123abcx\r"}, true}, Link::NotUnderstood},
-      {{{"PJLINK 1 0123abcd\r", "PJLINK ERRA\r"}}, Link::WrongPassword},
-      {{{kGreeting, std::string(10'000'000, 'x')}, true}, Link::NotUnderstood},
-      {reply("%1POWR="), Link::Silent},
-      {reply("\r"), Link::NotUnderstood},
-      {reply("%1POWR ?\r"), Link::NotUnderstood},
-      {reply("%2POWR=1\r"), Link::NotUnderstood},
-      {reply("%1INPT=31\r"), Link::NotUnderstood},
-      {reply("%1POWR=" + std::string(129, '1') + '\r'), Link::NotUnderstood}};
+  std::vector<std::pair<Script, State>> cases = {
+      {{{}, true}, State::NoAnswer},
+      {{{"PJLINK"}, true}, State::NoAnswer},
+      {{{"HTTP/1.1 400 Bad Request\r"}, true}, State::NotUnderstood},
+      {{{"PJLINK 1 0123abcx\r"}, true}, State::NotUnderstood},
+      {{{"PJLINK 1 0123abcd\r", "PJLINK ERRA\r"}}, State::PasswordRequired},
+      {{{kGreeting, std::string(10'000'000, 'x')}, true}, State::NotUnderstood},
+      {reply("%1POWR="), State::NoAnswer},
+      {reply("\r"), State::NotUnderstood},
+      {reply("%1POWR ?\r"), State::NotUnderstood},
+      {reply("%2POWR=1\r"), State::NotUnderstood},
+      {reply("%1INPT=31\r"), State::NotUnderstood},
+      {reply("%1POWR=" + std::string(129, '1') + '\r'), State::NotUnderstood}};
   for (std::size_t length = 0; length < kOn.size(); ++length) {
-    cases.push_back({reply(kOn.substr(0, length), false), Link::Closed});
+    cases.push_back({reply(kOn.substr(0, length), false), State::Lost});
   }
-  for (const auto& [script, link] : cases) {
+  for (const auto& [script, state] : cases) {
     SCOPED_TRACE(script.texts.empty() ? "" : script.texts.back().substr(0, 40));
     const Peer peer({script, kGood});
     PjLinkChannel channel(kHost, peer.port, "", kLimits);
     EXPECT_FALSE(channel.Execute(kGetPower).answered);
-    EXPECT_EQ(channel.LinkState(), link) << channel.State();
+    EXPECT_EQ(channel.Connection(), state);
     EXPECT_EQ(channel.Execute(kGetPower).value, 1);
-    EXPECT_EQ(channel.LinkState(), Link::Connected);
+    EXPECT_EQ(channel.Connection(), State::Connected);
   }
-  const std::tuple<std::string, int, Link> nowhere[] = {
-      {"no-such-projector.invalid", 4352, Link::UnknownHost},
-      {"", 4352, Link::UnknownHost},
-      {kHost, 1, Link::Unreachable},
-      {kHost, 65536 + 4352, Link::Unreachable}};
-  for (const auto& [host, port, link] : nowhere) {
+  const std::tuple<std::string, int, State> nowhere[] = {
+      {"no-such-projector.invalid", 4352, State::NameUnknown},
+      {"", 4352, State::WrongParameters},
+      {kHost, 1, State::NotReachable},
+      {kHost, 65536 + 4352, State::WrongParameters}};
+  for (const auto& [host, port, state] : nowhere) {
     PjLinkChannel channel(host, port, "", kLimits);
     EXPECT_FALSE(channel.Execute(kGetPower).answered);
     EXPECT_FALSE(channel.Describe());
-    EXPECT_EQ(channel.LinkState(), link);
+    EXPECT_EQ(channel.Connection(), state);
   }
 }
 

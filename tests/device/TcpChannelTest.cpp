@@ -12,7 +12,7 @@
 
 #include "device/BoundedChannel.h"
 #include "device/TcpChannel.h"
-#include "simulator/WireServer.h"
+#include "simulator/WireResponder.h"
 
 namespace {
 
@@ -34,7 +34,8 @@ class Device final : public ProjectorChannel {
   int state = 0;
 };
 
-/// The other end of a connection, on a thread of its own: does with each connection what it is told.
+/// The other end of a connection, on a thread of its own: does with each connection what it is
+/// told.
 class Peer {
  public:
   using Behaviour = std::function<void(QTcpSocket&, WireResponder&)>;
@@ -134,7 +135,8 @@ TEST(TcpChannelTest, WhateverThePeerDoesTheStateIsClearAndTheNextCommandWorks) {
       {"lies about length", Says("\xA5\x5A\x02\xFF"), NotUnderstood},
       {"ten megabytes", Says(std::string(kMega, 'A')), NotUnderstood},
       {"welcomes somebody else", Says(FrameBytes({1, Wire::Welcome{}})), NoAnswer},
-      {"has another version", [](auto& socket, auto& responder) {
+      {"has another version",
+       [](auto& socket, auto& responder) {
          Wire::Decoder decoder;
          decoder.Add(ReplyTo(socket, responder));
          if (auto frame = decoder.Next()) {
@@ -144,8 +146,7 @@ TEST(TcpChannelTest, WhateverThePeerDoesTheStateIsClearAndTheNextCommandWorks) {
        },
        OtherVersion},
       {"replies to others, a flood of them",
-       AfterWelcome([=](auto& socket, auto&) { Send(socket, foreign); }),
-       NoAnswer},
+       AfterWelcome([=](auto& socket, auto&) { Send(socket, foreign); }), NoAnswer},
       {"damages the reply", AfterWelcome([](auto& socket, std::string reply) {
          reply[10] ^= 1;
          Send(socket, reply);
@@ -244,7 +245,9 @@ TEST(TcpChannelTest, AnnouncedReadsGoOutTogetherAndAreAnsweredInOrder) {
     std::vector<std::size_t> bursts;
   };
   const Case cases[] = {
-      {"in order", {{Get(0), 0}, {Get(1), 1}, {Get(63), 63}, {Get(64), 64}, {Get(79), 79}}, {64, 16}},
+      {"in order",
+       {{Get(0), 0}, {Get(1), 1}, {Get(63), 63}, {Get(64), 64}, {Get(79), 79}},
+       {64, 16}},
       {"not announced in between", {{Get(20), 20}, {Get(500), 500}, {Get(21), 21}}, {60, 1}},
       {"passed over, asked for later", {{Get(20), 20}, {Get(22), 22}, {Get(21), 21}}, {60, 1}},
       {"a change in between", {{Get(20), 20}, {Set(7), 1001}, {Get(21), 1021}}, {60, 1, 1}},

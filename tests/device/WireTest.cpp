@@ -67,7 +67,8 @@ TEST(WireTest, FramesAreFoundBehindAnyNoiseInAnyPieces) {
   changed[8] ^= 1;
   for (const std::string& noise :
        {std::string(), Bytes("00FF"), Bytes("A5"), Bytes("A5A5"), Bytes("A55A"), Bytes("A55A0407"),
-        Bytes("A55A04FF"), Bytes("A55A0008"), changed, whole.substr(0, 14), std::string(9000, '?')}) {
+        Bytes("A55A04FF"), Bytes("A55A0008"), changed, whole.substr(0, 14),
+        std::string(9000, '?')}) {
     for (const std::size_t piece : {1, 2, 3, 7, 10'000}) {
       const std::string bytes = noise + whole + whole;
       Wire::Decoder decoder;
@@ -122,7 +123,8 @@ TEST(WireTest, ConnectionParametersNameAWayOrWhatIsWrong) {
       {"http://a", AddressError{"wrong port in 'http://a'"}},
       {"", AddressError{"no address ''"}},
   };
-  for (const auto& [text, address] : addresses) EXPECT_EQ(ParseAddress(text, "pw"), address) << text;
+  for (const auto& [text, address] : addresses)
+    EXPECT_EQ(ParseAddress(text, "pw"), address) << text;
 
   const auto none = MakeChannel(AddressError{"nonsense"});
   EXPECT_FALSE(none->Execute({PjtOperation::GetMirror}).answered);

@@ -120,13 +120,16 @@ void Make(const Change& change, const Work& work, ProjectorLink& link, Report& r
                     ExitCode::WrongUse);
     return;
   }
-  const bool accepted =
-      settings.Change(link.Connection(), setting, *value, work.texts.Value(setting, *value));
+  const bool accepted = settings.Change(
+      link.Connection(), setting, *value,
+      {.text = work.texts.Value(setting, *value), .goesOn = ProgressOf(work, link).goesOn});
   const bool answered = link.Channel().HasAnswered();
   if (!accepted || !answered) return ComplainOf(setting, link, "refused", report);
   // A setter without a result says nothing; what is read afterwards does.
   const auto now = settings.Read(link.Connection(), setting);
-  if (now && *now != *value) {
+  // A projector that is cooling down does what it was told.
+  const bool isSo = setting.kind == Kind::State ? (now == 1) == (*value == 1) : now == *value;
+  if (now && !isSo) {
     report.Complain(
         std::string(setting.key) + ": refused, it is " + work.texts.Value(setting, *now),
         ExitCode::Refused);
@@ -149,7 +152,7 @@ QJsonObject Describe(const SettingTexts& texts, const ModelSetting& setting) {
                    {"readable", setting.readable},
                    {"changeable", setting.changeable},
                    {"restorable", setting.Restorable()},
-                   {"perSource", setting.perSource},
+                   {"perSource", setting.IsPerSource()},
                    {"resettable", setting.reset.has_value()}};
   if (setting.range) {
     json["minimum"] = setting.range->minimum - setting.bias;
@@ -250,7 +253,7 @@ Report RunReset(const Work& work, ProjectorLink& link) {
   const Progress progress = ProgressOf(work, link);
   for (const ModelSetting* setting : chosen) {
     if (!progress.goesOn()) break;
-    if (!Perform(link.Connection(), Named(*setting->reset)).accepted) {
+    if (!Perform(link.Connection(), *setting->reset).accepted) {
       ComplainOf(*setting, link, "refused", report);
     }
   }

@@ -60,6 +60,7 @@ std::string Summary(const Restoration& restoration) {
 
 QJsonObject Describe(const SettingTexts& texts, const RestoredSetting& restored) {
   QJsonObject json{{"key", Wide(restored.saved.key)}, {"saved", restored.saved.value}};
+  if (restored.saved.source) json["source"] = *restored.saved.source;
   if (restored.setting != nullptr) {
     json["caption"] = Wide(texts.Caption(*restored.setting));
     json["savedText"] = Wide(texts.Value(*restored.setting, restored.saved.value));

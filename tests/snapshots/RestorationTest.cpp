@@ -124,7 +124,8 @@ TEST(Restoration, TellsTheTruthWhenCommandsAreRefusedAndLost) {
     room.ChangeAll(1);
     const Snapshot wanted = room.Take();
     room.ChangeAll(2);
-    const Snapshot before = room.Take();
+    Restoration before = room.Prepare(wanted);
+    before.Read();
     room.channel->count = 0;
     room.channel->refusedPercent = disturbance.refused;
     room.channel->lostPercent = disturbance.lost;
@@ -133,9 +134,11 @@ TEST(Restoration, TellsTheTruthWhenCommandsAreRefusedAndLost) {
     room.channel->refusedPercent = room.channel->lostPercent = 0;
     room.channel->deadAfter = 1 << 30;
     ProjectorLink again(profile, room.channel);
-    for (const RestoredSetting& restored : restoration.Settings()) {
+    for (std::size_t i = 0; i < wanted.settings.size(); ++i) {
+      const RestoredSetting& restored = restoration.Settings()[i];
       SCOPED_TRACE(restored.saved.key);
-      const auto now = again.Settings().Read(again.Connection(), *restored.setting);
+      const auto now =
+          again.Settings().Read(again.Connection(), *restored.setting, restored.saved.source);
       const bool done =
           restored.outcome == Outcome::Changed || restored.outcome == Outcome::AlreadySo;
       if (done) {
@@ -143,9 +146,7 @@ TEST(Restoration, TellsTheTruthWhenCommandsAreRefusedAndLost) {
       } else if (restored.outcome == Outcome::Refused && restored.now) {
         EXPECT_EQ(now, restored.now);
       } else if (restored.outcome == Outcome::NotReached || restored.outcome == Outcome::Differs) {
-        const auto same =
-            std::ranges::find(before.settings, restored.saved.key, &SavedSetting::key);
-        EXPECT_EQ(now, same->value) << "nothing was sent";
+        EXPECT_EQ(now, before.Settings()[i].before) << "nothing was sent";
       }
     }
     Restoration rest(wanted, again.Settings(), again.Connection());

@@ -1,6 +1,8 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds, and starts the host application on simulated projectors.
 # Arguments go to the application; without a display it saves a pictured tour to out/tour instead.
+# With --real as the first argument the projectors are served by a process of its own, and reached
+# over TCP, PJLink and serial lines.
 set -euo pipefail
 cd "$(dirname "$0")"
 
@@ -10,6 +12,21 @@ cmake --preset release -DADVANCEDCONTROL_TESTS=OFF -DADVANCEDCONTROL_BENCHMARKS=
 cmake --build --preset release
 
 program=build/release/bin/advanced-control
+if [ "${1:-}" = --real ]; then
+  shift
+  mkdir -p out
+  rm -f out/real.json
+  "$(dirname "$program")/advanced-control-simulator" --serial --write-profiles out/real.json &
+  simulator=$!
+  trap 'kill "$simulator" 2>/dev/null' EXIT
+  for _ in $(seq 100); do
+    [ -s out/real.json ] && break
+    kill -0 "$simulator" || exit 1
+    sleep 0.1
+  done
+  "$program" --profiles out/real.json "$@"
+  exit
+fi
 if [ $# -gt 0 ]; then
   exec "$program" "$@"
 elif [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then

@@ -35,6 +35,18 @@ struct WrongValue {
   QString message;
 };
 
+struct NamedLink {
+  std::string_view name;
+  ProjectorLink link;
+};
+
+constexpr NamedLink kLinks[] = {
+    {"simulated", ProjectorLink::Simulated},
+    {"network", ProjectorLink::Network},
+    {"serial", ProjectorLink::Serial},
+    {"pjlink", ProjectorLink::PjLink},
+};
+
 struct NamedRange {
   std::string_view name;
   std::size_t index;
@@ -229,6 +241,15 @@ void ApplyRanges(const QJsonObject& ranges, const QString& path, CModelInfo2& mo
   }
 }
 
+NameSlot Device(const QJsonObject& parameters, const QString& path) {
+  if (!parameters.contains("device")) return {};
+  const QString devicePath = At(path, "device");
+  if (!parameters["device"].toString().startsWith(QLatin1Char('/'))) {
+    throw WrongValue{devicePath, QStringLiteral("must be a path that begins with /")};
+  }
+  return Slot(parameters["device"], devicePath);
+}
+
 void ApplyConnection(const QJsonObject& connection, const QString& path, CModelInfo2& model) {
   CheckKeys(connection, path, {"network", "serial"});
   if (connection.size() != 1) {
@@ -248,7 +269,7 @@ void ApplyConnection(const QJsonObject& connection, const QString& path, CModelI
                                     ? Slot(parameters["secret"], At(kindPath, "secret"))
                                     : NameSlot{};
   } else {
-    CheckKeys(parameters, kindPath, {"port", "baud"});
+    CheckKeys(parameters, kindPath, {"port", "baud", "device"});
     model.ConnectionKinds[0] = kSerialKind;
     model.ConnectionNumbers[0] =
         Integer(parameters["port"], At(kindPath, "port"), 1, kMaximumSerialPort) - 1;
@@ -256,8 +277,27 @@ void ApplyConnection(const QJsonObject& connection, const QString& path, CModelI
         parameters.contains("baud")
             ? Integer(parameters["baud"], At(kindPath, "baud"), 1, kMaximumBaud)
             : 0;
-    model.ConnectionTexts1[0] = {};
+    model.ConnectionTexts1[0] = Device(parameters, kindPath);
     model.ConnectionTexts2[0] = {};
+  }
+}
+
+ProjectorLink Link(const QJsonValue& value, const QString& path) {
+  const std::string name = String(value, path);
+  const auto* known = std::ranges::find(kLinks, name, &NamedLink::name);
+  if (known == std::end(kLinks)) {
+    throw WrongValue{path, QStringLiteral("must be simulated, network, serial or pjlink")};
+  }
+  return known->link;
+}
+
+void CheckLink(const ProjectorProfile& profile, const QString& path) {
+  if (profile.Link == ProjectorLink::Simulated) return;
+  const bool serial = profile.Link == ProjectorLink::Serial;
+  if (serial == (profile.Model.ConnectionKinds[0] == kNetworkKind)) {
+    throw WrongValue{
+        path,
+        QStringLiteral("needs a %1 connection").arg(QLatin1String(serial ? "serial" : "network"))};
   }
 }
 
@@ -278,7 +318,7 @@ std::vector<SettingId> Lacks(const QJsonValue& value, const QString& path) {
 
 const QStringList kFamilyKeys{"like",    "model",      "dialogType", "modelCode", "mySources",
                               "whisper", "aspect",     "gamma",      "colorTemp", "myButtons",
-                              "ranges",  "connection", "lacks"};
+                              "ranges",  "connection", "link",       "lacks"};
 
 /// What a family or an entry says is put over what it is like. Ranges are put over each other one
 /// by one, everything else as a whole.
@@ -300,6 +340,7 @@ void Apply(const QJsonObject& settings, const QString& path, ProjectorProfile& p
     if (key == "myButtons") model.MyButtonList = List(value, valuePath);
     if (key == "ranges") ApplyRanges(Object(value, valuePath), valuePath, model);
     if (key == "connection") ApplyConnection(Object(value, valuePath), valuePath, model);
+    if (key == "link") profile.Link = Link(value, valuePath);
     if (key == "lacks") profile.Lacks = Lacks(value, valuePath);
   }
 }
@@ -385,6 +426,7 @@ std::vector<ProjectorProfile> Profiles(const QJsonDocument& document) {
         throw WrongValue{path, QStringLiteral("\"%1\" is missing").arg(key)};
       }
     }
+    CheckLink(draft.profile, At(path, "link"));
     const auto [named, isNew] = entryOfName.emplace(draft.profile.Name, i);
     if (!isNew) {
       throw WrongValue{
@@ -448,8 +490,30 @@ ProfileFileContents ReadProfileFile(const QString& fileName) {
   return ParseProfiles(file.read(JsonLines::kMaximumBytes + 1), fileName);
 }
 
+ProjectorAddress AddressOf(const ProjectorProfile& profile) {
+  const CModelInfo2& model = profile.Model;
+  const std::string text(NameText(model.ConnectionTexts1[0]));
+  const auto port = static_cast<std::uint16_t>(model.ConnectionParameters[0]);
+  const int baud = model.ConnectionParameters[0];
+  switch (profile.Link) {
+    case ProjectorLink::Network:
+      return TcpAddress{.host = text, .port = port};
+    case ProjectorLink::PjLink:
+      return PjLinkAddress{
+          .host = text, .port = port, .password = std::string(NameText(model.ConnectionTexts2[0]))};
+    case ProjectorLink::Serial:
+      return SerialAddress{.device = text.empty() ? SerialDevice(model.ConnectionNumbers[0]) : text,
+                           .baud = baud == 0 ? SerialAddress::kDefaultBaud : baud};
+    default:
+      return AddressError{"the projector is simulated"};
+  }
+}
+
 QString ConnectionText(const CModelInfo2& model) {
   if (model.ConnectionKinds[0] != kNetworkKind) {
+    if (const auto device = NameText(model.ConnectionTexts1[0]); !device.empty()) {
+      return Text(device);
+    }
     return QStringLiteral("serial port %1").arg(model.ConnectionNumbers[0] + 1);
   }
   return QStringLiteral("%1:%2")

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "app/ProjectorLink.h"
+#include "app/ProjectorAccess.h"
 #include "device/BoundedChannel.h"
 #include "host/CAdvanceDlg.h"
 
@@ -11,7 +11,9 @@
 ProjectorSession::ProjectorSession(ProjectorProfile profile, LoggingChannel::Observer observer)
     : profile_(std::move(profile)),
       simulator_(std::make_shared<SimulatedProjector>(SimulatedModelOf(profile_))),
-      faultChannel_(std::make_shared<FaultChannel>(simulator_)),
+      faultChannel_(std::make_shared<FaultChannel>(
+          profile_.Link == ProjectorLink::Simulated ? simulator_
+                                                    : MakeUnboundedChannel(AddressOf(profile_)))),
       channel_(std::make_shared<LoggingChannel>(std::make_shared<BoundedChannel>(faultChannel_),
                                                 std::move(observer))) {}
 

@@ -15,8 +15,8 @@ class CAdvanceDlg;
 /// What a fault is set for: every command, one operation, or the generic operations of one code.
 using FaultTarget = std::variant<std::monostate, PjtOperation, std::uint16_t>;
 
-/// One projector of the list with its simulation, which lives as long as the program, whether a
-/// dialog is open or not.
+/// One projector of the list with its simulation or its connection, which lives as long as the
+/// program, whether a dialog is open or not.
 class ProjectorSession {
  public:
   /// `observer` is told of every command that a dialog gave, with what the dialog got back; it is
@@ -26,7 +26,11 @@ class ProjectorSession {
   const ProjectorProfile& Profile() const { return profile_; }
   /// The way to the projector that dialogs take, too.
   const std::shared_ptr<ProjectorChannel>& Channel() const { return channel_; }
+  /// Of a projector that is not simulated, a simulation that nobody uses.
   SimulatedProjector& Simulator() { return *simulator_; }
+
+  /// How the connection stands; of a simulated projector `ConnectionState::None`.
+  ConnectionState Connection() const { return channel_->Connection(); }
 
   /// `Fault::Kind::None` takes the fault back.
   void SetFault(const FaultTarget& target, const Fault& fault);

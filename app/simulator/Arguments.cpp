@@ -34,16 +34,18 @@ Arguments ParseArguments(const QStringList& arguments) {
   const QCommandLineOption address("address", "Listen on <address> instead of 127.0.0.1.",
                                    "address", "127.0.0.1");
   const QCommandLineOption port(
-      "port", "The first projector is at port <n>, the others at those that follow; 0, as without "
-              "it, takes any that are free.",
+      "port",
+      "The first projector is at port <n>, the others at those that follow; 0, as without "
+      "it, takes any that are free.",
       "n", "0");
   const QCommandLineOption password("password", "PJLink asks for <text>.", "text");
   const QCommandLineOption serial("serial", "Serve each projector on a pseudo terminal too.");
   const QCommandLineOption fault(
       "fault", "Begin with a fault: " + QString::fromLatin1(kFaultNames) + ".", "fault");
   const QCommandLineOption control(
-      "control", "Listen at port <n> of the loopback address for faults, a line each: projector's "
-                 "number from 1, or *, and the fault.",
+      "control",
+      "Listen at port <n> of the loopback address for faults, a line each: projector's "
+      "number from 1, or *, and the fault.",
       "n");
   const QCommandLineOption write(
       "write-profiles", "Write profiles that lead a host to the served projectors to <file>.",

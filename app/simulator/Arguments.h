@@ -11,8 +11,8 @@
 
 /// What the program was asked to do.
 struct Arguments {
-  QString profiles;       ///< Empty for the file that comes with the program.
-  QString writeProfiles;  ///< Where to write profiles of the served projectors; empty for nowhere.
+  QString profiles;        ///< Empty for the file that comes with the program.
+  QString writeProfiles;   ///< Where to write profiles of the served projectors; empty for nowhere.
   QStringList projectors;  ///< Names of those to serve; empty for all.
   ServiceOptions service;
   bool control = false;

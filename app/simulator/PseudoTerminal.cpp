@@ -1,13 +1,13 @@
 #include "app/simulator/PseudoTerminal.h"
 
 #include <array>
-
-#include <QSocketNotifier>
 #include <fcntl.h>
 #include <pty.h>
 #include <sys/ioctl.h>
 #include <termios.h>
 #include <unistd.h>
+
+#include <QSocketNotifier>
 
 PseudoTerminal::PseudoTerminal() {
   termios raw{};

@@ -7,8 +7,8 @@
 
 class QSocketNotifier;
 
-/// The projector's end of a serial line that a pseudo terminal stands for. Whoever opens the path is
-/// at the other end.
+/// The projector's end of a serial line that a pseudo terminal stands for. Whoever opens the path
+/// is at the other end.
 class PseudoTerminal final : public QIODevice {
  public:
   PseudoTerminal();

@@ -5,6 +5,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include "app/ProjectorAccess.h"
 #include "app/simulator/PseudoTerminal.h"
 #include "device/ModelDataIntake.h"
 #include "simulator/SimulatedProjector.h"
@@ -12,9 +13,8 @@
 namespace {
 
 std::shared_ptr<FaultChannel> Simulate(const ProjectorProfile& profile) {
-  SimulatedModel model = DescribeModel(MakeModelData(profile.Model));
-  model.missing = {profile.Lacks.begin(), profile.Lacks.end()};
-  return std::make_shared<FaultChannel>(std::make_shared<SimulatedProjector>(std::move(model)));
+  return std::make_shared<FaultChannel>(
+      std::make_shared<SimulatedProjector>(SimulatedModelOf(profile)));
 }
 
 PjLinkServer::Options PjLinkOptions(const ProjectorProfile& profile, const std::string& password) {
@@ -49,11 +49,12 @@ bool ServedProjectors::Serve(const ProjectorProfile& profile) {
   service.wire = std::make_unique<WireServer>(service.channel);
   service.wirePort = service.wire->Listen(options_.address, port(0));
   if (service.wirePort == 0) {
-    return cannot(QStringLiteral("port %1: %2").arg(port(0)).arg(
-        QString::fromStdString(service.wire->ErrorText())));
+    return cannot(QStringLiteral("port %1: %2")
+                      .arg(port(0))
+                      .arg(QString::fromStdString(service.wire->ErrorText())));
   }
-  service.pjLink = std::make_unique<PjLinkServer>(service.channel,
-                                                  PjLinkOptions(profile, options_.password));
+  service.pjLink =
+      std::make_unique<PjLinkServer>(service.channel, PjLinkOptions(profile, options_.password));
   if (!service.pjLink->Listen(options_.address.toString().toStdString(), port(1))) {
     return cannot(QStringLiteral("port %1 cannot be had").arg(port(1)));
   }
@@ -95,8 +96,7 @@ QByteArray ServedProjectors::Profiles(const QByteArray& original) const {
   for (const QJsonValue& value : file["projectors"].toArray()) {
     QJsonObject entry = value.toObject();
     const QString name = entry["name"].toString();
-    const auto service =
-        std::ranges::find(services_, name.toStdString(), &Service::name);
+    const auto service = std::ranges::find(services_, name.toStdString(), &Service::name);
     if (service == services_.end()) continue;
     const auto add = [&](const QString& suffix, const char* link, const QJsonObject& connection) {
       entry["name"] = name + suffix;

@@ -1,15 +1,15 @@
 #include <algorithm>
+#include <csignal>
 #include <cstdio>
 #include <optional>
+#include <sys/signalfd.h>
+#include <unistd.h>
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QSaveFile>
 #include <QSocketNotifier>
-#include <csignal>
-#include <sys/signalfd.h>
-#include <unistd.h>
 
 #include "app/simulator/Arguments.h"
 #include "app/simulator/ControlServer.h"
@@ -76,8 +76,9 @@ int Run(const Arguments& arguments, int endingSignals) {
   if (!arguments.writeProfiles.isEmpty()) {
     QFile original(fileName);
     const bool read = original.open(QIODevice::ReadOnly);
-    const QString error = read ? Write(arguments.writeProfiles, projectors.Profiles(original.readAll()))
-                               : original.errorString();
+    const QString error =
+        read ? Write(arguments.writeProfiles, projectors.Profiles(original.readAll()))
+             : original.errorString();
     if (!error.isEmpty()) return Fail(error);
   }
   std::fputs(projectors.Addresses().c_str(), stdout);

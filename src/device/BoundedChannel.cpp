@@ -40,8 +40,8 @@ bool HasEventLoop() {
 }  // namespace
 
 /// Shared with the worker, which may outlive the channel object by one command.
-struct BoundedChannel::Shared {
-  Shared(std::shared_ptr<ProjectorChannel> channel, const Limits& bounds)
+struct BoundedChannel::State {
+  State(std::shared_ptr<ProjectorChannel> channel, const Limits& bounds)
       : inner(std::move(channel)), limits(bounds) {}
 
   void Work();
@@ -66,7 +66,7 @@ struct BoundedChannel::Shared {
   Clock::time_point silentUntil{};
 };
 
-void BoundedChannel::Shared::Work() {
+void BoundedChannel::State::Work() {
   std::unique_lock lock(mutex);
   while (true) {
     commandGiven.wait(lock, [this] { return ended || command; });
@@ -88,7 +88,7 @@ void BoundedChannel::Shared::Work() {
   }
 }
 
-void BoundedChannel::Shared::RunEventLoop(Clock::time_point deadline) {
+void BoundedChannel::State::RunEventLoop(Clock::time_point deadline) {
   QEventLoop eventLoop;
   {
     const std::lock_guard lock(mutex);
@@ -103,7 +103,7 @@ void BoundedChannel::Shared::RunEventLoop(Clock::time_point deadline) {
   loop = nullptr;
 }
 
-std::optional<PjtReply> BoundedChannel::Shared::WaitForReply() {
+std::optional<PjtReply> BoundedChannel::State::WaitForReply() {
   const Clock::time_point deadline = Clock::now() + limits.timeOut;
   const auto replied = [this] { return reply.has_value(); };
   std::unique_lock lock(mutex);
@@ -122,7 +122,7 @@ std::optional<PjtReply> BoundedChannel::Shared::WaitForReply() {
 }
 
 BoundedChannel::BoundedChannel(std::shared_ptr<ProjectorChannel> inner, const Limits& limits)
-    : state_(std::make_shared<Shared>(std::move(inner), limits)) {}
+    : state_(std::make_shared<State>(std::move(inner), limits)) {}
 
 BoundedChannel::~BoundedChannel() {
   bool returnsSoon = false;
@@ -142,7 +142,7 @@ BoundedChannel::~BoundedChannel() {
 
 PjtReply BoundedChannel::Execute(const PjtCommand& command) {
   // Events that run while we wait may destroy this object.
-  const std::shared_ptr<Shared> state = state_;
+  const std::shared_ptr<State> state = state_;
   {
     const std::lock_guard lock(state->mutex);
     if (!state->inner || state->ended || state->outstanding || state->awaited ||

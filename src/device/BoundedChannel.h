@@ -40,6 +40,6 @@ class ADVANCED_CONTROL_EXPORT BoundedChannel : public ProjectorChannel {
   ConnectionState Connection() const override;
 
  private:
-  struct Shared;
-  std::shared_ptr<Shared> state_;
+  struct State;
+  std::shared_ptr<State> state_;
 };

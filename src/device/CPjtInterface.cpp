@@ -81,6 +81,10 @@ PjtReply CPjtInterface::Execute(const PjtCommand& command) const {
   }
 }
 
+void CPjtInterface::Announce(std::span<const PjtCommand> reads) const {
+  if (channel_ && !cutOff_) channel_->Announce(reads);
+}
+
 int CPjtInterface::ExecuteInto(const PjtCommand& command, short* value) const {
   if (!value) return RefusedResult(command.operation);
   const PjtReply reply = Execute(command);

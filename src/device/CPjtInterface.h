@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -128,6 +129,9 @@ class ADVANCED_CONTROL_EXPORT CPjtInterface {
 
   /// Any of the operations as a command, with the reply as the channel gave it.
   PjtReply Execute(const PjtCommand& command) const;
+
+  /// Tells the channel which reads are about to follow, in this order.
+  void Announce(std::span<const PjtCommand> reads) const;
 
  private:
   int ExecuteInto(const PjtCommand& command, short* value) const;

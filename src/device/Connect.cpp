@@ -98,7 +98,7 @@ class NoProjector final : public ProjectorChannel {
 struct ChannelMaker {
   using Channel = std::shared_ptr<ProjectorChannel>;
 
-  Channel operator()(const AddressError&) const { return nullptr; }
+  Channel operator()(const AddressError&) const { return std::make_shared<NoProjector>(); }
   Channel operator()(const TcpAddress& tcp) const {
     return std::make_shared<TcpChannel>(tcp.host, tcp.port, wire);
   }
@@ -121,7 +121,7 @@ ProjectorAddress ParseConnection(const ConnectionData& data) {
   if (data.Number < 0 || data.Number >= kSerialPorts) {
     return Wrong("no serial port", std::to_string(std::int64_t{data.Number} + 1));
   }
-  return MakeSerial("/dev/ttyS" + std::to_string(data.Number), data.Parameter);
+  return MakeSerial(SerialDevice(data.Number), data.Parameter);
 }
 
 ProjectorAddress ParseAddress(std::string_view text, std::string_view password) {
@@ -135,17 +135,18 @@ ProjectorAddress ParseAddress(std::string_view text, std::string_view password) 
   return MakeSerial(text.substr(0, mark), *baud);
 }
 
-std::shared_ptr<ProjectorChannel> MakeChannel(const ProjectorAddress& address) {
-  auto channel = std::visit(ChannelMaker{}, address);
-  if (!channel) return std::make_shared<NoProjector>();
-  return std::make_shared<BoundedChannel>(std::move(channel));
+std::shared_ptr<ProjectorChannel> MakeUnboundedChannel(
+    const ProjectorAddress& address, std::optional<std::chrono::milliseconds> timeOut) {
+  ChannelMaker maker;
+  if (timeOut) {
+    maker.wire = {.connect = *timeOut, .answer = *timeOut};
+    maker.pjLink = {.connect = *timeOut, .answer = *timeOut};
+  }
+  return std::visit(maker, address);
 }
 
-std::shared_ptr<ProjectorChannel> MakeBlockingChannel(const ProjectorAddress& address,
-                                                      std::chrono::milliseconds timeOut) {
-  const ChannelMaker maker{.wire = {.connect = timeOut, .answer = timeOut},
-                           .pjLink = {.connect = timeOut, .answer = timeOut}};
-  auto channel = std::visit(maker, address);
-  if (!channel) return std::make_shared<NoProjector>();
-  return channel;
+std::shared_ptr<ProjectorChannel> MakeChannel(const ProjectorAddress& address) {
+  auto channel = MakeUnboundedChannel(address);
+  if (std::holds_alternative<AddressError>(address)) return channel;
+  return std::make_shared<BoundedChannel>(std::move(channel));
 }

@@ -3,6 +3,7 @@
 #include <chrono>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -60,12 +61,16 @@ ADVANCED_CONTROL_EXPORT ProjectorAddress ParseConnection(const ConnectionData& d
 ADVANCED_CONTROL_EXPORT ProjectorAddress ParseAddress(std::string_view text,
                                                       std::string_view password = {});
 
+/// The path of the serial port with that number, which counts from 0.
+inline std::string SerialDevice(int number) { return "/dev/ttyS" + std::to_string(number); }
+
 /// A way to the projector that connects with the first command, behind a `BoundedChannel`. That of
 /// an `AddressError` leaves every command unanswered at once. Never null.
 ADVANCED_CONTROL_EXPORT std::shared_ptr<ProjectorChannel> MakeChannel(
     const ProjectorAddress& address);
 
-/// The same without the `BoundedChannel`, for threads that may wait as long as the channel itself
-/// does: about `timeOut` for connecting and for an answer.
-ADVANCED_CONTROL_EXPORT std::shared_ptr<ProjectorChannel> MakeBlockingChannel(
-    const ProjectorAddress& address, std::chrono::milliseconds timeOut);
+/// The same without a bound, for a host that puts a channel of its own around it and a
+/// `BoundedChannel` around both, or for threads that may wait as long as the channel itself does:
+/// `timeOut` for connecting and as much for an answer, or the channel's own times without.
+ADVANCED_CONTROL_EXPORT std::shared_ptr<ProjectorChannel> MakeUnboundedChannel(
+    const ProjectorAddress& address, std::optional<std::chrono::milliseconds> timeOut = {});

@@ -6,6 +6,7 @@
 
 #include <QDeadlineTimer>
 #include <QIODevice>
+#include <QRandomGenerator>
 
 namespace {
 
@@ -18,7 +19,11 @@ int Rest(const QDeadlineTimer& deadline) { return static_cast<int>(deadline.rema
 
 }  // namespace
 
-WireChannel::WireChannel(Medium medium, const Limits& limits) : medium_(medium), limits_(limits) {}
+// Counting begins anywhere: on a serial line a late reply may be that to somebody before us.
+WireChannel::WireChannel(Medium medium, const Limits& limits)
+    : medium_(medium),
+      limits_(limits),
+      sequence_(static_cast<std::uint16_t>(QRandomGenerator::global()->generate())) {}
 
 WireChannel::~WireChannel() = default;
 

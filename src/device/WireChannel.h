@@ -81,7 +81,7 @@ class ADVANCED_CONTROL_EXPORT WireChannel : public ProjectorChannel {
   std::atomic<ConnectionState> state_ = ConnectionState::Unused;
   std::unique_ptr<QIODevice> line_;
   Wire::Decoder decoder_;
-  std::uint16_t sequence_ = 0;  ///< Of the last frame sent.
+  std::uint16_t sequence_;  ///< Of the last frame sent.
   std::optional<Wire::Welcome> welcome_;
   std::vector<PjtCommand> announced_;  ///< Not sent yet.
   std::deque<Sent> sent_;

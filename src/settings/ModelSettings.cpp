@@ -145,7 +145,7 @@ void ModelSettings::Announce(CPjtInterface& projector,
     const auto call = ReadingOf(*setting->row, *model_);
     if (call && setting->of == OfSource::None) reads.push_back(call->Command());
   }
-  if (projector.Channel()) projector.Channel()->Announce(reads);
+  projector.Announce(reads);
 }
 
 std::optional<int> ModelSettings::Read(CPjtInterface& projector, const ModelSetting& setting,

@@ -1,36 +1,14 @@
 #pragma once
 
-#include <chrono>
 #include <cstdint>
 #include <memory>
 #include <string>
-#include <string_view>
 
 #include "AdvancedControlExport.h"
 #include "device/ProjectorChannel.h"
-#include "device/WireFrame.h"
 
 class QHostAddress;
 class QIODevice;
-
-/// The projector's end of one connection: takes the bytes that come in and makes those that go out.
-class ADVANCED_CONTROL_EXPORT WireResponder {
- public:
-  explicit WireResponder(ProjectorChannel& projector) : projector_(projector) {}
-
-  /// The frames that answer what is complete by now; empty when nothing is.
-  std::string Receive(std::string_view bytes);
-
-  /// Whether a program has said hello in a version that we speak.
-  bool IsGreeted() const { return greeted_; }
-
- private:
-  Wire::Reply Answer(const Wire::Request& request);
-
-  ProjectorChannel& projector_;
-  Wire::Decoder decoder_;
-  bool greeted_ = false;
-};
 
 /// What goes wrong with the replies of a server, whatever the projector answers.
 struct LineFault {
@@ -60,8 +38,8 @@ class ADVANCED_CONTROL_EXPORT WireServer {
   WireServer(const WireServer&) = delete;
   WireServer& operator=(const WireServer&) = delete;
 
-  /// Listens; `port` 0 takes a free one. The port, or 0 when it cannot be had; `ErrorText` then says
-  /// why.
+  /// Listens; `port` 0 takes a free one. The port, or 0 when it cannot be had; `ErrorText` then
+  /// says why.
   std::uint16_t Listen(const QHostAddress& address, std::uint16_t port);
   std::string ErrorText() const;
 

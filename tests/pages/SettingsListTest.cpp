@@ -8,7 +8,7 @@
 #include <QCheckBox>
 #include <gtest/gtest.h>
 
-#include "app/ProjectorLink.h"
+#include "app/ProjectorAccess.h"
 #include "device/ModelDataIntake.h"
 #include "i18n/SystemLanguage.h"
 #include "pages/input/CServiceDlg.h"

@@ -229,6 +229,7 @@ void RowDialog::FillResets(int list) {
 
 void RowDialog::Refresh() {
   const Busy busy(this);
+  projector->Announce(Reads());
   OfSource asked = OfSource::None;
   std::optional<int> source = 0;
   for (std::size_t i = 0; i < bound_.size(); ++i) {

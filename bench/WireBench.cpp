@@ -1,0 +1,186 @@
+#include <algorithm>
+#include <future>
+#include <memory>
+#include <thread>
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QTabBar>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTimer>
+#include <benchmark/benchmark.h>
+
+#include "bench/BenchSupport.h"
+#include "device/BoundedChannel.h"
+#include "device/ModelDataIntake.h"
+#include "device/TcpChannel.h"
+#include "host/CAdvanceDlg.h"
+#include "settings/PageSets.h"
+#include "simulator/SimulatedProjector.h"
+#include "simulator/WireServer.h"
+
+namespace {
+
+constexpr int kDialogType = 5;
+constexpr int kModelCode = 54;
+
+/// Passes on what each side says, half a round trip later.
+class Relay {
+ public:
+  Relay(std::uint16_t target, std::chrono::milliseconds roundTrip) : oneWay_(roundTrip / 2) {
+    server_.listen(QHostAddress::LocalHost);
+    QObject::connect(&server_, &QTcpServer::newConnection, &server_, [this, target] {
+      QTcpSocket* program = server_.nextPendingConnection();
+      auto* projector = new QTcpSocket(program);
+      projector->connectToHost(QHostAddress::LocalHost, target);
+      Pass(program, projector);
+      Pass(projector, program);
+      QObject::connect(program, &QTcpSocket::disconnected, program, &QObject::deleteLater);
+    });
+  }
+
+  std::uint16_t Port() const { return server_.serverPort(); }
+
+ private:
+  void Pass(QTcpSocket* from, QTcpSocket* to) {
+    from->setSocketOption(QAbstractSocket::LowDelayOption, 1);
+    QObject::connect(from, &QTcpSocket::readyRead, to, [=, delay = oneWay_] {
+      QTimer::singleShot(delay, Qt::PreciseTimer, to,
+                         [to, bytes = from->readAll()] { to->write(bytes); });
+    });
+  }
+
+  const std::chrono::milliseconds oneWay_;
+  QTcpServer server_;
+};
+
+/// A projector behind a relay, on a thread of their own.
+class FarProjector {
+ public:
+  FarProjector(const CModelInfo2& model, std::chrono::milliseconds roundTrip) {
+    std::promise<std::uint16_t> listening;
+    auto port = listening.get_future();
+    thread_ = std::thread([this, &model, roundTrip, &listening] {
+      QEventLoop loop;
+      loop_ = &loop;
+      WireServer server(std::make_shared<SimulatedProjector>(DescribeModel(MakeModelData(model))));
+      const std::uint16_t direct = server.Listen(QHostAddress::LocalHost, 0);
+      const Relay relay(direct, roundTrip);
+      listening.set_value(roundTrip.count() > 0 ? relay.Port() : direct);
+      loop.exec();
+    });
+    port_ = port.get();
+  }
+  ~FarProjector() {
+    QMetaObject::invokeMethod(loop_, &QEventLoop::quit, Qt::QueuedConnection);
+    thread_.join();
+  }
+
+  std::uint16_t Port() const { return port_; }
+
+ private:
+  QEventLoop* loop_ = nullptr;
+  std::uint16_t port_ = 0;
+  std::thread thread_;
+};
+
+/// Counts commands, and keeps announcements to itself unless they are wanted.
+class Counting final : public ProjectorChannel {
+ public:
+  Counting(std::shared_ptr<ProjectorChannel> inner, bool announces)
+      : inner_(std::move(inner)), announces_(announces) {}
+
+  PjtReply Execute(const PjtCommand& command) override {
+    const PjtReply reply = inner_->Execute(command);
+    ++(reply.answered ? answered : unanswered);
+    return reply;
+  }
+  void Announce(std::span<const PjtCommand> reads) override {
+    if (announces_) inner_->Announce(reads);
+  }
+
+  int answered = 0;
+  int unanswered = 0;
+
+ private:
+  const std::shared_ptr<ProjectorChannel> inner_;
+  const bool announces_;
+};
+
+std::shared_ptr<Counting> ConnectTo(const FarProjector& projector, bool announces) {
+  return std::make_shared<Counting>(
+      std::make_shared<BoundedChannel>(std::make_shared<TcpChannel>("127.0.0.1", projector.Port())),
+      announces);
+}
+
+void SetCounters(benchmark::State& state, const Counting& channel, double seconds) {
+  state.counters["reads"] = channel.answered;
+  if (state.range(0) > 0) {
+    state.counters["round_trips"] = seconds * 1000 / static_cast<double>(state.range(0));
+  }
+  if (channel.unanswered > 0) state.SkipWithError("a command was unanswered");
+}
+
+// Arguments: milliseconds of a round trip, and whether the page's reads are announced. From the tab
+// change to the last value on the page.
+void ShowSetupPage(benchmark::State& state) {
+  const CModelInfo2 model = MakeFullModel(kDialogType, kModelCode);
+  const FarProjector projector(model, std::chrono::milliseconds(state.range(0)));
+  const auto channel = ConnectTo(projector, state.range(1) != 0);
+  PaintWatch watch;
+  CAdvanceDlg dialog;
+  dialog.CopyData(&model, 0);
+  dialog.Projector().SetChannel(channel);
+  dialog.Create();
+  dialog.show();
+  auto& tabs = *dialog.findChild<QTabBar*>();
+  const auto pages = TabsOf(kDialogType, kModelCode);
+  const auto setup = std::ranges::find(pages, PageId::SetupType5, &PageTab::page);
+  const int setupTab = static_cast<int>(setup - pages.begin()) + 1;
+
+  std::vector<double> totals;
+  for ([[maybe_unused]] auto iteration : state) {
+    tabs.setCurrentIndex(0);
+    watch.RunUntilPainted();
+    channel->answered = 0;
+    const auto start = Clock::now();
+    tabs.setCurrentIndex(setupTab);
+    watch.RunUntilPainted();
+    totals.push_back(SecondsSince(start));
+    state.SetIterationTime(totals.back());
+  }
+  SetCounters(state, *channel, Median(totals));
+}
+
+// From a dialog that is not there, and no connection, to the first page's values.
+void OpenOverLink(benchmark::State& state) {
+  const CModelInfo2 model = MakeFullModel(kDialogType, kModelCode);
+  const FarProjector projector(model, std::chrono::milliseconds(state.range(0)));
+  PaintWatch watch;
+  std::vector<double> totals;
+  std::shared_ptr<Counting> channel;
+  for ([[maybe_unused]] auto iteration : state) {
+    channel = ConnectTo(projector, state.range(1) != 0);
+    const auto start = Clock::now();
+    CAdvanceDlg dialog;
+    dialog.CopyData(&model, 0);
+    dialog.Projector().SetChannel(channel);
+    dialog.Create();
+    dialog.show();
+    watch.RunUntilPainted();
+    totals.push_back(SecondsSince(start));
+    state.SetIterationTime(totals.back());
+  }
+  SetCounters(state, *channel, Median(totals));
+}
+
+void NearAndFar(benchmark::internal::Benchmark* bench) {
+  bench->ArgNames({"ms", "announced"})->ArgsProduct({{0, 20}, {0, 1}});
+  bench->Iterations(20)->UseManualTime()->Unit(benchmark::kMillisecond);
+}
+
+}  // namespace
+
+BENCHMARK(ShowSetupPage)->Apply(NearAndFar);
+BENCHMARK(OpenOverLink)->Apply(NearAndFar);

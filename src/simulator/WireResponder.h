@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "AdvancedControlExport.h"
+#include "device/ProjectorChannel.h"
+#include "device/WireFrame.h"
+
+/// The projector's end of one connection: takes the bytes that come in and makes those that go out.
+class ADVANCED_CONTROL_EXPORT WireResponder {
+ public:
+  explicit WireResponder(ProjectorChannel& projector) : projector_(projector) {}
+
+  /// The frames that answer what is complete by now; empty when nothing is.
+  std::string Receive(std::string_view bytes);
+
+  /// Whether a program has said hello in a version that we speak.
+  bool IsGreeted() const { return greeted_; }
+
+ private:
+  Wire::Reply Answer(const Wire::Request& request);
+
+  ProjectorChannel& projector_;
+  Wire::Decoder decoder_;
+  bool greeted_ = false;
+};

@@ -1,0 +1,171 @@
+#include <chrono>
+#include <map>
+
+#include <QProcess>
+#include <QTcpSocket>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+#include "app/ProfileFile.h"
+#include "app/ProjectorSession.h"
+#include "device/BoundedChannel.h"
+#include "device/CPjtInterface.h"
+#include "device/Connect.h"
+#include "host/CAdvanceDlg.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr PjtCommand kVolume{PjtOperation::Get, 0x2001};
+constexpr char kName[] = "Projector 5-30";
+
+PjtCommand SetVolume(int value) {
+  return {PjtOperation::Set, 0x2001, static_cast<std::int16_t>(value)};
+}
+
+/// The simulator as a process of its own.
+class SimulatorTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    Start({"--projector", kName, "--serial", "--control", "0", "--password", "secret",
+           "--write-profiles", Profiles()});
+    ASSERT_EQ(addresses_.size(), 4U) << process_.readAllStandardError().toStdString();
+    const int port = addresses_["control"].section(':', 1).toInt();
+    control_.connectToHost(QHostAddress::LocalHost, static_cast<std::uint16_t>(port));
+    ASSERT_TRUE(control_.waitForConnected());
+  }
+
+  void TearDown() override { Stop(); }
+
+  void Stop() {
+    process_.terminate();
+    ASSERT_TRUE(process_.waitForFinished(5000));
+    EXPECT_EQ(process_.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(process_.exitCode(), 0);
+  }
+
+  void Start(const QStringList& arguments) {
+    process_.start(ADVANCED_CONTROL_SIMULATOR, arguments);
+    while (process_.canReadLine() || process_.waitForReadyRead(10'000)) {
+      const QString line = QString::fromUtf8(process_.readLine()).trimmed();
+      if (line == "ready") return;
+      const QString address = line.section(": ", 1);
+      const QString way = line.startsWith("control") ? "control" : address.section(':', 0, 0);
+      addresses_[way] = address;
+    }
+  }
+
+  QString Profiles() const { return folder_.filePath("real.json"); }
+
+  ProjectorAddress Address(const char* way) {
+    return ParseAddress(addresses_[QLatin1String(way)].toStdString(), "secret");
+  }
+
+  std::string Control(const char* line) {
+    control_.write(QByteArray(line) + '\n');
+    control_.waitForReadyRead(5000);
+    return control_.readLine().trimmed().toStdString();
+  }
+
+  QTemporaryDir folder_;
+  QProcess process_;
+  QTcpSocket control_;
+  std::map<QString, QString> addresses_;
+};
+
+TEST_F(SimulatorTest, OneProjectorIsReachedInEveryWay) {
+  const auto tcp = MakeChannel(Address("tcp"));
+  const auto serial = MakeChannel(Address("serial"));
+  const auto pjLink = MakeChannel(Address("pjlink"));
+  EXPECT_EQ(tcp->Execute(SetVolume(11)).result, 1);
+  EXPECT_EQ(serial->Execute(kVolume).value, 11);
+  EXPECT_EQ(serial->Execute(SetVolume(12)).result, 1);
+  EXPECT_EQ(tcp->Execute(kVolume).value, 12);
+  EXPECT_EQ(tcp->Execute(SetVolume(9999)).result, 0) << "a refusal is an answer";
+  EXPECT_EQ(tcp->Connection(), ConnectionState::Connected);
+  const PjtCommand power{PjtOperation::Get, 0x6000};
+  EXPECT_EQ(pjLink->Execute(power).value, tcp->Execute(power).value);
+  const auto wrong = MakeChannel(ParseAddress(addresses_["pjlink"].toStdString(), "wrong"));
+  EXPECT_FALSE(wrong->Execute(power).answered);
+  EXPECT_EQ(wrong->Connection(), ConnectionState::PasswordRequired);
+}
+
+TEST_F(SimulatorTest, FaultsOfTheLineAreUnansweredAndOver) {
+  struct Case {
+    const char* way;
+    const char* fault;
+    bool answered;
+    ConnectionState state;
+  };
+  using enum ConnectionState;
+  for (const auto& [way, fault, answered, state] : std::initializer_list<Case>{
+           {"tcp", "1 trickle", true, Connected},
+           {"tcp", "* late 100", true, Connected},
+           {"tcp", "1 late 1800", false, NoAnswer},
+           {"tcp", "1 silent", false, NoAnswer},
+           {"tcp", "1 garbage", false, NotUnderstood},
+           {"tcp", "1 cut 7", false, Lost},
+           {"serial", "1 trickle", true, Connected},
+           {"serial", "1 late 1800", false, NoAnswer},
+           {"serial", "1 silent", false, NoAnswer},
+           {"serial", "1 garbage", false, NoAnswer},
+       }) {
+    SCOPED_TRACE(testing::Message() << way << ' ' << fault);
+    const auto inner = MakeUnboundedChannel(Address(way));
+    BoundedChannel channel(inner, {.timeOut = 10s, .retryAfter = 0ms});
+    ASSERT_TRUE(channel.Execute(SetVolume(7)).answered);
+    EXPECT_EQ(Control(fault), "ok");
+    const PjtReply reply = channel.Execute(kVolume);
+    EXPECT_EQ(reply.answered, answered);
+    EXPECT_EQ(ConnectionStateText(channel.Connection()), ConnectionStateText(state));
+    EXPECT_TRUE(!reply.answered || reply.value == 7);
+    EXPECT_EQ(Control("* none"), "ok");
+    EXPECT_EQ(channel.Execute(kVolume).value, 7);
+  }
+  EXPECT_EQ(Control("1 late"),
+            "error: faults are none, refuse, fail-read, silent, late "
+            "MILLISECONDS, cut BYTES, garbage, trickle");
+  EXPECT_EQ(Control("2 none"), "error: no projector '2'; there are 1 to 1, and *");
+}
+
+TEST_F(SimulatorTest, ADialogConnectsByItself) {
+  const auto tcp = std::get<TcpAddress>(Address("tcp"));
+  CPjtInterface projector;
+  projector.CopyData(1, 0, tcp.port, tcp.host.c_str(), "");
+  EXPECT_EQ(projector.Connection(), ConnectionState::Unused);
+  unsigned short value = 0;
+  EXPECT_EQ(projector.Get(0x2001, 0, &projector, &value), 1);
+  EXPECT_EQ(projector.Connection(), ConnectionState::Connected);
+  projector.CopyData(1, 0, -1, tcp.host.c_str(), "");
+  EXPECT_EQ(projector.Get(0x2001, 0, &projector, &value), 0);
+  EXPECT_EQ(projector.Connection(), ConnectionState::WrongParameters);
+
+  // The profiles that the simulator wrote lead there, on every way.
+  ProfileFileContents contents = ReadProfileFile(Profiles());
+  EXPECT_EQ(contents.error, "");
+  ASSERT_EQ(contents.projectors.size(), 3U);
+  for (ProjectorProfile& profile : contents.projectors) {
+    int answered = 0;
+    ProjectorSession session(profile, [&](const PjtCommand&, const PjtReply& reply, auto) {
+      answered += reply.answered ? 1 : 0;
+    });
+    const auto dialog = session.MakeDialog();
+    ASSERT_TRUE(dialog->Create());
+    EXPECT_GT(answered, 0) << profile.Name;
+    EXPECT_EQ(session.Connection(), ConnectionState::Connected) << profile.Name;
+  }
+}
+
+TEST_F(SimulatorTest, AProjectorThatGoesAndComesBackIsFoundAgain) {
+  const auto address = std::get<TcpAddress>(Address("tcp"));
+  BoundedChannel channel(MakeUnboundedChannel(address), {.retryAfter = 0ms});
+  EXPECT_TRUE(channel.Execute(kVolume).answered);
+  Stop();
+  EXPECT_FALSE(channel.Execute(kVolume).answered);
+  EXPECT_EQ(channel.Connection(), ConnectionState::NotReachable);
+  Start({"--projector", kName, "--port", QString::number(address.port)});
+  EXPECT_TRUE(channel.Execute(kVolume).answered);
+}
+
+}  // namespace

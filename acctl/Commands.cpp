@@ -43,9 +43,9 @@ std::vector<const ModelSetting*> Chosen(const ModelSettings& settings,
 }
 
 /// Complains that a setting cannot be used now, by what the projector said to it.
-void ComplainOf(const ModelSetting& setting, const ProjectorLink& link, const char* refusal,
+void ComplainOf(const ModelSetting& setting, const ProjectorAccess& projector, const char* refusal,
                 Report& report) {
-  const bool answered = link.Channel().HasAnswered();
+  const bool answered = projector.Channel().HasAnswered();
   report.Complain(std::string(setting.key) + ": " + (answered ? refusal : "no answer"),
                   answered ? ExitCode::Refused : ExitCode::NoAnswer);
 }
@@ -55,19 +55,19 @@ std::vector<std::string> Cells(const SettingTexts& texts, const ModelSetting& se
 }
 
 /// Reads settings into the report; after the first that is not answered no other is asked.
-void ReadInto(const Work& work, ProjectorLink& link,
+void ReadInto(const Work& work, ProjectorAccess& projector,
               const std::vector<const ModelSetting*>& settings, Report& report) {
-  const Progress progress = ProgressOf(work, link);
+  const Progress progress = ProgressOf(work, projector);
   Table table;
   QJsonArray values;
-  link.Settings().Announce(link.Connection(), settings);
+  projector.Settings().Announce(projector.Connection(), settings);
   for (const ModelSetting* setting : settings) {
     if (!progress.goesOn()) break;
-    if (const auto value = link.Settings().Read(link.Connection(), *setting)) {
+    if (const auto value = projector.Settings().Read(projector.Connection(), *setting)) {
       table.Add(Cells(work.texts, *setting, *value));
       values.append(ValueOf(work.texts, *setting, *value));
     } else {
-      ComplainOf(*setting, link, "cannot be read now", report);
+      ComplainOf(*setting, projector, "cannot be read now", report);
     }
     progress.step();
   }
@@ -104,13 +104,13 @@ std::vector<Change> ChangesOf(const Work& work, const ModelSettings& settings, R
   return changes;
 }
 
-void Make(const Change& change, const Work& work, ProjectorLink& link, Report& report) {
+void Make(const Change& change, const Work& work, ProjectorAccess& projector, Report& report) {
   const ModelSetting& setting = *change.setting;
-  const ModelSettings& settings = link.Settings();
+  const ModelSettings& settings = projector.Settings();
   std::optional<int> present;
   if (change.typed.relative) {
-    present = settings.Read(link.Connection(), setting);
-    if (!present) return ComplainOf(setting, link, "cannot be read now", report);
+    present = settings.Read(projector.Connection(), setting);
+    if (!present) return ComplainOf(setting, projector, "cannot be read now", report);
   }
   const auto value = Resolve(setting, change.typed, present);
   if (!value) {
@@ -120,13 +120,16 @@ void Make(const Change& change, const Work& work, ProjectorLink& link, Report& r
                     ExitCode::WrongUse);
     return;
   }
-  const bool accepted =
-      settings.Change(link.Connection(), setting, *value, work.texts.Value(setting, *value));
-  const bool answered = link.Channel().HasAnswered();
-  if (!accepted || !answered) return ComplainOf(setting, link, "refused", report);
+  const bool accepted = settings.Change(
+      projector.Connection(), setting, *value,
+      {.text = work.texts.Value(setting, *value), .goesOn = ProgressOf(work, projector).goesOn});
+  const bool answered = projector.Channel().HasAnswered();
+  if (!accepted || !answered) return ComplainOf(setting, projector, "refused", report);
   // A setter without a result says nothing; what is read afterwards does.
-  const auto now = settings.Read(link.Connection(), setting);
-  if (now && *now != *value) {
+  const auto now = settings.Read(projector.Connection(), setting);
+  // A projector that is cooling down does what it was told.
+  const bool isSo = setting.kind == Kind::State ? (now == 1) == (*value == 1) : now == *value;
+  if (now && !isSo) {
     report.Complain(
         std::string(setting.key) + ": refused, it is " + work.texts.Value(setting, *now),
         ExitCode::Refused);
@@ -149,7 +152,7 @@ QJsonObject Describe(const SettingTexts& texts, const ModelSetting& setting) {
                    {"readable", setting.readable},
                    {"changeable", setting.changeable},
                    {"restorable", setting.Restorable()},
-                   {"perSource", setting.perSource},
+                   {"perSource", setting.IsPerSource()},
                    {"resettable", setting.reset.has_value()}};
   if (setting.range) {
     json["minimum"] = setting.range->minimum - setting.bias;
@@ -182,8 +185,9 @@ bool IsLike(std::string_view name, const std::vector<std::string>& patterns) {
          });
 }
 
-Progress ProgressOf(const Work& work, const ProjectorLink& link) {
-  return {.goesOn = [&work, &link] { return !work.isInterrupted() && !link.Channel().IsGone(); },
+Progress ProgressOf(const Work& work, const ProjectorAccess& projector) {
+  return {.goesOn = [&work,
+                     &projector] { return !work.isInterrupted() && !projector.Channel().IsGone(); },
           .step = work.step};
 }
 
@@ -195,11 +199,11 @@ QJsonObject ValueOf(const SettingTexts& texts, const ModelSetting& setting, int 
           {"text", Wide(texts.Value(setting, value))}};
 }
 
-Report RunSettings(const Work& work, ProjectorLink& link) {
+Report RunSettings(const Work& work, ProjectorAccess& projector) {
   Report report;
   Table table;
   QJsonArray described;
-  for (const ModelSetting* setting : Chosen(link.Settings(), work.arguments.words, report)) {
+  for (const ModelSetting* setting : Chosen(projector.Settings(), work.arguments.words, report)) {
     described.append(Describe(work.texts, *setting));
     if (work.arguments.brief) {
       table.Add({std::string(setting->key)});
@@ -214,66 +218,66 @@ Report RunSettings(const Work& work, ProjectorLink& link) {
   return report;
 }
 
-Report RunGet(const Work& work, ProjectorLink& link) {
+Report RunGet(const Work& work, ProjectorAccess& projector) {
   Report report;
-  auto chosen = Chosen(link.Settings(), work.arguments.words, report);
+  auto chosen = Chosen(projector.Settings(), work.arguments.words, report);
   std::erase_if(chosen, [](const ModelSetting* setting) { return !setting->readable; });
-  ReadInto(work, link, chosen, report);
+  ReadInto(work, projector, chosen, report);
   return report;
 }
 
-Report RunSet(const Work& work, ProjectorLink& link) {
+Report RunSet(const Work& work, ProjectorAccess& projector) {
   Report report;
-  const std::vector<Change> changes = ChangesOf(work, link.Settings(), report);
+  const std::vector<Change> changes = ChangesOf(work, projector.Settings(), report);
   if (report.code != ExitCode::Done) return report;  // nothing is sent unless all of it can be
-  const Progress progress = ProgressOf(work, link);
+  const Progress progress = ProgressOf(work, projector);
   std::vector<const ModelSetting*> settings;
   for (const Change& change : changes) {
     if (!progress.goesOn()) break;
-    Make(change, work, link, report);
+    Make(change, work, projector, report);
     if (change.setting->readable) settings.push_back(change.setting);
     progress.step();
   }
-  ReadInto(work, link, settings, report);
+  ReadInto(work, projector, settings, report);
   return report;
 }
 
-Report RunReset(const Work& work, ProjectorLink& link) {
+Report RunReset(const Work& work, ProjectorAccess& projector) {
   Report report;
-  const auto chosen = Chosen(link.Settings(), work.arguments.words, report);
+  const auto chosen = Chosen(projector.Settings(), work.arguments.words, report);
   for (const ModelSetting* setting : chosen) {
     if (!setting->reset) {
       report.Complain(std::string(setting->key) + ": this cannot be reset", ExitCode::WrongUse);
     }
   }
   if (report.code != ExitCode::Done) return report;
-  const Progress progress = ProgressOf(work, link);
+  const Progress progress = ProgressOf(work, projector);
   for (const ModelSetting* setting : chosen) {
     if (!progress.goesOn()) break;
-    if (!Perform(link.Connection(), Named(*setting->reset)).accepted) {
-      ComplainOf(*setting, link, "refused", report);
+    if (!Perform(projector.Connection(), *setting->reset).accepted) {
+      ComplainOf(*setting, projector, "refused", report);
     }
   }
-  ReadInto(work, link, chosen, report);
+  ReadInto(work, projector, chosen, report);
   return report;
 }
 
-Report RunStatus(const Work& work, ProjectorLink& link) {
+Report RunStatus(const Work& work, ProjectorAccess& projector) {
   Report report;
-  ReadInto(work, link, States(link.Settings()), report);
+  ReadInto(work, projector, States(projector.Settings()), report);
   return report;
 }
 
-Report RunWatch(const Work& work, ProjectorLink& link) {
+Report RunWatch(const Work& work, ProjectorAccess& projector) {
   Report report;
-  const auto chosen = Chosen(link.Settings(), work.arguments.words, report);
-  const Progress progress = ProgressOf(work, link);
+  const auto chosen = Chosen(projector.Settings(), work.arguments.words, report);
+  const Progress progress = ProgressOf(work, projector);
   std::map<const ModelSetting*, std::optional<int>> last;
   while (report.code == ExitCode::Done && progress.goesOn()) {
     for (const ModelSetting* setting : chosen) {
       if (!setting->readable || !progress.goesOn()) continue;
-      const auto value = link.Settings().Read(link.Connection(), *setting);
-      if (!link.Channel().HasAnswered()) ComplainOf(*setting, link, "", report);
+      const auto value = projector.Settings().Read(projector.Connection(), *setting);
+      if (!projector.Channel().HasAnswered()) ComplainOf(*setting, projector, "", report);
       const auto [known, isNew] = last.try_emplace(setting, value);
       if (!value || (!isNew && known->second == value)) continue;
       known->second = value;

@@ -6,7 +6,7 @@
 
 #include "acctl/Arguments.h"
 #include "acctl/Report.h"
-#include "app/ProjectorLink.h"
+#include "app/ProjectorAccess.h"
 #include "snapshots/Snapshot.h"
 
 /// What all projectors of a command share.
@@ -22,19 +22,19 @@ struct Work {
 bool IsLike(std::string_view name, const std::vector<std::string>& patterns);
 
 /// Goes on until the work is interrupted or the projector is gone.
-Progress ProgressOf(const Work& work, const ProjectorLink& link);
+Progress ProgressOf(const Work& work, const ProjectorAccess& projector);
 
 /// A setting with its value, for scripts.
 QJsonObject ValueOf(const SettingTexts& texts, const ModelSetting& setting, int value);
 
 /// Does what the command says with one projector. `Watch` prints by itself, until it is
 /// interrupted.
-Report RunSettings(const Work& work, ProjectorLink& link);
-Report RunGet(const Work& work, ProjectorLink& link);
-Report RunSet(const Work& work, ProjectorLink& link);
-Report RunReset(const Work& work, ProjectorLink& link);
-Report RunStatus(const Work& work, ProjectorLink& link);
-Report RunWatch(const Work& work, ProjectorLink& link);
-Report RunSave(const Work& work, ProjectorLink& link);
-Report RunDiff(const Work& work, ProjectorLink& link);
-Report RunApply(const Work& work, ProjectorLink& link);
+Report RunSettings(const Work& work, ProjectorAccess& projector);
+Report RunGet(const Work& work, ProjectorAccess& projector);
+Report RunSet(const Work& work, ProjectorAccess& projector);
+Report RunReset(const Work& work, ProjectorAccess& projector);
+Report RunStatus(const Work& work, ProjectorAccess& projector);
+Report RunWatch(const Work& work, ProjectorAccess& projector);
+Report RunSave(const Work& work, ProjectorAccess& projector);
+Report RunDiff(const Work& work, ProjectorAccess& projector);
+Report RunApply(const Work& work, ProjectorAccess& projector);

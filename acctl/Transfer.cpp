@@ -60,6 +60,7 @@ std::string Summary(const Restoration& restoration) {
 
 QJsonObject Describe(const SettingTexts& texts, const RestoredSetting& restored) {
   QJsonObject json{{"key", Wide(restored.saved.key)}, {"saved", restored.saved.value}};
+  if (restored.saved.source) json["source"] = *restored.saved.source;
   if (restored.setting != nullptr) {
     json["caption"] = Wide(texts.Caption(*restored.setting));
     json["savedText"] = Wide(texts.Value(*restored.setting, restored.saved.value));
@@ -115,26 +116,26 @@ std::string Differences(const Work& work, const Restoration& restoration) {
   return table.Text();
 }
 
-Restoration Restoring(const Work& work, ProjectorLink& link) {
-  return {*work.file, link.Settings(), link.Connection(),
+Restoration Restoring(const Work& work, ProjectorAccess& projector) {
+  return {*work.file, projector.Settings(), projector.Connection(),
           [&work](std::string_view key) { return IsLike(key, work.arguments.only); }};
 }
 
-void ComplainIfGone(const ProjectorLink& link, Report& report) {
-  if (link.Channel().IsGone()) report.Complain("no answer", ExitCode::NoAnswer);
+void ComplainIfGone(const ProjectorAccess& projector, Report& report) {
+  if (projector.Channel().IsGone()) report.Complain("no answer", ExitCode::NoAnswer);
 }
 
 }  // namespace
 
-Report RunSave(const Work& work, ProjectorLink& link) {
+Report RunSave(const Work& work, ProjectorAccess& projector) {
   Report report;
   std::vector<std::string> unread;
-  const Progress progress = ProgressOf(work, link);
-  Snapshot snapshot =
-      TakeSnapshot(link.Name(), link.Settings(), link.Connection(), work.texts, progress, &unread);
+  const Progress progress = ProgressOf(work, projector);
+  Snapshot snapshot = TakeSnapshot(projector.Name(), projector.Settings(), projector.Connection(),
+                                   work.texts, progress, &unread);
   // Half a snapshot would look like a whole one.
   if (!progress.goesOn()) {
-    ComplainIfGone(link, report);
+    ComplainIfGone(projector, report);
     return report;
   }
   std::erase_if(snapshot.settings, [&work](const SavedSetting& setting) {
@@ -161,26 +162,26 @@ Report RunSave(const Work& work, ProjectorLink& link) {
   return report;
 }
 
-Report RunDiff(const Work& work, ProjectorLink& link) {
+Report RunDiff(const Work& work, ProjectorAccess& projector) {
   Report report;
-  Restoration restoration = Restoring(work, link);
-  restoration.Read(ProgressOf(work, link));
-  ComplainIfGone(link, report);
+  Restoration restoration = Restoring(work, projector);
+  restoration.Read(ProgressOf(work, projector));
+  ComplainIfGone(projector, report);
   Tell(work, restoration, report);
   report.text = Differences(work, restoration) + Summary(restoration) + '\n';
   return report;
 }
 
-Report RunApply(const Work& work, ProjectorLink& link) {
-  if (work.arguments.dryRun) return RunDiff(work, link);
+Report RunApply(const Work& work, ProjectorAccess& projector) {
+  if (work.arguments.dryRun) return RunDiff(work, projector);
   Report report;
-  const Progress progress = ProgressOf(work, link);
-  Restoration restoration = Restoring(work, link);
+  const Progress progress = ProgressOf(work, projector);
+  Restoration restoration = Restoring(work, projector);
   restoration.Read(progress);
   if (progress.goesOn() && restoration.Count(Outcome::Differs) > 0) {
     const QString undo =
-        UndoPath(Wide(work.arguments.file), Wide(work.arguments.undoFolder), link.Name());
-    const QByteArray bytes = WriteSnapshot(restoration.Undo(link.Name(), work.texts));
+        UndoPath(Wide(work.arguments.file), Wide(work.arguments.undoFolder), projector.Name());
+    const QByteArray bytes = WriteSnapshot(restoration.Undo(projector.Name(), work.texts));
     if (const QString error = WriteWholeFile(undo, bytes); !error.isEmpty()) {
       report.Complain(error.toStdString() + "; nothing was sent", ExitCode::Refused);
     } else {
@@ -188,7 +189,7 @@ Report RunApply(const Work& work, ProjectorLink& link) {
       restoration.Send(work.texts, progress);
     }
   }
-  ComplainIfGone(link, report);
+  ComplainIfGone(projector, report);
   Tell(work, restoration, report);
   report.text = Summary(restoration) + '\n';
   return report;

@@ -98,17 +98,19 @@ std::string Choose(const std::vector<std::string>& names,
   return {};
 }
 
-/// The projector's own simulation, or what is at the address that was given.
+/// The projector of the profile, or what is at the address that was given.
 std::shared_ptr<ProjectorChannel> ChannelTo(const ProjectorProfile& profile,
                                             const Arguments& arguments) {
-  if (arguments.address.empty()) {
+  const bool isGiven = !arguments.address.empty();
+  if (!isGiven && profile.Link == ProjectorLink::Simulated) {
     return std::make_shared<SimulatedProjector>(SimulatedModelOf(profile));
   }
-  return MakeUnboundedChannel(ParseAddress(arguments.address, arguments.password),
-                             arguments.timeOut);
+  return MakeUnboundedChannel(
+      isGiven ? ParseAddress(arguments.address, arguments.password) : AddressOf(profile),
+      arguments.timeOut);
 }
 
-using Run = Report (*)(const Work&, ProjectorLink&);
+using Run = Report (*)(const Work&, ProjectorAccess&);
 
 Run RunOf(Command command) {
   switch (command) {
@@ -151,8 +153,8 @@ int RunOnProjectors(const Work& work, const std::vector<const ProjectorProfile*>
       static_cast<int>(projectors.size()), arguments.jobs, meter,
       [&](int number) {
         const ProjectorProfile& profile = *projectors[static_cast<std::size_t>(number)];
-        ProjectorLink link(profile, ChannelTo(profile, arguments));
-        return run(work, link);
+        ProjectorAccess projector(profile, ChannelTo(profile, arguments));
+        return run(work, projector);
       },
       [&](int number, Report report) {
         const std::string& name = projectors[static_cast<std::size_t>(number)]->Name;

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "app/ProjectorLink.h"
+#include "app/ProjectorAccess.h"
 #include "device/BoundedChannel.h"
 #include "host/CAdvanceDlg.h"
 

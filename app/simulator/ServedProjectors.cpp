@@ -5,6 +5,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include "app/ProjectorAccess.h"
 #include "app/simulator/PseudoTerminal.h"
 #include "device/ModelDataIntake.h"
 #include "simulator/SimulatedProjector.h"
@@ -12,9 +13,8 @@
 namespace {
 
 std::shared_ptr<FaultChannel> Simulate(const ProjectorProfile& profile) {
-  SimulatedModel model = DescribeModel(MakeModelData(profile.Model));
-  model.missing = {profile.Lacks.begin(), profile.Lacks.end()};
-  return std::make_shared<FaultChannel>(std::make_shared<SimulatedProjector>(std::move(model)));
+  return std::make_shared<FaultChannel>(
+      std::make_shared<SimulatedProjector>(SimulatedModelOf(profile)));
 }
 
 PjLinkServer::Options PjLinkOptions(const ProjectorProfile& profile, const std::string& password) {

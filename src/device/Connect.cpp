@@ -135,10 +135,13 @@ ProjectorAddress ParseAddress(std::string_view text, std::string_view password) 
   return MakeSerial(text.substr(0, mark), *baud);
 }
 
-std::shared_ptr<ProjectorChannel> MakeUnboundedChannel(const ProjectorAddress& address,
-                                                       std::chrono::milliseconds timeOut) {
-  const ChannelMaker maker{.wire = {.connect = timeOut, .answer = timeOut},
-                           .pjLink = {.connect = timeOut, .answer = timeOut}};
+std::shared_ptr<ProjectorChannel> MakeUnboundedChannel(
+    const ProjectorAddress& address, std::optional<std::chrono::milliseconds> timeOut) {
+  ChannelMaker maker;
+  if (timeOut) {
+    maker.wire = {.connect = *timeOut, .answer = *timeOut};
+    maker.pjLink = {.connect = *timeOut, .answer = *timeOut};
+  }
   return std::visit(maker, address);
 }
 

@@ -3,6 +3,7 @@
 #include <chrono>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -68,9 +69,8 @@ inline std::string SerialDevice(int number) { return "/dev/ttyS" + std::to_strin
 ADVANCED_CONTROL_EXPORT std::shared_ptr<ProjectorChannel> MakeChannel(
     const ProjectorAddress& address);
 
-/// The same without the `BoundedChannel`, for a host that puts a channel of its own in between, and
-/// for threads that may wait as long as the channel itself does: about `timeOut` for connecting and
-/// for an answer.
+/// The same without a bound, for a host that puts a channel of its own around it and a
+/// `BoundedChannel` around both, or for threads that may wait as long as the channel itself does:
+/// `timeOut` for connecting and as much for an answer, or the channel's own times without.
 ADVANCED_CONTROL_EXPORT std::shared_ptr<ProjectorChannel> MakeUnboundedChannel(
-    const ProjectorAddress& address,
-    std::chrono::milliseconds timeOut = std::chrono::milliseconds(1500));
+    const ProjectorAddress& address, std::optional<std::chrono::milliseconds> timeOut = {});

@@ -4,6 +4,7 @@
 #include <string>
 #include <utility>
 
+#include "device/CommandCode.h"
 #include "settings/CatalogNumbers.h"
 #include "settings/PageTables.h"
 #include "settings/picture/PictureRows.h"
@@ -12,29 +13,19 @@ namespace {
 
 constexpr auto kSwitch = Numbered(ListText::SwitchOff, ListText::SwitchOn);
 
-bool AddressesSource(const std::optional<Call>& call) {
-  if (!call) return false;
-  switch (FamilyOf(call->operation)) {
-    case OperationFamily::SourceSetter:
-    case OperationFamily::ShortSourceSetter:
-      return true;
-    default:
-      return false;
-  }
-}
-
 void Describe(const ListRow& row, const ModelData& model, ModelSetting& setting) {
   setting.kind = row.send ? ModelSetting::Kind::Choice : ModelSetting::Kind::State;
   setting.entries = row.entries.Of(model);
   setting.changeable = row.send.has_value() && !setting.entries.empty();
-  setting.perSource = AddressesSource(row.send);
+  setting.of = row.of;
 }
 
 void Describe(const ValueRow& row, const ModelData& model, ModelSetting& setting) {
   setting.kind = ModelSetting::Kind::Number;
   setting.bias = row.bias;
   setting.changeable = true;
-  setting.perSource = AddressesSource(row.Setting());
+  setting.of = row.of;
+  setting.ofCurrentSourceOnly = row.code == CommandCode::Volume;
   if (row.ids.slider == 0) return;
   const Range shown = SliderRange(row, model);
   setting.range = Range{shown.minimum + row.bias, shown.maximum + row.bias};
@@ -44,6 +35,13 @@ void Describe(const CheckRow&, const ModelData&, ModelSetting& setting) {
   setting.kind = ModelSetting::Kind::Choice;
   setting.entries.assign(kSwitch.begin(), kSwitch.end());
   setting.changeable = true;
+}
+
+void Describe(const StateRow& row, const ModelData& model, ModelSetting& setting) {
+  setting.entries = row.texts.Of(model);
+  setting.otherwise = row.otherwise;
+  setting.changeable = row.turnOn && row.turnOff;
+  if (setting.changeable) setting.entries.emplace(setting.entries.begin(), row.otherwise, 0);
 }
 
 void Describe(const ActionRow& row, const ModelData& model, ModelSetting& setting) {
@@ -60,17 +58,6 @@ int CaptionOf(const Row& row) {
   } else {
     return 0;
   }
-}
-
-/// The operation that resets the row of a control.
-std::optional<PjtOperation> ResetOf(const PageTable& table, int control) {
-  for (const PageRow& row : table.rows) {
-    const auto* resets = std::get_if<ResetRow>(&row);
-    if (resets == nullptr) continue;
-    const auto entry = std::ranges::find(resets->entries, control, &ResetEntry::of);
-    if (entry != resets->entries.end()) return entry->operation;
-  }
-  return {};
 }
 
 /// The pop-ups that a page opens on this model. The user's gamma and colour temperature can only be
@@ -104,6 +91,7 @@ std::vector<const PageTable*> PopUpsOf(PageId page, const ModelData& model) {
 
 bool ModelSetting::Allows(int value) const {
   if (kind == Kind::Choice) return PositionOf(entries, value) >= 0;
+  if (kind == Kind::State) return changeable && (value == 0 || value == 1);
   return kind == Kind::Number && (!range || (value >= range->minimum && value <= range->maximum));
 }
 
@@ -120,13 +108,14 @@ void ModelSettings::Add(const PageTable& table, int tab) {
   if (KeepsTemplate(table, model_->ModelCode)) return;
   for (std::size_t i = 0; i < table.rows.size(); ++i) {
     const PageRow& row = table.rows[i];
-    // A list of resets is part of the settings that it resets.
-    if (!Has(table, i, model_->ModelCode) || std::holds_alternative<ResetRow>(row)) continue;
+    // A list of resets is part of the settings that it resets, and a pop-up has its own.
+    if (std::holds_alternative<ResetRow>(row) || std::holds_alternative<PopUpRow>(row)) continue;
+    if (!Has(table, i, model_->ModelCode)) continue;
     ModelSetting& setting = settings_.emplace_back();
     setting.key = KeyOf(row);
     setting.tab = tab;
     setting.row = &row;
-    setting.reset = ResetOf(table, ControlOf(row));
+    setting.reset = ResetOf(table, row);
     setting.readable = ReadingOf(row, *model_).has_value();
     std::visit(
         [&](const auto& kind) {
@@ -142,34 +131,53 @@ const ModelSetting* ModelSettings::Find(std::string_view key) const {
   return found == settings_.end() ? nullptr : &*found;
 }
 
+std::optional<int> ModelSettings::PresentSource(CPjtInterface& projector,
+                                                const ModelSetting& setting) const {
+  if (setting.of == OfSource::None) return {};
+  return AskSource(projector, setting.of, model_->ModelCode);
+}
+
 void ModelSettings::Announce(CPjtInterface& projector,
                              std::span<const ModelSetting* const> settings) const {
   std::vector<PjtCommand> reads;
   for (const ModelSetting* setting : settings) {
-    if (const auto call = ReadingOf(*setting->row, *model_)) reads.push_back(call->Command());
+    // Which source it will be is not known yet.
+    const auto call = ReadingOf(*setting->row, *model_);
+    if (call && setting->of == OfSource::None) reads.push_back(call->Command());
   }
-  if (projector.Channel()) projector.Channel()->Announce(reads);
+  projector.Announce(reads);
 }
 
-std::optional<int> ModelSettings::Read(CPjtInterface& projector,
-                                       const ModelSetting& setting) const {
-  const auto call = ReadingOf(*setting.row, *model_);
-  return call ? ::Read(projector, *call) : std::nullopt;
+std::optional<int> ModelSettings::Read(CPjtInterface& projector, const ModelSetting& setting,
+                                       std::optional<int> source) const {
+  return ReadRow(projector, *setting.row, *model_, source);
 }
 
 bool ModelSettings::Change(CPjtInterface& projector, const ModelSetting& setting, int value,
-                           std::string_view text) const {
-  const int code = model_->ModelCode;
-  if (const auto* list = std::get_if<ListRow>(setting.row)) {
-    const int sent = list->rules.sendsPosition ? PositionOf(setting.entries, value) : value;
-    if (list->rules.tellsText) projector.SettingText = std::string(text);
-    return Perform(projector, *list->send, sent, code).accepted;
+                           const Sending& how) const {
+  const auto* number = std::get_if<ValueRow>(setting.row);
+  if (number != nullptr && number->ids.slider == 0) return StepTo(projector, *number, value, how);
+  const auto* list = std::get_if<ListRow>(setting.row);
+  if (list != nullptr && list->rules.tellsText) projector.SettingText = how.text;
+  return SendRow(projector, *setting.row, *model_, value, how.source);
+}
+
+// A row with two arrow buttons has nothing else that changes it.
+bool ModelSettings::StepTo(CPjtInterface& projector, const ValueRow& row, int value,
+                           const Sending& how) const {
+  constexpr int kMostSteps = 4096;
+  auto present = ReadRow(projector, row, *model_, how.source);
+  const Range bounds = StepBounds(row, *model_, kUnbounded);
+  for (int i = 0; i < kMostSteps && present && *present != value && how.goesOn(); ++i) {
+    const bool upwards = *present < value;
+    const auto stepped =
+        Step(projector, row, upwards, how.source.value_or(0), bounds, *present - row.bias);
+    // A projector that steps too far, or not at all, would be stepped for ever.
+    const bool nearer =
+        stepped.value && (upwards ? *stepped.value > *present && *stepped.value <= value
+                                  : *stepped.value < *present && *stepped.value >= value);
+    if (!nearer) return false;
+    present = stepped.value;
   }
-  if (const auto* number = std::get_if<ValueRow>(setting.row)) {
-    return Perform(projector, number->Setting(), value, code).accepted;
-  }
-  if (const auto* check = std::get_if<CheckRow>(setting.row)) {
-    return Perform(projector, check->send, value, code).accepted;
-  }
-  return false;
+  return present == value;
 }

@@ -1,22 +1,24 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
 #include "device/CPjtInterface.h"
 #include "settings/PageSets.h"
-#include "settings/Rows.h"
+#include "settings/RowUse.h"
 
 /// One setting of a model, as a program without a window sees it.
 struct ModelSetting {
   enum class Kind : std::uint8_t {
     Number,  ///< Any whole number of `range`.
     Choice,  ///< The value of one of `entries`; switches are choices too.
-    State,   ///< Only read.
+    State,   ///< What the projector does now; some are switches too.
     Action,  ///< Neither read nor changed: the projector does something.
   };
 
@@ -27,16 +29,27 @@ struct ModelSetting {
   int bias = 0;                    ///< Shown value = device value − `bias`.
   std::optional<Range> range{};    ///< Device values; none where only the projector bounds it.
   std::vector<ListEntry> entries;  ///< In the list's order; names may point into the model's data.
-  std::optional<PjtOperation> reset{};  ///< Puts it back to the projector's own standard.
-  bool perSource = false;  ///< Belongs to the input source that plays while it is read or changed.
+  int otherwise = 0;               ///< Text of a state's other values, which are its insert.
+  std::optional<Call> reset{};     ///< Puts it back to the projector's own standard.
+  OfSource of = OfSource::None;    ///< Kept for each input source; read and changed for any.
+  bool ofCurrentSourceOnly = false;  ///< The same, but of the source that plays at that time.
   bool readable = false;
   bool changeable = false;
   const PageRow* row = nullptr;  ///< Never null in a list of settings.
 
   /// Whether a value read earlier may be sent again.
-  bool Restorable() const { return readable && changeable; }
+  bool Restorable() const { return readable && changeable && kind != Kind::State; }
+  bool IsPerSource() const { return of != OfSource::None || ofCurrentSourceOnly; }
   /// Whether the row takes this device value.
   bool Allows(int value) const;
+};
+
+/// How a value is sent, beside the value.
+struct Sending {
+  std::string text{};           ///< The entry's, which some connections are told.
+  std::optional<int> source{};  ///< Instead of the present one.
+  /// Asked before each of the steps that a setting without a setter needs.
+  std::function<bool()> goesOn = [] { return true; };
 };
 
 /// All settings of a model in the order of its pages, the pop-ups' behind those of the page that
@@ -50,18 +63,23 @@ class ModelSettings {
   /// The setting of this key, or null.
   const ModelSetting* Find(std::string_view key) const;
 
+  /// The source that a setting kept for each of them belongs to now; nothing for any other, or
+  /// while the projector does not say.
+  std::optional<int> PresentSource(CPjtInterface& projector, const ModelSetting& setting) const;
   /// Tells the connection what will be read next, in this order, so that it may ask for all at
   /// once.
   void Announce(CPjtInterface& projector, std::span<const ModelSetting* const> settings) const;
-  /// The device value; nothing where the projector refuses it or does not answer.
-  std::optional<int> Read(CPjtInterface& projector, const ModelSetting& setting) const;
-  /// Sends a device value that the setting allows. `text` is the entry's text, which some
-  /// connections are told. False where the projector refuses it; a setter without a result never
-  /// does, so that only reading tells what came of it.
+  /// The device value, of `source` or else the present one; nothing where the projector refuses it
+  /// or does not answer.
+  std::optional<int> Read(CPjtInterface& projector, const ModelSetting& setting,
+                          std::optional<int> source = {}) const;
+  /// Sends a device value that the setting allows. False where the projector refuses it; a setter
+  /// without a result never does, so that only reading tells what came of it.
   bool Change(CPjtInterface& projector, const ModelSetting& setting, int value,
-              std::string_view text = {}) const;
+              const Sending& how = {}) const;
 
  private:
+  bool StepTo(CPjtInterface& projector, const ValueRow& row, int value, const Sending& how) const;
   void Add(const PageTable& table, int tab);
 
   std::shared_ptr<const ModelData> model_;

@@ -63,16 +63,18 @@ std::span<const Call> SourceQuestions(OfSource of) {
   return kPlayingQuestions;
 }
 
-std::optional<int> ReadRow(CPjtInterface& projector, const PageRow& row, const ModelData& model) {
+std::optional<int> ReadRow(CPjtInterface& projector, const PageRow& row, const ModelData& model,
+                           std::optional<int> source) {
   const auto call = ReadingOf(row, model);
   const OfSource of = SourceOf(row);
   if (!call || of == OfSource::None) return call ? Read(projector, *call) : std::nullopt;
-  const auto source = AskSource(projector, of, model.ModelCode);
+  if (!source) source = AskSource(projector, of, model.ModelCode);
   return source ? Read(projector, At(*call, *source)) : std::nullopt;
 }
 
-bool SendRow(CPjtInterface& projector, const PageRow& row, const ModelData& model, int value) {
-  const auto source = AskSource(projector, SourceOf(row), model.ModelCode);
+bool SendRow(CPjtInterface& projector, const PageRow& row, const ModelData& model, int value,
+             std::optional<int> source) {
+  if (!source) source = AskSource(projector, SourceOf(row), model.ModelCode);
   if (!source) return false;
   return std::visit([&](const auto& kind) { return Send(projector, kind, model, *source, value); },
                     row);

@@ -14,14 +14,17 @@ ADVANCED_CONTROL_EXPORT std::optional<int> AskSource(CPjtInterface& projector, O
 /// What `AskSource` will ask first, in order.
 ADVANCED_CONTROL_EXPORT std::span<const Call> SourceQuestions(OfSource of);
 
-/// Reads a row's setting; nothing when that fails, or for a row that shows none.
+/// Reads a row's setting; nothing when that fails, or for a row that shows none. `source` is taken
+/// instead of asking for the one that the row belongs to.
 ADVANCED_CONTROL_EXPORT std::optional<int> ReadRow(CPjtInterface& projector, const PageRow& row,
-                                                   const ModelData& model);
+                                                   const ModelData& model,
+                                                   std::optional<int> source = {});
 
 /// Sends a value: an entry's of a list, 0 or 1 of a switch. False when it was refused, or the row
-/// does not take it; a setter without a result never refuses.
+/// does not take it; a setter without a result never refuses. `source` as above.
 ADVANCED_CONTROL_EXPORT bool SendRow(CPjtInterface& projector, const PageRow& row,
-                                     const ModelData& model, int value);
+                                     const ModelData& model, int value,
+                                     std::optional<int> source = {});
 
 /// What came of a step: refused, or the new value; neither where nothing was sent, or where the new
 /// value could not be read.

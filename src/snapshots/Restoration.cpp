@@ -48,7 +48,7 @@ void Restoration::Read(const Progress& progress) {
 }
 
 void Restoration::Read(RestoredSetting& restored, const Progress& progress) {
-  restored.before = model_.Read(connection_, *restored.setting);
+  restored.before = model_.Read(connection_, *restored.setting, restored.saved.source);
   if (!restored.before) {
     // A projector that is gone has refused nothing.
     restored.outcome = progress.goesOn() ? Outcome::Refused : Outcome::NotReached;
@@ -77,8 +77,9 @@ void Restoration::Send(const SettingTexts& texts, const Progress& progress) {
     if (sourceChanged) Read(*restored, progress);
     if (restored->outcome != Outcome::Differs) continue;
     const int value = restored->saved.value;
-    const std::string text = texts.Value(*restored->setting, value);
-    model_.Change(connection_, *restored->setting, value, text);
+    model_.Change(
+        connection_, *restored->setting, value,
+        {texts.Value(*restored->setting, value), restored->saved.source, progress.goesOn});
     restored->outcome = Outcome::Unconfirmed;
     sent.push_back(restored);
     sourceChanged = sourceChanged || IsInputSource(*restored->setting);
@@ -94,7 +95,7 @@ void Restoration::Confirm(const std::vector<RestoredSetting*>& sent, const Progr
   for (const RestoredSetting* restored : sent) asked.push_back(restored->setting);
   model_.Announce(connection_, asked);
   for (RestoredSetting* restored : sent) {
-    restored->now = model_.Read(connection_, *restored->setting);
+    restored->now = model_.Read(connection_, *restored->setting, restored->saved.source);
     if (restored->now) {
       const bool done = *restored->now == restored->saved.value;
       restored->outcome = done ? Outcome::Changed : Outcome::Refused;
@@ -111,8 +112,9 @@ Snapshot Restoration::Undo(const std::string& projector, const SettingTexts& tex
   Snapshot snapshot = EmptySnapshot(projector, model_.Model());
   for (const RestoredSetting& restored : settings_) {
     if (restored.outcome != Outcome::Differs) continue;
-    snapshot.settings.push_back(
-        {restored.saved.key, *restored.before, texts.Value(*restored.setting, *restored.before)});
+    snapshot.settings.push_back({restored.saved.key, *restored.before,
+                                 texts.Value(*restored.setting, *restored.before),
+                                 restored.saved.source});
   }
   return snapshot;
 }

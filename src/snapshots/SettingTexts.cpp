@@ -40,9 +40,11 @@ std::string Abbreviation(std::string_view key) {
 SettingTexts::SettingTexts(std::span<const std::string> catalogFolders, std::uint32_t languageId)
     : texts_(catalogFolders), languageId_(languageId) {}
 
-std::string SettingTexts::Text(int category, int number) const {
-  if (auto own = texts_.Find(languageId_, category, number)) return *own;
-  return texts_.Find(kEnglishUnitedStates, category, number).value_or(std::string());
+std::string SettingTexts::Text(int category, int number, int value) const {
+  const CatalogInsert insert(value);
+  if (auto own = texts_.Find(languageId_, category, number, {&insert, 1})) return *own;
+  const auto english = texts_.Find(kEnglishUnitedStates, category, number, {&insert, 1});
+  return english.value_or(std::string());
 }
 
 std::string SettingTexts::Caption(const ModelSetting& setting) const {
@@ -63,6 +65,7 @@ std::string SettingTexts::Value(const ModelSetting& setting, int value) const {
   if (entry != setting.entries.end()) {
     if (std::string text = Entry(*entry); !text.empty()) return text;
   }
+  if (setting.otherwise != 0) return Text(kListCategory, setting.otherwise, value);
   return std::to_string(value - setting.bias);
 }
 
@@ -74,6 +77,7 @@ std::string SettingTexts::Values(const ModelSetting& setting) const {
   if (setting.kind == ModelSetting::Kind::Number) return "a number";
   std::string texts;
   for (const ListEntry& entry : setting.entries) {
+    if (!setting.Allows(entry.value)) continue;
     texts += (texts.empty() ? "" : ", ") + Entry(entry);
   }
   return texts;

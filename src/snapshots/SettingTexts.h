@@ -38,7 +38,7 @@ class SettingTexts {
   std::optional<TypedValue> Parse(const ModelSetting& setting, std::string_view text) const;
 
  private:
-  std::string Text(int category, int number) const;
+  std::string Text(int category, int number, int value = 0) const;
   bool Is(const ListEntry& entry, std::string_view text) const;
 
   CatalogTexts texts_;

@@ -2,7 +2,9 @@
 
 #include <cmath>
 #include <limits>
+#include <map>
 #include <set>
+#include <utility>
 
 #include <QDateTime>
 #include <QJsonArray>
@@ -66,16 +68,18 @@ Snapshot Parse(const QJsonObject& file) {
   if (settings.size() > kMaximumSettings) {
     throw WrongSnapshot{QStringLiteral("settings: has more than %1 entries").arg(kMaximumSettings)};
   }
-  std::set<std::string> keys;
+  std::set<std::pair<std::string, std::optional<int>>> keys;
   for (int i = 0; i < settings.size(); ++i) {
     const QString place = QStringLiteral("settings[%1].").arg(i);
     const QJsonObject entry = Object(settings[i], place.chopped(1));
     const std::string key = Text(entry, "key", place);
-    if (!keys.insert(key).second) {
+    std::optional<int> source;
+    if (entry.contains("source")) source = Integer(entry, "source", place);
+    if (!keys.emplace(key, source).second) {
       throw WrongSnapshot{place + QStringLiteral("key: \"%1\" stands here twice").arg(Wide(key))};
     }
     snapshot.settings.push_back(
-        {key, Integer(entry, "value", place), entry["text"].toString().toStdString()});
+        {key, Integer(entry, "value", place), entry["text"].toString().toStdString(), source});
   }
   return snapshot;
 }
@@ -100,13 +104,16 @@ Snapshot TakeSnapshot(const std::string& projector, const ModelSettings& setting
     if (setting.Restorable()) restorable.push_back(&setting);
   }
   settings.Announce(connection, restorable);
-  for (const ModelSetting* const entry : restorable) {
-    const ModelSetting& setting = *entry;
+  std::map<OfSource, std::optional<int>> sources;  // each asked for once
+  for (const ModelSetting* const setting : restorable) {
     if (!progress.goesOn()) break;
-    if (const auto value = settings.Read(connection, setting)) {
-      snapshot.settings.push_back({std::string(setting.key), *value, texts.Value(setting, *value)});
+    const auto [source, isNew] = sources.try_emplace(setting->of);
+    if (isNew) source->second = settings.PresentSource(connection, *setting);
+    if (const auto value = settings.Read(connection, *setting, source->second)) {
+      snapshot.settings.push_back(
+          {std::string(setting->key), *value, texts.Value(*setting, *value), source->second});
     } else if (unread != nullptr) {
-      unread->emplace_back(setting.key);
+      unread->emplace_back(setting->key);
     }
     progress.step();
   }
@@ -116,8 +123,10 @@ Snapshot TakeSnapshot(const std::string& projector, const ModelSettings& setting
 QByteArray WriteSnapshot(const Snapshot& snapshot) {
   QJsonArray settings;
   for (const SavedSetting& setting : snapshot.settings) {
-    settings.append(QJsonObject{
-        {"key", Wide(setting.key)}, {"value", setting.value}, {"text", Wide(setting.text)}});
+    QJsonObject entry{
+        {"key", Wide(setting.key)}, {"value", setting.value}, {"text", Wide(setting.text)}};
+    if (setting.source) entry["source"] = *setting.source;
+    settings.append(entry);
   }
   const QJsonObject file{{"format", kFormat},
                          {"version", kVersion},

@@ -12,8 +12,9 @@
 /// A setting as it was.
 struct SavedSetting {
   std::string key;
-  int value = 0;     ///< Device value.
-  std::string text;  ///< As it was shown, for people; nobody reads it back.
+  int value = 0;                ///< Device value.
+  std::string text;             ///< As it was shown, for people; nobody reads it back.
+  std::optional<int> source{};  ///< That it belongs to, where it is kept for each.
 
   friend bool operator==(const SavedSetting&, const SavedSetting&) = default;
 };

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "app/ProjectorLink.h"
+#include "app/ProjectorAccess.h"
 #include "i18n/SystemLanguage.h"
 #include "snapshots/Restoration.h"
 
@@ -51,14 +51,16 @@ struct Disturbed : ProjectorChannel {
 
 struct Room {
   explicit Room(const ProjectorProfile& profile)
-      : channel(std::make_shared<Disturbed>(profile)), link(profile, channel) {}
+      : channel(std::make_shared<Disturbed>(profile)), projector(profile, channel) {}
 
-  Snapshot Take() { return TakeSnapshot(link.Name(), link.Settings(), link.Connection(), Texts()); }
+  Snapshot Take() {
+    return TakeSnapshot(projector.Name(), projector.Settings(), projector.Connection(), Texts());
+  }
   Restoration Prepare(const Snapshot& snapshot) {
-    return {snapshot, link.Settings(), link.Connection()};
+    return {snapshot, projector.Settings(), projector.Connection()};
   }
   Progress Careful() {
-    return {.goesOn = [this] { return !link.Channel().IsGone(); }};
+    return {.goesOn = [this] { return !projector.Channel().IsGone(); }};
   }
   Restoration Restore(const Snapshot& snapshot) {
     Restoration restoration = Prepare(snapshot);
@@ -68,10 +70,10 @@ struct Room {
   }
   void ChangeAll(unsigned seed) {
     Random random(seed);
-    for (const ModelSetting& setting : link.Settings().All()) {
+    for (const ModelSetting& setting : projector.Settings().All()) {
       if (!setting.Restorable()) continue;
       const int value = AnyValue(setting, random);
-      link.Settings().Change(link.Connection(), setting, value);
+      projector.Settings().Change(projector.Connection(), setting, value);
     }
   }
   static int AnyValue(const ModelSetting& setting, Random& random) {
@@ -84,7 +86,7 @@ struct Room {
   }
 
   std::shared_ptr<Disturbed> channel;
-  ProjectorLink link;
+  ProjectorAccess projector;
 };
 
 TEST(Restoration, BringsEveryProjectorBackAndUndoesItself) {
@@ -124,7 +126,8 @@ TEST(Restoration, TellsTheTruthWhenCommandsAreRefusedAndLost) {
     room.ChangeAll(1);
     const Snapshot wanted = room.Take();
     room.ChangeAll(2);
-    const Snapshot before = room.Take();
+    Restoration before = room.Prepare(wanted);
+    before.Read();
     room.channel->count = 0;
     room.channel->refusedPercent = disturbance.refused;
     room.channel->lostPercent = disturbance.lost;
@@ -132,10 +135,12 @@ TEST(Restoration, TellsTheTruthWhenCommandsAreRefusedAndLost) {
     const Restoration restoration = room.Restore(wanted);
     room.channel->refusedPercent = room.channel->lostPercent = 0;
     room.channel->deadAfter = 1 << 30;
-    ProjectorLink again(profile, room.channel);
-    for (const RestoredSetting& restored : restoration.Settings()) {
+    ProjectorAccess again(profile, room.channel);
+    for (std::size_t i = 0; i < wanted.settings.size(); ++i) {
+      const RestoredSetting& restored = restoration.Settings()[i];
       SCOPED_TRACE(restored.saved.key);
-      const auto now = again.Settings().Read(again.Connection(), *restored.setting);
+      const auto now =
+          again.Settings().Read(again.Connection(), *restored.setting, restored.saved.source);
       const bool done =
           restored.outcome == Outcome::Changed || restored.outcome == Outcome::AlreadySo;
       if (done) {
@@ -143,9 +148,7 @@ TEST(Restoration, TellsTheTruthWhenCommandsAreRefusedAndLost) {
       } else if (restored.outcome == Outcome::Refused && restored.now) {
         EXPECT_EQ(now, restored.now);
       } else if (restored.outcome == Outcome::NotReached || restored.outcome == Outcome::Differs) {
-        const auto same =
-            std::ranges::find(before.settings, restored.saved.key, &SavedSetting::key);
-        EXPECT_EQ(now, same->value) << "nothing was sent";
+        EXPECT_EQ(now, before.Settings()[i].before) << "nothing was sent";
       }
     }
     Restoration rest(wanted, again.Settings(), again.Connection());
@@ -222,7 +225,7 @@ TEST(SettingTexts, UnderstandsWhatPeopleType) {
       {"setup.mirror", "H&V Inverse", 3},
   };
   for (const auto& [key, text, value, from] : kCases) {
-    const ModelSetting* const setting = room.link.Settings().Find(key);
+    const ModelSetting* const setting = room.projector.Settings().Find(key);
     if (setting == nullptr) continue;
     const auto typed = Texts().Parse(*setting, text);
     EXPECT_EQ(typed ? Resolve(*setting, *typed, from) : std::nullopt, value) << key << ' ' << text;

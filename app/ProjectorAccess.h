@@ -38,9 +38,9 @@ class PatientChannel : public ProjectorChannel {
 };
 
 /// A projector of a profile file as a program without a window uses it. One thread at a time.
-class ProjectorLink {
+class ProjectorAccess {
  public:
-  ProjectorLink(const ProjectorProfile& profile, std::shared_ptr<ProjectorChannel> channel);
+  ProjectorAccess(const ProjectorProfile& profile, std::shared_ptr<ProjectorChannel> channel);
 
   const std::string& Name() const { return name_; }
   const ModelSettings& Settings() const { return settings_; }

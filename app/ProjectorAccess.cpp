@@ -1,4 +1,4 @@
-#include "app/ProjectorLink.h"
+#include "app/ProjectorAccess.h"
 
 #include <thread>
 #include <utility>
@@ -41,8 +41,8 @@ PjtReply PatientChannel::Execute(const PjtCommand& command) {
   return reply;
 }
 
-ProjectorLink::ProjectorLink(const ProjectorProfile& profile,
-                             std::shared_ptr<ProjectorChannel> channel)
+ProjectorAccess::ProjectorAccess(const ProjectorProfile& profile,
+                                 std::shared_ptr<ProjectorChannel> channel)
     : name_(profile.Name),
       settings_(MakeModelData(profile.Model)),
       channel_(std::make_shared<PatientChannel>(std::move(channel))) {

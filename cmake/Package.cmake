@@ -66,7 +66,8 @@ set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${library} (= ${version}), qt6-base-dev (>= 6.4)")
 set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "live settings dialog for projectors (development files)
 A dialog with a tab per group of settings, every value read live from a
-projector and every change sent at once. This package holds the headers and the files for CMake.")
+projector and every change sent at once. This package holds the headers
+and the files for CMake.")
 
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_NAME advanced-control)
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_SECTION utils)

@@ -99,7 +99,7 @@ void CommandLog::MakeColumns() {
     const QString sample = QString::fromLatin1(kWidthSamples[static_cast<std::size_t>(column)]);
     view_->setColumnWidth(column, metrics.horizontalAdvance(sample) + 12);
   }
-  columns.setSectionResizeMode(CommandLogModel::Command, QHeaderView::Stretch);
+  columns.setStretchLastSection(true);
 }
 
 QHeaderView& CommandLog::Columns() const { return *view_->horizontalHeader(); }

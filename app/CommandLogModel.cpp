@@ -99,9 +99,6 @@ QVariant CommandLogModel::data(const QModelIndex& index, int role) const {
   if (role == Qt::ForegroundRole && index.column() == Result && Failed(entry)) {
     return QBrush(FailureColor());
   }
-  if (role == Qt::TextAlignmentRole && index.column() == Duration) {
-    return QVariant(Qt::AlignRight | Qt::AlignVCenter);
-  }
   if (role != Qt::DisplayRole) return {};
   switch (index.column()) {
     case Time:

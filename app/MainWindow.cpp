@@ -18,6 +18,7 @@
 #include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QVBoxLayout>
 
 #include "app/CommandLog.h"
 #include "app/DialogKeeper.h"
@@ -32,7 +33,7 @@ namespace {
 
 constexpr int kGap = 9;
 constexpr QSize kUsualSize{1240, 760};
-constexpr int kUsualListWidth = 440;
+constexpr int kUsualListWidth = 480;
 
 constexpr const char* kGeometryKey = "window/geometry";
 constexpr const char* kSidesKey = "window/sides";
@@ -103,7 +104,7 @@ void MainWindow::MakeLayout() {
   tools_->addWidget(faults);
   tools_->addWidget(log_);
   tools_->setStretchFactor(1, 1);
-  tools_->setSizes({faults_->sizeHint().height(), 540});
+  tools_->setSizes({faults_->minimumSizeHint().height(), kUsualSize.height()});
   tools_->setHandleWidth(kGap);
   tools_->setChildrenCollapsible(false);
   sides_->addWidget(projectors_);
@@ -111,8 +112,12 @@ void MainWindow::MakeLayout() {
   sides_->setStretchFactor(1, 1);
   sides_->setChildrenCollapsible(false);
   sides_->setHandleWidth(kGap);
-  sides_->setContentsMargins(kGap, kGap, kGap, kGap);
-  setCentralWidget(sides_);
+  // A splitter does not mirror margins of its own.
+  auto* center = new QWidget;
+  auto* layout = new QVBoxLayout(center);
+  layout->setContentsMargins(kGap, kGap, kGap, kGap);
+  layout->addWidget(sides_);
+  setCentralWidget(center);
 }
 
 void MainWindow::MakeMenus() {
@@ -238,7 +243,8 @@ void MainWindow::Restore() {
   }
   constexpr QSize kFrame{2 * kGap, 40};
   resize(kUsualSize.boundedTo(screen.size() - kFrame));
-  sides_->setSizes({kUsualListWidth, width() - kUsualListWidth});
+  const int listWidth = std::min(kUsualListWidth, width() * 2 / 5);
+  sides_->setSizes({listWidth, width() - listWidth});
   move(screen.right() + 1 - width() - kGap, screen.bottom() + 1 - height() - kGap);
 }
 

@@ -55,7 +55,7 @@ ProjectorView::ProjectorView(QWidget* parent)
 
   connect(search_, &QLineEdit::textChanged, this, [this](const QString& words) {
     filter_->Search(words);
-    if (CurrentRow() < 0) table_->selectRow(0);
+    if (CurrentRow() < 0) table_->setCurrentIndex(filter_->index(0, 0));
     open_->setEnabled(CurrentRow() >= 0);
   });
   connect(search_, &QLineEdit::returnPressed, this, &ProjectorView::Activated);
@@ -113,7 +113,7 @@ ProjectorSession* ProjectorView::Current() const {
 void ProjectorView::Select(int row) {
   const QModelIndex source = model_->index(row, 0);
   if (!filter_->mapFromSource(source).isValid()) search_->clear();
-  table_->selectRow(filter_->mapFromSource(source).row());
+  table_->setCurrentIndex(filter_->mapFromSource(source));
 }
 
 void ProjectorView::FocusSearch() {

@@ -48,34 +48,35 @@ set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY >=)
 
 set(version "${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}")
 set(library libadvancedcontrol${PROJECT_VERSION_MAJOR})
 
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_NAME ${library})
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/triggers)
 set(CPACK_COMPONENT_LIBRARY_DESCRIPTION "live settings dialog for projectors
- A dialog with a tab per group of settings, every value read live from a
- projector and every change sent at once, for applications that manage
- projectors. With its texts in English and Simplified Chinese.")
+A dialog with a tab per group of settings, every value read live from a
+projector and every change sent at once, for applications that manage
+projectors. With its texts in English and Simplified Chinese.")
 
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libadvancedcontrol-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${library} (= ${version}), qt6-base-dev (>= 6.4)")
 set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "live settings dialog for projectors (development files)
- A dialog with a tab per group of settings, every value read live from a
- projector and every change sent at once.
- .
- This package holds the headers and the files for CMake.")
+A dialog with a tab per group of settings, every value read live from a
+projector and every change sent at once. This package holds the headers
+and the files for CMake.")
 
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_NAME advanced-control)
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_DEPENDS "${library} (= ${version})")
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_RECOMMENDS "qt6-translations-l10n, qt6-wayland")
 set(CPACK_COMPONENT_PROGRAM_DESCRIPTION "read and change the settings of projectors
- A list of projectors, and for each of them a dialog with a tab per group of
- settings, every value read live and every change sent at once. A log shows
- each command and what came of it.")
+A list of projectors, and for each of them a dialog with a tab per group of
+settings, every value read live and every change sent at once. A log shows
+each command and what came of it.")
 
 foreach(component library development program)
   string(TOUPPER ${component} upper)

@@ -11,8 +11,6 @@
 
 namespace {
 
-using JsonEdit::Members;
-
 QByteArray ReadAll(const QString& fileName) {
   QFile file(fileName);
   return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray("cannot read");
@@ -94,28 +92,6 @@ TEST_F(ProfileDocumentFile, EachProjectorIsCopiedAndRemovedWithoutATrace) {
     ASSERT_EQ(document.Remove(i + 1), "");
     ASSERT_EQ(ReadAll(name), before) << i;
   }
-}
-
-TEST_F(ProfileDocumentFile, ChangesOneProjectorAlone) {
-  const auto before = document.Projectors();
-  const QString family = document.Families().last();
-  ASSERT_EQ(document.Change(3, {{"name", "Hall \"A\" 大厅"}, {"gamma", kNone}}), "");
-  ASSERT_EQ(document.Insert(3, {{"name", "New"},
-                                {"model", "M"},
-                                {"like", family},
-                                {"dialogType", 5},
-                                {"modelCode", 30},
-                                {"connection", QJsonObject{{"serial", QJsonObject{{"port", 1}}}}}}),
-            "");
-  ProfileDocument again;
-  ASSERT_EQ(again.Load(name), "");
-  ASSERT_EQ(again.Projectors().size(), before.size() + 1);
-  for (std::size_t i = 0; i < before.size(); ++i) {
-    EXPECT_EQ(again.Projectors()[i < 4 ? i : i + 1] == before[i], i != 3) << i;
-  }
-  EXPECT_EQ(again.Projectors()[3].Name, "Hall \"A\" 大厅");
-  EXPECT_EQ(again.Projectors()[4].Name, "New");
-  EXPECT_EQ(again.Entry(4)["like"], family);
 }
 
 TEST_F(ProfileDocumentFile, WhatCannotBeDoneChangesNothing) {

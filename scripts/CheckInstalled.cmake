@@ -1,8 +1,9 @@
-# cmake -DBUILD_DIR=<build> -DSOURCE_DIR=<source> -P <this file>
+# cmake -DBUILD_DIR=<build> -DSOURCE_DIR=<source> [-DUPDATE_EXPORTS=ON] -P <this file>
 #
 # Installs the build, moves the installed tree, compiles each of its headers by itself, and builds
-# and starts the example host against it. Then looks at the libraries: they must show their users
-# the dialog and hide the toolkit's inside.
+# and starts the example host against it. Then looks for the catalogs, how the programs are hardened,
+# and at the functions that the libraries show: those of exported-symbols.txt beside this file, which
+# UPDATE_EXPORTS writes anew.
 
 set(first ${BUILD_DIR}/installed)
 set(prefix ${BUILD_DIR}/installed-and-moved)
@@ -52,26 +53,57 @@ foreach(built libAdvancedControl.so libProjectorCommon.so advanced-control)
   endif()
 endforeach()
 
-execute_process(COMMAND nm -DC --defined-only ${BUILD_DIR}/bin/libAdvancedControl.so
-                OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
-foreach(shown "CAdvanceDlg::CopyData3(" "CAdvanceDlg::DispTabScreen(" "GetCatalogText("
-              "CPictureTabType5Dlg::ActIrisValueToIdx(" "CServiceDlg::CServiceDlg(" "CServiceDlg::OnBnClickedSvcIrtopchk("
-              "CInputType5Dlg::OnCbnSelchangeInput5ProgComb(" "COption5TabDlg::OnHScroll("
-              "CPjtInterface::operator=(")
-  string(FIND "${symbols}" "${shown}" found)
-  if(found EQUAL -1)
-    message(FATAL_ERROR "${shown} is hidden from the library's users")
+# The catalogs are found from wherever the tree stands, before those of the current directory.
+set(elsewhere ${BUILD_DIR}/installed-elsewhere)
+file(WRITE ${elsewhere}/mcdll.dll "no module")
+function(expect_catalog folder expected)
+  execute_process(COMMAND ${CMAKE_COMMAND} -E env LC_ALL=C LD_LIBRARY_PATH=${folder}
+                          ${prefix}/bin/advanced-control --list
+                  WORKING_DIRECTORY ${elsewhere} OUTPUT_QUIET ERROR_VARIABLE errors
+                  COMMAND_ERROR_IS_FATAL ANY)
+  if(NOT errors MATCHES "^${expected}$")
+    message(FATAL_ERROR "The catalog of libraries in ${folder}: ${errors}")
+  endif()
+endfunction()
+expect_catalog(${prefix}/lib "")
+set(multiarch ${prefix}/lib/x86_64-linux-gnu)
+file(MAKE_DIRECTORY ${multiarch})
+file(GLOB libraries ${prefix}/lib/*.so*)
+foreach(library IN LISTS libraries)
+  get_filename_component(name ${library} NAME)
+  file(RENAME ${library} ${multiarch}/${name})
+endforeach()
+expect_catalog(${multiarch} "")
+file(REMOVE ${prefix}/share/advanced-control/mcdll.dll)
+expect_catalog(${multiarch} ".*mcdll.dll is refused.*")
+
+# A function that a library shows may be taken over by one of its host's that is called the same.
+set(shown "")
+foreach(library AdvancedControl ProjectorCommon)
+  execute_process(COMMAND nm -DC --defined-only ${BUILD_DIR}/bin/lib${library}.so
+                  OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
+  string(REGEX MATCHALL " T [^\n]*" functions "${symbols}")
+  # A member stands for its class.
+  list(TRANSFORM functions REPLACE "^ T (non-virtual thunk to |virtual thunk to )?" "")
+  list(TRANSFORM functions REPLACE "(::|\\(|\\[abi).*" "")
+  list(TRANSFORM functions PREPEND "${library} ")
+  list(APPEND shown ${functions})
+endforeach()
+list(REMOVE_DUPLICATES shown)
+list(SORT shown)
+set(listing ${CMAKE_CURRENT_LIST_DIR}/exported-symbols.txt)
+if(UPDATE_EXPORTS)
+  list(JOIN shown "\n" text)
+  file(WRITE ${listing} "${text}\n")
+endif()
+file(STRINGS ${listing} offered)
+foreach(symbol IN LISTS shown)
+  if(NOT symbol IN_LIST offered)
+    message(FATAL_ERROR "The library shows its users more than it offers: ${symbol}")
   endif()
 endforeach()
-string(REGEX MATCHALL "[^\n]* T [^\n]*" functions "${symbols}")
-foreach(function IN LISTS functions)
-  if(NOT function MATCHES " T (non-virtual thunk to |virtual thunk to )?(CAdvanceDlg|CDialog|SettingsDialog|RowDialog|CTabPage|PicturePage|CPictureTabType5Dlg|CSetupType5TabDlg|CAudioType5Dlg|CInputType5Dlg|COption5TabDlg|CServiceDlg|CPjtInterface|CModelInfo|CScheduleInfo|CComCtrl|CSocketCtrl|LoadCatalog|ReleaseCatalog|IsCatalogLoaded|CatalogProblem|GetCatalogText|GetCatalogTextV|LocalizeControlTexts|SystemLanguageId|WindowText|SetWindowText|PagesOf|TabsOf|TableOf|KeyOf|ControlOf|FindRow|KeepsTemplate|Has|ReadingOf|SliderRange|StepBounds|Perform|Read|GammaEntries|ColorTempEntries|Picture1ColorTempEntries|WhisperEntries|AspectEntries|SourceEntries|PositionOf|ParseRange)(::|\\(|\\[abi)")
-    message(FATAL_ERROR "The library shows its users more than it offers: ${function}")
-  endif()
-endforeach()
-foreach(hidden "CSliderCtrl::" "ResourceChain::" "CStatusTabDlg::" "MessageTable::")
-  string(FIND "${symbols}" "${hidden}" found)
-  if(NOT found EQUAL -1)
-    message(FATAL_ERROR "${hidden} is shown to the library's users")
+foreach(symbol IN LISTS offered)
+  if(NOT symbol IN_LIST shown)
+    message(FATAL_ERROR "Hidden from the library's users: ${symbol}")
   endif()
 endforeach()

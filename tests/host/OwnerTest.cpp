@@ -81,10 +81,11 @@ class Host {
 
   QWidget* Owner() { return owner_; }
 
+  // No event comes in while a command is answered at once, however busy the machine is.
   void Prepare(CAdvanceDlg& dialog) {
     dialog.CopyData(&model_, 0);
-    dialog.Projector().SetChannel(
-        std::make_shared<BoundedChannel>(projector, BoundedChannel::Limits{.timeOut = 20s}));
+    dialog.Projector().SetChannel(std::make_shared<BoundedChannel>(
+        projector, BoundedChannel::Limits{.timeOut = 20s, .quickAnswer = 100ms}));
   }
 
   void DieWhileACommandWaits() {

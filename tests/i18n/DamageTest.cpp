@@ -1,6 +1,5 @@
-// What a damaged module and a wrong environment may not do.
+// What a damaged module may not do.
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <span>
@@ -11,23 +10,9 @@
 
 #include "i18n/Catalog.h"
 #include "i18n/MessageTable.h"
-#include "i18n/SystemLanguage.h"
 #include "tests/i18n/ModuleBuilder.h"
 
 namespace {
-
-TEST(SystemLanguage, NoEnvironmentHangsOrFails) {
-  const char* before = std::getenv("LC_ALL");
-  const std::string kept = before != nullptr ? before : "";
-  const std::string values[] = {
-      "i-default_DE", "i-klingon", "x",  "POSIX",   "_",
-      "12_34",        "-",         "??", "C.UTF-8", std::string(5000, 'a')};
-  for (const std::string& value : values) {
-    setenv("LC_ALL", value.c_str(), 1);
-    EXPECT_EQ(SystemLanguageId(), 1033U) << value;
-  }
-  setenv("LC_ALL", kept.c_str(), 1);
-}
 
 // A flipped bit is refused, or changes nothing but the text in which it lies.
 TEST(DamagedTable, NoFlippedBitShowsATextUnderAnotherNumber) {

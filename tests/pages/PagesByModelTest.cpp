@@ -159,6 +159,7 @@ void AddPages(Listing& listing, const CModelInfo2& info) {
   for (const auto& [kind, name] : {std::pair{PopUp::Gamma, "gamma"},
                                    {PopUp::ColorTemp, "color temperature"},
                                    {PopUp::Service, "service"}}) {
+    if (kind != PopUp::Service && code != 30) continue;  // the same for every model
     const auto popUp = MakePopUp(kind, dialog);
     Add(listing, type + ", " + name, describer.Describe(*popUp, [&] { Open(*popUp); }), code);
   }

@@ -357,9 +357,14 @@ void RowRules::Expect(const ValueRow& row, const RowRule& rule) {
       expectShown(value + isRead, value + isRead);
     }
     if (!slides) continue;
-    Show(read, value + row.bias, value + row.bias + 1);
     const int error = rule.then == Stays || rule.then == GoesBack ? 0 : rule.error;
-    const Strings sent = Sent(refused, error, [&] { driver.Drag(row.ids.slider, range.maximum); });
+    const auto drag = [&] { driver.Drag(row.ids.slider, range.maximum); };
+    if (!refused && rule.then != Stays && rule.then != OwnSteps) {
+      Sent(true, error, drag);
+      expectShown(value + 1, value + 1);  // where the step has left it
+    }
+    Show(read, value + row.bias, value + row.bias + 1);
+    const Strings sent = Sent(refused, error, drag);
     EXPECT_EQ(std::ranges::count(sent, read), refused && isRead ? 1 : 0);
     const int shown = refused ? value + isRead : range.maximum;
     expectShown(shown, rule.then == Stays ? range.maximum : shown);

@@ -30,7 +30,8 @@ CModelInfo2 FullModel(int dialogType, int modelCode) {
   for (const char* name : {"Normal", "Whisper", "Bright"}) {
     AddEntry(model.WhisperList, model.WhisperList.count, name);
   }
-  for (const int value : {0, 1, 4, 16, 17, 22, 25, 26, 27, 32, 33, 34, 35, 36, 48, 49, 255}) {
+  for (const int value :
+       {0, 1, 3, 4, 16, 17, 18, 22, 25, 26, 27, 32, 33, 34, 35, 36, 48, 49, 255}) {
     AddEntry(model.MyButtonList, value, "button");
   }
   AddSource(model.MySourceList, 0, "Computer1");

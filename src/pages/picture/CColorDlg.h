@@ -15,6 +15,7 @@ class CColorDlg final : public CustomDialog {
  protected:
   std::vector<Notification> OwnNotifications() const override;
   std::optional<int> Reset(std::size_t row) override;
+  std::vector<CurveView::Line> LinesOf(const Values& values) const override;
 
  private:
   void StepUp(std::size_t row);

@@ -13,4 +13,5 @@ class CGammaDlg final : public CustomDialog {
 
  protected:
   std::optional<int> Reset(std::size_t point) override;
+  std::vector<CurveView::Line> LinesOf(const Values& values) const override;
 };

@@ -1,11 +1,15 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
+#include <vector>
 
 #include "pages/common/RowDialog.h"
+#include "toolkit/CurveView.h"
 
 /// What the two custom pop-ups share: a test pattern and a column of slider rows, each with a
-/// button that resets it. Every change goes to the projector at once.
+/// button that resets it, and a picture of their values. Every change goes to the projector at
+/// once.
 class CustomDialog : public RowDialog {
   Q_OBJECT
 
@@ -20,14 +24,22 @@ class CustomDialog : public RowDialog {
   /// Resets the slider row at an index and gives the new device value, if the projector did it.
   virtual std::optional<int> Reset(std::size_t row) = 0;
 
+  /// The rows' shown values, in their order; nothing for one that could not be read.
+  using Values = std::vector<std::optional<int>>;
+  /// The lines that a picture of the values is made of; one that is not known has no points.
+  virtual std::vector<CurveView::Line> LinesOf(const Values& values) const = 0;
+
   /// The slider rows, by index.
   const ValueRow& RowAt(std::size_t row) const;
   std::size_t RowCount() const { return table_.rows.size() - 1; }
 
  private:
   void OnReset(std::size_t row);
+  void AddPicture();
+  void Draw();
 
   const PageTable& table_;  // the pattern, then the slider rows
   int firstReset_;
   bool hideResets_;
+  QPointer<CurveView> picture_;
 };

@@ -257,7 +257,7 @@ void CSetupType5TabDlg::ResetDShiftH() {
 
 void CSetupType5TabDlg::OnCbnSelchangeCombStandbymode() {
   if (List(kStandbyMode).SelectedValue() == kSaving &&
-      !AskYesNo(this, CatalogString(kErrorCategory, ErrorText::StandbySavingQuestion))) {
+      !Ask(ErrorText::StandbySavingQuestion)) {
     ReadBack(kStandbyMode);
     return;
   }

@@ -28,6 +28,11 @@ inline constexpr int TabPicture = 166;
 inline constexpr int TabImage = 167;
 inline constexpr int TabVideo = 3168;
 inline constexpr int TabAudio = 3169;
+
+// Buttons of message boxes.
+inline constexpr int Ok = 4220;
+inline constexpr int Yes = 4221;
+inline constexpr int No = 4222;
 }  // namespace Caption
 
 /// A number that ends in `Base` starts a run: the text is that of the base plus an index or a

@@ -268,6 +268,9 @@ QAccessibleInterface* MakeInterface(const QString& className, QObject* object) {
   if (className == QLatin1String("QCheckBox") && qobject_cast<CDialog*>(object->parent())) {
     return new CheckInterface(static_cast<QCheckBox*>(object));
   }
+  if (className == QLatin1String("CurveView")) {
+    return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Graphic);
+  }
   if (className == QLatin1String("CDialog")) {
     return new DialogInterface(static_cast<CDialog*>(object));
   }

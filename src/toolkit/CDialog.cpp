@@ -104,13 +104,27 @@ bool CDialog::Create() {
   OnInitDialog();
   UpdateRows();
   NameControls(*this);
+  GiveMnemonics();
   FitToScreen();
   return true;
 }
 
+// Alt+C closes in every language: where the caption has no C, it bears one behind it.
+void CDialog::GiveMnemonics() {
+  for (const RowTemplate& row : template_->rows) {
+    if (row.controls.front().kind != ControlKind::Close) continue;
+    auto& close = Item<QPushButton>(row.controls.front().id);
+    QString text = close.text();
+    if (text.contains(QLatin1Char('&'))) continue;
+    const auto letter = text.indexOf(QLatin1Char('C'), 0, Qt::CaseInsensitive);
+    close.setText(letter < 0 ? text + QStringLiteral("(&C)")
+                             : text.insert(letter, QLatin1Char('&')));
+  }
+}
+
 // A pop-up that the screen has no room for scrolls its rows; Close stays in sight.
 void CDialog::FitToScreen() {
-  if (!isWindow() || layout() == nullptr) return;
+  if (!isWindow() || layout() == nullptr || scroll_ != nullptr) return;
   const QSize wanted = layout()->totalSizeHint();
   if (wanted == wanted.boundedTo(RoomOnScreen(*this))) return;
   auto* rows = new QWidget(this);

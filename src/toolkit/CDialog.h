@@ -198,6 +198,7 @@ class ADVANCED_CONTROL_EXPORT CDialog : public QDialog {
   void EndOrphaned();
   void BuildControls();
   void FitToScreen();
+  void GiveMnemonics();
   void ConnectNotifications();
   PlacedRow* RowOf(int id);
 

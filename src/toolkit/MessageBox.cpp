@@ -2,13 +2,15 @@
 
 #include <QMessageBox>
 #include <QPointer>
+#include <QPushButton>
 
 #include "toolkit/CDialog.h"
 
 namespace {
 
 int Run(QWidget* owner, QMessageBox::Icon icon, const QString& text,
-        QMessageBox::StandardButtons buttons, QMessageBox::StandardButton preselected) {
+        QMessageBox::StandardButtons buttons, QMessageBox::StandardButton preselected,
+        const ButtonTexts& texts) {
   QWidget* window = owner != nullptr ? owner->window() : nullptr;
   if (const auto* dialog = qobject_cast<CDialog*>(window); dialog && dialog->IsOrphaned()) {
     return QMessageBox::NoButton;
@@ -19,6 +21,11 @@ int Run(QWidget* owner, QMessageBox::Icon icon, const QString& text,
       icon, window != nullptr ? window->windowTitle() : QString(), text, buttons, window);
   box->setTextFormat(Qt::PlainText);
   box->setDefaultButton(preselected);
+  for (const auto& [button, caption] : {std::pair(QMessageBox::Ok, texts.ok),
+                                        {QMessageBox::Yes, texts.yes},
+                                        {QMessageBox::No, texts.no}}) {
+    if ((buttons & button) && !caption.isEmpty()) box->button(button)->setText(caption);
+  }
   if (window != nullptr) box->setWindowModality(Qt::WindowModal);
   const int answer = box->exec();
   delete box;
@@ -27,11 +34,11 @@ int Run(QWidget* owner, QMessageBox::Icon icon, const QString& text,
 
 }  // namespace
 
-void ShowStopMessage(QWidget* owner, const QString& text) {
-  Run(owner, QMessageBox::Critical, text, QMessageBox::Ok, QMessageBox::Ok);
+void ShowStopMessage(QWidget* owner, const QString& text, const ButtonTexts& buttons) {
+  Run(owner, QMessageBox::Critical, text, QMessageBox::Ok, QMessageBox::Ok, buttons);
 }
 
-bool AskYesNo(QWidget* owner, const QString& text) {
+bool AskYesNo(QWidget* owner, const QString& text, const ButtonTexts& buttons) {
   return Run(owner, QMessageBox::Information, text, QMessageBox::Yes | QMessageBox::No,
-             QMessageBox::No) == QMessageBox::Yes;
+             QMessageBox::No, buttons) == QMessageBox::Yes;
 }

@@ -1,6 +1,7 @@
 #include "toolkit/TemplateControls.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -53,9 +54,11 @@ CComboBox* MakeCombo(std::span<const char* const> entries, QWidget* parent) {
 }
 
 // Controls that share the value columns: an arrow pad, check boxes, a lone button.
-void PlaceTogether(const std::vector<QWidget*>& controls, QGridLayout* grid, int gridRow,
+void PlaceTogether(std::vector<QWidget*> controls, bool arrows, QGridLayout* grid, int gridRow,
                    int firstColumn, int endColumn) {
   auto* box = new QHBoxLayout;
+  // Left stays left where the layout is mirrored.
+  if (arrows && controls.front()->isRightToLeft()) std::ranges::reverse(controls);
   box->setContentsMargins(0, 0, 0, 0);
   box->setSpacing(grid->horizontalSpacing());
   for (QWidget* control : controls) box->addWidget(control, 0, Qt::AlignVCenter);
@@ -175,7 +178,8 @@ void PlaceRow(const RowTemplate& row, const std::vector<QWidget*>& controls, QGr
   if (together.empty()) return;
   const bool fieldColumnTaken =
       controls.size() > 1 && row.controls[controls.size() - 1].kind == ControlKind::Field;
-  PlaceTogether(together, grid, gridRow,
-                Has(row, ControlKind::Arrow) ? RowColumn::Slider : RowColumn::Minus,
+  const bool arrows = Has(row, ControlKind::Arrow);
+  PlaceTogether(std::move(together), arrows, grid, gridRow,
+                arrows ? RowColumn::Slider : RowColumn::Minus,
                 fieldColumnTaken ? RowColumn::Field : RowColumn::Count);
 }

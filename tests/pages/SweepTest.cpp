@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScreen>
 #include <QSlider>
 #include <QStyle>
 #include <QTabBar>
@@ -19,6 +20,11 @@
 #include "toolkit/WindowText.h"
 
 namespace {
+
+std::vector<CModelInfo2> TypicalModels() {
+  return {FullModel(1, 1), FullModel(2, 6),  FullModel(3, 10),
+          FullModel(4, 9), FullModel(5, 30), FullModel(5, 42)};
+}
 
 using PageCheck = std::function<void(OpenDialog&, CTabPage&)>;
 
@@ -155,6 +161,10 @@ QSize TextSize(const QWidget& widget, const QString& text) {
   return {widget.fontMetrics().horizontalAdvance(text) + 8, widget.fontMetrics().height()};
 }
 
+void ExpectLeftOf(const QWidget& left, const QWidget& right) {
+  EXPECT_LT(left.geometry().right(), right.geometry().left()) << "the arrows have changed places";
+}
+
 // A visible control lies inside its page, has the room its text needs, and covers no other.
 void ExpectNothingClipped(const CDialog& page) {
   std::vector<const QWidget*> visible;
@@ -162,7 +172,7 @@ void ExpectNothingClipped(const CDialog& page) {
     for (const ControlTemplate& control : row.controls) {
       const QWidget* widget = page.GetDlgItem(control.id);
       if (widget == nullptr || !widget->isVisible()) continue;
-      EXPECT_TRUE(page.rect().contains(widget->geometry())) << control.id;
+      EXPECT_TRUE(widget->parentWidget()->rect().contains(widget->geometry())) << control.id;
       const QSize needed = control.kind == ControlKind::Slider ? widget->minimumSizeHint()
                            : control.kind == ControlKind::Field
                                ? TextSize(*widget, QStringLiteral("-128"))
@@ -174,6 +184,29 @@ void ExpectNothingClipped(const CDialog& page) {
         EXPECT_FALSE(other->geometry().intersects(widget->geometry())) << control.id;
       }
       visible.push_back(widget);
+      if (std::string_view(control.caption) == "→") ExpectLeftOf(*visible.end()[-2], *widget);
+    }
+  }
+}
+
+// Window, tabs and Close are on the screen, and so is each control that gets the focus.
+void ExpectInReach(CDialog& dialog) {
+  const QSize screen = dialog.screen()->availableGeometry().size();
+  EXPECT_EQ(dialog.size().boundedTo(screen), dialog.size());
+  const auto inSight = [&dialog](const QWidget& widget) {
+    const QRect shown = widget.visibleRegion().boundingRect();
+    return shown.height() == widget.height() && shown.width() >= std::min(widget.width(), 40) &&
+           dialog.rect().contains(QRect(widget.mapTo(&dialog, shown.topLeft()), shown.size()));
+  };
+  for (QWidget* widget : dialog.findChildren<QWidget*>()) {
+    if (!widget->isVisible() || widget->window() != &dialog) continue;
+    if (!(widget->focusPolicy() & Qt::TabFocus) || !widget->isEnabled()) continue;
+    widget->setFocus(Qt::TabFocusReason);
+    EXPECT_TRUE(inSight(*widget)) << widget->accessibleName().toStdString();
+    for (const RowTemplate& row : dialog.Template()->rows) {
+      const ControlTemplate& close = row.controls.front();
+      if (close.kind != ControlKind::Close) continue;
+      EXPECT_TRUE(inSight(*dialog.GetDlgItem(close.id))) << "Close";
     }
   }
 }
@@ -199,18 +232,29 @@ TEST(Sweep, PresentRowsArePacked) {
   });
 }
 
-TEST(Sweep, NothingIsClippedInEitherLanguageAtAnyFontSize) {
+// Also run on other screens, where a model of each type must do.
+TEST(Sweep, NothingIsClippedOrOutOfReachInEitherLanguageAtAnyFontSize) {
+  const bool everyModel = qEnvironmentVariableIsEmpty("TEST_SCREEN");
+  const std::vector<CModelInfo2> models = everyModel ? EveryModel() : TypicalModels();
   const QFont before = QApplication::font();
   for (const char* language : {"en_US.UTF-8", "zh_CN.UTF-8"}) {
     qputenv("LC_ALL", language);
     ASSERT_EQ(LoadCatalog(), 0);
-    for (const double scale : {1.0, 1.5, 2.0}) {
+    // The smallest font both ways round.
+    for (const double scale : {-1.0, 1.0, 1.5, 2.0}) {
       QFont font = before;
-      font.setPointSizeF(before.pointSizeF() * scale);
+      font.setPointSizeF(before.pointSizeF() * std::abs(scale));
       QApplication::setFont(font);
+      QApplication::setLayoutDirection(scale < 0 ? Qt::RightToLeft : Qt::LeftToRight);
       SCOPED_TRACE(std::string(language) + " at " + std::to_string(scale));
-      ForEachPage([](OpenDialog&, CTabPage& page) { ExpectNothingClipped(page); });
-      ForEachPopup([](CDialog& popup) { ExpectNothingClipped(popup); });
+      ForEachPage(models, [](OpenDialog& open, CTabPage& page) {
+        ExpectNothingClipped(page);
+        ExpectInReach(open.Dialog());
+      });
+      ForEachPopup([](CDialog& popup) {
+        ExpectNothingClipped(popup);
+        ExpectInReach(popup);
+      });
     }
   }
   QApplication::setFont(before);

@@ -3,6 +3,20 @@
 #include "device/ModelDataSource.h"
 #include "toolkit/MessageBox.h"
 
+namespace {
+
+// A catalog without these texts leaves the boxes their own.
+ButtonTexts BoxButtons() {
+  const auto text = [](int number) {
+    static constexpr int kUnknown = 0;
+    const QString found = CatalogString(kCaptionCategory, number);
+    return found == CatalogString(kCaptionCategory, kUnknown) ? QString() : found;
+  };
+  return {text(Caption::Ok), text(Caption::Yes), text(Caption::No)};
+}
+
+}  // namespace
+
 const ModelData& SettingsDialog::Model() const {
   const QWidget* window = this;
   while (window != nullptr) {
@@ -16,7 +30,11 @@ const ModelData& SettingsDialog::Model() const {
 
 void SettingsDialog::ShowError(int errorNumber) {
   if (!window()->isVisible() || projector->IsAbandoned()) return;
-  ShowStopMessage(this, CatalogString(kErrorCategory, errorNumber));
+  ShowStopMessage(this, CatalogString(kErrorCategory, errorNumber), BoxButtons());
+}
+
+bool SettingsDialog::Ask(int questionNumber) {
+  return AskYesNo(this, CatalogString(kErrorCategory, questionNumber), BoxButtons());
 }
 
 void SettingsDialog::OnLeave() {

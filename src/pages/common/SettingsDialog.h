@@ -31,6 +31,9 @@ class ADVANCED_CONTROL_EXPORT SettingsDialog : public CDialog {
   /// has left meanwhile.
   void ShowError(int errorNumber);
 
+  /// Asks with the error category's text and the buttons Yes and No; true for Yes.
+  bool Ask(int questionNumber);
+
   void OnOrphaned() override { projector = &Unconnected(); }
   void OnLeave() override;
   void OnReturn() override;

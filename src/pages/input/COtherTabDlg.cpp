@@ -43,7 +43,7 @@ void COtherTabDlg::OnBnClickedOtherPowerOn() {
 }
 
 void COtherTabDlg::OnBnClickedOtherPowerOff() {
-  if (!AskYesNo(this, CatalogString(kErrorCategory, ErrorText::PowerOffQuestion))) return;
+  if (!Ask(ErrorText::PowerOffQuestion)) return;
   projector->SetPowerOff();
   InitDisp();
   // The command has no result: a projector that is still on, or does not say, tells the refusal.

@@ -14,4 +14,7 @@ class CColorDlg final : public CustomDialog {
   /// dialog that runs it.
   explicit CColorDlg(bool hideResets, CWnd* parent = nullptr)
       : CustomDialog(TemplateId::ColorTemp, kColorTempRows, hideResets, parent) {}
+
+ protected:
+  std::vector<CurveView::Line> LinesOf(const Values& values) const override;
 };

@@ -13,4 +13,7 @@ class CGammaDlg final : public CustomDialog {
   /// to the dialog that runs it.
   explicit CGammaDlg(bool hidePointResets, CWnd* parent = nullptr)
       : CustomDialog(TemplateId::Gamma, kGammaRows, hidePointResets, parent) {}
+
+ protected:
+  std::vector<CurveView::Line> LinesOf(const Values& values) const override;
 };

@@ -1,12 +1,58 @@
 #include "pages/picture/CustomDialog.h"
 
+#include <QBoxLayout>
+#include <QLineEdit>
+
+#include "toolkit/CSliderCtrl.h"
+#include "toolkit/WindowText.h"
+
+const ValueRow& CustomDialog::RowAt(std::size_t row) const {
+  return std::get<ValueRow>(table_.rows[row + 1]);
+}
+
 bool CustomDialog::OnInitDialog() {
   RowDialog::OnInitDialog();
-  for (const PageRow& row : table_.rows) {
-    const auto* value = std::get_if<ValueRow>(&row);
-    if (value != nullptr) GetDlgItem(value->reset.button)->setVisible(!hideResets_);
+  for (std::size_t row = 0; row < RowCount(); ++row) {
+    GetDlgItem(RowAt(row).reset.button)->setVisible(!hideResets_);
   }
+  AddPicture();
   ShowUnread();
   Refresh();
   return true;
+}
+
+void CustomDialog::AddPicture() {
+  delete picture_;
+  picture_ = new CurveView(this);
+  picture_->setAccessibleName(windowTitle());
+  static_cast<QBoxLayout*>(layout())->addWidget(picture_, 0, Qt::AlignVCenter);
+  for (std::size_t row = 0; row < RowCount(); ++row) {
+    const ValueIds& ids = RowAt(row).ids;
+    connect(&Item<QLineEdit>(ids.field), &QLineEdit::textChanged, this, &CustomDialog::Draw);
+    connect(&Item<CSliderCtrl>(ids.slider), &CSliderCtrl::valueChanged, this, &CustomDialog::Draw);
+  }
+  Draw();
+}
+
+// A field shows what the projector accepted; a slider is ahead of it while it is being moved.
+void CustomDialog::Draw() {
+  Values accepted;
+  Values tried;
+  QStringList description;
+  for (std::size_t row = 0; row < RowCount(); ++row) {
+    const auto& slider = Item<CSliderCtrl>(RowAt(row).ids.slider);
+    const auto& field = Item<QLineEdit>(RowAt(row).ids.field);
+    bool known = false;
+    const int value = field.text().toInt(&known);
+    const bool moved = qBound(slider.minimum(), value, slider.maximum()) != slider.value();
+    accepted.push_back(known ? std::optional(value) : std::nullopt);
+    tried.push_back(known && moved ? slider.value() : accepted.back());
+    const QWidget& caption = *GetDlgItem(Template()->rows[row + 1].controls.front().id);
+    if (known) description += WindowText(caption) + QLatin1Char(' ') + field.text();
+  }
+  std::vector<CurveView::Line> lines = LinesOf(accepted);
+  std::vector<CurveView::Line> ahead = LinesOf(tried);
+  for (std::size_t i = 0; i < lines.size(); ++i) lines[i].tried = std::move(ahead[i].accepted);
+  picture_->Show(std::move(lines));
+  picture_->setAccessibleDescription(description.join(QStringLiteral(", ")));
 }

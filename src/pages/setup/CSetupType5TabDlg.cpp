@@ -66,7 +66,7 @@ int CSetupType5TabDlg::DisableVolumeCtrl(bool disable) {
 
 void CSetupType5TabDlg::OnCbnSelchangeCombStandbymode() {
   if (List(kStandbyMode).SelectedValue() == kSaving &&
-      !AskYesNo(this, CatalogString(kErrorCategory, ErrorText::StandbySavingQuestion))) {
+      !Ask(ErrorText::StandbySavingQuestion)) {
     ReadBack(kStandbyMode);
     return;
   }

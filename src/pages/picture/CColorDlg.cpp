@@ -1,0 +1,17 @@
+#include "pages/picture/CColorDlg.h"
+
+// A channel's offset lifts its line, its gain tilts it.
+std::vector<CurveView::Line> CColorDlg::LinesOf(const Values& values) const {
+  static constexpr double kStep = 1.0 / 256;
+  std::vector<CurveView::Line> lines{{QStringLiteral("R"), 0, {}, {}},
+                                     {QStringLiteral("G"), 120, {}, {}},
+                                     {QStringLiteral("B"), 220, {}, {}}};
+  for (std::size_t channel = 0; channel < lines.size(); ++channel) {
+    const auto gain = values[channel];
+    const auto offset = values[channel + lines.size()];
+    if (!gain || !offset) continue;
+    const double start = *offset * kStep;
+    lines[channel].accepted << QPointF(0, start) << QPointF(1, 1 + start + *gain * kStep);
+  }
+  return lines;
+}

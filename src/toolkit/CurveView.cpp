@@ -1,0 +1,63 @@
+#include "toolkit/CurveView.h"
+
+#include <utility>
+
+#include <QPainter>
+
+void CurveView::Show(std::vector<Line> lines) {
+  lines_ = std::move(lines);
+  update();
+}
+
+QSize CurveView::sizeHint() const {
+  const int side = 16 * fontMetrics().height();
+  return {side, side};
+}
+
+QColor CurveView::ColorOf(const Line& line) const {
+  if (line.hue == Line::kNoHue) return palette().color(QPalette::Highlight);
+  const bool dark = palette().color(QPalette::Base).lightness() < 128;
+  return QColor::fromHsl(line.hue, 200, dark ? 170 : 100);
+}
+
+void CurveView::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(palette().color(QPalette::Mid));
+  painter.setBrush(palette().color(QPalette::Base));
+  painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+
+  const double labels = fontMetrics().height();
+  const QRectF plot = QRectF(rect()).adjusted(labels / 2, labels / 2, -labels * 3, -labels / 2);
+  const auto place = [&plot](QPolygonF points) {
+    static constexpr double kMore = 0.25;
+    for (QPointF& point : points) {
+      const double height = (point.y() + kMore) / (1 + 2 * kMore);
+      point = {plot.left() + point.x() * plot.width(), plot.bottom() - height * plot.height()};
+    }
+    return points;
+  };
+
+  QColor faint = palette().color(QPalette::Text);
+  faint.setAlphaF(0.3F);
+  painter.setPen(QPen(faint, 1, Qt::DashLine));
+  painter.drawPolyline(place({QPointF(0, 0), QPointF(1, 1)}));
+
+  double labelAt = labels / 2;  // the labels beside each other: lines may end in one point
+  for (const Line& line : lines_) {
+    if (line.accepted.isEmpty()) continue;
+    const QColor color = ColorOf(line);
+    const QPolygonF accepted = place(line.accepted);
+    if (line.tried != line.accepted) {
+      painter.setPen(QPen(color, 2, Qt::DotLine));
+      painter.drawPolyline(place(line.tried));
+    }
+    painter.setPen(QPen(color, 2));
+    painter.drawPolyline(accepted);
+    painter.setBrush(color);
+    for (const QPointF& point : accepted) painter.drawEllipse(point, 2.5, 2.5);
+    painter.setPen(palette().color(QPalette::Text));
+    painter.drawText(accepted.last() + QPointF(labelAt, labels / 3), line.label);
+    labelAt += labels * 0.8;
+  }
+}

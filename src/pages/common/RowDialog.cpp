@@ -223,7 +223,7 @@ void RowDialog::Preselect(int list) {
   if (CComboBox& combo = List(list); combo.currentIndex() < 0) combo.Select(0);
 }
 
-std::optional<int> RowDialog::Ask(OfSource of) {
+std::optional<int> RowDialog::AskFor(OfSource of) {
   return AskSource(*projector, of, Model().ModelCode);
 }
 
@@ -299,7 +299,7 @@ void RowDialog::Operate(const ListRow& row, Bound& bound, int) {
     if (const auto value = Read(*projector, *row.read)) list.SelectValue(*value);
     return;
   }
-  const auto source = Ask(row.of);
+  const auto source = AskFor(row.of);
   if (!source) return;
   const int value = row.rules.sendsPosition ? list.currentIndex() : *chosen;
   if (row.rules.tellsText) projector->SettingText = list.currentText().toStdString();
@@ -325,7 +325,7 @@ void RowDialog::ReadBack(int control) {
   for (const PageRow& row : table_.rows) {
     if (ControlOf(row) != control) continue;
     const auto* list = std::get_if<ListRow>(&row);
-    if (const auto source = list != nullptr ? Ask(list->of) : Source()) ReadBack(*list, *source);
+    if (const auto source = list != nullptr ? AskFor(list->of) : Source()) ReadBack(*list, *source);
   }
 }
 

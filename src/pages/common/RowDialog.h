@@ -138,7 +138,7 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
   void Prepare(const auto&, Bound&) {}
 
   /// The input source of a row, as `AskSource`.
-  std::optional<int> Ask(OfSource of);
+  std::optional<int> AskFor(OfSource of);
 
   void Refresh(const ListRow& row, Bound& bound, Source source);
   void Refresh(const ValueRow& row, Bound& bound, Source source);

@@ -70,7 +70,7 @@ void RowDialog::Refresh() {
     if (!bound_[i].present) continue;
     const OfSource of = SourceOf(table_.rows[i]);
     if (of != OfSource::None && std::exchange(asked, of) != of) {
-      source = Ask(of);
+      source = AskFor(of);
       if (projector->IsAbandoned()) return;
       ShowSource(source);
     }

@@ -49,7 +49,7 @@ void RowDialog::Operate(const ValueRow& row, Bound& bound, int control) {
 }
 
 void RowDialog::Step(const ValueRow& row, ValueControls& controls, bool upwards) {
-  auto source = Ask(row.of);
+  auto source = AskFor(row.of);
   if (row.of == OfSource::Current) {
     source = source.value_or(0);
     ShowSource(source);
@@ -76,7 +76,7 @@ bool RowDialog::Release(CSliderCtrl& slider) {
 
 bool RowDialog::Drag(const ValueRow& row, ValueControls& controls) {
   const int position = controls.Position();
-  const auto source = Ask(row.of);
+  const auto source = AskFor(row.of);
   if (source && row.of == OfSource::Current) ShowSource(source);
   if (!source && row.of == OfSource::Playing) return true;
   if (source &&

@@ -47,14 +47,6 @@ Notification Clicked(int id, void (Dialog::*handler)()) {
           [handler](CDialog& dialog, CSliderCtrl*) { (static_cast<Dialog&>(dialog).*handler)(); }};
 }
 
-/// One handler for the same button of several rows; it is told which row.
-template <class Dialog>
-Notification Clicked(int id, void (Dialog::*handler)(std::size_t), std::size_t row) {
-  return {Notification::Event::Clicked, id, [handler, row](CDialog& dialog, CSliderCtrl*) {
-            (static_cast<Dialog&>(dialog).*handler)(row);
-          }};
-}
-
 template <class Dialog>
 Notification SelChange(int id, void (Dialog::*handler)()) {
   return {Notification::Event::SelChange, id,

@@ -137,13 +137,4 @@ TEST(RowsTest, EveryRowHasAKeyOfItsOwn) {
   });
 }
 
-TEST(RowsTest, NoTableUsesAControlTwice) {
-  for (std::size_t page = 0; page < kPageCount; ++page) {
-    std::set<int> controls;
-    for (const PageRow& row : TableOf(static_cast<PageId>(page)).rows) {
-      EXPECT_TRUE(controls.insert(ControlOf(row)).second) << KeyOf(row);
-    }
-  }
-}
-
 }  // namespace

@@ -23,6 +23,7 @@
 #include "app/CommandLog.h"
 #include "app/DialogKeeper.h"
 #include "app/FaultPanel.h"
+#include "app/Mnemonic.h"
 #include "app/ProfileActions.h"
 #include "app/ProjectorView.h"
 #include "app/SettingNames.h"
@@ -44,7 +45,7 @@ constexpr const char* kProjectorKey = "window/projector";
 constexpr const char* kProfilesKey = "window/profiles";
 
 QString ShownText(const QAction& action) {
-  return action.text().remove(QLatin1Char('&')).remove(QStringLiteral("…"));
+  return WithoutMnemonic(action.text()).remove(QStringLiteral("…"));
 }
 
 }  // namespace

@@ -34,7 +34,7 @@ namespace {
 
 constexpr int kGap = 9;
 constexpr QSize kUsualSize{1240, 760};
-constexpr int kUsualListWidth = 480;
+constexpr int kUsualListWidth = 520;
 
 constexpr const char* kGeometryKey = "window/geometry";
 constexpr const char* kSidesKey = "window/sides";
@@ -246,7 +246,8 @@ void MainWindow::Restore() {
   resize(kUsualSize.boundedTo(screen.size() - kFrame));
   const int listWidth = std::min(kUsualListWidth, width() * 2 / 5);
   sides_->setSizes({listWidth, width() - listWidth});
-  move(screen.right() + 1 - width() - kGap, screen.bottom() + 1 - height() - kGap);
+  move(screen.right() + 1 - width() - kFrame.width(),
+       screen.bottom() + 1 - height() - kFrame.height());
 }
 
 void MainWindow::Remember() {

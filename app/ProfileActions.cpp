@@ -17,8 +17,11 @@ std::size_t Position(int row) { return static_cast<std::size_t>(row); }
 
 // Message boxes show what a file holds, and no markup in it.
 void Tell(QWidget& window, const QString& title, const QString& error) {
-  QMessageBox box(QMessageBox::Critical, title, error, QMessageBox::Ok, &window);
+  QMessageBox box(QMessageBox::Critical, title,
+                  ProfileActions::tr("This could not be done; nothing was changed."),
+                  QMessageBox::Ok, &window);
   box.setTextFormat(Qt::PlainText);
+  box.setInformativeText(error);
   box.exec();
 }
 

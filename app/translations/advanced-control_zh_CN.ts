@@ -387,6 +387,10 @@
         <source>Remove</source>
         <translation>移除</translation>
     </message>
+    <message>
+        <source>This could not be done; nothing was changed.</source>
+        <translation>操作未能完成，未作任何更改。</translation>
+    </message>
 </context>
 <context>
     <name>ProfileDocument</name>

@@ -21,6 +21,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "app/Mnemonic.h"
+
 namespace {
 
 constexpr auto kGatherTime = std::chrono::milliseconds(40);
@@ -31,6 +33,7 @@ constexpr std::array<const char*, CommandLogModel::ColumnCount> kWidthSamples{
     "0xFFFF",       "no answer",        "2000.0"};
 
 QToolButton* ButtonOf(QAction* action) {
+  action->setIconText(WithoutMnemonic(action->text()));
   auto* button = new QToolButton;
   button->setDefaultAction(action);
   button->setFocusPolicy(Qt::StrongFocus);
@@ -67,7 +70,7 @@ CommandLog::CommandLog(QWidget* parent)
   view_->setContextMenuPolicy(Qt::ActionsContextMenu);
 
   auto* head = new QHBoxLayout;
-  auto* caption = new QLabel(tr("Comman&ds, newest last"));
+  auto* caption = new QLabel(tr("Commands, &newest last"));
   caption->setBuddy(view_);
   head->addWidget(caption);
   head->addStretch();

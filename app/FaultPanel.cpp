@@ -13,6 +13,8 @@
 #include <QPushButton>
 #include <QSpinBox>
 
+#include "app/Mnemonic.h"
+
 Q_DECLARE_METATYPE(FaultTarget)
 
 namespace {
@@ -79,7 +81,7 @@ QLabel* Caption(const QString& text, QWidget* buddy) {
   auto* label = new QLabel(text);
   label->setBuddy(buddy);
   label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  buddy->setAccessibleName(QString(text).remove(QLatin1Char('&')));
+  buddy->setAccessibleName(WithoutMnemonic(text));
   return label;
 }
 
@@ -110,13 +112,13 @@ FaultPanel::FaultPanel(QWidget* parent)
   faults_->setMinimumHeight(faults_->fontMetrics().height() * 4);
 
   auto* grid = new QGridLayout(this);
-  grid->addWidget(Caption(tr("&Power"), power_), 0, 0);
+  grid->addWidget(Caption(tr("Po&wer"), power_), 0, 0);
   grid->addWidget(power_, 0, 1);
   grid->addWidget(Caption(tr("&Error status"), error_), 0, 2);
   grid->addWidget(error_, 0, 3);
   grid->addWidget(Caption(tr("&Command"), target_), 1, 0);
   grid->addWidget(target_, 1, 1, 1, 4);
-  grid->addWidget(Caption(tr("&Fault"), kind_), 2, 0);
+  grid->addWidget(Caption(tr("Fa&ult"), kind_), 2, 0);
   grid->addWidget(kind_, 2, 1);
   grid->addWidget(Caption(tr("&Delay"), delay_), 2, 2);
   grid->addWidget(delay_, 2, 3);

@@ -23,6 +23,7 @@
 #include "app/CommandLog.h"
 #include "app/DialogKeeper.h"
 #include "app/FaultPanel.h"
+#include "app/Mnemonic.h"
 #include "app/ProfileActions.h"
 #include "app/ProjectorView.h"
 #include "app/SettingNames.h"
@@ -33,7 +34,7 @@ namespace {
 
 constexpr int kGap = 9;
 constexpr QSize kUsualSize{1240, 760};
-constexpr int kUsualListWidth = 480;
+constexpr int kUsualListWidth = 520;
 
 constexpr const char* kGeometryKey = "window/geometry";
 constexpr const char* kSidesKey = "window/sides";
@@ -44,7 +45,7 @@ constexpr const char* kProjectorKey = "window/projector";
 constexpr const char* kProfilesKey = "window/profiles";
 
 QString ShownText(const QAction& action) {
-  return action.text().remove(QLatin1Char('&')).remove(QStringLiteral("…"));
+  return WithoutMnemonic(action.text()).remove(QStringLiteral("…"));
 }
 
 }  // namespace
@@ -245,7 +246,8 @@ void MainWindow::Restore() {
   resize(kUsualSize.boundedTo(screen.size() - kFrame));
   const int listWidth = std::min(kUsualListWidth, width() * 2 / 5);
   sides_->setSizes({listWidth, width() - listWidth});
-  move(screen.right() + 1 - width() - kGap, screen.bottom() + 1 - height() - kGap);
+  move(screen.right() + 1 - width() - kFrame.width(),
+       screen.bottom() + 1 - height() - kFrame.height());
 }
 
 void MainWindow::Remember() {

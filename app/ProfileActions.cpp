@@ -17,8 +17,11 @@ std::size_t Position(int row) { return static_cast<std::size_t>(row); }
 
 // Message boxes show what a file holds, and no markup in it.
 void Tell(QWidget& window, const QString& title, const QString& error) {
-  QMessageBox box(QMessageBox::Critical, title, error, QMessageBox::Ok, &window);
+  QMessageBox box(QMessageBox::Critical, title,
+                  ProfileActions::tr("This could not be done; nothing was changed."),
+                  QMessageBox::Ok, &window);
   box.setTextFormat(Qt::PlainText);
+  box.setInformativeText(error);
   box.exec();
 }
 
@@ -32,7 +35,8 @@ ProfileActions::ProfileActions(ProfileDocument& document, std::function<int()> c
       window_(window),
       open_(Make(tr("&Open Profiles…"), QKeySequence::Open, &ProfileActions::OpenFile)),
       reload_(Make(tr("&Reload"), QKeySequence::Refresh, &ProfileActions::ReloadFile)),
-      saveCopy_(Make(tr("&Save Copy As…"), QKeySequence::SaveAs, &ProfileActions::SaveFileCopy)),
+      saveCopy_(Make(tr("&Save Copy As…"), Qt::CTRL | Qt::SHIFT | Qt::Key_S,
+                     &ProfileActions::SaveFileCopy)),
       add_(Make(tr("&Add…"), QKeySequence::New, &ProfileActions::AddProjector)),
       edit_(Make(tr("&Edit…"), Qt::Key_F2, &ProfileActions::EditProjector)),
       duplicate_(Make(tr("&Duplicate"), Qt::CTRL | Qt::Key_D, &ProfileActions::DuplicateProjector)),

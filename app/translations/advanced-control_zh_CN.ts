@@ -28,10 +28,6 @@
         <translation>复制(&amp;C)</translation>
     </message>
     <message>
-        <source>Comman&amp;ds, newest last</source>
-        <translation>命令，最新的在最后(&amp;D)</translation>
-    </message>
-    <message>
         <source>Cannot write %1: %2</source>
         <translation>无法写入 %1：%2</translation>
     </message>
@@ -42,6 +38,10 @@
     <message>
         <source>Tables (*.tsv);;All files (*)</source>
         <translation>表格 (*.tsv);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Commands, &amp;newest last</source>
+        <translation>命令，最新的在最后(&amp;N)</translation>
     </message>
 </context>
 <context>
@@ -178,20 +178,12 @@
         <translation>生效的故障</translation>
     </message>
     <message>
-        <source>&amp;Power</source>
-        <translation>电源(&amp;P)</translation>
-    </message>
-    <message>
         <source>&amp;Error status</source>
         <translation>错误状态(&amp;E)</translation>
     </message>
     <message>
         <source>&amp;Command</source>
         <translation>命令(&amp;C)</translation>
-    </message>
-    <message>
-        <source>&amp;Fault</source>
-        <translation>故障(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Delay</source>
@@ -224,6 +216,14 @@
     <message>
         <source> %1 ms</source>
         <translation> %1 毫秒</translation>
+    </message>
+    <message>
+        <source>Po&amp;wer</source>
+        <translation>电源(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Fa&amp;ult</source>
+        <translation>故障(&amp;U)</translation>
     </message>
 </context>
 <context>
@@ -386,6 +386,10 @@
     <message>
         <source>Remove</source>
         <translation>移除</translation>
+    </message>
+    <message>
+        <source>This could not be done; nothing was changed.</source>
+        <translation>操作未能完成，未作任何更改。</translation>
     </message>
 </context>
 <context>

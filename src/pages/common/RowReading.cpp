@@ -119,11 +119,10 @@ void RowDialog::Tell(std::size_t index, Note note) {
   bound.note = note;
   const PageRow& row = table_.rows[index];
   const QString text = NoteText(row, bound);
-  for (const int id : ControlsOf(row)) {
-    QWidget* control = GetDlgItem(id);
-    control->setToolTip(text);
-    if (qobject_cast<QLabel*>(control) == nullptr) control->setAccessibleDescription(text);
-  }
+  for (const int id : ControlsOf(row)) GetDlgItem(id)->setToolTip(text);
+  // A text that is only shown cannot be grey, and its caption describes it.
+  if (qobject_cast<QLabel*>(GetDlgItem(ControlOf(row))) != nullptr) return;
+  for (const int id : ControlsOf(row)) GetDlgItem(id)->setAccessibleDescription(text);
   GreyCaption(ControlOf(row));
 }
 

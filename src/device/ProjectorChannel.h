@@ -31,9 +31,9 @@ class ADVANCED_CONTROL_EXPORT ProjectorChannel {
   /// Blocks until the projector answered or the channel gave up. Never throws.
   virtual PjtReply Execute(const PjtCommand& command) = 0;
 
-  /// Nobody waits for the projector any more. An `Execute` that lets an event loop run ends at once,
-  /// unanswered; the reply to its command is dropped. A channel that spares a silent projector
-  /// forgets that it was silent. Called on the thread of `Execute`, from inside its event loop or
-  /// between two commands.
+  /// Nobody waits for the projector any more. An `Execute` that lets an event loop run ends at
+  /// once, unanswered; the reply to its command is dropped. A channel that spares a silent
+  /// projector forgets that it was silent. Called on the thread of `Execute`, from inside its event
+  /// loop or between two commands.
   virtual void Abandon() {}
 };

@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <condition_variable>
+#include <gmock/gmock.h>
 #include <mutex>
 
 #include <QApplication>
@@ -10,7 +11,6 @@
 #include <QPushButton>
 #include <QTabBar>
 #include <QTest>
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "device/BoundedChannel.h"
@@ -113,7 +113,8 @@ struct WayOut {
 TEST_F(FlowTest, ClosingActsAtOnceInRefreshesAndChangesAndSendsNothingMore) {
   const WayOut ways[] = {
       {"Close", [](auto& d) { QTest::mouseClick(d.GetDlgItem(kClose), Qt::LeftButton); }},
-      {"Esc", [](auto& d) { QTest::keyClick(d.focusWidget() ? d.focusWidget() : &d, Qt::Key_Escape); }},
+      {"Esc",
+       [](auto& d) { QTest::keyClick(d.focusWidget() ? d.focusWidget() : &d, Qt::Key_Escape); }},
       {"window", [](auto& d) { d.close(); }},
   };
   for (const WayOut& way : ways) {
@@ -177,7 +178,8 @@ TEST_F(FlowTest, AnotherTabIsShownAtOnceAndReadFromItsStart) {
   };
   for (const auto& leave : ways) {
     for (const bool inChange : {false, true}) {
-      SCOPED_TRACE(testing::Message() << "way " << &leave - ways << (inChange ? " in a change" : ""));
+      SCOPED_TRACE(testing::Message()
+                   << "way " << &leave - ways << (inChange ? " in a change" : ""));
       if (inChange) ClickTab(kPictureTab);
       projector_->Take();
       projector_->Pace(2s);

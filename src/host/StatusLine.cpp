@@ -24,9 +24,7 @@ QWidget* StatusLine::RetryButton() const { return retry_; }
 
 void StatusLine::ShowProgress(const QString& text) { Show(text, false); }
 
-void StatusLine::ShowNoAnswer() {
-  Show(CatalogString(kListCategory, ListText::NoAnswer), true);
-}
+void StatusLine::ShowNoAnswer() { Show(CatalogString(kListCategory, ListText::NoAnswer), true); }
 
 void StatusLine::Show(const QString& text, bool canRetry) {
   if (canRetry && retry_->text().isEmpty()) {

@@ -9,6 +9,7 @@
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTabBar>
 
@@ -202,13 +203,19 @@ QRect CDialog::RowRect(int id) {
 void CDialog::GreyCaption(int id) {
   const PlacedRow* row = RowOf(id);
   if (row == nullptr) return;
-  const auto isLabel = [](const QWidget* control) { return qobject_cast<const QLabel*>(control); };
-  const bool operable = std::ranges::any_of(row->controls, [&](const QWidget* control) {
-    return !isLabel(control) && control->isEnabledTo(this);
-  });
+  std::vector<QWidget*> captions;
+  bool operable = false;
+  bool enabled = false;
   for (QWidget* control : row->controls) {
-    if (isLabel(control)) control->setEnabled(operable);
+    if (qobject_cast<QLabel*>(control) != nullptr) {
+      captions.push_back(control);
+    } else if (qobject_cast<QLineEdit*>(control) == nullptr && !control->isHidden()) {
+      operable = true;
+      enabled = enabled || control->isEnabledTo(this);
+    }
   }
+  if (!operable) return;
+  for (QWidget* caption : captions) caption->setEnabled(enabled);
 }
 
 void CDialog::ShowNotice(const QString& text) {

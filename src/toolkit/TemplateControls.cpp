@@ -16,7 +16,7 @@
 namespace {
 
 constexpr int kSliderMinimumWidth = 150;
-constexpr int kRepeatDelay = 400;    // milliseconds
+constexpr int kRepeatDelay = 400;  // milliseconds
 constexpr int kRepeatInterval = 80;
 
 int SmallButtonWidth(const QWidget& widget) { return widget.fontMetrics().height() * 2; }

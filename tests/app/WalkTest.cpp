@@ -1,7 +1,7 @@
 // A random walk over the whole program: its window, the fault panel, its dialogs, and dialogs of
 // other owners that die at any time, also while a command waits; so do input and tab changes. Then
-// every dialog must show what is so. It ends in the middle of a time-out. The sanitizers tell what is touched too late. WALK_SEED gives another walk,
-// WALK_ACTIONS a longer one.
+// every dialog must show what is so. It ends in the middle of a time-out. The sanitizers tell what
+// is touched too late. WALK_SEED gives another walk, WALK_ACTIONS a longer one.
 
 #include <algorithm>
 #include <iterator>
@@ -98,8 +98,10 @@ class Walk {
     auto* tabs = dialog.findChild<QTabBar*>();
     const int tab = Pick(tabs->count());
     if (choice == 7) {
-      if (Pick(2) == 0) dialog.close();
-      else QTest::keyClick(&dialog, Qt::Key_Escape);
+      if (Pick(2) == 0)
+        dialog.close();
+      else
+        QTest::keyClick(&dialog, Qt::Key_Escape);
     } else if (choice == 8) {
       tabs->setCurrentIndex(tab);
     } else if (choice < 11) {
@@ -187,8 +189,10 @@ class Walk {
     static constexpr Qt::Key keys[] = {Qt::Key_Up, Qt::Key_Down, Qt::Key_Home, Qt::Key_End};
     QWidget* control = Any(usable);
     if (auto* button = qobject_cast<QAbstractButton*>(control)) {
-      if (Pick(2) == 0) button->click();  // as a screen reader does
-      else QTest::mouseClick(button, Qt::LeftButton);
+      if (Pick(2) == 0)
+        button->click();  // as a screen reader does
+      else
+        QTest::mouseClick(button, Qt::LeftButton);
     } else {
       QTest::keyClick(control, keys[Pick(std::size(keys))]);
     }

@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <condition_variable>
+#include <gmock/gmock.h>
 #include <mutex>
 
 #include <QApplication>
@@ -10,7 +11,6 @@
 #include <QPushButton>
 #include <QTabBar>
 #include <QTest>
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "device/BoundedChannel.h"
@@ -74,7 +74,7 @@ class FlowTest : public testing::Test {
   FlowTest() {
     dialog_.CopyData(&model_, 0);
     dialog_.Projector().SetChannel(std::make_shared<BoundedChannel>(
-        projector_, BoundedChannel::Limits{.timeOut = 600ms, .retryAfter = 1h}));
+        projector_, BoundedChannel::Limits{.timeOut = 3s, .retryAfter = 1h}));
   }
   ~FlowTest() override { projector_->Pace(0ms); }
 
@@ -113,7 +113,8 @@ struct WayOut {
 TEST_F(FlowTest, ClosingActsAtOnceInRefreshesAndChangesAndSendsNothingMore) {
   const WayOut ways[] = {
       {"Close", [](auto& d) { QTest::mouseClick(d.GetDlgItem(kClose), Qt::LeftButton); }},
-      {"Esc", [](auto& d) { QTest::keyClick(d.focusWidget() ? d.focusWidget() : &d, Qt::Key_Escape); }},
+      {"Esc",
+       [](auto& d) { QTest::keyClick(d.focusWidget() ? d.focusWidget() : &d, Qt::Key_Escape); }},
       {"window", [](auto& d) { d.close(); }},
   };
   for (const WayOut& way : ways) {
@@ -124,7 +125,7 @@ TEST_F(FlowTest, ClosingActsAtOnceInRefreshesAndChangesAndSendsNothingMore) {
         Open();
         ClickTab(kPictureTab);
       }
-      projector_->Pace(500ms);
+      projector_->Pace(2s);
       projector_->Take();
       bool hidden = false;
       std::size_t sent = 0;
@@ -134,7 +135,7 @@ TEST_F(FlowTest, ClosingActsAtOnceInRefreshesAndChangesAndSendsNothingMore) {
         clock.start();
         way.act(dialog_);
         hidden = !dialog_.isVisible();
-        After(0ms, [clock] { EXPECT_LT(clock.elapsed(), 100); });
+        After(0ms, [clock] { EXPECT_LT(clock.elapsed(), 500); });
       });
       QElapsedTimer whole;
       whole.start();
@@ -156,7 +157,7 @@ TEST_F(FlowTest, ClosingActsAtOnceInRefreshesAndChangesAndSendsNothingMore) {
         ASSERT_TRUE(hidden);
         continue;
       }
-      EXPECT_LT(whole.elapsed(), 350);
+      EXPECT_LT(whole.elapsed(), 1500);
       EXPECT_TRUE(hidden);
       EXPECT_GT(sent, 0U);
       projector_->Pace(0ms);
@@ -177,10 +178,11 @@ TEST_F(FlowTest, AnotherTabIsShownAtOnceAndReadFromItsStart) {
   };
   for (const auto& leave : ways) {
     for (const bool inChange : {false, true}) {
-      SCOPED_TRACE(testing::Message() << "way " << &leave - ways << (inChange ? " in a change" : ""));
+      SCOPED_TRACE(testing::Message()
+                   << "way " << &leave - ways << (inChange ? " in a change" : ""));
       if (inChange) ClickTab(kPictureTab);
       projector_->Take();
-      projector_->Pace(500ms);
+      projector_->Pace(2s);
       After(150ms, [&] {
         projector_->Take();
         QElapsedTimer clock;
@@ -188,7 +190,7 @@ TEST_F(FlowTest, AnotherTabIsShownAtOnceAndReadFromItsStart) {
         QApplication::setActiveWindow(&dialog_);  // a list may have been it
         leave();
         EXPECT_EQ(dialog_.ShownPage(), &dialog_.Page(PageId::Status));
-        EXPECT_LT(clock.elapsed(), 100);
+        EXPECT_LT(clock.elapsed(), 500);
         projector_->Pace(0ms);
       });
       if (inChange) {
@@ -228,12 +230,10 @@ TEST_F(FlowTest, WhatIsTypedOrClickedMeanwhileIsDropped) {
 
 TEST_F(FlowTest, TheWindowComesFirstAndSaysWhatItDoes) {
   projector_->Pace(100ms);
-  QElapsedTimer clock;
-  clock.start();
   QStringList seen;
   QTimer look;
   look.callOnTimeout([&] {
-    EXPECT_TRUE(clock.elapsed() < 90 || dialog_.isVisible());
+    EXPECT_TRUE(dialog_.isVisible());
     if (!seen.contains(Status())) seen << Status();
     EXPECT_TRUE(Status().isEmpty() || Veil() != nullptr);
   });
@@ -253,7 +253,7 @@ TEST_F(FlowTest, TheWindowComesFirstAndSaysWhatItDoes) {
 
 TEST_F(FlowTest, NoAnswerIsToldAndTriedAgain) {
   Open();
-  projector_->Pace(5s);
+  projector_->Pace(10s);
   ClickTab(kPictureTab);
   EXPECT_EQ(Status(), CatalogString(5, 4302));
   EXPECT_TRUE(Retry().isVisible());

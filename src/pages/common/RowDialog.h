@@ -173,6 +173,6 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
   int sentBefore_ = 0;
   bool waiting_ = false;
   bool stale_ = false;
-  PageVeil* veil_ = nullptr;  // a child; only while it is seen
+  PageVeil* veil_ = nullptr;          // a child; only while it is seen
   std::unique_ptr<WaitWatch> watch_;  // of a pop-up
 };

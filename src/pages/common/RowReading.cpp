@@ -43,7 +43,11 @@ RowDialog::Reading::~Reading() {
     page_.MarkUnread();
     return;
   }
-  for (Bound& bound : page_.bound_) bound.unread = false;
+  for (std::size_t i = 0; i < page_.bound_.size(); ++i) {
+    page_.bound_[i].unread = false;
+    // What stands beside a list may have followed it.
+    if (page_.bound_[i].note != Note::None) page_.GreyCaption(ControlOf(page_.table_.rows[i]));
+  }
   page_.UpdateVeil();
 }
 
@@ -130,11 +134,10 @@ void RowDialog::Tell(std::size_t index, Note note) {
   bound.note = note;
   const PageRow& row = table_.rows[index];
   const QString text = NoteText(row, bound);
-  for (const int id : ControlsOf(row)) {
-    QWidget* control = GetDlgItem(id);
-    control->setToolTip(text);
-    if (qobject_cast<QLabel*>(control) == nullptr) control->setAccessibleDescription(text);
-  }
+  for (const int id : ControlsOf(row)) GetDlgItem(id)->setToolTip(text);
+  // A text that is only shown is described by its caption.
+  if (qobject_cast<QLabel*>(GetDlgItem(ControlOf(row))) != nullptr) return;
+  for (const int id : ControlsOf(row)) GetDlgItem(id)->setAccessibleDescription(text);
   GreyCaption(ControlOf(row));
 }
 

@@ -162,15 +162,14 @@ CAdvanceDlg* MainWindow::OpenDialog(std::size_t projector) {
   table_->setCurrentCell(static_cast<int>(projector), 0);
   if (entry.dialog == nullptr) {
     entry.dialog = entry.session->MakeDialog();
-    if (!entry.dialog->Create()) {
-      entry.dialog.reset();
-      return nullptr;
-    }
     connect(entry.dialog.get(), &QDialog::finished, this,
             [this, projector] { RetireDialog(projector); });
-    Place(*entry.dialog);
+    // It may be closed while it is read, and another be opened.
+    CAdvanceDlg& made = *entry.dialog;
+    if (!made.CreateShown([this, &made] { Place(made); })) entry.dialog.reset();
   }
   CAdvanceDlg* dialog = entry.dialog.get();
+  if (dialog == nullptr) return nullptr;
   dialog->setWindowState(dialog->windowState() & ~Qt::WindowMinimized);
   dialog->show();
   dialog->raise();
@@ -205,7 +204,11 @@ void MainWindow::DeleteRetired() {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-  // Ends every event loop, also those of messages and pop-ups; the dialogs end with this window.
+  // Nobody waits for a projector any more. Then every event loop ends, also those of messages and
+  // pop-ups; the dialogs end with this window.
+  for (const Entry& entry : entries_) {
+    if (entry.dialog != nullptr) entry.dialog->reject();
+  }
   event->accept();
   QCoreApplication::exit();
 }

@@ -24,7 +24,7 @@ class MainWindow : public QMainWindow {
   ~MainWindow() override;
 
   /// Opens the dialog of a projector or brings the open one to the front. Null when it could not be
-  /// opened; owned by the window.
+  /// opened, or was closed while it was read; owned by the window.
   CAdvanceDlg* OpenDialog(std::size_t projector);
 
   /// The projector's open dialog, or null.

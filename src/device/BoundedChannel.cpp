@@ -39,14 +39,21 @@ bool HasEventLoop() {
 
 }  // namespace
 
+/// One `Execute` that waits; lives on its stack.
+struct Wait {
+  std::optional<PjtReply> reply;
+  bool abandoned = false;
+  QEventLoop* loop = nullptr;  ///< The loop that runs meanwhile, if any.
+};
+
 /// Shared with the worker, which may outlive the channel object by one command.
 struct BoundedChannel::State {
   State(std::shared_ptr<ProjectorChannel> channel, const Limits& bounds)
       : inner(std::move(channel)), limits(bounds) {}
 
   void Work();
-  std::optional<PjtReply> WaitForReply();
-  void RunEventLoop(Clock::time_point deadline);
+  void WakeUp();
+  bool WaitUntil(std::unique_lock<std::mutex>& lock, Wait& wait, auto done);
 
   std::shared_ptr<ProjectorChannel> inner;  ///< The worker's own once there is a worker.
   const Limits limits;
@@ -54,17 +61,25 @@ struct BoundedChannel::State {
 
   std::mutex mutex;
   std::condition_variable commandGiven;
-  std::condition_variable replyGiven;
+  std::condition_variable changed;  ///< For who waits.
   // All below under the mutex.
   std::optional<PjtCommand> command;                 ///< Given, and not yet taken by the worker.
   std::optional<std::vector<PjtCommand>> announced;  ///< Likewise.
-  std::optional<PjtReply> reply;
   bool outstanding = false;  ///< Given, and not yet back from the inner channel.
-  bool awaited = false;      ///< Somebody waits for it.
+  bool abandoned = false;    ///< The outstanding one is waited for by the next command.
   bool ended = false;
-  QEventLoop* loop = nullptr;  ///< The loop that runs while somebody waits.
+  Wait* waiting = nullptr;
+  Wait* recipient = nullptr;  ///< Who gets the reply to the outstanding command; may be nobody.
   Clock::time_point silentUntil{};
 };
+
+void BoundedChannel::State::WakeUp() {
+  if (waiting == nullptr) return;
+  changed.notify_one();
+  if (waiting->loop) {
+    QMetaObject::invokeMethod(waiting->loop, &QEventLoop::quit, Qt::QueuedConnection);
+  }
+}
 
 void BoundedChannel::State::Work() {
   std::unique_lock lock(mutex);
@@ -81,44 +96,30 @@ void BoundedChannel::State::Work() {
     const PjtReply answer = Ask(*inner, reads, taken);
     lock.lock();
     outstanding = false;
-    if (!awaited) continue;
-    reply = answer;
-    replyGiven.notify_one();
-    if (loop) QMetaObject::invokeMethod(loop, &QEventLoop::quit, Qt::QueuedConnection);
+    if (Wait* to = std::exchange(recipient, nullptr)) to->reply = answer;
+    WakeUp();
   }
 }
 
-void BoundedChannel::State::RunEventLoop(Clock::time_point deadline) {
-  QEventLoop eventLoop;
-  {
-    const std::lock_guard lock(mutex);
-    if (reply) return;
-    loop = &eventLoop;
-  }
-  const auto rest = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now());
-  QTimer::singleShot(std::max(rest, std::chrono::milliseconds::zero()), Qt::PreciseTimer,
-                     &eventLoop, &QEventLoop::quit);
-  eventLoop.exec(QEventLoop::ExcludeUserInputEvents);
-  const std::lock_guard lock(mutex);
-  loop = nullptr;
-}
-
-std::optional<PjtReply> BoundedChannel::State::WaitForReply() {
+/// False when the time is over or the wait was abandoned.
+bool BoundedChannel::State::WaitUntil(std::unique_lock<std::mutex>& lock, Wait& wait, auto done) {
   const Clock::time_point deadline = Clock::now() + limits.timeOut;
-  const auto replied = [this] { return reply.has_value(); };
-  std::unique_lock lock(mutex);
-  if (HasEventLoop()) {
-    const Clock::time_point quick = std::min(deadline, Clock::now() + limits.quickAnswer);
-    if (!replyGiven.wait_until(lock, quick, replied)) {
-      lock.unlock();
-      RunEventLoop(deadline);
-      lock.lock();
-    }
+  const auto over = [&] { return wait.abandoned || done(); };
+  if (HasEventLoop() &&
+      !changed.wait_until(lock, std::min(deadline, Clock::now() + limits.quickAnswer), over)) {
+    QEventLoop eventLoop;
+    wait.loop = &eventLoop;
+    lock.unlock();
+    const auto rest = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now());
+    QTimer::singleShot(std::max(rest, std::chrono::milliseconds::zero()), Qt::PreciseTimer,
+                       &eventLoop, &QEventLoop::quit);
+    eventLoop.exec();
+    lock.lock();
+    wait.loop = nullptr;
   }
   // Also where an ending application lets no event loop run.
-  replyGiven.wait_until(lock, deadline, replied);
-  awaited = false;
-  return std::exchange(reply, std::nullopt);
+  changed.wait_until(lock, deadline, over);
+  return !wait.abandoned && done();
 }
 
 BoundedChannel::BoundedChannel(std::shared_ptr<ProjectorChannel> inner, const Limits& limits)
@@ -143,30 +144,53 @@ BoundedChannel::~BoundedChannel() {
 PjtReply BoundedChannel::Execute(const PjtCommand& command) {
   // Events that run while we wait may destroy this object.
   const std::shared_ptr<State> state = state_;
-  {
-    const std::lock_guard lock(state->mutex);
-    if (!state->inner || state->ended || state->outstanding || state->awaited ||
-        Clock::now() < state->silentUntil) {
+  std::unique_lock lock(state->mutex);
+  if (!state->inner || state->ended || state->waiting ||
+      (state->outstanding && !state->abandoned) || Clock::now() < state->silentUntil) {
+    return Unanswered(command);
+  }
+  if (!state->worker.joinable()) {
+    try {
+      state->worker = std::thread([state] { state->Work(); });
+    } catch (const std::system_error&) {
       return Unanswered(command);
     }
-    if (!state->worker.joinable()) {
-      try {
-        state->worker = std::thread([state] { state->Work(); });
-      } catch (const std::system_error&) {
-        return Unanswered(command);
-      }
-    }
+  }
+
+  Wait wait;
+  state->waiting = &wait;
+  const bool free =
+      !state->outstanding || state->WaitUntil(lock, wait, [&] { return !state->outstanding; });
+  if (free && !state->ended) {
     state->command = command;
     state->outstanding = true;
-    state->awaited = true;
+    state->abandoned = false;
+    state->recipient = &wait;
+    state->commandGiven.notify_one();
+    state->WaitUntil(lock, wait, [&] { return wait.reply.has_value(); });
   }
-  state->commandGiven.notify_one();
+  // After an abandoned wait somebody else may be waiting by now.
+  if (state->waiting == &wait) state->waiting = nullptr;
+  if (state->recipient == &wait) state->recipient = nullptr;
+  if (wait.reply && wait.reply->answered) return *wait.reply;
+  if (!wait.abandoned) {
+    state->abandoned = false;
+    state->silentUntil = Clock::now() + state->limits.retryAfter;
+  }
+  return wait.reply.value_or(Unanswered(command));
+}
 
-  const std::optional<PjtReply> reply = state->WaitForReply();
-  if (reply && reply->answered) return *reply;
-  const std::lock_guard lock(state->mutex);
-  state->silentUntil = Clock::now() + state->limits.retryAfter;
-  return reply.value_or(Unanswered(command));
+void BoundedChannel::Abandon() {
+  const std::lock_guard lock(state_->mutex);
+  state_->silentUntil = {};
+  state_->abandoned = true;
+  state_->announced.emplace();
+  Wait* const wait = state_->waiting;
+  if (wait == nullptr) return;
+  wait->abandoned = true;
+  if (state_->recipient == wait) state_->recipient = nullptr;
+  state_->WakeUp();
+  state_->waiting = nullptr;
 }
 
 void BoundedChannel::Announce(std::span<const PjtCommand> reads) {

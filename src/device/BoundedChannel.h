@@ -10,13 +10,17 @@
 /// Puts a bound on how long a command may take, whatever the channel behind it does.
 ///
 /// The inner channel runs on a thread of this object's own. `Execute` waits for it; after a moment
-/// it lets the calling thread's event loop run, without user input, so that windows go on painting.
+/// it lets the calling thread's event loop run, user input included, so that windows go on working.
 /// A command started from inside that loop is refused. A command without an answer in time yields
 /// an unanswered refusal; from then on further commands fail at once, until the retry interval is
 /// over and the outstanding command has come back. So a projector that does not answer costs one
 /// time-out and not one per command.
 ///
-/// What is announced reaches the inner channel together with the next command.
+/// What is announced reaches the inner channel together with the next command, unless it is
+/// abandoned before.
+///
+/// A command that comes after `Abandon` is always tried: it first waits for the outstanding one to
+/// come back, whose reply is dropped, for at most another time-out.
 ///
 /// Destroying the object does not wait for an outstanding command: the inner channel lives on until
 /// that command returns. Unless somebody else holds it, it ends on the thread that it ran on.
@@ -38,6 +42,7 @@ class ADVANCED_CONTROL_EXPORT BoundedChannel : public ProjectorChannel {
   PjtReply Execute(const PjtCommand& command) override;
   void Announce(std::span<const PjtCommand> reads) override;
   ConnectionState Connection() const override;
+  void Abandon() override;
 
  private:
   struct State;

@@ -27,6 +27,14 @@ int KeepList(int count, const int* values, std::vector<std::int32_t>& kept) {
 
 }  // namespace
 
+struct CPjtInterface::Traffic {
+  int waiting = 0;
+  int abandoned = 0;
+  Tally sent;
+};
+
+CPjtInterface::OwnTraffic::OwnTraffic() : now(std::make_shared<Traffic>()) {}
+
 CPjtInterface::CPjtInterface() = default;
 CPjtInterface::~CPjtInterface() = default;
 
@@ -70,15 +78,37 @@ int CPjtInterface::CopyGammaData(int count, const int* values) {
 }
 
 PjtReply CPjtInterface::Execute(const PjtCommand& command) const {
-  // Held for the whole call: whoever runs while the channel waits may give this object another one.
+  // Held for the whole call: whoever runs while the channel waits may give this object another one,
+  // or destroy it.
   const std::shared_ptr<ProjectorChannel> channel = channel_;
-  const PjtReply unanswered{.result = RefusedResult(command.operation), .answered = false};
-  if (!channel || cutOff_) return unanswered;
-  try {
-    return channel->Execute(command);
-  } catch (...) {  // a host's channel may do anything; the dialog's handlers know no exceptions
-    return unanswered;
+  const std::shared_ptr<Traffic> traffic = traffic_.now;
+  PjtReply reply{.result = RefusedResult(command.operation), .answered = false};
+  if (channel && !cutOff_ && traffic->abandoned == 0) {
+    ++traffic->waiting;
+    try {
+      reply = channel->Execute(command);
+    } catch (...) {  // a host's channel may do anything; the dialog's handlers know no exceptions
+    }
+    --traffic->waiting;
   }
+  ++traffic->sent.commands;
+  traffic->sent.unanswered += !reply.answered;
+  traffic->sent.refused += reply.answered && reply.result == RefusedResult(command.operation);
+  return reply;
+}
+
+void CPjtInterface::Abandon() {
+  ++traffic_.now->abandoned;
+  if (IsWaiting() && channel_) channel_->Abandon();
+}
+
+void CPjtInterface::Resume() { --traffic_.now->abandoned; }
+bool CPjtInterface::IsAbandoned() const { return traffic_.now->abandoned > 0; }
+bool CPjtInterface::IsWaiting() const { return traffic_.now->waiting > 0; }
+CPjtInterface::Tally CPjtInterface::Sent() const { return traffic_.now->sent; }
+
+void CPjtInterface::TryAfresh() {
+  if (channel_) channel_->Abandon();
 }
 
 void CPjtInterface::Announce(std::span<const PjtCommand> reads) const {

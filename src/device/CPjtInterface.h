@@ -133,13 +133,46 @@ class ADVANCED_CONTROL_EXPORT CPjtInterface {
   /// Tells the channel which reads are about to follow, in this order.
   void Announce(std::span<const PjtCommand> reads) const;
 
+  /// Gives up what is under way: the command that waits ends at once, and until as many calls of
+  /// `Resume` every command is unanswered without being sent. Called from inside the event loop of
+  /// a command that waits.
+  void Abandon();
+  void Resume();
+  bool IsAbandoned() const;
+  /// Whether a command of this object is under way.
+  bool IsWaiting() const;
+
+  /// The next command is tried, also where the channel spares a projector that was silent.
+  void TryAfresh();
+
+  /// What became of the commands so far; each number only grows.
+  struct Tally {
+    int commands = 0;
+    int refused = 0;
+    int unanswered = 0;
+  };
+  Tally Sent() const;
+
  private:
+  /// What is under way belongs to one object: a copy starts with none of it, and assignment leaves
+  /// it. Shared with the commands under way, which may outlive the object.
+  struct Traffic;
+  class OwnTraffic {
+   public:
+    OwnTraffic();
+    OwnTraffic(const OwnTraffic&) : OwnTraffic() {}
+    OwnTraffic& operator=(const OwnTraffic&) { return *this; }
+    ~OwnTraffic() = default;
+    std::shared_ptr<Traffic> now;
+  };
+
   int ExecuteInto(const PjtCommand& command, short* value) const;
   short ExecuteFor(const PjtCommand& command, short otherwise) const;
 
   std::shared_ptr<ProjectorChannel> channel_;
   bool isHosts_ = false;
   bool cutOff_ = false;
+  OwnTraffic traffic_;
   int connectionKind_ = 0;
   int connectionNumber_ = 0;
   int connectionParameter_ = 0;

@@ -41,4 +41,10 @@ class ADVANCED_CONTROL_EXPORT ProjectorChannel {
 
   /// How the connection stands; of a channel that has none, `ConnectionState::None`.
   virtual ConnectionState Connection() const { return ConnectionState::None; }
+
+  /// Nobody waits for the projector any more. An `Execute` that lets an event loop run ends at
+  /// once, unanswered; the reply to its command is dropped. A channel that spares a silent
+  /// projector forgets that it was silent. Called on the thread of `Execute`, from inside its event
+  /// loop or between two commands.
+  virtual void Abandon() {}
 };

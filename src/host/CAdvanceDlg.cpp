@@ -12,10 +12,13 @@
 #include <QShortcut>
 #include <QStyleOptionTabWidgetFrame>
 #include <QStylePainter>
+#include <QTimer>
 
 #include "device/ModelDataIntake.h"
+#include "host/StatusLine.h"
 #include "i18n/LocalizeControlTexts.h"
 #include "pages/TablePages.h"
+#include "pages/common/WaitWatch.h"
 #include "pages/input/CInputTabDlg.h"
 #include "pages/input/CInputType5Dlg.h"
 #include "pages/input/COption5TabDlg.h"
@@ -106,7 +109,16 @@ auto MakeAllPages(CWnd* dialog) {
 }  // namespace
 
 CAdvanceDlg::CAdvanceDlg(CWnd* parent)
-    : CDialog(TemplateId::Advance, parent), pages_(new Pages{MakeAllPages(this)}) {
+    : CDialog(TemplateId::Advance, parent),
+      pages_(new Pages{MakeAllPages(this)}),
+      status_(new StatusLine(this)),
+      watch_(new WaitWatch([this] { return projector_.IsWaiting(); },
+                           [this](bool waiting) { ShowWaiting(waiting); })) {
+  connect(status_, &StatusLine::Retry, this, [this] {
+    status_->ShowProgress({});
+    projector_.TryAfresh();
+    DispTabScreen();
+  });
   const auto addShortcut = [this](const QKeySequence& keys, int step) {
     connect(new QShortcut(keys, this), &QShortcut::activated, this,
             [this, step] { SelectNeighbourTab(step); });
@@ -205,6 +217,7 @@ bool CAdvanceDlg::OnInitDialog() {
   SetTitle();
   FitToPages();
   OrderFocus();
+  ShowUnread();
   DispTabScreen();
   return true;
 }
@@ -269,28 +282,73 @@ void CAdvanceDlg::OrderFocus() {
       }
     }
   }
-  setTabOrder(last, GetDlgItem(kCloseId));
+  setTabOrder(last, status_->RetryButton());
+  setTabOrder(status_->RetryButton(), GetDlgItem(kCloseId));
 }
 
 void CAdvanceDlg::DispTabScreen() {
-  // Reading waits for the projector; a tab changed meanwhile is shown afterwards.
-  if (reading_) {
-    tabChanged_ = true;
+  ShowSelectedPage();
+  if (reading_ || projector_.IsWaiting()) {
+    readsAgain_ = true;
+    if (!HasPopUp()) Leave();
     return;
   }
   const Busy busy(this);
   const QScopedValueRollback reading(reading_, true);
   do {
-    tabChanged_ = false;
-    for (const auto& page : pages_->byId) {
-      if (page->Template() != nullptr) page->hide();
-    }
-    shownPage_ = SelectedPage();
+    readsAgain_ = false;
+    Return();
+    sentBefore_ = projector_.Sent();
     if (shownPage_ == nullptr) continue;
-    shownPage_->show();
-    shownPage_->InitDisp();
+    shownPage_->ReadPage();
     if (shownPage_->layout() != nullptr) shownPage_->layout()->activate();
-  } while (tabChanged_);
+  } while (readsAgain_ && IsCreated());
+}
+
+void CAdvanceDlg::ShowSelectedPage() {
+  for (const auto& page : pages_->byId) {
+    if (page->Template() != nullptr) page->hide();
+  }
+  shownPage_ = SelectedPage();
+  if (shownPage_ == nullptr) return;
+  shownPage_->MarkUnread();
+  shownPage_->show();
+}
+
+void CAdvanceDlg::OnBusy() {
+  sentBefore_ = projector_.Sent();
+  watch_->Start();
+}
+
+void CAdvanceDlg::OnIdle() {
+  watch_->Stop();
+  const bool readsAgain = std::exchange(readsAgain_, false);
+  if (readsAgain && IsCreated()) {
+    QTimer::singleShot(0, this, [this] {
+      if (IsCreated()) DispTabScreen();
+    });
+  }
+  const CPjtInterface::Tally sent = projector_.Sent();
+  if (IsLeft() || sent.commands == sentBefore_.commands) return;
+  if (sent.unanswered > sentBefore_.unanswered) {
+    status_->ShowNoAnswer(projector_.Connection());
+  } else {
+    status_->ShowProgress({});
+  }
+}
+
+void CAdvanceDlg::ShowWaiting(bool waiting) {
+  for (const auto& page : pages_->byId) {
+    if (page->Template() != nullptr) page->ShowWaiting(waiting && page.get() == shownPage_);
+  }
+  QString text;
+  if (waiting) {
+    const auto reading = shownPage_ != nullptr ? shownPage_->ReadingProgress() : std::nullopt;
+    text = reading ? CatalogString(kListCategory, ListText::Reading,
+                                   std::int64_t{reading->done + 1}, std::int64_t{reading->total})
+                   : CatalogString(kListCategory, ListText::Waiting);
+  }
+  status_->ShowProgress(text);
 }
 
 CTabPage* CAdvanceDlg::SelectedPage() const {
@@ -340,6 +398,7 @@ void CAdvanceDlg::resizeEvent(QResizeEvent* event) {
   const QSize button = close->sizeHint().expandedTo(QSize(90, 0));
   close->setGeometry(width() - kMargin - button.width(), height() - kMargin - button.height(),
                      button.width(), button.height());
+  status_->setGeometry(kMargin, close->y(), close->x() - 2 * kMargin, close->height());
 }
 
 void CAdvanceDlg::paintEvent(QPaintEvent* event) {

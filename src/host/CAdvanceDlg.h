@@ -17,13 +17,15 @@
 class CTabCtrl;
 class CTabPage;
 class ResourceModule;
+class StatusLine;
+class WaitWatch;
 
 /// The "Advanced Control" dialog of one projector: a tab per group of settings, each read live and
 /// changed at once.
 ///
 /// Use: construct, hand over the model with one of the `CopyData` forms, give `Projector()` the
-/// channel to the projector, then `DoModal`, or `Create` and `show` for a dialog beside the host's
-/// other windows. The dialog keeps its own copy of all it is given and
+/// channel to the projector, then `DoModal`, or `CreateShown` for a dialog beside the host's other
+/// windows. The dialog keeps its own copy of all it is given and
 /// talks to the projector from the thread it lives on, the user-interface thread.
 class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSource {
   Q_OBJECT
@@ -80,7 +82,8 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
 
   /// Configures the connection, creates the pages and inserts the tabs.
   bool OnInitDialog() override;
-  /// Shows the page of the selected tab, read afresh, and hides all others.
+  /// Shows the page of the selected tab, read afresh, and hides all others. While a command waits,
+  /// what sent it is abandoned, and the page is read as soon as that has ended.
   void DispTabScreen();
   /// Another tab was selected.
   void OnSelchangeAdvanceTab();
@@ -98,6 +101,11 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
   void DoDataExchange() override;
   /// Takes the channel away until the dialog is created again.
   void OnOrphaned() override;
+  void OnBusy() override;
+  void OnIdle() override;
+  void OnLeave() override { projector_.Abandon(); }
+  void OnReturn() override { projector_.Resume(); }
+  void OnStale() override { readsAgain_ = true; }
   void resizeEvent(QResizeEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
@@ -109,6 +117,8 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
   void InsertTabs();
   void SetTitle();
   CTabPage* SelectedPage() const;
+  void ShowSelectedPage();
+  void ShowWaiting(bool waiting);
   void FitToPages();
   void OrderFocus();
   void SelectNeighbourTab(int step);
@@ -120,6 +130,9 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
   bool hostOption_ = false;
   CTabCtrl* tabs_ = nullptr;
   CTabPage* shownPage_ = nullptr;
-  bool reading_ = false;     // a page is being read
-  bool tabChanged_ = false;  // while it was
+  StatusLine* status_;
+  std::unique_ptr<WaitWatch> watch_;
+  CPjtInterface::Tally sentBefore_;  // before the first of the running handlers
+  bool reading_ = false;             // a page is being read
+  bool readsAgain_ = false;          // the shown page is to be read when what runs has ended
 };

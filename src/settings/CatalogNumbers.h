@@ -237,6 +237,25 @@ inline constexpr int PositionBottom = 4206;
 inline constexpr int MenuColorGray = 4207;
 inline constexpr int MenuColorGreen = 4208;
 inline constexpr int AllRemoteIds = 4209;
+
+// What the dialog says while it waits for the projector, and about rows.
+inline constexpr int Reading = 4300;  // %1 of %2 (integers)
+inline constexpr int Waiting = 4301;
+inline constexpr int NoAnswer = 4302;
+inline constexpr int ReadRefused = 4303;
+inline constexpr int ReadUnanswered = 4304;
+inline constexpr int NoEntries = 4305;
+inline constexpr int RangeNote = 4306;  // %1 to %2 (integers)
+inline constexpr int Retry = 4307;
+
+// Why the projector did not answer.
+inline constexpr int WrongParameters = 4310;
+inline constexpr int AddressUnknown = 4311;
+inline constexpr int NotReachable = 4312;
+inline constexpr int ConnectionLost = 4313;
+inline constexpr int NotUnderstood = 4314;
+inline constexpr int OtherVersion = 4315;
+inline constexpr int PasswordRequired = 4316;
 }  // namespace ListText
 
 namespace ErrorText {

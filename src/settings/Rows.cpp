@@ -42,6 +42,12 @@ int ControlOf(const PageRow& row) {
       row);
 }
 
+int ListBeside(const PageRow& row) {
+  if (const auto* action = std::get_if<ActionRow>(&row)) return action->list;
+  const auto* reset = std::get_if<ResetRow>(&row);
+  return reset != nullptr ? reset->list : 0;
+}
+
 const PageRow& FindRow(const PageTable& table, int control) {
   return *std::ranges::find(table.rows, control, ControlOf);
 }

@@ -176,6 +176,8 @@ struct PageTable {
 /// Key, and the control by which a row is found in its template.
 ADVANCED_CONTROL_EXPORT std::string_view KeyOf(const PageRow& row);
 ADVANCED_CONTROL_EXPORT int ControlOf(const PageRow& row);
+/// The list beside an action's button, or 0.
+ADVANCED_CONTROL_EXPORT int ListBeside(const PageRow& row);
 
 /// The row that is found by a control, which the table must have.
 ADVANCED_CONTROL_EXPORT const PageRow& FindRow(const PageTable& table, int control);

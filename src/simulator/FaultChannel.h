@@ -48,6 +48,7 @@ class ADVANCED_CONTROL_EXPORT FaultChannel : public ProjectorChannel {
   PjtReply Execute(const PjtCommand& command) override;
   void Announce(std::span<const PjtCommand> reads) override { inner_->Announce(reads); }
   ConnectionState Connection() const override { return inner_->Connection(); }
+  void Abandon() override { inner_->Abandon(); }
 
  private:
   Fault FaultOf(const PjtCommand& command) const;

@@ -4,7 +4,6 @@
 #include <functional>
 #include <utility>
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QFontMetrics>
 #include <QGridLayout>
@@ -12,7 +11,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTabBar>
-#include <QWindow>
 
 #include "toolkit/CComboBox.h"
 #include "toolkit/CSliderCtrl.h"
@@ -31,12 +29,6 @@ bool Has(const DialogTemplate& dialog, auto predicate) {
 bool HoldsTab(const RowTemplate& row) {
   return std::ranges::any_of(row.controls,
                              [](const auto& control) { return control.kind == ControlKind::Tab; });
-}
-
-// Top-level dialogs that are created and not closed yet, oldest first.
-std::vector<CDialog*>& OpenDialogs() {
-  static std::vector<CDialog*> dialogs;
-  return dialogs;
 }
 
 struct Block {
@@ -99,13 +91,14 @@ bool CDialog::Create() {
   // A dialog may be run again; the controls of its last run may have been in use until it closed.
   for (const auto& [id, control] : std::exchange(controls_, {})) delete control;
   rows_.clear();
+  waysOut_.clear();
   delete layout();
 
   template_ = ResourceChain::FindDialog(templateNumber_);
   if (template_ == nullptr) return false;
   const Busy busy(this);
   created_ = true;
-  if (isWindow()) OpenDialogs().push_back(this);
+  if (isWindow()) Windows().push_back(this);
   orphaned_ = false;
   WatchOwner();
   BuildControls();
@@ -117,112 +110,27 @@ bool CDialog::Create() {
   return true;
 }
 
-int CDialog::DoModal() {
-  const QPointer<CDialog> self(this);
-  if (parentWidget() == nullptr) AdoptOwner();
-  const Busy ownerBusy(Owner());
-  setWindowModality(Owner() != nullptr ? Qt::WindowModal : Qt::ApplicationModal);
-  if (!Create()) return -1;
-  int result = Rejected;
-  if (created_) {  // unless it was closed while its first page was read
-    if (parentWidget() == nullptr && owner_ != nullptr) {
-      winId();  // a window of its own is needed to stay above the owner
-      windowHandle()->setTransientParent(owner_->window()->windowHandle());
-      adjustSize();
-      move(owner_->window()->frameGeometry().center() - rect().center());
-    }
-    result = exec();
-  }
-  if (self == nullptr) return Rejected;
-  owner_.clear();
-  if (parentWidget() == nullptr) disconnect(ownerDies_);
-  hide();
-  Destroy();  // the event loop may also have ended in other ways than by closing the dialog
-  return result;
-}
-
-// The dialog that the user works on runs the one without a parent. It becomes no parent: this one
-// is its creator's and must not die with it.
-void CDialog::AdoptOwner() {
-  const auto& open = OpenDialogs();
-  QWidget* active = QApplication::activeWindow();
-  const auto isActive = [active](const CDialog* dialog) { return dialog == active; };
-  const auto isVisible = [](const CDialog* dialog) { return dialog->isVisible(); };
-  if (std::ranges::none_of(open, isActive)) {
-    const auto newest = std::find_if(open.rbegin(), open.rend(), isVisible);
-    if (newest != open.rend()) active = *newest;
-  }
-  // The list of one of this dialog's own controls may still be the active window.
-  const QObject* part = active;
-  while (part != nullptr && part != this) part = part->parent();
-  owner_ = part == nullptr ? active : nullptr;
-}
-
-void CDialog::WatchOwner() {
-  disconnect(ownerDies_);
-  if (!isWindow() || Owner() == nullptr) return;
-  ownerDies_ = connect(Owner(), &QObject::destroyed, this, &CDialog::OnOwnerDying);
-}
-
-// Comes before the owner deletes its children.
-void CDialog::OnOwnerDying() {
-  if (!isWindow()) return;
-  if (parentWidget() != nullptr) {
-    if (onHeap_ && busy_ == 0) return;  // deleted as any child
-    deletionWaits_ = deletionWaits_ || onHeap_;
-    EndOrphaned();
-    setParent(nullptr, windowFlags());
-  } else {
-    EndOrphaned();
-  }
-}
-
-// Emits nothing: its listeners may be parts of the owner.
-void CDialog::EndOrphaned() {
-  if (std::exchange(orphaned_, true)) return;
-  OnOrphaned();
-  for (CDialog* dialog : std::vector(OpenDialogs())) {
-    if (dialog != this && dialog->Owner() != nullptr && dialog->Owner()->window() == this) {
-      dialog->EndOrphaned();
-    }
-  }
-  for (QDialog* box : findChildren<QDialog*>()) {
-    if (box->isWindow()) box->hide();
-  }
-  hide();
-  Destroy();
-}
-
-bool CDialog::IsOrphaned() const {
-  const auto* top = qobject_cast<const CDialog*>(window());
-  return top != nullptr && top->orphaned_;
-}
-
-CDialog::Busy::Busy(const QWidget* dialog)
-    : top_(dialog != nullptr ? qobject_cast<CDialog*>(dialog->window()) : nullptr) {
-  if (top_ != nullptr) ++top_->busy_;
-}
-
-CDialog::Busy::~Busy() {
-  if (top_ == nullptr || --top_->busy_ > 0 || !top_->deletionWaits_) return;
-  // The dialog's own deferred deletion may be used up.
-  auto* last = new QObject;  // NOLINT(bugprone-unhandled-exception-at-new): Qt ends without memory
-  QObject::connect(last, &QObject::destroyed, [dialog = QPointer(top_)] { delete dialog; });
-  last->deleteLater();
-}
-
-bool CDialog::event(QEvent* event) {
-  if (event->type() == QEvent::DeferredDelete && busy_ > 0) {
-    deletionWaits_ = true;
-    return true;
-  }
-  if (event->type() == QEvent::ParentChange && created_) WatchOwner();
-  return QDialog::event(event);
-}
-
 void CDialog::RunHandler(const Notification& entry, CSliderCtrl* slider) {
+  auto* top = qobject_cast<CDialog*>(window());
+  const auto* button = qobject_cast<const QAbstractButton*>(GetDlgItem(entry.id));
+  if (top != nullptr && top->busy_ > 0 && std::ranges::count(waysOut_, GetDlgItem(entry.id)) == 0) {
+    if (button == nullptr || button->isCheckable()) top->OnStale();
+    return;
+  }
   const Busy busy(this);
   entry.handle(*this, slider);
+}
+
+// Whether a control of a busy dialog, or a part of it, takes input.
+bool CDialog::Takes(const QWidget& target) const {
+  const QWidget* part = &target;
+  for (const QWidget* up = part; up != nullptr && up != this; up = up->parentWidget()) {
+    if (qobject_cast<const CDialog*>(up) != nullptr) return false;  // of a page
+    part = up;
+  }
+  const bool isControl = std::ranges::any_of(
+      controls_, [part](const auto& control) { return control.second == part; });
+  return !isControl || std::ranges::count(waysOut_, part) > 0;
 }
 
 QWidget* CDialog::GetDlgItem(int id) const {
@@ -248,6 +156,26 @@ void CDialog::ShowRow(int id, bool present) {
   row->present = present;
   for (QWidget* control : row->controls) control->setVisible(present);
   if (row->grid != nullptr) row->grid->setRowMinimumHeight(row->gridRow, present ? pitch_ : 0);
+}
+
+QRect CDialog::RowRect(int id) {
+  QRect rect;
+  if (const PlacedRow* row = RowOf(id); row != nullptr) {
+    for (const QWidget* control : row->controls) rect = rect.united(control->geometry());
+  }
+  return rect;
+}
+
+void CDialog::GreyCaption(int id) {
+  const PlacedRow* row = RowOf(id);
+  if (row == nullptr) return;
+  const auto isLabel = [](const QWidget* control) { return qobject_cast<const QLabel*>(control); };
+  const bool operable = std::ranges::any_of(row->controls, [&](const QWidget* control) {
+    return !isLabel(control) && control->isEnabledTo(this);
+  });
+  for (QWidget* control : row->controls) {
+    if (isLabel(control)) control->setEnabled(operable);
+  }
 }
 
 void CDialog::ShowNotice(const QString& text) {
@@ -305,6 +233,9 @@ void CDialog::BuildControls() {
       QWidget* widget = MakeControl(control, this);
       placed.controls.push_back(widget);
       controls_[control.id] = widget;
+      if (control.kind == ControlKind::Close || control.kind == ControlKind::Tab) {
+        waysOut_.push_back(widget);
+      }
       if (control.kind == ControlKind::Close && !Notifications().Names(control.id)) {
         connect(static_cast<QPushButton*>(widget), &QPushButton::clicked, this, &QDialog::accept);
       }
@@ -421,18 +352,6 @@ void CDialog::setVisible(bool visible) {
   } else {
     QWidget::setVisible(visible);  // NOLINT(bugprone-parent-virtual-call)
   }
-}
-
-void CDialog::done(int result) {
-  if (!isWindow()) return;
-  QDialog::done(result);
-  Destroy();
-}
-
-void CDialog::Destroy() {
-  if (!std::exchange(created_, false) || !isWindow()) return;
-  std::erase(OpenDialogs(), this);
-  OnDestroy();
 }
 
 void CDialog::keyPressEvent(QKeyEvent* event) {

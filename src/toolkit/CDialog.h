@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <new>
 #include <unordered_map>
 #include <vector>
@@ -23,6 +24,10 @@ class QGridLayout;
 /// returned; its owner may die in any way. The dialog then leaves its owner and ends, together with
 /// its pop-ups and message boxes, and is deleted after the handler if it was made with `new`. It
 /// must not be deleted itself (`delete dialog`, or as a member of the owner).
+///
+/// While a handler runs, what the user does to the dialog's controls is dropped; only the ways out
+/// act: tabs, Close, Esc, the window's own button. What any other control reports then is not
+/// handled either.
 class ADVANCED_CONTROL_EXPORT CDialog : public QDialog {
   Q_OBJECT
 
@@ -44,9 +49,14 @@ class ADVANCED_CONTROL_EXPORT CDialog : public QDialog {
   /// when no module of the resource chain has the template; the dialog then stays empty.
   bool Create();
 
+  /// The same for a dialog beside the host's other windows: on screen before its first read waits
+  /// for the projector. `place` runs when the dialog has its size and is not on screen yet.
+  bool CreateShown(const std::function<void()>& place = {});
+
   /// Creates, shows and runs the dialog until it is closed; QDialog::Accepted or Rejected, or −1
-  /// when it could not be created. While it runs, its owner takes no input. The death of the
-  /// dialog or of its owner ends the run as Rejected.
+  /// when it could not be created. It is on screen before its first read waits for the projector.
+  /// While it runs, its owner takes no input. The death of the dialog, and the closing or death of
+  /// its owner, end the run as Rejected.
   int DoModal();
 
   /// The parent, or the window that a running dialog without a parent belongs to; may be null.
@@ -85,7 +95,8 @@ class ADVANCED_CONTROL_EXPORT CDialog : public QDialog {
   void setVisible(bool visible) override;
   void done(int result) override;
 
-  /// Holds back the deletion of `dialog`'s top-level dialog while it lives.
+  /// A handler of `dialog`'s top-level dialog runs: while this lives, the dialog is not deleted and
+  /// its controls take no input.
   class Busy {
    public:
     explicit Busy(const QWidget* dialog);
@@ -108,6 +119,39 @@ class ADVANCED_CONTROL_EXPORT CDialog : public QDialog {
   /// The owner died while the dialog was open: from now on nothing may be sent. Handlers may still
   /// be running.
   virtual void OnOrphaned() {}
+
+  /// The first handler begins, and the last one has returned.
+  virtual void OnBusy() {}
+  virtual void OnIdle() {}
+
+  /// The user leaves what the running handlers do: they are to end at once, send nothing more and
+  /// change nothing. `OnReturn` says that they are gone.
+  virtual void OnLeave() {}
+  virtual void OnReturn() {}
+
+  /// A control has changed by itself and its handler could not run: it may show what is not so.
+  virtual void OnStale() {}
+
+  /// Leaves the running handlers, if any; they are gone when the last one returns, or when the one
+  /// that knows them gone says so with `Return`.
+  void Leave();
+  void Return();
+  bool IsLeft() const { return left_; }
+
+  /// Between `Create` and closing.
+  bool IsCreated() const { return created_; }
+  /// Whether a modal dialog of this one is open.
+  bool HasPopUp() const;
+
+  /// Called by `OnInitDialog` when all is there but what is read from the projector: brings a
+  /// dialog on screen that is to be seen before it is read.
+  void ShowUnread();
+
+  /// Where the row of a control is, from its first control to its last.
+  QRect RowRect(int id);
+
+  /// Greys the captions of a control's row where no control of it can be operated.
+  void GreyCaption(int id);
 
   /// Runs `OnDestroy` if the dialog is created and it has not run yet. A class that overrides
   /// `OnDestroy` calls this in its destructor.
@@ -133,7 +177,15 @@ class ADVANCED_CONTROL_EXPORT CDialog : public QDialog {
     std::vector<QWidget*> controls;
   };
 
+  friend class InputGate;
+
+  /// Top-level dialogs between `Create` and closing, oldest first.
+  static std::vector<CDialog*>& Windows();
+
   [[noreturn]] void NoSuchControl(int id) const;
+  bool Takes(const QWidget& target) const;
+  void ClosePopUps();
+  void CenterOnOwner();
   void RunHandler(const Notification& entry, CSliderCtrl* slider);
   void AdoptOwner();
   void WatchOwner();
@@ -150,10 +202,13 @@ class ADVANCED_CONTROL_EXPORT CDialog : public QDialog {
   bool created_ = false;
   bool orphaned_ = false;
   int busy_ = 0;
+  bool left_ = false;
+  std::function<void()> showUnread_;
   bool deletionWaits_ = false;
   QPointer<QWidget> owner_;
   QMetaObject::Connection ownerDies_;
   int pitch_ = 0;  // of the present rows, in pixels
   std::unordered_map<int, QWidget*> controls_;
+  std::vector<const QWidget*> waysOut_;  // tabs and Close
   std::vector<PlacedRow> rows_;
 };

@@ -6,11 +6,22 @@
 #include <QEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QStyle>
+#include <QStyleOptionSlider>
 #include <QWheelEvent>
+
+#include "toolkit/DragBubble.h"
 
 CSliderCtrl::CSliderCtrl(QWidget* parent) : QSlider(Qt::Horizontal, parent) {
   setFocusPolicy(Qt::StrongFocus);
   setTickPosition(QSlider::TicksBelow);
+  AttachDragBubble(*this);
+}
+
+QRect CSliderCtrl::HandleRect() const {
+  QStyleOptionSlider option;
+  initStyleOption(&option);
+  return style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, this);
 }
 
 void CSliderCtrl::SetRange(int minimum, int maximum, int tickFrequency) {

@@ -15,6 +15,9 @@ class CSliderCtrl : public QSlider {
   /// Sets range and tick distance (at least 1); the position is kept inside the range.
   void SetRange(int minimum, int maximum, int tickFrequency);
 
+  /// Where the handle is, in the slider's coordinates.
+  QRect HandleRect() const;
+
  Q_SIGNALS:
   void EndScroll();
 

@@ -15,6 +15,8 @@
 namespace {
 
 constexpr int kSliderMinimumWidth = 150;
+constexpr int kRepeatDelay = 400;    // milliseconds
+constexpr int kRepeatInterval = 80;
 
 int SmallButtonWidth(const QWidget& widget) { return widget.fontMetrics().height() * 2; }
 
@@ -27,6 +29,10 @@ QPushButton* MakeButton(const QString& caption, QWidget* parent) {
 
 QPushButton* MakeSmallButton(const QString& caption, QWidget* parent) {
   QPushButton* button = MakeButton(caption, parent);
+  // Held down it steps on; what comes while a step waits for the projector is dropped.
+  button->setAutoRepeat(true);
+  button->setAutoRepeatDelay(kRepeatDelay);
+  button->setAutoRepeatInterval(kRepeatInterval);
   button->setFixedWidth(SmallButtonWidth(*button));
   return button;
 }

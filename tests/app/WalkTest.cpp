@@ -1,6 +1,6 @@
 // A random walk over the whole program: its window, the fault panel, its dialogs, and dialogs of
-// other owners that die at any time, also while a command waits. It ends in the middle of a
-// time-out. The sanitizers tell what is touched too late. WALK_SEED gives another walk,
+// other owners that die at any time, also while a command waits; so do input and tab changes. Then
+// every dialog must show what is so. It ends in the middle of a time-out. The sanitizers tell what is touched too late. WALK_SEED gives another walk,
 // WALK_ACTIONS a longer one.
 
 #include <algorithm>
@@ -63,6 +63,7 @@ class Walk {
   int opened = 0;
   int died = 0;
   int diedInMidCommand = 0;
+  int checked = 0;
 
  private:
   struct Foreign {
@@ -78,7 +79,7 @@ class Walk {
 
   // The next step is on its way before this one: it may come in an event loop inside this one.
   void Step() {
-    if (done_ == actions_) return Quit();
+    if (done_ == actions_) return Settle();
     ++done_;
     QTimer::singleShot(3ms, qApp, [this] { Step(); });
     ++depth_;
@@ -100,12 +101,16 @@ class Walk {
     if (dialogs.empty()) return Open();
     CAdvanceDlg& dialog =
         *dialogs[static_cast<std::size_t>(Pick(static_cast<int>(dialogs.size())))];
+    auto* tabs = dialog.findChild<QTabBar*>();
+    const int tab = Pick(tabs->count());
     if (choice == 7) {
-      dialog.close();
+      if (Pick(2) == 0) dialog.close();
+      else QTest::keyClick(&dialog, Qt::Key_Escape);
+    } else if (choice == 8) {
+      tabs->setCurrentIndex(tab);
     } else if (choice < 11) {
-      auto* tabs = dialog.findChild<QTabBar*>();
-      tabs->setCurrentIndex(Pick(tabs->count()));
-    } else if (depth_ == 1) {  // no user input while a command waits
+      QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(tab).center());
+    } else {
       Use(*dialog.ShownPage());
     }
   }
@@ -195,10 +200,61 @@ class Walk {
     static constexpr Qt::Key keys[] = {Qt::Key_Up, Qt::Key_Down, Qt::Key_Home, Qt::Key_End};
     QWidget* control = Any(usable);
     if (auto* button = qobject_cast<QAbstractButton*>(control)) {
-      button->click();
+      if (Pick(2) == 0) button->click();  // as a screen reader does
+      else QTest::mouseClick(button, Qt::LeftButton);
     } else {
       QTest::keyClick(control, keys[Pick(std::size(keys))]);
     }
+  }
+
+  void Settle() {
+    SetFaults({});
+    for (auto* button : window_->findChildren<QAbstractButton*>()) {
+      if (button->text() == QLatin1String("Remove &All")) button->click();
+    }
+    while (auto* modal = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+      modal->done(QDialog::Rejected);
+    }
+    QTimer::singleShot(500ms, qApp, [this] {
+      for (const Foreign& foreign : foreign_) {
+        if (foreign.dialog != nullptr && foreign.dialog->isVisible()) ExpectTrue(*foreign.dialog);
+      }
+      Quit();
+    });
+  }
+
+  // Against a dialog that has just been opened on the same projector.
+  void ExpectTrue(CAdvanceDlg& shown) {
+    const auto session = std::ranges::find_if(sessions_, [&shown](const auto& candidate) {
+      return candidate->Profile().Model.DialogType == shown.Model().DialogType;
+    });
+    shown.Projector().TryAfresh();
+    shown.DispTabScreen();
+    const auto fresh = (*session)->MakeDialog();
+    ASSERT_TRUE(fresh->Create());
+    auto* tabs = fresh->findChild<QTabBar*>();
+    tabs->setCurrentIndex(shown.findChild<QTabBar*>()->currentIndex());
+    EXPECT_EQ(Look(*shown.ShownPage()), Look(*fresh->ShownPage()));
+    ++checked;
+  }
+
+  static std::vector<int> Look(const CTabPage& page) {
+    std::vector<int> look{page.TemplateNumber()};
+    for (const RowTemplate& row : page.Template()->rows) {
+      for (const ControlTemplate& control : row.controls) {
+        const QWidget* widget = page.GetDlgItem(control.id);
+        if (widget == nullptr || !widget->isVisibleTo(&page)) continue;
+        look.push_back(widget->isEnabledTo(&page));
+        if (const auto* list = qobject_cast<const QComboBox*>(widget)) {
+          if (list->isEnabled()) look.push_back(list->currentIndex());
+        } else if (const auto* slider = qobject_cast<const QSlider*>(widget)) {
+          look.push_back(slider->value());
+        } else if (const auto* button = qobject_cast<const QAbstractButton*>(widget)) {
+          look.push_back(button->isChecked());
+        }
+      }
+    }
+    return look;
   }
 
   // In the middle of a time-out.
@@ -225,6 +281,7 @@ TEST(RandomWalk, OverTheWholeProgramLeavesNothingBehind) {
     EXPECT_GT(walk.opened, 10);
     EXPECT_GT(walk.died, 10);
     EXPECT_GT(walk.diedInMidCommand, 2);
+    EXPECT_GT(walk.checked, 0);
   }
   EXPECT_TRUE(QTest::qWaitFor([] {
     return std::ranges::none_of(QApplication::topLevelWidgets(), [](const QWidget* widget) {

@@ -24,10 +24,10 @@ class Gate final : public ProjectorChannel {
  public:
   PjtReply Execute(const PjtCommand&) override {
     std::unique_lock lock(mutex_);
-    ++executed;
+    const int number = ++executed;
     changed_.wait(lock, [this] { return open_; });
     ++returned;
-    return {.result = 1, .value = 7, .answered = answered};
+    return {.result = 1, .value = static_cast<short>(number), .answered = answered};
   }
 
   void Open(bool open) {
@@ -64,11 +64,11 @@ class BoundedChannelTest : public testing::Test {
 };
 
 TEST_F(BoundedChannelTest, PassesAnswersOn) {
-  for (int i = 0; i < 3; ++i) {
+  for (int i = 1; i <= 3; ++i) {
     const PjtReply reply = channel_.Execute(kCommand);
     EXPECT_TRUE(reply.answered);
     EXPECT_EQ(reply.result, 1);
-    EXPECT_EQ(reply.value, 7);
+    EXPECT_EQ(reply.value, i);
   }
 }
 
@@ -100,6 +100,32 @@ TEST_F(BoundedChannelTest, ALostCommandStartsTheRetryIntervalToo) {
   EXPECT_EQ(gate_->executed, 1);
   std::this_thread::sleep_for(310ms);
   EXPECT_TRUE(channel_.Execute(kCommand).answered);
+}
+
+TEST_F(BoundedChannelTest, AbandoningEndsTheWaitAndTheNextCommandIsTried) {
+  BoundedChannel patient(gate_, {.timeOut = 1s, .retryAfter = 1h});
+  for (const bool twice : {false, true}) {
+    gate_->executed = 0;
+    gate_->Open(false);
+    const auto start = Clock::now();
+    for (int i = 0; i <= int{twice}; ++i) {
+      QTimer::singleShot(20, [&] { patient.Abandon(); });
+      EXPECT_FALSE(patient.Execute(kCommand).answered);
+    }
+    EXPECT_LT(Clock::now() - start, 500ms);
+    EXPECT_EQ(gate_->executed, 1) << "the second has never left";
+    QTimer::singleShot(20, [&] { gate_->Open(true); });
+    const PjtReply reply = patient.Execute(kCommand);
+    EXPECT_TRUE(reply.answered);
+    EXPECT_EQ(reply.value, 2) << "the reply to the abandoned command is nobody's";
+  }
+  // Nor does the pause after a time-out hold back who tries again.
+  gate_->Open(false);
+  EXPECT_FALSE(patient.Execute(kCommand).answered);
+  gate_->Open(true);
+  EXPECT_FALSE(patient.Execute(kCommand).answered);
+  patient.Abandon();
+  EXPECT_TRUE(patient.Execute(kCommand).answered);
 }
 
 class Painted final : public QWidget {

@@ -13,8 +13,14 @@ class ADVANCED_CONTROL_EXPORT CTabPage : public RowDialog {
   /// Reads the projector and shows what it says; runs each time the page is brought to the front.
   virtual void InitDisp() { Refresh(); }
 
+  /// The same, and what is not read yet does not look true.
+  void ReadPage() {
+    const Reading reading(*this);
+    InitDisp();
+  }
+
  protected:
-  void ReadAgain() override { InitDisp(); }
+  void ReadAgain() override { ReadPage(); }
 };
 
 /// A page that is nothing but its table.

@@ -6,6 +6,7 @@
 #include <QAbstractButton>
 #include <QCheckBox>
 
+#include "pages/common/WaitWatch.h"
 #include "resources/ArrowBitmap.h"
 #include "toolkit/CComboBox.h"
 #include "toolkit/CSliderCtrl.h"
@@ -26,13 +27,6 @@ bool Owns(const PageRow& row, int control) {
   return control == ControlOf(row);
 }
 
-/// The list beside an action's button, or 0.
-int ListBeside(const PageRow& row) {
-  if (const auto* action = std::get_if<ActionRow>(&row)) return action->list;
-  const auto* reset = std::get_if<ResetRow>(&row);
-  return reset != nullptr ? reset->list : 0;
-}
-
 QString TextOf(const ListEntry& entry) {
   if (entry.text != 0) return CatalogString(kListCategory, entry.text);
   return QString::fromUtf8(entry.name.data(), static_cast<qsizetype>(entry.name.size()));
@@ -40,16 +34,8 @@ QString TextOf(const ListEntry& entry) {
 
 }  // namespace
 
-/// What a dialog holds of one row.
-struct RowDialog::Bound {
-  bool present = false;  // shown and read
-  ValueControls value;
-};
-
 RowDialog::RowDialog(int templateNumber, const PageTable& table, CWnd* owner)
     : SettingsDialog(templateNumber, owner), table_(table), bound_(table.rows.size()) {}
-
-RowDialog::~RowDialog() = default;
 
 const NotificationMap& RowDialog::Notifications() const {
   if (notifications_) return *notifications_;
@@ -224,18 +210,6 @@ void RowDialog::FillResets(int list) {
   }
 }
 
-void RowDialog::Refresh() {
-  const Busy busy(this);
-  projector->Announce(Reads());
-  for (std::size_t i = 0; i < bound_.size(); ++i) {
-    if (!bound_[i].present) continue;
-    std::visit([&](const auto& row) { Refresh(row, bound_[i]); }, table_.rows[i]);
-  }
-  for (const PageRow& row : table_.rows) {
-    if (const int list = ListBeside(row); list != 0) Preselect(list);
-  }
-}
-
 void RowDialog::Preselect(int list) {
   if (CComboBox& combo = List(list); combo.currentIndex() < 0) combo.Select(0);
 }
@@ -245,6 +219,7 @@ void RowDialog::Refresh(const ListRow& row, Bound&) {
   CComboBox& list = List(row.control);
   const bool asks = !row.rules.emptyIsNotRead || list.count() > 0;
   const auto value = asks ? Read(*projector, *row.read) : std::nullopt;
+  if (projector->IsAbandoned()) return;
   if (!value) {
     if (row.rules.failedReadDisables) list.setEnabled(false);
     return;
@@ -263,6 +238,7 @@ void RowDialog::Select(const ListRow& row, int value) {
 
 void RowDialog::Refresh(const ValueRow& row, Bound& bound) {
   const auto value = Read(*projector, row.Reading());
+  if (projector->IsAbandoned()) return;
   if (row.greysField) bound.value.EnableField(value.has_value());
   if (value) {
     bound.value.Enable();
@@ -276,6 +252,7 @@ void RowDialog::Refresh(const ValueRow& row, Bound& bound) {
 void RowDialog::Refresh(const CheckRow& row, Bound&) {
   auto& check = Item<QCheckBox>(row.control);
   const auto value = Read(*projector, row.read);
+  if (projector->IsAbandoned()) return;
   check.setEnabled(value.has_value());
   if (value) check.setChecked(*value != 0);
 }
@@ -298,7 +275,7 @@ void RowDialog::Operate(const ListRow& row, Bound& bound, int) {
   const int value = row.rules.sendsPosition ? list.currentIndex() : *chosen;
   if (row.rules.tellsText) projector->SettingText = list.currentText().toStdString();
   const bool accepted = Perform(*projector, *row.send, value, Model().ModelCode).accepted;
-  if (row.rules.readsBackAlways) Refresh(row, bound);
+  if (row.rules.readsBackAlways) RefreshRow(static_cast<std::size_t>(&bound - bound_.data()));
   if (accepted) return;
   if (table_.refusedIsReadBack || row.rules.refused != Refused::Silent) ReadBack(row);
   if (row.rules.error != 0) ShowError(row.rules.error);
@@ -360,6 +337,7 @@ void RowDialog::ReadBack(const ValueRow& row, ValueControls& controls, bool anyR
 
 // The slider stands at `position` afterwards, unless the value is read again.
 void RowDialog::Refuse(const ValueRow& row, ValueControls& controls, int position, bool told) {
+  if (projector->IsAbandoned()) return;
   controls.MoveSlider(position);
   if (table_.refusedIsReadBack) ReadBack(row, controls);
   if (told && row.error != 0) ShowError(row.error);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -9,6 +10,8 @@
 #include "settings/Rows.h"
 
 class CComboBox;
+class PageVeil;
+class WaitWatch;
 
 /// A page or pop-up made of a table of rows: binds them to the template's controls, shows those
 /// that the model has, fills their lists, reads them, and does with a change what each row says.
@@ -29,7 +32,33 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
   /// asks further, by what it has read, is here with its first question.
   virtual std::vector<PjtCommand> Reads() const;
 
+  /// How far the refresh that runs has come, in commands; nothing when none runs.
+  struct Progress {
+    int done;
+    int total;
+  };
+  std::optional<Progress> ReadingProgress() const;
+
+  /// From now until the next complete refresh no value shown is known to be true.
+  void MarkUnread();
+
+  /// What a person sees while the page waits for the projector: rows that are not read yet are
+  /// dimmed, and the cursor tells to wait. Called again, it follows the reading.
+  void ShowWaiting(bool waiting);
+
  protected:
+  /// The page is read while this lives.
+  class Reading {
+   public:
+    explicit Reading(RowDialog& page);
+    ~Reading();
+    Reading(const Reading&) = delete;
+    Reading& operator=(const Reading&) = delete;
+
+   private:
+    RowDialog& page_;
+  };
+
   /// The lines of controls that the class handles itself.
   virtual std::vector<Notification> OwnNotifications() const { return {}; }
 
@@ -66,8 +95,27 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
 
   CComboBox& List(int control) const;
 
+  void OnBusy() override;
+  void OnIdle() override;
+  void OnStale() override { stale_ = true; }
+
  private:
-  struct Bound;
+  /// What there is to say about a row.
+  enum class Note : std::uint8_t { None, Refused, Unanswered, NoEntries, Range };
+
+  /// What a dialog holds of one row.
+  struct Bound {
+    bool present = false;  // shown and read
+    bool unread = false;   // what it shows need not be so
+    Note note = Note::None;
+    ValueControls value;
+  };
+
+  void RefreshRow(std::size_t index);
+  void Tell(std::size_t index, Note note);
+  Note NoteOf(std::size_t index, const CPjtInterface::Tally& before) const;
+  QString NoteText(const PageRow& row, const Bound& bound) const;
+  void UpdateVeil();
 
   void DrawArrows();
   void ShowPresentRows();
@@ -106,4 +154,11 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
   const PageTable& table_;
   std::vector<Bound> bound_;  // one for each row of the table
   mutable std::optional<NotificationMap> notifications_;
+
+  int readings_ = 0;  // one in another
+  int sentBefore_ = 0;
+  bool waiting_ = false;
+  bool stale_ = false;
+  PageVeil* veil_ = nullptr;  // a child; only while it is seen
+  std::unique_ptr<WaitWatch> watch_;  // of a pop-up
 };

@@ -15,9 +15,16 @@ const ModelData& SettingsDialog::Model() const {
 }
 
 void SettingsDialog::ShowError(int errorNumber) {
-  if (!window()->isVisible()) return;
+  if (!window()->isVisible() || projector->IsAbandoned()) return;
   ShowStopMessage(this, CatalogString(kErrorCategory, errorNumber));
 }
+
+void SettingsDialog::OnLeave() {
+  abandoned_ = projector;
+  abandoned_->Abandon();
+}
+
+void SettingsDialog::OnReturn() { abandoned_->Resume(); }
 
 CPjtInterface& SettingsDialog::Unconnected() {
   static CPjtInterface projector;

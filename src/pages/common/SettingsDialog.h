@@ -28,11 +28,15 @@ class ADVANCED_CONTROL_EXPORT SettingsDialog : public CDialog {
   static QString ListString(int number) { return CatalogString(kListCategory, number); }
 
   /// Tells a refusal: stop-icon box with the error category's text. Nothing is told to a user who
-  /// has closed the dialog meanwhile.
+  /// has left meanwhile.
   void ShowError(int errorNumber);
 
   void OnOrphaned() override { projector = &Unconnected(); }
+  void OnLeave() override;
+  void OnReturn() override;
 
  private:
   static CPjtInterface& Unconnected();
+
+  CPjtInterface* abandoned_ = nullptr;
 };

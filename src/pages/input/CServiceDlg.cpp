@@ -12,6 +12,7 @@ std::vector<Notification> CServiceDlg::OwnNotifications() const {
 bool CServiceDlg::OnInitDialog() {
   model_.ModelCode = ModelCode;
   RowDialog::OnInitDialog();
+  ShowUnread();
   Refresh();
   return true;
 }

@@ -25,6 +25,7 @@ bool CustomDialog::OnInitDialog() {
   for (std::size_t row = 0; row < RowCount(); ++row) {
     GetDlgItem(firstReset_ + static_cast<int>(row))->setVisible(!hideResets_);
   }
+  ShowUnread();
   Refresh();
   return true;
 }

@@ -1,0 +1,66 @@
+#include "host/StatusLine.h"
+
+#include <QAccessible>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+
+#include "i18n/LocalizeControlTexts.h"
+#include "settings/CatalogNumbers.h"
+
+namespace {
+
+int ProblemText(ConnectionState connection) {
+  switch (connection) {
+    case ConnectionState::WrongParameters:
+      return ListText::WrongParameters;
+    case ConnectionState::NameUnknown:
+      return ListText::AddressUnknown;
+    case ConnectionState::NotReachable:
+      return ListText::NotReachable;
+    case ConnectionState::Lost:
+      return ListText::ConnectionLost;
+    case ConnectionState::NotUnderstood:
+      return ListText::NotUnderstood;
+    case ConnectionState::OtherVersion:
+      return ListText::OtherVersion;
+    case ConnectionState::PasswordRequired:
+      return ListText::PasswordRequired;
+    default:
+      return ListText::NoAnswer;
+  }
+}
+
+}  // namespace
+
+StatusLine::StatusLine(QWidget* parent)
+    : QWidget(parent), text_(new QLabel), retry_(new QPushButton) {
+  retry_->setAutoDefault(false);
+  retry_->hide();
+  auto* layout = new QHBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(text_);
+  layout->addWidget(retry_);
+  layout->addStretch(1);
+  connect(retry_, &QPushButton::clicked, this, &StatusLine::Retry);
+}
+
+QWidget* StatusLine::RetryButton() const { return retry_; }
+
+void StatusLine::ShowProgress(const QString& text) { Show(text, false); }
+
+void StatusLine::ShowNoAnswer(ConnectionState connection) {
+  Show(CatalogString(kListCategory, ProblemText(connection)), true);
+}
+
+void StatusLine::Show(const QString& text, bool canRetry) {
+  if (canRetry && retry_->text().isEmpty()) {
+    retry_->setText(CatalogString(kListCategory, ListText::Retry));
+  }
+  retry_->setVisible(canRetry);
+  if (text == text_->text()) return;
+  text_->setText(text);
+  if (text.isEmpty()) return;
+  QAccessibleEvent changed(text_, canRetry ? QAccessible::Alert : QAccessible::NameChanged);
+  QAccessible::updateAccessibility(&changed);
+}

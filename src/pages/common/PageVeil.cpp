@@ -1,0 +1,26 @@
+#include "pages/common/PageVeil.h"
+
+#include <QPainter>
+
+namespace {
+
+constexpr int kOpacity = 190;  // of 255; what is below can just be made out
+
+}  // namespace
+
+PageVeil::PageVeil(QWidget& page) : QWidget(&page) { setCursor(Qt::WaitCursor); }
+
+void PageVeil::Cover(const QRect& area, const QRegion& dimmed) {
+  setGeometry(area);
+  dimmed_ = dimmed.translated(-area.topLeft());
+  raise();
+  show();
+  update();
+}
+
+void PageVeil::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  QColor color = palette().color(QPalette::Window);
+  color.setAlpha(kOpacity);
+  for (const QRect& part : dimmed_) painter.fillRect(part, color);
+}

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QRegion>
+#include <QWidget>
+
+/// Lies over a page that waits for its projector: dims parts of it and shows the wait cursor.
+class PageVeil final : public QWidget {
+ public:
+  explicit PageVeil(QWidget& page);
+
+  /// Covers `area` of the page and dims `dimmed`, both in the page's coordinates.
+  void Cover(const QRect& area, const QRegion& dimmed);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QRegion dimmed_;
+};

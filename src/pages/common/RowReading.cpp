@@ -1,0 +1,168 @@
+// How a page of rows is read, and what a person sees of it meanwhile and afterwards.
+
+#include <algorithm>
+
+#include <QLabel>
+#include <QTimer>
+
+#include "pages/common/PageVeil.h"
+#include "pages/common/RowDialog.h"
+#include "pages/common/WaitWatch.h"
+#include "toolkit/CComboBox.h"
+
+namespace {
+
+bool IsRead(const PageRow& row) {
+  return !std::holds_alternative<ActionRow>(row) && !std::holds_alternative<ResetRow>(row);
+}
+
+std::vector<int> ControlsOf(const PageRow& row) {
+  const auto* value = std::get_if<ValueRow>(&row);
+  if (value == nullptr) return {ControlOf(row)};
+  const ValueIds& ids = value->ids;
+  std::vector<int> controls{ids.minus, ids.plus, ids.field};
+  if (ids.slider != 0) controls.push_back(ids.slider);
+  return controls;
+}
+
+}  // namespace
+
+RowDialog::~RowDialog() = default;
+
+RowDialog::Reading::Reading(RowDialog& page) : page_(page) {
+  if (page_.readings_++ > 0) return;
+  page_.sentBefore_ = page_.projector->Sent().commands;
+  page_.MarkUnread();
+}
+
+RowDialog::Reading::~Reading() {
+  if (--page_.readings_ > 0) return;
+  if (page_.projector->IsAbandoned()) {
+    page_.MarkUnread();
+    return;
+  }
+  for (Bound& bound : page_.bound_) bound.unread = false;
+  page_.UpdateVeil();
+}
+
+void RowDialog::MarkUnread() {
+  for (std::size_t i = 0; i < bound_.size(); ++i) {
+    bound_[i].unread = bound_[i].present && IsRead(table_.rows[i]);
+  }
+  if (veil_ != nullptr) UpdateVeil();
+}
+
+std::optional<RowDialog::Progress> RowDialog::ReadingProgress() const {
+  if (readings_ == 0) return std::nullopt;
+  const int done = projector->Sent().commands - sentBefore_;
+  return Progress{done, std::max(done + 1, static_cast<int>(Reads().size()))};
+}
+
+void RowDialog::Refresh() {
+  const Busy busy(this);
+  const Reading reading(*this);
+  projector->Announce(Reads());
+  for (std::size_t i = 0; i < bound_.size(); ++i) {
+    if (!bound_[i].present) continue;
+    RefreshRow(i);
+    if (projector->IsAbandoned()) return;
+  }
+  for (const PageRow& row : table_.rows) {
+    if (const int list = ListBeside(row); list != 0) Preselect(list);
+  }
+}
+
+void RowDialog::RefreshRow(std::size_t index) {
+  Bound& bound = bound_[index];
+  const CPjtInterface::Tally before = projector->Sent();
+  std::visit([&](const auto& row) { Refresh(row, bound); }, table_.rows[index]);
+  if (projector->IsAbandoned()) return;
+  bound.unread = false;
+  if (IsRead(table_.rows[index])) Tell(index, NoteOf(index, before));
+  if (veil_ != nullptr) UpdateVeil();
+}
+
+RowDialog::Note RowDialog::NoteOf(std::size_t index, const CPjtInterface::Tally& before) const {
+  const PageRow& row = table_.rows[index];
+  const auto* value = std::get_if<ValueRow>(&row);
+  const QWidget* control = GetDlgItem(value != nullptr ? value->ids.minus : ControlOf(row));
+  const auto* list = qobject_cast<const CComboBox*>(control);
+  if (list != nullptr && list->count() == 0) return Note::NoEntries;
+  const CPjtInterface::Tally after = projector->Sent();
+  if (after.unanswered > before.unanswered) return Note::Unanswered;
+  if (after.refused > before.refused || !control->isEnabledTo(this)) return Note::Refused;
+  return value != nullptr ? Note::Range : Note::None;
+}
+
+QString RowDialog::NoteText(const PageRow& row, const Bound& bound) const {
+  switch (bound.note) {
+    case Note::Refused:
+      return ListString(ListText::ReadRefused);
+    case Note::Unanswered:
+      return ListString(ListText::ReadUnanswered);
+    case Note::NoEntries:
+      return ListString(ListText::NoEntries);
+    case Note::Range: {
+      const Range range = StepBounds(std::get<ValueRow>(row), Model(), bound.value.Bounds());
+      if (range.minimum <= kUnbounded.minimum || range.minimum >= range.maximum) return {};
+      return CatalogString(kListCategory, ListText::RangeNote, std::int64_t{range.minimum},
+                           std::int64_t{range.maximum});
+    }
+    case Note::None:
+      break;
+  }
+  return {};
+}
+
+void RowDialog::Tell(std::size_t index, Note note) {
+  Bound& bound = bound_[index];
+  if (bound.note == note) return;
+  bound.note = note;
+  const PageRow& row = table_.rows[index];
+  const QString text = NoteText(row, bound);
+  for (const int id : ControlsOf(row)) {
+    QWidget* control = GetDlgItem(id);
+    control->setToolTip(text);
+    if (qobject_cast<QLabel*>(control) == nullptr) control->setAccessibleDescription(text);
+  }
+  GreyCaption(ControlOf(row));
+}
+
+void RowDialog::ShowWaiting(bool waiting) {
+  waiting_ = waiting;
+  UpdateVeil();
+}
+
+void RowDialog::UpdateVeil() {
+  QRegion unread;
+  QRect rows;
+  for (std::size_t i = 0; i < bound_.size(); ++i) {
+    if (!bound_[i].present) continue;
+    const QRect row = RowRect(ControlOf(table_.rows[i]));
+    rows = rows.united(row);
+    if (bound_[i].unread) unread += row;
+  }
+  // A read that was broken off stays dimmed.
+  if (!waiting_ && (unread.isEmpty() || readings_ > 0 || veil_ == nullptr)) {
+    delete std::exchange(veil_, nullptr);
+    return;
+  }
+  if (veil_ == nullptr) veil_ = new PageVeil(*this);
+  veil_->Cover(isWindow() ? rows : rect(), unread);
+}
+
+void RowDialog::OnBusy() {
+  if (watch_ == nullptr) {
+    watch_ = std::make_unique<WaitWatch>([this] { return projector->IsWaiting(); },
+                                         [this](bool waiting) { ShowWaiting(waiting); });
+  }
+  watch_->Start();
+}
+
+void RowDialog::OnIdle() {
+  watch_->Stop();
+  if (!std::exchange(stale_, false) || IsLeft()) return;
+  QTimer::singleShot(0, this, [this] {
+    if (IsCreated()) Refresh();
+  });
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QObject>
+
+/// Drops what the user does to the controls of dialogs whose handlers run. Only while there is such
+/// a dialog does it look at the application's events.
+class InputGate final : public QObject {
+ public:
+  /// One more dialog is busy, and one fewer.
+  static void Close();
+  static void Open();
+
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  InputGate() = default;
+  static InputGate& Only();
+
+  int busyDialogs_ = 0;
+};

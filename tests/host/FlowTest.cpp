@@ -1,0 +1,341 @@
+// What a person sees and may do while the projector takes its time.
+
+#include <atomic>
+#include <condition_variable>
+#include <mutex>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTest>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "device/BoundedChannel.h"
+#include "device/ModelDataIntake.h"
+#include "host/StatusLine.h"
+#include "simulator/SimulatedProjector.h"
+#include "tests/support/DialogDriver.h"
+#include "toolkit/CSliderCtrl.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+using testing::IsEmpty;
+
+constexpr int kPictureTab = 1;
+constexpr int kAudioTab = 5;
+constexpr int kOptionTab = 7;
+constexpr int kIris = 20293;
+constexpr int kCustomGamma = 20133;
+constexpr int kBrightnessPlus = 20135;
+constexpr int kBrightness = 20136;
+constexpr int kBrightnessField = 20329;
+constexpr int kClose = 1;
+
+/// Takes as long for each command as it is told, or does not answer before it is told to.
+class PacedProjector final : public ProjectorChannel {
+ public:
+  explicit PacedProjector(const CModelInfo2& model)
+      : simulation_(DescribeModel(MakeModelData(model))) {}
+
+  PjtReply Execute(const PjtCommand& command) override {
+    std::unique_lock lock(mutex_);
+    sent_.push_back(command);
+    changed_.wait_for(lock, pace_, [this] { return pace_ == 0ms; });
+    return refuses ? PjtReply{.result = RefusedResult(command.operation)}
+                   : simulation_.Execute(command);
+  }
+
+  void Pace(std::chrono::milliseconds pace) {
+    const std::lock_guard lock(mutex_);
+    pace_ = pace;
+    changed_.notify_all();
+  }
+  std::vector<PjtCommand> Take() {
+    const std::lock_guard lock(mutex_);
+    return std::exchange(sent_, {});
+  }
+
+  std::atomic<bool> refuses = false;
+
+ private:
+  SimulatedProjector simulation_;
+  std::mutex mutex_;
+  std::condition_variable changed_;
+  std::chrono::milliseconds pace_{0};
+  std::vector<PjtCommand> sent_;
+};
+
+class FlowTest : public testing::Test {
+ protected:
+  FlowTest() {
+    dialog_.CopyData(&model_, 0);
+    dialog_.Projector().SetChannel(std::make_shared<BoundedChannel>(
+        projector_, BoundedChannel::Limits{.timeOut = 600ms, .retryAfter = 1h}));
+  }
+  ~FlowTest() override { projector_->Pace(0ms); }
+
+  void Open() {
+    ASSERT_TRUE(dialog_.CreateShown());
+    dialog_.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog_));
+  }
+  QTabBar& Tabs() { return *dialog_.findChild<QTabBar*>(); }
+  DialogDriver Page() { return DialogDriver(*dialog_.ShownPage()); }
+  QWidget* Veil() {
+    auto* last = qobject_cast<QWidget*>(dialog_.ShownPage()->children().last());
+    return last != nullptr && last->cursor().shape() == Qt::WaitCursor ? last : nullptr;
+  }
+  QString Status() { return dialog_.findChild<StatusLine*>()->findChild<QLabel*>()->text(); }
+  QPushButton& Retry() { return *dialog_.findChild<StatusLine*>()->findChild<QPushButton*>(); }
+  void ClickTab(int tab) {
+    QTest::mouseClick(&Tabs(), Qt::LeftButton, {}, Tabs().tabRect(tab).center());
+  }
+
+  /// Does `act` from inside the wait of the command that is under way after `delay`.
+  static void After(std::chrono::milliseconds delay, std::function<void()> act) {
+    QTimer::singleShot(delay, qApp, std::move(act));
+  }
+
+  CModelInfo2 model_ = FullModel(5, 30);
+  std::shared_ptr<PacedProjector> projector_ = std::make_shared<PacedProjector>(model_);
+  CAdvanceDlg dialog_;
+};
+
+struct WayOut {
+  const char* name;
+  std::function<void(CAdvanceDlg&)> act;
+};
+
+TEST_F(FlowTest, ClosingActsAtOnceInRefreshesAndChangesAndSendsNothingMore) {
+  const WayOut ways[] = {
+      {"Close", [](auto& d) { QTest::mouseClick(d.GetDlgItem(kClose), Qt::LeftButton); }},
+      {"Esc", [](auto&) { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape); }},
+      {"window", [](auto& d) { d.close(); }},
+  };
+  for (const WayOut& way : ways) {
+    for (const char* moment : {"opening", "refresh", "change", "pop-up"}) {
+      SCOPED_TRACE(testing::Message() << way.name << " while " << moment);
+      const bool opening = moment == std::string("opening");
+      if (!opening) {
+        Open();
+        ClickTab(kPictureTab);
+      }
+      projector_->Pace(200ms);
+      projector_->Take();
+      bool hidden = false;
+      std::size_t sent = 0;
+      After(270ms, [&] {
+        sent = projector_->Take().size();
+        QElapsedTimer clock;
+        clock.start();
+        way.act(dialog_);
+        hidden = !dialog_.isVisible();
+        After(0ms, [clock] { EXPECT_LT(clock.elapsed(), 100); });
+      });
+      QElapsedTimer whole;
+      whole.start();
+      MessageBoxes boxes;
+      if (opening) {
+        EXPECT_EQ(dialog_.DoModal(), way.name == std::string("Close"));
+      } else if (moment == std::string("refresh")) {
+        ClickTab(kAudioTab);
+      } else if (moment == std::string("change")) {
+        projector_->refuses = true;  // would be told
+        Page().Choose(kIris, 1);
+        Page().Choose(kIris, 2);
+        projector_->refuses = false;
+      } else {
+        After(100ms, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
+        Page().Click(kCustomGamma);
+        EXPECT_TRUE(dialog_.isVisible()) << "only the pop-up was left";
+        projector_->Pace(0ms);
+        QTest::qWait(300);
+        ASSERT_TRUE(hidden);
+        continue;
+      }
+      EXPECT_LT(whole.elapsed(), 400);
+      EXPECT_TRUE(hidden);
+      EXPECT_GT(sent, 0U);
+      projector_->Pace(0ms);
+      QTest::qWait(50);
+      EXPECT_THAT(projector_->Take(), IsEmpty());
+      EXPECT_THAT(boxes.Take(), IsEmpty());
+    }
+  }
+}
+
+TEST_F(FlowTest, AnotherTabIsShownAtOnceAndReadFromItsStart) {
+  Open();
+  const std::vector<PjtCommand> status = projector_->Take();
+  const std::function<void()> ways[] = {
+      [this] { ClickTab(0); },
+      [this] { QTest::keyClick(&dialog_, Qt::Key_PageUp, Qt::ControlModifier); },
+      [this] { Tabs().setCurrentIndex(0); },
+  };
+  for (const auto& leave : ways) {
+    for (const bool inChange : {false, true}) {
+      if (inChange) ClickTab(kPictureTab);
+      projector_->Take();
+      projector_->Pace(200ms);
+      After(250ms, [&] {
+        projector_->Take();
+        QElapsedTimer clock;
+        clock.start();
+        leave();
+        EXPECT_EQ(dialog_.ShownPage(), &dialog_.Page(PageId::Status));
+        EXPECT_LT(clock.elapsed(), 100);
+        projector_->Pace(0ms);
+      });
+      if (inChange) {
+        DialogDriver(*dialog_.ShownPage()).Choose(kIris, 1);
+        DialogDriver(*dialog_.ShownPage()).Press(kIris, Qt::Key_Down);
+      } else {
+        ClickTab(kPictureTab);
+      }
+      EXPECT_TRUE(QTest::qWaitFor([&] { return dialog_.ShownPage()->isVisible(); }));
+      QTest::qWait(30);
+      EXPECT_EQ(projector_->Take(), status) << "whole, once, and nothing else";
+      EXPECT_EQ(Veil(), nullptr);
+    }
+  }
+}
+
+TEST_F(FlowTest, WhatIsTypedOrClickedMeanwhileIsDropped) {
+  Open();
+  ClickTab(kPictureTab);
+  const int iris = Page().Selected(kIris);
+  projector_->Take();
+  projector_->Pace(60ms);
+  After(100ms, [&] {
+    Page().Click(kBrightnessPlus);
+    Page().Press(kIris, Qt::Key_Down);
+    Page().Wheel(kIris, -1);
+    Page().Press(kBrightness, Qt::Key_Right);
+    QTest::mouseClick(&Page().Item<QWidget>(kBrightness), Qt::LeftButton, {}, QPoint(3, 5));
+    QTest::mouseClick(&Page().Item<QWidget>(kIris), Qt::LeftButton);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+  });
+  dialog_.DispTabScreen();
+  QTest::qWait(50);
+  for (const PjtCommand& command : projector_->Take()) EXPECT_TRUE(IsRead(command.operation));
+  EXPECT_EQ(Page().Selected(kIris), iris);
+}
+
+TEST_F(FlowTest, TheWindowComesFirstAndSaysWhatItDoes) {
+  projector_->Pace(100ms);
+  QElapsedTimer clock;
+  clock.start();
+  QStringList seen;
+  QTimer look;
+  look.callOnTimeout([&] {
+    if (clock.elapsed() > 90) EXPECT_TRUE(dialog_.isVisible());
+    if (!seen.contains(Status())) seen << Status();
+    if (!Status().isEmpty()) {
+      EXPECT_TRUE(Veil() != nullptr);
+    }
+  });
+  look.start(20);
+  Open();
+  EXPECT_GT(seen.size(), 4) << seen.join('|').toStdString();
+  EXPECT_TRUE(seen.contains(CatalogString(5, 4300, std::int64_t{4}, std::int64_t{8})));
+  EXPECT_EQ(Status(), QString());
+  EXPECT_EQ(Veil(), nullptr);
+
+  projector_->Pace(0ms);
+  seen.clear();
+  for (int tab = 0; tab < Tabs().count(); ++tab) ClickTab(tab);
+  QTest::qWait(250);
+  EXPECT_THAT(seen, testing::Each(QString())) << "a fast projector shows no line";
+}
+
+TEST_F(FlowTest, NoAnswerIsToldAndTriedAgain) {
+  Open();
+  projector_->Pace(5s);
+  ClickTab(kPictureTab);
+  EXPECT_EQ(Status(), CatalogString(5, 4302));
+  EXPECT_TRUE(Retry().isVisible());
+  EXPECT_FALSE(Page().IsEnabled(kIris));
+  EXPECT_EQ(Page().Item<QWidget>(kIris).toolTip(), CatalogString(5, 4304));
+  EXPECT_EQ(Page().Item<QWidget>(kIris).accessibleDescription(), CatalogString(5, 4304));
+
+  projector_->Pace(0ms);
+  QTest::mouseClick(&Retry(), Qt::LeftButton);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return !Retry().isVisible(); }));
+  EXPECT_EQ(Status(), QString());
+  EXPECT_TRUE(Page().IsEnabled(kIris));
+  EXPECT_EQ(Page().Item<QWidget>(kIris).toolTip(), QString());
+}
+
+TEST_F(FlowTest, RowsSayWhatThereIsToKnow) {
+  model_.GammaList.count = 0;
+  dialog_.CopyData(&model_, 0);
+  Open();
+  projector_->refuses = true;
+  ClickTab(kPictureTab);
+  const auto caption = [this](int id) {
+    for (auto* label : dialog_.ShownPage()->findChildren<QLabel*>()) {
+      const int y = Page().Item<QWidget>(id).geometry().center().y();
+      if (label->isVisible() && label->geometry().contains(label->x(), y)) return label;
+    }
+    return static_cast<QLabel*>(nullptr);
+  };
+  ASSERT_NE(caption(kIris), nullptr);
+  for (const bool refused : {true, false}) {
+    const QString why = refused ? CatalogString(5, 4303) : QString();
+    EXPECT_EQ(Page().Item<QWidget>(kIris).toolTip(), why);
+    EXPECT_EQ(caption(kIris)->isEnabled(), !refused);
+    EXPECT_EQ(Page().Item<QWidget>(20142).toolTip(), CatalogString(5, 4305)) << "no gammas";
+    for (const int id : {kBrightness, kBrightnessPlus, kBrightnessField}) {
+      EXPECT_EQ(Page().Item<QWidget>(id).toolTip(),
+                refused ? why : CatalogString(5, 4306, std::int64_t{-32}, std::int64_t{31}));
+    }
+    projector_->refuses = false;
+    dialog_.DispTabScreen();
+  }
+}
+
+TEST_F(FlowTest, AHeldButtonStepsOnceForEachReply) {
+  Open();
+  ClickTab(kPictureTab);
+  const int before = Page().SliderAt(kBrightness);
+  auto& plus = Page().Item<QPushButton>(kBrightnessPlus);
+  projector_->Take();
+  projector_->Pace(60ms);
+  QTest::mousePress(&plus, Qt::LeftButton);
+  QTest::qWait(1200);
+  QTest::mouseRelease(&plus, Qt::LeftButton);
+  projector_->Pace(0ms);
+  QTest::qWait(200);
+  const std::vector<PjtCommand> sent = projector_->Take();
+  EXPECT_GE(sent.size(), 6U);
+  for (std::size_t i = 0; i < sent.size(); ++i) {
+    EXPECT_EQ(sent[i].operation, i % 2 == 0 ? PjtOperation::Inc : PjtOperation::Get);
+  }
+  EXPECT_EQ(Page().SliderAt(kBrightness), before + static_cast<int>(sent.size()) / 2);
+}
+
+TEST_F(FlowTest, ADragTellsWhatLettingGoWouldSend) {
+  Open();
+  ClickTab(kPictureTab);
+  auto& slider = Page().Item<CSliderCtrl>(kBrightness);
+  const QString number = Page().Text(kBrightnessField);
+  const auto bubbles = [this] {
+    return dialog_.findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly);
+  };
+  const QPoint at = slider.HandleRect().center();
+  QTest::mousePress(&slider, Qt::LeftButton, {}, at);
+  QTest::mouseMove(&slider, at + QPoint(20, 0));
+  ASSERT_EQ(bubbles().size(), 1);
+  EXPECT_EQ(bubbles().first()->text(), QString::number(slider.value()));
+  EXPECT_NE(bubbles().first()->text(), number);
+  EXPECT_EQ(Page().Text(kBrightnessField), number);
+  QTest::mouseRelease(&slider, Qt::LeftButton, {}, at + QPoint(20, 0));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return bubbles().isEmpty(); }));
+  EXPECT_EQ(Page().Text(kBrightnessField), QString::number(slider.value()));
+}
+
+}  // namespace

@@ -34,6 +34,7 @@ void CSliderCtrl::SetRange(int minimum, int maximum, int tickFrequency) {
 void CSliderCtrl::mousePressEvent(QMouseEvent* event) {
   // Some styles also scroll with the middle button; here only the left one acts.
   if (event->button() == Qt::LeftButton) {
+    pressed_ = true;
     QSlider::mousePressEvent(event);
   } else {
     event->ignore();
@@ -41,7 +42,8 @@ void CSliderCtrl::mousePressEvent(QMouseEvent* event) {
 }
 
 void CSliderCtrl::mouseReleaseEvent(QMouseEvent* event) {
-  const bool scrolled = event->button() == Qt::LeftButton;
+  // The press may have been dropped.
+  const bool scrolled = event->button() == Qt::LeftButton && std::exchange(pressed_, false);
   QSlider::mouseReleaseEvent(event);
   if (scrolled) Q_EMIT EndScroll();
 }

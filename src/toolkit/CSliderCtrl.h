@@ -32,5 +32,6 @@ class CSliderCtrl : public QSlider {
  private:
   void EndKeyScroll();
 
+  bool pressed_ = false;
   bool keyScrolling_ = false;
 };

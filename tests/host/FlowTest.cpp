@@ -113,7 +113,7 @@ struct WayOut {
 TEST_F(FlowTest, ClosingActsAtOnceInRefreshesAndChangesAndSendsNothingMore) {
   const WayOut ways[] = {
       {"Close", [](auto& d) { QTest::mouseClick(d.GetDlgItem(kClose), Qt::LeftButton); }},
-      {"Esc", [](auto&) { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape); }},
+      {"Esc", [](auto& d) { QTest::keyClick(d.focusWidget() ? d.focusWidget() : &d, Qt::Key_Escape); }},
       {"window", [](auto& d) { d.close(); }},
   };
   for (const WayOut& way : ways) {
@@ -124,11 +124,11 @@ TEST_F(FlowTest, ClosingActsAtOnceInRefreshesAndChangesAndSendsNothingMore) {
         Open();
         ClickTab(kPictureTab);
       }
-      projector_->Pace(200ms);
+      projector_->Pace(500ms);
       projector_->Take();
       bool hidden = false;
       std::size_t sent = 0;
-      After(270ms, [&] {
+      After(150ms, [&] {
         sent = projector_->Take().size();
         QElapsedTimer clock;
         clock.start();
@@ -146,10 +146,9 @@ TEST_F(FlowTest, ClosingActsAtOnceInRefreshesAndChangesAndSendsNothingMore) {
       } else if (moment == std::string("change")) {
         projector_->refuses = true;  // would be told
         Page().Choose(kIris, 1);
-        Page().Choose(kIris, 2);
         projector_->refuses = false;
       } else {
-        After(100ms, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
+        After(50ms, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
         Page().Click(kCustomGamma);
         EXPECT_TRUE(dialog_.isVisible()) << "only the pop-up was left";
         projector_->Pace(0ms);
@@ -157,7 +156,7 @@ TEST_F(FlowTest, ClosingActsAtOnceInRefreshesAndChangesAndSendsNothingMore) {
         ASSERT_TRUE(hidden);
         continue;
       }
-      EXPECT_LT(whole.elapsed(), 400);
+      EXPECT_LT(whole.elapsed(), 350);
       EXPECT_TRUE(hidden);
       EXPECT_GT(sent, 0U);
       projector_->Pace(0ms);
@@ -178,27 +177,28 @@ TEST_F(FlowTest, AnotherTabIsShownAtOnceAndReadFromItsStart) {
   };
   for (const auto& leave : ways) {
     for (const bool inChange : {false, true}) {
+      SCOPED_TRACE(testing::Message() << "way " << &leave - ways << (inChange ? " in a change" : ""));
       if (inChange) ClickTab(kPictureTab);
       projector_->Take();
-      projector_->Pace(200ms);
-      After(250ms, [&] {
+      projector_->Pace(500ms);
+      After(150ms, [&] {
         projector_->Take();
         QElapsedTimer clock;
         clock.start();
+        QApplication::setActiveWindow(&dialog_);  // a list may have been it
         leave();
         EXPECT_EQ(dialog_.ShownPage(), &dialog_.Page(PageId::Status));
         EXPECT_LT(clock.elapsed(), 100);
         projector_->Pace(0ms);
       });
       if (inChange) {
-        DialogDriver(*dialog_.ShownPage()).Choose(kIris, 1);
-        DialogDriver(*dialog_.ShownPage()).Press(kIris, Qt::Key_Down);
+        Page().Choose(kIris, 1);
       } else {
         ClickTab(kPictureTab);
       }
       EXPECT_TRUE(QTest::qWaitFor([&] { return dialog_.ShownPage()->isVisible(); }));
       QTest::qWait(30);
-      EXPECT_EQ(projector_->Take(), status) << "whole, once, and nothing else";
+      EXPECT_TRUE(projector_->Take() == status) << "whole, once, and nothing else";
       EXPECT_EQ(Veil(), nullptr);
     }
   }
@@ -206,9 +206,10 @@ TEST_F(FlowTest, AnotherTabIsShownAtOnceAndReadFromItsStart) {
 
 TEST_F(FlowTest, WhatIsTypedOrClickedMeanwhileIsDropped) {
   Open();
+  projector_->Take();
   ClickTab(kPictureTab);
   const int iris = Page().Selected(kIris);
-  projector_->Take();
+  const std::vector<PjtCommand> reads = projector_->Take();
   projector_->Pace(60ms);
   After(100ms, [&] {
     Page().Click(kBrightnessPlus);
@@ -221,7 +222,7 @@ TEST_F(FlowTest, WhatIsTypedOrClickedMeanwhileIsDropped) {
   });
   dialog_.DispTabScreen();
   QTest::qWait(50);
-  for (const PjtCommand& command : projector_->Take()) EXPECT_TRUE(IsRead(command.operation));
+  EXPECT_TRUE(projector_->Take() == reads) << "once";
   EXPECT_EQ(Page().Selected(kIris), iris);
 }
 
@@ -232,11 +233,9 @@ TEST_F(FlowTest, TheWindowComesFirstAndSaysWhatItDoes) {
   QStringList seen;
   QTimer look;
   look.callOnTimeout([&] {
-    if (clock.elapsed() > 90) EXPECT_TRUE(dialog_.isVisible());
+    EXPECT_TRUE(clock.elapsed() < 90 || dialog_.isVisible());
     if (!seen.contains(Status())) seen << Status();
-    if (!Status().isEmpty()) {
-      EXPECT_TRUE(Veil() != nullptr);
-    }
+    EXPECT_TRUE(Status().isEmpty() || Veil() != nullptr);
   });
   look.start(20);
   Open();
@@ -291,7 +290,7 @@ TEST_F(FlowTest, RowsSayWhatThereIsToKnow) {
     EXPECT_EQ(Page().Item<QWidget>(20142).toolTip(), CatalogString(5, 4305)) << "no gammas";
     for (const int id : {kBrightness, kBrightnessPlus, kBrightnessField}) {
       EXPECT_EQ(Page().Item<QWidget>(id).toolTip(),
-                refused ? why : CatalogString(5, 4306, std::int64_t{-32}, std::int64_t{31}));
+                refused ? why : CatalogString(5, 4306, std::int64_t{-32}, std::int64_t{32}));
     }
     projector_->refuses = false;
     dialog_.DispTabScreen();

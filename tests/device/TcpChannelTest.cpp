@@ -5,7 +5,7 @@
 #include <thread>
 #include <utility>
 
-#include <QDeadlineTimer>
+#include <QDir>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <gtest/gtest.h>
@@ -100,7 +100,7 @@ constexpr std::size_t kPiece = 64 * 1024;
 void Flood(QTcpSocket& socket, const std::string& piece) {
   for (int i = 0; i < 160 && socket.state() == QTcpSocket::ConnectedState; ++i) {
     Send(socket, piece);
-    socket.waitForBytesWritten(100);
+    if (socket.bytesToWrite() > 0) socket.waitForBytesWritten(100);
   }
 }
 
@@ -198,6 +198,21 @@ TEST(TcpChannelTest, SaysWhyItCannotConnect) {
   TcpChannel silent("localhost", taken, kLimits);
   EXPECT_FALSE(silent.Execute(Get(1)).answered);
   EXPECT_EQ(silent.Connection(), NoAnswer);
+
+  // Nobody waits for the thread of one that is given up, and it goes.
+  const auto threads = [] {
+    return QDir("/proc/self/task").entryList(QDir::Dirs | QDir::NoDotAndDotDot).size();
+  };
+  const auto before = threads();
+  {
+    BoundedChannel givenUp(std::make_shared<TcpChannel>("127.0.0.1", taken, kLimits),
+                           {.timeOut = 10ms});
+    EXPECT_FALSE(givenUp.Execute(Get(1)).answered);
+  }
+  EXPECT_GT(threads(), before);
+  for (int i = 0; i < 200 && threads() > before; ++i) std::this_thread::sleep_for(10ms);
+  EXPECT_EQ(threads(), before);
+
   neverAccepts.close();
   TcpChannel nobody("127.0.0.1", taken, kLimits);
   EXPECT_FALSE(nobody.Execute(Get(1)).answered);

@@ -15,6 +15,8 @@ namespace {
 using Op = PjtOperation;
 using Parameter = std::optional<std::string>;
 
+constexpr qint64 kReadBuffer = 512;  // more than any line
+
 enum class Class {
   First,
   Second,
@@ -108,28 +110,6 @@ PjLinkChannel::PjLinkChannel(std::string host, int port, std::string password, c
 
 PjLinkChannel::~PjLinkChannel() = default;
 
-std::string PjLinkChannel::State() const {
-  switch (link_) {
-    case Link::NotUsed:
-      return "Not connected";
-    case Link::Connected:
-      return "Connected";
-    case Link::UnknownHost:
-      return "No projector has this name or address";
-    case Link::Unreachable:
-      return "The projector cannot be reached";
-    case Link::Silent:
-      return "The projector does not answer";
-    case Link::Closed:
-      return "The projector closed the connection";
-    case Link::NotUnderstood:
-      return "What answers is not understood";
-    case Link::WrongPassword:
-      return password_.empty() ? "The projector wants a password" : "The password is wrong";
-  }
-  return {};
-}
-
 PjtReply PjLinkChannel::Execute(const PjtCommand& command) {
   const int refused = RefusedResult(command.operation);
   const Mapping* const mapping = Find(command);
@@ -148,7 +128,7 @@ PjtReply PjLinkChannel::Execute(const PjtCommand& command) {
   const bool reused = IsUsable();
   Parameter answer = ask();
   const bool isRead = mapping->value != nullptr;
-  if (!answer && reused && isRead && link_ == Link::Closed) answer = ask();
+  if (!answer && reused && isRead && state_ == ConnectionState::Lost) answer = ask();
   if (!answer) return {.result = refused, .answered = false};
 
   if (PjLink::SameWord(*answer, PjLink::kUndefined)) return {.result = refused, .offered = false};
@@ -183,7 +163,7 @@ std::optional<PjLinkDescription> PjLinkChannel::Describe() {
                                   .name = name.empty() ? NameByCode(code) : std::move(name)});
   }
   if (!answered) return std::nullopt;
-  Drop(Link::NotUsed);
+  Drop(ConnectionState::Unused);
   return description;
 }
 
@@ -194,34 +174,39 @@ bool PjLinkChannel::IsUsable() {
 }
 
 bool PjLinkChannel::Open() {
+  if (host_.empty() || port_ < 1 || port_ > UINT16_MAX) {
+    Drop(ConnectionState::WrongParameters);
+    return false;
+  }
+  state_ = ConnectionState::Connecting;
   const QDeadlineTimer deadline(limits_.connect);
   socket_ = std::make_unique<QTcpSocket>();
   socket_->setProxy(QNetworkProxy::NoProxy);
-  socket_->setReadBufferSize(static_cast<qint64>(2 * PjLink::kLongestInputs));
+  socket_->setReadBufferSize(kReadBuffer);
   socket_->connectToHost(QString::fromStdString(host_), static_cast<quint16>(port_));
   if (!socket_->waitForConnected(static_cast<int>(deadline.remainingTime()))) {
-    Drop(socket_->error() == QAbstractSocket::HostNotFoundError ? Link::UnknownHost
-                                                                : Link::Unreachable);
+    Drop(socket_->error() == QAbstractSocket::HostNotFoundError ? ConnectionState::NameUnknown
+                                                                : ConnectionState::NotReachable);
     return false;
   }
   const auto greeting = ReadLine(PjLink::kLongestLine, deadline);
   if (!greeting) return false;
   const auto seed = PjLink::ParseGreeting(*greeting);
   if (!seed) {
-    Drop(Link::NotUnderstood);
+    Drop(ConnectionState::NotUnderstood);
     return false;
   }
   proof_ = seed->empty() ? std::string() : PjLink::Digest(*seed, password_);
   const auto answer = Ask('1', "CLSS", PjLink::kQuery);
   if (!answer) return false;
   projectorClass_ = *answer == "2" ? '2' : '1';
-  link_ = Link::Connected;
+  state_ = ConnectionState::Connected;
   return true;
 }
 
-void PjLinkChannel::Drop(Link reason) {
+void PjLinkChannel::Drop(ConnectionState state) {
   socket_.reset();
-  link_ = reason;
+  state_ = state;
 }
 
 std::optional<std::string> PjLinkChannel::ReadLine(std::size_t longest,
@@ -234,11 +219,12 @@ std::optional<std::string> PjLinkChannel::ReadLine(std::size_t longest,
       return seen.left(end).toStdString();
     }
     if (static_cast<std::size_t>(seen.size()) == longest) {
-      Drop(Link::NotUnderstood);
+      Drop(ConnectionState::NotUnderstood);
       return std::nullopt;
     }
     if (!socket_->waitForReadyRead(static_cast<int>(deadline.remainingTime()))) {
-      Drop(socket_->state() == QAbstractSocket::ConnectedState ? Link::Silent : Link::Closed);
+      Drop(socket_->state() == QAbstractSocket::ConnectedState ? ConnectionState::NoAnswer
+                                                               : ConnectionState::Lost);
       return std::nullopt;
     }
   }
@@ -259,28 +245,7 @@ std::optional<std::string> PjLinkChannel::Ask(char protocolClass, std::string_vi
       PjLink::SameWord(reply->command, command)) {
     return reply->parameter;
   }
-  Drop(PjLink::SameWord(*text, PjLink::kWrongPassword) ? Link::WrongPassword : Link::NotUnderstood);
+  Drop(PjLink::SameWord(*text, PjLink::kWrongPassword) ? ConnectionState::PasswordRequired
+                                                       : ConnectionState::NotUnderstood);
   return std::nullopt;
-}
-
-ConnectionState PjLinkChannel::Connection() const {
-  switch (link_) {
-    case Link::NotUsed:
-      return ConnectionState::Unused;
-    case Link::Connected:
-      return ConnectionState::Connected;
-    case Link::UnknownHost:
-      return ConnectionState::NameUnknown;
-    case Link::Unreachable:
-      return ConnectionState::NotReachable;
-    case Link::Silent:
-      return ConnectionState::NoAnswer;
-    case Link::Closed:
-      return ConnectionState::Lost;
-    case Link::NotUnderstood:
-      return ConnectionState::NotUnderstood;
-    case Link::WrongPassword:
-      return ConnectionState::PasswordRequired;
-  }
-  return ConnectionState::None;
 }

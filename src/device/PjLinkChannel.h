@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "AdvancedControlExport.h"
+#include "device/ConnectionState.h"
 #include "device/ModelData.h"
 #include "device/ProjectorChannel.h"
 
@@ -53,17 +54,6 @@ class ADVANCED_CONTROL_EXPORT PjLinkChannel : public ProjectorChannel {
     std::chrono::milliseconds answer{2000};   ///< For each request.
   };
 
-  enum class Link {
-    NotUsed,  ///< No connection was wanted yet, or it is not wanted any more.
-    Connected,
-    UnknownHost,
-    Unreachable,
-    Silent,  ///< Connected, and no line came in time.
-    Closed,  ///< The projector closed the connection instead of answering.
-    NotUnderstood,
-    WrongPassword,
-  };
-
   /// `host` is a name or an address. An empty password proves nothing to a projector that has one.
   PjLinkChannel(std::string host, int port, std::string password)
       : PjLinkChannel(std::move(host), port, std::move(password), {}) {}
@@ -79,18 +69,13 @@ class ADVANCED_CONTROL_EXPORT PjLinkChannel : public ProjectorChannel {
   /// next.
   std::optional<PjLinkDescription> Describe();
 
-  ConnectionState Connection() const override;
-
-  /// How the connection stands, from any thread.
-  Link LinkState() const { return link_; }
-  /// The same as an English sentence without its full stop.
-  std::string State() const;
+  ConnectionState Connection() const override { return state_; }
 
  private:
   bool IsUsable();
   bool Open();
   bool Connect() { return IsUsable() || Open(); }
-  void Drop(Link reason);
+  void Drop(ConnectionState state);
   std::optional<std::string> ReadLine(std::size_t longest, const QDeadlineTimer& deadline);
   std::optional<std::string> Ask(char protocolClass, std::string_view command,
                                  std::string_view parameter);
@@ -102,5 +87,5 @@ class ADVANCED_CONTROL_EXPORT PjLinkChannel : public ProjectorChannel {
   std::unique_ptr<QTcpSocket> socket_;
   std::string proof_;  ///< Goes before the session's first request.
   char projectorClass_ = '1';
-  std::atomic<Link> link_ = Link::NotUsed;
+  std::atomic<ConnectionState> state_ = ConnectionState::Unused;
 };

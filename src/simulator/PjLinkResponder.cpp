@@ -175,7 +175,7 @@ std::string PjLinkResponder::SetMuted(std::string_view parameter) {
   if (!on || (part != "1" && part != "2" && part != "3")) return Error(PjLink::kOutOfRange);
   const auto value = static_cast<std::int16_t>(*on);
   if (part != "2") {
-    const std::string answer = Change({Op::SetBlank, 0, value});
+    std::string answer = Change({Op::SetBlank, 0, value});
     if (part == "1" || answer != PjLink::kDone) return answer;
   }
   return Change({Op::SetMute, 0, value});

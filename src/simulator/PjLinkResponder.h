@@ -14,9 +14,9 @@
 
 /// An input as PJLink shows it.
 struct ServedInput {
-  std::string code;         ///< Two characters: kind 1..6, then 1..9 or, in class 2, A..Z.
+  std::string code{};       ///< Two characters: kind 1..6, then 1..9 or, in class 2, A..Z.
   std::int16_t source = 0;  ///< Its input source number on the projector.
-  std::string name;         ///< UTF-8, up to 128 bytes.
+  std::string name{};       ///< UTF-8, up to 128 bytes.
 };
 
 /// The sources of a model, as its first digital inputs, then network inputs.
@@ -25,7 +25,7 @@ ADVANCED_CONTROL_EXPORT std::vector<ServedInput> InputsOf(const SourceList& sour
 /// What a projector is that is shown over PJLink.
 struct ServedProjector {
   int protocolClass = 2;  ///< 1 or 2.
-  std::vector<ServedInput> inputs;
+  std::vector<ServedInput> inputs{};
   /// What the commands that yield a text answer; UTF-8, cut where the standard bounds it.
   std::map<std::string, std::string, std::less<>> texts{
       {"NAME", "Simulated projector"},

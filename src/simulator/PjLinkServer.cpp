@@ -14,10 +14,9 @@
 
 namespace {
 
-/// A first request comes with a digest before it.
-constexpr std::size_t kLongestRequest = PjLink::kDigestLength + PjLink::kLongestLine;
+constexpr qint64 kReadBuffer = 512;  // more than any request, with a digest before it
 /// Replies that a client may leave unread.
-constexpr qint64 kMostUnread = 64 * 1024;
+constexpr qint64 kMostUnread = 65536;
 
 std::string NewSeed() {
   constexpr int kDigits = 8;
@@ -32,7 +31,7 @@ class BoundedServer final : public QTcpServer {
  protected:
   void incomingConnection(qintptr descriptor) override {
     auto* const socket = new QTcpSocket(this);
-    socket->setReadBufferSize(static_cast<qint64>(2 * kLongestRequest));
+    socket->setReadBufferSize(kReadBuffer);
     socket->setSocketDescriptor(descriptor);
     addPendingConnection(socket);
   }
@@ -61,11 +60,11 @@ class Session final : public QObject {
   }
 
   bool AnswerNext() {
-    const auto longest = static_cast<qint64>(wantedProof_.size() + PjLink::kLongestLine);
-    const QByteArray seen = socket_.peek(longest);
+    const std::size_t longest = wantedProof_.size() + PjLink::kLongestLine;
+    const QByteArray seen = socket_.peek(static_cast<qint64>(longest));
     const auto end = seen.indexOf('\r');
     if (end < 0) {
-      if (seen.size() == longest) socket_.abort();
+      if (static_cast<std::size_t>(seen.size()) == longest) socket_.abort();
       return false;
     }
     const std::string line = socket_.read(end + 1).chopped(1).toStdString();

@@ -15,10 +15,10 @@
 class ADVANCED_CONTROL_EXPORT PjLinkServer {
  public:
   struct Options {
-    std::string password;                    ///< Empty: none is wanted.
+    std::string password{};                  ///< Empty: none is wanted.
     std::size_t connections = 4;             ///< As many are served at once; a few more wait.
     std::chrono::milliseconds idle{30'000};  ///< A connection without a request is closed then.
-    ServedProjector served;
+    ServedProjector served{};
   };
 
   PjLinkServer(std::shared_ptr<ProjectorChannel> projector, Options options);

@@ -1,0 +1,343 @@
+#include <atomic>
+#include <future>
+#include <gmock/gmock.h>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <QEventLoop>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+#include "device/BoundedChannel.h"
+#include "device/CommandCode.h"
+#include "device/PjLinkChannel.h"
+#include "device/PjLinkLine.h"
+#include "simulator/PjLinkServer.h"
+#include "simulator/SimulatedProjector.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+using State = ConnectionState;
+using Op = PjtOperation;
+
+constexpr PjLinkChannel::Limits kLimits{.connect = 1s, .answer = 1s};
+constexpr PjtCommand kGetPower{Op::Get, CommandCode::RunningState};
+constexpr int kWait = 5000;
+
+const std::string kHost = "127.0.0.1";
+
+bool Accepted(const PjtCommand& command, const PjtReply& reply) {
+  return reply.answered && IsSuccess(command.operation, reply.result);
+}
+
+/// A simulated projector on a port, on a thread of its own.
+class Served {
+ public:
+  explicit Served(PjLinkServer::Options options) {
+    options.served.inputs = {{"31", 3, "HDMI"}, {"5A", 7, "Büro"}};
+    std::promise<int> listening;
+    thread_ = std::thread([&listening, options, this] {
+      PjLinkServer server(projector, options);
+      QEventLoop loop;
+      QTimer end;
+      QObject::connect(&end, &QTimer::timeout, &loop, [&] {
+        if (ended_) loop.quit();
+      });
+      end.start(10ms);
+      listening.set_value(server.Listen(kHost, 0) ? server.Port() : 0);
+      loop.exec();
+    });
+    port = listening.get_future().get();
+  }
+  ~Served() {
+    ended_ = true;
+    thread_.join();
+  }
+
+  PjLinkChannel Channel(const std::string& password = {}) const {
+    return {kHost, port, password, kLimits};
+  }
+
+  /// All that a client gets that sends these bytes, until the server closes or is silent.
+  QByteArray Exchange(const QByteArray& sent) const {
+    QTcpSocket socket;
+    socket.connectToHost(QString::fromStdString(kHost), static_cast<quint16>(port));
+    if (!socket.waitForConnected(kWait) || socket.write(sent) != sent.size()) return "unreachable";
+    while (socket.waitForReadyRead(1000)) continue;
+    return socket.readAll() + (socket.state() == QTcpSocket::ConnectedState ? "open" : "closed");
+  }
+
+  const std::shared_ptr<SimulatedProjector> projector = std::make_shared<SimulatedProjector>();
+  int port = 0;
+
+ private:
+  std::thread thread_;
+  std::atomic<bool> ended_ = false;
+};
+
+/// One connection of a scripted projector: the first text at once, each other after a request.
+struct Script {
+  std::vector<std::string> texts;
+  bool keepsOpen = false;
+};
+
+class Peer {
+ public:
+  explicit Peer(std::vector<Script> scripts) {
+    std::promise<int> listening;
+    thread_ = std::thread([&listening, scripts = std::move(scripts), this] {
+      QTcpServer server;
+      server.listen(QHostAddress(QString::fromStdString(kHost)));
+      listening.set_value(server.serverPort());
+      for (const Script& script : scripts) {
+        if (!server.waitForNewConnection(kWait)) return;
+        Play(*server.nextPendingConnection(), script);
+      }
+    });
+    port = listening.get_future().get();
+  }
+  ~Peer() { thread_.join(); }
+
+  int port = 0;
+  std::atomic<int> played = 0;  ///< Connections on which all was said, and which were closed.
+
+ private:
+  void Play(QTcpSocket& socket, const Script& script) {
+    socket.setSocketOption(QAbstractSocket::LowDelayOption, 1);
+    for (std::size_t i = 0; i < script.texts.size(); ++i) {
+      while (i > 0 && !socket.readAll().contains('\r')) {
+        if (!socket.waitForReadyRead(kWait)) return;
+      }
+      constexpr std::size_t kSingly = 200;
+      const std::string& text = script.texts[i];
+      const std::size_t piece = text.size() < kSingly ? 1 : text.size();
+      for (std::size_t at = 0; at < text.size(); at += piece) {
+        socket.write(text.data() + at, static_cast<qint64>(piece));
+        while (socket.bytesToWrite() > 0 && socket.waitForBytesWritten(kWait)) continue;
+      }
+    }
+    if (!script.keepsOpen) socket.close();
+    ++played;
+    played.notify_one();
+    if (script.keepsOpen && socket.state() == QTcpSocket::ConnectedState) {
+      socket.waitForDisconnected(kWait);
+    }
+  }
+
+  std::thread thread_;
+};
+
+const std::string kGreeting = "PJLINK 0\r";
+const std::string kFirstClass = "%1CLSS=1\r";
+const std::string kOn = "%1POWR=1\r";
+const Script kGood{{kGreeting, kFirstClass, kOn}, true};
+
+TEST(PjLinkTest, EveryOperationReachesTheProjector) {
+  const Served served({});
+  PjLinkChannel channel = served.Channel();
+  namespace Code = CommandCode;
+  const struct {
+    std::uint16_t code;
+    int held;
+    int read;
+  } reads[] = {
+      {Code::ErrorStatus, 0, 0},  {Code::ErrorStatus, 1, 1},  {Code::ErrorStatus, 2, 2},
+      {Code::ErrorStatus, 8, 8},  {Code::ErrorStatus, 6, 9},  {Code::LampTime, 65535, 65535},
+      {Code::FilterTime, 0, 0},   {Code::BlankState, 1, 1},   {Code::Mute, 1, 1},
+      {Code::Freeze, 1, 1},       {Code::InputSource, 3, 31}, {Code::InputSource, 7, 510},
+      {Code::RunningState, 2, 2}, {Code::RunningState, 0, 0}};
+  for (const auto& [code, held, read] : reads) {
+    served.projector->SetCodeValue(code, held);
+    const PjtCommand command{Op::Get, code};
+    const PjtReply reply = channel.Execute(command);
+    EXPECT_TRUE(Accepted(command, reply)) << std::hex << code;
+    EXPECT_EQ(static_cast<std::uint16_t>(reply.value), read) << std::hex << code;
+  }
+  const struct {
+    Op operation;
+    std::uint16_t code;
+    std::int16_t value;
+    std::uint16_t affected;
+    int wanted;
+  } changes[] = {{Op::SetPowerOn, 0, 0, Code::RunningState, 1},
+                 {Op::Set, Code::InputSource, 31, Code::InputSource, 3},
+                 {Op::SetBlank, 0, 0, Code::BlankState, 0},
+                 {Op::GetInputSource, 0, 0, Code::Mute, 1},
+                 {Op::Set, Code::BlankState, 1, Code::BlankState, 1},
+                 {Op::SetMute, 0, 0, Code::Mute, 0},
+                 {Op::Set, Code::Mute, 1, Code::BlankState, 1},
+                 {Op::SetFreeze, 0, 0, Code::Freeze, 0},
+                 {Op::Set, Code::Freeze, 1, Code::Freeze, 1},
+                 {Op::Inc, Code::Volume, 0, Code::Volume, 17},
+                 {Op::Dec, Code::Volume, 0, Code::Volume, 16},
+                 {Op::SetPowerOff, 0, 0, Code::RunningState, 0}};
+  for (const auto& [operation, code, value, affected, wanted] : changes) {
+    const PjtCommand command{operation, code, value};
+    EXPECT_TRUE(Accepted(command, channel.Execute(command))) << OperationName(operation);
+    EXPECT_EQ(served.projector->CodeValue(affected), wanted) << OperationName(operation);
+  }
+  EXPECT_EQ(channel.Connection(), State::Connected);
+  const PjtReply standby = channel.Execute({Op::SetMute, 0, 0});
+  EXPECT_TRUE(standby.answered && standby.offered && standby.result == 0);
+}
+
+TEST(PjLinkTest, OnlyWhatTheProjectorMayHaveIsAsked) {
+  PjLinkChannel nowhere("127.0.0.1", 1, "", kLimits);
+  for (const PjtCommand& command : {PjtCommand{Op::GetMirror},
+                                    {Op::Get, CommandCode::Brightness},
+                                    {Op::Get, CommandCode::Volume},
+                                    {Op::ExecLampTimeReset}}) {
+    const PjtReply reply = nowhere.Execute(command);
+    EXPECT_TRUE(reply.answered && !reply.offered && !Accepted(command, reply));
+  }
+  EXPECT_TRUE(nowhere.Execute({Op::Set, CommandCode::InputSource, 305}).answered);
+  EXPECT_EQ(nowhere.Connection(), State::Unused);
+
+  const Served first({.served = {.protocolClass = 1}});
+  PjLinkChannel channel = first.Channel();
+  EXPECT_FALSE(channel.Execute({Op::Get, CommandCode::Freeze}).offered);
+  EXPECT_FALSE(channel.Execute({Op::Inc, CommandCode::Volume}).offered);
+  EXPECT_EQ(channel.Describe()->inputs.at(0).name, "Digital 1");
+}
+
+TEST(PjLinkTest, PasswordsAndDescription) {
+  EXPECT_EQ(PjLink::Digest("0123abcd", "secret"), "c511f6b40a18fbb0f98750deedab010e");
+  const Served served({.password = "secret"});
+  for (const auto* const wrong : {"", "Secret"}) {
+    PjLinkChannel channel = served.Channel(wrong);
+    EXPECT_FALSE(channel.Execute(kGetPower).answered);
+    EXPECT_EQ(channel.Connection(), State::PasswordRequired);
+  }
+  PjLinkChannel channel = served.Channel("secret");
+  const auto description = channel.Describe();
+  ASSERT_TRUE(description);
+  EXPECT_EQ(description->protocolClass, 2);
+  EXPECT_EQ(description->name, "Simulated projector");
+  const SourceList sources = SourcesOf(description->inputs);
+  ASSERT_EQ(sources.count, 2);
+  EXPECT_EQ(sources.firstValues[1], 510);
+  EXPECT_EQ(NameText(sources.names[1]), "Büro");
+  BoundedChannel bounded(std::make_shared<PjLinkChannel>(kHost, served.port, "secret"));
+  for (int i = 0; i < 2; ++i) EXPECT_TRUE(Accepted(kGetPower, bounded.Execute(kGetPower)));
+}
+
+TEST(PjLinkTest, HostilePeersAreUnansweredAndTheNextCommandWorks) {
+  const auto reply = [&](const std::string& text, bool keepsOpen = true) {
+    return Script{{kGreeting, kFirstClass, text}, keepsOpen};
+  };
+  std::vector<std::pair<Script, State>> cases = {
+      {{{}, true}, State::NoAnswer},
+      {{{"PJLINK"}, true}, State::NoAnswer},
+      {{{"HTTP/1.1 400 Bad Request\r"}, true}, State::NotUnderstood},
+      {{{"PJLINK 1 0123abcx\r"}, true}, State::NotUnderstood},
+      {{{"PJLINK 1 0123abcd\r", "PJLINK ERRA\r"}}, State::PasswordRequired},
+      {{{kGreeting, std::string(10'000'000, 'x')}, true}, State::NotUnderstood},
+      {reply("%1POWR="), State::NoAnswer},
+      {reply("\r"), State::NotUnderstood},
+      {reply("%1POWR ?\r"), State::NotUnderstood},
+      {reply("%2POWR=1\r"), State::NotUnderstood},
+      {reply("%1INPT=31\r"), State::NotUnderstood},
+      {reply("%1POWR=" + std::string(129, '1') + '\r'), State::NotUnderstood}};
+  for (std::size_t length = 0; length < kOn.size(); ++length) {
+    cases.push_back({reply(kOn.substr(0, length), false), State::Lost});
+  }
+  for (const auto& [script, state] : cases) {
+    SCOPED_TRACE(script.texts.empty() ? "" : script.texts.back().substr(0, 40));
+    const Peer peer({script, kGood});
+    PjLinkChannel channel(kHost, peer.port, "", kLimits);
+    EXPECT_FALSE(channel.Execute(kGetPower).answered);
+    EXPECT_EQ(channel.Connection(), state);
+    EXPECT_EQ(channel.Execute(kGetPower).value, 1);
+    EXPECT_EQ(channel.Connection(), State::Connected);
+  }
+  const std::tuple<std::string, int, State> nowhere[] = {
+      {"no-such-projector.invalid", 4352, State::NameUnknown},
+      {"", 4352, State::WrongParameters},
+      {kHost, 1, State::NotReachable},
+      {kHost, 65536 + 4352, State::WrongParameters}};
+  for (const auto& [host, port, state] : nowhere) {
+    PjLinkChannel channel(host, port, "", kLimits);
+    EXPECT_FALSE(channel.Execute(kGetPower).answered);
+    EXPECT_FALSE(channel.Describe());
+    EXPECT_EQ(channel.Connection(), state);
+  }
+}
+
+TEST(PjLinkTest, RepliesThatAreNoValueAreRefused) {
+  for (const auto* const text : {"%1POWR=7\r", "%1POWR=ERR3\r", "%1POWR=ERR4\r", "%1POWR=\r"}) {
+    const Peer peer({Script{{kGreeting, "%1clss=ERR1\r", text, "%1powr=3\r"}, true}});
+    PjLinkChannel channel(kHost, peer.port, "", kLimits);
+    const PjtReply reply = channel.Execute(kGetPower);
+    EXPECT_TRUE(reply.answered && reply.offered && reply.result == 0) << text;
+    EXPECT_EQ(channel.Execute(kGetPower).value, 1) << "on the same connection, in another case";
+  }
+}
+
+TEST(PjLinkTest, AClosedConnectionIsOpenedAgainAndOldRepliesAreDropped) {
+  const Script standby{{kGreeting, kFirstClass, "%1POWR=0\r"}, true};
+  const Script turnedOn{{kGreeting, kFirstClass, "%1POWR=OK\r"}, true};
+  const Script breaks{{kGreeting, kFirstClass, kOn, ""}};
+  const struct {
+    Script first;
+    PjtCommand then;
+    Script second;
+    bool answered;
+  } cases[] = {{{{kGreeting, kFirstClass, kOn}}, kGetPower, standby, true},
+               {{{kGreeting, kFirstClass, kOn}}, {Op::SetPowerOn}, turnedOn, true},
+               {{{kGreeting, kFirstClass, kOn + kOn}, true}, kGetPower, standby, true},
+               {breaks, kGetPower, standby, true},
+               {breaks, {Op::SetPowerOn}, kGood, false}};
+  for (const auto& [first, then, second, answered] : cases) {
+    Peer peer({first, second});
+    PjLinkChannel channel(kHost, peer.port, "", kLimits);
+    EXPECT_EQ(channel.Execute(kGetPower).value, 1);
+    if (first.texts.size() == 3) peer.played.wait(0);
+    const PjtReply reply = channel.Execute(then);
+    EXPECT_EQ(reply.answered, answered);
+    EXPECT_EQ(reply.value, 0);
+    if (!answered) {
+      EXPECT_EQ(channel.Execute(kGetPower).value, 1);
+    }
+  }
+}
+
+TEST(PjLinkTest, TheServerAnswersAsTheStandardSays) {
+  const Served served({});
+  const std::pair<const char*, const char*> cases[] = {
+      {"%1POWR ?", "1"},      {"%1powr ?", "1"},     {"%1POWR 2", "ERR2"},   {"%2POWR ?", "ERR1"},
+      {"%3POWR ?", "ERR1"},   {"%1NONE ?", "ERR1"},  {"%1INPT 31", "OK"},    {"%2INPT ?", "31"},
+      {"%1INPT 32", "ERR2"},  {"%1INST ?", "31 5A"}, {"%2INNM ?5A", "Büro"}, {"%2INNM ?5B", "ERR2"},
+      {"%1AVMT 31", "OK"},    {"%1AVMT 20", "OK"},   {"%1AVMT ?", "11"},     {"%1AVMT 4", "ERR2"},
+      {"%1LAMP ?", "1240 1"}, {"%1LAMP 0", "ERR2"},  {"%2SVOL ?", "ERR2"},   {"%2FREZ 1", "OK"},
+      {"%2SVER ?", "1.0"},    {"%1NAME x", "ERR2"},  {"%1POWR 0", "OK"},     {"%1AVMT ?", "ERR3"}};
+  QByteArray sent;
+  QByteArray expected = "PJLINK 0\r";
+  for (const auto& [request, answer] : cases) {
+    sent.append(request).append('\r');
+    expected.append(request, 6).append('=').append(answer).append('\r');
+  }
+  EXPECT_EQ(served.Exchange(sent).toStdString(), (expected + "open").toStdString());
+  EXPECT_EQ(served.Exchange("rubbish\r%1POWR ?\r"), "PJLINK 0\rclosed");
+  EXPECT_TRUE(served.Exchange(QByteArray(10'000'000, '%')).endsWith("closed"));
+
+  const Served guarded({.password = "secret", .connections = 1, .idle = 200ms});
+  EXPECT_TRUE(guarded.Exchange("%1POWR ?\r").endsWith("\rPJLINK ERRA\rclosed"));
+  EXPECT_THAT(guarded.Exchange("").toStdString(), testing::EndsWith("\rclosed"));
+}
+
+TEST(PjLinkTest, InputNumbersAndCodesAreOneToOne) {
+  int codes = 0;
+  for (int number = -1; number <= INT16_MAX; ++number) {
+    const auto code = PjLink::InputCode(number);
+    if (!code) continue;
+    ++codes;
+    EXPECT_EQ(PjLink::InputNumber(*code), number);
+  }
+  EXPECT_EQ(codes, 6 * (9 + 26));
+}
+
+}  // namespace

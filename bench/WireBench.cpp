@@ -116,6 +116,7 @@ std::shared_ptr<Counting> ConnectTo(const FarProjector& projector, bool announce
 
 void SetCounters(benchmark::State& state, const Counting& channel, double seconds) {
   state.counters["reads"] = channel.answered;
+  state.counters["median_ms"] = seconds * 1000;
   if (state.range(0) > 0) {
     state.counters["round_trips"] = seconds * 1000 / static_cast<double>(state.range(0));
   }

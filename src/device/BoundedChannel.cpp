@@ -11,6 +11,7 @@
 
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
+#include <QEvent>
 #include <QEventLoop>
 #include <QTimer>
 
@@ -77,7 +78,7 @@ void BoundedChannel::State::WakeUp() {
   if (waiting == nullptr) return;
   changed.notify_one();
   if (waiting->loop) {
-    QMetaObject::invokeMethod(waiting->loop, &QEventLoop::quit, Qt::QueuedConnection);
+    QCoreApplication::postEvent(waiting->loop, new QEvent(QEvent::Quit));
   }
 }
 

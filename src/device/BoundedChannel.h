@@ -16,7 +16,8 @@
 /// over and the outstanding command has come back. So a projector that does not answer costs one
 /// time-out and not one per command.
 ///
-/// What is announced reaches the inner channel together with the next command.
+/// What is announced reaches the inner channel together with the next command, unless it is
+/// abandoned before.
 ///
 /// A command that comes after `Abandon` is always tried: it first waits for the outstanding one to
 /// come back, whose reply is dropped, for at most another time-out.

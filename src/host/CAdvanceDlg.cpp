@@ -338,7 +338,7 @@ void CAdvanceDlg::OnIdle() {
   const CPjtInterface::Tally sent = projector_.Sent();
   if (IsLeft() || sent.commands == sentBefore_.commands) return;
   if (sent.unanswered > sentBefore_.unanswered) {
-    status_->ShowNoAnswer();
+    status_->ShowNoAnswer(projector_.Connection());
   } else {
     status_->ShowProgress({});
   }

@@ -8,6 +8,31 @@
 #include "i18n/LocalizeControlTexts.h"
 #include "settings/CatalogNumbers.h"
 
+namespace {
+
+int ProblemText(ConnectionState connection) {
+  switch (connection) {
+    case ConnectionState::WrongParameters:
+      return ListText::WrongParameters;
+    case ConnectionState::NameUnknown:
+      return ListText::AddressUnknown;
+    case ConnectionState::NotReachable:
+      return ListText::NotReachable;
+    case ConnectionState::Lost:
+      return ListText::ConnectionLost;
+    case ConnectionState::NotUnderstood:
+      return ListText::NotUnderstood;
+    case ConnectionState::OtherVersion:
+      return ListText::OtherVersion;
+    case ConnectionState::PasswordRequired:
+      return ListText::PasswordRequired;
+    default:
+      return ListText::NoAnswer;
+  }
+}
+
+}  // namespace
+
 StatusLine::StatusLine(QWidget* parent)
     : QWidget(parent), text_(new QLabel), retry_(new QPushButton) {
   retry_->setAutoDefault(false);
@@ -24,7 +49,9 @@ QWidget* StatusLine::RetryButton() const { return retry_; }
 
 void StatusLine::ShowProgress(const QString& text) { Show(text, false); }
 
-void StatusLine::ShowNoAnswer() { Show(CatalogString(kListCategory, ListText::NoAnswer), true); }
+void StatusLine::ShowNoAnswer(ConnectionState connection) {
+  Show(CatalogString(kListCategory, ProblemText(connection)), true);
+}
 
 void StatusLine::Show(const QString& text, bool canRetry) {
   if (canRetry && retry_->text().isEmpty()) {

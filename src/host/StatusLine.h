@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+#include "device/ConnectionState.h"
+
 class QLabel;
 class QPushButton;
 
@@ -15,8 +17,8 @@ class StatusLine final : public QWidget {
 
   /// Something goes on; an empty text ends that.
   void ShowProgress(const QString& text);
-  /// Stays until the next `ShowProgress`.
-  void ShowNoAnswer();
+  /// Says why the projector did not answer. Stays until the next `ShowProgress`.
+  void ShowNoAnswer(ConnectionState connection);
 
   QWidget* RetryButton() const;
 

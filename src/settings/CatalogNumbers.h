@@ -252,6 +252,15 @@ inline constexpr int ReadUnanswered = 4304;
 inline constexpr int NoEntries = 4305;
 inline constexpr int RangeNote = 4306;  // %1 to %2 (integers)
 inline constexpr int Retry = 4307;
+
+// Why the projector did not answer.
+inline constexpr int WrongParameters = 4310;
+inline constexpr int AddressUnknown = 4311;
+inline constexpr int NotReachable = 4312;
+inline constexpr int ConnectionLost = 4313;
+inline constexpr int NotUnderstood = 4314;
+inline constexpr int OtherVersion = 4315;
+inline constexpr int PasswordRequired = 4316;
 }  // namespace ListText
 
 namespace ErrorText {

@@ -1,6 +1,9 @@
+#include <algorithm>
 #include <chrono>
 #include <map>
 
+#include <QCoreApplication>
+#include <QLabel>
 #include <QProcess>
 #include <QTcpSocket>
 #include <QTemporaryDir>
@@ -166,6 +169,25 @@ TEST_F(SimulatorTest, AProjectorThatGoesAndComesBackIsFoundAgain) {
   EXPECT_EQ(channel.Connection(), ConnectionState::NotReachable);
   Start({"--projector", kName, "--port", QString::number(address.port)});
   EXPECT_TRUE(channel.Execute(kVolume).answered);
+}
+
+TEST(ConnectionParameters, ThatAreNonsenseAreToldInTheDialogAtOnce) {
+  CModelInfo2 model;
+  model.DialogType = 5;
+  model.ConnectionKinds[0] = 1;
+  model.ConnectionParameters[0] = 70'000;
+  model.ConnectionTexts1[0] = MakeNameSlot("192.0.2.1");
+  CAdvanceDlg dialog;
+  dialog.CopyData(&model, 0);
+  const auto start = std::chrono::steady_clock::now();
+  ASSERT_TRUE(dialog.Create());
+  dialog.show();
+  QCoreApplication::processEvents();
+  EXPECT_LT(std::chrono::steady_clock::now() - start, 1500ms);
+  const auto labels = dialog.findChildren<QLabel*>();
+  EXPECT_TRUE(std::ranges::any_of(labels, [](const QLabel* label) {
+    return label->text() == "The connection parameters of the projector are wrong";
+  }));
 }
 
 }  // namespace

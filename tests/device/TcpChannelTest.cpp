@@ -5,7 +5,7 @@
 #include <thread>
 #include <utility>
 
-#include <QDeadlineTimer>
+#include <QDir>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <gtest/gtest.h>
@@ -19,7 +19,7 @@ namespace {
 using namespace std::chrono_literals;
 using enum ConnectionState;
 
-constexpr WireChannel::Limits kLimits{.connect = 300ms, .answer = 300ms};
+constexpr WireChannel::Limits kLimits{.connect = 400ms, .answer = 400ms};
 
 PjtCommand Get(int code) { return {PjtOperation::Get, static_cast<std::uint16_t>(code)}; }
 PjtCommand Set(int value) { return {PjtOperation::Set, 1, static_cast<std::int16_t>(value)}; }
@@ -94,6 +94,16 @@ void Send(QTcpSocket& socket, const std::string& bytes) {
   socket.flush();
 }
 
+constexpr std::size_t kPiece = 64 * 1024;
+
+// Ten megabytes, as far as the other end takes them.
+void Flood(QTcpSocket& socket, const std::string& piece) {
+  for (int i = 0; i < 160 && socket.state() == QTcpSocket::ConnectedState; ++i) {
+    Send(socket, piece);
+    if (socket.bytesToWrite() > 0) socket.waitForBytesWritten(100);
+  }
+}
+
 void Serve(QTcpSocket& socket, WireResponder& responder) {
   Send(socket, ReplyTo(socket, responder));
 }
@@ -125,15 +135,19 @@ TEST(TcpChannelTest, WhateverThePeerDoesTheStateIsClearAndTheNextCommandWorks) {
     Peer::Behaviour behaviour;
     ConnectionState state;
   };
-  constexpr std::size_t kMega = std::size_t{10} << 20;
+  const std::string garbage(kPiece, 'A');
   const std::string foreign =
-      FrameBytes({0x7FFF, Wire::Reply{Wire::Status::Answered, 1, 6}}, kMega / 15);
+      FrameBytes({0x7FFF, Wire::Reply{Wire::Status::Answered, 1, 6}}, kPiece / 15);
   std::vector<Case> cases{
       {"never answers", [](auto& s, auto&) { s.waitForReadyRead(10); }, NoAnswer},
       {"answers garbage", Says("HTTP/1.1 400 Bad Request\r\n\r\n"), NotUnderstood},
       {"half a frame", Says("\xA5\x5A\x02"), NoAnswer},
       {"lies about length", Says("\xA5\x5A\x02\xFF"), NotUnderstood},
-      {"ten megabytes", Says(std::string(kMega, 'A')), NotUnderstood},
+      {"ten megabytes",
+       [&](auto& socket, auto& responder) {
+         if (!ReplyTo(socket, responder).empty()) Flood(socket, garbage);
+       },
+       NotUnderstood},
       {"welcomes somebody else", Says(FrameBytes({1, Wire::Welcome{}})), NoAnswer},
       {"has another version",
        [](auto& socket, auto& responder) {
@@ -146,7 +160,7 @@ TEST(TcpChannelTest, WhateverThePeerDoesTheStateIsClearAndTheNextCommandWorks) {
        },
        OtherVersion},
       {"replies to others, a flood of them",
-       AfterWelcome([=](auto& socket, auto&) { Send(socket, foreign); }), NoAnswer},
+       AfterWelcome([&](auto& socket, auto&) { Flood(socket, foreign); }), NoAnswer},
       {"damages the reply", AfterWelcome([](auto& socket, std::string reply) {
          reply[10] ^= 1;
          Send(socket, reply);
@@ -184,6 +198,21 @@ TEST(TcpChannelTest, SaysWhyItCannotConnect) {
   TcpChannel silent("localhost", taken, kLimits);
   EXPECT_FALSE(silent.Execute(Get(1)).answered);
   EXPECT_EQ(silent.Connection(), NoAnswer);
+
+  // Nobody waits for the thread of one that is given up, and it goes.
+  const auto threads = [] {
+    return QDir("/proc/self/task").entryList(QDir::Dirs | QDir::NoDotAndDotDot).size();
+  };
+  const auto before = threads();
+  {
+    BoundedChannel givenUp(std::make_shared<TcpChannel>("127.0.0.1", taken, kLimits),
+                           {.timeOut = 10ms});
+    EXPECT_FALSE(givenUp.Execute(Get(1)).answered);
+  }
+  EXPECT_GT(threads(), before);
+  for (int i = 0; i < 200 && threads() > before; ++i) std::this_thread::sleep_for(10ms);
+  EXPECT_EQ(threads(), before);
+
   neverAccepts.close();
   TcpChannel nobody("127.0.0.1", taken, kLimits);
   EXPECT_FALSE(nobody.Execute(Get(1)).answered);

@@ -256,8 +256,7 @@ void CSetupType5TabDlg::ResetDShiftH() {
 }
 
 void CSetupType5TabDlg::OnCbnSelchangeCombStandbymode() {
-  if (List(kStandbyMode).SelectedValue() == kSaving &&
-      !Ask(ErrorText::StandbySavingQuestion)) {
+  if (List(kStandbyMode).SelectedValue() == kSaving && !Ask(ErrorText::StandbySavingQuestion)) {
     ReadBack(kStandbyMode);
     return;
   }

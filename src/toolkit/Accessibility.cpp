@@ -334,9 +334,8 @@ void NameControls(const CDialog& dialog) {
       } else if (kind == ControlKind::Text) {
         part = own;
         control->setAccessibleDescription(caption);
-      } else if (kind == ControlKind::Close) {
-        control->setAccessibleName(own);
-      } else if (kind != ControlKind::Colon && kind != ControlKind::Tab) {
+      } else if (kind != ControlKind::Colon && kind != ControlKind::Tab &&
+                 kind != ControlKind::Close) {
         control->setAccessibleName(
             QStringList{caption, part, own}.join(QLatin1Char(' ')).simplified());
       }

@@ -104,7 +104,7 @@ bool CDialog::Create() {
   ConnectNotifications();
   OnInitDialog();
   UpdateRows();
-  NameControls(*this);
+  named_ = false;
   GiveMnemonics();
   FitToScreen();
   return true;
@@ -116,6 +116,7 @@ void CDialog::GiveMnemonics() {
     if (row.controls.front().kind != ControlKind::Close) continue;
     auto& close = Item<QPushButton>(row.controls.front().id);
     QString text = close.text();
+    close.setAccessibleName(text);
     if (text.contains(QLatin1Char('&'))) continue;
     const auto letter = text.indexOf(QLatin1Char('C'), 0, Qt::CaseInsensitive);
     close.setText(letter < 0 ? text + QStringLiteral("(&C)")
@@ -362,6 +363,8 @@ const NotificationMap& CDialog::Notifications() const {
 
 void CDialog::setVisible(bool visible) {
   if (visible && orphaned_) return;
+  // Not before it is seen: a dialog has many pages, and most are not.
+  if (visible && template_ != nullptr && !std::exchange(named_, true)) NameControls(*this);
   // A page is part of its dialog: showing it must not move the focus or end an event loop.
   if (isWindow()) {
     QDialog::setVisible(visible);

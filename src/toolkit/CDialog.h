@@ -206,6 +206,7 @@ class ADVANCED_CONTROL_EXPORT CDialog : public QDialog {
   const DialogTemplate* template_ = nullptr;
   const bool onHeap_;
   bool created_ = false;
+  bool named_ = false;
   bool orphaned_ = false;
   int busy_ = 0;
   bool left_ = false;

@@ -30,7 +30,7 @@ void CurveView::paintEvent(QPaintEvent*) {
   const double labels = fontMetrics().height();
   const QRectF plot = QRectF(rect()).adjusted(labels / 2, labels / 2, -labels * 3, -labels / 2);
   const auto place = [&plot](QPolygonF points) {
-    static constexpr double kMore = 0.25;
+    static constexpr double kMore = 0.375;
     for (QPointF& point : points) {
       const double height = (point.y() + kMore) / (1 + 2 * kMore);
       point = {plot.left() + point.x() * plot.width(), plot.bottom() - height * plot.height()};

@@ -13,9 +13,10 @@ class CurveView : public QWidget {
 
  public:
   struct Line {
-    QString label;       ///< Stands at the line's end; may be empty.
-    int hue = kNoHue;    ///< Of the colour wheel, 0 to 359; the palette gives the lightness.
-    QPolygonF accepted;  ///< From left (0) to right (1), low (0) to high (1); a quarter more fits.
+    QString label;     ///< Stands at the line's end; may be empty.
+    int hue = kNoHue;  ///< Of the colour wheel, 0 to 359; the palette gives the lightness.
+    QPolygonF
+        accepted;  ///< From left (0) to right (1), low (0) to high (1); three eighths more fit.
     QPolygonF tried;
 
     static constexpr int kNoHue = -1;  ///< The palette's colour for a selection.

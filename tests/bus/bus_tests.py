@@ -164,10 +164,12 @@ class BusTest(unittest.TestCase):
                 self.assertTrue(name)
                 self.assertFalse(name.endswith(":"), "a colon is read out")
                 if role == "label":
+                    self.assertIn(node.get_description(), {"", *captions})
                     captions.add(name)
                     continue
                 self.assertIn(role, ["combo box", "slider", "push button", "check box", "text"])
-                self.assertTrue(any(name.startswith(caption) for caption in captions))
+                self.assertTrue(name == "Close" or
+                                any(name.startswith(caption) for caption in captions))
                 if role == "combo box":
                     self.check_list(node, captions)
                 elif role == "slider":
@@ -217,6 +219,21 @@ class BusTest(unittest.TestCase):
                             with self.subTest(tab=tab, name=name):
                                 self.operate(dialog, page, name, action, commands)
                 self.assertEqual(dialog.close(), 0)
+
+
+    def test_a_pop_up_is_told_and_can_be_left(self):
+        dialog = Dialog(5, 44)
+        page = dialog.show("Option")
+        program = dialog.window.get_parent()
+        act(next(n for n in children(page) if n.get_name() == "Service Service..."), "Press")
+        popup = until("a pop-up", lambda: next(
+            (window for window in children(program) if window != dialog.window), None))
+        dialog.commands(1)
+        self.check_page(popup)
+        self.operate(dialog, popup, "IR Remote Front", None, ["SetIRFront(0)"])
+        act(next(node for node in children(popup) if node.get_name() == "Close"), "Press")
+        until("an end of the pop-up", lambda: len(children(program)) == 1)
+        self.assertEqual(dialog.close(), 0)
 
 
 if __name__ == "__main__":

@@ -36,7 +36,7 @@ TEST(Tabs, APageWithoutATabExistsToo) {
   OpenDialog open(MakeModel(2, 5));
   CTabPage& hidden = open.Dialog().Page(PageId::Auto2);
   EXPECT_NE(hidden.Template(), nullptr);
-  EXPECT_EQ(hidden.pos(), QPoint(20, 64));
+  EXPECT_EQ(hidden.mapTo(&open.Dialog(), QPoint()), QPoint(20, 64));
   EXPECT_EQ(open.Dialog().Page(PageId::Main).Template(), nullptr) << "of another page set";
 }
 
@@ -114,11 +114,11 @@ TEST(Keyboard, FocusGoesThroughTheRowsAndOnToTheButton) {
   ASSERT_EQ(QApplication::focusWidget(), tabs) << "the focus never came round";
   EXPECT_EQ(seen.back(), open.Dialog().GetDlgItem(1));
   seen.pop_back();
-  int last = -1;
+  QPoint last;
   for (QWidget* control : seen) {
     ASSERT_EQ(control->parentWidget(), &open.Page());
-    const int at = (control->geometry().center().y() / 8) * 1000 + control->x();
-    EXPECT_GT(at, last) << "row by row, left to right";
+    const QPoint at(control->x(), control->geometry().center().y());
+    EXPECT_TRUE(at.y() > last.y() + 8 || at.x() > last.x()) << "row by row, left to right";
     last = at;
   }
   EXPECT_GE(seen.size(), 20U);

@@ -12,6 +12,7 @@
 #include <QSlider>
 #include <QStyle>
 #include <QTabBar>
+#include <QTest>
 #include <gtest/gtest.h>
 
 #include "app/ProfileFile.h"
@@ -191,6 +192,9 @@ void ExpectNothingClipped(const CDialog& page) {
 
 // Window, tabs and Close are on the screen, and so is each control that gets the focus.
 void ExpectInReach(CDialog& dialog) {
+  dialog.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+  QApplication::processEvents();  // the scroll bars learn what there is to scroll
   const QSize screen = dialog.screen()->availableGeometry().size();
   EXPECT_EQ(dialog.size().boundedTo(screen), dialog.size());
   const auto inSight = [&dialog](const QWidget& widget) {

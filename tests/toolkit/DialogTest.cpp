@@ -169,11 +169,11 @@ TEST_F(DialogTest, AListReportsChoicesOfTheUserOnly) {
   EXPECT_EQ(combo.SelectedValue(), 6);
 }
 
-TEST_F(DialogTest, EnterPressesNothingAndEscCloses) {
-  for (const int id : {9, 4, 10}) driver.Press(id, Qt::Key_Return);
+TEST_F(DialogTest, EnterPressesTheFocusedButtonOnlyAndEscCloses) {
+  for (const int id : {9, 4}) driver.Press(id, Qt::Key_Return);
   EXPECT_EQ(dialog.presses, 0);
-  driver.Press(10, Qt::Key_Space);
-  EXPECT_EQ(dialog.presses, 1);
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) driver.Press(10, key);
+  EXPECT_EQ(dialog.presses, 3);
   EXPECT_TRUE(dialog.isVisible());
   driver.Press(9, Qt::Key_Escape);
   EXPECT_FALSE(dialog.isVisible());

@@ -2,7 +2,7 @@
 
 // A channel's offset lifts its line, its gain tilts it.
 std::vector<CurveView::Line> CColorDlg::LinesOf(const Values& values) const {
-  static constexpr double kStep = 1.0 / 256;
+  static constexpr double kStep = 1.0 / 128;
   std::vector<CurveView::Line> lines{{QStringLiteral("R"), 0, {}, {}},
                                      {QStringLiteral("G"), 120, {}, {}},
                                      {QStringLiteral("B"), 220, {}, {}}};
@@ -10,7 +10,7 @@ std::vector<CurveView::Line> CColorDlg::LinesOf(const Values& values) const {
     const auto gain = values[channel];
     const auto offset = values[channel + lines.size()];
     if (!gain || !offset) continue;
-    const double start = *offset * kStep;
+    const double start = *offset * kStep / 2;
     lines[channel].accepted << QPointF(0, start) << QPointF(1, 1 + start + *gain * kStep);
   }
   return lines;

@@ -2,7 +2,7 @@
 
 // Each point lifts or lowers the straight line at its place.
 std::vector<CurveView::Line> CGammaDlg::LinesOf(const Values& values) const {
-  static constexpr double kLift = 1.0 / 64;
+  static constexpr double kLift = 1.0 / 48;
   CurveView::Line line;
   for (std::size_t point = 0; point < values.size(); ++point) {
     if (!values[point]) continue;

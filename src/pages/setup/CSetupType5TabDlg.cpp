@@ -65,8 +65,7 @@ int CSetupType5TabDlg::DisableVolumeCtrl(bool disable) {
 }
 
 void CSetupType5TabDlg::OnCbnSelchangeCombStandbymode() {
-  if (List(kStandbyMode).SelectedValue() == kSaving &&
-      !Ask(ErrorText::StandbySavingQuestion)) {
+  if (List(kStandbyMode).SelectedValue() == kSaving && !Ask(ErrorText::StandbySavingQuestion)) {
     ReadBack(kStandbyMode);
     return;
   }

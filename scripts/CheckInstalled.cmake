@@ -5,6 +5,8 @@
 # and at the functions that the libraries show: those of exported-symbols.txt beside this file, which
 # UPDATE_EXPORTS writes anew.
 
+cmake_minimum_required(VERSION 3.25)
+
 set(first ${BUILD_DIR}/installed)
 set(prefix ${BUILD_DIR}/installed-and-moved)
 set(example ${BUILD_DIR}/installed-example)
@@ -50,6 +52,9 @@ foreach(built libAdvancedControl.so libProjectorCommon.so advanced-control)
                   COMMAND_ERROR_IS_FATAL ANY)
   if(NOT used MATCHES "__stack_chk_fail")
     message(FATAL_ERROR "${built} has no stack protector")
+  endif()
+  if(built MATCHES "^lib" AND NOT used MATCHES "__[a-z]+printf_chk")
+    message(FATAL_ERROR "${built} is not fortified")
   endif()
 endforeach()
 

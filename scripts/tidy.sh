@@ -3,4 +3,4 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 find src app -name '*.cpp' -print0 |
-  xargs -0 -n 4 -P "$(nproc)" clang-tidy --quiet -p "$1" 2>/dev/null
+  xargs -0 -n 1 -P "$(nproc)" clang-tidy --quiet -p "$1" 2>/dev/null

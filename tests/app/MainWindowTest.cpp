@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QLabel>
 #include <QListWidget>
 #include <QPointer>
 #include <QPushButton>
@@ -20,6 +21,7 @@
 #include "app/MainWindow.h"
 #include "app/ProjectorView.h"
 #include "host/CAdvanceDlg.h"
+#include "i18n/Catalog.h"
 
 namespace {
 
@@ -128,6 +130,14 @@ TEST(MainWindow, HasOneDialogPerProjectorAndLogsTheirCommands) {
         window.close();
       },
   });
+}
+
+TEST(MainWindow, SaysWhyThereIsNoCatalog) {
+  const std::string nowhere = "/nowhere";
+  ASSERT_EQ(LoadCatalog(std::span(&nowhere, 1)), -1);
+  const MainWindow window({Profile("A")});
+  EXPECT_TRUE(Child<QLabel>(window, CatalogProblem().c_str()).text().contains("/nowhere"));
+  ASSERT_EQ(LoadCatalog(), 0);
 }
 
 TEST(FaultPanel, SetsAndRemovesFaultsOfTheSelectedProjector) {

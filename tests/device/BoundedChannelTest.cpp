@@ -209,10 +209,13 @@ TEST_F(BoundedChannelTest, DestructionWaitsForNobody) {
 TEST_F(BoundedChannelTest, DestructionFromInsideTheWaitIsSafe) {
   gate_->Open(false);
   auto channel = std::make_unique<BoundedChannel>(gate_, BoundedChannel::Limits{.timeOut = 1h});
-  QTimer::singleShot(10, [&] {
+  QTimer timer;
+  timer.callOnTimeout([&] {
+    if (gate_->executed == 0) return;
     channel.reset();
     gate_->Open(true);
   });
+  timer.start(1);
   BoundedChannel* const inUse = channel.get();
   EXPECT_TRUE(inUse->Execute(kCommand).answered);
   EXPECT_EQ(channel, nullptr);

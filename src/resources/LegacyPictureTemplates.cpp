@@ -38,21 +38,6 @@ constexpr ArrowIds kImage4Arrows{20202, 20204, 20201, 20203, 20205, 20206};
 constexpr ArrowIds kPicture2Arrows{21054, 21055, 21052, 21053, 20021, 20022};
 constexpr ArrowIds kPicture22Arrows{20031, 20033, 20034, 20032, 20045, 20044};
 
-constexpr RowTemplate kPicRows[] = {
-    SliderRow(Left, Label(20534, "1073;Brightness\t:"), 20535, {20134, 20136, 20135, 20329}),
-    SliderRow(Left, Label(20536, "74;Contrast\t:"), 20537, {20137, 20138, 20139, 20330}),
-    Row(Left, Label(20468, "41;Gamma\t\t:"), Colon(20476), Combo(20142),
-        Button(20133, "120;Custom...")),
-    Row(Left, Label(20593, "115;Color Temp\t:"), Colon(20594), Combo(20144),
-        Button(20143, "120;Custom...")),
-    SliderRow(Left, Label(20595, "116;Color\t\t:"), 20596, {20147, 20151, 20149, 20331}),
-    SliderRow(Left, Label(20597, "117;Tint\t\t:"), 20598, {21061, 21062, 21063, 20332}),
-    SliderRow(Left, Label(20599, "118;Sharpness\t:"), 20600, {20148, 20152, 20150, 20333}),
-    ListRow(Left, Label(20146, "60;Progressive\t:"), 20392, 20145),
-    ExecuteRow(Left, Label(20601, "119;My Memory\t:"), 20602, 21064, 21065),
-    ExecuteRow(Bottom, Label(20487, "51;Reset\t\t:"), 20423, 20157, 21070),
-};
-
 constexpr RowTemplate kPicture1Rows[] = {
     ListRow(Left, Label(20601, "41;Gamma\t\t:"), 20701, 21045),
     SliderRow(Left, Label(20602, "121;Custom Gamma\t:"), 20702, {20801, 21047, 20802, 21121}),
@@ -123,9 +108,6 @@ constexpr RowTemplate kImage4Rows[] = {
 };
 
 }  // namespace
-
-const DialogTemplate kPicTemplate{
-    .number = TemplateId::Pic, .width = kPageWidth, .height = kPageHeight, .rows = kPicRows};
 
 const DialogTemplate kPicture1Template{.number = TemplateId::Picture1,
                                        .width = kPageWidth,

@@ -1,3 +1,5 @@
+#include <array>
+
 #include "resources/AdvancedControlResources.h"
 #include "resources/Templates.h"
 
@@ -6,22 +8,30 @@ namespace {
 using namespace tmpl;
 using enum RowPlace;
 
-constexpr RowTemplate kPictureRows[] = {
-    SliderRow(Left, Label(20534, "73;Brightness\t:"), 20535, {20134, 20136, 20135, 20329}),
-    SliderRow(Left, Label(20536, "74;Contrast\t:"), 20537, {20137, 20138, 20139, 20330}),
-    Row(Left, Label(20468, "41;Gamma\t\t:"), Colon(20476), Combo(20142),
-        Button(20133, "120;Custom...")),
-    Row(Left, Label(20593, "115;Color Temp\t:"), Colon(20594), Combo(20144),
-        Button(20143, "120;Custom...")),
-    SliderRow(Left, Label(20595, "116;Color\t\t:"), 20596, {20147, 20151, 20149, 20331}),
-    SliderRow(Left, Label(20597, "117;Tint\t\t:"), 20598, {21061, 21062, 21063, 20332}),
-    SliderRow(Left, Label(20599, "118;Sharpness\t:"), 20600, {20148, 20152, 20150, 20333}),
-    Row(Left, Label(20621, "128;Active Iris\t:"), Colon(20622), Combo(20293)),
-    Row(Left, Label(20601, "119;My Memory\t:"), Colon(20602), Combo(21064),
-        Button(21065, "17;Execute")),
-    Row(Bottom, Label(20487, "51;Reset\t\t:"), Colon(20423), Combo(20157),
-        Button(21070, "17;Execute")),
-};
+// The two pages that open the pop-ups differ in a caption and in the row behind sharpness.
+constexpr std::array<RowTemplate, 10> PictureRows(const char* brightness, const RowTemplate& own) {
+  return {
+      SliderRow(Left, Label(20534, brightness), 20535, {20134, 20136, 20135, 20329}),
+      SliderRow(Left, Label(20536, "74;Contrast\t:"), 20537, {20137, 20138, 20139, 20330}),
+      Row(Left, Label(20468, "41;Gamma\t\t:"), Colon(20476), Combo(20142),
+          Button(20133, "120;Custom...")),
+      Row(Left, Label(20593, "115;Color Temp\t:"), Colon(20594), Combo(20144),
+          Button(20143, "120;Custom...")),
+      SliderRow(Left, Label(20595, "116;Color\t\t:"), 20596, {20147, 20151, 20149, 20331}),
+      SliderRow(Left, Label(20597, "117;Tint\t\t:"), 20598, {21061, 21062, 21063, 20332}),
+      SliderRow(Left, Label(20599, "118;Sharpness\t:"), 20600, {20148, 20152, 20150, 20333}),
+      own,
+      Row(Left, Label(20601, "119;My Memory\t:"), Colon(20602), Combo(21064),
+          Button(21065, "17;Execute")),
+      Row(Bottom, Label(20487, "51;Reset\t\t:"), Colon(20423), Combo(20157),
+          Button(21070, "17;Execute")),
+  };
+}
+
+constexpr auto kPictureType5Rows = PictureRows(
+    "73;Brightness\t:", Row(Left, Label(20621, "128;Active Iris\t:"), Colon(20622), Combo(20293)));
+constexpr auto kPicRows = PictureRows(
+    "1073;Brightness\t:", Row(Left, Label(20146, "60;Progressive\t:"), Colon(20392), Combo(20145)));
 
 // A row of a custom pop-up: no colon, a Reset button of its own.
 constexpr RowTemplate CustomRow(const ControlTemplate& label, const SliderIds& ids, int reset) {
@@ -58,7 +68,10 @@ constexpr RowTemplate kColorTempRows[] = {
 const DialogTemplate kPictureType5Template{.number = TemplateId::PictureType5,
                                            .width = kPageWidth,
                                            .height = kPageHeight,
-                                           .rows = kPictureRows};
+                                           .rows = kPictureType5Rows};
+
+const DialogTemplate kPicTemplate{
+    .number = TemplateId::Pic, .width = kPageWidth, .height = kPageHeight, .rows = kPicRows};
 
 const DialogTemplate kGammaTemplate{
     .number = TemplateId::Gamma, .caption = "28;Gamma -Custom-", .rows = kGammaRows};

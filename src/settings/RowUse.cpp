@@ -29,6 +29,7 @@ bool Send(CPjtInterface& projector, const ListRow& row, const ModelData& model, 
           int value) {
   const int position = PositionOf(row.entries.Of(model), value);
   if (!row.send || position < 0) return false;
+  if (value == row.rules.placeholder.Of(model.ModelCode)) return false;
   const int sent = row.rules.sendsPosition ? position : value;
   return Perform(projector, *row.Sending(source), sent, model.ModelCode).accepted;
 }

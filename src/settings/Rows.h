@@ -67,6 +67,11 @@ struct ListRules {
   /// After every choice the setting is read as in a refresh: the setter has no result, so nothing
   /// else tells what the projector made of it.
   bool readsBackAlways = false;
+  /// Value of a list's last entry that stands for all values without an entry. It is never sent: a
+  /// choice of it shows what the projector has.
+  PerModel<int> placeholder{kNoPlaceholder};
+
+  static constexpr int kNoPlaceholder = -1;
 };
 
 /// A setting with a list of values.

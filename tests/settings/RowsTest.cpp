@@ -26,7 +26,7 @@ ModelData Model(int dialogType, int modelCode) {
   fill(model.AspectList, {0, 1, 8, 9});
   fill(model.GammaList, {16, 17, 32, 33});
   fill(model.ColorTempList, {1, 2, 3, 17});
-  fill(model.MyButtonList, {0, 4, 5, 16, 17});
+  fill(model.MyButtonList, {0, 4, 5, 16, 17, 255});
   for (const char* name : {"Normal", "Whisper"}) {
     model.WhisperList.names[static_cast<std::size_t>(model.WhisperList.count++)] =
         MakeNameSlot(name);
@@ -93,8 +93,11 @@ struct RowInUse {
       }
     }
     if (!list.send) return;
-    for (const ListEntry& entry : entries) ExpectArrives(entry.value, list.read.has_value());
-    EXPECT_FALSE(SendRow(pjt, row, model, 12345)) << "stands for no entry";
+    const int placeholder = list.rules.placeholder.Of(model.ModelCode);
+    for (const ListEntry& entry : entries) {
+      if (entry.value != placeholder) ExpectArrives(entry.value, list.read.has_value());
+    }
+    for (const int value : {placeholder, 12345}) EXPECT_FALSE(SendRow(pjt, row, model, value));
   }
 
   // Steps and positions arrive, inside the slider's range.

@@ -266,6 +266,10 @@ void RowDialog::Refresh(const ListRow& row, Bound&, Source source) {
   if (row.rules.noEntry == NoEntry::Ignored && list.findData(*value) < 0) return;
   list.setEnabled(true);
   Select(row, *value);
+  if (list.currentIndex() >= 0) return;
+  const bool hasPlaceholder =
+      row.rules.placeholder.Of(Model().ModelCode) != ListRules::kNoPlaceholder;
+  if (hasPlaceholder) list.Select(list.count() - 1);
 }
 
 void RowDialog::Select(const ListRow& row, int value) {
@@ -316,6 +320,10 @@ void RowDialog::Operate(const ListRow& row, Bound& bound, int) {
   CComboBox& list = List(row.control);
   const auto chosen = list.SelectedValue();
   if (!chosen || !row.send) return;
+  if (*chosen == row.rules.placeholder.Of(Model().ModelCode)) {
+    if (const auto value = Read(*projector, *row.read)) list.SelectValue(*value);
+    return;
+  }
   const auto source = Ask(row.of);
   if (!source) return;
   const int value = row.rules.sendsPosition ? list.currentIndex() : *chosen;

@@ -7,12 +7,10 @@
 #include "resources/AdvancedControlResources.h"
 #include "settings/MyButtons.h"
 #include "settings/PageTables.h"
-#include "toolkit/CComboBox.h"
 
 namespace {
 
 constexpr int kMyButton1 = 20371;
-constexpr int kMyButton2 = 20372;
 constexpr int kService = 20373;
 
 }  // namespace
@@ -21,12 +19,7 @@ COption5TabDlg::COption5TabDlg(CWnd* parent)
     : CTabPage(TemplateId::OptionType5, kOptionType5Rows, parent) {}
 
 std::vector<Notification> COption5TabDlg::OwnNotifications() const {
-  using Self = COption5TabDlg;
-  return {
-      SelChange(kMyButton1, &Self::OnCbnSelchangeOpt5Mybtn1comb),
-      SelChange(kMyButton2, &Self::OnCbnSelchangeOpt5Mybtn2comb),
-      Clicked(kService, &Self::OnBnClickedOpt5Btnsvc),
-  };
+  return {Clicked(kService, &COption5TabDlg::OnBnClickedOpt5Btnsvc)};
 }
 
 bool COption5TabDlg::OnInitDialog() {
@@ -39,16 +32,6 @@ bool COption5TabDlg::OnInitDialog() {
   return true;
 }
 
-void COption5TabDlg::InitDisp() {
-  CTabPage::InitDisp();
-  if (!HasOtherFunction()) return;
-  // The last entry of these models' lists is the one for assignments that the list does not offer.
-  for (const int id : {kMyButton1, kMyButton2}) {
-    CComboBox& list = List(id);
-    if (list.isEnabledTo(this) && list.currentIndex() < 0) list.Select(list.count() - 1);
-  }
-}
-
 int COption5TabDlg::GetMyBtnIdx(int code) const {
   const auto found = std::ranges::find(myButtonCodes_, code);
   return found == myButtonCodes_.end() ? -1 : static_cast<int>(found - myButtonCodes_.begin());
@@ -59,23 +42,8 @@ int COption5TabDlg::GetMyBtnVal(int index) const {
   return inside ? myButtonCodes_[static_cast<std::size_t>(index)] : -1;
 }
 
-bool COption5TabDlg::HasOtherFunction() const {
-  return kCodesWithOtherFunction.Contains(Model().ModelCode);
-}
-
-void COption5TabDlg::ChooseMyButton(int list) {
-  if (!HasOtherFunction() || List(list).SelectedValue() != kOtherFunction) {
-    Act(list);
-    return;
-  }
-  short code = 0;
-  const int read = list == kMyButton1 ? projector->GetMyButton1(&code)  //
-                                      : projector->GetMyButton2(&code);
-  if (read != 0) List(list).SelectValue(code);
-}
-
-void COption5TabDlg::OnCbnSelchangeOpt5Mybtn1comb() { ChooseMyButton(kMyButton1); }
-void COption5TabDlg::OnCbnSelchangeOpt5Mybtn2comb() { ChooseMyButton(kMyButton2); }
+void COption5TabDlg::OnCbnSelchangeOpt5Mybtn1comb() { Act(kMyButton1); }
+void COption5TabDlg::OnCbnSelchangeOpt5Mybtn2comb() { Act(20372); }
 
 void COption5TabDlg::OnBnClickedOpt5Btnsvc() {
   CServiceDlg dialog(this);

@@ -13,8 +13,6 @@ class ADVANCED_CONTROL_EXPORT COption5TabDlg final : public CTabPage {
  public:
   explicit COption5TabDlg(CWnd* parent);
 
-  void InitDisp() override;
-
   /// Index of a function code among the codes of the my-button lists, or −1.
   int GetMyBtnIdx(int code) const;
   /// The function code at an index, or −1 for an index without one.
@@ -41,8 +39,5 @@ class ADVANCED_CONTROL_EXPORT COption5TabDlg final : public CTabPage {
   bool OnInitDialog() override;
 
  private:
-  bool HasOtherFunction() const;
-  void ChooseMyButton(int list);
-
   std::vector<int> myButtonCodes_;
 };

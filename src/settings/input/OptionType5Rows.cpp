@@ -57,7 +57,9 @@ int TextOfFunction(int code, int modelCode) {
 
 constexpr ListRules kReadBack{.refused = Refused::ReadsBack};
 // Other than in a refresh, what is read back is the position, not a code to look up.
-constexpr ListRules kMyButton{.refused = Refused::ReadsBackPosition};
+constexpr ListRules kMyButton{
+    .refused = Refused::ReadsBackPosition,
+    .placeholder = {ListRules::kNoPlaceholder, kCodesWithOtherFunction, kOtherFunction}};
 
 // clang-format off
 constexpr PageRow kRows[] = {

@@ -4,6 +4,36 @@
 
 namespace {
 
+// What Qt's application objects and its platforms take; with one hyphen or two.
+const QStringList kToolkitValues{
+    "platform", "platformpluginpath", "platformtheme", "plugin",       "qwindowgeometry",
+    "geometry", "qwindowicon",        "icon",          "qwindowtitle", "title",
+    "style",    "stylesheet",         "session",       "display",      "name"};
+const QStringList kToolkitSwitches{"reverse", "widgetcount", "nograb", "dograb", "sync"};
+
+struct Arguments {
+  QStringList own;
+  QStringList toolkit;  ///< Names alone.
+};
+
+Arguments Divide(const QStringList& all) {
+  Arguments divided;
+  for (qsizetype i = 0; i < all.size(); ++i) {
+    const QString& argument = all[i];
+    const auto hyphens = argument.startsWith(QLatin1String("--")) ? 2 : 1;
+    const QString name = argument.mid(hyphens).section(QLatin1Char('='), 0, 0);
+    const bool takesValue = kToolkitValues.contains(name);
+    if (!argument.startsWith(QLatin1Char('-')) ||
+        (!takesValue && !kToolkitSwitches.contains(name))) {
+      divided.own += argument;
+      continue;
+    }
+    divided.toolkit += name;
+    if (takesValue && !argument.contains(QLatin1Char('='))) ++i;
+  }
+  return divided;
+}
+
 CommandLine Wrong(const QString& error) {
   CommandLine line;
   line.error = error;
@@ -38,7 +68,8 @@ CommandLine ParseCommandLine(const QStringList& arguments) {
       "language", "Show texts in the language <id>: 1033 English, 2052 Chinese.", "id");
   parser.addOptions({help, profiles, open, tab, list, screenshot, tour, language});
 
-  if (!parser.parse(arguments)) return Wrong(parser.errorText());
+  const auto [own, toolkit] = Divide(arguments);
+  if (!parser.parse(own)) return Wrong(parser.errorText());
   if (!parser.positionalArguments().isEmpty()) {
     return Wrong(
         QStringLiteral("Unexpected argument '%1'.").arg(parser.positionalArguments().first()));
@@ -68,6 +99,8 @@ CommandLine ParseCommandLine(const QStringList& arguments) {
     }
   }
 
+  line.platform = toolkit.contains(QLatin1String("platform"));
+  line.style = toolkit.contains(QLatin1String("style"));
   line.profiles = parser.value(profiles);
   line.open = parser.value(open);
   if (parser.isSet(tab)) {

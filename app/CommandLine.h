@@ -16,10 +16,13 @@ struct CommandLine {
   QString target;               ///< File of `Screenshot`, folder of `Tour`.
   std::optional<int> language;  ///< 1033 or 2052.
   QString help;                 ///< The text for `Help`.
+  bool platform = false;        ///< Qt is told its platform,
+  bool style = false;           ///< or its style.
 
   /// One line; empty when the arguments can be followed.
   QString error;
 };
 
-/// Reads the arguments, the first of which is the program's name. Needs an application object.
+/// Reads the arguments, the first of which is the program's name; those that Qt takes for itself
+/// (`-style`, `-platform` ...) are left to it. Needs an application object.
 CommandLine ParseCommandLine(const QStringList& arguments);

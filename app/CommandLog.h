@@ -1,50 +1,19 @@
 #pragma once
 
 #include <chrono>
-#include <cstddef>
-#include <deque>
 #include <vector>
 
-#include <QAbstractTableModel>
-#include <QTime>
 #include <QTimer>
 #include <QWidget>
 
-#include "device/ProjectorChannel.h"
+#include "app/CommandLogModel.h"
 
+class QAction;
+class QHeaderView;
 class QTableView;
 
-/// The commands given and what came back, oldest first; the oldest are dropped beyond a limit.
-class CommandLogModel : public QAbstractTableModel {
-  Q_OBJECT
-
- public:
-  enum Column { Time, Projector, Command, Value, Result, Duration, ColumnCount };
-  static constexpr std::size_t kMaximumEntries = 5000;
-
-  struct Entry {
-    QTime time;
-    QString projector;
-    PjtCommand command;
-    PjtReply reply;
-    std::chrono::microseconds elapsed;
-  };
-
-  using QAbstractTableModel::QAbstractTableModel;
-
-  void Append(std::vector<Entry> entries);
-  void Clear();
-
-  int rowCount(const QModelIndex& parent = {}) const override;
-  int columnCount(const QModelIndex& parent = {}) const override;
-  QVariant data(const QModelIndex& index, int role) const override;
-  QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
-
- private:
-  std::deque<Entry> entries_;
-};
-
-/// Shows the log and follows its newest entry unless the user has scrolled back.
+/// Shows the log and follows its newest entry unless the user has scrolled back. Its rows can be
+/// copied, saved and reduced to those that asked for a change.
 class CommandLog : public QWidget {
   Q_OBJECT
 
@@ -52,19 +21,35 @@ class CommandLog : public QWidget {
   explicit CommandLog(QWidget* parent = nullptr);
 
   /// Takes an entry; entries that come close upon each other are shown together.
-  void Add(const QString& projector, const PjtCommand& command, const PjtReply& reply,
-           std::chrono::microseconds elapsed);
+  void Add(CommandLogModel::Entry entry);
   void Clear();
+
+  /// Writes all that is shown, with a line of titles. Empty, or one line on what went wrong.
+  QString Save(const QString& fileName) const;
+
+  QHeaderView& Columns() const;
+
+  /// For a menu; owned by the log.
+  QAction* ChangesOnly() const { return changesOnly_; }
+  QAction* SaveAs() const { return saveAs_; }
+  QAction* ClearAll() const { return clear_; }
 
  Q_SIGNALS:
   /// New entries are shown.
   void Updated();
 
  private:
+  void MakeColumns();
   void ShowPending();
+  void CopySelected() const;
+  void AskAndSave();
 
   CommandLogModel* model_;
+  CommandLogFilter* shown_;
   QTableView* view_;
+  QAction* changesOnly_;
+  QAction* saveAs_;
+  QAction* clear_;
   std::vector<CommandLogModel::Entry> pending_;
   QTimer gather_;
 };

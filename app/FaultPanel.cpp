@@ -6,6 +6,7 @@
 
 #include <QComboBox>
 #include <QCompleter>
+#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QListWidget>
@@ -21,11 +22,21 @@ struct NamedValue {
   const char* name;
 };
 
-constexpr NamedValue kPowerStates[] = {{0, "Standby"}, {1, "On"}, {2, "Cooling down"}};
+constexpr NamedValue kPowerStates[] = {{0, QT_TRANSLATE_NOOP("FaultPanel", "Standby")},
+                                       {1, QT_TRANSLATE_NOOP("FaultPanel", "On")},
+                                       {2, QT_TRANSLATE_NOOP("FaultPanel", "Cooling down")}};
 constexpr NamedValue kErrorStates[] = {
-    {0, "No error"},    {1, "Cover"},        {2, "Fan"},         {3, "Lamp"},
-    {4, "Temperature"}, {5, "Air flow"},     {6, "Lamp time"},   {7, "Cold"},
-    {8, "Filter"},      {12, "Filter time"}, {99, "Other (99)"},
+    {0, QT_TRANSLATE_NOOP("FaultPanel", "No error")},
+    {1, QT_TRANSLATE_NOOP("FaultPanel", "Cover")},
+    {2, QT_TRANSLATE_NOOP("FaultPanel", "Fan")},
+    {3, QT_TRANSLATE_NOOP("FaultPanel", "Lamp")},
+    {4, QT_TRANSLATE_NOOP("FaultPanel", "Temperature")},
+    {5, QT_TRANSLATE_NOOP("FaultPanel", "Air flow")},
+    {6, QT_TRANSLATE_NOOP("FaultPanel", "Lamp time")},
+    {7, QT_TRANSLATE_NOOP("FaultPanel", "Cold")},
+    {8, QT_TRANSLATE_NOOP("FaultPanel", "Filter")},
+    {12, QT_TRANSLATE_NOOP("FaultPanel", "Filter time")},
+    {99, QT_TRANSLATE_NOOP("FaultPanel", "Other (99)")},
 };
 
 struct NamedKind {
@@ -34,10 +45,10 @@ struct NamedKind {
 };
 
 constexpr NamedKind kKinds[] = {
-    {Fault::Kind::Refuse, "Refuse"},
-    {Fault::Kind::FailRead, "Fail reads"},
-    {Fault::Kind::Late, "Delay"},
-    {Fault::Kind::DropOut, "Drop out"},
+    {Fault::Kind::Refuse, QT_TRANSLATE_NOOP("FaultPanel", "Refuse")},
+    {Fault::Kind::FailRead, QT_TRANSLATE_NOOP("FaultPanel", "Fail reads")},
+    {Fault::Kind::Late, QT_TRANSLATE_NOOP("FaultPanel", "Delay")},
+    {Fault::Kind::DropOut, QT_TRANSLATE_NOOP("FaultPanel", "Drop out")},
 };
 
 constexpr int kMaximumDelay = 60000;
@@ -59,7 +70,7 @@ std::map<std::uint16_t, QStringList> NamedCodes() {
 }
 
 void Fill(QComboBox& combo, std::span<const NamedValue> values) {
-  for (const NamedValue& value : values) combo.addItem(QLatin1String(value.name), value.value);
+  for (const NamedValue& value : values) combo.addItem(FaultPanel::tr(value.name), value.value);
 }
 
 void SelectValue(QComboBox& combo, int value) { combo.setCurrentIndex(combo.findData(value)); }
@@ -81,36 +92,36 @@ FaultPanel::FaultPanel(QWidget* parent)
       target_(new QComboBox),
       kind_(new QComboBox),
       delay_(new QSpinBox),
-      set_(new QPushButton(QStringLiteral("&Set Fault"))),
+      set_(new QPushButton(tr("&Set Fault"))),
       faults_(new QListWidget),
-      remove_(new QPushButton(QStringLiteral("&Remove"))),
-      clear_(new QPushButton(QStringLiteral("Remove &All"))) {
+      remove_(new QPushButton(tr("&Remove"))),
+      clear_(new QPushButton(tr("Remove &All"))) {
   Fill(*power_, kPowerStates);
   Fill(*error_, kErrorStates);
   FillTargets();
   for (const NamedKind& kind : kKinds) {
-    kind_->addItem(QLatin1String(kind.name), static_cast<int>(kind.kind));
+    kind_->addItem(tr(kind.name), static_cast<int>(kind.kind));
   }
   delay_->setRange(1, kMaximumDelay);
   delay_->setSingleStep(100);
   delay_->setValue(500);
-  delay_->setSuffix(QStringLiteral(" ms"));
-  faults_->setAccessibleName(QStringLiteral("Faults in force"));
+  delay_->setSuffix(tr(" ms"));
+  faults_->setAccessibleName(tr("Faults in force"));
   faults_->setMinimumHeight(faults_->fontMetrics().height() * 4);
 
   auto* grid = new QGridLayout(this);
-  grid->addWidget(Caption(QStringLiteral("&Power"), power_), 0, 0);
+  grid->addWidget(Caption(tr("&Power"), power_), 0, 0);
   grid->addWidget(power_, 0, 1);
-  grid->addWidget(Caption(QStringLiteral("&Error status"), error_), 0, 2);
+  grid->addWidget(Caption(tr("&Error status"), error_), 0, 2);
   grid->addWidget(error_, 0, 3);
-  grid->addWidget(Caption(QStringLiteral("&Command"), target_), 1, 0);
+  grid->addWidget(Caption(tr("&Command"), target_), 1, 0);
   grid->addWidget(target_, 1, 1, 1, 4);
-  grid->addWidget(Caption(QStringLiteral("&Fault"), kind_), 2, 0);
+  grid->addWidget(Caption(tr("&Fault"), kind_), 2, 0);
   grid->addWidget(kind_, 2, 1);
-  grid->addWidget(Caption(QStringLiteral("&Delay"), delay_), 2, 2);
+  grid->addWidget(Caption(tr("&Delay"), delay_), 2, 2);
   grid->addWidget(delay_, 2, 3);
   grid->addWidget(set_, 2, 4);
-  grid->addWidget(Caption(QStringLiteral("&In force"), faults_), 3, 0, Qt::AlignTop);
+  grid->addWidget(Caption(tr("&In force"), faults_), 3, 0, Qt::AlignTop);
   grid->addWidget(faults_, 3, 1, 3, 3);
   grid->addWidget(remove_, 3, 4);
   grid->addWidget(clear_, 4, 4);
@@ -133,15 +144,27 @@ FaultPanel::FaultPanel(QWidget* parent)
     session_->ClearFaults();
     ShowFaults();
   });
+  for (QWidget* control : std::initializer_list<QWidget*>{power_, error_, target_, kind_, delay_}) {
+    control->setFocusPolicy(Qt::StrongFocus);
+    control->installEventFilter(this);
+  }
   SetSession(nullptr);
+}
+
+// The wheel scrolls past a control that has no focus, and does not change it.
+bool FaultPanel::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Wheel && !static_cast<QWidget*>(watched)->hasFocus()) {
+    event->ignore();
+    return true;
+  }
+  return QGroupBox::eventFilter(watched, event);
 }
 
 void FaultPanel::SetSession(ProjectorSession* session) {
   session_ = session;
   setEnabled(session != nullptr);
-  setTitle(session == nullptr
-               ? QStringLiteral("No projector selected")
-               : QStringLiteral("Simulation of %1").arg(Text(session->Profile().Name)));
+  setTitle(session == nullptr ? tr("No projector selected")
+                              : tr("Simulation of %1").arg(Text(session->Profile().Name)));
   RefreshStates();
   ShowFaults();
 }
@@ -159,7 +182,7 @@ void FaultPanel::FillTargets() {
   const auto add = [this](const QString& text, const FaultTarget& target) {
     target_->addItem(text, QVariant::fromValue(target));
   };
-  add(QStringLiteral("All commands"), {});
+  add(tr("All commands"), {});
   for (const auto& [code, names] : NamedCodes()) {
     const QString number = QString::number(code, 16).toUpper();
     add(QStringLiteral("0x%1 %2").arg(number, names.join(QStringLiteral(" / "))).trimmed(), code);
@@ -167,8 +190,7 @@ void FaultPanel::FillTargets() {
   for (std::size_t i = 0; i < kOperationCount; ++i) {
     const auto operation = static_cast<PjtOperation>(i);
     const bool generic = FamilyOf(operation) == OperationFamily::Generic;
-    add(Text(OperationName(operation)) + (generic ? QStringLiteral(" (any code)") : QString()),
-        operation);
+    add(Text(OperationName(operation)) + (generic ? tr(" (any code)") : QString()), operation);
   }
   target_->setEditable(true);
   target_->setInsertPolicy(QComboBox::NoInsert);
@@ -176,7 +198,7 @@ void FaultPanel::FillTargets() {
   target_->setMinimumContentsLength(24);
   target_->completer()->setCompletionMode(QCompleter::PopupCompletion);
   target_->completer()->setFilterMode(Qt::MatchContains);
-  target_->setToolTip(QStringLiteral("Choose, or type a part of a name or code"));
+  target_->setToolTip(tr("Choose, or type a part of a name or code"));
 }
 
 void FaultPanel::SetFault() {
@@ -204,9 +226,9 @@ void FaultPanel::ShowFaults() {
         if (target_->itemData(i).value<FaultTarget>() == target) text = target_->itemText(i);
       }
       text += QStringLiteral(": ");
-      text += QLatin1String(std::ranges::find(kKinds, fault.kind, &NamedKind::kind)->name);
+      text += tr(std::ranges::find(kKinds, fault.kind, &NamedKind::kind)->name);
       if (fault.kind == Fault::Kind::Late) {
-        text += QStringLiteral(" %1 ms").arg(fault.delay.count());
+        text += tr(" %1 ms").arg(fault.delay.count());
       }
       faults_->addItem(text);
     }

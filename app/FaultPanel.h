@@ -23,6 +23,9 @@ class FaultPanel : public QGroupBox {
   /// Shows the states that the simulation has now.
   void RefreshStates();
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
   void FillTargets();
   void SetFault();

@@ -1,210 +1,311 @@
 #include "app/MainWindow.h"
 
 #include <algorithm>
-#include <array>
+#include <map>
 #include <utility>
 
+#include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
-#include <QCoreApplication>
+#include <QFileInfo>
 #include <QHeaderView>
 #include <QLabel>
+#include <QMenuBar>
+#include <QMessageBox>
 #include <QPointer>
-#include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
+#include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
-#include <QStyle>
-#include <QTableWidget>
-#include <QThread>
 #include <QVBoxLayout>
 
 #include "app/CommandLog.h"
+#include "app/DialogKeeper.h"
 #include "app/FaultPanel.h"
+#include "app/ProfileActions.h"
+#include "app/ProjectorView.h"
+#include "app/SettingNames.h"
+#include "app/SettingsActions.h"
 #include "host/CAdvanceDlg.h"
 #include "i18n/Catalog.h"
 
 namespace {
 
-enum Column { Name, Model, DialogType, ModelCode, Connection, ColumnCount };
-constexpr std::array<const char*, ColumnCount> kTitles{"Name", "Model", "Type", "Code",
-                                                       "Connection"};
-
 constexpr int kGap = 9;
-constexpr int kCascade = 28;
-constexpr int kCascadeLength = 8;
-constexpr auto kRetirementCheck = std::chrono::milliseconds(50);
+constexpr QSize kUsualSize{1240, 760};
+constexpr int kUsualListWidth = 480;
 
-QString CellText(const ProjectorProfile& profile, int column) {
-  switch (column) {
-    case Name:
-      return QString::fromStdString(profile.Name);
-    case Model:
-      return QString::fromStdString(profile.Model.ModelName);
-    case DialogType:
-      return QString::number(profile.Model.DialogType);
-    case ModelCode:
-      return QString::number(profile.Model.ModelCode);
-    case Connection:
-      return ConnectionText(profile.Model);
-    default:
-      return {};
-  }
+constexpr const char* kGeometryKey = "window/geometry";
+constexpr const char* kSidesKey = "window/sides";
+constexpr const char* kToolsKey = "window/tools";
+constexpr const char* kProjectorColumnsKey = "window/projectorColumns";
+constexpr const char* kLogColumnsKey = "window/logColumns";
+constexpr const char* kProjectorKey = "window/projector";
+constexpr const char* kProfilesKey = "window/profiles";
+
+QString ShownText(const QAction& action) {
+  return action.text().remove(QLatin1Char('&')).remove(QStringLiteral("…"));
 }
 
 }  // namespace
 
 MainWindow::MainWindow(std::vector<ProjectorProfile> profiles)
-    : log_(new CommandLog), faults_(new FaultPanel) {
-  for (ProjectorProfile& profile : profiles) {
-    const QString name = QString::fromStdString(profile.Name);
-    auto observer = [log = QPointer(log_), name](const PjtCommand& command, const PjtReply& reply,
-                                                 std::chrono::microseconds elapsed) {
-      if (log) log->Add(name, command, reply, elapsed);
-    };
-    entries_.push_back(
-        {std::make_unique<ProjectorSession>(std::move(profile), std::move(observer)), nullptr});
-  }
+    : MainWindow(ProfileDocument(std::move(profiles))) {}
 
-  setWindowTitle(QStringLiteral("Advanced Control: Simulated Projectors"));
+MainWindow::MainWindow(ProfileDocument profiles, QSettings* settings)
+    : profiles_(std::move(profiles)),
+      firstProfiles_(profiles_.FileName()),
+      settings_(settings),
+      projectors_(new ProjectorView),
+      log_(new CommandLog),
+      faults_(new FaultPanel),
+      sides_(new QSplitter),
+      tools_(new QSplitter(Qt::Vertical)),
+      profileActions_(new ProfileActions(
+          profiles_, [this] { return projectors_->CurrentRow(); }, *this)),
+      settingsActions_(new SettingsActions([this] { return projectors_->Selected(); }, *this)),
+      dialogs_(std::make_unique<DialogKeeper>(std::vector<const QWidget*>{log_, tools_, this},
+                                              settings)) {
+  MakeLayout();
+  MakeMenus();
   if (const std::string problem = CatalogProblem(); !problem.empty()) {
     statusBar()->addWidget(new QLabel(QString::fromStdString(problem)));
   }
-  auto* tools = new QSplitter(Qt::Vertical);
-  tools->addWidget(faults_);
-  tools->addWidget(log_);
-  tools->setStretchFactor(1, 1);
-  tools->setSizes({220, 540});
-  tools->setHandleWidth(kGap);
-  tools->setChildrenCollapsible(false);
-  auto* splitter = new QSplitter;
-  splitter->addWidget(MakeTable());
-  splitter->addWidget(tools);
-  splitter->setStretchFactor(1, 1);
-  splitter->setChildrenCollapsible(false);
-  splitter->setHandleWidth(kGap);
-  splitter->setContentsMargins(kGap, kGap, kGap, kGap);
-  setCentralWidget(splitter);
-  resize(1240, 760);
-
   connect(log_, &CommandLog::Updated, faults_, &FaultPanel::RefreshStates);
-  deleteRetired_.setSingleShot(true);
-  deleteRetired_.setInterval(kRetirementCheck);
-  connect(&deleteRetired_, &QTimer::timeout, this, &MainWindow::DeleteRetired);
-  table_->setCurrentCell(0, 0);
-  table_->setFocus();
+  connect(projectors_, &ProjectorView::Activated, this, &MainWindow::OpenCurrent);
+  connect(projectors_, &ProjectorView::CurrentChanged, this, [this] {
+    faults_->SetSession(projectors_->Current());
+    profileActions_->Update();
+    settingsActions_->Update();
+  });
+  connect(profileActions_, &ProfileActions::Changed, this, [this](int selected) {
+    ShowProfiles();
+    if (selected >= 0) projectors_->Select(selected);
+  });
+  connect(dialogs_.get(), &DialogKeeper::Opened, this, [this](const ProjectorSession* session) {
+    projectors_->Model().SetState(session, tr("Open"));
+  });
+  connect(dialogs_.get(), &DialogKeeper::Closed, this,
+          [this](const ProjectorSession* session) { projectors_->Model().SetState(session, {}); });
+  ShowProfiles();
+  SelectFirst();
+  Restore();
+  projectors_->FocusTable();
 }
 
 MainWindow::~MainWindow() {
   faults_->SetSession(nullptr);
-  retired_.clear();
-  entries_.clear();
+  dialogs_->CloseAll();
 }
 
-QWidget* MainWindow::MakeTable() {
-  table_ = new QTableWidget(static_cast<int>(entries_.size()), ColumnCount);
-  table_->setAccessibleName(QStringLiteral("Projectors"));
-  table_->setEditTriggers(QTableWidget::NoEditTriggers);
-  table_->setSelectionBehavior(QTableWidget::SelectRows);
-  table_->setSelectionMode(QTableWidget::SingleSelection);
-  table_->setTabKeyNavigation(false);
-  table_->setWordWrap(false);
-  table_->verticalHeader()->hide();
-  table_->verticalHeader()->setDefaultSectionSize(table_->fontMetrics().height() + 6);
-  for (int column = 0; column < ColumnCount; ++column) {
-    const QString title = QString::fromLatin1(kTitles[static_cast<std::size_t>(column)]);
-    table_->setHorizontalHeaderItem(column, new QTableWidgetItem(title));
-    for (std::size_t i = 0; i < entries_.size(); ++i) {
-      auto* cell = new QTableWidgetItem(CellText(entries_[i].session->Profile(), column));
-      if (column == DialogType || column == ModelCode) cell->setTextAlignment(Qt::AlignCenter);
-      table_->setItem(static_cast<int>(i), column, cell);
-    }
-  }
-  QHeaderView* columns = table_->horizontalHeader();
-  columns->setHighlightSections(false);
-  table_->resizeColumnsToContents();
-  for (int column = 0; column < ColumnCount; ++column) {
-    table_->setColumnWidth(column, table_->columnWidth(column) + kGap);
-  }
-  const int width = columns->length();
-  columns->setStretchLastSection(true);
-  const int margins =
-      2 * table_->frameWidth() + table_->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-  table_->setMinimumWidth(std::min(width + margins, 640));
+void MainWindow::MakeLayout() {
+  auto* faults = new QScrollArea;
+  faults->setWidget(faults_);
+  faults->setWidgetResizable(true);
+  faults->setFrameShape(QFrame::NoFrame);
+  tools_->addWidget(faults);
+  tools_->addWidget(log_);
+  tools_->setStretchFactor(1, 1);
+  tools_->setSizes({faults_->minimumSizeHint().height(), kUsualSize.height()});
+  tools_->setHandleWidth(kGap);
+  tools_->setChildrenCollapsible(false);
+  sides_->addWidget(projectors_);
+  sides_->addWidget(tools_);
+  sides_->setStretchFactor(1, 1);
+  sides_->setChildrenCollapsible(false);
+  sides_->setHandleWidth(kGap);
+  // A splitter does not mirror margins of its own.
+  auto* center = new QWidget;
+  auto* layout = new QVBoxLayout(center);
+  layout->setContentsMargins(kGap, kGap, kGap, kGap);
+  layout->addWidget(sides_);
+  setCentralWidget(center);
+}
 
-  open_ = new QPushButton(QStringLiteral("&Open"));
-  open_->setDefault(true);
-  auto* caption = new QLabel(QStringLiteral("Pro&jectors"));
-  caption->setBuddy(table_);
-  auto* side = new QWidget;
-  auto* layout = new QVBoxLayout(side);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->addWidget(caption);
-  layout->addWidget(table_);
-  layout->addWidget(open_, 0, Qt::AlignRight);
+void MainWindow::MakeMenus() {
+  const auto add = [this](QMenu* menu, const QString& text, const QKeySequence& keys, auto act) {
+    QAction* action = menu->addAction(text);
+    action->setShortcut(keys);
+    connect(action, &QAction::triggered, this, act);
+    return action;
+  };
 
-  // Activation is a double-click or Enter.
-  connect(table_, &QTableWidget::cellActivated, this, &MainWindow::OpenCurrent);
-  connect(open_, &QPushButton::clicked, this, &MainWindow::OpenCurrent);
-  connect(table_, &QTableWidget::currentCellChanged, this, [this](int row) {
-    open_->setEnabled(row >= 0);
-    faults_->SetSession(row < 0 ? nullptr : entries_[static_cast<std::size_t>(row)].session.get());
-  });
-  return side;
+  QMenu* file = menuBar()->addMenu(tr("&File"));
+  file->addActions(
+      {profileActions_->Open(), profileActions_->Reload(), profileActions_->SaveCopy()});
+  file->addSeparator();
+  file->addAction(log_->SaveAs());
+  file->addSeparator();
+  add(file, tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), [this] { close(); });
+
+  QMenu* projector = menuBar()->addMenu(tr("&Projector"));
+  QAction* open = add(projector, tr("&Open Settings"), QKeySequence(Qt::CTRL | Qt::Key_Return),
+                      &MainWindow::OpenCurrent);
+  projector->addSeparator();
+  projector->addActions(
+      {settingsActions_->Save(), settingsActions_->Compare(), settingsActions_->Apply()});
+  projector->addSeparator();
+  projector->addActions({profileActions_->Add(), profileActions_->Edit(),
+                         profileActions_->Duplicate(), profileActions_->Remove()});
+  projectors_->AddContextActions({open, settingsActions_->Save(), settingsActions_->Compare(),
+                                  settingsActions_->Apply(), profileActions_->Add(),
+                                  profileActions_->Edit(), profileActions_->Duplicate(),
+                                  profileActions_->Remove()});
+
+  QMenu* view = menuBar()->addMenu(tr("&View"));
+  add(view, tr("&Find Projectors"), QKeySequence::Find, [this] { projectors_->FocusSearch(); });
+  view->addSeparator();
+  const auto addToggle = [&](const QString& text, const QKeySequence& keys, QWidget* part) {
+    QAction* action = add(view, text, keys, [part](bool shown) { part->setVisible(shown); });
+    action->setCheckable(true);
+    action->setChecked(true);
+  };
+  addToggle(tr("&Simulation"), QKeySequence(Qt::CTRL | Qt::Key_1), tools_->widget(0));
+  addToggle(tr("&Command Log"), QKeySequence(Qt::CTRL | Qt::Key_2), log_);
+  view->addSeparator();
+  view->addActions({log_->ChangesOnly(), log_->ClearAll()});
+  log_->ChangesOnly()->setShortcut(Qt::CTRL | Qt::Key_H);
+  log_->ClearAll()->setShortcut(Qt::CTRL | Qt::Key_L);
+
+  QMenu* help = menuBar()->addMenu(tr("&Help"));
+  add(help, tr("&Keyboard Shortcuts"), QKeySequence::HelpContents, &MainWindow::ShowShortcuts);
+  add(help, tr("&About"), {}, &MainWindow::ShowAbout);
+}
+
+std::shared_ptr<ProjectorSession> MainWindow::MakeSession(const ProjectorProfile& profile) {
+  auto observer = [log = QPointer(log_), name = QString::fromStdString(profile.Name),
+                   type = profile.Model.DialogType, code = profile.Model.ModelCode,
+                   settings = std::map<std::uint16_t, QString>()](
+                      const PjtCommand& command, const PjtReply& reply,
+                      std::chrono::microseconds elapsed) mutable {
+    if (!log) return;
+    if (settings.empty()) settings = SettingNames(type, code);
+    const auto setting = settings.find(command.code);
+    log->Add({QTime::currentTime(), name, setting == settings.end() ? QString() : setting->second,
+              command, reply, elapsed});
+  };
+  return std::make_shared<ProjectorSession>(profile, std::move(observer));
+}
+
+// A projector of which the file says the same as before keeps its simulation and its dialog.
+void MainWindow::ShowProfiles() {
+  ProjectorTableModel::Sessions before = projectors_->Model().All();
+  ProjectorTableModel::Sessions sessions;
+  for (const ProjectorProfile& profile : profiles_.Projectors()) {
+    const auto same = std::ranges::find_if(before, [&profile](const auto& session) {
+      return session != nullptr && session->Profile() == profile;
+    });
+    sessions.push_back(same == before.end() ? MakeSession(profile) : std::move(*same));
+  }
+  for (const auto& session : before) {
+    if (session != nullptr) dialogs_->Close(*session);
+  }
+  projectors_->SetSessions(std::move(sessions));
+  profileActions_->Update();
+  setWindowTitle(profiles_.HasFile()
+                     ? tr("Advanced Control: %1").arg(QFileInfo(profiles_.FileName()).fileName())
+                     : tr("Advanced Control"));
+}
+
+// The projector selected last, or else one that has something to show on every tab.
+void MainWindow::SelectFirst() {
+  const auto& all = profiles_.Projectors();
+  const std::string last = settings_ == nullptr
+                               ? std::string()
+                               : settings_->value(kProjectorKey).toString().toStdString();
+  auto first = std::ranges::find(all, last, &ProjectorProfile::Name);
+  if (first == all.end())
+    first = std::ranges::find_if(all, HasRowsOnEveryTab, &ProjectorProfile::Model);
+  if (first != all.end()) projectors_->Select(static_cast<int>(first - all.begin()));
 }
 
 void MainWindow::OpenCurrent() {
-  const int row = table_->currentRow();
-  if (row >= 0) OpenDialog(static_cast<std::size_t>(row));
+  if (const int row = projectors_->CurrentRow(); row >= 0)
+    OpenDialog(static_cast<std::size_t>(row));
 }
 
 CAdvanceDlg* MainWindow::OpenDialog(std::size_t projector) {
-  Entry& entry = entries_[projector];
-  table_->setCurrentCell(static_cast<int>(projector), 0);
-  if (entry.dialog == nullptr) {
-    entry.dialog = entry.session->MakeDialog();
-    if (!entry.dialog->Create()) {
-      entry.dialog.reset();
-      return nullptr;
-    }
-    connect(entry.dialog.get(), &QDialog::finished, this,
-            [this, projector] { RetireDialog(projector); });
-    Place(*entry.dialog);
-  }
-  CAdvanceDlg* dialog = entry.dialog.get();
-  dialog->setWindowState(dialog->windowState() & ~Qt::WindowMinimized);
-  dialog->show();
-  dialog->raise();
-  dialog->activateWindow();
-  return dialog;
+  projectors_->Select(static_cast<int>(projector));
+  return dialogs_->Open(*projectors_->Model().All()[projector]);
 }
 
-// Away from the controls of the simulation, which are used while the dialog is open.
-void MainWindow::Place(CAdvanceDlg& dialog) const {
+CAdvanceDlg* MainWindow::Dialog(std::size_t projector) const {
+  return dialogs_->Of(*projectors_->Model().All()[projector]);
+}
+
+QString MainWindow::LastProfiles(const QSettings& settings) {
+  return settings.value(kProfilesKey).toString();
+}
+
+// At first the window stands at the lower right: a dialog at the upper left covers neither the log
+// nor the simulation.
+void MainWindow::Restore() {
   const QRect screen = MainWindow::screen()->availableGeometry();
-  const auto others = std::ranges::count_if(entries_, [&dialog](const Entry& entry) {
-    return entry.dialog != nullptr && entry.dialog.get() != &dialog;
-  });
-  const int inset = kCascade * (1 + static_cast<int>(others) % kCascadeLength);
-  dialog.move(std::max(screen.left(), screen.right() - dialog.width() - inset),
-              std::max(screen.top(), screen.bottom() - dialog.height() - inset));
-}
-
-void MainWindow::RetireDialog(std::size_t projector) {
-  retired_.push_back(std::move(entries_[projector].dialog));
-  deleteRetired_.start();
-}
-
-// A dialog can be closed by the window manager while one of its handlers waits for the projector,
-// in an event loop below ours; that handler goes on afterwards.
-void MainWindow::DeleteRetired() {
-  if (QThread::currentThread()->loopLevel() > 1) {
-    deleteRetired_.start();
-  } else {
-    retired_.clear();
+  if (settings_ != nullptr && restoreGeometry(settings_->value(kGeometryKey).toByteArray())) {
+    sides_->restoreState(settings_->value(kSidesKey).toByteArray());
+    tools_->restoreState(settings_->value(kToolsKey).toByteArray());
+    projectors_->Columns().restoreState(settings_->value(kProjectorColumnsKey).toByteArray());
+    log_->Columns().restoreState(settings_->value(kLogColumnsKey).toByteArray());
+    return;
   }
+  constexpr QSize kFrame{2 * kGap, 40};
+  resize(kUsualSize.boundedTo(screen.size() - kFrame));
+  const int listWidth = std::min(kUsualListWidth, width() * 2 / 5);
+  sides_->setSizes({listWidth, width() - listWidth});
+  move(screen.right() + 1 - width() - kGap, screen.bottom() + 1 - height() - kGap);
+}
+
+void MainWindow::Remember() {
+  if (settings_ == nullptr) return;
+  settings_->setValue(kGeometryKey, saveGeometry());
+  settings_->setValue(kSidesKey, sides_->saveState());
+  settings_->setValue(kToolsKey, tools_->saveState());
+  settings_->setValue(kProjectorColumnsKey, projectors_->Columns().saveState());
+  settings_->setValue(kLogColumnsKey, log_->Columns().saveState());
+  if (profiles_.FileName() != firstProfiles_) {
+    settings_->setValue(kProfilesKey, QFileInfo(profiles_.FileName()).absoluteFilePath());
+  }
+  if (const ProjectorSession* current = projectors_->Current()) {
+    settings_->setValue(kProjectorKey, QString::fromStdString(current->Profile().Name));
+  }
+}
+
+void MainWindow::ShowShortcuts() {
+  QString rows;
+  const auto add = [&rows](const QString& keys, const QString& what) {
+    rows += QStringLiteral("<tr><td>%1&nbsp;&nbsp;&nbsp;</td><td>%2</td></tr>")
+                .arg(keys.toHtmlEscaped(), what.toHtmlEscaped());
+  };
+  const auto section = [&rows](const QString& title) {
+    rows += QStringLiteral("<tr><th colspan=2 align=left>%1</th></tr>").arg(title.toHtmlEscaped());
+  };
+  for (const QAction* menu : menuBar()->actions()) {
+    section(ShownText(*menu));
+    for (const QAction* action : menu->menu()->actions()) {
+      if (action->shortcut().isEmpty()) continue;
+      add(action->shortcut().toString(QKeySequence::NativeText), ShownText(*action));
+    }
+  }
+  section(tr("In a projector's dialog"));
+  add(tr("Ctrl+Tab, Ctrl+Page Down"), tr("Next tab"));
+  add(tr("Ctrl+Shift+Tab, Ctrl+Page Up"), tr("Previous tab"));
+  add(tr("Esc"), tr("Close"));
+  QMessageBox(QMessageBox::NoIcon, tr("Keyboard Shortcuts"),
+              QStringLiteral("<table>%1</table>").arg(rows), QMessageBox::Close, this)
+      .exec();
+}
+
+void MainWindow::ShowAbout() {
+  QMessageBox::about(
+      this, tr("About"),
+      tr("<h3>Advanced Control %1</h3><p>The live settings of projectors: every value is read from "
+         "the projector, every change is sent at once.</p>")
+          .arg(QStringLiteral(ADVANCED_CONTROL_VERSION)));
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
+  Remember();
   // Ends every event loop, also those of messages and pop-ups; the dialogs end with this window.
   event->accept();
   QCoreApplication::exit();

@@ -4,15 +4,19 @@
 #include <vector>
 
 #include <QMainWindow>
-#include <QTimer>
 
+#include "app/ProfileDocument.h"
 #include "app/ProjectorSession.h"
 
 class CAdvanceDlg;
 class CommandLog;
+class DialogKeeper;
 class FaultPanel;
-class QPushButton;
-class QTableWidget;
+class ProfileActions;
+class SettingsActions;
+class ProjectorView;
+class QSettings;
+class QSplitter;
 
 /// The list of projectors, from which a dialog is opened on each, with the log of their commands
 /// and the controls of their simulations. Dialogs are open beside it, one per projector.
@@ -20,6 +24,10 @@ class MainWindow : public QMainWindow {
   Q_OBJECT
 
  public:
+  /// `settings`, not owned, keeps what the window remembers from one start to the next; with null
+  /// it remembers nothing.
+  explicit MainWindow(ProfileDocument profiles, QSettings* settings = nullptr);
+  /// Of projectors that are in no file.
   explicit MainWindow(std::vector<ProjectorProfile> profiles);
   ~MainWindow() override;
 
@@ -28,29 +36,35 @@ class MainWindow : public QMainWindow {
   CAdvanceDlg* OpenDialog(std::size_t projector);
 
   /// The projector's open dialog, or null.
-  CAdvanceDlg* Dialog(std::size_t projector) const { return entries_[projector].dialog.get(); }
+  CAdvanceDlg* Dialog(std::size_t projector) const;
+
+  /// The profile file that a user opened last; empty when none is remembered.
+  static QString LastProfiles(const QSettings& settings);
 
  protected:
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  struct Entry {
-    std::unique_ptr<ProjectorSession> session;
-    std::unique_ptr<CAdvanceDlg> dialog;
-  };
-
-  QWidget* MakeTable();
+  std::shared_ptr<ProjectorSession> MakeSession(const ProjectorProfile& profile);
+  void MakeLayout();
+  void MakeMenus();
+  void ShowProfiles();
+  void SelectFirst();
   void OpenCurrent();
-  void Place(CAdvanceDlg& dialog) const;
-  void RetireDialog(std::size_t projector);
-  void DeleteRetired();
+  void Restore();
+  void Remember();
+  void ShowShortcuts();
+  void ShowAbout();
 
-  QTableWidget* table_ = nullptr;
-  QPushButton* open_ = nullptr;
-  CommandLog* log_ = nullptr;
-  FaultPanel* faults_ = nullptr;
-  std::vector<Entry> entries_;
-  /// Closed dialogs whose handlers may still be running.
-  std::vector<std::unique_ptr<CAdvanceDlg>> retired_;
-  QTimer deleteRetired_;
+  ProfileDocument profiles_;
+  const QString firstProfiles_;  // the file at the start, which needs no remembering
+  QSettings* settings_;
+  ProjectorView* projectors_;
+  CommandLog* log_;
+  FaultPanel* faults_;
+  QSplitter* sides_;
+  QSplitter* tools_;
+  ProfileActions* profileActions_;
+  SettingsActions* settingsActions_;
+  std::unique_ptr<DialogKeeper> dialogs_;
 };

@@ -10,6 +10,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -469,9 +470,9 @@ ProfileFileContents ParseProfiles(const QByteArray& text, const QString& fileNam
   }
 }
 
-ProfileFileContents ReadProfileFile(const QString& fileName) {
+ProfileFileText ReadProfileText(const QString& fileName) {
   const auto cannotRead = [&fileName](const QString& why) {
-    return Wrong(QStringLiteral("cannot read profiles %1: %2").arg(fileName, why));
+    return ProfileFileText{{}, QStringLiteral("cannot read profiles %1: %2").arg(fileName, why)};
   };
   // Opening must not wait for the other end of a pipe.
   const int descriptor =
@@ -487,7 +488,12 @@ ProfileFileContents ReadProfileFile(const QString& fileName) {
     return cannotRead(file.errorString());
   }
   // One byte more than the limit shows that the file exceeds it, whatever size it claims.
-  return ParseProfiles(file.read(JsonLines::kMaximumBytes + 1), fileName);
+  return {file.read(JsonLines::kMaximumBytes + 1), {}};
+}
+
+ProfileFileContents ReadProfileFile(const QString& fileName) {
+  const ProfileFileText file = ReadProfileText(fileName);
+  return file.error.isEmpty() ? ParseProfiles(file.text, fileName) : Wrong(file.error);
 }
 
 ProjectorAddress AddressOf(const ProjectorProfile& profile) {
@@ -514,7 +520,8 @@ QString ConnectionText(const CModelInfo2& model) {
     if (const auto device = NameText(model.ConnectionTexts1[0]); !device.empty()) {
       return Text(device);
     }
-    return QStringLiteral("serial port %1").arg(model.ConnectionNumbers[0] + 1);
+    return QCoreApplication::translate("ProfileFile", "serial port %1")
+        .arg(model.ConnectionNumbers[0] + 1);
   }
   return QStringLiteral("%1:%2")
       .arg(Text(NameText(model.ConnectionTexts1[0])))

@@ -19,6 +19,8 @@ struct ProjectorProfile {
   CModelInfo2 Model;             ///< With the connection as connection 0.
   std::vector<SettingId> Lacks;  ///< Settings that the simulated model does not have.
   ProjectorLink Link = ProjectorLink::Simulated;
+
+  bool operator==(const ProjectorProfile&) const = default;
 };
 
 struct ProfileFileContents {
@@ -26,6 +28,14 @@ struct ProfileFileContents {
   /// One line that names the place and what is wrong there; empty when all is well.
   QString error;
 };
+
+struct ProfileFileText {
+  QByteArray text;
+  QString error;  ///< One line; empty when the file was read.
+};
+
+/// What stands in a regular file, up to a little more than a profile file may hold.
+ProfileFileText ReadProfileText(const QString& fileName);
 
 /// The projectors of a profile file. Its format is described in `docs/profiles.md`.
 ProfileFileContents ReadProfileFile(const QString& fileName);

@@ -7,15 +7,15 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QLibraryInfo>
-#include <QLocale>
+#include <QIcon>
+#include <QSettings>
 #include <QTabBar>
-#include <QTranslator>
 
 #include "app/CommandLine.h"
 #include "app/MainWindow.h"
 #include "app/Pictures.h"
-#include "app/ProfileFile.h"
+#include "app/ProfileDocument.h"
+#include "app/Translations.h"
 #include "host/CAdvanceDlg.h"
 #include "i18n/Catalog.h"
 #include "i18n/SystemLanguage.h"
@@ -23,6 +23,7 @@
 
 namespace {
 
+const QString kName = QStringLiteral("advanced-control");
 constexpr int kWrongArguments = 2;
 constexpr int kNoDisplay = 1;
 
@@ -43,14 +44,18 @@ QStringList ProfileFilePlaces() {
           QDir::cleanPath(folder.filePath("../share/advanced-control/projectors.json"))};
 }
 
-ProfileFileContents ReadProfiles(const CommandLine& line) {
-  if (!line.profiles.isEmpty()) return ReadProfileFile(line.profiles);
+/// What --profiles names, else what was open last, else what comes with the program.
+QString ReadProfiles(const CommandLine& line, ProfileDocument& document) {
+  if (!line.profiles.isEmpty()) return document.Load(line.profiles);
+  if (line.action == CommandLine::Action::Window && line.open.isEmpty()) {
+    const QString last = MainWindow::LastProfiles(QSettings(kName, kName));
+    if (!last.isEmpty() && document.Load(last).isEmpty()) return {};
+  }
   const QStringList places = ProfileFilePlaces();
   const auto place = std::ranges::find_if(places, qOverload<const QString&>(&QFileInfo::exists));
-  if (place != places.end()) return ReadProfileFile(*place);
-  return {.projectors = {},
-          .error = QStringLiteral("no profiles at %1; name a file with --profiles")
-                       .arg(places.join(QStringLiteral(" or ")))};
+  if (place != places.end()) return document.Load(*place);
+  return QStringLiteral("no profiles at %1; name a file with --profiles")
+      .arg(places.join(QStringLiteral(" or ")));
 }
 
 // The catalog was chosen when the library was loaded, by the environment of that time.
@@ -58,17 +63,6 @@ void ChooseLanguage(int language) {
   qputenv("LC_ALL",
           language == static_cast<int>(kChineseSimplified) ? "zh_CN.UTF-8" : "en_US.UTF-8");
   LoadCatalog();
-}
-
-// For the texts of the toolkit's own, such as the buttons of messages.
-void TranslateToolkit() {
-  static QTranslator translator;
-  const QLocale locale(SystemLanguageId() == kChineseSimplified ? QLocale::Chinese
-                                                                : QLocale::English);
-  if (translator.load(locale, QStringLiteral("qtbase"), QStringLiteral("_"),
-                      QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-    QCoreApplication::installTranslator(&translator);
-  }
 }
 
 // Tab 0 is the status page, which every projector has.
@@ -93,13 +87,14 @@ int RunTour(const std::vector<ProjectorProfile>& profiles, const QString& folder
   return 0;
 }
 
-int RunWindow(const CommandLine& line, std::vector<ProjectorProfile> profiles, std::size_t opened) {
-  MainWindow window(std::move(profiles));
+int RunWindow(const CommandLine& line, ProfileDocument profiles, std::size_t opened) {
+  QSettings settings(kName, kName);
+  MainWindow window(std::move(profiles), &settings);
   window.show();
   if (!line.open.isEmpty()) {
     const CAdvanceDlg* dialog = window.OpenDialog(opened);
     if (dialog == nullptr) return Fail(QStringLiteral("the dialog cannot be created"));
-    dialog->findChild<QTabBar*>()->setCurrentIndex(line.tab.value_or(0));
+    if (line.tab.has_value()) dialog->findChild<QTabBar*>()->setCurrentIndex(*line.tab);
   }
   return QApplication::exec();
 }
@@ -107,7 +102,7 @@ int RunWindow(const CommandLine& line, std::vector<ProjectorProfile> profiles, s
 /// What the arguments ask for, found right.
 struct Request {
   CommandLine line;
-  std::vector<ProjectorProfile> profiles;
+  ProfileDocument profiles;
   std::size_t opened = 0;  ///< Position of the projector that --open names.
 };
 
@@ -127,11 +122,11 @@ std::variant<Request, int> Prepare(int argc, char* argv[]) {
     return 0;
   }
 
-  ProfileFileContents contents = ReadProfiles(line);
-  if (!contents.error.isEmpty()) return Fail(contents.error);
-  request.profiles = std::move(contents.projectors);
+  const QString wrongProfiles = ReadProfiles(line, request.profiles);
+  if (!wrongProfiles.isEmpty()) return Fail(wrongProfiles);
+  const std::vector<ProjectorProfile>& projectors = request.profiles.Projectors();
   if (line.action == CommandLine::Action::List) {
-    PrintList(request.profiles);
+    PrintList(projectors);
     return 0;
   }
   if (line.action == CommandLine::Action::Tour) {
@@ -141,12 +136,12 @@ std::variant<Request, int> Prepare(int argc, char* argv[]) {
   if (line.open.isEmpty()) return request;
 
   const auto opened =
-      std::ranges::find(request.profiles, line.open.toStdString(), &ProjectorProfile::Name);
-  if (opened == request.profiles.end()) {
+      std::ranges::find(projectors, line.open.toStdString(), &ProjectorProfile::Name);
+  if (opened == projectors.end()) {
     return Fail(
         QStringLiteral("--open: there is no projector '%1'; --list names all.").arg(line.open));
   }
-  request.opened = static_cast<std::size_t>(opened - request.profiles.begin());
+  request.opened = static_cast<std::size_t>(opened - projectors.begin());
   if (const int last = LastTab(*opened), tab = line.tab.value_or(0); tab < 0 || tab > last) {
     return Fail(QStringLiteral("--tab: there is no tab %1; '%2' has tabs 0 to %3.")
                     .arg(tab)
@@ -165,7 +160,7 @@ int Run(int argc, char* argv[]) {
   if (const int* exitCode = std::get_if<int>(&prepared)) return *exitCode;
   auto& [line, profiles, opened] = std::get<Request>(prepared);
 
-  if (!HasDisplay()) {
+  if (!line.platform && !HasDisplay()) {
     if (line.action == CommandLine::Action::Window) {
       return Fail(QStringLiteral("no display; use --list, --tour or --screenshot without one."),
                   kNoDisplay);
@@ -174,14 +169,20 @@ int Run(int argc, char* argv[]) {
   }
   if (line.language.has_value()) ChooseLanguage(*line.language);
   const QApplication application(argc, argv);
-  QApplication::setStyle(QStringLiteral("Fusion"));
-  TranslateToolkit();
+  QGuiApplication::setDesktopFileName(kName);
+  QApplication::setWindowIcon(QIcon(QStringLiteral(":/advanced-control.png")));
+  // Unless somebody asks for another one.
+  if (!line.style && qEnvironmentVariableIsEmpty("QT_STYLE_OVERRIDE")) {
+    QApplication::setStyle(QStringLiteral("Fusion"));
+  }
+  InstallTranslations();
 
   switch (line.action) {
     case CommandLine::Action::Tour:
-      return RunTour(profiles, line.target);
+      return RunTour(profiles.Projectors(), line.target);
     case CommandLine::Action::Screenshot: {
-      const QString error = SaveScreenshot(profiles[opened], line.tab.value_or(0), line.target);
+      const QString error =
+          SaveScreenshot(profiles.Projectors()[opened], line.tab.value_or(0), line.target);
       return error.isEmpty() ? 0 : Fail(error);
     }
     default:

@@ -2,12 +2,15 @@
 include(CMakePackageConfigHelpers)
 
 # The path of the build is that of the installation: what CMake would patch on installing it pads, and
-# an empty entry means the current directory.
-set_target_properties(ProjectorCommon AdvancedControl PROPERTIES
-  INSTALL_RPATH "$ORIGIN" BUILD_WITH_INSTALL_RPATH ON)
+# an empty entry means the current directory. What is installed in the system needs none.
+if(NOT CMAKE_INSTALL_PREFIX STREQUAL "/usr")
+  set_target_properties(ProjectorCommon AdvancedControl PROPERTIES INSTALL_RPATH "$ORIGIN")
+endif()
+set_target_properties(ProjectorCommon AdvancedControl PROPERTIES BUILD_WITH_INSTALL_RPATH ON)
 target_compile_features(ProjectorCommon PUBLIC cxx_std_20)
 install(TARGETS ProjectorCommon AdvancedControl EXPORT AdvancedControlTargets
-        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT library
+                NAMELINK_COMPONENT development)
 
 # The headers a host needs, and what those include.
 file(GLOB headers RELATIVE ${PROJECT_SOURCE_DIR}/src CONFIGURE_DEPENDS
@@ -35,17 +38,18 @@ set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${read})
 foreach(header IN LISTS headers)
   get_filename_component(folder ${header} DIRECTORY)
   install(FILES src/${header}
-          DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/AdvancedControl/${folder})
+          DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/AdvancedControl/${folder} COMPONENT development)
 endforeach()
 install(FILES ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/mcdll.dll ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/mcschn.dll
-        DESTINATION ${CMAKE_INSTALL_DATADIR}/advanced-control)
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/advanced-control COMPONENT library)
 
 set(packageDir ${CMAKE_INSTALL_LIBDIR}/cmake/AdvancedControl)
 configure_package_config_file(cmake/AdvancedControlConfig.cmake.in
   ${PROJECT_BINARY_DIR}/AdvancedControlConfig.cmake INSTALL_DESTINATION ${packageDir})
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/AdvancedControlConfigVersion.cmake
   COMPATIBILITY SameMajorVersion)
-install(EXPORT AdvancedControlTargets NAMESPACE AdvancedControl:: DESTINATION ${packageDir})
+install(EXPORT AdvancedControlTargets NAMESPACE AdvancedControl:: DESTINATION ${packageDir}
+        COMPONENT development)
 install(FILES ${PROJECT_BINARY_DIR}/AdvancedControlConfig.cmake
               ${PROJECT_BINARY_DIR}/AdvancedControlConfigVersion.cmake
-        DESTINATION ${packageDir})
+        DESTINATION ${packageDir} COMPONENT development)

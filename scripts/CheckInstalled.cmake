@@ -65,7 +65,7 @@ foreach(shown "CAdvanceDlg::CopyData3(" "CAdvanceDlg::DispTabScreen(" "GetCatalo
 endforeach()
 string(REGEX MATCHALL "[^\n]* T [^\n]*" functions "${symbols}")
 foreach(function IN LISTS functions)
-  if(NOT function MATCHES " T (non-virtual thunk to |virtual thunk to )?(CAdvanceDlg|CDialog|SettingsDialog|RowDialog|CTabPage|PicturePage|CPictureTabType5Dlg|CSetupType5TabDlg|CAudioType5Dlg|CInputType5Dlg|COption5TabDlg|CServiceDlg|CPjtInterface|CModelInfo|CScheduleInfo|CComCtrl|CSocketCtrl|LoadCatalog|ReleaseCatalog|IsCatalogLoaded|CatalogProblem|GetCatalogText|GetCatalogTextV|LocalizeControlTexts|SystemLanguageId|WindowText|SetWindowText|PagesOf|TabsOf|KeyOf|ControlOf|FindRow|KeepsTemplate|Has|ReadingOf|SliderRange|StepBounds|Perform|Read|GammaEntries|ColorTempEntries|Picture1ColorTempEntries|WhisperEntries|AspectEntries|SourceEntries|PositionOf|ParseRange)(::|\\(|\\[abi)")
+  if(NOT function MATCHES " T (non-virtual thunk to |virtual thunk to )?(CAdvanceDlg|CDialog|SettingsDialog|RowDialog|CTabPage|PicturePage|CPictureTabType5Dlg|CSetupType5TabDlg|CAudioType5Dlg|CInputType5Dlg|COption5TabDlg|CServiceDlg|CPjtInterface|CModelInfo|CScheduleInfo|CComCtrl|CSocketCtrl|LoadCatalog|ReleaseCatalog|IsCatalogLoaded|CatalogProblem|GetCatalogText|GetCatalogTextV|LocalizeControlTexts|SystemLanguageId|WindowText|SetWindowText|PagesOf|TabsOf|TableOf|KeyOf|ControlOf|FindRow|KeepsTemplate|Has|ReadingOf|SliderRange|StepBounds|Perform|Read|GammaEntries|ColorTempEntries|Picture1ColorTempEntries|WhisperEntries|AspectEntries|SourceEntries|PositionOf|ParseRange)(::|\\(|\\[abi)")
     message(FATAL_ERROR "The library shows its users more than it offers: ${function}")
   endif()
 endforeach()

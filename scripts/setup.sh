@@ -12,7 +12,7 @@ packages=(
   clang-format clang-tidy
   clang libclang-rt-14-dev
   libbenchmark-dev
-  gettext qt6-l10n-tools
+  gettext qt6-l10n-tools qt6-translations-l10n
   fonts-dejavu-core fonts-wqy-microhei
 )
 

@@ -45,6 +45,8 @@ struct BasicModelInfo2 {
   /// The range text with this `RangeIndex`, less than `RangeIndex::Count`.
   String& RangeText(std::size_t index);
   const String& RangeText(std::size_t index) const;
+
+  bool operator==(const BasicModelInfo2&) const = default;
 };
 
 /// For each `RangeIndex`, where the record keeps its text.

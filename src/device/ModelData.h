@@ -28,6 +28,8 @@ struct CountedList {
 
   /// `count` held inside 0..kCapacity, whatever a host passed.
   int Size() const { return count < 0 ? 0 : count > kCapacity ? kCapacity : count; }
+
+  bool operator==(const CountedList&) const = default;
 };
 
 /// The input sources that the model knows.
@@ -40,6 +42,8 @@ struct SourceList {
   std::array<std::int32_t, kCapacity> secondValues{};  ///< Second host value of each entry.
 
   int Size() const { return count < 0 ? 0 : count > kCapacity ? kCapacity : count; }
+
+  bool operator==(const SourceList&) const = default;
 };
 
 /// Position of each adjustment range in `ModelData::RangeTexts`.

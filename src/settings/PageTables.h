@@ -39,9 +39,9 @@ extern const PageTable kInput3Rows;
 extern const PageTable kOption3Rows;
 
 // The pop-ups of the pages.
-extern const PageTable kServiceRows;
-extern const PageTable kGammaRows;
-extern const PageTable kColorTempRows;
+ADVANCED_CONTROL_EXPORT extern const PageTable kServiceRows;
+ADVANCED_CONTROL_EXPORT extern const PageTable kGammaRows;
+ADVANCED_CONTROL_EXPORT extern const PageTable kColorTempRows;
 
 /// The rows of a page.
-const PageTable& TableOf(PageId page);
+ADVANCED_CONTROL_EXPORT const PageTable& TableOf(PageId page);

@@ -88,6 +88,16 @@ TEST(Program, SavesPicturesOfTheTabAndLanguageAskedFor) {
   EXPECT_NE(status, picture({"--language", "2052"}));
 }
 
+TEST(Program, LeavesToQtWhatIsQts) {
+  for (const QStringList& arguments : {QStringList{"-style", "windows", "--list"},
+                                       {"-reverse", "-platform", "offscreen", "--list"},
+                                       {"--list", "--style=Fusion", "-qwindowtitle", "--tour"}}) {
+    const Outcome run = RunProgram(arguments);
+    EXPECT_EQ(run.exitCode, 0) << run.errors.toStdString();
+    EXPECT_THAT(run.output.toStdString(), HasSubstr("Projector 5-30"));
+  }
+}
+
 TEST(Program, WithoutADisplayOpensNoWindow) {
   const Outcome run = RunProgram({});
   EXPECT_EQ(run.exitCode, 1);

@@ -1,0 +1,704 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN">
+<context>
+    <name>CommandLog</name>
+    <message>
+        <source>Changes &amp;Only</source>
+        <translation>仅显示更改(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Save &amp;Log As…</source>
+        <translation>日志另存为(&amp;L)…</translation>
+    </message>
+    <message>
+        <source>C&amp;lear Log</source>
+        <translation>清空日志(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Command log</source>
+        <translation>命令日志</translation>
+    </message>
+    <message>
+        <source>Leave out the commands that only read</source>
+        <translation>不显示仅读取的命令</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Comman&amp;ds, newest last</source>
+        <translation>命令，最新的在最后(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+    <message>
+        <source>Save Log</source>
+        <translation>保存日志</translation>
+    </message>
+    <message>
+        <source>Tables (*.tsv);;All files (*)</source>
+        <translation>表格 (*.tsv);;所有文件 (*)</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLogModel</name>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Projector</source>
+        <translation>投影机</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>命令</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>毫秒</translation>
+    </message>
+    <message>
+        <source>ok</source>
+        <translation>成功</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>被拒绝</translation>
+    </message>
+    <message>
+        <source>no answer</source>
+        <translation>无应答</translation>
+    </message>
+</context>
+<context>
+    <name>FaultPanel</name>
+    <message>
+        <source>Standby</source>
+        <translation>待机</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>开机</translation>
+    </message>
+    <message>
+        <source>Cooling down</source>
+        <translation>冷却中</translation>
+    </message>
+    <message>
+        <source>No error</source>
+        <translation>无错误</translation>
+    </message>
+    <message>
+        <source>Cover</source>
+        <translation>机盖</translation>
+    </message>
+    <message>
+        <source>Fan</source>
+        <translation>风扇</translation>
+    </message>
+    <message>
+        <source>Lamp</source>
+        <translation>灯泡</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>温度</translation>
+    </message>
+    <message>
+        <source>Air flow</source>
+        <translation>气流</translation>
+    </message>
+    <message>
+        <source>Lamp time</source>
+        <translation>灯泡时间</translation>
+    </message>
+    <message>
+        <source>Cold</source>
+        <translation>温度过低</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>过滤网</translation>
+    </message>
+    <message>
+        <source>Filter time</source>
+        <translation>过滤网时间</translation>
+    </message>
+    <message>
+        <source>Other (99)</source>
+        <translation>其他 (99)</translation>
+    </message>
+    <message>
+        <source>Refuse</source>
+        <translation>拒绝</translation>
+    </message>
+    <message>
+        <source>Fail reads</source>
+        <translation>读取失败</translation>
+    </message>
+    <message>
+        <source>Delay</source>
+        <translation>延迟</translation>
+    </message>
+    <message>
+        <source>Drop out</source>
+        <translation>断线</translation>
+    </message>
+    <message>
+        <source>&amp;Set Fault</source>
+        <translation>设置故障(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>移除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Remove &amp;All</source>
+        <translation>全部移除(&amp;A)</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> 毫秒</translation>
+    </message>
+    <message>
+        <source>Faults in force</source>
+        <translation>生效的故障</translation>
+    </message>
+    <message>
+        <source>&amp;Power</source>
+        <translation>电源(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Error status</source>
+        <translation>错误状态(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Command</source>
+        <translation>命令(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Fault</source>
+        <translation>故障(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Delay</source>
+        <translation>延迟(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;In force</source>
+        <translation>生效(&amp;I)</translation>
+    </message>
+    <message>
+        <source>No projector selected</source>
+        <translation>未选择投影机</translation>
+    </message>
+    <message>
+        <source>Simulation of %1</source>
+        <translation>%1 的模拟</translation>
+    </message>
+    <message>
+        <source>All commands</source>
+        <translation>所有命令</translation>
+    </message>
+    <message>
+        <source> (any code)</source>
+        <translation>（任意代码）</translation>
+    </message>
+    <message>
+        <source>Choose, or type a part of a name or code</source>
+        <translation>请选择，或输入名称或代码的一部分</translation>
+    </message>
+    <message>
+        <source> %1 ms</source>
+        <translation> %1 毫秒</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Open</source>
+        <translation>已打开</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>文件(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>退出(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;Projector</source>
+        <translation>投影机(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Open Settings</source>
+        <translation>打开设置(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>查看(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Find Projectors</source>
+        <translation>查找投影机(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Simulation</source>
+        <translation>模拟(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Command Log</source>
+        <translation>命令日志(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard Shortcuts</source>
+        <translation>键盘快捷键(&amp;K)</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>关于(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Advanced Control: %1</source>
+        <translation>高级控制：%1</translation>
+    </message>
+    <message>
+        <source>Advanced Control</source>
+        <translation>高级控制</translation>
+    </message>
+    <message>
+        <source>In a projector&apos;s dialog</source>
+        <translation>在投影机的对话框中</translation>
+    </message>
+    <message>
+        <source>Ctrl+Tab, Ctrl+Page Down</source>
+        <translation>Ctrl+Tab、Ctrl+Page Down</translation>
+    </message>
+    <message>
+        <source>Next tab</source>
+        <translation>下一个选项卡</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+Tab, Ctrl+Page Up</source>
+        <translation>Ctrl+Shift+Tab、Ctrl+Page Up</translation>
+    </message>
+    <message>
+        <source>Previous tab</source>
+        <translation>上一个选项卡</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>键盘快捷键</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>关于</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;The live settings of projectors: every value is read from the projector, every change is sent at once.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;高级控制 %1&lt;/h3&gt;&lt;p&gt;投影机的实时设置：每个值都从投影机读取，每项更改都立即发送。&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileActions</name>
+    <message>
+        <source>&amp;Open Profiles…</source>
+        <translation>打开配置文件(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>重新加载(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Save Copy As…</source>
+        <translation>副本另存为(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>&amp;Add…</source>
+        <translation>添加(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>&amp;Edit…</source>
+        <translation>编辑(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate</source>
+        <translation>复制一份(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>移除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Open Profiles</source>
+        <translation>打开配置文件</translation>
+    </message>
+    <message>
+        <source>Profiles (*.json);;All files (*)</source>
+        <translation>配置文件 (*.json);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>重新加载</translation>
+    </message>
+    <message>
+        <source>Save Copy of Profiles</source>
+        <translation>保存配置文件副本</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>复制一份</translation>
+    </message>
+    <message>
+        <source>Remove Projector</source>
+        <translation>移除投影机</translation>
+    </message>
+    <message>
+        <source>Remove &quot;%1&quot; from %2?</source>
+        <translation>要从 %2 中移除“%1”吗？</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileDocument</name>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program. Reload it (F5), then do this again.</source>
+        <translation>%1 已被其他程序更改。请重新加载 (F5) 后再试一次。</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileEditor</name>
+    <message>
+        <source>&amp;Name</source>
+        <translation>名称(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Model</source>
+        <translation>型号(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Dialog &amp;type</source>
+        <translation>对话框类型(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Model &amp;code</source>
+        <translation>型号代码(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Add Projector</source>
+        <translation>添加投影机</translation>
+    </message>
+    <message>
+        <source>Edit Projector</source>
+        <translation>编辑投影机</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>&amp;Family</source>
+        <translation>系列(&amp;F)</translation>
+    </message>
+    <message>
+        <source>As its family</source>
+        <translation>与系列相同</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>网络</translation>
+    </message>
+    <message>
+        <source>Serial port</source>
+        <translation>串口</translation>
+    </message>
+    <message>
+        <source>C&amp;onnection</source>
+        <translation>连接(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Address</source>
+        <translation>地址(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Port</source>
+        <translation>端口(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Secret</source>
+        <translation>密码(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Port n&amp;umber</source>
+        <translation>串口号(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Baud</source>
+        <translation>波特率(&amp;B)</translation>
+    </message>
+    <message>
+        <source>The projector needs a name.</source>
+        <translation>请输入投影机的名称。</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileFile</name>
+    <message>
+        <source>serial port %1</source>
+        <translation>串口 %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectorTableModel</name>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>型号</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>代码</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>连接</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectorView</name>
+    <message>
+        <source>&amp;Open</source>
+        <translation>打开(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Find a name, a model, a tab …</source>
+        <translation>查找名称、型号、选项卡…</translation>
+    </message>
+    <message>
+        <source>Find projectors</source>
+        <translation>查找投影机</translation>
+    </message>
+    <message>
+        <source>Projectors</source>
+        <translation>投影机</translation>
+    </message>
+    <message>
+        <source>Pro&amp;jectors</source>
+        <translation>投影机(&amp;J)</translation>
+    </message>
+</context>
+<context>
+    <name>RestoreDialog</name>
+    <message>
+        <source>Apply Settings</source>
+        <translation>应用设置</translation>
+    </message>
+    <message>
+        <source>Compare Settings</source>
+        <translation>比较设置</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>筛选</translation>
+    </message>
+    <message>
+        <source>&amp;Differences only</source>
+        <translation>仅显示差异(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Projector</source>
+        <translation>投影机</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Here</source>
+        <translation>当前值</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件中的值</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>应用(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>not read</source>
+        <translation>未读取</translation>
+    </message>
+    <message>
+        <source>already so</source>
+        <translation>已一致</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>不同</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>已更改</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>被拒绝</translation>
+    </message>
+    <message>
+        <source>not confirmed</source>
+        <translation>未确认</translation>
+    </message>
+    <message>
+        <source>skipped: this model does not have it</source>
+        <translation>已跳过：此型号没有该设置</translation>
+    </message>
+    <message>
+        <source>skipped: it is not one to put back</source>
+        <translation>已跳过：该设置不可还原</translation>
+    </message>
+    <message>
+        <source>skipped: this model does not take the value</source>
+        <translation>已跳过：此型号不接受该值</translation>
+    </message>
+    <message>
+        <source>%1; nothing was sent</source>
+        <translation>%1；未发送任何设置</translation>
+    </message>
+    <message>
+        <source>%1 changed</source>
+        <translation>已更改 %1 项</translation>
+    </message>
+    <message>
+        <source>%1 different</source>
+        <translation>不同 %1 项</translation>
+    </message>
+    <message>
+        <source>%1 already so</source>
+        <translation>已一致 %1 项</translation>
+    </message>
+    <message>
+        <source>%1 refused</source>
+        <translation>被拒绝 %1 项</translation>
+    </message>
+    <message>
+        <source>%1 not confirmed</source>
+        <translation>未确认 %1 项</translation>
+    </message>
+    <message>
+        <source>%1 not read</source>
+        <translation>未读取 %1 项</translation>
+    </message>
+    <message>
+        <source>%1 skipped</source>
+        <translation>已跳过 %1 项</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsActions</name>
+    <message>
+        <source>Save Se&amp;ttings…</source>
+        <translation>保存设置(&amp;T)…</translation>
+    </message>
+    <message>
+        <source>&amp;Compare with File…</source>
+        <translation>与文件比较(&amp;C)…</translation>
+    </message>
+    <message>
+        <source>A&amp;pply Settings…</source>
+        <translation>应用设置(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>%1: nothing can be read</source>
+        <translation>%1：无法读取任何设置</translation>
+    </message>
+    <message>
+        <source>%1: %2 settings cannot be read and are left out</source>
+        <translation>%1：有 %2 项设置无法读取，未保存</translation>
+    </message>
+    <message>
+        <source>Save Settings</source>
+        <translation>保存设置</translation>
+    </message>
+    <message>
+        <source>Settings (*.json)</source>
+        <translation>设置 (*.json)</translation>
+    </message>
+    <message>
+        <source>Save Settings in Folder</source>
+        <translation>将设置保存到文件夹</translation>
+    </message>
+    <message>
+        <source>Reading settings…</source>
+        <translation>正在读取设置…</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Open Settings</source>
+        <translation>打开设置文件</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,88 @@
+# Debian packages: `cmake --preset package && cmake --build --preset package && cpack --preset package`.
+#
+# The library with its catalogs, the files to build against it, and the program. Their components are
+# those of the install rules.
+set(ADVANCEDCONTROL_MAINTAINER "Advanced Control maintainers <maintainers@example.org>"
+    CACHE STRING "Maintainer of the Debian packages, as name <address>")
+
+find_program(GZIP_EXECUTABLE gzip REQUIRED)
+function(install_compressed source destination component)
+  get_filename_component(name ${destination} NAME)
+  set(compressed ${PROJECT_BINARY_DIR}/packaging/${component}/${name})
+  add_custom_command(OUTPUT ${compressed}
+    COMMAND ${CMAKE_COMMAND} -E make_directory ${PROJECT_BINARY_DIR}/packaging/${component}
+    COMMAND sh -c "${GZIP_EXECUTABLE} -9nc ${PROJECT_SOURCE_DIR}/packaging/${source} > ${compressed}"
+    DEPENDS ${PROJECT_SOURCE_DIR}/packaging/${source}
+    VERBATIM)
+  add_custom_target(Compressed-${component}-${name} ALL DEPENDS ${compressed})
+  get_filename_component(folder ${destination} DIRECTORY)
+  install(FILES ${compressed} DESTINATION ${folder} COMPONENT ${component})
+endfunction()
+
+install(FILES packaging/advanced-control.desktop
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT program)
+install(FILES packaging/org.advancedcontrol.AdvancedControl.metainfo.xml
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo COMPONENT program)
+install(FILES app/icons/advanced-control.svg
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps COMPONENT program)
+install(FILES app/icons/advanced-control.png
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/64x64/apps COMPONENT program)
+install_compressed(advanced-control.1 ${CMAKE_INSTALL_MANDIR}/man1/advanced-control.1.gz program)
+install_compressed(acctl.1 ${CMAKE_INSTALL_MANDIR}/man1/acctl.1.gz program)
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_VERBATIM_VARIABLES ON)
+set(CPACK_PACKAGE_NAME advanced-control)
+set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
+set(CPACK_PACKAGE_CONTACT "${ADVANCEDCONTROL_MAINTAINER}")
+set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR}/packages)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+set(CPACK_COMPONENTS_ALL library development program)
+set(CPACK_COMPONENTS_GROUPING ONE_PER_GROUP)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
+set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY >=)
+
+set(version "${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}")
+set(library libadvancedcontrol${PROJECT_VERSION_MAJOR})
+
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_NAME ${library})
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/triggers)
+set(CPACK_COMPONENT_LIBRARY_DESCRIPTION "live settings dialog for projectors
+A dialog with a tab per group of settings, every value read live from a
+projector and every change sent at once, for applications that manage
+projectors. With its texts in English and Simplified Chinese.")
+
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libadvancedcontrol-dev)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${library} (= ${version}), qt6-base-dev (>= 6.4)")
+set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "live settings dialog for projectors (development files)
+A dialog with a tab per group of settings, every value read live from a
+projector and every change sent at once. This package holds the headers
+and the files for CMake.")
+
+set(CPACK_DEBIAN_PROGRAM_PACKAGE_NAME advanced-control)
+set(CPACK_DEBIAN_PROGRAM_PACKAGE_SECTION utils)
+set(CPACK_DEBIAN_PROGRAM_PACKAGE_DEPENDS "${library} (= ${version})")
+set(CPACK_DEBIAN_PROGRAM_PACKAGE_RECOMMENDS "qt6-translations-l10n, qt6-wayland")
+set(CPACK_COMPONENT_PROGRAM_DESCRIPTION "read and change the settings of projectors
+A list of projectors, and for each of them a dialog with a tab per group of
+settings, every value read live and every change sent at once. A log shows
+each command and what came of it.")
+
+foreach(component library development program)
+  string(TOUPPER ${component} upper)
+  set(documents ${CMAKE_INSTALL_DATADIR}/doc/${CPACK_DEBIAN_${upper}_PACKAGE_NAME})
+  install(FILES packaging/copyright DESTINATION ${documents} COMPONENT ${component})
+  install_compressed(changelog ${documents}/changelog.Debian.gz ${component})
+endforeach()
+include(CPack)

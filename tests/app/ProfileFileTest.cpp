@@ -59,7 +59,7 @@ const WrongFile kWrongFiles[] = {
     {R"("link": "radio")", "1: projectors[0].link: must be simulated, network, serial or pjlink"},
     {R"({"projectors": [{"name": "A", "model": "M", "dialogType": 1, "modelCode": 1,
                          "connection": {"serial": {"port": 1}}, "link": "pjlink"}]})",
-     "3: projectors[0].link: needs a network connection"},
+     "2: projectors[0].link: needs a network connection"},
     {R"("ranges": {"bass": [0, 65536]})",
      "1: projectors[0].ranges.bass[1]: is 65536; it must be -32768 to 65535"},
     {R"("ranges": {"bass": [-32769, 0]})", "1: projectors[0].ranges.bass[0]: is -32769;"},

@@ -160,7 +160,9 @@ int RunOnProjectors(const Work& work, const std::vector<const ProjectorProfile*>
       },
       [&](int number, Report report) {
         const std::string& name = projectors[static_cast<std::size_t>(number)]->Name;
-        for (const std::string& complaint : report.complaints) Complain(name + ": " + complaint);
+        for (const std::string& complaint : report.complaints) {
+          Complain(std::string(name).append(": ").append(complaint));
+        }
         code = std::max(code, report.code);
         if (asJson) {
           report.json["name"] = Wide(name);

@@ -95,7 +95,11 @@ std::vector<Change> ChangesOf(const Work& work, const ModelSettings& settings, R
       report.Complain(key + ": this cannot be set", ExitCode::WrongUse);
     } else if (const auto typed = work.texts.Parse(*setting, word);
                !typed || (!typed->relative && !setting->Allows(typed->amount))) {
-      report.Complain(key + ": '" + word + "' is not one of: " + work.texts.Values(*setting),
+      report.Complain(std::string(key)
+                          .append(": '")
+                          .append(word)
+                          .append("' is not one of: ")
+                          .append(work.texts.Values(*setting)),
                       ExitCode::WrongUse);
     } else {
       changes.push_back({setting, *typed, word});

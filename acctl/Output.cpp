@@ -33,7 +33,8 @@ std::string Table::Text() const {
     for (std::size_t i = 0; i < row.size(); ++i) {
       line += row[i];
       if (i + 1 == row.size()) break;
-      line.append(static_cast<std::size_t>(widths[i] - DisplayWidth(row[i]) + 2), ' ');
+      const int gap = widths[i] - DisplayWidth(row[i]) + 2;
+      line.append(static_cast<std::size_t>(gap), ' ');
     }
     line.erase(line.find_last_not_of(' ') + 1);
     text += line + '\n';

@@ -56,8 +56,10 @@ void RunParallel(int count, int jobs, Meter& meter, const std::function<Report(i
       ready.notify_one();
     }
   };
+  const int threadCount = std::min(jobs, count);
   std::vector<std::jthread> threads;
-  for (int i = 0; i < std::min(jobs, count); ++i) threads.emplace_back(work);
+  threads.reserve(static_cast<std::size_t>(threadCount));
+  for (int i = 0; i < threadCount; ++i) threads.emplace_back(work);
 
   std::unique_lock lock(mutex);
   for (int next = 0; next < count; ++next) {

@@ -149,7 +149,6 @@ Report RunSave(const Work& work, ProjectorAccess& projector) {
   const QByteArray bytes = WriteSnapshot(snapshot);
   if (work.arguments.file == "-") {
     report.text = bytes.toStdString();
-    report.json = QJsonObject();
     return report;
   }
   if (const QString error = WriteWholeFile(Wide(work.arguments.file), bytes); !error.isEmpty()) {

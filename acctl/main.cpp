@@ -148,6 +148,8 @@ int RunOnProjectors(const Work& work, const std::vector<const ProjectorProfile*>
   Meter meter(several && isatty(STDERR_FILENO) == 1, static_cast<int>(projectors.size()));
   int code = ExitCode::Done;
   bool printed = true;
+  const bool isSaved = arguments.command == Command::Save && arguments.file == "-";
+  const bool asJson = arguments.json && arguments.command != Command::Watch && !isSaved;
   QJsonArray json;
   RunParallel(
       static_cast<int>(projectors.size()), arguments.jobs, meter,
@@ -158,16 +160,17 @@ int RunOnProjectors(const Work& work, const std::vector<const ProjectorProfile*>
       },
       [&](int number, Report report) {
         const std::string& name = projectors[static_cast<std::size_t>(number)]->Name;
-        for (const std::string& complaint : report.complaints) Complain(name + ": " + complaint);
+        for (const std::string& complaint : report.complaints) {
+          Complain(std::string(name).append(": ").append(complaint));
+        }
         code = std::max(code, report.code);
-        if (arguments.json) {
+        if (asJson) {
           report.json["name"] = Wide(name);
           json.append(report.json);
         } else if (printed && !report.text.empty()) {
           printed = Print(several ? Titled(name, report.text) : report.text);
         }
       });
-  const bool asJson = arguments.json && arguments.command != Command::Watch;
   if (asJson)
     printed = Print(QJsonDocument(QJsonObject{{"projectors", json}}).toJson().toStdString());
   if (const int signal = receivedSignal; signal != 0 && arguments.command != Command::Watch) {

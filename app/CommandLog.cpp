@@ -144,7 +144,8 @@ QString CommandLog::Save(const QString& fileName) const {
   const QByteArray text =
       (titles.join(QLatin1Char('\t')) + QLatin1Char('\n') + LogText(*shown_, rows)).toUtf8();
   QSaveFile file(fileName);
-  if (file.open(QSaveFile::WriteOnly) && file.write(text) == text.size() && file.commit()) {
+  if (file.open(QSaveFile::WriteOnly) && file.write(text) == text.size() && file.flush() &&
+      file.commit()) {
     return {};
   }
   return tr("Cannot write %1: %2").arg(fileName, file.errorString());

@@ -27,6 +27,7 @@
 #include "app/ProfileActions.h"
 #include "app/ProjectorView.h"
 #include "app/SettingNames.h"
+#include "app/SettingsActions.h"
 #include "host/CAdvanceDlg.h"
 #include "i18n/Catalog.h"
 
@@ -64,6 +65,7 @@ MainWindow::MainWindow(ProfileDocument profiles, QSettings* settings)
       tools_(new QSplitter(Qt::Vertical)),
       profileActions_(new ProfileActions(
           profiles_, [this] { return projectors_->CurrentRow(); }, *this)),
+      settingsActions_(new SettingsActions([this] { return projectors_->Selected(); }, *this)),
       dialogs_(std::make_unique<DialogKeeper>(std::vector<const QWidget*>{log_, tools_, this},
                                               settings)) {
   MakeLayout();
@@ -76,6 +78,7 @@ MainWindow::MainWindow(ProfileDocument profiles, QSettings* settings)
   connect(projectors_, &ProjectorView::CurrentChanged, this, [this] {
     faults_->SetSession(projectors_->Current());
     profileActions_->Update();
+    settingsActions_->Update();
   });
   connect(profileActions_, &ProfileActions::Changed, this, [this](int selected) {
     ShowProfiles();
@@ -141,10 +144,15 @@ void MainWindow::MakeMenus() {
   QAction* open = add(projector, tr("&Open Settings"), QKeySequence(Qt::CTRL | Qt::Key_Return),
                       &MainWindow::OpenCurrent);
   projector->addSeparator();
+  projector->addActions(
+      {settingsActions_->Save(), settingsActions_->Compare(), settingsActions_->Apply()});
+  projector->addSeparator();
   projector->addActions({profileActions_->Add(), profileActions_->Edit(),
                          profileActions_->Duplicate(), profileActions_->Remove()});
-  projectors_->AddContextActions({open, profileActions_->Add(), profileActions_->Edit(),
-                                  profileActions_->Duplicate(), profileActions_->Remove()});
+  projectors_->AddContextActions({open, settingsActions_->Save(), settingsActions_->Compare(),
+                                  settingsActions_->Apply(), profileActions_->Add(),
+                                  profileActions_->Edit(), profileActions_->Duplicate(),
+                                  profileActions_->Remove()});
 
   QMenu* view = menuBar()->addMenu(tr("&View"));
   add(view, tr("&Find Projectors"), QKeySequence::Find, [this] { projectors_->FocusSearch(); });

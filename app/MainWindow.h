@@ -13,6 +13,7 @@ class CommandLog;
 class DialogKeeper;
 class FaultPanel;
 class ProfileActions;
+class SettingsActions;
 class ProjectorView;
 class QSettings;
 class QSplitter;
@@ -64,5 +65,6 @@ class MainWindow : public QMainWindow {
   QSplitter* sides_;
   QSplitter* tools_;
   ProfileActions* profileActions_;
+  SettingsActions* settingsActions_;
   std::unique_ptr<DialogKeeper> dialogs_;
 };

@@ -69,7 +69,8 @@ QString CannotWrite(const QSaveFile& file) {
 
 QString Save(const QPixmap& pixmap, const QString& fileName) {
   QSaveFile file(fileName);
-  if (file.open(QSaveFile::WriteOnly) && pixmap.save(&file, "PNG") && file.commit()) return {};
+  if (file.open(QSaveFile::WriteOnly) && pixmap.save(&file, "PNG") && file.flush() && file.commit())
+    return {};
   return CannotWrite(file);
 }
 
@@ -147,7 +148,8 @@ TourResult SaveTour(const std::vector<ProjectorProfile>& profiles, const QString
   }
   index += "</body></html>\n";
   QSaveFile file(directory.filePath(QStringLiteral("index.html")));
-  if (!file.open(QSaveFile::WriteOnly) || file.write(index) != index.size() || !file.commit()) {
+  if (!file.open(QSaveFile::WriteOnly) || file.write(index) != index.size() || !file.flush() ||
+      !file.commit()) {
     result.error = CannotWrite(file);
   }
   return result;

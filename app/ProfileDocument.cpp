@@ -19,7 +19,8 @@ QString Text(const char* text) { return QCoreApplication::translate("ProfileDocu
 
 QString Save(const QString& fileName, const QByteArray& text) {
   QSaveFile file(fileName);
-  if (file.open(QSaveFile::WriteOnly) && file.write(text) == text.size() && file.commit()) {
+  if (file.open(QSaveFile::WriteOnly) && file.write(text) == text.size() && file.flush() &&
+      file.commit()) {
     return {};
   }
   return Text(QT_TRANSLATE_NOOP("ProfileDocument", "Cannot write %1: %2"))

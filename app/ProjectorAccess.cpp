@@ -29,15 +29,17 @@ SimulatedModel SimulatedModelOf(const ProjectorProfile& profile) {
 
 PjtReply PatientChannel::Execute(const PjtCommand& command) {
   PjtReply reply{.result = RefusedResult(command.operation), .answered = false};
-  const int attempts = everAnswered_ && IsRepeatable(command.operation) ? kAttempts : 1;
+  const bool repeats = everAnswered_ && IsRepeatable(command.operation);
+  const int attempts = repeats ? kAttempts : 1;
   for (int attempt = 0; attempt < attempts && !gone_; ++attempt) {
     if (attempt > 0) std::this_thread::sleep_for(kPause);
     reply = inner_->Execute(command);
     if (reply.answered) break;
   }
   answered_ = reply.answered;
+  // A step that got lost says nothing yet: the next command does.
+  gone_ = gone_ || (!answered_ && (repeats || !everAnswered_));
   everAnswered_ = everAnswered_ || answered_;
-  gone_ = gone_ || !answered_;
   return reply;
 }
 

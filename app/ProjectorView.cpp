@@ -35,7 +35,7 @@ ProjectorView::ProjectorView(QWidget* parent)
   table_->setModel(filter_);
   table_->setAccessibleName(tr("Projectors"));
   table_->setSelectionBehavior(QTableView::SelectRows);
-  table_->setSelectionMode(QTableView::SingleSelection);
+  table_->setSelectionMode(QTableView::ExtendedSelection);
   table_->setTabKeyNavigation(false);
   table_->setWordWrap(false);
   table_->verticalHeader()->hide();
@@ -66,6 +66,8 @@ ProjectorView::ProjectorView(QWidget* parent)
     open_->setEnabled(CurrentRow() >= 0);
     Q_EMIT CurrentChanged();
   });
+  connect(table_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+          &ProjectorView::CurrentChanged);
 }
 
 // A third click on a title goes back to the order of the file.
@@ -104,6 +106,17 @@ void ProjectorView::SetSessions(ProjectorTableModel::Sessions sessions) {
 }
 
 int ProjectorView::CurrentRow() const { return filter_->mapToSource(table_->currentIndex()).row(); }
+
+std::vector<ProjectorSession*> ProjectorView::Selected() const {
+  QModelIndexList rows = table_->selectionModel()->selectedRows();
+  std::ranges::sort(rows, {}, &QModelIndex::row);
+  std::vector<ProjectorSession*> selected;
+  for (const QModelIndex& row : rows) {
+    const int place = filter_->mapToSource(row).row();
+    selected.push_back(model_->All()[static_cast<std::size_t>(place)].get());
+  }
+  return selected;
+}
 
 ProjectorSession* ProjectorView::Current() const {
   const int row = CurrentRow();

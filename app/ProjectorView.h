@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include <QWidget>
 
 #include "app/ProjectorTableModel.h"
@@ -26,6 +28,9 @@ class ProjectorView : public QWidget {
   ProjectorSession* Current() const;
   int CurrentRow() const;
 
+  /// All that are selected, in the order of the list.
+  std::vector<ProjectorSession*> Selected() const;
+
   /// Selects a projector of the model; a search that hides it is taken back.
   void Select(int row);
 
@@ -39,6 +44,7 @@ class ProjectorView : public QWidget {
  Q_SIGNALS:
   /// The user wants the selected projector's dialog.
   void Activated();
+  /// The selected projector, or the projectors selected beside it, are others.
   void CurrentChanged();
 
  protected:

@@ -94,7 +94,7 @@ class RestoreDialog::Working {
 };
 
 RestoreDialog::RestoreDialog(Purpose purpose, Snapshot snapshot, QString file,
-                             std::vector<ProjectorSession*> sessions, QWidget* parent)
+                             const std::vector<ProjectorSession*>& sessions, QWidget* parent)
     : QDialog(parent),
       purpose_(purpose),
       snapshot_(std::move(snapshot)),

@@ -29,7 +29,7 @@ class RestoreDialog : public QDialog {
   /// `sessions` outlive the dialog; `file` is where `snapshot` was read from, and where the values
   /// that are replaced are kept beside.
   RestoreDialog(Purpose purpose, Snapshot snapshot, QString file,
-                std::vector<ProjectorSession*> sessions, QWidget* parent = nullptr);
+                const std::vector<ProjectorSession*>& sessions, QWidget* parent = nullptr);
   ~RestoreDialog() override;
 
   /// Reads all projectors and shows what differs. Done by itself when the dialog is shown.

@@ -24,7 +24,8 @@ class RowNames {
   void operator()(const CheckRow& row) { Add(row.caption, {row.read, row.send}); }
   void operator()(const ActionRow& row) { Add(row.caption, {row.call}); }
   void operator()(const ResetRow&) {}
-  void operator()(const OwnRow& row) { Add(row.caption, {row.read}); }
+  void operator()(const StateRow& row) { Add(row.caption, {row.read}); }
+  void operator()(const PopUpRow&) {}
 
  private:
   void Add(int caption, std::initializer_list<std::optional<Call>> calls) {

@@ -18,15 +18,19 @@ SnapshotContents ReadSettingsFile(const QString& path) {
   return contents;
 }
 
-QString UndoPath(const QString& file, const QString& folder, const std::string& projector) {
-  const QFileInfo info(file);
-  const QDir place(folder.isEmpty() ? info.path() : folder);
+QString FileNameOf(const std::string& projector) {
   QString name = QString::fromStdString(projector).left(64);
   for (QChar& character : name) {
     if (!character.isLetterOrNumber() && character != '-') character = '_';
   }
+  return name;
+}
+
+QString UndoPath(const QString& file, const QString& folder, const std::string& projector) {
+  const QFileInfo info(file);
+  const QDir place(folder.isEmpty() ? info.path() : folder);
   const QString base = (file == "-" ? QString() : info.completeBaseName() + '.') +
-                       QStringLiteral("undo.%1.").arg(name) +
+                       QStringLiteral("undo.%1.").arg(FileNameOf(projector)) +
                        QDateTime::currentDateTimeUtc().toString("yyyyMMdd'T'HHmmss'Z'");
   QString path = place.filePath(base + ".json");
   for (int i = 2; QFileInfo::exists(path); ++i) {

@@ -28,6 +28,7 @@ install(FILES app/icons/advanced-control.svg
 install(FILES app/icons/advanced-control.png
         DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/64x64/apps COMPONENT program)
 install_compressed(advanced-control.1 ${CMAKE_INSTALL_MANDIR}/man1/advanced-control.1.gz program)
+install_compressed(acctl.1 ${CMAKE_INSTALL_MANDIR}/man1/acctl.1.gz program)
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_VERBATIM_VARIABLES ON)

@@ -57,8 +57,8 @@ std::optional<QString> Choose(std::vector<ProjectorProfile>& profiles, const QSt
 
 QString Write(const QString& fileName, const QByteArray& text) {
   QSaveFile file(fileName);
-  const bool written =
-      file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit();
+  const bool written = file.open(QIODevice::WriteOnly) && file.write(text) == text.size() &&
+                       file.flush() && file.commit();
   return written ? QString()
                  : QStringLiteral("cannot write %1: %2").arg(fileName, file.errorString());
 }

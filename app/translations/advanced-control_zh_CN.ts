@@ -535,4 +535,174 @@
         <translation>投影机(&amp;J)</translation>
     </message>
 </context>
+<context>
+    <name>RestoreDialog</name>
+    <message>
+        <source>Apply Settings</source>
+        <translation>应用设置</translation>
+    </message>
+    <message>
+        <source>Compare Settings</source>
+        <translation>比较设置</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>筛选</translation>
+    </message>
+    <message>
+        <source>&amp;Differences only</source>
+        <translation>仅显示差异(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Projector</source>
+        <translation>投影机</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Here</source>
+        <translation>当前值</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件中的值</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>应用(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>not read</source>
+        <translation>未读取</translation>
+    </message>
+    <message>
+        <source>already so</source>
+        <translation>已一致</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>不同</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>已更改</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>被拒绝</translation>
+    </message>
+    <message>
+        <source>not confirmed</source>
+        <translation>未确认</translation>
+    </message>
+    <message>
+        <source>skipped: this model does not have it</source>
+        <translation>已跳过：此型号没有该设置</translation>
+    </message>
+    <message>
+        <source>skipped: it is not one to put back</source>
+        <translation>已跳过：该设置不可还原</translation>
+    </message>
+    <message>
+        <source>skipped: this model does not take the value</source>
+        <translation>已跳过：此型号不接受该值</translation>
+    </message>
+    <message>
+        <source>%1; nothing was sent</source>
+        <translation>%1；未发送任何设置</translation>
+    </message>
+    <message>
+        <source>%1 changed</source>
+        <translation>已更改 %1 项</translation>
+    </message>
+    <message>
+        <source>%1 different</source>
+        <translation>不同 %1 项</translation>
+    </message>
+    <message>
+        <source>%1 already so</source>
+        <translation>已一致 %1 项</translation>
+    </message>
+    <message>
+        <source>%1 refused</source>
+        <translation>被拒绝 %1 项</translation>
+    </message>
+    <message>
+        <source>%1 not confirmed</source>
+        <translation>未确认 %1 项</translation>
+    </message>
+    <message>
+        <source>%1 not read</source>
+        <translation>未读取 %1 项</translation>
+    </message>
+    <message>
+        <source>%1 skipped</source>
+        <translation>已跳过 %1 项</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsActions</name>
+    <message>
+        <source>Save Se&amp;ttings…</source>
+        <translation>保存设置(&amp;T)…</translation>
+    </message>
+    <message>
+        <source>&amp;Compare with File…</source>
+        <translation>与文件比较(&amp;C)…</translation>
+    </message>
+    <message>
+        <source>A&amp;pply Settings…</source>
+        <translation>应用设置(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>%1: nothing can be read</source>
+        <translation>%1：无法读取任何设置</translation>
+    </message>
+    <message>
+        <source>%1: %2 settings cannot be read and are left out</source>
+        <translation>%1：有 %2 项设置无法读取，未保存</translation>
+    </message>
+    <message>
+        <source>Save Settings</source>
+        <translation>保存设置</translation>
+    </message>
+    <message>
+        <source>Settings (*.json)</source>
+        <translation>设置 (*.json)</translation>
+    </message>
+    <message>
+        <source>Save Settings in Folder</source>
+        <translation>将设置保存到文件夹</translation>
+    </message>
+    <message>
+        <source>Reading settings…</source>
+        <translation>正在读取设置…</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Open Settings</source>
+        <translation>打开设置文件</translation>
+    </message>
+</context>
 </TS>

@@ -162,22 +162,26 @@ bool ModelSettings::Change(CPjtInterface& projector, const ModelSetting& setting
   return SendRow(projector, *setting.row, *model_, value, how.source);
 }
 
-// A row with two arrow buttons has nothing else that changes it.
+// A row with two arrow buttons has nothing else that changes it. A step whose answer got lost may
+// have been made, so that only reading tells.
 bool ModelSettings::StepTo(CPjtInterface& projector, const ValueRow& row, int value,
                            const Sending& how) const {
   constexpr int kMostSteps = 4096;
-  auto present = ReadRow(projector, row, *model_, how.source);
+  constexpr int kMostFailures = 3;
   const Range bounds = StepBounds(row, *model_, kUnbounded);
+  auto present = ReadRow(projector, row, *model_, how.source);
+  int failures = 0;
   for (int i = 0; i < kMostSteps && present && *present != value && how.goesOn(); ++i) {
     const bool upwards = *present < value;
-    const auto stepped =
-        Step(projector, row, upwards, how.source.value_or(0), bounds, *present - row.bias);
-    // A projector that steps too far, or not at all, would be stepped for ever.
-    const bool nearer =
-        stepped.value && (upwards ? *stepped.value > *present && *stepped.value <= value
-                                  : *stepped.value < *present && *stepped.value >= value);
-    if (!nearer) return false;
-    present = stepped.value;
+    const int shown = *present - row.bias;
+    auto now = Step(projector, row, upwards, how.source.value_or(0), bounds, shown).value;
+    if (!now) now = ReadRow(projector, row, *model_, how.source);
+    // A projector that steps too far would be stepped to and fro for ever.
+    const bool isNearer = now && (upwards ? *now > *present && *now <= value  //
+                                          : *now < *present && *now >= value);
+    if (!isNearer && ++failures == kMostFailures) return false;
+    if (isNearer) failures = 0;
+    present = now;
   }
   return present == value;
 }

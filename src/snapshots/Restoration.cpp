@@ -92,6 +92,7 @@ void Restoration::Send(const SettingTexts& texts, const Progress& progress) {
 // interruption, so that what is told is true.
 void Restoration::Confirm(const std::vector<RestoredSetting*>& sent, const Progress& progress) {
   std::vector<const ModelSetting*> asked;
+  asked.reserve(sent.size());
   for (const RestoredSetting* restored : sent) asked.push_back(restored->setting);
   model_.Announce(connection_, asked);
   for (RestoredSetting* restored : sent) {

@@ -1,90 +1,8 @@
 #include "snapshots/Snapshot.h"
 
-#include <cmath>
-#include <limits>
 #include <map>
-#include <set>
-#include <utility>
 
 #include <QDateTime>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-
-namespace {
-
-constexpr const char* kFormat = "advanced-control-settings";
-constexpr int kVersion = 1;
-constexpr qsizetype kMaximumBytes = qsizetype{4} << 20;
-constexpr int kMaximumSettings = 10'000;
-constexpr qsizetype kMaximumText = 1024;
-
-/// Thrown while a text is read, caught before the reader returns.
-struct WrongSnapshot {
-  QString message;
-};
-
-QString Wide(const std::string& text) { return QString::fromStdString(text); }
-
-int Integer(const QJsonObject& object, const QString& key, const QString& place) {
-  const double number = object[key].toDouble(0.5);
-  if (number != std::trunc(number) ||
-      std::abs(number) > std::numeric_limits<std::int16_t>::max() * 4) {
-    throw WrongSnapshot{place + key + QStringLiteral(": must be a whole number of 16 bits")};
-  }
-  return static_cast<int>(number);
-}
-
-std::string Text(const QJsonObject& object, const QString& key, const QString& place) {
-  const QString text = object[key].toString();
-  if (text.isEmpty() || text.size() > kMaximumText) {
-    throw WrongSnapshot{place + key + QStringLiteral(": must be a text that is not empty")};
-  }
-  return text.toStdString();
-}
-
-QJsonObject Object(const QJsonValue& value, const QString& place) {
-  if (!value.isObject()) throw WrongSnapshot{place + QStringLiteral(": must be an object")};
-  return value.toObject();
-}
-
-Snapshot Parse(const QJsonObject& file) {
-  if (file["format"].toString() != QLatin1String(kFormat)) {
-    throw WrongSnapshot{QStringLiteral("this is no file of saved settings")};
-  }
-  if (Integer(file, "version", {}) != kVersion) {
-    throw WrongSnapshot{QStringLiteral("version: only version %1 is known").arg(kVersion)};
-  }
-  const QJsonObject model = Object(file["model"], "model");
-  Snapshot snapshot{.projector = file["projector"].toString().toStdString(),
-                    .model = model["name"].toString().toStdString(),
-                    .dialogType = Integer(model, "dialogType", "model."),
-                    .modelCode = Integer(model, "modelCode", "model."),
-                    .time = file["time"].toString().toStdString(),
-                    .settings = {}};
-  if (!file["settings"].isArray())
-    throw WrongSnapshot{QStringLiteral("settings: must be an array")};
-  const QJsonArray settings = file["settings"].toArray();
-  if (settings.size() > kMaximumSettings) {
-    throw WrongSnapshot{QStringLiteral("settings: has more than %1 entries").arg(kMaximumSettings)};
-  }
-  std::set<std::pair<std::string, std::optional<int>>> keys;
-  for (int i = 0; i < settings.size(); ++i) {
-    const QString place = QStringLiteral("settings[%1].").arg(i);
-    const QJsonObject entry = Object(settings[i], place.chopped(1));
-    const std::string key = Text(entry, "key", place);
-    std::optional<int> source;
-    if (entry.contains("source")) source = Integer(entry, "source", place);
-    if (!keys.emplace(key, source).second) {
-      throw WrongSnapshot{place + QStringLiteral("key: \"%1\" stands here twice").arg(Wide(key))};
-    }
-    snapshot.settings.push_back(
-        {key, Integer(entry, "value", place), entry["text"].toString().toStdString(), source});
-  }
-  return snapshot;
-}
-
-}  // namespace
 
 Snapshot EmptySnapshot(const std::string& projector, const ModelData& model) {
   return {.projector = projector,
@@ -118,40 +36,4 @@ Snapshot TakeSnapshot(const std::string& projector, const ModelSettings& setting
     progress.step();
   }
   return snapshot;
-}
-
-QByteArray WriteSnapshot(const Snapshot& snapshot) {
-  QJsonArray settings;
-  for (const SavedSetting& setting : snapshot.settings) {
-    QJsonObject entry{
-        {"key", Wide(setting.key)}, {"value", setting.value}, {"text", Wide(setting.text)}};
-    if (setting.source) entry["source"] = *setting.source;
-    settings.append(entry);
-  }
-  const QJsonObject file{{"format", kFormat},
-                         {"version", kVersion},
-                         {"projector", Wide(snapshot.projector)},
-                         {"model", QJsonObject{{"name", Wide(snapshot.model)},
-                                               {"dialogType", snapshot.dialogType},
-                                               {"modelCode", snapshot.modelCode}}},
-                         {"time", Wide(snapshot.time)},
-                         {"settings", settings}};
-  return QJsonDocument(file).toJson();
-}
-
-SnapshotContents ReadSnapshot(const QByteArray& text) {
-  const auto wrong = [](const QString& error) { return SnapshotContents{{}, error}; };
-  if (text.size() > kMaximumBytes) return wrong(QStringLiteral("is larger than 4 MiB"));
-  QJsonParseError syntax;
-  const QJsonDocument document = QJsonDocument::fromJson(text, &syntax);
-  if (!document.isObject()) {
-    if (document.isArray()) return wrong(QStringLiteral("must hold an object"));
-    const auto line = text.left(syntax.offset).count('\n') + 1;
-    return wrong(QStringLiteral("line %1: ").arg(line) + syntax.errorString());
-  }
-  try {
-    return {Parse(document.object()), {}};
-  } catch (const WrongSnapshot& error) {
-    return wrong(error.message);
-  }
 }

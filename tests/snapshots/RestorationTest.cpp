@@ -189,7 +189,7 @@ TEST(Snapshot, IsReadAsWrittenAndRefusedWhenWrong) {
            {"\"value\": ", "\"value\": 1e9, \"x\": ", "settings[0].value: must be a whole"},
            {"\"settings\": [", "\"settings\": [1,", "settings[0]: must be an object"},
            {"\"settings\"", "\"settingz\"", "settings: must be an array"},
-           {"\"key\": \"", "\"kez\": \"", "settings[0].key: must be a text"},
+           {"\"key\": \"", "\"kez\": \"", "settings[0].key: must be a line"},
            {"\"model\": {", "\"model\": {]", "line 3: "}}) {
     QByteArray wrong = text;
     wrong.replace(wrong.indexOf(from), static_cast<int>(strlen(from)), to);

@@ -1,0 +1,88 @@
+#include <gmock/gmock.h>
+
+#include <QCheckBox>
+#include <QDir>
+#include <QLabel>
+#include <QPushButton>
+#include <QSortFilterProxyModel>
+#include <QStandardItemModel>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTreeView>
+#include <gtest/gtest.h>
+
+#include "app/ProjectorSession.h"
+#include "app/SettingsActions.h"
+#include "app/SettingsFile.h"
+
+namespace {
+
+constexpr int kSettingColumn = 1, kResultColumn = 4;
+
+/// Two projectors of one model, and a file of the first one's settings.
+struct Rooms {
+  Rooms() {
+    for (const ProjectorProfile& profile :
+         ReadProfileFile(QStringLiteral(TEST_CATALOG_DIR "/projectors.json")).projectors) {
+      if (profile.Name != "Projector 5-30" && profile.Name != "Projector 5-31") continue;
+      sessions.push_back(
+          std::make_unique<ProjectorSession>(profile, [](const auto&, const auto&, auto) {}));
+    }
+    EXPECT_EQ(SettingsActions::SaveTo(file, {sessions[0].get()}), QStringList());
+  }
+  SimulatedProjector& Projector(std::size_t room) { return sessions[room]->Simulator(); }
+  SettingsActions::Sessions All() { return {sessions[0].get(), sessions[1].get()}; }
+
+  QTemporaryDir folder;
+  const QString file = folder.filePath("good.json");
+  std::vector<std::unique_ptr<ProjectorSession>> sessions;
+};
+
+/// The texts of a column, as they are shown.
+QStringList Column(const RestoreDialog& dialog, int column) {
+  const QAbstractItemModel& model = *dialog.findChild<QTreeView*>()->model();
+  QStringList texts;
+  for (int row = 0; row < model.rowCount(); ++row) {
+    texts.append(model.index(row, column).data().toString());
+  }
+  return texts;
+}
+
+TEST(SettingsActions, PutsBackWhatIsCheckedOnEveryProjector) {
+  Rooms rooms;
+  rooms.Projector(0).SetValue(SettingId::Brightness, 135);
+  rooms.Projector(1).SetValue(SettingId::Contrast, 120);
+  rooms.Projector(1).SetValue(SettingId::Tint, 120);
+  RestoreDialog dialog(RestoreDialog::Purpose::Restore, ReadSettingsFile(rooms.file).snapshot,
+                       rooms.file, rooms.All());
+  dialog.show();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Column(dialog, kSettingColumn).size() >= 3; }));
+  EXPECT_EQ(Column(dialog, kSettingColumn),
+            QStringList({"Picture: Brightness", "Picture: Contrast", "Picture: Tint"}));
+  EXPECT_EQ(Column(dialog, 2), QStringList({"7", "-8", "-8"}));
+  EXPECT_EQ(Column(dialog, 3), QStringList({"0", "0", "0"}));
+
+  QAbstractItemModel& model = *dialog.findChild<QTreeView*>()->model();
+  model.setData(model.index(2, kSettingColumn), Qt::Unchecked, Qt::CheckStateRole);
+  dialog.Restore();
+  EXPECT_EQ(Column(dialog, kResultColumn), QStringList({"changed", "changed", "different"}));
+  EXPECT_EQ(rooms.Projector(0).Value(SettingId::Brightness), 128);
+  EXPECT_EQ(rooms.Projector(1).Value(SettingId::Contrast), 128);
+  EXPECT_EQ(rooms.Projector(1).Value(SettingId::Tint), 120);
+  EXPECT_EQ(QDir(rooms.folder.path()).entryList({"good.undo.*"}).size(), 2);
+  dialog.findChild<QCheckBox*>()->setChecked(false);
+  EXPECT_GT(Column(dialog, kSettingColumn).size(), 100) << "what is the same is shown on demand";
+}
+
+TEST(SettingsActions, TellsWhatCannotBeSaved) {
+  Rooms rooms;
+  rooms.sessions[1]->SetFault({}, {.kind = Fault::Kind::FailRead});
+  const QStringList errors = SettingsActions::SaveTo(rooms.folder.path(), rooms.All());
+  EXPECT_EQ(errors, QStringList("Projector 5-31: nothing can be read"));
+  EXPECT_TRUE(QFile::exists(rooms.folder.filePath("Projector_5-30.json")));
+  EXPECT_THAT(
+      SettingsActions::SaveTo("/proc/x.json", {rooms.sessions[0].get()}).join('\n').toStdString(),
+      testing::StartsWith("cannot write /proc/x.json: "));
+}
+
+}  // namespace

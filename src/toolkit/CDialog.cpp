@@ -98,13 +98,13 @@ bool CDialog::Create() {
   created_ = true;
   if (isWindow()) Windows().push_back(this);
   orphaned_ = false;
+  named_ = false;
   WatchOwner();
   BuildControls();
   DoDataExchange();
   ConnectNotifications();
   OnInitDialog();
   UpdateRows();
-  named_ = false;
   GiveMnemonics();
   FitToScreen();
   return true;
@@ -116,8 +116,8 @@ void CDialog::GiveMnemonics() {
     if (row.controls.front().kind != ControlKind::Close) continue;
     auto& close = Item<QPushButton>(row.controls.front().id);
     QString text = close.text();
-    close.setAccessibleName(text);
     if (text.contains(QLatin1Char('&'))) continue;
+    close.setAccessibleName(text);
     const auto letter = text.indexOf(QLatin1Char('C'), 0, Qt::CaseInsensitive);
     close.setText(letter < 0 ? text + QStringLiteral("(&C)")
                              : text.insert(letter, QLatin1Char('&')));

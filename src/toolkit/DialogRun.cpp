@@ -6,7 +6,6 @@
 #include <QApplication>
 #include <QWindow>
 
-#include "toolkit/Accessibility.h"
 #include "toolkit/CDialog.h"
 #include "toolkit/FittedScroll.h"
 #include "toolkit/InputGate.h"
@@ -30,7 +29,6 @@ void CDialog::ShowUnread() {
   const auto show = std::exchange(showUnread_, nullptr);
   if (!show || !created_) return;
   UpdateRows();
-  NameControls(*this);
   GiveMnemonics();
   FitToScreen();
   show();

@@ -73,11 +73,16 @@ PageRules SetupType5(const char* name, int modelCode) {
           .dialogType = 5,
           .modelCode = modelCode,
           .tab = 4,
-          .rows = {{20332, 314, -1, GoesBack}, {20144, 315}, {20145, 315}},
+          .rows = {{20310, 0, 19},
+                   {20311, 0, 20},
+                   {20317, 0, 21},
+                   {20332, 314, -1, GoesBack},
+                   {20144, 315},
+                   {20145, 315}},
           .readBack = kSetupLists,
           .keep = kSetupRouting,
           .tellText = {20321, 20369, 20370, 20329},
-          .own = {20328, 20368}};
+          .own = {20310, 20311, 20317, 20328, 20368}};
 }
 
 PageRules AudioType5(const char* name, int modelCode) {
@@ -85,13 +90,14 @@ PageRules AudioType5(const char* name, int modelCode) {
           .dialogType = 5,
           .modelCode = modelCode,
           .tab = 5,
-          .rows = {},
+          .rows = {{20347, 0, 21}, {20350, 0, 32}, {20353, 0, 33}},
           .readBack = {20364},
           .keep = {20364},
           .positions = kAudioRouting,
           .readPosition = kAudioRouting,
           .tellText = kAudioRouting,
-          .stayInUse = kAudioLists};
+          .stayInUse = kAudioLists,
+          .own = {20347, 20350, 20353}};
 }
 
 // clang-format off

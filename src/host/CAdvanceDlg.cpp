@@ -409,8 +409,8 @@ void CAdvanceDlg::resizeEvent(QResizeEvent* event) {
     widget.setGeometry(QStyle::visualRect(layoutDirection(), rect(), at));
   };
   place(*close, bottomRight);
-  place(*status_, QRect(kMargin, bottomRight.top(), bottomRight.left() - 2 * kMargin,
-                        bottomRight.height()));
+  place(*status_,
+        QRect(kMargin, bottomRight.top(), bottomRight.left() - 2 * kMargin, bottomRight.height()));
   scroll_->setGeometry(
       QRect(kPagePosition, QPoint(width(), bottomRight.top()) -
                                QPoint(kPagePosition.x() + 1, kMargin + kPagePosition.x() + 1)));

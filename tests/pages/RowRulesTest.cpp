@@ -97,7 +97,7 @@ PageRules AudioType5(const char* name, int modelCode) {
           .readPosition = kAudioRouting,
           .tellText = kAudioRouting,
           .stayInUse = kAudioLists,
-          .own = {20347, 20350, 20353}};
+          .own = {20347, 20350, 20353, 20381}};
 }
 
 // clang-format off

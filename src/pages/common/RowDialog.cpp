@@ -305,7 +305,8 @@ void RowDialog::Operate(const ListRow& row, Bound& bound, int) {
   if (row.rules.tellsText) projector->SettingText = list.currentText().toStdString();
   const bool accepted =
       Perform(*projector, *row.Sending(*source), value, Model().ModelCode).accepted;
-  if (row.rules.readsBackAlways) RefreshRow(static_cast<std::size_t>(&bound - bound_.data()), source);
+  if (row.rules.readsBackAlways)
+    RefreshRow(static_cast<std::size_t>(&bound - bound_.data()), source);
   if (accepted) return;
   if (table_.refusedIsReadBack || row.rules.refused != Refused::Silent) ReadBack(row, *source);
   if (row.rules.error != 0) ShowError(row.rules.error);

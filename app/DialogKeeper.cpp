@@ -51,23 +51,27 @@ CAdvanceDlg* DialogKeeper::Of(const ProjectorSession& session) const {
 
 CAdvanceDlg* DialogKeeper::Open(const ProjectorSession& session) {
   CAdvanceDlg* dialog = Of(session);
-  const bool isNew = dialog == nullptr;
-  if (isNew) {
+  if (dialog == nullptr) {
     dialog = (dialogs_[&session] = session.MakeDialog()).get();
     connect(dialog, &QDialog::finished, this, [this, key = &session] { Retire(key); });
     Q_EMIT Opened(&session);
-    if (!dialog->CreateShown([this, dialog] { Arrange(*dialog); })) Retire(&session);
-    if (Of(session) != dialog) return nullptr;  // it may have been closed while it was read
+    const CModelInfo2& model = session.Profile().Model;
+    const bool created = dialog->CreateShown([&] {
+      Arrange(*dialog);
+      SelectLastTab(*dialog, model);
+    });
+    if (!created) Retire(&session);
+    return Of(session);  // it may have been closed while it was read
   }
   dialog->setWindowState(dialog->windowState() & ~Qt::WindowMinimized);
   dialog->show();
   dialog->raise();
   dialog->activateWindow();
-  if (isNew) ShowLastTab(*dialog, session.Profile().Model);
-  return Of(session);  // and while the tab was read
+  return dialog;
 }
 
-void DialogKeeper::ShowLastTab(CAdvanceDlg& dialog, const CModelInfo2& model) {
+// Before anything is read, and not in the user's way later.
+void DialogKeeper::SelectLastTab(CAdvanceDlg& dialog, const CModelInfo2& model) {
   if (settings_ == nullptr) return;
   auto* tabs = dialog.findChild<QTabBar*>();
   const std::vector<int> captions = TabCaptions(model);
@@ -75,6 +79,7 @@ void DialogKeeper::ShowLastTab(CAdvanceDlg& dialog, const CModelInfo2& model) {
     if (tab >= 0) settings_->setValue(kTabKey, captions[static_cast<std::size_t>(tab)]);
   });
   const auto last = std::ranges::find(captions, settings_->value(kTabKey).toInt());
+  const QSignalBlocker quiet(tabs);  // the selected page is about to be read anyway
   if (last != captions.end()) tabs->setCurrentIndex(static_cast<int>(last - captions.begin()));
 }
 

@@ -46,7 +46,7 @@ class DialogKeeper : public QObject {
  private:
   void Arrange(CAdvanceDlg& dialog);
   void Place(CAdvanceDlg& dialog) const;
-  void ShowLastTab(CAdvanceDlg& dialog, const CModelInfo2& model);
+  void SelectLastTab(CAdvanceDlg& dialog, const CModelInfo2& model);
   void Retire(const ProjectorSession* session);
   void Remember(const CAdvanceDlg& dialog);
   void DeleteRetired();

@@ -8,6 +8,8 @@
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QProgressDialog>
+#include <QThread>
+#include <QTimer>
 
 #include "app/ProjectorSession.h"
 #include "app/SettingsFile.h"
@@ -15,6 +17,12 @@
 #include "device/ModelDataIntake.h"
 #include "i18n/Catalog.h"
 #include "i18n/SystemLanguage.h"
+
+namespace {
+
+constexpr auto kLater = std::chrono::milliseconds(50);
+
+}  // namespace
 
 SettingsActions::SettingsActions(std::function<Sessions()> selected, QWidget& window)
     : QObject(&window),
@@ -28,8 +36,18 @@ SettingsActions::SettingsActions(std::function<Sessions()> selected, QWidget& wi
 
 QAction* SettingsActions::Make(const QString& text, void (SettingsActions::*act)()) {
   auto* action = new QAction(text, this);
-  connect(action, &QAction::triggered, this, act);
+  connect(action, &QAction::triggered, this, [this, act] { Run(act); });
   return action;
+}
+
+// A dialog's handler that waits in an event loop below could not go on before we have ended, and
+// its channel takes no other command until then.
+void SettingsActions::Run(void (SettingsActions::*act)()) {
+  if (QThread::currentThread()->loopLevel() > 1) {
+    QTimer::singleShot(kLater, this, [this, act] { Run(act); });
+  } else {
+    (this->*act)();
+  }
 }
 
 void SettingsActions::Update() {
@@ -87,7 +105,9 @@ void SettingsActions::SaveSettings() {
           : QFileDialog::getExistingDirectory(&window_, tr("Save Settings in Folder"));
   if (path.isEmpty()) return;
   QProgressDialog watched(tr("Reading settings…"), tr("Stop"), 0, 0, &window_);
-  watched.setWindowModality(Qt::WindowModal);
+  // From the start, so that neither the projectors nor their dialogs are used meanwhile.
+  watched.setWindowModality(Qt::ApplicationModal);
+  watched.show();
   const QStringList errors = SaveTo(path, sessions,
                                     {.goesOn = [&watched] { return !watched.wasCanceled(); },
                                      .step = [] { QCoreApplication::processEvents(); }});

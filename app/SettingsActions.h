@@ -37,6 +37,7 @@ class SettingsActions : public QObject {
 
  private:
   QAction* Make(const QString& text, void (SettingsActions::*act)());
+  void Run(void (SettingsActions::*act)());
   void SaveSettings();
   void CompareSettings() { OpenFile(RestoreDialog::Purpose::Compare); }
   void ApplySettings() { OpenFile(RestoreDialog::Purpose::Restore); }

@@ -92,17 +92,19 @@ PjtReply CPjtInterface::Execute(const PjtCommand& command) const {
     --traffic->waiting;
   }
   ++traffic->sent.commands;
-  traffic->sent.unanswered += !reply.answered;
+  traffic->sent.unanswered += !reply.answered && traffic->abandoned == 0;
   traffic->sent.refused += reply.answered && reply.result == RefusedResult(command.operation);
+  traffic->sent.notOffered += !reply.offered;
   return reply;
 }
 
-void CPjtInterface::Abandon() {
-  ++traffic_.now->abandoned;
+std::shared_ptr<const void> CPjtInterface::Abandon() {
+  const std::shared_ptr<Traffic> traffic = traffic_.now;
+  ++traffic->abandoned;
   if (IsWaiting() && channel_) channel_->Abandon();
+  return {traffic.get(), [traffic](const void*) { --traffic->abandoned; }};
 }
 
-void CPjtInterface::Resume() { --traffic_.now->abandoned; }
 bool CPjtInterface::IsAbandoned() const { return traffic_.now->abandoned > 0; }
 bool CPjtInterface::IsWaiting() const { return traffic_.now->waiting > 0; }
 CPjtInterface::Tally CPjtInterface::Sent() const { return traffic_.now->sent; }

@@ -133,11 +133,10 @@ class ADVANCED_CONTROL_EXPORT CPjtInterface {
   /// Tells the channel which reads are about to follow, in this order.
   void Announce(std::span<const PjtCommand> reads) const;
 
-  /// Gives up what is under way: the command that waits ends at once, and until as many calls of
-  /// `Resume` every command is unanswered without being sent. Called from inside the event loop of
-  /// a command that waits.
-  void Abandon();
-  void Resume();
+  /// Gives up what is under way: the command that waits ends at once, and as long as the result
+  /// lives, which may outlive the object, every command is unanswered without being sent. Called
+  /// from inside the event loop of a command that waits.
+  [[nodiscard]] std::shared_ptr<const void> Abandon();
   bool IsAbandoned() const;
   /// Whether a command of this object is under way.
   bool IsWaiting() const;
@@ -149,7 +148,8 @@ class ADVANCED_CONTROL_EXPORT CPjtInterface {
   struct Tally {
     int commands = 0;
     int refused = 0;
-    int unanswered = 0;
+    int unanswered = 0;  ///< Those that were abandoned apart.
+    int notOffered = 0;  ///< Refused, because the projector has no such setting.
   };
   Tally Sent() const;
 

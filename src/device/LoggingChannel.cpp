@@ -65,6 +65,7 @@ std::string FormatCommand(const PjtCommand& command, const PjtReply* reply) {
   }
   if (!reply) return text;
   if (!reply->answered) return text + " no answer";
+  if (!reply->offered) return text + " not offered";
   if (!IsSuccess(command.operation, reply->result)) return text + " refused";
   if (!Yields(command.operation)) return text;
   const int value = generic ? static_cast<std::uint16_t>(reply->value) : reply->value;

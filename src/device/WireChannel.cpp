@@ -32,18 +32,18 @@ PjtReply WireChannel::Execute(const PjtCommand& command) {
   if (!IsRead(command.operation)) {
     announced_.clear();
     sent_.clear();
-  } else if (Clock::now() - lastSent_ > limits_.answer) {
-    sent_.clear();
+  } else if (Clock::now() - lastAsked_ > limits_.answer) {
+    sent_.clear();  // what came during a pause may be as old as that
   }
-  if (!Connect()) return unanswered;
-  const auto reply = Ask(command);
+  const auto reply = Connect() ? Ask(command) : std::nullopt;
+  lastAsked_ = Clock::now();
   if (!reply) return unanswered;
   state_ = ConnectionState::Connected;
   switch (reply->status) {
     case Wire::Status::Answered:
       return {.result = reply->result, .value = reply->value};
     case Wire::Status::UnknownOperation:
-      return {.result = unanswered.result};
+      return {.result = unanswered.result, .offered = false};
     default:
       return unanswered;
   }
@@ -96,7 +96,6 @@ std::optional<Wire::Reply> WireChannel::Ask(const PjtCommand& command) {
           kMaximumBurst, static_cast<std::size_t>(announced_.end() - announced));
       Send({&*announced, count}, bytes);
       announced_.erase(announced_.begin(), announced + static_cast<std::ptrdiff_t>(count));
-      lastSent_ = Clock::now();
     }
     if (!Write(bytes, deadline)) return std::nullopt;
     own = sent_.begin();

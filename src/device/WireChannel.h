@@ -37,8 +37,8 @@ class ADVANCED_CONTROL_EXPORT WireChannel : public ProjectorChannel {
   PjtReply Execute(const PjtCommand& command) override;
 
   /// The reads go out in one burst when the first of them is executed. A reply counts for its own
-  /// command in the order announced, as long as no change came in between and it is no older than
-  /// the time for answering.
+  /// command in the order announced, as long as neither a change came in between nor a pause longer
+  /// than the time for answering; that time counts anew for each.
   void Announce(std::span<const PjtCommand> reads) override;
 
   ConnectionState Connection() const override { return state_; }
@@ -85,5 +85,5 @@ class ADVANCED_CONTROL_EXPORT WireChannel : public ProjectorChannel {
   std::optional<Wire::Welcome> welcome_;
   std::vector<PjtCommand> announced_;  ///< Not sent yet.
   std::deque<Sent> sent_;
-  std::chrono::steady_clock::time_point lastSent_{};
+  std::chrono::steady_clock::time_point lastAsked_{};
 };

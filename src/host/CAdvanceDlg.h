@@ -108,8 +108,8 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
   void OnOrphaned() override;
   void OnBusy() override;
   void OnIdle() override;
-  void OnLeave() override { projector_.Abandon(); }
-  void OnReturn() override { projector_.Resume(); }
+  void OnLeave() override { left_ = projector_.Abandon(); }
+  void OnReturn() override { left_.reset(); }
   void OnStale() override { readsAgain_ = true; }
   void resizeEvent(QResizeEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
@@ -139,7 +139,8 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
   CTabPage* shownPage_ = nullptr;
   StatusLine* status_;
   std::unique_ptr<WaitWatch> watch_;
-  CPjtInterface::Tally sentBefore_;  // before the first of the running handlers
-  bool reading_ = false;             // a page is being read
-  bool readsAgain_ = false;          // the shown page is to be read when what runs has ended
+  CPjtInterface::Tally sentBefore_;   // before the first of the running handlers
+  std::shared_ptr<const void> left_;  // while what runs is abandoned
+  bool reading_ = false;              // a page is being read
+  bool readsAgain_ = false;           // the shown page is to be read when what runs has ended
 };

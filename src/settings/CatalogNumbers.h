@@ -252,6 +252,7 @@ inline constexpr int ReadUnanswered = 4304;
 inline constexpr int NoEntries = 4305;
 inline constexpr int RangeNote = 4306;  // %1 to %2 (integers)
 inline constexpr int Retry = 4307;
+inline constexpr int NotOffered = 4308;
 
 // Why the projector did not answer.
 inline constexpr int WrongParameters = 4310;

@@ -48,10 +48,12 @@ void Restoration::Read(const Progress& progress) {
 }
 
 void Restoration::Read(RestoredSetting& restored, const Progress& progress) {
+  const int unanswered = connection_.Sent().unanswered;
   restored.before = model_.Read(connection_, *restored.setting, restored.saved.source);
   if (!restored.before) {
     // A projector that is gone has refused nothing.
-    restored.outcome = progress.goesOn() ? Outcome::Refused : Outcome::NotReached;
+    const bool isGone = connection_.Sent().unanswered > unanswered || !progress.goesOn();
+    restored.outcome = isGone ? Outcome::NotReached : Outcome::Refused;
   } else {
     const bool same = *restored.before == restored.saved.value;
     restored.outcome = same ? Outcome::AlreadySo : Outcome::Differs;

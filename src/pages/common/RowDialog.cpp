@@ -263,7 +263,8 @@ void RowDialog::Refresh(const CheckRow& row, Bound&, Source) {
 }
 
 void RowDialog::Refresh(const StateRow& row, Bound&, Source) {
-  ShowState(row, Read(*projector, row.read));
+  const auto value = Read(*projector, row.read);
+  if (!projector->IsAbandoned()) ShowState(row, value);
 }
 
 void RowDialog::ShowState(const StateRow& row, std::optional<int> value) {

@@ -4,6 +4,8 @@
 #include <optional>
 #include <vector>
 
+#include <QPointer>
+
 #include "AdvancedControlExport.h"
 #include "pages/common/SettingsDialog.h"
 #include "pages/common/ValueControls.h"
@@ -106,7 +108,7 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
 
  private:
   /// What there is to say about a row.
-  enum class Note : std::uint8_t { None, Refused, Unanswered, NoEntries, Range };
+  enum class Note : std::uint8_t { None, Refused, NotOffered, Unanswered, NoEntries, Range };
 
   /// What a dialog holds of one row.
   struct Bound {
@@ -120,6 +122,7 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
   using Source = std::optional<int>;
 
   void RefreshRow(std::size_t index, Source source);
+  void RefreshRow(std::size_t index, Source source, const CPjtInterface::Tally& before);
   void Tell(std::size_t index, Note note);
   Note NoteOf(std::size_t index, const CPjtInterface::Tally& before) const;
   QString NoteText(const PageRow& row, const Bound& bound) const;
@@ -173,6 +176,6 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
   int sentBefore_ = 0;
   bool waiting_ = false;
   bool stale_ = false;
-  PageVeil* veil_ = nullptr;          // a child; only while it is seen
+  QPointer<PageVeil> veil_;           // only while it is seen
   std::unique_ptr<WaitWatch> watch_;  // of a pop-up
 };

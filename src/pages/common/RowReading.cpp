@@ -61,7 +61,11 @@ void RowDialog::MarkUnread() {
 std::optional<RowDialog::Progress> RowDialog::ReadingProgress() const {
   if (readings_ == 0) return std::nullopt;
   const int done = projector->Sent().commands - sentBefore_;
-  return Progress{done, std::max(done + 1, static_cast<int>(Reads().size()))};
+  auto total = static_cast<int>(Reads().size());
+  for (std::size_t i = 0; i < bound_.size(); ++i) {
+    total += bound_[i].present && SourceOf(table_.rows[i]) != OfSource::None;
+  }
+  return Progress{done, std::max(done + 1, total)};
 }
 
 void RowDialog::Refresh() {
@@ -70,15 +74,21 @@ void RowDialog::Refresh() {
   projector->Announce(Reads());
   OfSource asked = OfSource::None;
   Source source;
+  CPjtInterface::Tally before;
   for (std::size_t i = 0; i < bound_.size(); ++i) {
     if (!bound_[i].present) continue;
     const OfSource of = SourceOf(table_.rows[i]);
     if (of != OfSource::None && std::exchange(asked, of) != of) {
+      before = projector->Sent();
       source = AskFor(of);
       if (projector->IsAbandoned()) return;
       ShowSource(source);
     }
-    RefreshRow(i, of == OfSource::None ? 0 : source);
+    if (of == OfSource::None || source) {
+      RefreshRow(i, of == OfSource::None ? 0 : source);
+    } else {
+      RefreshRow(i, source, before);  // why the source is unknown is why the row is
+    }
     if (projector->IsAbandoned()) return;
   }
   for (const PageRow& row : table_.rows) {
@@ -87,8 +97,11 @@ void RowDialog::Refresh() {
 }
 
 void RowDialog::RefreshRow(std::size_t index, Source source) {
+  RefreshRow(index, source, projector->Sent());
+}
+
+void RowDialog::RefreshRow(std::size_t index, Source source, const CPjtInterface::Tally& before) {
   Bound& bound = bound_[index];
-  const CPjtInterface::Tally before = projector->Sent();
   std::visit([&](const auto& row) { Refresh(row, bound, source); }, table_.rows[index]);
   if (projector->IsAbandoned()) return;
   bound.unread = false;
@@ -104,6 +117,7 @@ RowDialog::Note RowDialog::NoteOf(std::size_t index, const CPjtInterface::Tally&
   if (list != nullptr && list->count() == 0) return Note::NoEntries;
   const CPjtInterface::Tally after = projector->Sent();
   if (after.unanswered > before.unanswered) return Note::Unanswered;
+  if (after.notOffered > before.notOffered) return Note::NotOffered;
   if (after.refused > before.refused || !control->isEnabledTo(this)) return Note::Refused;
   return value != nullptr ? Note::Range : Note::None;
 }
@@ -112,12 +126,16 @@ QString RowDialog::NoteText(const PageRow& row, const Bound& bound) const {
   switch (bound.note) {
     case Note::Refused:
       return ListString(ListText::ReadRefused);
+    case Note::NotOffered:
+      return ListString(ListText::NotOffered);
     case Note::Unanswered:
       return ListString(ListText::ReadUnanswered);
     case Note::NoEntries:
       return ListString(ListText::NoEntries);
     case Note::Range: {
-      const Range range = StepBounds(std::get<ValueRow>(row), Model(), bound.value.Bounds());
+      const auto& value = std::get<ValueRow>(row);
+      const Range slider = bound.value.Bounds();
+      const Range range = value.ids.slider != 0 ? slider : StepBounds(value, Model(), slider);
       if (range.minimum <= kUnbounded.minimum || range.minimum >= range.maximum) return {};
       return CatalogString(kListCategory, ListText::RangeNote, std::int64_t{range.minimum},
                            std::int64_t{range.maximum});
@@ -157,10 +175,13 @@ void RowDialog::UpdateVeil() {
   }
   // A read that was broken off stays dimmed.
   if (!waiting_ && (unread.isEmpty() || readings_ > 0 || veil_ == nullptr)) {
-    delete std::exchange(veil_, nullptr);
+    delete veil_;
     return;
   }
-  if (veil_ == nullptr) veil_ = new PageVeil(*this);
+  // Beside the rows, so that it scrolls with them.
+  if (veil_ == nullptr) {
+    veil_ = new PageVeil(*GetDlgItem(ControlOf(table_.rows.front()))->parentWidget());
+  }
   veil_->Cover(isWindow() ? rows : rect(), unread);
 }
 

@@ -37,12 +37,7 @@ bool SettingsDialog::Ask(int questionNumber) {
   return AskYesNo(this, CatalogString(kErrorCategory, questionNumber), BoxButtons());
 }
 
-void SettingsDialog::OnLeave() {
-  abandoned_ = projector;
-  abandoned_->Abandon();
-}
-
-void SettingsDialog::OnReturn() { abandoned_->Resume(); }
+void SettingsDialog::OnLeave() { left_ = projector->Abandon(); }
 
 CPjtInterface& SettingsDialog::Unconnected() {
   static CPjtInterface projector;

@@ -36,10 +36,10 @@ class ADVANCED_CONTROL_EXPORT SettingsDialog : public CDialog {
 
   void OnOrphaned() override { projector = &Unconnected(); }
   void OnLeave() override;
-  void OnReturn() override;
+  void OnReturn() override { left_.reset(); }
 
  private:
   static CPjtInterface& Unconnected();
 
-  CPjtInterface* abandoned_ = nullptr;
+  std::shared_ptr<const void> left_;  // while what runs is abandoned
 };

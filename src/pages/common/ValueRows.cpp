@@ -50,6 +50,7 @@ void RowDialog::Operate(const ValueRow& row, Bound& bound, int control) {
 
 void RowDialog::Step(const ValueRow& row, ValueControls& controls, bool upwards) {
   auto source = AskFor(row.of);
+  if (projector->IsAbandoned()) return;
   if (row.of == OfSource::Current) {
     source = source.value_or(0);
     ShowSource(source);
@@ -104,7 +105,6 @@ void RowDialog::Refuse(const ValueRow& row, ValueControls& controls, int positio
 }
 
 // What resets show is not remembered: the next step's bound test still uses the value from before.
-
 void RowDialog::RunReset(const ValueRow& row, ValueControls& controls) {
   if (!Perform(*projector, row.reset.call).accepted) return;
   const auto value = Read(*projector, row.reset.read);

@@ -50,7 +50,7 @@ void CSetupType5TabDlg::ShowSource(std::optional<int> source) {
 
 void CSetupType5TabDlg::OnHScroll(CSliderCtrl& slider) {
   // Intended: a refused horizontal change falls back to the vertical memory, not to its own.
-  if (!Release(slider) && Value(kKeystoneH).Owns(slider)) {
+  if (!Release(slider) && Value(kKeystoneH).Owns(slider) && !projector->IsAbandoned()) {
     Value(kKeystoneH).MoveSlider(Value(kKeystoneV).current);
   }
 }

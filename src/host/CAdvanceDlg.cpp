@@ -405,7 +405,9 @@ void CAdvanceDlg::StartFinding() {
   for (int tab = 0; tabs_ != nullptr && tab < tabs_->count(); ++tab) {
     const CTabPage* page = PageBehind(tab);
     if (page == nullptr) continue;
+    QString last;  // the parts of a row bear one caption
     for (const auto& [caption, control] : page->PresentRows()) {
+      if (std::exchange(last, caption) == caption) continue;
       places.push_back({caption, tabs_->tabText(tab), tab, control});
     }
   }

@@ -66,14 +66,14 @@ void FindLine::keyPressEvent(QKeyEvent* event) {
   if (chosen.isValid()) {
     Choose(chosen);
   } else {
-    QToolTip::showText(mapToGlobal(QPoint()),
-                       CatalogString(kListCategory, ListText::NothingFound), this);
+    QToolTip::showText(mapToGlobal(QPoint()), CatalogString(kListCategory, ListText::NothingFound),
+                       this);
   }
 }
 
 void FindLine::focusOutEvent(QFocusEvent* event) {
   QLineEdit::focusOutEvent(event);
-  const bool stays = event->reason() == Qt::PopupFocusReason ||
-                     event->reason() == Qt::ActiveWindowFocusReason;
+  const bool stays =
+      event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason;
   if (!stays) hide();
 }

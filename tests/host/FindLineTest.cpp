@@ -1,5 +1,5 @@
-#include <QApplication>
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QCompleter>
 #include <QTabBar>
 #include <QTest>

@@ -64,8 +64,9 @@ struct RowMenus : testing::Test {
 TEST_F(RowMenus, TellWhatTheRowTakesAndWas) {
   for (const auto& [control, lines] : std::vector<std::pair<int, std::string>>{
            {kBrightness, "(Range: -32 to 32), (When opened: 10), (Put back), Enter a value…, Copy"},
-           {kContrast, "(The projector did not report this setting.), (Put back), "
-                       "(Enter a value…), Copy"},
+           {kContrast,
+            "(The projector did not report this setting.), (Put back), "
+            "(Enter a value…), Copy"},
            {kIris, "(When opened: Theater), (Put back), Copy"},
            {kMemoryButton, ""}}) {
     EXPECT_EQ(Lines(At(control)), lines) << control;

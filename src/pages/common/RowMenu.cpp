@@ -81,14 +81,13 @@ RowMenu::RowMenu(const Row& row, QWidget* parent) : QMenu(parent) {
         ->setEnabled(row.opened && CanMoveTo(*row.control, *row.opened));
   }
   if (slider != nullptr) {
-    addAction(ListString(ListText::EnterValue), slider,
-              [slider, caption = row.caption] { AskForNumber(*slider, caption); })
-        ->setEnabled(slider->isEnabled());
+    addAction(ListString(ListText::EnterValue), slider, [slider, caption = row.caption] {
+      AskForNumber(*slider, caption);
+    })->setEnabled(slider->isEnabled());
   }
   const QString copied =
       row.value.isEmpty() ? row.caption : row.caption + QStringLiteral(": ") + row.value;
-  addAction(ListString(ListText::Copy),
-            [copied] { QApplication::clipboard()->setText(copied); });
+  addAction(ListString(ListText::Copy), [copied] { QApplication::clipboard()->setText(copied); });
 }
 
 void RowMenu::Tell(const QString& text) { addAction(text)->setEnabled(false); }

@@ -15,8 +15,8 @@ class RowMenu final : public QMenu {
   struct Row {
     QWidget* control;  ///< List, slider or check box; of any other the value is only told.
     QString caption;
-    QString value;  ///< As it is shown; may be empty.
-    QString note;   ///< The numbers it takes, or why it is grey; may be empty.
+    QString value;              ///< As it is shown; may be empty.
+    QString note;               ///< The numbers it takes, or why it is grey; may be empty.
     std::optional<int> opened;  ///< Its position when the dialog was opened.
   };
 

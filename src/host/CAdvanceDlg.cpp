@@ -400,30 +400,6 @@ void CAdvanceDlg::SelectNeighbourTab(int step) {
   tabs_->setCurrentIndex((tabs_->currentIndex() + step + count) % count);
 }
 
-void CAdvanceDlg::StartFinding() {
-  std::vector<FindLine::Place> places;
-  for (int tab = 0; tabs_ != nullptr && tab < tabs_->count(); ++tab) {
-    const CTabPage* page = PageBehind(tab);
-    if (page == nullptr) continue;
-    QString last;  // the parts of a row bear one caption
-    for (const auto& [caption, control] : page->PresentRows()) {
-      if (std::exchange(last, caption) == caption) continue;
-      places.push_back({caption, tabs_->tabText(tab), tab, control});
-    }
-  }
-  find_->Start(std::move(places));
-}
-
-// Reading another tab may end with anything: also with the dialog closed, or with a further tab.
-void CAdvanceDlg::GoTo(int tab, int control) {
-  tabs_->setFocus(Qt::OtherFocusReason);  // of a row that is grey
-  tabs_->setCurrentIndex(tab);
-  if (!IsCreated() || tabs_->currentIndex() != tab || shownPage_ == nullptr) return;
-  if (QWidget* found = shownPage_->GetDlgItem(control); found->isEnabledTo(this)) {
-    found->setFocus(Qt::OtherFocusReason);
-  }
-}
-
 void CAdvanceDlg::resizeEvent(QResizeEvent* event) {
   CDialog::resizeEvent(event);
   if (tabs_ == nullptr) return;

@@ -1,5 +1,7 @@
 #include "host/FindLine.h"
 
+#include <utility>
+
 #include <QAbstractItemView>
 #include <QAbstractProxyModel>
 #include <QCompleter>
@@ -7,8 +9,11 @@
 #include <QStringListModel>
 #include <QToolTip>
 
+#include "host/CAdvanceDlg.h"
 #include "i18n/LocalizeControlTexts.h"
+#include "pages/common/CTabPage.h"
 #include "settings/CatalogNumbers.h"
+#include "toolkit/CTabCtrl.h"
 
 FindLine::FindLine(QWidget* parent) : QLineEdit(parent) {
   setClearButtonEnabled(true);
@@ -76,4 +81,28 @@ void FindLine::focusOutEvent(QFocusEvent* event) {
   const bool stays =
       event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason;
   if (!stays) hide();
+}
+
+void CAdvanceDlg::StartFinding() {
+  std::vector<FindLine::Place> places;
+  for (int tab = 0; tabs_ != nullptr && tab < tabs_->count(); ++tab) {
+    const CTabPage* page = PageBehind(tab);
+    if (page == nullptr) continue;
+    QString last;  // the parts of a row bear one caption
+    for (const auto& [caption, control] : page->PresentRows()) {
+      if (std::exchange(last, caption) == caption) continue;
+      places.push_back({caption, tabs_->tabText(tab), tab, control});
+    }
+  }
+  find_->Start(std::move(places));
+}
+
+// Reading another tab may end with anything: also with the dialog closed, or with a further tab.
+void CAdvanceDlg::GoTo(int tab, int control) {
+  tabs_->setFocus(Qt::OtherFocusReason);  // of a row that is grey
+  tabs_->setCurrentIndex(tab);
+  if (!IsCreated() || tabs_->currentIndex() != tab || shownPage_ == nullptr) return;
+  if (QWidget* found = shownPage_->GetDlgItem(control); found->isEnabledTo(this)) {
+    found->setFocus(Qt::OtherFocusReason);
+  }
 }

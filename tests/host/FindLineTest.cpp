@@ -10,55 +10,42 @@
 
 namespace {
 
-struct Finding {
+struct Finding : testing::Test {
   OpenDialog open{FullModel(5, 30), 0,
                   [](RecordingChannel& projector) { projector.Refuse("Get 0x2004"); }};
   FindLine& line = *open.Dialog().findChild<FindLine*>();
   QTabBar& tabs = *open.Dialog().findChild<QTabBar*>();
 
-  void Type(const char* text) {
+  void Find(const char* text, const std::vector<Qt::Key>& keys) {
     QTest::keyClick(&open.Dialog(), Qt::Key_F, Qt::ControlModifier);
     QTest::keyClicks(&line, QString::fromUtf8(text));
-  }
-  QStringList Completions() const {
-    QStringList texts;
-    const QAbstractItemModel& model = *line.completer()->completionModel();
-    for (int i = 0; i < model.rowCount(); ++i) texts << model.index(i, 0).data().toString();
-    return texts;
+    QWidget* completions = line.completer()->popup();
+    for (const Qt::Key key : keys) {
+      QTest::keyClick(completions->isVisible() ? completions : &line, key);
+    }
   }
 };
 
-TEST(FindLine, GoesToTheRowOfAnyTab) {
-  Finding find;
-  find.Type("BRIGHT");
-  EXPECT_TRUE(find.line.isVisible());
-  EXPECT_EQ(find.Completions(), (QStringList{QStringLiteral("Brightness — Picture"),
-                                             QStringLiteral("OSD Bright — Screen")}));
-  QTest::keyClick(&find.line, Qt::Key_Return);
-  EXPECT_FALSE(find.line.isVisible());
-  EXPECT_EQ(find.tabs.currentIndex(), 1);
-  EXPECT_EQ(QApplication::focusWidget(), find.open.Page().GetDlgItem(20136));
-
-  find.Type("bright");
-  for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return}) {
-    QTest::keyClick(find.line.completer()->popup(), key);
-  }
-  EXPECT_EQ(find.tabs.tabText(find.tabs.currentIndex()), QStringLiteral("Screen"));
+TEST_F(Finding, GoesToTheRowOfAnyTab) {
+  Find("BRIGHT", {Qt::Key_Return});
+  EXPECT_FALSE(line.isVisible());
+  EXPECT_EQ(tabs.currentIndex(), 1);
+  EXPECT_EQ(QApplication::focusWidget(), open.Page().GetDlgItem(20136));
+  Find("bright", {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return});
+  EXPECT_EQ(tabs.tabText(tabs.currentIndex()), QStringLiteral("Screen"));
   EXPECT_EQ(QApplication::focusWidget()->accessibleName(), QStringLiteral("OSD Bright"));
+  Find("contrast", {Qt::Key_Return});  // grey: its tab is shown, and has the focus
+  EXPECT_EQ(tabs.currentIndex(), 1);
+  EXPECT_EQ(QApplication::focusWidget(), &tabs);
 }
 
-TEST(FindLine, StaysForNoNameAndLeavesWithoutTheDialog) {
-  Finding find;
-  find.Type("no such row");
-  QTest::keyClick(&find.line, Qt::Key_Return);
-  EXPECT_TRUE(find.line.isVisible());
-  QTest::keyClick(&find.line, Qt::Key_Escape);
-  EXPECT_FALSE(find.line.isVisible());
-  EXPECT_TRUE(find.open.Dialog().isVisible());
-  find.Type("contrast");  // grey: its tab is shown, and keeps the focus
-  QTest::keyClick(&find.line, Qt::Key_Return);
-  EXPECT_EQ(find.tabs.currentIndex(), 1);
-  EXPECT_EQ(QApplication::focusWidget(), &find.tabs);
+TEST_F(Finding, StaysForNoNameAndLeavesWithoutTheDialog) {
+  Find("no such row", {Qt::Key_Return});
+  EXPECT_TRUE(line.isVisible());
+  QTest::keyClick(&line, Qt::Key_Escape);
+  Find("bright", {Qt::Key_Escape});
+  EXPECT_FALSE(line.isVisible());
+  EXPECT_TRUE(open.Dialog().isVisible());
 }
 
 }  // namespace

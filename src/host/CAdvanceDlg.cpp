@@ -15,6 +15,7 @@
 #include <QVBoxLayout>
 
 #include "device/ModelDataIntake.h"
+#include "host/FindLine.h"
 #include "host/StatusLine.h"
 #include "i18n/LocalizeControlTexts.h"
 #include "pages/TablePages.h"
@@ -40,6 +41,7 @@ constexpr int kCloseId = 1;
 constexpr int kTabWidth = 120;
 constexpr QPoint kPagePosition{20, 64};
 constexpr int kMargin = 12;
+constexpr int kFindWidth = 300;
 
 constexpr int kNetworkConnection = 1;
 
@@ -114,6 +116,7 @@ CAdvanceDlg::CAdvanceDlg(CWnd* parent)
       scroll_(new FittedScroll(new QWidget, this)),
       pages_(new Pages{MakeAllPages(scroll_->widget())}),
       status_(new StatusLine(this)),
+      find_(new FindLine(this)),
       watch_(new WaitWatch([this] { return projector_.IsWaiting(); },
                            [this](bool waiting) { ShowWaiting(waiting); })) {
   auto* layout = new QVBoxLayout(scroll_->widget());
@@ -123,6 +126,9 @@ CAdvanceDlg::CAdvanceDlg(CWnd* parent)
     projector_.TryAfresh();
     DispTabScreen();
   });
+  connect(find_, &FindLine::Found, this, &CAdvanceDlg::GoTo);
+  connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this,
+          &CAdvanceDlg::StartFinding);
   const auto addShortcut = [this](const QKeySequence& keys, int step) {
     connect(new QShortcut(keys, this), &QShortcut::activated, this,
             [this, step] { SelectNeighbourTab(step); });
@@ -315,7 +321,7 @@ void CAdvanceDlg::ShowSelectedPage() {
   for (const auto& page : pages_->byId) {
     if (page->Template() != nullptr) page->hide();
   }
-  shownPage_ = SelectedPage();
+  shownPage_ = PageBehind(tabs_->currentIndex());
   if (shownPage_ == nullptr) return;
   shownPage_->MarkUnread();
   shownPage_->show();
@@ -358,8 +364,7 @@ void CAdvanceDlg::ShowWaiting(bool waiting) {
   status_->ShowProgress(text);
 }
 
-CTabPage* CAdvanceDlg::SelectedPage() const {
-  const int selection = tabs_->currentIndex();
+CTabPage* CAdvanceDlg::PageBehind(int selection) const {
   const auto tabs = TabsOf(model_.DialogType, model_.ModelCode);
   if (selection == 0) return &Page(PageId::Status);
   if (selection < 0 || static_cast<std::size_t>(selection) > tabs.size()) return nullptr;
@@ -409,8 +414,10 @@ void CAdvanceDlg::resizeEvent(QResizeEvent* event) {
     widget.setGeometry(QStyle::visualRect(layoutDirection(), rect(), at));
   };
   place(*close, bottomRight);
-  place(*status_,
-        QRect(kMargin, bottomRight.top(), bottomRight.left() - 2 * kMargin, bottomRight.height()));
+  QRect line(kMargin, bottomRight.top(), bottomRight.left() - 2 * kMargin, bottomRight.height());
+  place(*status_, line);
+  line.setLeft(std::max(line.left(), line.right() - kFindWidth));
+  place(*find_, line);
   scroll_->setGeometry(
       QRect(kPagePosition, QPoint(width(), bottomRight.top()) -
                                QPoint(kPagePosition.x() + 1, kMargin + kPagePosition.x() + 1)));

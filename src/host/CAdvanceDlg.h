@@ -16,6 +16,7 @@
 
 class CTabCtrl;
 class CTabPage;
+class FindLine;
 class FittedScroll;
 class ResourceModule;
 class StatusLine;
@@ -121,12 +122,14 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
   void CreatePage(PageId id);
   void InsertTabs();
   void SetTitle();
-  CTabPage* SelectedPage() const;
+  CTabPage* PageBehind(int tab) const;
   void ShowSelectedPage();
   void ShowWaiting(bool waiting);
   void FitToPages();
   void OrderFocus();
   void SelectNeighbourTab(int step);
+  void StartFinding();
+  void GoTo(int tab, int control);
 
   const ResourceModule* savedResources_ = nullptr;  // put back when the dialog closes
   ModelData model_;
@@ -138,6 +141,7 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
   CTabCtrl* tabs_ = nullptr;
   CTabPage* shownPage_ = nullptr;
   StatusLine* status_;
+  FindLine* find_;
   std::unique_ptr<WaitWatch> watch_;
   CPjtInterface::Tally sentBefore_;   // before the first of the running handlers
   std::shared_ptr<const void> left_;  // while what runs is abandoned

@@ -33,6 +33,7 @@ inline constexpr int TabAudio = 3169;
 inline constexpr int Ok = 4220;
 inline constexpr int Yes = 4221;
 inline constexpr int No = 4222;
+inline constexpr int Cancel = 4223;
 }  // namespace Caption
 
 /// A number that ends in `Base` starts a run: the text is that of the base plus an index or a
@@ -262,6 +263,14 @@ inline constexpr int ConnectionLost = 4313;
 inline constexpr int NotUnderstood = 4314;
 inline constexpr int OtherVersion = 4315;
 inline constexpr int PasswordRequired = 4316;
+
+// A row's context menu, and the search for a row.
+inline constexpr int WhenOpened = 4320;  // %1 the value's text
+inline constexpr int PutBack = 4321;
+inline constexpr int EnterValue = 4322;
+inline constexpr int Copy = 4323;
+inline constexpr int FindSetting = 4324;
+inline constexpr int NothingFound = 4325;
 }  // namespace ListText
 
 namespace ErrorText {

@@ -51,15 +51,6 @@ void Describe(const ActionRow& row, const ModelData& model, ModelSetting& settin
 
 void Describe(const auto&, const ModelData&, ModelSetting&) {}
 
-template <class Row>
-int CaptionOf(const Row& row) {
-  if constexpr (requires { row.caption; }) {
-    return row.caption;
-  } else {
-    return 0;
-  }
-}
-
 /// The pop-ups that a page opens on this model. The user's gamma and colour temperature can only be
 /// shaped where the model has them.
 std::vector<const PageTable*> PopUpsOf(PageId page, const ModelData& model) {
@@ -117,12 +108,8 @@ void ModelSettings::Add(const PageTable& table, int tab) {
     setting.row = &row;
     setting.reset = ResetOf(table, row);
     setting.readable = ReadingOf(row, *model_).has_value();
-    std::visit(
-        [&](const auto& kind) {
-          setting.caption = CaptionOf(kind);
-          Describe(kind, *model_, setting);
-        },
-        row);
+    setting.caption = CaptionOf(row);
+    std::visit([&](const auto& kind) { Describe(kind, *model_, setting); }, row);
   }
 }
 

@@ -30,6 +30,18 @@ std::string_view KeyOf(const PageRow& row) {
   return std::visit([](const auto& kind) { return kind.key; }, row);
 }
 
+int CaptionOf(const PageRow& row) {
+  return std::visit(
+      [](const auto& kind) {
+        if constexpr (std::is_same_v<decltype(kind), const ResetRow&>) {
+          return 0;
+        } else {
+          return kind.caption;
+        }
+      },
+      row);
+}
+
 int ControlOf(const PageRow& row) {
   return std::visit(
       [](const auto& kind) {
@@ -40,6 +52,15 @@ int ControlOf(const PageRow& row) {
         }
       },
       row);
+}
+
+std::vector<int> ControlsOf(const PageRow& row) {
+  const auto* value = std::get_if<ValueRow>(&row);
+  if (value == nullptr) return {ControlOf(row)};
+  const ValueIds& ids = value->ids;
+  std::vector<int> controls{ids.minus, ids.plus, ids.field};
+  if (ids.slider != 0) controls.push_back(ids.slider);
+  return controls;
 }
 
 int ListBeside(const PageRow& row) {

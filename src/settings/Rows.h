@@ -5,6 +5,7 @@
 #include <span>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 #include "AdvancedControlExport.h"
 #include "settings/Call.h"
@@ -256,9 +257,13 @@ struct PageTable {
   bool refusedIsReadBack = false;  ///< A refused value or choice is read again, before it is told.
 };
 
-/// Key, and the control by which a row is found in its template.
+/// Key, number of the caption, or 0 where the key is all that there is, and the control by which a
+/// row is found in its template.
 ADVANCED_CONTROL_EXPORT std::string_view KeyOf(const PageRow& row);
+ADVANCED_CONTROL_EXPORT int CaptionOf(const PageRow& row);
 ADVANCED_CONTROL_EXPORT int ControlOf(const PageRow& row);
+/// The controls that show a row's value and change it, buttons of resets apart.
+ADVANCED_CONTROL_EXPORT std::vector<int> ControlsOf(const PageRow& row);
 /// The list beside an action's button, or 0.
 ADVANCED_CONTROL_EXPORT int ListBeside(const PageRow& row);
 

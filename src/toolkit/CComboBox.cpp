@@ -4,6 +4,7 @@
 
 CComboBox::CComboBox(QWidget* parent) : QComboBox(parent) {
   setFocusPolicy(Qt::StrongFocus);
+  setContextMenuPolicy(Qt::NoContextMenu);  // or it would keep its dialog from showing one
   setMaxVisibleItems(20);
 }
 

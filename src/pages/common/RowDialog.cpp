@@ -36,12 +36,23 @@ bool Owns(const PageRow& row, int control) {
 // A state's text is put into a catalog text of its own; both may be long.
 constexpr int kFramedTextSize = 2048;
 
+QString Wide(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
 QString TextOf(const ListEntry& entry) {
   if (entry.text != 0) return CatalogString(kListCategory, entry.text);
-  return QString::fromUtf8(entry.name.data(), static_cast<qsizetype>(entry.name.size()));
+  return Wide(entry.name);
 }
 
 }  // namespace
+
+// One that is the same in every language is no text of the catalog.
+QString RowDialog::CaptionText(const PageRow& row) {
+  const int number = CaptionOf(row);
+  if (number != 0) return CatalogString(kCaptionCategory, number);
+  return Wide(KeyOf(row)).section(QLatin1Char('.'), -1).toUpper();
+}
 
 RowDialog::RowDialog(int templateNumber, const PageTable& table, CWnd* owner)
     : SettingsDialog(templateNumber, owner), table_(table), bound_(table.rows.size()) {}
@@ -112,6 +123,7 @@ void RowDialog::PrepareRows() {
   const bool keepsTemplate = KeepsTemplate(table_, code);
   for (std::size_t i = 0; i < bound_.size(); ++i) {
     bound_[i].present = !keepsTemplate && ::Has(table_, i, code);
+    bound_[i].opened.reset();
   }
   if (keepsTemplate) {
     UseTemplateLists();
@@ -224,7 +236,13 @@ void RowDialog::Preselect(int list) {
 }
 
 std::optional<int> RowDialog::AskFor(OfSource of) {
-  return AskSource(*projector, of, Model().ModelCode);
+  const auto source = AskSource(*projector, of, Model().ModelCode);
+  for (std::size_t i = 0; source && of != OfSource::None && i < bound_.size(); ++i) {
+    if (SourceOf(table_.rows[i]) != of || bound_[i].source == source) continue;
+    bound_[i].source = source;
+    bound_[i].opened.reset();
+  }
+  return source;
 }
 
 void RowDialog::Refresh(const ListRow& row, Bound&, Source source) {
@@ -365,6 +383,15 @@ const ResetEntry* RowDialog::ChosenReset(int button) const {
     return listed ? &reset->entries[static_cast<std::size_t>(*chosen)] : nullptr;
   }
   return nullptr;
+}
+
+std::vector<RowDialog::NamedRow> RowDialog::PresentRows() const {
+  std::vector<NamedRow> rows;
+  for (std::size_t i = 0; i < bound_.size(); ++i) {
+    if (!bound_[i].present || std::holds_alternative<ResetRow>(table_.rows[i])) continue;
+    rows.push_back({CaptionText(table_.rows[i]), ControlOf(table_.rows[i])});
+  }
+  return rows;
 }
 
 bool RowDialog::Has(int control) const {

@@ -41,6 +41,13 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
   };
   std::optional<Progress> ReadingProgress() const;
 
+  /// A row that the model has, and the control by which it is found.
+  struct NamedRow {
+    QString caption;
+    int control;
+  };
+  std::vector<NamedRow> PresentRows() const;
+
   /// From now until the next complete refresh no value shown is known to be true.
   void MarkUnread();
 
@@ -102,6 +109,9 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
 
   CComboBox& List(int control) const;
 
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
   void OnBusy() override;
   void OnIdle() override;
   void OnStale() override { stale_ = true; }
@@ -110,16 +120,20 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
   /// What there is to say about a row.
   enum class Note : std::uint8_t { None, Refused, NotOffered, Unanswered, NoEntries, Range };
 
+  /// The input source of a row while it is read or changed; nothing while that is unknown.
+  using Source = std::optional<int>;
+
   /// What a dialog holds of one row.
   struct Bound {
     bool present = false;  // shown and read
     bool unread = false;   // what it shows need not be so
     Note note = Note::None;
     ValueControls value;
+    std::optional<int> opened;  // position read first since the dialog was opened
+    Source source;              // that this belongs to
   };
 
-  /// The input source of a row while it is read or changed; nothing while that is unknown.
-  using Source = std::optional<int>;
+  static QString CaptionText(const PageRow& row);
 
   void RefreshRow(std::size_t index, Source source);
   void RefreshRow(std::size_t index, Source source, const CPjtInterface::Tally& before);
@@ -140,8 +154,15 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
   void Prepare(const ResetRow& row, Bound& bound);
   void Prepare(const auto&, Bound&) {}
 
-  /// The input source of a row, as `AskSource`.
+  /// The input source of a row, as `AskSource`. What rows showed of another one is forgotten.
   std::optional<int> AskFor(OfSource of);
+
+  // Of the rows' context menu, in RowMenu.cpp. A position is a number shown, the place of a list's
+  // entry, or whether a box is checked.
+  std::optional<std::size_t> RowAt(QPoint at);
+  std::optional<int> ShownPosition(std::size_t index) const;
+  bool ShowMenu(QPoint at, QPoint onScreen);
+  void PutBack(std::size_t index);
 
   void Refresh(const ListRow& row, Bound& bound, Source source);
   void Refresh(const ValueRow& row, Bound& bound, Source source);

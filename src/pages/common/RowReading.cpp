@@ -18,15 +18,6 @@ bool IsRead(const PageRow& row) {
          !std::holds_alternative<PopUpRow>(row);
 }
 
-std::vector<int> ControlsOf(const PageRow& row) {
-  const auto* value = std::get_if<ValueRow>(&row);
-  if (value == nullptr) return {ControlOf(row)};
-  const ValueIds& ids = value->ids;
-  std::vector<int> controls{ids.minus, ids.plus, ids.field};
-  if (ids.slider != 0) controls.push_back(ids.slider);
-  return controls;
-}
-
 }  // namespace
 
 RowDialog::~RowDialog() = default;
@@ -106,6 +97,10 @@ void RowDialog::RefreshRow(std::size_t index, Source source, const CPjtInterface
   if (projector->IsAbandoned()) return;
   bound.unread = false;
   if (IsRead(table_.rows[index])) Tell(index, NoteOf(index, before));
+  const bool told = bound.note == Note::None || bound.note == Note::Range;
+  if (!bound.opened && source && told && ReadingOf(table_.rows[index], Model())) {
+    bound.opened = ShownPosition(index);
+  }
   if (veil_ != nullptr) UpdateVeil();
 }
 

@@ -11,6 +11,7 @@ void ValueControls::Bind(const CDialog& dialog, const ValueIds& ids) {
   slider_ = ids.slider != 0 ? &dialog.Item<CSliderCtrl>(ids.slider) : nullptr;
   plus_ = &dialog.Item<QAbstractButton>(ids.plus);
   field_ = &dialog.Item<QLineEdit>(ids.field);
+  field_->setContextMenuPolicy(Qt::NoContextMenu);  // the row's comes up there too
 }
 
 void ValueControls::SetRange(Range range, int tickFrequency) {
@@ -19,6 +20,12 @@ void ValueControls::SetRange(Range range, int tickFrequency) {
 }
 
 int ValueControls::Position() const { return slider_->value(); }
+
+std::optional<int> ValueControls::Number() const {
+  bool known = false;
+  const int number = field_->text().toInt(&known);
+  return known ? std::optional(number) : std::nullopt;
+}
 
 void ValueControls::Show(int value) {
   ShowNumber(value);

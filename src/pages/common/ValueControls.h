@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 #include "settings/Range.h"
 #include "settings/Rows.h"
@@ -24,6 +25,8 @@ class ValueControls {
 
   bool Owns(const CSliderCtrl& slider) const { return slider_ == &slider; }
   int Position() const;
+  /// The number in the field; nothing where that is empty.
+  std::optional<int> Number() const;
 
   /// Slider and field show `value`.
   void Show(int value);

@@ -1,0 +1,51 @@
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QCompleter>
+#include <QTabBar>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include "host/FindLine.h"
+#include "tests/support/DialogDriver.h"
+
+namespace {
+
+struct Finding : testing::Test {
+  OpenDialog open{FullModel(5, 30), 0,
+                  [](RecordingChannel& projector) { projector.Refuse("Get 0x2004"); }};
+  FindLine& line = *open.Dialog().findChild<FindLine*>();
+  QTabBar& tabs = *open.Dialog().findChild<QTabBar*>();
+
+  void Find(const char* text, const std::vector<Qt::Key>& keys) {
+    QTest::keyClick(&open.Dialog(), Qt::Key_F, Qt::ControlModifier);
+    QTest::keyClicks(&line, QString::fromUtf8(text));
+    QWidget* completions = line.completer()->popup();
+    for (const Qt::Key key : keys) {
+      QTest::keyClick(completions->isVisible() ? completions : &line, key);
+    }
+  }
+};
+
+TEST_F(Finding, GoesToTheRowOfAnyTab) {
+  Find("BRIGHT", {Qt::Key_Return});
+  EXPECT_FALSE(line.isVisible());
+  EXPECT_EQ(tabs.currentIndex(), 1);
+  EXPECT_EQ(QApplication::focusWidget(), open.Page().GetDlgItem(20136));
+  Find("bright", {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return});
+  EXPECT_EQ(tabs.tabText(tabs.currentIndex()), QStringLiteral("Screen"));
+  EXPECT_EQ(QApplication::focusWidget()->accessibleName(), QStringLiteral("OSD Bright"));
+  Find("contrast", {Qt::Key_Return});  // grey: its tab is shown, and has the focus
+  EXPECT_EQ(tabs.currentIndex(), 1);
+  EXPECT_EQ(QApplication::focusWidget(), &tabs);
+}
+
+TEST_F(Finding, StaysForNoNameAndLeavesWithoutTheDialog) {
+  Find("no such row", {Qt::Key_Return});
+  EXPECT_TRUE(line.isVisible());
+  QTest::keyClick(&line, Qt::Key_Escape);
+  Find("bright", {Qt::Key_Escape});
+  EXPECT_FALSE(line.isVisible());
+  EXPECT_TRUE(open.Dialog().isVisible());
+}
+
+}  // namespace

@@ -1,0 +1,105 @@
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QInputDialog>
+#include <QMenu>
+#include <QSpinBox>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include "pages/common/RowDialog.h"
+#include "tests/support/DialogDriver.h"
+
+namespace {
+
+using Strings = std::vector<std::string>;
+
+constexpr int kBrightness = 20136, kField = 20329, kContrast = 20138, kIris = 20293;
+constexpr int kVolume = 20317, kIrFront = 20375;
+
+// The lines of a control's menu, in brackets where they cannot be chosen; `choice` is chosen.
+std::string Menu(CDialog& page, int id, const char* choice = "") {
+  QWidget& control = *page.GetDlgItem(id);
+  const QPoint middle = control.rect().center();
+  QContextMenuEvent event(QContextMenuEvent::Mouse, middle, control.mapToGlobal(middle));
+  QApplication::sendEvent(&control, &event);
+  auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  QStringList lines;
+  for (QAction* action : menu != nullptr ? menu->actions() : QList<QAction*>()) {
+    if (action->isSeparator()) continue;
+    lines << (action->isEnabled() ? action->text() : u'(' + action->text() + u')');
+    if (action->text() == QString::fromUtf8(choice)) action->trigger();
+  }
+  if (menu != nullptr) menu->close();
+  return lines.join(QStringLiteral(", ")).toStdString();
+}
+
+struct RowMenus : testing::Test {
+  OpenDialog open{FullModel(5, 30), 1, [](RecordingChannel& projector) {
+                    projector.Answer("Get 0x2003", 138);
+                    projector.Answer("Get 0x3304", 16);
+                    projector.Refuse("Get 0x2004");
+                  }};
+  CTabPage& page = open.Page();
+  DialogDriver driver = open.Driver();
+};
+
+TEST_F(RowMenus, TellWhatARowTakesAndWas) {
+  driver.Drag(kBrightness, 4);
+  for (const auto& [control, lines] : std::vector<std::pair<int, std::string>>{
+           {kField, "(Range: -32 to 32), (When opened: 10), Put back, Enter a value…, Copy"},
+           {kContrast,
+            "(The projector did not report this setting.), (Put back), "
+            "(Enter a value…), Copy"},
+           {kIris, "(When opened: Theater), (Put back), Copy"},
+           {21065, ""}}) {
+    EXPECT_EQ(Menu(page, control, "Copy"), lines) << control;
+  }
+  EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("Active Iris: Theater"));
+}
+
+TEST_F(RowMenus, PutBackGoesTheWayOfAHandAndNeverWhileAHandlerRuns) {
+  const auto service = MakePopUp(PopUp::Service, open.Dialog());
+  Open(*service);
+  DialogDriver(*service).Click(kIrFront);
+  driver.Drag(kBrightness, 4);
+  driver.Choose(kIris, 0);
+  open.Projector().Take();
+  for (const bool busy : {true, false}) {
+    const CDialog::Busy handler(busy ? &page : nullptr), popUps(busy ? service.get() : nullptr);
+    for (const int control : {kBrightness, kIris}) Menu(page, control, "Put back");
+    Menu(*service, kIrFront, "Put back");
+    const Strings all{"SetBrightness 138", "Set 0x3304 16", "SetIRFront 0"};
+    EXPECT_EQ(open.Projector().Take(), busy ? Strings() : all);
+  }
+}
+
+TEST_F(RowMenus, ATypedNumberIsSentAsADragAndRefusedAsOne) {
+  driver.Item<QWidget>(kBrightness).setFocus();
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_F10, Qt::ShiftModifier);
+  EXPECT_NE(QApplication::activePopupWidget(), nullptr);
+  QApplication::activePopupWidget()->close();
+  Menu(page, kBrightness, "Enter a value…");
+  auto* question = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
+  ASSERT_NE(question, nullptr);
+  QTest::keyClicks(question->findChild<QSpinBox*>(), QStringLiteral("-99"));
+  EXPECT_EQ(question->intValue(), -9) << "the slider ends at -32";
+  open.Projector().Refuse("SetBrightness");
+  QTest::keyClick(question, Qt::Key_Return);
+  EXPECT_EQ(open.Projector().Take(), Strings{"SetBrightness 119"});
+  EXPECT_EQ(driver.SliderAt(kBrightness), -9) << "this page's refused drags stay";
+}
+
+TEST(RowMenu, AnotherInputSourceHasAnotherPast) {
+  OpenDialog open(FullModel(5, 42), 4);
+  open.Driver().Drag(kVolume, 9);
+  open.Projector().Answer("GetInputSource", 3);
+  open.Projector().Answer("GetInputSrcVolume 3", 5);
+  open.Projector().TakeChanges();
+  Menu(open.Page(), kVolume, "Put back");
+  EXPECT_EQ(open.Projector().TakeChanges(), Strings{});
+  EXPECT_EQ(open.Driver().SliderAt(kVolume), 5);
+  EXPECT_NE(Menu(open.Page(), kVolume).find("When opened: 5"), std::string::npos);
+}
+
+}  // namespace

@@ -4,7 +4,6 @@
 #include "tests/support/DialogDriver.h"
 #include "toolkit/CComboBox.h"
 #include "toolkit/CSliderCtrl.h"
-#include "toolkit/MessageBox.h"
 #include "toolkit/ResourceModule.h"
 
 namespace {
@@ -67,8 +66,6 @@ class DialogTest : public testing::Test {
   }
   ~DialogTest() override { ResourceChain::Unregister(kModule); }
 
-  int Top(int id) const { return dialog.GetDlgItem(id)->geometry().center().y(); }
-
   SampleDialog dialog;
   DialogDriver driver{dialog};
 };
@@ -120,20 +117,6 @@ TEST_F(DialogTest, ADialogThatDiesWithAKeyDownReportsNothing) {
   EXPECT_FALSE(reported);
 }
 
-TEST_F(DialogTest, DeleteLaterWaitsForTheRunningHandler) {
-  const QPointer<SampleDialog> dying = new SampleDialog;
-  dying->Open();
-  dying->whenDone = [&dying] {
-    dying->deleteLater();
-    QEventLoop loop;
-    QTimer::singleShot(5, &loop, &QEventLoop::quit);
-    loop.exec();
-    ASSERT_NE(dying, nullptr) << "its handler is still running";
-  };
-  DialogDriver(*dying).Click(10);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return dying == nullptr; }));
-}
-
 TEST_F(DialogTest, TheWheelNeedsTheFocus) {
   EXPECT_EQ(driver.Selected(9), -1) << "a list shows nothing before something is selected";
   dialog.Item<CComboBox>(9).Select(0);
@@ -161,6 +144,8 @@ TEST_F(DialogTest, AListReportsChoicesOfTheUserOnly) {
   driver.Choose(9, 1);
   driver.Choose(9, 1);
   EXPECT_EQ(dialog.choices, 2) << "choosing the shown entry again sends it again";
+  driver.Press(9, Qt::Key_Down);
+  EXPECT_EQ(dialog.choices, 3);
   combo.clear();
   combo.Add(QStringLiteral("Five"), 5);
   combo.Add(QStringLiteral("Six"), 6);
@@ -180,18 +165,6 @@ TEST_F(DialogTest, EnterPressesTheFocusedButtonOnlyAndEscCloses) {
   EXPECT_EQ(dialog.destroyed, 1);
 }
 
-TEST_F(DialogTest, AnAbsentRowTakesNoSpaceAndRowsKeepOnePitch) {
-  const int pitch = Top(7) - Top(1);
-  EXPECT_EQ(Top(11) - Top(7), pitch);
-  EXPECT_LE(std::abs(Top(9) - Top(7)), 1) << "a list is centred on its caption";
-  const int height = dialog.height();
-  dialog.ShowRow(9, false);
-  QTest::qWait(1);
-  EXPECT_FALSE(dialog.GetDlgItem(7)->isVisible());
-  EXPECT_EQ(Top(11) - Top(1), pitch);
-  EXPECT_EQ(dialog.height(), height - pitch) << "a pop-up follows its rows";
-}
-
 TEST_F(DialogTest, ListsAreAsWideAsTheirColumnWhateverTheyHold) {
   dialog.Item<CComboBox>(13).clear();
   dialog.Item<CComboBox>(13).Add(QStringLiteral("1"));
@@ -200,18 +173,6 @@ TEST_F(DialogTest, ListsAreAsWideAsTheirColumnWhateverTheyHold) {
   EXPECT_EQ(list.width(), dialog.GetDlgItem(13)->width());
   EXPECT_EQ(list.x(), dialog.GetDlgItem(3)->x());
   EXPECT_EQ(list.right(), dialog.GetDlgItem(5)->geometry().right());
-}
-
-TEST_F(DialogTest, ValueControlsAreNamedByTheirCaption) {
-  for (const auto& [id, name] : {std::pair{4, "Level"}, {6, "Level"}, {9, "Mode"}, {10, "Mode Do"}})
-    EXPECT_EQ(dialog.GetDlgItem(id)->accessibleName(), QLatin1String(name));
-}
-
-TEST_F(DialogTest, AModalDialogMayDieWhileItRuns) {
-  QPointer<SampleDialog> dying = new SampleDialog;
-  QTimer::singleShot(0, dying, [&] { delete dying; });
-  EXPECT_EQ(dying->DoModal(), QDialog::Rejected);
-  EXPECT_EQ(dying, nullptr);
 }
 
 TEST_F(DialogTest, RunsModallyAgainAndAgain) {
@@ -227,17 +188,6 @@ TEST_F(DialogTest, RunsModallyAgainAndAgain) {
     EXPECT_EQ(modal.presses, run);
     EXPECT_EQ(modal.destroyed, run);
   }
-}
-
-TEST_F(DialogTest, MessageBoxesTellAndAsk) {
-  MessageBoxes no(false);
-  ShowStopMessage(&dialog, QStringLiteral("Refused <b>"));
-  EXPECT_FALSE(AskYesNo(&dialog, QStringLiteral("Sure?")));
-  const auto boxes = no.Take();
-  ASSERT_EQ(boxes.size(), 2U);
-  EXPECT_EQ(boxes[0].text, QStringLiteral("Refused <b>"));
-  EXPECT_EQ(boxes[0].icon, QMessageBox::Critical);
-  EXPECT_EQ(boxes[1].icon, QMessageBox::Information);
 }
 
 TEST(Dialog, WithoutATemplateStaysEmpty) {

@@ -66,6 +66,8 @@ class DialogTest : public testing::Test {
   }
   ~DialogTest() override { ResourceChain::Unregister(kModule); }
 
+  int Top(int id) const { return dialog.GetDlgItem(id)->geometry().center().y(); }
+
   SampleDialog dialog;
   DialogDriver driver{dialog};
 };
@@ -117,6 +119,20 @@ TEST_F(DialogTest, ADialogThatDiesWithAKeyDownReportsNothing) {
   EXPECT_FALSE(reported);
 }
 
+TEST_F(DialogTest, DeleteLaterWaitsForTheRunningHandler) {
+  const QPointer<SampleDialog> dying = new SampleDialog;
+  dying->Open();
+  dying->whenDone = [&dying] {
+    dying->deleteLater();
+    QEventLoop loop;
+    QTimer::singleShot(5, &loop, &QEventLoop::quit);
+    loop.exec();
+    ASSERT_NE(dying, nullptr) << "its handler is still running";
+  };
+  DialogDriver(*dying).Click(10);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return dying == nullptr; }));
+}
+
 TEST_F(DialogTest, TheWheelNeedsTheFocus) {
   EXPECT_EQ(driver.Selected(9), -1) << "a list shows nothing before something is selected";
   dialog.Item<CComboBox>(9).Select(0);
@@ -165,6 +181,17 @@ TEST_F(DialogTest, EnterPressesTheFocusedButtonOnlyAndEscCloses) {
   EXPECT_EQ(dialog.destroyed, 1);
 }
 
+TEST_F(DialogTest, AnAbsentRowTakesNoSpaceAndRowsKeepOnePitch) {
+  const int pitch = Top(7) - Top(1);
+  EXPECT_EQ(Top(11) - Top(7), pitch);
+  const int height = dialog.height();
+  dialog.ShowRow(9, false);
+  QTest::qWait(1);
+  EXPECT_FALSE(dialog.GetDlgItem(7)->isVisible());
+  EXPECT_EQ(Top(11) - Top(1), pitch);
+  EXPECT_EQ(dialog.height(), height - pitch) << "a pop-up follows its rows";
+}
+
 TEST_F(DialogTest, ListsAreAsWideAsTheirColumnWhateverTheyHold) {
   dialog.Item<CComboBox>(13).clear();
   dialog.Item<CComboBox>(13).Add(QStringLiteral("1"));
@@ -173,6 +200,13 @@ TEST_F(DialogTest, ListsAreAsWideAsTheirColumnWhateverTheyHold) {
   EXPECT_EQ(list.width(), dialog.GetDlgItem(13)->width());
   EXPECT_EQ(list.x(), dialog.GetDlgItem(3)->x());
   EXPECT_EQ(list.right(), dialog.GetDlgItem(5)->geometry().right());
+}
+
+TEST_F(DialogTest, AModalDialogMayDieWhileItRuns) {
+  QPointer<SampleDialog> dying = new SampleDialog;
+  QTimer::singleShot(0, dying, [&] { delete dying; });
+  EXPECT_EQ(dying->DoModal(), QDialog::Rejected);
+  EXPECT_EQ(dying, nullptr);
 }
 
 TEST_F(DialogTest, RunsModallyAgainAndAgain) {

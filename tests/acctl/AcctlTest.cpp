@@ -6,14 +6,13 @@
 
 #include <QDir>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
-#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
+
+#include "tests/support/Programs.h"
 
 namespace {
 
@@ -22,69 +21,25 @@ using testing::StartsWith;
 
 const QString kRoom = "Projector 5-30";
 
-struct Outcome {
-  int exitCode;
-  std::string output;
-  std::string errors;
-};
-
-Outcome Finish(QProcess& process) {
-  const bool finished = process.waitForFinished(30000);
-  return {finished && process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
-          process.readAllStandardOutput().toStdString(),
-          process.readAllStandardError().toStdString()};
-}
-
-Outcome Run(const QString& program, const QStringList& arguments, const char* locale = "C") {
-  QProcess process;
+Outcome Acctl(const QStringList& arguments, const char* locale = "C",
+              const QString& program = ACCTL_PROGRAM) {
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
   environment.insert("LC_ALL", locale);
-  process.setProcessEnvironment(environment);
-  process.start(program, arguments);
-  return Finish(process);
-}
-
-Outcome Acctl(const QStringList& arguments, const char* locale = "C") {
-  return Run(ACCTL_PROGRAM, arguments, locale);
+  return Run(program, arguments, environment);
 }
 
 /// A line of the shell, with the program as "$0" and further arguments from "$1".
 Outcome Shell(const QString& line, const QStringList& arguments) {
-  return Run("bash", QStringList{"-c", line, ACCTL_PROGRAM} + arguments);
-}
-
-QByteArray Contents(const QString& path) {
-  QFile file(path);
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void Write(const QString& path, const QByteArray& text) {
-  QFile file(path);
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
+  return Acctl(QStringList{"-c", line, ACCTL_PROGRAM} + arguments, "C", "bash");
 }
 
 /// The simulator as a process of its own, so that what one run changes is there for the next.
-class Simulator {
- public:
-  explicit Simulator(const QStringList& options = {}) {
-    process_.start(SIMULATOR_PROGRAM, QStringList{"--projector", kRoom} + options);
-    QByteArray output;
-    while (!output.contains("ready") && process_.waitForReadyRead(10000)) {
-      output += process_.readAllStandardOutput();
-    }
-    address_ = QRegularExpression("tcp://\\S+").match(QString::fromUtf8(output)).captured();
-  }
-  ~Simulator() {
-    process_.terminate();
-    process_.waitForFinished(5000);
-  }
+struct Simulator : SimulatorProcess {
+  explicit Simulator(const QStringList& options = {})
+      : SimulatorProcess(QStringList{"--projector", kRoom} + options) {}
   QStringList At(const QStringList& arguments) const {
-    return QStringList{"--connect", address_} + arguments;
+    return QStringList{"--connect", Address("tcp")} + arguments;
   }
-
- private:
-  QProcess process_;
-  QString address_;
 };
 
 TEST(Acctl, AnswersWrongUseWithOneLineAndExitCode2) {

@@ -1,34 +1,23 @@
+#include <algorithm>
 #include <gmock/gmock.h>
-#include <string>
 
 #include <QImage>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
+
+#include "tests/support/Programs.h"
 
 namespace {
 
 using testing::HasSubstr;
 
-struct Outcome {
-  int exitCode;
-  QString output;
-  QString errors;
-};
-
 /// Runs the program as a person without a display does.
 Outcome RunProgram(const QStringList& arguments) {
-  QProcess process;
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
   for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
     environment.remove(QLatin1String(name));
   }
-  process.setProcessEnvironment(environment);
-  process.start(ADVANCED_CONTROL_PROGRAM, arguments);
-  const bool finished = process.waitForFinished(60000);
-  return {finished && process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
-          QString::fromUtf8(process.readAllStandardOutput()),
-          QString::fromUtf8(process.readAllStandardError())};
+  return Run(ADVANCED_CONTROL_PROGRAM, arguments, environment);
 }
 
 struct WrongArguments {
@@ -59,8 +48,8 @@ TEST(Program, AnswersAWrongCommandLineWithOneLineAndExitCode2) {
   for (const auto& [arguments, error] : kWrongArguments) {
     const Outcome run = RunProgram(arguments);
     EXPECT_EQ(run.exitCode, 2) << error;
-    EXPECT_THAT(run.errors.toStdString(), HasSubstr(error));
-    EXPECT_EQ(run.errors.count('\n'), 1) << run.errors.toStdString();
+    EXPECT_THAT(run.errors, HasSubstr(error));
+    EXPECT_EQ(std::ranges::count(run.errors, '\n'), 1) << run.errors;
     EXPECT_EQ(run.output, "") << error;
   }
 }
@@ -68,7 +57,7 @@ TEST(Program, AnswersAWrongCommandLineWithOneLineAndExitCode2) {
 TEST(Program, ListsItsProjectors) {
   const Outcome run = RunProgram({"--list"});
   EXPECT_EQ(run.exitCode, 0);
-  EXPECT_THAT(run.output.toStdString(),
+  EXPECT_THAT(run.output,
               testing::ContainsRegex("Projector 4-11 +QD-M7450 +4 +11 +192\\.0\\.2\\."));
   EXPECT_EQ(run.errors, "");
 }
@@ -79,7 +68,7 @@ TEST(Program, SavesPicturesOfTheTabAndLanguageAskedFor) {
     const QString file = folder.filePath("picture.png");
     const Outcome run =
         RunProgram(QStringList{"--open", "Projector 5-30", "--screenshot", file} + arguments);
-    EXPECT_EQ(run.exitCode, 0) << run.errors.toStdString();
+    EXPECT_EQ(run.exitCode, 0) << run.errors;
     return QImage(file);
   };
   const QImage status = picture({"--language", "1033"});
@@ -93,15 +82,15 @@ TEST(Program, LeavesToQtWhatIsQts) {
                                        {"-reverse", "-platform", "offscreen", "--list"},
                                        {"--list", "--style=Fusion", "-qwindowtitle", "--tour"}}) {
     const Outcome run = RunProgram(arguments);
-    EXPECT_EQ(run.exitCode, 0) << run.errors.toStdString();
-    EXPECT_THAT(run.output.toStdString(), HasSubstr("Projector 5-30"));
+    EXPECT_EQ(run.exitCode, 0) << run.errors;
+    EXPECT_THAT(run.output, HasSubstr("Projector 5-30"));
   }
 }
 
 TEST(Program, WithoutADisplayOpensNoWindow) {
   const Outcome run = RunProgram({});
   EXPECT_EQ(run.exitCode, 1);
-  EXPECT_THAT(run.errors.toStdString(), HasSubstr("no display"));
+  EXPECT_THAT(run.errors, HasSubstr("no display"));
 }
 
 }  // namespace

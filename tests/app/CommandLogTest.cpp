@@ -1,6 +1,5 @@
 #include <QClipboard>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QGuiApplication>
 #include <QPalette>
 #include <QTableView>
@@ -10,6 +9,7 @@
 
 #include "app/CommandLog.h"
 #include "app/SettingNames.h"
+#include "tests/support/Programs.h"
 
 namespace {
 
@@ -100,9 +100,7 @@ TEST(CommandLog, CopiesAndSavesWhatItShowsAndKeepsUp) {
 
   const QTemporaryDir folder;
   ASSERT_EQ(log.Save(folder.filePath("log.tsv")), "");
-  QFile file(folder.filePath("log.tsv"));
-  ASSERT_TRUE(file.open(QFile::ReadOnly));
-  const QList<QByteArray> lines = file.readAll().split('\n');
+  const QList<QByteArray> lines = Contents(folder.filePath("log.tsv")).split('\n');
   EXPECT_EQ(lines.size(), 5002);
   EXPECT_EQ(lines[0], "Time\tProjector\tCommand\tValue\tResult\tms");
   EXPECT_NE(log.Save("/nowhere/log.tsv"), "");

@@ -1,16 +1,12 @@
 #include <cstdlib>
-#include <functional>
-#include <memory>
 #include <vector>
 
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QListWidget>
-#include <QPointer>
 #include <QPushButton>
 #include <QSpinBox>
-#include <QTabBar>
 #include <QTableView>
 #include <QTest>
 #include <QWheelEvent>
@@ -22,17 +18,13 @@
 #include "app/ProjectorView.h"
 #include "host/CAdvanceDlg.h"
 #include "i18n/Catalog.h"
+#include "tests/support/Models.h"
 
 namespace {
 
-using namespace std::chrono_literals;
-
 ProjectorProfile Profile(const char* name) {
-  ProjectorProfile profile;
-  profile.Name = name;
+  ProjectorProfile profile{name, MakeModel(5, 30), {}};
   profile.Model.ModelName = name;
-  profile.Model.DialogType = 5;
-  profile.Model.ModelCode = 30;
   return profile;
 }
 
@@ -50,86 +42,28 @@ void ClickButton(const QWidget& window, const char* text) {
   QTest::mouseClick(&Child<QPushButton>(window, text), Qt::LeftButton);
 }
 
-/// Runs the steps, each from the program's event loop, as in the running program, and not before
-/// the one before it is done: a command that waits lets timers fire.
-void RunProgram(const std::vector<std::function<void()>>& steps) {
-  QTimer watchdog;
-  watchdog.callOnTimeout([] { QApplication::exit(-1); });
-  watchdog.start(20s);
-  std::function<void(std::size_t)> run = [&](std::size_t step) {
-    steps[step]();
-    if (step + 1 == steps.size()) return;
-    QTimer::singleShot(20ms, &watchdog, [&run, step] { run(step + 1); });
-  };
-  QTimer::singleShot(20ms, &watchdog, [&run] { run(0); });
-  EXPECT_EQ(QApplication::exec(), 0) << "the program did not come to its end";
-}
-
-// Closes dialog or window while a tab change waits for a late projector.
-void CloseWhileACommandWaits(bool wholeWindow) {
-  auto window = std::make_unique<MainWindow>(std::vector{Profile("A")});
-  window->show();
-  QPointer<CAdvanceDlg> dialog;
-  bool waited = false;
-  RunProgram({
-      [&] { dialog = window->OpenDialog(0); },
-      [&] {
-        auto& panel = *window->findChild<FaultPanel*>();
-        Child<QComboBox>(panel, "Fault").setCurrentText("Delay");
-        panel.findChild<QSpinBox*>()->setValue(200);
-        ClickButton(panel, "&Set Fault");
-        QWidget* closed = wholeWindow ? static_cast<QWidget*>(window.get()) : dialog.data();
-        QTimer::singleShot(100ms, closed, &QWidget::close);
-        dialog->findChild<QTabBar*>()->setCurrentIndex(1);
-        ASSERT_NE(dialog, nullptr) << "deleted under its own handler";
-        waited = true;
-        if (wholeWindow) return;
-        EXPECT_EQ(window->Dialog(0), nullptr);
-        QTimer::singleShot(200ms, window.get(), &QWidget::close);
-      },
-  });
-  EXPECT_TRUE(waited);
-  EXPECT_EQ(dialog.isNull(), !wholeWindow);
-  window.reset();
-  EXPECT_EQ(dialog, nullptr);
-}
-
-TEST(MainWindow, DialogClosedWhileACommandWaits) { CloseWhileACommandWaits(false); }
-TEST(MainWindow, WindowClosedWhileACommandWaits) { CloseWhileACommandWaits(true); }
-
-void ExpectEntry(const QAbstractItemModel& log, int row, const QStringList& expected) {
-  QStringList entry;
-  for (const auto column : {CommandLogModel::Projector, CommandLogModel::Command,
-                            CommandLogModel::Value, CommandLogModel::Result}) {
-    entry += log.index(row, column).data().toString();
-  }
-  EXPECT_EQ(entry, expected);
-}
-
 TEST(MainWindow, HasOneDialogPerProjectorAndLogsTheirCommands) {
   MainWindow window({Profile("A"), Profile("B")});
   window.show();
   auto& table = *window.findChild<ProjectorView*>()->findChild<QTableView*>();
-  RunProgram({
-      [&] {
-        table.setCurrentIndex(table.model()->index(1, 2));
-        QTest::keyClick(&table, Qt::Key_Return);
-        ASSERT_NE(window.Dialog(1), nullptr);
-        EXPECT_TRUE(window.Dialog(1)->windowTitle().contains("B"));
-        EXPECT_EQ(window.OpenDialog(1), window.Dialog(1));
-        ClickButton(window, "&Open");
-        EXPECT_EQ(window.Dialog(0), nullptr);
-        EXPECT_NE(window.OpenDialog(0), nullptr);
-        EXPECT_TRUE(window.isEnabled() && table.isEnabled());
-      },
-      [&] {
-        QTest::qWait(100);  // the log gathers entries
-        const auto* log = window.findChild<CommandLog*>()->findChild<QTableView*>()->model();
-        EXPECT_GT(log->rowCount(), 10);
-        ExpectEntry(*log, 0, {"B", "Get Power Status 0x6000", "1", "ok"});
-        window.close();
-      },
-  });
+  table.setCurrentIndex(table.model()->index(1, 2));
+  QTest::keyClick(&table, Qt::Key_Return);
+  ASSERT_NE(window.Dialog(1), nullptr);
+  EXPECT_TRUE(window.Dialog(1)->windowTitle().contains("B"));
+  EXPECT_EQ(window.OpenDialog(1), window.Dialog(1));
+  ClickButton(window, "&Open");
+  EXPECT_EQ(window.Dialog(0), nullptr);
+  EXPECT_NE(window.OpenDialog(0), nullptr);
+  EXPECT_TRUE(window.isEnabled() && table.isEnabled());
+  QTest::qWait(100);  // the log gathers entries
+  const auto* log = window.findChild<CommandLog*>()->findChild<QTableView*>()->model();
+  EXPECT_GT(log->rowCount(), 10);
+  QStringList first;
+  for (const auto column : {CommandLogModel::Projector, CommandLogModel::Command,
+                            CommandLogModel::Value, CommandLogModel::Result}) {
+    first += log->index(0, column).data().toString();
+  }
+  EXPECT_EQ(first, (QStringList{"B", "Get Power Status 0x6000", "1", "ok"}));
 }
 
 TEST(MainWindow, SaysWhyThereIsNoCatalog) {

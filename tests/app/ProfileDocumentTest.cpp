@@ -1,25 +1,14 @@
 #include <functional>
 #include <gmock/gmock.h>
-#include <string>
 
-#include <QFile>
 #include <QJsonArray>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 #include "app/ProfileDocument.h"
+#include "tests/support/Programs.h"
 
 namespace {
-
-QByteArray ReadAll(const QString& fileName) {
-  QFile file(fileName);
-  return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray("cannot read");
-}
-
-void WriteAll(const QString& fileName, const QByteArray& text) {
-  QFile file(fileName);
-  ASSERT_TRUE(file.open(QFile::WriteOnly) && file.write(text) == text.size());
-}
 
 const QJsonValue kNone(QJsonValue::Undefined);
 
@@ -82,30 +71,30 @@ class ProfileDocumentFile : public testing::Test {
 };
 
 TEST_F(ProfileDocumentFile, EachProjectorIsCopiedAndRemovedWithoutATrace) {
-  const QByteArray before = ReadAll(name);
+  const QByteArray before = Contents(name);
   const std::size_t count = document.Projectors().size();
   for (std::size_t i = 0; i < count; i += 7) {
     ASSERT_EQ(document.Duplicate(i, "copy"), "");
     ASSERT_EQ(document.Projectors().size(), count + 1);
     EXPECT_EQ(document.Projectors()[i].Model, document.Projectors()[i + 1].Model);
-    EXPECT_NE(ReadAll(name), before);
+    EXPECT_NE(Contents(name), before);
     ASSERT_EQ(document.Remove(i + 1), "");
-    ASSERT_EQ(ReadAll(name), before) << i;
+    ASSERT_EQ(Contents(name), before) << i;
   }
 }
 
 TEST_F(ProfileDocumentFile, WhatCannotBeDoneChangesNothing) {
   using testing::HasSubstr;
-  const QByteArray before = ReadAll(name);
+  const QByteArray before = Contents(name);
   const QString taken = QString::fromStdString(document.Projectors()[0].Name);
   EXPECT_THAT(document.Duplicate(1, taken).toStdString(), HasSubstr("is the name of"));
   EXPECT_THAT(document.Change(1, {{"modelCode", "x"}}).toStdString(), HasSubstr("whole number"));
   EXPECT_THAT(document.Change(1, {{"name", kNone}}).toStdString(), HasSubstr("is missing"));
-  EXPECT_EQ(ReadAll(name), before);
+  EXPECT_EQ(Contents(name), before);
 
-  WriteAll(name, before + "\n");
+  Write(name, before + "\n");
   EXPECT_THAT(document.Remove(1).toStdString(), HasSubstr("changed by another program"));
-  EXPECT_EQ(ReadAll(name), before + "\n");
+  EXPECT_EQ(Contents(name), before + "\n");
   EXPECT_EQ(document.Load(name), "");
   EXPECT_EQ(document.Remove(1), "");
 

@@ -7,8 +7,6 @@
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenuBar>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QSettings>
@@ -26,6 +24,7 @@
 #include "app/Translations.h"
 #include "host/CAdvanceDlg.h"
 #include "i18n/Catalog.h"
+#include "tests/support/Models.h"
 
 namespace {
 
@@ -72,10 +71,8 @@ QString Selected(const QWidget& window) {
 TEST(ProjectorList, AtFirstOneWithRowsOnEveryTabIsSelected) {
   std::vector<ProjectorProfile> profiles;
   for (const auto& [type, code] : {std::pair(9, 30), {1, 99}, {5, 30}, {5, 31}}) {
-    ProjectorProfile& profile = profiles.emplace_back();
-    profile.Name = std::to_string(type) + '-' + std::to_string(code);
-    profile.Model.DialogType = type;
-    profile.Model.ModelCode = code;
+    const std::string name = std::to_string(type) + '-' + std::to_string(code);
+    profiles.push_back({name, MakeModel(type, code), {}});
   }
   EXPECT_EQ(Selected(MainWindow(profiles)), HasRowsOnEveryTab(profiles[1].Model) ? "1-99" : "5-30");
 }

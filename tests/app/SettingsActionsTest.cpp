@@ -2,10 +2,6 @@
 
 #include <QCheckBox>
 #include <QDir>
-#include <QLabel>
-#include <QPushButton>
-#include <QSortFilterProxyModel>
-#include <QStandardItemModel>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTreeView>

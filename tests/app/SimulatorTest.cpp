@@ -1,10 +1,8 @@
 #include <algorithm>
 #include <chrono>
-#include <map>
 
 #include <QCoreApplication>
 #include <QLabel>
-#include <QProcess>
 #include <QTcpSocket>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -15,6 +13,7 @@
 #include "device/CPjtInterface.h"
 #include "device/Connect.h"
 #include "host/CAdvanceDlg.h"
+#include "tests/support/Programs.h"
 
 namespace {
 
@@ -27,42 +26,18 @@ PjtCommand SetVolume(int value) {
   return {PjtOperation::Set, 0x2001, static_cast<std::int16_t>(value)};
 }
 
-/// The simulator as a process of its own.
 class SimulatorTest : public testing::Test {
  protected:
-  void SetUp() override {
-    Start({"--projector", kName, "--serial", "--control", "0", "--password", "secret",
-           "--write-profiles", Profiles()});
-    ASSERT_EQ(addresses_.size(), 4U) << process_.readAllStandardError().toStdString();
-    const int port = addresses_["control"].section(':', 1).toInt();
+  SimulatorTest() {
+    const int port = simulator_.Address("control").section(':', 1).toInt();
     control_.connectToHost(QHostAddress::LocalHost, static_cast<std::uint16_t>(port));
-    ASSERT_TRUE(control_.waitForConnected());
-  }
-
-  void TearDown() override { Stop(); }
-
-  void Stop() {
-    process_.terminate();
-    ASSERT_TRUE(process_.waitForFinished(5000));
-    EXPECT_EQ(process_.exitStatus(), QProcess::NormalExit);
-    EXPECT_EQ(process_.exitCode(), 0);
-  }
-
-  void Start(const QStringList& arguments) {
-    process_.start(ADVANCED_CONTROL_SIMULATOR, arguments);
-    while (process_.canReadLine() || process_.waitForReadyRead(10'000)) {
-      const QString line = QString::fromUtf8(process_.readLine()).trimmed();
-      if (line == "ready") return;
-      const QString address = line.section(": ", 1);
-      const QString way = line.startsWith("control") ? "control" : address.section(':', 0, 0);
-      addresses_[way] = address;
-    }
+    EXPECT_TRUE(control_.waitForConnected());
   }
 
   QString Profiles() const { return folder_.filePath("real.json"); }
 
   ProjectorAddress Address(const char* way) {
-    return ParseAddress(addresses_[QLatin1String(way)].toStdString(), "secret");
+    return ParseAddress(simulator_.Address(way).toStdString(), "secret");
   }
 
   std::string Control(const char* line) {
@@ -72,9 +47,9 @@ class SimulatorTest : public testing::Test {
   }
 
   QTemporaryDir folder_;
-  QProcess process_;
+  SimulatorProcess simulator_{QStringList{"--projector", kName, "--serial", "--control", "0",
+                                          "--password", "secret", "--write-profiles", Profiles()}};
   QTcpSocket control_;
-  std::map<QString, QString> addresses_;
 };
 
 TEST_F(SimulatorTest, OneProjectorIsReachedInEveryWay) {
@@ -89,7 +64,7 @@ TEST_F(SimulatorTest, OneProjectorIsReachedInEveryWay) {
   EXPECT_EQ(tcp->Connection(), ConnectionState::Connected);
   const PjtCommand power{PjtOperation::Get, 0x6000};
   EXPECT_EQ(pjLink->Execute(power).value, tcp->Execute(power).value);
-  const auto wrong = MakeChannel(ParseAddress(addresses_["pjlink"].toStdString(), "wrong"));
+  const auto wrong = MakeChannel(ParseAddress(simulator_.Address("pjlink").toStdString(), "wrong"));
   EXPECT_FALSE(wrong->Execute(power).answered);
   EXPECT_EQ(wrong->Connection(), ConnectionState::PasswordRequired);
 }
@@ -158,17 +133,6 @@ TEST_F(SimulatorTest, ADialogConnectsByItself) {
     EXPECT_GT(answered, 0) << profile.Name;
     EXPECT_EQ(session.Connection(), ConnectionState::Connected) << profile.Name;
   }
-}
-
-TEST_F(SimulatorTest, AProjectorThatGoesAndComesBackIsFoundAgain) {
-  const auto address = std::get<TcpAddress>(Address("tcp"));
-  BoundedChannel channel(MakeUnboundedChannel(address), {.retryAfter = 0ms});
-  EXPECT_TRUE(channel.Execute(kVolume).answered);
-  Stop();
-  EXPECT_FALSE(channel.Execute(kVolume).answered);
-  EXPECT_EQ(channel.Connection(), ConnectionState::NotReachable);
-  Start({"--projector", kName, "--port", QString::number(address.port)});
-  EXPECT_TRUE(channel.Execute(kVolume).answered);
 }
 
 TEST(ConnectionParameters, ThatAreNonsenseAreToldInTheDialogAtOnce) {

@@ -1,7 +1,8 @@
 // A random walk over the whole program: its window, the fault panel, its dialogs, and dialogs of
 // other owners that die at any time, also while a command waits; so do input and tab changes. Then
-// every dialog must show what is so. It ends in the middle of a time-out. The sanitizers tell what
-// is touched too late. WALK_SEED gives another walk, WALK_ACTIONS a longer one.
+// every dialog must show what the projector holds. It ends in the middle of a time-out. The
+// sanitizers tell what is touched too late. WALK_SEED gives another walk, WALK_ACTIONS a longer
+// one.
 
 #include <algorithm>
 #include <iterator>
@@ -21,19 +22,14 @@
 #include "app/MainWindow.h"
 #include "host/CAdvanceDlg.h"
 #include "tests/support/DialogDriver.h"
+#include "tests/support/ShownValues.h"
 
 namespace {
 
 using namespace std::chrono_literals;
 
-ProjectorProfile Profile(int dialogType, int modelCode) {
-  ProjectorProfile profile;
-  profile.Model.DialogType = dialogType;
-  profile.Model.ModelCode = modelCode;
-  return profile;
-}
-
-const std::vector kProfiles{Profile(5, 30), Profile(4, 9), Profile(2, 6)};
+const std::vector<ProjectorProfile> kProfiles{
+    {"", MakeModel(5, 30), {}}, {"", MakeModel(4, 9), {}}, {"", MakeModel(2, 6), {}}};
 
 class Walk {
  public:
@@ -124,20 +120,21 @@ class Walk {
   }
 
   void ChangeFaults() {
+    if (Pick(2) == 0) return Press("Remove &All");
     auto& panel = *window_->findChild<FaultPanel*>();
-    const auto press = [&panel](const char* text) {
-      for (auto* button : panel.findChildren<QAbstractButton*>()) {
-        if (button->text() == QLatin1String(text)) button->click();
-      }
-    };
-    if (Pick(2) == 0) return press("Remove &All");
     for (auto* list : panel.findChildren<QComboBox*>()) {
       if (list->accessibleName() == QLatin1String("Fault"))
         list->setCurrentIndex(Pick(list->count()));
     }
     panel.findChild<QSpinBox*>()->setValue(10 + Pick(40));
-    press("&Set Fault");
+    Press("&Set Fault");
     SetFaults({static_cast<Fault::Kind>(Pick(5)), std::chrono::milliseconds(10 + Pick(40))});
+  }
+
+  void Press(const char* text) {
+    for (auto* button : window_->findChildren<QAbstractButton*>()) {
+      if (button->text() == QLatin1String(text)) button->click();
+    }
   }
 
   void SetFaults(const Fault& fault) {
@@ -200,9 +197,7 @@ class Walk {
 
   void Settle() {
     SetFaults({});
-    for (auto* button : window_->findChildren<QAbstractButton*>()) {
-      if (button->text() == QLatin1String("Remove &All")) button->click();
-    }
+    Press("Remove &All");
     while (auto* modal = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
       modal->done(QDialog::Rejected);
     }
@@ -214,38 +209,11 @@ class Walk {
     });
   }
 
-  // Against a dialog that has just been opened on the same projector.
   void ExpectTrue(CAdvanceDlg& shown) {
-    const auto session = std::ranges::find_if(sessions_, [&shown](const auto& candidate) {
-      return candidate->Profile().Model.DialogType == shown.Model().DialogType;
-    });
     shown.Projector().TryAfresh();
     shown.DispTabScreen();
-    const auto fresh = (*session)->MakeDialog();
-    ASSERT_TRUE(fresh->Create());
-    auto* tabs = fresh->findChild<QTabBar*>();
-    tabs->setCurrentIndex(shown.findChild<QTabBar*>()->currentIndex());
-    EXPECT_EQ(Look(*shown.ShownPage()), Look(*fresh->ShownPage()));
+    ExpectShowsProjector(shown);
     ++checked;
-  }
-
-  static std::vector<int> Look(const CTabPage& page) {
-    std::vector<int> look{page.TemplateNumber()};
-    for (const RowTemplate& row : page.Template()->rows) {
-      for (const ControlTemplate& control : row.controls) {
-        const QWidget* widget = page.GetDlgItem(control.id);
-        if (widget == nullptr || !widget->isVisibleTo(&page)) continue;
-        look.push_back(widget->isEnabledTo(&page));
-        if (const auto* list = qobject_cast<const QComboBox*>(widget)) {
-          if (list->isEnabled()) look.push_back(list->currentIndex());
-        } else if (const auto* slider = qobject_cast<const QSlider*>(widget)) {
-          look.push_back(slider->value());
-        } else if (const auto* button = qobject_cast<const QAbstractButton*>(widget)) {
-          look.push_back(button->isChecked());
-        }
-      }
-    }
-    return look;
   }
 
   // In the middle of a time-out.

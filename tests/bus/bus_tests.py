@@ -134,22 +134,7 @@ OPERATIONS = {
         ("Setup", "Mirror", "H Inverse", ["SetMirror(1)"]),
         ("Setup", "IR Remote Top", None, ["SetIRTop(0)"]),
     ],
-    (3, 10): [
-        ("Setup", "Color Bal R \u2212", None, ["Dec 0x2005", "Get 0x2005"]),
-        ("Image", "Keystone", 3, ["Set 0x2007 (0x83)"]),
-        ("Option", "Whisper", "Whisper", ["SetWhisper(1)"]),
-        ("Option", "IR Remote Rear", None, ["SetIRRear(0)"]),
-    ],
-    (2, 14): [
-        ("Main", "Contrast +", None, ["Inc 0x2004", "Get 0x2004"]),
-        ("Option", "Auto Off (min)", 5, ["Set 0x3110 (0x05)"]),
-        ("Screen", "MyScreen Lock", "On", ["SetMyScreenLock(1)"]),
-    ],
-    (1, 1): [
-        ("Main", "Brightness +", None, ["Inc 0x2003", "Get 0x2003"]),
-        ("Picture 2", "H Phase", 9, ["Set 0x2103 (0x09)"]),
-        ("Main", "Whisper", "Whisper", ["SetWhisper(1)"]),
-    ],
+    (3, 10): [], (2, 14): [], (1, 1): [],
 }
 
 

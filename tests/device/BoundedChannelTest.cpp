@@ -6,7 +6,6 @@
 
 #include <QCoreApplication>
 #include <QTimer>
-#include <QWidget>
 #include <gtest/gtest.h>
 
 #include "device/BoundedChannel.h"
@@ -62,16 +61,6 @@ class BoundedChannelTest : public testing::Test {
   std::shared_ptr<Gate> gate_ = std::make_shared<Gate>();
   BoundedChannel channel_{gate_, {.timeOut = 150ms, .retryAfter = 300ms}};
 };
-
-TEST_F(BoundedChannelTest, PassesAnswersOn) {
-  BoundedChannel patient(gate_, {.timeOut = 1h});
-  for (int i = 1; i <= 3; ++i) {
-    const PjtReply reply = patient.Execute(kCommand);
-    EXPECT_TRUE(reply.answered);
-    EXPECT_EQ(reply.result, 1);
-    EXPECT_EQ(reply.value, i);
-  }
-}
 
 TEST_F(BoundedChannelTest, ASilentProjectorCostsOneTimeOut) {
   gate_->Open(false);
@@ -130,34 +119,6 @@ TEST_F(BoundedChannelTest, AbandoningEndsTheWaitAndTheNextCommandIsTried) {
   EXPECT_FALSE(patient.Execute(kCommand).answered);
   patient.Abandon();
   EXPECT_TRUE(patient.Execute(kCommand).answered);
-}
-
-class Painted final : public QWidget {
- public:
-  int paints = 0;
-
- protected:
-  void paintEvent(QPaintEvent*) override { ++paints; }
-};
-
-TEST_F(BoundedChannelTest, WindowsGoOnPaintingWhileItWaits) {
-  Painted window;
-  window.show();
-  QCoreApplication::processEvents();
-  const int before = window.paints;
-
-  gate_->Open(false);
-  int ticks = 0;
-  QTimer timer;
-  QObject::connect(&timer, &QTimer::timeout, [&] {
-    window.update();
-    if (++ticks == 5) gate_->Open(true);
-  });
-  timer.start(10);
-  BoundedChannel patient(gate_, {.timeOut = 1h});  // only an answer ends its wait
-  EXPECT_TRUE(patient.Execute(kCommand).answered);
-  EXPECT_GE(ticks, 5);
-  EXPECT_GT(window.paints, before + 1);
 }
 
 TEST_F(BoundedChannelTest, ACommandFromInsideTheWaitIsRefused) {

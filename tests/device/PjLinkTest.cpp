@@ -5,10 +5,9 @@
 #include <thread>
 #include <vector>
 
-#include <QEventLoop>
 #include <QTcpServer>
 #include <QTcpSocket>
-#include <QTimer>
+#include <QThread>
 #include <gtest/gtest.h>
 
 #include "device/BoundedChannel.h"
@@ -39,23 +38,17 @@ class Served {
  public:
   explicit Served(PjLinkServer::Options options) {
     options.served.inputs = {{"31", 3, "HDMI"}, {"5A", 7, "Büro"}};
-    std::promise<int> listening;
-    thread_ = std::thread([&listening, options, this] {
-      PjLinkServer server(projector, options);
-      QEventLoop loop;
-      QTimer end;
-      QObject::connect(&end, &QTimer::timeout, &loop, [&] {
-        if (ended_) loop.quit();
-      });
-      end.start(10ms);
-      listening.set_value(server.Listen(kHost, 0) ? server.Port() : 0);
-      loop.exec();
+    thread_.start();
+    there_.moveToThread(&thread_);
+    Do([&] {
+      server_ = std::make_unique<PjLinkServer>(projector, options);
+      port = server_->Listen(kHost, 0) ? server_->Port() : 0;
     });
-    port = listening.get_future().get();
   }
   ~Served() {
-    ended_ = true;
-    thread_.join();
+    Do([this] { server_.reset(); });
+    thread_.quit();
+    thread_.wait();
   }
 
   PjLinkChannel Channel(const std::string& password = {}) const {
@@ -75,8 +68,14 @@ class Served {
   int port = 0;
 
  private:
-  std::thread thread_;
-  std::atomic<bool> ended_ = false;
+  template <typename Act>
+  void Do(Act act) {
+    QMetaObject::invokeMethod(&there_, act, Qt::BlockingQueuedConnection);
+  }
+
+  QThread thread_;
+  QObject there_;
+  std::unique_ptr<PjLinkServer> server_;
 };
 
 /// One connection of a scripted projector: the first text at once, each other after a request.

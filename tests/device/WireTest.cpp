@@ -1,7 +1,6 @@
 #include <fstream>
 #include <map>
 #include <regex>
-#include <sstream>
 #include <string>
 
 #include <QByteArray>

@@ -1,9 +1,6 @@
 // What a person sees and may do while the projector takes its time.
 
-#include <atomic>
-#include <condition_variable>
 #include <gmock/gmock.h>
-#include <mutex>
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -14,10 +11,9 @@
 #include <gtest/gtest.h>
 
 #include "device/BoundedChannel.h"
-#include "device/ModelDataIntake.h"
 #include "host/StatusLine.h"
-#include "simulator/SimulatedProjector.h"
 #include "tests/support/DialogDriver.h"
+#include "tests/support/PacedProjector.h"
 #include "toolkit/CSliderCtrl.h"
 
 namespace {
@@ -27,47 +23,13 @@ using testing::IsEmpty;
 
 constexpr int kPictureTab = 1;
 constexpr int kAudioTab = 5;
-constexpr int kOptionTab = 7;
 constexpr int kIris = 20293;
+constexpr int kIrisCaption = 20621;
 constexpr int kCustomGamma = 20133;
 constexpr int kBrightnessPlus = 20135;
 constexpr int kBrightness = 20136;
 constexpr int kBrightnessField = 20329;
 constexpr int kClose = 1;
-
-/// Takes as long for each command as it is told, or does not answer before it is told to.
-class PacedProjector final : public ProjectorChannel {
- public:
-  explicit PacedProjector(const CModelInfo2& model)
-      : simulation_(DescribeModel(MakeModelData(model))) {}
-
-  PjtReply Execute(const PjtCommand& command) override {
-    std::unique_lock lock(mutex_);
-    sent_.push_back(command);
-    changed_.wait_for(lock, pace_, [this] { return pace_ == 0ms; });
-    return refuses ? PjtReply{.result = RefusedResult(command.operation)}
-                   : simulation_.Execute(command);
-  }
-
-  void Pace(std::chrono::milliseconds pace) {
-    const std::lock_guard lock(mutex_);
-    pace_ = pace;
-    changed_.notify_all();
-  }
-  std::vector<PjtCommand> Take() {
-    const std::lock_guard lock(mutex_);
-    return std::exchange(sent_, {});
-  }
-
-  std::atomic<bool> refuses = false;
-
- private:
-  SimulatedProjector simulation_;
-  std::mutex mutex_;
-  std::condition_variable changed_;
-  std::chrono::milliseconds pace_{0};
-  std::vector<PjtCommand> sent_;
-};
 
 class FlowTest : public testing::Test {
  protected:
@@ -275,18 +237,10 @@ TEST_F(FlowTest, RowsSayWhatThereIsToKnow) {
   Open();
   projector_->refuses = true;
   ClickTab(kPictureTab);
-  const auto caption = [this](int id) {
-    for (auto* label : dialog_.ShownPage()->findChildren<QLabel*>()) {
-      const int y = Page().Item<QWidget>(id).geometry().center().y();
-      if (label->isVisible() && label->geometry().contains(label->x(), y)) return label;
-    }
-    return static_cast<QLabel*>(nullptr);
-  };
-  ASSERT_NE(caption(kIris), nullptr);
   for (const bool refused : {true, false}) {
     const QString why = refused ? CatalogString(5, 4303) : QString();
     EXPECT_EQ(Page().Item<QWidget>(kIris).toolTip(), why);
-    EXPECT_EQ(caption(kIris)->isEnabled(), !refused);
+    EXPECT_EQ(Page().IsEnabled(kIrisCaption), !refused);
     EXPECT_EQ(Page().Item<QWidget>(20142).toolTip(), CatalogString(5, 4305)) << "no gammas";
     for (const int id : {kBrightness, kBrightnessPlus, kBrightnessField}) {
       EXPECT_EQ(Page().Item<QWidget>(id).toolTip(),

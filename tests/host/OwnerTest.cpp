@@ -1,19 +1,16 @@
 // A host that deletes the dialog's owner from the event loop that runs while a command waits or a
 // box is open. What is touched afterwards, or leaks, the address sanitizer tells.
 
-#include <atomic>
 #include <functional>
 
 #include <QApplication>
-#include <QPushButton>
 #include <QTabBar>
 #include <QTest>
 #include <gtest/gtest.h>
 
 #include "device/BoundedChannel.h"
-#include "device/ModelDataIntake.h"
-#include "simulator/SimulatedProjector.h"
 #include "tests/support/DialogDriver.h"
+#include "tests/support/PacedProjector.h"
 
 namespace {
 
@@ -24,36 +21,6 @@ constexpr int kActiveIris = 20293;
 constexpr int kOptionTab = 7;
 constexpr int kService = 20373;
 constexpr int kRemoteTop = 20377;
-
-// Answers at once, but a late command not before it is let go.
-class SlowProjector final : public ProjectorChannel {
- public:
-  explicit SlowProjector(const CModelInfo2& model)
-      : simulation_(DescribeModel(MakeModelData(model))) {}
-
-  PjtReply Execute(const PjtCommand& command) override {
-    ++sent;
-    if (late.exchange(false)) {
-      waiting = true;
-      waiting.wait(true);
-    }
-    if (refuses) return {.result = RefusedResult(command.operation)};
-    return simulation_.Execute(command);
-  }
-
-  void LetGo() {
-    waiting = false;
-    waiting.notify_all();
-  }
-
-  std::atomic<bool> late = false;  ///< Of the next command.
-  std::atomic<bool> refuses = false;
-  std::atomic<bool> waiting = false;
-  std::atomic<int> sent = 0;
-
- private:
-  SimulatedProjector simulation_;
-};
 
 // Acts from the event loop as soon as something is so.
 void When(const std::function<bool()>& isSo, const std::function<void()>& act) {
@@ -75,7 +42,7 @@ class Host {
  public:
   explicit Host(Death death) : death_(death) {
     owner_->show();
-    QObject::connect(owner_, &QObject::destroyed, [this] { projector->LetGo(); });
+    QObject::connect(owner_, &QObject::destroyed, [this] { projector->Pace(0ms); });
   }
   ~Host() { delete owner_; }
 
@@ -89,7 +56,7 @@ class Host {
   }
 
   void DieWhileACommandWaits() {
-    projector->late = true;
+    projector->Pace(1h);
     When([this] { return projector->waiting.load(); }, [this] { LetDie(); });
   }
 
@@ -158,7 +125,7 @@ class Host {
   bool waitedAtDeath_ = false;
 
  public:
-  std::shared_ptr<SlowProjector> projector = std::make_shared<SlowProjector>(model_);
+  std::shared_ptr<PacedProjector> projector = std::make_shared<PacedProjector>(model_);
 };
 
 class OwnerTest : public testing::TestWithParam<std::tuple<Death, Run, Moment>> {};

@@ -1,9 +1,4 @@
-#include <gmock/gmock.h>
-
-#include <QApplication>
-#include <QPushButton>
 #include <QTabBar>
-#include <QTest>
 #include <gtest/gtest.h>
 
 #include "pages/common/CTabPage.h"
@@ -38,19 +33,6 @@ TEST(Tabs, APageWithoutATabExistsToo) {
   EXPECT_NE(hidden.Template(), nullptr);
   EXPECT_EQ(hidden.mapTo(&open.Dialog(), QPoint()), QPoint(20, 64));
   EXPECT_EQ(open.Dialog().Page(PageId::Main).Template(), nullptr) << "of another page set";
-}
-
-TEST(Tabs, EveryTabChangeReadsTheProjectorAgain) {
-  OpenDialog open(MakeModel(5, 30));
-  open.SelectTab(1);
-  EXPECT_THAT(open.Projector().Take(), testing::Contains("Get 0x2003"));
-  open.SelectTab(0);
-  EXPECT_THAT(open.Projector().Take(),
-              testing::AllOf(testing::Contains("Get 0x6000"),
-                             testing::Not(testing::Contains("Get 0x2003"))))
-      << "hidden pages are not read";
-  open.SelectTab(1);
-  EXPECT_THAT(open.Projector().Take(), testing::Contains("Get 0x2003"));
 }
 
 TEST(Tabs, TitleAndConnectionAreTheModels) {
@@ -99,52 +81,6 @@ TEST(Keyboard, EscOnAPageClosesTheDialogAndNeverHidesThePage) {
   open.Driver().Press(20142, Qt::Key_Escape);
   EXPECT_FALSE(open.Dialog().isVisible());
   EXPECT_FALSE(open.Page().isHidden());
-}
-
-TEST(Keyboard, FocusGoesThroughTheRowsAndOnToTheButton) {
-  OpenDialog open(MakeModel(5, 30), 1);
-  QTabBar* tabs = open.Dialog().findChild<QTabBar*>();
-  tabs->setFocus();
-  std::vector<QWidget*> seen;
-  for (int guard = 0; guard < 60; ++guard) {
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    if (QApplication::focusWidget() == tabs) break;
-    seen.push_back(QApplication::focusWidget());
-  }
-  ASSERT_EQ(QApplication::focusWidget(), tabs) << "the focus never came round";
-  EXPECT_EQ(seen.back(), open.Dialog().GetDlgItem(1));
-  seen.pop_back();
-  QPoint last;
-  for (QWidget* control : seen) {
-    ASSERT_EQ(control->parentWidget(), &open.Page());
-    const QPoint at(control->x(), control->geometry().center().y());
-    EXPECT_TRUE(at.y() > last.y() + 8 || at.x() > last.x()) << "row by row, left to right";
-    last = at;
-  }
-  EXPECT_GE(seen.size(), 20U);
-}
-
-TEST(Keyboard, ControlTabTurnsThePages) {
-  OpenDialog open(MakeModel(3, 4));
-  QTabBar* tabs = open.Dialog().findChild<QTabBar*>();
-  QTest::keyClick(&open.Dialog(), Qt::Key_PageUp, Qt::ControlModifier);
-  EXPECT_EQ(tabs->currentIndex(), 5);
-  QTest::keyClick(&open.Dialog(), Qt::Key_PageDown, Qt::ControlModifier);
-  EXPECT_EQ(tabs->currentIndex(), 0);
-}
-
-TEST(Modal, TheHostRunsTheDialogUntilTheUserClosesIt) {
-  CAdvanceDlg dialog;
-  CModelInfo2 record = MakeModel(5, 30);
-  dialog.CopyData(&record, 0);
-  for (int run = 0; run < 2; ++run) {
-    QTimer::singleShot(0, &dialog, [&] {
-      EXPECT_TRUE(dialog.isVisible());
-      QTest::mouseClick(dialog.GetDlgItem(1), Qt::LeftButton);
-    });
-    EXPECT_EQ(dialog.DoModal(), QDialog::Accepted);
-    EXPECT_FALSE(dialog.isVisible());
-  }
 }
 
 }  // namespace

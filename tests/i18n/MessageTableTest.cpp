@@ -22,10 +22,7 @@ std::vector<TestTable> SampleTables() {
   return {
       {1033,
        {{0x01040001, {Unicode(u"One\r\n"), Unicode(u"Two\r\n")}},
-        {0xFFFFFFFE,
-         {Ansi("Stra\xDF"
-               "e\r\n"),
-          Ansi("")}}}},
+        {0xFFFFFFFE, {Ansi("Stra\337e\r\n"), Ansi("")}}}},
       {2052, {{0x01040001, {Unicode(u"\u4EAE\u5EA6\r\n"), Ansi("\xD6\xD0\xCE\xC4\r\n")}}}},
       {1041, {{7, {Ansi("\x93\xFA\x96\x7B"), Unicode(u"\xD83D\xDE00|\xD83D|")}}}, 9},
   };
@@ -125,9 +122,7 @@ TEST(MessageTable, RefusesDamagedModules) {
   expectRefused(directories, false);
   expectRefused(tables, false);
   EXPECT_FALSE(MessageTable::Parse({}));
-}
-
-TEST(MessageTable, RefusesTwoTextsForOneMessage) {
+  // Two texts for one message.
   EXPECT_FALSE(MessageTable::Parse(
       TestModule({{1033, {{1, {Ansi("a"), Ansi("b")}}, {2, {Ansi("c")}}}}}).bytes));
 }

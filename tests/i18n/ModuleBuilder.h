@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <fstream>
 #include <map>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 // Makes small message-table modules, with the places where a test may damage them.
@@ -140,16 +140,12 @@ class TestModule {
         Put16(entryAt, static_cast<std::uint16_t>(length));
         Put16(entryAt + 2, entry.flags);
         bytes.resize(entryAt + length);
-        std::ranges::transform(entry.bytes,
-                               bytes.begin() + static_cast<std::ptrdiff_t>(entryAt) + 4,
-                               [](char c) { return static_cast<std::byte>(c); });
+        std::memcpy(&bytes[entryAt + 4], entry.bytes.data(), entry.bytes.size());
         entryAt += length;
       }
     }
     Put32(leaf, kAddress + Relative(start));
     Put32(leaf + 4, static_cast<std::uint32_t>(entryAt - start));
-    Put32(leaf + 8, 0);
-    Put32(leaf + 12, 0);
     return entryAt;
   }
 };

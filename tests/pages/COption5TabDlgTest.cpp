@@ -31,13 +31,6 @@ struct OptionPage : OpenDialog {
   COption5TabDlg& Option() { return static_cast<COption5TabDlg&>(Page()); }
 };
 
-TEST(Option5, FunctionsHaveThePlacesOfTheModelsList) {
-  OptionPage open(30);
-  EXPECT_EQ(open.Option().GetMyBtnIdx(25), 2);
-  EXPECT_EQ(open.Option().GetMyBtnVal(12), 255);
-  EXPECT_EQ(open.Option().GetMyBtnIdx(24), -1);
-}
-
 TEST(Option5, WithoutAListOfTheModelTheTemplatesFunctionsHold) {
   for (const int code : {30, 47}) {  // also a model without rows sends functions, not positions
     OptionPage open(OptionModel(code, false));
@@ -59,6 +52,9 @@ TEST(Option5, AnUnknownFunctionShowsTheLastEntryOnlyOnSomeModels) {
     open.Projector().Answer("GetMyButton2", 99);
     open.Page().InitDisp();
     EXPECT_EQ(open.Driver().Selected(20371), 2);
+    EXPECT_EQ(open.Option().GetMyBtnIdx(25), 2);
+    EXPECT_EQ(open.Option().GetMyBtnIdx(24), -1);
+    EXPECT_EQ(open.Option().GetMyBtnVal(12), 255);
     const bool last = code == 44 || (code >= 49 && code != 52);
     EXPECT_EQ(open.Driver().Selected(20372), last ? 12 : -1) << code;
   }
@@ -96,16 +92,13 @@ TEST(Option5, MySourceIsReadLooselyAndKeepsARefusedChoice) {
 
 TEST(Option5, ServiceOpensForTheModelOnTheSameProjector) {
   OptionPage open(44);
-  bool seen = false;
   WhenModal("CServiceDlg", [&](CDialog& dialog) {
-    seen = true;
     const auto& service = static_cast<CServiceDlg&>(dialog);
     EXPECT_EQ(service.ModelCode, 44);
     EXPECT_EQ(service.projector, &open.Dialog().Projector());
     EXPECT_EQ(service.parentWidget(), &open.Page());
   });
   open.Driver().Click(20373);
-  EXPECT_TRUE(seen);
 }
 
 }  // namespace

@@ -17,23 +17,26 @@
 
 namespace {
 
-class Keyboard : public testing::TestWithParam<std::pair<int, int>> {
+struct Model {
+  int dialogType, modelCode;
+  std::set<std::string> idle;  // At an end of the row's range, beside an empty list, or only shown.
+};
+
+class Keyboard : public testing::TestWithParam<Model> {
  protected:
   Keyboard() {
-    const CModelInfo2 model = FullModel(GetParam().first, GetParam().second);
+    const CModelInfo2 model = FullModel(GetParam().dialogType, GetParam().modelCode);
     dialog_.CopyData(&model, 0);
     dialog_.Projector().SetChannel(std::make_shared<LoggingChannel>(
         std::make_shared<SimulatedProjector>(DescribeModel(MakeModelData(model))),
-        [this](const PjtCommand& command, const PjtReply&, auto) {
-          if (!FormatCommand(command).starts_with("Get")) ++changes_;
-        }));
+        [this](const PjtCommand& command, auto&&...) { done_ += !IsRead(command.operation); }));
     EXPECT_TRUE(dialog_.Create());
     dialog_.show();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog_));
     // Pop-ups and boxes count as something done.
     QObject::connect(&closer_, &QTimer::timeout, [this] {
       if (auto* modal = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
-        ++changes_;
+        ++done_;
         QTest::keyClick(modal, Qt::Key_Escape);
       }
     });
@@ -52,92 +55,63 @@ class Keyboard : public testing::TestWithParam<std::pair<int, int>> {
   }
 
   bool Does(Qt::Key key) {
-    changes_ = 0;
+    done_ = 0;
     Press(key);
-    return changes_ > 0;
+    return done_ > 0;
   }
 
-  // What a press must do at once: a button at the end of its row's range, or one whose list is
-  // empty, does nothing.
-  void Operate(QWidget& control) {
-    if (auto* button = qobject_cast<QPushButton*>(&control)) {
-      if (!MayDoNothing(*button)) {
-        EXPECT_TRUE(Does(Qt::Key_Return));
-        Focus(control);
-        EXPECT_TRUE(!control.isEnabled() || Does(Qt::Key_Space) || MayDoNothing(*button));
-      }
-      return;
+  // Whether the keys of its kind do something at once.
+  bool Operates(QWidget& control) {
+    if (qobject_cast<QPushButton*>(&control) != nullptr) {
+      if (!Does(Qt::Key_Return)) return false;
+      Focus(control);
+      return !control.isEnabled() || Does(Qt::Key_Space);
     }
     EXPECT_FALSE(Does(Qt::Key_Return));
-    if (qobject_cast<QAbstractButton*>(&control) != nullptr) {
-      EXPECT_TRUE(Does(Qt::Key_Space));
-    } else if (qobject_cast<QSlider*>(&control) != nullptr) {
-      EXPECT_TRUE(Does(Qt::Key_Right) || Does(Qt::Key_Left));
-    } else if (const auto* list = qobject_cast<QComboBox*>(&control); list->count() > 1) {
-      const int before = list->currentIndex();
-      const bool sent = Does(Qt::Key_Down);
-      const bool moved = list->currentIndex() != before;
-      EXPECT_TRUE(sent || Does(Qt::Key_Up) || (IsPassive(*list) && moved));
+    if (qobject_cast<QAbstractButton*>(&control) != nullptr) return Does(Qt::Key_Space);
+    if (qobject_cast<QSlider*>(&control) != nullptr) {
+      return Does(Qt::Key_Right) || Does(Qt::Key_Left);
     }
+    return qobject_cast<QComboBox*>(&control) == nullptr || Does(Qt::Key_Down) || Does(Qt::Key_Up);
   }
-
-  // The list beside a button is read by the button alone; two lists only show.
-  bool IsPassive(const QWidget& list) const {
-    for (const char* shownOnly : {"P.IN P.Size", "Progressive"}) {
-      if (list.accessibleName() == QLatin1String(shownOnly)) return true;
-    }
-    return std::ranges::any_of(Page().Notifications().Entries(), [&](const Notification& entry) {
-      return entry.event == Notification::Event::Passive && Page().GetDlgItem(entry.id) == &list;
-    });
-  }
-
-  bool MayDoNothing(const QWidget& button) const {
-    for (const RowTemplate& row : Page().Template()->rows) {
-      bool holds = false;
-      bool atEnd = false;
-      for (const ControlTemplate& control : row.controls) {
-        const QWidget* widget = Page().GetDlgItem(control.id);
-        holds = holds || widget == &button;
-        const auto* slider = qobject_cast<const QSlider*>(widget);
-        const auto* list = qobject_cast<const QComboBox*>(widget);
-        atEnd = atEnd || (list != nullptr && list->count() == 0) ||
-                (slider != nullptr &&
-                 (slider->value() == slider->minimum() || slider->value() == slider->maximum()));
-      }
-      if (holds) return atEnd;
-    }
-    return false;
-  }
-
-  CTabPage& Page() const { return *dialog_.ShownPage(); }
 
   CAdvanceDlg dialog_;
-  int changes_ = 0;
+  int done_ = 0;
   QTimer closer_;
 };
 
 TEST_P(Keyboard, ReachesAndOperatesEveryControl) {
   auto& tabs = *dialog_.findChild<CTabCtrl*>();
   QWidget* const close = dialog_.GetDlgItem(1);
+  std::set<std::string> idle;
   for (int tab = 0; tab < tabs.count(); ++tab, Press(Qt::Key_PageDown, Qt::ControlModifier)) {
     SCOPED_TRACE(tabs.tabText(tab).toStdString());
     ASSERT_EQ(tabs.currentIndex(), tab);
     tabs.setFocus();
     std::set<const QWidget*> reached;
+    QPoint last;
     for (Press(Qt::Key_Tab); QApplication::focusWidget() != close; Press(Qt::Key_Tab)) {
       QWidget* control = QApplication::focusWidget();
       ASSERT_TRUE(reached.insert(control).second) << "round in circles";
-      SCOPED_TRACE(control->accessibleName().toStdString());
-      Operate(*control);
+      const std::string name = control->accessibleName().toStdString();
+      SCOPED_TRACE(name);
+      const QPoint at(control->x(), control->geometry().center().y());
+      EXPECT_TRUE(at.y() > last.y() + 8 || at.x() > last.x()) << "row by row, left to right";
+      last = at;
+      if (!Operates(*control)) idle.insert(name);
       Focus(*control);
     }
-    for (const QWidget* control : Page().findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+    for (auto* control : dialog_.ShownPage()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
       if (!control->isVisible() || !control->isEnabled()) continue;
       if (control->focusPolicy() & Qt::TabFocus) {
         EXPECT_TRUE(reached.contains(control)) << control->accessibleName().toStdString();
       }
     }
   }
+  EXPECT_EQ(idle, GetParam().idle);
+  EXPECT_EQ(tabs.currentIndex(), 0) << "round";
+  Press(Qt::Key_PageUp, Qt::ControlModifier);
+  EXPECT_EQ(tabs.currentIndex(), tabs.count() - 1);
   Focus(*close);
   Press(Qt::Key_Return);
   EXPECT_FALSE(dialog_.isVisible()) << "Enter on Close";
@@ -149,8 +123,15 @@ TEST_P(Keyboard, ReachesAndOperatesEveryControl) {
   EXPECT_TRUE(QTest::qWaitFor([this] { return !dialog_.isVisible(); })) << "Alt+C";
 }
 
-INSTANTIATE_TEST_SUITE_P(EachType, Keyboard,
-                         testing::Values(std::pair(1, 1), std::pair(2, 6), std::pair(3, 10),
-                                         std::pair(4, 9), std::pair(5, 30)));
+const Model kModels[] = {
+    {1, 1, {"Auto Off (min) −", "My Memory", "P.IN P.Size", "Reset"}},
+    {2, 6, {"Auto Off (min) −", "Reset"}},
+    {3, 10, {"Auto Off (min) −", "Reset"}},
+    {4,
+     9,
+     {"Auto Off (min) −", "Electric Zoom +", "My Memory", "Progressive", "Reset", "Sharpness −"}},
+    {5, 30, {"My Memory", "Reset"}},
+};
+INSTANTIATE_TEST_SUITE_P(EachType, Keyboard, testing::ValuesIn(kModels));
 
 }  // namespace

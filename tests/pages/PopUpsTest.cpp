@@ -129,16 +129,4 @@ TEST(ServicePopUp, TheHeightFollowsThePresentRows) {
       << "Top keeps its place without Rear";
 }
 
-TEST(ServicePopUp, CloseAndEscEndItOnce) {
-  OpenPopUp open(PopUp::Service);
-  int ended = 0;
-  QObject::connect(open.popUp.get(), &QDialog::finished, [&ended] { ++ended; });
-  open.Click(20380);
-  EXPECT_FALSE(open.popUp->isVisible());
-  EXPECT_EQ(ended, 1);
-  Open(*open.popUp);
-  QTest::keyClick(open.popUp.get(), Qt::Key_Escape);
-  EXPECT_FALSE(open.popUp->isVisible());
-}
-
 }  // namespace

@@ -2,7 +2,6 @@
 // it is asked for and when it refuses. What the rows send is in PagesByModel.txt.
 
 #include <QCheckBox>
-#include <QLineEdit>
 #include <QTest>
 #include <gtest/gtest.h>
 

@@ -1,7 +1,6 @@
 // What the dialog shows of each projector of the profile file, held against the list of its
 // settings that programs without a window use.
 
-#include <gmock/gmock.h>
 #include <map>
 #include <set>
 
@@ -11,9 +10,6 @@
 #include "app/ProjectorAccess.h"
 #include "device/ModelDataIntake.h"
 #include "i18n/SystemLanguage.h"
-#include "pages/input/CServiceDlg.h"
-#include "pages/picture/CColorDlg.h"
-#include "pages/picture/CGammaDlg.h"
 #include "settings/PageTables.h"
 #include "snapshots/SettingTexts.h"
 #include "tests/support/DialogDriver.h"
@@ -29,10 +25,6 @@ const SettingTexts& Texts() {
 
 /// A control as its setting has it: what a person could choose there.
 using Shown = std::map<int, std::string>;
-
-std::string ListText(const std::vector<std::string>& texts) {
-  return testing::PrintToString(texts);
-}
 
 /// The settings that a dialog shows, by their controls.
 Shown ShownBy(const CDialog& dialog, const PageTable& table) {
@@ -50,12 +42,12 @@ Shown ShownBy(const CDialog& dialog, const PageTable& table) {
       if (const auto* list = qobject_cast<CComboBox*>(widget)) {
         std::vector<std::string> texts;
         for (int i = 0; i < list->count(); ++i) texts.push_back(list->itemText(i).toStdString());
-        shown[control.id] = ListText(texts);
+        shown[control.id] = testing::PrintToString(texts);
       } else if (const auto* slider = qobject_cast<CSliderCtrl*>(widget)) {
         shown[control.id] =
             std::to_string(slider->minimum()) + " to " + std::to_string(slider->maximum());
       } else if (qobject_cast<QCheckBox*>(widget) != nullptr) {
-        shown[control.id] = ListText({"Off", "On"});
+        shown[control.id] = testing::PrintToString(std::vector<std::string>{"Off", "On"});
       }
     }
   }
@@ -75,7 +67,7 @@ Shown SaidFor(const ModelSettings& settings, const CDialog& dialog, const PageTa
         std::holds_alternative<CheckRow>(*setting.row)) {
       std::vector<std::string> texts;
       for (const ListEntry& entry : setting.entries) texts.push_back(Texts().Entry(entry));
-      said[control] = ListText(texts);
+      said[control] = testing::PrintToString(texts);
     } else if (setting.range) {
       said[control] = Texts().Values(setting);
     }
@@ -105,22 +97,16 @@ TEST(SettingsList, HoldsWhatThePagesAndPopUpsOfEveryProjectorShow) {
       if (KeepsTemplate(table, profile.Model.ModelCode)) continue;
       ExpectSame(settings, *dialog.ShownPage(), table);
     }
-    const auto popUp = [&](CDialog& window, const char* key, const PageTable& table) {
-      if (settings.Find(key) == nullptr) return;
+    for (const auto& [kind, key, table] :
+         {std::tuple{PopUp::Gamma, "gamma.pattern", &kGammaRows},
+          {PopUp::ColorTemp, "color-temp.pattern", &kColorTempRows},
+          {PopUp::Service, "service.auto-adjust", &kServiceRows}}) {
+      if (settings.Find(key) == nullptr) continue;
       SCOPED_TRACE(key);
-      ASSERT_TRUE(window.Create());
-      ExpectSame(settings, window, table);
-    };
-    CGammaDlg gamma(false, &dialog);
-    gamma.projector = &dialog.Projector();
-    popUp(gamma, "gamma.pattern", kGammaRows);
-    CColorDlg colorTemp(false, &dialog);
-    colorTemp.projector = &dialog.Projector();
-    popUp(colorTemp, "color-temp.pattern", kColorTempRows);
-    CServiceDlg service(&dialog);
-    service.projector = &dialog.Projector();
-    service.ModelCode = profile.Model.ModelCode;
-    popUp(service, "service.auto-adjust", kServiceRows);
+      const auto popUp = MakePopUp(kind, dialog);
+      ASSERT_TRUE(popUp->Create());
+      ExpectSame(settings, *popUp, *table);
+    }
   }
 }
 

@@ -2,13 +2,11 @@
 // at random; afterwards every control must show what the projector itself says. SOAK_SEED gives
 // another walk, SOAK_ACTIONS a longer one.
 
-#include <algorithm>
 #include <random>
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QLabel>
-#include <QLineEdit>
 #include <QSlider>
 #include <QTabBar>
 #include <QTest>
@@ -16,11 +14,10 @@
 
 #include "device/LoggingChannel.h"
 #include "device/ModelDataIntake.h"
-#include "settings/PageTables.h"
-#include "settings/RowUse.h"
 #include "simulator/FaultChannel.h"
 #include "simulator/SimulatedProjector.h"
 #include "tests/support/DialogDriver.h"
+#include "tests/support/ShownValues.h"
 
 namespace {
 
@@ -109,58 +106,6 @@ class RandomUser {
   QTimer boxes_;  // a timer of its own: boxes come up while a pop-up is in use
 };
 
-// What a control of a row shows, and what it has to show for the projector's value.
-void ExpectShows(const ListRow& row, int value, const CTabPage& page, const ModelData&) {
-  const auto& list = page.Item<CComboBox>(row.control);
-  EXPECT_TRUE(list.isEnabled());
-  int position = list.findData(value);
-  if (position < 0 && row.rules.noEntry == NoEntry::IsPosition && value < list.count()) {
-    position = value;
-  }
-  if (position >= 0 || row.rules.noEntry == NoEntry::Clears) {
-    EXPECT_EQ(list.currentIndex(), position);
-  }
-}
-
-void ExpectShows(const ValueRow& row, int value, const CTabPage& page, const ModelData&) {
-  EXPECT_EQ(page.Item<QLineEdit>(row.ids.field).text(), QString::number(value - row.bias));
-  if (row.ids.slider == 0) return;
-  const auto& slider = page.Item<QSlider>(row.ids.slider);
-  EXPECT_TRUE(slider.isEnabled());
-  EXPECT_EQ(slider.value(), std::clamp(value - row.bias, slider.minimum(), slider.maximum()));
-}
-
-void ExpectShows(const CheckRow& row, int value, const CTabPage& page, const ModelData&) {
-  EXPECT_EQ(page.Item<QAbstractButton>(row.control).isChecked(), value != 0);
-}
-
-// The text of the state's entry, or the number, is somewhere in what is shown.
-void ExpectShows(const StateRow& row, int value, const CTabPage& page, const ModelData& model) {
-  const std::vector<ListEntry> texts = row.texts.Of(model);
-  const int position = PositionOf(texts, value);
-  const ListEntry text =
-      position >= 0 ? texts[static_cast<std::size_t>(position)] : ListEntry(row.otherwise);
-  const QString shown = page.Item<QLabel>(row.control).text();
-  EXPECT_TRUE(shown.contains(text.text != 0 ? CatalogString(kListCategory, text.text, value)
-                                            : QString::fromUtf8(text.name)))
-      << shown.toStdString();
-}
-
-void ExpectShows(const auto&, int, const CTabPage&, const ModelData&) {}
-
-void ExpectShowsProjector(const CTabPage& page, const PageTable& table, const ModelData& model,
-                          CPjtInterface& projector) {
-  for (std::size_t i = 0; i < table.rows.size(); ++i) {
-    const PageRow& row = table.rows[i];
-    if (KeepsTemplate(table, model.ModelCode) || !Has(table, i, model.ModelCode)) continue;
-    if (!ReadingOf(row, model)) continue;
-    SCOPED_TRACE(KeyOf(row));
-    const auto value = ReadRow(projector, row, model);
-    ASSERT_TRUE(value);
-    std::visit([&](const auto& kind) { ExpectShows(kind, *value, page, model); }, row);
-  }
-}
-
 class SoakTest : public testing::TestWithParam<CModelInfo2> {};
 
 TEST_P(SoakTest, EveryControlEndsUpShowingTheProjectorsValue) {
@@ -191,13 +136,11 @@ TEST_P(SoakTest, EveryControlEndsUpShowingTheProjectorsValue) {
 
   faults->Clear();
   auto* tabs = dialog.findChild<QTabBar*>();
-  const auto pages = TabsOf(model.DialogType, model.ModelCode);
   for (int tab = 0; tab < tabs->count(); ++tab) {
     SCOPED_TRACE("tab " + std::to_string(tab));
     tabs->setCurrentIndex(tab);
     dialog.ShownPage()->InitDisp();
-    const PageId page = tab == 0 ? PageId::Status : pages[static_cast<std::size_t>(tab) - 1].page;
-    ExpectShowsProjector(*dialog.ShownPage(), TableOf(page), model, dialog.Projector());
+    ExpectShowsProjector(dialog);
   }
 }
 

@@ -3,14 +3,10 @@
 #include <map>
 #include <set>
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QScreen>
-#include <QSlider>
-#include <QStyle>
 #include <QTabBar>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -54,48 +50,33 @@ void ForEachPopup(const std::function<void(CDialog&)>& check) {
 }
 
 bool UserOperates(ControlKind kind) {
-  switch (kind) {
-    case ControlKind::Minus:
-    case ControlKind::Plus:
-    case ControlKind::Combo:
-    case ControlKind::Button:
-    case ControlKind::Arrow:
-    case ControlKind::Check:
-      return true;
-    default:
-      return false;
-  }
+  using enum ControlKind;
+  constexpr ControlKind kOperated[] = {Minus, Plus, Combo, Button, Arrow, Check};
+  return std::ranges::find(kOperated, kind) != std::end(kOperated);
 }
 
-void ExpectEachControlMappedOnce(const CDialog& dialog) {
+void ExpectControlsWellKnown(const CDialog& dialog) {
   std::map<int, int> handlers;
   for (const Notification& entry : dialog.Notifications().Entries()) ++handlers[entry.id];
+  std::set<int> numbers;
   for (const RowTemplate& row : dialog.Template()->rows) {
     for (const ControlTemplate& control : row.controls) {
-      const int slot = control.kind == ControlKind::Slider ? 0 : control.id;
-      if (control.kind != ControlKind::Slider && !UserOperates(control.kind)) continue;
-      EXPECT_EQ(handlers[slot], 1) << "control " << control.id;
+      if (control.kind == ControlKind::None) break;
+      EXPECT_TRUE(numbers.insert(control.id).second) << control.id;
+      const bool slider = control.kind == ControlKind::Slider;
+      if (slider || UserOperates(control.kind)) {
+        EXPECT_EQ(handlers[slider ? 0 : control.id], 1) << "control " << control.id;
+      } else if (control.kind != ControlKind::Field) {
+        continue;
+      }
+      EXPECT_FALSE(dialog.GetDlgItem(control.id)->accessibleName().isEmpty()) << control.id;
     }
   }
 }
 
-TEST(Sweep, EveryControlHasExactlyOneHandler) {
-  ForEachPage([](OpenDialog&, CTabPage& page) { ExpectEachControlMappedOnce(page); });
-  ForEachPopup(ExpectEachControlMappedOnce);
-}
-
-TEST(Sweep, EveryNumberIsOneControls) {
-  const auto expectUnique = [](const CDialog& dialog) {
-    std::set<int> numbers;
-    for (const RowTemplate& row : dialog.Template()->rows) {
-      for (const ControlTemplate& control : row.controls) {
-        if (control.kind == ControlKind::None) break;
-        EXPECT_TRUE(numbers.insert(control.id).second) << control.id;
-      }
-    }
-  };
-  ForEachPage([&](OpenDialog&, CTabPage& page) { expectUnique(page); });
-  ForEachPopup(expectUnique);
+TEST(Sweep, EveryControlHasItsOwnNumberANameAndExactlyOneHandler) {
+  ForEachPage([](OpenDialog&, CTabPage& page) { ExpectControlsWellKnown(page); });
+  ForEachPopup(ExpectControlsWellKnown);
 }
 
 // What is read of a source follows what the page asked first; the rest is told beforehand.
@@ -110,20 +91,6 @@ TEST(Sweep, APageTellsWhatItWillRead) {
       return read.starts_with("GetInputSrc") || read.starts_with("GetSRSWOW");
     });
     EXPECT_EQ(told, sent);
-  });
-}
-
-TEST(Sweep, EveryValueControlIsNamedForAScreenReader) {
-  ForEachPage([](OpenDialog&, CTabPage& page) {
-    for (const RowTemplate& row : page.Template()->rows) {
-      for (const ControlTemplate& control : row.controls) {
-        if (!UserOperates(control.kind) && control.kind != ControlKind::Slider &&
-            control.kind != ControlKind::Field) {
-          continue;
-        }
-        EXPECT_FALSE(page.GetDlgItem(control.id)->accessibleName().isEmpty()) << control.id;
-      }
-    }
   });
 }
 

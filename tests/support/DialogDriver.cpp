@@ -7,7 +7,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QStyleOptionSlider>
 #include <QTabBar>
 #include <QTest>
 #include <QWheelEvent>
@@ -36,19 +35,7 @@ void DialogDriver::Choose(int id, int position) const {
 }
 
 QPoint DialogDriver::HandleCentre(int id) const {
-  const auto& slider = Item<CSliderCtrl>(id);
-  QStyleOptionSlider option;
-  option.initFrom(&slider);
-  option.orientation = Qt::Horizontal;
-  option.minimum = slider.minimum();
-  option.maximum = slider.maximum();
-  option.sliderPosition = slider.sliderPosition();
-  option.sliderValue = slider.value();
-  option.tickPosition = slider.tickPosition();
-  option.subControls = QStyle::SC_All;
-  return slider.style()
-      ->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, &slider)
-      .center();
+  return Item<CSliderCtrl>(id).HandleRect().center();
 }
 
 void DialogDriver::Drag(int id, int position) const {

@@ -4,7 +4,6 @@
 #include "tests/support/DialogDriver.h"
 #include "toolkit/CComboBox.h"
 #include "toolkit/CSliderCtrl.h"
-#include "toolkit/MessageBox.h"
 #include "toolkit/ResourceModule.h"
 
 namespace {
@@ -161,6 +160,8 @@ TEST_F(DialogTest, AListReportsChoicesOfTheUserOnly) {
   driver.Choose(9, 1);
   driver.Choose(9, 1);
   EXPECT_EQ(dialog.choices, 2) << "choosing the shown entry again sends it again";
+  driver.Press(9, Qt::Key_Down);
+  EXPECT_EQ(dialog.choices, 3);
   combo.clear();
   combo.Add(QStringLiteral("Five"), 5);
   combo.Add(QStringLiteral("Six"), 6);
@@ -183,7 +184,6 @@ TEST_F(DialogTest, EnterPressesTheFocusedButtonOnlyAndEscCloses) {
 TEST_F(DialogTest, AnAbsentRowTakesNoSpaceAndRowsKeepOnePitch) {
   const int pitch = Top(7) - Top(1);
   EXPECT_EQ(Top(11) - Top(7), pitch);
-  EXPECT_LE(std::abs(Top(9) - Top(7)), 1) << "a list is centred on its caption";
   const int height = dialog.height();
   dialog.ShowRow(9, false);
   QTest::qWait(1);
@@ -200,11 +200,6 @@ TEST_F(DialogTest, ListsAreAsWideAsTheirColumnWhateverTheyHold) {
   EXPECT_EQ(list.width(), dialog.GetDlgItem(13)->width());
   EXPECT_EQ(list.x(), dialog.GetDlgItem(3)->x());
   EXPECT_EQ(list.right(), dialog.GetDlgItem(5)->geometry().right());
-}
-
-TEST_F(DialogTest, ValueControlsAreNamedByTheirCaption) {
-  for (const auto& [id, name] : {std::pair{4, "Level"}, {6, "Level"}, {9, "Mode"}, {10, "Mode Do"}})
-    EXPECT_EQ(dialog.GetDlgItem(id)->accessibleName(), QLatin1String(name));
 }
 
 TEST_F(DialogTest, AModalDialogMayDieWhileItRuns) {
@@ -227,17 +222,6 @@ TEST_F(DialogTest, RunsModallyAgainAndAgain) {
     EXPECT_EQ(modal.presses, run);
     EXPECT_EQ(modal.destroyed, run);
   }
-}
-
-TEST_F(DialogTest, MessageBoxesTellAndAsk) {
-  MessageBoxes no(false);
-  ShowStopMessage(&dialog, QStringLiteral("Refused <b>"));
-  EXPECT_FALSE(AskYesNo(&dialog, QStringLiteral("Sure?")));
-  const auto boxes = no.Take();
-  ASSERT_EQ(boxes.size(), 2U);
-  EXPECT_EQ(boxes[0].text, QStringLiteral("Refused <b>"));
-  EXPECT_EQ(boxes[0].icon, QMessageBox::Critical);
-  EXPECT_EQ(boxes[1].icon, QMessageBox::Information);
 }
 
 TEST(Dialog, WithoutATemplateStaysEmpty) {

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <atomic>
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
+#include <utility>
+#include <vector>
+
+#include "device/ModelDataIntake.h"
+#include "simulator/SimulatedProjector.h"
+
+/// A simulated projector that takes as long for each command as it is told.
+class PacedProjector final : public ProjectorChannel {
+ public:
+  explicit PacedProjector(const CModelInfo2& model)
+      : simulation_(DescribeModel(MakeModelData(model))) {}
+
+  PjtReply Execute(const PjtCommand& command) override {
+    std::unique_lock lock(mutex_);
+    sent_.push_back(command);
+    ++sent;
+    waiting = pace_.count() > 0;
+    changed_.wait_for(lock, pace_, [this] { return pace_.count() == 0; });
+    waiting = false;
+    return refuses ? PjtReply{.result = RefusedResult(command.operation)}
+                   : simulation_.Execute(command);
+  }
+
+  /// Of the commands to come; none at all lets go the one that waits.
+  void Pace(std::chrono::milliseconds pace) {
+    const std::lock_guard lock(mutex_);
+    pace_ = pace;
+    changed_.notify_all();
+  }
+  /// The commands since the last call.
+  std::vector<PjtCommand> Take() {
+    const std::lock_guard lock(mutex_);
+    return std::exchange(sent_, {});
+  }
+
+  std::atomic<bool> refuses = false;
+  std::atomic<bool> waiting = false;
+  std::atomic<int> sent = 0;
+
+ private:
+  SimulatedProjector simulation_;
+  std::mutex mutex_;
+  std::condition_variable changed_;
+  std::chrono::milliseconds pace_{0};
+  std::vector<PjtCommand> sent_;
+};

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <string>
+
+#include <QFile>
+#include <QMap>
+#include <QProcess>
+#include <gtest/gtest.h>
+
+// Programs as processes of their own, and the files that they leave.
+
+struct Outcome {
+  int exitCode;  ///< −1 if it did not end by itself.
+  std::string output;
+  std::string errors;
+};
+
+inline Outcome Finish(QProcess& process) {
+  const bool finished = process.waitForFinished(60'000);
+  return {finished && process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+          process.readAllStandardOutput().toStdString(),
+          process.readAllStandardError().toStdString()};
+}
+
+inline Outcome Run(const QString& program, const QStringList& arguments,
+                   const QProcessEnvironment& environment) {
+  QProcess process;
+  process.setProcessEnvironment(environment);
+  process.start(program, arguments);
+  return Finish(process);
+}
+
+inline QByteArray Contents(const QString& path) {
+  QFile file(path);
+  return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray("cannot read");
+}
+
+inline void Write(const QString& path, const QByteArray& text) {
+  QFile file(path);
+  ASSERT_TRUE(file.open(QFile::WriteOnly) && file.write(text) == text.size());
+}
+
+#ifdef SIMULATOR_PROGRAM
+/// The simulator, ready from its making on.
+class SimulatorProcess {
+ public:
+  explicit SimulatorProcess(const QStringList& arguments) {
+    process_.start(SIMULATOR_PROGRAM, arguments);
+    while (process_.canReadLine() || process_.waitForReadyRead(10'000)) {
+      const QString line = QString::fromUtf8(process_.readLine()).trimmed();
+      if (line == "ready") return;
+      const QString address = line.section(": ", 1);
+      addresses_[line.startsWith("control") ? "control" : address.section(':', 0, 0)] = address;
+    }
+    ADD_FAILURE() << "the simulator is not ready: " << process_.readAllStandardError().data();
+  }
+  ~SimulatorProcess() {
+    process_.terminate();
+    EXPECT_EQ(Finish(process_).exitCode, 0);
+  }
+
+  /// What it says to be reached at: "tcp", "serial", "pjlink" or "control".
+  QString Address(const char* way) const { return addresses_.value(way); }
+
+ private:
+  QProcess process_;
+  QMap<QString, QString> addresses_;
+};
+#endif

@@ -41,5 +41,7 @@ std::unique_ptr<CAdvanceDlg> ProjectorSession::MakeDialog() const {
   auto dialog = std::make_unique<CAdvanceDlg>();
   dialog->CopyData(&profile_.Model, 0);
   dialog->Projector().SetChannel(channel_);
+  // Who opens a dialog again wants to know now whether the projector is back.
+  dialog->Projector().TryAfresh();
   return dialog;
 }

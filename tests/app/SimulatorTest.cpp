@@ -5,12 +5,16 @@
 #include <QCoreApplication>
 #include <QLabel>
 #include <QProcess>
+#include <QTabBar>
 #include <QTcpSocket>
 #include <QTemporaryDir>
+#include <QTest>
 #include <gtest/gtest.h>
 
+#include "app/MainWindow.h"
 #include "app/ProfileFile.h"
 #include "app/ProjectorSession.h"
+#include "app/ProjectorView.h"
 #include "device/BoundedChannel.h"
 #include "device/CPjtInterface.h"
 #include "device/Connect.h"
@@ -158,6 +162,36 @@ TEST_F(SimulatorTest, ADialogConnectsByItself) {
     EXPECT_GT(answered, 0) << profile.Name;
     EXPECT_EQ(session.Connection(), ConnectionState::Connected) << profile.Name;
   }
+}
+
+TEST_F(SimulatorTest, TheListTellsHowEveryConnectionStands) {
+  auto profiles = ReadProfileFile(Profiles()).projectors;
+  profiles.push_back(profiles[1]);
+  profiles[3].Name = "wrong password";
+  profiles[3].Model.ConnectionTexts2[0] = MakeNameSlot("wrong");
+  profiles.push_back({.Name = "simulated", .Model = profiles[0].Model, .Lacks = {}});
+  MainWindow window(profiles);
+  window.show();
+  const auto& model = window.findChild<ProjectorView*>()->Model();
+  const auto comesTo = [&model](int row, const QString& state) {
+    const auto shown = [&] { return model.index(row, ProjectorTableModel::State).data(); };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shown() == state; }))
+        << row << ": " << shown().toString().toStdString();
+  };
+  for (int row = 0; row < 4; ++row) comesTo(row, "Not connected");
+  comesTo(4, "Simulated");
+  for (std::size_t row = 0; row < profiles.size(); ++row) window.OpenDialog(row);
+  for (int row = 0; row < 3; ++row) comesTo(row, "Open · Connected");
+  comesTo(3, "Open · Password missing or wrong");
+  comesTo(4, "Open · Simulated");
+  Stop();
+  window.Dialog(0)->findChild<QTabBar*>()->setCurrentIndex(1);
+  comesTo(0, "Open · Not reachable");
+  window.Dialog(0)->close();
+  comesTo(0, "Not reachable");
+  Start({"--projector", kName, "--port", addresses_["tcp"].section(':', -1)});
+  window.OpenDialog(0);
+  comesTo(0, "Open · Connected");
 }
 
 TEST_F(SimulatorTest, AProjectorThatGoesAndComesBackIsFoundAgain) {

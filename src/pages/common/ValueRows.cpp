@@ -26,7 +26,8 @@ void RowDialog::Prepare(const ValueRow& row, Bound& bound) {
 
 void RowDialog::Refresh(const ValueRow& row, Bound& bound, Source source) {
   ValueControls& controls = bound.value;
-  const auto value = source ? Read(*projector, row.Reading(*source)) : std::nullopt;
+  std::optional<int> value;
+  if (source) value = Read(*projector, row.Reading(*source));
   if (projector->IsAbandoned()) return;
   if (row.greysField) controls.EnableField(value.has_value());
   if (value) {

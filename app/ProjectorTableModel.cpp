@@ -13,11 +13,11 @@ namespace {
 
 constexpr std::array<const char*, ProjectorTableModel::ColumnCount> kTitles{
     QT_TRANSLATE_NOOP("ProjectorTableModel", "Name"),
+    QT_TRANSLATE_NOOP("ProjectorTableModel", "State"),
     QT_TRANSLATE_NOOP("ProjectorTableModel", "Model"),
     QT_TRANSLATE_NOOP("ProjectorTableModel", "Type"),
     QT_TRANSLATE_NOOP("ProjectorTableModel", "Code"),
-    QT_TRANSLATE_NOOP("ProjectorTableModel", "Connection"),
-    QT_TRANSLATE_NOOP("ProjectorTableModel", "State")};
+    QT_TRANSLATE_NOOP("ProjectorTableModel", "Connection")};
 
 constexpr auto kUpdateInterval = std::chrono::milliseconds(300);
 

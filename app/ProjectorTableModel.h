@@ -22,7 +22,7 @@ class ProjectorTableModel : public QAbstractTableModel {
  public:
   using Sessions = std::vector<std::shared_ptr<ProjectorSession>>;
 
-  enum Column { Name, Model, DialogType, ModelCode, Connection, State, ColumnCount };
+  enum Column { Name, State, Model, DialogType, ModelCode, Connection, ColumnCount };
   /// Names of the projector's tabs, a line each.
   static constexpr int kTabsRole = Qt::UserRole;
 

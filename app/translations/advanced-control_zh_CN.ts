@@ -225,6 +225,10 @@
         <source>Fa&amp;ult</source>
         <translation>故障(&amp;U)</translation>
     </message>
+    <message>
+        <source>Simulated faults of %1</source>
+        <translation>%1 的模拟故障</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -593,6 +597,10 @@
     <message>
         <source>Pro&amp;jectors</source>
         <translation>投影机(&amp;J)</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>已打开</translation>
     </message>
 </context>
 <context>

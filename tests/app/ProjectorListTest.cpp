@@ -100,7 +100,7 @@ TEST(ProjectorList, IsSearchedAndSorted) {
       EXPECT_TRUE(words == "audio" ? tabs.contains("Audio")
                   : words == "5-3 SCREEN"
                       ? index.data().toString().contains("5-3") && tabs.contains("Screen")
-                      : index.siblingAtColumn(1).data() == "QD-M7450");
+                      : index.siblingAtColumn(ProjectorTableModel::Model).data() == "QD-M7450");
     }
   }
   QTest::keyClicks(search, "zz");

@@ -19,6 +19,7 @@
 #include "device/CPjtInterface.h"
 #include "device/Connect.h"
 #include "host/CAdvanceDlg.h"
+#include "pages/common/CTabPage.h"
 
 namespace {
 
@@ -184,6 +185,18 @@ TEST_F(SimulatorTest, TheListTellsHowEveryConnectionStands) {
   for (int row = 0; row < 3; ++row) comesTo(row, "Open · Connected");
   comesTo(3, "Open · Password missing or wrong");
   comesTo(4, "Open · Simulated");
+
+  // The inputs have other numbers over PJLink, and the same names.
+  const auto input = [&window](std::size_t row) {
+    return window.Dialog(row)->Page(PageId::Status).GetDlgItem(20009)->property("text").toString();
+  };
+  EXPECT_EQ(profiles[1].Model.MySourceList.Size(), 0);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !input(1).isEmpty() && input(1) == input(0); }))
+      << input(1).toStdString();
+  window.Dialog(1)->close();
+  const auto& names = profiles[0].Model.MySourceList.names;
+  EXPECT_EQ(window.OpenDialog(1)->Model().MySourceList.names, names) << "known from the start";
+
   Stop();
   window.Dialog(0)->findChild<QTabBar*>()->setCurrentIndex(1);
   comesTo(0, "Open · Not reachable");

@@ -165,14 +165,30 @@ bool FaultPanel::eventFilter(QObject* watched, QEvent* event) {
 void FaultPanel::SetSession(ProjectorSession* session) {
   session_ = session;
   setEnabled(session != nullptr);
-  setTitle(session == nullptr ? tr("No projector selected")
-                              : tr("Simulation of %1").arg(Text(session->Profile().Name)));
+  if (session == nullptr) {
+    setTitle(tr("No projector selected"));
+  } else {
+    const QString title = IsSimulated() ? tr("Simulation of %1") : tr("Simulated faults of %1");
+    setTitle(title.arg(Text(session->Profile().Name)));
+  }
   RefreshStates();
   ShowFaults();
 }
 
+bool FaultPanel::IsSimulated() const {
+  return session_ != nullptr && session_->Profile().Link == ProjectorLink::Simulated;
+}
+
+// Those of a real projector are its own.
 void FaultPanel::RefreshStates() {
   if (session_ == nullptr) return;
+  if (!IsSimulated()) {
+    for (QComboBox* state : {power_, error_}) {
+      state->setEnabled(false);
+      state->setCurrentIndex(-1);
+    }
+    return;
+  }
   const SimulatedProjector& simulator = session_->Simulator();
   power_->setEnabled(simulator.Has(SettingId::Power));
   error_->setEnabled(simulator.Has(SettingId::ErrorStatus));

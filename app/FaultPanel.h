@@ -27,6 +27,7 @@ class FaultPanel : public QGroupBox {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  bool IsSimulated() const;
   void FillTargets();
   void SetFault();
   void RemoveSelected();

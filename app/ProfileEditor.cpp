@@ -17,6 +17,7 @@ namespace {
 
 constexpr int kFieldWidth = 26;  // average letters
 const QString kNetwork = QStringLiteral("network");
+const QString kPjLink = QStringLiteral("pjlink");
 const QString kSerial = QStringLiteral("serial");
 
 QString TextOf(const QJsonValue& value) {
@@ -61,6 +62,7 @@ ProfileEditor::ProfileEditor(const ProfileDocument& document, const QJsonObject&
       model_(AddField(tr("&Model"), TextOf(entry["model"]))),
       dialogType_(AddField(tr("Dialog &type"), TextOf(entry["dialogType"]))),
       modelCode_(AddField(tr("Model &code"), TextOf(entry["modelCode"]))),
+      link_(new QComboBox),
       connection_(new QComboBox),
       error_(new QLabel) {
   setWindowTitle(entry.isEmpty() ? tr("Add Projector") : tr("Edit Projector"));
@@ -70,6 +72,7 @@ ProfileEditor::ProfileEditor(const ProfileDocument& document, const QJsonObject&
   for (const QString& name : document.Families()) family_->addItem(name, name);
   family_->setCurrentIndex(family_->findData(entry["like"].toString()));
   form_->insertRow(1, tr("&Family"), family_);
+  AddLinks();
   AddConnectionFields();
 
   error_->setWordWrap(true);
@@ -85,6 +88,7 @@ ProfileEditor::ProfileEditor(const ProfileDocument& document, const QJsonObject&
   connect(buttons, &QDialogButtonBox::accepted, this, &ProfileEditor::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &ProfileEditor::reject);
   connect(family_, &QComboBox::currentIndexChanged, this, &ProfileEditor::ShowFamily);
+  connect(link_, &QComboBox::activated, this, &ProfileEditor::ChooseFittingConnection);
   connect(connection_, &QComboBox::currentIndexChanged, this, &ProfileEditor::ShowConnectionFields);
   ShowFamily();
   ShowConnectionFields();
@@ -96,6 +100,16 @@ QLineEdit* ProfileEditor::AddField(const QString& caption, const QString& text) 
   field->setMinimumWidth(field->fontMetrics().averageCharWidth() * kFieldWidth);
   form_->addRow(caption, field);
   return field;
+}
+
+void ProfileEditor::AddLinks() {
+  link_->addItem(tr("As its family"), QString());
+  link_->addItem(tr("Simulated"), QStringLiteral("simulated"));
+  link_->addItem(tr("Network"), kNetwork);
+  link_->addItem(QStringLiteral("PJLink"), kPjLink);
+  link_->addItem(tr("Serial port"), kSerial);
+  link_->setCurrentIndex(link_->findData(entry_["link"].toString()));
+  form_->addRow(tr("&Reached through"), link_);
 }
 
 // A connection of a kind that this dialog does not know is offered as it is.
@@ -113,9 +127,10 @@ void ProfileEditor::AddConnectionFields() {
   const QJsonObject serial = written[kSerial].toObject();
   address_ = AddField(tr("&Address"), TextOf(network["address"]));
   networkPort_ = AddField(tr("&Port"), TextOf(network["port"]));
-  secret_ = AddField(tr("&Secret"), TextOf(network["secret"]));
+  secret_ = AddField(tr("Pass&word"), TextOf(network["secret"]));
   secret_->setEchoMode(QLineEdit::PasswordEchoOnEdit);
   serialPort_ = AddField(tr("Port n&umber"), TextOf(serial["port"]));
+  device_ = AddField(tr("&Device"), TextOf(serial["device"]));
   baud_ = AddField(tr("&Baud"), TextOf(serial["baud"]));
   TakeNumbersOnly(*networkPort_, 1, 65535);
   TakeNumbersOnly(*serialPort_, 1, 256);
@@ -134,7 +149,21 @@ void ProfileEditor::ShowConnectionFields() {
   for (QLineEdit* field : {address_, networkPort_, secret_}) {
     form_->setRowVisible(field, kind == kNetwork);
   }
-  for (QLineEdit* field : {serialPort_, baud_}) form_->setRowVisible(field, kind == kSerial);
+  for (QLineEdit* field : {serialPort_, device_, baud_}) {
+    form_->setRowVisible(field, kind == kSerial);
+  }
+}
+
+// The way that was chosen needs a connection of its kind.
+void ProfileEditor::ChooseFittingConnection() {
+  const QString link = link_->currentData().toString();
+  const QString needed = link == kPjLink ? kNetwork : link;
+  if (needed != kNetwork && needed != kSerial) return;
+  const QJsonObject ofFamily =
+      document_.Family(family_->currentData().toString())["connection"].toObject();
+  const bool fits =
+      ConnectionKind().isEmpty() ? ofFamily.contains(needed) : ConnectionKind() == needed;
+  if (!fits) connection_->setCurrentIndex(connection_->findData(needed));
 }
 
 QString ProfileEditor::ConnectionKind() const { return connection_->currentData().toString(); }
@@ -151,6 +180,7 @@ QJsonValue ProfileEditor::Connection() const {
     Put(parameters, "secret", TextIn(*secret_));
   } else {
     Put(parameters, "port", NumberIn(*serialPort_));
+    Put(parameters, "device", TextIn(*device_));
     Put(parameters, "baud", NumberIn(*baud_));
   }
   return QJsonObject{{kind, parameters}};
@@ -158,6 +188,7 @@ QJsonValue ProfileEditor::Connection() const {
 
 JsonEdit::Members ProfileEditor::Changes() const {
   const QString family = family_->currentData().toString();
+  const QString link = link_->currentData().toString();
   JsonEdit::Members all{
       {"name", TextIn(*name_)},
       {"model", TextIn(*model_)},
@@ -165,6 +196,7 @@ JsonEdit::Members ProfileEditor::Changes() const {
       {"dialogType", NumberIn(*dialogType_)},
       {"modelCode", NumberIn(*modelCode_)},
       {"connection", Connection()},
+      {"link", link.isEmpty() ? QJsonValue(QJsonValue::Undefined) : QJsonValue(link)},
   };
   std::erase_if(all, [this](const JsonEdit::Member& member) {
     return member.value == entry_.value(member.key);

@@ -35,9 +35,11 @@ class ProfileEditor : public QDialog {
 
  private:
   QLineEdit* AddField(const QString& caption, const QString& text);
+  void AddLinks();
   void AddConnectionFields();
   void ShowFamily();
   void ShowConnectionFields();
+  void ChooseFittingConnection();
   QString ConnectionKind() const;
   QJsonValue Connection() const;
 
@@ -50,11 +52,13 @@ class ProfileEditor : public QDialog {
   QLineEdit* model_;
   QLineEdit* dialogType_;
   QLineEdit* modelCode_;
+  QComboBox* link_;
   QComboBox* connection_;
   QLineEdit* address_;
   QLineEdit* networkPort_;
   QLineEdit* secret_;
   QLineEdit* serialPort_;
+  QLineEdit* device_;
   QLineEdit* baud_;
   QLabel* error_;
 };

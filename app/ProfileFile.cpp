@@ -272,8 +272,11 @@ void ApplyConnection(const QJsonObject& connection, const QString& path, CModelI
   } else {
     CheckKeys(parameters, kindPath, {"port", "baud", "device"});
     model.ConnectionKinds[0] = kSerialKind;
+    // A path needs no number beside it.
+    const bool hasNumber = parameters.contains("port") || !parameters.contains("device");
     model.ConnectionNumbers[0] =
-        Integer(parameters["port"], At(kindPath, "port"), 1, kMaximumSerialPort) - 1;
+        hasNumber ? Integer(parameters["port"], At(kindPath, "port"), 1, kMaximumSerialPort) - 1
+                  : 0;
     model.ConnectionParameters[0] =
         parameters.contains("baud")
             ? Integer(parameters["baud"], At(kindPath, "baud"), 1, kMaximumBaud)

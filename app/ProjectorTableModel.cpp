@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <utility>
 
 #include "i18n/LocalizeControlTexts.h"
@@ -12,11 +13,43 @@ namespace {
 
 constexpr std::array<const char*, ProjectorTableModel::ColumnCount> kTitles{
     QT_TRANSLATE_NOOP("ProjectorTableModel", "Name"),
+    QT_TRANSLATE_NOOP("ProjectorTableModel", "State"),
     QT_TRANSLATE_NOOP("ProjectorTableModel", "Model"),
     QT_TRANSLATE_NOOP("ProjectorTableModel", "Type"),
     QT_TRANSLATE_NOOP("ProjectorTableModel", "Code"),
-    QT_TRANSLATE_NOOP("ProjectorTableModel", "Connection"),
-    QT_TRANSLATE_NOOP("ProjectorTableModel", "State")};
+    QT_TRANSLATE_NOOP("ProjectorTableModel", "Connection")};
+
+constexpr auto kUpdateInterval = std::chrono::milliseconds(300);
+
+const char* ConnectionName(ConnectionState state) {
+  switch (state) {
+    case ConnectionState::None:
+      return QT_TRANSLATE_NOOP("ProjectorTableModel", "Simulated");
+    case ConnectionState::Unused:
+      return QT_TRANSLATE_NOOP("ProjectorTableModel", "Not connected");
+    case ConnectionState::Connecting:
+      return QT_TRANSLATE_NOOP("ProjectorTableModel", "Connecting");
+    case ConnectionState::Connected:
+      return QT_TRANSLATE_NOOP("ProjectorTableModel", "Connected");
+    case ConnectionState::WrongParameters:
+      return QT_TRANSLATE_NOOP("ProjectorTableModel", "Wrong parameters");
+    case ConnectionState::NameUnknown:
+      return QT_TRANSLATE_NOOP("ProjectorTableModel", "Unknown host");
+    case ConnectionState::NotReachable:
+      return QT_TRANSLATE_NOOP("ProjectorTableModel", "Not reachable");
+    case ConnectionState::NoAnswer:
+      return QT_TRANSLATE_NOOP("ProjectorTableModel", "No answer");
+    case ConnectionState::Lost:
+      return QT_TRANSLATE_NOOP("ProjectorTableModel", "Connection lost");
+    case ConnectionState::NotUnderstood:
+      return QT_TRANSLATE_NOOP("ProjectorTableModel", "Answers not understood");
+    case ConnectionState::OtherVersion:
+      return QT_TRANSLATE_NOOP("ProjectorTableModel", "Other protocol version");
+    case ConnectionState::PasswordRequired:
+      return QT_TRANSLATE_NOOP("ProjectorTableModel", "Password missing or wrong");
+  }
+  return "";
+}
 
 bool HasRows(PageId page, int modelCode) {
   const PageTable& table = TableOf(page);
@@ -44,9 +77,23 @@ bool HasRowsOnEveryTab(const CModelInfo2& model) {
   });
 }
 
+ProjectorTableModel::ProjectorTableModel(QObject* parent) : QAbstractTableModel(parent) {
+  update_.setInterval(kUpdateInterval);
+  connect(&update_, &QTimer::timeout, this, &ProjectorTableModel::UpdateConnections);
+}
+
+// A simulated projector has no connection whose state could change.
 void ProjectorTableModel::SetSessions(Sessions sessions) {
   beginResetModel();
   sessions_ = std::move(sessions);
+  connections_.clear();
+  for (const auto& session : sessions_) connections_.push_back(session->Connection());
+  const auto isSimulated = [](ConnectionState state) { return state == ConnectionState::None; };
+  if (std::ranges::all_of(connections_, isSimulated)) {
+    update_.stop();
+  } else {
+    update_.start();
+  }
   std::erase_if(states_, [this](const auto& state) {
     return std::ranges::find(sessions_, state.first, &std::shared_ptr<ProjectorSession>::get) ==
            sessions_.end();
@@ -58,7 +105,18 @@ void ProjectorTableModel::SetState(const ProjectorSession* session, const QStrin
   const auto found = std::ranges::find(sessions_, session, &std::shared_ptr<ProjectorSession>::get);
   if (found == sessions_.end()) return;
   states_[session] = state;
-  const QModelIndex cell = index(static_cast<int>(found - sessions_.begin()), State);
+  StateChanged(static_cast<std::size_t>(found - sessions_.begin()));
+}
+
+void ProjectorTableModel::UpdateConnections() {
+  for (std::size_t row = 0; row < sessions_.size(); ++row) {
+    const ConnectionState now = sessions_[row]->Connection();
+    if (std::exchange(connections_[row], now) != now) StateChanged(row);
+  }
+}
+
+void ProjectorTableModel::StateChanged(std::size_t row) {
+  const QModelIndex cell = index(static_cast<int>(row), State);
   Q_EMIT dataChanged(cell, cell);
 }
 
@@ -92,7 +150,11 @@ QVariant ProjectorTableModel::data(const QModelIndex& index, int role) const {
       return ConnectionText(profile.Model);
     case State: {
       const auto state = states_.find(session);
-      return state == states_.end() ? QString() : state->second;
+      const QString connection =
+          tr(ConnectionName(connections_[static_cast<std::size_t>(index.row())]));
+      return state == states_.end() || state->second.isEmpty()
+                 ? connection
+                 : state->second + QStringLiteral(" · ") + connection;
     }
     default:
       return {};

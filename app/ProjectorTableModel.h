@@ -5,6 +5,7 @@
 #include <vector>
 
 #include <QAbstractTableModel>
+#include <QTimer>
 
 #include "app/ProjectorSession.h"
 
@@ -21,16 +22,17 @@ class ProjectorTableModel : public QAbstractTableModel {
  public:
   using Sessions = std::vector<std::shared_ptr<ProjectorSession>>;
 
-  enum Column { Name, Model, DialogType, ModelCode, Connection, State, ColumnCount };
+  enum Column { Name, State, Model, DialogType, ModelCode, Connection, ColumnCount };
   /// Names of the projector's tabs, a line each.
   static constexpr int kTabsRole = Qt::UserRole;
 
-  using QAbstractTableModel::QAbstractTableModel;
+  explicit ProjectorTableModel(QObject* parent = nullptr);
 
   void SetSessions(Sessions sessions);
   const Sessions& All() const { return sessions_; }
 
-  /// What is going on with a projector, in a word or two; empty when nothing is.
+  /// What is going on with a projector, in a word or two; empty when nothing is. Stands before how
+  /// its connection stands, which the model keeps up by itself.
   void SetState(const ProjectorSession* session, const QString& state);
 
   int rowCount(const QModelIndex& parent = {}) const override;
@@ -40,6 +42,11 @@ class ProjectorTableModel : public QAbstractTableModel {
                       int role = Qt::DisplayRole) const override;
 
  private:
+  void UpdateConnections();
+  void StateChanged(std::size_t row);
+
   Sessions sessions_;
+  std::vector<ConnectionState> connections_;  // as shown, of each session
+  QTimer update_;
   std::map<const ProjectorSession*, QString> states_;
 };

@@ -97,6 +97,10 @@ void ProjectorView::SetSessions(ProjectorTableModel::Sessions sessions) {
     for (int column = 0; column < ProjectorTableModel::ColumnCount; ++column) {
       table_->setColumnWidth(column, table_->columnWidth(column) + kColumnGap);
     }
+    // It grows while a dialog is open.
+    const int open = table_->fontMetrics().horizontalAdvance(tr("Open") + QStringLiteral(" · "));
+    table_->setColumnWidth(ProjectorTableModel::State,
+                           table_->columnWidth(ProjectorTableModel::State) + open);
   }
   const auto& all = model_->All();
   const auto same = std::ranges::find_if(

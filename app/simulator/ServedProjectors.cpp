@@ -105,7 +105,12 @@ QByteArray ServedProjectors::Profiles(const QByteArray& original) const {
       entries.append(entry);
     };
     add({}, "network", NetworkConnection(service->wirePort, {}));
+    // There the inputs have other numbers, which the projector tells.
+    const QJsonValue sources = entry.value("mySources");
+    entry["mySources"] = QJsonArray();
     add(" (PJLink)", "pjlink", NetworkConnection(service->pjLinkPort, options_.password));
+    entry.remove("mySources");
+    if (!sources.isUndefined()) entry["mySources"] = sources;
     if (service->terminal.empty()) continue;
     const QJsonObject serial{{"port", 1}, {"device", QString::fromStdString(service->terminal)}};
     add(" (serial)", "serial", {{"serial", serial}});

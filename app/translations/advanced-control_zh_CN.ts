@@ -225,6 +225,10 @@
         <source>Fa&amp;ult</source>
         <translation>故障(&amp;U)</translation>
     </message>
+    <message>
+        <source>Simulated faults of %1</source>
+        <translation>%1 的模拟故障</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -462,10 +466,6 @@
         <translation>端口(&amp;P)</translation>
     </message>
     <message>
-        <source>&amp;Secret</source>
-        <translation>密码(&amp;S)</translation>
-    </message>
-    <message>
         <source>Port n&amp;umber</source>
         <translation>串口号(&amp;U)</translation>
     </message>
@@ -476,6 +476,22 @@
     <message>
         <source>The projector needs a name.</source>
         <translation>请输入投影机的名称。</translation>
+    </message>
+    <message>
+        <source>Simulated</source>
+        <translation>模拟</translation>
+    </message>
+    <message>
+        <source>&amp;Reached through</source>
+        <translation>连接方式(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Pass&amp;word</source>
+        <translation>密码(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;Device</source>
+        <translation>设备(&amp;D)</translation>
     </message>
 </context>
 <context>
@@ -511,6 +527,54 @@
         <source>State</source>
         <translation>状态</translation>
     </message>
+    <message>
+        <source>Simulated</source>
+        <translation>模拟</translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation>未连接</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>正在连接</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>已连接</translation>
+    </message>
+    <message>
+        <source>Wrong parameters</source>
+        <translation>连接参数错误</translation>
+    </message>
+    <message>
+        <source>Unknown host</source>
+        <translation>未知主机</translation>
+    </message>
+    <message>
+        <source>Not reachable</source>
+        <translation>无法访问</translation>
+    </message>
+    <message>
+        <source>No answer</source>
+        <translation>无应答</translation>
+    </message>
+    <message>
+        <source>Connection lost</source>
+        <translation>连接中断</translation>
+    </message>
+    <message>
+        <source>Answers not understood</source>
+        <translation>无法识别应答</translation>
+    </message>
+    <message>
+        <source>Other protocol version</source>
+        <translation>协议版本不符</translation>
+    </message>
+    <message>
+        <source>Password missing or wrong</source>
+        <translation>缺少密码或密码错误</translation>
+    </message>
 </context>
 <context>
     <name>ProjectorView</name>
@@ -533,6 +597,10 @@
     <message>
         <source>Pro&amp;jectors</source>
         <translation>投影机(&amp;J)</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>已打开</translation>
     </message>
 </context>
 <context>

@@ -317,6 +317,20 @@ void CAdvanceDlg::DispTabScreen() {
   } while (readsAgain_ && IsCreated());
 }
 
+void CAdvanceDlg::ReplaceSources(const SourceList& sources) {
+  const ModelData before = model_;
+  model_.MySourceList = sources;
+  if (!IsCreated()) return;
+  for (const auto& page : pages_->byId) {
+    if (page->Template() != nullptr) page->RefillLists(before);
+  }
+  if (reading_ || projector_.IsWaiting()) {
+    readsAgain_ = true;
+  } else {
+    DispTabScreen();
+  }
+}
+
 void CAdvanceDlg::ShowSelectedPage() {
   for (const auto& page : pages_->byId) {
     if (page->Template() != nullptr) page->hide();

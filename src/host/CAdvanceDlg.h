@@ -74,6 +74,11 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
   /// name is known.
   void CopyData(const CProjectorItem* item);
 
+  /// Other sources, also while the dialog is open, for a host that learns them from the projector:
+  /// the lists that offer them are filled anew, and the shown page is read again as soon as no
+  /// command waits.
+  void ReplaceSources(const SourceList& sources);
+
   /// The connection object that all pages use; owned by the dialog.
   CPjtInterface& Projector() { return projector_; }
 

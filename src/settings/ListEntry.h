@@ -22,6 +22,8 @@ struct ListEntry {
   int text = 0;             ///< Number in the list category of the catalog; 0 where `name` is it.
   std::string_view name{};  ///< A text that is the same in every language.
   int value = 0;
+
+  friend bool operator==(const ListEntry&, const ListEntry&) = default;
 };
 
 /// Entries that stand for `first` and the values after it.

@@ -97,7 +97,7 @@ TEST(ProjectorList, IsSearchedAndSorted) {
       EXPECT_TRUE(words == "audio" ? tabs.contains("Audio")
                   : words == "5-3 SCREEN"
                       ? index.data().toString().contains("5-3") && tabs.contains("Screen")
-                      : index.siblingAtColumn(1).data() == "QD-M7450");
+                      : index.siblingAtColumn(ProjectorTableModel::Model).data() == "QD-M7450");
     }
   }
   QTest::keyClicks(search, "zz");
@@ -174,6 +174,33 @@ TEST(ProjectorList, ProjectorsAreAddedEditedDuplicatedAndRemoved) {
   EXPECT_EQ(Selected(window), "A \"大厅\" (2)");
   Answer(Action(window, "Remove"), [](QDialog&) {});
   EXPECT_EQ(inFile().size(), count + 2) << "asked, and answered with Esc";
+
+  const auto choose = [](QDialog& editor, const QString& link) {
+    for (auto* list : editor.findChildren<QComboBox*>()) {
+      if (list->findText("PJLink") < 0) continue;
+      list->setCurrentText(link);
+      Q_EMIT list->activated(list->currentIndex());
+    }
+  };
+  Answer(Action(window, "Edit"), [&choose](QDialog& editor) {
+    choose(editor, "Serial port");
+    EXPECT_FALSE(Field(editor, "Address").isVisible()) << "the connection follows";
+    QTest::keyClicks(&Field(editor, "Device"), "ttyUSB0");
+    QTest::keyClicks(&Field(editor, "Baud"), "9600");
+    Accept(editor);
+    EXPECT_TRUE(editor.isVisible()) << "no path";
+    Field(editor, "Device").setText("/dev/ttyUSB0");
+    Accept(editor);
+  });
+  EXPECT_EQ(AddressOf(inFile()[2]), ProjectorAddress(SerialAddress{"/dev/ttyUSB0", 9600}));
+  Answer(Action(window, "Edit"), [&choose](QDialog& editor) {
+    choose(editor, "PJLink");
+    Field(editor, "Address").setText("192.0.2.7");
+    Field(editor, "Port").setText("4352");
+    Field(editor, "Password").setText("open");
+    Accept(editor);
+  });
+  EXPECT_EQ(AddressOf(inFile()[2]), ProjectorAddress(PjLinkAddress{"192.0.2.7", 4352, "open"}));
 
   window.findChild<ProjectorView*>()->Select(0);
   Answer(Action(window, "Remove"), [](QDialog& question) {

@@ -1,18 +1,24 @@
 #include <algorithm>
 #include <chrono>
+#include <optional>
 
 #include <QCoreApplication>
 #include <QLabel>
+#include <QTabBar>
 #include <QTcpSocket>
 #include <QTemporaryDir>
+#include <QTest>
 #include <gtest/gtest.h>
 
+#include "app/MainWindow.h"
 #include "app/ProfileFile.h"
 #include "app/ProjectorSession.h"
+#include "app/ProjectorView.h"
 #include "device/BoundedChannel.h"
 #include "device/CPjtInterface.h"
 #include "device/Connect.h"
 #include "host/CAdvanceDlg.h"
+#include "pages/common/CTabPage.h"
 #include "tests/support/Programs.h"
 
 namespace {
@@ -29,7 +35,7 @@ PjtCommand SetVolume(int value) {
 class SimulatorTest : public testing::Test {
  protected:
   SimulatorTest() {
-    const int port = simulator_.Address("control").section(':', 1).toInt();
+    const int port = simulator_->Address("control").section(':', 1).toInt();
     control_.connectToHost(QHostAddress::LocalHost, static_cast<std::uint16_t>(port));
     EXPECT_TRUE(control_.waitForConnected());
   }
@@ -37,7 +43,7 @@ class SimulatorTest : public testing::Test {
   QString Profiles() const { return folder_.filePath("real.json"); }
 
   ProjectorAddress Address(const char* way) {
-    return ParseAddress(simulator_.Address(way).toStdString(), "secret");
+    return ParseAddress(simulator_->Address(way).toStdString(), "secret");
   }
 
   std::string Control(const char* line) {
@@ -47,8 +53,9 @@ class SimulatorTest : public testing::Test {
   }
 
   QTemporaryDir folder_;
-  SimulatorProcess simulator_{QStringList{"--projector", kName, "--serial", "--control", "0",
-                                          "--password", "secret", "--write-profiles", Profiles()}};
+  std::optional<SimulatorProcess> simulator_{
+      std::in_place, QStringList{"--projector", kName, "--serial", "--control", "0", "--password",
+                                 "secret", "--write-profiles", Profiles()}};
   QTcpSocket control_;
 };
 
@@ -64,7 +71,8 @@ TEST_F(SimulatorTest, OneProjectorIsReachedInEveryWay) {
   EXPECT_EQ(tcp->Connection(), ConnectionState::Connected);
   const PjtCommand power{PjtOperation::Get, 0x6000};
   EXPECT_EQ(pjLink->Execute(power).value, tcp->Execute(power).value);
-  const auto wrong = MakeChannel(ParseAddress(simulator_.Address("pjlink").toStdString(), "wrong"));
+  const auto wrong =
+      MakeChannel(ParseAddress(simulator_->Address("pjlink").toStdString(), "wrong"));
   EXPECT_FALSE(wrong->Execute(power).answered);
   EXPECT_EQ(wrong->Connection(), ConnectionState::PasswordRequired);
 }
@@ -133,6 +141,49 @@ TEST_F(SimulatorTest, ADialogConnectsByItself) {
     EXPECT_GT(answered, 0) << profile.Name;
     EXPECT_EQ(session.Connection(), ConnectionState::Connected) << profile.Name;
   }
+}
+
+TEST_F(SimulatorTest, TheListTellsHowEveryConnectionStands) {
+  auto profiles = ReadProfileFile(Profiles()).projectors;
+  profiles.push_back(profiles[1]);
+  profiles[3].Name = "wrong password";
+  profiles[3].Model.ConnectionTexts2[0] = MakeNameSlot("wrong");
+  profiles.push_back({.Name = "simulated", .Model = profiles[0].Model, .Lacks = {}});
+  MainWindow window(profiles);
+  window.show();
+  const auto& model = window.findChild<ProjectorView*>()->Model();
+  const auto comesTo = [&model](int row, const QString& state) {
+    const auto shown = [&] { return model.index(row, ProjectorTableModel::State).data(); };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shown() == state; }))
+        << row << ": " << shown().toString().toStdString();
+  };
+  for (int row = 0; row < 4; ++row) comesTo(row, "Not connected");
+  comesTo(4, "Simulated");
+  for (std::size_t row = 0; row < profiles.size(); ++row) window.OpenDialog(row);
+  for (int row = 0; row < 3; ++row) comesTo(row, "Open · Connected");
+  comesTo(3, "Open · Password missing or wrong");
+  comesTo(4, "Open · Simulated");
+
+  // The inputs have other numbers over PJLink, and the same names.
+  const auto input = [&window](std::size_t row) {
+    return window.Dialog(row)->Page(PageId::Status).GetDlgItem(20009)->property("text").toString();
+  };
+  EXPECT_EQ(profiles[1].Model.MySourceList.Size(), 0);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !input(1).isEmpty() && input(1) == input(0); }))
+      << input(1).toStdString();
+  window.Dialog(1)->close();
+  const auto& names = profiles[0].Model.MySourceList.names;
+  EXPECT_EQ(window.OpenDialog(1)->Model().MySourceList.names, names) << "known from the start";
+
+  const QString port = simulator_->Address("tcp").section(':', -1);
+  simulator_.reset();
+  window.Dialog(0)->findChild<QTabBar*>()->setCurrentIndex(1);
+  comesTo(0, "Open · Not reachable");
+  window.Dialog(0)->close();
+  comesTo(0, "Not reachable");
+  simulator_.emplace(QStringList{"--projector", kName, "--port", port});
+  window.OpenDialog(0);
+  comesTo(0, "Open · Connected");
 }
 
 TEST(ConnectionParameters, ThatAreNonsenseAreToldInTheDialogAtOnce) {

@@ -207,6 +207,16 @@ void RowDialog::FillList(int control, const Entries& entries) {
   for (const ListEntry& entry : entries.Of(Model())) list.Add(TextOf(entry), entry.value);
 }
 
+void RowDialog::RefillLists(const ModelData& before) {
+  if (KeepsTemplate(table_, Model().ModelCode)) return;
+  for (const PageRow& row : table_.rows) {
+    const auto* list = std::get_if<ListRow>(&row);
+    if (list != nullptr && list->entries.Of(before) != list->entries.Of(Model())) {
+      FillList(list->control, list->entries);
+    }
+  }
+}
+
 void RowDialog::Prepare(const ListRow& row, Bound&) { FillList(row.control, row.entries); }
 
 void RowDialog::Prepare(const ActionRow& row, Bound&) {

@@ -51,6 +51,9 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
   /// From now until the next complete refresh no value shown is known to be true.
   void MarkUnread();
 
+  /// Fills the lists that have other entries for the model as it is now than they had `before`.
+  void RefillLists(const ModelData& before);
+
   /// What a person sees while the page waits for the projector: rows that are not read yet are
   /// dimmed, and the cursor tells to wait. Called again, it follows the reading.
   void ShowWaiting(bool waiting);

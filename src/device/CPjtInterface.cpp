@@ -93,6 +93,7 @@ PjtReply CPjtInterface::Execute(const PjtCommand& command) const {
   }
   ++traffic->sent.commands;
   traffic->sent.unanswered += !reply.answered;
+  traffic->sent.notOffered += reply.offered ? 0 : 1;
   traffic->sent.refused += reply.answered && reply.result == RefusedResult(command.operation);
   return reply;
 }

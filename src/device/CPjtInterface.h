@@ -149,6 +149,7 @@ class ADVANCED_CONTROL_EXPORT CPjtInterface {
   struct Tally {
     int commands = 0;
     int refused = 0;
+    int notOffered = 0;  ///< Refused because the projector has no such setting.
     int unanswered = 0;
   };
   Tally Sent() const;

@@ -261,6 +261,7 @@ inline constexpr int ConnectionLost = 4313;
 inline constexpr int NotUnderstood = 4314;
 inline constexpr int OtherVersion = 4315;
 inline constexpr int PasswordRequired = 4316;
+inline constexpr int NotOffered = 4317;
 }  // namespace ListText
 
 namespace ErrorText {

@@ -109,7 +109,7 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
 
  private:
   /// What there is to say about a row.
-  enum class Note : std::uint8_t { None, Refused, Unanswered, NoEntries, Range };
+  enum class Note : std::uint8_t { None, Refused, NotOffered, Unanswered, NoEntries, Range };
 
   /// What a dialog holds of one row.
   struct Bound {

@@ -104,6 +104,7 @@ RowDialog::Note RowDialog::NoteOf(std::size_t index, const CPjtInterface::Tally&
   if (list != nullptr && list->count() == 0) return Note::NoEntries;
   const CPjtInterface::Tally after = projector->Sent();
   if (after.unanswered > before.unanswered) return Note::Unanswered;
+  if (after.notOffered > before.notOffered) return Note::NotOffered;
   if (after.refused > before.refused || !control->isEnabledTo(this)) return Note::Refused;
   return value != nullptr ? Note::Range : Note::None;
 }
@@ -112,6 +113,8 @@ QString RowDialog::NoteText(const PageRow& row, const Bound& bound) const {
   switch (bound.note) {
     case Note::Refused:
       return ListString(ListText::ReadRefused);
+    case Note::NotOffered:
+      return ListString(ListText::NotOffered);
     case Note::Unanswered:
       return ListString(ListText::ReadUnanswered);
     case Note::NoEntries:

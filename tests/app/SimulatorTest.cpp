@@ -169,6 +169,10 @@ TEST_F(SimulatorTest, TheListTellsHowEveryConnectionStands) {
     return window.Dialog(row)->Page(PageId::Status).GetDlgItem(20009)->property("text").toString();
   };
   EXPECT_EQ(profiles[1].Model.MySourceList.Size(), 0);
+  window.Dialog(1)->findChild<QTabBar*>()->setCurrentIndex(1);
+  EXPECT_EQ(window.Dialog(1)->ShownPage()->GetDlgItem(20134)->toolTip(),
+            "The projector does not offer this setting over this connection.");
+  window.Dialog(1)->findChild<QTabBar*>()->setCurrentIndex(0);
   EXPECT_TRUE(QTest::qWaitFor([&] { return !input(1).isEmpty() && input(1) == input(0); }))
       << input(1).toStdString();
   window.Dialog(1)->close();

@@ -296,6 +296,27 @@ TEST(TcpChannelTest, AnnouncedReadsGoOutTogetherAndAreAnsweredInOrder) {
   }
 }
 
+TEST(TcpChannelTest, ABurstIsAnsweredInTurnHoweverLongItTakesAsAWhole) {
+  Peer peer([](QTcpSocket& socket, WireResponder& responder) {
+    if (!socket.waitForReadyRead(10)) return;
+    for (const char byte : socket.readAll().toStdString()) {
+      const std::string reply = responder.Receive({&byte, 1});
+      if (reply.empty()) continue;
+      std::this_thread::sleep_for(100ms);
+      Send(socket, reply);
+    }
+  });
+  TcpChannel channel("127.0.0.1", peer.Port(), kLimits);
+  std::vector<PjtCommand> reads;
+  for (int i = 0; i < 8; ++i) reads.push_back(Get(i));
+  channel.Announce(reads);
+  for (int i = 0; i < 8; ++i) {
+    const PjtReply reply = channel.Execute(reads[static_cast<std::size_t>(i)]);
+    EXPECT_TRUE(reply.answered) << i;
+    EXPECT_EQ(reply.value, i);
+  }
+}
+
 TEST(TcpChannelTest, AReplyOlderThanTheTimeForAnsweringIsAskedForAgain) {
   Bursts bursts;
   {

@@ -114,6 +114,7 @@ TEST_F(FlowTest, ClosingActsAtOnceInRefreshesAndChangesAndSendsNothingMore) {
         After(50ms, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
         Page().Click(kCustomGamma);
         EXPECT_TRUE(dialog_.isVisible()) << "only the pop-up was left";
+        EXPECT_EQ(Status(), QString());
         projector_->Pace(0ms);
         QTest::qWait(300);
         ASSERT_TRUE(hidden);

@@ -161,6 +161,7 @@ class ADVANCED_CONTROL_EXPORT CPjtInterface {
    public:
     OwnTraffic();
     OwnTraffic(const OwnTraffic&) : OwnTraffic() {}
+    // NOLINTNEXTLINE(bugprone-unhandled-self-assignment): there is nothing to assign
     OwnTraffic& operator=(const OwnTraffic&) { return *this; }
     ~OwnTraffic() = default;
     std::shared_ptr<Traffic> now;

@@ -42,16 +42,18 @@ QString ProfileDocument::Load(const QString& fileName) {
 }
 
 QString ProfileDocument::SaveAs(const QString& fileName) {
-  if (const QString error = Save(fileName, text_); !error.isEmpty()) return error;
+  if (QString error = Save(fileName, text_); !error.isEmpty()) return error;
   fileName_ = fileName;
   return {};
 }
 
 QJsonObject ProfileDocument::Family(const QString& name) const {
-  const QJsonObject own = file_["families"].toObject()[name].toObject();
+  QJsonObject own = file_["families"].toObject()[name].toObject();
   if (!own.contains("like")) return own;
   QJsonObject all = Family(own["like"].toString());
-  for (auto member = own.begin(); member != own.end(); ++member) all[member.key()] = *member;
+  for (auto member = own.constBegin(); member != own.constEnd(); ++member) {
+    all[member.key()] = *member;
+  }
   return all;
 }
 
@@ -95,7 +97,7 @@ QString ProfileDocument::Write(const QByteArray& text) {
                     "%1 was changed by another program. Reload it (F5), then do this again."))
         .arg(fileName_);
   }
-  if (const QString error = Save(fileName_, text); !error.isEmpty()) return error;
+  if (QString error = Save(fileName_, text); !error.isEmpty()) return error;
   text_ = text;
   file_ = QJsonDocument::fromJson(text_).object();
   projectors_ = std::move(contents.projectors);

@@ -170,7 +170,7 @@ QString ProfileEditor::ConnectionKind() const { return connection_->currentData(
 
 QJsonValue ProfileEditor::Connection() const {
   const QString kind = ConnectionKind();
-  const QJsonObject written = entry_["connection"].toObject();
+  QJsonObject written = entry_["connection"].toObject();
   if (kind.isEmpty()) return QJsonValue::Undefined;
   if (kind != kNetwork && kind != kSerial) return written;
   QJsonObject parameters = written[kind].toObject();

@@ -20,7 +20,7 @@ struct ProjectorSession::Inputs {
   void PassOn() {
     auto inputs = told->Take();
     if (!inputs) return;
-    known = std::move(inputs);
+    known = inputs;
     if (dialog == nullptr) return;
     QMetaObject::invokeMethod(
         dialog, [to = dialog.data(), sources = *known] { to->ReplaceSources(sources); },

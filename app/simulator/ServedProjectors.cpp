@@ -76,8 +76,12 @@ std::string ServedProjectors::Addresses() const {
   std::string lines;
   for (const Service& service : services_) {
     const std::string name = service.name + ": ";
-    lines += name + "tcp://" + address + ':' + std::to_string(service.wirePort) + '\n';
-    lines += name + "pjlink://" + address + ':' + std::to_string(service.pjLinkPort) + '\n';
+    const auto add = [&](const char* way, int port) {
+      lines.append(name).append(way).append(address).append(":").append(std::to_string(port)) +=
+          '\n';
+    };
+    add("tcp://", service.wirePort);
+    add("pjlink://", service.pjLinkPort);
     if (!service.terminal.empty()) lines += name + "serial://" + service.terminal + '\n';
   }
   return lines;
@@ -93,7 +97,7 @@ QJsonObject ServedProjectors::NetworkConnection(int port, const std::string& pas
 QByteArray ServedProjectors::Profiles(const QByteArray& original) const {
   QJsonObject file = QJsonDocument::fromJson(original).object();
   QJsonArray entries;
-  for (const QJsonValue& value : file["projectors"].toArray()) {
+  for (const auto& value : file["projectors"].toArray()) {
     QJsonObject entry = value.toObject();
     const QString name = entry["name"].toString();
     const auto service = std::ranges::find(services_, name.toStdString(), &Service::name);

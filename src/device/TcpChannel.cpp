@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr qint64 kReadAhead = 64 * 1024;
+constexpr qint64 kReadAhead = 64L * 1024;
 
 QList<QHostAddress> Addresses(const QString& host) {
   if (const QHostAddress address(host); !address.isNull()) return {address};

@@ -69,7 +69,7 @@ struct BodyWriter {
 
 // Of a frame whose check sum is right.
 Frame Parse(std::string_view bytes) {
-  const auto kind = static_cast<std::size_t>(bytes[2]);
+  const auto kind = static_cast<std::size_t>(static_cast<unsigned char>(bytes[2]));
   Taker header(bytes.substr(4));
   Taker body(bytes.substr(kHeader));
   Frame frame{.sequence = header.Take<std::uint16_t>(), .message = {}};

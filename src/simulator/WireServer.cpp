@@ -12,7 +12,7 @@
 namespace {
 
 constexpr qint64 kLargestPiece = 4096;
-constexpr qint64 kLargestBacklog = 256 * 1024;
+constexpr qint64 kLargestBacklog = 256L * 1024;
 constexpr auto kTimeForHello = std::chrono::seconds(10);
 
 /// One connection. Ends itself with its line.

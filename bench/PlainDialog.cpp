@@ -146,7 +146,14 @@ std::unique_ptr<QDialog> MakePlainDialog(const PlainBlueprint& blueprint, bool f
     }
   }
   layout->addWidget(tabs);
-  layout->addWidget(new QPushButton(blueprint.closeText), 0, Qt::AlignRight);
+  auto* bottom = new QHBoxLayout;
+  layout->addLayout(bottom);
+  bottom->addWidget(new QLabel);  // tells what goes on; the button beside it is not always there
+  auto* retry = new QPushButton;
+  retry->hide();
+  bottom->addWidget(retry);
+  bottom->addStretch(1);
+  bottom->addWidget(new QPushButton(blueprint.closeText));
   dialog->resize(blueprint.size);
   return dialog;
 }

@@ -148,10 +148,11 @@ std::unique_ptr<QDialog> MakePlainDialog(const PlainBlueprint& blueprint, bool f
   layout->addWidget(tabs);
   auto* bottom = new QHBoxLayout;
   layout->addLayout(bottom);
-  bottom->addWidget(new QLabel);  // tells what goes on; the button beside it is not always there
-  auto* retry = new QPushButton;
-  retry->hide();
-  bottom->addWidget(retry);
+  bottom->addWidget(new QLabel);  // tells what goes on; what stands beside it comes when it is needed
+  for (QWidget* widget : std::initializer_list<QWidget*>{new QPushButton, new QLineEdit}) {
+    bottom->addWidget(widget);
+    widget->hide();
+  }
   bottom->addStretch(1);
   bottom->addWidget(new QPushButton(blueprint.closeText));
   dialog->resize(blueprint.size);

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include <QString>
+
+#include "device/CModelInfo2.h"
+#include "device/Connect.h"
+#include "simulator/SettingsTable.h"
+
+/// How a projector of a profile file is reached.
+enum class ProjectorLink { Simulated, Network, Serial, PjLink };
+
+/// One projector of a profile file: what a host knows of it, and how its simulation is made.
+struct ProjectorProfile {
+  std::string Name;              ///< Unique in its file; UTF-8.
+  CModelInfo2 Model;             ///< With the connection as connection 0.
+  std::vector<SettingId> Lacks;  ///< Settings that the simulated model does not have.
+  ProjectorLink Link = ProjectorLink::Simulated;
+
+  bool operator==(const ProjectorProfile&) const = default;
+};
+
+/// Where the projector of a profile is; of a simulated one, an error that says so.
+ProjectorAddress AddressOf(const ProjectorProfile& profile);
+
+/// "192.0.2.30:4352" or "serial port 1", of connection 0.
+QString ConnectionText(const CModelInfo2& model);

@@ -22,7 +22,7 @@
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>
 
-#include "app/ProjectorAccess.h"
+#include "app/profiles/ProjectorAccess.h"
 #include "bench/Relay.h"
 #include "device/ModelDataIntake.h"
 #include "simulator/WireServer.h"

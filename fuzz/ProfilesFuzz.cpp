@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "app/ProfileFile.h"
+#include "app/profiles/ProfileFile.h"
 #include "fuzz/Check.h"
 #include "settings/Range.h"
 

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# A folder of src/ includes only what stands below it.
+# A folder of src/ includes only what stands below it; of the other programs, each knows only what they
+# share (app/profiles).
 set -euo pipefail
 cd "$(dirname "$0")/../src"
 
@@ -31,5 +32,14 @@ for folder in */; do
         ;;
     esac
   done < <(grep -rn --include='*.h' --include='*.cpp' --include='*.def' '^#include "[^"]*' "$folder")
+done
+cd ../app
+for folder in */; do
+  folder=${folder%/}
+  if grep -rnE --include='*.h' --include='*.cpp' '^#include "app/' "$folder" |
+    grep -vE "#include \"app/($folder|profiles)/"; then
+    echo "app/$folder includes another program's"
+    wrong=1
+  fi
 done
 exit $wrong

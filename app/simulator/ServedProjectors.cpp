@@ -5,7 +5,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
-#include "app/ProjectorAccess.h"
+#include "app/profiles/ProjectorAccess.h"
 #include "app/simulator/PseudoTerminal.h"
 #include "device/ModelDataIntake.h"
 #include "simulator/SimulatedProjector.h"

@@ -8,7 +8,7 @@
 #include <QHostAddress>
 #include <QJsonObject>
 
-#include "app/ProfileFile.h"
+#include "app/profiles/ProfileFile.h"
 #include "simulator/FaultChannel.h"
 #include "simulator/PjLinkServer.h"
 #include "simulator/WireServer.h"

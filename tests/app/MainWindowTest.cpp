@@ -12,10 +12,10 @@
 #include <QWheelEvent>
 #include <gtest/gtest.h>
 
-#include "app/CommandLog.h"
-#include "app/FaultPanel.h"
-#include "app/MainWindow.h"
-#include "app/ProjectorView.h"
+#include "app/host/CommandLog.h"
+#include "app/host/FaultPanel.h"
+#include "app/host/MainWindow.h"
+#include "app/host/ProjectorView.h"
 #include "host/CAdvanceDlg.h"
 #include "i18n/Catalog.h"
 #include "tests/support/Models.h"

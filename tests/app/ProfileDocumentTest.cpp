@@ -5,7 +5,7 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-#include "app/ProfileDocument.h"
+#include "app/host/ProfileDocument.h"
 #include "tests/support/Programs.h"
 
 namespace {

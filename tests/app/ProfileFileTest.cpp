@@ -8,7 +8,7 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-#include "app/ProfileFile.h"
+#include "app/profiles/ProfileFile.h"
 #include "tests/support/Models.h"
 
 namespace {

@@ -17,11 +17,11 @@
 #include <QTimer>
 #include <gtest/gtest.h>
 
-#include "app/MainWindow.h"
-#include "app/ProfileEditor.h"
-#include "app/ProjectorFilter.h"
-#include "app/ProjectorView.h"
-#include "app/Translations.h"
+#include "app/host/MainWindow.h"
+#include "app/host/ProfileEditor.h"
+#include "app/host/ProjectorFilter.h"
+#include "app/host/ProjectorView.h"
+#include "app/host/Translations.h"
 #include "host/CAdvanceDlg.h"
 #include "i18n/Catalog.h"
 #include "tests/support/Models.h"

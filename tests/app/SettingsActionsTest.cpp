@@ -7,9 +7,9 @@
 #include <QTreeView>
 #include <gtest/gtest.h>
 
-#include "app/ProjectorSession.h"
-#include "app/SettingsActions.h"
-#include "app/SettingsFile.h"
+#include "app/host/ProjectorSession.h"
+#include "app/host/SettingsActions.h"
+#include "app/profiles/SettingsFile.h"
 
 namespace {
 

@@ -10,10 +10,10 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
-#include "app/MainWindow.h"
-#include "app/ProfileFile.h"
-#include "app/ProjectorSession.h"
-#include "app/ProjectorView.h"
+#include "app/host/MainWindow.h"
+#include "app/host/ProjectorSession.h"
+#include "app/host/ProjectorView.h"
+#include "app/profiles/ProfileFile.h"
 #include "device/BoundedChannel.h"
 #include "device/CPjtInterface.h"
 #include "device/Connect.h"

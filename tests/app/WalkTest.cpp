@@ -18,8 +18,8 @@
 #include <QTimer>
 #include <gtest/gtest.h>
 
-#include "app/FaultPanel.h"
-#include "app/MainWindow.h"
+#include "app/host/FaultPanel.h"
+#include "app/host/MainWindow.h"
 #include "host/CAdvanceDlg.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/ShownValues.h"

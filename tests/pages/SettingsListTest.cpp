@@ -7,7 +7,7 @@
 #include <QCheckBox>
 #include <gtest/gtest.h>
 
-#include "app/ProjectorAccess.h"
+#include "app/profiles/ProjectorAccess.h"
 #include "device/ModelDataIntake.h"
 #include "i18n/SystemLanguage.h"
 #include "settings/PageTables.h"

@@ -11,7 +11,7 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
-#include "app/ProfileFile.h"
+#include "app/profiles/ProfileFile.h"
 #include "i18n/Catalog.h"
 #include "tests/support/DialogDriver.h"
 #include "toolkit/WindowText.h"

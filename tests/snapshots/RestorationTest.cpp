@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "app/ProjectorAccess.h"
+#include "app/profiles/ProjectorAccess.h"
 #include "i18n/SystemLanguage.h"
 #include "snapshots/Restoration.h"
 

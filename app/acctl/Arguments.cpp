@@ -1,0 +1,214 @@
+#include "app/acctl/Arguments.h"
+
+#include <algorithm>
+#include <charconv>
+#include <functional>
+#include <limits>
+#include <string_view>
+
+#include "i18n/SystemLanguage.h"
+
+namespace {
+
+using Command = Arguments::Command;
+
+constexpr int kMany = std::numeric_limits<int>::max();
+
+struct CommandForm {
+  Command command;
+  std::string_view name;
+  std::string_view usage;
+  std::string_view help;
+  int least;  ///< Words behind the command.
+  int most;
+};
+
+constexpr CommandForm kCommands[] = {
+    {Command::List, "list", "", "the projectors", 0, 0},
+    {Command::Settings, "settings", "P [KEY...]", "what settings there are and what they take", 1,
+     kMany},
+    {Command::Get, "get", "P [KEY...]", "present values; all without a key", 1, kMany},
+    {Command::Set, "set", "P KEY VALUE...", "change settings", 3, kMany},
+    {Command::Reset, "reset", "P KEY...", "put settings back to the projector's standard", 2,
+     kMany},
+    {Command::Status, "status", "P", "power, input, errors, hours", 1, 1},
+    {Command::Save, "save", "P FILE", "save all settings to a file", 2, 2},
+    {Command::Diff, "diff", "P FILE", "what differs from a file", 2, 2},
+    {Command::Apply, "apply", "FILE P...", "put the settings of a file back", 2, kMany},
+    {Command::Watch, "watch", "P KEY...", "print values and every change until Ctrl+C", 2, kMany},
+};
+
+struct OptionForm {
+  std::string_view name;
+  std::string_view value;  ///< What it takes; empty for a switch.
+  std::string_view help;
+  std::function<bool(Arguments&, const std::string&)> take;
+};
+
+template <class Number>
+bool TakeNumber(const std::string& text, Number least, Number most, Number& number) {
+  Number taken{};
+  const auto [stop, error] = std::from_chars(text.data(), text.data() + text.size(), taken);
+  if (error != std::errc() || stop != text.data() + text.size()) return false;
+  number = taken;
+  return taken >= least && taken <= most;
+}
+
+bool TakeSeconds(const std::string& text, std::chrono::milliseconds& time) {
+  double seconds = 0;
+  if (!TakeNumber(text, 0.01, 3600.0, seconds)) return false;
+  time = std::chrono::milliseconds(static_cast<std::int64_t>(seconds * 1000));
+  return true;
+}
+
+bool TakeText(const std::string& text, std::string& taken) {
+  taken = text;
+  return !text.empty();
+}
+
+bool TakeLanguage(const std::string& text, std::optional<std::uint32_t>& language) {
+  std::uint32_t number = 0;
+  if (!TakeNumber(text, kEnglishUnitedStates, kChineseSimplified, number)) return false;
+  language = number;
+  return number == kEnglishUnitedStates || number == kChineseSimplified;
+}
+
+const std::vector<OptionForm>& Options() {
+  using A = Arguments;
+  using Text = const std::string&;
+  static const std::vector<OptionForm> options{
+      {"profiles", "FILE", "read the projectors from FILE",
+       [](A& a, Text text) { return TakeText(text, a.profiles); }},
+      {"connect", "ADDRESS", "P tells only the model; the projector is at ADDRESS",
+       [](A& a, Text text) { return TakeText(text, a.address); }},
+      {"password", "TEXT", "what the projector at ADDRESS asks for",
+       [](A& a, Text text) { return TakeText(text, a.password); }},
+      {"json", "", "print JSON (docs/acctl.md)", [](A& a, Text) { return a.json = true; }},
+      {"brief", "", "list, settings: names or keys alone, one a line",
+       [](A& a, Text) { return a.brief = true; }},
+      {"only", "GLOB", "save, diff, apply: only keys like GLOB; may stand more than once",
+       [](A& a, Text text) { return !a.only.emplace_back(text).empty(); }},
+      {"dry-run", "", "apply: tell what would be changed, and change nothing",
+       [](A& a, Text) { return a.dryRun = true; }},
+      {"undo", "FOLDER", "apply: where the present values are saved first; beside FILE without",
+       [](A& a, Text text) { return TakeText(text, a.undoFolder); }},
+      {"jobs", "N", "projectors at once, 1 to 256; 16 without",
+       [](A& a, Text text) { return TakeNumber(text, 1, 256, a.jobs); }},
+      {"timeout", "SECONDS", "for one answer; 2 without",
+       [](A& a, Text text) { return TakeSeconds(text, a.timeOut); }},
+      {"interval", "SECONDS", "watch: between two readings; 1 without",
+       [](A& a, Text text) { return TakeSeconds(text, a.interval); }},
+      {"language", "ID", "texts in the language ID: 1033 English, 2052 Chinese",
+       [](A& a, Text text) { return TakeLanguage(text, a.language); }},
+      {"help", "", "this text", [](A&, Text) { return true; }},
+      {"version", "", "the version", [](A&, Text) { return true; }},
+  };
+  return options;
+}
+
+Arguments Wrong(std::string error) {
+  Arguments arguments;
+  arguments.error = std::move(error);
+  return arguments;
+}
+
+// Takes the options out of the words: "--name", "--name value", "--name=value". What follows "--"
+// is none, and a single minus begins a value.
+std::string TakeOptions(const std::vector<std::string>& words, Arguments& arguments,
+                        std::vector<std::string>& rest) {
+  for (auto word = words.begin(); word != words.end(); ++word) {
+    if (*word == "--") {
+      rest.insert(rest.end(), word + 1, words.end());
+      break;
+    }
+    std::string name = *word == "-h" ? "--help" : *word;
+    if (!name.starts_with("--")) {
+      rest.push_back(*word);
+      continue;
+    }
+    name.erase(0, 2);
+    const auto equals = name.find('=');
+    std::optional<std::string> value;
+    if (equals != std::string::npos) {
+      value = name.substr(equals + 1);
+      name.resize(equals);
+    }
+    const auto option = std::ranges::find(Options(), name, &OptionForm::name);
+    if (option == Options().end()) return "there is no option --" + name;
+    if (option->value.empty() && value) return "--" + name + " takes no value";
+    if (!option->value.empty() && !value) {
+      if (word + 1 == words.end()) return "--" + name + " needs " + std::string(option->value);
+      value = *++word;
+    }
+    if (!option->take(arguments, value.value_or(std::string()))) {
+      return "--" + name + ": '" + *value + "' is not possible";
+    }
+    if (name == "help" || name == "version") {
+      arguments.command = name == "help" ? Command::Help : Command::Version;
+      rest.clear();
+      return {};
+    }
+  }
+  return rest.empty() ? "a command is missing; --help tells them" : std::string();
+}
+
+void Distribute(std::vector<std::string> words, Arguments& arguments) {
+  if (arguments.command == Command::Apply) {
+    arguments.file = std::move(words.front());
+    arguments.projectors.assign(words.begin() + 1, words.end());
+    return;
+  }
+  if (words.empty()) return;
+  arguments.projectors = {std::move(words.front())};
+  words.erase(words.begin());
+  if (arguments.command == Command::Save || arguments.command == Command::Diff) {
+    arguments.file = std::move(words.front());
+  } else {
+    arguments.words = std::move(words);
+  }
+}
+
+}  // namespace
+
+Arguments ParseArguments(const std::vector<std::string>& words) {
+  Arguments arguments;
+  std::vector<std::string> rest;
+  if (std::string error = TakeOptions(words, arguments, rest); !error.empty()) return Wrong(error);
+  if (rest.empty()) return arguments;
+  const auto form = std::ranges::find(kCommands, rest.front(), &CommandForm::name);
+  if (form == std::end(kCommands)) {
+    return Wrong("there is no command '" + rest.front() + "'; --help tells them");
+  }
+  rest.erase(rest.begin());
+  const int count = static_cast<int>(std::min<std::size_t>(rest.size(), 1'000'000));
+  const bool paired = form->command != Command::Set || count % 2 == 1;
+  if (count < form->least || count > form->most || !paired) {
+    return Wrong("use: acctl " + std::string(form->name) + ' ' + std::string(form->usage));
+  }
+  arguments.command = form->command;
+  Distribute(std::move(rest), arguments);
+  return arguments;
+}
+
+std::string HelpText() {
+  const auto line = [](std::string left, std::string_view right) {
+    constexpr std::size_t kColumn = 26;
+    left.resize(std::max(left.size() + 1, kColumn), ' ');
+    return left.append(right) + '\n';
+  };
+  std::string text = "Use: acctl [options] command ...\n\nCommands\n";
+  for (const CommandForm& form : kCommands) {
+    text += line("  " + std::string(form.name) + ' ' + std::string(form.usage), form.help);
+  }
+  text += "\nOptions\n";
+  for (const OptionForm& option : Options()) {
+    text += line("  --" + std::string(option.name) + ' ' + std::string(option.value), option.help);
+  }
+  return text +
+         "\nP is a projector of the profile file or a pattern like 'Lecture*'; KEY may be a "
+         "pattern\n"
+         "too, except for set. VALUE is a number as the dialog shows it, an entry's text, +3 or "
+         "-3\n"
+         "from the present value, or =-3 for a number below zero.\n\n"
+         "Exit codes: 0 done, 1 something was refused, 2 wrong use, 3 no answer.\n";
+}

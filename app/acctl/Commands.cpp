@@ -1,0 +1,299 @@
+#include "app/acctl/Commands.h"
+
+#include <fnmatch.h>
+#include <map>
+#include <thread>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include "app/acctl/Output.h"
+#include "settings/CatalogNumbers.h"
+
+namespace {
+
+using Kind = ModelSetting::Kind;
+
+const char* NameOf(Kind kind) {
+  switch (kind) {
+    case Kind::Number:
+      return "number";
+    case Kind::Choice:
+      return "choice";
+    case Kind::State:
+      return "state";
+    default:
+      return "action";
+  }
+}
+
+/// The settings that the words name, in the model's order; a word that names none is complained of.
+std::vector<const ModelSetting*> Chosen(const ModelSettings& settings,
+                                        const std::vector<std::string>& words, Report& report) {
+  std::vector<const ModelSetting*> chosen;
+  for (const ModelSetting& setting : settings.All()) {
+    if (IsLike(setting.key, words)) chosen.push_back(&setting);
+  }
+  for (const std::string& word : words) {
+    const bool names = std::ranges::any_of(
+        chosen, [&word](const ModelSetting* setting) { return IsLike(setting->key, {word}); });
+    if (!names) report.Complain(word + ": this model has no such setting", ExitCode::WrongUse);
+  }
+  return chosen;
+}
+
+/// Complains that a setting cannot be used now, by what the projector said to it.
+void ComplainOf(const ModelSetting& setting, const ProjectorAccess& projector, const char* refusal,
+                Report& report) {
+  const bool answered = projector.Channel().HasAnswered();
+  report.Complain(std::string(setting.key) + ": " + (answered ? refusal : "no answer"),
+                  answered ? ExitCode::Refused : ExitCode::NoAnswer);
+}
+
+std::vector<std::string> Cells(const SettingTexts& texts, const ModelSetting& setting, int value) {
+  return {std::string(setting.key), texts.Caption(setting), texts.Value(setting, value)};
+}
+
+/// Reads settings into the report; after the first that is not answered no other is asked.
+void ReadInto(const Work& work, ProjectorAccess& projector,
+              const std::vector<const ModelSetting*>& settings, Report& report) {
+  const Progress progress = ProgressOf(work, projector);
+  Table table;
+  QJsonArray values;
+  projector.Settings().Announce(projector.Connection(), settings);
+  for (const ModelSetting* setting : settings) {
+    if (!progress.goesOn()) break;
+    if (const auto value = projector.Settings().Read(projector.Connection(), *setting)) {
+      table.Add(Cells(work.texts, *setting, *value));
+      values.append(ValueOf(work.texts, *setting, *value));
+    } else {
+      ComplainOf(*setting, projector, "cannot be read now", report);
+    }
+    progress.step();
+  }
+  report.text = table.Text();
+  report.json["settings"] = values;
+}
+
+struct Change {
+  const ModelSetting* setting;
+  TypedValue typed;
+  std::string word;
+};
+
+/// The changes that the words ask for; anything wrong is complained of.
+std::vector<Change> ChangesOf(const Work& work, const ModelSettings& settings, Report& report) {
+  std::vector<Change> changes;
+  const auto& words = work.arguments.words;
+  for (std::size_t i = 0; i + 1 < words.size(); i += 2) {
+    const std::string& key = words[i];
+    const std::string& word = words[i + 1];
+    const ModelSetting* const setting = settings.Find(key);
+    if (setting == nullptr) {
+      report.Complain(key + ": this model has no such setting", ExitCode::WrongUse);
+    } else if (!setting->changeable) {
+      report.Complain(key + ": this cannot be set", ExitCode::WrongUse);
+    } else if (const auto typed = work.texts.Parse(*setting, word);
+               !typed || (!typed->relative && !setting->Allows(typed->amount))) {
+      report.Complain(std::string(key)
+                          .append(": '")
+                          .append(word)
+                          .append("' is not one of: ")
+                          .append(work.texts.Values(*setting)),
+                      ExitCode::WrongUse);
+    } else {
+      changes.push_back({setting, *typed, word});
+    }
+  }
+  return changes;
+}
+
+void Make(const Change& change, const Work& work, ProjectorAccess& projector, Report& report) {
+  const ModelSetting& setting = *change.setting;
+  const ModelSettings& settings = projector.Settings();
+  std::optional<int> present;
+  if (change.typed.relative) {
+    present = settings.Read(projector.Connection(), setting);
+    if (!present) return ComplainOf(setting, projector, "cannot be read now", report);
+  }
+  const auto value = Resolve(setting, change.typed, present);
+  if (!value) {
+    report.Complain(std::string(setting.key) + ": '" + change.word + "' from " +
+                        work.texts.Value(setting, *present) +
+                        " is not one of: " + work.texts.Values(setting),
+                    ExitCode::WrongUse);
+    return;
+  }
+  const bool accepted = settings.Change(
+      projector.Connection(), setting, *value,
+      {.text = work.texts.Value(setting, *value), .goesOn = ProgressOf(work, projector).goesOn});
+  const bool answered = projector.Channel().HasAnswered();
+  if (!accepted || !answered) return ComplainOf(setting, projector, "refused", report);
+  // A setter without a result says nothing; what is read afterwards does.
+  const auto now = settings.Read(projector.Connection(), setting);
+  // A projector that is cooling down does what it was told.
+  const bool isSo = setting.kind == Kind::State ? (now == 1) == (*value == 1) : now == *value;
+  if (now && !isSo) {
+    report.Complain(
+        std::string(setting.key) + ": refused, it is " + work.texts.Value(setting, *now),
+        ExitCode::Refused);
+  }
+}
+
+std::vector<const ModelSetting*> States(const ModelSettings& settings) {
+  std::vector<const ModelSetting*> states;
+  for (const ModelSetting& setting : settings.All()) {
+    if (setting.tab == Caption::TabStatus) states.push_back(&setting);
+  }
+  return states;
+}
+
+QJsonObject Describe(const SettingTexts& texts, const ModelSetting& setting) {
+  QJsonObject json{{"key", Wide(setting.key)},
+                   {"caption", Wide(texts.Caption(setting))},
+                   {"tab", Wide(texts.Tab(setting))},
+                   {"kind", NameOf(setting.kind)},
+                   {"readable", setting.readable},
+                   {"changeable", setting.changeable},
+                   {"restorable", setting.Restorable()},
+                   {"perSource", setting.IsPerSource()},
+                   {"resettable", setting.reset.has_value()}};
+  if (setting.range) {
+    json["minimum"] = setting.range->minimum - setting.bias;
+    json["maximum"] = setting.range->maximum - setting.bias;
+  }
+  if (setting.kind == Kind::Choice) {
+    QJsonArray entries;
+    for (const ListEntry& entry : setting.entries) {
+      entries.append(QJsonObject{{"value", entry.value}, {"text", Wide(texts.Entry(entry))}});
+    }
+    json["entries"] = entries;
+  }
+  return json;
+}
+
+void WaitInSteps(std::chrono::milliseconds time, const Progress& progress) {
+  constexpr std::chrono::milliseconds kStep{20};
+  const auto end = std::chrono::steady_clock::now() + time;
+  while (progress.goesOn() && std::chrono::steady_clock::now() < end) {
+    std::this_thread::sleep_for(kStep);
+  }
+}
+
+}  // namespace
+
+bool IsLike(std::string_view name, const std::vector<std::string>& patterns) {
+  const std::string text(name);
+  return patterns.empty() || std::ranges::any_of(patterns, [&text](const std::string& pattern) {
+           return text == pattern || fnmatch(pattern.c_str(), text.c_str(), 0) == 0;
+         });
+}
+
+Progress ProgressOf(const Work& work, const ProjectorAccess& projector) {
+  return {.goesOn = [&work,
+                     &projector] { return !work.isInterrupted() && !projector.Channel().IsGone(); },
+          .step = work.step};
+}
+
+QJsonObject ValueOf(const SettingTexts& texts, const ModelSetting& setting, int value) {
+  return {{"key", Wide(setting.key)},
+          {"caption", Wide(texts.Caption(setting))},
+          {"value", value},
+          {"shown", value - setting.bias},
+          {"text", Wide(texts.Value(setting, value))}};
+}
+
+Report RunSettings(const Work& work, ProjectorAccess& projector) {
+  Report report;
+  Table table;
+  QJsonArray described;
+  for (const ModelSetting* setting : Chosen(projector.Settings(), work.arguments.words, report)) {
+    described.append(Describe(work.texts, *setting));
+    if (work.arguments.brief) {
+      table.Add({std::string(setting->key)});
+    } else {
+      const bool taken = setting->changeable;
+      table.Add({std::string(setting->key), work.texts.Tab(*setting), work.texts.Caption(*setting),
+                 taken ? work.texts.Values(*setting) : std::string(NameOf(setting->kind))});
+    }
+  }
+  report.text = table.Text();
+  report.json["settings"] = described;
+  return report;
+}
+
+Report RunGet(const Work& work, ProjectorAccess& projector) {
+  Report report;
+  auto chosen = Chosen(projector.Settings(), work.arguments.words, report);
+  std::erase_if(chosen, [](const ModelSetting* setting) { return !setting->readable; });
+  ReadInto(work, projector, chosen, report);
+  return report;
+}
+
+Report RunSet(const Work& work, ProjectorAccess& projector) {
+  Report report;
+  const std::vector<Change> changes = ChangesOf(work, projector.Settings(), report);
+  if (report.code != ExitCode::Done) return report;  // nothing is sent unless all of it can be
+  const Progress progress = ProgressOf(work, projector);
+  std::vector<const ModelSetting*> settings;
+  for (const Change& change : changes) {
+    if (!progress.goesOn()) break;
+    Make(change, work, projector, report);
+    if (change.setting->readable) settings.push_back(change.setting);
+    progress.step();
+  }
+  ReadInto(work, projector, settings, report);
+  return report;
+}
+
+Report RunReset(const Work& work, ProjectorAccess& projector) {
+  Report report;
+  const auto chosen = Chosen(projector.Settings(), work.arguments.words, report);
+  for (const ModelSetting* setting : chosen) {
+    if (!setting->reset) {
+      report.Complain(std::string(setting->key) + ": this cannot be reset", ExitCode::WrongUse);
+    }
+  }
+  if (report.code != ExitCode::Done) return report;
+  const Progress progress = ProgressOf(work, projector);
+  for (const ModelSetting* setting : chosen) {
+    if (!progress.goesOn()) break;
+    if (!Perform(projector.Connection(), *setting->reset).accepted) {
+      ComplainOf(*setting, projector, "refused", report);
+    }
+  }
+  ReadInto(work, projector, chosen, report);
+  return report;
+}
+
+Report RunStatus(const Work& work, ProjectorAccess& projector) {
+  Report report;
+  ReadInto(work, projector, States(projector.Settings()), report);
+  return report;
+}
+
+Report RunWatch(const Work& work, ProjectorAccess& projector) {
+  Report report;
+  const auto chosen = Chosen(projector.Settings(), work.arguments.words, report);
+  const Progress progress = ProgressOf(work, projector);
+  std::map<const ModelSetting*, std::optional<int>> last;
+  while (report.code == ExitCode::Done && progress.goesOn()) {
+    for (const ModelSetting* setting : chosen) {
+      if (!setting->readable || !progress.goesOn()) continue;
+      const auto value = projector.Settings().Read(projector.Connection(), *setting);
+      if (!projector.Channel().HasAnswered()) ComplainOf(*setting, projector, "", report);
+      const auto [known, isNew] = last.try_emplace(setting, value);
+      if (!value || (!isNew && known->second == value)) continue;
+      known->second = value;
+      Table line;
+      line.Add(Cells(work.texts, *setting, *value));
+      const QJsonDocument json(ValueOf(work.texts, *setting, *value));
+      const std::string text = work.arguments.json
+                                   ? json.toJson(QJsonDocument::Compact).toStdString() + '\n'
+                                   : line.Text();
+      if (!Print(text)) return report;
+    }
+    WaitInSteps(work.arguments.interval, progress);
+  }
+  return report;
+}

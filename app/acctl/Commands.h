@@ -1,0 +1,40 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string_view>
+
+#include "app/acctl/Arguments.h"
+#include "app/acctl/Report.h"
+#include "app/profiles/ProjectorAccess.h"
+#include "snapshots/Snapshot.h"
+
+/// What all projectors of a command share.
+struct Work {
+  const Arguments& arguments;
+  const SettingTexts& texts;
+  std::optional<Snapshot> file;  ///< Of `Diff` and `Apply`.
+  std::function<bool()> isInterrupted;
+  std::function<void()> step;  ///< Called after each setting, from any thread.
+};
+
+/// Whether a name is one of the patterns, or there is none.
+bool IsLike(std::string_view name, const std::vector<std::string>& patterns);
+
+/// Goes on until the work is interrupted or the projector is gone.
+Progress ProgressOf(const Work& work, const ProjectorAccess& projector);
+
+/// A setting with its value, for scripts.
+QJsonObject ValueOf(const SettingTexts& texts, const ModelSetting& setting, int value);
+
+/// Does what the command says with one projector. `Watch` prints by itself, until it is
+/// interrupted.
+Report RunSettings(const Work& work, ProjectorAccess& projector);
+Report RunGet(const Work& work, ProjectorAccess& projector);
+Report RunSet(const Work& work, ProjectorAccess& projector);
+Report RunReset(const Work& work, ProjectorAccess& projector);
+Report RunStatus(const Work& work, ProjectorAccess& projector);
+Report RunWatch(const Work& work, ProjectorAccess& projector);
+Report RunSave(const Work& work, ProjectorAccess& projector);
+Report RunDiff(const Work& work, ProjectorAccess& projector);
+Report RunApply(const Work& work, ProjectorAccess& projector);

@@ -1,0 +1,195 @@
+// The commands that keep settings in files and put them back.
+
+#include <array>
+
+#include <QJsonArray>
+
+#include "app/acctl/Commands.h"
+#include "app/acctl/Output.h"
+#include "app/profiles/SettingsFile.h"
+#include "app/profiles/WholeFile.h"
+#include "snapshots/Restoration.h"
+
+namespace {
+
+struct OutcomeList {
+  Outcome outcome;
+  const char* member;     ///< Of the JSON.
+  const char* text;       ///< Of the summary, behind their number; none where the list is quiet.
+  const char* complaint;  ///< In front of the keys; none where each has its own or none is due.
+  int code;
+};
+
+constexpr std::array<OutcomeList, 9> kLists{{
+    {Outcome::Changed, "changed", "changed", nullptr, ExitCode::Done},
+    {Outcome::Differs, "different", "different", nullptr, ExitCode::Done},
+    {Outcome::AlreadySo, "alreadySo", "already so", nullptr, ExitCode::Done},
+    {Outcome::Refused, "refused", "refused", nullptr, ExitCode::Refused},
+    {Outcome::Unconfirmed, "unconfirmed", "unconfirmed", "sent, but not confirmed",
+     ExitCode::NoAnswer},
+    {Outcome::NotReached, "notDone", "not done", nullptr, ExitCode::Done},
+    {Outcome::Unknown, "skipped", nullptr, "skipped, this model does not have it", ExitCode::Done},
+    {Outcome::NotSettable, "skipped", nullptr, "skipped, it is not one to put back",
+     ExitCode::Done},
+    {Outcome::NotAllowed, "skipped", nullptr, "skipped, this model does not take it",
+     ExitCode::Done},
+}};
+
+const OutcomeList& ListOf(Outcome outcome) {
+  return *std::ranges::find(kLists, outcome, &OutcomeList::outcome);
+}
+
+/// "12 changed, 28 already so, 1 refused"; what there is none of is left out.
+std::string Summary(const Restoration& restoration) {
+  std::string text;
+  int skipped = 0;
+  const auto add = [&text](int count, const char* what) {
+    if (count > 0) text += (text.empty() ? "" : ", ") + std::to_string(count) + ' ' + what;
+  };
+  for (const OutcomeList& list : kLists) {
+    const int count = restoration.Count(list.outcome);
+    if (list.text == nullptr) {
+      skipped += count;
+    } else {
+      add(count, list.text);
+    }
+  }
+  add(skipped, "skipped");
+  return text.empty() ? "nothing to do" : text;
+}
+
+QJsonObject Describe(const SettingTexts& texts, const RestoredSetting& restored) {
+  QJsonObject json{{"key", Wide(restored.saved.key)}, {"saved", restored.saved.value}};
+  if (restored.saved.source) json["source"] = *restored.saved.source;
+  if (restored.setting != nullptr) {
+    json["caption"] = Wide(texts.Caption(*restored.setting));
+    json["savedText"] = Wide(texts.Value(*restored.setting, restored.saved.value));
+  }
+  if (restored.before) {
+    json["before"] = *restored.before;
+    json["beforeText"] = Wide(texts.Value(*restored.setting, *restored.before));
+  }
+  if (restored.now) json["now"] = *restored.now;
+  return json;
+}
+
+/// All lists for scripts, and what needs a person's eye: each refusal, and the rest by its reason.
+void Tell(const Work& work, const Restoration& restoration, Report& report) {
+  std::map<QString, QJsonArray> lists;
+  std::array<std::string, kLists.size()> keys;
+  for (const OutcomeList& list : kLists) lists[list.member];
+  for (const RestoredSetting& restored : restoration.Settings()) {
+    const OutcomeList& list = ListOf(restored.outcome);
+    QJsonObject json = Describe(work.texts, restored);
+    if (restored.outcome == Outcome::Refused) {
+      const std::string reason =
+          restored.now ? "refused, it is " + work.texts.Value(*restored.setting, *restored.now)
+                       : "it cannot be read now";
+      json["reason"] = Wide(reason);
+      report.Complain(restored.saved.key + ": " + reason, ExitCode::Refused);
+    } else if (list.complaint != nullptr) {
+      json["reason"] = list.complaint;
+      std::string& same = keys[static_cast<std::size_t>(&list - kLists.data())];
+      same += (same.empty() ? "" : ", ") + restored.saved.key;
+    }
+    lists[list.member].append(json);
+  }
+  for (std::size_t i = 0; i < kLists.size(); ++i) {
+    if (!keys[i].empty()) {
+      report.Complain(std::string(kLists[i].complaint) + ": " + keys[i], kLists[i].code);
+    }
+  }
+  for (const auto& [member, list] : lists) report.json[member] = list;
+}
+
+/// What differs, or differed, line by line.
+std::string Differences(const Work& work, const Restoration& restoration) {
+  Table table;
+  for (const RestoredSetting& restored : restoration.Settings()) {
+    const bool told = restored.outcome == Outcome::Differs || restored.outcome == Outcome::Changed;
+    if (!told) continue;
+    const ModelSetting& setting = *restored.setting;
+    table.Add({restored.saved.key, work.texts.Caption(setting),
+               work.texts.Value(setting, *restored.before), "->",
+               work.texts.Value(setting, restored.saved.value)});
+  }
+  return table.Text();
+}
+
+Restoration Restoring(const Work& work, ProjectorAccess& projector) {
+  return {*work.file, projector.Settings(), projector.Connection(),
+          [&work](std::string_view key) { return IsLike(key, work.arguments.only); }};
+}
+
+void ComplainIfGone(const ProjectorAccess& projector, Report& report) {
+  if (projector.Channel().IsGone()) report.Complain("no answer", ExitCode::NoAnswer);
+}
+
+}  // namespace
+
+Report RunSave(const Work& work, ProjectorAccess& projector) {
+  Report report;
+  std::vector<std::string> unread;
+  const Progress progress = ProgressOf(work, projector);
+  Snapshot snapshot = TakeSnapshot(projector.Name(), projector.Settings(), projector.Connection(),
+                                   work.texts, progress, &unread);
+  // Half a snapshot would look like a whole one.
+  if (!progress.goesOn()) {
+    ComplainIfGone(projector, report);
+    return report;
+  }
+  std::erase_if(snapshot.settings, [&work](const SavedSetting& setting) {
+    return !IsLike(setting.key, work.arguments.only);
+  });
+  for (const std::string& key : unread) {
+    if (IsLike(key, work.arguments.only)) {
+      report.Complain(key + ": cannot be read now, and is left out", ExitCode::Refused);
+    }
+  }
+  const QByteArray bytes = WriteSnapshot(snapshot);
+  if (work.arguments.file == "-") {
+    report.text = bytes.toStdString();
+    return report;
+  }
+  if (const QString error = WriteWholeFile(Wide(work.arguments.file), bytes); !error.isEmpty()) {
+    report.Complain(error.toStdString(), ExitCode::Refused);
+    return report;
+  }
+  const auto count = static_cast<int>(snapshot.settings.size());
+  report.text = std::to_string(count) + " settings saved in " + work.arguments.file + '\n';
+  report.json = {{"file", Wide(work.arguments.file)}, {"saved", count}};
+  return report;
+}
+
+Report RunDiff(const Work& work, ProjectorAccess& projector) {
+  Report report;
+  Restoration restoration = Restoring(work, projector);
+  restoration.Read(ProgressOf(work, projector));
+  ComplainIfGone(projector, report);
+  Tell(work, restoration, report);
+  report.text = Differences(work, restoration) + Summary(restoration) + '\n';
+  return report;
+}
+
+Report RunApply(const Work& work, ProjectorAccess& projector) {
+  if (work.arguments.dryRun) return RunDiff(work, projector);
+  Report report;
+  const Progress progress = ProgressOf(work, projector);
+  Restoration restoration = Restoring(work, projector);
+  restoration.Read(progress);
+  if (progress.goesOn() && restoration.Count(Outcome::Differs) > 0) {
+    const QString undo =
+        UndoPath(Wide(work.arguments.file), Wide(work.arguments.undoFolder), projector.Name());
+    const QByteArray bytes = WriteSnapshot(restoration.Undo(projector.Name(), work.texts));
+    if (const QString error = WriteWholeFile(undo, bytes); !error.isEmpty()) {
+      report.Complain(error.toStdString() + "; nothing was sent", ExitCode::Refused);
+    } else {
+      report.json["undo"] = undo;
+      restoration.Send(work.texts, progress);
+    }
+  }
+  ComplainIfGone(projector, report);
+  Tell(work, restoration, report);
+  report.text = Summary(restoration) + '\n';
+  return report;
+}

@@ -1,0 +1,161 @@
+#include "app/host/CommandLog.h"
+
+#include <algorithm>
+#include <array>
+#include <numeric>
+#include <utility>
+
+#include <QAction>
+#include <QClipboard>
+#include <QFileDialog>
+#include <QFontDatabase>
+#include <QFontMetrics>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMessageBox>
+#include <QSaveFile>
+#include <QScrollBar>
+#include <QTableView>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include "app/host/Mnemonic.h"
+
+namespace {
+
+constexpr auto kGatherTime = std::chrono::milliseconds(40);
+
+// Widest usual text of each column.
+constexpr std::array<const char*, CommandLogModel::ColumnCount> kWidthSamples{
+    "00:00:00.000", "Projector 5-30 b", "Get Color Temperature 0x2201",
+    "0xFFFF",       "no answer",        "2000.0"};
+
+QToolButton* ButtonOf(QAction* action) {
+  action->setIconText(WithoutMnemonic(action->text()));
+  auto* button = new QToolButton;
+  button->setDefaultAction(action);
+  button->setFocusPolicy(Qt::StrongFocus);
+  return button;
+}
+
+}  // namespace
+
+CommandLog::CommandLog(QWidget* parent)
+    : QWidget(parent),
+      model_(new CommandLogModel(this)),
+      shown_(new CommandLogFilter(this)),
+      view_(new QTableView),
+      changesOnly_(new QAction(tr("Changes &Only"), this)),
+      saveAs_(new QAction(tr("Save &Log As…"), this)),
+      clear_(new QAction(tr("C&lear Log"), this)) {
+  shown_->setSourceModel(model_);
+  view_->setModel(shown_);
+  view_->setAccessibleName(tr("Command log"));
+  view_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  view_->setSelectionBehavior(QTableView::SelectRows);
+  view_->setTabKeyNavigation(false);
+  view_->setShowGrid(false);
+  view_->setWordWrap(false);
+  MakeColumns();
+
+  changesOnly_->setCheckable(true);
+  changesOnly_->setToolTip(tr("Leave out the commands that only read"));
+  auto* copy = new QAction(tr("&Copy"), this);
+  copy->setShortcut(QKeySequence::Copy);
+  copy->setShortcutContext(Qt::WidgetShortcut);
+  view_->addAction(copy);
+  view_->addActions({changesOnly_, saveAs_, clear_});
+  view_->setContextMenuPolicy(Qt::ActionsContextMenu);
+
+  auto* head = new QHBoxLayout;
+  auto* caption = new QLabel(tr("Commands, &newest last"));
+  caption->setBuddy(view_);
+  head->addWidget(caption);
+  head->addStretch();
+  for (QAction* action : {changesOnly_, saveAs_, clear_}) head->addWidget(ButtonOf(action));
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addLayout(head);
+  layout->addWidget(view_);
+
+  connect(changesOnly_, &QAction::toggled, shown_, &CommandLogFilter::ShowChangesOnly);
+  connect(copy, &QAction::triggered, this, &CommandLog::CopySelected);
+  connect(saveAs_, &QAction::triggered, this, &CommandLog::AskAndSave);
+  connect(clear_, &QAction::triggered, this, &CommandLog::Clear);
+  gather_.setSingleShot(true);
+  gather_.setInterval(kGatherTime);
+  connect(&gather_, &QTimer::timeout, this, &CommandLog::ShowPending);
+}
+
+void CommandLog::MakeColumns() {
+  view_->verticalHeader()->hide();
+  const QFontMetrics metrics(view_->font());
+  view_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  view_->verticalHeader()->setDefaultSectionSize(metrics.height() + 2);
+  QHeaderView& columns = Columns();
+  columns.setHighlightSections(false);
+  columns.setFont(font());
+  columns.setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  for (int column = 0; column < CommandLogModel::ColumnCount; ++column) {
+    const QString sample = QString::fromLatin1(kWidthSamples[static_cast<std::size_t>(column)]);
+    view_->setColumnWidth(column, metrics.horizontalAdvance(sample) + 12);
+  }
+  columns.setStretchLastSection(true);
+}
+
+QHeaderView& CommandLog::Columns() const { return *view_->horizontalHeader(); }
+
+void CommandLog::Add(CommandLogModel::Entry entry) {
+  pending_.push_back(std::move(entry));
+  if (!gather_.isActive()) gather_.start();
+}
+
+void CommandLog::Clear() {
+  pending_.clear();
+  model_->Clear();
+}
+
+void CommandLog::ShowPending() {
+  const QScrollBar* bar = view_->verticalScrollBar();
+  const bool follows = bar->value() == bar->maximum();
+  model_->Append(std::exchange(pending_, {}));
+  if (follows) view_->scrollToBottom();
+  Q_EMIT Updated();
+}
+
+void CommandLog::CopySelected() const {
+  std::vector<int> rows;
+  for (const QModelIndex& index : view_->selectionModel()->selectedRows()) {
+    rows.push_back(index.row());
+  }
+  std::ranges::sort(rows);
+  if (!rows.empty()) QGuiApplication::clipboard()->setText(LogText(*shown_, rows));
+}
+
+QString CommandLog::Save(const QString& fileName) const {
+  QStringList titles;
+  for (int column = 0; column < CommandLogModel::ColumnCount; ++column) {
+    titles += model_->headerData(column, Qt::Horizontal).toString();
+  }
+  std::vector<int> rows(static_cast<std::size_t>(shown_->rowCount()));
+  std::iota(rows.begin(), rows.end(), 0);
+  const QByteArray text =
+      (titles.join(QLatin1Char('\t')) + QLatin1Char('\n') + LogText(*shown_, rows)).toUtf8();
+  QSaveFile file(fileName);
+  if (file.open(QSaveFile::WriteOnly) && file.write(text) == text.size() && file.flush() &&
+      file.commit()) {
+    return {};
+  }
+  return tr("Cannot write %1: %2").arg(fileName, file.errorString());
+}
+
+void CommandLog::AskAndSave() {
+  const QString fileName = QFileDialog::getSaveFileName(this, tr("Save Log"), "commands.tsv",
+                                                        tr("Tables (*.tsv);;All files (*)"));
+  if (fileName.isEmpty()) return;
+  if (const QString error = Save(fileName); !error.isEmpty()) {
+    QMessageBox::critical(this, tr("Save Log"), error);
+  }
+}

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <chrono>
+#include <vector>
+
+#include <QTimer>
+#include <QWidget>
+
+#include "app/host/CommandLogModel.h"
+
+class QAction;
+class QHeaderView;
+class QTableView;
+
+/// Shows the log and follows its newest entry unless the user has scrolled back. Its rows can be
+/// copied, saved and reduced to those that asked for a change.
+class CommandLog : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit CommandLog(QWidget* parent = nullptr);
+
+  /// Takes an entry; entries that come close upon each other are shown together.
+  void Add(CommandLogModel::Entry entry);
+  void Clear();
+
+  /// Writes all that is shown, with a line of titles. Empty, or one line on what went wrong.
+  QString Save(const QString& fileName) const;
+
+  QHeaderView& Columns() const;
+
+  /// For a menu; owned by the log.
+  QAction* ChangesOnly() const { return changesOnly_; }
+  QAction* SaveAs() const { return saveAs_; }
+  QAction* ClearAll() const { return clear_; }
+
+ Q_SIGNALS:
+  /// New entries are shown.
+  void Updated();
+
+ private:
+  void MakeColumns();
+  void ShowPending();
+  void CopySelected() const;
+  void AskAndSave();
+
+  CommandLogModel* model_;
+  CommandLogFilter* shown_;
+  QTableView* view_;
+  QAction* changesOnly_;
+  QAction* saveAs_;
+  QAction* clear_;
+  std::vector<CommandLogModel::Entry> pending_;
+  QTimer gather_;
+};

@@ -1,0 +1,165 @@
+#include "app/host/DialogKeeper.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QScreen>
+#include <QSettings>
+#include <QTabBar>
+#include <QThread>
+
+#include "host/CAdvanceDlg.h"
+#include "settings/CatalogNumbers.h"
+
+namespace {
+
+constexpr int kGap = 8;
+constexpr int kCascade = 28;
+constexpr std::size_t kCascadeLength = 8;
+constexpr auto kRetirementCheck = std::chrono::milliseconds(50);
+constexpr const char* kGeometryKey = "dialog/geometry";
+constexpr const char* kTabKey = "dialog/tab";
+
+// Tabs are remembered by the number of their caption, which models have at different places.
+std::vector<int> TabCaptions(const CModelInfo2& model) {
+  std::vector<int> captions{Caption::TabStatus};
+  for (const PageTab& tab : TabsOf(model.DialogType, model.ModelCode)) {
+    captions.push_back(tab.caption);
+  }
+  return captions;
+}
+
+int Area(const QRect& rectangle) {
+  return rectangle.isValid() ? rectangle.width() * rectangle.height() : 0;
+}
+
+}  // namespace
+
+DialogKeeper::DialogKeeper(std::vector<const QWidget*> inView, QSettings* settings)
+    : inView_(std::move(inView)), settings_(settings) {
+  deleteRetired_.setSingleShot(true);
+  deleteRetired_.setInterval(kRetirementCheck);
+  connect(&deleteRetired_, &QTimer::timeout, this, &DialogKeeper::DeleteRetired);
+}
+
+DialogKeeper::~DialogKeeper() = default;
+
+CAdvanceDlg* DialogKeeper::Of(const ProjectorSession& session) const {
+  const auto found = dialogs_.find(&session);
+  return found == dialogs_.end() ? nullptr : found->second.get();
+}
+
+CAdvanceDlg* DialogKeeper::Open(const ProjectorSession& session) {
+  CAdvanceDlg* dialog = Of(session);
+  if (dialog == nullptr) {
+    dialog = (dialogs_[&session] = session.MakeDialog()).get();
+    connect(dialog, &QDialog::finished, this, [this, key = &session] { Retire(key); });
+    Q_EMIT Opened(&session);
+    const CModelInfo2& model = session.Profile().Model;
+    const bool created = dialog->CreateShown([&] {
+      Arrange(*dialog);
+      SelectLastTab(*dialog, model);
+    });
+    if (!created) Retire(&session);
+    return Of(session);  // it may have been closed while it was read
+  }
+  dialog->setWindowState(dialog->windowState() & ~Qt::WindowMinimized);
+  dialog->show();
+  dialog->raise();
+  dialog->activateWindow();
+  return dialog;
+}
+
+// Before anything is read, and not in the user's way later.
+void DialogKeeper::SelectLastTab(CAdvanceDlg& dialog, const CModelInfo2& model) {
+  if (settings_ == nullptr) return;
+  auto* tabs = dialog.findChild<QTabBar*>();
+  const std::vector<int> captions = TabCaptions(model);
+  connect(tabs, &QTabBar::currentChanged, this, [this, captions](int tab) {
+    if (tab >= 0) settings_->setValue(kTabKey, captions[static_cast<std::size_t>(tab)]);
+  });
+  const auto last = std::ranges::find(captions, settings_->value(kTabKey).toInt());
+  const QSignalBlocker quiet(tabs);  // the selected page is about to be read anyway
+  if (last != captions.end()) tabs->setCurrentIndex(static_cast<int>(last - captions.begin()));
+}
+
+void DialogKeeper::Arrange(CAdvanceDlg& dialog) {
+  const bool remembered =
+      settings_ != nullptr && dialog.restoreGeometry(settings_->value(kGeometryKey).toByteArray());
+  if (!remembered || dialogs_.size() > 1) Place(dialog);
+}
+
+// Further dialogs stand a little apart from the first, to the inside of the screen.
+void DialogKeeper::Place(CAdvanceDlg& dialog) const {
+  const QWidget& window = *inView_.front()->window();
+  const QRect screen = window.screen()->availableGeometry();
+  const QRect beside = window.frameGeometry();
+  const QSize size = dialog.size() + beside.size() - window.size();
+  const int right = std::max(screen.left(), screen.right() + 1 - size.width());
+  const int bottom = std::max(screen.top(), screen.bottom() + 1 - size.height());
+  const auto inside = [&](int x, int y) {
+    return QPoint(std::clamp(x, screen.left(), right), std::clamp(y, screen.top(), bottom));
+  };
+  const QPoint places[] = {
+      inside(beside.right() + kGap, beside.top()),
+      inside(beside.left() - kGap - size.width(), beside.top()),
+      inside(screen.left(), screen.top()),
+      inside(right, screen.top()),
+      inside(screen.left(), bottom),
+      inside(right, bottom),
+  };
+  const QPoint best = *std::ranges::min_element(places, {}, [&](QPoint place) {
+    std::vector<int> covered;
+    for (const QWidget* part : inView_) {
+      const QRect partPlace(part->mapToGlobal(QPoint()), part->size());
+      covered.push_back(Area(QRect(place, size) & partPlace));
+    }
+    return covered;
+  });
+  const auto others = std::min(dialogs_.size() - 1, kCascadeLength);
+  const int apart = kCascade * static_cast<int>(others);
+  dialog.move(inside(best.x() + (best.x() == right ? -apart : apart), best.y() + apart));
+}
+
+void DialogKeeper::Close(const ProjectorSession& session) {
+  if (CAdvanceDlg* dialog = Of(session)) {
+    dialog->close();
+    if (Of(session) != nullptr) Retire(&session);
+  }
+}
+
+void DialogKeeper::CloseAll() {
+  for (const auto& [session, dialog] : dialogs_) Remember(*dialog);
+  retired_.clear();
+  dialogs_.clear();
+}
+
+void DialogKeeper::RejectAll() {
+  std::vector<CAdvanceDlg*> open;
+  for (const auto& [session, dialog] : dialogs_) open.push_back(dialog.get());
+  for (CAdvanceDlg* dialog : open) dialog->reject();
+}
+
+void DialogKeeper::Retire(const ProjectorSession* session) {
+  auto dialog = dialogs_.extract(session);
+  if (dialog.empty()) return;
+  Remember(*dialog.mapped());
+  disconnect(dialog.mapped().get(), nullptr, this, nullptr);
+  retired_.push_back(std::move(dialog.mapped()));
+  deleteRetired_.start();
+  Q_EMIT Closed(session);
+}
+
+void DialogKeeper::Remember(const CAdvanceDlg& dialog) {
+  if (settings_ != nullptr) settings_->setValue(kGeometryKey, dialog.saveGeometry());
+}
+
+// A dialog can be closed by the window manager while one of its handlers waits for the projector,
+// in an event loop below ours; that handler goes on afterwards.
+void DialogKeeper::DeleteRetired() {
+  if (QThread::currentThread()->loopLevel() > 1) {
+    deleteRetired_.start();
+  } else {
+    retired_.clear();
+  }
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QGroupBox>
+
+#include "app/host/ProjectorSession.h"
+
+class QComboBox;
+class QListWidget;
+class QPushButton;
+class QSpinBox;
+
+/// Disturbs the simulation of one projector: faults of its commands, its power state, its error
+/// status. Everything takes effect at once, also for a dialog that is open.
+class FaultPanel : public QGroupBox {
+  Q_OBJECT
+
+ public:
+  explicit FaultPanel(QWidget* parent = nullptr);
+
+  /// Not owned; null disables the panel.
+  void SetSession(ProjectorSession* session);
+
+  /// Shows the states that the simulation has now.
+  void RefreshStates();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  bool IsSimulated() const;
+  void FillTargets();
+  void SetFault();
+  void RemoveSelected();
+  void ShowFaults();
+  void UpdateButtons();
+
+  ProjectorSession* session_ = nullptr;
+  QComboBox* power_;
+  QComboBox* error_;
+  QComboBox* target_;
+  QComboBox* kind_;
+  QSpinBox* delay_;
+  QPushButton* set_;
+  QListWidget* faults_;
+  QPushButton* remove_;
+  QPushButton* clear_;
+};

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <variant>
+
+#include "app/profiles/ProfileFile.h"
+#include "device/LoggingChannel.h"
+#include "simulator/FaultChannel.h"
+#include "simulator/SimulatedProjector.h"
+
+class CAdvanceDlg;
+class ToldInputs;
+
+/// What a fault is set for: every command, one operation, or the generic operations of one code.
+using FaultTarget = std::variant<std::monostate, PjtOperation, std::uint16_t>;
+
+/// One projector of the list with its simulation or its connection, which lives as long as the
+/// program, whether a dialog is open or not.
+class ProjectorSession {
+ public:
+  /// `observer` is told of every command that a dialog gave, with what the dialog got back; it is
+  /// called on the user-interface thread, from inside the dialog's handlers.
+  ProjectorSession(ProjectorProfile profile, LoggingChannel::Observer observer);
+
+  const ProjectorProfile& Profile() const { return profile_; }
+  /// The way to the projector that dialogs take, too.
+  const std::shared_ptr<ProjectorChannel>& Channel() const { return channel_; }
+  /// Of a projector that is not simulated, a simulation that nobody uses.
+  SimulatedProjector& Simulator() { return *simulator_; }
+
+  /// How the connection stands; of a simulated projector `ConnectionState::None`.
+  ConnectionState Connection() const { return channel_->Connection(); }
+
+  /// `Fault::Kind::None` takes the fault back.
+  void SetFault(const FaultTarget& target, const Fault& fault);
+  void ClearFaults();
+  const std::map<FaultTarget, Fault>& Faults() const { return faults_; }
+
+  /// A dialog on this projector, with model and channel, not created yet. The inputs of a PJLink
+  /// projector of which the profile lists none come from the projector, once it has answered.
+  std::unique_ptr<CAdvanceDlg> MakeDialog() const;
+
+ private:
+  struct Inputs;
+
+  std::shared_ptr<ProjectorChannel> MakeWay();
+
+  ProjectorProfile profile_;
+  std::shared_ptr<Inputs> inputs_;
+  std::shared_ptr<SimulatedProjector> simulator_;
+  std::shared_ptr<FaultChannel> faultChannel_;
+  std::shared_ptr<ProjectorChannel> channel_;
+  std::map<FaultTarget, Fault> faults_;
+};

@@ -1,0 +1,322 @@
+#include "app/host/RestoreDialog.h"
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <utility>
+
+#include <QCheckBox>
+#include <QCoreApplication>
+#include <QDialogButtonBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSortFilterProxyModel>
+#include <QStandardItemModel>
+#include <QTimer>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+#include "app/host/ProjectorSession.h"
+#include "app/profiles/SettingsFile.h"
+#include "app/profiles/WholeFile.h"
+#include "device/ModelDataIntake.h"
+#include "i18n/Catalog.h"
+#include "i18n/SystemLanguage.h"
+
+namespace {
+
+enum Column { kProjector, kSetting, kHere, kFile, kResult, kColumnCount };
+constexpr int kOutcomeRole = Qt::UserRole;
+
+/// Rows whose outcome asks for a look, and whose text has what was typed.
+class OutcomeFilter : public QSortFilterProxyModel {
+ public:
+  using QSortFilterProxyModel::QSortFilterProxyModel;
+
+  void HideSame(bool hide) {
+    hidesSame_ = hide;
+    invalidateFilter();
+  }
+
+ protected:
+  bool filterAcceptsRow(int row, const QModelIndex& parent) const override {
+    const int outcome = sourceModel()->index(row, kResult).data(kOutcomeRole).toInt();
+    const bool same = outcome == static_cast<int>(Outcome::AlreadySo);
+    return !(hidesSame_ && same) && QSortFilterProxyModel::filterAcceptsRow(row, parent);
+  }
+
+ private:
+  bool hidesSame_ = true;
+};
+
+QString Wide(const std::string& text) { return QString::fromStdString(text); }
+
+}  // namespace
+
+/// A projector with its part of the table.
+struct RestoreDialog::Room {
+  Room(const ProjectorSession& session, const Snapshot& snapshot)
+      : name(session.Profile().Name), settings(MakeModelData(session.Profile().Model)) {
+    connection.SetChannel(session.Channel());
+    restoration.emplace(snapshot, settings, connection);
+  }
+
+  std::string name;
+  ModelSettings settings;
+  CPjtInterface connection;
+  std::optional<Restoration> restoration;
+  int firstRow = 0;
+};
+
+/// While it lives the dialog can be stopped, but not be asked for anything else.
+class RestoreDialog::Working {
+ public:
+  Working(RestoreDialog& dialog, int steps) : dialog_(dialog) {
+    dialog_.working_ = true;
+    dialog_.stopped_ = false;
+    dialog_.progress_->setRange(0, std::max(steps, 1));
+    dialog_.progress_->setValue(0);
+    dialog_.UpdateButtons();
+  }
+  ~Working() {
+    dialog_.working_ = false;
+    dialog_.progress_->setValue(dialog_.progress_->maximum());
+    dialog_.UpdateButtons();
+  }
+  Working(const Working&) = delete;
+  Working& operator=(const Working&) = delete;
+
+ private:
+  RestoreDialog& dialog_;
+};
+
+RestoreDialog::RestoreDialog(Purpose purpose, Snapshot snapshot, QString file,
+                             const std::vector<ProjectorSession*>& sessions, QWidget* parent)
+    : QDialog(parent),
+      purpose_(purpose),
+      snapshot_(std::move(snapshot)),
+      file_(std::move(file)),
+      texts_(CatalogFolders(), SystemLanguageId()) {
+  for (const ProjectorSession* session : sessions) {
+    rooms_.push_back(std::make_unique<Room>(*session, snapshot_));
+  }
+  setWindowTitle(purpose == Purpose::Restore ? tr("Apply Settings") : tr("Compare Settings"));
+  Lay();
+  UpdateButtons();
+}
+
+RestoreDialog::~RestoreDialog() = default;
+
+void RestoreDialog::Lay() {
+  filter_ = new QLineEdit;
+  filter_->setPlaceholderText(tr("Filter"));
+  filter_->setClearButtonEnabled(true);
+  differencesOnly_ = new QCheckBox(tr("&Differences only"));
+  differencesOnly_->setChecked(true);
+  auto* tools = new QHBoxLayout;
+  tools->addWidget(filter_, 1);
+  tools->addWidget(differencesOnly_);
+
+  model_ = new QStandardItemModel(0, kColumnCount, this);
+  model_->setHorizontalHeaderLabels(
+      {tr("Projector"), tr("Setting"), tr("Here"), tr("File"), tr("Result")});
+  auto* shown = new OutcomeFilter(this);
+  shown->setSourceModel(model_);
+  shown->setFilterKeyColumn(-1);
+  shown->setFilterCaseSensitivity(Qt::CaseInsensitive);
+  auto* table = new QTreeView;
+  table->setModel(shown);
+  table->setRootIsDecorated(false);
+  table->setUniformRowHeights(true);
+  table->setEditTriggers(QTreeView::NoEditTriggers);
+  table->setAccessibleName(tr("Settings"));
+  table->setColumnHidden(kProjector, rooms_.size() == 1);
+  table->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+
+  progress_ = new QProgressBar;
+  progress_->setTextVisible(false);
+  summary_ = new QLabel;
+  summary_->setWordWrap(true);
+  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+  close_ = buttons->button(QDialogButtonBox::Close);
+  restore_ = buttons->addButton(tr("&Apply"), QDialogButtonBox::ApplyRole);
+  restore_->setVisible(purpose_ == Purpose::Restore);
+
+  auto* column = new QVBoxLayout(this);
+  column->addWidget(new QLabel(file_));
+  column->addLayout(tools);
+  column->addWidget(table, 1);
+  column->addWidget(progress_);
+  column->addWidget(summary_);
+  column->addWidget(buttons);
+  resize(720, 560);
+
+  connect(filter_, &QLineEdit::textChanged, shown, &OutcomeFilter::setFilterFixedString);
+  connect(differencesOnly_, &QCheckBox::toggled, this, [shown](bool on) { shown->HideSame(on); });
+  connect(restore_, &QPushButton::clicked, this, &RestoreDialog::Restore);
+  connect(buttons, &QDialogButtonBox::rejected, this, &RestoreDialog::reject);
+}
+
+void RestoreDialog::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  if (!compared_) QTimer::singleShot(0, this, &RestoreDialog::Compare);
+}
+
+// The first press stops the work, and another one leaves.
+void RestoreDialog::reject() {
+  stopped_ = true;
+  if (!working_) QDialog::reject();
+}
+
+void RestoreDialog::UpdateButtons() {
+  close_->setText(working_ ? tr("Stop") : tr("Close"));
+  restore_->setEnabled(!working_ && compared_);
+}
+
+Progress RestoreDialog::Watched() {
+  return {.goesOn = [this] { return !stopped_; },
+          .step =
+              [this] {
+                progress_->setValue(progress_->value() + 1);
+                QCoreApplication::processEvents();
+              }};
+}
+
+void RestoreDialog::Compare() {
+  if (working_) return;
+  compared_ = true;
+  const Working working(*this, static_cast<int>(rooms_.size() * snapshot_.settings.size()));
+  model_->setRowCount(0);
+  for (const auto& room : rooms_) {
+    room->restoration->Read(Watched());
+    room->firstRow = model_->rowCount();
+    for (const RestoredSetting& restored : room->restoration->Settings()) AddRow(*room, restored);
+  }
+  ShowSummary();
+}
+
+void RestoreDialog::AddRow(const Room& room, const RestoredSetting& restored) {
+  QString setting = Wide(restored.saved.key);
+  if (restored.setting != nullptr) {
+    setting = Wide(texts_.Tab(*restored.setting) + ": " + texts_.Caption(*restored.setting));
+  }
+  QList<QStandardItem*> row;
+  for (const QString& text : {Wide(room.name), setting, QString(), QString(), QString()}) {
+    row.append(new QStandardItem(text));
+  }
+  const bool differs = restored.outcome == Outcome::Differs;
+  if (purpose_ == Purpose::Restore) {
+    row[kSetting]->setCheckable(differs);
+    if (differs) row[kSetting]->setCheckState(Qt::Checked);
+  }
+  model_->appendRow(row);
+  ShowOutcome(restored, model_->rowCount() - 1);
+}
+
+void RestoreDialog::ShowOutcome(const RestoredSetting& restored, int row) {
+  const auto text = [&](const std::optional<int>& value) {
+    return value && restored.setting != nullptr ? Wide(texts_.Value(*restored.setting, *value))
+                                                : QString();
+  };
+  model_->item(row, kHere)->setText(text(restored.now ? restored.now : restored.before));
+  model_->item(row, kFile)
+      ->setText(restored.setting != nullptr ? text(restored.saved.value)
+                                            : Wide(restored.saved.text));
+  model_->item(row, kResult)->setText(OutcomeText(restored.outcome));
+  model_->item(row, kResult)->setData(static_cast<int>(restored.outcome), kOutcomeRole);
+}
+
+QString RestoreDialog::OutcomeText(Outcome outcome) {
+  switch (outcome) {
+    case Outcome::NotReached:
+      return tr("not read");
+    case Outcome::AlreadySo:
+      return tr("already so");
+    case Outcome::Differs:
+      return tr("different");
+    case Outcome::Changed:
+      return tr("changed");
+    case Outcome::Refused:
+      return tr("refused");
+    case Outcome::Unconfirmed:
+      return tr("not confirmed");
+    case Outcome::Unknown:
+      return tr("skipped: this model does not have it");
+    case Outcome::NotSettable:
+      return tr("skipped: it is not one to put back");
+    case Outcome::NotAllowed:
+      return tr("skipped: this model does not take the value");
+  }
+  return {};
+}
+
+void RestoreDialog::Restore() {
+  if (working_) return;
+  int steps = 0;
+  for (int row = 0; row < model_->rowCount(); ++row) steps += IsChecked(row) ? 3 : 0;
+  const Working working(*this, steps);
+  QString error;
+  for (const auto& room : rooms_) {
+    if (!stopped_ && error.isEmpty()) error = RestoreRoom(*room);
+  }
+  ShowSummary();
+  if (!error.isEmpty()) summary_->setText(error);
+}
+
+bool RestoreDialog::IsChecked(int row) const {
+  return model_->item(row, kSetting)->checkState() == Qt::Checked;
+}
+
+// Reads once more what is checked: somebody may have changed it since.
+QString RestoreDialog::RestoreRoom(Room& room) {
+  std::map<std::string, int, std::less<>> rows;
+  const auto& known = room.restoration->Settings();
+  for (std::size_t i = 0; i < known.size(); ++i) {
+    const int row = room.firstRow + static_cast<int>(i);
+    if (IsChecked(row)) rows[known[i].saved.key] = row;
+  }
+  Restoration part(snapshot_, room.settings, room.connection,
+                   [&rows](std::string_view key) { return rows.contains(key); });
+  part.Read(Watched());
+  if (part.Count(Outcome::Differs) > 0 && !stopped_) {
+    const QString error =
+        WriteWholeFile(UndoPath(file_, {}, room.name), WriteSnapshot(part.Undo(room.name, texts_)));
+    if (!error.isEmpty()) return tr("%1; nothing was sent").arg(error);
+    part.Send(texts_, Watched());
+  }
+  for (const RestoredSetting& restored : part.Settings()) {
+    const int row = rows.find(restored.saved.key)->second;
+    ShowOutcome(restored, row);
+    if (restored.outcome == Outcome::Changed || restored.outcome == Outcome::AlreadySo) {
+      model_->item(row, kSetting)->setCheckState(Qt::Unchecked);
+    }
+  }
+  return {};
+}
+
+void RestoreDialog::ShowSummary() {
+  std::array<int, 9> counts{};
+  for (int row = 0; row < model_->rowCount(); ++row) {
+    ++counts[static_cast<std::size_t>(model_->item(row, kResult)->data(kOutcomeRole).toInt())];
+  }
+  const auto count = [&counts](Outcome outcome) {
+    return counts[static_cast<std::size_t>(outcome)];
+  };
+  const int skipped =
+      count(Outcome::Unknown) + count(Outcome::NotSettable) + count(Outcome::NotAllowed);
+  QStringList parts;
+  const auto add = [&parts](int number, const QString& what) {
+    if (number > 0) parts.append(what.arg(number));
+  };
+  add(count(Outcome::Changed), tr("%1 changed"));
+  add(count(Outcome::Differs), tr("%1 different"));
+  add(count(Outcome::AlreadySo), tr("%1 already so"));
+  add(count(Outcome::Refused), tr("%1 refused"));
+  add(count(Outcome::Unconfirmed), tr("%1 not confirmed"));
+  add(count(Outcome::NotReached), tr("%1 not read"));
+  add(skipped, tr("%1 skipped"));
+  summary_->setText(parts.join(QStringLiteral(", ")));
+}

@@ -1,0 +1,128 @@
+#include "app/host/SettingsActions.h"
+
+#include <utility>
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QProgressDialog>
+#include <QThread>
+#include <QTimer>
+
+#include "app/host/ProjectorSession.h"
+#include "app/profiles/SettingsFile.h"
+#include "app/profiles/WholeFile.h"
+#include "device/ModelDataIntake.h"
+#include "i18n/Catalog.h"
+#include "i18n/SystemLanguage.h"
+
+namespace {
+
+constexpr auto kLater = std::chrono::milliseconds(50);
+
+}  // namespace
+
+SettingsActions::SettingsActions(std::function<Sessions()> selected, QWidget& window)
+    : QObject(&window),
+      selected_(std::move(selected)),
+      window_(window),
+      save_(Make(tr("Save Se&ttings…"), &SettingsActions::SaveSettings)),
+      compare_(Make(tr("&Compare with File…"), &SettingsActions::CompareSettings)),
+      apply_(Make(tr("A&pply Settings…"), &SettingsActions::ApplySettings)) {
+  Update();
+}
+
+QAction* SettingsActions::Make(const QString& text, void (SettingsActions::*act)()) {
+  auto* action = new QAction(text, this);
+  connect(action, &QAction::triggered, this, [this, act] { Run(act); });
+  return action;
+}
+
+// A dialog's handler that waits in an event loop below could not go on before we have ended, and
+// its channel takes no other command until then.
+void SettingsActions::Run(void (SettingsActions::*act)()) {
+  if (QThread::currentThread()->loopLevel() > 1) {
+    QTimer::singleShot(kLater, this, [this, act] { Run(act); });
+  } else {
+    (this->*act)();
+  }
+}
+
+void SettingsActions::Update() {
+  const bool any = !selected_().empty();
+  for (QAction* action : {save_, compare_, apply_}) action->setEnabled(any);
+}
+
+// What a file holds is no markup.
+void SettingsActions::Tell(const QString& title, const QString& text) {
+  QMessageBox box(QMessageBox::Critical, title, text, QMessageBox::Ok, &window_);
+  box.setTextFormat(Qt::PlainText);
+  box.exec();
+}
+
+QStringList SettingsActions::SaveTo(const QString& path, const Sessions& sessions,
+                                    const Progress& progress) {
+  QStringList errors;
+  const SettingTexts texts(CatalogFolders(), SystemLanguageId());
+  for (const ProjectorSession* session : sessions) {
+    const std::string& name = session->Profile().Name;
+    const QString shownName = QString::fromStdString(name);
+    const ModelSettings settings(MakeModelData(session->Profile().Model));
+    CPjtInterface connection;
+    connection.SetChannel(session->Channel());
+    std::vector<std::string> unread;
+    const Snapshot snapshot = TakeSnapshot(name, settings, connection, texts, progress, &unread);
+    if (!progress.goesOn()) break;  // half a snapshot would look like a whole one
+    if (snapshot.settings.empty()) {
+      errors.append(tr("%1: nothing can be read").arg(shownName));
+      continue;
+    }
+    if (!unread.empty()) {
+      errors.append(tr("%1: %2 settings cannot be read and are left out")
+                        .arg(shownName)
+                        .arg(static_cast<int>(unread.size())));
+    }
+    const QString file =
+        sessions.size() == 1 ? path : QDir(path).filePath(FileNameOf(name) + ".json");
+    if (const QString error = WriteWholeFile(file, WriteSnapshot(snapshot)); !error.isEmpty()) {
+      errors.append(error);
+    }
+  }
+  return errors;
+}
+
+void SettingsActions::SaveSettings() {
+  const Sessions sessions = selected_();
+  if (sessions.empty()) return;
+  const QString title = tr("Save Settings");
+  const QString path =
+      sessions.size() == 1
+          ? QFileDialog::getSaveFileName(&window_, title,
+                                         FileNameOf(sessions.front()->Profile().Name) + ".json",
+                                         tr("Settings (*.json)"))
+          : QFileDialog::getExistingDirectory(&window_, tr("Save Settings in Folder"));
+  if (path.isEmpty()) return;
+  QProgressDialog watched(tr("Reading settings…"), tr("Stop"), 0, 0, &window_);
+  // From the start, so that neither the projectors nor their dialogs are used meanwhile.
+  watched.setWindowModality(Qt::ApplicationModal);
+  watched.show();
+  const QStringList errors = SaveTo(path, sessions,
+                                    {.goesOn = [&watched] { return !watched.wasCanceled(); },
+                                     .step = [] { QCoreApplication::processEvents(); }});
+  watched.reset();
+  if (!errors.isEmpty()) Tell(title, errors.join(QLatin1Char('\n')));
+}
+
+void SettingsActions::OpenFile(RestoreDialog::Purpose purpose) {
+  const Sessions sessions = selected_();
+  if (sessions.empty()) return;
+  const QString path =
+      QFileDialog::getOpenFileName(&window_, tr("Open Settings"), {}, tr("Settings (*.json)"));
+  if (path.isEmpty()) return;
+  SnapshotContents contents = ReadSettingsFile(path);
+  if (!contents.error.isEmpty()) return Tell(tr("Open Settings"), contents.error);
+  RestoreDialog dialog(purpose, std::move(contents.snapshot), path, sessions, &window_);
+  dialog.exec();
+}

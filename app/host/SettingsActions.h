@@ -1,0 +1,52 @@
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include <QObject>
+
+#include "app/host/RestoreDialog.h"
+
+class ProjectorSession;
+class QAction;
+class QWidget;
+
+/// Saving the settings of projectors in files, comparing them with a file and putting a file back,
+/// as actions for menus. Asks for files, tells errors.
+class SettingsActions : public QObject {
+  Q_OBJECT
+
+ public:
+  using Sessions = std::vector<ProjectorSession*>;
+
+  /// `selected` tells the projectors that are meant; they outlive what the actions do with them.
+  /// This belongs to the window; the actions belong to it.
+  SettingsActions(std::function<Sessions()> selected, QWidget& window);
+
+  QAction* Save() const { return save_; }
+  QAction* Compare() const { return compare_; }
+  QAction* Apply() const { return apply_; }
+
+  /// Enables what can be done with the selected projectors.
+  void Update();
+
+  /// Saves the settings of each projector: of one in `path`, of several in files of their names in
+  /// the folder `path`. One line for each that went wrong.
+  static QStringList SaveTo(const QString& path, const Sessions& sessions,
+                            const Progress& progress = {});
+
+ private:
+  QAction* Make(const QString& text, void (SettingsActions::*act)());
+  void Run(void (SettingsActions::*act)());
+  void SaveSettings();
+  void CompareSettings() { OpenFile(RestoreDialog::Purpose::Compare); }
+  void ApplySettings() { OpenFile(RestoreDialog::Purpose::Restore); }
+  void OpenFile(RestoreDialog::Purpose purpose);
+  void Tell(const QString& title, const QString& text);
+
+  const std::function<Sessions()> selected_;
+  QWidget& window_;
+  QAction* save_;
+  QAction* compare_;
+  QAction* apply_;
+};

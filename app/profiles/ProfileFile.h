@@ -1,0 +1,28 @@
+#pragma once
+
+#include <vector>
+
+#include <QByteArray>
+#include <QString>
+
+#include "app/profiles/ProjectorProfile.h"
+
+struct ProfileFileContents {
+  std::vector<ProjectorProfile> projectors;  ///< In the order of the file; empty after an error.
+  /// One line that names the place and what is wrong there; empty when all is well.
+  QString error;
+};
+
+struct ProfileFileText {
+  QByteArray text;
+  QString error;  ///< One line; empty when the file was read.
+};
+
+/// What stands in a regular file, up to a little more than a profile file may hold.
+ProfileFileText ReadProfileText(const QString& fileName);
+
+/// The projectors of a profile file. Its format is described in `docs/profiles.md`.
+ProfileFileContents ReadProfileFile(const QString& fileName);
+
+/// The same from a text; `fileName` stands in error messages.
+ProfileFileContents ParseProfiles(const QByteArray& text, const QString& fileName);

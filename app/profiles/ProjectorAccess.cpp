@@ -1,0 +1,52 @@
+#include "app/profiles/ProjectorAccess.h"
+
+#include <thread>
+#include <utility>
+
+#include "device/ModelDataIntake.h"
+
+namespace {
+
+/// Whether sending it twice comes to the same as once. A step does not.
+bool IsRepeatable(PjtOperation operation) {
+  switch (FamilyOf(operation)) {
+    case OperationFamily::PointerStepper:
+    case OperationFamily::SourceStepper:
+    case OperationFamily::ChannelStepper:
+      return false;
+    default:
+      return operation != PjtOperation::Inc && operation != PjtOperation::Dec;
+  }
+}
+
+}  // namespace
+
+SimulatedModel SimulatedModelOf(const ProjectorProfile& profile) {
+  SimulatedModel model = DescribeModel(MakeModelData(profile.Model));
+  model.missing = {profile.Lacks.begin(), profile.Lacks.end()};
+  return model;
+}
+
+PjtReply PatientChannel::Execute(const PjtCommand& command) {
+  PjtReply reply{.result = RefusedResult(command.operation), .answered = false};
+  const bool repeats = everAnswered_ && IsRepeatable(command.operation);
+  const int attempts = repeats ? kAttempts : 1;
+  for (int attempt = 0; attempt < attempts && !gone_; ++attempt) {
+    if (attempt > 0) std::this_thread::sleep_for(kPause);
+    reply = inner_->Execute(command);
+    if (reply.answered) break;
+  }
+  answered_ = reply.answered;
+  // A step that got lost says nothing yet: the next command does.
+  gone_ = gone_ || (!answered_ && (repeats || !everAnswered_));
+  everAnswered_ = everAnswered_ || answered_;
+  return reply;
+}
+
+ProjectorAccess::ProjectorAccess(const ProjectorProfile& profile,
+                                 std::shared_ptr<ProjectorChannel> channel)
+    : name_(profile.Name),
+      settings_(MakeModelData(profile.Model)),
+      channel_(std::make_shared<PatientChannel>(std::move(channel))) {
+  connection_.SetChannel(channel_);
+}

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <chrono>
+#include <memory>
+#include <string>
+
+#include "app/profiles/ProfileFile.h"
+#include "device/CPjtInterface.h"
+#include "settings/ModelSettings.h"
+#include "simulator/SimulatedProjector.h"
+
+/// The simulation that a profile describes.
+SimulatedModel SimulatedModelOf(const ProjectorProfile& profile);
+
+/// Asks again where an answer got lost, and knows when a projector is gone: one that has never
+/// answered is after the first command, any other after the last repetition. Then every command is
+/// unanswered at once, so that a dead projector costs one time-out and not one per command.
+class PatientChannel : public ProjectorChannel {
+ public:
+  static constexpr int kAttempts = 3;
+  static constexpr std::chrono::milliseconds kPause{50};
+
+  explicit PatientChannel(std::shared_ptr<ProjectorChannel> inner) : inner_(std::move(inner)) {}
+
+  PjtReply Execute(const PjtCommand& command) override;
+  void Announce(std::span<const PjtCommand> reads) override { inner_->Announce(reads); }
+  ConnectionState Connection() const override { return inner_->Connection(); }
+
+  bool IsGone() const { return gone_; }
+  /// Whether the last command was answered.
+  bool HasAnswered() const { return answered_; }
+
+ private:
+  std::shared_ptr<ProjectorChannel> inner_;
+  bool everAnswered_ = false;
+  bool answered_ = true;
+  bool gone_ = false;
+};
+
+/// A projector of a profile file as a program without a window uses it. One thread at a time.
+class ProjectorAccess {
+ public:
+  ProjectorAccess(const ProjectorProfile& profile, std::shared_ptr<ProjectorChannel> channel);
+
+  const std::string& Name() const { return name_; }
+  const ModelSettings& Settings() const { return settings_; }
+  CPjtInterface& Connection() { return connection_; }
+  const PatientChannel& Channel() const { return *channel_; }
+
+ private:
+  std::string name_;
+  ModelSettings settings_;
+  std::shared_ptr<PatientChannel> channel_;
+  CPjtInterface connection_;
+};

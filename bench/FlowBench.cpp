@@ -28,8 +28,8 @@ constexpr int kCloseId = 1;
 
 enum Projector { Slow, Silent, DropsOut, Late, Brisk };
 
-/// A projector that is slow, never answers, answers three commands, answers after the time-out, or just
-/// not at once.
+/// A projector that is slow, never answers, answers three commands, answers after the time-out, or
+/// just not at once.
 class DifficultProjector final : public ProjectorChannel {
  public:
   explicit DifficultProjector(int kind) : kind_(kind) {}

@@ -23,6 +23,7 @@ constexpr std::size_t kMaxMessages = std::size_t{1} << 20;
 constexpr std::uint64_t kMaxReadsOfAByte = 2;
 constexpr std::size_t kMaxSections = 96;
 constexpr std::uint32_t kMessageTableType = 11;
+constexpr std::uint32_t kMaxLanguage = 0xFFFF;
 
 // The bytes of a plain file of acceptable size, else none. Read and not mapped: a file that is cut
 // short while it is mapped ends the program.
@@ -293,7 +294,9 @@ class TableReader {
           resource.isDirectory ? Directory(resource.target) : decltype(resources){};
       if (!languages) return false;
       for (const DirectoryEntry& language : *languages) {
-        if (language.isDirectory || !language.HasNumber() || !ReadLeaf(language)) return false;
+        if (language.isDirectory || language.name > kMaxLanguage || !ReadLeaf(language)) {
+          return false;
+        }
       }
       ++resource_;
     }

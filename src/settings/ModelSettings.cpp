@@ -5,13 +5,11 @@
 #include <utility>
 
 #include "device/CommandCode.h"
-#include "settings/CatalogNumbers.h"
 #include "settings/PageTables.h"
+#include "settings/RowParts.h"
 #include "settings/picture/PictureRows.h"
 
 namespace {
-
-constexpr auto kSwitch = Numbered(ListText::SwitchOff, ListText::SwitchOn);
 
 void Describe(const ListRow& row, const ModelData& model, ModelSetting& setting) {
   setting.kind = row.send ? ModelSetting::Kind::Choice : ModelSetting::Kind::State;

@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "settings/LegacyRows.h"
+#include "settings/RowParts.h"
 
 /// Rows that several main, automatic, option and other pages have: a setting is read, sent and told
 /// in one way, and a page gives it its key and its controls.
@@ -10,9 +11,6 @@ namespace shared {
 
 using Op = PjtOperation;
 
-inline constexpr auto kSwitch = Numbered(ListText::SwitchOff, ListText::SwitchOn);
-inline constexpr auto kMirrors = Numbered(ListText::MirrorNormal, ListText::MirrorHInverse,
-                                          ListText::MirrorVInverse, ListText::MirrorHVInverse);
 inline constexpr auto kMenuColors = Numbered(ListText::BlankBlue, ListText::BlankBlack,
                                              ListText::MenuColorGray, ListText::MenuColorGreen);
 inline constexpr auto kRemoteIds = Numbered(ListText::AllRemoteIds, "1", "2", "3", "4");
@@ -24,7 +22,6 @@ inline constexpr auto kLanguages = [] {
   return languages;
 }();
 
-inline constexpr ListRules kReadBack{.refused = Refused::ReadsBack};
 inline constexpr ListRules kSilent{.readsBackAlways = true};
 
 constexpr ValueRow Brightness(std::string_view key, const ValueIds& ids) {

@@ -101,11 +101,11 @@ TEST(MessageTable, RefusesDamagedModules) {
       {options + 128, 0}, {section + 20, 0xFFFFFF00}, {section + 16, 0xFFFFFFFF},
       {types + 16, 10}};
   // Directories that are leaves, hold themselves, are outside, have too many entries, or a number
-  // among the names; leaves that are directories or outside.
-  const Damage directories[] = {{types + 20, 24},         {types + 20, m.kDirectory},
-                                {names + 20, 24},         {names + 20, 0xFFFFFFFF},
-                                {names + 12, 0xFFFFFFFF}, {names + 12, 1},
-                                {leaf - 4, m.kDirectory}, {leaf - 4, 0x7FFFFFFF}};
+  // among the names; leaves that are directories or outside, or of no language.
+  const Damage directories[] = {
+      {types + 20, 24},         {types + 20, m.kDirectory}, {names + 20, 24},
+      {names + 20, 0xFFFFFFFF}, {names + 12, 0xFFFFFFFF},   {names + 12, 1},
+      {leaf - 4, m.kDirectory}, {leaf - 4, 0x7FFFFFFF},     {leaf - 8, 0x10411}};
   // Tables outside, too long, too short; blocks too many, upside down, endless, outside.
   const Damage tables[] = {{leaf, 0xFFFFFFFF},      {leaf + 4, 0xFFFFFFFF}, {leaf + 4, 3},
                            {table, 0x15555556},     {table + 4, 9},         {table + 8, 0xFFFFFFFF},

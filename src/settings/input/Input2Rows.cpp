@@ -1,6 +1,6 @@
 #include "settings/PageTables.h"
 #include "settings/SharedRows.h"
-#include "settings/input/LegacyInputLists.h"
+#include "settings/input/InputLists.h"
 
 namespace {
 
@@ -9,9 +9,6 @@ using Op = PjtOperation;
 constexpr auto kBncs = Numbered("RGB", "Component");
 constexpr auto kSyncOnGreen = Numbered(ListText::SwitchOn, ListText::SwitchOff);
 constexpr auto kPinPInputs = Numbered<1>(ListText::PinPInputVideo, ListText::PinPInputSVideo);
-constexpr auto kPinPAudios = Numbered(ListText::PinPAudioRgb, ListText::PinPInputVideo);
-constexpr auto kPinPSizes =
-    Numbered(ListText::PinPSizeOff, ListText::PinPLarge, ListText::PinPSmall);
 
 // clang-format off
 constexpr PageRow kRows[] = {

@@ -1,5 +1,5 @@
 #include "settings/PageTables.h"
-#include "settings/input/LegacyInputLists.h"
+#include "settings/input/InputLists.h"
 
 namespace {
 
@@ -10,10 +10,10 @@ constexpr auto kDvis = Numbered("DVD", "Computer");
 // The DVI row's caption is the same in every language.
 // clang-format off
 constexpr PageRow kRows[] = {
-    ListRow{"input.color-space", 54, 20222, kLegacyColorSpaces, Get(CommandCode::ColorSpace), Named(Op::SetColorSpace), kSendsPosition},
-    ListRow{"input.component", 174, 20223, kLegacyComponents, Get(CommandCode::Component), Named(Op::SetComponent), kSendsPosition, NotOn(21, 29)},
+    ListRow{"input.color-space", 54, 20222, kColorSpaces, Get(CommandCode::ColorSpace), Named(Op::SetColorSpace), kSendsPosition},
+    ListRow{"input.component", 174, 20223, kComponents, Get(CommandCode::Component), Named(Op::SetComponent), kSendsPosition, NotOn(21, 29)},
     VideoFormatRow(20224),
-    ListRow{"input.frame-lock", 59, 20225, kInputSwitch, Get(CommandCode::FrameLock), Named(Op::SetFrameLock), kSendsPosition, NotOn(9, 22, 27, 28)},
+    ListRow{"input.frame-lock", 59, 20225, kSwitch, Get(CommandCode::FrameLock), Named(Op::SetFrameLock), kSendsPosition, NotOn(9, 22, 27, 28)},
     ListRow{"input.dvi", 0, 21060, kDvis, Get(CommandCode::Dvi), Named(Op::SetDVI), kSendsPosition, NotOn(11, 12, 13, 21, 23, 24, 25, 26, 27, 28, 29)},
 };
 // clang-format on

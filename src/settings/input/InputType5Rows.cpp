@@ -1,5 +1,5 @@
-#include "settings/CatalogNumbers.h"
 #include "settings/PageTables.h"
+#include "settings/input/InputLists.h"
 
 namespace {
 
@@ -11,46 +11,39 @@ constexpr auto kProgressive =
 constexpr auto kNoiseReductions = Numbered<1>(
     ListText::NoiseReductionLow, ListText::NoiseReductionMiddle, ListText::NoiseReductionHigh);
 constexpr auto kYcs = Numbered(ListText::Off, ListText::YcsMovie, ListText::YcsStillImage);
-constexpr auto kColorSpaces = Numbered(ListText::Auto, "RGB", "SMPTE240", "REC709", "REC601");
-constexpr auto kComponents = Numbered("Component", "Scart RGB");
 constexpr ListEntry kVideoFormats[] = {{ListText::Auto, 10}, {"NTSC", 4},     {"PAL", 5},
                                        {"SECAM", 9},         {"NTSC4.43", 2}, {"M-PAL", 8},
                                        {"N-PAL", 7}};
 constexpr auto kHdmis = Numbered(ListText::HdmiAuto, ListText::HdmiNormal, ListText::HdmiEnhanced);
 constexpr auto kM1Ds = Numbered(ListText::M1DNormal, ListText::M1DEnhanced);
-constexpr auto kSwitch = Numbered(ListText::SwitchOff, ListText::SwitchOn);
 constexpr auto kSyncOnGreen = Numbered<2>(ListText::SyncOnGreenOff, ListText::SyncOnGreenOn);
 constexpr auto kAutomaticInput = Numbered<2>(ListText::SyncOnGreenOff, ListText::Auto);
 constexpr ModelEntries kInputs[] = {{{37, 38, 41, 43, 51, 52, 54}, kAutomaticInput},
                                     {{}, kSyncOnGreen}};
 
-// The projector interface takes positions, also of lists whose values are mapped when they are
-// read, and maps them back.
-constexpr ListRules kPosition{.sendsPosition = true};
-
 // The RGB and the Computer row of an input are two labels of one setting; the flag tells which one
 // the user saw: 1 for RGB, 0 for Computer.
 // clang-format off
 constexpr PageRow kRows[] = {
-    ListRow{"input.progressive", 60, 20294, kProgressive, Named(Op::GetProgressive), Named(Op::SetProgressive), kPosition},
-    ListRow{"input.video-nr", 1058, 20295, kNoiseReductions, Named(Op::GetVideoNrVal), Flagged(Op::SetVideoNR, 1), kPosition},
-    ListRow{"input.3d-ycs", 57, 20296, kYcs, Named(Op::Get3dycs), Named(Op::Set3DYCS), kPosition},
-    ListRow{"input.color-space", 54, 20297, kColorSpaces, Named(Op::GetColorSpace), Named(Op::SetColorSpace), kPosition},
-    ListRow{"input.component", 1055, 20298, kComponents, Named(Op::GetComponent), Named(Op::SetComponent), kPosition},
-    ListRow{"input.c-video-format", 1068, 20299, kVideoFormats, Named(Op::GetVideoFormat, 1), Named(Op::SetCVideoFormat), kPosition},
-    ListRow{"input.s-video-format", 1069, 20300, kVideoFormats, Named(Op::GetVideoFormat, 0), Named(Op::SetSVideoFormat), kPosition},
-    ListRow{"input.hdmi", 187, 20307, kHdmis, Named(Op::GetHDMI), Named(Op::SetHDMI), kPosition},
-    ListRow{"input.m1-d", 70, 20301, kM1Ds, Named(Op::GetM1d), Named(Op::SetM1D), kPosition},
-    ListRow{"input.frame-lock", 59, 20302, kSwitch, Named(Op::GetFrameLock), Named(Op::SetFrameLock), kPosition},
-    ListRow{"input.frame-lock-rgb1", 1188, 20309, kSwitch, Named(Op::GetFrameLockComp1), Flagged(Op::SetFrameLockComp1, 1), kPosition},
-    ListRow{"input.frame-lock-computer1", 185, 20305, kSwitch, Named(Op::GetFrameLockComp1), Flagged(Op::SetFrameLockComp1, 0), kPosition},
-    ListRow{"input.frame-lock-rgb2", 1189, 20310, kSwitch, Named(Op::GetFrameLockComp2), Flagged(Op::SetFrameLockComp2, 1), kPosition},
-    ListRow{"input.frame-lock-computer2", 186, 20306, kSwitch, Named(Op::GetFrameLockComp2), Flagged(Op::SetFrameLockComp2, 0), kPosition},
-    ListRow{"input.frame-lock-hdmi", 1190, 20308, kSwitch, Named(Op::GetFrameLockHDMI), Named(Op::SetFrameLockHDMI), kPosition},
-    ListRow{"input.rgb-in-1", 1071, 20303, kInputs, Named(Op::GetRgbIn, 1), Flagged(Op::SetRgbIn1, 1), kPosition},
-    ListRow{"input.computer-in-1", 179, 20311, kInputs, Named(Op::GetRgbIn, 1), Flagged(Op::SetRgbIn1, 0), kPosition},
-    ListRow{"input.rgb-in-2", 1072, 20304, kInputs, Named(Op::GetRgbIn, 2), Flagged(Op::SetRgbIn2, 1), kPosition},
-    ListRow{"input.computer-in-2", 180, 20312, kInputs, Named(Op::GetRgbIn, 2), Flagged(Op::SetRgbIn2, 0), kPosition},
+    ListRow{"input.progressive", 60, 20294, kProgressive, Named(Op::GetProgressive), Named(Op::SetProgressive), kSendsPosition},
+    ListRow{"input.video-nr", 1058, 20295, kNoiseReductions, Named(Op::GetVideoNrVal), Flagged(Op::SetVideoNR, 1), kSendsPosition},
+    ListRow{"input.3d-ycs", 57, 20296, kYcs, Named(Op::Get3dycs), Named(Op::Set3DYCS), kSendsPosition},
+    ListRow{"input.color-space", 54, 20297, kColorSpaces, Named(Op::GetColorSpace), Named(Op::SetColorSpace), kSendsPosition},
+    ListRow{"input.component", 1055, 20298, kComponents, Named(Op::GetComponent), Named(Op::SetComponent), kSendsPosition},
+    ListRow{"input.c-video-format", 1068, 20299, kVideoFormats, Named(Op::GetVideoFormat, 1), Named(Op::SetCVideoFormat), kSendsPosition},
+    ListRow{"input.s-video-format", 1069, 20300, kVideoFormats, Named(Op::GetVideoFormat, 0), Named(Op::SetSVideoFormat), kSendsPosition},
+    ListRow{"input.hdmi", 187, 20307, kHdmis, Named(Op::GetHDMI), Named(Op::SetHDMI), kSendsPosition},
+    ListRow{"input.m1-d", 70, 20301, kM1Ds, Named(Op::GetM1d), Named(Op::SetM1D), kSendsPosition},
+    ListRow{"input.frame-lock", 59, 20302, kSwitch, Named(Op::GetFrameLock), Named(Op::SetFrameLock), kSendsPosition},
+    ListRow{"input.frame-lock-rgb1", 1188, 20309, kSwitch, Named(Op::GetFrameLockComp1), Flagged(Op::SetFrameLockComp1, 1), kSendsPosition},
+    ListRow{"input.frame-lock-computer1", 185, 20305, kSwitch, Named(Op::GetFrameLockComp1), Flagged(Op::SetFrameLockComp1, 0), kSendsPosition},
+    ListRow{"input.frame-lock-rgb2", 1189, 20310, kSwitch, Named(Op::GetFrameLockComp2), Flagged(Op::SetFrameLockComp2, 1), kSendsPosition},
+    ListRow{"input.frame-lock-computer2", 186, 20306, kSwitch, Named(Op::GetFrameLockComp2), Flagged(Op::SetFrameLockComp2, 0), kSendsPosition},
+    ListRow{"input.frame-lock-hdmi", 1190, 20308, kSwitch, Named(Op::GetFrameLockHDMI), Named(Op::SetFrameLockHDMI), kSendsPosition},
+    ListRow{"input.rgb-in-1", 1071, 20303, kInputs, Named(Op::GetRgbIn, 1), Flagged(Op::SetRgbIn1, 1), kSendsPosition},
+    ListRow{"input.computer-in-1", 179, 20311, kInputs, Named(Op::GetRgbIn, 1), Flagged(Op::SetRgbIn1, 0), kSendsPosition},
+    ListRow{"input.rgb-in-2", 1072, 20304, kInputs, Named(Op::GetRgbIn, 2), Flagged(Op::SetRgbIn2, 1), kSendsPosition},
+    ListRow{"input.computer-in-2", 180, 20312, kInputs, Named(Op::GetRgbIn, 2), Flagged(Op::SetRgbIn2, 0), kSendsPosition},
 };
 
 constexpr ModelRows kModels[] = {

@@ -2,15 +2,14 @@
 #include <iterator>
 
 #include "device/CommandCode.h"
-#include "settings/CatalogNumbers.h"
 #include "settings/MyButtons.h"
 #include "settings/PageTables.h"
+#include "settings/RowParts.h"
 
 namespace {
 
 using Op = PjtOperation;
 
-constexpr auto kSwitch = Numbered(ListText::SwitchOff, ListText::SwitchOn);
 constexpr auto kCcDisplays =
     Numbered(ListText::ClosedCaptionOff, ListText::ClosedCaptionOn, ListText::ClosedCaptionAuto);
 constexpr auto kCcModes = Numbered(ListText::ClosedCaptionCaptions, ListText::ClosedCaptionText);
@@ -55,7 +54,6 @@ int TextOfFunction(int code, int modelCode) {
   return found == std::end(kFunctionTexts) ? ListText::MyButtonBase + code : found->text;
 }
 
-constexpr ListRules kReadBack{.refused = Refused::ReadsBack};
 // Other than in a refresh, what is read back is the position, not a code to look up.
 constexpr ListRules kMyButton{
     .refused = Refused::ReadsBackPosition,
@@ -66,8 +64,7 @@ constexpr PageRow kRows[] = {
     ListRow{"option.auto-search", 16, 20364, kSwitch, Named(Op::GetAutoSearch), Named(Op::SetAutoSearch), kReadBack},
     ListRow{"option.auto-keystone", 18, 20365, kSwitch, Named(Op::GetAutoKeystone), Named(Op::SetAutoKeystone), kReadBack},
     ListRow{"option.auto-on", 93, 20366, kSwitch, Named(Op::GetAutoOn), Named(Op::SetAutoPowerOn), kReadBack},
-    ValueRow{.key = "option.auto-off", .caption = 94, .ids = {20367, 20369, 20368, 20370}, .read = Named(Op::GetAutoOff), .set = Named(Op::SetAutoPowerOff),
-             .down = Named(Op::DecrementAutoPowerOff), .up = Named(Op::IncrementAutoPowerOff), .rangeText = RangeIndex::AutoOff, .range = Range{0, 99}, .ticks = 5},
+    NamedSlider("option.auto-off", 94, {20367, 20369, 20368, 20370}, {Op::GetAutoOff, Op::SetAutoPowerOff, Op::DecrementAutoPowerOff, Op::IncrementAutoPowerOff}, RangeIndex::AutoOff, {0, 99}, 5),
     ListRow{"option.my-button-1", 95, 20371, MyButtonEntries, Named(Op::GetMyButton1), Named(Op::SetMyButton1), kMyButton},
     ListRow{"option.my-button-2", 96, 20372, MyButtonEntries, Named(Op::GetMyButton2), Named(Op::SetMyButton2), kMyButton},
     // Other than elsewhere, any result but 0 of the read is a success.

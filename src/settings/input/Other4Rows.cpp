@@ -18,7 +18,7 @@ constexpr PageRow kRows[] = {
     shared::Blank(20104),
     shared::Mute(20105),
     shared::Freeze(20106),
-    ListRow{"other.lens-lock", 4203, 20107, shared::kSwitch, Get(CommandCode::LensLock), Named(Op::SetLensLock), shared::kSilent},
+    ListRow{"other.lens-lock", 4203, 20107, kSwitch, Get(CommandCode::LensLock), Named(Op::SetLensLock), shared::kSilent},
     ListRow{"other.lens-type", 4204, 20108, kLensTypes, Get(CommandCode::LensType), Named(Op::SetLensType), shared::kSilent},
     ListRow{"other.screen-type", 4205, 20109, kScreenTypes, Get(CommandCode::ScreenType), Named(Op::SetScreenType), shared::kSilent},
     ListRow{"other.picture-position", 4206, 20110, kPicturePositions, Get(CommandCode::PicturePosition), Named(Op::SetPicturePosition), shared::kSilent},

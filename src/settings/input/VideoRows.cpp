@@ -1,5 +1,5 @@
 #include "settings/PageTables.h"
-#include "settings/input/LegacyInputLists.h"
+#include "settings/input/InputLists.h"
 
 namespace {
 

@@ -7,15 +7,11 @@ namespace {
 using Op = PjtOperation;
 
 constexpr auto kOffOn = Numbered(ListText::StartupOff, ListText::StartupOn);
-constexpr auto kMirrors = Numbered(ListText::ImageMirrorNormal, ListText::ImageMirrorHInverse,
-                                   ListText::ImageMirrorVInverse, ListText::ImageMirrorHVInverse);
+constexpr auto kImageMirrors =
+    Numbered(ListText::ImageMirrorNormal, ListText::ImageMirrorHInverse,
+             ListText::ImageMirrorVInverse, ListText::ImageMirrorHVInverse);
 constexpr auto kPinPInputs =
     Numbered(ListText::PinPInputVideo, ListText::PinPInputSVideo, ListText::PinPInputComponent);
-constexpr auto kPinPPositions = Numbered(ListText::PinPUpperLeft, ListText::PinPUpperRight,
-                                         ListText::PinPBottomLeft, ListText::PinPBottomRight);
-constexpr auto kPinPAudios = Numbered(ListText::PinPAudioRgb, ListText::PinPInputVideo);
-constexpr auto kPinPSizes =
-    Numbered(ListText::PinPSizeOff, ListText::PinPLarge, ListText::PinPSmall);
 
 // On model 71, which lacks the row, it undoes what was set at the projector.
 constexpr ResetEntry kResets[] = {{ListText::Keystone, Op::ExecKeyStoneReset}};
@@ -33,7 +29,7 @@ constexpr PageRow kRows[] = {
     Keystone(),
     ListRow{"image.blank", 38, 20112, kBlanks, Get(CommandCode::BlankColor), Named(Op::SetBlankColor), kBlankRules},
     ListRow{"image.startup", 39, 20113, kOffOn, Get(CommandCode::ImageStartup), Named(Op::SetStartup)},
-    ListRow{"image.mirror", 40, 20114, kMirrors, Get(CommandCode::ImageMirror), Named(Op::SetMirror)},
+    ListRow{"image.mirror", 40, 20114, kImageMirrors, Get(CommandCode::ImageMirror), Named(Op::SetMirror)},
     ListRow{"image.pin-p-input", 42, 20116, kPinPInputs, Get(CommandCode::ImagePinPInput), Named(Op::SetPinPInput)},
     ListRow{"image.pin-p-position", 43, 20117, kPinPPositions, Get(CommandCode::PinPPosition), Named(Op::SetPinPPosition)},
     ListRow{"image.pin-p-audio", 44, 20118, kPinPAudios, Get(CommandCode::ImagePinPAudio), Named(Op::SetPinPAudio)},

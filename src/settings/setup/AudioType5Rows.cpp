@@ -1,20 +1,13 @@
 #include "device/CommandCode.h"
-#include "settings/CatalogNumbers.h"
 #include "settings/PageTables.h"
+#include "settings/setup/AudioLists.h"
 
 namespace {
 
 using Op = PjtOperation;
 
-constexpr auto kSwitch = Numbered(ListText::SwitchOff, ListText::SwitchOn);
-constexpr auto kHdmiAudio = Numbered<1>("1", "2");
-
 // The audio inputs that a source can have. The digital and the MIU list have an entry of their own
 // behind the others; only where it is the sixth does it stand for the projector's own number.
-constexpr int kHdmiInput = 32;
-constexpr int kMiuInput = 16;
-constexpr auto kInputs =
-    Numbered(ListText::Off, ListText::Audio1, ListText::Audio2, ListText::Audio3);
 constexpr auto kInputsWith4 =
     Numbered(ListText::Off, ListText::Audio1, ListText::Audio2, ListText::Audio3, ListText::Audio4);
 
@@ -27,7 +20,7 @@ constexpr ListEntry kInputsWith4And[] = {{ListText::Off, 0},    {ListText::Audio
                                          {ListText::Audio4, 4}, {text, value}};
 
 constexpr ModelCodes kCodesWith4{30, 31, 41, 43, 46, 51, 52, 54};
-constexpr ModelEntries kSources[] = {{kCodesWith4, kInputsWith4}, {{}, kInputs}};
+constexpr ModelEntries kSources[] = {{kCodesWith4, kInputsWith4}, {{}, kThreeAudios}};
 constexpr ModelEntries kHdmiSources[] = {
     {kCodesWith4, kInputsWith4And<ListText::AudioHDMI, kHdmiInput>},
     {{}, kInputsAnd<ListText::AudioHDMI>}};
@@ -45,31 +38,27 @@ constexpr ListRules kHdmiMode{
 
 // Of the source that is heard. A refused position empties the field, and a failed read does no
 // more.
-constexpr ValueRow Tone(std::string_view key, int caption, const ValueIds& ids, int bias, Op get,
-                        Op set, Op down, Op up, int rangeText, Range range) {
-  return {.key = key,
-          .caption = caption,
-          .ids = ids,
-          .read = Named(get),
-          .set = Named(set),
-          .down = Named(down),
-          .up = Named(up),
-          .bias = bias,
-          .rangeText = rangeText,
-          .range = range,
-          .initial = 0,
-          .refusedDrag = RefusedDrag::Empties,
-          .failedReadDisables = false,
-          .deviceMemory = DeviceMemory::OfSteps,
-          .of = OfSource::Playing};
+constexpr ValueRow OfPlaying(ValueRow row, int initial) {
+  row.initial = initial;
+  row.refusedDrag = RefusedDrag::Empties;
+  row.failedReadDisables = false;
+  row.deviceMemory = DeviceMemory::OfSteps;
+  row.of = OfSource::Playing;
+  return row;
 }
 
 constexpr ValueRow Volume() {
-  ValueRow row = Tone("audio.volume", 1, {20345, 20347, 20346, 20355}, 0, Op::GetInputSrcVolume,
-                      Op::SetVolumeEachSrc, Op::DecrementInputSrcVol, Op::IncrementInputSrcVol,
-                      RangeIndex::Volume, {0, 48});
-  row.ticks = 4;
-  row.initial = 24;
+  return OfPlaying(NamedSlider("audio.volume", 1, {20345, 20347, 20346, 20355},
+                               {Op::GetInputSrcVolume, Op::SetVolumeEachSrc,
+                                Op::DecrementInputSrcVol, Op::IncrementInputSrcVol},
+                               RangeIndex::Volume, {0, 48}, 4),
+                   24);
+}
+
+constexpr ValueRow Tone(std::string_view key, int caption, const ValueIds& ids, const ValueOps& ops,
+                        int rangeText) {
+  ValueRow row = OfPlaying(NamedSlider(key, caption, ids, ops, rangeText, {-4, 4}), 0);
+  row.bias = CommandCode::kZeroPoint;
   return row;
 }
 
@@ -91,8 +80,8 @@ constexpr Call kSetHdmi = Flagged(Op::SetAudioM1D, {0, {41, 43, 51, 53, 54}, 1})
 // clang-format off
 constexpr PageRow kRows[] = {
     Volume(),
-    Tone("audio.treble", 2, {20348, 20350, 20349, 20315}, CommandCode::kZeroPoint, Op::GetInputSrcTreble, Op::SetInputSrcTreble, Op::DecrementInputSrcTreb, Op::IncrementInputSrcTreb, RangeIndex::Treble, {-4, 4}),
-    Tone("audio.bass", 3, {20351, 20353, 20352, 20316}, CommandCode::kZeroPoint, Op::GetInputSrcBass, Op::SetInputSrcBass, Op::DecrementInputSrcBass, Op::IncrementInputSrcBass, RangeIndex::Bass, {-4, 4}),
+    Tone("audio.treble", 2, {20348, 20350, 20349, 20315}, {Op::GetInputSrcTreble, Op::SetInputSrcTreble, Op::DecrementInputSrcTreb, Op::IncrementInputSrcTreb}, RangeIndex::Treble),
+    Tone("audio.bass", 3, {20351, 20353, 20352, 20316}, {Op::GetInputSrcBass, Op::SetInputSrcBass, Op::DecrementInputSrcBass, Op::IncrementInputSrcBass}, RangeIndex::Bass),
     ListRow{"audio.srs-wow", 4, 20381, kSurrounds, Named(Op::GetSRSWOW), Named(Op::SetSRSWOW), kSurround, {}, OfSource::Playing},
     ListRow{"audio.speaker", 5, 20354, kSwitch, Named(Op::GetSpeaker), Named(Op::SetSpeaker), kRouting},
     ListRow{"audio.rgb1", 1006, 20356, kSources, Named(Op::GetAudioRGB1), Named(Op::SetAudioRGB1), kRouting},

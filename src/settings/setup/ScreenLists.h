@@ -1,12 +1,10 @@
 #pragma once
 
 #include "device/CommandCode.h"
-#include "settings/CatalogNumbers.h"
-#include "settings/Rows.h"
+#include "settings/RowParts.h"
 
 // What the screen pages have in common.
 
-inline constexpr auto kScreenSwitch = Numbered(ListText::SwitchOff, ListText::SwitchOn);
 inline constexpr ListEntry kBlanks[] = {{ListText::BlankBlue, 3},
                                         {ListText::BlankWhite, 5},
                                         {ListText::BlankBlack, 6},

@@ -1,20 +1,12 @@
 #include "device/CommandCode.h"
-#include "settings/CatalogNumbers.h"
 #include "settings/PageTables.h"
+#include "settings/setup/AudioLists.h"
 
 namespace {
 
 using Op = PjtOperation;
 
-constexpr auto kMirrors = Numbered(ListText::MirrorNormal, ListText::MirrorHInverse,
-                                   ListText::MirrorVInverse, ListText::MirrorHVInverse);
-constexpr auto kSwitch = Numbered(ListText::SwitchOff, ListText::SwitchOn);
-
-// Audio routing. The projector has odd numbers for a few inputs.
-constexpr int kHdmiInput = 32;
-constexpr int kMiuInput = 16;
-constexpr auto kThreeAudios =
-    Numbered(ListText::Off, ListText::Audio1, ListText::Audio2, ListText::Audio3);
+// Audio routing.
 constexpr auto kTwoAudios = Numbered(ListText::Off, ListText::Audio1, ListText::Audio2);
 constexpr ModelEntries kAudios[] = {{{37}, kTwoAudios}, {{}, kThreeAudios}};
 constexpr ListEntry kAudioHdmi[] = {{ListText::Off, 0},
@@ -30,7 +22,6 @@ constexpr ListEntry kMiuOfOthers[] = {{ListText::Off, 0},
                                       {ListText::Audio3, 3},
                                       {ListText::AudioMIU, kMiuInput}};
 constexpr ModelEntries kAudioMiu[] = {{{38}, kMiuOf38}, {{}, kMiuOfOthers}};
-constexpr auto kHdmiAudio = Numbered<1>("1", "2");
 constexpr auto kStandbys = Numbered(ListText::StandbyNormal, ListText::StandbySaving);
 
 // Monitor out: 255 is off, 0 the first computer input, 4 the second.
@@ -45,30 +36,31 @@ constexpr ModelEntries kMonitorRgb1[] = {{{54}, kOutRgb1}, {{}, kOutRgbs}};
 constexpr ModelEntries kMonitorRgb2[] = {{{54}, kOutRgb2}, {{}, kOutRgbs}};
 constexpr ModelEntries kMonitors[] = {{{51, 54}, kOutRgbs}, {{}, kOutComputers}};
 
-constexpr ListRules kMode{.refused = Refused::ReadsBack};
-constexpr ListRules kModeTold{.refused = Refused::ReadsBack, .tellsText = true};
+constexpr ListRules kReadBackTold{.refused = Refused::ReadsBack, .tellsText = true};
 // A value without an entry leaves the selection of a routing list.
 constexpr ListRules kRouting{.noEntry = NoEntry::Keeps, .refused = Refused::ReadsBack};
 constexpr ListRules kRoutingTold{
     .noEntry = NoEntry::Keeps, .refused = Refused::ReadsBack, .tellsText = true};
 
 // Ticks at eighths. A refused position is not told: the slider goes back to what was remembered.
-constexpr ValueRow Keystone(std::string_view key, int caption, const ValueIds& ids, Op get, Op set,
-                            Op down, Op up, int rangeText) {
-  return {.key = key,
-          .caption = caption,
-          .ids = ids,
-          .read = Named(get),
-          .set = Named(set),
-          .down = Named(down),
-          .up = Named(up),
-          .bias = CommandCode::kZeroPoint,
-          .rangeText = rangeText,
-          .range = Range{-128, 127},
-          .ticks = 0,
-          .refusedDrag = RefusedDrag::GoesBack,
-          .greysField = true,
-          .deviceMemory = DeviceMemory::OfStepsAndReads};
+constexpr ValueRow Keystone(std::string_view key, int caption, const ValueIds& ids,
+                            const ValueOps& ops, int rangeText) {
+  ValueRow row = NamedSlider(key, caption, ids, ops, rangeText, {-128, 127}, 0);
+  row.bias = CommandCode::kZeroPoint;
+  row.refusedDrag = RefusedDrag::GoesBack;
+  row.greysField = true;
+  row.deviceMemory = DeviceMemory::OfStepsAndReads;
+  return row;
+}
+
+constexpr ValueRow Volume() {
+  ValueRow row = NamedSlider("setup.volume", 1, {20318, 20317, 20319, 20142},
+                             {Op::GetInputSrcVolume, Op::SetVolumeEachSrc, Op::DecrementInputSrcVol,
+                              Op::IncrementInputSrcVol},
+                             RangeIndex::Volume, {0, 32}, 0);
+  row.refusedDrag = RefusedDrag::GoesBack;
+  row.of = OfSource::Current;
+  return row;
 }
 
 // One direction of the digital shift. Any result but 0 counts; nothing on our side bounds it.
@@ -96,14 +88,12 @@ constexpr ResetEntry kResets[] = {
 // clang-format off
 constexpr PageRow kRows[] = {
     ActionRow{"setup.auto-keystone", 18, 20305, Named(Op::ExecAutoKeyStone)},
-    Keystone("setup.keystone-v", 137, {20308, 20310, 20309, 20314}, Op::GetKeystoneV, Op::SetKeystoneV, Op::DecrementKeystoneV, Op::IncrementKeystoneV, RangeIndex::KeystoneV),
-    Keystone("setup.keystone-h", 138, {20312, 20311, 20313, 20141}, Op::GetKeystoneH, Op::SetKeystoneH, Op::DecrementKeystoneH, Op::IncrementKeystoneH, RangeIndex::KeystoneH),
-    ListRow{"setup.whisper", 75, 20315, WhisperEntries, Named(Op::GetWhisper), Named(Op::SetWhisper), kMode},
-    ListRow{"setup.mirror", 40, 20316, kMirrors, Named(Op::GetMirror), Named(Op::SetMirror), kMode},
-    ListRow{"setup.speaker", 5, 20321, kSwitch, Named(Op::GetSpeaker), Named(Op::SetSpeaker), kModeTold},
-    ValueRow{.key = "setup.volume", .caption = 1, .ids = {20318, 20317, 20319, 20142}, .read = Named(Op::GetInputSrcVolume), .set = Named(Op::SetVolumeEachSrc),
-             .down = Named(Op::DecrementInputSrcVol), .up = Named(Op::IncrementInputSrcVol), .rangeText = RangeIndex::Volume, .range = Range{0, 32}, .ticks = 0,
-             .refusedDrag = RefusedDrag::GoesBack, .of = OfSource::Current},
+    Keystone("setup.keystone-v", 137, {20308, 20310, 20309, 20314}, {Op::GetKeystoneV, Op::SetKeystoneV, Op::DecrementKeystoneV, Op::IncrementKeystoneV}, RangeIndex::KeystoneV),
+    Keystone("setup.keystone-h", 138, {20312, 20311, 20313, 20141}, {Op::GetKeystoneH, Op::SetKeystoneH, Op::DecrementKeystoneH, Op::IncrementKeystoneH}, RangeIndex::KeystoneH),
+    ListRow{"setup.whisper", 75, 20315, WhisperEntries, Named(Op::GetWhisper), Named(Op::SetWhisper), kReadBack},
+    ListRow{"setup.mirror", 40, 20316, kMirrors, Named(Op::GetMirror), Named(Op::SetMirror), kReadBack},
+    ListRow{"setup.speaker", 5, 20321, kSwitch, Named(Op::GetSpeaker), Named(Op::SetSpeaker), kReadBackTold},
+    Volume(),
     // Only the buttons are strict about the result.
     ValueRow{.key = "setup.d-zoom", .caption = 194, .ids = {20331, 20332, 20333, 20143}, .code = CommandCode::DigitalZoom,
              .read = AnyResult(Get(CommandCode::DigitalZoom)), .set = AnyResult(Set(CommandCode::DigitalZoom)),

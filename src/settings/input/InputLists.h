@@ -1,15 +1,13 @@
 #pragma once
 
 #include "device/CommandCode.h"
-#include "settings/CatalogNumbers.h"
-#include "settings/Rows.h"
+#include "settings/RowParts.h"
 
-// What the older input pages have in common.
+// What the input pages have in common; what is called legacy, only the older ones.
 
-inline constexpr auto kInputSwitch = Numbered(ListText::SwitchOff, ListText::SwitchOn);
-inline constexpr auto kLegacyColorSpaces =
+inline constexpr auto kColorSpaces =
     Numbered(ListText::Auto, "RGB", "SMPTE240", "REC709", "REC601");
-inline constexpr auto kLegacyComponents = Numbered("Component", "Scart RGB");
+inline constexpr auto kComponents = Numbered("Component", "Scart RGB");
 inline constexpr ListEntry kLegacyVideoFormats[] = {
     {ListText::Auto, 10}, {"NTSC", 4},  {"PAL", 5},  {"SECAM", 9},
     {"NTSC 4.43", 2},     {"M-PAL", 8}, {"N-PAL", 7}};
@@ -21,9 +19,6 @@ inline constexpr auto kLegacyNoiseReductions =
                 ListText::NoiseReductionHigh);
 inline constexpr auto kLegacyProgressive =
     Numbered(ListText::Off, ListText::LegacyProgressiveTv, ListText::LegacyProgressiveFilm);
-inline constexpr auto kPinPPositions =
-    Numbered(ListText::PinPUpperLeft, ListText::PinPUpperRight, ListText::PinPBottomLeft,
-             ListText::PinPBottomRight);
 
 // The projector interface takes positions, also of lists whose values are mapped when they are
 // read, and maps them back.

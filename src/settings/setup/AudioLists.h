@@ -1,0 +1,13 @@
+#pragma once
+
+#include "settings/RowParts.h"
+
+// What the pages that route sound have in common.
+
+inline constexpr auto kThreeAudios =
+    Numbered(ListText::Off, ListText::Audio1, ListText::Audio2, ListText::Audio3);
+inline constexpr auto kHdmiAudio = Numbered<1>("1", "2");
+
+// The projector's own numbers for two inputs.
+inline constexpr int kHdmiInput = 32;
+inline constexpr int kMiuInput = 16;

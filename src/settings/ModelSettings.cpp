@@ -1,6 +1,7 @@
 #include "settings/ModelSettings.h"
 
 #include <algorithm>
+#include <map>
 #include <string>
 #include <utility>
 
@@ -125,14 +126,33 @@ std::optional<int> ModelSettings::PresentSource(CPjtInterface& projector,
 }
 
 void ModelSettings::Announce(CPjtInterface& projector,
-                             std::span<const ModelSetting* const> settings) const {
+                             std::span<const SourcedSetting> settings) const {
   std::vector<PjtCommand> reads;
-  for (const ModelSetting* setting : settings) {
-    // Which source it will be is not known yet.
+  for (const auto& [setting, source] : settings) {
     const auto call = ReadingOf(*setting->row, *model_);
-    if (call && setting->of == OfSource::None) reads.push_back(call->Command());
+    const bool hasSource = setting->of != OfSource::None;
+    if (!call || (hasSource && !source)) continue;
+    reads.push_back((hasSource ? At(*call, *source) : *call).Command());
   }
   projector.Announce(reads);
+}
+
+std::vector<SourcedSetting> ModelSettings::PrepareReads(
+    CPjtInterface& projector, std::span<const ModelSetting* const> settings) const {
+  std::map<OfSource, std::optional<int>> sources;
+  for (const ModelSetting* setting : settings) sources[setting->of];
+  std::vector<PjtCommand> questions;
+  for (const auto& [of, source] : sources) {
+    for (const Call& question : SourceQuestions(of)) questions.push_back(question.Command());
+  }
+  if (!questions.empty()) projector.Announce(questions);
+  for (auto& [of, source] : sources) {
+    if (of != OfSource::None) source = AskSource(projector, of, model_->ModelCode);
+  }
+  std::vector<SourcedSetting> sourced;
+  for (const ModelSetting* setting : settings) sourced.push_back({setting, sources[setting->of]});
+  Announce(projector, sourced);
+  return sourced;
 }
 
 std::optional<int> ModelSettings::Read(CPjtInterface& projector, const ModelSetting& setting,

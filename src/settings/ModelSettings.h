@@ -44,6 +44,12 @@ struct ModelSetting {
   bool Allows(int value) const;
 };
 
+/// A setting to be read, and the input source that it is read for.
+struct SourcedSetting {
+  const ModelSetting* setting = nullptr;  ///< Never null.
+  std::optional<int> source{};  ///< Nothing for one that belongs to none, or while unknown.
+};
+
 /// How a value is sent, beside the value.
 struct Sending {
   std::string text{};           ///< The entry's, which some connections are told.
@@ -68,7 +74,11 @@ class ModelSettings {
   std::optional<int> PresentSource(CPjtInterface& projector, const ModelSetting& setting) const;
   /// Tells the connection what will be read next, in this order, so that it may ask for all at
   /// once.
-  void Announce(CPjtInterface& projector, std::span<const ModelSetting* const> settings) const;
+  void Announce(CPjtInterface& projector, std::span<const SourcedSetting> settings) const;
+  /// The same for the sources that the settings belong to now. Each is asked for once, and holds as
+  /// long as nothing is changed.
+  std::vector<SourcedSetting> PrepareReads(CPjtInterface& projector,
+                                           std::span<const ModelSetting* const> settings) const;
   /// The device value, of `source` or else the present one; nothing where the projector refuses it
   /// or does not answer.
   std::optional<int> Read(CPjtInterface& projector, const ModelSetting& setting,

@@ -1,12 +1,18 @@
 // Snapshots on every projector of the profile file: kept, disturbed, put back.
 
+#include <atomic>
 #include <gmock/gmock.h>
 #include <random>
+#include <thread>
 
+#include <QTcpServer>
+#include <QTcpSocket>
 #include <gtest/gtest.h>
 
 #include "app/profiles/ProjectorAccess.h"
+#include "device/TcpChannel.h"
 #include "i18n/SystemLanguage.h"
+#include "simulator/WireResponder.h"
 #include "snapshots/Restoration.h"
 
 namespace {
@@ -33,11 +39,15 @@ struct Disturbed : ProjectorChannel {
   PjtReply Execute(const PjtCommand& command) override {
     ++count;
     if (!IsRead(command.operation)) ++sent;
-    const PjtReply lost{.result = RefusedResult(command.operation), .answered = false};
-    if (count > trouble.deadAfter || Happens(trouble.lostPercent)) return lost;
+    const PjtReply unanswered{.result = RefusedResult(command.operation), .answered = false};
+    ++lost;
+    if (count > trouble.deadAfter || Happens(trouble.lostPercent)) return unanswered;
+    --lost;
     if (Happens(trouble.refusedPercent)) return {.result = RefusedResult(command.operation)};
     const PjtReply reply = projector.Execute(command);
-    return Happens(trouble.lostPercent) ? lost : reply;
+    if (!Happens(trouble.lostPercent)) return reply;
+    ++lost;
+    return unanswered;
   }
   bool Happens(int percent) { return static_cast<int>(random() % 100) < percent; }
 
@@ -47,12 +57,53 @@ struct Disturbed : ProjectorChannel {
   struct Trouble {
     int refusedPercent = 0, lostPercent = 0, deadAfter = 1 << 30;
   } trouble{};
-  int count = 0, sent = 0;
+  int count = 0, sent = 0, lost = 0;
+};
+
+/// The way to it over TCP, which stays silent where an answer got lost.
+class Line {
+ public:
+  explicit Line(std::shared_ptr<Disturbed> projector) : projector_(std::move(projector)) {
+    while (port_ == 0) std::this_thread::yield();
+  }
+  std::shared_ptr<ProjectorChannel> Channel() const {
+    constexpr std::chrono::milliseconds kTimeOut{100};
+    return std::make_shared<TcpChannel>("127.0.0.1", port_,
+                                        WireChannel::Limits{.answer = kTimeOut});
+  }
+
+ private:
+  void Serve(const std::stop_token& end) {
+    QTcpServer server;
+    server.listen(QHostAddress::LocalHost);
+    port_ = server.serverPort();
+    while (!end.stop_requested()) {
+      if (!server.waitForNewConnection(10)) continue;
+      const std::unique_ptr<QTcpSocket> socket(server.nextPendingConnection());
+      WireResponder responder(*projector_);
+      while (!end.stop_requested() && socket->state() == QTcpSocket::ConnectedState) {
+        socket->waitForReadyRead(10);
+        const int lost = projector_->lost;
+        const std::string reply = responder.Receive(socket->readAll().toStdString());
+        if (projector_->lost == lost) socket->write(reply.data(), std::ssize(reply));
+        socket->flush();
+      }
+    }
+  }
+
+  std::shared_ptr<Disturbed> projector_;
+  std::atomic<std::uint16_t> port_ = 0;
+  std::jthread thread_{[this](const std::stop_token& end) { Serve(end); }};
 };
 
 struct Room {
   explicit Room(const ProjectorProfile& profile)
-      : channel(std::make_shared<Disturbed>(profile)), projector(profile, channel) {}
+      : Room(profile, std::make_shared<Disturbed>(profile)) {}
+  Room(const ProjectorProfile& profile, std::shared_ptr<Disturbed> disturbed)
+      : Room(profile, disturbed, disturbed) {}
+  Room(const ProjectorProfile& profile, std::shared_ptr<Disturbed> disturbed,
+       std::shared_ptr<ProjectorChannel> way)
+      : channel(std::move(disturbed)), projector(profile, std::move(way)) {}
 
   Snapshot Take() {
     return TakeSnapshot(projector.Name(), projector.Settings(), projector.Connection(), Texts());
@@ -116,10 +167,17 @@ TEST(Restoration, BringsEveryProjectorBackAndUndoesItself) {
 
 // Whatever goes wrong, each list holds what is in it, and doing it again completes it.
 TEST(Restoration, TellsTheTruthWhenCommandsAreRefusedAndLost) {
-  const Disturbed::Trouble kCases[] = {{1, 1}, {30, 10}, {0, 0, 40}, {0, 0, 100}, {0, 0, 130}};
-  const ProjectorProfile& profile = Profile("Projector 5-54");
-  for (const Disturbed::Trouble& trouble : kCases) {
-    SCOPED_TRACE(&trouble - kCases);
+  const struct {
+    const char* profile;
+    Disturbed::Trouble trouble;
+    bool overTcp = false;
+  } kCases[] = {{"Projector 5-54", {30, 10}},       {"Projector 5-54", {0, 0, 40}},
+                {"Projector 5-54", {0, 0, 100}},    {"Projector 5-54", {0, 0, 130}},
+                {"Projector 5-54", {1, 1}, true},   {"Projector 1-1", {1, 1}, true},
+                {"Projector 4-11 b", {1, 1}, true}, {"Projector 3-71", {0, 0, 60}, true}};
+  for (const auto& [name, trouble, overTcp] : kCases) {
+    SCOPED_TRACE(name);
+    const ProjectorProfile& profile = Profile(name);
     Room room(profile);
     room.ChangeAll(1);
     const Snapshot wanted = room.Take();
@@ -128,14 +186,16 @@ TEST(Restoration, TellsTheTruthWhenCommandsAreRefusedAndLost) {
     before.Read();
     room.channel->count = 0;
     room.channel->trouble = trouble;
-    const Restoration restoration = room.Restore(wanted);
+    auto line = overTcp ? std::make_unique<Line>(room.channel) : nullptr;
+    Room far(profile, room.channel, line ? line->Channel() : room.channel);
+    const Restoration restoration = far.Restore(wanted);
+    line.reset();
     room.channel->trouble = {};
-    ProjectorAccess again(profile, room.channel);
     for (std::size_t i = 0; i < wanted.settings.size(); ++i) {
       const RestoredSetting& restored = restoration.Settings()[i];
       SCOPED_TRACE(restored.saved.key);
-      const auto now =
-          again.Settings().Read(again.Connection(), *restored.setting, restored.saved.source);
+      const auto now = room.projector.Settings().Read(room.projector.Connection(),
+                                                      *restored.setting, restored.saved.source);
       const bool done =
           restored.outcome == Outcome::Changed || restored.outcome == Outcome::AlreadySo;
       if (done) {
@@ -146,9 +206,7 @@ TEST(Restoration, TellsTheTruthWhenCommandsAreRefusedAndLost) {
         EXPECT_EQ(now, before.Settings()[i].before) << "nothing was sent";
       }
     }
-    Restoration rest(wanted, again.Settings(), again.Connection());
-    rest.Read();
-    rest.Send(Texts());
+    const Restoration rest = room.Restore(wanted);
     EXPECT_EQ(rest.Count(Outcome::Changed) + rest.Count(Outcome::AlreadySo),
               static_cast<int>(wanted.settings.size()));
   }

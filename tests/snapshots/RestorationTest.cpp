@@ -39,15 +39,11 @@ struct Disturbed : ProjectorChannel {
   PjtReply Execute(const PjtCommand& command) override {
     ++count;
     if (!IsRead(command.operation)) ++sent;
-    const PjtReply unanswered{.result = RefusedResult(command.operation), .answered = false};
-    ++lost;
-    if (count > trouble.deadAfter || Happens(trouble.lostPercent)) return unanswered;
-    --lost;
+    const PjtReply lost{.result = RefusedResult(command.operation), .answered = false};
+    if (count > trouble.deadAfter || Happens(trouble.lostPercent)) return lost;
     if (Happens(trouble.refusedPercent)) return {.result = RefusedResult(command.operation)};
     const PjtReply reply = projector.Execute(command);
-    if (!Happens(trouble.lostPercent)) return reply;
-    ++lost;
-    return unanswered;
+    return Happens(trouble.lostPercent) ? lost : reply;
   }
   bool Happens(int percent) { return static_cast<int>(random() % 100) < percent; }
 
@@ -57,10 +53,10 @@ struct Disturbed : ProjectorChannel {
   struct Trouble {
     int refusedPercent = 0, lostPercent = 0, deadAfter = 1 << 30;
   } trouble{};
-  int count = 0, sent = 0, lost = 0;
+  int count = 0, sent = 0;
 };
 
-/// The way to it over TCP, which stays silent where an answer got lost.
+/// The way to it over TCP, where an answer that got lost is never there.
 class Line {
  public:
   explicit Line(std::shared_ptr<Disturbed> projector) : projector_(std::move(projector)) {
@@ -83,9 +79,15 @@ class Line {
       WireResponder responder(*projector_);
       while (!end.stop_requested() && socket->state() == QTcpSocket::ConnectedState) {
         socket->waitForReadyRead(10);
-        const int lost = projector_->lost;
-        const std::string reply = responder.Receive(socket->readAll().toStdString());
-        if (projector_->lost == lost) socket->write(reply.data(), std::ssize(reply));
+        Wire::Decoder replies;
+        replies.Add(responder.Receive(socket->readAll().toStdString()));
+        while (const auto frame = replies.Next()) {
+          const auto* reply = std::get_if<Wire::Reply>(&frame->message);
+          if (reply != nullptr && reply->status == Wire::Status::Unanswered) continue;
+          std::string bytes;
+          Wire::Append(bytes, *frame);
+          socket->write(bytes.data(), std::ssize(bytes));
+        }
         socket->flush();
       }
     }

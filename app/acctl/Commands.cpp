@@ -308,7 +308,10 @@ Report RunWatch(const Work& work, ProjectorAccess& projector) {
       const std::string text = work.arguments.json
                                    ? json.toJson(QJsonDocument::Compact).toStdString() + '\n'
                                    : line.Text();
-      if (!Print(text)) return report;
+      if (!Print(text)) {
+        report.code = ExitCode::Refused;
+        return report;
+      }
     }
     WaitInSteps(work.arguments.interval, progress);
   }

@@ -18,6 +18,7 @@ void Describe(const ListRow& row, const ModelData& model, ModelSetting& setting)
   setting.kind = row.send ? ModelSetting::Kind::Choice : ModelSetting::Kind::State;
   setting.entries = row.entries.Of(model);
   setting.changeable = row.send.has_value() && !setting.entries.empty();
+  setting.placeholder = row.rules.placeholder.Of(model.ModelCode);
   setting.of = row.of;
 }
 
@@ -82,7 +83,7 @@ std::vector<const PageTable*> PopUpsOf(PageId page, const ModelData& model) {
 }  // namespace
 
 bool ModelSetting::Allows(int value) const {
-  if (kind == Kind::Choice) return PositionOf(entries, value) >= 0;
+  if (kind == Kind::Choice) return value != placeholder && PositionOf(entries, value) >= 0;
   if (kind == Kind::State) return changeable && (value == 0 || value == 1);
   return kind == Kind::Number && (!range || (value >= range->minimum && value <= range->maximum));
 }

@@ -29,9 +29,10 @@ struct ModelSetting {
   int bias = 0;                    ///< Shown value = device value − `bias`.
   std::optional<Range> range{};    ///< Device values; none where only the projector bounds it.
   std::vector<ListEntry> entries;  ///< In the list's order; names may point into the model's data.
-  int otherwise = 0;               ///< Text of a state's other values, which are its insert.
-  std::optional<Call> reset{};     ///< Puts it back to the projector's own standard.
-  OfSource of = OfSource::None;    ///< Kept for each input source; read and changed for any.
+  std::optional<int> placeholder{};  ///< Value of an entry that is shown, and never sent.
+  int otherwise = 0;                 ///< Text of a state's other values, which are its insert.
+  std::optional<Call> reset{};       ///< Puts it back to the projector's own standard.
+  OfSource of = OfSource::None;      ///< Kept for each input source; read and changed for any.
   bool ofCurrentSourceOnly = false;  ///< The same, but of the source that plays at that time.
   bool readable = false;
   bool changeable = false;

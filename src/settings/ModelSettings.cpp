@@ -8,7 +8,6 @@
 #include "device/CommandCode.h"
 #include "settings/CatalogNumbers.h"
 #include "settings/PageTables.h"
-#include "settings/picture/PictureRows.h"
 
 namespace {
 
@@ -53,33 +52,6 @@ void Describe(const ActionRow& row, const ModelData& model, ModelSetting& settin
 
 void Describe(const auto&, const ModelData&, ModelSetting&) {}
 
-/// The pop-ups that a page opens on this model. The user's gamma and colour temperature can only be
-/// shaped where the model has them.
-std::vector<const PageTable*> PopUpsOf(PageId page, const ModelData& model) {
-  std::vector<const PageTable*> tables;
-  if (page == PageId::PictureType5 || page == PageId::Pic) {
-    const auto has = [](const CountedList& list, auto isCustom) {
-      for (int i = 0; i < list.Size(); ++i) {
-        if (isCustom(i, list.values[static_cast<std::size_t>(i)])) return true;
-      }
-      return false;
-    };
-    const bool byValue = page == PageId::PictureType5;
-    if (has(model.GammaList, [byValue](int position, int value) {
-          return byValue ? value <= kLastCustomGamma : position <= kLastCustomGammaPosition;
-        })) {
-      tables.push_back(&kGammaRows);
-    }
-    if (has(model.ColorTempList, [byValue](int position, int value) {
-          return byValue ? value >= kFirstCustomColorTemp : position == kCustomColorTempPosition;
-        })) {
-      tables.push_back(&kColorTempRows);
-    }
-  }
-  if (page == PageId::Option5) tables.push_back(&kServiceRows);
-  return tables;
-}
-
 }  // namespace
 
 bool ModelSetting::Allows(int value) const {
@@ -93,7 +65,7 @@ ModelSettings::ModelSettings(ModelData model)
   Add(kStatusRows, Caption::TabStatus);
   for (const PageTab& tab : TabsOf(model_->DialogType, model_->ModelCode)) {
     Add(TableOf(tab.page), tab.caption);
-    for (const PageTable* popUp : PopUpsOf(tab.page, *model_)) Add(*popUp, tab.caption);
+    for (const PagePopUp& popUp : PopUpsOf(tab.page, *model_)) Add(*popUp.table, tab.caption);
   }
 }
 

@@ -27,17 +27,35 @@ const char* NameOf(Kind kind) {
   }
 }
 
-/// The settings that the words name, in the model's order; a word that names none is complained of.
-std::vector<const ModelSetting*> Chosen(const ModelSettings& settings,
+/// What a command does with a setting.
+struct Use {
+  bool (*isPossible)(const ModelSetting&);
+  const char* refusal;
+};
+
+constexpr Use kTold{[](const ModelSetting&) { return true; }, ""};
+constexpr Use kRead{[](const ModelSetting& setting) { return setting.readable; },
+                    "this cannot be read"};
+constexpr Use kReset{[](const ModelSetting& setting) { return setting.reset.has_value(); },
+                     "this cannot be reset"};
+
+/// The settings that the words name and that can be used so, in the model's order; a word that
+/// names none is complained of.
+std::vector<const ModelSetting*> Chosen(const ModelSettings& settings, const Use& use,
                                         const std::vector<std::string>& words, Report& report) {
   std::vector<const ModelSetting*> chosen;
   for (const ModelSetting& setting : settings.All()) {
-    if (IsLike(setting.key, words)) chosen.push_back(&setting);
+    if (IsLike(setting.key, words) && use.isPossible(setting)) chosen.push_back(&setting);
   }
   for (const std::string& word : words) {
-    const bool names = std::ranges::any_of(
-        chosen, [&word](const ModelSetting* setting) { return IsLike(setting->key, {word}); });
-    if (!names) report.Complain(word + ": this model has no such setting", ExitCode::WrongUse);
+    const auto isNamed = [&word](const ModelSetting& setting) {
+      return IsLike(setting.key, {word});
+    };
+    const auto deref = [](const ModelSetting* setting) -> const ModelSetting& { return *setting; };
+    if (std::ranges::any_of(chosen, isNamed, deref)) continue;
+    const bool exists = std::ranges::any_of(settings.All(), isNamed);
+    report.Complain(word + ": " + (exists ? use.refusal : "this model has no such setting"),
+                    ExitCode::WrongUse);
   }
   return chosen;
 }
@@ -54,22 +72,24 @@ std::vector<std::string> Cells(const SettingTexts& texts, const ModelSetting& se
   return {std::string(setting.key), texts.Caption(setting), texts.Value(setting, value)};
 }
 
-/// Reads settings into the report; after the first that is not answered no other is asked.
+/// Reads settings into the report; once the projector is gone no other is asked.
 void ReadInto(const Work& work, ProjectorAccess& projector,
               const std::vector<const ModelSetting*>& settings, Report& report) {
   const Progress progress = ProgressOf(work, projector);
   Table table;
   QJsonArray values;
-  projector.Settings().Announce(projector.Connection(), settings);
-  for (const ModelSetting* setting : settings) {
-    if (!progress.goesOn()) break;
-    if (const auto value = projector.Settings().Read(projector.Connection(), *setting)) {
+  std::vector<SourcedSetting> reads;
+  if (progress.goesOn())
+    reads = projector.Settings().PrepareReads(projector.Connection(), settings);
+  for (const auto& [setting, source] : reads) {
+    if (const auto value = projector.Settings().Read(projector.Connection(), *setting, source)) {
       table.Add(Cells(work.texts, *setting, *value));
       values.append(ValueOf(work.texts, *setting, *value));
     } else {
       ComplainOf(*setting, projector, "cannot be read now", report);
     }
     progress.step();
+    if (!progress.goesOn()) break;
   }
   report.text = table.Text();
   report.json["settings"] = values;
@@ -111,9 +131,10 @@ std::vector<Change> ChangesOf(const Work& work, const ModelSettings& settings, R
 void Make(const Change& change, const Work& work, ProjectorAccess& projector, Report& report) {
   const ModelSetting& setting = *change.setting;
   const ModelSettings& settings = projector.Settings();
+  const auto source = settings.PresentSource(projector.Connection(), setting);
   std::optional<int> present;
   if (change.typed.relative) {
-    present = settings.Read(projector.Connection(), setting);
+    present = settings.Read(projector.Connection(), setting, source);
     if (!present) return ComplainOf(setting, projector, "cannot be read now", report);
   }
   const auto value = Resolve(setting, change.typed, present);
@@ -126,11 +147,11 @@ void Make(const Change& change, const Work& work, ProjectorAccess& projector, Re
   }
   const bool accepted = settings.Change(
       projector.Connection(), setting, *value,
-      {.text = work.texts.Value(setting, *value), .goesOn = ProgressOf(work, projector).goesOn});
+      {work.texts.Value(setting, *value), source, ProgressOf(work, projector).goesOn});
   const bool answered = projector.Channel().HasAnswered();
   if (!accepted || !answered) return ComplainOf(setting, projector, "refused", report);
   // A setter without a result says nothing; what is read afterwards does.
-  const auto now = settings.Read(projector.Connection(), setting);
+  const auto now = settings.Read(projector.Connection(), setting, source);
   // A projector that is cooling down does what it was told.
   const bool isSo = setting.kind == Kind::State ? (now == 1) == (*value == 1) : now == *value;
   if (now && !isSo) {
@@ -207,7 +228,8 @@ Report RunSettings(const Work& work, ProjectorAccess& projector) {
   Report report;
   Table table;
   QJsonArray described;
-  for (const ModelSetting* setting : Chosen(projector.Settings(), work.arguments.words, report)) {
+  for (const ModelSetting* setting :
+       Chosen(projector.Settings(), kTold, work.arguments.words, report)) {
     described.append(Describe(work.texts, *setting));
     if (work.arguments.brief) {
       table.Add({std::string(setting->key)});
@@ -224,9 +246,8 @@ Report RunSettings(const Work& work, ProjectorAccess& projector) {
 
 Report RunGet(const Work& work, ProjectorAccess& projector) {
   Report report;
-  auto chosen = Chosen(projector.Settings(), work.arguments.words, report);
-  std::erase_if(chosen, [](const ModelSetting* setting) { return !setting->readable; });
-  ReadInto(work, projector, chosen, report);
+  ReadInto(work, projector, Chosen(projector.Settings(), kRead, work.arguments.words, report),
+           report);
   return report;
 }
 
@@ -248,12 +269,7 @@ Report RunSet(const Work& work, ProjectorAccess& projector) {
 
 Report RunReset(const Work& work, ProjectorAccess& projector) {
   Report report;
-  const auto chosen = Chosen(projector.Settings(), work.arguments.words, report);
-  for (const ModelSetting* setting : chosen) {
-    if (!setting->reset) {
-      report.Complain(std::string(setting->key) + ": this cannot be reset", ExitCode::WrongUse);
-    }
-  }
+  const auto chosen = Chosen(projector.Settings(), kReset, work.arguments.words, report);
   if (report.code != ExitCode::Done) return report;
   const Progress progress = ProgressOf(work, projector);
   for (const ModelSetting* setting : chosen) {
@@ -274,13 +290,14 @@ Report RunStatus(const Work& work, ProjectorAccess& projector) {
 
 Report RunWatch(const Work& work, ProjectorAccess& projector) {
   Report report;
-  const auto chosen = Chosen(projector.Settings(), work.arguments.words, report);
+  const auto chosen = Chosen(projector.Settings(), kRead, work.arguments.words, report);
   const Progress progress = ProgressOf(work, projector);
   std::map<const ModelSetting*, std::optional<int>> last;
   while (report.code == ExitCode::Done && progress.goesOn()) {
-    for (const ModelSetting* setting : chosen) {
-      if (!setting->readable || !progress.goesOn()) continue;
-      const auto value = projector.Settings().Read(projector.Connection(), *setting);
+    for (const auto& [setting, source] :
+         projector.Settings().PrepareReads(projector.Connection(), chosen)) {
+      if (report.code != ExitCode::Done || work.isInterrupted()) break;
+      const auto value = projector.Settings().Read(projector.Connection(), *setting, source);
       if (!projector.Channel().HasAnswered()) ComplainOf(*setting, projector, "", report);
       const auto [known, isNew] = last.try_emplace(setting, value);
       if (!value || (!isNew && known->second == value)) continue;
@@ -291,7 +308,10 @@ Report RunWatch(const Work& work, ProjectorAccess& projector) {
       const std::string text = work.arguments.json
                                    ? json.toJson(QJsonDocument::Compact).toStdString() + '\n'
                                    : line.Text();
-      if (!Print(text)) return report;
+      if (!Print(text)) {
+        report.code = ExitCode::Refused;
+        return report;
+      }
     }
     WaitInSteps(work.arguments.interval, progress);
   }

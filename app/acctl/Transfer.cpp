@@ -26,7 +26,7 @@ constexpr std::array<OutcomeList, 9> kLists{{
     {Outcome::AlreadySo, "alreadySo", "already so", nullptr, ExitCode::Done},
     {Outcome::Refused, "refused", "refused", nullptr, ExitCode::Refused},
     {Outcome::Unconfirmed, "unconfirmed", "unconfirmed", "sent, but not confirmed",
-     ExitCode::NoAnswer},
+     ExitCode::Refused},
     {Outcome::NotReached, "notDone", "not done", nullptr, ExitCode::Done},
     {Outcome::Unknown, "skipped", nullptr, "skipped, this model does not have it", ExitCode::Done},
     {Outcome::NotSettable, "skipped", nullptr, "skipped, it is not one to put back",

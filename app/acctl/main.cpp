@@ -3,6 +3,7 @@
 #include <csignal>
 #include <cstdio>
 #include <exception>
+#include <fcntl.h>
 #include <unistd.h>
 
 #include <QCoreApplication>
@@ -31,7 +32,15 @@ void WatchSignals() {
   action.sa_handler = [](int signal) { receivedSignal = signal; };
   action.sa_flags = static_cast<int>(SA_RESETHAND);
   for (const int signal : {SIGINT, SIGTERM, SIGHUP}) sigaction(signal, &action, nullptr);
-  std::signal(SIGPIPE, SIG_IGN);  // a reader that left must not cut off what is being sent
+}
+
+// A reader that left must not cut off what is being sent, and what is printed where nothing is open
+// must not reach a file or a projector that is opened in its place.
+void GuardOutput() {
+  std::signal(SIGPIPE, SIG_IGN);
+  int opened = 0;
+  while (opened >= 0 && opened <= STDERR_FILENO) opened = open("/dev/null", O_RDONLY | O_CLOEXEC);
+  close(opened);
 }
 
 int Fail(std::string_view message) {
@@ -223,6 +232,7 @@ int Main(int argc, char* argv[]) {
 
 int main(int argc, char* argv[]) {
   try {
+    GuardOutput();
     return Main(argc, argv);
   } catch (const std::exception& error) {
     Complain(error.what());

@@ -1,13 +1,34 @@
 #include "app/profiles/WholeFile.h"
 
+#include <QFileInfo>
 #include <QSaveFile>
 
-QString WriteWholeFile(const QString& path, const QByteArray& bytes) {
-  QSaveFile file(path);
-  // What is still in the buffer when the file is committed may get lost unnoticed.
-  if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() &&
-      file.commit()) {
-    return {};
+namespace {
+
+// Unbuffered: what is still in a buffer when the file is committed may get lost unnoticed.
+bool OpenAndWrite(QFileDevice& file, const QByteArray& bytes) {
+  if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) return false;
+  qsizetype written = 0;
+  while (written < bytes.size()) {  // a disk that fills up takes a part first
+    const qint64 part = file.write(bytes.constData() + written, bytes.size() - written);
+    if (part <= 0) return false;
+    written += part;
   }
+  return true;
+}
+
+QString ErrorOf(const QString& path, const QFileDevice& file) {
   return QStringLiteral("cannot write %1: %2").arg(path, file.errorString());
+}
+
+}  // namespace
+
+QString WriteWholeFile(const QString& path, const QByteArray& bytes) {
+  const QFileInfo target(path);
+  if (target.exists() && !target.isFile() && !target.isDir()) {
+    QFile device(path);
+    return OpenAndWrite(device, bytes) ? QString() : ErrorOf(path, device);
+  }
+  QSaveFile file(path);
+  return OpenAndWrite(file, bytes) && file.commit() ? QString() : ErrorOf(path, file);
 }

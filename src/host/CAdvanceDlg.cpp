@@ -96,7 +96,8 @@ CAdvanceDlg::CAdvanceDlg(CWnd* parent)
     projector_.TryAfresh();
     DispTabScreen();
   });
-  connect(find_, &FindLine::Found, this, &CAdvanceDlg::GoTo);
+  connect(find_, &FindLine::Found, this,
+          [this](const FindLine::Place& place) { GoTo(place.tab, place.control, place.popUp); });
   connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this,
           &CAdvanceDlg::StartFinding);
   const auto addShortcut = [this](const QKeySequence& keys, int step) {
@@ -286,11 +287,16 @@ void CAdvanceDlg::ShowWaiting(bool waiting) {
   status_->ShowProgress(text);
 }
 
-CTabPage* CAdvanceDlg::PageBehind(int selection) const {
+std::optional<PageId> CAdvanceDlg::PageIdBehind(int selection) const {
   const auto tabs = TabsOf(model_.DialogType, model_.ModelCode);
-  if (selection == 0) return &Page(PageId::Status);
-  if (selection < 0 || static_cast<std::size_t>(selection) > tabs.size()) return nullptr;
-  return &Page(tabs[static_cast<std::size_t>(selection) - 1].page);
+  if (selection == 0) return PageId::Status;
+  if (selection < 0 || static_cast<std::size_t>(selection) > tabs.size()) return {};
+  return tabs[static_cast<std::size_t>(selection) - 1].page;
+}
+
+CTabPage* CAdvanceDlg::PageBehind(int selection) const {
+  const auto page = PageIdBehind(selection);
+  return page ? &Page(*page) : nullptr;
 }
 
 void CAdvanceDlg::OnSelchangeAdvanceTab() { DispTabScreen(); }

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -21,6 +22,7 @@ class FittedScroll;
 class ResourceModule;
 class StatusLine;
 class WaitWatch;
+struct PagePopUp;
 
 /// The "Advanced Control" dialog of one projector: a tab per group of settings, each read live and
 /// changed at once.
@@ -127,6 +129,7 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
   void CreatePage(PageId id);
   void InsertTabs();
   void SetTitle();
+  std::optional<PageId> PageIdBehind(int tab) const;
   CTabPage* PageBehind(int tab) const;
   void ShowSelectedPage();
   void ShowWaiting(bool waiting);
@@ -134,7 +137,8 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
   void OrderFocus();
   void SelectNeighbourTab(int step);
   void StartFinding();
-  void GoTo(int tab, int control);
+  void GoTo(int tab, int control, const std::optional<PagePopUp>& popUp);
+  void OpenPopUp(int button, int control);
 
   const ResourceModule* savedResources_ = nullptr;  // put back when the dialog closes
   ModelData model_;

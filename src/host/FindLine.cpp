@@ -2,18 +2,28 @@
 
 #include <utility>
 
+#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAbstractProxyModel>
+#include <QApplication>
 #include <QCompleter>
 #include <QKeyEvent>
 #include <QStringListModel>
+#include <QTimer>
 #include <QToolTip>
 
 #include "host/CAdvanceDlg.h"
 #include "i18n/LocalizeControlTexts.h"
 #include "pages/common/CTabPage.h"
 #include "settings/CatalogNumbers.h"
+#include "settings/PageTables.h"
 #include "toolkit/CTabCtrl.h"
+
+namespace {
+
+const QString kSeparator = QStringLiteral(" \u2014 ");
+
+}  // namespace
 
 FindLine::FindLine(QWidget* parent) : QLineEdit(parent) {
   setClearButtonEnabled(true);
@@ -31,7 +41,7 @@ void FindLine::Start(std::vector<Place> places) {
   places_ = std::move(places);
   QStringList texts;
   for (const Place& place : places_) {
-    texts << place.caption + QStringLiteral(" \u2014 ") + place.tabCaption;
+    texts << place.caption + kSeparator + place.where;
   }
   static_cast<QStringListModel*>(completer()->model())->setStringList(texts);
   const QString name = CatalogString(kListCategory, ListText::FindSetting);
@@ -47,7 +57,7 @@ void FindLine::Choose(const QModelIndex& completion) {
   const auto* shown = static_cast<const QAbstractProxyModel*>(completer()->completionModel());
   const auto& place = places_[static_cast<std::size_t>(shown->mapToSource(completion).row())];
   hide();
-  Q_EMIT Found(place.tab, place.control);
+  Q_EMIT Found(place);
 }
 
 // The completions pass on their keys; the one marked is meant, or the first.
@@ -85,24 +95,62 @@ void FindLine::focusOutEvent(QFocusEvent* event) {
 
 void CAdvanceDlg::StartFinding() {
   std::vector<FindLine::Place> places;
+  const auto add = [&](FindLine::Place place, const PageTable& table) {
+    if (KeepsTemplate(table, model_.ModelCode)) return;
+    for (std::size_t i = 0; i < table.rows.size(); ++i) {
+      const PageRow& row = table.rows[i];
+      if (!Has(table, i, model_.ModelCode) || std::holds_alternative<ResetRow>(row)) continue;
+      const QString caption = RowDialog::CaptionText(row);
+      if (std::exchange(place.caption, caption) == caption) continue;  // the parts of a row
+      place.control = ControlOf(row);
+      places.push_back(place);
+    }
+  };
   for (int tab = 0; tabs_ != nullptr && tab < tabs_->count(); ++tab) {
-    const CTabPage* page = PageBehind(tab);
-    if (page == nullptr) continue;
-    QString last;  // the parts of a row bear one caption
-    for (const auto& [caption, control] : page->PresentRows()) {
-      if (std::exchange(last, caption) == caption) continue;
-      places.push_back({caption, tabs_->tabText(tab), tab, control});
+    const auto page = PageIdBehind(tab);
+    if (!page) continue;
+    const QString tabCaption = tabs_->tabText(tab);
+    add({.where = tabCaption, .tab = tab}, TableOf(*page));
+    for (const PagePopUp& popUp : PopUpsOf(*page, model_)) {
+      const QString opener = RowDialog::CaptionText(FindRow(TableOf(*page), popUp.control));
+      add({.where = opener + kSeparator + tabCaption, .tab = tab, .popUp = popUp}, *popUp.table);
     }
   }
   find_->Start(std::move(places));
 }
 
+namespace {
+
+void FocusOn(const CDialog& dialog, int control) {
+  QWidget* found = dialog.GetDlgItem(control);
+  if (found != nullptr && found->isEnabledTo(found->window())) {
+    found->setFocus(Qt::OtherFocusReason);
+  }
+}
+
+}  // namespace
+
 // Reading another tab may end with anything: also with the dialog closed, or with a further tab.
-void CAdvanceDlg::GoTo(int tab, int control) {
+void CAdvanceDlg::GoTo(int tab, int control, const std::optional<PagePopUp>& popUp) {
   tabs_->setFocus(Qt::OtherFocusReason);  // of a row that is grey
   tabs_->setCurrentIndex(tab);
   if (!IsCreated() || tabs_->currentIndex() != tab || shownPage_ == nullptr) return;
-  if (QWidget* found = shownPage_->GetDlgItem(control); found->isEnabledTo(this)) {
-    found->setFocus(Qt::OtherFocusReason);
-  }
+  FocusOn(*shownPage_, popUp ? popUp->control : control);
+  if (popUp) OpenPopUp(popUp->button, control);
+}
+
+// The button runs the pop-up until it is closed.
+void CAdvanceDlg::OpenPopUp(int button, int control) {
+  auto* opener = qobject_cast<QAbstractButton*>(shownPage_->GetDlgItem(button));
+  QTimer::singleShot(0, opener, [this, opener, control] {
+    if (IsBusy() || !opener->isVisible() || !opener->isEnabled()) return;
+    QTimer::singleShot(0, this, [this, control] {
+      const auto* popUp = qobject_cast<const CDialog*>(QApplication::activeModalWidget());
+      if (popUp != nullptr && popUp->Owner() != nullptr && popUp->Owner()->window() == this) {
+        FocusOn(*popUp, control);
+      }
+    });
+    opener->setFocus(Qt::OtherFocusReason);  // where the focus is when the pop-up has gone
+    opener->click();
+  });
 }

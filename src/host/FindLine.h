@@ -1,8 +1,11 @@
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include <QLineEdit>
+
+#include "settings/PageTables.h"
 
 /// A line that finds a row by its caption while a person types it. Enter goes there, Esc or a click
 /// elsewhere ends the search.
@@ -11,10 +14,11 @@ class FindLine final : public QLineEdit {
 
  public:
   struct Place {
-    QString caption;
-    QString tabCaption;
-    int tab;      ///< Index of the tab,
-    int control;  ///< and number of the control, by which the row is found.
+    QString caption{};
+    QString where{};                   ///< Caption of its tab, behind that of its pop-up.
+    int tab = 0;                       ///< Index of the tab,
+    int control = 0;                   ///< and number of the control, by which the row is found,
+    std::optional<PagePopUp> popUp{};  ///< which is in a pop-up.
   };
 
   /// Hidden until `Start`.
@@ -24,7 +28,7 @@ class FindLine final : public QLineEdit {
   void Start(std::vector<Place> places);
 
  Q_SIGNALS:
-  void Found(int tab, int control);
+  void Found(const FindLine::Place& place);
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;

@@ -1,13 +1,13 @@
 #include "settings/ModelSettings.h"
 
 #include <algorithm>
+#include <map>
 #include <string>
 #include <utility>
 
 #include "device/CommandCode.h"
 #include "settings/PageTables.h"
 #include "settings/RowParts.h"
-#include "settings/picture/PictureRows.h"
 
 namespace {
 
@@ -15,6 +15,7 @@ void Describe(const ListRow& row, const ModelData& model, ModelSetting& setting)
   setting.kind = row.send ? ModelSetting::Kind::Choice : ModelSetting::Kind::State;
   setting.entries = row.entries.Of(model);
   setting.changeable = row.send.has_value() && !setting.entries.empty();
+  setting.placeholder = row.rules.placeholder.Of(model.ModelCode);
   setting.of = row.of;
 }
 
@@ -49,37 +50,10 @@ void Describe(const ActionRow& row, const ModelData& model, ModelSetting& settin
 
 void Describe(const auto&, const ModelData&, ModelSetting&) {}
 
-/// The pop-ups that a page opens on this model. The user's gamma and colour temperature can only be
-/// shaped where the model has them.
-std::vector<const PageTable*> PopUpsOf(PageId page, const ModelData& model) {
-  std::vector<const PageTable*> tables;
-  if (page == PageId::PictureType5 || page == PageId::Pic) {
-    const auto has = [](const CountedList& list, auto isCustom) {
-      for (int i = 0; i < list.Size(); ++i) {
-        if (isCustom(i, list.values[static_cast<std::size_t>(i)])) return true;
-      }
-      return false;
-    };
-    const bool byValue = page == PageId::PictureType5;
-    if (has(model.GammaList, [byValue](int position, int value) {
-          return byValue ? value <= kLastCustomGamma : position <= kLastCustomGammaPosition;
-        })) {
-      tables.push_back(&kGammaRows);
-    }
-    if (has(model.ColorTempList, [byValue](int position, int value) {
-          return byValue ? value >= kFirstCustomColorTemp : position == kCustomColorTempPosition;
-        })) {
-      tables.push_back(&kColorTempRows);
-    }
-  }
-  if (page == PageId::Option5) tables.push_back(&kServiceRows);
-  return tables;
-}
-
 }  // namespace
 
 bool ModelSetting::Allows(int value) const {
-  if (kind == Kind::Choice) return PositionOf(entries, value) >= 0;
+  if (kind == Kind::Choice) return value != placeholder && PositionOf(entries, value) >= 0;
   if (kind == Kind::State) return changeable && (value == 0 || value == 1);
   return kind == Kind::Number && (!range || (value >= range->minimum && value <= range->maximum));
 }
@@ -89,7 +63,7 @@ ModelSettings::ModelSettings(ModelData model)
   Add(kStatusRows, Caption::TabStatus);
   for (const PageTab& tab : TabsOf(model_->DialogType, model_->ModelCode)) {
     Add(TableOf(tab.page), tab.caption);
-    for (const PageTable* popUp : PopUpsOf(tab.page, *model_)) Add(*popUp, tab.caption);
+    for (const PagePopUp& popUp : PopUpsOf(tab.page, *model_)) Add(*popUp.table, tab.caption);
   }
 }
 
@@ -123,14 +97,33 @@ std::optional<int> ModelSettings::PresentSource(CPjtInterface& projector,
 }
 
 void ModelSettings::Announce(CPjtInterface& projector,
-                             std::span<const ModelSetting* const> settings) const {
+                             std::span<const SourcedSetting> settings) const {
   std::vector<PjtCommand> reads;
-  for (const ModelSetting* setting : settings) {
-    // Which source it will be is not known yet.
+  for (const auto& [setting, source] : settings) {
     const auto call = ReadingOf(*setting->row, *model_);
-    if (call && setting->of == OfSource::None) reads.push_back(call->Command());
+    const bool hasSource = setting->of != OfSource::None;
+    if (!call || (hasSource && !source)) continue;
+    reads.push_back((hasSource ? At(*call, *source) : *call).Command());
   }
   projector.Announce(reads);
+}
+
+std::vector<SourcedSetting> ModelSettings::PrepareReads(
+    CPjtInterface& projector, std::span<const ModelSetting* const> settings) const {
+  std::map<OfSource, std::optional<int>> sources;
+  for (const ModelSetting* setting : settings) sources[setting->of];
+  std::vector<PjtCommand> questions;
+  for (const auto& [of, source] : sources) {
+    for (const Call& question : SourceQuestions(of)) questions.push_back(question.Command());
+  }
+  if (!questions.empty()) projector.Announce(questions);
+  for (auto& [of, source] : sources) {
+    if (of != OfSource::None) source = AskSource(projector, of, model_->ModelCode);
+  }
+  std::vector<SourcedSetting> sourced;
+  for (const ModelSetting* setting : settings) sourced.push_back({setting, sources[setting->of]});
+  Announce(projector, sourced);
+  return sourced;
 }
 
 std::optional<int> ModelSettings::Read(CPjtInterface& projector, const ModelSetting& setting,

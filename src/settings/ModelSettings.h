@@ -29,9 +29,10 @@ struct ModelSetting {
   int bias = 0;                    ///< Shown value = device value − `bias`.
   std::optional<Range> range{};    ///< Device values; none where only the projector bounds it.
   std::vector<ListEntry> entries;  ///< In the list's order; names may point into the model's data.
-  int otherwise = 0;               ///< Text of a state's other values, which are its insert.
-  std::optional<Call> reset{};     ///< Puts it back to the projector's own standard.
-  OfSource of = OfSource::None;    ///< Kept for each input source; read and changed for any.
+  std::optional<int> placeholder{};  ///< Value of an entry that is shown, and never sent.
+  int otherwise = 0;                 ///< Text of a state's other values, which are its insert.
+  std::optional<Call> reset{};       ///< Puts it back to the projector's own standard.
+  OfSource of = OfSource::None;      ///< Kept for each input source; read and changed for any.
   bool ofCurrentSourceOnly = false;  ///< The same, but of the source that plays at that time.
   bool readable = false;
   bool changeable = false;
@@ -42,6 +43,12 @@ struct ModelSetting {
   bool IsPerSource() const { return of != OfSource::None || ofCurrentSourceOnly; }
   /// Whether the row takes this device value.
   bool Allows(int value) const;
+};
+
+/// A setting to be read, and the input source that it is read for.
+struct SourcedSetting {
+  const ModelSetting* setting = nullptr;  ///< Never null.
+  std::optional<int> source{};  ///< Nothing for one that belongs to none, or while unknown.
 };
 
 /// How a value is sent, beside the value.
@@ -68,7 +75,11 @@ class ModelSettings {
   std::optional<int> PresentSource(CPjtInterface& projector, const ModelSetting& setting) const;
   /// Tells the connection what will be read next, in this order, so that it may ask for all at
   /// once.
-  void Announce(CPjtInterface& projector, std::span<const ModelSetting* const> settings) const;
+  void Announce(CPjtInterface& projector, std::span<const SourcedSetting> settings) const;
+  /// The same for the sources that the settings belong to now. Each is asked for once, and holds as
+  /// long as nothing is changed.
+  std::vector<SourcedSetting> PrepareReads(CPjtInterface& projector,
+                                           std::span<const ModelSetting* const> settings) const;
   /// The device value, of `source` or else the present one; nothing where the projector refuses it
   /// or does not answer.
   std::optional<int> Read(CPjtInterface& projector, const ModelSetting& setting,

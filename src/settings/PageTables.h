@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "settings/PageSets.h"
 #include "settings/Rows.h"
 
@@ -45,3 +47,13 @@ ADVANCED_CONTROL_EXPORT extern const PageTable kColorTempRows;
 
 /// The rows of a page.
 ADVANCED_CONTROL_EXPORT const PageTable& TableOf(PageId page);
+
+/// A pop-up of a page: its rows, the control of the page's row that it belongs to, and the button
+/// that opens it.
+struct PagePopUp {
+  const PageTable* table;
+  int control;
+  int button;
+};
+/// The pop-ups that a page opens on this model.
+ADVANCED_CONTROL_EXPORT std::vector<PagePopUp> PopUpsOf(PageId page, const ModelData& model);

@@ -12,10 +12,12 @@ bool IsInputSource(const ModelSetting& setting) {
 }
 
 /// The input source decides what the projector's other settings belong to, and modes decide what
-/// numbers are worth.
-int Rank(const ModelSetting& setting) {
-  if (IsInputSource(setting)) return 0;
-  return setting.kind == ModelSetting::Kind::Choice ? 1 : 2;
+/// numbers are worth: each rank is read again when one before it was changed.
+enum class Rank : std::uint8_t { Source, Choice, Number };
+
+Rank RankOf(const ModelSetting& setting) {
+  if (IsInputSource(setting)) return Rank::Source;
+  return setting.kind == ModelSetting::Kind::Choice ? Rank::Choice : Rank::Number;
 }
 
 Outcome Judge(const ModelSetting* setting, int value) {
@@ -36,14 +38,37 @@ Restoration::Restoration(const Snapshot& snapshot, const ModelSettings& model,
   }
 }
 
-void Restoration::Read(const Progress& progress) {
-  std::vector<const ModelSetting*> asked;
-  for (const RestoredSetting& restored : settings_) {
-    if (restored.outcome == Outcome::NotReached) asked.push_back(restored.setting);
-  }
-  model_.Announce(connection_, asked);
+Restoration::Group Restoration::Those(const std::function<bool(const RestoredSetting&)>& fit) {
+  Group group;
   for (RestoredSetting& restored : settings_) {
-    if (restored.outcome == Outcome::NotReached && progress.goesOn()) Read(restored, progress);
+    if (fit(restored)) group.push_back(&restored);
+  }
+  return group;
+}
+
+void Restoration::Announce(const Group& group) {
+  std::vector<SourcedSetting> reads;
+  reads.reserve(group.size());
+  for (const RestoredSetting* restored : group) {
+    reads.push_back({restored->setting, restored->saved.source});
+  }
+  model_.Announce(connection_, reads);
+}
+
+void Restoration::Read(const Progress& progress) {
+  Read(Those(
+           [](const RestoredSetting& restored) { return restored.outcome == Outcome::NotReached; }),
+       progress);
+}
+
+void Restoration::Read(const Group& group, const Progress& progress) {
+  Announce(group);
+  for (RestoredSetting* restored : group) {
+    if (progress.goesOn()) {
+      Read(*restored, progress);
+    } else if (restored->outcome == Outcome::AlreadySo) {
+      restored->outcome = Outcome::NotReached;  // that was before others were sent
+    }
   }
 }
 
@@ -62,41 +87,36 @@ void Restoration::Read(RestoredSetting& restored, const Progress& progress) {
 }
 
 void Restoration::Send(const SettingTexts& texts, const Progress& progress) {
-  std::vector<RestoredSetting*> inOrder;
-  for (RestoredSetting& restored : settings_) {
-    if (restored.setting != nullptr) inOrder.push_back(&restored);
-  }
-  std::ranges::stable_sort(
-      inOrder, {}, [](const RestoredSetting* restored) { return Rank(*restored->setting); });
-  std::vector<RestoredSetting*> sent;
-  bool sourceChanged = false;
-  for (RestoredSetting* restored : inOrder) {
-    const bool wasRead =
-        restored->outcome == Outcome::AlreadySo || restored->outcome == Outcome::Differs;
-    if (!wasRead) continue;
-    if (!progress.goesOn()) break;
-    // Another source may have another value.
-    if (sourceChanged) Read(*restored, progress);
-    if (restored->outcome != Outcome::Differs) continue;
-    const int value = restored->saved.value;
-    model_.Change(
-        connection_, *restored->setting, value,
-        {texts.Value(*restored->setting, value), restored->saved.source, progress.goesOn});
-    restored->outcome = Outcome::Unconfirmed;
-    sent.push_back(restored);
-    sourceChanged = sourceChanged || IsInputSource(*restored->setting);
-    progress.step();
+  Group sent;
+  for (const Rank rank : {Rank::Source, Rank::Choice, Rank::Number}) {
+    const Group group = Those([rank](const RestoredSetting& restored) {
+      const bool wasRead =
+          restored.outcome == Outcome::AlreadySo || restored.outcome == Outcome::Differs;
+      return wasRead && RankOf(*restored.setting) == rank;
+    });
+    if (!sent.empty()) Read(group, progress);
+    for (RestoredSetting* restored : group) {
+      if (restored->outcome != Outcome::Differs || !progress.goesOn()) continue;
+      Send(*restored, texts, progress);
+      sent.push_back(restored);
+    }
   }
   Confirm(sent, progress);
 }
 
+void Restoration::Send(RestoredSetting& restored, const SettingTexts& texts,
+                       const Progress& progress) {
+  const int value = restored.saved.value;
+  model_.Change(connection_, *restored.setting, value,
+                {texts.Value(*restored.setting, value), restored.saved.source, progress.goesOn});
+  restored.outcome = Outcome::Unconfirmed;
+  progress.step();
+}
+
 // Whatever a setter answers, the value read afterwards is what the projector has. Also after an
 // interruption, so that what is told is true.
-void Restoration::Confirm(const std::vector<RestoredSetting*>& sent, const Progress& progress) {
-  std::vector<const ModelSetting*> asked;
-  asked.reserve(sent.size());
-  for (const RestoredSetting* restored : sent) asked.push_back(restored->setting);
-  model_.Announce(connection_, asked);
+void Restoration::Confirm(const Group& sent, const Progress& progress) {
+  Announce(sent);
   for (RestoredSetting* restored : sent) {
     restored->now = model_.Read(connection_, *restored->setting, restored->saved.source);
     if (restored->now) {

@@ -56,8 +56,15 @@ class Restoration {
   Snapshot Undo(const std::string& projector, const SettingTexts& texts) const;
 
  private:
+  using Group = std::vector<RestoredSetting*>;
+
+  /// Those that fit, in the snapshot's order.
+  Group Those(const std::function<bool(const RestoredSetting&)>& fit);
+  void Announce(const Group& group);
+  void Read(const Group& group, const Progress& progress);
   void Read(RestoredSetting& restored, const Progress& progress);
-  void Confirm(const std::vector<RestoredSetting*>& sent, const Progress& progress);
+  void Send(RestoredSetting& restored, const SettingTexts& texts, const Progress& progress);
+  void Confirm(const Group& sent, const Progress& progress);
 
   const ModelSettings& model_;
   CPjtInterface& connection_;

@@ -1,7 +1,5 @@
 #include "snapshots/Snapshot.h"
 
-#include <map>
-
 #include <QDateTime>
 
 Snapshot EmptySnapshot(const std::string& projector, const ModelData& model) {
@@ -21,15 +19,14 @@ Snapshot TakeSnapshot(const std::string& projector, const ModelSettings& setting
   for (const ModelSetting& setting : settings.All()) {
     if (setting.Restorable()) restorable.push_back(&setting);
   }
-  settings.Announce(connection, restorable);
-  std::map<OfSource, std::optional<int>> sources;  // each asked for once
-  for (const ModelSetting* const setting : restorable) {
+  for (const auto& [setting, source] : settings.PrepareReads(connection, restorable)) {
     if (!progress.goesOn()) break;
-    const auto [source, isNew] = sources.try_emplace(setting->of);
-    if (isNew) source->second = settings.PresentSource(connection, *setting);
-    if (const auto value = settings.Read(connection, *setting, source->second)) {
+    // A value of nobody knows which source could not be put back.
+    const bool isKnown = setting->of == OfSource::None || source;
+    const auto value = isKnown ? settings.Read(connection, *setting, source) : std::nullopt;
+    if (value) {
       snapshot.settings.push_back(
-          {std::string(setting->key), *value, texts.Value(*setting, *value), source->second});
+          {std::string(setting->key), *value, texts.Value(*setting, *value), source});
     } else if (unread != nullptr) {
       unread->emplace_back(setting->key);
     }

@@ -39,6 +39,21 @@ TEST_F(Finding, GoesToTheRowOfAnyTab) {
   EXPECT_EQ(QApplication::focusWidget(), &tabs);
 }
 
+TEST_F(Finding, OpensThePopUpOfItsRow) {
+  Find("gain g", {Qt::Key_Return});  // its button is grey
+  QTest::qWait(0);
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+  EXPECT_EQ(QApplication::focusWidget(), open.Page().GetDlgItem(20144)) << "the color temperatures";
+  Find("frequency n", {Qt::Key_Return});
+  QTimer::singleShot(0, [] {
+    WhenModal("CServiceDlg",
+              [](CDialog& popUp) { EXPECT_TRUE(popUp.GetDlgItem(20378)->hasFocus()); });
+  });
+  QTest::qWait(0);
+  EXPECT_EQ(tabs.tabText(tabs.currentIndex()), QStringLiteral("Option"));
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
 TEST_F(Finding, StaysForNoNameAndLeavesWithoutTheDialog) {
   Find("no such row", {Qt::Key_Return});
   EXPECT_TRUE(line.isVisible());

@@ -1,12 +1,18 @@
 // Snapshots on every projector of the profile file: kept, disturbed, put back.
 
+#include <atomic>
 #include <gmock/gmock.h>
 #include <random>
+#include <thread>
 
+#include <QTcpServer>
+#include <QTcpSocket>
 #include <gtest/gtest.h>
 
 #include "app/profiles/ProjectorAccess.h"
+#include "device/TcpChannel.h"
 #include "i18n/SystemLanguage.h"
+#include "simulator/WireResponder.h"
 #include "snapshots/Restoration.h"
 
 namespace {
@@ -50,9 +56,56 @@ struct Disturbed : ProjectorChannel {
   int count = 0, sent = 0;
 };
 
+/// The way to it over TCP, where an answer that got lost is never there.
+class Line {
+ public:
+  explicit Line(std::shared_ptr<Disturbed> projector) : projector_(std::move(projector)) {
+    while (port_ == 0) std::this_thread::yield();
+  }
+  std::shared_ptr<ProjectorChannel> Channel() const {
+    constexpr std::chrono::milliseconds kTimeOut{100};
+    return std::make_shared<TcpChannel>("127.0.0.1", port_,
+                                        WireChannel::Limits{.answer = kTimeOut});
+  }
+
+ private:
+  void Serve(const std::stop_token& end) {
+    QTcpServer server;
+    server.listen(QHostAddress::LocalHost);
+    port_ = server.serverPort();
+    while (!end.stop_requested()) {
+      if (!server.waitForNewConnection(10)) continue;
+      const std::unique_ptr<QTcpSocket> socket(server.nextPendingConnection());
+      WireResponder responder(*projector_);
+      while (!end.stop_requested() && socket->state() == QTcpSocket::ConnectedState) {
+        socket->waitForReadyRead(10);
+        Wire::Decoder replies;
+        replies.Add(responder.Receive(socket->readAll().toStdString()));
+        while (const auto frame = replies.Next()) {
+          const auto* reply = std::get_if<Wire::Reply>(&frame->message);
+          if (reply != nullptr && reply->status == Wire::Status::Unanswered) continue;
+          std::string bytes;
+          Wire::Append(bytes, *frame);
+          socket->write(bytes.data(), std::ssize(bytes));
+        }
+        socket->flush();
+      }
+    }
+  }
+
+  std::shared_ptr<Disturbed> projector_;
+  std::atomic<std::uint16_t> port_ = 0;
+  std::jthread thread_{[this](const std::stop_token& end) { Serve(end); }};
+};
+
 struct Room {
   explicit Room(const ProjectorProfile& profile)
-      : channel(std::make_shared<Disturbed>(profile)), projector(profile, channel) {}
+      : Room(profile, std::make_shared<Disturbed>(profile)) {}
+  Room(const ProjectorProfile& profile, std::shared_ptr<Disturbed> disturbed)
+      : Room(profile, disturbed, disturbed) {}
+  Room(const ProjectorProfile& profile, std::shared_ptr<Disturbed> disturbed,
+       std::shared_ptr<ProjectorChannel> way)
+      : channel(std::move(disturbed)), projector(profile, std::move(way)) {}
 
   Snapshot Take() {
     return TakeSnapshot(projector.Name(), projector.Settings(), projector.Connection(), Texts());
@@ -116,10 +169,17 @@ TEST(Restoration, BringsEveryProjectorBackAndUndoesItself) {
 
 // Whatever goes wrong, each list holds what is in it, and doing it again completes it.
 TEST(Restoration, TellsTheTruthWhenCommandsAreRefusedAndLost) {
-  const Disturbed::Trouble kCases[] = {{1, 1}, {30, 10}, {0, 0, 40}, {0, 0, 100}, {0, 0, 130}};
-  const ProjectorProfile& profile = Profile("Projector 5-54");
-  for (const Disturbed::Trouble& trouble : kCases) {
-    SCOPED_TRACE(&trouble - kCases);
+  const struct {
+    const char* profile;
+    Disturbed::Trouble trouble;
+    bool overTcp = false;
+  } kCases[] = {{"Projector 5-54", {30, 10}},       {"Projector 5-54", {0, 0, 40}},
+                {"Projector 5-54", {0, 0, 100}},    {"Projector 5-54", {0, 0, 130}},
+                {"Projector 5-54", {1, 1}, true},   {"Projector 1-1", {1, 1}, true},
+                {"Projector 4-11 b", {1, 1}, true}, {"Projector 3-71", {0, 0, 60}, true}};
+  for (const auto& [name, trouble, overTcp] : kCases) {
+    SCOPED_TRACE(name);
+    const ProjectorProfile& profile = Profile(name);
     Room room(profile);
     room.ChangeAll(1);
     const Snapshot wanted = room.Take();
@@ -128,14 +188,16 @@ TEST(Restoration, TellsTheTruthWhenCommandsAreRefusedAndLost) {
     before.Read();
     room.channel->count = 0;
     room.channel->trouble = trouble;
-    const Restoration restoration = room.Restore(wanted);
+    auto line = overTcp ? std::make_unique<Line>(room.channel) : nullptr;
+    Room far(profile, room.channel, line ? line->Channel() : room.channel);
+    const Restoration restoration = far.Restore(wanted);
+    line.reset();
     room.channel->trouble = {};
-    ProjectorAccess again(profile, room.channel);
     for (std::size_t i = 0; i < wanted.settings.size(); ++i) {
       const RestoredSetting& restored = restoration.Settings()[i];
       SCOPED_TRACE(restored.saved.key);
-      const auto now =
-          again.Settings().Read(again.Connection(), *restored.setting, restored.saved.source);
+      const auto now = room.projector.Settings().Read(room.projector.Connection(),
+                                                      *restored.setting, restored.saved.source);
       const bool done =
           restored.outcome == Outcome::Changed || restored.outcome == Outcome::AlreadySo;
       if (done) {
@@ -146,9 +208,7 @@ TEST(Restoration, TellsTheTruthWhenCommandsAreRefusedAndLost) {
         EXPECT_EQ(now, before.Settings()[i].before) << "nothing was sent";
       }
     }
-    Restoration rest(wanted, again.Settings(), again.Connection());
-    rest.Read();
-    rest.Send(Texts());
+    const Restoration rest = room.Restore(wanted);
     EXPECT_EQ(rest.Count(Outcome::Changed) + rest.Count(Outcome::AlreadySo),
               static_cast<int>(wanted.settings.size()));
   }

@@ -395,15 +395,6 @@ const ResetEntry* RowDialog::ChosenReset(int button) const {
   return nullptr;
 }
 
-std::vector<RowDialog::NamedRow> RowDialog::PresentRows() const {
-  std::vector<NamedRow> rows;
-  for (std::size_t i = 0; i < bound_.size(); ++i) {
-    if (!bound_[i].present || std::holds_alternative<ResetRow>(table_.rows[i])) continue;
-    rows.push_back({CaptionText(table_.rows[i]), ControlOf(table_.rows[i])});
-  }
-  return rows;
-}
-
 bool RowDialog::Has(int control) const {
   for (std::size_t i = 0; i < bound_.size(); ++i) {
     if (bound_[i].present && Owns(table_.rows[i], control)) return true;

@@ -41,12 +41,8 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
   };
   std::optional<Progress> ReadingProgress() const;
 
-  /// A row that the model has, and the control by which it is found.
-  struct NamedRow {
-    QString caption;
-    int control;
-  };
-  std::vector<NamedRow> PresentRows() const;
+  /// A row's name as a person reads it.
+  static QString CaptionText(const PageRow& row);
 
   /// From now until the next complete refresh no value shown is known to be true.
   void MarkUnread();
@@ -135,8 +131,6 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
     std::optional<int> opened;  // position read first since the dialog was opened
     Source source;              // that this belongs to
   };
-
-  static QString CaptionText(const PageRow& row);
 
   void RefreshRow(std::size_t index, Source source);
   void RefreshRow(std::size_t index, Source source, const CPjtInterface::Tally& before);

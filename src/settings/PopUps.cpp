@@ -1,0 +1,33 @@
+#include "device/ModelData.h"
+#include "settings/PageTables.h"
+#include "settings/picture/PictureRows.h"
+
+namespace {
+
+bool HasEntry(const CountedList& list, auto fits) {
+  for (int i = 0; i < list.Size(); ++i) {
+    if (fits(i, list.values[static_cast<std::size_t>(i)])) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+// The user's gamma and colour temperature can only be shaped where the model has them.
+std::vector<PagePopUp> PopUpsOf(PageId page, const ModelData& model) {
+  if (page == PageId::Option5) return {{&kServiceRows, 20373, 20373}};
+  const bool byValue = page == PageId::PictureType5;
+  if (!byValue && page != PageId::Pic) return {};
+  std::vector<PagePopUp> popUps;
+  if (HasEntry(model.GammaList, [byValue](int position, int value) {
+        return byValue ? value <= kLastCustomGamma : position <= kLastCustomGammaPosition;
+      })) {
+    popUps.push_back({&kGammaRows, 20142, 20133});
+  }
+  if (HasEntry(model.ColorTempList, [byValue](int position, int value) {
+        return byValue ? value >= kFirstCustomColorTemp : position == kCustomColorTempPosition;
+      })) {
+    popUps.push_back({&kColorTempRows, 20144, 20143});
+  }
+  return popUps;
+}

@@ -426,6 +426,14 @@
         <source>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;The live settings of projectors: every value is read from the projector, every change is sent at once.&lt;/p&gt;</source>
         <translation>&lt;h3&gt;高级控制 %1&lt;/h3&gt;&lt;p&gt;投影机的实时设置：每个值都从投影机读取，每项更改都立即发送。&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>Ctrl+F</source>
+        <translation>Ctrl+F</translation>
+    </message>
+    <message>
+        <source>Find a setting</source>
+        <translation>查找设置</translation>
+    </message>
 </context>
 <context>
     <name>Pictures</name>

@@ -16,7 +16,7 @@
 namespace {
 
 constexpr int kTickLength = 4;
-constexpr int kTickGap = 1;       // between the handle and its ticks
+constexpr int kTickGap = 1;  // between the handle and its ticks
 constexpr int kTickRoom = kTickGap + kTickLength;
 constexpr int kClosestTicks = 3;  // nearer to each other they are a line
 

@@ -20,16 +20,7 @@
 
 namespace {
 
-void Tell(const std::string& line) {
-  std::puts(line.c_str());
-  std::fflush(stdout);
-}
-
-std::string KindOf(const ModelSetting& setting) {
-  static constexpr const char* kinds[] = {"number", "choice", "state", "action"};
-  const bool isCheck = std::holds_alternative<CheckRow>(*setting.row);
-  return isCheck ? "check" : kinds[static_cast<std::size_t>(setting.kind)];
-}
+void Tell(const std::string& line) { std::puts(line.c_str()); }
 
 // Tab, key, kind, caption, text of the value, description.
 void TellSettings(const CModelInfo2& model, CPjtInterface& projector) {
@@ -37,8 +28,9 @@ void TellSettings(const CModelInfo2& model, CPjtInterface& projector) {
   const ModelSettings settings(MakeModelData(model));
   for (const ModelSetting& setting : settings.All()) {
     const auto value = setting.readable ? settings.Read(projector, setting) : std::nullopt;
-    Tell(texts.Tab(setting) + '\t' + std::string(setting.key) + '\t' + KindOf(setting) + '\t' +
-         texts.Caption(setting) + '\t' + (value ? texts.Value(setting, *value) : "") + '\t' +
+    Tell(texts.Tab(setting) + '\t' + std::string(setting.key) + '\t' +
+         std::to_string(static_cast<int>(setting.kind)) + '\t' + texts.Caption(setting) + '\t' +
+         (value ? texts.Value(setting, *value) : "") + '\t' +
          (setting.range ? "Range: " + texts.Values(setting) : ""));
   }
 }
@@ -48,6 +40,7 @@ void TellSettings(const CModelInfo2& model, CPjtInterface& projector) {
 int main(int argc, char** argv) {
   const QApplication application(argc, argv);
   if (argc != 3) return EXIT_FAILURE;
+  std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);
   const CModelInfo2 model = FullModel(std::atoi(argv[1]), std::atoi(argv[2]));
   const auto projector = std::make_shared<SimulatedProjector>(DescribeModel(MakeModelData(model)));
   CAdvanceDlg dialog;

@@ -34,12 +34,6 @@ Arguments Divide(const QStringList& all) {
   return divided;
 }
 
-CommandLine Wrong(const QString& error) {
-  CommandLine line;
-  line.error = error;
-  return line;
-}
-
 std::optional<int> Number(const QString& text) {
   bool isNumber = false;
   const int number = text.toInt(&isNumber);
@@ -51,31 +45,50 @@ std::optional<int> Number(const QString& text) {
 CommandLine ParseCommandLine(const QStringList& arguments) {
   QCommandLineParser parser;
   parser.setApplicationDescription(
-      QStringLiteral("Opens the Advanced Control dialog on simulated projectors."));
-  const QCommandLineOption help({"h", "help"}, "Display this help.");
+      CommandLine::tr("Opens the settings dialogs of projectors, real or simulated."));
+  const QCommandLineOption help({"h", "help"}, CommandLine::tr("Display this help."));
   const QCommandLineOption version = parser.addVersionOption();
-  const QCommandLineOption profiles("profiles", "Read the projectors from <file>.", "file");
-  const QCommandLineOption open("open", "Open the dialog of the projector <name> at start.",
-                                "name");
-  const QCommandLineOption tab("tab", "With --open: select tab <n>, counted from 0.", "n");
-  const QCommandLineOption list("list", "Print the table of projectors.");
+  const QCommandLineOption profiles("profiles", CommandLine::tr("Read the projectors from <file>."),
+                                    CommandLine::tr("file"));
+  const QCommandLineOption open(
+      "open", CommandLine::tr("Open the dialog of the projector <name> at start."),
+      CommandLine::tr("name"));
+  const QCommandLineOption tab(
+      "tab", CommandLine::tr("With --open: select tab <n>, counted from 0."), "n");
+  const QCommandLineOption list("list", CommandLine::tr("Print the table of projectors."));
   const QCommandLineOption screenshot(
-      "screenshot", "With --open: save a picture (PNG) of the dialog and exit.", "file");
+      "screenshot", CommandLine::tr("With --open: save a picture (PNG) of the dialog and exit."),
+      CommandLine::tr("file"));
   const QCommandLineOption tour(
-      "tour", "Save pictures of all tabs of all kinds of projectors in <folder> and exit.",
-      "folder");
+      "tour",
+      CommandLine::tr("Save pictures of all tabs of all kinds of projectors in <folder> and exit."),
+      CommandLine::tr("folder"));
   const QCommandLineOption language(
-      "language", "Show texts in the language <id>: 1033 English, 2052 Chinese.", "id");
+      "language", CommandLine::tr("Show texts in the language <id>: 1033 English, 2052 Chinese."),
+      "id");
   parser.addOptions({help, profiles, open, tab, list, screenshot, tour, language});
 
   const auto [own, toolkit] = Divide(arguments);
-  if (!parser.parse(own)) return Wrong(parser.errorText());
+  const bool isRead = parser.parse(own);
+  CommandLine line;
+  const auto wrong = [&line](const QString& error) {
+    line.error = error;
+    return line;
+  };
+  if (parser.isSet(language)) {
+    line.language = Number(parser.value(language));
+    if (line.language != 1033 && line.language != 2052) {
+      line.language.reset();
+      return wrong(CommandLine::tr("--language: '%1' is neither 1033 nor 2052.")
+                       .arg(parser.value(language)));
+    }
+  }
+  if (!isRead) return wrong(parser.errorText());
   if (!parser.positionalArguments().isEmpty()) {
-    return Wrong(
-        QStringLiteral("Unexpected argument '%1'.").arg(parser.positionalArguments().first()));
+    return wrong(
+        CommandLine::tr("Unexpected argument '%1'.").arg(parser.positionalArguments().first()));
   }
 
-  CommandLine line;
   if (parser.isSet(help)) {
     line.action = CommandLine::Action::Help;
     line.help = parser.helpText();
@@ -87,15 +100,15 @@ CommandLine ParseCommandLine(const QStringList& arguments) {
   }
   for (const QCommandLineOption& option : {profiles, open, screenshot, tour}) {
     if (parser.isSet(option) && parser.value(option).isEmpty()) {
-      return Wrong(QStringLiteral("--%1 needs a value.").arg(option.names().first()));
+      return wrong(CommandLine::tr("--%1 needs a value.").arg(option.names().first()));
     }
   }
   if (parser.isSet(list) + parser.isSet(tour) + parser.isSet(open) > 1) {
-    return Wrong(QStringLiteral("Only one of --list, --tour and --open can be given."));
+    return wrong(CommandLine::tr("Only one of --list, --tour and --open can be given."));
   }
   for (const QCommandLineOption& option : {tab, screenshot}) {
     if (parser.isSet(option) && !parser.isSet(open)) {
-      return Wrong(QStringLiteral("--%1 needs --open.").arg(option.names().first()));
+      return wrong(CommandLine::tr("--%1 needs --open.").arg(option.names().first()));
     }
   }
 
@@ -106,14 +119,7 @@ CommandLine ParseCommandLine(const QStringList& arguments) {
   if (parser.isSet(tab)) {
     line.tab = Number(parser.value(tab));
     if (!line.tab.has_value()) {
-      return Wrong(QStringLiteral("--tab: '%1' is not a number.").arg(parser.value(tab)));
-    }
-  }
-  if (parser.isSet(language)) {
-    line.language = Number(parser.value(language));
-    if (line.language != 1033 && line.language != 2052) {
-      return Wrong(
-          QStringLiteral("--language: '%1' is neither 1033 nor 2052.").arg(parser.value(language)));
+      return wrong(CommandLine::tr("--tab: '%1' is not a number.").arg(parser.value(tab)));
     }
   }
   if (parser.isSet(list)) line.action = CommandLine::Action::List;

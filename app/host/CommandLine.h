@@ -2,11 +2,15 @@
 
 #include <optional>
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
 /// What the program was asked to do.
 struct CommandLine {
+  Q_DECLARE_TR_FUNCTIONS(CommandLine)
+
+ public:
   enum class Action { Window, List, Screenshot, Tour, Help, Version };
 
   Action action = Action::Window;
@@ -19,7 +23,7 @@ struct CommandLine {
   bool platform = false;        ///< Qt is told its platform,
   bool style = false;           ///< or its style.
 
-  /// One line; empty when the arguments can be followed.
+  /// One line; empty when the arguments can be followed. After an error only `language` counts.
   QString error;
 };
 

@@ -15,13 +15,13 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QMessageBox>
-#include <QSaveFile>
 #include <QScrollBar>
 #include <QTableView>
 #include <QToolButton>
 #include <QVBoxLayout>
 
 #include "app/host/Mnemonic.h"
+#include "app/profiles/WholeFile.h"
 
 namespace {
 
@@ -143,12 +143,7 @@ QString CommandLog::Save(const QString& fileName) const {
   std::iota(rows.begin(), rows.end(), 0);
   const QByteArray text =
       (titles.join(QLatin1Char('\t')) + QLatin1Char('\n') + LogText(*shown_, rows)).toUtf8();
-  QSaveFile file(fileName);
-  if (file.open(QSaveFile::WriteOnly) && file.write(text) == text.size() && file.flush() &&
-      file.commit()) {
-    return {};
-  }
-  return tr("Cannot write %1: %2").arg(fileName, file.errorString());
+  return WriteWholeFile(fileName, text);
 }
 
 void CommandLog::AskAndSave() {

@@ -35,7 +35,6 @@ namespace {
 
 constexpr int kGap = 9;
 constexpr QSize kUsualSize{1240, 760};
-constexpr int kUsualListWidth = 520;
 
 constexpr const char* kGeometryKey = "window/geometry";
 constexpr const char* kSidesKey = "window/sides";
@@ -252,7 +251,7 @@ void MainWindow::Restore() {
   }
   constexpr QSize kFrame{2 * kGap, 40};
   resize(kUsualSize.boundedTo(screen.size() - kFrame));
-  const int listWidth = std::min(kUsualListWidth, width() * 2 / 5);
+  const int listWidth = std::min(projectors_->sizeHint().width(), width() * 9 / 20);
   sides_->setSizes({listWidth, width() - listWidth});
   move(screen.right() + 1 - width() - kFrame.width(),
        screen.bottom() + 1 - height() - kFrame.height());
@@ -292,6 +291,7 @@ void MainWindow::ShowShortcuts() {
   section(tr("In a projector's dialog"));
   add(tr("Ctrl+Tab, Ctrl+Page Down"), tr("Next tab"));
   add(tr("Ctrl+Shift+Tab, Ctrl+Page Up"), tr("Previous tab"));
+  add(tr("Ctrl+F"), tr("Find a setting"));
   add(tr("Esc"), tr("Close"));
   QMessageBox(QMessageBox::NoIcon, tr("Keyboard Shortcuts"),
               QStringLiteral("<table>%1</table>").arg(rows), QMessageBox::Close, this)

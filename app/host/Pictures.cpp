@@ -3,16 +3,17 @@
 #include <memory>
 #include <utility>
 
+#include <QBuffer>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QPixmap>
 #include <QRegularExpression>
-#include <QSaveFile>
 #include <QSet>
 #include <QTabBar>
 
 #include "app/host/ProjectorSession.h"
+#include "app/profiles/WholeFile.h"
 #include "host/CAdvanceDlg.h"
 #include "pages/common/CTabPage.h"
 
@@ -63,19 +64,14 @@ QString FileNamePart(const QString& text) {
   return text.toLower().replace(other, QStringLiteral("_"));
 }
 
-QString CannotWrite(const QSaveFile& file) {
-  return QStringLiteral("cannot write %1: %2").arg(file.fileName(), file.errorString());
-}
-
 QString Save(const QPixmap& pixmap, const QString& fileName) {
-  QSaveFile file(fileName);
-  if (file.open(QSaveFile::WriteOnly) && pixmap.save(&file, "PNG") && file.flush() && file.commit())
-    return {};
-  return CannotWrite(file);
+  QBuffer bytes;
+  pixmap.save(&bytes, "PNG");
+  return WriteWholeFile(fileName, bytes.data());
 }
 
 QString CannotOpen(const ProjectorProfile& profile) {
-  return QStringLiteral("the dialog of %1 cannot be created")
+  return QCoreApplication::translate("Pictures", "the dialog of %1 cannot be created")
       .arg(QString::fromStdString(profile.Name));
 }
 
@@ -86,14 +82,9 @@ constexpr const char* kIndexHead =
 
 }  // namespace
 
-QString CheckPictureFile(const QString& fileName) {
-  QSaveFile file(fileName);
-  return file.open(QSaveFile::WriteOnly) ? QString() : CannotWrite(file);
-}
-
 QString MakePictureFolder(const QString& folder) {
   if (QDir().mkpath(folder) && QFileInfo(folder).isWritable()) return {};
-  return QStringLiteral("cannot write to the folder %1").arg(folder);
+  return QCoreApplication::translate("Pictures", "cannot write to the folder %1").arg(folder);
 }
 
 QString SaveScreenshot(const ProjectorProfile& profile, int tab, const QString& fileName) {
@@ -147,10 +138,6 @@ TourResult SaveTour(const std::vector<ProjectorProfile>& profiles, const QString
     }
   }
   index += "</body></html>\n";
-  QSaveFile file(directory.filePath(QStringLiteral("index.html")));
-  if (!file.open(QSaveFile::WriteOnly) || file.write(index) != index.size() || !file.flush() ||
-      !file.commit()) {
-    result.error = CannotWrite(file);
-  }
+  result.error = WriteWholeFile(directory.filePath(QStringLiteral("index.html")), index);
   return result;
 }

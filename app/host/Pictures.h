@@ -8,9 +8,6 @@
 
 // Results that are texts are one line on what went wrong, empty when nothing did.
 
-/// Whether a picture could be written there; changes nothing.
-QString CheckPictureFile(const QString& fileName);
-
 /// Makes the folder where it is missing.
 QString MakePictureFolder(const QString& folder);
 

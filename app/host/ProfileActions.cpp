@@ -126,7 +126,7 @@ void ProfileActions::RemoveProjector() {
                        QMessageBox::NoButton, &window_);
   question.setTextFormat(Qt::PlainText);
   const QPushButton* remove = question.addButton(tr("Remove"), QMessageBox::DestructiveRole);
-  question.addButton(QMessageBox::Cancel);
+  question.setDefaultButton(question.addButton(QMessageBox::Cancel));
   question.exec();
   if (question.clickedButton() != remove) return;
   const int left = static_cast<int>(document_.Projectors().size()) - 1;

@@ -2,10 +2,10 @@
 
 #include <utility>
 
-#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QSaveFile>
+
+#include "app/profiles/WholeFile.h"
 
 namespace {
 
@@ -13,18 +13,6 @@ const JsonEdit::Path kProjectors{"projectors"};
 
 JsonEdit::Path EntryPath(std::size_t projector) {
   return {"projectors", static_cast<qsizetype>(projector)};
-}
-
-QString Text(const char* text) { return QCoreApplication::translate("ProfileDocument", text); }
-
-QString Save(const QString& fileName, const QByteArray& text) {
-  QSaveFile file(fileName);
-  if (file.open(QSaveFile::WriteOnly) && file.write(text) == text.size() && file.flush() &&
-      file.commit()) {
-    return {};
-  }
-  return Text(QT_TRANSLATE_NOOP("ProfileDocument", "Cannot write %1: %2"))
-      .arg(fileName, file.errorString());
 }
 
 }  // namespace
@@ -42,7 +30,7 @@ QString ProfileDocument::Load(const QString& fileName) {
 }
 
 QString ProfileDocument::SaveAs(const QString& fileName) {
-  if (QString error = Save(fileName, text_); !error.isEmpty()) return error;
+  if (QString error = WriteWholeFile(fileName, text_); !error.isEmpty()) return error;
   fileName_ = fileName;
   return {};
 }
@@ -92,12 +80,10 @@ QString ProfileDocument::Write(const QByteArray& text) {
   const ProfileFileText present = ReadProfileText(fileName_);
   if (!present.error.isEmpty()) return present.error;
   if (present.text != text_) {
-    return Text(QT_TRANSLATE_NOOP(
-                    "ProfileDocument",
-                    "%1 was changed by another program. Reload it (F5), then do this again."))
+    return tr("%1 was changed by another program. Reload it (F5), then do this again.")
         .arg(fileName_);
   }
-  if (QString error = Save(fileName_, text); !error.isEmpty()) return error;
+  if (QString error = WriteWholeFile(fileName_, text); !error.isEmpty()) return error;
   text_ = text;
   file_ = QJsonDocument::fromJson(text_).object();
   projectors_ = std::move(contents.projectors);

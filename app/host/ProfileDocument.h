@@ -3,6 +3,7 @@
 #include <vector>
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QJsonObject>
 
 #include "app/host/JsonEdit.h"
@@ -14,6 +15,8 @@
 ///
 /// Results that are texts are one line on what went wrong, empty when nothing did.
 class ProfileDocument {
+  Q_DECLARE_TR_FUNCTIONS(ProfileDocument)
+
  public:
   ProfileDocument() = default;
   /// Of projectors that are in no file; they cannot be changed.

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTableView>
 #include <QVBoxLayout>
 
@@ -82,6 +83,11 @@ void ProjectorView::MakeColumns() {
 }
 
 QHeaderView& ProjectorView::Columns() const { return *table_->horizontalHeader(); }
+
+QSize ProjectorView::sizeHint() const {
+  const int beside = table_->verticalScrollBar()->sizeHint().width() + 2 * table_->frameWidth();
+  return {Columns().length() + beside, QWidget::sizeHint().height()};
+}
 
 void ProjectorView::AddContextActions(const QList<QAction*>& actions) {
   table_->addActions(actions);

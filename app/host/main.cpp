@@ -16,6 +16,8 @@
 #include "app/host/Pictures.h"
 #include "app/host/ProfileDocument.h"
 #include "app/host/Translations.h"
+#include "app/profiles/Table.h"
+#include "app/profiles/WholeFile.h"
 #include "host/CAdvanceDlg.h"
 #include "i18n/Catalog.h"
 #include "i18n/SystemLanguage.h"
@@ -26,6 +28,10 @@ namespace {
 const QString kName = QStringLiteral("advanced-control");
 constexpr int kWrongArguments = 2;
 constexpr int kNoDisplay = 1;
+
+struct Program {
+  Q_DECLARE_TR_FUNCTIONS(Program)
+};
 
 int Fail(const QString& message, int exitCode = kWrongArguments) {
   std::fprintf(stderr, "advanced-control: %s\n", qUtf8Printable(message));
@@ -54,8 +60,8 @@ QString ReadProfiles(const CommandLine& line, ProfileDocument& document) {
   const QStringList places = ProfileFilePlaces();
   const auto place = std::ranges::find_if(places, qOverload<const QString&>(&QFileInfo::exists));
   if (place != places.end()) return document.Load(*place);
-  return QStringLiteral("no profiles at %1; name a file with --profiles")
-      .arg(places.join(QStringLiteral(" or ")));
+  return Program::tr("no profiles at %1; name a file with --profiles")
+      .arg(places.join(Program::tr(" or ")));
 }
 
 // The catalog was chosen when the library was loaded, by the environment of that time.
@@ -63,6 +69,7 @@ void ChooseLanguage(int language) {
   qputenv("LC_ALL",
           language == static_cast<int>(kChineseSimplified) ? "zh_CN.UTF-8" : "en_US.UTF-8");
   LoadCatalog();
+  InstallTranslations();
 }
 
 // Tab 0 is the status page, which every projector has.
@@ -71,19 +78,28 @@ int LastTab(const ProjectorProfile& profile) {
 }
 
 void PrintList(const std::vector<ProjectorProfile>& profiles) {
-  std::printf("%-24s %-16s %4s %4s  %s\n", "Name", "Model", "Type", "Code", "Connection");
-  for (const ProjectorProfile& profile : profiles) {
-    std::printf("%-24s %-16s %4d %4d  %s\n", profile.Name.c_str(), profile.Model.ModelName.c_str(),
-                profile.Model.DialogType, profile.Model.ModelCode,
-                qUtf8Printable(ConnectionText(profile.Model)));
+  Table table;
+  std::vector<std::string> titles;
+  for (const char* title : {"Name", "Model", "Type", "Code", "Connection"}) {
+    titles.push_back(QCoreApplication::translate("ProjectorTableModel", title).toStdString());
   }
+  table.Add(titles);
+  for (const ProjectorProfile& profile : profiles) {
+    const CModelInfo2& model = profile.Model;
+    table.Add({profile.Name, model.ModelName, std::to_string(model.DialogType),
+               std::to_string(model.ModelCode), ConnectionText(model).toStdString()});
+  }
+  std::fputs(table.Text().c_str(), stdout);
 }
 
 int RunTour(const std::vector<ProjectorProfile>& profiles, const QString& folder) {
   const TourResult tour = SaveTour(profiles, folder);
   if (!tour.error.isEmpty()) return Fail(tour.error);
-  std::printf("%d pictures of %d kinds of projectors saved in %s\n", tour.pictures, tour.projectors,
-              qUtf8Printable(folder));
+  const QString said = Program::tr("%1 pictures of %2 kinds of projectors saved in %3")
+                           .arg(tour.pictures)
+                           .arg(tour.projectors)
+                           .arg(folder);
+  std::printf("%s\n", qUtf8Printable(said));
   return 0;
 }
 
@@ -93,7 +109,7 @@ int RunWindow(const CommandLine& line, ProfileDocument profiles, std::size_t ope
   window.show();
   if (!line.open.isEmpty()) {
     const CAdvanceDlg* dialog = window.OpenDialog(opened);
-    if (dialog == nullptr) return Fail(QStringLiteral("the dialog cannot be created"));
+    if (dialog == nullptr) return Fail(Program::tr("the dialog cannot be created"));
     if (line.tab.has_value()) dialog->findChild<QTabBar*>()->setCurrentIndex(*line.tab);
   }
   return QApplication::exec();
@@ -110,8 +126,13 @@ struct Request {
 /// code.
 std::variant<Request, int> Prepare(int argc, char* argv[]) {
   const QCoreApplication application(argc, argv);
+  InstallTranslations();
   Request request{.line = ParseCommandLine(QCoreApplication::arguments()), .profiles = {}};
   const CommandLine& line = request.line;
+  if (line.language.has_value()) {
+    ChooseLanguage(*line.language);
+    request.line = ParseCommandLine(QCoreApplication::arguments());  // its texts
+  }
   if (!line.error.isEmpty()) return Fail(line.error);
   if (line.action == CommandLine::Action::Help) {
     std::fputs(qUtf8Printable(line.help), stdout);
@@ -139,17 +160,15 @@ std::variant<Request, int> Prepare(int argc, char* argv[]) {
       std::ranges::find(projectors, line.open.toStdString(), &ProjectorProfile::Name);
   if (opened == projectors.end()) {
     return Fail(
-        QStringLiteral("--open: there is no projector '%1'; --list names all.").arg(line.open));
+        Program::tr("--open: there is no projector '%1'; --list names all.").arg(line.open));
   }
   request.opened = static_cast<std::size_t>(opened - projectors.begin());
   if (const int last = LastTab(*opened), tab = line.tab.value_or(0); tab < 0 || tab > last) {
-    return Fail(QStringLiteral("--tab: there is no tab %1; '%2' has tabs 0 to %3.")
-                    .arg(tab)
-                    .arg(line.open)
-                    .arg(last));
+    return Fail(Program::tr("--tab: there is no tab %1; '%2' has tabs 0 to %3.")
+                    .arg(QString::number(tab), line.open, QString::number(last)));
   }
   if (line.action == CommandLine::Action::Screenshot) {
-    const QString error = CheckPictureFile(line.target);
+    const QString error = CheckWholeFile(line.target);
     if (!error.isEmpty()) return Fail(error);
   }
   return request;
@@ -162,12 +181,11 @@ int Run(int argc, char* argv[]) {
 
   if (!line.platform && !HasDisplay()) {
     if (line.action == CommandLine::Action::Window) {
-      return Fail(QStringLiteral("no display; use --list, --tour or --screenshot without one."),
+      return Fail(Program::tr("no display; use --list, --tour or --screenshot without one."),
                   kNoDisplay);
     }
     qputenv("QT_QPA_PLATFORM", "offscreen");
   }
-  if (line.language.has_value()) ChooseLanguage(*line.language);
   const QApplication application(argc, argv);
   QGuiApplication::setDesktopFileName(kName);
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/advanced-control.png")));

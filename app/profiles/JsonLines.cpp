@@ -25,7 +25,7 @@ int EscapedUnit(QByteArrayView text, qsizetype at) {
 std::optional<JsonLines::Fault> StringFault(const QByteArray& text, qsizetype& at) {
   const qsizetype begin = at++;
   const auto control = [&at] {
-    return JsonLines::Fault{at, QStringLiteral("control character in a text")};
+    return JsonLines::Fault{at, JsonLines::tr("control character in a text")};
   };
   const qsizetype last = begin + 1 + JsonLines::kMaximumStringBytes;
   while (at < text.size() && at <= last && text[at] != '"') {
@@ -46,13 +46,13 @@ std::optional<JsonLines::Fault> StringFault(const QByteArray& text, qsizetype& a
     const bool isPair =
         unit >= 0xD800 && unit < 0xDC00 && (EscapedUnit(text, at + 6) & ~0x3FF) == 0xDC00;
     if (unit >= 0xD800 && unit < 0xE000 && !isPair) {
-      return JsonLines::Fault{at, QStringLiteral("half a surrogate pair in a text")};
+      return JsonLines::Fault{at, JsonLines::tr("half a surrogate pair in a text")};
     }
     at += isPair ? 12 : 6;
   }
   if (at > last) {
     return JsonLines::Fault{
-        begin, QStringLiteral("text of more than %1 bytes").arg(JsonLines::kMaximumStringBytes)};
+        begin, JsonLines::tr("text of more than %1 bytes").arg(JsonLines::kMaximumStringBytes)};
   }
   ++at;
   return {};
@@ -62,7 +62,7 @@ std::optional<JsonLines::Fault> StringFault(const QByteArray& text, qsizetype& a
 
 std::optional<JsonLines::Fault> JsonLines::FaultOf(const QByteArray& text) {
   if (text.size() > kMaximumBytes) {
-    return Fault{0, QStringLiteral("more than %1 bytes").arg(kMaximumBytes)};
+    return Fault{0, tr("more than %1 bytes").arg(kMaximumBytes)};
   }
   int depth = 0;
   int values = 1;
@@ -77,10 +77,10 @@ std::optional<JsonLines::Fault> JsonLines::FaultOf(const QByteArray& text) {
     // Every value but the outermost stands behind one of these.
     if (c == '{' || c == '[' || c == ',') ++values;
     if (depth > kMaximumDepth) {
-      return Fault{at, QStringLiteral("nested more than %1 deep").arg(kMaximumDepth)};
+      return Fault{at, tr("nested more than %1 deep").arg(kMaximumDepth)};
     }
     if (values > kMaximumValues) {
-      return Fault{at, QStringLiteral("more than %1 values").arg(kMaximumValues)};
+      return Fault{at, tr("more than %1 values").arg(kMaximumValues)};
     }
     ++at;
   }

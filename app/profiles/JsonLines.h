@@ -3,11 +3,14 @@
 #include <optional>
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QString>
 
 /// Where each value of a JSON text stands. Paths are written "projectors[3].ranges.brightness"; the
 /// whole text has an empty one.
 class JsonLines {
+  Q_DECLARE_TR_FUNCTIONS(JsonLines)
+
  public:
   /// What a text may hold at most. What exceeds it is not read at all.
   static constexpr qsizetype kMaximumBytes = qsizetype{4} << 20;

@@ -2,6 +2,7 @@
 
 #include <cstdio>
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
@@ -11,7 +12,11 @@ SnapshotContents ReadSettingsFile(const QString& path) {
   QFile file(path);
   const bool isOpen = path == "-" ? file.open(stdin, QIODevice::ReadOnly)  //
                                   : file.open(QIODevice::ReadOnly);
-  if (!isOpen) return {{}, QStringLiteral("cannot read %1: %2").arg(path, file.errorString())};
+  if (!isOpen) {
+    return {{},
+            QCoreApplication::translate("SettingsFile", "cannot read %1: %2")
+                .arg(path, file.errorString())};
+  }
   constexpr qint64 kMost = (qint64{4} << 20) + 1;  // one more than the reader takes
   SnapshotContents contents = ReadSnapshot(file.read(kMost));
   if (!contents.error.isEmpty()) contents.error.prepend(path + ": ");

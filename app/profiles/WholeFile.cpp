@@ -1,5 +1,6 @@
 #include "app/profiles/WholeFile.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QSaveFile>
 
@@ -17,18 +18,29 @@ bool OpenAndWrite(QFileDevice& file, const QByteArray& bytes) {
   return true;
 }
 
-QString ErrorOf(const QString& path, const QFileDevice& file) {
-  return QStringLiteral("cannot write %1: %2").arg(path, file.errorString());
+bool IsDevice(const QString& path) {
+  const QFileInfo target(path);
+  return target.exists() && !target.isFile() && !target.isDir();
+}
+
+QString CannotWrite(const QFileDevice& file) {
+  return QCoreApplication::translate("WholeFile", "cannot write %1: %2")
+      .arg(file.fileName(), file.errorString());
 }
 
 }  // namespace
 
 QString WriteWholeFile(const QString& path, const QByteArray& bytes) {
-  const QFileInfo target(path);
-  if (target.exists() && !target.isFile() && !target.isDir()) {
+  if (IsDevice(path)) {
     QFile device(path);
-    return OpenAndWrite(device, bytes) ? QString() : ErrorOf(path, device);
+    return OpenAndWrite(device, bytes) ? QString() : CannotWrite(device);
   }
   QSaveFile file(path);
-  return OpenAndWrite(file, bytes) && file.commit() ? QString() : ErrorOf(path, file);
+  return OpenAndWrite(file, bytes) && file.commit() ? QString() : CannotWrite(file);
+}
+
+QString CheckWholeFile(const QString& path) {
+  if (IsDevice(path)) return {};
+  QSaveFile file(path);
+  return file.open(QIODevice::WriteOnly) ? QString() : CannotWrite(file);
 }

@@ -5,6 +5,7 @@
 #include <set>
 #include <utility>
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -21,6 +22,9 @@ constexpr qsizetype kMaximumText = 1024;
 
 /// Thrown while a text is read, caught before the reader returns.
 struct WrongSnapshot {
+  Q_DECLARE_TR_FUNCTIONS(Snapshot)
+
+ public:
   QString message;
 };
 
@@ -31,7 +35,8 @@ int Integer(const QJsonObject& object, const QString& key, const QString& place)
   constexpr int kMost = std::numeric_limits<std::uint16_t>::max();
   const double number = object[key].toDouble(0.5);
   if (number != std::trunc(number) || number < kLeast || number > kMost) {
-    throw WrongSnapshot{place + key + QStringLiteral(": must be a whole number of 16 bits")};
+    throw WrongSnapshot{place + key + ": " +
+                        WrongSnapshot::tr("must be a whole number of 16 bits")};
   }
   return static_cast<int>(number);
 }
@@ -41,22 +46,22 @@ std::string Text(const QJsonObject& object, const QString& key, const QString& p
   const auto isControl = [](QChar character) { return character < QLatin1Char(' '); };
   // It is shown on terminals.
   if (text.isEmpty() || text.size() > kMaximumText || std::ranges::any_of(text, isControl)) {
-    throw WrongSnapshot{place + key + QStringLiteral(": must be a line of text")};
+    throw WrongSnapshot{place + key + ": " + WrongSnapshot::tr("must be a line of text")};
   }
   return text.toStdString();
 }
 
 QJsonObject Object(const QJsonValue& value, const QString& place) {
-  if (!value.isObject()) throw WrongSnapshot{place + QStringLiteral(": must be an object")};
+  if (!value.isObject()) throw WrongSnapshot{place + ": " + WrongSnapshot::tr("must be an object")};
   return value.toObject();
 }
 
 Snapshot Parse(const QJsonObject& file) {
   if (file["format"].toString() != QLatin1String(kFormat)) {
-    throw WrongSnapshot{QStringLiteral("this is no file of saved settings")};
+    throw WrongSnapshot{WrongSnapshot::tr("this is no file of saved settings")};
   }
   if (Integer(file, "version", {}) != kVersion) {
-    throw WrongSnapshot{QStringLiteral("version: only version %1 is known").arg(kVersion)};
+    throw WrongSnapshot{"version: " + WrongSnapshot::tr("only version %1 is known").arg(kVersion)};
   }
   const QJsonObject model = Object(file["model"], "model");
   Snapshot snapshot{.projector = file["projector"].toString().toStdString(),
@@ -66,10 +71,11 @@ Snapshot Parse(const QJsonObject& file) {
                     .time = file["time"].toString().toStdString(),
                     .settings = {}};
   if (!file["settings"].isArray())
-    throw WrongSnapshot{QStringLiteral("settings: must be an array")};
+    throw WrongSnapshot{"settings: " + WrongSnapshot::tr("must be an array")};
   const QJsonArray settings = file["settings"].toArray();
   if (settings.size() > kMaximumSettings) {
-    throw WrongSnapshot{QStringLiteral("settings: has more than %1 entries").arg(kMaximumSettings)};
+    throw WrongSnapshot{"settings: " +
+                        WrongSnapshot::tr("has more than %1 entries").arg(kMaximumSettings)};
   }
   std::set<std::pair<std::string, std::optional<int>>> keys;
   for (int i = 0; i < settings.size(); ++i) {
@@ -79,7 +85,8 @@ Snapshot Parse(const QJsonObject& file) {
     std::optional<int> source;
     if (entry.contains("source")) source = Integer(entry, "source", place);
     if (!keys.emplace(key, source).second) {
-      throw WrongSnapshot{place + QStringLiteral("key: \"%1\" stands here twice").arg(Wide(key))};
+      throw WrongSnapshot{place +
+                          "key: " + WrongSnapshot::tr("\"%1\" stands here twice").arg(Wide(key))};
     }
     snapshot.settings.push_back(
         {key, Integer(entry, "value", place), entry["text"].toString().toStdString(), source});
@@ -110,13 +117,13 @@ QByteArray WriteSnapshot(const Snapshot& snapshot) {
 
 SnapshotContents ReadSnapshot(const QByteArray& text) {
   const auto wrong = [](const QString& error) { return SnapshotContents{{}, error}; };
-  if (text.size() > kMaximumBytes) return wrong(QStringLiteral("is larger than 4 MiB"));
+  if (text.size() > kMaximumBytes) return wrong(WrongSnapshot::tr("is larger than 4 MiB"));
   QJsonParseError syntax;
   const QJsonDocument document = QJsonDocument::fromJson(text, &syntax);
   if (!document.isObject()) {
-    if (document.isArray()) return wrong(QStringLiteral("must hold an object"));
+    if (document.isArray()) return wrong(WrongSnapshot::tr("must hold an object"));
     const auto line = text.left(syntax.offset).count('\n') + 1;
-    return wrong(QStringLiteral("line %1: ").arg(line) + syntax.errorString());
+    return wrong(WrongSnapshot::tr("line %1: ").arg(line) + syntax.errorString());
   }
   try {
     return {Parse(document.object()), {}};

@@ -16,7 +16,8 @@
 namespace {
 
 constexpr int kTickLength = 4;
-constexpr int kTickGap = 1;       // between the handle and its ticks
+constexpr int kTickGap = 1;  // between the handle and its ticks
+constexpr int kTickRoom = kTickGap + kTickLength;
 constexpr int kClosestTicks = 3;  // nearer to each other they are a line
 
 }  // namespace
@@ -46,8 +47,12 @@ void CSliderCtrl::ScrollTo(int position) {
 }
 
 // The same room above the handle, so that the track is in the middle.
-QSize CSliderCtrl::sizeHint() const {
-  return QSlider::sizeHint() + QSize(0, 2 * (kTickGap + kTickLength));
+QSize CSliderCtrl::sizeHint() const { return QSlider::sizeHint() + QSize(0, 2 * kTickRoom); }
+
+// Some styles make the handle as high as they can.
+void CSliderCtrl::initStyleOption(QStyleOptionSlider* option) const {
+  QSlider::initStyleOption(option);
+  option->rect.adjust(0, kTickRoom, 0, -kTickRoom);
 }
 
 QSize CSliderCtrl::minimumSizeHint() const {

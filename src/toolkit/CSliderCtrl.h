@@ -31,6 +31,7 @@ class CSliderCtrl : public QSlider {
   void EndScroll();
 
  protected:
+  void initStyleOption(QStyleOptionSlider* option) const override;
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;

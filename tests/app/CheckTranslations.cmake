@@ -1,4 +1,4 @@
-# cmake -DLUPDATE=<program> -DSOURCES=<folder> -DTRANSLATION=<.ts file> -P <this file>
+# cmake -DLUPDATE=<program> -DSOURCES=<folders and options> -DTRANSLATION=<.ts file> -P <this file>
 #
 # Fails when a text of the sources has no translation, or a translation no text.
 get_filename_component(name ${TRANSLATION} NAME)

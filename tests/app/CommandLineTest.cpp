@@ -42,6 +42,8 @@ const WrongArguments kWrongArguments[] = {
     {{"--list", "--language", "1034"}, "'1034' is neither"},
     {{"--profiles", "/nowhere.json"}, "cannot read profiles /nowhere.json: "},
     {{"--profiles", "/dev/zero"}, "cannot read profiles /dev/zero: not a regular"},
+    {{"--colour", "--language", "2052"}, "未知选项“colour”"},
+    {{"--profiles", "/dev/zero", "--language", "2052"}, "无法读取配置文件 /dev/zero：不是普通文件"},
 };
 
 TEST(Program, AnswersAWrongCommandLineWithOneLineAndExitCode2) {

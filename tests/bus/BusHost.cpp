@@ -1,5 +1,6 @@
-// A dialog on a simulated projector that an assistive technology may use: BusHost TYPE CODE. Writes
-// every command, and a line "-" for each line that it reads.
+// A dialog on a simulated projector that an assistive technology may use: BusHost TYPE CODE. First
+// writes what each setting should be told as, by the model's list of settings; then every command,
+// and a line "-" for each line that it reads.
 
 #include <cstdio>
 #include <cstdlib>
@@ -12,14 +13,26 @@
 
 #include "device/LoggingChannel.h"
 #include "device/ModelDataIntake.h"
+#include "i18n/SystemLanguage.h"
 #include "simulator/SimulatedProjector.h"
+#include "snapshots/SettingTexts.h"
 #include "tests/support/DialogDriver.h"
 
 namespace {
 
-void Tell(const std::string& line) {
-  std::puts(line.c_str());
-  std::fflush(stdout);
+void Tell(const std::string& line) { std::puts(line.c_str()); }
+
+// Tab, key, kind, caption, text of the value, description.
+void TellSettings(const CModelInfo2& model, CPjtInterface& projector) {
+  const SettingTexts texts(std::vector<std::string>{TEST_CATALOG_DIR}, kEnglishUnitedStates);
+  const ModelSettings settings(MakeModelData(model));
+  for (const ModelSetting& setting : settings.All()) {
+    const auto value = setting.readable ? settings.Read(projector, setting) : std::nullopt;
+    Tell(texts.Tab(setting) + '\t' + std::string(setting.key) + '\t' +
+         std::to_string(static_cast<int>(setting.kind)) + '\t' + texts.Caption(setting) + '\t' +
+         (value ? texts.Value(setting, *value) : "") + '\t' +
+         (setting.range ? "Range: " + texts.Values(setting) : ""));
+  }
 }
 
 }  // namespace
@@ -27,12 +40,15 @@ void Tell(const std::string& line) {
 int main(int argc, char** argv) {
   const QApplication application(argc, argv);
   if (argc != 3) return EXIT_FAILURE;
+  std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);
   const CModelInfo2 model = FullModel(std::atoi(argv[1]), std::atoi(argv[2]));
-
+  const auto projector = std::make_shared<SimulatedProjector>(DescribeModel(MakeModelData(model)));
   CAdvanceDlg dialog;
   dialog.CopyData(&model, 0);
+  dialog.Projector().SetChannel(projector);
+  TellSettings(model, dialog.Projector());
   dialog.Projector().SetChannel(std::make_shared<LoggingChannel>(
-      std::make_shared<SimulatedProjector>(DescribeModel(MakeModelData(model))),
+      projector,
       [](const PjtCommand& command, const PjtReply&, auto) { Tell(FormatCommand(command)); }));
   if (!dialog.Create()) return EXIT_FAILURE;
   dialog.show();

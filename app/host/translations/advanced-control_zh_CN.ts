@@ -2,6 +2,81 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN">
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>Display this help.</source>
+        <translation>显示此帮助。</translation>
+    </message>
+    <message>
+        <source>Read the projectors from &lt;file&gt;.</source>
+        <translation>从 &lt;文件&gt; 读取投影机。</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Open the dialog of the projector &lt;name&gt; at start.</source>
+        <translation>启动时打开投影机 &lt;名称&gt; 的对话框。</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>With --open: select tab &lt;n&gt;, counted from 0.</source>
+        <translation>与 --open 一起使用：选择第 &lt;n&gt; 个选项卡，从 0 开始计数。</translation>
+    </message>
+    <message>
+        <source>Print the table of projectors.</source>
+        <translation>列出所有投影机。</translation>
+    </message>
+    <message>
+        <source>With --open: save a picture (PNG) of the dialog and exit.</source>
+        <translation>与 --open 一起使用：将对话框保存为图片 (PNG) 后退出。</translation>
+    </message>
+    <message>
+        <source>Save pictures of all tabs of all kinds of projectors in &lt;folder&gt; and exit.</source>
+        <translation>将各种投影机所有选项卡的图片保存到 &lt;文件夹&gt; 后退出。</translation>
+    </message>
+    <message>
+        <source>folder</source>
+        <translation>文件夹</translation>
+    </message>
+    <message>
+        <source>Show texts in the language &lt;id&gt;: 1033 English, 2052 Chinese.</source>
+        <translation>显示文字所用的语言 &lt;id&gt;：1033 为英文，2052 为中文。</translation>
+    </message>
+    <message>
+        <source>--language: &apos;%1&apos; is neither 1033 nor 2052.</source>
+        <translation>--language：“%1”既不是 1033 也不是 2052。</translation>
+    </message>
+    <message>
+        <source>Unexpected argument &apos;%1&apos;.</source>
+        <translation>多余的参数“%1”。</translation>
+    </message>
+    <message>
+        <source>--%1 needs a value.</source>
+        <translation>--%1 需要一个值。</translation>
+    </message>
+    <message>
+        <source>Only one of --list, --tour and --open can be given.</source>
+        <translation>--list、--tour 和 --open 只能使用其中一个。</translation>
+    </message>
+    <message>
+        <source>--%1 needs --open.</source>
+        <translation>--%1 必须与 --open 一起使用。</translation>
+    </message>
+    <message>
+        <source>--tab: &apos;%1&apos; is not a number.</source>
+        <translation>--tab：“%1”不是数字。</translation>
+    </message>
+    <message>
+        <source>Opens the settings dialogs of projectors, real or simulated.</source>
+        <translation>打开投影机（真实或模拟）的设置对话框。</translation>
+    </message>
+</context>
+<context>
     <name>CommandLog</name>
     <message>
         <source>Changes &amp;Only</source>
@@ -26,10 +101,6 @@
     <message>
         <source>&amp;Copy</source>
         <translation>复制(&amp;C)</translation>
-    </message>
-    <message>
-        <source>Cannot write %1: %2</source>
-        <translation>无法写入 %1：%2</translation>
     </message>
     <message>
         <source>Save Log</source>
@@ -231,6 +302,33 @@
     </message>
 </context>
 <context>
+    <name>JsonLines</name>
+    <message>
+        <source>control character in a text</source>
+        <translation>文本中含有控制字符</translation>
+    </message>
+    <message>
+        <source>half a surrogate pair in a text</source>
+        <translation>文本中含有不完整的代理对</translation>
+    </message>
+    <message>
+        <source>text of more than %1 bytes</source>
+        <translation>文本超过 %1 字节</translation>
+    </message>
+    <message>
+        <source>more than %1 bytes</source>
+        <translation>超过 %1 字节</translation>
+    </message>
+    <message>
+        <source>nested more than %1 deep</source>
+        <translation>嵌套超过 %1 层</translation>
+    </message>
+    <message>
+        <source>more than %1 values</source>
+        <translation>超过 %1 个值</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Open</source>
@@ -328,6 +426,25 @@
         <source>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;The live settings of projectors: every value is read from the projector, every change is sent at once.&lt;/p&gt;</source>
         <translation>&lt;h3&gt;高级控制 %1&lt;/h3&gt;&lt;p&gt;投影机的实时设置：每个值都从投影机读取，每项更改都立即发送。&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>Ctrl+F</source>
+        <translation>Ctrl+F</translation>
+    </message>
+    <message>
+        <source>Find a setting</source>
+        <translation>查找设置</translation>
+    </message>
+</context>
+<context>
+    <name>Pictures</name>
+    <message>
+        <source>the dialog of %1 cannot be created</source>
+        <translation>无法创建 %1 的对话框</translation>
+    </message>
+    <message>
+        <source>cannot write to the folder %1</source>
+        <translation>无法写入文件夹 %1</translation>
+    </message>
 </context>
 <context>
     <name>ProfileActions</name>
@@ -398,10 +515,6 @@
 </context>
 <context>
     <name>ProfileDocument</name>
-    <message>
-        <source>Cannot write %1: %2</source>
-        <translation>无法写入 %1：%2</translation>
-    </message>
     <message>
         <source>%1 was changed by another program. Reload it (F5), then do this again.</source>
         <translation>%1 已被其他程序更改。请重新加载 (F5) 后再试一次。</translation>
@@ -499,6 +612,157 @@
     <message>
         <source>serial port %1</source>
         <translation>串口 %1</translation>
+    </message>
+    <message>
+        <source>has %1 families; at most %2 are possible</source>
+        <translation>有 %1 个系列，最多允许 %2 个</translation>
+    </message>
+    <message>
+        <source>leads through more than %1 families</source>
+        <translation>经过的系列超过 %1 个</translation>
+    </message>
+    <message>
+        <source>makes &quot;%1&quot; like itself</source>
+        <translation>使“%1”引用了自身</translation>
+    </message>
+    <message>
+        <source>there is no family &quot;%1&quot;</source>
+        <translation>没有名为“%1”的系列</translation>
+    </message>
+    <message>
+        <source>the file must hold an object</source>
+        <translation>文件内容必须是一个对象</translation>
+    </message>
+    <message>
+        <source>&quot;projectors&quot; is missing</source>
+        <translation>缺少“projectors”</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is missing</source>
+        <translation>缺少“%1”</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is the name of projectors[%2] too</source>
+        <translation>“%1”与 projectors[%2] 重名</translation>
+    </message>
+    <message>
+        <source>there is no projector</source>
+        <translation>没有投影机</translation>
+    </message>
+    <message>
+        <source>stands here twice</source>
+        <translation>在此重复出现</translation>
+    </message>
+    <message>
+        <source>cannot read profiles %1: %2</source>
+        <translation>无法读取配置文件 %1：%2</translation>
+    </message>
+    <message>
+        <source>not a regular file</source>
+        <translation>不是普通文件</translation>
+    </message>
+    <message>
+        <source>unknown key; known are %1</source>
+        <translation>未知的键，可用的键有 %1</translation>
+    </message>
+    <message>
+        <source>must be an object</source>
+        <translation>必须是对象</translation>
+    </message>
+    <message>
+        <source>must be an array</source>
+        <translation>必须是数组</translation>
+    </message>
+    <message>
+        <source>has %1 entries; at most %2 are possible</source>
+        <translation>有 %1 项，最多允许 %2 项</translation>
+    </message>
+    <message>
+        <source>must be a text that is not empty</source>
+        <translation>必须是非空文本</translation>
+    </message>
+    <message>
+        <source>is longer than %1 bytes</source>
+        <translation>超过 %1 字节</translation>
+    </message>
+    <message>
+        <source>must be a whole number</source>
+        <translation>必须是整数</translation>
+    </message>
+    <message>
+        <source>is %1; it must be %2 to %3</source>
+        <translation>值为 %1，必须在 %2 到 %3 之间</translation>
+    </message>
+    <message>
+        <source>must be a number, a text or an object with &quot;value&quot; and &quot;name&quot;</source>
+        <translation>必须是数字、文本或含有“value”和“name”的对象</translation>
+    </message>
+    <message>
+        <source>is neither the name of a range nor a number 0 to %1</source>
+        <translation>既不是范围名称，也不是 0 到 %1 之间的数字</translation>
+    </message>
+    <message>
+        <source>must be given by its name &quot;%1&quot;</source>
+        <translation>必须使用名称“%1”</translation>
+    </message>
+    <message>
+        <source>must be [minimum, maximum] or null</source>
+        <translation>必须是 [最小值, 最大值] 或 null</translation>
+    </message>
+    <message>
+        <source>has a minimum above its maximum</source>
+        <translation>最小值大于最大值</translation>
+    </message>
+    <message>
+        <source>must be a path that begins with /</source>
+        <translation>必须是以 / 开头的路径</translation>
+    </message>
+    <message>
+        <source>must have either &quot;network&quot; or &quot;serial&quot;</source>
+        <translation>必须且只能含有“network”或“serial”之一</translation>
+    </message>
+    <message>
+        <source>must be simulated, network, serial or pjlink</source>
+        <translation>必须是 simulated、network、serial 或 pjlink</translation>
+    </message>
+    <message>
+        <source>needs a %1 connection</source>
+        <translation>需要 %1 连接</translation>
+    </message>
+    <message>
+        <source>there is no setting &quot;%1&quot;</source>
+        <translation>没有名为“%1”的设置</translation>
+    </message>
+</context>
+<context>
+    <name>Program</name>
+    <message>
+        <source>no profiles at %1; name a file with --profiles</source>
+        <translation>在 %1 找不到配置文件，请用 --profiles 指定文件</translation>
+    </message>
+    <message>
+        <source> or </source>
+        <translation> 或 </translation>
+    </message>
+    <message>
+        <source>%1 pictures of %2 kinds of projectors saved in %3</source>
+        <translation>已将 %2 种投影机的 %1 张图片保存到 %3</translation>
+    </message>
+    <message>
+        <source>the dialog cannot be created</source>
+        <translation>无法创建对话框</translation>
+    </message>
+    <message>
+        <source>--open: there is no projector &apos;%1&apos;; --list names all.</source>
+        <translation>--open：没有名为“%1”的投影机，用 --list 可列出全部。</translation>
+    </message>
+    <message>
+        <source>--tab: there is no tab %1; &apos;%2&apos; has tabs 0 to %3.</source>
+        <translation>--tab：没有选项卡 %1，“%2”的选项卡为 0 到 %3。</translation>
+    </message>
+    <message>
+        <source>no display; use --list, --tour or --screenshot without one.</source>
+        <translation>没有显示器，此时请使用 --list、--tour 或 --screenshot。</translation>
     </message>
 </context>
 <context>
@@ -771,6 +1035,67 @@
     <message>
         <source>Open Settings</source>
         <translation>打开设置文件</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsFile</name>
+    <message>
+        <source>cannot read %1: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>Snapshot</name>
+    <message>
+        <source>must be a whole number of 16 bits</source>
+        <translation>必须是 16 位整数</translation>
+    </message>
+    <message>
+        <source>must be a line of text</source>
+        <translation>必须是一行文本</translation>
+    </message>
+    <message>
+        <source>must be an object</source>
+        <translation>必须是对象</translation>
+    </message>
+    <message>
+        <source>this is no file of saved settings</source>
+        <translation>这不是设置文件</translation>
+    </message>
+    <message>
+        <source>only version %1 is known</source>
+        <translation>仅支持版本 %1</translation>
+    </message>
+    <message>
+        <source>must be an array</source>
+        <translation>必须是数组</translation>
+    </message>
+    <message>
+        <source>has more than %1 entries</source>
+        <translation>超过 %1 项</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; stands here twice</source>
+        <translation>“%1”在此重复出现</translation>
+    </message>
+    <message>
+        <source>is larger than 4 MiB</source>
+        <translation>大于 4 MiB</translation>
+    </message>
+    <message>
+        <source>must hold an object</source>
+        <translation>内容必须是一个对象</translation>
+    </message>
+    <message>
+        <source>line %1: </source>
+        <translation>第 %1 行：</translation>
+    </message>
+</context>
+<context>
+    <name>WholeFile</name>
+    <message>
+        <source>cannot write %1: %2</source>
+        <translation>无法写入 %1：%2</translation>
     </message>
 </context>
 </TS>

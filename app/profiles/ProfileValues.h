@@ -1,0 +1,48 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include <QCoreApplication>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QString>
+#include <QStringList>
+
+#include "app/profiles/ProjectorProfile.h"
+
+/// What is said about wrong profile files, in the language of the program if it has a translation.
+struct ProfileText {
+  Q_DECLARE_TR_FUNCTIONS(ProfileFile)
+};
+
+/// Thrown while a file is read, caught before the reader returns.
+struct WrongValue {
+  QString path;  ///< As in `JsonLines`.
+  QString message;
+};
+
+/// All keys that a family may have; an entry may have a name too.
+extern const QStringList kFamilyKeys;
+
+QString Text(std::string_view text);
+
+/// The path of a member, or of an element, of the value at `path`.
+QString At(const QString& path, const QString& key);
+QString At(const QString& path, int index);
+
+// Each of these throws `WrongValue` where what stands at `path` is not so.
+
+/// An object's keys are all among the known ones.
+void CheckKeys(const QJsonObject& object, const QString& path, const QStringList& known);
+QJsonObject Object(const QJsonValue& value, const QString& path);
+/// Of no more than `capacity` elements.
+QJsonArray Array(const QJsonValue& value, const QString& path, int capacity);
+/// Not empty; in UTF-8.
+std::string String(const QJsonValue& value, const QString& path);
+/// The connection is of the kind that the profile's link needs.
+void CheckLink(const ProjectorProfile& profile, const QString& path);
+
+/// Puts what a family or an entry says over what it is like. Ranges are put over each other one by
+/// one, everything else as a whole.
+void Apply(const QJsonObject& settings, const QString& path, ProjectorProfile& profile);

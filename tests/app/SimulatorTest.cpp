@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <atomic>
 #include <chrono>
 #include <optional>
 
@@ -19,6 +20,10 @@
 #include "device/Connect.h"
 #include "host/CAdvanceDlg.h"
 #include "pages/common/CTabPage.h"
+#include "simulator/SimulatedProjector.h"
+#include "simulator/WireResponder.h"
+#include "tests/device/Peer.h"
+#include "tests/support/Models.h"
 #include "tests/support/Programs.h"
 
 namespace {
@@ -26,6 +31,8 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr PjtCommand kVolume{PjtOperation::Get, 0x2001};
+constexpr PjtCommand kMute{PjtOperation::SetMute, 0, 1};
+constexpr PjtCommand kIsMuted{PjtOperation::Get, 0x2002};
 constexpr char kName[] = "Projector 5-30";
 
 PjtCommand SetVolume(int value) {
@@ -92,22 +99,30 @@ TEST_F(SimulatorTest, FaultsOfTheLineAreUnansweredAndOver) {
            {"tcp", "1 silent", false, NoAnswer},
            {"tcp", "1 garbage", false, NotUnderstood},
            {"tcp", "1 cut 7", false, Lost},
+           {"pjlink", "1 trickle", true, Connected},
+           {"pjlink", "1 late 100", true, Connected},
+           {"pjlink", "1 silent", false, NoAnswer},
+           {"pjlink", "1 garbage", false, NoAnswer},
+           {"pjlink", "1 cut 7", false, Lost},
            {"serial", "1 trickle", true, Connected},
            {"serial", "1 late 1800", false, NoAnswer},
            {"serial", "1 silent", false, NoAnswer},
            {"serial", "1 garbage", false, NoAnswer},
+           {"serial", "1 cut 7", false, Lost},
        }) {
     SCOPED_TRACE(testing::Message() << way << ' ' << fault);
     const auto inner = MakeUnboundedChannel(Address(way));
     BoundedChannel channel(inner, {.timeOut = 10s, .retryAfter = 0ms});
-    ASSERT_TRUE(channel.Execute(SetVolume(7)).answered);
+    ASSERT_TRUE(channel.Execute(kMute).answered);
     EXPECT_EQ(Control(fault), "ok");
-    const PjtReply reply = channel.Execute(kVolume);
+    const PjtReply reply = channel.Execute(kIsMuted);
     EXPECT_EQ(reply.answered, answered);
     EXPECT_EQ(ConnectionStateText(channel.Connection()), ConnectionStateText(state));
-    EXPECT_TRUE(!reply.answered || reply.value == 7);
+    EXPECT_TRUE(!reply.answered || reply.value == 1);
     EXPECT_EQ(Control("* none"), "ok");
-    EXPECT_EQ(channel.Execute(kVolume).value, 7);
+    if (way != std::string_view("serial") || state != Lost) {
+      EXPECT_EQ(channel.Execute(kIsMuted).value, 1);
+    }
   }
   EXPECT_EQ(Control("1 late"),
             "error: faults are none, refuse, fail-read, silent, late "
@@ -188,6 +203,34 @@ TEST_F(SimulatorTest, TheListTellsHowEveryConnectionStands) {
   simulator_.emplace(QStringList{"--projector", kName, "--port", port});
   window.OpenDialog(0);
   comesTo(0, "Open · Connected");
+}
+
+TEST(RoundTrips, APageCostsTwoAtMostAndTheFirstOneAsManyWithItsConnection) {
+  for (const auto& [type, code] :
+       {std::pair{1, 0}, {2, 6}, {3, 10}, {4, 22}, {5, 30}, {5, 42}, {5, 54}}) {
+    const CModelInfo2 model = FullModel(type, code);
+    SimulatedProjector projector(DescribeModel(MakeModelData(model)));
+    std::atomic<int> askedAtOnce = 0;
+    const Peer peer(Way::Tcp, {[&](Peer::End& end) {
+                      WireResponder responder(projector);
+                      for (auto said = end.Receive(); !said.empty(); said = end.Receive()) {
+                        ++askedAtOnce;
+                        end.Send(responder.Receive(said));
+                      }
+                    }});
+    CAdvanceDlg dialog;
+    dialog.CopyData(&model, 0);
+    dialog.Projector().SetChannel(MakeChannel(TcpAddress{"127.0.0.1", peer.port}));
+    ASSERT_TRUE(dialog.Create());
+    auto& tabs = *dialog.findChild<QTabBar*>();
+    for (int tab = 0; tab < tabs.count(); ++tab) {
+      tabs.setCurrentIndex(tab);
+      EXPECT_GE(askedAtOnce, 1);
+      EXPECT_LE(askedAtOnce.exchange(0), 2) << NameOf(model) << ", tab " << tab;
+    }
+    EXPECT_GT(dialog.Projector().Sent().commands, 0);
+    EXPECT_EQ(dialog.Projector().Sent().unanswered, 0);
+  }
 }
 
 TEST(ConnectionParameters, ThatAreNonsenseAreToldInTheDialogAtOnce) {

@@ -19,7 +19,8 @@ class Relay {
       auto* projector = new QTcpSocket(program);
       projector->connectToHost(QHostAddress::LocalHost, target);
       projectorSpoke_ = true;
-      Pass(program, projector, [this] { exchanges_ += std::exchange(projectorSpoke_, false) ? 1 : 0; });
+      Pass(program, projector,
+           [this] { exchanges_ += std::exchange(projectorSpoke_, false) ? 1 : 0; });
       Pass(projector, program, [this] { projectorSpoke_ = true; });
       QObject::connect(program, &QTcpSocket::disconnected, program, &QObject::deleteLater);
     });

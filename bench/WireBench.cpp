@@ -57,7 +57,8 @@ class FarProjector {
   std::thread thread_;
 };
 
-/// Counts commands, tells when the first was given, and keeps announcements to itself unless they are wanted.
+/// Counts commands, tells when the first was given, and keeps announcements to itself unless they
+/// are wanted.
 class Counting final : public ProjectorChannel {
  public:
   Counting(std::shared_ptr<ProjectorChannel> inner, bool announces)
@@ -133,8 +134,8 @@ void ShowSetupPage(benchmark::State& state) {
   SetCounters(state, *channel, Median(waits), exchanges);
 }
 
-// From a dialog that is not there, and no connection, to the first page's values; the counters count
-// from the moment at which the dialog connects.
+// From a dialog that is not there, and no connection, to the first page's values; the counters
+// count from the moment at which the dialog connects.
 void OpenOverLink(benchmark::State& state) {
   const CModelInfo2 model = MakeFullModel(kDialogType, kModelCode);
   const FarProjector projector(model, std::chrono::milliseconds(state.range(0)));

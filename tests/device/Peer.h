@@ -7,18 +7,16 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <functional>
-#include <netinet/in.h>
-#include <netinet/tcp.h>
+#include <future>
 #include <poll.h>
 #include <pty.h>
 #include <string>
 #include <string_view>
-#include <sys/socket.h>
 #include <thread>
 #include <unistd.h>
-#include <utility>
 #include <vector>
 
+#include <QTcpServer>
 #include <QTemporaryDir>
 
 enum class Way { Tcp, Serial };
@@ -50,38 +48,28 @@ class Peer {
     void Listen() {
       while (!Receive().empty()) continue;
     }
+
+   private:
     bool IsReady(short event) {
       pollfd polled{file_, event, 0};
       while (!isOver_() && poll(&polled, 1, 5) == 0) continue;
       return !isOver_();
     }
 
-   private:
     const int file_;
     const std::function<bool()> isOver_;
   };
   using Behaviour = std::function<void(End&)>;
 
-  Peer(Way way, std::vector<Behaviour> behaviours) : way_(way), behaviours_(std::move(behaviours)) {
+  Peer(Way way, std::vector<Behaviour> behaviours) : behaviours_(std::move(behaviours)) {
     std::signal(SIGPIPE, SIG_IGN);
-    if (way == Way::Tcp) {
-      sockaddr_in address{AF_INET, 0, {htonl(INADDR_LOOPBACK)}, {}};
-      socklen_t size = sizeof address;
-      auto* const where = reinterpret_cast<sockaddr*>(&address);
-      listener_ = socket(AF_INET, SOCK_STREAM, 0);
-      if (bind(listener_, where, size) == 0 && listen(listener_, 4) == 0) {
-        getsockname(listener_, where, &size);
-      }
-      port = ntohs(address.sin_port);
-    } else {
-      LayLine();
-    }
-    thread_ = std::thread([this] { Run(); });
+    std::promise<std::uint16_t> isReady;
+    thread_ = std::thread([&] { way == Way::Tcp ? RunTcp(isReady) : RunSerial(isReady); });
+    port = isReady.get_future().get();
   }
   ~Peer() {
     wanted_ = INT_MAX;
     thread_.join();
-    for (const int file : {listener_, line_, otherEnd_}) close(file);
   }
 
   /// Ends the first `count` connections, and returns when they are closed.
@@ -90,41 +78,61 @@ class Peer {
     for (int done = finished_; done < count; done = finished_) finished_.wait(done);
   }
 
-  std::uint16_t port = 0;
+  std::uint16_t port;  ///< 0 of a serial line.
   std::string Device() const { return folder_.filePath("line").toStdString(); }
 
  private:
-  void LayLine() {
-    openpty(&line_, &otherEnd_, nullptr, nullptr, nullptr);
-    fcntl(line_, F_SETFL, O_NONBLOCK);
-    std::filesystem::remove(Device());
-    std::filesystem::create_symlink(ttyname(otherEnd_), Device());
-  }
-  void Run() {
-    for (std::size_t i = 0; wanted_ < INT_MAX; ++i) {
-      const auto isOver = [this, i] { return wanted_ > static_cast<int>(i); };
-      if (way_ == Way::Tcp) {
-        if (!End(listener_, [this] { return wanted_ == INT_MAX; }).IsReady(POLLIN)) return;
-        const int noDelay = 1;
-        line_ = accept4(listener_, nullptr, nullptr, SOCK_NONBLOCK);
-        setsockopt(line_, IPPROTO_TCP, TCP_NODELAY, &noDelay, sizeof noDelay);
-      }
-      End end(line_, isOver);
-      behaviours_[std::min(i, behaviours_.size() - 1)](end);
-      close(std::exchange(line_, -1));
-      close(std::exchange(otherEnd_, -1));
-      if (way_ == Way::Serial) LayLine();
-      ++finished_;
-      finished_.notify_all();
+  /// Hands connections over as they come.
+  struct Listener final : QTcpServer {
+    void incomingConnection(qintptr descriptor) override {
+      accepted = static_cast<int>(descriptor);
+    }
+    int accepted = -1;
+  };
+
+  void RunTcp(std::promise<std::uint16_t>& isReady) {
+    Listener listener;
+    listener.listen(QHostAddress::LocalHost);
+    isReady.set_value(listener.serverPort());
+    while (wanted_ < INT_MAX) {
+      if (!listener.waitForNewConnection(5)) continue;
+      Behave(listener.accepted);
+      close(listener.accepted);
+      CountFinished();
     }
   }
 
-  const Way way_;
+  void RunSerial(std::promise<std::uint16_t>& isReady) {
+    for (int line = -1, otherEnd = -1; wanted_ < INT_MAX;) {
+      // The other end is held, so that the line lasts while nobody has it open.
+      openpty(&line, &otherEnd, nullptr, nullptr, nullptr);
+      std::filesystem::remove(Device());
+      std::filesystem::create_symlink(ttyname(otherEnd), Device());
+      if (served_ == 0) {
+        isReady.set_value(0);
+      } else {
+        CountFinished();
+      }
+      Behave(line);
+      close(line);
+      close(otherEnd);
+    }
+  }
+
+  void Behave(int line) {
+    fcntl(line, F_SETFL, O_NONBLOCK);
+    const std::size_t index = served_++;
+    End end(line, [this, index] { return wanted_ > static_cast<int>(index); });
+    behaviours_[std::min(index, behaviours_.size() - 1)](end);
+  }
+  void CountFinished() {
+    ++finished_;
+    finished_.notify_all();
+  }
+
   const std::vector<Behaviour> behaviours_;
   const QTemporaryDir folder_;
-  int listener_ = -1;
-  int line_ = -1;
-  int otherEnd_ = -1;  // of a serial line; held, so that the line lasts while nobody has it open
+  std::size_t served_ = 0;
   std::atomic<int> wanted_ = 0;
   std::atomic<int> finished_ = 0;
   std::thread thread_;

@@ -1,6 +1,5 @@
 #include <atomic>
 #include <future>
-#include <gmock/gmock.h>
 #include <string>
 #include <thread>
 #include <vector>
@@ -26,7 +25,6 @@ using Op = PjtOperation;
 
 constexpr PjLinkChannel::Limits kLimits{.connect = 1s, .answer = 1s};
 constexpr PjtCommand kGetPower{Op::Get, CommandCode::RunningState};
-constexpr int kWait = 5000;
 
 const std::string kHost = "127.0.0.1";
 
@@ -67,7 +65,7 @@ class Served {
   QByteArray Exchange(const QByteArray& sent) const {
     QTcpSocket socket;
     socket.connectToHost(QString::fromStdString(kHost), static_cast<quint16>(port));
-    if (!socket.waitForConnected(kWait) || socket.write(sent) != sent.size()) return "unreachable";
+    if (!socket.waitForConnected() || socket.write(sent) != sent.size()) return "unreachable";
     while (socket.waitForReadyRead(1000)) continue;
     return socket.readAll() + (socket.state() == QTcpSocket::ConnectedState ? "open" : "closed");
   }
@@ -84,16 +82,8 @@ class Served {
 Peer::Behaviour Script(std::vector<std::string> texts, bool keepsOpen = true) {
   return [texts = std::move(texts), keepsOpen](Peer::End& end) {
     for (std::size_t i = 0; i < texts.size(); ++i) {
-      for (std::string request; i > 0 && request.find('\r') == std::string::npos;) {
-        const std::string more = end.Receive();
-        if (more.empty()) return;
-        request += more;
-      }
-      constexpr std::size_t kSingly = 16;
-      const std::size_t piece = texts[i].size() < kSingly ? 1 : texts[i].size();
-      for (std::size_t at = 0; at < texts[i].size(); at += piece) {
-        end.Send(std::string_view(texts[i]).substr(at, piece));
-      }
+      if (i > 0 && end.Receive().empty()) return;
+      end.Send(texts[i]);
     }
     if (keepsOpen) end.Listen();
   };
@@ -108,11 +98,7 @@ TEST(PjLinkTest, EveryOperationReachesTheProjector) {
   const Served served({});
   PjLinkChannel channel = served.Channel();
   namespace Code = CommandCode;
-  const struct {
-    std::uint16_t code;
-    int held;
-    int read;
-  } reads[] = {
+  const std::tuple<std::uint16_t, int, int> reads[] = {
       {Code::ErrorStatus, 0, 0},  {Code::ErrorStatus, 1, 1},  {Code::ErrorStatus, 2, 2},
       {Code::ErrorStatus, 8, 8},  {Code::ErrorStatus, 6, 9},  {Code::LampTime, 65535, 65535},
       {Code::FilterTime, 0, 0},   {Code::BlankState, 1, 1},   {Code::Mute, 1, 1},
@@ -125,28 +111,22 @@ TEST(PjLinkTest, EveryOperationReachesTheProjector) {
     EXPECT_TRUE(Accepted(command, reply)) << std::hex << code;
     EXPECT_EQ(static_cast<std::uint16_t>(reply.value), read) << std::hex << code;
   }
-  const struct {
-    Op operation;
-    std::uint16_t code;
-    std::int16_t value;
-    std::uint16_t affected;
-    int wanted;
-  } changes[] = {{Op::SetPowerOn, 0, 0, Code::RunningState, 1},
-                 {Op::Set, Code::InputSource, 31, Code::InputSource, 3},
-                 {Op::SetBlank, 0, 0, Code::BlankState, 0},
-                 {Op::GetInputSource, 0, 0, Code::Mute, 1},
-                 {Op::Set, Code::BlankState, 1, Code::BlankState, 1},
-                 {Op::SetMute, 0, 0, Code::Mute, 0},
-                 {Op::Set, Code::Mute, 1, Code::BlankState, 1},
-                 {Op::SetFreeze, 0, 0, Code::Freeze, 0},
-                 {Op::Set, Code::Freeze, 1, Code::Freeze, 1},
-                 {Op::Inc, Code::Volume, 0, Code::Volume, 17},
-                 {Op::Dec, Code::Volume, 0, Code::Volume, 16},
-                 {Op::SetPowerOff, 0, 0, Code::RunningState, 0}};
-  for (const auto& [operation, code, value, affected, wanted] : changes) {
-    const PjtCommand command{operation, code, value};
-    EXPECT_TRUE(Accepted(command, channel.Execute(command))) << OperationName(operation);
-    EXPECT_EQ(served.projector->CodeValue(affected), wanted) << OperationName(operation);
+  const std::tuple<PjtCommand, std::uint16_t, int> changes[] = {
+      {{Op::SetPowerOn}, Code::RunningState, 1},
+      {{Op::Set, Code::InputSource, 31}, Code::InputSource, 3},
+      {{Op::SetBlank}, Code::BlankState, 0},
+      {{Op::GetInputSource}, Code::Mute, 1},
+      {{Op::Set, Code::BlankState, 1}, Code::BlankState, 1},
+      {{Op::SetMute}, Code::Mute, 0},
+      {{Op::Set, Code::Mute, 1}, Code::BlankState, 1},
+      {{Op::SetFreeze}, Code::Freeze, 0},
+      {{Op::Set, Code::Freeze, 1}, Code::Freeze, 1},
+      {{Op::Inc, Code::Volume}, Code::Volume, 17},
+      {{Op::Dec, Code::Volume}, Code::Volume, 16},
+      {{Op::SetPowerOff}, Code::RunningState, 0}};
+  for (const auto& [command, affected, wanted] : changes) {
+    EXPECT_TRUE(Accepted(command, channel.Execute(command))) << OperationName(command.operation);
+    EXPECT_EQ(served.projector->CodeValue(affected), wanted) << OperationName(command.operation);
   }
   EXPECT_EQ(channel.Connection(), State::Connected);
   const PjtReply standby = channel.Execute({Op::SetMute, 0, 0});
@@ -256,17 +236,12 @@ TEST(PjLinkTest, AClosedConnectionIsOpenedAgainAndOldRepliesAreDropped) {
   const auto isClosed = Script({kGreeting, kFirstClass, kOn});
   const auto saysTwice = Script({kGreeting, kFirstClass, kOn + kOn});
   const auto breaks = Script({kGreeting, kFirstClass, kOn, ""}, false);
-  const struct {
-    Peer::Behaviour first;
-    bool isFinished;
-    PjtCommand then;
-    Peer::Behaviour second;
-    bool answered;
-  } cases[] = {{isClosed, true, kGetPower, standby, true},
-               {isClosed, true, {Op::SetPowerOn}, turnedOn, true},
-               {saysTwice, false, kGetPower, standby, true},
-               {breaks, false, kGetPower, standby, true},
-               {breaks, false, {Op::SetPowerOn}, kGood, false}};
+  const std::tuple<Peer::Behaviour, bool, PjtCommand, Peer::Behaviour, bool> cases[] = {
+      {isClosed, true, kGetPower, standby, true},
+      {isClosed, true, {Op::SetPowerOn}, turnedOn, true},
+      {saysTwice, false, kGetPower, standby, true},
+      {breaks, false, kGetPower, standby, true},
+      {breaks, false, {Op::SetPowerOn}, kGood, false}};
   for (const auto& [first, isFinished, then, second, answered] : cases) {
     Peer peer(Way::Tcp, {first, second});
     PjLinkChannel channel(kHost, peer.port, "", kLimits);
@@ -275,9 +250,7 @@ TEST(PjLinkTest, AClosedConnectionIsOpenedAgainAndOldRepliesAreDropped) {
     const PjtReply reply = channel.Execute(then);
     EXPECT_EQ(reply.answered, answered);
     EXPECT_EQ(reply.value, 0);
-    if (!answered) {
-      EXPECT_EQ(channel.Execute(kGetPower).value, 1);
-    }
+    EXPECT_TRUE(answered || channel.Execute(kGetPower).value == 1);
   }
 }
 
@@ -302,18 +275,7 @@ TEST(PjLinkTest, TheServerAnswersAsTheStandardSays) {
 
   const Served guarded({.password = "secret", .connections = 1, .idle = 200ms});
   EXPECT_TRUE(guarded.Exchange("%1POWR ?\r").endsWith("\rPJLINK ERRA\rclosed"));
-  EXPECT_THAT(guarded.Exchange("").toStdString(), testing::EndsWith("\rclosed"));
-}
-
-TEST(PjLinkTest, InputNumbersAndCodesAreOneToOne) {
-  int codes = 0;
-  for (int number = -1; number <= INT16_MAX; ++number) {
-    const auto code = PjLink::InputCode(number);
-    if (!code) continue;
-    ++codes;
-    EXPECT_EQ(PjLink::InputNumber(*code), number);
-  }
-  EXPECT_EQ(codes, 6 * (9 + 26));
+  EXPECT_TRUE(guarded.Exchange("").endsWith("\rclosed"));
 }
 
 }  // namespace

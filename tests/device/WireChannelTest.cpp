@@ -1,4 +1,3 @@
-#include <array>
 #include <functional>
 #include <optional>
 #include <thread>
@@ -56,15 +55,16 @@ Peer::Behaviour Answers(std::function<void(End&, const std::string&)> say) {
 
 const Peer::Behaviour kServes = Answers([](End& end, const auto& answer) { end.Send(answer); });
 
-/// Welcomes, and then does that once with what should be the reply.
-Peer::Behaviour AfterWelcome(std::function<void(End&, const std::string&)> behaviour) {
-  return [behaviour = std::move(behaviour)](End& end) {
+/// Welcomes, says once what becomes of the reply, and then nothing, or closes the connection.
+Peer::Behaviour Replies(std::function<std::string(std::string)> change, bool closes = false) {
+  return [change = std::move(change), closes](End& end) {
     Device device;
     WireResponder responder(device);
     std::string said = responder.Receive(end.Receive());
     end.Send(said.substr(0, kWelcomeSize));
     if (said.size() <= kWelcomeSize) said += responder.Receive(end.Receive());
-    behaviour(end, said.substr(std::min(said.size(), kWelcomeSize)));
+    end.Send(change(said.substr(std::min(said.size(), kWelcomeSize))));
+    if (!closes) end.Listen();
   };
 }
 
@@ -107,25 +107,17 @@ TEST(WireChannelTest, WhateverThePeerDoesTheStateIsClearAndTheNextCommandWorks) 
          end.Listen();
        },
        OtherVersion, OtherVersion},
-      {"replies to others, a flood of them", AfterWelcome([&](End& end, const auto&) {
-         end.Send(foreign);
-         end.Listen();
-       }),
-       NoAnswer},
-      {"damages the reply", AfterWelcome([](End& end, std::string reply) {
+      {"replies to others, a flood of them", Replies([&](auto) { return foreign; }), NoAnswer},
+      {"damages the reply", Replies([](auto reply) {
          reply[10] ^= 1;
-         end.Send(reply);
-         end.Listen();
+         return reply;
        }),
        NotUnderstood},
-      {"falls silent after the welcome", AfterWelcome([](End& end, const auto&) { end.Listen(); }),
-       NoAnswer},
+      {"falls silent after the welcome", Replies([](auto) { return std::string(); }), NoAnswer},
   };
   for (std::size_t cut = 0; cut < kReplySize; ++cut) {
-    cases.push_back({"closes in mid-reply", AfterWelcome([cut](End& end, const auto& reply) {
-                       end.Send(reply.substr(0, cut));
-                     }),
-                     Lost, Lost});
+    const auto begin = [cut](const auto& reply) { return reply.substr(0, cut); };
+    cases.push_back({"closes in mid-reply", Replies(begin, true), Lost, Lost});
   }
   for (const Way way : kWays) {
     for (const auto& [name, behaviour, onTcp, onSerial] : cases) {
@@ -147,9 +139,14 @@ TEST(WireChannelTest, SaysWhyItCannotConnect) {
   QTcpServer neverAccepts;
   ASSERT_TRUE(neverAccepts.listen(QHostAddress::LocalHost));
   const std::uint16_t taken = neverAccepts.serverPort();
-  TcpChannel silent("localhost", taken, kLimits);
-  EXPECT_FALSE(silent.Execute(Get(1)).answered);
-  EXPECT_EQ(silent.Connection(), NoAnswer);
+  const auto expect = [](WireChannel&& channel, ConnectionState state) {
+    EXPECT_FALSE(channel.Execute(Get(1)).answered);
+    EXPECT_EQ(ConnectionStateText(channel.Connection()), ConnectionStateText(state));
+  };
+  expect(TcpChannel("localhost", taken, kLimits), NoAnswer);
+  expect(TcpChannel("no-such-name.invalid", taken, kLimits), NameUnknown);
+  expect(SerialChannel("/dev/no-such-port", 19200, kLimits), NotReachable);
+  expect(SerialChannel("/dev/null", 19200, kLimits), NotReachable);
 
   // Nobody waits for the thread of one that is given up, and it goes.
   const auto threads = [] {
@@ -166,18 +163,7 @@ TEST(WireChannelTest, SaysWhyItCannotConnect) {
   EXPECT_EQ(threads(), before);
 
   neverAccepts.close();
-  TcpChannel nobody("127.0.0.1", taken, kLimits);
-  TcpChannel unknown("no-such-name.invalid", taken, kLimits);
-  SerialChannel noPort("/dev/no-such-port", 19200, kLimits);
-  SerialChannel noLine("/dev/null", 19200, kLimits);
-  for (const auto& [channel, state] :
-       std::initializer_list<std::pair<WireChannel*, ConnectionState>>{{&nobody, NotReachable},
-                                                                       {&unknown, NameUnknown},
-                                                                       {&noPort, NotReachable},
-                                                                       {&noLine, NotReachable}}) {
-    EXPECT_FALSE(channel->Execute(Get(1)).answered);
-    EXPECT_EQ(channel->Connection(), state);
-  }
+  expect(TcpChannel("127.0.0.1", taken, kLimits), NotReachable);
 }
 
 TEST(WireChannelTest, WhatEndsWhileNothingIsAskedLosesNoCommand) {
@@ -204,17 +190,19 @@ TEST(WireChannelTest, WhatEndsWhileNothingIsAskedLosesNoCommand) {
   }
 }
 
-/// Answers what came at once together, backwards and twice; on a serial line, where a byte may come
-/// at a time, what has become complete.
-Peer::Behaviour AnswersBackwards(std::vector<std::size_t>& bursts) {
-  return Answers([&bursts](End& end, const std::string& answer) {
+/// Notes how many requests came at once, and gives each reply twice: slowly, or else backwards.
+Peer::Behaviour AnswersTwice(std::vector<std::size_t>& bursts, std::chrono::milliseconds pause) {
+  return Answers([&bursts, pause](End& end, const std::string& answer) {
     const std::size_t welcome = answer.size() % kReplySize;
-    bursts.push_back(answer.size() / kReplySize);
-    std::string backwards = answer.substr(0, welcome);
-    for (std::size_t at = answer.size(); at > welcome; at -= kReplySize) {
-      for (int i = 0; i < 2; ++i) backwards += answer.substr(at - kReplySize, kReplySize);
+    const std::size_t count = answer.size() / kReplySize;
+    end.Send(answer.substr(0, welcome));
+    for (std::size_t i = 0; i < count; ++i) {
+      std::this_thread::sleep_for(pause);
+      const std::size_t place = pause == 0ms ? count - 1 - i : i;
+      const std::string reply = answer.substr(welcome + kReplySize * place, kReplySize);
+      end.Send(reply + reply);
     }
-    end.Send(backwards);
+    bursts.push_back(count);
   });
 }
 
@@ -224,11 +212,13 @@ TEST(WireChannelTest, AnnouncedReadsGoOutTogetherAndAreAnsweredInOrder) {
   struct Step {
     PjtCommand command;
     int value;
+    std::chrono::milliseconds pause = 0ms;
   };
   struct Case {
     const char* name;
     std::vector<Step> steps;
     std::vector<std::size_t> bursts;  ///< The hello goes out with the first.
+    std::chrono::milliseconds pause = 0ms;
     Way way = Way::Tcp;
   };
   const Case cases[] = {
@@ -239,55 +229,24 @@ TEST(WireChannelTest, AnnouncedReadsGoOutTogetherAndAreAnsweredInOrder) {
       {"passed over, asked for later", {{Get(20), 20}, {Get(22), 22}, {Get(21), 21}}, {60, 1}},
       {"a change in between", {{Get(20), 20}, {Set(7), 1001}, {Get(21), 1021}}, {60, 1, 1}},
       {"asked twice", {{Get(20), 20}, {Get(20), 20}}, {60, 1}},
-      {"one at a time", {{Get(20), 20}, {Set(7), 1001}, {Get(0), 1000}}, {0, 1, 1, 1}, Way::Serial},
+      {"late", {{Get(20), 20}, {Get(21), 21, kLimits.answer + 20ms}}, {60, 1}},
+      {"takes longer than one may", {{Get(75), 75}, {Get(77), 77}, {Get(79), 79}}, {5}, 100ms},
+      {"serial", {{Get(20), 20}, {Set(7), 1001}, {Get(0), 1000}}, {0, 1, 1, 1}, 0ms, Way::Serial},
   };
-  for (const Case& test : cases) {
-    SCOPED_TRACE(test.name);
+  for (const auto& [name, steps, expected, pause, way] : cases) {
+    SCOPED_TRACE(name);
     std::vector<std::size_t> bursts;
     {
-      const Peer peer(test.way, {AnswersBackwards(bursts)});
+      const Peer peer(way, {AnswersTwice(bursts, pause)});
       BoundedChannel channel(ChannelTo(peer));
       channel.Announce(reads);
-      for (const auto& [command, value] : test.steps) {
+      for (const auto& [command, value, before] : steps) {
+        std::this_thread::sleep_for(before);
         EXPECT_EQ(channel.Execute(command).value, value);
       }
     }
-    EXPECT_EQ(bursts, test.bursts);
+    EXPECT_EQ(bursts, expected);
   }
-}
-
-TEST(WireChannelTest, ABurstIsAnsweredInTurnHoweverLongItTakesAsAWhole) {
-  const Peer peer(Way::Tcp, {Answers([](End& end, std::string_view answer) {
-                    const std::size_t welcome = answer.size() % kReplySize;
-                    end.Send(answer.substr(0, welcome));
-                    for (std::size_t at = welcome; at < answer.size(); at += kReplySize) {
-                      std::this_thread::sleep_for(100ms);
-                      end.Send(answer.substr(at, kReplySize));
-                    }
-                  })});
-  const auto channel = ChannelTo(peer);
-  std::vector<PjtCommand> reads;
-  for (int i = 0; i < 8; ++i) reads.push_back(Get(i));
-  channel->Announce(reads);
-  for (int i = 0; i < 8; ++i) {
-    const PjtReply reply = channel->Execute(reads[static_cast<std::size_t>(i)]);
-    EXPECT_TRUE(reply.answered) << i;
-    EXPECT_EQ(reply.value, i);
-  }
-}
-
-TEST(WireChannelTest, AReplyOlderThanTheTimeForAnsweringIsAskedForAgain) {
-  std::vector<std::size_t> bursts;
-  {
-    const Peer peer(Way::Tcp, {AnswersBackwards(bursts)});
-    const auto channel = ChannelTo(peer);
-    const PjtCommand reads[] = {Get(1), Get(2)};
-    channel->Announce(reads);
-    EXPECT_EQ(channel->Execute(reads[0]).value, 1);
-    std::this_thread::sleep_for(kLimits.answer + 20ms);
-    EXPECT_EQ(channel->Execute(reads[1]).value, 2);
-  }
-  EXPECT_EQ(bursts, (std::vector<std::size_t>{2, 1}));
 }
 
 }  // namespace

@@ -64,7 +64,7 @@ TEST(ModelDataIntakeTest, RangeTextsComeFromTheirPlacesInTheRecord) {
   EXPECT_EQ(places, "956 960 964 968 972 976 1004 1008 1028 1040 1044 1048 1064 1068 1080 ");
 }
 
-TEST(ModelDataIntakeTest, AConnectionIsChosenByItsIndex) {
+TEST(ModelDataIntakeTest, AConnectionIsChosenByItsIndexAndAnItemBringsItsOwnWithItsName) {
   const CModelInfo2 info = NumberedRecord();
   for (const int index : {0, 4}) {
     EXPECT_EQ(MakeConnectionData(info, index),
@@ -73,10 +73,6 @@ TEST(ModelDataIntakeTest, AConnectionIsChosenByItsIndex) {
   }
   EXPECT_EQ(MakeConnectionData(info, -1), ConnectionData());
   EXPECT_EQ(MakeConnectionData(info, 5), ConnectionData());
-}
-
-TEST(ModelDataIntakeTest, AnItemBringsItsOwnNameAndConnection) {
-  const CModelInfo2 info = NumberedRecord();
   const CProjectorItem item{"item", 1, 2, 23, 0xC0FF0207, MakeNameSlot("second"), &info};
   EXPECT_EQ(MakeModelData(item).ModelName, "item");
   EXPECT_EQ(MakeModelData(item).ModelCode, 42);

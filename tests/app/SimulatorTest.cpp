@@ -180,19 +180,43 @@ TEST(Dialog, ConnectsByItselfAndPaysTwoRoundTripsAPageAtMost) {
   }
 }
 
-TEST(Dialog, TellsNonsenseInConnectionParametersAtOnce) {
+class Unanswered final : public ProjectorChannel {
+ public:
+  explicit Unanswered(ConnectionState state) : state_(state) {}
+  PjtReply Execute(const PjtCommand&) override { return {.answered = false}; }
+  ConnectionState Connection() const override { return state_; }
+
+ private:
+  const ConnectionState state_;
+};
+
+TEST(Dialog, TellsAtOnceWhyThereIsNoAnswer) {
+  using enum ConnectionState;
   CModelInfo2 model = FullModel(5, 30);
   model.ConnectionKinds[0] = 1;
   model.ConnectionParameters[0] = 70'000;
-  CAdvanceDlg dialog;
-  dialog.CopyData(&model, 0);
-  const auto start = std::chrono::steady_clock::now();
-  ASSERT_TRUE(dialog.Create());
-  EXPECT_LT(std::chrono::steady_clock::now() - start, 1500ms);
-  const auto labels = dialog.findChildren<QLabel*>();
-  EXPECT_TRUE(std::ranges::any_of(labels, [](const QLabel* label) {
-    return label->text() == "The connection parameters of the projector are wrong";
-  }));
+  for (const auto& [state, text] : std::initializer_list<std::pair<ConnectionState, const char*>>{
+           {WrongParameters, "The connection parameters of the projector are wrong"},
+           {NameUnknown, "The address of the projector is not known"},
+           {NotReachable, "The projector cannot be reached"},
+           {NoAnswer, "No answer from the projector"},
+           {Lost, "The connection to the projector was lost"},
+           {NotUnderstood, "The answers of the projector are not understood"},
+           {OtherVersion, "The projector uses another version of the protocol"},
+           {PasswordRequired, "The password of the projector is missing or wrong"}}) {
+    CAdvanceDlg dialog;
+    dialog.CopyData(&model, 0);
+    if (state != WrongParameters) {
+      dialog.Projector().SetChannel(std::make_shared<Unanswered>(state));
+    }
+    const auto start = std::chrono::steady_clock::now();
+    ASSERT_TRUE(dialog.Create());
+    EXPECT_LT(std::chrono::steady_clock::now() - start, 1500ms);
+    const auto labels = dialog.findChildren<QLabel*>();
+    EXPECT_TRUE(std::ranges::any_of(labels, [text](const QLabel* label) {
+      return label->text() == text;
+    })) << text;
+  }
 }
 
 }  // namespace

@@ -1,12 +1,11 @@
-#include <atomic>
 #include <future>
+#include <optional>
 #include <string>
-#include <thread>
 #include <vector>
 
-#include <QEventLoop>
+#include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QTcpSocket>
-#include <QTimer>
 #include <gtest/gtest.h>
 
 #include "device/BoundedChannel.h"
@@ -32,50 +31,48 @@ bool Accepted(const PjtCommand& command, const PjtReply& reply) {
   return reply.answered && IsSuccess(command.operation, reply.result);
 }
 
-/// A simulated projector on a port, on a thread of its own that Qt sends nothing from another: the
-/// thread sanitizer would not see how it is handed over.
+/// A simulated projector on a port, which answers while the event loop runs.
 class Served {
  public:
   explicit Served(PjLinkServer::Options options) {
     options.served.inputs = {{"31", 3, "HDMI"}, {"5A", 7, "Büro"}};
-    std::promise<int> listening;
-    thread_ = std::thread([this, &options, &listening] {
-      QEventLoop loop;
-      PjLinkServer server(projector, options);
-      listening.set_value(server.Listen(kHost, 0) ? server.Port() : 0);
-      QTimer watch;
-      watch.callOnTimeout([&] {
-        if (ended_) loop.quit();
-      });
-      watch.start(5);
-      loop.exec();
-    });
-    port = listening.get_future().get();
-  }
-  ~Served() {
-    ended_ = true;
-    thread_.join();
+    server_.emplace(projector, options);
+    EXPECT_TRUE(server_->Listen(kHost, 0));
   }
 
-  PjLinkChannel Channel(const std::string& password = {}) const {
-    return {kHost, port, password, kLimits};
+  BoundedChannel Channel(const std::string& password = {}) const {
+    return BoundedChannel(Unbounded(password), {.timeOut = 5s, .quickAnswer = 0ms});
   }
 
-  /// All that a client gets that sends these bytes, until the server closes or is silent.
+  std::optional<PjLinkDescription> Describe(const std::string& password = {}) const {
+    auto description =
+        std::async(std::launch::async, [&] { return Unbounded(password)->Describe(); });
+    RunUntil([&] { return description.wait_for(0s) == std::future_status::ready; });
+    return description.get();
+  }
+
+  /// All that a client gets that sends these bytes, until the server closes or a second is over.
   QByteArray Exchange(const QByteArray& sent) const {
     QTcpSocket socket;
-    socket.connectToHost(QString::fromStdString(kHost), static_cast<quint16>(port));
-    if (!socket.waitForConnected() || socket.write(sent) != sent.size()) return "unreachable";
-    while (socket.waitForReadyRead(1000)) continue;
+    socket.connectToHost(QString::fromStdString(kHost), static_cast<quint16>(server_->Port()));
+    socket.write(sent);
+    RunUntil([&] { return socket.state() == QTcpSocket::UnconnectedState; });
     return socket.readAll() + (socket.state() == QTcpSocket::ConnectedState ? "open" : "closed");
   }
 
   const std::shared_ptr<SimulatedProjector> projector = std::make_shared<SimulatedProjector>();
-  int port = 0;
 
  private:
-  std::atomic<bool> ended_ = false;
-  std::thread thread_;
+  std::shared_ptr<PjLinkChannel> Unbounded(const std::string& password) const {
+    return std::make_shared<PjLinkChannel>(kHost, server_->Port(), password, kLimits);
+  }
+  static void RunUntil(auto done) {
+    for (const QDeadlineTimer end(1s); !done() && !end.hasExpired();) {
+      QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+    }
+  }
+
+  std::optional<PjLinkServer> server_;
 };
 
 /// A scripted projector: says the first text at once, each other after a request, then nothing.
@@ -96,7 +93,7 @@ const Peer::Behaviour kGood = Script({kGreeting, kFirstClass, kOn});
 
 TEST(PjLinkTest, EveryOperationReachesTheProjector) {
   const Served served({});
-  PjLinkChannel channel = served.Channel();
+  BoundedChannel channel = served.Channel();
   namespace Code = CommandCode;
   const std::tuple<std::uint16_t, int, int> reads[] = {
       {Code::ErrorStatus, 0, 0},  {Code::ErrorStatus, 1, 1},  {Code::ErrorStatus, 2, 2},
@@ -146,22 +143,21 @@ TEST(PjLinkTest, OnlyWhatTheProjectorMayHaveIsAsked) {
   EXPECT_EQ(nowhere.Connection(), State::Unused);
 
   const Served first({.served = {.protocolClass = 1}});
-  PjLinkChannel channel = first.Channel();
+  BoundedChannel channel = first.Channel();
   EXPECT_FALSE(channel.Execute({Op::Get, CommandCode::Freeze}).offered);
   EXPECT_FALSE(channel.Execute({Op::Inc, CommandCode::Volume}).offered);
-  EXPECT_EQ(channel.Describe()->inputs.at(0).name, "Digital 1");
+  EXPECT_EQ(first.Describe()->inputs.at(0).name, "Digital 1");
 }
 
 TEST(PjLinkTest, PasswordsAndDescription) {
   EXPECT_EQ(PjLink::Digest("0123abcd", "secret"), "c511f6b40a18fbb0f98750deedab010e");
   const Served served({.password = "secret"});
   for (const auto* const wrong : {"", "Secret"}) {
-    PjLinkChannel channel = served.Channel(wrong);
+    BoundedChannel channel = served.Channel(wrong);
     EXPECT_FALSE(channel.Execute(kGetPower).answered);
     EXPECT_EQ(channel.Connection(), State::PasswordRequired);
   }
-  PjLinkChannel channel = served.Channel("secret");
-  const auto description = channel.Describe();
+  const auto description = served.Describe("secret");
   ASSERT_TRUE(description);
   EXPECT_EQ(description->protocolClass, 2);
   EXPECT_EQ(description->name, "Simulated projector");
@@ -169,8 +165,8 @@ TEST(PjLinkTest, PasswordsAndDescription) {
   ASSERT_EQ(sources.count, 2);
   EXPECT_EQ(sources.firstValues[1], 510);
   EXPECT_EQ(NameText(sources.names[1]), "Büro");
-  BoundedChannel bounded(std::make_shared<PjLinkChannel>(kHost, served.port, "secret"));
-  for (int i = 0; i < 2; ++i) EXPECT_TRUE(Accepted(kGetPower, bounded.Execute(kGetPower)));
+  BoundedChannel channel = served.Channel("secret");
+  for (int i = 0; i < 2; ++i) EXPECT_TRUE(Accepted(kGetPower, channel.Execute(kGetPower)));
 }
 
 TEST(PjLinkTest, HostilePeersAreUnansweredAndTheNextCommandWorks) {

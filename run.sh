@@ -17,14 +17,17 @@ if [ "${1:-}" = --real ]; then
   mkdir -p out
   rm -f out/real.json
   "$(dirname "$program")/advanced-control-simulator" --serial --write-profiles out/real.json &
-  simulator=$!
-  trap 'kill "$simulator" 2>/dev/null' EXIT
+  started=($!)
+  # Both end together, whichever way: the window is closed, or this script gets Ctrl+C or is ended.
+  trap 'kill "${started[@]}" 2>/dev/null && wait' EXIT
   for _ in $(seq 100); do
     [ -s out/real.json ] && break
-    kill -0 "$simulator" || exit 1
+    kill -0 "${started[0]}" || exit 1
     sleep 0.1
   done
-  "$program" --profiles out/real.json "$@"
+  "$program" --profiles out/real.json "$@" &
+  started+=($!)
+  wait $!
   exit
 fi
 if [ $# -gt 0 ]; then

@@ -126,4 +126,5 @@ QByteArray ServedProjectors::Profiles(const QByteArray& original) const {
 void ServedProjectors::SetFault(std::size_t projector, const ServiceFault& fault) {
   services_[projector].channel->SetFault(Fault{.kind = fault.projector});
   services_[projector].wire->SetFault(fault.line);
+  services_[projector].pjLink->SetFault(fault.line);
 }

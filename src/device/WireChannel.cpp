@@ -15,6 +15,10 @@ using Clock = std::chrono::steady_clock;
 constexpr std::size_t kMaximumBurst = 64;
 constexpr int kIdlePieces = 64;  // taken of what came while nothing was asked
 
+bool IsForgotten(const std::optional<Wire::Reply>& reply) {
+  return reply && reply->status == Wire::Status::NoHello;
+}
+
 int Rest(const QDeadlineTimer& deadline) { return static_cast<int>(deadline.remainingTime()); }
 
 }  // namespace
@@ -35,9 +39,12 @@ PjtReply WireChannel::Execute(const PjtCommand& command) {
   } else if (Clock::now() - lastAsked_ > limits_.answer) {
     sent_.clear();  // what came during a pause may be as old as that
   }
-  const auto reply = Connect() ? Ask(command) : std::nullopt;
+  const auto ask = [&] { return Connect() ? Ask(command) : std::nullopt; };
+  auto reply = ask();
+  // It forgot us, as after a restart, and did nothing: so once more, from the hello on.
+  if (IsForgotten(reply)) reply = ask();
   lastAsked_ = Clock::now();
-  if (!reply) return unanswered;
+  if (!reply || IsForgotten(reply)) return unanswered;
   state_ = ConnectionState::Connected;
   switch (reply->status) {
     case Wire::Status::Answered:
@@ -67,26 +74,28 @@ bool WireChannel::Connect() {
   decoder_ = {};
   welcome_.reset();
   state_ = ConnectionState::Connecting;
-  const QDeadlineTimer deadline(limits_.connect);
+  welcomeBy_ = QDeadlineTimer(limits_.connect);
   auto problem = ConnectionState::NotReachable;
-  line_ = Open(deadline, problem);
+  line_ = Open(welcomeBy_, problem);
   if (!line_) return Fail(problem);
+  unsent_.clear();
+  hello_ = ++sequence_;
+  Wire::Append(unsent_, {.sequence = hello_, .message = Wire::Hello{}});
+  // Without noise the first requests go out together with it.
+  return medium_ == Medium::Reliable || (Write(welcomeBy_) && AwaitWelcome());
+}
 
-  std::string bytes;
-  Wire::Append(bytes, {.sequence = ++sequence_, .message = Wire::Hello{}});
-  const auto welcomed = [this] { return welcome_.has_value(); };
-  if (!Write(bytes, deadline) || !Await(welcomed, deadline)) return false;
+bool WireChannel::AwaitWelcome() {
+  if (!Await([this] { return welcome_.has_value(); }, welcomeBy_)) return false;
   return welcome_->version == Wire::kVersion || Fail(ConnectionState::OtherVersion);
 }
 
 std::optional<Wire::Reply> WireChannel::Ask(const PjtCommand& command) {
-  const QDeadlineTimer deadline(limits_.answer);
   auto own = std::ranges::find(sent_, command, &Sent::command);
   if (own == sent_.end()) {
-    std::string bytes;
     const auto announced = std::ranges::find(announced_, command);
     if (announced == announced_.end()) {
-      Send({&command, 1}, bytes);
+      Send({&command, 1});
       // Before the rest of a burst, whose replies still count.
       sent_.push_front(sent_.back());
       sent_.pop_back();
@@ -94,28 +103,30 @@ std::optional<Wire::Reply> WireChannel::Ask(const PjtCommand& command) {
       sent_.clear();
       const std::size_t count = std::min<std::size_t>(
           kMaximumBurst, static_cast<std::size_t>(announced_.end() - announced));
-      Send({&*announced, count}, bytes);
+      Send({&*announced, count});
       announced_.erase(announced_.begin(), announced + static_cast<std::ptrdiff_t>(count));
     }
-    if (!Write(bytes, deadline)) return std::nullopt;
+    if (!Write(QDeadlineTimer(limits_.answer)) || !AwaitWelcome()) return std::nullopt;
     own = sent_.begin();
   }
   sent_.erase(sent_.begin(), own);  // passed over
   const auto answered = [this] { return sent_.front().reply.has_value(); };
-  if (!Await(answered, deadline)) return std::nullopt;
+  if (!Await(answered, QDeadlineTimer(limits_.answer))) return std::nullopt;
   const auto reply = sent_.front().reply;
   sent_.pop_front();
+  if (IsForgotten(reply)) Fail(ConnectionState::Lost);
   return reply;
 }
 
-void WireChannel::Send(std::span<const PjtCommand> commands, std::string& bytes) {
+void WireChannel::Send(std::span<const PjtCommand> commands) {
   for (const PjtCommand& command : commands) {
-    Wire::Append(bytes, {.sequence = ++sequence_, .message = Wire::MakeRequest(command)});
+    Wire::Append(unsent_, {.sequence = ++sequence_, .message = Wire::MakeRequest(command)});
     sent_.push_back({command, sequence_, {}});
   }
 }
 
-bool WireChannel::Write(const std::string& bytes, const QDeadlineTimer& deadline) {
+bool WireChannel::Write(const QDeadlineTimer& deadline) {
+  const std::string bytes = std::exchange(unsent_, {});
   const auto size = static_cast<qint64>(bytes.size());
   if (line_->write(bytes.data(), size) != size) return Fail(ConnectionState::Lost);
   while (line_->bytesToWrite() > 0) {
@@ -158,7 +169,7 @@ WireChannel::Arrival WireChannel::Receive(const QDeadlineTimer& deadline) {
 // What belongs to no request, or comes a second time, is nobody's.
 void WireChannel::Take(const Wire::Frame& frame) {
   if (const auto* welcome = std::get_if<Wire::Welcome>(&frame.message)) {
-    if (frame.sequence == sequence_ && !welcome_) welcome_ = *welcome;
+    if (frame.sequence == hello_ && !welcome_) welcome_ = *welcome;
   } else if (const auto* reply = std::get_if<Wire::Reply>(&frame.message)) {
     const auto sent = std::ranges::find(sent_, frame.sequence, &Sent::sequence);
     if (sent != sent_.end() && !sent->reply) sent->reply = *reply;

@@ -10,19 +10,22 @@
 #include <string>
 #include <vector>
 
+#include <QDeadlineTimer>
+
 #include "AdvancedControlExport.h"
 #include "device/ProjectorChannel.h"
 #include "device/WireFrame.h"
 
-class QDeadlineTimer;
 class QIODevice;
 
 /// A projector at the other end of a line that carries the frames of docs/wire.md.
 ///
 /// Connects when the first command is given, and again with the next command after the connection
-/// was lost. A command whose reply does not come in time, or during which the connection breaks, is
-/// unanswered and was sent at most once; its reply is nobody's if it comes later. All commands come
-/// from one thread, as those behind a `BoundedChannel` do.
+/// was lost; where there is no noise, that command goes out right behind the hello. A projector
+/// that has forgotten the hello is told again. A command whose reply does not come in time, or
+/// during which the connection breaks, is unanswered and was carried out at most once; its reply is
+/// nobody's if it comes later. All commands come from one thread, as those behind a
+/// `BoundedChannel` do.
 class ADVANCED_CONTROL_EXPORT WireChannel : public ProjectorChannel {
  public:
   struct Limits {
@@ -46,7 +49,7 @@ class ADVANCED_CONTROL_EXPORT WireChannel : public ProjectorChannel {
  protected:
   enum class Medium {
     Reliable,  ///< Bytes that are no frame show that no projector is there.
-    Noisy,     ///< Such bytes are skipped, and reads are asked for one at a time.
+    Noisy,     ///< Such bytes are skipped. Everything is said one at a time.
   };
 
   WireChannel(Medium medium, const Limits& limits);
@@ -67,9 +70,10 @@ class ADVANCED_CONTROL_EXPORT WireChannel : public ProjectorChannel {
   enum class Arrival { Bytes, Late, Broken, Strange };
 
   bool Connect();
+  bool AwaitWelcome();
   std::optional<Wire::Reply> Ask(const PjtCommand& command);
-  void Send(std::span<const PjtCommand> commands, std::string& bytes);
-  bool Write(const std::string& bytes, const QDeadlineTimer& deadline);
+  void Send(std::span<const PjtCommand> commands);
+  bool Write(const QDeadlineTimer& deadline);
   /// Receives until `arrived`; false, and the connection is gone, if that does not come to pass.
   bool Await(const auto& arrived, const QDeadlineTimer& deadline);
   Arrival Receive(const QDeadlineTimer& deadline);
@@ -81,8 +85,11 @@ class ADVANCED_CONTROL_EXPORT WireChannel : public ProjectorChannel {
   std::atomic<ConnectionState> state_ = ConnectionState::Unused;
   std::unique_ptr<QIODevice> line_;
   Wire::Decoder decoder_;
-  std::uint16_t sequence_;  ///< Of the last frame sent.
+  std::uint16_t sequence_;   ///< Of the last frame made.
+  std::uint16_t hello_ = 0;  ///< The sequence number of ours.
   std::optional<Wire::Welcome> welcome_;
+  QDeadlineTimer welcomeBy_;
+  std::string unsent_;                 ///< Goes out with the next write.
   std::vector<PjtCommand> announced_;  ///< Not sent yet.
   std::deque<Sent> sent_;
   std::chrono::steady_clock::time_point lastAsked_{};

@@ -40,8 +40,12 @@ class BoundedServer final : public QTcpServer {
 /// One connection, as long as its socket lives.
 class Session final : public QObject {
  public:
-  Session(QTcpSocket& socket, const PjLinkServer::Options& options, PjLinkResponder& responder)
-      : QObject(&socket), socket_(socket), responder_(responder) {
+  Session(QTcpSocket& socket, const PjLinkServer::Options& options, PjLinkResponder& responder,
+          const LineFault& fault)
+      : QObject(&socket),
+        socket_(socket),
+        responder_(responder),
+        replies_(*new FaultyLine(socket, fault)) {
     std::string seed;
     if (!options.password.empty()) {
       seed = NewSeed();
@@ -70,7 +74,7 @@ class Session final : public QObject {
     const std::string line = socket_.read(end + 1).chopped(1).toStdString();
     if (!line.starts_with(wantedProof_)) {
       Send(PjLink::kWrongPassword);
-      socket_.disconnectFromHost();
+      End();
       return false;
     }
     const auto answer = responder_.Answer(line.substr(wantedProof_.size()));
@@ -78,19 +82,24 @@ class Session final : public QObject {
     if (answer) {
       Send(*answer);
     } else {
-      socket_.disconnectFromHost();
+      End();
     }
     return answer.has_value();
   }
 
+  void End() {
+    disconnect(&socket_, &QTcpSocket::readyRead, this, nullptr);
+    replies_.Close();
+  }
+
   void Send(std::string_view line) {
-    socket_.write(line.data(), static_cast<qint64>(line.size()));
-    socket_.write("\r");
-    if (socket_.bytesToWrite() > kMostUnread) socket_.abort();
+    replies_.Send(QByteArray(line.data(), static_cast<qsizetype>(line.size())) + '\r');
+    if (replies_.Backlog() > kMostUnread) socket_.abort();
   }
 
   QTcpSocket& socket_;
   PjLinkResponder& responder_;
+  FaultyLine& replies_;
   QTimer idle_;
   std::string wantedProof_;  ///< Before the next request; empty once given, or without password.
 };
@@ -107,6 +116,7 @@ struct PjLinkServer::State {
 
   const Options options;
   PjLinkResponder responder;
+  LineFault fault{};
   std::size_t served = 0;
   BoundedServer server;  // the first to go, with its sockets, which use the others
 };
@@ -124,7 +134,7 @@ void PjLinkServer::State::ServeWaiting() {
       socket->deleteLater();
       ServeWaiting();
     });
-    new Session(*socket, options, responder);
+    new Session(*socket, options, responder, fault);
   }
 }
 
@@ -145,3 +155,5 @@ void PjLinkServer::Close() {
   state_->server.close();
   for (QTcpSocket* const socket : state_->server.findChildren<QTcpSocket*>()) socket->abort();
 }
+
+void PjLinkServer::SetFault(const LineFault& fault) { state_->fault = fault; }

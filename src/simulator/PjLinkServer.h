@@ -6,6 +6,7 @@
 #include <string>
 
 #include "AdvancedControlExport.h"
+#include "simulator/FaultyLine.h"
 #include "simulator/PjLinkResponder.h"
 
 /// Lets a projector be controlled over PJLink: answers on a TCP port what clients ask.
@@ -32,6 +33,9 @@ class ADVANCED_CONTROL_EXPORT PjLinkServer {
   int Port() const;
   /// Ends listening and all connections.
   void Close();
+
+  /// Of the greeting as of any reply.
+  void SetFault(const LineFault& fault);
 
  private:
   struct State;

@@ -20,7 +20,10 @@ class Session final : public QObject {
  public:
   Session(std::unique_ptr<QIODevice> line, ProjectorChannel& projector, const LineFault& fault,
           QObject* parent)
-      : QObject(parent), line_(line.release()), responder_(projector), fault_(fault) {
+      : QObject(parent),
+        line_(line.release()),
+        responder_(projector),
+        replies_(*new FaultyLine(*line_, fault)) {
     line_->setParent(this);
     connect(line_, &QIODevice::readyRead, this, &Session::Read);
     connect(line_, &QIODevice::aboutToClose, this, &QObject::deleteLater);
@@ -41,63 +44,17 @@ class Session final : public QObject {
     while (line_->bytesAvailable() > 0) {
       const QByteArray piece = line_->read(kLargestPiece);
       if (piece.isEmpty()) return;
-      Send(responder_.Receive({piece.data(), static_cast<std::size_t>(piece.size())}));
+      const std::string reply =
+          responder_.Receive({piece.data(), static_cast<std::size_t>(piece.size())});
+      replies_.Send({reply.data(), static_cast<qsizetype>(reply.size())});
     }
     // A peer that asks and does not listen is not served on.
-    if (line_->bytesToWrite() > kLargestBacklog) deleteLater();
-  }
-
-  void Send(const std::string& reply) {
-    if (reply.empty() || cut_) return;
-    const QByteArray bytes(reply.data(), static_cast<qsizetype>(reply.size()));
-    switch (fault_.kind) {
-      case LineFault::Kind::None:
-        line_->write(bytes);
-        break;
-      case LineFault::Kind::Silent:
-        break;
-      case LineFault::Kind::Late:
-        QTimer::singleShot(fault_.amount, this, [this, bytes] { line_->write(bytes); });
-        break;
-      case LineFault::Kind::Cut:
-        cut_ = true;
-        line_->write(bytes.left(fault_.amount));
-        Close();
-        break;
-      case LineFault::Kind::Garbage:
-        line_->write(QByteArray(bytes.size(), '?'));
-        break;
-      case LineFault::Kind::Trickle:
-        Trickle(bytes);
-        break;
-    }
-  }
-
-  void Trickle(const QByteArray& bytes) {
-    trickling_ += bytes;
-    if (trickling_.size() > bytes.size()) return;  // the rest is on its way already
-    TrickleOn();
-  }
-
-  void TrickleOn() {
-    line_->write(trickling_.left(1));
-    trickling_.remove(0, 1);
-    if (!trickling_.isEmpty()) QTimer::singleShot(1, this, &Session::TrickleOn);
-  }
-
-  void Close() {
-    if (auto* socket = qobject_cast<QTcpSocket*>(line_)) {
-      socket->disconnectFromHost();
-    } else {
-      deleteLater();
-    }
+    if (replies_.Backlog() > kLargestBacklog) deleteLater();
   }
 
   QIODevice* const line_;
   WireResponder responder_;
-  const LineFault& fault_;
-  QByteArray trickling_;
-  bool cut_ = false;
+  FaultyLine& replies_;
 };
 
 }  // namespace

@@ -6,26 +6,10 @@
 
 #include "AdvancedControlExport.h"
 #include "device/ProjectorChannel.h"
+#include "simulator/FaultyLine.h"
 
 class QHostAddress;
 class QIODevice;
-
-/// What goes wrong with the replies of a server, whatever the projector answers.
-struct LineFault {
-  enum class Kind {
-    None,
-    Silent,   ///< Nothing is sent.
-    Late,     ///< Each reply is sent after `amount` milliseconds.
-    Cut,      ///< The connection is closed after `amount` bytes of the next reply.
-    Garbage,  ///< Replies are replaced by other bytes.
-    Trickle,  ///< Replies are sent byte by byte.
-  };
-
-  Kind kind = Kind::None;
-  int amount = 0;
-
-  friend bool operator==(const LineFault&, const LineFault&) = default;
-};
 
 /// Serves one projector over our wire: on a TCP port, and on lines that are handed over. Lives on a
 /// thread with an event loop; the projector should answer at once.

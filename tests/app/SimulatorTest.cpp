@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <atomic>
 #include <chrono>
 #include <optional>
 
@@ -11,26 +12,24 @@
 #include <gtest/gtest.h>
 
 #include "app/host/MainWindow.h"
-#include "app/host/ProjectorSession.h"
 #include "app/host/ProjectorView.h"
 #include "app/profiles/ProfileFile.h"
 #include "device/BoundedChannel.h"
-#include "device/CPjtInterface.h"
 #include "device/Connect.h"
 #include "host/CAdvanceDlg.h"
 #include "pages/common/CTabPage.h"
+#include "simulator/SimulatedProjector.h"
+#include "simulator/WireResponder.h"
+#include "tests/device/Peer.h"
+#include "tests/support/Models.h"
 #include "tests/support/Programs.h"
 
 namespace {
 
 using namespace std::chrono_literals;
 
-constexpr PjtCommand kVolume{PjtOperation::Get, 0x2001};
+constexpr PjtCommand kIsMuted{PjtOperation::Get, 0x2002};
 constexpr char kName[] = "Projector 5-30";
-
-PjtCommand SetVolume(int value) {
-  return {PjtOperation::Set, 0x2001, static_cast<std::int16_t>(value)};
-}
 
 class SimulatorTest : public testing::Test {
  protected:
@@ -59,88 +58,49 @@ class SimulatorTest : public testing::Test {
   QTcpSocket control_;
 };
 
-TEST_F(SimulatorTest, OneProjectorIsReachedInEveryWay) {
-  const auto tcp = MakeChannel(Address("tcp"));
-  const auto serial = MakeChannel(Address("serial"));
-  const auto pjLink = MakeChannel(Address("pjlink"));
-  EXPECT_EQ(tcp->Execute(SetVolume(11)).result, 1);
-  EXPECT_EQ(serial->Execute(kVolume).value, 11);
-  EXPECT_EQ(serial->Execute(SetVolume(12)).result, 1);
-  EXPECT_EQ(tcp->Execute(kVolume).value, 12);
-  EXPECT_EQ(tcp->Execute(SetVolume(9999)).result, 0) << "a refusal is an answer";
-  EXPECT_EQ(tcp->Connection(), ConnectionState::Connected);
-  const PjtCommand power{PjtOperation::Get, 0x6000};
-  EXPECT_EQ(pjLink->Execute(power).value, tcp->Execute(power).value);
-  const auto wrong =
-      MakeChannel(ParseAddress(simulator_->Address("pjlink").toStdString(), "wrong"));
-  EXPECT_FALSE(wrong->Execute(power).answered);
-  EXPECT_EQ(wrong->Connection(), ConnectionState::PasswordRequired);
-}
-
-TEST_F(SimulatorTest, FaultsOfTheLineAreUnansweredAndOver) {
-  struct Case {
-    const char* way;
-    const char* fault;
-    bool answered;
-    ConnectionState state;
-  };
+TEST_F(SimulatorTest, OneProjectorIsReachedInEveryWayAndFaultsOfTheLineAreOver) {
   using enum ConnectionState;
-  for (const auto& [way, fault, answered, state] : std::initializer_list<Case>{
-           {"tcp", "1 trickle", true, Connected},
-           {"tcp", "* late 100", true, Connected},
-           {"tcp", "1 late 1800", false, NoAnswer},
-           {"tcp", "1 silent", false, NoAnswer},
-           {"tcp", "1 garbage", false, NotUnderstood},
-           {"tcp", "1 cut 7", false, Lost},
-           {"serial", "1 trickle", true, Connected},
-           {"serial", "1 late 1800", false, NoAnswer},
-           {"serial", "1 silent", false, NoAnswer},
-           {"serial", "1 garbage", false, NoAnswer},
+  const auto tcp = MakeChannel(Address("tcp"));
+  EXPECT_EQ(tcp->Execute({PjtOperation::Set, 0x2001, 9999}).result, 0) << "a refusal is an answer";
+  EXPECT_EQ(tcp->Connection(), Connected);
+  std::int16_t mute = 0;
+  for (const auto& [way, fault, state] :
+       std::initializer_list<std::tuple<const char*, const char*, ConnectionState>>{
+           {"tcp", "1 trickle", Connected},
+           {"tcp", "* late 100", Connected},
+           {"tcp", "1 late 1800", NoAnswer},
+           {"tcp", "1 silent", NoAnswer},
+           {"tcp", "1 garbage", NotUnderstood},
+           {"tcp", "1 cut 7", Lost},
+           {"pjlink", "1 trickle", Connected},
+           {"pjlink", "1 late 100", Connected},
+           {"pjlink", "1 silent", NoAnswer},
+           {"pjlink", "1 garbage", NoAnswer},
+           {"pjlink", "1 cut 7", Lost},
+           {"serial", "1 trickle", Connected},
+           {"serial", "1 late 1800", NoAnswer},
+           {"serial", "1 silent", NoAnswer},
+           {"serial", "1 garbage", NoAnswer},
+           {"serial", "1 cut 7", Lost},
        }) {
     SCOPED_TRACE(testing::Message() << way << ' ' << fault);
-    const auto inner = MakeUnboundedChannel(Address(way));
-    BoundedChannel channel(inner, {.timeOut = 10s, .retryAfter = 0ms});
-    ASSERT_TRUE(channel.Execute(SetVolume(7)).answered);
+    mute ^= 1;
+    ASSERT_TRUE(tcp->Execute({PjtOperation::SetMute, 0, mute}).answered);
+    BoundedChannel channel(MakeUnboundedChannel(Address(way)), {.timeOut = 10s, .retryAfter = 0ms});
+    EXPECT_EQ(channel.Execute(kIsMuted).value, mute);
     EXPECT_EQ(Control(fault), "ok");
-    const PjtReply reply = channel.Execute(kVolume);
-    EXPECT_EQ(reply.answered, answered);
+    const PjtReply reply = channel.Execute(kIsMuted);
     EXPECT_EQ(ConnectionStateText(channel.Connection()), ConnectionStateText(state));
-    EXPECT_TRUE(!reply.answered || reply.value == 7);
+    EXPECT_EQ(reply.answered, state == Connected);
+    EXPECT_EQ(reply.value, reply.answered ? mute : 0);
     EXPECT_EQ(Control("* none"), "ok");
-    EXPECT_EQ(channel.Execute(kVolume).value, 7);
+    // Only a serial line that was hung up is gone.
+    EXPECT_EQ(channel.Execute(kIsMuted).answered, state != Lost || way != std::string("serial"));
   }
   EXPECT_EQ(Control("1 late"),
             "error: faults are none, refuse, fail-read, silent, late "
             "MILLISECONDS, cut BYTES, garbage, trickle");
   EXPECT_EQ(Control("2 none"), "error: no projector '2'; there are 1 to 1, and *");
-}
-
-TEST_F(SimulatorTest, ADialogConnectsByItself) {
-  const auto tcp = std::get<TcpAddress>(Address("tcp"));
-  CPjtInterface projector;
-  projector.CopyData(1, 0, tcp.port, tcp.host.c_str(), "");
-  EXPECT_EQ(projector.Connection(), ConnectionState::Unused);
-  unsigned short value = 0;
-  EXPECT_EQ(projector.Get(0x2001, 0, &projector, &value), 1);
-  EXPECT_EQ(projector.Connection(), ConnectionState::Connected);
-  projector.CopyData(1, 0, -1, tcp.host.c_str(), "");
-  EXPECT_EQ(projector.Get(0x2001, 0, &projector, &value), 0);
-  EXPECT_EQ(projector.Connection(), ConnectionState::WrongParameters);
-
-  // The profiles that the simulator wrote lead there, on every way.
-  ProfileFileContents contents = ReadProfileFile(Profiles());
-  EXPECT_EQ(contents.error, "");
-  ASSERT_EQ(contents.projectors.size(), 3U);
-  for (ProjectorProfile& profile : contents.projectors) {
-    int answered = 0;
-    ProjectorSession session(profile, [&](const PjtCommand&, const PjtReply& reply, auto) {
-      answered += reply.answered ? 1 : 0;
-    });
-    const auto dialog = session.MakeDialog();
-    ASSERT_TRUE(dialog->Create());
-    EXPECT_GT(answered, 0) << profile.Name;
-    EXPECT_EQ(session.Connection(), ConnectionState::Connected) << profile.Name;
-  }
 }
 
 TEST_F(SimulatorTest, TheListTellsHowEveryConnectionStands) {
@@ -190,23 +150,73 @@ TEST_F(SimulatorTest, TheListTellsHowEveryConnectionStands) {
   comesTo(0, "Open · Connected");
 }
 
-TEST(ConnectionParameters, ThatAreNonsenseAreToldInTheDialogAtOnce) {
-  CModelInfo2 model;
-  model.DialogType = 5;
+TEST(Dialog, ConnectsByItselfAndPaysTwoRoundTripsAPageAtMost) {
+  for (const auto& [type, code] :
+       {std::pair{1, 0}, {2, 6}, {3, 10}, {4, 22}, {5, 30}, {5, 42}, {5, 54}}) {
+    CModelInfo2 model = FullModel(type, code);
+    SimulatedProjector projector(DescribeModel(MakeModelData(model)));
+    std::atomic<int> askedAtOnce = 0;
+    const Peer peer(Way::Tcp, {[&](Peer::End& end) {
+                      WireResponder responder(projector);
+                      for (auto said = end.Receive(); !said.empty(); said = end.Receive()) {
+                        ++askedAtOnce;
+                        end.Send(responder.Receive(said));
+                      }
+                    }});
+    CAdvanceDlg dialog;
+    model.ConnectionKinds[0] = 1;
+    model.ConnectionParameters[0] = peer.port;
+    model.ConnectionTexts1[0] = MakeNameSlot("127.0.0.1");
+    dialog.CopyData(&model, 0);
+    EXPECT_EQ(dialog.Projector().Connection(), ConnectionState::Unused);
+    ASSERT_TRUE(dialog.Create());
+    auto& tabs = *dialog.findChild<QTabBar*>();
+    for (int tab = 0; tab < tabs.count(); ++tab) {
+      tabs.setCurrentIndex(tab);
+      EXPECT_GE(askedAtOnce, 1);
+      EXPECT_LE(askedAtOnce.exchange(0), 2) << NameOf(model) << ", tab " << tab;
+    }
+    EXPECT_EQ(dialog.Projector().Sent().unanswered, 0);
+  }
+}
+
+class Unanswered final : public ProjectorChannel {
+ public:
+  explicit Unanswered(ConnectionState state) : state_(state) {}
+  PjtReply Execute(const PjtCommand&) override { return {.answered = false}; }
+  ConnectionState Connection() const override { return state_; }
+
+ private:
+  const ConnectionState state_;
+};
+
+TEST(Dialog, TellsAtOnceWhyThereIsNoAnswer) {
+  using enum ConnectionState;
+  CModelInfo2 model = FullModel(5, 30);
   model.ConnectionKinds[0] = 1;
   model.ConnectionParameters[0] = 70'000;
-  model.ConnectionTexts1[0] = MakeNameSlot("192.0.2.1");
-  CAdvanceDlg dialog;
-  dialog.CopyData(&model, 0);
-  const auto start = std::chrono::steady_clock::now();
-  ASSERT_TRUE(dialog.Create());
-  dialog.show();
-  QCoreApplication::processEvents();
-  EXPECT_LT(std::chrono::steady_clock::now() - start, 1500ms);
-  const auto labels = dialog.findChildren<QLabel*>();
-  EXPECT_TRUE(std::ranges::any_of(labels, [](const QLabel* label) {
-    return label->text() == "The connection parameters of the projector are wrong";
-  }));
+  for (const auto& [state, text] : std::initializer_list<std::pair<ConnectionState, const char*>>{
+           {WrongParameters, "The connection parameters of the projector are wrong"},
+           {NameUnknown, "The address of the projector is not known"},
+           {NotReachable, "The projector cannot be reached"},
+           {NoAnswer, "No answer from the projector"},
+           {Lost, "The connection to the projector was lost"},
+           {NotUnderstood, "The answers of the projector are not understood"},
+           {OtherVersion, "The projector uses another version of the protocol"},
+           {PasswordRequired, "The password of the projector is missing or wrong"}}) {
+    CAdvanceDlg dialog;
+    dialog.CopyData(&model, 0);
+    if (state != WrongParameters) {
+      dialog.Projector().SetChannel(std::make_shared<Unanswered>(state));
+    }
+    const auto start = std::chrono::steady_clock::now();
+    ASSERT_TRUE(dialog.Create());
+    EXPECT_LT(std::chrono::steady_clock::now() - start, 1500ms);
+    const auto labels = dialog.findChildren<QLabel*>();
+    EXPECT_TRUE(std::ranges::any_of(labels, [text](const QLabel* label) {
+      return label->text() == text;
+    })) << text;
+  }
 }
 
 }  // namespace

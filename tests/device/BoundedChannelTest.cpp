@@ -1,6 +1,4 @@
 #include <atomic>
-#include <condition_variable>
-#include <mutex>
 #include <stdexcept>
 #include <thread>
 
@@ -22,27 +20,25 @@ constexpr PjtCommand kCommand{PjtOperation::GetMirror};
 class Gate final : public ProjectorChannel {
  public:
   PjtReply Execute(const PjtCommand&) override {
-    std::unique_lock lock(mutex_);
     const int number = ++executed;
-    changed_.wait(lock, [this] { return open_; });
+    if (throws) throw std::runtime_error("broken");
+    isOpen_.wait(false);
     ++returned;
     return {.result = 1, .value = static_cast<short>(number), .answered = answered};
   }
 
   void Open(bool open) {
-    const std::lock_guard lock(mutex_);
-    open_ = open;
-    changed_.notify_all();
+    isOpen_ = open;
+    isOpen_.notify_all();
   }
 
   std::atomic<int> executed = 0;
   std::atomic<int> returned = 0;
   std::atomic<bool> answered = true;
+  std::atomic<bool> throws = false;
 
  private:
-  std::mutex mutex_;
-  std::condition_variable changed_;
-  bool open_ = true;
+  std::atomic<bool> isOpen_ = true;
 };
 
 class BoundedChannelTest : public testing::Test {
@@ -121,31 +117,21 @@ TEST_F(BoundedChannelTest, AbandoningEndsTheWaitAndTheNextCommandIsTried) {
   EXPECT_TRUE(patient.Execute(kCommand).answered);
 }
 
-TEST_F(BoundedChannelTest, ACommandFromInsideTheWaitIsRefused) {
-  gate_->Open(false);
-  BoundedChannel patient(gate_, {.timeOut = 1h});
-  PjtReply inside{.result = 1};
-  QTimer::singleShot(20, [&] {
-    inside = patient.Execute(kCommand);
-    gate_->Open(true);
-  });
-  EXPECT_TRUE(patient.Execute(kCommand).answered);
-  EXPECT_EQ(inside.result, 0);
-  EXPECT_FALSE(inside.answered);
-  EXPECT_EQ(gate_->executed, 1);
-}
-
 TEST_F(BoundedChannelTest, WaitsOnThreadsWithoutEventLoopToo) {
   gate_->Open(false);
   std::thread([&] { EXPECT_FALSE(channel_.Execute(kCommand).answered); }).join();
 }
 
-TEST_F(BoundedChannelTest, QuittingTheApplicationDoesNotCutTheWaitShort) {
+TEST_F(BoundedChannelTest, ACommandFromInsideTheWaitIsRefusedAndQuittingDoesNotCutItShort) {
   gate_->Open(false);
   BoundedChannel patient(gate_, {.timeOut = 1h});
+  PjtReply inside{.result = 1};
   PjtReply reply{.answered = false};
   QTimer::singleShot(0, [&] { reply = patient.Execute(kCommand); });
-  QTimer::singleShot(20, [] { QCoreApplication::quit(); });
+  QTimer::singleShot(20, [&] {
+    inside = patient.Execute(kCommand);
+    QCoreApplication::quit();
+  });
   std::thread opener([&] {
     std::this_thread::sleep_for(70ms);
     gate_->Open(true);
@@ -153,6 +139,9 @@ TEST_F(BoundedChannelTest, QuittingTheApplicationDoesNotCutTheWaitShort) {
   QCoreApplication::exec();
   opener.join();
   EXPECT_TRUE(reply.answered);
+  EXPECT_EQ(inside.result, 0);
+  EXPECT_FALSE(inside.answered);
+  EXPECT_EQ(gate_->executed, 1);
 }
 
 TEST_F(BoundedChannelTest, DestructionWaitsForNobody) {
@@ -182,16 +171,11 @@ TEST_F(BoundedChannelTest, DestructionFromInsideTheWaitIsSafe) {
   EXPECT_EQ(channel, nullptr);
 }
 
-class Throwing final : public ProjectorChannel {
- public:
-  PjtReply Execute(const PjtCommand&) override { throw std::runtime_error("broken"); }
-};
-
-TEST(ThrowingChannel, HasNotAnswered) {
-  const auto broken = std::make_shared<Throwing>();
-  EXPECT_FALSE(BoundedChannel(broken).Execute(kCommand).answered);
+TEST_F(BoundedChannelTest, AChannelThatThrowsHasNotAnswered) {
+  gate_->throws = true;
+  EXPECT_FALSE(channel_.Execute(kCommand).answered);
   CPjtInterface projector;
-  projector.SetChannel(broken);
+  projector.SetChannel(gate_);
   short value = 5;
   EXPECT_EQ(projector.GetMirror(&value), 0);
   EXPECT_EQ(value, 5);

@@ -95,13 +95,11 @@ TEST_F(CPjtInterfaceTest, EveryFormBuildsItsCommandAndTakesItsReply) {
   }
 }
 
-TEST_F(CPjtInterfaceTest, NoValueIsWrittenThroughANullPointer) {
+TEST_F(CPjtInterfaceTest, WhatHostsHandOverIsBoundedAndMayBeAbsent) {
   EXPECT_EQ(pjt_.GetMirror(nullptr), 0);
   EXPECT_EQ(pjt_.IncrementKeystoneV(nullptr), 0);
   EXPECT_NE(pjt_.Get(0x2003, 0, &pjt_, nullptr), 1);
-}
 
-TEST_F(CPjtInterfaceTest, ConnectionTextsAreBoundedAndMayBeAbsent) {
   std::array<char, 70> unterminated{};
   unterminated.fill('x');
   pjt_.CopyData(1, 2, 23, unterminated.data(), nullptr);
@@ -110,14 +108,6 @@ TEST_F(CPjtInterfaceTest, ConnectionTextsAreBoundedAndMayBeAbsent) {
   EXPECT_EQ(pjt_.Network().Address, pjt_.ConnectionText1());
   EXPECT_EQ(pjt_.Network().Port, 23);
 
-  pjt_.CopyData(0, 2, 19200, "", "");
-  EXPECT_EQ(pjt_.ConnectionKind(), 0);
-  EXPECT_EQ(pjt_.ConnectionNumber(), 2);
-  EXPECT_EQ(pjt_.Serial().BaudRate, 19200);
-  EXPECT_EQ(pjt_.Network(), CSocketCtrl());
-}
-
-TEST_F(CPjtInterfaceTest, ListsAreKeptWithinTheirCapacity) {
   std::array<int, 40> values{};
   values[31] = 9;
   EXPECT_EQ(pjt_.CopyGammaData(40, values.data()), 32);
@@ -133,6 +123,9 @@ TEST_F(CPjtInterfaceTest, CopiesShareTheChannelAndKeepTheirOwnParameters) {
   copy.CopyData(0, 3, 9600, "", "");
   copy.SetColor(1);
   EXPECT_EQ(channel_->last, (PjtCommand{Op::SetColor, 0, 1}));
+  EXPECT_EQ(copy.ConnectionNumber(), 3);
+  EXPECT_EQ(copy.Serial().BaudRate, 9600);
+  EXPECT_EQ(copy.Network(), CSocketCtrl());
   EXPECT_EQ(pjt_.ConnectionText1(), "192.0.2.7");
   copy = pjt_;
   EXPECT_EQ(copy.Network().Address, "192.0.2.7");

@@ -1,4 +1,5 @@
 #include <string>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
@@ -39,20 +40,16 @@ CModelInfo2 NumberedRecord() {
 }
 
 TEST(ModelDataIntakeTest, EveryMemberIsCopied) {
+  // Whole arrays, whatever the count.
+  const auto members = [](const auto& of) {
+    return std::tie(of.ModelName, of.DialogType, of.ModelCode, of.ModelWord, of.ModelWords,
+                    of.MySourceList, of.WhisperList, of.AspectList, of.GammaList, of.ColorTempList,
+                    of.MyButtonList);
+  };
   const CModelInfo2 info = NumberedRecord();
   const ModelData data = MakeModelData(info);
-  EXPECT_EQ(data.ModelName, "record");
-  EXPECT_EQ(data.DialogType, 5);
+  EXPECT_EQ(members(data), members(info));
   EXPECT_EQ(data.ModelCode, 42);
-  EXPECT_EQ(data.ModelWord, 1);
-  EXPECT_EQ(data.ModelWords, info.ModelWords);
-  // Whole arrays, whatever the count.
-  EXPECT_EQ(data.MySourceList, info.MySourceList);
-  EXPECT_EQ(data.WhisperList, info.WhisperList);
-  EXPECT_EQ(data.AspectList, info.AspectList);
-  EXPECT_EQ(data.GammaList, info.GammaList);
-  EXPECT_EQ(data.ColorTempList, info.ColorTempList);
-  EXPECT_EQ(data.MyButtonList, info.MyButtonList);
 }
 
 TEST(ModelDataIntakeTest, RangeTextsComeFromTheirPlacesInTheRecord) {
@@ -67,7 +64,7 @@ TEST(ModelDataIntakeTest, RangeTextsComeFromTheirPlacesInTheRecord) {
   EXPECT_EQ(places, "956 960 964 968 972 976 1004 1008 1028 1040 1044 1048 1064 1068 1080 ");
 }
 
-TEST(ModelDataIntakeTest, AConnectionIsChosenByItsIndex) {
+TEST(ModelDataIntakeTest, AConnectionIsChosenByItsIndexAndAnItemBringsItsOwnWithItsName) {
   const CModelInfo2 info = NumberedRecord();
   for (const int index : {0, 4}) {
     EXPECT_EQ(MakeConnectionData(info, index),
@@ -76,10 +73,6 @@ TEST(ModelDataIntakeTest, AConnectionIsChosenByItsIndex) {
   }
   EXPECT_EQ(MakeConnectionData(info, -1), ConnectionData());
   EXPECT_EQ(MakeConnectionData(info, 5), ConnectionData());
-}
-
-TEST(ModelDataIntakeTest, AnItemBringsItsOwnNameAndConnection) {
-  const CModelInfo2 info = NumberedRecord();
   const CProjectorItem item{"item", 1, 2, 23, 0xC0FF0207, MakeNameSlot("second"), &info};
   EXPECT_EQ(MakeModelData(item).ModelName, "item");
   EXPECT_EQ(MakeModelData(item).ModelCode, 42);

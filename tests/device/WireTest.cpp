@@ -1,5 +1,4 @@
 #include <fstream>
-#include <map>
 #include <regex>
 #include <string>
 
@@ -17,33 +16,32 @@ std::string Bytes(const std::string& hexadecimal) {
 
 TEST(WireTest, TheDocumentSaysEveryOperationAndEveryByte) {
   std::ifstream file(TEST_SOURCE_DIR "/../docs/wire.md");
-  std::map<std::string, int> numbers;
+  const std::regex operationLine(R"(\| (\d+) \| (\w+) \| (\w+) \|)");
+  const std::regex exampleLine(R"(\|.*\| `(A5 5A [0-9A-F ]+)` \|)");
+  std::size_t operations = 0;
   std::string examples;
   std::size_t exampleCount = 0;
   for (std::string line; std::getline(file, line);) {
     std::smatch cell;
-    if (std::regex_match(line, cell, std::regex(R"(\| (\d+) \| (\w+) \| (\w+) \|)"))) {
+    if (std::regex_match(line, cell, operationLine)) {
       const auto operation = OperationByName(cell[2].str());
       if (!operation) continue;  // the table of kinds
+      ++operations;
       EXPECT_EQ(std::stoi(cell[1]), OperationNumber(*operation)) << cell[2];
       EXPECT_EQ(OperationByNumber(OperationNumber(*operation)), operation) << "given twice";
-      numbers[cell[2]] = std::stoi(cell[1]);
-    } else if (std::regex_match(line, cell, std::regex(R"(\|.*\| `(A5 5A [0-9A-F ]+)` \|)"))) {
+    } else if (std::regex_match(line, cell, exampleLine)) {
       examples += Bytes(cell[1]);
       ++exampleCount;
     }
   }
-  EXPECT_EQ(numbers.size(), kOperationCount);
+  EXPECT_EQ(operations, kOperationCount);
 
-  const auto number = [&numbers](const char* name) {
-    return static_cast<std::uint16_t>(numbers[name]);
-  };
   const Wire::Frame said[] = {
       {1, Wire::Hello{1, 1}},
       {1, Wire::Welcome{1}},
-      {2, Wire::Request{number("Get"), 0x2003}},
+      {2, Wire::Request{OperationNumber(PjtOperation::Get), 0x2003}},
       {2, Wire::Reply{Wire::Status::Answered, 1, 128}},
-      {3, Wire::Request{number("SetVolumeEachSrc"), 0, 3, -2}},
+      {3, Wire::Request{OperationNumber(PjtOperation::SetVolumeEachSrc), 0, 3, -2}},
       {3, Wire::Reply{}},
       {3, Wire::Reply{Wire::Status::UnknownOperation}},
   };

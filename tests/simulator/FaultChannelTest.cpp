@@ -22,34 +22,29 @@ class FaultChannelTest : public testing::Test {
   FaultChannel channel_{projector_, 5s};
 };
 
-TEST_F(FaultChannelTest, TheNarrowerFaultCounts) {
+TEST_F(FaultChannelTest, TheNarrowestFaultCounts) {
+  const PjtCommand brightness{Op::SetBrightness, 0, 130};
   channel_.SetFault({.kind = Kind::Refuse});
-  EXPECT_FALSE(Accepts({Op::SetColor, 0, 130}));
+  EXPECT_FALSE(Accepts(brightness));
   EXPECT_FALSE(Accepts({Op::ExecTintReset})) << "refused as the family says it";
-  EXPECT_EQ(projector_->Value(SettingId::Color), 128);
-
+  EXPECT_EQ(projector_->Value(SettingId::Brightness), 128);
   channel_.SetFault({});
   channel_.SetFault(std::uint16_t{0x2003}, {.kind = Kind::Refuse});
   EXPECT_FALSE(Accepts({Op::Get, 0x2003}));
   EXPECT_TRUE(Accepts({Op::Get, 0x2004}));
-  EXPECT_TRUE(Accepts({Op::SetBrightness, 0, 130}));
-
+  EXPECT_TRUE(Accepts(brightness));
   channel_.SetFault(Op::SetBrightness, {.kind = Kind::Refuse});
-  EXPECT_FALSE(Accepts({Op::SetBrightness, 0, 131}));
+  EXPECT_FALSE(Accepts(brightness));
   channel_.SetFault(Op::SetBrightness, {});
-  EXPECT_TRUE(Accepts({Op::SetBrightness, 0, 131}));
+  EXPECT_TRUE(Accepts(brightness));
 }
 
-TEST_F(FaultChannelTest, FailingReadsLeaveWritesAlone) {
+TEST_F(FaultChannelTest, FailingReadsLeaveWritesAloneAndALateAnswerIsAnAnswer) {
   channel_.SetFault({.kind = Kind::FailRead});
   EXPECT_FALSE(Accepts({Op::Get, 0x2003}));
-  EXPECT_FALSE(Accepts({Op::GetMirror}));
   EXPECT_FALSE(Accepts({Op::GetColorTempGainR}));
   EXPECT_TRUE(Accepts({Op::SetMirror, 0, 2}));
   EXPECT_TRUE(Accepts({Op::Inc, 0x2003}));
-}
-
-TEST_F(FaultChannelTest, ALateAnswerIsAnAnswer) {
   channel_.SetFault({.kind = Kind::Late, .delay = 40ms});
   const auto start = Clock::now();
   EXPECT_TRUE(Accepts({Op::GetMirror}));

@@ -153,6 +153,7 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
 
   /// The input source of a row, as `AskSource`. What rows showed of another one is forgotten.
   std::optional<int> AskFor(OfSource of);
+  std::vector<PjtCommand> ReadsFrom(std::size_t first, OfSource known, Source source) const;
 
   // Of the rows' context menu, in RowMenu.cpp. A position is a number shown, the place of a list's
   // entry, or whether a box is checked.

@@ -9,6 +9,7 @@
 #include "pages/common/PageVeil.h"
 #include "pages/common/RowDialog.h"
 #include "pages/common/WaitWatch.h"
+#include "settings/RowUse.h"
 #include "toolkit/CComboBox.h"
 
 namespace {
@@ -59,10 +60,30 @@ std::optional<RowDialog::Progress> RowDialog::ReadingProgress() const {
   return Progress{done, std::max(done + 1, total)};
 }
 
+// What can be asked for together from row `first` on: all up to the question for a source that is
+// not known yet, which decides what follows.
+std::vector<PjtCommand> RowDialog::ReadsFrom(std::size_t first, OfSource known,
+                                             Source source) const {
+  std::vector<PjtCommand> commands;
+  for (std::size_t i = first; i < bound_.size(); ++i) {
+    if (!bound_[i].present) continue;
+    const PageRow& row = table_.rows[i];
+    const OfSource of = SourceOf(row);
+    if (of != OfSource::None && of != known) {
+      for (const Call& call : SourceQuestions(of)) commands.push_back(call.Command());
+      break;
+    }
+    const auto call = ReadingOf(row, Model());
+    if (!call || (of != OfSource::None && !source)) continue;
+    commands.push_back((of == OfSource::None ? *call : At(*call, *source)).Command());
+  }
+  return commands;
+}
+
 void RowDialog::Refresh() {
   const Busy busy(this);
   const Reading reading(*this);
-  projector->Announce(Reads());
+  projector->Announce(ReadsFrom(0, OfSource::None, {}));
   OfSource asked = OfSource::None;
   Source source;
   CPjtInterface::Tally before;
@@ -74,6 +95,7 @@ void RowDialog::Refresh() {
       source = AskFor(of);
       if (projector->IsAbandoned()) return;
       ShowSource(source);
+      projector->Announce(ReadsFrom(i, of, source));
     }
     if (of == OfSource::None || source) {
       RefreshRow(i, of == OfSource::None ? 0 : source);

@@ -1,0 +1,252 @@
+#include <functional>
+#include <optional>
+#include <thread>
+
+#include <QDir>
+#include <QTcpServer>
+#include <gtest/gtest.h>
+
+#include "device/BoundedChannel.h"
+#include "device/SerialChannel.h"
+#include "device/TcpChannel.h"
+#include "simulator/WireResponder.h"
+#include "tests/device/Peer.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+using enum ConnectionState;
+using End = Peer::End;
+
+constexpr WireChannel::Limits kLimits{.connect = 400ms, .answer = 400ms};
+constexpr std::size_t kWelcomeSize = 9;
+constexpr std::size_t kReplySize = 15;
+constexpr auto kWays = {Way::Tcp, Way::Serial};
+
+PjtCommand Get(int code) { return {PjtOperation::Get, static_cast<std::uint16_t>(code)}; }
+PjtCommand Set(int value) { return {PjtOperation::Set, 1, static_cast<std::int16_t>(value)}; }
+
+/// Answers reads with their code plus a state that changes raise.
+class Device final : public ProjectorChannel {
+ public:
+  PjtReply Execute(const PjtCommand& command) override {
+    if (!IsRead(command.operation)) ++state;
+    return {.result = 1, .value = static_cast<std::int16_t>(command.code + 1000 * state)};
+  }
+  int state = 0;
+};
+
+std::unique_ptr<WireChannel> ChannelTo(const Peer& peer) {
+  if (peer.port == 0) return std::make_unique<SerialChannel>(peer.Device(), 19200, kLimits);
+  return std::make_unique<TcpChannel>("127.0.0.1", peer.port, kLimits);
+}
+
+/// Gives what the projector would say to what came to `say`, until the connection is over.
+Peer::Behaviour Answers(std::function<void(End&, const std::string&)> say) {
+  return [say = std::move(say)](End& end) {
+    Device device;
+    WireResponder responder(device);
+    for (auto bytes = end.Receive(); !bytes.empty(); bytes = end.Receive()) {
+      const std::string answer = responder.Receive(bytes);
+      if (!answer.empty()) say(end, answer);
+    }
+  };
+}
+
+const Peer::Behaviour kServes = Answers([](End& end, const auto& answer) { end.Send(answer); });
+
+/// Welcomes, says once what becomes of the reply, and then nothing, or closes the connection.
+Peer::Behaviour Replies(std::function<std::string(std::string)> change, bool closes = false) {
+  return [change = std::move(change), closes](End& end) {
+    Device device;
+    WireResponder responder(device);
+    std::string said = responder.Receive(end.Receive());
+    end.Send(said.substr(0, kWelcomeSize));
+    if (said.size() <= kWelcomeSize) said += responder.Receive(end.Receive());
+    end.Send(change(said.substr(std::min(said.size(), kWelcomeSize))));
+    if (!closes) end.Listen();
+  };
+}
+
+Peer::Behaviour Says(const std::string& bytes) {
+  return [bytes](End& end) {
+    end.Receive();
+    end.Send(bytes);
+    end.Listen();
+  };
+}
+
+std::string FrameBytes(const Wire::Frame& frame, std::size_t times = 1) {
+  std::string bytes;
+  for (std::size_t i = 0; i < times; ++i) Wire::Append(bytes, frame);
+  return bytes;
+}
+
+TEST(WireChannelTest, WhateverThePeerDoesTheStateIsClearAndTheNextCommandWorks) {
+  struct Case {
+    const char* name;
+    Peer::Behaviour behaviour;
+    ConnectionState onTcp;
+    ConnectionState onSerial = NoAnswer;
+  };
+  constexpr std::size_t kFlood = 10'000'000;
+  const std::string foreign =
+      FrameBytes({0x7FFF, Wire::Reply{Wire::Status::Answered, 1, 6}}, kFlood / kReplySize);
+  std::vector<Case> cases{
+      {"never answers", Says(""), NoAnswer},
+      {"answers garbage", Says("HTTP/1.1 400 Bad Request\r\n\r\n"), NotUnderstood},
+      {"half a frame", Says("\xA5\x5A\x02"), NoAnswer},
+      {"lies about length", Says("\xA5\x5A\x02\xFF"), NotUnderstood},
+      {"ten megabytes", Says(std::string(kFlood, 'A')), NotUnderstood},
+      {"welcomes somebody else", Says(FrameBytes({1, Wire::Welcome{}})), NoAnswer},
+      {"has another version",
+       [](End& end) {
+         Wire::Decoder decoder;
+         decoder.Add(end.Receive());
+         end.Send(FrameBytes({decoder.Next()->sequence, Wire::Welcome{0}}));
+         end.Listen();
+       },
+       OtherVersion, OtherVersion},
+      {"replies to others, a flood of them", Replies([&](auto) { return foreign; }), NoAnswer},
+      {"damages the reply", Replies([](auto reply) {
+         reply[10] ^= 1;
+         return reply;
+       }),
+       NotUnderstood},
+      {"falls silent after the welcome", Replies([](auto) { return std::string(); }), NoAnswer},
+  };
+  for (std::size_t cut = 0; cut < kReplySize; ++cut) {
+    const auto begin = [cut](const auto& reply) { return reply.substr(0, cut); };
+    cases.push_back({"closes in mid-reply", Replies(begin, true), Lost, Lost});
+  }
+  for (const Way way : kWays) {
+    for (const auto& [name, behaviour, onTcp, onSerial] : cases) {
+      SCOPED_TRACE(testing::Message() << name << (way == Way::Tcp ? "" : ", on a serial line"));
+      Peer peer(way, {behaviour, kServes});
+      const auto channel = ChannelTo(peer);
+      EXPECT_EQ(channel->Connection(), Unused);
+      EXPECT_FALSE(channel->Execute(Get(5)).answered);
+      EXPECT_EQ(ConnectionStateText(channel->Connection()),
+                ConnectionStateText(way == Way::Tcp ? onTcp : onSerial));
+      peer.Finish(1);
+      EXPECT_EQ(channel->Execute(Get(5)).value, 5);
+      EXPECT_EQ(channel->Connection(), Connected);
+    }
+  }
+}
+
+TEST(WireChannelTest, SaysWhyItCannotConnect) {
+  QTcpServer neverAccepts;
+  ASSERT_TRUE(neverAccepts.listen(QHostAddress::LocalHost));
+  const std::uint16_t taken = neverAccepts.serverPort();
+  const auto expect = [](WireChannel&& channel, ConnectionState state) {
+    EXPECT_FALSE(channel.Execute(Get(1)).answered);
+    EXPECT_EQ(ConnectionStateText(channel.Connection()), ConnectionStateText(state));
+  };
+  expect(TcpChannel("localhost", taken, kLimits), NoAnswer);
+  expect(TcpChannel("no-such-name.invalid", taken, kLimits), NameUnknown);
+  expect(SerialChannel("/dev/no-such-port", 19200, kLimits), NotReachable);
+  expect(SerialChannel("/dev/null", 19200, kLimits), NotReachable);
+
+  // Nobody waits for the thread of one that is given up, and it goes.
+  const auto threads = [] {
+    return QDir("/proc/self/task").entryList(QDir::Dirs | QDir::NoDotAndDotDot).size();
+  };
+  const auto before = threads();
+  {
+    BoundedChannel givenUp(std::make_shared<TcpChannel>("127.0.0.1", taken, kLimits),
+                           {.timeOut = 10ms});
+    EXPECT_FALSE(givenUp.Execute(Get(1)).answered);
+  }
+  EXPECT_GT(threads(), before);
+  for (int i = 0; i < 200 && threads() > before; ++i) std::this_thread::sleep_for(10ms);
+  EXPECT_EQ(threads(), before);
+
+  neverAccepts.close();
+  expect(TcpChannel("127.0.0.1", taken, kLimits), NotReachable);
+}
+
+TEST(WireChannelTest, WhatEndsWhileNothingIsAskedLosesNoCommand) {
+  const Peer::Behaviour forgets = [](End& end) {
+    Device device;
+    std::optional<WireResponder> responder(device);
+    bool hasForgotten = false;
+    for (auto bytes = end.Receive(); !bytes.empty(); bytes = end.Receive()) {
+      const std::string answer = responder->Receive(bytes);
+      end.Send(answer);
+      if (answer.size() < kReplySize || std::exchange(hasForgotten, true)) continue;
+      responder.emplace(device);
+    }
+  };
+  for (const Way way : kWays) {
+    for (const bool isClosed : {false, true}) {
+      SCOPED_TRACE(isClosed);
+      Peer peer(way, {isClosed ? kServes : forgets, kServes});
+      const auto channel = ChannelTo(peer);
+      EXPECT_EQ(channel->Execute(Get(1)).value, 1);
+      if (isClosed) peer.Finish(1);
+      EXPECT_EQ(channel->Execute(Set(7)).value, 1001) << "and was carried out once";
+    }
+  }
+}
+
+/// Notes how many requests came at once, and gives each reply twice: slowly, or else backwards.
+Peer::Behaviour AnswersTwice(std::vector<std::size_t>& bursts, std::chrono::milliseconds pause) {
+  return Answers([&bursts, pause](End& end, const std::string& answer) {
+    const std::size_t welcome = answer.size() % kReplySize;
+    const std::size_t count = answer.size() / kReplySize;
+    end.Send(answer.substr(0, welcome));
+    for (std::size_t i = 0; i < count; ++i) {
+      std::this_thread::sleep_for(pause);
+      const std::size_t place = pause == 0ms ? count - 1 - i : i;
+      const std::string reply = answer.substr(welcome + kReplySize * place, kReplySize);
+      end.Send(reply + reply);
+    }
+    bursts.push_back(count);
+  });
+}
+
+TEST(WireChannelTest, AnnouncedReadsGoOutTogetherAndAreAnsweredInOrder) {
+  std::vector<PjtCommand> reads;
+  for (int i = 0; i < 80; ++i) reads.push_back(Get(i));
+  struct Step {
+    PjtCommand command;
+    int value;
+    std::chrono::milliseconds pause = 0ms;
+  };
+  struct Case {
+    const char* name;
+    std::vector<Step> steps;
+    std::vector<std::size_t> bursts;  ///< The hello goes out with the first.
+    std::chrono::milliseconds pause = 0ms;
+    Way way = Way::Tcp;
+  };
+  const Case cases[] = {
+      {"in order",
+       {{Get(0), 0}, {Get(1), 1}, {Get(63), 63}, {Get(64), 64}, {Get(79), 79}},
+       {64, 16}},
+      {"not announced in between", {{Get(20), 20}, {Get(500), 500}, {Get(21), 21}}, {60, 1}},
+      {"passed over, asked for later", {{Get(20), 20}, {Get(22), 22}, {Get(21), 21}}, {60, 1}},
+      {"a change in between", {{Get(20), 20}, {Set(7), 1001}, {Get(21), 1021}}, {60, 1, 1}},
+      {"asked twice", {{Get(20), 20}, {Get(20), 20}}, {60, 1}},
+      {"late", {{Get(20), 20}, {Get(21), 21, kLimits.answer + 20ms}}, {60, 1}},
+      {"takes longer than one may", {{Get(75), 75}, {Get(77), 77}, {Get(79), 79}}, {5}, 100ms},
+      {"serial", {{Get(20), 20}, {Set(7), 1001}, {Get(0), 1000}}, {0, 1, 1, 1}, 0ms, Way::Serial},
+  };
+  for (const auto& [name, steps, expected, pause, way] : cases) {
+    SCOPED_TRACE(name);
+    std::vector<std::size_t> bursts;
+    {
+      const Peer peer(way, {AnswersTwice(bursts, pause)});
+      BoundedChannel channel(ChannelTo(peer));
+      channel.Announce(reads);
+      for (const auto& [command, value, before] : steps) {
+        std::this_thread::sleep_for(before);
+        EXPECT_EQ(channel.Execute(command).value, value);
+      }
+    }
+    EXPECT_EQ(bursts, expected);
+  }
+}
+
+}  // namespace

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include <QString>
 #include <gtest/gtest.h>
 
 #include "i18n/Catalog.h"
@@ -130,6 +131,24 @@ TEST_F(CatalogTest, TakesTheFirstFileAndNoneAfterADamagedOne) {
   // The catalog loaded before is gone too.
   EXPECT_FALSE(IsCatalogLoaded());
   EXPECT_EQ(CatalogText(4, 1), kNoCatalog);
+}
+
+TEST_F(CatalogTest, TheProblemIsWhichModuleWasRefusedOrWhereNoneWas) {
+  static std::string logged;
+  const auto before =
+      qInstallMessageHandler([](QtMsgType, const QMessageLogContext& context, const QString& text) {
+        logged = std::string(context.category) + ": " + text.toStdString();
+      });
+  const std::string folder = fs::current_path();
+  EXPECT_EQ(LoadCatalog(std::span(&folder, 1)), -1);
+  EXPECT_NE(CatalogProblem().find("mcdll.dll is not found in " + folder), std::string::npos);
+  Touch("mcdll.dll");
+  EXPECT_EQ(LoadCatalog(std::span(&folder, 1)), -1);
+  EXPECT_NE(CatalogProblem().find(folder + "/mcdll.dll is refused"), std::string::npos);
+  EXPECT_EQ(logged, "advancedcontrol.catalog: " + CatalogProblem());
+  LoadTexts({u"text\r\n"});
+  EXPECT_EQ(CatalogProblem(), "");
+  qInstallMessageHandler(before);
 }
 
 // Marker files, locale and current directory count at the moment of the call.

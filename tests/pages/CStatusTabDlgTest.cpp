@@ -54,13 +54,4 @@ TEST_F(StatusTest, TheInputSourceIsTheNameInAnySlot) {
   EXPECT_EQ(Shown("Get 0x2000", 5, 20009), QString());
 }
 
-TEST_F(StatusTest, AFailedReadShowsADashInItsRowOnly) {
-  projector.Answer("Get 0x6000", 1);
-  projector.Refuse("Get 0x2002");
-  open.Page().InitDisp();
-  EXPECT_EQ(driver.Text(20012), QStringLiteral("-"));
-  EXPECT_EQ(driver.Text(20008), CatalogString(5, 31));
-  EXPECT_TRUE(driver.IsEnabled(20018));
-}
-
 }  // namespace

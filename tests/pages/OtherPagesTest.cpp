@@ -8,13 +8,6 @@ namespace {
 
 using Strings = std::vector<std::string>;
 
-TEST(OtherPages, AListIsOutOfUseWhileWhatASilentSetterDidIsUnknown) {
-  OpenDialog open(MakeModel(1, 1), 8);
-  open.Projector().Refuse("Get 0x2002");
-  open.Driver().Choose(20105, 1);
-  EXPECT_FALSE(open.Driver().IsEnabled(20105));
-}
-
 constexpr int kOn = 20100, kOff = 20101, kState = 20102;
 
 void ExpectPower(OpenDialog& open, const QString& state, bool ready) {
@@ -27,21 +20,6 @@ void ExpectBox(MessageBoxes& boxes, int text) {
   const auto seen = boxes.Take();
   ASSERT_FALSE(seen.empty());
   EXPECT_EQ(seen.back().text, CatalogString(kErrorCategory, text));
-}
-
-TEST(OtherPages, TurningOnReadsThePageAgainAndTellsARefusal) {
-  OpenDialog open(MakeModel(1, 1), 8);
-  ExpectPower(open, "Off", true);
-  open.Projector().Answer("Get 0x6000", 1);
-  MessageBoxes boxes;
-  open.Driver().Click(kOn);
-  EXPECT_EQ(open.Projector().Take(),
-            (Strings{"SetPowerOn", "Get 0x6000", "Get 0x3020", "Get 0x2002", "Get 0x3002"}));
-  ExpectPower(open, "On", true);
-  EXPECT_TRUE(boxes.Take().empty());
-  open.Projector().Refuse("SetPowerOn");
-  open.Driver().Click(kOn);
-  ExpectBox(boxes, 4201);
 }
 
 TEST(OtherPages, TurningOffAsksAndAProjectorThatStaysOnOrIsUnknownHasRefused) {

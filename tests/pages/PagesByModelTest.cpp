@@ -45,15 +45,13 @@ CModelInfo2 WithWideRanges(CModelInfo2 info) {
 
 std::string Ranges(const CDialog& page) {
   std::string text;
-  for (const RowTemplate& row : page.Template()->rows) {
-    for (const ControlTemplate& control : row.controls) {
-      if (control.kind != ControlKind::Slider) continue;
-      const auto& slider = page.Item<CSliderCtrl>(control.id);
-      const int range = slider.maximum() - slider.minimum() - kWide;
-      if (!slider.isVisible()) continue;
-      text += "  slider " + std::to_string(control.id) +
-              (range < 0 ? ": none\n" : ": " + std::to_string(range) + '\n');
-    }
+  for (const auto* slider : page.findChildren<CSliderCtrl*>()) {
+    if (!slider->isVisible()) continue;
+    const int minimum = slider->minimum(), width = slider->maximum() - minimum;
+    text += "  slider " + slider->accessibleName().toStdString() + ": ";
+    text += width < kWide ? "its own" : std::to_string(width - kWide);
+    text += ", from " + std::to_string(minimum) + ", ticks " +
+            std::to_string(slider->tickInterval()) + '\n';
   }
   return text;
 }

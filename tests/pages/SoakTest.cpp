@@ -116,14 +116,10 @@ TEST_P(SoakTest, EveryControlEndsUpShowingTheProjectorsValue) {
   const auto faults = std::make_shared<FaultChannel>(projector);
   int changes = 0;
   CAdvanceDlg dialog;
-  dialog.CopyData(&info, 0);
-  dialog.Projector().SetChannel(std::make_shared<LoggingChannel>(
-      faults, [&changes](const PjtCommand& command, const PjtReply&, auto) {
-        changes += !IsRead(command.operation);
-      }));
-  ASSERT_TRUE(dialog.Create());
-  dialog.show();
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&dialog));
+  Open(dialog, info,
+       std::make_shared<LoggingChannel>(faults, [&changes](const PjtCommand& sent, auto&&...) {
+         changes += !IsRead(sent.operation);
+       }));
   {
     RandomUser user(dialog, *faults, seed);
     const int actions = Given("SOAK_ACTIONS", kActionsPerModel);

@@ -49,6 +49,10 @@ class DialogDriver {
   CDialog& dialog_;
 };
 
+/// Opens the dialog for a model on a projector.
+void Open(CAdvanceDlg& dialog, const CModelInfo2& model,
+          std::shared_ptr<ProjectorChannel> projector);
+
 /// The whole dialog, opened on a scripted projector.
 class OpenDialog {
  public:

@@ -73,6 +73,7 @@ class Host {
       const QWidget* modal = QApplication::activeModalWidget();
       return modal != nullptr && modal->isVisible() && modal->inherits(name);
     };
+    if (moment == Moment::Opening) return;
     const bool popUp = moment == Moment::PopUp || moment == Moment::PopUpHandler;
     if (moment == Moment::Refresh) DieWhileACommandWaits();
     dialog.findChild<QTabBar*>()->setCurrentIndex(popUp ? kOptionTab : kPictureTab);

@@ -1,4 +1,4 @@
-// The pages that turn the projector on and off.
+// The pages that tell the projector's state, and turn it on and off.
 
 #include <gtest/gtest.h>
 
@@ -7,6 +7,24 @@
 namespace {
 
 using Strings = std::vector<std::string>;
+
+TEST(StatusPage, NamesTheInputSourceOfAnySlotAndCountsHoursUnsigned) {
+  CModelInfo2 model = MakeModel(5, 30);
+  AddSource(model.MySourceList, 1, "Video");
+  model.MySourceList.firstValues[15] = 77;
+  model.MySourceList.names[15] = MakeNameSlot("Beyond the count");
+  OpenDialog open(model);
+  for (const auto& [key, value, control, text] :
+       {std::tuple{"Get 0x2000", 1, 20009, QStringLiteral("Video")},
+        {"Get 0x2000", 77, 20009, QStringLiteral("Beyond the count")},
+        {"Get 0x2000", 5, 20009, QString()},
+        {"Get 0x1090", 40000, 20014, CatalogString(kListCategory, 320, 40000)},
+        {"Get 0x10A0", 12, 20015, CatalogString(kListCategory, 320, 12)}}) {
+    open.Projector().Answer(key, value);
+    open.Page().InitDisp();
+    EXPECT_EQ(open.Driver().Text(control), text);
+  }
+}
 
 constexpr int kOn = 20100, kOff = 20101, kState = 20102;
 

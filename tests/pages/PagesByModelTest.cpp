@@ -8,6 +8,7 @@
 #include <map>
 #include <sstream>
 
+#include <QAbstractButton>
 #include <QTabBar>
 #include <gtest/gtest.h>
 
@@ -33,41 +34,77 @@ void Add(Listing& listing, const std::string& page, const std::vector<std::strin
   }
 }
 
-constexpr int kWide = 1000;
+// Range texts that are wide, each of another width.
+constexpr int kWide = 4000;
 
-// Each range text of the model tells its number by how much wider it is.
 CModelInfo2 WithWideRanges(CModelInfo2 info) {
   for (std::size_t i = 0; i < RangeIndex::Count; ++i) {
-    info.RangeText(i) = "100," + std::to_string(100 + kWide + i);
+    info.RangeText(i) = "-2000," + std::to_string(kWide - 2000 + static_cast<int>(i));
   }
   return info;
 }
 
-std::string Ranges(const CDialog& page) {
-  std::string text;
-  for (const auto* slider : page.findChildren<CSliderCtrl*>()) {
-    if (!slider->isVisible()) continue;
-    const int minimum = slider->minimum(), width = slider->maximum() - minimum;
-    text += "  slider " + slider->accessibleName().toStdString() + ": ";
-    text += width < kWide ? "its own" : std::to_string(width - kWide);
-    text += ", from " + std::to_string(minimum) + ", ticks " +
-            std::to_string(slider->tickInterval()) + '\n';
+// Where the sliders of a page have their ranges from, and where their buttons stop.
+class Ranges {
+ public:
+  Ranges(CDialog& page, MoodyProjector& projector, const std::function<void()>& refresh)
+      : page_(page), projector_(projector), refresh_(refresh) {}
+
+  std::string Describe() {
+    std::string text;
+    projector_.mood = MoodyProjector::Mood::Ignores;
+    for (const RowTemplate& row : page_.Template()->rows) {
+      for (std::size_t i = 0; i < row.controls.size(); ++i) {
+        if (row.controls[i].kind != ControlKind::Slider) continue;
+        const auto& slider = page_.Item<CSliderCtrl>(row.controls[i].id);
+        if (!slider.isVisible()) continue;
+        const int minimum = slider.minimum(), range = slider.maximum() - minimum - kWide;
+        text += "  slider " + std::to_string(row.controls[i].id) + ": ";
+        text += range < 0 ? "its own" : std::to_string(range);
+        text += ", from " + std::to_string(minimum) + ", ticks ";
+        text += std::to_string(slider.tickInterval()) + "; steps down from ";
+        text += std::to_string(LastStep(row.controls[i - 1].id, 1000)) + ", up from ";
+        text += std::to_string(LastStep(row.controls[i + 1].id, -1000)) + '\n';
+      }
+    }
+    return text;
   }
-  return text;
-}
+
+ private:
+  // The last device value from which a button still does something.
+  int LastStep(int button, int first) {
+    int stepping = first, stopped = -first;
+    while (std::abs(stepping - stopped) > 1) {
+      projector_.value = static_cast<std::int16_t>((stepping + stopped) / 2);
+      refresh_();
+      projector_.log.clear();
+      page_.Item<QAbstractButton>(button).click();
+      const bool sends = projector_.log.find(" sends") != std::string::npos;
+      (sends ? stepping : stopped) = *projector_.value;
+    }
+    return stepping;
+  }
+
+  CDialog& page_;
+  MoodyProjector& projector_;
+  const std::function<void()>& refresh_;
+};
 
 void AddPages(Listing& listing, const CModelInfo2& info, bool ranges) {
   const std::string type = "type " + std::to_string(info.DialogType) + ", ";
   CAdvanceDlg dialog;
   dialog.CopyData(&info, 0);
-  PageDescriber describer(dialog);
+  const auto projector = std::make_shared<MoodyProjector>(dialog);
+  dialog.Projector().SetChannel(projector);
   ASSERT_TRUE(dialog.Create());
   dialog.show();
-  const auto add = [&](const std::string& name, CDialog& page, const auto& refresh) {
+  const auto add = [&](const std::string& name, CDialog& page,
+                       const std::function<void()>& refresh) {
     if (ranges) {
-      Add(listing, type + name + ", ranges", {Ranges(page)}, info.ModelCode);
+      Add(listing, type + name + ", ranges", {Ranges(page, *projector, refresh).Describe()},
+          info.ModelCode);
     } else {
-      Add(listing, type + name, describer.Describe(page, refresh), info.ModelCode);
+      Add(listing, type + name, DescribePage(page, *projector, refresh), info.ModelCode);
     }
   };
   auto* tabs = dialog.findChild<QTabBar*>();

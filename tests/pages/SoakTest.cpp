@@ -71,10 +71,7 @@ class RandomUser {
       QTest::mouseMove(&widget, to);
       QTest::mouseRelease(&widget, Qt::LeftButton, {}, to);
     } else if (Pick(4) == 0) {
-      const QPointF at = widget.rect().center();
-      QWheelEvent event(at, widget.mapToGlobal(at), {}, {0, Pick(2) == 0 ? 120 : -120},
-                        Qt::NoButton, {}, Qt::NoScrollPhase, false);
-      QApplication::sendEvent(&widget, &event);
+      Wheel(widget, Pick(2) == 0 ? 1 : -1);
     } else {
       QTest::keyClick(&widget, keys[Pick(std::size(keys))]);
       if (QWidget* popup = QApplication::activePopupWidget()) {

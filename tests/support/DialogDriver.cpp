@@ -58,8 +58,7 @@ void DialogDriver::Press(int id, Qt::Key key) const {
   QTest::keyClick(&control, key);
 }
 
-void DialogDriver::Wheel(int id, int notches) const {
-  auto& control = Item<QWidget>(id);
+void Wheel(QWidget& control, int notches) {
   const QPointF at = control.rect().center();
   QWheelEvent event(at, control.mapToGlobal(at), {}, {0, 120 * notches}, Qt::NoButton, {},
                     Qt::NoScrollPhase, false);

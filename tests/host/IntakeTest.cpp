@@ -52,30 +52,28 @@ TEST(Intake, EachFormAddsToTheOneBefore) {
   EXPECT_EQ(model.WhisperList, whisper);
 }
 
-void ExpectConnection(CAdvanceDlg& dialog, const ConnectionData& expected) {
-  const CPjtInterface& from = dialog.Projector();
-  EXPECT_EQ(expected, (ConnectionData{from.ConnectionKind(), from.ConnectionNumber(),
-                                      from.ConnectionParameter(), from.ConnectionText1(),
-                                      from.ConnectionText2()}));
-}
-
 TEST(Intake, ARecordOrAnItemGivesTheModelAndTheChosenConnection) {
   CModelInfo2 record = MakeModel(5, 30);
   record.ConnectionNumbers[3] = 40;
   record.ConnectionParameters[3] = 41;
   record.ConnectionTexts2[3] = MakeNameSlot("four-2");
   CAdvanceDlg dialog;
+  const auto connection = [&from = dialog.Projector()] {
+    return ConnectionData{from.ConnectionKind(), from.ConnectionNumber(),
+                          from.ConnectionParameter(), from.ConnectionText1(),
+                          from.ConnectionText2()};
+  };
   dialog.CopyData(&record, 3);
   dialog.CopyData(static_cast<const CModelInfo2*>(nullptr), 0);
   dialog.CopyData(static_cast<const CProjectorItem*>(nullptr));
   EXPECT_EQ(dialog.Model().ModelCode, 30);
-  ExpectConnection(dialog, {0, 40, 41, "", "four-2"});
+  EXPECT_EQ(connection(), (ConnectionData{0, 40, 41, "", "four-2"}));
 
   const CProjectorItem item{.Name = "Room 7", .ConnectionKind = 1, .Address = 0xC0A80107};
   dialog.CopyData(&item);
   EXPECT_EQ(dialog.Model().ModelName, "Room 7");
   EXPECT_EQ(dialog.Model().ModelCode, 0) << "an item without a record";
-  ExpectConnection(dialog, {1, 0, 0, "192.168.1.7", ""});
+  EXPECT_EQ(connection(), (ConnectionData{1, 0, 0, "192.168.1.7", ""}));
 }
 
 }  // namespace

@@ -34,13 +34,11 @@ void When(const std::function<bool()>& isSo, const std::function<void()>& act) {
   timer->start(1);
 }
 
-enum class Death { Delete, DeleteLater };
-enum class Run { Modal, Modeless };
 enum class Moment { Opening, Refresh, Handler, PopUp, PopUpHandler, MessageBox };
 
 class Host {
  public:
-  explicit Host(Death death) : death_(death) {
+  explicit Host(bool later = false) : later_(later) {
     owner_->show();
     QObject::connect(owner_, &QObject::destroyed, [this] { projector->Pace(0ms); });
   }
@@ -63,49 +61,38 @@ class Host {
   void LetDie() {
     sentAtDeath_ = projector->sent;
     waitedAtDeath_ = projector->waiting;
-    if (death_ == Death::Delete) {
-      delete owner_;
-    } else {
+    if (later_) {
       owner_->deleteLater();
+    } else {
+      delete owner_;
     }
   }
 
   void Die(CAdvanceDlg& dialog, Moment moment) {
-    const auto slowly = [this](const auto& act) {
-      DieWhileACommandWaits();
-      act();
-    };
     const auto isModal = [](const char* name) {
       const QWidget* modal = QApplication::activeModalWidget();
       return modal != nullptr && modal->isVisible() && modal->inherits(name);
     };
-    auto* tabs = dialog.findChild<QTabBar*>();
-    const auto page = [&] { return DialogDriver(*dialog.ShownPage()); };
-    switch (moment) {
-      case Moment::Opening:
-        break;
-      case Moment::Refresh:
-        return slowly([&] { tabs->setCurrentIndex(kPictureTab); });
-      case Moment::Handler:
-        tabs->setCurrentIndex(kPictureTab);
-        return slowly([&] { page().Choose(kActiveIris, 1); });
-      case Moment::PopUp:
-        tabs->setCurrentIndex(kOptionTab);
-        return slowly([&] { page().Click(kService); });
-      case Moment::PopUpHandler:
-        tabs->setCurrentIndex(kOptionTab);
-        When([isModal] { return isModal("CServiceDlg"); },
-             [slowly] {
-               auto* popup = qobject_cast<CDialog*>(QApplication::activeModalWidget());
-               slowly([popup] { DialogDriver(*popup).Click(kRemoteTop); });
-             });
-        return page().Click(kService);
-      case Moment::MessageBox:
-        tabs->setCurrentIndex(kPictureTab);
-        projector->refuses = true;
-        When([isModal] { return isModal("QMessageBox"); }, [this] { LetDie(); });
-        return page().Choose(kActiveIris, 1);
+    if (moment == Moment::Opening) return;
+    const bool popUp = moment == Moment::PopUp || moment == Moment::PopUpHandler;
+    if (moment == Moment::Refresh) DieWhileACommandWaits();
+    dialog.findChild<QTabBar*>()->setCurrentIndex(popUp ? kOptionTab : kPictureTab);
+    if (moment == Moment::Refresh) return;
+    if (moment == Moment::PopUpHandler) {
+      When([isModal] { return isModal("CServiceDlg"); },
+           [this] {
+             DieWhileACommandWaits();
+             DialogDriver(*qobject_cast<CDialog*>(QApplication::activeModalWidget()))
+                 .Click(kRemoteTop);
+           });
+    } else if (moment == Moment::MessageBox) {
+      projector->refuses = true;
+      When([isModal] { return isModal("QMessageBox"); }, [this] { LetDie(); });
+    } else {
+      DieWhileACommandWaits();
     }
+    const DialogDriver page(*dialog.ShownPage());
+    popUp ? page.Click(kService) : page.Choose(kActiveIris, 1);
   }
 
   void ExpectEnded(bool whileWaiting) {
@@ -118,7 +105,7 @@ class Host {
   }
 
  private:
-  Death death_;
+  bool later_;
   CModelInfo2 model_ = FullModel(5, 30);
   QPointer<QWidget> owner_ = new QWidget;
   int sentAtDeath_ = -1;
@@ -128,15 +115,15 @@ class Host {
   std::shared_ptr<PacedProjector> projector = std::make_shared<PacedProjector>(model_);
 };
 
-class OwnerTest : public testing::TestWithParam<std::tuple<Death, Run, Moment>> {};
+class OwnerTest : public testing::TestWithParam<std::tuple<bool, bool, Moment>> {};
 
 TEST_P(OwnerTest, DiesWhileTheDialogIsInUse) {
-  const auto [death, run, moment] = GetParam();
-  Host host(death);
+  const auto [later, modal, moment] = GetParam();
+  Host host(later);
   const QPointer<CAdvanceDlg> dialog = new CAdvanceDlg(new QWidget(host.Owner()));
   host.Prepare(*dialog);
   if (moment == Moment::Opening) host.DieWhileACommandWaits();
-  if (run == Run::Modal) {
+  if (modal) {
     if (moment != Moment::Opening) {
       QTimer::singleShot(0, dialog, [&, moment = moment] { host.Die(*dialog, moment); });
     }
@@ -153,14 +140,13 @@ TEST_P(OwnerTest, DiesWhileTheDialogIsInUse) {
 
 INSTANTIATE_TEST_SUITE_P(
     All, OwnerTest,
-    testing::Combine(testing::Values(Death::Delete, Death::DeleteLater),
-                     testing::Values(Run::Modal, Run::Modeless),
+    testing::Combine(testing::Bool(), testing::Bool(),
                      testing::Values(Moment::Opening, Moment::Refresh, Moment::Handler,
                                      Moment::PopUp, Moment::PopUpHandler, Moment::MessageBox)));
 
 TEST(OwnerOfALocalDialog, DiesAndTheDialogIsThereToBeRunAgain) {
   for (const bool idle : {true, false}) {
-    Host host(Death::Delete);
+    Host host;
     CAdvanceDlg dialog(host.Owner());
     host.Prepare(dialog);
     QTimer::singleShot(0, qApp, [&] { idle ? host.LetDie() : host.Die(dialog, Moment::Handler); });
@@ -175,7 +161,7 @@ TEST(OwnerOfALocalDialog, DiesAndTheDialogIsThereToBeRunAgain) {
 }
 
 TEST(OwnerOfADialogWithoutParent, DiesAndTakesItsBoxDown) {
-  Host host(Death::Delete);
+  Host host;
   host.Owner()->activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(host.Owner()));
   CAdvanceDlg dialog;

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include <QString>
 #include <gtest/gtest.h>
 
 #include "i18n/Catalog.h"
@@ -114,22 +115,32 @@ TEST_F(CatalogTest, ChoosesTheModule) {
   expectLoaded("en_US", "chinese");
 }
 
-TEST_F(CatalogTest, TakesTheFirstFileAndNoneAfterADamagedOne) {
+TEST_F(CatalogTest, TakesTheFirstFileAndNoneAfterADamagedOneAndSaysWhy) {
+  static std::string logged;
+  const auto before =
+      qInstallMessageHandler([](QtMsgType, const QMessageLogContext& context, const QString& text) {
+        logged = std::string(context.category) + ": " + text.toStdString();
+      });
+  const std::vector<std::string> folders = {"absent", "empty", "good"};
+  EXPECT_EQ(LoadCatalog(folders), -1);
+  EXPECT_NE(CatalogProblem().find("mcdll.dll is not found in absent"), std::string::npos);
   fs::create_directories("empty/mcdll.dll");
   fs::create_directories("good");
   TestModule({{1033, {{kFirst, {Unicode(u"good\r\n")}}}}}).Save("good/mcdll.dll");
-  const std::vector<std::string> folders = {"absent", "empty", "good", "damaged"};
   EXPECT_EQ(LoadCatalog(folders), 0);
   EXPECT_EQ(CatalogText(4, 1), "good");
+  EXPECT_EQ(CatalogProblem(), "");
   ReleaseCatalog();
   EXPECT_EQ(CatalogText(4, 1), kNoCatalog);
   EXPECT_EQ(LoadCatalog(folders), 0);
   fs::remove("empty/mcdll.dll");
   Touch("empty/mcdll.dll");
   EXPECT_EQ(LoadCatalog(folders), -1);
-  // The catalog loaded before is gone too.
-  EXPECT_FALSE(IsCatalogLoaded());
+  EXPECT_NE(CatalogProblem().find("empty/mcdll.dll is refused"), std::string::npos);
+  EXPECT_EQ(logged, "advancedcontrol.catalog: " + CatalogProblem());
+  EXPECT_FALSE(IsCatalogLoaded()) << "the one loaded before is gone too";
   EXPECT_EQ(CatalogText(4, 1), kNoCatalog);
+  qInstallMessageHandler(before);
 }
 
 // Marker files, locale and current directory count at the moment of the call.

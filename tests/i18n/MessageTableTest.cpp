@@ -85,46 +85,73 @@ TEST(MessageTable, KnowsWhichTextsDependOnTheLanguage) {
 
 TEST(MessageTable, RefusesDamagedModules) {
   const TestModule m(SampleTables());
-  ASSERT_TRUE(MessageTable::Parse(m.bytes));
   const std::size_t header = m.kHeader, options = m.kOptional, section = m.section;
   const std::size_t types = m.types, names = m.names, leaf = m.lastLeaf, table = m.LastTable();
-  using Damage = std::pair<std::size_t, std::uint32_t>;
-  // Magics, kind of module; header too small, none; no section, too many; an entry without length,
-  // too long, in an unknown encoding.
-  const Damage words[] = {{0, 0},           {options, 0x0107},    {header + 20, 100},
-                          {header + 20, 0}, {header + 6, 0},      {header + 6, 0xFFFF},
-                          {table + 16, 0},  {table + 16, 0xFFFF}, {table + 18, 4}};
-  // Header outside, second magic; too few directories, no resources; sections outside, too long; no
-  // message table.
-  const Damage headers[] = {
-      {0x3C, 0xFFFFFFF0}, {header, 0x4551},           {options + 108, 2},
-      {options + 128, 0}, {section + 20, 0xFFFFFF00}, {section + 16, 0xFFFFFFFF},
-      {types + 16, 10}};
-  // Directories that are leaves, hold themselves, are outside, have too many entries, or a number
-  // among the names; leaves that are directories or outside, or of no language.
-  const Damage directories[] = {
-      {types + 20, 24},         {types + 20, m.kDirectory}, {names + 20, 24},
-      {names + 20, 0xFFFFFFFF}, {names + 12, 0xFFFFFFFF},   {names + 12, 1},
-      {leaf - 4, m.kDirectory}, {leaf - 4, 0x7FFFFFFF},     {leaf - 8, 0x10411}};
-  // Tables outside, too long, too short; blocks too many, upside down, endless, outside.
-  const Damage tables[] = {{leaf, 0xFFFFFFFF},      {leaf + 4, 0xFFFFFFFF}, {leaf + 4, 3},
-                           {table, 0x15555556},     {table + 4, 9},         {table + 8, 0xFFFFFFFF},
-                           {table + 12, 0xFFFFFFFC}};
-  const auto expectRefused = [&m](std::span<const Damage> damages, bool word) {
-    for (const auto& [at, value] : damages) {
-      TestModule module = m;
-      word ? module.Put16(at, static_cast<std::uint16_t>(value)) : module.Put32(at, value);
-      EXPECT_FALSE(MessageTable::Parse(module.bytes)) << at << ": " << value;
-    }
+  const struct {
+    const char* what;
+    int bytes;
+    std::vector<std::pair<std::size_t, std::uint32_t>> places;
+  } damages[] = {
+      {"first magic, kind of module", 2, {{0, 0}, {options, 0x0107}}},
+      {"second magic", 4, {{header, 0x4551}}},
+      {"header outside", 4, {{0x3C, 0xFFFFFFF0}}},
+      {"header too small or absent", 2, {{header + 20, 100}, {header + 20, 0}}},
+      {"no section, too many", 2, {{header + 6, 0}, {header + 6, 0xFFFF}}},
+      {"too few directories, no resources", 4, {{options + 108, 2}, {options + 128, 0}}},
+      {"sections outside, too long", 4, {{section + 20, 0xFFFFFF00}, {section + 16, 0xFFFFFFFF}}},
+      {"no message table", 4, {{types + 16, 10}}},
+      {"directories that are leaves", 4, {{types + 20, 24}, {names + 20, 24}}},
+      {"directories in themselves, outside", 4, {{types + 20, m.kDirectory}, {names + 20, ~0U}}},
+      {"too many entries, a number among names", 4, {{names + 12, ~0U}, {names + 12, 1}}},
+      {"leaves that are directories, outside",
+       4,
+       {{leaf - 4, m.kDirectory}, {leaf - 4, 0x7FFFFFFF}}},
+      {"tables outside, too long, too short", 4, {{leaf, ~0U}, {leaf + 4, ~0U}, {leaf + 4, 3}}},
+      {"blocks too many, upside down", 4, {{table, 0x15555556}, {table + 4, 9}}},
+      {"blocks endless, outside", 4, {{table + 8, ~0U}, {table + 12, 0xFFFFFFFC}}},
+      {"entries without length, too long", 2, {{table + 16, 0}, {table + 16, 0xFFFF}}},
+      {"an unknown encoding", 2, {{table + 18, 4}}},
   };
-  expectRefused(words, true);
-  expectRefused(headers, false);
-  expectRefused(directories, false);
-  expectRefused(tables, false);
+  for (const auto& damage : damages) {
+    for (const auto& [at, value] : damage.places) {
+      TestModule module = m;
+      module.Put(at, value, damage.bytes);
+      EXPECT_FALSE(MessageTable::Parse(module.bytes)) << damage.what << ": " << value;
+    }
+  }
   EXPECT_FALSE(MessageTable::Parse({}));
-  // Two texts for one message.
-  EXPECT_FALSE(MessageTable::Parse(
-      TestModule({{1033, {{1, {Ansi("a"), Ansi("b")}}, {2, {Ansi("c")}}}}}).bytes));
+  const TestModule twoTexts({{1033, {{1, {Ansi("a"), Ansi("b")}}, {2, {Ansi("c")}}}}});
+  EXPECT_FALSE(MessageTable::Parse(twoTexts.bytes)) << "for one message";
+}
+
+// A flipped bit is refused, or changes nothing but the text in which it lies.
+TEST(MessageTable, NoFlippedBitShowsATextUnderAnotherNumber) {
+  TestBlock low{10, {}}, high{20, {}};
+  for (const char* text : {"one....\r\n..", "twotwo\r\n"}) low.entries.push_back(Ansi(text));
+  for (const char* text : {"three.\r\n", "four..\r\n"}) high.entries.push_back(Ansi(text));
+  TestModule module({{1033, {low, high}}});
+  const auto intact = MessageTable::Parse(module.bytes);
+  ASSERT_TRUE(intact);
+  ASSERT_EQ(intact->Count(), 4U);
+  int accepted = 0;
+  for (std::size_t at = module.LastTable(); at < module.bytes.size(); ++at) {
+    for (int bit = 0; bit < 8; ++bit) {
+      TestModule flipped = module;
+      flipped.bytes[at] ^= std::byte(1 << bit);
+      const auto table = MessageTable::Parse(flipped.bytes);
+      if (!table) continue;
+      ++accepted;
+      EXPECT_EQ(table->Count(), 4U) << at << '.' << bit;
+      int changed = 0;
+      for (const std::uint32_t id : {10U, 11U, 20U, 21U}) {
+        const auto text = table->Find(1033, id);
+        ASSERT_TRUE(text) << id << " at " << at << '.' << bit;
+        changed += text->text != intact->Find(1033, id)->text;
+      }
+      EXPECT_LE(changed, 1) << at << '.' << bit;
+    }
+  }
+  EXPECT_GT(accepted, 0) << "a changed letter is a text all the same";
 }
 
 // A few bytes of the file, read as the texts of very many messages.

@@ -81,7 +81,12 @@ class TestModule {
     Put32(section + 20, static_cast<std::uint32_t>(types));
   }
 
-  void Put16(std::size_t at, std::uint16_t value) { Put(at, value, 2); }
+  /// Writes as many bytes of the value.
+  void Put(std::size_t at, std::uint32_t value, int size) {
+    bytes.resize(std::max(bytes.size(), at + static_cast<std::size_t>(size)));
+    for (int i = 0; i < size; ++i) bytes[at++] = std::byte(value >> (8 * i) & 0xFF);
+  }
+  void Put16(std::size_t at, std::uint32_t value) { Put(at, value, 2); }
   void Put32(std::size_t at, std::uint32_t value) { Put(at, value, 4); }
 
   void Save(const std::string& path) const {
@@ -106,11 +111,6 @@ class TestModule {
   std::size_t LastTable() const { return lastLeaf + 16; }
 
  private:
-  void Put(std::size_t at, std::uint32_t value, std::size_t size) {
-    bytes.resize(std::max(bytes.size(), at + size));
-    for (std::size_t i = 0; i < size; ++i) bytes[at + i] = std::byte(value >> (8 * i) & 0xFF);
-  }
-
   std::uint32_t Relative(std::size_t at) const { return static_cast<std::uint32_t>(at - types); }
 
   // A directory of numbered entries whose targets are filled in later; returns its end.
@@ -137,7 +137,7 @@ class TestModule {
       block += 12;
       for (const TestEntry& entry : part.entries) {
         const std::size_t length = (4 + entry.bytes.size() + 3) / 4 * 4;
-        Put16(entryAt, static_cast<std::uint16_t>(length));
+        Put16(entryAt, static_cast<std::uint32_t>(length));
         Put16(entryAt + 2, entry.flags);
         bytes.resize(entryAt + length);
         std::memcpy(&bytes[entryAt + 4], entry.bytes.data(), entry.bytes.size());

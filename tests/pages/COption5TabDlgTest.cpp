@@ -42,33 +42,10 @@ TEST(Option5, WithoutAListOfTheModelTheTemplatesFunctionsHold) {
     EXPECT_EQ(open.Option().GetMyBtnVal(16), -1);
     EXPECT_EQ(open.Option().GetMyBtnIdx(-1), -1);
   }
-}
-
-TEST(Option5, AnUnknownFunctionShowsTheLastEntryOnlyOnSomeModels) {
-  for (int code = 30; code <= 54; ++code) {
-    OptionPage open(code);
-    if (open.Driver().Entries(20371).size() != std::ssize(kFunctions)) continue;
-    open.Projector().Answer("GetMyButton1", 25);
-    open.Projector().Answer("GetMyButton2", 99);
-    open.Page().InitDisp();
-    EXPECT_EQ(open.Driver().Selected(20371), 2);
-    EXPECT_EQ(open.Option().GetMyBtnIdx(25), 2);
-    EXPECT_EQ(open.Option().GetMyBtnIdx(24), -1);
-    EXPECT_EQ(open.Option().GetMyBtnVal(12), 255);
-    const bool last = code == 44 || (code >= 49 && code != 52);
-    EXPECT_EQ(open.Driver().Selected(20372), last ? 12 : -1) << code;
-  }
-}
-
-TEST(Option5, TheOtherFunctionCannotBeAssigned) {
-  OptionPage open(50);
-  for (const int button : {1, 2}) {
-    const std::string read = "GetMyButton" + std::to_string(button);
-    open.Projector().Answer(read, 26);
-    open.Driver().Choose(20370 + button, 12);
-    EXPECT_EQ(open.Projector().Take(), Strings{read});
-    EXPECT_EQ(open.Driver().Selected(20370 + button), 3);
-  }
+  OptionPage listed(44);
+  EXPECT_EQ(listed.Option().GetMyBtnIdx(25), 2);
+  EXPECT_EQ(listed.Option().GetMyBtnIdx(24), -1);
+  EXPECT_EQ(listed.Option().GetMyBtnVal(12), 255);
 }
 
 // The low half of a source's word is its code. Any result but 0 of the read is a success.

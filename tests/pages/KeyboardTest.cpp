@@ -26,13 +26,12 @@ class Keyboard : public testing::TestWithParam<Model> {
  protected:
   Keyboard() {
     const CModelInfo2 model = FullModel(GetParam().dialogType, GetParam().modelCode);
-    dialog_.CopyData(&model, 0);
-    dialog_.Projector().SetChannel(std::make_shared<LoggingChannel>(
-        std::make_shared<SimulatedProjector>(DescribeModel(MakeModelData(model))),
-        [this](const PjtCommand& command, auto&&...) { done_ += !IsRead(command.operation); }));
-    EXPECT_TRUE(dialog_.Create());
-    dialog_.show();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog_));
+    const auto count = [this](const PjtCommand& sent, auto&&...) {
+      done_ += !IsRead(sent.operation);
+    };
+    Open(dialog_, model,
+         std::make_shared<LoggingChannel>(
+             std::make_shared<SimulatedProjector>(DescribeModel(MakeModelData(model))), count));
     // Pop-ups and boxes count as something done.
     QObject::connect(&closer_, &QTimer::timeout, [this] {
       if (auto* modal = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {

@@ -1,4 +1,4 @@
-// The pages that turn the projector on and off.
+// The pages that tell the projector's state, and turn it on and off.
 
 #include <gtest/gtest.h>
 
@@ -8,11 +8,22 @@ namespace {
 
 using Strings = std::vector<std::string>;
 
-TEST(OtherPages, AListIsOutOfUseWhileWhatASilentSetterDidIsUnknown) {
-  OpenDialog open(MakeModel(1, 1), 8);
-  open.Projector().Refuse("Get 0x2002");
-  open.Driver().Choose(20105, 1);
-  EXPECT_FALSE(open.Driver().IsEnabled(20105));
+TEST(StatusPage, NamesTheInputSourceOfAnySlotAndCountsHoursUnsigned) {
+  CModelInfo2 model = MakeModel(5, 30);
+  AddSource(model.MySourceList, 1, "Video");
+  model.MySourceList.firstValues[15] = 77;
+  model.MySourceList.names[15] = MakeNameSlot("Beyond the count");
+  OpenDialog open(model);
+  for (const auto& [key, value, control, text] :
+       {std::tuple{"Get 0x2000", 1, 20009, QStringLiteral("Video")},
+        {"Get 0x2000", 77, 20009, QStringLiteral("Beyond the count")},
+        {"Get 0x2000", 5, 20009, QString()},
+        {"Get 0x1090", 40000, 20014, CatalogString(kListCategory, 320, 40000)},
+        {"Get 0x10A0", 12, 20015, CatalogString(kListCategory, 320, 12)}}) {
+    open.Projector().Answer(key, value);
+    open.Page().InitDisp();
+    EXPECT_EQ(open.Driver().Text(control), text);
+  }
 }
 
 constexpr int kOn = 20100, kOff = 20101, kState = 20102;
@@ -27,21 +38,6 @@ void ExpectBox(MessageBoxes& boxes, int text) {
   const auto seen = boxes.Take();
   ASSERT_FALSE(seen.empty());
   EXPECT_EQ(seen.back().text, CatalogString(kErrorCategory, text));
-}
-
-TEST(OtherPages, TurningOnReadsThePageAgainAndTellsARefusal) {
-  OpenDialog open(MakeModel(1, 1), 8);
-  ExpectPower(open, "Off", true);
-  open.Projector().Answer("Get 0x6000", 1);
-  MessageBoxes boxes;
-  open.Driver().Click(kOn);
-  EXPECT_EQ(open.Projector().Take(),
-            (Strings{"SetPowerOn", "Get 0x6000", "Get 0x3020", "Get 0x2002", "Get 0x3002"}));
-  ExpectPower(open, "On", true);
-  EXPECT_TRUE(boxes.Take().empty());
-  open.Projector().Refuse("SetPowerOn");
-  open.Driver().Click(kOn);
-  ExpectBox(boxes, 4201);
 }
 
 TEST(OtherPages, TurningOffAsksAndAProjectorThatStaysOnOrIsUnknownHasRefused) {

@@ -1,6 +1,7 @@
-// What every page of every model shows, reads and sends, held against the listing beside this file.
-// The real dialog is used, on a simulated projector. After a wanted change write the listing anew
-// with UPDATE_LISTING=1, and read what changed in it.
+// What every page of every model shows, reads and sends, and what follows when the projector does
+// not do what it is asked for, held against the listing beside this file. The real dialog is used,
+// on a simulated projector. After a wanted change write the listing anew with UPDATE_LISTING=1, and
+// read what changed in it.
 
 #include <cctype>
 #include <fstream>
@@ -8,117 +9,15 @@
 #include <sstream>
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QTabBar>
-#include <QTimer>
 #include <gtest/gtest.h>
 
-#include "device/LoggingChannel.h"
-#include "device/ModelDataIntake.h"
-#include "simulator/SimulatedProjector.h"
+#include "tests/pages/PageDescriber.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/NumberedCatalog.h"
 #include "toolkit/CSliderCtrl.h"
 
 namespace {
-
-class Describer {
- public:
-  explicit Describer(const CModelInfo2& info) : info_(info) {
-    const auto simulated = std::make_shared<SimulatedProjector>(DescribeModel(MakeModelData(info)));
-    channel_ = std::make_shared<LoggingChannel>(
-        simulated, [this](const PjtCommand& command, const PjtReply&, auto) {
-          (IsRead(command.operation) ? reads_ : sent_) += ' ' + FormatCommand(command);
-        });
-    // Questions are answered with No; what else comes up is closed.
-    QObject::connect(&closer_, &QTimer::timeout, [this] {
-      QWidget* modal = QApplication::activeModalWidget();
-      if (modal == nullptr) return;
-      sent_ += std::string(" (") + modal->metaObject()->className() + ")";
-      modal->close();
-    });
-    closer_.start(0);
-  }
-
-  const std::shared_ptr<LoggingChannel>& Channel() const { return channel_; }
-
-  /// What is read, then a text for each row of the template; empty for a row that is not there.
-  std::vector<std::string> Describe(CDialog& dialog, const std::function<void()>& refresh) {
-    reads_.clear();
-    const std::string sent = Sent(refresh);
-    std::vector<std::string> parts{"  reads:" + reads_ + '\n' + sent};
-    for (const RowTemplate& row : dialog.Template()->rows) {
-      std::string& part = parts.emplace_back();
-      for (const ControlTemplate& control : row.controls) {
-        if (control.kind == ControlKind::None) break;
-        if (dialog.GetDlgItem(control.id)->isVisible()) part += DescribeControl(dialog, control);
-      }
-    }
-    return parts;
-  }
-
- private:
-  std::string DescribeControl(CDialog& dialog, const ControlTemplate& control) {
-    QWidget& widget = *dialog.GetDlgItem(control.id);
-    const std::string id = std::to_string(control.id);
-    const std::string caption = QString(control.caption).simplified().toStdString();
-    switch (control.kind) {
-      case ControlKind::Label:
-        return "  " + caption + '\n';
-      case ControlKind::Combo:
-        return "    list " + id + '\n' + DescribeList(static_cast<CComboBox&>(widget));
-      case ControlKind::Slider:
-        return "    slider " + id + DescribeSlider(static_cast<CSliderCtrl&>(widget)) + '\n';
-      case ControlKind::Field:
-        return "    field " + id + '\n';
-      case ControlKind::Minus:
-      case ControlKind::Plus:
-      case ControlKind::Arrow:
-      case ControlKind::Button:
-      case ControlKind::Check:
-        return "    " + caption + ' ' + id + ':' +
-               Sent([&] { static_cast<QAbstractButton&>(widget).click(); }) +
-               (widget.isEnabled() ? "\n" : " off\n");
-      default:
-        return {};
-    }
-  }
-
-  std::string DescribeList(CComboBox& list) {
-    std::string text;
-    for (int i = 0; i < list.count(); ++i) {
-      text += "      " + list.itemText(i).toStdString() + ':' + Sent([&] {
-                list.setCurrentIndex(i);
-                Q_EMIT list.activated(i);
-              }) +
-              '\n';
-    }
-    return text;
-  }
-
-  std::string DescribeSlider(CSliderCtrl& slider) {
-    std::string text = " ticks " + std::to_string(slider.tickInterval());
-    for (const int position : {slider.minimum(), slider.maximum()}) {
-      text += ", " + std::to_string(position) + ':' + Sent([&] {
-                slider.setValue(position);
-                Q_EMIT slider.EndScroll();
-              });
-    }
-    return text;
-  }
-
-  std::string Sent(const std::function<void()>& act) {
-    sent_.clear();
-    act();
-    return sent_;
-  }
-
-  CModelInfo2 info_;
-  std::shared_ptr<LoggingChannel> channel_;
-  QTimer closer_;
-  std::string reads_;
-  std::string sent_;
-};
 
 /// Per page and part of it, the forms that it has and the models that have it so.
 using Forms = std::vector<std::pair<std::string, std::string>>;
@@ -135,33 +34,97 @@ void Add(Listing& listing, const std::string& page, const std::vector<std::strin
   }
 }
 
-void AddPages(Listing& listing, const CModelInfo2& info) {
-  const int code = info.ModelCode;
-  const std::string type = "type " + std::to_string(info.DialogType);
-  Describer describer(info);
+// Range texts that are wide, each of another width.
+constexpr int kWide = 4000;
+
+CModelInfo2 WithWideRanges(CModelInfo2 info) {
+  for (std::size_t i = 0; i < RangeIndex::Count; ++i) {
+    info.RangeText(i) = "-2000," + std::to_string(kWide - 2000 + static_cast<int>(i));
+  }
+  return info;
+}
+
+// Where the sliders of a page have their ranges from, and where their buttons stop.
+class Ranges {
+ public:
+  Ranges(CDialog& page, MoodyProjector& projector, const std::function<void()>& refresh)
+      : page_(page), projector_(projector), refresh_(refresh) {}
+
+  std::string Describe() {
+    std::string text;
+    projector_.mood = MoodyProjector::Mood::Ignores;
+    for (const RowTemplate& row : page_.Template()->rows) {
+      for (std::size_t i = 0; i < row.controls.size(); ++i) {
+        if (row.controls[i].kind != ControlKind::Slider) continue;
+        const auto& slider = page_.Item<CSliderCtrl>(row.controls[i].id);
+        if (!slider.isVisible()) continue;
+        const int minimum = slider.minimum(), range = slider.maximum() - minimum - kWide;
+        text += "  slider " + std::to_string(row.controls[i].id) + ": ";
+        text += range < 0 ? "its own" : std::to_string(range);
+        text += ", from " + std::to_string(minimum) + ", ticks ";
+        text += std::to_string(slider.tickInterval()) + "; steps down from ";
+        text += std::to_string(LastStep(row.controls[i - 1].id, 1000)) + ", up from ";
+        text += std::to_string(LastStep(row.controls[i + 1].id, -1000)) + '\n';
+      }
+    }
+    return text;
+  }
+
+ private:
+  // The last device value from which a button still does something.
+  int LastStep(int button, int first) {
+    int stepping = first, stopped = -first;
+    while (std::abs(stepping - stopped) > 1) {
+      projector_.value = static_cast<std::int16_t>((stepping + stopped) / 2);
+      refresh_();
+      projector_.log.clear();
+      page_.Item<QAbstractButton>(button).click();
+      const bool sends = projector_.log.find(" sends") != std::string::npos;
+      (sends ? stepping : stopped) = *projector_.value;
+    }
+    return stepping;
+  }
+
+  CDialog& page_;
+  MoodyProjector& projector_;
+  const std::function<void()>& refresh_;
+};
+
+void AddPages(Listing& listing, const CModelInfo2& info, bool ranges) {
+  const std::string type = "type " + std::to_string(info.DialogType) + ", ";
   CAdvanceDlg dialog;
   dialog.CopyData(&info, 0);
-  dialog.Projector().SetChannel(describer.Channel());
+  const auto projector = std::make_shared<MoodyProjector>(dialog);
+  dialog.Projector().SetChannel(projector);
   ASSERT_TRUE(dialog.Create());
   dialog.show();
+  const auto add = [&](const std::string& name, CDialog& page,
+                       const std::function<void()>& refresh) {
+    if (ranges) {
+      Add(listing, type + name + ", ranges", {Ranges(page, *projector, refresh).Describe()},
+          info.ModelCode);
+    } else {
+      Add(listing, type + name, DescribePage(page, *projector, refresh), info.ModelCode);
+    }
+  };
   auto* tabs = dialog.findChild<QTabBar*>();
   std::string captions;
   for (int tab = 0; tab < tabs->count(); ++tab) {
     tabs->setCurrentIndex(tab);
     CTabPage& page = *dialog.ShownPage();
-    const std::string number = std::to_string(page.TemplateNumber());
-    captions += "  " + tabs->tabText(tab).toStdString().substr(1) + ": page " + number + '\n';
-    Add(listing, type + ", page " + number, describer.Describe(page, [&] { page.InitDisp(); }),
-        code);
+    const std::string name = "page " + std::to_string(page.TemplateNumber());
+    captions += "  " + tabs->tabText(tab).toStdString().substr(1) + ": " + name + '\n';
+    add(name, page, [&page] { page.InitDisp(); });
   }
-  Add(listing, type + ", tabs", {captions}, code);
+  if (!ranges) Add(listing, type + "tabs", {captions}, info.ModelCode);
   if (info.DialogType != 5) return;
   for (const auto& [kind, name] : {std::pair{PopUp::Gamma, "gamma"},
                                    {PopUp::ColorTemp, "color temperature"},
                                    {PopUp::Service, "service"}}) {
-    if (kind != PopUp::Service && code != 30) continue;  // the same for every model
+    if (kind != PopUp::Service && info.ModelCode != 30) continue;  // the same for every model
     const auto popUp = MakePopUp(kind, dialog);
-    Add(listing, type + ", " + name, describer.Describe(*popUp, [&] { Open(*popUp); }), code);
+    Open(*popUp);
+    add(name, *popUp, [&popUp] { Open(*popUp); });
   }
 }
 
@@ -184,7 +147,10 @@ TEST(PagesByModel, AreAsListed) {
   Listing listing;
   {
     const NumberedCatalog numbers("#");
-    for (const CModelInfo2& model : EveryModel()) AddPages(listing, model);
+    for (const CModelInfo2& model : EveryModel()) {
+      AddPages(listing, model, false);
+      AddPages(listing, WithWideRanges(model), true);
+    }
   }
   std::string text;
   for (const auto& [page, parts] : listing) {

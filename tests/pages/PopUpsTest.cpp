@@ -1,17 +1,16 @@
-// What the pop-ups do beside their rows.
+// What the pop-ups do beside what PagesByModel.txt tells.
 
 #include <tuple>
 
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include "settings/PageTables.h"
 #include "tests/support/DialogDriver.h"
 
 namespace {
 
 using Strings = std::vector<std::string>;
-
-std::string Hex(int code) { return "0x" + QString::number(code, 16).toUpper().toStdString(); }
 
 // Over a dialog whose sliders go further than the buttons, with all of them in the middle.
 struct OpenPopUp : OpenDialog {
@@ -26,90 +25,49 @@ struct OpenPopUp : OpenDialog {
     return model;
   }
   static void Centred(RecordingChannel& projector) {
-    for (int code = 0x3090; code <= 0x30B7; ++code) projector.Answer("Get " + Hex(code), 128);
+    for (int code = 0x3090; code <= 0x30B7; ++code) {
+      projector.Answer("Get 0x" + QString::number(code, 16).toUpper().toStdString(), 128);
+    }
   }
 
   Strings Click(int id) {
-    projector.Take();
+    Projector().Take();
     driver.Click(id);
-    return projector.Take();
+    return Projector().Take();
   }
 
-  // Shown is 5, and stays what a step goes on from. A value below the lowest is not shown.
-  void ExpectReset(int button, int field, const std::string& reset, const std::string& get,
-                   int lowest) {
-    for (const auto& [value, shown] : {std::pair{lowest - 1, 5}, {lowest, lowest}}) {
-      projector.Answer(get, value + 128);
-      EXPECT_EQ(Click(button), (Strings{reset, get}));
-      EXPECT_EQ(driver.Text(field), QString::number(shown));
+  // Shown is 5, and stays what a step goes on from. A value below the page's bound is not shown.
+  void ExpectReset(const ValueRow& row, int bound) {
+    driver.Drag(row.ids.slider, 5);
+    const std::string read = Click(row.reset.button).back();
+    for (const int value : {bound, bound - 1}) {
+      Projector().Answer(read, value + 128);
+      Click(row.reset.button);
+      EXPECT_EQ(driver.Text(row.ids.field), QString::number(bound)) << row.key;
     }
-    projector.Refuse(reset);
-    EXPECT_EQ(Click(button), Strings{reset});
-  }
-
-  void ExpectButtonsStopAt(int end, int minus, int slider, int plus) {
-    for (const auto& [button, position, steps] : {std::tuple{plus, end, false},
-                                                  {plus, end - 1, true},
-                                                  {minus, -end, false},
-                                                  {minus, 1 - end, true}}) {
-      driver.Drag(slider, position);
-      EXPECT_EQ(!Click(button).empty(), steps) << button << " at " << position;
-    }
-    EXPECT_TRUE(boxes.Take().empty());
+    EXPECT_FALSE(Click(row.ids.minus).empty());
   }
 
   int Top(int id) const { return popUp->GetDlgItem(id)->y(); }
-  int Width(int id) const { return popUp->GetDlgItem(id)->width(); }
 
-  RecordingChannel& projector = Projector();
   std::unique_ptr<RowDialog> popUp;
   DialogDriver driver{*popUp};
-  MessageBoxes boxes;
 };
 
-TEST(GammaPopUp, EveryPointHasItsResetAndButtonsThatStop) {
-  OpenPopUp open(PopUp::Gamma);
-  for (int point = 0; point < 8; ++point) {
-    SCOPED_TRACE(point);
-    const int slider = point == 0 ? 20181 : 21023 + point;
-    const int minus = point == 7 ? 20182 : 20160 + 3 * point, plus = minus + 1, field = minus + 2;
-    const std::string number = ' ' + std::to_string(point + 1);
-    open.driver.Drag(slider, 5);
-    open.ExpectReset(20336 + point, field, "ExecUserGammaPReset" + number,
-                     "GetUserGammaPoint" + number, -16);
-    open.ExpectButtonsStopAt(16, minus, slider, plus);
-  }
-}
-
-// Steps go by channel and shown value, and a refused one is silent.
-TEST(ColorTempPopUp, EveryRowHasItsStepsAndItsReset) {
-  OpenPopUp open(PopUp::ColorTemp);
-  for (int row = 0; row < 6; ++row) {
-    const std::string name = row < 3 ? "Gain" : "Offset", channel = name + "RGB"[row % 3];
-    const std::string up = "IncrementColorTemp" + name, down = "DecrementColorTemp" + name;
-    const std::string at = ' ' + std::to_string(row % 3) + ' ';
-    SCOPED_TRACE(channel);
-    const int slider = row == 0 ? 20181 : 21023 + row, field = 20194 + row;
-    const int minus = 20182 + row, plus = 20188 + row;
-    open.driver.Drag(slider, 5);
-    open.ExpectReset(20334 + row, field, "ExecColorTemp" + channel + "Reset",
-                     "GetColorTemp" + channel, -32);
-    open.projector.Answer(up, 6);
-    EXPECT_EQ(open.Click(plus), Strings{up + at + "5"});
-    EXPECT_EQ(open.driver.Text(field), "6");
-    EXPECT_EQ(open.driver.SliderAt(slider), 6);
-    open.projector.Refuse(down);
-    EXPECT_EQ(open.Click(minus), Strings{down + at + "6"});
-    EXPECT_EQ(open.driver.Text(field), "6");
-    open.projector.Accept(down);
-    open.ExpectButtonsStopAt(32, minus, slider, plus);
+TEST(PopUps, ResetsStopAtThePagesBoundAndAreNotRemembered) {
+  for (const auto& [kind, table, bound] :
+       {std::tuple{PopUp::Gamma, &kGammaRows, -16}, {PopUp::ColorTemp, &kColorTempRows, -32}}) {
+    OpenPopUp open(kind);
+    for (const PageRow& row : table->rows) {
+      if (const auto* value = std::get_if<ValueRow>(&row)) open.ExpectReset(*value, bound);
+    }
   }
 }
 
 TEST(GammaPopUp, WithoutResetButtonsIsNarrowerAndCloseStaysInside) {
   const OpenPopUp full(PopUp::Gamma), plain(PopUp::Gamma, 30, true);
   EXPECT_FALSE(plain.popUp->GetDlgItem(20336)->isVisible());
-  EXPECT_GE(full.popUp->width() - plain.popUp->width(), full.Width(20336));
+  EXPECT_GE(full.popUp->width() - plain.popUp->width(), full.popUp->GetDlgItem(20336)->width());
   const auto margin = [](const OpenPopUp& open) {
     return open.popUp->width() - open.popUp->GetDlgItem(1)->geometry().right();
   };

@@ -27,7 +27,7 @@ const SettingTexts& Texts() {
 using Shown = std::map<int, std::string>;
 
 /// The settings that a dialog shows, by their controls.
-Shown ShownBy(const CDialog& dialog, const PageTable& table) {
+Shown ShownBy(CDialog& dialog, const PageTable& table) {
   std::set<int> helpers;  // lists of resets and actions, which are no settings
   for (const PageRow& row : table.rows) {
     if (const auto* reset = std::get_if<ResetRow>(&row)) helpers.insert(reset->list);
@@ -39,15 +39,14 @@ Shown ShownBy(const CDialog& dialog, const PageTable& table) {
       if (control.kind == ControlKind::None || helpers.contains(control.id)) continue;
       QWidget* const widget = dialog.GetDlgItem(control.id);
       if (widget == nullptr || widget->isHidden()) continue;
-      if (const auto* list = qobject_cast<CComboBox*>(widget)) {
-        std::vector<std::string> texts;
-        for (int i = 0; i < list->count(); ++i) texts.push_back(list->itemText(i).toStdString());
-        shown[control.id] = testing::PrintToString(texts);
+      if (qobject_cast<CComboBox*>(widget) != nullptr) {
+        const auto entries = DialogDriver(dialog).Entries(control.id);
+        shown[control.id] = entries.join(", ").toStdString();
       } else if (const auto* slider = qobject_cast<CSliderCtrl*>(widget)) {
         shown[control.id] =
             std::to_string(slider->minimum()) + " to " + std::to_string(slider->maximum());
       } else if (qobject_cast<QCheckBox*>(widget) != nullptr) {
-        shown[control.id] = testing::PrintToString(std::vector<std::string>{"Off", "On"});
+        shown[control.id] = "Off, On";
       }
     }
   }
@@ -65,9 +64,9 @@ Shown SaidFor(const ModelSettings& settings, const CDialog& dialog, const PageTa
     EXPECT_FALSE(dialog.GetDlgItem(control)->isHidden()) << setting.key;
     if (std::holds_alternative<ListRow>(*setting.row) ||
         std::holds_alternative<CheckRow>(*setting.row)) {
-      std::vector<std::string> texts;
-      for (const ListEntry& entry : setting.entries) texts.push_back(Texts().Entry(entry));
-      said[control] = testing::PrintToString(texts);
+      QStringList texts;
+      for (const ListEntry& entry : setting.entries) texts << Texts().Entry(entry).c_str();
+      said[control] = texts.join(", ").toStdString();
     } else if (setting.range) {
       said[control] = Texts().Values(setting);
     }
@@ -75,7 +74,7 @@ Shown SaidFor(const ModelSettings& settings, const CDialog& dialog, const PageTa
   return said;
 }
 
-void ExpectSame(const ModelSettings& settings, const CDialog& dialog, const PageTable& table) {
+void ExpectSame(const ModelSettings& settings, CDialog& dialog, const PageTable& table) {
   EXPECT_EQ(ShownBy(dialog, table), SaidFor(settings, dialog, table));
 }
 

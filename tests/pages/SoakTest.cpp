@@ -71,10 +71,7 @@ class RandomUser {
       QTest::mouseMove(&widget, to);
       QTest::mouseRelease(&widget, Qt::LeftButton, {}, to);
     } else if (Pick(4) == 0) {
-      const QPointF at = widget.rect().center();
-      QWheelEvent event(at, widget.mapToGlobal(at), {}, {0, Pick(2) == 0 ? 120 : -120},
-                        Qt::NoButton, {}, Qt::NoScrollPhase, false);
-      QApplication::sendEvent(&widget, &event);
+      Wheel(widget, Pick(2) == 0 ? 1 : -1);
     } else {
       QTest::keyClick(&widget, keys[Pick(std::size(keys))]);
       if (QWidget* popup = QApplication::activePopupWidget()) {
@@ -116,14 +113,10 @@ TEST_P(SoakTest, EveryControlEndsUpShowingTheProjectorsValue) {
   const auto faults = std::make_shared<FaultChannel>(projector);
   int changes = 0;
   CAdvanceDlg dialog;
-  dialog.CopyData(&info, 0);
-  dialog.Projector().SetChannel(std::make_shared<LoggingChannel>(
-      faults, [&changes](const PjtCommand& command, const PjtReply&, auto) {
-        changes += !IsRead(command.operation);
-      }));
-  ASSERT_TRUE(dialog.Create());
-  dialog.show();
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&dialog));
+  Open(dialog, info,
+       std::make_shared<LoggingChannel>(faults, [&changes](const PjtCommand& sent, auto&&...) {
+         changes += !IsRead(sent.operation);
+       }));
   {
     RandomUser user(dialog, *faults, seed);
     const int actions = Given("SOAK_ACTIONS", kActionsPerModel);

@@ -25,7 +25,7 @@ std::vector<CModelInfo2> TypicalModels() {
 
 using PageCheck = std::function<void(OpenDialog&, CTabPage&)>;
 
-void ForEachPage(const std::vector<CModelInfo2>& models, const PageCheck& check) {
+void ForEachPage(const PageCheck& check, const std::vector<CModelInfo2>& models = EveryModel()) {
   for (const CModelInfo2& model : models) {
     OpenDialog open(model);
     const int tabs = open.Dialog().findChild<QTabBar*>()->count();
@@ -36,8 +36,6 @@ void ForEachPage(const std::vector<CModelInfo2>& models, const PageCheck& check)
     }
   }
 }
-
-void ForEachPage(const PageCheck& check) { ForEachPage(EveryModel(), check); }
 
 void ForEachPopup(const std::function<void(CDialog&)>& check) {
   OpenDialog host(MakeModel(5, 44));
@@ -112,13 +110,14 @@ TEST(Sweep, NoTabOfAnyShippedProfileIsBlank) {
   const ProfileFileContents profiles = ReadProfileFile(TEST_CATALOG_DIR "/projectors.json");
   for (const ProjectorProfile& profile : profiles.projectors) models.push_back(profile.Model);
   ASSERT_FALSE(models.empty()) << profiles.error.toStdString();
-  ForEachPage(models, [](OpenDialog&, CTabPage& page) {
+  const auto expectFilled = [](OpenDialog&, CTabPage& page) {
     EXPECT_FALSE(page.Template()->rows.empty()) << "a page that no model has a row of";
     const auto* notice = qobject_cast<QLabel*>(page.GetDlgItem(CDialog::kNoticeId));
     const bool operable = std::ranges::any_of(
         page.Template()->rows, [&page](const RowTemplate& row) { return IsOperable(page, row); });
     EXPECT_NE(operable, notice != nullptr && notice->isVisible() && !notice->text().isEmpty());
-  });
+  };
+  ForEachPage(expectFilled, models);
 }
 
 bool IsSmall(ControlKind kind) {
@@ -127,10 +126,6 @@ bool IsSmall(ControlKind kind) {
 
 QSize TextSize(const QWidget& widget, const QString& text) {
   return {widget.fontMetrics().horizontalAdvance(text) + 8, widget.fontMetrics().height()};
-}
-
-void ExpectLeftOf(const QWidget& left, const QWidget& right) {
-  EXPECT_LT(left.geometry().right(), right.geometry().left()) << "the arrows have changed places";
 }
 
 // A visible control lies inside its page, has the room its text needs, and covers no other.
@@ -151,8 +146,10 @@ void ExpectNothingClipped(const CDialog& page) {
       for (const QWidget* other : visible) {
         EXPECT_FALSE(other->geometry().intersects(widget->geometry())) << control.id;
       }
+      if (std::string_view(control.caption) == "→") {
+        EXPECT_LT(visible.back()->x(), widget->x()) << "the arrows have changed places";
+      }
       visible.push_back(widget);
-      if (std::string_view(control.caption) == "→") ExpectLeftOf(*visible.end()[-2], *widget);
     }
   }
 }
@@ -218,10 +215,12 @@ TEST(Sweep, NothingIsClippedOrOutOfReachInEitherLanguageAtAnyFontSize) {
       QApplication::setFont(font);
       QApplication::setLayoutDirection(scale < 0 ? Qt::RightToLeft : Qt::LeftToRight);
       SCOPED_TRACE(std::string(language) + " at " + std::to_string(scale));
-      ForEachPage(models, [](OpenDialog& open, CTabPage& page) {
-        ExpectNothingClipped(page);
-        ExpectInReach(open.Dialog());
-      });
+      ForEachPage(
+          [](OpenDialog& open, CTabPage& page) {
+            ExpectNothingClipped(page);
+            ExpectInReach(open.Dialog());
+          },
+          models);
       ForEachPopup([](CDialog& popup) {
         ExpectNothingClipped(popup);
         ExpectInReach(popup);

@@ -58,8 +58,7 @@ void DialogDriver::Press(int id, Qt::Key key) const {
   QTest::keyClick(&control, key);
 }
 
-void DialogDriver::Wheel(int id, int notches) const {
-  auto& control = Item<QWidget>(id);
+void Wheel(QWidget& control, int notches) {
   const QPointF at = control.rect().center();
   QWheelEvent event(at, control.mapToGlobal(at), {}, {0, 120 * notches}, Qt::NoButton, {},
                     Qt::NoScrollPhase, false);
@@ -87,15 +86,20 @@ int DialogDriver::Selected(int id) const { return Item<QComboBox>(id).currentInd
 
 int DialogDriver::SliderAt(int id) const { return Item<QSlider>(id).value(); }
 
+void Open(CAdvanceDlg& dialog, const CModelInfo2& model,
+          std::shared_ptr<ProjectorChannel> projector) {
+  dialog.CopyData(&model, 0);
+  dialog.Projector().SetChannel(std::move(projector));
+  EXPECT_TRUE(dialog.Create());
+  dialog.show();
+  dialog.activateWindow();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog)) << "the dialog did not come up";
+}
+
 OpenDialog::OpenDialog(const CModelInfo2& model, int tab,
                        std::function<void(RecordingChannel&)> script) {
   if (script) script(*projector_);
-  dialog_.CopyData(&model, 0);
-  dialog_.Projector().SetChannel(projector_);
-  EXPECT_TRUE(dialog_.Create());
-  dialog_.show();
-  dialog_.activateWindow();
-  if (!QTest::qWaitForWindowActive(&dialog_)) ADD_FAILURE() << "the dialog did not come up";
+  Open(dialog_, model, projector_);
   if (tab != 0) SelectTab(tab);
   projector_->Take();
 }

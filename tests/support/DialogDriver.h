@@ -17,6 +17,8 @@
 #include "tests/support/RecordingChannel.h"
 #include "toolkit/CComboBox.h"
 
+void Wheel(QWidget& control, int notches);
+
 /// Acts on a dialog's controls as a user does: with mouse, keys and wheel on the real widgets.
 class DialogDriver {
  public:
@@ -33,7 +35,7 @@ class DialogDriver {
   /// Drags the slider's handle until it shows this position, and lets go.
   void Drag(int id, int position) const;
   void Press(int id, Qt::Key key) const;
-  void Wheel(int id, int notches) const;
+  void Wheel(int id, int notches) const { ::Wheel(Item<QWidget>(id), notches); }
 
   /// Centre of the slider's handle, in the slider's coordinates.
   QPoint HandleCentre(int id) const;
@@ -48,6 +50,10 @@ class DialogDriver {
  private:
   CDialog& dialog_;
 };
+
+/// Opens the dialog for a model on a projector.
+void Open(CAdvanceDlg& dialog, const CModelInfo2& model,
+          std::shared_ptr<ProjectorChannel> projector);
 
 /// The whole dialog, opened on a scripted projector.
 class OpenDialog {

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "i18n/Catalog.h"
+#include "settings/CatalogNumbers.h"
 #include "tests/i18n/ModuleBuilder.h"
 
 /// While it lives, every caption, text of the list category and error text is its own number,
@@ -16,7 +17,8 @@ struct NumberedCatalog {
     for (int number = 0; number < 4400; ++number) {
       captions.entries.push_back(Ansi(sign + std::to_string(number) + "\r\n"));
     }
-    const TestBlock list{MessageId(5, 0), captions.entries};
+    TestBlock list{MessageId(5, 0), captions.entries};
+    list.entries[ListText::StatusValue] = Ansi("status %1\r\n");  // around another text
     const TestBlock errors{MessageId(2201, 0), captions.entries};
     const std::string folder = own.path().toStdString();
     TestModule({{1033, {captions, list, errors}}}).Save(folder + "/mcdll.dll");

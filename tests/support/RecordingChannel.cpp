@@ -1,58 +1,44 @@
 #include "tests/support/RecordingChannel.h"
 
-#include <cstdio>
+#include <algorithm>
 #include <utility>
+
+#include "device/LoggingChannel.h"
 
 namespace {
 
-struct Described {
-  std::string key;
-  std::string text;
-};
-
-Described Describe(const PjtCommand& command) {
-  std::string name(OperationName(command.operation));
-  const std::string first = ' ' + std::to_string(command.first);
-  const std::string second = ' ' + std::to_string(command.second);
-  switch (FamilyOf(command.operation)) {
-    case OperationFamily::Generic: {
-      char code[16];
-      std::snprintf(code, sizeof code, " 0x%04X", command.code);
-      const std::string key = name + code;
-      return {key, name == "Set" ? key + ' ' + std::to_string(std::uint16_t(command.first)) : key};
-    }
-    case OperationFamily::SourceGetter:
-    case OperationFamily::SourceStepper:
-    case OperationFamily::PointGetter:
-    case OperationFamily::PointReset:
-      return {name + first, name + first};
-    case OperationFamily::SourceSetter:
-    case OperationFamily::ShortSourceSetter:
-      return {name + first, name + first + second};
-    case OperationFamily::FlaggedSetter:
-    case OperationFamily::SilentFlaggedSetter:
-    case OperationFamily::ChannelStepper:
-      return {name, name + first + second};
-    case OperationFamily::IntSetter:
-    case OperationFamily::ShortSetter:
-    case OperationFamily::SilentSetter:
-      return {name, name + first};
-    default:
-      return {name, name};
+std::string Describe(const PjtCommand& command) {
+  std::string text = FormatCommand(command);
+  if (command.operation == PjtOperation::Set) {
+    text.resize(text.find('(') - 1);
+    return text + ' ' + std::to_string(static_cast<std::uint16_t>(command.first));
   }
+  std::erase_if(text, [](char c) { return c == ',' || c == ')'; });
+  std::ranges::replace(text, '(', ' ');
+  return text.ends_with(' ') ? text.substr(0, text.size() - 1) : text;
+}
+
+// What is scripted for the command, or for as many of its first words as possible.
+auto Find(const auto& scripted, std::string command) {
+  auto found = scripted.find(command);
+  while (found == scripted.end() && command.find(' ') != std::string::npos) {
+    command.resize(command.rfind(' '));
+    found = scripted.find(command);
+  }
+  return found;
 }
 
 }  // namespace
 
 PjtReply RecordingChannel::Execute(const PjtCommand& command) {
-  const Described described = Describe(command);
-  sent_.push_back(described.text);
+  const std::string text = Describe(command);
+  sent_.push_back(text);
   const bool refusedToo = refusesChanges_ && !IsRead(command.operation);
-  if (refusedToo || refused_.contains(described.key)) {
+  if (refusedToo || Find(refused_, text) != refused_.end()) {
     return {.result = RefusedResult(command.operation), .value = -1};
   }
-  const auto value = values_.find(described.key);
-  const auto result = results_.find(described.key);
+  const auto value = Find(values_, text);
+  const auto result = Find(results_, text);
   return {.result = result == results_.end() ? AcceptedResult(command.operation) : result->second,
           .value = static_cast<std::int16_t>(value == values_.end() ? 0 : value->second)};
 }

@@ -11,8 +11,8 @@
 /// A projector with scripted replies that remembers what was sent, in order.
 ///
 /// A command reads as "SetBrightness 140", "Get 0x2003", "Set 0x3304 16", "SetVolumeEachSrc 3 12";
-/// its key is the command without the values that it carries: "SetBrightness", "Get 0x2003",
-/// "GetInputSrcVolume 3". Everything is accepted and every value is 0 unless told otherwise.
+/// a key is the command, or as many of its words as tell which are meant. Everything is accepted
+/// and every value is 0 unless told otherwise.
 class RecordingChannel final : public ProjectorChannel {
  public:
   PjtReply Execute(const PjtCommand& command) override;

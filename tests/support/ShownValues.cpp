@@ -1,7 +1,6 @@
 #include "tests/support/ShownValues.h"
 
 #include <QAbstractButton>
-#include <QLabel>
 #include <QLineEdit>
 #include <QSlider>
 #include <QTabBar>
@@ -37,18 +36,6 @@ void ExpectShows(const ValueRow& row, int value, const CTabPage& page, const Mod
 
 void ExpectShows(const CheckRow& row, int value, const CTabPage& page, const ModelData&) {
   EXPECT_EQ(page.Item<QAbstractButton>(row.control).isChecked(), value != 0);
-}
-
-// The text of the state's entry, or the number, is somewhere in what is shown.
-void ExpectShows(const StateRow& row, int value, const CTabPage& page, const ModelData& model) {
-  const std::vector<ListEntry> texts = row.texts.Of(model);
-  const int position = PositionOf(texts, value);
-  const ListEntry text =
-      position >= 0 ? texts[static_cast<std::size_t>(position)] : ListEntry(row.otherwise);
-  const QString shown = page.Item<QLabel>(row.control).text();
-  EXPECT_TRUE(shown.contains(text.text != 0 ? CatalogString(kListCategory, text.text, value)
-                                            : QString::fromUtf8(text.name)))
-      << shown.toStdString();
 }
 
 void ExpectShows(const auto&, int, const CTabPage&, const ModelData&) {}

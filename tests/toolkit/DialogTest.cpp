@@ -66,8 +66,6 @@ class DialogTest : public testing::Test {
   }
   ~DialogTest() override { ResourceChain::Unregister(kModule); }
 
-  int Top(int id) const { return dialog.GetDlgItem(id)->geometry().center().y(); }
-
   SampleDialog dialog;
   DialogDriver driver{dialog};
 };
@@ -179,17 +177,6 @@ TEST_F(DialogTest, EnterPressesTheFocusedButtonOnlyAndEscCloses) {
   driver.Press(9, Qt::Key_Escape);
   EXPECT_FALSE(dialog.isVisible());
   EXPECT_EQ(dialog.destroyed, 1);
-}
-
-TEST_F(DialogTest, AnAbsentRowTakesNoSpaceAndRowsKeepOnePitch) {
-  const int pitch = Top(7) - Top(1);
-  EXPECT_EQ(Top(11) - Top(7), pitch);
-  const int height = dialog.height();
-  dialog.ShowRow(9, false);
-  QTest::qWait(1);
-  EXPECT_FALSE(dialog.GetDlgItem(7)->isVisible());
-  EXPECT_EQ(Top(11) - Top(1), pitch);
-  EXPECT_EQ(dialog.height(), height - pitch) << "a pop-up follows its rows";
 }
 
 TEST_F(DialogTest, ListsAreAsWideAsTheirColumnWhateverTheyHold) {

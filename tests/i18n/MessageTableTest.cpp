@@ -106,6 +106,7 @@ TEST(MessageTable, RefusesDamagedModules) {
       {"leaves that are directories, outside",
        4,
        {{leaf - 4, m.kDirectory}, {leaf - 4, 0x7FFFFFFF}}},
+      {"a leaf of no language", 4, {{leaf - 8, 0x10411}}},
       {"tables outside, too long, too short", 4, {{leaf, ~0U}, {leaf + 4, ~0U}, {leaf + 4, 3}}},
       {"blocks too many, upside down", 4, {{table, 0x15555556}, {table + 4, 9}}},
       {"blocks endless, outside", 4, {{table + 8, ~0U}, {table + 12, 0xFFFFFFFC}}},

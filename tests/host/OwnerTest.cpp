@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "device/BoundedChannel.h"
+#include "pages/input/CServiceDlg.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/PacedProjector.h"
 
@@ -38,12 +39,14 @@ enum class Death { Delete, DeleteLater };
 enum class Run { Modal, Modeless };
 enum class Moment { Opening, Refresh, Handler, PopUp, PopUpHandler, MessageBox };
 
+bool IsModal(const char* name) {
+  const QWidget* modal = QApplication::activeModalWidget();
+  return modal != nullptr && modal->isVisible() && modal->inherits(name);
+}
+
 class Host {
  public:
-  explicit Host(Death death) : death_(death) {
-    owner_->show();
-    QObject::connect(owner_, &QObject::destroyed, [this] { projector->Pace(0ms); });
-  }
+  explicit Host(Death death) : death_(death) { owner_->show(); }
   ~Host() { delete owner_; }
 
   QWidget* Owner() { return owner_; }
@@ -52,7 +55,7 @@ class Host {
   void Prepare(CAdvanceDlg& dialog) {
     dialog.CopyData(&model_, 0);
     dialog.Projector().SetChannel(std::make_shared<BoundedChannel>(
-        projector, BoundedChannel::Limits{.timeOut = 20s, .quickAnswer = 100ms}));
+        projector, BoundedChannel::Limits{.timeOut = 1h, .quickAnswer = 100ms}));
   }
 
   void DieWhileACommandWaits() {
@@ -75,10 +78,6 @@ class Host {
       DieWhileACommandWaits();
       act();
     };
-    const auto isModal = [](const char* name) {
-      const QWidget* modal = QApplication::activeModalWidget();
-      return modal != nullptr && modal->isVisible() && modal->inherits(name);
-    };
     auto* tabs = dialog.findChild<QTabBar*>();
     const auto page = [&] { return DialogDriver(*dialog.ShownPage()); };
     switch (moment) {
@@ -94,7 +93,7 @@ class Host {
         return slowly([&] { page().Click(kService); });
       case Moment::PopUpHandler:
         tabs->setCurrentIndex(kOptionTab);
-        When([isModal] { return isModal("CServiceDlg"); },
+        When([] { return IsModal("CServiceDlg"); },
              [slowly] {
                auto* popup = qobject_cast<CDialog*>(QApplication::activeModalWidget());
                slowly([popup] { DialogDriver(*popup).Click(kRemoteTop); });
@@ -103,12 +102,13 @@ class Host {
       case Moment::MessageBox:
         tabs->setCurrentIndex(kPictureTab);
         projector->refuses = true;
-        When([isModal] { return isModal("QMessageBox"); }, [this] { LetDie(); });
+        When([] { return IsModal("QMessageBox"); }, [this] { LetDie(); });
         return page().Choose(kActiveIris, 1);
     }
   }
 
   void ExpectEnded(bool whileWaiting) {
+    projector->Pace(0ms);
     EXPECT_EQ(owner_, nullptr);
     EXPECT_EQ(waitedAtDeath_, whileWaiting);
     EXPECT_EQ(projector->sent, sentAtDeath_) << "a command was sent afterwards";
@@ -174,15 +174,25 @@ TEST(OwnerOfALocalDialog, DiesAndTheDialogIsThereToBeRunAgain) {
   }
 }
 
-TEST(OwnerOfADialogWithoutParent, DiesAndTakesItsBoxDown) {
-  Host host(Death::Delete);
-  host.Owner()->activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(host.Owner()));
-  CAdvanceDlg dialog;
-  host.Prepare(dialog);
-  QTimer::singleShot(0, qApp, [&] { host.Die(dialog, Moment::MessageBox); });
-  EXPECT_EQ(dialog.DoModal(), QDialog::Rejected);
-  host.ExpectEnded(false);
+TEST(OwnerOfADialogWithoutParent, DiesAndTakesWhatIsOverItDown) {
+  for (const bool box : {true, false}) {
+    Host host(Death::Delete);
+    host.Owner()->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(host.Owner()));
+    CAdvanceDlg dialog;
+    host.Prepare(dialog);
+    QTimer::singleShot(0, qApp, [&] {
+      if (box) return host.Die(dialog, Moment::MessageBox);
+      When([] { return IsModal("CServiceDlg"); }, [&] { host.LetDie(); });
+      CServiceDlg popup(nullptr);
+      popup.projector = &dialog.Projector();
+      popup.DoModal();
+    });
+    EXPECT_EQ(dialog.DoModal(), QDialog::Rejected);
+    host.ExpectEnded(false);
+    short mirror = 0;
+    EXPECT_EQ(dialog.Projector().GetMirror(&mirror), 0) << "its channel is taken away";
+  }
 }
 
 }  // namespace

@@ -39,14 +39,16 @@ if(NOT result MATCHES "timeout")
 endif()
 
 # Hardened, and no library is looked for in the current directory.
-foreach(built libAdvancedControl.so libProjectorCommon.so advanced-control)
+foreach(built libAdvancedControl.so libProjectorCommon.so advanced-control acctl
+              advanced-control-simulator)
   execute_process(COMMAND readelf -Wd ${BUILD_DIR}/bin/${built} OUTPUT_VARIABLE dynamic
                   COMMAND_ERROR_IS_FATAL ANY)
   if(NOT dynamic MATCHES "BIND_NOW|Flags: NOW")
     message(FATAL_ERROR "${built} is not bound when it starts")
   endif()
-  if(dynamic MATCHES "(RUNPATH|RPATH)[^\n]*(:\\]|::|\\[:)")
-    message(FATAL_ERROR "${built} looks for libraries in the current directory:\n${dynamic}")
+  if(dynamic MATCHES "R(UN)?PATH[^[]*\\[([^\n]*)\\]" AND
+     NOT CMAKE_MATCH_2 MATCHES "^\\$ORIGIN[^:]*(:\\$ORIGIN[^:]*)*$")
+    message(FATAL_ERROR "${built} looks for libraries elsewhere than beside it: ${CMAKE_MATCH_2}")
   endif()
   execute_process(COMMAND nm -D ${BUILD_DIR}/bin/${built} OUTPUT_VARIABLE used
                   COMMAND_ERROR_IS_FATAL ANY)

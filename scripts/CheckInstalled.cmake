@@ -48,7 +48,7 @@ foreach(built libAdvancedControl.so libProjectorCommon.so advanced-control acctl
   endif()
   if(dynamic MATCHES "R(UN)?PATH[^[]*\\[([^\n]*)\\]" AND
      NOT CMAKE_MATCH_2 MATCHES "^\\$ORIGIN[^:]*(:\\$ORIGIN[^:]*)*$")
-    message(FATAL_ERROR "${built} looks for libraries elsewhere than beside it: ${CMAKE_MATCH_2}")
+    message(FATAL_ERROR "${built} looks for libraries elsewhere than beside it:\n${dynamic}")
   endif()
   execute_process(COMMAND nm -D ${BUILD_DIR}/bin/${built} OUTPUT_VARIABLE used
                   COMMAND_ERROR_IS_FATAL ANY)

@@ -64,13 +64,17 @@ endforeach()
 set(elsewhere ${BUILD_DIR}/installed-elsewhere)
 file(WRITE ${elsewhere}/mcdll.dll "no module")
 function(expect_catalog folder expected)
-  execute_process(COMMAND ${CMAKE_COMMAND} -E env LC_ALL=C LD_LIBRARY_PATH=${folder}
-                          ${prefix}/bin/advanced-control --list
-                  WORKING_DIRECTORY ${elsewhere} OUTPUT_QUIET ERROR_VARIABLE errors
-                  COMMAND_ERROR_IS_FATAL ANY)
-  if(NOT errors MATCHES "^${expected}$")
-    message(FATAL_ERROR "The catalog of libraries in ${folder}: ${errors}")
-  endif()
+  # The program holds a copy of the reader: a host has only the library's.
+  set(host LD_PRELOAD=${folder}/libAdvancedControl.so true)
+  set(program ${prefix}/bin/advanced-control --list)
+  foreach(command host program)
+    execute_process(COMMAND ${CMAKE_COMMAND} -E env LC_ALL=C LD_LIBRARY_PATH=${folder} ${${command}}
+                    WORKING_DIRECTORY ${elsewhere} OUTPUT_QUIET ERROR_VARIABLE errors
+                    COMMAND_ERROR_IS_FATAL ANY)
+    if(NOT errors MATCHES "^${expected}$")
+      message(FATAL_ERROR "The catalog of a ${command} with libraries in ${folder}: ${errors}")
+    endif()
+  endforeach()
 endfunction()
 expect_catalog(${prefix}/lib "")
 set(multiarch ${prefix}/lib/x86_64-linux-gnu)

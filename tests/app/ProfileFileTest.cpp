@@ -71,6 +71,7 @@ const WrongFile kWrongFiles[] = {
     {"{\n\"a\\u0000b\": 1}", "2:3: control character in a text"},
     {"{\"a\\nb\": 1}", "1:4: control character in a text"},
     {"{\"a\x1b\": 1}", "1:4: control character in a text"},
+    {"{\"a\x7f\": 1}", "1:4: control character in a text"},
     {"[\"\\ud800\\u0041\"]", "1:3: half a surrogate pair in a text"},
     {"[\"\\ud83d\\ude00\\ude00\"]", "1:15: half a surrogate pair in a text"},
     {"{\"families\": {\n\"%1\": {\"gamma\": [\n-1]}}}", "3: families.%1.gamma[0]: is -1;"},
@@ -104,10 +105,13 @@ std::string Repeat(const char* text, int count) {
 
 // What is too much is refused before it takes time or memory.
 TEST(ProfileFile, TooMuchIsRefusedAtOnce) {
-  std::string families = R"({"families": {"f99": {})";
-  for (int i = 98; i >= 82; --i) {
-    families += QString(R"(, "f%1": {"like": "f%2"})").arg(i).arg(i + 1).toStdString();
-  }
+  const auto chain = [](int first, int last, int step) {
+    QString text = QString("{\"families\": {\"%1\": {}").arg(step > 0 ? last + step : first + step);
+    for (int i = first; i <= last; ++i) {
+      text += QString(", \"%1\": {\"like\": \"%2\"}").arg(i).arg(i + step);
+    }
+    return (text + "}}").toStdString();
+  };
   std::string many = "{\"families\": {\"0\": {}";
   for (int i = 1; i <= 1000; ++i) many += ", \"" + std::to_string(i) + "\": {}";
   const WrongFile tooMuch[] = {
@@ -120,7 +124,8 @@ TEST(ProfileFile, TooMuchIsRefusedAtOnce) {
       {"{\"projectors\": [" + Repeat("0,", 1000) + "0]}",
        "p.json:1: projectors: has 1001 entries; at most 1000"},
       {many + "}}", "p.json:1: families: has 1001 families; at most 1000"},
-      {families + "}}", "p.json:1: families.f98.like: leads through more than 16 families"},
+      {chain(101, 117, -1), "p.json:1: families.117.like: leads through more than 16 families"},
+      {chain(100, 998, 1), "p.json:1: families.116.like: leads through more than 16 families"},
   };
   for (const auto& [text, error] : tooMuch) {
     const std::clock_t start = std::clock();

@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "device/BoundedChannel.h"
+#include "pages/input/CServiceDlg.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/PacedProjector.h"
 
@@ -36,12 +37,14 @@ void When(const std::function<bool()>& isSo, const std::function<void()>& act) {
 
 enum class Moment { Opening, Refresh, Handler, PopUp, PopUpHandler, MessageBox };
 
+bool IsModal(const char* name) {
+  const QWidget* modal = QApplication::activeModalWidget();
+  return modal != nullptr && modal->isVisible() && modal->inherits(name);
+}
+
 class Host {
  public:
-  explicit Host(bool later = false) : later_(later) {
-    owner_->show();
-    QObject::connect(owner_, &QObject::destroyed, [this] { projector->Pace(0ms); });
-  }
+  explicit Host(bool later = false) : later_(later) { owner_->show(); }
   ~Host() { delete owner_; }
 
   QWidget* Owner() { return owner_; }
@@ -50,7 +53,7 @@ class Host {
   void Prepare(CAdvanceDlg& dialog) {
     dialog.CopyData(&model_, 0);
     dialog.Projector().SetChannel(std::make_shared<BoundedChannel>(
-        projector, BoundedChannel::Limits{.timeOut = 20s, .quickAnswer = 100ms}));
+        projector, BoundedChannel::Limits{.timeOut = 1h, .quickAnswer = 100ms}));
   }
 
   void DieWhileACommandWaits() {
@@ -69,17 +72,13 @@ class Host {
   }
 
   void Die(CAdvanceDlg& dialog, Moment moment) {
-    const auto isModal = [](const char* name) {
-      const QWidget* modal = QApplication::activeModalWidget();
-      return modal != nullptr && modal->isVisible() && modal->inherits(name);
-    };
     if (moment == Moment::Opening) return;
     const bool popUp = moment == Moment::PopUp || moment == Moment::PopUpHandler;
     if (moment == Moment::Refresh) DieWhileACommandWaits();
     dialog.findChild<QTabBar*>()->setCurrentIndex(popUp ? kOptionTab : kPictureTab);
     if (moment == Moment::Refresh) return;
     if (moment == Moment::PopUpHandler) {
-      When([isModal] { return isModal("CServiceDlg"); },
+      When([] { return IsModal("CServiceDlg"); },
            [this] {
              DieWhileACommandWaits();
              DialogDriver(*qobject_cast<CDialog*>(QApplication::activeModalWidget()))
@@ -87,7 +86,7 @@ class Host {
            });
     } else if (moment == Moment::MessageBox) {
       projector->refuses = true;
-      When([isModal] { return isModal("QMessageBox"); }, [this] { LetDie(); });
+      When([] { return IsModal("QMessageBox"); }, [this] { LetDie(); });
     } else {
       DieWhileACommandWaits();
     }
@@ -96,6 +95,7 @@ class Host {
   }
 
   void ExpectEnded(bool whileWaiting) {
+    projector->Pace(0ms);
     EXPECT_EQ(owner_, nullptr);
     EXPECT_EQ(waitedAtDeath_, whileWaiting);
     EXPECT_EQ(projector->sent, sentAtDeath_) << "a command was sent afterwards";
@@ -160,15 +160,25 @@ TEST(OwnerOfALocalDialog, DiesAndTheDialogIsThereToBeRunAgain) {
   }
 }
 
-TEST(OwnerOfADialogWithoutParent, DiesAndTakesItsBoxDown) {
-  Host host;
-  host.Owner()->activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(host.Owner()));
-  CAdvanceDlg dialog;
-  host.Prepare(dialog);
-  QTimer::singleShot(0, qApp, [&] { host.Die(dialog, Moment::MessageBox); });
-  EXPECT_EQ(dialog.DoModal(), QDialog::Rejected);
-  host.ExpectEnded(false);
+TEST(OwnerOfADialogWithoutParent, DiesAndTakesWhatIsOverItDown) {
+  for (const bool box : {true, false}) {
+    Host host;
+    host.Owner()->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(host.Owner()));
+    CAdvanceDlg dialog;
+    host.Prepare(dialog);
+    QTimer::singleShot(0, qApp, [&] {
+      if (box) return host.Die(dialog, Moment::MessageBox);
+      When([] { return IsModal("CServiceDlg"); }, [&] { host.LetDie(); });
+      CServiceDlg popup(nullptr);
+      popup.projector = &dialog.Projector();
+      popup.DoModal();
+    });
+    EXPECT_EQ(dialog.DoModal(), QDialog::Rejected);
+    host.ExpectEnded(false);
+    short mirror = 0;
+    EXPECT_EQ(dialog.Projector().GetMirror(&mirror), 0) << "its channel is taken away";
+  }
 }
 
 }  // namespace

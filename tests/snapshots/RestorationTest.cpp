@@ -73,8 +73,7 @@ void Serve(const std::stop_token& end, ProjectorChannel& projector,
       std::string bytes;
       while (const auto frame = replies.Next()) {
         const auto* reply = std::get_if<Wire::Reply>(&frame->message);
-        const bool isLost = reply != nullptr && reply->status == Wire::Status::Unanswered;
-        if (!isLost) Wire::Append(bytes, *frame);
+        if (!reply || reply->status != Wire::Status::Unanswered) Wire::Append(bytes, *frame);
       }
       socket->write(QByteArray::fromStdString(bytes));
       socket->flush();
@@ -98,9 +97,6 @@ struct Room {
   explicit Room(const ProjectorProfile& profile)
       : channel(std::make_shared<Disturbed>(profile)), projector(profile, channel) {}
 
-  Restoration Prepare(const Snapshot& snapshot) {
-    return {snapshot, projector.Settings(), projector.Connection()};
-  }
   void ChangeAll(unsigned seed) {
     Random random(seed);
     for (const ModelSetting& setting : projector.Settings().All()) {
@@ -129,7 +125,7 @@ TEST(Restoration, BringsEveryProjectorBackAndUndoesItself) {
     EXPECT_LE(room.channel->count, std::ssize(wanted.settings) + 2) << "a source is asked for once";
     room.ChangeAll(2);
     const Snapshot before = Take(room.projector);
-    Restoration restoration = room.Prepare(wanted);
+    Restoration restoration(wanted, room.projector.Settings(), room.projector.Connection());
     restoration.Read();
     const Snapshot undo = restoration.Undo(profile.Name, Texts());
     restoration.Send(Texts());
@@ -158,7 +154,7 @@ TEST(Restoration, TellsTheTruthWhenCommandsAreRefusedAndLost) {
     room.ChangeAll(1);
     const Snapshot wanted = Take(room.projector);
     room.ChangeAll(2);
-    Restoration before = room.Prepare(wanted);
+    Restoration before(wanted, room.projector.Settings(), room.projector.Connection());
     before.Read();
     room.channel->count = 0;
     room.channel->trouble = trouble;
@@ -199,7 +195,7 @@ TEST(Restoration, SkipsWhatTheModelDoesNotTakeAndStopsWhenTold) {
   snapshot.settings = {{"picture.brightness", 1000, ""}, {"picture.gamma", 99, ""},
                        {"status.power", 0, ""},          {"no.such", 1, ""},
                        {"picture.contrast", 130, ""},    {"picture.tint", 131, ""}};
-  Restoration restoration = room.Prepare(snapshot);
+  Restoration restoration(snapshot, room.projector.Settings(), room.projector.Connection());
   restoration.Read();
   restoration.Send(Texts(), {.goesOn = [&room] { return room.channel->sent == 0; }});
   std::vector<Outcome> outcomes;
@@ -241,8 +237,8 @@ TEST(SettingTexts, UnderstandsWhatPeopleType) {
        {{"5", 133}, {"=-31", 97}, {"32", {}}, {"", {}}, {"5x", {}}, {"99999999999", {}}}},
       {"picture.brightness", {{"+3", 131, 128}, {"-3", 125, 128}, {"+1", {}, 159}}},
       {"picture.sharpness", {{"4", 128}}},
-      {"picture.active-iris", {{"theater", 16}, {"影院", 16}, {"17", 17}, {"1", {}}}},
-      {"picture.active-iris", {{"+1", 16, 0}, {"+1", {}, 17}}},
+      {"picture.active-iris",
+       {{"theater", 16}, {"影院", 16}, {"17", 17}, {"1", {}}, {"+1", 16, 0}, {"+1", {}, 17}}},
       {"setup.mirror", {{"H&V Inverse", 3}}},
   };
   for (const auto& [key, cases] : kCases) {

@@ -37,9 +37,6 @@ TEST_F(Finding, GoesToTheRowOfAnyTab) {
   Find("contrast", {Qt::Key_Return});  // grey: its tab is shown, and has the focus
   EXPECT_EQ(tabs.currentIndex(), 1);
   EXPECT_EQ(QApplication::focusWidget(), &tabs);
-}
-
-TEST_F(Finding, OpensThePopUpOfItsRow) {
   Find("gain g", {Qt::Key_Return});  // its button is grey
   QTest::qWait(0);
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
@@ -51,7 +48,6 @@ TEST_F(Finding, OpensThePopUpOfItsRow) {
   });
   QTest::qWait(0);
   EXPECT_EQ(tabs.tabText(tabs.currentIndex()), QStringLiteral("Option"));
-  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
 TEST_F(Finding, StaysForNoNameAndLeavesWithoutTheDialog) {

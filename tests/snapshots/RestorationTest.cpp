@@ -56,87 +56,58 @@ struct Disturbed : ProjectorChannel {
   int count = 0, sent = 0;
 };
 
-/// The way to it over TCP, where an answer that got lost is never there.
-class Line {
- public:
-  explicit Line(std::shared_ptr<Disturbed> projector) : projector_(std::move(projector)) {
-    while (port_ == 0) std::this_thread::yield();
-  }
-  std::shared_ptr<ProjectorChannel> Channel() const {
-    constexpr std::chrono::milliseconds kTimeOut{100};
-    return std::make_shared<TcpChannel>("127.0.0.1", port_,
-                                        WireChannel::Limits{.answer = kTimeOut});
-  }
-
- private:
-  void Serve(const std::stop_token& end) {
-    QTcpServer server;
-    server.listen(QHostAddress::LocalHost);
-    port_ = server.serverPort();
-    while (!end.stop_requested()) {
-      if (!server.waitForNewConnection(10)) continue;
-      const std::unique_ptr<QTcpSocket> socket(server.nextPendingConnection());
-      WireResponder responder(*projector_);
-      while (!end.stop_requested() && socket->state() == QTcpSocket::ConnectedState) {
-        socket->waitForReadyRead(10);
-        Wire::Decoder replies;
-        replies.Add(responder.Receive(socket->readAll().toStdString()));
-        while (const auto frame = replies.Next()) {
-          const auto* reply = std::get_if<Wire::Reply>(&frame->message);
-          if (reply != nullptr && reply->status == Wire::Status::Unanswered) continue;
-          std::string bytes;
-          Wire::Append(bytes, *frame);
-          socket->write(bytes.data(), std::ssize(bytes));
-        }
-        socket->flush();
+/// Serves a projector over TCP until told to end; an answer that got lost is never sent.
+void Serve(const std::stop_token& end, ProjectorChannel& projector,
+           std::atomic<std::uint16_t>& port) {
+  QTcpServer server;
+  server.listen(QHostAddress::LocalHost);
+  port = server.serverPort();
+  while (!end.stop_requested()) {
+    if (!server.waitForNewConnection(10)) continue;
+    const std::unique_ptr<QTcpSocket> socket(server.nextPendingConnection());
+    WireResponder responder(projector);
+    while (!end.stop_requested() && socket->state() == QTcpSocket::ConnectedState) {
+      socket->waitForReadyRead(10);
+      Wire::Decoder replies;
+      replies.Add(responder.Receive(socket->readAll().toStdString()));
+      std::string bytes;
+      while (const auto frame = replies.Next()) {
+        const auto* reply = std::get_if<Wire::Reply>(&frame->message);
+        if (!reply || reply->status != Wire::Status::Unanswered) Wire::Append(bytes, *frame);
       }
+      socket->write(QByteArray::fromStdString(bytes));
+      socket->flush();
     }
   }
+}
 
-  std::shared_ptr<Disturbed> projector_;
-  std::atomic<std::uint16_t> port_ = 0;
-  std::jthread thread_{[this](const std::stop_token& end) { Serve(end); }};
-};
+Snapshot Take(ProjectorAccess& projector) {
+  return TakeSnapshot(projector.Name(), projector.Settings(), projector.Connection(), Texts());
+}
+
+Restoration Restore(ProjectorAccess& projector, const Snapshot& snapshot) {
+  const Progress careful{.goesOn = [&projector] { return !projector.Channel().IsGone(); }};
+  Restoration restoration(snapshot, projector.Settings(), projector.Connection());
+  restoration.Read(careful);
+  restoration.Send(Texts(), careful);
+  return restoration;
+}
 
 struct Room {
   explicit Room(const ProjectorProfile& profile)
-      : Room(profile, std::make_shared<Disturbed>(profile)) {}
-  Room(const ProjectorProfile& profile, std::shared_ptr<Disturbed> disturbed)
-      : Room(profile, disturbed, disturbed) {}
-  Room(const ProjectorProfile& profile, std::shared_ptr<Disturbed> disturbed,
-       std::shared_ptr<ProjectorChannel> way)
-      : channel(std::move(disturbed)), projector(profile, std::move(way)) {}
+      : channel(std::make_shared<Disturbed>(profile)), projector(profile, channel) {}
 
-  Snapshot Take() {
-    return TakeSnapshot(projector.Name(), projector.Settings(), projector.Connection(), Texts());
-  }
-  Restoration Prepare(const Snapshot& snapshot) {
-    return {snapshot, projector.Settings(), projector.Connection()};
-  }
-  Progress Careful() {
-    return {.goesOn = [this] { return !projector.Channel().IsGone(); }};
-  }
-  Restoration Restore(const Snapshot& snapshot) {
-    Restoration restoration = Prepare(snapshot);
-    restoration.Read(Careful());
-    restoration.Send(Texts(), Careful());
-    return restoration;
-  }
   void ChangeAll(unsigned seed) {
     Random random(seed);
     for (const ModelSetting& setting : projector.Settings().All()) {
       if (!setting.Restorable()) continue;
-      const int value = AnyValue(setting, random);
+      const Range range = setting.range.value_or(Range{100, 120});
+      const auto size = static_cast<unsigned>(range.maximum - range.minimum + 1);
+      const int value = setting.kind == ModelSetting::Kind::Choice
+                            ? setting.entries[random() % setting.entries.size()].value
+                            : range.minimum + static_cast<int>(random() % size);
       projector.Settings().Change(projector.Connection(), setting, value);
     }
-  }
-  static int AnyValue(const ModelSetting& setting, Random& random) {
-    if (setting.kind == ModelSetting::Kind::Choice) {
-      return setting.entries[random() % setting.entries.size()].value;
-    }
-    const Range range = setting.range.value_or(Range{100, 120});
-    const auto size = static_cast<unsigned>(range.maximum - range.minimum + 1);
-    return range.minimum + static_cast<int>(random() % size);
   }
 
   std::shared_ptr<Disturbed> channel;
@@ -149,78 +120,82 @@ TEST(Restoration, BringsEveryProjectorBackAndUndoesItself) {
     SCOPED_TRACE(profile.Name);
     Room room(profile);
     room.ChangeAll(1);
-    const Snapshot wanted = room.Take();
+    room.channel->count = 0;
+    const Snapshot wanted = Take(room.projector);
+    EXPECT_LE(room.channel->count, std::ssize(wanted.settings) + 2) << "a source is asked for once";
     room.ChangeAll(2);
-    const Snapshot before = room.Take();
-    Restoration restoration = room.Prepare(wanted);
+    const Snapshot before = Take(room.projector);
+    Restoration restoration(wanted, room.projector.Settings(), room.projector.Connection());
     restoration.Read();
     const Snapshot undo = restoration.Undo(profile.Name, Texts());
     restoration.Send(Texts());
-    EXPECT_EQ(room.Take().settings, wanted.settings);
+    EXPECT_EQ(Take(room.projector).settings, wanted.settings);
     EXPECT_EQ(restoration.Count(Outcome::Changed) + restoration.Count(Outcome::AlreadySo),
               static_cast<int>(wanted.settings.size()));
     const int sent = room.channel->sent;
-    EXPECT_EQ(room.Restore(wanted).Count(Outcome::Changed), 0);
+    EXPECT_EQ(Restore(room.projector, wanted).Count(Outcome::Changed), 0);
     EXPECT_EQ(room.channel->sent, sent) << "what is so is not sent again";
-    room.Restore(undo);
-    EXPECT_EQ(room.Take().settings, before.settings);
+    Restore(room.projector, undo);
+    EXPECT_EQ(Take(room.projector).settings, before.settings);
   }
 }
 
 // Whatever goes wrong, each list holds what is in it, and doing it again completes it.
 TEST(Restoration, TellsTheTruthWhenCommandsAreRefusedAndLost) {
-  const struct {
-    const char* profile;
-    Disturbed::Trouble trouble;
-    bool overTcp = false;
-  } kCases[] = {{"Projector 5-54", {30, 10}},       {"Projector 5-54", {0, 0, 40}},
-                {"Projector 5-54", {0, 0, 100}},    {"Projector 5-54", {0, 0, 130}},
-                {"Projector 5-54", {1, 1}, true},   {"Projector 1-1", {1, 1}, true},
-                {"Projector 4-11 b", {1, 1}, true}, {"Projector 3-71", {0, 0, 60}, true}};
-  for (const auto& [name, trouble, overTcp] : kCases) {
+  const std::pair<const char*, Disturbed::Trouble> kCases[] = {
+      {"Projector 5-54", {1, 1}},     {"Projector 1-1", {1, 1}},
+      {"Projector 4-11 b", {1, 1}},   {"Projector 2-6", {30, 10}},
+      {"Projector 5-54", {0, 0, 40}}, {"Projector 5-54", {0, 0, 100}},
+      {"Projector 5-54", {0, 0, 130}}};
+  for (const auto& [name, trouble] : kCases) {
     SCOPED_TRACE(name);
     const ProjectorProfile& profile = Profile(name);
     Room room(profile);
     room.ChangeAll(1);
-    const Snapshot wanted = room.Take();
+    const Snapshot wanted = Take(room.projector);
     room.ChangeAll(2);
-    Restoration before = room.Prepare(wanted);
+    Restoration before(wanted, room.projector.Settings(), room.projector.Connection());
     before.Read();
     room.channel->count = 0;
     room.channel->trouble = trouble;
-    auto line = overTcp ? std::make_unique<Line>(room.channel) : nullptr;
-    Room far(profile, room.channel, line ? line->Channel() : room.channel);
-    const Restoration restoration = far.Restore(wanted);
-    line.reset();
+    std::atomic<std::uint16_t> port = 0;
+    std::jthread server(Serve, std::ref(*room.channel), std::ref(port));
+    while (port == 0) std::this_thread::yield();
+    const WireChannel::Limits limits{.answer = std::chrono::milliseconds(60)};
+    ProjectorAccess far(profile, std::make_shared<TcpChannel>("127.0.0.1", port, limits));
+    const Restoration restoration = Restore(far, wanted);
+    server = {};
     room.channel->trouble = {};
     for (std::size_t i = 0; i < wanted.settings.size(); ++i) {
       const RestoredSetting& restored = restoration.Settings()[i];
       SCOPED_TRACE(restored.saved.key);
       const auto now = room.projector.Settings().Read(room.projector.Connection(),
                                                       *restored.setting, restored.saved.source);
-      const bool done =
-          restored.outcome == Outcome::Changed || restored.outcome == Outcome::AlreadySo;
-      if (done) {
-        EXPECT_EQ(now, restored.saved.value);
-      } else if (restored.outcome == Outcome::Refused && restored.now) {
-        EXPECT_EQ(now, restored.now);
-      } else if (restored.outcome == Outcome::NotReached || restored.outcome == Outcome::Differs) {
-        EXPECT_EQ(now, before.Settings()[i].before) << "nothing was sent";
+      switch (restored.outcome) {
+        case Outcome::Changed:
+        case Outcome::AlreadySo:
+          EXPECT_EQ(now, restored.saved.value);
+          break;
+        case Outcome::NotReached:
+        case Outcome::Differs:
+          EXPECT_EQ(now, before.Settings()[i].before) << "nothing was sent";
+          break;
+        default:
+          EXPECT_TRUE(!restored.now || now == restored.now);
       }
     }
-    const Restoration rest = room.Restore(wanted);
-    EXPECT_EQ(rest.Count(Outcome::Changed) + rest.Count(Outcome::AlreadySo),
-              static_cast<int>(wanted.settings.size()));
+    Restore(room.projector, wanted);
+    EXPECT_EQ(Take(room.projector).settings, wanted.settings);
   }
 }
 
 TEST(Restoration, SkipsWhatTheModelDoesNotTakeAndStopsWhenTold) {
   Room room(Profile("Projector 5-30"));
-  Snapshot snapshot = room.Take();
+  Snapshot snapshot = Take(room.projector);
   snapshot.settings = {{"picture.brightness", 1000, ""}, {"picture.gamma", 99, ""},
                        {"status.power", 0, ""},          {"no.such", 1, ""},
                        {"picture.contrast", 130, ""},    {"picture.tint", 131, ""}};
-  Restoration restoration = room.Prepare(snapshot);
+  Restoration restoration(snapshot, room.projector.Settings(), room.projector.Connection());
   restoration.Read();
   restoration.Send(Texts(), {.goesOn = [&room] { return room.channel->sent == 0; }});
   std::vector<Outcome> outcomes;
@@ -232,11 +207,9 @@ TEST(Restoration, SkipsWhatTheModelDoesNotTakeAndStopsWhenTold) {
 
 TEST(Snapshot, IsReadAsWrittenAndRefusedWhenWrong) {
   Room room(Profiles().front());
-  const Snapshot snapshot = room.Take();
+  const Snapshot snapshot = Take(room.projector);
   const QByteArray text = WriteSnapshot(snapshot);
-  const SnapshotContents contents = ReadSnapshot(text);
-  EXPECT_EQ(contents.error, "");
-  EXPECT_EQ(contents.snapshot, snapshot);
+  EXPECT_EQ(ReadSnapshot(text).snapshot, snapshot);
   for (const auto& [from, to, error] : std::vector<std::array<const char*, 3>>{
            {"\"format\"", "\"formal\"", "no file of saved settings"},
            {"\"version\": 1", "\"version\": 2", "only version 1"},
@@ -254,35 +227,27 @@ TEST(Snapshot, IsReadAsWrittenAndRefusedWhenWrong) {
 
 TEST(SettingTexts, UnderstandsWhatPeopleType) {
   const Room room(Profile("Projector 5-30"));
-  const struct {
-    const char* key;
+  struct Typed {
     const char* text;
-    std::optional<int> value;  // from present value `from`
+    std::optional<int> value;  // from the present value `from`
     int from = 0;
-  } kCases[] = {
-      {"picture.brightness", "5", 133},
-      {"picture.brightness", "=-31", 97},
-      {"picture.brightness", "32", {}},
-      {"picture.brightness", "+3", 131, 128},
-      {"picture.brightness", "-3", 125, 128},
-      {"picture.brightness", "+1", {}, 159},
-      {"picture.brightness", "", {}},
-      {"picture.brightness", "5x", {}},
-      {"picture.brightness", "99999999999", {}},
-      {"picture.sharpness", "4", 128},
-      {"picture.active-iris", "theater", 16},
-      {"picture.active-iris", "影院", 16},
-      {"picture.active-iris", "17", 17},
-      {"picture.active-iris", "1", {}},
-      {"picture.active-iris", "+1", 16, 0},
-      {"picture.active-iris", "+1", {}, 17},
-      {"setup.mirror", "H&V Inverse", 3},
   };
-  for (const auto& [key, text, value, from] : kCases) {
+  const std::pair<const char*, std::vector<Typed>> kCases[] = {
+      {"picture.brightness",
+       {{"5", 133}, {"=-31", 97}, {"32", {}}, {"", {}}, {"5x", {}}, {"99999999999", {}}}},
+      {"picture.brightness", {{"+3", 131, 128}, {"-3", 125, 128}, {"+1", {}, 159}}},
+      {"picture.sharpness", {{"4", 128}}},
+      {"picture.active-iris",
+       {{"theater", 16}, {"影院", 16}, {"17", 17}, {"1", {}}, {"+1", 16, 0}, {"+1", {}, 17}}},
+      {"setup.mirror", {{"H&V Inverse", 3}}},
+  };
+  for (const auto& [key, cases] : kCases) {
     const ModelSetting* const setting = room.projector.Settings().Find(key);
     ASSERT_NE(setting, nullptr) << key;
-    const auto typed = Texts().Parse(*setting, text);
-    EXPECT_EQ(typed ? Resolve(*setting, *typed, from) : std::nullopt, value) << key << ' ' << text;
+    for (const auto& [text, value, from] : cases) {
+      const auto typed = Texts().Parse(*setting, text);
+      EXPECT_EQ(typed ? Resolve(*setting, *typed, from) : std::nullopt, value) << key << text;
+    }
   }
 }
 

@@ -117,13 +117,13 @@ void ProjectorView::SetSessions(ProjectorTableModel::Sessions sessions) {
 
 int ProjectorView::CurrentRow() const { return filter_->mapToSource(table_->currentIndex()).row(); }
 
-std::vector<ProjectorSession*> ProjectorView::Selected() const {
+ProjectorSessions ProjectorView::Selected() const {
   QModelIndexList rows = table_->selectionModel()->selectedRows();
   std::ranges::sort(rows, {}, &QModelIndex::row);
-  std::vector<ProjectorSession*> selected;
+  ProjectorSessions selected;
   for (const QModelIndex& row : rows) {
     const int place = filter_->mapToSource(row).row();
-    selected.push_back(model_->All()[static_cast<std::size_t>(place)].get());
+    selected.push_back(model_->All()[static_cast<std::size_t>(place)]);
   }
   return selected;
 }

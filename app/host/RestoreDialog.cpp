@@ -200,7 +200,8 @@ void RestoreDialog::Compare() {
 void RestoreDialog::AddRow(const Room& room, const RestoredSetting& restored) {
   QString setting = Wide(restored.saved.key);
   if (restored.setting != nullptr) {
-    setting = Wide(texts_.Tab(*restored.setting) + ": " + texts_.Caption(*restored.setting));
+    setting = tr("%1: %2").arg(Wide(texts_.Tab(*restored.setting)),
+                               Wide(texts_.Caption(*restored.setting)));
   }
   QList<QStandardItem*> row;
   for (const QString& text : {Wide(room.name), setting, QString(), QString(), QString()}) {

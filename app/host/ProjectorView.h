@@ -36,8 +36,6 @@ class ProjectorView : public QWidget {
   void FocusTable();
 
   QHeaderView& Columns() const;
-  /// As wide as the columns.
-  QSize sizeHint() const override;
   /// They become the list's context menu.
   void AddContextActions(const QList<QAction*>& actions);
 

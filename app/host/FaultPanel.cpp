@@ -243,8 +243,8 @@ void FaultPanel::ShowFaults() {
       for (int i = 0; i < target_->count() && text.isEmpty(); ++i) {
         if (target_->itemData(i).value<FaultTarget>() == target) text = target_->itemText(i);
       }
-      text += QStringLiteral(": ");
-      text += tr(std::ranges::find(kKinds, fault.kind, &NamedKind::kind)->name);
+      text =
+          tr("%1: %2").arg(text, tr(std::ranges::find(kKinds, fault.kind, &NamedKind::kind)->name));
       if (fault.kind == Fault::Kind::Late) {
         text += tr(" %1 ms").arg(fault.delay.count());
       }

@@ -34,7 +34,7 @@
 namespace {
 
 constexpr int kGap = 9;
-constexpr QSize kUsualSize{1240, 760};
+constexpr QSize kUsualSize{1340, 760};
 
 constexpr const char* kGeometryKey = "window/geometry";
 constexpr const char* kSidesKey = "window/sides";
@@ -251,7 +251,7 @@ void MainWindow::Restore() {
   }
   constexpr QSize kFrame{2 * kGap, 40};
   resize(kUsualSize.boundedTo(screen.size() - kFrame));
-  const int listWidth = std::min(projectors_->sizeHint().width(), width() * 9 / 20);
+  const int listWidth = width() * 9 / 20;
   sides_->setSizes({listWidth, width() - listWidth});
   move(screen.right() + 1 - width() - kFrame.width(),
        screen.bottom() + 1 - height() - kFrame.height());

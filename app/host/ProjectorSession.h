@@ -4,6 +4,7 @@
 #include <map>
 #include <memory>
 #include <variant>
+#include <vector>
 
 #include "app/profiles/ProfileFile.h"
 #include "device/LoggingChannel.h"
@@ -54,3 +55,5 @@ class ProjectorSession {
   std::shared_ptr<ProjectorChannel> channel_;
   std::map<FaultTarget, Fault> faults_;
 };
+
+using ProjectorSessions = std::vector<std::shared_ptr<ProjectorSession>>;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <map>
-#include <memory>
 #include <vector>
 
 #include <QAbstractTableModel>
@@ -20,7 +19,7 @@ class ProjectorTableModel : public QAbstractTableModel {
   Q_OBJECT
 
  public:
-  using Sessions = std::vector<std::shared_ptr<ProjectorSession>>;
+  using Sessions = ProjectorSessions;
 
   enum Column { Name, State, Model, DialogType, ModelCode, Connection, ColumnCount };
   /// Names of the projector's tabs, a line each.

@@ -8,7 +8,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QScrollBar>
 #include <QTableView>
 #include <QVBoxLayout>
 
@@ -16,7 +15,7 @@
 
 namespace {
 
-constexpr int kColumnGap = 9;
+constexpr int kColumnGap = 4;
 constexpr int kMinimumWidth = 260;
 
 }  // namespace
@@ -84,11 +83,6 @@ void ProjectorView::MakeColumns() {
 
 QHeaderView& ProjectorView::Columns() const { return *table_->horizontalHeader(); }
 
-QSize ProjectorView::sizeHint() const {
-  const int beside = table_->verticalScrollBar()->sizeHint().width() + 2 * table_->frameWidth();
-  return {Columns().length() + beside, QWidget::sizeHint().height()};
-}
-
 void ProjectorView::AddContextActions(const QList<QAction*>& actions) {
   table_->addActions(actions);
 }
@@ -100,7 +94,7 @@ void ProjectorView::SetSessions(ProjectorTableModel::Sessions sessions) {
   model_->SetSessions(std::move(sessions));
   if (isFirst) {
     table_->resizeColumnsToContents();
-    for (int column = 0; column < ProjectorTableModel::ColumnCount; ++column) {
+    for (int column = 0; column + 1 < ProjectorTableModel::ColumnCount; ++column) {
       table_->setColumnWidth(column, table_->columnWidth(column) + kColumnGap);
     }
     // It grows while a dialog is open.
@@ -117,13 +111,13 @@ void ProjectorView::SetSessions(ProjectorTableModel::Sessions sessions) {
 
 int ProjectorView::CurrentRow() const { return filter_->mapToSource(table_->currentIndex()).row(); }
 
-std::vector<ProjectorSession*> ProjectorView::Selected() const {
+ProjectorSessions ProjectorView::Selected() const {
   QModelIndexList rows = table_->selectionModel()->selectedRows();
   std::ranges::sort(rows, {}, &QModelIndex::row);
-  std::vector<ProjectorSession*> selected;
+  ProjectorSessions selected;
   for (const QModelIndex& row : rows) {
     const int place = filter_->mapToSource(row).row();
-    selected.push_back(model_->All()[static_cast<std::size_t>(place)].get());
+    selected.push_back(model_->All()[static_cast<std::size_t>(place)]);
   }
   return selected;
 }

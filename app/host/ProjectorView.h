@@ -1,7 +1,5 @@
 #pragma once
 
-#include <vector>
-
 #include <QWidget>
 
 #include "app/host/ProjectorTableModel.h"
@@ -29,7 +27,7 @@ class ProjectorView : public QWidget {
   int CurrentRow() const;
 
   /// All that are selected, in the order of the list.
-  std::vector<ProjectorSession*> Selected() const;
+  ProjectorSessions Selected() const;
 
   /// Selects a projector of the model; a search that hides it is taken back.
   void Select(int row);
@@ -38,8 +36,6 @@ class ProjectorView : public QWidget {
   void FocusTable();
 
   QHeaderView& Columns() const;
-  /// As wide as the columns.
-  QSize sizeHint() const override;
   /// They become the list's context menu.
   void AddContextActions(const QList<QAction*>& actions);
 

@@ -19,7 +19,6 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 
-#include "app/host/ProjectorSession.h"
 #include "app/profiles/SettingsFile.h"
 #include "app/profiles/WholeFile.h"
 #include "device/ModelDataIntake.h"
@@ -94,13 +93,13 @@ class RestoreDialog::Working {
 };
 
 RestoreDialog::RestoreDialog(Purpose purpose, Snapshot snapshot, QString file,
-                             const std::vector<ProjectorSession*>& sessions, QWidget* parent)
+                             const ProjectorSessions& sessions, QWidget* parent)
     : QDialog(parent),
       purpose_(purpose),
       snapshot_(std::move(snapshot)),
       file_(std::move(file)),
       texts_(CatalogFolders(), SystemLanguageId()) {
-  for (const ProjectorSession* session : sessions) {
+  for (const auto& session : sessions) {
     rooms_.push_back(std::make_unique<Room>(*session, snapshot_));
   }
   setWindowTitle(purpose == Purpose::Restore ? tr("Apply Settings") : tr("Compare Settings"));
@@ -201,7 +200,8 @@ void RestoreDialog::Compare() {
 void RestoreDialog::AddRow(const Room& room, const RestoredSetting& restored) {
   QString setting = Wide(restored.saved.key);
   if (restored.setting != nullptr) {
-    setting = Wide(texts_.Tab(*restored.setting) + ": " + texts_.Caption(*restored.setting));
+    setting = tr("%1: %2").arg(Wide(texts_.Tab(*restored.setting)),
+                               Wide(texts_.Caption(*restored.setting)));
   }
   QList<QStandardItem*> row;
   for (const QString& text : {Wide(room.name), setting, QString(), QString(), QString()}) {

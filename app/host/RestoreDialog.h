@@ -5,9 +5,9 @@
 
 #include <QDialog>
 
+#include "app/host/ProjectorSession.h"
 #include "snapshots/Restoration.h"
 
-class ProjectorSession;
 class QCheckBox;
 class QLabel;
 class QLineEdit;
@@ -26,10 +26,10 @@ class RestoreDialog : public QDialog {
  public:
   enum class Purpose { Compare, Restore };
 
-  /// `sessions` outlive the dialog; `file` is where `snapshot` was read from, and where the values
-  /// that are replaced are kept beside.
+  /// `file` is where `snapshot` was read from, and where the values that are replaced are kept
+  /// beside.
   RestoreDialog(Purpose purpose, Snapshot snapshot, QString file,
-                const std::vector<ProjectorSession*>& sessions, QWidget* parent = nullptr);
+                const ProjectorSessions& sessions, QWidget* parent = nullptr);
   ~RestoreDialog() override;
 
   /// Reads all projectors and shows what differs. Done by itself when the dialog is shown.

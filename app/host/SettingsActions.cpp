@@ -24,7 +24,7 @@ constexpr auto kLater = std::chrono::milliseconds(50);
 
 }  // namespace
 
-SettingsActions::SettingsActions(std::function<Sessions()> selected, QWidget& window)
+SettingsActions::SettingsActions(std::function<ProjectorSessions()> selected, QWidget& window)
     : QObject(&window),
       selected_(std::move(selected)),
       window_(window),
@@ -62,11 +62,11 @@ void SettingsActions::Tell(const QString& title, const QString& text) {
   box.exec();
 }
 
-QStringList SettingsActions::SaveTo(const QString& path, const Sessions& sessions,
+QStringList SettingsActions::SaveTo(const QString& path, const ProjectorSessions& sessions,
                                     const Progress& progress) {
   QStringList errors;
   const SettingTexts texts(CatalogFolders(), SystemLanguageId());
-  for (const ProjectorSession* session : sessions) {
+  for (const auto& session : sessions) {
     const std::string& name = session->Profile().Name;
     const QString shownName = QString::fromStdString(name);
     const ModelSettings settings(MakeModelData(session->Profile().Model));
@@ -94,7 +94,7 @@ QStringList SettingsActions::SaveTo(const QString& path, const Sessions& session
 }
 
 void SettingsActions::SaveSettings() {
-  const Sessions sessions = selected_();
+  const ProjectorSessions sessions = selected_();
   if (sessions.empty()) return;
   const QString title = tr("Save Settings");
   const QString path =
@@ -116,7 +116,7 @@ void SettingsActions::SaveSettings() {
 }
 
 void SettingsActions::OpenFile(RestoreDialog::Purpose purpose) {
-  const Sessions sessions = selected_();
+  const ProjectorSessions sessions = selected_();
   if (sessions.empty()) return;
   const QString path =
       QFileDialog::getOpenFileName(&window_, tr("Open Settings"), {}, tr("Settings (*.json)"));

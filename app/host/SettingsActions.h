@@ -1,13 +1,11 @@
 #pragma once
 
 #include <functional>
-#include <vector>
 
 #include <QObject>
 
 #include "app/host/RestoreDialog.h"
 
-class ProjectorSession;
 class QAction;
 class QWidget;
 
@@ -17,11 +15,9 @@ class SettingsActions : public QObject {
   Q_OBJECT
 
  public:
-  using Sessions = std::vector<ProjectorSession*>;
-
-  /// `selected` tells the projectors that are meant; they outlive what the actions do with them.
-  /// This belongs to the window; the actions belong to it.
-  SettingsActions(std::function<Sessions()> selected, QWidget& window);
+  /// `selected` tells the projectors that are meant. This belongs to the window; the actions belong
+  /// to it.
+  SettingsActions(std::function<ProjectorSessions()> selected, QWidget& window);
 
   QAction* Save() const { return save_; }
   QAction* Compare() const { return compare_; }
@@ -32,7 +28,7 @@ class SettingsActions : public QObject {
 
   /// Saves the settings of each projector: of one in `path`, of several in files of their names in
   /// the folder `path`. One line for each that went wrong.
-  static QStringList SaveTo(const QString& path, const Sessions& sessions,
+  static QStringList SaveTo(const QString& path, const ProjectorSessions& sessions,
                             const Progress& progress = {});
 
  private:
@@ -44,7 +40,7 @@ class SettingsActions : public QObject {
   void OpenFile(RestoreDialog::Purpose purpose);
   void Tell(const QString& title, const QString& text);
 
-  const std::function<Sessions()> selected_;
+  const std::function<ProjectorSessions()> selected_;
   QWidget& window_;
   QAction* save_;
   QAction* compare_;

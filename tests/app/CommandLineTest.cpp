@@ -42,26 +42,19 @@ const WrongArguments kWrongArguments[] = {
     {{"--list", "--language", "1034"}, "'1034' is neither"},
     {{"--profiles", "/nowhere.json"}, "cannot read profiles /nowhere.json: "},
     {{"--profiles", "/dev/zero"}, "cannot read profiles /dev/zero: not a regular"},
+    {{}, "no display"},
     {{"--colour", "--language", "2052"}, "未知选项“colour”"},
     {{"--profiles", "/dev/zero", "--language", "2052"}, "无法读取配置文件 /dev/zero：不是普通文件"},
 };
 
-TEST(Program, AnswersAWrongCommandLineWithOneLineAndExitCode2) {
+TEST(Program, AnswersAWrongCommandLineWithOneLineAndAnExitCode) {
   for (const auto& [arguments, error] : kWrongArguments) {
     const Outcome run = RunProgram(arguments);
-    EXPECT_EQ(run.exitCode, 2) << error;
+    EXPECT_EQ(run.exitCode, arguments.isEmpty() ? 1 : 2) << error;
     EXPECT_THAT(run.errors, HasSubstr(error));
     EXPECT_EQ(std::ranges::count(run.errors, '\n'), 1) << run.errors;
     EXPECT_EQ(run.output, "") << error;
   }
-}
-
-TEST(Program, ListsItsProjectors) {
-  const Outcome run = RunProgram({"--list"});
-  EXPECT_EQ(run.exitCode, 0);
-  EXPECT_THAT(run.output,
-              testing::ContainsRegex("Projector 4-11 +QD-M7450 +4 +11 +192\\.0\\.2\\."));
-  EXPECT_EQ(run.errors, "");
 }
 
 TEST(Program, SavesPicturesOfTheTabAndLanguageAskedFor) {
@@ -79,20 +72,16 @@ TEST(Program, SavesPicturesOfTheTabAndLanguageAskedFor) {
   EXPECT_NE(status, picture({"--language", "2052"}));
 }
 
-TEST(Program, LeavesToQtWhatIsQts) {
+TEST(Program, ListsItsProjectorsAndLeavesToQtWhatIsQts) {
   for (const QStringList& arguments : {QStringList{"-style", "windows", "--list"},
                                        {"-reverse", "-platform", "offscreen", "--list"},
                                        {"--list", "--style=Fusion", "-qwindowtitle", "--tour"}}) {
     const Outcome run = RunProgram(arguments);
-    EXPECT_EQ(run.exitCode, 0) << run.errors;
-    EXPECT_THAT(run.output, HasSubstr("Projector 5-30"));
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_THAT(run.output,
+                testing::ContainsRegex("Projector 4-11 +QD-M7450 +4 +11 +192\\.0\\.2\\."));
+    EXPECT_EQ(run.errors, "");
   }
-}
-
-TEST(Program, WithoutADisplayOpensNoWindow) {
-  const Outcome run = RunProgram({});
-  EXPECT_EQ(run.exitCode, 1);
-  EXPECT_THAT(run.errors, HasSubstr("no display"));
 }
 
 }  // namespace

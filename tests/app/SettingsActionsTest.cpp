@@ -21,17 +21,15 @@ struct Rooms {
     for (const ProjectorProfile& profile :
          ReadProfileFile(QStringLiteral(TEST_CATALOG_DIR "/projectors.json")).projectors) {
       if (profile.Name != "Projector 5-30" && profile.Name != "Projector 5-31") continue;
-      sessions.push_back(
-          std::make_unique<ProjectorSession>(profile, [](const auto&, const auto&, auto) {}));
+      sessions.push_back(std::make_shared<ProjectorSession>(profile, nullptr));
     }
-    EXPECT_EQ(SettingsActions::SaveTo(file, {sessions[0].get()}), QStringList());
+    EXPECT_EQ(SettingsActions::SaveTo(file, {sessions[0]}), QStringList());
   }
   SimulatedProjector& Projector(std::size_t room) { return sessions[room]->Simulator(); }
-  SettingsActions::Sessions All() { return {sessions[0].get(), sessions[1].get()}; }
 
   QTemporaryDir folder;
   const QString file = folder.filePath("good.json");
-  std::vector<std::unique_ptr<ProjectorSession>> sessions;
+  ProjectorSessions sessions;
 };
 
 /// The texts of a column, as they are shown.
@@ -50,7 +48,7 @@ TEST(SettingsActions, PutsBackWhatIsCheckedOnEveryProjector) {
   rooms.Projector(1).SetValue(SettingId::Contrast, 120);
   rooms.Projector(1).SetValue(SettingId::Tint, 120);
   RestoreDialog dialog(RestoreDialog::Purpose::Restore, ReadSettingsFile(rooms.file).snapshot,
-                       rooms.file, rooms.All());
+                       rooms.file, rooms.sessions);
   dialog.show();
   ASSERT_TRUE(QTest::qWaitFor([&] { return Column(dialog, kSettingColumn).size() >= 3; }));
   EXPECT_EQ(Column(dialog, kSettingColumn),
@@ -73,12 +71,11 @@ TEST(SettingsActions, PutsBackWhatIsCheckedOnEveryProjector) {
 TEST(SettingsActions, TellsWhatCannotBeSaved) {
   Rooms rooms;
   rooms.sessions[1]->SetFault({}, {.kind = Fault::Kind::FailRead});
-  const QStringList errors = SettingsActions::SaveTo(rooms.folder.path(), rooms.All());
+  const QStringList errors = SettingsActions::SaveTo(rooms.folder.path(), rooms.sessions);
   EXPECT_EQ(errors, QStringList("Projector 5-31: nothing can be read"));
   EXPECT_TRUE(QFile::exists(rooms.folder.filePath("Projector_5-30.json")));
-  EXPECT_THAT(
-      SettingsActions::SaveTo("/proc/x.json", {rooms.sessions[0].get()}).join('\n').toStdString(),
-      testing::StartsWith("cannot write /proc/x.json: "));
+  EXPECT_THAT(SettingsActions::SaveTo("/proc/x.json", {rooms.sessions[0]}).join('\n').toStdString(),
+              testing::StartsWith("cannot write /proc/x.json: "));
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // The input, setup and audio pages of the newest page set.
 
 #include <QAbstractButton>
+#include <QGuiApplication>
 #include <QLabel>
 #include <gtest/gtest.h>
 
@@ -134,7 +135,11 @@ TEST(Setup5, SavingIsSentWhenTheAnswerIsYes) {
 }
 
 TEST(Setup5, ArrowButtonsBearAPictureAndKeepTheirSignAsTheirName) {
+  QGuiApplication::setLayoutDirection(Qt::RightToLeft);
   const Type5Page page(kSetupTab, 44);
+  const auto& left = page.driver.Item<QAbstractButton>(20334);
+  EXPECT_LT(left.x(), page.driver.Item<QAbstractButton>(20350).x()) << "also where all is mirrored";
+  QGuiApplication::setLayoutDirection(Qt::LeftToRight);
   // A point that the picture covers, and its mirror image that it leaves blank.
   for (const auto& [id, name, ink, blank] :
        {std::tuple{20335, "D-Shift V ↑", QPoint(8, 28), QPoint(8, 12)},

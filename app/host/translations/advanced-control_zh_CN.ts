@@ -300,6 +300,10 @@
         <source>Simulated faults of %1</source>
         <translation>%1 的模拟故障</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
 </context>
 <context>
     <name>JsonLines</name>
@@ -988,6 +992,10 @@
     <message>
         <source>%1 skipped</source>
         <translation>已跳过 %1 项</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
     </message>
 </context>
 <context>

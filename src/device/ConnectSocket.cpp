@@ -16,7 +16,7 @@ QList<QHostAddress> Addresses(const QString& host) {
 }  // namespace
 
 std::unique_ptr<QTcpSocket> ConnectSocket(const std::string& host, std::uint16_t port,
-                                          qint64 readBuffer, const QDeadlineTimer& deadline,
+                                          std::int64_t readBuffer, const QDeadlineTimer& deadline,
                                           ConnectionState& problem) {
   const QList<QHostAddress> addresses = Addresses(QString::fromStdString(host));
   problem = addresses.isEmpty() ? ConnectionState::NameUnknown : ConnectionState::NotReachable;

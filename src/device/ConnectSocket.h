@@ -4,8 +4,6 @@
 #include <memory>
 #include <string>
 
-#include <QtGlobal>
-
 #include "device/ConnectionState.h"
 
 class QDeadlineTimer;
@@ -15,5 +13,5 @@ class QTcpSocket;
 /// has read; or null, and `problem` says why. Blocks; a name is looked up for as long as the system
 /// takes, then each of its addresses has its share of the time.
 std::unique_ptr<QTcpSocket> ConnectSocket(const std::string& host, std::uint16_t port,
-                                          qint64 readBuffer, const QDeadlineTimer& deadline,
+                                          std::int64_t readBuffer, const QDeadlineTimer& deadline,
                                           ConnectionState& problem);

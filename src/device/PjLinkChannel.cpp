@@ -4,10 +4,10 @@
 #include <array>
 
 #include <QDeadlineTimer>
-#include <QNetworkProxy>
 #include <QTcpSocket>
 
 #include "device/CommandCode.h"
+#include "device/ConnectSocket.h"
 #include "device/PjLinkLine.h"
 
 namespace {
@@ -180,13 +180,10 @@ bool PjLinkChannel::Open() {
   }
   state_ = ConnectionState::Connecting;
   const QDeadlineTimer deadline(limits_.connect);
-  socket_ = std::make_unique<QTcpSocket>();
-  socket_->setProxy(QNetworkProxy::NoProxy);
-  socket_->setReadBufferSize(kReadBuffer);
-  socket_->connectToHost(QString::fromStdString(host_), static_cast<quint16>(port_));
-  if (!socket_->waitForConnected(static_cast<int>(deadline.remainingTime()))) {
-    Drop(socket_->error() == QAbstractSocket::HostNotFoundError ? ConnectionState::NameUnknown
-                                                                : ConnectionState::NotReachable);
+  auto problem = ConnectionState::NotReachable;
+  socket_ = ConnectSocket(host_, static_cast<std::uint16_t>(port_), kReadBuffer, deadline, problem);
+  if (!socket_) {
+    Drop(problem);
     return false;
   }
   const auto greeting = ReadLine(PjLink::kLongestLine, deadline);

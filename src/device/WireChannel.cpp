@@ -74,19 +74,21 @@ bool WireChannel::Connect() {
   decoder_ = {};
   welcome_.reset();
   state_ = ConnectionState::Connecting;
-  welcomeBy_ = QDeadlineTimer(limits_.connect);
+  welcomeBy_ = Clock::now() + limits_.connect;
+  const QDeadlineTimer deadline(welcomeBy_);
   auto problem = ConnectionState::NotReachable;
-  line_ = Open(welcomeBy_, problem);
+  line_ = Open(deadline, problem);
   if (!line_) return Fail(problem);
   unsent_.clear();
   hello_ = ++sequence_;
   Wire::Append(unsent_, {.sequence = hello_, .message = Wire::Hello{}});
   // Without noise the first requests go out together with it.
-  return medium_ == Medium::Reliable || (Write(welcomeBy_) && AwaitWelcome());
+  return medium_ == Medium::Reliable || (Write(deadline) && AwaitWelcome());
 }
 
 bool WireChannel::AwaitWelcome() {
-  if (!Await([this] { return welcome_.has_value(); }, welcomeBy_)) return false;
+  const auto welcomed = [this] { return welcome_.has_value(); };
+  if (!Await(welcomed, QDeadlineTimer(welcomeBy_))) return false;
   return welcome_->version == Wire::kVersion || Fail(ConnectionState::OtherVersion);
 }
 

@@ -10,12 +10,11 @@
 #include <string>
 #include <vector>
 
-#include <QDeadlineTimer>
-
 #include "AdvancedControlExport.h"
 #include "device/ProjectorChannel.h"
 #include "device/WireFrame.h"
 
+class QDeadlineTimer;
 class QIODevice;
 
 /// A projector at the other end of a line that carries the frames of docs/wire.md.
@@ -88,7 +87,7 @@ class ADVANCED_CONTROL_EXPORT WireChannel : public ProjectorChannel {
   std::uint16_t sequence_;   ///< Of the last frame made.
   std::uint16_t hello_ = 0;  ///< The sequence number of ours.
   std::optional<Wire::Welcome> welcome_;
-  QDeadlineTimer welcomeBy_;
+  std::chrono::steady_clock::time_point welcomeBy_{};
   std::string unsent_;                 ///< Goes out with the next write.
   std::vector<PjtCommand> announced_;  ///< Not sent yet.
   std::deque<Sent> sent_;

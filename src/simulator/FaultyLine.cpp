@@ -4,30 +4,28 @@
 #include <QTcpSocket>
 #include <QTimer>
 
-FaultyLine::FaultyLine(QIODevice& line, const LineFault& fault)
-    : QObject(&line), line_(line), fault_(fault) {}
-
-void FaultyLine::Send(const QByteArray& bytes) {
-  if (bytes.isEmpty() || closes_) return;
+void FaultyLine::Send(std::string_view bytes) {
+  if (bytes.empty() || closes_) return;
   switch (fault_.kind) {
     case LineFault::Kind::None:
-      line_.write(bytes);
+      Write(bytes);
       break;
     case LineFault::Kind::Silent:
       break;
     case LineFault::Kind::Late:
       late_ += bytes.size();
-      QTimer::singleShot(fault_.amount, this, [this, bytes] {
-        late_ -= bytes.size();
-        SendPart(bytes);
+      QTimer::singleShot(fault_.amount, &line_, [this, late = std::string(bytes)] {
+        late_ -= late.size();
+        Write(late);
+        CloseIfDone();
       });
       break;
     case LineFault::Kind::Cut:
-      line_.write(bytes.left(fault_.amount));
+      Write(bytes.substr(0, static_cast<std::size_t>(fault_.amount)));
       Close();
       break;
     case LineFault::Kind::Garbage:
-      line_.write(QByteArray(bytes.size(), '?'));
+      Write(std::string(bytes.size(), '?'));
       break;
     case LineFault::Kind::Trickle:
       trickling_ += bytes;
@@ -42,22 +40,23 @@ void FaultyLine::Close() {
   CloseIfDone();
 }
 
-qint64 FaultyLine::Backlog() const { return line_.bytesToWrite() + trickling_.size() + late_; }
+std::size_t FaultyLine::Backlog() const {
+  return static_cast<std::size_t>(line_.bytesToWrite()) + trickling_.size() + late_;
+}
 
-void FaultyLine::SendPart(const QByteArray& bytes) {
-  if (line_.isWritable()) line_.write(bytes);
-  CloseIfDone();
+void FaultyLine::Write(std::string_view bytes) {
+  if (line_.isWritable()) line_.write(bytes.data(), static_cast<qint64>(bytes.size()));
 }
 
 void FaultyLine::TrickleOn() {
-  const QByteArray next = trickling_.left(1);
-  trickling_.remove(0, 1);
-  if (!trickling_.isEmpty()) QTimer::singleShot(1, this, &FaultyLine::TrickleOn);
-  SendPart(next);
+  Write(trickling_.substr(0, 1));
+  trickling_.erase(0, 1);
+  if (trickling_.empty()) return CloseIfDone();
+  QTimer::singleShot(1, &line_, [this] { TrickleOn(); });
 }
 
 void FaultyLine::CloseIfDone() {
-  if (!closes_ || late_ > 0 || !trickling_.isEmpty()) return;
+  if (!closes_ || late_ > 0 || !trickling_.empty()) return;
   if (auto* const socket = qobject_cast<QTcpSocket*>(&line_)) {
     socket->disconnectFromHost();
   } else {

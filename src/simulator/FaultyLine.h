@@ -1,9 +1,9 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
-
-#include <QByteArray>
-#include <QObject>
+#include <string>
+#include <string_view>
 
 class QIODevice;
 
@@ -25,25 +25,28 @@ struct LineFault {
 };
 
 /// A server's way to send its replies, with a fault that may change at any time.
-class FaultyLine final : public QObject {
+class FaultyLine {
  public:
-  /// The line owns this; the fault must live longer.
-  FaultyLine(QIODevice& line, const LineFault& fault);
+  /// Both must live as long as this. Timers that still run end with the line.
+  /// children.
+  FaultyLine(QIODevice& line, const LineFault& fault) : line_(line), fault_(fault) {}
+  FaultyLine(const FaultyLine&) = delete;
+  FaultyLine& operator=(const FaultyLine&) = delete;
 
-  void Send(const QByteArray& bytes);
+  void Send(std::string_view bytes);
   /// Closes the line as soon as all that was sent is on its way.
   void Close();
   /// Number of bytes sent that the other end has not taken yet.
-  qint64 Backlog() const;
+  std::size_t Backlog() const;
 
  private:
-  void SendPart(const QByteArray& bytes);
+  void Write(std::string_view bytes);
   void TrickleOn();
   void CloseIfDone();
 
   QIODevice& line_;
   const LineFault& fault_;
-  QByteArray trickling_;
-  qint64 late_ = 0;  // bytes whose time has not come
+  std::string trickling_;
+  std::size_t late_ = 0;  // bytes whose time has not come
   bool closes_ = false;
 };

@@ -16,7 +16,7 @@ namespace {
 
 constexpr qint64 kReadBuffer = 512;  // more than any request, with a digest before it
 /// Replies that a client may leave unread.
-constexpr qint64 kMostUnread = 65536;
+constexpr std::size_t kMostUnread = 65536;
 
 std::string NewSeed() {
   constexpr int kDigits = 8;
@@ -42,10 +42,7 @@ class Session final : public QObject {
  public:
   Session(QTcpSocket& socket, const PjLinkServer::Options& options, PjLinkResponder& responder,
           const LineFault& fault)
-      : QObject(&socket),
-        socket_(socket),
-        responder_(responder),
-        replies_(*new FaultyLine(socket, fault)) {
+      : QObject(&socket), socket_(socket), responder_(responder), replies_(socket, fault) {
     std::string seed;
     if (!options.password.empty()) {
       seed = NewSeed();
@@ -93,13 +90,13 @@ class Session final : public QObject {
   }
 
   void Send(std::string_view line) {
-    replies_.Send(QByteArray(line.data(), static_cast<qsizetype>(line.size())) + '\r');
+    replies_.Send(std::string(line) + '\r');
     if (replies_.Backlog() > kMostUnread) socket_.abort();
   }
 
   QTcpSocket& socket_;
   PjLinkResponder& responder_;
-  FaultyLine& replies_;
+  FaultyLine replies_;
   QTimer idle_;
   std::string wantedProof_;  ///< Before the next request; empty once given, or without password.
 };

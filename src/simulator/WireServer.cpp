@@ -12,7 +12,7 @@
 namespace {
 
 constexpr qint64 kLargestPiece = 4096;
-constexpr qint64 kLargestBacklog = 256L * 1024;
+constexpr std::size_t kLargestBacklog = 256UL * 1024;
 constexpr auto kTimeForHello = std::chrono::seconds(10);
 
 /// One connection. Ends itself with its line.
@@ -20,10 +20,7 @@ class Session final : public QObject {
  public:
   Session(std::unique_ptr<QIODevice> line, ProjectorChannel& projector, const LineFault& fault,
           QObject* parent)
-      : QObject(parent),
-        line_(line.release()),
-        responder_(projector),
-        replies_(*new FaultyLine(*line_, fault)) {
+      : QObject(parent), line_(line.release()), responder_(projector), replies_(*line_, fault) {
     line_->setParent(this);
     connect(line_, &QIODevice::readyRead, this, &Session::Read);
     connect(line_, &QIODevice::aboutToClose, this, &QObject::deleteLater);
@@ -44,9 +41,7 @@ class Session final : public QObject {
     while (line_->bytesAvailable() > 0) {
       const QByteArray piece = line_->read(kLargestPiece);
       if (piece.isEmpty()) return;
-      const std::string reply =
-          responder_.Receive({piece.data(), static_cast<std::size_t>(piece.size())});
-      replies_.Send({reply.data(), static_cast<qsizetype>(reply.size())});
+      replies_.Send(responder_.Receive({piece.data(), static_cast<std::size_t>(piece.size())}));
     }
     // A peer that asks and does not listen is not served on.
     if (replies_.Backlog() > kLargestBacklog) deleteLater();
@@ -54,7 +49,7 @@ class Session final : public QObject {
 
   QIODevice* const line_;
   WireResponder responder_;
-  FaultyLine& replies_;
+  FaultyLine replies_;
 };
 
 }  // namespace

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "device/ConnectionState.h"
+
+class QDeadlineTimer;
+class QTcpSocket;
+
+/// A connection to `host`, a name or an address, that holds at most `readBuffer` bytes which nobody
+/// has read; or null, and `problem` says why. Blocks; a name is looked up for as long as the system
+/// takes, then each of its addresses has its share of the time.
+std::unique_ptr<QTcpSocket> ConnectSocket(const std::string& host, std::uint16_t port,
+                                          std::int64_t readBuffer, const QDeadlineTimer& deadline,
+                                          ConnectionState& problem);

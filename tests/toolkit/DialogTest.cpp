@@ -75,7 +75,7 @@ TEST_F(DialogTest, ASliderReportsOnlyTheEndOfWhatTheUserDoes) {
   slider.setValue(3);
   EXPECT_TRUE(dialog.scrolls.empty()) << "moved by program";
   for (const Qt::MouseButton button : {Qt::MiddleButton, Qt::RightButton}) {
-    QTest::mouseClick(&slider, button, {}, QPoint(4, driver.HandleCentre(4).y()));
+    QTest::mouseClick(&slider, button, {}, QPoint(4, slider.HandleRect().center().y()));
   }
   EXPECT_EQ(slider.value(), 3) << "only the left button moves it";
 
@@ -101,7 +101,7 @@ TEST_F(DialogTest, ASliderReportsOnlyTheEndOfWhatTheUserDoes) {
   EXPECT_EQ(dialog.scrolls.size(), 3U) << "taken out of use in mid-step";
 
   QTest::mouseClick(&slider, Qt::LeftButton, {},
-                    QPoint(slider.width() - 4, driver.HandleCentre(4).y()));
+                    QPoint(slider.width() - 4, slider.HandleRect().center().y()));
   ASSERT_EQ(dialog.scrolls.size(), 4U) << "a click in the groove";
   EXPECT_GT(dialog.scrolls.back(), 6);
 }

@@ -179,6 +179,15 @@ TEST_F(DialogTest, EnterPressesTheFocusedButtonOnlyAndEscCloses) {
   EXPECT_EQ(dialog.destroyed, 1);
 }
 
+TEST_F(DialogTest, ARowThatGoesAwayLeavesNoSpace) {
+  const int height = dialog.height(), last = dialog.GetDlgItem(11)->y();
+  const int pitch = last - dialog.GetDlgItem(7)->y();
+  dialog.ShowRow(9, false);
+  QTest::qWait(1);
+  EXPECT_EQ(dialog.GetDlgItem(11)->y(), last - pitch);
+  EXPECT_EQ(dialog.height(), height - pitch) << "a pop-up follows its rows";
+}
+
 TEST_F(DialogTest, ListsAreAsWideAsTheirColumnWhateverTheyHold) {
   dialog.Item<CComboBox>(13).clear();
   dialog.Item<CComboBox>(13).Add(QStringLiteral("1"));

@@ -115,10 +115,6 @@ TEST(Sweep, NoTabOfAnyShippedProfileIsBlank) {
   ForEachPage(expectFilled, models);
 }
 
-bool IsSmall(ControlKind kind) {
-  return kind == ControlKind::Minus || kind == ControlKind::Plus || kind == ControlKind::Arrow;
-}
-
 QSize TextSize(const QWidget& widget, const QString& text) {
   return {widget.fontMetrics().horizontalAdvance(text) + 8, widget.fontMetrics().height()};
 }
@@ -131,11 +127,13 @@ void ExpectNothingClipped(const CDialog& page) {
       const QWidget* widget = page.GetDlgItem(control.id);
       if (widget == nullptr || !widget->isVisible()) continue;
       EXPECT_TRUE(widget->parentWidget()->rect().contains(widget->geometry())) << control.id;
+      const bool small = control.kind == ControlKind::Minus || control.kind == ControlKind::Plus ||
+                         control.kind == ControlKind::Arrow;
       const QSize needed = control.kind == ControlKind::Slider ? widget->minimumSizeHint()
                            : control.kind == ControlKind::Field
                                ? TextSize(*widget, QStringLiteral("-128"))
-                           : IsSmall(control.kind) ? TextSize(*widget, WindowText(*widget))
-                                                   : widget->sizeHint();
+                           : small ? TextSize(*widget, WindowText(*widget))
+                                   : widget->sizeHint();
       EXPECT_GE(widget->width(), needed.width()) << control.id;
       EXPECT_GE(widget->height(), needed.height()) << control.id;
       for (const QWidget* other : visible) {

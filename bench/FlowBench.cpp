@@ -22,17 +22,23 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto kPace = 200ms;
+constexpr auto kBriskPace = 4ms;
 constexpr auto kTimeOut = 500ms;
 constexpr int kCloseId = 1;
 
-enum Projector { Slow, Silent, DropsOut, Late };
+enum Projector { Slow, Silent, DropsOut, Late, Brisk };
 
-/// A projector that is slow, never answers, answers three commands, or answers after the time-out.
+/// A projector that is slow, never answers, answers three commands, answers after the time-out, or
+/// just not at once.
 class DifficultProjector final : public ProjectorChannel {
  public:
   explicit DifficultProjector(int kind) : kind_(kind) {}
 
   PjtReply Execute(const PjtCommand& command) override {
+    if (kind_ == Brisk) {
+      std::this_thread::sleep_for(kBriskPace);
+      return {.result = AcceptedResult(command.operation), .value = 128};
+    }
     const bool answers = kind_ == Slow || (kind_ == DropsOut && ++commands_ <= 3);
     std::this_thread::sleep_for(answers ? kPace : kTimeOut + 100ms);
     return {.result = AcceptedResult(command.operation), .value = 128, .answered = kind_ != Silent};
@@ -131,6 +137,6 @@ void DifficultRun(benchmark::State& state) {
 
 BENCHMARK(DifficultRun)
     ->ArgName("projector")
-    ->DenseRange(Slow, Late)
+    ->DenseRange(Slow, Brisk)
     ->Iterations(6)
     ->Unit(benchmark::kMillisecond);

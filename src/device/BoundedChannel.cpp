@@ -19,6 +19,11 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
+// Commands that follow each other within the pause let no event loop run in between; it shall not
+// stand still for longer than this on their account.
+constexpr std::chrono::milliseconds kPause{2};
+constexpr std::chrono::milliseconds kStandstill{30};
+
 PjtReply Unanswered(const PjtCommand& command) {
   return {.result = RefusedResult(command.operation), .answered = false};
 }
@@ -72,6 +77,8 @@ struct BoundedChannel::State {
   Wait* waiting = nullptr;
   Wait* recipient = nullptr;  ///< Who gets the reply to the outstanding command; may be nobody.
   Clock::time_point silentUntil{};
+  Clock::time_point lastReturn{};
+  Clock::time_point stillSince{};  ///< When the event loop ran last, as far as this knows.
 };
 
 void BoundedChannel::State::WakeUp() {
@@ -104,10 +111,12 @@ void BoundedChannel::State::Work() {
 
 /// False when the time is over or the wait was abandoned.
 bool BoundedChannel::State::WaitUntil(std::unique_lock<std::mutex>& lock, Wait& wait, auto done) {
-  const Clock::time_point deadline = Clock::now() + limits.timeOut;
+  const Clock::time_point now = Clock::now();
+  const Clock::time_point deadline = now + limits.timeOut;
+  const Clock::time_point quick =
+      std::min({deadline, now + limits.quickAnswer, stillSince + kStandstill});
   const auto over = [&] { return wait.abandoned || done(); };
-  if (HasEventLoop() &&
-      !changed.wait_until(lock, std::min(deadline, Clock::now() + limits.quickAnswer), over)) {
+  if (HasEventLoop() && !changed.wait_until(lock, quick, over)) {
     QEventLoop eventLoop;
     wait.loop = &eventLoop;
     lock.unlock();
@@ -117,6 +126,7 @@ bool BoundedChannel::State::WaitUntil(std::unique_lock<std::mutex>& lock, Wait& 
     eventLoop.exec();
     lock.lock();
     wait.loop = nullptr;
+    stillSince = Clock::now();
   }
   // Also where an ending application lets no event loop run.
   changed.wait_until(lock, deadline, over);
@@ -160,6 +170,7 @@ PjtReply BoundedChannel::Execute(const PjtCommand& command) {
 
   Wait wait;
   state->waiting = &wait;
+  if (const auto now = Clock::now(); now > state->lastReturn + kPause) state->stillSince = now;
   const bool free =
       !state->outstanding || state->WaitUntil(lock, wait, [&] { return !state->outstanding; });
   if (free && !state->ended) {
@@ -173,6 +184,7 @@ PjtReply BoundedChannel::Execute(const PjtCommand& command) {
   // After an abandoned wait somebody else may be waiting by now.
   if (state->waiting == &wait) state->waiting = nullptr;
   if (state->recipient == &wait) state->recipient = nullptr;
+  state->lastReturn = Clock::now();
   if (wait.reply && wait.reply->answered) return *wait.reply;
   if (!wait.abandoned) {
     state->abandoned = false;

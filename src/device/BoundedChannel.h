@@ -29,7 +29,8 @@ class ADVANCED_CONTROL_EXPORT BoundedChannel : public ProjectorChannel {
   struct Limits {
     std::chrono::milliseconds timeOut{2000};
     std::chrono::milliseconds retryAfter{3000};  ///< Counted from the unanswered command's end.
-    std::chrono::milliseconds quickAnswer{5};    ///< Waited for before the event loop runs.
+    /// Waited for before the event loop runs; less where many such waits would hold it up.
+    std::chrono::milliseconds quickAnswer{5};
   };
 
   explicit BoundedChannel(std::shared_ptr<ProjectorChannel> inner)

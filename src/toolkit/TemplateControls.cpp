@@ -4,6 +4,7 @@
 #include <utility>
 
 #include <QCheckBox>
+#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -18,6 +19,35 @@ namespace {
 constexpr int kSliderMinimumWidth = 150;
 constexpr int kRepeatDelay = 400;  // milliseconds
 constexpr int kRepeatInterval = 80;
+
+/// A label of one line, which takes its measure once: QLabel lays its text out three times.
+class LineLabel final : public QLabel {
+ public:
+  using QLabel::QLabel;
+
+  QSize sizeHint() const override {
+    if (measured_.isValid() && text() == measuredText_) return measured_;
+    measuredText_ = text();
+    const bool asQLabel = measuredText_.isEmpty() || measuredText_.contains(QLatin1Char('&'));
+    measured_ = asQLabel
+                    ? QLabel::sizeHint()
+                    : fontMetrics().size(alignment().toInt() & ~Qt::AlignVCenter, measuredText_);
+    return measured_;
+  }
+  QSize minimumSizeHint() const override { return sizeHint(); }
+
+ protected:
+  void changeEvent(QEvent* event) override {
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+      measured_ = {};
+    }
+    QLabel::changeEvent(event);
+  }
+
+ private:
+  mutable QString measuredText_;
+  mutable QSize measured_;
+};
 
 int SmallButtonWidth(const QWidget& widget) { return widget.fontMetrics().height() * 2; }
 
@@ -86,7 +116,7 @@ QWidget* MakeControl(const ControlTemplate& control, QWidget* parent) {
     case ControlKind::Label:
     case ControlKind::Colon:
     case ControlKind::Text: {
-      auto* label = new QLabel(caption, parent);
+      auto* label = new LineLabel(caption, parent);
       label->setTextFormat(Qt::PlainText);
       return label;
     }

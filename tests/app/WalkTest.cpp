@@ -20,6 +20,7 @@
 
 #include "app/host/FaultPanel.h"
 #include "app/host/MainWindow.h"
+#include "app/host/ProjectorView.h"
 #include "host/CAdvanceDlg.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/ShownValues.h"
@@ -120,6 +121,7 @@ class Walk {
   }
 
   void ChangeFaults() {
+    window_->findChild<ProjectorView*>()->Select(Pick(static_cast<int>(kProfiles.size())));
     if (Pick(2) == 0) return Press("Remove &All");
     auto& panel = *window_->findChild<FaultPanel*>();
     for (auto* list : panel.findChildren<QComboBox*>()) {
@@ -197,14 +199,16 @@ class Walk {
 
   void Settle() {
     SetFaults({});
-    Press("Remove &All");
+    for (int row = 0; row < static_cast<int>(kProfiles.size()); ++row) {
+      window_->findChild<ProjectorView*>()->Select(row);
+      Press("Remove &All");
+    }
     while (auto* modal = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
       modal->done(QDialog::Rejected);
     }
     QTimer::singleShot(500ms, qApp, [this] {
-      for (const Foreign& foreign : foreign_) {
-        if (foreign.dialog != nullptr && foreign.dialog->isVisible()) ExpectTrue(*foreign.dialog);
-      }
+      if (Dialogs().empty()) Open();
+      for (CAdvanceDlg* dialog : Dialogs()) ExpectTrue(*dialog);
       Quit();
     });
   }

@@ -1,9 +1,10 @@
+#include <algorithm>
+
 #include <QTabBar>
 #include <gtest/gtest.h>
 
 #include "pages/common/CTabPage.h"
 #include "resources/AdvancedControlResources.h"
-#include "settings/PageSets.h"
 #include "tests/support/DialogDriver.h"
 #include "toolkit/ResourceModule.h"
 
@@ -17,11 +18,8 @@ TEST(Tabs, EachShowsItsPageAlone) {
     ASSERT_EQ(tabs.count(), count) << "type " << dialogType;
     for (int tab = 0; tab < count; ++tab) {
       open.SelectTab(tab);
-      int visible = 0;
-      for (std::size_t page = 0; page < kPageCount; ++page) {
-        visible += open.Dialog().Page(static_cast<PageId>(page)).isVisible();
-      }
-      EXPECT_EQ(visible, 1);
+      const auto pages = open.Dialog().findChildren<CTabPage*>();
+      EXPECT_EQ(std::ranges::count_if(pages, &QWidget::isVisible), 1);
       EXPECT_TRUE(open.Page().isVisible());
     }
   }

@@ -8,13 +8,11 @@ namespace {
 
 using Strings = std::vector<std::string>;
 
-constexpr int kFunctions[] = {1, 22, 25, 26, 27, 32, 33, 34, 35, 36, 48, 49, 255};
+const std::vector<int> kFunctions{1, 22, 25, 26, 27, 32, 33, 34, 35, 36, 48, 49, 255};
 
-CModelInfo2 OptionModel(int code, bool withFunctions = true) {
+CModelInfo2 OptionModel(int code, const std::vector<int>& functions = kFunctions) {
   CModelInfo2 model = MakeModel(5, code);
-  for (const int function : kFunctions) {
-    if (withFunctions) AddEntry(model.MyButtonList, function, "function");
-  }
+  for (const int function : functions) AddEntry(model.MyButtonList, function, "function");
   AddSource(model.MySourceList, 0x70000, "Computer1");
   AddSource(model.MySourceList, 0x50003, "HDMI");
   return model;
@@ -33,7 +31,7 @@ struct OptionPage : OpenDialog {
 
 TEST(Option5, WithoutAListOfTheModelTheTemplatesFunctionsHold) {
   for (const int code : {30, 47}) {  // also a model without rows sends functions, not positions
-    OptionPage open(OptionModel(code, false));
+    OptionPage open(OptionModel(code, {}));
     EXPECT_EQ(open.Driver().Entries(20371).size(), 12);
     open.Driver().Choose(20371, 1);
     open.Driver().Choose(20372, 11);
@@ -61,9 +59,7 @@ TEST(Option5, MySourceIsReadLooselyAndKeepsARefusedChoice) {
   MessageBoxes boxes;
   open.Projector().Refuse("Set 0x3620");
   driver.Choose(20374, 0);
-  const auto seen = boxes.Take();
-  ASSERT_EQ(seen.size(), 1U);
-  EXPECT_EQ(seen[0].text, CatalogString(kErrorCategory, 335));
+  EXPECT_EQ(boxes.Take(), std::vector{CatalogString(kErrorCategory, 335)});
   EXPECT_EQ(driver.Selected(20374), 0);
 }
 

@@ -1,4 +1,4 @@
-// The pages that tell the projector's state, and turn it on and off.
+// What single pages do beside what PagesByModel.txt tells.
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,29 @@
 
 namespace {
 
-using Strings = std::vector<std::string>;
+TEST(LegacySetup, OnlyTheResultOneIsASuccess) {
+  MessageBoxes boxes;
+  OpenDialog open(MakeModel(3, 4), 1);
+  for (const char* key : {"Inc 0x2100", "Set 0x2202"}) open.Projector().AnswerResult(key, 2);
+  open.Driver().Click(20087);
+  open.Driver().Drag(21060, 18);
+  EXPECT_EQ(boxes.Take().size(), 2U);
+}
+
+TEST(LegacyScreen, TheNamedModelOfASeriesHasALanguageMore) {
+  const auto languages = [](int code, const char* name) {
+    CModelInfo2 model = MakeModel(4, code);
+    model.ModelName = name;
+    OpenDialog open(model, 5);
+    return open.Driver().Entries(20226).size();
+  };
+  for (const auto& [code, name] : {std::pair{11, "QD-M7450"}, {12, "QD-M7400"}, {13, "QD-S7350"}}) {
+    EXPECT_EQ(languages(code, name), 16);
+    EXPECT_EQ(languages(code, "QD"), 15);
+  }
+  EXPECT_EQ(languages(12, "QD-M7450"), 15) << "the name of another series";
+  EXPECT_EQ(languages(23, "QD-M7400"), 17);
+}
 
 TEST(StatusPage, NamesTheInputSourceOfAnySlotAndCountsHoursUnsigned) {
   CModelInfo2 model = MakeModel(5, 30);
@@ -26,46 +48,22 @@ TEST(StatusPage, NamesTheInputSourceOfAnySlotAndCountsHoursUnsigned) {
   }
 }
 
-constexpr int kOn = 20100, kOff = 20101, kState = 20102;
-
-void ExpectPower(OpenDialog& open, const QString& state, bool ready) {
-  EXPECT_EQ(open.Driver().Text(kState), state);
-  EXPECT_EQ(open.Driver().IsEnabled(kOn), ready);
-  EXPECT_EQ(open.Driver().IsEnabled(kOff), ready);
-}
-
-void ExpectBox(MessageBoxes& boxes, int text) {
-  const auto seen = boxes.Take();
-  ASSERT_FALSE(seen.empty());
-  EXPECT_EQ(seen.back().text, CatalogString(kErrorCategory, text));
-}
-
-TEST(OtherPages, TurningOffAsksAndAProjectorThatStaysOnOrIsUnknownHasRefused) {
-  OpenDialog open(MakeModel(5, 34), 7, [](RecordingChannel& p) { p.Answer("Get 0x6000", 1); });
-  {
-    MessageBoxes no;
-    open.Driver().Click(kOff);
-    ExpectBox(no, 4202);
-    EXPECT_EQ(open.Projector().Take(), Strings{});
+TEST(OtherPages, AProjectorThatStaysOnOrIsUnknownHasRefusedToTurnOff) {
+  constexpr int kQuestion = 4202, kRefusal = 4201;
+  for (const auto& [after, lastBox, state, ready] : {std::tuple{1, kRefusal, "On", true},
+                                                     {-1, kRefusal, "-", false},
+                                                     {0, kQuestion, "Off", true},
+                                                     {2, kQuestion, "Cooling Down", false}}) {
+    OpenDialog open(MakeModel(5, 34), 7, [](RecordingChannel& p) { p.Answer("Get 0x6000", 1); });
+    after < 0 ? open.Projector().Refuse("Get 0x6000")
+              : open.Projector().Answer("Get 0x6000", after);
+    MessageBoxes boxes(true);
+    open.Driver().Click(20101);
+    EXPECT_EQ(open.Projector().Take().size(), 1U + 8U) << "and the page is read again";
+    EXPECT_EQ(boxes.Take().back(), CatalogString(kErrorCategory, lastBox));
+    EXPECT_EQ(open.Driver().Text(20102), state);
+    for (const int button : {20100, 20101}) EXPECT_EQ(open.Driver().IsEnabled(button), ready);
   }
-  MessageBoxes boxes(true);
-  open.Driver().Click(kOff);
-  EXPECT_EQ(open.Projector().Take().size(), 1U + 8U) << "and the page is read again";
-  ExpectBox(boxes, 4201);
-  open.Projector().Refuse("Get 0x6000");
-  open.Driver().Click(kOff);
-  ExpectBox(boxes, 4201);
-  ExpectPower(open, "-", false);
-  open.Projector().Accept("Get 0x6000");
-  open.Page().InitDisp();
-  open.Projector().Answer("Get 0x6000", 0);
-  open.Driver().Click(kOff);
-  ExpectBox(boxes, 4202);
-  ExpectPower(open, "Off", true);
-  open.Projector().Answer("Get 0x6000", 2);
-  open.Driver().Click(kOff);
-  ExpectBox(boxes, 4202);
-  ExpectPower(open, "Cooling Down", false);
 }
 
 }  // namespace

@@ -10,14 +10,37 @@
 
 #include <QAbstractButton>
 #include <QTabBar>
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+#include "i18n/Catalog.h"
+#include "settings/CatalogNumbers.h"
+#include "tests/i18n/ModuleBuilder.h"
 #include "tests/pages/PageDescriber.h"
 #include "tests/support/DialogDriver.h"
-#include "tests/support/NumberedCatalog.h"
 #include "toolkit/CSliderCtrl.h"
 
 namespace {
+
+/// While it lives, every caption, text of the list category and error text is its own number
+/// behind a #, so that a test sees which text is asked for, also where two texts read the same.
+struct NumberedCatalog {
+  NumberedCatalog() {
+    TestBlock captions{MessageId(4, 0), {}};
+    for (int number = 0; number < 4400; ++number) {
+      captions.entries.push_back(Ansi('#' + std::to_string(number) + "\r\n"));
+    }
+    TestBlock list{MessageId(5, 0), captions.entries};
+    list.entries[ListText::StatusValue] = Ansi("status %1\r\n");  // around another text
+    const TestBlock errors{MessageId(2201, 0), captions.entries};
+    const std::string folder = own.path().toStdString();
+    TestModule({{1033, {captions, list, errors}}}).Save(folder + "/mcdll.dll");
+    EXPECT_EQ(LoadCatalog(std::span(&folder, 1)), 0);
+  }
+  ~NumberedCatalog() { LoadCatalog(); }
+
+  QTemporaryDir own;  // tests that run side by side have catalogs of their own
+};
 
 /// Per page and part of it, the forms that it has and the models that have it so.
 using Forms = std::vector<std::pair<std::string, std::string>>;
@@ -45,50 +68,37 @@ CModelInfo2 WithWideRanges(CModelInfo2 info) {
 }
 
 // Where the sliders of a page have their ranges from, and where their buttons stop.
-class Ranges {
- public:
-  Ranges(CDialog& page, MoodyProjector& projector, const std::function<void()>& refresh)
-      : page_(page), projector_(projector), refresh_(refresh) {}
-
-  std::string Describe() {
-    std::string text;
-    projector_.mood = MoodyProjector::Mood::Ignores;
-    for (const RowTemplate& row : page_.Template()->rows) {
-      for (std::size_t i = 0; i < row.controls.size(); ++i) {
-        if (row.controls[i].kind != ControlKind::Slider) continue;
-        const auto& slider = page_.Item<CSliderCtrl>(row.controls[i].id);
-        if (!slider.isVisible()) continue;
-        const int minimum = slider.minimum(), range = slider.maximum() - minimum - kWide;
-        text += "  slider " + std::to_string(row.controls[i].id) + ": ";
-        text += range < 0 ? "its own" : std::to_string(range);
-        text += ", from " + std::to_string(minimum) + ", ticks ";
-        text += std::to_string(slider.tickInterval()) + "; steps down from ";
-        text += std::to_string(LastStep(row.controls[i - 1].id, 1000)) + ", up from ";
-        text += std::to_string(LastStep(row.controls[i + 1].id, -1000)) + '\n';
-      }
-    }
-    return text;
-  }
-
- private:
-  // The last device value from which a button still does something.
-  int LastStep(int button, int first) {
+std::string Ranges(CDialog& page, MoodyProjector& projector, const std::function<void()>& refresh) {
+  projector.mood = MoodyProjector::Mood::Ignores;
+  const auto lastValueThatSteps = [&](int button, int first) {
     int stepping = first, stopped = -first;
     while (std::abs(stepping - stopped) > 1) {
-      projector_.value = static_cast<std::int16_t>((stepping + stopped) / 2);
-      refresh_();
-      projector_.log.clear();
-      page_.Item<QAbstractButton>(button).click();
-      const bool sends = projector_.log.find(" sends") != std::string::npos;
-      (sends ? stepping : stopped) = *projector_.value;
+      projector.value = static_cast<std::int16_t>((stepping + stopped) / 2);
+      refresh();
+      projector.log.clear();
+      page.Item<QAbstractButton>(button).click();
+      const bool sends = projector.log.find(" sends") != std::string::npos;
+      (sends ? stepping : stopped) = *projector.value;
     }
-    return stepping;
+    return std::to_string(stepping);
+  };
+  std::string text;
+  for (const RowTemplate& row : page.Template()->rows) {
+    for (std::size_t i = 0; i < row.controls.size(); ++i) {
+      if (row.controls[i].kind != ControlKind::Slider) continue;
+      const auto& slider = page.Item<CSliderCtrl>(row.controls[i].id);
+      if (!slider.isVisible()) continue;
+      const int minimum = slider.minimum(), range = slider.maximum() - minimum - kWide;
+      text += "  slider " + std::to_string(row.controls[i].id) + ": ";
+      text += range < 0 ? "its own" : std::to_string(range);
+      text += ", from " + std::to_string(minimum) + ", ticks ";
+      text += std::to_string(slider.tickInterval()) + "; steps down from ";
+      text += lastValueThatSteps(row.controls[i - 1].id, 1000) + ", up from ";
+      text += lastValueThatSteps(row.controls[i + 1].id, -1000) + '\n';
+    }
   }
-
-  CDialog& page_;
-  MoodyProjector& projector_;
-  const std::function<void()>& refresh_;
-};
+  return text;
+}
 
 void AddPages(Listing& listing, const CModelInfo2& info, bool ranges) {
   const std::string type = "type " + std::to_string(info.DialogType) + ", ";
@@ -101,8 +111,7 @@ void AddPages(Listing& listing, const CModelInfo2& info, bool ranges) {
   const auto add = [&](const std::string& name, CDialog& page,
                        const std::function<void()>& refresh) {
     if (ranges) {
-      Add(listing, type + name + ", ranges", {Ranges(page, *projector, refresh).Describe()},
-          info.ModelCode);
+      Add(listing, type + name + ", ranges", {Ranges(page, *projector, refresh)}, info.ModelCode);
     } else {
       Add(listing, type + name, DescribePage(page, *projector, refresh), info.ModelCode);
     }
@@ -146,7 +155,7 @@ std::string WithTexts(const std::string& listing) {
 TEST(PagesByModel, AreAsListed) {
   Listing listing;
   {
-    const NumberedCatalog numbers("#");
+    const NumberedCatalog numbers;
     for (const CModelInfo2& model : EveryModel()) {
       AddPages(listing, model, false);
       AddPages(listing, WithWideRanges(model), true);

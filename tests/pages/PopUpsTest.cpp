@@ -12,24 +12,12 @@ namespace {
 
 using Strings = std::vector<std::string>;
 
-// Over a dialog whose sliders go further than the buttons, with all of them in the middle.
 struct OpenPopUp : OpenDialog {
   explicit OpenPopUp(PopUp kind, int code = 30, bool hideResets = false)
-      : OpenDialog(Wide(code), 0, Centred), popUp(MakePopUp(kind, Dialog(), hideResets)) {
+      : OpenDialog(MakeModel(5, code)), popUp(MakePopUp(kind, Dialog(), hideResets)) {
     Open(*popUp);
     EXPECT_TRUE(QTest::qWaitForWindowActive(popUp.get()));
   }
-  static CModelInfo2 Wide(int code) {
-    CModelInfo2 model = MakeModel(5, code);
-    for (std::size_t i = 0; i < RangeIndex::Count; ++i) model.RangeText(i) = "94,162";
-    return model;
-  }
-  static void Centred(RecordingChannel& projector) {
-    for (int code = 0x3090; code <= 0x30B7; ++code) {
-      projector.Answer("Get 0x" + QString::number(code, 16).toUpper().toStdString(), 128);
-    }
-  }
-
   Strings Click(int id) {
     Projector().Take();
     driver.Click(id);

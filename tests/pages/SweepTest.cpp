@@ -18,11 +18,6 @@
 
 namespace {
 
-std::vector<CModelInfo2> TypicalModels() {
-  return {FullModel(1, 1), FullModel(2, 6),  FullModel(3, 10),
-          FullModel(4, 9), FullModel(5, 30), FullModel(5, 42)};
-}
-
 using PageCheck = std::function<void(OpenDialog&, CTabPage&)>;
 
 void ForEachPage(const PageCheck& check, const std::vector<CModelInfo2>& models = EveryModel()) {
@@ -120,10 +115,6 @@ TEST(Sweep, NoTabOfAnyShippedProfileIsBlank) {
   ForEachPage(expectFilled, models);
 }
 
-bool IsSmall(ControlKind kind) {
-  return kind == ControlKind::Minus || kind == ControlKind::Plus || kind == ControlKind::Arrow;
-}
-
 QSize TextSize(const QWidget& widget, const QString& text) {
   return {widget.fontMetrics().horizontalAdvance(text) + 8, widget.fontMetrics().height()};
 }
@@ -136,11 +127,13 @@ void ExpectNothingClipped(const CDialog& page) {
       const QWidget* widget = page.GetDlgItem(control.id);
       if (widget == nullptr || !widget->isVisible()) continue;
       EXPECT_TRUE(widget->parentWidget()->rect().contains(widget->geometry())) << control.id;
+      const bool small = control.kind == ControlKind::Minus || control.kind == ControlKind::Plus ||
+                         control.kind == ControlKind::Arrow;
       const QSize needed = control.kind == ControlKind::Slider ? widget->minimumSizeHint()
                            : control.kind == ControlKind::Field
                                ? TextSize(*widget, QStringLiteral("-128"))
-                           : IsSmall(control.kind) ? TextSize(*widget, WindowText(*widget))
-                                                   : widget->sizeHint();
+                           : small ? TextSize(*widget, WindowText(*widget))
+                                   : widget->sizeHint();
       EXPECT_GE(widget->width(), needed.width()) << control.id;
       EXPECT_GE(widget->height(), needed.height()) << control.id;
       for (const QWidget* other : visible) {
@@ -202,8 +195,11 @@ TEST(Sweep, PresentRowsArePacked) {
 
 // Also run on other screens, where a model of each type must do.
 TEST(Sweep, NothingIsClippedOrOutOfReachInEitherLanguageAtAnyFontSize) {
-  const bool everyModel = qEnvironmentVariableIsEmpty("TEST_SCREEN");
-  const std::vector<CModelInfo2> models = everyModel ? EveryModel() : TypicalModels();
+  std::vector<CModelInfo2> models = EveryModel();
+  if (qEnvironmentVariableIsSet("TEST_SCREEN")) {
+    models = {FullModel(1, 1), FullModel(2, 6),  FullModel(3, 10),
+              FullModel(4, 9), FullModel(5, 30), FullModel(5, 42)};
+  }
   const QFont before = QApplication::font();
   for (const char* language : {"en_US.UTF-8", "zh_CN.UTF-8"}) {
     qputenv("LC_ALL", language);

@@ -19,14 +19,12 @@ constexpr int kCurrentInput = 20337, kReset = 20328, kStandby = 20368, kHdmi = 2
 
 /// A page of a model, in front, on a projector with these values; −1 is a refusal.
 struct Type5Page : OpenDialog {
-  Type5Page(int tab, const CModelInfo2& model, const std::map<std::string, int>& values = {})
-      : OpenDialog(model, tab, [&values](RecordingChannel& channel) {
+  Type5Page(int tab, int code, const std::map<std::string, int>& values = {})
+      : OpenDialog(FullModel(5, code), tab, [&values](RecordingChannel& channel) {
           for (const auto& [key, value] : values) {
             value < 0 ? channel.Refuse(key) : channel.Answer(key, value);
           }
         }) {}
-  Type5Page(int tab, int code, const std::map<std::string, int>& values = {})
-      : Type5Page(tab, FullModel(5, code), values) {}
 
   CAudioType5Dlg& Audio() {
     return static_cast<CAudioType5Dlg&>(Dialog().Page(PageId::AudioType5));
@@ -120,10 +118,10 @@ TEST(Setup5, OnlyTheZoomButtonsInsistOnTheResultOne) {
 TEST(Setup5, AnUnknownLampModeMovesThoseBehindItUp) {
   CModelInfo2 model = MakeModel(5, 44);
   for (const char* name : {"Normal", "Eco", "Bright"}) AddEntry(model.WhisperList, 0, name);
-  Type5Page page(kSetupTab, model);
-  EXPECT_EQ(page.driver.Entries(20315), (QStringList{"Normal", "Bright"}));
-  page.driver.Choose(20315, 1);
-  EXPECT_EQ(page.projector.Take(), Strings{"SetWhisper 1"});
+  OpenDialog open(model, kSetupTab);
+  EXPECT_EQ(open.Driver().Entries(20315), (QStringList{"Normal", "Bright"}));
+  open.Driver().Choose(20315, 1);
+  EXPECT_EQ(open.Projector().Take(), Strings{"SetWhisper 1"});
 }
 
 TEST(Setup5, SavingIsSentWhenTheAnswerIsYes) {

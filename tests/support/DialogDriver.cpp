@@ -34,14 +34,10 @@ void DialogDriver::Choose(int id, int position) const {
   QTest::keyClick(combo.view(), Qt::Key_Enter);
 }
 
-QPoint DialogDriver::HandleCentre(int id) const {
-  return Item<CSliderCtrl>(id).HandleRect().center();
-}
-
 void DialogDriver::Drag(int id, int position) const {
   auto& slider = Item<CSliderCtrl>(id);
   ASSERT_TRUE(slider.isVisible() && slider.isEnabled()) << "slider " << id << " is not in use";
-  QPoint at = HandleCentre(id);
+  QPoint at = slider.HandleRect().center();
   QTest::mousePress(&slider, Qt::LeftButton, {}, at);
   // The pixel that stands for a position depends on the style: follow the handle.
   for (int guard = 0; slider.sliderPosition() != position && guard < 4 * slider.width(); ++guard) {
@@ -149,7 +145,7 @@ MessageBoxes::MessageBoxes(bool yes) : yes_(yes) {
   QObject::connect(&timer_, &QTimer::timeout, [this] {
     auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     if (box == nullptr || !box->isVisible()) return;
-    boxes_.push_back({box->text(), box->icon()});
+    texts_.push_back(box->text());
     QAbstractButton* button = box->button(QMessageBox::Ok);
     if (button == nullptr) button = box->button(yes_ ? QMessageBox::Yes : QMessageBox::No);
     QTest::mouseClick(button, Qt::LeftButton);
@@ -157,7 +153,7 @@ MessageBoxes::MessageBoxes(bool yes) : yes_(yes) {
   timer_.start(1);
 }
 
-std::vector<MessageBoxes::Box> MessageBoxes::Take() { return std::exchange(boxes_, {}); }
+std::vector<QString> MessageBoxes::Take() { return std::exchange(texts_, {}); }
 
 void WhenModal(const char* className, std::function<void(CDialog&)> act) {
   QTimer::singleShot(0, [className, act = std::move(act)] {

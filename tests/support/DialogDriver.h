@@ -37,9 +37,6 @@ class DialogDriver {
   void Press(int id, Qt::Key key) const;
   void Wheel(int id, int notches) const { ::Wheel(Item<QWidget>(id), notches); }
 
-  /// Centre of the slider's handle, in the slider's coordinates.
-  QPoint HandleCentre(int id) const;
-
   bool IsEnabled(int id) const;
   /// Text of a label, button, field, or of a list's selected entry.
   QString Text(int id) const;
@@ -92,17 +89,13 @@ class MessageBoxes {
   /// `yes` answers yes/no questions.
   explicit MessageBoxes(bool yes = false);
 
-  struct Box {
-    QString text;
-    int icon;
-  };
-  /// The boxes answered since the last call.
-  std::vector<Box> Take();
+  /// The texts of the boxes answered since the last call.
+  std::vector<QString> Take();
 
  private:
   QTimer timer_;
   bool yes_;
-  std::vector<Box> boxes_;
+  std::vector<QString> texts_;
 };
 
 /// Runs `act` on the next modal dialog of this class, then closes it with Esc.

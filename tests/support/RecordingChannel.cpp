@@ -33,8 +33,7 @@ auto Find(const auto& scripted, std::string command) {
 PjtReply RecordingChannel::Execute(const PjtCommand& command) {
   const std::string text = Describe(command);
   sent_.push_back(text);
-  const bool refusedToo = refusesChanges_ && !IsRead(command.operation);
-  if (refusedToo || Find(refused_, text) != refused_.end()) {
+  if (Find(refused_, text) != refused_.end()) {
     return {.result = RefusedResult(command.operation), .value = -1};
   }
   const auto value = Find(values_, text);

@@ -24,8 +24,6 @@ class RecordingChannel final : public ProjectorChannel {
   /// The commands with this key, unless refused, answer with this result instead of plain success.
   void AnswerResult(const std::string& key, int result) { results_[key] = result; }
   void Accept(const std::string& key) { refused_.erase(key); }
-  /// Whatever is no read is refused.
-  void RefuseChanges(bool refuse) { refusesChanges_ = refuse; }
 
   /// The commands since the last call, oldest first.
   std::vector<std::string> Take();
@@ -36,6 +34,5 @@ class RecordingChannel final : public ProjectorChannel {
   std::map<std::string, int> values_;
   std::map<std::string, int> results_;
   std::set<std::string> refused_;
-  bool refusesChanges_ = false;
   std::vector<std::string> sent_;
 };

@@ -75,7 +75,7 @@ TEST_F(DialogTest, ASliderReportsOnlyTheEndOfWhatTheUserDoes) {
   slider.setValue(3);
   EXPECT_TRUE(dialog.scrolls.empty()) << "moved by program";
   for (const Qt::MouseButton button : {Qt::MiddleButton, Qt::RightButton}) {
-    QTest::mouseClick(&slider, button, {}, QPoint(4, driver.HandleCentre(4).y()));
+    QTest::mouseClick(&slider, button, {}, QPoint(4, slider.HandleRect().center().y()));
   }
   EXPECT_EQ(slider.value(), 3) << "only the left button moves it";
 
@@ -101,7 +101,7 @@ TEST_F(DialogTest, ASliderReportsOnlyTheEndOfWhatTheUserDoes) {
   EXPECT_EQ(dialog.scrolls.size(), 3U) << "taken out of use in mid-step";
 
   QTest::mouseClick(&slider, Qt::LeftButton, {},
-                    QPoint(slider.width() - 4, driver.HandleCentre(4).y()));
+                    QPoint(slider.width() - 4, slider.HandleRect().center().y()));
   ASSERT_EQ(dialog.scrolls.size(), 4U) << "a click in the groove";
   EXPECT_GT(dialog.scrolls.back(), 6);
 }
@@ -177,6 +177,15 @@ TEST_F(DialogTest, EnterPressesTheFocusedButtonOnlyAndEscCloses) {
   driver.Press(9, Qt::Key_Escape);
   EXPECT_FALSE(dialog.isVisible());
   EXPECT_EQ(dialog.destroyed, 1);
+}
+
+TEST_F(DialogTest, ARowThatGoesAwayLeavesNoSpace) {
+  const int height = dialog.height(), last = dialog.GetDlgItem(11)->y();
+  const int pitch = last - dialog.GetDlgItem(7)->y();
+  dialog.ShowRow(9, false);
+  QTest::qWait(1);
+  EXPECT_EQ(dialog.GetDlgItem(11)->y(), last - pitch);
+  EXPECT_EQ(dialog.height(), height - pitch) << "a pop-up follows its rows";
 }
 
 TEST_F(DialogTest, ListsAreAsWideAsTheirColumnWhateverTheyHold) {

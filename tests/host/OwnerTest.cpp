@@ -35,6 +35,11 @@ void When(const std::function<bool()>& isSo, const std::function<void()>& act) {
   timer->start(1);
 }
 
+// When all is read, however long a busy machine takes for that.
+void WhenIdle(const CAdvanceDlg& dialog, const std::function<void()>& act) {
+  When([&dialog] { return dialog.isVisible() && !dialog.IsBusy(); }, act);
+}
+
 enum class Moment { Opening, Refresh, Handler, PopUp, PopUpHandler, MessageBox };
 
 bool IsModal(const char* name) {
@@ -49,11 +54,10 @@ class Host {
 
   QWidget* Owner() { return owner_; }
 
-  // No event comes in while a command is answered at once, however busy the machine is.
   void Prepare(CAdvanceDlg& dialog) {
     dialog.CopyData(&model_, 0);
-    dialog.Projector().SetChannel(std::make_shared<BoundedChannel>(
-        projector, BoundedChannel::Limits{.timeOut = 1h, .quickAnswer = 100ms}));
+    dialog.Projector().SetChannel(
+        std::make_shared<BoundedChannel>(projector, BoundedChannel::Limits{.timeOut = 1h}));
   }
 
   void DieWhileACommandWaits() {
@@ -125,7 +129,7 @@ TEST_P(OwnerTest, DiesWhileTheDialogIsInUse) {
   if (moment == Moment::Opening) host.DieWhileACommandWaits();
   if (modal) {
     if (moment != Moment::Opening) {
-      QTimer::singleShot(0, dialog, [&, moment = moment] { host.Die(*dialog, moment); });
+      WhenIdle(*dialog, [&, moment = moment] { host.Die(*dialog, moment); });
     }
     EXPECT_EQ(dialog->DoModal(), QDialog::Rejected);
   } else {
@@ -149,7 +153,7 @@ TEST(OwnerOfALocalDialog, DiesAndTheDialogIsThereToBeRunAgain) {
     Host host;
     CAdvanceDlg dialog(host.Owner());
     host.Prepare(dialog);
-    QTimer::singleShot(0, qApp, [&] { idle ? host.LetDie() : host.Die(dialog, Moment::Handler); });
+    WhenIdle(dialog, [&] { idle ? host.LetDie() : host.Die(dialog, Moment::Handler); });
     EXPECT_EQ(dialog.DoModal(), QDialog::Rejected);
     host.ExpectEnded(!idle);
 
@@ -167,7 +171,7 @@ TEST(OwnerOfADialogWithoutParent, DiesAndTakesWhatIsOverItDown) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(host.Owner()));
     CAdvanceDlg dialog;
     host.Prepare(dialog);
-    QTimer::singleShot(0, qApp, [&] {
+    WhenIdle(dialog, [&] {
       if (box) return host.Die(dialog, Moment::MessageBox);
       When([] { return IsModal("CServiceDlg"); }, [&] { host.LetDie(); });
       CServiceDlg popup(nullptr);

@@ -132,6 +132,7 @@ TEST_F(CatalogTest, TakesTheFirstFileAndNoneAfterADamagedOneAndTellsWhy) {
   fs::create_directories("empty/mcdll.dll");
   fs::create_directories("good");
   TestModule({{1033, {{kFirst, {Unicode(u"good\r\n")}}}}}).Save("good/mcdll.dll");
+  const std::vector<std::string> folders = {"absent", "empty", "good"};
   EXPECT_EQ(LoadCatalog(folders), 0);
   EXPECT_EQ(CatalogText(4, 1), "good");
   EXPECT_EQ(CatalogProblem(), "");

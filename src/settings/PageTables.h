@@ -56,4 +56,4 @@ struct PagePopUp {
   int button;
 };
 /// The pop-ups that a page opens on this model.
-ADVANCED_CONTROL_EXPORT std::vector<PagePopUp> PopUpsOf(PageId page, const ModelData& model);
+std::vector<PagePopUp> PopUpsOf(PageId page, const ModelData& model);

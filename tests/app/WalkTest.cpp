@@ -39,7 +39,7 @@ class Walk {
   }
   ~Walk() {
     window_.reset();
-    for (const Foreign& foreign : foreign_) delete foreign.owner;
+    for (const auto& owner : owners_) delete owner;
   }
 
   void Run() {
@@ -54,11 +54,6 @@ class Walk {
   int checked = 0;
 
  private:
-  struct Foreign {
-    QPointer<QWidget> owner;
-    QPointer<CAdvanceDlg> dialog;
-  };
-
   int Pick(int count) { return std::uniform_int_distribution(0, count - 1)(random_); }
   template <class Item>
   Item& Any(std::vector<Item>& items) {
@@ -132,16 +127,13 @@ class Walk {
   void Open() { opened += window_->OpenDialog(static_cast<std::size_t>(Pick(3))) != nullptr; }
 
   void OpenForeign() {
-    std::erase_if(foreign_, [](const Foreign& foreign) { return foreign.owner == nullptr; });
-    if (foreign_.size() == 4) return KillOwner();
+    std::erase_if(owners_, [](const auto& owner) { return owner == nullptr; });
+    if (owners_.size() == 4) return KillOwner();
     const auto& session = Any(sessions_);
-    Foreign foreign{new QWidget, nullptr};
-    foreign.owner->show();
-    foreign.dialog = new CAdvanceDlg(foreign.owner);
-    const QPointer dialog = foreign.dialog;
+    owners_.emplace_back(new QWidget)->show();
+    const QPointer dialog = new CAdvanceDlg(owners_.back());
     dialog->CopyData(&session->Profile().Model, 0);
     dialog->Projector().SetChannel(session->Channel());
-    foreign_.push_back(foreign);
     ++opened;
     if (Pick(2) == 0 && depth_ == 1) {
       const int depth = std::exchange(depth_, 0);
@@ -153,8 +145,8 @@ class Walk {
   }
 
   void KillOwner() {
-    if (foreign_.empty()) return;
-    const QPointer owner = Any(foreign_).owner;
+    if (owners_.empty()) return;
+    const QPointer owner = Any(owners_);
     if (owner == nullptr) return;
     ++died;
     diedInMidCommand += depth_ > 1;
@@ -211,7 +203,7 @@ class Walk {
   std::mt19937 random_;
   ProjectorSessions sessions_;
   std::unique_ptr<MainWindow> window_ = std::make_unique<MainWindow>(kProfiles);
-  std::vector<Foreign> foreign_;
+  std::vector<QPointer<QWidget>> owners_;  // of dialogs beside the window's
 };
 
 TEST(RandomWalk, OverTheWholeProgramLeavesNothingBehind) {

@@ -119,8 +119,10 @@ TEST(MessageTable, RefusesDamagedModules) {
       EXPECT_FALSE(MessageTable::Parse(module.bytes)) << damage.what << ": " << value;
     }
   }
-  const TestModule twoTexts({{1033, {{1, {Ansi("a"), Ansi("b")}}, {2, {Ansi("c")}}}}});
-  EXPECT_FALSE(MessageTable::Parse(twoTexts.bytes)) << "for one message";
+  for (const std::uint32_t second : {0U, 2U}) {
+    const TestModule mixed({{1033, {{1, {Ansi("a"), Ansi("b")}}, {second, {Ansi("c")}}}}});
+    EXPECT_FALSE(MessageTable::Parse(mixed.bytes)) << "descending, or two texts for a message";
+  }
 }
 
 // A flipped bit is refused, or changes nothing but the text in which it lies.

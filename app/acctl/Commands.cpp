@@ -152,6 +152,7 @@ void Make(const Change& change, const Work& work, ProjectorAccess& projector, Re
   if (!accepted || !answered) return ComplainOf(setting, projector, "refused", report);
   // A setter without a result says nothing; what is read afterwards does.
   const auto now = settings.Read(projector.Connection(), setting, source);
+  if (!projector.Channel().HasAnswered()) return ComplainOf(setting, projector, "", report);
   // A projector that is cooling down does what it was told.
   const bool isSo = setting.kind == Kind::State ? (now == 1) == (*value == 1) : now == *value;
   if (now && !isSo) {

@@ -72,27 +72,45 @@ std::vector<std::string> Cells(const SettingTexts& texts, const ModelSetting& se
   return {std::string(setting.key), texts.Caption(setting), texts.Value(setting, value)};
 }
 
+/// Settings with their values, for people and for scripts.
+class Values {
+ public:
+  explicit Values(const SettingTexts& texts) : texts_(texts) {}
+
+  void Add(const ModelSetting& setting, int value) {
+    table_.Add(Cells(texts_, setting, value));
+    json_.append(ValueOf(texts_, setting, value));
+  }
+  void PutInto(Report& report) const {
+    report.text = table_.Text();
+    report.json["settings"] = json_;
+  }
+
+ private:
+  const SettingTexts& texts_;
+  Table table_;
+  QJsonArray json_;
+};
+
 /// Reads settings into the report; once the projector is gone no other is asked.
 void ReadInto(const Work& work, ProjectorAccess& projector,
               const std::vector<const ModelSetting*>& settings, Report& report) {
   const Progress progress = ProgressOf(work, projector);
-  Table table;
-  QJsonArray values;
+  Values values(work.texts);
   std::vector<SourcedSetting> reads;
-  if (progress.goesOn())
+  if (progress.goesOn()) {
     reads = projector.Settings().PrepareReads(projector.Connection(), settings);
+  }
   for (const auto& [setting, source] : reads) {
     if (const auto value = projector.Settings().Read(projector.Connection(), *setting, source)) {
-      table.Add(Cells(work.texts, *setting, *value));
-      values.append(ValueOf(work.texts, *setting, *value));
+      values.Add(*setting, *value);
     } else {
       ComplainOf(*setting, projector, "cannot be read now", report);
     }
     progress.step();
     if (!progress.goesOn()) break;
   }
-  report.text = table.Text();
-  report.json["settings"] = values;
+  values.PutInto(report);
 }
 
 struct Change {
@@ -128,7 +146,9 @@ std::vector<Change> ChangesOf(const Work& work, const ModelSettings& settings, R
   return changes;
 }
 
-void Make(const Change& change, const Work& work, ProjectorAccess& projector, Report& report) {
+/// Makes a change and adds what the projector has then.
+void Make(const Change& change, const Work& work, ProjectorAccess& projector, Values& values,
+          Report& report) {
   const ModelSetting& setting = *change.setting;
   const ModelSettings& settings = projector.Settings();
   const auto source = settings.PresentSource(projector.Connection(), setting);
@@ -148,13 +168,17 @@ void Make(const Change& change, const Work& work, ProjectorAccess& projector, Re
   const bool accepted = settings.Change(
       projector.Connection(), setting, *value,
       {work.texts.Value(setting, *value), source, ProgressOf(work, projector).goesOn});
-  const bool answered = projector.Channel().HasAnswered();
-  if (!accepted || !answered) return ComplainOf(setting, projector, "refused", report);
+  if (!accepted || !projector.Channel().HasAnswered()) {
+    ComplainOf(setting, projector, "refused", report);
+  }
+  if (projector.Channel().IsGone() || !setting.readable) return;
   // A setter without a result says nothing; what is read afterwards does.
   const auto now = settings.Read(projector.Connection(), setting, source);
+  if (!now) return ComplainOf(setting, projector, "cannot be read now", report);
+  values.Add(setting, *now);
   // A projector that is cooling down does what it was told.
   const bool isSo = setting.kind == Kind::State ? (now == 1) == (*value == 1) : now == *value;
-  if (now && !isSo) {
+  if (accepted && !isSo) {
     report.Complain(
         std::string(setting.key) + ": refused, it is " + work.texts.Value(setting, *now),
         ExitCode::Refused);
@@ -256,14 +280,13 @@ Report RunSet(const Work& work, ProjectorAccess& projector) {
   const std::vector<Change> changes = ChangesOf(work, projector.Settings(), report);
   if (report.code != ExitCode::Done) return report;  // nothing is sent unless all of it can be
   const Progress progress = ProgressOf(work, projector);
-  std::vector<const ModelSetting*> settings;
+  Values values(work.texts);
   for (const Change& change : changes) {
     if (!progress.goesOn()) break;
-    Make(change, work, projector, report);
-    if (change.setting->readable) settings.push_back(change.setting);
+    Make(change, work, projector, values, report);
     progress.step();
   }
-  ReadInto(work, projector, settings, report);
+  values.PutInto(report);
   return report;
 }
 

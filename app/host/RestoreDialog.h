@@ -28,8 +28,8 @@ class RestoreDialog : public QDialog {
 
   /// `file` is where `snapshot` was read from, and where the values that are replaced are kept
   /// beside.
-  RestoreDialog(Purpose purpose, Snapshot snapshot, QString file,
-                const ProjectorSessions& sessions, QWidget* parent = nullptr);
+  RestoreDialog(Purpose purpose, Snapshot snapshot, QString file, const ProjectorSessions& sessions,
+                QWidget* parent = nullptr);
   ~RestoreDialog() override;
 
   /// Reads all projectors and shows what differs. Done by itself when the dialog is shown.

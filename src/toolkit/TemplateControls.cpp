@@ -29,9 +29,7 @@ class LineLabel final : public QLabel {
     if (measured_.isValid() && text() == measuredText_) return measured_;
     measuredText_ = text();
     const bool asQLabel = measuredText_.isEmpty() || measuredText_.contains(QLatin1Char('&'));
-    measured_ = asQLabel
-                    ? QLabel::sizeHint()
-                    : fontMetrics().size(alignment().toInt() & ~Qt::AlignVCenter, measuredText_);
+    measured_ = asQLabel ? QLabel::sizeHint() : fontMetrics().size(0, measuredText_);
     return measured_;
   }
   QSize minimumSizeHint() const override { return sizeHint(); }

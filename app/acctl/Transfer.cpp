@@ -118,7 +118,7 @@ std::string Differences(const Work& work, const Restoration& restoration) {
 
 Restoration Restoring(const Work& work, ProjectorAccess& projector) {
   return {*work.file, projector.Settings(), projector.Connection(),
-          [&work](std::string_view key) { return IsLike(key, work.arguments.only); }};
+          [&work](const SavedSetting& saved) { return IsLike(saved.key, work.arguments.only); }};
 }
 
 void ComplainIfGone(const ProjectorAccess& projector, Report& report) {

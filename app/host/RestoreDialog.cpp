@@ -272,14 +272,16 @@ bool RestoreDialog::IsChecked(int row) const {
 
 // Reads once more what is checked: somebody may have changed it since.
 QString RestoreDialog::RestoreRoom(Room& room) {
-  std::map<std::string, int, std::less<>> rows;
+  // A file may hold a setting for several input sources.
+  std::map<std::pair<std::string, std::optional<int>>, int> rows;
+  const auto idOf = [](const SavedSetting& saved) { return std::pair(saved.key, saved.source); };
   const auto& known = room.restoration->Settings();
   for (std::size_t i = 0; i < known.size(); ++i) {
     const int row = room.firstRow + static_cast<int>(i);
-    if (IsChecked(row)) rows[known[i].saved.key] = row;
+    if (IsChecked(row)) rows[idOf(known[i].saved)] = row;
   }
   Restoration part(snapshot_, room.settings, room.connection,
-                   [&rows](std::string_view key) { return rows.contains(key); });
+                   [&](const SavedSetting& saved) { return rows.contains(idOf(saved)); });
   part.Read(Watched());
   if (part.Count(Outcome::Differs) > 0 && !stopped_) {
     const QString error =
@@ -288,7 +290,7 @@ QString RestoreDialog::RestoreRoom(Room& room) {
     part.Send(texts_, Watched());
   }
   for (const RestoredSetting& restored : part.Settings()) {
-    const int row = rows.find(restored.saved.key)->second;
+    const int row = rows.at(idOf(restored.saved));
     ShowOutcome(restored, row);
     if (restored.outcome == Outcome::Changed || restored.outcome == Outcome::AlreadySo) {
       model_->item(row, kSetting)->setCheckState(Qt::Unchecked);

@@ -32,7 +32,7 @@ Restoration::Restoration(const Snapshot& snapshot, const ModelSettings& model,
                          CPjtInterface& connection, const Filter& filter)
     : model_(model), connection_(connection) {
   for (const SavedSetting& saved : snapshot.settings) {
-    if (!filter(saved.key)) continue;
+    if (!filter(saved)) continue;
     const ModelSetting* const setting = model.Find(saved.key);
     settings_.push_back({saved, setting, Judge(setting, saved.value)});
   }

@@ -4,7 +4,6 @@
 #include <functional>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "snapshots/Snapshot.h"
@@ -35,12 +34,12 @@ struct RestoredSetting {
 /// `model` and `connection` outlive it.
 class Restoration {
  public:
-  using Filter = std::function<bool(std::string_view key)>;
+  using Filter = std::function<bool(const SavedSetting&)>;
 
   /// Only the settings that pass `filter` take part.
   Restoration(
       const Snapshot& snapshot, const ModelSettings& model, CPjtInterface& connection,
-      const Filter& filter = [](std::string_view) { return true; });
+      const Filter& filter = [](const SavedSetting&) { return true; });
 
   /// Reads the projector and tells what differs.
   void Read(const Progress& progress = {});

@@ -23,6 +23,7 @@ class Gate final : public ProjectorChannel {
     const int number = ++executed;
     if (throws) throw std::runtime_error("broken");
     isOpen_.wait(false);
+    std::this_thread::sleep_for(takes);
     ++returned;
     return {.result = 1, .value = static_cast<short>(number), .answered = answered};
   }
@@ -32,6 +33,7 @@ class Gate final : public ProjectorChannel {
     isOpen_.notify_all();
   }
 
+  std::chrono::milliseconds takes{0};
   std::atomic<int> executed = 0;
   std::atomic<int> returned = 0;
   std::atomic<bool> answered = true;
@@ -142,6 +144,16 @@ TEST_F(BoundedChannelTest, ACommandFromInsideTheWaitIsRefusedAndQuittingDoesNotC
   EXPECT_EQ(inside.result, 0);
   EXPECT_FALSE(inside.answered);
   EXPECT_EQ(gate_->executed, 1);
+}
+
+TEST_F(BoundedChannelTest, ALongSeriesOfQuickAnswersLetsTheEventLoopRun) {
+  gate_->takes = 4ms;
+  bool ran = false;
+  QTimer timer;
+  timer.callOnTimeout([&] { ran = true; });
+  timer.start(0);
+  for (int i = 0; i < 40; ++i) EXPECT_TRUE(channel_.Execute(kCommand).answered);
+  EXPECT_TRUE(ran);
 }
 
 TEST_F(BoundedChannelTest, DestructionWaitsForNobody) {

@@ -7,7 +7,6 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <functional>
-#include <future>
 #include <poll.h>
 #include <pty.h>
 #include <string>
@@ -61,24 +60,34 @@ class Peer {
   };
   using Behaviour = std::function<void(End&)>;
 
+  /// Says the first text at once, each other after a request, then nothing.
+  static Behaviour Says(std::vector<std::string> texts, bool keepsOpen = true) {
+    return [texts = std::move(texts), keepsOpen](End& end) {
+      for (std::size_t i = 0; i < texts.size(); ++i) {
+        if (i > 0 && end.Receive().empty()) return;
+        end.Send(texts[i]);
+      }
+      if (keepsOpen) end.Listen();
+    };
+  }
+
   Peer(Way way, std::vector<Behaviour> behaviours) : behaviours_(std::move(behaviours)) {
     std::signal(SIGPIPE, SIG_IGN);
-    std::promise<std::uint16_t> isReady;
-    thread_ = std::thread([&] { way == Way::Tcp ? RunTcp(isReady) : RunSerial(isReady); });
-    port = isReady.get_future().get();
+    thread_ = std::thread([this, way] { Run(way); });
+    Finish(0);
   }
   ~Peer() {
     wanted_ = INT_MAX;
     thread_.join();
   }
 
-  /// Ends the first `count` connections, and returns when they are closed.
+  /// Ends the first `count` connections, and returns when the next may come.
   void Finish(int count) {
     wanted_ = count;
     for (int done = finished_; done < count; done = finished_) finished_.wait(done);
   }
 
-  std::uint16_t port;  ///< 0 of a serial line.
+  std::uint16_t port = 0;  ///< Stays 0 of a serial line.
   std::string Device() const { return folder_.filePath("line").toStdString(); }
 
  private:
@@ -90,50 +99,37 @@ class Peer {
     int accepted = -1;
   };
 
-  void RunTcp(std::promise<std::uint16_t>& isReady) {
+  void Run(Way way) {
     Listener listener;
-    listener.listen(QHostAddress::LocalHost);
-    isReady.set_value(listener.serverPort());
-    while (wanted_ < INT_MAX) {
-      if (!listener.waitForNewConnection(5)) continue;
-      Behave(listener.accepted);
-      close(listener.accepted);
-      CountFinished();
+    if (way == Way::Tcp) {
+      listener.listen(QHostAddress::LocalHost);
+      port = listener.serverPort();
     }
-  }
-
-  void RunSerial(std::promise<std::uint16_t>& isReady) {
-    for (int line = -1, otherEnd = -1; wanted_ < INT_MAX;) {
+    for (int index = 0; wanted_ < INT_MAX; ++index) {
       // The other end is held, so that the line lasts while nobody has it open.
-      openpty(&line, &otherEnd, nullptr, nullptr, nullptr);
-      std::filesystem::remove(Device());
-      std::filesystem::create_symlink(ttyname(otherEnd), Device());
-      if (served_ == 0) {
-        isReady.set_value(0);
-      } else {
-        CountFinished();
+      int line = -1, otherEnd = -1;
+      if (way == Way::Serial) {
+        openpty(&line, &otherEnd, nullptr, nullptr, nullptr);
+        std::filesystem::remove(Device());
+        std::filesystem::create_symlink(ttyname(otherEnd), Device());
       }
-      Behave(line);
+      finished_ = index;
+      finished_.notify_all();
+      while (line < 0 && wanted_ < INT_MAX) {
+        if (listener.waitForNewConnection(5)) line = listener.accepted;
+      }
+      if (line < 0) return;
+      fcntl(line, F_SETFL, O_NONBLOCK);
+      End end(line, [this, index] { return wanted_ > index; });
+      behaviours_[std::min(static_cast<std::size_t>(index), behaviours_.size() - 1)](end);
       close(line);
       close(otherEnd);
     }
   }
 
-  void Behave(int line) {
-    fcntl(line, F_SETFL, O_NONBLOCK);
-    const std::size_t index = served_++;
-    End end(line, [this, index] { return wanted_ > static_cast<int>(index); });
-    behaviours_[std::min(index, behaviours_.size() - 1)](end);
-  }
-  void CountFinished() {
-    ++finished_;
-    finished_.notify_all();
-  }
-
   const std::vector<Behaviour> behaviours_;
   const QTemporaryDir folder_;
-  std::size_t served_ = 0;
   std::atomic<int> wanted_ = 0;
-  std::atomic<int> finished_ = 0;
+  std::atomic<int> finished_ = -1;
   std::thread thread_;
 };

@@ -1,14 +1,11 @@
 #include <future>
-#include <optional>
 #include <string>
 #include <vector>
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QTcpSocket>
+#include <QThread>
 #include <gtest/gtest.h>
 
-#include "device/BoundedChannel.h"
 #include "device/CommandCode.h"
 #include "device/PjLinkChannel.h"
 #include "device/PjLinkLine.h"
@@ -31,69 +28,55 @@ bool Accepted(const PjtCommand& command, const PjtReply& reply) {
   return reply.answered && IsSuccess(command.operation, reply.result);
 }
 
-/// A simulated projector on a port, which answers while the event loop runs.
-class Served {
+/// A simulated projector on a port, which answers on a thread of its own.
+class Served final : QThread {
  public:
-  explicit Served(PjLinkServer::Options options) {
-    options.served.inputs = {{"31", 3, "HDMI"}, {"5A", 7, "Büro"}};
-    server_.emplace(projector, options);
-    EXPECT_TRUE(server_->Listen(kHost, 0));
+  explicit Served(PjLinkServer::Options options) : options_(std::move(options)) {
+    options_.served.inputs = {{"31", 3, "HDMI"}, {"5A", 7, "Büro"}};
+    start();
+    port_ = listening_.get_future().get();
+  }
+  ~Served() override {
+    quit();
+    wait();
   }
 
-  BoundedChannel Channel(const std::string& password = {}) const {
-    return BoundedChannel(Unbounded(password), {.timeOut = 5s, .quickAnswer = 0ms});
-  }
-
-  std::optional<PjLinkDescription> Describe(const std::string& password = {}) const {
-    auto description =
-        std::async(std::launch::async, [&] { return Unbounded(password)->Describe(); });
-    RunUntil([&] { return description.wait_for(0s) == std::future_status::ready; });
-    return description.get();
+  PjLinkChannel Channel(const std::string& password = {}) const {
+    return {kHost, port_, password, kLimits};
   }
 
   /// All that a client gets that sends these bytes, until the server closes or a second is over.
   QByteArray Exchange(const QByteArray& sent) const {
     QTcpSocket socket;
-    socket.connectToHost(QString::fromStdString(kHost), static_cast<quint16>(server_->Port()));
+    socket.connectToHost(QString::fromStdString(kHost), static_cast<quint16>(port_));
     socket.write(sent);
-    RunUntil([&] { return socket.state() == QTcpSocket::UnconnectedState; });
-    return socket.readAll() + (socket.state() == QTcpSocket::ConnectedState ? "open" : "closed");
+    const char* const end = socket.waitForDisconnected(1000) ? "closed" : "open";
+    return socket.readAll() + end;
   }
 
   const std::shared_ptr<SimulatedProjector> projector = std::make_shared<SimulatedProjector>();
 
  private:
-  std::shared_ptr<PjLinkChannel> Unbounded(const std::string& password) const {
-    return std::make_shared<PjLinkChannel>(kHost, server_->Port(), password, kLimits);
-  }
-  static void RunUntil(auto done) {
-    for (const QDeadlineTimer end(1s); !done() && !end.hasExpired();) {
-      QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
-    }
+  void run() override {
+    PjLinkServer server(projector, options_);
+    EXPECT_TRUE(server.Listen(kHost, 0));
+    listening_.set_value(server.Port());
+    exec();
   }
 
-  std::optional<PjLinkServer> server_;
+  PjLinkServer::Options options_;
+  std::promise<int> listening_;
+  int port_ = 0;
 };
-
-/// A scripted projector: says the first text at once, each other after a request, then nothing.
-Peer::Behaviour Script(std::vector<std::string> texts, bool keepsOpen = true) {
-  return [texts = std::move(texts), keepsOpen](Peer::End& end) {
-    for (std::size_t i = 0; i < texts.size(); ++i) {
-      if (i > 0 && end.Receive().empty()) return;
-      end.Send(texts[i]);
-    }
-    if (keepsOpen) end.Listen();
-  };
-}
 
 const std::string kGreeting = "PJLINK 0\r";
 const std::string kFirstClass = "%1CLSS=1\r";
 const std::string kOn = "%1POWR=1\r";
-const Peer::Behaviour kGood = Script({kGreeting, kFirstClass, kOn});
+const Peer::Behaviour kGood = Peer::Says({kGreeting, kFirstClass, kOn});
 
 TEST(PjLinkTest, EveryOperationReachesTheProjector) {
   const Served served({});
-  BoundedChannel channel = served.Channel();
+  PjLinkChannel channel = served.Channel();
   namespace Code = CommandCode;
   const std::tuple<std::uint16_t, int, int> reads[] = {
       {Code::ErrorStatus, 0, 0},  {Code::ErrorStatus, 1, 1},  {Code::ErrorStatus, 2, 2},
@@ -143,21 +126,21 @@ TEST(PjLinkTest, OnlyWhatTheProjectorMayHaveIsAsked) {
   EXPECT_EQ(nowhere.Connection(), State::Unused);
 
   const Served first({.served = {.protocolClass = 1}});
-  BoundedChannel channel = first.Channel();
+  PjLinkChannel channel = first.Channel();
   EXPECT_FALSE(channel.Execute({Op::Get, CommandCode::Freeze}).offered);
   EXPECT_FALSE(channel.Execute({Op::Inc, CommandCode::Volume}).offered);
-  EXPECT_EQ(first.Describe()->inputs.at(0).name, "Digital 1");
+  EXPECT_EQ(first.Channel().Describe()->inputs.at(0).name, "Digital 1");
 }
 
 TEST(PjLinkTest, PasswordsAndDescription) {
   EXPECT_EQ(PjLink::Digest("0123abcd", "secret"), "c511f6b40a18fbb0f98750deedab010e");
   const Served served({.password = "secret"});
   for (const auto* const wrong : {"", "Secret"}) {
-    BoundedChannel channel = served.Channel(wrong);
+    PjLinkChannel channel = served.Channel(wrong);
     EXPECT_FALSE(channel.Execute(kGetPower).answered);
     EXPECT_EQ(channel.Connection(), State::PasswordRequired);
   }
-  const auto description = served.Describe("secret");
+  const auto description = served.Channel("secret").Describe();
   ASSERT_TRUE(description);
   EXPECT_EQ(description->protocolClass, 2);
   EXPECT_EQ(description->name, "Simulated projector");
@@ -165,7 +148,7 @@ TEST(PjLinkTest, PasswordsAndDescription) {
   ASSERT_EQ(sources.count, 2);
   EXPECT_EQ(sources.firstValues[1], 510);
   EXPECT_EQ(NameText(sources.names[1]), "Büro");
-  BoundedChannel channel = served.Channel("secret");
+  PjLinkChannel channel = served.Channel("secret");
   for (int i = 0; i < 2; ++i) EXPECT_TRUE(Accepted(kGetPower, channel.Execute(kGetPower)));
 }
 
@@ -196,7 +179,7 @@ TEST(PjLinkTest, HostilePeersAreUnansweredAndTheNextCommandWorks) {
   }
   for (const auto& [texts, state, keepsOpen] : cases) {
     SCOPED_TRACE(texts.empty() ? "" : texts.back().substr(0, 40));
-    const Peer peer(Way::Tcp, {Script(texts, keepsOpen), kGood});
+    const Peer peer(Way::Tcp, {Peer::Says(texts, keepsOpen), kGood});
     PjLinkChannel channel(kHost, peer.port, "", kLimits);
     EXPECT_FALSE(channel.Execute(kGetPower).answered);
     EXPECT_EQ(channel.Connection(), state);
@@ -218,7 +201,7 @@ TEST(PjLinkTest, HostilePeersAreUnansweredAndTheNextCommandWorks) {
 
 TEST(PjLinkTest, RepliesThatAreNoValueAreRefused) {
   for (const auto* const text : {"%1POWR=7\r", "%1POWR=ERR3\r", "%1POWR=ERR4\r", "%1POWR=\r"}) {
-    const Peer peer(Way::Tcp, {Script({kGreeting, "%1clss=ERR1\r", text, "%1powr=3\r"})});
+    const Peer peer(Way::Tcp, {Peer::Says({kGreeting, "%1clss=ERR1\r", text, "%1powr=3\r"})});
     PjLinkChannel channel(kHost, peer.port, "", kLimits);
     const PjtReply reply = channel.Execute(kGetPower);
     EXPECT_TRUE(reply.answered && reply.offered && reply.result == 0) << text;
@@ -227,11 +210,11 @@ TEST(PjLinkTest, RepliesThatAreNoValueAreRefused) {
 }
 
 TEST(PjLinkTest, AClosedConnectionIsOpenedAgainAndOldRepliesAreDropped) {
-  const auto standby = Script({kGreeting, kFirstClass, "%1POWR=0\r"});
-  const auto turnedOn = Script({kGreeting, kFirstClass, "%1POWR=OK\r"});
-  const auto isClosed = Script({kGreeting, kFirstClass, kOn});
-  const auto saysTwice = Script({kGreeting, kFirstClass, kOn + kOn});
-  const auto breaks = Script({kGreeting, kFirstClass, kOn, ""}, false);
+  const auto standby = Peer::Says({kGreeting, kFirstClass, "%1POWR=0\r"});
+  const auto turnedOn = Peer::Says({kGreeting, kFirstClass, "%1POWR=OK\r"});
+  const auto isClosed = Peer::Says({kGreeting, kFirstClass, kOn});
+  const auto saysTwice = Peer::Says({kGreeting, kFirstClass, kOn + kOn});
+  const auto breaks = Peer::Says({kGreeting, kFirstClass, kOn, ""}, false);
   const std::tuple<Peer::Behaviour, bool, PjtCommand, Peer::Behaviour, bool> cases[] = {
       {isClosed, true, kGetPower, standby, true},
       {isClosed, true, {Op::SetPowerOn}, turnedOn, true},

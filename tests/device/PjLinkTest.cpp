@@ -12,6 +12,7 @@
 #include "simulator/PjLinkServer.h"
 #include "simulator/SimulatedProjector.h"
 #include "tests/device/Peer.h"
+#include "tests/device/Replies.h"
 
 namespace {
 
@@ -20,13 +21,9 @@ using State = ConnectionState;
 using Op = PjtOperation;
 
 constexpr PjLinkChannel::Limits kLimits{.connect = 1s, .answer = 1s};
-constexpr PjtCommand kGetPower{Op::Get, CommandCode::RunningState};
+const PjtCommand kGetPower = Get(CommandCode::RunningState);
 
 const std::string kHost = "127.0.0.1";
-
-bool Accepted(const PjtCommand& command, const PjtReply& reply) {
-  return reply.answered && IsSuccess(command.operation, reply.result);
-}
 
 /// A simulated projector on a port, which answers on a thread of its own.
 class Served final : QThread {
@@ -86,49 +83,41 @@ TEST(PjLinkTest, EveryOperationReachesTheProjector) {
       {Code::RunningState, 2, 2}, {Code::RunningState, 0, 0}};
   for (const auto& [code, held, read] : reads) {
     served.projector->SetCodeValue(code, held);
-    const PjtCommand command{Op::Get, code};
-    const PjtReply reply = channel.Execute(command);
-    EXPECT_TRUE(Accepted(command, reply)) << std::hex << code;
-    EXPECT_EQ(static_cast<std::uint16_t>(reply.value), read) << std::hex << code;
+    EXPECT_EQ(Replies(channel, {Get(code)}), std::to_string(read)) << std::hex << code;
   }
   const std::tuple<PjtCommand, std::uint16_t, int> changes[] = {
       {{Op::SetPowerOn}, Code::RunningState, 1},
       {{Op::Set, Code::InputSource, 31}, Code::InputSource, 3},
       {{Op::SetBlank}, Code::BlankState, 0},
-      {{Op::GetInputSource}, Code::Mute, 1},
       {{Op::Set, Code::BlankState, 1}, Code::BlankState, 1},
       {{Op::SetMute}, Code::Mute, 0},
       {{Op::Set, Code::Mute, 1}, Code::BlankState, 1},
       {{Op::SetFreeze}, Code::Freeze, 0},
       {{Op::Set, Code::Freeze, 1}, Code::Freeze, 1},
       {{Op::Inc, Code::Volume}, Code::Volume, 17},
-      {{Op::Dec, Code::Volume}, Code::Volume, 16},
-      {{Op::SetPowerOff}, Code::RunningState, 0}};
+      {{Op::Dec, Code::Volume}, Code::Volume, 16}};
   for (const auto& [command, affected, wanted] : changes) {
-    EXPECT_TRUE(Accepted(command, channel.Execute(command))) << OperationName(command.operation);
+    EXPECT_EQ(Replies(channel, {command}), "0") << OperationName(command.operation);
     EXPECT_EQ(served.projector->CodeValue(affected), wanted) << OperationName(command.operation);
   }
+  EXPECT_EQ(Replies(channel, {Do(Op::GetInputSource), Do(Op::SetPowerOff), Do(Op::SetMute)}),
+            "31 0 -")
+      << "nothing is muted in standby";
+  EXPECT_EQ(served.projector->CodeValue(Code::RunningState), 0);
   EXPECT_EQ(channel.Connection(), State::Connected);
-  const PjtReply standby = channel.Execute({Op::SetMute, 0, 0});
-  EXPECT_TRUE(standby.answered && standby.offered && standby.result == 0);
 }
 
 TEST(PjLinkTest, OnlyWhatTheProjectorMayHaveIsAsked) {
   PjLinkChannel nowhere("127.0.0.1", 1, "", kLimits);
-  for (const PjtCommand& command : {PjtCommand{Op::GetMirror},
-                                    {Op::Get, CommandCode::Brightness},
-                                    {Op::Get, CommandCode::Volume},
-                                    {Op::ExecLampTimeReset}}) {
-    const PjtReply reply = nowhere.Execute(command);
-    EXPECT_TRUE(reply.answered && !reply.offered && !Accepted(command, reply));
-  }
-  EXPECT_TRUE(nowhere.Execute({Op::Set, CommandCode::InputSource, 305}).answered);
+  EXPECT_EQ(
+      Replies(nowhere, {Do(Op::GetMirror), Get(CommandCode::Brightness), Get(CommandCode::Volume),
+                        Do(Op::ExecLampTimeReset), Set(CommandCode::InputSource, 305)}),
+      "! ! ! ! -");
   EXPECT_EQ(nowhere.Connection(), State::Unused);
 
   const Served first({.served = {.protocolClass = 1}});
   PjLinkChannel channel = first.Channel();
-  EXPECT_FALSE(channel.Execute({Op::Get, CommandCode::Freeze}).offered);
-  EXPECT_FALSE(channel.Execute({Op::Inc, CommandCode::Volume}).offered);
+  EXPECT_EQ(Replies(channel, {Get(CommandCode::Freeze), Inc(CommandCode::Volume)}), "! !");
   EXPECT_EQ(first.Channel().Describe()->inputs.at(0).name, "Digital 1");
 }
 
@@ -137,7 +126,7 @@ TEST(PjLinkTest, PasswordsAndDescription) {
   const Served served({.password = "secret"});
   for (const auto* const wrong : {"", "Secret"}) {
     PjLinkChannel channel = served.Channel(wrong);
-    EXPECT_FALSE(channel.Execute(kGetPower).answered);
+    EXPECT_EQ(Replies(channel, {kGetPower}), "?");
     EXPECT_EQ(channel.Connection(), State::PasswordRequired);
   }
   const auto description = served.Channel("secret").Describe();
@@ -149,7 +138,7 @@ TEST(PjLinkTest, PasswordsAndDescription) {
   EXPECT_EQ(sources.firstValues[1], 510);
   EXPECT_EQ(NameText(sources.names[1]), "Büro");
   PjLinkChannel channel = served.Channel("secret");
-  for (int i = 0; i < 2; ++i) EXPECT_TRUE(Accepted(kGetPower, channel.Execute(kGetPower)));
+  EXPECT_EQ(Replies(channel, {kGetPower, kGetPower}), "1 1");
 }
 
 TEST(PjLinkTest, HostilePeersAreUnansweredAndTheNextCommandWorks) {
@@ -157,6 +146,7 @@ TEST(PjLinkTest, HostilePeersAreUnansweredAndTheNextCommandWorks) {
     std::vector<std::string> texts;
     State state;
     bool keepsOpen = true;
+    const char* answer = "?";
   };
   const auto reply = [](const std::string& text) {
     return std::vector{kGreeting, kFirstClass, text};
@@ -177,13 +167,17 @@ TEST(PjLinkTest, HostilePeersAreUnansweredAndTheNextCommandWorks) {
   for (std::size_t length = 0; length < kOn.size(); ++length) {
     cases.push_back({reply(kOn.substr(0, length)), State::Lost, false});
   }
-  for (const auto& [texts, state, keepsOpen] : cases) {
+  for (const auto* const text : {"%1POWR=7\r", "%1POWR=ERR3\r", "%1POWR=ERR4\r", "%1POWR=\r"}) {
+    const std::vector<std::string> texts{kGreeting, "%1clss=ERR1\r", text, "%1powr=3\r"};
+    cases.push_back({texts, State::Connected, true, "-"});
+  }
+  for (const auto& [texts, state, keepsOpen, answer] : cases) {
     SCOPED_TRACE(texts.empty() ? "" : texts.back().substr(0, 40));
     const Peer peer(Way::Tcp, {Peer::Says(texts, keepsOpen), kGood});
     PjLinkChannel channel(kHost, peer.port, "", kLimits);
-    EXPECT_FALSE(channel.Execute(kGetPower).answered);
+    EXPECT_EQ(Replies(channel, {kGetPower}), answer);
     EXPECT_EQ(channel.Connection(), state);
-    EXPECT_EQ(channel.Execute(kGetPower).value, 1);
+    EXPECT_EQ(Replies(channel, {kGetPower}), "1");
     EXPECT_EQ(channel.Connection(), State::Connected);
   }
   const std::tuple<std::string, int, State> nowhere[] = {
@@ -199,37 +193,24 @@ TEST(PjLinkTest, HostilePeersAreUnansweredAndTheNextCommandWorks) {
   }
 }
 
-TEST(PjLinkTest, RepliesThatAreNoValueAreRefused) {
-  for (const auto* const text : {"%1POWR=7\r", "%1POWR=ERR3\r", "%1POWR=ERR4\r", "%1POWR=\r"}) {
-    const Peer peer(Way::Tcp, {Peer::Says({kGreeting, "%1clss=ERR1\r", text, "%1powr=3\r"})});
-    PjLinkChannel channel(kHost, peer.port, "", kLimits);
-    const PjtReply reply = channel.Execute(kGetPower);
-    EXPECT_TRUE(reply.answered && reply.offered && reply.result == 0) << text;
-    EXPECT_EQ(channel.Execute(kGetPower).value, 1) << "on the same connection, in another case";
-  }
-}
-
 TEST(PjLinkTest, AClosedConnectionIsOpenedAgainAndOldRepliesAreDropped) {
   const auto standby = Peer::Says({kGreeting, kFirstClass, "%1POWR=0\r"});
   const auto turnedOn = Peer::Says({kGreeting, kFirstClass, "%1POWR=OK\r"});
   const auto isClosed = Peer::Says({kGreeting, kFirstClass, kOn});
   const auto saysTwice = Peer::Says({kGreeting, kFirstClass, kOn + kOn});
   const auto breaks = Peer::Says({kGreeting, kFirstClass, kOn, ""}, false);
-  const std::tuple<Peer::Behaviour, bool, PjtCommand, Peer::Behaviour, bool> cases[] = {
-      {isClosed, true, kGetPower, standby, true},
-      {isClosed, true, {Op::SetPowerOn}, turnedOn, true},
-      {saysTwice, false, kGetPower, standby, true},
-      {breaks, false, kGetPower, standby, true},
-      {breaks, false, {Op::SetPowerOn}, kGood, false}};
-  for (const auto& [first, isFinished, then, second, answered] : cases) {
+  const std::tuple<Peer::Behaviour, bool, PjtCommand, Peer::Behaviour, const char*> cases[] = {
+      {isClosed, true, kGetPower, standby, "0"},
+      {isClosed, true, {Op::SetPowerOn}, turnedOn, "0"},
+      {saysTwice, false, kGetPower, standby, "0"},
+      {breaks, false, kGetPower, standby, "0"},
+      {breaks, false, {Op::SetPowerOn}, kGood, "?"}};
+  for (const auto& [first, isFinished, then, second, answer] : cases) {
     Peer peer(Way::Tcp, {first, second});
     PjLinkChannel channel(kHost, peer.port, "", kLimits);
-    EXPECT_EQ(channel.Execute(kGetPower).value, 1);
+    EXPECT_EQ(Replies(channel, {kGetPower}), "1");
     if (isFinished) peer.Finish(1);
-    const PjtReply reply = channel.Execute(then);
-    EXPECT_EQ(reply.answered, answered);
-    EXPECT_EQ(reply.value, 0);
-    EXPECT_TRUE(answered || channel.Execute(kGetPower).value == 1);
+    EXPECT_EQ(Replies(channel, {then}), answer);
   }
 }
 

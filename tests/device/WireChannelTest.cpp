@@ -10,6 +10,7 @@
 #include "device/TcpChannel.h"
 #include "simulator/WireResponder.h"
 #include "tests/device/Peer.h"
+#include "tests/device/Replies.h"
 
 namespace {
 
@@ -22,8 +23,7 @@ constexpr std::size_t kWelcomeSize = 9;
 constexpr std::size_t kReplySize = 15;
 constexpr auto kWays = {Way::Tcp, Way::Serial};
 
-PjtCommand Get(int code) { return {PjtOperation::Get, static_cast<std::uint16_t>(code)}; }
-PjtCommand Set(int value) { return {PjtOperation::Set, 1, static_cast<std::int16_t>(value)}; }
+const PjtCommand kChange = Set(1, 7);
 
 /// Answers reads with their code plus a state that changes raise.
 class Device final : public ProjectorChannel {
@@ -118,11 +118,11 @@ TEST(WireChannelTest, WhateverThePeerDoesTheStateIsClearAndTheNextCommandWorks) 
       Peer peer(way, {behaviour, kServes});
       const auto channel = ChannelTo(peer);
       EXPECT_EQ(channel->Connection(), Unused);
-      EXPECT_FALSE(channel->Execute(Get(5)).answered);
+      EXPECT_EQ(Replies(*channel, {Get(5)}), "?");
       EXPECT_EQ(ConnectionStateText(channel->Connection()),
                 ConnectionStateText(way == Way::Tcp ? onTcp : onSerial));
       peer.Finish(1);
-      EXPECT_EQ(channel->Execute(Get(5)).value, 5);
+      EXPECT_EQ(Replies(*channel, {Get(5)}), "5");
       EXPECT_EQ(channel->Connection(), Connected);
     }
   }
@@ -153,7 +153,7 @@ TEST(WireChannelTest, WhatEndsWhileNothingIsAskedLosesNoCommand) {
       const auto channel = ChannelTo(peer);
       EXPECT_EQ(channel->Execute(Get(1)).value, 1);
       if (isClosed) peer.Finish(1);
-      EXPECT_EQ(channel->Execute(Set(7)).value, 1001) << "and was carried out once";
+      EXPECT_EQ(channel->Execute(kChange).value, 1001) << "and was carried out once";
     }
   }
 }
@@ -177,41 +177,33 @@ Peer::Behaviour AnswersTwice(std::vector<std::size_t>& bursts, std::chrono::mill
 TEST(WireChannelTest, AnnouncedReadsGoOutTogetherAndAreAnsweredInOrder) {
   std::vector<PjtCommand> reads;
   for (int i = 0; i < 80; ++i) reads.push_back(Get(i));
-  struct Step {
-    PjtCommand command;
-    int value;
-    std::chrono::milliseconds pause = 0ms;
-  };
   struct Case {
     const char* name;
-    std::vector<Step> steps;
-    std::vector<std::size_t> bursts;  ///< The hello goes out with the first.
-    std::chrono::milliseconds pause = 0ms;
+    std::vector<PjtCommand> commands;
+    const char* replies;
+    std::vector<std::size_t> bursts;       ///< The hello goes out with the first.
+    std::chrono::milliseconds answers{0};  ///< How long each takes.
+    std::chrono::milliseconds asks{0};     ///< How long the program takes before each.
     Way way = Way::Tcp;
   };
   const Case cases[] = {
-      {"in order",
-       {{Get(0), 0}, {Get(1), 1}, {Get(63), 63}, {Get(64), 64}, {Get(79), 79}},
-       {64, 16}},
-      {"not announced in between", {{Get(20), 20}, {Get(500), 500}, {Get(21), 21}}, {60, 1}},
-      {"passed over, asked for later", {{Get(20), 20}, {Get(22), 22}, {Get(21), 21}}, {60, 1}},
-      {"a change in between", {{Get(20), 20}, {Set(7), 1001}, {Get(21), 1021}}, {60, 1, 1}},
-      {"asked twice", {{Get(20), 20}, {Get(20), 20}}, {60, 1}},
-      {"late", {{Get(20), 20}, {Get(21), 21, kLimits.answer + 20ms}}, {60, 1}},
-      {"takes longer than one may", {{Get(75), 75}, {Get(77), 77}, {Get(79), 79}}, {5}, 100ms},
-      {"serial", {{Get(20), 20}, {Set(7), 1001}, {Get(0), 1000}}, {0, 1, 1, 1}, 0ms, Way::Serial},
+      {"in order", {Get(0), Get(1), Get(63), Get(64), Get(79)}, "0 1 63 64 79", {64, 16}},
+      {"not announced in between", {Get(20), Get(500), Get(21)}, "20 500 21", {60, 1}},
+      {"passed over, asked for later", {Get(20), Get(22), Get(21)}, "20 22 21", {60, 1}},
+      {"a change in between", {Get(20), kChange, Get(21)}, "20 1001 1021", {60, 1, 1}},
+      {"asked twice", {Get(20), Get(20)}, "20 20", {60, 1}},
+      {"late", {Get(20), Get(21)}, "20 21", {60, 1}, 0ms, kLimits.answer + 20ms},
+      {"longer than one may take", {Get(75), Get(77), Get(79)}, "75 77 79", {5}, 100ms},
+      {"serial", {Get(20), kChange, Get(0)}, "20 1001 1000", {0, 1, 1, 1}, 0ms, 0ms, Way::Serial},
   };
-  for (const auto& [name, steps, expected, pause, way] : cases) {
+  for (const auto& [name, commands, replies, expected, answers, asks, way] : cases) {
     SCOPED_TRACE(name);
     std::vector<std::size_t> bursts;
     {
-      const Peer peer(way, {AnswersTwice(bursts, pause)});
+      const Peer peer(way, {AnswersTwice(bursts, answers)});
       BoundedChannel channel(ChannelTo(peer));
       channel.Announce(reads);
-      for (const auto& [command, value, before] : steps) {
-        std::this_thread::sleep_for(before);
-        EXPECT_EQ(channel.Execute(command).value, value);
-      }
+      EXPECT_EQ(Replies(channel, commands, asks), replies);
     }
     EXPECT_EQ(bursts, expected);
   }

@@ -1,10 +1,10 @@
-#include <string>
 #include <thread>
 
 #include <gtest/gtest.h>
 
 #include "simulator/FaultChannel.h"
 #include "simulator/SimulatedProjector.h"
+#include "tests/device/Replies.h"
 
 namespace {
 
@@ -13,44 +13,32 @@ using Clock = std::chrono::steady_clock;
 using Kind = Fault::Kind;
 using Op = PjtOperation;
 
-constexpr PjtCommand kCommands[] = {{Op::SetBrightness, 0, 130}, {Op::ExecTintReset},
-                                    {Op::GetColorTempGainR},     {Op::Get, 0x2003},
-                                    {Op::Get, 0x2004},           {Op::Inc, 0x2004}};
-
 class FaultChannelTest : public testing::Test {
  protected:
-  /// A sign for each of the commands: whether it is accepted.
-  std::string Accepted() {
-    std::string signs;
-    for (const PjtCommand& command : kCommands) {
-      const int result = channel_.Execute(command).result;
-      signs += IsSuccess(command.operation, result) ? '+' : '-';
-    }
-    return signs;
-  }
-
   std::shared_ptr<SimulatedProjector> projector_ = std::make_shared<SimulatedProjector>();
   FaultChannel channel_{projector_, 5s};
 };
 
 TEST_F(FaultChannelTest, TheNarrowestFaultCountsAndALateAnswerIsAnAnswer) {
+  const std::vector commands{Do(Op::SetBrightness, 130), Do(Op::ExecTintReset), Get(0x2004),
+                             Do(Op::GetColorTempGainR),  Set(0x2002, 1),        Get(0x2002)};
   const Fault refuse{.kind = Kind::Refuse};
   channel_.SetFault(refuse);
-  EXPECT_EQ(Accepted(), "------");
+  EXPECT_EQ(Replies(channel_, commands), "- - - - - -");
   EXPECT_EQ(projector_->Value(SettingId::Brightness), 128);
   channel_.SetFault({.kind = Kind::FailRead});
-  EXPECT_EQ(Accepted(), "++---+");
+  EXPECT_EQ(Replies(channel_, commands), "130 128 - - 1 -");
   channel_.SetFault({});
-  channel_.SetFault(std::uint16_t{0x2003}, refuse);
-  EXPECT_EQ(Accepted(), "+++-++");
+  channel_.SetFault(std::uint16_t{0x2002}, refuse);
+  EXPECT_EQ(Replies(channel_, commands), "130 128 128 128 - -");
   channel_.SetFault(Op::SetBrightness, refuse);
-  EXPECT_EQ(Accepted(), "-++-++");
+  EXPECT_EQ(Replies(channel_, commands), "- 128 128 128 - -");
   channel_.SetFault(Op::SetBrightness, {.kind = Kind::Late, .delay = 40ms});
   const auto start = Clock::now();
-  EXPECT_EQ(Accepted(), "+++-++");
+  EXPECT_EQ(Replies(channel_, commands), "130 128 128 128 - -");
   EXPECT_GE(Clock::now() - start, 40ms);
   channel_.SetFault(Op::SetBrightness, {});
-  EXPECT_EQ(Accepted(), "+++-++");
+  EXPECT_EQ(Replies(channel_, commands), "130 128 128 128 - -");
 }
 
 TEST_F(FaultChannelTest, ADropOutEndsWhenItIsCleared) {

@@ -1,12 +1,11 @@
 #include <optional>
 #include <set>
-#include <string>
-#include <vector>
 
 #include <gtest/gtest.h>
 
 #include "device/LoggingChannel.h"
 #include "simulator/SimulatedProjector.h"
+#include "tests/device/Replies.h"
 
 namespace {
 
@@ -93,43 +92,29 @@ TEST(SettingsTableTest, EveryOperationReachesSomethingAndNoSettingOrCodeStandsTw
   }
 }
 
-PjtCommand Do(Op operation, std::int16_t first = 0, std::int16_t second = 0) {
-  return {operation, 0, first, second};
-}
-PjtCommand Get(std::uint16_t code) { return {Op::Get, code}; }
-PjtCommand Set(std::uint16_t code, std::int16_t value) { return {Op::Set, code, value}; }
-
-/// What a new projector replies to the commands, one after the other; "-" where it refuses.
-std::string Replies(const std::vector<PjtCommand>& commands, const SimulatedModel& model = {}) {
-  SimulatedProjector projector(model);
-  std::string replies;
-  for (const PjtCommand& command : commands) {
-    const PjtReply reply = projector.Execute(command);
-    const bool accepted = IsSuccess(command.operation, reply.result);
-    replies += (accepted ? std::to_string(reply.value) : "-") + ' ';
-  }
-  return replies;
-}
-
 TEST(SimulatedProjector, SoundIsKeptForEachSourceAndForStandby) {
-  constexpr std::int16_t kStandby = SimulatedProjector::kStandbySource;
-  EXPECT_EQ(Replies({Do(Op::SetVolumeEachSrc, kStandby, 5), Do(Op::SetVolumeEachSrc, 2, 30),
-                     Do(Op::SetVolumeEachSrc, -1, 30), Get(0x2001), Set(0x2000, 2),
-                     PjtCommand{Op::Inc, 0x2001}, Do(Op::GetInputSrcVolume, 2),
-                     Do(Op::GetInputSrcVolume, kStandby)}),
-            "5 30 - 16 2 31 31 5 ");
+  constexpr int kStandby = SimulatedProjector::kStandbySource;
+  SimulatedProjector projector;
+  EXPECT_EQ(Replies(projector, {Do(Op::SetVolumeEachSrc, kStandby, 5), Get(0x2001),
+                                Do(Op::SetVolumeEachSrc, 2, 30), Do(Op::SetVolumeEachSrc, -1, 30),
+                                Set(0x2000, 2), Inc(0x2001), Do(Op::GetInputSrcVolume, 2),
+                                Do(Op::GetInputSrcVolume, kStandby)}),
+            "5 16 30 - 2 31 31 5");
 }
 
 TEST(SimulatedProjector, MemoriesKeepThePictureAndNothingElse) {
-  EXPECT_EQ(Replies({Set(0x2003, 140), Do(Op::SetMyMemory, 6), Set(0x2002, 1),
-                     Do(Op::SetMyMemory, 3), Get(0x2003), Do(Op::SetMyMemory, 2), Get(0x2003),
-                     Get(0x2002), Do(Op::SetMyMemory, 8), Do(Op::SetMyMemory, -1)}),
-            "140 0 1 0 128 0 140 1 - - ");
+  SimulatedProjector projector;
+  EXPECT_EQ(
+      Replies(projector, {Set(0x2003, 140), Do(Op::SetMyMemory, 6), Set(0x2002, 1),
+                          Do(Op::SetMyMemory, 3), Get(0x2003), Do(Op::SetMyMemory, 2), Get(0x2003),
+                          Get(0x2002), Do(Op::SetMyMemory, 8), Do(Op::SetMyMemory, -1)}),
+      "140 0 1 0 128 0 140 1 - -");
 }
 
 TEST(SimulatedProjector, CodesWithoutMeaningKeepWhatIsWritten) {
-  EXPECT_EQ(Replies({Get(0x2035), Set(0x2035, -1), PjtCommand{Op::Inc, 0x2035}, Get(0x2035)}),
-            "0 -1 - -1 ");
+  SimulatedProjector projector;
+  EXPECT_EQ(Replies(projector, {Get(0x2035), Set(0x2035, -1), Inc(0x2035), Get(0x2035)}),
+            "0 65535 - 65535");
 }
 
 TEST(SimulatedModelTest, AHostsDescriptionShapesTheProjector) {
@@ -143,15 +128,14 @@ TEST(SimulatedModelTest, AHostsDescriptionShapesTheProjector) {
   data.RangeTexts[RangeIndex::Contrast] = "9,3";
   SimulatedModel model = DescribeModel(data);
   model.missing = {Id::Tint};
-  const SimulatedProjector projector(model);
+  SimulatedProjector projector(model);
   EXPECT_EQ(projector.RangeOf(Id::Brightness), (SettingRange{100, 156}));
   EXPECT_EQ(projector.RangeOf(Id::Contrast), (SettingRange{80, 176})) << "a text without sense";
   EXPECT_FALSE(projector.Has(Id::Tint));
-  EXPECT_EQ(Replies({Do(Op::SetTint, 128), Get(0x2203), Do(Op::ExecTintReset)}, model), "- - - ");
-  EXPECT_EQ(Replies({Get(0x2000), Get(0x30A1), Do(Op::SetGamma, 1), Get(0x30A1), Set(0x30A1, 99),
-                     Set(0x30A1, 3), Get(0x30A1), Get(0x30B0)},
-                    model),
-            "4 16 20 20 - 3 20 3 ")
+  EXPECT_EQ(Replies(projector, {Do(Op::SetTint, 128), Get(0x2203), Do(Op::ExecTintReset),
+                                Get(0x2000), Get(0x30A1), Do(Op::SetGamma, 1), Get(0x30A1),
+                                Set(0x30A1, 99), Set(0x30A1, 3), Get(0x30A1), Get(0x30B0)}),
+            "- - - 4 16 20 20 - 3 20 3")
       << "3 is a color temperature, which this page set takes as a gamma too";
 }
 

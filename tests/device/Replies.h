@@ -27,10 +27,10 @@ inline std::string Replies(ProjectorChannel& channel, const std::vector<PjtComma
     const PjtReply reply = channel.Execute(command);
     const bool accepted = IsSuccess(command.operation, reply.result);
     if (!replies.empty()) replies += ' ';
-    replies += !reply.answered  ? "?"
-               : !reply.offered ? "!"
-               : accepted       ? std::to_string(static_cast<std::uint16_t>(reply.value))
-                                : "-";
+    replies += !accepted && !reply.answered  ? "?"
+               : !accepted && !reply.offered ? "!"
+               : accepted ? std::to_string(static_cast<std::uint16_t>(reply.value))
+                          : "-";
   }
   return replies;
 }

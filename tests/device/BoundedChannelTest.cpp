@@ -46,8 +46,7 @@ class BoundedChannelTest : public testing::Test {
  protected:
   ~BoundedChannelTest() override { gate_->Open(true); }
 
-  template <typename Condition>
-  static bool Eventually(Condition condition) {
+  static bool Eventually(auto condition) {
     for (int i = 0; i < 500; ++i) {
       if (condition()) return true;
       std::this_thread::sleep_for(10ms);
@@ -123,12 +122,11 @@ TEST_F(BoundedChannelTest, ACommandFromInsideTheWaitIsRefusedAndQuittingDoesNotC
     EXPECT_EQ(Replies(patient, {kCommand}), "?");
     QCoreApplication::quit();
   });
-  std::thread opener([&] {
+  const std::jthread opener([&] {
     std::this_thread::sleep_for(70ms);
     gate_->Open(true);
   });
   QCoreApplication::exec();
-  opener.join();
   EXPECT_EQ(reply, "1");
 }
 

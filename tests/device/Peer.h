@@ -11,6 +11,7 @@
 #include <pty.h>
 #include <string>
 #include <string_view>
+#include <sys/socket.h>
 #include <thread>
 #include <unistd.h>
 #include <vector>
@@ -73,13 +74,10 @@ class Peer {
 
   Peer(Way way, std::vector<Behaviour> behaviours) : behaviours_(std::move(behaviours)) {
     std::signal(SIGPIPE, SIG_IGN);
-    thread_ = std::thread([this, way] { Run(way); });
+    thread_ = std::jthread([this, way] { Run(way); });
     Finish(0);
   }
-  ~Peer() {
-    wanted_ = INT_MAX;
-    thread_.join();
-  }
+  ~Peer() { wanted_ = INT_MAX; }
 
   /// Ends the first `count` connections, and returns when the next may come.
   void Finish(int count) {
@@ -91,16 +89,8 @@ class Peer {
   std::string Device() const { return folder_.filePath("line").toStdString(); }
 
  private:
-  /// Hands connections over as they come.
-  struct Listener final : QTcpServer {
-    void incomingConnection(qintptr descriptor) override {
-      accepted = static_cast<int>(descriptor);
-    }
-    int accepted = -1;
-  };
-
   void Run(Way way) {
-    Listener listener;
+    QTcpServer listener;
     if (way == Way::Tcp) {
       listener.listen(QHostAddress::LocalHost);
       port = listener.serverPort();
@@ -116,7 +106,8 @@ class Peer {
       finished_ = index;
       finished_.notify_all();
       while (line < 0 && wanted_ < INT_MAX) {
-        if (listener.waitForNewConnection(5)) line = listener.accepted;
+        pollfd polled{static_cast<int>(listener.socketDescriptor()), POLLIN, 0};
+        if (poll(&polled, 1, 5) > 0) line = accept(polled.fd, nullptr, nullptr);
       }
       if (line < 0) return;
       fcntl(line, F_SETFL, O_NONBLOCK);
@@ -131,5 +122,5 @@ class Peer {
   const QTemporaryDir folder_;
   std::atomic<int> wanted_ = 0;
   std::atomic<int> finished_ = -1;
-  std::thread thread_;
+  std::jthread thread_;
 };

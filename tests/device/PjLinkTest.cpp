@@ -77,7 +77,7 @@ TEST(PjLinkTest, EveryOperationReachesTheProjector) {
   namespace Code = CommandCode;
   const std::tuple<std::uint16_t, int, int> reads[] = {
       {Code::ErrorStatus, 0, 0},  {Code::ErrorStatus, 1, 1},  {Code::ErrorStatus, 2, 2},
-      {Code::ErrorStatus, 8, 8},  {Code::ErrorStatus, 6, 9},  {Code::LampTime, 65535, 65535},
+      {Code::ErrorStatus, 8, 8},  {Code::ErrorStatus, 6, 9},  {Code::LampTime, 65535, -1},
       {Code::FilterTime, 0, 0},   {Code::BlankState, 1, 1},   {Code::Mute, 1, 1},
       {Code::Freeze, 1, 1},       {Code::InputSource, 3, 31}, {Code::InputSource, 7, 510},
       {Code::RunningState, 2, 2}, {Code::RunningState, 0, 0}};
@@ -85,25 +85,24 @@ TEST(PjLinkTest, EveryOperationReachesTheProjector) {
     served.projector->SetCodeValue(code, held);
     EXPECT_EQ(Replies(channel, {Get(code)}), std::to_string(read)) << std::hex << code;
   }
-  const std::tuple<PjtCommand, std::uint16_t, int> changes[] = {
-      {{Op::SetPowerOn}, Code::RunningState, 1},
-      {{Op::Set, Code::InputSource, 31}, Code::InputSource, 3},
-      {{Op::SetBlank}, Code::BlankState, 0},
-      {{Op::Set, Code::BlankState, 1}, Code::BlankState, 1},
-      {{Op::SetMute}, Code::Mute, 0},
-      {{Op::Set, Code::Mute, 1}, Code::BlankState, 1},
-      {{Op::SetFreeze}, Code::Freeze, 0},
-      {{Op::Set, Code::Freeze, 1}, Code::Freeze, 1},
-      {{Op::Inc, Code::Volume}, Code::Volume, 17},
-      {{Op::Dec, Code::Volume}, Code::Volume, 16}};
-  for (const auto& [command, affected, wanted] : changes) {
-    EXPECT_EQ(Replies(channel, {command}), "0") << OperationName(command.operation);
-    EXPECT_EQ(served.projector->CodeValue(affected), wanted) << OperationName(command.operation);
-  }
-  EXPECT_EQ(Replies(channel, {Do(Op::GetInputSource), Do(Op::SetPowerOff), Do(Op::SetMute)}),
-            "31 0 -")
+  EXPECT_EQ(Replies(channel, {Do(Op::SetPowerOn), Get(Code::RunningState),
+                              Set(Code::InputSource, 31), Do(Op::GetInputSource)}),
+            "0 1 0 31");
+  EXPECT_EQ(Replies(channel, {Do(Op::SetBlank), Get(Code::BlankState), Set(Code::BlankState, 1),
+                              Do(Op::SetMute), Get(Code::Mute), Set(Code::Mute, 1), Get(Code::Mute),
+                              Get(Code::BlankState)}),
+            "0 0 0 0 0 0 1 1");
+  EXPECT_EQ(Replies(channel, {Do(Op::SetFreeze), Get(Code::Freeze), Set(Code::Freeze, 1),
+                              Get(Code::Freeze), Inc(Code::Volume)}),
+            "0 0 0 1 0");
+  EXPECT_EQ(served.projector->CodeValue(Code::Volume), 17);
+  EXPECT_EQ(
+      Replies(
+          channel,
+          {{Op::Dec, Code::Volume}, Do(Op::SetPowerOff), Get(Code::RunningState), Do(Op::SetMute)}),
+      "0 0 0 -")
       << "nothing is muted in standby";
-  EXPECT_EQ(served.projector->CodeValue(Code::RunningState), 0);
+  EXPECT_EQ(served.projector->CodeValue(Code::Volume), 16);
   EXPECT_EQ(channel.Connection(), State::Connected);
 }
 

@@ -29,8 +29,8 @@ inline std::string Replies(ProjectorChannel& channel, const std::vector<PjtComma
     if (!replies.empty()) replies += ' ';
     replies += !accepted && !reply.answered  ? "?"
                : !accepted && !reply.offered ? "!"
-               : accepted ? std::to_string(static_cast<std::uint16_t>(reply.value))
-                          : "-";
+               : accepted                    ? std::to_string(reply.value)
+                                             : "-";
   }
   return replies;
 }

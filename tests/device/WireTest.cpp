@@ -20,7 +20,6 @@ TEST(WireTest, TheDocumentSaysEveryOperationAndEveryByte) {
   const std::regex exampleLine(R"(\|.*\| `(A5 5A [0-9A-F ]+)` \|)");
   std::size_t operations = 0;
   std::string examples;
-  std::size_t exampleCount = 0;
   for (std::string line; std::getline(file, line);) {
     std::smatch cell;
     if (std::regex_match(line, cell, operationLine)) {
@@ -31,7 +30,6 @@ TEST(WireTest, TheDocumentSaysEveryOperationAndEveryByte) {
       EXPECT_EQ(OperationByNumber(OperationNumber(*operation)), operation) << "given twice";
     } else if (std::regex_match(line, cell, exampleLine)) {
       examples += Bytes(cell[1]);
-      ++exampleCount;
     }
   }
   EXPECT_EQ(operations, kOperationCount);
@@ -45,7 +43,6 @@ TEST(WireTest, TheDocumentSaysEveryOperationAndEveryByte) {
       {3, Wire::Reply{}},
       {3, Wire::Reply{Wire::Status::UnknownOperation}},
   };
-  ASSERT_EQ(exampleCount, std::size(said));
   Wire::Decoder decoder;
   decoder.Add(examples);
   std::string again;

@@ -85,23 +85,18 @@ TEST(PjLinkTest, EveryOperationReachesTheProjector) {
     served.projector->SetCodeValue(code, held);
     EXPECT_EQ(Replies(channel, {Get(code)}), std::to_string(read)) << std::hex << code;
   }
-  EXPECT_EQ(Replies(channel, {Do(Op::SetPowerOn), Get(Code::RunningState),
-                              Set(Code::InputSource, 31), Do(Op::GetInputSource)}),
-            "0 1 0 31");
-  EXPECT_EQ(Replies(channel, {Do(Op::SetBlank), Get(Code::BlankState), Set(Code::BlankState, 1),
-                              Do(Op::SetMute), Get(Code::Mute), Set(Code::Mute, 1), Get(Code::Mute),
-                              Get(Code::BlankState)}),
-            "0 0 0 0 0 0 1 1");
-  EXPECT_EQ(Replies(channel, {Do(Op::SetFreeze), Get(Code::Freeze), Set(Code::Freeze, 1),
-                              Get(Code::Freeze), Inc(Code::Volume)}),
-            "0 0 0 1 0");
+  EXPECT_EQ(Replies(channel,
+                    {Do(Op::SetPowerOn), Get(Code::RunningState), Set(Code::InputSource, 31),
+                     Do(Op::GetInputSource), Do(Op::SetBlank), Get(Code::BlankState),
+                     Set(Code::BlankState, 1), Do(Op::SetMute), Get(Code::Mute), Set(Code::Mute, 1),
+                     Get(Code::Mute), Get(Code::BlankState), Do(Op::SetFreeze), Get(Code::Freeze),
+                     Set(Code::Freeze, 1), Get(Code::Freeze), Inc(Code::Volume)}),
+            "0 1 0 31 0 0 0 0 0 0 1 1 0 0 0 1 0");
   EXPECT_EQ(served.projector->CodeValue(Code::Volume), 17);
-  EXPECT_EQ(
-      Replies(
-          channel,
-          {{Op::Dec, Code::Volume}, Do(Op::SetPowerOff), Get(Code::RunningState), Do(Op::SetMute)}),
-      "0 0 0 -")
-      << "nothing is muted in standby";
+  const PjtCommand lower{Op::Dec, Code::Volume};
+  EXPECT_EQ(Replies(channel, {lower, Do(Op::SetPowerOff), Get(Code::RunningState), lower}),
+            "0 0 0 -")
+      << "nothing is changed in standby";
   EXPECT_EQ(served.projector->CodeValue(Code::Volume), 16);
   EXPECT_EQ(channel.Connection(), State::Connected);
 }
@@ -140,77 +135,75 @@ TEST(PjLinkTest, PasswordsAndDescription) {
   EXPECT_EQ(Replies(channel, {kGetPower, kGetPower}), "1 1");
 }
 
-TEST(PjLinkTest, HostilePeersAreUnansweredAndTheNextCommandWorks) {
+TEST(PjLinkTest, WhateverThePeerDoesTheStateIsClearAndOldRepliesAreDropped) {
   struct Case {
-    std::vector<std::string> texts;
+    Peer::Behaviour first;
+    const char* answer;
     State state;
-    bool keepsOpen = true;
-    const char* answer = "?";
+    bool isClosed = false;  ///< Before the next commands.
+    std::vector<PjtCommand> next{kGetPower};
+    const char* answers = "1";
+    Peer::Behaviour second = kGood;
   };
-  const auto reply = [](const std::string& text) {
-    return std::vector{kGreeting, kFirstClass, text};
+  const auto replies = [](const std::string& text) {
+    return Peer::Says({kGreeting, kFirstClass, text});
   };
+  const auto breaks = Peer::Says({kGreeting, kFirstClass, kOn, ""}, false);
+  const auto standby = replies("%1POWR=0\r");
   std::vector<Case> cases = {
-      {{}, State::NoAnswer},
-      {{"PJLINK"}, State::NoAnswer},
-      {{"HTTP/1.1 400 Bad Request\r"}, State::NotUnderstood},
-      {{"PJLINK 1 0123abcx\r"}, State::NotUnderstood},
-      {{"PJLINK 1 0123abcd\r", "PJLINK ERRA\r"}, State::PasswordRequired, false},
-      {{kGreeting, std::string(10'000'000, 'x')}, State::NotUnderstood},
-      {reply("%1POWR="), State::NoAnswer},
-      {reply("\r"), State::NotUnderstood},
-      {reply("%1POWR ?\r"), State::NotUnderstood},
-      {reply("%2POWR=1\r"), State::NotUnderstood},
-      {reply("%1INPT=31\r"), State::NotUnderstood},
-      {reply("%1POWR=" + std::string(129, '1') + '\r'), State::NotUnderstood}};
+      {Peer::Says({}), "?", State::NoAnswer},
+      {Peer::Says({"PJLINK"}), "?", State::NoAnswer},
+      {Peer::Says({"HTTP/1.1 400 Bad Request\r"}), "?", State::NotUnderstood},
+      {Peer::Says({"PJLINK 1 0123abcx\r"}), "?", State::NotUnderstood},
+      {Peer::Says({"PJLINK 1 0123abcd\r", "PJLINK ERRA\r"}, false), "?", State::PasswordRequired},
+      {Peer::Says({kGreeting, std::string(10'000'000, 'x')}), "?", State::NotUnderstood},
+      {replies("%1POWR="), "?", State::NoAnswer},
+      {replies("\r"), "?", State::NotUnderstood},
+      {replies("%1POWR ?\r"), "?", State::NotUnderstood},
+      {replies("%2POWR=1\r"), "?", State::NotUnderstood},
+      {replies("%1INPT=31\r"), "?", State::NotUnderstood},
+      {replies("%1POWR=" + std::string(129, '1') + '\r'), "?", State::NotUnderstood},
+      {replies(kOn), "1", State::Connected, true, {kGetPower}, "0", standby},
+      {replies(kOn),
+       "1",
+       State::Connected,
+       true,
+       {Do(Op::SetPowerOn)},
+       "0",
+       replies("%1POWR=OK\r")},
+      {replies(kOn + kOn), "1", State::Connected, false, {kGetPower}, "0", standby},
+      {breaks, "1", State::Connected, false, {kGetPower}, "0", standby},
+      {breaks, "1", State::Connected, false, {Do(Op::SetPowerOn), kGetPower}, "? 1"}};
   for (std::size_t length = 0; length < kOn.size(); ++length) {
-    cases.push_back({reply(kOn.substr(0, length)), State::Lost, false});
+    const std::string begin = kOn.substr(0, length);
+    cases.push_back({Peer::Says({kGreeting, kFirstClass, begin}, false), "?", State::Lost});
   }
   for (const auto* const text : {"%1POWR=7\r", "%1POWR=ERR3\r", "%1POWR=ERR4\r", "%1POWR=\r"}) {
-    const std::vector<std::string> texts{kGreeting, "%1clss=ERR1\r", text, "%1powr=3\r"};
-    cases.push_back({texts, State::Connected, true, "-"});
+    const auto refuses = Peer::Says({kGreeting, "%1clss=ERR1\r", text, "%1powr=3\r"});
+    cases.push_back({refuses, "-", State::Connected});
   }
-  for (const auto& [texts, state, keepsOpen, answer] : cases) {
-    SCOPED_TRACE(texts.empty() ? "" : texts.back().substr(0, 40));
-    const Peer peer(Way::Tcp, {Peer::Says(texts, keepsOpen), kGood});
+  for (const Case& one : cases) {
+    SCOPED_TRACE(&one - cases.data());
+    Peer peer(Way::Tcp, {one.first, one.second});
     PjLinkChannel channel(kHost, peer.port, "", kLimits);
-    EXPECT_EQ(Replies(channel, {kGetPower}), answer);
-    EXPECT_EQ(channel.Connection(), state);
-    EXPECT_EQ(Replies(channel, {kGetPower}), "1");
+    EXPECT_EQ(Replies(channel, {kGetPower}), one.answer);
+    EXPECT_EQ(channel.Connection(), one.state);
+    if (one.isClosed) peer.Finish(1);
+    EXPECT_EQ(Replies(channel, one.next), one.answers);
     EXPECT_EQ(channel.Connection(), State::Connected);
-  }
-  const std::tuple<std::string, int, State> nowhere[] = {
-      {"no-such-projector.invalid", 4352, State::NameUnknown},
-      {"", 4352, State::WrongParameters},
-      {kHost, 1, State::NotReachable},
-      {kHost, 65536 + 4352, State::WrongParameters}};
-  for (const auto& [host, port, state] : nowhere) {
-    PjLinkChannel channel(host, port, "", kLimits);
-    EXPECT_FALSE(channel.Execute(kGetPower).answered);
-    EXPECT_FALSE(channel.Describe());
-    EXPECT_EQ(channel.Connection(), state);
   }
 }
 
-TEST(PjLinkTest, AClosedConnectionIsOpenedAgainAndOldRepliesAreDropped) {
-  const auto standby = Peer::Says({kGreeting, kFirstClass, "%1POWR=0\r"});
-  const auto turnedOn = Peer::Says({kGreeting, kFirstClass, "%1POWR=OK\r"});
-  const auto isClosed = Peer::Says({kGreeting, kFirstClass, kOn});
-  const auto saysTwice = Peer::Says({kGreeting, kFirstClass, kOn + kOn});
-  const auto breaks = Peer::Says({kGreeting, kFirstClass, kOn, ""}, false);
-  const std::tuple<Peer::Behaviour, bool, std::vector<PjtCommand>, Peer::Behaviour, const char*>
-      cases[] = {{isClosed, true, {kGetPower}, standby, "0"},
-                 {isClosed, true, {Do(Op::SetPowerOn)}, turnedOn, "0"},
-                 {saysTwice, false, {kGetPower}, standby, "0"},
-                 {breaks, false, {kGetPower}, standby, "0"},
-                 {breaks, false, {Do(Op::SetPowerOn), kGetPower}, kGood, "? 1"}};
-  for (const auto& [first, isFinished, then, second, answers] : cases) {
-    Peer peer(Way::Tcp, {first, second});
-    PjLinkChannel channel(kHost, peer.port, "", kLimits);
-    EXPECT_EQ(Replies(channel, {kGetPower}), "1");
-    if (isFinished) peer.Finish(1);
-    EXPECT_EQ(Replies(channel, then), answers);
-  }
+TEST(PjLinkTest, SaysWhyItCannotConnect) {
+  const auto expect = [](PjLinkChannel&& channel, State state) {
+    EXPECT_EQ(Replies(channel, {kGetPower}), "?");
+    EXPECT_FALSE(channel.Describe());
+    EXPECT_EQ(channel.Connection(), state);
+  };
+  expect({"no-such-projector.invalid", 4352, "", kLimits}, State::NameUnknown);
+  expect({"", 4352, "", kLimits}, State::WrongParameters);
+  expect({kHost, 65536 + 4352, "", kLimits}, State::WrongParameters);
+  expect({kHost, 1, "", kLimits}, State::NotReachable);
 }
 
 TEST(PjLinkTest, TheServerAnswersAsTheStandardSays) {

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "device/BoundedChannel.h"
 #include "device/CPjtInterface.h"
 #include "device/LoggingChannel.h"
 #include "device/ModelData.h"
@@ -31,7 +32,6 @@ class OneReply final : public ProjectorChannel {
 
 TEST(CPjtInterfaceTest, EveryFormBuildsItsCommandAndTakesItsReply) {
   CPjtInterface p;
-  const short step = 12;
   short got = 30;
   auto* const word = reinterpret_cast<unsigned short*>(&got);
   struct Form {
@@ -60,8 +60,8 @@ TEST(CPjtInterfaceTest, EveryFormBuildsItsCommandAndTakesItsReply) {
       {[&] { return p.GetColorTempOffsetB(); }, {Op::GetColorTempOffsetB}, -2, 0},
       {[&] { return p.GetUserGammaPoint(3); }, {Op::GetUserGammaPoint, 0, 3}, -2, 0},
       {[&] { return p.DecrementColorTempGain(2, 7); }, Do(Op::DecrementColorTempGain, 2, 7), -2, 7},
-      {[&] { return p.IncrementAutoPowerOff(step); }, {Op::IncrementAutoPowerOff, 0, 12}, -2, 12},
-      {[&] { return p.DecrementAutoPowerOff(step); }, {Op::DecrementAutoPowerOff, 0, 12}, -2, 12},
+      {[&] { return p.IncrementAutoPowerOff(12); }, {Op::IncrementAutoPowerOff, 0, 12}, -2, 12},
+      {[&] { return p.DecrementAutoPowerOff(12); }, {Op::DecrementAutoPowerOff, 0, 12}, -2, 12},
       {[&] { return p.Get(0x2003, 0, &p, word); }, {Op::Get, 0x2003}, 1, 0, -2},
       {[&] { return p.Set(0x2003, 0xFFFE, &p); }, {Op::Set, 0x2003, -2}, 1, 0},
       {[&] { return p.Inc(0x2003, 0, &p); }, {Op::Inc, 0x2003}, 1, 0},
@@ -82,6 +82,8 @@ TEST(CPjtInterfaceTest, EveryFormBuildsItsCommandAndTakesItsReply) {
     expectCall(form.refused, 30);
     channel->breaks = true;
     expectCall(form.refused, 30);
+    BoundedChannel bounded(channel);
+    EXPECT_EQ(Replies(bounded, {form.command}), "?");
     p.SetChannel(nullptr);
     expectCall(form.refused, 30);
   }

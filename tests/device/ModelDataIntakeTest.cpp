@@ -27,7 +27,6 @@ CModelInfo2 NumberedRecord() {
   for (CountedList* list : {&info.WhisperList, &info.AspectList, &info.GammaList,
                             &info.ColorTempList, &info.MyButtonList}) {
     list->values.back() = ++mark;
-    list->names.back() = MakeNameSlot(std::to_string(mark));
   }
   info.MySourceList.secondValues.back() = 7;
   return info;
@@ -44,7 +43,6 @@ TEST(ModelDataIntakeTest, EveryMemberIsCopied) {
   const ModelData data = MakeModelData(info);
   EXPECT_EQ(members(data), members(info));
   EXPECT_EQ(data.RangeTexts[RangeIndex::Brightness], "956");
-  EXPECT_EQ(data.RangeTexts[RangeIndex::AutoOff], "1080");
   EXPECT_EQ(data.RangeTexts[RangeIndex::Bass], "1068");
 }
 

@@ -152,7 +152,6 @@ TEST(PjLinkTest, WhateverThePeerDoesTheStateIsClearAndOldRepliesAreDropped) {
   const auto standby = replies("%1POWR=0\r");
   std::vector<Case> cases = {
       {Peer::Says({}), "?", State::NoAnswer},
-      {Peer::Says({"PJLINK"}), "?", State::NoAnswer},
       {Peer::Says({"HTTP/1.1 400 Bad Request\r"}), "?", State::NotUnderstood},
       {Peer::Says({"PJLINK 1 0123abcx\r"}), "?", State::NotUnderstood},
       {Peer::Says({"PJLINK 1 0123abcd\r", "PJLINK ERRA\r"}, false), "?", State::PasswordRequired},

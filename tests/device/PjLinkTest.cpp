@@ -155,7 +155,7 @@ TEST(PjLinkTest, WhateverThePeerDoesTheStateIsClearAndOldRepliesAreDropped) {
       {Peer::Says({"HTTP/1.1 400 Bad Request\r"}), "?", State::NotUnderstood},
       {Peer::Says({"PJLINK 1 0123abcx\r"}), "?", State::NotUnderstood},
       {Peer::Says({"PJLINK 1 0123abcd\r", "PJLINK ERRA\r"}, false), "?", State::PasswordRequired},
-      {Peer::Says({kGreeting, std::string(10'000'000, 'x')}), "?", State::NotUnderstood},
+      {Peer::Says({kGreeting, std::string(8'000'000, 'x')}), "?", State::NotUnderstood},
       {replies("%1POWR="), "?", State::NoAnswer},
       {replies("\r"), "?", State::NotUnderstood},
       {replies("%1POWR ?\r"), "?", State::NotUnderstood},

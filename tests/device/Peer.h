@@ -7,11 +7,11 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <functional>
-#include <future>
 #include <poll.h>
 #include <pty.h>
 #include <string>
 #include <string_view>
+#include <sys/socket.h>
 #include <thread>
 #include <unistd.h>
 #include <vector>
@@ -61,79 +61,66 @@ class Peer {
   };
   using Behaviour = std::function<void(End&)>;
 
-  Peer(Way way, std::vector<Behaviour> behaviours) : behaviours_(std::move(behaviours)) {
-    std::signal(SIGPIPE, SIG_IGN);
-    std::promise<std::uint16_t> isReady;
-    thread_ = std::thread([&] { way == Way::Tcp ? RunTcp(isReady) : RunSerial(isReady); });
-    port = isReady.get_future().get();
-  }
-  ~Peer() {
-    wanted_ = INT_MAX;
-    thread_.join();
+  /// Says the first text at once, each other after a request, then nothing.
+  static Behaviour Says(std::vector<std::string> texts, bool keepsOpen = true) {
+    return [texts = std::move(texts), keepsOpen](End& end) {
+      for (std::size_t i = 0; i < texts.size(); ++i) {
+        if (i > 0 && end.Receive().empty()) return;
+        end.Send(texts[i]);
+      }
+      if (keepsOpen) end.Listen();
+    };
   }
 
-  /// Ends the first `count` connections, and returns when they are closed.
+  Peer(Way way, std::vector<Behaviour> behaviours) : behaviours_(std::move(behaviours)) {
+    std::signal(SIGPIPE, SIG_IGN);
+    thread_ = std::jthread([this, way] { Run(way); });
+    Finish(0);
+  }
+  ~Peer() { wanted_ = INT_MAX; }
+
+  /// Ends the first `count` connections, and returns when the next may come.
   void Finish(int count) {
     wanted_ = count;
     for (int done = finished_; done < count; done = finished_) finished_.wait(done);
   }
 
-  std::uint16_t port;  ///< 0 of a serial line.
+  std::uint16_t port = 0;  ///< Stays 0 of a serial line.
   std::string Device() const { return folder_.filePath("line").toStdString(); }
 
  private:
-  /// Hands connections over as they come.
-  struct Listener final : QTcpServer {
-    void incomingConnection(qintptr descriptor) override {
-      accepted = static_cast<int>(descriptor);
+  void Run(Way way) {
+    QTcpServer listener;
+    if (way == Way::Tcp) {
+      listener.listen(QHostAddress::LocalHost);
+      port = listener.serverPort();
     }
-    int accepted = -1;
-  };
-
-  void RunTcp(std::promise<std::uint16_t>& isReady) {
-    Listener listener;
-    listener.listen(QHostAddress::LocalHost);
-    isReady.set_value(listener.serverPort());
-    while (wanted_ < INT_MAX) {
-      if (!listener.waitForNewConnection(5)) continue;
-      Behave(listener.accepted);
-      close(listener.accepted);
-      CountFinished();
-    }
-  }
-
-  void RunSerial(std::promise<std::uint16_t>& isReady) {
-    for (int line = -1, otherEnd = -1; wanted_ < INT_MAX;) {
+    for (int index = 0; wanted_ < INT_MAX; ++index) {
       // The other end is held, so that the line lasts while nobody has it open.
-      openpty(&line, &otherEnd, nullptr, nullptr, nullptr);
-      std::filesystem::remove(Device());
-      std::filesystem::create_symlink(ttyname(otherEnd), Device());
-      if (served_ == 0) {
-        isReady.set_value(0);
-      } else {
-        CountFinished();
+      int line = -1, otherEnd = -1;
+      if (way == Way::Serial) {
+        openpty(&line, &otherEnd, nullptr, nullptr, nullptr);
+        std::filesystem::remove(Device());
+        std::filesystem::create_symlink(ttyname(otherEnd), Device());
       }
-      Behave(line);
+      finished_ = index;
+      finished_.notify_all();
+      while (line < 0 && wanted_ < INT_MAX) {
+        pollfd polled{static_cast<int>(listener.socketDescriptor()), POLLIN, 0};
+        if (poll(&polled, 1, 5) > 0) line = accept(polled.fd, nullptr, nullptr);
+      }
+      if (line < 0) return;
+      fcntl(line, F_SETFL, O_NONBLOCK);
+      End end(line, [this, index] { return wanted_ > index; });
+      behaviours_[std::min(static_cast<std::size_t>(index), behaviours_.size() - 1)](end);
       close(line);
       close(otherEnd);
     }
   }
 
-  void Behave(int line) {
-    fcntl(line, F_SETFL, O_NONBLOCK);
-    const std::size_t index = served_++;
-    End end(line, [this, index] { return wanted_ > static_cast<int>(index); });
-    behaviours_[std::min(index, behaviours_.size() - 1)](end);
-  }
-  void CountFinished() {
-    ++finished_;
-    finished_.notify_all();
-  }
-
   const std::vector<Behaviour> behaviours_;
   const QTemporaryDir folder_;
-  std::size_t served_ = 0;
   std::atomic<int> wanted_ = 0;
-  std::atomic<int> finished_ = 0;
-  std::thread thread_;
+  std::atomic<int> finished_ = -1;
+  std::jthread thread_;
 };

@@ -1,20 +1,18 @@
 #include <future>
-#include <optional>
 #include <string>
 #include <vector>
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QTcpSocket>
+#include <QThread>
 #include <gtest/gtest.h>
 
-#include "device/BoundedChannel.h"
 #include "device/CommandCode.h"
 #include "device/PjLinkChannel.h"
 #include "device/PjLinkLine.h"
 #include "simulator/PjLinkServer.h"
 #include "simulator/SimulatedProjector.h"
 #include "tests/device/Peer.h"
+#include "tests/device/Replies.h"
 
 namespace {
 
@@ -23,141 +21,109 @@ using State = ConnectionState;
 using Op = PjtOperation;
 
 constexpr PjLinkChannel::Limits kLimits{.connect = 1s, .answer = 1s};
-constexpr PjtCommand kGetPower{Op::Get, CommandCode::RunningState};
+const PjtCommand kGetPower = Get(CommandCode::RunningState);
 
 const std::string kHost = "127.0.0.1";
 
-bool Accepted(const PjtCommand& command, const PjtReply& reply) {
-  return reply.answered && IsSuccess(command.operation, reply.result);
-}
-
-/// A simulated projector on a port, which answers while the event loop runs.
-class Served {
+/// A simulated projector on a port, which answers on a thread of its own.
+class Served final : QThread {
  public:
-  explicit Served(PjLinkServer::Options options) {
-    options.served.inputs = {{"31", 3, "HDMI"}, {"5A", 7, "Büro"}};
-    server_.emplace(projector, options);
-    EXPECT_TRUE(server_->Listen(kHost, 0));
+  explicit Served(PjLinkServer::Options options) : options_(std::move(options)) {
+    options_.served.inputs = {{"31", 3, "HDMI"}, {"5A", 7, "Büro"}};
+    start();
+    port_ = listening_.get_future().get();
+  }
+  ~Served() override {
+    quit();
+    wait();
   }
 
-  BoundedChannel Channel(const std::string& password = {}) const {
-    return BoundedChannel(Unbounded(password), {.timeOut = 5s, .quickAnswer = 0ms});
-  }
-
-  std::optional<PjLinkDescription> Describe(const std::string& password = {}) const {
-    auto description =
-        std::async(std::launch::async, [&] { return Unbounded(password)->Describe(); });
-    RunUntil([&] { return description.wait_for(0s) == std::future_status::ready; });
-    return description.get();
+  PjLinkChannel Channel(const std::string& password = {}) const {
+    return {kHost, port_, password, kLimits};
   }
 
   /// All that a client gets that sends these bytes, until the server closes or a second is over.
   QByteArray Exchange(const QByteArray& sent) const {
     QTcpSocket socket;
-    socket.connectToHost(QString::fromStdString(kHost), static_cast<quint16>(server_->Port()));
+    socket.connectToHost(QString::fromStdString(kHost), static_cast<quint16>(port_));
     socket.write(sent);
-    RunUntil([&] { return socket.state() == QTcpSocket::UnconnectedState; });
-    return socket.readAll() + (socket.state() == QTcpSocket::ConnectedState ? "open" : "closed");
+    const char* const end = socket.waitForDisconnected(1000) ? "closed" : "open";
+    return socket.readAll() + end;
   }
 
   const std::shared_ptr<SimulatedProjector> projector = std::make_shared<SimulatedProjector>();
 
  private:
-  std::shared_ptr<PjLinkChannel> Unbounded(const std::string& password) const {
-    return std::make_shared<PjLinkChannel>(kHost, server_->Port(), password, kLimits);
-  }
-  static void RunUntil(auto done) {
-    for (const QDeadlineTimer end(1s); !done() && !end.hasExpired();) {
-      QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
-    }
+  void run() override {
+    PjLinkServer server(projector, options_);
+    EXPECT_TRUE(server.Listen(kHost, 0));
+    listening_.set_value(server.Port());
+    exec();
   }
 
-  std::optional<PjLinkServer> server_;
+  PjLinkServer::Options options_;
+  std::promise<int> listening_;
+  int port_ = 0;
 };
-
-/// A scripted projector: says the first text at once, each other after a request, then nothing.
-Peer::Behaviour Script(std::vector<std::string> texts, bool keepsOpen = true) {
-  return [texts = std::move(texts), keepsOpen](Peer::End& end) {
-    for (std::size_t i = 0; i < texts.size(); ++i) {
-      if (i > 0 && end.Receive().empty()) return;
-      end.Send(texts[i]);
-    }
-    if (keepsOpen) end.Listen();
-  };
-}
 
 const std::string kGreeting = "PJLINK 0\r";
 const std::string kFirstClass = "%1CLSS=1\r";
 const std::string kOn = "%1POWR=1\r";
-const Peer::Behaviour kGood = Script({kGreeting, kFirstClass, kOn});
+const Peer::Behaviour kGood = Peer::Says({kGreeting, kFirstClass, kOn});
 
 TEST(PjLinkTest, EveryOperationReachesTheProjector) {
   const Served served({});
-  BoundedChannel channel = served.Channel();
+  PjLinkChannel channel = served.Channel();
   namespace Code = CommandCode;
   const std::tuple<std::uint16_t, int, int> reads[] = {
       {Code::ErrorStatus, 0, 0},  {Code::ErrorStatus, 1, 1},  {Code::ErrorStatus, 2, 2},
-      {Code::ErrorStatus, 8, 8},  {Code::ErrorStatus, 6, 9},  {Code::LampTime, 65535, 65535},
+      {Code::ErrorStatus, 8, 8},  {Code::ErrorStatus, 6, 9},  {Code::LampTime, 65535, -1},
       {Code::FilterTime, 0, 0},   {Code::BlankState, 1, 1},   {Code::Mute, 1, 1},
       {Code::Freeze, 1, 1},       {Code::InputSource, 3, 31}, {Code::InputSource, 7, 510},
       {Code::RunningState, 2, 2}, {Code::RunningState, 0, 0}};
   for (const auto& [code, held, read] : reads) {
     served.projector->SetCodeValue(code, held);
-    const PjtCommand command{Op::Get, code};
-    const PjtReply reply = channel.Execute(command);
-    EXPECT_TRUE(Accepted(command, reply)) << std::hex << code;
-    EXPECT_EQ(static_cast<std::uint16_t>(reply.value), read) << std::hex << code;
+    EXPECT_EQ(Replies(channel, {Get(code)}), std::to_string(read)) << std::hex << code;
   }
-  const std::tuple<PjtCommand, std::uint16_t, int> changes[] = {
-      {{Op::SetPowerOn}, Code::RunningState, 1},
-      {{Op::Set, Code::InputSource, 31}, Code::InputSource, 3},
-      {{Op::SetBlank}, Code::BlankState, 0},
-      {{Op::GetInputSource}, Code::Mute, 1},
-      {{Op::Set, Code::BlankState, 1}, Code::BlankState, 1},
-      {{Op::SetMute}, Code::Mute, 0},
-      {{Op::Set, Code::Mute, 1}, Code::BlankState, 1},
-      {{Op::SetFreeze}, Code::Freeze, 0},
-      {{Op::Set, Code::Freeze, 1}, Code::Freeze, 1},
-      {{Op::Inc, Code::Volume}, Code::Volume, 17},
-      {{Op::Dec, Code::Volume}, Code::Volume, 16},
-      {{Op::SetPowerOff}, Code::RunningState, 0}};
-  for (const auto& [command, affected, wanted] : changes) {
-    EXPECT_TRUE(Accepted(command, channel.Execute(command))) << OperationName(command.operation);
-    EXPECT_EQ(served.projector->CodeValue(affected), wanted) << OperationName(command.operation);
-  }
+  EXPECT_EQ(Replies(channel,
+                    {Do(Op::SetPowerOn), Get(Code::RunningState), Set(Code::InputSource, 31),
+                     Do(Op::GetInputSource), Do(Op::SetBlank), Get(Code::BlankState),
+                     Set(Code::BlankState, 1), Do(Op::SetMute), Get(Code::Mute), Set(Code::Mute, 1),
+                     Get(Code::Mute), Get(Code::BlankState), Do(Op::SetFreeze), Get(Code::Freeze),
+                     Set(Code::Freeze, 1), Get(Code::Freeze), Inc(Code::Volume)}),
+            "0 1 0 31 0 0 0 0 0 0 1 1 0 0 0 1 0");
+  EXPECT_EQ(served.projector->CodeValue(Code::Volume), 17);
+  const PjtCommand lower{Op::Dec, Code::Volume};
+  EXPECT_EQ(Replies(channel, {lower, Do(Op::SetPowerOff), Get(Code::RunningState), lower}),
+            "0 0 0 -")
+      << "nothing is changed in standby";
+  EXPECT_EQ(served.projector->CodeValue(Code::Volume), 16);
   EXPECT_EQ(channel.Connection(), State::Connected);
-  const PjtReply standby = channel.Execute({Op::SetMute, 0, 0});
-  EXPECT_TRUE(standby.answered && standby.offered && standby.result == 0);
 }
 
 TEST(PjLinkTest, OnlyWhatTheProjectorMayHaveIsAsked) {
   PjLinkChannel nowhere("127.0.0.1", 1, "", kLimits);
-  for (const PjtCommand& command : {PjtCommand{Op::GetMirror},
-                                    {Op::Get, CommandCode::Brightness},
-                                    {Op::Get, CommandCode::Volume},
-                                    {Op::ExecLampTimeReset}}) {
-    const PjtReply reply = nowhere.Execute(command);
-    EXPECT_TRUE(reply.answered && !reply.offered && !Accepted(command, reply));
-  }
-  EXPECT_TRUE(nowhere.Execute({Op::Set, CommandCode::InputSource, 305}).answered);
+  EXPECT_EQ(
+      Replies(nowhere, {Do(Op::GetMirror), Get(CommandCode::Brightness), Get(CommandCode::Volume),
+                        Do(Op::ExecLampTimeReset), Set(CommandCode::InputSource, 305)}),
+      "! ! ! ! -");
   EXPECT_EQ(nowhere.Connection(), State::Unused);
 
   const Served first({.served = {.protocolClass = 1}});
-  BoundedChannel channel = first.Channel();
-  EXPECT_FALSE(channel.Execute({Op::Get, CommandCode::Freeze}).offered);
-  EXPECT_FALSE(channel.Execute({Op::Inc, CommandCode::Volume}).offered);
-  EXPECT_EQ(first.Describe()->inputs.at(0).name, "Digital 1");
+  PjLinkChannel channel = first.Channel();
+  EXPECT_EQ(Replies(channel, {Get(CommandCode::Freeze), Inc(CommandCode::Volume)}), "! !");
+  EXPECT_EQ(first.Channel().Describe()->inputs.at(0).name, "Digital 1");
 }
 
 TEST(PjLinkTest, PasswordsAndDescription) {
   EXPECT_EQ(PjLink::Digest("0123abcd", "secret"), "c511f6b40a18fbb0f98750deedab010e");
   const Served served({.password = "secret"});
   for (const auto* const wrong : {"", "Secret"}) {
-    BoundedChannel channel = served.Channel(wrong);
-    EXPECT_FALSE(channel.Execute(kGetPower).answered);
+    PjLinkChannel channel = served.Channel(wrong);
+    EXPECT_EQ(Replies(channel, {kGetPower}), "?");
     EXPECT_EQ(channel.Connection(), State::PasswordRequired);
   }
-  const auto description = served.Describe("secret");
+  const auto description = served.Channel("secret").Describe();
   ASSERT_TRUE(description);
   EXPECT_EQ(description->protocolClass, 2);
   EXPECT_EQ(description->name, "Simulated projector");
@@ -165,89 +131,78 @@ TEST(PjLinkTest, PasswordsAndDescription) {
   ASSERT_EQ(sources.count, 2);
   EXPECT_EQ(sources.firstValues[1], 510);
   EXPECT_EQ(NameText(sources.names[1]), "Büro");
-  BoundedChannel channel = served.Channel("secret");
-  for (int i = 0; i < 2; ++i) EXPECT_TRUE(Accepted(kGetPower, channel.Execute(kGetPower)));
+  PjLinkChannel channel = served.Channel("secret");
+  EXPECT_EQ(Replies(channel, {kGetPower, kGetPower}), "1 1");
 }
 
-TEST(PjLinkTest, HostilePeersAreUnansweredAndTheNextCommandWorks) {
+TEST(PjLinkTest, WhateverThePeerDoesTheStateIsClearAndOldRepliesAreDropped) {
   struct Case {
-    std::vector<std::string> texts;
+    Peer::Behaviour first;
+    const char* answer;
     State state;
-    bool keepsOpen = true;
+    bool isClosed = false;  ///< Before the next commands.
+    std::vector<PjtCommand> next{kGetPower};
+    const char* answers = "1";
+    Peer::Behaviour second = kGood;
   };
-  const auto reply = [](const std::string& text) {
-    return std::vector{kGreeting, kFirstClass, text};
+  const auto replies = [](const std::string& text) {
+    return Peer::Says({kGreeting, kFirstClass, text});
   };
+  const auto breaks = Peer::Says({kGreeting, kFirstClass, kOn, ""}, false);
+  const auto standby = replies("%1POWR=0\r");
   std::vector<Case> cases = {
-      {{}, State::NoAnswer},
-      {{"PJLINK"}, State::NoAnswer},
-      {{"HTTP/1.1 400 Bad Request\r"}, State::NotUnderstood},
-      {{"PJLINK 1 0123abcx\r"}, State::NotUnderstood},
-      {{"PJLINK 1 0123abcd\r", "PJLINK ERRA\r"}, State::PasswordRequired, false},
-      {{kGreeting, std::string(10'000'000, 'x')}, State::NotUnderstood},
-      {reply("%1POWR="), State::NoAnswer},
-      {reply("\r"), State::NotUnderstood},
-      {reply("%1POWR ?\r"), State::NotUnderstood},
-      {reply("%2POWR=1\r"), State::NotUnderstood},
-      {reply("%1INPT=31\r"), State::NotUnderstood},
-      {reply("%1POWR=" + std::string(129, '1') + '\r'), State::NotUnderstood}};
+      {Peer::Says({}), "?", State::NoAnswer},
+      {Peer::Says({"HTTP/1.1 400 Bad Request\r"}), "?", State::NotUnderstood},
+      {Peer::Says({"PJLINK 1 0123abcx\r"}), "?", State::NotUnderstood},
+      {Peer::Says({"PJLINK 1 0123abcd\r", "PJLINK ERRA\r"}, false), "?", State::PasswordRequired},
+      {Peer::Says({kGreeting, std::string(8'000'000, 'x')}), "?", State::NotUnderstood},
+      {replies("%1POWR="), "?", State::NoAnswer},
+      {replies("\r"), "?", State::NotUnderstood},
+      {replies("%1POWR ?\r"), "?", State::NotUnderstood},
+      {replies("%2POWR=1\r"), "?", State::NotUnderstood},
+      {replies("%1INPT=31\r"), "?", State::NotUnderstood},
+      {replies("%1POWR=" + std::string(129, '1') + '\r'), "?", State::NotUnderstood},
+      {replies(kOn), "1", State::Connected, true, {kGetPower}, "0", standby},
+      {replies(kOn),
+       "1",
+       State::Connected,
+       true,
+       {Do(Op::SetPowerOn)},
+       "0",
+       replies("%1POWR=OK\r")},
+      {replies(kOn + kOn), "1", State::Connected, false, {kGetPower}, "0", standby},
+      {breaks, "1", State::Connected, false, {kGetPower}, "0", standby},
+      {breaks, "1", State::Connected, false, {Do(Op::SetPowerOn), kGetPower}, "? 1"}};
   for (std::size_t length = 0; length < kOn.size(); ++length) {
-    cases.push_back({reply(kOn.substr(0, length)), State::Lost, false});
+    const std::string begin = kOn.substr(0, length);
+    cases.push_back({Peer::Says({kGreeting, kFirstClass, begin}, false), "?", State::Lost});
   }
-  for (const auto& [texts, state, keepsOpen] : cases) {
-    SCOPED_TRACE(texts.empty() ? "" : texts.back().substr(0, 40));
-    const Peer peer(Way::Tcp, {Script(texts, keepsOpen), kGood});
+  for (const auto* const text : {"%1POWR=7\r", "%1POWR=ERR3\r", "%1POWR=ERR4\r", "%1POWR=\r"}) {
+    const auto refuses = Peer::Says({kGreeting, "%1clss=ERR1\r", text, "%1powr=3\r"});
+    cases.push_back({refuses, "-", State::Connected});
+  }
+  for (const Case& one : cases) {
+    SCOPED_TRACE(&one - cases.data());
+    Peer peer(Way::Tcp, {one.first, one.second});
     PjLinkChannel channel(kHost, peer.port, "", kLimits);
-    EXPECT_FALSE(channel.Execute(kGetPower).answered);
-    EXPECT_EQ(channel.Connection(), state);
-    EXPECT_EQ(channel.Execute(kGetPower).value, 1);
+    EXPECT_EQ(Replies(channel, {kGetPower}), one.answer);
+    EXPECT_EQ(channel.Connection(), one.state);
+    if (one.isClosed) peer.Finish(1);
+    EXPECT_EQ(Replies(channel, one.next), one.answers);
     EXPECT_EQ(channel.Connection(), State::Connected);
   }
-  const std::tuple<std::string, int, State> nowhere[] = {
-      {"no-such-projector.invalid", 4352, State::NameUnknown},
-      {"", 4352, State::WrongParameters},
-      {kHost, 1, State::NotReachable},
-      {kHost, 65536 + 4352, State::WrongParameters}};
-  for (const auto& [host, port, state] : nowhere) {
-    PjLinkChannel channel(host, port, "", kLimits);
-    EXPECT_FALSE(channel.Execute(kGetPower).answered);
+}
+
+TEST(PjLinkTest, SaysWhyItCannotConnect) {
+  const auto expect = [](PjLinkChannel&& channel, State state) {
+    EXPECT_EQ(Replies(channel, {kGetPower}), "?");
     EXPECT_FALSE(channel.Describe());
     EXPECT_EQ(channel.Connection(), state);
-  }
-}
-
-TEST(PjLinkTest, RepliesThatAreNoValueAreRefused) {
-  for (const auto* const text : {"%1POWR=7\r", "%1POWR=ERR3\r", "%1POWR=ERR4\r", "%1POWR=\r"}) {
-    const Peer peer(Way::Tcp, {Script({kGreeting, "%1clss=ERR1\r", text, "%1powr=3\r"})});
-    PjLinkChannel channel(kHost, peer.port, "", kLimits);
-    const PjtReply reply = channel.Execute(kGetPower);
-    EXPECT_TRUE(reply.answered && reply.offered && reply.result == 0) << text;
-    EXPECT_EQ(channel.Execute(kGetPower).value, 1) << "on the same connection, in another case";
-  }
-}
-
-TEST(PjLinkTest, AClosedConnectionIsOpenedAgainAndOldRepliesAreDropped) {
-  const auto standby = Script({kGreeting, kFirstClass, "%1POWR=0\r"});
-  const auto turnedOn = Script({kGreeting, kFirstClass, "%1POWR=OK\r"});
-  const auto isClosed = Script({kGreeting, kFirstClass, kOn});
-  const auto saysTwice = Script({kGreeting, kFirstClass, kOn + kOn});
-  const auto breaks = Script({kGreeting, kFirstClass, kOn, ""}, false);
-  const std::tuple<Peer::Behaviour, bool, PjtCommand, Peer::Behaviour, bool> cases[] = {
-      {isClosed, true, kGetPower, standby, true},
-      {isClosed, true, {Op::SetPowerOn}, turnedOn, true},
-      {saysTwice, false, kGetPower, standby, true},
-      {breaks, false, kGetPower, standby, true},
-      {breaks, false, {Op::SetPowerOn}, kGood, false}};
-  for (const auto& [first, isFinished, then, second, answered] : cases) {
-    Peer peer(Way::Tcp, {first, second});
-    PjLinkChannel channel(kHost, peer.port, "", kLimits);
-    EXPECT_EQ(channel.Execute(kGetPower).value, 1);
-    if (isFinished) peer.Finish(1);
-    const PjtReply reply = channel.Execute(then);
-    EXPECT_EQ(reply.answered, answered);
-    EXPECT_EQ(reply.value, 0);
-    EXPECT_TRUE(answered || channel.Execute(kGetPower).value == 1);
-  }
+  };
+  expect({"no-such-projector.invalid", 4352, "", kLimits}, State::NameUnknown);
+  expect({"", 4352, "", kLimits}, State::WrongParameters);
+  expect({kHost, 65536 + 4352, "", kLimits}, State::WrongParameters);
+  expect({kHost, 1, "", kLimits}, State::NotReachable);
 }
 
 TEST(PjLinkTest, TheServerAnswersAsTheStandardSays) {

@@ -2,6 +2,7 @@
 #include <optional>
 #include <thread>
 
+#include <QDir>
 #include <QTcpServer>
 #include <gtest/gtest.h>
 
@@ -136,6 +137,18 @@ TEST(WireChannelTest, SaysWhyItCannotConnect) {
   expect(TcpChannel("no-such-name.invalid", taken, kLimits), NameUnknown);
   expect(SerialChannel("/dev/no-such-port", 19200, kLimits), NotReachable);
   expect(SerialChannel("/dev/null", 19200, kLimits), NotReachable);
+
+  // The thread of one that is given up goes by itself.
+  const auto threads = [] {
+    return QDir("/proc/self/task").entryList(QDir::Dirs | QDir::NoDotAndDotDot).size();
+  };
+  const auto before = threads();
+  EXPECT_EQ(Replies(BoundedChannel(std::make_shared<TcpChannel>("127.0.0.1", taken, kLimits),
+                                   {.timeOut = 10ms}),
+                    {Get(1)}),
+            "?");
+  for (int i = 0; i < 200 && threads() > before; ++i) std::this_thread::sleep_for(10ms);
+  EXPECT_EQ(threads(), before);
 
   neverAccepts.close();
   expect(TcpChannel("127.0.0.1", taken, kLimits), NotReachable);

@@ -14,9 +14,9 @@
 #include <QVBoxLayout>
 
 #include "host/FindLine.h"
-#include "host/StatusLine.h"
 #include "i18n/LocalizeControlTexts.h"
 #include "pages/TablePages.h"
+#include "pages/common/StatusLine.h"
 #include "pages/common/WaitWatch.h"
 #include "pages/input/CInputTabDlg.h"
 #include "pages/input/CInputType5Dlg.h"
@@ -279,10 +279,8 @@ void CAdvanceDlg::ShowWaiting(bool waiting) {
   }
   QString text;
   if (waiting) {
-    const auto reading = shownPage_ != nullptr ? shownPage_->ReadingProgress() : std::nullopt;
-    text = reading ? CatalogString(kListCategory, ListText::Reading,
-                                   std::int64_t{reading->done + 1}, std::int64_t{reading->total})
-                   : CatalogString(kListCategory, ListText::Waiting);
+    text = shownPage_ != nullptr ? shownPage_->WaitingText()
+                                 : CatalogString(kListCategory, ListText::Waiting);
   }
   status_->ShowProgress(text);
 }

@@ -228,6 +228,14 @@ void CDialog::ShowNotice(const QString& text) {
   left->addWidget(notice, 0, 0, 1, RowColumn::Count, Qt::AlignTop | Qt::AlignLeft);
 }
 
+void CDialog::PlaceBesideClose(QWidget& widget) {
+  for (std::size_t i = 0; i < rows_.size(); ++i) {
+    if (template_->rows[i].controls.front().kind != ControlKind::Close) continue;
+    rows_[i].grid->addWidget(&widget, rows_[i].gridRow, RowColumn::Label, 1, RowColumn::Count,
+                             Qt::AlignVCenter | Qt::AlignLeft);
+  }
+}
+
 QSize CDialog::FromDialogUnits(int width, int height) const {
   // Shaping the alphabet costs more than making several controls: once a font will do.
   static QString measuredFont;

@@ -165,6 +165,9 @@ class ADVANCED_CONTROL_EXPORT CDialog : public QDialog {
   /// Shows a sentence at the top of a dialog whose upper rows are all absent.
   void ShowNotice(const QString& text);
 
+  /// Lays a widget out in the row of Close, on the other side.
+  void PlaceBesideClose(QWidget& widget);
+
   /// Lays the present rows out afresh; needed after texts or presence changed outside `Create`.
   void UpdateRows();
 

@@ -11,7 +11,7 @@
 #include <gtest/gtest.h>
 
 #include "device/BoundedChannel.h"
-#include "host/StatusLine.h"
+#include "pages/common/StatusLine.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/PacedProjector.h"
 #include "toolkit/CSliderCtrl.h"

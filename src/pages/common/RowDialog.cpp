@@ -115,6 +115,7 @@ bool RowDialog::OnInitDialog() {
   LocalizeControlTexts(kCaptionCategory, *this);
   PrepareRows();
   ExplainEmptyPage();
+  if (isWindow()) AddStatusLine();
   return true;
 }
 

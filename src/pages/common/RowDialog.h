@@ -13,6 +13,7 @@
 
 class CComboBox;
 class PageVeil;
+class StatusLine;
 class WaitWatch;
 
 /// A page or pop-up made of a table of rows: binds them to the template's controls, shows those
@@ -53,6 +54,9 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
   /// What a person sees while the page waits for the projector: rows that are not read yet are
   /// dimmed, and the cursor tells to wait. Called again, it follows the reading.
   void ShowWaiting(bool waiting);
+
+  /// What goes on meanwhile, in words: how far the reading has come.
+  QString WaitingText() const;
 
  protected:
   /// The page is read while this lives.
@@ -186,6 +190,7 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
   void RunReset(const ValueRow& row, ValueControls& controls);
   void ShowAgain(int control);
   void ReadAgainAfter(Rereads rereads, bool done);
+  void AddStatusLine();
 
   const PageTable& table_;
   std::vector<Bound> bound_;  // one for each row of the table
@@ -195,6 +200,9 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
   int sentBefore_ = 0;
   bool waiting_ = false;
   bool stale_ = false;
-  QPointer<PageVeil> veil_;           // only while it is seen
-  std::unique_ptr<WaitWatch> watch_;  // of a pop-up
+  QPointer<PageVeil> veil_;  // only while it is seen
+  // Of a pop-up; a page has those of its dialog.
+  std::unique_ptr<WaitWatch> watch_;
+  QPointer<StatusLine> status_;
+  CPjtInterface::Tally sentWhenIdle_;
 };

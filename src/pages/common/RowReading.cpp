@@ -8,6 +8,7 @@
 
 #include "pages/common/PageVeil.h"
 #include "pages/common/RowDialog.h"
+#include "pages/common/StatusLine.h"
 #include "pages/common/WaitWatch.h"
 #include "settings/RowUse.h"
 #include "toolkit/CComboBox.h"
@@ -176,8 +177,26 @@ void RowDialog::Tell(std::size_t index, Note note) {
   GreyCaption(ControlOf(row));
 }
 
+QString RowDialog::WaitingText() const {
+  const auto reading = ReadingProgress();
+  return reading ? CatalogString(kListCategory, ListText::Reading, std::int64_t{reading->done + 1},
+                                 std::int64_t{reading->total})
+                 : ListString(ListText::Waiting);
+}
+
+void RowDialog::AddStatusLine() {
+  delete status_;
+  status_ = new StatusLine(this);
+  PlaceBesideClose(*status_);
+  connect(status_, &StatusLine::Retry, this, [this] {
+    projector->TryAfresh();
+    Refresh();
+  });
+}
+
 void RowDialog::ShowWaiting(bool waiting) {
   waiting_ = waiting;
+  if (status_ != nullptr) status_->ShowProgress(waiting ? WaitingText() : QString());
   UpdateVeil();
 }
 
@@ -207,11 +226,17 @@ void RowDialog::OnBusy() {
     watch_ = std::make_unique<WaitWatch>([this] { return projector->IsWaiting(); },
                                          [this](bool waiting) { ShowWaiting(waiting); });
   }
+  sentWhenIdle_ = projector->Sent();
   watch_->Start();
 }
 
 void RowDialog::OnIdle() {
   watch_->Stop();
+  if (status_ != nullptr && !IsLeft() && projector->Sent().unanswered > sentWhenIdle_.unanswered) {
+    status_->ShowNoAnswer(projector->Connection());
+  } else if (status_ != nullptr && projector->Sent().commands > sentWhenIdle_.commands) {
+    status_->ShowProgress({});
+  }
   if (!std::exchange(stale_, false) || IsLeft()) return;
   QTimer::singleShot(0, this, [this] {
     if (IsCreated()) Refresh();

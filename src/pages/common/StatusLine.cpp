@@ -1,4 +1,4 @@
-#include "host/StatusLine.h"
+#include "pages/common/StatusLine.h"
 
 #include <QAccessible>
 #include <QHBoxLayout>

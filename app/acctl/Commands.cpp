@@ -279,7 +279,7 @@ Progress ProgressOf(const Work& work, const ProjectorAccess& projector) {
 }
 
 std::string NoAnswerText(const ProjectorAccess& projector) {
-  const std::string text = "no answer";
+  std::string text = "no answer";
   switch (const ConnectionState state = projector.Channel().Connection()) {
     case ConnectionState::None:
     case ConnectionState::Unused:

@@ -8,6 +8,7 @@
 #include <QJsonDocument>
 
 #include "app/acctl/Output.h"
+#include "device/CommandCode.h"
 #include "settings/CatalogNumbers.h"
 
 namespace {
@@ -64,7 +65,7 @@ std::vector<const ModelSetting*> Chosen(const ModelSettings& settings, const Use
 void ComplainOf(const ModelSetting& setting, const ProjectorAccess& projector, const char* refusal,
                 Report& report) {
   const bool answered = projector.Channel().HasAnswered();
-  report.Complain(std::string(setting.key) + ": " + (answered ? refusal : "no answer"),
+  report.Complain(std::string(setting.key) + ": " + (answered ? refusal : NoAnswerText(projector)),
                   answered ? ExitCode::Refused : ExitCode::NoAnswer);
 }
 
@@ -146,16 +147,17 @@ std::vector<Change> ChangesOf(const Work& work, const ModelSettings& settings, R
   return changes;
 }
 
-/// Makes a change and adds what the projector has then.
-void Make(const Change& change, const Work& work, ProjectorAccess& projector, Values& values,
-          Report& report) {
+/// The value that a change comes to from `present`, which is asked where it is not known; without
+/// one it is complained of.
+std::optional<int> Aim(const Change& change, const Work& work, ProjectorAccess& projector,
+                       std::optional<int> source, std::optional<int> present, Report& report) {
   const ModelSetting& setting = *change.setting;
-  const ModelSettings& settings = projector.Settings();
-  const auto source = settings.PresentSource(projector.Connection(), setting);
-  std::optional<int> present;
-  if (change.typed.relative) {
-    present = settings.Read(projector.Connection(), setting, source);
-    if (!present) return ComplainOf(setting, projector, "cannot be read now", report);
+  if (change.typed.relative && !present) {
+    present = projector.Settings().Read(projector.Connection(), setting, source);
+    if (!present) {
+      ComplainOf(setting, projector, "cannot be read now", report);
+      return {};
+    }
   }
   const auto value = Resolve(setting, change.typed, present);
   if (!value) {
@@ -163,8 +165,44 @@ void Make(const Change& change, const Work& work, ProjectorAccess& projector, Va
                         work.texts.Value(setting, *present) +
                         " is not one of: " + work.texts.Values(setting),
                     ExitCode::WrongUse);
-    return;
   }
+  return value;
+}
+
+bool SelectsInput(const ModelSetting& setting) {
+  const auto* list = std::get_if<ListRow>(setting.row);
+  return list != nullptr && list->send && list->send->code == CommandCode::InputSource;
+}
+
+/// Complains of steps that lead nowhere. What a setting kept for each input source has behind a
+/// change of the source is only known then.
+void CheckSteps(const std::vector<Change>& changes, const Work& work, ProjectorAccess& projector,
+                Report& report) {
+  const Progress progress = ProgressOf(work, projector);
+  std::map<const ModelSetting*, std::optional<int>> expected;
+  bool ofOtherSource = false;
+  for (const Change& change : changes) {
+    const ModelSetting& setting = *change.setting;
+    ofOtherSource = ofOtherSource || SelectsInput(setting);
+    if (ofOtherSource && setting.IsPerSource()) continue;
+    std::optional<int>& value = expected[&setting];
+    if (!change.typed.relative) {
+      value = change.typed.amount;
+    } else if (progress.goesOn()) {
+      const auto source = projector.Settings().PresentSource(projector.Connection(), setting);
+      value = Aim(change, work, projector, source, value, report);
+    }
+  }
+}
+
+/// Makes a change and adds what the projector has then.
+void Make(const Change& change, const Work& work, ProjectorAccess& projector, Values& values,
+          Report& report) {
+  const ModelSetting& setting = *change.setting;
+  const ModelSettings& settings = projector.Settings();
+  const auto source = settings.PresentSource(projector.Connection(), setting);
+  const auto value = Aim(change, work, projector, source, {}, report);
+  if (!value) return;
   const bool accepted = settings.Change(
       projector.Connection(), setting, *value,
       {work.texts.Value(setting, *value), source, ProgressOf(work, projector).goesOn});
@@ -240,6 +278,20 @@ Progress ProgressOf(const Work& work, const ProjectorAccess& projector) {
           .step = work.step};
 }
 
+std::string NoAnswerText(const ProjectorAccess& projector) {
+  std::string text = "no answer";
+  switch (const ConnectionState state = projector.Channel().Connection()) {
+    case ConnectionState::None:
+    case ConnectionState::Unused:
+    case ConnectionState::Connecting:
+    case ConnectionState::Connected:
+    case ConnectionState::NoAnswer:
+      return text;
+    default:
+      return text + " (" + std::string(ConnectionStateText(state)) + ')';
+  }
+}
+
 QJsonObject ValueOf(const SettingTexts& texts, const ModelSetting& setting, int value) {
   return {{"key", Wide(setting.key)},
           {"caption", Wide(texts.Caption(setting))},
@@ -278,6 +330,7 @@ Report RunGet(const Work& work, ProjectorAccess& projector) {
 Report RunSet(const Work& work, ProjectorAccess& projector) {
   Report report;
   const std::vector<Change> changes = ChangesOf(work, projector.Settings(), report);
+  if (report.code == ExitCode::Done) CheckSteps(changes, work, projector, report);
   if (report.code != ExitCode::Done) return report;  // nothing is sent unless all of it can be
   const Progress progress = ProgressOf(work, projector);
   Values values(work.texts);

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "app/acctl/Arguments.h"
@@ -23,6 +24,9 @@ bool IsLike(std::string_view name, const std::vector<std::string>& patterns);
 
 /// Goes on until the work is interrupted or the projector is gone.
 Progress ProgressOf(const Work& work, const ProjectorAccess& projector);
+
+/// "no answer", and what the connection knows of the reason.
+std::string NoAnswerText(const ProjectorAccess& projector);
 
 /// A setting with its value, for scripts.
 QJsonObject ValueOf(const SettingTexts& texts, const ModelSetting& setting, int value);

@@ -16,7 +16,7 @@ struct OutcomeList {
   Outcome outcome;
   const char* member;     ///< Of the JSON.
   const char* text;       ///< Of the summary, behind their number; none where the list is quiet.
-  const char* complaint;  ///< In front of the keys; none where each has its own or none is due.
+  const char* complaint;  ///< Of each, or in front of all keys where it is no error; may be none.
   int code;
 };
 
@@ -73,7 +73,7 @@ QJsonObject Describe(const SettingTexts& texts, const RestoredSetting& restored)
   return json;
 }
 
-/// All lists for scripts, and what needs a person's eye: each refusal, and the rest by its reason.
+/// All lists for scripts, and what needs a person's eye: each error, and the rest by its reason.
 void Tell(const Work& work, const Restoration& restoration, Report& report) {
   std::map<QString, QJsonArray> lists;
   std::array<std::string, kLists.size()> keys;
@@ -89,8 +89,12 @@ void Tell(const Work& work, const Restoration& restoration, Report& report) {
       report.Complain(restored.saved.key + ": " + reason, ExitCode::Refused);
     } else if (list.complaint != nullptr) {
       json["reason"] = list.complaint;
-      std::string& same = keys[static_cast<std::size_t>(&list - kLists.data())];
-      same += (same.empty() ? "" : ", ") + restored.saved.key;
+      if (list.code != ExitCode::Done) {
+        report.Complain(restored.saved.key + ": " + list.complaint, list.code);
+      } else {
+        std::string& same = keys[static_cast<std::size_t>(&list - kLists.data())];
+        same += (same.empty() ? "" : ", ") + restored.saved.key;
+      }
     }
     lists[list.member].append(json);
   }
@@ -122,7 +126,7 @@ Restoration Restoring(const Work& work, ProjectorAccess& projector) {
 }
 
 void ComplainIfGone(const ProjectorAccess& projector, Report& report) {
-  if (projector.Channel().IsGone()) report.Complain("no answer", ExitCode::NoAnswer);
+  if (projector.Channel().IsGone()) report.Complain(NoAnswerText(projector), ExitCode::NoAnswer);
 }
 
 }  // namespace

@@ -165,6 +165,14 @@ int RunOnProjectors(const Work& work, const std::vector<const ProjectorProfile*>
       [&](int number) {
         const ProjectorProfile& profile = *projectors[static_cast<std::size_t>(number)];
         ProjectorAccess projector(profile, ChannelTo(profile, arguments));
+        const bool isListed = arguments.command == Command::Settings;
+        // Keys alone do not depend on the inputs.
+        if (!isListed || !arguments.brief) projector.AskForInputs();
+        if (projector.Channel().IsGone() && !isListed) {
+          Report report;
+          report.Complain(NoAnswerText(projector), ExitCode::NoAnswer);
+          return report;
+        }
         return run(work, projector);
       },
       [&](int number, Report report) {

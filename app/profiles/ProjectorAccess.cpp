@@ -46,7 +46,19 @@ PjtReply PatientChannel::Execute(const PjtCommand& command) {
 ProjectorAccess::ProjectorAccess(const ProjectorProfile& profile,
                                  std::shared_ptr<ProjectorChannel> channel)
     : name_(profile.Name),
-      settings_(MakeModelData(profile.Model)),
+      model_(profile.Model),
+      settings_(MakeModelData(model_)),
+      pjLink_(std::dynamic_pointer_cast<PjLinkChannel>(channel)),
       channel_(std::make_shared<PatientChannel>(std::move(channel))) {
   connection_.SetChannel(channel_);
+}
+
+void ProjectorAccess::AskForInputs() {
+  if (pjLink_ == nullptr || model_.MySourceList.Size() > 0) return;
+  // A description is not asked patiently, so that a command tells first whether anybody is there.
+  if (!channel_->Execute({.operation = PjtOperation::GetInputSource}).answered) return;
+  const auto description = pjLink_->Describe();
+  if (!description) return;
+  model_.MySourceList = SourcesOf(description->inputs);
+  settings_ = ModelSettings(MakeModelData(model_));
 }

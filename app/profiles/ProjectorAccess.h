@@ -6,6 +6,7 @@
 
 #include "app/profiles/ProfileFile.h"
 #include "device/CPjtInterface.h"
+#include "device/PjLinkChannel.h"
 #include "settings/ModelSettings.h"
 #include "simulator/SimulatedProjector.h"
 
@@ -42,6 +43,10 @@ class ProjectorAccess {
  public:
   ProjectorAccess(const ProjectorProfile& profile, std::shared_ptr<ProjectorChannel> channel);
 
+  /// Asks a PJLink projector for its inputs where the profile names none. One that is silent costs
+  /// one time-out, and is gone then.
+  void AskForInputs();
+
   const std::string& Name() const { return name_; }
   const ModelSettings& Settings() const { return settings_; }
   CPjtInterface& Connection() { return connection_; }
@@ -49,7 +54,9 @@ class ProjectorAccess {
 
  private:
   std::string name_;
+  CModelInfo2 model_;
   ModelSettings settings_;
+  std::shared_ptr<PjLinkChannel> pjLink_;  ///< Null for any other way.
   std::shared_ptr<PatientChannel> channel_;
   CPjtInterface connection_;
 };

@@ -120,6 +120,7 @@ TEST(Acctl, PutsSettingsBackAndUndoesIt) {
   const auto run = [&](const QStringList& arguments) { return Acctl(simulator.At(arguments)); };
   EXPECT_EQ(run({"set", kRoom, "picture.brightness", "7", "picture.gamma", "#2-Custom"}).exitCode,
             0);
+  EXPECT_EQ(run({"set", kRoom, "picture.brightness", "9", "picture.gamma", "+99"}).exitCode, 2);
   EXPECT_THAT(run({"save", kRoom, file}).output, StartsWith("91 settings saved in "));
   EXPECT_EQ(run({"set", kRoom, "picture.brightness", "-3", "other.input-source", "+1"}).exitCode,
             0);
@@ -138,11 +139,21 @@ TEST(Acctl, TellsWhatIsRefusedAndWhatDoesNotAnswer) {
   const Simulator refuses({"--fault", "refuse"});
   EXPECT_THAT(Acctl(refuses.At({"set", kRoom, "picture.tint", "3"})),
               Ends(1, StartsWith("acctl: Projector 5-30: picture.tint: refused\n")));
+  const Simulator simulator({"--password", "secret"});
+  const QTemporaryDir folder;
+  Write(folder.filePath("any"), R"({"projectors": [{"name": "Any", "model": "M", "dialogType": 5,
+      "modelCode": 30, "connection": {"network": {"address": "192.0.2.1", "port": 4352}}}]})");
+  const QStringList any{
+      "--profiles", folder.filePath("any"), "--connect", simulator.Address("pjlink"), "set",
+      "Any",        "other.input-source",   "RGB2"};
+  EXPECT_THAT(Acctl(any + QStringList{"--password", "secret"}).output, HasSubstr(" RGB2\n"));
+  EXPECT_THAT(Acctl(any), Ends(3, "acctl: Any: no answer (password missing or wrong)\n"));
 
   const Simulator silent({"--fault", "silent"});
   const char* const noAnswer = "acctl: Projector 5-30: status.power: no answer\n";
   EXPECT_THAT(Acctl(silent.At({"--timeout", "0.5", "get", kRoom})), Ends(3, noAnswer));
-  EXPECT_THAT(Acctl({"--connect", "tcp://127.0.0.1:1", "status", kRoom}), Ends(3, noAnswer));
+  EXPECT_THAT(Acctl({"--connect", "tcp://127.0.0.1:1", "status", kRoom}),
+              Ends(3, HasSubstr(": status.power: no answer (not reachable)\n")));
 }
 
 TEST(Acctl, SaysWhenInterruptedWhatWasDone) {

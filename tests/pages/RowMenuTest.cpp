@@ -15,7 +15,7 @@ namespace {
 using Strings = std::vector<std::string>;
 
 constexpr int kBrightness = 20136, kField = 20329, kContrast = 20138, kIris = 20293;
-constexpr int kVolume = 20317, kIrFront = 20375;
+constexpr int kVolume = 20317, kIrFront = 20375, kShiftField = 20144;
 
 // The lines of a control's menu, in brackets where they cannot be chosen; `choice` is chosen.
 std::string Menu(CDialog& page, int id, const char* choice = "") {
@@ -91,7 +91,7 @@ TEST_F(RowMenus, ATypedNumberIsSentAsADragAndRefusedAsOne) {
 }
 
 TEST(RowMenu, AnotherInputSourceHasAnotherPast) {
-  OpenDialog open(FullModel(5, 42), 4);
+  OpenDialog open(FullModel(5, 44), 4);
   open.Driver().Drag(kVolume, 9);
   open.Projector().Answer("GetInputSource", 3);
   open.Projector().Answer("GetInputSrcVolume 3", 5);
@@ -100,6 +100,7 @@ TEST(RowMenu, AnotherInputSourceHasAnotherPast) {
   EXPECT_EQ(open.Projector().TakeChanges(), Strings{});
   EXPECT_EQ(open.Driver().SliderAt(kVolume), 5);
   EXPECT_NE(Menu(open.Page(), kVolume).find("When opened: 5"), std::string::npos);
+  EXPECT_EQ(Menu(open.Page(), kShiftField), "Copy") << "arrows lead back a step at a time only";
 }
 
 }  // namespace

@@ -68,15 +68,15 @@ void OperateTo(QWidget& control, int position) {
 RowMenu::RowMenu(const Row& row, QWidget* parent) : QMenu(parent) {
   connect(this, &QMenu::aboutToHide, this, &QObject::deleteLater);
   auto* slider = qobject_cast<CSliderCtrl*>(row.control);
-  const bool operated = qobject_cast<QLabel*>(row.control) == nullptr;
+  const bool moves = slider != nullptr || qobject_cast<CComboBox*>(row.control) != nullptr ||
+                     qobject_cast<QCheckBox*>(row.control) != nullptr;
   if (!row.note.isEmpty()) Tell(row.note);
-  if (operated && row.opened) {
+  if (moves && row.opened) {
     Tell(CatalogString(kListCategory, ListText::WhenOpened,
                        TextAt(*row.control, *row.opened).toStdString()));
   }
   addSeparator();
-  if (slider != nullptr || qobject_cast<CComboBox*>(row.control) != nullptr ||
-      qobject_cast<QCheckBox*>(row.control) != nullptr) {
+  if (moves) {
     addAction(ListString(ListText::PutBack), this, &RowMenu::PutBack)
         ->setEnabled(row.opened && CanMoveTo(*row.control, *row.opened));
   }

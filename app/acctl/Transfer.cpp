@@ -178,13 +178,13 @@ Report RunApply(const Work& work, ProjectorAccess& projector) {
   Restoration restoration = Restoring(work, projector);
   restoration.Read(progress);
   if (progress.goesOn() && restoration.Count(Outcome::Differs) > 0) {
-    const QString undo =
-        UndoPath(Wide(work.arguments.file), Wide(work.arguments.undoFolder), projector.Name());
-    const QByteArray bytes = WriteSnapshot(restoration.Undo(projector.Name(), work.texts));
-    if (const QString error = WriteWholeFile(undo, bytes); !error.isEmpty()) {
-      report.Complain(error.toStdString() + "; nothing was sent", ExitCode::Refused);
+    const NewFile undo = WriteNewFile(
+        UndoPath(Wide(work.arguments.file), Wide(work.arguments.undoFolder), projector.Name()),
+        WriteSnapshot(restoration.Undo(projector.Name(), work.texts)));
+    if (!undo.error.isEmpty()) {
+      report.Complain(undo.error.toStdString() + "; nothing was sent", ExitCode::Refused);
     } else {
-      report.json["undo"] = undo;
+      report.json["undo"] = undo.path;
       restoration.Send(work.texts, progress);
     }
   }

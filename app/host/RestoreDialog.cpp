@@ -284,9 +284,9 @@ QString RestoreDialog::RestoreRoom(Room& room) {
                    [&](const SavedSetting& saved) { return rows.contains(idOf(saved)); });
   part.Read(Watched());
   if (part.Count(Outcome::Differs) > 0 && !stopped_) {
-    const QString error =
-        WriteWholeFile(UndoPath(file_, {}, room.name), WriteSnapshot(part.Undo(room.name, texts_)));
-    if (!error.isEmpty()) return tr("%1; nothing was sent").arg(error);
+    const NewFile undo =
+        WriteNewFile(UndoPath(file_, {}, room.name), WriteSnapshot(part.Undo(room.name, texts_)));
+    if (!undo.error.isEmpty()) return tr("%1; nothing was sent").arg(undo.error);
     part.Send(texts_, Watched());
   }
   for (const RestoredSetting& restored : part.Settings()) {

@@ -84,11 +84,12 @@ QStringList SettingsActions::SaveTo(const QString& path, const ProjectorSessions
                         .arg(shownName)
                         .arg(static_cast<int>(unread.size())));
     }
-    const QString file =
-        sessions.size() == 1 ? path : QDir(path).filePath(FileNameOf(name) + ".json");
-    if (const QString error = WriteWholeFile(file, WriteSnapshot(snapshot)); !error.isEmpty()) {
-      errors.append(error);
-    }
+    const QByteArray bytes = WriteSnapshot(snapshot);
+    const QString error =
+        sessions.size() == 1
+            ? WriteWholeFile(path, bytes)
+            : WriteNewFile(QDir(path).filePath(FileNameOf(name) + ".json"), bytes).error;
+    if (!error.isEmpty()) errors.append(error);
   }
   return errors;
 }

@@ -73,7 +73,10 @@ TEST(SettingsActions, TellsWhatCannotBeSaved) {
   rooms.sessions[1]->SetFault({}, {.kind = Fault::Kind::FailRead});
   const QStringList errors = SettingsActions::SaveTo(rooms.folder.path(), rooms.sessions);
   EXPECT_EQ(errors, QStringList("Projector 5-31: nothing can be read"));
-  EXPECT_TRUE(QFile::exists(rooms.folder.filePath("Projector_5-30.json")));
+  rooms.sessions[1] = rooms.sessions[0];
+  EXPECT_EQ(SettingsActions::SaveTo(rooms.folder.path(), rooms.sessions), QStringList());
+  EXPECT_EQ(QDir(rooms.folder.path()).entryList({"Projector_5-30*"}),
+            QStringList({"Projector_5-30-2.json", "Projector_5-30-3.json", "Projector_5-30.json"}));
   EXPECT_THAT(SettingsActions::SaveTo("/proc/x.json", {rooms.sessions[0]}).join('\n').toStdString(),
               testing::StartsWith("cannot write /proc/x.json: "));
 }

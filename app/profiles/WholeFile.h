@@ -16,6 +16,6 @@ struct NewFile {
 };
 
 /// Writes a file that was not there before: `path`, or where somebody has that name already, `path`
-/// with the first free number from 2 on before its suffix. Others may do the same meanwhile, in this
-/// program or another: everybody gets a name of their own.
+/// with the first free number from 2 on before its suffix. Others may do the same meanwhile, in
+/// this program or another: everybody gets a name of their own.
 NewFile WriteNewFile(const QString& path, const QByteArray& bytes);

@@ -21,7 +21,10 @@ struct Rooms {
     for (const ProjectorProfile& profile :
          ReadProfileFile(QStringLiteral(TEST_CATALOG_DIR "/projectors.json")).projectors) {
       if (profile.Name != "Projector 5-30" && profile.Name != "Projector 5-31") continue;
-      sessions.push_back(std::make_shared<ProjectorSession>(profile, nullptr));
+      sessions.push_back(std::make_shared<ProjectorSession>(
+          profile, [this](const PjtCommand&, const PjtReply& reply, std::chrono::microseconds) {
+            if (!reply.answered) sessions[1]->ClearFaults();
+          }));
     }
     EXPECT_EQ(SettingsActions::SaveTo(file, {sessions[0]}), QStringList());
   }
@@ -58,6 +61,7 @@ TEST(SettingsActions, PutsBackWhatIsCheckedOnEveryProjector) {
 
   QAbstractItemModel& model = *dialog.findChild<QTreeView*>()->model();
   model.setData(model.index(2, kSettingColumn), Qt::Unchecked, Qt::CheckStateRole);
+  rooms.sessions[1]->SetFault(PjtOperation::SetContrast, {.kind = Fault::Kind::DropOut});
   dialog.Restore();
   EXPECT_EQ(Column(dialog, kResultColumn), QStringList({"changed", "changed", "different"}));
   EXPECT_EQ(rooms.Projector(0).Value(SettingId::Brightness), 128);

@@ -92,6 +92,12 @@ void Tell(const Work& work, const Restoration& restoration, Report& report) {
       std::string& same = keys[static_cast<std::size_t>(&list - kLists.data())];
       same += (same.empty() ? "" : ", ") + restored.saved.key;
     }
+    if (restored.IsBeyondUndo()) {
+      report.Complain(restored.saved.key + ": it was " +
+                          work.texts.Value(*restored.setting, *restored.before) +
+                          " under the new source or mode, which the undo file does not bring back",
+                      ExitCode::Done);
+    }
     lists[list.member].append(json);
   }
   for (std::size_t i = 0; i < kLists.size(); ++i) {
@@ -178,14 +184,22 @@ Report RunApply(const Work& work, ProjectorAccess& projector) {
   Restoration restoration = Restoring(work, projector);
   restoration.Read(progress);
   if (progress.goesOn() && restoration.Count(Outcome::Differs) > 0) {
+    const auto undoBytes = [&] {
+      return WriteSnapshot(restoration.Undo(projector.Name(), work.texts));
+    };
     const NewFile undo = WriteNewFile(
         UndoPath(Wide(work.arguments.file), Wide(work.arguments.undoFolder), projector.Name()),
-        WriteSnapshot(restoration.Undo(projector.Name(), work.texts)));
+        undoBytes());
     if (!undo.error.isEmpty()) {
       report.Complain(undo.error.toStdString() + "; nothing was sent", ExitCode::Refused);
     } else {
       report.json["undo"] = undo.path;
-      restoration.Send(work.texts, progress);
+      restoration.Send(work.texts, progress, [&] {
+        const QString error = WriteWholeFile(undo.path, undoBytes());
+        if (error.isEmpty()) return true;
+        report.Complain(error.toStdString() + "; the rest was not sent", ExitCode::Refused);
+        return false;
+      });
     }
   }
   ComplainIfGone(projector, report);

@@ -239,7 +239,11 @@ void RestoreDialog::ShowOutcome(const RestoredSetting& restored, int row) {
   model_->item(row, kFile)
       ->setText(restored.setting != nullptr ? text(restored.saved.value)
                                             : Wide(restored.saved.text));
-  model_->item(row, kResult)->setText(OutcomeText(restored.outcome));
+  QString result = OutcomeText(restored.outcome);
+  if (restored.IsBeyondUndo()) {
+    result = tr("%1; the undo file does not bring back %2").arg(result, text(restored.before));
+  }
+  model_->item(row, kResult)->setText(result);
   model_->item(row, kResult)->setData(static_cast<int>(restored.outcome), kOutcomeRole);
 }
 
@@ -298,11 +302,15 @@ QString RestoreDialog::RestoreRoom(Room& room) {
                    [&](const SavedSetting& saved) { return rows.contains(idOf(saved)); });
   const Progress progress = WorkOn(room);
   part.Read(progress);
+  QString error;
   if (part.Count(Outcome::Differs) > 0 && progress.goesOn()) {
-    const NewFile undo =
-        WriteNewFile(UndoPath(file_, {}, room.name), WriteSnapshot(part.Undo(room.name, texts_)));
+    const auto undoBytes = [&] { return WriteSnapshot(part.Undo(room.name, texts_)); };
+    const NewFile undo = WriteNewFile(UndoPath(file_, {}, room.name), undoBytes());
     if (!undo.error.isEmpty()) return tr("%1; nothing was sent").arg(undo.error);
-    part.Send(texts_, progress);
+    part.Send(texts_, progress, [&] {
+      error = WriteWholeFile(undo.path, undoBytes());
+      return error.isEmpty();
+    });
   }
   for (const RestoredSetting& restored : part.Settings()) {
     const int row = rows.at(idOf(restored.saved));
@@ -311,7 +319,7 @@ QString RestoreDialog::RestoreRoom(Room& room) {
       model_->item(row, kSetting)->setCheckState(Qt::Unchecked);
     }
   }
-  return {};
+  return error.isEmpty() ? error : tr("%1; the rest was not sent").arg(error);
 }
 
 void RestoreDialog::ShowSummary() {

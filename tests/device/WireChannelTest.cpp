@@ -143,10 +143,11 @@ TEST(WireChannelTest, SaysWhyItCannotConnect) {
     return QDir("/proc/self/task").entryList(QDir::Dirs | QDir::NoDotAndDotDot).size();
   };
   const auto before = threads();
-  EXPECT_EQ(Replies(BoundedChannel(std::make_shared<TcpChannel>("127.0.0.1", taken, kLimits),
-                                   {.timeOut = 10ms}),
-                    {Get(1)}),
-            "?");
+  {
+    BoundedChannel givenUp(std::make_shared<TcpChannel>("127.0.0.1", taken, kLimits),
+                           {.timeOut = 10ms});
+    EXPECT_EQ(Replies(givenUp, {Get(1)}), "?");
+  }
   for (int i = 0; i < 200 && threads() > before; ++i) std::this_thread::sleep_for(10ms);
   EXPECT_EQ(threads(), before);
 

@@ -38,7 +38,8 @@ bool IsTaken(const QString& path) {
 QString Numbered(const QString& path, int number) {
   const QFileInfo info(path);
   return info.dir().filePath(
-      QStringLiteral("%1-%2.%3").arg(info.completeBaseName()).arg(number).arg(info.suffix()));
+      QStringLiteral("%1-%2.%3")
+          .arg(info.completeBaseName(), QString::number(number), info.suffix()));
 }
 
 }  // namespace

@@ -96,6 +96,12 @@ void Tell(const Work& work, const Restoration& restoration, Report& report) {
         same += (same.empty() ? "" : ", ") + restored.saved.key;
       }
     }
+    if (restored.IsBeyondUndo()) {
+      report.Complain(restored.saved.key + ": it was " +
+                          work.texts.Value(*restored.setting, *restored.before) +
+                          " under the new source or mode, which the undo file does not bring back",
+                      ExitCode::Done);
+    }
     lists[list.member].append(json);
   }
   for (std::size_t i = 0; i < kLists.size(); ++i) {
@@ -182,14 +188,22 @@ Report RunApply(const Work& work, ProjectorAccess& projector) {
   Restoration restoration = Restoring(work, projector);
   restoration.Read(progress);
   if (progress.goesOn() && restoration.Count(Outcome::Differs) > 0) {
-    const QString undo =
-        UndoPath(Wide(work.arguments.file), Wide(work.arguments.undoFolder), projector.Name());
-    const QByteArray bytes = WriteSnapshot(restoration.Undo(projector.Name(), work.texts));
-    if (const QString error = WriteWholeFile(undo, bytes); !error.isEmpty()) {
-      report.Complain(error.toStdString() + "; nothing was sent", ExitCode::Refused);
+    const auto undoBytes = [&] {
+      return WriteSnapshot(restoration.Undo(projector.Name(), work.texts));
+    };
+    const NewFile undo = WriteNewFile(
+        UndoPath(Wide(work.arguments.file), Wide(work.arguments.undoFolder), projector.Name()),
+        undoBytes());
+    if (!undo.error.isEmpty()) {
+      report.Complain(undo.error.toStdString() + "; nothing was sent", ExitCode::Refused);
     } else {
-      report.json["undo"] = undo;
-      restoration.Send(work.texts, progress);
+      report.json["undo"] = undo.path;
+      restoration.Send(work.texts, progress, [&] {
+        const QString error = WriteWholeFile(undo.path, undoBytes());
+        if (error.isEmpty()) return true;
+        report.Complain(error.toStdString() + "; the rest was not sent", ExitCode::Refused);
+        return false;
+      });
     }
   }
   ComplainIfGone(projector, report);

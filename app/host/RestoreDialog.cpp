@@ -19,6 +19,7 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 
+#include "app/host/AfreshChannel.h"
 #include "app/profiles/SettingsFile.h"
 #include "app/profiles/WholeFile.h"
 #include "device/ModelDataIntake.h"
@@ -57,14 +58,24 @@ QString Wide(const std::string& text) { return QString::fromStdString(text); }
 
 /// A projector with its part of the table.
 struct RestoreDialog::Room {
-  Room(const ProjectorSession& session, const Snapshot& snapshot)
-      : name(session.Profile().Name), settings(MakeModelData(session.Profile().Model)) {
-    connection.SetChannel(session.Channel());
+  Room(std::shared_ptr<ProjectorSession> projector, const Snapshot& snapshot)
+      : session(std::move(projector)),
+        name(session->Profile().Name),
+        settings(MakeModelData(session->Profile().Model)) {
     restoration.emplace(snapshot, settings, connection);
   }
 
+  /// For each piece of work: one that was gone before may be back.
+  void Connect(const std::function<bool()>& goesOn) {
+    if (channel && !channel->IsGone()) return;
+    channel = MakePatient(session->Channel(), goesOn);
+    connection.SetChannel(channel);
+  }
+
+  std::shared_ptr<ProjectorSession> session;
   std::string name;
   ModelSettings settings;
+  std::shared_ptr<PatientChannel> channel;
   CPjtInterface connection;
   std::optional<Restoration> restoration;
   int firstRow = 0;
@@ -100,7 +111,7 @@ RestoreDialog::RestoreDialog(Purpose purpose, Snapshot snapshot, QString file,
       file_(std::move(file)),
       texts_(CatalogFolders(), SystemLanguageId()) {
   for (const auto& session : sessions) {
-    rooms_.push_back(std::make_unique<Room>(*session, snapshot_));
+    rooms_.push_back(std::make_unique<Room>(session, snapshot_));
   }
   setWindowTitle(purpose == Purpose::Restore ? tr("Apply Settings") : tr("Compare Settings"));
   Lay();
@@ -175,8 +186,9 @@ void RestoreDialog::UpdateButtons() {
   restore_->setEnabled(!working_ && compared_);
 }
 
-Progress RestoreDialog::Watched() {
-  return {.goesOn = [this] { return !stopped_; },
+Progress RestoreDialog::WorkOn(Room& room) {
+  room.Connect([this] { return !stopped_; });
+  return {.goesOn = [this, &room] { return !stopped_ && !room.channel->IsGone(); },
           .step =
               [this] {
                 progress_->setValue(progress_->value() + 1);
@@ -190,7 +202,7 @@ void RestoreDialog::Compare() {
   const Working working(*this, static_cast<int>(rooms_.size() * snapshot_.settings.size()));
   model_->setRowCount(0);
   for (const auto& room : rooms_) {
-    room->restoration->Read(Watched());
+    room->restoration->Read(WorkOn(*room));
     room->firstRow = model_->rowCount();
     for (const RestoredSetting& restored : room->restoration->Settings()) AddRow(*room, restored);
   }
@@ -221,11 +233,17 @@ void RestoreDialog::ShowOutcome(const RestoredSetting& restored, int row) {
     return value && restored.setting != nullptr ? Wide(texts_.Value(*restored.setting, *value))
                                                 : QString();
   };
-  model_->item(row, kHere)->setText(text(restored.now ? restored.now : restored.before));
+  const bool isKnown = restored.now || restored.outcome != Outcome::Unconfirmed;
+  const std::optional<int>& here = restored.now ? restored.now : restored.before;
+  model_->item(row, kHere)->setText(isKnown ? text(here) : QString());
   model_->item(row, kFile)
       ->setText(restored.setting != nullptr ? text(restored.saved.value)
                                             : Wide(restored.saved.text));
-  model_->item(row, kResult)->setText(OutcomeText(restored.outcome));
+  QString result = OutcomeText(restored.outcome);
+  if (restored.IsBeyondUndo()) {
+    result = tr("%1; the undo file does not bring back %2").arg(result, text(restored.before));
+  }
+  model_->item(row, kResult)->setText(result);
   model_->item(row, kResult)->setData(static_cast<int>(restored.outcome), kOutcomeRole);
 }
 
@@ -282,12 +300,17 @@ QString RestoreDialog::RestoreRoom(Room& room) {
   }
   Restoration part(snapshot_, room.settings, room.connection,
                    [&](const SavedSetting& saved) { return rows.contains(idOf(saved)); });
-  part.Read(Watched());
-  if (part.Count(Outcome::Differs) > 0 && !stopped_) {
-    const QString error =
-        WriteWholeFile(UndoPath(file_, {}, room.name), WriteSnapshot(part.Undo(room.name, texts_)));
-    if (!error.isEmpty()) return tr("%1; nothing was sent").arg(error);
-    part.Send(texts_, Watched());
+  const Progress progress = WorkOn(room);
+  part.Read(progress);
+  QString error;
+  if (part.Count(Outcome::Differs) > 0 && progress.goesOn()) {
+    const auto undoBytes = [&] { return WriteSnapshot(part.Undo(room.name, texts_)); };
+    const NewFile undo = WriteNewFile(UndoPath(file_, {}, room.name), undoBytes());
+    if (!undo.error.isEmpty()) return tr("%1; nothing was sent").arg(undo.error);
+    part.Send(texts_, progress, [&] {
+      error = WriteWholeFile(undo.path, undoBytes());
+      return error.isEmpty();
+    });
   }
   for (const RestoredSetting& restored : part.Settings()) {
     const int row = rows.at(idOf(restored.saved));
@@ -296,7 +319,7 @@ QString RestoreDialog::RestoreRoom(Room& room) {
       model_->item(row, kSetting)->setCheckState(Qt::Unchecked);
     }
   }
-  return {};
+  return error.isEmpty() ? error : tr("%1; the rest was not sent").arg(error);
 }
 
 void RestoreDialog::ShowSummary() {

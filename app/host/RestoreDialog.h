@@ -53,7 +53,7 @@ class RestoreDialog : public QDialog {
   bool IsChecked(int row) const;
   QString RestoreRoom(Room& room);
   void ShowSummary();
-  Progress Watched();
+  Progress WorkOn(Room& room);
   void UpdateButtons();
 
   const Purpose purpose_;

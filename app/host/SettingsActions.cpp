@@ -11,6 +11,7 @@
 #include <QThread>
 #include <QTimer>
 
+#include "app/host/AfreshChannel.h"
 #include "app/host/ProjectorSession.h"
 #include "app/profiles/SettingsFile.h"
 #include "app/profiles/WholeFile.h"
@@ -71,7 +72,7 @@ QStringList SettingsActions::SaveTo(const QString& path, const ProjectorSessions
     const QString shownName = QString::fromStdString(name);
     const ModelSettings settings(MakeModelData(session->Profile().Model));
     CPjtInterface connection;
-    connection.SetChannel(session->Channel());
+    connection.SetChannel(MakePatient(session->Channel(), progress.goesOn));
     std::vector<std::string> unread;
     const Snapshot snapshot = TakeSnapshot(name, settings, connection, texts, progress, &unread);
     if (!progress.goesOn()) break;  // half a snapshot would look like a whole one
@@ -84,11 +85,12 @@ QStringList SettingsActions::SaveTo(const QString& path, const ProjectorSessions
                         .arg(shownName)
                         .arg(static_cast<int>(unread.size())));
     }
-    const QString file =
-        sessions.size() == 1 ? path : QDir(path).filePath(FileNameOf(name) + ".json");
-    if (const QString error = WriteWholeFile(file, WriteSnapshot(snapshot)); !error.isEmpty()) {
-      errors.append(error);
-    }
+    const QByteArray bytes = WriteSnapshot(snapshot);
+    const QString error =
+        sessions.size() == 1
+            ? WriteWholeFile(path, bytes)
+            : WriteNewFile(QDir(path).filePath(FileNameOf(name) + ".json"), bytes).error;
+    if (!error.isEmpty()) errors.append(error);
   }
   return errors;
 }

@@ -26,8 +26,8 @@ class SettingsActions : public QObject {
   /// Enables what can be done with the selected projectors.
   void Update();
 
-  /// Saves the settings of each projector: of one in `path`, of several in files of their names in
-  /// the folder `path`. One line for each that went wrong.
+  /// Saves the settings of each projector: of one in `path`, of several in new files of their names
+  /// in the folder `path`. One line for each that went wrong.
   static QStringList SaveTo(const QString& path, const ProjectorSessions& sessions,
                             const Progress& progress = {});
 

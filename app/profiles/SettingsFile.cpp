@@ -34,12 +34,7 @@ QString FileNameOf(const std::string& projector) {
 QString UndoPath(const QString& file, const QString& folder, const std::string& projector) {
   const QFileInfo info(file);
   const QDir place(folder.isEmpty() ? info.path() : folder);
-  const QString base = (file == "-" ? QString() : info.completeBaseName() + '.') +
-                       QStringLiteral("undo.%1.").arg(FileNameOf(projector)) +
-                       QDateTime::currentDateTimeUtc().toString("yyyyMMdd'T'HHmmss'Z'");
-  QString path = place.filePath(base + ".json");
-  for (int i = 2; QFileInfo::exists(path); ++i) {
-    path = place.filePath(base + QStringLiteral("-%1.json").arg(i));
-  }
-  return path;
+  const QString base = file == "-" ? QString() : info.completeBaseName() + '.';
+  const QString time = QDateTime::currentDateTimeUtc().toString("yyyyMMdd'T'HHmmss'Z'");
+  return place.filePath(base + QStringLiteral("undo.%1.%2.json").arg(FileNameOf(projector), time));
 }

@@ -1,6 +1,7 @@
 #include "app/profiles/WholeFile.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QSaveFile>
 
@@ -28,6 +29,19 @@ QString CannotWrite(const QFileDevice& file) {
       .arg(file.fileName(), file.errorString());
 }
 
+// Also a link that leads nowhere is in the way.
+bool IsTaken(const QString& path) {
+  const QFileInfo info(path);
+  return info.exists() || info.isSymLink();
+}
+
+QString Numbered(const QString& path, int number) {
+  const QFileInfo info(path);
+  return info.dir().filePath(
+      QStringLiteral("%1-%2.%3")
+          .arg(info.completeBaseName(), QString::number(number), info.suffix()));
+}
+
 }  // namespace
 
 QString WriteWholeFile(const QString& path, const QByteArray& bytes) {
@@ -43,4 +57,17 @@ QString CheckWholeFile(const QString& path) {
   if (IsDevice(path)) return {};
   QSaveFile file(path);
   return file.open(QIODevice::WriteOnly) ? QString() : CannotWrite(file);
+}
+
+NewFile WriteNewFile(const QString& path, const QByteArray& bytes) {
+  NewFile made{path, {}};
+  for (int number = 2;; ++number) {
+    QFile reserved(made.path);
+    if (reserved.open(QIODevice::WriteOnly | QIODevice::NewOnly)) break;
+    if (!IsTaken(made.path)) return {made.path, CannotWrite(reserved)};
+    made.path = Numbered(path, number);
+  }
+  made.error = WriteWholeFile(made.path, bytes);
+  if (!made.error.isEmpty()) QFile::remove(made.path);
+  return made;
 }

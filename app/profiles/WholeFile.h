@@ -9,3 +9,13 @@ QString WriteWholeFile(const QString& path, const QByteArray& bytes);
 
 /// Says whether a file could be written there, in the same way; changes nothing.
 QString CheckWholeFile(const QString& path);
+
+struct NewFile {
+  QString path;   ///< Of the file that was written.
+  QString error;  ///< One line; empty when all is well.
+};
+
+/// Writes a file that was not there before: `path`, or where somebody has that name already, `path`
+/// with the first free number from 2 on before its suffix. Others may do the same meanwhile, in
+/// this program or another: everybody gets a name of their own.
+NewFile WriteNewFile(const QString& path, const QByteArray& bytes);

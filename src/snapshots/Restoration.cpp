@@ -75,6 +75,7 @@ void Restoration::Read(const Group& group, const Progress& progress) {
 void Restoration::Read(RestoredSetting& restored, const Progress& progress) {
   const int unanswered = connection_.Sent().unanswered;
   restored.before = model_.Read(connection_, *restored.setting, restored.saved.source);
+  if (!restored.first) restored.first = restored.before;
   if (!restored.before) {
     // A projector that is gone has refused nothing.
     const bool isGone = connection_.Sent().unanswered > unanswered || !progress.goesOn();
@@ -86,7 +87,8 @@ void Restoration::Read(RestoredSetting& restored, const Progress& progress) {
   progress.step();
 }
 
-void Restoration::Send(const SettingTexts& texts, const Progress& progress) {
+void Restoration::Send(const SettingTexts& texts, const Progress& progress,
+                       const std::function<bool()>& keepUndo) {
   Group sent;
   for (const Rank rank : {Rank::Source, Rank::Choice, Rank::Number}) {
     const Group group = Those([rank](const RestoredSetting& restored) {
@@ -95,6 +97,10 @@ void Restoration::Send(const SettingTexts& texts, const Progress& progress) {
       return wasRead && RankOf(*restored.setting) == rank;
     });
     if (!sent.empty()) Read(group, progress);
+    const bool moreDiffers = std::ranges::any_of(group, [](const RestoredSetting* restored) {
+      return restored->outcome == Outcome::Differs && restored->first == restored->saved.value;
+    });
+    if (moreDiffers && progress.goesOn() && !keepUndo()) break;
     for (RestoredSetting* restored : group) {
       if (restored->outcome != Outcome::Differs || !progress.goesOn()) continue;
       Send(*restored, texts, progress);
@@ -134,9 +140,12 @@ int Restoration::Count(Outcome outcome) const {
 Snapshot Restoration::Undo(const std::string& projector, const SettingTexts& texts) const {
   Snapshot snapshot = EmptySnapshot(projector, model_.Model());
   for (const RestoredSetting& restored : settings_) {
-    if (restored.outcome != Outcome::Differs) continue;
-    snapshot.settings.push_back({restored.saved.key, *restored.before,
-                                 texts.Value(*restored.setting, *restored.before),
+    if (!restored.first) continue;
+    const bool isUntouched =
+        restored.outcome == Outcome::AlreadySo || restored.outcome == Outcome::NotReached;
+    if (isUntouched && restored.first == restored.saved.value) continue;
+    snapshot.settings.push_back({restored.saved.key, *restored.first,
+                                 texts.Value(*restored.setting, *restored.first),
                                  restored.saved.source});
   }
   return snapshot;

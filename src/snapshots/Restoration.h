@@ -25,8 +25,16 @@ struct RestoredSetting {
   SavedSetting saved;
   const ModelSetting* setting = nullptr;  ///< Null for one that the model does not have.
   Outcome outcome = Outcome::NotReached;
-  std::optional<int> before{};  ///< What the projector had, where it told it.
+  std::optional<int> first{};   ///< What the projector had at first, where it told it.
+  std::optional<int> before{};  ///< What it had last before it was told.
   std::optional<int> now{};     ///< What it has after being told.
+
+  /// Whether `before` was replaced though it came only with a source or mode that was told before:
+  /// no undo brings it back.
+  bool IsBeyondUndo() const {
+    const bool isReplaced = outcome == Outcome::Unconfirmed || (now && now != before);
+    return isReplaced && before != first;
+  }
 };
 
 /// Puts the settings of a snapshot back on a projector, of the same model or another. First `Read`,
@@ -44,14 +52,18 @@ class Restoration {
   /// Reads the projector and tells what differs.
   void Read(const Progress& progress = {});
   /// Sends what differs, what others depend on first, and reads it back; texts are for connections
-  /// that are told them.
-  void Send(const SettingTexts& texts, const Progress& progress = {});
+  /// that are told them. What was sent may make more differ: then `keepUndo` is called before that
+  /// is sent, as `Undo` has become more. Where it says no, no more is sent.
+  void Send(
+      const SettingTexts& texts, const Progress& progress = {},
+      const std::function<bool()>& keepUndo = [] { return true; });
 
   /// In the snapshot's order.
   const std::vector<RestoredSetting>& Settings() const { return settings_; }
   int Count(Outcome outcome) const;
 
-  /// What the projector had of everything that differs: restoring this undoes `Send`.
+  /// What the projector had at first of everything that differs or differed: restoring this undoes
+  /// `Send`, but for what is beyond that.
   Snapshot Undo(const std::string& projector, const SettingTexts& texts) const;
 
  private:

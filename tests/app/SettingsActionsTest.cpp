@@ -21,7 +21,10 @@ struct Rooms {
     for (const ProjectorProfile& profile :
          ReadProfileFile(QStringLiteral(TEST_CATALOG_DIR "/projectors.json")).projectors) {
       if (profile.Name != "Projector 5-30" && profile.Name != "Projector 5-31") continue;
-      sessions.push_back(std::make_shared<ProjectorSession>(profile, nullptr));
+      sessions.push_back(std::make_shared<ProjectorSession>(
+          profile, [this](const PjtCommand&, const PjtReply& reply, std::chrono::microseconds) {
+            if (!reply.answered) sessions[1]->ClearFaults();
+          }));
     }
     EXPECT_EQ(SettingsActions::SaveTo(file, {sessions[0]}), QStringList());
   }
@@ -58,6 +61,7 @@ TEST(SettingsActions, PutsBackWhatIsCheckedOnEveryProjector) {
 
   QAbstractItemModel& model = *dialog.findChild<QTreeView*>()->model();
   model.setData(model.index(2, kSettingColumn), Qt::Unchecked, Qt::CheckStateRole);
+  rooms.sessions[1]->SetFault(PjtOperation::SetContrast, {.kind = Fault::Kind::DropOut});
   dialog.Restore();
   EXPECT_EQ(Column(dialog, kResultColumn), QStringList({"changed", "changed", "different"}));
   EXPECT_EQ(rooms.Projector(0).Value(SettingId::Brightness), 128);
@@ -73,7 +77,8 @@ TEST(SettingsActions, TellsWhatCannotBeSaved) {
   rooms.sessions[1]->SetFault({}, {.kind = Fault::Kind::FailRead});
   const QStringList errors = SettingsActions::SaveTo(rooms.folder.path(), rooms.sessions);
   EXPECT_EQ(errors, QStringList("Projector 5-31: nothing can be read"));
-  EXPECT_TRUE(QFile::exists(rooms.folder.filePath("Projector_5-30.json")));
+  SettingsActions::SaveTo(rooms.folder.path(), {rooms.sessions[0], rooms.sessions[0]});
+  EXPECT_EQ(QDir(rooms.folder.path()).entryList({"Projector_5-30*.json"}).size(), 3);
   EXPECT_THAT(SettingsActions::SaveTo("/proc/x.json", {rooms.sessions[0]}).join('\n').toStdString(),
               testing::StartsWith("cannot write /proc/x.json: "));
 }

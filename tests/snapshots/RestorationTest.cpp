@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include "app/profiles/ProjectorAccess.h"
+#include "device/CommandCode.h"
 #include "device/TcpChannel.h"
 #include "i18n/SystemLanguage.h"
 #include "simulator/WireResponder.h"
@@ -43,6 +44,8 @@ struct Disturbed : ProjectorChannel {
     if (count > trouble.deadAfter || Happens(trouble.lostPercent)) return lost;
     if (Happens(trouble.refusedPercent)) return {.result = RefusedResult(command.operation)};
     const PjtReply reply = projector.Execute(command);
+    const bool isNewSource = !IsRead(command.operation) && command.code == CommandCode::InputSource;
+    if (isNewSource && trouble.tint > 0) projector.SetValue(SettingId::Tint, trouble.tint);
     return Happens(trouble.lostPercent) ? lost : reply;
   }
   bool Happens(int percent) { return static_cast<int>(random() % 100) < percent; }
@@ -51,7 +54,7 @@ struct Disturbed : ProjectorChannel {
   SimulatedProjector projector;
   Random random{7};
   struct Trouble {
-    int refusedPercent = 0, lostPercent = 0, deadAfter = 1 << 30;
+    int refusedPercent = 0, lostPercent = 0, deadAfter = 1 << 30, tint = 0;
   } trouble{};
   int count = 0, sent = 0;
 };
@@ -123,12 +126,16 @@ TEST(Restoration, BringsEveryProjectorBackAndUndoesItself) {
     room.channel->count = 0;
     const Snapshot wanted = Take(room.projector);
     EXPECT_LE(room.channel->count, std::ssize(wanted.settings) + 2) << "a source is asked for once";
+    const int tint = room.channel->projector.Value(SettingId::Tint);
     room.ChangeAll(2);
+    room.channel->trouble.tint = 100;
+    room.channel->projector.SetValue(SettingId::Tint, tint);
     const Snapshot before = Take(room.projector);
     Restoration restoration(wanted, room.projector.Settings(), room.projector.Connection());
     restoration.Read();
-    const Snapshot undo = restoration.Undo(profile.Name, Texts());
-    restoration.Send(Texts());
+    const auto undoNow = [&] { return restoration.Undo(profile.Name, Texts()); };
+    Snapshot undo = undoNow();
+    restoration.Send(Texts(), {}, [&] { return !(undo = undoNow()).settings.empty(); });
     EXPECT_EQ(Take(room.projector).settings, wanted.settings);
     EXPECT_EQ(restoration.Count(Outcome::Changed) + restoration.Count(Outcome::AlreadySo),
               static_cast<int>(wanted.settings.size()));

@@ -997,6 +997,14 @@
         <source>%1: %2</source>
         <translation>%1：%2</translation>
     </message>
+    <message>
+        <source>%1; the undo file does not bring back %2</source>
+        <translation>%1；撤销文件不会恢复原值 %2</translation>
+    </message>
+    <message>
+        <source>%1; the rest was not sent</source>
+        <translation>%1；其余设置未发送</translation>
+    </message>
 </context>
 <context>
     <name>SettingsActions</name>

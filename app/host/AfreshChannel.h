@@ -1,0 +1,45 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <utility>
+
+#include "app/profiles/ProjectorAccess.h"
+
+/// A session's channel as work on many settings needs it: a command after an unanswered one is
+/// really sent, where the session spares a projector that was silent just now. Once `goesOn` says
+/// no, it is not.
+class AfreshChannel : public ProjectorChannel {
+ public:
+  AfreshChannel(std::shared_ptr<ProjectorChannel> inner, std::function<bool()> goesOn)
+      : inner_(std::move(inner)), goesOn_(std::move(goesOn)) {}
+
+  PjtReply Execute(const PjtCommand& command) override {
+    TryAfresh();
+    const PjtReply reply = inner_->Execute(command);
+    silent_ = !reply.answered;
+    return reply;
+  }
+  void Announce(std::span<const PjtCommand> reads) override {
+    TryAfresh();
+    inner_->Announce(reads);
+  }
+  void Abandon() override { inner_->Abandon(); }
+  ConnectionState Connection() const override { return inner_->Connection(); }
+
+ private:
+  void TryAfresh() {
+    if (std::exchange(silent_, false) && goesOn_()) inner_->Abandon();
+  }
+
+  std::shared_ptr<ProjectorChannel> inner_;
+  std::function<bool()> goesOn_;
+  bool silent_ = false;
+};
+
+/// The way to a projector that asks again where an answer got lost, and knows when it is gone.
+inline std::shared_ptr<PatientChannel> MakePatient(std::shared_ptr<ProjectorChannel> channel,
+                                                   std::function<bool()> goesOn) {
+  return std::make_shared<PatientChannel>(
+      std::make_shared<AfreshChannel>(std::move(channel), std::move(goesOn)));
+}

@@ -143,12 +143,13 @@ TEST(WireChannelTest, SaysWhyItCannotConnect) {
     return QDir("/proc/self/task").entryList(QDir::Dirs | QDir::NoDotAndDotDot).size();
   };
   const auto before = threads();
-  EXPECT_EQ(Replies(BoundedChannel(std::make_shared<TcpChannel>("127.0.0.1", taken, kLimits),
-                                   {.timeOut = 10ms}),
-                    {Get(1)}),
-            "?");
+  {
+    BoundedChannel channel(std::make_shared<TcpChannel>("127.0.0.1", taken, kLimits),
+                           {.timeOut = 10ms});
+    EXPECT_EQ(Replies(channel, {Get(1)}), "?");
+  }
   for (int i = 0; i < 200 && threads() > before; ++i) std::this_thread::sleep_for(10ms);
-  EXPECT_EQ(threads(), before);
+  EXPECT_LE(threads(), before);
 
   neverAccepts.close();
   expect(TcpChannel("127.0.0.1", taken, kLimits), NotReachable);

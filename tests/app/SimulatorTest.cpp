@@ -118,7 +118,9 @@ TEST_F(SimulatorTest, TheListTellsHowEveryConnectionStands) {
   };
   for (int row = 0; row < 4; ++row) comesTo(row, "Not connected");
   comesTo(4, "Simulated");
-  for (std::size_t row = 0; row < profiles.size(); ++row) window.OpenDialog(row);
+  for (const std::size_t row : {0, 2, 3, 4}) window.OpenDialog(row);
+  EXPECT_EQ(Control("1 late 200"), "ok");
+  window.OpenDialog(1);
   for (int row = 0; row < 3; ++row) comesTo(row, "Open · Connected");
   comesTo(3, "Open · Password missing or wrong");
   comesTo(4, "Open · Simulated");
@@ -134,6 +136,7 @@ TEST_F(SimulatorTest, TheListTellsHowEveryConnectionStands) {
   window.Dialog(1)->findChild<QTabBar*>()->setCurrentIndex(0);
   EXPECT_TRUE(QTest::qWaitFor([&] { return !input(1).isEmpty() && input(1) == input(0); }))
       << input(1).toStdString();
+  EXPECT_EQ(Control("1 none"), "ok");
   window.Dialog(1)->close();
   const auto& names = profiles[0].Model.MySourceList.names;
   EXPECT_EQ(window.OpenDialog(1)->Model().MySourceList.names, names) << "known from the start";

@@ -1,11 +1,14 @@
 #include "app/host/InputAskingChannel.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
 
 // Of the time that the dialog waits for a command; a last exchange and the command come on top.
 constexpr std::chrono::milliseconds kShare{400};
+// One in standby may tell its inputs only once it is on.
+constexpr std::chrono::seconds kLongestPause{120};
 
 }  // namespace
 
@@ -31,7 +34,8 @@ void InputAskingChannel::AskOn() {
   const auto end = Clock::now() + kShare;
   do {
     if (!AskNext()) {
-      nextTry_ = Clock::now() + std::exchange(pause_, 2 * pause_);
+      nextTry_ = Clock::now() + pause_;
+      pause_ = std::min(2 * pause_, kLongestPause);
       return;
     }
   } while (!isDone_ && Clock::now() < end);

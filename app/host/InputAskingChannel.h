@@ -23,8 +23,8 @@ class ToldInputs {
 
 /// The way to a PJLink projector whose inputs nobody knows: asks for them until it has them all, a
 /// few exchanges before each read that follows an answer. So a silent projector is not asked, and
-/// no read of a slow one waits for long. After a failure the next 10 seconds are left free, then
-/// twice as many, and so on.
+/// no read of a slow one waits for long. After a failure the next 10 seconds are left free, after
+/// another one twice as many, and so on, up to 2 minutes.
 class InputAskingChannel : public ProjectorChannel {
  public:
   InputAskingChannel(std::shared_ptr<PjLinkChannel> inner, std::shared_ptr<ToldInputs> told)

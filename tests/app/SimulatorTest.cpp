@@ -152,6 +152,14 @@ TEST_F(SimulatorTest, TheListTellsHowEveryConnectionStands) {
   comesTo(0, "Open · Connected");
 }
 
+TEST(SimulatorPorts, NoneIsBeyondTheLast) {
+  const Outcome outcome = ::Run(SIMULATOR_PROGRAM, {"--projector", kName, "--port", "65535"},
+                                QProcessEnvironment::systemEnvironment());
+  EXPECT_EQ(outcome.exitCode, 2);
+  EXPECT_EQ(outcome.output, "");
+  EXPECT_NE(outcome.errors.find("no ports are left"), std::string::npos) << outcome.errors;
+}
+
 TEST(Dialog, ConnectsByItselfAndPaysTwoRoundTripsAPageAtMost) {
   for (const auto& [type, code] :
        {std::pair{1, 0}, {2, 6}, {3, 10}, {4, 22}, {5, 30}, {5, 42}, {5, 54}}) {

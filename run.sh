@@ -8,7 +8,7 @@ cd "$(dirname "$0")"
 
 scripts/setup.sh
 echo "Building (build/release)"
-cmake --preset release -DADVANCEDCONTROL_TESTS=OFF -DADVANCEDCONTROL_BENCHMARKS=OFF >/dev/null
+cmake --preset release -DADVANCEDCONTROL_BENCHMARKS=OFF >/dev/null
 cmake --build --preset release
 
 program=build/release/bin/advanced-control

@@ -9,7 +9,7 @@ echo "Checking the floors"
 scripts/check-floors.sh
 
 echo "Building (build/check): optimised, without tests, warnings are errors"
-cmake --preset release -B build/check -DADVANCEDCONTROL_TESTS=OFF >/dev/null
+cmake --preset release -B build/check >/dev/null
 cmake --build build/check
 
 echo "Checking the installed library"

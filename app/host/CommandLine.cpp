@@ -112,7 +112,8 @@ CommandLine ParseCommandLine(const QStringList& arguments) {
     }
   }
 
-  line.platform = toolkit.contains(QLatin1String("platform"));
+  line.platform =
+      toolkit.contains(QLatin1String("platform")) || toolkit.contains(QLatin1String("display"));
   line.style = toolkit.contains(QLatin1String("style"));
   line.profiles = parser.value(profiles);
   line.open = parser.value(open);

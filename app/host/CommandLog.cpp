@@ -72,6 +72,7 @@ CommandLog::CommandLog(QWidget* parent)
   auto* head = new QHBoxLayout;
   auto* caption = new QLabel(tr("Commands, &newest last"));
   caption->setBuddy(view_);
+  caption->setMinimumWidth(1);  // it gives way where the window has to be narrow
   head->addWidget(caption);
   head->addStretch();
   for (QAction* action : {changesOnly_, saveAs_, clear_}) head->addWidget(ButtonOf(action));

@@ -17,8 +17,12 @@ constexpr int kGap = 8;
 constexpr int kCascade = 28;
 constexpr std::size_t kCascadeLength = 8;
 constexpr auto kRetirementCheck = std::chrono::milliseconds(50);
-constexpr const char* kGeometryKey = "dialog/geometry";
 constexpr const char* kTabKey = "dialog/tab";
+
+// For each type of dialog: they differ in size.
+QString GeometryKey(const CAdvanceDlg& dialog) {
+  return QStringLiteral("dialog/geometry-%1").arg(dialog.Model().DialogType);
+}
 
 // Tabs are remembered by the number of their caption, which models have at different places.
 std::vector<int> TabCaptions(const CModelInfo2& model) {
@@ -85,7 +89,8 @@ void DialogKeeper::SelectLastTab(CAdvanceDlg& dialog, const CModelInfo2& model) 
 
 void DialogKeeper::Arrange(CAdvanceDlg& dialog) {
   const bool remembered =
-      settings_ != nullptr && dialog.restoreGeometry(settings_->value(kGeometryKey).toByteArray());
+      settings_ != nullptr &&
+      dialog.restoreGeometry(settings_->value(GeometryKey(dialog)).toByteArray());
   if (!remembered || dialogs_.size() > 1) Place(dialog);
 }
 
@@ -151,7 +156,7 @@ void DialogKeeper::Retire(const ProjectorSession* session) {
 }
 
 void DialogKeeper::Remember(const CAdvanceDlg& dialog) {
-  if (settings_ != nullptr) settings_->setValue(kGeometryKey, dialog.saveGeometry());
+  if (settings_ != nullptr) settings_->setValue(GeometryKey(dialog), dialog.saveGeometry());
 }
 
 // A dialog can be closed by the window manager while one of its handlers waits for the projector,

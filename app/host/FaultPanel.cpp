@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
+#include <QShortcut>
 #include <QSpinBox>
 
 #include "app/host/Mnemonic.h"
@@ -142,6 +143,8 @@ FaultPanel::FaultPanel(QWidget* parent)
   connect(set_, &QPushButton::clicked, this, &FaultPanel::SetFault);
   connect(faults_, &QListWidget::currentRowChanged, this, &FaultPanel::UpdateButtons);
   connect(remove_, &QPushButton::clicked, this, &FaultPanel::RemoveSelected);
+  connect(new QShortcut(QKeySequence::Delete, faults_, nullptr, nullptr, Qt::WidgetShortcut),
+          &QShortcut::activated, remove_, &QPushButton::click);
   connect(clear_, &QPushButton::clicked, this, [this] {
     session_->ClearFaults();
     ShowFaults();

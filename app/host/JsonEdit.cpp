@@ -125,6 +125,24 @@ QByteArray Write(const Member& member) {
   return Write(QJsonValue(member.key)) + ": " + Write(member.value);
 }
 
+// Those that differ, so that the others stay as they were written.
+QByteArray SetMembers(QByteArray text, Path path, const Member& object) {
+  path.emplace_back(object.key);
+  const QJsonObject before = QJsonDocument::fromJson(JsonEdit::TextAt(text, path)).object();
+  const QJsonObject after = object.value.toObject();
+  for (auto member = after.begin(); member != after.end(); ++member) {
+    if (*member != before.value(member.key())) {
+      text = JsonEdit::SetMember(text, path, {member.key(), *member});
+    }
+  }
+  for (auto member = before.begin(); member != before.end(); ++member) {
+    if (!after.contains(member.key())) {
+      text = JsonEdit::SetMember(text, path, {member.key(), QJsonValue::Undefined});
+    }
+  }
+  return text;
+}
+
 }  // namespace
 
 QByteArray SetMember(const QByteArray& text, const Path& path, const Member& member) {
@@ -132,6 +150,9 @@ QByteArray SetMember(const QByteArray& text, const Path& path, const Member& mem
   const std::vector<Child> children = ChildrenOf(text, object);
   const auto present = std::ranges::find(children, member.key, &Child::key);
   if (present != children.end()) {
+    if (member.value.isObject() && text[present->value] == '{') {
+      return SetMembers(text, path, member);
+    }
     if (!member.value.isUndefined()) {
       return Replaced(text, present->value, present->end, Write(member.value));
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <utility>
 #include <vector>
 
 #include <QByteArray>
@@ -13,6 +14,7 @@ namespace JsonEdit {
 /// Where a value is: keys and positions from the outermost value on.
 struct Step {
   Step(const char* objectKey) : key(QLatin1String(objectKey)) {}
+  Step(QString objectKey) : key(std::move(objectKey)) {}
   Step(qsizetype arrayPosition) : position(arrayPosition) {}
 
   QString key;
@@ -29,7 +31,8 @@ using Members = std::vector<Member>;
 
 // `path` must lead to an object or array of the text; positions must be in it.
 
-/// Gives an object's member this value, adds it as the last one, or takes it out.
+/// Gives an object's member this value, adds it as the last one, or takes it out. Of a value that
+/// is an object before and afterwards, only those members are touched that differ.
 QByteArray SetMember(const QByteArray& text, const Path& path, const Member& member);
 
 /// Puts an element, itself JSON, behind the one at `after` of an array that is not empty.

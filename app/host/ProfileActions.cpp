@@ -41,6 +41,7 @@ ProfileActions::ProfileActions(ProfileDocument& document, std::function<int()> c
       edit_(Make(tr("&Edit…"), Qt::Key_F2, &ProfileActions::EditProjector)),
       duplicate_(Make(tr("&Duplicate"), Qt::CTRL | Qt::Key_D, &ProfileActions::DuplicateProjector)),
       remove_(Make(tr("&Remove"), QKeySequence::Delete, &ProfileActions::RemoveProjector)) {
+  remove_->setShortcutContext(Qt::WidgetWithChildrenShortcut);  // in the list alone
   Update();
 }
 

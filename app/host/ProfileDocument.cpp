@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -30,6 +31,9 @@ QString ProfileDocument::Load(const QString& fileName) {
 }
 
 QString ProfileDocument::SaveAs(const QString& fileName) {
+  if (QFileInfo::exists(fileName) && QFileInfo(fileName) == QFileInfo(fileName_)) {
+    if (QString error = ChangedMeanwhile(); !error.isEmpty()) return error;
+  }
   if (QString error = WriteWholeFile(fileName, text_); !error.isEmpty()) return error;
   fileName_ = fileName;
   return {};
@@ -73,16 +77,18 @@ QString ProfileDocument::Remove(std::size_t projector) {
   return Write(JsonEdit::RemoveElement(text_, kProjectors, static_cast<qsizetype>(projector)));
 }
 
+QString ProfileDocument::ChangedMeanwhile() const {
+  const ProfileFileText present = ReadProfileText(fileName_);
+  if (!present.error.isEmpty() || present.text == text_) return present.error;
+  return tr("%1 was changed by another program. Reload it (F5), then do this again.")
+      .arg(fileName_);
+}
+
 QString ProfileDocument::Write(const QByteArray& text) {
   if (text == text_) return {};
   ProfileFileContents contents = ParseProfiles(text, fileName_);
   if (!contents.error.isEmpty()) return contents.error;
-  const ProfileFileText present = ReadProfileText(fileName_);
-  if (!present.error.isEmpty()) return present.error;
-  if (present.text != text_) {
-    return tr("%1 was changed by another program. Reload it (F5), then do this again.")
-        .arg(fileName_);
-  }
+  if (QString error = ChangedMeanwhile(); !error.isEmpty()) return error;
   if (QString error = WriteWholeFile(fileName_, text); !error.isEmpty()) return error;
   text_ = text;
   file_ = QJsonDocument::fromJson(text_).object();

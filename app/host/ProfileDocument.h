@@ -54,6 +54,7 @@ class ProfileDocument {
 
  private:
   QString Write(const QByteArray& text);
+  QString ChangedMeanwhile() const;
 
   QString fileName_;
   QByteArray text_;  // as it was read or written last

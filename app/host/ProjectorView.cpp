@@ -16,7 +16,7 @@
 namespace {
 
 constexpr int kColumnGap = 4;
-constexpr int kMinimumWidth = 260;
+constexpr int kMinimumWidth = 200;
 
 }  // namespace
 
@@ -55,7 +55,7 @@ ProjectorView::ProjectorView(QWidget* parent)
 
   connect(search_, &QLineEdit::textChanged, this, [this](const QString& words) {
     filter_->Search(words);
-    if (CurrentRow() < 0) table_->setCurrentIndex(filter_->index(0, 0));
+    if (CurrentRow() < 0) SelectOnly(filter_->index(0, 0));
     open_->setEnabled(CurrentRow() >= 0);
   });
   connect(search_, &QLineEdit::returnPressed, this, &ProjectorView::Activated);
@@ -130,7 +130,14 @@ ProjectorSession* ProjectorView::Current() const {
 void ProjectorView::Select(int row) {
   const QModelIndex source = model_->index(row, 0);
   if (!filter_->mapFromSource(source).isValid()) search_->clear();
-  table_->setCurrentIndex(filter_->mapFromSource(source));
+  SelectOnly(filter_->mapFromSource(source));
+}
+
+// Whatever keys are held: with Ctrl a table would toggle the row.
+void ProjectorView::SelectOnly(const QModelIndex& index) {
+  table_->selectionModel()->setCurrentIndex(
+      index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  table_->scrollTo(index);
 }
 
 void ProjectorView::FocusSearch() {

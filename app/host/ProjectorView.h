@@ -50,6 +50,7 @@ class ProjectorView : public QWidget {
 
  private:
   void MakeColumns();
+  void SelectOnly(const QModelIndex& index);
 
   ProjectorTableModel* model_;
   ProjectorFilter* filter_;

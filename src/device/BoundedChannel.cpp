@@ -213,5 +213,9 @@ void BoundedChannel::Announce(std::span<const PjtCommand> reads) {
 
 ConnectionState BoundedChannel::Connection() const {
   const std::lock_guard lock(state_->mutex);
-  return state_->inner ? state_->inner->Connection() : ConnectionState::None;
+  try {
+    if (state_->inner) return state_->inner->Connection();
+  } catch (...) {  // as a command that throws has no answer
+  }
+  return ConnectionState::None;
 }

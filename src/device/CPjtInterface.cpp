@@ -25,6 +25,14 @@ int KeepList(int count, const int* values, std::vector<std::int32_t>& kept) {
   return size;
 }
 
+// A host's channel may do anything; the dialog's handlers know no exceptions.
+void Guarded(const auto& act) {
+  try {
+    act();
+  } catch (...) {
+  }
+}
+
 }  // namespace
 
 struct CPjtInterface::Traffic {
@@ -44,7 +52,9 @@ void CPjtInterface::SetChannel(std::shared_ptr<ProjectorChannel> channel) {
 }
 
 ConnectionState CPjtInterface::Connection() const {
-  return channel_ ? channel_->Connection() : ConnectionState::None;
+  ConnectionState state = ConnectionState::None;
+  if (channel_) Guarded([&] { state = channel_->Connection(); });
+  return state;
 }
 
 void CPjtInterface::CopyData(int kind, int number, int parameter, const char* text1,
@@ -85,10 +95,7 @@ PjtReply CPjtInterface::Execute(const PjtCommand& command) const {
   PjtReply reply{.result = RefusedResult(command.operation), .answered = false};
   if (channel && !cutOff_ && traffic->abandoned == 0) {
     ++traffic->waiting;
-    try {
-      reply = channel->Execute(command);
-    } catch (...) {  // a host's channel may do anything; the dialog's handlers know no exceptions
-    }
+    Guarded([&] { reply = channel->Execute(command); });
     --traffic->waiting;
   }
   ++traffic->sent.commands;
@@ -101,7 +108,7 @@ PjtReply CPjtInterface::Execute(const PjtCommand& command) const {
 std::shared_ptr<const void> CPjtInterface::Abandon() {
   const std::shared_ptr<Traffic> traffic = traffic_.now;
   ++traffic->abandoned;
-  if (IsWaiting() && channel_) channel_->Abandon();
+  if (IsWaiting() && channel_) Guarded([this] { channel_->Abandon(); });
   return {traffic.get(), [traffic](const void*) { --traffic->abandoned; }};
 }
 
@@ -110,11 +117,11 @@ bool CPjtInterface::IsWaiting() const { return traffic_.now->waiting > 0; }
 CPjtInterface::Tally CPjtInterface::Sent() const { return traffic_.now->sent; }
 
 void CPjtInterface::TryAfresh() {
-  if (channel_) channel_->Abandon();
+  if (channel_) Guarded([this] { channel_->Abandon(); });
 }
 
 void CPjtInterface::Announce(std::span<const PjtCommand> reads) const {
-  if (channel_ && !cutOff_ && !IsAbandoned()) channel_->Announce(reads);
+  if (channel_ && !cutOff_ && !IsAbandoned()) Guarded([&] { channel_->Announce(reads); });
 }
 
 int CPjtInterface::ExecuteInto(const PjtCommand& command, short* value) const {

@@ -55,7 +55,8 @@ void FindLine::Start(std::vector<Place> places) {
 
 void FindLine::Choose(const QModelIndex& completion) {
   const auto* shown = static_cast<const QAbstractProxyModel*>(completer()->completionModel());
-  const auto& place = places_[static_cast<std::size_t>(shown->mapToSource(completion).row())];
+  // A copy: while its tab is read, somebody may start anew.
+  const Place place = places_[static_cast<std::size_t>(shown->mapToSource(completion).row())];
   hide();
   Q_EMIT Found(place);
 }
@@ -130,11 +131,13 @@ void FocusOn(const CDialog& dialog, int control) {
 
 }  // namespace
 
-// Reading another tab may end with anything: also with the dialog closed, or with a further tab.
+// Reading another tab may end with anything: also with the dialog closed, with a further tab, or
+// with a further search.
 void CAdvanceDlg::GoTo(int tab, int control, const std::optional<PagePopUp>& popUp) {
   tabs_->setFocus(Qt::OtherFocusReason);  // of a row that is grey
   tabs_->setCurrentIndex(tab);
   if (!IsCreated() || tabs_->currentIndex() != tab || shownPage_ == nullptr) return;
+  if (find_->isVisible()) return;
   FocusOn(*shownPage_, popUp ? popUp->control : control);
   if (popUp) OpenPopUp(popUp->button, control);
 }

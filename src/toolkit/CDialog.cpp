@@ -84,6 +84,7 @@ CDialog::~CDialog() {
 }
 
 bool CDialog::Create() {
+  if (isWindow() && busy_ > 0) return false;  // its controls are in use
   Destroy();
   // A dialog may be run again; the controls of its last run may have been in use until it closed.
   for (const auto& [id, control] : std::exchange(controls_, {})) delete control;

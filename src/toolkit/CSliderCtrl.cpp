@@ -88,6 +88,7 @@ void CSliderCtrl::mousePressEvent(QMouseEvent* event) {
   if (event->button() == Qt::LeftButton) {
     pressed_ = true;
     QSlider::mousePressEvent(event);
+    Q_EMIT Scrolling(true);
   } else {
     event->ignore();
   }
@@ -97,13 +98,15 @@ void CSliderCtrl::mouseReleaseEvent(QMouseEvent* event) {
   // The press may have been dropped.
   const bool scrolled = event->button() == Qt::LeftButton && std::exchange(pressed_, false);
   QSlider::mouseReleaseEvent(event);
-  if (scrolled) Q_EMIT EndScroll();
+  if (scrolled) Finish();
 }
 
 void CSliderCtrl::keyPressEvent(QKeyEvent* event) {
   const int before = value();
   QSlider::keyPressEvent(event);
-  if (value() != before) keyScrolling_ = true;
+  if (value() == before) return;
+  keyScrolling_ = true;
+  Q_EMIT Scrolling(true);
 }
 
 void CSliderCtrl::keyReleaseEvent(QKeyEvent* event) {
@@ -130,5 +133,10 @@ void CSliderCtrl::focusOutEvent(QFocusEvent* event) {
 }
 
 void CSliderCtrl::EndKeyScroll() {
-  if (std::exchange(keyScrolling_, false)) Q_EMIT EndScroll();
+  if (std::exchange(keyScrolling_, false)) Finish();
+}
+
+void CSliderCtrl::Finish() {
+  Q_EMIT Scrolling(false);
+  Q_EMIT EndScroll();
 }

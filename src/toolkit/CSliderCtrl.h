@@ -28,6 +28,7 @@ class CSliderCtrl : public QSlider {
   QSize minimumSizeHint() const override;
 
  Q_SIGNALS:
+  void Scrolling(bool goesOn);  ///< While it goes on the value is what its end will send.
   void EndScroll();
 
  protected:
@@ -42,6 +43,7 @@ class CSliderCtrl : public QSlider {
 
  private:
   void EndKeyScroll();
+  void Finish();
 
   bool pressed_ = false;
   bool keyScrolling_ = false;

@@ -4,6 +4,7 @@
 
 #include <QEvent>
 #include <QLabel>
+#include <QPointer>
 #include <QStyle>
 #include <QStyleOptionSlider>
 #include <QToolTip>
@@ -27,9 +28,11 @@ class DragBubble final : public QLabel {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setAttribute(Qt::WA_DeleteOnClose);
     slider.installEventFilter(this);
-    connect(&slider, &QSlider::sliderReleased, this, &QWidget::close);
+    connect(&slider, &CSliderCtrl::Scrolling, this, [this](bool goesOn) {
+      if (!goesOn) close();
+    });
     connect(&slider, &QObject::destroyed, this, &QWidget::close);
-    connect(&slider, &QSlider::sliderMoved, this, &DragBubble::Follow);
+    connect(&slider, &QSlider::valueChanged, this, &DragBubble::Follow);
     Follow(slider.sliderPosition());
   }
 
@@ -56,7 +59,10 @@ class DragBubble final : public QLabel {
 }  // namespace
 
 void AttachDragBubble(CSliderCtrl& slider) {
-  QObject::connect(&slider, &QSlider::sliderPressed, &slider, [&slider] {
-    new DragBubble(slider);  // NOLINT(bugprone-unhandled-exception-at-new): Qt ends without memory
-  });
+  const auto show = [&slider, bubble = QPointer<QWidget>()](bool goesOn) mutable {
+    if (!goesOn) return;
+    // NOLINTNEXTLINE(bugprone-unhandled-exception-at-new): Qt ends without memory
+    if (bubble == nullptr || !bubble->isVisible()) bubble = new DragBubble(slider);
+  };
+  QObject::connect(&slider, &CSliderCtrl::Scrolling, &slider, show);
 }

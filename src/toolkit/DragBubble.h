@@ -2,5 +2,6 @@
 
 class CSliderCtrl;
 
-/// Shows beside a slider's handle, while it is dragged, the number that letting go would send.
+/// Shows beside a slider's handle, while it is scrolled by hand, the number that letting go would
+/// send.
 void AttachDragBubble(CSliderCtrl& slider);

@@ -270,7 +270,10 @@ TEST(ProjectorList, ProjectorsAreAddedEditedDuplicatedAndRemoved) {
   others.erase(others.begin() + 1);
   EXPECT_EQ(others, before);
   EXPECT_EQ(window.Dialog(0), open) << "nothing changed for it";
-  Find<QAction>(window, "Duplicate").trigger();
+  window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  QTest::keyClick(&window, Qt::Key_D, Qt::ControlModifier);
+  EXPECT_EQ(list.Selected().size(), 1U) << "though Ctrl is held";
   EXPECT_EQ(inFile()[2].Name, "A \"大厅\" (2)");
   EXPECT_EQ(Selected(window), "A \"大厅\" (2)");
 

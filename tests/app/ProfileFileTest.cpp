@@ -225,6 +225,9 @@ TEST(JsonEdit, LeavesAllElseAsItWasWritten) {
       {SetMember("\xEF\xBB\xBF [0, {\"x\\\"}\": \"]\\\\\", \"\\u0061\": {\"b\": [{}]}}]",
                  {qsizetype{1}, "a"}, {"b", 1}),
        "\xEF\xBB\xBF [0, {\"x\\\"}\": \"]\\\\\", \"\\u0061\": {\"b\": 1}}]"},
+      {SetMember("{\"a\": {\n \"z\": {\n  \"y\": 1, \"x\": 2 }}}", {},
+                 {"a", QJsonObject{{"z", QJsonObject{{"x", 3}, {"y", 1}}}}}),
+       "{\"a\": {\n \"z\": {\n  \"y\": 1, \"x\": 3 }}}"},
       {InsertElement("{\"a\": [1,\n 2]}", {"a"}, 0, "9"), "{\"a\": [1,\n 9,\n 2]}"},
       {InsertElement("{\"a\": [\n {}\n]}", {"a"}, 0, "9"), "{\"a\": [\n {},\n 9\n]}"},
       {RemoveElement(R"({"a": [1 , 2 , 3 ]})", {"a"}, 1), R"({"a": [1 , 3 ]})"},
@@ -270,6 +273,7 @@ TEST_F(ProfileDocumentFile, WhatCannotBeDoneChangesNothing) {
 
   Write(name, before + "\n");
   EXPECT_THAT(document.Remove(1).toStdString(), HasSubstr("changed by another program"));
+  EXPECT_THAT(document.SaveAs(name).toStdString(), HasSubstr("changed by another program"));
   EXPECT_EQ(Contents(name), before + "\n");
   EXPECT_EQ(document.Load(name), "");
   EXPECT_EQ(document.Remove(1), "");

@@ -18,6 +18,7 @@
 #include "app/host/MainWindow.h"
 #include "app/host/ProjectorView.h"
 #include "host/CAdvanceDlg.h"
+#include "host/FindLine.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/ShownValues.h"
 
@@ -95,6 +96,11 @@ class Walk {
       tabs->setCurrentIndex(tab);
     } else if (choice < 11) {
       QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(tab).center());
+    } else if (choice == 11) {
+      QTest::keyClick(&dialog, Qt::Key_F, Qt::ControlModifier);
+      auto* line = dialog.findChild<FindLine*>();
+      QTest::keyClicks(line, QStringLiteral("r"));
+      QTest::keyClick(line, Qt::Key_Return);
     } else {
       Use(*dialog.ShownPage());
     }

@@ -24,6 +24,15 @@ class OneReply final : public ProjectorChannel {
         .result = accepted ? AcceptedResult(command.operation) : RefusedResult(command.operation),
         .value = -2};
   }
+  void Abandon() override { MayBreak(); }
+  void Announce(std::span<const PjtCommand>) override { MayBreak(); }
+  ConnectionState Connection() const override {
+    MayBreak();
+    return ConnectionState::Connected;
+  }
+  void MayBreak() const {
+    if (breaks) throw last;
+  }
 
   bool accepted = true;
   bool breaks = false;
@@ -84,6 +93,10 @@ TEST(CPjtInterfaceTest, EveryFormBuildsItsCommandAndTakesItsReply) {
     expectCall(form.refused, 30);
     BoundedChannel bounded(channel);
     EXPECT_EQ(Replies(bounded, {form.command}), "?");
+    p.Announce({});
+    p.TryAfresh();
+    EXPECT_EQ(p.Connection(), ConnectionState::None);
+    EXPECT_EQ(bounded.Connection(), ConnectionState::None);
     p.SetChannel(nullptr);
     expectCall(form.refused, 30);
   }

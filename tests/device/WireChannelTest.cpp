@@ -144,9 +144,9 @@ TEST(WireChannelTest, SaysWhyItCannotConnect) {
   };
   const auto before = threads();
   {
-    BoundedChannel channel(std::make_shared<TcpChannel>("127.0.0.1", taken, kLimits),
+    BoundedChannel givenUp(std::make_shared<TcpChannel>("127.0.0.1", taken, kLimits),
                            {.timeOut = 10ms});
-    EXPECT_EQ(Replies(channel, {Get(1)}), "?");
+    EXPECT_EQ(Replies(givenUp, {Get(1)}), "?");
   }
   for (int i = 0; i < 200 && threads() > before; ++i) std::this_thread::sleep_for(10ms);
   EXPECT_LE(threads(), before);

@@ -276,6 +276,10 @@ TEST_F(FlowTest, ADragTellsWhatLettingGoWouldSend) {
   QTest::mouseRelease(&slider, Qt::LeftButton, {}, at + QPoint(20, 0));
   EXPECT_TRUE(QTest::qWaitFor([&] { return bubbles().isEmpty(); }));
   EXPECT_EQ(Page().Text(kBrightnessField), QString::number(slider.value()));
+  QTest::keyPress(&slider, Qt::Key_Left);
+  ASSERT_EQ(bubbles().size(), 1);
+  EXPECT_EQ(bubbles().first()->text(), QString::number(slider.value()));
+  QTest::keyRelease(&slider, Qt::Key_Left);
 }
 
 }  // namespace

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <chrono>
 #include <memory>
 #include <mutex>
 #include <optional>
+#include <string>
+#include <vector>
 
 #include "device/PjLinkChannel.h"
 
@@ -18,8 +21,10 @@ class ToldInputs {
   std::optional<SourceList> inputs_;
 };
 
-/// The way to a PJLink projector whose inputs nobody knows: asks for them once, as soon as it has
-/// answered a command. So a silent projector is not asked, and the first value does not wait.
+/// The way to a PJLink projector whose inputs nobody knows: asks for them until it has them all, a
+/// few exchanges before each read that follows an answer. So a silent projector is not asked, and
+/// no read of a slow one waits for long. After a failure the next 10 seconds are left free, after
+/// another one twice as many, and so on, up to 2 minutes.
 class InputAskingChannel : public ProjectorChannel {
  public:
   InputAskingChannel(std::shared_ptr<PjLinkChannel> inner, std::shared_ptr<ToldInputs> told)
@@ -30,9 +35,18 @@ class InputAskingChannel : public ProjectorChannel {
   ConnectionState Connection() const override { return inner_->Connection(); }
 
  private:
-  enum class Asking { NotYet, Next, Done };
+  using Clock = std::chrono::steady_clock;
+
+  void AskOn();
+  /// One exchange; false when it brought nothing.
+  bool AskNext();
 
   const std::shared_ptr<PjLinkChannel> inner_;
   const std::shared_ptr<ToldInputs> told_;
-  Asking asking_ = Asking::NotYet;
+  std::vector<std::string> codes_;
+  std::vector<PjLinkInput> inputs_;  ///< Of the first of `codes_`.
+  bool isAnswering_ = false;         ///< As far as the last command tells.
+  bool isDone_ = false;
+  std::chrono::seconds pause_{10};
+  Clock::time_point nextTry_{};
 };

@@ -46,6 +46,9 @@ bool ServedProjectors::Serve(const ProjectorProfile& profile) {
     error_ = QString::fromStdString(profile.Name) + QStringLiteral(": ") + what;
     return false;
   };
+  if (options_.firstPort + 2 * services_.size() + 1 > UINT16_MAX) {
+    return cannot(QStringLiteral("no ports are left; the last is %1").arg(UINT16_MAX));
+  }
   service.wire = std::make_unique<WireServer>(service.channel);
   service.wirePort = service.wire->Listen(options_.address, port(0));
   if (service.wirePort == 0) {

@@ -140,31 +140,43 @@ PjtReply PjLinkChannel::Execute(const PjtCommand& command) {
 }
 
 std::optional<PjLinkDescription> PjLinkChannel::Describe() {
-  if (!Connect()) return std::nullopt;
-  const char inputClass = projectorClass_;
-  bool answered = true;
-  const auto text = [&](char protocolClass, std::string_view command,
-                        std::string_view parameter = PjLink::kQuery) {
-    if (!answered) return std::string();
-    const auto answer = Ask(protocolClass, command, parameter);
-    answered = answer.has_value();
-    return answer && !IsError(*answer) ? *answer : std::string();
-  };
-  PjLinkDescription description{.protocolClass = projectorClass_ - '0',
-                                .name = text('1', "NAME"),
-                                .maker = text('1', "INF1"),
-                                .product = text('1', "INF2"),
-                                .inputs = {}};
-  const auto codes = PjLink::InputCodes(text(inputClass, "INST"));
-  for (const std::string& code : codes.value_or(std::vector<std::string>())) {
-    std::string name;
-    if (inputClass != '1') name = text(inputClass, "INNM", std::string(PjLink::kQuery) + code);
-    description.inputs.push_back({.number = *PjLink::InputNumber(code),
-                                  .name = name.empty() ? NameByCode(code) : std::move(name)});
+  PjLinkDescription description;
+  for (const auto& [command, text] : {std::pair{"NAME", &description.name},
+                                      {"INF1", &description.maker},
+                                      {"INF2", &description.product}}) {
+    auto answer = AskText('1', command);
+    if (!answer) return std::nullopt;
+    *text = std::move(*answer);
   }
-  if (!answered) return std::nullopt;
+  const auto codes = InputCodes();
+  if (!codes) return std::nullopt;
+  for (const std::string& code : *codes) {
+    auto input = Input(code);
+    if (!input) return std::nullopt;
+    description.inputs.push_back(std::move(*input));
+  }
+  description.protocolClass = projectorClass_ - '0';
   Drop(ConnectionState::Unused);
   return description;
+}
+
+std::optional<std::vector<std::string>> PjLinkChannel::InputCodes() {
+  if (!Connect()) return std::nullopt;
+  const auto list = AskText(projectorClass_, "INST");
+  if (!list) return std::nullopt;
+  return PjLink::InputCodes(*list).value_or(std::vector<std::string>());
+}
+
+std::optional<PjLinkInput> PjLinkChannel::Input(const std::string& code) {
+  if (!Connect()) return std::nullopt;
+  std::string name;
+  if (projectorClass_ != '1') {
+    auto answer = AskText(projectorClass_, "INNM", std::string(PjLink::kQuery) + code);
+    if (!answer) return std::nullopt;
+    name = std::move(*answer);
+  }
+  return PjLinkInput{.number = *PjLink::InputNumber(code),
+                     .name = name.empty() ? NameByCode(code) : std::move(name)};
 }
 
 /// Whether the connection stands, and nothing came that nobody asked for.
@@ -225,6 +237,14 @@ std::optional<std::string> PjLinkChannel::ReadLine(std::size_t longest,
       return std::nullopt;
     }
   }
+}
+
+/// As `Ask` on a connection that need not be usable yet; empty where the projector tells an error.
+std::optional<std::string> PjLinkChannel::AskText(char protocolClass, std::string_view command,
+                                                  std::string_view parameter) {
+  if (!Connect()) return std::nullopt;
+  auto answer = Ask(protocolClass, command, parameter);
+  return answer && IsError(*answer) ? std::string() : answer;
 }
 
 /// The parameter of the reply, `OK` and errors included. The connection must be usable; nothing

@@ -69,6 +69,12 @@ class ADVANCED_CONTROL_EXPORT PjLinkChannel : public ProjectorChannel {
   /// next.
   std::optional<PjLinkDescription> Describe();
 
+  /// What `Describe` asks for inputs, one exchange each. The codes are two characters each; none
+  /// when the projector tells none now. Nothing when unanswered.
+  std::optional<std::vector<std::string>> InputCodes();
+  /// `code` is one of `InputCodes`.
+  std::optional<PjLinkInput> Input(const std::string& code);
+
   ConnectionState Connection() const override { return state_; }
 
  private:
@@ -77,6 +83,8 @@ class ADVANCED_CONTROL_EXPORT PjLinkChannel : public ProjectorChannel {
   bool Connect() { return IsUsable() || Open(); }
   void Drop(ConnectionState state);
   std::optional<std::string> ReadLine(std::size_t longest, const QDeadlineTimer& deadline);
+  std::optional<std::string> AskText(char protocolClass, std::string_view command,
+                                     std::string_view parameter = "?");
   std::optional<std::string> Ask(char protocolClass, std::string_view command,
                                  std::string_view parameter);
 

@@ -22,7 +22,8 @@ void FaultyLine::Send(std::string_view bytes) {
       break;
     case LineFault::Kind::Cut:
       Write(bytes.substr(0, static_cast<std::size_t>(fault_.amount)));
-      Close();
+      // A serial line stays: only the rest of the reply is lost.
+      if (qobject_cast<QTcpSocket*>(&line_)) Close();
       break;
     case LineFault::Kind::Garbage:
       Write(std::string(bytes.size(), '?'));

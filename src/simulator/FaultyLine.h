@@ -13,7 +13,7 @@ struct LineFault {
     None,
     Silent,   ///< Nothing is sent.
     Late,     ///< Each reply is sent after `amount` milliseconds.
-    Cut,      ///< The connection is closed after `amount` bytes of the next reply.
+    Cut,      ///< The next reply ends after `amount` bytes, and a connection with it.
     Garbage,  ///< Replies are replaced by other bytes.
     Trickle,  ///< Replies are sent byte by byte.
   };

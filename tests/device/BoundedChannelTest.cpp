@@ -124,6 +124,7 @@ TEST_F(BoundedChannelTest, ALongSeriesOfQuickAnswersLetsTheEventLoopRunWhereTher
   bool ran = false;
   QTimer timer;
   timer.callOnTimeout([&] { ran = true; });
+  timer.setSingleShot(true);
   timer.start(0);
   for (int i = 0; i < 40; ++i) EXPECT_TRUE(channel_.Execute(kCommand).answered);
   EXPECT_TRUE(ran);

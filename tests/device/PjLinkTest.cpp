@@ -1,9 +1,10 @@
 #include <future>
 #include <string>
+#include <thread>
 #include <vector>
 
+#include <QEventLoop>
 #include <QTcpSocket>
-#include <QThread>
 #include <gtest/gtest.h>
 
 #include "device/CommandCode.h"
@@ -26,16 +27,18 @@ const PjtCommand kGetPower = Get(CommandCode::RunningState);
 const std::string kHost = "127.0.0.1";
 
 /// A simulated projector on a port, which answers on a thread of its own.
-class Served final : QThread {
+class Served {
  public:
-  explicit Served(PjLinkServer::Options options) : options_(std::move(options)) {
-    options_.served.inputs = {{"31", 3, "HDMI"}, {"5A", 7, "Büro"}};
-    start();
+  explicit Served(PjLinkServer::Options options) {
+    options.served.inputs = {{"31", 3, "HDMI"}, {"5A", 7, "Büro"}};
+    thread_ = std::jthread([this, options](const std::stop_token& ended) {
+      QEventLoop loop;
+      PjLinkServer server(projector, options);
+      EXPECT_TRUE(server.Listen(kHost, 0));
+      listening_.set_value(server.Port());
+      for (; !ended.stop_requested(); std::this_thread::sleep_for(1ms)) loop.processEvents();
+    });
     port_ = listening_.get_future().get();
-  }
-  ~Served() override {
-    quit();
-    wait();
   }
 
   PjLinkChannel Channel(const std::string& password = {}) const {
@@ -54,16 +57,9 @@ class Served final : QThread {
   const std::shared_ptr<SimulatedProjector> projector = std::make_shared<SimulatedProjector>();
 
  private:
-  void run() override {
-    PjLinkServer server(projector, options_);
-    EXPECT_TRUE(server.Listen(kHost, 0));
-    listening_.set_value(server.Port());
-    exec();
-  }
-
-  PjLinkServer::Options options_;
   std::promise<int> listening_;
   int port_ = 0;
+  std::jthread thread_;
 };
 
 const std::string kGreeting = "PJLINK 0\r";

@@ -149,7 +149,7 @@ TEST(WireChannelTest, SaysWhyItCannotConnect) {
     EXPECT_EQ(Replies(givenUp, {Get(1)}), "?");
   }
   for (int i = 0; i < 200 && threads() > before; ++i) std::this_thread::sleep_for(10ms);
-  EXPECT_EQ(threads(), before);
+  EXPECT_LE(threads(), before);
 
   neverAccepts.close();
   expect(TcpChannel("127.0.0.1", taken, kLimits), NotReachable);

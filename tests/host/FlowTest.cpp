@@ -218,6 +218,29 @@ TEST_F(FlowTest, NoAnswerIsToldAndTriedAgain) {
   EXPECT_EQ(Page().Item<QWidget>(kIris).toolTip(), QString());
 }
 
+TEST_F(FlowTest, APopUpTellsThatNobodyAnswersAndTriesAgain) {
+  Open();
+  ClickTab(kPictureTab);
+  projector_->Pace(10s);
+  QTimer look;
+  look.callOnTimeout([&] {
+    QWidget* popUp = QApplication::activeModalWidget();
+    auto* line = popUp != nullptr ? popUp->findChild<StatusLine*>() : nullptr;
+    auto* retry = line != nullptr ? line->findChild<QPushButton*>() : nullptr;
+    if (retry == nullptr || !retry->isVisible()) return;
+    look.stop();
+    EXPECT_EQ(line->findChild<QLabel*>()->text(), CatalogString(5, 4302));
+    projector_->Pace(0ms);
+    QTest::mouseClick(retry, Qt::LeftButton);
+    EXPECT_FALSE(retry->isVisible());
+    EXPECT_TRUE(popUp->findChild<CSliderCtrl*>()->isEnabled());
+    QTest::keyClick(popUp, Qt::Key_Escape);
+  });
+  look.start(20);
+  Page().Click(kCustomGamma);
+  EXPECT_FALSE(look.isActive());
+}
+
 TEST_F(FlowTest, RowsSayWhatThereIsToKnow) {
   model_.GammaList.count = 0;
   dialog_.CopyData(&model_, 0);

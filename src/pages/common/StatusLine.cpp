@@ -37,6 +37,7 @@ StatusLine::StatusLine(QWidget* parent)
     : QWidget(parent), text_(new QLabel), retry_(new QPushButton) {
   retry_->setAutoDefault(false);
   retry_->hide();
+  hide();  // with nothing to say it is nothing, for a screen reader as well
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(text_);
@@ -58,6 +59,7 @@ void StatusLine::Show(const QString& text, bool canRetry) {
     retry_->setText(CatalogString(kListCategory, ListText::Retry));
   }
   retry_->setVisible(canRetry);
+  setVisible(!text.isEmpty());
   if (text == text_->text()) return;
   text_->setText(text);
   if (text.isEmpty()) return;

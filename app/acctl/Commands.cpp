@@ -8,7 +8,6 @@
 #include <QJsonDocument>
 
 #include "app/acctl/Output.h"
-#include "device/CommandCode.h"
 #include "settings/CatalogNumbers.h"
 
 namespace {
@@ -169,11 +168,6 @@ std::optional<int> Aim(const Change& change, const Work& work, ProjectorAccess& 
   return value;
 }
 
-bool SelectsInput(const ModelSetting& setting) {
-  const auto* list = std::get_if<ListRow>(setting.row);
-  return list != nullptr && list->send && list->send->code == CommandCode::InputSource;
-}
-
 /// Complains of steps that lead nowhere. What a setting kept for each input source has behind a
 /// change of the source is only known then.
 void CheckSteps(const std::vector<Change>& changes, const Work& work, ProjectorAccess& projector,
@@ -183,7 +177,7 @@ void CheckSteps(const std::vector<Change>& changes, const Work& work, ProjectorA
   bool ofOtherSource = false;
   for (const Change& change : changes) {
     const ModelSetting& setting = *change.setting;
-    ofOtherSource = ofOtherSource || SelectsInput(setting);
+    ofOtherSource = ofOtherSource || setting.SelectsInput();
     if (ofOtherSource && setting.IsPerSource()) continue;
     std::optional<int>& value = expected[&setting];
     if (!change.typed.relative) {

@@ -52,6 +52,11 @@ void Describe(const auto&, const ModelData&, ModelSetting&) {}
 
 }  // namespace
 
+bool ModelSetting::SelectsInput() const {
+  const auto* list = std::get_if<ListRow>(row);
+  return list != nullptr && list->send && list->send->code == CommandCode::InputSource;
+}
+
 bool ModelSetting::Allows(int value) const {
   if (kind == Kind::Choice) return value != placeholder && PositionOf(entries, value) >= 0;
   if (kind == Kind::State) return changeable && (value == 0 || value == 1);

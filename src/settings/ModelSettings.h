@@ -41,6 +41,8 @@ struct ModelSetting {
   /// Whether a value read earlier may be sent again.
   bool Restorable() const { return readable && changeable && kind != Kind::State; }
   bool IsPerSource() const { return of != OfSource::None || ofCurrentSourceOnly; }
+  /// Whether a change of it changes the projector's input source.
+  bool SelectsInput() const;
   /// Whether the row takes this device value.
   bool Allows(int value) const;
 };

@@ -2,21 +2,14 @@
 
 #include <algorithm>
 
-#include "device/CommandCode.h"
-
 namespace {
-
-bool IsInputSource(const ModelSetting& setting) {
-  const auto* list = std::get_if<ListRow>(setting.row);
-  return list != nullptr && list->send && list->send->code == CommandCode::InputSource;
-}
 
 /// The input source decides what the projector's other settings belong to, and modes decide what
 /// numbers are worth: each rank is read again when one before it was changed.
 enum class Rank : std::uint8_t { Source, Choice, Number };
 
 Rank RankOf(const ModelSetting& setting) {
-  if (IsInputSource(setting)) return Rank::Source;
+  if (setting.SelectsInput()) return Rank::Source;
   return setting.kind == ModelSetting::Kind::Choice ? Rank::Choice : Rank::Number;
 }
 

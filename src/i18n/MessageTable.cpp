@@ -13,15 +13,14 @@
 #include <unicode/ucnv.h>
 #include <unicode/ustring.h>
 
-namespace {
+#include "i18n/ModuleImage.h"
 
-using Bytes = std::span<const std::byte>;
+namespace {
 
 constexpr std::size_t kMaxFileBytes = std::size_t{32} << 20;
 constexpr std::size_t kMaxMessages = std::size_t{1} << 20;
 // An honest module has nothing that is read twice, except that two languages may share a table.
 constexpr std::uint64_t kMaxReadsOfAByte = 2;
-constexpr std::size_t kMaxSections = 96;
 constexpr std::uint32_t kMessageTableType = 11;
 constexpr std::uint32_t kMaxLanguage = 0xFFFF;
 
@@ -48,80 +47,6 @@ std::vector<std::byte> ReadFile(const std::string& path) {
   close(file);
   return bytes;
 }
-
-std::optional<Bytes> Slice(Bytes bytes, std::uint64_t offset, std::uint64_t length) {
-  if (offset > bytes.size() || length > bytes.size() - offset) return {};
-  return bytes.subspan(static_cast<std::size_t>(offset), static_cast<std::size_t>(length));
-}
-
-// Little-endian fields of a slice already known to hold them.
-std::uint16_t U16(Bytes bytes, std::size_t offset) {
-  return static_cast<std::uint16_t>(std::to_integer<unsigned>(bytes[offset]) |
-                                    std::to_integer<unsigned>(bytes[offset + 1]) << 8);
-}
-
-std::uint32_t U32(Bytes bytes, std::size_t offset) {
-  return U16(bytes, offset) | static_cast<std::uint32_t>(U16(bytes, offset + 2)) << 16;
-}
-
-// The sections of a module and its resource directory.
-class ModuleImage {
- public:
-  static std::optional<ModuleImage> Open(Bytes file) {
-    const auto dosHeader = Slice(file, 0, 64);
-    if (!dosHeader || U16(*dosHeader, 0) != 0x5A4D) return {};
-    const std::uint64_t headerAt = U32(*dosHeader, 0x3C);
-    const auto header = Slice(file, headerAt, 24);
-    if (!header || U32(*header, 0) != 0x00004550) return {};
-
-    const std::size_t optionalSize = U16(*header, 20);
-    const auto optional = Slice(file, headerAt + 24, optionalSize);
-    if (!optional || optionalSize < 2) return {};
-    const std::uint16_t magic = U16(*optional, 0);
-    if (magic != 0x010B && magic != 0x020B) return {};
-    const std::size_t directoriesAt = magic == 0x020B ? 112 : 96;
-    constexpr std::size_t kResourceDirectory = 2;
-    if (optionalSize < directoriesAt + 8 * (kResourceDirectory + 1)) return {};
-    if (U32(*optional, directoriesAt - 4) <= kResourceDirectory) return {};
-
-    ModuleImage image;
-    const std::size_t sections = U16(*header, 6);
-    const auto table = Slice(file, headerAt + 24 + optionalSize, 40 * sections);
-    if (!table || sections > kMaxSections) return {};
-    for (std::size_t i = 0; i < sections; ++i) {
-      const Bytes entry = table->subspan(40 * i, 40);
-      const std::uint32_t size = U32(entry, 16);
-      const auto content = Slice(file, size == 0 ? 0 : U32(entry, 20), size);
-      if (!content) return {};
-      image.sections_.push_back({U32(entry, 12), *content});
-    }
-
-    const auto resources = image.From(U32(*optional, directoriesAt + 8 * kResourceDirectory));
-    if (!resources) return {};
-    image.resources_ = *resources;
-    return image;
-  }
-
-  // What is at a relative virtual address, up to the end of its section.
-  std::optional<Bytes> From(std::uint32_t address) const {
-    for (const Section& section : sections_) {
-      if (address >= section.address && address - section.address < section.content.size()) {
-        return section.content.subspan(address - section.address);
-      }
-    }
-    return {};
-  }
-
-  Bytes Resources() const { return resources_; }
-
- private:
-  struct Section {
-    std::uint32_t address;
-    Bytes content;
-  };
-  std::vector<Section> sections_;
-  Bytes resources_;
-};
 
 // The converters of the ANSI code pages that the platform assigns to languages: whole identifiers,
 // or primary languages (below 0x400). The first line that names a language counts.

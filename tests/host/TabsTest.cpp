@@ -1,6 +1,8 @@
 #include <algorithm>
 
+#include <QApplication>
 #include <QTabBar>
+#include <QTest>
 #include <gtest/gtest.h>
 
 #include "pages/common/CTabPage.h"
@@ -74,11 +76,33 @@ TEST(Tabs, TheHostsResourceModuleComesBackInAnyOrderOfClosing) {
   EXPECT_EQ(ResourceChain::SetCurrent(before), &host) << "after destruction without closing";
 }
 
-TEST(Keyboard, EscOnAPageClosesTheDialogAndNeverHidesThePage) {
-  OpenDialog open(MakeModel(5, 30), 1);
-  open.Driver().Press(20142, Qt::Key_Escape);
-  EXPECT_FALSE(open.Dialog().isVisible());
-  EXPECT_FALSE(open.Page().isHidden());
+TEST(Keyboard, GoesRoundTheTabsAndClosesTheDialogButNeverHidesItsPage) {
+  OpenDialog open(MakeModel(5, 30));
+  CAdvanceDlg& dialog = open.Dialog();
+  const auto press = [](Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+  };
+  const auto& tabs = *dialog.findChild<QTabBar*>();
+  for (int tab = 1; tab <= tabs.count(); ++tab) {
+    press(Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(tabs.currentIndex(), tab % tabs.count());
+  }
+  press(Qt::Key_PageUp, Qt::ControlModifier);
+  EXPECT_EQ(tabs.currentIndex(), tabs.count() - 1);
+  for (const auto& [control, key, modifiers] :
+       {std::tuple{1, Qt::Key_Return, Qt::NoModifier},
+        {20142, Qt::Key_C, Qt::AltModifier},
+        {20142, Qt::Key_Escape, Qt::NoModifier}}) {
+    SCOPED_TRACE(key);
+    ASSERT_TRUE(dialog.Create());
+    dialog.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    open.SelectTab(1);
+    (control == 1 ? dialog : static_cast<CDialog&>(open.Page())).GetDlgItem(control)->setFocus();
+    press(key, modifiers);
+    EXPECT_TRUE(QTest::qWaitFor([&dialog] { return !dialog.isVisible(); }));
+    EXPECT_FALSE(open.Page().isHidden());
+  }
 }
 
 }  // namespace

@@ -172,6 +172,29 @@ void ExpectInReach(CDialog& dialog) {
   }
 }
 
+TEST(Sweep, TabGoesToEveryControlRowByRow) {
+  ForEachPage([](OpenDialog& open, CTabPage& page) {
+    std::set<const QWidget*> reached;
+    const auto next = [] {
+      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+      return QApplication::focusWidget();
+    };
+    open.Dialog().findChild<QTabBar*>()->setFocus();
+    QPoint last;
+    for (QWidget* control = next(); control != open.Dialog().GetDlgItem(1); control = next()) {
+      ASSERT_TRUE(reached.insert(control).second) << "round in circles";
+      const QPoint at(control->x(), control->geometry().center().y());
+      EXPECT_TRUE(at.y() > last.y() + 8 || at.x() > last.x())
+          << control->accessibleName().toStdString() << " before what is left of it or above";
+      last = at;
+    }
+    for (const QWidget* control : UsableControls(page)) {
+      if ((control->focusPolicy() & Qt::TabFocus) == 0) continue;
+      EXPECT_TRUE(reached.contains(control)) << control->accessibleName().toStdString();
+    }
+  });
+}
+
 // The present rows of a column stand at one pitch, each with its controls on one line.
 TEST(Sweep, PresentRowsArePacked) {
   ForEachPage([](OpenDialog&, CTabPage& page) {

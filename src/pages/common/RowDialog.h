@@ -35,13 +35,6 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
   /// asks further, by what it has read, is here with its first question.
   virtual std::vector<PjtCommand> Reads() const;
 
-  /// How far the refresh that runs has come, in commands; nothing when none runs.
-  struct Progress {
-    int done;
-    int total;
-  };
-  std::optional<Progress> ReadingProgress() const;
-
   /// A row's name as a person reads it.
   static QString CaptionText(const PageRow& row);
 
@@ -172,6 +165,8 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
   void Refresh(const StateRow& row, Bound& bound, Source source);
   void Refresh(const auto&, Bound&, Source) {}
 
+  // What a user's act does, in RowActs.cpp.
+  static bool Owns(const PageRow& row, int control);
   void Operate(const ListRow& row, Bound& bound, int control);
   void Operate(const ValueRow& row, Bound& bound, int control);
   void Operate(const CheckRow& row, Bound& bound, int control);
@@ -179,8 +174,10 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
   void Operate(const ResetRow& row, Bound& bound, int control);
   void Operate(const auto&, Bound&, int) {}
 
-  void Select(const ListRow& row, int value);
   void ReadBack(const ListRow& row, int source);
+  void ReadAgainAfter(Rereads rereads, bool done);
+
+  void Select(const ListRow& row, int value);
   void Preselect(int list);
 
   // Of value rows, in ValueRows.cpp.
@@ -189,7 +186,6 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
   void Refuse(const ValueRow& row, ValueControls& controls, int position, bool told);
   void RunReset(const ValueRow& row, ValueControls& controls);
   void ShowAgain(int control);
-  void ReadAgainAfter(Rereads rereads, bool done);
   void AddStatusLine();
 
   const PageTable& table_;

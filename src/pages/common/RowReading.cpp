@@ -51,16 +51,6 @@ void RowDialog::MarkUnread() {
   if (veil_ != nullptr) UpdateVeil();
 }
 
-std::optional<RowDialog::Progress> RowDialog::ReadingProgress() const {
-  if (readings_ == 0) return std::nullopt;
-  const int done = projector->Sent().commands - sentBefore_;
-  auto total = static_cast<int>(Reads().size());
-  for (std::size_t i = 0; i < bound_.size(); ++i) {
-    total += bound_[i].present && SourceOf(table_.rows[i]) != OfSource::None;
-  }
-  return Progress{done, std::max(done + 1, total)};
-}
-
 // What can be asked for together from row `first` on: all up to the question for a source that is
 // not known yet, which decides what follows.
 std::vector<PjtCommand> RowDialog::ReadsFrom(std::size_t first, OfSource known,
@@ -178,10 +168,14 @@ void RowDialog::Tell(std::size_t index, Note note) {
 }
 
 QString RowDialog::WaitingText() const {
-  const auto reading = ReadingProgress();
-  return reading ? CatalogString(kListCategory, ListText::Reading, std::int64_t{reading->done + 1},
-                                 std::int64_t{reading->total})
-                 : ListString(ListText::Waiting);
+  if (readings_ == 0) return ListString(ListText::Waiting);
+  const int next = projector->Sent().commands - sentBefore_ + 1;
+  auto total = static_cast<int>(Reads().size());
+  for (std::size_t i = 0; i < bound_.size(); ++i) {
+    total += bound_[i].present && SourceOf(table_.rows[i]) != OfSource::None;
+  }
+  return CatalogString(kListCategory, ListText::Reading, std::int64_t{next},
+                       std::int64_t{std::max(next, total)});
 }
 
 void RowDialog::AddStatusLine() {

@@ -67,15 +67,6 @@ void RowDialog::Step(const ValueRow& row, ValueControls& controls, bool upwards)
   }
 }
 
-bool RowDialog::Release(CSliderCtrl& slider) {
-  const Busy busy(this);
-  for (std::size_t i = 0; i < bound_.size(); ++i) {
-    const auto* row = std::get_if<ValueRow>(&table_.rows[i]);
-    if (row != nullptr && bound_[i].value.Owns(slider)) return Drag(*row, bound_[i].value);
-  }
-  return true;
-}
-
 bool RowDialog::Drag(const ValueRow& row, ValueControls& controls) {
   const int position = controls.Position();
   const auto source = AskFor(row.of);

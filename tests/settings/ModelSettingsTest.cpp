@@ -1,0 +1,71 @@
+// Every setting of every model, used as a program without a window uses it, on the simulated
+// projector: it says for itself what a projector does, so settings and simulation check each other.
+
+#include <set>
+
+#include <gtest/gtest.h>
+
+#include "device/ModelDataIntake.h"
+#include "settings/ModelSettings.h"
+#include "simulator/SimulatedProjector.h"
+#include "tests/support/Models.h"
+
+namespace {
+
+using Kind = ModelSetting::Kind;
+
+// All choices, and the ends of a range.
+std::vector<int> ValuesOf(const ModelSetting& setting) {
+  std::vector<int> values{0, 1};
+  if (setting.kind == Kind::Number) {
+    const Range range = setting.range.value_or(Range{100, 120});
+    values = {range.minimum, range.maximum};
+  } else if (setting.kind == Kind::Choice) {
+    values.clear();
+    for (const ListEntry& entry : setting.entries) values.push_back(entry.value);
+    std::erase(values, setting.placeholder);
+  }
+  return values;
+}
+
+// Those that do not read back what they send, for the reasons told in their tables.
+const std::set<std::string_view> kOneWay{"image.color-temp"};
+
+void ExpectWorks(const ModelSettings& settings, const ModelSetting& setting) {
+  CPjtInterface projector;
+  projector.SetChannel(std::make_shared<SimulatedProjector>(DescribeModel(settings.Model())));
+  const auto read = [&] { return settings.Read(projector, setting); };
+  const auto fresh = read();
+  EXPECT_EQ(fresh.has_value(), setting.readable);
+  for (const int value : ValuesOf(setting)) {
+    EXPECT_EQ(settings.Change(projector, setting, value), setting.changeable) << value;
+    if (setting.Restorable()) {
+      EXPECT_EQ(read(), value);
+    }
+  }
+  if (setting.kind == Kind::Choice) {
+    EXPECT_FALSE(setting.entries.empty());
+    for (const int other : {setting.placeholder.value_or(12345), 12345}) {
+      EXPECT_FALSE(settings.Change(projector, setting, other));
+    }
+  }
+  if (setting.reset) {
+    EXPECT_TRUE(Perform(projector, *setting.reset).accepted);
+    EXPECT_EQ(read(), fresh);
+  }
+}
+
+TEST(ModelSettings, EveryOneOfEveryModelWorksOnTheSimulationAndHasAKeyOfItsOwn) {
+  for (const CModelInfo2& info : EveryModel()) {
+    SCOPED_TRACE(NameOf(info));
+    const ModelSettings settings(MakeModelData(info));
+    EXPECT_GE(settings.All().size(), 9U) << "the status page alone has nine";
+    for (const ModelSetting& setting : settings.All()) {
+      SCOPED_TRACE(setting.key);
+      EXPECT_EQ(settings.Find(setting.key), &setting) << "the key is another's too";
+      if (!kOneWay.contains(setting.key)) ExpectWorks(settings, setting);
+    }
+  }
+}
+
+}  // namespace

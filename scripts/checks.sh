@@ -20,7 +20,7 @@ QT_QPA_PLATFORM=offscreen build/check/bin/advanced-control-bench --benchmark_min
   --benchmark_filter='OpenDialog|RefreshPicture/ms:0' >/dev/null
 
 echo "clang-tidy"
-scripts/tidy.sh build/check
+scripts/tidy.py build/check
 
 echo "Building (build/tsan) and testing the channels under the thread sanitizer"
 cmake --preset tsan >/dev/null

@@ -78,7 +78,7 @@ void Fill(QComboBox& combo, std::span<const NamedValue> values) {
 
 void SelectValue(QComboBox& combo, int value) { combo.setCurrentIndex(combo.findData(value)); }
 
-QLabel* Caption(const QString& text, QWidget* buddy) {
+QLabel* CaptionOf(const QString& text, QWidget* buddy) {
   auto* label = new QLabel(text);
   label->setBuddy(buddy);
   label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -113,18 +113,18 @@ FaultPanel::FaultPanel(QWidget* parent)
   faults_->setMinimumHeight(faults_->fontMetrics().height() * 4);
 
   auto* grid = new QGridLayout(this);
-  grid->addWidget(Caption(tr("Po&wer"), power_), 0, 0);
+  grid->addWidget(CaptionOf(tr("Po&wer"), power_), 0, 0);
   grid->addWidget(power_, 0, 1);
-  grid->addWidget(Caption(tr("&Error status"), error_), 0, 2);
+  grid->addWidget(CaptionOf(tr("&Error status"), error_), 0, 2);
   grid->addWidget(error_, 0, 3);
-  grid->addWidget(Caption(tr("&Command"), target_), 1, 0);
+  grid->addWidget(CaptionOf(tr("&Command"), target_), 1, 0);
   grid->addWidget(target_, 1, 1, 1, 4);
-  grid->addWidget(Caption(tr("Fa&ult"), kind_), 2, 0);
+  grid->addWidget(CaptionOf(tr("Fa&ult"), kind_), 2, 0);
   grid->addWidget(kind_, 2, 1);
-  grid->addWidget(Caption(tr("&Delay"), delay_), 2, 2);
+  grid->addWidget(CaptionOf(tr("&Delay"), delay_), 2, 2);
   grid->addWidget(delay_, 2, 3);
   grid->addWidget(set_, 2, 4);
-  grid->addWidget(Caption(tr("&In force"), faults_), 3, 0, Qt::AlignTop);
+  grid->addWidget(CaptionOf(tr("&In force"), faults_), 3, 0, Qt::AlignTop);
   grid->addWidget(faults_, 3, 1, 3, 3);
   grid->addWidget(remove_, 3, 4);
   grid->addWidget(clear_, 4, 4);

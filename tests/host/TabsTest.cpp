@@ -89,16 +89,17 @@ TEST(Keyboard, GoesRoundTheTabsAndClosesTheDialogButNeverHidesItsPage) {
   }
   press(Qt::Key_PageUp, Qt::ControlModifier);
   EXPECT_EQ(tabs.currentIndex(), tabs.count() - 1);
-  for (const auto& [control, key, modifiers] :
-       {std::tuple{1, Qt::Key_Return, Qt::NoModifier},
-        {20142, Qt::Key_C, Qt::AltModifier},
-        {20142, Qt::Key_Escape, Qt::NoModifier}}) {
+  QTest::mouseClick(dialog.GetDlgItem(1), Qt::LeftButton);
+  for (const auto& [key, modifiers, onPage] : {std::tuple{Qt::Key_Return, Qt::NoModifier, false},
+                                               {Qt::Key_C, Qt::AltModifier, true},
+                                               {Qt::Key_Escape, Qt::NoModifier, true}}) {
     SCOPED_TRACE(key);
     ASSERT_TRUE(dialog.Create());
     dialog.show();
+    dialog.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
     open.SelectTab(1);
-    (control == 1 ? dialog : static_cast<CDialog&>(open.Page())).GetDlgItem(control)->setFocus();
+    (onPage ? open.Page().GetDlgItem(20142) : dialog.GetDlgItem(1))->setFocus();
     press(key, modifiers);
     EXPECT_TRUE(QTest::qWaitFor([&dialog] { return !dialog.isVisible(); }));
     EXPECT_FALSE(open.Page().isHidden());

@@ -1,0 +1,77 @@
+#!/usr/bin/env python3
+"""clang-tidy over the code of a configured build: scripts/tidy.py BUILD_FOLDER [FILE...].
+
+Most of its time goes into the headers that the files share. So a few files of a folder are looked
+at as if they were one. Where that finds anything, also that they do not go together, each of them
+is looked at alone, and only that counts."""
+
+import json
+import os
+import shlex
+import subprocess
+import sys
+from concurrent.futures import ThreadPoolExecutor
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parent.parent
+TOGETHER = 6
+# Every table of rows and templates has a `kRows` of its own; they include little.
+ALONE = ("src/resources", "src/settings/")
+
+
+def read_commands(build):
+    """The arguments for each source file, without it and without what is written."""
+    commands = {}
+    for entry in json.loads((build / "compile_commands.json").read_text()):
+        arguments = shlex.split(entry["command"].replace("-isystem ", "-isystem"))
+        file = Path(entry["file"])
+        for flag, words in (("-o", 2), ("-c", 1), (entry["file"], 1)):
+            at = arguments.index(flag)
+            del arguments[at:at + words]
+        if file.is_relative_to(ROOT) and file.suffix == ".cpp":
+            commands[str(file.relative_to(ROOT))] = arguments
+    return commands
+
+
+def batches(files):
+    folders = {}
+    for file in files:
+        folder = os.path.dirname(file)
+        folders.setdefault(file if folder.startswith(ALONE) else folder, []).append(file)
+    for together in folders.values():
+        for start in range(0, len(together), TOGETHER):
+            yield together[start:start + TOGETHER]
+
+
+def tidy(file, *arguments):
+    return subprocess.run(["clang-tidy", "--quiet", file, *arguments], cwd=ROOT,
+                          capture_output=True, text=True)
+
+
+def tidy_together(number, files, commands, build):
+    """The findings."""
+    if len(files) > 1:
+        file = build / "tidy" / f"{number}.cpp"
+        file.write_text("".join(f'#include "{ROOT / name}"\n' for name in files))
+        arguments = dict.fromkeys(word for name in files for word in commands[name][1:])
+        if tidy(str(file), "--config-file=.clang-tidy", "--checks=-bugprone-suspicious-include",
+                "--", *arguments).returncode == 0:
+            return ""
+    alone = [tidy(name, "-p", str(build)) for name in files]
+    return "".join(found.stdout or found.stderr for found in alone if found.returncode != 0)
+
+
+def main():
+    build = Path(sys.argv[1]).resolve()
+    (build / "tidy").mkdir(exist_ok=True)
+    commands = read_commands(build)
+    files = sys.argv[2:] or sorted(name for name in commands if name.startswith(("src/", "app/")))
+    with ThreadPoolExecutor(os.cpu_count()) as pool:
+        found = "".join(pool.map(lambda job: tidy_together(*job, commands, build),
+                                 enumerate(batches(files))))
+    print(found, end="")
+    return bool(found)
+
+
+if __name__ == "__main__":
+    sys.exit(main())

@@ -4,6 +4,10 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>Unexpected &apos;=&apos; in &apos;%1&apos;.</source>
+        <translation>“%1”中不应有“=”。</translation>
+    </message>
+    <message>
         <source>Display this help.</source>
         <translation>显示此帮助。</translation>
     </message>

@@ -65,8 +65,13 @@ MainWindow::MainWindow(ProfileDocument profiles, QSettings* settings)
       profileActions_(new ProfileActions(
           profiles_, [this] { return projectors_->CurrentRow(); }, *this)),
       settingsActions_(new SettingsActions([this] { return projectors_->Selected(); }, *this)),
-      dialogs_(std::make_unique<DialogKeeper>(std::vector<const QWidget*>{log_, tools_, this},
-                                              settings)) {
+      dialogs_(std::make_unique<DialogKeeper>(
+          *this,
+          [this] {
+            const QRect tools(tools_->mapToGlobal(QPoint()), tools_->size());
+            return std::vector{log_->NewestRows(), tools, frameGeometry()};
+          },
+          settings)) {
   MakeLayout();
   MakeMenus();
   if (const std::string problem = CatalogProblem(); !problem.empty()) {

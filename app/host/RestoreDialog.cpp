@@ -25,6 +25,7 @@
 #include "device/ModelDataIntake.h"
 #include "i18n/Catalog.h"
 #include "i18n/SystemLanguage.h"
+#include "toolkit/IsolatedText.h"
 
 namespace {
 
@@ -139,6 +140,7 @@ void RestoreDialog::Lay() {
   shown->setFilterCaseSensitivity(Qt::CaseInsensitive);
   auto* table = new QTreeView;
   table->setModel(shown);
+  table->setItemDelegate(new IsolatedTexts(table));
   table->setRootIsDecorated(false);
   table->setUniformRowHeights(true);
   table->setEditTriggers(QTreeView::NoEditTriggers);

@@ -133,7 +133,8 @@ QHeaderView& CommandLog::Columns() const { return *view_->horizontalHeader(); }
 QRect CommandLog::NewestRows() const {
   if (!isVisible()) return {};
   const QWidget& rows = *view_->viewport();
-  const int height = kRowsInView * view_->verticalHeader()->defaultSectionSize();
+  const int height =
+      std::min(rows.height(), kRowsInView * view_->verticalHeader()->defaultSectionSize());
   return {rows.mapToGlobal(QPoint(0, rows.height() - height)), QSize(rows.width(), height)};
 }
 

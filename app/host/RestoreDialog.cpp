@@ -13,6 +13,7 @@
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QSortFilterProxyModel>
 #include <QStandardItemModel>
 #include <QTimer>
@@ -31,6 +32,8 @@ namespace {
 
 enum Column { kProjector, kSetting, kHere, kFile, kResult, kColumnCount };
 constexpr int kOutcomeRole = Qt::UserRole;
+constexpr QSize kUsualSize{720, 560};
+constexpr QSize kFrame{10, 40};  // before it is known
 
 /// Rows whose outcome asks for a look, and whose text has what was typed.
 class OutcomeFilter : public QSortFilterProxyModel {
@@ -164,7 +167,7 @@ void RestoreDialog::Lay() {
   column->addWidget(progress_);
   column->addWidget(summary_);
   column->addWidget(buttons);
-  resize(720, 560);
+  resize(kUsualSize.boundedTo(screen()->availableGeometry().size() - kFrame));
 
   connect(filter_, &QLineEdit::textChanged, shown, &OutcomeFilter::setFilterFixedString);
   connect(differencesOnly_, &QCheckBox::toggled, this, [shown](bool on) { shown->HideSame(on); });

@@ -70,7 +70,7 @@ CommandLog::CommandLog(QWidget* parent)
       view_(new RowsAtFoot),
       changesOnly_(new QAction(tr("Changes &Only"), this)),
       saveAs_(new QAction(tr("Save &Log As…"), this)),
-      clear_(new QAction(tr("C&lear Log"), this)) {
+      clear_(new QAction(tr("Clea&r Log"), this)) {
   shown_->setSourceModel(model_);
   view_->setModel(shown_);
   view_->setItemDelegate(new IsolatedTexts(view_));

@@ -66,7 +66,7 @@ ProfileEditor::ProfileEditor(const ProfileDocument& document, const QJsonObject&
       family_(new QComboBox),
       model_(AddField(tr("&Model"), TextOf(entry["model"]))),
       dialogType_(AddField(tr("Dialog &type"), TextOf(entry["dialogType"]))),
-      modelCode_(AddField(tr("Model &code"), TextOf(entry["modelCode"]))),
+      modelCode_(AddField(tr("Model cod&e"), TextOf(entry["modelCode"]))),
       link_(new QComboBox),
       connection_(new QComboBox),
       rows_(new QScrollArea),
@@ -135,7 +135,7 @@ void ProfileEditor::AddConnectionFields() {
   const QString kind = written.isEmpty() ? QString() : written.begin().key();
   if (connection_->findData(kind) < 0) connection_->addItem(kind, kind);
   connection_->setCurrentIndex(entry_.isEmpty() ? 1 : connection_->findData(kind));
-  form_->addRow(tr("C&onnection"), connection_);
+  form_->addRow(tr("Connect&ion"), connection_);
 
   const QJsonObject network = written[kNetwork].toObject();
   const QJsonObject serial = written[kSerial].toObject();

@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QDir>
+#include <QLineEdit>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTreeView>
@@ -60,7 +61,12 @@ TEST(SettingsActions, PutsBackWhatIsCheckedOnEveryProjector) {
   EXPECT_EQ(Column(dialog, 3), QStringList({"0", "0", "0"}));
 
   QAbstractItemModel& model = *dialog.findChild<QTreeView*>()->model();
-  model.setData(model.index(2, kSettingColumn), Qt::Unchecked, Qt::CheckStateRole);
+  QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
+  EXPECT_TRUE(dialog.isVisible());
+  auto* table = dialog.findChild<QTreeView*>();
+  for (const int key : {Qt::Key_Home, Qt::Key_End, Qt::Key_Space})
+    QTest::keyClick(table, Qt::Key(key));
+  EXPECT_EQ(model.index(2, kSettingColumn).data(Qt::CheckStateRole), Qt::Unchecked);
   rooms.sessions[1]->SetFault(PjtOperation::SetContrast, {.kind = Fault::Kind::DropOut});
   dialog.Restore();
   EXPECT_EQ(Column(dialog, kResultColumn), QStringList({"changed", "changed", "different"}));

@@ -2,7 +2,6 @@
 
 #include <QCheckBox>
 #include <QDir>
-#include <QLineEdit>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTreeView>
@@ -61,11 +60,10 @@ TEST(SettingsActions, PutsBackWhatIsCheckedOnEveryProjector) {
   EXPECT_EQ(Column(dialog, 3), QStringList({"0", "0", "0"}));
 
   QAbstractItemModel& model = *dialog.findChild<QTreeView*>()->model();
-  QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
+  QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
   EXPECT_TRUE(dialog.isVisible());
   auto* table = dialog.findChild<QTreeView*>();
-  for (const int key : {Qt::Key_Home, Qt::Key_End, Qt::Key_Space})
-    QTest::keyClick(table, Qt::Key(key));
+  for (const auto key : {Qt::Key_Home, Qt::Key_End, Qt::Key_Space}) QTest::keyClick(table, key);
   EXPECT_EQ(model.index(2, kSettingColumn).data(Qt::CheckStateRole), Qt::Unchecked);
   rooms.sessions[1]->SetFault(PjtOperation::SetContrast, {.kind = Fault::Kind::DropOut});
   dialog.Restore();

@@ -117,6 +117,7 @@ void DialogKeeper::Place(CAdvanceDlg& dialog) const {
   const std::vector<QRect> inView = inView_();
   const QPoint best = *std::ranges::min_element(places, {}, [&](QPoint place) {
     std::vector<int> covered;
+    covered.reserve(inView.size());
     for (const QRect& part : inView) covered.push_back(Area(QRect(place, size) & part));
     return covered;
   });

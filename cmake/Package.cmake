@@ -29,6 +29,8 @@ install(FILES app/host/icons/advanced-control.png
         DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/64x64/apps COMPONENT program)
 install_compressed(advanced-control.1 ${CMAKE_INSTALL_MANDIR}/man1/advanced-control.1.gz program)
 install_compressed(acctl.1 ${CMAKE_INSTALL_MANDIR}/man1/acctl.1.gz program)
+install_compressed(advanced-control-simulator.1
+  ${CMAKE_INSTALL_MANDIR}/man1/advanced-control-simulator.1.gz program)
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_VERBATIM_VARIABLES ON)

@@ -4,16 +4,21 @@
 
 namespace {
 
-// What Qt's application objects and its platforms take; with one hyphen or two.
+// What Qt's application objects and its platforms take; with one hyphen or two. The value is the
+// next argument, and for a few of them it may also stand behind an equals sign.
 const QStringList kToolkitValues{
     "platform", "platformpluginpath", "platformtheme", "plugin",       "qwindowgeometry",
     "geometry", "qwindowicon",        "icon",          "qwindowtitle", "title",
-    "style",    "stylesheet",         "session",       "display",      "name"};
-const QStringList kToolkitSwitches{"reverse", "widgetcount", "nograb", "dograb", "sync"};
+    "style",    "stylesheet",         "session",       "display",      "name",
+    "visual",   "qmljsdebugger"};
+const QStringList kEqualsValues{"style", "stylesheet", "qmljsdebugger"};
+const QStringList kToolkitSwitches{"reverse", "widgetcount", "nograb",
+                                   "dograb",  "qdevel",      "qdebug"};
 
 struct Arguments {
   QStringList own;
   QStringList toolkit;  ///< Names alone.
+  QString error;        ///< About what Qt would not take.
 };
 
 Arguments Divide(const QStringList& all) {
@@ -29,7 +34,12 @@ Arguments Divide(const QStringList& all) {
       continue;
     }
     divided.toolkit += name;
-    if (takesValue && !argument.contains(QLatin1Char('='))) ++i;
+    const bool hasEquals = argument.contains(QLatin1Char('='));
+    if (hasEquals && !kEqualsValues.contains(name)) {
+      divided.error = CommandLine::tr("Unexpected '=' in '%1'.").arg(argument);
+    } else if (takesValue && !hasEquals && ++i == all.size()) {
+      divided.error = CommandLine::tr("--%1 needs a value.").arg(name);
+    }
   }
   return divided;
 }
@@ -68,7 +78,7 @@ CommandLine ParseCommandLine(const QStringList& arguments) {
       "id");
   parser.addOptions({help, profiles, open, tab, list, screenshot, tour, language});
 
-  const auto [own, toolkit] = Divide(arguments);
+  const auto [own, toolkit, toolkitError] = Divide(arguments);
   const bool isRead = parser.parse(own);
   CommandLine line;
   const auto wrong = [&line](const QString& error) {
@@ -84,6 +94,7 @@ CommandLine ParseCommandLine(const QStringList& arguments) {
     }
   }
   if (!isRead) return wrong(parser.errorText());
+  if (!toolkitError.isEmpty()) return wrong(toolkitError);
   if (!parser.positionalArguments().isEmpty()) {
     return wrong(
         CommandLine::tr("Unexpected argument '%1'.").arg(parser.positionalArguments().first()));

@@ -15,6 +15,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPaintEvent>
 #include <QScrollBar>
 #include <QTableView>
 #include <QToolButton>
@@ -22,9 +23,11 @@
 
 #include "app/host/Mnemonic.h"
 #include "app/profiles/WholeFile.h"
+#include "toolkit/IsolatedText.h"
 
 namespace {
 
+constexpr int kRowsInView = 5;
 constexpr auto kGatherTime = std::chrono::milliseconds(40);
 
 // Widest usual text of each column.
@@ -42,16 +45,35 @@ QToolButton* ButtonOf(QAction* action) {
 
 }  // namespace
 
+/// Rows that do not fill it stand at its foot: the newest one is always at the same place.
+class CommandLog::RowsAtFoot : public QTableView {
+ protected:
+  void updateGeometries() override {
+    QTableView::updateGeometries();
+    free_ = std::max(0, viewport()->height() - verticalHeader()->length());
+    if (free_ > 0) verticalHeader()->setOffset(-free_);
+  }
+
+  void paintEvent(QPaintEvent* event) override {
+    QPaintEvent rows(event->region() & viewport()->rect().adjusted(0, free_, 0, 0));
+    QTableView::paintEvent(&rows);
+  }
+
+ private:
+  int free_ = 0;
+};
+
 CommandLog::CommandLog(QWidget* parent)
     : QWidget(parent),
       model_(new CommandLogModel(this)),
       shown_(new CommandLogFilter(this)),
-      view_(new QTableView),
+      view_(new RowsAtFoot),
       changesOnly_(new QAction(tr("Changes &Only"), this)),
       saveAs_(new QAction(tr("Save &Log As…"), this)),
-      clear_(new QAction(tr("C&lear Log"), this)) {
+      clear_(new QAction(tr("Clea&r Log"), this)) {
   shown_->setSourceModel(model_);
   view_->setModel(shown_);
+  view_->setItemDelegate(new IsolatedTexts(view_));
   view_->setAccessibleName(tr("Command log"));
   view_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
   view_->setSelectionBehavior(QTableView::SelectRows);
@@ -107,6 +129,14 @@ void CommandLog::MakeColumns() {
 }
 
 QHeaderView& CommandLog::Columns() const { return *view_->horizontalHeader(); }
+
+QRect CommandLog::NewestRows() const {
+  if (!isVisible()) return {};
+  const QWidget& rows = *view_->viewport();
+  const int height =
+      std::min(rows.height(), kRowsInView * view_->verticalHeader()->defaultSectionSize());
+  return {rows.mapToGlobal(QPoint(0, rows.height() - height)), QSize(rows.width(), height)};
+}
 
 void CommandLog::Add(CommandLogModel::Entry entry) {
   pending_.push_back(std::move(entry));

@@ -10,10 +10,9 @@
 
 class QAction;
 class QHeaderView;
-class QTableView;
 
-/// Shows the log and follows its newest entry unless the user has scrolled back. Its rows can be
-/// copied, saved and reduced to those that asked for a change.
+/// Shows the log, whose newest row stands at the foot and is followed unless the user has scrolled
+/// back. Its rows can be copied, saved and reduced to those that asked for a change.
 class CommandLog : public QWidget {
   Q_OBJECT
 
@@ -29,6 +28,9 @@ class CommandLog : public QWidget {
 
   QHeaderView& Columns() const;
 
+  /// Where on the screen the last few rows stand; nowhere while it is hidden.
+  QRect NewestRows() const;
+
   /// For a menu; owned by the log.
   QAction* ChangesOnly() const { return changesOnly_; }
   QAction* SaveAs() const { return saveAs_; }
@@ -39,6 +41,8 @@ class CommandLog : public QWidget {
   void Updated();
 
  private:
+  class RowsAtFoot;
+
   void MakeColumns();
   void ShowPending();
   void CopySelected() const;
@@ -46,7 +50,7 @@ class CommandLog : public QWidget {
 
   CommandLogModel* model_;
   CommandLogFilter* shown_;
-  QTableView* view_;
+  RowsAtFoot* view_;
   QAction* changesOnly_;
   QAction* saveAs_;
   QAction* clear_;

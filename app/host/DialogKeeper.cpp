@@ -39,8 +39,9 @@ int Area(const QRect& rectangle) {
 
 }  // namespace
 
-DialogKeeper::DialogKeeper(std::vector<const QWidget*> inView, QSettings* settings)
-    : inView_(std::move(inView)), settings_(settings) {
+DialogKeeper::DialogKeeper(const QWidget& window, std::function<std::vector<QRect>()> inView,
+                           QSettings* settings)
+    : window_(window), inView_(std::move(inView)), settings_(settings) {
   deleteRetired_.setSingleShot(true);
   deleteRetired_.setInterval(kRetirementCheck);
   connect(&deleteRetired_, &QTimer::timeout, this, &DialogKeeper::DeleteRetired);
@@ -96,10 +97,10 @@ void DialogKeeper::Arrange(CAdvanceDlg& dialog) {
 
 // Further dialogs stand a little apart from the first, to the inside of the screen.
 void DialogKeeper::Place(CAdvanceDlg& dialog) const {
-  const QWidget& window = *inView_.front()->window();
-  const QRect screen = window.screen()->availableGeometry();
-  const QRect beside = window.frameGeometry();
-  const QSize size = dialog.size() + beside.size() - window.size();
+  const QRect screen = window_.screen()->availableGeometry();
+  const QRect beside = window_.frameGeometry();
+  const QSize frame = beside.size() - window_.size();
+  const QSize size = dialog.size() + frame;
   const int right = std::max(screen.left(), screen.right() + 1 - size.width());
   const int bottom = std::max(screen.top(), screen.bottom() + 1 - size.height());
   const auto inside = [&](int x, int y) {
@@ -113,17 +114,22 @@ void DialogKeeper::Place(CAdvanceDlg& dialog) const {
       inside(screen.left(), bottom),
       inside(right, bottom),
   };
+  const std::vector<QRect> inView = inView_();
   const QPoint best = *std::ranges::min_element(places, {}, [&](QPoint place) {
     std::vector<int> covered;
-    for (const QWidget* part : inView_) {
-      const QRect partPlace(part->mapToGlobal(QPoint()), part->size());
-      covered.push_back(Area(QRect(place, size) & partPlace));
-    }
+    covered.reserve(inView.size());
+    for (const QRect& part : inView) covered.push_back(Area(QRect(place, size) & part));
     return covered;
   });
   const auto others = std::min(dialogs_.size() - 1, kCascadeLength);
   const int apart = kCascade * static_cast<int>(others);
-  dialog.move(inside(best.x() + (best.x() == right ? -apart : apart), best.y() + apart));
+  QPoint place = inside(best.x() + (best.x() == right ? -apart : apart), best.y() + apart);
+  if (QRect(place, size).intersects(inView.front())) {
+    place.setY(screen.top() + apart);
+    const int room = inView.front().top() - place.y() - frame.height();
+    dialog.resize(dialog.width(), std::min(dialog.height(), room));
+  }
+  dialog.move(place);
 }
 
 void DialogKeeper::Close(const ProjectorSession& session) {

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <vector>
 
 #include <QObject>
+#include <QRect>
 #include <QTimer>
 
 #include "app/host/ProjectorSession.h"
@@ -19,10 +21,11 @@ class DialogKeeper : public QObject {
   Q_OBJECT
 
  public:
-  /// Dialogs open beside `inView`, the window and parts of it, the most important one first, or
-  /// cover as little of them as possible. `settings` may be null: then nothing is remembered. None
-  /// is owned.
-  DialogKeeper(std::vector<const QWidget*> inView, QSettings* settings);
+  /// Dialogs open beside what `inView` tells, places of the screen, the most important one first,
+  /// or cover as little of them as possible; for the first place a dialog even opens less high.
+  /// `settings` may be null: then nothing is remembered. Neither is owned.
+  DialogKeeper(const QWidget& window, std::function<std::vector<QRect>()> inView,
+               QSettings* settings);
   ~DialogKeeper() override;
 
   /// Opens a projector's dialog or brings the open one to the front. Null when it could not be
@@ -51,7 +54,8 @@ class DialogKeeper : public QObject {
   void Remember(const CAdvanceDlg& dialog);
   void DeleteRetired();
 
-  const std::vector<const QWidget*> inView_;
+  const QWidget& window_;
+  const std::function<std::vector<QRect>()> inView_;
   QSettings* settings_;
   std::map<const ProjectorSession*, std::unique_ptr<CAdvanceDlg>> dialogs_;
   /// Closed dialogs whose handlers may still be running.

@@ -15,6 +15,7 @@
 #include <QSpinBox>
 
 #include "app/host/Mnemonic.h"
+#include "toolkit/IsolatedText.h"
 
 Q_DECLARE_METATYPE(FaultTarget)
 
@@ -109,6 +110,9 @@ FaultPanel::FaultPanel(QWidget* parent)
   delay_->setSingleStep(100);
   delay_->setValue(500);
   delay_->setSuffix(tr(" ms"));
+  for (QAbstractItemView* view : {static_cast<QAbstractItemView*>(faults_), target_->view()}) {
+    view->setItemDelegate(new IsolatedTexts(view));
+  }
   faults_->setAccessibleName(tr("Faults in force"));
   faults_->setMinimumHeight(faults_->fontMetrics().height() * 4);
 

@@ -7,6 +7,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDialogButtonBox>
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QLabel>
@@ -15,9 +16,12 @@
 #include <QPointer>
 #include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QTextBrowser>
+#include <QTextDocument>
 #include <QVBoxLayout>
 
 #include "app/host/CommandLog.h"
@@ -35,6 +39,7 @@ namespace {
 
 constexpr int kGap = 9;
 constexpr QSize kUsualSize{1340, 760};
+constexpr QSize kFrame{2 * kGap, 40};  // of a window, before it is known
 
 constexpr const char* kGeometryKey = "window/geometry";
 constexpr const char* kSidesKey = "window/sides";
@@ -46,6 +51,31 @@ constexpr const char* kProfilesKey = "window/profiles";
 
 QString ShownText(const QAction& action) {
   return WithoutMnemonic(action.text()).remove(QStringLiteral("…"));
+}
+
+/// As large as the table, or as the screen allows: then it scrolls.
+void ShowTable(const QString& title, const QString& table, QWidget& owner) {
+  QDialog dialog(&owner);
+  dialog.setWindowTitle(title);
+  auto* text = new QTextBrowser;
+  text->setHtml(table);
+  text->setFrameShape(QFrame::NoFrame);
+  text->setAccessibleName(title);
+  text->setTabChangesFocus(true);
+  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+  QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+  auto* layout = new QVBoxLayout(&dialog);
+  layout->addWidget(text);
+  layout->addWidget(buttons);
+  QTextDocument document;
+  document.setDefaultFont(text->font());
+  document.setHtml(table);
+  const QSize size = document.size().toSize();
+  text->setMinimumWidth(size.width() + text->verticalScrollBar()->sizeHint().width());
+  const int others = layout->sizeHint().height() - text->sizeHint().height();
+  const int room = owner.screen()->availableGeometry().height() - kFrame.height();
+  dialog.resize(dialog.minimumWidth(), std::min(size.height() + others, room));
+  dialog.exec();
 }
 
 }  // namespace
@@ -65,8 +95,13 @@ MainWindow::MainWindow(ProfileDocument profiles, QSettings* settings)
       profileActions_(new ProfileActions(
           profiles_, [this] { return projectors_->CurrentRow(); }, *this)),
       settingsActions_(new SettingsActions([this] { return projectors_->Selected(); }, *this)),
-      dialogs_(std::make_unique<DialogKeeper>(std::vector<const QWidget*>{log_, tools_, this},
-                                              settings)) {
+      dialogs_(std::make_unique<DialogKeeper>(
+          *this,
+          [this] {
+            const QRect tools(tools_->mapToGlobal(QPoint()), tools_->size());
+            return std::vector{log_->NewestRows(), tools, frameGeometry()};
+          },
+          settings)) {
   MakeLayout();
   MakeMenus();
   if (const std::string problem = CatalogProblem(); !problem.empty()) {
@@ -249,9 +284,8 @@ void MainWindow::Restore() {
     log_->Columns().restoreState(settings_->value(kLogColumnsKey).toByteArray());
     return;
   }
-  constexpr QSize kFrame{2 * kGap, 40};
   resize(kUsualSize.boundedTo(screen.size() - kFrame));
-  const int listWidth = width() * 9 / 20;
+  const int listWidth = std::min(width() * 9 / 20, width() - tools_->sizeHint().width());
   sides_->setSizes({listWidth, width() - listWidth});
   move(screen.right() + 1 - width() - kFrame.width(),
        screen.bottom() + 1 - height() - kFrame.height());
@@ -293,9 +327,7 @@ void MainWindow::ShowShortcuts() {
   add(tr("Ctrl+Shift+Tab, Ctrl+Page Up"), tr("Previous tab"));
   add(tr("Ctrl+F"), tr("Find a setting"));
   add(tr("Esc"), tr("Close"));
-  QMessageBox(QMessageBox::NoIcon, tr("Keyboard Shortcuts"),
-              QStringLiteral("<table>%1</table>").arg(rows), QMessageBox::Close, this)
-      .exec();
+  ShowTable(tr("Keyboard Shortcuts"), QStringLiteral("<table>%1</table>").arg(rows), *this);
 }
 
 void MainWindow::ShowAbout() {

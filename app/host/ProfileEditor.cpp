@@ -1,5 +1,6 @@
 #include "app/host/ProfileEditor.h"
 
+#include <algorithm>
 #include <limits>
 
 #include <QComboBox>
@@ -9,13 +10,17 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include "app/host/ProfileDocument.h"
 
 namespace {
 
-constexpr int kFieldWidth = 26;  // average letters
+constexpr int kFrameHeight = 40;  // before it is known
+constexpr int kFieldWidth = 26;   // average letters
 const QString kNetwork = QStringLiteral("network");
 const QString kPjLink = QStringLiteral("pjlink");
 const QString kSerial = QStringLiteral("serial");
@@ -61,9 +66,10 @@ ProfileEditor::ProfileEditor(const ProfileDocument& document, const QJsonObject&
       family_(new QComboBox),
       model_(AddField(tr("&Model"), TextOf(entry["model"]))),
       dialogType_(AddField(tr("Dialog &type"), TextOf(entry["dialogType"]))),
-      modelCode_(AddField(tr("Model &code"), TextOf(entry["modelCode"]))),
+      modelCode_(AddField(tr("Model cod&e"), TextOf(entry["modelCode"]))),
       link_(new QComboBox),
       connection_(new QComboBox),
+      rows_(new QScrollArea),
       error_(new QLabel) {
   setWindowTitle(entry.isEmpty() ? tr("Add Projector") : tr("Edit Projector"));
   TakeNumbersOnly(*dialogType_, 1, 5);
@@ -80,8 +86,16 @@ ProfileEditor::ProfileEditor(const ProfileDocument& document, const QJsonObject&
   error_->setTextInteractionFlags(Qt::TextSelectableByMouse);
   error_->hide();
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+  auto* contents = new QWidget;
+  form_->setContentsMargins({});
+  contents->setLayout(form_);
+  rows_->setFrameShape(QFrame::NoFrame);
+  rows_->setFocusPolicy(Qt::NoFocus);
+  rows_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  rows_->setWidgetResizable(true);
+  rows_->setWidget(contents);
   auto* layout = new QVBoxLayout(this);
-  layout->addLayout(form_);
+  layout->addWidget(rows_);
   layout->addWidget(error_);
   layout->addWidget(buttons);
 
@@ -121,7 +135,7 @@ void ProfileEditor::AddConnectionFields() {
   const QString kind = written.isEmpty() ? QString() : written.begin().key();
   if (connection_->findData(kind) < 0) connection_->addItem(kind, kind);
   connection_->setCurrentIndex(entry_.isEmpty() ? 1 : connection_->findData(kind));
-  form_->addRow(tr("C&onnection"), connection_);
+  form_->addRow(tr("Connect&ion"), connection_);
 
   const QJsonObject network = written[kNetwork].toObject();
   const QJsonObject serial = written[kSerial].toObject();
@@ -152,6 +166,17 @@ void ProfileEditor::ShowConnectionFields() {
   for (QLineEdit* field : {serialPort_, device_, baud_}) {
     form_->setRowVisible(field, kind == kSerial);
   }
+  GiveRoom();
+}
+
+// As high as the rows, or as the screen allows: then they scroll.
+void ProfileEditor::GiveRoom() {
+  const QSize wanted = form_->sizeHint();
+  rows_->setMinimumSize(wanted.width() + rows_->verticalScrollBar()->sizeHint().width(), 1);
+  const int others = error_->heightForWidth(rows_->minimumWidth()) * !error_->isHidden() +
+                     layout()->minimumSize().height();
+  const int room = screen()->availableGeometry().height() - kFrameHeight - others;
+  rows_->setMinimumHeight(std::min(wanted.height(), room));
 }
 
 // The way that was chosen needs a connection of its kind.
@@ -210,4 +235,5 @@ void ProfileEditor::accept() {
   if (error.isEmpty()) return QDialog::accept();
   error_->setText(error);
   error_->show();
+  GiveRoom();
 }

@@ -12,6 +12,7 @@ class QComboBox;
 class QFormLayout;
 class QLabel;
 class QLineEdit;
+class QScrollArea;
 
 /// Asks for what a profile file says of a projector. What is left empty comes from the projector's
 /// family; what the dialog does not ask for stays as the file has it.
@@ -39,6 +40,7 @@ class ProfileEditor : public QDialog {
   void AddConnectionFields();
   void ShowFamily();
   void ShowConnectionFields();
+  void GiveRoom();
   void ChooseFittingConnection();
   QString ConnectionKind() const;
   QJsonValue Connection() const;
@@ -60,5 +62,6 @@ class ProfileEditor : public QDialog {
   QLineEdit* serialPort_;
   QLineEdit* device_;
   QLineEdit* baud_;
+  QScrollArea* rows_;
   QLabel* error_;
 };

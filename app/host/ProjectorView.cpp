@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 
 #include "app/host/ProjectorFilter.h"
+#include "toolkit/IsolatedText.h"
 
 namespace {
 
@@ -33,6 +34,7 @@ ProjectorView::ProjectorView(QWidget* parent)
   search_->setAccessibleName(tr("Find projectors"));
   search_->installEventFilter(this);
   table_->setModel(filter_);
+  table_->setItemDelegate(new IsolatedTexts(table_));
   table_->setAccessibleName(tr("Projectors"));
   table_->setSelectionBehavior(QTableView::SelectRows);
   table_->setSelectionMode(QTableView::ExtendedSelection);

@@ -9,10 +9,12 @@
 #include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QSortFilterProxyModel>
 #include <QStandardItemModel>
 #include <QTimer>
@@ -25,11 +27,14 @@
 #include "device/ModelDataIntake.h"
 #include "i18n/Catalog.h"
 #include "i18n/SystemLanguage.h"
+#include "toolkit/IsolatedText.h"
 
 namespace {
 
 enum Column { kProjector, kSetting, kHere, kFile, kResult, kColumnCount };
 constexpr int kOutcomeRole = Qt::UserRole;
+constexpr QSize kUsualSize{720, 560};
+constexpr QSize kFrame{10, 40};  // before it is known
 
 /// Rows whose outcome asks for a look, and whose text has what was typed.
 class OutcomeFilter : public QSortFilterProxyModel {
@@ -123,6 +128,7 @@ RestoreDialog::~RestoreDialog() = default;
 void RestoreDialog::Lay() {
   filter_ = new QLineEdit;
   filter_->setPlaceholderText(tr("Filter"));
+  filter_->setAccessibleName(tr("Filter"));
   filter_->setClearButtonEnabled(true);
   differencesOnly_ = new QCheckBox(tr("&Differences only"));
   differencesOnly_->setChecked(true);
@@ -139,30 +145,39 @@ void RestoreDialog::Lay() {
   shown->setFilterCaseSensitivity(Qt::CaseInsensitive);
   auto* table = new QTreeView;
   table->setModel(shown);
+  table->setItemDelegate(new IsolatedTexts(table));
   table->setRootIsDecorated(false);
   table->setUniformRowHeights(true);
   table->setEditTriggers(QTreeView::NoEditTriggers);
   table->setAccessibleName(tr("Settings"));
   table->setColumnHidden(kProjector, rooms_.size() == 1);
+  table->header()->moveSection(kSetting, kProjector);  // the keyboard begins at what is checked
   table->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
 
   progress_ = new QProgressBar;
   progress_->setTextVisible(false);
+  progress_->setAccessibleName(tr("Progress"));
   summary_ = new QLabel;
   summary_->setWordWrap(true);
+  summary_->setTextFormat(Qt::PlainText);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
   close_ = buttons->button(QDialogButtonBox::Close);
   restore_ = buttons->addButton(tr("&Apply"), QDialogButtonBox::ApplyRole);
   restore_->setVisible(purpose_ == Purpose::Restore);
 
+  resize(kUsualSize.boundedTo(screen()->availableGeometry().size() - kFrame));
+  auto* file = new QLabel(fontMetrics().elidedText(file_, Qt::ElideMiddle, width() * 9 / 10));
+  file->setTextFormat(Qt::PlainText);
+  file->setToolTip(file_.toHtmlEscaped());
+  file->setAccessibleName(file_);
+
   auto* column = new QVBoxLayout(this);
-  column->addWidget(new QLabel(file_));
+  column->addWidget(file);
   column->addLayout(tools);
   column->addWidget(table, 1);
   column->addWidget(progress_);
   column->addWidget(summary_);
   column->addWidget(buttons);
-  resize(720, 560);
 
   connect(filter_, &QLineEdit::textChanged, shown, &OutcomeFilter::setFilterFixedString);
   connect(differencesOnly_, &QCheckBox::toggled, this, [shown](bool on) { shown->HideSame(on); });
@@ -173,6 +188,13 @@ void RestoreDialog::Lay() {
 void RestoreDialog::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
   if (!compared_) QTimer::singleShot(0, this, &RestoreDialog::Compare);
+}
+
+// Enter presses the button that has the focus, and none from the filter or the table.
+void RestoreDialog::keyPressEvent(QKeyEvent* event) {
+  const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (isEnter && qobject_cast<QPushButton*>(focusWidget()) == nullptr) return;
+  QDialog::keyPressEvent(event);
 }
 
 // The first press stops the work, and another one leaves.

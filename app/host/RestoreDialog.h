@@ -40,6 +40,7 @@ class RestoreDialog : public QDialog {
   void reject() override;
 
  protected:
+  void keyPressEvent(QKeyEvent* event) override;
   void showEvent(QShowEvent* event) override;
 
  private:

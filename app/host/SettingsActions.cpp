@@ -21,6 +21,7 @@
 
 namespace {
 
+constexpr qsizetype kLinesTold = 10;
 constexpr auto kLater = std::chrono::milliseconds(50);
 
 }  // namespace
@@ -56,10 +57,15 @@ void SettingsActions::Update() {
   for (QAction* action : {save_, compare_, apply_}) action->setEnabled(any);
 }
 
-// What a file holds is no markup.
+// What a file holds is no markup. Many lines scroll.
 void SettingsActions::Tell(const QString& title, const QString& text) {
   QMessageBox box(QMessageBox::Critical, title, text, QMessageBox::Ok, &window_);
   box.setTextFormat(Qt::PlainText);
+  const QStringList lines = text.split(QLatin1Char('\n'));
+  if (lines.size() > kLinesTold) {
+    box.setText(lines.first(kLinesTold).join(QLatin1Char('\n')) + QStringLiteral("\n…"));
+    box.setDetailedText(text);
+  }
   box.exec();
 }
 

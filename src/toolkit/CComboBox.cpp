@@ -1,11 +1,15 @@
 #include "toolkit/CComboBox.h"
 
+#include <QStyleOption>
 #include <QWheelEvent>
+
+#include "toolkit/IsolatedText.h"
 
 CComboBox::CComboBox(QWidget* parent) : QComboBox(parent) {
   setFocusPolicy(Qt::StrongFocus);
   setContextMenuPolicy(Qt::NoContextMenu);  // or it would keep its dialog from showing one
   setMaxVisibleItems(20);
+  if (isRightToLeft()) setItemDelegate(new IsolatedTexts(this));
 }
 
 void CComboBox::Add(const QString& text, int value) {
@@ -34,6 +38,11 @@ void CComboBox::Pick(int position) {
 std::optional<int> CComboBox::SelectedValue() const {
   const QVariant value = currentData();
   return value.isValid() ? std::optional(value.toInt()) : std::nullopt;
+}
+
+void CComboBox::initStyleOption(QStyleOptionComboBox* option) const {
+  QComboBox::initStyleOption(option);
+  if (isRightToLeft()) option->currentText = Isolated(option->currentText);
 }
 
 void CComboBox::wheelEvent(QWheelEvent* event) {

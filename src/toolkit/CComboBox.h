@@ -31,5 +31,6 @@ class CComboBox : public QComboBox {
   std::optional<int> SelectedValue() const;
 
  protected:
+  void initStyleOption(QStyleOptionComboBox* option) const override;
   void wheelEvent(QWheelEvent* event) override;
 };

@@ -1,8 +1,23 @@
 #include "toolkit/CurveView.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <QPainter>
+
+namespace {
+
+// In pixels.
+constexpr double kWidth = 2;
+constexpr double kMark = 2.5;  // a radius, to which the pen adds
+constexpr double kEdges = 4;   // what is seen, on both sides, of a line below another
+
+bool LieTogether(const QPolygonF& a, const QPolygonF& b) {
+  return std::ranges::equal(
+      a, b, [](const QPointF& p, const QPointF& q) { return (p - q).manhattanLength() < kEdges; });
+}
+
+}  // namespace
 
 void CurveView::Show(std::vector<Line> lines) {
   lines_ = std::move(lines);
@@ -44,20 +59,24 @@ void CurveView::paintEvent(QPaintEvent*) {
   painter.drawPolyline(place({QPointF(0, 0), QPointF(1, 1)}));
 
   double labelAt = labels / 2;  // the labels beside each other: lines may end in one point
-  for (const Line& line : lines_) {
-    if (line.accepted.isEmpty()) continue;
-    const QColor color = ColorOf(line);
-    const QPolygonF accepted = place(line.accepted);
-    if (line.tried != line.accepted) {
-      painter.setPen(QPen(color, 2, Qt::DotLine));
-      painter.drawPolyline(place(line.tried));
+  for (auto line = lines_.begin(); line != lines_.end(); ++line) {
+    if (line->accepted.isEmpty()) continue;
+    const QColor color = ColorOf(*line);
+    const QPolygonF accepted = place(line->accepted);
+    const auto hiding = std::count_if(line + 1, lines_.end(), [&](const Line& later) {
+      return LieTogether(accepted, place(later.accepted));
+    });
+    const double width = kWidth + kEdges * static_cast<double>(hiding);
+    if (line->tried != line->accepted) {
+      painter.setPen(QPen(color, width, Qt::DotLine));
+      painter.drawPolyline(place(line->tried));
     }
-    painter.setPen(QPen(color, 2));
+    painter.setPen(QPen(color, width));
     painter.drawPolyline(accepted);
     painter.setBrush(color);
-    for (const QPointF& point : accepted) painter.drawEllipse(point, 2.5, 2.5);
+    for (const QPointF& point : accepted) painter.drawEllipse(point, kMark, kMark);
     painter.setPen(palette().color(QPalette::Text));
-    painter.drawText(accepted.last() + QPointF(labelAt, labels / 3), line.label);
+    painter.drawText(accepted.last() + QPointF(labelAt, labels / 3), line->label);
     labelAt += labels * 0.8;
   }
 }

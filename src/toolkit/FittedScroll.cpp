@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QScreen>
+#include <QScrollBar>
 #include <QStyle>
 
 namespace {
@@ -21,8 +22,18 @@ FittedScroll::FittedScroll(QWidget* contents, QWidget* parent) : QScrollArea(par
   contents->setAutoFillBackground(false);
   viewport()->setAutoFillBackground(false);
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
-    if (now != nullptr && widget()->isAncestorOf(now)) ensureWidgetVisible(now, 0, now->height());
+    if (now != nullptr && widget()->isAncestorOf(now)) BringIntoSight(*now);
   });
+}
+
+// Qt scrolls sideways as if everything ran from left to right.
+void FittedScroll::BringIntoSight(QWidget& control) {
+  ensureWidgetVisible(&control, 0, control.height());
+  if (!isRightToLeft()) return;
+  const int left = control.mapTo(viewport(), QPoint()).x();
+  const int beyond = left + control.width() - viewport()->width();
+  QScrollBar& bar = *horizontalScrollBar();
+  bar.setValue(bar.value() - (beyond > 0 ? beyond : std::min(left, 0)));
 }
 
 QSize RoomOnScreen(const QWidget& window) {

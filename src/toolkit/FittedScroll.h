@@ -10,6 +10,9 @@ class FittedScroll : public QScrollArea {
  public:
   /// `contents`, shown without a background of its own, comes to belong to the view.
   FittedScroll(QWidget* contents, QWidget* parent);
+
+ private:
+  void BringIntoSight(QWidget& control);
 };
 
 /// The largest size that leaves `window` with its frame on its screen.

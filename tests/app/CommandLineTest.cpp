@@ -39,6 +39,8 @@ const WrongArguments kWrongArguments[] = {
     {{"--open", "Projector 5-30", "--screenshot", "/nowhere/a.png"}, "/nowhere/a.png: "},
     {{"--tour", "/dev/null/tour"}, "/dev/null/tour"},
     {{"--list", "--tour", "x"}, "Only one of"},
+    {{"-platform=offscreen", "--list"}, "'=' in '-platform=offscreen'"},
+    {{"--list", "-style"}, "--style needs a value"},
     {{"--list", "--language", "1034"}, "'1034' is neither"},
     {{"--profiles", "/nowhere.json"}, "cannot read profiles /nowhere.json: "},
     {{"--profiles", "/dev/zero"}, "cannot read profiles /dev/zero: not a regular"},

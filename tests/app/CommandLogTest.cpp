@@ -78,6 +78,10 @@ TEST(CommandLog, CopiesAndSavesWhatItShowsAndKeepsUp) {
   log.activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&log));
   auto& table = *log.findChild<QTableView*>();
+  log.Add(Entry("A", kChange, {.result = 1}));
+  ASSERT_TRUE(QTest::qWaitFor([&table] { return table.model()->rowCount() == 1; }));
+  EXPECT_EQ(table.visualRect(table.model()->index(0, 0)).bottom(), table.viewport()->height() - 1);
+  log.Clear();
   QElapsedTimer timer;
   timer.start();
   for (int i = 0; i < 5000; ++i) {

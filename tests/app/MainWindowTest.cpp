@@ -74,6 +74,8 @@ TEST(MainWindow, HasOneDialogPerProjectorAndLogsTheirCommands) {
   const auto* log = window.findChild<CommandLog*>()->findChild<QTableView*>()->model();
   EXPECT_GT(log->rowCount(), 10);
   EXPECT_TRUE(LogText(*log, {0}).contains("\tB\tGet Power Status 0x6000\t1\tok\t"));
+  const QRect newest = window.findChild<CommandLog*>()->NewestRows();
+  EXPECT_FALSE(newest.isEmpty() || newest.intersects(window.Dialog(0)->frameGeometry()));
 }
 
 TEST(MainWindow, SaysWhyThereIsNoCatalog) {

@@ -60,7 +60,11 @@ TEST(SettingsActions, PutsBackWhatIsCheckedOnEveryProjector) {
   EXPECT_EQ(Column(dialog, 3), QStringList({"0", "0", "0"}));
 
   QAbstractItemModel& model = *dialog.findChild<QTreeView*>()->model();
-  model.setData(model.index(2, kSettingColumn), Qt::Unchecked, Qt::CheckStateRole);
+  QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
+  EXPECT_TRUE(dialog.isVisible());
+  auto* table = dialog.findChild<QTreeView*>();
+  for (const auto key : {Qt::Key_Home, Qt::Key_End, Qt::Key_Space}) QTest::keyClick(table, key);
+  EXPECT_EQ(model.index(2, kSettingColumn).data(Qt::CheckStateRole), Qt::Unchecked);
   rooms.sessions[1]->SetFault(PjtOperation::SetContrast, {.kind = Fault::Kind::DropOut});
   dialog.Restore();
   EXPECT_EQ(Column(dialog, kResultColumn), QStringList({"changed", "changed", "different"}));

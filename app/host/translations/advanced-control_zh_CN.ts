@@ -4,6 +4,10 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>Unexpected &apos;=&apos; in &apos;%1&apos;.</source>
+        <translation>“%1”中不应有“=”。</translation>
+    </message>
+    <message>
         <source>Display this help.</source>
         <translation>显示此帮助。</translation>
     </message>
@@ -87,8 +91,8 @@
         <translation>日志另存为(&amp;L)…</translation>
     </message>
     <message>
-        <source>C&amp;lear Log</source>
-        <translation>清空日志(&amp;L)</translation>
+        <source>Clea&amp;r Log</source>
+        <translation>清空日志(&amp;R)</translation>
     </message>
     <message>
         <source>Command log</source>
@@ -539,8 +543,8 @@
         <translation>对话框类型(&amp;T)</translation>
     </message>
     <message>
-        <source>Model &amp;code</source>
-        <translation>型号代码(&amp;C)</translation>
+        <source>Model cod&amp;e</source>
+        <translation>型号代码(&amp;E)</translation>
     </message>
     <message>
         <source>Add Projector</source>
@@ -571,8 +575,8 @@
         <translation>串口</translation>
     </message>
     <message>
-        <source>C&amp;onnection</source>
-        <translation>连接(&amp;O)</translation>
+        <source>Connect&amp;ion</source>
+        <translation>连接(&amp;I)</translation>
     </message>
     <message>
         <source>&amp;Address</source>
@@ -873,6 +877,10 @@
 </context>
 <context>
     <name>RestoreDialog</name>
+    <message>
+        <source>Progress</source>
+        <translation>进度</translation>
+    </message>
     <message>
         <source>Apply Settings</source>
         <translation>应用设置</translation>

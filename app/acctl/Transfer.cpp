@@ -78,9 +78,10 @@ void Tell(const Work& work, const Restoration& restoration, Report& report) {
   std::map<QString, QJsonArray> lists;
   std::array<std::string, kLists.size()> keys;
   for (const OutcomeList& list : kLists) lists[list.member];
-  for (const RestoredSetting& restored : restoration.Settings()) {
+  const auto tell = [&](const RestoredSetting& restored, bool isBeforehand) {
     const OutcomeList& list = ListOf(restored.outcome);
     QJsonObject json = Describe(work.texts, restored);
+    if (isBeforehand) json["beforehand"] = true;
     if (restored.outcome == Outcome::Refused) {
       const std::string reason =
           restored.now ? "refused, it is " + work.texts.Value(*restored.setting, *restored.now)
@@ -96,14 +97,10 @@ void Tell(const Work& work, const Restoration& restoration, Report& report) {
         same += (same.empty() ? "" : ", ") + restored.saved.key;
       }
     }
-    if (restored.IsBeyondUndo()) {
-      report.Complain(restored.saved.key + ": it was " +
-                          work.texts.Value(*restored.setting, *restored.before) +
-                          " under the new source or mode, which the undo file does not bring back",
-                      ExitCode::Done);
-    }
     lists[list.member].append(json);
-  }
+  };
+  for (const RestoredSetting& restored : restoration.Beforehand()) tell(restored, true);
+  for (const RestoredSetting& restored : restoration.Settings()) tell(restored, false);
   for (std::size_t i = 0; i < kLists.size(); ++i) {
     if (!keys[i].empty()) {
       report.Complain(std::string(kLists[i].complaint) + ": " + keys[i], kLists[i].code);
@@ -187,24 +184,12 @@ Report RunApply(const Work& work, ProjectorAccess& projector) {
   const Progress progress = ProgressOf(work, projector);
   Restoration restoration = Restoring(work, projector);
   restoration.Read(progress);
-  if (progress.goesOn() && restoration.Count(Outcome::Differs) > 0) {
-    const auto undoBytes = [&] {
-      return WriteSnapshot(restoration.Undo(projector.Name(), work.texts));
-    };
-    const NewFile undo = WriteNewFile(
-        UndoPath(Wide(work.arguments.file), Wide(work.arguments.undoFolder), projector.Name()),
-        undoBytes());
-    if (!undo.error.isEmpty()) {
-      report.Complain(undo.error.toStdString() + "; nothing was sent", ExitCode::Refused);
-    } else {
-      report.json["undo"] = undo.path;
-      restoration.Send(work.texts, progress, [&] {
-        const QString error = WriteWholeFile(undo.path, undoBytes());
-        if (error.isEmpty()) return true;
-        report.Complain(error.toStdString() + "; the rest was not sent", ExitCode::Refused);
-        return false;
-      });
-    }
+  UndoFile undo(Wide(work.arguments.file), Wide(work.arguments.undoFolder), projector.Name());
+  restoration.Send(work.texts, progress,
+                   [&] { return undo.Keep(restoration.Undo(projector.Name(), work.texts)); });
+  if (!undo.Path().isEmpty()) report.json["undo"] = undo.Path();
+  if (const QString error = undo.Error(); !error.isEmpty()) {
+    report.Complain(error.toStdString(), ExitCode::Refused);
   }
   ComplainIfGone(projector, report);
   Tell(work, restoration, report);

@@ -1,6 +1,8 @@
 #include "snapshots/Restoration.h"
 
 #include <algorithm>
+#include <iterator>
+#include <span>
 
 namespace {
 
@@ -19,15 +21,34 @@ Outcome Judge(const ModelSetting* setting, int value) {
   return setting->Allows(value) ? Outcome::NotReached : Outcome::NotAllowed;
 }
 
+/// What of the others depends on it is not known for one that the model does not have.
+bool IsNumber(const RestoredSetting& restored) {
+  return restored.setting != nullptr && RankOf(*restored.setting) == Rank::Number;
+}
+
+bool IsSame(const SavedSetting& one, const SavedSetting& other) {
+  return one.key == other.key && one.source == other.source;
+}
+
 }  // namespace
+
+/// How everything is sent.
+struct Restoration::Way {
+  const SettingTexts& texts;
+  const Progress& progress;
+  const std::function<bool()>& keepUndo;
+};
 
 Restoration::Restoration(const Snapshot& snapshot, const ModelSettings& model,
                          CPjtInterface& connection, const Filter& filter)
     : model_(model), connection_(connection) {
-  for (const SavedSetting& saved : snapshot.settings) {
-    if (!filter(saved)) continue;
+  const auto add = [&model](std::vector<RestoredSetting>& list, const SavedSetting& saved) {
     const ModelSetting* const setting = model.Find(saved.key);
-    settings_.push_back({saved, setting, Judge(setting, saved.value)});
+    list.push_back({saved, setting, Judge(setting, saved.value)});
+  };
+  for (const SavedSetting& saved : snapshot.beforehand) add(beforehand_, saved);
+  for (const SavedSetting& saved : snapshot.settings) {
+    if (filter(saved)) add(settings_, saved);
   }
 }
 
@@ -54,9 +75,14 @@ void Restoration::Read(const Progress& progress) {
        progress);
 }
 
+// What was read since the last was sent is not read again.
 void Restoration::Read(const Group& group, const Progress& progress) {
-  Announce(group);
-  for (RestoredSetting* restored : group) {
+  Group stale;
+  std::ranges::copy_if(
+      group, std::back_inserter(stale),
+      [this](const RestoredSetting* restored) { return restored->asOf != turns_; });
+  Announce(stale);
+  for (RestoredSetting* restored : stale) {
     if (progress.goesOn()) {
       Read(*restored, progress);
     } else if (restored->outcome == Outcome::AlreadySo) {
@@ -76,40 +102,93 @@ void Restoration::Read(RestoredSetting& restored, const Progress& progress) {
   } else {
     const bool same = *restored.before == restored.saved.value;
     restored.outcome = same ? Outcome::AlreadySo : Outcome::Differs;
+    restored.asOf = turns_;
   }
   progress.step();
 }
 
 void Restoration::Send(const SettingTexts& texts, const Progress& progress,
                        const std::function<bool()>& keepUndo) {
+  bool isKept = true;
+  const std::function<bool()> keep = [&] { return isKept = isKept && keepUndo(); };
+  const Progress careful{.goesOn = [&] { return isKept && progress.goesOn(); },
+                         .step = progress.step};
+  const Way way{texts, careful, keep};
+  SendBeforehand(way);
+  Confirm(SendSettings(way), careful);
+  if (turns_ > 0) keep();
+}
+
+// A source or mode is alone; numbers that follow each other are read and sent together.
+void Restoration::SendBeforehand(const Way& way) {
+  for (auto next = beforehand_.begin(); next != beforehand_.end() && way.progress.goesOn();) {
+    RestoredSetting& front = *next;
+    Group group;
+    do {
+      if (next->outcome == Outcome::NotReached) group.push_back(&*next);
+      ++next;
+    } while (IsNumber(front) && next != beforehand_.end() && IsNumber(*next) &&
+             std::ranges::none_of(group, [next](const RestoredSetting* earlier) {
+               return IsSame(earlier->saved, next->saved);
+             }));
+    Read(group, way.progress);
+    Confirm(SendTogether(group, way), way.progress);
+    const bool isSo = front.outcome == Outcome::AlreadySo || front.outcome == Outcome::Changed;
+    if (!IsNumber(front) && !isSo) return;
+  }
+}
+
+Restoration::Group Restoration::SendSettings(const Way& way) {
   Group sent;
-  for (const Rank rank : {Rank::Source, Rank::Choice, Rank::Number}) {
+  const auto send = [&](const Group& group) {
+    const Group now = SendTogether(group, way);
+    sent.insert(sent.end(), now.begin(), now.end());
+  };
+  // Of the choices some may be modes that others depend on, which were so already.
+  for (const Rank rank : {Rank::Source, Rank::Choice, Rank::Choice, Rank::Number}) {
     const Group group = Those([rank](const RestoredSetting& restored) {
       const bool wasRead =
           restored.outcome == Outcome::AlreadySo || restored.outcome == Outcome::Differs;
       return wasRead && RankOf(*restored.setting) == rank;
     });
-    if (!sent.empty()) Read(group, progress);
-    const bool moreDiffers = std::ranges::any_of(group, [](const RestoredSetting* restored) {
-      return restored->outcome == Outcome::Differs && restored->first == restored->saved.value;
-    });
-    if (moreDiffers && progress.goesOn() && !keepUndo()) break;
+    Read(group, way.progress);
+    if (rank == Rank::Number) {
+      send(group);
+      continue;
+    }
     for (RestoredSetting* restored : group) {
-      if (restored->outcome != Outcome::Differs || !progress.goesOn()) continue;
-      Send(*restored, texts, progress);
-      sent.push_back(restored);
+      if (restored->outcome != Outcome::Differs) continue;
+      Read(Group{restored}, way.progress);
+      send({restored});
     }
   }
-  Confirm(sent, progress);
+  return sent;
 }
 
-void Restoration::Send(RestoredSetting& restored, const SettingTexts& texts,
-                       const Progress& progress) {
-  const int value = restored.saved.value;
-  model_.Change(connection_, *restored.setting, value,
-                {texts.Value(*restored.setting, value), restored.saved.source, progress.goesOn});
-  restored.outcome = Outcome::Unconfirmed;
-  progress.step();
+/// Sends what differs of settings that do not depend on each other, and returns what was sent.
+Restoration::Group Restoration::SendTogether(const Group& group, const Way& way) {
+  Group differing;
+  std::ranges::copy_if(group, std::back_inserter(differing), [](const RestoredSetting* restored) {
+    return restored->outcome == Outcome::Differs;
+  });
+  if (differing.empty() || !way.progress.goesOn()) return {};
+  for (RestoredSetting* restored : differing) restored->turn = ++turns_;
+  way.keepUndo();
+  Group sent;
+  for (RestoredSetting* restored : differing) {
+    if (!way.progress.goesOn()) {
+      restored->turn = 0;
+      continue;
+    }
+    const SavedSetting& saved = restored->saved;
+    model_.Change(
+        connection_, *restored->setting, saved.value,
+        {way.texts.Value(*restored->setting, saved.value), saved.source, way.progress.goesOn});
+    restored->outcome = Outcome::Unconfirmed;
+    sent.push_back(restored);
+    way.progress.step();
+  }
+  return sent;
 }
 
 // Whatever a setter answers, the value read afterwards is what the projector has. Also after an
@@ -127,19 +206,58 @@ void Restoration::Confirm(const Group& sent, const Progress& progress) {
 }
 
 int Restoration::Count(Outcome outcome) const {
-  return static_cast<int>(std::ranges::count(settings_, outcome, &RestoredSetting::outcome));
+  return static_cast<int>(std::ranges::count(beforehand_, outcome, &RestoredSetting::outcome) +
+                          std::ranges::count(settings_, outcome, &RestoredSetting::outcome));
+}
+
+/// What was told, or is just going to be, in that order, but for what was refused.
+std::vector<const RestoredSetting*> Restoration::Told() const {
+  std::vector<const RestoredSetting*> told;
+  for (const auto* list : {&beforehand_, &settings_}) {
+    for (const RestoredSetting& restored : *list) {
+      if (restored.turn > 0 && restored.now != restored.before) told.push_back(&restored);
+    }
+  }
+  std::ranges::sort(told, {}, &RestoredSetting::turn);
+  return told;
 }
 
 Snapshot Restoration::Undo(const std::string& projector, const SettingTexts& texts) const {
   Snapshot snapshot = EmptySnapshot(projector, model_.Model());
+  const auto add = [&](std::vector<SavedSetting>& list, const RestoredSetting& restored,
+                       int value) {
+    list.push_back({restored.saved.key, value, texts.Value(*restored.setting, value),
+                    restored.saved.source});
+  };
   for (const RestoredSetting& restored : settings_) {
     if (!restored.first) continue;
     const bool isUntouched =
         restored.outcome == Outcome::AlreadySo || restored.outcome == Outcome::NotReached;
     if (isUntouched && restored.first == restored.saved.value) continue;
-    snapshot.settings.push_back({restored.saved.key, *restored.first,
-                                 texts.Value(*restored.setting, *restored.first),
-                                 restored.saved.source});
+    add(snapshot.settings, restored, *restored.first);
+  }
+  // Up to the first source or mode, what was replaced is what there was at first.
+  const auto told = Told();
+  auto beyond = std::ranges::find_if_not(
+      told, [](const RestoredSetting* restored) { return IsNumber(*restored); });
+  if (beyond != told.end()) ++beyond;
+  for (const RestoredSetting* restored : std::span(told.begin(), beyond)) {
+    const bool isThere = std::ranges::any_of(
+        snapshot.settings, [&](const SavedSetting& s) { return IsSame(s, restored->saved); });
+    if (!isThere) add(snapshot.settings, *restored, *restored->before);
+  }
+  if (beyond == told.end()) return snapshot;
+  // Somebody may choose another source meanwhile.
+  for (const RestoredSetting* restored : told) {
+    const bool isLast = std::ranges::find(settings_, restored->turn, &RestoredSetting::turn) !=
+                        settings_.end();
+    if (isLast && !IsNumber(*restored)) {
+      add(snapshot.beforehand, *restored, restored->now.value_or(restored->saved.value));
+    }
+  }
+  for (auto last = told.end(); last != beyond;) {
+    --last;
+    add(snapshot.beforehand, **last, *(*last)->before);
   }
   return snapshot;
 }

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <span>
 
 namespace {
 
@@ -210,12 +209,12 @@ int Restoration::Count(Outcome outcome) const {
                           std::ranges::count(settings_, outcome, &RestoredSetting::outcome));
 }
 
-/// What was told, or is just going to be, in that order, but for what was refused.
+/// What was told, or is just going to be, in that order.
 std::vector<const RestoredSetting*> Restoration::Told() const {
   std::vector<const RestoredSetting*> told;
   for (const auto* list : {&beforehand_, &settings_}) {
     for (const RestoredSetting& restored : *list) {
-      if (restored.turn > 0 && restored.now != restored.before) told.push_back(&restored);
+      if (restored.turn > 0) told.push_back(&restored);
     }
   }
   std::ranges::sort(told, {}, &RestoredSetting::turn);
@@ -236,27 +235,22 @@ Snapshot Restoration::Undo(const std::string& projector, const SettingTexts& tex
     if (isUntouched && restored.first == restored.saved.value) continue;
     add(snapshot.settings, restored, *restored.first);
   }
-  // Up to the first source or mode, what was replaced is what there was at first.
   const auto told = Told();
-  auto beyond = std::ranges::find_if_not(
+  const auto first = std::ranges::find_if_not(
       told, [](const RestoredSetting* restored) { return IsNumber(*restored); });
-  if (beyond != told.end()) ++beyond;
-  for (const RestoredSetting* restored : std::span(told.begin(), beyond)) {
-    const bool isThere = std::ranges::any_of(
-        snapshot.settings, [&](const SavedSetting& s) { return IsSame(s, restored->saved); });
-    if (!isThere) add(snapshot.settings, *restored, *restored->before);
-  }
-  if (beyond == told.end()) return snapshot;
-  // Somebody may choose another source meanwhile.
+  const bool isAllAtFirst = first == told.end() || std::next(first) == told.end();
+  if (isAllAtFirst && beforehand_.empty()) return snapshot;
+  // Somebody may choose another source or mode meanwhile. What a choice is under the modes that were
+  // set after it is known only once it was read back.
   for (const RestoredSetting* restored : told) {
-    const bool isLast = std::ranges::find(settings_, restored->turn, &RestoredSetting::turn) !=
-                        settings_.end();
-    if (isLast && !IsNumber(*restored)) {
+    const bool isLast =
+        std::ranges::find(settings_, restored->turn, &RestoredSetting::turn) != settings_.end();
+    const bool isSource = isLast && restored->setting->SelectsInput();
+    if (isSource || (isLast && !IsNumber(*restored) && restored->now)) {
       add(snapshot.beforehand, *restored, restored->now.value_or(restored->saved.value));
     }
   }
-  for (auto last = told.end(); last != beyond;) {
-    --last;
+  for (auto last = told.rbegin(); last != told.rend(); ++last) {
     add(snapshot.beforehand, **last, *(*last)->before);
   }
   return snapshot;

@@ -39,15 +39,36 @@ const OutcomeList& ListOf(Outcome outcome) {
   return *std::ranges::find(kLists, outcome, &OutcomeList::outcome);
 }
 
+/// What is told: each setting, and beforehand those that are more than so already. What was changed
+/// beforehand, and is so therefore, is told once.
+std::vector<const RestoredSetting*> Outcomes(const Restoration& restoration) {
+  std::vector<const RestoredSetting*> outcomes;
+  for (const RestoredSetting& restored : restoration.Beforehand()) {
+    if (restored.outcome != Outcome::AlreadySo) outcomes.push_back(&restored);
+  }
+  const std::vector beforehand = outcomes;
+  for (const RestoredSetting& restored : restoration.Settings()) {
+    const bool isTold = restored.outcome == Outcome::AlreadySo &&
+                        std::ranges::any_of(beforehand, [&](const RestoredSetting* earlier) {
+                          return earlier->outcome == Outcome::Changed &&
+                                 earlier->saved == restored.saved;
+                        });
+    if (!isTold) outcomes.push_back(&restored);
+  }
+  return outcomes;
+}
+
 /// "12 changed, 28 already so, 1 refused"; what there is none of is left out.
 std::string Summary(const Restoration& restoration) {
+  const auto outcomes = Outcomes(restoration);
   std::string text;
   int skipped = 0;
   const auto add = [&text](int count, const char* what) {
     if (count > 0) text += (text.empty() ? "" : ", ") + std::to_string(count) + ' ' + what;
   };
   for (const OutcomeList& list : kLists) {
-    const int count = restoration.Count(list.outcome);
+    const auto count = static_cast<int>(
+        std::ranges::count(outcomes, list.outcome, &RestoredSetting::outcome));
     if (list.text == nullptr) {
       skipped += count;
     } else {
@@ -78,10 +99,11 @@ void Tell(const Work& work, const Restoration& restoration, Report& report) {
   std::map<QString, QJsonArray> lists;
   std::array<std::string, kLists.size()> keys;
   for (const OutcomeList& list : kLists) lists[list.member];
-  const auto tell = [&](const RestoredSetting& restored, bool isBeforehand) {
+  for (const RestoredSetting* told : Outcomes(restoration)) {
+    const RestoredSetting& restored = *told;
     const OutcomeList& list = ListOf(restored.outcome);
     QJsonObject json = Describe(work.texts, restored);
-    if (isBeforehand) json["beforehand"] = true;
+    if (restored.isBeforehand) json["beforehand"] = true;
     if (restored.outcome == Outcome::Refused) {
       const std::string reason =
           restored.now ? "refused, it is " + work.texts.Value(*restored.setting, *restored.now)
@@ -98,9 +120,7 @@ void Tell(const Work& work, const Restoration& restoration, Report& report) {
       }
     }
     lists[list.member].append(json);
-  };
-  for (const RestoredSetting& restored : restoration.Beforehand()) tell(restored, true);
-  for (const RestoredSetting& restored : restoration.Settings()) tell(restored, false);
+  }
   for (std::size_t i = 0; i < kLists.size(); ++i) {
     if (!keys[i].empty()) {
       report.Complain(std::string(kLists[i].complaint) + ": " + keys[i], kLists[i].code);

@@ -231,6 +231,8 @@ int Main(int argc, char* argv[]) {
     SnapshotContents contents = ReadSettingsFile(Wide(arguments.file));
     if (!contents.error.isEmpty()) return Fail(contents.error.toStdString());
     work.file = std::move(contents.snapshot);
+    // A part of it would be put back under a source or mode that it does not belong to.
+    if (!arguments.only.empty()) work.file->beforehand.clear();
   }
   WatchSignals();
   return RunOnProjectors(work, projectors);

@@ -41,13 +41,15 @@ struct Restoration::Way {
 Restoration::Restoration(const Snapshot& snapshot, const ModelSettings& model,
                          CPjtInterface& connection, const Filter& filter)
     : model_(model), connection_(connection) {
-  const auto add = [&model](std::vector<RestoredSetting>& list, const SavedSetting& saved) {
+  const auto restored = [&model](const SavedSetting& saved, bool isBeforehand) {
     const ModelSetting* const setting = model.Find(saved.key);
-    list.push_back({saved, setting, Judge(setting, saved.value)});
+    return RestoredSetting{saved, setting, isBeforehand, Judge(setting, saved.value)};
   };
-  for (const SavedSetting& saved : snapshot.beforehand) add(beforehand_, saved);
+  for (const SavedSetting& saved : snapshot.beforehand) {
+    beforehand_.push_back(restored(saved, true));
+  }
   for (const SavedSetting& saved : snapshot.settings) {
-    if (filter(saved)) add(settings_, saved);
+    if (filter(saved)) settings_.push_back(restored(saved, false));
   }
 }
 
@@ -243,10 +245,8 @@ Snapshot Restoration::Undo(const std::string& projector, const SettingTexts& tex
   // Somebody may choose another source or mode meanwhile. What a choice is under the modes that were
   // set after it is known only once it was read back.
   for (const RestoredSetting* restored : told) {
-    const bool isLast =
-        std::ranges::find(settings_, restored->turn, &RestoredSetting::turn) != settings_.end();
-    const bool isSource = isLast && restored->setting->SelectsInput();
-    if (isSource || (isLast && !IsNumber(*restored) && restored->now)) {
+    if (restored->isBeforehand || IsNumber(*restored)) continue;
+    if (restored->now || restored->setting->SelectsInput()) {
       add(snapshot.beforehand, *restored, restored->now.value_or(restored->saved.value));
     }
   }

@@ -24,6 +24,7 @@ enum class Outcome : std::uint8_t {
 struct RestoredSetting {
   SavedSetting saved;
   const ModelSetting* setting = nullptr;  ///< Null for one that the model does not have.
+  bool isBeforehand = false;
   Outcome outcome = Outcome::NotReached;
   std::optional<int> first{};   ///< What the projector had at first, where it told it.
   std::optional<int> before{};  ///< What it had last before it was told.

@@ -164,7 +164,7 @@ int RunOnProjectors(const Work& work, const std::vector<const ProjectorProfile*>
       static_cast<int>(projectors.size()), arguments.jobs, meter,
       [&](int number) {
         const ProjectorProfile& profile = *projectors[static_cast<std::size_t>(number)];
-        ProjectorAccess projector(profile, ChannelTo(profile, arguments));
+        ProjectorAccess projector(profile, ChannelTo(profile, arguments), arguments.timeOut);
         const bool isListed = arguments.command == Command::Settings;
         // Keys alone do not depend on the inputs.
         if (!isListed || !arguments.brief) projector.AskForInputs();

@@ -48,11 +48,11 @@ std::vector<const RestoredSetting*> Outcomes(const Restoration& restoration) {
   }
   const std::vector beforehand = outcomes;
   for (const RestoredSetting& restored : restoration.Settings()) {
-    const bool isTold = restored.outcome == Outcome::AlreadySo &&
-                        std::ranges::any_of(beforehand, [&](const RestoredSetting* earlier) {
-                          return earlier->outcome == Outcome::Changed &&
-                                 earlier->saved == restored.saved;
-                        });
+    const bool isTold =
+        restored.outcome == Outcome::AlreadySo &&
+        std::ranges::any_of(beforehand, [&](const RestoredSetting* earlier) {
+          return earlier->outcome == Outcome::Changed && earlier->saved == restored.saved;
+        });
     if (!isTold) outcomes.push_back(&restored);
   }
   return outcomes;
@@ -67,8 +67,8 @@ std::string Summary(const Restoration& restoration) {
     if (count > 0) text += (text.empty() ? "" : ", ") + std::to_string(count) + ' ' + what;
   };
   for (const OutcomeList& list : kLists) {
-    const auto count = static_cast<int>(
-        std::ranges::count(outcomes, list.outcome, &RestoredSetting::outcome));
+    const auto count =
+        static_cast<int>(std::ranges::count(outcomes, list.outcome, &RestoredSetting::outcome));
     if (list.text == nullptr) {
       skipped += count;
     } else {

@@ -312,8 +312,7 @@ bool RestoreDialog::IsChecked(int row) const {
 }
 
 void RestoreDialog::UncheckDone(int row) {
-  const auto outcome =
-      static_cast<Outcome>(model_->item(row, kResult)->data(kOutcomeRole).toInt());
+  const auto outcome = static_cast<Outcome>(model_->item(row, kResult)->data(kOutcomeRole).toInt());
   if (outcome == Outcome::Changed || outcome == Outcome::AlreadySo) {
     model_->item(row, kSetting)->setCheckState(Qt::Unchecked);
   }

@@ -39,13 +39,14 @@ PjtReply PatientChannel::Execute(const PjtCommand& command) {
   const bool repeats = everAnswered_ && IsRepeatable(command.operation);
   const int attempts = repeats ? kAttempts : 1;
   const auto begin = Clock::now();
+  auto asked = begin;
   for (int attempt = 0; attempt < attempts && !gone_; ++attempt) {
-    if (attempt > 0) std::this_thread::sleep_for(kPause);
+    if (attempt > 0) std::this_thread::sleep_until(asked + kPause);
     const auto left = timeOut_ - Since(begin);
     if (left <= left.zero()) break;
     inner_->GiveUpAfter(repeats ? std::min(left, std::max(timeOut_ / kAttempts, 2 * slowest_))
                                 : left);
-    const auto asked = Clock::now();
+    asked = Clock::now();
     reply = inner_->Execute(command);
     if (!reply.answered) continue;
     slowest_ = std::max(slowest_, Since(asked));

@@ -21,7 +21,7 @@ SimulatedModel SimulatedModelOf(const ProjectorProfile& profile);
 class PatientChannel : public ProjectorChannel {
  public:
   static constexpr int kAttempts = 3;
-  static constexpr std::chrono::milliseconds kPause{50};
+  static constexpr std::chrono::milliseconds kPause{50};  ///< At least, from one to the next.
 
   PatientChannel(std::shared_ptr<ProjectorChannel> inner, std::chrono::milliseconds timeOut)
       : inner_(std::move(inner)),

@@ -10,7 +10,8 @@ SnapshotContents ReadSettingsFile(const QString& path);
 /// A projector's name as part of a file's name. Several projectors may have the same.
 QString FileNameOf(const std::string& projector);
 
-/// The file that keeps the values that a restored one replaces: a new one, so that no other is lost.
+/// The file that keeps the values that a restored one replaces: a new one, so that no other is
+/// lost.
 class UndoFile {
  public:
   /// Beside `file` where `folder` is empty.

@@ -79,9 +79,9 @@ void Restoration::Read(const Progress& progress) {
 // What was read since the last was sent is not read again.
 void Restoration::Read(const Group& group, const Progress& progress) {
   Group stale;
-  std::ranges::copy_if(
-      group, std::back_inserter(stale),
-      [this](const RestoredSetting* restored) { return restored->asOf != turns_; });
+  std::ranges::copy_if(group, std::back_inserter(stale), [this](const RestoredSetting* restored) {
+    return restored->asOf != turns_;
+  });
   Announce(stale);
   for (RestoredSetting* restored : stale) {
     if (progress.goesOn()) {
@@ -227,8 +227,8 @@ Snapshot Restoration::Undo(const std::string& projector, const SettingTexts& tex
   Snapshot snapshot = EmptySnapshot(projector, model_.Model());
   const auto add = [&](std::vector<SavedSetting>& list, const RestoredSetting& restored,
                        int value) {
-    list.push_back({restored.saved.key, value, texts.Value(*restored.setting, value),
-                    restored.saved.source});
+    list.push_back(
+        {restored.saved.key, value, texts.Value(*restored.setting, value), restored.saved.source});
   };
   for (const RestoredSetting& restored : settings_) {
     if (!restored.first) continue;
@@ -242,8 +242,8 @@ Snapshot Restoration::Undo(const std::string& projector, const SettingTexts& tex
       told, [](const RestoredSetting* restored) { return IsNumber(*restored); });
   const bool isAllAtFirst = first == told.end() || std::next(first) == told.end();
   if (isAllAtFirst && beforehand_.empty()) return snapshot;
-  // Somebody may choose another source or mode meanwhile. What a choice is under the modes that were
-  // set after it is known only once it was read back.
+  // Somebody may choose another source or mode meanwhile. What a choice is under the modes that
+  // were set after it is known only once it was read back.
   for (const RestoredSetting* restored : told) {
     if (restored->isBeforehand || IsNumber(*restored)) continue;
     if (restored->now || restored->setting->SelectsInput()) {

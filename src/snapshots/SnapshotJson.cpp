@@ -98,9 +98,8 @@ Snapshot Parse(const QJsonObject& file) {
   for (std::size_t i = 0; i < snapshot.settings.size(); ++i) {
     const SavedSetting& setting = snapshot.settings[i];
     if (!keys.emplace(setting.key, setting.source).second) {
-      throw WrongSnapshot{
-          QStringLiteral("settings[%1].key: ").arg(i) +
-          WrongSnapshot::tr("\"%1\" stands here twice").arg(Wide(setting.key))};
+      throw WrongSnapshot{QStringLiteral("settings[%1].key: ").arg(i) +
+                          WrongSnapshot::tr("\"%1\" stands here twice").arg(Wide(setting.key))};
     }
   }
   return snapshot;
@@ -121,13 +120,13 @@ QJsonArray ToJson(const std::vector<SavedSetting>& settings) {
 
 QByteArray WriteSnapshot(const Snapshot& snapshot) {
   QJsonObject file{{"format", kFormat},
-                         {"version", kVersion},
-                         {"projector", Wide(snapshot.projector)},
-                         {"model", QJsonObject{{"name", Wide(snapshot.model)},
-                                               {"dialogType", snapshot.dialogType},
-                                               {"modelCode", snapshot.modelCode}}},
-                         {"time", Wide(snapshot.time)},
-                         {"settings", ToJson(snapshot.settings)}};
+                   {"version", kVersion},
+                   {"projector", Wide(snapshot.projector)},
+                   {"model", QJsonObject{{"name", Wide(snapshot.model)},
+                                         {"dialogType", snapshot.dialogType},
+                                         {"modelCode", snapshot.modelCode}}},
+                   {"time", Wide(snapshot.time)},
+                   {"settings", ToJson(snapshot.settings)}};
   if (!snapshot.beforehand.empty()) file["beforehand"] = ToJson(snapshot.beforehand);
   return QJsonDocument(file).toJson();
 }

@@ -38,7 +38,6 @@ const ProjectorProfile& Profile(std::string_view name) {
 /// What a projector keeps for each of its sources, or for each of these and its modes.
 struct Memory {
   using Values = std::vector<int>;
-  using Kept = std::map<Values, Values>;
 
   /// What belongs to the source or mode that was set since comes back.
   void Follow(SimulatedProjector& projector) {
@@ -63,14 +62,14 @@ struct Memory {
     fresh.emplace(now, kept[now]);
   }
   /// Whether all is as it was, of what is new too.
-  bool IsLike(Kept then) const {
-    then.insert(fresh.begin(), fresh.end());
-    return kept == then;
+  bool IsLike(Memory then) const {
+    then.kept.insert(fresh.begin(), fresh.end());
+    return kept == then.kept;
   }
 
   std::vector<SettingId> selectors, ids;
   Values present{};
-  Kept kept{}, fresh{};
+  std::map<Values, Values> kept{}, fresh{};
 };
 
 /// A projector whose commands may be refused, get lost on the way there or back, or end for good.
@@ -160,8 +159,9 @@ struct Room {
   ProjectorAccess projector;
 };
 
-TEST(Restoration, BringsEveryProjectorBack) {
+TEST(Restoration, BringsEveryProjectorBackAndUndoesItself) {
   ASSERT_GT(Profiles().size(), 50U);
+  unsigned seed = 3;
   for (const ProjectorProfile& profile : Profiles()) {
     SCOPED_TRACE(profile.Name);
     Room room(profile);
@@ -177,45 +177,32 @@ TEST(Restoration, BringsEveryProjectorBack) {
     const int sent = room.channel->sent;
     EXPECT_EQ(Restore(room.projector, wanted).Count(Outcome::Changed), 0);
     EXPECT_EQ(room.channel->sent, sent) << "what is so is not sent again";
-  }
-}
-
-// Wherever it is cut off, for every source and mode, and though somebody changes the source back.
-TEST(Restoration, IsUndoneAndDoneAgainWithAllThatSourcesAndModesKeep) {
-  unsigned seed = 3;
-  for (const ProjectorProfile& profile : Profiles()) {
-    Room room(profile);
-    room.ChangeAll(++seed);
-    const Snapshot wanted = Take(room.projector);
+    // Undone wherever it is cut off, with all that sources and modes keep, and done again.
     auto& memories = room.channel->memories;
-    memories = {{{SettingId::InputSource}, {SettingId::Gamma, SettingId::ColorTemp, SettingId::Volume}},
-                {{SettingId::InputSource, SettingId::Gamma, SettingId::ColorTemp},
-                 {SettingId::Brightness, SettingId::Tint, SettingId::ActiveIris, SettingId::Aspect}}};
-    const auto isLike = [&](const std::vector<Memory>& then) {
-      return memories[0].IsLike(then[0].kept) && memories[1].IsLike(then[1].kept);
-    };
+    memories = {
+        {{SettingId::InputSource}, {SettingId::Gamma, SettingId::ColorTemp, SettingId::Volume}},
+        {{SettingId::InputSource, SettingId::Gamma, SettingId::ColorTemp},
+         {SettingId::Brightness, SettingId::Tint, SettingId::ActiveIris, SettingId::Aspect}}};
     for (const int cut : {1000, 1, 3, 6, 14}) {
-      SCOPED_TRACE(profile.Name + " cut off after " + std::to_string(cut));
+      SCOPED_TRACE(cut);
       room.ChangeAll(++seed);
       const Snapshot before = Take(room.projector);
       const auto first = memories;
+      const int source = room.channel->projector.Value(SettingId::InputSource);
       Snapshot undo, redo;
       const int limit = room.channel->sent + cut;
       Restore(room.projector, wanted, &undo, [&] { return room.channel->sent < limit; });
-      for (const SavedSetting& saved : before.settings) {
-        const ModelSetting& setting = *room.projector.Settings().Find(saved.key);
-        if (cut != 1000 || !setting.SelectsInput()) continue;
-        room.projector.Settings().Change(room.projector.Connection(), setting, saved.value);
-      }
+      // Somebody may choose another source meanwhile.
+      if (cut == 1000) room.channel->projector.SetValue(SettingId::InputSource, source);
+      room.channel->Execute({.operation = PjtOperation::GetInputSource});
       const Snapshot after = Take(room.projector);
       const auto changed = memories;
-      ASSERT_EQ(ReadSnapshot(WriteSnapshot(undo)).snapshot, undo);
-      Restore(room.projector, undo, &redo);
+      Restore(room.projector, ReadSnapshot(WriteSnapshot(undo)).snapshot, &redo);
       EXPECT_EQ(Take(room.projector).settings, before.settings);
-      EXPECT_TRUE(isLike(first));
+      EXPECT_TRUE(std::ranges::equal(memories, first, &Memory::IsLike));
       Restore(room.projector, redo);
       EXPECT_EQ(Take(room.projector).settings, after.settings);
-      EXPECT_TRUE(isLike(changed));
+      EXPECT_TRUE(std::ranges::equal(memories, changed, &Memory::IsLike));
     }
   }
 }
@@ -283,6 +270,37 @@ TEST(Restoration, SkipsWhatTheModelDoesNotTakeAndStopsWhenTold) {
   EXPECT_THAT(outcomes,
               testing::ElementsAre(Outcome::NotAllowed, Outcome::NotAllowed, Outcome::NotSettable,
                                    Outcome::Unknown, Outcome::Changed, Outcome::Differs));
+}
+
+/// Answers each command after its time, unless it is given up before.
+struct Late : ProjectorChannel {
+  PjtReply Execute(const PjtCommand&) override {
+    const auto time = std::chrono::milliseconds(times[std::min(count++, times.size() - 1)]);
+    std::this_thread::sleep_for(std::min(time, longest));
+    waited += std::min(time, longest);
+    return {.answered = time <= longest};
+  }
+  void GiveUpAfter(std::chrono::milliseconds time) override { longest = time; }
+
+  std::vector<int> times;
+  std::size_t count = 0;
+  std::chrono::milliseconds longest{}, waited{};
+};
+
+TEST(PatientChannel, AsksAgainWithinOneTimeOut) {
+  constexpr std::chrono::milliseconds kTimeOut{300};
+  const std::pair<std::vector<int>, bool> kCases[] = {
+      {{1, 1000, 1}, true}, {{1, 1000, 1000, 1}, true}, {{200, 280}, true}, {{1, 1000}, false}};
+  for (const auto& [times, isAnswered] : kCases) {
+    const auto late = std::make_shared<Late>();
+    late->times = times;
+    PatientChannel patient(late, kTimeOut);
+    EXPECT_TRUE(patient.Execute({.operation = PjtOperation::GetInputSource}).answered);
+    late->waited = {};
+    EXPECT_EQ(patient.Execute({.operation = PjtOperation::GetInputSource}).answered, isAnswered);
+    EXPECT_EQ(patient.IsGone(), !isAnswered);
+    EXPECT_LE(late->waited, kTimeOut);
+  }
 }
 
 TEST(Snapshot, IsReadAsWrittenAndRefusedWhenWrong) {

@@ -44,8 +44,10 @@ PjtReply PatientChannel::Execute(const PjtCommand& command) {
     if (attempt > 0) std::this_thread::sleep_until(asked + kPause);
     const auto left = timeOut_ - Since(begin);
     if (left <= left.zero()) break;
-    inner_->GiveUpAfter(repeats ? std::min(left, std::max(timeOut_ / kAttempts, 2 * slowest_))
-                                : left);
+    const bool isPaceKnown = slowest_ > slowest_.zero();
+    inner_->GiveUpAfter(repeats && isPaceKnown
+                            ? std::min(left, std::max(timeOut_ / kAttempts, 2 * slowest_))
+                            : left);
     asked = Clock::now();
     reply = inner_->Execute(command);
     if (!reply.answered) continue;

@@ -39,15 +39,36 @@ const OutcomeList& ListOf(Outcome outcome) {
   return *std::ranges::find(kLists, outcome, &OutcomeList::outcome);
 }
 
+/// What is told: each setting, and beforehand those that are more than so already. What was changed
+/// beforehand, and is so therefore, is told once.
+std::vector<const RestoredSetting*> Outcomes(const Restoration& restoration) {
+  std::vector<const RestoredSetting*> outcomes;
+  for (const RestoredSetting& restored : restoration.Beforehand()) {
+    if (restored.outcome != Outcome::AlreadySo) outcomes.push_back(&restored);
+  }
+  const std::vector beforehand = outcomes;
+  for (const RestoredSetting& restored : restoration.Settings()) {
+    const bool isTold =
+        restored.outcome == Outcome::AlreadySo &&
+        std::ranges::any_of(beforehand, [&](const RestoredSetting* earlier) {
+          return earlier->outcome == Outcome::Changed && earlier->saved == restored.saved;
+        });
+    if (!isTold) outcomes.push_back(&restored);
+  }
+  return outcomes;
+}
+
 /// "12 changed, 28 already so, 1 refused"; what there is none of is left out.
 std::string Summary(const Restoration& restoration) {
+  const auto outcomes = Outcomes(restoration);
   std::string text;
   int skipped = 0;
   const auto add = [&text](int count, const char* what) {
     if (count > 0) text += (text.empty() ? "" : ", ") + std::to_string(count) + ' ' + what;
   };
   for (const OutcomeList& list : kLists) {
-    const int count = restoration.Count(list.outcome);
+    const auto count =
+        static_cast<int>(std::ranges::count(outcomes, list.outcome, &RestoredSetting::outcome));
     if (list.text == nullptr) {
       skipped += count;
     } else {
@@ -78,9 +99,11 @@ void Tell(const Work& work, const Restoration& restoration, Report& report) {
   std::map<QString, QJsonArray> lists;
   std::array<std::string, kLists.size()> keys;
   for (const OutcomeList& list : kLists) lists[list.member];
-  for (const RestoredSetting& restored : restoration.Settings()) {
+  for (const RestoredSetting* told : Outcomes(restoration)) {
+    const RestoredSetting& restored = *told;
     const OutcomeList& list = ListOf(restored.outcome);
     QJsonObject json = Describe(work.texts, restored);
+    if (restored.isBeforehand) json["beforehand"] = true;
     if (restored.outcome == Outcome::Refused) {
       const std::string reason =
           restored.now ? "refused, it is " + work.texts.Value(*restored.setting, *restored.now)
@@ -95,12 +118,6 @@ void Tell(const Work& work, const Restoration& restoration, Report& report) {
         std::string& same = keys[static_cast<std::size_t>(&list - kLists.data())];
         same += (same.empty() ? "" : ", ") + restored.saved.key;
       }
-    }
-    if (restored.IsBeyondUndo()) {
-      report.Complain(restored.saved.key + ": it was " +
-                          work.texts.Value(*restored.setting, *restored.before) +
-                          " under the new source or mode, which the undo file does not bring back",
-                      ExitCode::Done);
     }
     lists[list.member].append(json);
   }
@@ -187,24 +204,12 @@ Report RunApply(const Work& work, ProjectorAccess& projector) {
   const Progress progress = ProgressOf(work, projector);
   Restoration restoration = Restoring(work, projector);
   restoration.Read(progress);
-  if (progress.goesOn() && restoration.Count(Outcome::Differs) > 0) {
-    const auto undoBytes = [&] {
-      return WriteSnapshot(restoration.Undo(projector.Name(), work.texts));
-    };
-    const NewFile undo = WriteNewFile(
-        UndoPath(Wide(work.arguments.file), Wide(work.arguments.undoFolder), projector.Name()),
-        undoBytes());
-    if (!undo.error.isEmpty()) {
-      report.Complain(undo.error.toStdString() + "; nothing was sent", ExitCode::Refused);
-    } else {
-      report.json["undo"] = undo.path;
-      restoration.Send(work.texts, progress, [&] {
-        const QString error = WriteWholeFile(undo.path, undoBytes());
-        if (error.isEmpty()) return true;
-        report.Complain(error.toStdString() + "; the rest was not sent", ExitCode::Refused);
-        return false;
-      });
-    }
+  UndoFile undo(Wide(work.arguments.file), Wide(work.arguments.undoFolder), projector.Name());
+  restoration.Send(work.texts, progress,
+                   [&] { return undo.Keep(restoration.Undo(projector.Name(), work.texts)); });
+  if (!undo.Path().isEmpty()) report.json["undo"] = undo.Path();
+  if (const QString error = undo.Error(); !error.isEmpty()) {
+    report.Complain(error.toStdString(), ExitCode::Refused);
   }
   ComplainIfGone(projector, report);
   Tell(work, restoration, report);

@@ -164,7 +164,7 @@ int RunOnProjectors(const Work& work, const std::vector<const ProjectorProfile*>
       static_cast<int>(projectors.size()), arguments.jobs, meter,
       [&](int number) {
         const ProjectorProfile& profile = *projectors[static_cast<std::size_t>(number)];
-        ProjectorAccess projector(profile, ChannelTo(profile, arguments));
+        ProjectorAccess projector(profile, ChannelTo(profile, arguments), arguments.timeOut);
         const bool isListed = arguments.command == Command::Settings;
         // Keys alone do not depend on the inputs.
         if (!isListed || !arguments.brief) projector.AskForInputs();
@@ -231,6 +231,8 @@ int Main(int argc, char* argv[]) {
     SnapshotContents contents = ReadSettingsFile(Wide(arguments.file));
     if (!contents.error.isEmpty()) return Fail(contents.error.toStdString());
     work.file = std::move(contents.snapshot);
+    // A part of it would be put back under a source or mode that it does not belong to.
+    if (!arguments.only.empty()) work.file->beforehand.clear();
   }
   WatchSignals();
   return RunOnProjectors(work, projectors);

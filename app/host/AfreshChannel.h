@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "app/profiles/ProjectorAccess.h"
+#include "device/BoundedChannel.h"
 
 /// A session's channel as work on many settings needs it: a command after an unanswered one is
 /// really sent, where the session spares a projector that was silent just now. Once `goesOn` says
@@ -37,9 +38,11 @@ class AfreshChannel : public ProjectorChannel {
   bool silent_ = false;
 };
 
-/// The way to a projector that asks again where an answer got lost, and knows when it is gone.
+/// The way to a projector that asks again where an answer got lost, and knows when it is gone. Each
+/// attempt has the session's own time.
 inline std::shared_ptr<PatientChannel> MakePatient(std::shared_ptr<ProjectorChannel> channel,
                                                    std::function<bool()> goesOn) {
   return std::make_shared<PatientChannel>(
-      std::make_shared<AfreshChannel>(std::move(channel), std::move(goesOn)));
+      std::make_shared<AfreshChannel>(std::move(channel), std::move(goesOn)),
+      PatientChannel::kAttempts * BoundedChannel::Limits{}.timeOut);
 }

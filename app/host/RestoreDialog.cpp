@@ -23,7 +23,6 @@
 
 #include "app/host/AfreshChannel.h"
 #include "app/profiles/SettingsFile.h"
-#include "app/profiles/WholeFile.h"
 #include "device/ModelDataIntake.h"
 #include "i18n/Catalog.h"
 #include "i18n/SystemLanguage.h"
@@ -83,7 +82,8 @@ struct RestoreDialog::Room {
   std::shared_ptr<PatientChannel> channel;
   CPjtInterface connection;
   std::optional<Restoration> restoration;
-  int firstRow = 0;
+  std::optional<int> beforehandRow;  ///< Of all that is put back beforehand.
+  int firstRow = 0;                  ///< Of the settings.
 };
 
 /// While it lives the dialog can be stopped, but not be asked for anything else.
@@ -225,6 +225,7 @@ void RestoreDialog::Compare() {
   model_->setRowCount(0);
   for (const auto& room : rooms_) {
     room->restoration->Read(WorkOn(*room));
+    if (purpose_ == Purpose::Restore && !snapshot_.beforehand.empty()) AddBeforehandRow(*room);
     room->firstRow = model_->rowCount();
     for (const RestoredSetting& restored : room->restoration->Settings()) AddRow(*room, restored);
   }
@@ -237,17 +238,27 @@ void RestoreDialog::AddRow(const Room& room, const RestoredSetting& restored) {
     setting = tr("%1: %2").arg(Wide(texts_.Tab(*restored.setting)),
                                Wide(texts_.Caption(*restored.setting)));
   }
+  const bool differs = restored.outcome == Outcome::Differs;
+  ShowOutcome(restored, AppendRow(room, setting, purpose_ == Purpose::Restore && differs));
+}
+
+// Some of it makes no sense without the rest, and none can be compared before it is its turn.
+void RestoreDialog::AddBeforehandRow(Room& room) {
+  room.beforehandRow = AppendRow(room, tr("Beforehand: other sources and modes"), true);
+  model_->item(*room.beforehandRow, kFile)
+      ->setText(tr("%1 settings").arg(static_cast<int>(snapshot_.beforehand.size())));
+  ShowBeforehand(*room.restoration, *room.beforehandRow);
+}
+
+int RestoreDialog::AppendRow(const Room& room, const QString& setting, bool isCheckable) {
   QList<QStandardItem*> row;
   for (const QString& text : {Wide(room.name), setting, QString(), QString(), QString()}) {
     row.append(new QStandardItem(text));
   }
-  const bool differs = restored.outcome == Outcome::Differs;
-  if (purpose_ == Purpose::Restore) {
-    row[kSetting]->setCheckable(differs);
-    if (differs) row[kSetting]->setCheckState(Qt::Checked);
-  }
+  row[kSetting]->setCheckable(isCheckable);
+  if (isCheckable) row[kSetting]->setCheckState(Qt::Checked);
   model_->appendRow(row);
-  ShowOutcome(restored, model_->rowCount() - 1);
+  return model_->rowCount() - 1;
 }
 
 void RestoreDialog::ShowOutcome(const RestoredSetting& restored, int row) {
@@ -261,12 +272,24 @@ void RestoreDialog::ShowOutcome(const RestoredSetting& restored, int row) {
   model_->item(row, kFile)
       ->setText(restored.setting != nullptr ? text(restored.saved.value)
                                             : Wide(restored.saved.text));
-  QString result = OutcomeText(restored.outcome);
-  if (restored.IsBeyondUndo()) {
-    result = tr("%1; the undo file does not bring back %2").arg(result, text(restored.before));
+  ShowResult(restored.outcome, row);
+}
+
+/// What is worst of it.
+void RestoreDialog::ShowBeforehand(const Restoration& restoration, int row) {
+  const auto& all = restoration.Beforehand();
+  Outcome worst = Outcome::AlreadySo;
+  for (const Outcome outcome :
+       {Outcome::Changed, Outcome::NotAllowed, Outcome::NotSettable, Outcome::Unknown,
+        Outcome::NotReached, Outcome::Differs, Outcome::Unconfirmed, Outcome::Refused}) {
+    if (std::ranges::find(all, outcome, &RestoredSetting::outcome) != all.end()) worst = outcome;
   }
-  model_->item(row, kResult)->setText(result);
-  model_->item(row, kResult)->setData(static_cast<int>(restored.outcome), kOutcomeRole);
+  ShowResult(worst, row);
+}
+
+void RestoreDialog::ShowResult(Outcome outcome, int row) {
+  model_->item(row, kResult)->setText(OutcomeText(outcome));
+  model_->item(row, kResult)->setData(static_cast<int>(outcome), kOutcomeRole);
 }
 
 QString RestoreDialog::OutcomeText(Outcome outcome) {
@@ -310,6 +333,13 @@ bool RestoreDialog::IsChecked(int row) const {
   return model_->item(row, kSetting)->checkState() == Qt::Checked;
 }
 
+void RestoreDialog::UncheckDone(int row) {
+  const auto outcome = static_cast<Outcome>(model_->item(row, kResult)->data(kOutcomeRole).toInt());
+  if (outcome == Outcome::Changed || outcome == Outcome::AlreadySo) {
+    model_->item(row, kSetting)->setCheckState(Qt::Unchecked);
+  }
+}
+
 // Reads once more what is checked: somebody may have changed it since.
 QString RestoreDialog::RestoreRoom(Room& room) {
   // A file may hold a setting for several input sources.
@@ -320,28 +350,24 @@ QString RestoreDialog::RestoreRoom(Room& room) {
     const int row = room.firstRow + static_cast<int>(i);
     if (IsChecked(row)) rows[idOf(known[i].saved)] = row;
   }
-  Restoration part(snapshot_, room.settings, room.connection,
+  Snapshot wanted = snapshot_;
+  if (!room.beforehandRow || !IsChecked(*room.beforehandRow)) wanted.beforehand.clear();
+  Restoration part(wanted, room.settings, room.connection,
                    [&](const SavedSetting& saved) { return rows.contains(idOf(saved)); });
   const Progress progress = WorkOn(room);
   part.Read(progress);
-  QString error;
-  if (part.Count(Outcome::Differs) > 0 && progress.goesOn()) {
-    const auto undoBytes = [&] { return WriteSnapshot(part.Undo(room.name, texts_)); };
-    const NewFile undo = WriteNewFile(UndoPath(file_, {}, room.name), undoBytes());
-    if (!undo.error.isEmpty()) return tr("%1; nothing was sent").arg(undo.error);
-    part.Send(texts_, progress, [&] {
-      error = WriteWholeFile(undo.path, undoBytes());
-      return error.isEmpty();
-    });
+  UndoFile undo(file_, {}, room.name);
+  part.Send(texts_, progress, [&] { return undo.Keep(part.Undo(room.name, texts_)); });
+  if (!wanted.beforehand.empty()) {
+    ShowBeforehand(part, *room.beforehandRow);
+    UncheckDone(*room.beforehandRow);
   }
   for (const RestoredSetting& restored : part.Settings()) {
     const int row = rows.at(idOf(restored.saved));
     ShowOutcome(restored, row);
-    if (restored.outcome == Outcome::Changed || restored.outcome == Outcome::AlreadySo) {
-      model_->item(row, kSetting)->setCheckState(Qt::Unchecked);
-    }
+    UncheckDone(row);
   }
-  return error.isEmpty() ? error : tr("%1; the rest was not sent").arg(error);
+  return undo.Error();
 }
 
 void RestoreDialog::ShowSummary() {

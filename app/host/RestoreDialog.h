@@ -49,9 +49,14 @@ class RestoreDialog : public QDialog {
 
   static QString OutcomeText(Outcome outcome);
   void Lay();
+  void AddBeforehandRow(Room& room);
   void AddRow(const Room& room, const RestoredSetting& restored);
+  int AppendRow(const Room& room, const QString& setting, bool isCheckable);
   void ShowOutcome(const RestoredSetting& restored, int row);
+  void ShowBeforehand(const Restoration& restoration, int row);
+  void ShowResult(Outcome outcome, int row);
   bool IsChecked(int row) const;
+  void UncheckDone(int row);
   QString RestoreRoom(Room& room);
   void ShowSummary();
   Progress WorkOn(Room& room);

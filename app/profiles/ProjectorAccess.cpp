@@ -1,11 +1,18 @@
 #include "app/profiles/ProjectorAccess.h"
 
+#include <algorithm>
 #include <thread>
 #include <utility>
 
 #include "device/ModelDataIntake.h"
 
 namespace {
+
+using Clock = std::chrono::steady_clock;
+
+std::chrono::milliseconds Since(Clock::time_point time) {
+  return std::chrono::ceil<std::chrono::milliseconds>(Clock::now() - time);
+}
 
 /// Whether sending it twice comes to the same as once. A step does not.
 bool IsRepeatable(PjtOperation operation) {
@@ -31,10 +38,21 @@ PjtReply PatientChannel::Execute(const PjtCommand& command) {
   PjtReply reply{.result = RefusedResult(command.operation), .answered = false};
   const bool repeats = everAnswered_ && IsRepeatable(command.operation);
   const int attempts = repeats ? kAttempts : 1;
+  const auto begin = Clock::now();
+  auto asked = begin;
   for (int attempt = 0; attempt < attempts && !gone_; ++attempt) {
-    if (attempt > 0) std::this_thread::sleep_for(kPause);
+    if (attempt > 0) std::this_thread::sleep_until(asked + kPause);
+    const auto left = timeOut_ - Since(begin);
+    if (left <= left.zero()) break;
+    const bool isPaceKnown = slowest_ > slowest_.zero();
+    inner_->GiveUpAfter(repeats && isPaceKnown
+                            ? std::min(left, std::max(timeOut_ / kAttempts, 2 * slowest_))
+                            : left);
+    asked = Clock::now();
     reply = inner_->Execute(command);
-    if (reply.answered) break;
+    if (!reply.answered) continue;
+    slowest_ = std::max(slowest_, Since(asked));
+    break;
   }
   answered_ = reply.answered;
   // A step that got lost says nothing yet: the next command does.
@@ -44,12 +62,13 @@ PjtReply PatientChannel::Execute(const PjtCommand& command) {
 }
 
 ProjectorAccess::ProjectorAccess(const ProjectorProfile& profile,
-                                 std::shared_ptr<ProjectorChannel> channel)
+                                 std::shared_ptr<ProjectorChannel> channel,
+                                 std::chrono::milliseconds timeOut)
     : name_(profile.Name),
       model_(profile.Model),
       settings_(MakeModelData(model_)),
       pjLink_(std::dynamic_pointer_cast<PjLinkChannel>(channel)),
-      channel_(std::make_shared<PatientChannel>(std::move(channel))) {
+      channel_(std::make_shared<PatientChannel>(std::move(channel), timeOut)) {
   connection_.SetChannel(channel_);
 }
 

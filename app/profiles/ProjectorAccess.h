@@ -15,13 +15,18 @@ SimulatedModel SimulatedModelOf(const ProjectorProfile& profile);
 
 /// Asks again where an answer got lost, and knows when a projector is gone: one that has never
 /// answered is after the first command, any other after the last repetition. Then every command is
-/// unanswered at once, so that a dead projector costs one time-out and not one per command.
+/// unanswered at once. So a dead projector costs one time-out and not one per command: repetitions
+/// begin only within it, and a command is given up early for another one to have its share, but not
+/// before twice the time that the slowest answer took.
 class PatientChannel : public ProjectorChannel {
  public:
   static constexpr int kAttempts = 3;
-  static constexpr std::chrono::milliseconds kPause{50};
+  static constexpr std::chrono::milliseconds kPause{50};  ///< At least, from one to the next.
 
-  explicit PatientChannel(std::shared_ptr<ProjectorChannel> inner) : inner_(std::move(inner)) {}
+  PatientChannel(std::shared_ptr<ProjectorChannel> inner, std::chrono::milliseconds timeOut)
+      : inner_(std::move(inner)),
+        timeOut_(timeOut),
+        everAnswered_(inner_->Connection() == ConnectionState::Connected) {}
 
   PjtReply Execute(const PjtCommand& command) override;
   void Announce(std::span<const PjtCommand> reads) override { inner_->Announce(reads); }
@@ -33,7 +38,9 @@ class PatientChannel : public ProjectorChannel {
 
  private:
   std::shared_ptr<ProjectorChannel> inner_;
-  bool everAnswered_ = false;
+  const std::chrono::milliseconds timeOut_;
+  std::chrono::milliseconds slowest_{0};
+  bool everAnswered_;
   bool answered_ = true;
   bool gone_ = false;
 };
@@ -41,7 +48,9 @@ class PatientChannel : public ProjectorChannel {
 /// A projector of a profile file as a program without a window uses it. One thread at a time.
 class ProjectorAccess {
  public:
-  ProjectorAccess(const ProjectorProfile& profile, std::shared_ptr<ProjectorChannel> channel);
+  /// `timeOut` is that of the channel, for one answer.
+  ProjectorAccess(const ProjectorProfile& profile, std::shared_ptr<ProjectorChannel> channel,
+                  std::chrono::milliseconds timeOut = std::chrono::seconds(2));
 
   /// Asks a PJLink projector for its inputs where the profile names none. One that is silent costs
   /// one time-out, and is gone then.

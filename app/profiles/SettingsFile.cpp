@@ -8,6 +8,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include "app/profiles/WholeFile.h"
+
 SnapshotContents ReadSettingsFile(const QString& path) {
   QFile file(path);
   const bool isOpen = path == "-" ? file.open(stdin, QIODevice::ReadOnly)  //
@@ -31,10 +33,29 @@ QString FileNameOf(const std::string& projector) {
   return name;
 }
 
-QString UndoPath(const QString& file, const QString& folder, const std::string& projector) {
+UndoFile::UndoFile(const QString& file, const QString& folder, const std::string& projector) {
   const QFileInfo info(file);
   const QDir place(folder.isEmpty() ? info.path() : folder);
   const QString base = file == "-" ? QString() : info.completeBaseName() + '.';
   const QString time = QDateTime::currentDateTimeUtc().toString("yyyyMMdd'T'HHmmss'Z'");
-  return place.filePath(base + QStringLiteral("undo.%1.%2.json").arg(FileNameOf(projector), time));
+  path_ = place.filePath(base + QStringLiteral("undo.%1.%2.json").arg(FileNameOf(projector), time));
+}
+
+bool UndoFile::Keep(const Snapshot& undo) {
+  const QByteArray bytes = WriteSnapshot(undo);
+  if (isThere_) {
+    error_ = WriteWholeFile(path_, bytes);
+  } else {
+    const NewFile made = WriteNewFile(path_, bytes);
+    error_ = made.error;
+    isThere_ = error_.isEmpty();
+    if (isThere_) path_ = made.path;
+  }
+  return error_.isEmpty();
+}
+
+QString UndoFile::Error() const {
+  if (error_.isEmpty()) return {};
+  return isThere_ ? QCoreApplication::translate("SettingsFile", "%1; no more was sent").arg(error_)
+                  : QCoreApplication::translate("SettingsFile", "%1; nothing was sent").arg(error_);
 }

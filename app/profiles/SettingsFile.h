@@ -10,6 +10,23 @@ SnapshotContents ReadSettingsFile(const QString& path);
 /// A projector's name as part of a file's name. Several projectors may have the same.
 QString FileNameOf(const std::string& projector);
 
-/// Where the values that a restored file replaces are kept, for `WriteNewFile`, so that no other
-/// one is lost. Beside `file` where `folder` is empty.
-QString UndoPath(const QString& file, const QString& folder, const std::string& projector);
+/// The file that keeps the values that a restored one replaces: a new one, so that no other is
+/// lost.
+class UndoFile {
+ public:
+  /// Beside `file` where `folder` is empty.
+  UndoFile(const QString& file, const QString& folder, const std::string& projector);
+
+  /// Whether the file now holds this; where it cannot, it holds what it held before.
+  bool Keep(const Snapshot& undo);
+
+  /// Empty while nothing is kept.
+  QString Path() const { return isThere_ ? path_ : QString(); }
+  /// One line on what could not be kept; empty when all is well.
+  QString Error() const;
+
+ private:
+  QString path_;
+  QString error_;
+  bool isThere_ = false;
+};

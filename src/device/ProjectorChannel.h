@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <span>
 
@@ -38,6 +39,10 @@ class ADVANCED_CONTROL_EXPORT ProjectorChannel {
   /// Says which reads are about to be executed, in this order, so that a channel may ask for all of
   /// them at once. Binds nobody: any command may follow. Replaces what was announced before.
   virtual void Announce(std::span<const PjtCommand>) {}
+
+  /// Each command that follows is given up after this time, where the channel can do so, and after
+  /// the channel's own time at the latest.
+  virtual void GiveUpAfter(std::chrono::milliseconds) {}
 
   /// Nobody waits for the projector any more, nor for what was announced. An `Execute` that lets an
   /// event loop run ends at once, unanswered; the reply to its command is dropped. A channel that

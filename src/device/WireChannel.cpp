@@ -39,6 +39,7 @@ PjtReply WireChannel::Execute(const PjtCommand& command) {
   } else if (Clock::now() - lastAsked_ > limits_.answer) {
     sent_.clear();  // what came during a pause may be as old as that
   }
+  if (longest_) giveUpAt_ = Clock::now() + *longest_;
   const auto ask = [&] { return Connect() ? Ask(command) : std::nullopt; };
   auto reply = ask();
   // It forgot us, as after a restart, and did nothing: so once more, from the hello on.
@@ -63,6 +64,10 @@ void WireChannel::Announce(std::span<const PjtCommand> reads) {
   std::ranges::copy_if(reads, std::back_inserter(announced_), IsRead, &PjtCommand::operation);
 }
 
+QDeadlineTimer WireChannel::Within(std::chrono::milliseconds time) const {
+  return QDeadlineTimer(std::min<Clock::time_point>(Clock::now() + time, giveUpAt_));
+}
+
 bool WireChannel::Connect() {
   // Late replies may lie there, or the end of the connection.
   for (int i = 0; line_ && i < kIdlePieces; ++i) {
@@ -74,7 +79,7 @@ bool WireChannel::Connect() {
   decoder_ = {};
   welcome_.reset();
   state_ = ConnectionState::Connecting;
-  welcomeBy_ = Clock::now() + limits_.connect;
+  welcomeBy_ = std::min<Clock::time_point>(Clock::now() + limits_.connect, giveUpAt_);
   const QDeadlineTimer deadline(welcomeBy_);
   auto problem = ConnectionState::NotReachable;
   line_ = Open(deadline, problem);
@@ -108,12 +113,12 @@ std::optional<Wire::Reply> WireChannel::Ask(const PjtCommand& command) {
       Send({&*announced, count});
       announced_.erase(announced_.begin(), announced + static_cast<std::ptrdiff_t>(count));
     }
-    if (!Write(QDeadlineTimer(limits_.answer)) || !AwaitWelcome()) return std::nullopt;
+    if (!Write(Within(limits_.answer)) || !AwaitWelcome()) return std::nullopt;
     own = sent_.begin();
   }
   sent_.erase(sent_.begin(), own);  // passed over
   const auto answered = [this] { return sent_.front().reply.has_value(); };
-  if (!Await(answered, QDeadlineTimer(limits_.answer))) return std::nullopt;
+  if (!Await(answered, Within(limits_.answer))) return std::nullopt;
   const auto reply = sent_.front().reply;
   sent_.pop_front();
   if (IsForgotten(reply)) Fail(ConnectionState::Lost);

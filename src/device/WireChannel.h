@@ -43,6 +43,8 @@ class ADVANCED_CONTROL_EXPORT WireChannel : public ProjectorChannel {
   /// than the time for answering; that time counts anew for each.
   void Announce(std::span<const PjtCommand> reads) override;
 
+  void GiveUpAfter(std::chrono::milliseconds time) override { longest_ = time; }
+
   ConnectionState Connection() const override { return state_; }
 
  protected:
@@ -68,6 +70,8 @@ class ADVANCED_CONTROL_EXPORT WireChannel : public ProjectorChannel {
   };
   enum class Arrival { Bytes, Late, Broken, Strange };
 
+  /// From now on, but not longer than the command may take.
+  QDeadlineTimer Within(std::chrono::milliseconds time) const;
   bool Connect();
   bool AwaitWelcome();
   std::optional<Wire::Reply> Ask(const PjtCommand& command);
@@ -88,6 +92,8 @@ class ADVANCED_CONTROL_EXPORT WireChannel : public ProjectorChannel {
   std::uint16_t hello_ = 0;  ///< The sequence number of ours.
   std::optional<Wire::Welcome> welcome_;
   std::chrono::steady_clock::time_point welcomeBy_{};
+  std::optional<std::chrono::milliseconds> longest_;  ///< For a command.
+  std::chrono::steady_clock::time_point giveUpAt_ = std::chrono::steady_clock::time_point::max();
   std::string unsent_;                 ///< Goes out with the next write.
   std::vector<PjtCommand> announced_;  ///< Not sent yet.
   std::deque<Sent> sent_;

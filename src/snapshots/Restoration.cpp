@@ -1,6 +1,7 @@
 #include "snapshots/Restoration.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -19,15 +20,36 @@ Outcome Judge(const ModelSetting* setting, int value) {
   return setting->Allows(value) ? Outcome::NotReached : Outcome::NotAllowed;
 }
 
+/// What of the others depends on it is not known for one that the model does not have.
+bool IsNumber(const RestoredSetting& restored) {
+  return restored.setting != nullptr && RankOf(*restored.setting) == Rank::Number;
+}
+
+bool IsSame(const SavedSetting& one, const SavedSetting& other) {
+  return one.key == other.key && one.source == other.source;
+}
+
 }  // namespace
+
+/// How everything is sent.
+struct Restoration::Way {
+  const SettingTexts& texts;
+  const Progress& progress;
+  const std::function<bool()>& keepUndo;
+};
 
 Restoration::Restoration(const Snapshot& snapshot, const ModelSettings& model,
                          CPjtInterface& connection, const Filter& filter)
     : model_(model), connection_(connection) {
-  for (const SavedSetting& saved : snapshot.settings) {
-    if (!filter(saved)) continue;
+  const auto restored = [&model](const SavedSetting& saved, bool isBeforehand) {
     const ModelSetting* const setting = model.Find(saved.key);
-    settings_.push_back({saved, setting, Judge(setting, saved.value)});
+    return RestoredSetting{saved, setting, isBeforehand, Judge(setting, saved.value)};
+  };
+  for (const SavedSetting& saved : snapshot.beforehand) {
+    beforehand_.push_back(restored(saved, true));
+  }
+  for (const SavedSetting& saved : snapshot.settings) {
+    if (filter(saved)) settings_.push_back(restored(saved, false));
   }
 }
 
@@ -54,9 +76,14 @@ void Restoration::Read(const Progress& progress) {
        progress);
 }
 
+// What was read since the last was sent is not read again.
 void Restoration::Read(const Group& group, const Progress& progress) {
-  Announce(group);
-  for (RestoredSetting* restored : group) {
+  Group stale;
+  std::ranges::copy_if(group, std::back_inserter(stale), [this](const RestoredSetting* restored) {
+    return restored->asOf != turns_;
+  });
+  Announce(stale);
+  for (RestoredSetting* restored : stale) {
     if (progress.goesOn()) {
       Read(*restored, progress);
     } else if (restored->outcome == Outcome::AlreadySo) {
@@ -76,40 +103,93 @@ void Restoration::Read(RestoredSetting& restored, const Progress& progress) {
   } else {
     const bool same = *restored.before == restored.saved.value;
     restored.outcome = same ? Outcome::AlreadySo : Outcome::Differs;
+    restored.asOf = turns_;
   }
   progress.step();
 }
 
 void Restoration::Send(const SettingTexts& texts, const Progress& progress,
                        const std::function<bool()>& keepUndo) {
+  bool isKept = true;
+  const std::function<bool()> keep = [&] { return isKept = isKept && keepUndo(); };
+  const Progress careful{.goesOn = [&] { return isKept && progress.goesOn(); },
+                         .step = progress.step};
+  const Way way{texts, careful, keep};
+  SendBeforehand(way);
+  Confirm(SendSettings(way), careful);
+  if (turns_ > 0) keep();
+}
+
+// A source or mode is alone; numbers that follow each other are read and sent together.
+void Restoration::SendBeforehand(const Way& way) {
+  for (auto next = beforehand_.begin(); next != beforehand_.end() && way.progress.goesOn();) {
+    RestoredSetting& front = *next;
+    Group group;
+    do {
+      if (next->outcome == Outcome::NotReached) group.push_back(&*next);
+      ++next;
+    } while (IsNumber(front) && next != beforehand_.end() && IsNumber(*next) &&
+             std::ranges::none_of(group, [next](const RestoredSetting* earlier) {
+               return IsSame(earlier->saved, next->saved);
+             }));
+    Read(group, way.progress);
+    Confirm(SendTogether(group, way), way.progress);
+    const bool isSo = front.outcome == Outcome::AlreadySo || front.outcome == Outcome::Changed;
+    if (!IsNumber(front) && !isSo) return;
+  }
+}
+
+Restoration::Group Restoration::SendSettings(const Way& way) {
   Group sent;
-  for (const Rank rank : {Rank::Source, Rank::Choice, Rank::Number}) {
+  const auto send = [&](const Group& group) {
+    const Group now = SendTogether(group, way);
+    sent.insert(sent.end(), now.begin(), now.end());
+  };
+  // Of the choices some may be modes that others depend on, which were so already.
+  for (const Rank rank : {Rank::Source, Rank::Choice, Rank::Choice, Rank::Number}) {
     const Group group = Those([rank](const RestoredSetting& restored) {
       const bool wasRead =
           restored.outcome == Outcome::AlreadySo || restored.outcome == Outcome::Differs;
       return wasRead && RankOf(*restored.setting) == rank;
     });
-    if (!sent.empty()) Read(group, progress);
-    const bool moreDiffers = std::ranges::any_of(group, [](const RestoredSetting* restored) {
-      return restored->outcome == Outcome::Differs && restored->first == restored->saved.value;
-    });
-    if (moreDiffers && progress.goesOn() && !keepUndo()) break;
+    Read(group, way.progress);
+    if (rank == Rank::Number) {
+      send(group);
+      continue;
+    }
     for (RestoredSetting* restored : group) {
-      if (restored->outcome != Outcome::Differs || !progress.goesOn()) continue;
-      Send(*restored, texts, progress);
-      sent.push_back(restored);
+      if (restored->outcome != Outcome::Differs) continue;
+      Read(Group{restored}, way.progress);
+      send({restored});
     }
   }
-  Confirm(sent, progress);
+  return sent;
 }
 
-void Restoration::Send(RestoredSetting& restored, const SettingTexts& texts,
-                       const Progress& progress) {
-  const int value = restored.saved.value;
-  model_.Change(connection_, *restored.setting, value,
-                {texts.Value(*restored.setting, value), restored.saved.source, progress.goesOn});
-  restored.outcome = Outcome::Unconfirmed;
-  progress.step();
+/// Sends what differs of settings that do not depend on each other, and returns what was sent.
+Restoration::Group Restoration::SendTogether(const Group& group, const Way& way) {
+  Group differing;
+  std::ranges::copy_if(group, std::back_inserter(differing), [](const RestoredSetting* restored) {
+    return restored->outcome == Outcome::Differs;
+  });
+  if (differing.empty() || !way.progress.goesOn()) return {};
+  for (RestoredSetting* restored : differing) restored->turn = ++turns_;
+  way.keepUndo();
+  Group sent;
+  for (RestoredSetting* restored : differing) {
+    if (!way.progress.goesOn()) {
+      restored->turn = 0;
+      continue;
+    }
+    const SavedSetting& saved = restored->saved;
+    model_.Change(
+        connection_, *restored->setting, saved.value,
+        {way.texts.Value(*restored->setting, saved.value), saved.source, way.progress.goesOn});
+    restored->outcome = Outcome::Unconfirmed;
+    sent.push_back(restored);
+    way.progress.step();
+  }
+  return sent;
 }
 
 // Whatever a setter answers, the value read afterwards is what the projector has. Also after an
@@ -127,19 +207,51 @@ void Restoration::Confirm(const Group& sent, const Progress& progress) {
 }
 
 int Restoration::Count(Outcome outcome) const {
-  return static_cast<int>(std::ranges::count(settings_, outcome, &RestoredSetting::outcome));
+  return static_cast<int>(std::ranges::count(beforehand_, outcome, &RestoredSetting::outcome) +
+                          std::ranges::count(settings_, outcome, &RestoredSetting::outcome));
+}
+
+/// What was told, or is just going to be, in that order.
+std::vector<const RestoredSetting*> Restoration::Told() const {
+  std::vector<const RestoredSetting*> told;
+  for (const auto* list : {&beforehand_, &settings_}) {
+    for (const RestoredSetting& restored : *list) {
+      if (restored.turn > 0) told.push_back(&restored);
+    }
+  }
+  std::ranges::sort(told, {}, &RestoredSetting::turn);
+  return told;
 }
 
 Snapshot Restoration::Undo(const std::string& projector, const SettingTexts& texts) const {
   Snapshot snapshot = EmptySnapshot(projector, model_.Model());
+  const auto add = [&](std::vector<SavedSetting>& list, const RestoredSetting& restored,
+                       int value) {
+    list.push_back(
+        {restored.saved.key, value, texts.Value(*restored.setting, value), restored.saved.source});
+  };
   for (const RestoredSetting& restored : settings_) {
     if (!restored.first) continue;
     const bool isUntouched =
         restored.outcome == Outcome::AlreadySo || restored.outcome == Outcome::NotReached;
     if (isUntouched && restored.first == restored.saved.value) continue;
-    snapshot.settings.push_back({restored.saved.key, *restored.first,
-                                 texts.Value(*restored.setting, *restored.first),
-                                 restored.saved.source});
+    add(snapshot.settings, restored, *restored.first);
+  }
+  const auto told = Told();
+  const auto first = std::ranges::find_if_not(
+      told, [](const RestoredSetting* restored) { return IsNumber(*restored); });
+  const bool isAllAtFirst = first == told.end() || std::next(first) == told.end();
+  if (isAllAtFirst && beforehand_.empty()) return snapshot;
+  // Somebody may choose another source or mode meanwhile. What a choice is under the modes that
+  // were set after it is known only once it was read back.
+  for (const RestoredSetting* restored : told) {
+    if (restored->isBeforehand || IsNumber(*restored)) continue;
+    if (restored->now || restored->setting->SelectsInput()) {
+      add(snapshot.beforehand, *restored, restored->now.value_or(restored->saved.value));
+    }
+  }
+  for (auto last = told.rbegin(); last != told.rend(); ++last) {
+    add(snapshot.beforehand, **last, *(*last)->before);
   }
   return snapshot;
 }

@@ -24,17 +24,13 @@ enum class Outcome : std::uint8_t {
 struct RestoredSetting {
   SavedSetting saved;
   const ModelSetting* setting = nullptr;  ///< Null for one that the model does not have.
+  bool isBeforehand = false;
   Outcome outcome = Outcome::NotReached;
   std::optional<int> first{};   ///< What the projector had at first, where it told it.
   std::optional<int> before{};  ///< What it had last before it was told.
   std::optional<int> now{};     ///< What it has after being told.
-
-  /// Whether `before` was replaced though it came only with a source or mode that was told before:
-  /// no undo brings it back.
-  bool IsBeyondUndo() const {
-    const bool isReplaced = outcome == Outcome::Unconfirmed || (now && now != before);
-    return isReplaced && before != first;
-  }
+  int turn = 0;   ///< Its place among all that are told, from 1 on; 0 for one that is not.
+  int asOf = -1;  ///< How many had been told when `before` was read.
 };
 
 /// Puts the settings of a snapshot back on a projector, of the same model or another. First `Read`,
@@ -51,33 +47,44 @@ class Restoration {
 
   /// Reads the projector and tells what differs.
   void Read(const Progress& progress = {});
-  /// Sends what differs, what others depend on first, and reads it back; texts are for connections
-  /// that are told them. What was sent may make more differ: then `keepUndo` is called before that
-  /// is sent, as `Undo` has become more. Where it says no, no more is sent.
+  /// Sends the snapshot's `beforehand`, in its order and up to a source or mode that cannot be set;
+  /// then what differs, what others depend on first; and reads it back. Texts are for connections
+  /// that are told them. `keepUndo` is called whenever `Undo` has become more, before that is sent,
+  /// and once more when all is known: where it says no, no more is sent.
   void Send(
       const SettingTexts& texts, const Progress& progress = {},
       const std::function<bool()>& keepUndo = [] { return true; });
 
   /// In the snapshot's order.
   const std::vector<RestoredSetting>& Settings() const { return settings_; }
+  /// The snapshot's `beforehand`; not reached before `Send`.
+  const std::vector<RestoredSetting>& Beforehand() const { return beforehand_; }
+  /// How many of both have come to this.
   int Count(Outcome outcome) const;
 
-  /// What the projector had at first of everything that differs or differed: restoring this undoes
-  /// `Send`, but for what is beyond that.
+  /// What the projector had at first of everything that differs or differed; and beforehand, from
+  /// the last one back, what each replaced that was sent under a new source or mode. Restoring this
+  /// undoes `Send`.
   Snapshot Undo(const std::string& projector, const SettingTexts& texts) const;
 
  private:
   using Group = std::vector<RestoredSetting*>;
+  struct Way;
 
   /// Those that fit, in the snapshot's order.
   Group Those(const std::function<bool(const RestoredSetting&)>& fit);
   void Announce(const Group& group);
   void Read(const Group& group, const Progress& progress);
   void Read(RestoredSetting& restored, const Progress& progress);
-  void Send(RestoredSetting& restored, const SettingTexts& texts, const Progress& progress);
+  void SendBeforehand(const Way& way);
+  Group SendSettings(const Way& way);
+  Group SendTogether(const Group& group, const Way& way);
   void Confirm(const Group& sent, const Progress& progress);
+  std::vector<const RestoredSetting*> Told() const;
 
   const ModelSettings& model_;
   CPjtInterface& connection_;
+  std::vector<RestoredSetting> beforehand_;
   std::vector<RestoredSetting> settings_;
+  int turns_ = 0;
 };

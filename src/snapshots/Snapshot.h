@@ -27,6 +27,9 @@ struct Snapshot {
   int modelCode = 0;
   std::string time;  ///< ISO 8601, UTC.
   std::vector<SavedSetting> settings;
+  /// Put back before all others and one after another, so that a setting may stand here several
+  /// times: what other sources and modes kept for themselves.
+  std::vector<SavedSetting> beforehand{};
 
   friend bool operator==(const Snapshot&, const Snapshot&) = default;
 };

@@ -56,6 +56,28 @@ QJsonObject Object(const QJsonValue& value, const QString& place) {
   return value.toObject();
 }
 
+std::vector<SavedSetting> Settings(const QJsonObject& file, const QString& member) {
+  if (!file[member].isArray()) {
+    throw WrongSnapshot{member + ": " + WrongSnapshot::tr("must be an array")};
+  }
+  const QJsonArray array = file[member].toArray();
+  if (array.size() > kMaximumSettings) {
+    throw WrongSnapshot{member + ": " +
+                        WrongSnapshot::tr("has more than %1 entries").arg(kMaximumSettings)};
+  }
+  std::vector<SavedSetting> settings;
+  for (int i = 0; i < array.size(); ++i) {
+    const QString place = QStringLiteral("%1[%2].").arg(member).arg(i);
+    const QJsonObject entry = Object(array[i], place.chopped(1));
+    SavedSetting& setting = settings.emplace_back();
+    setting.key = Text(entry, "key", place);
+    setting.value = Integer(entry, "value", place);
+    setting.text = entry["text"].toString().toStdString();
+    if (entry.contains("source")) setting.source = Integer(entry, "source", place);
+  }
+  return settings;
+}
+
 Snapshot Parse(const QJsonObject& file) {
   if (file["format"].toString() != QLatin1String(kFormat)) {
     throw WrongSnapshot{WrongSnapshot::tr("this is no file of saved settings")};
@@ -70,48 +92,42 @@ Snapshot Parse(const QJsonObject& file) {
                     .modelCode = Integer(model, "modelCode", "model."),
                     .time = file["time"].toString().toStdString(),
                     .settings = {}};
-  if (!file["settings"].isArray())
-    throw WrongSnapshot{"settings: " + WrongSnapshot::tr("must be an array")};
-  const QJsonArray settings = file["settings"].toArray();
-  if (settings.size() > kMaximumSettings) {
-    throw WrongSnapshot{"settings: " +
-                        WrongSnapshot::tr("has more than %1 entries").arg(kMaximumSettings)};
-  }
+  snapshot.settings = Settings(file, "settings");
+  if (file.contains("beforehand")) snapshot.beforehand = Settings(file, "beforehand");
   std::set<std::pair<std::string, std::optional<int>>> keys;
-  for (int i = 0; i < settings.size(); ++i) {
-    const QString place = QStringLiteral("settings[%1].").arg(i);
-    const QJsonObject entry = Object(settings[i], place.chopped(1));
-    const std::string key = Text(entry, "key", place);
-    std::optional<int> source;
-    if (entry.contains("source")) source = Integer(entry, "source", place);
-    if (!keys.emplace(key, source).second) {
-      throw WrongSnapshot{place +
-                          "key: " + WrongSnapshot::tr("\"%1\" stands here twice").arg(Wide(key))};
+  for (std::size_t i = 0; i < snapshot.settings.size(); ++i) {
+    const SavedSetting& setting = snapshot.settings[i];
+    if (!keys.emplace(setting.key, setting.source).second) {
+      throw WrongSnapshot{QStringLiteral("settings[%1].key: ").arg(i) +
+                          WrongSnapshot::tr("\"%1\" stands here twice").arg(Wide(setting.key))};
     }
-    snapshot.settings.push_back(
-        {key, Integer(entry, "value", place), entry["text"].toString().toStdString(), source});
   }
   return snapshot;
+}
+
+QJsonArray ToJson(const std::vector<SavedSetting>& settings) {
+  QJsonArray array;
+  for (const SavedSetting& setting : settings) {
+    QJsonObject entry{
+        {"key", Wide(setting.key)}, {"value", setting.value}, {"text", Wide(setting.text)}};
+    if (setting.source) entry["source"] = *setting.source;
+    array.append(entry);
+  }
+  return array;
 }
 
 }  // namespace
 
 QByteArray WriteSnapshot(const Snapshot& snapshot) {
-  QJsonArray settings;
-  for (const SavedSetting& setting : snapshot.settings) {
-    QJsonObject entry{
-        {"key", Wide(setting.key)}, {"value", setting.value}, {"text", Wide(setting.text)}};
-    if (setting.source) entry["source"] = *setting.source;
-    settings.append(entry);
-  }
-  const QJsonObject file{{"format", kFormat},
-                         {"version", kVersion},
-                         {"projector", Wide(snapshot.projector)},
-                         {"model", QJsonObject{{"name", Wide(snapshot.model)},
-                                               {"dialogType", snapshot.dialogType},
-                                               {"modelCode", snapshot.modelCode}}},
-                         {"time", Wide(snapshot.time)},
-                         {"settings", settings}};
+  QJsonObject file{{"format", kFormat},
+                   {"version", kVersion},
+                   {"projector", Wide(snapshot.projector)},
+                   {"model", QJsonObject{{"name", Wide(snapshot.model)},
+                                         {"dialogType", snapshot.dialogType},
+                                         {"modelCode", snapshot.modelCode}}},
+                   {"time", Wide(snapshot.time)},
+                   {"settings", ToJson(snapshot.settings)}};
+  if (!snapshot.beforehand.empty()) file["beforehand"] = ToJson(snapshot.beforehand);
   return QJsonDocument(file).toJson();
 }
 

@@ -14,6 +14,7 @@
 namespace {
 
 constexpr int kSettingColumn = 1, kResultColumn = 4;
+const QString kBeforehand = "Beforehand: other sources and modes";
 
 /// Two projectors of one model, and a file of the first one's settings.
 struct Rooms {
@@ -50,24 +51,30 @@ TEST(SettingsActions, PutsBackWhatIsCheckedOnEveryProjector) {
   rooms.Projector(0).SetValue(SettingId::Brightness, 135);
   rooms.Projector(1).SetValue(SettingId::Contrast, 120);
   rooms.Projector(1).SetValue(SettingId::Tint, 120);
-  RestoreDialog dialog(RestoreDialog::Purpose::Restore, ReadSettingsFile(rooms.file).snapshot,
-                       rooms.file, rooms.sessions);
+  Snapshot snapshot = ReadSettingsFile(rooms.file).snapshot;
+  snapshot.beforehand = {{"picture.sharpness", 129, ""}};
+  RestoreDialog dialog(RestoreDialog::Purpose::Restore, snapshot, rooms.file, rooms.sessions);
   dialog.show();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Column(dialog, kSettingColumn).size() >= 3; }));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Column(dialog, kSettingColumn).size() >= 5; }));
   EXPECT_EQ(Column(dialog, kSettingColumn),
-            QStringList({"Picture: Brightness", "Picture: Contrast", "Picture: Tint"}));
-  EXPECT_EQ(Column(dialog, 2), QStringList({"7", "-8", "-8"}));
-  EXPECT_EQ(Column(dialog, 3), QStringList({"0", "0", "0"}));
+            QStringList({kBeforehand, "Picture: Brightness", kBeforehand, "Picture: Contrast",
+                         "Picture: Tint"}));
+  EXPECT_EQ(Column(dialog, 2), QStringList({"", "7", "", "-8", "-8"}));
+  EXPECT_EQ(Column(dialog, 3), QStringList({"1 settings", "0", "1 settings", "0", "0"}));
 
   QAbstractItemModel& model = *dialog.findChild<QTreeView*>()->model();
+  model.setData(model.index(2, kSettingColumn), Qt::Unchecked, Qt::CheckStateRole);
   QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
   EXPECT_TRUE(dialog.isVisible());
   auto* table = dialog.findChild<QTreeView*>();
   for (const auto key : {Qt::Key_Home, Qt::Key_End, Qt::Key_Space}) QTest::keyClick(table, key);
-  EXPECT_EQ(model.index(2, kSettingColumn).data(Qt::CheckStateRole), Qt::Unchecked);
+  EXPECT_EQ(model.index(4, kSettingColumn).data(Qt::CheckStateRole), Qt::Unchecked);
   rooms.sessions[1]->SetFault(PjtOperation::SetContrast, {.kind = Fault::Kind::DropOut});
   dialog.Restore();
-  EXPECT_EQ(Column(dialog, kResultColumn), QStringList({"changed", "changed", "different"}));
+  EXPECT_EQ(Column(dialog, kResultColumn),
+            QStringList({"changed", "changed", "not read", "changed", "different"}));
+  EXPECT_EQ(rooms.Projector(0).Value(SettingId::Sharpness), 129);
+  EXPECT_EQ(rooms.Projector(1).Value(SettingId::Sharpness), 128);
   EXPECT_EQ(rooms.Projector(0).Value(SettingId::Brightness), 128);
   EXPECT_EQ(rooms.Projector(1).Value(SettingId::Contrast), 128);
   EXPECT_EQ(rooms.Projector(1).Value(SettingId::Tint), 120);

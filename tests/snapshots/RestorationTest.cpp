@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <gmock/gmock.h>
+#include <map>
 #include <random>
 #include <thread>
 
@@ -10,7 +11,6 @@
 #include <gtest/gtest.h>
 
 #include "app/profiles/ProjectorAccess.h"
-#include "device/CommandCode.h"
 #include "device/TcpChannel.h"
 #include "i18n/SystemLanguage.h"
 #include "simulator/WireResponder.h"
@@ -35,6 +35,43 @@ const ProjectorProfile& Profile(std::string_view name) {
   return *std::ranges::find(Profiles(), name, &ProjectorProfile::Name);
 }
 
+/// What a projector keeps for each of its sources, or for each of these and its modes.
+struct Memory {
+  using Values = std::vector<int>;
+
+  /// What belongs to the source or mode that was set since comes back.
+  void Follow(SimulatedProjector& projector) {
+    const auto read = [&projector](const std::vector<SettingId>& which) {
+      Values values;
+      for (const SettingId id : which) values.push_back(projector.Value(id));
+      return values;
+    };
+    const Values now = read(selectors);
+    if (now != present && !present.empty()) {
+      std::size_t number = kept.contains(now) ? 0 : kept.size();
+      for (std::size_t i = 0; i < ids.size(); ++i, ++number) {
+        const auto list = projector.ValuesOf(ids[i]);
+        const int some = list.empty()
+                             ? projector.RangeOf(ids[i]).minimum + static_cast<int>(number % 15)
+                             : list[number % list.size()];
+        projector.SetValue(ids[i], kept.contains(now) ? kept[now][i] : some);
+      }
+    }
+    present = now;
+    kept[now] = read(ids);
+    fresh.emplace(now, kept[now]);
+  }
+  /// Whether all is as it was, of what is new too.
+  bool IsLike(Memory then) const {
+    then.kept.insert(fresh.begin(), fresh.end());
+    return kept == then.kept;
+  }
+
+  std::vector<SettingId> selectors, ids;
+  Values present{};
+  std::map<Values, Values> kept{}, fresh{};
+};
+
 /// A projector whose commands may be refused, get lost on the way there or back, or end for good.
 struct Disturbed : ProjectorChannel {
   PjtReply Execute(const PjtCommand& command) override {
@@ -44,17 +81,17 @@ struct Disturbed : ProjectorChannel {
     if (count > trouble.deadAfter || Happens(trouble.lostPercent)) return lost;
     if (Happens(trouble.refusedPercent)) return {.result = RefusedResult(command.operation)};
     const PjtReply reply = projector.Execute(command);
-    const bool isNewSource = !IsRead(command.operation) && command.code == CommandCode::InputSource;
-    if (isNewSource && trouble.tint > 0) projector.SetValue(SettingId::Tint, trouble.tint);
+    for (Memory& memory : memories) memory.Follow(projector);
     return Happens(trouble.lostPercent) ? lost : reply;
   }
   bool Happens(int percent) { return static_cast<int>(random() % 100) < percent; }
 
   explicit Disturbed(const ProjectorProfile& profile) : projector(SimulatedModelOf(profile)) {}
   SimulatedProjector projector;
+  std::vector<Memory> memories{};
   Random random{7};
   struct Trouble {
-    int refusedPercent = 0, lostPercent = 0, deadAfter = 1 << 30, tint = 0;
+    int refusedPercent = 0, lostPercent = 0, deadAfter = 1 << 30;
   } trouble{};
   int count = 0, sent = 0;
 };
@@ -88,11 +125,16 @@ Snapshot Take(ProjectorAccess& projector) {
   return TakeSnapshot(projector.Name(), projector.Settings(), projector.Connection(), Texts());
 }
 
-Restoration Restore(ProjectorAccess& projector, const Snapshot& snapshot) {
-  const Progress careful{.goesOn = [&projector] { return !projector.Channel().IsGone(); }};
+Restoration Restore(
+    ProjectorAccess& projector, const Snapshot& snapshot, Snapshot* undo = nullptr,
+    const std::function<bool()>& goesOn = [] { return true; }) {
+  const Progress careful{.goesOn = [&] { return goesOn() && !projector.Channel().IsGone(); }};
   Restoration restoration(snapshot, projector.Settings(), projector.Connection());
   restoration.Read(careful);
-  restoration.Send(Texts(), careful);
+  restoration.Send(Texts(), careful, [&] {
+    if (undo != nullptr && goesOn()) *undo = restoration.Undo(projector.Name(), Texts());
+    return true;
+  });
   return restoration;
 }
 
@@ -119,6 +161,7 @@ struct Room {
 
 TEST(Restoration, BringsEveryProjectorBackAndUndoesItself) {
   ASSERT_GT(Profiles().size(), 50U);
+  unsigned seed = 3;
   for (const ProjectorProfile& profile : Profiles()) {
     SCOPED_TRACE(profile.Name);
     Room room(profile);
@@ -126,24 +169,41 @@ TEST(Restoration, BringsEveryProjectorBackAndUndoesItself) {
     room.channel->count = 0;
     const Snapshot wanted = Take(room.projector);
     EXPECT_LE(room.channel->count, std::ssize(wanted.settings) + 2) << "a source is asked for once";
-    const int tint = room.channel->projector.Value(SettingId::Tint);
     room.ChangeAll(2);
-    room.channel->trouble.tint = 100;
-    room.channel->projector.SetValue(SettingId::Tint, tint);
-    const Snapshot before = Take(room.projector);
-    Restoration restoration(wanted, room.projector.Settings(), room.projector.Connection());
-    restoration.Read();
-    const auto undoNow = [&] { return restoration.Undo(profile.Name, Texts()); };
-    Snapshot undo = undoNow();
-    restoration.Send(Texts(), {}, [&] { return !(undo = undoNow()).settings.empty(); });
+    const Restoration restoration = Restore(room.projector, wanted);
     EXPECT_EQ(Take(room.projector).settings, wanted.settings);
     EXPECT_EQ(restoration.Count(Outcome::Changed) + restoration.Count(Outcome::AlreadySo),
               static_cast<int>(wanted.settings.size()));
     const int sent = room.channel->sent;
     EXPECT_EQ(Restore(room.projector, wanted).Count(Outcome::Changed), 0);
     EXPECT_EQ(room.channel->sent, sent) << "what is so is not sent again";
-    Restore(room.projector, undo);
-    EXPECT_EQ(Take(room.projector).settings, before.settings);
+    // Undone wherever it is cut off, with all that sources and modes keep, and done again.
+    auto& memories = room.channel->memories;
+    memories = {
+        {{SettingId::InputSource}, {SettingId::Gamma, SettingId::ColorTemp, SettingId::Volume}},
+        {{SettingId::InputSource, SettingId::Gamma, SettingId::ColorTemp},
+         {SettingId::Brightness, SettingId::Tint, SettingId::ActiveIris, SettingId::Aspect}}};
+    for (const int cut : {1000, 1, 3, 6, 14}) {
+      SCOPED_TRACE(cut);
+      room.ChangeAll(++seed);
+      const Snapshot before = Take(room.projector);
+      const auto first = memories;
+      const int source = room.channel->projector.Value(SettingId::InputSource);
+      Snapshot undo, redo;
+      const int limit = room.channel->sent + cut;
+      Restore(room.projector, wanted, &undo, [&] { return room.channel->sent < limit; });
+      // Somebody may choose another source meanwhile.
+      if (cut == 1000) room.channel->projector.SetValue(SettingId::InputSource, source);
+      room.channel->Execute({.operation = PjtOperation::GetInputSource});
+      const Snapshot after = Take(room.projector);
+      const auto changed = memories;
+      Restore(room.projector, ReadSnapshot(WriteSnapshot(undo)).snapshot, &redo);
+      EXPECT_EQ(Take(room.projector).settings, before.settings);
+      EXPECT_TRUE(std::ranges::equal(memories, first, &Memory::IsLike));
+      Restore(room.projector, redo);
+      EXPECT_EQ(Take(room.projector).settings, after.settings);
+      EXPECT_TRUE(std::ranges::equal(memories, changed, &Memory::IsLike));
+    }
   }
 }
 
@@ -212,6 +272,37 @@ TEST(Restoration, SkipsWhatTheModelDoesNotTakeAndStopsWhenTold) {
                                    Outcome::Unknown, Outcome::Changed, Outcome::Differs));
 }
 
+/// Answers each command after its time, unless it is given up before.
+struct Late : ProjectorChannel {
+  PjtReply Execute(const PjtCommand&) override {
+    const auto time = std::chrono::milliseconds(times[std::min(count++, times.size() - 1)]);
+    std::this_thread::sleep_for(std::min(time, longest));
+    waited += std::min(time, longest);
+    return {.answered = time <= longest};
+  }
+  void GiveUpAfter(std::chrono::milliseconds time) override { longest = time; }
+
+  std::vector<int> times;
+  std::size_t count = 0;
+  std::chrono::milliseconds longest{}, waited{};
+};
+
+TEST(PatientChannel, AsksAgainWithinOneTimeOut) {
+  constexpr std::chrono::milliseconds kTimeOut{300};
+  const std::pair<std::vector<int>, bool> kCases[] = {
+      {{1, 1000, 1}, true}, {{1, 1000, 1000, 1}, true}, {{200, 280}, true}, {{1, 1000}, false}};
+  for (const auto& [times, isAnswered] : kCases) {
+    const auto late = std::make_shared<Late>();
+    late->times = times;
+    PatientChannel patient(late, kTimeOut);
+    EXPECT_TRUE(patient.Execute({.operation = PjtOperation::GetInputSource}).answered);
+    late->waited = {};
+    EXPECT_EQ(patient.Execute({.operation = PjtOperation::GetInputSource}).answered, isAnswered);
+    EXPECT_EQ(patient.IsGone(), !isAnswered);
+    EXPECT_LE(late->waited, kTimeOut);
+  }
+}
+
 TEST(Snapshot, IsReadAsWrittenAndRefusedWhenWrong) {
   Room room(Profiles().front());
   const Snapshot snapshot = Take(room.projector);
@@ -224,6 +315,7 @@ TEST(Snapshot, IsReadAsWrittenAndRefusedWhenWrong) {
            {"\"value\": ", "\"value\": 1e9, \"x\": ", "settings[0].value: must be a whole"},
            {"\"settings\": [", "\"settings\": [1,", "settings[0]: must be an object"},
            {"\"settings\"", "\"settingz\"", "settings: must be an array"},
+           {"\"settings\"", "\"beforehand\": 1, \"settings\"", "beforehand: must be an array"},
            {"\"key\": \"", "\"kez\": \"", "settings[0].key: must be a line"},
            {"\"model\": {", "\"model\": {]", "line 3: "}}) {
     QByteArray wrong = text;

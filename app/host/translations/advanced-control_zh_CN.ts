@@ -970,10 +970,6 @@
         <translation>已跳过：此型号不接受该值</translation>
     </message>
     <message>
-        <source>%1; nothing was sent</source>
-        <translation>%1；未发送任何设置</translation>
-    </message>
-    <message>
         <source>%1 changed</source>
         <translation>已更改 %1 项</translation>
     </message>
@@ -1006,12 +1002,12 @@
         <translation>%1：%2</translation>
     </message>
     <message>
-        <source>%1; the undo file does not bring back %2</source>
-        <translation>%1；撤销文件不会恢复原值 %2</translation>
+        <source>Beforehand: other sources and modes</source>
+        <translation>预先恢复：其他输入源和模式</translation>
     </message>
     <message>
-        <source>%1; the rest was not sent</source>
-        <translation>%1；其余设置未发送</translation>
+        <source>%1 settings</source>
+        <translation>%1 项设置</translation>
     </message>
 </context>
 <context>
@@ -1066,6 +1062,14 @@
     <message>
         <source>cannot read %1: %2</source>
         <translation>无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1; nothing was sent</source>
+        <translation>%1；未发送任何设置</translation>
+    </message>
+    <message>
+        <source>%1; no more was sent</source>
+        <translation>%1；其余设置未发送</translation>
     </message>
 </context>
 <context>

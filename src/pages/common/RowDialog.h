@@ -157,6 +157,10 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
   std::optional<std::size_t> RowAt(QPoint at);
   std::optional<int> ShownPosition(std::size_t index) const;
   bool ShowMenu(QPoint at, QPoint onScreen);
+  bool CanMoveTo(std::size_t index, int position) const;
+  Range EnteredRange(const ValueRow& row, const Bound& bound) const;
+  void AskForNumber(std::size_t index);
+  void MoveTo(std::size_t index, int position);
   void PutBack(std::size_t index);
 
   void Refresh(const ListRow& row, Bound& bound, Source source);
@@ -182,6 +186,8 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
 
   // Of value rows, in ValueRows.cpp.
   void Step(const ValueRow& row, ValueControls& controls, bool upwards);
+  /// Steps until the number is shown, or no step leads nearer to it.
+  void StepTo(const ValueRow& row, ValueControls& controls, int number);
   bool Drag(const ValueRow& row, ValueControls& controls);
   void Refuse(const ValueRow& row, ValueControls& controls, int position, bool told);
   void RunReset(const ValueRow& row, ValueControls& controls);

@@ -59,7 +59,7 @@ namespace {
 
 template <class... Page>
 auto MakePages(CWnd* parent) {
-  static_assert(sizeof...(Page) == kPageCount);
+  static_assert(sizeof...(Page) == kPageCount, "a page has no class");
   std::array<std::unique_ptr<CTabPage>, kPageCount> pages{std::make_unique<Page>(parent)...};
   for (const auto& page : pages) {
     page->setWindowFlags(Qt::Widget);

@@ -98,7 +98,7 @@ constexpr const PageTable* kTables[] = {
     &kInputType5Rows, &kSetupType5Rows, &kAudioType5Rows, &kOptionType5Rows, &kSetupRows,
     &kInput3Rows,     &kOption3Rows,
 };
-static_assert(std::size(kTables) == kPageCount);
+static_assert(std::size(kTables) == kPageCount, "a page has no table");
 
 }  // namespace
 

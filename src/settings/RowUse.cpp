@@ -40,6 +40,7 @@ bool Send(CPjtInterface& projector, const ValueRow& row, const ModelData& model,
 }
 
 bool Send(CPjtInterface& projector, const CheckRow& row, const ModelData& model, int, int value) {
+  if (value != 0 && value != 1) return false;
   return Perform(projector, row.send, value, model.ModelCode).accepted;
 }
 

@@ -1,7 +1,6 @@
 // What the dialog shows of each projector of the profile file, held against the list of its
 // settings that programs without a window use.
 
-#include <map>
 #include <set>
 
 #include <QCheckBox>
@@ -23,59 +22,40 @@ const SettingTexts& Texts() {
   return texts;
 }
 
-/// A control as its setting has it: what a person could choose there.
-using Shown = std::map<int, std::string>;
-
-/// The settings that a dialog shows, by their controls.
-Shown ShownBy(CDialog& dialog, const PageTable& table) {
-  std::set<int> helpers;  // lists of resets and actions, which are no settings
-  for (const PageRow& row : table.rows) {
-    if (const auto* reset = std::get_if<ResetRow>(&row)) helpers.insert(reset->list);
-    if (const auto* action = std::get_if<ActionRow>(&row)) helpers.insert(action->list);
-  }
-  Shown shown;
-  for (const RowTemplate& row : dialog.Template()->rows) {
-    for (const ControlTemplate& control : row.controls) {
-      if (control.kind == ControlKind::None || helpers.contains(control.id)) continue;
-      QWidget* const widget = dialog.GetDlgItem(control.id);
-      if (widget == nullptr || widget->isHidden()) continue;
-      if (qobject_cast<CComboBox*>(widget) != nullptr) {
-        const auto entries = DialogDriver(dialog).Entries(control.id);
-        shown[control.id] = entries.join(", ").toStdString();
-      } else if (const auto* slider = qobject_cast<CSliderCtrl*>(widget)) {
-        shown[control.id] =
-            std::to_string(slider->minimum()) + " to " + std::to_string(slider->maximum());
-      } else if (qobject_cast<QCheckBox*>(widget) != nullptr) {
-        shown[control.id] = "Off, On";
-      }
-    }
-  }
-  return shown;
-}
-
-/// The same as the list of settings says. Fields and buttons tell no choice: only that they show.
-Shown SaidFor(const ModelSettings& settings, const CDialog& dialog, const PageTable& table) {
-  Shown said;
+// The lists, boxes and sliders are the settings, and take what those say.
+void ExpectSame(const ModelSettings& settings, CDialog& dialog, const PageTable& table) {
+  std::set<int> told;
+  for (const PageRow& row : table.rows) told.insert(ListBeside(row));  // which is no setting
   for (const ModelSetting& setting : settings.All()) {
     if (setting.row < table.rows.data() || setting.row >= table.rows.data() + table.rows.size()) {
       continue;
     }
+    SCOPED_TRACE(setting.key);
     const int control = ControlOf(*setting.row);
-    EXPECT_FALSE(dialog.GetDlgItem(control)->isHidden()) << setting.key;
-    if (std::holds_alternative<ListRow>(*setting.row) ||
-        std::holds_alternative<CheckRow>(*setting.row)) {
-      QStringList texts;
-      for (const ListEntry& entry : setting.entries) texts << Texts().Entry(entry).c_str();
-      said[control] = texts.join(", ").toStdString();
-    } else if (setting.range) {
-      said[control] = Texts().Values(setting);
+    told.insert(control);
+    const QWidget* const widget = dialog.GetDlgItem(control);
+    EXPECT_FALSE(widget->isHidden());
+    QStringList entries;
+    for (const ListEntry& entry : setting.entries) entries << Texts().Entry(entry).c_str();
+    if (qobject_cast<const CComboBox*>(widget) != nullptr) {
+      EXPECT_EQ(DialogDriver(dialog).Entries(control), entries);
+    } else if (const auto* slider = qobject_cast<const CSliderCtrl*>(widget)) {
+      EXPECT_EQ(std::to_string(slider->minimum()) + " to " + std::to_string(slider->maximum()),
+                Texts().Values(setting));
+    } else if (qobject_cast<const QCheckBox*>(widget) != nullptr) {
+      EXPECT_EQ(entries, QStringList({"Off", "On"}));
     }
   }
-  return said;
-}
-
-void ExpectSame(const ModelSettings& settings, CDialog& dialog, const PageTable& table) {
-  EXPECT_EQ(ShownBy(dialog, table), SaidFor(settings, dialog, table));
+  for (const RowTemplate& row : dialog.Template()->rows) {
+    for (const ControlTemplate& control : row.controls) {
+      const QWidget* const widget = dialog.GetDlgItem(control.id);
+      using enum ControlKind;
+      const bool sets = control.kind == Combo || control.kind == Slider || control.kind == Check;
+      if (sets && !widget->isHidden()) {
+        EXPECT_TRUE(told.contains(control.id)) << control.id;
+      }
+    }
+  }
 }
 
 TEST(SettingsList, HoldsWhatThePagesAndPopUpsOfEveryProjectorShow) {

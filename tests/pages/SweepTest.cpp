@@ -27,6 +27,7 @@ void ForEachPage(const PageCheck& check, const std::vector<CModelInfo2>& models 
     for (int tab = 0; tab < tabs; ++tab) {
       open.SelectTab(tab);
       SCOPED_TRACE(NameOf(model) + " tab " + std::to_string(tab));
+      ASSERT_NE(open.Page().Template(), nullptr);
       check(open, open.Page());
     }
   }

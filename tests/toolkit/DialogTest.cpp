@@ -179,6 +179,15 @@ TEST_F(DialogTest, EnterPressesTheFocusedButtonOnlyAndEscCloses) {
   EXPECT_EQ(dialog.destroyed, 1);
 }
 
+TEST_F(DialogTest, ARowThatGoesAwayLeavesNoSpace) {
+  const int height = dialog.height(), last = dialog.GetDlgItem(11)->y();
+  const int pitch = last - dialog.GetDlgItem(7)->y();
+  dialog.ShowRow(9, false);
+  QTest::qWait(1);
+  EXPECT_EQ(dialog.GetDlgItem(11)->y(), last - pitch);
+  EXPECT_EQ(dialog.height(), height - pitch) << "a pop-up follows its rows";
+}
+
 TEST_F(DialogTest, ListsAreAsWideAsTheirColumnWhateverTheyHold) {
   dialog.Item<CComboBox>(13).clear();
   dialog.Item<CComboBox>(13).Add(QStringLiteral("1"));
@@ -187,6 +196,13 @@ TEST_F(DialogTest, ListsAreAsWideAsTheirColumnWhateverTheyHold) {
   EXPECT_EQ(list.width(), dialog.GetDlgItem(13)->width());
   EXPECT_EQ(list.x(), dialog.GetDlgItem(3)->x());
   EXPECT_EQ(list.right(), dialog.GetDlgItem(5)->geometry().right());
+}
+
+TEST_F(DialogTest, AModalDialogMayDieWhileItRuns) {
+  QPointer<SampleDialog> dying = new SampleDialog;
+  QTimer::singleShot(0, dying, [&] { delete dying; });
+  EXPECT_EQ(dying->DoModal(), QDialog::Rejected);
+  EXPECT_EQ(dying, nullptr);
 }
 
 TEST_F(DialogTest, RunsModallyAgainAndAgain) {

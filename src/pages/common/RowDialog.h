@@ -132,6 +132,7 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
   void RefreshRow(std::size_t index, Source source);
   void RefreshRow(std::size_t index, Source source, const CPjtInterface::Tally& before);
   void Tell(std::size_t index, Note note);
+  void GreyRowCaption(std::size_t index);
   Note NoteOf(std::size_t index, const CPjtInterface::Tally& before) const;
   QString NoteText(const PageRow& row, const Bound& bound) const;
   void UpdateVeil();

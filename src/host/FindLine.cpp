@@ -32,8 +32,9 @@ FindLine::FindLine(QWidget* parent) : QLineEdit(parent) {
   completer->setFilterMode(Qt::MatchContains);
   completer->setMaxVisibleItems(12);
   setCompleter(completer);
-  connect(completer, qOverload<const QModelIndex&>(&QCompleter::activated), this,
-          &FindLine::Choose);
+  // Not to this line itself: that it is disconnected from when it loses the focus.
+  connect(completer, qOverload<const QModelIndex&>(&QCompleter::activated), completer,
+          [this](const QModelIndex& completion) { Choose(completion); });
   hide();
 }
 
@@ -54,6 +55,7 @@ void FindLine::Start(std::vector<Place> places) {
 }
 
 void FindLine::Choose(const QModelIndex& completion) {
+  if (!completion.isValid()) return;
   const auto* shown = static_cast<const QAbstractProxyModel*>(completer()->completionModel());
   // A copy: while its tab is read, somebody may start anew.
   const Place place = places_[static_cast<std::size_t>(shown->mapToSource(completion).row())];

@@ -255,6 +255,7 @@ struct PageTable {
   std::span<const ModelRows> models{};
   Unlisted unlisted = Unlisted::AllRows;
   bool refusedIsReadBack = false;  ///< A refused value or choice is read again, before it is told.
+  bool captionsStay = false;       ///< The caption of a row that cannot be read does not grey.
 };
 
 /// Key, number of the caption, or 0 where the key is all that there is, and the control by which a

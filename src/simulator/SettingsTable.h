@@ -189,7 +189,15 @@ struct Binding {
 };
 
 /// The page sets whose models know a setting in this form.
-enum class PageSets { All, Third, ButThird };
+enum class PageSets : std::uint8_t {
+  All = 0xFF,
+  First = 1 << 1,
+  FirstTwo = First | 1 << 2,
+  Third = 1 << 3,
+  ButFirst = All ^ First,
+  ButFirstTwo = All ^ FirstTwo,
+  ButThird = All ^ Third,
+};
 
 struct SettingRange {
   int minimum = 0;

@@ -15,7 +15,7 @@ constexpr int kShownBias = CommandCode::kZeroPoint;
 constexpr Setting kPlain{.id = SettingId::Count, .name = "", .range = {0, 0xFFFF}};
 
 bool Knows(PageSets sets, int pageSet) {
-  return sets == PageSets::All || (sets == PageSets::Third) == (pageSet == 3);
+  return (static_cast<unsigned>(sets) >> std::clamp(pageSet, 0, 7) & 1U) != 0;
 }
 
 /// Where a command of a family carries the value that it sets.

@@ -34,6 +34,10 @@ TEST_F(Finding, GoesToTheRowOfAnyTab) {
   Find("bright", {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return});
   EXPECT_EQ(tabs.tabText(tabs.currentIndex()), QStringLiteral("Screen"));
   EXPECT_EQ(QApplication::focusWidget()->accessibleName(), QStringLiteral("OSD Bright"));
+  Find("mirror", {});
+  auto* completions = qobject_cast<QAbstractItemView*>(line.completer()->popup());
+  Q_EMIT completions->clicked(completions->model()->index(0, 0));  // as by the mouse
+  EXPECT_EQ(tabs.tabText(tabs.currentIndex()), QStringLiteral("Setup"));
   Find("contrast", {Qt::Key_Return});  // grey: its tab is shown, and has the focus
   EXPECT_EQ(tabs.currentIndex(), 1);
   EXPECT_EQ(QApplication::focusWidget(), &tabs);

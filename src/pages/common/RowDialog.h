@@ -132,6 +132,7 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
   void RefreshRow(std::size_t index, Source source);
   void RefreshRow(std::size_t index, Source source, const CPjtInterface::Tally& before);
   void Tell(std::size_t index, Note note);
+  void GreyRowCaption(std::size_t index);
   Note NoteOf(std::size_t index, const CPjtInterface::Tally& before) const;
   QString NoteText(const PageRow& row, const Bound& bound) const;
   void UpdateVeil();
@@ -157,6 +158,10 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
   std::optional<std::size_t> RowAt(QPoint at);
   std::optional<int> ShownPosition(std::size_t index) const;
   bool ShowMenu(QPoint at, QPoint onScreen);
+  bool CanMoveTo(std::size_t index, int position) const;
+  Range EnteredRange(const ValueRow& row, const Bound& bound) const;
+  void AskForNumber(std::size_t index);
+  void MoveTo(std::size_t index, int position);
   void PutBack(std::size_t index);
 
   void Refresh(const ListRow& row, Bound& bound, Source source);
@@ -182,6 +187,8 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog {
 
   // Of value rows, in ValueRows.cpp.
   void Step(const ValueRow& row, ValueControls& controls, bool upwards);
+  /// Steps until the number is shown, or no step leads nearer to it.
+  void StepTo(const ValueRow& row, ValueControls& controls, int number);
   bool Drag(const ValueRow& row, ValueControls& controls);
   void Refuse(const ValueRow& row, ValueControls& controls, int position, bool told);
   void RunReset(const ValueRow& row, ValueControls& controls);

@@ -8,6 +8,7 @@
 #include <QLabel>
 
 #include "pages/common/RowDialog.h"
+#include "settings/RowUse.h"
 #include "toolkit/CComboBox.h"
 #include "toolkit/CSliderCtrl.h"
 
@@ -36,54 +37,36 @@ bool CanMoveTo(const QWidget& control, int position) {
   return check != nullptr && check->isChecked() != (position != 0);
 }
 
-// Asks for a number that the slider takes; the dialog it is asked in may go on or end meanwhile.
-void AskForNumber(CSliderCtrl& slider, const QString& caption) {
-  auto* question = new QInputDialog(slider.window());
-  question->setAttribute(Qt::WA_DeleteOnClose);
-  question->setInputMode(QInputDialog::IntInput);
-  question->setIntRange(slider.minimum(), slider.maximum());
-  question->setIntValue(slider.value());
-  question->setWindowTitle(caption);
-  question->setLabelText(CatalogString(kListCategory, ListText::RangeNote,
-                                       std::int64_t{slider.minimum()},
-                                       std::int64_t{slider.maximum()}));
-  question->setOkButtonText(CatalogString(kCaptionCategory, Caption::Ok));
-  question->setCancelButtonText(CatalogString(kCaptionCategory, Caption::Cancel));
-  QObject::connect(question, &QInputDialog::intValueSelected, &slider,
-                   [&slider](int position) { OperateTo(slider, position); });
-  question->open();
-}
-
-}  // namespace
-
+// Moves a row's control to a position as a user does.
 void OperateTo(QWidget& control, int position) {
-  const auto* dialog = qobject_cast<const CDialog*>(control.window());
-  if (dialog == nullptr || dialog->IsBusy() || !control.isVisible()) return;
   if (!CanMoveTo(control, position)) return;
   if (auto* slider = qobject_cast<CSliderCtrl*>(&control)) slider->ScrollTo(position);
   if (auto* list = qobject_cast<CComboBox*>(&control)) list->Pick(position);
   if (auto* check = qobject_cast<QCheckBox*>(&control)) check->click();
 }
 
+// A row that only two buttons move.
+const ValueRow* SteppedRow(const PageRow& row) {
+  const auto* value = std::get_if<ValueRow>(&row);
+  return value != nullptr && value->ids.slider == 0 ? value : nullptr;
+}
+
+}  // namespace
+
 RowMenu::RowMenu(const Row& row, QWidget* parent) : QMenu(parent) {
   connect(this, &QMenu::aboutToHide, this, &QObject::deleteLater);
-  auto* slider = qobject_cast<CSliderCtrl*>(row.control);
-  const bool moves = slider != nullptr || qobject_cast<CComboBox*>(row.control) != nullptr ||
-                     qobject_cast<QCheckBox*>(row.control) != nullptr;
   if (!row.note.isEmpty()) Tell(row.note);
-  if (moves && row.opened) {
-    Tell(CatalogString(kListCategory, ListText::WhenOpened,
-                       TextAt(*row.control, *row.opened).toStdString()));
+  if (!row.opened.isEmpty()) {
+    Tell(CatalogString(kListCategory, ListText::WhenOpened, row.opened.toStdString()));
   }
   addSeparator();
-  if (moves) {
+  if (row.putBack != Choice::Absent) {
     addAction(ListString(ListText::PutBack), this, &RowMenu::PutBack)
-        ->setEnabled(row.opened && CanMoveTo(*row.control, *row.opened));
+        ->setEnabled(row.putBack == Choice::Usable);
   }
-  if (slider != nullptr) {
-    addAction(ListString(ListText::EnterValue), slider, [slider, caption = row.caption] {
-      AskForNumber(*slider, caption);
-    })->setEnabled(slider->isEnabled());
+  if (row.enterValue != Choice::Absent) {
+    addAction(ListString(ListText::EnterValue), this, &RowMenu::EnterValue)
+        ->setEnabled(row.enterValue == Choice::Usable);
   }
   const QString copied =
       row.value.isEmpty() ? row.caption : row.caption + QStringLiteral(": ") + row.value;
@@ -117,24 +100,85 @@ std::optional<int> RowDialog::ShownPosition(std::size_t index) const {
                                                       : std::nullopt;
 }
 
+bool RowDialog::CanMoveTo(std::size_t index, int position) const {
+  const ValueRow* stepped = SteppedRow(table_.rows[index]);
+  if (stepped == nullptr) return ::CanMoveTo(*GetDlgItem(ControlOf(table_.rows[index])), position);
+  const auto number = bound_[index].value.Number();
+  return GetDlgItem(stepped->ids.plus)->isEnabled() && number && *number != position;
+}
+
+Range RowDialog::EnteredRange(const ValueRow& row, const Bound& bound) const {
+  return SteppedRow(row) != nullptr ? StepBounds(row, Model(), kUnbounded) : bound.value.Bounds();
+}
+
 bool RowDialog::ShowMenu(QPoint at, QPoint onScreen) {
   const auto index = RowAt(at);
   if (!index || !ReadingOf(table_.rows[*index], Model())) return false;
   const PageRow& row = table_.rows[*index];
   QWidget* control = GetDlgItem(ControlOf(row));
   const auto position = ShownPosition(*index);
+  const std::optional<int> opened = bound_[*index].opened;
+  const auto choice = [](bool exists, bool usable) {
+    return !exists ? RowMenu::Choice::Absent
+           : usable ? RowMenu::Choice::Usable
+                    : RowMenu::Choice::Grey;
+  };
   const auto* label = qobject_cast<const QLabel*>(control);
-  auto* menu = new RowMenu({.control = control,
-                            .caption = CaptionText(row),
-                            .value = label != nullptr ? label->text()
-                                     : position       ? TextAt(*control, *position)
-                                                      : QString(),
-                            .note = control->toolTip(),
-                            .opened = bound_[*index].opened},
-                           this);
-  connect(menu, &RowMenu::PutBack, this, [this, index] { PutBack(*index); });
+  const auto* number = std::get_if<ValueRow>(&row);
+  const bool isOperable =
+      number != nullptr && GetDlgItem(number->ids.plus)->isEnabled() && bound_[*index].value.Number();
+  auto* menu =
+      new RowMenu({.caption = CaptionText(row),
+                   .value = label != nullptr ? label->text()
+                            : position       ? TextAt(*control, *position)
+                                             : QString(),
+                   .note = control->toolTip(),
+                   .opened = opened ? TextAt(*control, *opened) : QString(),
+                   .putBack = choice(label == nullptr, opened && CanMoveTo(*index, *opened)),
+                   .enterValue = choice(number != nullptr, isOperable)},
+                  this);
+  // Not before the menu has ended: what they start may wait for the projector.
+  connect(
+      menu, &RowMenu::PutBack, this, [this, index] { PutBack(*index); }, Qt::QueuedConnection);
+  connect(
+      menu, &RowMenu::EnterValue, this, [this, index] { AskForNumber(*index); },
+      Qt::QueuedConnection);
   menu->popup(onScreen);
   return true;
+}
+
+// The dialog may go on or end while this is asked in it.
+void RowDialog::AskForNumber(std::size_t index) {
+  const auto& row = std::get<ValueRow>(table_.rows[index]);
+  const Range range = EnteredRange(row, bound_[index]);
+  const QString caption = CaptionText(row);
+  auto* question = new QInputDialog(window());
+  question->setAttribute(Qt::WA_DeleteOnClose);
+  question->setInputMode(QInputDialog::IntInput);
+  question->setIntRange(range.minimum, range.maximum);
+  question->setIntValue(bound_[index].value.Number().value_or(range.minimum));
+  question->setWindowTitle(caption);
+  question->setLabelText(range == kUnbounded
+                             ? caption
+                             : CatalogString(kListCategory, ListText::RangeNote,
+                                             std::int64_t{range.minimum},
+                                             std::int64_t{range.maximum}));
+  question->setOkButtonText(CatalogString(kCaptionCategory, Caption::Ok));
+  question->setCancelButtonText(CatalogString(kCaptionCategory, Caption::Cancel));
+  connect(question, &QInputDialog::intValueSelected, this,
+          [this, index](int position) { MoveTo(index, position); });
+  question->open();
+}
+
+// The row's own control moves as under a hand, so that all that follows is the same.
+void RowDialog::MoveTo(std::size_t index, int position) {
+  const auto* top = qobject_cast<const CDialog*>(window());
+  if (top == nullptr || top->IsBusy() || !isVisible()) return;
+  if (const ValueRow* stepped = SteppedRow(table_.rows[index])) {
+    StepTo(*stepped, bound_[index].value, position);
+  } else {
+    OperateTo(*GetDlgItem(ControlOf(table_.rows[index])), position);
+  }
 }
 
 void RowDialog::PutBack(std::size_t index) {
@@ -152,7 +196,7 @@ void RowDialog::PutBack(std::size_t index) {
       return;
     }
   }
-  if (bound.opened) OperateTo(*GetDlgItem(ControlOf(table_.rows[index])), *bound.opened);
+  if (bound.opened) MoveTo(index, *bound.opened);
 }
 
 void RowDialog::contextMenuEvent(QContextMenuEvent* event) {

@@ -1,35 +1,34 @@
 #pragma once
 
-#include <optional>
+#include <cstdint>
 
 #include <QMenu>
 
 /// What a person can do with a row beside operating its controls: see what it takes and what it
-/// was, put that back, type a number, and copy. A change moves the row's own control as a hand
-/// would, so that all that follows is the same.
+/// was, put that back, type a number, and copy. The menu ends when it is hidden.
 class RowMenu final : public QMenu {
   Q_OBJECT
 
  public:
-  /// A position is a slider's number, the place of a list's entry, or whether a box is checked.
+  enum class Choice : std::uint8_t { Absent, Grey, Usable };
+
+  /// Texts are as they are shown, and may be empty.
   struct Row {
-    QWidget* control;  ///< List, slider or check box; of any other the value is only told.
     QString caption;
-    QString value;              ///< As it is shown; may be empty.
-    QString note;               ///< The numbers it takes, or why it is grey; may be empty.
-    std::optional<int> opened;  ///< Its position when the dialog was opened.
+    QString value;
+    QString note;    ///< The numbers it takes, or why it is grey.
+    QString opened;  ///< What it was when the dialog was opened.
+    Choice putBack = Choice::Absent;
+    Choice enterValue = Choice::Absent;
   };
 
-  /// `parent` owns the menu and outlives the row's control. The menu ends when it is hidden.
+  /// `parent` owns the menu.
   RowMenu(const Row& row, QWidget* parent);
 
  Q_SIGNALS:
   void PutBack();
+  void EnterValue();
 
  private:
   void Tell(const QString& text);
 };
-
-/// Moves a row's control to a position as a user does; nothing where it stands there, where it is
-/// grey, or without such a position.
-void OperateTo(QWidget& control, int position);

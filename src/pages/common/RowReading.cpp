@@ -39,7 +39,7 @@ RowDialog::Reading::~Reading() {
   for (std::size_t i = 0; i < page_.bound_.size(); ++i) {
     page_.bound_[i].unread = false;
     // What stands beside a list may have followed it.
-    if (page_.bound_[i].note != Note::None) page_.GreyCaption(ControlOf(page_.table_.rows[i]));
+    if (page_.bound_[i].note != Note::None) page_.GreyRowCaption(i);
   }
   page_.UpdateVeil();
 }
@@ -164,7 +164,11 @@ void RowDialog::Tell(std::size_t index, Note note) {
   // A text that is only shown is described by its caption.
   if (qobject_cast<QLabel*>(GetDlgItem(ControlOf(row))) != nullptr) return;
   for (const int id : ControlsOf(row)) GetDlgItem(id)->setAccessibleDescription(text);
-  GreyCaption(ControlOf(row));
+  GreyRowCaption(index);
+}
+
+void RowDialog::GreyRowCaption(std::size_t index) {
+  if (!table_.captionsStay) GreyCaption(ControlOf(table_.rows[index]));
 }
 
 QString RowDialog::WaitingText() const {

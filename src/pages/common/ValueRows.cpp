@@ -67,6 +67,19 @@ void RowDialog::Step(const ValueRow& row, ValueControls& controls, bool upwards)
   }
 }
 
+void RowDialog::StepTo(const ValueRow& row, ValueControls& controls, int number) {
+  const Busy busy(this);
+  for (auto before = controls.Number(); before && *before != number;) {
+    const bool upwards = *before < number;
+    Step(row, controls, upwards);
+    const auto now = controls.Number();
+    const bool isNearer = now && (upwards ? *now > *before : *now < *before);
+    const bool isPast = now && (upwards ? *now > number : *now < number);
+    if (!isNearer || isPast || !isVisible()) return;
+    before = now;
+  }
+}
+
 bool RowDialog::Drag(const ValueRow& row, ValueControls& controls) {
   const int position = controls.Position();
   const auto source = AskFor(row.of);

@@ -74,4 +74,6 @@ static_assert(AreComplete(kModels, std::ssize(kRows)));
 
 }  // namespace
 
-constinit const PageTable kInputType5Rows{kRows, kModels, Unlisted::Template};
+// What another signal would offer keeps its name in full.
+constinit const PageTable kInputType5Rows{
+    .rows = kRows, .models = kModels, .unlisted = Unlisted::Template, .captionsStay = true};

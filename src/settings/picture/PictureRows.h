@@ -24,11 +24,10 @@ inline constexpr ListRules kGammaRules{.sendsPosition = true, .emptyIsNotRead = 
 inline constexpr ListRules kColorTempRules{.error = ErrorText::ColorTempRefused,
                                            .emptyIsNotRead = true};
 
-// Positions, phase and over scan have no zero point: they are shown as the projector counts them.
-// Where the model tells no range, over scan ends at the projector's last step.
+// Shown values where the model tells no range. The older picture pages count every slider around
+// the zero point, phase and over scan too; the image page shows both as the projector counts them.
 inline constexpr Range kOverScan{0, 10};
-// The phase of the sets whose setup page has it too, and of the image page's newer models.
-inline constexpr Range kHPhase{0, 248};
+inline constexpr Range kHPhase{-128, 120};
 inline constexpr int kHPhaseTicks = 32;
 inline constexpr Range kImageHPhase{0, 31};
 // Model 3 counts a balance as it counts color, in a wider range.

@@ -267,17 +267,18 @@ void PjLinkChannel::Drop(ConnectionState state) {
   state_ = state;
 }
 
-std::optional<std::string> PjLinkChannel::ReadLine(std::size_t longest,
+std::optional<std::string> PjLinkChannel::ReadLine(std::size_t bound,
                                                    const QDeadlineTimer& deadline) {
+  const auto longest = static_cast<qsizetype>(bound);
   while (true) {
-    const QByteArray seen = socket_->peek(static_cast<qint64>(longest));
+    const QByteArray seen = socket_->peek(longest + 1);
+    const qsizetype start = seen.startsWith('\n') ? 1 : 0;  // some end their lines with CR LF
     const auto end = seen.indexOf('\r');
-    if (end >= 0) {
+    if (end >= 0 && end - start < longest) {
       socket_->skip(end + 1);
-      const qsizetype start = seen.startsWith('\n') ? 1 : 0;  // some end their lines with CR LF
-      return seen.mid(start, end - start).toStdString();
+      return seen.sliced(start, end - start).toStdString();
     }
-    if (static_cast<std::size_t>(seen.size()) == longest) {
+    if (seen.size() - start >= longest) {
       Drop(ConnectionState::NotUnderstood);
       return std::nullopt;
     }
@@ -289,12 +290,16 @@ std::optional<std::string> PjLinkChannel::ReadLine(std::size_t longest,
   }
 }
 
-/// As `Ask` on a connection that need not be usable yet; empty where the projector tells an error.
+/// As `Ask` on a connection that need not be usable yet, without what is no text; empty where the
+/// projector tells an error.
 std::optional<std::string> PjLinkChannel::AskText(char protocolClass, std::string_view command,
                                                   std::string_view parameter) {
   if (!Connect()) return std::nullopt;
-  auto answer = Ask(protocolClass, command, parameter);
-  return answer && IsError(*answer) ? std::string() : answer;
+  const auto answer = Ask(protocolClass, command, parameter);
+  if (!answer || IsError(*answer)) return answer ? std::optional(std::string()) : std::nullopt;
+  QString text = QString::fromStdString(*answer);
+  text.removeIf([](QChar c) { return c.category() == QChar::Other_Control; });
+  return text.toStdString();
 }
 
 /// The parameter of the reply, `OK` and errors included. The connection must be usable; nothing

@@ -96,7 +96,7 @@ class ADVANCED_CONTROL_EXPORT PjLinkChannel : public ProjectorChannel {
   bool Open();
   bool Connect() { return IsUsable() || Open(); }
   void Drop(ConnectionState state);
-  std::optional<std::string> ReadLine(std::size_t longest, const QDeadlineTimer& deadline);
+  std::optional<std::string> ReadLine(std::size_t bound, const QDeadlineTimer& deadline);
   std::optional<std::string> AskText(char protocolClass, std::string_view command,
                                      std::string_view parameter = "?");
   std::optional<std::string> Ask(char protocolClass, std::string_view command,

@@ -203,7 +203,7 @@ TEST(PjLinkTest, WhateverThePeerDoesTheStateIsClearAndOldRepliesAreDropped) {
 TEST(PjLinkTest, InputsAreAskedForWithReadsAndAgainAfterAPause) {
   Peer peer(Way::Tcp,
             {Peer::Says({kGreeting, "%1CLSS=2\r", kOn, "%2INST=ERR3\r", kOn, kOn, "%1POWR=OK\r",
-                         "%2INST=31 5A\r", "%2INNM=Büro\r", "%2INNM=ERR1\r", kOn, kOn})});
+                         "%2INST=31 5A\r", "%2INNM=Bü\x1Bro\r", "%2INNM=ERR1\r", kOn, kOn})});
   PjLinkChannel channel(kHost, peer.port, "", {.inputs = 1s, .firstPause = 400ms});
   EXPECT_FALSE(channel.Inputs());
   EXPECT_EQ(Replies(channel, {kGetPower, kGetPower, kGetPower}), "1 1 1");

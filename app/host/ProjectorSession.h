@@ -12,7 +12,6 @@
 #include "simulator/SimulatedProjector.h"
 
 class CAdvanceDlg;
-class ToldInputs;
 
 /// What a fault is set for: every command, one operation, or the generic operations of one code.
 using FaultTarget = std::variant<std::monostate, PjtOperation, std::uint16_t>;
@@ -39,17 +38,13 @@ class ProjectorSession {
   void ClearFaults();
   const std::map<FaultTarget, Fault>& Faults() const { return faults_; }
 
-  /// A dialog on this projector, with model and channel, not created yet. The inputs of a PJLink
-  /// projector of which the profile lists none come from the projector, once it has answered.
+  /// A dialog on this projector, with model and channel, not created yet.
   std::unique_ptr<CAdvanceDlg> MakeDialog() const;
 
  private:
-  struct Inputs;
-
   std::shared_ptr<ProjectorChannel> MakeWay();
 
   ProjectorProfile profile_;
-  std::shared_ptr<Inputs> inputs_;
   std::shared_ptr<SimulatedProjector> simulator_;
   std::shared_ptr<FaultChannel> faultChannel_;
   std::shared_ptr<ProjectorChannel> channel_;

@@ -219,3 +219,12 @@ ConnectionState BoundedChannel::Connection() const {
   }
   return ConnectionState::None;
 }
+
+std::optional<SourceList> BoundedChannel::Inputs() {
+  const std::lock_guard lock(state_->mutex);
+  try {
+    if (state_->inner) return state_->inner->Inputs();
+  } catch (...) {  // likewise
+  }
+  return std::nullopt;
+}

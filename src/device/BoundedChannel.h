@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <memory>
+#include <optional>
 #include <utility>
 
 #include "AdvancedControlExport.h"
@@ -44,6 +45,7 @@ class ADVANCED_CONTROL_EXPORT BoundedChannel : public ProjectorChannel {
   void Announce(std::span<const PjtCommand> reads) override;
   void Abandon() override;
   ConnectionState Connection() const override;
+  std::optional<SourceList> Inputs() override;
 
  private:
   struct State;

@@ -57,6 +57,12 @@ ConnectionState CPjtInterface::Connection() const {
   return state;
 }
 
+std::optional<SourceList> CPjtInterface::Inputs() const {
+  std::optional<SourceList> inputs;
+  if (channel_ && !cutOff_) Guarded([&] { inputs = channel_->Inputs(); });
+  return inputs;
+}
+
 void CPjtInterface::CopyData(int kind, int number, int parameter, const char* text1,
                              const char* text2) {
   connectionKind_ = kind;

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -35,6 +36,10 @@ class ADVANCED_CONTROL_EXPORT CPjtInterface {
 
   /// How the connection stands.
   ConnectionState Connection() const;
+
+  /// The inputs as the projector itself has told them, over PJLink; nothing as long as it has not.
+  /// From the first call on they are asked for together with what is read.
+  std::optional<SourceList> Inputs() const;
 
   /// Takes the connection parameters. A text ends at its first zero or after 64 characters; null is
   /// an empty text.

@@ -3,6 +3,7 @@
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -23,6 +24,7 @@ class ADVANCED_CONTROL_EXPORT LoggingChannel : public ProjectorChannel {
   void Announce(std::span<const PjtCommand> reads) override { inner_->Announce(reads); }
   void Abandon() override { inner_->Abandon(); }
   ConnectionState Connection() const override { return inner_->Connection(); }
+  std::optional<SourceList> Inputs() override { return inner_->Inputs(); }
 
  private:
   std::shared_ptr<ProjectorChannel> inner_;

@@ -106,11 +106,24 @@ SourceList SourcesOf(const std::vector<PjLinkInput>& inputs) {
 }
 
 PjLinkChannel::PjLinkChannel(std::string host, int port, std::string password, const Limits& limits)
-    : host_(std::move(host)), port_(port), password_(std::move(password)), limits_(limits) {}
+    : host_(std::move(host)),
+      port_(port),
+      password_(std::move(password)),
+      limits_(limits),
+      pause_(limits.firstPause) {}
 
 PjLinkChannel::~PjLinkChannel() = default;
 
 PjtReply PjLinkChannel::Execute(const PjtCommand& command) {
+  if (asksForInputs_ && isAnswering_ && IsRead(command.operation) && Clock::now() >= nextTry_) {
+    AskForInputs();
+  }
+  const PjtReply reply = Perform(command);
+  if (reply.offered) isAnswering_ = reply.answered;
+  return reply;
+}
+
+PjtReply PjLinkChannel::Perform(const PjtCommand& command) {
   const int refused = RefusedResult(command.operation);
   const Mapping* const mapping = Find(command);
   if (!mapping) return {.result = refused, .offered = false};
@@ -160,6 +173,40 @@ std::optional<PjLinkDescription> PjLinkChannel::Describe() {
   return description;
 }
 
+std::optional<SourceList> PjLinkChannel::Inputs() {
+  const std::lock_guard lock(toldMutex_);
+  if (!told_) asksForInputs_ = true;
+  return told_;
+}
+
+void PjLinkChannel::AskForInputs() {
+  const auto end = Clock::now() + limits_.inputs;
+  do {
+    if (!AskForNextInput()) {
+      nextTry_ = Clock::now() + pause_;
+      pause_ = std::min(2 * pause_, limits_.longestPause);
+      return;
+    }
+  } while (asksForInputs_ && Clock::now() < end);
+}
+
+bool PjLinkChannel::AskForNextInput() {
+  if (codes_.empty()) {
+    codes_ = InputCodes().value_or(std::vector<std::string>());
+    if (codes_.size() > SourceList::kCapacity) codes_.resize(SourceList::kCapacity);
+    return !codes_.empty();
+  }
+  auto input = Input(codes_[inputs_.size()]);
+  if (!input) return false;
+  inputs_.push_back(std::move(*input));
+  if (inputs_.size() == codes_.size()) {
+    const std::lock_guard lock(toldMutex_);
+    told_ = SourcesOf(inputs_);
+    asksForInputs_ = false;
+  }
+  return true;
+}
+
 std::optional<std::vector<std::string>> PjLinkChannel::InputCodes() {
   if (!Connect()) return std::nullopt;
   const auto list = AskText(projectorClass_, "INST");
@@ -181,8 +228,10 @@ std::optional<PjLinkInput> PjLinkChannel::Input(const std::string& code) {
 
 /// Whether the connection stands, and nothing came that nobody asked for.
 bool PjLinkChannel::IsUsable() {
-  return socket_ && !socket_->waitForReadyRead(0) && socket_->bytesAvailable() == 0 &&
-         socket_->state() == QAbstractSocket::ConnectedState;
+  if (!socket_) return false;
+  socket_->waitForReadyRead(0);
+  const QByteArray rest = socket_->peek(2);
+  return (rest.isEmpty() || rest == "\n") && socket_->state() == QAbstractSocket::ConnectedState;
 }
 
 bool PjLinkChannel::Open() {
@@ -218,16 +267,18 @@ void PjLinkChannel::Drop(ConnectionState state) {
   state_ = state;
 }
 
-std::optional<std::string> PjLinkChannel::ReadLine(std::size_t longest,
+std::optional<std::string> PjLinkChannel::ReadLine(std::size_t bound,
                                                    const QDeadlineTimer& deadline) {
+  const auto longest = static_cast<qsizetype>(bound);
   while (true) {
-    const QByteArray seen = socket_->peek(static_cast<qint64>(longest));
+    const QByteArray seen = socket_->peek(longest + 1);
+    const qsizetype start = seen.startsWith('\n') ? 1 : 0;  // some end their lines with CR LF
     const auto end = seen.indexOf('\r');
-    if (end >= 0) {
+    if (end >= 0 && end - start < longest) {
       socket_->skip(end + 1);
-      return seen.left(end).toStdString();
+      return seen.sliced(start, end - start).toStdString();
     }
-    if (static_cast<std::size_t>(seen.size()) == longest) {
+    if (seen.size() - start >= longest) {
       Drop(ConnectionState::NotUnderstood);
       return std::nullopt;
     }
@@ -239,12 +290,16 @@ std::optional<std::string> PjLinkChannel::ReadLine(std::size_t longest,
   }
 }
 
-/// As `Ask` on a connection that need not be usable yet; empty where the projector tells an error.
+/// As `Ask` on a connection that need not be usable yet, without what is no text; empty where the
+/// projector tells an error.
 std::optional<std::string> PjLinkChannel::AskText(char protocolClass, std::string_view command,
                                                   std::string_view parameter) {
   if (!Connect()) return std::nullopt;
-  auto answer = Ask(protocolClass, command, parameter);
-  return answer && IsError(*answer) ? std::string() : answer;
+  const auto answer = Ask(protocolClass, command, parameter);
+  if (!answer || IsError(*answer)) return answer ? std::optional(std::string()) : std::nullopt;
+  QString text = QString::fromStdString(*answer);
+  text.removeIf([](QChar c) { return c.category() == QChar::Other_Control; });
+  return text.toStdString();
 }
 
 /// The parameter of the reply, `OK` and errors included. The connection must be usable; nothing

@@ -3,6 +3,7 @@
 #include <atomic>
 #include <chrono>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -46,12 +47,21 @@ ADVANCED_CONTROL_EXPORT SourceList SourcesOf(const std::vector<PjLinkInput>& inp
 /// unanswered, and a read is asked once more. A reply that is none, or for something else, ends the
 /// connection and leaves the command unanswered.
 ///
+/// Once its inputs are asked for, a few exchanges go before each read that follows an answer, until
+/// all are known: so a silent projector is not asked, no read of a slow one waits for long, and no
+/// change waits at all. After a failure there is a pause, which doubles with each further one.
+///
 /// Blocks without an event loop, up to the sum of the limits: belongs behind a `BoundedChannel`.
 class ADVANCED_CONTROL_EXPORT PjLinkChannel : public ProjectorChannel {
  public:
   struct Limits {
     std::chrono::milliseconds connect{2000};  ///< From the start until the projector has greeted.
     std::chrono::milliseconds answer{2000};   ///< For each request.
+    /// Of the time that a read takes; a last exchange and the read itself come on top.
+    std::chrono::milliseconds inputs{400};
+    /// After inputs were not told. A projector in standby may tell them only once it is on.
+    std::chrono::milliseconds firstPause{10'000};
+    std::chrono::milliseconds longestPause{120'000};
   };
 
   /// `host` is a name or an address. An empty password proves nothing to a projector that has one.
@@ -69,20 +79,24 @@ class ADVANCED_CONTROL_EXPORT PjLinkChannel : public ProjectorChannel {
   /// next.
   std::optional<PjLinkDescription> Describe();
 
-  /// What `Describe` asks for inputs, one exchange each. The codes are two characters each; none
-  /// when the projector tells none now. Nothing when unanswered.
-  std::optional<std::vector<std::string>> InputCodes();
-  /// `code` is one of `InputCodes`.
-  std::optional<PjLinkInput> Input(const std::string& code);
-
   ConnectionState Connection() const override { return state_; }
+  std::optional<SourceList> Inputs() override;
 
  private:
+  using Clock = std::chrono::steady_clock;
+
+  PjtReply Perform(const PjtCommand& command);
+  void AskForInputs();
+  /// One exchange; false when it brought nothing.
+  bool AskForNextInput();
+  /// None when the projector tells none now; nothing when unanswered.
+  std::optional<std::vector<std::string>> InputCodes();
+  std::optional<PjLinkInput> Input(const std::string& code);
   bool IsUsable();
   bool Open();
   bool Connect() { return IsUsable() || Open(); }
   void Drop(ConnectionState state);
-  std::optional<std::string> ReadLine(std::size_t longest, const QDeadlineTimer& deadline);
+  std::optional<std::string> ReadLine(std::size_t bound, const QDeadlineTimer& deadline);
   std::optional<std::string> AskText(char protocolClass, std::string_view command,
                                      std::string_view parameter = "?");
   std::optional<std::string> Ask(char protocolClass, std::string_view command,
@@ -96,4 +110,13 @@ class ADVANCED_CONTROL_EXPORT PjLinkChannel : public ProjectorChannel {
   std::string proof_;  ///< Goes before the session's first request.
   char projectorClass_ = '1';
   std::atomic<ConnectionState> state_ = ConnectionState::Unused;
+
+  std::atomic<bool> asksForInputs_ = false;
+  std::vector<std::string> codes_;
+  std::vector<PjLinkInput> inputs_;  ///< Of the first of `codes_`.
+  bool isAnswering_ = false;         ///< As far as the last command tells.
+  std::chrono::milliseconds pause_;
+  Clock::time_point nextTry_{};
+  std::mutex toldMutex_;
+  std::optional<SourceList> told_;  ///< Under the mutex.
 };

@@ -2,10 +2,12 @@
 
 #include <chrono>
 #include <cstdint>
+#include <optional>
 #include <span>
 
 #include "AdvancedControlExport.h"
 #include "device/ConnectionState.h"
+#include "device/ModelData.h"
 #include "device/PjtOperation.h"
 
 /// One command to the projector.
@@ -28,7 +30,7 @@ struct PjtReply {
 };
 
 /// The way to one projector: a real connection, a simulation, or a channel around a channel that
-/// logs, bounds or disturbs. Called from one thread at a time, `Connection` from any.
+/// logs, bounds or disturbs. Called from one thread at a time, `Connection` and `Inputs` from any.
 class ADVANCED_CONTROL_EXPORT ProjectorChannel {
  public:
   virtual ~ProjectorChannel() = default;
@@ -52,4 +54,8 @@ class ADVANCED_CONTROL_EXPORT ProjectorChannel {
 
   /// How the connection stands; of a channel that has none, `ConnectionState::None`.
   virtual ConnectionState Connection() const { return ConnectionState::None; }
+
+  /// The inputs as the projector itself has told them; nothing as long as it has not. Waits for
+  /// nothing: once asked, a channel that can find them out does so with the reads that follow.
+  virtual std::optional<SourceList> Inputs() { return std::nullopt; }
 };

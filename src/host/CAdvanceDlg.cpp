@@ -131,6 +131,7 @@ bool CAdvanceDlg::OnInitDialog() {
   projector_.DialogType = model_.DialogType;
   projector_.CopyAspectData(model_.AspectList.count, model_.AspectList.values.data());
   projector_.CopyGammaData(model_.GammaList.count, model_.GammaList.values.data());
+  model_.MySourceList = ToldInputs().value_or(model_.MySourceList);
   CreatePages();
   InsertTabs();
   SetTitle();
@@ -240,6 +241,10 @@ void CAdvanceDlg::ReplaceSources(const SourceList& sources) {
   }
 }
 
+std::optional<SourceList> CAdvanceDlg::ToldInputs() const {
+  return model_.MySourceList.Size() == 0 ? projector_.Inputs() : std::nullopt;
+}
+
 void CAdvanceDlg::ShowSelectedPage() {
   for (const auto& page : pages_->byId) {
     if (page->Template() != nullptr) page->hide();
@@ -259,9 +264,14 @@ void CAdvanceDlg::OnBusy() {
 void CAdvanceDlg::OnIdle() {
   watch_->Stop();
   const bool readsAgain = std::exchange(readsAgain_, false);
-  if (readsAgain && IsCreated()) {
-    QTimer::singleShot(0, this, [this] {
-      if (IsCreated()) DispTabScreen();
+  if (IsCreated() && (readsAgain || ToldInputs())) {
+    QTimer::singleShot(0, this, [this, readsAgain] {
+      if (!IsCreated()) return;
+      if (const auto inputs = IsBusy() ? std::nullopt : ToldInputs()) {
+        ReplaceSources(*inputs);
+      } else if (readsAgain) {
+        DispTabScreen();
+      }
     });
   }
   const CPjtInterface::Tally sent = projector_.Sent();

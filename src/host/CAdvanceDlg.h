@@ -31,6 +31,9 @@ struct PagePopUp;
 /// channel to the projector, then `DoModal`, or `CreateShown` for a dialog beside the host's other
 /// windows. The dialog keeps its own copy of all it is given and
 /// talks to the projector from the thread it lives on, the user-interface thread.
+///
+/// Where the host names no inputs, the dialog takes those that the projector tells over PJLink, as
+/// soon as it knows them and no handler runs.
 class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSource {
   Q_OBJECT
 
@@ -76,9 +79,8 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
   /// name is known.
   void CopyData(const CProjectorItem* item);
 
-  /// Other sources, also while the dialog is open, for a host that learns them from the projector:
-  /// the lists that offer them are filled anew, and the shown page is read again as soon as no
-  /// command waits.
+  /// Other sources, also while the dialog is open, for a host that learns of them later: the lists
+  /// that offer them are filled anew, and the shown page is read again as soon as no command waits.
   void ReplaceSources(const SourceList& sources);
 
   /// The connection object that all pages use; owned by the dialog.
@@ -129,6 +131,8 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
   void CreatePage(PageId id);
   void InsertTabs();
   void SetTitle();
+  /// The inputs that the projector has told, where the host names none.
+  std::optional<SourceList> ToldInputs() const;
   std::optional<PageId> PageIdBehind(int tab) const;
   CTabPage* PageBehind(int tab) const;
   void ShowSelectedPage();

@@ -6,6 +6,7 @@
 #include <map>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <utility>
 
 #include "AdvancedControlExport.h"
@@ -49,6 +50,7 @@ class ADVANCED_CONTROL_EXPORT FaultChannel : public ProjectorChannel {
   void Announce(std::span<const PjtCommand> reads) override { inner_->Announce(reads); }
   void Abandon() override { inner_->Abandon(); }
   ConnectionState Connection() const override { return inner_->Connection(); }
+  std::optional<SourceList> Inputs() override { return inner_->Inputs(); }
 
  private:
   Fault FaultOf(const PjtCommand& command) const;

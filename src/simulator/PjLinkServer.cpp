@@ -68,7 +68,9 @@ class Session final : public QObject {
       if (static_cast<std::size_t>(seen.size()) == longest) socket_.abort();
       return false;
     }
-    const std::string line = socket_.read(end + 1).chopped(1).toStdString();
+    const QByteArray read = socket_.read(end + 1).chopped(1);
+    // Some end their lines with CR LF.
+    const std::string line = (read.startsWith('\n') ? read.sliced(1) : read).toStdString();
     if (!line.starts_with(wantedProof_)) {
       Send(PjLink::kWrongPassword);
       End();

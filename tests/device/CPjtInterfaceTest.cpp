@@ -30,6 +30,7 @@ class OneReply final : public ProjectorChannel {
     MayBreak();
     return ConnectionState::Connected;
   }
+  std::optional<SourceList> Inputs() override { throw last; }
   void MayBreak() const {
     if (breaks) throw last;
   }
@@ -97,6 +98,7 @@ TEST(CPjtInterfaceTest, EveryFormBuildsItsCommandAndTakesItsReply) {
     p.TryAfresh();
     EXPECT_EQ(p.Connection(), ConnectionState::None);
     EXPECT_EQ(bounded.Connection(), ConnectionState::None);
+    EXPECT_FALSE(p.Inputs() || bounded.Inputs());
     p.SetChannel(nullptr);
     expectCall(form.refused, 30);
   }
@@ -115,6 +117,11 @@ TEST(CPjtInterfaceTest, WhatHostsHandOverIsBoundedAndMayBeAbsent) {
   EXPECT_EQ(pjt.ConnectionText1(), std::string(64, 'x'));
   EXPECT_EQ(pjt.ConnectionText2(), "");
   EXPECT_EQ(pjt.Network().Address, pjt.ConnectionText1());
+  CPjtInterface copy(pjt);
+  copy.CopyData(0, 3, 9600, "", "");
+  EXPECT_EQ(copy.Channel(), pjt.Channel()) << "shared, whatever parameters each has";
+  EXPECT_EQ(copy.Serial().BaudRate, 9600);
+  EXPECT_EQ(copy.Network(), CSocketCtrl());
   EXPECT_EQ(pjt.Network().Port, 23);
 
   std::array<int, 40> values{};
@@ -124,23 +131,6 @@ TEST(CPjtInterfaceTest, WhatHostsHandOverIsBoundedAndMayBeAbsent) {
   EXPECT_EQ(pjt.CopyGammaData(-1, values.data()), 0);
   EXPECT_TRUE(pjt.GammaValues().empty());
   EXPECT_EQ(pjt.CopyAspectData(3, nullptr), 0);
-}
-
-TEST(CPjtInterfaceTest, CopiesShareTheChannelAndKeepTheirOwnParameters) {
-  const auto channel = std::make_shared<OneReply>();
-  CPjtInterface pjt;
-  pjt.SetChannel(channel);
-  pjt.CopyData(1, 0, 0, "192.0.2.7", "");
-  CPjtInterface copy(pjt);
-  copy.CopyData(0, 3, 9600, "", "");
-  copy.SetColor(1);
-  EXPECT_EQ(channel->last, (PjtCommand{Op::SetColor, 0, 1}));
-  EXPECT_EQ(copy.ConnectionNumber(), 3);
-  EXPECT_EQ(copy.Serial().BaudRate, 9600);
-  EXPECT_EQ(copy.Network(), CSocketCtrl());
-  EXPECT_EQ(pjt.ConnectionText1(), "192.0.2.7");
-  copy = pjt;
-  EXPECT_EQ(copy.Network().Address, "192.0.2.7");
 }
 
 TEST(PjtOperationTest, SuccessIsWhatTheFamilySays) {

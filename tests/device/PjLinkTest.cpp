@@ -1,4 +1,6 @@
+#include <dlfcn.h>
 #include <future>
+#include <netdb.h>
 #include <string>
 #include <thread>
 #include <vector>
@@ -18,6 +20,22 @@
 namespace {
 
 using namespace std::chrono_literals;
+
+constexpr auto kLookUp = 250ms;
+
+}  // namespace
+
+/// Goes before the system's, for the library too: looking up a name takes its time.
+extern "C" [[gnu::visibility("default")]] int getaddrinfo(const char* name, const char* service,
+                                                          const addrinfo* hints, addrinfo** found) {
+  static const auto system =
+      reinterpret_cast<decltype(&getaddrinfo)>(dlsym(RTLD_NEXT, "getaddrinfo"));
+  std::this_thread::sleep_for(kLookUp);
+  return system(name, service, hints, found);
+}
+
+namespace {
+
 using State = ConnectionState;
 using Op = PjtOperation;
 
@@ -123,10 +141,7 @@ TEST(PjLinkTest, PasswordsAndDescription) {
   ASSERT_TRUE(description);
   EXPECT_EQ(description->protocolClass, 2);
   EXPECT_EQ(description->name, "Simulated projector");
-  const SourceList sources = SourcesOf(description->inputs);
-  ASSERT_EQ(sources.count, 2);
-  EXPECT_EQ(sources.firstValues[1], 510);
-  EXPECT_EQ(NameText(sources.names[1]), "Büro");
+  EXPECT_EQ(description->inputs.at(1).name, "Büro");
   PjLinkChannel channel = served.Channel("secret");
   EXPECT_EQ(Replies(channel, {kGetPower, kGetPower}), "1 1");
 }
@@ -146,6 +161,7 @@ TEST(PjLinkTest, WhateverThePeerDoesTheStateIsClearAndOldRepliesAreDropped) {
   };
   const auto breaks = Peer::Says({kGreeting, kFirstClass, kOn, ""}, false);
   const auto standby = replies("%1POWR=0\r");
+  const auto does = replies("%1POWR=OK\r");
   std::vector<Case> cases = {
       {Peer::Says({}), "?", State::NoAnswer},
       {Peer::Says({"HTTP/1.1 400 Bad Request\r"}), "?", State::NotUnderstood},
@@ -159,14 +175,9 @@ TEST(PjLinkTest, WhateverThePeerDoesTheStateIsClearAndOldRepliesAreDropped) {
       {replies("%1INPT=31\r"), "?", State::NotUnderstood},
       {replies("%1POWR=" + std::string(129, '1') + '\r'), "?", State::NotUnderstood},
       {replies(kOn), "1", State::Connected, true, {kGetPower}, "0", standby},
-      {replies(kOn),
-       "1",
-       State::Connected,
-       true,
-       {Do(Op::SetPowerOn)},
-       "0",
-       replies("%1POWR=OK\r")},
+      {replies(kOn), "1", State::Connected, true, {Do(Op::SetPowerOn)}, "0", does},
       {replies(kOn + kOn), "1", State::Connected, false, {kGetPower}, "0", standby},
+      {Peer::Says({kGreeting + '\n', kFirstClass + '\n', kOn + '\n', kOn}), "1", State::Connected},
       {breaks, "1", State::Connected, false, {kGetPower}, "0", standby},
       {breaks, "1", State::Connected, false, {Do(Op::SetPowerOn), kGetPower}, "? 1"}};
   for (std::size_t length = 0; length < kOn.size(); ++length) {
@@ -189,13 +200,28 @@ TEST(PjLinkTest, WhateverThePeerDoesTheStateIsClearAndOldRepliesAreDropped) {
   }
 }
 
+TEST(PjLinkTest, InputsAreAskedForWithReadsAndAgainAfterAPause) {
+  Peer peer(Way::Tcp,
+            {Peer::Says({kGreeting, "%1CLSS=2\r", kOn, "%2INST=ERR3\r", kOn, kOn, "%1POWR=OK\r",
+                         "%2INST=31 5A\r", "%2INNM=Bü\x1Bro\r", "%2INNM=ERR1\r", kOn, kOn})});
+  PjLinkChannel channel(kHost, peer.port, "", {.inputs = 1s, .firstPause = 400ms});
+  EXPECT_FALSE(channel.Inputs());
+  EXPECT_EQ(Replies(channel, {kGetPower, kGetPower, kGetPower}), "1 1 1");
+  std::this_thread::sleep_for(400ms);
+  EXPECT_EQ(Replies(channel, {Do(Op::SetPowerOn), kGetPower, kGetPower}), "0 1 1");
+  EXPECT_EQ(channel.Inputs(), SourcesOf({{31, "Büro"}, {510, "Network A"}}));
+}
+
 TEST(PjLinkTest, SaysWhyItCannotConnect) {
   const auto expect = [](PjLinkChannel&& channel, State state) {
     EXPECT_EQ(Replies(channel, {kGetPower}), "?");
     EXPECT_FALSE(channel.Describe());
     EXPECT_EQ(channel.Connection(), state);
   };
-  expect({"no-such-projector.invalid", 4352, "", kLimits}, State::NameUnknown);
+  const auto start = std::chrono::steady_clock::now();
+  expect({"localhost", 1, "", {.connect = 50ms}}, State::NameUnknown);
+  EXPECT_LT(std::chrono::steady_clock::now() - start, 2 * kLookUp) << "asked twice";
+  expect({"localhost", 1, "", kLimits}, State::NotReachable);
   expect({"", 4352, "", kLimits}, State::WrongParameters);
   expect({kHost, 65536 + 4352, "", kLimits}, State::WrongParameters);
   expect({kHost, 1, "", kLimits}, State::NotReachable);
@@ -213,7 +239,7 @@ TEST(PjLinkTest, TheServerAnswersAsTheStandardSays) {
   QByteArray sent;
   QByteArray expected = "PJLINK 0\r";
   for (const auto& [request, answer] : cases) {
-    sent.append(request).append('\r');
+    sent.append(request).append(sent.size() < 50 ? "\r\n" : "\r");
     expected.append(request, 6).append('=').append(answer).append('\r');
   }
   EXPECT_EQ(served.Exchange(sent).toStdString(), (expected + "open").toStdString());

@@ -31,7 +31,6 @@ constexpr Case kCases[] = {
     {Id::VideoFormat, 10, {Op::Inc, 0x2200}, 4, "4"},
     {Id::VideoFormat, 7, {Op::Inc, 0x2200}, 7},
     {Id::VideoFormat, 10, {Op::Dec, 0x2200}, 10},
-    {Id::VideoFormat, 99, {Op::Inc, 0x2200}, 99},
     // Values written from one on, or stepped to as a page shows them.
     {Id::VideoNoiseReduction, 1, {Op::SetVideoNR, 0, 3, 1}, 1},
     {Id::ColorTempGainG, 100, {Op::IncrementColorTempGain, 0, 1, -28}, 101, "-27"},

@@ -118,6 +118,7 @@ TEST(FaultPanel, SetsAndRemovesFaultsOfTheSelectedProjector) {
   QComboBox& power = Find<QComboBox>(panel, "Power");
   auto& delay = *panel.findChild<QSpinBox*>();
   for (QWidget* control : {static_cast<QWidget*>(&power), static_cast<QWidget*>(&delay)}) {
+    control->clearFocus();  // which the panel's first control has once its window is active
     const QString before = power.currentText() + delay.text();
     QWheelEvent wheel(QPointF(5, 5), control->mapToGlobal(QPointF(5, 5)), {}, {0, -120},
                       Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);

@@ -81,9 +81,8 @@ class Served {
 };
 
 const std::string kGreeting = "PJLINK 0\r";
-const std::string kFirstClass = "%1CLSS=1\r";
 const std::string kOn = "%1POWR=1\r";
-const Peer::Behaviour kGood = Peer::Says({kGreeting, kFirstClass, kOn});
+const Peer::Behaviour kGood = Peer::Says({kGreeting, kOn});
 
 TEST(PjLinkTest, EveryOperationReachesTheProjector) {
   const Served served({});
@@ -156,11 +155,10 @@ TEST(PjLinkTest, WhateverThePeerDoesTheStateIsClearAndOldRepliesAreDropped) {
     const char* answers = "1";
     Peer::Behaviour second = kGood;
   };
-  const auto replies = [](const std::string& text) {
-    return Peer::Says({kGreeting, kFirstClass, text});
-  };
-  const auto breaks = Peer::Says({kGreeting, kFirstClass, kOn, ""}, false);
-  const auto standby = replies("%1POWR=0\r");
+  const auto replies = [](const std::string& text) { return Peer::Says({kGreeting, text}); };
+  const auto breaks = Peer::Says({kGreeting, kOn, ""}, false);
+  const std::string off = "%1POWR=0\r";
+  const auto standby = replies(off);
   const auto does = replies("%1POWR=OK\r");
   std::vector<Case> cases = {
       {Peer::Says({}), "?", State::NoAnswer},
@@ -172,20 +170,27 @@ TEST(PjLinkTest, WhateverThePeerDoesTheStateIsClearAndOldRepliesAreDropped) {
       {replies("\r"), "?", State::NotUnderstood},
       {replies("%1POWR ?\r"), "?", State::NotUnderstood},
       {replies("%2POWR=1\r"), "?", State::NotUnderstood},
-      {replies("%1INPT=31\r"), "?", State::NotUnderstood},
+      {replies("%1INPT=31\r"), "?", State::NoAnswer},
       {replies("%1POWR=" + std::string(129, '1') + '\r'), "?", State::NotUnderstood},
       {replies(kOn), "1", State::Connected, true, {kGetPower}, "0", standby},
       {replies(kOn), "1", State::Connected, true, {Do(Op::SetPowerOn)}, "0", does},
-      {replies(kOn + kOn), "1", State::Connected, false, {kGetPower}, "0", standby},
-      {Peer::Says({kGreeting + '\n', kFirstClass + '\n', kOn + '\n', kOn}), "1", State::Connected},
+      {replies(kOn + "%1POWR"), "1", State::Connected, false, {kGetPower}, "0", standby},
+      {Peer::Says({kGreeting, "%1INPT=31\r" + kOn + kOn, off}),
+       "1",
+       State::Connected,
+       false,
+       {kGetPower},
+       "0"},
+      {Peer::Says({"PJLINK ERRA\r"}), "?", State::PasswordRequired},
+      {Peer::Says({kGreeting + '\n', kOn + '\n', kOn}), "1", State::Connected},
       {breaks, "1", State::Connected, false, {kGetPower}, "0", standby},
       {breaks, "1", State::Connected, false, {Do(Op::SetPowerOn), kGetPower}, "? 1"}};
   for (std::size_t length = 0; length < kOn.size(); ++length) {
     const std::string begin = kOn.substr(0, length);
-    cases.push_back({Peer::Says({kGreeting, kFirstClass, begin}, false), "?", State::Lost});
+    cases.push_back({Peer::Says({kGreeting, begin}, false), "?", State::Lost});
   }
   for (const auto* const text : {"%1POWR=7\r", "%1POWR=ERR3\r", "%1POWR=ERR4\r", "%1POWR=\r"}) {
-    const auto refuses = Peer::Says({kGreeting, "%1clss=ERR1\r", text, "%1powr=3\r"});
+    const auto refuses = Peer::Says({kGreeting, text, "%1powr=3\r"});
     cases.push_back({refuses, "-", State::Connected});
   }
   for (const Case& one : cases) {
@@ -200,16 +205,30 @@ TEST(PjLinkTest, WhateverThePeerDoesTheStateIsClearAndOldRepliesAreDropped) {
   }
 }
 
-TEST(PjLinkTest, InputsAreAskedForWithReadsAndAgainAfterAPause) {
-  Peer peer(Way::Tcp,
-            {Peer::Says({kGreeting, "%1CLSS=2\r", kOn, "%2INST=ERR3\r", kOn, kOn, "%1POWR=OK\r",
-                         "%2INST=31 5A\r", "%2INNM=Bü\x1Bro\r", "%2INNM=ERR1\r", kOn, kOn})});
-  PjLinkChannel channel(kHost, peer.port, "", {.inputs = 1s, .firstPause = 400ms});
+/// How often a channel used its idle time until it had nothing more to do.
+int Idle(ProjectorChannel& channel) {
+  int used = 1;
+  for (; channel.UseIdleTime(); ++used) continue;
+  return used;
+}
+
+TEST(PjLinkTest, InputsAreAskedForWhenIdleAndAgainAfterAPause) {
+  // Closes after each reply, as some do.
+  const auto says = [](const std::string& text) { return Peer::Says({kGreeting, text}, false); };
+  Peer peer(Way::Tcp, {says(kOn), says("%1CLSS=2\r"), says("%2INST=ERR3\r"), says("%1POWR=OK\r"),
+                       says("%2INST=31 71  3a 5A\r"), says("%2INNM=Bü\x1Bro\r"),
+                       says("%2INNM=ERR1\r"), says("%2INPT=6Z\r"), says("%2INNM=Own\r")});
+  PjLinkChannel channel(kHost, peer.port, "", {.firstPause = 400ms});
   EXPECT_FALSE(channel.Inputs());
-  EXPECT_EQ(Replies(channel, {kGetPower, kGetPower, kGetPower}), "1 1 1");
-  std::this_thread::sleep_for(400ms);
-  EXPECT_EQ(Replies(channel, {Do(Op::SetPowerOn), kGetPower, kGetPower}), "0 1 1");
+  EXPECT_EQ(Idle(channel), 1) << "before any command was answered";
+  EXPECT_EQ(Replies(channel, {kGetPower}), "1");
+  EXPECT_EQ(Idle(channel) + Idle(channel), 2);
+  EXPECT_EQ(Replies(channel, {Do(Op::SetPowerOn)}, 400ms), "0");
+  EXPECT_EQ(Idle(channel), 3);
   EXPECT_EQ(channel.Inputs(), SourcesOf({{31, "Büro"}, {510, "Network A"}}));
+  EXPECT_EQ(Replies(channel, {Do(Op::GetInputSource)}), "635");
+  EXPECT_EQ(Idle(channel), 1);
+  EXPECT_EQ(channel.Inputs()->names.at(2), MakeNameSlot("Own")) << "plays, whatever the list says";
 }
 
 TEST(PjLinkTest, SaysWhyItCannotConnect) {

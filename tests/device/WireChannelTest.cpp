@@ -1,3 +1,4 @@
+#include <atomic>
 #include <functional>
 #include <optional>
 #include <thread>
@@ -220,18 +221,15 @@ TEST(WireChannelTest, AnnouncedReadsGoOutTogetherAndAreAnsweredInOrder) {
 }
 
 TEST(WireChannelTest, AnnouncingAgainLeavesNoMoreThan64Unanswered) {
-  const std::vector<PjtCommand> reads(80, Get(5));
-  std::size_t received = 0;
-  {
-    const Peer peer(Way::Tcp, {Answers([&](End& end, const std::string& answer) {
-                      if (received == 0) end.Send(answer.substr(0, kWelcomeSize + kReplySize));
-                      received += answer.size() / kReplySize;
-                    })});
-    const auto channel = ChannelTo(peer);
-    for (const auto* const reply : {"5", "?"}) {
-      channel->Announce(reads);
-      EXPECT_EQ(Replies(*channel, {Get(5)}), reply);
-    }
+  std::atomic<std::size_t> received = 0;
+  const Peer peer(Way::Tcp, {Answers([&](End& end, const std::string& answer) {
+                    if (received == 0) end.Send(answer.substr(0, kWelcomeSize + kReplySize));
+                    received += answer.size() / kReplySize;
+                  })});
+  const auto channel = ChannelTo(peer);
+  for (const auto* const reply : {"5", "?"}) {
+    channel->Announce(std::vector(80, Get(5)));
+    EXPECT_EQ(Replies(*channel, {Get(5)}), reply);
   }
   EXPECT_EQ(received, 1 + 64);
 }

@@ -24,8 +24,9 @@ using Clock = std::chrono::steady_clock;
 constexpr std::chrono::milliseconds kPause{2};
 constexpr std::chrono::milliseconds kStandstill{30};
 
-// To fail once more within this time costs nothing.
+// To fail once more within this time costs little.
 constexpr std::chrono::milliseconds kQuickFailure{100};
+constexpr std::chrono::milliseconds kRetryAfterQuickFailure{200};
 
 PjtReply Unanswered(const PjtCommand& command) {
   return {.result = RefusedResult(command.operation), .answered = false};
@@ -211,9 +212,10 @@ PjtReply BoundedChannel::Execute(const PjtCommand& command) {
   if (wait.reply && wait.reply->answered) return *wait.reply;
   if (!wait.abandoned) {
     state->abandoned = false;
-    if (state->lastReturn > start + kQuickFailure) {
-      state->silentUntil = state->lastReturn + state->limits.retryAfter;
-    }
+    const auto pause = state->limits.retryAfter;
+    const bool isQuick = state->lastReturn <= start + kQuickFailure;
+    state->silentUntil =
+        state->lastReturn + (isQuick ? std::min(pause, kRetryAfterQuickFailure) : pause);
   }
   return wait.reply.value_or(Unanswered(command));
 }

@@ -15,7 +15,8 @@
 /// A command started from inside that loop is refused. A command without an answer in time yields
 /// an unanswered refusal; from then on further commands fail at once, until the retry interval is
 /// over and the outstanding command has come back. So a projector that does not answer costs one
-/// time-out and not one per command. A command that fails quickly starts no retry interval.
+/// time-out and not one per command. After a command that failed quickly the interval is short:
+/// long enough for the rest of a page.
 ///
 /// What is announced reaches the inner channel together with the next command, unless it is
 /// abandoned before.

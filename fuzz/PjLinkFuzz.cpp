@@ -35,9 +35,7 @@ void ReadAsReply(std::string_view text) {
     const int read = value(line->parameter).value_or(0);
     Check(read >= 0 && read <= UINT16_MAX);
   }
-  const auto codes = PjLink::InputCodes(line->parameter);
-  if (!codes) return;
-  for (const std::string& code : *codes) {
+  for (const std::string& code : PjLink::InputCodes(line->parameter)) {
     const auto number = PjLink::InputNumber(code);
     Check(number && PjLink::InputCode(*number) == code);
   }

@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "app/profiles/ProjectorAccess.h"
-#include "device/BoundedChannel.h"
 #include "host/CAdvanceDlg.h"
 
 // The log stands outermost: it shows what the dialog got, also where a command was given up before
@@ -12,12 +11,17 @@ ProjectorSession::ProjectorSession(ProjectorProfile profile, LoggingChannel::Obs
     : profile_(std::move(profile)),
       simulator_(std::make_shared<SimulatedProjector>(SimulatedModelOf(profile_))),
       faultChannel_(std::make_shared<FaultChannel>(MakeWay())),
-      channel_(std::make_shared<LoggingChannel>(std::make_shared<BoundedChannel>(faultChannel_),
-                                                std::move(observer))) {}
+      channel_(std::make_shared<LoggingChannel>(
+          std::make_shared<BoundedChannel>(faultChannel_, Bounds()), std::move(observer))) {}
 
 std::shared_ptr<ProjectorChannel> ProjectorSession::MakeWay() {
   if (profile_.Link == ProjectorLink::Simulated) return simulator_;
   return MakeUnboundedChannel(AddressOf(profile_));
+}
+
+BoundedChannel::Limits ProjectorSession::Bounds() const {
+  if (profile_.Link == ProjectorLink::Simulated) return {};
+  return BoundsFor(AddressOf(profile_));
 }
 
 void ProjectorSession::SetFault(const FaultTarget& target, const Fault& fault) {

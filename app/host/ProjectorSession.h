@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "app/profiles/ProfileFile.h"
+#include "device/BoundedChannel.h"
 #include "device/LoggingChannel.h"
 #include "simulator/FaultChannel.h"
 #include "simulator/SimulatedProjector.h"
@@ -43,6 +44,7 @@ class ProjectorSession {
 
  private:
   std::shared_ptr<ProjectorChannel> MakeWay();
+  BoundedChannel::Limits Bounds() const;
 
   ProjectorProfile profile_;
   std::shared_ptr<SimulatedProjector> simulator_;

@@ -5,6 +5,7 @@
 #include <QCommandLineParser>
 
 #include "app/simulator/ControlServer.h"
+#include "device/ModelData.h"
 
 namespace {
 
@@ -70,6 +71,9 @@ Arguments ParseArguments(const QStringList& arguments) {
     return Wrong(QStringLiteral("--address: '%1' is no address.").arg(parser.value(address)));
   }
   service.password = parser.value(password).toStdString();
+  if (constexpr std::size_t most = NameSlot{}.size(); service.password.size() > most) {
+    return Wrong(QStringLiteral("--password: is longer than %1 bytes.").arg(most));
+  }
   service.serial = parser.isSet(serial);
   for (const QCommandLineOption& option : {port, control}) {
     if (!Port(parser.value(option)) && (parser.isSet(option))) {

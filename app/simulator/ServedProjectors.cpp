@@ -25,6 +25,16 @@ PjLinkServer::Options PjLinkOptions(const ProjectorProfile& profile, const std::
   return {.password = password, .served = std::move(served)};
 }
 
+// Adds "NAME (WAY)", or "NAME (WAY 2)" and so on where a projector is called so already.
+QString AddName(QStringList& names, const QString& name, const QString& way) {
+  QString added = QStringLiteral("%1 (%2)").arg(name, way);
+  for (int i = 2; names.contains(added); ++i) {
+    added = QStringLiteral("%1 (%2 %3)").arg(name, way).arg(i);
+  }
+  names.append(added);
+  return added;
+}
+
 }  // namespace
 
 ServedProjectors::ServedProjectors(const std::vector<ProjectorProfile>& profiles,
@@ -100,13 +110,15 @@ QJsonObject ServedProjectors::NetworkConnection(int port, const std::string& pas
 QByteArray ServedProjectors::Profiles(const QByteArray& original) const {
   QJsonObject file = QJsonDocument::fromJson(original).object();
   QJsonArray entries;
+  QStringList names;
+  for (const Service& service : services_) names.append(QString::fromStdString(service.name));
   for (const auto& value : file["projectors"].toArray()) {
     QJsonObject entry = value.toObject();
     const QString name = entry["name"].toString();
     const auto service = std::ranges::find(services_, name.toStdString(), &Service::name);
     if (service == services_.end()) continue;
-    const auto add = [&](const QString& suffix, const char* link, const QJsonObject& connection) {
-      entry["name"] = name + suffix;
+    const auto add = [&](const QString& way, const char* link, const QJsonObject& connection) {
+      if (!way.isEmpty()) entry["name"] = AddName(names, name, way);
       entry["link"] = QLatin1String(link);
       entry["connection"] = connection;
       entries.append(entry);
@@ -115,12 +127,12 @@ QByteArray ServedProjectors::Profiles(const QByteArray& original) const {
     // There the inputs have other numbers, which the projector tells.
     const QJsonValue sources = entry.value("mySources");
     entry["mySources"] = QJsonArray();
-    add(" (PJLink)", "pjlink", NetworkConnection(service->pjLinkPort, options_.password));
+    add("PJLink", "pjlink", NetworkConnection(service->pjLinkPort, options_.password));
     entry.remove("mySources");
     if (!sources.isUndefined()) entry["mySources"] = sources;
     if (service->terminal.empty()) continue;
     const QJsonObject serial{{"port", 1}, {"device", QString::fromStdString(service->terminal)}};
-    add(" (serial)", "serial", {{"serial", serial}});
+    add("serial", "serial", {{"serial", serial}});
   }
   file["projectors"] = entries;
   return QJsonDocument(file).toJson();

@@ -57,8 +57,10 @@ std::optional<QString> Choose(std::vector<ProjectorProfile>& profiles, const QSt
 
 QString Write(const QString& fileName, const QByteArray& text) {
   QSaveFile file(fileName);
-  const bool written = file.open(QIODevice::WriteOnly) && file.write(text) == text.size() &&
-                       file.flush() && file.commit();
+  // The password stands in it.
+  const bool written = file.open(QIODevice::WriteOnly) &&
+                       file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner) &&
+                       file.write(text) == text.size() && file.flush() && file.commit();
   return written ? QString()
                  : QStringLiteral("cannot write %1: %2").arg(fileName, file.errorString());
 }

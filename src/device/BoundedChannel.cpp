@@ -24,6 +24,10 @@ using Clock = std::chrono::steady_clock;
 constexpr std::chrono::milliseconds kPause{2};
 constexpr std::chrono::milliseconds kStandstill{30};
 
+// To fail once more within this time costs little.
+constexpr std::chrono::milliseconds kQuickFailure{100};
+constexpr std::chrono::milliseconds kRetryAfterQuickFailure{200};
+
 PjtReply Unanswered(const PjtCommand& command) {
   return {.result = RefusedResult(command.operation), .answered = false};
 }
@@ -36,6 +40,14 @@ PjtReply Ask(ProjectorChannel& channel, const std::optional<std::vector<PjtComma
     return channel.Execute(command);
   } catch (...) {
     return Unanswered(command);
+  }
+}
+
+bool SpendIdleTime(ProjectorChannel& channel) {
+  try {
+    return channel.UseIdleTime();
+  } catch (...) {  // likewise
+    return false;
   }
 }
 
@@ -71,8 +83,9 @@ struct BoundedChannel::State {
   // All below under the mutex.
   std::optional<PjtCommand> command;                 ///< Given, and not yet taken by the worker.
   std::optional<std::vector<PjtCommand>> announced;  ///< Likewise.
-  bool outstanding = false;  ///< Given, and not yet back from the inner channel.
-  bool abandoned = false;    ///< The outstanding one is waited for by the next command.
+  bool outstanding = false;   ///< Given, and not yet back from the inner channel.
+  bool usesIdleTime = false;  ///< The inner channel, right now.
+  bool abandoned = false;     ///< The outstanding one is waited for by the next command.
   bool ended = false;
   Wait* waiting = nullptr;
   Wait* recipient = nullptr;  ///< Who gets the reply to the outstanding command; may be nobody.
@@ -91,8 +104,17 @@ void BoundedChannel::State::WakeUp() {
 
 void BoundedChannel::State::Work() {
   std::unique_lock lock(mutex);
+  const auto isCalled = [this] { return ended || command; };
+  bool hasMoreToDo = false;
   while (true) {
-    commandGiven.wait(lock, [this] { return ended || command; });
+    while (hasMoreToDo && !commandGiven.wait_for(lock, limits.idle, isCalled)) {
+      usesIdleTime = true;
+      lock.unlock();
+      hasMoreToDo = SpendIdleTime(*inner);
+      lock.lock();
+      usesIdleTime = false;
+    }
+    commandGiven.wait(lock, isCalled);
     if (ended) {
       const auto last = std::exchange(inner, nullptr);
       lock.unlock();
@@ -104,6 +126,7 @@ void BoundedChannel::State::Work() {
     const PjtReply answer = Ask(*inner, reads, taken);
     lock.lock();
     outstanding = false;
+    hasMoreToDo = answer.answered;
     if (Wait* to = std::exchange(recipient, nullptr)) to->reply = answer;
     WakeUp();
   }
@@ -141,7 +164,7 @@ BoundedChannel::~BoundedChannel() {
   {
     const std::lock_guard lock(state_->mutex);
     state_->ended = true;
-    returnsSoon = !state_->outstanding;
+    returnsSoon = !state_->outstanding && !state_->usesIdleTime;
   }
   state_->commandGiven.notify_one();
   if (!state_->worker.joinable()) return;
@@ -170,7 +193,8 @@ PjtReply BoundedChannel::Execute(const PjtCommand& command) {
 
   Wait wait;
   state->waiting = &wait;
-  if (const auto now = Clock::now(); now > state->lastReturn + kPause) state->stillSince = now;
+  const Clock::time_point start = Clock::now();
+  if (start > state->lastReturn + kPause) state->stillSince = start;
   const bool free =
       !state->outstanding || state->WaitUntil(lock, wait, [&] { return !state->outstanding; });
   if (free && !state->ended) {
@@ -188,7 +212,10 @@ PjtReply BoundedChannel::Execute(const PjtCommand& command) {
   if (wait.reply && wait.reply->answered) return *wait.reply;
   if (!wait.abandoned) {
     state->abandoned = false;
-    state->silentUntil = Clock::now() + state->limits.retryAfter;
+    const auto pause = state->limits.retryAfter;
+    const bool isQuick = state->lastReturn <= start + kQuickFailure;
+    state->silentUntil =
+        state->lastReturn + (isQuick ? std::min(pause, kRetryAfterQuickFailure) : pause);
   }
   return wait.reply.value_or(Unanswered(command));
 }

@@ -15,7 +15,8 @@
 /// A command started from inside that loop is refused. A command without an answer in time yields
 /// an unanswered refusal; from then on further commands fail at once, until the retry interval is
 /// over and the outstanding command has come back. So a projector that does not answer costs one
-/// time-out and not one per command.
+/// time-out and not one per command. After a command that failed quickly the interval is short:
+/// long enough for the rest of a page.
 ///
 /// What is announced reaches the inner channel together with the next command, unless it is
 /// abandoned before.
@@ -32,6 +33,8 @@ class ADVANCED_CONTROL_EXPORT BoundedChannel : public ProjectorChannel {
     std::chrono::milliseconds retryAfter{3000};  ///< Counted from the unanswered command's end.
     /// Waited for before the event loop runs; less where many such waits would hold it up.
     std::chrono::milliseconds quickAnswer{5};
+    /// Without a command, after one that was answered; then the inner channel may use the time.
+    std::chrono::milliseconds idle{50};
   };
 
   explicit BoundedChannel(std::shared_ptr<ProjectorChannel> inner)

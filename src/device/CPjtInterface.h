@@ -38,7 +38,7 @@ class ADVANCED_CONTROL_EXPORT CPjtInterface {
   ConnectionState Connection() const;
 
   /// The inputs as the projector itself has told them, over PJLink; nothing as long as it has not.
-  /// From the first call on they are asked for together with what is read.
+  /// From the first call on they are asked for while nobody waits.
   std::optional<SourceList> Inputs() const;
 
   /// Takes the connection parameters. A text ends at its first zero or after 64 characters; null is

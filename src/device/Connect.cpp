@@ -4,7 +4,6 @@
 #include <charconv>
 #include <optional>
 
-#include "device/BoundedChannel.h"
 #include "device/PjLinkChannel.h"
 #include "device/SerialChannel.h"
 #include "device/TcpChannel.h"
@@ -148,5 +147,10 @@ std::shared_ptr<ProjectorChannel> MakeUnboundedChannel(
 std::shared_ptr<ProjectorChannel> MakeChannel(const ProjectorAddress& address) {
   auto channel = MakeUnboundedChannel(address);
   if (std::holds_alternative<AddressError>(address)) return channel;
-  return std::make_shared<BoundedChannel>(std::move(channel));
+  return std::make_shared<BoundedChannel>(std::move(channel), BoundsFor(address));
+}
+
+BoundedChannel::Limits BoundsFor(const ProjectorAddress& address) {
+  if (!std::holds_alternative<PjLinkAddress>(address)) return {};
+  return {.timeOut = PjLinkChannel::Limits().Longest()};
 }

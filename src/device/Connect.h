@@ -9,6 +9,7 @@
 #include <variant>
 
 #include "AdvancedControlExport.h"
+#include "device/BoundedChannel.h"
 #include "device/ModelDataIntake.h"
 #include "device/ProjectorChannel.h"
 #include "device/WireFrame.h"
@@ -68,6 +69,9 @@ inline std::string SerialDevice(int number) { return "/dev/ttyS" + std::to_strin
 /// an `AddressError` leaves every command unanswered at once. Never null.
 ADVANCED_CONTROL_EXPORT std::shared_ptr<ProjectorChannel> MakeChannel(
     const ProjectorAddress& address);
+
+/// The bounds for a `BoundedChannel` around a way to that address.
+ADVANCED_CONTROL_EXPORT BoundedChannel::Limits BoundsFor(const ProjectorAddress& address);
 
 /// The same without a bound, for a host that puts a channel of its own around it and a
 /// `BoundedChannel` around both, or for threads that may wait as long as the channel itself does:

@@ -16,6 +16,8 @@ using Op = PjtOperation;
 using Parameter = std::optional<std::string>;
 
 constexpr qint64 kReadBuffer = 512;  // more than any line
+constexpr qsizetype kMostUnasked = 4 * kReadBuffer;
+constexpr std::size_t kMostInputs = SourceList::kCapacity;
 
 enum class Class {
   First,
@@ -115,40 +117,29 @@ PjLinkChannel::PjLinkChannel(std::string host, int port, std::string password, c
 PjLinkChannel::~PjLinkChannel() = default;
 
 PjtReply PjLinkChannel::Execute(const PjtCommand& command) {
-  if (asksForInputs_ && isAnswering_ && IsRead(command.operation) && Clock::now() >= nextTry_) {
-    AskForInputs();
-  }
-  const PjtReply reply = Perform(command);
-  if (reply.offered) isAnswering_ = reply.answered;
-  return reply;
-}
-
-PjtReply PjLinkChannel::Perform(const PjtCommand& command) {
   const int refused = RefusedResult(command.operation);
+  const PjtReply notOffered{.result = refused, .offered = false};
+  const PjtReply unanswered{.result = refused, .answered = false};
   const Mapping* const mapping = Find(command);
-  if (!mapping) return {.result = refused, .offered = false};
+  if (!mapping) return notOffered;
   const Parameter parameter = mapping->parameter(command.first);
   if (!parameter) return {.result = refused};
 
-  const auto ask = [&]() -> std::optional<std::string> {
-    if (!Connect()) return std::nullopt;
-    if (mapping->protocolClass == Class::First) return Ask('1', mapping->command, *parameter);
-    if (mapping->protocolClass == Class::Second && projectorClass_ == '1') {
-      return std::string(PjLink::kUndefined);
-    }
-    return Ask(projectorClass_, mapping->command, *parameter);
-  };
-  const bool reused = IsUsable();
-  Parameter answer = ask();
-  const bool isRead = mapping->value != nullptr;
-  if (!answer && reused && isRead && state_ == ConnectionState::Lost) answer = ask();
-  if (!answer) return {.result = refused, .answered = false};
-
-  if (PjLink::SameWord(*answer, PjLink::kUndefined)) return {.result = refused, .offered = false};
-  const std::optional<int> value = isRead ? mapping->value(*answer)
+  char protocolClass = '1';
+  if (mapping->protocolClass != Class::First) {
+    const auto known = ProjectorClass();
+    if (!known) return unanswered;
+    if (mapping->protocolClass == Class::Second && *known == '1') return notOffered;
+    protocolClass = *known;
+  }
+  const Parameter answer = Ask(protocolClass, mapping->command, *parameter);
+  if (!answer) return unanswered;
+  if (PjLink::SameWord(*answer, PjLink::kUndefined)) return notOffered;
+  const std::optional<int> value = mapping->value ? mapping->value(*answer)
                                    : PjLink::SameWord(*answer, PjLink::kDone) ? std::optional(0)
                                                                               : std::nullopt;
   if (!value) return {.result = refused};
+  if (mapping->value == PjLink::InputNumber) playing_ = *value;
   return {.result = AcceptedResult(command.operation), .value = static_cast<std::int16_t>(*value)};
 }
 
@@ -161,77 +152,90 @@ std::optional<PjLinkDescription> PjLinkChannel::Describe() {
     if (!answer) return std::nullopt;
     *text = std::move(*answer);
   }
-  const auto codes = InputCodes();
+  auto codes = InputCodes();
   if (!codes) return std::nullopt;
-  for (const std::string& code : *codes) {
-    auto input = Input(code);
-    if (!input) return std::nullopt;
-    description.inputs.push_back(std::move(*input));
+  codes_ = std::move(*codes);
+  inputs_.clear();
+  while (const auto code = NextInput()) {
+    if (!AskForInput(*code)) return std::nullopt;
   }
-  description.protocolClass = projectorClass_ - '0';
+  description.inputs = inputs_;
+  description.protocolClass = *ProjectorClass() - '0';
   Drop(ConnectionState::Unused);
   return description;
 }
 
 std::optional<SourceList> PjLinkChannel::Inputs() {
+  asksForInputs_ = true;
   const std::lock_guard lock(toldMutex_);
-  if (!told_) asksForInputs_ = true;
   return told_;
 }
 
-void PjLinkChannel::AskForInputs() {
-  const auto end = Clock::now() + limits_.inputs;
-  do {
-    if (!AskForNextInput()) {
-      nextTry_ = Clock::now() + pause_;
-      pause_ = std::min(2 * pause_, limits_.longestPause);
-      return;
-    }
-  } while (asksForInputs_ && Clock::now() < end);
-}
-
-bool PjLinkChannel::AskForNextInput() {
+bool PjLinkChannel::UseIdleTime() {
+  const auto code = NextInput();
+  const bool isDue = asksForInputs_ && state_ == ConnectionState::Connected &&
+                     Clock::now() >= nextTry_ && (codes_.empty() || code);
+  if (!isDue) return false;
   if (codes_.empty()) {
     codes_ = InputCodes().value_or(std::vector<std::string>());
-    if (codes_.size() > SourceList::kCapacity) codes_.resize(SourceList::kCapacity);
-    return !codes_.empty();
-  }
-  auto input = Input(codes_[inputs_.size()]);
-  if (!input) return false;
-  inputs_.push_back(std::move(*input));
-  if (inputs_.size() == codes_.size()) {
+    if (!codes_.empty()) return true;
+  } else if (AskForInput(*code)) {
+    if (NextInput()) return true;
+    pause_ = limits_.firstPause;
     const std::lock_guard lock(toldMutex_);
     told_ = SourcesOf(inputs_);
-    asksForInputs_ = false;
+    return false;
   }
-  return true;
+  nextTry_ = Clock::now() + pause_;
+  pause_ = std::min(2 * pause_, limits_.longestPause);
+  state_ = ConnectionState::Connected;  // as far as any command tells
+  return false;
 }
 
 std::optional<std::vector<std::string>> PjLinkChannel::InputCodes() {
-  if (!Connect()) return std::nullopt;
-  const auto list = AskText(projectorClass_, "INST");
-  if (!list) return std::nullopt;
-  return PjLink::InputCodes(*list).value_or(std::vector<std::string>());
+  const auto known = ProjectorClass();
+  const auto list = known ? AskText(*known, "INST") : std::nullopt;
+  return list ? std::optional(PjLink::InputCodes(*list)) : std::nullopt;
 }
 
-std::optional<PjLinkInput> PjLinkChannel::Input(const std::string& code) {
-  if (!Connect()) return std::nullopt;
-  std::string name;
-  if (projectorClass_ != '1') {
-    auto answer = AskText(projectorClass_, "INNM", std::string(PjLink::kQuery) + code);
-    if (!answer) return std::nullopt;
-    name = std::move(*answer);
-  }
-  return PjLinkInput{.number = *PjLink::InputNumber(code),
-                     .name = name.empty() ? NameByCode(code) : std::move(name)};
+std::optional<std::string> PjLinkChannel::NextInput() const {
+  if (inputs_.size() < std::min(codes_.size(), kMostInputs)) return codes_[inputs_.size()];
+  const auto isPlaying = [this](const PjLinkInput& input) { return input.number == playing_; };
+  return std::ranges::any_of(inputs_, isPlaying) ? std::nullopt : PjLink::InputCode(playing_);
 }
 
-/// Whether the connection stands, and nothing came that nobody asked for.
+bool PjLinkChannel::AskForInput(const std::string& code) {
+  const auto known = ProjectorClass();
+  auto name = !known         ? std::nullopt
+              : known == '1' ? std::optional(std::string())
+                             : AskText(*known, "INNM", std::string(PjLink::kQuery) + code);
+  if (!name) return false;
+  if (name->empty()) *name = NameByCode(code);
+  if (inputs_.size() == kMostInputs) inputs_.pop_back();
+  inputs_.push_back({.number = *PjLink::InputNumber(code), .name = std::move(*name)});
+  return true;
+}
+
+std::optional<char> PjLinkChannel::ProjectorClass() {
+  if (class_) return class_;
+  const auto answer = Ask('1', "CLSS", PjLink::kQuery);
+  if (!answer) return std::nullopt;
+  if (*answer == "1" || *answer == "2") class_ = answer->front();
+  if (PjLink::SameWord(*answer, PjLink::kUndefined)) class_ = '1';
+  return class_.value_or('1');
+}
+
+/// Whether the connection stands. What came meanwhile answers nothing that will be asked; where it
+/// ends in mid-line, its rest would come later.
 bool PjLinkChannel::IsUsable() {
   if (!socket_) return false;
-  socket_->waitForReadyRead(0);
-  const QByteArray rest = socket_->peek(2);
-  return (rest.isEmpty() || rest == "\n") && socket_->state() == QAbstractSocket::ConnectedState;
+  QByteArray unasked = socket_->readAll();
+  while (unasked.size() < kMostUnasked && socket_->waitForReadyRead(0)) {
+    unasked += socket_->readAll();
+  }
+  const bool isWhole = unasked.isEmpty() || unasked.endsWith('\r') || unasked.endsWith('\n');
+  return isWhole && unasked.size() < kMostUnasked &&
+         socket_->state() == QAbstractSocket::ConnectedState;
 }
 
 bool PjLinkChannel::Open() {
@@ -239,11 +243,12 @@ bool PjLinkChannel::Open() {
     Drop(ConnectionState::WrongParameters);
     return false;
   }
-  state_ = ConnectionState::Connecting;
+  Drop(ConnectionState::Connecting);
   const QDeadlineTimer deadline(limits_.connect);
   auto problem = ConnectionState::NotReachable;
   socket_ = ConnectSocket(host_, static_cast<std::uint16_t>(port_), kReadBuffer, deadline, problem);
   if (!socket_) {
+    class_.reset();  // another projector may come
     Drop(problem);
     return false;
   }
@@ -251,14 +256,10 @@ bool PjLinkChannel::Open() {
   if (!greeting) return false;
   const auto seed = PjLink::ParseGreeting(*greeting);
   if (!seed) {
-    Drop(ConnectionState::NotUnderstood);
+    DropOnLine(*greeting);
     return false;
   }
   proof_ = seed->empty() ? std::string() : PjLink::Digest(*seed, password_);
-  const auto answer = Ask('1', "CLSS", PjLink::kQuery);
-  if (!answer) return false;
-  projectorClass_ = *answer == "2" ? '2' : '1';
-  state_ = ConnectionState::Connected;
   return true;
 }
 
@@ -267,10 +268,20 @@ void PjLinkChannel::Drop(ConnectionState state) {
   state_ = state;
 }
 
+/// On a line that nothing can be done with.
+void PjLinkChannel::DropOnLine(std::string_view line) {
+  Drop(PjLink::SameWord(line, PjLink::kWrongPassword) ? ConnectionState::PasswordRequired
+                                                      : ConnectionState::NotUnderstood);
+}
+
 std::optional<std::string> PjLinkChannel::ReadLine(std::size_t bound,
                                                    const QDeadlineTimer& deadline) {
   const auto longest = static_cast<qsizetype>(bound);
   while (true) {
+    if (deadline.hasExpired()) {
+      Drop(ConnectionState::NoAnswer);
+      return std::nullopt;
+    }
     const QByteArray seen = socket_->peek(longest + 1);
     const qsizetype start = seen.startsWith('\n') ? 1 : 0;  // some end their lines with CR LF
     const auto end = seen.indexOf('\r');
@@ -290,11 +301,9 @@ std::optional<std::string> PjLinkChannel::ReadLine(std::size_t bound,
   }
 }
 
-/// As `Ask` on a connection that need not be usable yet, without what is no text; empty where the
-/// projector tells an error.
+/// As `Ask`, without what is no text; empty where the projector tells an error.
 std::optional<std::string> PjLinkChannel::AskText(char protocolClass, std::string_view command,
                                                   std::string_view parameter) {
-  if (!Connect()) return std::nullopt;
   const auto answer = Ask(protocolClass, command, parameter);
   if (!answer || IsError(*answer)) return answer ? std::optional(std::string()) : std::nullopt;
   QString text = QString::fromStdString(*answer);
@@ -302,22 +311,35 @@ std::optional<std::string> PjLinkChannel::AskText(char protocolClass, std::strin
   return text.toStdString();
 }
 
-/// The parameter of the reply, `OK` and errors included. The connection must be usable; nothing
-/// when it is not any more.
+/// The parameter of the reply, `OK` and errors included. A question is asked once more where a
+/// connection that was there before turns out to be lost.
 std::optional<std::string> PjLinkChannel::Ask(char protocolClass, std::string_view command,
                                               std::string_view parameter) {
+  const bool isReused = IsUsable();
+  if (!isReused && !Open()) return std::nullopt;
+  auto answer = Exchange(protocolClass, command, parameter);
+  const bool mayRepeat = isReused && parameter.starts_with(PjLink::kQuery);
+  if (answer || !mayRepeat || state_ != ConnectionState::Lost || !Open()) return answer;
+  return Exchange(protocolClass, command, parameter);
+}
+
+std::optional<std::string> PjLinkChannel::Exchange(char protocolClass, std::string_view command,
+                                                   std::string_view parameter) {
   const PjLink::Line request{protocolClass, std::string(command), ' ', std::string(parameter)};
   const std::string bytes = std::exchange(proof_, {}) + PjLink::Format(request) + '\r';
   socket_->write(bytes.data(), static_cast<qint64>(bytes.size()));
-  const auto text = ReadLine(command == "INST" ? PjLink::kLongestInputs : PjLink::kLongestLine,
-                             QDeadlineTimer(limits_.answer));
-  if (!text) return std::nullopt;
-  const auto reply = PjLink::Parse(*text);
-  if (reply && reply->separator == '=' && reply->protocolClass == protocolClass &&
-      PjLink::SameWord(reply->command, command)) {
-    return reply->parameter;
+  const QDeadlineTimer deadline(limits_.answer);
+  const std::size_t bound = command == "INST" ? PjLink::kLongestInputs : PjLink::kLongestLine;
+  while (const auto text = ReadLine(bound, deadline)) {
+    const auto reply = PjLink::Parse(*text);
+    const bool isReply = reply && reply->separator == '=';
+    if (isReply && !PjLink::SameWord(reply->command, command)) continue;
+    if (isReply && reply->protocolClass == protocolClass) {
+      state_ = ConnectionState::Connected;
+      return reply->parameter;
+    }
+    DropOnLine(*text);
+    break;
   }
-  Drop(PjLink::SameWord(*text, PjLink::kWrongPassword) ? ConnectionState::PasswordRequired
-                                                       : ConnectionState::NotUnderstood);
   return std::nullopt;
 }

@@ -43,25 +43,28 @@ ADVANCED_CONTROL_EXPORT SourceList SourcesOf(const std::vector<PjLinkInput>& inp
 /// of the projector. All else is refused at once, without traffic, as not offered.
 ///
 /// Connects when first used. A connection that the projector closed meanwhile, as many do after
-/// 30 seconds, is opened again; one that breaks while a reply is awaited leaves a change
-/// unanswered, and a read is asked once more. A reply that is none, or for something else, ends the
-/// connection and leaves the command unanswered.
+/// 30 seconds and some after each reply, is opened again; one that breaks while a reply is awaited
+/// leaves a change unanswered, and a read is asked once more. A reply to another command is
+/// dropped, as is what came before the request. Anything else that is no reply ends the connection
+/// and leaves the command unanswered. The class is asked for with the first command that needs it.
 ///
-/// Once its inputs are asked for, a few exchanges go before each read that follows an answer, until
-/// all are known: so a silent projector is not asked, no read of a slow one waits for long, and no
-/// change waits at all. After a failure there is a pause, which doubles with each further one.
+/// The inputs are asked for one by one while the channel is idle, once somebody wants them. After a
+/// failure there is a pause, which doubles with each further one. Where a list has no room for all,
+/// the one that plays takes the last place.
 ///
-/// Blocks without an event loop, up to the sum of the limits: belongs behind a `BoundedChannel`.
+/// Blocks without an event loop, up to `Limits::Longest`: belongs behind a `BoundedChannel`.
 class ADVANCED_CONTROL_EXPORT PjLinkChannel : public ProjectorChannel {
  public:
   struct Limits {
     std::chrono::milliseconds connect{2000};  ///< From the start until the projector has greeted.
     std::chrono::milliseconds answer{2000};   ///< For each request.
-    /// Of the time that a read takes; a last exchange and the read itself come on top.
-    std::chrono::milliseconds inputs{400};
     /// After inputs were not told. A projector in standby may tell them only once it is on.
     std::chrono::milliseconds firstPause{10'000};
     std::chrono::milliseconds longestPause{120'000};
+
+    /// What a command may take: connecting, the class and the command itself, behind a question for
+    /// inputs that was under way.
+    std::chrono::milliseconds Longest() const { return connect + 3 * answer; }
   };
 
   /// `host` is a name or an address. An empty password proves nothing to a projector that has one.
@@ -74,47 +77,50 @@ class ADVANCED_CONTROL_EXPORT PjLinkChannel : public ProjectorChannel {
 
   PjtReply Execute(const PjtCommand& command) override;
 
-  /// Asks the projector about itself, an exchange for each text and input name; nothing when one
-  /// stays unanswered. Ends with the connection closed, so that any thread may use the channel
-  /// next.
+  /// Asks the projector about itself, an exchange for each text and input name, as many as a source
+  /// list holds; nothing when one stays unanswered. Ends with the connection closed, so that any
+  /// thread may use the channel next.
   std::optional<PjLinkDescription> Describe();
 
   ConnectionState Connection() const override { return state_; }
   std::optional<SourceList> Inputs() override;
+  bool UseIdleTime() override;
 
  private:
   using Clock = std::chrono::steady_clock;
 
-  PjtReply Perform(const PjtCommand& command);
-  void AskForInputs();
-  /// One exchange; false when it brought nothing.
-  bool AskForNextInput();
   /// None when the projector tells none now; nothing when unanswered.
   std::optional<std::vector<std::string>> InputCodes();
-  std::optional<PjLinkInput> Input(const std::string& code);
+  /// The input to ask for next; nothing when all are known.
+  std::optional<std::string> NextInput() const;
+  bool AskForInput(const std::string& code);
+  /// '1' or '2'; nothing when unanswered.
+  std::optional<char> ProjectorClass();
   bool IsUsable();
   bool Open();
-  bool Connect() { return IsUsable() || Open(); }
   void Drop(ConnectionState state);
+  void DropOnLine(std::string_view line);
   std::optional<std::string> ReadLine(std::size_t bound, const QDeadlineTimer& deadline);
   std::optional<std::string> AskText(char protocolClass, std::string_view command,
                                      std::string_view parameter = "?");
   std::optional<std::string> Ask(char protocolClass, std::string_view command,
                                  std::string_view parameter);
+  std::optional<std::string> Exchange(char protocolClass, std::string_view command,
+                                      std::string_view parameter);
 
   const std::string host_;
   const int port_;
   const std::string password_;
   const Limits limits_;
   std::unique_ptr<QTcpSocket> socket_;
-  std::string proof_;  ///< Goes before the session's first request.
-  char projectorClass_ = '1';
+  std::string proof_;          ///< Goes before the session's first request.
+  std::optional<char> class_;  ///< Once it is known.
   std::atomic<ConnectionState> state_ = ConnectionState::Unused;
 
   std::atomic<bool> asksForInputs_ = false;
   std::vector<std::string> codes_;
-  std::vector<PjLinkInput> inputs_;  ///< Of the first of `codes_`.
-  bool isAnswering_ = false;         ///< As far as the last command tells.
+  std::vector<PjLinkInput> inputs_;  ///< Of the first of `codes_`, then of what plays beyond them.
+  int playing_ = 0;                  ///< The input as last read; 0 before.
   std::chrono::milliseconds pause_;
   Clock::time_point nextTry_{};
   std::mutex toldMutex_;

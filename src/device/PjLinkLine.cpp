@@ -141,12 +141,11 @@ std::optional<std::string> InputCode(int number) {
   return InputNumber(code) == number ? std::optional(code) : std::nullopt;
 }
 
-std::optional<std::vector<std::string>> InputCodes(std::string_view list) {
+std::vector<std::string> InputCodes(std::string_view list) {
   std::vector<std::string> codes;
   while (!list.empty()) {
     const std::string_view code = list.substr(0, list.find(' '));
-    if (!InputNumber(code)) return std::nullopt;
-    codes.emplace_back(code);
+    if (InputNumber(code)) codes.emplace_back(code);
     list.remove_prefix(std::min(list.size(), code.size() + 1));
   }
   return codes;

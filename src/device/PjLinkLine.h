@@ -64,8 +64,8 @@ ADVANCED_CONTROL_EXPORT std::optional<int> InputNumber(std::string_view code);
 
 /// The input's two characters.
 ADVANCED_CONTROL_EXPORT std::optional<std::string> InputCode(int number);
-/// The codes in a list of inputs.
-ADVANCED_CONTROL_EXPORT std::optional<std::vector<std::string>> InputCodes(std::string_view list);
+/// The codes in a list of inputs; what is none is passed over.
+ADVANCED_CONTROL_EXPORT std::vector<std::string> InputCodes(std::string_view list);
 /// The error status's six digits.
 ADVANCED_CONTROL_EXPORT std::string ErrorDigits(int errorStatus);
 

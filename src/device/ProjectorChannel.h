@@ -56,6 +56,11 @@ class ADVANCED_CONTROL_EXPORT ProjectorChannel {
   virtual ConnectionState Connection() const { return ConnectionState::None; }
 
   /// The inputs as the projector itself has told them; nothing as long as it has not. Waits for
-  /// nothing: once asked, a channel that can find them out does so with the reads that follow.
+  /// nothing: once asked, a channel that can find them out does so when it is idle.
   virtual std::optional<SourceList> Inputs() { return std::nullopt; }
+
+  /// Nobody waits for the projector, which has answered the last command: time for one exchange of
+  /// the channel's own. Whether there is more to do. Called on the thread of `Execute`, between two
+  /// commands. Never throws.
+  virtual bool UseIdleTime() { return false; }
 };

@@ -12,7 +12,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr std::size_t kMaximumBurst = 64;
+constexpr std::size_t kMostUnanswered = 64;
 constexpr int kIdlePieces = 64;  // taken of what came while nothing was asked
 
 bool IsForgotten(const std::optional<Wire::Reply>& reply) {
@@ -45,6 +45,7 @@ PjtReply WireChannel::Execute(const PjtCommand& command) {
   // It forgot us, as after a restart, and did nothing: so once more, from the hello on.
   if (IsForgotten(reply)) reply = ask();
   lastAsked_ = Clock::now();
+  if (IsForgotten(reply)) Fail(ConnectionState::NotUnderstood);
   if (!reply || IsForgotten(reply)) return unanswered;
   state_ = ConnectionState::Connected;
   switch (reply->status) {
@@ -86,6 +87,7 @@ bool WireChannel::Connect() {
   if (!line_) return Fail(problem);
   unsent_.clear();
   hello_ = ++sequence_;
+  answered_ = hello_;
   Wire::Append(unsent_, {.sequence = hello_, .message = Wire::Hello{}});
   // Without noise the first requests go out together with it.
   return medium_ == Medium::Reliable || (Write(deadline) && AwaitWelcome());
@@ -100,6 +102,8 @@ bool WireChannel::AwaitWelcome() {
 std::optional<Wire::Reply> WireChannel::Ask(const PjtCommand& command) {
   auto own = std::ranges::find(sent_, command, &Sent::command);
   if (own == sent_.end()) {
+    const auto hasRoom = [this] { return Room() > 0; };
+    if (!Await(hasRoom, QDeadlineTimer(limits_.answer))) return std::nullopt;
     const auto announced = std::ranges::find(announced_, command);
     if (announced == announced_.end()) {
       Send({&command, 1});
@@ -108,8 +112,8 @@ std::optional<Wire::Reply> WireChannel::Ask(const PjtCommand& command) {
       sent_.pop_back();
     } else {
       sent_.clear();
-      const std::size_t count = std::min<std::size_t>(
-          kMaximumBurst, static_cast<std::size_t>(announced_.end() - announced));
+      const std::size_t count =
+          std::min(Room(), static_cast<std::size_t>(announced_.end() - announced));
       Send({&*announced, count});
       announced_.erase(announced_.begin(), announced + static_cast<std::ptrdiff_t>(count));
     }
@@ -130,6 +134,11 @@ void WireChannel::Send(std::span<const PjtCommand> commands) {
     Wire::Append(unsent_, {.sequence = ++sequence_, .message = Wire::MakeRequest(command)});
     sent_.push_back({command, sequence_, {}});
   }
+}
+
+std::size_t WireChannel::Room() const {
+  const auto unanswered = static_cast<std::uint16_t>(sequence_ - answered_);
+  return kMostUnanswered - std::min<std::size_t>(unanswered, kMostUnanswered);
 }
 
 bool WireChannel::Write(const QDeadlineTimer& deadline) {
@@ -178,6 +187,8 @@ void WireChannel::Take(const Wire::Frame& frame) {
   if (const auto* welcome = std::get_if<Wire::Welcome>(&frame.message)) {
     if (frame.sequence == hello_ && !welcome_) welcome_ = *welcome;
   } else if (const auto* reply = std::get_if<Wire::Reply>(&frame.message)) {
+    const auto ahead = static_cast<std::uint16_t>(frame.sequence - answered_);
+    if (ahead <= static_cast<std::uint16_t>(sequence_ - answered_)) answered_ = frame.sequence;
     const auto sent = std::ranges::find(sent_, frame.sequence, &Sent::sequence);
     if (sent != sent_.end() && !sent->reply) sent->reply = *reply;
   }

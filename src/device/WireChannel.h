@@ -76,6 +76,8 @@ class ADVANCED_CONTROL_EXPORT WireChannel : public ProjectorChannel {
   bool AwaitWelcome();
   std::optional<Wire::Reply> Ask(const PjtCommand& command);
   void Send(std::span<const PjtCommand> commands);
+  /// How many more requests may be unanswered. The replies come in the order of the requests.
+  std::size_t Room() const;
   bool Write(const QDeadlineTimer& deadline);
   /// Receives until `arrived`; false, and the connection is gone, if that does not come to pass.
   bool Await(const auto& arrived, const QDeadlineTimer& deadline);
@@ -88,8 +90,9 @@ class ADVANCED_CONTROL_EXPORT WireChannel : public ProjectorChannel {
   std::atomic<ConnectionState> state_ = ConnectionState::Unused;
   std::unique_ptr<QIODevice> line_;
   Wire::Decoder decoder_;
-  std::uint16_t sequence_;   ///< Of the last frame made.
-  std::uint16_t hello_ = 0;  ///< The sequence number of ours.
+  std::uint16_t sequence_;      ///< Of the last frame made.
+  std::uint16_t hello_ = 0;     ///< The sequence number of ours.
+  std::uint16_t answered_ = 0;  ///< That of the last request answered, or of the hello before.
   std::optional<Wire::Welcome> welcome_;
   std::chrono::steady_clock::time_point welcomeBy_{};
   std::optional<std::chrono::milliseconds> longest_;  ///< For a command.

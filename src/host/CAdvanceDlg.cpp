@@ -1,10 +1,12 @@
 #include "host/CAdvanceDlg.h"
 
 #include <algorithm>
+#include <chrono>
 #include <iterator>
 #include <utility>
 #include <vector>
 
+#include <QApplication>
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QShortcut>
@@ -42,6 +44,7 @@ constexpr int kMargin = 12;
 constexpr int kFindWidth = 300;
 
 constexpr int kNetworkConnection = 1;
+constexpr std::chrono::milliseconds kInputsPeriod{500};
 
 // Dialogs that have made this library's resources current, in the order of their opening.
 std::vector<CAdvanceDlg*>& OpenDialogs() {
@@ -88,7 +91,8 @@ CAdvanceDlg::CAdvanceDlg(CWnd* parent)
       status_(new StatusLine(this)),
       find_(new FindLine(this)),
       watch_(new WaitWatch([this] { return projector_.IsWaiting(); },
-                           [this](bool waiting) { ShowWaiting(waiting); })) {
+                           [this](bool waiting) { ShowWaiting(waiting); })),
+      inputsWatch_(new QTimer(this)) {
   auto* layout = new QVBoxLayout(scroll_->widget());
   layout->setContentsMargins({});
   connect(status_, &StatusLine::Retry, this, [this] {
@@ -96,6 +100,7 @@ CAdvanceDlg::CAdvanceDlg(CWnd* parent)
     projector_.TryAfresh();
     DispTabScreen();
   });
+  inputsWatch_->callOnTimeout(this, &CAdvanceDlg::TakeToldInputs);
   connect(find_, &FindLine::Found, this,
           [this](const FindLine::Place& place) { GoTo(place.tab, place.control, place.popUp); });
   connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this,
@@ -131,7 +136,10 @@ bool CAdvanceDlg::OnInitDialog() {
   projector_.DialogType = model_.DialogType;
   projector_.CopyAspectData(model_.AspectList.count, model_.AspectList.values.data());
   projector_.CopyGammaData(model_.GammaList.count, model_.GammaList.values.data());
-  model_.MySourceList = ToldInputs().value_or(model_.MySourceList);
+  if (const auto told = ToldInputs()) {
+    toldInputs_ = told;
+    model_.MySourceList = *told;
+  }
   CreatePages();
   InsertTabs();
   SetTitle();
@@ -139,6 +147,7 @@ bool CAdvanceDlg::OnInitDialog() {
   OrderFocus();
   ShowUnread();
   DispTabScreen();
+  if (IsCreated()) inputsWatch_->start(kInputsPeriod);
   return true;
 }
 
@@ -242,7 +251,18 @@ void CAdvanceDlg::ReplaceSources(const SourceList& sources) {
 }
 
 std::optional<SourceList> CAdvanceDlg::ToldInputs() const {
-  return model_.MySourceList.Size() == 0 ? projector_.Inputs() : std::nullopt;
+  const SourceList& known = model_.MySourceList;
+  if (known.Size() > 0 && known != toldInputs_) return std::nullopt;
+  auto told = projector_.Inputs();
+  return told == known ? std::nullopt : told;
+}
+
+void CAdvanceDlg::TakeToldInputs() {
+  if (IsBusy() || QApplication::activePopupWidget() != nullptr) return;
+  if (const auto told = ToldInputs()) {
+    toldInputs_ = told;
+    ReplaceSources(*told);
+  }
 }
 
 void CAdvanceDlg::ShowSelectedPage() {
@@ -264,14 +284,9 @@ void CAdvanceDlg::OnBusy() {
 void CAdvanceDlg::OnIdle() {
   watch_->Stop();
   const bool readsAgain = std::exchange(readsAgain_, false);
-  if (IsCreated() && (readsAgain || ToldInputs())) {
-    QTimer::singleShot(0, this, [this, readsAgain] {
-      if (!IsCreated()) return;
-      if (const auto inputs = IsBusy() ? std::nullopt : ToldInputs()) {
-        ReplaceSources(*inputs);
-      } else if (readsAgain) {
-        DispTabScreen();
-      }
+  if (IsCreated() && readsAgain) {
+    QTimer::singleShot(0, this, [this] {
+      if (IsCreated()) DispTabScreen();
     });
   }
   const CPjtInterface::Tally sent = projector_.Sent();
@@ -313,6 +328,7 @@ void CAdvanceDlg::OnOrphaned() { projector_.CutOff(true); }
 
 void CAdvanceDlg::OnDestroy() {
   CDialog::OnDestroy();
+  inputsWatch_->stop();
   auto& open = OpenDialogs();
   const auto self = std::ranges::find(open, this);
   if (self == open.end()) return;

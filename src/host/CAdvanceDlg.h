@@ -19,6 +19,7 @@ class CTabCtrl;
 class CTabPage;
 class FindLine;
 class FittedScroll;
+class QTimer;
 class ResourceModule;
 class StatusLine;
 class WaitWatch;
@@ -131,8 +132,9 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
   void CreatePage(PageId id);
   void InsertTabs();
   void SetTitle();
-  /// The inputs that the projector has told, where the host names none.
+  /// What the projector has told anew of its inputs, where the host names none.
   std::optional<SourceList> ToldInputs() const;
+  void TakeToldInputs();
   std::optional<PageId> PageIdBehind(int tab) const;
   CTabPage* PageBehind(int tab) const;
   void ShowSelectedPage();
@@ -156,8 +158,10 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
   StatusLine* status_;
   FindLine* find_;
   std::unique_ptr<WaitWatch> watch_;
-  CPjtInterface::Tally sentBefore_;   // before the first of the running handlers
-  std::shared_ptr<const void> left_;  // while what runs is abandoned
-  bool reading_ = false;              // a page is being read
-  bool readsAgain_ = false;           // the shown page is to be read when what runs has ended
+  QTimer* inputsWatch_;
+  std::optional<SourceList> toldInputs_;  // as last taken
+  CPjtInterface::Tally sentBefore_;       // before the first of the running handlers
+  std::shared_ptr<const void> left_;      // while what runs is abandoned
+  bool reading_ = false;                  // a page is being read
+  bool readsAgain_ = false;               // the shown page is to be read when what runs has ended
 };

@@ -51,6 +51,7 @@ class ADVANCED_CONTROL_EXPORT FaultChannel : public ProjectorChannel {
   void Abandon() override { inner_->Abandon(); }
   ConnectionState Connection() const override { return inner_->Connection(); }
   std::optional<SourceList> Inputs() override { return inner_->Inputs(); }
+  bool UseIdleTime() override { return inner_->UseIdleTime(); }
 
  private:
   Fault FaultOf(const PjtCommand& command) const;

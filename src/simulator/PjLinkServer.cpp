@@ -51,7 +51,12 @@ class Session final : public QObject {
     connect(&idle_, &QTimer::timeout, this, [this] { socket_.abort(); });
     connect(&socket, &QTcpSocket::readyRead, this, &Session::AnswerAll);
     idle_.start(options.idle);
-    Send(PjLink::FormatGreeting(seed));
+    const std::string greeting = PjLink::FormatGreeting(seed);
+    if (fault.kind == LineFault::Kind::Cut) {
+      socket_.write((greeting + '\r').c_str());  // it is no reply
+    } else {
+      Send(greeting);
+    }
     AnswerAll();
   }
 

@@ -26,6 +26,8 @@ class Gate final : public ProjectorChannel {
     return {.result = answered, .value = static_cast<short>(number), .answered = answered};
   }
 
+  bool UseIdleTime() override { return ++idled < 3; }
+
   void Open(bool open) {
     isOpen_ = open;
     isOpen_.notify_all();
@@ -34,6 +36,7 @@ class Gate final : public ProjectorChannel {
   std::chrono::milliseconds takes{0};
   std::atomic<int> executed = 0;
   std::atomic<int> returned = 0;
+  std::atomic<int> idled = 0;
   std::atomic<bool> answered = true;
 
  private:
@@ -69,18 +72,21 @@ TEST_F(BoundedChannelTest, ASilentProjectorCostsOneTimeOut) {
   ASSERT_TRUE(Eventually([&] { return gate_->returned == 1; }));
   EXPECT_TRUE(Eventually([&] { return channel_.Execute(kCommand).answered; }));
   EXPECT_EQ(gate_->executed, 2) << "the late answer is nobody's";
+  EXPECT_TRUE(Eventually([&] { return gate_->idled == 3; })) << "then its time is its own";
 }
 
 TEST_F(BoundedChannelTest, ALostCommandStartsTheRetryIntervalToo) {
   BoundedChannel late(gate_, {.timeOut = 1h, .retryAfter = 1h});
   BoundedChannel soon(gate_, {.timeOut = 1h, .retryAfter = 10ms});
   gate_->answered = false;
-  EXPECT_EQ(Replies(late, {kCommand}) + Replies(soon, {kCommand}), "??");
+  EXPECT_EQ(Replies(late, {kCommand, kCommand}), "? ?");
+  gate_->takes = 110ms;
+  EXPECT_EQ(Replies(late, {kCommand}, 250ms) + Replies(soon, {kCommand}), "??");
   gate_->answered = true;
   EXPECT_EQ(Replies(late, {kCommand}), "?");
-  EXPECT_EQ(gate_->executed, 2) << "it fails without being sent";
+  EXPECT_EQ(gate_->executed, 3) << "a pause has passed for the third, not for second and last";
   late.Abandon();
-  EXPECT_EQ(Replies(late, {kCommand}), "3") << "who tries again is not held back";
+  EXPECT_EQ(Replies(late, {kCommand}), "4") << "who tries again is not held back";
   EXPECT_TRUE(Eventually([&] { return soon.Execute(kCommand).answered; }));
 }
 

@@ -190,8 +190,8 @@ void ProfileEditor::ShowConnectionFields() {
 void ProfileEditor::GiveRoom() {
   const QSize wanted = form_->sizeHint();
   rows_->setMinimumSize(wanted.width() + rows_->verticalScrollBar()->sizeHint().width(), 1);
-  const int others = error_->heightForWidth(rows_->minimumWidth()) * !error_->isHidden() +
-                     layout()->minimumSize().height();
+  error_->setMinimumHeight(std::max(0, error_->heightForWidth(rows_->minimumWidth())));
+  const int others = layout()->minimumSize().height();
   const int room = screen()->availableGeometry().height() - kFrameHeight - others;
   rows_->setMinimumHeight(std::min(wanted.height(), room));
 }

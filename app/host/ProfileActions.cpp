@@ -36,7 +36,7 @@ ProfileActions::ProfileActions(ProfileDocument& document, std::function<int()> c
       open_(Make(tr("&Open Profiles…"), QKeySequence::Open, &ProfileActions::OpenFile)),
       reload_(Make(tr("&Reload"), QKeySequence::Refresh, &ProfileActions::ReloadFile)),
       saveAs_(Make(tr("&Save Profiles As…"), Qt::CTRL | Qt::SHIFT | Qt::Key_S,
-                     &ProfileActions::SaveFileAs)),
+                   &ProfileActions::SaveFileAs)),
       add_(Make(tr("&Add…"), QKeySequence::New, &ProfileActions::AddProjector)),
       edit_(Make(tr("&Edit…"), Qt::Key_F2, &ProfileActions::EditProjector)),
       duplicate_(Make(tr("&Duplicate"), Qt::CTRL | Qt::Key_D, &ProfileActions::DuplicateProjector)),

@@ -10,8 +10,8 @@ class CTabCtrl : public QTabBar {
  public:
   explicit CTabCtrl(QWidget* parent = nullptr);
 
-  /// Width of every tab in device-independent pixels, where there is room; a tab whose caption needs
-  /// more is wider.
+  /// Width of every tab in device-independent pixels, where there is room; a tab whose caption
+  /// needs more is wider.
   void SetItemWidth(int width);
 
  protected:

@@ -212,7 +212,7 @@ QString ProfileEditor::ConnectionKind() const { return connection_->currentData(
 
 // Unchanged, a field is what the file says to the letter. An empty one says nothing.
 QJsonValue ProfileEditor::ValueOf(const QLineEdit* field) const {
-  const QJsonValue written = ValueAt(entry_, field->objectName());
+  QJsonValue written = ValueAt(entry_, field->objectName());
   if (field->text() == TextOf(written)) return written;
   const QString text = field == secret_ ? field->text() : field->text().trimmed();
   if (text.isEmpty()) return QJsonValue::Undefined;

@@ -90,16 +90,13 @@ TEST(MainWindow, SaysWhyThereIsNoCatalog) {
 
 /// As an assistive technology does, which knows a list by its name.
 void Choose(const QWidget& window, const QString& name, const QString& entry) {
-  for (auto* list : window.findChildren<QComboBox*>()) {
-    QAccessibleInterface* told = QAccessible::queryAccessibleInterface(list);
-    if (told->text(QAccessible::Name) != name) continue;
-    QAccessibleInterface* chosen = told->child(0)->child(list->findText(entry));
-    chosen->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    QApplication::processEvents();
-    EXPECT_EQ(told->text(QAccessible::Value), entry);
-    return;
-  }
-  ADD_FAILURE() << "no list " << name.toStdString();
+  auto* list = qobject_cast<QComboBox*>(Find<QLabel>(window, name).buddy());
+  QAccessibleInterface* told = QAccessible::queryAccessibleInterface(list);
+  EXPECT_EQ(told->text(QAccessible::Name), name);
+  QAccessibleInterface* chosen = told->child(0)->child(list->findText(entry));
+  chosen->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  QApplication::processEvents();
+  EXPECT_EQ(told->text(QAccessible::Value), entry);
 }
 
 TEST(FaultPanel, SetsAndRemovesFaultsOfTheSelectedProjector) {

@@ -13,12 +13,14 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPaintEvent>
 #include <QScrollBar>
 #include <QTableView>
 #include <QToolButton>
+#include <QToolTip>
 #include <QVBoxLayout>
 
 #include "app/host/Mnemonic.h"
@@ -32,7 +34,7 @@ constexpr auto kGatherTime = std::chrono::milliseconds(40);
 
 // Widest usual text of each column.
 constexpr std::array<const char*, CommandLogModel::ColumnCount> kWidthSamples{
-    "00:00:00.000", "Projector 5-30 b", "Get Color Temperature 0x2201",
+    "00:00:00.000", "Projector 5-30 b", "Get User Gamma Point 8 0x30B1 ",
     "0xFFFF",       "no answer",        "2000.0"};
 
 QToolButton* ButtonOf(QAction* action) {
@@ -63,6 +65,22 @@ class CommandLog::RowsAtFoot : public QTableView {
   int free_ = 0;
 };
 
+/// Shows a text that its column cuts off in a tool tip.
+class CommandLog::Cells : public IsolatedTexts {
+ public:
+  using IsolatedTexts::IsolatedTexts;
+
+  bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) override {
+    const bool cutOff = sizeHint(option, index).width() > option.rect.width();
+    if (event->type() != QEvent::ToolTip || !cutOff) {
+      return IsolatedTexts::helpEvent(event, view, option, index);
+    }
+    QToolTip::showText(event->globalPos(), index.data().toString(), view);
+    return true;
+  }
+};
+
 CommandLog::CommandLog(QWidget* parent)
     : QWidget(parent),
       model_(new CommandLogModel(this)),
@@ -73,7 +91,7 @@ CommandLog::CommandLog(QWidget* parent)
       clear_(new QAction(tr("Clea&r Log"), this)) {
   shown_->setSourceModel(model_);
   view_->setModel(shown_);
-  view_->setItemDelegate(new IsolatedTexts(view_));
+  view_->setItemDelegate(new Cells(view_));
   view_->setAccessibleName(tr("Command log"));
   view_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
   view_->setSelectionBehavior(QTableView::SelectRows);

@@ -41,6 +41,7 @@ class CommandLog : public QWidget {
   void Updated();
 
  private:
+  class Cells;
   class RowsAtFoot;
 
   void MakeColumns();

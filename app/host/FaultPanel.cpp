@@ -4,17 +4,18 @@
 #include <iterator>
 #include <map>
 
-#include <QComboBox>
 #include <QCompleter>
 #include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QShortcut>
 #include <QSpinBox>
 
 #include "app/host/Mnemonic.h"
+#include "toolkit/CComboBox.h"
 #include "toolkit/IsolatedText.h"
 
 Q_DECLARE_METATYPE(FaultTarget)
@@ -91,10 +92,10 @@ QLabel* CaptionOf(const QString& text, QWidget* buddy) {
 
 FaultPanel::FaultPanel(QWidget* parent)
     : QGroupBox(parent),
-      power_(new QComboBox),
-      error_(new QComboBox),
-      target_(new QComboBox),
-      kind_(new QComboBox),
+      power_(new CComboBox),
+      error_(new CComboBox),
+      target_(new CComboBox),
+      kind_(new CComboBox),
       delay_(new QSpinBox),
       set_(new QPushButton(tr("&Set Fault"))),
       faults_(new QListWidget),
@@ -110,9 +111,7 @@ FaultPanel::FaultPanel(QWidget* parent)
   delay_->setSingleStep(100);
   delay_->setValue(500);
   delay_->setSuffix(tr(" ms"));
-  for (QAbstractItemView* view : {static_cast<QAbstractItemView*>(faults_), target_->view()}) {
-    view->setItemDelegate(new IsolatedTexts(view));
-  }
+  faults_->setItemDelegate(new IsolatedTexts(faults_));
   faults_->setAccessibleName(tr("Faults in force"));
   faults_->setMinimumHeight(faults_->fontMetrics().height() * 4);
 
@@ -122,6 +121,7 @@ FaultPanel::FaultPanel(QWidget* parent)
   grid->addWidget(CaptionOf(tr("&Error status"), error_), 0, 2);
   grid->addWidget(error_, 0, 3);
   grid->addWidget(CaptionOf(tr("&Command"), target_), 1, 0);
+  target_->lineEdit()->setAccessibleName(target_->accessibleName());
   grid->addWidget(target_, 1, 1, 1, 4);
   grid->addWidget(CaptionOf(tr("Fa&ult"), kind_), 2, 0);
   grid->addWidget(kind_, 2, 1);
@@ -153,14 +153,12 @@ FaultPanel::FaultPanel(QWidget* parent)
     session_->ClearFaults();
     ShowFaults();
   });
-  for (QWidget* control : std::initializer_list<QWidget*>{power_, error_, target_, kind_, delay_}) {
-    control->setFocusPolicy(Qt::StrongFocus);
-    control->installEventFilter(this);
-  }
+  delay_->setFocusPolicy(Qt::StrongFocus);
+  delay_->installEventFilter(this);
   SetSession(nullptr);
 }
 
-// The wheel scrolls past a control that has no focus, and does not change it.
+// The wheel scrolls past a number that has no focus, and does not change it.
 bool FaultPanel::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Wheel && !static_cast<QWidget*>(watched)->hasFocus()) {
     event->ignore();

@@ -4,7 +4,7 @@
 
 #include "app/host/ProjectorSession.h"
 
-class QComboBox;
+class CComboBox;
 class QListWidget;
 class QPushButton;
 class QSpinBox;
@@ -35,10 +35,10 @@ class FaultPanel : public QGroupBox {
   void UpdateButtons();
 
   ProjectorSession* session_ = nullptr;
-  QComboBox* power_;
-  QComboBox* error_;
-  QComboBox* target_;
-  QComboBox* kind_;
+  CComboBox* power_;
+  CComboBox* error_;
+  CComboBox* target_;
+  CComboBox* kind_;
   QSpinBox* delay_;
   QPushButton* set_;
   QListWidget* faults_;

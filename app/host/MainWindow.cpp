@@ -167,8 +167,7 @@ void MainWindow::MakeMenus() {
   };
 
   QMenu* file = menuBar()->addMenu(tr("&File"));
-  file->addActions(
-      {profileActions_->Open(), profileActions_->Reload(), profileActions_->SaveCopy()});
+  file->addActions({profileActions_->Open(), profileActions_->Reload(), profileActions_->SaveAs()});
   file->addSeparator();
   file->addAction(log_->SaveAs());
   file->addSeparator();

@@ -35,8 +35,8 @@ ProfileActions::ProfileActions(ProfileDocument& document, std::function<int()> c
       window_(window),
       open_(Make(tr("&Open Profiles…"), QKeySequence::Open, &ProfileActions::OpenFile)),
       reload_(Make(tr("&Reload"), QKeySequence::Refresh, &ProfileActions::ReloadFile)),
-      saveCopy_(Make(tr("&Save Copy As…"), Qt::CTRL | Qt::SHIFT | Qt::Key_S,
-                     &ProfileActions::SaveFileCopy)),
+      saveAs_(Make(tr("&Save Profiles As…"), Qt::CTRL | Qt::SHIFT | Qt::Key_S,
+                   &ProfileActions::SaveFileAs)),
       add_(Make(tr("&Add…"), QKeySequence::New, &ProfileActions::AddProjector)),
       edit_(Make(tr("&Edit…"), Qt::Key_F2, &ProfileActions::EditProjector)),
       duplicate_(Make(tr("&Duplicate"), Qt::CTRL | Qt::Key_D, &ProfileActions::DuplicateProjector)),
@@ -55,7 +55,7 @@ QAction* ProfileActions::Make(const QString& text, const QKeySequence& keys,
 
 void ProfileActions::Update() {
   const bool hasFile = document_.HasFile();
-  for (QAction* action : {reload_, saveCopy_, add_}) action->setEnabled(hasFile);
+  for (QAction* action : {reload_, saveAs_, add_}) action->setEnabled(hasFile);
   for (QAction* action : {edit_, duplicate_, remove_}) {
     action->setEnabled(hasFile && current_() >= 0);
   }
@@ -76,12 +76,12 @@ void ProfileActions::ReloadFile() {
   Conclude(tr("Reload"), document_.Load(document_.FileName()), -1);
 }
 
-void ProfileActions::SaveFileCopy() {
+void ProfileActions::SaveFileAs() {
   const QString fileName =
-      QFileDialog::getSaveFileName(&window_, tr("Save Copy of Profiles"), document_.FileName(),
+      QFileDialog::getSaveFileName(&window_, tr("Save Profiles As"), document_.FileName(),
                                    tr("Profiles (*.json);;All files (*)"));
   if (!fileName.isEmpty()) {
-    Conclude(tr("Save Copy of Profiles"), document_.SaveAs(fileName), current_());
+    Conclude(tr("Save Profiles As"), document_.SaveAs(fileName), current_());
   }
 }
 

@@ -20,7 +20,7 @@ class ProfileActions : public QObject {
 
   QAction* Open() const { return open_; }
   QAction* Reload() const { return reload_; }
-  QAction* SaveCopy() const { return saveCopy_; }
+  QAction* SaveAs() const { return saveAs_; }
   QAction* Add() const { return add_; }
   QAction* Edit() const { return edit_; }
   QAction* Duplicate() const { return duplicate_; }
@@ -38,7 +38,7 @@ class ProfileActions : public QObject {
   QAction* Make(const QString& text, const QKeySequence& keys, void (ProfileActions::*act)());
   void OpenFile();
   void ReloadFile();
-  void SaveFileCopy();
+  void SaveFileAs();
   void AddProjector();
   void EditProjector();
   void DuplicateProjector();
@@ -51,7 +51,7 @@ class ProfileActions : public QObject {
   QWidget& window_;
   QAction* open_;
   QAction* reload_;
-  QAction* saveCopy_;
+  QAction* saveAs_;
   QAction* add_;
   QAction* edit_;
   QAction* duplicate_;

@@ -3,19 +3,23 @@
 #include <algorithm>
 #include <limits>
 
-#include <QComboBox>
+#include <QAccessible>
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QIntValidator>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QVBoxLayout>
 
+#include "app/host/Mnemonic.h"
 #include "app/host/ProfileDocument.h"
+#include "toolkit/CComboBox.h"
 
 namespace {
 
@@ -29,17 +33,14 @@ QString TextOf(const QJsonValue& value) {
   return value.isDouble() ? QString::number(value.toInt()) : value.toString();
 }
 
-// An empty field says nothing.
-QJsonValue TextIn(const QLineEdit& field) {
-  const QString text = field.text().trimmed();
-  return text.isEmpty() ? QJsonValue(QJsonValue::Undefined) : QJsonValue(text);
+/// What an entry says at a path such as "connection.network.port".
+QJsonValue ValueAt(const QJsonObject& entry, const QString& path) {
+  QJsonValue value = entry;
+  for (const QString& key : path.split(QLatin1Char('.'))) value = value.toObject().value(key);
+  return value;
 }
 
-QJsonValue NumberIn(const QLineEdit& field) {
-  bool isNumber = false;
-  const int number = field.text().toInt(&isNumber);
-  return isNumber ? QJsonValue(number) : TextIn(field);
-}
+bool IsBlank(const QLineEdit* field) { return field->text().trimmed().isEmpty(); }
 
 void Put(QJsonObject& object, const char* key, const QJsonValue& value) {
   if (value.isUndefined()) {
@@ -62,24 +63,29 @@ ProfileEditor::ProfileEditor(const ProfileDocument& document, const QJsonObject&
       entry_(entry),
       apply_(std::move(apply)),
       form_(new QFormLayout),
-      name_(AddField(tr("&Name"), TextOf(entry["name"]))),
-      family_(new QComboBox),
-      model_(AddField(tr("&Model"), TextOf(entry["model"]))),
-      dialogType_(AddField(tr("Dialog &type"), TextOf(entry["dialogType"]))),
-      modelCode_(AddField(tr("Model cod&e"), TextOf(entry["modelCode"]))),
-      link_(new QComboBox),
-      connection_(new QComboBox),
+      name_(AddField(tr("&Name"), "name")),
+      family_(AddList(tr("&Family"), "like")),
+      model_(AddField(tr("&Model"), "model")),
+      dialogType_(AddField(tr("Dialog &type"), "dialogType")),
+      modelCode_(AddField(tr("Model cod&e"), "modelCode")),
+      link_(AddList(tr("&Reached through"), "link")),
+      connection_(AddList(tr("Connect&ion"), "connection")),
+      address_(AddField(tr("&Address"), "connection.network.address")),
+      networkPort_(AddField(tr("&Port"), "connection.network.port")),
+      secret_(AddField(tr("Pass&word"), "connection.network.secret")),
+      serialPort_(AddField(tr("Port n&umber"), "connection.serial.port")),
+      device_(AddField(tr("&Device"), "connection.serial.device")),
+      baud_(AddField(tr("&Baud"), "connection.serial.baud")),
       rows_(new QScrollArea),
       error_(new QLabel) {
   setWindowTitle(entry.isEmpty() ? tr("Add Projector") : tr("Edit Projector"));
   TakeNumbersOnly(*dialogType_, 1, 5);
   TakeNumbersOnly(*modelCode_, 0, std::numeric_limits<int>::max());
-  family_->addItem(tr("None"), QString());
-  for (const QString& name : document.Families()) family_->addItem(name, name);
-  family_->setCurrentIndex(family_->findData(entry["like"].toString()));
-  form_->insertRow(1, tr("&Family"), family_);
-  AddLinks();
-  AddConnectionFields();
+  TakeNumbersOnly(*networkPort_, 1, 65535);
+  TakeNumbersOnly(*serialPort_, 1, 256);
+  TakeNumbersOnly(*baud_, 1, 4'000'000);
+  secret_->setEchoMode(QLineEdit::PasswordEchoOnEdit);
+  FillLists();
 
   error_->setWordWrap(true);
   error_->setTextFormat(Qt::PlainText);
@@ -102,60 +108,71 @@ ProfileEditor::ProfileEditor(const ProfileDocument& document, const QJsonObject&
   connect(buttons, &QDialogButtonBox::accepted, this, &ProfileEditor::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &ProfileEditor::reject);
   connect(family_, &QComboBox::currentIndexChanged, this, &ProfileEditor::ShowFamily);
-  connect(link_, &QComboBox::activated, this, &ProfileEditor::ChooseFittingConnection);
+  connect(link_, &QComboBox::activated, this, [this] {
+    chosen_.insert(link_);
+    ChooseFittingConnection();
+  });
+  connect(connection_, &QComboBox::activated, this, [this] { chosen_.insert(connection_); });
   connect(connection_, &QComboBox::currentIndexChanged, this, &ProfileEditor::ShowConnectionFields);
   ShowFamily();
   ShowConnectionFields();
   name_->setFocus();
 }
 
-QLineEdit* ProfileEditor::AddField(const QString& caption, const QString& text) {
-  auto* field = new QLineEdit(text);
+QLineEdit* ProfileEditor::AddField(const QString& caption, const char* path) {
+  auto* field = new QLineEdit(TextOf(ValueAt(entry_, path)));
+  field->setObjectName(path);
   field->setMinimumWidth(field->fontMetrics().averageCharWidth() * kFieldWidth);
   form_->addRow(caption, field);
   return field;
 }
 
-void ProfileEditor::AddLinks() {
+CComboBox* ProfileEditor::AddList(const QString& caption, const char* path) {
+  auto* list = new CComboBox;
+  list->setObjectName(path);
+  form_->addRow(caption, list);
+  return list;
+}
+
+// A connection of a kind that this dialog does not know is offered as it is.
+void ProfileEditor::FillLists() {
+  family_->addItem(tr("None"), QString());
+  for (const QString& name : document_.Families()) family_->addItem(name, name);
+  family_->setCurrentIndex(family_->findData(entry_["like"].toString()));
+
   link_->addItem(tr("As its family"), QString());
   link_->addItem(tr("Simulated"), QStringLiteral("simulated"));
   link_->addItem(tr("Network"), kNetwork);
   link_->addItem(QStringLiteral("PJLink"), kPjLink);
   link_->addItem(tr("Serial port"), kSerial);
   link_->setCurrentIndex(link_->findData(entry_["link"].toString()));
-  form_->addRow(tr("&Reached through"), link_);
-}
 
-// A connection of a kind that this dialog does not know is offered as it is.
-void ProfileEditor::AddConnectionFields() {
-  const QJsonObject written = entry_["connection"].toObject();
   connection_->addItem(tr("As its family"), QString());
   connection_->addItem(tr("Network"), kNetwork);
   connection_->addItem(tr("Serial port"), kSerial);
+  const QJsonObject written = entry_["connection"].toObject();
   const QString kind = written.isEmpty() ? QString() : written.begin().key();
   if (connection_->findData(kind) < 0) connection_->addItem(kind, kind);
-  connection_->setCurrentIndex(entry_.isEmpty() ? 1 : connection_->findData(kind));
-  form_->addRow(tr("Connect&ion"), connection_);
+  connection_->setCurrentIndex(connection_->findData(kind));
+}
 
-  const QJsonObject network = written[kNetwork].toObject();
-  const QJsonObject serial = written[kSerial].toObject();
-  address_ = AddField(tr("&Address"), TextOf(network["address"]));
-  networkPort_ = AddField(tr("&Port"), TextOf(network["port"]));
-  secret_ = AddField(tr("Pass&word"), TextOf(network["secret"]));
-  secret_->setEchoMode(QLineEdit::PasswordEchoOnEdit);
-  serialPort_ = AddField(tr("Port n&umber"), TextOf(serial["port"]));
-  device_ = AddField(tr("&Device"), TextOf(serial["device"]));
-  baud_ = AddField(tr("&Baud"), TextOf(serial["baud"]));
-  TakeNumbersOnly(*networkPort_, 1, 65535);
-  TakeNumbersOnly(*serialPort_, 1, 256);
-  TakeNumbersOnly(*baud_, 1, 4'000'000);
+QJsonObject ProfileEditor::Family() const {
+  return document_.Family(family_->currentData().toString());
 }
 
 void ProfileEditor::ShowFamily() {
-  const QJsonObject family = document_.Family(family_->currentData().toString());
+  const QJsonObject family = Family();
   model_->setPlaceholderText(TextOf(family["model"]));
   dialogType_->setPlaceholderText(TextOf(family["dialogType"]));
   modelCode_->setPlaceholderText(TextOf(family["modelCode"]));
+  if (!entry_.isEmpty()) return;
+  // A new projector is reached as its family is, or else over the network, until that is chosen.
+  for (CComboBox* list : {link_, connection_}) {
+    if (chosen_.contains(list)) continue;
+    list->setCurrentIndex(
+        list->findData(family.contains(list->objectName()) ? QString() : kNetwork));
+  }
+  if (!chosen_.contains(connection_)) ChooseFittingConnection();
 }
 
 void ProfileEditor::ShowConnectionFields() {
@@ -173,25 +190,36 @@ void ProfileEditor::ShowConnectionFields() {
 void ProfileEditor::GiveRoom() {
   const QSize wanted = form_->sizeHint();
   rows_->setMinimumSize(wanted.width() + rows_->verticalScrollBar()->sizeHint().width(), 1);
-  const int others = error_->heightForWidth(rows_->minimumWidth()) * !error_->isHidden() +
-                     layout()->minimumSize().height();
+  error_->setMinimumHeight(std::max(0, error_->heightForWidth(rows_->minimumWidth())));
+  const int others = layout()->minimumSize().height();
   const int room = screen()->availableGeometry().height() - kFrameHeight - others;
   rows_->setMinimumHeight(std::min(wanted.height(), room));
 }
 
 // The way that was chosen needs a connection of its kind.
 void ProfileEditor::ChooseFittingConnection() {
-  const QString link = link_->currentData().toString();
+  const QString own = link_->currentData().toString();
+  const QString link = own.isEmpty() ? Family()["link"].toString() : own;
   const QString needed = link == kPjLink ? kNetwork : link;
   if (needed != kNetwork && needed != kSerial) return;
-  const QJsonObject ofFamily =
-      document_.Family(family_->currentData().toString())["connection"].toObject();
+  const QJsonObject ofFamily = Family()["connection"].toObject();
   const bool fits =
       ConnectionKind().isEmpty() ? ofFamily.contains(needed) : ConnectionKind() == needed;
   if (!fits) connection_->setCurrentIndex(connection_->findData(needed));
 }
 
 QString ProfileEditor::ConnectionKind() const { return connection_->currentData().toString(); }
+
+// Unchanged, a field is what the file says to the letter. An empty one says nothing.
+QJsonValue ProfileEditor::ValueOf(const QLineEdit* field) const {
+  QJsonValue written = ValueAt(entry_, field->objectName());
+  if (field->text() == TextOf(written)) return written;
+  const QString text = field == secret_ ? field->text() : field->text().trimmed();
+  if (text.isEmpty()) return QJsonValue::Undefined;
+  bool isNumber = false;
+  const int number = text.toInt(&isNumber);
+  return isNumber && field->validator() != nullptr ? QJsonValue(number) : QJsonValue(text);
+}
 
 QJsonValue ProfileEditor::Connection() const {
   const QString kind = ConnectionKind();
@@ -200,13 +228,13 @@ QJsonValue ProfileEditor::Connection() const {
   if (kind != kNetwork && kind != kSerial) return written;
   QJsonObject parameters = written[kind].toObject();
   if (kind == kNetwork) {
-    Put(parameters, "address", TextIn(*address_));
-    Put(parameters, "port", NumberIn(*networkPort_));
-    Put(parameters, "secret", TextIn(*secret_));
+    Put(parameters, "address", ValueOf(address_));
+    Put(parameters, "port", ValueOf(networkPort_));
+    Put(parameters, "secret", ValueOf(secret_));
   } else {
-    Put(parameters, "port", NumberIn(*serialPort_));
-    Put(parameters, "device", TextIn(*device_));
-    Put(parameters, "baud", NumberIn(*baud_));
+    Put(parameters, "port", ValueOf(serialPort_));
+    Put(parameters, "device", ValueOf(device_));
+    Put(parameters, "baud", ValueOf(baud_));
   }
   return QJsonObject{{kind, parameters}};
 }
@@ -215,11 +243,11 @@ JsonEdit::Members ProfileEditor::Changes() const {
   const QString family = family_->currentData().toString();
   const QString link = link_->currentData().toString();
   JsonEdit::Members all{
-      {"name", TextIn(*name_)},
-      {"model", TextIn(*model_)},
+      {"name", ValueOf(name_)},
+      {"model", ValueOf(model_)},
       {"like", family.isEmpty() ? QJsonValue(QJsonValue::Undefined) : QJsonValue(family)},
-      {"dialogType", NumberIn(*dialogType_)},
-      {"modelCode", NumberIn(*modelCode_)},
+      {"dialogType", ValueOf(dialogType_)},
+      {"modelCode", ValueOf(modelCode_)},
       {"connection", Connection()},
       {"link", link.isEmpty() ? QJsonValue(QJsonValue::Undefined) : QJsonValue(link)},
   };
@@ -229,11 +257,46 @@ JsonEdit::Members ProfileEditor::Changes() const {
   return all;
 }
 
+QString ProfileEditor::CaptionOf(QWidget* field) const {
+  return WithoutMnemonic(qobject_cast<QLabel*>(form_->labelForField(field))->text());
+}
+
+std::vector<QLineEdit*> ProfileEditor::Missing() const {
+  std::vector<QLineEdit*> needed{name_};
+  for (QLineEdit* field : {model_, dialogType_, modelCode_}) {
+    if (field->placeholderText().isEmpty()) needed.push_back(field);
+  }
+  if (ConnectionKind() == kNetwork) needed.insert(needed.end(), {address_, networkPort_});
+  if (ConnectionKind() == kSerial && IsBlank(device_)) needed.push_back(serialPort_);
+  std::erase_if(needed, [](const QLineEdit* field) { return !IsBlank(field); });
+  return needed;
+}
+
 void ProfileEditor::accept() {
-  const QString error =
-      name_->text().trimmed().isEmpty() ? tr("The projector needs a name.") : apply_(Changes());
+  if (const std::vector<QLineEdit*> missing = Missing(); !missing.empty()) {
+    QStringList captions;
+    for (QLineEdit* field : missing) captions += CaptionOf(field);
+    const QString all = QLocale().createSeparatedList(captions);
+    return ShowError(tr("Still to be filled in: %1").arg(all), missing.front());
+  }
+  const QString error = apply_(Changes());
   if (error.isEmpty()) return QDialog::accept();
+  // What is wrong in the file is told by the row that it comes from.
+  static const QRegularExpression place(QStringLiteral(R"(^.*?projectors\[\d+\]\.([\w.]+): )"));
+  const QRegularExpressionMatch found = place.match(error);
+  QWidget* row = found.hasMatch() ? rows_->findChild<QWidget*>(found.captured(1)) : nullptr;
+  if (row == nullptr) return ShowError(error, nullptr);
+  ShowError(tr("%1: %2").arg(CaptionOf(row), error.mid(found.capturedEnd())), row);
+}
+
+void ProfileEditor::ShowError(const QString& error, QWidget* row) {
   error_->setText(error);
   error_->show();
   GiveRoom();
+  if (row != nullptr) {
+    row->setFocus();
+    rows_->ensureWidgetVisible(row);
+  }
+  QAccessibleEvent told(error_, QAccessible::Alert);
+  QAccessible::updateAccessibility(&told);
 }

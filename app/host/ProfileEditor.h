@@ -1,14 +1,16 @@
 #pragma once
 
 #include <functional>
+#include <set>
+#include <vector>
 
 #include <QDialog>
 #include <QJsonObject>
 
 #include "app/host/JsonEdit.h"
 
+class CComboBox;
 class ProfileDocument;
-class QComboBox;
 class QFormLayout;
 class QLabel;
 class QLineEdit;
@@ -35,27 +37,34 @@ class ProfileEditor : public QDialog {
   void accept() override;
 
  private:
-  QLineEdit* AddField(const QString& caption, const QString& text);
-  void AddLinks();
-  void AddConnectionFields();
+  // A row's path is where the entry says it.
+  QLineEdit* AddField(const QString& caption, const char* path);
+  CComboBox* AddList(const QString& caption, const char* path);
+  void FillLists();
+  QJsonObject Family() const;
   void ShowFamily();
   void ShowConnectionFields();
   void GiveRoom();
   void ChooseFittingConnection();
   QString ConnectionKind() const;
+  QJsonValue ValueOf(const QLineEdit* field) const;
   QJsonValue Connection() const;
+  QString CaptionOf(QWidget* field) const;
+  /// The empty fields that need an entry, since no family gives it.
+  std::vector<QLineEdit*> Missing() const;
+  void ShowError(const QString& error, QWidget* row);
 
   const ProfileDocument& document_;
   const QJsonObject entry_;
   const Apply apply_;
   QFormLayout* form_;
   QLineEdit* name_;
-  QComboBox* family_;
+  CComboBox* family_;
   QLineEdit* model_;
   QLineEdit* dialogType_;
   QLineEdit* modelCode_;
-  QComboBox* link_;
-  QComboBox* connection_;
+  CComboBox* link_;
+  CComboBox* connection_;
   QLineEdit* address_;
   QLineEdit* networkPort_;
   QLineEdit* secret_;
@@ -64,4 +73,5 @@ class ProfileEditor : public QDialog {
   QLineEdit* baud_;
   QScrollArea* rows_;
   QLabel* error_;
+  std::set<const CComboBox*> chosen_;  // by the user
 };

@@ -7,6 +7,19 @@
 
 #include "i18n/SystemLanguage.h"
 
+namespace {
+
+// What Qt's own translation leaves out.
+[[maybe_unused]] constexpr struct {
+  const char* source;
+  const char* comment;
+} kFileDialogTexts[] = {
+    QT_TRANSLATE_NOOP3("QAbstractFileIconProvider", "Drive", "All other platforms"),
+    QT_TRANSLATE_NOOP3("QAbstractFileIconProvider", "Folder", "All other platforms"),
+};
+
+}  // namespace
+
 void InstallTranslations() {
   static QTranslator toolkit;
   static QTranslator program;

@@ -7,6 +7,7 @@
 #include <QAccessibleWidget>
 #include <QCheckBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPointer>
 
 #include "toolkit/CComboBox.h"
@@ -78,7 +79,8 @@ class CheckInterface final : public QAccessibleWidget {
   QCheckBox& Check() const { return *static_cast<QCheckBox*>(widget()); }
 };
 
-/// A list by its caption's name; its text is the selected entry, its only child the drop-down.
+/// A list by its caption's name; its text is the selected entry, its children the drop-down and,
+/// where it can be typed into, its field.
 class ComboInterface final : public QAccessibleWidget, public QAccessibleTextInterface {
  public:
   explicit ComboInterface(CComboBox* combo) : QAccessibleWidget(combo, QAccessible::ComboBox) {}
@@ -96,15 +98,18 @@ class ComboInterface final : public QAccessibleWidget, public QAccessibleTextInt
     state.expandable = true;
     state.expanded = Combo().view()->isVisible();
     state.hasPopup = true;
+    state.editable = Combo().isEditable();
     return state;
   }
 
-  int childCount() const override { return 1; }
+  int childCount() const override { return Combo().isEditable() ? 2 : 1; }
   QAccessibleInterface* child(int index) const override {
-    return index == 0 ? QAccessible::queryAccessibleInterface(Combo().view()) : nullptr;
+    if (index == 0) return QAccessible::queryAccessibleInterface(Combo().view());
+    return index == 1 ? QAccessible::queryAccessibleInterface(Combo().lineEdit()) : nullptr;
   }
   int indexOfChild(const QAccessibleInterface* child) const override {
-    return child->object() == Combo().view() ? 0 : -1;
+    if (child->object() == Combo().view()) return 0;
+    return Combo().isEditable() && child->object() == Combo().lineEdit() ? 1 : -1;
   }
 
   QStringList actionNames() const override {
@@ -117,7 +122,7 @@ class ComboInterface final : public QAccessibleWidget, public QAccessibleTextInt
     });
   }
 
-  // The text can be read and not edited, and has no cursor.
+  // The text can be read here, and edited in the field alone; it has no cursor.
   void selection(int, int* start, int* end) const override { *start = *end = 0; }
   int selectionCount() const override { return 0; }
   void addSelection(int, int) override {}

@@ -3,9 +3,11 @@
 #include <QStyleOption>
 #include <QWheelEvent>
 
+#include "toolkit/Accessibility.h"
 #include "toolkit/IsolatedText.h"
 
 CComboBox::CComboBox(QWidget* parent) : QComboBox(parent) {
+  InstallAccessibility();
   setFocusPolicy(Qt::StrongFocus);
   setContextMenuPolicy(Qt::NoContextMenu);  // or it would keep its dialog from showing one
   setMaxVisibleItems(20);

@@ -4,9 +4,12 @@
 
 #include <QComboBox>
 
+#include "AdvancedControlExport.h"
+
 /// A drop-down list. `activated` reports a choice of the user, also of the entry that is selected
-/// already; selecting by program reports nothing. The wheel is taken only with the focus.
-class CComboBox : public QComboBox {
+/// already; selecting by program reports nothing. The wheel is taken only with the focus. Assistive
+/// technologies meet it by its caption's name, and choose as a hand does.
+class ADVANCED_CONTROL_EXPORT CComboBox : public QComboBox {
   Q_OBJECT
 
  public:

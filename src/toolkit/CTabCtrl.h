@@ -10,12 +10,14 @@ class CTabCtrl : public QTabBar {
  public:
   explicit CTabCtrl(QWidget* parent = nullptr);
 
-  /// Width of every tab in device-independent pixels; a tab whose caption needs more is wider.
+  /// Width of every tab in device-independent pixels, where there is room; a tab whose caption
+  /// needs more is wider.
   void SetItemWidth(int width);
 
  protected:
   QSize tabSizeHint(int index) const override;
-  QSize minimumTabSizeHint(int index) const override { return tabSizeHint(index); }
+  /// Where there is less room, a tab is as wide as its caption needs.
+  QSize minimumTabSizeHint(int index) const override { return QTabBar::tabSizeHint(index); }
   void wheelEvent(QWheelEvent* event) override;
 
  private:

@@ -55,7 +55,7 @@ void CDialog::CenterOnOwner() {
   if (parentWidget() != nullptr || owner_ == nullptr) return;
   winId();  // a window of its own is needed to stay above the owner
   windowHandle()->setTransientParent(owner_->window()->windowHandle());
-  adjustSize();
+  if (scroll_ == nullptr) adjustSize();  // or Qt leaves it two thirds of the screen at most
   CentreOnScreen(*this, *owner_->window());
 }
 

@@ -7,8 +7,10 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QScreen>
+#include <QScrollArea>
 #include <QTabBar>
 #include <QTest>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 #include "app/profiles/ProfileFile.h"
@@ -37,9 +39,13 @@ void ForEachPopup(const std::function<void(CDialog&)>& check) {
   OpenDialog host(MakeModel(5, 44));
   for (const PopUp kind : {PopUp::Gamma, PopUp::ColorTemp, PopUp::Service}) {
     const auto popUp = MakePopUp(kind, host.Dialog());
-    Open(*popUp);
+    popUp->setParent(nullptr, popUp->windowFlags());  // as its page makes it
     SCOPED_TRACE(popUp->metaObject()->className());
-    check(*popUp);
+    QTimer::singleShot(0, popUp.get(), [&] {
+      check(*popUp);
+      popUp->reject();
+    });
+    popUp->DoModal();
   }
 }
 
@@ -156,6 +162,10 @@ void ExpectInReach(CDialog& dialog) {
   QApplication::processEvents();  // the scroll bars learn what there is to scroll
   const QSize screen = dialog.screen()->availableGeometry().size();
   EXPECT_EQ(dialog.size().boundedTo(screen), dialog.size());
+  const auto* scroll = dialog.findChild<QScrollArea*>();
+  if (scroll != nullptr && scroll->widget()->height() > scroll->height()) {
+    EXPECT_GE(dialog.height(), screen.height() - 50) << "there is more room";
+  }
   const auto inSight = [&dialog](const QWidget& widget) {
     const QRect shown = widget.visibleRegion().boundingRect();
     return shown.height() == widget.height() && shown.width() >= std::min(widget.width(), 40) &&

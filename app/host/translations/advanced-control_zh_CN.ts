@@ -465,8 +465,8 @@
         <translation>重新加载(&amp;R)</translation>
     </message>
     <message>
-        <source>&amp;Save Copy As…</source>
-        <translation>副本另存为(&amp;S)…</translation>
+        <source>&amp;Save Profiles As…</source>
+        <translation>配置文件另存为(&amp;S)…</translation>
     </message>
     <message>
         <source>&amp;Add…</source>
@@ -497,8 +497,8 @@
         <translation>重新加载</translation>
     </message>
     <message>
-        <source>Save Copy of Profiles</source>
-        <translation>保存配置文件副本</translation>
+        <source>Save Profiles As</source>
+        <translation>配置文件另存为</translation>
     </message>
     <message>
         <source>Duplicate</source>
@@ -595,10 +595,6 @@
         <translation>波特率(&amp;B)</translation>
     </message>
     <message>
-        <source>The projector needs a name.</source>
-        <translation>请输入投影机的名称。</translation>
-    </message>
-    <message>
         <source>Simulated</source>
         <translation>模拟</translation>
     </message>
@@ -613,6 +609,14 @@
     <message>
         <source>&amp;Device</source>
         <translation>设备(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Still to be filled in: %1</source>
+        <translation>还需填写：%1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
     </message>
 </context>
 <context>
@@ -873,6 +877,19 @@
     <message>
         <source>Open</source>
         <translation>已打开</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractFileIconProvider</name>
+    <message>
+        <source>Drive</source>
+        <comment>All other platforms</comment>
+        <translation>驱动器</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <comment>All other platforms</comment>
+        <translation>文件夹</translation>
     </message>
 </context>
 <context>

@@ -280,8 +280,8 @@ void RestoreDialog::ShowBeforehand(const Restoration& restoration, int row) {
   const auto& all = restoration.Beforehand();
   Outcome worst = Outcome::AlreadySo;
   for (const Outcome outcome :
-       {Outcome::Changed, Outcome::NotAllowed, Outcome::NotSettable, Outcome::Unknown,
-        Outcome::NotReached, Outcome::Differs, Outcome::Unconfirmed, Outcome::Refused}) {
+       {Outcome::Changed, Outcome::NotAllowed, Outcome::NotSettable, Outcome::NotOffered,
+        Outcome::Unknown, Outcome::NotReached, Outcome::Differs, Outcome::Unconfirmed, Outcome::Refused}) {
     if (std::ranges::find(all, outcome, &RestoredSetting::outcome) != all.end()) worst = outcome;
   }
   ShowResult(worst, row);
@@ -308,6 +308,8 @@ QString RestoreDialog::OutcomeText(Outcome outcome) {
       return tr("not confirmed");
     case Outcome::Unknown:
       return tr("skipped: this model does not have it");
+    case Outcome::NotOffered:
+      return tr("skipped: this projector does not offer it");
     case Outcome::NotSettable:
       return tr("skipped: it is not one to put back");
     case Outcome::NotAllowed:
@@ -371,15 +373,15 @@ QString RestoreDialog::RestoreRoom(Room& room) {
 }
 
 void RestoreDialog::ShowSummary() {
-  std::array<int, 9> counts{};
+  std::array<int, 10> counts{};
   for (int row = 0; row < model_->rowCount(); ++row) {
     ++counts[static_cast<std::size_t>(model_->item(row, kResult)->data(kOutcomeRole).toInt())];
   }
   const auto count = [&counts](Outcome outcome) {
     return counts[static_cast<std::size_t>(outcome)];
   };
-  const int skipped =
-      count(Outcome::Unknown) + count(Outcome::NotSettable) + count(Outcome::NotAllowed);
+  const int skipped = count(Outcome::Unknown) + count(Outcome::NotOffered) +
+                      count(Outcome::NotSettable) + count(Outcome::NotAllowed);
   QStringList parts;
   const auto add = [&parts](int number, const QString& what) {
     if (number > 0) parts.append(what.arg(number));

@@ -962,6 +962,10 @@
         <translation>已跳过：此型号没有该设置</translation>
     </message>
     <message>
+        <source>skipped: this projector does not offer it</source>
+        <translation>已跳过：此投影机不提供该设置</translation>
+    </message>
+    <message>
         <source>skipped: it is not one to put back</source>
         <translation>已跳过：该设置不可还原</translation>
     </message>

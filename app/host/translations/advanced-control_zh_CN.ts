@@ -962,6 +962,10 @@
         <translation>已跳过：此型号没有该设置</translation>
     </message>
     <message>
+        <source>&amp;Compare Again</source>
+        <translation>重新比较(&amp;C)</translation>
+    </message>
+    <message>
         <source>skipped: this projector does not offer it</source>
         <translation>已跳过：此投影机不提供该设置</translation>
     </message>

@@ -44,8 +44,8 @@ class AfreshChannel : public ProjectorChannel {
   bool silent_ = true;  // it may have been so to others
 };
 
-/// The way to a projector that asks again where an answer got lost, and knows when it is gone: after
-/// the session's own time-out.
+/// The way to a projector that asks again where an answer got lost, and knows when it is gone:
+/// after the session's own time-out.
 inline std::shared_ptr<PatientChannel> MakePatient(std::shared_ptr<ProjectorChannel> channel,
                                                    std::function<bool()> goesOn) {
   return std::make_shared<PatientChannel>(

@@ -9,8 +9,7 @@ constexpr int kOutcomeRole = Qt::UserRole;
 }  // namespace
 
 OutcomeTable::OutcomeTable(QObject* parent) : QStandardItemModel(0, kColumnCount, parent) {
-  setHorizontalHeaderLabels(
-      {tr("Projector"), tr("Setting"), tr("Here"), tr("File"), tr("Result")});
+  setHorizontalHeaderLabels({tr("Projector"), tr("Setting"), tr("Here"), tr("File"), tr("Result")});
 }
 
 int OutcomeTable::Append(const QString& projector, const QString& setting, const QString& key,
@@ -105,8 +104,7 @@ void OutcomeFilter::HideSame(bool hide) {
 }
 
 bool OutcomeFilter::filterAcceptsRow(int row, const QModelIndex& parent) const {
-  const QVariant outcome =
-      sourceModel()->index(row, OutcomeTable::kResult).data(kOutcomeRole);
+  const QVariant outcome = sourceModel()->index(row, OutcomeTable::kResult).data(kOutcomeRole);
   const bool isSame = outcome.toInt() == static_cast<int>(Outcome::AlreadySo);
   return !(hidesSame_ && isSame) && QSortFilterProxyModel::filterAcceptsRow(row, parent);
 }

@@ -6,7 +6,8 @@
 
 #include "snapshots/Restoration.h"
 
-/// The table of a `RestoreDialog`: a row for each setting of each projector, with what became of it.
+/// The table of a `RestoreDialog`: a row for each setting of each projector, with what became of
+/// it.
 class OutcomeTable : public QStandardItemModel {
   Q_DECLARE_TR_FUNCTIONS(RestoreDialog)
 

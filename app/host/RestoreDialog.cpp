@@ -225,9 +225,8 @@ void RestoreDialog::AddRow(const Room& room, const RestoredSetting& restored) {
   const SavedSetting& saved = restored.saved;
   QString setting = Wide(saved.key);
   if (restored.setting != nullptr) {
-    setting = tr("%1: %2").arg(
-        Wide(texts_.Tab(*restored.setting)),
-        Wide(texts_.Name(room.settings, *restored.setting, saved.source)));
+    setting = tr("%1: %2").arg(Wide(texts_.Tab(*restored.setting)),
+                               Wide(texts_.Name(room.settings, *restored.setting, saved.source)));
   } else if (saved.source) {
     setting += QStringLiteral(" (%1)").arg(Wide(texts_.Source(room.settings, *saved.source)));
   }
@@ -261,9 +260,9 @@ void RestoreDialog::ShowOutcome(const RestoredSetting& restored, int row) {
 void RestoreDialog::ShowBeforehand(const Restoration& restoration, int row) {
   const auto& all = restoration.Beforehand();
   Outcome worst = Outcome::AlreadySo;
-  for (const Outcome outcome :
-       {Outcome::Changed, Outcome::NotAllowed, Outcome::NotSettable, Outcome::NotOffered,
-        Outcome::Unknown, Outcome::NotReached, Outcome::Differs, Outcome::Unconfirmed, Outcome::Refused}) {
+  for (const Outcome outcome : {Outcome::Changed, Outcome::NotAllowed, Outcome::NotSettable,
+                                Outcome::NotOffered, Outcome::Unknown, Outcome::NotReached,
+                                Outcome::Differs, Outcome::Unconfirmed, Outcome::Refused}) {
     if (std::ranges::find(all, outcome, &RestoredSetting::outcome) != all.end()) worst = outcome;
   }
   model_->SetOutcome(row, worst);

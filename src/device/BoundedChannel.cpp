@@ -73,7 +73,7 @@ struct BoundedChannel::State {
   std::optional<PjtCommand> command;                 ///< Given, and not yet taken by the worker.
   std::optional<std::vector<PjtCommand>> announced;  ///< Likewise.
   std::optional<std::chrono::milliseconds> longest;  ///< For a command, if less than the limit.
-  bool outstanding = false;                          ///< Given, and not yet back from the inner channel.
+  bool outstanding = false;  ///< Given, and not yet back from the inner channel.
   bool abandoned = false;    ///< The outstanding one is waited for by the next command.
   bool ended = false;
   Wait* waiting = nullptr;
@@ -115,7 +115,8 @@ void BoundedChannel::State::Work() {
 /// False when the time is over or the wait was abandoned.
 bool BoundedChannel::State::WaitUntil(std::unique_lock<std::mutex>& lock, Wait& wait, auto done) {
   const Clock::time_point now = Clock::now();
-  const Clock::time_point deadline = now + std::min(limits.timeOut, longest.value_or(limits.timeOut));
+  const Clock::time_point deadline =
+      now + std::min(limits.timeOut, longest.value_or(limits.timeOut));
   const Clock::time_point quick =
       std::min({deadline, now + limits.quickAnswer, stillSince + kStandstill});
   const auto over = [&] { return wait.abandoned || done(); };

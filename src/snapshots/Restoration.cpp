@@ -17,8 +17,8 @@ Rank RankOf(const ModelSetting& setting) {
 Outcome Judge(const ModelSettings& model, const ModelSetting* setting, const SavedSetting& saved) {
   if (setting == nullptr) return Outcome::Unknown;
   if (!setting->Restorable()) return Outcome::NotSettable;
-  const bool isAllowed = setting->Allows(saved.value) &&
-                         (!saved.source || model.HasSource(*setting, *saved.source));
+  const bool isAllowed =
+      setting->Allows(saved.value) && (!saved.source || model.HasSource(*setting, *saved.source));
   return isAllowed ? Outcome::NotReached : Outcome::NotAllowed;
 }
 

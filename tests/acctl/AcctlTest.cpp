@@ -155,7 +155,8 @@ TEST(Acctl, TellsWhatIsRefusedAndWhatDoesNotAnswer) {
   SaveOthers(file);
   const QStringList other{"--password", "secret", "--connect", simulator.Address("pjlink")};
   const char* const notOffered = ": skipped, this projector does not offer it: picture.tint\n";
-  EXPECT_THAT(Acctl(other + QStringList{"get", kRoom, "picture.t*"}), Ends(0, HasSubstr(notOffered)));
+  EXPECT_THAT(Acctl(other + QStringList{"get", kRoom, "picture.t*"}),
+              Ends(0, HasSubstr(notOffered)));
   EXPECT_THAT(Acctl(other + QStringList{"diff", kRoom, file, "--only", "picture.tint"}),
               Ends(0, HasSubstr(notOffered)));
   Write(folder.filePath("any"), R"({"projectors": [{"name": "Any", "model": "M", "dialogType": 5,

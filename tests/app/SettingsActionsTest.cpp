@@ -94,6 +94,10 @@ TEST(SettingsActions, TellsWhatCannotBeSaved) {
   rooms.sessions[1]->SetFault({}, {.kind = Fault::Kind::FailRead});
   const QStringList errors = SettingsActions::SaveTo(rooms.folder.path(), rooms.sessions);
   EXPECT_EQ(errors, QStringList("Projector 5-31: nothing can be read"));
+  const auto falter = [&] { rooms.sessions[0]->SetFault({}, {.kind = Fault::Kind::DropOut}); };
+  EXPECT_EQ(SettingsActions::SaveTo("/nowhere", {rooms.sessions[0]}, {.step = falter}),
+            QStringList("Projector 5-30: no answer"));
+  rooms.sessions[0]->ClearFaults();
   SettingsActions::SaveTo(rooms.folder.path(), {rooms.sessions[0], rooms.sessions[0]});
   EXPECT_EQ(QDir(rooms.folder.path()).entryList({"Projector_5-30*.json"}).size(), 3);
   EXPECT_THAT(SettingsActions::SaveTo("/proc/x.json", {rooms.sessions[0]}).join('\n').toStdString(),

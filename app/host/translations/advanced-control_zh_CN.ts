@@ -1033,6 +1033,10 @@
         <translation>应用设置(&amp;P)…</translation>
     </message>
     <message>
+        <source>%1: no answer</source>
+        <translation>%1：无应答</translation>
+    </message>
+    <message>
         <source>%1: nothing can be read</source>
         <translation>%1：无法读取任何设置</translation>
     </message>

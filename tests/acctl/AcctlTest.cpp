@@ -194,9 +194,9 @@ TEST(Acctl, SaysWhenInterruptedWhatWasDone) {
               testing::ContainsRegex("^[0-9]+ already so\n$"));
 
   QProcess watch;
-  const QStringList words{"watch", kRoom, "picture.tint", "--interval", "0.05"};
-  watch.start("bash", QStringList{"-c", "trap '' INT; exec \"$0\" \"$@\"", ACCTL_PROGRAM} +
-                          simulator.At(words));
+  watch.start("bash",
+              QStringList{"-c", "trap '' INT; exec \"$0\" \"$@\" --interval 0.05", ACCTL_PROGRAM} +
+                  simulator.At({"watch", kRoom, "picture.tint"}));
   ASSERT_TRUE(watch.waitForReadyRead(10000));
   ::kill(static_cast<pid_t>(watch.processId()), SIGINT);  // which is ignored, as it was before
   EXPECT_EQ(Acctl(simulator.At({"set", kRoom, "picture.tint", "9"})).exitCode, 0);

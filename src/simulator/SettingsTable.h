@@ -188,7 +188,7 @@ struct Binding {
   int turnTo = 0;       ///< Value that `TurnTo` gives.
 };
 
-/// The page sets whose models know a setting in this form.
+/// The page sets whose models know a setting in this form, a bit each.
 enum class PageSets : std::uint8_t {
   All = 0xFF,
   First = 1 << 1,
@@ -198,6 +198,12 @@ enum class PageSets : std::uint8_t {
   ButFirstTwo = All ^ FirstTwo,
   ButThird = All ^ Third,
 };
+
+/// Whether the models of a page set know it. What is no page set is known as one that is not named.
+constexpr bool Knows(PageSets sets, int pageSet) {
+  const bool isSet = pageSet > 0 && pageSet < 8;
+  return (static_cast<unsigned>(sets) >> (isSet ? pageSet : 0) & 1U) != 0;
+}
 
 struct SettingRange {
   int minimum = 0;

@@ -14,10 +14,6 @@ constexpr int kShownBias = CommandCode::kZeroPoint;
 /// What a command code without a known meaning is: a value that is just kept.
 constexpr Setting kPlain{.id = SettingId::Count, .name = "", .range = {0, 0xFFFF}};
 
-bool Knows(PageSets sets, int pageSet) {
-  return (static_cast<unsigned>(sets) >> std::clamp(pageSet, 0, 7) & 1U) != 0;
-}
-
 /// Where a command of a family carries the value that it sets.
 int WrittenValue(const PjtCommand& command) {
   switch (FamilyOf(command.operation)) {

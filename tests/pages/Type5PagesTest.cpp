@@ -43,6 +43,13 @@ TEST(Input5, TheCaptionsOfAModelWithoutRowsAreLocalizedAllTheSame) {
   EXPECT_EQ(Type5Page(kInputTab, 47).driver.Text(20500), "Progressive");
 }
 
+TEST(Input5, TheCaptionOfAListThatCannotBeReadStays) {
+  Type5Page page(kInputTab, 54, {{"GetProgressive", -1}});
+  EXPECT_FALSE(page.driver.Item<QWidget>(20294).isEnabled());
+  for (const int caption : {20500, 20508})
+    EXPECT_TRUE(page.driver.Item<QWidget>(caption).isEnabled());
+}
+
 TEST(Input5, VideoFormatsHavePositions) {
   EXPECT_EQ(CInputType5Dlg::VideoFmtToIdx(7), 6);
   EXPECT_EQ(CInputType5Dlg::VideoFmtToIdx(-1), -1) << "the table's end is none of its values";

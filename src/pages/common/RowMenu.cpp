@@ -119,14 +119,14 @@ bool RowDialog::ShowMenu(QPoint at, QPoint onScreen) {
   const auto position = ShownPosition(*index);
   const std::optional<int> opened = bound_[*index].opened;
   const auto choice = [](bool exists, bool usable) {
-    return !exists ? RowMenu::Choice::Absent
+    return !exists  ? RowMenu::Choice::Absent
            : usable ? RowMenu::Choice::Usable
                     : RowMenu::Choice::Grey;
   };
   const auto* label = qobject_cast<const QLabel*>(control);
   const auto* number = std::get_if<ValueRow>(&row);
-  const bool isOperable =
-      number != nullptr && GetDlgItem(number->ids.plus)->isEnabled() && bound_[*index].value.Number();
+  const bool isOperable = number != nullptr && GetDlgItem(number->ids.plus)->isEnabled() &&
+                          bound_[*index].value.Number();
   auto* menu =
       new RowMenu({.caption = CaptionText(row),
                    .value = label != nullptr ? label->text()
@@ -158,11 +158,10 @@ void RowDialog::AskForNumber(std::size_t index) {
   question->setIntRange(range.minimum, range.maximum);
   question->setIntValue(bound_[index].value.Number().value_or(range.minimum));
   question->setWindowTitle(caption);
-  question->setLabelText(range == kUnbounded
-                             ? caption
-                             : CatalogString(kListCategory, ListText::RangeNote,
-                                             std::int64_t{range.minimum},
-                                             std::int64_t{range.maximum}));
+  question->setLabelText(range == kUnbounded ? caption
+                                             : CatalogString(kListCategory, ListText::RangeNote,
+                                                             std::int64_t{range.minimum},
+                                                             std::int64_t{range.maximum}));
   question->setOkButtonText(CatalogString(kCaptionCategory, Caption::Ok));
   question->setCancelButtonText(CatalogString(kCaptionCategory, Caption::Cancel));
   connect(question, &QInputDialog::intValueSelected, this,

@@ -99,8 +99,9 @@ QJsonObject Describe(const SettingTexts& texts, const RestoredSetting& restored)
 
 /// The key, and which input source's setting it is.
 std::string NameOf(const Work& work, const ModelSettings& model, const SavedSetting& saved) {
-  return saved.source ? saved.key + " (" + work.texts.Source(model, *saved.source) + ')'
-                      : saved.key;
+  std::string name = saved.key;
+  if (saved.source) name.append(" (").append(work.texts.Source(model, *saved.source)) += ')';
+  return name;
 }
 
 /// All lists for scripts, and what needs a person's eye: each error, and the rest by its reason.

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include <QCheckBox>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QTemporaryDir>
 #include <QTest>
@@ -94,9 +95,11 @@ TEST(SettingsActions, TellsWhatCannotBeSaved) {
   rooms.sessions[1]->SetFault({}, {.kind = Fault::Kind::FailRead});
   const QStringList errors = SettingsActions::SaveTo(rooms.folder.path(), rooms.sessions);
   EXPECT_EQ(errors, QStringList("Projector 5-31: nothing can be read"));
+  const QDeadlineTimer twice(std::chrono::seconds(4));  // the time-out, which is for all attempts
   const auto falter = [&] { rooms.sessions[0]->SetFault({}, {.kind = Fault::Kind::DropOut}); };
   EXPECT_EQ(SettingsActions::SaveTo("/nowhere", {rooms.sessions[0]}, {.step = falter}),
             QStringList("Projector 5-30: no answer"));
+  EXPECT_FALSE(twice.hasExpired());
   rooms.sessions[0]->ClearFaults();
   SettingsActions::SaveTo(rooms.folder.path(), {rooms.sessions[0], rooms.sessions[0]});
   EXPECT_EQ(QDir(rooms.folder.path()).entryList({"Projector_5-30*.json"}).size(), 3);

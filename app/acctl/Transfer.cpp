@@ -121,7 +121,7 @@ void Tell(const Work& work, const ModelSettings& model, const Restoration& resto
           restored.now ? "refused, it is " + work.texts.Value(*restored.setting, *restored.now)
                        : std::string("it ") + kNotReadable;
       json["reason"] = Wide(reason);
-      report.Complain(name + ": " + reason, ExitCode::Refused);
+      report.Complain(std::string(name).append(": ").append(reason), ExitCode::Refused);
     } else if (list.complaint != nullptr) {
       json["reason"] = list.complaint;
       if (list.code != ExitCode::Done) {

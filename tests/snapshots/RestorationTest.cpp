@@ -1,5 +1,6 @@
 // Snapshots on every projector of the profile file: kept, disturbed, put back.
 
+#include <array>
 #include <atomic>
 #include <gmock/gmock.h>
 #include <map>
@@ -256,9 +257,9 @@ TEST(Restoration, TellsTheTruthWhenCommandsAreRefusedAndLost) {
   cases.push_back({&Profile("Projector 2-6"), {30, 10}});
   for (const int dead : {40, 100, 130}) cases.push_back({&Profile("Projector 5-54"), {0, 0, dead}});
   std::atomic<std::size_t> next = 0;
-  std::vector<std::jthread> workers;  // it is mostly waiting
-  for (int i = 0; i < 16; ++i) {
-    workers.emplace_back([&] {
+  std::array<std::jthread, 16> workers;  // it is mostly waiting
+  for (std::jthread& worker : workers) {
+    worker = std::jthread([&] {
       for (std::size_t n = next++; n < cases.size(); n = next++) {
         ExpectTruth(*cases[n].first, cases[n].second);
       }

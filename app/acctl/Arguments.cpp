@@ -43,7 +43,12 @@ struct OptionForm {
   std::string_view value;  ///< What it takes; empty for a switch.
   std::string_view help;
   std::function<bool(Arguments&, const std::string&)> take;
+  std::vector<Command> of{};  ///< The commands that take it; none for all.
 };
+
+std::string_view NameOf(Command command) {
+  return std::ranges::find(kCommands, command, &CommandForm::command)->name;
+}
 
 template <class Number>
 bool TakeNumber(const std::string& text, Number least, Number most, Number& number) {
@@ -66,6 +71,13 @@ bool TakeText(const std::string& text, std::string& taken) {
   return !text.empty();
 }
 
+bool TakeUse(const std::string& text, Command& command) {
+  for (const Command use : {Command::Get, Command::Set, Command::Reset, Command::Watch}) {
+    if (NameOf(use) == text) command = use;
+  }
+  return NameOf(command) == text;
+}
+
 bool TakeLanguage(const std::string& text, std::optional<std::uint32_t>& language) {
   std::uint32_t number = 0;
   if (!TakeNumber(text, kEnglishUnitedStates, kChineseSimplified, number)) return false;
@@ -84,20 +96,40 @@ const std::vector<OptionForm>& Options() {
       {"password", "TEXT", "what the projector at ADDRESS asks for",
        [](A& a, Text text) { return TakeText(text, a.password); }},
       {"json", "", "print JSON (docs/acctl.md)", [](A& a, Text) { return a.json = true; }},
-      {"brief", "", "list, settings: names or keys alone, one a line",
-       [](A& a, Text) { return a.brief = true; }},
-      {"only", "GLOB", "save, diff, apply: only keys like GLOB; may stand more than once",
-       [](A& a, Text text) { return !a.only.emplace_back(text).empty(); }},
-      {"dry-run", "", "apply: tell what would be changed, and change nothing",
-       [](A& a, Text) { return a.dryRun = true; }},
-      {"undo", "FOLDER", "apply: where the present values are saved first; beside FILE without",
-       [](A& a, Text text) { return TakeText(text, a.undoFolder); }},
+      {"brief",
+       "",
+       "names or keys alone, one a line",
+       [](A& a, Text) { return a.brief = true; },
+       {Command::List, Command::Settings}},
+      {"for",
+       "COMMAND",
+       "only what get, set, reset or watch can use",
+       [](A& a, Text text) { return TakeUse(text, a.usedBy); },
+       {Command::Settings}},
+      {"only",
+       "GLOB",
+       "only keys like GLOB; may stand more than once",
+       [](A& a, Text text) { return !a.only.emplace_back(text).empty(); },
+       {Command::Save, Command::Diff, Command::Apply}},
+      {"dry-run",
+       "",
+       "tell what would be changed, and change nothing",
+       [](A& a, Text) { return a.dryRun = true; },
+       {Command::Apply}},
+      {"undo",
+       "FOLDER",
+       "where the present values are saved first; beside FILE without",
+       [](A& a, Text text) { return TakeText(text, a.undoFolder); },
+       {Command::Apply}},
       {"jobs", "N", "projectors at once, 1 to 256; 16 without",
        [](A& a, Text text) { return TakeNumber(text, 1, 256, a.jobs); }},
       {"timeout", "SECONDS", "for one answer; 2 without",
        [](A& a, Text text) { return TakeSeconds(text, a.timeOut); }},
-      {"interval", "SECONDS", "watch: between two readings; 1 without",
-       [](A& a, Text text) { return TakeSeconds(text, a.interval); }},
+      {"interval",
+       "SECONDS",
+       "between two readings; 1 without",
+       [](A& a, Text text) { return TakeSeconds(text, a.interval); },
+       {Command::Watch}},
       {"language", "ID", "texts in the language ID: 1033 English, 2052 Chinese",
        [](A& a, Text text) { return TakeLanguage(text, a.language); }},
       {"help", "", "this text", [](A&, Text) { return true; }},
@@ -115,7 +147,7 @@ Arguments Wrong(std::string error) {
 // Takes the options out of the words: "--name", "--name value", "--name=value". What follows "--"
 // is none, and a single minus begins a value.
 std::string TakeOptions(const std::vector<std::string>& words, Arguments& arguments,
-                        std::vector<std::string>& rest) {
+                        std::vector<std::string>& rest, std::vector<const OptionForm*>& taken) {
   for (auto word = words.begin(); word != words.end(); ++word) {
     if (*word == "--") {
       rest.insert(rest.end(), word + 1, words.end());
@@ -143,6 +175,7 @@ std::string TakeOptions(const std::vector<std::string>& words, Arguments& argume
     if (!option->take(arguments, value.value_or(std::string()))) {
       return "--" + name + ": '" + *value + "' is not possible";
     }
+    taken.push_back(&*option);
     if (name == "help" || name == "version") {
       arguments.command = name == "help" ? Command::Help : Command::Version;
       rest.clear();
@@ -173,11 +206,18 @@ void Distribute(std::vector<std::string> words, Arguments& arguments) {
 Arguments ParseArguments(const std::vector<std::string>& words) {
   Arguments arguments;
   std::vector<std::string> rest;
-  if (std::string error = TakeOptions(words, arguments, rest); !error.empty()) return Wrong(error);
+  std::vector<const OptionForm*> taken;
+  std::string error = TakeOptions(words, arguments, rest, taken);
+  if (!error.empty()) return Wrong(std::move(error));
   if (rest.empty()) return arguments;
   const auto form = std::ranges::find(kCommands, rest.front(), &CommandForm::name);
   if (form == std::end(kCommands)) {
     return Wrong("there is no command '" + rest.front() + "'; --help tells them");
+  }
+  for (const OptionForm* option : taken) {
+    const bool isOfAll = option->of.empty();
+    if (isOfAll || std::ranges::find(option->of, form->command) != option->of.end()) continue;
+    return Wrong(std::string(form->name).append(" takes no --").append(option->name));
   }
   rest.erase(rest.begin());
   const int count = static_cast<int>(std::min<std::size_t>(rest.size(), 1'000'000));
@@ -202,7 +242,12 @@ std::string HelpText() {
   }
   text += "\nOptions\n";
   for (const OptionForm& option : Options()) {
-    text += line("  --" + std::string(option.name) + ' ' + std::string(option.value), option.help);
+    std::string help;
+    for (const Command command : option.of) {
+      help.append(help.empty() ? "" : ", ").append(NameOf(command));
+    }
+    help.append(help.empty() ? "" : ": ").append(option.help);
+    text += line("  --" + std::string(option.name) + ' ' + std::string(option.value), help);
   }
   return text +
          "\nP is a projector of the profile file or a pattern like 'Lecture*'; KEY may be a "

@@ -37,6 +37,7 @@ struct Arguments {
   int jobs = 16;                             ///< Projectors at once.
   std::chrono::milliseconds timeOut{2000};   ///< For one answer.
   std::chrono::milliseconds interval{1000};  ///< Of `Watch`.
+  Command usedBy = Command::Settings;        ///< Of `Settings`: only what this one can use.
   bool json = false;
   bool brief = false;
   bool dryRun = false;

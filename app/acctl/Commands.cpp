@@ -1,6 +1,5 @@
 #include "app/acctl/Commands.h"
 
-#include <fnmatch.h>
 #include <map>
 #include <thread>
 
@@ -8,6 +7,7 @@
 #include <QJsonDocument>
 
 #include "app/acctl/Output.h"
+#include "app/acctl/Uses.h"
 #include "settings/CatalogNumbers.h"
 
 namespace {
@@ -25,47 +25,6 @@ const char* NameOf(Kind kind) {
     default:
       return "action";
   }
-}
-
-/// What a command does with a setting.
-struct Use {
-  bool (*isPossible)(const ModelSetting&);
-  const char* refusal;
-};
-
-constexpr Use kTold{[](const ModelSetting&) { return true; }, ""};
-constexpr Use kRead{[](const ModelSetting& setting) { return setting.readable; },
-                    "this cannot be read"};
-constexpr Use kReset{[](const ModelSetting& setting) { return setting.reset.has_value(); },
-                     "this cannot be reset"};
-
-/// The settings that the words name and that can be used so, in the model's order; a word that
-/// names none is complained of.
-std::vector<const ModelSetting*> Chosen(const ModelSettings& settings, const Use& use,
-                                        const std::vector<std::string>& words, Report& report) {
-  std::vector<const ModelSetting*> chosen;
-  for (const ModelSetting& setting : settings.All()) {
-    if (IsLike(setting.key, words) && use.isPossible(setting)) chosen.push_back(&setting);
-  }
-  for (const std::string& word : words) {
-    const auto isNamed = [&word](const ModelSetting& setting) {
-      return IsLike(setting.key, {word});
-    };
-    const auto deref = [](const ModelSetting* setting) -> const ModelSetting& { return *setting; };
-    if (std::ranges::any_of(chosen, isNamed, deref)) continue;
-    const bool exists = std::ranges::any_of(settings.All(), isNamed);
-    report.Complain(word + ": " + (exists ? use.refusal : "this model has no such setting"),
-                    ExitCode::WrongUse);
-  }
-  return chosen;
-}
-
-/// Complains that a setting cannot be used now, by what the projector said to it.
-void ComplainOf(const ModelSetting& setting, const ProjectorAccess& projector, const char* refusal,
-                Report& report) {
-  const bool answered = projector.Channel().HasAnswered();
-  report.Complain(std::string(setting.key) + ": " + (answered ? refusal : NoAnswerText(projector)),
-                  answered ? ExitCode::Refused : ExitCode::NoAnswer);
 }
 
 std::vector<std::string> Cells(const SettingTexts& texts, const ModelSetting& setting, int value) {
@@ -92,11 +51,18 @@ class Values {
   QJsonArray json_;
 };
 
-/// Reads settings into the report; once the projector is gone no other is asked.
+bool IsNamed(const Work& work, const ModelSetting& setting) {
+  const auto& words = work.arguments.words;
+  return std::ranges::find(words, setting.key) != words.end();
+}
+
+/// Reads settings into the report; once the projector is gone no other is asked. What it does not
+/// offer is refused only where it was asked for by its key.
 void ReadInto(const Work& work, ProjectorAccess& projector,
               const std::vector<const ModelSetting*>& settings, Report& report) {
   const Progress progress = ProgressOf(work, projector);
   Values values(work.texts);
+  std::string notOffered;
   std::vector<SourcedSetting> reads;
   if (progress.goesOn()) {
     reads = projector.Settings().PrepareReads(projector.Connection(), settings);
@@ -104,11 +70,17 @@ void ReadInto(const Work& work, ProjectorAccess& projector,
   for (const auto& [setting, source] : reads) {
     if (const auto value = projector.Settings().Read(projector.Connection(), *setting, source)) {
       values.Add(*setting, *value);
+    } else if (projector.Channel().IsOffered() || IsNamed(work, *setting)) {
+      ComplainOf(*setting, projector, kNotReadable, report);
     } else {
-      ComplainOf(*setting, projector, "cannot be read now", report);
+      notOffered.append(notOffered.empty() ? "" : ", ").append(setting->key);
     }
     progress.step();
     if (!progress.goesOn()) break;
+  }
+  if (!notOffered.empty()) {
+    report.Complain(std::string("skipped, ").append(kNotOffered).append(": ") + notOffered,
+                    ExitCode::Done);
   }
   values.PutInto(report);
 }
@@ -129,8 +101,8 @@ std::vector<Change> ChangesOf(const Work& work, const ModelSettings& settings, R
     const ModelSetting* const setting = settings.Find(key);
     if (setting == nullptr) {
       report.Complain(key + ": this model has no such setting", ExitCode::WrongUse);
-    } else if (!setting->changeable) {
-      report.Complain(key + ": this cannot be set", ExitCode::WrongUse);
+    } else if (!kSet.isPossible(*setting)) {
+      report.Complain(key + ": " + kSet.refusal, ExitCode::WrongUse);
     } else if (const auto typed = work.texts.Parse(*setting, word);
                !typed || (!typed->relative && !setting->Allows(typed->amount))) {
       report.Complain(std::string(key)
@@ -154,7 +126,7 @@ std::optional<int> Aim(const Change& change, const Work& work, ProjectorAccess& 
   if (change.typed.relative && !present) {
     present = projector.Settings().Read(projector.Connection(), setting, source);
     if (!present) {
-      ComplainOf(setting, projector, "cannot be read now", report);
+      ComplainOf(setting, projector, kNotReadable, report);
       return {};
     }
   }
@@ -206,7 +178,7 @@ void Make(const Change& change, const Work& work, ProjectorAccess& projector, Va
   if (projector.Channel().IsGone() || !setting.readable) return;
   // A setter without a result says nothing; what is read afterwards does.
   const auto now = settings.Read(projector.Connection(), setting, source);
-  if (!now) return ComplainOf(setting, projector, "cannot be read now", report);
+  if (!now) return ComplainOf(setting, projector, kNotReadable, report);
   values.Add(setting, *now);
   // A projector that is cooling down does what it was told.
   const bool isSo = setting.kind == Kind::State ? (now == 1) == (*value == 1) : now == *value;
@@ -259,31 +231,10 @@ void WaitInSteps(std::chrono::milliseconds time, const Progress& progress) {
 
 }  // namespace
 
-bool IsLike(std::string_view name, const std::vector<std::string>& patterns) {
-  const std::string text(name);
-  return patterns.empty() || std::ranges::any_of(patterns, [&text](const std::string& pattern) {
-           return text == pattern || fnmatch(pattern.c_str(), text.c_str(), 0) == 0;
-         });
-}
-
 Progress ProgressOf(const Work& work, const ProjectorAccess& projector) {
   return {.goesOn = [&work,
                      &projector] { return !work.isInterrupted() && !projector.Channel().IsGone(); },
           .step = work.step};
-}
-
-std::string NoAnswerText(const ProjectorAccess& projector) {
-  std::string text = "no answer";
-  switch (const ConnectionState state = projector.Channel().Connection()) {
-    case ConnectionState::None:
-    case ConnectionState::Unused:
-    case ConnectionState::Connecting:
-    case ConnectionState::Connected:
-    case ConnectionState::NoAnswer:
-      return text;
-    default:
-      return text + " (" + std::string(ConnectionStateText(state)) + ')';
-  }
 }
 
 QJsonObject ValueOf(const SettingTexts& texts, const ModelSetting& setting, int value) {
@@ -299,7 +250,7 @@ Report RunSettings(const Work& work, ProjectorAccess& projector) {
   Table table;
   QJsonArray described;
   for (const ModelSetting* setting :
-       Chosen(projector.Settings(), kTold, work.arguments.words, report)) {
+       Chosen(projector.Settings(), UseBy(work.arguments.usedBy), work.arguments.words, report)) {
     described.append(Describe(work.texts, *setting));
     if (work.arguments.brief) {
       table.Add({std::string(setting->key)});
@@ -370,8 +321,14 @@ Report RunWatch(const Work& work, ProjectorAccess& projector) {
       const auto value = projector.Settings().Read(projector.Connection(), *setting, source);
       if (!projector.Channel().HasAnswered()) ComplainOf(*setting, projector, "", report);
       const auto [known, isNew] = last.try_emplace(setting, value);
-      if (!value || (!isNew && known->second == value)) continue;
+      if (!isNew && known->second == value) continue;
       known->second = value;
+      if (!value) {
+        if (!projector.Channel().HasAnswered()) continue;
+        Complain(projector.Name() + ": " + std::string(setting->key) + ": " +
+                 ReasonOf(projector, kNotReadable));
+        continue;
+      }
       Table line;
       line.Add(Cells(work.texts, *setting, *value));
       const QJsonDocument json(ValueOf(work.texts, *setting, *value));

@@ -19,14 +19,8 @@ struct Work {
   std::function<void()> step;  ///< Called after each setting, from any thread.
 };
 
-/// Whether a name is one of the patterns, or there is none.
-bool IsLike(std::string_view name, const std::vector<std::string>& patterns);
-
 /// Goes on until the work is interrupted or the projector is gone.
 Progress ProgressOf(const Work& work, const ProjectorAccess& projector);
-
-/// "no answer", and what the connection knows of the reason.
-std::string NoAnswerText(const ProjectorAccess& projector);
 
 /// A setting with its value, for scripts.
 QJsonObject ValueOf(const SettingTexts& texts, const ModelSetting& setting, int value);

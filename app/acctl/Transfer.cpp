@@ -6,6 +6,7 @@
 
 #include "app/acctl/Commands.h"
 #include "app/acctl/Output.h"
+#include "app/acctl/Uses.h"
 #include "app/profiles/SettingsFile.h"
 #include "app/profiles/WholeFile.h"
 #include "snapshots/Restoration.h"
@@ -20,7 +21,7 @@ struct OutcomeList {
   int code;
 };
 
-constexpr std::array<OutcomeList, 9> kLists{{
+constexpr std::array<OutcomeList, 10> kLists{{
     {Outcome::Changed, "changed", "changed", nullptr, ExitCode::Done},
     {Outcome::Differs, "different", "different", nullptr, ExitCode::Done},
     {Outcome::AlreadySo, "alreadySo", "already so", nullptr, ExitCode::Done},
@@ -29,6 +30,8 @@ constexpr std::array<OutcomeList, 9> kLists{{
      ExitCode::Refused},
     {Outcome::NotReached, "notDone", "not done", nullptr, ExitCode::Done},
     {Outcome::Unknown, "skipped", nullptr, "skipped, this model does not have it", ExitCode::Done},
+    {Outcome::NotOffered, "skipped", nullptr, "skipped, this projector does not offer it",
+     ExitCode::Done},
     {Outcome::NotSettable, "skipped", nullptr, "skipped, it is not one to put back",
      ExitCode::Done},
     {Outcome::NotAllowed, "skipped", nullptr, "skipped, this model does not take it",
@@ -94,29 +97,38 @@ QJsonObject Describe(const SettingTexts& texts, const RestoredSetting& restored)
   return json;
 }
 
+/// The key, and which input source's setting it is.
+std::string NameOf(const Work& work, const ModelSettings& model, const SavedSetting& saved) {
+  std::string name = saved.key;
+  if (saved.source) name.append(" (").append(work.texts.Source(model, *saved.source)) += ')';
+  return name;
+}
+
 /// All lists for scripts, and what needs a person's eye: each error, and the rest by its reason.
-void Tell(const Work& work, const Restoration& restoration, Report& report) {
+void Tell(const Work& work, const ModelSettings& model, const Restoration& restoration,
+          Report& report) {
   std::map<QString, QJsonArray> lists;
   std::array<std::string, kLists.size()> keys;
   for (const OutcomeList& list : kLists) lists[list.member];
   for (const RestoredSetting* told : Outcomes(restoration)) {
     const RestoredSetting& restored = *told;
     const OutcomeList& list = ListOf(restored.outcome);
+    const std::string name = NameOf(work, model, restored.saved);
     QJsonObject json = Describe(work.texts, restored);
     if (restored.isBeforehand) json["beforehand"] = true;
     if (restored.outcome == Outcome::Refused) {
       const std::string reason =
           restored.now ? "refused, it is " + work.texts.Value(*restored.setting, *restored.now)
-                       : "it cannot be read now";
+                       : std::string("it ") + kNotReadable;
       json["reason"] = Wide(reason);
-      report.Complain(restored.saved.key + ": " + reason, ExitCode::Refused);
+      report.Complain(std::string(name).append(": ").append(reason), ExitCode::Refused);
     } else if (list.complaint != nullptr) {
       json["reason"] = list.complaint;
       if (list.code != ExitCode::Done) {
-        report.Complain(restored.saved.key + ": " + list.complaint, list.code);
+        report.Complain(name + ": " + list.complaint, list.code);
       } else {
         std::string& same = keys[static_cast<std::size_t>(&list - kLists.data())];
-        same += (same.empty() ? "" : ", ") + restored.saved.key;
+        same += (same.empty() ? "" : ", ") + name;
       }
     }
     lists[list.member].append(json);
@@ -130,13 +142,14 @@ void Tell(const Work& work, const Restoration& restoration, Report& report) {
 }
 
 /// What differs, or differed, line by line.
-std::string Differences(const Work& work, const Restoration& restoration) {
+std::string Differences(const Work& work, const ModelSettings& model,
+                        const Restoration& restoration) {
   Table table;
   for (const RestoredSetting& restored : restoration.Settings()) {
     const bool told = restored.outcome == Outcome::Differs || restored.outcome == Outcome::Changed;
     if (!told) continue;
     const ModelSetting& setting = *restored.setting;
-    table.Add({restored.saved.key, work.texts.Caption(setting),
+    table.Add({NameOf(work, model, restored.saved), work.texts.Caption(setting),
                work.texts.Value(setting, *restored.before), "->",
                work.texts.Value(setting, restored.saved.value)});
   }
@@ -156,6 +169,8 @@ void ComplainIfGone(const ProjectorAccess& projector, Report& report) {
 
 Report RunSave(const Work& work, ProjectorAccess& projector) {
   Report report;
+  Chosen(projector.Settings(), kKept, work.arguments.only, report);
+  if (report.code != ExitCode::Done) return report;
   std::vector<std::string> unread;
   const Progress progress = ProgressOf(work, projector);
   Snapshot snapshot = TakeSnapshot(projector.Name(), projector.Settings(), projector.Connection(),
@@ -172,6 +187,10 @@ Report RunSave(const Work& work, ProjectorAccess& projector) {
     if (IsLike(key, work.arguments.only)) {
       report.Complain(key + ": cannot be read now, and is left out", ExitCode::Refused);
     }
+  }
+  if (snapshot.settings.empty()) {
+    report.Complain("nothing can be read, and nothing was written", ExitCode::Refused);
+    return report;
   }
   const QByteArray bytes = WriteSnapshot(snapshot);
   if (work.arguments.file == "-") {
@@ -193,8 +212,8 @@ Report RunDiff(const Work& work, ProjectorAccess& projector) {
   Restoration restoration = Restoring(work, projector);
   restoration.Read(ProgressOf(work, projector));
   ComplainIfGone(projector, report);
-  Tell(work, restoration, report);
-  report.text = Differences(work, restoration) + Summary(restoration) + '\n';
+  Tell(work, projector.Settings(), restoration, report);
+  report.text = Differences(work, projector.Settings(), restoration) + Summary(restoration) + '\n';
   return report;
 }
 
@@ -212,7 +231,7 @@ Report RunApply(const Work& work, ProjectorAccess& projector) {
     report.Complain(error.toStdString(), ExitCode::Refused);
   }
   ComplainIfGone(projector, report);
-  Tell(work, restoration, report);
+  Tell(work, projector.Settings(), restoration, report);
   report.text = Summary(restoration) + '\n';
   return report;
 }

@@ -14,6 +14,7 @@
 
 #include "app/acctl/Output.h"
 #include "app/acctl/Runner.h"
+#include "app/acctl/Uses.h"
 #include "app/profiles/SettingsFile.h"
 #include "device/Connect.h"
 #include "i18n/Catalog.h"
@@ -26,12 +27,17 @@ using Command = Arguments::Command;
 std::atomic<int> receivedSignal{0};
 static_assert(std::atomic<int>::is_always_lock_free);
 
-// The first Ctrl+C lets the work tell what was done, the second ends the program.
+// The first Ctrl+C lets the work tell what was done, the second ends the program. What whoever
+// started us wants ignored, as nohup does, stays so.
 void WatchSignals() {
   struct sigaction action {};
   action.sa_handler = [](int signal) { receivedSignal = signal; };
   action.sa_flags = static_cast<int>(SA_RESETHAND);
-  for (const int signal : {SIGINT, SIGTERM, SIGHUP}) sigaction(signal, &action, nullptr);
+  for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+    struct sigaction inherited {};
+    sigaction(signal, nullptr, &inherited);
+    if (inherited.sa_handler != SIG_IGN) sigaction(signal, &action, nullptr);
+  }
 }
 
 // A reader that left must not cut off what is being sent, and what is printed where nothing is open
@@ -231,6 +237,12 @@ int Main(int argc, char* argv[]) {
     SnapshotContents contents = ReadSettingsFile(Wide(arguments.file));
     if (!contents.error.isEmpty()) return Fail(contents.error.toStdString());
     work.file = std::move(contents.snapshot);
+    for (const std::string& pattern : arguments.only) {
+      const bool isNone = std::ranges::none_of(
+          work.file->settings,
+          [&pattern](const SavedSetting& saved) { return IsLike(saved.key, {pattern}); });
+      if (isNone) return Fail("--only " + pattern + ": the file has no such setting");
+    }
     // A part of it would be put back under a source or mode that it does not belong to.
     if (!arguments.only.empty()) work.file->beforehand.clear();
   }

@@ -15,6 +15,11 @@ class AfreshChannel : public ProjectorChannel {
   AfreshChannel(std::shared_ptr<ProjectorChannel> inner, std::function<bool()> goesOn)
       : inner_(std::move(inner)), goesOn_(std::move(goesOn)) {}
 
+  // Others who use the session's channel have its own time.
+  ~AfreshChannel() override { inner_->GiveUpAfter(BoundedChannel::Limits{}.timeOut); }
+  AfreshChannel(const AfreshChannel&) = delete;
+  AfreshChannel& operator=(const AfreshChannel&) = delete;
+
   PjtReply Execute(const PjtCommand& command) override {
     TryAfresh();
     const PjtReply reply = inner_->Execute(command);
@@ -25,6 +30,7 @@ class AfreshChannel : public ProjectorChannel {
     TryAfresh();
     inner_->Announce(reads);
   }
+  void GiveUpAfter(std::chrono::milliseconds time) override { inner_->GiveUpAfter(time); }
   void Abandon() override { inner_->Abandon(); }
   ConnectionState Connection() const override { return inner_->Connection(); }
 
@@ -35,14 +41,14 @@ class AfreshChannel : public ProjectorChannel {
 
   std::shared_ptr<ProjectorChannel> inner_;
   std::function<bool()> goesOn_;
-  bool silent_ = false;
+  bool silent_ = true;  // it may have been so to others
 };
 
-/// The way to a projector that asks again where an answer got lost, and knows when it is gone. Each
-/// attempt has the session's own time.
+/// The way to a projector that asks again where an answer got lost, and knows when it is gone:
+/// after the session's own time-out.
 inline std::shared_ptr<PatientChannel> MakePatient(std::shared_ptr<ProjectorChannel> channel,
                                                    std::function<bool()> goesOn) {
   return std::make_shared<PatientChannel>(
       std::make_shared<AfreshChannel>(std::move(channel), std::move(goesOn)),
-      PatientChannel::kAttempts * BoundedChannel::Limits{}.timeOut);
+      BoundedChannel::Limits{}.timeOut);
 }

@@ -1,8 +1,8 @@
 #include "app/host/RestoreDialog.h"
 
 #include <algorithm>
-#include <array>
 #include <map>
+#include <set>
 #include <utility>
 
 #include <QCheckBox>
@@ -15,13 +15,12 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
-#include <QSortFilterProxyModel>
-#include <QStandardItemModel>
 #include <QTimer>
 #include <QTreeView>
 #include <QVBoxLayout>
 
 #include "app/host/AfreshChannel.h"
+#include "app/host/OutcomeTable.h"
 #include "app/profiles/SettingsFile.h"
 #include "device/ModelDataIntake.h"
 #include "i18n/Catalog.h"
@@ -30,31 +29,8 @@
 
 namespace {
 
-enum Column { kProjector, kSetting, kHere, kFile, kResult, kColumnCount };
-constexpr int kOutcomeRole = Qt::UserRole;
 constexpr QSize kUsualSize{720, 560};
 constexpr QSize kFrame{10, 40};  // before it is known
-
-/// Rows whose outcome asks for a look, and whose text has what was typed.
-class OutcomeFilter : public QSortFilterProxyModel {
- public:
-  using QSortFilterProxyModel::QSortFilterProxyModel;
-
-  void HideSame(bool hide) {
-    hidesSame_ = hide;
-    invalidateFilter();
-  }
-
- protected:
-  bool filterAcceptsRow(int row, const QModelIndex& parent) const override {
-    const int outcome = sourceModel()->index(row, kResult).data(kOutcomeRole).toInt();
-    const bool same = outcome == static_cast<int>(Outcome::AlreadySo);
-    return !(hidesSame_ && same) && QSortFilterProxyModel::filterAcceptsRow(row, parent);
-  }
-
- private:
-  bool hidesSame_ = true;
-};
 
 QString Wide(const std::string& text) { return QString::fromStdString(text); }
 
@@ -62,12 +38,10 @@ QString Wide(const std::string& text) { return QString::fromStdString(text); }
 
 /// A projector with its part of the table.
 struct RestoreDialog::Room {
-  Room(std::shared_ptr<ProjectorSession> projector, const Snapshot& snapshot)
+  explicit Room(std::shared_ptr<ProjectorSession> projector)
       : session(std::move(projector)),
         name(session->Profile().Name),
-        settings(MakeModelData(session->Profile().Model)) {
-    restoration.emplace(snapshot, settings, connection);
-  }
+        settings(MakeModelData(session->Profile().Model)) {}
 
   /// For each piece of work: one that was gone before may be back.
   void Connect(const std::function<bool()>& goesOn) {
@@ -116,7 +90,7 @@ RestoreDialog::RestoreDialog(Purpose purpose, Snapshot snapshot, QString file,
       file_(std::move(file)),
       texts_(CatalogFolders(), SystemLanguageId()) {
   for (const auto& session : sessions) {
-    rooms_.push_back(std::make_unique<Room>(session, snapshot_));
+    rooms_.push_back(std::make_unique<Room>(session));
   }
   setWindowTitle(purpose == Purpose::Restore ? tr("Apply Settings") : tr("Compare Settings"));
   Lay();
@@ -136,23 +110,21 @@ void RestoreDialog::Lay() {
   tools->addWidget(filter_, 1);
   tools->addWidget(differencesOnly_);
 
-  model_ = new QStandardItemModel(0, kColumnCount, this);
-  model_->setHorizontalHeaderLabels(
-      {tr("Projector"), tr("Setting"), tr("Here"), tr("File"), tr("Result")});
+  model_ = new OutcomeTable(this);
   auto* shown = new OutcomeFilter(this);
   shown->setSourceModel(model_);
   shown->setFilterKeyColumn(-1);
   shown->setFilterCaseSensitivity(Qt::CaseInsensitive);
-  auto* table = new QTreeView;
-  table->setModel(shown);
-  table->setItemDelegate(new IsolatedTexts(table));
-  table->setRootIsDecorated(false);
-  table->setUniformRowHeights(true);
-  table->setEditTriggers(QTreeView::NoEditTriggers);
-  table->setAccessibleName(tr("Settings"));
-  table->setColumnHidden(kProjector, rooms_.size() == 1);
-  table->header()->moveSection(kSetting, kProjector);  // the keyboard begins at what is checked
-  table->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  table_ = new QTreeView;
+  table_->setModel(shown);
+  table_->setItemDelegate(new IsolatedTexts(table_));
+  table_->setRootIsDecorated(false);
+  table_->setUniformRowHeights(true);
+  table_->setEditTriggers(QTreeView::NoEditTriggers);
+  table_->setAccessibleName(tr("Settings"));
+  table_->setColumnHidden(OutcomeTable::kProjector, rooms_.size() == 1);
+  // The keyboard begins at what is checked.
+  table_->header()->moveSection(OutcomeTable::kSetting, OutcomeTable::kProjector);
 
   progress_ = new QProgressBar;
   progress_->setTextVisible(false);
@@ -162,6 +134,7 @@ void RestoreDialog::Lay() {
   summary_->setTextFormat(Qt::PlainText);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
   close_ = buttons->button(QDialogButtonBox::Close);
+  compare_ = buttons->addButton(tr("&Compare Again"), QDialogButtonBox::ActionRole);
   restore_ = buttons->addButton(tr("&Apply"), QDialogButtonBox::ApplyRole);
   restore_->setVisible(purpose_ == Purpose::Restore);
 
@@ -174,13 +147,14 @@ void RestoreDialog::Lay() {
   auto* column = new QVBoxLayout(this);
   column->addWidget(file);
   column->addLayout(tools);
-  column->addWidget(table, 1);
+  column->addWidget(table_, 1);
   column->addWidget(progress_);
   column->addWidget(summary_);
   column->addWidget(buttons);
 
   connect(filter_, &QLineEdit::textChanged, shown, &OutcomeFilter::setFilterFixedString);
   connect(differencesOnly_, &QCheckBox::toggled, this, [shown](bool on) { shown->HideSame(on); });
+  connect(compare_, &QPushButton::clicked, this, &RestoreDialog::Compare);
   connect(restore_, &QPushButton::clicked, this, &RestoreDialog::Restore);
   connect(buttons, &QDialogButtonBox::rejected, this, &RestoreDialog::reject);
 }
@@ -205,7 +179,7 @@ void RestoreDialog::reject() {
 
 void RestoreDialog::UpdateButtons() {
   close_->setText(working_ ? tr("Stop") : tr("Close"));
-  restore_->setEnabled(!working_ && compared_);
+  for (QPushButton* button : {compare_, restore_}) button->setEnabled(!working_ && compared_);
 }
 
 Progress RestoreDialog::WorkOn(Room& room) {
@@ -218,47 +192,55 @@ Progress RestoreDialog::WorkOn(Room& room) {
               }};
 }
 
+// What somebody has taken the check from stays so.
 void RestoreDialog::Compare() {
   if (working_) return;
   compared_ = true;
   const Working working(*this, static_cast<int>(rooms_.size() * snapshot_.settings.size()));
+  std::set<int> unwanted;
+  for (int row = 0; row < model_->rowCount(); ++row) {
+    const Outcome outcome = model_->OutcomeOf(row);
+    const bool isOpen = outcome == Outcome::Differs || outcome == Outcome::NotReached;
+    if (isOpen && model_->IsCheckable(row) && !model_->IsChecked(row)) unwanted.insert(row);
+  }
   model_->setRowCount(0);
   for (const auto& room : rooms_) {
+    room->restoration.emplace(snapshot_, room->settings, room->connection);
     room->restoration->Read(WorkOn(*room));
     if (purpose_ == Purpose::Restore && !snapshot_.beforehand.empty()) AddBeforehandRow(*room);
     room->firstRow = model_->rowCount();
     for (const RestoredSetting& restored : room->restoration->Settings()) AddRow(*room, restored);
   }
+  for (const int row : unwanted) model_->Uncheck(row);
   ShowSummary();
 }
 
+void RestoreDialog::ShowSummary() {
+  summary_->setText(model_->Summary());
+  // Not while rows are filled: measuring them all for each text would take long.
+  for (int i = 0; i < OutcomeTable::kColumnCount; ++i) table_->resizeColumnToContents(i);
+}
+
 void RestoreDialog::AddRow(const Room& room, const RestoredSetting& restored) {
-  QString setting = Wide(restored.saved.key);
+  const SavedSetting& saved = restored.saved;
+  QString setting = Wide(saved.key);
   if (restored.setting != nullptr) {
     setting = tr("%1: %2").arg(Wide(texts_.Tab(*restored.setting)),
-                               Wide(texts_.Caption(*restored.setting)));
+                               Wide(texts_.Name(room.settings, *restored.setting, saved.source)));
+  } else if (saved.source) {
+    setting += QStringLiteral(" (%1)").arg(Wide(texts_.Source(room.settings, *saved.source)));
   }
-  const bool differs = restored.outcome == Outcome::Differs;
-  ShowOutcome(restored, AppendRow(room, setting, purpose_ == Purpose::Restore && differs));
+  const bool isOpen = purpose_ == Purpose::Restore && restored.outcome == Outcome::Differs;
+  ShowOutcome(restored, model_->Append(Wide(room.name), setting, Wide(saved.key), isOpen));
 }
 
 // Some of it makes no sense without the rest, and none can be compared before it is its turn.
 void RestoreDialog::AddBeforehandRow(Room& room) {
-  room.beforehandRow = AppendRow(room, tr("Beforehand: other sources and modes"), true);
-  model_->item(*room.beforehandRow, kFile)
-      ->setText(tr("%1 settings").arg(static_cast<int>(snapshot_.beforehand.size())));
+  room.beforehandRow =
+      model_->Append(Wide(room.name), tr("Beforehand: other sources and modes"), {}, true);
+  model_->SetValues(*room.beforehandRow, {},
+                    tr("%1 settings").arg(static_cast<int>(snapshot_.beforehand.size())));
   ShowBeforehand(*room.restoration, *room.beforehandRow);
-}
-
-int RestoreDialog::AppendRow(const Room& room, const QString& setting, bool isCheckable) {
-  QList<QStandardItem*> row;
-  for (const QString& text : {Wide(room.name), setting, QString(), QString(), QString()}) {
-    row.append(new QStandardItem(text));
-  }
-  row[kSetting]->setCheckable(isCheckable);
-  if (isCheckable) row[kSetting]->setCheckState(Qt::Checked);
-  model_->appendRow(row);
-  return model_->rowCount() - 1;
 }
 
 void RestoreDialog::ShowOutcome(const RestoredSetting& restored, int row) {
@@ -268,58 +250,28 @@ void RestoreDialog::ShowOutcome(const RestoredSetting& restored, int row) {
   };
   const bool isKnown = restored.now || restored.outcome != Outcome::Unconfirmed;
   const std::optional<int>& here = restored.now ? restored.now : restored.before;
-  model_->item(row, kHere)->setText(isKnown ? text(here) : QString());
-  model_->item(row, kFile)
-      ->setText(restored.setting != nullptr ? text(restored.saved.value)
-                                            : Wide(restored.saved.text));
-  ShowResult(restored.outcome, row);
+  model_->SetValues(
+      row, isKnown ? text(here) : QString(),
+      restored.setting != nullptr ? text(restored.saved.value) : Wide(restored.saved.text));
+  model_->SetOutcome(row, restored.outcome);
 }
 
 /// What is worst of it.
 void RestoreDialog::ShowBeforehand(const Restoration& restoration, int row) {
   const auto& all = restoration.Beforehand();
   Outcome worst = Outcome::AlreadySo;
-  for (const Outcome outcome :
-       {Outcome::Changed, Outcome::NotAllowed, Outcome::NotSettable, Outcome::Unknown,
-        Outcome::NotReached, Outcome::Differs, Outcome::Unconfirmed, Outcome::Refused}) {
+  for (const Outcome outcome : {Outcome::Changed, Outcome::NotAllowed, Outcome::NotSettable,
+                                Outcome::NotOffered, Outcome::Unknown, Outcome::NotReached,
+                                Outcome::Differs, Outcome::Unconfirmed, Outcome::Refused}) {
     if (std::ranges::find(all, outcome, &RestoredSetting::outcome) != all.end()) worst = outcome;
   }
-  ShowResult(worst, row);
-}
-
-void RestoreDialog::ShowResult(Outcome outcome, int row) {
-  model_->item(row, kResult)->setText(OutcomeText(outcome));
-  model_->item(row, kResult)->setData(static_cast<int>(outcome), kOutcomeRole);
-}
-
-QString RestoreDialog::OutcomeText(Outcome outcome) {
-  switch (outcome) {
-    case Outcome::NotReached:
-      return tr("not read");
-    case Outcome::AlreadySo:
-      return tr("already so");
-    case Outcome::Differs:
-      return tr("different");
-    case Outcome::Changed:
-      return tr("changed");
-    case Outcome::Refused:
-      return tr("refused");
-    case Outcome::Unconfirmed:
-      return tr("not confirmed");
-    case Outcome::Unknown:
-      return tr("skipped: this model does not have it");
-    case Outcome::NotSettable:
-      return tr("skipped: it is not one to put back");
-    case Outcome::NotAllowed:
-      return tr("skipped: this model does not take the value");
-  }
-  return {};
+  model_->SetOutcome(row, worst);
 }
 
 void RestoreDialog::Restore() {
   if (working_) return;
   int steps = 0;
-  for (int row = 0; row < model_->rowCount(); ++row) steps += IsChecked(row) ? 3 : 0;
+  for (int row = 0; row < model_->rowCount(); ++row) steps += model_->IsChecked(row) ? 3 : 0;
   const Working working(*this, steps);
   QString error;
   for (const auto& room : rooms_) {
@@ -327,17 +279,6 @@ void RestoreDialog::Restore() {
   }
   ShowSummary();
   if (!error.isEmpty()) summary_->setText(error);
-}
-
-bool RestoreDialog::IsChecked(int row) const {
-  return model_->item(row, kSetting)->checkState() == Qt::Checked;
-}
-
-void RestoreDialog::UncheckDone(int row) {
-  const auto outcome = static_cast<Outcome>(model_->item(row, kResult)->data(kOutcomeRole).toInt());
-  if (outcome == Outcome::Changed || outcome == Outcome::AlreadySo) {
-    model_->item(row, kSetting)->setCheckState(Qt::Unchecked);
-  }
 }
 
 // Reads once more what is checked: somebody may have changed it since.
@@ -348,10 +289,10 @@ QString RestoreDialog::RestoreRoom(Room& room) {
   const auto& known = room.restoration->Settings();
   for (std::size_t i = 0; i < known.size(); ++i) {
     const int row = room.firstRow + static_cast<int>(i);
-    if (IsChecked(row)) rows[idOf(known[i].saved)] = row;
+    if (model_->IsChecked(row)) rows[idOf(known[i].saved)] = row;
   }
   Snapshot wanted = snapshot_;
-  if (!room.beforehandRow || !IsChecked(*room.beforehandRow)) wanted.beforehand.clear();
+  if (!room.beforehandRow || !model_->IsChecked(*room.beforehandRow)) wanted.beforehand.clear();
   Restoration part(wanted, room.settings, room.connection,
                    [&](const SavedSetting& saved) { return rows.contains(idOf(saved)); });
   const Progress progress = WorkOn(room);
@@ -360,36 +301,12 @@ QString RestoreDialog::RestoreRoom(Room& room) {
   part.Send(texts_, progress, [&] { return undo.Keep(part.Undo(room.name, texts_)); });
   if (!wanted.beforehand.empty()) {
     ShowBeforehand(part, *room.beforehandRow);
-    UncheckDone(*room.beforehandRow);
+    model_->UncheckDone(*room.beforehandRow);
   }
   for (const RestoredSetting& restored : part.Settings()) {
     const int row = rows.at(idOf(restored.saved));
     ShowOutcome(restored, row);
-    UncheckDone(row);
+    model_->UncheckDone(row);
   }
   return undo.Error();
-}
-
-void RestoreDialog::ShowSummary() {
-  std::array<int, 9> counts{};
-  for (int row = 0; row < model_->rowCount(); ++row) {
-    ++counts[static_cast<std::size_t>(model_->item(row, kResult)->data(kOutcomeRole).toInt())];
-  }
-  const auto count = [&counts](Outcome outcome) {
-    return counts[static_cast<std::size_t>(outcome)];
-  };
-  const int skipped =
-      count(Outcome::Unknown) + count(Outcome::NotSettable) + count(Outcome::NotAllowed);
-  QStringList parts;
-  const auto add = [&parts](int number, const QString& what) {
-    if (number > 0) parts.append(what.arg(number));
-  };
-  add(count(Outcome::Changed), tr("%1 changed"));
-  add(count(Outcome::Differs), tr("%1 different"));
-  add(count(Outcome::AlreadySo), tr("%1 already so"));
-  add(count(Outcome::Refused), tr("%1 refused"));
-  add(count(Outcome::Unconfirmed), tr("%1 not confirmed"));
-  add(count(Outcome::NotReached), tr("%1 not read"));
-  add(skipped, tr("%1 skipped"));
-  summary_->setText(parts.join(QStringLiteral(", ")));
 }

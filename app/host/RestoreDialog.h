@@ -8,12 +8,13 @@
 #include "app/host/ProjectorSession.h"
 #include "snapshots/Restoration.h"
 
+class OutcomeTable;
 class QCheckBox;
 class QLabel;
 class QLineEdit;
 class QProgressBar;
 class QPushButton;
-class QStandardItemModel;
+class QTreeView;
 
 /// A file of settings beside what projectors have: every setting with both values. For restoring,
 /// each difference has a check box; afterwards each setting says what became of it.
@@ -32,7 +33,8 @@ class RestoreDialog : public QDialog {
                 QWidget* parent = nullptr);
   ~RestoreDialog() override;
 
-  /// Reads all projectors and shows what differs. Done by itself when the dialog is shown.
+  /// Reads all projectors and shows what differs; those that were silent before are asked again.
+  /// Done by itself when the dialog is shown.
   void Compare();
   /// Sends the differences that are checked.
   void Restore();
@@ -47,16 +49,11 @@ class RestoreDialog : public QDialog {
   struct Room;
   class Working;
 
-  static QString OutcomeText(Outcome outcome);
   void Lay();
   void AddBeforehandRow(Room& room);
   void AddRow(const Room& room, const RestoredSetting& restored);
-  int AppendRow(const Room& room, const QString& setting, bool isCheckable);
   void ShowOutcome(const RestoredSetting& restored, int row);
   void ShowBeforehand(const Restoration& restoration, int row);
-  void ShowResult(Outcome outcome, int row);
-  bool IsChecked(int row) const;
-  void UncheckDone(int row);
   QString RestoreRoom(Room& room);
   void ShowSummary();
   Progress WorkOn(Room& room);
@@ -67,11 +64,13 @@ class RestoreDialog : public QDialog {
   const QString file_;
   const SettingTexts texts_;
   std::vector<std::unique_ptr<Room>> rooms_;
-  QStandardItemModel* model_ = nullptr;
+  OutcomeTable* model_ = nullptr;
+  QTreeView* table_ = nullptr;
   QLineEdit* filter_ = nullptr;
   QCheckBox* differencesOnly_ = nullptr;
   QProgressBar* progress_ = nullptr;
   QLabel* summary_ = nullptr;
+  QPushButton* compare_ = nullptr;
   QPushButton* restore_ = nullptr;
   QPushButton* close_ = nullptr;
   bool working_ = false;

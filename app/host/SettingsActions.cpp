@@ -78,10 +78,18 @@ QStringList SettingsActions::SaveTo(const QString& path, const ProjectorSessions
     const QString shownName = QString::fromStdString(name);
     const ModelSettings settings(MakeModelData(session->Profile().Model));
     CPjtInterface connection;
-    connection.SetChannel(MakePatient(session->Channel(), progress.goesOn));
+    const auto channel = MakePatient(session->Channel(), progress.goesOn);
+    connection.SetChannel(channel);
+    const Progress whileThere{.goesOn = [&] { return progress.goesOn() && !channel->IsGone(); },
+                              .step = progress.step};
     std::vector<std::string> unread;
-    const Snapshot snapshot = TakeSnapshot(name, settings, connection, texts, progress, &unread);
-    if (!progress.goesOn()) break;  // half a snapshot would look like a whole one
+    const Snapshot snapshot = TakeSnapshot(name, settings, connection, texts, whileThere, &unread);
+    // Half a snapshot would look like a whole one.
+    if (!progress.goesOn()) break;
+    if (channel->IsGone()) {
+      errors.append(tr("%1: no answer").arg(shownName));
+      continue;
+    }
     if (snapshot.settings.empty()) {
       errors.append(tr("%1: nothing can be read").arg(shownName));
       continue;

@@ -55,6 +55,7 @@ PjtReply PatientChannel::Execute(const PjtCommand& command) {
     break;
   }
   answered_ = reply.answered;
+  offered_ = reply.offered;
   // A step that got lost says nothing yet: the next command does.
   gone_ = gone_ || (!answered_ && (repeats || !everAnswered_));
   everAnswered_ = everAnswered_ || answered_;

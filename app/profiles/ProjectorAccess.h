@@ -35,6 +35,8 @@ class PatientChannel : public ProjectorChannel {
   bool IsGone() const { return gone_; }
   /// Whether the last command was answered.
   bool HasAnswered() const { return answered_; }
+  /// Whether it was to something that the projector has, as far as that is known.
+  bool IsOffered() const { return offered_; }
 
  private:
   std::shared_ptr<ProjectorChannel> inner_;
@@ -42,6 +44,7 @@ class PatientChannel : public ProjectorChannel {
   std::chrono::milliseconds slowest_{0};
   bool everAnswered_;
   bool answered_ = true;
+  bool offered_ = true;
   bool gone_ = false;
 };
 

@@ -33,9 +33,10 @@ PjtReply Unanswered(const PjtCommand& command) {
 }
 
 // A channel that throws has not answered.
-PjtReply Ask(ProjectorChannel& channel, const std::optional<std::vector<PjtCommand>>& announced,
-             const PjtCommand& command) {
+PjtReply Ask(ProjectorChannel& channel, std::optional<std::chrono::milliseconds> longest,
+             const std::optional<std::vector<PjtCommand>>& announced, const PjtCommand& command) {
   try {
+    if (longest) channel.GiveUpAfter(*longest);
     if (announced) channel.Announce(*announced);
     return channel.Execute(command);
   } catch (...) {
@@ -83,6 +84,7 @@ struct BoundedChannel::State {
   // All below under the mutex.
   std::optional<PjtCommand> command;                 ///< Given, and not yet taken by the worker.
   std::optional<std::vector<PjtCommand>> announced;  ///< Likewise.
+  std::optional<std::chrono::milliseconds> longest;  ///< For a command, if less than the limit.
   bool outstanding = false;   ///< Given, and not yet back from the inner channel.
   bool usesIdleTime = false;  ///< The inner channel, right now.
   bool abandoned = false;     ///< The outstanding one is waited for by the next command.
@@ -122,8 +124,9 @@ void BoundedChannel::State::Work() {
     }
     const PjtCommand taken = *std::exchange(command, std::nullopt);
     const auto reads = std::exchange(announced, std::nullopt);
+    const auto time = longest;
     lock.unlock();
-    const PjtReply answer = Ask(*inner, reads, taken);
+    const PjtReply answer = Ask(*inner, time, reads, taken);
     lock.lock();
     outstanding = false;
     hasMoreToDo = answer.answered;
@@ -135,7 +138,8 @@ void BoundedChannel::State::Work() {
 /// False when the time is over or the wait was abandoned.
 bool BoundedChannel::State::WaitUntil(std::unique_lock<std::mutex>& lock, Wait& wait, auto done) {
   const Clock::time_point now = Clock::now();
-  const Clock::time_point deadline = now + limits.timeOut;
+  const Clock::time_point deadline =
+      now + std::min(limits.timeOut, longest.value_or(limits.timeOut));
   const Clock::time_point quick =
       std::min({deadline, now + limits.quickAnswer, stillSince + kStandstill});
   const auto over = [&] { return wait.abandoned || done(); };
@@ -218,6 +222,11 @@ PjtReply BoundedChannel::Execute(const PjtCommand& command) {
         state->lastReturn + (isQuick ? std::min(pause, kRetryAfterQuickFailure) : pause);
   }
   return wait.reply.value_or(Unanswered(command));
+}
+
+void BoundedChannel::GiveUpAfter(std::chrono::milliseconds time) {
+  const std::lock_guard lock(state_->mutex);
+  state_->longest = time;
 }
 
 void BoundedChannel::Abandon() {

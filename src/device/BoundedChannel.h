@@ -21,6 +21,8 @@
 /// What is announced reaches the inner channel together with the next command, unless it is
 /// abandoned before.
 ///
+/// `GiveUpAfter` shortens the time-out; the inner channel is told with the next command.
+///
 /// A command that comes after `Abandon` is always tried: it first waits for the outstanding one to
 /// come back, whose reply is dropped, for at most another time-out.
 ///
@@ -46,6 +48,7 @@ class ADVANCED_CONTROL_EXPORT BoundedChannel : public ProjectorChannel {
 
   PjtReply Execute(const PjtCommand& command) override;
   void Announce(std::span<const PjtCommand> reads) override;
+  void GiveUpAfter(std::chrono::milliseconds time) override;
   void Abandon() override;
   ConnectionState Connection() const override;
   std::optional<SourceList> Inputs() override;

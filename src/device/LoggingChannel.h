@@ -22,6 +22,7 @@ class ADVANCED_CONTROL_EXPORT LoggingChannel : public ProjectorChannel {
 
   PjtReply Execute(const PjtCommand& command) override;
   void Announce(std::span<const PjtCommand> reads) override { inner_->Announce(reads); }
+  void GiveUpAfter(std::chrono::milliseconds time) override { inner_->GiveUpAfter(time); }
   void Abandon() override { inner_->Abandon(); }
   ConnectionState Connection() const override { return inner_->Connection(); }
   std::optional<SourceList> Inputs() override { return inner_->Inputs(); }

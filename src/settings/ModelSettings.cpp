@@ -95,6 +95,19 @@ const ModelSetting* ModelSettings::Find(std::string_view key) const {
   return found == settings_.end() ? nullptr : &*found;
 }
 
+const ModelSetting* ModelSettings::Input() const {
+  const auto found = std::ranges::find_if(settings_, &ModelSetting::SelectsInput);
+  return found == settings_.end() ? nullptr : &*found;
+}
+
+bool ModelSettings::HasSource(const ModelSetting& setting, int source) const {
+  if (setting.of == OfSource::None) return false;
+  if (source == StandbySource(setting.of, model_->ModelCode)) return true;
+  const ModelSetting* const input = Input();
+  const bool isTold = input != nullptr && !input->entries.empty();
+  return !isTold || PositionOf(input->entries, source) >= 0;
+}
+
 std::optional<int> ModelSettings::PresentSource(CPjtInterface& projector,
                                                 const ModelSetting& setting) const {
   if (setting.of == OfSource::None) return {};

@@ -72,6 +72,11 @@ class ModelSettings {
   /// The setting of this key, or null.
   const ModelSetting* Find(std::string_view key) const;
 
+  /// The setting that chooses the input source, or null.
+  const ModelSetting* Input() const;
+  /// Whether a setting is kept for this source. Any counts where the model does not tell its
+  /// inputs.
+  bool HasSource(const ModelSetting& setting, int source) const;
   /// The source that a setting kept for each of them belongs to now; nothing for any other, or
   /// while the projector does not say.
   std::optional<int> PresentSource(CPjtInterface& projector, const ModelSetting& setting) const;

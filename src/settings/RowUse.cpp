@@ -18,9 +18,9 @@ constexpr int kCoolingDown = 2;
 std::optional<int> AskPlayingSource(CPjtInterface& projector, int modelCode) {
   const auto state = Read(projector, kPlayingQuestions[0]);
   const auto input = Read(projector, kInput);
-  if (kCodesWithStandbySource.Contains(modelCode)) {
+  if (const auto standby = StandbySource(OfSource::Playing, modelCode)) {
     if (!state) return {};
-    if (state == kStandby || state == kCoolingDown) return kStandbySource;
+    if (state == kStandby || state == kCoolingDown) return standby;
   }
   return input;
 }
@@ -56,6 +56,11 @@ bool Send(CPjtInterface&, const auto&, const ModelData&, int, int) { return fals
 std::optional<int> AskSource(CPjtInterface& projector, OfSource of, int modelCode) {
   if (of == OfSource::None) return 0;
   return of == OfSource::Current ? Read(projector, kInput) : AskPlayingSource(projector, modelCode);
+}
+
+std::optional<int> StandbySource(OfSource of, int modelCode) {
+  const bool has = of == OfSource::Playing && kCodesWithStandbySource.Contains(modelCode);
+  return has ? std::optional(kStandbySource) : std::nullopt;
 }
 
 std::span<const Call> SourceQuestions(OfSource of) {

@@ -11,6 +11,9 @@
 /// enough; 0, without asking, for a row that belongs to none.
 ADVANCED_CONTROL_EXPORT std::optional<int> AskSource(CPjtInterface& projector, OfSource of,
                                                      int modelCode);
+/// The source that stands for none: what a model plays while it does not run. Nothing for a row
+/// that does not belong to it.
+ADVANCED_CONTROL_EXPORT std::optional<int> StandbySource(OfSource of, int modelCode);
 /// What `AskSource` will ask first, in order.
 ADVANCED_CONTROL_EXPORT std::span<const Call> SourceQuestions(OfSource of);
 

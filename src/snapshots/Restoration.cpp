@@ -14,10 +14,12 @@ Rank RankOf(const ModelSetting& setting) {
   return setting.kind == ModelSetting::Kind::Choice ? Rank::Choice : Rank::Number;
 }
 
-Outcome Judge(const ModelSetting* setting, int value) {
+Outcome Judge(const ModelSettings& model, const ModelSetting* setting, const SavedSetting& saved) {
   if (setting == nullptr) return Outcome::Unknown;
   if (!setting->Restorable()) return Outcome::NotSettable;
-  return setting->Allows(value) ? Outcome::NotReached : Outcome::NotAllowed;
+  const bool isAllowed =
+      setting->Allows(saved.value) && (!saved.source || model.HasSource(*setting, *saved.source));
+  return isAllowed ? Outcome::NotReached : Outcome::NotAllowed;
 }
 
 /// What of the others depends on it is not known for one that the model does not have.
@@ -43,7 +45,7 @@ Restoration::Restoration(const Snapshot& snapshot, const ModelSettings& model,
     : model_(model), connection_(connection) {
   const auto restored = [&model](const SavedSetting& saved, bool isBeforehand) {
     const ModelSetting* const setting = model.Find(saved.key);
-    return RestoredSetting{saved, setting, isBeforehand, Judge(setting, saved.value)};
+    return RestoredSetting{saved, setting, isBeforehand, Judge(model, setting, saved)};
   };
   for (const SavedSetting& saved : snapshot.beforehand) {
     beforehand_.push_back(restored(saved, true));
@@ -93,13 +95,16 @@ void Restoration::Read(const Group& group, const Progress& progress) {
 }
 
 void Restoration::Read(RestoredSetting& restored, const Progress& progress) {
-  const int unanswered = connection_.Sent().unanswered;
+  const CPjtInterface::Tally sent = connection_.Sent();
   restored.before = model_.Read(connection_, *restored.setting, restored.saved.source);
   if (!restored.first) restored.first = restored.before;
   if (!restored.before) {
     // A projector that is gone has refused nothing.
-    const bool isGone = connection_.Sent().unanswered > unanswered || !progress.goesOn();
-    restored.outcome = isGone ? Outcome::NotReached : Outcome::Refused;
+    const CPjtInterface::Tally now = connection_.Sent();
+    const bool isGone = now.unanswered > sent.unanswered || !progress.goesOn();
+    const bool isOffered = now.notOffered == sent.notOffered;
+    const Outcome outcome = isOffered ? Outcome::Refused : Outcome::NotOffered;
+    restored.outcome = isGone ? Outcome::NotReached : outcome;
   } else {
     const bool same = *restored.before == restored.saved.value;
     restored.outcome = same ? Outcome::AlreadySo : Outcome::Differs;

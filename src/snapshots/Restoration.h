@@ -17,8 +17,9 @@ enum class Outcome : std::uint8_t {
   Refused,      ///< Told in vain, or the projector does not even tell its value.
   Unconfirmed,  ///< Told, but the projector was gone before it could be read back.
   Unknown,      ///< The model does not have the setting.
+  NotOffered,   ///< The model has it, but the projector says that it does not.
   NotSettable,  ///< The model has it, but it is not one to put back.
-  NotAllowed,   ///< The model does not take this value.
+  NotAllowed,   ///< The model does not take this value, or not for this source.
 };
 
 struct RestoredSetting {

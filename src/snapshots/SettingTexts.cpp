@@ -30,6 +30,12 @@ bool SameText(std::string_view a, std::string_view b) {
   return Wide(a).compare(Wide(b).trimmed(), Qt::CaseInsensitive) == 0;
 }
 
+/// Caption number of "V" or "H", which such a setting's row shows behind its caption; 0 for others.
+int Direction(std::string_view key) {
+  if (key.ends_with("-v")) return 52;
+  return key.ends_with("-h") ? 53 : 0;
+}
+
 /// The last part of a key in capitals, which is the caption where it is the same in every language.
 std::string Abbreviation(std::string_view key) {
   return Wide(key.substr(key.rfind('.') + 1)).toUpper().toStdString();
@@ -50,6 +56,26 @@ std::string SettingTexts::Text(int category, int number, int value) const {
 std::string SettingTexts::Caption(const ModelSetting& setting) const {
   const std::string text = setting.caption != 0 ? Text(kCaptionCategory, setting.caption) : "";
   return text.empty() ? Abbreviation(setting.key) : text;
+}
+
+std::string SettingTexts::Name(const ModelSettings& model, const ModelSetting& setting,
+                               std::optional<int> source) const {
+  const bool isShared = std::ranges::any_of(model.All(), [&](const ModelSetting& other) {
+    return &other != &setting && other.tab == setting.tab && Caption(other) == Caption(setting);
+  });
+  std::string name = Caption(setting);
+  if (isShared) {
+    const int direction = Direction(setting.key);
+    name += direction != 0 ? ' ' + Text(kCaptionCategory, direction)
+                           : std::string(" (").append(setting.key) + ')';
+  }
+  if (source) name += " (" + Source(model, *source) + ')';
+  return name;
+}
+
+std::string SettingTexts::Source(const ModelSettings& model, int source) const {
+  const ModelSetting* const input = model.Input();
+  return input != nullptr ? Value(*input, source) : std::to_string(source);
 }
 
 std::string SettingTexts::Tab(const ModelSetting& setting) const {

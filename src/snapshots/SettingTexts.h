@@ -24,6 +24,12 @@ class SettingTexts {
 
   /// Caption of a setting, as its label reads.
   std::string Caption(const ModelSetting& setting) const;
+  /// The same with what sets it apart from others of its tab: "V" or "H", or else its key, where
+  /// the caption is theirs too, and the name of the input source that it is meant for.
+  std::string Name(const ModelSettings& model, const ModelSetting& setting,
+                   std::optional<int> source) const;
+  /// An input source as the list of inputs calls it, or else its number.
+  std::string Source(const ModelSettings& model, int source) const;
   /// Caption of the tab that it stands on.
   std::string Tab(const ModelSetting& setting) const;
   std::string Entry(const ListEntry& entry) const;

@@ -23,11 +23,12 @@ Snapshot TakeSnapshot(const std::string& projector, const ModelSettings& setting
     if (!progress.goesOn()) break;
     // A value of nobody knows which source could not be put back.
     const bool isKnown = setting->of == OfSource::None || source;
+    const int notOffered = connection.Sent().notOffered;
     const auto value = isKnown ? settings.Read(connection, *setting, source) : std::nullopt;
     if (value) {
       snapshot.settings.push_back(
           {std::string(setting->key), *value, texts.Value(*setting, *value), source});
-    } else if (unread != nullptr) {
+    } else if (unread != nullptr && connection.Sent().notOffered == notOffered) {
       unread->emplace_back(setting->key);
     }
     progress.step();

@@ -44,7 +44,7 @@ struct Progress {
 Snapshot EmptySnapshot(const std::string& projector, const ModelData& model);
 
 /// Reads every setting that may be put back; what the projector refuses to tell is left out, and
-/// named in `unread` unless that is null.
+/// named in `unread` unless that is null, or the projector does not offer it at all.
 Snapshot TakeSnapshot(const std::string& projector, const ModelSettings& settings,
                       CPjtInterface& connection, const SettingTexts& texts,
                       const Progress& progress = {}, std::vector<std::string>* unread = nullptr);

@@ -71,6 +71,9 @@ TEST(Acctl, AnswersWrongUseWithOneLineAndExitCode2) {
       {{"set", kRoom, "picture.tint", "99"}, "picture.tint: '99' is not one of: -31 to 31"},
       {{"set", kRoom, "status.error", "1"}, "status.error: this cannot be set"},
       {{"reset", kRoom, "picture.gamma"}, "picture.gamma: this cannot be reset"},
+      {{"reset", kRoom, "status.*"}, "status.*: this cannot be reset"},
+      {{"--dry-run", "set", kRoom, "picture.tint", "3"}, "set takes no --dry-run"},
+      {{"save", kRoom, "x", "--only", "zzz"}, "zzz: this model has no such setting"},
       {{"save", "Projector 5-*", "x"}, "this takes one projector, not"},
       {{"diff", kRoom, "/nowhere"}, "cannot read /nowhere: "},
       {{"apply", "/etc/passwd", kRoom}, "/etc/passwd: line 1: "},
@@ -124,7 +127,9 @@ TEST(Acctl, PutsSettingsBackAndUndoesIt) {
   EXPECT_THAT(run({"save", kRoom, file}).output, StartsWith("91 settings saved in "));
   EXPECT_EQ(run({"set", kRoom, "picture.brightness", "-3", "other.input-source", "+1"}).exitCode,
             0);
-  EXPECT_EQ(run({"reset", kRoom, "picture.tint"}).exitCode, 0);
+  EXPECT_THAT(run({"reset", kRoom, "picture.tint", "status.lamp-time"}).output,
+              HasSubstr("status.lamp-time  Lamp Time  0 h\n"));
+  EXPECT_THAT(run({"apply", "--only", "zzz", file, kRoom}), Ends(2, HasSubstr("--only zzz: ")));
   const Outcome dry = run({"apply", "--dry-run", "--only", "picture.*", file, kRoom});
   EXPECT_THAT(dry.output, HasSubstr("picture.brightness  Brightness  4  ->  7\n1 different, "));
   EXPECT_THAT(run({"apply", file, kRoom}).output, StartsWith("2 changed, "));
@@ -139,8 +144,21 @@ TEST(Acctl, TellsWhatIsRefusedAndWhatDoesNotAnswer) {
   const Simulator refuses({"--fault", "refuse"});
   EXPECT_THAT(Acctl(refuses.At({"set", kRoom, "picture.tint", "3"})),
               Ends(1, StartsWith("acctl: Projector 5-30: picture.tint: refused\n")));
+  EXPECT_THAT(Acctl(refuses.At({"save", kRoom, "x", "--only", "picture.tint"})),
+              Ends(1, HasSubstr(": nothing can be read, and nothing was written\n")));
+  EXPECT_THAT(Shell("timeout 0.5 \"$0\" \"$@\"",
+                    refuses.At({"watch", kRoom, "picture.tint", "--interval", "0.05"})),
+              Ends(124, "acctl: Projector 5-30: picture.tint: cannot be read now\n"));
   const Simulator simulator({"--password", "secret"});
   const QTemporaryDir folder;
+  const QString file = folder.filePath("good.json");
+  SaveOthers(file);
+  const QStringList other{"--password", "secret", "--connect", simulator.Address("pjlink")};
+  const char* const notOffered = ": skipped, this projector does not offer it: picture.tint\n";
+  EXPECT_THAT(Acctl(other + QStringList{"get", kRoom, "picture.t*"}),
+              Ends(0, HasSubstr(notOffered)));
+  EXPECT_THAT(Acctl(other + QStringList{"diff", kRoom, file, "--only", "picture.tint"}),
+              Ends(0, HasSubstr(notOffered)));
   Write(folder.filePath("any"), R"({"projectors": [{"name": "Any", "model": "M", "dialogType": 5,
       "modelCode": 30, "connection": {"network": {"address": "192.0.2.1", "port": 4352}}}]})");
   const QStringList any{
@@ -176,8 +194,11 @@ TEST(Acctl, SaysWhenInterruptedWhatWasDone) {
               testing::ContainsRegex("^[0-9]+ already so\n$"));
 
   QProcess watch;
-  watch.start(ACCTL_PROGRAM, simulator.At({"watch", kRoom, "picture.tint", "--interval", "0.05"}));
+  watch.start("bash",
+              QStringList{"-c", "trap '' INT; exec \"$0\" \"$@\" --interval 0.05", ACCTL_PROGRAM} +
+                  simulator.At({"watch", kRoom, "picture.tint"}));
   ASSERT_TRUE(watch.waitForReadyRead(10000));
+  ::kill(static_cast<pid_t>(watch.processId()), SIGINT);  // which is ignored, as it was before
   EXPECT_EQ(Acctl(simulator.At({"set", kRoom, "picture.tint", "9"})).exitCode, 0);
   ASSERT_TRUE(watch.waitForReadyRead(10000));
   watch.terminate();
@@ -203,6 +224,23 @@ TEST(Acctl, LeavesNothingHalfWritten) {
   EXPECT_THAT(Acctl({"save", kRoom, "/proc/kept.json"}),
               Ends(1, HasSubstr("cannot write /proc/kept.json")));
   EXPECT_THAT(Acctl({"save", kRoom, "/dev/stdout"}).output, HasSubstr("picture.tint"));
+}
+
+TEST(Acctl, CompletesWhatTheCommandCanUse) {
+  const QString line =
+      "PATH=${0%/*}:$PATH; source \"$1\"; COMP_WORDS=(acctl \"${@:2}\"); COMP_CWORD=$(($# - 1)); "
+      "_acctl; echo \"${COMPREPLY[*]}\"";
+  const std::pair<QStringList, const char*> kCases[] = {
+      {{"--prof"}, "--profiles\n"},
+      {{"get", "Projector\\ 5-30"}, "Projector\\ 5-30\n"},
+      {{"set", "Projector\\ 5-30", "picture.tint", "=", "-3", "picture.ga"}, "picture.gamma\n"},
+      {{"reset", "'Projector 5-30'", "status."}, "status.lamp-time status.filter-time\n"},
+      {{"get", "'Projector 5-30'", "picture.m"}, "\n"}};
+  for (const auto& [words, offered] : kCases) {
+    const Outcome run = Shell(line, QStringList{ACCTL_COMPLETION} + words);
+    EXPECT_THAT(run, Ends(0, ""));
+    EXPECT_EQ(run.output, offered) << words.join(' ').toStdString();
+  }
 }
 
 // Who left does not want to be told.

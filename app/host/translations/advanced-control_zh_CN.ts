@@ -979,6 +979,14 @@
         <translation>已跳过：此型号没有该设置</translation>
     </message>
     <message>
+        <source>&amp;Compare Again</source>
+        <translation>重新比较(&amp;C)</translation>
+    </message>
+    <message>
+        <source>skipped: this projector does not offer it</source>
+        <translation>已跳过：此投影机不提供该设置</translation>
+    </message>
+    <message>
         <source>skipped: it is not one to put back</source>
         <translation>已跳过：该设置不可还原</translation>
     </message>
@@ -1040,6 +1048,10 @@
     <message>
         <source>A&amp;pply Settings…</source>
         <translation>应用设置(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>%1: no answer</source>
+        <translation>%1：无应答</translation>
     </message>
     <message>
         <source>%1: nothing can be read</source>

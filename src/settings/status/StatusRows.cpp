@@ -36,8 +36,8 @@ constexpr StateRow State(std::string_view key, int caption, int label, std::uint
           .frame = ListText::StatusValue};
 }
 
-constexpr ResetEntry kResets[] = {{ListText::LampTime, Op::ExecLampTimeReset},
-                                  {ListText::FilterTime, Op::ExecFilterTimeReset}};
+constexpr ResetEntry kResets[] = {{ListText::LampTime, Op::ExecLampTimeReset, 20014},
+                                  {ListText::FilterTime, Op::ExecFilterTimeReset, 20015}};
 
 // clang-format off
 constexpr PageRow kRows[] = {

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "app/acctl/Arguments.h"
+#include "app/acctl/Report.h"
+#include "app/profiles/ProjectorAccess.h"
+
+inline constexpr const char* kNotReadable = "cannot be read now";
+inline constexpr const char* kNotOffered = "this projector does not offer it";
+
+/// Whether a name is one of the patterns, or there is none.
+bool IsLike(std::string_view name, const std::vector<std::string>& patterns);
+
+/// "no answer", and what the connection knows of the reason.
+std::string NoAnswerText(const ProjectorAccess& projector);
+/// Why a setting cannot be used now: `refusal`, unless the last command came to something worse.
+std::string ReasonOf(const ProjectorAccess& projector, const char* refusal);
+void ComplainOf(const ModelSetting& setting, const ProjectorAccess& projector, const char* refusal,
+                Report& report);
+
+/// What a command does with a setting.
+struct Use {
+  bool (*isPossible)(const ModelSetting&);
+  const char* refusal;
+  bool (*isForPatterns)(const ModelSetting&) = [](const ModelSetting&) { return true; };
+};
+
+inline constexpr Use kTold{[](const ModelSetting&) { return true; }, ""};
+inline constexpr Use kRead{[](const ModelSetting& setting) { return setting.readable; },
+                           "this cannot be read"};
+inline constexpr Use kSet{[](const ModelSetting& setting) { return setting.changeable; },
+                          "this cannot be set"};
+inline constexpr Use kKept{[](const ModelSetting& setting) { return setting.Restorable(); },
+                           "this is not one to put back"};
+// Hours that were counted do not come back, so that no pattern means them.
+inline constexpr Use kReset{
+    [](const ModelSetting& setting) { return setting.reset.has_value(); }, "this cannot be reset",
+    [](const ModelSetting& setting) { return setting.kind != ModelSetting::Kind::State; }};
+
+/// What `get`, `set`, `reset` and `watch` can use; for any other command everything.
+const Use& UseBy(Arguments::Command command);
+
+/// The settings that the words name and that can be used so, in the model's order; a word that
+/// names none is complained of.
+std::vector<const ModelSetting*> Chosen(const ModelSettings& settings, const Use& use,
+                                        const std::vector<std::string>& words, Report& report);

@@ -1,6 +1,7 @@
 #include "app/host/DialogKeeper.h"
 
 #include <algorithm>
+#include <ranges>
 #include <utility>
 
 #include <QScreen>
@@ -54,7 +55,13 @@ CAdvanceDlg* DialogKeeper::Of(const ProjectorSession& session) const {
   return found == dialogs_.end() ? nullptr : found->second.get();
 }
 
-CAdvanceDlg* DialogKeeper::Open(const ProjectorSession& session) {
+bool DialogKeeper::IsWaiting() const {
+  const auto waits = [](const auto& dialog) { return dialog->Projector().IsWaiting(); };
+  return std::ranges::any_of(dialogs_ | std::views::values, waits) ||
+         std::ranges::any_of(retired_, waits);
+}
+
+CAdvanceDlg* DialogKeeper::Open(const ProjectorSession& session, std::optional<int> tab) {
   CAdvanceDlg* dialog = Of(session);
   if (dialog == nullptr) {
     dialog = (dialogs_[&session] = session.MakeDialog()).get();
@@ -63,7 +70,7 @@ CAdvanceDlg* DialogKeeper::Open(const ProjectorSession& session) {
     const CModelInfo2& model = session.Profile().Model;
     const bool created = dialog->CreateShown([&] {
       Arrange(*dialog);
-      SelectLastTab(*dialog, model);
+      SelectTab(*dialog, model, tab);
     });
     if (!created) Retire(&session);
     return Of(session);  // it may have been closed while it was read
@@ -72,20 +79,24 @@ CAdvanceDlg* DialogKeeper::Open(const ProjectorSession& session) {
   dialog->show();
   dialog->raise();
   dialog->activateWindow();
-  return dialog;
+  if (tab) dialog->findChild<QTabBar*>()->setCurrentIndex(*tab);
+  return Of(session);
 }
 
 // Before anything is read, and not in the user's way later.
-void DialogKeeper::SelectLastTab(CAdvanceDlg& dialog, const CModelInfo2& model) {
-  if (settings_ == nullptr) return;
+void DialogKeeper::SelectTab(CAdvanceDlg& dialog, const CModelInfo2& model,
+                             std::optional<int> tab) {
   auto* tabs = dialog.findChild<QTabBar*>();
+  const QSignalBlocker quiet(tabs);  // the selected page is about to be read anyway
+  if (tab) tabs->setCurrentIndex(*tab);
+  if (settings_ == nullptr) return;
   const std::vector<int> captions = TabCaptions(model);
-  connect(tabs, &QTabBar::currentChanged, this, [this, captions](int tab) {
-    if (tab >= 0) settings_->setValue(kTabKey, captions[static_cast<std::size_t>(tab)]);
+  connect(tabs, &QTabBar::currentChanged, this, [this, captions](int shown) {
+    if (shown >= 0) settings_->setValue(kTabKey, captions[static_cast<std::size_t>(shown)]);
   });
   const auto last = std::ranges::find(captions, settings_->value(kTabKey).toInt());
-  const QSignalBlocker quiet(tabs);  // the selected page is about to be read anyway
-  if (last != captions.end()) tabs->setCurrentIndex(static_cast<int>(last - captions.begin()));
+  if (tab || last == captions.end()) return;
+  tabs->setCurrentIndex(static_cast<int>(last - captions.begin()));
 }
 
 void DialogKeeper::Arrange(CAdvanceDlg& dialog) {

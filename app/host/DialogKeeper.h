@@ -3,6 +3,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include <QObject>
@@ -29,8 +30,12 @@ class DialogKeeper : public QObject {
   ~DialogKeeper() override;
 
   /// Opens a projector's dialog or brings the open one to the front. Null when it could not be
-  /// opened, or was closed while it was read; owned by the keeper.
-  CAdvanceDlg* Open(const ProjectorSession& session);
+  /// opened, or was closed while it was read; owned by the keeper. With a tab that one is shown,
+  /// else the one that was shown last in any.
+  CAdvanceDlg* Open(const ProjectorSession& session, std::optional<int> tab = {});
+
+  /// Whether a dialog waits for its projector.
+  bool IsWaiting() const;
 
   /// The projector's open dialog, or null.
   CAdvanceDlg* Of(const ProjectorSession& session) const;
@@ -49,7 +54,7 @@ class DialogKeeper : public QObject {
  private:
   void Arrange(CAdvanceDlg& dialog);
   void Place(CAdvanceDlg& dialog) const;
-  void SelectLastTab(CAdvanceDlg& dialog, const CModelInfo2& model);
+  void SelectTab(CAdvanceDlg& dialog, const CModelInfo2& model, std::optional<int> tab);
   void Retire(const ProjectorSession* session);
   void Remember(const CAdvanceDlg& dialog);
   void DeleteRetired();

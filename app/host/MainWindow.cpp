@@ -32,6 +32,7 @@
 #include "app/host/ProjectorView.h"
 #include "app/host/SettingNames.h"
 #include "app/host/SettingsActions.h"
+#include "app/host/WhenIdle.h"
 #include "host/CAdvanceDlg.h"
 #include "i18n/Catalog.h"
 
@@ -92,9 +93,11 @@ MainWindow::MainWindow(ProfileDocument profiles, QSettings* settings)
       faults_(new FaultPanel),
       sides_(new QSplitter),
       tools_(new QSplitter(Qt::Vertical)),
+      whenIdle_(new WhenIdle([this] { return dialogs_->IsWaiting(); }, this)),
       profileActions_(new ProfileActions(
-          profiles_, [this] { return projectors_->CurrentRow(); }, *this)),
-      settingsActions_(new SettingsActions([this] { return projectors_->Selected(); }, *this)),
+          profiles_, [this] { return projectors_->CurrentRow(); }, *whenIdle_, *this)),
+      settingsActions_(
+          new SettingsActions([this] { return projectors_->Selected(); }, *whenIdle_, *this)),
       dialogs_(std::make_unique<DialogKeeper>(
           *this,
           [this] {
@@ -107,6 +110,10 @@ MainWindow::MainWindow(ProfileDocument profiles, QSettings* settings)
   if (const std::string problem = CatalogProblem(); !problem.empty()) {
     statusBar()->addWidget(new QLabel(QString::fromStdString(problem)));
   }
+  connect(whenIdle_, &WhenIdle::Waiting, this, [this](bool waiting) {
+    statusBar()->showMessage(waiting ? tr("Waiting for the projector of an open dialog…")
+                                     : QString());
+  });
   connect(log_, &CommandLog::Updated, faults_, &FaultPanel::RefreshStates);
   connect(projectors_, &ProjectorView::Activated, this, &MainWindow::OpenCurrent);
   connect(projectors_, &ProjectorView::CurrentChanged, this, [this] {
@@ -203,8 +210,9 @@ void MainWindow::MakeMenus() {
   log_->ClearAll()->setShortcut(Qt::CTRL | Qt::Key_L);
 
   QMenu* help = menuBar()->addMenu(tr("&Help"));
-  add(help, tr("&Keyboard Shortcuts"), QKeySequence::HelpContents, &MainWindow::ShowShortcuts);
-  add(help, tr("&About"), {}, &MainWindow::ShowAbout);
+  add(help, tr("&Keyboard Shortcuts"), QKeySequence::HelpContents,
+      [this] { whenIdle_->Run([this] { ShowShortcuts(); }); });
+  add(help, tr("&About"), {}, [this] { whenIdle_->Run([this] { ShowAbout(); }); });
 }
 
 std::shared_ptr<ProjectorSession> MainWindow::MakeSession(const ProjectorProfile& profile) {
@@ -259,9 +267,9 @@ void MainWindow::OpenCurrent() {
     OpenDialog(static_cast<std::size_t>(row));
 }
 
-CAdvanceDlg* MainWindow::OpenDialog(std::size_t projector) {
+CAdvanceDlg* MainWindow::OpenDialog(std::size_t projector, std::optional<int> tab) {
   projectors_->Select(static_cast<int>(projector));
-  return dialogs_->Open(*projectors_->Model().All()[projector]);
+  return dialogs_->Open(*projectors_->Model().All()[projector], tab);
 }
 
 CAdvanceDlg* MainWindow::Dialog(std::size_t projector) const {

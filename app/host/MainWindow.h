@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include <QMainWindow>
@@ -17,6 +18,7 @@ class SettingsActions;
 class ProjectorView;
 class QSettings;
 class QSplitter;
+class WhenIdle;
 
 /// The list of projectors, from which a dialog is opened on each, with the log of their commands
 /// and the controls of their simulations. Dialogs are open beside it, one per projector.
@@ -32,8 +34,9 @@ class MainWindow : public QMainWindow {
   ~MainWindow() override;
 
   /// Opens the dialog of a projector or brings the open one to the front. Null when it could not be
-  /// opened, or was closed while it was read; owned by the window.
-  CAdvanceDlg* OpenDialog(std::size_t projector);
+  /// opened, or was closed while it was read; owned by the window. With a tab that one is shown,
+  /// else the last one.
+  CAdvanceDlg* OpenDialog(std::size_t projector, std::optional<int> tab = {});
 
   /// The projector's open dialog, or null.
   CAdvanceDlg* Dialog(std::size_t projector) const;
@@ -64,6 +67,7 @@ class MainWindow : public QMainWindow {
   FaultPanel* faults_;
   QSplitter* sides_;
   QSplitter* tools_;
+  WhenIdle* whenIdle_;
   ProfileActions* profileActions_;
   SettingsActions* settingsActions_;
   std::unique_ptr<DialogKeeper> dialogs_;

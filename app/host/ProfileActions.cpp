@@ -10,6 +10,7 @@
 
 #include "app/host/ProfileDocument.h"
 #include "app/host/ProfileEditor.h"
+#include "app/host/WhenIdle.h"
 
 namespace {
 
@@ -28,10 +29,11 @@ void Tell(QWidget& window, const QString& title, const QString& error) {
 }  // namespace
 
 ProfileActions::ProfileActions(ProfileDocument& document, std::function<int()> current,
-                               QWidget& window)
+                               WhenIdle& whenIdle, QWidget& window)
     : QObject(&window),
       document_(document),
       current_(std::move(current)),
+      whenIdle_(whenIdle),
       window_(window),
       open_(Make(tr("&Open Profiles…"), QKeySequence::Open, &ProfileActions::OpenFile)),
       reload_(Make(tr("&Reload"), QKeySequence::Refresh, &ProfileActions::ReloadFile)),
@@ -49,7 +51,11 @@ QAction* ProfileActions::Make(const QString& text, const QKeySequence& keys,
                               void (ProfileActions::*act)()) {
   auto* action = new QAction(text, this);
   action->setShortcut(keys);
-  connect(action, &QAction::triggered, this, act);
+  connect(action, &QAction::triggered, this, [this, action, act] {
+    whenIdle_.Run([this, action, act] {
+      if (action->isEnabled()) (this->*act)();
+    });
+  });
   return action;
 }
 

@@ -7,6 +7,7 @@
 class ProfileDocument;
 class QAction;
 class QWidget;
+class WhenIdle;
 
 /// What a user does with the profile file and the projectors in it, as actions for menus. Asks for
 /// names and numbers, tells errors.
@@ -14,9 +15,10 @@ class ProfileActions : public QObject {
   Q_OBJECT
 
  public:
-  /// `current` tells the selected projector's position, −1 for none. The document must outlive
-  /// this, which belongs to the window; the actions belong to it.
-  ProfileActions(ProfileDocument& document, std::function<int()> current, QWidget& window);
+  /// `current` tells the selected projector's position, −1 for none. The document and `whenIdle`
+  /// must outlive this, which belongs to the window; the actions belong to it.
+  ProfileActions(ProfileDocument& document, std::function<int()> current, WhenIdle& whenIdle,
+                 QWidget& window);
 
   QAction* Open() const { return open_; }
   QAction* Reload() const { return reload_; }
@@ -48,6 +50,7 @@ class ProfileActions : public QObject {
 
   ProfileDocument& document_;
   const std::function<int()> current_;
+  WhenIdle& whenIdle_;
   QWidget& window_;
   QAction* open_;
   QAction* reload_;

@@ -28,6 +28,8 @@ class ProjectorSession {
   const ProjectorProfile& Profile() const { return profile_; }
   /// The way to the projector that dialogs take, too.
   const std::shared_ptr<ProjectorChannel>& Channel() const { return channel_; }
+  /// The times of that way.
+  BoundedChannel::Limits Bounds() const;
   /// Of a projector that is not simulated, a simulation that nobody uses.
   SimulatedProjector& Simulator() { return *simulator_; }
 
@@ -44,7 +46,6 @@ class ProjectorSession {
 
  private:
   std::shared_ptr<ProjectorChannel> MakeWay();
-  BoundedChannel::Limits Bounds() const;
 
   ProjectorProfile profile_;
   std::shared_ptr<SimulatedProjector> simulator_;

@@ -57,7 +57,11 @@ ProjectorView::ProjectorView(QWidget* parent)
 
   connect(search_, &QLineEdit::textChanged, this, [this](const QString& words) {
     filter_->Search(words);
-    if (CurrentRow() < 0) SelectOnly(filter_->index(0, 0));
+    // The next row became the current one without being selected.
+    const QModelIndex current = table_->currentIndex();
+    if (!table_->selectionModel()->hasSelection()) {
+      SelectOnly(current.isValid() ? current : filter_->index(0, 0));
+    }
     open_->setEnabled(CurrentRow() >= 0);
   });
   connect(search_, &QLineEdit::returnPressed, this, &ProjectorView::Activated);

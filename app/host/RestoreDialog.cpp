@@ -46,7 +46,7 @@ struct RestoreDialog::Room {
   /// For each piece of work: one that was gone before may be back.
   void Connect(const std::function<bool()>& goesOn) {
     if (channel && !channel->IsGone()) return;
-    channel = MakePatient(session->Channel(), goesOn);
+    channel = MakePatient(*session, goesOn);
     connection.SetChannel(channel);
   }
 

@@ -8,11 +8,10 @@
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QProgressDialog>
-#include <QThread>
-#include <QTimer>
 
 #include "app/host/AfreshChannel.h"
 #include "app/host/ProjectorSession.h"
+#include "app/host/WhenIdle.h"
 #include "app/profiles/SettingsFile.h"
 #include "app/profiles/WholeFile.h"
 #include "device/ModelDataIntake.h"
@@ -22,13 +21,14 @@
 namespace {
 
 constexpr qsizetype kLinesTold = 10;
-constexpr auto kLater = std::chrono::milliseconds(50);
 
 }  // namespace
 
-SettingsActions::SettingsActions(std::function<ProjectorSessions()> selected, QWidget& window)
+SettingsActions::SettingsActions(std::function<ProjectorSessions()> selected, WhenIdle& whenIdle,
+                                 QWidget& window)
     : QObject(&window),
       selected_(std::move(selected)),
+      whenIdle_(whenIdle),
       window_(window),
       save_(Make(tr("Save Se&ttings…"), &SettingsActions::SaveSettings)),
       compare_(Make(tr("&Compare with File…"), &SettingsActions::CompareSettings)),
@@ -36,20 +36,15 @@ SettingsActions::SettingsActions(std::function<ProjectorSessions()> selected, QW
   Update();
 }
 
-QAction* SettingsActions::Make(const QString& text, void (SettingsActions::*act)()) {
+// Those that were selected when it was chosen are meant.
+QAction* SettingsActions::Make(const QString& text, Act act) {
   auto* action = new QAction(text, this);
-  connect(action, &QAction::triggered, this, [this, act] { Run(act); });
+  connect(action, &QAction::triggered, this, [this, act] {
+    whenIdle_.Run([this, act, sessions = selected_()] {
+      if (!sessions.empty()) (this->*act)(sessions);
+    });
+  });
   return action;
-}
-
-// A dialog's handler that waits in an event loop below could not go on before we have ended, and
-// its channel takes no other command until then.
-void SettingsActions::Run(void (SettingsActions::*act)()) {
-  if (QThread::currentThread()->loopLevel() > 1) {
-    QTimer::singleShot(kLater, this, [this, act] { Run(act); });
-  } else {
-    (this->*act)();
-  }
 }
 
 void SettingsActions::Update() {
@@ -78,7 +73,7 @@ QStringList SettingsActions::SaveTo(const QString& path, const ProjectorSessions
     const QString shownName = QString::fromStdString(name);
     const ModelSettings settings(MakeModelData(session->Profile().Model));
     CPjtInterface connection;
-    const auto channel = MakePatient(session->Channel(), progress.goesOn);
+    const auto channel = MakePatient(*session, progress.goesOn);
     connection.SetChannel(channel);
     const Progress whileThere{.goesOn = [&] { return progress.goesOn() && !channel->IsGone(); },
                               .step = progress.step};
@@ -109,9 +104,7 @@ QStringList SettingsActions::SaveTo(const QString& path, const ProjectorSessions
   return errors;
 }
 
-void SettingsActions::SaveSettings() {
-  const ProjectorSessions sessions = selected_();
-  if (sessions.empty()) return;
+void SettingsActions::SaveSettings(const ProjectorSessions& sessions) {
   const QString title = tr("Save Settings");
   const QString path =
       sessions.size() == 1
@@ -131,9 +124,15 @@ void SettingsActions::SaveSettings() {
   if (!errors.isEmpty()) Tell(title, errors.join(QLatin1Char('\n')));
 }
 
-void SettingsActions::OpenFile(RestoreDialog::Purpose purpose) {
-  const ProjectorSessions sessions = selected_();
-  if (sessions.empty()) return;
+void SettingsActions::CompareSettings(const ProjectorSessions& sessions) {
+  OpenFile(RestoreDialog::Purpose::Compare, sessions);
+}
+
+void SettingsActions::ApplySettings(const ProjectorSessions& sessions) {
+  OpenFile(RestoreDialog::Purpose::Restore, sessions);
+}
+
+void SettingsActions::OpenFile(RestoreDialog::Purpose purpose, const ProjectorSessions& sessions) {
   const QString path =
       QFileDialog::getOpenFileName(&window_, tr("Open Settings"), {}, tr("Settings (*.json)"));
   if (path.isEmpty()) return;

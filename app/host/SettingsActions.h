@@ -8,6 +8,7 @@
 
 class QAction;
 class QWidget;
+class WhenIdle;
 
 /// Saving the settings of projectors in files, comparing them with a file and putting a file back,
 /// as actions for menus. Asks for files, tells errors.
@@ -15,9 +16,9 @@ class SettingsActions : public QObject {
   Q_OBJECT
 
  public:
-  /// `selected` tells the projectors that are meant. This belongs to the window; the actions belong
-  /// to it.
-  SettingsActions(std::function<ProjectorSessions()> selected, QWidget& window);
+  /// `selected` tells the projectors that are meant. `whenIdle` outlives this, which belongs to the
+  /// window; the actions belong to it.
+  SettingsActions(std::function<ProjectorSessions()> selected, WhenIdle& whenIdle, QWidget& window);
 
   QAction* Save() const { return save_; }
   QAction* Compare() const { return compare_; }
@@ -32,15 +33,17 @@ class SettingsActions : public QObject {
                             const Progress& progress = {});
 
  private:
-  QAction* Make(const QString& text, void (SettingsActions::*act)());
-  void Run(void (SettingsActions::*act)());
-  void SaveSettings();
-  void CompareSettings() { OpenFile(RestoreDialog::Purpose::Compare); }
-  void ApplySettings() { OpenFile(RestoreDialog::Purpose::Restore); }
-  void OpenFile(RestoreDialog::Purpose purpose);
+  using Act = void (SettingsActions::*)(const ProjectorSessions& sessions);
+
+  QAction* Make(const QString& text, Act act);
+  void SaveSettings(const ProjectorSessions& sessions);
+  void CompareSettings(const ProjectorSessions& sessions);
+  void ApplySettings(const ProjectorSessions& sessions);
+  void OpenFile(RestoreDialog::Purpose purpose, const ProjectorSessions& sessions);
   void Tell(const QString& title, const QString& text);
 
   const std::function<ProjectorSessions()> selected_;
+  WhenIdle& whenIdle_;
   QWidget& window_;
   QAction* save_;
   QAction* compare_;

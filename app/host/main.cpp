@@ -9,7 +9,7 @@
 #include <QFileInfo>
 #include <QIcon>
 #include <QSettings>
-#include <QTabBar>
+#include <QTimer>
 
 #include "app/host/CommandLine.h"
 #include "app/host/MainWindow.h"
@@ -18,7 +18,6 @@
 #include "app/host/Translations.h"
 #include "app/profiles/Table.h"
 #include "app/profiles/WholeFile.h"
-#include "host/CAdvanceDlg.h"
 #include "i18n/Catalog.h"
 #include "i18n/SystemLanguage.h"
 #include "settings/PageSets.h"
@@ -107,10 +106,9 @@ int RunWindow(const CommandLine& line, ProfileDocument profiles, std::size_t ope
   QSettings settings(kName, kName);
   MainWindow window(std::move(profiles), &settings);
   window.show();
+  // While it is read, dialog and window may be closed as at any other time.
   if (!line.open.isEmpty()) {
-    const CAdvanceDlg* dialog = window.OpenDialog(opened);
-    if (dialog == nullptr) return Fail(Program::tr("the dialog cannot be created"));
-    if (line.tab.has_value()) dialog->findChild<QTabBar*>()->setCurrentIndex(*line.tab);
+    QTimer::singleShot(0, &window, [&] { window.OpenDialog(opened, line.tab); });
   }
   return QApplication::exec();
 }

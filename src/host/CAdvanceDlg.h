@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <chrono>
 #include <memory>
 #include <optional>
 #include <string>
@@ -144,7 +145,7 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
   void SelectNeighbourTab(int step);
   void StartFinding();
   void GoTo(int tab, int control, const std::optional<PagePopUp>& popUp);
-  void OpenPopUp(int button, int control);
+  void OpenPopUp(int button, int control, std::chrono::milliseconds delay = {});
 
   const ResourceModule* savedResources_ = nullptr;  // put back when the dialog closes
   ModelData model_;

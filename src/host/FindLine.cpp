@@ -22,6 +22,7 @@
 namespace {
 
 const QString kSeparator = QStringLiteral(" \u2014 ");
+constexpr std::chrono::milliseconds kLater{50};
 
 }  // namespace
 
@@ -59,8 +60,10 @@ void FindLine::Choose(const QModelIndex& completion) {
   const auto* shown = static_cast<const QAbstractProxyModel*>(completer()->completionModel());
   // A copy: while its tab is read, somebody may start anew.
   const Place place = places_[static_cast<std::size_t>(shown->mapToSource(completion).row())];
+  completer()->popup()->hide();
   hide();
-  Q_EMIT Found(place);
+  // The list must have ended before the place's tab is read.
+  QTimer::singleShot(0, this, [this, place] { Q_EMIT Found(place); });
 }
 
 // The completions pass on their keys; the one marked is meant, or the first.
@@ -144,11 +147,13 @@ void CAdvanceDlg::GoTo(int tab, int control, const std::optional<PagePopUp>& pop
   if (popUp) OpenPopUp(popUp->button, control);
 }
 
-// The button runs the pop-up until it is closed.
-void CAdvanceDlg::OpenPopUp(int button, int control) {
+// The button runs the pop-up until it is closed. A dialog that still reads opens none.
+void CAdvanceDlg::OpenPopUp(int button, int control, std::chrono::milliseconds delay) {
   auto* opener = qobject_cast<QAbstractButton*>(shownPage_->GetDlgItem(button));
-  QTimer::singleShot(0, opener, [this, opener, control] {
-    if (IsBusy() || !opener->isVisible() || !opener->isEnabled()) return;
+  QTimer::singleShot(delay, opener, [this, opener, button, control] {
+    if (!opener->isVisible() || find_->isVisible()) return;
+    if (IsBusy()) return OpenPopUp(button, control, kLater);
+    if (!opener->isEnabled()) return;
     QTimer::singleShot(0, this, [this, control] {
       const auto* popUp = qobject_cast<const CDialog*>(QApplication::activeModalWidget());
       if (popUp != nullptr && popUp->Owner() != nullptr && popUp->Owner()->window() == this) {

@@ -23,6 +23,7 @@ struct Finding : testing::Test {
     for (const Qt::Key key : keys) {
       QTest::keyClick(completions->isVisible() ? completions : &line, key);
     }
+    QTest::qWait(0);
   }
 };
 
@@ -30,27 +31,32 @@ TEST_F(Finding, GoesToTheRowOfAnyTab) {
   Find("BRIGHT", {Qt::Key_Return});
   EXPECT_FALSE(line.isVisible());
   EXPECT_EQ(tabs.currentIndex(), 1);
-  EXPECT_EQ(QApplication::focusWidget(), open.Page().GetDlgItem(20136));
+  EXPECT_EQ(open.Dialog().focusWidget(), open.Page().GetDlgItem(20136));
   Find("bright", {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return});
   EXPECT_EQ(tabs.tabText(tabs.currentIndex()), QStringLiteral("Screen"));
-  EXPECT_EQ(QApplication::focusWidget()->accessibleName(), QStringLiteral("OSD Bright"));
+  EXPECT_EQ(open.Dialog().focusWidget()->accessibleName(), QStringLiteral("OSD Bright"));
   Find("mirror", {});
   auto* completions = qobject_cast<QAbstractItemView*>(line.completer()->popup());
   Q_EMIT completions->clicked(completions->model()->index(0, 0));  // as by the mouse
+  QTest::qWait(0);
   EXPECT_EQ(tabs.tabText(tabs.currentIndex()), QStringLiteral("Setup"));
   Find("contrast", {Qt::Key_Return});  // grey: its tab is shown, and has the focus
   EXPECT_EQ(tabs.currentIndex(), 1);
-  EXPECT_EQ(QApplication::focusWidget(), &tabs);
+  EXPECT_EQ(open.Dialog().focusWidget(), &tabs);
   Find("gain g", {Qt::Key_Return});  // its button is grey
-  QTest::qWait(0);
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-  EXPECT_EQ(QApplication::focusWidget(), open.Page().GetDlgItem(20144)) << "the color temperatures";
-  Find("frequency n", {Qt::Key_Return});
-  QTimer::singleShot(0, [] {
+  EXPECT_EQ(open.Dialog().focusWidget(), open.Page().GetDlgItem(20144)) << "the color temperatures";
+  QTimer::singleShot(100, [] {
     WhenModal("CServiceDlg",
               [](CDialog& popUp) { EXPECT_TRUE(popUp.GetDlgItem(20378)->hasFocus()); });
   });
-  QTest::qWait(0);
+  {
+    // The pop-up waits until the dialog has read to its end.
+    const CDialog::Busy reading(&open.Dialog());
+    Find("frequency n", {Qt::Key_Return});
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+  }
+  QTest::qWait(80);
   EXPECT_EQ(tabs.tabText(tabs.currentIndex()), QStringLiteral("Option"));
 }
 

@@ -442,6 +442,10 @@
         <source>Find a setting</source>
         <translation>查找设置</translation>
     </message>
+    <message>
+        <source>Waiting for the projector of an open dialog…</source>
+        <translation>正在等待已打开对话框的投影机…</translation>
+    </message>
 </context>
 <context>
     <name>Pictures</name>
@@ -759,10 +763,6 @@
     <message>
         <source>%1 pictures of %2 kinds of projectors saved in %3</source>
         <translation>已将 %2 种投影机的 %1 张图片保存到 %3</translation>
-    </message>
-    <message>
-        <source>the dialog cannot be created</source>
-        <translation>无法创建对话框</translation>
     </message>
     <message>
         <source>--open: there is no projector &apos;%1&apos;; --list names all.</source>

@@ -13,7 +13,7 @@ ADVANCED_CONTROL_EXPORT std::optional<int> AskSource(CPjtInterface& projector, O
                                                      int modelCode);
 /// The source that stands for none: what a model plays while it does not run. Nothing for a row
 /// that does not belong to it.
-ADVANCED_CONTROL_EXPORT std::optional<int> StandbySource(OfSource of, int modelCode);
+std::optional<int> StandbySource(OfSource of, int modelCode);
 /// What `AskSource` will ask first, in order.
 ADVANCED_CONTROL_EXPORT std::span<const Call> SourceQuestions(OfSource of);
 

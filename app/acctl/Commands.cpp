@@ -293,13 +293,16 @@ Report RunReset(const Work& work, ProjectorAccess& projector) {
   const auto chosen = Chosen(projector.Settings(), kReset, work.arguments.words, report);
   if (report.code != ExitCode::Done) return report;
   const Progress progress = ProgressOf(work, projector);
+  std::vector<const ModelSetting*> done;
   for (const ModelSetting* setting : chosen) {
     if (!progress.goesOn()) break;
-    if (!Perform(projector.Connection(), *setting->reset).accepted) {
+    if (Perform(projector.Connection(), *setting->reset).accepted) {
+      done.push_back(setting);
+    } else {
       ComplainOf(*setting, projector, "refused", report);
     }
   }
-  ReadInto(work, projector, chosen, report);
+  ReadInto(work, projector, done, report);
   return report;
 }
 

@@ -1,7 +1,6 @@
 #include "app/host/DialogKeeper.h"
 
 #include <algorithm>
-#include <ranges>
 #include <utility>
 
 #include <QScreen>
@@ -57,7 +56,7 @@ CAdvanceDlg* DialogKeeper::Of(const ProjectorSession& session) const {
 
 bool DialogKeeper::IsWaiting() const {
   const auto waits = [](const auto& dialog) { return dialog->Projector().IsWaiting(); };
-  return std::ranges::any_of(dialogs_ | std::views::values, waits) ||
+  return std::ranges::any_of(dialogs_, [&](const auto& open) { return waits(open.second); }) ||
          std::ranges::any_of(retired_, waits);
 }
 

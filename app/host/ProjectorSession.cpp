@@ -24,6 +24,14 @@ BoundedChannel::Limits ProjectorSession::Bounds() const {
   return BoundsFor(AddressOf(profile_));
 }
 
+CModelInfo2 ProjectorSession::Model() const {
+  CModelInfo2 model = profile_.Model;
+  if (model.MySourceList.Size() == 0) {
+    model.MySourceList = channel_->Inputs().value_or(model.MySourceList);
+  }
+  return model;
+}
+
 void ProjectorSession::SetFault(const FaultTarget& target, const Fault& fault) {
   if (const auto* operation = std::get_if<PjtOperation>(&target)) {
     faultChannel_->SetFault(*operation, fault);

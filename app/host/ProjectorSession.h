@@ -26,6 +26,9 @@ class ProjectorSession {
   ProjectorSession(ProjectorProfile profile, LoggingChannel::Observer observer);
 
   const ProjectorProfile& Profile() const { return profile_; }
+  /// The model as the profile tells it, with the inputs that the projector told where that names
+  /// none.
+  CModelInfo2 Model() const;
   /// The way to the projector that dialogs take, too.
   const std::shared_ptr<ProjectorChannel>& Channel() const { return channel_; }
   /// The times of that way.

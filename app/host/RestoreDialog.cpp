@@ -41,7 +41,7 @@ struct RestoreDialog::Room {
   explicit Room(std::shared_ptr<ProjectorSession> projector)
       : session(std::move(projector)),
         name(session->Profile().Name),
-        settings(MakeModelData(session->Profile().Model)) {}
+        settings(MakeModelData(session->Model())) {}
 
   /// For each piece of work: one that was gone before may be back.
   void Connect(const std::function<bool()>& goesOn) {

@@ -71,7 +71,7 @@ QStringList SettingsActions::SaveTo(const QString& path, const ProjectorSessions
   for (const auto& session : sessions) {
     const std::string& name = session->Profile().Name;
     const QString shownName = QString::fromStdString(name);
-    const ModelSettings settings(MakeModelData(session->Profile().Model));
+    const ModelSettings settings(MakeModelData(session->Model()));
     CPjtInterface connection;
     const auto channel = MakePatient(*session, progress.goesOn);
     connection.SetChannel(channel);
@@ -114,6 +114,7 @@ void SettingsActions::SaveSettings(const ProjectorSessions& sessions) {
           : QFileDialog::getExistingDirectory(&window_, tr("Save Settings in Folder"));
   if (path.isEmpty()) return;
   QProgressDialog watched(tr("Reading settings…"), tr("Stop"), 0, 0, &window_);
+  watched.setWindowTitle(title);
   // From the start, so that neither the projectors nor their dialogs are used meanwhile.
   watched.setWindowModality(Qt::ApplicationModal);
   watched.show();

@@ -117,6 +117,13 @@ PjLinkChannel::PjLinkChannel(std::string host, int port, std::string password, c
 PjLinkChannel::~PjLinkChannel() = default;
 
 PjtReply PjLinkChannel::Execute(const PjtCommand& command) {
+  answerTime_ = std::min(limits_.answer, longest_);
+  const PjtReply reply = CarryOut(command);
+  answerTime_ = limits_.answer;
+  return reply;
+}
+
+PjtReply PjLinkChannel::CarryOut(const PjtCommand& command) {
   const int refused = RefusedResult(command.operation);
   const PjtReply notOffered{.result = refused, .offered = false};
   const PjtReply unanswered{.result = refused, .answered = false};
@@ -260,7 +267,10 @@ bool PjLinkChannel::Open() {
     return false;
   }
   proof_ = seed->empty() ? std::string() : PjLink::Digest(*seed, password_);
-  return true;
+  if (IsUsable()) return true;
+  const bool stands = socket_->state() == QAbstractSocket::ConnectedState;
+  Drop(stands ? ConnectionState::NotUnderstood : ConnectionState::Lost);
+  return false;
 }
 
 void PjLinkChannel::Drop(ConnectionState state) {
@@ -328,7 +338,7 @@ std::optional<std::string> PjLinkChannel::Exchange(char protocolClass, std::stri
   const PjLink::Line request{protocolClass, std::string(command), ' ', std::string(parameter)};
   const std::string bytes = std::exchange(proof_, {}) + PjLink::Format(request) + '\r';
   socket_->write(bytes.data(), static_cast<qint64>(bytes.size()));
-  const QDeadlineTimer deadline(limits_.answer);
+  const QDeadlineTimer deadline(answerTime_);
   const std::size_t bound = command == "INST" ? PjLink::kLongestInputs : PjLink::kLongestLine;
   while (const auto text = ReadLine(bound, deadline)) {
     const auto reply = PjLink::Parse(*text);

@@ -76,6 +76,8 @@ class ADVANCED_CONTROL_EXPORT PjLinkChannel : public ProjectorChannel {
   PjLinkChannel& operator=(const PjLinkChannel&) = delete;
 
   PjtReply Execute(const PjtCommand& command) override;
+  /// For each request of a command; what is asked otherwise has the channel's own time.
+  void GiveUpAfter(std::chrono::milliseconds time) override { longest_ = time; }
 
   /// Asks the projector about itself, an exchange for each text and input name, as many as a source
   /// list holds; nothing when one stays unanswered. Ends with the connection closed, so that any
@@ -89,6 +91,7 @@ class ADVANCED_CONTROL_EXPORT PjLinkChannel : public ProjectorChannel {
  private:
   using Clock = std::chrono::steady_clock;
 
+  PjtReply CarryOut(const PjtCommand& command);
   /// None when the projector tells none now; nothing when unanswered.
   std::optional<std::vector<std::string>> InputCodes();
   /// The input to ask for next; nothing when all are known.
@@ -112,6 +115,8 @@ class ADVANCED_CONTROL_EXPORT PjLinkChannel : public ProjectorChannel {
   const int port_;
   const std::string password_;
   const Limits limits_;
+  std::chrono::milliseconds longest_ = limits_.answer;
+  std::chrono::milliseconds answerTime_ = limits_.answer;
   std::unique_ptr<QTcpSocket> socket_;
   std::string proof_;          ///< Goes before the session's first request.
   std::optional<char> class_;  ///< Once it is known.

@@ -88,7 +88,9 @@ CommandLog::CommandLog(QWidget* parent)
       view_(new RowsAtFoot),
       changesOnly_(new QAction(tr("Changes &Only"), this)),
       saveAs_(new QAction(tr("Save &Log As…"), this)),
-      clear_(new QAction(tr("Clea&r Log"), this)) {
+      clear_(new QAction(tr("Clea&r Log"), this)),
+      caption_(new QLabel(tr("Commands, &newest last"))),
+      buttons_(new QHBoxLayout) {
   shown_->setSourceModel(model_);
   view_->setModel(shown_);
   view_->setItemDelegate(new Cells(view_));
@@ -110,12 +112,12 @@ CommandLog::CommandLog(QWidget* parent)
   view_->setContextMenuPolicy(Qt::ActionsContextMenu);
 
   auto* head = new QHBoxLayout;
-  auto* caption = new QLabel(tr("Commands, &newest last"));
-  caption->setBuddy(view_);
-  caption->setMinimumWidth(1);  // it gives way where the window has to be narrow
-  head->addWidget(caption);
+  caption_->setBuddy(view_);
+  caption_->setMinimumWidth(1);  // it gives way where the window has to be narrow
+  head->addWidget(caption_);
   head->addStretch();
-  for (QAction* action : {changesOnly_, saveAs_, clear_}) head->addWidget(ButtonOf(action));
+  head->addLayout(buttons_);
+  for (QAction* action : {changesOnly_, saveAs_, clear_}) buttons_->addWidget(ButtonOf(action));
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addLayout(head);
@@ -128,6 +130,12 @@ CommandLog::CommandLog(QWidget* parent)
   gather_.setSingleShot(true);
   gather_.setInterval(kGatherTime);
   connect(&gather_, &QTimer::timeout, this, &CommandLog::ShowPending);
+}
+
+// The caption is shown as a whole or not at all.
+void CommandLog::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  caption_->setVisible(caption_->sizeHint().width() + buttons_->sizeHint().width() <= width());
 }
 
 void CommandLog::MakeColumns() {

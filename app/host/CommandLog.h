@@ -9,6 +9,8 @@
 #include "app/host/CommandLogModel.h"
 
 class QAction;
+class QHBoxLayout;
+class QLabel;
 class QHeaderView;
 
 /// Shows the log, whose newest row stands at the foot and is followed unless the user has scrolled
@@ -40,6 +42,9 @@ class CommandLog : public QWidget {
   /// New entries are shown.
   void Updated();
 
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
   class Cells;
   class RowsAtFoot;
@@ -55,6 +60,8 @@ class CommandLog : public QWidget {
   QAction* changesOnly_;
   QAction* saveAs_;
   QAction* clear_;
+  QLabel* caption_;
+  QHBoxLayout* buttons_;
   std::vector<CommandLogModel::Entry> pending_;
   QTimer gather_;
 };

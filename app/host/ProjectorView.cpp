@@ -17,7 +17,7 @@
 namespace {
 
 constexpr int kColumnGap = 4;
-constexpr int kMinimumWidth = 200;
+constexpr int kMinimumWidth = 170;
 
 }  // namespace
 

@@ -1,5 +1,6 @@
 #include "host/FindLine.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <QAbstractButton>
@@ -8,6 +9,7 @@
 #include <QApplication>
 #include <QCompleter>
 #include <QKeyEvent>
+#include <QScrollBar>
 #include <QStringListModel>
 #include <QTimer>
 #include <QToolTip>
@@ -42,10 +44,15 @@ FindLine::FindLine(QWidget* parent) : QLineEdit(parent) {
 void FindLine::Start(std::vector<Place> places) {
   places_ = std::move(places);
   QStringList texts;
+  int widest = 0;
   for (const Place& place : places_) {
     texts << place.caption + kSeparator + place.where;
+    widest = std::max(widest, fontMetrics().horizontalAdvance(texts.last()));
   }
   static_cast<QStringListModel*>(completer()->model())->setStringList(texts);
+  QAbstractItemView* completions = completer()->popup();
+  const int around = completions->verticalScrollBar()->sizeHint().width() + fontMetrics().height();
+  completions->setMinimumWidth(std::min(widest + around, window()->width()));
   const QString name = CatalogString(kListCategory, ListText::FindSetting);
   setAccessibleName(name);
   setPlaceholderText(name + QStringLiteral("…"));
@@ -130,6 +137,7 @@ namespace {
 void FocusOn(const CDialog& dialog, int control) {
   QWidget* found = dialog.GetDlgItem(control);
   if (found != nullptr && found->isEnabledTo(found->window())) {
+    found->window()->setAttribute(Qt::WA_KeyboardFocusChange);  // so that the focus is seen
     found->setFocus(Qt::OtherFocusReason);
   }
 }

@@ -147,7 +147,8 @@ bool CAdvanceDlg::OnInitDialog() {
   OrderFocus();
   ShowUnread();
   DispTabScreen();
-  if (IsCreated()) inputsWatch_->start(kInputsPeriod);
+  const bool namesInputs = model_.MySourceList.Size() > 0 && !toldInputs_;
+  if (IsCreated() && !namesInputs) inputsWatch_->start(kInputsPeriod);
   return true;
 }
 
@@ -284,7 +285,7 @@ void CAdvanceDlg::OnBusy() {
 void CAdvanceDlg::OnIdle() {
   watch_->Stop();
   const bool readsAgain = std::exchange(readsAgain_, false);
-  if (IsCreated() && readsAgain) {
+  if (readsAgain && IsCreated()) {
     QTimer::singleShot(0, this, [this] {
       if (IsCreated()) DispTabScreen();
     });

@@ -141,9 +141,7 @@ QString RowDialog::NoteText(const PageRow& row, const Bound& bound) const {
     case Note::NoEntries:
       return ListString(ListText::NoEntries);
     case Note::Range: {
-      const auto& value = std::get<ValueRow>(row);
-      const Range slider = bound.value.Bounds();
-      const Range range = value.ids.slider != 0 ? slider : StepBounds(value, Model(), slider);
+      const Range range = EnteredRange(std::get<ValueRow>(row), bound);
       if (range.minimum <= kUnbounded.minimum || range.minimum >= range.maximum) return {};
       return CatalogString(kListCategory, ListText::RangeNote, std::int64_t{range.minimum},
                            std::int64_t{range.maximum});

@@ -98,8 +98,9 @@ PjtReply CPjtInterface::Execute(const PjtCommand& command) const {
   // or destroy it.
   const std::shared_ptr<ProjectorChannel> channel = channel_;
   const std::shared_ptr<Traffic> traffic = traffic_.now;
-  PjtReply reply{.result = RefusedResult(command.operation), .answered = false};
+  PjtReply reply{.result = RefusedResult(command.operation), .answered = false, .unsent = true};
   if (channel && !cutOff_ && traffic->abandoned == 0) {
+    reply.unsent = false;
     ++traffic->waiting;
     Guarded([&] { reply = channel->Execute(command); });
     --traffic->waiting;
@@ -108,6 +109,9 @@ PjtReply CPjtInterface::Execute(const PjtCommand& command) const {
   traffic->sent.unanswered += !reply.answered && traffic->abandoned == 0;
   traffic->sent.refused += reply.answered && reply.result == RefusedResult(command.operation);
   traffic->sent.notOffered += !reply.offered;
+  traffic->sent.busy += reply.busy;
+  traffic->sent.pending += reply.pending;
+  traffic->sent.uncertain += !reply.answered && !reply.unsent && !IsRead(command.operation);
   return reply;
 }
 

@@ -155,6 +155,9 @@ class ADVANCED_CONTROL_EXPORT CPjtInterface {
     int refused = 0;
     int unanswered = 0;  ///< Those that were abandoned apart.
     int notOffered = 0;  ///< Refused, because the projector has no such setting.
+    int busy = 0;        ///< Refused, because the projector cannot do it now.
+    int pending = 0;     ///< Changes that were accepted, and not carried out yet.
+    int uncertain = 0;   ///< Unanswered changes that may have been carried out all the same.
   };
   Tally Sent() const;
 

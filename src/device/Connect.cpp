@@ -89,7 +89,7 @@ ProjectorAddress MakeSerial(std::string_view device, int baud) {
 class NoProjector final : public ProjectorChannel {
  public:
   PjtReply Execute(const PjtCommand& command) override {
-    return {.result = RefusedResult(command.operation), .answered = false};
+    return {.result = RefusedResult(command.operation), .answered = false, .unsent = true};
   }
   ConnectionState Connection() const override { return ConnectionState::WrongParameters; }
 };

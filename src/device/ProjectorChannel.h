@@ -25,8 +25,14 @@ struct PjtReply {
   int result = 0;          ///< Success or refusal as the operation's family says (`IsSuccess`).
   std::int16_t value = 0;  ///< The value read or stepped to; meaningful only on success.
   bool answered = true;    ///< False when no answer came; `result` is then a refusal.
-  bool offered = true;  ///< False when it is known that the projector has no such setting at all;
-                        ///< `result` is then a refusal.
+  bool offered = true;   ///< False when it is known that the projector has no such setting at all;
+                         ///< `result` is then a refusal.
+  bool busy = false;     ///< True when the projector cannot do it now: it switches, warms up, cools
+                         ///< down or is in standby; `result` is then a refusal.
+  bool pending = false;  ///< True when a change was accepted and the projector did not have it yet
+                         ///< when the time was over; `result` is then a success.
+  bool unsent = false;   ///< True when the command is unanswered and never left, so that the
+                         ///< projector cannot have carried it out.
 };
 
 /// The way to one projector: a real connection, a simulation, or a channel around a channel that

@@ -271,6 +271,7 @@ inline constexpr int EnterValue = 4322;
 inline constexpr int Copy = 4323;
 inline constexpr int FindSetting = 4324;
 inline constexpr int NothingFound = 4325;
+inline constexpr int NumberWanted = 4326;  // %1 to %2 (integers)
 }  // namespace ListText
 
 namespace ErrorText {

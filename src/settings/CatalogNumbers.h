@@ -264,6 +264,10 @@ inline constexpr int NotUnderstood = 4314;
 inline constexpr int OtherVersion = 4315;
 inline constexpr int PasswordRequired = 4316;
 
+// What became of a change, beside Close.
+inline constexpr int NotDoneYet = 4317;
+inline constexpr int NotPossibleNow = 4318;
+
 // A row's context menu, and the search for a row.
 inline constexpr int WhenOpened = 4320;  // %1 the value's text
 inline constexpr int PutBack = 4321;

@@ -27,6 +27,9 @@ class ADVANCED_CONTROL_EXPORT LoggingChannel : public ProjectorChannel {
   ConnectionState Connection() const override { return inner_->Connection(); }
   std::optional<SourceList> Inputs() override { return inner_->Inputs(); }
   bool UseIdleTime() override { return inner_->UseIdleTime(); }
+  bool TendConnection(std::chrono::milliseconds unused) override {
+    return inner_->TendConnection(unused);
+  }
 
  private:
   std::shared_ptr<ProjectorChannel> inner_;

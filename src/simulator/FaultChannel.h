@@ -53,6 +53,9 @@ class ADVANCED_CONTROL_EXPORT FaultChannel : public ProjectorChannel {
   ConnectionState Connection() const override { return inner_->Connection(); }
   std::optional<SourceList> Inputs() override { return inner_->Inputs(); }
   bool UseIdleTime() override { return inner_->UseIdleTime(); }
+  bool TendConnection(std::chrono::milliseconds unused) override {
+    return inner_->TendConnection(unused);
+  }
 
  private:
   Fault FaultOf(const PjtCommand& command) const;

@@ -172,7 +172,7 @@ ProfileFileText ReadProfileText(const QString& fileName) {
 
 QString WriteProfileText(const QString& fileName, const QByteArray& text) {
   const bool isPrivate = HoldsPassword(QJsonDocument::fromJson(text).object());
-  return WriteWholeFile(fileName, text, isPrivate ? FileAccess::OwnerOnly : FileAccess::Usual);
+  return WriteWholeFile(fileName, text, isPrivate ? FileAccess::OwnerOnly : FileAccess::Kept);
 }
 
 ProfileFileContents ReadProfileFile(const QString& fileName) {

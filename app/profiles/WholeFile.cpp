@@ -52,7 +52,7 @@ QString Numbered(const QString& path, int number) {
 QString WriteWholeFile(const QString& path, const QByteArray& bytes, FileAccess access) {
   if (IsDevice(path)) {
     QFile device(path);
-    return OpenAndWrite(device, bytes, FileAccess::Usual) ? QString() : CannotWrite(device);
+    return OpenAndWrite(device, bytes, FileAccess::Kept) ? QString() : CannotWrite(device);
   }
   QSaveFile file(path);
   return OpenAndWrite(file, bytes, access) && file.commit() ? QString() : CannotWrite(file);

@@ -45,7 +45,7 @@ bool Yields(PjtOperation operation) {
 
 PjtReply LoggingChannel::Execute(const PjtCommand& command) {
   const auto start = std::chrono::steady_clock::now();
-  const PjtReply reply = inner_->Execute(command);
+  const PjtReply reply = Inner().Execute(command);
   const auto elapsed = std::chrono::duration_cast<std::chrono::microseconds>(
       std::chrono::steady_clock::now() - start);
   if (observer_) observer_(command, reply, elapsed);

@@ -74,5 +74,5 @@ PjtReply FaultChannel::Execute(const PjtCommand& command) {
       return {.result = refusal.result, .answered = false};
   }
   lock.unlock();
-  return inner_->Execute(command);
+  return Inner().Execute(command);
 }

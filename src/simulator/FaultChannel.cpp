@@ -40,7 +40,7 @@ void FaultChannel::Clear() {
 }
 
 Fault FaultChannel::FaultOf(const PjtCommand& command) const {
-  if (FamilyOf(command.operation) == OperationFamily::Generic) {
+  if (FormOf(command.operation).isGeneric) {
     if (const auto found = byCode_.find(command.code); found != byCode_.end()) {
       return found->second;
     }

@@ -68,23 +68,3 @@ bool IsAbsolute(PjtOperation operation) {
   return FormOf(operation).effect != Effect::Steps && operation != PjtOperation::ExecAutoAdjust &&
          operation != PjtOperation::ExecAutoKeyStone;
 }
-
-bool IsAbsolute(PjtOperation operation) {
-  switch (FamilyOf(operation)) {
-    case OperationFamily::PointerStepper:
-    case OperationFamily::SourceStepper:
-    case OperationFamily::ChannelStepper:
-      return false;
-    default:
-      break;
-  }
-  switch (operation) {
-    case PjtOperation::Inc:
-    case PjtOperation::Dec:
-    case PjtOperation::ExecAutoAdjust:
-    case PjtOperation::ExecAutoKeyStone:
-      return false;
-    default:
-      return true;
-  }
-}

@@ -43,11 +43,7 @@ PjtReply PjLinkChannel::Execute(const PjtCommand& command) {
 }
 
 void PjLinkChannel::Run(const auto& work) {
-  // What came meanwhile answers nothing that will be asked, and may be the connection's end.
-  for (int i = 0; socket_ && i < kMostPieces && socket_->waitForReadyRead(0); ++i) {
-    session_.Connection().Received(socket_->readAll().toStdString());
-  }
-  Listen(std::chrono::milliseconds::zero());
+  TakeWhatCame();
   work();
   const ConnectionState before = session_.State();
   bool wasUsed = false;
@@ -59,6 +55,20 @@ void PjLinkChannel::Run(const auto& work) {
   }
   if (wasUsed || session_.State() != before) state_ = session_.State();
   power_ = session_.Power();
+  // It is another projector than the one that is remembered.
+  const auto known = session_.ProtocolClass();
+  if (rememberedClass_ && known && known != rememberedClass_) {
+    inputs_.Forget();
+    rememberedClass_.reset();
+  }
+}
+
+/// What came while nothing was asked answers nothing that will be, and may be the connection's end.
+void PjLinkChannel::TakeWhatCame() {
+  for (int i = 0; socket_ && i < kMostPieces && socket_->waitForReadyRead(0); ++i) {
+    session_.Connection().Received(socket_->readAll().toStdString());
+  }
+  Listen(std::chrono::milliseconds::zero());
 }
 
 void PjLinkChannel::Drive(const PjLinkStep& step) {
@@ -160,6 +170,17 @@ bool PjLinkChannel::UseIdleTime() {
   return false;
 }
 
+bool PjLinkChannel::TendConnection(std::chrono::milliseconds unused) {
+  if (!socket_) return false;
+  TakeWhatCame();
+  if (socket_ && unused >= limits_.unused) {
+    socket_.reset();
+    session_.Connection().Closed(Clock::now());
+  }
+  if (!socket_) state_ = ConnectionState::Unused;
+  return socket_ != nullptr;
+}
+
 PjLinkFacts PjLinkChannel::Facts() const {
   const bool areWhole = inputs_.IsListKnown() && !inputs_.Next();
   return {.protocolClass = session_.ProtocolClass(),
@@ -167,7 +188,8 @@ PjLinkFacts PjLinkChannel::Facts() const {
 }
 
 void PjLinkChannel::Remember(const PjLinkFacts& facts) {
-  if (facts.protocolClass) session_.RememberClass(*facts.protocolClass);
+  rememberedClass_ = facts.protocolClass;
+  if (rememberedClass_) session_.RememberClass(*rememberedClass_);
   if (facts.inputs.empty()) return;
   inputs_.Remember(facts.inputs);
   const std::lock_guard lock(toldMutex_);

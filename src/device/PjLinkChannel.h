@@ -46,6 +46,7 @@ class ADVANCED_CONTROL_EXPORT PjLinkChannel : public ProjectorChannel {
     /// After inputs were not told. A projector in standby may tell them only once it is on.
     std::chrono::milliseconds firstPause{10'000};
     std::chrono::milliseconds longestPause{120'000};
+    std::chrono::milliseconds unused{20'000};  ///< Then the connection is closed.
 
     /// What a command may take: connecting, the class, the command itself and the time until it is
     /// carried out, behind a question for inputs that was under way.
@@ -67,6 +68,7 @@ class ADVANCED_CONTROL_EXPORT PjLinkChannel : public ProjectorChannel {
   std::optional<SourceList> Inputs() override;
   std::optional<PowerState> Power() const override { return power_; }
   bool UseIdleTime() override;
+  bool TendConnection(std::chrono::milliseconds unused) override;
 
   /// Asks for all inputs that are not known yet, as many as a source list holds. A name that is
   /// not told is the input's kind and place, and false in the second is the sign of one that got
@@ -89,6 +91,7 @@ class ADVANCED_CONTROL_EXPORT PjLinkChannel : public ProjectorChannel {
 
   /// Begins work and drives the session until it is finished.
   void Run(const auto& work);
+  void TakeWhatCame();
   void Drive(const PjLinkStep& step);
   void Connect(const PjLinkStep& step);
   void Listen(std::chrono::milliseconds time);
@@ -100,6 +103,7 @@ class ADVANCED_CONTROL_EXPORT PjLinkChannel : public ProjectorChannel {
   const Limits limits_;
   PjLinkSession session_;
   std::chrono::milliseconds longest_ = limits_.answer;
+  std::optional<char> rememberedClass_;
   std::unique_ptr<QTcpSocket> socket_;
   std::atomic<ConnectionState> state_ = ConnectionState::Unused;
   std::atomic<std::optional<PowerState>> power_;

@@ -37,7 +37,7 @@ void ProjectorAccess::AskForInputs(InputsNeeded needed) {
 bool ProjectorAccess::HasSteps(const ModelSetting& setting) {
   const auto* const row = std::get_if<ValueRow>(setting.row);
   return row != nullptr && row->of == OfSource::None &&
-         FamilyOf(row->Stepping(true, 0).operation) == OperationFamily::Generic;
+         FamilyOf(row->Stepping(true, 0).operation) == OperationFamily::GenericStepper;
 }
 
 int ProjectorAccess::StepUnread(const ModelSetting& setting, int steps) {

@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <exception>
 #include <fcntl.h>
+#include <new>
 #include <unistd.h>
 
 #include <QCoreApplication>
@@ -15,6 +16,7 @@
 #include "app/acctl/Output.h"
 #include "app/acctl/Runner.h"
 #include "app/acctl/Uses.h"
+#include "app/profiles/OutOfMemory.h"
 #include "app/profiles/SettingsFile.h"
 #include "device/Connect.h"
 #include "i18n/Catalog.h"
@@ -253,9 +255,12 @@ int Main(int argc, char* argv[]) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
+  EndWhenOutOfMemory("acctl");
   try {
     GuardOutput();
     return Main(argc, argv);
+  } catch (const std::bad_alloc&) {
+    EndOutOfMemory();
   } catch (const std::exception& error) {
     Complain(error.what());
     return ExitCode::Refused;

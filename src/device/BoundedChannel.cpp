@@ -15,6 +15,8 @@
 #include <QEventLoop>
 #include <QTimer>
 
+#include "device/DropException.h"
+
 namespace {
 
 using Clock = std::chrono::steady_clock;
@@ -40,6 +42,7 @@ PjtReply Ask(ProjectorChannel& channel, std::optional<std::chrono::milliseconds>
     if (announced) channel.Announce(*announced);
     return channel.Execute(command);
   } catch (...) {
+    DropException();
     return Unanswered(command);
   }
 }
@@ -48,6 +51,7 @@ bool SpendIdleTime(ProjectorChannel& channel) {
   try {
     return channel.UseIdleTime();
   } catch (...) {  // likewise
+    DropException();
     return false;
   }
 }
@@ -252,6 +256,7 @@ ConnectionState BoundedChannel::Connection() const {
   try {
     if (state_->inner) return state_->inner->Connection();
   } catch (...) {  // as a command that throws has no answer
+    DropException();
   }
   return ConnectionState::None;
 }
@@ -261,6 +266,7 @@ std::optional<SourceList> BoundedChannel::Inputs() {
   try {
     if (state_->inner) return state_->inner->Inputs();
   } catch (...) {  // likewise
+    DropException();
   }
   return std::nullopt;
 }

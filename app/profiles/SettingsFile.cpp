@@ -11,9 +11,9 @@ SnapshotContents ReadSettingsFile(const QString& path) {
   constexpr qsizetype kMost = (qsizetype{4} << 20) + 1;  // one more than the reader takes
   const FileBytes file = ReadToEnd(path, kMost);
   if (!file.error.isEmpty()) {
-    return {{},
-            QCoreApplication::translate("SettingsFile", "cannot read %1: %2")
-                .arg(path, file.error)};
+    return {
+        {},
+        QCoreApplication::translate("SettingsFile", "cannot read %1: %2").arg(path, file.error)};
   }
   SnapshotContents contents = ReadSnapshot(file.bytes);
   if (!contents.error.isEmpty()) contents.error.prepend(path + ": ");

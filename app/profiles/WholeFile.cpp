@@ -49,8 +49,8 @@ int Open(const QString& path, int flags, mode_t mode = 0) {
 bool WriteAll(int file, const QByteArray& bytes) {
   qsizetype written = 0;
   while (written < bytes.size()) {  // a disk that fills up takes a part first
-    const ssize_t part = write(file, bytes.constData() + written,
-                               static_cast<std::size_t>(bytes.size() - written));
+    const ssize_t part =
+        write(file, bytes.constData() + written, static_cast<std::size_t>(bytes.size() - written));
     if (part < 0 && errno != EINTR) return false;
     written += std::max<ssize_t>(part, 0);
   }
@@ -79,8 +79,7 @@ class StagedFile {
             QStringLiteral(".advanced-control-%1")
                 .arg(QRandomGenerator::system()->generate64(), 16, 16, QLatin1Char('0')))),
         file_(Open(path_, O_WRONLY | O_CREAT | O_EXCL, permissions ? kOwnerOnly : kNewFile)),
-        isThere_(file_.IsOpen() &&
-                 (!permissions || fchmod(file_.Number(), *permissions) == 0)) {}
+        isThere_(file_.IsOpen() && (!permissions || fchmod(file_.Number(), *permissions) == 0)) {}
   ~StagedFile() {
     if (file_.IsOpen() && !isNamed_) unlink(Encoded().constData());
   }
@@ -140,7 +139,7 @@ std::optional<Place> PlaceOf(const QString& path) {
     return Place{QFileInfo(path).canonicalFilePath(), status.st_mode & kPermissions};
   }
   if (errno != ENOENT) return std::nullopt;  // links that lead in a circle, among others
-  constexpr int kMostLinks = 40;  // as the system follows
+  constexpr int kMostLinks = 40;             // as the system follows
   Place place{path};
   for (int links = 0; QFileInfo(place.path).isSymLink(); ++links) {
     if (links == kMostLinks) {

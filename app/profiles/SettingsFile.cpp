@@ -37,7 +37,9 @@ UndoFile::UndoFile(const QString& file, const QString& folder, const std::string
 }
 
 bool UndoFile::Keep(const Snapshot& undo) {
-  const QByteArray bytes = WriteSnapshot(undo);
+  Snapshot kept = undo;
+  kept.isUndo = true;
+  const QByteArray bytes = WriteSnapshot(kept);
   if (isThere_) {
     error_ = WriteWholeFile(path_, bytes);
   } else {

@@ -1,11 +1,12 @@
 // Preloaded into a program under test: lets calls fail that hardly ever do on a healthy machine.
 //
-//   FAIL_ALLOCATION=N  the N-th allocation after the program was loaded, once
-//   FAIL_SYNC=FILE     fsync of a regular file, or with "folder" of a folder
-//   FAIL_ACCEPT=N      the first N connections that are accepted, as if they had been given up
+//   FAIL_ALLOCATION=N  the N-th allocation after the program made its first socket, once
+//   FAIL_SYNC=WHAT     fsync of each "file" or "folder"; with "kill" the program dies in the first
+//   FAIL_ACCEPT=N      the first N connections that are accepted, as if their peers had left
 
 #include <atomic>
 #include <cerrno>
+#include <csignal>
 #include <cstdlib>
 #include <cstring>
 #include <dlfcn.h>
@@ -21,7 +22,7 @@ void* __libc_realloc(void* block, std::size_t size);
 
 namespace {
 
-std::atomic<long> allocationsLeft{0};
+std::atomic<long> allocationsLeft{0};  // 0 while none is to fail
 std::atomic<long> acceptsLeft{0};
 
 long Number(const char* name) {
@@ -29,9 +30,11 @@ long Number(const char* name) {
   return text != nullptr ? std::strtol(text, nullptr, 10) : 0;
 }
 
-__attribute__((constructor)) void Begin() {
-  acceptsLeft = Number("FAIL_ACCEPT");
-  allocationsLeft = Number("FAIL_ALLOCATION");
+__attribute__((constructor)) void Begin() { acceptsLeft = Number("FAIL_ACCEPT"); }
+
+template <class Function>
+Function* Real(const char* name) {
+  return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
 }
 
 bool FailsAllocation() {
@@ -54,21 +57,27 @@ void* realloc(void* block, std::size_t size) {
   return FailsAllocation() ? nullptr : __libc_realloc(block, size);
 }
 
+int socket(int domain, int type, int protocol) {
+  static std::atomic<bool> isFirst{true};
+  if (isFirst.exchange(false)) allocationsLeft = Number("FAIL_ALLOCATION");
+  return Real<int(int, int, int)>("socket")(domain, type, protocol);
+}
+
 int fsync(int file) {
   struct stat status {};
   const char* const what = std::getenv("FAIL_SYNC");
+  if (what != nullptr && std::strcmp(what, "kill") == 0) raise(SIGKILL);
   if (what != nullptr && fstat(file, &status) == 0 &&
       S_ISDIR(status.st_mode) == (std::strcmp(what, "folder") == 0)) {
     errno = EIO;
     return -1;
   }
-  return reinterpret_cast<int (*)(int)>(dlsym(RTLD_NEXT, "fsync"))(file);
+  return Real<int(int)>("fsync")(file);
 }
 
 int accept4(int listener, sockaddr* address, socklen_t* size, int flags) {
-  using Accept = int (*)(int, sockaddr*, socklen_t*, int);
   const int taken =
-      reinterpret_cast<Accept>(dlsym(RTLD_NEXT, "accept4"))(listener, address, size, flags);
+      Real<int(int, sockaddr*, socklen_t*, int)>("accept4")(listener, address, size, flags);
   if (taken < 0 || acceptsLeft <= 0 || acceptsLeft-- <= 0) return taken;
   close(taken);
   errno = ECONNABORTED;

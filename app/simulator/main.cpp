@@ -13,7 +13,6 @@
 #include <QSocketNotifier>
 
 #include "app/profiles/OutOfMemory.h"
-#include "app/profiles/WholeFile.h"
 #include "app/simulator/Arguments.h"
 #include "app/simulator/ControlServer.h"
 #include "app/simulator/ServedProjectors.h"
@@ -72,8 +71,7 @@ int Run(const Arguments& arguments, int endingSignals) {
     QFile original(fileName);
     const bool read = original.open(QIODevice::ReadOnly);
     const QString error =
-        read ? WriteWholeFile(arguments.writeProfiles, projectors.Profiles(original.readAll()),
-                              FileAccess::OwnerOnly)  // the password stands in it
+        read ? WriteProfileText(arguments.writeProfiles, projectors.Profiles(original.readAll()))
              : original.errorString();
     if (!error.isEmpty()) return Fail(error);
   }

@@ -30,6 +30,7 @@ struct Snapshot {
   /// Put back before all others and one after another, so that a setting may stand here several
   /// times: what other sources and modes kept for themselves.
   std::vector<SavedSetting> beforehand{};
+  bool isUndo = false;  ///< What a restoration replaced; it makes sense on that projector alone.
 
   friend bool operator==(const Snapshot&, const Snapshot&) = default;
 };

@@ -93,6 +93,7 @@ Snapshot Parse(const QJsonObject& file) {
                     .time = file["time"].toString().toStdString(),
                     .settings = {}};
   snapshot.settings = Settings(file, "settings");
+  snapshot.isUndo = file["undo"].toBool();
   if (file.contains("beforehand")) snapshot.beforehand = Settings(file, "beforehand");
   std::set<std::pair<std::string, std::optional<int>>> keys;
   for (std::size_t i = 0; i < snapshot.settings.size(); ++i) {
@@ -128,6 +129,7 @@ QByteArray WriteSnapshot(const Snapshot& snapshot) {
                    {"time", Wide(snapshot.time)},
                    {"settings", ToJson(snapshot.settings)}};
   if (!snapshot.beforehand.empty()) file["beforehand"] = ToJson(snapshot.beforehand);
+  if (snapshot.isUndo) file["undo"] = true;
   return QJsonDocument(file).toJson();
 }
 

@@ -1,5 +1,7 @@
 #include "settings/Call.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 bool HasNoResult(PjtOperation operation) {
@@ -50,3 +52,5 @@ std::optional<int> Read(CPjtInterface& projector, const Call& call) {
   const Answer answer = Perform(projector, call);
   return answer.accepted ? std::optional(answer.value) : std::nullopt;
 }
+
+}  // namespace AdvancedControl

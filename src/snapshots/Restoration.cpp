@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
+inline namespace AdvancedControl {
+
 namespace {
 
 /// The input source decides what the projector's other settings belong to, and modes decide what
@@ -260,3 +262,5 @@ Snapshot Restoration::Undo(const std::string& projector, const SettingTexts& tex
   }
   return snapshot;
 }
+
+}  // namespace AdvancedControl

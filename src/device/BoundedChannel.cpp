@@ -52,6 +52,15 @@ bool SpendIdleTime(ProjectorChannel& channel) {
   }
 }
 
+bool Tend(ProjectorChannel& channel, Clock::time_point lastUse) {
+  try {
+    return channel.TendConnection(
+        std::chrono::floor<std::chrono::milliseconds>(Clock::now() - lastUse));
+  } catch (...) {  // likewise
+    return false;
+  }
+}
+
 bool HasEventLoop() {
   return QCoreApplication::instance() && QAbstractEventDispatcher::instance() != nullptr;
 }
@@ -108,11 +117,18 @@ void BoundedChannel::State::Work() {
   std::unique_lock lock(mutex);
   const auto isCalled = [this] { return ended || command; };
   bool hasMoreToDo = false;
+  bool isConnected = false;
+  Clock::time_point lastUse;
   while (true) {
-    while (hasMoreToDo && !commandGiven.wait_for(lock, limits.idle, isCalled)) {
+    while ((hasMoreToDo || isConnected) &&
+           !commandGiven.wait_for(lock, hasMoreToDo ? limits.idle : limits.tend, isCalled)) {
       usesIdleTime = true;
       lock.unlock();
-      hasMoreToDo = SpendIdleTime(*inner);
+      if (hasMoreToDo) {
+        hasMoreToDo = SpendIdleTime(*inner);
+      } else {
+        isConnected = Tend(*inner, lastUse);
+      }
       lock.lock();
       usesIdleTime = false;
     }
@@ -130,6 +146,8 @@ void BoundedChannel::State::Work() {
     lock.lock();
     outstanding = false;
     hasMoreToDo = answer.answered;
+    isConnected = true;  // as far as is known
+    lastUse = Clock::now();
     if (Wait* to = std::exchange(recipient, nullptr)) to->reply = answer;
     WakeUp();
   }
@@ -158,6 +176,17 @@ bool BoundedChannel::State::WaitUntil(std::unique_lock<std::mutex>& lock, Wait& 
   // Also where an ending application lets no event loop run.
   changed.wait_until(lock, deadline, over);
   return !wait.abandoned && done();
+}
+
+// A channel that throws has told nothing.
+template <typename Value>
+Value BoundedChannel::Told(State& state, Value otherwise, auto ask) {
+  const std::lock_guard lock(state.mutex);
+  try {
+    if (state.inner) return ask(*state.inner);
+  } catch (...) {
+  }
+  return otherwise;
 }
 
 BoundedChannel::BoundedChannel(std::shared_ptr<ProjectorChannel> inner, const Limits& limits)
@@ -221,7 +250,9 @@ PjtReply BoundedChannel::Execute(const PjtCommand& command) {
     state->silentUntil =
         state->lastReturn + (isQuick ? std::min(pause, kRetryAfterQuickFailure) : pause);
   }
-  return wait.reply.value_or(Unanswered(command));
+  PjtReply reply = wait.reply.value_or(Unanswered(command));
+  reply.abandoned = wait.abandoned;
+  return reply;
 }
 
 void BoundedChannel::GiveUpAfter(std::chrono::milliseconds time) {
@@ -248,19 +279,14 @@ void BoundedChannel::Announce(std::span<const PjtCommand> reads) {
 }
 
 ConnectionState BoundedChannel::Connection() const {
-  const std::lock_guard lock(state_->mutex);
-  try {
-    if (state_->inner) return state_->inner->Connection();
-  } catch (...) {  // as a command that throws has no answer
-  }
-  return ConnectionState::None;
+  return Told(*state_, ConnectionState::None, [](const auto& inner) { return inner.Connection(); });
 }
 
 std::optional<SourceList> BoundedChannel::Inputs() {
-  const std::lock_guard lock(state_->mutex);
-  try {
-    if (state_->inner) return state_->inner->Inputs();
-  } catch (...) {  // likewise
-  }
-  return std::nullopt;
+  return Told(*state_, std::optional<SourceList>(), [](auto& inner) { return inner.Inputs(); });
+}
+
+std::optional<PowerState> BoundedChannel::Power() const {
+  return Told(*state_, std::optional<PowerState>(),
+              [](const auto& inner) { return inner.Power(); });
 }

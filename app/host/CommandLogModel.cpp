@@ -39,7 +39,7 @@ EntryTexts Describe(const CommandLogModel::Entry& entry) {
     texts.command = texts.command.left(open).trimmed();
   }
   if (outcome.startsWith(QStringLiteral(" = "))) texts.value = outcome.mid(3);
-  if (!entry.setting.isEmpty() && FamilyOf(entry.command.operation) == OperationFamily::Generic) {
+  if (!entry.setting.isEmpty() && FormOf(entry.command.operation).isGeneric) {
     texts.command.insert(texts.command.indexOf(QLatin1Char(' ')), QLatin1Char(' ') + entry.setting);
   }
   return texts;

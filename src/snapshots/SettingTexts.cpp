@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include "device/CommandCode.h"
 #include "i18n/SystemLanguage.h"
 #include "settings/CatalogNumbers.h"
 
@@ -83,7 +84,7 @@ std::string SettingTexts::Tab(const ModelSetting& setting) const {
 }
 
 std::string SettingTexts::Entry(const ListEntry& entry) const {
-  return entry.text != 0 ? Text(kListCategory, entry.text) : std::string(entry.name);
+  return entry.text ? Text(kListCategory, *entry.text) : std::string(entry.name);
 }
 
 std::string SettingTexts::Value(const ModelSetting& setting, int value) const {
@@ -93,6 +94,15 @@ std::string SettingTexts::Value(const ModelSetting& setting, int value) const {
   }
   if (setting.otherwise != 0) return Text(kListCategory, setting.otherwise, value);
   return std::to_string(value - setting.bias);
+}
+
+std::string SettingTexts::Value(const ModelSetting& setting, int value,
+                                std::optional<PowerState> power) const {
+  constexpr int kOn = 1;
+  const auto* const state = std::get_if<StateRow>(setting.row);
+  const bool isWarmingUp = power == PowerState::WarmingUp && value == kOn && state != nullptr &&
+                           state->read.code == CommandCode::RunningState;
+  return isWarmingUp ? Text(kListCategory, ListText::PowerWarmingUp) : Value(setting, value);
 }
 
 std::string SettingTexts::Values(const ModelSetting& setting) const {
@@ -110,9 +120,9 @@ std::string SettingTexts::Values(const ModelSetting& setting) const {
 }
 
 bool SettingTexts::Is(const ListEntry& entry, std::string_view text) const {
-  if (entry.text == 0) return SameText(entry.name, text);
+  if (!entry.text) return SameText(entry.name, text);
   for (const std::uint32_t language : {languageId_, kEnglishUnitedStates, kChineseSimplified}) {
-    const auto known = texts_.Find(language, kListCategory, entry.text);
+    const auto known = texts_.Find(language, kListCategory, *entry.text);
     if (known && SameText(*known, text)) return true;
   }
   return false;

@@ -12,7 +12,7 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-#include "app/host/ProfileDocument.h"
+#include "app/desktop/profiles/ProfileDocument.h"
 #include "app/profiles/ProfileFile.h"
 #include "tests/support/Models.h"
 #include "tests/support/Programs.h"

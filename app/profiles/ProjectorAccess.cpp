@@ -56,7 +56,7 @@ void ProjectorAccess::AskForInputs(InputsNeeded needed) {
 bool ProjectorAccess::HasSteps(const ModelSetting& setting) {
   const auto* const row = std::get_if<ValueRow>(setting.row);
   return row != nullptr && row->of == OfSource::None &&
-         FormOf(row->Stepping(true, 0).operation).isGeneric;
+         FamilyOf(row->Stepping(true, 0).operation) == OperationFamily::GenericStepper;
 }
 
 int ProjectorAccess::StepUnread(const ModelSetting& setting, int steps) {

@@ -245,7 +245,7 @@ TEST(PjLinkTest, TheServerAnswersAsTheStandardSays) {
   QByteArray sent;
   QByteArray expected = "PJLINK 0\r";
   for (const auto& [request, answer] : cases) {
-    sent.append(request).append(sent.size() < 50 ? "\r\n" : "\r");
+    sent.append(request).append(sent.size() < 50 ? "\r\n" : sent.size() < 100 ? "\r\r" : "\r");
     expected.append(request, 6).append('=').append(answer).append('\r');
   }
   EXPECT_EQ(served.Exchange(sent).toStdString(), (expected + "open").toStdString());

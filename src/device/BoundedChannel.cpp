@@ -34,6 +34,12 @@ PjtReply Unanswered(const PjtCommand& command) {
   return {.result = RefusedResult(command.operation), .answered = false};
 }
 
+PjtReply Unsent(const PjtCommand& command) {
+  PjtReply reply = Unanswered(command);
+  reply.unsent = true;
+  return reply;
+}
+
 // A channel that throws has not answered.
 PjtReply Ask(ProjectorChannel& channel, std::optional<std::chrono::milliseconds> longest,
              const std::optional<std::vector<PjtCommand>>& announced, const PjtCommand& command) {
@@ -220,13 +226,13 @@ PjtReply BoundedChannel::Execute(const PjtCommand& command) {
   std::unique_lock lock(state->mutex);
   if (!state->inner || state->ended || state->waiting ||
       (state->outstanding && !state->abandoned) || Clock::now() < state->silentUntil) {
-    return Unanswered(command);
+    return Unsent(command);
   }
   if (!state->worker.joinable()) {
     try {
       state->worker = std::thread([state] { state->Work(); });
     } catch (const std::system_error&) {
-      return Unanswered(command);
+      return Unsent(command);
     }
   }
 
@@ -236,7 +242,8 @@ PjtReply BoundedChannel::Execute(const PjtCommand& command) {
   if (start > state->lastReturn + kPause) state->stillSince = start;
   const bool free =
       !state->outstanding || state->WaitUntil(lock, wait, [&] { return !state->outstanding; });
-  if (free && !state->ended) {
+  const bool isSent = free && !state->ended;
+  if (isSent) {
     state->command = command;
     state->outstanding = true;
     state->abandoned = false;
@@ -256,7 +263,7 @@ PjtReply BoundedChannel::Execute(const PjtCommand& command) {
     state->silentUntil =
         state->lastReturn + (isQuick ? std::min(pause, kRetryAfterQuickFailure) : pause);
   }
-  PjtReply reply = wait.reply.value_or(Unanswered(command));
+  PjtReply reply = wait.reply.value_or(isSent ? Unanswered(command) : Unsent(command));
   reply.abandoned = wait.abandoned;
   return reply;
 }

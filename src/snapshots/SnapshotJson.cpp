@@ -14,12 +14,6 @@
 
 namespace {
 
-constexpr const char* kFormat = "advanced-control-settings";
-constexpr int kVersion = 1;
-constexpr qsizetype kMaximumBytes = qsizetype{4} << 20;
-constexpr int kMaximumSettings = 10'000;
-constexpr qsizetype kMaximumText = 1024;
-
 /// Thrown while a text is read, caught before the reader returns.
 struct WrongSnapshot {
   Q_DECLARE_TR_FUNCTIONS(Snapshot)
@@ -27,6 +21,18 @@ struct WrongSnapshot {
  public:
   QString message;
 };
+
+}  // namespace
+
+inline namespace AdvancedControl {
+
+namespace {
+
+constexpr const char* kFormat = "advanced-control-settings";
+constexpr int kVersion = 1;
+constexpr qsizetype kMaximumBytes = qsizetype{4} << 20;
+constexpr int kMaximumSettings = 10'000;
+constexpr qsizetype kMaximumText = 1024;
 
 QString Wide(const std::string& text) { return QString::fromStdString(text); }
 
@@ -149,3 +155,5 @@ SnapshotContents ReadSnapshot(const QByteArray& text) {
     return wrong(error.message);
   }
 }
+
+}  // namespace AdvancedControl

@@ -24,21 +24,21 @@
 #include <QTextDocument>
 #include <QVBoxLayout>
 
-#include "app/desktop/log/CommandLog.h"
-#include "app/desktop/dialogs/DialogKeeper.h"
-#include "app/desktop/simulation/FaultPanel.h"
 #include "app/desktop/Mnemonic.h"
+#include "app/desktop/dialogs/DialogKeeper.h"
+#include "app/desktop/log/CommandLog.h"
+#include "app/desktop/log/SettingNames.h"
 #include "app/desktop/profiles/ProfileActions.h"
 #include "app/desktop/projectors/ProjectorView.h"
-#include "app/desktop/log/SettingNames.h"
 #include "app/desktop/settings/SettingsActions.h"
-#include "app/desktop/WhenIdle.h"
+#include "app/desktop/simulation/FaultPanel.h"
 #include "host/CAdvanceDlg.h"
 #include "i18n/Catalog.h"
 
 namespace {
 
 constexpr int kGap = 9;
+constexpr int kIconSize = 64;
 constexpr QSize kUsualSize{1340, 760};
 constexpr QSize kFrame{2 * kGap, 40};  // of a window, before it is known
 
@@ -56,16 +56,17 @@ QString ShownText(const QAction& action) {
 
 /// As large as the table, or as the screen allows: then it scrolls.
 void ShowTable(const QString& title, const QString& table, QWidget& owner) {
-  QDialog dialog(&owner);
-  dialog.setWindowTitle(title);
+  auto* dialog = new QDialog(&owner);
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  dialog->setWindowTitle(title);
   auto* text = new QTextBrowser;
   text->setHtml(table);
   text->setFrameShape(QFrame::NoFrame);
   text->setAccessibleName(title);
   text->setTabChangesFocus(true);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
-  QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
-  auto* layout = new QVBoxLayout(&dialog);
+  QObject::connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
+  auto* layout = new QVBoxLayout(dialog);
   layout->addWidget(text);
   layout->addWidget(buttons);
   QTextDocument document;
@@ -75,8 +76,8 @@ void ShowTable(const QString& title, const QString& table, QWidget& owner) {
   text->setMinimumWidth(size.width() + text->verticalScrollBar()->sizeHint().width());
   const int others = layout->sizeHint().height() - text->sizeHint().height();
   const int room = owner.screen()->availableGeometry().height() - kFrame.height();
-  dialog.resize(dialog.minimumWidth(), std::min(size.height() + others, room));
-  dialog.exec();
+  dialog->resize(dialog->minimumWidth(), std::min(size.height() + others, room));
+  dialog->open();
 }
 
 }  // namespace
@@ -93,11 +94,14 @@ MainWindow::MainWindow(ProfileDocument profiles, QSettings* settings)
       faults_(new FaultPanel),
       sides_(new QSplitter),
       tools_(new QSplitter(Qt::Vertical)),
-      whenIdle_(new WhenIdle([this] { return dialogs_->IsWaiting(); }, this)),
       profileActions_(new ProfileActions(
-          profiles_, [this] { return projectors_->CurrentRow(); }, *whenIdle_, *this)),
-      settingsActions_(
-          new SettingsActions([this] { return projectors_->Selected(); }, *whenIdle_, *this)),
+          profiles_, [this] { return projectors_->CurrentRow(); }, *this)),
+      settingsActions_(new SettingsActions([this] { return projectors_->Selected(); },
+                                           [this](QObject* context, std::function<void()> work) {
+                                             return dialogs_->RunWhenQuiet(context,
+                                                                           std::move(work));
+                                           },
+                                           *this)),
       dialogs_(std::make_unique<DialogKeeper>(
           *this,
           [this] {
@@ -110,10 +114,6 @@ MainWindow::MainWindow(ProfileDocument profiles, QSettings* settings)
   if (const std::string problem = CatalogProblem(); !problem.empty()) {
     statusBar()->addWidget(new QLabel(QString::fromStdString(problem)));
   }
-  connect(whenIdle_, &WhenIdle::Waiting, this, [this](bool waiting) {
-    statusBar()->showMessage(waiting ? tr("Waiting for the projector of an open dialog…")
-                                     : QString());
-  });
   connect(log_, &CommandLog::Updated, faults_, &FaultPanel::RefreshStates);
   connect(projectors_, &ProjectorView::Activated, this, &MainWindow::OpenCurrent);
   connect(projectors_, &ProjectorView::CurrentChanged, this, [this] {
@@ -210,9 +210,8 @@ void MainWindow::MakeMenus() {
   log_->ClearAll()->setShortcut(Qt::CTRL | Qt::Key_L);
 
   QMenu* help = menuBar()->addMenu(tr("&Help"));
-  add(help, tr("&Keyboard Shortcuts"), QKeySequence::HelpContents,
-      [this] { whenIdle_->Run([this] { ShowShortcuts(); }); });
-  add(help, tr("&About"), {}, [this] { whenIdle_->Run([this] { ShowAbout(); }); });
+  add(help, tr("&Keyboard Shortcuts"), QKeySequence::HelpContents, &MainWindow::ShowShortcuts);
+  add(help, tr("&About"), {}, &MainWindow::ShowAbout);
 }
 
 std::shared_ptr<ProjectorSession> MainWindow::MakeSession(const ProjectorProfile& profile) {
@@ -338,11 +337,15 @@ void MainWindow::ShowShortcuts() {
 }
 
 void MainWindow::ShowAbout() {
-  QMessageBox::about(
-      this, tr("About"),
+  auto* about = new QMessageBox(
+      QMessageBox::NoIcon, tr("About"),
       tr("<h3>Advanced Control %1</h3><p>The live settings of projectors: every value is read from "
          "the projector, every change is sent at once.</p>")
-          .arg(QStringLiteral(ADVANCED_CONTROL_VERSION)));
+          .arg(QStringLiteral(ADVANCED_CONTROL_VERSION)),
+      QMessageBox::Ok, this);
+  about->setAttribute(Qt::WA_DeleteOnClose);
+  about->setIconPixmap(windowIcon().pixmap(kIconSize));
+  about->open();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -18,7 +18,6 @@ class SettingsActions;
 class ProjectorView;
 class QSettings;
 class QSplitter;
-class WhenIdle;
 
 /// The list of projectors, from which a dialog is opened on each, with the log of their commands
 /// and the controls of their simulations. Dialogs are open beside it, one per projector.
@@ -67,7 +66,6 @@ class MainWindow : public QMainWindow {
   FaultPanel* faults_;
   QSplitter* sides_;
   QSplitter* tools_;
-  WhenIdle* whenIdle_;
   ProfileActions* profileActions_;
   SettingsActions* settingsActions_;
   std::unique_ptr<DialogKeeper> dialogs_;

@@ -13,9 +13,9 @@
 
 #include "app/desktop/CommandLine.h"
 #include "app/desktop/MainWindow.h"
+#include "app/desktop/Translations.h"
 #include "app/desktop/dialogs/Pictures.h"
 #include "app/desktop/profiles/ProfileDocument.h"
-#include "app/desktop/Translations.h"
 #include "app/profiles/Table.h"
 #include "app/profiles/WholeFile.h"
 #include "i18n/Catalog.h"

@@ -9,9 +9,12 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QElapsedTimer>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPointer>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QSettings>
@@ -24,13 +27,14 @@
 #include <QWheelEvent>
 #include <gtest/gtest.h>
 
-#include "app/desktop/log/CommandLog.h"
-#include "app/desktop/simulation/FaultPanel.h"
 #include "app/desktop/MainWindow.h"
+#include "app/desktop/Translations.h"
+#include "app/desktop/log/CommandLog.h"
 #include "app/desktop/profiles/ProfileEditor.h"
 #include "app/desktop/projectors/ProjectorFilter.h"
 #include "app/desktop/projectors/ProjectorView.h"
-#include "app/desktop/Translations.h"
+#include "app/desktop/simulation/FaultPanel.h"
+#include "app/profiles/SettingsFile.h"
 #include "host/CAdvanceDlg.h"
 #include "i18n/Catalog.h"
 #include "tests/support/Models.h"
@@ -79,30 +83,43 @@ TEST(MainWindow, HasOneDialogPerProjectorAndLogsTheirCommands) {
   EXPECT_FALSE(newest.isEmpty() || newest.intersects(window.Dialog(0)->frameGeometry()));
 }
 
-TEST(MainWindow, OpensNothingModalWhileADialogWaitsAndThenOnceWhatWasAskedForLast) {
+TEST(MainWindow, WhatItAsksHoldsUpNoDialogAndWorkOnProjectorsWaitsForThem) {
   MainWindow window({Profile("A")});
+  window.show();
   CAdvanceDlg* dialog = window.OpenDialog(0);
-  window.findChild<ProjectorView*>()->Current()->SetFault(
-      {}, {Fault::Kind::Late, std::chrono::milliseconds(20)});
-  QStringList opened;
-  QTimer close;
-  QObject::connect(&close, &QTimer::timeout, [&opened] {
-    QWidget* modal = QApplication::activeModalWidget();
-    if (modal == nullptr) return;
-    opened << modal->windowTitle();
-    modal->close();
+  ProjectorSession& session = *window.findChild<ProjectorView*>()->Current();
+  session.SetFault({}, {Fault::Kind::Late, std::chrono::milliseconds(20)});
+  const QTemporaryDir folder;
+  const QString file = folder.filePath("settings.json");
+  QProgressDialog* progress = nullptr;
+  const auto inTheWait = [&](const auto& act) {
+    QTimer::singleShot(25, &window, [&] {
+      EXPECT_TRUE(dialog->Projector().IsWaiting());
+      act();
+    });
+    dialog->DispTabScreen();
+  };
+  inTheWait([&] { Find<QAction>(window, "Keyboard Shortcuts").trigger(); });
+  ASSERT_NE(QApplication::activeModalWidget(), nullptr) << "open, and the page is read";
+  EXPECT_EQ(QApplication::activeModalWidget()->windowTitle(), "Keyboard Shortcuts");
+  QApplication::activeModalWidget()->close();
+
+  inTheWait([&] {
+    Find<QAction>(window, "Save Settings").trigger();
+    auto* ask = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(ask, nullptr);
+    ask->selectFile(file);
+    QMetaObject::invokeMethod(ask, "accept");
+    progress = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(progress, nullptr);
+    EXPECT_EQ(progress->labelText(), "Waiting for the projector of an open dialog…");
   });
-  close.start(10);
-  QTimer::singleShot(25, [&window] {
-    for (const char* name : {"About", "Keyboard Shortcuts", "Keyboard Shortcuts"}) {
-      Find<QAction>(window, name).trigger();
-    }
-  });
-  dialog->DispTabScreen();
-  EXPECT_TRUE(opened.empty());
-  EXPECT_TRUE(QTest::qWaitFor([&opened] { return !opened.empty(); }));
-  QTest::qWait(100);
-  EXPECT_EQ(opened, QStringList("Keyboard Shortcuts"));
+  EXPECT_FALSE(QFile::exists(file));
+  session.ClearFaults();
+  const QPointer watched = progress;
+  ASSERT_TRUE(QTest::qWaitFor([&] { return watched == nullptr; }, 60'000));
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << "nothing went wrong";
+  EXPECT_EQ(ReadSettingsFile(file).error, "");
 }
 
 TEST(MainWindow, SaysWhyThereIsNoCatalog) {
@@ -179,16 +196,13 @@ ProfileDocument Shipped(const QTemporaryDir& folder) {
 
 /// Triggers an action that opens a modal dialog and answers that one.
 void Answer(QAction& action, const std::function<void(QDialog&)>& answer) {
-  bool answered = false;
-  QTimer::singleShot(0, qApp, [&] {
-    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    ASSERT_NE(dialog, nullptr);
-    answer(*dialog);
-    answered = true;
-    if (dialog->isVisible()) dialog->reject();
-  });
   action.trigger();
-  EXPECT_TRUE(answered);
+  const QPointer dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+  ASSERT_NE(dialog, nullptr);
+  answer(*dialog);
+  if (dialog != nullptr && dialog->isVisible()) dialog->reject();
+  QCoreApplication::sendPostedEvents(dialog, QEvent::DeferredDelete);
+  EXPECT_EQ(dialog, nullptr);
 }
 
 QString Selected(const QWidget& window) {

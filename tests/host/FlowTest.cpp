@@ -247,12 +247,12 @@ TEST_F(FlowTest, NoAnswerIsToldAndTriedAgain) {
   EXPECT_EQ(Page().Item<QWidget>(kIris).toolTip(), QString());
 }
 
-TEST_F(FlowTest, ABusyProjectorAndAChangeThatIsNotDoneYetAreTold) {
+TEST_F(FlowTest, ABusyProjectorAndAChangeThatIsNotYetSoAreTold) {
   Open();
   ClickTab(kPictureTab);
   projector_->late = true;
   Page().Choose(kIris, 1);
-  EXPECT_EQ(Status(), QStringLiteral("Accepted; the projector has not done it yet"));
+  EXPECT_EQ(Status(), QStringLiteral("Accepted, not yet so"));
   EXPECT_FALSE(Retry().isVisible());
   projector_->late = false;
   Page().Choose(kIris, 2);

@@ -170,8 +170,8 @@
         <translation>不提供</translation>
     </message>
     <message>
-        <source>not done yet</source>
-        <translation>尚未执行</translation>
+        <source>not yet so</source>
+        <translation>尚未生效</translation>
     </message>
 </context>
 <context>
@@ -457,10 +457,6 @@
     <message>
         <source>Find a setting</source>
         <translation>查找设置</translation>
-    </message>
-    <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>正在等待已打开对话框的投影机…</translation>
     </message>
 </context>
 <context>
@@ -1078,6 +1074,10 @@
         <source>%1 settings</source>
         <translation>%1 项设置</translation>
     </message>
+    <message>
+        <source>Waiting for the projector of an open dialog…</source>
+        <translation>正在等待已打开对话框的投影机…</translation>
+    </message>
 </context>
 <context>
     <name>SettingsActions</name>
@@ -1128,6 +1128,10 @@
     <message>
         <source>Open Settings</source>
         <translation>打开设置文件</translation>
+    </message>
+    <message>
+        <source>Waiting for the projector of an open dialog…</source>
+        <translation>正在等待已打开对话框的投影机…</translation>
     </message>
 </context>
 <context>

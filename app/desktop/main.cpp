@@ -2,6 +2,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <new>
 #include <variant>
 
 #include <QApplication>
@@ -16,6 +17,7 @@
 #include "app/desktop/Translations.h"
 #include "app/desktop/dialogs/Pictures.h"
 #include "app/desktop/profiles/ProfileDocument.h"
+#include "app/profiles/OutOfMemory.h"
 #include "app/profiles/Table.h"
 #include "app/profiles/WholeFile.h"
 #include "i18n/Catalog.h"
@@ -209,8 +211,11 @@ int Run(int argc, char* argv[]) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
+  EndWhenOutOfMemory("advanced-control");
   try {
     return Run(argc, argv);
+  } catch (const std::bad_alloc&) {
+    EndOutOfMemory();
   } catch (const std::exception& error) {
     std::fprintf(stderr, "advanced-control: %s\n", error.what());
     return EXIT_FAILURE;

@@ -9,6 +9,8 @@
 #include "settings/PageTables.h"
 #include "settings/RowParts.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 void Describe(const ListRow& row, const ModelData& model, ModelSetting& setting) {
@@ -187,3 +189,5 @@ bool ModelSettings::StepTo(CPjtInterface& projector, const ValueRow& row, int va
   }
   return present == value;
 }
+
+}  // namespace AdvancedControl

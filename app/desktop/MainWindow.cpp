@@ -7,24 +7,19 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QDialogButtonBox>
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QPointer>
 #include <QScreen>
 #include <QScrollArea>
-#include <QScrollBar>
 #include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
-#include <QTextBrowser>
-#include <QTextDocument>
 #include <QVBoxLayout>
 
-#include "app/desktop/Mnemonic.h"
+#include "app/desktop/HelpWindows.h"
 #include "app/desktop/dialogs/DialogKeeper.h"
 #include "app/desktop/log/CommandLog.h"
 #include "app/desktop/log/SettingNames.h"
@@ -38,7 +33,6 @@
 namespace {
 
 constexpr int kGap = 9;
-constexpr int kIconSize = 64;
 constexpr QSize kUsualSize{1340, 760};
 constexpr QSize kFrame{2 * kGap, 40};  // of a window, before it is known
 
@@ -49,36 +43,6 @@ constexpr const char* kProjectorColumnsKey = "window/projectorColumns";
 constexpr const char* kLogColumnsKey = "window/logColumns";
 constexpr const char* kProjectorKey = "window/projector";
 constexpr const char* kProfilesKey = "window/profiles";
-
-QString ShownText(const QAction& action) {
-  return WithoutMnemonic(action.text()).remove(QStringLiteral("…"));
-}
-
-/// As large as the table, or as the screen allows: then it scrolls.
-void ShowTable(const QString& title, const QString& table, QWidget& owner) {
-  auto* dialog = new QDialog(&owner);
-  dialog->setAttribute(Qt::WA_DeleteOnClose);
-  dialog->setWindowTitle(title);
-  auto* text = new QTextBrowser;
-  text->setHtml(table);
-  text->setFrameShape(QFrame::NoFrame);
-  text->setAccessibleName(title);
-  text->setTabChangesFocus(true);
-  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
-  QObject::connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
-  auto* layout = new QVBoxLayout(dialog);
-  layout->addWidget(text);
-  layout->addWidget(buttons);
-  QTextDocument document;
-  document.setDefaultFont(text->font());
-  document.setHtml(table);
-  const QSize size = document.size().toSize();
-  text->setMinimumWidth(size.width() + text->verticalScrollBar()->sizeHint().width());
-  const int others = layout->sizeHint().height() - text->sizeHint().height();
-  const int room = owner.screen()->availableGeometry().height() - kFrame.height();
-  dialog->resize(dialog->minimumWidth(), std::min(size.height() + others, room));
-  dialog->open();
-}
 
 }  // namespace
 
@@ -210,8 +174,9 @@ void MainWindow::MakeMenus() {
   log_->ClearAll()->setShortcut(Qt::CTRL | Qt::Key_L);
 
   QMenu* help = menuBar()->addMenu(tr("&Help"));
-  add(help, tr("&Keyboard Shortcuts"), QKeySequence::HelpContents, &MainWindow::ShowShortcuts);
-  add(help, tr("&About"), {}, &MainWindow::ShowAbout);
+  add(help, tr("&Keyboard Shortcuts"), QKeySequence::HelpContents,
+      [this] { ShowShortcuts(*this); });
+  add(help, tr("&About"), {}, [this] { ShowAbout(*this); });
 }
 
 std::shared_ptr<ProjectorSession> MainWindow::MakeSession(const ProjectorProfile& profile) {
@@ -310,42 +275,6 @@ void MainWindow::Remember() {
   if (const ProjectorSession* current = projectors_->Current()) {
     settings_->setValue(kProjectorKey, QString::fromStdString(current->Profile().Name));
   }
-}
-
-void MainWindow::ShowShortcuts() {
-  QString rows;
-  const auto add = [&rows](const QString& keys, const QString& what) {
-    rows += QStringLiteral("<tr><td>%1&nbsp;&nbsp;&nbsp;</td><td>%2</td></tr>")
-                .arg(keys.toHtmlEscaped(), what.toHtmlEscaped());
-  };
-  const auto section = [&rows](const QString& title) {
-    rows += QStringLiteral("<tr><th colspan=2 align=left>%1</th></tr>").arg(title.toHtmlEscaped());
-  };
-  for (const QAction* menu : menuBar()->actions()) {
-    section(ShownText(*menu));
-    for (const QAction* action : menu->menu()->actions()) {
-      if (action->shortcut().isEmpty()) continue;
-      add(action->shortcut().toString(QKeySequence::NativeText), ShownText(*action));
-    }
-  }
-  section(tr("In a projector's dialog"));
-  add(tr("Ctrl+Tab, Ctrl+Page Down"), tr("Next tab"));
-  add(tr("Ctrl+Shift+Tab, Ctrl+Page Up"), tr("Previous tab"));
-  add(tr("Ctrl+F"), tr("Find a setting"));
-  add(tr("Esc"), tr("Close"));
-  ShowTable(tr("Keyboard Shortcuts"), QStringLiteral("<table>%1</table>").arg(rows), *this);
-}
-
-void MainWindow::ShowAbout() {
-  auto* about = new QMessageBox(
-      QMessageBox::NoIcon, tr("About"),
-      tr("<h3>Advanced Control %1</h3><p>The live settings of projectors: every value is read from "
-         "the projector, every change is sent at once.</p>")
-          .arg(QStringLiteral(ADVANCED_CONTROL_VERSION)),
-      QMessageBox::Ok, this);
-  about->setAttribute(Qt::WA_DeleteOnClose);
-  about->setIconPixmap(windowIcon().pixmap(kIconSize));
-  about->open();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -55,8 +55,6 @@ class MainWindow : public QMainWindow {
   void OpenCurrent();
   void Restore();
   void Remember();
-  void ShowShortcuts();
-  void ShowAbout();
 
   ProfileDocument profiles_;
   const QString firstProfiles_;  // the file at the start, which needs no remembering

@@ -57,6 +57,11 @@ bool ModelSetting::SelectsInput() const {
   return list != nullptr && list->send && list->send->code == CommandCode::InputSource;
 }
 
+bool ModelSetting::IsStepped() const {
+  const auto* number = std::get_if<ValueRow>(row);
+  return number != nullptr && number->stepsOnly;
+}
+
 bool ModelSetting::Allows(int value) const {
   if (kind == Kind::Choice) return value != placeholder && PositionOf(entries, value) >= 0;
   if (kind == Kind::State) return changeable && (value == 0 || value == 1);

@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include "device/CommandCode.h"
 #include "i18n/SystemLanguage.h"
 #include "settings/CatalogNumbers.h"
 
@@ -93,6 +94,15 @@ std::string SettingTexts::Value(const ModelSetting& setting, int value) const {
   }
   if (setting.otherwise != 0) return Text(kListCategory, setting.otherwise, value);
   return std::to_string(value - setting.bias);
+}
+
+std::string SettingTexts::Value(const ModelSetting& setting, int value,
+                                std::optional<PowerState> power) const {
+  constexpr int kOn = 1;
+  const auto* const state = std::get_if<StateRow>(setting.row);
+  const bool isWarmingUp = power == PowerState::WarmingUp && value == kOn && state != nullptr &&
+                           state->read.code == CommandCode::RunningState;
+  return isWarmingUp ? Text(kListCategory, ListText::PowerWarmingUp) : Value(setting, value);
 }
 
 std::string SettingTexts::Values(const ModelSetting& setting) const {

@@ -35,6 +35,8 @@ class SettingTexts {
   std::string Entry(const ListEntry& entry) const;
   /// A device value as the dialog shows it: its entry's text, else the shown number.
   std::string Value(const ModelSetting& setting, int value) const;
+  /// The same, but a projector that warms up, as `CPjtInterface::Power` tells, is not just on.
+  std::string Value(const ModelSetting& setting, int value, std::optional<PowerState> power) const;
   /// What the setting takes: "-32 to 32", or the texts of its entries.
   std::string Values(const ModelSetting& setting) const;
 

@@ -117,6 +117,35 @@ TEST_F(FlowTest, ClosingActsAtOnceInRefreshesAndChangesAndSendsNothingMore) {
   }
 }
 
+TEST_F(FlowTest, AnotherModelGivenMeanwhileIsThatOfTheNextCreation) {
+  Open();
+  CModelInfo2 other = FullModel(4, 9);
+  other.ConnectionKinds[0] = 0;
+  other.ConnectionNumbers[0] = 6;
+  const QString title = dialog_.windowTitle();
+  const int tabs = Tabs().count();
+  for (const bool waiting : {true, false}) {
+    if (waiting) {
+      InTheWait([&] {
+        dialog_.CopyData(&other, 0);
+        projector_->Pace(0ms);
+      });
+    } else {
+      dialog_.CopyData(&other, 0);
+    }
+    for (int tab = 0; tab < tabs; ++tab) ClickTab(tab);
+    dialog_.DispTabScreen();
+    EXPECT_EQ(dialog_.Model().ModelCode, 30);
+  }
+  dialog_.close();
+  EXPECT_EQ(dialog_.windowTitle(), title);
+  Open();
+  EXPECT_EQ(dialog_.Model().ModelCode, 9);
+  EXPECT_EQ(dialog_.Projector().ConnectionNumber(), 6);
+  EXPECT_NE(dialog_.windowTitle(), title);
+  for (int tab = 0; tab < Tabs().count(); ++tab) ClickTab(tab);
+}
+
 TEST_F(FlowTest, ClosingAPopUpLeavesThePopUpAlone) {
   Open();
   ClickTab(kPictureTab);
@@ -216,6 +245,24 @@ TEST_F(FlowTest, NoAnswerIsToldAndTriedAgain) {
   EXPECT_EQ(Status(), QString());
   EXPECT_TRUE(Page().IsEnabled(kIris));
   EXPECT_EQ(Page().Item<QWidget>(kIris).toolTip(), QString());
+}
+
+TEST_F(FlowTest, ABusyProjectorAndAChangeThatIsNotDoneYetAreTold) {
+  Open();
+  ClickTab(kPictureTab);
+  projector_->late = true;
+  Page().Choose(kIris, 1);
+  EXPECT_EQ(Status(), QStringLiteral("Accepted; the projector has not done it yet"));
+  EXPECT_FALSE(Retry().isVisible());
+  projector_->late = false;
+  Page().Choose(kIris, 2);
+  EXPECT_EQ(Status(), QString());
+  projector_->refuses = true;
+  projector_->busy = true;
+  MessageBoxes boxes;
+  Page().Choose(kIris, 1);
+  EXPECT_EQ(Status(), QStringLiteral("Not possible now: the projector is busy or in standby"));
+  EXPECT_EQ(boxes.Take().size(), 1U) << "the row's own rule holds as well";
 }
 
 TEST_F(FlowTest, APopUpTellsThatNobodyAnswersAndTriesAgain) {

@@ -1,12 +1,10 @@
 #include "pages/common/RowMenus.h"
 
 #include <QContextMenuEvent>
-#include <QInputDialog>
 #include <QKeyEvent>
 
-#include "i18n/LocalizeControlTexts.h"
+#include "pages/common/NumberQuestion.h"
 #include "pages/common/RowMenu.h"
-#include "settings/CatalogNumbers.h"
 #include "toolkit/CDialog.h"
 
 namespace {
@@ -76,20 +74,10 @@ bool RowMenus::Open(QPoint at, QPoint onScreen) {
 // The dialog may go on or end while this is asked in it.
 void RowMenus::AskForNumber(RowView& row) {
   const Range range = row.Numbers().value_or(kUnbounded);
-  const QString caption = row.Caption();
-  auto* question = new QInputDialog(host_.Dialog().window());
-  question->setAttribute(Qt::WA_DeleteOnClose);
-  question->setInputMode(QInputDialog::IntInput);
-  question->setIntRange(range.minimum, range.maximum);
-  question->setIntValue(row.Position().value_or(range.minimum));
-  question->setWindowTitle(caption);
-  question->setLabelText(range == kUnbounded ? caption
-                                             : CatalogString(kListCategory, ListText::RangeNote,
-                                                             std::int64_t{range.minimum},
-                                                             std::int64_t{range.maximum}));
-  question->setOkButtonText(CatalogString(kCaptionCategory, Caption::Ok));
-  question->setCancelButtonText(CatalogString(kCaptionCategory, Caption::Cancel));
-  connect(question, &QInputDialog::intValueSelected, &host_.Dialog(),
+  auto* question = new NumberQuestion(row.Caption(), range,
+                                      row.Position().value_or(range.minimum),
+                                      host_.Dialog().window());
+  connect(question, &NumberQuestion::Entered, &host_.Dialog(),
           [this, &row](int position) { MoveTo(row, position); });
   question->open();
 }

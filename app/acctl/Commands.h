@@ -15,6 +15,7 @@ struct Work {
   const Arguments& arguments;
   const SettingTexts& texts;
   std::optional<Snapshot> file;  ///< Of `Diff` and `Apply`.
+  std::string password;          ///< Of PJLink projectors whose profile has none.
   std::function<bool()> isInterrupted;
   std::function<void()> step;  ///< Called after each setting, from any thread.
 };

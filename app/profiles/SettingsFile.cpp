@@ -1,26 +1,21 @@
 #include "app/profiles/SettingsFile.h"
 
-#include <cstdio>
-
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 #include "app/profiles/WholeFile.h"
 
 SnapshotContents ReadSettingsFile(const QString& path) {
-  QFile file(path);
-  const bool isOpen = path == "-" ? file.open(stdin, QIODevice::ReadOnly)  //
-                                  : file.open(QIODevice::ReadOnly);
-  if (!isOpen) {
-    return {{},
-            QCoreApplication::translate("SettingsFile", "cannot read %1: %2")
-                .arg(path, file.errorString())};
+  constexpr qsizetype kMost = (qsizetype{4} << 20) + 1;  // one more than the reader takes
+  const FileBytes file = ReadToEnd(path, kMost);
+  if (!file.error.isEmpty()) {
+    return {
+        {},
+        QCoreApplication::translate("SettingsFile", "cannot read %1: %2").arg(path, file.error)};
   }
-  constexpr qint64 kMost = (qint64{4} << 20) + 1;  // one more than the reader takes
-  SnapshotContents contents = ReadSnapshot(file.read(kMost));
+  SnapshotContents contents = ReadSnapshot(file.bytes);
   if (!contents.error.isEmpty()) contents.error.prepend(path + ": ");
   return contents;
 }
@@ -42,7 +37,9 @@ UndoFile::UndoFile(const QString& file, const QString& folder, const std::string
 }
 
 bool UndoFile::Keep(const Snapshot& undo) {
-  const QByteArray bytes = WriteSnapshot(undo);
+  Snapshot kept = undo;
+  kept.isUndo = true;
+  const QByteArray bytes = WriteSnapshot(kept);
   if (isThere_) {
     error_ = WriteWholeFile(path_, bytes);
   } else {

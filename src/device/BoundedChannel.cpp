@@ -15,6 +15,8 @@
 #include <QEventLoop>
 #include <QTimer>
 
+#include "device/DropException.h"
+
 namespace {
 
 using Clock = std::chrono::steady_clock;
@@ -46,6 +48,7 @@ PjtReply Ask(ProjectorChannel& channel, std::optional<std::chrono::milliseconds>
     if (announced) channel.Announce(*announced);
     return channel.Execute(command);
   } catch (...) {
+    DropException();
     return Unanswered(command);
   }
 }
@@ -54,6 +57,7 @@ bool SpendIdleTime(ProjectorChannel& channel) {
   try {
     return channel.UseIdleTime();
   } catch (...) {  // likewise
+    DropException();
     return false;
   }
 }
@@ -63,6 +67,7 @@ bool Tend(ProjectorChannel& channel, Clock::time_point lastUse) {
     return channel.TendConnection(
         std::chrono::floor<std::chrono::milliseconds>(Clock::now() - lastUse));
   } catch (...) {  // likewise
+    DropException();
     return false;
   }
 }
@@ -191,6 +196,7 @@ Value BoundedChannel::Told(State& state, Value otherwise, auto ask) {
   try {
     if (state.inner) return ask(*state.inner);
   } catch (...) {
+    DropException();
   }
   return otherwise;
 }

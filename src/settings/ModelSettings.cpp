@@ -9,6 +9,8 @@
 #include "settings/PageTables.h"
 #include "settings/RowParts.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 void Describe(const ListRow& row, const ModelData& model, ModelSetting& setting) {
@@ -158,3 +160,5 @@ bool ModelSettings::Change(CPjtInterface& projector, const ModelSetting& setting
                            const Sending& how) const {
   return SendRow(projector, *setting.row, *model_, value, how) == Sent::Accepted;
 }
+
+}  // namespace AdvancedControl

@@ -4,6 +4,8 @@
 
 #include "device/CommandCode.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 constexpr Call kInput = Named(PjtOperation::GetInputSource);
@@ -176,3 +178,5 @@ Sent StepTo(int present, int wanted, const Stepper& step, const std::function<bo
   }
   return present == wanted ? Sent::Accepted : Sent::Refused;
 }
+
+}  // namespace AdvancedControl

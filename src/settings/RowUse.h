@@ -8,6 +8,8 @@
 #include "AdvancedControlExport.h"
 #include "settings/Rows.h"
 
+inline namespace AdvancedControl {
+
 // Rows in use: what a row's data makes of the projector. Whoever reads or changes a setting does it
 // here: the dialogs' rows, programs without a window, snapshots. Values are device values.
 
@@ -69,3 +71,5 @@ using Stepper = std::function<Stepped(bool upwards, int present)>;
 /// is the last; one that was refused is tried again, since it may have been lost, but not for ever.
 ADVANCED_CONTROL_EXPORT Sent StepTo(int present, int wanted, const Stepper& step,
                                     const std::function<bool()>& goesOn);
+
+}  // namespace AdvancedControl

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <type_traits>
 
+inline namespace AdvancedControl {
+
 namespace {
 
 const ModelRows* RowsOf(const PageTable& table, int modelCode) {
@@ -124,3 +126,5 @@ Range StepBounds(const ValueRow& row, const ModelData& model) {
   if (row.bounds) return row.bounds->Of(model.ModelCode);
   return row.stepsOnly ? kUnbounded : SliderRange(row, model);
 }
+
+}  // namespace AdvancedControl

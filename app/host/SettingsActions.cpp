@@ -137,7 +137,7 @@ void SettingsActions::OpenFile(RestoreDialog::Purpose purpose, const ProjectorSe
   const QString path =
       QFileDialog::getOpenFileName(&window_, tr("Open Settings"), {}, tr("Settings (*.json)"));
   if (path.isEmpty()) return;
-  SnapshotContents contents = ReadSettingsFile(path);
+  SettingsFileContents contents = ReadSettingsFile(path);
   if (!contents.error.isEmpty()) return Tell(tr("Open Settings"), contents.error);
   RestoreDialog dialog(purpose, std::move(contents.snapshot), path, sessions, &window_);
   dialog.exec();

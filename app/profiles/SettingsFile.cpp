@@ -1,27 +1,51 @@
 #include "app/profiles/SettingsFile.h"
 
 #include <cstdio>
+#include <utility>
 
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonDocument>
 
+#include "app/profiles/JsonLines.h"
 #include "app/profiles/WholeFile.h"
 
-SnapshotContents ReadSettingsFile(const QString& path) {
+SettingsFileContents ReadSettingsFile(const QString& path) {
   QFile file(path);
   const bool isOpen = path == "-" ? file.open(stdin, QIODevice::ReadOnly)  //
                                   : file.open(QIODevice::ReadOnly);
   if (!isOpen) {
-    return {{},
-            QCoreApplication::translate("SettingsFile", "cannot read %1: %2")
-                .arg(path, file.errorString())};
+    return {.error = QCoreApplication::translate("SettingsFile", "cannot read %1: %2")
+                         .arg(path, file.errorString())};
   }
-  constexpr qint64 kMost = (qint64{4} << 20) + 1;  // one more than the reader takes
-  SnapshotContents contents = ReadSnapshot(file.read(kMost));
-  if (!contents.error.isEmpty()) contents.error.prepend(path + ": ");
+  return ParseSettingsFile(file.read(JsonLines::kMaximumBytes + 1), path);
+}
+
+SettingsFileContents ParseSettingsFile(const QByteArray& text, const QString& name) {
+  SettingsFileContents contents{.name = name, .text = text};
+  const auto wrong = [&](int line, const QString& message) {
+    contents.error = QStringLiteral("%1:%2: ").arg(name).arg(line) + message;
+    return contents;
+  };
+  if (const auto fault = JsonLines::FaultOf(text)) {
+    return wrong(JsonLines::PlaceOf(text, fault->offset).line, fault->message);
+  }
+  QJsonParseError syntax;
+  QJsonDocument::fromJson(text, &syntax);
+  if (syntax.error != QJsonParseError::NoError) {
+    return wrong(JsonLines::PlaceOf(text, syntax.offset).line, syntax.errorString());
+  }
+  const JsonLines lines(text);
+  SnapshotContents read = ReadSnapshot(text);
+  if (!read.error.isEmpty()) return wrong(lines.LineOf(read.path), read.error);
+  if (const auto twice = lines.RepeatedKey()) {
+    const QString what = QCoreApplication::translate("SettingsFile", "%1 stands here twice");
+    return wrong(twice->line, what.arg(twice->path));
+  }
+  contents.snapshot = std::move(read.snapshot);
   return contents;
 }
 

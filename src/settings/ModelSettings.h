@@ -61,6 +61,9 @@ struct Sending {
   std::function<bool()> goesOn = [] { return true; };
 };
 
+/// The keys of every model's settings; some stand here more than once.
+std::vector<std::string_view> AllKeys();
+
 /// All settings of a model in the order of its pages, the pop-ups' behind those of the page that
 /// opens them.
 class ModelSettings {

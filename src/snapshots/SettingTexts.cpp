@@ -95,6 +95,13 @@ std::string SettingTexts::Value(const ModelSetting& setting, int value) const {
   return std::to_string(value - setting.bias);
 }
 
+bool SettingTexts::IsShownAs(const ModelSetting& setting, int value, std::string_view text) const {
+  const bool isEntry = std::ranges::any_of(setting.entries, [&](const ListEntry& entry) {
+    return entry.value == value && Is(entry, text);
+  });
+  return isEntry || Number(text) == value - setting.bias;
+}
+
 std::string SettingTexts::Values(const ModelSetting& setting) const {
   if (setting.range) {
     return std::to_string(setting.range->minimum - setting.bias) + " to " +

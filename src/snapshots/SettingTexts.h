@@ -35,6 +35,8 @@ class SettingTexts {
   std::string Entry(const ListEntry& entry) const;
   /// A device value as the dialog shows it: its entry's text, else the shown number.
   std::string Value(const ModelSetting& setting, int value) const;
+  /// Whether a text is what a device value is shown as, in any language.
+  bool IsShownAs(const ModelSetting& setting, int value, std::string_view text) const;
   /// What the setting takes: "-32 to 32", or the texts of its entries.
   std::string Values(const ModelSetting& setting) const;
 

@@ -21,12 +21,14 @@ struct OutcomeList {
   int code;
 };
 
-constexpr std::array<OutcomeList, 10> kLists{{
+constexpr std::array<OutcomeList, 12> kLists{{
     {Outcome::Changed, "changed", "changed", nullptr, ExitCode::Done},
     {Outcome::Differs, "different", "different", nullptr, ExitCode::Done},
     {Outcome::AlreadySo, "alreadySo", "already so", nullptr, ExitCode::Done},
+    {Outcome::Pending, "pending", "not yet so", "accepted, but not so yet", ExitCode::Done},
     {Outcome::Refused, "refused", "refused", nullptr, ExitCode::Refused},
-    {Outcome::Unconfirmed, "unconfirmed", "unconfirmed", "sent, but not confirmed",
+    {Outcome::Busy, "busy", "busy", "the projector is busy or in standby", ExitCode::Refused},
+    {Outcome::Unconfirmed, "unconfirmed", "unconfirmed", "not confirmed, it may have changed",
      ExitCode::Refused},
     {Outcome::NotReached, "notDone", "not done", nullptr, ExitCode::Done},
     {Outcome::Unknown, "skipped", nullptr, "skipped, this model does not have it", ExitCode::Done},

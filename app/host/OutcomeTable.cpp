@@ -62,6 +62,10 @@ QString OutcomeTable::TextOf(Outcome outcome) {
       return tr("changed");
     case Outcome::Refused:
       return tr("refused");
+    case Outcome::Pending:
+      return tr("accepted, not yet so");
+    case Outcome::Busy:
+      return tr("refused: the projector is busy or in standby");
     case Outcome::Unconfirmed:
       return tr("not confirmed");
     case Outcome::Unknown:
@@ -77,7 +81,7 @@ QString OutcomeTable::TextOf(Outcome outcome) {
 }
 
 QString OutcomeTable::Summary() const {
-  std::array<int, 10> counts{};
+  std::array<int, 12> counts{};
   for (int row = 0; row < rowCount(); ++row) ++counts[static_cast<std::size_t>(OutcomeOf(row))];
   const auto count = [&counts](Outcome outcome) {
     return counts[static_cast<std::size_t>(outcome)];
@@ -91,7 +95,8 @@ QString OutcomeTable::Summary() const {
   add(count(Outcome::Changed), tr("%1 changed"));
   add(count(Outcome::Differs), tr("%1 different"));
   add(count(Outcome::AlreadySo), tr("%1 already so"));
-  add(count(Outcome::Refused), tr("%1 refused"));
+  add(count(Outcome::Pending), tr("%1 not yet so"));
+  add(count(Outcome::Refused) + count(Outcome::Busy), tr("%1 refused"));
   add(count(Outcome::Unconfirmed), tr("%1 not confirmed"));
   add(count(Outcome::NotReached), tr("%1 not read"));
   add(skipped, tr("%1 skipped"));

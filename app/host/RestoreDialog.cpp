@@ -260,9 +260,10 @@ void RestoreDialog::ShowOutcome(const RestoredSetting& restored, int row) {
 void RestoreDialog::ShowBeforehand(const Restoration& restoration, int row) {
   const auto& all = restoration.Beforehand();
   Outcome worst = Outcome::AlreadySo;
-  for (const Outcome outcome : {Outcome::Changed, Outcome::NotAllowed, Outcome::NotSettable,
-                                Outcome::NotOffered, Outcome::Unknown, Outcome::NotReached,
-                                Outcome::Differs, Outcome::Unconfirmed, Outcome::Refused}) {
+  for (const Outcome outcome :
+       {Outcome::Changed, Outcome::NotAllowed, Outcome::NotSettable, Outcome::NotOffered,
+        Outcome::Unknown, Outcome::NotReached, Outcome::Differs, Outcome::Pending,
+        Outcome::Unconfirmed, Outcome::Busy, Outcome::Refused}) {
     if (std::ranges::find(all, outcome, &RestoredSetting::outcome) != all.end()) worst = outcome;
   }
   model_->SetOutcome(row, worst);

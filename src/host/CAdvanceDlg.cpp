@@ -290,13 +290,8 @@ void CAdvanceDlg::OnIdle() {
       if (IsCreated()) DispTabScreen();
     });
   }
-  const CPjtInterface::Tally sent = projector_.Sent();
-  if (IsLeft() || sent.commands == sentBefore_.commands) return;
-  if (sent.unanswered > sentBefore_.unanswered) {
-    status_->ShowNoAnswer(projector_.Connection());
-  } else {
-    status_->ShowProgress({});
-  }
+  if (IsLeft() || projector_.Sent().commands == sentBefore_.commands) return;
+  status_->ShowOutcome(projector_, sentBefore_);
 }
 
 void CAdvanceDlg::ShowWaiting(bool waiting) {

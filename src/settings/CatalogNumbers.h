@@ -264,6 +264,10 @@ inline constexpr int NotUnderstood = 4314;
 inline constexpr int OtherVersion = 4315;
 inline constexpr int PasswordRequired = 4316;
 
+// What became of a change, beside Close.
+inline constexpr int NotDoneYet = 4317;
+inline constexpr int NotPossibleNow = 4318;
+
 // A row's context menu, and the search for a row.
 inline constexpr int WhenOpened = 4320;  // %1 the value's text
 inline constexpr int PutBack = 4321;
@@ -271,6 +275,7 @@ inline constexpr int EnterValue = 4322;
 inline constexpr int Copy = 4323;
 inline constexpr int FindSetting = 4324;
 inline constexpr int NothingFound = 4325;
+inline constexpr int NumberWanted = 4326;  // %1 to %2 (integers)
 }  // namespace ListText
 
 namespace ErrorText {

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -19,8 +20,8 @@ struct ListEntry {
   constexpr ListEntry(std::string_view fixedText, int deviceValue)
       : name(fixedText), value(deviceValue) {}
 
-  int text = 0;             ///< Number in the list category of the catalog; 0 where `name` is it.
-  std::string_view name{};  ///< A text that is the same in every language.
+  std::optional<int> text{};  ///< Number in the list category of the catalog; else `name` is it.
+  std::string_view name{};    ///< A text that is the same in every language.
   int value = 0;
 
   friend bool operator==(const ListEntry&, const ListEntry&) = default;

@@ -14,6 +14,8 @@ constexpr int kStandbySource = 15;
 // Running states in which they do.
 constexpr int kStandby = 0;
 constexpr int kCoolingDown = 2;
+// What a projector reports while it plays nothing.
+constexpr int kNoSource = -1;
 
 std::optional<int> AskPlayingSource(CPjtInterface& projector, int modelCode) {
   const auto state = Read(projector, kPlayingQuestions[0]);
@@ -22,7 +24,7 @@ std::optional<int> AskPlayingSource(CPjtInterface& projector, int modelCode) {
     if (!state) return {};
     if (state == kStandby || state == kCoolingDown) return standby;
   }
-  return input;
+  return input == kNoSource ? std::nullopt : input;
 }
 
 bool Send(CPjtInterface& projector, const ListRow& row, const ModelData& model, int source,

@@ -70,9 +70,7 @@ struct ListRules {
   bool readsBackAlways = false;
   /// Value of a list's last entry that stands for all values without an entry. It is never sent: a
   /// choice of it shows what the projector has.
-  PerModel<int> placeholder{kNoPlaceholder};
-
-  static constexpr int kNoPlaceholder = -1;
+  PerModel<std::optional<int>> placeholder{};
 };
 
 /// A setting with a list of values.

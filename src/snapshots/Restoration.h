@@ -14,8 +14,10 @@ enum class Outcome : std::uint8_t {
   AlreadySo,    ///< The projector has this value without being told.
   Differs,      ///< It has another one, and was not told yet.
   Changed,      ///< Told, and read back so.
+  Pending,      ///< Told and accepted, but not so yet when it was read back.
   Refused,      ///< Told in vain, or the projector does not even tell its value.
-  Unconfirmed,  ///< Told, but the projector was gone before it could be read back.
+  Busy,         ///< Refused for now: the projector switches, warms up, cools down or stands by.
+  Unconfirmed,  ///< Told, or what was told may have changed it too; what it is now is not known.
   Unknown,      ///< The model does not have the setting.
   NotOffered,   ///< The model has it, but the projector says that it does not.
   NotSettable,  ///< The model has it, but it is not one to put back.

@@ -83,7 +83,7 @@ std::string SettingTexts::Tab(const ModelSetting& setting) const {
 }
 
 std::string SettingTexts::Entry(const ListEntry& entry) const {
-  return entry.text != 0 ? Text(kListCategory, entry.text) : std::string(entry.name);
+  return entry.text ? Text(kListCategory, *entry.text) : std::string(entry.name);
 }
 
 std::string SettingTexts::Value(const ModelSetting& setting, int value) const {
@@ -117,9 +117,9 @@ std::string SettingTexts::Values(const ModelSetting& setting) const {
 }
 
 bool SettingTexts::Is(const ListEntry& entry, std::string_view text) const {
-  if (entry.text == 0) return SameText(entry.name, text);
+  if (!entry.text) return SameText(entry.name, text);
   for (const std::uint32_t language : {languageId_, kEnglishUnitedStates, kChineseSimplified}) {
-    const auto known = texts_.Find(language, kListCategory, entry.text);
+    const auto known = texts_.Find(language, kListCategory, *entry.text);
     if (known && SameText(*known, text)) return true;
   }
   return false;

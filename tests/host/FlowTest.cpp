@@ -218,6 +218,24 @@ TEST_F(FlowTest, NoAnswerIsToldAndTriedAgain) {
   EXPECT_EQ(Page().Item<QWidget>(kIris).toolTip(), QString());
 }
 
+TEST_F(FlowTest, ABusyProjectorAndAChangeThatIsNotDoneYetAreTold) {
+  Open();
+  ClickTab(kPictureTab);
+  projector_->late = true;
+  Page().Choose(kIris, 1);
+  EXPECT_EQ(Status(), QStringLiteral("Accepted; the projector has not done it yet"));
+  EXPECT_FALSE(Retry().isVisible());
+  projector_->late = false;
+  Page().Choose(kIris, 2);
+  EXPECT_EQ(Status(), QString());
+  projector_->refuses = true;
+  projector_->busy = true;
+  MessageBoxes boxes;
+  Page().Choose(kIris, 1);
+  EXPECT_EQ(Status(), QStringLiteral("Not possible now: the projector is busy or in standby"));
+  EXPECT_EQ(boxes.Take().size(), 1U) << "the row's own rule holds as well";
+}
+
 TEST_F(FlowTest, APopUpTellsThatNobodyAnswersAndTriesAgain) {
   Open();
   ClickTab(kPictureTab);

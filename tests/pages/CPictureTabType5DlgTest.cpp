@@ -78,6 +78,16 @@ TEST_F(PictureTest, AnUnknownIrisModeLeavesTheRowAsItWas) {
   EXPECT_EQ(CPictureTabType5Dlg::ActIrisValueToIdx(0x11), 2);
   EXPECT_EQ(CPictureTabType5Dlg::ActIrisValueToIdx(0x12), -1);
   EXPECT_EQ(CPictureTabType5Dlg::ActIrisIdxToValue(1), 0x10);
+  EXPECT_EQ(CPictureTabType5Dlg::ActIrisIdxToValue(3), static_cast<short>(0xFFFF));
+}
+
+TEST(PicturePages, SendAnEntryWhoseValueIsMinusOneLikeAnyOther) {
+  CModelInfo2 model = PictureModel();
+  for (CountedList* list : {&model.GammaList, &model.ColorTempList}) AddEntry(*list, -1, "none");
+  OpenDialog open(model, 1);
+  open.Driver().Choose(kGamma, 4);
+  open.Driver().Choose(kColorTemp, 5);
+  EXPECT_EQ(open.Projector().Take(), (Strings{"SetGamma 4", "Set 0x30B0 65535"}));
 }
 
 TEST(PicturePages, ShowBeforeAnythingIsKnownTheMiddleAndNoEntry) {

@@ -15,6 +15,15 @@ TEST(LegacySetup, OnlyTheResultOneIsASuccess) {
   EXPECT_EQ(boxes.Take().size(), 2U);
 }
 
+TEST(LegacySetup, ATextNumberOfZeroIsLookedUpLikeAnyOther) {
+  CModelInfo2 model = MakeModel(3, 4);
+  AddEntry(model.AspectList, -1, "none");
+  OpenDialog open(model, 1);
+  const QString text = CatalogString(kListCategory, 0);
+  EXPECT_FALSE(text.isEmpty());
+  EXPECT_EQ(open.Driver().Entries(20099), QStringList{text});
+}
+
 TEST(LegacyScreen, TheNamedModelOfASeriesHasALanguageMore) {
   const auto languages = [](int code, const char* name) {
     CModelInfo2 model = MakeModel(4, code);

@@ -2,8 +2,8 @@
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QMenu>
-#include <QSpinBox>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -86,8 +86,20 @@ TEST_F(RowMenus, ATypedNumberIsSentAsADragAndRefusedAsOne) {
   Menu(page, kBrightness, "Enter a value…");
   auto* question = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
   ASSERT_NE(question, nullptr);
-  QTest::keyClicks(question->findChild<QSpinBox*>(), QStringLiteral("-99"));
-  EXPECT_EQ(question->intValue(), -9) << "the slider ends at -32";
+  EXPECT_EQ(question->textValue(), QStringLiteral("10"));
+  EXPECT_EQ(question->labelText(), QStringLiteral("Range: -32 to 32"));
+  auto* field = question->findChild<QLineEdit*>();
+  for (const char* text : {"-99", "33", "", "7 8", "7.5", "0x7", "99999999999"}) {
+    field->setText(QString());
+    QTest::keyClicks(field, QString::fromUtf8(text));
+    QTest::keyClick(question, Qt::Key_Return);
+    EXPECT_EQ(open.Projector().Take(), Strings{}) << text;
+    EXPECT_TRUE(question->isVisible()) << text;
+    EXPECT_EQ(question->textValue(), QString::fromUtf8(text));
+    EXPECT_EQ(question->labelText(), QStringLiteral("Enter a whole number from -32 to 32."));
+  }
+  field->setText(QString());
+  QTest::keyClicks(field, QStringLiteral("-9"));
   open.Projector().Refuse("SetBrightness");
   QTest::keyClick(question, Qt::Key_Return);
   EXPECT_EQ(open.Projector().Take(), Strings{"SetBrightness 119"});
@@ -114,7 +126,7 @@ TEST(RowMenu, LeadsArrowsStepByStepUntilNoStepLeadsNearer) {
             "(When opened: 40), (Put back), Enter a value…, Copy");
   auto* question = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
   ASSERT_NE(question, nullptr);
-  question->setIntValue(42);
+  question->setTextValue(QStringLiteral("42"));
   projector.Answer("Get 0x2100", 41);
   projector.Take();
   question->accept();

@@ -209,6 +209,16 @@ TEST(Audio5, TheActiveSourceFollowsRunningStateAndModel) {
   }
 }
 
+TEST(Audio5, AnInputOfMinusOneIsNoSource) {
+  Type5Page page(kAudioTab, 41);
+  page.projector.Answer("GetInputSource", -1);
+  page.driver.Click(20346);
+  page.driver.Drag(20347, 30);
+  EXPECT_EQ(page.projector.TakeChanges(), Strings{});
+  page.Page().InitDisp();
+  EXPECT_EQ(page.driver.Text(20355), "");
+}
+
 // Which has another zero; a slider remembers its position.
 TEST(Audio5, AButtonRemembersTheDeviceValue) {
   Type5Page page(kAudioTab, 41, {{"GetInputSource", 3}, {"IncrementInputSrcTreb 3", 131}});

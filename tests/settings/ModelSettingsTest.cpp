@@ -68,4 +68,25 @@ TEST(ModelSettings, EveryOneOfEveryModelWorksOnTheSimulationAndHasAKeyOfItsOwn) 
   }
 }
 
+TEST(ModelSettings, AnEntryWhoseValueIsMinusOneIsSentLikeAnyOther) {
+  CModelInfo2 model = MakeModel(5, 49);
+  AddEntry(model.ColorTempList, -1, "none");
+  AddEntry(model.MyButtonList, -1, "none");
+  const ModelSettings settings(MakeModelData(model));
+  struct Accepting final : ProjectorChannel {
+    PjtReply Execute(const PjtCommand& command) override {
+      sent = command;
+      return {.result = 1};
+    }
+    PjtCommand sent;
+  };
+  const auto channel = std::make_shared<Accepting>();
+  CPjtInterface projector;
+  projector.SetChannel(channel);
+  for (const char* key : {"picture.color-temp", "option.my-button-1"}) {
+    EXPECT_TRUE(settings.Change(projector, *settings.Find(key), -1)) << key;
+    EXPECT_EQ(channel->sent.first, -1);
+  }
+}
+
 }  // namespace

@@ -23,8 +23,10 @@ class PacedProjector final : public ProjectorChannel {
     waiting = pace_.count() > 0;
     changed_.wait_for(lock, pace_, [this] { return pace_.count() == 0; });
     waiting = false;
-    return refuses ? PjtReply{.result = RefusedResult(command.operation)}
-                   : simulation_.Execute(command);
+    if (refuses) return {.result = RefusedResult(command.operation), .busy = busy};
+    PjtReply reply = simulation_.Execute(command);
+    reply.pending = late && !IsRead(command.operation);
+    return reply;
   }
 
   /// Of the commands to come; none at all lets go the one that waits.
@@ -40,6 +42,8 @@ class PacedProjector final : public ProjectorChannel {
   }
 
   std::atomic<bool> refuses = false;
+  std::atomic<bool> busy = false;  ///< Why it refuses.
+  std::atomic<bool> late = false;  ///< Accepts changes, and has not carried them out yet.
   std::atomic<bool> waiting = false;
   std::atomic<int> sent = 0;
 

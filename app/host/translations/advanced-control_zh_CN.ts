@@ -971,6 +971,14 @@
         <translation>被拒绝</translation>
     </message>
     <message>
+        <source>accepted, not yet so</source>
+        <translation>已接受，尚未生效</translation>
+    </message>
+    <message>
+        <source>refused: the projector is busy or in standby</source>
+        <translation>被拒绝：投影机正忙或处于待机</translation>
+    </message>
+    <message>
         <source>not confirmed</source>
         <translation>未确认</translation>
     </message>
@@ -1005,6 +1013,10 @@
     <message>
         <source>%1 already so</source>
         <translation>已一致 %1 项</translation>
+    </message>
+    <message>
+        <source>%1 not yet so</source>
+        <translation>尚未生效 %1 项</translation>
     </message>
     <message>
         <source>%1 refused</source>

@@ -33,7 +33,7 @@ QString Wide(std::string_view text) {
 }
 
 QString TextOf(const ListEntry& entry) {
-  if (entry.text != 0) return CatalogString(kListCategory, entry.text);
+  if (entry.text) return CatalogString(kListCategory, *entry.text);
   return Wide(entry.name);
 }
 
@@ -262,9 +262,7 @@ void RowDialog::Refresh(const ListRow& row, Bound&, Source source) {
   list.setEnabled(true);
   Select(row, *value);
   if (list.currentIndex() >= 0) return;
-  const bool hasPlaceholder =
-      row.rules.placeholder.Of(Model().ModelCode) != ListRules::kNoPlaceholder;
-  if (hasPlaceholder) list.Select(list.count() - 1);
+  if (row.rules.placeholder.Of(Model().ModelCode)) list.Select(list.count() - 1);
 }
 
 void RowDialog::Select(const ListRow& row, int value) {

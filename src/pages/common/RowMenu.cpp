@@ -4,9 +4,9 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QContextMenuEvent>
-#include <QInputDialog>
 #include <QLabel>
 
+#include "pages/common/NumberQuestion.h"
 #include "pages/common/RowDialog.h"
 #include "settings/RowUse.h"
 #include "toolkit/CComboBox.h"
@@ -151,20 +151,9 @@ bool RowDialog::ShowMenu(QPoint at, QPoint onScreen) {
 void RowDialog::AskForNumber(std::size_t index) {
   const auto& row = std::get<ValueRow>(table_.rows[index]);
   const Range range = EnteredRange(row, bound_[index]);
-  const QString caption = CaptionText(row);
-  auto* question = new QInputDialog(window());
-  question->setAttribute(Qt::WA_DeleteOnClose);
-  question->setInputMode(QInputDialog::IntInput);
-  question->setIntRange(range.minimum, range.maximum);
-  question->setIntValue(bound_[index].value.Number().value_or(range.minimum));
-  question->setWindowTitle(caption);
-  question->setLabelText(range == kUnbounded ? caption
-                                             : CatalogString(kListCategory, ListText::RangeNote,
-                                                             std::int64_t{range.minimum},
-                                                             std::int64_t{range.maximum}));
-  question->setOkButtonText(CatalogString(kCaptionCategory, Caption::Ok));
-  question->setCancelButtonText(CatalogString(kCaptionCategory, Caption::Cancel));
-  connect(question, &QInputDialog::intValueSelected, this,
+  auto* question = new NumberQuestion(
+      CaptionText(row), range, bound_[index].value.Number().value_or(range.minimum), window());
+  connect(question, &NumberQuestion::Entered, this,
           [this, index](int position) { MoveTo(index, position); });
   question->open();
 }

@@ -228,10 +228,8 @@ void RowDialog::OnBusy() {
 
 void RowDialog::OnIdle() {
   watch_->Stop();
-  if (status_ != nullptr && !IsLeft() && projector->Sent().unanswered > sentWhenIdle_.unanswered) {
-    status_->ShowNoAnswer(projector->Connection());
-  } else if (status_ != nullptr && projector->Sent().commands > sentWhenIdle_.commands) {
-    status_->ShowProgress({});
+  if (status_ != nullptr && !IsLeft() && projector->Sent().commands > sentWhenIdle_.commands) {
+    status_->ShowOutcome(*projector, sentWhenIdle_);
   }
   if (!std::exchange(stale_, false) || IsLeft()) return;
   QTimer::singleShot(0, this, [this] {

@@ -50,8 +50,18 @@ QWidget* StatusLine::RetryButton() const { return retry_; }
 
 void StatusLine::ShowProgress(const QString& text) { Show(text, false); }
 
-void StatusLine::ShowNoAnswer(ConnectionState connection) {
-  Show(CatalogString(kListCategory, ProblemText(connection)), true);
+void StatusLine::ShowOutcome(const CPjtInterface& projector, const CPjtInterface::Tally& before) {
+  const CPjtInterface::Tally sent = projector.Sent();
+  if (sent.unanswered > before.unanswered) {
+    return Show(CatalogString(kListCategory, ProblemText(projector.Connection())), true);
+  }
+  QString text;
+  if (sent.pending > before.pending) {
+    text = CatalogString(kListCategory, ListText::NotDoneYet);
+  } else if (sent.busy > before.busy) {
+    text = CatalogString(kListCategory, ListText::NotPossibleNow);
+  }
+  Show(text, false);
 }
 
 void StatusLine::Show(const QString& text, bool canRetry) {

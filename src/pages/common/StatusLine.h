@@ -2,13 +2,14 @@
 
 #include <QWidget>
 
-#include "device/ConnectionState.h"
+#include "device/CPjtInterface.h"
 
 class QLabel;
 class QPushButton;
 
-/// The quiet line beside Close: how far reading has come, or that the projector does not answer,
-/// with a button to try again. A screen reader is told of each change.
+/// The quiet line beside Close: how far reading has come, that a change is not done yet or not
+/// possible now, or that the projector does not answer, with a button to try again. A screen reader
+/// is told of each change.
 class StatusLine final : public QWidget {
   Q_OBJECT
 
@@ -17,8 +18,11 @@ class StatusLine final : public QWidget {
 
   /// Something goes on; an empty text ends that.
   void ShowProgress(const QString& text);
-  /// Says why the projector did not answer. Stays until the next `ShowProgress`.
-  void ShowNoAnswer(ConnectionState connection);
+
+  /// Says what became of the commands since `before`: why one was not answered, that a change was
+  /// accepted and is not done yet, that the projector was busy, or nothing. Stays until the next
+  /// call of these.
+  void ShowOutcome(const CPjtInterface& projector, const CPjtInterface::Tally& before);
 
   QWidget* RetryButton() const;
 

@@ -8,6 +8,7 @@
 namespace {
 
 constexpr int kActiveIrisList = 20293;
+constexpr short kNoIrisMode = static_cast<short>(0xFFFF);
 
 std::vector<ListEntry> ActiveIrisEntries() {
   return std::get<ListRow>(FindRow(kPictureType5Rows, kActiveIrisList)).entries.Of({});
@@ -29,7 +30,9 @@ bool CPictureTabType5Dlg::IsCustomColorTemp(const CComboBox& list) const {
 }
 
 short CPictureTabType5Dlg::ActIrisIdxToValue(short index) {
-  return static_cast<short>(ActiveIrisEntries()[static_cast<std::size_t>(index)].value);
+  const std::vector<ListEntry> entries = ActiveIrisEntries();
+  const bool inside = index >= 0 && index < std::ssize(entries);
+  return inside ? static_cast<short>(entries[static_cast<std::size_t>(index)].value) : kNoIrisMode;
 }
 
 short CPictureTabType5Dlg::ActIrisValueToIdx(short value) {

@@ -11,7 +11,7 @@ class ADVANCED_CONTROL_EXPORT CPictureTabType5Dlg final : public PicturePage {
  public:
   explicit CPictureTabType5Dlg(CWnd* parent);
 
-  /// Device value of a position of the active-iris list, which must be inside it.
+  /// Device value of a position of the active-iris list; 0xFFFF for one outside it.
   static short ActIrisIdxToValue(short index);
   /// Position of a device value in the active-iris list, or −1.
   static short ActIrisValueToIdx(short value);

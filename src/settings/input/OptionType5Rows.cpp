@@ -57,7 +57,7 @@ int TextOfFunction(int code, int modelCode) {
 // Other than in a refresh, what is read back is the position, not a code to look up.
 constexpr ListRules kMyButton{
     .refused = Refused::ReadsBackPosition,
-    .placeholder = {ListRules::kNoPlaceholder, kCodesWithOtherFunction, kOtherFunction}};
+    .placeholder = {std::nullopt, kCodesWithOtherFunction, kOtherFunction}};
 
 // clang-format off
 constexpr PageRow kRows[] = {

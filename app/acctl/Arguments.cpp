@@ -116,6 +116,11 @@ const std::vector<OptionForm>& Options() {
        "tell what would be changed, and change nothing",
        [](A& a, Text) { return a.dryRun = true; },
        {Command::Apply}},
+      {"lenient",
+       "",
+       "skip what is wrong in FILE instead of sending nothing",
+       [](A& a, Text) { return a.lenient = true; },
+       {Command::Diff, Command::Apply}},
       {"undo",
        "FOLDER",
        "where the present values are saved first; beside FILE without",
@@ -255,5 +260,6 @@ std::string HelpText() {
          "too, except for set. VALUE is a number as the dialog shows it, an entry's text, +3 or "
          "-3\n"
          "from the present value, or =-3 for a number below zero.\n\n"
-         "Exit codes: 0 done, 1 something was refused, 2 wrong use, 3 no answer.\n";
+         "Exit codes: 0 done, 1 something was refused, 2 wrong use and nothing was sent, 3 no "
+         "answer.\n";
 }

@@ -41,6 +41,7 @@ struct Arguments {
   bool json = false;
   bool brief = false;
   bool dryRun = false;
+  bool lenient = false;  ///< What is wrong in `file` is skipped.
 
   std::string error;  ///< One line; empty when the arguments can be followed.
 };

@@ -5,6 +5,7 @@
 
 #include "app/acctl/Uses.h"
 #include "app/profiles/JsonLines.h"
+#include "device/ModelDataIntake.h"
 
 namespace {
 
@@ -53,14 +54,27 @@ std::string Possible(const SettingTexts& texts, const ModelSetting& setting) {
   return values;
 }
 
+/// The model that a file is of, as a profile has it; the same name counts first.
+std::optional<ModelSettings> ModelOf(const Snapshot& file,
+                                     const std::vector<ProjectorProfile>& profiles) {
+  const ProjectorProfile* found = nullptr;
+  for (const ProjectorProfile& profile : profiles) {
+    const CModelInfo2& model = profile.Model;
+    if (model.DialogType != file.dialogType || model.ModelCode != file.modelCode) continue;
+    if (found == nullptr || model.ModelName == file.model) found = &profile;
+  }
+  if (found == nullptr) return {};
+  return ModelSettings(MakeModelData(found->Model));
+}
+
 /// One setting as the two models have it that may vouch for what stands in the file.
 class Entry {
  public:
-  Entry(const Work& work, const SavedSetting& saved, const ModelSettings& model,
+  Entry(const SettingTexts& texts, const SavedSetting& saved, const ModelSettings& model,
         const ModelSettings* own)
-      : texts_(work.texts), saved_(saved) {
+      : texts_(texts), saved_(saved) {
     Add(model);
-    if (own != nullptr && own != &model) Add(*own);
+    if (own != nullptr) Add(*own);
   }
 
   bool IsKnown() const { return !forms_.empty(); }
@@ -84,9 +98,13 @@ class Entry {
            Possible(texts_, *forms_.front().setting);
   }
 
-  std::string TextMistake() const {
-    const auto isSo = [this](const Form& form) {
-      return form.setting->entries.empty() ? form.setting->kind == Kind::Choice : IsShown(form);
+  std::string TextMistake(InputNames inputs) const {
+    const auto isSo = [this, inputs](const Form& form) {
+      const auto& entries = form.setting->entries;
+      const auto entry = std::ranges::find(entries, saved_.value, &ListEntry::value);
+      const bool isName = entry != entries.end() && !entry->text;
+      return (isName && inputs == InputNames::OfProjector) ||
+             texts_.IsShownAs(*form.setting, saved_.value, saved_.text);
     };
     if (saved_.text.empty() || !IsKnown() || std::ranges::any_of(forms_, isSo)) return {};
     const ModelSetting& setting = *forms_.front().setting;
@@ -105,9 +123,6 @@ class Entry {
     const ModelSetting* const setting = model.Find(saved_.key);
     if (setting != nullptr && setting->Restorable()) forms_.push_back({&model, setting});
   }
-  bool IsShown(const Form& form) const {
-    return texts_.IsShownAs(*form.setting, saved_.value, saved_.text);
-  }
   // A projector may report a value that its list does not have, which is saved with its number.
   bool Passes(const Form& form) const {
     const ModelSetting& setting = *form.setting;
@@ -123,11 +138,16 @@ class Entry {
 }  // namespace
 
 std::vector<std::string> MistakesIn(const Work& work, const ModelSettings& model,
-                                    const ModelSettings* own) {
+                                    InputNames inputs) {
+  const Snapshot& file = work.file.snapshot;
+  const bool isOwn = model.Model().DialogType == file.dialogType &&  //
+                     model.Model().ModelCode == file.modelCode;
+  const auto other = isOwn ? std::nullopt : ModelOf(file, work.profiles);
   std::vector<std::string> mistakes;
   const JsonLines lines(work.file.text);
   const auto tell = [&](const SavedSetting& saved, const QString& path, const std::string& what) {
-    if (what.empty()) return false;
+    constexpr std::size_t kMost = 20;
+    if (what.empty() || mistakes.size() >= kMost) return !what.empty();
     const std::string place =
         work.file.name.toStdString() + ':' + std::to_string(lines.LineOf(path)) + ": ";
     mistakes.push_back(std::string(place).append(saved.key).append(": ").append(what));
@@ -139,14 +159,14 @@ std::vector<std::string> MistakesIn(const Work& work, const ModelSettings& model
       tell(saved, path + ".key", "no model has such a setting" + Advice(saved.key, keys));
       return;
     }
-    if (own == nullptr) return;
-    const Entry entry(work, saved, model, own);
+    // Nobody else knows what the model of the file takes.
+    if (!isOwn && !other) return;
+    const Entry entry(work.texts, saved, model, other ? &*other : nullptr);
     tell(saved, path + ".source", entry.SourceMistake());
     if (!tell(saved, path + ".value", entry.ValueMistake())) {
-      tell(saved, path + ".text", entry.TextMistake());
+      tell(saved, path + ".text", entry.TextMistake(inputs));
     }
   };
-  const Snapshot& file = work.file.snapshot;
   for (std::size_t i = 0; i < file.beforehand.size(); ++i) {
     look(file.beforehand[i], QStringLiteral("beforehand[%1]").arg(i));
   }
@@ -155,4 +175,14 @@ std::vector<std::string> MistakesIn(const Work& work, const ModelSettings& model
     look(file.settings[i], QStringLiteral("settings[%1]").arg(i));
   }
   return mistakes;
+}
+
+Report CheckFile(const Work& work, const ProjectorAccess& projector) {
+  Report report;
+  if (work.arguments.lenient || !projector.TellsInputs()) return report;
+  for (const std::string& mistake :
+       MistakesIn(work, projector.Settings(), InputNames::OfProjector)) {
+    report.Complain(mistake, ExitCode::WrongUse);
+  }
+  return report;
 }

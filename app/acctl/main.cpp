@@ -13,7 +13,7 @@
 #include <QJsonDocument>
 
 #include "app/acctl/Output.h"
-#include "app/acctl/Runner.h"
+#include "app/acctl/Preflight.h"
 #include "app/acctl/Uses.h"
 #include "app/profiles/SettingsFile.h"
 #include "device/Connect.h"
@@ -166,20 +166,32 @@ int RunOnProjectors(const Work& work, const std::vector<const ProjectorProfile*>
   const bool isSaved = arguments.command == Command::Save && arguments.file == "-";
   const bool asJson = arguments.json && arguments.command != Command::Watch && !isSaved;
   QJsonArray json;
+  const auto reach = [&](int number) {
+    const ProjectorProfile& profile = *projectors[static_cast<std::size_t>(number)];
+    return ProjectorAccess(profile, ChannelTo(profile, arguments), arguments.timeOut);
+  };
+  const auto ask = [&](ProjectorAccess& projector, const auto& act) {
+    projector.AskForInputs(InputsNeededBy(work, TargetOf(projector)));
+    if (!projector.Channel().IsGone() || arguments.command == Command::Settings) {
+      return act(work, projector);
+    }
+    Report report;
+    report.Complain(NoAnswerText(projector), ExitCode::NoAnswer);
+    return report;
+  };
+  const auto checked = CheckWords(work, projectors, meter, [&](int number) {
+    ProjectorAccess projector = reach(number);
+    return ask(projector, CheckAsked);
+  });
   RunParallel(
       static_cast<int>(projectors.size()), arguments.jobs, meter,
       [&](int number) {
-        const ProjectorProfile& profile = *projectors[static_cast<std::size_t>(number)];
-        ProjectorAccess projector(profile, ChannelTo(profile, arguments), arguments.timeOut);
-        const bool isListed = arguments.command == Command::Settings;
-        // Keys alone do not depend on the inputs.
-        if (!isListed || !arguments.brief) projector.AskForInputs();
-        if (projector.Channel().IsGone() && !isListed) {
-          Report report;
-          report.Complain(NoAnswerText(projector), ExitCode::NoAnswer);
-          return report;
-        }
-        return run(work, projector);
+        if (const auto& report = checked[static_cast<std::size_t>(number)]) return *report;
+        ProjectorAccess projector = reach(number);
+        Report report = ask(projector, run);
+        // Nothing was sent to this one; but to others, perhaps.
+        if (several && report.code == ExitCode::WrongUse) report.code = ExitCode::Refused;
+        return report;
       },
       [&](int number, Report report) {
         const std::string& name = projectors[static_cast<std::size_t>(number)]->Name;
@@ -230,21 +242,23 @@ int Main(int argc, char* argv[]) {
   const SettingTexts texts(folders, arguments.language.value_or(SystemLanguageId()));
   Work work{.arguments = arguments,
             .texts = texts,
+            .profiles = profiles.projectors,
             .file = {},
             .isInterrupted = [] { return receivedSignal != 0; },
             .step = [] {}};
   if (arguments.command == Command::Diff || arguments.command == Command::Apply) {
-    SnapshotContents contents = ReadSettingsFile(Wide(arguments.file));
-    if (!contents.error.isEmpty()) return Fail(contents.error.toStdString());
-    work.file = std::move(contents.snapshot);
+    work.file = ReadSettingsFile(Wide(arguments.file));
+    if (!work.file.error.isEmpty()) return Fail(work.file.error.toStdString());
+    Snapshot& snapshot = work.file.snapshot;
     for (const std::string& pattern : arguments.only) {
       const bool isNone = std::ranges::none_of(
-          work.file->settings,
+          snapshot.settings,
           [&pattern](const SavedSetting& saved) { return IsLike(saved.key, {pattern}); });
       if (isNone) return Fail("--only " + pattern + ": the file has no such setting");
     }
     // A part of it would be put back under a source or mode that it does not belong to.
-    if (!arguments.only.empty()) work.file->beforehand.clear();
+    if (!arguments.only.empty()) snapshot.beforehand.clear();
+    if (const int code = CheckFile(work, projectors); code != ExitCode::Done) return code;
   }
   WatchSignals();
   return RunOnProjectors(work, projectors);

@@ -51,7 +51,7 @@ QJsonObject Describe(const SettingTexts& texts, const ModelSetting& setting) {
   if (setting.kind == Kind::Choice) {
     QJsonArray entries;
     for (const ListEntry& entry : setting.entries) {
-      entries.append(QJsonObject{{"value", entry.value}, {"text", Wide(texts.Entry(entry))}});
+      entries.append(QJsonObject{{"value", entry.value}, {"text", Wide(texts.Entry(setting, entry))}});
     }
     json["entries"] = entries;
   }

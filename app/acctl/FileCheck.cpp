@@ -49,7 +49,7 @@ std::string Possible(const SettingTexts& texts, const ModelSetting& setting) {
   for (const ListEntry& entry : setting.entries) {
     if (!setting.Allows(entry.value)) continue;
     values.append(values.empty() ? "" : ", ").append(std::to_string(entry.value));
-    values.append(" (").append(texts.Entry(entry)).append(")");
+    values.append(" (").append(texts.Entry(setting, entry)).append(")");
   }
   return values;
 }

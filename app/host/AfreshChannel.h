@@ -34,6 +34,8 @@ class AfreshChannel : public ProjectorChannel {
   void GiveUpAfter(std::chrono::milliseconds time) override { inner_->GiveUpAfter(time); }
   void Abandon() override { inner_->Abandon(); }
   ConnectionState Connection() const override { return inner_->Connection(); }
+  std::optional<SourceList> Inputs() override { return inner_->Inputs(); }
+  std::optional<PowerState> Power() const override { return inner_->Power(); }
 
  private:
   void TryAfresh() {

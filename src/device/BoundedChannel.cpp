@@ -160,6 +160,17 @@ bool BoundedChannel::State::WaitUntil(std::unique_lock<std::mutex>& lock, Wait& 
   return !wait.abandoned && done();
 }
 
+// A channel that throws has told nothing.
+template <typename Value>
+Value BoundedChannel::Told(State& state, Value otherwise, auto ask) {
+  const std::lock_guard lock(state.mutex);
+  try {
+    if (state.inner) return ask(*state.inner);
+  } catch (...) {
+  }
+  return otherwise;
+}
+
 BoundedChannel::BoundedChannel(std::shared_ptr<ProjectorChannel> inner, const Limits& limits)
     : state_(std::make_shared<State>(std::move(inner), limits)) {}
 
@@ -248,19 +259,14 @@ void BoundedChannel::Announce(std::span<const PjtCommand> reads) {
 }
 
 ConnectionState BoundedChannel::Connection() const {
-  const std::lock_guard lock(state_->mutex);
-  try {
-    if (state_->inner) return state_->inner->Connection();
-  } catch (...) {  // as a command that throws has no answer
-  }
-  return ConnectionState::None;
+  return Told(*state_, ConnectionState::None, [](const auto& inner) { return inner.Connection(); });
 }
 
 std::optional<SourceList> BoundedChannel::Inputs() {
-  const std::lock_guard lock(state_->mutex);
-  try {
-    if (state_->inner) return state_->inner->Inputs();
-  } catch (...) {  // likewise
-  }
-  return std::nullopt;
+  return Told(*state_, std::optional<SourceList>(), [](auto& inner) { return inner.Inputs(); });
+}
+
+std::optional<PowerState> BoundedChannel::Power() const {
+  return Told(*state_, std::optional<PowerState>(),
+              [](const auto& inner) { return inner.Power(); });
 }

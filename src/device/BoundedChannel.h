@@ -52,8 +52,12 @@ class ADVANCED_CONTROL_EXPORT BoundedChannel : public ProjectorChannel {
   void Abandon() override;
   ConnectionState Connection() const override;
   std::optional<SourceList> Inputs() override;
+  std::optional<PowerState> Power() const override;
 
  private:
   struct State;
+  template <typename Value>
+  static Value Told(State& state, Value otherwise, auto ask);
+
   std::shared_ptr<State> state_;
 };

@@ -63,6 +63,12 @@ std::optional<SourceList> CPjtInterface::Inputs() const {
   return inputs;
 }
 
+std::optional<PowerState> CPjtInterface::Power() const {
+  std::optional<PowerState> power;
+  if (channel_ && !cutOff_) Guarded([&] { power = channel_->Power(); });
+  return power;
+}
+
 void CPjtInterface::CopyData(int kind, int number, int parameter, const char* text1,
                              const char* text2) {
   connectionKind_ = kind;

@@ -116,6 +116,8 @@ PjLinkChannel::PjLinkChannel(std::string host, int port, std::string password, c
 
 PjLinkChannel::~PjLinkChannel() = default;
 
+bool PjLinkChannel::Has(const PjtCommand& command) { return Find(command) != nullptr; }
+
 PjtReply PjLinkChannel::Execute(const PjtCommand& command) {
   answerTime_ = std::min(limits_.answer, longest_);
   const PjtReply reply = CarryOut(command);

@@ -72,3 +72,23 @@ bool IsRead(PjtOperation operation) {
       return operation == PjtOperation::Get;
   }
 }
+
+bool IsAbsolute(PjtOperation operation) {
+  switch (FamilyOf(operation)) {
+    case OperationFamily::PointerStepper:
+    case OperationFamily::SourceStepper:
+    case OperationFamily::ChannelStepper:
+      return false;
+    default:
+      break;
+  }
+  switch (operation) {
+    case PjtOperation::Inc:
+    case PjtOperation::Dec:
+    case PjtOperation::ExecAutoAdjust:
+    case PjtOperation::ExecAutoKeyStone:
+      return false;
+    default:
+      return true;
+  }
+}

@@ -65,3 +65,7 @@ ADVANCED_CONTROL_EXPORT int RefusedResult(PjtOperation operation);
 
 /// Whether the operation only reads.
 ADVANCED_CONTROL_EXPORT bool IsRead(PjtOperation operation);
+
+/// Whether doing it twice comes to the same as doing it once, whatever the projector has before: of
+/// reads and of changes that name what they lead to. A step does not, nor does an adjustment.
+ADVANCED_CONTROL_EXPORT bool IsAbsolute(PjtOperation operation);

@@ -35,8 +35,12 @@ struct PjtReply {
                          ///< projector cannot have carried it out.
 };
 
+/// What a projector does, where it tells more than the value of its running state says.
+enum class PowerState : std::uint8_t { Standby, On, CoolingDown, WarmingUp };
+
 /// The way to one projector: a real connection, a simulation, or a channel around a channel that
-/// logs, bounds or disturbs. Called from one thread at a time, `Connection` and `Inputs` from any.
+/// logs, bounds or disturbs. Called from one thread at a time; `Connection`, `Inputs` and `Power`
+/// from any.
 class ADVANCED_CONTROL_EXPORT ProjectorChannel {
  public:
   virtual ~ProjectorChannel() = default;
@@ -64,6 +68,10 @@ class ADVANCED_CONTROL_EXPORT ProjectorChannel {
   /// The inputs as the projector itself has told them; nothing as long as it has not. Waits for
   /// nothing: once asked, a channel that can find them out does so when it is idle.
   virtual std::optional<SourceList> Inputs() { return std::nullopt; }
+
+  /// The power state as the projector itself told it last; nothing as long as it has not, or where
+  /// the value of the running state is all that it tells. Waits for nothing.
+  virtual std::optional<PowerState> Power() const { return std::nullopt; }
 
   /// Nobody waits for the projector, which has answered the last command: time for one exchange of
   /// the channel's own. Whether there is more to do. Called on the thread of `Execute`, between two

@@ -78,6 +78,11 @@ bool ModelSetting::SelectsInput() const {
   return list != nullptr && list->send && list->send->code == CommandCode::InputSource;
 }
 
+bool ModelSetting::IsStepped() const {
+  const auto* number = std::get_if<ValueRow>(row);
+  return number != nullptr && number->ids.slider == 0;
+}
+
 bool ModelSetting::Allows(int value) const {
   if (kind == Kind::Choice) return value != placeholder && PositionOf(entries, value) >= 0;
   if (kind == Kind::State) return changeable && (value == 0 || value == 1);
@@ -171,8 +176,9 @@ std::optional<int> ModelSettings::Read(CPjtInterface& projector, const ModelSett
 
 bool ModelSettings::Change(CPjtInterface& projector, const ModelSetting& setting, int value,
                            const Sending& how) const {
-  const auto* number = std::get_if<ValueRow>(setting.row);
-  if (number != nullptr && number->ids.slider == 0) return StepTo(projector, *number, value, how);
+  if (setting.IsStepped()) {
+    return StepTo(projector, std::get<ValueRow>(*setting.row), value, how);
+  }
   const auto* list = std::get_if<ListRow>(setting.row);
   if (list != nullptr && list->rules.tellsText) projector.SettingText = how.text;
   return SendRow(projector, *setting.row, *model_, value, how.source);

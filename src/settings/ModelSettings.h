@@ -43,6 +43,8 @@ struct ModelSetting {
   bool IsPerSource() const { return of != OfSource::None || ofCurrentSourceOnly; }
   /// Whether a change of it changes the projector's input source.
   bool SelectsInput() const;
+  /// Whether it is changed step by step, as it has no setter.
+  bool IsStepped() const;
   /// Whether the row takes this device value.
   bool Allows(int value) const;
 };

@@ -52,6 +52,7 @@ class ADVANCED_CONTROL_EXPORT FaultChannel : public ProjectorChannel {
   void Abandon() override { inner_->Abandon(); }
   ConnectionState Connection() const override { return inner_->Connection(); }
   std::optional<SourceList> Inputs() override { return inner_->Inputs(); }
+  std::optional<PowerState> Power() const override { return inner_->Power(); }
   bool UseIdleTime() override { return inner_->UseIdleTime(); }
 
  private:

@@ -284,35 +284,63 @@ TEST(Restoration, SkipsWhatTheModelDoesNotTakeAndStopsWhenTold) {
                                              NotAllowed, NotAllowed, Changed, Differs));
 }
 
-/// Answers each command after its time, unless it is given up before.
-struct Late : ProjectorChannel {
+/// Leaves each command as it is told to: "a" answers, "l" loses the answer, "u" does not send it;
+/// the last goes on. Everything but "a" takes a time-out where it is in capitals.
+struct Unsteady : ProjectorChannel {
   PjtReply Execute(const PjtCommand&) override {
-    const auto time = std::chrono::milliseconds(times[std::min(count++, times.size() - 1)]);
-    std::this_thread::sleep_for(std::min(time, longest));
-    waited += std::min(time, longest);
-    return {.answered = time <= longest};
+    const char now = does[std::min(count++, does.size() - 1)];
+    if (now == 'L') std::this_thread::sleep_for(timeOut);
+    return {.result = now == 'a', .answered = now == 'a', .unsent = now == 'u'};
   }
-  void GiveUpAfter(std::chrono::milliseconds time) override { longest = time; }
+  void GiveUpAfter(std::chrono::milliseconds time) override { given = time; }
+  void Abandon() override { isAbandoned = true; }
 
-  std::vector<int> times;
+  std::string does;
+  std::chrono::milliseconds timeOut{};
   std::size_t count = 0;
-  std::chrono::milliseconds longest{}, waited{};
+  std::chrono::milliseconds given{};
+  bool isAbandoned = false;
 };
 
-TEST(PatientChannel, AsksAgainWithinOneTimeOut) {
-  constexpr std::chrono::milliseconds kTimeOut{300};
-  const std::pair<std::vector<int>, bool> kCases[] = {
-      {{1, 1000, 1}, true}, {{1, 1000, 1000, 1}, true}, {{200, 280}, true}, {{1, 1000}, false}};
-  for (const auto& [times, isAnswered] : kCases) {
-    const auto late = std::make_shared<Late>();
-    late->times = times;
-    PatientChannel patient(late, kTimeOut);
-    EXPECT_TRUE(patient.Execute({.operation = PjtOperation::GetInputSource}).answered);
-    late->waited = {};
-    EXPECT_EQ(patient.Execute({.operation = PjtOperation::GetInputSource}).answered, isAnswered);
-    EXPECT_EQ(patient.IsGone(), !isAnswered);
-    EXPECT_LE(late->waited, kTimeOut);
+TEST(PatientChannel, AsksAgainWhatIsSafeToAskAndNeverCutsACommandShort) {
+  constexpr std::chrono::milliseconds kTimeOut{500};
+  constexpr PjtCommand kRead{.operation = PjtOperation::GetInputSource};
+  constexpr PjtCommand kChange{.operation = PjtOperation::SetMute, .first = 1};
+  constexpr PjtCommand kStep{PjtOperation::Inc, 0x2001};
+  struct Case {
+    const char* does;  // behind a first answer
+    PjtCommand command;
+    std::size_t times;  // it is sent
+    bool isAnswered, isUnsent, isGone;
+  };
+  const Case kCases[] = {
+      {"lla", kRead, 3, true, false, false},   {"l", kRead, 3, false, false, true},
+      {"L", kRead, 2, false, false, true},     {"la", kChange, 2, true, false, false},
+      {"lla", kChange, 2, false, false, true}, {"lu", kChange, 2, false, false, true},
+      {"la", kStep, 1, false, false, false},   {"ua", kStep, 2, true, false, false},
+      {"u", kStep, 2, false, true, true},      {"La", kRead, 2, true, false, false}};
+  for (const Case& one : kCases) {
+    SCOPED_TRACE(testing::Message() << one.does << ' ' << &one - kCases);
+    const auto inner = std::make_shared<Unsteady>();
+    inner->does = std::string("a") + one.does;
+    inner->timeOut = kTimeOut;
+    PatientChannel patient(inner, kTimeOut);
+    EXPECT_TRUE(patient.Execute(kRead).answered);
+    const PjtReply reply = patient.Execute(one.command);
+    EXPECT_EQ(inner->count, 1 + one.times);
+    EXPECT_EQ(reply.answered, one.isAnswered);
+    EXPECT_EQ(!reply.answered && reply.unsent, one.isUnsent);
+    EXPECT_EQ(patient.IsGone(), one.isGone);
+    EXPECT_EQ(inner->given, std::chrono::milliseconds()) << "its time is its own";
   }
+  const auto dead = std::make_shared<Unsteady>();
+  dead->does = "l";
+  PatientChannel patient(dead, kTimeOut);
+  EXPECT_FALSE(patient.Execute(kRead).answered || patient.Execute(kRead).answered);
+  EXPECT_EQ(dead->count, 1) << "it has never answered";
+  patient.GiveUpAfter(kTimeOut);
+  patient.Abandon();
+  EXPECT_TRUE(dead->given == kTimeOut && dead->isAbandoned) << "all is passed on";
 }
 
 TEST(Snapshot, IsReadAsWrittenAndRefusedWhenWrong) {

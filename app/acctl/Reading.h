@@ -6,6 +6,7 @@
 #include <QJsonArray>
 
 #include "app/acctl/Commands.h"
+#include "app/profiles/Table.h"
 
 /// Settings with their values, for people and for scripts.
 class Values {

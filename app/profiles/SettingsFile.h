@@ -5,10 +5,10 @@
 #include "snapshots/Snapshot.h"
 
 struct SettingsFileContents {
-  Snapshot snapshot;
-  QString name;     ///< Of the file, as messages call it.
-  QByteArray text;  ///< What was read, for the line in which a value stands.
-  QString error;    ///< One line: file, line and what is wrong; empty when all is well.
+  Snapshot snapshot{};
+  QString name{};     ///< Of the file, as messages call it.
+  QByteArray text{};  ///< What was read, for the line in which a value stands.
+  QString error{};    ///< One line: file, line and what is wrong; empty when all is well.
 };
 
 /// Reads a file of saved settings; "-" is standard input.

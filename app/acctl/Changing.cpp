@@ -36,7 +36,7 @@ std::vector<Change> ChangesOf(const Work& work, const Target& target, Report& re
     const ModelSetting* const setting = target.settings.Find(key);
     if (setting == nullptr) {
       complain("this model has no such setting");
-    } else if (target.isPjLink && !kSet.isInPjLink(*setting, target.settings.Model())) {
+    } else if (!target.Carries(kSet, *setting)) {
       complain(kNotInPjLink);
     } else if (target.LacksEntries(*setting)) {
       continue;
@@ -132,15 +132,16 @@ Made Judge(const Work& work, ProjectorAccess& projector, const ModelSetting& set
   if (after.unanswered > before.unanswered) {
     return {"notDone", NoAnswerText(projector), ExitCode::NoAnswer};
   }
-  if (after.busy > before.busy) {
+  if (after.notOffered > before.notOffered) return {"refused", kNotOffered, ExitCode::Refused};
+  const bool isBusy = after.busy > before.busy;
+  if (isBusy || (!accepted && !now)) {
     const char* const rest = RestOf(AskPower(projector));
-    return {"busy", std::string("refused, the projector is ") + (rest ? rest : "busy"),
-            ExitCode::Refused};
+    if (rest != nullptr || isBusy) {
+      return {"busy", std::string("refused, the projector is ") + (rest ? rest : "busy"),
+              ExitCode::Refused};
+    }
   }
-  if (!accepted) {
-    const bool isOffered = after.notOffered == before.notOffered;
-    return {"refused", isOffered ? "refused" + isNow : kNotOffered, ExitCode::Refused};
-  }
+  if (!accepted) return {"refused", "refused" + isNow, ExitCode::Refused};
   if (now) return {"refused", "refused" + isNow, ExitCode::Refused};
   if (!setting.readable) return {"done"};
   const bool isAnswered = projector.Channel().HasAnswered();

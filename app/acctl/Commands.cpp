@@ -120,24 +120,28 @@ Report RunWatch(const Work& work, ProjectorAccess& projector) {
   Report report;
   const auto chosen = Chosen(TargetOf(projector), kRead, work.arguments.words, report);
   const Progress progress = ProgressOf(work, projector);
-  std::map<const ModelSetting*, std::optional<int>> last;
+  std::map<const ModelSetting*, std::pair<std::optional<int>, std::string>> last;
   while (report.code == ExitCode::Done && progress.goesOn()) {
     for (const auto& [setting, source] :
          projector.Settings().PrepareReads(projector.Connection(), chosen)) {
       if (report.code != ExitCode::Done || work.isInterrupted()) break;
       const auto value = projector.Settings().Read(projector.Connection(), *setting, source);
       if (!projector.Channel().HasAnswered()) ComplainOf(*setting, projector, "", report);
-      const auto [known, isNew] = last.try_emplace(setting, value);
-      if (!isNew && known->second == value) continue;
-      known->second = value;
+      const auto power = projector.Connection().Power();
+      // Warming up and on are one value.
+      const std::pair shown{value, value ? work.texts.Value(*setting, *value, power) : ""};
+      const auto [known, isNew] = last.try_emplace(setting, shown);
+      if (!isNew && known->second == shown) continue;
+      known->second = shown;
       if (!value) {
         if (!projector.Channel().HasAnswered()) continue;
-        Complain(projector.Name() + ": " + std::string(setting->key) + ": " +
-                 ReasonOf(projector, kNotReadable));
+        const std::string reason = ReasonOf(projector, kNotReadable);
+        const char* const rest = RestOf(AskPower(projector));
+        Complain(projector.Name() + ": " + std::string(setting->key) + ": " + reason +
+                 (rest != nullptr ? std::string(", the projector is ") + rest : ""));
         continue;
       }
       Table line;
-      const auto power = projector.Connection().Power();
       line.Add(Cells(work.texts, *setting, *value, power));
       const QJsonDocument json(ValueOf(work.texts, *setting, *value, power));
       const std::string text = work.arguments.json

@@ -81,7 +81,7 @@ void TellUnread(const std::vector<std::string>& keys, std::optional<PowerState> 
   for (const std::string& key : keys) unread.append(Wide(key));
   report.json["unread"] = unread;
   if (const char* const rest = RestOf(power)) {
-    report.Complain(std::string(rest) + ", " + what + ": " + Joined(keys), ExitCode::Done);
+    report.Complain(std::string(rest) + ", left out: " + Joined(keys), ExitCode::Done);
     return;
   }
   for (const std::string& key : keys) report.Complain(key + ": " + what, ExitCode::Refused);

@@ -217,15 +217,15 @@ Report RunSave(const Work& work, ProjectorAccess& projector) {
     ComplainIfGone(projector, report);
     return report;
   }
-  const auto isLeftOut = [&work](std::string_view key) {
-    return !IsLike(key, work.arguments.only);
-  };
+  const auto isMeant = [&work](std::string_view key) { return IsLike(key, work.arguments.only); };
   std::erase_if(snapshot.settings,
-                [&](const SavedSetting& setting) { return isLeftOut(setting.key); });
-  std::erase_if(unread, isLeftOut);
+                [&](const SavedSetting& setting) { return !isMeant(setting.key); });
+  std::erase_if(unread, [&](const std::string& key) {
+    return !isMeant(key) || !target.Carries(kKept, *target.settings.Find(key));
+  });
   const ModelSetting* const input = target.settings.Input();
   const bool isInputUnread =
-      input != nullptr && target.LacksEntries(*input) && !isLeftOut(input->key);
+      input != nullptr && target.LacksEntries(*input) && isMeant(input->key);
   const auto power = unread.empty() && !isInputUnread ? std::nullopt : AskPower(projector);
   const bool rests = RestOf(power) != nullptr;
   if (isInputUnread && rests) unread.emplace_back(input->key);

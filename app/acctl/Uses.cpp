@@ -29,6 +29,10 @@ bool IsLike(std::string_view name, const std::vector<std::string>& patterns) {
          });
 }
 
+bool Target::Carries(const Use& use, const ModelSetting& setting) const {
+  return !isPjLink || use.isInPjLink(setting, settings.Model());
+}
+
 bool Target::LacksEntries(const ModelSetting& setting) const {
   return TellsInputs() && setting.kind == ModelSetting::Kind::Choice && setting.entries.empty();
 }
@@ -100,14 +104,11 @@ std::vector<const ModelSetting*> Chosen(const Target& target, const Use& use,
   const auto names = [&use](const std::string& word, const ModelSetting& setting) {
     return setting.key == word || (use.isForPatterns(setting) && IsLike(setting.key, {word}));
   };
-  const auto isCarried = [&](const ModelSetting& setting) {
-    return !target.isPjLink || use.isInPjLink(setting, settings.Model());
-  };
   std::vector<const ModelSetting*> chosen;
   for (const ModelSetting& setting : settings.All()) {
     const auto isNamed = [&](const std::string& word) { return names(word, setting); };
     const bool isMeant = words.empty() || std::ranges::any_of(words, isNamed);
-    if (isMeant && use.isPossible(setting) && isCarried(setting)) chosen.push_back(&setting);
+    if (isMeant && use.isPossible(setting) && target.Carries(use, setting)) chosen.push_back(&setting);
   }
   for (const std::string& word : words) {
     const auto isNamed = [&](const ModelSetting* setting) { return names(word, *setting); };

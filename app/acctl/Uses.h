@@ -16,6 +16,8 @@ inline constexpr const char* kNotInPjLink = "PJLink does not have it";
 /// Whether a name is one of the patterns, or there is none.
 bool IsLike(std::string_view name, const std::vector<std::string>& patterns);
 
+struct Use;
+
 /// What is known of a projector without asking it.
 struct Target {
   const ModelSettings& settings;
@@ -23,6 +25,8 @@ struct Target {
 
   /// Whether the inputs are only known once the projector has told them.
   bool TellsInputs() const { return isPjLink && settings.Model().MySourceList.Size() == 0; }
+  /// Whether the way to it has what a use of the setting needs.
+  bool Carries(const Use& use, const ModelSetting& setting) const;
   /// Whether this is a list of inputs that are still to be told.
   bool LacksEntries(const ModelSetting& setting) const;
 };

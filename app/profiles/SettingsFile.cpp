@@ -13,6 +13,19 @@
 #include "app/profiles/JsonLines.h"
 #include "app/profiles/WholeFile.h"
 
+namespace {
+
+/// "picture.tint: " for the path of a value that is part of this setting; else empty.
+QString KeyAt(const Snapshot& snapshot, const QString& path) {
+  const bool isBeforehand = path.startsWith("beforehand[");
+  if (!isBeforehand && !path.startsWith("settings[")) return {};
+  const auto& settings = isBeforehand ? snapshot.beforehand : snapshot.settings;
+  const auto index = path.section('[', 1).section(']', 0, 0).toULongLong();
+  return index < settings.size() ? QString::fromStdString(settings[index].key) + ": " : QString();
+}
+
+}  // namespace
+
 SettingsFileContents ReadSettingsFile(const QString& path) {
   QFile file(path);
   const bool isOpen = path == "-" ? file.open(stdin, QIODevice::ReadOnly)  //
@@ -21,7 +34,10 @@ SettingsFileContents ReadSettingsFile(const QString& path) {
     return {.error = QCoreApplication::translate("SettingsFile", "cannot read %1: %2")
                          .arg(path, file.errorString())};
   }
-  return ParseSettingsFile(file.read(JsonLines::kMaximumBytes + 1), path);
+  const bool isStream = path == "-";
+  return ParseSettingsFile(
+      file.read(JsonLines::kMaximumBytes + 1),
+      isStream ? QCoreApplication::translate("SettingsFile", "standard input") : path);
 }
 
 SettingsFileContents ParseSettingsFile(const QByteArray& text, const QString& name) {
@@ -43,7 +59,7 @@ SettingsFileContents ParseSettingsFile(const QByteArray& text, const QString& na
   if (!read.error.isEmpty()) return wrong(lines.LineOf(read.path), read.error);
   if (const auto twice = lines.RepeatedKey()) {
     const QString what = QCoreApplication::translate("SettingsFile", "%1 stands here twice");
-    return wrong(twice->line, what.arg(twice->path));
+    return wrong(twice->line, KeyAt(read.snapshot, twice->path) + what.arg(twice->path));
   }
   contents.snapshot = std::move(read.snapshot);
   return contents;

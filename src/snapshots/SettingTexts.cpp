@@ -31,6 +31,11 @@ bool SameText(std::string_view a, std::string_view b) {
   return Wide(a).compare(Wide(b).trimmed(), Qt::CaseInsensitive) == 0;
 }
 
+bool IsPower(const ModelSetting& setting) {
+  const auto* const state = std::get_if<StateRow>(setting.row);
+  return state != nullptr && state->read.code == CommandCode::RunningState;
+}
+
 bool IsNameShared(const ModelSetting& setting, const ListEntry& entry) {
   return !entry.text && !entry.name.empty() &&
          std::ranges::any_of(setting.entries, [&entry](const ListEntry& other) {
@@ -112,12 +117,10 @@ std::string SettingTexts::Value(const ModelSetting& setting, int value,
                                 std::optional<PowerState> power) const {
   constexpr int kOn = 1;
   constexpr int kCoolingDown = 2;
-  const auto* const state = std::get_if<StateRow>(setting.row);
-  const bool isPower = state != nullptr && state->read.code == CommandCode::RunningState;
-  if (isPower && power == PowerState::WarmingUp && value == kOn) {
+  if (IsPower(setting) && power == PowerState::WarmingUp && value == kOn) {
     return Text(kListCategory, ListText::PowerWarmingUp);
   }
-  if (isPower && value != kOn && value != kCoolingDown) {
+  if (IsPower(setting) && value != kOn && value != kCoolingDown) {
     return Text(kListCategory, ListText::PowerStandby);
   }
   return Value(setting, value);
@@ -160,6 +163,7 @@ std::optional<TypedValue> SettingTexts::Parse(const ModelSetting& setting,
                                                    : Is(entry, text);
     if (isIt) return TypedValue{entry.value};
   }
+  if (IsPower(setting) && Is(ListEntry(ListText::PowerStandby), text)) return TypedValue{0};
   const bool absolute = text.starts_with('=');
   const bool relative = text.starts_with('+') || text.starts_with('-');
   const auto number = Number(absolute ? text.substr(1) : text);

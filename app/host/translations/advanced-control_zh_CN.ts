@@ -1105,6 +1105,10 @@
         <translation>无法读取 %1：%2</translation>
     </message>
     <message>
+        <source>standard input</source>
+        <translation>标准输入</translation>
+    </message>
+    <message>
         <source>%1 stands here twice</source>
         <translation>%1 在此重复出现</translation>
     </message>

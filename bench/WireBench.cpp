@@ -11,6 +11,7 @@
 #include "bench/BenchSupport.h"
 #include "bench/Relay.h"
 #include "device/BoundedChannel.h"
+#include "device/ForwardingChannel.h"
 #include "device/ModelDataIntake.h"
 #include "device/TcpChannel.h"
 #include "host/CAdvanceDlg.h"
@@ -59,19 +60,19 @@ class FarProjector {
 
 /// Counts commands, tells when the first was given, and keeps announcements to itself unless they
 /// are wanted.
-class Counting final : public ProjectorChannel {
+class Counting final : public ForwardingChannel {
  public:
   Counting(std::shared_ptr<ProjectorChannel> inner, bool announces)
-      : inner_(std::move(inner)), announces_(announces) {}
+      : ForwardingChannel(std::move(inner)), announces_(announces) {}
 
   PjtReply Execute(const PjtCommand& command) override {
     if (answered + unanswered == 0) start = Clock::now();
-    const PjtReply reply = inner_->Execute(command);
+    const PjtReply reply = Inner().Execute(command);
     ++(reply.answered ? answered : unanswered);
     return reply;
   }
   void Announce(std::span<const PjtCommand> reads) override {
-    if (announces_) inner_->Announce(reads);
+    if (announces_) Inner().Announce(reads);
   }
 
   int answered = 0;
@@ -79,7 +80,6 @@ class Counting final : public ProjectorChannel {
   Clock::time_point start{};
 
  private:
-  const std::shared_ptr<ProjectorChannel> inner_;
   const bool announces_;
 };
 

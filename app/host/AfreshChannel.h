@@ -7,42 +7,39 @@
 
 #include "app/host/ProjectorSession.h"
 #include "app/profiles/ProjectorAccess.h"
+#include "device/ForwardingChannel.h"
 
 /// A session's channel as work on many settings needs it: a command after an unanswered one is
 /// really sent, where the session spares a projector that was silent just now. Once `goesOn` says
 /// no, it is not.
-class AfreshChannel : public ProjectorChannel {
+class AfreshChannel : public ForwardingChannel {
  public:
   AfreshChannel(const ProjectorSession& session, std::function<bool()> goesOn)
-      : inner_(session.Channel()), timeOut_(session.Bounds().timeOut), goesOn_(std::move(goesOn)) {}
+      : ForwardingChannel(session.Channel()),
+        timeOut_(session.Bounds().timeOut),
+        goesOn_(std::move(goesOn)) {}
 
   // Others who use the session's channel have its own time.
-  ~AfreshChannel() override { inner_->GiveUpAfter(timeOut_); }
+  ~AfreshChannel() override { Inner().GiveUpAfter(timeOut_); }
   AfreshChannel(const AfreshChannel&) = delete;
   AfreshChannel& operator=(const AfreshChannel&) = delete;
 
   PjtReply Execute(const PjtCommand& command) override {
     TryAfresh();
-    const PjtReply reply = inner_->Execute(command);
+    const PjtReply reply = Inner().Execute(command);
     silent_ = !reply.answered;
     return reply;
   }
   void Announce(std::span<const PjtCommand> reads) override {
     TryAfresh();
-    inner_->Announce(reads);
+    Inner().Announce(reads);
   }
-  void GiveUpAfter(std::chrono::milliseconds time) override { inner_->GiveUpAfter(time); }
-  void Abandon() override { inner_->Abandon(); }
-  ConnectionState Connection() const override { return inner_->Connection(); }
-  std::optional<SourceList> Inputs() override { return inner_->Inputs(); }
-  std::optional<PowerState> Power() const override { return inner_->Power(); }
 
  private:
   void TryAfresh() {
-    if (std::exchange(silent_, false) && goesOn_()) inner_->Abandon();
+    if (std::exchange(silent_, false) && goesOn_()) Inner().Abandon();
   }
 
-  std::shared_ptr<ProjectorChannel> inner_;
   std::chrono::milliseconds timeOut_;
   std::function<bool()> goesOn_;
   bool silent_ = true;  // it may have been so to others

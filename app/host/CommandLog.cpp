@@ -35,7 +35,7 @@ constexpr auto kGatherTime = std::chrono::milliseconds(40);
 // Widest usual text of each column.
 constexpr std::array<const char*, CommandLogModel::ColumnCount> kWidthSamples{
     "00:00:00.000", "Projector 5-30 b", "Get User Gamma Point 8 0x30B1 ",
-    "0xFFFF",       "no answer",        "2000.0"};
+    "0xFFFF",       "not done yet",     "2000.0"};
 
 QToolButton* ButtonOf(QAction* action) {
   action->setIconText(WithoutMnemonic(action->text()));

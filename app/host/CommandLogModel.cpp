@@ -39,14 +39,29 @@ EntryTexts Describe(const CommandLogModel::Entry& entry) {
     texts.command = texts.command.left(open).trimmed();
   }
   if (outcome.startsWith(QStringLiteral(" = "))) texts.value = outcome.mid(3);
-  if (!entry.setting.isEmpty() && FamilyOf(entry.command.operation) == OperationFamily::Generic) {
+  if (!entry.setting.isEmpty() && FormOf(entry.command.operation).isGeneric) {
     texts.command.insert(texts.command.indexOf(QLatin1Char(' ')), QLatin1Char(' ') + entry.setting);
   }
   return texts;
 }
 
-bool Failed(const CommandLogModel::Entry& entry) {
-  return !entry.reply.answered || !IsSuccess(entry.command.operation, entry.reply.result);
+/// What became of a command, with its text and whether that is a failure.
+struct Outcome {
+  const char* text;
+  bool failed;
+};
+
+Outcome OutcomeOf(const CommandLogModel::Entry& entry) {
+  const PjtReply& reply = entry.reply;
+  if (reply.abandoned) return {QT_TRANSLATE_NOOP("CommandLogModel", "left"), false};
+  if (!reply.answered) return {QT_TRANSLATE_NOOP("CommandLogModel", "no answer"), true};
+  if (reply.busy) return {QT_TRANSLATE_NOOP("CommandLogModel", "busy"), true};
+  if (!reply.offered) return {QT_TRANSLATE_NOOP("CommandLogModel", "not offered"), true};
+  if (!IsSuccess(entry.command.operation, reply.result)) {
+    return {QT_TRANSLATE_NOOP("CommandLogModel", "refused"), true};
+  }
+  if (reply.pending) return {QT_TRANSLATE_NOOP("CommandLogModel", "not done yet"), false};
+  return {QT_TRANSLATE_NOOP("CommandLogModel", "ok"), false};
 }
 
 QColor FailureColor() {
@@ -96,7 +111,7 @@ int CommandLogModel::columnCount(const QModelIndex& parent) const {
 QVariant CommandLogModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
   const Entry& entry = entries_[static_cast<std::size_t>(index.row())];
-  if (role == Qt::ForegroundRole && index.column() == Result && Failed(entry)) {
+  if (role == Qt::ForegroundRole && index.column() == Result && OutcomeOf(entry).failed) {
     return QBrush(FailureColor());
   }
   if (role != Qt::DisplayRole) return {};
@@ -110,7 +125,7 @@ QVariant CommandLogModel::data(const QModelIndex& index, int role) const {
     case Value:
       return Describe(entry).value;
     case Result:
-      return !Failed(entry) ? tr("ok") : entry.reply.answered ? tr("refused") : tr("no answer");
+      return tr(OutcomeOf(entry).text);
     case Duration:
       return QString::number(static_cast<double>(entry.elapsed.count()) / 1000.0, 'f', 1);
     default:

@@ -212,7 +212,7 @@ void FaultPanel::FillTargets() {
   }
   for (std::size_t i = 0; i < kOperationCount; ++i) {
     const auto operation = static_cast<PjtOperation>(i);
-    const bool generic = FamilyOf(operation) == OperationFamily::Generic;
+    const bool generic = FormOf(operation).isGeneric;
     add(Text(OperationName(operation)) + (generic ? tr(" (any code)") : QString()), operation);
   }
   target_->setEditable(true);

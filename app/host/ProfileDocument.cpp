@@ -6,8 +6,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
-#include "app/profiles/WholeFile.h"
-
 namespace {
 
 const JsonEdit::Path kProjectors{"projectors"};
@@ -34,7 +32,7 @@ QString ProfileDocument::SaveAs(const QString& fileName) {
   if (QFileInfo::exists(fileName) && QFileInfo(fileName) == QFileInfo(fileName_)) {
     if (QString error = ChangedMeanwhile(); !error.isEmpty()) return error;
   }
-  if (QString error = WriteWholeFile(fileName, text_); !error.isEmpty()) return error;
+  if (QString error = WriteProfileText(fileName, text_); !error.isEmpty()) return error;
   fileName_ = fileName;
   return {};
 }
@@ -89,7 +87,7 @@ QString ProfileDocument::Write(const QByteArray& text) {
   ProfileFileContents contents = ParseProfiles(text, fileName_);
   if (!contents.error.isEmpty()) return contents.error;
   if (QString error = ChangedMeanwhile(); !error.isEmpty()) return error;
-  if (QString error = WriteWholeFile(fileName_, text); !error.isEmpty()) return error;
+  if (QString error = WriteProfileText(fileName_, text); !error.isEmpty()) return error;
   text_ = text;
   file_ = QJsonDocument::fromJson(text_).object();
   projectors_ = std::move(contents.projectors);

@@ -11,8 +11,19 @@ ProjectorSession::ProjectorSession(ProjectorProfile profile, LoggingChannel::Obs
     : profile_(std::move(profile)),
       simulator_(std::make_shared<SimulatedProjector>(SimulatedModelOf(profile_))),
       faultChannel_(std::make_shared<FaultChannel>(MakeWay())),
+      lastAnswer_(std::make_shared<std::optional<Clock::time_point>>()),
       channel_(std::make_shared<LoggingChannel>(
-          std::make_shared<BoundedChannel>(faultChannel_, Bounds()), std::move(observer))) {}
+          std::make_shared<BoundedChannel>(faultChannel_, Bounds()),
+          [lastAnswer = lastAnswer_, tell = std::move(observer)](
+              const PjtCommand& command, const PjtReply& reply, std::chrono::microseconds elapsed) {
+            if (reply.answered) *lastAnswer = Clock::now();
+            if (tell) tell(command, reply, elapsed);
+          })) {}
+
+std::optional<std::chrono::seconds> ProjectorSession::SinceAnswer() const {
+  if (!*lastAnswer_) return std::nullopt;
+  return std::chrono::floor<std::chrono::seconds>(Clock::now() - **lastAnswer_);
+}
 
 std::shared_ptr<ProjectorChannel> ProjectorSession::MakeWay() {
   if (profile_.Link == ProjectorLink::Simulated) return simulator_;

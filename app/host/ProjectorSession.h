@@ -1,8 +1,10 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
 #include <variant>
 #include <vector>
 
@@ -38,6 +40,8 @@ class ProjectorSession {
 
   /// How the connection stands; of a simulated projector `ConnectionState::None`.
   ConnectionState Connection() const { return channel_->Connection(); }
+  /// How long ago the projector answered a command last; nothing when it never has.
+  std::optional<std::chrono::seconds> SinceAnswer() const;
 
   /// `Fault::Kind::None` takes the fault back.
   void SetFault(const FaultTarget& target, const Fault& fault);
@@ -48,11 +52,14 @@ class ProjectorSession {
   std::unique_ptr<CAdvanceDlg> MakeDialog() const;
 
  private:
+  using Clock = std::chrono::steady_clock;
+
   std::shared_ptr<ProjectorChannel> MakeWay();
 
   ProjectorProfile profile_;
   std::shared_ptr<SimulatedProjector> simulator_;
   std::shared_ptr<FaultChannel> faultChannel_;
+  std::shared_ptr<std::optional<Clock::time_point>> lastAnswer_;
   std::shared_ptr<ProjectorChannel> channel_;
   std::map<FaultTarget, Fault> faults_;
 };

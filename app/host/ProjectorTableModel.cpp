@@ -20,6 +20,7 @@ constexpr std::array<const char*, ProjectorTableModel::ColumnCount> kTitles{
     QT_TRANSLATE_NOOP("ProjectorTableModel", "Connection")};
 
 constexpr auto kUpdateInterval = std::chrono::milliseconds(300);
+constexpr std::chrono::seconds kLongAgo{10};
 
 const char* ConnectionName(ConnectionState state) {
   switch (state) {
@@ -51,6 +52,10 @@ const char* ConnectionName(ConnectionState state) {
   return "";
 }
 
+QString ConnectionTold(const ProjectorSession& session) {
+  return ConnectionTold(session.Connection(), session.SinceAnswer());
+}
+
 bool HasRows(PageId page, int modelCode) {
   const PageTable& table = TableOf(page);
   for (std::size_t row = 0; row < table.rows.size(); ++row) {
@@ -61,6 +66,24 @@ bool HasRows(PageId page, int modelCode) {
 }
 
 }  // namespace
+
+QString ConnectionTold(ConnectionState state, std::optional<std::chrono::seconds> sinceAnswer) {
+  using std::chrono::floor;
+  const QString text = ProjectorTableModel::tr(ConnectionName(state));
+  const bool isWell = state == ConnectionState::Connected || state == ConnectionState::Unused;
+  if (!isWell || !sinceAnswer || *sinceAnswer < kLongAgo) return text;
+  const auto answered = [&]<class Unit>(const QString& told, Unit step) {
+    const auto count = floor<Unit>(*sinceAnswer).count() / step.count() * step.count();
+    return text + QStringLiteral(" · ") + told.arg(count);
+  };
+  if (*sinceAnswer < std::chrono::minutes(1)) {
+    return answered(ProjectorTableModel::tr("answered %1 s ago"), kLongAgo);
+  }
+  if (*sinceAnswer < std::chrono::hours(1)) {
+    return answered(ProjectorTableModel::tr("answered %1 min ago"), std::chrono::minutes(1));
+  }
+  return answered(ProjectorTableModel::tr("answered %1 h ago"), std::chrono::hours(1));
+}
 
 QStringList TabNames(const CModelInfo2& model) {
   QStringList names{CatalogString(kCaptionCategory, Caption::TabStatus)};
@@ -87,9 +110,10 @@ void ProjectorTableModel::SetSessions(Sessions sessions) {
   beginResetModel();
   sessions_ = std::move(sessions);
   connections_.clear();
-  for (const auto& session : sessions_) connections_.push_back(session->Connection());
-  const auto isSimulated = [](ConnectionState state) { return state == ConnectionState::None; };
-  if (std::ranges::all_of(connections_, isSimulated)) {
+  for (const auto& session : sessions_) connections_ += ConnectionTold(*session);
+  if (std::ranges::all_of(sessions_, [](const auto& session) {
+        return session->Connection() == ConnectionState::None;
+      })) {
     update_.stop();
   } else {
     update_.start();
@@ -110,8 +134,8 @@ void ProjectorTableModel::SetState(const ProjectorSession* session, const QStrin
 
 void ProjectorTableModel::UpdateConnections() {
   for (std::size_t row = 0; row < sessions_.size(); ++row) {
-    const ConnectionState now = sessions_[row]->Connection();
-    if (std::exchange(connections_[row], now) != now) StateChanged(row);
+    const QString now = ConnectionTold(*sessions_[row]);
+    if (std::exchange(connections_[static_cast<qsizetype>(row)], now) != now) StateChanged(row);
   }
 }
 
@@ -150,8 +174,7 @@ QVariant ProjectorTableModel::data(const QModelIndex& index, int role) const {
       return ConnectionText(profile.Model);
     case State: {
       const auto state = states_.find(session);
-      const QString connection =
-          tr(ConnectionName(connections_[static_cast<std::size_t>(index.row())]));
+      const QString& connection = connections_[index.row()];
       return state == states_.end() || state->second.isEmpty()
                  ? connection
                  : state->second + QStringLiteral(" · ") + connection;

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <chrono>
 #include <map>
+#include <optional>
 #include <vector>
 
 #include <QAbstractTableModel>
@@ -13,6 +15,10 @@ QStringList TabNames(const CModelInfo2& model);
 
 /// Whether every tab that the model's dialog shows has a setting on it.
 bool HasRowsOnEveryTab(const CModelInfo2& model);
+
+/// How a connection stands, and, where none is wrong, when the projector answered last if that is
+/// long ago: in steps of ten seconds, then of minutes, then of hours.
+QString ConnectionTold(ConnectionState state, std::optional<std::chrono::seconds> sinceAnswer);
 
 /// The projectors in the order of their file.
 class ProjectorTableModel : public QAbstractTableModel {
@@ -45,7 +51,7 @@ class ProjectorTableModel : public QAbstractTableModel {
   void StateChanged(std::size_t row);
 
   Sessions sessions_;
-  std::vector<ConnectionState> connections_;  // as shown, of each session
+  QStringList connections_;  // as shown, of each session
   QTimer update_;
   std::map<const ProjectorSession*, QString> states_;
 };

@@ -103,10 +103,16 @@ void ProjectorView::SetSessions(ProjectorTableModel::Sessions sessions) {
     for (int column = 0; column + 1 < ProjectorTableModel::ColumnCount; ++column) {
       table_->setColumnWidth(column, table_->columnWidth(column) + kColumnGap);
     }
-    // It grows while a dialog is open.
-    const int open = table_->fontMetrics().horizontalAdvance(tr("Open") + QStringLiteral(" · "));
-    table_->setColumnWidth(ProjectorTableModel::State,
-                           table_->columnWidth(ProjectorTableModel::State) + open);
+    // It grows while a dialog is open, and when a real projector has not been asked for long.
+    const bool isSimulated = std::ranges::all_of(model_->All(), [](const auto& session) {
+      return session->Connection() == ConnectionState::None;
+    });
+    const QString state = ConnectionTold(
+        isSimulated ? ConnectionState::None : ConnectionState::Connected, std::chrono::seconds(50));
+    table_->setColumnWidth(
+        ProjectorTableModel::State,
+        table_->fontMetrics().horizontalAdvance(tr("Open") + QStringLiteral(" · ") + state) +
+            4 * kColumnGap);
   }
   const auto& all = model_->All();
   const auto same = std::ranges::find_if(

@@ -31,7 +31,7 @@ class RowNames {
   void Add(int caption, std::initializer_list<std::optional<Call>> calls) {
     if (caption == 0) return;
     for (const std::optional<Call>& call : calls) {
-      if (!call || FamilyOf(call->operation) != OperationFamily::Generic) continue;
+      if (!call || !FormOf(call->operation).isGeneric) continue;
       if (QString& name = names_[call->code]; name.isEmpty()) {
         name = CatalogString(kCaptionCategory, caption);
       }

@@ -17,7 +17,7 @@ PjtReply PatientChannel::Execute(const PjtCommand& command) {
       std::this_thread::sleep_until(asked + kPause);
     }
     asked = Clock::now();
-    last_ = inner_->Execute(command);
+    last_ = Inner().Execute(command);
     wasSent = wasSent || last_.answered || !last_.unsent;
     if (last_.answered) break;
   }

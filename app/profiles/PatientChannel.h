@@ -2,11 +2,9 @@
 
 #include <chrono>
 #include <memory>
-#include <optional>
-#include <span>
 #include <utility>
 
-#include "device/ProjectorChannel.h"
+#include "device/ForwardingChannel.h"
 
 /// Asks again where an answer got lost, and knows when a projector is gone: one that has never
 /// answered is after the first command, any other after the last repetition. Then every command is
@@ -16,7 +14,7 @@
 /// change that is absolute up to twice, any other only once, unless it never left. A repetition
 /// begins only within two time-outs, so that a projector that falls silent costs two of them and
 /// not one per command.
-class PatientChannel : public ProjectorChannel {
+class PatientChannel : public ForwardingChannel {
  public:
   static constexpr int kReadAttempts = 3;
   static constexpr int kChangeAttempts = 2;
@@ -24,18 +22,11 @@ class PatientChannel : public ProjectorChannel {
 
   /// `timeOut` is that of the channel behind, for one answer.
   PatientChannel(std::shared_ptr<ProjectorChannel> inner, std::chrono::milliseconds timeOut)
-      : inner_(std::move(inner)),
+      : ForwardingChannel(std::move(inner)),
         timeOut_(timeOut),
-        everAnswered_(inner_->Connection() == ConnectionState::Connected) {}
+        everAnswered_(Connection() == ConnectionState::Connected) {}
 
   PjtReply Execute(const PjtCommand& command) override;
-  void Announce(std::span<const PjtCommand> reads) override { inner_->Announce(reads); }
-  void GiveUpAfter(std::chrono::milliseconds time) override { inner_->GiveUpAfter(time); }
-  void Abandon() override { inner_->Abandon(); }
-  ConnectionState Connection() const override { return inner_->Connection(); }
-  std::optional<SourceList> Inputs() override { return inner_->Inputs(); }
-  std::optional<PowerState> Power() const override { return inner_->Power(); }
-  bool UseIdleTime() override { return inner_->UseIdleTime(); }
 
   bool IsGone() const { return gone_; }
   /// The reply to the last command; before the first one that says nothing wrong.
@@ -46,7 +37,6 @@ class PatientChannel : public ProjectorChannel {
   bool IsOffered() const { return last_.offered; }
 
  private:
-  std::shared_ptr<ProjectorChannel> inner_;
   const std::chrono::milliseconds timeOut_;
   bool everAnswered_;
   bool gone_ = false;

@@ -8,8 +8,13 @@
 namespace {
 
 // Unbuffered: what is still in a buffer when the file is committed may get lost unnoticed.
-bool OpenAndWrite(QFileDevice& file, const QByteArray& bytes) {
+bool OpenAndWrite(QFileDevice& file, const QByteArray& bytes, FileAccess access) {
   if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) return false;
+  // Before there is anything to read.
+  if (access == FileAccess::OwnerOnly &&
+      !file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner)) {
+    return false;
+  }
   qsizetype written = 0;
   while (written < bytes.size()) {  // a disk that fills up takes a part first
     const qint64 part = file.write(bytes.constData() + written, bytes.size() - written);
@@ -44,13 +49,13 @@ QString Numbered(const QString& path, int number) {
 
 }  // namespace
 
-QString WriteWholeFile(const QString& path, const QByteArray& bytes) {
+QString WriteWholeFile(const QString& path, const QByteArray& bytes, FileAccess access) {
   if (IsDevice(path)) {
     QFile device(path);
-    return OpenAndWrite(device, bytes) ? QString() : CannotWrite(device);
+    return OpenAndWrite(device, bytes, FileAccess::Kept) ? QString() : CannotWrite(device);
   }
   QSaveFile file(path);
-  return OpenAndWrite(file, bytes) && file.commit() ? QString() : CannotWrite(file);
+  return OpenAndWrite(file, bytes, access) && file.commit() ? QString() : CannotWrite(file);
 }
 
 QString CheckWholeFile(const QString& path) {

@@ -3,9 +3,16 @@
 #include <QByteArray>
 #include <QString>
 
+/// Who may read a file that is written.
+enum class FileAccess {
+  Kept,       ///< As the file that is there; a new one as the process has it (umask).
+  OwnerOnly,  ///< Nobody else, whatever the file that is there says: for passwords.
+};
+
 /// Writes a file as a whole, or leaves the one that is there untouched; a device or a pipe is
 /// written to, and never replaced. One line that says what is wrong; empty when all is well.
-QString WriteWholeFile(const QString& path, const QByteArray& bytes);
+QString WriteWholeFile(const QString& path, const QByteArray& bytes,
+                       FileAccess access = FileAccess::Kept);
 
 /// Says whether a file could be written there, in the same way; changes nothing.
 QString CheckWholeFile(const QString& path);

@@ -52,6 +52,15 @@ bool SpendIdleTime(ProjectorChannel& channel) {
   }
 }
 
+bool Tend(ProjectorChannel& channel, Clock::time_point lastUse) {
+  try {
+    return channel.TendConnection(
+        std::chrono::floor<std::chrono::milliseconds>(Clock::now() - lastUse));
+  } catch (...) {  // likewise
+    return false;
+  }
+}
+
 bool HasEventLoop() {
   return QCoreApplication::instance() && QAbstractEventDispatcher::instance() != nullptr;
 }
@@ -108,11 +117,18 @@ void BoundedChannel::State::Work() {
   std::unique_lock lock(mutex);
   const auto isCalled = [this] { return ended || command; };
   bool hasMoreToDo = false;
+  bool isConnected = false;
+  Clock::time_point lastUse;
   while (true) {
-    while (hasMoreToDo && !commandGiven.wait_for(lock, limits.idle, isCalled)) {
+    while ((hasMoreToDo || isConnected) &&
+           !commandGiven.wait_for(lock, hasMoreToDo ? limits.idle : limits.tend, isCalled)) {
       usesIdleTime = true;
       lock.unlock();
-      hasMoreToDo = SpendIdleTime(*inner);
+      if (hasMoreToDo) {
+        hasMoreToDo = SpendIdleTime(*inner);
+      } else {
+        isConnected = Tend(*inner, lastUse);
+      }
       lock.lock();
       usesIdleTime = false;
     }
@@ -130,6 +146,8 @@ void BoundedChannel::State::Work() {
     lock.lock();
     outstanding = false;
     hasMoreToDo = answer.answered;
+    isConnected = true;  // as far as is known
+    lastUse = Clock::now();
     if (Wait* to = std::exchange(recipient, nullptr)) to->reply = answer;
     WakeUp();
   }
@@ -232,7 +250,9 @@ PjtReply BoundedChannel::Execute(const PjtCommand& command) {
     state->silentUntil =
         state->lastReturn + (isQuick ? std::min(pause, kRetryAfterQuickFailure) : pause);
   }
-  return wait.reply.value_or(Unanswered(command));
+  PjtReply reply = wait.reply.value_or(Unanswered(command));
+  reply.abandoned = wait.abandoned;
+  return reply;
 }
 
 void BoundedChannel::GiveUpAfter(std::chrono::milliseconds time) {

@@ -200,7 +200,9 @@ short CPjtInterface::ExecuteFor(const PjtCommand& command, short otherwise) cons
   short CPjtInterface::name(int channel, short value) {            \
     return ExecuteFor({Op::name, 0, Word(channel), value}, value); \
   }
-#define PJT_FORM_Generic(name)
+#define PJT_FORM_GenericGetter(name)
+#define PJT_FORM_GenericSetter(name)
+#define PJT_FORM_GenericStepper(name)
 #define PJT_OPERATION(name, family, number) PJT_FORM_##family(name)
 #include "device/PjtOperations.def"
 

@@ -99,7 +99,9 @@ class ADVANCED_CONTROL_EXPORT CPjtInterface {
 #define PJT_FORM_DirectGetter(name) short name();          // 0 when the read fails.
 #define PJT_FORM_PointGetter(name) short name(int point);  // 0 when the read fails.
 #define PJT_FORM_ChannelStepper(name) short name(int channel, short value);  // `value` if refused.
-#define PJT_FORM_Generic(name)
+#define PJT_FORM_GenericGetter(name)
+#define PJT_FORM_GenericSetter(name)
+#define PJT_FORM_GenericStepper(name)
 #define PJT_OPERATION(name, family, number) PJT_FORM_##family(name)
 #include "device/PjtOperations.def"
 #undef PJT_FORM_Action
@@ -120,7 +122,9 @@ class ADVANCED_CONTROL_EXPORT CPjtInterface {
 #undef PJT_FORM_DirectGetter
 #undef PJT_FORM_PointGetter
 #undef PJT_FORM_ChannelStepper
-#undef PJT_FORM_Generic
+#undef PJT_FORM_GenericGetter
+#undef PJT_FORM_GenericSetter
+#undef PJT_FORM_GenericStepper
 
   /// The same steps with the caller's value instead of a pointer: the new value, or `value` when
   /// the projector refused.

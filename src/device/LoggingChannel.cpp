@@ -11,41 +11,17 @@ std::string Hexadecimal(unsigned value, int digits) {
 }
 
 std::string Arguments(const PjtCommand& command) {
-  switch (FamilyOf(command.operation)) {
-    case OperationFamily::Action:
-    case OperationFamily::CheckedReset:
-    case OperationFamily::SilentAction:
-    case OperationFamily::PointerGetter:
-    case OperationFamily::DirectGetter:
-      return "";
-    case OperationFamily::FlaggedSetter:
-    case OperationFamily::SilentFlaggedSetter:
-    case OperationFamily::SourceSetter:
-    case OperationFamily::ShortSourceSetter:
-    case OperationFamily::ChannelStepper:
-      return std::to_string(command.first) + ", " + std::to_string(command.second);
-    default:
-      return std::to_string(command.first);
-  }
-}
-
-/// Whether a successful reply carries a value.
-bool Yields(PjtOperation operation) {
-  switch (FamilyOf(operation)) {
-    case OperationFamily::PointerStepper:
-    case OperationFamily::SourceStepper:
-    case OperationFamily::ChannelStepper:
-      return true;
-    default:
-      return IsRead(operation);
-  }
+  const OperationForm& form = FormOf(command.operation);
+  if (form.first == Argument::None) return "";
+  const std::string first = std::to_string(command.first);
+  return form.second == Argument::None ? first : first + ", " + std::to_string(command.second);
 }
 
 }  // namespace
 
 PjtReply LoggingChannel::Execute(const PjtCommand& command) {
   const auto start = std::chrono::steady_clock::now();
-  const PjtReply reply = inner_->Execute(command);
+  const PjtReply reply = Inner().Execute(command);
   const auto elapsed = std::chrono::duration_cast<std::chrono::microseconds>(
       std::chrono::steady_clock::now() - start);
   if (observer_) observer_(command, reply, elapsed);
@@ -53,11 +29,11 @@ PjtReply LoggingChannel::Execute(const PjtCommand& command) {
 }
 
 std::string FormatCommand(const PjtCommand& command, const PjtReply* reply) {
-  const bool generic = FamilyOf(command.operation) == OperationFamily::Generic;
+  const OperationForm& form = FormOf(command.operation);
   std::string text(OperationName(command.operation));
-  if (generic) {
+  if (form.isGeneric) {
     text += ' ' + Hexadecimal(command.code, 4);
-    if (command.operation == PjtOperation::Set) {
+    if (form.first == Argument::Value) {
       text += " (" + Hexadecimal(static_cast<std::uint16_t>(command.first), 2) + ')';
     }
   } else {
@@ -67,7 +43,7 @@ std::string FormatCommand(const PjtCommand& command, const PjtReply* reply) {
   if (!reply->answered) return text + " no answer";
   if (!reply->offered) return text + " not offered";
   if (!IsSuccess(command.operation, reply->result)) return text + " refused";
-  if (!Yields(command.operation)) return text;
-  const int value = generic ? static_cast<std::uint16_t>(reply->value) : reply->value;
+  if (form.tells != Tells::Value) return text;
+  const int value = form.isGeneric ? static_cast<std::uint16_t>(reply->value) : reply->value;
   return text + " = " + std::to_string(value);
 }

@@ -201,6 +201,11 @@ bool PjLinkChannel::UseIdleTime() {
   return false;
 }
 
+bool PjLinkChannel::TendConnection(std::chrono::milliseconds unused) {
+  if (socket_ && (unused >= limits_.unused || !IsUsable())) Drop(ConnectionState::Unused);
+  return socket_ != nullptr;
+}
+
 std::optional<std::vector<std::string>> PjLinkChannel::InputCodes() {
   const auto known = ProjectorClass();
   const auto list = known ? AskText(*known, "INST") : std::nullopt;

@@ -61,6 +61,7 @@ class ADVANCED_CONTROL_EXPORT PjLinkChannel : public ProjectorChannel {
     /// After inputs were not told. A projector in standby may tell them only once it is on.
     std::chrono::milliseconds firstPause{10'000};
     std::chrono::milliseconds longestPause{120'000};
+    std::chrono::milliseconds unused{20'000};  ///< Then the connection is closed.
 
     /// What a command may take: connecting, the class and the command itself, behind a question for
     /// inputs that was under way.
@@ -90,6 +91,7 @@ class ADVANCED_CONTROL_EXPORT PjLinkChannel : public ProjectorChannel {
   ConnectionState Connection() const override { return state_; }
   std::optional<SourceList> Inputs() override;
   bool UseIdleTime() override;
+  bool TendConnection(std::chrono::milliseconds unused) override;
 
  private:
   using Clock = std::chrono::steady_clock;

@@ -43,52 +43,28 @@ std::optional<PjtOperation> OperationByNumber(std::uint16_t number) {
 OperationFamily FamilyOf(PjtOperation operation) { return Describe(operation).family; }
 
 bool IsSuccess(PjtOperation operation, int result) {
-  switch (FamilyOf(operation)) {
-    case OperationFamily::Action:
+  switch (FormOf(operation).success) {
+    case Success::Zero:
       return result == 0;
-    case OperationFamily::Generic:
+    case Success::One:
       return result == 1;
-    default:
-      return result != 0;
+    case Success::NonZero:
+      break;
   }
+  return result != 0;
 }
 
 int AcceptedResult(PjtOperation operation) {
-  return FamilyOf(operation) == OperationFamily::Action ? 0 : 1;
+  return FormOf(operation).success == Success::Zero ? 0 : 1;
 }
 
 int RefusedResult(PjtOperation operation) {
-  return FamilyOf(operation) == OperationFamily::Action ? -1 : 0;
+  return FormOf(operation).success == Success::Zero ? -1 : 0;
 }
 
-bool IsRead(PjtOperation operation) {
-  switch (FamilyOf(operation)) {
-    case OperationFamily::PointerGetter:
-    case OperationFamily::SourceGetter:
-    case OperationFamily::DirectGetter:
-    case OperationFamily::PointGetter:
-      return true;
-    default:
-      return operation == PjtOperation::Get;
-  }
-}
+bool IsRead(PjtOperation operation) { return FormOf(operation).effect == Effect::Reads; }
 
 bool IsAbsolute(PjtOperation operation) {
-  switch (FamilyOf(operation)) {
-    case OperationFamily::PointerStepper:
-    case OperationFamily::SourceStepper:
-    case OperationFamily::ChannelStepper:
-      return false;
-    default:
-      break;
-  }
-  switch (operation) {
-    case PjtOperation::Inc:
-    case PjtOperation::Dec:
-    case PjtOperation::ExecAutoAdjust:
-    case PjtOperation::ExecAutoKeyStone:
-      return false;
-    default:
-      return true;
-  }
+  return FormOf(operation).effect != Effect::Steps && operation != PjtOperation::ExecAutoAdjust &&
+         operation != PjtOperation::ExecAutoKeyStone;
 }

@@ -33,6 +33,7 @@ struct PjtReply {
                          ///< when the time was over; `result` is then a success.
   bool unsent = false;   ///< True when the command is unanswered and never left, so that the
                          ///< projector cannot have carried it out.
+  bool abandoned = false;  ///< True when the command is unanswered because nobody waited any more.
 };
 
 /// What a projector does, where it tells more than the value of its running state says.
@@ -77,4 +78,13 @@ class ADVANCED_CONTROL_EXPORT ProjectorChannel {
   /// the channel's own. Whether there is more to do. Called on the thread of `Execute`, between two
   /// commands. Never throws.
   virtual bool UseIdleTime() { return false; }
+
+  /// Looks after the connection, which no command has used for the time `unused`: notices that the
+  /// other end has closed it, and closes one that has not been used for long. Whether there is one
+  /// still. Waits for nothing. Called on the thread of `Execute`, between two commands. Never
+  /// throws.
+  virtual bool TendConnection(std::chrono::milliseconds unused) {
+    static_cast<void>(unused);
+    return false;
+  }
 };

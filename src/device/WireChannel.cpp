@@ -65,17 +65,18 @@ void WireChannel::Announce(std::span<const PjtCommand> reads) {
   std::ranges::copy_if(reads, std::back_inserter(announced_), IsRead, &PjtCommand::operation);
 }
 
+bool WireChannel::TendConnection(std::chrono::milliseconds unused) {
+  if (line_ && (unused >= limits_.unused || !TakeWhatCame())) Fail(ConnectionState::Unused);
+  return line_ != nullptr;
+}
+
 QDeadlineTimer WireChannel::Within(std::chrono::milliseconds time) const {
   return QDeadlineTimer(std::min<Clock::time_point>(Clock::now() + time, giveUpAt_));
 }
 
 bool WireChannel::Connect() {
-  // Late replies may lie there, or the end of the connection.
-  for (int i = 0; line_ && i < kIdlePieces; ++i) {
-    const Arrival arrival = Receive(QDeadlineTimer(0));
-    if (arrival == Arrival::Late) return true;
-    if (arrival != Arrival::Bytes) line_.reset();
-  }
+  if (line_ && TakeWhatCame()) return true;
+  line_.reset();  // a serial port is opened by one alone
   sent_.clear();
   decoder_ = {};
   welcome_.reset();
@@ -91,6 +92,14 @@ bool WireChannel::Connect() {
   Wire::Append(unsent_, {.sequence = hello_, .message = Wire::Hello{}});
   // Without noise the first requests go out together with it.
   return medium_ == Medium::Reliable || (Write(deadline) && AwaitWelcome());
+}
+
+bool WireChannel::TakeWhatCame() {
+  for (int i = 0; i < kIdlePieces; ++i) {
+    const Arrival arrival = Receive(QDeadlineTimer(0));
+    if (arrival != Arrival::Bytes) return arrival == Arrival::Late;
+  }
+  return false;
 }
 
 bool WireChannel::AwaitWelcome() {

@@ -128,6 +128,7 @@ const NotificationMap& CAdvanceDlg::Notifications() const {
 
 bool CAdvanceDlg::OnInitDialog() {
   CDialog::OnInitDialog();
+  UseIntake();
   projector_.CutOff(false);
   savedResources_ = ResourceChain::SetCurrent(&AdvancedControlResources());
   OpenDialogs().push_back(this);
@@ -239,6 +240,7 @@ void CAdvanceDlg::DispTabScreen() {
 
 void CAdvanceDlg::ReplaceSources(const SourceList& sources) {
   const ModelData before = model_;
+  if (next_) next_->model.MySourceList = sources;
   model_.MySourceList = sources;
   if (!IsCreated()) return;
   for (const auto& page : pages_->byId) {

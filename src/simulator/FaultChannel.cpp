@@ -40,7 +40,7 @@ void FaultChannel::Clear() {
 }
 
 Fault FaultChannel::FaultOf(const PjtCommand& command) const {
-  if (FamilyOf(command.operation) == OperationFamily::Generic) {
+  if (FormOf(command.operation).isGeneric) {
     if (const auto found = byCode_.find(command.code); found != byCode_.end()) {
       return found->second;
     }
@@ -74,5 +74,5 @@ PjtReply FaultChannel::Execute(const PjtCommand& command) {
       return {.result = refusal.result, .answered = false};
   }
   lock.unlock();
-  return inner_->Execute(command);
+  return Inner().Execute(command);
 }

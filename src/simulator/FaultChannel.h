@@ -6,11 +6,10 @@
 #include <map>
 #include <memory>
 #include <mutex>
-#include <optional>
 #include <utility>
 
 #include "AdvancedControlExport.h"
-#include "device/ProjectorChannel.h"
+#include "device/ForwardingChannel.h"
 
 /// What goes wrong with a command.
 struct Fault {
@@ -33,12 +32,12 @@ struct Fault {
 ///
 /// Faults may be set from any thread while a command is under way; a command that waits goes on as
 /// soon as the fault it waits for is over.
-class ADVANCED_CONTROL_EXPORT FaultChannel : public ProjectorChannel {
+class ADVANCED_CONTROL_EXPORT FaultChannel : public ForwardingChannel {
  public:
   /// A command that drops out blocks for `dropOut` and is then unanswered.
   explicit FaultChannel(std::shared_ptr<ProjectorChannel> inner,
                         std::chrono::milliseconds dropOut = std::chrono::seconds(10))
-      : inner_(std::move(inner)), dropOut_(dropOut) {}
+      : ForwardingChannel(std::move(inner)), dropOut_(dropOut) {}
 
   /// `Kind::None` takes the fault back.
   void SetFault(const Fault& fault);
@@ -47,13 +46,6 @@ class ADVANCED_CONTROL_EXPORT FaultChannel : public ProjectorChannel {
   void Clear();
 
   PjtReply Execute(const PjtCommand& command) override;
-  void Announce(std::span<const PjtCommand> reads) override { inner_->Announce(reads); }
-  void GiveUpAfter(std::chrono::milliseconds time) override { inner_->GiveUpAfter(time); }
-  void Abandon() override { inner_->Abandon(); }
-  ConnectionState Connection() const override { return inner_->Connection(); }
-  std::optional<SourceList> Inputs() override { return inner_->Inputs(); }
-  std::optional<PowerState> Power() const override { return inner_->Power(); }
-  bool UseIdleTime() override { return inner_->UseIdleTime(); }
 
  private:
   Fault FaultOf(const PjtCommand& command) const;
@@ -61,7 +53,6 @@ class ADVANCED_CONTROL_EXPORT FaultChannel : public ProjectorChannel {
   void Wait(std::unique_lock<std::mutex>& lock, const PjtCommand& command, const Fault& fault,
             std::chrono::milliseconds time);
 
-  std::shared_ptr<ProjectorChannel> inner_;
   const std::chrono::milliseconds dropOut_;
   mutable std::mutex mutex_;
   std::condition_variable changed_;

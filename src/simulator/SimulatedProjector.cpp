@@ -16,13 +16,7 @@ constexpr Setting kPlain{.id = SettingId::Count, .name = "", .range = {0, 0xFFFF
 
 /// Where a command of a family carries the value that it sets.
 int WrittenValue(const PjtCommand& command) {
-  switch (FamilyOf(command.operation)) {
-    case OperationFamily::SourceSetter:
-    case OperationFamily::ShortSourceSetter:
-      return command.second;
-    default:
-      return command.first;
-  }
+  return FormOf(command.operation).second == Argument::Value ? command.second : command.first;
 }
 
 bool IsSource(int source) { return source >= 0 && source <= 255; }
@@ -194,9 +188,8 @@ int SimulatedProjector::SourceOrCurrent(int source) const {
 
 PjtReply SimulatedProjector::Execute(const PjtCommand& command) {
   const std::lock_guard lock(mutex_);
-  const std::optional<int> value = FamilyOf(command.operation) == OperationFamily::Generic
-                                       ? ExecuteGeneric(command)
-                                       : ExecuteNamed(command);
+  const std::optional<int> value =
+      FormOf(command.operation).isGeneric ? ExecuteGeneric(command) : ExecuteNamed(command);
   if (!value) return {.result = RefusedResult(command.operation)};
   return {.result = AcceptedResult(command.operation), .value = static_cast<std::int16_t>(*value)};
 }

@@ -45,11 +45,17 @@ TEST(CommandLog, NamesTheSettingAndWhatCameOfIt) {
       {kChange, {.result = 1}, "Set Sharpness 0x2201\t0x82\tok"},
       {kChange, {.result = 0}, "Set Sharpness 0x2201\t0x82\trefused"},
       {{PjtOperation::SetBrightness, 0, 140}, {.result = 0}, "SetBrightness\t140\trefused"},
+      {kRead, {.answered = false, .abandoned = true}, "Get Sharpness 0x2201\t\tleft"},
+      {kRead, {.offered = false}, "Get Sharpness 0x2201\t\tnot offered"},
+      {kChange, {.busy = true}, "Set Sharpness 0x2201\t0x82\tbusy"},
+      {kChange, {.result = 1, .pending = true}, "Set Sharpness 0x2201\t0x82\tnot done yet"},
   };
   for (const auto& [command, reply, text] : cases) {
     CommandLogModel model;
     model.Append({Entry("A", command, reply)});
     EXPECT_EQ(LogText(model, {0}), QStringLiteral("\tA\t%1\t0.0\n").arg(text));
+    const bool isRed = model.index(0, CommandLogModel::Result).data(Qt::ForegroundRole).isValid();
+    EXPECT_EQ(isRed, !IsSuccess(command.operation, reply.result) && !reply.abandoned);
   }
   const auto names = SettingNames(5, 30);
   EXPECT_EQ(names.at(0x2201), "Sharpness");

@@ -201,6 +201,25 @@ TEST(ProjectorList, AtFirstOneWithRowsOnEveryTabIsSelected) {
   EXPECT_EQ(Selected(window), "A");
 }
 
+TEST(ProjectorList, TellsWhenAProjectorAnsweredLast) {
+  using std::chrono::seconds;
+  const std::tuple<ConnectionState, std::optional<seconds>, const char*> cases[] = {
+      {ConnectionState::Unused, {}, "Not connected"},
+      {ConnectionState::Connected, seconds(9), "Connected"},
+      {ConnectionState::Connected, seconds(10), "Connected · answered 10 s ago"},
+      {ConnectionState::Unused, seconds(59), "Not connected · answered 50 s ago"},
+      {ConnectionState::Unused, seconds(60), "Not connected · answered 1 min ago"},
+      {ConnectionState::Unused, seconds(3599), "Not connected · answered 59 min ago"},
+      {ConnectionState::Unused, seconds(7200), "Not connected · answered 2 h ago"},
+      {ConnectionState::NotReachable, seconds(60), "Not reachable"},
+  };
+  for (const auto& [state, since, text] : cases) EXPECT_EQ(ConnectionTold(state, since), text);
+  const ProjectorSession session(Profile("A"), nullptr);
+  EXPECT_FALSE(session.SinceAnswer());
+  session.Channel()->Execute({PjtOperation::Get, 0x2003});
+  EXPECT_GE(session.SinceAnswer(), seconds(0));
+}
+
 struct Search {
   const char* words;
   int column;
@@ -316,6 +335,9 @@ TEST(ProjectorList, ProjectorsAreAddedEditedDuplicatedAndRemoved) {
   EXPECT_EQ(AddressOf(inFile()[2]), ProjectorAddress(SerialAddress{"/dev/ttyUSB0", 9600}));
   Answer(Find<QAction>(window, "Edit"), [](QDialog& editor) {
     Choose(editor, "Reached through", "PJLink");
+    Fill(editor, {{"Address", "192.0.2"}, {"Port", "4352"}});
+    EXPECT_FALSE(Accept(editor)) << "no address";
+    EXPECT_EQ(editor.focusWidget(), &Field(editor, "Address"));
     Fill(editor, {{"Address", "192.0.2.7"}, {"Port", "4352"}, {"Password", " open "}});
     EXPECT_TRUE(Accept(editor));
   });

@@ -6,6 +6,11 @@
 #include <gtest/gtest.h>
 
 #include "device/BoundedChannel.h"
+#include "device/CommandCode.h"
+#include "device/PjLinkChannel.h"
+#include "device/TcpChannel.h"
+#include "simulator/WireResponder.h"
+#include "tests/device/Peer.h"
 #include "tests/device/Replies.h"
 
 namespace {
@@ -98,13 +103,56 @@ TEST_F(BoundedChannelTest, AbandoningEndsTheWaitAndTheNextCommandIsTried) {
     const auto start = Clock::now();
     for (int i = 0; i <= int{twice}; ++i) {
       QTimer::singleShot(20, [&] { patient.Abandon(); });
-      EXPECT_EQ(Replies(patient, {kCommand}), "?");
+      const PjtReply left = patient.Execute(kCommand);
+      EXPECT_TRUE(left.abandoned && !left.answered);
     }
     EXPECT_LT(Clock::now() - start, 500ms);
     EXPECT_EQ(gate_->executed, 1) << "the second has never left";
     QTimer::singleShot(20, [&] { gate_->Open(true); });
     EXPECT_EQ(Replies(patient, {kCommand}), "2") << "the first's reply is nobody's";
   }
+}
+
+TEST_F(BoundedChannelTest, TheStateFollowsAConnectionThatNobodyUses) {
+  constexpr auto kSoon = 5ms;
+  const auto wire = [](const Peer& peer, std::chrono::milliseconds unused) {
+    return std::make_shared<TcpChannel>("127.0.0.1", peer.port,
+                                        WireChannel::Limits{.unused = unused});
+  };
+  const auto pjLink = [](const Peer& peer, std::chrono::milliseconds unused) {
+    return std::make_shared<PjLinkChannel>("127.0.0.1", peer.port, "",
+                                           PjLinkChannel::Limits{.unused = unused});
+  };
+  const auto answerOnWire = [](Peer::End& end) {
+    Gate device;
+    WireResponder responder(device);
+    for (auto bytes = end.Receive(); !bytes.empty(); bytes = end.Receive()) {
+      end.Send(responder.Receive(bytes));
+      if (device.executed > 0) return;
+    }
+  };
+  const auto check = [&](const char* name, const Peer::Behaviour& answer, auto connect,
+                         const PjtCommand& command) {
+    SCOPED_TRACE(name);
+    std::atomic<int> ended = 0;
+    const auto listens = [&](Peer::End& end) {
+      answer(end);
+      end.Listen();
+      ++ended;
+    };
+    const Peer closing(Way::Tcp, {answer}), listening(Way::Tcp, {listens});
+    BoundedChannel closed(connect(closing, 1h), {.tend = kSoon});
+    EXPECT_TRUE(closed.Execute(command).answered);
+    EXPECT_TRUE(Eventually([&] { return closed.Connection() == ConnectionState::Unused; }));
+    BoundedChannel left(connect(listening, 100ms), {.tend = kSoon});
+    EXPECT_TRUE(left.Execute(command).answered);
+    EXPECT_TRUE(Eventually([&] { return ended == 1; })) << "closed for good, not by half";
+    EXPECT_TRUE(Eventually([&] { return left.Connection() == ConnectionState::Unused; }));
+    EXPECT_TRUE(left.Execute(command).answered) << "connects again";
+  };
+  check("wire", answerOnWire, wire, kCommand);
+  check("PJLink", Peer::Says({"PJLINK 0\r", "%1POWR=1\r"}, false), pjLink,
+        Get(CommandCode::RunningState));
 }
 
 TEST_F(BoundedChannelTest, ACommandFromInsideTheWaitIsRefusedAndQuittingDoesNotCutItShort) {

@@ -117,6 +117,35 @@ TEST_F(FlowTest, ClosingActsAtOnceInRefreshesAndChangesAndSendsNothingMore) {
   }
 }
 
+TEST_F(FlowTest, AnotherModelGivenMeanwhileIsThatOfTheNextCreation) {
+  Open();
+  CModelInfo2 other = FullModel(4, 9);
+  other.ConnectionKinds[0] = 0;
+  other.ConnectionNumbers[0] = 6;
+  const QString title = dialog_.windowTitle();
+  const int tabs = Tabs().count();
+  for (const bool waiting : {true, false}) {
+    if (waiting) {
+      InTheWait([&] {
+        dialog_.CopyData(&other, 0);
+        projector_->Pace(0ms);
+      });
+    } else {
+      dialog_.CopyData(&other, 0);
+    }
+    for (int tab = 0; tab < tabs; ++tab) ClickTab(tab);
+    dialog_.DispTabScreen();
+    EXPECT_EQ(dialog_.Model().ModelCode, 30);
+  }
+  dialog_.close();
+  EXPECT_EQ(dialog_.windowTitle(), title);
+  Open();
+  EXPECT_EQ(dialog_.Model().ModelCode, 9);
+  EXPECT_EQ(dialog_.Projector().ConnectionNumber(), 6);
+  EXPECT_NE(dialog_.windowTitle(), title);
+  for (int tab = 0; tab < Tabs().count(); ++tab) ClickTab(tab);
+}
+
 TEST_F(FlowTest, ClosingAPopUpLeavesThePopUpAlone) {
   Open();
   ClickTab(kPictureTab);

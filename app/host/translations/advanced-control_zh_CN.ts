@@ -157,6 +157,22 @@
         <source>no answer</source>
         <translation>无应答</translation>
     </message>
+    <message>
+        <source>left</source>
+        <translation>已放弃</translation>
+    </message>
+    <message>
+        <source>busy</source>
+        <translation>忙</translation>
+    </message>
+    <message>
+        <source>not offered</source>
+        <translation>不提供</translation>
+    </message>
+    <message>
+        <source>not done yet</source>
+        <translation>尚未执行</translation>
+    </message>
 </context>
 <context>
     <name>FaultPanel</name>
@@ -749,6 +765,10 @@
         <source>there is no setting &quot;%1&quot;</source>
         <translation>没有名为“%1”的设置</translation>
     </message>
+    <message>
+        <source>is neither the name of a host nor an IP address</source>
+        <translation>既不是主机名，也不是 IP 地址</translation>
+    </message>
 </context>
 <context>
     <name>Program</name>
@@ -850,6 +870,18 @@
     <message>
         <source>Password missing or wrong</source>
         <translation>缺少密码或密码错误</translation>
+    </message>
+    <message>
+        <source>answered %1 s ago</source>
+        <translation>%1 秒前应答</translation>
+    </message>
+    <message>
+        <source>answered %1 min ago</source>
+        <translation>%1 分钟前应答</translation>
+    </message>
+    <message>
+        <source>answered %1 h ago</source>
+        <translation>%1 小时前应答</translation>
     </message>
 </context>
 <context>

@@ -17,6 +17,7 @@ struct Work {
   const SettingTexts& texts;
   const std::vector<ProjectorProfile>& profiles;
   SettingsFileContents file;  ///< Of `Diff` and `Apply`.
+  std::string password;       ///< Of PJLink projectors whose profile has none.
   std::function<bool()> isInterrupted;
   std::function<void()> step;  ///< Called after each setting, from any thread.
 };

@@ -39,7 +39,7 @@ bool Target::LacksEntries(const ModelSetting& setting) const {
 
 bool IsPjLink(const ProjectorProfile& profile, const Arguments& arguments) {
   if (arguments.address.empty()) return profile.Link == ProjectorLink::PjLink;
-  return std::holds_alternative<PjLinkAddress>(ParseAddress(arguments.address, {}));
+  return std::holds_alternative<PjLinkAddress>(ParseAddress(arguments.address));
 }
 
 Target TargetOf(const ProjectorAccess& projector) {

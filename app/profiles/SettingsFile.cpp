@@ -1,12 +1,10 @@
 #include "app/profiles/SettingsFile.h"
 
-#include <cstdio>
 #include <utility>
 
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 
@@ -27,16 +25,16 @@ QString KeyAt(const Snapshot& snapshot, const QString& path) {
 }  // namespace
 
 SettingsFileContents ReadSettingsFile(const QString& path) {
-  QFile file(path);
-  const bool isOpen = path == "-" ? file.open(stdin, QIODevice::ReadOnly)  //
-                                  : file.open(QIODevice::ReadOnly);
-  if (!isOpen) {
-    return {.error = QCoreApplication::translate("SettingsFile", "cannot read %1: %2")
-                         .arg(path, file.errorString())};
+  // One byte more than the reader takes shows that the file is too large.
+  const FileBytes file = ReadToEnd(path, JsonLines::kMaximumBytes + 1);
+  if (!file.error.isEmpty()) {
+    return {
+        .error =
+            QCoreApplication::translate("SettingsFile", "cannot read %1: %2").arg(path, file.error)};
   }
   const bool isStream = path == "-";
   return ParseSettingsFile(
-      file.read(JsonLines::kMaximumBytes + 1),
+      file.bytes,
       isStream ? QCoreApplication::translate("SettingsFile", "standard input") : path);
 }
 
@@ -82,7 +80,9 @@ UndoFile::UndoFile(const QString& file, const QString& folder, const std::string
 }
 
 bool UndoFile::Keep(const Snapshot& undo) {
-  const QByteArray bytes = WriteSnapshot(undo);
+  Snapshot kept = undo;
+  kept.isUndo = true;
+  const QByteArray bytes = WriteSnapshot(kept);
   if (isThere_) {
     error_ = WriteWholeFile(path_, bytes);
   } else {

@@ -25,7 +25,9 @@ class QTimer;
 class ResourceModule;
 class StatusLine;
 class WaitWatch;
+inline namespace AdvancedControl {
 struct PagePopUp;
+}
 
 /// The "Advanced Control" dialog of one projector: a tab per group of settings, each read live and
 /// changed at once.

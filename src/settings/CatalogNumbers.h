@@ -1,5 +1,7 @@
 #pragma once
 
+inline namespace AdvancedControl {
+
 /// Numbers of the message catalog. The texts are in `resources/catalog`, one file a category. A
 /// caption that a template names ("73;Brightness") needs no name here. The build fails when a
 /// number of this file or of a template has no text in one of the languages.
@@ -342,3 +344,5 @@ inline constexpr int AutoOffRefused = 4204;
 inline constexpr int StandbySavingQuestion = 1002;
 inline constexpr int PowerOffQuestion = 4202;
 }  // namespace ErrorText
+
+}  // namespace AdvancedControl

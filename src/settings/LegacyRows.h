@@ -4,6 +4,8 @@
 #include "settings/CatalogNumbers.h"
 #include "settings/Rows.h"
 
+inline namespace AdvancedControl {
+
 // Rows that several of the older pages have. A refused change of them is told, and the slider goes
 // back.
 
@@ -49,3 +51,5 @@ constexpr ValueRow PositionH(std::string_view key, const ArrowIds& ids) {
   return SteppedField(key, 48, {.minus = ids.right, .plus = ids.left, .field = ids.fieldH},
                       CommandCode::PositionH, ErrorText::PositionRefused);
 }
+
+}  // namespace AdvancedControl

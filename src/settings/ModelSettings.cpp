@@ -10,6 +10,8 @@
 #include "settings/PageTables.h"
 #include "settings/RowParts.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 // What a number can be that only the projector bounds.
@@ -209,3 +211,5 @@ bool ModelSettings::StepTo(CPjtInterface& projector, const ValueRow& row, int va
   }
   return present == value;
 }
+
+}  // namespace AdvancedControl

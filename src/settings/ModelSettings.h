@@ -9,12 +9,15 @@
 #include <string_view>
 #include <vector>
 
+#include "AdvancedControlExport.h"
 #include "device/CPjtInterface.h"
 #include "settings/PageSets.h"
 #include "settings/RowUse.h"
 
+inline namespace AdvancedControl {
+
 /// One setting of a model, as a program without a window sees it.
-struct ModelSetting {
+struct ADVANCED_CONTROL_EXPORT ModelSetting {
   enum class Kind : std::uint8_t {
     Number,  ///< Any whole number of `range`.
     Choice,  ///< The value of one of `entries`; switches are choices too.
@@ -64,11 +67,11 @@ struct Sending {
 };
 
 /// The keys of every model's settings; some stand here more than once.
-std::vector<std::string_view> AllKeys();
+ADVANCED_CONTROL_EXPORT std::vector<std::string_view> AllKeys();
 
 /// All settings of a model in the order of its pages, the pop-ups' behind those of the page that
 /// opens them.
-class ModelSettings {
+class ADVANCED_CONTROL_EXPORT ModelSettings {
  public:
   explicit ModelSettings(ModelData model);
 
@@ -108,3 +111,5 @@ class ModelSettings {
   std::shared_ptr<const ModelData> model_;
   std::vector<ModelSetting> settings_;
 };
+
+}  // namespace AdvancedControl

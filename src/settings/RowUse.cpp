@@ -2,6 +2,8 @@
 
 #include "device/CommandCode.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 constexpr Call kInput = Named(PjtOperation::GetInputSource);
@@ -132,3 +134,5 @@ Stepped Step(CPjtInterface& projector, const ValueRow& row, const ModelData& mod
   return Step(projector, row, upwards, *source, StepBounds(row, model, SliderRange(row, model)),
               *value - row.bias);
 }
+
+}  // namespace AdvancedControl

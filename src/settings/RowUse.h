@@ -5,6 +5,8 @@
 #include "AdvancedControlExport.h"
 #include "settings/Rows.h"
 
+inline namespace AdvancedControl {
+
 // Rows in use: what a row's data makes of the projector. Values are device values.
 
 /// Asks for the input source that a row belongs to: nothing while the projector does not say
@@ -42,3 +44,5 @@ ADVANCED_CONTROL_EXPORT Stepped Step(CPjtInterface& projector, const ValueRow& r
 /// The same from the value that the projector has.
 ADVANCED_CONTROL_EXPORT Stepped Step(CPjtInterface& projector, const ValueRow& row,
                                      const ModelData& model, bool upwards);
+
+}  // namespace AdvancedControl

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <type_traits>
 
+inline namespace AdvancedControl {
+
 namespace {
 
 const ModelRows* RowsOf(const PageTable& table, int modelCode) {
@@ -123,3 +125,5 @@ Range SliderRange(const ValueRow& row, const ModelData& model) {
 Range StepBounds(const ValueRow& row, const ModelData& model, Range slider) {
   return row.bounds ? row.bounds->Of(model.ModelCode) : slider;
 }
+
+}  // namespace AdvancedControl

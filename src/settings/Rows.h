@@ -13,6 +13,8 @@
 #include "settings/ModelCodes.h"
 #include "settings/Range.h"
 
+inline namespace AdvancedControl {
+
 // The kinds of rows that a page's table is made of. A row tells what a setting is called, how it is
 // read, sent and stepped, and by which numbered controls a dialog shows it; no widget is needed to
 // use it (see RowUse.h). `key` is the setting's stable name, unique within a model; `caption` is
@@ -287,3 +289,5 @@ ADVANCED_CONTROL_EXPORT std::optional<Call> ResetOf(const PageTable& table, cons
 ADVANCED_CONTROL_EXPORT Range SliderRange(const ValueRow& row, const ModelData& model);
 /// Where − and + stop, in shown values; `slider` is the slider's range.
 ADVANCED_CONTROL_EXPORT Range StepBounds(const ValueRow& row, const ModelData& model, Range slider);
+
+}  // namespace AdvancedControl

@@ -5,6 +5,8 @@
 #include "settings/LegacyRows.h"
 #include "settings/RowParts.h"
 
+inline namespace AdvancedControl {
+
 /// Rows that several main, automatic, option and other pages have: a setting is read, sent and told
 /// in one way, and a page gives it its key and its controls.
 namespace shared {
@@ -105,3 +107,5 @@ constexpr ListRow Freeze(int list) {
 // clang-format on
 
 }  // namespace shared
+
+}  // namespace AdvancedControl

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
+inline namespace AdvancedControl {
+
 namespace {
 
 using ToldSettings = std::vector<const RestoredSetting*>;
@@ -348,3 +350,5 @@ Snapshot Restoration::Undo(const std::string& projector, const SettingTexts& tex
   }
   return snapshot;
 }
+
+}  // namespace AdvancedControl

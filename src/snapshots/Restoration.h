@@ -6,7 +6,10 @@
 #include <string>
 #include <vector>
 
+#include "AdvancedControlExport.h"
 #include "snapshots/Snapshot.h"
+
+inline namespace AdvancedControl {
 
 /// What has become of one saved setting.
 enum class Outcome : std::uint8_t {
@@ -44,7 +47,7 @@ struct RestoredSetting {
 /// Puts the settings of a snapshot back on a projector, of the same model or another. First `Read`,
 /// then `Send`; whenever it ends, `Settings` tells the truth, and doing it all again completes it.
 /// `model` and `connection` outlive it.
-class Restoration {
+class ADVANCED_CONTROL_EXPORT Restoration {
  public:
   using Filter = std::function<bool(const SavedSetting&)>;
 
@@ -100,3 +103,5 @@ class Restoration {
   std::vector<RestoredSetting> settings_;
   int turns_ = 0;
 };
+
+}  // namespace AdvancedControl

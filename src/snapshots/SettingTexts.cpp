@@ -9,6 +9,8 @@
 #include "i18n/SystemLanguage.h"
 #include "settings/CatalogNumbers.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 // No setting is further away, and no sum of two such numbers overflows.
@@ -187,3 +189,5 @@ std::optional<int> Resolve(const ModelSetting& setting, const TypedValue& typed,
   }
   return setting.Allows(value) ? std::optional(value) : std::nullopt;
 }
+
+}  // namespace AdvancedControl

@@ -6,8 +6,11 @@
 #include <string>
 #include <string_view>
 
+#include "AdvancedControlExport.h"
 #include "i18n/CatalogTexts.h"
 #include "settings/ModelSettings.h"
+
+inline namespace AdvancedControl {
 
 /// What a person typed for a setting.
 struct TypedValue {
@@ -17,7 +20,7 @@ struct TypedValue {
 
 /// The texts of settings in one language, and what a text in any language stands for. May be used
 /// from several threads at once. Texts are UTF-8.
-class SettingTexts {
+class ADVANCED_CONTROL_EXPORT SettingTexts {
  public:
   /// `languageId` is preferred; a text that it does not have is taken in English.
   SettingTexts(std::span<const std::string> catalogFolders, std::uint32_t languageId);
@@ -60,5 +63,8 @@ class SettingTexts {
 
 /// The device value that was typed; nothing for a step from a value that is not known or that the
 /// list does not have, or to one that the setting does not take.
-std::optional<int> Resolve(const ModelSetting& setting, const TypedValue& typed,
-                           std::optional<int> present);
+ADVANCED_CONTROL_EXPORT std::optional<int> Resolve(const ModelSetting& setting,
+                                                   const TypedValue& typed,
+                                                   std::optional<int> present);
+
+}  // namespace AdvancedControl

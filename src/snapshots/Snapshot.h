@@ -7,7 +7,10 @@
 #include <QByteArray>
 #include <QString>
 
+#include "AdvancedControlExport.h"
 #include "snapshots/SettingTexts.h"
+
+inline namespace AdvancedControl {
 
 /// A setting as it was.
 struct SavedSetting {
@@ -30,6 +33,7 @@ struct Snapshot {
   /// Put back before all others and one after another, so that a setting may stand here several
   /// times: what other sources and modes kept for themselves.
   std::vector<SavedSetting> beforehand{};
+  bool isUndo = false;  ///< What a restoration replaced; it makes sense on that projector alone.
 
   friend bool operator==(const Snapshot&, const Snapshot&) = default;
 };
@@ -41,16 +45,19 @@ struct Progress {
 };
 
 /// A snapshot of this model and time without settings.
-Snapshot EmptySnapshot(const std::string& projector, const ModelData& model);
+ADVANCED_CONTROL_EXPORT Snapshot EmptySnapshot(const std::string& projector,
+                                               const ModelData& model);
 
 /// Reads every setting that may be put back; what the projector refuses to tell is left out, and
 /// named in `unread` unless that is null, or the projector does not offer it at all.
-Snapshot TakeSnapshot(const std::string& projector, const ModelSettings& settings,
-                      CPjtInterface& connection, const SettingTexts& texts,
-                      const Progress& progress = {}, std::vector<std::string>* unread = nullptr);
+ADVANCED_CONTROL_EXPORT Snapshot TakeSnapshot(const std::string& projector,
+                                              const ModelSettings& settings,
+                                              CPjtInterface& connection, const SettingTexts& texts,
+                                              const Progress& progress = {},
+                                              std::vector<std::string>* unread = nullptr);
 
 /// The file's text: JSON, described in `docs/acctl.md`.
-QByteArray WriteSnapshot(const Snapshot& snapshot);
+ADVANCED_CONTROL_EXPORT QByteArray WriteSnapshot(const Snapshot& snapshot);
 
 struct SnapshotContents {
   Snapshot snapshot;
@@ -59,4 +66,6 @@ struct SnapshotContents {
 };
 
 /// Reads what `WriteSnapshot` wrote, by whoever it was edited since. Unknown members are ignored.
-SnapshotContents ReadSnapshot(const QByteArray& text);
+ADVANCED_CONTROL_EXPORT SnapshotContents ReadSnapshot(const QByteArray& text);
+
+}  // namespace AdvancedControl

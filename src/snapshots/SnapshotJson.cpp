@@ -14,12 +14,6 @@
 
 namespace {
 
-constexpr const char* kFormat = "advanced-control-settings";
-constexpr int kVersion = 1;
-constexpr qsizetype kMaximumBytes = qsizetype{4} << 20;
-constexpr int kMaximumSettings = 10'000;
-constexpr qsizetype kMaximumText = 1024;
-
 /// Thrown while a text is read, caught before the reader returns.
 struct WrongSnapshot {
   Q_DECLARE_TR_FUNCTIONS(Snapshot)
@@ -29,6 +23,18 @@ struct WrongSnapshot {
   QString message;
   QString of{};  ///< The key of the setting that it is part of, where that is known.
 };
+
+}  // namespace
+
+inline namespace AdvancedControl {
+
+namespace {
+
+constexpr const char* kFormat = "advanced-control-settings";
+constexpr int kVersion = 1;
+constexpr qsizetype kMaximumBytes = qsizetype{4} << 20;
+constexpr int kMaximumSettings = 10'000;
+constexpr qsizetype kMaximumText = 1024;
 
 QString Wide(const std::string& text) { return QString::fromStdString(text); }
 
@@ -113,6 +119,7 @@ Snapshot Parse(const QJsonObject& file) {
                     .time = file["time"].toString().toStdString(),
                     .settings = {}};
   snapshot.settings = Settings(file, "settings");
+  snapshot.isUndo = file["undo"].toBool();
   if (file.contains("beforehand")) snapshot.beforehand = Settings(file, "beforehand");
   std::set<std::pair<std::string, std::optional<int>>> keys;
   for (std::size_t i = 0; i < snapshot.settings.size(); ++i) {
@@ -148,6 +155,7 @@ QByteArray WriteSnapshot(const Snapshot& snapshot) {
                    {"time", Wide(snapshot.time)},
                    {"settings", ToJson(snapshot.settings)}};
   if (!snapshot.beforehand.empty()) file["beforehand"] = ToJson(snapshot.beforehand);
+  if (snapshot.isUndo) file["undo"] = true;
   return QJsonDocument(file).toJson();
 }
 
@@ -168,3 +176,5 @@ SnapshotContents ReadSnapshot(const QByteArray& text) {
     return {{}, of + error.path + ": " + error.message, error.path};
   }
 }
+
+}  // namespace AdvancedControl

@@ -2,53 +2,18 @@
 // behind when something goes wrong.
 
 #include <csignal>
-#include <gmock/gmock.h>
 
 #include <QDir>
 #include <QJsonDocument>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-#include "tests/support/Programs.h"
+#include "tests/acctl/AcctlProgram.h"
 
 namespace {
 
 using testing::HasSubstr;
 using testing::StartsWith;
-
-const QString kRoom = "Projector 5-30";
-
-Outcome Acctl(const QStringList& arguments, const char* locale = "C",
-              const QString& program = ACCTL_PROGRAM) {
-  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-  environment.insert("LC_ALL", locale);
-  return Run(program, arguments, environment);
-}
-
-/// A line of the shell, with the program as "$0" and further arguments from "$1".
-Outcome Shell(const QString& line, const QStringList& arguments) {
-  return Acctl(QStringList{"-c", line, ACCTL_PROGRAM} + arguments, "C", "bash");
-}
-
-/// The simulator as a process of its own, so that what one run changes is there for the next.
-struct Simulator : SimulatorProcess {
-  explicit Simulator(const QStringList& options = {})
-      : SimulatorProcess(QStringList{"--projector", kRoom} + options) {}
-  QStringList At(const QStringList& arguments) const {
-    return QStringList{"--connect", Address("tcp")} + arguments;
-  }
-};
-
-MATCHER_P2(Ends, exitCode, errors, "") {
-  *result_listener << arg.exitCode << " and " << arg.errors;
-  return arg.exitCode == exitCode && testing::Value(arg.errors, errors);
-}
-
-/// Saves a projector's settings and changes many of them in the file.
-void SaveOthers(const QString& file) {
-  ASSERT_EQ(Acctl({"save", kRoom, file}).exitCode, 0);
-  Write(file, Contents(file).replace("\"value\": 128", "\"value\": 129"));
-}
 
 TEST(Acctl, AnswersWrongUseWithOneLineAndExitCode2) {
   const struct {

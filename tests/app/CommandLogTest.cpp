@@ -7,8 +7,8 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
-#include "app/host/CommandLog.h"
-#include "app/host/SettingNames.h"
+#include "app/desktop/log/CommandLog.h"
+#include "app/desktop/log/SettingNames.h"
 #include "tests/support/Programs.h"
 
 namespace {

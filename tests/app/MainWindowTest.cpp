@@ -24,13 +24,13 @@
 #include <QWheelEvent>
 #include <gtest/gtest.h>
 
-#include "app/host/CommandLog.h"
-#include "app/host/FaultPanel.h"
-#include "app/host/MainWindow.h"
-#include "app/host/ProfileEditor.h"
-#include "app/host/ProjectorFilter.h"
-#include "app/host/ProjectorView.h"
-#include "app/host/Translations.h"
+#include "app/desktop/log/CommandLog.h"
+#include "app/desktop/simulation/FaultPanel.h"
+#include "app/desktop/MainWindow.h"
+#include "app/desktop/profiles/ProfileEditor.h"
+#include "app/desktop/projectors/ProjectorFilter.h"
+#include "app/desktop/projectors/ProjectorView.h"
+#include "app/desktop/Translations.h"
 #include "host/CAdvanceDlg.h"
 #include "i18n/Catalog.h"
 #include "tests/support/Models.h"

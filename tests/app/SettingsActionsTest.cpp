@@ -8,8 +8,8 @@
 #include <QTreeView>
 #include <gtest/gtest.h>
 
-#include "app/host/ProjectorSession.h"
-#include "app/host/SettingsActions.h"
+#include "app/desktop/projectors/ProjectorSession.h"
+#include "app/desktop/settings/SettingsActions.h"
 #include "app/profiles/SettingsFile.h"
 
 namespace {

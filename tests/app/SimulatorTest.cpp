@@ -11,8 +11,8 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
-#include "app/host/MainWindow.h"
-#include "app/host/ProjectorView.h"
+#include "app/desktop/MainWindow.h"
+#include "app/desktop/projectors/ProjectorView.h"
 #include "app/profiles/ProfileFile.h"
 #include "device/BoundedChannel.h"
 #include "device/Connect.h"

@@ -2,6 +2,8 @@
 #include "settings/PageTables.h"
 #include "settings/setup/AudioLists.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 using Op = PjtOperation;
@@ -45,3 +47,5 @@ constexpr PageRow kRows[] = {
 }  // namespace
 
 constinit const PageTable kSetup4Rows{kRows};
+
+}  // namespace AdvancedControl

@@ -2,6 +2,8 @@
 #include "settings/PageTables.h"
 #include "settings/setup/AudioLists.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 using Op = PjtOperation;
@@ -157,3 +159,5 @@ static_assert(AreComplete(kModels, std::ssize(kRows) - 1));  // every model has 
 }  // namespace
 
 constinit const PageTable kSetupType5Rows{kRows, kModels, Unlisted::NoRow};
+
+}  // namespace AdvancedControl

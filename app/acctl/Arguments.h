@@ -43,7 +43,7 @@ struct Arguments {
   bool brief = false;
   bool dryRun = false;
   bool lenient = false;  ///< What is wrong in `file` is skipped.
-  bool force = false;  ///< Of `Apply`: also the undo file of another projector.
+  bool force = false;    ///< Of `Apply`: also the undo file of another projector.
 
   std::string error;  ///< One line; empty when the arguments can be followed.
 };

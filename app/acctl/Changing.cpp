@@ -190,9 +190,8 @@ QJsonObject Describe(const Change& change, const std::optional<Made>& made) {
 bool NeedsAsking(const Work& work, const Target& target, Report& report) {
   const std::vector<Change> changes = ChangesOf(work, target, report);
   const bool isComplete = 2 * changes.size() == work.arguments.words.size();
-  return !isComplete || std::ranges::any_of(changes, [](const Change& change) {
-    return change.typed.relative;
-  });
+  return !isComplete ||
+         std::ranges::any_of(changes, [](const Change& change) { return change.typed.relative; });
 }
 
 Report CheckSet(const Work& work, ProjectorAccess& projector) {

@@ -1,11 +1,10 @@
-#include "app/acctl/Reading.h"
-
 #include <map>
 #include <thread>
 
 #include <QJsonDocument>
 
 #include "app/acctl/Output.h"
+#include "app/acctl/Reading.h"
 #include "app/acctl/Uses.h"
 #include "settings/CatalogNumbers.h"
 
@@ -28,9 +27,8 @@ const char* NameOf(Kind kind) {
 
 std::vector<const ModelSetting*> States(const Target& target, Report& report) {
   std::vector<const ModelSetting*> states = Chosen(target, kRead, {}, report);
-  std::erase_if(states, [](const ModelSetting* setting) {
-    return setting->tab != Caption::TabStatus;
-  });
+  std::erase_if(states,
+                [](const ModelSetting* setting) { return setting->tab != Caption::TabStatus; });
   return states;
 }
 
@@ -51,7 +49,8 @@ QJsonObject Describe(const SettingTexts& texts, const ModelSetting& setting) {
   if (setting.kind == Kind::Choice) {
     QJsonArray entries;
     for (const ListEntry& entry : setting.entries) {
-      entries.append(QJsonObject{{"value", entry.value}, {"text", Wide(texts.Entry(setting, entry))}});
+      entries.append(
+          QJsonObject{{"value", entry.value}, {"text", Wide(texts.Entry(setting, entry))}});
     }
     json["entries"] = entries;
   }

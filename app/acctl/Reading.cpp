@@ -109,7 +109,7 @@ void ReadInto(const Work& work, ProjectorAccess& projector,
       unread.emplace_back(setting->key);
     } else if (IsNamed(work, *setting)) {
       ComplainOf(*setting, projector, kNotReadable, report);
-    } else {
+    } else if (!work.arguments.words.empty()) {
       notOffered.emplace_back(setting->key);
     }
     progress.step();

@@ -39,6 +39,6 @@ void TellUnread(const std::vector<std::string>& keys, std::optional<PowerState> 
                 const char* what, Report& report);
 
 /// Reads settings into the report; once the projector is gone no other is asked. What it does not
-/// offer is refused only where it was asked for by its key.
+/// offer is refused where it was asked for by its key, and told where a pattern means it.
 void ReadInto(const Work& work, ProjectorAccess& projector,
               const std::vector<const ModelSetting*>& settings, Report& report);

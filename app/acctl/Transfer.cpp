@@ -80,8 +80,7 @@ Told Judge(const Work& work, const Target& target, const Restoration& restoratio
 
 /// What is told: each setting, and beforehand those that are more than so already. What was changed
 /// beforehand, and is so therefore, is told once.
-std::vector<Told> Outcomes(const Work& work, const Target& target,
-                           const Restoration& restoration) {
+std::vector<Told> Outcomes(const Work& work, const Target& target, const Restoration& restoration) {
   std::vector<Told> outcomes;
   const auto add = [&](const RestoredSetting& restored) {
     outcomes.push_back(Judge(work, target, restoration, restored));
@@ -91,11 +90,11 @@ std::vector<Told> Outcomes(const Work& work, const Target& target,
   }
   const std::vector beforehand = outcomes;
   for (const RestoredSetting& restored : restoration.Settings()) {
-    const bool isTold = restored.outcome == Outcome::AlreadySo &&
-                        std::ranges::any_of(beforehand, [&](const Told& earlier) {
-                          return earlier.outcome == Outcome::Changed &&
-                                 earlier.restored->saved == restored.saved;
-                        });
+    const bool isTold =
+        restored.outcome == Outcome::AlreadySo &&
+        std::ranges::any_of(beforehand, [&](const Told& earlier) {
+          return earlier.outcome == Outcome::Changed && earlier.restored->saved == restored.saved;
+        });
     if (!isTold) add(restored);
   }
   return outcomes;
@@ -109,8 +108,7 @@ std::string Summary(const std::vector<Told>& outcomes) {
     if (count > 0) text += (text.empty() ? "" : ", ") + std::to_string(count) + ' ' + what;
   };
   for (const OutcomeList& list : kLists) {
-    const auto count =
-        static_cast<int>(std::ranges::count(outcomes, list.outcome, &Told::outcome));
+    const auto count = static_cast<int>(std::ranges::count(outcomes, list.outcome, &Told::outcome));
     if (list.text == nullptr) {
       skipped += count;
     } else {
@@ -224,8 +222,7 @@ Report RunSave(const Work& work, ProjectorAccess& projector) {
     return !isMeant(key) || !target.Carries(kKept, *target.settings.Find(key));
   });
   const ModelSetting* const input = target.settings.Input();
-  const bool isInputUnread =
-      input != nullptr && target.LacksEntries(*input) && isMeant(input->key);
+  const bool isInputUnread = input != nullptr && target.LacksEntries(*input) && isMeant(input->key);
   const auto power = unread.empty() && !isInputUnread ? std::nullopt : AskPower(projector);
   const bool rests = RestOf(power) != nullptr;
   if (isInputUnread && rests) unread.emplace_back(input->key);

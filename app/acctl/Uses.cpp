@@ -108,7 +108,8 @@ std::vector<const ModelSetting*> Chosen(const Target& target, const Use& use,
   for (const ModelSetting& setting : settings.All()) {
     const auto isNamed = [&](const std::string& word) { return names(word, setting); };
     const bool isMeant = words.empty() || std::ranges::any_of(words, isNamed);
-    if (isMeant && use.isPossible(setting) && target.Carries(use, setting)) chosen.push_back(&setting);
+    if (isMeant && use.isPossible(setting) && target.Carries(use, setting))
+      chosen.push_back(&setting);
   }
   for (const std::string& word : words) {
     const auto isNamed = [&](const ModelSetting* setting) { return names(word, *setting); };
@@ -125,10 +126,9 @@ std::vector<const ModelSetting*> Chosen(const Target& target, const Use& use,
     // One pattern serves projectors of every kind.
     const bool isSkipped = isPossible && settings.Find(word) == nullptr;
     const char* const refusal = isPossible ? kNotInPjLink : use.refusal;
-    report.Complain(
-        word + ": " + (isSkipped ? "skipped, " : "") +
-            (exists ? refusal : "this model has no such setting"),
-        isSkipped ? ExitCode::Done : ExitCode::WrongUse);
+    report.Complain(word + ": " + (isSkipped ? "skipped, " : "") +
+                        (exists ? refusal : "this model has no such setting"),
+                    isSkipped ? ExitCode::Done : ExitCode::WrongUse);
   }
   return chosen;
 }

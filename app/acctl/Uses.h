@@ -55,11 +55,11 @@ bool IsReadOverPjLink(const ModelSetting& setting, const ModelData& model);
 bool IsChangedOverPjLink(const ModelSetting& setting, const ModelData& model);
 bool IsResetOverPjLink(const ModelSetting& setting, const ModelData& model);
 
-inline constexpr Use kTold{
-    [](const ModelSetting&) { return true; }, "",
-    [](const ModelSetting& setting, const ModelData& model) {
-      return IsReadOverPjLink(setting, model) || IsChangedOverPjLink(setting, model);
-    }};
+inline constexpr Use kTold{[](const ModelSetting&) { return true; }, "",
+                           [](const ModelSetting& setting, const ModelData& model) {
+                             return IsReadOverPjLink(setting, model) ||
+                                    IsChangedOverPjLink(setting, model);
+                           }};
 inline constexpr Use kRead{[](const ModelSetting& setting) { return setting.readable; },
                            "this cannot be read", IsReadOverPjLink};
 inline constexpr Use kSet{[](const ModelSetting& setting) { return setting.changeable; },

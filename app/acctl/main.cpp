@@ -217,8 +217,8 @@ int RunOnProjectors(const Work& work, const std::vector<const ProjectorProfile*>
   const auto act = [&](int number, Act doing) {
     return ActOnProjector(work, *projectors[static_cast<std::size_t>(number)], doing, !several);
   };
-  const auto checked = CheckWords(work, projectors, meter,
-                                  [&](int number) { return act(number, CheckAsked); });
+  const auto checked =
+      CheckWords(work, projectors, meter, [&](int number) { return act(number, CheckAsked); });
   RunParallel(
       static_cast<int>(projectors.size()), arguments.jobs, meter,
       [&](int number) {

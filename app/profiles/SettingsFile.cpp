@@ -28,14 +28,12 @@ SettingsFileContents ReadSettingsFile(const QString& path) {
   // One byte more than the reader takes shows that the file is too large.
   const FileBytes file = ReadToEnd(path, JsonLines::kMaximumBytes + 1);
   if (!file.error.isEmpty()) {
-    return {
-        .error =
-            QCoreApplication::translate("SettingsFile", "cannot read %1: %2").arg(path, file.error)};
+    return {.error = QCoreApplication::translate("SettingsFile", "cannot read %1: %2")
+                         .arg(path, file.error)};
   }
   const bool isStream = path == "-";
   return ParseSettingsFile(
-      file.bytes,
-      isStream ? QCoreApplication::translate("SettingsFile", "standard input") : path);
+      file.bytes, isStream ? QCoreApplication::translate("SettingsFile", "standard input") : path);
 }
 
 SettingsFileContents ParseSettingsFile(const QByteArray& text, const QString& name) {

@@ -133,7 +133,7 @@ void SettingsActions::OpenFile(RestoreDialog::Purpose purpose, const ProjectorSe
 
 void SettingsActions::OpenRestoreDialog(RestoreDialog::Purpose purpose,
                                         const ProjectorSessions& sessions, const QString& path) {
-  SnapshotContents contents = ReadSettingsFile(path);
+  SettingsFileContents contents = ReadSettingsFile(path);
   if (!contents.error.isEmpty()) {
     return ShowError(window_, tr("Open Settings"), contents.error);
   }

@@ -1144,6 +1144,14 @@
         <translation>无法读取 %1：%2</translation>
     </message>
     <message>
+        <source>standard input</source>
+        <translation>标准输入</translation>
+    </message>
+    <message>
+        <source>%1 stands here twice</source>
+        <translation>%1 在此重复出现</translation>
+    </message>
+    <message>
         <source>%1; nothing was sent</source>
         <translation>%1；未发送任何设置</translation>
     </message>
@@ -1155,8 +1163,12 @@
 <context>
     <name>Snapshot</name>
     <message>
-        <source>must be a whole number of 16 bits</source>
-        <translation>必须是 16 位整数</translation>
+        <source>a whole number is missing here</source>
+        <translation>此处缺少整数</translation>
+    </message>
+    <message>
+        <source>must be a whole number from %1 to %2, and is %3</source>
+        <translation>必须是 %1 到 %2 的整数，现为 %3</translation>
     </message>
     <message>
         <source>must be a line of text</source>

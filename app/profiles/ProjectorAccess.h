@@ -40,6 +40,10 @@ class ProjectorAccess {
   /// entries, and what is read of them has a number or a kind instead of a name.
   bool LacksInputs() const { return lacksInputs_; }
 
+  bool IsPjLink() const { return pjLink_ != nullptr; }
+  /// Whether the inputs are those that the projector tells, as the profile names none.
+  bool TellsInputs() const { return tellsInputs_; }
+
   /// Steps a setting that can be stepped and not read, as the volume over PJLink, up so many times,
   /// or down where `steps` is below zero. Ends with the first step that is not accepted; the result
   /// is the number of those that were, and `Channel().Last()` says more.
@@ -61,4 +65,5 @@ class ProjectorAccess {
   CPjtInterface connection_;
   PjLinkFacts remembered_;
   bool lacksInputs_ = false;
+  bool tellsInputs_ = false;
 };

@@ -26,6 +26,8 @@ PjLinkChannel::PjLinkChannel(std::string host, int port, const std::string& pass
 
 PjLinkChannel::~PjLinkChannel() = default;
 
+bool PjLinkChannel::Has(const PjtCommand& command) { return PjLinkMapping::Find(command) != nullptr; }
+
 PjtReply PjLinkChannel::Execute(const PjtCommand& command) {
   session_.GiveUpAfter(longest_);
   if (!CanConnect() && PjLinkMapping::Find(command)) {

@@ -61,6 +61,9 @@ class ADVANCED_CONTROL_EXPORT PjLinkChannel : public ProjectorChannel {
   PjLinkChannel(const PjLinkChannel&) = delete;
   PjLinkChannel& operator=(const PjLinkChannel&) = delete;
 
+  /// Whether PJLink, of either class, has this command at all.
+  static bool Has(const PjtCommand& command);
+
   PjtReply Execute(const PjtCommand& command) override;
   /// For each request of a command; what is asked otherwise has the channel's own time.
   void GiveUpAfter(std::chrono::milliseconds time) override { longest_ = time; }

@@ -24,6 +24,7 @@ using namespace std::chrono_literals;
 
 constexpr auto kLookUp = 250ms;
 std::atomic<int> lookUps = 0;
+std::atomic<int> lookUps = 0;
 
 }  // namespace
 
@@ -32,6 +33,7 @@ extern "C" [[gnu::visibility("default")]] int getaddrinfo(const char* name, cons
                                                           const addrinfo* hints, addrinfo** found) {
   static const auto system =
       reinterpret_cast<decltype(&getaddrinfo)>(dlsym(RTLD_NEXT, "getaddrinfo"));
+  ++lookUps;
   ++lookUps;
   std::this_thread::sleep_for(kLookUp);
   return system(name, service, hints, found);

@@ -47,7 +47,7 @@ TEST(CommandLog, NamesTheSettingAndWhatCameOfIt) {
       {kRead, {.answered = false, .abandoned = true}, "Get Sharpness 0x2201\t\tleft"},
       {kRead, {.offered = false}, "Get Sharpness 0x2201\t\tnot offered"},
       {kChange, {.busy = true}, "Set Sharpness 0x2201\t0x82\tbusy"},
-      {kChange, {.result = 1, .pending = true}, "Set Sharpness 0x2201\t0x82\tnot done yet"},
+      {kChange, {.result = 1, .pending = true}, "Set Sharpness 0x2201\t0x82\tnot yet so"},
   };
   for (const auto& [command, reply, text] : cases) {
     CommandLogModel model;

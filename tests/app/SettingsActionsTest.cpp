@@ -56,7 +56,11 @@ TEST(SettingsActions, PutsBackWhatIsCheckedOnEveryProjector) {
   Snapshot snapshot = ReadSettingsFile(rooms.file).snapshot;
   snapshot.beforehand = {{"picture.sharpness", 129, ""}};
   snapshot.settings.insert(snapshot.settings.begin(), {"audio.volume", 16, "", 99});
-  RestoreDialog dialog(RestoreDialog::Purpose::Restore, snapshot, rooms.file, rooms.sessions);
+  RestoreDialog dialog(RestoreDialog::Purpose::Restore, snapshot, rooms.file, rooms.sessions,
+                       [](QObject*, const std::function<void()>& work) {
+                         work();
+                         return true;
+                       });
   dialog.show();
   ASSERT_TRUE(QTest::qWaitFor([&] { return Column(dialog, kSettingColumn).size() >= 50; }));
   EXPECT_EQ(Column(dialog, kResultColumn)[5], "not read");

@@ -2,18 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include <QApplication>
-#include <QElapsedTimer>
-#include <QLabel>
-#include <QPushButton>
-#include <QTabBar>
-#include <QTest>
-#include <gtest/gtest.h>
-
-#include "device/BoundedChannel.h"
-#include "pages/common/StatusLine.h"
-#include "tests/support/DialogDriver.h"
-#include "tests/support/PacedProjector.h"
+#include "tests/host/PacedDialog.h"
 #include "toolkit/CSliderCtrl.h"
 
 namespace {
@@ -31,62 +20,10 @@ constexpr int kBrightness = 20136;
 constexpr int kBrightnessField = 20329;
 constexpr int kClose = 1;
 
-// How long the channel waits for a projector that is silent for ever, and how long nobody waits who
-// does not wait for it.
-constexpr std::chrono::milliseconds kTimeOut = 20s, kTooLong = 10s, kForEver = 1h;
-
-class FlowTest : public testing::Test {
- protected:
-  explicit FlowTest(std::chrono::milliseconds timeOut = kTimeOut) {
-    dialog_.CopyData(&model_, 0);
-    dialog_.Projector().SetChannel(std::make_shared<BoundedChannel>(
-        projector_, BoundedChannel::Limits{.timeOut = timeOut, .retryAfter = 1h}));
-  }
-  ~FlowTest() override { projector_->Pace(0ms); }
-
-  void Open() {
-    ASSERT_TRUE(dialog_.CreateShown());
-    dialog_.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog_));
-  }
-  QTabBar& Tabs() { return *dialog_.findChild<QTabBar*>(); }
-  DialogDriver Page() { return DialogDriver(*dialog_.ShownPage()); }
-  QWidget* Veil() {
-    auto* last = qobject_cast<QWidget*>(dialog_.ShownPage()->children().last());
-    return last != nullptr && last->cursor().shape() == Qt::WaitCursor ? last : nullptr;
-  }
-  QString Status() { return dialog_.findChild<StatusLine*>()->findChild<QLabel*>()->text(); }
-  QPushButton& Retry() { return *dialog_.findChild<StatusLine*>()->findChild<QPushButton*>(); }
-  void ClickTab(int tab) {
-    QTest::mouseClick(&Tabs(), Qt::LeftButton, {}, Tabs().tabRect(tab).center());
-  }
-
-  QWidget* Focused() { return dialog_.focusWidget() != nullptr ? dialog_.focusWidget() : &dialog_; }
-
-  /// Makes the projector silent, and acts while the first command waits, which must not keep the
-  /// act.
-  void InTheWait(const std::function<void()>& act) {
-    projector_->Pace(kForEver);
-    look_.callOnTimeout(&look_, [this, act] {
-      if (!projector_->waiting) return;
-      look_.stop();
-      look_.disconnect();
-      QElapsedTimer clock;
-      clock.start();
-      act();
-      QTimer::singleShot(0, qApp, [clock] { EXPECT_FALSE(clock.hasExpired(kTooLong.count())); });
-    });
-    look_.start(20);
-  }
-
-  CModelInfo2 model_ = FullModel(5, 30);
-  std::shared_ptr<PacedProjector> projector_ = std::make_shared<PacedProjector>(model_);
-  CAdvanceDlg dialog_;
-  QTimer look_;
-};
+using FlowTest = PacedDialog;
 
 struct SilentProjectorTest : FlowTest {
-  SilentProjectorTest() : FlowTest(3s) {}
+  SilentProjectorTest() : FlowTest(std::chrono::seconds(3)) {}
 };
 
 TEST_F(FlowTest, ClosingActsAtOnceInRefreshesAndChangesAndSendsNothingMore) {
@@ -129,35 +66,6 @@ TEST_F(FlowTest, ClosingActsAtOnceInRefreshesAndChangesAndSendsNothingMore) {
       EXPECT_THAT(boxes.Take(), IsEmpty());
     }
   }
-}
-
-TEST_F(FlowTest, AnotherModelGivenMeanwhileIsThatOfTheNextCreation) {
-  Open();
-  CModelInfo2 other = FullModel(4, 9);
-  other.ConnectionKinds[0] = 0;
-  other.ConnectionNumbers[0] = 6;
-  const QString title = dialog_.windowTitle();
-  const int tabs = Tabs().count();
-  for (const bool waiting : {true, false}) {
-    if (waiting) {
-      InTheWait([&] {
-        dialog_.CopyData(&other, 0);
-        projector_->Pace(0ms);
-      });
-    } else {
-      dialog_.CopyData(&other, 0);
-    }
-    for (int tab = 0; tab < tabs; ++tab) ClickTab(tab);
-    dialog_.DispTabScreen();
-    EXPECT_EQ(dialog_.Model().ModelCode, 30);
-  }
-  dialog_.close();
-  EXPECT_EQ(dialog_.windowTitle(), title);
-  Open();
-  EXPECT_EQ(dialog_.Model().ModelCode, 9);
-  EXPECT_EQ(dialog_.Projector().ConnectionNumber(), 6);
-  EXPECT_NE(dialog_.windowTitle(), title);
-  for (int tab = 0; tab < Tabs().count(); ++tab) ClickTab(tab);
 }
 
 TEST_F(FlowTest, ClosingAPopUpLeavesThePopUpAlone) {
@@ -268,12 +176,12 @@ TEST_F(SilentProjectorTest, NoAnswerIsToldAndTriedAgain) {
   EXPECT_EQ(Page().Item<QWidget>(kIris).toolTip(), QString());
 }
 
-TEST_F(FlowTest, ABusyProjectorAndAChangeThatIsNotDoneYetAreTold) {
+TEST_F(FlowTest, ABusyProjectorAndAChangeThatIsNotYetSoAreTold) {
   Open();
   ClickTab(kPictureTab);
   projector_->late = true;
   Page().Choose(kIris, 1);
-  EXPECT_EQ(Status(), QStringLiteral("Accepted; the projector has not done it yet"));
+  EXPECT_EQ(Status(), QStringLiteral("Accepted, not yet so"));
   EXPECT_FALSE(Retry().isVisible());
   projector_->late = false;
   Page().Choose(kIris, 2);

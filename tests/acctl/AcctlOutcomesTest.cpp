@@ -235,6 +235,21 @@ TEST(AcctlPjLink, OffersOnlyWhatTheProtocolHasAndTellsInputsOfOneNameApart) {
   EXPECT_THAT(run({"set", "Any", "other.input-source", "31"}), Ends(0, ""));
 }
 
+TEST(AcctlPjLink, StepsTheVolumeThatNobodyCanRead) {
+  int volume = 1;
+  ScriptedPjLink projector([&volume, others = Projector("1")](const std::string& request) {
+    if (request == "CLSS ?") return std::string("2");
+    if (request == "SVOL 1") return std::string(++volume > 3 ? "ERR2" : "OK");
+    return others(request);
+  });
+  const auto set = [&](const char* value) {
+    return Acctl(projector.At({"set", "Projector 4-24", "setup.volume", value}));
+  };
+  EXPECT_THAT(set("+2"), Ends(0, ""));
+  EXPECT_THAT(set("+2"), Ends(1, HasSubstr("setup.volume: refused after 0 of 2 steps\n")));
+  EXPECT_THAT(set("5"), Ends(2, HasSubstr("setup.volume: '5' is no step like +1 or -1")));
+}
+
 TEST(AcctlPjLink, TellsAcceptedAndNotYetSoBusyAndUnconfirmedApart) {
   const AnyProfile any;
   const QStringList set{"--json", "set", "Any", "other.mute", "on"};

@@ -49,6 +49,7 @@ void ProjectorAccess::AskForInputs(InputsNeeded needed) {
     std::tie(inputs, areTold) = pjLink_->AskForInputs();
   }
   lacksInputs_ = !areTold;
+  if (lacksInputs_ && !pjLink_->HasAnswered()) channel_->GiveUp();
   if (inputs.empty()) return;
   model_.MySourceList = SourcesOf(inputs);
   settings_ = ModelSettings(MakeModelData(model_));

@@ -36,8 +36,8 @@ class ProjectorAccess {
   /// Asks a PJLink projector for its inputs where the profile names none and they are not
   /// remembered.
   void AskForInputs(InputsNeeded needed = InputsNeeded::All);
-  /// Whether inputs were asked for and not told, so that settings that choose one lack entries, and
-  /// what is read of them has a number instead of a name.
+  /// Whether inputs were asked for and the answer got lost, so that settings that choose one lack
+  /// entries, and what is read of them has a number or a kind instead of a name.
   bool LacksInputs() const { return lacksInputs_; }
 
   bool IsPjLink() const { return pjLink_ != nullptr; }

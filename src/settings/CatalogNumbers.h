@@ -269,7 +269,7 @@ inline constexpr int OtherVersion = 4315;
 inline constexpr int PasswordRequired = 4316;
 
 // What became of a change, beside Close.
-inline constexpr int NotDoneYet = 4317;
+inline constexpr int NotYetSo = 4317;
 inline constexpr int NotPossibleNow = 4318;
 
 // A row's context menu, and the search for a row.

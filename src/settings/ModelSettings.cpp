@@ -30,8 +30,8 @@ void Describe(const ValueRow& row, const ModelData& model, ModelSetting& setting
   setting.bias = row.bias;
   setting.changeable = true;
   setting.of = row.of;
-  setting.ofCurrentSourceOnly = row.code == CommandCode::Volume;
-  if (row.ids.slider == 0) return;
+  setting.ofCurrentSourceOnly = row.ofCurrentSourceOnly;
+  if (row.stepsOnly) return;
   const Range shown = SliderRange(row, model);
   setting.range = Range{shown.minimum + row.bias, shown.maximum + row.bias};
 }
@@ -82,7 +82,7 @@ bool ModelSetting::SelectsInput() const {
 
 bool ModelSetting::IsStepped() const {
   const auto* number = std::get_if<ValueRow>(row);
-  return number != nullptr && number->ids.slider == 0;
+  return number != nullptr && number->stepsOnly;
 }
 
 bool ModelSetting::Allows(int value) const {
@@ -178,38 +178,7 @@ std::optional<int> ModelSettings::Read(CPjtInterface& projector, const ModelSett
 
 bool ModelSettings::Change(CPjtInterface& projector, const ModelSetting& setting, int value,
                            const Sending& how) const {
-  if (setting.IsStepped()) {
-    return StepTo(projector, std::get<ValueRow>(*setting.row), value, how);
-  }
-  const auto* list = std::get_if<ListRow>(setting.row);
-  if (list != nullptr && list->rules.tellsText) projector.SettingText = how.text;
-  return SendRow(projector, *setting.row, *model_, value, how.source);
-}
-
-// A row with two arrow buttons has nothing else that changes it. A step whose answer got lost may
-// have been made, so that only reading tells.
-bool ModelSettings::StepTo(CPjtInterface& projector, const ValueRow& row, int value,
-                           const Sending& how) const {
-  constexpr int kMostSteps = 4096;
-  constexpr int kMostFailures = 3;
-  const Range bounds = StepBounds(row, *model_, kUnbounded);
-  auto present = ReadRow(projector, row, *model_, how.source);
-  // What cannot be reached is not begun.
-  if (present && std::abs(*present - value) > kMostSteps) return false;
-  int failures = 0;
-  for (int i = 0; i < kMostSteps && present && *present != value && how.goesOn(); ++i) {
-    const bool upwards = *present < value;
-    const int shown = *present - row.bias;
-    auto now = Step(projector, row, upwards, how.source.value_or(0), bounds, shown).value;
-    if (!now) now = ReadRow(projector, row, *model_, how.source);
-    // A projector that steps too far would be stepped to and fro for ever.
-    const bool isNearer = now && (upwards ? *now > *present && *now <= value  //
-                                          : *now < *present && *now >= value);
-    if (!isNearer && ++failures == kMostFailures) return false;
-    if (isNearer) failures = 0;
-    present = now;
-  }
-  return present == value;
+  return SendRow(projector, *setting.row, *model_, value, how) == Sent::Accepted;
 }
 
 }  // namespace AdvancedControl

@@ -83,7 +83,7 @@ TEST(Sweep, EveryControlHasItsOwnNumberANameAndExactlyOneHandler) {
 TEST(Sweep, APageTellsWhatItWillRead) {
   ForEachPage([](OpenDialog& open, CTabPage& page) {
     open.Projector().Take();
-    for (const PjtCommand& command : page.Reads()) open.Projector().Execute(command);
+    for (const PjtCommand& command : page.Reader().Reads()) open.Projector().Execute(command);
     const std::vector<std::string> told = open.Projector().Take();
     page.InitDisp();
     std::vector<std::string> sent = open.Projector().Take();

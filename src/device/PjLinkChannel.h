@@ -10,7 +10,7 @@
 #include <utility>
 #include <vector>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorCommonExport.h"
 #include "device/ConnectionState.h"
 #include "device/ModelData.h"
 #include "device/ProjectorChannel.h"
@@ -35,7 +35,7 @@ struct PjLinkDescription {
 };
 
 /// The inputs as a model's source list; those that it has no room for are left out.
-ADVANCED_CONTROL_EXPORT SourceList SourcesOf(const std::vector<PjLinkInput>& inputs);
+PROJECTOR_COMMON_EXPORT SourceList SourcesOf(const std::vector<PjLinkInput>& inputs);
 
 /// The way to a projector of any maker that speaks PJLink, class 1 or 2, over TCP.
 ///
@@ -53,7 +53,7 @@ ADVANCED_CONTROL_EXPORT SourceList SourcesOf(const std::vector<PjLinkInput>& inp
 /// the one that plays takes the last place.
 ///
 /// Blocks without an event loop, up to `Limits::Longest`: belongs behind a `BoundedChannel`.
-class ADVANCED_CONTROL_EXPORT PjLinkChannel : public ProjectorChannel {
+class PROJECTOR_COMMON_EXPORT PjLinkChannel : public ProjectorChannel {
  public:
   struct Limits {
     std::chrono::milliseconds connect{2000};  ///< From the start until the projector has greeted.

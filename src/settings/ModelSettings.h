@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorSettingsExport.h"
 #include "device/CPjtInterface.h"
 #include "settings/PageSets.h"
 #include "settings/RowUse.h"
@@ -17,7 +17,7 @@
 inline namespace AdvancedControl {
 
 /// One setting of a model, as a program without a window sees it.
-struct ADVANCED_CONTROL_EXPORT ModelSetting {
+struct PROJECTOR_SETTINGS_EXPORT ModelSetting {
   enum class Kind : std::uint8_t {
     Number,  ///< Any whole number of `range`.
     Choice,  ///< The value of one of `entries`; switches are choices too.
@@ -68,7 +68,7 @@ struct Sending {
 
 /// All settings of a model in the order of its pages, the pop-ups' behind those of the page that
 /// opens them.
-class ADVANCED_CONTROL_EXPORT ModelSettings {
+class PROJECTOR_SETTINGS_EXPORT ModelSettings {
  public:
   explicit ModelSettings(ModelData model);
 

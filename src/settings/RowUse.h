@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorSettingsExport.h"
 #include "settings/Rows.h"
 
 inline namespace AdvancedControl {
@@ -11,25 +11,25 @@ inline namespace AdvancedControl {
 
 /// Asks for the input source that a row belongs to: nothing while the projector does not say
 /// enough; 0, without asking, for a row that belongs to none.
-ADVANCED_CONTROL_EXPORT std::optional<int> AskSource(CPjtInterface& projector, OfSource of,
-                                                     int modelCode);
+PROJECTOR_SETTINGS_EXPORT std::optional<int> AskSource(CPjtInterface& projector, OfSource of,
+                                                       int modelCode);
 /// The source that stands for none: what a model plays while it does not run. Nothing for a row
 /// that does not belong to it.
 std::optional<int> StandbySource(OfSource of, int modelCode);
 /// What `AskSource` will ask first, in order.
-ADVANCED_CONTROL_EXPORT std::span<const Call> SourceQuestions(OfSource of);
+PROJECTOR_SETTINGS_EXPORT std::span<const Call> SourceQuestions(OfSource of);
 
 /// Reads a row's setting; nothing when that fails, or for a row that shows none. `source` is taken
 /// instead of asking for the one that the row belongs to.
-ADVANCED_CONTROL_EXPORT std::optional<int> ReadRow(CPjtInterface& projector, const PageRow& row,
-                                                   const ModelData& model,
-                                                   std::optional<int> source = {});
+PROJECTOR_SETTINGS_EXPORT std::optional<int> ReadRow(CPjtInterface& projector, const PageRow& row,
+                                                     const ModelData& model,
+                                                     std::optional<int> source = {});
 
 /// Sends a value: an entry's of a list, 0 or 1 of a switch. False when it was refused, or the row
 /// does not take it; a setter without a result never refuses. `source` as above.
-ADVANCED_CONTROL_EXPORT bool SendRow(CPjtInterface& projector, const PageRow& row,
-                                     const ModelData& model, int value,
-                                     std::optional<int> source = {});
+PROJECTOR_SETTINGS_EXPORT bool SendRow(CPjtInterface& projector, const PageRow& row,
+                                       const ModelData& model, int value,
+                                       std::optional<int> source = {});
 
 /// What came of a step: refused, or the new value; neither where nothing was sent, or where the new
 /// value could not be read.
@@ -39,10 +39,10 @@ struct Stepped {
 };
 
 /// Steps a row inside `bounds`, which are shown values, as `known` is, the one known last.
-ADVANCED_CONTROL_EXPORT Stepped Step(CPjtInterface& projector, const ValueRow& row, bool upwards,
-                                     int source, Range bounds, int known);
+PROJECTOR_SETTINGS_EXPORT Stepped Step(CPjtInterface& projector, const ValueRow& row, bool upwards,
+                                       int source, Range bounds, int known);
 /// The same from the value that the projector has.
-ADVANCED_CONTROL_EXPORT Stepped Step(CPjtInterface& projector, const ValueRow& row,
-                                     const ModelData& model, bool upwards);
+PROJECTOR_SETTINGS_EXPORT Stepped Step(CPjtInterface& projector, const ValueRow& row,
+                                       const ModelData& model, bool upwards);
 
 }  // namespace AdvancedControl

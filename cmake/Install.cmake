@@ -69,10 +69,13 @@ public_headers(AdvancedControl
   pages/setup/CSetupType5TabDlg.h
   # What those include.
   pages/common/CTabPage.h
+  pages/common/PageReader.h
   pages/common/RowDialog.h
+  pages/common/RowMenus.h
   pages/common/SettingsDialog.h
-  pages/common/ValueControls.h
   pages/picture/PicturePage.h
+  pages/rows/RowHost.h
+  pages/rows/RowView.h
   toolkit/CDialog.h
   toolkit/CWnd.h
   toolkit/DialogTemplate.h

@@ -1,8 +1,10 @@
 #include "app/profiles/ProjectorAccess.h"
 
 #include <cstdlib>
+#include <tuple>
 #include <utility>
 
+#include "app/profiles/PjLinkCache.h"
 #include "device/ModelDataIntake.h"
 
 SimulatedModel SimulatedModelOf(const ProjectorProfile& profile) {
@@ -19,25 +21,44 @@ ProjectorAccess::ProjectorAccess(const ProjectorProfile& profile,
       settings_(MakeModelData(model_)),
       pjLink_(std::dynamic_pointer_cast<PjLinkChannel>(channel)),
       channel_(std::make_shared<PatientChannel>(std::move(channel), timeOut)) {
+  tellsInputs_ = pjLink_ != nullptr && model_.MySourceList.Size() == 0;
   connection_.SetChannel(channel_);
+  if (!pjLink_) return;
+  remembered_ = ReadPjLinkCache(pjLink_->Address());
+  pjLink_->Remember(remembered_);
+}
+
+ProjectorAccess::~ProjectorAccess() {
+  if (!pjLink_) return;
+  const PjLinkFacts known = pjLink_->Facts();
+  const bool isMore = known.protocolClass && known != remembered_ &&
+                      (!known.inputs.empty() || remembered_.inputs.empty());
+  if (isMore) WritePjLinkCache(pjLink_->Address(), known);
 }
 
 void ProjectorAccess::AskForInputs(InputsNeeded needed) {
   const bool areKnown = pjLink_ == nullptr || model_.MySourceList.Size() > 0;
   if (areKnown || needed == InputsNeeded::None) return;
-  // A description is not asked patiently, so that a command tells first whether anybody is there.
-  if (!channel_->Execute({.operation = PjtOperation::GetInputSource}).answered) return;
-  const auto description = pjLink_->Describe();
-  lacksInputs_ = !description;
-  if (lacksInputs_) return;
-  model_.MySourceList = SourcesOf(description->inputs);
+  std::vector<PjLinkInput> inputs;
+  bool areTold = false;
+  if (needed == InputsNeeded::Present) {
+    const auto [input, isTold] = pjLink_->AskForPresentInput();
+    if (input) inputs.push_back(*input);
+    areTold = isTold;
+  } else {
+    std::tie(inputs, areTold) = pjLink_->AskForInputs();
+  }
+  lacksInputs_ = !areTold;
+  if (lacksInputs_ && !pjLink_->HasAnswered()) channel_->GiveUp();
+  if (inputs.empty()) return;
+  model_.MySourceList = SourcesOf(inputs);
   settings_ = ModelSettings(MakeModelData(model_));
 }
 
 bool ProjectorAccess::HasSteps(const ModelSetting& setting) {
   const auto* const row = std::get_if<ValueRow>(setting.row);
   return row != nullptr && row->of == OfSource::None &&
-         FamilyOf(row->Stepping(true, 0).operation) == OperationFamily::Generic;
+         FamilyOf(row->Stepping(true, 0).operation) == OperationFamily::GenericStepper;
 }
 
 int ProjectorAccess::StepUnread(const ModelSetting& setting, int steps) {

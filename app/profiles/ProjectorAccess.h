@@ -21,19 +21,28 @@ enum class InputsNeeded {
   All,
 };
 
-/// A projector of a profile file as a program without a window uses it. One thread at a time.
+/// A projector of a profile file as a program without a window uses it. One thread at a time. What
+/// a PJLink projector is, is remembered for the next program.
 class ProjectorAccess {
  public:
   /// `timeOut` is that of the channel, for one answer.
   ProjectorAccess(const ProjectorProfile& profile, std::shared_ptr<ProjectorChannel> channel,
                   std::chrono::milliseconds timeOut = std::chrono::seconds(2));
 
-  /// Asks a PJLink projector for its inputs where the profile names none. One that is silent costs
-  /// one time-out, and is gone then.
+  ~ProjectorAccess();
+  ProjectorAccess(const ProjectorAccess&) = delete;
+  ProjectorAccess& operator=(const ProjectorAccess&) = delete;
+
+  /// Asks a PJLink projector for its inputs where the profile names none and they are not
+  /// remembered.
   void AskForInputs(InputsNeeded needed = InputsNeeded::All);
-  /// Whether inputs were asked for and not told, so that settings that choose one lack entries, and
-  /// what is read of them has a number instead of a name.
+  /// Whether inputs were asked for and the answer got lost, so that settings that choose one lack
+  /// entries, and what is read of them has a number or a kind instead of a name.
   bool LacksInputs() const { return lacksInputs_; }
+
+  bool IsPjLink() const { return pjLink_ != nullptr; }
+  /// Whether the inputs are those that the projector tells, as the profile names none.
+  bool TellsInputs() const { return tellsInputs_; }
 
   /// Steps a setting that can be stepped and not read, as the volume over PJLink, up so many times,
   /// or down where `steps` is below zero. Ends with the first step that is not accepted; the result
@@ -54,5 +63,7 @@ class ProjectorAccess {
   std::shared_ptr<PjLinkChannel> pjLink_;  ///< Null for any other way.
   std::shared_ptr<PatientChannel> channel_;
   CPjtInterface connection_;
+  PjLinkFacts remembered_;
   bool lacksInputs_ = false;
+  bool tellsInputs_ = false;
 };

@@ -15,6 +15,8 @@
 #include <QEventLoop>
 #include <QTimer>
 
+#include "device/DropException.h"
+
 namespace {
 
 using Clock = std::chrono::steady_clock;
@@ -32,6 +34,12 @@ PjtReply Unanswered(const PjtCommand& command) {
   return {.result = RefusedResult(command.operation), .answered = false};
 }
 
+PjtReply Unsent(const PjtCommand& command) {
+  PjtReply reply = Unanswered(command);
+  reply.unsent = true;
+  return reply;
+}
+
 // A channel that throws has not answered.
 PjtReply Ask(ProjectorChannel& channel, std::optional<std::chrono::milliseconds> longest,
              const std::optional<std::vector<PjtCommand>>& announced, const PjtCommand& command) {
@@ -40,6 +48,7 @@ PjtReply Ask(ProjectorChannel& channel, std::optional<std::chrono::milliseconds>
     if (announced) channel.Announce(*announced);
     return channel.Execute(command);
   } catch (...) {
+    DropException();
     return Unanswered(command);
   }
 }
@@ -48,6 +57,7 @@ bool SpendIdleTime(ProjectorChannel& channel) {
   try {
     return channel.UseIdleTime();
   } catch (...) {  // likewise
+    DropException();
     return false;
   }
 }
@@ -57,6 +67,7 @@ bool Tend(ProjectorChannel& channel, Clock::time_point lastUse) {
     return channel.TendConnection(
         std::chrono::floor<std::chrono::milliseconds>(Clock::now() - lastUse));
   } catch (...) {  // likewise
+    DropException();
     return false;
   }
 }
@@ -185,6 +196,7 @@ Value BoundedChannel::Told(State& state, Value otherwise, auto ask) {
   try {
     if (state.inner) return ask(*state.inner);
   } catch (...) {
+    DropException();
   }
   return otherwise;
 }
@@ -214,13 +226,13 @@ PjtReply BoundedChannel::Execute(const PjtCommand& command) {
   std::unique_lock lock(state->mutex);
   if (!state->inner || state->ended || state->waiting ||
       (state->outstanding && !state->abandoned) || Clock::now() < state->silentUntil) {
-    return Unanswered(command);
+    return Unsent(command);
   }
   if (!state->worker.joinable()) {
     try {
       state->worker = std::thread([state] { state->Work(); });
     } catch (const std::system_error&) {
-      return Unanswered(command);
+      return Unsent(command);
     }
   }
 
@@ -230,7 +242,8 @@ PjtReply BoundedChannel::Execute(const PjtCommand& command) {
   if (start > state->lastReturn + kPause) state->stillSince = start;
   const bool free =
       !state->outstanding || state->WaitUntil(lock, wait, [&] { return !state->outstanding; });
-  if (free && !state->ended) {
+  const bool isSent = free && !state->ended;
+  if (isSent) {
     state->command = command;
     state->outstanding = true;
     state->abandoned = false;
@@ -250,7 +263,7 @@ PjtReply BoundedChannel::Execute(const PjtCommand& command) {
     state->silentUntil =
         state->lastReturn + (isQuick ? std::min(pause, kRetryAfterQuickFailure) : pause);
   }
-  PjtReply reply = wait.reply.value_or(Unanswered(command));
+  PjtReply reply = wait.reply.value_or(isSent ? Unanswered(command) : Unsent(command));
   reply.abandoned = wait.abandoned;
   return reply;
 }

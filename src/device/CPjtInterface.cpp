@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "device/Connect.h"
+#include "device/DropException.h"
 #include "device/ModelData.h"
 
 namespace {
@@ -30,6 +31,7 @@ void Guarded(const auto& act) {
   try {
     act();
   } catch (...) {
+    DropException();
   }
 }
 

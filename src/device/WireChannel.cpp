@@ -32,7 +32,8 @@ WireChannel::WireChannel(Medium medium, const Limits& limits)
 WireChannel::~WireChannel() = default;
 
 PjtReply WireChannel::Execute(const PjtCommand& command) {
-  const PjtReply unanswered{.result = RefusedResult(command.operation), .answered = false};
+  PjtReply unanswered{.result = RefusedResult(command.operation), .answered = false};
+  isSent_ = false;
   if (!IsRead(command.operation)) {
     announced_.clear();
     sent_.clear();
@@ -46,7 +47,11 @@ PjtReply WireChannel::Execute(const PjtCommand& command) {
   if (IsForgotten(reply)) reply = ask();
   lastAsked_ = Clock::now();
   if (IsForgotten(reply)) Fail(ConnectionState::NotUnderstood);
+  // Nothing is carried out without a version in common.
+  const bool isInVain = IsForgotten(reply) || state_ == ConnectionState::OtherVersion;
+  unanswered.unsent = !isSent_ || isInVain;
   if (!reply || IsForgotten(reply)) return unanswered;
+  unanswered.unsent = false;
   state_ = ConnectionState::Connected;
   switch (reply->status) {
     case Wire::Status::Answered:
@@ -126,6 +131,7 @@ std::optional<Wire::Reply> WireChannel::Ask(const PjtCommand& command) {
       Send({&*announced, count});
       announced_.erase(announced_.begin(), announced + static_cast<std::ptrdiff_t>(count));
     }
+    isSent_ = true;
     if (!Write(Within(limits_.answer)) || !AwaitWelcome()) return std::nullopt;
     own = sent_.begin();
   }

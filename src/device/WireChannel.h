@@ -103,6 +103,7 @@ class PROJECTOR_COMMON_EXPORT WireChannel : public ProjectorChannel {
   std::chrono::steady_clock::time_point welcomeBy_{};
   std::optional<std::chrono::milliseconds> longest_;  ///< For a command.
   std::chrono::steady_clock::time_point giveUpAt_ = std::chrono::steady_clock::time_point::max();
+  bool isSent_ = false;                ///< The command under way, as far as that may be.
   std::string unsent_;                 ///< Goes out with the next write.
   std::vector<PjtCommand> announced_;  ///< Not sent yet.
   std::deque<Sent> sent_;

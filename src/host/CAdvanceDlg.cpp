@@ -274,7 +274,7 @@ void CAdvanceDlg::ShowSelectedPage() {
   }
   shownPage_ = PageBehind(tabs_->currentIndex());
   if (shownPage_ == nullptr) return;
-  shownPage_->MarkUnread();
+  shownPage_->Reader().MarkUnread();
   shownPage_->show();
   scroll_->widget()->layout()->activate();
 }
@@ -298,11 +298,12 @@ void CAdvanceDlg::OnIdle() {
 
 void CAdvanceDlg::ShowWaiting(bool waiting) {
   for (const auto& page : pages_->byId) {
-    if (page->Template() != nullptr) page->ShowWaiting(waiting && page.get() == shownPage_);
+    if (page->Template() != nullptr)
+      page->Reader().ShowWaiting(waiting && page.get() == shownPage_);
   }
   QString text;
   if (waiting) {
-    text = shownPage_ != nullptr ? shownPage_->WaitingText()
+    text = shownPage_ != nullptr ? shownPage_->Reader().WaitingText()
                                  : CatalogString(kListCategory, ListText::Waiting);
   }
   status_->ShowProgress(text);

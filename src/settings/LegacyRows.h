@@ -36,7 +36,8 @@ constexpr ValueRow PlainSlider(std::string_view key, int caption, const ValueIds
 /// A number field with two buttons, which only the projector bounds.
 constexpr ValueRow SteppedField(std::string_view key, int caption, const ValueIds& ids,
                                 std::uint16_t code, int error) {
-  return {.key = key, .caption = caption, .ids = ids, .code = code, .error = error};
+  return {
+      .key = key, .caption = caption, .ids = ids, .code = code, .stepsOnly = true, .error = error};
 }
 
 /// The picture's place on the screen: up raises the vertical position, left the horizontal one.

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <span>
@@ -58,13 +57,8 @@ struct SourcedSetting {
   std::optional<int> source{};  ///< Nothing for one that belongs to none, or while unknown.
 };
 
-/// How a value is sent, beside the value.
-struct Sending {
-  std::string text{};           ///< The entry's, which some connections are told.
-  std::optional<int> source{};  ///< Instead of the present one.
-  /// Asked before each of the steps that a setting without a setter needs.
-  std::function<bool()> goesOn = [] { return true; };
-};
+/// The keys of every model's settings; some stand here more than once.
+PROJECTOR_SETTINGS_EXPORT std::vector<std::string_view> AllKeys();
 
 /// All settings of a model in the order of its pages, the pop-ups' behind those of the page that
 /// opens them.
@@ -102,7 +96,6 @@ class PROJECTOR_SETTINGS_EXPORT ModelSettings {
               const Sending& how = {}) const;
 
  private:
-  bool StepTo(CPjtInterface& projector, const ValueRow& row, int value, const Sending& how) const;
   void Add(const PageTable& table, int tab);
 
   std::shared_ptr<const ModelData> model_;

@@ -35,8 +35,10 @@ constexpr ValueRow Contrast(std::string_view key, const ValueIds& ids) {
                        RangeIndex::Contrast);
 }
 constexpr ValueRow Volume(std::string_view key, const ValueIds& ids) {
-  return PlainSlider(key, 1, ids, CommandCode::Volume, ErrorText::VolumeRefused, RangeIndex::Volume,
-                     {0, 32}, 4);
+  ValueRow row = PlainSlider(key, 1, ids, CommandCode::Volume, ErrorText::VolumeRefused,
+                             RangeIndex::Volume, {0, 32}, 4);
+  row.ofCurrentSourceOnly = true;
+  return row;
 }
 /// Minutes; 0 is off.
 constexpr ValueRow AutoOff(std::string_view key, const ValueIds& ids) {

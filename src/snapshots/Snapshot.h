@@ -16,7 +16,7 @@ inline namespace AdvancedControl {
 struct SavedSetting {
   std::string key;
   int value = 0;                ///< Device value.
-  std::string text;             ///< As it was shown, for people; nobody reads it back.
+  std::string text;             ///< As it was shown, for people; what counts is the value.
   std::optional<int> source{};  ///< That it belongs to, where it is kept for each.
 
   friend bool operator==(const SavedSetting&, const SavedSetting&) = default;
@@ -33,6 +33,7 @@ struct Snapshot {
   /// Put back before all others and one after another, so that a setting may stand here several
   /// times: what other sources and modes kept for themselves.
   std::vector<SavedSetting> beforehand{};
+  bool isUndo = false;  ///< What a restoration replaced; it makes sense on that projector alone.
 
   friend bool operator==(const Snapshot&, const Snapshot&) = default;
 };
@@ -62,6 +63,7 @@ PROJECTOR_SETTINGS_EXPORT QByteArray WriteSnapshot(const Snapshot& snapshot);
 struct SnapshotContents {
   Snapshot snapshot;
   QString error;  ///< One line: the place in the text and what is wrong; empty when all is well.
+  QString path;   ///< Of what is wrong, as "settings[3].value"; empty where it is the whole text.
 };
 
 /// Reads what `WriteSnapshot` wrote, by whoever it was edited since. Unknown members are ignored.

@@ -12,7 +12,7 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-#include "app/host/ProfileDocument.h"
+#include "app/desktop/profiles/ProfileDocument.h"
 #include "app/profiles/ProfileFile.h"
 #include "tests/support/Models.h"
 #include "tests/support/Programs.h"
@@ -58,7 +58,7 @@ const WrongFile kWrongFiles[] = {
     {R"("connection": {"network": {}, "serial": {}})", "connection: must have"},
     {R"("connection": {"network": {"address": "a", "port": 65536}})",
      "connection.network.port: is 65536; it must be 1 to 65535"},
-    {R"("connection": {"network": {"address": "192.0.2", "port": 4352}}})",
+    {R"("connection": {"network": {"address": "192.0.2", "port": 4352}})",
      "connection.network.address: is neither the name of a host nor an IP address"},
     {R"("connection": {"serial": {"port": 0}})", "connection.serial.port: is 0;"},
     {R"("connection": {"serial": {"port": 257}})",

@@ -26,6 +26,7 @@ constexpr ValueRow MenuPosition(std::string_view key, const ValueIds& ids, std::
           .caption = 132,
           .ids = ids,
           .code = code,
+          .stepsOnly = true,
           .error = ErrorText::MenuPositionRefused,
           .greysField = true};
 }

@@ -75,6 +75,7 @@ constexpr ValueRow Shift(std::string_view key, const ValueIds& ids, std::uint16_
           .down = AnyResult(Dec(code)),
           .up = AnyResult(Inc(code)),
           .bias = CommandCode::kZeroPoint,
+          .stepsOnly = true,
           .error = ErrorText::DShiftRefused};
 }
 

@@ -298,7 +298,8 @@ void CAdvanceDlg::OnIdle() {
 
 void CAdvanceDlg::ShowWaiting(bool waiting) {
   for (const auto& page : pages_->byId) {
-    if (page->Template() != nullptr) page->Reader().ShowWaiting(waiting && page.get() == shownPage_);
+    if (page->Template() != nullptr)
+      page->Reader().ShowWaiting(waiting && page.get() == shownPage_);
   }
   QString text;
   if (waiting) {

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <span>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorSettingsExport.h"
 
 inline namespace AdvancedControl {
 
@@ -54,9 +54,9 @@ struct PageTab {
 
 /// The pages that a page set creates after the status page, in order; none for a dialog type
 /// outside 1..5. Some get no tab on some models.
-ADVANCED_CONTROL_EXPORT std::span<const PageId> PagesOf(int dialogType);
+PROJECTOR_SETTINGS_EXPORT std::span<const PageId> PagesOf(int dialogType);
 
 /// The tabs that a model shows after the status tab, in order.
-ADVANCED_CONTROL_EXPORT std::span<const PageTab> TabsOf(int dialogType, int modelCode);
+PROJECTOR_SETTINGS_EXPORT std::span<const PageTab> TabsOf(int dialogType, int modelCode);
 
 }  // namespace AdvancedControl

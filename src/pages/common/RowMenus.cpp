@@ -74,8 +74,7 @@ bool RowMenus::Open(QPoint at, QPoint onScreen) {
 // The dialog may go on or end while this is asked in it.
 void RowMenus::AskForNumber(RowView& row) {
   const Range range = row.Numbers().value_or(kUnbounded);
-  auto* question = new NumberQuestion(row.Caption(), range,
-                                      row.Position().value_or(range.minimum),
+  auto* question = new NumberQuestion(row.Caption(), range, row.Position().value_or(range.minimum),
                                       host_.Dialog().window());
   connect(question, &NumberQuestion::Entered, &host_.Dialog(),
           [this, &row](int position) { MoveTo(row, position); });

@@ -18,7 +18,7 @@ file(GLOB headers RELATIVE ${PROJECT_SOURCE_DIR}/src CONFIGURE_DEPENDS
   src/device/*.h src/device/*.def src/simulator/*.h)
 list(APPEND headers
   host/CAdvanceDlg.h i18n/Catalog.h i18n/LocalizeControlTexts.h i18n/SystemLanguage.h
-  pages/input/CInputType5Dlg.h pages/input/COption5TabDlg.h pages/input/CServiceDlg.h
+  pages/input/CInputType5Dlg.h pages/option/COption5TabDlg.h pages/option/CServiceDlg.h
   pages/picture/CPictureTabType5Dlg.h pages/setup/CAudioType5Dlg.h
   pages/setup/CSetupType5TabDlg.h)
 set(next 0)

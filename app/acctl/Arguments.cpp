@@ -118,6 +118,11 @@ const std::vector<OptionForm>& Options() {
        "tell what would be changed, and change nothing",
        [](A& a, Text) { return a.dryRun = true; },
        {Command::Apply}},
+      {"lenient",
+       "",
+       "skip what is wrong in FILE instead of sending nothing",
+       [](A& a, Text) { return a.lenient = true; },
+       {Command::Diff, Command::Apply}},
       {"force",
        "",
        "also the undo file of another projector",
@@ -270,5 +275,6 @@ std::string HelpText() {
          "-3\n"
          "from the present value, or =-3 for a number below zero. The password may also stand in\n"
          "ACCTL_PASSWORD; at a terminal it is asked for.\n\n"
-         "Exit codes: 0 done, 1 something was refused, 2 wrong use, 3 no answer.\n";
+         "Exit codes: 0 done, 1 something was refused, 2 wrong use and nothing was sent, 3 no "
+         "answer.\n";
 }

@@ -42,7 +42,8 @@ struct Arguments {
   bool json = false;
   bool brief = false;
   bool dryRun = false;
-  bool force = false;  ///< Of `Apply`: also the undo file of another projector.
+  bool lenient = false;  ///< What is wrong in `file` is skipped.
+  bool force = false;    ///< Of `Apply`: also the undo file of another projector.
 
   std::string error;  ///< One line; empty when the arguments can be followed.
 };

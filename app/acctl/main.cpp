@@ -14,8 +14,8 @@
 
 #include "app/acctl/Output.h"
 #include "app/acctl/Password.h"
+#include "app/acctl/Preflight.h"
 #include "app/acctl/ProjectorLock.h"
-#include "app/acctl/Runner.h"
 #include "app/acctl/Signals.h"
 #include "app/acctl/Uses.h"
 #include "app/profiles/OutOfMemory.h"
@@ -133,9 +133,9 @@ std::shared_ptr<ProjectorChannel> ChannelTo(const ProjectorProfile& profile,
   return std::make_shared<SimulatedProjector>(SimulatedModelOf(profile));
 }
 
-using Run = Report (*)(const Work&, ProjectorAccess&);
+using Act = Report (*)(const Work&, ProjectorAccess&);
 
-Run RunOf(Command command) {
+Act RunOf(Command command) {
   switch (command) {
     case Command::Settings:
       return RunSettings;
@@ -160,8 +160,8 @@ Run RunOf(Command command) {
 
 /// `password` is for a projector whose profile has none; `lacksPassword` becomes whether it wants
 /// one and neither has it.
-Report RunOver(const Work& work, const ProjectorProfile& profile, const std::string& password,
-               bool& lacksPassword) {
+Report ActOver(const Work& work, const ProjectorProfile& profile, Act act,
+               const std::string& password, bool& lacksPassword) {
   const Arguments& arguments = work.arguments;
   const auto address = AddressOf(profile, work, password);
   // Lists need next to nothing of the projector, and who watches would never let another one in.
@@ -177,12 +177,11 @@ Report RunOver(const Work& work, const ProjectorProfile& profile, const std::str
   }
   ProjectorAccess projector(profile, ChannelTo(profile, address, arguments.timeOut),
                             arguments.timeOut);
-  // Keys alone do not depend on the inputs.
-  if (!isListed || !arguments.brief) projector.AskForInputs();
+  projector.AskForInputs(InputsNeededBy(work, TargetOf(projector)));
   if (projector.Channel().IsGone() && !isListed) {
     report.Complain(NoAnswerText(projector), ExitCode::NoAnswer);
   } else {
-    report = RunOf(arguments.command)(work, projector);
+    report = act(work, projector);
   }
   const auto* const pjLink = address ? std::get_if<PjLinkAddress>(&*address) : nullptr;
   lacksPassword = pjLink != nullptr && pjLink->password.empty() &&
@@ -191,13 +190,13 @@ Report RunOver(const Work& work, const ProjectorProfile& profile, const std::str
 }
 
 /// `mayAsk` allows to ask for a password that nobody has given.
-Report RunOnProjector(const Work& work, const ProjectorProfile& profile, bool mayAsk) {
+Report ActOnProjector(const Work& work, const ProjectorProfile& profile, Act act, bool mayAsk) {
   bool lacksPassword = false;
-  Report report = RunOver(work, profile, work.password, lacksPassword);
+  Report report = ActOver(work, profile, act, work.password, lacksPassword);
   if (!lacksPassword || !mayAsk) return report;
   // The projector has done nothing so far.
   const auto password = AskForPassword(profile.Name, work.isInterrupted);
-  return password ? RunOver(work, profile, *password, lacksPassword) : report;
+  return password ? ActOver(work, profile, act, *password, lacksPassword) : report;
 }
 
 /// A line for one of several projectors, or its own text behind its name.
@@ -215,10 +214,19 @@ int RunOnProjectors(const Work& work, const std::vector<const ProjectorProfile*>
   const bool isSaved = arguments.command == Command::Save && arguments.file == "-";
   const bool asJson = arguments.json && arguments.command != Command::Watch && !isSaved;
   QJsonArray json;
+  const auto act = [&](int number, Act doing) {
+    return ActOnProjector(work, *projectors[static_cast<std::size_t>(number)], doing, !several);
+  };
+  const auto checked =
+      CheckWords(work, projectors, meter, [&](int number) { return act(number, CheckAsked); });
   RunParallel(
       static_cast<int>(projectors.size()), arguments.jobs, meter,
       [&](int number) {
-        return RunOnProjector(work, *projectors[static_cast<std::size_t>(number)], !several);
+        if (const auto& report = checked[static_cast<std::size_t>(number)]) return *report;
+        Report report = act(number, RunOf(arguments.command));
+        // Nothing was sent to this one, but perhaps to others.
+        if (several && report.code == ExitCode::WrongUse) report.code = ExitCode::Refused;
+        return report;
       },
       [&](int number, Report report) {
         const std::string& name = projectors[static_cast<std::size_t>(number)]->Name;
@@ -272,24 +280,26 @@ int Main(int argc, char* argv[]) {
   const SettingTexts texts(folders, arguments.language.value_or(SystemLanguageId()));
   Work work{.arguments = arguments,
             .texts = texts,
+            .profiles = profiles.projectors,
             .file = {},
             .password = password,
             .isInterrupted = [] { return ReceivedSignal() != 0; },
             .step = [] {}};
   if (arguments.command == Command::Diff || arguments.command == Command::Apply) {
-    SnapshotContents contents = ReadSettingsFile(Wide(arguments.file));
-    if (!contents.error.isEmpty()) return Fail(contents.error.toStdString());
-    work.file = std::move(contents.snapshot);
+    work.file = ReadSettingsFile(Wide(arguments.file));
+    if (!work.file.error.isEmpty()) return Fail(work.file.error.toStdString());
+    Snapshot& snapshot = work.file.snapshot;
     for (const std::string& pattern : arguments.only) {
       const bool isNone = std::ranges::none_of(
-          work.file->settings,
+          snapshot.settings,
           [&pattern](const SavedSetting& saved) { return IsLike(saved.key, {pattern}); });
       if (isNone) return Fail("--only " + pattern + ": the file has no such setting");
     }
-    const std::string undoError = CheckUndo(arguments, *work.file, projectors);
+    const std::string undoError = CheckUndo(arguments, snapshot, projectors);
     if (!undoError.empty()) return Fail(undoError);
     // A part of it would be put back under a source or mode that it does not belong to.
-    if (!arguments.only.empty()) work.file->beforehand.clear();
+    if (!arguments.only.empty()) snapshot.beforehand.clear();
+    if (const int code = CheckFile(work, projectors); code != ExitCode::Done) return code;
   }
   WatchSignals();
   return RunOnProjectors(work, projectors);

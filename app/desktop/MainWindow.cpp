@@ -7,32 +7,26 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QDialogButtonBox>
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QPointer>
 #include <QScreen>
 #include <QScrollArea>
-#include <QScrollBar>
 #include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
-#include <QTextBrowser>
-#include <QTextDocument>
 #include <QVBoxLayout>
 
-#include "app/desktop/log/CommandLog.h"
+#include "app/desktop/HelpWindows.h"
 #include "app/desktop/dialogs/DialogKeeper.h"
-#include "app/desktop/simulation/FaultPanel.h"
-#include "app/desktop/Mnemonic.h"
+#include "app/desktop/log/CommandLog.h"
+#include "app/desktop/log/SettingNames.h"
 #include "app/desktop/profiles/ProfileActions.h"
 #include "app/desktop/projectors/ProjectorView.h"
-#include "app/desktop/log/SettingNames.h"
 #include "app/desktop/settings/SettingsActions.h"
-#include "app/desktop/WhenIdle.h"
+#include "app/desktop/simulation/FaultPanel.h"
 #include "host/CAdvanceDlg.h"
 #include "i18n/Catalog.h"
 
@@ -50,35 +44,6 @@ constexpr const char* kLogColumnsKey = "window/logColumns";
 constexpr const char* kProjectorKey = "window/projector";
 constexpr const char* kProfilesKey = "window/profiles";
 
-QString ShownText(const QAction& action) {
-  return WithoutMnemonic(action.text()).remove(QStringLiteral("…"));
-}
-
-/// As large as the table, or as the screen allows: then it scrolls.
-void ShowTable(const QString& title, const QString& table, QWidget& owner) {
-  QDialog dialog(&owner);
-  dialog.setWindowTitle(title);
-  auto* text = new QTextBrowser;
-  text->setHtml(table);
-  text->setFrameShape(QFrame::NoFrame);
-  text->setAccessibleName(title);
-  text->setTabChangesFocus(true);
-  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
-  QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
-  auto* layout = new QVBoxLayout(&dialog);
-  layout->addWidget(text);
-  layout->addWidget(buttons);
-  QTextDocument document;
-  document.setDefaultFont(text->font());
-  document.setHtml(table);
-  const QSize size = document.size().toSize();
-  text->setMinimumWidth(size.width() + text->verticalScrollBar()->sizeHint().width());
-  const int others = layout->sizeHint().height() - text->sizeHint().height();
-  const int room = owner.screen()->availableGeometry().height() - kFrame.height();
-  dialog.resize(dialog.minimumWidth(), std::min(size.height() + others, room));
-  dialog.exec();
-}
-
 }  // namespace
 
 MainWindow::MainWindow(std::vector<ProjectorProfile> profiles)
@@ -93,11 +58,14 @@ MainWindow::MainWindow(ProfileDocument profiles, QSettings* settings)
       faults_(new FaultPanel),
       sides_(new QSplitter),
       tools_(new QSplitter(Qt::Vertical)),
-      whenIdle_(new WhenIdle([this] { return dialogs_->IsWaiting(); }, this)),
       profileActions_(new ProfileActions(
-          profiles_, [this] { return projectors_->CurrentRow(); }, *whenIdle_, *this)),
-      settingsActions_(
-          new SettingsActions([this] { return projectors_->Selected(); }, *whenIdle_, *this)),
+          profiles_, [this] { return projectors_->CurrentRow(); }, *this)),
+      settingsActions_(new SettingsActions([this] { return projectors_->Selected(); },
+                                           [this](QObject* context, std::function<void()> work) {
+                                             return dialogs_->RunWhenQuiet(context,
+                                                                           std::move(work));
+                                           },
+                                           *this)),
       dialogs_(std::make_unique<DialogKeeper>(
           *this,
           [this] {
@@ -110,10 +78,6 @@ MainWindow::MainWindow(ProfileDocument profiles, QSettings* settings)
   if (const std::string problem = CatalogProblem(); !problem.empty()) {
     statusBar()->addWidget(new QLabel(QString::fromStdString(problem)));
   }
-  connect(whenIdle_, &WhenIdle::Waiting, this, [this](bool waiting) {
-    statusBar()->showMessage(waiting ? tr("Waiting for the projector of an open dialog…")
-                                     : QString());
-  });
   connect(log_, &CommandLog::Updated, faults_, &FaultPanel::RefreshStates);
   connect(projectors_, &ProjectorView::Activated, this, &MainWindow::OpenCurrent);
   connect(projectors_, &ProjectorView::CurrentChanged, this, [this] {
@@ -211,8 +175,8 @@ void MainWindow::MakeMenus() {
 
   QMenu* help = menuBar()->addMenu(tr("&Help"));
   add(help, tr("&Keyboard Shortcuts"), QKeySequence::HelpContents,
-      [this] { whenIdle_->Run([this] { ShowShortcuts(); }); });
-  add(help, tr("&About"), {}, [this] { whenIdle_->Run([this] { ShowAbout(); }); });
+      [this] { ShowShortcuts(*this); });
+  add(help, tr("&About"), {}, [this] { ShowAbout(*this); });
 }
 
 std::shared_ptr<ProjectorSession> MainWindow::MakeSession(const ProjectorProfile& profile) {
@@ -311,38 +275,6 @@ void MainWindow::Remember() {
   if (const ProjectorSession* current = projectors_->Current()) {
     settings_->setValue(kProjectorKey, QString::fromStdString(current->Profile().Name));
   }
-}
-
-void MainWindow::ShowShortcuts() {
-  QString rows;
-  const auto add = [&rows](const QString& keys, const QString& what) {
-    rows += QStringLiteral("<tr><td>%1&nbsp;&nbsp;&nbsp;</td><td>%2</td></tr>")
-                .arg(keys.toHtmlEscaped(), what.toHtmlEscaped());
-  };
-  const auto section = [&rows](const QString& title) {
-    rows += QStringLiteral("<tr><th colspan=2 align=left>%1</th></tr>").arg(title.toHtmlEscaped());
-  };
-  for (const QAction* menu : menuBar()->actions()) {
-    section(ShownText(*menu));
-    for (const QAction* action : menu->menu()->actions()) {
-      if (action->shortcut().isEmpty()) continue;
-      add(action->shortcut().toString(QKeySequence::NativeText), ShownText(*action));
-    }
-  }
-  section(tr("In a projector's dialog"));
-  add(tr("Ctrl+Tab, Ctrl+Page Down"), tr("Next tab"));
-  add(tr("Ctrl+Shift+Tab, Ctrl+Page Up"), tr("Previous tab"));
-  add(tr("Ctrl+F"), tr("Find a setting"));
-  add(tr("Esc"), tr("Close"));
-  ShowTable(tr("Keyboard Shortcuts"), QStringLiteral("<table>%1</table>").arg(rows), *this);
-}
-
-void MainWindow::ShowAbout() {
-  QMessageBox::about(
-      this, tr("About"),
-      tr("<h3>Advanced Control %1</h3><p>The live settings of projectors: every value is read from "
-         "the projector, every change is sent at once.</p>")
-          .arg(QStringLiteral(ADVANCED_CONTROL_VERSION)));
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

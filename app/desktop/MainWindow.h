@@ -18,7 +18,6 @@ class SettingsActions;
 class ProjectorView;
 class QSettings;
 class QSplitter;
-class WhenIdle;
 
 /// The list of projectors, from which a dialog is opened on each, with the log of their commands
 /// and the controls of their simulations. Dialogs are open beside it, one per projector.
@@ -56,8 +55,6 @@ class MainWindow : public QMainWindow {
   void OpenCurrent();
   void Restore();
   void Remember();
-  void ShowShortcuts();
-  void ShowAbout();
 
   ProfileDocument profiles_;
   const QString firstProfiles_;  // the file at the start, which needs no remembering
@@ -67,7 +64,6 @@ class MainWindow : public QMainWindow {
   FaultPanel* faults_;
   QSplitter* sides_;
   QSplitter* tools_;
-  WhenIdle* whenIdle_;
   ProfileActions* profileActions_;
   SettingsActions* settingsActions_;
   std::unique_ptr<DialogKeeper> dialogs_;

@@ -5,6 +5,7 @@
 PjtReply PatientChannel::Execute(const PjtCommand& command) {
   using Clock = std::chrono::steady_clock;
   last_ = {.result = RefusedResult(command.operation), .answered = false, .unsent = true};
+  everAnswered_ = everAnswered_ || Connection() == ConnectionState::Connected;
   const bool isAbsolute = IsAbsolute(command.operation);
   const int attempts = IsRead(command.operation) ? kReadAttempts : kChangeAttempts;
   const auto begin = Clock::now();
@@ -26,4 +27,9 @@ PjtReply PatientChannel::Execute(const PjtCommand& command) {
   gone_ = gone_ || (!last_.answered && (isAbsolute || !wasSent || !everAnswered_));
   everAnswered_ = everAnswered_ || last_.answered;
   return last_;
+}
+
+void PatientChannel::GiveUp() {
+  gone_ = true;
+  last_ = {.answered = false, .unsent = true};
 }

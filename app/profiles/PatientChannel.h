@@ -28,6 +28,8 @@ class PatientChannel : public ForwardingChannel {
 
   PjtReply Execute(const PjtCommand& command) override;
 
+  /// Counts the projector for gone, as somebody else found out.
+  void GiveUp();
   bool IsGone() const { return gone_; }
   /// The reply to the last command; before the first one that says nothing wrong.
   const PjtReply& Last() const { return last_; }

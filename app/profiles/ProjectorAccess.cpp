@@ -21,6 +21,7 @@ ProjectorAccess::ProjectorAccess(const ProjectorProfile& profile,
       settings_(MakeModelData(model_)),
       pjLink_(std::dynamic_pointer_cast<PjLinkChannel>(channel)),
       channel_(std::make_shared<PatientChannel>(std::move(channel), timeOut)) {
+  tellsInputs_ = pjLink_ != nullptr && model_.MySourceList.Size() == 0;
   connection_.SetChannel(channel_);
   if (!pjLink_) return;
   remembered_ = ReadPjLinkCache(pjLink_->Address());
@@ -48,6 +49,7 @@ void ProjectorAccess::AskForInputs(InputsNeeded needed) {
     std::tie(inputs, areTold) = pjLink_->AskForInputs();
   }
   lacksInputs_ = !areTold;
+  if (lacksInputs_ && !pjLink_->HasAnswered()) channel_->GiveUp();
   if (inputs.empty()) return;
   model_.MySourceList = SourcesOf(inputs);
   settings_ = ModelSettings(MakeModelData(model_));

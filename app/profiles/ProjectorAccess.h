@@ -36,9 +36,13 @@ class ProjectorAccess {
   /// Asks a PJLink projector for its inputs where the profile names none and they are not
   /// remembered.
   void AskForInputs(InputsNeeded needed = InputsNeeded::All);
-  /// Whether inputs were asked for and not told, so that settings that choose one lack entries, and
-  /// what is read of them has a number instead of a name.
+  /// Whether inputs were asked for and the answer got lost, so that settings that choose one lack
+  /// entries, and what is read of them has a number or a kind instead of a name.
   bool LacksInputs() const { return lacksInputs_; }
+
+  bool IsPjLink() const { return pjLink_ != nullptr; }
+  /// Whether the inputs are those that the projector tells, as the profile names none.
+  bool TellsInputs() const { return tellsInputs_; }
 
   /// Steps a setting that can be stepped and not read, as the volume over PJLink, up so many times,
   /// or down where `steps` is below zero. Ends with the first step that is not accepted; the result
@@ -61,4 +65,5 @@ class ProjectorAccess {
   CPjtInterface connection_;
   PjLinkFacts remembered_;
   bool lacksInputs_ = false;
+  bool tellsInputs_ = false;
 };

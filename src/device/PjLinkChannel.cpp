@@ -26,6 +26,8 @@ PjLinkChannel::PjLinkChannel(std::string host, int port, const std::string& pass
 
 PjLinkChannel::~PjLinkChannel() = default;
 
+bool PjLinkChannel::Has(const PjtCommand& command) { return PjLinkMapping::Find(command) != nullptr; }
+
 PjtReply PjLinkChannel::Execute(const PjtCommand& command) {
   session_.GiveUpAfter(longest_);
   if (!CanConnect() && PjLinkMapping::Find(command)) {
@@ -52,8 +54,10 @@ void PjLinkChannel::Run(const auto& work) {
     wasUsed = true;
     Drive(step);
     if (session_.State() == ConnectionState::Connecting) state_ = ConnectionState::Connecting;
+    hasAnswered_ = hasAnswered_ || session_.State() == ConnectionState::Connected;
   }
   if (wasUsed || session_.State() != before) state_ = session_.State();
+  hasAnswered_ = hasAnswered_ || session_.State() == ConnectionState::Connected;
   power_ = session_.Power();
   // It is another projector than the one that is remembered.
   const auto known = session_.ProtocolClass();
@@ -124,15 +128,18 @@ PjLinkTold PjLinkChannel::Ask(const PjLinkQuestion& question) {
 
 std::pair<std::vector<PjLinkInput>, bool> PjLinkChannel::AskForInputs() {
   bool isWhole = true;
+  bool isLost = false;
   while (const auto question = inputs_.Next()) {
-    if (inputs_.Take(Ask(*question))) continue;
+    const PjLinkTold told = Ask(*question);
+    if (inputs_.Take(told)) continue;
     isWhole = false;
+    isLost = isLost || told.kind == PjLinkTold::Kind::Lost;
     if (!inputs_.IsListKnown()) break;
     inputs_.PassOver();
   }
   const auto known = inputs_.Known();
   if (!isWhole) inputs_.Forget();
-  return {known, isWhole};
+  return {known, !isLost};
 }
 
 std::pair<std::optional<PjLinkInput>, bool> PjLinkChannel::AskForPresentInput() {

@@ -61,6 +61,9 @@ class ADVANCED_CONTROL_EXPORT PjLinkChannel : public ProjectorChannel {
   PjLinkChannel(const PjLinkChannel&) = delete;
   PjLinkChannel& operator=(const PjLinkChannel&) = delete;
 
+  /// Whether PJLink, of either class, has this command at all.
+  static bool Has(const PjtCommand& command);
+
   PjtReply Execute(const PjtCommand& command) override;
   /// For each request of a command; what is asked otherwise has the channel's own time.
   void GiveUpAfter(std::chrono::milliseconds time) override { longest_ = time; }
@@ -70,13 +73,16 @@ class ADVANCED_CONTROL_EXPORT PjLinkChannel : public ProjectorChannel {
   bool UseIdleTime() override;
   bool TendConnection(std::chrono::milliseconds unused) override;
 
-  /// Asks for all inputs that are not known yet, as many as a source list holds. A name that is
-  /// not told is the input's kind and place, and false in the second is the sign of one that got
-  /// lost, or of a list that was not told.
+  /// Asks for all inputs that are not known yet, as many as a source list holds. The name of one
+  /// that is not told is its kind and place. There are none where the projector tells none now, as
+  /// in standby. False in the second where an answer got lost.
   std::pair<std::vector<PjLinkInput>, bool> AskForInputs();
   /// Asks for the input that plays; what it is called is told in the same way. Nothing where the
   /// projector does not say. A command that asks for the input next is answered from this one.
   std::pair<std::optional<PjLinkInput>, bool> AskForPresentInput();
+
+  /// Whether the projector has answered anything at all.
+  bool HasAnswered() const { return hasAnswered_; }
 
   /// What is known by now, to be remembered.
   PjLinkFacts Facts() const;
@@ -104,6 +110,7 @@ class ADVANCED_CONTROL_EXPORT PjLinkChannel : public ProjectorChannel {
   PjLinkSession session_;
   std::chrono::milliseconds longest_ = limits_.answer;
   std::optional<char> rememberedClass_;
+  bool hasAnswered_ = false;
   std::unique_ptr<QTcpSocket> socket_;
   std::atomic<ConnectionState> state_ = ConnectionState::Unused;
   std::atomic<std::optional<PowerState>> power_;

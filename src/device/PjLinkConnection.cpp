@@ -98,13 +98,18 @@ void PjLinkConnection::Open(PjLinkTime now) {
   state_ = ConnectionState::Connecting;
   connectBy_ = now + limits_.connect;
   pause_ = limits_.pause;
+  problem_.reset();
   stage_ = Stage::Pausing;
   until_ = now;
 }
 
 void PjLinkConnection::OpenLater(ConnectionState problem, PjLinkTime now) {
+  // No time was left to look up a name that is known.
+  const bool isUnknown = problem == ConnectionState::NameUnknown;
+  if (isUnknown && problem_) problem = *problem_;
+  problem_ = problem;
   until_ = now + pause_;
-  if (problem == ConnectionState::NameUnknown || until_ >= connectBy_) return Finish(problem);
+  if (isUnknown || until_ >= connectBy_) return Finish(problem);
   stage_ = Stage::Pausing;
   pause_ *= 2;
 }

@@ -105,6 +105,7 @@ class ADVANCED_CONTROL_EXPORT PjLinkConnection {
   PjLinkTime until_{};   ///< End of the pause, of connecting, or of waiting for the answer.
   PjLinkTime connectBy_{};
   PjLinkLimits::Time pause_{};
+  std::optional<ConnectionState> problem_;  ///< Of the last attempt to connect.
   PjLinkReader reader_;
   std::string proof_;  ///< Goes before the session's first request.
 };

@@ -9,6 +9,7 @@
 namespace {
 
 constexpr std::size_t kMostInputs = SourceList::kCapacity;
+constexpr std::size_t kLongestName = 128;  // bytes; some tell more than they may
 
 std::string NameByCode(const std::string& code) {
   constexpr std::array kKinds{"RGB", "Video", "Digital", "Storage", "Network", "Internal"};
@@ -76,7 +77,8 @@ std::optional<PjLinkQuestion> PjLinkInputs::NameOf(int number) {
 
 PjLinkInput PjLinkInputs::Named(int number, const std::string& name) {
   const auto code = PjLink::InputCode(number);
-  return {number, name.empty() && code ? NameByCode(*code) : name};
+  return {number,
+          name.empty() && code ? NameByCode(*code) : std::string(CutText(name, kLongestName))};
 }
 
 /// The input to ask for next; nothing when all are known.

@@ -220,6 +220,7 @@ inline constexpr int Hours = 320;        // %1 hours (integer)
 inline constexpr int FilterTime = 321;
 inline constexpr int LampTime = 322;
 inline constexpr int PowerCoolingDown = 3309;
+inline constexpr int PowerStandby = 4331;  // of lists and scripts; the status row says Off
 inline constexpr int PowerWarmingUp = 4330;  // of lists and scripts; the status row says On
 inline constexpr int ErrorNone = 332;
 inline constexpr int ErrorCover = 3310;
@@ -268,7 +269,7 @@ inline constexpr int OtherVersion = 4315;
 inline constexpr int PasswordRequired = 4316;
 
 // What became of a change, beside Close.
-inline constexpr int NotDoneYet = 4317;
+inline constexpr int NotYetSo = 4317;
 inline constexpr int NotPossibleNow = 4318;
 
 // A row's context menu, and the search for a row.

@@ -1,6 +1,7 @@
 #include "settings/ModelSettings.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <map>
 #include <string>
 #include <utility>
@@ -12,6 +13,9 @@
 inline namespace AdvancedControl {
 
 namespace {
+
+// What a number can be that only the projector bounds.
+constexpr Range kDeviceValues{0, 0xFFFF};
 
 void Describe(const ListRow& row, const ModelData& model, ModelSetting& setting) {
   setting.kind = row.send ? ModelSetting::Kind::Choice : ModelSetting::Kind::State;
@@ -52,7 +56,24 @@ void Describe(const ActionRow& row, const ModelData& model, ModelSetting& settin
 
 void Describe(const auto&, const ModelData&, ModelSetting&) {}
 
+// A list of resets is part of the settings that it resets, and a pop-up has its own.
+bool IsSetting(const PageRow& row) {
+  return !std::holds_alternative<ResetRow>(row) && !std::holds_alternative<PopUpRow>(row);
+}
+
 }  // namespace
+
+std::vector<std::string_view> AllKeys() {
+  std::vector<std::string_view> keys;
+  const auto add = [&keys](const PageTable& table) {
+    for (const PageRow& row : table.rows) {
+      if (IsSetting(row)) keys.push_back(KeyOf(row));
+    }
+  };
+  for (std::size_t page = 0; page < kPageCount; ++page) add(TableOf(static_cast<PageId>(page)));
+  for (const PageTable* popUp : {&kServiceRows, &kGammaRows, &kColorTempRows}) add(*popUp);
+  return keys;
+}
 
 bool ModelSetting::SelectsInput() const {
   const auto* list = std::get_if<ListRow>(row);
@@ -67,7 +88,8 @@ bool ModelSetting::IsStepped() const {
 bool ModelSetting::Allows(int value) const {
   if (kind == Kind::Choice) return value != placeholder && PositionOf(entries, value) >= 0;
   if (kind == Kind::State) return changeable && (value == 0 || value == 1);
-  return kind == Kind::Number && (!range || (value >= range->minimum && value <= range->maximum));
+  const Range bounds = range.value_or(kDeviceValues);
+  return kind == Kind::Number && value >= bounds.minimum && value <= bounds.maximum;
 }
 
 ModelSettings::ModelSettings(ModelData model)
@@ -83,9 +105,7 @@ void ModelSettings::Add(const PageTable& table, int tab) {
   if (KeepsTemplate(table, model_->ModelCode)) return;
   for (std::size_t i = 0; i < table.rows.size(); ++i) {
     const PageRow& row = table.rows[i];
-    // A list of resets is part of the settings that it resets, and a pop-up has its own.
-    if (std::holds_alternative<ResetRow>(row) || std::holds_alternative<PopUpRow>(row)) continue;
-    if (!Has(table, i, model_->ModelCode)) continue;
+    if (!IsSetting(row) || !Has(table, i, model_->ModelCode)) continue;
     ModelSetting& setting = settings_.emplace_back();
     setting.key = KeyOf(row);
     setting.tab = tab;

@@ -57,6 +57,9 @@ struct SourcedSetting {
   std::optional<int> source{};  ///< Nothing for one that belongs to none, or while unknown.
 };
 
+/// The keys of every model's settings; some stand here more than once.
+ADVANCED_CONTROL_EXPORT std::vector<std::string_view> AllKeys();
+
 /// All settings of a model in the order of its pages, the pop-ups' behind those of the page that
 /// opens them.
 class ADVANCED_CONTROL_EXPORT ModelSettings {

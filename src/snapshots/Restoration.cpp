@@ -3,20 +3,11 @@
 #include <algorithm>
 #include <iterator>
 
+#include "snapshots/Dependence.h"
+
 inline namespace AdvancedControl {
 
 namespace {
-
-using ToldSettings = std::vector<const RestoredSetting*>;
-
-/// The input source decides what the projector's other settings belong to, and modes decide what
-/// numbers are worth: each rank is read again when one before it was changed.
-enum class Rank : std::uint8_t { Source, Choice, Number };
-
-Rank RankOf(const ModelSetting& setting) {
-  if (setting.SelectsInput()) return Rank::Source;
-  return setting.kind == ModelSetting::Kind::Choice ? Rank::Choice : Rank::Number;
-}
 
 Outcome Judge(const ModelSettings& model, const ModelSetting* setting, const SavedSetting& saved) {
   if (setting == nullptr) return Outcome::Unknown;
@@ -29,43 +20,6 @@ Outcome Judge(const ModelSettings& model, const ModelSetting* setting, const Sav
 /// What of the others depends on it is not known for one that the model does not have.
 bool IsNumber(const RestoredSetting& restored) {
   return restored.setting != nullptr && RankOf(*restored.setting) == Rank::Number;
-}
-
-bool IsSame(const SavedSetting& one, const SavedSetting& other) {
-  return one.key == other.key && one.source == other.source;
-}
-
-/// Whether telling one may change the other too.
-bool MayFollow(const RestoredSetting& other, const RestoredSetting& told) {
-  if (&other == &told) return false;
-  if (IsSame(other.saved, told.saved)) return true;
-  const auto& own = other.saved.source;
-  switch (RankOf(*told.setting)) {
-    case Rank::Source:
-      return !own;
-    case Rank::Choice:
-      return RankOf(*other.setting) != Rank::Source;
-    case Rank::Number:
-      break;
-  }
-  // Some have two ways to them, of which one may be for a source of its own.
-  const bool isElsewhere = own && told.saved.source && own != told.saved.source;
-  return !isElsewhere && other.setting->caption == told.setting->caption;
-}
-
-/// Whether one of those told may still change it, whatever is read.
-bool MayStillChange(const RestoredSetting& restored, const ToldSettings& told) {
-  return std::ranges::any_of(told, [&restored](const RestoredSetting* other) {
-    return other->IsOpen() && MayFollow(restored, *other);
-  });
-}
-
-/// The same, or may have changed it since it was read.
-bool MayHaveChanged(const RestoredSetting& restored, const ToldSettings& told) {
-  const bool isOutdated = std::ranges::any_of(told, [&restored](const RestoredSetting* other) {
-    return other->turn > restored.asOf && MayFollow(restored, *other);
-  });
-  return isOutdated || MayStillChange(restored, told);
 }
 
 /// What telling has come to if it is read back different, as the commands in between went. Nothing

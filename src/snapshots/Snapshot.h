@@ -16,7 +16,7 @@ inline namespace AdvancedControl {
 struct SavedSetting {
   std::string key;
   int value = 0;                ///< Device value.
-  std::string text;             ///< As it was shown, for people; nobody reads it back.
+  std::string text;             ///< As it was shown, for people; what counts is the value.
   std::optional<int> source{};  ///< That it belongs to, where it is kept for each.
 
   friend bool operator==(const SavedSetting&, const SavedSetting&) = default;
@@ -62,6 +62,7 @@ ADVANCED_CONTROL_EXPORT QByteArray WriteSnapshot(const Snapshot& snapshot);
 struct SnapshotContents {
   Snapshot snapshot;
   QString error;  ///< One line: the place in the text and what is wrong; empty when all is well.
+  QString path;   ///< Of what is wrong, as "settings[3].value"; empty where it is the whole text.
 };
 
 /// Reads what `WriteSnapshot` wrote, by whoever it was edited since. Unknown members are ignored.

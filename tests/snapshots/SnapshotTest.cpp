@@ -29,7 +29,8 @@ struct Unsteady : ProjectorChannel {
 };
 
 TEST(PatientChannel, AsksAgainWhatIsSafeToAskAndNeverCutsACommandShort) {
-  constexpr std::chrono::milliseconds kTimeOut{500};
+  using namespace std::chrono_literals;
+  constexpr std::chrono::milliseconds kTimeOut = 1s;
   constexpr PjtCommand kRead{.operation = PjtOperation::GetInputSource};
   constexpr PjtCommand kChange{.operation = PjtOperation::SetMute, .first = 1};
   constexpr PjtCommand kStep{PjtOperation::Inc, 0x2001};

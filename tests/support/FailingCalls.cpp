@@ -1,6 +1,6 @@
 // Preloaded into a program under test: lets calls fail that hardly ever do on a healthy machine.
 //
-//   FAIL_ALLOCATION=N  the N-th allocation after the program made its first socket, once
+//   FAIL_ALLOCATION=N  the N-th allocation after the program made its first thread, once
 //   FAIL_SYNC=WHAT     fsync of each "file" or "folder"; with "kill" the program dies in the first
 //   FAIL_ACCEPT=N      the first N connections that are accepted, as if their peers had left
 
@@ -10,6 +10,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <dlfcn.h>
+#include <pthread.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -57,10 +58,11 @@ void* realloc(void* block, std::size_t size) {
   return FailsAllocation() ? nullptr : __libc_realloc(block, size);
 }
 
-int socket(int domain, int type, int protocol) {
+int pthread_create(pthread_t* thread, const pthread_attr_t* how, void* (*run)(void*), void* with) {
   static std::atomic<bool> isFirst{true};
   if (isFirst.exchange(false)) allocationsLeft = Number("FAIL_ALLOCATION");
-  return Real<int(int, int, int)>("socket")(domain, type, protocol);
+  return Real<int(pthread_t*, const pthread_attr_t*, void* (*)(void*), void*)>("pthread_create")(
+      thread, how, run, with);
 }
 
 int fsync(int file) {

@@ -16,6 +16,7 @@ namespace {
 constexpr int kGap = 8;
 constexpr int kCascade = 28;
 constexpr std::size_t kCascadeLength = 8;
+constexpr auto kQuietCheck = std::chrono::milliseconds(50);
 constexpr auto kRetirementCheck = std::chrono::milliseconds(50);
 constexpr const char* kTabKey = "dialog/tab";
 
@@ -58,6 +59,17 @@ bool DialogKeeper::IsWaiting() const {
   const auto waits = [](const auto& dialog) { return dialog->Projector().IsWaiting(); };
   return std::ranges::any_of(dialogs_, [&](const auto& open) { return waits(open.second); }) ||
          std::ranges::any_of(retired_, waits);
+}
+
+bool DialogKeeper::RunWhenQuiet(QObject* context, std::function<void()> work) {
+  const bool isQuiet = !IsWaiting();
+  if (isQuiet) {
+    work();
+  } else {
+    QTimer::singleShot(kQuietCheck, context,
+                       [this, context, work = std::move(work)] { RunWhenQuiet(context, work); });
+  }
+  return isQuiet;
 }
 
 CAdvanceDlg* DialogKeeper::Open(const ProjectorSession& session, std::optional<int> tab) {

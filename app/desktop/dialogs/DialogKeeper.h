@@ -34,8 +34,10 @@ class DialogKeeper : public QObject {
   /// else the one that was shown last in any.
   CAdvanceDlg* Open(const ProjectorSession& session, std::optional<int> tab = {});
 
-  /// Whether a dialog waits for its projector.
-  bool IsWaiting() const;
+  /// Runs work on projectors now, or as soon as no dialog waits for one: a handler that waits below
+  /// it could not go on before the work has ended, and no command can be given in between. Whether
+  /// it has run now. It does not when `context` is gone before.
+  bool RunWhenQuiet(QObject* context, std::function<void()> work);
 
   /// The projector's open dialog, or null.
   CAdvanceDlg* Of(const ProjectorSession& session) const;
@@ -52,6 +54,7 @@ class DialogKeeper : public QObject {
   void Closed(const ProjectorSession* session);
 
  private:
+  bool IsWaiting() const;
   void Arrange(CAdvanceDlg& dialog);
   void Place(CAdvanceDlg& dialog) const;
   void SelectTab(CAdvanceDlg& dialog, const CModelInfo2& model, std::optional<int> tab);

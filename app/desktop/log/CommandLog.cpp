@@ -7,7 +7,6 @@
 
 #include <QAction>
 #include <QClipboard>
-#include <QFileDialog>
 #include <QFontDatabase>
 #include <QFontMetrics>
 #include <QGuiApplication>
@@ -15,7 +14,6 @@
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QLabel>
-#include <QMessageBox>
 #include <QPaintEvent>
 #include <QScrollBar>
 #include <QTableView>
@@ -24,6 +22,7 @@
 #include <QVBoxLayout>
 
 #include "app/desktop/Mnemonic.h"
+#include "app/desktop/Modal.h"
 #include "app/profiles/WholeFile.h"
 #include "toolkit/IsolatedText.h"
 
@@ -35,7 +34,7 @@ constexpr auto kGatherTime = std::chrono::milliseconds(40);
 // Widest usual text of each column.
 constexpr std::array<const char*, CommandLogModel::ColumnCount> kWidthSamples{
     "00:00:00.000", "Projector 5-30 b", "Get User Gamma Point 8 0x30B1 ",
-    "0xFFFF",       "not done yet",     "2000.0"};
+    "0xFFFF",       "not offered",      "2000.0"};
 
 QToolButton* ButtonOf(QAction* action) {
   action->setIconText(WithoutMnemonic(action->text()));
@@ -204,10 +203,13 @@ QString CommandLog::Save(const QString& fileName) const {
 }
 
 void CommandLog::AskAndSave() {
-  const QString fileName = QFileDialog::getSaveFileName(this, tr("Save Log"), "commands.tsv",
-                                                        tr("Tables (*.tsv);;All files (*)"));
-  if (fileName.isEmpty()) return;
-  if (const QString error = Save(fileName); !error.isEmpty()) {
-    QMessageBox::critical(this, tr("Save Log"), error);
-  }
+  AskForFile(*this,
+             {.kind = FileQuestion::Kind::Save,
+              .title = tr("Save Log"),
+              .suggestion = "commands.tsv",
+              .filter = tr("Tables (*.tsv);;All files (*)")},
+             [this](const QString& path) {
+               const QString error = Save(path);
+               if (!error.isEmpty()) ShowError(*this, tr("Save Log"), error);
+             });
 }

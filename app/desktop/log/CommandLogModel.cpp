@@ -60,7 +60,7 @@ Outcome OutcomeOf(const CommandLogModel::Entry& entry) {
   if (!IsSuccess(entry.command.operation, reply.result)) {
     return {QT_TRANSLATE_NOOP("CommandLogModel", "refused"), true};
   }
-  if (reply.pending) return {QT_TRANSLATE_NOOP("CommandLogModel", "not done yet"), false};
+  if (reply.pending) return {QT_TRANSLATE_NOOP("CommandLogModel", "not yet so"), false};
   return {QT_TRANSLATE_NOOP("CommandLogModel", "ok"), false};
 }
 

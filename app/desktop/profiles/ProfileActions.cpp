@@ -4,36 +4,24 @@
 #include <utility>
 
 #include <QAction>
-#include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
 
+#include "app/desktop/Modal.h"
 #include "app/desktop/profiles/ProfileDocument.h"
 #include "app/desktop/profiles/ProfileEditor.h"
-#include "app/desktop/WhenIdle.h"
 
 namespace {
 
 std::size_t Position(int row) { return static_cast<std::size_t>(row); }
 
-// Message boxes show what a file holds, and no markup in it.
-void Tell(QWidget& window, const QString& title, const QString& error) {
-  QMessageBox box(QMessageBox::Critical, title,
-                  ProfileActions::tr("This could not be done; nothing was changed."),
-                  QMessageBox::Ok, &window);
-  box.setTextFormat(Qt::PlainText);
-  box.setInformativeText(error);
-  box.exec();
-}
-
 }  // namespace
 
 ProfileActions::ProfileActions(ProfileDocument& document, std::function<int()> current,
-                               WhenIdle& whenIdle, QWidget& window)
+                               QWidget& window)
     : QObject(&window),
       document_(document),
       current_(std::move(current)),
-      whenIdle_(whenIdle),
       window_(window),
       open_(Make(tr("&Open Profiles…"), QKeySequence::Open, &ProfileActions::OpenFile)),
       reload_(Make(tr("&Reload"), QKeySequence::Refresh, &ProfileActions::ReloadFile)),
@@ -52,9 +40,7 @@ QAction* ProfileActions::Make(const QString& text, const QKeySequence& keys,
   auto* action = new QAction(text, this);
   action->setShortcut(keys);
   connect(action, &QAction::triggered, this, [this, action, act] {
-    whenIdle_.Run([this, action, act] {
-      if (action->isEnabled()) (this->*act)();
-    });
+    if (action->isEnabled()) (this->*act)();
   });
   return action;
 }
@@ -68,14 +54,21 @@ void ProfileActions::Update() {
 }
 
 void ProfileActions::Conclude(const QString& title, const QString& error, int selected) {
-  if (!error.isEmpty()) return Tell(window_, title, error);
-  Q_EMIT Changed(selected);
+  if (error.isEmpty()) {
+    Q_EMIT Changed(selected);
+  } else {
+    ShowError(window_, title, tr("This could not be done; nothing was changed."), error);
+  }
 }
 
 void ProfileActions::OpenFile() {
-  const QString fileName = QFileDialog::getOpenFileName(
-      &window_, tr("Open Profiles"), document_.FileName(), tr("Profiles (*.json);;All files (*)"));
-  if (!fileName.isEmpty()) Conclude(tr("Open Profiles"), document_.Load(fileName), -1);
+  AskForFile(
+      window_,
+      {.kind = FileQuestion::Kind::Open,
+       .title = tr("Open Profiles"),
+       .suggestion = document_.FileName(),
+       .filter = tr("Profiles (*.json);;All files (*)")},
+      [this](const QString& path) { Conclude(tr("Open Profiles"), document_.Load(path), -1); });
 }
 
 void ProfileActions::ReloadFile() {
@@ -83,12 +76,14 @@ void ProfileActions::ReloadFile() {
 }
 
 void ProfileActions::SaveFileAs() {
-  const QString fileName =
-      QFileDialog::getSaveFileName(&window_, tr("Save Profiles As"), document_.FileName(),
-                                   tr("Profiles (*.json);;All files (*)"));
-  if (!fileName.isEmpty()) {
-    Conclude(tr("Save Profiles As"), document_.SaveAs(fileName), current_());
-  }
+  AskForFile(window_,
+             {.kind = FileQuestion::Kind::Save,
+              .title = tr("Save Profiles As"),
+              .suggestion = document_.FileName(),
+              .filter = tr("Profiles (*.json);;All files (*)")},
+             [this](const QString& path) {
+               Conclude(tr("Save Profiles As"), document_.SaveAs(path), current_());
+             });
 }
 
 // A new projector stands behind the selected one.
@@ -98,8 +93,7 @@ void ProfileActions::AddProjector() {
   const auto apply = [this, after](const JsonEdit::Members& members) {
     return document_.Insert(Position(after), members);
   };
-  ProfileEditor editor(document_, {}, apply, &window_);
-  if (editor.exec() == QDialog::Accepted) Q_EMIT Changed(after + 1);
+  OpenEditor(new ProfileEditor(document_, {}, apply, &window_), after + 1);
 }
 
 void ProfileActions::EditProjector() {
@@ -107,8 +101,13 @@ void ProfileActions::EditProjector() {
   const auto apply = [this, row](const JsonEdit::Members& members) {
     return document_.Change(Position(row), members);
   };
-  ProfileEditor editor(document_, document_.Entry(Position(row)), apply, &window_);
-  if (editor.exec() == QDialog::Accepted) Q_EMIT Changed(row);
+  OpenEditor(new ProfileEditor(document_, document_.Entry(Position(row)), apply, &window_), row);
+}
+
+void ProfileActions::OpenEditor(ProfileEditor* editor, int selected) {
+  editor->setAttribute(Qt::WA_DeleteOnClose);
+  connect(editor, &QDialog::accepted, this, [this, selected] { Q_EMIT Changed(selected); });
+  editor->open();
 }
 
 void ProfileActions::DuplicateProjector() {
@@ -128,14 +127,17 @@ void ProfileActions::DuplicateProjector() {
 void ProfileActions::RemoveProjector() {
   const int row = current_();
   const QString name = QString::fromStdString(document_.Projectors()[Position(row)].Name);
-  QMessageBox question(QMessageBox::Question, tr("Remove Projector"),
-                       tr("Remove \"%1\" from %2?").arg(name, document_.FileName()),
-                       QMessageBox::NoButton, &window_);
-  question.setTextFormat(Qt::PlainText);
-  const QPushButton* remove = question.addButton(tr("Remove"), QMessageBox::DestructiveRole);
-  question.setDefaultButton(question.addButton(QMessageBox::Cancel));
-  question.exec();
-  if (question.clickedButton() != remove) return;
-  const int left = static_cast<int>(document_.Projectors().size()) - 1;
-  Conclude(tr("Remove Projector"), document_.Remove(Position(row)), std::min(row, left - 1));
+  auto* question = new QMessageBox(QMessageBox::Question, tr("Remove Projector"),
+                                   tr("Remove \"%1\" from %2?").arg(name, document_.FileName()),
+                                   QMessageBox::NoButton, &window_);
+  question->setAttribute(Qt::WA_DeleteOnClose);
+  question->setTextFormat(Qt::PlainText);  // the name may hold markup
+  const QPushButton* remove = question->addButton(tr("Remove"), QMessageBox::DestructiveRole);
+  question->setDefaultButton(question->addButton(QMessageBox::Cancel));
+  connect(question, &QDialog::finished, this, [this, question, remove, row] {
+    if (question->clickedButton() != remove) return;
+    const int left = static_cast<int>(document_.Projectors().size()) - 1;
+    Conclude(tr("Remove Projector"), document_.Remove(Position(row)), std::min(row, left - 1));
+  });
+  question->open();
 }

@@ -5,9 +5,9 @@
 #include <QObject>
 
 class ProfileDocument;
+class ProfileEditor;
 class QAction;
 class QWidget;
-class WhenIdle;
 
 /// What a user does with the profile file and the projectors in it, as actions for menus. Asks for
 /// names and numbers, tells errors.
@@ -15,10 +15,9 @@ class ProfileActions : public QObject {
   Q_OBJECT
 
  public:
-  /// `current` tells the selected projector's position, −1 for none. The document and `whenIdle`
-  /// must outlive this, which belongs to the window; the actions belong to it.
-  ProfileActions(ProfileDocument& document, std::function<int()> current, WhenIdle& whenIdle,
-                 QWidget& window);
+  /// `current` tells the selected projector's position, −1 for none. The document must outlive
+  /// this, which belongs to the window; the actions belong to it.
+  ProfileActions(ProfileDocument& document, std::function<int()> current, QWidget& window);
 
   QAction* Open() const { return open_; }
   QAction* Reload() const { return reload_; }
@@ -45,12 +44,13 @@ class ProfileActions : public QObject {
   void EditProjector();
   void DuplicateProjector();
   void RemoveProjector();
+  /// Opens an editor, which then belongs to the window; `selected` is the projector it is for.
+  void OpenEditor(ProfileEditor* editor, int selected);
   /// Tells the error, if there is one, or the change.
   void Conclude(const QString& title, const QString& error, int selected);
 
   ProfileDocument& document_;
   const std::function<int()> current_;
-  WhenIdle& whenIdle_;
   QWidget& window_;
   QAction* open_;
   QAction* reload_;

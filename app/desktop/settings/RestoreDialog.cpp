@@ -83,11 +83,13 @@ class RestoreDialog::Working {
 };
 
 RestoreDialog::RestoreDialog(Purpose purpose, Snapshot snapshot, QString file,
-                             const ProjectorSessions& sessions, QWidget* parent)
+                             const ProjectorSessions& sessions, WhenQuiet whenQuiet,
+                             QWidget* parent)
     : QDialog(parent),
       purpose_(purpose),
       snapshot_(std::move(snapshot)),
       file_(std::move(file)),
+      whenQuiet_(std::move(whenQuiet)),
       texts_(CatalogFolders(), SystemLanguageId()) {
   for (const auto& session : sessions) {
     rooms_.push_back(std::make_unique<Room>(session));
@@ -154,14 +156,22 @@ void RestoreDialog::Lay() {
 
   connect(filter_, &QLineEdit::textChanged, shown, &OutcomeFilter::setFilterFixedString);
   connect(differencesOnly_, &QCheckBox::toggled, this, [shown](bool on) { shown->HideSame(on); });
-  connect(compare_, &QPushButton::clicked, this, &RestoreDialog::Compare);
-  connect(restore_, &QPushButton::clicked, this, &RestoreDialog::Restore);
+  connect(compare_, &QPushButton::clicked, this, [this] { Start(&RestoreDialog::Compare); });
+  connect(restore_, &QPushButton::clicked, this, [this] { Start(&RestoreDialog::Restore); });
   connect(buttons, &QDialogButtonBox::rejected, this, &RestoreDialog::reject);
 }
 
 void RestoreDialog::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
-  if (!compared_) QTimer::singleShot(0, this, &RestoreDialog::Compare);
+  if (!compared_) QTimer::singleShot(0, this, [this] { Start(&RestoreDialog::Compare); });
+}
+
+void RestoreDialog::Start(void (RestoreDialog::*work)()) {
+  const bool begun = whenQuiet_(this, [this, work] {
+    summary_->clear();
+    (this->*work)();
+  });
+  if (!begun) summary_->setText(tr("Waiting for the projector of an open dialog…"));
 }
 
 // Enter presses the button that has the focus, and none from the filter or the table.

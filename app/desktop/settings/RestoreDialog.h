@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -16,6 +17,10 @@ class QProgressBar;
 class QPushButton;
 class QTreeView;
 
+/// Runs work on projectors now, or as soon as no dialog waits for one; whether it has run now. It
+/// never runs once `context` is gone.
+using WhenQuiet = std::function<bool(QObject* context, std::function<void()> work)>;
+
 /// A file of settings beside what projectors have: every setting with both values. For restoring,
 /// each difference has a check box; afterwards each setting says what became of it.
 ///
@@ -28,9 +33,9 @@ class RestoreDialog : public QDialog {
   enum class Purpose { Compare, Restore };
 
   /// `file` is where `snapshot` was read from, and where the values that are replaced are kept
-  /// beside.
+  /// beside. What the user asks for is done through `whenQuiet`.
   RestoreDialog(Purpose purpose, Snapshot snapshot, QString file, const ProjectorSessions& sessions,
-                QWidget* parent = nullptr);
+                WhenQuiet whenQuiet, QWidget* parent = nullptr);
   ~RestoreDialog() override;
 
   /// Reads all projectors and shows what differs; those that were silent before are asked again.
@@ -49,6 +54,7 @@ class RestoreDialog : public QDialog {
   struct Room;
   class Working;
 
+  void Start(void (RestoreDialog::*work)());
   void Lay();
   void AddBeforehandRow(Room& room);
   void AddRow(const Room& room, const RestoredSetting& restored);
@@ -62,6 +68,7 @@ class RestoreDialog : public QDialog {
   const Purpose purpose_;
   const Snapshot snapshot_;
   const QString file_;
+  const WhenQuiet whenQuiet_;
   const SettingTexts texts_;
   std::vector<std::unique_ptr<Room>> rooms_;
   OutcomeTable* model_ = nullptr;

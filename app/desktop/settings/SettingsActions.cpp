@@ -5,30 +5,22 @@
 #include <QAction>
 #include <QCoreApplication>
 #include <QDir>
-#include <QFileDialog>
-#include <QMessageBox>
 #include <QProgressDialog>
 
-#include "app/desktop/settings/AfreshChannel.h"
+#include "app/desktop/Modal.h"
 #include "app/desktop/projectors/ProjectorSession.h"
-#include "app/desktop/WhenIdle.h"
+#include "app/desktop/settings/AfreshChannel.h"
 #include "app/profiles/SettingsFile.h"
 #include "app/profiles/WholeFile.h"
 #include "device/ModelDataIntake.h"
 #include "i18n/Catalog.h"
 #include "i18n/SystemLanguage.h"
 
-namespace {
-
-constexpr qsizetype kLinesTold = 10;
-
-}  // namespace
-
-SettingsActions::SettingsActions(std::function<ProjectorSessions()> selected, WhenIdle& whenIdle,
+SettingsActions::SettingsActions(std::function<ProjectorSessions()> selected, WhenQuiet whenQuiet,
                                  QWidget& window)
     : QObject(&window),
       selected_(std::move(selected)),
-      whenIdle_(whenIdle),
+      whenQuiet_(std::move(whenQuiet)),
       window_(window),
       save_(Make(tr("Save Se&ttings…"), &SettingsActions::SaveSettings)),
       compare_(Make(tr("&Compare with File…"), &SettingsActions::CompareSettings)),
@@ -36,13 +28,11 @@ SettingsActions::SettingsActions(std::function<ProjectorSessions()> selected, Wh
   Update();
 }
 
-// Those that were selected when it was chosen are meant.
 QAction* SettingsActions::Make(const QString& text, Act act) {
   auto* action = new QAction(text, this);
   connect(action, &QAction::triggered, this, [this, act] {
-    whenIdle_.Run([this, act, sessions = selected_()] {
-      if (!sessions.empty()) (this->*act)(sessions);
-    });
+    const ProjectorSessions sessions = selected_();
+    if (!sessions.empty()) (this->*act)(sessions);
   });
   return action;
 }
@@ -50,18 +40,6 @@ QAction* SettingsActions::Make(const QString& text, Act act) {
 void SettingsActions::Update() {
   const bool any = !selected_().empty();
   for (QAction* action : {save_, compare_, apply_}) action->setEnabled(any);
-}
-
-// What a file holds is no markup. Many lines scroll.
-void SettingsActions::Tell(const QString& title, const QString& text) {
-  QMessageBox box(QMessageBox::Critical, title, text, QMessageBox::Ok, &window_);
-  box.setTextFormat(Qt::PlainText);
-  const QStringList lines = text.split(QLatin1Char('\n'));
-  if (lines.size() > kLinesTold) {
-    box.setText(lines.first(kLinesTold).join(QLatin1Char('\n')) + QStringLiteral("\n…"));
-    box.setDetailedText(text);
-  }
-  box.exec();
 }
 
 QStringList SettingsActions::SaveTo(const QString& path, const ProjectorSessions& sessions,
@@ -105,24 +83,33 @@ QStringList SettingsActions::SaveTo(const QString& path, const ProjectorSessions
 }
 
 void SettingsActions::SaveSettings(const ProjectorSessions& sessions) {
+  const bool isOne = sessions.size() == 1;
+  AskForFile(
+      window_,
+      {.kind = isOne ? FileQuestion::Kind::Save : FileQuestion::Kind::Folder,
+       .title = isOne ? tr("Save Settings") : tr("Save Settings in Folder"),
+       .suggestion = isOne ? FileNameOf(sessions.front()->Profile().Name) + ".json" : QString(),
+       .filter = tr("Settings (*.json)")},
+      [this, sessions](const QString& path) { SaveWatched(path, sessions); });
+}
+
+void SettingsActions::SaveWatched(const QString& path, const ProjectorSessions& sessions) {
   const QString title = tr("Save Settings");
-  const QString path =
-      sessions.size() == 1
-          ? QFileDialog::getSaveFileName(&window_, title,
-                                         FileNameOf(sessions.front()->Profile().Name) + ".json",
-                                         tr("Settings (*.json)"))
-          : QFileDialog::getExistingDirectory(&window_, tr("Save Settings in Folder"));
-  if (path.isEmpty()) return;
-  QProgressDialog watched(tr("Reading settings…"), tr("Stop"), 0, 0, &window_);
-  watched.setWindowTitle(title);
+  auto* watched = new QProgressDialog(tr("Waiting for the projector of an open dialog…"),
+                                      tr("Stop"), 0, 0, &window_);
+  watched->setWindowTitle(title);
   // From the start, so that neither the projectors nor their dialogs are used meanwhile.
-  watched.setWindowModality(Qt::ApplicationModal);
-  watched.show();
-  const QStringList errors = SaveTo(path, sessions,
-                                    {.goesOn = [&watched] { return !watched.wasCanceled(); },
-                                     .step = [] { QCoreApplication::processEvents(); }});
-  watched.reset();
-  if (!errors.isEmpty()) Tell(title, errors.join(QLatin1Char('\n')));
+  watched->setWindowModality(Qt::ApplicationModal);
+  watched->show();
+  whenQuiet_(watched, [this, path, sessions, title, watched] {
+    watched->setLabelText(tr("Reading settings…"));
+    const QStringList errors = SaveTo(path, sessions,
+                                      {.goesOn = [watched] { return !watched->wasCanceled(); },
+                                       .step = [] { QCoreApplication::processEvents(); }});
+    watched->deleteLater();
+    watched->reset();
+    if (!errors.isEmpty()) ShowError(window_, title, errors.join(QLatin1Char('\n')));
+  });
 }
 
 void SettingsActions::CompareSettings(const ProjectorSessions& sessions) {
@@ -134,11 +121,26 @@ void SettingsActions::ApplySettings(const ProjectorSessions& sessions) {
 }
 
 void SettingsActions::OpenFile(RestoreDialog::Purpose purpose, const ProjectorSessions& sessions) {
-  const QString path =
-      QFileDialog::getOpenFileName(&window_, tr("Open Settings"), {}, tr("Settings (*.json)"));
-  if (path.isEmpty()) return;
-  SnapshotContents contents = ReadSettingsFile(path);
-  if (!contents.error.isEmpty()) return Tell(tr("Open Settings"), contents.error);
-  RestoreDialog dialog(purpose, std::move(contents.snapshot), path, sessions, &window_);
-  dialog.exec();
+  AskForFile(window_,
+             {.kind = FileQuestion::Kind::Open,
+              .title = tr("Open Settings"),
+              .suggestion = {},
+              .filter = tr("Settings (*.json)")},
+             [this, purpose, sessions](const QString& path) {
+               OpenRestoreDialog(purpose, sessions, path);
+             });
+}
+
+void SettingsActions::OpenRestoreDialog(RestoreDialog::Purpose purpose,
+                                        const ProjectorSessions& sessions, const QString& path) {
+  SettingsFileContents contents = ReadSettingsFile(path);
+  if (!contents.error.isEmpty()) {
+    return ShowError(window_, tr("Open Settings"), contents.error);
+  }
+  auto* dialog = new RestoreDialog(purpose, std::move(contents.snapshot), path, sessions,
+                                   whenQuiet_, &window_);
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  // Neither the projectors nor their dialogs are used meanwhile.
+  dialog->setWindowModality(Qt::ApplicationModal);
+  dialog->show();
 }

@@ -8,7 +8,6 @@
 
 class QAction;
 class QWidget;
-class WhenIdle;
 
 /// Saving the settings of projectors in files, comparing them with a file and putting a file back,
 /// as actions for menus. Asks for files, tells errors.
@@ -16,9 +15,10 @@ class SettingsActions : public QObject {
   Q_OBJECT
 
  public:
-  /// `selected` tells the projectors that are meant. `whenIdle` outlives this, which belongs to the
-  /// window; the actions belong to it.
-  SettingsActions(std::function<ProjectorSessions()> selected, WhenIdle& whenIdle, QWidget& window);
+  /// `selected` tells the projectors that are meant. They are used through `whenQuiet`. This
+  /// belongs to the window, and the actions to this.
+  SettingsActions(std::function<ProjectorSessions()> selected, WhenQuiet whenQuiet,
+                  QWidget& window);
 
   QAction* Save() const { return save_; }
   QAction* Compare() const { return compare_; }
@@ -40,10 +40,12 @@ class SettingsActions : public QObject {
   void CompareSettings(const ProjectorSessions& sessions);
   void ApplySettings(const ProjectorSessions& sessions);
   void OpenFile(RestoreDialog::Purpose purpose, const ProjectorSessions& sessions);
-  void Tell(const QString& title, const QString& text);
+  void OpenRestoreDialog(RestoreDialog::Purpose purpose, const ProjectorSessions& sessions,
+                         const QString& path);
+  void SaveWatched(const QString& path, const ProjectorSessions& sessions);
 
   const std::function<ProjectorSessions()> selected_;
-  WhenIdle& whenIdle_;
+  const WhenQuiet whenQuiet_;
   QWidget& window_;
   QAction* save_;
   QAction* compare_;

@@ -170,8 +170,8 @@
         <translation>不提供</translation>
     </message>
     <message>
-        <source>not done yet</source>
-        <translation>尚未执行</translation>
+        <source>not yet so</source>
+        <translation>尚未生效</translation>
     </message>
 </context>
 <context>
@@ -326,6 +326,57 @@
     </message>
 </context>
 <context>
+    <name>HelpWindows</name>
+    <message>
+        <source>In a projector&apos;s dialog</source>
+        <translation>在投影机的对话框中</translation>
+    </message>
+    <message>
+        <source>Ctrl+Tab, Ctrl+Page Down</source>
+        <translation>Ctrl+Tab、Ctrl+Page Down</translation>
+    </message>
+    <message>
+        <source>Next tab</source>
+        <translation>下一个选项卡</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+Tab, Ctrl+Page Up</source>
+        <translation>Ctrl+Shift+Tab、Ctrl+Page Up</translation>
+    </message>
+    <message>
+        <source>Previous tab</source>
+        <translation>上一个选项卡</translation>
+    </message>
+    <message>
+        <source>Ctrl+F</source>
+        <translation>Ctrl+F</translation>
+    </message>
+    <message>
+        <source>Find a setting</source>
+        <translation>查找设置</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>键盘快捷键</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>关于</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;The live settings of projectors: every value is read from the projector, every change is sent at once.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;高级控制 %1&lt;/h3&gt;&lt;p&gt;投影机的实时设置：每个值都从投影机读取，每项更改都立即发送。&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
     <name>JsonLines</name>
     <message>
         <source>control character in a text</source>
@@ -409,58 +460,6 @@
     <message>
         <source>Advanced Control</source>
         <translation>高级控制</translation>
-    </message>
-    <message>
-        <source>In a projector&apos;s dialog</source>
-        <translation>在投影机的对话框中</translation>
-    </message>
-    <message>
-        <source>Ctrl+Tab, Ctrl+Page Down</source>
-        <translation>Ctrl+Tab、Ctrl+Page Down</translation>
-    </message>
-    <message>
-        <source>Next tab</source>
-        <translation>下一个选项卡</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+Tab, Ctrl+Page Up</source>
-        <translation>Ctrl+Shift+Tab、Ctrl+Page Up</translation>
-    </message>
-    <message>
-        <source>Previous tab</source>
-        <translation>上一个选项卡</translation>
-    </message>
-    <message>
-        <source>Esc</source>
-        <translation>Esc</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>关闭</translation>
-    </message>
-    <message>
-        <source>Keyboard Shortcuts</source>
-        <translation>键盘快捷键</translation>
-    </message>
-    <message>
-        <source>About</source>
-        <translation>关于</translation>
-    </message>
-    <message>
-        <source>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;The live settings of projectors: every value is read from the projector, every change is sent at once.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;高级控制 %1&lt;/h3&gt;&lt;p&gt;投影机的实时设置：每个值都从投影机读取，每项更改都立即发送。&lt;/p&gt;</translation>
-    </message>
-    <message>
-        <source>Ctrl+F</source>
-        <translation>Ctrl+F</translation>
-    </message>
-    <message>
-        <source>Find a setting</source>
-        <translation>查找设置</translation>
-    </message>
-    <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>正在等待已打开对话框的投影机…</translation>
     </message>
 </context>
 <context>
@@ -1078,6 +1077,10 @@
         <source>%1 settings</source>
         <translation>%1 项设置</translation>
     </message>
+    <message>
+        <source>Waiting for the projector of an open dialog…</source>
+        <translation>正在等待已打开对话框的投影机…</translation>
+    </message>
 </context>
 <context>
     <name>SettingsActions</name>
@@ -1129,12 +1132,24 @@
         <source>Open Settings</source>
         <translation>打开设置文件</translation>
     </message>
+    <message>
+        <source>Waiting for the projector of an open dialog…</source>
+        <translation>正在等待已打开对话框的投影机…</translation>
+    </message>
 </context>
 <context>
     <name>SettingsFile</name>
     <message>
         <source>cannot read %1: %2</source>
         <translation>无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>标准输入</translation>
+    </message>
+    <message>
+        <source>%1 stands here twice</source>
+        <translation>%1 在此重复出现</translation>
     </message>
     <message>
         <source>%1; nothing was sent</source>
@@ -1148,8 +1163,12 @@
 <context>
     <name>Snapshot</name>
     <message>
-        <source>must be a whole number of 16 bits</source>
-        <translation>必须是 16 位整数</translation>
+        <source>a whole number is missing here</source>
+        <translation>此处缺少整数</translation>
+    </message>
+    <message>
+        <source>must be a whole number from %1 to %2, and is %3</source>
+        <translation>必须是 %1 到 %2 的整数，现为 %3</translation>
     </message>
     <message>
         <source>must be a line of text</source>

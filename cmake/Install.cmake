@@ -1,14 +1,15 @@
 # What `cmake --install` lays down: libraries, headers, catalog modules and the package config.
 include(CMakePackageConfigHelpers)
+set(libraries ProjectorCommon ProjectorSettings AdvancedControl)
 
 # The path of the build is that of the installation: what CMake would patch on installing it pads, and
 # an empty entry means the current directory. What is installed in the system needs none.
 if(NOT CMAKE_INSTALL_PREFIX STREQUAL "/usr")
-  set_target_properties(ProjectorCommon AdvancedControl PROPERTIES INSTALL_RPATH "$ORIGIN")
+  set_target_properties(${libraries} PROPERTIES INSTALL_RPATH "$ORIGIN")
 endif()
-set_target_properties(ProjectorCommon AdvancedControl PROPERTIES BUILD_WITH_INSTALL_RPATH ON)
+set_target_properties(${libraries} PROPERTIES BUILD_WITH_INSTALL_RPATH ON)
 target_compile_features(ProjectorCommon PUBLIC cxx_std_20)
-install(TARGETS ProjectorCommon AdvancedControl EXPORT AdvancedControlTargets
+install(TARGETS ${libraries} EXPORT AdvancedControlTargets
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT library
                 NAMELINK_COMPONENT development)
 

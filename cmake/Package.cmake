@@ -23,9 +23,9 @@ install(FILES packaging/advanced-control.desktop
         DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT program)
 install(FILES packaging/org.advancedcontrol.AdvancedControl.metainfo.xml
         DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo COMPONENT program)
-install(FILES app/host/icons/advanced-control.svg
+install(FILES app/desktop/icons/advanced-control.svg
         DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps COMPONENT program)
-install(FILES app/host/icons/advanced-control.png
+install(FILES app/desktop/icons/advanced-control.png
         DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/64x64/apps COMPONENT program)
 install_compressed(advanced-control.1 ${CMAKE_INSTALL_MANDIR}/man1/advanced-control.1.gz program)
 install_compressed(acctl.1 ${CMAKE_INSTALL_MANDIR}/man1/acctl.1.gz program)

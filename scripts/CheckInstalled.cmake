@@ -1,16 +1,19 @@
 # cmake -DBUILD_DIR=<build> -DSOURCE_DIR=<source> [-DUPDATE_EXPORTS=ON] -P <this file>
 #
 # Installs the build, moves the installed tree, compiles each of its headers by itself, and builds
-# and starts the example host against it. Then looks for the catalogs, how the programs are hardened,
-# and at the functions that the libraries show: those of exported-symbols.txt beside this file, which
-# UPDATE_EXPORTS writes anew.
+# and starts the example host against it, and a host whose functions are called as the library's are.
+# Then looks for the catalogs and languages, how the programs are hardened, and at the functions that
+# the libraries show: those of exported-symbols.txt beside this file, which UPDATE_EXPORTS writes
+# anew.
 
 cmake_minimum_required(VERSION 3.25)
 
 set(first ${BUILD_DIR}/installed)
 set(prefix ${BUILD_DIR}/installed-and-moved)
 set(example ${BUILD_DIR}/installed-example)
-file(REMOVE_RECURSE ${first} ${prefix} ${example})
+set(namesakes ${BUILD_DIR}/installed-namesakes)
+set(elsewhere ${BUILD_DIR}/installed-elsewhere)
+file(REMOVE_RECURSE ${first} ${prefix} ${example} ${namesakes} ${elsewhere})
 
 function(run)
   execute_process(COMMAND ${ARGV} RESULT_VARIABLE result OUTPUT_VARIABLE output
@@ -38,8 +41,31 @@ if(NOT result MATCHES "timeout")
   message(FATAL_ERROR "The example ended by itself: ${result}\n${errors}")
 endif()
 
+# A host's functions do not take the place of the library's.
+run(${CMAKE_COMMAND} -S ${SOURCE_DIR}/tests/installed -B ${namesakes} -G Ninja
+    -DCMAKE_PREFIX_PATH=${prefix})
+run(${CMAKE_COMMAND} --build ${namesakes})
+run(${CMAKE_COMMAND} -E env LC_ALL=C QT_QPA_PLATFORM=offscreen ${namesakes}/namesake-host)
+
+# The language that a program chooses is that of its dialogs: the catalog is in the process once.
+file(WRITE ${elsewhere}/projectors.json [[{"projectors": [
+  {"name": "Hall", "model": "Hall", "dialogType": 5, "modelCode": 30,
+   "connection": {"network": {"address": "192.0.2.30", "port": 4352}}}]}]])
+set(program ${CMAKE_COMMAND} -E env LC_ALL=C ${prefix}/bin)
+run(${program}/advanced-control --profiles ${elsewhere}/projectors.json --language 2052
+    --tour ${elsewhere}/tour)
+file(READ ${elsewhere}/tour/index.html pages)
+execute_process(COMMAND ${program}/acctl --profiles ${elsewhere}/projectors.json --language 2052
+                        settings Hall
+                OUTPUT_VARIABLE settings COMMAND_ERROR_IS_FATAL ANY)
+foreach(shown pages settings)
+  if(NOT ${shown} MATCHES "状态")
+    message(FATAL_ERROR "The ${shown} are not in Chinese:\n${${shown}}")
+  endif()
+endforeach()
+
 # Hardened, and no library is looked for in the current directory.
-foreach(built libAdvancedControl.so libProjectorCommon.so advanced-control acctl
+foreach(built libAdvancedControl.so libProjectorSettings.so libProjectorCommon.so advanced-control acctl
               advanced-control-simulator)
   execute_process(COMMAND readelf -Wd ${BUILD_DIR}/bin/${built} OUTPUT_VARIABLE dynamic
                   COMMAND_ERROR_IS_FATAL ANY)
@@ -61,10 +87,9 @@ foreach(built libAdvancedControl.so libProjectorCommon.so advanced-control acctl
 endforeach()
 
 # The catalogs are found from wherever the tree stands, before those of the current directory.
-set(elsewhere ${BUILD_DIR}/installed-elsewhere)
 file(WRITE ${elsewhere}/mcdll.dll "no module")
 function(expect_catalog folder expected)
-  # The program holds a copy of the reader: a host has only the library's.
+  # Loaded by the library itself, and by a program that is linked to it.
   set(host LD_PRELOAD=${folder}/libAdvancedControl.so true)
   set(program ${prefix}/bin/advanced-control --list)
   foreach(command host program)
@@ -90,13 +115,13 @@ expect_catalog(${multiarch} ".*mcdll.dll is refused.*")
 
 # A function that a library shows may be taken over by one of its host's that is called the same.
 set(shown "")
-foreach(library AdvancedControl ProjectorCommon)
+foreach(library AdvancedControl ProjectorSettings ProjectorCommon)
   execute_process(COMMAND nm -DC --defined-only ${BUILD_DIR}/bin/lib${library}.so
                   OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
   string(REGEX MATCHALL " T [^\n]*" functions "${symbols}")
   # A member stands for its class.
   list(TRANSFORM functions REPLACE "^ T (non-virtual thunk to |virtual thunk to )?" "")
-  list(TRANSFORM functions REPLACE "(::|\\(|\\[abi).*" "")
+  list(TRANSFORM functions REPLACE "^((AdvancedControl::)?[^:([]*).*" "\\1")
   list(TRANSFORM functions PREPEND "${library} ")
   list(APPEND shown ${functions})
 endforeach()

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# A folder of src/ includes only what stands below it; of the other programs, each knows only what they
-# share (app/profiles).
+# A folder of src/ includes only what stands below it; of the programs, each knows only what they share
+# (app/profiles), and of the host application's rooms, each knows only the projectors.
 set -euo pipefail
 cd "$(dirname "$0")/../src"
 
@@ -39,6 +39,16 @@ for folder in */; do
   if grep -rnE --include='*.h' --include='*.cpp' '^#include "app/' "$folder" |
     grep -vE "#include \"app/($folder|profiles)/"; then
     echo "app/$folder includes another program's"
+    wrong=1
+  fi
+done
+# The rooms of the host application know nothing of each other but the projectors; the windows at its top put
+# them together.
+for room in desktop/*/; do
+  room=${room%/}
+  if grep -rnE --include='*.h' --include='*.cpp' '^#include "app/desktop/' "$room" |
+    grep -vE "#include \"app/($room|desktop/projectors)/|#include \"app/desktop/(Mnemonic|Modal)\.h\""; then
+    echo "app/$room includes another room's"
     wrong=1
   fi
 done

@@ -93,8 +93,10 @@ const std::vector<OptionForm>& Options() {
        [](A& a, Text text) { return TakeText(text, a.profiles); }},
       {"connect", "ADDRESS", "P tells only the model; the projector is at ADDRESS",
        [](A& a, Text text) { return TakeText(text, a.address); }},
-      {"password", "TEXT", "what the projector at ADDRESS asks for",
+      {"password", "TEXT", "of PJLink; others on this machine can see it here",
        [](A& a, Text text) { return TakeText(text, a.password); }},
+      {"password-file", "FILE", "the password is the first line of FILE",
+       [](A& a, Text text) { return TakeText(text, a.passwordFile); }},
       {"json", "", "print JSON (docs/acctl.md)", [](A& a, Text) { return a.json = true; }},
       {"brief",
        "",
@@ -115,6 +117,16 @@ const std::vector<OptionForm>& Options() {
        "",
        "tell what would be changed, and change nothing",
        [](A& a, Text) { return a.dryRun = true; },
+       {Command::Apply}},
+      {"lenient",
+       "",
+       "skip what is wrong in FILE instead of sending nothing",
+       [](A& a, Text) { return a.lenient = true; },
+       {Command::Diff, Command::Apply}},
+      {"force",
+       "",
+       "also the undo file of another projector",
+       [](A& a, Text) { return a.force = true; },
        {Command::Apply}},
       {"undo",
        "FOLDER",
@@ -185,6 +197,10 @@ std::string TakeOptions(const std::vector<std::string>& words, Arguments& argume
   return rest.empty() ? "a command is missing; --help tells them" : std::string();
 }
 
+bool NeedsFile(Command command) {
+  return command == Command::Save || command == Command::Diff || command == Command::Apply;
+}
+
 void Distribute(std::vector<std::string> words, Arguments& arguments) {
   if (arguments.command == Command::Apply) {
     arguments.file = std::move(words.front());
@@ -194,7 +210,7 @@ void Distribute(std::vector<std::string> words, Arguments& arguments) {
   if (words.empty()) return;
   arguments.projectors = {std::move(words.front())};
   words.erase(words.begin());
-  if (arguments.command == Command::Save || arguments.command == Command::Diff) {
+  if (NeedsFile(arguments.command)) {
     arguments.file = std::move(words.front());
   } else {
     arguments.words = std::move(words);
@@ -227,6 +243,9 @@ Arguments ParseArguments(const std::vector<std::string>& words) {
   }
   arguments.command = form->command;
   Distribute(std::move(rest), arguments);
+  if (NeedsFile(arguments.command) && arguments.file.empty()) {
+    return Wrong("the name of the file is empty");
+  }
   return arguments;
 }
 
@@ -254,6 +273,8 @@ std::string HelpText() {
          "pattern\n"
          "too, except for set. VALUE is a number as the dialog shows it, an entry's text, +3 or "
          "-3\n"
-         "from the present value, or =-3 for a number below zero.\n\n"
-         "Exit codes: 0 done, 1 something was refused, 2 wrong use, 3 no answer.\n";
+         "from the present value, or =-3 for a number below zero. The password may also stand in\n"
+         "ACCTL_PASSWORD; at a terminal it is asked for.\n\n"
+         "Exit codes: 0 done, 1 something was refused, 2 wrong use and nothing was sent, 3 no "
+         "answer.\n";
 }

@@ -30,7 +30,8 @@ struct Arguments {
 
   std::string profiles;                      ///< Empty for the file that comes with the program.
   std::string address;                       ///< Where the projector is, instead of its profile's.
-  std::string password;                      ///< That the projector at `address` asks for.
+  std::string password;                      ///< Of PJLink projectors whose profile has none.
+  std::string passwordFile;                  ///< Where it stands instead; empty for nowhere.
   std::vector<std::string> only;             ///< Patterns of keys; empty for all.
   std::string undoFolder;                    ///< Empty for the folder of `file`.
   std::optional<std::uint32_t> language;     ///< Of texts; the system's without.
@@ -41,6 +42,8 @@ struct Arguments {
   bool json = false;
   bool brief = false;
   bool dryRun = false;
+  bool lenient = false;  ///< What is wrong in `file` is skipped.
+  bool force = false;    ///< Of `Apply`: also the undo file of another projector.
 
   std::string error;  ///< One line; empty when the arguments can be followed.
 };

@@ -7,14 +7,17 @@
 
 #include "app/acctl/Arguments.h"
 #include "app/acctl/Report.h"
+#include "app/acctl/Uses.h"
 #include "app/profiles/ProjectorAccess.h"
-#include "snapshots/Snapshot.h"
+#include "app/profiles/SettingsFile.h"
 
 /// What all projectors of a command share.
 struct Work {
   const Arguments& arguments;
   const SettingTexts& texts;
-  std::optional<Snapshot> file;  ///< Of `Diff` and `Apply`.
+  const std::vector<ProjectorProfile>& profiles;
+  SettingsFileContents file;  ///< Of `Diff` and `Apply`.
+  std::string password;       ///< Of PJLink projectors whose profile has none.
   std::function<bool()> isInterrupted;
   std::function<void()> step;  ///< Called after each setting, from any thread.
 };
@@ -23,7 +26,14 @@ struct Work {
 Progress ProgressOf(const Work& work, const ProjectorAccess& projector);
 
 /// A setting with its value, for scripts.
-QJsonObject ValueOf(const SettingTexts& texts, const ModelSetting& setting, int value);
+QJsonObject ValueOf(const SettingTexts& texts, const ModelSetting& setting, int value,
+                    std::optional<PowerState> power);
+
+/// Complains of the words of `set` that no projector like this can follow. Whether a projector must
+/// be asked before it is known that it can follow all others.
+bool NeedsAsking(const Work& work, const Target& target, Report& report);
+/// Asks it, and changes nothing.
+Report CheckSet(const Work& work, ProjectorAccess& projector);
 
 /// Does what the command says with one projector. `Watch` prints by itself, until it is
 /// interrupted.

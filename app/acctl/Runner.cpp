@@ -5,9 +5,12 @@
 #include <cstdio>
 #include <exception>
 #include <mutex>
+#include <new>
 #include <optional>
 #include <string>
 #include <thread>
+
+#include "app/profiles/OutOfMemory.h"
 
 void Meter::Draw(int done) {
   constexpr int kWidth = 30;
@@ -28,6 +31,8 @@ namespace {
 Report Guarded(const std::function<Report(int)>& run, int number) {
   try {
     return run(number);
+  } catch (const std::bad_alloc&) {
+    EndOutOfMemory();
   } catch (const std::exception& error) {
     Report report;
     report.Complain(error.what(), ExitCode::Refused);

@@ -4,10 +4,9 @@
 
 #include <QJsonArray>
 
-#include "app/acctl/Commands.h"
+#include "app/acctl/FileCheck.h"
 #include "app/acctl/Output.h"
-#include "app/acctl/Uses.h"
-#include "app/profiles/SettingsFile.h"
+#include "app/acctl/Reading.h"
 #include "app/profiles/WholeFile.h"
 #include "snapshots/Restoration.h"
 
@@ -44,36 +43,72 @@ const OutcomeList& ListOf(Outcome outcome) {
   return *std::ranges::find(kLists, outcome, &OutcomeList::outcome);
 }
 
+/// What became of a setting, as it is told.
+struct Told {
+  const RestoredSetting* restored;
+  Outcome outcome;
+  std::string reason{};  ///< None where the outcome's own complaint is it.
+  int code = ExitCode::Done;
+};
+
+/// Whether a setting was interrupted while it was stepped.
+bool IsStopped(const Work& work, const Restoration& restoration, const RestoredSetting& restored) {
+  const bool isStepped = restored.setting != nullptr && restored.setting->IsStepped();
+  if (restored.outcome != Outcome::Refused || !isStepped || !work.isInterrupted()) return false;
+  const auto isLater = [&](const RestoredSetting& other) { return other.turn > restored.turn; };
+  return restored.now && std::ranges::none_of(restoration.Beforehand(), isLater) &&
+         std::ranges::none_of(restoration.Settings(), isLater);
+}
+
+Told Judge(const Work& work, const Target& target, const Restoration& restoration,
+           const RestoredSetting& restored) {
+  const auto isNow = [&] { return work.texts.Value(*restored.setting, *restored.now); };
+  if (IsStopped(work, restoration, restored)) {
+    return {&restored, Outcome::NotReached, "stopped at " + isNow()};
+  }
+  const bool lacksEntries = restored.setting != nullptr && target.LacksEntries(*restored.setting);
+  if (restored.outcome == Outcome::NotSettable && lacksEntries) {
+    return {&restored, Outcome::NotReached, kInputsNotRead, ExitCode::NoAnswer};
+  }
+  if (restored.outcome == Outcome::Refused) {
+    return {&restored, Outcome::Refused,
+            restored.now ? "refused, it is " + isNow() : std::string("it ") + kNotReadable,
+            ExitCode::Refused};
+  }
+  return {&restored, restored.outcome};
+}
+
 /// What is told: each setting, and beforehand those that are more than so already. What was changed
 /// beforehand, and is so therefore, is told once.
-std::vector<const RestoredSetting*> Outcomes(const Restoration& restoration) {
-  std::vector<const RestoredSetting*> outcomes;
+std::vector<Told> Outcomes(const Work& work, const Target& target, const Restoration& restoration) {
+  std::vector<Told> outcomes;
+  const auto add = [&](const RestoredSetting& restored) {
+    outcomes.push_back(Judge(work, target, restoration, restored));
+  };
   for (const RestoredSetting& restored : restoration.Beforehand()) {
-    if (restored.outcome != Outcome::AlreadySo) outcomes.push_back(&restored);
+    if (restored.outcome != Outcome::AlreadySo) add(restored);
   }
   const std::vector beforehand = outcomes;
   for (const RestoredSetting& restored : restoration.Settings()) {
     const bool isTold =
         restored.outcome == Outcome::AlreadySo &&
-        std::ranges::any_of(beforehand, [&](const RestoredSetting* earlier) {
-          return earlier->outcome == Outcome::Changed && earlier->saved == restored.saved;
+        std::ranges::any_of(beforehand, [&](const Told& earlier) {
+          return earlier.outcome == Outcome::Changed && earlier.restored->saved == restored.saved;
         });
-    if (!isTold) outcomes.push_back(&restored);
+    if (!isTold) add(restored);
   }
   return outcomes;
 }
 
 /// "12 changed, 28 already so, 1 refused"; what there is none of is left out.
-std::string Summary(const Restoration& restoration) {
-  const auto outcomes = Outcomes(restoration);
+std::string Summary(const std::vector<Told>& outcomes) {
   std::string text;
   int skipped = 0;
   const auto add = [&text](int count, const char* what) {
     if (count > 0) text += (text.empty() ? "" : ", ") + std::to_string(count) + ' ' + what;
   };
   for (const OutcomeList& list : kLists) {
-    const auto count =
-        static_cast<int>(std::ranges::count(outcomes, list.outcome, &RestoredSetting::outcome));
+    const auto count = static_cast<int>(std::ranges::count(outcomes, list.outcome, &Told::outcome));
     if (list.text == nullptr) {
       skipped += count;
     } else {
@@ -107,23 +142,20 @@ std::string NameOf(const Work& work, const ModelSettings& model, const SavedSett
 }
 
 /// All lists for scripts, and what needs a person's eye: each error, and the rest by its reason.
-void Tell(const Work& work, const ModelSettings& model, const Restoration& restoration,
+void Tell(const Work& work, const ModelSettings& model, const std::vector<Told>& outcomes,
           Report& report) {
   std::map<QString, QJsonArray> lists;
   std::array<std::string, kLists.size()> keys;
   for (const OutcomeList& list : kLists) lists[list.member];
-  for (const RestoredSetting* told : Outcomes(restoration)) {
-    const RestoredSetting& restored = *told;
-    const OutcomeList& list = ListOf(restored.outcome);
+  for (const Told& told : outcomes) {
+    const RestoredSetting& restored = *told.restored;
+    const OutcomeList& list = ListOf(told.outcome);
     const std::string name = NameOf(work, model, restored.saved);
     QJsonObject json = Describe(work.texts, restored);
     if (restored.isBeforehand) json["beforehand"] = true;
-    if (restored.outcome == Outcome::Refused) {
-      const std::string reason =
-          restored.now ? "refused, it is " + work.texts.Value(*restored.setting, *restored.now)
-                       : std::string("it ") + kNotReadable;
-      json["reason"] = Wide(reason);
-      report.Complain(std::string(name).append(": ").append(reason), ExitCode::Refused);
+    if (!told.reason.empty()) {
+      json["reason"] = Wide(told.reason);
+      report.Complain(std::string(name).append(": ").append(told.reason), told.code);
     } else if (list.complaint != nullptr) {
       json["reason"] = list.complaint;
       if (list.code != ExitCode::Done) {
@@ -159,7 +191,7 @@ std::string Differences(const Work& work, const ModelSettings& model,
 }
 
 Restoration Restoring(const Work& work, ProjectorAccess& projector) {
-  return {*work.file, projector.Settings(), projector.Connection(),
+  return {work.file.snapshot, projector.Settings(), projector.Connection(),
           [&work](const SavedSetting& saved) { return IsLike(saved.key, work.arguments.only); }};
 }
 
@@ -171,7 +203,8 @@ void ComplainIfGone(const ProjectorAccess& projector, Report& report) {
 
 Report RunSave(const Work& work, ProjectorAccess& projector) {
   Report report;
-  Chosen(projector.Settings(), kKept, work.arguments.only, report);
+  const Target target = TargetOf(projector);
+  Chosen(target, kKept, work.arguments.only, report);
   if (report.code != ExitCode::Done) return report;
   std::vector<std::string> unread;
   const Progress progress = ProgressOf(work, projector);
@@ -182,16 +215,25 @@ Report RunSave(const Work& work, ProjectorAccess& projector) {
     ComplainIfGone(projector, report);
     return report;
   }
-  std::erase_if(snapshot.settings, [&work](const SavedSetting& setting) {
-    return !IsLike(setting.key, work.arguments.only);
+  const auto isMeant = [&work](std::string_view key) { return IsLike(key, work.arguments.only); };
+  std::erase_if(snapshot.settings,
+                [&](const SavedSetting& setting) { return !isMeant(setting.key); });
+  std::erase_if(unread, [&](const std::string& key) {
+    return !isMeant(key) || !target.Carries(kKept, *target.settings.Find(key));
   });
-  for (const std::string& key : unread) {
-    if (IsLike(key, work.arguments.only)) {
-      report.Complain(key + ": cannot be read now, and is left out", ExitCode::Refused);
-    }
+  const ModelSetting* const input = target.settings.Input();
+  const bool isInputUnread = input != nullptr && target.LacksEntries(*input) && isMeant(input->key);
+  const auto power = unread.empty() && !isInputUnread ? std::nullopt : AskPower(projector);
+  const bool rests = RestOf(power) != nullptr;
+  if (isInputUnread && rests) unread.emplace_back(input->key);
+  TellUnread(unread, power, "cannot be read now, and is left out", report);
+  if (isInputUnread && !rests) {
+    report.Complain(std::string(input->key) + ": " + kInputsNotRead, ExitCode::NoAnswer);
   }
   if (snapshot.settings.empty()) {
-    report.Complain("nothing can be read, and nothing was written", ExitCode::Refused);
+    report.Complain("nothing can be read, and nothing was written",
+                    rests ? ExitCode::Done : ExitCode::Refused);
+    report.json["saved"] = 0;
     return report;
   }
   const QByteArray bytes = WriteSnapshot(snapshot);
@@ -205,23 +247,27 @@ Report RunSave(const Work& work, ProjectorAccess& projector) {
   }
   const auto count = static_cast<int>(snapshot.settings.size());
   report.text = std::to_string(count) + " settings saved in " + work.arguments.file + '\n';
-  report.json = {{"file", Wide(work.arguments.file)}, {"saved", count}};
+  report.json["file"] = Wide(work.arguments.file);
+  report.json["saved"] = count;
   return report;
 }
 
 Report RunDiff(const Work& work, ProjectorAccess& projector) {
-  Report report;
+  Report report = CheckFile(work, projector);
+  if (report.code != ExitCode::Done) return report;
   Restoration restoration = Restoring(work, projector);
   restoration.Read(ProgressOf(work, projector));
   ComplainIfGone(projector, report);
-  Tell(work, projector.Settings(), restoration, report);
-  report.text = Differences(work, projector.Settings(), restoration) + Summary(restoration) + '\n';
+  const auto outcomes = Outcomes(work, TargetOf(projector), restoration);
+  Tell(work, projector.Settings(), outcomes, report);
+  report.text = Differences(work, projector.Settings(), restoration) + Summary(outcomes) + '\n';
   return report;
 }
 
 Report RunApply(const Work& work, ProjectorAccess& projector) {
   if (work.arguments.dryRun) return RunDiff(work, projector);
-  Report report;
+  Report report = CheckFile(work, projector);
+  if (report.code != ExitCode::Done) return report;
   const Progress progress = ProgressOf(work, projector);
   Restoration restoration = Restoring(work, projector);
   restoration.Read(progress);
@@ -233,7 +279,8 @@ Report RunApply(const Work& work, ProjectorAccess& projector) {
     report.Complain(error.toStdString(), ExitCode::Refused);
   }
   ComplainIfGone(projector, report);
-  Tell(work, projector.Settings(), restoration, report);
-  report.text = Summary(restoration) + '\n';
+  const auto outcomes = Outcomes(work, TargetOf(projector), restoration);
+  Tell(work, projector.Settings(), outcomes, report);
+  report.text = Summary(outcomes) + '\n';
   return report;
 }

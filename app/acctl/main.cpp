@@ -1,9 +1,9 @@
 #include <algorithm>
-#include <atomic>
 #include <csignal>
 #include <cstdio>
 #include <exception>
 #include <fcntl.h>
+#include <new>
 #include <unistd.h>
 
 #include <QCoreApplication>
@@ -13,8 +13,12 @@
 #include <QJsonDocument>
 
 #include "app/acctl/Output.h"
-#include "app/acctl/Runner.h"
+#include "app/acctl/Password.h"
+#include "app/acctl/Preflight.h"
+#include "app/acctl/ProjectorLock.h"
+#include "app/acctl/Signals.h"
 #include "app/acctl/Uses.h"
+#include "app/profiles/OutOfMemory.h"
 #include "app/profiles/SettingsFile.h"
 #include "device/Connect.h"
 #include "i18n/Catalog.h"
@@ -23,22 +27,6 @@
 namespace {
 
 using Command = Arguments::Command;
-
-std::atomic<int> receivedSignal{0};
-static_assert(std::atomic<int>::is_always_lock_free);
-
-// The first Ctrl+C lets the work tell what was done, the second ends the program. What whoever
-// started us wants ignored, as nohup does, stays so.
-void WatchSignals() {
-  struct sigaction action {};
-  action.sa_handler = [](int signal) { receivedSignal = signal; };
-  action.sa_flags = static_cast<int>(SA_RESETHAND);
-  for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
-    struct sigaction inherited {};
-    sigaction(signal, nullptr, &inherited);
-    if (inherited.sa_handler != SIG_IGN) sigaction(signal, &action, nullptr);
-  }
-}
 
 // A reader that left must not cut off what is being sent, and what is printed where nothing is open
 // must not reach a file or a projector that is opened in its place.
@@ -90,6 +78,20 @@ int List(const Arguments& arguments, const std::vector<ProjectorProfile>& profil
                                                                    : ExitCode::Refused;
 }
 
+/// What an undo file puts back was another projector's, in an order that was right there.
+std::string CheckUndo(const Arguments& arguments, const Snapshot& file,
+                      const std::vector<const ProjectorProfile*>& projectors) {
+  const bool isUndo = file.isUndo || !file.beforehand.empty();
+  const bool changes = arguments.command == Command::Apply && !arguments.dryRun;
+  if (!isUndo || !changes || arguments.force) return {};
+  const auto other = std::ranges::find_if(projectors, [&file](const ProjectorProfile* profile) {
+    return profile->Name != file.projector;
+  });
+  if (other == projectors.end()) return {};
+  return arguments.file + ": undoes a change of " + file.projector + "; --force applies it to " +
+         (*other)->Name;
+}
+
 /// The projectors that the command names, each once, in the order of the names.
 std::string Choose(const std::vector<std::string>& names,
                    const std::vector<ProjectorProfile>& profiles,
@@ -113,21 +115,27 @@ std::string Choose(const std::vector<std::string>& names,
   return {};
 }
 
-/// The projector of the profile, or what is at the address that was given.
-std::shared_ptr<ProjectorChannel> ChannelTo(const ProjectorProfile& profile,
-                                            const Arguments& arguments) {
-  const bool isGiven = !arguments.address.empty();
-  if (!isGiven && profile.Link == ProjectorLink::Simulated) {
-    return std::make_shared<SimulatedProjector>(SimulatedModelOf(profile));
-  }
-  return MakeUnboundedChannel(
-      isGiven ? ParseAddress(arguments.address, arguments.password) : AddressOf(profile),
-      arguments.timeOut);
+/// Where the projector of the profile is; nowhere while it is only simulated.
+std::optional<ProjectorAddress> AddressOf(const ProjectorProfile& profile, const Work& work,
+                                          const std::string& password) {
+  const bool isGiven = !work.arguments.address.empty();
+  if (!isGiven && profile.Link == ProjectorLink::Simulated) return std::nullopt;
+  ProjectorAddress address = isGiven ? ParseAddress(work.arguments.address) : AddressOf(profile);
+  auto* const pjLink = std::get_if<PjLinkAddress>(&address);
+  if (pjLink != nullptr && pjLink->password.empty()) pjLink->password = password;
+  return address;
 }
 
-using Run = Report (*)(const Work&, ProjectorAccess&);
+std::shared_ptr<ProjectorChannel> ChannelTo(const ProjectorProfile& profile,
+                                            const std::optional<ProjectorAddress>& address,
+                                            std::chrono::milliseconds timeOut) {
+  if (address) return MakeUnboundedChannel(*address, timeOut);
+  return std::make_shared<SimulatedProjector>(SimulatedModelOf(profile));
+}
 
-Run RunOf(Command command) {
+using Act = Report (*)(const Work&, ProjectorAccess&);
+
+Act RunOf(Command command) {
   switch (command) {
     case Command::Settings:
       return RunSettings;
@@ -150,6 +158,47 @@ Run RunOf(Command command) {
   }
 }
 
+/// `password` is for a projector whose profile has none; `lacksPassword` becomes whether it wants
+/// one and neither has it.
+Report ActOver(const Work& work, const ProjectorProfile& profile, Act act,
+               const std::string& password, bool& lacksPassword) {
+  const Arguments& arguments = work.arguments;
+  const auto address = AddressOf(profile, work, password);
+  // Lists need next to nothing of the projector, and who watches would never let another one in.
+  const bool isListed = arguments.command == Command::Settings;
+  std::optional<ProjectorLock> lock;
+  if (address && !isListed && arguments.command != Command::Watch) {
+    lock.emplace(*address, arguments.timeOut, work.isInterrupted);
+  }
+  Report report;
+  if (lock && !lock->IsHeld()) {
+    report.Complain("another run of acctl works on it", ExitCode::NoAnswer);
+    return report;
+  }
+  ProjectorAccess projector(profile, ChannelTo(profile, address, arguments.timeOut),
+                            arguments.timeOut);
+  projector.AskForInputs(InputsNeededBy(work, TargetOf(projector)));
+  if (projector.Channel().IsGone() && !isListed) {
+    report.Complain(NoAnswerText(projector), ExitCode::NoAnswer);
+  } else {
+    report = act(work, projector);
+  }
+  const auto* const pjLink = address ? std::get_if<PjLinkAddress>(&*address) : nullptr;
+  lacksPassword = pjLink != nullptr && pjLink->password.empty() &&
+                  projector.Channel().Connection() == ConnectionState::PasswordRequired;
+  return report;
+}
+
+/// `mayAsk` allows to ask for a password that nobody has given.
+Report ActOnProjector(const Work& work, const ProjectorProfile& profile, Act act, bool mayAsk) {
+  bool lacksPassword = false;
+  Report report = ActOver(work, profile, act, work.password, lacksPassword);
+  if (!lacksPassword || !mayAsk) return report;
+  // The projector has done nothing so far.
+  const auto password = AskForPassword(profile.Name, work.isInterrupted);
+  return password ? ActOver(work, profile, act, *password, lacksPassword) : report;
+}
+
 /// A line for one of several projectors, or its own text behind its name.
 std::string Titled(const std::string& name, const std::string& text) {
   const bool oneLine = std::ranges::count(text, '\n') == 1;
@@ -159,27 +208,25 @@ std::string Titled(const std::string& name, const std::string& text) {
 int RunOnProjectors(const Work& work, const std::vector<const ProjectorProfile*>& projectors) {
   const Arguments& arguments = work.arguments;
   const bool several = projectors.size() > 1;
-  const Run run = RunOf(arguments.command);
   Meter meter(several && isatty(STDERR_FILENO) == 1, static_cast<int>(projectors.size()));
   int code = ExitCode::Done;
   bool printed = true;
   const bool isSaved = arguments.command == Command::Save && arguments.file == "-";
   const bool asJson = arguments.json && arguments.command != Command::Watch && !isSaved;
   QJsonArray json;
+  const auto act = [&](int number, Act doing) {
+    return ActOnProjector(work, *projectors[static_cast<std::size_t>(number)], doing, !several);
+  };
+  const auto checked =
+      CheckWords(work, projectors, meter, [&](int number) { return act(number, CheckAsked); });
   RunParallel(
       static_cast<int>(projectors.size()), arguments.jobs, meter,
       [&](int number) {
-        const ProjectorProfile& profile = *projectors[static_cast<std::size_t>(number)];
-        ProjectorAccess projector(profile, ChannelTo(profile, arguments), arguments.timeOut);
-        const bool isListed = arguments.command == Command::Settings;
-        // Keys alone do not depend on the inputs.
-        if (!isListed || !arguments.brief) projector.AskForInputs();
-        if (projector.Channel().IsGone() && !isListed) {
-          Report report;
-          report.Complain(NoAnswerText(projector), ExitCode::NoAnswer);
-          return report;
-        }
-        return run(work, projector);
+        if (const auto& report = checked[static_cast<std::size_t>(number)]) return *report;
+        Report report = act(number, RunOf(arguments.command));
+        // Nothing was sent to this one, but perhaps to others.
+        if (several && report.code == ExitCode::WrongUse) report.code = ExitCode::Refused;
+        return report;
       },
       [&](int number, Report report) {
         const std::string& name = projectors[static_cast<std::size_t>(number)]->Name;
@@ -196,7 +243,7 @@ int RunOnProjectors(const Work& work, const std::vector<const ProjectorProfile*>
       });
   if (asJson)
     printed = Print(QJsonDocument(QJsonObject{{"projectors", json}}).toJson().toStdString());
-  if (const int signal = receivedSignal; signal != 0 && arguments.command != Command::Watch) {
+  if (const int signal = ReceivedSignal(); signal != 0 && arguments.command != Command::Watch) {
     Complain("cut off; what was done is told above");
     return ExitCode::Signalled + signal;
   }
@@ -222,29 +269,37 @@ int Main(int argc, char* argv[]) {
   if (projectors.size() > 1 && (takesOne || !arguments.address.empty())) {
     return Fail("this takes one projector, not " + std::to_string(projectors.size()));
   }
-  if (const auto address = ParseAddress(arguments.address, arguments.password);
+  if (const auto address = ParseAddress(arguments.address);
       !arguments.address.empty() && std::holds_alternative<AddressError>(address)) {
     return Fail("--connect: " + std::get<AddressError>(address).text);
   }
+  std::string passwordError;
+  const std::string password = GivenPassword(arguments, passwordError);
+  if (!passwordError.empty()) return Fail(passwordError);
   const std::vector<std::string> folders = CatalogFolders();
   const SettingTexts texts(folders, arguments.language.value_or(SystemLanguageId()));
   Work work{.arguments = arguments,
             .texts = texts,
+            .profiles = profiles.projectors,
             .file = {},
-            .isInterrupted = [] { return receivedSignal != 0; },
+            .password = password,
+            .isInterrupted = [] { return ReceivedSignal() != 0; },
             .step = [] {}};
   if (arguments.command == Command::Diff || arguments.command == Command::Apply) {
-    SnapshotContents contents = ReadSettingsFile(Wide(arguments.file));
-    if (!contents.error.isEmpty()) return Fail(contents.error.toStdString());
-    work.file = std::move(contents.snapshot);
+    work.file = ReadSettingsFile(Wide(arguments.file));
+    if (!work.file.error.isEmpty()) return Fail(work.file.error.toStdString());
+    Snapshot& snapshot = work.file.snapshot;
     for (const std::string& pattern : arguments.only) {
       const bool isNone = std::ranges::none_of(
-          work.file->settings,
+          snapshot.settings,
           [&pattern](const SavedSetting& saved) { return IsLike(saved.key, {pattern}); });
       if (isNone) return Fail("--only " + pattern + ": the file has no such setting");
     }
+    const std::string undoError = CheckUndo(arguments, snapshot, projectors);
+    if (!undoError.empty()) return Fail(undoError);
     // A part of it would be put back under a source or mode that it does not belong to.
-    if (!arguments.only.empty()) work.file->beforehand.clear();
+    if (!arguments.only.empty()) snapshot.beforehand.clear();
+    if (const int code = CheckFile(work, projectors); code != ExitCode::Done) return code;
   }
   WatchSignals();
   return RunOnProjectors(work, projectors);
@@ -253,9 +308,12 @@ int Main(int argc, char* argv[]) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
+  EndWhenOutOfMemory("acctl");
   try {
     GuardOutput();
     return Main(argc, argv);
+  } catch (const std::bad_alloc&) {
+    EndOutOfMemory();
   } catch (const std::exception& error) {
     Complain(error.what());
     return ExitCode::Refused;

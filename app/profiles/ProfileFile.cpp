@@ -1,5 +1,6 @@
 #include "app/profiles/ProfileFile.h"
 
+#include <algorithm>
 #include <fcntl.h>
 #include <map>
 #include <optional>
@@ -11,6 +12,7 @@
 
 #include "app/profiles/JsonLines.h"
 #include "app/profiles/ProfileValues.h"
+#include "app/profiles/WholeFile.h"
 
 namespace {
 
@@ -112,6 +114,12 @@ std::vector<ProjectorProfile> Profiles(const QJsonDocument& document) {
   return profiles;
 }
 
+bool HoldsPassword(const QJsonValue& value) {
+  if (value.isArray()) return std::ranges::any_of(value.toArray(), HoldsPassword);
+  const QJsonObject object = value.toObject();
+  return object.contains("secret") || std::ranges::any_of(object, HoldsPassword);
+}
+
 ProfileFileContents Wrong(const QString& error) { return {.projectors = {}, .error = error}; }
 
 }  // namespace
@@ -160,6 +168,11 @@ ProfileFileText ReadProfileText(const QString& fileName) {
   }
   // One byte more than the limit shows that the file exceeds it, whatever size it claims.
   return {file.read(JsonLines::kMaximumBytes + 1), {}};
+}
+
+QString WriteProfileText(const QString& fileName, const QByteArray& text) {
+  const bool isPrivate = HoldsPassword(QJsonDocument::fromJson(text).object());
+  return WriteWholeFile(fileName, text, isPrivate ? FileAccess::OwnerOnly : FileAccess::Kept);
 }
 
 ProfileFileContents ReadProfileFile(const QString& fileName) {

@@ -21,6 +21,11 @@ struct ProfileFileText {
 /// What stands in a regular file, up to a little more than a profile file may hold.
 ProfileFileText ReadProfileText(const QString& fileName);
 
+/// Writes a profile file as a whole, or leaves the one that is there untouched. Nobody but its
+/// owner can read one that holds a password. One line that says what is wrong; empty when all is
+/// well.
+QString WriteProfileText(const QString& fileName, const QByteArray& text);
+
 /// The projectors of a profile file. Its format is described in `docs/profiles.md`.
 ProfileFileContents ReadProfileFile(const QString& fileName);
 

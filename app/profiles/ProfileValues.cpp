@@ -232,6 +232,14 @@ NameSlot Device(const QJsonObject& parameters, const QString& path) {
   return Slot(parameters["device"], devicePath);
 }
 
+NameSlot Address(const QJsonValue& value, const QString& path) {
+  const NameSlot address = Slot(value, path);
+  if (!IsHostAddress(NameText(address))) {
+    throw WrongValue{path, ProfileText::tr("is neither the name of a host nor an IP address")};
+  }
+  return address;
+}
+
 void ApplyConnection(const QJsonObject& connection, const QString& path, CModelInfo2& model) {
   CheckKeys(connection, path, {"network", "serial"});
   if (connection.size() != 1) {
@@ -246,7 +254,7 @@ void ApplyConnection(const QJsonObject& connection, const QString& path, CModelI
     model.ConnectionNumbers[0] = 0;
     model.ConnectionParameters[0] =
         Integer(parameters["port"], At(kindPath, "port"), 1, kMaximumPort);
-    model.ConnectionTexts1[0] = Slot(parameters["address"], At(kindPath, "address"));
+    model.ConnectionTexts1[0] = Address(parameters["address"], At(kindPath, "address"));
     model.ConnectionTexts2[0] = parameters.contains("secret")
                                     ? Slot(parameters["secret"], At(kindPath, "secret"))
                                     : NameSlot{};

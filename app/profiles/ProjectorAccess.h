@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 
+#include "app/profiles/PatientChannel.h"
 #include "app/profiles/ProfileFile.h"
 #include "device/CPjtInterface.h"
 #include "device/PjLinkChannel.h"
@@ -13,51 +14,42 @@
 /// The simulation that a profile describes.
 SimulatedModel SimulatedModelOf(const ProjectorProfile& profile);
 
-/// Asks again where an answer got lost, and knows when a projector is gone: one that has never
-/// answered is after the first command, any other after the last repetition. Then every command is
-/// unanswered at once. So a dead projector costs one time-out and not one per command: repetitions
-/// begin only within it, and a command is given up early for another one to have its share, but not
-/// before twice the time that the slowest answer took.
-class PatientChannel : public ProjectorChannel {
- public:
-  static constexpr int kAttempts = 3;
-  static constexpr std::chrono::milliseconds kPause{50};  ///< At least, from one to the next.
-
-  PatientChannel(std::shared_ptr<ProjectorChannel> inner, std::chrono::milliseconds timeOut)
-      : inner_(std::move(inner)),
-        timeOut_(timeOut),
-        everAnswered_(inner_->Connection() == ConnectionState::Connected) {}
-
-  PjtReply Execute(const PjtCommand& command) override;
-  void Announce(std::span<const PjtCommand> reads) override { inner_->Announce(reads); }
-  ConnectionState Connection() const override { return inner_->Connection(); }
-
-  bool IsGone() const { return gone_; }
-  /// Whether the last command was answered.
-  bool HasAnswered() const { return answered_; }
-  /// Whether it was to something that the projector has, as far as that is known.
-  bool IsOffered() const { return offered_; }
-
- private:
-  std::shared_ptr<ProjectorChannel> inner_;
-  const std::chrono::milliseconds timeOut_;
-  std::chrono::milliseconds slowest_{0};
-  bool everAnswered_;
-  bool answered_ = true;
-  bool offered_ = true;
-  bool gone_ = false;
+/// What a command has to know of the inputs that a projector tells itself.
+enum class InputsNeeded {
+  None,
+  Present,  ///< The name of the one that is shown.
+  All,
 };
 
-/// A projector of a profile file as a program without a window uses it. One thread at a time.
+/// A projector of a profile file as a program without a window uses it. One thread at a time. What
+/// a PJLink projector is, is remembered for the next program.
 class ProjectorAccess {
  public:
   /// `timeOut` is that of the channel, for one answer.
   ProjectorAccess(const ProjectorProfile& profile, std::shared_ptr<ProjectorChannel> channel,
                   std::chrono::milliseconds timeOut = std::chrono::seconds(2));
 
-  /// Asks a PJLink projector for its inputs where the profile names none. One that is silent costs
-  /// one time-out, and is gone then.
-  void AskForInputs();
+  ~ProjectorAccess();
+  ProjectorAccess(const ProjectorAccess&) = delete;
+  ProjectorAccess& operator=(const ProjectorAccess&) = delete;
+
+  /// Asks a PJLink projector for its inputs where the profile names none and they are not
+  /// remembered.
+  void AskForInputs(InputsNeeded needed = InputsNeeded::All);
+  /// Whether inputs were asked for and the answer got lost, so that settings that choose one lack
+  /// entries, and what is read of them has a number or a kind instead of a name.
+  bool LacksInputs() const { return lacksInputs_; }
+
+  bool IsPjLink() const { return pjLink_ != nullptr; }
+  /// Whether the inputs are those that the projector tells, as the profile names none.
+  bool TellsInputs() const { return tellsInputs_; }
+
+  /// Steps a setting that can be stepped and not read, as the volume over PJLink, up so many times,
+  /// or down where `steps` is below zero. Ends with the first step that is not accepted; the result
+  /// is the number of those that were, and `Channel().Last()` says more.
+  int StepUnread(const ModelSetting& setting, int steps);
+  /// Whether `StepUnread` has a way to do so.
+  static bool HasSteps(const ModelSetting& setting);
 
   const std::string& Name() const { return name_; }
   const ModelSettings& Settings() const { return settings_; }
@@ -71,4 +63,7 @@ class ProjectorAccess {
   std::shared_ptr<PjLinkChannel> pjLink_;  ///< Null for any other way.
   std::shared_ptr<PatientChannel> channel_;
   CPjtInterface connection_;
+  PjLinkFacts remembered_;
+  bool lacksInputs_ = false;
+  bool tellsInputs_ = false;
 };

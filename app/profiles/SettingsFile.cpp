@@ -1,27 +1,63 @@
 #include "app/profiles/SettingsFile.h"
 
-#include <cstdio>
+#include <utility>
 
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
+#include <QJsonDocument>
 
+#include "app/profiles/JsonLines.h"
 #include "app/profiles/WholeFile.h"
 
-SnapshotContents ReadSettingsFile(const QString& path) {
-  QFile file(path);
-  const bool isOpen = path == "-" ? file.open(stdin, QIODevice::ReadOnly)  //
-                                  : file.open(QIODevice::ReadOnly);
-  if (!isOpen) {
-    return {{},
-            QCoreApplication::translate("SettingsFile", "cannot read %1: %2")
-                .arg(path, file.errorString())};
+namespace {
+
+/// "picture.tint: " for the path of a value that is part of this setting; else empty.
+QString KeyAt(const Snapshot& snapshot, const QString& path) {
+  const bool isBeforehand = path.startsWith("beforehand[");
+  if (!isBeforehand && !path.startsWith("settings[")) return {};
+  const auto& settings = isBeforehand ? snapshot.beforehand : snapshot.settings;
+  const auto index = path.section('[', 1).section(']', 0, 0).toULongLong();
+  return index < settings.size() ? QString::fromStdString(settings[index].key) + ": " : QString();
+}
+
+}  // namespace
+
+SettingsFileContents ReadSettingsFile(const QString& path) {
+  // One byte more than the reader takes shows that the file is too large.
+  const FileBytes file = ReadToEnd(path, JsonLines::kMaximumBytes + 1);
+  if (!file.error.isEmpty()) {
+    return {.error = QCoreApplication::translate("SettingsFile", "cannot read %1: %2")
+                         .arg(path, file.error)};
   }
-  constexpr qint64 kMost = (qint64{4} << 20) + 1;  // one more than the reader takes
-  SnapshotContents contents = ReadSnapshot(file.read(kMost));
-  if (!contents.error.isEmpty()) contents.error.prepend(path + ": ");
+  const bool isStream = path == "-";
+  return ParseSettingsFile(
+      file.bytes, isStream ? QCoreApplication::translate("SettingsFile", "standard input") : path);
+}
+
+SettingsFileContents ParseSettingsFile(const QByteArray& text, const QString& name) {
+  SettingsFileContents contents{.name = name, .text = text};
+  const auto wrong = [&](int line, const QString& message) {
+    contents.error = QStringLiteral("%1:%2: ").arg(name).arg(line) + message;
+    return contents;
+  };
+  if (const auto fault = JsonLines::FaultOf(text)) {
+    return wrong(JsonLines::PlaceOf(text, fault->offset).line, fault->message);
+  }
+  QJsonParseError syntax;
+  QJsonDocument::fromJson(text, &syntax);
+  if (syntax.error != QJsonParseError::NoError) {
+    return wrong(JsonLines::PlaceOf(text, syntax.offset).line, syntax.errorString());
+  }
+  const JsonLines lines(text);
+  SnapshotContents read = ReadSnapshot(text);
+  if (!read.error.isEmpty()) return wrong(lines.LineOf(read.path), read.error);
+  if (const auto twice = lines.RepeatedKey()) {
+    const QString what = QCoreApplication::translate("SettingsFile", "%1 stands here twice");
+    return wrong(twice->line, KeyAt(read.snapshot, twice->path) + what.arg(twice->path));
+  }
+  contents.snapshot = std::move(read.snapshot);
   return contents;
 }
 
@@ -42,7 +78,9 @@ UndoFile::UndoFile(const QString& file, const QString& folder, const std::string
 }
 
 bool UndoFile::Keep(const Snapshot& undo) {
-  const QByteArray bytes = WriteSnapshot(undo);
+  Snapshot kept = undo;
+  kept.isUndo = true;
+  const QByteArray bytes = WriteSnapshot(kept);
   if (isThere_) {
     error_ = WriteWholeFile(path_, bytes);
   } else {

@@ -4,8 +4,18 @@
 
 #include "snapshots/Snapshot.h"
 
-/// Reads a file of saved settings; "-" is standard input. The error begins with the file's name.
-SnapshotContents ReadSettingsFile(const QString& path);
+struct SettingsFileContents {
+  Snapshot snapshot{};
+  QString name{};     ///< Of the file, as messages call it.
+  QByteArray text{};  ///< What was read, for the line in which a value stands.
+  QString error{};    ///< One line: file, line and what is wrong; empty when all is well.
+};
+
+/// Reads a file of saved settings; "-" is standard input.
+SettingsFileContents ReadSettingsFile(const QString& path);
+
+/// The same from a text; `name` stands in error messages.
+SettingsFileContents ParseSettingsFile(const QByteArray& text, const QString& name);
 
 /// A projector's name as part of a file's name. Several projectors may have the same.
 QString FileNameOf(const std::string& projector);

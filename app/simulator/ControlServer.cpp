@@ -40,7 +40,8 @@ std::optional<ServiceFault> ParseFault(const QString& text) {
   return std::nullopt;
 }
 
-ControlServer::ControlServer(ServedProjectors& projectors) : projectors_(projectors) {
+ControlServer::ControlServer(ServedProjectors& projectors)
+    : projectors_(projectors), server_(kLongestLine) {
   server_.setMaxPendingConnections(kMaximumConnections);
   QObject::connect(&server_, &QTcpServer::newConnection, &server_, [this] {
     while (QTcpSocket* socket = server_.nextPendingConnection()) {
@@ -48,7 +49,6 @@ ControlServer::ControlServer(ServedProjectors& projectors) : projectors_(project
         delete socket;
         continue;
       }
-      socket->setReadBufferSize(kLongestLine);
       QObject::connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
       QObject::connect(socket, &QTcpSocket::readyRead, socket, [this, socket] {
         while (socket->canReadLine()) {

@@ -4,9 +4,9 @@
 #include <optional>
 
 #include <QString>
-#include <QTcpServer>
 
 #include "app/simulator/ServedProjectors.h"
+#include "simulator/TcpListener.h"
 
 /// How faults are written.
 inline constexpr char kFaultNames[] =
@@ -28,5 +28,5 @@ class ControlServer final {
   QString Obey(const QString& line);
 
   ServedProjectors& projectors_;
-  QTcpServer server_;
+  TcpListener server_;
 };

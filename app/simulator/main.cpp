@@ -1,6 +1,8 @@
 #include <algorithm>
 #include <csignal>
 #include <cstdio>
+#include <exception>
+#include <new>
 #include <optional>
 #include <sys/signalfd.h>
 #include <unistd.h>
@@ -8,9 +10,9 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
-#include <QSaveFile>
 #include <QSocketNotifier>
 
+#include "app/profiles/OutOfMemory.h"
 #include "app/simulator/Arguments.h"
 #include "app/simulator/ControlServer.h"
 #include "app/simulator/ServedProjectors.h"
@@ -55,16 +57,6 @@ std::optional<QString> Choose(std::vector<ProjectorProfile>& profiles, const QSt
   return std::nullopt;
 }
 
-QString Write(const QString& fileName, const QByteArray& text) {
-  QSaveFile file(fileName);
-  // The password stands in it.
-  const bool written = file.open(QIODevice::WriteOnly) &&
-                       file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner) &&
-                       file.write(text) == text.size() && file.flush() && file.commit();
-  return written ? QString()
-                 : QStringLiteral("cannot write %1: %2").arg(fileName, file.errorString());
-}
-
 int Run(const Arguments& arguments, int endingSignals) {
   const QString fileName = ProfileFile(arguments);
   ProfileFileContents contents = ReadProfileFile(fileName);
@@ -79,7 +71,7 @@ int Run(const Arguments& arguments, int endingSignals) {
     QFile original(fileName);
     const bool read = original.open(QIODevice::ReadOnly);
     const QString error =
-        read ? Write(arguments.writeProfiles, projectors.Profiles(original.readAll()))
+        read ? WriteProfileText(arguments.writeProfiles, projectors.Profiles(original.readAll()))
              : original.errorString();
     if (!error.isEmpty()) return Fail(error);
   }
@@ -101,6 +93,7 @@ int Run(const Arguments& arguments, int endingSignals) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
+  EndWhenOutOfMemory("advanced-control-simulator");
   const int endingSignals = EndingSignals();
   const QCoreApplication application(argc, argv);
   const Arguments arguments = ParseArguments(QCoreApplication::arguments());
@@ -111,6 +104,8 @@ int main(int argc, char* argv[]) {
   }
   try {
     return Run(arguments, endingSignals);
+  } catch (const std::bad_alloc&) {
+    EndOutOfMemory();
   } catch (const std::exception& error) {
     return Fail(QString::fromLocal8Bit(error.what()));
   }

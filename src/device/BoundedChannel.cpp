@@ -15,6 +15,8 @@
 #include <QEventLoop>
 #include <QTimer>
 
+#include "device/DropException.h"
+
 namespace {
 
 using Clock = std::chrono::steady_clock;
@@ -32,6 +34,12 @@ PjtReply Unanswered(const PjtCommand& command) {
   return {.result = RefusedResult(command.operation), .answered = false};
 }
 
+PjtReply Unsent(const PjtCommand& command) {
+  PjtReply reply = Unanswered(command);
+  reply.unsent = true;
+  return reply;
+}
+
 // A channel that throws has not answered.
 PjtReply Ask(ProjectorChannel& channel, std::optional<std::chrono::milliseconds> longest,
              const std::optional<std::vector<PjtCommand>>& announced, const PjtCommand& command) {
@@ -40,6 +48,7 @@ PjtReply Ask(ProjectorChannel& channel, std::optional<std::chrono::milliseconds>
     if (announced) channel.Announce(*announced);
     return channel.Execute(command);
   } catch (...) {
+    DropException();
     return Unanswered(command);
   }
 }
@@ -48,6 +57,17 @@ bool SpendIdleTime(ProjectorChannel& channel) {
   try {
     return channel.UseIdleTime();
   } catch (...) {  // likewise
+    DropException();
+    return false;
+  }
+}
+
+bool Tend(ProjectorChannel& channel, Clock::time_point lastUse) {
+  try {
+    return channel.TendConnection(
+        std::chrono::floor<std::chrono::milliseconds>(Clock::now() - lastUse));
+  } catch (...) {  // likewise
+    DropException();
     return false;
   }
 }
@@ -108,11 +128,18 @@ void BoundedChannel::State::Work() {
   std::unique_lock lock(mutex);
   const auto isCalled = [this] { return ended || command; };
   bool hasMoreToDo = false;
+  bool isConnected = false;
+  Clock::time_point lastUse;
   while (true) {
-    while (hasMoreToDo && !commandGiven.wait_for(lock, limits.idle, isCalled)) {
+    while ((hasMoreToDo || isConnected) &&
+           !commandGiven.wait_for(lock, hasMoreToDo ? limits.idle : limits.tend, isCalled)) {
       usesIdleTime = true;
       lock.unlock();
-      hasMoreToDo = SpendIdleTime(*inner);
+      if (hasMoreToDo) {
+        hasMoreToDo = SpendIdleTime(*inner);
+      } else {
+        isConnected = Tend(*inner, lastUse);
+      }
       lock.lock();
       usesIdleTime = false;
     }
@@ -130,6 +157,8 @@ void BoundedChannel::State::Work() {
     lock.lock();
     outstanding = false;
     hasMoreToDo = answer.answered;
+    isConnected = true;  // as far as is known
+    lastUse = Clock::now();
     if (Wait* to = std::exchange(recipient, nullptr)) to->reply = answer;
     WakeUp();
   }
@@ -160,6 +189,18 @@ bool BoundedChannel::State::WaitUntil(std::unique_lock<std::mutex>& lock, Wait& 
   return !wait.abandoned && done();
 }
 
+// A channel that throws has told nothing.
+template <typename Value>
+Value BoundedChannel::Told(State& state, Value otherwise, auto ask) {
+  const std::lock_guard lock(state.mutex);
+  try {
+    if (state.inner) return ask(*state.inner);
+  } catch (...) {
+    DropException();
+  }
+  return otherwise;
+}
+
 BoundedChannel::BoundedChannel(std::shared_ptr<ProjectorChannel> inner, const Limits& limits)
     : state_(std::make_shared<State>(std::move(inner), limits)) {}
 
@@ -185,13 +226,13 @@ PjtReply BoundedChannel::Execute(const PjtCommand& command) {
   std::unique_lock lock(state->mutex);
   if (!state->inner || state->ended || state->waiting ||
       (state->outstanding && !state->abandoned) || Clock::now() < state->silentUntil) {
-    return Unanswered(command);
+    return Unsent(command);
   }
   if (!state->worker.joinable()) {
     try {
       state->worker = std::thread([state] { state->Work(); });
     } catch (const std::system_error&) {
-      return Unanswered(command);
+      return Unsent(command);
     }
   }
 
@@ -201,7 +242,8 @@ PjtReply BoundedChannel::Execute(const PjtCommand& command) {
   if (start > state->lastReturn + kPause) state->stillSince = start;
   const bool free =
       !state->outstanding || state->WaitUntil(lock, wait, [&] { return !state->outstanding; });
-  if (free && !state->ended) {
+  const bool isSent = free && !state->ended;
+  if (isSent) {
     state->command = command;
     state->outstanding = true;
     state->abandoned = false;
@@ -221,7 +263,9 @@ PjtReply BoundedChannel::Execute(const PjtCommand& command) {
     state->silentUntil =
         state->lastReturn + (isQuick ? std::min(pause, kRetryAfterQuickFailure) : pause);
   }
-  return wait.reply.value_or(Unanswered(command));
+  PjtReply reply = wait.reply.value_or(isSent ? Unanswered(command) : Unsent(command));
+  reply.abandoned = wait.abandoned;
+  return reply;
 }
 
 void BoundedChannel::GiveUpAfter(std::chrono::milliseconds time) {
@@ -248,19 +292,14 @@ void BoundedChannel::Announce(std::span<const PjtCommand> reads) {
 }
 
 ConnectionState BoundedChannel::Connection() const {
-  const std::lock_guard lock(state_->mutex);
-  try {
-    if (state_->inner) return state_->inner->Connection();
-  } catch (...) {  // as a command that throws has no answer
-  }
-  return ConnectionState::None;
+  return Told(*state_, ConnectionState::None, [](const auto& inner) { return inner.Connection(); });
 }
 
 std::optional<SourceList> BoundedChannel::Inputs() {
-  const std::lock_guard lock(state_->mutex);
-  try {
-    if (state_->inner) return state_->inner->Inputs();
-  } catch (...) {  // likewise
-  }
-  return std::nullopt;
+  return Told(*state_, std::optional<SourceList>(), [](auto& inner) { return inner.Inputs(); });
+}
+
+std::optional<PowerState> BoundedChannel::Power() const {
+  return Told(*state_, std::optional<PowerState>(),
+              [](const auto& inner) { return inner.Power(); });
 }

@@ -37,6 +37,8 @@ class ADVANCED_CONTROL_EXPORT BoundedChannel : public ProjectorChannel {
     std::chrono::milliseconds quickAnswer{5};
     /// Without a command, after one that was answered; then the inner channel may use the time.
     std::chrono::milliseconds idle{50};
+    /// Without a command: from one look after the inner channel's connection to the next.
+    std::chrono::milliseconds tend{1000};
   };
 
   explicit BoundedChannel(std::shared_ptr<ProjectorChannel> inner)
@@ -52,8 +54,12 @@ class ADVANCED_CONTROL_EXPORT BoundedChannel : public ProjectorChannel {
   void Abandon() override;
   ConnectionState Connection() const override;
   std::optional<SourceList> Inputs() override;
+  std::optional<PowerState> Power() const override;
 
  private:
   struct State;
+  template <typename Value>
+  static Value Told(State& state, Value otherwise, auto ask);
+
   std::shared_ptr<State> state_;
 };

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "device/Connect.h"
+#include "device/DropException.h"
 #include "device/ModelData.h"
 
 namespace {
@@ -30,6 +31,7 @@ void Guarded(const auto& act) {
   try {
     act();
   } catch (...) {
+    DropException();
   }
 }
 
@@ -61,6 +63,12 @@ std::optional<SourceList> CPjtInterface::Inputs() const {
   std::optional<SourceList> inputs;
   if (channel_ && !cutOff_) Guarded([&] { inputs = channel_->Inputs(); });
   return inputs;
+}
+
+std::optional<PowerState> CPjtInterface::Power() const {
+  std::optional<PowerState> power;
+  if (channel_ && !cutOff_) Guarded([&] { power = channel_->Power(); });
+  return power;
 }
 
 void CPjtInterface::CopyData(int kind, int number, int parameter, const char* text1,

@@ -41,6 +41,9 @@ class ADVANCED_CONTROL_EXPORT CPjtInterface {
   /// From the first call on they are asked for while nobody waits.
   std::optional<SourceList> Inputs() const;
 
+  /// The power state as the projector told it last, as `ProjectorChannel::Power` says.
+  std::optional<PowerState> Power() const;
+
   /// Takes the connection parameters. A text ends at its first zero or after 64 characters; null is
   /// an empty text.
   ///

@@ -1,8 +1,12 @@
 #include "device/Connect.h"
 
 #include <algorithm>
+#include <cctype>
 #include <charconv>
 #include <optional>
+
+#include <QHostAddress>
+#include <QUrl>
 
 #include "device/PjLinkChannel.h"
 #include "device/SerialChannel.h"
@@ -37,13 +41,6 @@ AddressError Wrong(std::string_view what, std::string_view text) {
   return {std::string(what) + " '" + std::string(text) + "'"};
 }
 
-bool IsHost(std::string_view text) {
-  return !text.empty() && text.size() <= kMaximumHost &&
-         std::ranges::all_of(text, [](unsigned char c) {
-           return c > ' ' && c != 0x7F && c != '/' && c != '@' && c != '[' && c != ']';
-         });
-}
-
 // `port` is 0 where none is known from elsewhere.
 ProjectorAddress ParseNetwork(std::string_view text, int port, std::string_view password) {
   const std::string_view whole = text;
@@ -62,7 +59,7 @@ ProjectorAddress ParseNetwork(std::string_view text, int port, std::string_view 
     host = text.substr(0, colon);
     portText = text.substr(colon);
   }
-  if (!IsHost(host)) return Wrong("no address", whole);
+  if (!IsHostAddress(host)) return Wrong("no address", whole);
   if (!portText.empty()) {
     const auto own = portText.starts_with(':') ? Number(portText.substr(1)) : std::nullopt;
     if (!own || *own < 1 || (port != 0 && port != *own)) return Wrong("wrong port in", whole);
@@ -113,6 +110,25 @@ struct ChannelMaker {
 };
 
 }  // namespace
+
+bool IsHostAddress(std::string_view text) {
+  if (text.empty() || text.size() > kMaximumHost) return false;
+  const QString host = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+  if (host.contains(u':')) {
+    return QHostAddress(host).protocol() == QAbstractSocket::IPv6Protocol;
+  }
+  // What ends like an IPv4 address is one, with all of its four numbers.
+  const QStringList labels = host.split(u'.');
+  const auto isNumber = [](const QString& label) {
+    return !label.isEmpty() && std::ranges::all_of(label, [](QChar c) { return c.isDigit(); });
+  };
+  if (isNumber(labels.back())) return labels.size() == 4 && !QHostAddress(host).isNull();
+  // Letters of any language: names are looked up in their ASCII form.
+  const QByteArray name = QUrl::toAce(host);
+  return !name.isEmpty() && std::ranges::all_of(name, [](char c) {
+    return c == '.' || c == '-' || c == '_' || std::isalnum(static_cast<unsigned char>(c)) != 0;
+  });
+}
 
 ProjectorAddress ParseConnection(const ConnectionData& data) {
   if (data.Kind == kNetworkKind) return ParseNetwork(data.Text1, data.Parameter, data.Text2);

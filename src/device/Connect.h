@@ -62,6 +62,9 @@ ADVANCED_CONTROL_EXPORT ProjectorAddress ParseConnection(const ConnectionData& d
 ADVANCED_CONTROL_EXPORT ProjectorAddress ParseAddress(std::string_view text,
                                                       std::string_view password = {});
 
+/// Whether the text is the name of a host or its IP address, without scheme and port.
+ADVANCED_CONTROL_EXPORT bool IsHostAddress(std::string_view text);
+
 /// The path of the serial port with that number, which counts from 0.
 inline std::string SerialDevice(int number) { return "/dev/ttyS" + std::to_string(number); }
 

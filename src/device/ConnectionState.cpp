@@ -5,7 +5,7 @@ std::string_view ConnectionStateText(ConnectionState state) {
     case ConnectionState::None:
       return "no connection";
     case ConnectionState::Unused:
-      return "not connected yet";
+      return "not connected";
     case ConnectionState::Connecting:
       return "connecting";
     case ConnectionState::Connected:

@@ -8,7 +8,7 @@
 /// How a connection to a projector stands.
 enum class ConnectionState : std::uint8_t {
   None,              ///< There is no connection that could have a state.
-  Unused,            ///< No command was given yet.
+  Unused,            ///< None was needed yet, or it ended while nobody used it.
   Connecting,        ///< On its way, for the first time or again.
   Connected,         ///< The last command was answered.
   WrongParameters,   ///< The connection parameters name nothing that could be connected to.

@@ -21,7 +21,11 @@ class ADVANCED_CONTROL_EXPORT ForwardingChannel : public ProjectorChannel {
   void Abandon() override { inner_->Abandon(); }
   ConnectionState Connection() const override { return inner_->Connection(); }
   std::optional<SourceList> Inputs() override { return inner_->Inputs(); }
+  std::optional<PowerState> Power() const override { return inner_->Power(); }
   bool UseIdleTime() override { return inner_->UseIdleTime(); }
+  bool TendConnection(std::chrono::milliseconds unused) override {
+    return inner_->TendConnection(unused);
+  }
 
  protected:
   /// `inner` must not be null; it is shared with whoever else holds it.

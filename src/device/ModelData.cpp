@@ -13,12 +13,14 @@ std::string_view NameText(const NameSlot& slot) {
   return {slot.data(), static_cast<std::size_t>(end - slot.begin())};
 }
 
+std::string_view CutText(std::string_view text, std::size_t most) {
+  if (text.size() <= most) return text;
+  while (most > 0 && ContinuesCharacter(text[most])) --most;
+  return text.substr(0, most);
+}
+
 NameSlot MakeNameSlot(std::string_view text) {
-  std::size_t length = std::min(text.size(), NameSlot{}.size());
-  if (length < text.size()) {
-    while (length > 0 && ContinuesCharacter(text[length])) --length;
-  }
   NameSlot slot{};
-  std::copy_n(text.begin(), length, slot.begin());
+  std::ranges::copy(CutText(text, slot.size()), slot.begin());
   return slot;
 }

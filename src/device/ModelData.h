@@ -14,6 +14,9 @@ using NameSlot = std::array<char, 64>;
 /// The text in a slot, up to its first zero or the slot's end.
 ADVANCED_CONTROL_EXPORT std::string_view NameText(const NameSlot& slot);
 
+/// The beginning of a text, not more than so many bytes, cut at a character boundary; UTF-8.
+ADVANCED_CONTROL_EXPORT std::string_view CutText(std::string_view text, std::size_t most);
+
 /// Puts `text` into a slot, cut at a character boundary where it does not fit; the rest is zeros.
 ADVANCED_CONTROL_EXPORT NameSlot MakeNameSlot(std::string_view text);
 

@@ -13,7 +13,7 @@ namespace {
 constexpr std::string_view kGreeting = "PJLINK ";
 constexpr std::size_t kSeedLength = 8;
 constexpr std::size_t kHeadLength = 7;  // %1POWR=
-constexpr std::size_t kMostHourDigits = 5;
+constexpr std::size_t kMostHourDigits = 9;
 
 /// The error status that each digit of the reply stands for.
 constexpr std::array kErrorOfDigit{2, 3, 4, 1, 8, 9};
@@ -78,11 +78,23 @@ std::string Digest(std::string_view seed, std::string_view password) {
   return hash.result().toHex().toStdString();
 }
 
+char ProtocolClass(std::string_view parameter) {
+  return parameter.size() == 1 && parameter[0] >= '2' && parameter[0] <= '9' ? '2' : '1';
+}
+
+std::optional<PowerState> Power(std::string_view parameter) {
+  constexpr std::array kStates{PowerState::Standby, PowerState::On, PowerState::CoolingDown,
+                               PowerState::WarmingUp};
+  const bool isState = parameter.size() == 1 && parameter[0] >= '0' && parameter[0] <= '3';
+  return isState ? std::optional(kStates.at(static_cast<std::size_t>(parameter[0] - '0')))
+                 : std::nullopt;
+}
+
 std::optional<int> PowerStatus(std::string_view parameter) {
   constexpr int kOn = 1;
-  if (parameter == "3") return kOn;  // warming up
-  if (parameter == "2") return 2;
-  return Switch(parameter);
+  const auto power = Power(parameter);
+  if (!power) return std::nullopt;
+  return power == PowerState::WarmingUp ? kOn : static_cast<int>(*power);
 }
 
 std::optional<int> ErrorStatus(std::string_view parameter) {
@@ -116,13 +128,11 @@ std::optional<int> Hours(std::string_view parameter) {
   if (!std::ranges::all_of(parameter, IsDigit)) return std::nullopt;
   int hours = 0;
   std::from_chars(parameter.data(), parameter.data() + parameter.size(), hours);
-  return hours <= UINT16_MAX ? std::optional(hours) : std::nullopt;
+  return std::min(hours, int{UINT16_MAX});
 }
 
 std::optional<int> LampHours(std::string_view parameter) {
-  const std::size_t end = parameter.find(' ');
-  if (end == std::string_view::npos || !Switch(parameter.substr(end + 1, 1))) return std::nullopt;
-  return Hours(parameter.substr(0, end));
+  return Hours(parameter.substr(0, parameter.find(' ')));
 }
 
 std::optional<int> InputNumber(std::string_view code) {

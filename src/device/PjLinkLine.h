@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "AdvancedControlExport.h"
+#include "device/ProjectorChannel.h"
 
 /// The lines of PJLink, the open standard for controlling projectors of any maker over TCP, and
 /// what their parameters are in device values. Lines are given here without their end, a CR.
@@ -50,14 +51,18 @@ ADVANCED_CONTROL_EXPORT std::string Digest(std::string_view seed, std::string_vi
 
 // Parameters as device values.
 
+/// '2' for class 2 and any above, which has all of class 2; '1' for any other text.
+ADVANCED_CONTROL_EXPORT char ProtocolClass(std::string_view parameter);
+ADVANCED_CONTROL_EXPORT std::optional<PowerState> Power(std::string_view parameter);
+/// The running state: warming up is on, too.
 ADVANCED_CONTROL_EXPORT std::optional<int> PowerStatus(std::string_view parameter);
 ADVANCED_CONTROL_EXPORT std::optional<int> ErrorStatus(std::string_view parameter);
 ADVANCED_CONTROL_EXPORT std::optional<int> Blank(std::string_view parameter);
 ADVANCED_CONTROL_EXPORT std::optional<int> Mute(std::string_view parameter);
 ADVANCED_CONTROL_EXPORT std::optional<int> Switch(std::string_view parameter);
-/// Hours, as many as a device value holds.
+/// Hours; more than a device value holds, 65,535, are as many as that.
 ADVANCED_CONTROL_EXPORT std::optional<int> Hours(std::string_view parameter);
-/// Hours of the first lamp.
+/// Hours of the first lamp; whether it burns may be missing.
 ADVANCED_CONTROL_EXPORT std::optional<int> LampHours(std::string_view parameter);
 /// The number of an input: "31" is 31; letters go on from 9, so "3A" is 310 and "3Z" is 335.
 ADVANCED_CONTROL_EXPORT std::optional<int> InputNumber(std::string_view code);

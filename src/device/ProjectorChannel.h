@@ -33,10 +33,15 @@ struct PjtReply {
                          ///< when the time was over; `result` is then a success.
   bool unsent = false;   ///< True when the command is unanswered and never left, so that the
                          ///< projector cannot have carried it out.
+  bool abandoned = false;  ///< True when the command is unanswered because nobody waited any more.
 };
 
+/// What a projector does, where it tells more than the value of its running state says.
+enum class PowerState : std::uint8_t { Standby, On, CoolingDown, WarmingUp };
+
 /// The way to one projector: a real connection, a simulation, or a channel around a channel that
-/// logs, bounds or disturbs. Called from one thread at a time, `Connection` and `Inputs` from any.
+/// logs, bounds or disturbs. Called from one thread at a time; `Connection`, `Inputs` and `Power`
+/// from any.
 class ADVANCED_CONTROL_EXPORT ProjectorChannel {
  public:
   virtual ~ProjectorChannel() = default;
@@ -65,8 +70,21 @@ class ADVANCED_CONTROL_EXPORT ProjectorChannel {
   /// nothing: once asked, a channel that can find them out does so when it is idle.
   virtual std::optional<SourceList> Inputs() { return std::nullopt; }
 
+  /// The power state as the projector itself told it last; nothing as long as it has not, or where
+  /// the value of the running state is all that it tells. Waits for nothing.
+  virtual std::optional<PowerState> Power() const { return std::nullopt; }
+
   /// Nobody waits for the projector, which has answered the last command: time for one exchange of
   /// the channel's own. Whether there is more to do. Called on the thread of `Execute`, between two
   /// commands. Never throws.
   virtual bool UseIdleTime() { return false; }
+
+  /// Looks after the connection, which no command has used for the time `unused`: notices that the
+  /// other end has closed it, and closes one that has not been used for long. Whether there is one
+  /// still. Waits for nothing. Called on the thread of `Execute`, between two commands. Never
+  /// throws.
+  virtual bool TendConnection(std::chrono::milliseconds unused) {
+    static_cast<void>(unused);
+    return false;
+  }
 };

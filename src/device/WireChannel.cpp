@@ -32,7 +32,8 @@ WireChannel::WireChannel(Medium medium, const Limits& limits)
 WireChannel::~WireChannel() = default;
 
 PjtReply WireChannel::Execute(const PjtCommand& command) {
-  const PjtReply unanswered{.result = RefusedResult(command.operation), .answered = false};
+  PjtReply unanswered{.result = RefusedResult(command.operation), .answered = false};
+  isSent_ = false;
   if (!IsRead(command.operation)) {
     announced_.clear();
     sent_.clear();
@@ -46,7 +47,11 @@ PjtReply WireChannel::Execute(const PjtCommand& command) {
   if (IsForgotten(reply)) reply = ask();
   lastAsked_ = Clock::now();
   if (IsForgotten(reply)) Fail(ConnectionState::NotUnderstood);
+  // Nothing is carried out without a version in common.
+  const bool isInVain = IsForgotten(reply) || state_ == ConnectionState::OtherVersion;
+  unanswered.unsent = !isSent_ || isInVain;
   if (!reply || IsForgotten(reply)) return unanswered;
+  unanswered.unsent = false;
   state_ = ConnectionState::Connected;
   switch (reply->status) {
     case Wire::Status::Answered:
@@ -65,17 +70,18 @@ void WireChannel::Announce(std::span<const PjtCommand> reads) {
   std::ranges::copy_if(reads, std::back_inserter(announced_), IsRead, &PjtCommand::operation);
 }
 
+bool WireChannel::TendConnection(std::chrono::milliseconds unused) {
+  if (line_ && (unused >= limits_.unused || !TakeWhatCame())) Fail(ConnectionState::Unused);
+  return line_ != nullptr;
+}
+
 QDeadlineTimer WireChannel::Within(std::chrono::milliseconds time) const {
   return QDeadlineTimer(std::min<Clock::time_point>(Clock::now() + time, giveUpAt_));
 }
 
 bool WireChannel::Connect() {
-  // Late replies may lie there, or the end of the connection.
-  for (int i = 0; line_ && i < kIdlePieces; ++i) {
-    const Arrival arrival = Receive(QDeadlineTimer(0));
-    if (arrival == Arrival::Late) return true;
-    if (arrival != Arrival::Bytes) line_.reset();
-  }
+  if (line_ && TakeWhatCame()) return true;
+  line_.reset();  // a serial port is opened by one alone
   sent_.clear();
   decoder_ = {};
   welcome_.reset();
@@ -91,6 +97,14 @@ bool WireChannel::Connect() {
   Wire::Append(unsent_, {.sequence = hello_, .message = Wire::Hello{}});
   // Without noise the first requests go out together with it.
   return medium_ == Medium::Reliable || (Write(deadline) && AwaitWelcome());
+}
+
+bool WireChannel::TakeWhatCame() {
+  for (int i = 0; i < kIdlePieces; ++i) {
+    const Arrival arrival = Receive(QDeadlineTimer(0));
+    if (arrival != Arrival::Bytes) return arrival == Arrival::Late;
+  }
+  return false;
 }
 
 bool WireChannel::AwaitWelcome() {
@@ -117,6 +131,7 @@ std::optional<Wire::Reply> WireChannel::Ask(const PjtCommand& command) {
       Send({&*announced, count});
       announced_.erase(announced_.begin(), announced + static_cast<std::ptrdiff_t>(count));
     }
+    isSent_ = true;
     if (!Write(Within(limits_.answer)) || !AwaitWelcome()) return std::nullopt;
     own = sent_.begin();
   }

@@ -30,6 +30,7 @@ class ADVANCED_CONTROL_EXPORT WireChannel : public ProjectorChannel {
   struct Limits {
     std::chrono::milliseconds connect{1500};  ///< Until the projector has welcomed us.
     std::chrono::milliseconds answer{1500};
+    std::chrono::milliseconds unused{20'000};  ///< Then the connection is closed.
   };
 
   ~WireChannel() override;
@@ -44,6 +45,8 @@ class ADVANCED_CONTROL_EXPORT WireChannel : public ProjectorChannel {
   void Announce(std::span<const PjtCommand> reads) override;
 
   void GiveUpAfter(std::chrono::milliseconds time) override { longest_ = time; }
+
+  bool TendConnection(std::chrono::milliseconds unused) override;
 
   ConnectionState Connection() const override { return state_; }
 
@@ -73,6 +76,9 @@ class ADVANCED_CONTROL_EXPORT WireChannel : public ProjectorChannel {
   /// From now on, but not longer than the command may take.
   QDeadlineTimer Within(std::chrono::milliseconds time) const;
   bool Connect();
+  /// Takes what came while nothing was asked: late replies, or the end of the connection. Whether
+  /// that stands.
+  bool TakeWhatCame();
   bool AwaitWelcome();
   std::optional<Wire::Reply> Ask(const PjtCommand& command);
   void Send(std::span<const PjtCommand> commands);
@@ -97,6 +103,7 @@ class ADVANCED_CONTROL_EXPORT WireChannel : public ProjectorChannel {
   std::chrono::steady_clock::time_point welcomeBy_{};
   std::optional<std::chrono::milliseconds> longest_;  ///< For a command.
   std::chrono::steady_clock::time_point giveUpAt_ = std::chrono::steady_clock::time_point::max();
+  bool isSent_ = false;                ///< The command under way, as far as that may be.
   std::string unsent_;                 ///< Goes out with the next write.
   std::vector<PjtCommand> announced_;  ///< Not sent yet.
   std::deque<Sent> sent_;

@@ -128,6 +128,7 @@ const NotificationMap& CAdvanceDlg::Notifications() const {
 
 bool CAdvanceDlg::OnInitDialog() {
   CDialog::OnInitDialog();
+  UseIntake();
   projector_.CutOff(false);
   savedResources_ = ResourceChain::SetCurrent(&AdvancedControlResources());
   OpenDialogs().push_back(this);
@@ -239,6 +240,7 @@ void CAdvanceDlg::DispTabScreen() {
 
 void CAdvanceDlg::ReplaceSources(const SourceList& sources) {
   const ModelData before = model_;
+  if (next_) next_->model.MySourceList = sources;
   model_.MySourceList = sources;
   if (!IsCreated()) return;
   for (const auto& page : pages_->byId) {
@@ -272,7 +274,7 @@ void CAdvanceDlg::ShowSelectedPage() {
   }
   shownPage_ = PageBehind(tabs_->currentIndex());
   if (shownPage_ == nullptr) return;
-  shownPage_->MarkUnread();
+  shownPage_->Reader().MarkUnread();
   shownPage_->show();
   scroll_->widget()->layout()->activate();
 }
@@ -296,11 +298,11 @@ void CAdvanceDlg::OnIdle() {
 
 void CAdvanceDlg::ShowWaiting(bool waiting) {
   for (const auto& page : pages_->byId) {
-    if (page->Template() != nullptr) page->ShowWaiting(waiting && page.get() == shownPage_);
+    if (page->Template() != nullptr) page->Reader().ShowWaiting(waiting && page.get() == shownPage_);
   }
   QString text;
   if (waiting) {
-    text = shownPage_ != nullptr ? shownPage_->WaitingText()
+    text = shownPage_ != nullptr ? shownPage_->Reader().WaitingText()
                                  : CatalogString(kListCategory, ListText::Waiting);
   }
   status_->ShowProgress(text);

@@ -12,6 +12,7 @@
 #include "device/CPjtInterface.h"
 #include "device/CProjectorItem.h"
 #include "device/ModelData.h"
+#include "device/ModelDataIntake.h"
 #include "device/ModelDataSource.h"
 #include "settings/PageSets.h"
 #include "toolkit/CDialog.h"
@@ -24,7 +25,9 @@ class QTimer;
 class ResourceModule;
 class StatusLine;
 class WaitWatch;
+inline namespace AdvancedControl {
 struct PagePopUp;
+}
 
 /// The "Advanced Control" dialog of one projector: a tab per group of settings, each read live and
 /// changed at once.
@@ -33,6 +36,10 @@ struct PagePopUp;
 /// channel to the projector, then `DoModal`, or `CreateShown` for a dialog beside the host's other
 /// windows. The dialog keeps its own copy of all it is given and
 /// talks to the projector from the thread it lives on, the user-interface thread.
+///
+/// What a `CopyData` form gives while the dialog is open, or while one of its handlers still runs,
+/// takes effect when the dialog is created next: an open dialog goes on with the model and the
+/// connection that it was created with, and `Model` tells that model.
 ///
 /// Where the host names no inputs, the dialog takes those that the projector tells over PJLink, as
 /// soon as it knows them and no handler runs.
@@ -129,6 +136,17 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
  private:
   struct Pages;
 
+  /// What was given while the dialog was open.
+  struct Intake {
+    ModelData model;
+    std::optional<ConnectionData> connection;  ///< None where only the model was given.
+  };
+
+  /// Where the next creation finds its model.
+  ModelData& ModelToCreate();
+  void TakeConnection(const ConnectionData& connection);
+  void UseIntake();
+
   void CreatePages();
   void CreatePage(PageId id);
   void InsertTabs();
@@ -149,6 +167,7 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
 
   const ResourceModule* savedResources_ = nullptr;  // put back when the dialog closes
   ModelData model_;
+  std::optional<Intake> next_;  // for the next creation
   CPjtInterface projector_;
   FittedScroll* scroll_;  // shows the pages
   std::unique_ptr<Pages> pages_;

@@ -32,12 +32,33 @@ void CopySources(SourceList& list, int count, const char* names, const int* firs
   CopyWhole(list.secondValues, secondValues);
 }
 
-void Configure(CPjtInterface& projector, const ConnectionData& connection) {
-  projector.CopyData(connection.Kind, connection.Number, connection.Parameter,
-                     connection.Text1.c_str(), connection.Text2.c_str());
+}  // namespace
+
+// The pages of an open dialog stand for the model that it was created with.
+ModelData& CAdvanceDlg::ModelToCreate() {
+  if (IsCreated() || IsBusy()) {
+    if (!next_) next_.emplace(Intake{.model = model_, .connection = {}});
+    return next_->model;
+  }
+  UseIntake();
+  return model_;
 }
 
-}  // namespace
+void CAdvanceDlg::TakeConnection(const ConnectionData& connection) {
+  if (next_) {
+    next_->connection = connection;
+    return;
+  }
+  projector_.CopyData(connection.Kind, connection.Number, connection.Parameter,
+                      connection.Text1.c_str(), connection.Text2.c_str());
+}
+
+void CAdvanceDlg::UseIntake() {
+  if (!next_) return;
+  const Intake given = *std::exchange(next_, std::nullopt);
+  model_ = given.model;
+  if (given.connection) TakeConnection(*given.connection);
+}
 
 void CAdvanceDlg::CopyData(std::string modelName, int dialogType, int mySourceCount,
                            const char* mySourceNames, const int* mySourceFirstValues,
@@ -45,13 +66,14 @@ void CAdvanceDlg::CopyData(std::string modelName, int dialogType, int mySourceCo
                            const int* aspectValues, const char* aspectNames, int gammaCount,
                            const int* gammaValues, const char* gammaNames, int colorTempCount,
                            const int* colorTempValues, const char* colorTempNames) {
-  model_.ModelName = std::move(modelName);
-  model_.DialogType = dialogType;
-  CopySources(model_.MySourceList, mySourceCount, mySourceNames, mySourceFirstValues,
+  ModelData& model = ModelToCreate();
+  model.ModelName = std::move(modelName);
+  model.DialogType = dialogType;
+  CopySources(model.MySourceList, mySourceCount, mySourceNames, mySourceFirstValues,
               mySourceSecondValues);
-  CopyList(model_.AspectList, aspectCount, aspectValues, aspectNames);
-  CopyList(model_.GammaList, gammaCount, gammaValues, gammaNames);
-  CopyList(model_.ColorTempList, colorTempCount, colorTempValues, colorTempNames);
+  CopyList(model.AspectList, aspectCount, aspectValues, aspectNames);
+  CopyList(model.GammaList, gammaCount, gammaValues, gammaNames);
+  CopyList(model.ColorTempList, colorTempCount, colorTempValues, colorTempNames);
 }
 
 void CAdvanceDlg::CopyData2(std::string modelName, int modelCode, int dialogType, int mySourceCount,
@@ -64,8 +86,9 @@ void CAdvanceDlg::CopyData2(std::string modelName, int modelCode, int dialogType
   CopyData(std::move(modelName), dialogType, mySourceCount, mySourceNames, mySourceFirstValues,
            mySourceSecondValues, aspectCount, aspectValues, aspectNames, gammaCount, gammaValues,
            gammaNames, colorTempCount, colorTempValues, colorTempNames);
-  model_.ModelCode = modelCode;
-  CopyList(model_.WhisperList, whisperCount, whisperValues, whisperNames);
+  ModelData& model = ModelToCreate();
+  model.ModelCode = modelCode;
+  CopyList(model.WhisperList, whisperCount, whisperValues, whisperNames);
 }
 
 void CAdvanceDlg::CopyData3(std::string text0, std::string text1, std::string text2,
@@ -84,19 +107,20 @@ void CAdvanceDlg::CopyData3(std::string text0, std::string text1, std::string te
                                 &text14, &text15, &text16, &text17, &text18, &text19, &text20,
                                 &text21, &text22, &text23, &text24, &text25, &text26, &text27,
                                 &text28, &text29, &text30, &text31};
+  ModelData& model = ModelToCreate();
   for (std::size_t i = 0; i < std::size(texts); ++i) {
-    model_.RangeTexts[i] = std::move(*texts[i]);
+    model.RangeTexts[i] = std::move(*texts[i]);
   }
 }
 
 void CAdvanceDlg::CopyData(const CModelInfo2* model, int connection) {
   if (model == nullptr) return;
-  model_ = MakeModelData(*model);
-  Configure(projector_, MakeConnectionData(*model, connection));
+  ModelToCreate() = MakeModelData(*model);
+  TakeConnection(MakeConnectionData(*model, connection));
 }
 
 void CAdvanceDlg::CopyData(const CProjectorItem* item) {
   if (item == nullptr) return;
-  model_ = MakeModelData(*item);
-  Configure(projector_, MakeConnectionData(*item));
+  ModelToCreate() = MakeModelData(*item);
+  TakeConnection(MakeConnectionData(*item));
 }

@@ -113,7 +113,7 @@ void CAdvanceDlg::StartFinding() {
     for (std::size_t i = 0; i < table.rows.size(); ++i) {
       const PageRow& row = table.rows[i];
       if (!Has(table, i, model_.ModelCode) || std::holds_alternative<ResetRow>(row)) continue;
-      const QString caption = RowDialog::CaptionText(row);
+      const QString caption = RowView::CaptionText(row);
       if (std::exchange(place.caption, caption) == caption) continue;  // the parts of a row
       place.control = ControlOf(row);
       places.push_back(place);
@@ -125,7 +125,7 @@ void CAdvanceDlg::StartFinding() {
     const QString tabCaption = tabs_->tabText(tab);
     add({.where = tabCaption, .tab = tab}, TableOf(*page));
     for (const PagePopUp& popUp : PopUpsOf(*page, model_)) {
-      const QString opener = RowDialog::CaptionText(FindRow(TableOf(*page), popUp.control));
+      const QString opener = RowView::CaptionText(FindRow(TableOf(*page), popUp.control));
       add({.where = opener + kSeparator + tabCaption, .tab = tab, .popUp = popUp}, *popUp.table);
     }
   }

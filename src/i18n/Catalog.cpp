@@ -18,6 +18,8 @@
 #include "i18n/MessageCatalog.h"
 #include "i18n/SystemLanguage.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -177,3 +179,5 @@ void GetCatalogTextV(int category, int number, int bufferSize, char* buffer,
     CopyText(kNoCatalog, bufferSize, buffer);
   }
 }
+
+}  // namespace AdvancedControl

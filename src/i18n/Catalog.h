@@ -10,6 +10,8 @@
 #include "AdvancedControlExport.h"
 #include "i18n/MessageFormat.h"
 
+inline namespace AdvancedControl {
+
 // The process-wide message catalog. Called from the user-interface thread, and at load and unload
 // of the library.
 
@@ -22,17 +24,17 @@ constexpr std::uint32_t MessageId(int category, int number) {
 /// Loads the catalog module of the system language in place of any loaded before: "mcschn.dll" for
 /// Simplified Chinese or where a file "GETSCH" is in the current directory, else "mcdll.dll".
 ///
-/// The module is the first file of that name beside the library, beside the application, in
-/// "../share/advanced-control" or "../../share/advanced-control" from the library, in the installed
-/// data folder, or in the current directory; if that one is damaged, no other is tried. Returns 0,
-/// or -1 and no catalog is loaded.
+/// The module is the first file of that name beside this library, beside the application, in
+/// "../share/advanced-control" or "../../share/advanced-control" from this library, in the
+/// installed data folder, or in the current directory; if that one is damaged, no other is tried.
+/// Returns 0, or -1 and no catalog is loaded.
 ADVANCED_CONTROL_EXPORT int LoadCatalog();
 
 /// The same with `folders` to look in, in their order; an empty name is the current directory.
 ADVANCED_CONTROL_EXPORT int LoadCatalog(std::span<const std::string> folders);
 
 /// The folders in which the first form looks.
-std::vector<std::string> CatalogFolders();
+ADVANCED_CONTROL_EXPORT std::vector<std::string> CatalogFolders();
 
 /// Releases the loaded module, if any.
 ADVANCED_CONTROL_EXPORT void ReleaseCatalog();
@@ -72,3 +74,5 @@ std::string CatalogText(int category, int number, const Inserts&... inserts) {
   GetCatalogText(category, number, bufferSize, buffer.data(), inserts...);
   return buffer.data();
 }
+
+}  // namespace AdvancedControl

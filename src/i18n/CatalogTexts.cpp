@@ -6,6 +6,8 @@
 
 #include "i18n/Catalog.h"
 
+inline namespace AdvancedControl {
+
 CatalogTexts::CatalogTexts(std::span<const std::string> folders) {
   for (const char* module : {"mcdll.dll", "mcschn.dll"}) {
     for (const std::string& folder : folders) {
@@ -33,3 +35,5 @@ std::optional<std::string> CatalogTexts::Find(std::uint32_t languageId, int cate
   }
   return {};
 }
+
+}  // namespace AdvancedControl

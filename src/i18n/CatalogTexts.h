@@ -8,6 +8,8 @@
 #include "i18n/MessageCatalog.h"
 #include "i18n/MessageFormat.h"
 
+inline namespace AdvancedControl {
+
 /// The texts of all catalog modules at once, each asked for by its language. Unlike the
 /// process-wide catalog it holds no state but its own, and may be read from several threads.
 class CatalogTexts {
@@ -23,3 +25,5 @@ class CatalogTexts {
  private:
   std::vector<MessageCatalog> modules_;
 };
+
+}  // namespace AdvancedControl

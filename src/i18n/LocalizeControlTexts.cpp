@@ -8,6 +8,8 @@
 
 #include "toolkit/WindowText.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 // Reads a caption as the field widths of a template say: blanks, a decimal integer, ";" and at
@@ -41,3 +43,5 @@ void LocalizeControlTexts(int category, QWidget& dialog) {
     if (child->isWidgetType()) LocalizeCaption(category, *static_cast<QWidget*>(child));
   }
 }
+
+}  // namespace AdvancedControl

@@ -2,6 +2,8 @@
 
 #include <exception>
 
+inline namespace AdvancedControl {
+
 std::optional<MessageCatalog> MessageCatalog::Load(const std::string& path) {
   try {
     auto messages = MessageTable::Read(path);
@@ -11,3 +13,5 @@ std::optional<MessageCatalog> MessageCatalog::Load(const std::string& path) {
   }
   return {};
 }
+
+}  // namespace AdvancedControl

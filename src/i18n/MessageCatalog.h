@@ -7,6 +7,8 @@
 
 #include "i18n/MessageTable.h"
 
+inline namespace AdvancedControl {
+
 /// A loaded catalog module. Movable; independent of the file once loaded.
 class MessageCatalog {
  public:
@@ -23,3 +25,5 @@ class MessageCatalog {
 
   MessageTable messages_;
 };
+
+}  // namespace AdvancedControl

@@ -7,6 +7,8 @@
 
 #include <unicode/unistr.h>
 
+inline namespace AdvancedControl {
+
 namespace {
 
 struct Conversion {
@@ -271,3 +273,5 @@ std::optional<std::string> ExpandMessage(std::string_view text,
   if (!expansion.Run()) return {};
   return std::move(expansion.result);
 }
+
+}  // namespace AdvancedControl

@@ -9,6 +9,8 @@
 #include <string_view>
 #include <variant>
 
+inline namespace AdvancedControl {
+
 /// One insert of a message: a text (UTF-8) or an integer. Refers to the caller's text, so it is
 /// made where it is passed and not kept.
 class CatalogInsert {
@@ -50,3 +52,5 @@ inline constexpr std::size_t kMaxMessageBytes = std::size_t{64} * 1024;
 /// malformed, or exceeds the limits above.
 std::optional<std::string> ExpandMessage(std::string_view text,
                                          std::span<const CatalogInsert> inserts);
+
+}  // namespace AdvancedControl

@@ -15,6 +15,8 @@
 
 #include "i18n/ModuleImage.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 constexpr std::size_t kMaxFileBytes = std::size_t{32} << 20;
@@ -360,3 +362,5 @@ std::optional<CatalogMessage> MessageTable::Find(std::uint32_t languageId,
   if (found == keys_.end() || *found != key) return {};
   return At(places_[static_cast<std::size_t>(found - keys_.begin())]);
 }
+
+}  // namespace AdvancedControl

@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+inline namespace AdvancedControl {
+
 /// One message as its table holds it. The text belongs to the table.
 struct CatalogMessage {
   /// UTF-8, with its closing line break, inserts not expanded.
@@ -59,3 +61,5 @@ class MessageTable {
   std::vector<Place> places_;
   std::vector<char> texts_;
 };
+
+}  // namespace AdvancedControl

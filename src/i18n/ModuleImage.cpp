@@ -1,5 +1,7 @@
 #include "i18n/ModuleImage.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 constexpr std::size_t kMaxSections = 96;
@@ -49,3 +51,5 @@ std::optional<Bytes> ModuleImage::From(std::uint32_t address) const {
   }
   return {};
 }
+
+}  // namespace AdvancedControl

@@ -6,6 +6,8 @@
 #include <span>
 #include <vector>
 
+inline namespace AdvancedControl {
+
 using Bytes = std::span<const std::byte>;
 
 /// A part of them; nothing where they do not reach so far.
@@ -43,3 +45,5 @@ class ModuleImage {
   std::vector<Section> sections_;
   Bytes resources_;
 };
+
+}  // namespace AdvancedControl

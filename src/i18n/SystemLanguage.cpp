@@ -8,6 +8,8 @@
 
 #include <unicode/uloc.h>
 
+inline namespace AdvancedControl {
+
 namespace {
 
 const char* EnvironmentLocale() {
@@ -65,3 +67,5 @@ std::uint32_t SystemLanguageId() {
   }
   return languageId;
 }
+
+}  // namespace AdvancedControl

@@ -4,6 +4,8 @@
 
 #include "AdvancedControlExport.h"
 
+inline namespace AdvancedControl {
+
 /// Language identifiers that the catalog treats specially.
 inline constexpr std::uint32_t kEnglishUnitedStates = 1033;
 inline constexpr std::uint32_t kChineseSimplified = 2052;
@@ -15,3 +17,5 @@ inline constexpr std::uint32_t kChineseSimplified = 2052;
 ///
 /// Follows changes of the environment. Called from the user-interface thread.
 ADVANCED_CONTROL_EXPORT std::uint32_t SystemLanguageId();
+
+}  // namespace AdvancedControl

@@ -1,5 +1,7 @@
 #include "settings/Call.h"
 
+inline namespace AdvancedControl {
+
 PjtCommand Call::Command(int value, int modelCode) const {
   const auto carried = [&](Argument argument) -> std::int16_t {
     switch (argument) {
@@ -31,3 +33,5 @@ std::optional<int> Read(CPjtInterface& projector, const Call& call) {
   const Answer answer = Perform(projector, call);
   return answer.accepted ? std::optional(answer.value) : std::nullopt;
 }
+
+}  // namespace AdvancedControl

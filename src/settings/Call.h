@@ -7,6 +7,8 @@
 #include "device/CPjtInterface.h"
 #include "settings/ModelCodes.h"
 
+inline namespace AdvancedControl {
+
 /// An operation of the projector as a row's data: all of a command but the value that it carries.
 struct Call {
   PjtOperation operation{};
@@ -16,7 +18,7 @@ struct Call {
   bool anyResult = false;    ///< Any result but 0 is a success, whatever the family says.
 
   /// The command for a model, with `value` where the operation takes one.
-  PjtCommand Command(int value = 0, int modelCode = 0) const;
+  ADVANCED_CONTROL_EXPORT PjtCommand Command(int value = 0, int modelCode = 0) const;
 };
 
 /// What came of a call.
@@ -56,3 +58,5 @@ constexpr Call At(Call call, int source) {
   call.address = static_cast<std::int16_t>(source);
   return call;
 }
+
+}  // namespace AdvancedControl

@@ -1,5 +1,7 @@
 #pragma once
 
+inline namespace AdvancedControl {
+
 /// Numbers of the message catalog. The texts are in `resources/catalog`, one file a category. A
 /// caption that a template names ("73;Brightness") needs no name here. The build fails when a
 /// number of this file or of a template has no text in one of the languages.
@@ -218,6 +220,8 @@ inline constexpr int Hours = 320;        // %1 hours (integer)
 inline constexpr int FilterTime = 321;
 inline constexpr int LampTime = 322;
 inline constexpr int PowerCoolingDown = 3309;
+inline constexpr int PowerStandby = 4331;  // of lists and scripts; the status row says Off
+inline constexpr int PowerWarmingUp = 4330;  // of lists and scripts; the status row says On
 inline constexpr int ErrorNone = 332;
 inline constexpr int ErrorCover = 3310;
 inline constexpr int ErrorFan = 3311;
@@ -265,7 +269,7 @@ inline constexpr int OtherVersion = 4315;
 inline constexpr int PasswordRequired = 4316;
 
 // What became of a change, beside Close.
-inline constexpr int NotDoneYet = 4317;
+inline constexpr int NotYetSo = 4317;
 inline constexpr int NotPossibleNow = 4318;
 
 // A row's context menu, and the search for a row.
@@ -340,3 +344,5 @@ inline constexpr int AutoOffRefused = 4204;
 inline constexpr int StandbySavingQuestion = 1002;
 inline constexpr int PowerOffQuestion = 4202;
 }  // namespace ErrorText
+
+}  // namespace AdvancedControl

@@ -4,6 +4,8 @@
 #include "settings/CatalogNumbers.h"
 #include "settings/Rows.h"
 
+inline namespace AdvancedControl {
+
 // Rows that several of the older pages have. A refused change of them is told, and the slider goes
 // back.
 
@@ -34,7 +36,8 @@ constexpr ValueRow PlainSlider(std::string_view key, int caption, const ValueIds
 /// A number field with two buttons, which only the projector bounds.
 constexpr ValueRow SteppedField(std::string_view key, int caption, const ValueIds& ids,
                                 std::uint16_t code, int error) {
-  return {.key = key, .caption = caption, .ids = ids, .code = code, .error = error};
+  return {
+      .key = key, .caption = caption, .ids = ids, .code = code, .stepsOnly = true, .error = error};
 }
 
 /// The picture's place on the screen: up raises the vertical position, left the horizontal one.
@@ -49,3 +52,5 @@ constexpr ValueRow PositionH(std::string_view key, const ArrowIds& ids) {
   return SteppedField(key, 48, {.minus = ids.right, .plus = ids.left, .field = ids.fieldH},
                       CommandCode::PositionH, ErrorText::PositionRefused);
 }
+
+}  // namespace AdvancedControl

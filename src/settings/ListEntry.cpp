@@ -5,6 +5,8 @@
 
 #include "settings/CatalogNumbers.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 // Entries of a capability list: the text of device value v is that of `base` + v.
@@ -77,3 +79,5 @@ int PositionOf(std::span<const ListEntry> entries, int value) {
   const auto found = std::ranges::find(entries, value, &ListEntry::value);
   return found == entries.end() ? -1 : static_cast<int>(found - entries.begin());
 }
+
+}  // namespace AdvancedControl

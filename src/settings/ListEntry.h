@@ -11,6 +11,8 @@
 #include "device/ModelData.h"
 #include "settings/ModelCodes.h"
 
+inline namespace AdvancedControl {
+
 /// An entry of a list: its text, and the device value that it stands for.
 struct ListEntry {
   constexpr ListEntry() = default;
@@ -56,7 +58,7 @@ class Entries {
   constexpr Entries(Maker maker) : maker_(maker) {}
 
   /// The entries of this model, in list order. Names may point into `model`.
-  std::vector<ListEntry> Of(const ModelData& model) const;
+  ADVANCED_CONTROL_EXPORT std::vector<ListEntry> Of(const ModelData& model) const;
 
  private:
   std::span<const ListEntry> fixed_{};
@@ -79,3 +81,5 @@ ADVANCED_CONTROL_EXPORT std::vector<ListEntry> SourceEntries(const ModelData& mo
 
 /// Position of the first entry that stands for `value`, or −1.
 ADVANCED_CONTROL_EXPORT int PositionOf(std::span<const ListEntry> entries, int value);
+
+}  // namespace AdvancedControl

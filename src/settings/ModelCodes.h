@@ -7,6 +7,8 @@
 #include <span>
 #include <string_view>
 
+inline namespace AdvancedControl {
+
 /// Model codes that share something.
 class ModelCodes {
  public:
@@ -78,3 +80,5 @@ constexpr bool AreComplete(std::span<const ModelRows> table, std::ptrdiff_t rowC
     return count('0') + count('1') == rowCount;
   });
 }
+
+}  // namespace AdvancedControl

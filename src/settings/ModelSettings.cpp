@@ -1,6 +1,7 @@
 #include "settings/ModelSettings.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <map>
 #include <string>
 #include <utility>
@@ -9,7 +10,12 @@
 #include "settings/PageTables.h"
 #include "settings/RowParts.h"
 
+inline namespace AdvancedControl {
+
 namespace {
+
+// What a number can be that only the projector bounds.
+constexpr Range kDeviceValues{0, 0xFFFF};
 
 void Describe(const ListRow& row, const ModelData& model, ModelSetting& setting) {
   setting.kind = row.send ? ModelSetting::Kind::Choice : ModelSetting::Kind::State;
@@ -24,8 +30,8 @@ void Describe(const ValueRow& row, const ModelData& model, ModelSetting& setting
   setting.bias = row.bias;
   setting.changeable = true;
   setting.of = row.of;
-  setting.ofCurrentSourceOnly = row.code == CommandCode::Volume;
-  if (row.ids.slider == 0) return;
+  setting.ofCurrentSourceOnly = row.ofCurrentSourceOnly;
+  if (row.stepsOnly) return;
   const Range shown = SliderRange(row, model);
   setting.range = Range{shown.minimum + row.bias, shown.maximum + row.bias};
 }
@@ -50,17 +56,40 @@ void Describe(const ActionRow& row, const ModelData& model, ModelSetting& settin
 
 void Describe(const auto&, const ModelData&, ModelSetting&) {}
 
+// A list of resets is part of the settings that it resets, and a pop-up has its own.
+bool IsSetting(const PageRow& row) {
+  return !std::holds_alternative<ResetRow>(row) && !std::holds_alternative<PopUpRow>(row);
+}
+
 }  // namespace
+
+std::vector<std::string_view> AllKeys() {
+  std::vector<std::string_view> keys;
+  const auto add = [&keys](const PageTable& table) {
+    for (const PageRow& row : table.rows) {
+      if (IsSetting(row)) keys.push_back(KeyOf(row));
+    }
+  };
+  for (std::size_t page = 0; page < kPageCount; ++page) add(TableOf(static_cast<PageId>(page)));
+  for (const PageTable* popUp : {&kServiceRows, &kGammaRows, &kColorTempRows}) add(*popUp);
+  return keys;
+}
 
 bool ModelSetting::SelectsInput() const {
   const auto* list = std::get_if<ListRow>(row);
   return list != nullptr && list->send && list->send->code == CommandCode::InputSource;
 }
 
+bool ModelSetting::IsStepped() const {
+  const auto* number = std::get_if<ValueRow>(row);
+  return number != nullptr && number->stepsOnly;
+}
+
 bool ModelSetting::Allows(int value) const {
   if (kind == Kind::Choice) return value != placeholder && PositionOf(entries, value) >= 0;
   if (kind == Kind::State) return changeable && (value == 0 || value == 1);
-  return kind == Kind::Number && (!range || (value >= range->minimum && value <= range->maximum));
+  const Range bounds = range.value_or(kDeviceValues);
+  return kind == Kind::Number && value >= bounds.minimum && value <= bounds.maximum;
 }
 
 ModelSettings::ModelSettings(ModelData model)
@@ -76,9 +105,7 @@ void ModelSettings::Add(const PageTable& table, int tab) {
   if (KeepsTemplate(table, model_->ModelCode)) return;
   for (std::size_t i = 0; i < table.rows.size(); ++i) {
     const PageRow& row = table.rows[i];
-    // A list of resets is part of the settings that it resets, and a pop-up has its own.
-    if (std::holds_alternative<ResetRow>(row) || std::holds_alternative<PopUpRow>(row)) continue;
-    if (!Has(table, i, model_->ModelCode)) continue;
+    if (!IsSetting(row) || !Has(table, i, model_->ModelCode)) continue;
     ModelSetting& setting = settings_.emplace_back();
     setting.key = KeyOf(row);
     setting.tab = tab;
@@ -151,33 +178,7 @@ std::optional<int> ModelSettings::Read(CPjtInterface& projector, const ModelSett
 
 bool ModelSettings::Change(CPjtInterface& projector, const ModelSetting& setting, int value,
                            const Sending& how) const {
-  const auto* number = std::get_if<ValueRow>(setting.row);
-  if (number != nullptr && number->ids.slider == 0) return StepTo(projector, *number, value, how);
-  const auto* list = std::get_if<ListRow>(setting.row);
-  if (list != nullptr && list->rules.tellsText) projector.SettingText = how.text;
-  return SendRow(projector, *setting.row, *model_, value, how.source);
+  return SendRow(projector, *setting.row, *model_, value, how) == Sent::Accepted;
 }
 
-// A row with two arrow buttons has nothing else that changes it. A step whose answer got lost may
-// have been made, so that only reading tells.
-bool ModelSettings::StepTo(CPjtInterface& projector, const ValueRow& row, int value,
-                           const Sending& how) const {
-  constexpr int kMostSteps = 4096;
-  constexpr int kMostFailures = 3;
-  const Range bounds = StepBounds(row, *model_, kUnbounded);
-  auto present = ReadRow(projector, row, *model_, how.source);
-  int failures = 0;
-  for (int i = 0; i < kMostSteps && present && *present != value && how.goesOn(); ++i) {
-    const bool upwards = *present < value;
-    const int shown = *present - row.bias;
-    auto now = Step(projector, row, upwards, how.source.value_or(0), bounds, shown).value;
-    if (!now) now = ReadRow(projector, row, *model_, how.source);
-    // A projector that steps too far would be stepped to and fro for ever.
-    const bool isNearer = now && (upwards ? *now > *present && *now <= value  //
-                                          : *now < *present && *now >= value);
-    if (!isNearer && ++failures == kMostFailures) return false;
-    if (isNearer) failures = 0;
-    present = now;
-  }
-  return present == value;
-}
+}  // namespace AdvancedControl

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <span>
@@ -9,12 +8,15 @@
 #include <string_view>
 #include <vector>
 
+#include "AdvancedControlExport.h"
 #include "device/CPjtInterface.h"
 #include "settings/PageSets.h"
 #include "settings/RowUse.h"
 
+inline namespace AdvancedControl {
+
 /// One setting of a model, as a program without a window sees it.
-struct ModelSetting {
+struct ADVANCED_CONTROL_EXPORT ModelSetting {
   enum class Kind : std::uint8_t {
     Number,  ///< Any whole number of `range`.
     Choice,  ///< The value of one of `entries`; switches are choices too.
@@ -43,6 +45,8 @@ struct ModelSetting {
   bool IsPerSource() const { return of != OfSource::None || ofCurrentSourceOnly; }
   /// Whether a change of it changes the projector's input source.
   bool SelectsInput() const;
+  /// Whether it is changed step by step, as it has no setter.
+  bool IsStepped() const;
   /// Whether the row takes this device value.
   bool Allows(int value) const;
 };
@@ -53,17 +57,12 @@ struct SourcedSetting {
   std::optional<int> source{};  ///< Nothing for one that belongs to none, or while unknown.
 };
 
-/// How a value is sent, beside the value.
-struct Sending {
-  std::string text{};           ///< The entry's, which some connections are told.
-  std::optional<int> source{};  ///< Instead of the present one.
-  /// Asked before each of the steps that a setting without a setter needs.
-  std::function<bool()> goesOn = [] { return true; };
-};
+/// The keys of every model's settings; some stand here more than once.
+ADVANCED_CONTROL_EXPORT std::vector<std::string_view> AllKeys();
 
 /// All settings of a model in the order of its pages, the pop-ups' behind those of the page that
 /// opens them.
-class ModelSettings {
+class ADVANCED_CONTROL_EXPORT ModelSettings {
  public:
   explicit ModelSettings(ModelData model);
 
@@ -97,9 +96,10 @@ class ModelSettings {
               const Sending& how = {}) const;
 
  private:
-  bool StepTo(CPjtInterface& projector, const ValueRow& row, int value, const Sending& how) const;
   void Add(const PageTable& table, int tab);
 
   std::shared_ptr<const ModelData> model_;
   std::vector<ModelSetting> settings_;
 };
+
+}  // namespace AdvancedControl

@@ -2,7 +2,10 @@
 
 #include <vector>
 
+#include "AdvancedControlExport.h"
 #include "settings/ListEntry.h"
+
+inline namespace AdvancedControl {
 
 /// Function codes of the my-button lists of models that bring no list of their own; the list offers
 /// the first of them.
@@ -14,4 +17,6 @@ inline constexpr int MyButtonTable[] = {0,  4,  3,  5,  2,  1,  6,  16, 17,
 inline constexpr int kOtherFunction = 255;
 inline constexpr ModelCodes kCodesWithOtherFunction{44, 49, 50, 51, 53, 54};
 
-std::vector<ListEntry> MyButtonEntries(const ModelData& model);
+ADVANCED_CONTROL_EXPORT std::vector<ListEntry> MyButtonEntries(const ModelData& model);
+
+}  // namespace AdvancedControl

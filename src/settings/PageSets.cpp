@@ -6,6 +6,8 @@
 #include "settings/CatalogNumbers.h"
 #include "settings/PageTables.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 using enum PageId;
@@ -127,3 +129,5 @@ std::span<const PageTab> TabsOf(int dialogType, int modelCode) {
 }
 
 const PageTable& TableOf(PageId page) { return *kTables[static_cast<std::size_t>(page)]; }
+
+}  // namespace AdvancedControl

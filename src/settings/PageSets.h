@@ -6,6 +6,8 @@
 
 #include "AdvancedControlExport.h"
 
+inline namespace AdvancedControl {
+
 /// Every page class, in the order in which the dialog holds them.
 enum class PageId : std::uint8_t {
   Status,
@@ -56,3 +58,5 @@ ADVANCED_CONTROL_EXPORT std::span<const PageId> PagesOf(int dialogType);
 
 /// The tabs that a model shows after the status tab, in order.
 ADVANCED_CONTROL_EXPORT std::span<const PageTab> TabsOf(int dialogType, int modelCode);
+
+}  // namespace AdvancedControl

@@ -2,6 +2,8 @@
 #include "settings/PageTables.h"
 #include "settings/picture/PictureRows.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 bool HasEntry(const CountedList& list, auto fits) {
@@ -31,3 +33,5 @@ std::vector<PagePopUp> PopUpsOf(PageId page, const ModelData& model) {
   }
   return popUps;
 }
+
+}  // namespace AdvancedControl

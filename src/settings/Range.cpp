@@ -6,6 +6,8 @@
 #include <limits>
 #include <optional>
 
+inline namespace AdvancedControl {
+
 namespace {
 
 // Blanks, a sign and digits; what follows the digits does not count.
@@ -31,3 +33,5 @@ Range ParseRange(std::string_view text, int bias, Range fallback) {
   if (!minimum || !maximum || *minimum > *maximum) return fallback;
   return {*minimum - bias, *maximum - bias};
 }
+
+}  // namespace AdvancedControl

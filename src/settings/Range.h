@@ -4,6 +4,8 @@
 
 #include "AdvancedControlExport.h"
 
+inline namespace AdvancedControl {
+
 /// Bounds of an adjustment, both included.
 struct Range {
   int minimum = 0;
@@ -16,3 +18,5 @@ struct Range {
 /// A text that is empty, does not have a decimal 16-bit integer on both sides of its first comma,
 /// or has them in the wrong order gives `fallback`, which is in shown values already.
 ADVANCED_CONTROL_EXPORT Range ParseRange(std::string_view text, int bias, Range fallback);
+
+}  // namespace AdvancedControl

@@ -3,6 +3,8 @@
 #include "settings/CatalogNumbers.h"
 #include "settings/Rows.h"
 
+inline namespace AdvancedControl {
+
 // What rows of several groups of pages are made of.
 
 inline constexpr auto kSwitch = Numbered(ListText::SwitchOff, ListText::SwitchOn);
@@ -38,3 +40,5 @@ constexpr ValueRow NamedSlider(std::string_view key, int caption, const ValueIds
           .range = range,
           .ticks = ticks};
 }
+
+}  // namespace AdvancedControl

@@ -1,6 +1,11 @@
 #include "settings/RowUse.h"
 
+#include <cstdlib>
+#include <utility>
+
 #include "device/CommandCode.h"
+
+inline namespace AdvancedControl {
 
 namespace {
 
@@ -27,31 +32,59 @@ std::optional<int> AskPlayingSource(CPjtInterface& projector, int modelCode) {
   return input == kNoSource ? std::nullopt : input;
 }
 
-bool Send(CPjtInterface& projector, const ListRow& row, const ModelData& model, int source,
-          int value) {
-  const int position = PositionOf(row.entries.Of(model), value);
-  if (!row.send || position < 0) return false;
-  if (value == row.rules.placeholder.Of(model.ModelCode)) return false;
-  const int sent = row.rules.sendsPosition ? position : value;
-  return Perform(projector, *row.Sending(source), sent, model.ModelCode).accepted;
-}
+/// Sends a value to a row of any kind.
+class Sender {
+ public:
+  Sender(CPjtInterface& projector, const ModelData& model, int source, int value,
+         const Sending& how)
+      : projector_(projector), model_(model), source_(source), value_(value), how_(how) {}
 
-bool Send(CPjtInterface& projector, const ValueRow& row, const ModelData& model, int source,
-          int value) {
-  return Perform(projector, row.Setting(source), value, model.ModelCode).accepted;
-}
+  Sent operator()(const ListRow& row) const {
+    const int position =
+        how_.position ? *how_.position : PositionOf(row.entries.Of(model_), value_);
+    const bool isSendable = position >= 0 && value_ != row.rules.placeholder.Of(model_.ModelCode);
+    if (!row.send || !isSendable) return Sent::Nothing;
+    if (row.rules.tellsText) projector_.SettingText = how_.text;
+    return Do(*row.Sending(source_), row.rules.sendsPosition ? position : value_);
+  }
+  Sent operator()(const ValueRow& row) const {
+    return row.stepsOnly ? StepThere(row) : Do(row.Setting(source_), value_);
+  }
+  Sent operator()(const CheckRow& row) const {
+    return value_ == 0 || value_ == 1 ? Do(row.send, value_) : Sent::Nothing;
+  }
+  Sent operator()(const StateRow& row) const {
+    const auto& call = value_ != 0 ? row.turnOn : row.turnOff;
+    return call ? Do(*call, 0) : Sent::Nothing;
+  }
+  Sent operator()(const auto&) const { return Sent::Nothing; }
 
-bool Send(CPjtInterface& projector, const CheckRow& row, const ModelData& model, int, int value) {
-  if (value != 0 && value != 1) return false;
-  return Perform(projector, row.send, value, model.ModelCode).accepted;
-}
+ private:
+  Sent Do(const Call& call, int value) const {
+    const bool accepted = Perform(projector_, call, value, model_.ModelCode).accepted;
+    return accepted ? Sent::Accepted : Sent::Refused;
+  }
 
-bool Send(CPjtInterface& projector, const StateRow& row, const ModelData&, int, int value) {
-  const auto& call = value != 0 ? row.turnOn : row.turnOff;
-  return call && Perform(projector, *call).accepted;
-}
+  // A step whose answer got lost may have been made, so that only reading tells.
+  Sent StepThere(const ValueRow& row) const {
+    const auto read = [&] { return ReadRow(projector_, row, model_, source_); };
+    const Range bounds = StepBounds(row, model_);
+    const auto present = read();
+    if (!present) return Sent::Refused;
+    const auto step = [&](bool upwards, int now) {
+      Stepped stepped = Step(projector_, row, upwards, source_, bounds, now - row.bias);
+      if (!stepped.value) stepped.value = read();
+      return stepped;
+    };
+    return StepTo(*present, value_, step, how_.goesOn);
+  }
 
-bool Send(CPjtInterface&, const auto&, const ModelData&, int, int) { return false; }
+  CPjtInterface& projector_;
+  const ModelData& model_;
+  int source_;
+  int value_;
+  const Sending& how_;
+};
 
 }  // namespace
 
@@ -80,12 +113,16 @@ std::optional<int> ReadRow(CPjtInterface& projector, const PageRow& row, const M
   return source ? Read(projector, At(*call, *source)) : std::nullopt;
 }
 
-bool SendRow(CPjtInterface& projector, const PageRow& row, const ModelData& model, int value,
-             std::optional<int> source) {
-  if (!source) source = AskSource(projector, SourceOf(row), model.ModelCode);
-  if (!source) return false;
-  return std::visit([&](const auto& kind) { return Send(projector, kind, model, *source, value); },
-                    row);
+Sent SendRow(CPjtInterface& projector, const PageRow& row, const ModelData& model, int value,
+             const Sending& how) {
+  const auto source =
+      how.source ? how.source : AskSource(projector, SourceOf(row), model.ModelCode);
+  if (!source) return Sent::Nothing;
+  return std::visit(Sender(projector, model, *source, value, how), row);
+}
+
+std::optional<int> SteppedSource(OfSource of, std::optional<int> asked) {
+  return of == OfSource::Current ? asked.value_or(0) : asked;
 }
 
 Stepped Step(CPjtInterface& projector, const ValueRow& row, bool upwards, int source, Range bounds,
@@ -116,19 +153,32 @@ Stepped Step(CPjtInterface& projector, const ValueRow& row, bool upwards, int so
     default:
       break;
   }
-  // A field has no range of its own.
-  if ((row.bounds || row.ids.slider != 0) && atEnd(known)) return {};
+  if (atEnd(known)) return {};
   if (!Perform(projector, step).accepted) return {.refused = true};
   Call reading = row.Reading(source);
   reading.anyResult = step.anyResult;  // the read back is as strict as the step
   return {.value = Read(projector, reading)};
 }
 
-Stepped Step(CPjtInterface& projector, const ValueRow& row, const ModelData& model, bool upwards) {
-  const auto source = AskSource(projector, row.of, model.ModelCode);
-  if (!source) return {};
-  const auto value = Read(projector, row.Reading(*source));
-  if (!value) return {};
-  return Step(projector, row, upwards, *source, StepBounds(row, model, SliderRange(row, model)),
-              *value - row.bias);
+Sent StepTo(int present, int wanted, const Stepper& step, const std::function<bool()>& goesOn) {
+  constexpr int kMostSteps = 4096;
+  constexpr int kMostFailures = 3;
+  if (std::abs(present - wanted) > kMostSteps) return Sent::Refused;  // out of reach: not begun
+  int failures = 0;
+  for (int i = 0; i < kMostSteps && present != wanted && goesOn(); ++i) {
+    const bool upwards = present < wanted;
+    const Stepped stepped = step(upwards, present);
+    if (!stepped.value) return Sent::Refused;
+    const int now = std::exchange(present, *stepped.value);
+    const bool isNearer =
+        upwards ? present > now && present <= wanted : present < now && present >= wanted;
+    if (isNearer) {
+      failures = 0;
+    } else if (!stepped.refused || ++failures == kMostFailures) {
+      break;
+    }
+  }
+  return present == wanted ? Sent::Accepted : Sent::Refused;
 }
+
+}  // namespace AdvancedControl

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <type_traits>
 
+inline namespace AdvancedControl {
+
 namespace {
 
 const ModelRows* RowsOf(const PageTable& table, int modelCode) {
@@ -120,6 +122,9 @@ Range SliderRange(const ValueRow& row, const ModelData& model) {
   return ParseRange(model.RangeTexts[static_cast<std::size_t>(row.rangeText)], row.bias, fallback);
 }
 
-Range StepBounds(const ValueRow& row, const ModelData& model, Range slider) {
-  return row.bounds ? row.bounds->Of(model.ModelCode) : slider;
+Range StepBounds(const ValueRow& row, const ModelData& model) {
+  if (row.bounds) return row.bounds->Of(model.ModelCode);
+  return row.stepsOnly ? kUnbounded : SliderRange(row, model);
 }
+
+}  // namespace AdvancedControl

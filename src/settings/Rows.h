@@ -13,6 +13,8 @@
 #include "settings/ModelCodes.h"
 #include "settings/Range.h"
 
+inline namespace AdvancedControl {
+
 // The kinds of rows that a page's table is made of. A row tells what a setting is called, how it is
 // read, sent and stepped, and by which numbered controls a dialog shows it; no widget is needed to
 // use it (see RowUse.h). `key` is the setting's stable name, unique within a model; `caption` is
@@ -20,7 +22,7 @@
 //
 //   kind      read  changed          values                     may be sent again later
 //   ListRow   yes   SendRow          the entries'               yes, where it is read and sent
-//   ValueRow  yes   SendRow, Step    SliderRange, with a bias   yes, where it has a slider
+//   ValueRow  yes   SendRow, Step    SliderRange, with a bias   yes
 //   CheckRow  yes   SendRow          0 and 1                    yes
 //   StateRow  yes   SendRow, if it   the entries' texts         no: what the projector does now
 //                   is a switch
@@ -139,8 +141,11 @@ struct ValueRow {
   std::uint16_t code = 0;  ///< For `Get`, `Set`, `Inc` and `Dec`, unless one is told apart:
   std::optional<Call> read{}, set{}, down{}, up{};
   int bias = 0;
-  int rangeText = kNoRangeText;             ///< `RangeIndex` of the model's own slider range.
-  PerModel<Range> range{};                  ///< Shown values; of the slider where there is no text.
+  int rangeText = kNoRangeText;  ///< `RangeIndex` of the model's own slider range.
+  PerModel<Range> range{};       ///< Shown values; of the slider where there is no text.
+  /// There is no setter: only − and + change it, and only the projector bounds it unless `bounds`
+  /// does. Such a row has no slider.
+  bool stepsOnly = false;
   std::optional<PerModel<Range>> bounds{};  ///< Shown values, of − and +; else the slider's range.
   int ticks = 1;                            ///< 0 is an eighth of the slider's maximum.
   std::optional<int> initial{};  ///< Shown and taken for the last value known until there is one.
@@ -150,6 +155,9 @@ struct ValueRow {
   bool failedReadDisables = true;  ///< Else it only empties the field.
   DeviceMemory deviceMemory = DeviceMemory::Never;
   OfSource of = OfSource::None;
+  /// The projector keeps it for each input source, but gives and takes only that of the present
+  /// one.
+  bool ofCurrentSourceOnly = false;
   RowReset reset{};
   Presence on{};
 
@@ -285,5 +293,7 @@ ADVANCED_CONTROL_EXPORT std::optional<Call> ResetOf(const PageTable& table, cons
 
 /// The slider's range for a model, in shown values.
 ADVANCED_CONTROL_EXPORT Range SliderRange(const ValueRow& row, const ModelData& model);
-/// Where − and + stop, in shown values; `slider` is the slider's range.
-ADVANCED_CONTROL_EXPORT Range StepBounds(const ValueRow& row, const ModelData& model, Range slider);
+/// Where − and + stop, in shown values; `kUnbounded` where only the projector tells.
+ADVANCED_CONTROL_EXPORT Range StepBounds(const ValueRow& row, const ModelData& model);
+
+}  // namespace AdvancedControl

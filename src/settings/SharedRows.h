@@ -5,6 +5,8 @@
 #include "settings/LegacyRows.h"
 #include "settings/RowParts.h"
 
+inline namespace AdvancedControl {
+
 /// Rows that several main, automatic, option and other pages have: a setting is read, sent and told
 /// in one way, and a page gives it its key and its controls.
 namespace shared {
@@ -33,8 +35,10 @@ constexpr ValueRow Contrast(std::string_view key, const ValueIds& ids) {
                        RangeIndex::Contrast);
 }
 constexpr ValueRow Volume(std::string_view key, const ValueIds& ids) {
-  return PlainSlider(key, 1, ids, CommandCode::Volume, ErrorText::VolumeRefused, RangeIndex::Volume,
-                     {0, 32}, 4);
+  ValueRow row = PlainSlider(key, 1, ids, CommandCode::Volume, ErrorText::VolumeRefused,
+                             RangeIndex::Volume, {0, 32}, 4);
+  row.ofCurrentSourceOnly = true;
+  return row;
 }
 /// Minutes; 0 is off.
 constexpr ValueRow AutoOff(std::string_view key, const ValueIds& ids) {
@@ -105,3 +109,5 @@ constexpr ListRow Freeze(int list) {
 // clang-format on
 
 }  // namespace shared
+
+}  // namespace AdvancedControl

@@ -25,10 +25,7 @@ std::size_t LongestText(std::string_view name) {
 /// The text as it may stand in a line.
 std::string Bounded(std::string text, std::size_t longest) {
   std::erase_if(text, [](char c) { return c == '\r' || c == '\n'; });
-  if (text.size() <= longest) return text;
-  const auto continues = [&] { return (static_cast<unsigned char>(text[longest]) & 0xC0) == 0x80; };
-  while (longest > 0 && continues()) --longest;
-  return text.substr(0, longest);
+  return std::string(CutText(text, longest));
 }
 
 std::string Upper(std::string_view text) {

@@ -6,11 +6,11 @@
 
 #include <QHostAddress>
 #include <QRandomGenerator>
-#include <QTcpServer>
 #include <QTcpSocket>
 #include <QTimer>
 
 #include "device/PjLinkLine.h"
+#include "simulator/TcpListener.h"
 
 namespace {
 
@@ -25,17 +25,6 @@ std::string NewSeed() {
       .rightJustified(kDigits, QLatin1Char('0'))
       .toStdString();
 }
-
-/// Bounds what a client can make its socket hold, also while it waits to be served.
-class BoundedServer final : public QTcpServer {
- protected:
-  void incomingConnection(qintptr descriptor) override {
-    auto* const socket = new QTcpSocket(this);
-    socket->setReadBufferSize(kReadBuffer);
-    socket->setSocketDescriptor(descriptor);
-    addPendingConnection(socket);
-  }
-};
 
 /// One connection, as long as its socket lives.
 class Session final : public QObject {
@@ -122,7 +111,7 @@ struct PjLinkServer::State {
   PjLinkResponder responder;
   LineFault fault{};
   std::size_t served = 0;
-  BoundedServer server;  // the first to go, with its sockets, which use the others
+  TcpListener server{kReadBuffer};  // the first to go, with its sockets, which use the others
 };
 
 void PjLinkServer::State::ServeWaiting() {

@@ -1,12 +1,14 @@
 #include "simulator/WireServer.h"
 
+#include <algorithm>
+#include <chrono>
 #include <utility>
 
 #include <QIODevice>
-#include <QTcpServer>
 #include <QTcpSocket>
 #include <QTimer>
 
+#include "simulator/TcpListener.h"
 #include "simulator/WireResponder.h"
 
 namespace {
@@ -14,6 +16,9 @@ namespace {
 constexpr qint64 kLargestPiece = 4096;
 constexpr std::size_t kLargestBacklog = 256UL * 1024;
 constexpr auto kTimeForHello = std::chrono::seconds(10);
+constexpr auto kIdle = std::chrono::milliseconds(200);
+
+using Clock = std::chrono::steady_clock;
 
 /// One connection. Ends itself with its line.
 class Session final : public QObject {
@@ -25,7 +30,6 @@ class Session final : public QObject {
     connect(line_, &QIODevice::readyRead, this, &Session::Read);
     connect(line_, &QIODevice::aboutToClose, this, &QObject::deleteLater);
     if (auto* socket = qobject_cast<QTcpSocket*>(line_)) {
-      socket->setReadBufferSize(kLargestPiece);
       socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
       connect(socket, &QTcpSocket::disconnected, this, &QObject::deleteLater);
       // A peer that connects and says nothing does not keep its place.
@@ -36,8 +40,12 @@ class Session final : public QObject {
     Read();
   }
 
+  bool IsIdle() const { return replies_.Backlog() == 0 && Clock::now() - lastRead_ >= kIdle; }
+  Clock::time_point LastRead() const { return lastRead_; }
+
  private:
   void Read() {
+    lastRead_ = Clock::now();
     while (line_->bytesAvailable() > 0) {
       const QByteArray piece = line_->read(kLargestPiece);
       if (piece.isEmpty()) return;
@@ -50,26 +58,52 @@ class Session final : public QObject {
   QIODevice* const line_;
   WireResponder responder_;
   FaultyLine replies_;
+  Clock::time_point lastRead_{};
 };
 
 }  // namespace
 
 struct WireServer::Parts {
+  explicit Parts(std::shared_ptr<ProjectorChannel> served) : projector(std::move(served)) {
+    again.setSingleShot(true);
+    QObject::connect(&again, &QTimer::timeout, &server, [this] { ServeWaiting(); });
+    QObject::connect(&server, &QTcpServer::newConnection, &server, [this] { ServeWaiting(); });
+  }
+
+  void ServeWaiting();
+  bool HasRoom();
+
   std::shared_ptr<ProjectorChannel> projector;
-  LineFault fault;
-  QTcpServer server{};
-  QObject sessions{};
+  LineFault fault{};
+  QTimer again;
+  TcpListener server{kLargestPiece};
+  QObject lines;
+  QObject connections;
 };
 
-WireServer::WireServer(std::shared_ptr<ProjectorChannel> projector)
-    : parts_(new Parts{.projector = std::move(projector), .fault = {}}) {
-  QTcpServer& server = parts_->server;
-  QObject::connect(&server, &QTcpServer::newConnection, &server, [this, &server] {
-    while (std::unique_ptr<QTcpSocket> socket{server.nextPendingConnection()}) {
-      if (parts_->sessions.children().size() < kMaximumConnections) Serve(std::move(socket));
-    }
-  });
+void WireServer::Parts::ServeWaiting() {
+  while (server.hasPendingConnections()) {
+    if (!HasRoom()) return again.start(kIdle);
+    std::unique_ptr<QTcpSocket> socket(server.nextPendingConnection());
+    if (socket->state() != QAbstractSocket::ConnectedState) continue;  // left while it waited
+    new Session(std::move(socket), *projector, fault, &connections);
+  }
 }
+
+bool WireServer::Parts::HasRoom() {
+  const auto& open = connections.children();
+  if (open.size() < kMaximumConnections) return true;
+  const auto longest = std::ranges::min_element(open, {}, [](QObject* child) {
+    const auto* const session = static_cast<Session*>(child);
+    return std::pair(!session->IsIdle(), session->LastRead());
+  });
+  if (!static_cast<Session*>(*longest)->IsIdle()) return false;
+  delete *longest;
+  return true;
+}
+
+WireServer::WireServer(std::shared_ptr<ProjectorChannel> projector)
+    : parts_(std::make_unique<Parts>(std::move(projector))) {}
 
 WireServer::~WireServer() = default;
 
@@ -80,7 +114,7 @@ std::uint16_t WireServer::Listen(const QHostAddress& address, std::uint16_t port
 std::string WireServer::ErrorText() const { return parts_->server.errorString().toStdString(); }
 
 void WireServer::Serve(std::unique_ptr<QIODevice> line) {
-  new Session(std::move(line), *parts_->projector, parts_->fault, &parts_->sessions);
+  new Session(std::move(line), *parts_->projector, parts_->fault, &parts_->lines);
 }
 
 void WireServer::SetFault(const LineFault& fault) { parts_->fault = fault; }

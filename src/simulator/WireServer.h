@@ -15,7 +15,9 @@ class QIODevice;
 /// thread with an event loop; the projector should answer at once.
 class ADVANCED_CONTROL_EXPORT WireServer {
  public:
-  static constexpr int kMaximumConnections = 8;  ///< Of the port; further ones are closed at once.
+  /// Of the port. Further ones wait until one ends, or until nothing has come for a moment over one
+  /// that owes no reply: the one of these that has been idle longest is closed.
+  static constexpr int kMaximumConnections = 8;
 
   explicit WireServer(std::shared_ptr<ProjectorChannel> projector);
   ~WireServer();

@@ -3,16 +3,11 @@
 #include <algorithm>
 #include <iterator>
 
+#include "snapshots/Dependence.h"
+
+inline namespace AdvancedControl {
+
 namespace {
-
-/// The input source decides what the projector's other settings belong to, and modes decide what
-/// numbers are worth: each rank is read again when one before it was changed.
-enum class Rank : std::uint8_t { Source, Choice, Number };
-
-Rank RankOf(const ModelSetting& setting) {
-  if (setting.SelectsInput()) return Rank::Source;
-  return setting.kind == ModelSetting::Kind::Choice ? Rank::Choice : Rank::Number;
-}
 
 Outcome Judge(const ModelSettings& model, const ModelSetting* setting, const SavedSetting& saved) {
   if (setting == nullptr) return Outcome::Unknown;
@@ -27,8 +22,16 @@ bool IsNumber(const RestoredSetting& restored) {
   return restored.setting != nullptr && RankOf(*restored.setting) == Rank::Number;
 }
 
-bool IsSame(const SavedSetting& one, const SavedSetting& other) {
-  return one.key == other.key && one.source == other.source;
+/// What telling has come to if it is read back different, as the commands in between went. Nothing
+/// where the projector was told nothing.
+std::optional<Outcome> Otherwise(const CPjtInterface::Tally& before,
+                                 const CPjtInterface::Tally& after) {
+  if (after.uncertain > before.uncertain) return Outcome::Unconfirmed;
+  if (after.pending > before.pending) return Outcome::Pending;
+  if (after.busy > before.busy) return Outcome::Busy;
+  const int unanswered = after.unanswered - before.unanswered;
+  if (unanswered > 0 && unanswered == after.commands - before.commands) return {};
+  return Outcome::Refused;
 }
 
 }  // namespace
@@ -86,11 +89,7 @@ void Restoration::Read(const Group& group, const Progress& progress) {
   });
   Announce(stale);
   for (RestoredSetting* restored : stale) {
-    if (progress.goesOn()) {
-      Read(*restored, progress);
-    } else if (restored->outcome == Outcome::AlreadySo) {
-      restored->outcome = Outcome::NotReached;  // that was before others were sent
-    }
+    if (progress.goesOn()) Read(*restored, progress);
   }
 }
 
@@ -102,14 +101,15 @@ void Restoration::Read(RestoredSetting& restored, const Progress& progress) {
     // A projector that is gone has refused nothing.
     const CPjtInterface::Tally now = connection_.Sent();
     const bool isGone = now.unanswered > sent.unanswered || !progress.goesOn();
+    const Outcome refused = now.busy > sent.busy ? Outcome::Busy : Outcome::Refused;
     const bool isOffered = now.notOffered == sent.notOffered;
-    const Outcome outcome = isOffered ? Outcome::Refused : Outcome::NotOffered;
-    restored.outcome = isGone ? Outcome::NotReached : outcome;
+    restored.outcome = isGone ? Outcome::NotReached : isOffered ? refused : Outcome::NotOffered;
+    if (isGone) return progress.step();
   } else {
     const bool same = *restored.before == restored.saved.value;
     restored.outcome = same ? Outcome::AlreadySo : Outcome::Differs;
-    restored.asOf = turns_;
   }
+  restored.asOf = turns_;
   progress.step();
 }
 
@@ -121,7 +121,8 @@ void Restoration::Send(const SettingTexts& texts, const Progress& progress,
                          .step = progress.step};
   const Way way{texts, careful, keep};
   SendBeforehand(way);
-  Confirm(SendSettings(way), careful);
+  if (!HasOpen()) Confirm(SendSettings(way), careful);
+  Settle(careful);
   if (turns_ > 0) keep();
 }
 
@@ -140,7 +141,7 @@ void Restoration::SendBeforehand(const Way& way) {
     Read(group, way.progress);
     Confirm(SendTogether(group, way), way.progress);
     const bool isSo = front.outcome == Outcome::AlreadySo || front.outcome == Outcome::Changed;
-    if (!IsNumber(front) && !isSo) return;
+    if (HasOpen() || (!IsNumber(front) && !isSo)) return;
   }
 }
 
@@ -166,6 +167,8 @@ Restoration::Group Restoration::SendSettings(const Way& way) {
       if (restored->outcome != Outcome::Differs) continue;
       Read(Group{restored}, way.progress);
       send({restored});
+      if (restored->IsOpen()) Confirm({restored}, way.progress);
+      if (restored->IsOpen()) return sent;
     }
   }
   return sent;
@@ -187,12 +190,19 @@ Restoration::Group Restoration::SendTogether(const Group& group, const Way& way)
       continue;
     }
     const SavedSetting& saved = restored->saved;
+    const CPjtInterface::Tally before = connection_.Sent();
     model_.Change(
         connection_, *restored->setting, saved.value,
         {way.texts.Value(*restored->setting, saved.value), saved.source, way.progress.goesOn});
+    way.progress.step();
+    const auto otherwise = Otherwise(before, connection_.Sent());
+    if (!otherwise) {
+      restored->turn = 0;
+      continue;
+    }
+    restored->otherwise = *otherwise;
     restored->outcome = Outcome::Unconfirmed;
     sent.push_back(restored);
-    way.progress.step();
   }
   return sent;
 }
@@ -204,12 +214,45 @@ void Restoration::Confirm(const Group& sent, const Progress& progress) {
   for (RestoredSetting* restored : sent) {
     restored->now = model_.Read(connection_, *restored->setting, restored->saved.source);
     if (restored->now) {
-      const bool done = *restored->now == restored->saved.value;
-      restored->outcome = done ? Outcome::Changed : Outcome::Refused;
+      // A step that may still be made leads away from there.
+      const bool isStepping = restored->IsOpen() && restored->setting->IsStepped();
+      const bool done = *restored->now == restored->saved.value && !isStepping;
+      if (done) restored->otherwise = Outcome::Refused;
+      restored->outcome = done ? Outcome::Changed : restored->otherwise;
+      restored->asOf = turns_;
     }
+    if (restored->outcome == Outcome::Unconfirmed) restored->now.reset();
     progress.step();
   }
 }
+
+void Restoration::Settle(const Progress& progress) {
+  const auto told = Told();
+  const Group changed = Those([&told](const RestoredSetting& restored) {
+    switch (restored.outcome) {
+      case Outcome::Unconfirmed:
+      case Outcome::Unknown:
+      case Outcome::NotOffered:
+      case Outcome::NotSettable:
+      case Outcome::NotAllowed:
+        return false;
+      default:
+        return MayHaveChanged(restored, told);
+    }
+  });
+  Group unread;
+  std::ranges::copy_if(changed, std::back_inserter(unread), [&](const RestoredSetting* restored) {
+    return restored->turn == 0 && !MayStillChange(*restored, told);
+  });
+  Read(unread, progress);
+  for (RestoredSetting* restored : changed) {
+    if (!MayHaveChanged(*restored, told)) continue;
+    restored->outcome = Outcome::Unconfirmed;
+    restored->now.reset();
+  }
+}
+
+bool Restoration::HasOpen() const { return std::ranges::any_of(Told(), &RestoredSetting::IsOpen); }
 
 int Restoration::Count(Outcome outcome) const {
   return static_cast<int>(std::ranges::count(beforehand_, outcome, &RestoredSetting::outcome) +
@@ -235,14 +278,15 @@ Snapshot Restoration::Undo(const std::string& projector, const SettingTexts& tex
     list.push_back(
         {restored.saved.key, value, texts.Value(*restored.setting, value), restored.saved.source});
   };
+  const ToldSettings told = Told();
   for (const RestoredSetting& restored : settings_) {
     if (!restored.first) continue;
     const bool isUntouched =
         restored.outcome == Outcome::AlreadySo || restored.outcome == Outcome::NotReached;
-    if (isUntouched && restored.first == restored.saved.value) continue;
+    const bool isSo = restored.first == restored.saved.value;
+    if (isUntouched && isSo && !MayHaveChanged(restored, told)) continue;
     add(snapshot.settings, restored, *restored.first);
   }
-  const auto told = Told();
   const auto first = std::ranges::find_if_not(
       told, [](const RestoredSetting* restored) { return IsNumber(*restored); });
   const bool isAllAtFirst = first == told.end() || std::next(first) == told.end();
@@ -250,7 +294,7 @@ Snapshot Restoration::Undo(const std::string& projector, const SettingTexts& tex
   // Somebody may choose another source or mode meanwhile. What a choice is under the modes that
   // were set after it is known only once it was read back.
   for (const RestoredSetting* restored : told) {
-    if (restored->isBeforehand || IsNumber(*restored)) continue;
+    if (restored->isBeforehand || IsNumber(*restored) || restored->IsOpen()) continue;
     if (restored->now || restored->setting->SelectsInput()) {
       add(snapshot.beforehand, *restored, restored->now.value_or(restored->saved.value));
     }
@@ -260,3 +304,5 @@ Snapshot Restoration::Undo(const std::string& projector, const SettingTexts& tex
   }
   return snapshot;
 }
+
+}  // namespace AdvancedControl

@@ -6,7 +6,10 @@
 #include <string>
 #include <vector>
 
+#include "AdvancedControlExport.h"
 #include "snapshots/Snapshot.h"
+
+inline namespace AdvancedControl {
 
 /// What has become of one saved setting.
 enum class Outcome : std::uint8_t {
@@ -31,15 +34,20 @@ struct RestoredSetting {
   Outcome outcome = Outcome::NotReached;
   std::optional<int> first{};   ///< What the projector had at first, where it told it.
   std::optional<int> before{};  ///< What it had last before it was told.
-  std::optional<int> now{};     ///< What it has after being told.
+  std::optional<int> now{};     ///< What it has after being told; nothing while unconfirmed.
   int turn = 0;   ///< Its place among all that are told, from 1 on; 0 for one that is not.
-  int asOf = -1;  ///< How many had been told when `before` was read.
+  int asOf = -1;  ///< How many had been told when it was read last.
+  /// What it comes to when it was told and is read back different.
+  Outcome otherwise = Outcome::Refused;
+
+  /// Whether it was told and nobody knows if the projector will still carry it out.
+  bool IsOpen() const { return otherwise == Outcome::Pending || otherwise == Outcome::Unconfirmed; }
 };
 
 /// Puts the settings of a snapshot back on a projector, of the same model or another. First `Read`,
 /// then `Send`; whenever it ends, `Settings` tells the truth, and doing it all again completes it.
 /// `model` and `connection` outlive it.
-class Restoration {
+class ADVANCED_CONTROL_EXPORT Restoration {
  public:
   using Filter = std::function<bool(const SavedSetting&)>;
 
@@ -51,9 +59,10 @@ class Restoration {
   /// Reads the projector and tells what differs.
   void Read(const Progress& progress = {});
   /// Sends the snapshot's `beforehand`, in its order and up to a source or mode that cannot be set;
-  /// then what differs, what others depend on first; and reads it back. Texts are for connections
-  /// that are told them. `keepUndo` is called whenever `Undo` has become more, before that is sent,
-  /// and once more when all is known: where it says no, no more is sent.
+  /// then what differs, what others depend on first; and reads it back. Nothing is sent after what
+  /// others depend on while nobody knows whether that will still be carried out. Texts are for
+  /// connections that are told them. `keepUndo` is called whenever `Undo` has become more, before
+  /// that is sent, and once more when all is known: where it says no, no more is sent.
   void Send(
       const SettingTexts& texts, const Progress& progress = {},
       const std::function<bool()>& keepUndo = [] { return true; });
@@ -65,9 +74,9 @@ class Restoration {
   /// How many of both have come to this.
   int Count(Outcome outcome) const;
 
-  /// What the projector had at first of everything that differs or differed; and beforehand, from
-  /// the last one back, what each replaced that was sent under a new source or mode. Restoring this
-  /// undoes `Send`.
+  /// What the projector had at first of everything that differs or differed, or may since something
+  /// was told; and beforehand, from the last one back, what each replaced that was sent under a new
+  /// source or mode. Restoring this undoes `Send`.
   Snapshot Undo(const std::string& projector, const SettingTexts& texts) const;
 
  private:
@@ -83,6 +92,9 @@ class Restoration {
   Group SendSettings(const Way& way);
   Group SendTogether(const Group& group, const Way& way);
   void Confirm(const Group& sent, const Progress& progress);
+  /// Reads again what may have changed since it was read, or tells that it is not known.
+  void Settle(const Progress& progress);
+  bool HasOpen() const;
   std::vector<const RestoredSetting*> Told() const;
 
   const ModelSettings& model_;
@@ -91,3 +103,5 @@ class Restoration {
   std::vector<RestoredSetting> settings_;
   int turns_ = 0;
 };
+
+}  // namespace AdvancedControl

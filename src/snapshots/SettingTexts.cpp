@@ -5,8 +5,11 @@
 
 #include <QString>
 
+#include "device/CommandCode.h"
 #include "i18n/SystemLanguage.h"
 #include "settings/CatalogNumbers.h"
+
+inline namespace AdvancedControl {
 
 namespace {
 
@@ -28,6 +31,18 @@ QString Wide(std::string_view text) {
 
 bool SameText(std::string_view a, std::string_view b) {
   return Wide(a).compare(Wide(b).trimmed(), Qt::CaseInsensitive) == 0;
+}
+
+bool IsPower(const ModelSetting& setting) {
+  const auto* const state = std::get_if<StateRow>(setting.row);
+  return state != nullptr && state->read.code == CommandCode::RunningState;
+}
+
+bool IsNameShared(const ModelSetting& setting, const ListEntry& entry) {
+  return !entry.text && !entry.name.empty() &&
+         std::ranges::any_of(setting.entries, [&entry](const ListEntry& other) {
+           return !other.text && other.value != entry.value && SameText(other.name, entry.name);
+         });
 }
 
 /// Caption number of "V" or "H", which such a setting's row shows behind its caption; 0 for others.
@@ -86,13 +101,38 @@ std::string SettingTexts::Entry(const ListEntry& entry) const {
   return entry.text ? Text(kListCategory, *entry.text) : std::string(entry.name);
 }
 
+std::string SettingTexts::Entry(const ModelSetting& setting, const ListEntry& entry) const {
+  return Entry(entry) +
+         (IsNameShared(setting, entry) ? " (" + std::to_string(entry.value) + ')' : std::string());
+}
+
 std::string SettingTexts::Value(const ModelSetting& setting, int value) const {
   const auto entry = std::ranges::find(setting.entries, value, &ListEntry::value);
   if (entry != setting.entries.end()) {
-    if (std::string text = Entry(*entry); !text.empty()) return text;
+    if (std::string text = Entry(setting, *entry); !text.empty()) return text;
   }
   if (setting.otherwise != 0) return Text(kListCategory, setting.otherwise, value);
   return std::to_string(value - setting.bias);
+}
+
+std::string SettingTexts::Value(const ModelSetting& setting, int value,
+                                std::optional<PowerState> power) const {
+  constexpr int kOn = 1;
+  constexpr int kCoolingDown = 2;
+  if (IsPower(setting) && power == PowerState::WarmingUp && value == kOn) {
+    return Text(kListCategory, ListText::PowerWarmingUp);
+  }
+  if (IsPower(setting) && value != kOn && value != kCoolingDown) {
+    return Text(kListCategory, ListText::PowerStandby);
+  }
+  return Value(setting, value);
+}
+
+bool SettingTexts::IsShownAs(const ModelSetting& setting, int value, std::string_view text) const {
+  const bool isEntry = std::ranges::any_of(setting.entries, [&](const ListEntry& entry) {
+    return entry.value == value && (Is(entry, text) || SameText(Entry(setting, entry), text));
+  });
+  return isEntry || Number(text) == value - setting.bias;
 }
 
 std::string SettingTexts::Values(const ModelSetting& setting) const {
@@ -104,7 +144,7 @@ std::string SettingTexts::Values(const ModelSetting& setting) const {
   std::string texts;
   for (const ListEntry& entry : setting.entries) {
     if (!setting.Allows(entry.value)) continue;
-    texts += (texts.empty() ? "" : ", ") + Entry(entry);
+    texts += (texts.empty() ? "" : ", ") + Entry(setting, entry);
   }
   return texts;
 }
@@ -121,8 +161,11 @@ bool SettingTexts::Is(const ListEntry& entry, std::string_view text) const {
 std::optional<TypedValue> SettingTexts::Parse(const ModelSetting& setting,
                                               std::string_view text) const {
   for (const ListEntry& entry : setting.entries) {
-    if (Is(entry, text)) return TypedValue{entry.value};
+    const bool isIt = IsNameShared(setting, entry) ? SameText(Entry(setting, entry), text)  //
+                                                   : Is(entry, text);
+    if (isIt) return TypedValue{entry.value};
   }
+  if (IsPower(setting) && Is(ListEntry(ListText::PowerStandby), text)) return TypedValue{0};
   const bool absolute = text.starts_with('=');
   const bool relative = text.starts_with('+') || text.starts_with('-');
   const auto number = Number(absolute ? text.substr(1) : text);
@@ -146,3 +189,5 @@ std::optional<int> Resolve(const ModelSetting& setting, const TypedValue& typed,
   }
   return setting.Allows(value) ? std::optional(value) : std::nullopt;
 }
+
+}  // namespace AdvancedControl

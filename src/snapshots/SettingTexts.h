@@ -6,8 +6,11 @@
 #include <string>
 #include <string_view>
 
+#include "AdvancedControlExport.h"
 #include "i18n/CatalogTexts.h"
 #include "settings/ModelSettings.h"
+
+inline namespace AdvancedControl {
 
 /// What a person typed for a setting.
 struct TypedValue {
@@ -17,7 +20,7 @@ struct TypedValue {
 
 /// The texts of settings in one language, and what a text in any language stands for. May be used
 /// from several threads at once. Texts are UTF-8.
-class SettingTexts {
+class ADVANCED_CONTROL_EXPORT SettingTexts {
  public:
   /// `languageId` is preferred; a text that it does not have is taken in English.
   SettingTexts(std::span<const std::string> catalogFolders, std::uint32_t languageId);
@@ -32,19 +35,26 @@ class SettingTexts {
   std::string Source(const ModelSettings& model, int source) const;
   /// Caption of the tab that it stands on.
   std::string Tab(const ModelSetting& setting) const;
-  std::string Entry(const ListEntry& entry) const;
+  /// The text of an entry; where another one has the same name, with its device value: "HDMI (31)".
+  std::string Entry(const ModelSetting& setting, const ListEntry& entry) const;
   /// A device value as the dialog shows it: its entry's text, else the shown number.
   std::string Value(const ModelSetting& setting, int value) const;
+  /// The same, but a projector that warms up, as `CPjtInterface::Power` tells, is not just on, and
+  /// one in standby, which answers, is not just off.
+  std::string Value(const ModelSetting& setting, int value, std::optional<PowerState> power) const;
+  /// Whether a text is what a device value is shown as, in any language.
+  bool IsShownAs(const ModelSetting& setting, int value, std::string_view text) const;
   /// What the setting takes: "-32 to 32", or the texts of its entries.
   std::string Values(const ModelSetting& setting) const;
 
   /// A number as it is shown, "=-3" for one below zero; "+3" or "-3" from the present value; of a
   /// list an entry's text in any language, upper or lower case, or its device value. Nothing for
-  /// any other text.
+  /// any other text, and for a name that several entries have.
   std::optional<TypedValue> Parse(const ModelSetting& setting, std::string_view text) const;
 
  private:
   std::string Text(int category, int number, int value = 0) const;
+  std::string Entry(const ListEntry& entry) const;
   bool Is(const ListEntry& entry, std::string_view text) const;
 
   CatalogTexts texts_;
@@ -53,5 +63,8 @@ class SettingTexts {
 
 /// The device value that was typed; nothing for a step from a value that is not known or that the
 /// list does not have, or to one that the setting does not take.
-std::optional<int> Resolve(const ModelSetting& setting, const TypedValue& typed,
-                           std::optional<int> present);
+ADVANCED_CONTROL_EXPORT std::optional<int> Resolve(const ModelSetting& setting,
+                                                   const TypedValue& typed,
+                                                   std::optional<int> present);
+
+}  // namespace AdvancedControl

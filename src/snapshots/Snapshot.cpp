@@ -2,6 +2,8 @@
 
 #include <QDateTime>
 
+inline namespace AdvancedControl {
+
 Snapshot EmptySnapshot(const std::string& projector, const ModelData& model) {
   return {.projector = projector,
           .model = model.ModelName,
@@ -35,3 +37,5 @@ Snapshot TakeSnapshot(const std::string& projector, const ModelSettings& setting
   }
   return snapshot;
 }
+
+}  // namespace AdvancedControl

@@ -7,13 +7,16 @@
 #include <QByteArray>
 #include <QString>
 
+#include "AdvancedControlExport.h"
 #include "snapshots/SettingTexts.h"
+
+inline namespace AdvancedControl {
 
 /// A setting as it was.
 struct SavedSetting {
   std::string key;
   int value = 0;                ///< Device value.
-  std::string text;             ///< As it was shown, for people; nobody reads it back.
+  std::string text;             ///< As it was shown, for people; what counts is the value.
   std::optional<int> source{};  ///< That it belongs to, where it is kept for each.
 
   friend bool operator==(const SavedSetting&, const SavedSetting&) = default;
@@ -30,6 +33,7 @@ struct Snapshot {
   /// Put back before all others and one after another, so that a setting may stand here several
   /// times: what other sources and modes kept for themselves.
   std::vector<SavedSetting> beforehand{};
+  bool isUndo = false;  ///< What a restoration replaced; it makes sense on that projector alone.
 
   friend bool operator==(const Snapshot&, const Snapshot&) = default;
 };
@@ -41,21 +45,27 @@ struct Progress {
 };
 
 /// A snapshot of this model and time without settings.
-Snapshot EmptySnapshot(const std::string& projector, const ModelData& model);
+ADVANCED_CONTROL_EXPORT Snapshot EmptySnapshot(const std::string& projector,
+                                               const ModelData& model);
 
 /// Reads every setting that may be put back; what the projector refuses to tell is left out, and
 /// named in `unread` unless that is null, or the projector does not offer it at all.
-Snapshot TakeSnapshot(const std::string& projector, const ModelSettings& settings,
-                      CPjtInterface& connection, const SettingTexts& texts,
-                      const Progress& progress = {}, std::vector<std::string>* unread = nullptr);
+ADVANCED_CONTROL_EXPORT Snapshot TakeSnapshot(const std::string& projector,
+                                              const ModelSettings& settings,
+                                              CPjtInterface& connection, const SettingTexts& texts,
+                                              const Progress& progress = {},
+                                              std::vector<std::string>* unread = nullptr);
 
 /// The file's text: JSON, described in `docs/acctl.md`.
-QByteArray WriteSnapshot(const Snapshot& snapshot);
+ADVANCED_CONTROL_EXPORT QByteArray WriteSnapshot(const Snapshot& snapshot);
 
 struct SnapshotContents {
   Snapshot snapshot;
   QString error;  ///< One line: the place in the text and what is wrong; empty when all is well.
+  QString path;   ///< Of what is wrong, as "settings[3].value"; empty where it is the whole text.
 };
 
 /// Reads what `WriteSnapshot` wrote, by whoever it was edited since. Unknown members are ignored.
-SnapshotContents ReadSnapshot(const QByteArray& text);
+ADVANCED_CONTROL_EXPORT SnapshotContents ReadSnapshot(const QByteArray& text);
+
+}  // namespace AdvancedControl

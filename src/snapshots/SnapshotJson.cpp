@@ -14,29 +14,53 @@
 
 namespace {
 
+/// Thrown while a text is read, caught before the reader returns.
+struct WrongSnapshot {
+  Q_DECLARE_TR_FUNCTIONS(Snapshot)
+
+ public:
+  QString path;  ///< Of the value, as `SnapshotContents` says.
+  QString message;
+  QString of{};  ///< The key of the setting that it is part of, where that is known.
+};
+
+}  // namespace
+
+inline namespace AdvancedControl {
+
+namespace {
+
 constexpr const char* kFormat = "advanced-control-settings";
 constexpr int kVersion = 1;
 constexpr qsizetype kMaximumBytes = qsizetype{4} << 20;
 constexpr int kMaximumSettings = 10'000;
 constexpr qsizetype kMaximumText = 1024;
 
-/// Thrown while a text is read, caught before the reader returns.
-struct WrongSnapshot {
-  Q_DECLARE_TR_FUNCTIONS(Snapshot)
-
- public:
-  QString message;
-};
-
 QString Wide(const std::string& text) { return QString::fromStdString(text); }
 
-int Integer(const QJsonObject& object, const QString& key, const QString& place) {
+/// A value as it stands in the file, on one line and not too long to be shown.
+QString Found(const QJsonValue& value) {
+  constexpr qsizetype kMost = 40;
+  const QByteArray json = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
+  const QString text = QString::fromUtf8(json.mid(1, json.size() - 2));
+  return text.size() <= kMost ? text : text.left(kMost) + QStringLiteral("...");
+}
+
+int Integer(const QJsonObject& object, const QString& key, const QString& place,
+            const QString& of = {}) {
   constexpr int kLeast = std::numeric_limits<std::int16_t>::min();
   constexpr int kMost = std::numeric_limits<std::uint16_t>::max();
+  if (!object.contains(key)) {
+    throw WrongSnapshot{place + key, WrongSnapshot::tr("a whole number is missing here"), of};
+  }
   const double number = object[key].toDouble(0.5);
   if (number != std::trunc(number) || number < kLeast || number > kMost) {
-    throw WrongSnapshot{place + key + ": " +
-                        WrongSnapshot::tr("must be a whole number of 16 bits")};
+    throw WrongSnapshot{place + key,
+                        WrongSnapshot::tr("must be a whole number from %1 to %2, and is %3")
+                            .arg(kLeast)
+                            .arg(kMost)
+                            .arg(Found(object[key])),
+                        of};
   }
   return static_cast<int>(number);
 }
@@ -46,23 +70,23 @@ std::string Text(const QJsonObject& object, const QString& key, const QString& p
   const auto isControl = [](QChar character) { return character < QLatin1Char(' '); };
   // It is shown on terminals.
   if (text.isEmpty() || text.size() > kMaximumText || std::ranges::any_of(text, isControl)) {
-    throw WrongSnapshot{place + key + ": " + WrongSnapshot::tr("must be a line of text")};
+    throw WrongSnapshot{place + key, WrongSnapshot::tr("must be a line of text")};
   }
   return text.toStdString();
 }
 
 QJsonObject Object(const QJsonValue& value, const QString& place) {
-  if (!value.isObject()) throw WrongSnapshot{place + ": " + WrongSnapshot::tr("must be an object")};
+  if (!value.isObject()) throw WrongSnapshot{place, WrongSnapshot::tr("must be an object")};
   return value.toObject();
 }
 
 std::vector<SavedSetting> Settings(const QJsonObject& file, const QString& member) {
   if (!file[member].isArray()) {
-    throw WrongSnapshot{member + ": " + WrongSnapshot::tr("must be an array")};
+    throw WrongSnapshot{member, WrongSnapshot::tr("must be an array")};
   }
   const QJsonArray array = file[member].toArray();
   if (array.size() > kMaximumSettings) {
-    throw WrongSnapshot{member + ": " +
+    throw WrongSnapshot{member,
                         WrongSnapshot::tr("has more than %1 entries").arg(kMaximumSettings)};
   }
   std::vector<SavedSetting> settings;
@@ -71,19 +95,21 @@ std::vector<SavedSetting> Settings(const QJsonObject& file, const QString& membe
     const QJsonObject entry = Object(array[i], place.chopped(1));
     SavedSetting& setting = settings.emplace_back();
     setting.key = Text(entry, "key", place);
-    setting.value = Integer(entry, "value", place);
+    setting.value = Integer(entry, "value", place, Wide(setting.key));
     setting.text = entry["text"].toString().toStdString();
-    if (entry.contains("source")) setting.source = Integer(entry, "source", place);
+    if (entry.contains("source")) {
+      setting.source = Integer(entry, "source", place, Wide(setting.key));
+    }
   }
   return settings;
 }
 
 Snapshot Parse(const QJsonObject& file) {
   if (file["format"].toString() != QLatin1String(kFormat)) {
-    throw WrongSnapshot{WrongSnapshot::tr("this is no file of saved settings")};
+    throw WrongSnapshot{"format", WrongSnapshot::tr("this is no file of saved settings")};
   }
   if (Integer(file, "version", {}) != kVersion) {
-    throw WrongSnapshot{"version: " + WrongSnapshot::tr("only version %1 is known").arg(kVersion)};
+    throw WrongSnapshot{"version", WrongSnapshot::tr("only version %1 is known").arg(kVersion)};
   }
   const QJsonObject model = Object(file["model"], "model");
   Snapshot snapshot{.projector = file["projector"].toString().toStdString(),
@@ -93,12 +119,13 @@ Snapshot Parse(const QJsonObject& file) {
                     .time = file["time"].toString().toStdString(),
                     .settings = {}};
   snapshot.settings = Settings(file, "settings");
+  snapshot.isUndo = file["undo"].toBool();
   if (file.contains("beforehand")) snapshot.beforehand = Settings(file, "beforehand");
   std::set<std::pair<std::string, std::optional<int>>> keys;
   for (std::size_t i = 0; i < snapshot.settings.size(); ++i) {
     const SavedSetting& setting = snapshot.settings[i];
     if (!keys.emplace(setting.key, setting.source).second) {
-      throw WrongSnapshot{QStringLiteral("settings[%1].key: ").arg(i) +
+      throw WrongSnapshot{QStringLiteral("settings[%1].key").arg(i),
                           WrongSnapshot::tr("\"%1\" stands here twice").arg(Wide(setting.key))};
     }
   }
@@ -128,11 +155,12 @@ QByteArray WriteSnapshot(const Snapshot& snapshot) {
                    {"time", Wide(snapshot.time)},
                    {"settings", ToJson(snapshot.settings)}};
   if (!snapshot.beforehand.empty()) file["beforehand"] = ToJson(snapshot.beforehand);
+  if (snapshot.isUndo) file["undo"] = true;
   return QJsonDocument(file).toJson();
 }
 
 SnapshotContents ReadSnapshot(const QByteArray& text) {
-  const auto wrong = [](const QString& error) { return SnapshotContents{{}, error}; };
+  const auto wrong = [](const QString& error) { return SnapshotContents{{}, error, {}}; };
   if (text.size() > kMaximumBytes) return wrong(WrongSnapshot::tr("is larger than 4 MiB"));
   QJsonParseError syntax;
   const QJsonDocument document = QJsonDocument::fromJson(text, &syntax);
@@ -142,8 +170,11 @@ SnapshotContents ReadSnapshot(const QByteArray& text) {
     return wrong(WrongSnapshot::tr("line %1: ").arg(line) + syntax.errorString());
   }
   try {
-    return {Parse(document.object()), {}};
+    return {Parse(document.object()), {}, {}};
   } catch (const WrongSnapshot& error) {
-    return wrong(error.message);
+    const QString of = error.of.isEmpty() ? QString() : error.of + ": ";
+    return {{}, of + error.path + ": " + error.message, error.path};
   }
 }
+
+}  // namespace AdvancedControl

@@ -1,62 +1,37 @@
-// The window, its list, search, profile editor and what it remembers, used as a person does.
+// The window, what it asks and what it remembers, and the simulation beside it.
 
-#include <cstdlib>
 #include <functional>
-#include <vector>
 
-#include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
-#include <QDialogButtonBox>
-#include <QElapsedTimer>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPointer>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QSettings>
 #include <QSpinBox>
 #include <QTabBar>
-#include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <QWheelEvent>
 #include <gtest/gtest.h>
 
-#include "app/host/CommandLog.h"
-#include "app/host/FaultPanel.h"
-#include "app/host/MainWindow.h"
-#include "app/host/ProfileEditor.h"
-#include "app/host/ProjectorFilter.h"
-#include "app/host/ProjectorView.h"
-#include "app/host/Translations.h"
+#include "app/desktop/MainWindow.h"
+#include "app/desktop/Translations.h"
+#include "app/desktop/log/CommandLog.h"
+#include "app/desktop/profiles/ProfileEditor.h"
+#include "app/desktop/simulation/FaultPanel.h"
+#include "app/profiles/SettingsFile.h"
 #include "host/CAdvanceDlg.h"
 #include "i18n/Catalog.h"
-#include "tests/support/Models.h"
+#include "tests/app/Windows.h"
 
 namespace {
-
-ProjectorProfile Profile(const char* name) {
-  ProjectorProfile profile{name, MakeModel(5, 30), {}};
-  profile.Model.ModelName = name;
-  return profile;
-}
-
-/// The part that shows or is called so, but for its mnemonic and the dots of what asks further.
-template <typename Part>
-Part& Find(const QObject& window, const QString& name) {
-  for (auto* part : window.findChildren<Part*>()) {
-    const QString text = part->property("text").toString().remove('&').remove(u'…');
-    if (text == name || part->property("accessibleName") == name) return *part;
-  }
-  ADD_FAILURE() << "there is no " << name.toStdString();
-  std::abort();
-}
-
-QTableView& Table(const QWidget& window) {
-  return *window.findChild<ProjectorView*>()->findChild<QTableView*>();
-}
 
 TEST(MainWindow, HasOneDialogPerProjectorAndLogsTheirCommands) {
   MainWindow window({Profile("A"), Profile("B")});
@@ -79,30 +54,43 @@ TEST(MainWindow, HasOneDialogPerProjectorAndLogsTheirCommands) {
   EXPECT_FALSE(newest.isEmpty() || newest.intersects(window.Dialog(0)->frameGeometry()));
 }
 
-TEST(MainWindow, OpensNothingModalWhileADialogWaitsAndThenOnceWhatWasAskedForLast) {
+TEST(MainWindow, WhatItAsksHoldsUpNoDialogAndWorkOnProjectorsWaitsForThem) {
   MainWindow window({Profile("A")});
+  window.show();
   CAdvanceDlg* dialog = window.OpenDialog(0);
-  window.findChild<ProjectorView*>()->Current()->SetFault(
-      {}, {Fault::Kind::Late, std::chrono::milliseconds(20)});
-  QStringList opened;
-  QTimer close;
-  QObject::connect(&close, &QTimer::timeout, [&opened] {
-    QWidget* modal = QApplication::activeModalWidget();
-    if (modal == nullptr) return;
-    opened << modal->windowTitle();
-    modal->close();
+  ProjectorSession& session = *window.findChild<ProjectorView*>()->Current();
+  session.SetFault({}, {Fault::Kind::Late, std::chrono::milliseconds(20)});
+  const QTemporaryDir folder;
+  const QString file = folder.filePath("settings.json");
+  QProgressDialog* progress = nullptr;
+  const auto inTheWait = [&](const auto& act) {
+    QTimer::singleShot(25, &window, [&] {
+      EXPECT_TRUE(dialog->Projector().IsWaiting());
+      act();
+    });
+    dialog->DispTabScreen();
+  };
+  inTheWait([&] { Find<QAction>(window, "Keyboard Shortcuts").trigger(); });
+  ASSERT_NE(QApplication::activeModalWidget(), nullptr) << "open, and the page is read";
+  EXPECT_EQ(QApplication::activeModalWidget()->windowTitle(), "Keyboard Shortcuts");
+  QApplication::activeModalWidget()->close();
+
+  inTheWait([&] {
+    Find<QAction>(window, "Save Settings").trigger();
+    auto* ask = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(ask, nullptr);
+    ask->selectFile(file);
+    QMetaObject::invokeMethod(ask, "accept");
+    progress = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(progress, nullptr);
+    EXPECT_EQ(progress->labelText(), "Waiting for the projector of an open dialog…");
   });
-  close.start(10);
-  QTimer::singleShot(25, [&window] {
-    for (const char* name : {"About", "Keyboard Shortcuts", "Keyboard Shortcuts"}) {
-      Find<QAction>(window, name).trigger();
-    }
-  });
-  dialog->DispTabScreen();
-  EXPECT_TRUE(opened.empty());
-  EXPECT_TRUE(QTest::qWaitFor([&opened] { return !opened.empty(); }));
-  QTest::qWait(100);
-  EXPECT_EQ(opened, QStringList("Keyboard Shortcuts"));
+  EXPECT_FALSE(QFile::exists(file));
+  session.ClearFaults();
+  const QPointer watched = progress;
+  ASSERT_TRUE(QTest::qWaitFor([&] { return watched == nullptr; }, 60'000));
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << "nothing went wrong";
+  EXPECT_EQ(ReadSettingsFile(file).error, "");
 }
 
 TEST(MainWindow, SaysWhyThereIsNoCatalog) {
@@ -112,17 +100,6 @@ TEST(MainWindow, SaysWhyThereIsNoCatalog) {
   EXPECT_TRUE(
       Find<QLabel>(window, QString::fromStdString(CatalogProblem())).text().contains("/nowhere"));
   ASSERT_EQ(LoadCatalog(), 0);
-}
-
-/// As an assistive technology does, which knows a list by its name.
-void Choose(const QWidget& window, const QString& name, const QString& entry) {
-  auto* list = qobject_cast<QComboBox*>(Find<QLabel>(window, name).buddy());
-  QAccessibleInterface* told = QAccessible::queryAccessibleInterface(list);
-  EXPECT_EQ(told->text(QAccessible::Name), name);
-  QAccessibleInterface* chosen = told->child(0)->child(list->findText(entry));
-  chosen->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-  QApplication::processEvents();
-  EXPECT_EQ(told->text(QAccessible::Value), entry);
 }
 
 TEST(FaultPanel, SetsAndRemovesFaultsOfTheSelectedProjector) {
@@ -169,170 +146,6 @@ TEST(FaultPanel, SetsAndRemovesFaultsOfTheSelectedProjector) {
   EXPECT_EQ(brightness(first), 1);
 }
 
-ProfileDocument Shipped(const QTemporaryDir& folder) {
-  const QString name = folder.filePath("p.json");
-  if (!QFile::exists(name)) QFile::copy(TEST_CATALOG_DIR "/projectors.json", name);
-  ProfileDocument document;
-  EXPECT_EQ(document.Load(name), "");
-  return document;
-}
-
-/// Triggers an action that opens a modal dialog and answers that one.
-void Answer(QAction& action, const std::function<void(QDialog&)>& answer) {
-  bool answered = false;
-  QTimer::singleShot(0, qApp, [&] {
-    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    ASSERT_NE(dialog, nullptr);
-    answer(*dialog);
-    answered = true;
-    if (dialog->isVisible()) dialog->reject();
-  });
-  action.trigger();
-  EXPECT_TRUE(answered);
-}
-
-QString Selected(const QWidget& window) {
-  const QTableView& table = Table(window);
-  return table.currentIndex().siblingAtColumn(0).data().toString();
-}
-
-TEST(ProjectorList, AtFirstOneWithRowsOnEveryTabIsSelected) {
-  const MainWindow window({{"no tabs", MakeModel(9, 30), {}}, Profile("A"), Profile("B")});
-  EXPECT_EQ(Selected(window), "A");
-}
-
-struct Search {
-  const char* words;
-  int column;
-  int role;
-  const char* part;  // of what stands there, in each row that is found
-};
-
-TEST(ProjectorList, IsSearchedAndSorted) {
-  const QTemporaryDir folder;
-  MainWindow window(Shipped(folder));
-  window.show();
-  QTableView& table = Table(window);
-  const QAbstractItemModel& found = *table.model();
-  const int all = found.rowCount();
-  Find<QAction>(window, "Find Projectors").trigger();
-  auto* search = window.findChild<ProjectorView*>()->findChild<QLineEdit*>();
-  const Search searches[] = {
-      {"audio", 0, ProjectorTableModel::kTabsRole, "Audio"},
-      {"5-3 SCREEN", 0, Qt::DisplayRole, "5-3"},
-      {"SCREEN 5-3", 0, ProjectorTableModel::kTabsRole, "Screen"},
-      {"qd-m7450", ProjectorTableModel::Model, Qt::DisplayRole, "QD-M7450"},
-  };
-  for (const auto& [words, column, role, part] : searches) {
-    search->clear();
-    QTest::keyClicks(search, words);
-    EXPECT_TRUE(found.rowCount() > 0 && found.rowCount() < all) << words;
-    EXPECT_TRUE(table.selectionModel()->isSelected(table.currentIndex())) << words;
-    for (int row = 0; row < found.rowCount(); ++row) {
-      EXPECT_TRUE(found.index(row, column).data(role).toString().contains(part)) << words;
-    }
-  }
-  QTest::keyClicks(search, "zz");
-  EXPECT_EQ(found.rowCount(), 0);
-  QTest::keyClick(search, Qt::Key_Return);
-  EXPECT_FALSE(window.findChild<QPushButton*>()->isEnabled());
-  QTest::keyClick(search, Qt::Key_Escape);
-  EXPECT_EQ(found.rowCount(), all);
-
-  const auto row = [&found](const char* name) {
-    return found.match(found.index(0, 0), Qt::DisplayRole, name)[0].row();
-  };
-  const int inFile = row("Projector 4-9");
-  table.sortByColumn(0, Qt::DescendingOrder);
-  EXPECT_GT(row("Projector 4-9"), row("Projector 4-11"));
-  table.sortByColumn(-1, Qt::AscendingOrder);
-  EXPECT_EQ(row("Projector 4-9"), inFile);
-}
-
-QLineEdit& Field(const QDialog& editor, const QString& caption) {
-  return *qobject_cast<QLineEdit*>(Find<QLabel>(editor, caption).buddy());
-}
-
-void Fill(const QDialog& editor, const QMap<QString, QString>& texts) {
-  for (auto text = texts.begin(); text != texts.end(); ++text) {
-    Field(editor, text.key()).clear();
-    QTest::keyClicks(&Field(editor, text.key()), *text);
-  }
-}
-
-/// Presses OK; whether that was taken.
-bool Accept(const QDialog& editor) {
-  auto* buttons = editor.findChild<QDialogButtonBox*>();
-  QTest::mouseClick(buttons->button(QDialogButtonBox::Ok), Qt::LeftButton);
-  return !editor.isVisible();
-}
-
-TEST(ProjectorList, ProjectorsAreAddedEditedDuplicatedAndRemoved) {
-  const QTemporaryDir folder;
-  MainWindow window(Shipped(folder));
-  window.show();
-  auto& list = *window.findChild<ProjectorView*>();
-  const auto inFile = [&folder] { return Shipped(folder).Projectors(); };
-  const auto before = inFile();
-
-  Answer(Find<QAction>(window, "Add"), [](QDialog& editor) {
-    EXPECT_FALSE(Accept(editor)) << "without a name";
-    Choose(editor, "Family", "type5");
-    Fill(editor, {{"Name", "Hall"}, {"Model", "M"}, {"Model code", "30"}, {"Address", "a"}});
-    EXPECT_FALSE(Accept(editor)) << "without a port";
-    Fill(editor, {{"Port", "4352"}});
-    EXPECT_TRUE(Accept(editor));
-  });
-  EXPECT_EQ(inFile().size(), before.size() + 1);
-  EXPECT_EQ(Selected(window), "Hall");
-
-  CAdvanceDlg* open = window.OpenDialog(0);
-  list.Select(1);
-  Answer(Find<QAction>(window, "Edit"), [](QDialog& editor) {
-    Field(editor, "Name").setText("A \"大厅\"");
-    EXPECT_TRUE(Accept(editor));
-  });
-  auto others = inFile();
-  EXPECT_EQ(others[1].Name, "A \"大厅\"");
-  EXPECT_EQ(Selected(window), "A \"大厅\"");
-  others.erase(others.begin() + 1);
-  EXPECT_EQ(others, before);
-  EXPECT_EQ(window.Dialog(0), open) << "nothing changed for it";
-  window.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-  QTest::keyClick(&window, Qt::Key_D, Qt::ControlModifier);
-  EXPECT_EQ(list.Selected().size(), 1U) << "though Ctrl is held";
-  EXPECT_EQ(inFile()[2].Name, "A \"大厅\" (2)");
-  EXPECT_EQ(Selected(window), "A \"大厅\" (2)");
-
-  Answer(Find<QAction>(window, "Edit"), [](QDialog& editor) {
-    Choose(editor, "Reached through", "Serial port");
-    EXPECT_FALSE(Field(editor, "Address").isVisible()) << "the connection follows";
-    Fill(editor, {{"Device", "ttyUSB0"}, {"Baud", "9600"}});
-    EXPECT_FALSE(Accept(editor)) << "no path";
-    Fill(editor, {{"Device", "/dev/ttyUSB0"}});
-    EXPECT_TRUE(Accept(editor));
-  });
-  EXPECT_EQ(AddressOf(inFile()[2]), ProjectorAddress(SerialAddress{"/dev/ttyUSB0", 9600}));
-  Answer(Find<QAction>(window, "Edit"), [](QDialog& editor) {
-    Choose(editor, "Reached through", "PJLink");
-    Fill(editor, {{"Address", "192.0.2.7"}, {"Port", "4352"}, {"Password", " open "}});
-    EXPECT_TRUE(Accept(editor));
-  });
-  Answer(Find<QAction>(window, "Edit"), [](QDialog& editor) { EXPECT_TRUE(Accept(editor)); });
-  EXPECT_EQ(AddressOf(inFile()[2]), ProjectorAddress(PjLinkAddress{"192.0.2.7", 4352, " open "}));
-
-  list.Select(0);
-  Answer(Find<QAction>(window, "Remove"), [](QDialog& question) {
-    EXPECT_EQ(question.focusWidget()->property("text"), "Cancel") << "nothing to lose by Enter";
-  });
-  EXPECT_EQ(inFile().size(), before.size() + 2) << "asked, and answered with Esc";
-  Answer(Find<QAction>(window, "Remove"),
-         [](QDialog& question) { Find<QPushButton>(question, "Remove").click(); });
-  EXPECT_EQ(inFile()[0].Name, "A \"大厅\"");
-  EXPECT_EQ(list.Model().rowCount(), static_cast<int>(before.size()) + 1);
-}
-
 TEST(MainWindow, RemembersWhereItWasAndWhatWasOpenAndWaitsForNobody) {
   const QTemporaryDir folder;
   QSettings settings(folder.filePath("s.ini"), QSettings::IniFormat);
@@ -346,12 +159,10 @@ TEST(MainWindow, RemembersWhereItWasAndWhatWasOpenAndWaitsForNobody) {
     dialog->findChild<QTabBar*>()->setCurrentIndex(2);
     place = window.geometry();
     window.findChild<ProjectorView*>()->Current()->SetFault({}, {Fault::Kind::DropOut});
-    QElapsedTimer timer;
-    timer.start();
     QTimer::singleShot(0, dialog, [dialog] { dialog->DispTabScreen(); });
     QTimer::singleShot(50, &window, &QWidget::close);
     EXPECT_EQ(QApplication::exec(), 0);
-    EXPECT_LT(timer.elapsed(), 1000);
+    EXPECT_EQ(dialog->Projector().Sent().unanswered, 0) << "what waited was left";
     EXPECT_FALSE(dialog->isVisible());
   }
   MainWindow window(Shipped(folder), &settings);

@@ -12,7 +12,7 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-#include "app/host/ProfileDocument.h"
+#include "app/desktop/profiles/ProfileDocument.h"
 #include "app/profiles/ProfileFile.h"
 #include "tests/support/Models.h"
 #include "tests/support/Programs.h"
@@ -58,6 +58,8 @@ const WrongFile kWrongFiles[] = {
     {R"("connection": {"network": {}, "serial": {}})", "connection: must have"},
     {R"("connection": {"network": {"address": "a", "port": 65536}})",
      "connection.network.port: is 65536; it must be 1 to 65535"},
+    {R"("connection": {"network": {"address": "192.0.2", "port": 4352}})",
+     "connection.network.address: is neither the name of a host nor an IP address"},
     {R"("connection": {"serial": {"port": 0}})", "connection.serial.port: is 0;"},
     {R"("connection": {"serial": {"port": 257}})",
      "connection.serial.port: is 257; it must be 1 to 256"},
@@ -285,6 +287,28 @@ TEST_F(ProfileDocumentFile, WhatCannotBeDoneChangesNothing) {
   EXPECT_EQ(document.Projectors().size(), count);
   EXPECT_EQ(document.SaveAs(name), "");
   EXPECT_EQ(document.Remove(1), "");
+}
+
+TEST_F(ProfileDocumentFile, WithAPasswordIsItsOwnersAlone) {
+  const auto mode = [](const QString& file) {
+    struct stat status {};
+    EXPECT_EQ(stat(file.toLocal8Bit().constData(), &status), 0);
+    return status.st_mode & 0777;
+  };
+  const QString copy = folder.filePath("copy.json"), other = folder.filePath("other.json");
+  for (const QString& file : {name, other}) {
+    ASSERT_TRUE(QFile::exists(file) || QFile::copy(name, file));
+    ASSERT_EQ(chmod(file.toLocal8Bit().constData(), 0644), 0);
+  }
+  ASSERT_EQ(document.SaveAs(other), "");
+  EXPECT_EQ(mode(other), 0644U) << "no password yet";
+  const QJsonObject network{{"address", "192.0.2.1"}, {"port", 4352}, {"secret", "open"}};
+  ASSERT_EQ(document.Change(0, {{"connection", QJsonObject{{"network", network}}}}), "");
+  EXPECT_EQ(mode(other), 0600U);
+  ASSERT_EQ(document.SaveAs(copy), "");
+  EXPECT_EQ(mode(copy), 0600U) << "a new file";
+  ASSERT_EQ(document.SaveAs(name), "");
+  EXPECT_EQ(mode(name), 0600U) << "one that all could read";
 }
 
 }  // namespace

@@ -15,8 +15,8 @@
 #include <QTimer>
 #include <gtest/gtest.h>
 
-#include "app/host/MainWindow.h"
-#include "app/host/ProjectorView.h"
+#include "app/desktop/MainWindow.h"
+#include "app/desktop/projectors/ProjectorView.h"
 #include "host/CAdvanceDlg.h"
 #include "host/FindLine.h"
 #include "tests/support/DialogDriver.h"

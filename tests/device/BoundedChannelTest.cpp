@@ -1,4 +1,5 @@
 #include <atomic>
+#include <optional>
 #include <thread>
 
 #include <QCoreApplication>
@@ -6,6 +7,11 @@
 #include <gtest/gtest.h>
 
 #include "device/BoundedChannel.h"
+#include "device/CommandCode.h"
+#include "device/PjLinkChannel.h"
+#include "device/TcpChannel.h"
+#include "simulator/WireResponder.h"
+#include "tests/device/Peer.h"
 #include "tests/device/Replies.h"
 
 namespace {
@@ -56,16 +62,19 @@ class BoundedChannelTest : public testing::Test {
   }
 
   std::shared_ptr<Gate> gate_ = std::make_shared<Gate>();
-  BoundedChannel channel_{gate_, {.timeOut = 150ms, .retryAfter = 300ms}};
+  BoundedChannel channel_{gate_, {.timeOut = 1s, .retryAfter = 300ms}};
 };
 
 TEST_F(BoundedChannelTest, ASilentProjectorCostsOneTimeOut) {
   gate_->Open(false);
   const auto start = Clock::now();
-  EXPECT_EQ(Replies(channel_, {kCommand}), "?");
-  EXPECT_GE(Clock::now() - start, 150ms);
+  const PjtReply first = channel_.Execute(kCommand);
+  EXPECT_FALSE(first.answered || first.unsent);
+  EXPECT_GE(Clock::now() - start, 1s);
   // The retry interval is over then, the first command is still out.
-  EXPECT_EQ(Replies(channel_, {kCommand}, 350ms), "?");
+  std::this_thread::sleep_for(350ms);
+  const PjtReply second = channel_.Execute(kCommand);
+  EXPECT_TRUE(!second.answered && second.unsent);
   EXPECT_EQ(gate_->executed, 1) << "the second fails without being sent";
 
   gate_->Open(true);
@@ -76,10 +85,17 @@ TEST_F(BoundedChannelTest, ASilentProjectorCostsOneTimeOut) {
 }
 
 TEST_F(BoundedChannelTest, ALostCommandStartsTheRetryIntervalToo) {
-  BoundedChannel late(gate_, {.timeOut = 1h, .retryAfter = 1h});
-  BoundedChannel soon(gate_, {.timeOut = 1h, .retryAfter = 10ms});
+  std::optional<BoundedChannel> another;
   gate_->answered = false;
-  EXPECT_EQ(Replies(late, {kCommand, kCommand}), "? ?");
+  Clock::time_point start;
+  do {  // again where the machine stood still
+    another.emplace(gate_, BoundedChannel::Limits{.timeOut = 1h, .retryAfter = 1h});
+    gate_->executed = 0;
+    start = Clock::now();
+    EXPECT_EQ(Replies(*another, {kCommand, kCommand}), "? ?");
+  } while (Clock::now() - start > 90ms);
+  BoundedChannel& late = *another;
+  BoundedChannel soon(gate_, {.timeOut = 1h, .retryAfter = 10ms});
   gate_->takes = 110ms;
   EXPECT_EQ(Replies(late, {kCommand}, 250ms) + Replies(soon, {kCommand}), "??");
   gate_->answered = true;
@@ -91,20 +107,63 @@ TEST_F(BoundedChannelTest, ALostCommandStartsTheRetryIntervalToo) {
 }
 
 TEST_F(BoundedChannelTest, AbandoningEndsTheWaitAndTheNextCommandIsTried) {
-  BoundedChannel patient(gate_, {.timeOut = 1s, .retryAfter = 1h});
+  BoundedChannel patient(gate_, {.timeOut = 1min, .retryAfter = 1h});
   for (const bool twice : {false, true}) {
     gate_->executed = 0;
     gate_->Open(false);
     const auto start = Clock::now();
     for (int i = 0; i <= int{twice}; ++i) {
       QTimer::singleShot(20, [&] { patient.Abandon(); });
-      EXPECT_EQ(Replies(patient, {kCommand}), "?");
+      const PjtReply left = patient.Execute(kCommand);
+      EXPECT_TRUE(left.abandoned && !left.answered);
     }
-    EXPECT_LT(Clock::now() - start, 500ms);
+    EXPECT_LT(Clock::now() - start, 30s);
     EXPECT_EQ(gate_->executed, 1) << "the second has never left";
     QTimer::singleShot(20, [&] { gate_->Open(true); });
     EXPECT_EQ(Replies(patient, {kCommand}), "2") << "the first's reply is nobody's";
   }
+}
+
+TEST_F(BoundedChannelTest, TheStateFollowsAConnectionThatNobodyUses) {
+  constexpr auto kSoon = 5ms;
+  const auto wire = [](const Peer& peer, std::chrono::milliseconds unused) {
+    return std::make_shared<TcpChannel>("127.0.0.1", peer.port,
+                                        WireChannel::Limits{.unused = unused});
+  };
+  const auto pjLink = [](const Peer& peer, std::chrono::milliseconds unused) {
+    return std::make_shared<PjLinkChannel>("127.0.0.1", peer.port, "",
+                                           PjLinkChannel::Limits{.unused = unused});
+  };
+  const auto answerOnWire = [](Peer::End& end) {
+    Gate device;
+    WireResponder responder(device);
+    for (auto bytes = end.Receive(); !bytes.empty(); bytes = end.Receive()) {
+      end.Send(responder.Receive(bytes));
+      if (device.executed > 0) return;
+    }
+  };
+  const auto check = [&](const char* name, const Peer::Behaviour& answer, auto connect,
+                         const PjtCommand& command) {
+    SCOPED_TRACE(name);
+    std::atomic<int> ended = 0;
+    const auto listens = [&](Peer::End& end) {
+      answer(end);
+      end.Listen();
+      ++ended;
+    };
+    const Peer closing(Way::Tcp, {answer}), listening(Way::Tcp, {listens});
+    BoundedChannel closed(connect(closing, 1h), {.tend = kSoon});
+    EXPECT_TRUE(closed.Execute(command).answered);
+    EXPECT_TRUE(Eventually([&] { return closed.Connection() == ConnectionState::Unused; }));
+    BoundedChannel left(connect(listening, 100ms), {.tend = kSoon});
+    EXPECT_TRUE(left.Execute(command).answered);
+    EXPECT_TRUE(Eventually([&] { return ended == 1; })) << "closed for good, not by half";
+    EXPECT_TRUE(Eventually([&] { return left.Connection() == ConnectionState::Unused; }));
+    EXPECT_TRUE(left.Execute(command).answered) << "connects again";
+  };
+  check("wire", answerOnWire, wire, kCommand);
+  check("PJLink", Peer::Says({"PJLINK 0\r", "%1POWR=1\r"}, false), pjLink,
+        Get(CommandCode::RunningState));
 }
 
 TEST_F(BoundedChannelTest, ACommandFromInsideTheWaitIsRefusedAndQuittingDoesNotCutItShort) {
@@ -125,14 +184,15 @@ TEST_F(BoundedChannelTest, ACommandFromInsideTheWaitIsRefusedAndQuittingDoesNotC
 }
 
 TEST_F(BoundedChannelTest, ALongSeriesOfQuickAnswersLetsTheEventLoopRunWhereThereIsOne) {
+  BoundedChannel patient(gate_, {.timeOut = 1h});
   gate_->takes = 4ms;
-  std::thread([&] { EXPECT_TRUE(channel_.Execute(kCommand).answered); }).join();
+  std::thread([&] { EXPECT_TRUE(patient.Execute(kCommand).answered); }).join();
   bool ran = false;
   QTimer timer;
   timer.callOnTimeout([&] { ran = true; });
   timer.setSingleShot(true);
   timer.start(0);
-  for (int i = 0; i < 40; ++i) EXPECT_TRUE(channel_.Execute(kCommand).answered);
+  for (int i = 0; i < 40; ++i) EXPECT_TRUE(patient.Execute(kCommand).answered);
   EXPECT_TRUE(ran);
 }
 

@@ -131,7 +131,9 @@ TEST(WireChannelTest, SaysWhyItCannotConnect) {
   ASSERT_TRUE(neverAccepts.listen(QHostAddress::LocalHost));
   const std::uint16_t taken = neverAccepts.serverPort();
   const auto expect = [](WireChannel&& channel, ConnectionState state) {
-    EXPECT_FALSE(channel.Execute(Get(1)).answered);
+    const PjtReply reply = channel.Execute(Get(1));
+    EXPECT_FALSE(reply.answered);
+    EXPECT_EQ(reply.unsent, state != NoAnswer);
     EXPECT_EQ(ConnectionStateText(channel.Connection()), ConnectionStateText(state));
   };
   expect(TcpChannel("localhost", taken, kLimits), NoAnswer);

@@ -112,4 +112,18 @@ TEST(WireTest, ConnectionParametersNameAWayOrWhatIsWrong) {
   for (const auto& one : cases) EXPECT_EQ(one.first, one.second) << "case " << &one - cases;
 }
 
+TEST(WireTest, AHostIsANameOrAWholeAddress) {
+  for (const char* host : {"192.0.2.1", "::1", "fe80::1%eth0", "beamer", "hall_2.example.org",
+                           "3com", "4.hall", "b\u00FCro", "\u5927\u5385.example"}) {
+    EXPECT_TRUE(IsHostAddress(host)) << host;
+  }
+  for (const char* none :
+       {"", "192.0.2", "192.0.2.256", "192.0.2.1.1", "1", "1..2.3", "a..b", "a b", "a/b", "a@b",
+        "[::1]", "::1::2", "a:80", "tcp://a", "a,b", "a%b"}) {
+    EXPECT_FALSE(IsHostAddress(none)) << none;
+  }
+  EXPECT_FALSE(IsHostAddress("a\nb"));
+  EXPECT_FALSE(IsHostAddress(std::string(64, 'a')));
+}
+
 }  // namespace

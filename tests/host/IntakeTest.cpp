@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/DialogDriver.h"
+#include "tests/host/PacedDialog.h"
 
 namespace {
 
@@ -66,6 +66,37 @@ TEST(Intake, ARecordOrAnItemGivesTheModelAndTheChosenConnectionAndNoneChangesNot
   EXPECT_EQ(dialog.Model().ModelName, "Room 7");
   EXPECT_EQ(dialog.Model().ModelCode, 0) << "an item without a record";
   EXPECT_EQ(dialog.Projector().ConnectionText1(), "192.168.1.7");
+}
+
+using IntakeOfAnOpenDialog = PacedDialog;
+
+TEST_F(IntakeOfAnOpenDialog, TakesEffectWhenItIsCreatedNext) {
+  Open();
+  CModelInfo2 other = FullModel(4, 9);
+  other.ConnectionKinds[0] = 0;
+  other.ConnectionNumbers[0] = 6;
+  const QString title = dialog_.windowTitle();
+  const int tabs = Tabs().count();
+  for (const bool waiting : {true, false}) {
+    if (waiting) {
+      InTheWait([&] {
+        dialog_.CopyData(&other, 0);
+        projector_->Pace({});
+      });
+    } else {
+      dialog_.CopyData(&other, 0);
+    }
+    for (int tab = 0; tab < tabs; ++tab) ClickTab(tab);
+    dialog_.DispTabScreen();
+    EXPECT_EQ(dialog_.Model().ModelCode, 30);
+  }
+  dialog_.close();
+  EXPECT_EQ(dialog_.windowTitle(), title);
+  Open();
+  EXPECT_EQ(dialog_.Model().ModelCode, 9);
+  EXPECT_EQ(dialog_.Projector().ConnectionNumber(), 6);
+  EXPECT_NE(dialog_.windowTitle(), title);
+  for (int tab = 0; tab < Tabs().count(); ++tab) ClickTab(tab);
 }
 
 }  // namespace

@@ -63,6 +63,9 @@ TEST(ModelSettings, EveryOneOfEveryModelWorksOnTheSimulationAndHasAKeyOfItsOwn) 
     for (const ModelSetting& setting : settings.All()) {
       SCOPED_TRACE(setting.key);
       EXPECT_EQ(settings.Find(setting.key), &setting) << "the key is another's too";
+      if (const auto* row = std::get_if<ValueRow>(setting.row)) {
+        EXPECT_EQ(row->stepsOnly, row->ids.slider == 0);
+      }
       if (!kOneWay.contains(setting.key)) ExpectWorks(settings, setting);
     }
   }
@@ -86,6 +89,33 @@ TEST(ModelSettings, AnEntryWhoseValueIsMinusOneIsSentLikeAnyOther) {
   for (const char* key : {"picture.color-temp", "option.my-button-1"}) {
     EXPECT_TRUE(settings.Change(projector, *settings.Find(key), -1)) << key;
     EXPECT_EQ(channel->sent.first, -1);
+  }
+}
+
+// What each step from 10 towards 12 gives; none is made beyond them.
+TEST(StepTo, EndsAtTheValueOrWhereNoStepLeadsNearer) {
+  struct Case {
+    std::vector<Stepped> steps;
+    Sent sent;
+  };
+  constexpr Stepped kRefused{.refused = true, .value = 10};
+  const std::vector<Case> cases{
+      {{{.value = 11}, {.value = 12}}, Sent::Accepted},
+      {{{.value = 11}, {.value = 11}}, Sent::Refused},
+      {{{.value = 13}}, Sent::Refused},
+      {{{}}, Sent::Refused},
+      {{kRefused, kRefused, kRefused}, Sent::Refused},
+      // Made, though its answer was lost.
+      {{kRefused, kRefused, {.refused = true, .value = 11}, {.value = 12}}, Sent::Accepted},
+  };
+  for (const auto& [steps, sent] : cases) {
+    std::size_t made = 0;
+    const auto step = [&](bool upwards, int) {
+      EXPECT_TRUE(upwards);
+      return steps.at(made++);
+    };
+    EXPECT_EQ(StepTo(10, 12, step, [] { return true; }), sent) << made;
+    EXPECT_EQ(made, steps.size());
   }
 }
 

@@ -16,7 +16,7 @@ using Op = PjtOperation;
 class FaultChannelTest : public testing::Test {
  protected:
   std::shared_ptr<SimulatedProjector> projector_ = std::make_shared<SimulatedProjector>();
-  FaultChannel channel_{projector_, 5s};
+  FaultChannel channel_{projector_, 1min};
 };
 
 TEST_F(FaultChannelTest, TheNarrowestFaultCountsAndALateAnswerIsAnAnswer) {
@@ -53,7 +53,7 @@ TEST_F(FaultChannelTest, ADropOutEndsWhenItIsCleared) {
   const auto waited = Clock::now() - start;
   clearer.join();
   EXPECT_GE(waited, 55ms);
-  EXPECT_LT(waited, 4s);
+  EXPECT_LT(waited, 30s);
   EXPECT_TRUE(channel_.Execute({Op::GetMirror}).answered);
 
   FaultChannel bounded(projector_, 20ms);

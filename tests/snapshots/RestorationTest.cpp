@@ -3,8 +3,6 @@
 #include <array>
 #include <atomic>
 #include <gmock/gmock.h>
-#include <map>
-#include <random>
 #include <set>
 #include <thread>
 
@@ -12,93 +10,71 @@
 #include <QTcpSocket>
 #include <gtest/gtest.h>
 
-#include "app/profiles/ProjectorAccess.h"
+#include "device/CommandCode.h"
 #include "device/TcpChannel.h"
-#include "i18n/SystemLanguage.h"
 #include "simulator/WireResponder.h"
-#include "snapshots/Restoration.h"
+#include "tests/snapshots/DisturbedProjector.h"
 
 namespace {
 
-using Random = std::minstd_rand;
-
-const SettingTexts& Texts() {
-  static const std::vector<std::string> folders{TEST_CATALOG_DIR};
-  static const SettingTexts texts(folders, kEnglishUnitedStates);
-  return texts;
+// What sources keep for themselves, and what those and their modes do.
+std::vector<Memory> Memories() {
+  return {{{SettingId::InputSource}, {SettingId::Gamma, SettingId::ColorTemp, SettingId::Volume}},
+          {{SettingId::InputSource, SettingId::Gamma, SettingId::ColorTemp},
+           {SettingId::Brightness, SettingId::Tint, SettingId::ActiveIris, SettingId::Aspect}}};
 }
 
-const std::vector<ProjectorProfile>& Profiles() {
-  static const auto profiles = ReadProfileFile(TEST_CATALOG_DIR "/projectors.json").projectors;
-  return profiles;
-}
-
-const ProjectorProfile& Profile(std::string_view name) {
-  return *std::ranges::find(Profiles(), name, &ProjectorProfile::Name);
-}
-
-/// What a projector keeps for each of its sources, or for each of these and its modes.
-struct Memory {
-  using Values = std::vector<int>;
-
-  /// What belongs to the source or mode that was set since comes back.
-  void Follow(SimulatedProjector& projector) {
-    const auto read = [&projector](const std::vector<SettingId>& which) {
-      Values values;
-      for (const SettingId id : which) values.push_back(projector.Value(id));
-      return values;
-    };
-    const Values now = read(selectors);
-    if (now != present && !present.empty()) {
-      std::size_t number = kept.contains(now) ? 0 : kept.size();
-      for (std::size_t i = 0; i < ids.size(); ++i, ++number) {
-        const auto list = projector.ValuesOf(ids[i]);
-        const int some = list.empty()
-                             ? projector.RangeOf(ids[i]).minimum + static_cast<int>(number % 15)
-                             : list[number % list.size()];
-        projector.SetValue(ids[i], kept.contains(now) ? kept[now][i] : some);
-      }
+TEST(Restoration, BringsEveryProjectorBackAndUndoesItself) {
+  ASSERT_GT(Profiles().size(), 50U);
+  unsigned seed = 3;
+  for (const ProjectorProfile& profile : Profiles()) {
+    SCOPED_TRACE(profile.Name);
+    Room room(profile);
+    std::set<std::string> names;
+    for (const ModelSetting& setting : room.settings.All()) {
+      const std::string name = Texts().Name(room.settings, setting, {});
+      EXPECT_TRUE(names.insert(Texts().Tab(setting) + name).second) << name;
     }
-    present = now;
-    kept[now] = read(ids);
-    fresh.emplace(now, kept[now]);
+    room.ChangeAll(1);
+    room.channel->count = 0;
+    const Snapshot wanted = room.Take();
+    EXPECT_LE(room.channel->count, std::ssize(wanted.settings) + 2) << "a source is asked for once";
+    room.ChangeAll(2);
+    const Restoration restoration = room.Restore(wanted);
+    EXPECT_EQ(room.Take().settings, wanted.settings);
+    EXPECT_EQ(restoration.Count(Outcome::Changed) + restoration.Count(Outcome::AlreadySo),
+              static_cast<int>(wanted.settings.size()));
+    const int sent = room.channel->sent;
+    EXPECT_EQ(room.Restore(wanted).Count(Outcome::Changed), 0);
+    EXPECT_EQ(room.channel->sent, sent) << "what is so is not sent again";
+    // Undone wherever it is cut off, with all that sources and modes keep, and done again.
+    auto& memories = room.channel->memories;
+    memories = Memories();
+    for (const int cut : {1000, 1, 3, 6, 14}) {
+      SCOPED_TRACE(cut);
+      room.ChangeAll(++seed);
+      const Snapshot before = room.Take();
+      const auto first = memories;
+      const int source = room.channel->projector.Value(SettingId::InputSource);
+      Snapshot undo, redo;
+      const int limit = room.channel->sent + cut;
+      room.Restore(wanted, &undo, [&] { return room.channel->sent < limit; });
+      // Somebody may choose another source meanwhile.
+      if (cut == 1000) room.channel->projector.SetValue(SettingId::InputSource, source);
+      room.channel->Execute({.operation = PjtOperation::GetInputSource});
+      const Snapshot after = room.Take();
+      const auto changed = memories;
+      room.Restore(ReadSnapshot(WriteSnapshot(undo)).snapshot, &redo);
+      EXPECT_EQ(room.Take().settings, before.settings);
+      EXPECT_TRUE(std::ranges::equal(memories, first, &Memory::IsLike));
+      room.Restore(redo);
+      EXPECT_EQ(room.Take().settings, after.settings);
+      EXPECT_TRUE(std::ranges::equal(memories, changed, &Memory::IsLike));
+    }
   }
-  /// Whether all is as it was, of what is new too.
-  bool IsLike(Memory then) const {
-    then.kept.insert(fresh.begin(), fresh.end());
-    return kept == then.kept;
-  }
+}
 
-  std::vector<SettingId> selectors, ids;
-  Values present{};
-  std::map<Values, Values> kept{}, fresh{};
-};
-
-/// A projector whose commands may be refused, get lost on the way there or back, or end for good.
-struct Disturbed : ProjectorChannel {
-  PjtReply Execute(const PjtCommand& command) override {
-    ++count;
-    if (!IsRead(command.operation)) ++sent;
-    const PjtReply lost{.result = RefusedResult(command.operation), .answered = false};
-    if (count > trouble.deadAfter || Happens(trouble.lostPercent)) return lost;
-    if (Happens(trouble.refusedPercent)) return {.result = RefusedResult(command.operation)};
-    const PjtReply reply = projector.Execute(command);
-    for (Memory& memory : memories) memory.Follow(projector);
-    return Happens(trouble.lostPercent) ? lost : reply;
-  }
-  bool Happens(int percent) { return static_cast<int>(random() % 100) < percent; }
-
-  explicit Disturbed(const ProjectorProfile& profile) : projector(SimulatedModelOf(profile)) {}
-  SimulatedProjector projector;
-  std::vector<Memory> memories{};
-  Random random{7};
-  struct Trouble {
-    int refusedPercent = 0, lostPercent = 0, deadAfter = 1 << 30;
-  } trouble{};
-  int count = 0, sent = 0;
-};
-
-/// Serves a projector over TCP until told to end; an answer that got lost is never sent.
+/// Serves a projector over TCP until told to end. Where an answer gets lost, the connection does.
 void Serve(const std::stop_token& end, ProjectorChannel& projector,
            std::atomic<std::uint16_t>& port) {
   QTcpServer server;
@@ -113,168 +89,175 @@ void Serve(const std::stop_token& end, ProjectorChannel& projector,
       Wire::Decoder replies;
       replies.Add(responder.Receive(socket->readAll().toStdString()));
       std::string bytes;
-      while (const auto frame = replies.Next()) {
+      bool isLost = false;
+      while (const auto frame = isLost ? std::nullopt : replies.Next()) {
         const auto* reply = std::get_if<Wire::Reply>(&frame->message);
-        if (!reply || reply->status != Wire::Status::Unanswered) Wire::Append(bytes, *frame);
+        isLost = reply != nullptr && reply->status == Wire::Status::Unanswered;
+        if (!isLost) Wire::Append(bytes, *frame);
       }
       socket->write(QByteArray::fromStdString(bytes));
       socket->flush();
+      if (isLost) socket->disconnectFromHost();
     }
   }
 }
 
-Snapshot Take(ProjectorAccess& projector) {
-  return TakeSnapshot(projector.Name(), projector.Settings(), projector.Connection(), Texts());
-}
-
-Restoration Restore(
-    ProjectorAccess& projector, const Snapshot& snapshot, Snapshot* undo = nullptr,
-    const std::function<bool()>& goesOn = [] { return true; }) {
-  const Progress careful{.goesOn = [&] { return goesOn() && !projector.Channel().IsGone(); }};
-  Restoration restoration(snapshot, projector.Settings(), projector.Connection());
-  restoration.Read(careful);
-  restoration.Send(Texts(), careful, [&] {
-    if (undo != nullptr && goesOn()) *undo = restoration.Undo(projector.Name(), Texts());
-    return true;
-  });
-  return restoration;
-}
-
-struct Room {
-  explicit Room(const ProjectorProfile& profile)
-      : channel(std::make_shared<Disturbed>(profile)), projector(profile, channel) {}
-
-  void ChangeAll(unsigned seed) {
-    Random random(seed);
-    for (const ModelSetting& setting : projector.Settings().All()) {
-      if (!setting.Restorable()) continue;
-      const Range range = setting.range.value_or(Range{100, 120});
-      const auto size = static_cast<unsigned>(range.maximum - range.minimum + 1);
-      const int value = setting.kind == ModelSetting::Kind::Choice
-                            ? setting.entries[random() % setting.entries.size()].value
-                            : range.minimum + static_cast<int>(random() % size);
-      projector.Settings().Change(projector.Connection(), setting, value);
-    }
-  }
-
-  std::shared_ptr<Disturbed> channel;
-  ProjectorAccess projector;
-};
-
-TEST(Restoration, BringsEveryProjectorBackAndUndoesItself) {
-  ASSERT_GT(Profiles().size(), 50U);
-  unsigned seed = 3;
-  for (const ProjectorProfile& profile : Profiles()) {
-    SCOPED_TRACE(profile.Name);
-    Room room(profile);
-    std::set<std::string> names;
-    for (const ModelSetting& setting : room.projector.Settings().All()) {
-      const std::string name = Texts().Name(room.projector.Settings(), setting, {});
-      EXPECT_TRUE(names.insert(Texts().Tab(setting) + name).second) << name;
-    }
-    room.ChangeAll(1);
-    room.channel->count = 0;
-    const Snapshot wanted = Take(room.projector);
-    EXPECT_LE(room.channel->count, std::ssize(wanted.settings) + 2) << "a source is asked for once";
-    room.ChangeAll(2);
-    const Restoration restoration = Restore(room.projector, wanted);
-    EXPECT_EQ(Take(room.projector).settings, wanted.settings);
-    EXPECT_EQ(restoration.Count(Outcome::Changed) + restoration.Count(Outcome::AlreadySo),
-              static_cast<int>(wanted.settings.size()));
-    const int sent = room.channel->sent;
-    EXPECT_EQ(Restore(room.projector, wanted).Count(Outcome::Changed), 0);
-    EXPECT_EQ(room.channel->sent, sent) << "what is so is not sent again";
-    // Undone wherever it is cut off, with all that sources and modes keep, and done again.
-    auto& memories = room.channel->memories;
-    memories = {
-        {{SettingId::InputSource}, {SettingId::Gamma, SettingId::ColorTemp, SettingId::Volume}},
-        {{SettingId::InputSource, SettingId::Gamma, SettingId::ColorTemp},
-         {SettingId::Brightness, SettingId::Tint, SettingId::ActiveIris, SettingId::Aspect}}};
-    for (const int cut : {1000, 1, 3, 6, 14}) {
-      SCOPED_TRACE(cut);
-      room.ChangeAll(++seed);
-      const Snapshot before = Take(room.projector);
-      const auto first = memories;
-      const int source = room.channel->projector.Value(SettingId::InputSource);
-      Snapshot undo, redo;
-      const int limit = room.channel->sent + cut;
-      Restore(room.projector, wanted, &undo, [&] { return room.channel->sent < limit; });
-      // Somebody may choose another source meanwhile.
-      if (cut == 1000) room.channel->projector.SetValue(SettingId::InputSource, source);
-      room.channel->Execute({.operation = PjtOperation::GetInputSource});
-      const Snapshot after = Take(room.projector);
-      const auto changed = memories;
-      Restore(room.projector, ReadSnapshot(WriteSnapshot(undo)).snapshot, &redo);
-      EXPECT_EQ(Take(room.projector).settings, before.settings);
-      EXPECT_TRUE(std::ranges::equal(memories, first, &Memory::IsLike));
-      Restore(room.projector, redo);
-      EXPECT_EQ(Take(room.projector).settings, after.settings);
-      EXPECT_TRUE(std::ranges::equal(memories, changed, &Memory::IsLike));
+/// Holds all that is told of a restoration against the projector, which had `before` at first.
+void ExpectTruth(Room& room, const Restoration& restoration, const Restoration& before) {
+  room.channel->CarryOutLate();
+  room.channel->trouble = {};
+  for (const RestoredSetting& restored : restoration.Settings()) {
+    SCOPED_TRACE(restored.saved.key);
+    const auto now = room.settings.Read(room.connection, *restored.setting, restored.saved.source);
+    const auto number = static_cast<std::size_t>(&restored - restoration.Settings().data());
+    switch (restored.outcome) {
+      case Outcome::Changed:
+      case Outcome::AlreadySo:
+        EXPECT_EQ(now, restored.saved.value);
+        break;
+      case Outcome::NotReached:
+      case Outcome::Differs:
+        EXPECT_EQ(now, restored.before ? restored.before : before.Settings()[number].before)
+            << "nothing was sent";
+        break;
+      default:
+        EXPECT_TRUE(!restored.now || now == restored.now);
     }
   }
 }
 
-void ExpectTruth(const ProjectorProfile& profile, const Disturbed::Trouble& trouble) {
+void ExpectTruthFromAfar(const ProjectorProfile& profile, const Disturbed::Trouble& trouble) {
   SCOPED_TRACE(profile.Name);
   Room room(profile);
   room.ChangeAll(1);
-  const Snapshot wanted = Take(room.projector);
+  const Snapshot wanted = room.Take();
   room.ChangeAll(2);
-  Restoration before(wanted, room.projector.Settings(), room.projector.Connection());
+  Restoration before(wanted, room.settings, room.connection);
   before.Read();
   room.channel->count = 0;
   room.channel->trouble = trouble;
   std::atomic<std::uint16_t> port = 0;
   std::jthread server(Serve, std::ref(*room.channel), std::ref(port));
   while (port == 0) std::this_thread::yield();
-  const WireChannel::Limits limits{.answer = std::chrono::milliseconds(60)};
-  ProjectorAccess far(profile, std::make_shared<TcpChannel>("127.0.0.1", port, limits));
-  const Restoration restoration = Restore(far, wanted);
+  ProjectorAccess far(profile, std::make_shared<TcpChannel>("127.0.0.1", port));
+  const Restoration restoration = Restore(far.Settings(), far.Connection(), wanted, nullptr,
+                                          [&far] { return !far.Channel().IsGone(); });
   server = {};
-  room.channel->trouble = {};
-  for (const RestoredSetting& restored : restoration.Settings()) {
-    SCOPED_TRACE(restored.saved.key);
-    const auto now = room.projector.Settings().Read(room.projector.Connection(), *restored.setting,
-                                                    restored.saved.source);
-    const auto number = static_cast<std::size_t>(&restored - restoration.Settings().data());
-    const Outcome outcome = restored.outcome;
-    if (outcome == Outcome::Changed || outcome == Outcome::AlreadySo) {
-      EXPECT_EQ(now, restored.saved.value);
-    } else if (outcome == Outcome::NotReached || outcome == Outcome::Differs) {
-      EXPECT_EQ(now, before.Settings()[number].before) << "nothing was sent";
-    } else {
-      EXPECT_TRUE(!restored.now || now == restored.now);
-    }
-  }
-  Restore(room.projector, wanted);
-  EXPECT_EQ(Take(room.projector).settings, wanted.settings);
+  ExpectTruth(room, restoration, before);
+  room.Restore(wanted);
+  EXPECT_EQ(room.Take().settings, wanted.settings);
 }
 
 // Whatever goes wrong, each list holds what is in it, and doing it again completes it.
-TEST(Restoration, TellsTheTruthWhenCommandsAreRefusedAndLost) {
+TEST(Restoration, TellsTheTruthWhenCommandsAreRefusedLostAndLate) {
   std::vector<std::pair<const ProjectorProfile*, Disturbed::Trouble>> cases;
   for (const ProjectorProfile& profile : Profiles()) cases.push_back({&profile, {1, 1}});
   cases.push_back({&Profile("Projector 2-6"), {30, 10}});
   for (const int dead : {40, 100, 130}) cases.push_back({&Profile("Projector 5-54"), {0, 0, dead}});
+  for (const int by : {0, 2, 30}) {
+    for (const char* name : {"Projector 2-6", "Projector 4-24", "Projector 5-30"}) {
+      cases.push_back({&Profile(name), {.latePercent = 10, .lateBy = by}});
+    }
+  }
   std::atomic<std::size_t> next = 0;
   std::array<std::jthread, 16> workers;  // it is mostly waiting
   for (std::jthread& worker : workers) {
     worker = std::jthread([&] {
       for (std::size_t n = next++; n < cases.size(); n = next++) {
-        ExpectTruth(*cases[n].first, cases[n].second);
+        ExpectTruthFromAfar(*cases[n].first, cases[n].second);
       }
     });
   }
 }
 
+// A source or mode drags along what belongs to it. Where its answer is lost and it is carried out
+// at once, before or after it is read back, or after all, and where the work is cut off behind it:
+// nothing is told that is not so, and undoing it brings everything back.
+TEST(Restoration, TellsTheTruthOfWhatAChangeDragsAlong) {
+  constexpr int kCutOff = -1;
+  constexpr int kLateBy[] = {kCutOff, 0, 1, 9, 1 << 20};
+  constexpr int kChanges[] = {1, 2, 5, 20};
+  std::size_t turn = 0;
+  std::set<Outcome> outcomes;
+  for (const ProjectorProfile& profile : Profiles()) {
+    Room room(profile);
+    room.channel->memories = Memories();
+    room.ChangeAll(1);
+    const Snapshot wanted = room.Take();
+    for (const int by : kLateBy) {
+      const int change = kChanges[turn++ % std::size(kChanges)];
+      SCOPED_TRACE(testing::Message() << profile.Name << " change " << change << " by " << by);
+      room.ChangeAll(2);
+      const Snapshot atFirst = room.Take();
+      const auto memories = room.channel->memories;
+      Restoration before(wanted, room.settings, room.connection);
+      before.Read();
+      room.channel->sent = 0;
+      if (by != kCutOff) room.channel->trouble = {.lateBy = by, .lateChange = change};
+      Snapshot undo;
+      const Restoration restoration =
+          room.Restore(wanted, &undo, [&] { return by != kCutOff || room.channel->sent < change; });
+      if (by == 0) {
+        EXPECT_LE(restoration.Count(Outcome::Unconfirmed), 2) << "a step, and what it steps";
+      }
+      for (const auto& restored : restoration.Settings()) outcomes.insert(restored.outcome);
+      ExpectTruth(room, restoration, before);
+      room.Restore(undo);
+      EXPECT_EQ(room.Take().settings, atFirst.settings);
+      EXPECT_TRUE(std::ranges::equal(room.channel->memories, memories, &Memory::IsLike));
+    }
+  }
+  using enum Outcome;
+  EXPECT_THAT(outcomes, testing::IsSupersetOf({Changed, AlreadySo, Differs, Unconfirmed}));
+}
+
+/// Gives what is scripted for a change; everything else goes its way.
+struct Scripted : ProjectorChannel {
+  PjtReply Execute(const PjtCommand& command) override {
+    const bool isScripted = !IsRead(command.operation) && command.code == code;
+    isGone = isGone || (isScripted && !reply.answered);
+    return isScripted || isGone ? reply : inner->Execute(command);
+  }
+
+  std::shared_ptr<ProjectorChannel> inner;
+  std::uint16_t code = 0;
+  PjtReply reply;
+  bool isGone = false;
+};
+
+TEST(Restoration, TellsWhyAChangeIsNotSo) {
+  Snapshot wanted;
+  wanted.settings = {{"picture.tint", 131, ""}, {"picture.active-iris", 16, ""}};
+  using enum Outcome;
+  const std::pair<PjtReply, std::vector<Outcome>> kCases[] = {
+      {{.result = 1}, {Changed, Refused}},
+      {{.result = 1, .pending = true}, {Unconfirmed, Pending}},
+      {{.result = 0, .busy = true}, {Changed, Busy}},
+      {{.answered = false}, {Unconfirmed, Unconfirmed}},
+      {{.answered = false, .unsent = true}, {NotReached, NotReached}},
+  };
+  for (const auto& [reply, outcomes] : kCases) {
+    Room room(Profile("Projector 5-30"));
+    const auto scripted = std::make_shared<Scripted>();
+    scripted->inner = room.channel;
+    scripted->code = CommandCode::ActiveIris;
+    scripted->reply = reply;
+    room.connection.SetChannel(scripted);
+    const Restoration restoration = room.Restore(wanted);
+    std::vector<Outcome> told;
+    for (const auto& restored : restoration.Settings()) told.push_back(restored.outcome);
+    EXPECT_EQ(told, outcomes);
+  }
+}
+
 TEST(Restoration, SkipsWhatTheModelDoesNotTakeAndStopsWhenTold) {
   Room room(Profile("Projector 5-30"));
-  Snapshot snapshot = Take(room.projector);
+  Snapshot snapshot = room.Take();
   snapshot.settings = {{"picture.brightness", 1000, ""}, {"picture.gamma", 99, ""},
                        {"status.power", 0, ""},          {"no.such", 1, ""},
                        {"audio.volume", 3, "", 6},       {"picture.tint", 131, "", 0},
                        {"picture.contrast", 130, ""},    {"picture.tint", 131, ""}};
-  Restoration restoration(snapshot, room.projector.Settings(), room.projector.Connection());
+  Restoration restoration(snapshot, room.settings, room.connection);
   restoration.Read();
   restoration.Send(Texts(), {.goesOn = [&room] { return room.channel->sent == 0; }});
   std::vector<Outcome> outcomes;
@@ -282,84 +265,6 @@ TEST(Restoration, SkipsWhatTheModelDoesNotTakeAndStopsWhenTold) {
   using enum Outcome;
   EXPECT_THAT(outcomes, testing::ElementsAre(NotAllowed, NotAllowed, NotSettable, Unknown,
                                              NotAllowed, NotAllowed, Changed, Differs));
-}
-
-/// Answers each command after its time, unless it is given up before.
-struct Late : ProjectorChannel {
-  PjtReply Execute(const PjtCommand&) override {
-    const auto time = std::chrono::milliseconds(times[std::min(count++, times.size() - 1)]);
-    std::this_thread::sleep_for(std::min(time, longest));
-    waited += std::min(time, longest);
-    return {.answered = time <= longest};
-  }
-  void GiveUpAfter(std::chrono::milliseconds time) override { longest = time; }
-
-  std::vector<int> times;
-  std::size_t count = 0;
-  std::chrono::milliseconds longest{}, waited{};
-};
-
-TEST(PatientChannel, AsksAgainWithinOneTimeOut) {
-  constexpr std::chrono::milliseconds kTimeOut{300};
-  const std::pair<std::vector<int>, bool> kCases[] = {
-      {{1, 1000, 1}, true}, {{1, 1000, 1000, 1}, true}, {{200, 280}, true}, {{1, 1000}, false}};
-  for (const auto& [times, isAnswered] : kCases) {
-    const auto late = std::make_shared<Late>();
-    late->times = times;
-    PatientChannel patient(late, kTimeOut);
-    EXPECT_TRUE(patient.Execute({.operation = PjtOperation::GetInputSource}).answered);
-    late->waited = {};
-    EXPECT_EQ(patient.Execute({.operation = PjtOperation::GetInputSource}).answered, isAnswered);
-    EXPECT_EQ(patient.IsGone(), !isAnswered);
-    EXPECT_LE(late->waited, kTimeOut);
-  }
-}
-
-TEST(Snapshot, IsReadAsWrittenAndRefusedWhenWrong) {
-  Room room(Profiles().front());
-  const Snapshot snapshot = Take(room.projector);
-  const QByteArray text = WriteSnapshot(snapshot);
-  EXPECT_EQ(ReadSnapshot(text).snapshot, snapshot);
-  for (const auto& [from, to, error] : std::vector<std::array<const char*, 3>>{
-           {"\"format\"", "\"formal\"", "no file of saved settings"},
-           {"\"version\": 1", "\"version\": 2", "only version 1"},
-           {"\"value\": ", "\"value\": 0.5, \"x\": ", "settings[0].value: must be a whole"},
-           {"\"value\": ", "\"value\": 1e9, \"x\": ", "settings[0].value: must be a whole"},
-           {"\"settings\": [", "\"settings\": [1,", "settings[0]: must be an object"},
-           {"\"settings\"", "\"settingz\"", "settings: must be an array"},
-           {"\"settings\"", "\"beforehand\": 1, \"settings\"", "beforehand: must be an array"},
-           {"\"key\": \"", "\"kez\": \"", "settings[0].key: must be a line"},
-           {"\"model\": {", "\"model\": {]", "line 3: "}}) {
-    QByteArray wrong = text;
-    wrong.replace(wrong.indexOf(from), static_cast<int>(strlen(from)), to);
-    EXPECT_THAT(ReadSnapshot(wrong).error.toStdString(), testing::HasSubstr(error));
-  }
-}
-
-TEST(SettingTexts, UnderstandsWhatPeopleType) {
-  const Room room(Profile("Projector 5-30"));
-  struct Typed {
-    const char* text;
-    std::optional<int> value;  // from the present value `from`
-    int from = 0;
-  };
-  const std::pair<const char*, std::vector<Typed>> kCases[] = {
-      {"picture.brightness",
-       {{"5", 133}, {"=-31", 97}, {"32", {}}, {"", {}}, {"5x", {}}, {"99999999999", {}}}},
-      {"picture.brightness", {{"+3", 131, 128}, {"-3", 125, 128}, {"+1", {}, 159}}},
-      {"picture.sharpness", {{"4", 128}}},
-      {"picture.active-iris",
-       {{"theater", 16}, {"影院", 16}, {"17", 17}, {"1", {}}, {"+1", 16, 0}, {"+1", {}, 17}}},
-      {"setup.mirror", {{"H&V Inverse", 3}}},
-  };
-  for (const auto& [key, cases] : kCases) {
-    const ModelSetting* const setting = room.projector.Settings().Find(key);
-    ASSERT_NE(setting, nullptr) << key;
-    for (const auto& [text, value, from] : cases) {
-      const auto typed = Texts().Parse(*setting, text);
-      EXPECT_EQ(typed ? Resolve(*setting, *typed, from) : std::nullopt, value) << key << text;
-    }
-  }
 }
 
 }  // namespace

@@ -15,7 +15,7 @@ class ADVANCED_CONTROL_EXPORT CTabPage : public RowDialog {
 
   /// The same, and what is not read yet does not look true.
   void ReadPage() {
-    const Reading reading(*this);
+    const PageReader::Reading reading(Reader());
     InitDisp();
   }
 

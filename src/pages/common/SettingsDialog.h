@@ -19,17 +19,21 @@ class ADVANCED_CONTROL_EXPORT SettingsDialog : public CDialog {
   /// creation, until then a connection that refuses everything.
   CPjtInterface* projector = &Unconnected();
 
- protected:
   /// The model data of the dialog this one belongs to, at any distance; empty data when there is
   /// none, so that a page on its own shows its generic form.
   virtual const ModelData& Model() const;
 
-  /// Catalog text of the list category.
-  static QString ListString(int number) { return CatalogString(kListCategory, number); }
-
   /// Tells a refusal: stop-icon box with the error category's text. Nothing is told to a user who
   /// has left meanwhile.
   void ShowError(int errorNumber);
+
+  // What its rows need to know of their place.
+  using CDialog::GreyCaption;
+  using CDialog::RowRect;
+
+ protected:
+  /// Catalog text of the list category.
+  static QString ListString(int number) { return CatalogString(kListCategory, number); }
 
   /// Asks with the error category's text and the buttons Yes and No; true for Yes.
   bool Ask(int questionNumber);

@@ -57,7 +57,7 @@ void StatusLine::ShowOutcome(const CPjtInterface& projector, const CPjtInterface
   }
   QString text;
   if (sent.pending > before.pending) {
-    text = CatalogString(kListCategory, ListText::NotDoneYet);
+    text = CatalogString(kListCategory, ListText::NotYetSo);
   } else if (sent.busy > before.busy) {
     text = CatalogString(kListCategory, ListText::NotPossibleNow);
   }

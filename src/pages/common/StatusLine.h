@@ -7,7 +7,7 @@
 class QLabel;
 class QPushButton;
 
-/// The quiet line beside Close: how far reading has come, that a change is not done yet or not
+/// The quiet line beside Close: how far reading has come, that a change is not yet so or not
 /// possible now, or that the projector does not answer, with a button to try again. A screen reader
 /// is told of each change.
 class StatusLine final : public QWidget {
@@ -20,7 +20,7 @@ class StatusLine final : public QWidget {
   void ShowProgress(const QString& text);
 
   /// Says what became of the commands since `before`: why one was not answered, that a change was
-  /// accepted and is not done yet, that the projector was busy, or nothing. Stays until the next
+  /// accepted and is not yet so, that the projector was busy, or nothing. Stays until the next
   /// call of these.
   void ShowOutcome(const CPjtInterface& projector, const CPjtInterface::Tally& before);
 

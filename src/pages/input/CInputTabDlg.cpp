@@ -19,6 +19,6 @@ std::vector<Notification> CInputTabDlg::OwnNotifications() const {
 
 // The first entry, the last input, is no source of the list and always sent.
 void CInputTabDlg::OnSelchangePowerUpInput() {
-  const CComboBox& list = List(kPowerUpInput);
+  const auto& list = Item<CComboBox>(kPowerUpInput);
   if (list.currentIndex() == 0 || list.SelectedValue() <= kHighestInput) Act(kPowerUpInput);
 }

@@ -25,7 +25,7 @@ std::vector<Notification> COption5TabDlg::OwnNotifications() const {
 bool COption5TabDlg::OnInitDialog() {
   CTabPage::OnInitDialog();
   myButtonCodes_.assign(std::begin(MyButtonTable), std::prev(std::end(MyButtonTable)));
-  if (Has(kMyButton1) && Model().MyButtonList.Size() > 0) {
+  if (Row(kMyButton1).IsPresent() && Model().MyButtonList.Size() > 0) {
     myButtonCodes_.clear();
     for (const ListEntry& entry : MyButtonEntries(Model())) myButtonCodes_.push_back(entry.value);
   }

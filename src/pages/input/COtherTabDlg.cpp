@@ -28,8 +28,7 @@ std::vector<Notification> COtherTabDlg::OwnNotifications() const {
   };
 }
 
-void COtherTabDlg::ShowState(const StateRow& row, std::optional<int> value) {
-  CTabPage::ShowState(row, value);
+void COtherTabDlg::ShowState(std::optional<int> value) {
   runningState_ = value;
   const bool ready = value && value != shared::kCoolingDown;
   GetDlgItem(kPowerOn)->setEnabled(ready);
@@ -51,7 +50,7 @@ void COtherTabDlg::OnBnClickedOtherPowerOff() {
 }
 
 void COtherTabDlg::OnCbnSelchangeOtherInput() {
-  const auto source = List(kInputSource).SelectedValue();
+  const auto source = Item<CComboBox>(kInputSource).SelectedValue();
   if (!source) return;
   const bool accepted = Perform(*projector, Set(CommandCode::InputSource), *source).accepted;
   InitDisp();

@@ -32,8 +32,8 @@ void PicturePage::InitDisp() {
 }
 
 void PicturePage::EnableCustomButtons() {
-  GetDlgItem(kCustomGamma)->setEnabled(IsCustomGamma(List(kGammaList)));
-  GetDlgItem(kCustomColorTemp)->setEnabled(IsCustomColorTemp(List(kColorTempList)));
+  GetDlgItem(kCustomGamma)->setEnabled(IsCustomGamma(Item<CComboBox>(kGammaList)));
+  GetDlgItem(kCustomColorTemp)->setEnabled(IsCustomColorTemp(Item<CComboBox>(kColorTempList)));
 }
 
 void PicturePage::OnCbnSelchangePicGammaComb() {

@@ -3,6 +3,8 @@
 #include "AdvancedControlExport.h"
 #include "pages/common/CTabPage.h"
 
+class CComboBox;
+
 /// A picture page with lists of gammas and colour temperatures, each beside a button that opens the
 /// pop-up for those that the user can shape. The controls have the same numbers on every such page.
 class ADVANCED_CONTROL_EXPORT PicturePage : public CTabPage {

@@ -15,7 +15,7 @@ CAudioType5Dlg::CAudioType5Dlg(CWnd* parent)
 bool CAudioType5Dlg::OnInitDialog() {
   PrepareRows();
   // Not a model of this page: it stays unlocalized.
-  if (Has(kVolume)) LocalizeControlTexts(kCaptionCategory, *this);
+  if (Row(kVolume).IsPresent()) LocalizeControlTexts(kCaptionCategory, *this);
   return true;
 }
 

@@ -2,9 +2,12 @@
 
 #include <QLineEdit>
 
+#include "pages/rows/ListRowView.h"
+#include "pages/rows/ValueRowView.h"
 #include "resources/AdvancedControlResources.h"
 #include "settings/PageTables.h"
 #include "toolkit/CComboBox.h"
+#include "toolkit/CSliderCtrl.h"
 #include "toolkit/MessageBox.h"
 
 namespace {
@@ -17,7 +20,7 @@ constexpr int kKeystoneH = 20311;
 constexpr int kVolume = 20317;
 constexpr int kCurrentInput = 20337;
 constexpr int kStandbyMode = 20368;
-constexpr int kResetList = 20327;
+constexpr int kReset = 20328;
 
 }  // namespace
 
@@ -34,13 +37,13 @@ std::vector<Notification> CSetupType5TabDlg::OwnNotifications() const {
 
 bool CSetupType5TabDlg::OnInitDialog() {
   CTabPage::OnInitDialog();
-  ShowRow(kCurrentInput, Has(kVolume));
-  Value(kVolume).ShowNumber(kInitialVolume);
+  ShowRow(kCurrentInput, Row(kVolume).IsPresent());
+  Row<ValueRowView>(kVolume).ShowNumber(kInitialVolume);
   return true;
 }
 
 void CSetupType5TabDlg::InitDisp() {
-  FillResets(kResetList);
+  Row(kReset).Prepare();
   CTabPage::InitDisp();
 }
 
@@ -50,23 +53,24 @@ void CSetupType5TabDlg::ShowSource(std::optional<int> source) {
 
 void CSetupType5TabDlg::OnHScroll(CSliderCtrl& slider) {
   // Intended: a refused horizontal change falls back to the vertical memory, not to its own.
-  if (!Release(slider) && Value(kKeystoneH).Owns(slider) && !projector->IsAbandoned()) {
-    Value(kKeystoneH).MoveSlider(Value(kKeystoneV).current);
+  if (!Release(slider) && &slider == GetDlgItem(kKeystoneH) && !projector->IsAbandoned()) {
+    slider.setValue(Row<ValueRowView>(kKeystoneV).Remembered());
   }
 }
 
 int CSetupType5TabDlg::DisableVolumeCtrl(bool disable) {
   if (disable) {
-    Value(kVolume).Disable();
+    Row<ValueRowView>(kVolume).Disable();
   } else {
-    Value(kVolume).Enable();
+    Row<ValueRowView>(kVolume).Enable();
   }
   return 0;
 }
 
 void CSetupType5TabDlg::OnCbnSelchangeCombStandbymode() {
-  if (List(kStandbyMode).SelectedValue() == kSaving && !Ask(ErrorText::StandbySavingQuestion)) {
-    ReadBack(kStandbyMode);
+  if (Item<CComboBox>(kStandbyMode).SelectedValue() == kSaving &&
+      !Ask(ErrorText::StandbySavingQuestion)) {
+    Row<ListRowView>(kStandbyMode).ReadBack();
     return;
   }
   Act(kStandbyMode);

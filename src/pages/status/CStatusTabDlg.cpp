@@ -8,6 +8,6 @@ CStatusTabDlg::CStatusTabDlg(CWnd* parent) : CTabPage(TemplateId::Status, kStatu
 
 bool CStatusTabDlg::OnInitDialog() {
   CTabPage::OnInitDialog();
-  List(20019).Select(0);
+  Item<CComboBox>(20019).Select(0);
   return true;
 }

@@ -2,6 +2,8 @@
 #include "settings/SharedRows.h"
 #include "settings/input/InputLists.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 using Op = PjtOperation;
@@ -41,3 +43,5 @@ static_assert(AreComplete(kModels, std::ssize(kRows)));
 // Of a model that is not listed nothing is known: every row is there, and those that it refuses
 // grey.
 constinit const PageTable kInput2Rows{kRows, kModels, Unlisted::AllRows};
+
+}  // namespace AdvancedControl

@@ -2,6 +2,8 @@
 #include "settings/SharedRows.h"
 #include "settings/input/InputLists.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 using Op = PjtOperation;
@@ -20,3 +22,5 @@ constexpr PageRow kRows[] = {
 }  // namespace
 
 constinit const PageTable kInput3Rows{kRows};
+
+}  // namespace AdvancedControl

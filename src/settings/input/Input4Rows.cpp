@@ -1,6 +1,8 @@
 #include "settings/PageTables.h"
 #include "settings/input/InputLists.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 using Op = PjtOperation;
@@ -21,3 +23,5 @@ constexpr PageRow kRows[] = {
 }  // namespace
 
 constinit const PageTable kInput4Rows{kRows};
+
+}  // namespace AdvancedControl

@@ -3,6 +3,8 @@
 #include "device/CommandCode.h"
 #include "settings/RowParts.h"
 
+inline namespace AdvancedControl {
+
 // What the input pages have in common; what is called legacy, only the older ones.
 
 inline constexpr auto kColorSpaces =
@@ -35,3 +37,5 @@ constexpr ListRow VideoFormatRow(int control) {
           Named(PjtOperation::SetVideoFormat),
           kFormatRules};
 }
+
+}  // namespace AdvancedControl

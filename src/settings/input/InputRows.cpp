@@ -1,6 +1,8 @@
 #include "settings/PageTables.h"
 #include "settings/input/InputLists.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 using Op = PjtOperation;
@@ -61,3 +63,5 @@ static_assert(AreComplete(kModels, std::ssize(kRows)));
 // Of a model that is not listed nothing is known: every row is there, and those that it refuses
 // grey.
 constinit const PageTable kInputRows{kRows, kModels, Unlisted::AllRows};
+
+}  // namespace AdvancedControl

@@ -1,6 +1,8 @@
 #include "settings/PageTables.h"
 #include "settings/input/InputLists.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 using Op = PjtOperation;
@@ -77,3 +79,5 @@ static_assert(AreComplete(kModels, std::ssize(kRows)));
 // What another signal would offer keeps its name in full.
 constinit const PageTable kInputType5Rows{
     .rows = kRows, .models = kModels, .unlisted = Unlisted::Template, .captionsStay = true};
+
+}  // namespace AdvancedControl

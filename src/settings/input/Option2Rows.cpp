@@ -1,6 +1,8 @@
 #include "settings/PageTables.h"
 #include "settings/SharedRows.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 // The models with a tab of their own for the automatic functions have them there.
@@ -27,3 +29,5 @@ constexpr PageRow kRows[] = {
 }  // namespace
 
 constinit const PageTable kOption2Rows{.rows = kRows};
+
+}  // namespace AdvancedControl

@@ -1,6 +1,8 @@
 #include "settings/PageTables.h"
 #include "settings/SharedRows.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 using Op = PjtOperation;
@@ -19,3 +21,5 @@ constexpr PageRow kRows[] = {
 }  // namespace
 
 constinit const PageTable kOption4Rows{.rows = kRows};
+
+}  // namespace AdvancedControl

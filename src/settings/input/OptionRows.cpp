@@ -1,6 +1,8 @@
 #include "settings/PageTables.h"
 #include "settings/SharedRows.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 constexpr PageRow kRows[] = {
@@ -15,3 +17,5 @@ constexpr PageRow kRows[] = {
 }  // namespace
 
 constinit const PageTable kOptionRows{.rows = kRows};
+
+}  // namespace AdvancedControl

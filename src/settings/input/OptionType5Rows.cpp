@@ -6,6 +6,8 @@
 #include "settings/PageTables.h"
 #include "settings/RowParts.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 using Op = PjtOperation;
@@ -107,3 +109,5 @@ std::vector<ListEntry> MyButtonEntries(const ModelData& model) {
 }
 
 constinit const PageTable kOptionType5Rows{kRows, kModels, Unlisted::Template};
+
+}  // namespace AdvancedControl

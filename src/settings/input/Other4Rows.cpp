@@ -1,6 +1,8 @@
 #include "settings/PageTables.h"
 #include "settings/SharedRows.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 using Op = PjtOperation;
@@ -28,3 +30,5 @@ constexpr PageRow kRows[] = {
 }  // namespace
 
 constinit const PageTable kOther4Rows{.rows = kRows};
+
+}  // namespace AdvancedControl

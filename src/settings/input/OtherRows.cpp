@@ -1,6 +1,8 @@
 #include "settings/PageTables.h"
 #include "settings/SharedRows.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 constexpr PageRow kRows[] = {
@@ -11,3 +13,5 @@ constexpr PageRow kRows[] = {
 }  // namespace
 
 constinit const PageTable kOtherRows{.rows = kRows};
+
+}  // namespace AdvancedControl

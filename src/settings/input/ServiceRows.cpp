@@ -1,6 +1,8 @@
 #include "settings/CatalogNumbers.h"
 #include "settings/PageTables.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 using Op = PjtOperation;
@@ -41,3 +43,5 @@ static_assert(AreComplete(kModels, std::ssize(kRows)));
 }  // namespace
 
 constinit const PageTable kServiceRows{kRows, kModels, Unlisted::Template};
+
+}  // namespace AdvancedControl

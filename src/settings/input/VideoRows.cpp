@@ -1,6 +1,8 @@
 #include "settings/PageTables.h"
 #include "settings/input/InputLists.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 using Op = PjtOperation;
@@ -17,3 +19,5 @@ constexpr PageRow kRows[] = {
 }  // namespace
 
 constinit const PageTable kVideoRows{kRows};
+
+}  // namespace AdvancedControl

@@ -4,6 +4,8 @@
 #include "settings/CatalogNumbers.h"
 #include "settings/PageTables.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 using Op = PjtOperation;
@@ -89,3 +91,5 @@ constexpr PageRow kColorTemp[] = {
 
 constinit const PageTable kGammaRows{.rows = kGamma};
 constinit const PageTable kColorTempRows{.rows = kColorTemp};
+
+}  // namespace AdvancedControl

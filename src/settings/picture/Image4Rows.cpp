@@ -2,6 +2,8 @@
 #include "settings/SharedRows.h"
 #include "settings/picture/PictureRows.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 using Op = PjtOperation;
@@ -34,3 +36,5 @@ constexpr PageRow kRows[] = {
 }  // namespace
 
 constinit const PageTable kImage4Rows{.rows = kRows};
+
+}  // namespace AdvancedControl

@@ -2,6 +2,8 @@
 #include "settings/picture/PictureRows.h"
 #include "settings/setup/ScreenLists.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 using Op = PjtOperation;
@@ -44,3 +46,5 @@ constexpr PageRow kRows[] = {
 }  // namespace
 
 constinit const PageTable kImageRows{.rows = kRows};
+
+}  // namespace AdvancedControl

@@ -1,6 +1,8 @@
 #include "settings/PageTables.h"
 #include "settings/picture/PictureRows.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 using Op = PjtOperation;
@@ -46,3 +48,5 @@ constexpr PageRow kRows[] = {
 }  // namespace
 
 constinit const PageTable kPicRows{.rows = kRows, .refusedIsReadBack = true};
+
+}  // namespace AdvancedControl

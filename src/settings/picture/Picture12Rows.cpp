@@ -1,6 +1,8 @@
 #include "settings/PageTables.h"
 #include "settings/picture/PictureRows.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 using Op = PjtOperation;
@@ -28,3 +30,5 @@ constexpr PageRow kRows[] = {
 }  // namespace
 
 constinit const PageTable kPicture12Rows{.rows = kRows, .refusedIsReadBack = true};
+
+}  // namespace AdvancedControl

@@ -1,6 +1,8 @@
 #include "settings/PageTables.h"
 #include "settings/picture/PictureRows.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 using Op = PjtOperation;
@@ -42,3 +44,5 @@ constexpr PageRow kRows[] = {
 }  // namespace
 
 constinit const PageTable kPicture1Rows{.rows = kRows, .refusedIsReadBack = true};
+
+}  // namespace AdvancedControl

@@ -1,6 +1,8 @@
 #include "settings/PageTables.h"
 #include "settings/picture/PictureRows.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 using Op = PjtOperation;
@@ -33,3 +35,5 @@ constexpr PageRow kRows[] = {
 }  // namespace
 
 constinit const PageTable kPicture22Rows{.rows = kRows, .refusedIsReadBack = true};
+
+}  // namespace AdvancedControl

@@ -1,6 +1,8 @@
 #include "settings/PageTables.h"
 #include "settings/picture/PictureRows.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 using Op = PjtOperation;
@@ -29,3 +31,5 @@ constexpr PageRow kRows[] = {
 }  // namespace
 
 constinit const PageTable kPicture2Rows{.rows = kRows, .refusedIsReadBack = true};
+
+}  // namespace AdvancedControl

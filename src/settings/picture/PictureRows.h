@@ -5,6 +5,8 @@
 
 #include "settings/LegacyRows.h"
 
+inline namespace AdvancedControl {
+
 // What the picture and image pages share.
 
 inline constexpr auto kMyMemories =
@@ -54,3 +56,5 @@ constexpr auto NumberEntries(int bias = 0) {
   }
   (std::make_integer_sequence<int, last - first + 1>());
 }
+
+}  // namespace AdvancedControl

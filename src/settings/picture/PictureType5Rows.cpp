@@ -1,6 +1,8 @@
 #include "settings/PageTables.h"
 #include "settings/picture/PictureRows.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 using Op = PjtOperation;
@@ -67,3 +69,5 @@ constexpr PageRow kRows[] = {
 }  // namespace
 
 constinit const PageTable kPictureType5Rows{.rows = kRows};
+
+}  // namespace AdvancedControl

@@ -2,6 +2,8 @@
 
 #include "settings/RowParts.h"
 
+inline namespace AdvancedControl {
+
 // What the pages that route sound have in common.
 
 inline constexpr auto kThreeAudios =
@@ -11,3 +13,5 @@ inline constexpr auto kHdmiAudio = Numbered<1>("1", "2");
 // The projector's own numbers for two inputs.
 inline constexpr int kHdmiInput = 32;
 inline constexpr int kMiuInput = 16;
+
+}  // namespace AdvancedControl

@@ -2,6 +2,8 @@
 #include "settings/PageTables.h"
 #include "settings/setup/AudioLists.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 using Op = PjtOperation;
@@ -121,3 +123,5 @@ static_assert(AreComplete(kModels, std::ssize(kRows)));
 }  // namespace
 
 constinit const PageTable kAudioType5Rows{kRows, kModels, Unlisted::NoRow};
+
+}  // namespace AdvancedControl

@@ -3,6 +3,8 @@
 #include "settings/PageTables.h"
 #include "settings/setup/ScreenLists.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 using Op = PjtOperation;
@@ -77,3 +79,5 @@ constexpr PageRow kRows[] = {
 }  // namespace
 
 constinit const PageTable kScreen4Rows{kRows};
+
+}  // namespace AdvancedControl

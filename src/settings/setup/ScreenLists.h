@@ -3,6 +3,8 @@
 #include "device/CommandCode.h"
 #include "settings/RowParts.h"
 
+inline namespace AdvancedControl {
+
 // What the screen pages have in common.
 
 inline constexpr ListEntry kBlanks[] = {{ListText::BlankBlue, 3},
@@ -24,6 +26,9 @@ constexpr ValueRow MenuPosition(std::string_view key, const ValueIds& ids, std::
           .caption = 132,
           .ids = ids,
           .code = code,
+          .stepsOnly = true,
           .error = ErrorText::MenuPositionRefused,
           .greysField = true};
 }
+
+}  // namespace AdvancedControl

@@ -1,6 +1,8 @@
 #include "settings/PageTables.h"
 #include "settings/setup/ScreenLists.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 using Op = PjtOperation;
@@ -30,3 +32,5 @@ constexpr PageRow kRows[] = {
 }  // namespace
 
 constinit const PageTable kScreenRows{kRows};
+
+}  // namespace AdvancedControl

@@ -2,6 +2,8 @@
 #include "settings/PageTables.h"
 #include "settings/setup/AudioLists.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 using Op = PjtOperation;
@@ -29,7 +31,7 @@ constexpr PageRow kRows[] = {
     ListRow{"setup.whisper", 75, 20242, WhisperEntries, Get(CommandCode::Whisper), Named(Op::SetWhisper), {.refused = Refused::ReadsBack, .emptyIsNotRead = true}},
     ListRow{"setup.mirror", 40, 20243, kMirrors, Named(Op::GetMirror), Named(Op::SetMirror), kReadBack},
     ValueRow{.key = "setup.volume", .caption = 1, .ids = {20244, 20245, 20246, 20256}, .code = CommandCode::Volume,
-             .rangeText = RangeIndex::Volume, .range = kVolume, .bounds = kVolumeBounds, .ticks = 4, .error = ErrorText::VolumeRefused},
+             .rangeText = RangeIndex::Volume, .range = kVolume, .bounds = kVolumeBounds, .ticks = 4, .error = ErrorText::VolumeRefused, .ofCurrentSourceOnly = true},
     ListRow{"setup.stereo", 78, 21034, kSwitch, Get(CommandCode::Stereo), Named(Op::SetStereo)},
     CheckRow{"setup.ir-front", 81, 20247, Get(CommandCode::IrFront), Named(Op::SetIRFront)},
     CheckRow{"setup.ir-top", 83, 20248, Get(CommandCode::IrTop), Named(Op::SetIRTop)},
@@ -45,3 +47,5 @@ constexpr PageRow kRows[] = {
 }  // namespace
 
 constinit const PageTable kSetup4Rows{kRows};
+
+}  // namespace AdvancedControl

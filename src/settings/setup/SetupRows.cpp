@@ -1,6 +1,8 @@
 #include "settings/LegacyRows.h"
 #include "settings/PageTables.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 using Op = PjtOperation;
@@ -59,3 +61,5 @@ constexpr PageRow kRows[] = {
 }  // namespace
 
 constinit const PageTable kSetupRows{kRows};
+
+}  // namespace AdvancedControl

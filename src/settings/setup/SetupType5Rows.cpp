@@ -2,6 +2,8 @@
 #include "settings/PageTables.h"
 #include "settings/setup/AudioLists.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 using Op = PjtOperation;
@@ -73,6 +75,7 @@ constexpr ValueRow Shift(std::string_view key, const ValueIds& ids, std::uint16_
           .down = AnyResult(Dec(code)),
           .up = AnyResult(Inc(code)),
           .bias = CommandCode::kZeroPoint,
+          .stepsOnly = true,
           .error = ErrorText::DShiftRefused};
 }
 
@@ -157,3 +160,5 @@ static_assert(AreComplete(kModels, std::ssize(kRows) - 1));  // every model has 
 }  // namespace
 
 constinit const PageTable kSetupType5Rows{kRows, kModels, Unlisted::NoRow};
+
+}  // namespace AdvancedControl

@@ -1,6 +1,8 @@
 #include "settings/PageTables.h"
 #include "settings/SharedRows.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 constexpr PageRow kRows[] = {
@@ -12,3 +14,5 @@ constexpr PageRow kRows[] = {
 }  // namespace
 
 constinit const PageTable kAuto2Rows{.rows = kRows};
+
+}  // namespace AdvancedControl

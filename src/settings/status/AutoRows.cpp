@@ -1,6 +1,8 @@
 #include "settings/PageTables.h"
 #include "settings/SharedRows.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 constexpr PageRow kRows[] = {
@@ -13,3 +15,5 @@ constexpr PageRow kRows[] = {
 }  // namespace
 
 constinit const PageTable kAutoRows{.rows = kRows};
+
+}  // namespace AdvancedControl

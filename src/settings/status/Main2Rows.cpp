@@ -1,6 +1,8 @@
 #include "settings/PageTables.h"
 #include "settings/SharedRows.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 using Op = PjtOperation;
@@ -27,3 +29,5 @@ constexpr PageRow kRows[] = {
 }  // namespace
 
 constinit const PageTable kMain2Rows{.rows = kRows};
+
+}  // namespace AdvancedControl

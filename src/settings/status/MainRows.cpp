@@ -1,6 +1,8 @@
 #include "settings/PageTables.h"
 #include "settings/SharedRows.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 using Op = PjtOperation;
@@ -22,3 +24,5 @@ constexpr PageRow kRows[] = {
 }  // namespace
 
 constinit const PageTable kMainRows{.rows = kRows};
+
+}  // namespace AdvancedControl

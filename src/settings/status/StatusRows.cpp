@@ -1,6 +1,8 @@
 #include "settings/PageTables.h"
 #include "settings/SharedRows.h"
 
+inline namespace AdvancedControl {
+
 namespace {
 
 using Op = PjtOperation;
@@ -56,3 +58,5 @@ constexpr PageRow kRows[] = {
 }  // namespace
 
 constinit const PageTable kStatusRows{.rows = kRows};
+
+}  // namespace AdvancedControl

@@ -1,0 +1,188 @@
+#include "app/acctl/FileCheck.h"
+
+#include <algorithm>
+#include <numeric>
+
+#include "app/acctl/Uses.h"
+#include "app/profiles/JsonLines.h"
+#include "device/ModelDataIntake.h"
+
+namespace {
+
+using Kind = ModelSetting::Kind;
+
+/// How many letters have to be changed, added or taken out to make one word the other.
+std::size_t Distance(std::string_view one, std::string_view other) {
+  std::vector<std::size_t> row(other.size() + 1);
+  std::iota(row.begin(), row.end(), std::size_t{0});
+  for (std::size_t i = 1; i <= one.size(); ++i) {
+    std::size_t diagonal = row[0];
+    row[0] = i;
+    for (std::size_t j = 1; j <= other.size(); ++j) {
+      const std::size_t changed = diagonal + (one[i - 1] == other[j - 1] ? 0 : 1);
+      diagonal = row[j];
+      row[j] = std::min({changed, row[j - 1] + 1, diagonal + 1});
+    }
+  }
+  return row.back();
+}
+
+/// "; did you mean picture.tint?", or what tells all keys.
+std::string Advice(const std::string& key, const std::vector<std::string_view>& keys) {
+  constexpr std::size_t kFar = 4;
+  const auto distance = [&key](std::string_view known) { return Distance(key, known); };
+  const auto nearest = std::ranges::min_element(keys, {}, distance);
+  if (nearest == keys.end() || distance(*nearest) >= kFar) return "; acctl settings tells all keys";
+  return std::string("; did you mean ").append(*nearest).append("?");
+}
+
+/// What stands in a file for a setting: "97 to 159, shown as -31 to 31", "0 (Off), 1 (Theater)".
+std::string Possible(const SettingTexts& texts, const ModelSetting& setting) {
+  if (setting.kind == Kind::Number) {
+    const Range range = setting.range.value_or(Range{0, 0xFFFF});
+    const std::string values =
+        std::to_string(range.minimum) + " to " + std::to_string(range.maximum);
+    const bool isShownSo = setting.bias == 0 || !setting.range;
+    return isShownSo ? values : values + ", shown as " + texts.Values(setting);
+  }
+  std::string values;
+  for (const ListEntry& entry : setting.entries) {
+    if (!setting.Allows(entry.value)) continue;
+    values.append(values.empty() ? "" : ", ").append(std::to_string(entry.value));
+    values.append(" (").append(texts.Entry(setting, entry)).append(")");
+  }
+  return values;
+}
+
+/// The model that a file is of, as a profile has it; the same name counts first.
+std::optional<ModelSettings> ModelOf(const Snapshot& file,
+                                     const std::vector<ProjectorProfile>& profiles) {
+  const ProjectorProfile* found = nullptr;
+  for (const ProjectorProfile& profile : profiles) {
+    const CModelInfo2& model = profile.Model;
+    if (model.DialogType != file.dialogType || model.ModelCode != file.modelCode) continue;
+    if (found == nullptr || model.ModelName == file.model) found = &profile;
+  }
+  if (found == nullptr) return {};
+  return ModelSettings(MakeModelData(found->Model));
+}
+
+/// One setting as the two models have it that may vouch for what stands in the file.
+class Entry {
+ public:
+  Entry(const SettingTexts& texts, const SavedSetting& saved, const ModelSettings& model,
+        const ModelSettings* own)
+      : texts_(texts), saved_(saved) {
+    Add(model);
+    if (own != nullptr) Add(*own);
+  }
+
+  bool IsKnown() const { return !forms_.empty(); }
+
+  std::string SourceMistake() const {
+    const auto has = [this](const Form& form) {
+      return form.model->HasSource(*form.setting, *saved_.source);
+    };
+    if (!saved_.source || !IsKnown() || std::ranges::any_of(forms_, has)) return {};
+    const std::string source = "source " + std::to_string(*saved_.source);
+    const auto [model, setting] = forms_.front();
+    if (setting->of == OfSource::None) return source + ": this is not kept for each source";
+    return source + " does not exist; there are " + Possible(texts_, *model->Input());
+  }
+
+  std::string ValueMistake() const {
+    if (!IsKnown() || std::ranges::any_of(forms_, [this](const Form& f) { return Passes(f); })) {
+      return {};
+    }
+    return "value " + std::to_string(saved_.value) + " is not possible; possible are " +
+           Possible(texts_, *forms_.front().setting);
+  }
+
+  std::string TextMistake(InputNames inputs) const {
+    const auto isSo = [this, inputs](const Form& form) {
+      const auto& entries = form.setting->entries;
+      const auto entry = std::ranges::find(entries, saved_.value, &ListEntry::value);
+      const bool isName = entry != entries.end() && !entry->text;
+      return (isName && inputs == InputNames::OfProjector) ||
+             texts_.IsShownAs(*form.setting, saved_.value, saved_.text);
+    };
+    if (saved_.text.empty() || !IsKnown() || std::ranges::any_of(forms_, isSo)) return {};
+    const ModelSetting& setting = *forms_.front().setting;
+    return "text \"" + saved_.text + "\" is not that of value " + std::to_string(saved_.value) +
+           ", which is \"" + texts_.Value(setting, saved_.value) +
+           "\"; change both, or take the text out";
+  }
+
+ private:
+  struct Form {
+    const ModelSettings* model;
+    const ModelSetting* setting;
+  };
+
+  void Add(const ModelSettings& model) {
+    const ModelSetting* const setting = model.Find(saved_.key);
+    if (setting != nullptr && setting->Restorable()) forms_.push_back({&model, setting});
+  }
+  // A projector may report a value that its list does not have, which is saved with its number.
+  bool Passes(const Form& form) const {
+    const ModelSetting& setting = *form.setting;
+    if (setting.Allows(saved_.value)) return true;
+    return setting.kind == Kind::Choice && saved_.text == texts_.Value(setting, saved_.value);
+  }
+
+  const SettingTexts& texts_;
+  const SavedSetting& saved_;
+  std::vector<Form> forms_;
+};
+
+}  // namespace
+
+std::vector<std::string> MistakesIn(const Work& work, const ModelSettings& model,
+                                    InputNames inputs) {
+  const Snapshot& file = work.file.snapshot;
+  const bool isOwn = model.Model().DialogType == file.dialogType &&  //
+                     model.Model().ModelCode == file.modelCode;
+  const auto other = isOwn ? std::nullopt : ModelOf(file, work.profiles);
+  std::vector<std::string> mistakes;
+  const JsonLines lines(work.file.text);
+  const auto tell = [&](const SavedSetting& saved, const QString& path, const std::string& what) {
+    constexpr std::size_t kMost = 20;
+    if (what.empty() || mistakes.size() >= kMost) return !what.empty();
+    const std::string place =
+        work.file.name.toStdString() + ':' + std::to_string(lines.LineOf(path)) + ": ";
+    mistakes.push_back(std::string(place).append(saved.key).append(": ").append(what));
+    return true;
+  };
+  const std::vector<std::string_view> keys = AllKeys();
+  const auto look = [&](const SavedSetting& saved, const QString& path) {
+    if (std::ranges::find(keys, saved.key) == keys.end()) {
+      tell(saved, path + ".key", "no model has such a setting" + Advice(saved.key, keys));
+      return;
+    }
+    // Nobody else knows what the model of the file takes.
+    if (!isOwn && !other) return;
+    const Entry entry(work.texts, saved, model, other ? &*other : nullptr);
+    tell(saved, path + ".source", entry.SourceMistake());
+    if (!tell(saved, path + ".value", entry.ValueMistake())) {
+      tell(saved, path + ".text", entry.TextMistake(inputs));
+    }
+  };
+  for (std::size_t i = 0; i < file.beforehand.size(); ++i) {
+    look(file.beforehand[i], QStringLiteral("beforehand[%1]").arg(i));
+  }
+  for (std::size_t i = 0; i < file.settings.size(); ++i) {
+    if (!IsLike(file.settings[i].key, work.arguments.only)) continue;
+    look(file.settings[i], QStringLiteral("settings[%1]").arg(i));
+  }
+  return mistakes;
+}
+
+Report CheckFile(const Work& work, const ProjectorAccess& projector) {
+  Report report;
+  if (work.arguments.lenient || !projector.TellsInputs()) return report;
+  for (const std::string& mistake :
+       MistakesIn(work, projector.Settings(), InputNames::OfProjector)) {
+    report.Complain(mistake, ExitCode::WrongUse);
+  }
+  return report;
+}

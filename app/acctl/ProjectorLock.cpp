@@ -1,0 +1,61 @@
+#include "app/acctl/ProjectorLock.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <thread>
+#include <unistd.h>
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <QStandardPaths>
+
+namespace {
+
+constexpr std::chrono::milliseconds kPause{20};
+
+QString TextOf(const std::string& host, int port) {
+  return QString::fromStdString(host).toLower() + QLatin1Char(':') + QString::number(port);
+}
+QString TextOf(const AddressError&) { return {}; }
+QString TextOf(const TcpAddress& address) { return TextOf(address.host, address.port); }
+QString TextOf(const PjLinkAddress& address) { return TextOf(address.host, address.port); }
+QString TextOf(const SerialAddress& address) {
+  const QString device = QString::fromStdString(address.device);
+  const QString real = QFileInfo(device).canonicalFilePath();  // it may have several names
+  return real.isEmpty() ? device : real;
+}
+
+// The cache folder and not that of the session: what runs without one, as from cron, waits too.
+QString FileOf(const ProjectorAddress& address) {
+  const QDir folder(QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
+                    QStringLiteral("/advanced-control/locks"));
+  folder.mkpath(QStringLiteral("."));
+  const QString text = std::visit([](const auto& way) { return TextOf(way); }, address);
+  // An address may be longer than a name, and have a slash.
+  const auto name = QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Sha1).toHex();
+  return folder.filePath(QString::fromLatin1(name));
+}
+
+}  // namespace
+
+ProjectorLock::ProjectorLock(const ProjectorAddress& address, std::chrono::milliseconds timeOut,
+                             const std::function<bool()>& isInterrupted)
+    : file_(open(QFile::encodeName(FileOf(address)).constData(), O_RDWR | O_CREAT | O_CLOEXEC,
+                 0600)) {
+  if (file_ < 0) return;
+  const auto end = std::chrono::steady_clock::now() + timeOut;
+  while (flock(file_, LOCK_EX | LOCK_NB) != 0) {
+    if (errno != EWOULDBLOCK && errno != EINTR) return;  // the file system knows no locks
+    const auto left = end - std::chrono::steady_clock::now();
+    isHeld_ = left > left.zero() && !isInterrupted();
+    if (!isHeld_) return;
+    std::this_thread::sleep_for(std::min<std::chrono::nanoseconds>(left, kPause));
+  }
+}
+
+ProjectorLock::~ProjectorLock() {
+  if (file_ >= 0) close(file_);
+}

@@ -1,0 +1,97 @@
+#include "app/desktop/HelpWindows.h"
+
+#include <algorithm>
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QScreen>
+#include <QScrollBar>
+#include <QTextBrowser>
+#include <QTextDocument>
+#include <QVBoxLayout>
+
+#include "app/desktop/Mnemonic.h"
+
+namespace {
+
+constexpr int kIconSize = 64;
+constexpr int kFrameHeight = 40;  // of a window, before it is known
+
+struct HelpText {
+  Q_DECLARE_TR_FUNCTIONS(HelpWindows)
+};
+
+QString ShownText(const QAction& action) {
+  return WithoutMnemonic(action.text()).remove(QStringLiteral("…"));
+}
+
+/// As large as the table, or as the screen allows: then it scrolls.
+void ShowTable(const QString& title, const QString& table, QWidget& owner) {
+  auto* dialog = new QDialog(&owner);
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  dialog->setWindowTitle(title);
+  auto* text = new QTextBrowser;
+  text->setHtml(table);
+  text->setFrameShape(QFrame::NoFrame);
+  text->setAccessibleName(title);
+  text->setTabChangesFocus(true);
+  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+  QObject::connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
+  auto* layout = new QVBoxLayout(dialog);
+  layout->addWidget(text);
+  layout->addWidget(buttons);
+  QTextDocument document;
+  document.setDefaultFont(text->font());
+  document.setHtml(table);
+  const QSize size = document.size().toSize();
+  text->setMinimumWidth(size.width() + text->verticalScrollBar()->sizeHint().width());
+  const int others = layout->sizeHint().height() - text->sizeHint().height();
+  const int room = owner.screen()->availableGeometry().height() - kFrameHeight;
+  dialog->resize(dialog->minimumWidth(), std::min(size.height() + others, room));
+  dialog->open();
+}
+
+}  // namespace
+
+void ShowShortcuts(QMainWindow& window) {
+  QString rows;
+  const auto add = [&rows](const QString& keys, const QString& what) {
+    rows += QStringLiteral("<tr><td>%1&nbsp;&nbsp;&nbsp;</td><td>%2</td></tr>")
+                .arg(keys.toHtmlEscaped(), what.toHtmlEscaped());
+  };
+  const auto section = [&rows](const QString& title) {
+    rows += QStringLiteral("<tr><th colspan=2 align=left>%1</th></tr>").arg(title.toHtmlEscaped());
+  };
+  for (const QAction* menu : window.menuBar()->actions()) {
+    section(ShownText(*menu));
+    for (const QAction* action : menu->menu()->actions()) {
+      if (action->shortcut().isEmpty()) continue;
+      add(action->shortcut().toString(QKeySequence::NativeText), ShownText(*action));
+    }
+  }
+  section(HelpText::tr("In a projector's dialog"));
+  add(HelpText::tr("Ctrl+Tab, Ctrl+Page Down"), HelpText::tr("Next tab"));
+  add(HelpText::tr("Ctrl+Shift+Tab, Ctrl+Page Up"), HelpText::tr("Previous tab"));
+  add(HelpText::tr("Ctrl+F"), HelpText::tr("Find a setting"));
+  add(HelpText::tr("Esc"), HelpText::tr("Close"));
+  ShowTable(HelpText::tr("Keyboard Shortcuts"), QStringLiteral("<table>%1</table>").arg(rows),
+            window);
+}
+
+void ShowAbout(QWidget& window) {
+  auto* about = new QMessageBox(QMessageBox::NoIcon, HelpText::tr("About"),
+                                HelpText::tr("<h3>Advanced Control %1</h3><p>The live settings of "
+                                             "projectors: every value is read from "
+                                             "the projector, every change is sent at once.</p>")
+                                    .arg(QStringLiteral(ADVANCED_CONTROL_VERSION)),
+                                QMessageBox::Ok, &window);
+  about->setAttribute(Qt::WA_DeleteOnClose);
+  about->setIconPixmap(window.windowIcon().pixmap(kIconSize));
+  about->open();
+}

@@ -1,0 +1,44 @@
+#include "app/desktop/Modal.h"
+
+#include <utility>
+
+#include <QFileDialog>
+#include <QMessageBox>
+
+namespace {
+
+constexpr qsizetype kLinesShown = 10;
+
+}  // namespace
+
+void AskForFile(QWidget& window, const FileQuestion& question,
+                std::function<void(const QString& path)> take) {
+  using Kind = FileQuestion::Kind;
+  auto* dialog = new QFileDialog(&window, question.title);
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  if (question.kind == Kind::Folder) {
+    dialog->setFileMode(QFileDialog::Directory);
+    dialog->setOption(QFileDialog::ShowDirsOnly);
+  } else {
+    const bool saves = question.kind == Kind::Save;
+    dialog->setFileMode(saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    dialog->setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog->setNameFilter(question.filter);
+  }
+  if (!question.suggestion.isEmpty()) dialog->selectFile(question.suggestion);
+  QObject::connect(dialog, &QFileDialog::fileSelected, &window, std::move(take));
+  dialog->open();
+}
+
+void ShowError(QWidget& window, const QString& title, const QString& text, const QString& detail) {
+  auto* box = new QMessageBox(QMessageBox::Critical, title, text, QMessageBox::Ok, &window);
+  box->setAttribute(Qt::WA_DeleteOnClose);
+  box->setTextFormat(Qt::PlainText);  // what a file holds is no markup
+  box->setInformativeText(detail);
+  const QStringList lines = text.split(QLatin1Char('\n'));
+  if (lines.size() > kLinesShown) {
+    box->setText(lines.first(kLinesShown).join(QLatin1Char('\n')) + QStringLiteral("\n…"));
+    box->setDetailedText(text);
+  }
+  box->open();
+}

@@ -1,0 +1,160 @@
+#include "app/desktop/log/CommandLogModel.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+#include <string>
+
+#include <QBrush>
+#include <QGuiApplication>
+#include <QPalette>
+
+#include "device/LoggingChannel.h"
+
+namespace {
+
+constexpr std::array<const char*, CommandLogModel::ColumnCount> kTitles{
+    QT_TRANSLATE_NOOP("CommandLogModel", "Time"),
+    QT_TRANSLATE_NOOP("CommandLogModel", "Projector"),
+    QT_TRANSLATE_NOOP("CommandLogModel", "Command"),
+    QT_TRANSLATE_NOOP("CommandLogModel", "Value"),
+    QT_TRANSLATE_NOOP("CommandLogModel", "Result"),
+    QT_TRANSLATE_NOOP("CommandLogModel", "ms")};
+
+struct EntryTexts {
+  QString command;
+  QString value;  ///< What was sent, or what came back.
+};
+
+// "Get 0x2201" is shown with its setting's name in the middle, "SetBrightness(140)" as the command
+// SetBrightness with the value 140.
+EntryTexts Describe(const CommandLogModel::Entry& entry) {
+  const std::string command = FormatCommand(entry.command);
+  const std::string all = FormatCommand(entry.command, &entry.reply);
+  const QString outcome = QString::fromStdString(all.substr(command.size()));
+  EntryTexts texts{QString::fromStdString(command), {}};
+  if (const auto open = texts.command.indexOf(QLatin1Char('('));
+      open >= 0 && !IsRead(entry.command.operation)) {
+    texts.value = texts.command.mid(open + 1).chopped(1);
+    texts.command = texts.command.left(open).trimmed();
+  }
+  if (outcome.startsWith(QStringLiteral(" = "))) texts.value = outcome.mid(3);
+  if (!entry.setting.isEmpty() && FormOf(entry.command.operation).isGeneric) {
+    texts.command.insert(texts.command.indexOf(QLatin1Char(' ')), QLatin1Char(' ') + entry.setting);
+  }
+  return texts;
+}
+
+/// What became of a command, with its text and whether that is a failure.
+struct Outcome {
+  const char* text;
+  bool failed;
+};
+
+Outcome OutcomeOf(const CommandLogModel::Entry& entry) {
+  const PjtReply& reply = entry.reply;
+  if (reply.abandoned) return {QT_TRANSLATE_NOOP("CommandLogModel", "left"), false};
+  if (!reply.answered) return {QT_TRANSLATE_NOOP("CommandLogModel", "no answer"), true};
+  if (reply.busy) return {QT_TRANSLATE_NOOP("CommandLogModel", "busy"), true};
+  if (!reply.offered) return {QT_TRANSLATE_NOOP("CommandLogModel", "not offered"), true};
+  if (!IsSuccess(entry.command.operation, reply.result)) {
+    return {QT_TRANSLATE_NOOP("CommandLogModel", "refused"), true};
+  }
+  if (reply.pending) return {QT_TRANSLATE_NOOP("CommandLogModel", "not yet so"), false};
+  return {QT_TRANSLATE_NOOP("CommandLogModel", "ok"), false};
+}
+
+QColor FailureColor() {
+  constexpr int kMiddle = 128;
+  const bool isDark = QGuiApplication::palette().color(QPalette::Base).lightness() < kMiddle;
+  return isDark ? QColor(0xFF, 0x8A, 0x80) : QColor(0xB0, 0x20, 0x20);
+}
+
+}  // namespace
+
+void CommandLogModel::Append(std::vector<Entry> entries) {
+  if (entries.empty()) return;
+  if (entries.size() > kMaximumEntries) {
+    entries.erase(entries.begin(), entries.end() - kMaximumEntries);
+  }
+  const std::size_t total = entries_.size() + entries.size();
+  if (total > kMaximumEntries) {
+    const auto surplus = static_cast<int>(total - kMaximumEntries);
+    beginRemoveRows({}, 0, surplus - 1);
+    entries_.erase(entries_.begin(), entries_.begin() + surplus);
+    endRemoveRows();
+  }
+  const int first = rowCount();
+  beginInsertRows({}, first, first + static_cast<int>(entries.size()) - 1);
+  std::ranges::move(entries, std::back_inserter(entries_));
+  endInsertRows();
+}
+
+void CommandLogModel::Clear() {
+  beginResetModel();
+  entries_.clear();
+  endResetModel();
+}
+
+bool CommandLogModel::IsChange(int row) const {
+  return !IsRead(entries_[static_cast<std::size_t>(row)].command.operation);
+}
+
+int CommandLogModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(entries_.size());
+}
+
+int CommandLogModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : ColumnCount;
+}
+
+QVariant CommandLogModel::data(const QModelIndex& index, int role) const {
+  if (!index.isValid()) return {};
+  const Entry& entry = entries_[static_cast<std::size_t>(index.row())];
+  if (role == Qt::ForegroundRole && index.column() == Result && OutcomeOf(entry).failed) {
+    return QBrush(FailureColor());
+  }
+  if (role != Qt::DisplayRole) return {};
+  switch (index.column()) {
+    case Time:
+      return entry.time.toString(QStringLiteral("HH:mm:ss.zzz"));
+    case Projector:
+      return entry.projector;
+    case Command:
+      return Describe(entry).command;
+    case Value:
+      return Describe(entry).value;
+    case Result:
+      return tr(OutcomeOf(entry).text);
+    case Duration:
+      return QString::number(static_cast<double>(entry.elapsed.count()) / 1000.0, 'f', 1);
+    default:
+      return {};
+  }
+}
+
+QVariant CommandLogModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
+  return tr(kTitles[static_cast<std::size_t>(section)]);
+}
+
+void CommandLogFilter::ShowChangesOnly(bool only) {
+  changesOnly_ = only;
+  invalidateFilter();
+}
+
+bool CommandLogFilter::filterAcceptsRow(int row, const QModelIndex& /*parent*/) const {
+  return !changesOnly_ || static_cast<const CommandLogModel*>(sourceModel())->IsChange(row);
+}
+
+QString LogText(const QAbstractItemModel& log, const std::vector<int>& rows) {
+  QString text;
+  for (const int row : rows) {
+    for (int column = 0; column < log.columnCount(); ++column) {
+      if (column > 0) text += QLatin1Char('\t');
+      text += log.index(row, column).data().toString();
+    }
+    text += QLatin1Char('\n');
+  }
+  return text;
+}

@@ -1,0 +1,223 @@
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <new>
+#include <variant>
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QIcon>
+#include <QSettings>
+#include <QTimer>
+
+#include "app/desktop/CommandLine.h"
+#include "app/desktop/MainWindow.h"
+#include "app/desktop/Translations.h"
+#include "app/desktop/dialogs/Pictures.h"
+#include "app/desktop/profiles/ProfileDocument.h"
+#include "app/profiles/OutOfMemory.h"
+#include "app/profiles/Table.h"
+#include "app/profiles/WholeFile.h"
+#include "i18n/Catalog.h"
+#include "i18n/SystemLanguage.h"
+#include "settings/PageSets.h"
+
+namespace {
+
+const QString kName = QStringLiteral("advanced-control");
+constexpr int kWrongArguments = 2;
+constexpr int kNoDisplay = 1;
+
+struct Program {
+  Q_DECLARE_TR_FUNCTIONS(Program)
+};
+
+int Fail(const QString& message, int exitCode = kWrongArguments) {
+  std::fprintf(stderr, "advanced-control: %s\n", qUtf8Printable(message));
+  return exitCode;
+}
+
+bool HasDisplay() {
+  return !qEnvironmentVariableIsEmpty("DISPLAY") ||
+         !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
+         !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+}
+
+QStringList ProfileFilePlaces() {
+  const QDir folder(QCoreApplication::applicationDirPath());
+  return {folder.filePath("projectors.json"),
+          QDir::cleanPath(folder.filePath("../share/advanced-control/projectors.json"))};
+}
+
+/// What --profiles names, else what was open last, else what comes with the program.
+QString ReadProfiles(const CommandLine& line, ProfileDocument& document) {
+  if (!line.profiles.isEmpty()) return document.Load(line.profiles);
+  if (line.action == CommandLine::Action::Window && line.open.isEmpty()) {
+    const QString last = MainWindow::LastProfiles(QSettings(kName, kName));
+    if (!last.isEmpty() && document.Load(last).isEmpty()) return {};
+  }
+  const QStringList places = ProfileFilePlaces();
+  const auto place = std::ranges::find_if(places, qOverload<const QString&>(&QFileInfo::exists));
+  if (place != places.end()) return document.Load(*place);
+  return Program::tr("no profiles at %1; name a file with --profiles")
+      .arg(places.join(Program::tr(" or ")));
+}
+
+// The catalog was chosen when the library was loaded, by the environment of that time.
+void ChooseLanguage(int language) {
+  qputenv("LC_ALL",
+          language == static_cast<int>(kChineseSimplified) ? "zh_CN.UTF-8" : "en_US.UTF-8");
+  LoadCatalog();
+  InstallTranslations();
+}
+
+// Tab 0 is the status page, which every projector has.
+int LastTab(const ProjectorProfile& profile) {
+  return static_cast<int>(TabsOf(profile.Model.DialogType, profile.Model.ModelCode).size());
+}
+
+void PrintList(const std::vector<ProjectorProfile>& profiles) {
+  Table table;
+  std::vector<std::string> titles;
+  for (const char* title : {"Name", "Model", "Type", "Code", "Connection"}) {
+    titles.push_back(QCoreApplication::translate("ProjectorTableModel", title).toStdString());
+  }
+  table.Add(titles);
+  for (const ProjectorProfile& profile : profiles) {
+    const CModelInfo2& model = profile.Model;
+    table.Add({profile.Name, model.ModelName, std::to_string(model.DialogType),
+               std::to_string(model.ModelCode), ConnectionText(model).toStdString()});
+  }
+  std::fputs(table.Text().c_str(), stdout);
+}
+
+int RunTour(const std::vector<ProjectorProfile>& profiles, const QString& folder) {
+  const TourResult tour = SaveTour(profiles, folder);
+  if (!tour.error.isEmpty()) return Fail(tour.error);
+  const QString said = Program::tr("%1 pictures of %2 kinds of projectors saved in %3")
+                           .arg(tour.pictures)
+                           .arg(tour.projectors)
+                           .arg(folder);
+  std::printf("%s\n", qUtf8Printable(said));
+  return 0;
+}
+
+int RunWindow(const CommandLine& line, ProfileDocument profiles, std::size_t opened) {
+  QSettings settings(kName, kName);
+  MainWindow window(std::move(profiles), &settings);
+  window.show();
+  // While it is read, dialog and window may be closed as at any other time.
+  if (!line.open.isEmpty()) {
+    QTimer::singleShot(0, &window, [&] { window.OpenDialog(opened, line.tab); });
+  }
+  return QApplication::exec();
+}
+
+/// What the arguments ask for, found right.
+struct Request {
+  CommandLine line;
+  ProfileDocument profiles;
+  std::size_t opened = 0;  ///< Position of the projector that --open names.
+};
+
+/// Reads and checks all that needs no window, and does what needs none: then the result is an exit
+/// code.
+std::variant<Request, int> Prepare(int argc, char* argv[]) {
+  const QCoreApplication application(argc, argv);
+  InstallTranslations();
+  Request request{.line = ParseCommandLine(QCoreApplication::arguments()), .profiles = {}};
+  const CommandLine& line = request.line;
+  if (line.language.has_value()) {
+    ChooseLanguage(*line.language);
+    request.line = ParseCommandLine(QCoreApplication::arguments());  // its texts
+  }
+  if (!line.error.isEmpty()) return Fail(line.error);
+  if (line.action == CommandLine::Action::Help) {
+    std::fputs(qUtf8Printable(line.help), stdout);
+    return 0;
+  }
+  if (line.action == CommandLine::Action::Version) {
+    std::printf("advanced-control %s\n", ADVANCED_CONTROL_VERSION);
+    return 0;
+  }
+
+  const QString wrongProfiles = ReadProfiles(line, request.profiles);
+  if (!wrongProfiles.isEmpty()) return Fail(wrongProfiles);
+  const std::vector<ProjectorProfile>& projectors = request.profiles.Projectors();
+  if (line.action == CommandLine::Action::List) {
+    PrintList(projectors);
+    return 0;
+  }
+  if (line.action == CommandLine::Action::Tour) {
+    const QString error = MakePictureFolder(line.target);
+    if (!error.isEmpty()) return Fail(error);
+  }
+  if (line.open.isEmpty()) return request;
+
+  const auto opened =
+      std::ranges::find(projectors, line.open.toStdString(), &ProjectorProfile::Name);
+  if (opened == projectors.end()) {
+    return Fail(
+        Program::tr("--open: there is no projector '%1'; --list names all.").arg(line.open));
+  }
+  request.opened = static_cast<std::size_t>(opened - projectors.begin());
+  if (const int last = LastTab(*opened), tab = line.tab.value_or(0); tab < 0 || tab > last) {
+    return Fail(Program::tr("--tab: there is no tab %1; '%2' has tabs 0 to %3.")
+                    .arg(QString::number(tab), line.open, QString::number(last)));
+  }
+  if (line.action == CommandLine::Action::Screenshot) {
+    const QString error = CheckWholeFile(line.target);
+    if (!error.isEmpty()) return Fail(error);
+  }
+  return request;
+}
+
+int Run(int argc, char* argv[]) {
+  auto prepared = Prepare(argc, argv);
+  if (const int* exitCode = std::get_if<int>(&prepared)) return *exitCode;
+  auto& [line, profiles, opened] = std::get<Request>(prepared);
+
+  if (!line.platform && !HasDisplay()) {
+    if (line.action == CommandLine::Action::Window) {
+      return Fail(Program::tr("no display; use --list, --tour or --screenshot without one."),
+                  kNoDisplay);
+    }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+  }
+  const QApplication application(argc, argv);
+  QGuiApplication::setDesktopFileName(kName);
+  QApplication::setWindowIcon(QIcon(QStringLiteral(":/advanced-control.png")));
+  // Unless somebody asks for another one.
+  if (!line.style && qEnvironmentVariableIsEmpty("QT_STYLE_OVERRIDE")) {
+    QApplication::setStyle(QStringLiteral("Fusion"));
+  }
+  InstallTranslations();
+
+  switch (line.action) {
+    case CommandLine::Action::Tour:
+      return RunTour(profiles.Projectors(), line.target);
+    case CommandLine::Action::Screenshot: {
+      const QString error =
+          SaveScreenshot(profiles.Projectors()[opened], line.tab.value_or(0), line.target);
+      return error.isEmpty() ? 0 : Fail(error);
+    }
+    default:
+      return RunWindow(line, std::move(profiles), opened);
+  }
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  EndWhenOutOfMemory("advanced-control");
+  try {
+    return Run(argc, argv);
+  } catch (const std::bad_alloc&) {
+    EndOutOfMemory();
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "advanced-control: %s\n", error.what());
+    return EXIT_FAILURE;
+  }
+}

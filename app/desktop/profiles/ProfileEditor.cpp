@@ -1,0 +1,302 @@
+#include "app/desktop/profiles/ProfileEditor.h"
+
+#include <algorithm>
+#include <limits>
+
+#include <QAccessible>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QIntValidator>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+#include "app/desktop/Mnemonic.h"
+#include "app/desktop/profiles/ProfileDocument.h"
+#include "toolkit/CComboBox.h"
+
+namespace {
+
+constexpr int kFrameHeight = 40;  // before it is known
+constexpr int kFieldWidth = 26;   // average letters
+const QString kNetwork = QStringLiteral("network");
+const QString kPjLink = QStringLiteral("pjlink");
+const QString kSerial = QStringLiteral("serial");
+
+QString TextOf(const QJsonValue& value) {
+  return value.isDouble() ? QString::number(value.toInt()) : value.toString();
+}
+
+/// What an entry says at a path such as "connection.network.port".
+QJsonValue ValueAt(const QJsonObject& entry, const QString& path) {
+  QJsonValue value = entry;
+  for (const QString& key : path.split(QLatin1Char('.'))) value = value.toObject().value(key);
+  return value;
+}
+
+bool IsBlank(const QLineEdit* field) { return field->text().trimmed().isEmpty(); }
+
+void Put(QJsonObject& object, const char* key, const QJsonValue& value) {
+  if (value.isUndefined()) {
+    object.remove(QLatin1String(key));
+  } else {
+    object[QLatin1String(key)] = value;
+  }
+}
+
+void TakeNumbersOnly(QLineEdit& field, int minimum, int maximum) {
+  field.setValidator(new QIntValidator(minimum, maximum, &field));
+}
+
+}  // namespace
+
+ProfileEditor::ProfileEditor(const ProfileDocument& document, const QJsonObject& entry, Apply apply,
+                             QWidget* parent)
+    : QDialog(parent),
+      document_(document),
+      entry_(entry),
+      apply_(std::move(apply)),
+      form_(new QFormLayout),
+      name_(AddField(tr("&Name"), "name")),
+      family_(AddList(tr("&Family"), "like")),
+      model_(AddField(tr("&Model"), "model")),
+      dialogType_(AddField(tr("Dialog &type"), "dialogType")),
+      modelCode_(AddField(tr("Model cod&e"), "modelCode")),
+      link_(AddList(tr("&Reached through"), "link")),
+      connection_(AddList(tr("Connect&ion"), "connection")),
+      address_(AddField(tr("&Address"), "connection.network.address")),
+      networkPort_(AddField(tr("&Port"), "connection.network.port")),
+      secret_(AddField(tr("Pass&word"), "connection.network.secret")),
+      serialPort_(AddField(tr("Port n&umber"), "connection.serial.port")),
+      device_(AddField(tr("&Device"), "connection.serial.device")),
+      baud_(AddField(tr("&Baud"), "connection.serial.baud")),
+      rows_(new QScrollArea),
+      error_(new QLabel) {
+  setWindowTitle(entry.isEmpty() ? tr("Add Projector") : tr("Edit Projector"));
+  TakeNumbersOnly(*dialogType_, 1, 5);
+  TakeNumbersOnly(*modelCode_, 0, std::numeric_limits<int>::max());
+  TakeNumbersOnly(*networkPort_, 1, 65535);
+  TakeNumbersOnly(*serialPort_, 1, 256);
+  TakeNumbersOnly(*baud_, 1, 4'000'000);
+  secret_->setEchoMode(QLineEdit::PasswordEchoOnEdit);
+  FillLists();
+
+  error_->setWordWrap(true);
+  error_->setTextFormat(Qt::PlainText);
+  error_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  error_->hide();
+  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+  auto* contents = new QWidget;
+  form_->setContentsMargins({});
+  contents->setLayout(form_);
+  rows_->setFrameShape(QFrame::NoFrame);
+  rows_->setFocusPolicy(Qt::NoFocus);
+  rows_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  rows_->setWidgetResizable(true);
+  rows_->setWidget(contents);
+  auto* layout = new QVBoxLayout(this);
+  layout->addWidget(rows_);
+  layout->addWidget(error_);
+  layout->addWidget(buttons);
+
+  connect(buttons, &QDialogButtonBox::accepted, this, &ProfileEditor::accept);
+  connect(buttons, &QDialogButtonBox::rejected, this, &ProfileEditor::reject);
+  connect(family_, &QComboBox::currentIndexChanged, this, &ProfileEditor::ShowFamily);
+  connect(link_, &QComboBox::activated, this, [this] {
+    chosen_.insert(link_);
+    ChooseFittingConnection();
+  });
+  connect(connection_, &QComboBox::activated, this, [this] { chosen_.insert(connection_); });
+  connect(connection_, &QComboBox::currentIndexChanged, this, &ProfileEditor::ShowConnectionFields);
+  ShowFamily();
+  ShowConnectionFields();
+  name_->setFocus();
+}
+
+QLineEdit* ProfileEditor::AddField(const QString& caption, const char* path) {
+  auto* field = new QLineEdit(TextOf(ValueAt(entry_, path)));
+  field->setObjectName(path);
+  field->setMinimumWidth(field->fontMetrics().averageCharWidth() * kFieldWidth);
+  form_->addRow(caption, field);
+  return field;
+}
+
+CComboBox* ProfileEditor::AddList(const QString& caption, const char* path) {
+  auto* list = new CComboBox;
+  list->setObjectName(path);
+  form_->addRow(caption, list);
+  return list;
+}
+
+// A connection of a kind that this dialog does not know is offered as it is.
+void ProfileEditor::FillLists() {
+  family_->addItem(tr("None"), QString());
+  for (const QString& name : document_.Families()) family_->addItem(name, name);
+  family_->setCurrentIndex(family_->findData(entry_["like"].toString()));
+
+  link_->addItem(tr("As its family"), QString());
+  link_->addItem(tr("Simulated"), QStringLiteral("simulated"));
+  link_->addItem(tr("Network"), kNetwork);
+  link_->addItem(QStringLiteral("PJLink"), kPjLink);
+  link_->addItem(tr("Serial port"), kSerial);
+  link_->setCurrentIndex(link_->findData(entry_["link"].toString()));
+
+  connection_->addItem(tr("As its family"), QString());
+  connection_->addItem(tr("Network"), kNetwork);
+  connection_->addItem(tr("Serial port"), kSerial);
+  const QJsonObject written = entry_["connection"].toObject();
+  const QString kind = written.isEmpty() ? QString() : written.begin().key();
+  if (connection_->findData(kind) < 0) connection_->addItem(kind, kind);
+  connection_->setCurrentIndex(connection_->findData(kind));
+}
+
+QJsonObject ProfileEditor::Family() const {
+  return document_.Family(family_->currentData().toString());
+}
+
+void ProfileEditor::ShowFamily() {
+  const QJsonObject family = Family();
+  model_->setPlaceholderText(TextOf(family["model"]));
+  dialogType_->setPlaceholderText(TextOf(family["dialogType"]));
+  modelCode_->setPlaceholderText(TextOf(family["modelCode"]));
+  if (!entry_.isEmpty()) return;
+  // A new projector is reached as its family is, or else over the network, until that is chosen.
+  for (CComboBox* list : {link_, connection_}) {
+    if (chosen_.contains(list)) continue;
+    list->setCurrentIndex(
+        list->findData(family.contains(list->objectName()) ? QString() : kNetwork));
+  }
+  if (!chosen_.contains(connection_)) ChooseFittingConnection();
+}
+
+void ProfileEditor::ShowConnectionFields() {
+  const QString kind = ConnectionKind();
+  for (QLineEdit* field : {address_, networkPort_, secret_}) {
+    form_->setRowVisible(field, kind == kNetwork);
+  }
+  for (QLineEdit* field : {serialPort_, device_, baud_}) {
+    form_->setRowVisible(field, kind == kSerial);
+  }
+  GiveRoom();
+}
+
+// As high as the rows, or as the screen allows: then they scroll.
+void ProfileEditor::GiveRoom() {
+  const QSize wanted = form_->sizeHint();
+  rows_->setMinimumSize(wanted.width() + rows_->verticalScrollBar()->sizeHint().width(), 1);
+  error_->setMinimumHeight(std::max(0, error_->heightForWidth(rows_->minimumWidth())));
+  const int others = layout()->minimumSize().height();
+  const int room = screen()->availableGeometry().height() - kFrameHeight - others;
+  rows_->setMinimumHeight(std::min(wanted.height(), room));
+}
+
+// The way that was chosen needs a connection of its kind.
+void ProfileEditor::ChooseFittingConnection() {
+  const QString own = link_->currentData().toString();
+  const QString link = own.isEmpty() ? Family()["link"].toString() : own;
+  const QString needed = link == kPjLink ? kNetwork : link;
+  if (needed != kNetwork && needed != kSerial) return;
+  const QJsonObject ofFamily = Family()["connection"].toObject();
+  const bool fits =
+      ConnectionKind().isEmpty() ? ofFamily.contains(needed) : ConnectionKind() == needed;
+  if (!fits) connection_->setCurrentIndex(connection_->findData(needed));
+}
+
+QString ProfileEditor::ConnectionKind() const { return connection_->currentData().toString(); }
+
+// Unchanged, a field is what the file says to the letter. An empty one says nothing.
+QJsonValue ProfileEditor::ValueOf(const QLineEdit* field) const {
+  QJsonValue written = ValueAt(entry_, field->objectName());
+  if (field->text() == TextOf(written)) return written;
+  const QString text = field == secret_ ? field->text() : field->text().trimmed();
+  if (text.isEmpty()) return QJsonValue::Undefined;
+  bool isNumber = false;
+  const int number = text.toInt(&isNumber);
+  return isNumber && field->validator() != nullptr ? QJsonValue(number) : QJsonValue(text);
+}
+
+QJsonValue ProfileEditor::Connection() const {
+  const QString kind = ConnectionKind();
+  QJsonObject written = entry_["connection"].toObject();
+  if (kind.isEmpty()) return QJsonValue::Undefined;
+  if (kind != kNetwork && kind != kSerial) return written;
+  QJsonObject parameters = written[kind].toObject();
+  if (kind == kNetwork) {
+    Put(parameters, "address", ValueOf(address_));
+    Put(parameters, "port", ValueOf(networkPort_));
+    Put(parameters, "secret", ValueOf(secret_));
+  } else {
+    Put(parameters, "port", ValueOf(serialPort_));
+    Put(parameters, "device", ValueOf(device_));
+    Put(parameters, "baud", ValueOf(baud_));
+  }
+  return QJsonObject{{kind, parameters}};
+}
+
+JsonEdit::Members ProfileEditor::Changes() const {
+  const QString family = family_->currentData().toString();
+  const QString link = link_->currentData().toString();
+  JsonEdit::Members all{
+      {"name", ValueOf(name_)},
+      {"model", ValueOf(model_)},
+      {"like", family.isEmpty() ? QJsonValue(QJsonValue::Undefined) : QJsonValue(family)},
+      {"dialogType", ValueOf(dialogType_)},
+      {"modelCode", ValueOf(modelCode_)},
+      {"connection", Connection()},
+      {"link", link.isEmpty() ? QJsonValue(QJsonValue::Undefined) : QJsonValue(link)},
+  };
+  std::erase_if(all, [this](const JsonEdit::Member& member) {
+    return member.value == entry_.value(member.key);
+  });
+  return all;
+}
+
+QString ProfileEditor::CaptionOf(QWidget* field) const {
+  return WithoutMnemonic(qobject_cast<QLabel*>(form_->labelForField(field))->text());
+}
+
+std::vector<QLineEdit*> ProfileEditor::Missing() const {
+  std::vector<QLineEdit*> needed{name_};
+  for (QLineEdit* field : {model_, dialogType_, modelCode_}) {
+    if (field->placeholderText().isEmpty()) needed.push_back(field);
+  }
+  if (ConnectionKind() == kNetwork) needed.insert(needed.end(), {address_, networkPort_});
+  if (ConnectionKind() == kSerial && IsBlank(device_)) needed.push_back(serialPort_);
+  std::erase_if(needed, [](const QLineEdit* field) { return !IsBlank(field); });
+  return needed;
+}
+
+void ProfileEditor::accept() {
+  if (const std::vector<QLineEdit*> missing = Missing(); !missing.empty()) {
+    QStringList captions;
+    for (QLineEdit* field : missing) captions += CaptionOf(field);
+    const QString all = QLocale().createSeparatedList(captions);
+    return ShowError(tr("Still to be filled in: %1").arg(all), missing.front());
+  }
+  const QString error = apply_(Changes());
+  if (error.isEmpty()) return QDialog::accept();
+  // What is wrong in the file is told by the row that it comes from.
+  static const QRegularExpression place(QStringLiteral(R"(^.*?projectors\[\d+\]\.([\w.]+): )"));
+  const QRegularExpressionMatch found = place.match(error);
+  QWidget* row = found.hasMatch() ? rows_->findChild<QWidget*>(found.captured(1)) : nullptr;
+  if (row == nullptr) return ShowError(error, nullptr);
+  ShowError(tr("%1: %2").arg(CaptionOf(row), error.mid(found.capturedEnd())), row);
+}
+
+void ProfileEditor::ShowError(const QString& error, QWidget* row) {
+  error_->setText(error);
+  error_->show();
+  GiveRoom();
+  if (row != nullptr) {
+    row->setFocus();
+    rows_->ensureWidgetVisible(row);
+  }
+  QAccessibleEvent told(error_, QAccessible::Alert);
+  QAccessible::updateAccessibility(&told);
+}

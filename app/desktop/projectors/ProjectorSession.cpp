@@ -1,0 +1,73 @@
+#include "app/desktop/projectors/ProjectorSession.h"
+
+#include <utility>
+
+#include "app/profiles/ProjectorAccess.h"
+#include "host/CAdvanceDlg.h"
+
+// The log stands outermost: it shows what the dialog got, also where a command was given up before
+// its answer came or was not passed on at all.
+ProjectorSession::ProjectorSession(ProjectorProfile profile, LoggingChannel::Observer observer)
+    : profile_(std::move(profile)),
+      simulator_(std::make_shared<SimulatedProjector>(SimulatedModelOf(profile_))),
+      faultChannel_(std::make_shared<FaultChannel>(MakeWay())),
+      lastAnswer_(std::make_shared<std::optional<Clock::time_point>>()),
+      channel_(std::make_shared<LoggingChannel>(
+          std::make_shared<BoundedChannel>(faultChannel_, Bounds()),
+          [lastAnswer = lastAnswer_, tell = std::move(observer)](
+              const PjtCommand& command, const PjtReply& reply, std::chrono::microseconds elapsed) {
+            if (reply.answered) *lastAnswer = Clock::now();
+            if (tell) tell(command, reply, elapsed);
+          })) {}
+
+std::optional<std::chrono::seconds> ProjectorSession::SinceAnswer() const {
+  if (!*lastAnswer_) return std::nullopt;
+  return std::chrono::floor<std::chrono::seconds>(Clock::now() - **lastAnswer_);
+}
+
+std::shared_ptr<ProjectorChannel> ProjectorSession::MakeWay() {
+  if (profile_.Link == ProjectorLink::Simulated) return simulator_;
+  return MakeUnboundedChannel(AddressOf(profile_));
+}
+
+BoundedChannel::Limits ProjectorSession::Bounds() const {
+  if (profile_.Link == ProjectorLink::Simulated) return {};
+  return BoundsFor(AddressOf(profile_));
+}
+
+CModelInfo2 ProjectorSession::Model() const {
+  CModelInfo2 model = profile_.Model;
+  if (model.MySourceList.Size() == 0) {
+    model.MySourceList = channel_->Inputs().value_or(model.MySourceList);
+  }
+  return model;
+}
+
+void ProjectorSession::SetFault(const FaultTarget& target, const Fault& fault) {
+  if (const auto* operation = std::get_if<PjtOperation>(&target)) {
+    faultChannel_->SetFault(*operation, fault);
+  } else if (const auto* code = std::get_if<std::uint16_t>(&target)) {
+    faultChannel_->SetFault(*code, fault);
+  } else {
+    faultChannel_->SetFault(fault);
+  }
+  if (fault.kind == Fault::Kind::None) {
+    faults_.erase(target);
+  } else {
+    faults_[target] = fault;
+  }
+}
+
+void ProjectorSession::ClearFaults() {
+  faultChannel_->Clear();
+  faults_.clear();
+}
+
+std::unique_ptr<CAdvanceDlg> ProjectorSession::MakeDialog() const {
+  auto dialog = std::make_unique<CAdvanceDlg>();
+  dialog->CopyData(&profile_.Model, 0);
+  dialog->Projector().SetChannel(channel_);
+  // Who opens a dialog again wants to know now whether the projector is back.
+  dialog->Projector().TryAfresh();
+  return dialog;
+}

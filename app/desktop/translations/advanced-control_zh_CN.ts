@@ -1,0 +1,1221 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN">
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Unexpected &apos;=&apos; in &apos;%1&apos;.</source>
+        <translation>“%1”中不应有“=”。</translation>
+    </message>
+    <message>
+        <source>Display this help.</source>
+        <translation>显示此帮助。</translation>
+    </message>
+    <message>
+        <source>Read the projectors from &lt;file&gt;.</source>
+        <translation>从 &lt;文件&gt; 读取投影机。</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Open the dialog of the projector &lt;name&gt; at start.</source>
+        <translation>启动时打开投影机 &lt;名称&gt; 的对话框。</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>With --open: select tab &lt;n&gt;, counted from 0.</source>
+        <translation>与 --open 一起使用：选择第 &lt;n&gt; 个选项卡，从 0 开始计数。</translation>
+    </message>
+    <message>
+        <source>Print the table of projectors.</source>
+        <translation>列出所有投影机。</translation>
+    </message>
+    <message>
+        <source>With --open: save a picture (PNG) of the dialog and exit.</source>
+        <translation>与 --open 一起使用：将对话框保存为图片 (PNG) 后退出。</translation>
+    </message>
+    <message>
+        <source>Save pictures of all tabs of all kinds of projectors in &lt;folder&gt; and exit.</source>
+        <translation>将各种投影机所有选项卡的图片保存到 &lt;文件夹&gt; 后退出。</translation>
+    </message>
+    <message>
+        <source>folder</source>
+        <translation>文件夹</translation>
+    </message>
+    <message>
+        <source>Show texts in the language &lt;id&gt;: 1033 English, 2052 Chinese.</source>
+        <translation>显示文字所用的语言 &lt;id&gt;：1033 为英文，2052 为中文。</translation>
+    </message>
+    <message>
+        <source>--language: &apos;%1&apos; is neither 1033 nor 2052.</source>
+        <translation>--language：“%1”既不是 1033 也不是 2052。</translation>
+    </message>
+    <message>
+        <source>Unexpected argument &apos;%1&apos;.</source>
+        <translation>多余的参数“%1”。</translation>
+    </message>
+    <message>
+        <source>--%1 needs a value.</source>
+        <translation>--%1 需要一个值。</translation>
+    </message>
+    <message>
+        <source>Only one of --list, --tour and --open can be given.</source>
+        <translation>--list、--tour 和 --open 只能使用其中一个。</translation>
+    </message>
+    <message>
+        <source>--%1 needs --open.</source>
+        <translation>--%1 必须与 --open 一起使用。</translation>
+    </message>
+    <message>
+        <source>--tab: &apos;%1&apos; is not a number.</source>
+        <translation>--tab：“%1”不是数字。</translation>
+    </message>
+    <message>
+        <source>Opens the settings dialogs of projectors, real or simulated.</source>
+        <translation>打开投影机（真实或模拟）的设置对话框。</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLog</name>
+    <message>
+        <source>Changes &amp;Only</source>
+        <translation>仅显示更改(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Save &amp;Log As…</source>
+        <translation>日志另存为(&amp;L)…</translation>
+    </message>
+    <message>
+        <source>Clea&amp;r Log</source>
+        <translation>清空日志(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Command log</source>
+        <translation>命令日志</translation>
+    </message>
+    <message>
+        <source>Leave out the commands that only read</source>
+        <translation>不显示仅读取的命令</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Save Log</source>
+        <translation>保存日志</translation>
+    </message>
+    <message>
+        <source>Tables (*.tsv);;All files (*)</source>
+        <translation>表格 (*.tsv);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Commands, &amp;newest last</source>
+        <translation>命令，最新的在最后(&amp;N)</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLogModel</name>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Projector</source>
+        <translation>投影机</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>命令</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>毫秒</translation>
+    </message>
+    <message>
+        <source>ok</source>
+        <translation>成功</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>被拒绝</translation>
+    </message>
+    <message>
+        <source>no answer</source>
+        <translation>无应答</translation>
+    </message>
+    <message>
+        <source>left</source>
+        <translation>已放弃</translation>
+    </message>
+    <message>
+        <source>busy</source>
+        <translation>忙</translation>
+    </message>
+    <message>
+        <source>not offered</source>
+        <translation>不提供</translation>
+    </message>
+    <message>
+        <source>not yet so</source>
+        <translation>尚未生效</translation>
+    </message>
+</context>
+<context>
+    <name>FaultPanel</name>
+    <message>
+        <source>Standby</source>
+        <translation>待机</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>开机</translation>
+    </message>
+    <message>
+        <source>Cooling down</source>
+        <translation>冷却中</translation>
+    </message>
+    <message>
+        <source>No error</source>
+        <translation>无错误</translation>
+    </message>
+    <message>
+        <source>Cover</source>
+        <translation>机盖</translation>
+    </message>
+    <message>
+        <source>Fan</source>
+        <translation>风扇</translation>
+    </message>
+    <message>
+        <source>Lamp</source>
+        <translation>灯泡</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>温度</translation>
+    </message>
+    <message>
+        <source>Air flow</source>
+        <translation>气流</translation>
+    </message>
+    <message>
+        <source>Lamp time</source>
+        <translation>灯泡时间</translation>
+    </message>
+    <message>
+        <source>Cold</source>
+        <translation>温度过低</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>过滤网</translation>
+    </message>
+    <message>
+        <source>Filter time</source>
+        <translation>过滤网时间</translation>
+    </message>
+    <message>
+        <source>Other (99)</source>
+        <translation>其他 (99)</translation>
+    </message>
+    <message>
+        <source>Refuse</source>
+        <translation>拒绝</translation>
+    </message>
+    <message>
+        <source>Fail reads</source>
+        <translation>读取失败</translation>
+    </message>
+    <message>
+        <source>Delay</source>
+        <translation>延迟</translation>
+    </message>
+    <message>
+        <source>Drop out</source>
+        <translation>断线</translation>
+    </message>
+    <message>
+        <source>&amp;Set Fault</source>
+        <translation>设置故障(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>移除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Remove &amp;All</source>
+        <translation>全部移除(&amp;A)</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> 毫秒</translation>
+    </message>
+    <message>
+        <source>Faults in force</source>
+        <translation>生效的故障</translation>
+    </message>
+    <message>
+        <source>&amp;Error status</source>
+        <translation>错误状态(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Command</source>
+        <translation>命令(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Delay</source>
+        <translation>延迟(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;In force</source>
+        <translation>生效(&amp;I)</translation>
+    </message>
+    <message>
+        <source>No projector selected</source>
+        <translation>未选择投影机</translation>
+    </message>
+    <message>
+        <source>Simulation of %1</source>
+        <translation>%1 的模拟</translation>
+    </message>
+    <message>
+        <source>All commands</source>
+        <translation>所有命令</translation>
+    </message>
+    <message>
+        <source> (any code)</source>
+        <translation>（任意代码）</translation>
+    </message>
+    <message>
+        <source>Choose, or type a part of a name or code</source>
+        <translation>请选择，或输入名称或代码的一部分</translation>
+    </message>
+    <message>
+        <source> %1 ms</source>
+        <translation> %1 毫秒</translation>
+    </message>
+    <message>
+        <source>Po&amp;wer</source>
+        <translation>电源(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Fa&amp;ult</source>
+        <translation>故障(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Simulated faults of %1</source>
+        <translation>%1 的模拟故障</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>HelpWindows</name>
+    <message>
+        <source>In a projector&apos;s dialog</source>
+        <translation>在投影机的对话框中</translation>
+    </message>
+    <message>
+        <source>Ctrl+Tab, Ctrl+Page Down</source>
+        <translation>Ctrl+Tab、Ctrl+Page Down</translation>
+    </message>
+    <message>
+        <source>Next tab</source>
+        <translation>下一个选项卡</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+Tab, Ctrl+Page Up</source>
+        <translation>Ctrl+Shift+Tab、Ctrl+Page Up</translation>
+    </message>
+    <message>
+        <source>Previous tab</source>
+        <translation>上一个选项卡</translation>
+    </message>
+    <message>
+        <source>Ctrl+F</source>
+        <translation>Ctrl+F</translation>
+    </message>
+    <message>
+        <source>Find a setting</source>
+        <translation>查找设置</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>键盘快捷键</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>关于</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;The live settings of projectors: every value is read from the projector, every change is sent at once.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;高级控制 %1&lt;/h3&gt;&lt;p&gt;投影机的实时设置：每个值都从投影机读取，每项更改都立即发送。&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>JsonLines</name>
+    <message>
+        <source>control character in a text</source>
+        <translation>文本中含有控制字符</translation>
+    </message>
+    <message>
+        <source>half a surrogate pair in a text</source>
+        <translation>文本中含有不完整的代理对</translation>
+    </message>
+    <message>
+        <source>text of more than %1 bytes</source>
+        <translation>文本超过 %1 字节</translation>
+    </message>
+    <message>
+        <source>more than %1 bytes</source>
+        <translation>超过 %1 字节</translation>
+    </message>
+    <message>
+        <source>nested more than %1 deep</source>
+        <translation>嵌套超过 %1 层</translation>
+    </message>
+    <message>
+        <source>more than %1 values</source>
+        <translation>超过 %1 个值</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Open</source>
+        <translation>已打开</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>文件(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>退出(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;Projector</source>
+        <translation>投影机(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Open Settings</source>
+        <translation>打开设置(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>查看(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Find Projectors</source>
+        <translation>查找投影机(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Simulation</source>
+        <translation>模拟(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Command Log</source>
+        <translation>命令日志(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard Shortcuts</source>
+        <translation>键盘快捷键(&amp;K)</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>关于(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Advanced Control: %1</source>
+        <translation>高级控制：%1</translation>
+    </message>
+    <message>
+        <source>Advanced Control</source>
+        <translation>高级控制</translation>
+    </message>
+</context>
+<context>
+    <name>Pictures</name>
+    <message>
+        <source>the dialog of %1 cannot be created</source>
+        <translation>无法创建 %1 的对话框</translation>
+    </message>
+    <message>
+        <source>cannot write to the folder %1</source>
+        <translation>无法写入文件夹 %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileActions</name>
+    <message>
+        <source>&amp;Open Profiles…</source>
+        <translation>打开配置文件(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>重新加载(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Save Profiles As…</source>
+        <translation>配置文件另存为(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>&amp;Add…</source>
+        <translation>添加(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>&amp;Edit…</source>
+        <translation>编辑(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate</source>
+        <translation>复制一份(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>移除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Open Profiles</source>
+        <translation>打开配置文件</translation>
+    </message>
+    <message>
+        <source>Profiles (*.json);;All files (*)</source>
+        <translation>配置文件 (*.json);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>重新加载</translation>
+    </message>
+    <message>
+        <source>Save Profiles As</source>
+        <translation>配置文件另存为</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>复制一份</translation>
+    </message>
+    <message>
+        <source>Remove Projector</source>
+        <translation>移除投影机</translation>
+    </message>
+    <message>
+        <source>Remove &quot;%1&quot; from %2?</source>
+        <translation>要从 %2 中移除“%1”吗？</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <source>This could not be done; nothing was changed.</source>
+        <translation>操作未能完成，未作任何更改。</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileDocument</name>
+    <message>
+        <source>%1 was changed by another program. Reload it (F5), then do this again.</source>
+        <translation>%1 已被其他程序更改。请重新加载 (F5) 后再试一次。</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileEditor</name>
+    <message>
+        <source>&amp;Name</source>
+        <translation>名称(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Model</source>
+        <translation>型号(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Dialog &amp;type</source>
+        <translation>对话框类型(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Model cod&amp;e</source>
+        <translation>型号代码(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Add Projector</source>
+        <translation>添加投影机</translation>
+    </message>
+    <message>
+        <source>Edit Projector</source>
+        <translation>编辑投影机</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>&amp;Family</source>
+        <translation>系列(&amp;F)</translation>
+    </message>
+    <message>
+        <source>As its family</source>
+        <translation>与系列相同</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>网络</translation>
+    </message>
+    <message>
+        <source>Serial port</source>
+        <translation>串口</translation>
+    </message>
+    <message>
+        <source>Connect&amp;ion</source>
+        <translation>连接(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Address</source>
+        <translation>地址(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Port</source>
+        <translation>端口(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Port n&amp;umber</source>
+        <translation>串口号(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Baud</source>
+        <translation>波特率(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Simulated</source>
+        <translation>模拟</translation>
+    </message>
+    <message>
+        <source>&amp;Reached through</source>
+        <translation>连接方式(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Pass&amp;word</source>
+        <translation>密码(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;Device</source>
+        <translation>设备(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Still to be filled in: %1</source>
+        <translation>还需填写：%1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileFile</name>
+    <message>
+        <source>serial port %1</source>
+        <translation>串口 %1</translation>
+    </message>
+    <message>
+        <source>has %1 families; at most %2 are possible</source>
+        <translation>有 %1 个系列，最多允许 %2 个</translation>
+    </message>
+    <message>
+        <source>leads through more than %1 families</source>
+        <translation>经过的系列超过 %1 个</translation>
+    </message>
+    <message>
+        <source>makes &quot;%1&quot; like itself</source>
+        <translation>使“%1”引用了自身</translation>
+    </message>
+    <message>
+        <source>there is no family &quot;%1&quot;</source>
+        <translation>没有名为“%1”的系列</translation>
+    </message>
+    <message>
+        <source>the file must hold an object</source>
+        <translation>文件内容必须是一个对象</translation>
+    </message>
+    <message>
+        <source>&quot;projectors&quot; is missing</source>
+        <translation>缺少“projectors”</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is missing</source>
+        <translation>缺少“%1”</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is the name of projectors[%2] too</source>
+        <translation>“%1”与 projectors[%2] 重名</translation>
+    </message>
+    <message>
+        <source>there is no projector</source>
+        <translation>没有投影机</translation>
+    </message>
+    <message>
+        <source>stands here twice</source>
+        <translation>在此重复出现</translation>
+    </message>
+    <message>
+        <source>cannot read profiles %1: %2</source>
+        <translation>无法读取配置文件 %1：%2</translation>
+    </message>
+    <message>
+        <source>not a regular file</source>
+        <translation>不是普通文件</translation>
+    </message>
+    <message>
+        <source>unknown key; known are %1</source>
+        <translation>未知的键，可用的键有 %1</translation>
+    </message>
+    <message>
+        <source>must be an object</source>
+        <translation>必须是对象</translation>
+    </message>
+    <message>
+        <source>must be an array</source>
+        <translation>必须是数组</translation>
+    </message>
+    <message>
+        <source>has %1 entries; at most %2 are possible</source>
+        <translation>有 %1 项，最多允许 %2 项</translation>
+    </message>
+    <message>
+        <source>must be a text that is not empty</source>
+        <translation>必须是非空文本</translation>
+    </message>
+    <message>
+        <source>is longer than %1 bytes</source>
+        <translation>超过 %1 字节</translation>
+    </message>
+    <message>
+        <source>must be a whole number</source>
+        <translation>必须是整数</translation>
+    </message>
+    <message>
+        <source>is %1; it must be %2 to %3</source>
+        <translation>值为 %1，必须在 %2 到 %3 之间</translation>
+    </message>
+    <message>
+        <source>must be a number, a text or an object with &quot;value&quot; and &quot;name&quot;</source>
+        <translation>必须是数字、文本或含有“value”和“name”的对象</translation>
+    </message>
+    <message>
+        <source>is neither the name of a range nor a number 0 to %1</source>
+        <translation>既不是范围名称，也不是 0 到 %1 之间的数字</translation>
+    </message>
+    <message>
+        <source>must be given by its name &quot;%1&quot;</source>
+        <translation>必须使用名称“%1”</translation>
+    </message>
+    <message>
+        <source>must be [minimum, maximum] or null</source>
+        <translation>必须是 [最小值, 最大值] 或 null</translation>
+    </message>
+    <message>
+        <source>has a minimum above its maximum</source>
+        <translation>最小值大于最大值</translation>
+    </message>
+    <message>
+        <source>must be a path that begins with /</source>
+        <translation>必须是以 / 开头的路径</translation>
+    </message>
+    <message>
+        <source>must have either &quot;network&quot; or &quot;serial&quot;</source>
+        <translation>必须且只能含有“network”或“serial”之一</translation>
+    </message>
+    <message>
+        <source>must be simulated, network, serial or pjlink</source>
+        <translation>必须是 simulated、network、serial 或 pjlink</translation>
+    </message>
+    <message>
+        <source>needs a %1 connection</source>
+        <translation>需要 %1 连接</translation>
+    </message>
+    <message>
+        <source>there is no setting &quot;%1&quot;</source>
+        <translation>没有名为“%1”的设置</translation>
+    </message>
+    <message>
+        <source>is neither the name of a host nor an IP address</source>
+        <translation>既不是主机名，也不是 IP 地址</translation>
+    </message>
+</context>
+<context>
+    <name>Program</name>
+    <message>
+        <source>no profiles at %1; name a file with --profiles</source>
+        <translation>在 %1 找不到配置文件，请用 --profiles 指定文件</translation>
+    </message>
+    <message>
+        <source> or </source>
+        <translation> 或 </translation>
+    </message>
+    <message>
+        <source>%1 pictures of %2 kinds of projectors saved in %3</source>
+        <translation>已将 %2 种投影机的 %1 张图片保存到 %3</translation>
+    </message>
+    <message>
+        <source>--open: there is no projector &apos;%1&apos;; --list names all.</source>
+        <translation>--open：没有名为“%1”的投影机，用 --list 可列出全部。</translation>
+    </message>
+    <message>
+        <source>--tab: there is no tab %1; &apos;%2&apos; has tabs 0 to %3.</source>
+        <translation>--tab：没有选项卡 %1，“%2”的选项卡为 0 到 %3。</translation>
+    </message>
+    <message>
+        <source>no display; use --list, --tour or --screenshot without one.</source>
+        <translation>没有显示器，此时请使用 --list、--tour 或 --screenshot。</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectorTableModel</name>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>型号</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>代码</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>连接</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Simulated</source>
+        <translation>模拟</translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation>未连接</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>正在连接</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>已连接</translation>
+    </message>
+    <message>
+        <source>Wrong parameters</source>
+        <translation>连接参数错误</translation>
+    </message>
+    <message>
+        <source>Unknown host</source>
+        <translation>未知主机</translation>
+    </message>
+    <message>
+        <source>Not reachable</source>
+        <translation>无法访问</translation>
+    </message>
+    <message>
+        <source>No answer</source>
+        <translation>无应答</translation>
+    </message>
+    <message>
+        <source>Connection lost</source>
+        <translation>连接中断</translation>
+    </message>
+    <message>
+        <source>Answers not understood</source>
+        <translation>无法识别应答</translation>
+    </message>
+    <message>
+        <source>Other protocol version</source>
+        <translation>协议版本不符</translation>
+    </message>
+    <message>
+        <source>Password missing or wrong</source>
+        <translation>缺少密码或密码错误</translation>
+    </message>
+    <message>
+        <source>answered %1 s ago</source>
+        <translation>%1 秒前应答</translation>
+    </message>
+    <message>
+        <source>answered %1 min ago</source>
+        <translation>%1 分钟前应答</translation>
+    </message>
+    <message>
+        <source>answered %1 h ago</source>
+        <translation>%1 小时前应答</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectorView</name>
+    <message>
+        <source>&amp;Open</source>
+        <translation>打开(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Find a name, a model, a tab …</source>
+        <translation>查找名称、型号、选项卡…</translation>
+    </message>
+    <message>
+        <source>Find projectors</source>
+        <translation>查找投影机</translation>
+    </message>
+    <message>
+        <source>Projectors</source>
+        <translation>投影机</translation>
+    </message>
+    <message>
+        <source>Pro&amp;jectors</source>
+        <translation>投影机(&amp;J)</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>已打开</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractFileIconProvider</name>
+    <message>
+        <source>Drive</source>
+        <comment>All other platforms</comment>
+        <translation>驱动器</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <comment>All other platforms</comment>
+        <translation>文件夹</translation>
+    </message>
+</context>
+<context>
+    <name>RestoreDialog</name>
+    <message>
+        <source>Progress</source>
+        <translation>进度</translation>
+    </message>
+    <message>
+        <source>Apply Settings</source>
+        <translation>应用设置</translation>
+    </message>
+    <message>
+        <source>Compare Settings</source>
+        <translation>比较设置</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>筛选</translation>
+    </message>
+    <message>
+        <source>&amp;Differences only</source>
+        <translation>仅显示差异(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Projector</source>
+        <translation>投影机</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Here</source>
+        <translation>当前值</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件中的值</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>应用(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>not read</source>
+        <translation>未读取</translation>
+    </message>
+    <message>
+        <source>already so</source>
+        <translation>已一致</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>不同</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>已更改</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>被拒绝</translation>
+    </message>
+    <message>
+        <source>accepted, not yet so</source>
+        <translation>已接受，尚未生效</translation>
+    </message>
+    <message>
+        <source>refused: the projector is busy or in standby</source>
+        <translation>被拒绝：投影机正忙或处于待机</translation>
+    </message>
+    <message>
+        <source>not confirmed</source>
+        <translation>未确认</translation>
+    </message>
+    <message>
+        <source>skipped: this model does not have it</source>
+        <translation>已跳过：此型号没有该设置</translation>
+    </message>
+    <message>
+        <source>&amp;Compare Again</source>
+        <translation>重新比较(&amp;C)</translation>
+    </message>
+    <message>
+        <source>skipped: this projector does not offer it</source>
+        <translation>已跳过：此投影机不提供该设置</translation>
+    </message>
+    <message>
+        <source>skipped: it is not one to put back</source>
+        <translation>已跳过：该设置不可还原</translation>
+    </message>
+    <message>
+        <source>skipped: this model does not take the value</source>
+        <translation>已跳过：此型号不接受该值</translation>
+    </message>
+    <message>
+        <source>%1 changed</source>
+        <translation>已更改 %1 项</translation>
+    </message>
+    <message>
+        <source>%1 different</source>
+        <translation>不同 %1 项</translation>
+    </message>
+    <message>
+        <source>%1 already so</source>
+        <translation>已一致 %1 项</translation>
+    </message>
+    <message>
+        <source>%1 not yet so</source>
+        <translation>尚未生效 %1 项</translation>
+    </message>
+    <message>
+        <source>%1 refused</source>
+        <translation>被拒绝 %1 项</translation>
+    </message>
+    <message>
+        <source>%1 not confirmed</source>
+        <translation>未确认 %1 项</translation>
+    </message>
+    <message>
+        <source>%1 not read</source>
+        <translation>未读取 %1 项</translation>
+    </message>
+    <message>
+        <source>%1 skipped</source>
+        <translation>已跳过 %1 项</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>Beforehand: other sources and modes</source>
+        <translation>预先恢复：其他输入源和模式</translation>
+    </message>
+    <message>
+        <source>%1 settings</source>
+        <translation>%1 项设置</translation>
+    </message>
+    <message>
+        <source>Waiting for the projector of an open dialog…</source>
+        <translation>正在等待已打开对话框的投影机…</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsActions</name>
+    <message>
+        <source>Save Se&amp;ttings…</source>
+        <translation>保存设置(&amp;T)…</translation>
+    </message>
+    <message>
+        <source>&amp;Compare with File…</source>
+        <translation>与文件比较(&amp;C)…</translation>
+    </message>
+    <message>
+        <source>A&amp;pply Settings…</source>
+        <translation>应用设置(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>%1: no answer</source>
+        <translation>%1：无应答</translation>
+    </message>
+    <message>
+        <source>%1: nothing can be read</source>
+        <translation>%1：无法读取任何设置</translation>
+    </message>
+    <message>
+        <source>%1: %2 settings cannot be read and are left out</source>
+        <translation>%1：有 %2 项设置无法读取，未保存</translation>
+    </message>
+    <message>
+        <source>Save Settings</source>
+        <translation>保存设置</translation>
+    </message>
+    <message>
+        <source>Settings (*.json)</source>
+        <translation>设置 (*.json)</translation>
+    </message>
+    <message>
+        <source>Save Settings in Folder</source>
+        <translation>将设置保存到文件夹</translation>
+    </message>
+    <message>
+        <source>Reading settings…</source>
+        <translation>正在读取设置…</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Open Settings</source>
+        <translation>打开设置文件</translation>
+    </message>
+    <message>
+        <source>Waiting for the projector of an open dialog…</source>
+        <translation>正在等待已打开对话框的投影机…</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsFile</name>
+    <message>
+        <source>cannot read %1: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>标准输入</translation>
+    </message>
+    <message>
+        <source>%1 stands here twice</source>
+        <translation>%1 在此重复出现</translation>
+    </message>
+    <message>
+        <source>%1; nothing was sent</source>
+        <translation>%1；未发送任何设置</translation>
+    </message>
+    <message>
+        <source>%1; no more was sent</source>
+        <translation>%1；其余设置未发送</translation>
+    </message>
+</context>
+<context>
+    <name>Snapshot</name>
+    <message>
+        <source>a whole number is missing here</source>
+        <translation>此处缺少整数</translation>
+    </message>
+    <message>
+        <source>must be a whole number from %1 to %2, and is %3</source>
+        <translation>必须是 %1 到 %2 的整数，现为 %3</translation>
+    </message>
+    <message>
+        <source>must be a line of text</source>
+        <translation>必须是一行文本</translation>
+    </message>
+    <message>
+        <source>must be an object</source>
+        <translation>必须是对象</translation>
+    </message>
+    <message>
+        <source>this is no file of saved settings</source>
+        <translation>这不是设置文件</translation>
+    </message>
+    <message>
+        <source>only version %1 is known</source>
+        <translation>仅支持版本 %1</translation>
+    </message>
+    <message>
+        <source>must be an array</source>
+        <translation>必须是数组</translation>
+    </message>
+    <message>
+        <source>has more than %1 entries</source>
+        <translation>超过 %1 项</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; stands here twice</source>
+        <translation>“%1”在此重复出现</translation>
+    </message>
+    <message>
+        <source>is larger than 4 MiB</source>
+        <translation>大于 4 MiB</translation>
+    </message>
+    <message>
+        <source>must hold an object</source>
+        <translation>内容必须是一个对象</translation>
+    </message>
+    <message>
+        <source>line %1: </source>
+        <translation>第 %1 行：</translation>
+    </message>
+</context>
+<context>
+    <name>WholeFile</name>
+    <message>
+        <source>cannot write %1: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+</context>
+</TS>

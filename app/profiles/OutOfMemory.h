@@ -1,0 +1,10 @@
+#pragma once
+
+/// From now on a failed allocation ends the program, with one line on standard error behind
+/// `program` and exit code 1. Nobody goes on after it: what threw in mid-work, the toolkit
+/// included, may have left locks held. `program` must live as long as the process.
+void EndWhenOutOfMemory(const char* program);
+
+/// Ends the program in that way. Where an allocation of the toolkit's own failed, the exception
+/// comes first, and whoever catches it calls this.
+[[noreturn]] void EndOutOfMemory();

@@ -1,0 +1,35 @@
+#include "app/profiles/PatientChannel.h"
+
+#include <thread>
+
+PjtReply PatientChannel::Execute(const PjtCommand& command) {
+  using Clock = std::chrono::steady_clock;
+  last_ = {.result = RefusedResult(command.operation), .answered = false, .unsent = true};
+  everAnswered_ = everAnswered_ || Connection() == ConnectionState::Connected;
+  const bool isAbsolute = IsAbsolute(command.operation);
+  const int attempts = IsRead(command.operation) ? kReadAttempts : kChangeAttempts;
+  const auto begin = Clock::now();
+  auto asked = begin;
+  bool wasSent = false;
+  for (int attempt = 0; attempt < attempts && !gone_; ++attempt) {
+    if (attempt > 0) {
+      const bool mayRepeat = everAnswered_ && (isAbsolute || !wasSent);
+      if (!mayRepeat || Clock::now() >= begin + 2 * timeOut_) break;
+      std::this_thread::sleep_until(asked + kPause);
+    }
+    asked = Clock::now();
+    last_ = Inner().Execute(command);
+    wasSent = wasSent || last_.answered || !last_.unsent;
+    if (last_.answered) break;
+  }
+  last_.unsent = !wasSent;
+  // A step that got lost says nothing yet: the next command does.
+  gone_ = gone_ || (!last_.answered && (isAbsolute || !wasSent || !everAnswered_));
+  everAnswered_ = everAnswered_ || last_.answered;
+  return last_;
+}
+
+void PatientChannel::GiveUp() {
+  gone_ = true;
+  last_ = {.answered = false, .unsent = true};
+}

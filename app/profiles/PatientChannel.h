@@ -1,0 +1,46 @@
+#pragma once
+
+#include <chrono>
+#include <memory>
+#include <utility>
+
+#include "device/ForwardingChannel.h"
+
+/// Asks again where an answer got lost, and knows when a projector is gone: one that has never
+/// answered is after the first command, any other after the last repetition. Then every command is
+/// unanswered at once, and unsent.
+///
+/// A command always has the whole time of the channel behind. A read is asked up to three times, a
+/// change that is absolute up to twice, any other only once, unless it never left. A repetition
+/// begins only within two time-outs, so that a projector that falls silent costs two of them and
+/// not one per command.
+class PatientChannel : public ForwardingChannel {
+ public:
+  static constexpr int kReadAttempts = 3;
+  static constexpr int kChangeAttempts = 2;
+  static constexpr std::chrono::milliseconds kPause{50};  ///< At least, from one to the next.
+
+  /// `timeOut` is that of the channel behind, for one answer.
+  PatientChannel(std::shared_ptr<ProjectorChannel> inner, std::chrono::milliseconds timeOut)
+      : ForwardingChannel(std::move(inner)),
+        timeOut_(timeOut),
+        everAnswered_(Connection() == ConnectionState::Connected) {}
+
+  PjtReply Execute(const PjtCommand& command) override;
+
+  /// Counts the projector for gone, as somebody else found out.
+  void GiveUp();
+  bool IsGone() const { return gone_; }
+  /// The reply to the last command; before the first one that says nothing wrong.
+  const PjtReply& Last() const { return last_; }
+  /// Whether the last command was answered.
+  bool HasAnswered() const { return last_.answered; }
+  /// Whether it was to something that the projector has, as far as that is known.
+  bool IsOffered() const { return last_.offered; }
+
+ private:
+  const std::chrono::milliseconds timeOut_;
+  bool everAnswered_;
+  bool gone_ = false;
+  PjtReply last_;
+};

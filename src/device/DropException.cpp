@@ -1,0 +1,14 @@
+#include "device/DropException.h"
+
+#include <new>
+
+void DropException() noexcept {
+  try {
+    try {
+      throw;
+    } catch (const std::bad_alloc&) {
+      if (const std::new_handler handler = std::get_new_handler()) handler();
+    }
+  } catch (...) {  // also what the handler throws, as it may
+  }
+}

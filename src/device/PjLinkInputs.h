@@ -1,0 +1,55 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "AdvancedControlExport.h"
+#include "device/ModelData.h"
+#include "device/PjLinkSession.h"
+
+/// An input of a projector.
+struct PjLinkInput {
+  std::int32_t number =
+      0;             ///< What reading the input source yields, as `PjLink::InputNumber` says.
+  std::string name;  ///< UTF-8; the projector's own, or else its kind and place: "Digital 1".
+
+  friend bool operator==(const PjLinkInput&, const PjLinkInput&) = default;
+};
+
+/// The inputs as a model's source list; those that it has no room for are left out. Of inputs of
+/// one name each has its two characters behind it: "HDMI (31)".
+ADVANCED_CONTROL_EXPORT SourceList SourcesOf(const std::vector<PjLinkInput>& inputs);
+
+/// What is known of a projector's inputs, and what to ask next to know more: the list, then the
+/// name of each. Where a list has no room for all, the one that plays takes the last place.
+class ADVANCED_CONTROL_EXPORT PjLinkInputs {
+ public:
+  /// The question to ask next; nothing when all is known.
+  std::optional<PjLinkQuestion> Next() const;
+  /// What became of that question. False where it has to be asked again.
+  bool Take(const PjLinkTold& told);
+  /// Does without the name that `Next` asks for, until `Forget`.
+  void PassOver();
+  bool IsListKnown() const { return !codes_.empty(); }
+
+  /// The input that plays.
+  void Play(int number) { playing_ = number; }
+  const std::vector<PjLinkInput>& Known() const { return inputs_; }
+  /// Takes all inputs for known that are remembered from an earlier session.
+  void Remember(std::vector<PjLinkInput> inputs);
+  void Forget() { *this = {}; }
+
+  /// The question for an input's name, and the input with what came of it.
+  static std::optional<PjLinkQuestion> NameOf(int number);
+  static PjLinkInput Named(int number, const std::string& name);
+
+ private:
+  std::optional<std::string> NextCode() const;
+  void Add(PjLinkInput input);
+
+  std::vector<std::string> codes_;
+  std::vector<PjLinkInput> inputs_;  ///< Of the first of `codes_`, then of what plays beyond them.
+  int playing_ = 0;                  ///< 0 before it is known.
+};

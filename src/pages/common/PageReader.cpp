@@ -1,0 +1,169 @@
+#include "pages/common/PageReader.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QRegion>
+
+#include "i18n/LocalizeControlTexts.h"
+#include "pages/common/PageVeil.h"
+#include "settings/CatalogNumbers.h"
+#include "settings/RowUse.h"
+
+PageReader::PageReader(RowHost& host, const Rows& rows) : host_(host), rows_(rows) {}
+
+PageReader::~PageReader() = default;
+
+CPjtInterface& PageReader::Projector() const { return *host_.Dialog().projector; }
+
+PageReader::Reading::Reading(PageReader& reader) : reader_(reader) {
+  if (reader_.readings_++ > 0) return;
+  reader_.sentBefore_ = reader_.Projector().Sent().commands;
+  reader_.MarkUnread();
+}
+
+PageReader::Reading::~Reading() {
+  if (--reader_.readings_ > 0) return;
+  if (reader_.Projector().IsAbandoned()) {
+    reader_.MarkUnread();
+    return;
+  }
+  for (const auto& row : reader_.rows_) {
+    row->SetUnread(false);
+    // What stands beside a list may have followed it.
+    if (row->CurrentNote() != RowView::Note::None) row->GreyCaption();
+  }
+  reader_.UpdateVeil();
+}
+
+void PageReader::MarkUnread() {
+  for (const auto& row : rows_) row->SetUnread(row->IsPresent() && row->ShowsSetting());
+  if (veil_ != nullptr) UpdateVeil();
+}
+
+std::vector<PjtCommand> PageReader::Reads() const {
+  std::vector<PjtCommand> commands;
+  OfSource asked = OfSource::None;
+  for (const auto& row : rows_) {
+    if (!row->IsPresent()) continue;
+    if (const OfSource of = SourceOf(row->Row()); of != OfSource::None) {
+      if (std::exchange(asked, of) == of) continue;
+      for (const Call& call : SourceQuestions(of)) commands.push_back(call.Command());
+    } else if (const auto call = ReadingOf(row->Row(), host_.Dialog().Model())) {
+      commands.push_back(call->Command());
+    }
+  }
+  return commands;
+}
+
+// What can be asked for together from row `first` on: all up to the question for a source that is
+// not known yet, which decides what follows.
+std::vector<PjtCommand> PageReader::ReadsFrom(std::size_t first, OfSource known,
+                                              Source source) const {
+  std::vector<PjtCommand> commands;
+  for (std::size_t i = first; i < rows_.size(); ++i) {
+    if (!rows_[i]->IsPresent()) continue;
+    const PageRow& row = rows_[i]->Row();
+    const OfSource of = SourceOf(row);
+    if (of != OfSource::None && of != known) {
+      for (const Call& call : SourceQuestions(of)) commands.push_back(call.Command());
+      break;
+    }
+    const auto call = ReadingOf(row, host_.Dialog().Model());
+    if (!call || (of != OfSource::None && !source)) continue;
+    commands.push_back((of == OfSource::None ? *call : At(*call, *source)).Command());
+  }
+  return commands;
+}
+
+void PageReader::ReadAll() {
+  const Reading reading(*this);
+  CPjtInterface& projector = Projector();
+  projector.Announce(ReadsFrom(0, OfSource::None, {}));
+  OfSource asked = OfSource::None;
+  Source source;
+  CPjtInterface::Tally before;
+  for (std::size_t i = 0; i < rows_.size(); ++i) {
+    RowView& row = *rows_[i];
+    if (!row.IsPresent()) continue;
+    const OfSource of = SourceOf(row.Row());
+    if (of != OfSource::None && std::exchange(asked, of) != of) {
+      before = projector.Sent();
+      source = AskFor(of);
+      if (projector.IsAbandoned()) return;
+      host_.ShowSource(source);
+      projector.Announce(ReadsFrom(i, of, source));
+    }
+    if (of == OfSource::None) {
+      Read(row, 0);
+    } else if (source) {
+      Read(row, *source);
+    } else {
+      Read(row, source, before);  // why the source is unknown is why the row is
+    }
+    if (projector.IsAbandoned()) return;
+  }
+  for (const auto& row : rows_) row->OnPageRead();
+}
+
+void PageReader::Read(RowView& row, int source) { Read(row, source, Projector().Sent()); }
+
+void PageReader::Read(RowView& row, Source source, const CPjtInterface::Tally& before) {
+  row.Read(source);
+  if (Projector().IsAbandoned()) return;
+  row.SetUnread(false);
+  if (row.ShowsSetting()) {
+    const RowView::Note note = row.NoteAfter(before);
+    row.Tell(note);
+    const bool isRead = note == RowView::Note::None || note == RowView::Note::Range;
+    if (isRead && source && ReadingOf(row.Row(), host_.Dialog().Model())) row.RememberOpened();
+  }
+  if (veil_ != nullptr) UpdateVeil();
+}
+
+PageReader::Source PageReader::AskFor(OfSource of) {
+  const auto source = AskSource(Projector(), of, host_.Dialog().Model().ModelCode);
+  if (!source || of == OfSource::None) return source;
+  for (const auto& row : rows_) {
+    if (SourceOf(row->Row()) == of) row->SetSource(*source);
+  }
+  return source;
+}
+
+QString PageReader::WaitingText() const {
+  if (readings_ == 0) return CatalogString(kListCategory, ListText::Waiting);
+  const int next = Projector().Sent().commands - sentBefore_ + 1;
+  auto total = static_cast<int>(Reads().size());
+  for (const auto& row : rows_) {
+    total += row->IsPresent() && SourceOf(row->Row()) != OfSource::None;
+  }
+  return CatalogString(kListCategory, ListText::Reading, std::int64_t{next},
+                       std::int64_t{std::max(next, total)});
+}
+
+void PageReader::ShowWaiting(bool waiting) {
+  waiting_ = waiting;
+  UpdateVeil();
+}
+
+void PageReader::UpdateVeil() {
+  SettingsDialog& dialog = host_.Dialog();
+  QRegion unread;
+  QRect rows;
+  for (const auto& row : rows_) {
+    if (!row->IsPresent()) continue;
+    const QRect place = dialog.RowRect(ControlOf(row->Row()));
+    rows = rows.united(place);
+    if (row->IsUnread()) unread += place;
+  }
+  // A read that was broken off stays dimmed.
+  if (!waiting_ && (unread.isEmpty() || readings_ > 0 || veil_ == nullptr)) {
+    delete veil_;
+    return;
+  }
+  // Beside the rows, so that it scrolls with them.
+  if (veil_ == nullptr) {
+    veil_ = new PageVeil(*dialog.GetDlgItem(ControlOf(rows_.front()->Row()))->parentWidget());
+  }
+  veil_->Cover(dialog.isWindow() ? rows : dialog.rect(), unread);
+}

@@ -1,0 +1,108 @@
+#include "pages/common/RowMenus.h"
+
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+
+#include "pages/common/NumberQuestion.h"
+#include "pages/common/RowMenu.h"
+#include "toolkit/CDialog.h"
+
+namespace {
+
+RowMenu::Choice ChoiceOf(bool exists, bool usable) {
+  if (!exists) return RowMenu::Choice::Absent;
+  return usable ? RowMenu::Choice::Usable : RowMenu::Choice::Grey;
+}
+
+}  // namespace
+
+RowMenus::RowMenus(RowHost& host, const PageReader::Rows& rows) : host_(host), rows_(rows) {}
+
+// Some platforms know only the menu key.
+bool RowMenus::eventFilter(QObject*, QEvent* event) {
+  if (event->type() == QEvent::ContextMenu) {
+    auto* asked = static_cast<QContextMenuEvent*>(event);
+    asked->setAccepted(Open(asked->pos(), asked->globalPos()));
+    return true;
+  }
+  if (event->type() != QEvent::KeyPress) return false;
+  const auto* key = static_cast<const QKeyEvent*>(event);
+  const QWidget* focus = host_.Dialog().focusWidget();
+  const bool isMenuKey = key->key() == Qt::Key_F10 && key->modifiers() == Qt::ShiftModifier;
+  if (!isMenuKey || focus == nullptr) return false;
+  const QPoint middle = focus->rect().center();
+  return Open(focus->mapTo(&host_.Dialog(), middle), focus->mapToGlobal(middle));
+}
+
+RowView* RowMenus::RowAt(QPoint at) const {
+  SettingsDialog& dialog = host_.Dialog();
+  RowView* const own = host_.RowOf(dialog.childAt(at));
+  if (own != nullptr && own->IsPresent()) return own;
+  RowView* beside = nullptr;
+  for (const auto& row : rows_) {
+    if (!row->IsPresent() || !dialog.RowRect(ControlOf(row->Row())).contains(at)) continue;
+    if (beside != nullptr) return nullptr;
+    beside = row.get();
+  }
+  return beside;
+}
+
+bool RowMenus::Open(QPoint at, QPoint onScreen) {
+  RowView* const found = RowAt(at);
+  if (found == nullptr || !ReadingOf(found->Row(), host_.Dialog().Model())) return false;
+  RowView& row = *found;
+  CDialog& dialog = host_.Dialog();
+  const auto opened = row.Opened();
+  auto* menu = new RowMenu(
+      {.caption = row.Caption(),
+       .value = row.Text(),
+       .note = row.NoteText(),
+       .opened = opened ? row.TextAt(*opened) : QString(),
+       .putBack = ChoiceOf(row.CanMove(), opened && row.CanMoveTo(*opened)),
+       .enterValue = ChoiceOf(row.Numbers().has_value(), row.IsUsable() && row.Position())},
+      &dialog);
+  // Not before the menu has ended: what they start may wait for the projector.
+  connect(
+      menu, &RowMenu::PutBack, &dialog, [this, &row] { PutBack(row); }, Qt::QueuedConnection);
+  connect(
+      menu, &RowMenu::EnterValue, &dialog, [this, &row] { AskForNumber(row); },
+      Qt::QueuedConnection);
+  menu->popup(onScreen);
+  return true;
+}
+
+// The dialog may go on or end while this is asked in it.
+void RowMenus::AskForNumber(RowView& row) {
+  const Range range = row.Numbers().value_or(kUnbounded);
+  auto* question = new NumberQuestion(row.Caption(), range,
+                                      row.Position().value_or(range.minimum),
+                                      host_.Dialog().window());
+  connect(question, &NumberQuestion::Entered, &host_.Dialog(),
+          [this, &row](int position) { MoveTo(row, position); });
+  question->open();
+}
+
+bool RowMenus::IsBusy() const {
+  const auto* top = qobject_cast<const CDialog*>(host_.Dialog().window());
+  return top == nullptr || top->IsBusy();
+}
+
+void RowMenus::MoveTo(RowView& row, int position) {
+  if (!IsBusy() && host_.Dialog().isVisible()) row.MoveTo(position);
+}
+
+void RowMenus::PutBack(RowView& row) {
+  if (IsBusy()) return;
+  if (const OfSource of = SourceOf(row.Row()); of != OfSource::None) {
+    {
+      const CDialog::Busy busy(&host_.Dialog());
+      host_.AskFor(of);
+    }
+    if (!host_.Dialog().isVisible()) return;
+    if (!row.Opened()) {
+      host_.ReadAgain();  // of another source now: what was shown is its predecessor's
+      return;
+    }
+  }
+  if (row.Opened()) MoveTo(row, *row.Opened());
+}

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QObject>
+#include <QPoint>
+
+#include "pages/common/PageReader.h"
+
+/// The context menus of a page's rows: filters the events of the page's dialog, opens a menu where
+/// a person asks for it, and does what is chosen in it.
+class RowMenus final : public QObject {
+ public:
+  /// `host` and `rows` outlive the menus.
+  RowMenus(RowHost& host, const PageReader::Rows& rows);
+
+ protected:
+  bool eventFilter(QObject* dialog, QEvent* event) override;
+
+ private:
+  /// The row at a point of the dialog; null where it cannot be told which is meant.
+  RowView* RowAt(QPoint at) const;
+  bool Open(QPoint at, QPoint onScreen);
+  bool IsBusy() const;
+  void AskForNumber(RowView& row);
+  void MoveTo(RowView& row, int position);
+  void PutBack(RowView& row);
+
+  RowHost& host_;
+  const PageReader::Rows& rows_;
+};

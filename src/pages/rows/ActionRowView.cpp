@@ -1,0 +1,31 @@
+#include "pages/rows/ActionRowView.h"
+
+#include "pages/rows/EntryTexts.h"
+#include "settings/RowUse.h"
+#include "toolkit/CComboBox.h"
+
+std::vector<RowView::Operated> ActionRowView::OperatedControls() const {
+  std::vector<Operated> operated{{Notification::Event::Clicked, row_.control}};
+  if (row_.list != 0) operated.push_back({Notification::Event::Passive, row_.list});
+  return operated;
+}
+
+void ActionRowView::Bind() {
+  list_ = row_.list != 0 ? &Dialog().Item<CComboBox>(row_.list) : nullptr;
+}
+
+void ActionRowView::Prepare() {
+  if (list_ != nullptr) FillList(*list_, row_.entries.Of(Model()));
+}
+
+void ActionRowView::OnPageRead() {
+  if (list_ != nullptr && list_->currentIndex() < 0) list_->Select(0);
+}
+
+void ActionRowView::Act(int) {
+  const int position = list_ != nullptr ? list_->currentIndex() : 0;
+  if (position < 0) return;
+  const bool done = Perform(Projector(), row_.call, position).accepted;
+  ReadAgainAfter(row_.rereads, done);
+  if (!done && row_.error != 0) Dialog().ShowError(row_.error);
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "pages/rows/RowView.h"
+
+class CComboBox;
+
+/// A button that makes the projector do something, with a list beside it or without.
+class ActionRowView final : public RowView {
+ public:
+  ActionRowView(const PageTable& table, const PageRow& row, RowHost& host)
+      : RowView(table, row, host), row_(std::get<ActionRow>(row)) {}
+
+  std::vector<Operated> OperatedControls() const override;
+  void Bind() override;
+  void Prepare() override;
+  bool ShowsSetting() const override { return false; }
+  void OnPageRead() override;
+  void Act(int control) override;
+
+ private:
+  const ActionRow& row_;
+  CComboBox* list_ = nullptr;
+};

@@ -1,0 +1,18 @@
+#include "pages/rows/EntryTexts.h"
+
+#include "i18n/LocalizeControlTexts.h"
+#include "settings/CatalogNumbers.h"
+#include "toolkit/CComboBox.h"
+
+QString PlainText(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QString TextOf(const ListEntry& entry) {
+  return entry.text ? CatalogString(kListCategory, *entry.text) : PlainText(entry.name);
+}
+
+void FillList(CComboBox& list, std::span<const ListEntry> entries) {
+  list.clear();
+  for (const ListEntry& entry : entries) list.Add(TextOf(entry), entry.value);
+}

@@ -1,0 +1,100 @@
+#include "pages/rows/ListRowView.h"
+
+#include <algorithm>
+
+#include "pages/rows/EntryTexts.h"
+#include "settings/RowUse.h"
+#include "toolkit/CComboBox.h"
+
+std::vector<RowView::Operated> ListRowView::OperatedControls() const {
+  return {{Notification::Event::SelChange, row_.control}};
+}
+
+void ListRowView::Bind() { list_ = &Dialog().Item<CComboBox>(row_.control); }
+
+void ListRowView::Prepare() { FillList(*list_, row_.entries.Of(Model())); }
+
+// The entries keep their texts and stand for what the row's own entries at their places do.
+void ListRowView::UseTemplate() {
+  const std::vector<ListEntry> entries = row_.entries.Of({});
+  const int count = std::min(list_->count(), static_cast<int>(entries.size()));
+  for (int i = 0; i < count; ++i) {
+    list_->setItemData(i, entries[static_cast<std::size_t>(i)].value);
+  }
+}
+
+void ListRowView::Refill(const ModelData& before) {
+  if (row_.entries.Of(before) != row_.entries.Of(Model())) Prepare();
+}
+
+void ListRowView::Read(Source source) {
+  if (!row_.read) return;
+  const auto value = ReadSetting(source);
+  if (Projector().IsAbandoned()) return;
+  if (!value) {
+    if (row_.rules.failedReadDisables) list_->setEnabled(false);
+    return;
+  }
+  if (row_.rules.noEntry == NoEntry::Ignored && list_->findData(*value) < 0) return;
+  list_->setEnabled(true);
+  Select(*value);
+  if (list_->currentIndex() >= 0) return;
+  if (row_.rules.placeholder.Of(Model().ModelCode)) list_->Select(list_->count() - 1);
+}
+
+void ListRowView::Select(int value) {
+  if (list_->SelectValue(value)) return;
+  if (row_.rules.noEntry == NoEntry::Clears) list_->Select(-1);
+  if (row_.rules.noEntry == NoEntry::IsPosition) list_->Select(value);
+  if (row_.rules.noEntry == NoEntry::IsOrdinal) list_->Select(value - 1);
+}
+
+void ListRowView::Act(int) {
+  const auto chosen = list_->SelectedValue();
+  if (!chosen || !row_.send) return;
+  const auto source = Host().AskFor(row_.of);
+  if (!source) return;
+  const Sending how{.text = list_->currentText().toStdString(),
+                    .source = source,
+                    .position = list_->currentIndex()};
+  const Sent sent = SendRow(Projector(), Row(), Model(), *chosen, how);
+  if (sent == Sent::Nothing) {
+    if (const auto value = ReadSetting(source)) list_->SelectValue(*value);
+    return;
+  }
+  if (row_.rules.readsBackAlways) Host().ReadRow(*this, *source);
+  if (sent == Sent::Accepted) return;
+  if (RefusedIsReadBack() || row_.rules.refused != Refused::Silent) ReadBack(*source);
+  if (row_.rules.error != 0) Dialog().ShowError(row_.rules.error);
+}
+
+void ListRowView::ReadBack() {
+  if (const auto source = Host().AskFor(row_.of)) ReadBack(*source);
+}
+
+void ListRowView::ReadBack(int source) {
+  const auto value = ReadSetting(source);
+  if (!value) return;
+  if (row_.rules.refused == Refused::ReadsBackPosition) {
+    list_->Select(*value);
+  } else {
+    Select(*value);
+  }
+}
+
+std::optional<int> ListRowView::Position() const {
+  return list_->currentIndex() >= 0 ? std::optional(list_->currentIndex()) : std::nullopt;
+}
+
+QString ListRowView::TextAt(int position) const { return list_->itemText(position); }
+
+bool ListRowView::CanMoveTo(int position) const {
+  return IsUsable() && position != list_->currentIndex() && position >= 0 &&
+         position < list_->count();
+}
+
+void ListRowView::MoveTo(int position) {
+  if (CanMoveTo(position)) list_->Pick(position);
+}
+
+bool ListRowView::HasNoEntries() const { return list_->count() == 0; }

@@ -1,0 +1,40 @@
+#include "pages/rows/ResetRowView.h"
+
+#include <utility>
+
+#include "i18n/LocalizeControlTexts.h"
+#include "settings/CatalogNumbers.h"
+#include "settings/RowUse.h"
+#include "toolkit/CComboBox.h"
+
+std::vector<RowView::Operated> ResetRowView::OperatedControls() const {
+  return {{Notification::Event::Clicked, row_.control}, {Notification::Event::Passive, row_.list}};
+}
+
+void ResetRowView::Bind() { list_ = &Dialog().Item<CComboBox>(row_.list); }
+
+void ResetRowView::Prepare() {
+  list_->clear();
+  for (std::size_t i = 0; i < row_.entries.size(); ++i) {
+    const ResetEntry& entry = row_.entries[i];
+    const RowView* of = Host().RowOf(Dialog().GetDlgItem(entry.of));
+    if (entry.of != 0 && (of == nullptr || !of->IsPresent())) continue;
+    // The entry's place in the table rides along: what is listed does not tell it.
+    list_->Add(CatalogString(kListCategory, entry.text), static_cast<int>(i));
+  }
+}
+
+void ResetRowView::OnPageRead() {
+  if (list_->currentIndex() < 0) list_->Select(0);
+}
+
+void ResetRowView::Act(int) {
+  const auto chosen = list_->SelectedValue();
+  const bool isListed = chosen && std::cmp_less(*chosen, row_.entries.size());
+  const ResetEntry entry =
+      isListed ? row_.entries[static_cast<std::size_t>(*chosen)] : ResetEntry{};
+  const bool done = isListed && Perform(Projector(), Named(entry.operation)).accepted;
+  RowView* const of = Host().RowOf(Dialog().GetDlgItem(entry.of));
+  if (done && row_.rereads == Rereads::ItsRow && of != nullptr) of->ShowAgain();
+  ReadAgainAfter(row_.rereads, done);
+}

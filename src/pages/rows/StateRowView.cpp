@@ -1,0 +1,36 @@
+#include "pages/rows/StateRowView.h"
+
+#include <QLabel>
+
+#include "i18n/LocalizeControlTexts.h"
+#include "pages/rows/EntryTexts.h"
+#include "settings/CatalogNumbers.h"
+
+namespace {
+
+// A state's text is put into a catalog text of its own; both may be long.
+constexpr int kFramedTextSize = 2048;
+
+}  // namespace
+
+void StateRowView::Bind() { label_ = &Dialog().Item<QLabel>(row_.control); }
+
+void StateRowView::Read(Source source) {
+  const auto value = ReadSetting(source);
+  if (Projector().IsAbandoned()) return;
+  label_->setText(value ? TextOfState(*value) : QStringLiteral("-"));
+  Host().ShowState(value);
+}
+
+QString StateRowView::TextOfState(int value) const {
+  const std::vector<ListEntry> texts = row_.texts.Of(Model());
+  const int position = PositionOf(texts, value);
+  const QString text = position >= 0         ? TextOf(texts[static_cast<std::size_t>(position)])
+                       : row_.otherwise != 0 ? CatalogString(kListCategory, row_.otherwise, value)
+                                             : QString();
+  if (row_.frame == 0) return text;
+  return QString::fromStdString(
+      CatalogText<kFramedTextSize>(kListCategory, row_.frame, text.toStdString()));
+}
+
+QString StateRowView::Text() const { return label_->text(); }

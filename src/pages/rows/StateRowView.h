@@ -1,0 +1,24 @@
+#pragma once
+
+#include "pages/rows/RowView.h"
+
+class QLabel;
+
+/// A state of the projector, shown as a text, or as a dash where it cannot be read. What a person
+/// can do about it is its page's.
+class StateRowView final : public RowView {
+ public:
+  StateRowView(const PageTable& table, const PageRow& row, RowHost& host)
+      : RowView(table, row, host), row_(std::get<StateRow>(row)) {}
+
+  void Bind() override;
+  void Read(Source source) override;
+  QString Text() const override;
+  bool CanMove() const override { return false; }
+
+ private:
+  QString TextOfState(int value) const;
+
+  const StateRow& row_;
+  QLabel* label_ = nullptr;
+};

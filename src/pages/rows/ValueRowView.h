@@ -1,0 +1,57 @@
+#pragma once
+
+#include "pages/rows/RowView.h"
+#include "settings/RowUse.h"
+
+class CSliderCtrl;
+class QAbstractButton;
+class QLineEdit;
+
+/// A setting with a number: − button, slider, + button and number field, or a field with two arrow
+/// buttons and no slider. It remembers the last value known, which a refused change goes back to.
+/// Values are shown values unless told otherwise.
+class ValueRowView final : public RowView {
+ public:
+  ValueRowView(const PageTable& table, const PageRow& row, RowHost& host)
+      : RowView(table, row, host), row_(std::get<ValueRow>(row)) {}
+
+  std::vector<int> Controls() const override;
+  std::vector<Operated> OperatedControls() const override;
+  void Bind() override;
+  void Prepare() override;
+  void Read(Source source) override;
+  void ShowAgain() override;
+  void Act(int control) override;
+  std::optional<int> Position() const override;
+  bool CanMoveTo(int position) const override;
+  void MoveTo(int position) override;
+  std::optional<Range> Numbers() const override;
+  bool IsUsable() const override;
+
+  /// The slider was released. False when the projector refused the position.
+  bool Release();
+
+  // For pages with rules of their own.
+  std::int16_t Remembered() const { return remembered_; }
+  void MoveSlider(int value);
+  void ShowNumber(int value);
+  /// Takes −, slider and + in or out of use; a disabled row's field is empty.
+  void Enable() { EnableControls(true); }
+  void Disable();
+
+ private:
+  void EnableControls(bool enable);
+  /// Shows a device value, and gives the shown one.
+  int ShowDevice(int value);
+  Stepped Step(bool upwards);
+  void StepTo(int number);
+  void Refuse(int position, bool told);
+  void RunReset();
+
+  const ValueRow& row_;
+  QAbstractButton* minus_ = nullptr;
+  CSliderCtrl* slider_ = nullptr;
+  QAbstractButton* plus_ = nullptr;
+  QLineEdit* field_ = nullptr;
+  std::int16_t remembered_ = 0;
+};

@@ -1,0 +1,135 @@
+// What one command asks of a PJLink projector, and what the next one need not ask again.
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+#include "app/profiles/ProjectorAccess.h"
+#include "device/CommandCode.h"
+#include "tests/device/BadProjector.h"
+#include "tests/device/Peer.h"
+#include "tests/support/Programs.h"
+
+namespace {
+
+/// Lets a projector be reached at a port, for so many connections.
+std::vector<Peer::Behaviour> Serving(BadProjector& projector) {
+  return {[&projector](Peer::End& end) {
+    if (!projector.Connect(std::chrono::steady_clock::now())) return;
+    end.Send(projector.greeting);
+    std::string held;
+    for (auto bytes = end.Receive(); !bytes.empty(); bytes = end.Receive()) {
+      held += bytes;
+      for (auto stop = held.find('\r'); stop != std::string::npos; stop = held.find('\r')) {
+        const auto now = std::chrono::steady_clock::now();
+        end.Send(projector.Receive(held.substr(0, stop), now).value_or(""));
+        held.erase(0, stop + 1);
+      }
+    }
+    projector.Close(std::chrono::steady_clock::now());
+  }};
+}
+
+class PjLinkAccess : public testing::Test {
+ protected:
+  PjLinkAccess() { qputenv("XDG_CACHE_HOME", folder_.path().toUtf8()); }
+  ~PjLinkAccess() override { qunsetenv("XDG_CACHE_HOME"); }
+
+  /// What is asked of the projector while a program does this with it.
+  std::string Asked(const std::function<void(ProjectorAccess&)>& use) {
+    projector_.heard.clear();
+    const int before = projector_.connections;
+    {
+      ProjectorProfile profile{.Name = "Any", .Model = {}, .Lacks = {}};
+      profile.Model.DialogType = 4;
+      profile.Model.ModelCode = 24;
+      ProjectorAccess access(profile,
+                             std::make_shared<PjLinkChannel>("127.0.0.1", peer_.port, "", kLimits),
+                             kLimits.answer);
+      use(access);
+    }
+    peer_.Finish(++finished_);
+    connections_ = projector_.connections - before;
+    return projector_.TakeHeard();
+  }
+  static std::string InputName(ProjectorAccess& access) {
+    const auto& sources = access.Settings().Model().MySourceList;
+    const auto value =
+        access.Settings().Read(access.Connection(), *access.Settings().Find("status.input-source"));
+    for (std::size_t i = 0; i < static_cast<std::size_t>(sources.Size()); ++i) {
+      if (sources.firstValues[i] == value) return std::string(NameText(sources.names[i]));
+    }
+    return "";
+  }
+  QString CacheFile() const {
+    const QDir cache(folder_.filePath("advanced-control/pjlink"));
+    const QStringList files = cache.entryList(QDir::Files);
+    return files.size() == 1 ? cache.filePath(files.front()) : QString();
+  }
+
+  static constexpr PjLinkChannel::Limits kLimits{.connect = std::chrono::seconds(20),
+                                                 .answer = std::chrono::seconds(20)};
+  const QTemporaryDir folder_;
+  BadProjector projector_;
+  int connections_ = 0;  ///< For what was asked last.
+  int finished_ = 0;
+  Peer peer_{Way::Tcp, Serving(projector_)};
+};
+
+TEST_F(PjLinkAccess, AsksOnlyWhatTheCommandNeedsAndRemembersWhatTheProjectorIs) {
+  const auto showsInput = [](ProjectorAccess& access) {
+    access.AskForInputs(InputsNeeded::Present);
+    EXPECT_EQ(InputName(access), "HDMI");
+  };
+  const auto listsInputs = [](ProjectorAccess& access) {
+    access.AskForInputs(InputsNeeded::All);
+    EXPECT_EQ(access.Settings().Model().MySourceList,
+              SourcesOf({{31, "HDMI (31)"}, {32, "HDMI (32)"}, {510, "Office"}}));
+    EXPECT_FALSE(access.LacksInputs());
+    EXPECT_TRUE(
+        access.Settings().Read(access.Connection(), *access.Settings().Find("status.power")));
+  };
+  EXPECT_EQ(Asked(showsInput), "CLSS, INPT, INNM ?31");
+  EXPECT_EQ(connections_, 1);
+  EXPECT_EQ(Asked(showsInput), "INPT, INNM ?31");
+  EXPECT_EQ(Asked(listsInputs), "INST, INNM ?31, INNM ?32, INNM ?5A, POWR");
+  EXPECT_EQ(Asked(listsInputs), "POWR");
+  for (const char* const damaged : {"", "{\"version\": 1}", "\xFF{[", "{\"version\": 2}"}) {
+    Write(CacheFile(), damaged);
+    EXPECT_EQ(Asked(showsInput), "CLSS, INPT, INNM ?31") << damaged;
+  }
+  EXPECT_TRUE(QFile::remove(CacheFile()));
+  EXPECT_EQ(Asked(listsInputs), "CLSS, INST, INNM ?31, INNM ?32, INNM ?5A, POWR");
+  Write(CacheFile(), Contents(CacheFile()).replace("\"asked\": ", "\"asked\": 1, \"was\": "));
+  EXPECT_EQ(Asked(showsInput), "CLSS, INPT, INNM ?31") << "too old";
+}
+
+TEST_F(PjLinkAccess, SaysWhenTheInputsGotLost) {
+  projector_.distorts["INST"] = 99;
+  Asked([](ProjectorAccess& access) {
+    access.AskForInputs();
+    EXPECT_TRUE(access.LacksInputs());
+    EXPECT_FALSE(access.Channel().IsGone());
+  });
+}
+
+TEST_F(PjLinkAccess, StepsAVolumeThatCannotBeRead) {
+  EXPECT_EQ(Asked([](ProjectorAccess& access) {
+              const ModelSetting& volume = *access.Settings().Find("setup.volume");
+              EXPECT_TRUE(ProjectorAccess::HasSteps(volume));
+              EXPECT_EQ(access.StepUnread(volume, -2), 2);
+              EXPECT_EQ(access.StepUnread(volume, 1), 1);
+            }),
+            "CLSS, SVOL 0, SVOL 0, SVOL 1");
+}
+
+TEST(PjLinkAccessToNobody, EndsAfterOneTimeOut) {
+  constexpr PjLinkChannel::Limits kShort{.connect = std::chrono::milliseconds(100)};
+  ProjectorProfile profile{.Name = "Any", .Model = {}, .Lacks = {}};
+  const auto channel = std::make_shared<PjLinkChannel>("127.0.0.1", 1, "", kShort);
+  ProjectorAccess access(profile, channel, kShort.connect);
+  access.AskForInputs();
+  EXPECT_TRUE(access.Channel().IsGone() && access.LacksInputs());
+}
+
+}  // namespace

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <cstdlib>
+#include <functional>
+
+#include <QAccessible>
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QDialog>
+#include <QFile>
+#include <QLabel>
+#include <QPointer>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+#include "app/desktop/profiles/ProfileDocument.h"
+#include "app/desktop/projectors/ProjectorView.h"
+#include "tests/support/Models.h"
+
+// The host application's windows, used as a person does.
+
+inline ProjectorProfile Profile(const char* name) {
+  ProjectorProfile profile{name, MakeModel(5, 30), {}};
+  profile.Model.ModelName = name;
+  return profile;
+}
+
+/// The part that shows or is called so, but for its mnemonic and the dots of what asks further.
+template <typename Part>
+Part& Find(const QObject& window, const QString& name) {
+  for (auto* part : window.findChildren<Part*>()) {
+    const QString text = part->property("text").toString().remove('&').remove(u'…');
+    if (text == name || part->property("accessibleName") == name) return *part;
+  }
+  ADD_FAILURE() << "there is no " << name.toStdString();
+  std::abort();
+}
+
+inline QTableView& Table(const QWidget& window) {
+  return *window.findChild<ProjectorView*>()->findChild<QTableView*>();
+}
+
+/// As an assistive technology does, which knows a list by its name.
+inline void Choose(const QWidget& window, const QString& name, const QString& entry) {
+  auto* list = qobject_cast<QComboBox*>(Find<QLabel>(window, name).buddy());
+  QAccessibleInterface* told = QAccessible::queryAccessibleInterface(list);
+  EXPECT_EQ(told->text(QAccessible::Name), name);
+  QAccessibleInterface* chosen = told->child(0)->child(list->findText(entry));
+  chosen->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  QApplication::processEvents();
+  EXPECT_EQ(told->text(QAccessible::Value), entry);
+}
+
+inline ProfileDocument Shipped(const QTemporaryDir& folder) {
+  const QString name = folder.filePath("p.json");
+  if (!QFile::exists(name)) QFile::copy(TEST_CATALOG_DIR "/projectors.json", name);
+  ProfileDocument document;
+  EXPECT_EQ(document.Load(name), "");
+  return document;
+}
+
+/// Triggers an action that opens a modal dialog and answers that one.
+inline void Answer(QAction& action, const std::function<void(QDialog&)>& answer) {
+  action.trigger();
+  const QPointer dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+  ASSERT_NE(dialog, nullptr);
+  answer(*dialog);
+  if (dialog != nullptr && dialog->isVisible()) dialog->reject();
+  QCoreApplication::sendPostedEvents(dialog, QEvent::DeferredDelete);
+  EXPECT_EQ(dialog, nullptr);
+}

@@ -1,0 +1,257 @@
+// What PJLink projectors do in the field, in a time of its own: nothing here waits.
+
+#include <functional>
+
+#include <gtest/gtest.h>
+
+#include "device/CommandCode.h"
+#include "device/PjLinkInputs.h"
+#include "tests/device/BadProjector.h"
+#include "tests/device/Replies.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+using Op = PjtOperation;
+namespace Code = CommandCode;
+
+const PjtCommand kGetInput = Get(Code::InputSource);
+const PjtCommand kSetInput = Set(Code::InputSource, 32);
+const PjtCommand kOn = Do(Op::SetPowerOn);
+
+/// A reply in one word.
+std::string Word(const PjtCommand& command, const PjtReply& reply) {
+  if (!reply.answered) return reply.unsent ? "unsent" : "unanswered";
+  if (reply.busy) return "busy";
+  if (!reply.offered) return "not offered";
+  if (!IsSuccess(command.operation, reply.result)) return "refused";
+  if (reply.pending) return "pending";
+  return IsRead(command.operation) ? std::to_string(static_cast<std::uint16_t>(reply.value))
+                                   : "done";
+}
+
+struct Case {
+  const char* name;
+  std::function<void(BadProjector&)> misbehaves;
+  PjtCommand command;
+  const char* comesTo;
+  const char* heard;
+};
+
+void Expect(const Case& one, SteppedSession& stepped) {
+  SCOPED_TRACE(one.name);
+  one.misbehaves(stepped.projector);
+  EXPECT_EQ(Word(one.command, stepped.Do(one.command)), one.comesTo);
+  EXPECT_EQ(stepped.projector.TakeHeard(), one.heard);
+}
+
+void ExpectEach(const std::vector<Case>& cases) {
+  for (const Case& one : cases) {
+    SteppedSession stepped;
+    stepped.session.RememberClass('2');
+    Expect(one, stepped);
+  }
+}
+
+TEST(PjLinkSession, UnderstandsWhateverALineLooksLike) {
+  using namespace std::string_literals;
+  const auto wraps = [](const std::string& before, const std::string& after) {
+    return [=](BadProjector& it) {
+      it.before = before;
+      it.after = after;
+      it.greeting = before + "PJLINK 0" + after;
+    };
+  };
+  ExpectEach({
+      {"zero bytes around", wraps("\0"s, "\r\0"s), kGetInput, "31", "INPT"},
+      {"a lone CR before", wraps("\r", "\r"), kGetInput, "31", "INPT"},
+      {"CR LF", wraps("", "\r\n"), kGetInput, "31", "INPT"},
+      {"LF alone", wraps("", "\n"), kGetInput, "31", "INPT"},
+      {"class 1 in each reply", [](auto& it) { it.replyClass = '1'; }, kGetInput, "31", "INPT"},
+      {"a long lamp time", [](auto& it) { it.facts["LAMP"] = "70000 0"; }, Get(Code::LampTime),
+       "65535", "LAMP"},
+      {"hours alone", [](auto& it) { it.facts["LAMP"] = "123456789"; }, Get(Code::LampTime),
+       "65535", "LAMP"},
+      {"warming up", [](auto& it) { it.states["POWR"] = "3"; }, Get(Code::RunningState), "1",
+       "POWR"},
+  });
+  for (const auto& [told, known] :
+       {std::pair("1", '1'), {"2", '2'}, {"3", '2'}, {"Class 1", '1'}, {"ERR1", '1'}}) {
+    SteppedSession stepped;
+    stepped.projector.facts["CLSS"] = told;
+    stepped.Do(kGetInput);
+    EXPECT_EQ(stepped.session.ProtocolClass(), known) << told;
+    stepped.projector.TakeHeard();
+    stepped.Do(kGetInput);
+    EXPECT_EQ(stepped.projector.TakeHeard(), "INPT") << "known once and for all";
+  }
+  SteppedSession stepped;
+  stepped.projector.facts["INNM31"] = std::string(1500, 'x');
+  EXPECT_EQ(stepped.Ask(*PjLinkInputs::NameOf(31)).text.size(), 1500);
+}
+
+TEST(PjLinkSession, LosesOneThingAndAsksAgainWhereItMatters) {
+  const auto loses = [](const char* command, int times) {
+    return [=](BadProjector& it) { it.loses[command] = times; };
+  };
+  const auto breaks = [](const char* command, int times) {
+    return [=](BadProjector& it) {
+      it.loses[command] = times;
+      it.dropsUnanswered = true;
+    };
+  };
+  const auto distorts = [](const char* command, int times) {
+    return [=](BadProjector& it) { it.distorts[command] = times; };
+  };
+  ExpectEach({
+      {"no reply", loses("INPT", 1), kGetInput, "unanswered", "INPT"},
+      {"the connection breaks", breaks("INPT", 1), kGetInput, "31", "INPT, INPT"},
+      {"it breaks twice", breaks("INPT", 2), kGetInput, "unanswered", "INPT, INPT"},
+      {"it breaks with a change", breaks("INPT", 1), kSetInput, "unanswered", "INPT 32"},
+      {"it breaks with a step", breaks("SVOL", 1), Inc(Code::Volume), "unanswered", "SVOL 1"},
+      {"a garbled reply", distorts("INPT", 1), kGetInput, "31", "INPT, INPT"},
+      {"two garbled replies", distorts("INPT", 2), kGetInput, "unanswered", "INPT, INPT"},
+      {"a garbled reply to a change", distorts("INPT", 1), kSetInput, "unanswered", "INPT 32"},
+      {"a reply that is no value", [](auto& it) { it.states["INPT"] = "x"; }, kGetInput, "refused",
+       "INPT, INPT"},
+  });
+  SteppedSession stepped;
+  Expect({"the class once", loses("CLSS", 1), kGetInput, "31", "CLSS, CLSS, INPT"}, stepped);
+  SteppedSession lost;
+  Expect({"the class twice", loses("CLSS", 2), kSetInput, "unsent", "CLSS, CLSS"}, lost);
+  EXPECT_EQ(Word(kGetInput, lost.Do(kGetInput)), "31") << "one thing alone is lost";
+
+  lost.projector.loses["INST"] = 1;
+  PjLinkInputs inputs;
+  EXPECT_TRUE(inputs.Take(lost.Ask(*inputs.Next())));
+  lost.projector.loses["INNM"] = 2;
+  EXPECT_FALSE(inputs.Take(lost.Ask(*inputs.Next())));
+  while (const auto question = inputs.Next()) EXPECT_TRUE(inputs.Take(lost.Ask(*question)));
+  EXPECT_EQ(SourcesOf(inputs.Known()),
+            SourcesOf({{31, "HDMI (31)"}, {32, "HDMI (32)"}, {510, "Office"}}))
+      << "inputs of one name are told apart";
+}
+
+TEST(PjLinkSession, WaitsUntilAChangeIsSo) {
+  const auto follows = [](std::chrono::milliseconds time) {
+    return [=](BadProjector& it) { it.follows = time; };
+  };
+  ExpectEach({
+      {"at once", follows(0ms), kSetInput, "done", "INPT 32, INPT"},
+      {"soon", follows(300ms), kSetInput, "done", "INPT 32, INPT, INPT, INPT"},
+      {"too late", follows(3s), kSetInput, "pending",
+       "INPT 32, INPT, INPT, INPT, INPT, INPT, INPT"},
+      {"mute", follows(100ms), Do(Op::SetMute, 1), "done", "AVMT 21, AVMT, AVMT"},
+      {"freeze", follows(250ms), Do(Op::SetFreeze, 1), "done", "FREZ 1, FREZ, FREZ, FREZ"},
+      {"warming up is on", [](auto& it) { it.states["POWR"] = "3"; }, kOn, "done", "POWR 1, POWR"},
+      {"a step has no state", follows(3s), Inc(Code::Volume), "done", "SVOL 1"},
+  });
+  SteppedSession stepped;
+  stepped.session.RememberClass('2');
+  stepped.Do(kSetInput);
+  stepped.projector.TakeHeard();
+  EXPECT_EQ(stepped.Do(kGetInput).value, 32);
+  EXPECT_EQ(stepped.projector.TakeHeard(), "") << "it was just read";
+  stepped.Do(kGetInput);
+  EXPECT_EQ(stepped.projector.TakeHeard(), "INPT") << "but only once";
+  stepped.Do(kSetInput);
+  stepped.now += 2s;
+  stepped.projector.states["INPT"] = "5A";
+  EXPECT_EQ(stepped.Do(kGetInput).value, 510) << "that was long ago";
+}
+
+TEST(PjLinkSession, AsksABusyProjectorAgainInTime) {
+  const auto refuses = [](int times, const char* power) {
+    return [=](BadProjector& it) {
+      it.refuses["INPT"] = times;
+      it.states["POWR"] = power;
+    };
+  };
+  ExpectEach({
+      {"it switches", refuses(2, "1"), kGetInput, "31", "INPT, POWR, INPT, INPT"},
+      {"a change while it warms up", refuses(2, "3"), kSetInput, "done",
+       "INPT 32, POWR, INPT 32, INPT 32, INPT"},
+      {"it is busy for long", refuses(99, "1"), kGetInput, "busy",
+       "INPT, POWR, INPT, INPT, INPT, INPT, INPT"},
+      {"a read in standby", refuses(99, "0"), kGetInput, "busy", "INPT, POWR"},
+      {"a change in standby", refuses(99, "0"), kSetInput, "busy", "INPT 32, POWR"},
+      {"a read while it warms up", refuses(99, "3"), kGetInput, "busy", "INPT, POWR"},
+      {"on while it cools down",
+       [](auto& it) {
+         it.states["POWR"] = "2";
+         it.refuses["POWR"] = 1;
+       },
+       kOn, "done", "POWR 1, POWR, POWR 1, POWR"},
+  });
+  for (const auto& [told, power] : {std::pair("0", PowerState::Standby),
+                                    {"2", PowerState::CoolingDown},
+                                    {"3", PowerState::WarmingUp}}) {
+    SteppedSession stepped;
+    stepped.session.RememberClass('2');
+    refuses(99, told)(stepped.projector);
+    stepped.Do(kGetInput);
+    EXPECT_EQ(stepped.session.Power(), power);
+  }
+}
+
+TEST(PjLinkSession, HasTheWholeTimeForEachAnswerAndOneConnectionWithGrowingPauses) {
+  ExpectEach({
+      {"slow", [](auto& it) { it.answers = 1990ms; }, kSetInput, "done", "INPT 32, INPT"},
+      {"too slow", [](auto& it) { it.answers = 2010ms; }, kSetInput, "unanswered", "INPT 32"},
+      {"closes after each reply, and needs a pause",
+       [](auto& it) {
+         it.closesAfterReply = true;
+         it.gap = 200ms;
+       },
+       kSetInput, "done", "INPT 32, INPT"},
+      {"lets nobody in", [](auto& it) { it.greeting = ""; }, kSetInput, "unsent", ""},
+      {"wants a password", [](auto& it) { it.greeting = "PJLINK ERRA\r"; }, kSetInput, "unsent",
+       ""},
+      {"asks for none",
+       [](auto& it) {
+         it.facts.clear();
+         it.states.clear();
+       },
+       kGetInput, "not offered", "INPT, CLSS, INPT"},
+  });
+  SteppedSession stepped;
+  for (const auto& command : {kGetInput, kSetInput, kGetInput, Get(Code::Mute)}) {
+    stepped.Do(command);
+  }
+  EXPECT_EQ(stepped.projector.connections, 1);
+
+  SteppedSession away;
+  away.projector.gap = 1h;
+  away.projector.Connect(away.now);
+  away.projector.Close(away.now);
+  const auto start = away.now;
+  EXPECT_EQ(Word(kSetInput, away.Do(kSetInput)), "unsent");
+  EXPECT_EQ(away.session.State(), ConnectionState::NotReachable);
+  EXPECT_LE(away.now - start, SteppedSession::kLimits.connect);
+  EXPECT_EQ(away.projector.attempts, 1 + 6) << "at 0, 50, 150, 350, 750 and 1550 ms";
+}
+
+TEST(PjLinkSession, OneKeyCostsThreeExchangesCoolAndTwoWarm) {
+  const std::pair<PjtCommand, const char*> kCases[] = {
+      {Get(Code::RunningState), "POWR"},   {kGetInput, "CLSS, INPT"},
+      {Get(Code::Mute), "AVMT"},           {Get(Code::Freeze), "CLSS, FREZ"},
+      {kSetInput, "CLSS, INPT 32, INPT"},  {Do(Op::SetMute, 0), "AVMT 20, AVMT"},
+      {Inc(Code::Volume), "CLSS, SVOL 1"}, {Get(Code::Brightness), ""}};
+  for (const auto& [command, heard] : kCases) {
+    SteppedSession cold;
+    cold.Do(command);
+    EXPECT_EQ(cold.projector.TakeHeard(), heard);
+    SteppedSession warm;
+    warm.session.RememberClass('2');
+    warm.Do(command);
+    EXPECT_LE(warm.projector.heard.size(), 2);
+  }
+  SteppedSession other;
+  other.session.RememberClass('2');
+  other.projector.facts["CLSS"] = "1";
+  other.projector.states.erase("FREZ");
+  EXPECT_FALSE(other.Do(Get(Code::Freeze)).offered);
+  EXPECT_EQ(other.projector.TakeHeard(), "FREZ, CLSS") << "what is remembered may be wrong";
+}
+
+}  // namespace

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <memory>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTest>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+#include "device/BoundedChannel.h"
+#include "pages/common/StatusLine.h"
+#include "tests/support/DialogDriver.h"
+#include "tests/support/PacedProjector.h"
+
+// How long the channel waits for a projector that is silent for ever, and how long nobody waits who
+// does not wait for it.
+inline constexpr std::chrono::milliseconds kTimeOut = std::chrono::seconds(20);
+inline constexpr std::chrono::milliseconds kTooLong = std::chrono::seconds(10);
+inline constexpr std::chrono::milliseconds kForEver = std::chrono::hours(1);
+
+/// An open dialog of a projector that takes its time.
+class PacedDialog : public testing::Test {
+ protected:
+  explicit PacedDialog(std::chrono::milliseconds timeOut = kTimeOut) {
+    dialog_.CopyData(&model_, 0);
+    dialog_.Projector().SetChannel(std::make_shared<BoundedChannel>(
+        projector_,
+        BoundedChannel::Limits{.timeOut = timeOut, .retryAfter = std::chrono::hours(1)}));
+  }
+  ~PacedDialog() override { projector_->Pace(std::chrono::milliseconds(0)); }
+
+  void Open() {
+    ASSERT_TRUE(dialog_.CreateShown());
+    dialog_.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog_));
+  }
+  QTabBar& Tabs() { return *dialog_.findChild<QTabBar*>(); }
+  DialogDriver Page() { return DialogDriver(*dialog_.ShownPage()); }
+  QWidget* Veil() {
+    auto* last = qobject_cast<QWidget*>(dialog_.ShownPage()->children().last());
+    return last != nullptr && last->cursor().shape() == Qt::WaitCursor ? last : nullptr;
+  }
+  QString Status() { return dialog_.findChild<StatusLine*>()->findChild<QLabel*>()->text(); }
+  QPushButton& Retry() { return *dialog_.findChild<StatusLine*>()->findChild<QPushButton*>(); }
+  void ClickTab(int tab) {
+    QTest::mouseClick(&Tabs(), Qt::LeftButton, {}, Tabs().tabRect(tab).center());
+  }
+
+  QWidget* Focused() { return dialog_.focusWidget() != nullptr ? dialog_.focusWidget() : &dialog_; }
+
+  /// Makes the projector silent, and acts while the first command waits, which must not keep the
+  /// act.
+  void InTheWait(const std::function<void()>& act) {
+    projector_->Pace(kForEver);
+    look_.callOnTimeout(&look_, [this, act] {
+      if (!projector_->waiting) return;
+      look_.stop();
+      look_.disconnect();
+      QElapsedTimer clock;
+      clock.start();
+      act();
+      QTimer::singleShot(0, qApp, [clock] { EXPECT_FALSE(clock.hasExpired(kTooLong.count())); });
+    });
+    look_.start(20);
+  }
+
+  CModelInfo2 model_ = FullModel(5, 30);
+  std::shared_ptr<PacedProjector> projector_ = std::make_shared<PacedProjector>(model_);
+  CAdvanceDlg dialog_;
+  QTimer look_;
+};

@@ -1,0 +1,157 @@
+#pragma once
+
+#include <map>
+#include <memory>
+#include <random>
+#include <utility>
+#include <vector>
+
+#include "app/profiles/ProjectorAccess.h"
+#include "i18n/SystemLanguage.h"
+#include "snapshots/Restoration.h"
+
+// Projectors of the profile file on the simulation, disturbed in their work.
+
+inline const SettingTexts& Texts() {
+  static const std::vector<std::string> folders{TEST_CATALOG_DIR};
+  static const SettingTexts texts(folders, kEnglishUnitedStates);
+  return texts;
+}
+
+inline const std::vector<ProjectorProfile>& Profiles() {
+  static const auto profiles = ReadProfileFile(TEST_CATALOG_DIR "/projectors.json").projectors;
+  return profiles;
+}
+
+inline const ProjectorProfile& Profile(std::string_view name) {
+  return *std::ranges::find(Profiles(), name, &ProjectorProfile::Name);
+}
+
+/// What a projector keeps for each of its sources, or for each of these and its modes.
+struct Memory {
+  using Values = std::vector<int>;
+
+  /// What belongs to the source or mode that was set since comes back.
+  void Follow(SimulatedProjector& projector) {
+    const auto read = [&projector](const std::vector<SettingId>& which) {
+      Values values;
+      for (const SettingId id : which) values.push_back(projector.Value(id));
+      return values;
+    };
+    const Values now = read(selectors);
+    if (now != present && !present.empty()) {
+      std::size_t number = kept.contains(now) ? 0 : kept.size();
+      for (std::size_t i = 0; i < ids.size(); ++i, ++number) {
+        const auto list = projector.ValuesOf(ids[i]);
+        const int some = list.empty()
+                             ? projector.RangeOf(ids[i]).minimum + static_cast<int>(number % 15)
+                             : list[number % list.size()];
+        projector.SetValue(ids[i], kept.contains(now) ? kept[now][i] : some);
+      }
+    }
+    present = now;
+    kept[now] = read(ids);
+    fresh.emplace(now, kept[now]);
+  }
+  /// Whether all is as it was, of what is new too.
+  bool IsLike(Memory then) const {
+    then.kept.insert(fresh.begin(), fresh.end());
+    return kept == then.kept;
+  }
+
+  std::vector<SettingId> selectors, ids;
+  Values present{};
+  std::map<Values, Values> kept{}, fresh{};
+};
+
+/// A projector whose commands may be refused, get lost on the way there or back, be carried out
+/// when they are no longer waited for, or end for good. Its replies may be scripted, too.
+struct Disturbed : ProjectorChannel {
+  PjtReply Execute(const PjtCommand& command) override {
+    ++count;
+    const bool isChange = !IsRead(command.operation);
+    if (isChange) ++sent;
+    CarryOutLate(count);
+    const PjtReply lost{.result = RefusedResult(command.operation), .answered = false};
+    if (count > trouble.deadAfter || Happens(trouble.lostPercent)) return lost;
+    if (isChange && (sent == trouble.lateChange || Happens(trouble.latePercent))) {
+      late.emplace(count + trouble.lateBy, command);
+      return lost;
+    }
+    if (Happens(trouble.refusedPercent)) return {.result = RefusedResult(command.operation)};
+    const PjtReply reply = CarryOut(command);
+    return Happens(trouble.lostPercent) ? lost : reply;
+  }
+  PjtReply CarryOut(const PjtCommand& command) {
+    const PjtReply reply = projector.Execute(command);
+    for (Memory& memory : memories) memory.Follow(projector);
+    return reply;
+  }
+  /// What was to be carried out before the command of this number, or all.
+  void CarryOutLate(int number = 1 << 30) {
+    while (!late.empty() && late.begin()->first < number) {
+      CarryOut(late.extract(late.begin()).mapped());
+    }
+  }
+  bool Happens(int percent) { return static_cast<int>(random() % 100) < percent; }
+
+  explicit Disturbed(const ProjectorProfile& profile) : projector(SimulatedModelOf(profile)) {}
+  SimulatedProjector projector;
+  std::vector<Memory> memories{};
+  std::minstd_rand random{7};
+  struct Trouble {
+    int refusedPercent = 0, lostPercent = 0, deadAfter = 1 << 30;
+    int latePercent = 0, lateBy = 0;  ///< In commands that come before it is carried out.
+    int lateChange = 0;               ///< The number of one, from 1 on.
+  } trouble{};
+  std::multimap<int, PjtCommand> late{};
+  int count = 0, sent = 0;
+};
+
+inline Restoration Restore(
+    const ModelSettings& settings, CPjtInterface& connection, const Snapshot& snapshot,
+    Snapshot* undo = nullptr, const std::function<bool()>& goesOn = [] { return true; }) {
+  Restoration restoration(snapshot, settings, connection);
+  restoration.Read({.goesOn = goesOn});
+  restoration.Send(Texts(), {.goesOn = goesOn}, [&] {
+    if (undo != nullptr && goesOn()) *undo = restoration.Undo("", Texts());
+    return true;
+  });
+  return restoration;
+}
+
+/// A projector and the way to it.
+struct Room {
+  explicit Room(const ProjectorProfile& profile)
+      : channel(std::make_shared<Disturbed>(profile)),
+        settings(MakeModelData(profile.Model)),
+        name(profile.Name) {
+    connection.SetChannel(channel);
+  }
+
+  void ChangeAll(unsigned seed) {
+    std::minstd_rand random(seed);
+    for (const ModelSetting& setting : settings.All()) {
+      if (!setting.Restorable()) continue;
+      const Range range = setting.range.value_or(Range{100, 120});
+      const auto size = static_cast<unsigned>(range.maximum - range.minimum + 1);
+      const int value = setting.kind == ModelSetting::Kind::Choice
+                            ? setting.entries[random() % setting.entries.size()].value
+                            : range.minimum + static_cast<int>(random() % size);
+      settings.Change(connection, setting, value);
+    }
+  }
+
+  Snapshot Take() { return TakeSnapshot(name, settings, connection, Texts()); }
+
+  Restoration Restore(
+      const Snapshot& snapshot, Snapshot* undo = nullptr,
+      const std::function<bool()>& goesOn = [] { return true; }) {
+    return ::Restore(settings, connection, snapshot, undo, goesOn);
+  }
+
+  std::shared_ptr<Disturbed> channel;
+  ModelSettings settings;
+  CPjtInterface connection;
+  std::string name;
+};

@@ -1,0 +1,120 @@
+// The file of a snapshot, what is typed for its settings, and asking patiently.
+
+#include <array>
+#include <gmock/gmock.h>
+#include <thread>
+
+#include <gtest/gtest.h>
+
+#include "tests/snapshots/DisturbedProjector.h"
+
+namespace {
+
+/// Leaves each command as it is told to: "a" answers, "l" loses the answer, "u" does not send it;
+/// the last goes on. Everything but "a" takes a time-out where it is in capitals.
+struct Unsteady : ProjectorChannel {
+  PjtReply Execute(const PjtCommand&) override {
+    const char now = does[std::min(count++, does.size() - 1)];
+    if (now == 'L') std::this_thread::sleep_for(timeOut);
+    return {.result = now == 'a', .answered = now == 'a', .unsent = now == 'u'};
+  }
+  void GiveUpAfter(std::chrono::milliseconds time) override { given = time; }
+  void Abandon() override { isAbandoned = true; }
+
+  std::string does;
+  std::chrono::milliseconds timeOut{};
+  std::size_t count = 0;
+  std::chrono::milliseconds given{};
+  bool isAbandoned = false;
+};
+
+TEST(PatientChannel, AsksAgainWhatIsSafeToAskAndNeverCutsACommandShort) {
+  using namespace std::chrono_literals;
+  constexpr std::chrono::milliseconds kTimeOut = 1s;
+  constexpr PjtCommand kRead{.operation = PjtOperation::GetInputSource};
+  constexpr PjtCommand kChange{.operation = PjtOperation::SetMute, .first = 1};
+  constexpr PjtCommand kStep{PjtOperation::Inc, 0x2001};
+  struct Case {
+    const char* does;  // behind a first answer
+    PjtCommand command;
+    std::size_t times;  // it is sent
+    bool isAnswered, isUnsent, isGone;
+  };
+  const Case kCases[] = {
+      {"lla", kRead, 3, true, false, false},   {"l", kRead, 3, false, false, true},
+      {"L", kRead, 2, false, false, true},     {"la", kChange, 2, true, false, false},
+      {"lla", kChange, 2, false, false, true}, {"lu", kChange, 2, false, false, true},
+      {"la", kStep, 1, false, false, false},   {"ua", kStep, 2, true, false, false},
+      {"u", kStep, 2, false, true, true},      {"La", kRead, 2, true, false, false}};
+  for (const Case& one : kCases) {
+    SCOPED_TRACE(testing::Message() << one.does << ' ' << &one - kCases);
+    const auto inner = std::make_shared<Unsteady>();
+    inner->does = std::string("a") + one.does;
+    inner->timeOut = kTimeOut;
+    PatientChannel patient(inner, kTimeOut);
+    EXPECT_TRUE(patient.Execute(kRead).answered);
+    const PjtReply reply = patient.Execute(one.command);
+    EXPECT_EQ(inner->count, 1 + one.times);
+    EXPECT_EQ(reply.answered, one.isAnswered);
+    EXPECT_EQ(!reply.answered && reply.unsent, one.isUnsent);
+    EXPECT_EQ(patient.IsGone(), one.isGone);
+    EXPECT_EQ(inner->given, std::chrono::milliseconds()) << "its time is its own";
+  }
+  const auto dead = std::make_shared<Unsteady>();
+  dead->does = "l";
+  PatientChannel patient(dead, kTimeOut);
+  EXPECT_FALSE(patient.Execute(kRead).answered || patient.Execute(kRead).answered);
+  EXPECT_EQ(dead->count, 1) << "it has never answered";
+  patient.GiveUpAfter(kTimeOut);
+  patient.Abandon();
+  EXPECT_TRUE(dead->given == kTimeOut && dead->isAbandoned) << "all is passed on";
+}
+
+TEST(Snapshot, IsReadAsWrittenAndRefusedWhenWrong) {
+  Room room(Profiles().front());
+  const Snapshot snapshot = room.Take();
+  const QByteArray text = WriteSnapshot(snapshot);
+  EXPECT_EQ(ReadSnapshot(text).snapshot, snapshot);
+  for (const auto& [from, to, error] : std::vector<std::array<const char*, 3>>{
+           {"\"format\"", "\"formal\"", "no file of saved settings"},
+           {"\"version\": 1", "\"version\": 2", "only version 1"},
+           {"\"value\": ", "\"value\": 0.5, \"x\": ", "settings[0].value: must be a whole"},
+           {"\"value\": ", "\"value\": 1e9, \"x\": ", "settings[0].value: must be a whole"},
+           {"\"settings\": [", "\"settings\": [1,", "settings[0]: must be an object"},
+           {"\"settings\"", "\"settingz\"", "settings: must be an array"},
+           {"\"settings\"", "\"beforehand\": 1, \"settings\"", "beforehand: must be an array"},
+           {"\"key\": \"", "\"kez\": \"", "settings[0].key: must be a line"},
+           {"\"model\": {", "\"model\": {]", "line 3: "}}) {
+    QByteArray wrong = text;
+    wrong.replace(wrong.indexOf(from), static_cast<int>(strlen(from)), to);
+    EXPECT_THAT(ReadSnapshot(wrong).error.toStdString(), testing::HasSubstr(error));
+  }
+}
+
+TEST(SettingTexts, UnderstandsWhatPeopleType) {
+  const Room room(Profile("Projector 5-30"));
+  struct Typed {
+    const char* text;
+    std::optional<int> value;  // from the present value `from`
+    int from = 0;
+  };
+  const std::pair<const char*, std::vector<Typed>> kCases[] = {
+      {"picture.brightness",
+       {{"5", 133}, {"=-31", 97}, {"32", {}}, {"", {}}, {"5x", {}}, {"99999999999", {}}}},
+      {"picture.brightness", {{"+3", 131, 128}, {"-3", 125, 128}, {"+1", {}, 159}}},
+      {"picture.sharpness", {{"4", 128}}},
+      {"picture.active-iris",
+       {{"theater", 16}, {"影院", 16}, {"17", 17}, {"1", {}}, {"+1", 16, 0}, {"+1", {}, 17}}},
+      {"setup.mirror", {{"H&V Inverse", 3}}},
+  };
+  for (const auto& [key, cases] : kCases) {
+    const ModelSetting* const setting = room.settings.Find(key);
+    ASSERT_NE(setting, nullptr) << key;
+    for (const auto& [text, value, from] : cases) {
+      const auto typed = Texts().Parse(*setting, text);
+      EXPECT_EQ(typed ? Resolve(*setting, *typed, from) : std::nullopt, value) << key << text;
+    }
+  }
+}
+
+}  // namespace

@@ -26,7 +26,9 @@ PjLinkChannel::PjLinkChannel(std::string host, int port, const std::string& pass
 
 PjLinkChannel::~PjLinkChannel() = default;
 
-bool PjLinkChannel::Has(const PjtCommand& command) { return PjLinkMapping::Find(command) != nullptr; }
+bool PjLinkChannel::Has(const PjtCommand& command) {
+  return PjLinkMapping::Find(command) != nullptr;
+}
 
 PjtReply PjLinkChannel::Execute(const PjtCommand& command) {
   session_.GiveUpAfter(longest_);

@@ -166,15 +166,30 @@ TEST(AcctlSet, StopsWhereItIsInterruptedAndDoesNotBeginWhatCannotBeReached) {
   QProcess watch;
   watch.start(ACCTL_PROGRAM, simulator.At({"watch", kRoom, key, "--interval", "0.05"}));
   ASSERT_TRUE(watch.waitForReadyRead(30'000));
-  QProcess process;
-  process.start(ACCTL_PROGRAM, simulator.At({"--json", "set", kRoom, key, "+100"}));
-  while (watch.readAllStandardOutput().isEmpty()) ASSERT_TRUE(watch.waitForReadyRead(30'000));
-  while (watch.readAllStandardOutput().isEmpty()) ASSERT_TRUE(watch.waitForReadyRead(30'000));
-  ::kill(static_cast<pid_t>(process.processId()), SIGINT);
-  const Outcome cut = Finish(process);
-  EXPECT_THAT(cut, Ends(128 + SIGINT, AllOf(HasSubstr(": image.position-h: stopped at "),
-                                            Not(HasSubstr("refused")))));
-  EXPECT_EQ(Entry(cut)["changes"][0]["outcome"], "stopped");
+  const auto interrupt = [&](const QStringList& arguments) {
+    QProcess process;
+    process.start(ACCTL_PROGRAM, simulator.At(arguments));
+    // The first ones may still be of the run before.
+    for (int step = 0; step < 4; ++step) {
+      watch.readAllStandardOutput();
+      EXPECT_TRUE(watch.waitForReadyRead(30'000));
+    }
+    ::kill(static_cast<pid_t>(process.processId()), SIGINT);
+    return Finish(process);
+  };
+  const auto isStopped = Ends(
+      128 + SIGINT, AllOf(HasSubstr(": image.position-h: stopped at "), Not(HasSubstr("refused"))));
+  const Outcome set = interrupt({"--json", "set", kRoom, key, "+100"});
+  EXPECT_THAT(set, isStopped);
+  EXPECT_EQ(Entry(set)["changes"][0]["outcome"], "stopped");
+  const QTemporaryDir folder;
+  const QString file = folder.filePath("far.json");
+  Write(file, R"({"format": "advanced-control-settings", "version": 1,
+      "model": {"name": "Model 5-30", "dialogType": 5, "modelCode": 30},
+      "settings": [{"key": "image.position-h", "value": 120}]})");
+  const Outcome apply = interrupt({"--json", "apply", file, kRoom});
+  EXPECT_THAT(apply, isStopped);
+  EXPECT_EQ(Entry(apply)["notDone"][0]["key"], key);
   watch.terminate();
   EXPECT_EQ(Finish(watch).exitCode, 0);
 }

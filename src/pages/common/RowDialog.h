@@ -5,16 +5,13 @@
 #include <unordered_map>
 #include <vector>
 
-#include <QPointer>
-
 #include "AdvancedControlExport.h"
 #include "pages/common/PageReader.h"
 #include "pages/common/RowMenus.h"
 #include "pages/common/SettingsDialog.h"
 #include "pages/rows/RowView.h"
 
-class StatusLine;
-class WaitWatch;
+class Waiting;
 
 /// A page or pop-up made of a table of rows: makes a view for each, shows those that the model has,
 /// and leads to each view what its controls report. What fits no row is a handler of the class
@@ -70,6 +67,8 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog, private RowHost
 
   void OnBusy() override;
   void OnIdle() override;
+  void OnLeave() override;
+  void OnReturn() override;
   void OnStale() override { stale_ = true; }
 
  private:
@@ -79,7 +78,6 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog, private RowHost
   void ReadRow(RowView& row, int source) final { reader_.Read(row, source); }
 
   void ShowPresentRows();
-  void AddStatusLine();
 
   const PageTable& table_;
   const PageReader::Rows rows_;  // in the table's order
@@ -88,8 +86,6 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog, private RowHost
   PageReader reader_;
   RowMenus menus_;
   bool stale_ = false;
-  // Of a pop-up; a page has those of its dialog.
-  std::unique_ptr<WaitWatch> watch_;
-  QPointer<StatusLine> status_;
-  CPjtInterface::Tally sentWhenIdle_;
+  // Of a pop-up; a page waits with its dialog.
+  std::unique_ptr<Waiting> waiting_;
 };

@@ -20,7 +20,7 @@
 #include "pages/MakePage.h"
 #include "pages/common/CTabPage.h"
 #include "pages/common/StatusLine.h"
-#include "pages/common/WaitWatch.h"
+#include "pages/common/Waiting.h"
 #include "resources/AdvancedControlResources.h"
 #include "settings/CatalogNumbers.h"
 #include "toolkit/CTabCtrl.h"
@@ -64,18 +64,15 @@ CAdvanceDlg::CAdvanceDlg(CWnd* parent)
     : CDialog(TemplateId::Advance, parent),
       scroll_(new FittedScroll(new QWidget, this)),
       pages_(new Pages{MakePages(scroll_->widget())}),
-      status_(new StatusLine(this)),
+      waiting_(new Waiting({.projector = [this]() -> CPjtInterface& { return projector_; },
+                            .show = [this](bool waiting) { ShowWaiting(waiting); },
+                            .text = [this] { return WaitingText(); },
+                            .retry = [this] { DispTabScreen(); }})),
+      status_(&waiting_->MakeLine(this)),
       find_(new FindLine(this)),
-      watch_(new WaitWatch([this] { return projector_.IsWaiting(); },
-                           [this](bool waiting) { ShowWaiting(waiting); })),
       inputsWatch_(new QTimer(this)) {
   auto* layout = new QVBoxLayout(scroll_->widget());
   layout->setContentsMargins({});
-  connect(status_, &StatusLine::Retry, this, [this] {
-    status_->ShowProgress({});
-    projector_.TryAfresh();
-    DispTabScreen();
-  });
   inputsWatch_->callOnTimeout(this, &CAdvanceDlg::TakeToldInputs);
   connect(find_, &FindLine::Found, this,
           [this](const FindLine::Place& place) { GoTo(place.tab, place.control, place.popUp); });
@@ -207,7 +204,7 @@ void CAdvanceDlg::DispTabScreen() {
   do {
     readsAgain_ = false;
     Return();
-    sentBefore_ = projector_.Sent();
+    waiting_->CountAfresh();
     if (shownPage_ == nullptr) continue;
     shownPage_->ReadPage();
     if (shownPage_->layout() != nullptr) shownPage_->layout()->activate();
@@ -255,34 +252,30 @@ void CAdvanceDlg::ShowSelectedPage() {
   scroll_->widget()->layout()->activate();
 }
 
-void CAdvanceDlg::OnBusy() {
-  sentBefore_ = projector_.Sent();
-  watch_->Start();
-}
+void CAdvanceDlg::OnBusy() { waiting_->Begin(); }
 
 void CAdvanceDlg::OnIdle() {
-  watch_->Stop();
-  const bool readsAgain = std::exchange(readsAgain_, false);
-  if (readsAgain && IsCreated()) {
-    QTimer::singleShot(0, this, [this] {
-      if (IsCreated()) DispTabScreen();
-    });
-  }
-  if (IsLeft() || projector_.Sent().commands == sentBefore_.commands) return;
-  status_->ShowOutcome(projector_, sentBefore_);
+  waiting_->End(IsLeft());
+  if (!std::exchange(readsAgain_, false) || !IsCreated()) return;
+  QTimer::singleShot(0, this, [this] {
+    if (IsCreated()) DispTabScreen();
+  });
 }
+
+void CAdvanceDlg::OnLeave() { waiting_->Abandon(); }
+
+void CAdvanceDlg::OnReturn() { waiting_->Return(); }
 
 void CAdvanceDlg::ShowWaiting(bool waiting) {
   for (const auto& page : pages_->byId) {
     if (page->Template() != nullptr)
       page->Reader().ShowWaiting(waiting && page.get() == shownPage_);
   }
-  QString text;
-  if (waiting) {
-    text = shownPage_ != nullptr ? shownPage_->Reader().WaitingText()
-                                 : CatalogString(kListCategory, ListText::Waiting);
-  }
-  status_->ShowProgress(text);
+}
+
+QString CAdvanceDlg::WaitingText() const {
+  return shownPage_ != nullptr ? shownPage_->Reader().WaitingText()
+                               : CatalogString(kListCategory, ListText::Waiting);
 }
 
 std::optional<PageId> CAdvanceDlg::PageIdBehind(int selection) const {

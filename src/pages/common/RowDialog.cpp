@@ -7,7 +7,7 @@
 #include <QTimer>
 
 #include "pages/common/StatusLine.h"
-#include "pages/common/WaitWatch.h"
+#include "pages/common/Waiting.h"
 #include "pages/rows/ValueRowView.h"
 #include "resources/ArrowBitmap.h"
 #include "toolkit/CSliderCtrl.h"
@@ -117,7 +117,7 @@ bool RowDialog::OnInitDialog() {
   if (isEmpty && !KeepsTemplate(table_, Model().ModelCode)) {
     ShowNotice(ListString(ListText::NoSettings));
   }
-  if (isWindow()) AddStatusLine();
+  if (isWindow()) PlaceBesideClose(waiting_->MakeLine(this));
   return true;
 }
 
@@ -160,37 +160,25 @@ bool RowDialog::Release(CSliderCtrl& slider) {
   return row == nullptr || row->Release();
 }
 
-void RowDialog::AddStatusLine() {
-  delete status_;
-  status_ = new StatusLine(this);
-  PlaceBesideClose(*status_);
-  connect(status_, &StatusLine::Retry, this, [this] {
-    projector->TryAfresh();
-    Refresh();
-  });
-}
-
 void RowDialog::OnBusy() {
-  if (watch_ == nullptr) {
-    watch_ = std::make_unique<WaitWatch>([this] { return projector->IsWaiting(); },
-                                         [this](bool waiting) {
-                                           const QString text =
-                                               waiting ? reader_.WaitingText() : QString();
-                                           if (status_ != nullptr) status_->ShowProgress(text);
-                                           reader_.ShowWaiting(waiting);
-                                         });
+  if (waiting_ == nullptr) {
+    waiting_ = std::make_unique<Waiting>(
+        Waiting::Dialog{.projector = [this]() -> CPjtInterface& { return *projector; },
+                        .show = [this](bool waiting) { reader_.ShowWaiting(waiting); },
+                        .text = [this] { return reader_.WaitingText(); },
+                        .retry = [this] { Refresh(); }});
   }
-  sentWhenIdle_ = projector->Sent();
-  watch_->Start();
+  waiting_->Begin();
 }
 
 void RowDialog::OnIdle() {
-  watch_->Stop();
-  if (status_ != nullptr && !IsLeft() && projector->Sent().commands > sentWhenIdle_.commands) {
-    status_->ShowOutcome(*projector, sentWhenIdle_);
-  }
+  waiting_->End(IsLeft());
   if (!std::exchange(stale_, false) || IsLeft()) return;
   QTimer::singleShot(0, this, [this] {
     if (IsCreated()) Refresh();
   });
 }
+
+void RowDialog::OnLeave() { waiting_->Abandon(); }
+
+void RowDialog::OnReturn() { waiting_->Return(); }

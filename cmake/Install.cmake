@@ -8,39 +8,90 @@ if(NOT CMAKE_INSTALL_PREFIX STREQUAL "/usr")
   set_target_properties(${libraries} PROPERTIES INSTALL_RPATH "$ORIGIN")
 endif()
 set_target_properties(${libraries} PROPERTIES BUILD_WITH_INSTALL_RPATH ON)
+
+# public_headers(<library> <header>...): the library's headers for its users, from src/.
+function(public_headers library)
+  list(TRANSFORM ARGN PREPEND ${PROJECT_SOURCE_DIR}/src/)
+  target_sources(${library} PUBLIC FILE_SET HEADERS
+    BASE_DIRS ${PROJECT_SOURCE_DIR}/src ${PROJECT_BINARY_DIR}/include
+    FILES ${ARGN} ${PROJECT_BINARY_DIR}/include/${library}Export.h)
+endfunction()
+
+# What a host names: the connection and the channels to a projector, simulated or real,
+public_headers(ProjectorCommon
+  device/BoundedChannel.h
+  device/CComCtrl.h
+  device/CModelInfo.h
+  device/CModelInfo2.h
+  device/CPjtInterface.h
+  device/CProjectorItem.h
+  device/CScheduleInfo.h
+  device/CSocketCtrl.h
+  device/CommandCode.h
+  device/Connect.h
+  device/LoggingChannel.h
+  simulator/FaultChannel.h
+  simulator/SimulatedProjector.h
+  # and what those include.
+  device/ConnectionState.h
+  device/ForwardingChannel.h
+  device/ModelData.h
+  device/ModelDataIntake.h
+  device/ModelDataSource.h
+  device/OperationFamily.h
+  device/PjtOperation.h
+  device/PjtOperations.def
+  device/ProjectorChannel.h
+  device/WireFrame.h
+  simulator/SettingsTable.h)
+# The catalog,
+public_headers(ProjectorSettings
+  i18n/Catalog.h
+  i18n/SystemLanguage.h
+  # and what these and the pages include.
+  i18n/MessageFormat.h
+  settings/Call.h
+  settings/CatalogNumbers.h
+  settings/ListEntry.h
+  settings/ModelCodes.h
+  settings/PageSets.h
+  settings/Pages.def
+  settings/Range.h
+  settings/Rows.h)
+# The dialog, and pages of page set 5 with their pop-up.
+public_headers(AdvancedControl
+  host/CAdvanceDlg.h
+  i18n/LocalizeControlTexts.h
+  pages/input/CInputType5Dlg.h
+  pages/option/COption5TabDlg.h
+  pages/option/CServiceDlg.h
+  pages/picture/CPictureTabType5Dlg.h
+  pages/setup/CAudioType5Dlg.h
+  pages/setup/CSetupType5TabDlg.h
+  # What those include.
+  pages/common/CTabPage.h
+  pages/common/PageReader.h
+  pages/common/RowDialog.h
+  pages/common/RowMenus.h
+  pages/common/SettingsDialog.h
+  pages/picture/PicturePage.h
+  pages/rows/RowHost.h
+  pages/rows/RowView.h
+  toolkit/CDialog.h
+  toolkit/CWnd.h
+  toolkit/DialogTemplate.h
+  toolkit/InputDialog.h
+  toolkit/MadeWithNew.h
+  toolkit/NotificationMap.h
+  toolkit/OwnedDialog.h
+  toolkit/TemplateDialog.h)
 target_compile_features(ProjectorCommon PUBLIC cxx_std_20)
 install(TARGETS ${libraries} EXPORT AdvancedControlTargets
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT library
-                NAMELINK_COMPONENT development)
+                NAMELINK_COMPONENT development
+        FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/AdvancedControl
+                 COMPONENT development)
 
-# The headers a host needs, and what those include.
-file(GLOB headers RELATIVE ${PROJECT_SOURCE_DIR}/src CONFIGURE_DEPENDS
-  src/device/*.h src/device/*.def src/simulator/*.h)
-list(APPEND headers
-  host/CAdvanceDlg.h i18n/Catalog.h i18n/LocalizeControlTexts.h i18n/SystemLanguage.h
-  pages/input/CInputType5Dlg.h pages/input/COption5TabDlg.h pages/input/CServiceDlg.h
-  pages/picture/CPictureTabType5Dlg.h pages/setup/CAudioType5Dlg.h
-  pages/setup/CSetupType5TabDlg.h)
-set(next 0)
-list(LENGTH headers count)
-while(next LESS count)
-  list(GET headers ${next} header)
-  file(STRINGS src/${header} includes REGEX "^#include \"")
-  foreach(include IN LISTS includes)
-    string(REGEX REPLACE "^#include \"(.*)\".*" "\\1" include "${include}")
-    list(APPEND headers ${include})
-  endforeach()
-  list(REMOVE_DUPLICATES headers)
-  list(LENGTH headers count)
-  math(EXPR next "${next} + 1")
-endwhile()
-list(TRANSFORM headers PREPEND src/ OUTPUT_VARIABLE read)
-set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${read})
-foreach(header IN LISTS headers)
-  get_filename_component(folder ${header} DIRECTORY)
-  install(FILES src/${header}
-          DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/AdvancedControl/${folder} COMPONENT development)
-endforeach()
 install(FILES ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/mcdll.dll ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/mcschn.dll
         DESTINATION ${CMAKE_INSTALL_DATADIR}/advanced-control COMPONENT library)
 

@@ -12,7 +12,7 @@ packages=(
   clang-format clang-tidy
   clang libclang-rt-14-dev
   libbenchmark-dev
-  gettext qt6-l10n-tools qt6-translations-l10n
+  gettext qt6-l10n-tools qt6-tools-dev qt6-translations-l10n
   at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi xvfb
   fonts-dejavu-core fonts-wqy-microhei
 )

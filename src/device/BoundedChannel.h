@@ -5,7 +5,7 @@
 #include <optional>
 #include <utility>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorCommonExport.h"
 #include "device/ProjectorChannel.h"
 
 /// Puts a bound on how long a command may take, whatever the channel behind it does.
@@ -28,7 +28,7 @@
 ///
 /// Destroying the object does not wait for an outstanding command: the inner channel lives on until
 /// that command returns. Unless somebody else holds it, it ends on the thread that it ran on.
-class ADVANCED_CONTROL_EXPORT BoundedChannel : public ProjectorChannel {
+class PROJECTOR_COMMON_EXPORT BoundedChannel : public ProjectorChannel {
  public:
   struct Limits {
     std::chrono::milliseconds timeOut{2000};

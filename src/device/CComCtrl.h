@@ -2,10 +2,10 @@
 
 #include <cstdint>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorCommonExport.h"
 
 /// Parameters of a serial connection. A value: copying it copies the parameters.
-class ADVANCED_CONTROL_EXPORT CComCtrl {
+class PROJECTOR_COMMON_EXPORT CComCtrl {
  public:
   CComCtrl() = default;
   CComCtrl(const CComCtrl&) = default;

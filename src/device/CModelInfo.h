@@ -3,12 +3,12 @@
 #include <cstdint>
 #include <string>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorCommonExport.h"
 #include "device/ModelData.h"
 
 /// The short model record of hosts that know neither series code nor ranges.
 /// A value: copying it copies every member.
-class ADVANCED_CONTROL_EXPORT CModelInfo {
+class PROJECTOR_COMMON_EXPORT CModelInfo {
  public:
   CModelInfo() = default;
   CModelInfo(const CModelInfo& other);

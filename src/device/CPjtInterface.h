@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorCommonExport.h"
 #include "device/CComCtrl.h"
 #include "device/CSocketCtrl.h"
 #include "device/ProjectorChannel.h"
@@ -19,7 +19,7 @@
 /// parameters say. Copies share it. Without a channel every operation is refused. What each form of
 /// operation takes and returns is listed with the forms below; a refused operation writes nothing
 /// through its pointer. Values are device values; the pages own every bias.
-class ADVANCED_CONTROL_EXPORT CPjtInterface {
+class PROJECTOR_COMMON_EXPORT CPjtInterface {
  public:
   CPjtInterface();
   CPjtInterface(const CPjtInterface& other);

@@ -2,10 +2,10 @@
 
 #include <cstdint>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorCommonExport.h"
 
 /// One entry of a projector's schedule. A value: copying it copies every member.
-class ADVANCED_CONTROL_EXPORT CScheduleInfo {
+class PROJECTOR_COMMON_EXPORT CScheduleInfo {
  public:
   enum class Action : std::int32_t { PowerOff, PowerOn, SelectInput };
 

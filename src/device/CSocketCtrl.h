@@ -3,10 +3,10 @@
 #include <cstdint>
 #include <string>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorCommonExport.h"
 
 /// Parameters of a network connection. A value: copying it copies the parameters.
-class ADVANCED_CONTROL_EXPORT CSocketCtrl {
+class PROJECTOR_COMMON_EXPORT CSocketCtrl {
  public:
   CSocketCtrl() = default;
   CSocketCtrl(const CSocketCtrl&) = default;

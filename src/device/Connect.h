@@ -8,7 +8,7 @@
 #include <string_view>
 #include <variant>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorCommonExport.h"
 #include "device/BoundedChannel.h"
 #include "device/ModelDataIntake.h"
 #include "device/ProjectorChannel.h"
@@ -54,30 +54,30 @@ struct AddressError {
 using ProjectorAddress = std::variant<AddressError, TcpAddress, PjLinkAddress, SerialAddress>;
 
 /// Reads connection parameters as `CPjtInterface::CopyData` takes them.
-ADVANCED_CONTROL_EXPORT ProjectorAddress ParseConnection(const ConnectionData& data);
+PROJECTOR_COMMON_EXPORT ProjectorAddress ParseConnection(const ConnectionData& data);
 
 /// Reads an address as people write it: "tcp://HOST:PORT", "pjlink://HOST:PORT", "HOST:PORT",
 /// "serial:///dev/ttyUSB0?BAUD" or "/dev/ttyUSB0?BAUD". Ports and speed may be left out. Without a
 /// scheme, port 4352 and none stand for PJLink. An IPv6 address with a port stands in brackets.
-ADVANCED_CONTROL_EXPORT ProjectorAddress ParseAddress(std::string_view text,
+PROJECTOR_COMMON_EXPORT ProjectorAddress ParseAddress(std::string_view text,
                                                       std::string_view password = {});
 
 /// Whether the text is the name of a host or its IP address, without scheme and port.
-ADVANCED_CONTROL_EXPORT bool IsHostAddress(std::string_view text);
+PROJECTOR_COMMON_EXPORT bool IsHostAddress(std::string_view text);
 
 /// The path of the serial port with that number, which counts from 0.
 inline std::string SerialDevice(int number) { return "/dev/ttyS" + std::to_string(number); }
 
 /// A way to the projector that connects with the first command, behind a `BoundedChannel`. That of
 /// an `AddressError` leaves every command unanswered at once. Never null.
-ADVANCED_CONTROL_EXPORT std::shared_ptr<ProjectorChannel> MakeChannel(
+PROJECTOR_COMMON_EXPORT std::shared_ptr<ProjectorChannel> MakeChannel(
     const ProjectorAddress& address);
 
 /// The bounds for a `BoundedChannel` around a way to that address.
-ADVANCED_CONTROL_EXPORT BoundedChannel::Limits BoundsFor(const ProjectorAddress& address);
+PROJECTOR_COMMON_EXPORT BoundedChannel::Limits BoundsFor(const ProjectorAddress& address);
 
 /// The same without a bound, for a host that puts a channel of its own around it and a
 /// `BoundedChannel` around both, or for threads that may wait as long as the channel itself does:
 /// `timeOut` for connecting and as much for an answer, or the channel's own times without.
-ADVANCED_CONTROL_EXPORT std::shared_ptr<ProjectorChannel> MakeUnboundedChannel(
+PROJECTOR_COMMON_EXPORT std::shared_ptr<ProjectorChannel> MakeUnboundedChannel(
     const ProjectorAddress& address, std::optional<std::chrono::milliseconds> timeOut = {});

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorCommonExport.h"
 
 /// How a connection to a projector stands.
 enum class ConnectionState : std::uint8_t {
@@ -22,4 +22,4 @@ enum class ConnectionState : std::uint8_t {
 };
 
 /// The state in a few English words, for programs without a catalog.
-ADVANCED_CONTROL_EXPORT std::string_view ConnectionStateText(ConnectionState state);
+PROJECTOR_COMMON_EXPORT std::string_view ConnectionStateText(ConnectionState state);

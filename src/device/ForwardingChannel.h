@@ -6,14 +6,14 @@
 #include <span>
 #include <utility>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorCommonExport.h"
 #include "device/ProjectorChannel.h"
 
 /// A channel around another one that passes everything on. Channels that log, disturb or repeat
 /// derive from it and override only what they change, so that none of them loses a member of
 /// `ProjectorChannel` by forgetting it. Each member may be called from the threads that
 /// `ProjectorChannel` allows.
-class ADVANCED_CONTROL_EXPORT ForwardingChannel : public ProjectorChannel {
+class PROJECTOR_COMMON_EXPORT ForwardingChannel : public ProjectorChannel {
  public:
   PjtReply Execute(const PjtCommand& command) override { return inner_->Execute(command); }
   void Announce(std::span<const PjtCommand> reads) override { inner_->Announce(reads); }

@@ -6,11 +6,11 @@
 #include <string>
 #include <utility>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorCommonExport.h"
 #include "device/ForwardingChannel.h"
 
 /// Reports every command that passes through to an observer, once the reply is there.
-class ADVANCED_CONTROL_EXPORT LoggingChannel : public ForwardingChannel {
+class PROJECTOR_COMMON_EXPORT LoggingChannel : public ForwardingChannel {
  public:
   /// Called on the thread that executes the command.
   using Observer =
@@ -28,5 +28,5 @@ class ADVANCED_CONTROL_EXPORT LoggingChannel : public ForwardingChannel {
 /// The command as one line of a log, and what came back when `reply` is given:
 /// "SetBrightness(140)", "GetInputSrcVolume(3) = 16", "Get 0x2003 = 128", "Set 0x3304 (0x10)
 /// refused".
-ADVANCED_CONTROL_EXPORT std::string FormatCommand(const PjtCommand& command,
+PROJECTOR_COMMON_EXPORT std::string FormatCommand(const PjtCommand& command,
                                                   const PjtReply* reply = nullptr);

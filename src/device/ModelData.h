@@ -6,19 +6,19 @@
 #include <string>
 #include <string_view>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorCommonExport.h"
 
 /// A name in a fixed 64-byte slot, zero-terminated unless it fills the slot; UTF-8.
 using NameSlot = std::array<char, 64>;
 
 /// The text in a slot, up to its first zero or the slot's end.
-ADVANCED_CONTROL_EXPORT std::string_view NameText(const NameSlot& slot);
+PROJECTOR_COMMON_EXPORT std::string_view NameText(const NameSlot& slot);
 
 /// The beginning of a text, not more than so many bytes, cut at a character boundary; UTF-8.
-ADVANCED_CONTROL_EXPORT std::string_view CutText(std::string_view text, std::size_t most);
+PROJECTOR_COMMON_EXPORT std::string_view CutText(std::string_view text, std::size_t most);
 
 /// Puts `text` into a slot, cut at a character boundary where it does not fit; the rest is zeros.
-ADVANCED_CONTROL_EXPORT NameSlot MakeNameSlot(std::string_view text);
+PROJECTOR_COMMON_EXPORT NameSlot MakeNameSlot(std::string_view text);
 
 /// A capability list: only the first `count` entries are meaningful, though the arrays may hold
 /// more.

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorCommonExport.h"
 #include "device/CModelInfo2.h"
 #include "device/CProjectorItem.h"
 #include "device/ModelData.h"
@@ -20,17 +20,17 @@ struct ConnectionData {
 };
 
 /// Everything that the record says of the model.
-ADVANCED_CONTROL_EXPORT ModelData MakeModelData(const CModelInfo2& info);
+PROJECTOR_COMMON_EXPORT ModelData MakeModelData(const CModelInfo2& info);
 
 /// The same from the item's model record, under the item's own name. An item without a record
 /// gives the name alone.
-ADVANCED_CONTROL_EXPORT ModelData MakeModelData(const CProjectorItem& item);
+PROJECTOR_COMMON_EXPORT ModelData MakeModelData(const CProjectorItem& item);
 
 /// Connection `index` of the record; an index that the record does not have gives an empty one.
-ADVANCED_CONTROL_EXPORT ConnectionData MakeConnectionData(const CModelInfo2& info, int index);
+PROJECTOR_COMMON_EXPORT ConnectionData MakeConnectionData(const CModelInfo2& info, int index);
 
 /// The item's connection; its first text is the dotted address.
-ADVANCED_CONTROL_EXPORT ConnectionData MakeConnectionData(const CProjectorItem& item);
+PROJECTOR_COMMON_EXPORT ConnectionData MakeConnectionData(const CProjectorItem& item);
 
 /// "a.b.c.d", `a` from the most significant byte.
-ADVANCED_CONTROL_EXPORT std::string DottedAddress(std::uint32_t address);
+PROJECTOR_COMMON_EXPORT std::string DottedAddress(std::uint32_t address);

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "AdvancedControlExport.h"
+#include "ProjectorCommonExport.h"
 #include "device/ModelData.h"
 
 /// Whoever holds the model data that the pages and pop-ups read: the dialog they belong to.
-class ADVANCED_CONTROL_EXPORT ModelDataSource {
+class PROJECTOR_COMMON_EXPORT ModelDataSource {
  public:
   virtual ~ModelDataSource() = default;
 

@@ -26,7 +26,9 @@ PjLinkChannel::PjLinkChannel(std::string host, int port, const std::string& pass
 
 PjLinkChannel::~PjLinkChannel() = default;
 
-bool PjLinkChannel::Has(const PjtCommand& command) { return PjLinkMapping::Find(command) != nullptr; }
+bool PjLinkChannel::Has(const PjtCommand& command) {
+  return PjLinkMapping::Find(command) != nullptr;
+}
 
 PjtReply PjLinkChannel::Execute(const PjtCommand& command) {
   session_.GiveUpAfter(longest_);
@@ -53,11 +55,12 @@ void PjLinkChannel::Run(const auto& work) {
        step = session_.Next(Clock::now())) {
     wasUsed = true;
     Drive(step);
+    // A projector that closes after each reply has done so before the next request.
+    TakeWhatCame();
     if (session_.State() == ConnectionState::Connecting) state_ = ConnectionState::Connecting;
     hasAnswered_ = hasAnswered_ || session_.State() == ConnectionState::Connected;
   }
   if (wasUsed || session_.State() != before) state_ = session_.State();
-  hasAnswered_ = hasAnswered_ || session_.State() == ConnectionState::Connected;
   power_ = session_.Power();
   // It is another projector than the one that is remembered.
   const auto known = session_.ProtocolClass();

@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorCommonExport.h"
 #include "device/PjLinkInputs.h"
 #include "device/PjLinkSession.h"
 #include "device/ProjectorChannel.h"
@@ -38,7 +38,7 @@ struct PjLinkFacts {
 /// failure there is a pause, which doubles with each further one.
 ///
 /// Blocks without an event loop, up to `Limits::Longest`: belongs behind a `BoundedChannel`.
-class ADVANCED_CONTROL_EXPORT PjLinkChannel : public ProjectorChannel {
+class PROJECTOR_COMMON_EXPORT PjLinkChannel : public ProjectorChannel {
  public:
   struct Limits {
     std::chrono::milliseconds connect{2000};  ///< From the start until the projector has greeted.

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorCommonExport.h"
 #include "device/ConnectionState.h"
 #include "device/PjLinkReader.h"
 
@@ -61,7 +61,7 @@ struct PjLinkLimits {
 /// change never is. One request is under way at a time: replies bear no number, and a projector
 /// need not take a second request before it has answered the first. Replies to other commands are
 /// dropped, as is what comes unasked. The class in a reply is not looked at, as some always say 1.
-class ADVANCED_CONTROL_EXPORT PjLinkConnection {
+class PROJECTOR_COMMON_EXPORT PjLinkConnection {
  public:
   PjLinkConnection(std::string password, const PjLinkLimits& limits)
       : password_(std::move(password)), limits_(limits) {}

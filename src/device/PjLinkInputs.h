@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorCommonExport.h"
 #include "device/ModelData.h"
 #include "device/PjLinkSession.h"
 
@@ -20,11 +20,11 @@ struct PjLinkInput {
 
 /// The inputs as a model's source list; those that it has no room for are left out. Of inputs of
 /// one name each has its two characters behind it: "HDMI (31)".
-ADVANCED_CONTROL_EXPORT SourceList SourcesOf(const std::vector<PjLinkInput>& inputs);
+PROJECTOR_COMMON_EXPORT SourceList SourcesOf(const std::vector<PjLinkInput>& inputs);
 
 /// What is known of a projector's inputs, and what to ask next to know more: the list, then the
 /// name of each. Where a list has no room for all, the one that plays takes the last place.
-class ADVANCED_CONTROL_EXPORT PjLinkInputs {
+class PROJECTOR_COMMON_EXPORT PjLinkInputs {
  public:
   /// The question to ask next; nothing when all is known.
   std::optional<PjLinkQuestion> Next() const;

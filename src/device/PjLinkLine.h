@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorCommonExport.h"
 #include "device/ProjectorChannel.h"
 
 /// The lines of PJLink, the open standard for controlling projectors of any maker over TCP, and
@@ -16,9 +16,8 @@
 namespace PjLink {
 
 inline constexpr int kPort = 4352;
-inline constexpr std::size_t kLongestLine = 136;    ///< Bytes, with the CR.
-inline constexpr std::size_t kLongestInputs = 157;  ///< The same of the list of 50 inputs.
-inline constexpr std::size_t kDigestLength = 32;    ///< Bytes before a session's first request.
+inline constexpr std::size_t kLongestInputs =
+    157;  ///< Bytes of the list of 50 inputs, with the CR.
 inline constexpr std::string_view kWrongPassword = "PJLINK ERRA";
 
 inline constexpr std::string_view kQuery = "?";
@@ -36,42 +35,42 @@ struct Line {
   std::string parameter;
 };
 
-ADVANCED_CONTROL_EXPORT std::string Format(const Line& line);
-ADVANCED_CONTROL_EXPORT std::optional<Line> Parse(std::string_view text);
+PROJECTOR_COMMON_EXPORT std::string Format(const Line& line);
+PROJECTOR_COMMON_EXPORT std::optional<Line> Parse(std::string_view text);
 
 /// Whether the words are the same but for the case of ASCII letters.
-ADVANCED_CONTROL_EXPORT bool SameWord(std::string_view a, std::string_view b);
+PROJECTOR_COMMON_EXPORT bool SameWord(std::string_view a, std::string_view b);
 
 /// The line with which a projector opens a session. An empty seed: without password.
-ADVANCED_CONTROL_EXPORT std::string FormatGreeting(std::string_view seed);
+PROJECTOR_COMMON_EXPORT std::string FormatGreeting(std::string_view seed);
 /// The seed of a greeting.
-ADVANCED_CONTROL_EXPORT std::optional<std::string> ParseGreeting(std::string_view text);
-/// What proves the password, `kDigestLength` characters.
-ADVANCED_CONTROL_EXPORT std::string Digest(std::string_view seed, std::string_view password);
+PROJECTOR_COMMON_EXPORT std::optional<std::string> ParseGreeting(std::string_view text);
+/// What proves the password, 32 characters before a session's first request.
+PROJECTOR_COMMON_EXPORT std::string Digest(std::string_view seed, std::string_view password);
 
 // Parameters as device values.
 
 /// '2' for class 2 and any above, which has all of class 2; '1' for any other text.
-ADVANCED_CONTROL_EXPORT char ProtocolClass(std::string_view parameter);
-ADVANCED_CONTROL_EXPORT std::optional<PowerState> Power(std::string_view parameter);
+PROJECTOR_COMMON_EXPORT char ProtocolClass(std::string_view parameter);
+PROJECTOR_COMMON_EXPORT std::optional<PowerState> Power(std::string_view parameter);
 /// The running state: warming up is on, too.
-ADVANCED_CONTROL_EXPORT std::optional<int> PowerStatus(std::string_view parameter);
-ADVANCED_CONTROL_EXPORT std::optional<int> ErrorStatus(std::string_view parameter);
-ADVANCED_CONTROL_EXPORT std::optional<int> Blank(std::string_view parameter);
-ADVANCED_CONTROL_EXPORT std::optional<int> Mute(std::string_view parameter);
-ADVANCED_CONTROL_EXPORT std::optional<int> Switch(std::string_view parameter);
+PROJECTOR_COMMON_EXPORT std::optional<int> PowerStatus(std::string_view parameter);
+PROJECTOR_COMMON_EXPORT std::optional<int> ErrorStatus(std::string_view parameter);
+PROJECTOR_COMMON_EXPORT std::optional<int> Blank(std::string_view parameter);
+PROJECTOR_COMMON_EXPORT std::optional<int> Mute(std::string_view parameter);
+PROJECTOR_COMMON_EXPORT std::optional<int> Switch(std::string_view parameter);
 /// Hours; more than a device value holds, 65,535, are as many as that.
-ADVANCED_CONTROL_EXPORT std::optional<int> Hours(std::string_view parameter);
+PROJECTOR_COMMON_EXPORT std::optional<int> Hours(std::string_view parameter);
 /// Hours of the first lamp; whether it burns may be missing.
-ADVANCED_CONTROL_EXPORT std::optional<int> LampHours(std::string_view parameter);
+PROJECTOR_COMMON_EXPORT std::optional<int> LampHours(std::string_view parameter);
 /// The number of an input: "31" is 31; letters go on from 9, so "3A" is 310 and "3Z" is 335.
-ADVANCED_CONTROL_EXPORT std::optional<int> InputNumber(std::string_view code);
+PROJECTOR_COMMON_EXPORT std::optional<int> InputNumber(std::string_view code);
 
 /// The input's two characters.
-ADVANCED_CONTROL_EXPORT std::optional<std::string> InputCode(int number);
+PROJECTOR_COMMON_EXPORT std::optional<std::string> InputCode(int number);
 /// The codes in a list of inputs; what is none is passed over.
-ADVANCED_CONTROL_EXPORT std::vector<std::string> InputCodes(std::string_view list);
+PROJECTOR_COMMON_EXPORT std::vector<std::string> InputCodes(std::string_view list);
 /// The error status's six digits.
-ADVANCED_CONTROL_EXPORT std::string ErrorDigits(int errorStatus);
+PROJECTOR_COMMON_EXPORT std::string ErrorDigits(int errorStatus);
 
 }  // namespace PjLink

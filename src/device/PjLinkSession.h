@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorCommonExport.h"
 #include "device/PjLinkConnection.h"
 #include "device/PjLinkMapping.h"
 #include "device/ProjectorChannel.h"
@@ -47,7 +47,7 @@ struct PjLinkTold {
 /// - A question is asked again once where its answer got lost.
 ///
 /// Every step of this is one exchange, and every exchange has the whole time for an answer.
-class ADVANCED_CONTROL_EXPORT PjLinkSession {
+class PROJECTOR_COMMON_EXPORT PjLinkSession {
  public:
   PjLinkSession(const std::string& password, const PjLinkLimits& limits)
       : limits_(limits), connection_(password, limits) {}

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string_view>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorCommonExport.h"
 #include "device/OperationFamily.h"
 
 /// Every operation that the projector understands, named as `CPjtInterface` names it.
@@ -21,29 +21,29 @@ inline constexpr std::size_t kOperationCount = 0
     ;
 
 /// The operation's name, as its member of `CPjtInterface` is called.
-ADVANCED_CONTROL_EXPORT std::string_view OperationName(PjtOperation operation);
+PROJECTOR_COMMON_EXPORT std::string_view OperationName(PjtOperation operation);
 
 /// The operation of that name, or nothing.
-ADVANCED_CONTROL_EXPORT std::optional<PjtOperation> OperationByName(std::string_view name);
+PROJECTOR_COMMON_EXPORT std::optional<PjtOperation> OperationByName(std::string_view name);
 
 /// The operation's number on the wire, 1 or above, and the operation of that number, or nothing.
-ADVANCED_CONTROL_EXPORT std::uint16_t OperationNumber(PjtOperation operation);
-ADVANCED_CONTROL_EXPORT std::optional<PjtOperation> OperationByNumber(std::uint16_t number);
+PROJECTOR_COMMON_EXPORT std::uint16_t OperationNumber(PjtOperation operation);
+PROJECTOR_COMMON_EXPORT std::optional<PjtOperation> OperationByNumber(std::uint16_t number);
 
-ADVANCED_CONTROL_EXPORT OperationFamily FamilyOf(PjtOperation operation);
+PROJECTOR_COMMON_EXPORT OperationFamily FamilyOf(PjtOperation operation);
 inline const OperationForm& FormOf(PjtOperation operation) { return FormOf(FamilyOf(operation)); }
 
 /// Whether `result`, as a reply carries it, says that the projector did what was asked. Families
 /// whose caller gets no result still carry one in the reply: nonzero is success.
-ADVANCED_CONTROL_EXPORT bool IsSuccess(PjtOperation operation, int result);
+PROJECTOR_COMMON_EXPORT bool IsSuccess(PjtOperation operation, int result);
 
 /// A result that says success, and one that says refusal, by the operation's family.
-ADVANCED_CONTROL_EXPORT int AcceptedResult(PjtOperation operation);
-ADVANCED_CONTROL_EXPORT int RefusedResult(PjtOperation operation);
+PROJECTOR_COMMON_EXPORT int AcceptedResult(PjtOperation operation);
+PROJECTOR_COMMON_EXPORT int RefusedResult(PjtOperation operation);
 
 /// Whether the operation only reads.
-ADVANCED_CONTROL_EXPORT bool IsRead(PjtOperation operation);
+PROJECTOR_COMMON_EXPORT bool IsRead(PjtOperation operation);
 
 /// Whether doing it twice comes to the same as doing it once, whatever the projector has before: of
 /// reads and of changes that name what they lead to. A step does not, nor does an adjustment.
-ADVANCED_CONTROL_EXPORT bool IsAbsolute(PjtOperation operation);
+PROJECTOR_COMMON_EXPORT bool IsAbsolute(PjtOperation operation);

@@ -5,7 +5,7 @@
 #include <optional>
 #include <span>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorCommonExport.h"
 #include "device/ConnectionState.h"
 #include "device/ModelData.h"
 #include "device/PjtOperation.h"
@@ -42,7 +42,7 @@ enum class PowerState : std::uint8_t { Standby, On, CoolingDown, WarmingUp };
 /// The way to one projector: a real connection, a simulation, or a channel around a channel that
 /// logs, bounds or disturbs. Called from one thread at a time; `Connection`, `Inputs` and `Power`
 /// from any.
-class ADVANCED_CONTROL_EXPORT ProjectorChannel {
+class PROJECTOR_COMMON_EXPORT ProjectorChannel {
  public:
   virtual ~ProjectorChannel() = default;
 

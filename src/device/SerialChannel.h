@@ -5,11 +5,11 @@
 #include <string>
 #include <utility>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorCommonExport.h"
 #include "device/WireChannel.h"
 
 /// A projector that speaks our wire on a serial line: 8 data bits, no parity, 1 stop bit.
-class ADVANCED_CONTROL_EXPORT SerialChannel final : public WireChannel {
+class PROJECTOR_COMMON_EXPORT SerialChannel final : public WireChannel {
  public:
   /// `device` is the port's path; `baud` its speed in bits per second.
   SerialChannel(std::string device, std::int32_t baud)

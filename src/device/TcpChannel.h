@@ -5,11 +5,11 @@
 #include <string>
 #include <utility>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorCommonExport.h"
 #include "device/WireChannel.h"
 
 /// A projector that speaks our wire on a TCP port.
-class ADVANCED_CONTROL_EXPORT TcpChannel final : public WireChannel {
+class PROJECTOR_COMMON_EXPORT TcpChannel final : public WireChannel {
  public:
   /// `host` is a name or an address.
   TcpChannel(std::string host, std::uint16_t port) : TcpChannel(std::move(host), port, {}) {}

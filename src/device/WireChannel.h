@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorCommonExport.h"
 #include "device/ProjectorChannel.h"
 #include "device/WireFrame.h"
 
@@ -25,7 +25,7 @@ class QIODevice;
 /// during which the connection breaks, is unanswered and was carried out at most once; its reply is
 /// nobody's if it comes later. All commands come from one thread, as those behind a
 /// `BoundedChannel` do.
-class ADVANCED_CONTROL_EXPORT WireChannel : public ProjectorChannel {
+class PROJECTOR_COMMON_EXPORT WireChannel : public ProjectorChannel {
  public:
   struct Limits {
     std::chrono::milliseconds connect{1500};  ///< Until the projector has welcomed us.

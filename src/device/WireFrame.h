@@ -7,7 +7,7 @@
 #include <string_view>
 #include <variant>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorCommonExport.h"
 #include "device/ProjectorChannel.h"
 
 /// The frames in which a program and a projector talk over TCP and over serial lines; docs/wire.md
@@ -66,15 +66,15 @@ struct Frame {
 };
 
 /// Puts the frame's bytes, at most `kMaximumFrame`, behind `bytes`.
-ADVANCED_CONTROL_EXPORT void Append(std::string& bytes, const Frame& frame);
+PROJECTOR_COMMON_EXPORT void Append(std::string& bytes, const Frame& frame);
 
-ADVANCED_CONTROL_EXPORT Request MakeRequest(const PjtCommand& command);
+PROJECTOR_COMMON_EXPORT Request MakeRequest(const PjtCommand& command);
 /// Nothing where no operation has that number.
-ADVANCED_CONTROL_EXPORT std::optional<PjtCommand> MakeCommand(const Request& request);
+PROJECTOR_COMMON_EXPORT std::optional<PjtCommand> MakeCommand(const Request& request);
 
 /// Finds frames in bytes that arrive in pieces of any size. What is no frame is skipped byte by
 /// byte, so that a frame behind noise is found.
-class ADVANCED_CONTROL_EXPORT Decoder {
+class PROJECTOR_COMMON_EXPORT Decoder {
  public:
   void Add(std::string_view bytes) { bytes_.append(bytes); }
 

@@ -17,18 +17,10 @@
 
 #include "host/FindLine.h"
 #include "i18n/LocalizeControlTexts.h"
-#include "pages/TablePages.h"
+#include "pages/MakePage.h"
+#include "pages/common/CTabPage.h"
 #include "pages/common/StatusLine.h"
 #include "pages/common/Waiting.h"
-#include "pages/input/CInputTabDlg.h"
-#include "pages/input/CInputType5Dlg.h"
-#include "pages/input/COption5TabDlg.h"
-#include "pages/input/COtherTabDlg.h"
-#include "pages/picture/CPicTabDlg.h"
-#include "pages/picture/CPictureTabType5Dlg.h"
-#include "pages/setup/CAudioType5Dlg.h"
-#include "pages/setup/CSetupType5TabDlg.h"
-#include "pages/status/CStatusTabDlg.h"
 #include "resources/AdvancedControlResources.h"
 #include "settings/CatalogNumbers.h"
 #include "toolkit/CTabCtrl.h"
@@ -60,26 +52,10 @@ struct CAdvanceDlg::Pages {
 
 namespace {
 
-template <class... Page>
 auto MakePages(CWnd* parent) {
-  static_assert(sizeof...(Page) == kPageCount, "a page has no class");
-  std::array<std::unique_ptr<CTabPage>, kPageCount> pages{std::make_unique<Page>(parent)...};
-  for (const auto& page : pages) {
-    page->setWindowFlags(Qt::Widget);
-    page->hide();  // or it would come up together with the dialog
-  }
+  std::array<std::unique_ptr<CTabPage>, kPageCount> pages;
+  for (std::size_t i = 0; i < kPageCount; ++i) pages[i] = MakePage(static_cast<PageId>(i), parent);
   return pages;
-}
-
-// In the order of PageId.
-auto MakeAllPages(CWnd* parent) {
-  return MakePages<CStatusTabDlg, CMainTabDlg, CMain2TabDlg, CPicture1TabDlg, CPicture12TabDlg,
-                   CPicture2TabDlg, CPicture22TabDlg, CInputTabDlg, CInput2TabDlg, CAutoTabDlg,
-                   CAuto2TabDlg, COptionTabDlg, COption2TabDlg, CScreenTabDlg, COtherTabDlg,
-                   CImageTabDlg, CImage4TabDlg, CVideoTabDlg, CInput4TabDlg, CScreen4TabDlg,
-                   CSetup4TabDlg, COption4TabDlg, COther4TabDlg, CPicTabDlg, CPictureTabType5Dlg,
-                   CInputType5Dlg, CSetupType5TabDlg, CAudioType5Dlg, COption5TabDlg, CSetupTabDlg,
-                   CInput3TabDlg, COption3TabDlg>(parent);
 }
 
 }  // namespace
@@ -87,7 +63,7 @@ auto MakeAllPages(CWnd* parent) {
 CAdvanceDlg::CAdvanceDlg(CWnd* parent)
     : CDialog(TemplateId::Advance, parent),
       scroll_(new FittedScroll(new QWidget, this)),
-      pages_(new Pages{MakeAllPages(scroll_->widget())}),
+      pages_(new Pages{MakePages(scroll_->widget())}),
       waiting_(new Waiting({.projector = [this]() -> CPjtInterface& { return projector_; },
                             .show = [this](bool waiting) { ShowWaiting(waiting); },
                             .text = [this] { return WaitingText(); },

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorSettingsExport.h"
 #include "i18n/MessageFormat.h"
 
 inline namespace AdvancedControl {
@@ -28,27 +28,28 @@ constexpr std::uint32_t MessageId(int category, int number) {
 /// "../share/advanced-control" or "../../share/advanced-control" from this library, in the
 /// installed data folder, or in the current directory; if that one is damaged, no other is tried.
 /// Returns 0, or -1 and no catalog is loaded.
-ADVANCED_CONTROL_EXPORT int LoadCatalog();
+PROJECTOR_SETTINGS_EXPORT int LoadCatalog();
 
 /// The same with `folders` to look in, in their order; an empty name is the current directory.
-ADVANCED_CONTROL_EXPORT int LoadCatalog(std::span<const std::string> folders);
+PROJECTOR_SETTINGS_EXPORT int LoadCatalog(std::span<const std::string> folders);
 
 /// The folders in which the first form looks.
-ADVANCED_CONTROL_EXPORT std::vector<std::string> CatalogFolders();
+PROJECTOR_SETTINGS_EXPORT std::vector<std::string> CatalogFolders();
 
 /// Releases the loaded module, if any.
-ADVANCED_CONTROL_EXPORT void ReleaseCatalog();
+PROJECTOR_SETTINGS_EXPORT void ReleaseCatalog();
 
 /// Which module was refused and why, or where none was found; empty with a catalog. Each failed
 /// `LoadCatalog` also logs it, as a warning of the category "advancedcontrol.catalog".
-ADVANCED_CONTROL_EXPORT std::string CatalogProblem();
+PROJECTOR_SETTINGS_EXPORT std::string CatalogProblem();
 
 /// Whether a module is loaded; without one every text is "No Message Catalog".
-ADVANCED_CONTROL_EXPORT bool IsCatalogLoaded();
+PROJECTOR_SETTINGS_EXPORT bool IsCatalogLoaded();
 
 /// `GetCatalogText` with the inserts in an array.
-ADVANCED_CONTROL_EXPORT void GetCatalogTextV(int category, int number, int bufferSize, char* buffer,
-                                             std::span<const CatalogInsert> inserts);
+PROJECTOR_SETTINGS_EXPORT void GetCatalogTextV(int category, int number, int bufferSize,
+                                               char* buffer,
+                                               std::span<const CatalogInsert> inserts);
 
 /// Writes a catalog text, UTF-8, without its closing line break, to `buffer`.
 ///
@@ -59,7 +60,8 @@ ADVANCED_CONTROL_EXPORT void GetCatalogTextV(int category, int number, int buffe
 /// The text is that of the system language, else the one of language 1033; with a file "GETENG" or
 /// "GETSCH" in the current directory only the latter. The files and the environment are looked at
 /// anew in each call. Where no text is found or can be formatted the text is "No Message Catalog".
-ADVANCED_CONTROL_EXPORT void GetCatalogText(int category, int number, int bufferSize, char* buffer);
+PROJECTOR_SETTINGS_EXPORT void GetCatalogText(int category, int number, int bufferSize,
+                                              char* buffer);
 template <class... Inserts>
 requires(sizeof...(Inserts) > 0) void GetCatalogText(int category, int number, int bufferSize,
                                                      char* buffer, const Inserts&... inserts) {

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorSettingsExport.h"
 
 inline namespace AdvancedControl {
 
@@ -16,6 +16,6 @@ inline constexpr std::uint32_t kChineseSimplified = 2052;
 /// and locales without an identifier are 1033.
 ///
 /// Follows changes of the environment. Called from the user-interface thread.
-ADVANCED_CONTROL_EXPORT std::uint32_t SystemLanguageId();
+PROJECTOR_SETTINGS_EXPORT std::uint32_t SystemLanguageId();
 
 }  // namespace AdvancedControl

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorSettingsExport.h"
 #include "device/CPjtInterface.h"
 #include "settings/ModelCodes.h"
 
@@ -18,7 +18,7 @@ struct Call {
   bool anyResult = false;    ///< Any result but 0 is a success, whatever the family says.
 
   /// The command for a model, with `value` where the operation takes one.
-  ADVANCED_CONTROL_EXPORT PjtCommand Command(int value = 0, int modelCode = 0) const;
+  PROJECTOR_SETTINGS_EXPORT PjtCommand Command(int value = 0, int modelCode = 0) const;
 };
 
 /// What came of a call.
@@ -28,11 +28,11 @@ struct Answer {
 };
 
 /// Sends a call. What a caller cannot learn counts as accepted: operations without a result.
-ADVANCED_CONTROL_EXPORT Answer Perform(CPjtInterface& projector, const Call& call, int value = 0,
-                                       int modelCode = 0);
+PROJECTOR_SETTINGS_EXPORT Answer Perform(CPjtInterface& projector, const Call& call, int value = 0,
+                                         int modelCode = 0);
 
 /// Reads a setting; nothing when the read fails.
-ADVANCED_CONTROL_EXPORT std::optional<int> Read(CPjtInterface& projector, const Call& call);
+PROJECTOR_SETTINGS_EXPORT std::optional<int> Read(CPjtInterface& projector, const Call& call);
 
 // How a table names its calls.
 

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorSettingsExport.h"
 #include "device/ModelData.h"
 #include "settings/ModelCodes.h"
 
@@ -58,7 +58,7 @@ class Entries {
   constexpr Entries(Maker maker) : maker_(maker) {}
 
   /// The entries of this model, in list order. Names may point into `model`.
-  ADVANCED_CONTROL_EXPORT std::vector<ListEntry> Of(const ModelData& model) const;
+  PROJECTOR_SETTINGS_EXPORT std::vector<ListEntry> Of(const ModelData& model) const;
 
  private:
   std::span<const ListEntry> fixed_{};
@@ -68,18 +68,18 @@ class Entries {
 
 // Lists that the model brings with it.
 
-ADVANCED_CONTROL_EXPORT std::vector<ListEntry> GammaEntries(const ModelData& model);
-ADVANCED_CONTROL_EXPORT std::vector<ListEntry> ColorTempEntries(const ModelData& model);
+PROJECTOR_SETTINGS_EXPORT std::vector<ListEntry> GammaEntries(const ModelData& model);
+PROJECTOR_SETTINGS_EXPORT std::vector<ListEntry> ColorTempEntries(const ModelData& model);
 /// The same under the texts that only one page uses.
 std::vector<ListEntry> Picture1ColorTempEntries(const ModelData& model);
 /// The lamp modes that the dialogs have a text for. Each stands for its position, so that an
 /// unknown name moves the modes behind it up: the position is what the projector takes.
-ADVANCED_CONTROL_EXPORT std::vector<ListEntry> WhisperEntries(const ModelData& model);
-ADVANCED_CONTROL_EXPORT std::vector<ListEntry> AspectEntries(const ModelData& model);
+PROJECTOR_SETTINGS_EXPORT std::vector<ListEntry> WhisperEntries(const ModelData& model);
+PROJECTOR_SETTINGS_EXPORT std::vector<ListEntry> AspectEntries(const ModelData& model);
 /// The input sources under their own names; the upper half of a source's word is none of its code.
-ADVANCED_CONTROL_EXPORT std::vector<ListEntry> SourceEntries(const ModelData& model);
+PROJECTOR_SETTINGS_EXPORT std::vector<ListEntry> SourceEntries(const ModelData& model);
 
 /// Position of the first entry that stands for `value`, or −1.
-ADVANCED_CONTROL_EXPORT int PositionOf(std::span<const ListEntry> entries, int value);
+PROJECTOR_SETTINGS_EXPORT int PositionOf(std::span<const ListEntry> entries, int value);
 
 }  // namespace AdvancedControl

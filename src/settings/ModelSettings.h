@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorSettingsExport.h"
 #include "device/CPjtInterface.h"
 #include "settings/PageSets.h"
 #include "settings/RowUse.h"
@@ -16,7 +16,7 @@
 inline namespace AdvancedControl {
 
 /// One setting of a model, as a program without a window sees it.
-struct ADVANCED_CONTROL_EXPORT ModelSetting {
+struct PROJECTOR_SETTINGS_EXPORT ModelSetting {
   enum class Kind : std::uint8_t {
     Number,  ///< Any whole number of `range`.
     Choice,  ///< The value of one of `entries`; switches are choices too.
@@ -58,11 +58,11 @@ struct SourcedSetting {
 };
 
 /// The keys of every model's settings; some stand here more than once.
-ADVANCED_CONTROL_EXPORT std::vector<std::string_view> AllKeys();
+PROJECTOR_SETTINGS_EXPORT std::vector<std::string_view> AllKeys();
 
 /// All settings of a model in the order of its pages, the pop-ups' behind those of the page that
 /// opens them.
-class ADVANCED_CONTROL_EXPORT ModelSettings {
+class PROJECTOR_SETTINGS_EXPORT ModelSettings {
  public:
   explicit ModelSettings(ModelData model);
 

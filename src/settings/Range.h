@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorSettingsExport.h"
 
 inline namespace AdvancedControl {
 
@@ -17,6 +17,6 @@ struct Range {
 /// A model's range text, "minimum,maximum" in device units, as shown values: device value − bias.
 /// A text that is empty, does not have a decimal 16-bit integer on both sides of its first comma,
 /// or has them in the wrong order gives `fallback`, which is in shown values already.
-ADVANCED_CONTROL_EXPORT Range ParseRange(std::string_view text, int bias, Range fallback);
+PROJECTOR_SETTINGS_EXPORT Range ParseRange(std::string_view text, int bias, Range fallback);
 
 }  // namespace AdvancedControl

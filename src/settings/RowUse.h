@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorSettingsExport.h"
 #include "settings/Rows.h"
 
 inline namespace AdvancedControl {
@@ -15,19 +15,19 @@ inline namespace AdvancedControl {
 
 /// Asks for the input source that a row belongs to: nothing while the projector does not say
 /// enough; 0, without asking, for a row that belongs to none.
-ADVANCED_CONTROL_EXPORT std::optional<int> AskSource(CPjtInterface& projector, OfSource of,
-                                                     int modelCode);
+PROJECTOR_SETTINGS_EXPORT std::optional<int> AskSource(CPjtInterface& projector, OfSource of,
+                                                       int modelCode);
 /// The source that stands for none: what a model plays while it does not run. Nothing for a row
 /// that does not belong to it.
 std::optional<int> StandbySource(OfSource of, int modelCode);
 /// What `AskSource` will ask first, in order.
-ADVANCED_CONTROL_EXPORT std::span<const Call> SourceQuestions(OfSource of);
+PROJECTOR_SETTINGS_EXPORT std::span<const Call> SourceQuestions(OfSource of);
 
 /// Reads a row's setting; nothing when that fails, or for a row that shows none. `source` is taken
 /// instead of asking for the one that the row belongs to.
-ADVANCED_CONTROL_EXPORT std::optional<int> ReadRow(CPjtInterface& projector, const PageRow& row,
-                                                   const ModelData& model,
-                                                   std::optional<int> source = {});
+PROJECTOR_SETTINGS_EXPORT std::optional<int> ReadRow(CPjtInterface& projector, const PageRow& row,
+                                                     const ModelData& model,
+                                                     std::optional<int> source = {});
 
 /// How a value is sent, beside the value.
 struct Sending {
@@ -47,11 +47,11 @@ enum class Sent : std::uint8_t {
 
 /// Sends a value: an entry's of a list, 0 or 1 of a switch. A row that only steps is stepped to it,
 /// see `StepTo`.
-ADVANCED_CONTROL_EXPORT Sent SendRow(CPjtInterface& projector, const PageRow& row,
-                                     const ModelData& model, int value, const Sending& how = {});
+PROJECTOR_SETTINGS_EXPORT Sent SendRow(CPjtInterface& projector, const PageRow& row,
+                                       const ModelData& model, int value, const Sending& how = {});
 
 /// The source that a step goes to, of the one that `AskSource` gave; nothing where no step is made.
-ADVANCED_CONTROL_EXPORT std::optional<int> SteppedSource(OfSource of, std::optional<int> asked);
+PROJECTOR_SETTINGS_EXPORT std::optional<int> SteppedSource(OfSource of, std::optional<int> asked);
 
 /// What came of a step: refused, or the new value; neither where nothing was sent, or where the new
 /// value could not be read.
@@ -61,15 +61,15 @@ struct Stepped {
 };
 
 /// Steps a row inside `bounds`, which are shown values, as `known` is, the one known last.
-ADVANCED_CONTROL_EXPORT Stepped Step(CPjtInterface& projector, const ValueRow& row, bool upwards,
-                                     int source, Range bounds, int known);
+PROJECTOR_SETTINGS_EXPORT Stepped Step(CPjtInterface& projector, const ValueRow& row, bool upwards,
+                                       int source, Range bounds, int known);
 
 /// Makes one step from the value `present`, and gives the value there is then.
 using Stepper = std::function<Stepped(bool upwards, int present)>;
 
 /// Steps from `present` to `wanted`, as long as `goesOn`. A step that leads no nearer, or past it,
 /// is the last; one that was refused is tried again, since it may have been lost, but not for ever.
-ADVANCED_CONTROL_EXPORT Sent StepTo(int present, int wanted, const Stepper& step,
-                                    const std::function<bool()>& goesOn);
+PROJECTOR_SETTINGS_EXPORT Sent StepTo(int present, int wanted, const Stepper& step,
+                                      const std::function<bool()>& goesOn);
 
 }  // namespace AdvancedControl

@@ -7,7 +7,7 @@
 #include <variant>
 #include <vector>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorSettingsExport.h"
 #include "settings/Call.h"
 #include "settings/ListEntry.h"
 #include "settings/ModelCodes.h"
@@ -266,34 +266,34 @@ struct PageTable {
 
 /// Key, number of the caption, or 0 where the key is all that there is, and the control by which a
 /// row is found in its template.
-ADVANCED_CONTROL_EXPORT std::string_view KeyOf(const PageRow& row);
-ADVANCED_CONTROL_EXPORT int CaptionOf(const PageRow& row);
-ADVANCED_CONTROL_EXPORT int ControlOf(const PageRow& row);
+PROJECTOR_SETTINGS_EXPORT std::string_view KeyOf(const PageRow& row);
+PROJECTOR_SETTINGS_EXPORT int CaptionOf(const PageRow& row);
+PROJECTOR_SETTINGS_EXPORT int ControlOf(const PageRow& row);
 /// The controls that show a row's value and change it, buttons of resets apart.
-ADVANCED_CONTROL_EXPORT std::vector<int> ControlsOf(const PageRow& row);
+PROJECTOR_SETTINGS_EXPORT std::vector<int> ControlsOf(const PageRow& row);
 /// The list beside an action's button, or 0.
-ADVANCED_CONTROL_EXPORT int ListBeside(const PageRow& row);
+PROJECTOR_SETTINGS_EXPORT int ListBeside(const PageRow& row);
 
 /// The row that is found by a control, which the table must have.
-ADVANCED_CONTROL_EXPORT const PageRow& FindRow(const PageTable& table, int control);
+PROJECTOR_SETTINGS_EXPORT const PageRow& FindRow(const PageTable& table, int control);
 
 /// Whether the page uses the template as it is for this model.
-ADVANCED_CONTROL_EXPORT bool KeepsTemplate(const PageTable& table, int modelCode);
+PROJECTOR_SETTINGS_EXPORT bool KeepsTemplate(const PageTable& table, int modelCode);
 /// Whether a model has the row at an index of the table.
-ADVANCED_CONTROL_EXPORT bool Has(const PageTable& table, std::size_t row, int modelCode);
+PROJECTOR_SETTINGS_EXPORT bool Has(const PageTable& table, std::size_t row, int modelCode);
 
 /// How a row is read in the model's present state; nothing for one that shows no setting. For a row
 /// of an input source the source is still to be told: `ReadRow` asks for it.
-ADVANCED_CONTROL_EXPORT std::optional<Call> ReadingOf(const PageRow& row, const ModelData& model);
+PROJECTOR_SETTINGS_EXPORT std::optional<Call> ReadingOf(const PageRow& row, const ModelData& model);
 
 /// The input source that a row belongs to.
-ADVANCED_CONTROL_EXPORT OfSource SourceOf(const PageRow& row);
+PROJECTOR_SETTINGS_EXPORT OfSource SourceOf(const PageRow& row);
 /// How a row of the table is reset by itself; nothing for one that has no reset of its own.
-ADVANCED_CONTROL_EXPORT std::optional<Call> ResetOf(const PageTable& table, const PageRow& row);
+PROJECTOR_SETTINGS_EXPORT std::optional<Call> ResetOf(const PageTable& table, const PageRow& row);
 
 /// The slider's range for a model, in shown values.
-ADVANCED_CONTROL_EXPORT Range SliderRange(const ValueRow& row, const ModelData& model);
+PROJECTOR_SETTINGS_EXPORT Range SliderRange(const ValueRow& row, const ModelData& model);
 /// Where − and + stop, in shown values; `kUnbounded` where only the projector tells.
-ADVANCED_CONTROL_EXPORT Range StepBounds(const ValueRow& row, const ModelData& model);
+PROJECTOR_SETTINGS_EXPORT Range StepBounds(const ValueRow& row, const ModelData& model);
 
 }  // namespace AdvancedControl

@@ -8,7 +8,7 @@
 #include <mutex>
 #include <utility>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorCommonExport.h"
 #include "device/ForwardingChannel.h"
 
 /// What goes wrong with a command.
@@ -32,7 +32,7 @@ struct Fault {
 ///
 /// Faults may be set from any thread while a command is under way; a command that waits goes on as
 /// soon as the fault it waits for is over.
-class ADVANCED_CONTROL_EXPORT FaultChannel : public ForwardingChannel {
+class PROJECTOR_COMMON_EXPORT FaultChannel : public ForwardingChannel {
  public:
   /// A command that drops out blocks for `dropOut` and is then unanswered.
   explicit FaultChannel(std::shared_ptr<ProjectorChannel> inner,

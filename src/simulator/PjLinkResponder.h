@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorCommonExport.h"
 #include "device/ModelData.h"
 #include "device/ProjectorChannel.h"
 
@@ -20,7 +20,7 @@ struct ServedInput {
 };
 
 /// The sources of a model, as its first digital inputs, then network inputs.
-ADVANCED_CONTROL_EXPORT std::vector<ServedInput> InputsOf(const SourceList& sources);
+PROJECTOR_COMMON_EXPORT std::vector<ServedInput> InputsOf(const SourceList& sources);
 
 /// What a projector is that is shown over PJLink.
 struct ServedProjector {
@@ -42,7 +42,7 @@ struct ServedProjector {
 };
 
 /// Answers PJLink requests on behalf of a projector.
-class ADVANCED_CONTROL_EXPORT PjLinkResponder {
+class PROJECTOR_COMMON_EXPORT PjLinkResponder {
  public:
   PjLinkResponder(std::shared_ptr<ProjectorChannel> projector, ServedProjector served);
   ~PjLinkResponder();

@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorCommonExport.h"
 #include "simulator/FaultyLine.h"
 #include "simulator/PjLinkResponder.h"
 
@@ -13,7 +13,7 @@
 ///
 /// Belongs to the thread that makes it, and answers while that thread's event loop runs. The
 /// projector is asked from that thread and must not run the event loop while it answers.
-class ADVANCED_CONTROL_EXPORT PjLinkServer {
+class PROJECTOR_COMMON_EXPORT PjLinkServer {
  public:
   struct Options {
     std::string password{};                  ///< Empty: none is wanted.

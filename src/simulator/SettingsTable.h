@@ -7,7 +7,7 @@
 #include <span>
 #include <string_view>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorCommonExport.h"
 #include "device/PjtOperation.h"
 
 /// Every setting and state that a projector has, by what it is rather than by who reads it.
@@ -235,7 +235,7 @@ struct Setting {
 };
 
 /// Every setting; one with two forms has two rows, for different page sets.
-ADVANCED_CONTROL_EXPORT std::span<const Setting> SettingsTable();
+PROJECTOR_COMMON_EXPORT std::span<const Setting> SettingsTable();
 
 /// Command codes without a known meaning: each keeps what is written to it, 0 at first.
-ADVANCED_CONTROL_EXPORT std::span<const std::uint16_t> PlainCodes();
+PROJECTOR_COMMON_EXPORT std::span<const std::uint16_t> PlainCodes();

@@ -9,7 +9,7 @@
 #include <span>
 #include <vector>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorCommonExport.h"
 #include "device/ModelData.h"
 #include "device/ProjectorChannel.h"
 #include "simulator/SettingsTable.h"
@@ -24,13 +24,13 @@ struct SimulatedModel {
 
 /// The model as a host describes it: its page set, ranges, sources, aspects, gammas and colour
 /// temperatures. A range text that does not give two ascending numbers is left out.
-ADVANCED_CONTROL_EXPORT SimulatedModel DescribeModel(const ModelData& data);
+PROJECTOR_COMMON_EXPORT SimulatedModel DescribeModel(const ModelData& data);
 
 /// A projector made of the settings table: it answers every command, keeps what it accepts and
 /// refuses what is out of range. Named and generic commands reach the same settings.
 ///
 /// Safe to use from several threads at once.
-class ADVANCED_CONTROL_EXPORT SimulatedProjector : public ProjectorChannel {
+class PROJECTOR_COMMON_EXPORT SimulatedProjector : public ProjectorChannel {
  public:
   static constexpr int kCurrentSource = -1;
   static constexpr int kStandbySource = 15;

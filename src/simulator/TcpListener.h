@@ -2,11 +2,11 @@
 
 #include <QTcpServer>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorCommonExport.h"
 
 /// A port that stays open to the next connection whatever became of the last one: after one that
 /// could not be accepted, as when the process has no descriptor left, it tries again at intervals.
-class ADVANCED_CONTROL_EXPORT TcpListener final : public QTcpServer {
+class PROJECTOR_COMMON_EXPORT TcpListener final : public QTcpServer {
  public:
   /// No connection holds more than `readBuffer` unread bytes, also while it waits to be served.
   explicit TcpListener(qint64 readBuffer);

@@ -3,12 +3,12 @@
 #include <string>
 #include <string_view>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorCommonExport.h"
 #include "device/ProjectorChannel.h"
 #include "device/WireFrame.h"
 
 /// The projector's end of one connection: takes the bytes that come in and makes those that go out.
-class ADVANCED_CONTROL_EXPORT WireResponder {
+class PROJECTOR_COMMON_EXPORT WireResponder {
  public:
   explicit WireResponder(ProjectorChannel& projector) : projector_(projector) {}
 

@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorCommonExport.h"
 #include "device/ProjectorChannel.h"
 #include "simulator/FaultyLine.h"
 
@@ -13,7 +13,7 @@ class QIODevice;
 
 /// Serves one projector over our wire: on a TCP port, and on lines that are handed over. Lives on a
 /// thread with an event loop; the projector should answer at once.
-class ADVANCED_CONTROL_EXPORT WireServer {
+class PROJECTOR_COMMON_EXPORT WireServer {
  public:
   /// Of the port. Further ones wait until one ends, or until nothing has come for a moment over one
   /// that owes no reply: the one of these that has been idle longest is closed.

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorSettingsExport.h"
 #include "snapshots/Snapshot.h"
 
 inline namespace AdvancedControl {
@@ -47,7 +47,7 @@ struct RestoredSetting {
 /// Puts the settings of a snapshot back on a projector, of the same model or another. First `Read`,
 /// then `Send`; whenever it ends, `Settings` tells the truth, and doing it all again completes it.
 /// `model` and `connection` outlive it.
-class ADVANCED_CONTROL_EXPORT Restoration {
+class PROJECTOR_SETTINGS_EXPORT Restoration {
  public:
   using Filter = std::function<bool(const SavedSetting&)>;
 

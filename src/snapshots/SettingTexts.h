@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorSettingsExport.h"
 #include "i18n/CatalogTexts.h"
 #include "settings/ModelSettings.h"
 
@@ -20,7 +20,7 @@ struct TypedValue {
 
 /// The texts of settings in one language, and what a text in any language stands for. May be used
 /// from several threads at once. Texts are UTF-8.
-class ADVANCED_CONTROL_EXPORT SettingTexts {
+class PROJECTOR_SETTINGS_EXPORT SettingTexts {
  public:
   /// `languageId` is preferred; a text that it does not have is taken in English.
   SettingTexts(std::span<const std::string> catalogFolders, std::uint32_t languageId);
@@ -63,8 +63,8 @@ class ADVANCED_CONTROL_EXPORT SettingTexts {
 
 /// The device value that was typed; nothing for a step from a value that is not known or that the
 /// list does not have, or to one that the setting does not take.
-ADVANCED_CONTROL_EXPORT std::optional<int> Resolve(const ModelSetting& setting,
-                                                   const TypedValue& typed,
-                                                   std::optional<int> present);
+PROJECTOR_SETTINGS_EXPORT std::optional<int> Resolve(const ModelSetting& setting,
+                                                     const TypedValue& typed,
+                                                     std::optional<int> present);
 
 }  // namespace AdvancedControl

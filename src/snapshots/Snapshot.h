@@ -7,7 +7,7 @@
 #include <QByteArray>
 #include <QString>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorSettingsExport.h"
 #include "snapshots/SettingTexts.h"
 
 inline namespace AdvancedControl {
@@ -45,19 +45,20 @@ struct Progress {
 };
 
 /// A snapshot of this model and time without settings.
-ADVANCED_CONTROL_EXPORT Snapshot EmptySnapshot(const std::string& projector,
-                                               const ModelData& model);
+PROJECTOR_SETTINGS_EXPORT Snapshot EmptySnapshot(const std::string& projector,
+                                                 const ModelData& model);
 
 /// Reads every setting that may be put back; what the projector refuses to tell is left out, and
 /// named in `unread` unless that is null, or the projector does not offer it at all.
-ADVANCED_CONTROL_EXPORT Snapshot TakeSnapshot(const std::string& projector,
-                                              const ModelSettings& settings,
-                                              CPjtInterface& connection, const SettingTexts& texts,
-                                              const Progress& progress = {},
-                                              std::vector<std::string>* unread = nullptr);
+PROJECTOR_SETTINGS_EXPORT Snapshot TakeSnapshot(const std::string& projector,
+                                                const ModelSettings& settings,
+                                                CPjtInterface& connection,
+                                                const SettingTexts& texts,
+                                                const Progress& progress = {},
+                                                std::vector<std::string>* unread = nullptr);
 
 /// The file's text: JSON, described in `docs/acctl.md`.
-ADVANCED_CONTROL_EXPORT QByteArray WriteSnapshot(const Snapshot& snapshot);
+PROJECTOR_SETTINGS_EXPORT QByteArray WriteSnapshot(const Snapshot& snapshot);
 
 struct SnapshotContents {
   Snapshot snapshot;
@@ -66,6 +67,6 @@ struct SnapshotContents {
 };
 
 /// Reads what `WriteSnapshot` wrote, by whoever it was edited since. Unknown members are ignored.
-ADVANCED_CONTROL_EXPORT SnapshotContents ReadSnapshot(const QByteArray& text);
+PROJECTOR_SETTINGS_EXPORT SnapshotContents ReadSnapshot(const QByteArray& text);
 
 }  // namespace AdvancedControl

@@ -11,7 +11,7 @@
 #include <gtest/gtest.h>
 
 #include "device/BoundedChannel.h"
-#include "pages/input/CServiceDlg.h"
+#include "pages/option/CServiceDlg.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/PacedProjector.h"
 

@@ -55,7 +55,6 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog, private RowHost
 
   /// The user operated this control: does what its row says.
   void Act(int control);
-  void OnHScroll(CSliderCtrl& slider) { Release(slider); }
   /// A slider of the table was released. False when the projector refused the position.
   bool Release(CSliderCtrl& slider);
 
@@ -76,8 +75,6 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog, private RowHost
   RowView* RowOf(const QWidget* control) const final;
   std::optional<int> AskFor(OfSource of) final { return reader_.AskFor(of); }
   void ReadRow(RowView& row, int source) final { reader_.Read(row, source); }
-
-  void ShowPresentRows();
 
   const PageTable& table_;
   const PageReader::Rows rows_;  // in the table's order

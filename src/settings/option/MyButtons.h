@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "AdvancedControlExport.h"
+#include "ProjectorSettingsExport.h"
 #include "settings/ListEntry.h"
 
 inline namespace AdvancedControl {
@@ -17,6 +17,6 @@ inline constexpr int MyButtonTable[] = {0,  4,  3,  5,  2,  1,  6,  16, 17,
 inline constexpr int kOtherFunction = 255;
 inline constexpr ModelCodes kCodesWithOtherFunction{44, 49, 50, 51, 53, 54};
 
-ADVANCED_CONTROL_EXPORT std::vector<ListEntry> MyButtonEntries(const ModelData& model);
+PROJECTOR_SETTINGS_EXPORT std::vector<ListEntry> MyButtonEntries(const ModelData& model);
 
 }  // namespace AdvancedControl

@@ -80,7 +80,11 @@ public_headers(AdvancedControl
   toolkit/CDialog.h
   toolkit/CWnd.h
   toolkit/DialogTemplate.h
-  toolkit/NotificationMap.h)
+  toolkit/InputDialog.h
+  toolkit/MadeWithNew.h
+  toolkit/NotificationMap.h
+  toolkit/OwnedDialog.h
+  toolkit/TemplateDialog.h)
 target_compile_features(ProjectorCommon PUBLIC cxx_std_20)
 install(TARGETS ${libraries} EXPORT AdvancedControlTargets
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT library

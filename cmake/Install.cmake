@@ -55,6 +55,7 @@ public_headers(ProjectorSettings
   settings/ListEntry.h
   settings/ModelCodes.h
   settings/PageSets.h
+  settings/Pages.def
   settings/Range.h
   settings/Rows.h)
 # The dialog, and pages of page set 5 with their pop-up.
@@ -62,8 +63,8 @@ public_headers(AdvancedControl
   host/CAdvanceDlg.h
   i18n/LocalizeControlTexts.h
   pages/input/CInputType5Dlg.h
-  pages/input/COption5TabDlg.h
-  pages/input/CServiceDlg.h
+  pages/option/COption5TabDlg.h
+  pages/option/CServiceDlg.h
   pages/picture/CPictureTabType5Dlg.h
   pages/setup/CAudioType5Dlg.h
   pages/setup/CSetupType5TabDlg.h

@@ -1,4 +1,5 @@
-// Any bytes as lines from a PJLink peer, at either end.
+// Any bytes as lines from a PJLink peer, at either end, and as all that a projector says to a
+// session.
 
 #include <algorithm>
 #include <cstddef>
@@ -7,7 +8,10 @@
 #include <string>
 #include <string_view>
 
+#include "device/CommandCode.h"
+#include "device/PjLinkInputs.h"
 #include "device/PjLinkLine.h"
+#include "device/PjLinkSession.h"
 #include "fuzz/Check.h"
 #include "simulator/PjLinkResponder.h"
 
@@ -41,10 +45,71 @@ void ReadAsReply(std::string_view text) {
   }
 }
 
+/// A projector that says the bytes, a piece whenever it is waited for, and ends the connection with
+/// every piece that begins so.
+class Talk {
+ public:
+  explicit Talk(std::string_view bytes) : rest_(bytes) {}
+
+  void Run() {
+    using Op = PjtOperation;
+    constexpr PjtCommand kCommands[] = {
+        {Op::Get, CommandCode::RunningState},    {Op::SetMute, 0, 1},
+        {Op::Set, CommandCode::InputSource, 31}, {Op::Get, CommandCode::InputSource},
+        {Op::Inc, CommandCode::Volume},          {Op::Get, CommandCode::Freeze}};
+    for (const PjtCommand& command : kCommands) {
+      session_.Begin(command, now_);
+      Finish();
+      const PjtReply& reply = session_.Reply();
+      const bool isAccepted = IsSuccess(command.operation, reply.result);
+      Check(!isAccepted || (reply.answered && reply.offered && !reply.busy && !reply.unsent));
+      Check(isAccepted || !reply.pending);
+      Check(!reply.unsent || !reply.answered);
+    }
+    PjLinkInputs inputs;
+    for (auto question = inputs.Next(); question; question = inputs.Next()) {
+      session_.Begin(*question, now_);
+      Finish();
+      if (!inputs.Take(session_.Told())) break;
+    }
+    Check(SourcesOf(inputs.Known()).count <= SourceList::kCapacity);
+  }
+
+ private:
+  void Finish() {
+    constexpr int kMostSteps = 2000;
+    int steps = 0;
+    for (auto step = session_.Next(now_); step.kind != PjLinkStep::Kind::Finished;
+         step = session_.Next(now_)) {
+      Check(++steps < kMostSteps);
+      if (step.kind == PjLinkStep::Kind::Connect) session_.Connection().Connected();
+      if (step.kind == PjLinkStep::Kind::Wait) Say(step.until);
+    }
+  }
+
+  void Say(PjLinkTime until) {
+    now_ += std::chrono::milliseconds(1);
+    if (rest_.empty()) {
+      now_ = std::max(now_, until);
+      return;
+    }
+    const std::size_t size = std::min<std::size_t>(rest_.size(), 40);
+    const std::string_view piece = rest_.substr(0, size);
+    rest_.remove_prefix(size);
+    if (piece.front() == '!') session_.Connection().Closed(now_);
+    session_.Connection().Received(piece);
+  }
+
+  std::string_view rest_;
+  PjLinkSession session_{"secret", {}};
+  PjLinkTime now_{std::chrono::hours(1)};
+};
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   std::string_view rest(reinterpret_cast<const char*>(data), size);
+  Talk(rest).Run();
   PjLinkResponder responder(std::make_shared<Plain>(),
                             {.inputs = {{"31", 1, "HDMI"}, {"6Z", 7, ""}}});
   while (!rest.empty()) {

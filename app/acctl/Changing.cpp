@@ -1,5 +1,6 @@
 // The commands that change settings one by one.
 
+#include <cstdlib>
 #include <map>
 
 #include "app/acctl/Reading.h"
@@ -45,6 +46,8 @@ std::vector<Change> ChangesOf(const Work& work, const Target& target, Report& re
     } else if (const auto typed = work.texts.Parse(*setting, word);
                !typed || (!typed->relative && !setting->Allows(typed->amount))) {
       complain("'" + word + "' is not one of: " + work.texts.Values(*setting));
+    } else if (target.OnlySteps(*setting) && !typed->relative) {
+      complain("'" + word + "' is no step like +1 or -1, and PJLink has nothing else for it");
     } else {
       changes.push_back({setting, *typed, word});
     }
@@ -86,6 +89,7 @@ void CheckSteps(const std::vector<Change>& changes, const Work& work, ProjectorA
     const ModelSetting& setting = *change.setting;
     ofOtherSource = ofOtherSource || setting.SelectsInput();
     if (ofOtherSource && setting.IsPerSource()) continue;
+    if (TargetOf(projector).OnlySteps(setting)) continue;  // to where nobody knows
     std::optional<int>& value = expected[&setting];
     if (!change.typed.relative) {
       value = change.typed.amount;
@@ -149,10 +153,24 @@ Made Judge(const Work& work, ProjectorAccess& projector, const ModelSetting& set
           isAnswered ? ExitCode::Refused : ExitCode::NoAnswer};
 }
 
+/// Makes as many steps as a change wants of a setting that cannot be read.
+Made MakeSteps(const Change& change, const Work& work, ProjectorAccess& projector) {
+  const int wanted = change.typed.amount;
+  const CPjtInterface::Tally before = projector.Connection().Sent();
+  const int done = projector.StepUnread(*change.setting, wanted);
+  if (done == std::abs(wanted)) return {"done"};
+  Made made = Judge(work, projector, *change.setting, wanted, {}, before, false,
+                    projector.Connection().Sent());
+  made.text += " after " + std::to_string(done) + " of " + std::to_string(std::abs(wanted)) +
+               (wanted == 1 || wanted == -1 ? " step" : " steps");
+  return made;
+}
+
 /// Makes a change and adds what the projector has then.
 std::optional<Made> Make(const Change& change, const Work& work, ProjectorAccess& projector,
                          Values& values, Report& report) {
   const ModelSetting& setting = *change.setting;
+  if (TargetOf(projector).OnlySteps(setting)) return MakeSteps(change, work, projector);
   const ModelSettings& settings = projector.Settings();
   CPjtInterface& connection = projector.Connection();
   const auto source = settings.PresentSource(connection, setting);
@@ -170,11 +188,7 @@ std::optional<Made> Make(const Change& change, const Work& work, ProjectorAccess
     now = settings.Read(connection, setting, source);
   }
   if (now) values.Add(setting, *now, connection.Power());
-  Made made = Judge(work, projector, setting, *value, now, before, accepted, after);
-  if (!made.text.empty()) {
-    report.Complain(std::string(setting.key) + ": " + made.text, made.code);
-  }
-  return made;
+  return Judge(work, projector, setting, *value, now, before, accepted, after);
 }
 
 QJsonObject Describe(const Change& change, const std::optional<Made>& made) {
@@ -210,6 +224,9 @@ Report RunSet(const Work& work, ProjectorAccess& projector) {
   for (const Change& change : changes) {
     std::optional<Made> made;
     if (progress.goesOn()) made = Make(change, work, projector, values, report);
+    if (made && !made->text.empty()) {
+      report.Complain(std::string(change.setting->key) + ": " + made->text, made->code);
+    }
     told.append(Describe(change, made));
     progress.step();
   }

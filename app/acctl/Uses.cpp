@@ -33,6 +33,10 @@ bool Target::Carries(const Use& use, const ModelSetting& setting) const {
   return !isPjLink || use.isInPjLink(setting, settings.Model());
 }
 
+bool Target::OnlySteps(const ModelSetting& setting) const {
+  return isPjLink && IsOnlySteppedOverPjLink(setting);
+}
+
 bool Target::LacksEntries(const ModelSetting& setting) const {
   return TellsInputs() && setting.kind == ModelSetting::Kind::Choice && setting.entries.empty();
 }
@@ -51,7 +55,14 @@ bool IsReadOverPjLink(const ModelSetting& setting, const ModelData& model) {
 }
 
 bool IsChangedOverPjLink(const ModelSetting& setting, const ModelData&) {
-  return IsInPjLink(std::visit([](const auto& row) { return ChangeOf(row); }, *setting.row));
+  return IsInPjLink(std::visit([](const auto& row) { return ChangeOf(row); }, *setting.row)) ||
+         IsOnlySteppedOverPjLink(setting);
+}
+
+bool IsOnlySteppedOverPjLink(const ModelSetting& setting) {
+  const auto* const number = std::get_if<ValueRow>(setting.row);
+  return number != nullptr && ProjectorAccess::HasSteps(setting) &&
+         IsInPjLink(number->Stepping(true)) && !IsInPjLink(number->Reading());
 }
 
 bool IsResetOverPjLink(const ModelSetting& setting, const ModelData&) {

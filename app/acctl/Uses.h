@@ -27,6 +27,8 @@ struct Target {
   bool TellsInputs() const { return isPjLink && settings.Model().MySourceList.Size() == 0; }
   /// Whether the way to it has what a use of the setting needs.
   bool Carries(const Use& use, const ModelSetting& setting) const;
+  /// Whether the way to it can step the setting, and neither read nor set it.
+  bool OnlySteps(const ModelSetting& setting) const;
   /// Whether this is a list of inputs that are still to be told.
   bool LacksEntries(const ModelSetting& setting) const;
 };
@@ -54,6 +56,8 @@ struct Use {
 bool IsReadOverPjLink(const ModelSetting& setting, const ModelData& model);
 bool IsChangedOverPjLink(const ModelSetting& setting, const ModelData& model);
 bool IsResetOverPjLink(const ModelSetting& setting, const ModelData& model);
+/// Whether PJLink can step it, and neither read nor set it, as the volume.
+bool IsOnlySteppedOverPjLink(const ModelSetting& setting);
 
 inline constexpr Use kTold{[](const ModelSetting&) { return true; }, "",
                            [](const ModelSetting& setting, const ModelData& model) {

@@ -189,14 +189,16 @@ Report ActOver(const Work& work, const ProjectorProfile& profile, Act act,
   return report;
 }
 
-/// `mayAsk` allows to ask for a password that nobody has given.
-Report ActOnProjector(const Work& work, const ProjectorProfile& profile, Act act, bool mayAsk) {
+/// A password that nobody has given is asked for, unless `typed` is null, and kept there.
+Report ActOnProjector(const Work& work, const ProjectorProfile& profile, Act act,
+                      std::string* typed) {
   bool lacksPassword = false;
-  Report report = ActOver(work, profile, act, work.password, lacksPassword);
-  if (!lacksPassword || !mayAsk) return report;
+  const bool isKnown = typed != nullptr && !typed->empty();
+  Report report = ActOver(work, profile, act, isKnown ? *typed : work.password, lacksPassword);
+  if (!lacksPassword || typed == nullptr) return report;
   // The projector has done nothing so far.
-  const auto password = AskForPassword(profile.Name, work.isInterrupted);
-  return password ? ActOver(work, profile, act, *password, lacksPassword) : report;
+  *typed = AskForPassword(profile.Name, work.isInterrupted).value_or(std::string());
+  return typed->empty() ? report : ActOver(work, profile, act, *typed, lacksPassword);
 }
 
 /// A line for one of several projectors, or its own text behind its name.
@@ -214,8 +216,10 @@ int RunOnProjectors(const Work& work, const std::vector<const ProjectorProfile*>
   const bool isSaved = arguments.command == Command::Save && arguments.file == "-";
   const bool asJson = arguments.json && arguments.command != Command::Watch && !isSaved;
   QJsonArray json;
+  std::string typed;
   const auto act = [&](int number, Act doing) {
-    return ActOnProjector(work, *projectors[static_cast<std::size_t>(number)], doing, !several);
+    return ActOnProjector(work, *projectors[static_cast<std::size_t>(number)], doing,
+                          several ? nullptr : &typed);
   };
   const auto checked =
       CheckWords(work, projectors, meter, [&](int number) { return act(number, CheckAsked); });

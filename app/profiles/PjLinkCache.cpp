@@ -40,7 +40,7 @@ PjLinkFacts ReadPjLinkCache(const std::string& address) {
   const QString protocolClass = json["class"].toString();
   if (protocolClass != QStringLiteral("1") && protocolClass != QStringLiteral("2")) return {};
   PjLinkFacts facts{.protocolClass = protocolClass[0].toLatin1()};
-  for (const QJsonValue& input : json["inputs"].toArray()) {
+  for (const QJsonValue input : json["inputs"].toArray()) {
     const auto number = PjLink::InputNumber(input["code"].toString().toStdString());
     const QString name = input["name"].toString();
     const bool isSound = number && !name.isEmpty() && name.size() <= kLongestName &&

@@ -55,11 +55,12 @@ void PjLinkChannel::Run(const auto& work) {
        step = session_.Next(Clock::now())) {
     wasUsed = true;
     Drive(step);
+    // A projector that closes after each reply has done so before the next request.
+    TakeWhatCame();
     if (session_.State() == ConnectionState::Connecting) state_ = ConnectionState::Connecting;
     hasAnswered_ = hasAnswered_ || session_.State() == ConnectionState::Connected;
   }
   if (wasUsed || session_.State() != before) state_ = session_.State();
-  hasAnswered_ = hasAnswered_ || session_.State() == ConnectionState::Connected;
   power_ = session_.Power();
   // It is another projector than the one that is remembered.
   const auto known = session_.ProtocolClass();

@@ -54,8 +54,8 @@ class PROJECTOR_COMMON_EXPORT PjLinkChannel : public ProjectorChannel {
   };
 
   /// `host` is a name or an address. An empty password proves nothing to a projector that has one.
-  PjLinkChannel(std::string host, int port, std::string password)
-      : PjLinkChannel(std::move(host), port, std::move(password), {}) {}
+  PjLinkChannel(std::string host, int port, const std::string& password)
+      : PjLinkChannel(std::move(host), port, password, {}) {}
   PjLinkChannel(std::string host, int port, const std::string& password, const Limits& limits);
   ~PjLinkChannel() override;
   PjLinkChannel(const PjLinkChannel&) = delete;

@@ -16,9 +16,8 @@
 namespace PjLink {
 
 inline constexpr int kPort = 4352;
-inline constexpr std::size_t kLongestLine = 136;    ///< Bytes, with the CR.
-inline constexpr std::size_t kLongestInputs = 157;  ///< The same of the list of 50 inputs.
-inline constexpr std::size_t kDigestLength = 32;    ///< Bytes before a session's first request.
+inline constexpr std::size_t kLongestInputs =
+    157;  ///< Bytes of the list of 50 inputs, with the CR.
 inline constexpr std::string_view kWrongPassword = "PJLINK ERRA";
 
 inline constexpr std::string_view kQuery = "?";
@@ -46,7 +45,7 @@ PROJECTOR_COMMON_EXPORT bool SameWord(std::string_view a, std::string_view b);
 PROJECTOR_COMMON_EXPORT std::string FormatGreeting(std::string_view seed);
 /// The seed of a greeting.
 PROJECTOR_COMMON_EXPORT std::optional<std::string> ParseGreeting(std::string_view text);
-/// What proves the password, `kDigestLength` characters.
+/// What proves the password, 32 characters before a session's first request.
 PROJECTOR_COMMON_EXPORT std::string Digest(std::string_view seed, std::string_view password);
 
 // Parameters as device values.

@@ -17,18 +17,10 @@
 
 #include "host/FindLine.h"
 #include "i18n/LocalizeControlTexts.h"
-#include "pages/TablePages.h"
+#include "pages/MakePage.h"
+#include "pages/common/CTabPage.h"
 #include "pages/common/StatusLine.h"
-#include "pages/common/WaitWatch.h"
-#include "pages/input/CInputTabDlg.h"
-#include "pages/input/CInputType5Dlg.h"
-#include "pages/input/COption5TabDlg.h"
-#include "pages/input/COtherTabDlg.h"
-#include "pages/picture/CPicTabDlg.h"
-#include "pages/picture/CPictureTabType5Dlg.h"
-#include "pages/setup/CAudioType5Dlg.h"
-#include "pages/setup/CSetupType5TabDlg.h"
-#include "pages/status/CStatusTabDlg.h"
+#include "pages/common/Waiting.h"
 #include "resources/AdvancedControlResources.h"
 #include "settings/CatalogNumbers.h"
 #include "toolkit/CTabCtrl.h"
@@ -60,26 +52,10 @@ struct CAdvanceDlg::Pages {
 
 namespace {
 
-template <class... Page>
 auto MakePages(CWnd* parent) {
-  static_assert(sizeof...(Page) == kPageCount, "a page has no class");
-  std::array<std::unique_ptr<CTabPage>, kPageCount> pages{std::make_unique<Page>(parent)...};
-  for (const auto& page : pages) {
-    page->setWindowFlags(Qt::Widget);
-    page->hide();  // or it would come up together with the dialog
-  }
+  std::array<std::unique_ptr<CTabPage>, kPageCount> pages;
+  for (std::size_t i = 0; i < kPageCount; ++i) pages[i] = MakePage(static_cast<PageId>(i), parent);
   return pages;
-}
-
-// In the order of PageId.
-auto MakeAllPages(CWnd* parent) {
-  return MakePages<CStatusTabDlg, CMainTabDlg, CMain2TabDlg, CPicture1TabDlg, CPicture12TabDlg,
-                   CPicture2TabDlg, CPicture22TabDlg, CInputTabDlg, CInput2TabDlg, CAutoTabDlg,
-                   CAuto2TabDlg, COptionTabDlg, COption2TabDlg, CScreenTabDlg, COtherTabDlg,
-                   CImageTabDlg, CImage4TabDlg, CVideoTabDlg, CInput4TabDlg, CScreen4TabDlg,
-                   CSetup4TabDlg, COption4TabDlg, COther4TabDlg, CPicTabDlg, CPictureTabType5Dlg,
-                   CInputType5Dlg, CSetupType5TabDlg, CAudioType5Dlg, COption5TabDlg, CSetupTabDlg,
-                   CInput3TabDlg, COption3TabDlg>(parent);
 }
 
 }  // namespace
@@ -87,19 +63,16 @@ auto MakeAllPages(CWnd* parent) {
 CAdvanceDlg::CAdvanceDlg(CWnd* parent)
     : CDialog(TemplateId::Advance, parent),
       scroll_(new FittedScroll(new QWidget, this)),
-      pages_(new Pages{MakeAllPages(scroll_->widget())}),
-      status_(new StatusLine(this)),
+      pages_(new Pages{MakePages(scroll_->widget())}),
+      waiting_(new Waiting({.projector = [this]() -> CPjtInterface& { return projector_; },
+                            .show = [this](bool waiting) { ShowWaiting(waiting); },
+                            .text = [this] { return WaitingText(); },
+                            .retry = [this] { DispTabScreen(); }})),
+      status_(&waiting_->MakeLine(this)),
       find_(new FindLine(this)),
-      watch_(new WaitWatch([this] { return projector_.IsWaiting(); },
-                           [this](bool waiting) { ShowWaiting(waiting); })),
       inputsWatch_(new QTimer(this)) {
   auto* layout = new QVBoxLayout(scroll_->widget());
   layout->setContentsMargins({});
-  connect(status_, &StatusLine::Retry, this, [this] {
-    status_->ShowProgress({});
-    projector_.TryAfresh();
-    DispTabScreen();
-  });
   inputsWatch_->callOnTimeout(this, &CAdvanceDlg::TakeToldInputs);
   connect(find_, &FindLine::Found, this,
           [this](const FindLine::Place& place) { GoTo(place.tab, place.control, place.popUp); });
@@ -231,7 +204,7 @@ void CAdvanceDlg::DispTabScreen() {
   do {
     readsAgain_ = false;
     Return();
-    sentBefore_ = projector_.Sent();
+    waiting_->CountAfresh();
     if (shownPage_ == nullptr) continue;
     shownPage_->ReadPage();
     if (shownPage_->layout() != nullptr) shownPage_->layout()->activate();
@@ -279,34 +252,30 @@ void CAdvanceDlg::ShowSelectedPage() {
   scroll_->widget()->layout()->activate();
 }
 
-void CAdvanceDlg::OnBusy() {
-  sentBefore_ = projector_.Sent();
-  watch_->Start();
-}
+void CAdvanceDlg::OnBusy() { waiting_->Begin(); }
 
 void CAdvanceDlg::OnIdle() {
-  watch_->Stop();
-  const bool readsAgain = std::exchange(readsAgain_, false);
-  if (readsAgain && IsCreated()) {
-    QTimer::singleShot(0, this, [this] {
-      if (IsCreated()) DispTabScreen();
-    });
-  }
-  if (IsLeft() || projector_.Sent().commands == sentBefore_.commands) return;
-  status_->ShowOutcome(projector_, sentBefore_);
+  waiting_->End(IsLeft());
+  if (!std::exchange(readsAgain_, false) || !IsCreated()) return;
+  QTimer::singleShot(0, this, [this] {
+    if (IsCreated()) DispTabScreen();
+  });
 }
+
+void CAdvanceDlg::OnLeave() { waiting_->Abandon(); }
+
+void CAdvanceDlg::OnReturn() { waiting_->Return(); }
 
 void CAdvanceDlg::ShowWaiting(bool waiting) {
   for (const auto& page : pages_->byId) {
     if (page->Template() != nullptr)
       page->Reader().ShowWaiting(waiting && page.get() == shownPage_);
   }
-  QString text;
-  if (waiting) {
-    text = shownPage_ != nullptr ? shownPage_->Reader().WaitingText()
-                                 : CatalogString(kListCategory, ListText::Waiting);
-  }
-  status_->ShowProgress(text);
+}
+
+QString CAdvanceDlg::WaitingText() const {
+  return shownPage_ != nullptr ? shownPage_->Reader().WaitingText()
+                               : CatalogString(kListCategory, ListText::Waiting);
 }
 
 std::optional<PageId> CAdvanceDlg::PageIdBehind(int selection) const {

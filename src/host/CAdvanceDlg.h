@@ -24,7 +24,7 @@ class FittedScroll;
 class QTimer;
 class ResourceModule;
 class StatusLine;
-class WaitWatch;
+class Waiting;
 inline namespace AdvancedControl {
 struct PagePopUp;
 }
@@ -127,8 +127,8 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
   void OnOrphaned() override;
   void OnBusy() override;
   void OnIdle() override;
-  void OnLeave() override { left_ = projector_.Abandon(); }
-  void OnReturn() override { left_.reset(); }
+  void OnLeave() override;
+  void OnReturn() override;
   void OnStale() override { readsAgain_ = true; }
   void resizeEvent(QResizeEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
@@ -158,6 +158,7 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
   CTabPage* PageBehind(int tab) const;
   void ShowSelectedPage();
   void ShowWaiting(bool waiting);
+  QString WaitingText() const;
   void FitToPages();
   void OrderFocus();
   void SelectNeighbourTab(int step);
@@ -175,13 +176,11 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
   bool hostOption_ = false;
   CTabCtrl* tabs_ = nullptr;
   CTabPage* shownPage_ = nullptr;
+  std::unique_ptr<Waiting> waiting_;
   StatusLine* status_;
   FindLine* find_;
-  std::unique_ptr<WaitWatch> watch_;
   QTimer* inputsWatch_;
   std::optional<SourceList> toldInputs_;  // as last taken
-  CPjtInterface::Tally sentBefore_;       // before the first of the running handlers
-  std::shared_ptr<const void> left_;      // while what runs is abandoned
   bool reading_ = false;                  // a page is being read
   bool readsAgain_ = false;               // the shown page is to be read when what runs has ended
 };

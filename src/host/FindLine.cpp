@@ -17,6 +17,7 @@
 #include "host/CAdvanceDlg.h"
 #include "i18n/LocalizeControlTexts.h"
 #include "pages/common/CTabPage.h"
+#include "pages/rows/RowTexts.h"
 #include "settings/CatalogNumbers.h"
 #include "settings/PageTables.h"
 #include "toolkit/CTabCtrl.h"
@@ -113,7 +114,7 @@ void CAdvanceDlg::StartFinding() {
     for (std::size_t i = 0; i < table.rows.size(); ++i) {
       const PageRow& row = table.rows[i];
       if (!Has(table, i, model_.ModelCode) || std::holds_alternative<ResetRow>(row)) continue;
-      const QString caption = RowView::CaptionText(row);
+      const QString caption = CaptionText(row);
       if (std::exchange(place.caption, caption) == caption) continue;  // the parts of a row
       place.control = ControlOf(row);
       places.push_back(place);
@@ -125,7 +126,7 @@ void CAdvanceDlg::StartFinding() {
     const QString tabCaption = tabs_->tabText(tab);
     add({.where = tabCaption, .tab = tab}, TableOf(*page));
     for (const PagePopUp& popUp : PopUpsOf(*page, model_)) {
-      const QString opener = RowView::CaptionText(FindRow(TableOf(*page), popUp.control));
+      const QString opener = CaptionText(FindRow(TableOf(*page), popUp.control));
       add({.where = opener + kSeparator + tabCaption, .tab = tab, .popUp = popUp}, *popUp.table);
     }
   }

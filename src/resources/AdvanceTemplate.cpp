@@ -1,4 +1,3 @@
-#include "resources/AdvancedControlResources.h"
 #include "resources/Templates.h"
 
 namespace {

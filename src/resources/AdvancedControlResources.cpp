@@ -5,15 +5,12 @@
 namespace {
 
 constexpr const DialogTemplate* kDialogs[] = {
-    &kAdvanceTemplate,   &kStatusTemplate,     &kPictureType5Template, &kGammaTemplate,
-    &kColorTempTemplate, &kSetupType5Template, &kInputType5Template,   &kOptionType5Template,
-    &kServiceTemplate,   &kAudioType5Template, &kPicTemplate,          &kPicture1Template,
-    &kPicture12Template, &kPicture2Template,   &kPicture22Template,    &kImageTemplate,
-    &kImage4Template,    &kSetupTemplate,      &kSetup4Template,       &kScreenTemplate,
-    &kScreen4Template,   &kInputTemplate,      &kInput2Template,       &kInput3Template,
-    &kInput4Template,    &kVideoTemplate,      &kMainTemplate,         &kMain2Template,
-    &kAutoTemplate,      &kAuto2Template,      &kOptionTemplate,       &kOption2Template,
-    &kOption3Template,   &kOption4Template,    &kOtherTemplate,        &kOther4Template,
+    &kAdvanceTemplate,
+    &kGammaTemplate,
+    &kColorTempTemplate,
+    &kServiceTemplate,
+#define PAGE(identifier, number, pageClass) &k##identifier##Template,
+#include "settings/Pages.def"
 };
 
 }  // namespace

@@ -1,4 +1,3 @@
-#include "resources/AdvancedControlResources.h"
 #include "resources/Templates.h"
 
 namespace {
@@ -29,5 +28,4 @@ constexpr RowTemplate kRows[] = {
 
 }  // namespace
 
-const DialogTemplate kAudioType5Template{
-    .number = TemplateId::AudioType5, .width = kPageWidth, .height = kPageHeight, .rows = kRows};
+const DialogTemplate kAudioType5Template = PageTemplate(TemplateId::AudioType5, kRows);

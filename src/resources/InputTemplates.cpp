@@ -1,4 +1,3 @@
-#include "resources/AdvancedControlResources.h"
 #include "resources/Templates.h"
 
 namespace {
@@ -42,7 +41,4 @@ constexpr RowTemplate kInputType5Rows[] = {
 
 }  // namespace
 
-const DialogTemplate kInputType5Template{.number = TemplateId::InputType5,
-                                         .width = kPageWidth,
-                                         .height = kPageHeight,
-                                         .rows = kInputType5Rows};
+const DialogTemplate kInputType5Template = PageTemplate(TemplateId::InputType5, kInputType5Rows);

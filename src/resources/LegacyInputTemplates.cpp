@@ -1,4 +1,3 @@
-#include "resources/AdvancedControlResources.h"
 #include "resources/Templates.h"
 
 namespace {
@@ -61,17 +60,12 @@ constexpr RowTemplate kVideoRows[] = {
 
 }  // namespace
 
-const DialogTemplate kInputTemplate{
-    .number = TemplateId::Input, .width = kPageWidth, .height = kPageHeight, .rows = kInputRows};
+const DialogTemplate kInputTemplate = PageTemplate(TemplateId::Input, kInputRows);
 
-const DialogTemplate kInput2Template{
-    .number = TemplateId::Input2, .width = kPageWidth, .height = kPageHeight, .rows = kInput2Rows};
+const DialogTemplate kInput2Template = PageTemplate(TemplateId::Input2, kInput2Rows);
 
-const DialogTemplate kInput3Template{
-    .number = TemplateId::Input3, .width = kPageWidth, .height = kPageHeight, .rows = kInput3Rows};
+const DialogTemplate kInput3Template = PageTemplate(TemplateId::Input3, kInput3Rows);
 
-const DialogTemplate kInput4Template{
-    .number = TemplateId::Input4, .width = kPageWidth, .height = kPageHeight, .rows = kInput4Rows};
+const DialogTemplate kInput4Template = PageTemplate(TemplateId::Input4, kInput4Rows);
 
-const DialogTemplate kVideoTemplate{
-    .number = TemplateId::Video, .width = kPageWidth, .height = kPageHeight, .rows = kVideoRows};
+const DialogTemplate kVideoTemplate = PageTemplate(TemplateId::Video, kVideoRows);

@@ -1,4 +1,3 @@
-#include "resources/AdvancedControlResources.h"
 #include "resources/Templates.h"
 
 namespace {
@@ -109,28 +108,14 @@ constexpr RowTemplate kImage4Rows[] = {
 
 }  // namespace
 
-const DialogTemplate kPicture1Template{.number = TemplateId::Picture1,
-                                       .width = kPageWidth,
-                                       .height = kPageHeight,
-                                       .rows = kPicture1Rows};
+const DialogTemplate kPicture1Template = PageTemplate(TemplateId::Picture1, kPicture1Rows);
 
-const DialogTemplate kPicture12Template{.number = TemplateId::Picture12,
-                                        .width = kPageWidth,
-                                        .height = kPageHeight,
-                                        .rows = kPicture12Rows};
+const DialogTemplate kPicture12Template = PageTemplate(TemplateId::Picture12, kPicture12Rows);
 
-const DialogTemplate kPicture2Template{.number = TemplateId::Picture2,
-                                       .width = kPageWidth,
-                                       .height = kPageHeight,
-                                       .rows = kPicture2Rows};
+const DialogTemplate kPicture2Template = PageTemplate(TemplateId::Picture2, kPicture2Rows);
 
-const DialogTemplate kPicture22Template{.number = TemplateId::Picture22,
-                                        .width = kPageWidth,
-                                        .height = kPageHeight,
-                                        .rows = kPicture22Rows};
+const DialogTemplate kPicture22Template = PageTemplate(TemplateId::Picture22, kPicture22Rows);
 
-const DialogTemplate kImageTemplate{
-    .number = TemplateId::Image, .width = kPageWidth, .height = kPageHeight, .rows = kImageRows};
+const DialogTemplate kImageTemplate = PageTemplate(TemplateId::Image, kImageRows);
 
-const DialogTemplate kImage4Template{
-    .number = TemplateId::Image4, .width = kPageWidth, .height = kPageHeight, .rows = kImage4Rows};
+const DialogTemplate kImage4Template = PageTemplate(TemplateId::Image4, kImage4Rows);

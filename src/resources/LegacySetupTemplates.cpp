@@ -1,4 +1,3 @@
-#include "resources/AdvancedControlResources.h"
 #include "resources/Templates.h"
 
 namespace {
@@ -82,16 +81,10 @@ constexpr RowTemplate kScreen4Rows[] = {
 
 }  // namespace
 
-const DialogTemplate kSetupTemplate{
-    .number = TemplateId::Setup, .width = kPageWidth, .height = kPageHeight, .rows = kSetupRows};
+const DialogTemplate kSetupTemplate = PageTemplate(TemplateId::Setup, kSetupRows);
 
-const DialogTemplate kSetup4Template{
-    .number = TemplateId::Setup4, .width = kPageWidth, .height = kPageHeight, .rows = kSetup4Rows};
+const DialogTemplate kSetup4Template = PageTemplate(TemplateId::Setup4, kSetup4Rows);
 
-const DialogTemplate kScreenTemplate{
-    .number = TemplateId::Screen, .width = kPageWidth, .height = kPageHeight, .rows = kScreenRows};
+const DialogTemplate kScreenTemplate = PageTemplate(TemplateId::Screen, kScreenRows);
 
-const DialogTemplate kScreen4Template{.number = TemplateId::Screen4,
-                                      .width = kPageWidth,
-                                      .height = kPageHeight,
-                                      .rows = kScreen4Rows};
+const DialogTemplate kScreen4Template = PageTemplate(TemplateId::Screen4, kScreen4Rows);

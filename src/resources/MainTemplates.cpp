@@ -1,4 +1,3 @@
-#include "resources/AdvancedControlResources.h"
 #include "resources/Templates.h"
 
 namespace {
@@ -47,13 +46,9 @@ constexpr RowTemplate kAutoRows[] = {
 
 constexpr RowTemplate kAuto2Rows[] = {kAutoAdjust, kAutoSearch, kAutoOff};
 
-constexpr DialogTemplate Page(int number, std::span<const RowTemplate> rows) {
-  return {.number = number, .width = kPageWidth, .height = kPageHeight, .rows = rows};
-}
-
 }  // namespace
 
-const DialogTemplate kMainTemplate = Page(TemplateId::Main, kMainRows);
-const DialogTemplate kMain2Template = Page(TemplateId::Main2, kMain2Rows);
-const DialogTemplate kAutoTemplate = Page(TemplateId::Auto, kAutoRows);
-const DialogTemplate kAuto2Template = Page(TemplateId::Auto2, kAuto2Rows);
+const DialogTemplate kMainTemplate = PageTemplate(TemplateId::Main, kMainRows);
+const DialogTemplate kMain2Template = PageTemplate(TemplateId::Main2, kMain2Rows);
+const DialogTemplate kAutoTemplate = PageTemplate(TemplateId::Auto, kAutoRows);
+const DialogTemplate kAuto2Template = PageTemplate(TemplateId::Auto2, kAuto2Rows);

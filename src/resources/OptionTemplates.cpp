@@ -1,4 +1,3 @@
-#include "resources/AdvancedControlResources.h"
 #include "resources/Templates.h"
 
 namespace {
@@ -43,10 +42,7 @@ constexpr RowTemplate kServiceRows[] = {
 
 }  // namespace
 
-const DialogTemplate kOptionType5Template{.number = TemplateId::OptionType5,
-                                          .width = kPageWidth,
-                                          .height = kPageHeight,
-                                          .rows = kOptionType5Rows};
+const DialogTemplate kOptionType5Template = PageTemplate(TemplateId::OptionType5, kOptionType5Rows);
 
 const DialogTemplate kServiceTemplate{.number = TemplateId::Service,
                                       .caption = "3136;Service",

@@ -1,6 +1,5 @@
 #include <array>
 
-#include "resources/AdvancedControlResources.h"
 #include "resources/Templates.h"
 
 namespace {
@@ -65,13 +64,10 @@ constexpr RowTemplate kColorTempRows[] = {
 
 }  // namespace
 
-const DialogTemplate kPictureType5Template{.number = TemplateId::PictureType5,
-                                           .width = kPageWidth,
-                                           .height = kPageHeight,
-                                           .rows = kPictureType5Rows};
+const DialogTemplate kPictureType5Template =
+    PageTemplate(TemplateId::PictureType5, kPictureType5Rows);
 
-const DialogTemplate kPicTemplate{
-    .number = TemplateId::Pic, .width = kPageWidth, .height = kPageHeight, .rows = kPicRows};
+const DialogTemplate kPicTemplate = PageTemplate(TemplateId::Pic, kPicRows);
 
 const DialogTemplate kGammaTemplate{
     .number = TemplateId::Gamma, .caption = "28;Gamma -Custom-", .rows = kGammaRows};

@@ -1,4 +1,3 @@
-#include "resources/AdvancedControlResources.h"
 #include "resources/Templates.h"
 
 namespace {
@@ -47,7 +46,4 @@ constexpr RowTemplate kSetupType5Rows[] = {
 
 }  // namespace
 
-const DialogTemplate kSetupType5Template{.number = TemplateId::SetupType5,
-                                         .width = kPageWidth,
-                                         .height = kPageHeight,
-                                         .rows = kSetupType5Rows};
+const DialogTemplate kSetupType5Template = PageTemplate(TemplateId::SetupType5, kSetupType5Rows);

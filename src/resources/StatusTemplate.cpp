@@ -1,4 +1,3 @@
-#include "resources/AdvancedControlResources.h"
 #include "resources/Templates.h"
 
 namespace {
@@ -21,5 +20,4 @@ constexpr RowTemplate kRows[] = {
 
 }  // namespace
 
-const DialogTemplate kStatusTemplate{
-    .number = TemplateId::Status, .width = kPageWidth, .height = kPageHeight, .rows = kRows};
+const DialogTemplate kStatusTemplate = PageTemplate(TemplateId::Status, kRows);

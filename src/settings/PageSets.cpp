@@ -4,7 +4,6 @@
 #include <iterator>
 
 #include "settings/CatalogNumbers.h"
-#include "settings/PageTables.h"
 
 inline namespace AdvancedControl {
 
@@ -16,8 +15,8 @@ constexpr PageId kPages1[] = {Main, Picture1, Picture2, Input, Auto, Option, Scr
 constexpr PageId kPages2[] = {Main2, Picture12, Picture22, Input2, Auto2, Option2, Screen, Other};
 constexpr PageId kPages3[] = {Setup, Input3, Image, Option3, Other};
 constexpr PageId kPages4[] = {Pic, Image4, Video, Input4, Screen4, Setup4, Option4, Other4};
-constexpr PageId kPages5[] = {PictureType5, Image4,  InputType5, Screen4,
-                              SetupType5,   Option5, Other4,     AudioType5};
+constexpr PageId kPages5[] = {PictureType5, Image4,      InputType5, Screen4,
+                              SetupType5,   OptionType5, Other4,     AudioType5};
 
 constexpr PageTab kTabs1[] = {
     {Caption::TabMain, Main},         {Caption::TabPicture1, Picture1},
@@ -60,12 +59,12 @@ constexpr PageTab kTabs5WithAudio[] = {
     {Caption::TabPicture, PictureType5}, {Caption::TabImage, Image4},
     {Caption::TabInput, InputType5},     {Caption::TabSetup, SetupType5},
     {Caption::TabAudio, AudioType5},     {Caption::TabScreen, Screen4},
-    {Caption::TabOption, Option5},       {Caption::TabOther, Other4},
+    {Caption::TabOption, OptionType5},   {Caption::TabOther, Other4},
 };
 constexpr PageTab kTabs5[] = {
     {Caption::TabPicture, PictureType5}, {Caption::TabImage, Image4},
     {Caption::TabInput, InputType5},     {Caption::TabSetup, SetupType5},
-    {Caption::TabScreen, Screen4},       {Caption::TabOption, Option5},
+    {Caption::TabScreen, Screen4},       {Caption::TabOption, OptionType5},
     {Caption::TabOther, Other4},
 };
 
@@ -89,18 +88,6 @@ constexpr TabRule kTabRules[] = {
     {4, kCodesWithVideo, kTabs4WithVideo, kTabs4},
     {5, kCodesWithAudio, kTabs5WithAudio, kTabs5},
 };
-
-// In the order of PageId.
-constexpr const PageTable* kTables[] = {
-    &kStatusRows,     &kMainRows,       &kMain2Rows,      &kPicture1Rows,    &kPicture12Rows,
-    &kPicture2Rows,   &kPicture22Rows,  &kInputRows,      &kInput2Rows,      &kAutoRows,
-    &kAuto2Rows,      &kOptionRows,     &kOption2Rows,    &kScreenRows,      &kOtherRows,
-    &kImageRows,      &kImage4Rows,     &kVideoRows,      &kInput4Rows,      &kScreen4Rows,
-    &kSetup4Rows,     &kOption4Rows,    &kOther4Rows,     &kPicRows,         &kPictureType5Rows,
-    &kInputType5Rows, &kSetupType5Rows, &kAudioType5Rows, &kOptionType5Rows, &kSetupRows,
-    &kInput3Rows,     &kOption3Rows,
-};
-static_assert(std::size(kTables) == kPageCount, "a page has no table");
 
 }  // namespace
 
@@ -127,7 +114,5 @@ std::span<const PageTab> TabsOf(int dialogType, int modelCode) {
   const bool isListed = std::ranges::find(rule->codes, modelCode) != rule->codes.end();
   return isListed ? rule->listed : rule->others;
 }
-
-const PageTable& TableOf(PageId page) { return *kTables[static_cast<std::size_t>(page)]; }
 
 }  // namespace AdvancedControl

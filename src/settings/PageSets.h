@@ -8,40 +8,10 @@
 
 inline namespace AdvancedControl {
 
-/// Every page class, in the order in which the dialog holds them.
+/// Every page.
 enum class PageId : std::uint8_t {
-  Status,
-  Main,
-  Main2,
-  Picture1,
-  Picture12,
-  Picture2,
-  Picture22,
-  Input,
-  Input2,
-  Auto,
-  Auto2,
-  Option,
-  Option2,
-  Screen,
-  Other,
-  Image,
-  Image4,
-  Video,
-  Input4,
-  Screen4,
-  Setup4,
-  Option4,
-  Other4,
-  Pic,
-  PictureType5,
-  InputType5,
-  SetupType5,
-  AudioType5,
-  Option5,
-  Setup,
-  Input3,
-  Option3,
+#define PAGE(identifier, number, pageClass) identifier,
+#include "settings/Pages.def"
   Count,
 };
 inline constexpr std::size_t kPageCount = static_cast<std::size_t>(PageId::Count);

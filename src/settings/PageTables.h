@@ -10,38 +10,9 @@ inline namespace AdvancedControl {
 
 // The rows of every page, one line a row.
 
-PROJECTOR_SETTINGS_EXPORT extern const PageTable kStatusRows;
-PROJECTOR_SETTINGS_EXPORT extern const PageTable kMainRows;
-PROJECTOR_SETTINGS_EXPORT extern const PageTable kMain2Rows;
-PROJECTOR_SETTINGS_EXPORT extern const PageTable kPicture1Rows;
-PROJECTOR_SETTINGS_EXPORT extern const PageTable kPicture12Rows;
-PROJECTOR_SETTINGS_EXPORT extern const PageTable kPicture2Rows;
-PROJECTOR_SETTINGS_EXPORT extern const PageTable kPicture22Rows;
-PROJECTOR_SETTINGS_EXPORT extern const PageTable kInputRows;
-PROJECTOR_SETTINGS_EXPORT extern const PageTable kInput2Rows;
-PROJECTOR_SETTINGS_EXPORT extern const PageTable kAutoRows;
-PROJECTOR_SETTINGS_EXPORT extern const PageTable kAuto2Rows;
-PROJECTOR_SETTINGS_EXPORT extern const PageTable kOptionRows;
-PROJECTOR_SETTINGS_EXPORT extern const PageTable kOption2Rows;
-PROJECTOR_SETTINGS_EXPORT extern const PageTable kScreenRows;
-PROJECTOR_SETTINGS_EXPORT extern const PageTable kOtherRows;
-PROJECTOR_SETTINGS_EXPORT extern const PageTable kImageRows;
-PROJECTOR_SETTINGS_EXPORT extern const PageTable kImage4Rows;
-PROJECTOR_SETTINGS_EXPORT extern const PageTable kVideoRows;
-PROJECTOR_SETTINGS_EXPORT extern const PageTable kInput4Rows;
-PROJECTOR_SETTINGS_EXPORT extern const PageTable kScreen4Rows;
-PROJECTOR_SETTINGS_EXPORT extern const PageTable kSetup4Rows;
-PROJECTOR_SETTINGS_EXPORT extern const PageTable kOption4Rows;
-PROJECTOR_SETTINGS_EXPORT extern const PageTable kOther4Rows;
-PROJECTOR_SETTINGS_EXPORT extern const PageTable kPicRows;
-PROJECTOR_SETTINGS_EXPORT extern const PageTable kPictureType5Rows;
-PROJECTOR_SETTINGS_EXPORT extern const PageTable kInputType5Rows;
-PROJECTOR_SETTINGS_EXPORT extern const PageTable kSetupType5Rows;
-PROJECTOR_SETTINGS_EXPORT extern const PageTable kAudioType5Rows;
-PROJECTOR_SETTINGS_EXPORT extern const PageTable kOptionType5Rows;
-PROJECTOR_SETTINGS_EXPORT extern const PageTable kSetupRows;
-PROJECTOR_SETTINGS_EXPORT extern const PageTable kInput3Rows;
-PROJECTOR_SETTINGS_EXPORT extern const PageTable kOption3Rows;
+#define PAGE(identifier, number, pageClass) \
+  PROJECTOR_SETTINGS_EXPORT extern const PageTable k##identifier##Rows;
+#include "settings/Pages.def"
 
 // The pop-ups of the pages.
 PROJECTOR_SETTINGS_EXPORT extern const PageTable kServiceRows;

@@ -10,11 +10,12 @@
 #include <QTimer>
 
 #include "device/PjLinkLine.h"
+#include "device/PjLinkReader.h"
 #include "simulator/TcpListener.h"
 
 namespace {
 
-constexpr qint64 kReadBuffer = 512;  // more than any request, with a digest before it
+constexpr qint64 kReadBuffer = 512;
 /// Replies that a client may leave unread.
 constexpr std::size_t kMostUnread = 65536;
 
@@ -51,37 +52,32 @@ class Session final : public QObject {
 
  private:
   void AnswerAll() {
-    while (socket_.state() == QAbstractSocket::ConnectedState && AnswerNext()) idle_.start();
+    while (isServed_ && socket_.state() == QAbstractSocket::ConnectedState) {
+      if (const auto line = reader_.Next()) {
+        Answer(*line);
+        continue;
+      }
+      const QByteArray piece = socket_.read(kReadBuffer);
+      if (piece.isEmpty()) return;
+      reader_.Add(piece.toStdString());
+      if (reader_.IsTooLong()) socket_.abort();
+    }
   }
 
-  bool AnswerNext() {
-    const std::size_t longest = wantedProof_.size() + PjLink::kLongestLine;
-    const QByteArray seen = socket_.peek(static_cast<qint64>(longest));
-    const auto end = seen.indexOf('\r');
-    if (end < 0) {
-      if (static_cast<std::size_t>(seen.size()) == longest) socket_.abort();
-      return false;
-    }
-    const QByteArray read = socket_.read(end + 1).chopped(1);
-    // Some end their lines with CR LF.
-    const std::string line = (read.startsWith('\n') ? read.sliced(1) : read).toStdString();
+  void Answer(std::string_view line) {
     if (!line.starts_with(wantedProof_)) {
       Send(PjLink::kWrongPassword);
-      End();
-      return false;
+      return End();
     }
     const auto answer = responder_.Answer(line.substr(wantedProof_.size()));
     wantedProof_.clear();
-    if (answer) {
-      Send(*answer);
-    } else {
-      End();
-    }
-    return answer.has_value();
+    if (!answer) return End();
+    Send(*answer);
+    idle_.start();
   }
 
   void End() {
-    disconnect(&socket_, &QTcpSocket::readyRead, this, nullptr);
+    isServed_ = false;
     replies_.Close();
   }
 
@@ -94,6 +90,8 @@ class Session final : public QObject {
   PjLinkResponder& responder_;
   FaultyLine replies_;
   QTimer idle_;
+  PjLinkReader reader_;
+  bool isServed_ = true;
   std::string wantedProof_;  ///< Before the next request; empty once given, or without password.
 };
 

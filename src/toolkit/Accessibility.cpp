@@ -11,8 +11,8 @@
 #include <QPointer>
 
 #include "toolkit/CComboBox.h"
-#include "toolkit/CDialog.h"
 #include "toolkit/CSliderCtrl.h"
+#include "toolkit/InputDialog.h"
 #include "toolkit/WindowText.h"
 
 namespace {
@@ -22,7 +22,7 @@ namespace {
 template <class Control, class Act>
 void ActLikeAUser(Control* control, Act act) {
   const auto actUnlessBusy = [control, act] {
-    const auto* dialog = qobject_cast<const CDialog*>(control->window());
+    const auto* dialog = qobject_cast<const InputDialog*>(control->window());
     if (control->isEnabled() && (dialog == nullptr || !dialog->IsBusy())) act(*control);
   };
   QMetaObject::invokeMethod(control, actUnlessBusy, Qt::QueuedConnection);
@@ -237,7 +237,7 @@ class EntriesInterface final : public QAccessibleWidget {
 /// A window, or a page: the panel of its tab.
 class DialogInterface final : public QAccessibleWidget {
  public:
-  explicit DialogInterface(CDialog* dialog) : QAccessibleWidget(dialog, QAccessible::Dialog) {}
+  explicit DialogInterface(QWidget* dialog) : QAccessibleWidget(dialog, QAccessible::Dialog) {}
 
   QAccessible::Role role() const override {
     return widget()->isWindow() ? QAccessible::Dialog : QAccessible::Pane;
@@ -270,14 +270,14 @@ QAccessibleInterface* MakeInterface(const QString& className, QObject* object) {
   if (className == QLatin1String("CComboBox")) {
     return new ComboInterface(static_cast<CComboBox*>(object));
   }
-  if (className == QLatin1String("QCheckBox") && qobject_cast<CDialog*>(object->parent())) {
+  if (className == QLatin1String("QCheckBox") && qobject_cast<TemplateDialog*>(object->parent())) {
     return new CheckInterface(static_cast<QCheckBox*>(object));
   }
   if (className == QLatin1String("CurveView")) {
     return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Graphic);
   }
-  if (className == QLatin1String("CDialog")) {
-    return new DialogInterface(static_cast<CDialog*>(object));
+  if (className == QLatin1String("TemplateDialog")) {
+    return new DialogInterface(static_cast<QWidget*>(object));
   }
   if (className == QLatin1String("QListView") && object->parent() != nullptr) {
     // A drop-down lies in a frame of its list.
@@ -300,7 +300,7 @@ bool IsText(ControlKind kind) {
 }
 
 // The control that a row's caption speaks for.
-QWidget* ValueOf(const CDialog& dialog, const RowTemplate& row) {
+QWidget* ValueOf(const TemplateDialog& dialog, const RowTemplate& row) {
   const auto find = [&](auto matches) -> QWidget* {
     const auto found = std::ranges::find_if(row.controls, matches, &ControlTemplate::kind);
     return found == row.controls.end() ? nullptr : dialog.GetDlgItem(found->id);
@@ -321,7 +321,7 @@ void InstallAccessibility() {
   } factory;
 }
 
-void NameControls(const CDialog& dialog) {
+void NameControls(const TemplateDialog& dialog) {
   QString caption;
   for (const RowTemplate& row : dialog.Template()->rows) {
     // A row without a caption continues the one above; "V" and "H" tell the parts of a row apart.

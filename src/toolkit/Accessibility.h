@@ -1,6 +1,6 @@
 #pragma once
 
-class CDialog;
+class TemplateDialog;
 
 /// Makes dialogs, lists and sliders tell assistive technologies what they are, and take from them
 /// what they take from a hand. Done once; further calls do nothing.
@@ -8,4 +8,4 @@ void InstallAccessibility();
 
 /// Names the controls of a created dialog by their rows' captions, and makes each caption the
 /// partner of its row's value.
-void NameControls(const CDialog& dialog);
+void NameControls(const TemplateDialog& dialog);

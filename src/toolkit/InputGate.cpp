@@ -1,9 +1,11 @@
 #include "toolkit/InputGate.h"
 
+#include <algorithm>
+
 #include <QApplication>
 #include <QKeyEvent>
 
-#include "toolkit/CDialog.h"
+#include "toolkit/TemplateDialog.h"
 
 namespace {
 
@@ -34,12 +36,12 @@ bool IsInput(const QEvent& event) {
 }
 
 // Also of a list that has dropped down.
-const CDialog* DialogOf(const QWidget& widget) {
+const TemplateDialog* DialogOf(const QWidget& widget) {
   const QWidget* window = widget.window();
   while (window->windowType() == Qt::Popup && window->parentWidget() != nullptr) {
     window = window->parentWidget()->window();
   }
-  return qobject_cast<const CDialog*>(window);
+  return qobject_cast<const TemplateDialog*>(window);
 }
 
 }  // namespace
@@ -49,17 +51,21 @@ InputGate& InputGate::Only() {
   return gate;
 }
 
-void InputGate::Close() {
-  if (++Only().busyDialogs_ == 1 && qApp != nullptr) qApp->installEventFilter(&Only());
+void InputGate::Close(const TemplateDialog& dialog) {
+  auto& closed = Only().closed_;
+  closed.push_back(&dialog);
+  if (closed.size() == 1 && qApp != nullptr) qApp->installEventFilter(&Only());
 }
 
-void InputGate::Open() {
-  if (--Only().busyDialogs_ == 0 && qApp != nullptr) qApp->removeEventFilter(&Only());
+void InputGate::Open(const TemplateDialog& dialog) {
+  auto& closed = Only().closed_;
+  std::erase(closed, &dialog);
+  if (closed.empty() && qApp != nullptr) qApp->removeEventFilter(&Only());
 }
 
 bool InputGate::eventFilter(QObject* watched, QEvent* event) {
   if (!IsInput(*event) || !watched->isWidgetType()) return false;
   const auto& target = static_cast<const QWidget&>(*watched);
-  const CDialog* dialog = DialogOf(target);
-  return dialog != nullptr && dialog->busy_ > 0 && !dialog->Takes(target);
+  const TemplateDialog* dialog = DialogOf(target);
+  return std::ranges::count(closed_, dialog) > 0 && !dialog->IsWayOut(target);
 }

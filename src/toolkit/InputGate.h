@@ -1,14 +1,18 @@
 #pragma once
 
+#include <vector>
+
 #include <QObject>
+
+class TemplateDialog;
 
 /// Drops what the user does to the controls of dialogs whose handlers run. Only while there is such
 /// a dialog does it look at the application's events.
 class InputGate final : public QObject {
  public:
   /// One more dialog is busy, and one fewer.
-  static void Close();
-  static void Open();
+  static void Close(const TemplateDialog& dialog);
+  static void Open(const TemplateDialog& dialog);
 
   bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -16,5 +20,5 @@ class InputGate final : public QObject {
   InputGate() = default;
   static InputGate& Only();
 
-  int busyDialogs_ = 0;
+  std::vector<const TemplateDialog*> closed_;
 };

@@ -4,7 +4,7 @@
 #include <QPointer>
 #include <QPushButton>
 
-#include "toolkit/CDialog.h"
+#include "toolkit/OwnedDialog.h"
 
 namespace {
 
@@ -12,10 +12,10 @@ int Run(QWidget* owner, QMessageBox::Icon icon, const QString& text,
         QMessageBox::StandardButtons buttons, QMessageBox::StandardButton preselected,
         const ButtonTexts& texts) {
   QWidget* window = owner != nullptr ? owner->window() : nullptr;
-  if (const auto* dialog = qobject_cast<CDialog*>(window); dialog && dialog->IsOrphaned()) {
+  if (const auto* dialog = qobject_cast<OwnedDialog*>(window); dialog && dialog->IsOrphaned()) {
     return QMessageBox::NoButton;
   }
-  const CDialog::Busy busy(window);
+  const OwnedDialog::Busy busy(window);
   // On the heap: a window that dies while the box is up takes the box with it.
   const QPointer<QMessageBox> box = new QMessageBox(
       icon, window != nullptr ? window->windowTitle() : QString(), text, buttons, window);

@@ -56,8 +56,10 @@ class AnyProfile {
         "modelCode": 30, "connection": {"network": {"address": "192.0.2.1", "port": 4352}}}]})");
   }
   QString Path() const { return folder_.filePath("any.json"); }
-  Outcome Run(const ScriptedPjLink& projector, const QStringList& arguments) const {
-    return Acctl(QStringList{"--profiles", Path(), "--timeout", "0.5"} + projector.At(arguments));
+  /// With a time that is never over, unless the test waits for its end.
+  Outcome Run(const ScriptedPjLink& projector, const QStringList& arguments,
+              const char* timeOut = "60") const {
+    return Acctl(QStringList{"--profiles", Path(), "--timeout", timeOut} + projector.At(arguments));
   }
 
  private:
@@ -164,15 +166,30 @@ TEST(AcctlSet, StopsWhereItIsInterruptedAndDoesNotBeginWhatCannotBeReached) {
   QProcess watch;
   watch.start(ACCTL_PROGRAM, simulator.At({"watch", kRoom, key, "--interval", "0.05"}));
   ASSERT_TRUE(watch.waitForReadyRead(30'000));
-  QProcess process;
-  process.start(ACCTL_PROGRAM, simulator.At({"--json", "set", kRoom, key, "+100"}));
-  while (watch.readAllStandardOutput().isEmpty()) ASSERT_TRUE(watch.waitForReadyRead(30'000));
-  while (watch.readAllStandardOutput().isEmpty()) ASSERT_TRUE(watch.waitForReadyRead(30'000));
-  ::kill(static_cast<pid_t>(process.processId()), SIGINT);
-  const Outcome cut = Finish(process);
-  EXPECT_THAT(cut, Ends(128 + SIGINT, AllOf(HasSubstr(": image.position-h: stopped at "),
-                                            Not(HasSubstr("refused")))));
-  EXPECT_EQ(Entry(cut)["changes"][0]["outcome"], "stopped");
+  const auto interrupt = [&](const QStringList& arguments) {
+    QProcess process;
+    process.start(ACCTL_PROGRAM, simulator.At(arguments));
+    // The first ones may still be of the run before.
+    for (int step = 0; step < 4; ++step) {
+      watch.readAllStandardOutput();
+      EXPECT_TRUE(watch.waitForReadyRead(30'000));
+    }
+    ::kill(static_cast<pid_t>(process.processId()), SIGINT);
+    return Finish(process);
+  };
+  const auto isStopped = Ends(
+      128 + SIGINT, AllOf(HasSubstr(": image.position-h: stopped at "), Not(HasSubstr("refused"))));
+  const Outcome set = interrupt({"--json", "set", kRoom, key, "+100"});
+  EXPECT_THAT(set, isStopped);
+  EXPECT_EQ(Entry(set)["changes"][0]["outcome"], "stopped");
+  const QTemporaryDir folder;
+  const QString file = folder.filePath("far.json");
+  Write(file, R"({"format": "advanced-control-settings", "version": 1,
+      "model": {"name": "Model 5-30", "dialogType": 5, "modelCode": 30},
+      "settings": [{"key": "image.position-h", "value": 120}]})");
+  const Outcome apply = interrupt({"--json", "apply", file, kRoom});
+  EXPECT_THAT(apply, isStopped);
+  EXPECT_EQ(Entry(apply)["notDone"][0]["key"], key);
   watch.terminate();
   EXPECT_EQ(Finish(watch).exitCode, 0);
 }
@@ -235,12 +252,28 @@ TEST(AcctlPjLink, OffersOnlyWhatTheProtocolHasAndTellsInputsOfOneNameApart) {
   EXPECT_THAT(run({"set", "Any", "other.input-source", "31"}), Ends(0, ""));
 }
 
+TEST(AcctlPjLink, StepsTheVolumeThatNobodyCanRead) {
+  int volume = 1;
+  ScriptedPjLink projector([&volume, others = Projector("1")](const std::string& request) {
+    if (request == "CLSS ?") return std::string("2");
+    if (request == "SVOL 1") return std::string(++volume > 3 ? "ERR2" : "OK");
+    return others(request);
+  });
+  const auto set = [&](const char* value) {
+    return Acctl(projector.At({"set", "Projector 4-24", "setup.volume", value}));
+  };
+  EXPECT_THAT(set("+2"), Ends(0, ""));
+  EXPECT_THAT(set("+2"), Ends(1, HasSubstr("setup.volume: refused after 0 of 2 steps\n")));
+  EXPECT_THAT(set("5"), Ends(2, HasSubstr("setup.volume: '5' is no step like +1 or -1")));
+}
+
 TEST(AcctlPjLink, TellsAcceptedAndNotYetSoBusyAndUnconfirmedApart) {
+  constexpr const char* kTimeOut = "3";
   const AnyProfile any;
   const QStringList set{"--json", "set", "Any", "other.mute", "on"};
   const auto outcome = [&](ScriptedPjLink::Script script, int exitCode, const char* error) {
     ScriptedPjLink projector(std::move(script));
-    const Outcome run = any.Run(projector, set);
+    const Outcome run = any.Run(projector, set, kTimeOut);
     EXPECT_THAT(run, Ends(exitCode, HasSubstr(error)));
     const QJsonValue change = Entry(run)["changes"][0];
     EXPECT_THAT(
@@ -265,11 +298,12 @@ TEST(AcctlPjLink, TellsAcceptedAndNotYetSoBusyAndUnconfirmedApart) {
       "model": {"name": "M", "dialogType": 5, "modelCode": 30},
       "settings": [{"key": "other.mute", "value": 1}]})");
   ScriptedPjLink late(Projector("1"));
-  const Outcome pending = any.Run(late, {"--json", "apply", file, "Any"});
+  const Outcome pending = any.Run(late, {"--json", "apply", file, "Any"}, kTimeOut);
   EXPECT_THAT(pending, Ends(0, HasSubstr("accepted, but not so yet: other.mute\n")));
   EXPECT_EQ(Entry(pending)["pending"][0]["key"], "other.mute");
   ScriptedPjLink busy(ProjectorBut("AVMT 21", "ERR3"));
-  EXPECT_EQ(Entry(any.Run(busy, {"--json", "apply", file, "Any"}))["busy"][0]["key"], "other.mute");
+  EXPECT_EQ(Entry(any.Run(busy, {"--json", "apply", file, "Any"}, kTimeOut))["busy"][0]["key"],
+            "other.mute");
 }
 
 TEST(AcctlPjLink, TellsInputsThatWereNotToldAsNotReadWithExitCode3) {
@@ -278,7 +312,7 @@ TEST(AcctlPjLink, TellsInputsThatWereNotToldAsNotReadWithExitCode3) {
   const QString file = folder.filePath("good.json");
   ScriptedPjLink whole(Projector("1"));
   ASSERT_THAT(any.Run(whole, {"save", "Any", file}), Ends(0, ""));
-  ScriptedPjLink projector(ProjectorBut("INST ?", ""));
+  ScriptedPjLink projector(ProjectorBut("INST ?", "ERR4"));
   const auto isNotRead = Ends(3, HasSubstr("other.input-source: not read, "));
   EXPECT_THAT(any.Run(projector, {"save", "Any", folder.filePath("new.json")}), isNotRead);
   const Outcome diff = any.Run(projector, {"--json", "diff", "Any", file});

@@ -10,12 +10,12 @@ inline const QString kRoom = "Projector 5-30";
 
 /// What the program remembers of projectors is gone with the tests, which use their ports.
 inline const QTemporaryDir kCache;
+inline const bool kIsCacheSet = qputenv("XDG_CACHE_HOME", kCache.path().toUtf8());
 
 inline Outcome Acctl(const QStringList& arguments, const char* locale = "C",
                      const QString& program = ACCTL_PROGRAM) {
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
   environment.insert("LC_ALL", locale);
-  environment.insert("XDG_CACHE_HOME", kCache.path());
   return Run(program, arguments, environment);
 }
 

@@ -157,14 +157,15 @@ TEST(Adversity, ASignalThatComesTwiceAtOnceLosesNoReport) {
 }
 
 TEST(Adversity, RunsOnOneProjectorWaitForEachOther) {
-  const QTemporaryDir cache;
-  const Environment here("XDG_CACHE_HOME", cache.path().toUtf8());
+  const Environment here("XDG_CACHE_HOME", kCache.path().toUtf8());
+  QDir locks(kCache.filePath("advanced-control/locks"));
+  locks.removeRecursively();
   const Simulator simulator;
   const auto get = [&](const QString& timeOut) {
     return simulator.At({"--timeout", timeOut, "get", kRoom, "picture.tint"});
   };
   EXPECT_THAT(Acctl(get("60")), Ends(0, ""));
-  const QDir locks(cache.filePath("advanced-control/locks"));
+  locks.refresh();
   ASSERT_EQ(locks.entryList(QDir::Files).size(), 1);
   QFile lock(locks.filePath(locks.entryList(QDir::Files).front()));
   ASSERT_TRUE(lock.open(QFile::ReadOnly) && flock(lock.handle(), LOCK_EX) == 0);

@@ -2,6 +2,8 @@
 // box is open. What is touched afterwards, or leaks, the address sanitizer tells.
 
 #include <functional>
+#include <memory>
+#include <optional>
 
 #include <QApplication>
 #include <QTabBar>
@@ -9,7 +11,7 @@
 #include <gtest/gtest.h>
 
 #include "device/BoundedChannel.h"
-#include "pages/input/CServiceDlg.h"
+#include "pages/option/CServiceDlg.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/PacedProjector.h"
 
@@ -148,10 +150,10 @@ INSTANTIATE_TEST_SUITE_P(
                      testing::Values(Moment::Opening, Moment::Refresh, Moment::Handler,
                                      Moment::PopUp, Moment::PopUpHandler, Moment::MessageBox)));
 
-TEST(OwnerOfALocalDialog, DiesAndTheDialogIsThereToBeRunAgain) {
+void ExpectToRunAgain(const std::function<CAdvanceDlg&(QWidget*)>& make) {
   for (const bool idle : {true, false}) {
     Host host;
-    CAdvanceDlg dialog(host.Owner());
+    CAdvanceDlg& dialog = make(host.Owner());
     host.Prepare(dialog);
     WhenIdle(dialog, [&] { idle ? host.LetDie() : host.Die(dialog, Moment::Handler); });
     EXPECT_EQ(dialog.DoModal(), QDialog::Rejected);
@@ -162,6 +164,20 @@ TEST(OwnerOfALocalDialog, DiesAndTheDialogIsThereToBeRunAgain) {
     EXPECT_EQ(dialog.DoModal(), QDialog::Accepted);
     EXPECT_GT(host.projector->sent, sent) << "the channel is back";
   }
+}
+
+TEST(OwnerOfALocalDialog, DiesAndTheDialogIsThereToBeRunAgain) {
+  std::optional<CAdvanceDlg> dialog;
+  ExpectToRunAgain([&dialog](QWidget* owner) -> CAdvanceDlg& { return dialog.emplace(owner); });
+}
+
+TEST(OwnerOfADialogInASmartPointer, DiesAndTheDialogIsThereToBeRunAgain) {
+  std::unique_ptr<CAdvanceDlg> dialog;
+  ExpectToRunAgain([&dialog](QWidget* owner) -> CAdvanceDlg& {
+    dialog = std::make_unique<CAdvanceDlg>(owner);
+    dialog->SetDeletedWithOwner(false);
+    return *dialog;
+  });
 }
 
 TEST(OwnerOfADialogWithoutParent, DiesAndTakesWhatIsOverItDown) {

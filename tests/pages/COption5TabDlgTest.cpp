@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "pages/input/COption5TabDlg.h"
-#include "pages/input/CServiceDlg.h"
+#include "pages/option/COption5TabDlg.h"
+#include "pages/option/CServiceDlg.h"
 #include "tests/support/DialogDriver.h"
 
 namespace {

@@ -36,7 +36,7 @@ void ExpectSame(const ModelSettings& settings, CDialog& dialog, const PageTable&
     const QWidget* const widget = dialog.GetDlgItem(control);
     EXPECT_FALSE(widget->isHidden());
     QStringList entries;
-    for (const ListEntry& entry : setting.entries) entries << Texts().Entry(entry).c_str();
+    for (const ListEntry& entry : setting.entries) entries << Texts().Entry(setting, entry).c_str();
     if (qobject_cast<const CComboBox*>(widget) != nullptr) {
       EXPECT_EQ(DialogDriver(dialog).Entries(control), entries);
     } else if (const auto* slider = qobject_cast<const CSliderCtrl*>(widget)) {

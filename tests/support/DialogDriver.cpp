@@ -13,7 +13,7 @@
 #include <gtest/gtest.h>
 
 #include "pages/common/CTabPage.h"
-#include "pages/input/CServiceDlg.h"
+#include "pages/option/CServiceDlg.h"
 #include "pages/picture/CColorDlg.h"
 #include "pages/picture/CGammaDlg.h"
 #include "toolkit/CSliderCtrl.h"

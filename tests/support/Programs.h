@@ -46,7 +46,7 @@ class SimulatorProcess {
  public:
   explicit SimulatorProcess(const QStringList& arguments) {
     process_.start(SIMULATOR_PROGRAM, arguments);
-    while (process_.canReadLine() || process_.waitForReadyRead(10'000)) {
+    while (process_.canReadLine() || process_.waitForReadyRead(60'000)) {
       const QString line = QString::fromUtf8(process_.readLine()).trimmed();
       if (line == "ready") return;
       const QString address = line.section(": ", 1);

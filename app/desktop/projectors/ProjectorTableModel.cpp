@@ -157,6 +157,8 @@ QVariant ProjectorTableModel::data(const QModelIndex& index, int role) const {
   const ProjectorSession* session = sessions_[static_cast<std::size_t>(index.row())].get();
   const ProjectorProfile& profile = session->Profile();
   if (role == kTabsRole) return TabNames(profile.Model).join(QLatin1Char('\n'));
+  // The state has no room in a narrow window.
+  if (role == Qt::ToolTipRole && index.column() == State) role = Qt::DisplayRole;
   if (role == Qt::ToolTipRole) return TabNames(profile.Model).join(QStringLiteral(" · "));
   const bool isNumber = index.column() == DialogType || index.column() == ModelCode;
   if (role == Qt::TextAlignmentRole && isNumber) return QVariant(Qt::AlignCenter);

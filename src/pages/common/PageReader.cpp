@@ -10,7 +10,18 @@
 #include "settings/CatalogNumbers.h"
 #include "settings/RowUse.h"
 
-PageReader::PageReader(RowHost& host, const Rows& rows) : host_(host), rows_(rows) {}
+namespace {
+
+bool ShowsSetting(const RowView& row) {
+  return !std::holds_alternative<ActionRow>(row.Row()) &&
+         !std::holds_alternative<ResetRow>(row.Row()) &&
+         !std::holds_alternative<PopUpRow>(row.Row());
+}
+
+}  // namespace
+
+PageReader::PageReader(const PageTable& table, RowHost& host, const Rows& rows)
+    : host_(host), rows_(rows), notes_(host, table.captionsStay) {}
 
 PageReader::~PageReader() = default;
 
@@ -29,15 +40,15 @@ PageReader::Reading::~Reading() {
     return;
   }
   for (const auto& row : reader_.rows_) {
-    row->SetUnread(false);
+    row->memory.unread = false;
     // What stands beside a list may have followed it.
-    if (row->CurrentNote() != RowView::Note::None) row->GreyCaption();
+    if (row->memory.note != RowNote::None) reader_.notes_.GreyCaption(*row);
   }
   reader_.UpdateVeil();
 }
 
 void PageReader::MarkUnread() {
-  for (const auto& row : rows_) row->SetUnread(row->IsPresent() && row->ShowsSetting());
+  for (const auto& row : rows_) row->memory.unread = row->memory.present && ShowsSetting(*row);
   if (veil_ != nullptr) UpdateVeil();
 }
 
@@ -45,7 +56,7 @@ std::vector<PjtCommand> PageReader::Reads() const {
   std::vector<PjtCommand> commands;
   OfSource asked = OfSource::None;
   for (const auto& row : rows_) {
-    if (!row->IsPresent()) continue;
+    if (!row->memory.present) continue;
     if (const OfSource of = SourceOf(row->Row()); of != OfSource::None) {
       if (std::exchange(asked, of) == of) continue;
       for (const Call& call : SourceQuestions(of)) commands.push_back(call.Command());
@@ -62,7 +73,7 @@ std::vector<PjtCommand> PageReader::ReadsFrom(std::size_t first, OfSource known,
                                               Source source) const {
   std::vector<PjtCommand> commands;
   for (std::size_t i = first; i < rows_.size(); ++i) {
-    if (!rows_[i]->IsPresent()) continue;
+    if (!rows_[i]->memory.present) continue;
     const PageRow& row = rows_[i]->Row();
     const OfSource of = SourceOf(row);
     if (of != OfSource::None && of != known) {
@@ -85,7 +96,7 @@ void PageReader::ReadAll() {
   CPjtInterface::Tally before;
   for (std::size_t i = 0; i < rows_.size(); ++i) {
     RowView& row = *rows_[i];
-    if (!row.IsPresent()) continue;
+    if (!row.memory.present) continue;
     const OfSource of = SourceOf(row.Row());
     if (of != OfSource::None && std::exchange(asked, of) != of) {
       before = projector.Sent();
@@ -111,12 +122,14 @@ void PageReader::Read(RowView& row, int source) { Read(row, source, Projector().
 void PageReader::Read(RowView& row, Source source, const CPjtInterface::Tally& before) {
   row.Read(source);
   if (Projector().IsAbandoned()) return;
-  row.SetUnread(false);
-  if (row.ShowsSetting()) {
-    const RowView::Note note = row.NoteAfter(before);
-    row.Tell(note);
-    const bool isRead = note == RowView::Note::None || note == RowView::Note::Range;
-    if (isRead && source && ReadingOf(row.Row(), host_.Dialog().Model())) row.RememberOpened();
+  row.memory.unread = false;
+  if (ShowsSetting(row)) {
+    notes_.Tell(row, before);
+    const RowNote note = row.memory.note;
+    const bool isRead = note == RowNote::None || note == RowNote::Range;
+    const bool isFirst =
+        !row.memory.opened && source && ReadingOf(row.Row(), host_.Dialog().Model());
+    if (isRead && isFirst) row.memory.opened = row.Position();
   }
   if (veil_ != nullptr) UpdateVeil();
 }
@@ -125,7 +138,8 @@ PageReader::Source PageReader::AskFor(OfSource of) {
   const auto source = AskSource(Projector(), of, host_.Dialog().Model().ModelCode);
   if (!source || of == OfSource::None) return source;
   for (const auto& row : rows_) {
-    if (SourceOf(row->Row()) == of) row->SetSource(*source);
+    if (SourceOf(row->Row()) != of || std::exchange(row->memory.source, source) == source) continue;
+    row->memory.opened.reset();
   }
   return source;
 }
@@ -135,7 +149,7 @@ QString PageReader::WaitingText() const {
   const int next = Projector().Sent().commands - sentBefore_ + 1;
   auto total = static_cast<int>(Reads().size());
   for (const auto& row : rows_) {
-    total += row->IsPresent() && SourceOf(row->Row()) != OfSource::None;
+    total += row->memory.present && SourceOf(row->Row()) != OfSource::None;
   }
   return CatalogString(kListCategory, ListText::Reading, std::int64_t{next},
                        std::int64_t{std::max(next, total)});
@@ -151,10 +165,10 @@ void PageReader::UpdateVeil() {
   QRegion unread;
   QRect rows;
   for (const auto& row : rows_) {
-    if (!row->IsPresent()) continue;
+    if (!row->memory.present) continue;
     const QRect place = dialog.RowRect(ControlOf(row->Row()));
     rows = rows.united(place);
-    if (row->IsUnread()) unread += place;
+    if (row->memory.unread) unread += place;
   }
   // A read that was broken off stays dimmed.
   if (!waiting_ && (unread.isEmpty() || readings_ > 0 || veil_ == nullptr)) {

@@ -7,6 +7,7 @@
 #include <QPointer>
 
 #include "device/CPjtInterface.h"
+#include "pages/rows/RowNotes.h"
 #include "pages/rows/RowView.h"
 
 class PageVeil;
@@ -18,8 +19,8 @@ class PageReader {
   using Rows = std::vector<std::unique_ptr<RowView>>;
   using Source = RowView::Source;
 
-  /// `host` and `rows` outlive the reader.
-  PageReader(RowHost& host, const Rows& rows);
+  /// The rows of `table`; all three outlive the reader.
+  PageReader(const PageTable& table, RowHost& host, const Rows& rows);
   ~PageReader();
 
   /// The page is read while this lives; one may live in another.
@@ -62,6 +63,7 @@ class PageReader {
 
   RowHost& host_;
   const Rows& rows_;
+  RowNotes notes_;
   int readings_ = 0;  // one in another
   int sentBefore_ = 0;
   bool waiting_ = false;

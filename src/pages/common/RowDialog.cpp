@@ -7,7 +7,7 @@
 #include <QTimer>
 
 #include "pages/common/StatusLine.h"
-#include "pages/common/WaitWatch.h"
+#include "pages/common/Waiting.h"
 #include "pages/rows/ValueRowView.h"
 #include "resources/ArrowBitmap.h"
 #include "toolkit/CSliderCtrl.h"
@@ -35,13 +35,30 @@ void DrawArrows(CDialog& dialog) {
   }
 }
 
+void ShowPresentRows(CDialog& dialog, const PageReader::Rows& rows) {
+  // Several rows of the table may stand in one row of the template: it is there if any of them is.
+  for (const bool present : {false, true}) {
+    for (const auto& row : rows) {
+      if (row->memory.present == present) dialog.ShowRow(ControlOf(row->Row()), present);
+    }
+  }
+  for (const auto& row : rows) {
+    QWidget* control = dialog.GetDlgItem(ControlOf(row->Row()));
+    if (row->memory.present || control->isHidden()) continue;
+    QSizePolicy keepsItsPlace = control->sizePolicy();
+    keepsItsPlace.setRetainSizeWhenHidden(true);
+    control->setSizePolicy(keepsItsPlace);
+    control->hide();
+  }
+}
+
 }  // namespace
 
 RowDialog::RowDialog(int templateNumber, const PageTable& table, CWnd* owner)
     : SettingsDialog(templateNumber, owner),
       table_(table),
       rows_(MakeRowViews(table, *this)),
-      reader_(*this, rows_),
+      reader_(table, *this, rows_),
       menus_(*this, rows_) {
   installEventFilter(&menus_);
 }
@@ -61,7 +78,9 @@ const NotificationMap& RowDialog::Notifications() const {
   for (const auto& row : rows_) {
     for (const auto& [event, id] : row->OperatedControls()) {
       if (event == Event::HScroll) {
-        add(HScroll(&RowDialog::OnHScroll));
+        add({event, 0, [](CDialog& dialog, CSliderCtrl* slider) {
+               static_cast<RowDialog&>(dialog).Release(*slider);
+             }});
       } else if (event == Event::Passive) {
         add(Passive(id));
       } else {
@@ -93,12 +112,12 @@ bool RowDialog::OnInitDialog() {
   // A model without the settings that a page is for would see a page that looks broken.
   const bool isEmpty = std::ranges::none_of(rows_, [](const auto& row) {
     const bool isReset = std::holds_alternative<ResetRow>(row->Row());  // resets other rows
-    return row->IsPresent() && !isReset;
+    return row->memory.present && !isReset;
   });
   if (isEmpty && !KeepsTemplate(table_, Model().ModelCode)) {
     ShowNotice(ListString(ListText::NoSettings));
   }
-  if (isWindow()) AddStatusLine();
+  if (isWindow()) PlaceBesideClose(waiting_->MakeLine(this));
   return true;
 }
 
@@ -106,36 +125,23 @@ void RowDialog::PrepareRows() {
   const int code = Model().ModelCode;
   const bool keepsTemplate = KeepsTemplate(table_, code);
   for (std::size_t i = 0; i < rows_.size(); ++i) {
-    rows_[i]->SetPresent(!keepsTemplate && Has(table_, i, code));
+    rows_[i]->memory.present = !keepsTemplate && Has(table_, i, code);
+    rows_[i]->memory.opened.reset();
   }
   if (!keepsTemplate) {
     DrawArrows(*this);
-    ShowPresentRows();
+    ShowPresentRows(*this, rows_);
   }
   // Absent rows too: their handlers have names, and work for a host that calls them.
   for (const auto& row : rows_) keepsTemplate ? row->UseTemplate() : row->Prepare();
 }
 
-void RowDialog::ShowPresentRows() {
-  // Several rows of the table may stand in one row of the template: it is there if any of them is.
-  for (const bool present : {false, true}) {
-    for (const auto& row : rows_) {
-      if (row->IsPresent() == present) ShowRow(ControlOf(row->Row()), present);
-    }
-  }
-  for (const auto& row : rows_) {
-    QWidget* control = GetDlgItem(ControlOf(row->Row()));
-    if (row->IsPresent() || control->isHidden()) continue;
-    QSizePolicy keepsItsPlace = control->sizePolicy();
-    keepsItsPlace.setRetainSizeWhenHidden(true);
-    control->setSizePolicy(keepsItsPlace);
-    control->hide();
-  }
-}
-
 void RowDialog::RefillLists(const ModelData& before) {
   if (KeepsTemplate(table_, Model().ModelCode)) return;
-  for (const auto& row : rows_) row->Refill(before);
+  for (const auto& row : rows_) {
+    const auto* list = std::get_if<ListRow>(&row->Row());
+    if (list != nullptr && list->entries.Of(before) != list->entries.Of(Model())) row->Prepare();
+  }
 }
 
 void RowDialog::Refresh() {
@@ -154,37 +160,25 @@ bool RowDialog::Release(CSliderCtrl& slider) {
   return row == nullptr || row->Release();
 }
 
-void RowDialog::AddStatusLine() {
-  delete status_;
-  status_ = new StatusLine(this);
-  PlaceBesideClose(*status_);
-  connect(status_, &StatusLine::Retry, this, [this] {
-    projector->TryAfresh();
-    Refresh();
-  });
-}
-
 void RowDialog::OnBusy() {
-  if (watch_ == nullptr) {
-    watch_ = std::make_unique<WaitWatch>([this] { return projector->IsWaiting(); },
-                                         [this](bool waiting) {
-                                           const QString text =
-                                               waiting ? reader_.WaitingText() : QString();
-                                           if (status_ != nullptr) status_->ShowProgress(text);
-                                           reader_.ShowWaiting(waiting);
-                                         });
+  if (waiting_ == nullptr) {
+    waiting_ = std::make_unique<Waiting>(
+        Waiting::Dialog{.projector = [this]() -> CPjtInterface& { return *projector; },
+                        .show = [this](bool waiting) { reader_.ShowWaiting(waiting); },
+                        .text = [this] { return reader_.WaitingText(); },
+                        .retry = [this] { Refresh(); }});
   }
-  sentWhenIdle_ = projector->Sent();
-  watch_->Start();
+  waiting_->Begin();
 }
 
 void RowDialog::OnIdle() {
-  watch_->Stop();
-  if (status_ != nullptr && !IsLeft() && projector->Sent().commands > sentWhenIdle_.commands) {
-    status_->ShowOutcome(*projector, sentWhenIdle_);
-  }
+  waiting_->End(IsLeft());
   if (!std::exchange(stale_, false) || IsLeft()) return;
   QTimer::singleShot(0, this, [this] {
     if (IsCreated()) Refresh();
   });
 }
+
+void RowDialog::OnLeave() { waiting_->Abandon(); }
+
+void RowDialog::OnReturn() { waiting_->Return(); }

@@ -5,16 +5,13 @@
 #include <unordered_map>
 #include <vector>
 
-#include <QPointer>
-
 #include "AdvancedControlExport.h"
 #include "pages/common/PageReader.h"
 #include "pages/common/RowMenus.h"
 #include "pages/common/SettingsDialog.h"
 #include "pages/rows/RowView.h"
 
-class StatusLine;
-class WaitWatch;
+class Waiting;
 
 /// A page or pop-up made of a table of rows: makes a view for each, shows those that the model has,
 /// and leads to each view what its controls report. What fits no row is a handler of the class
@@ -58,7 +55,6 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog, private RowHost
 
   /// The user operated this control: does what its row says.
   void Act(int control);
-  void OnHScroll(CSliderCtrl& slider) { Release(slider); }
   /// A slider of the table was released. False when the projector refused the position.
   bool Release(CSliderCtrl& slider);
 
@@ -70,6 +66,8 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog, private RowHost
 
   void OnBusy() override;
   void OnIdle() override;
+  void OnLeave() override;
+  void OnReturn() override;
   void OnStale() override { stale_ = true; }
 
  private:
@@ -78,9 +76,6 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog, private RowHost
   std::optional<int> AskFor(OfSource of) final { return reader_.AskFor(of); }
   void ReadRow(RowView& row, int source) final { reader_.Read(row, source); }
 
-  void ShowPresentRows();
-  void AddStatusLine();
-
   const PageTable& table_;
   const PageReader::Rows rows_;  // in the table's order
   std::unordered_map<const QWidget*, RowView*> rowsByControl_;
@@ -88,8 +83,6 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog, private RowHost
   PageReader reader_;
   RowMenus menus_;
   bool stale_ = false;
-  // Of a pop-up; a page has those of its dialog.
-  std::unique_ptr<WaitWatch> watch_;
-  QPointer<StatusLine> status_;
-  CPjtInterface::Tally sentWhenIdle_;
+  // Of a pop-up; a page waits with its dialog.
+  std::unique_ptr<Waiting> waiting_;
 };

@@ -5,6 +5,7 @@
 
 #include "pages/common/NumberQuestion.h"
 #include "pages/common/RowMenu.h"
+#include "pages/rows/RowTexts.h"
 #include "toolkit/CDialog.h"
 
 namespace {
@@ -37,10 +38,10 @@ bool RowMenus::eventFilter(QObject*, QEvent* event) {
 RowView* RowMenus::RowAt(QPoint at) const {
   SettingsDialog& dialog = host_.Dialog();
   RowView* const own = host_.RowOf(dialog.childAt(at));
-  if (own != nullptr && own->IsPresent()) return own;
+  if (own != nullptr && own->memory.present) return own;
   RowView* beside = nullptr;
   for (const auto& row : rows_) {
-    if (!row->IsPresent() || !dialog.RowRect(ControlOf(row->Row())).contains(at)) continue;
+    if (!row->memory.present || !dialog.RowRect(ControlOf(row->Row())).contains(at)) continue;
     if (beside != nullptr) return nullptr;
     beside = row.get();
   }
@@ -52,13 +53,14 @@ bool RowMenus::Open(QPoint at, QPoint onScreen) {
   if (found == nullptr || !ReadingOf(found->Row(), host_.Dialog().Model())) return false;
   RowView& row = *found;
   CDialog& dialog = host_.Dialog();
-  const auto opened = row.Opened();
+  const auto opened = row.memory.opened;
   auto* menu = new RowMenu(
-      {.caption = row.Caption(),
+      {.caption = CaptionText(row.Row()),
        .value = row.Text(),
-       .note = row.NoteText(),
+       .note = RowNotes::TextOf(row),
        .opened = opened ? row.TextAt(*opened) : QString(),
-       .putBack = ChoiceOf(row.CanMove(), opened && row.CanMoveTo(*opened)),
+       .putBack =
+           ChoiceOf(!std::holds_alternative<StateRow>(row.Row()), opened && row.CanMoveTo(*opened)),
        .enterValue = ChoiceOf(row.Numbers().has_value(), row.IsUsable() && row.Position())},
       &dialog);
   // Not before the menu has ended: what they start may wait for the projector.
@@ -74,8 +76,9 @@ bool RowMenus::Open(QPoint at, QPoint onScreen) {
 // The dialog may go on or end while this is asked in it.
 void RowMenus::AskForNumber(RowView& row) {
   const Range range = row.Numbers().value_or(kUnbounded);
-  auto* question = new NumberQuestion(row.Caption(), range, row.Position().value_or(range.minimum),
-                                      host_.Dialog().window());
+  auto* question =
+      new NumberQuestion(CaptionText(row.Row()), range, row.Position().value_or(range.minimum),
+                         host_.Dialog().window());
   connect(question, &NumberQuestion::Entered, &host_.Dialog(),
           [this, &row](int position) { MoveTo(row, position); });
   question->open();
@@ -98,10 +101,10 @@ void RowMenus::PutBack(RowView& row) {
       host_.AskFor(of);
     }
     if (!host_.Dialog().isVisible()) return;
-    if (!row.Opened()) {
+    if (!row.memory.opened) {
       host_.ReadAgain();  // of another source now: what was shown is its predecessor's
       return;
     }
   }
-  if (row.Opened()) MoveTo(row, *row.Opened());
+  if (row.memory.opened) MoveTo(row, *row.memory.opened);
 }

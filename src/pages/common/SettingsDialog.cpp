@@ -37,8 +37,6 @@ bool SettingsDialog::Ask(int questionNumber) {
   return AskYesNo(this, CatalogString(kErrorCategory, questionNumber), BoxButtons());
 }
 
-void SettingsDialog::OnLeave() { left_ = projector->Abandon(); }
-
 CPjtInterface& SettingsDialog::Unconnected() {
   static CPjtInterface projector;
   return projector;

@@ -39,11 +39,7 @@ class ADVANCED_CONTROL_EXPORT SettingsDialog : public CDialog {
   bool Ask(int questionNumber);
 
   void OnOrphaned() override { projector = &Unconnected(); }
-  void OnLeave() override;
-  void OnReturn() override { left_.reset(); }
 
  private:
   static CPjtInterface& Unconnected();
-
-  std::shared_ptr<const void> left_;  // while what runs is abandoned
 };

@@ -52,4 +52,4 @@ void CPictureTabType5Dlg::OnBnClickedPicShpnBtn() { Act(20148); }
 void CPictureTabType5Dlg::OnBnClickedPicMyldBtn() { Act(21065); }
 void CPictureTabType5Dlg::OnCbnSelchangePic5ActilisCombo() { Act(20293); }
 void CPictureTabType5Dlg::OnBnClickedPicRstBtn() { Act(21070); }
-void CPictureTabType5Dlg::OnHScroll(CSliderCtrl& slider) { PicturePage::OnHScroll(slider); }
+void CPictureTabType5Dlg::OnHScroll(CSliderCtrl& slider) { Release(slider); }

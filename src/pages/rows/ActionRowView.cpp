@@ -1,6 +1,6 @@
 #include "pages/rows/ActionRowView.h"
 
-#include "pages/rows/EntryTexts.h"
+#include "pages/rows/RowTexts.h"
 #include "settings/RowUse.h"
 #include "toolkit/CComboBox.h"
 
@@ -26,6 +26,6 @@ void ActionRowView::Act(int) {
   const int position = list_ != nullptr ? list_->currentIndex() : 0;
   if (position < 0) return;
   const bool done = Perform(Projector(), row_.call, position).accepted;
-  ReadAgainAfter(row_.rereads, done);
+  if (ReadsAgain(row_.rereads, done)) Host().ReadAgain();
   if (!done && row_.error != 0) Dialog().ShowError(row_.error);
 }

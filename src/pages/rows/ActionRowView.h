@@ -13,7 +13,6 @@ class ActionRowView final : public RowView {
   std::vector<Operated> OperatedControls() const override;
   void Bind() override;
   void Prepare() override;
-  bool ShowsSetting() const override { return false; }
   void OnPageRead() override;
   void Act(int control) override;
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "pages/rows/EntryTexts.h"
+#include "pages/rows/RowTexts.h"
 #include "settings/RowUse.h"
 #include "toolkit/CComboBox.h"
 
@@ -21,10 +21,6 @@ void ListRowView::UseTemplate() {
   for (int i = 0; i < count; ++i) {
     list_->setItemData(i, entries[static_cast<std::size_t>(i)].value);
   }
-}
-
-void ListRowView::Refill(const ModelData& before) {
-  if (row_.entries.Of(before) != row_.entries.Of(Model())) Prepare();
 }
 
 void ListRowView::Read(Source source) {
@@ -64,7 +60,7 @@ void ListRowView::Act(int) {
   }
   if (row_.rules.readsBackAlways) Host().ReadRow(*this, *source);
   if (sent == Sent::Accepted) return;
-  if (RefusedIsReadBack() || row_.rules.refused != Refused::Silent) ReadBack(*source);
+  if (Table().refusedIsReadBack || row_.rules.refused != Refused::Silent) ReadBack(*source);
   if (row_.rules.error != 0) Dialog().ShowError(row_.rules.error);
 }
 
@@ -96,5 +92,3 @@ bool ListRowView::CanMoveTo(int position) const {
 void ListRowView::MoveTo(int position) {
   if (CanMoveTo(position)) list_->Pick(position);
 }
-
-bool ListRowView::HasNoEntries() const { return list_->count() == 0; }

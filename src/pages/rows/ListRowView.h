@@ -14,7 +14,6 @@ class ListRowView final : public RowView {
   void Bind() override;
   void Prepare() override;
   void UseTemplate() override;
-  void Refill(const ModelData& before) override;
   void Read(Source source) override;
   void Act(int control) override;
   std::optional<int> Position() const override;
@@ -24,9 +23,6 @@ class ListRowView final : public RowView {
 
   /// Reads the setting as after a refused choice; a failed read changes nothing.
   void ReadBack();
-
- protected:
-  bool HasNoEntries() const override;
 
  private:
   void ReadBack(int source);

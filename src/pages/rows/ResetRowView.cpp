@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "i18n/LocalizeControlTexts.h"
+#include "pages/rows/ValueRowView.h"
 #include "settings/CatalogNumbers.h"
 #include "settings/RowUse.h"
 #include "toolkit/CComboBox.h"
@@ -18,7 +19,7 @@ void ResetRowView::Prepare() {
   for (std::size_t i = 0; i < row_.entries.size(); ++i) {
     const ResetEntry& entry = row_.entries[i];
     const RowView* of = Host().RowOf(Dialog().GetDlgItem(entry.of));
-    if (entry.of != 0 && (of == nullptr || !of->IsPresent())) continue;
+    if (entry.of != 0 && (of == nullptr || !of->memory.present)) continue;
     // The entry's place in the table rides along: what is listed does not tell it.
     list_->Add(CatalogString(kListCategory, entry.text), static_cast<int>(i));
   }
@@ -34,7 +35,9 @@ void ResetRowView::Act(int) {
   const ResetEntry entry =
       isListed ? row_.entries[static_cast<std::size_t>(*chosen)] : ResetEntry{};
   const bool done = isListed && Perform(Projector(), Named(entry.operation)).accepted;
-  RowView* const of = Host().RowOf(Dialog().GetDlgItem(entry.of));
-  if (done && row_.rereads == Rereads::ItsRow && of != nullptr) of->ShowAgain();
-  ReadAgainAfter(row_.rereads, done);
+  if (done && row_.rereads == Rereads::ItsRow) {
+    auto* of = dynamic_cast<ValueRowView*>(Host().RowOf(Dialog().GetDlgItem(entry.of)));
+    if (of != nullptr) of->ShowAgain();
+  }
+  if (ReadsAgain(row_.rereads, done)) Host().ReadAgain();
 }

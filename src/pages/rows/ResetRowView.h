@@ -14,7 +14,6 @@ class ResetRowView final : public RowView {
   void Bind() override;
   /// Lists the resets of the present rows; nothing is selected then.
   void Prepare() override;
-  bool ShowsSetting() const override { return false; }
   void OnPageRead() override;
   void Act(int control) override;
 

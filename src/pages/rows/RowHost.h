@@ -8,6 +8,11 @@ class QWidget;
 class RowView;
 class SettingsDialog;
 
+/// Whether a page is read again after an action that ended so.
+constexpr bool ReadsAgain(Rereads rereads, bool done) {
+  return rereads == Rereads::Always || (rereads == Rereads::WhenDone && done);
+}
+
 /// What a row asks of the page that it stands on.
 class RowHost {
  public:

@@ -14,7 +14,6 @@ class PopUpRowView final : public RowView {
   using RowView::RowView;
 
   void Bind() override {}
-  bool ShowsSetting() const override { return false; }
 };
 
 template <class View>

@@ -3,7 +3,7 @@
 #include <QLabel>
 
 #include "i18n/LocalizeControlTexts.h"
-#include "pages/rows/EntryTexts.h"
+#include "pages/rows/RowTexts.h"
 #include "settings/CatalogNumbers.h"
 
 namespace {

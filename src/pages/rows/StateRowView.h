@@ -14,7 +14,6 @@ class StateRowView final : public RowView {
   void Bind() override;
   void Read(Source source) override;
   QString Text() const override;
-  bool CanMove() const override { return false; }
 
  private:
   QString TextOfState(int value) const;

@@ -123,7 +123,7 @@ bool ValueRowView::Release() {
 void ValueRowView::Refuse(int position, bool told) {
   if (Projector().IsAbandoned()) return;
   MoveSlider(position);
-  if (RefusedIsReadBack()) {
+  if (Table().refusedIsReadBack) {
     if (const auto value = ReadSetting(0)) remembered_ = Word(ShowDevice(*value));
   }
   if (told && row_.error != 0) Dialog().ShowError(row_.error);

@@ -20,7 +20,6 @@ class ValueRowView final : public RowView {
   void Bind() override;
   void Prepare() override;
   void Read(Source source) override;
-  void ShowAgain() override;
   void Act(int control) override;
   std::optional<int> Position() const override;
   bool CanMoveTo(int position) const override;
@@ -28,6 +27,8 @@ class ValueRowView final : public RowView {
   std::optional<Range> Numbers() const override;
   bool IsUsable() const override;
 
+  /// Shows its value afresh after a reset, without remembering it.
+  void ShowAgain();
   /// The slider was released. False when the projector refused the position.
   bool Release();
 

@@ -15,11 +15,11 @@ CAudioType5Dlg::CAudioType5Dlg(CWnd* parent)
 bool CAudioType5Dlg::OnInitDialog() {
   PrepareRows();
   // Not a model of this page: it stays unlocalized.
-  if (Row(kVolume).IsPresent()) LocalizeControlTexts(kCaptionCategory, *this);
+  if (Row(kVolume).memory.present) LocalizeControlTexts(kCaptionCategory, *this);
   return true;
 }
 
-void CAudioType5Dlg::OnHScroll(CSliderCtrl& slider) { CTabPage::OnHScroll(slider); }
+void CAudioType5Dlg::OnHScroll(CSliderCtrl& slider) { Release(slider); }
 void CAudioType5Dlg::OnBnClickedAud5Btnvolneg() { Act(20345); }
 void CAudioType5Dlg::OnBnClickedAud5Btnvolpos() { Act(20346); }
 void CAudioType5Dlg::OnBnClickedAud5Btntreneg() { Act(20348); }

@@ -37,7 +37,7 @@ std::vector<Notification> CSetupType5TabDlg::OwnNotifications() const {
 
 bool CSetupType5TabDlg::OnInitDialog() {
   CTabPage::OnInitDialog();
-  ShowRow(kCurrentInput, Row(kVolume).IsPresent());
+  ShowRow(kCurrentInput, Row(kVolume).memory.present);
   Row<ValueRowView>(kVolume).ShowNumber(kInitialVolume);
   return true;
 }

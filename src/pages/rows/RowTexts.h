@@ -5,12 +5,14 @@
 
 #include <QString>
 
-#include "settings/ListEntry.h"
+#include "settings/Rows.h"
 
 class CComboBox;
 
 /// A text that is the same in every language.
 QString PlainText(std::string_view text);
+/// A row's name as a person reads it.
+QString CaptionText(const PageRow& row);
 /// The text of an entry, in the language of the catalog.
 QString TextOf(const ListEntry& entry);
 /// Fills a list anew; nothing is selected then.

@@ -1,4 +1,4 @@
-#include "pages/input/COtherTabDlg.h"
+#include "pages/other/COtherTabDlg.h"
 
 #include "device/CommandCode.h"
 #include "resources/AdvancedControlResources.h"

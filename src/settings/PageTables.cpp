@@ -1,5 +1,6 @@
-#include "device/ModelData.h"
 #include "settings/PageTables.h"
+
+#include "device/ModelData.h"
 #include "settings/picture/PictureRows.h"
 
 inline namespace AdvancedControl {
@@ -15,9 +16,17 @@ bool HasEntry(const CountedList& list, auto fits) {
 
 }  // namespace
 
+const PageTable& TableOf(PageId page) {
+  static constexpr const PageTable* kTables[] = {
+#define PAGE(identifier, number, pageClass) &k##identifier##Rows,
+#include "settings/Pages.def"
+  };
+  return *kTables[static_cast<std::size_t>(page)];
+}
+
 // The user's gamma and colour temperature can only be shaped where the model has them.
 std::vector<PagePopUp> PopUpsOf(PageId page, const ModelData& model) {
-  if (page == PageId::Option5) return {{&kServiceRows, 20373, 20373}};
+  if (page == PageId::OptionType5) return {{&kServiceRows, 20373, 20373}};
   const bool byValue = page == PageId::PictureType5;
   if (!byValue && page != PageId::Pic) return {};
   std::vector<PagePopUp> popUps;

@@ -1,4 +1,4 @@
-#include "pages/input/CServiceDlg.h"
+#include "pages/option/CServiceDlg.h"
 
 #include "resources/AdvancedControlResources.h"
 #include "settings/PageTables.h"

@@ -1,12 +1,12 @@
-#include "pages/input/COption5TabDlg.h"
+#include "pages/option/COption5TabDlg.h"
 
 #include <algorithm>
 #include <iterator>
 
-#include "pages/input/CServiceDlg.h"
+#include "pages/option/CServiceDlg.h"
 #include "resources/AdvancedControlResources.h"
-#include "settings/MyButtons.h"
 #include "settings/PageTables.h"
+#include "settings/option/MyButtons.h"
 
 namespace {
 
@@ -25,7 +25,7 @@ std::vector<Notification> COption5TabDlg::OwnNotifications() const {
 bool COption5TabDlg::OnInitDialog() {
   CTabPage::OnInitDialog();
   myButtonCodes_.assign(std::begin(MyButtonTable), std::prev(std::end(MyButtonTable)));
-  if (Row(kMyButton1).IsPresent() && Model().MyButtonList.Size() > 0) {
+  if (Row(kMyButton1).memory.present && Model().MyButtonList.Size() > 0) {
     myButtonCodes_.clear();
     for (const ListEntry& entry : MyButtonEntries(Model())) myButtonCodes_.push_back(entry.value);
   }
@@ -61,4 +61,4 @@ void COption5TabDlg::OnCbnSelchangeOpt5Mysrccomb() { Act(20374); }
 void COption5TabDlg::OnCbnSelchangeOth4CcdisplayComb() { Act(20292); }
 void COption5TabDlg::OnCbnSelchangeOth4CcmodeComb() { Act(20293); }
 void COption5TabDlg::OnCbnSelchangeOth4CcchannelComb() { Act(20294); }
-void COption5TabDlg::OnHScroll(CSliderCtrl& slider) { CTabPage::OnHScroll(slider); }
+void COption5TabDlg::OnHScroll(CSliderCtrl& slider) { Release(slider); }

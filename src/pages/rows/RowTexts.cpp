@@ -1,4 +1,4 @@
-#include "pages/rows/EntryTexts.h"
+#include "pages/rows/RowTexts.h"
 
 #include "i18n/LocalizeControlTexts.h"
 #include "settings/CatalogNumbers.h"
@@ -6,6 +6,13 @@
 
 QString PlainText(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+// One that is the same in every language is no text of the catalog.
+QString CaptionText(const PageRow& row) {
+  const int number = CaptionOf(row);
+  if (number != 0) return CatalogString(kCaptionCategory, number);
+  return PlainText(KeyOf(row)).section(QLatin1Char('.'), -1).toUpper();
 }
 
 QString TextOf(const ListEntry& entry) {

@@ -1,0 +1,63 @@
+#include "pages/common/Waiting.h"
+
+#include <chrono>
+#include <utility>
+
+#include "pages/common/StatusLine.h"
+
+namespace {
+
+constexpr std::chrono::milliseconds kTick{50};
+constexpr int kBlink = 4;  // ticks
+
+}  // namespace
+
+Waiting::Waiting(Dialog dialog) : dialog_(std::move(dialog)) {}
+
+Waiting::~Waiting() = default;
+
+StatusLine& Waiting::MakeLine(QWidget* parent) {
+  delete line_;
+  line_ = new StatusLine(parent);
+  connect(line_, &StatusLine::Retry, this, [this] {
+    line_->ShowProgress({});
+    dialog_.projector().TryAfresh();
+    dialog_.retry();
+  });
+  return *line_;
+}
+
+void Waiting::Begin() {
+  CountAfresh();
+  ticks_ = 0;
+  if (timer_ == 0) timer_ = startTimer(kTick);
+}
+
+void Waiting::End(bool left) {
+  if (timer_ != 0) killTimer(std::exchange(timer_, 0));
+  if (shown_) Show(false);
+  const CPjtInterface& projector = dialog_.projector();
+  if (left || line_ == nullptr || projector.Sent().commands == before_.commands) return;
+  line_->ShowOutcome(projector, before_);
+}
+
+void Waiting::CountAfresh() { before_ = dialog_.projector().Sent(); }
+
+void Waiting::Abandon() { abandoned_ = dialog_.projector().Abandon(); }
+
+void Waiting::Return() { abandoned_.reset(); }
+
+void Waiting::timerEvent(QTimerEvent*) {
+  if (dialog_.projector().IsWaiting()) {
+    if (++ticks_ >= kBlink) Show(true);
+  } else {
+    ticks_ = 0;
+    if (shown_) Show(false);
+  }
+}
+
+void Waiting::Show(bool waiting) {
+  shown_ = waiting;
+  dialog_.show(waiting);
+  if (line_ != nullptr) line_->ShowProgress(waiting ? dialog_.text() : QString());
+}

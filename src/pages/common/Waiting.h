@@ -1,0 +1,61 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include <QObject>
+#include <QPointer>
+
+#include "device/CPjtInterface.h"
+
+class StatusLine;
+
+/// A dialog's waiting for its projector, from the first handler that begins to the last one that
+/// returns: tells when it has waited for longer than a blink, shows in the line beside Close how
+/// far it has come and what came of it, and abandons what is under way. A dialog with tabs has one
+/// for all its pages, and a pop-up has its own. User-interface thread only.
+class Waiting final : public QObject {
+ public:
+  /// What the dialog says about itself and does. Called between construction and destruction.
+  struct Dialog {
+    std::function<CPjtInterface&()> projector;
+    /// Called with true again and again while a wait is long, and with false once when it is over;
+    /// after short waits not at all.
+    std::function<void(bool waiting)> show;
+    /// How far what goes on has come, in words.
+    std::function<QString()> text;
+    /// The user wants to try again what was not answered.
+    std::function<void()> retry;
+  };
+
+  explicit Waiting(Dialog dialog);
+  ~Waiting() override;
+
+  /// Makes the line afresh, as a child of `parent`, which owns it.
+  StatusLine& MakeLine(QWidget* parent);
+
+  /// The first handler begins, and the last one has returned. What it did is shown unless the user
+  /// `left` it.
+  void Begin();
+  void End(bool left);
+  /// What was sent up to now does not count for what `End` shows.
+  void CountAfresh();
+
+  /// Abandons what is under way, until `Return`: no command is sent meanwhile.
+  void Abandon();
+  void Return();
+
+ protected:
+  void timerEvent(QTimerEvent* event) override;
+
+ private:
+  void Show(bool waiting);
+
+  Dialog dialog_;
+  QPointer<StatusLine> line_;
+  CPjtInterface::Tally before_;            // what counts
+  std::shared_ptr<const void> abandoned_;  // as long as it lives
+  int timer_ = 0;
+  int ticks_ = 0;
+  bool shown_ = false;
+};

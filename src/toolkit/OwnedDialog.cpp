@@ -1,0 +1,145 @@
+#include "toolkit/OwnedDialog.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include <QApplication>
+#include <QEvent>
+
+namespace {
+
+// Open top-level dialogs, oldest first.
+std::vector<OwnedDialog*>& Windows() {
+  static std::vector<OwnedDialog*> windows;
+  return windows;
+}
+
+std::vector<OwnedDialog*> PopUpsOf(const OwnedDialog& owner) {
+  std::vector<OwnedDialog*> popUps;
+  for (OwnedDialog* dialog : Windows()) {
+    if (dialog != &owner && dialog->Owner() != nullptr && dialog->Owner()->window() == &owner) {
+      popUps.push_back(dialog);
+    }
+  }
+  return popUps;
+}
+
+// Also the message boxes of running handlers.
+void ClosePopUps(const OwnedDialog& owner) {
+  std::vector<QPointer<QDialog>> modals;
+  for (OwnedDialog* popUp : PopUpsOf(owner)) modals.emplace_back(popUp);
+  for (QDialog* box : owner.findChildren<QDialog*>()) {
+    if (box->isWindow() && box->isVisible() && box->isModal()) modals.emplace_back(box);
+  }
+  for (const QPointer<QDialog>& modal : modals) {
+    if (modal != nullptr) modal->reject();
+  }
+}
+
+}  // namespace
+
+OwnedDialog::OwnedDialog(int templateNumber, CWnd* owner)
+    : InputDialog(templateNumber, owner), deletedWithOwner_(IsMadeWithNew()) {}
+
+OwnedDialog::~OwnedDialog() { Destroy(); }
+
+void OwnedDialog::Open() {
+  life_ = Life::Open;
+  if (isWindow()) Windows().push_back(this);
+  WatchOwner();
+}
+
+void OwnedDialog::Destroy() {
+  if (life_ != Life::Open) return;
+  life_ = Life::Closed;
+  if (!isWindow()) return;
+  std::erase(Windows(), this);
+  OnDestroy();
+}
+
+void OwnedDialog::done(int result) {
+  if (!isWindow()) return;
+  ClosePopUps(*this);
+  Leave();
+  InputDialog::done(result);
+  Destroy();
+}
+
+bool OwnedDialog::HasPopUp() const { return !PopUpsOf(*this).empty(); }
+
+void OwnedDialog::BorrowOwner() {
+  if (parentWidget() != nullptr) return;
+  const auto& open = Windows();
+  QWidget* active = QApplication::activeWindow();
+  const auto isActive = [active](const OwnedDialog* dialog) { return dialog == active; };
+  const auto isVisible = [](const OwnedDialog* dialog) { return dialog->isVisible(); };
+  if (std::ranges::none_of(open, isActive)) {
+    const auto newest = std::find_if(open.rbegin(), open.rend(), isVisible);
+    if (newest != open.rend()) active = *newest;
+  }
+  // The list of one of this dialog's own controls may still be the active window.
+  const QObject* part = active;
+  while (part != nullptr && part != this) part = part->parent();
+  owner_ = part == nullptr ? active : nullptr;
+}
+
+void OwnedDialog::ReturnOwner() {
+  owner_.clear();
+  if (parentWidget() == nullptr) disconnect(ownerDies_);
+}
+
+void OwnedDialog::WatchOwner() {
+  disconnect(ownerDies_);
+  if (!isWindow() || Owner() == nullptr) return;
+  ownerDies_ = connect(Owner(), &QObject::destroyed, this, &OwnedDialog::OnOwnerDying);
+}
+
+// Comes before the owner deletes its children.
+void OwnedDialog::OnOwnerDying() {
+  if (!isWindow()) return;
+  if (parentWidget() == nullptr) return End();
+  if (deletedWithOwner_ && !IsBusy()) return;  // as any child
+  deletionWaits_ = deletionWaits_ || deletedWithOwner_;
+  End();
+  setParent(nullptr, windowFlags());
+}
+
+// Emits nothing: its listeners may be parts of the owner.
+void OwnedDialog::End() {
+  const Life before = std::exchange(life_, Life::Orphaned);
+  if (before == Life::Orphaned) return;
+  Leave();
+  OnOrphaned();
+  for (OwnedDialog* popUp : PopUpsOf(*this)) popUp->End();
+  for (QDialog* box : findChildren<QDialog*>()) {
+    if (box->isWindow()) box->hide();
+  }
+  hide();
+  if (before != Life::Open || !isWindow()) return;
+  std::erase(Windows(), this);
+  OnDestroy();
+}
+
+bool OwnedDialog::IsOrphaned() const {
+  const auto* top = qobject_cast<const OwnedDialog*>(window());
+  return top != nullptr && top->life_ == Life::Orphaned;
+}
+
+bool OwnedDialog::event(QEvent* event) {
+  if (event->type() == QEvent::DeferredDelete && IsBusy()) {
+    deletionWaits_ = true;
+    Leave();
+    return true;
+  }
+  if (event->type() == QEvent::ParentChange && IsCreated()) WatchOwner();
+  return InputDialog::event(event);
+}
+
+void OwnedDialog::AfterHandlers() {
+  if (!deletionWaits_) return;
+  // The dialog's own deferred deletion may be used up.
+  auto* last = new QObject;  // NOLINT(bugprone-unhandled-exception-at-new): Qt ends without memory
+  QObject::connect(last, &QObject::destroyed, [dialog = QPointer(this)] { delete dialog; });
+  last->deleteLater();
+}

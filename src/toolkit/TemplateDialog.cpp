@@ -1,0 +1,257 @@
+#include "toolkit/TemplateDialog.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QFontMetrics>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "toolkit/FittedScroll.h"
+#include "toolkit/ResourceModule.h"
+#include "toolkit/TemplateControls.h"
+
+namespace {
+
+constexpr int kColumnGap = 32;
+
+bool HoldsTab(const RowTemplate& row) {
+  return std::ranges::any_of(row.controls,
+                             [](const auto& control) { return control.kind == ControlKind::Tab; });
+}
+
+}  // namespace
+
+TemplateDialog::TemplateDialog(int templateNumber, CWnd* parent)
+    : QDialog(parent), templateNumber_(templateNumber) {}
+
+bool TemplateDialog::BuildControls() {
+  // A dialog may be run again; the controls of its last run may have been in use until it closed.
+  for (const auto& [id, control] : std::exchange(controls_, {})) delete control;
+  rows_.clear();
+  waysOut_.clear();
+  delete layout();
+  delete scroll_;
+
+  template_ = ResourceChain::FindDialog(templateNumber_);
+  if (template_ == nullptr) return false;
+  setWindowTitle(QString::fromUtf8(template_->caption));
+  for (const RowTemplate& row : template_->rows) {
+    PlacedRow placed{};
+    for (const ControlTemplate& control : row.controls) {
+      if (control.kind == ControlKind::None) break;
+      QWidget* widget = MakeControl(control, this);
+      placed.controls.push_back(widget);
+      controls_[control.id] = widget;
+      if (control.kind == ControlKind::Close || control.kind == ControlKind::Tab) {
+        waysOut_.push_back(widget);
+      }
+    }
+    rows_.push_back(std::move(placed));
+  }
+  // A dialog of tabs places its pages and controls itself.
+  if (std::ranges::none_of(template_->rows, HoldsTab)) LayOut();
+  return true;
+}
+
+void TemplateDialog::LayOut() {
+  auto* columns = new QHBoxLayout(this);
+  columns->setContentsMargins(isWindow() ? 16 : 0, isWindow() ? 12 : 0, isWindow() ? 16 : 0,
+                              isWindow() ? 12 : 0);
+  columns->setSpacing(kColumnGap);
+  if (isWindow()) columns->setSizeConstraint(QLayout::SetFixedSize);  // follows absent rows
+  QGridLayout* const left = MakeRowColumns(*this);
+  columns->addLayout(left, 1);
+  // Pages keep two columns even where only one is used, so that rows do not jump between tabs.
+  QGridLayout* const right = isWindow() ? nullptr : MakeRowColumns(*this);
+  if (right != nullptr) columns->addLayout(right, 1);
+  int leftRow = 0;
+  int rightRow = 0;
+  bool stretched = false;
+  for (std::size_t i = 0; i < rows_.size(); ++i) {
+    const RowTemplate& row = template_->rows[i];
+    if (row.place == RowPlace::Bottom && !stretched) {
+      left->setRowStretch(leftRow++, 1);
+      stretched = true;
+    }
+    PlacedRow& placed = rows_[i];
+    placed.grid = row.place == RowPlace::Right && right != nullptr ? right : left;
+    placed.gridRow = placed.grid == left ? leftRow++ : rightRow++;
+    PlaceRow(row, placed.controls, placed.grid, placed.gridRow);
+  }
+  if (!stretched) left->setRowStretch(leftRow++, 1);
+  if (right != nullptr) {
+    right->setRowStretch(rightRow, 1);
+  } else {
+    // Absent rows make a window lower, but not narrower than its template.
+    const QMargins margins = layout()->contentsMargins();
+    const int width = FromDialogUnits(template_->width, 0).width();
+    left->addItem(new QSpacerItem(width - margins.left() - margins.right(), 0), leftRow, 0, 1,
+                  RowColumn::Count);
+  }
+}
+
+void TemplateDialog::FinishLayout() {
+  UpdateRows();
+  GiveMnemonics();
+  FitToScreen();
+}
+
+void TemplateDialog::UpdateRows() {
+  pitch_ = FromDialogUnits(0, template_->rulerHeight).height();
+  int buttonWidth = 0;
+  for (const PlacedRow& row : rows_) {
+    if (!row.present) continue;
+    for (const QWidget* control : row.controls) {
+      pitch_ = std::max(pitch_, control->sizeHint().height() + 2);
+    }
+  }
+  std::vector<QWidget*> buttons;
+  for (const RowTemplate& row : template_->rows) {
+    for (const ControlTemplate& control : row.controls) {
+      if (control.kind != ControlKind::Button && control.kind != ControlKind::Close) continue;
+      buttons.push_back(GetDlgItem(control.id));
+      buttonWidth = std::max(buttonWidth, buttons.back()->sizeHint().width());
+    }
+  }
+  for (QWidget* button : buttons) button->setMinimumWidth(buttonWidth);
+  for (const PlacedRow& row : rows_) {
+    if (row.grid != nullptr) row.grid->setRowMinimumHeight(row.gridRow, row.present ? pitch_ : 0);
+  }
+}
+
+// Alt+C closes in every language: where the caption has no C, it bears one behind it.
+void TemplateDialog::GiveMnemonics() {
+  for (const RowTemplate& row : template_->rows) {
+    if (row.controls.front().kind != ControlKind::Close) continue;
+    auto& close = Item<QPushButton>(row.controls.front().id);
+    QString text = close.text();
+    if (text.contains(QLatin1Char('&'))) continue;
+    close.setAccessibleName(text);
+    const auto letter = text.indexOf(QLatin1Char('C'), 0, Qt::CaseInsensitive);
+    close.setText(letter < 0 ? text + QStringLiteral("(&C)")
+                             : text.insert(letter, QLatin1Char('&')));
+  }
+}
+
+// A pop-up that the screen has no room for scrolls its rows; Close stays in sight.
+void TemplateDialog::FitToScreen() {
+  if (!isWindow() || layout() == nullptr || scroll_ != nullptr) return;
+  const QSize wanted = layout()->totalSizeHint();
+  if (wanted == wanted.boundedTo(RoomOnScreen(*this))) return;
+  auto* rows = new QWidget(this);
+  rows->setLayout(layout());  // the controls come along
+  auto* frame = new QVBoxLayout(this);
+  frame->addWidget(scroll_ = new FittedScroll(rows, this));
+  for (std::size_t i = 0; i < rows_.size(); ++i) {
+    const ControlTemplate& close = template_->rows[i].controls.front();
+    if (close.kind != ControlKind::Close) continue;
+    rows_[i].grid->setRowMinimumHeight(rows_[i].gridRow, 0);
+    rows_[i].grid = nullptr;
+    frame->addWidget(GetDlgItem(close.id), 0, Qt::AlignRight);
+  }
+  frame->activate();
+  const QSize outside = frame->totalSizeHint() - scroll_->sizeHint();
+  resize(FittedToScreen(*this, rows->layout()->totalSizeHint() + outside));
+}
+
+bool TemplateDialog::IsWayOut(const QWidget& target) const {
+  for (const QWidget* part = &target; part != nullptr && part != this;
+       part = part->parentWidget()) {
+    if (qobject_cast<const TemplateDialog*>(part) != nullptr) return false;  // a page
+    const bool isControl = std::ranges::any_of(
+        controls_, [part](const auto& control) { return control.second == part; });
+    if (isControl) return std::ranges::count(waysOut_, part) > 0;
+  }
+  return true;
+}
+
+QWidget* TemplateDialog::GetDlgItem(int id) const {
+  const auto found = controls_.find(id);
+  return found == controls_.end() ? nullptr : found->second;
+}
+
+void TemplateDialog::NoSuchControl(int id) const {
+  qFatal("dialog %d has no control %d of the kind asked for", templateNumber_, id);
+}
+
+TemplateDialog::PlacedRow* TemplateDialog::RowOf(int id) {
+  QWidget* control = GetDlgItem(id);
+  const auto row = std::ranges::find_if(rows_, [control](const PlacedRow& candidate) {
+    return std::ranges::find(candidate.controls, control) != candidate.controls.end();
+  });
+  return control == nullptr || row == rows_.end() ? nullptr : &*row;
+}
+
+void TemplateDialog::ShowRow(int id, bool present) {
+  PlacedRow* row = RowOf(id);
+  if (row == nullptr) NoSuchControl(id);
+  row->present = present;
+  for (QWidget* control : row->controls) control->setVisible(present);
+  if (row->grid != nullptr) row->grid->setRowMinimumHeight(row->gridRow, present ? pitch_ : 0);
+}
+
+QRect TemplateDialog::RowRect(int id) {
+  QRect rect;
+  if (const PlacedRow* row = RowOf(id); row != nullptr) {
+    for (const QWidget* control : row->controls) rect = rect.united(control->geometry());
+  }
+  return rect;
+}
+
+void TemplateDialog::GreyCaption(int id) {
+  const PlacedRow* row = RowOf(id);
+  if (row == nullptr) return;
+  std::vector<QWidget*> captions;
+  bool operable = false;
+  bool enabled = false;
+  for (QWidget* control : row->controls) {
+    if (qobject_cast<QLabel*>(control) != nullptr) {
+      captions.push_back(control);
+    } else if (qobject_cast<QLineEdit*>(control) == nullptr && !control->isHidden()) {
+      operable = true;
+      enabled = enabled || control->isEnabledTo(this);
+    }
+  }
+  if (!operable) return;
+  for (QWidget* caption : captions) caption->setEnabled(enabled);
+}
+
+void TemplateDialog::ShowNotice(const QString& text) {
+  auto* notice = new QLabel(text, this);
+  notice->setMinimumHeight(FromDialogUnits(0, template_->rulerHeight).height());  // a row's place
+  controls_[kNoticeId] = notice;
+  auto* left = static_cast<QGridLayout*>(layout()->itemAt(0)->layout());
+  left->addWidget(notice, 0, 0, 1, RowColumn::Count, Qt::AlignTop | Qt::AlignLeft);
+}
+
+void TemplateDialog::PlaceBesideClose(QWidget& widget) {
+  for (std::size_t i = 0; i < rows_.size(); ++i) {
+    if (template_->rows[i].controls.front().kind != ControlKind::Close) continue;
+    rows_[i].grid->addWidget(&widget, rows_[i].gridRow, RowColumn::Label, 1, RowColumn::Count,
+                             Qt::AlignVCenter | Qt::AlignLeft);
+  }
+}
+
+QSize TemplateDialog::FromDialogUnits(int width, int height) const {
+  // Shaping the alphabet costs more than making several controls: once a font will do.
+  static QString measuredFont;
+  static QSize base;
+  if (const QString key = font().key(); key != measuredFont) {
+    const QFontMetrics metrics(font());
+    const int alphabet = metrics.horizontalAdvance(
+        QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz"));
+    base = {(alphabet / 26 + 1) / 2, metrics.height()};
+    measuredFont = key;
+  }
+  return {width * base.width() / 4, height * base.height() / 8};
+}
+
+QSize TemplateDialog::DialogSize() const {
+  QSize size =
+      template_ != nullptr ? FromDialogUnits(template_->width, template_->height) : QSize();
+  if (layout() != nullptr) size = size.expandedTo(layout()->totalSizeHint());
+  return size;
+}

@@ -76,11 +76,17 @@ public_headers(AdvancedControl
   pages/common/SettingsDialog.h
   pages/picture/PicturePage.h
   pages/rows/RowHost.h
+  pages/rows/RowMemory.h
+  pages/rows/RowNotes.h
   pages/rows/RowView.h
   toolkit/CDialog.h
   toolkit/CWnd.h
   toolkit/DialogTemplate.h
-  toolkit/NotificationMap.h)
+  toolkit/InputDialog.h
+  toolkit/MadeWithNew.h
+  toolkit/NotificationMap.h
+  toolkit/OwnedDialog.h
+  toolkit/TemplateDialog.h)
 target_compile_features(ProjectorCommon PUBLIC cxx_std_20)
 install(TARGETS ${libraries} EXPORT AdvancedControlTargets
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT library

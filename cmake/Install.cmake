@@ -76,6 +76,8 @@ public_headers(AdvancedControl
   pages/common/SettingsDialog.h
   pages/picture/PicturePage.h
   pages/rows/RowHost.h
+  pages/rows/RowMemory.h
+  pages/rows/RowNotes.h
   pages/rows/RowView.h
   toolkit/CDialog.h
   toolkit/CWnd.h

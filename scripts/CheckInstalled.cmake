@@ -121,7 +121,7 @@ foreach(library AdvancedControl ProjectorSettings ProjectorCommon)
   string(REGEX MATCHALL " T [^\n]*" functions "${symbols}")
   # A member stands for its class.
   list(TRANSFORM functions REPLACE "^ T (non-virtual thunk to |virtual thunk to )?" "")
-  list(TRANSFORM functions REPLACE "^((AdvancedControl::)?[^:([]*).*" "\\1")
+  list(TRANSFORM functions REPLACE "^((AdvancedControl::)?[^:([]+).*" "\\1")
   list(TRANSFORM functions PREPEND "${library} ")
   list(APPEND shown ${functions})
 endforeach()

@@ -9,7 +9,7 @@ namespace {
 
 std::optional<Call> ChangeOf(const ListRow& row) { return row.send; }
 std::optional<Call> ChangeOf(const ValueRow& row) {
-  return row.ids.slider == 0 ? row.Stepping(true) : row.Setting();
+  return row.stepsOnly ? row.Stepping(true) : row.Setting();
 }
 std::optional<Call> ChangeOf(const CheckRow& row) { return row.send; }
 std::optional<Call> ChangeOf(const StateRow& row) { return row.turnOn; }

@@ -28,7 +28,7 @@ void ExpectShows(const ListRow& row, int value, const CTabPage& page, const Mode
 
 void ExpectShows(const ValueRow& row, int value, const CTabPage& page, const ModelData&) {
   EXPECT_EQ(page.Item<QLineEdit>(row.ids.field).text(), QString::number(value - row.bias));
-  if (row.ids.slider == 0) return;
+  if (row.stepsOnly) return;
   const auto& slider = page.Item<QSlider>(row.ids.slider);
   EXPECT_TRUE(slider.isEnabled());
   EXPECT_EQ(slider.value(), std::clamp(value - row.bias, slider.minimum(), slider.maximum()));

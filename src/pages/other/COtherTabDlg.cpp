@@ -1,8 +1,8 @@
 #include "pages/other/COtherTabDlg.h"
 
-#include "device/CommandCode.h"
 #include "resources/AdvancedControlResources.h"
 #include "settings/PageTables.h"
+#include "settings/RowUse.h"
 #include "settings/SharedRows.h"
 #include "toolkit/CComboBox.h"
 #include "toolkit/MessageBox.h"
@@ -11,6 +11,7 @@ namespace {
 
 constexpr int kPowerOn = 20100;
 constexpr int kPowerOff = 20101;
+constexpr int kPower = 20102;
 constexpr int kInputSource = 20103;
 
 }  // namespace
@@ -36,14 +37,14 @@ void COtherTabDlg::ShowState(std::optional<int> value) {
 }
 
 void COtherTabDlg::OnBnClickedOtherPowerOn() {
-  const bool accepted = Perform(*projector, Named(PjtOperation::SetPowerOn)).accepted;
+  const Sent sent = SendRow(*projector, Row(kPower).Row(), Model(), 1);
   InitDisp();
-  if (!accepted) ShowError(ErrorText::PowerRefused);
+  if (sent != Sent::Accepted) ShowError(ErrorText::PowerRefused);
 }
 
 void COtherTabDlg::OnBnClickedOtherPowerOff() {
   if (!Ask(ErrorText::PowerOffQuestion)) return;
-  projector->SetPowerOff();
+  SendRow(*projector, Row(kPower).Row(), Model(), 0);
   InitDisp();
   // The command has no result: a projector that is still on, or does not say, tells the refusal.
   if (!runningState_ || runningState_ == shared::kRunning) ShowError(ErrorText::PowerRefused);
@@ -52,7 +53,7 @@ void COtherTabDlg::OnBnClickedOtherPowerOff() {
 void COtherTabDlg::OnCbnSelchangeOtherInput() {
   const auto source = Item<CComboBox>(kInputSource).SelectedValue();
   if (!source) return;
-  const bool accepted = Perform(*projector, Set(CommandCode::InputSource), *source).accepted;
+  const Sent sent = SendRow(*projector, Row(kInputSource).Row(), Model(), *source);
   InitDisp();
-  if (!accepted) ShowError(ErrorText::InputSourceRefused);
+  if (sent != Sent::Accepted) ShowError(ErrorText::InputSourceRefused);
 }

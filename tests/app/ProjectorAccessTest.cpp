@@ -5,29 +5,22 @@
 #include <gtest/gtest.h>
 
 #include "app/profiles/ProjectorAccess.h"
-#include "device/CommandCode.h"
 #include "tests/device/BadProjector.h"
 #include "tests/device/Peer.h"
 #include "tests/support/Programs.h"
 
 namespace {
 
-/// Lets a projector be reached at a port, for so many connections.
-std::vector<Peer::Behaviour> Serving(BadProjector& projector) {
-  return {[&projector](Peer::End& end) {
-    if (!projector.Connect(std::chrono::steady_clock::now())) return;
-    end.Send(projector.greeting);
-    std::string held;
-    for (auto bytes = end.Receive(); !bytes.empty(); bytes = end.Receive()) {
-      held += bytes;
-      for (auto stop = held.find('\r'); stop != std::string::npos; stop = held.find('\r')) {
-        const auto now = std::chrono::steady_clock::now();
-        end.Send(projector.Receive(held.substr(0, stop), now).value_or(""));
-        held.erase(0, stop + 1);
-      }
-    }
-    projector.Close(std::chrono::steady_clock::now());
-  }};
+/// Lets a projector be reached at a port.
+Peer::Behaviour Serving(BadProjector& projector) {
+  return [&projector](Peer::End& end) {
+    using Clock = std::chrono::steady_clock;
+    if (!projector.Connect(Clock::now())) return;
+    Peer::AnswersLines(projector.greeting, [&projector](const std::string& line) {
+      return projector.Receive(line, Clock::now()).value_or("");
+    })(end);
+    projector.Close(Clock::now());
+  };
 }
 
 class PjLinkAccess : public testing::Test {
@@ -73,7 +66,7 @@ class PjLinkAccess : public testing::Test {
   BadProjector projector_;
   int connections_ = 0;  ///< For what was asked last.
   int finished_ = 0;
-  Peer peer_{Way::Tcp, Serving(projector_)};
+  Peer peer_{Way::Tcp, {Serving(projector_)}};
 };
 
 TEST_F(PjLinkAccess, AsksOnlyWhatTheCommandNeedsAndRemembersWhatTheProjectorIs) {

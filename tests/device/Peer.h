@@ -7,6 +7,7 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <poll.h>
 #include <pty.h>
 #include <string>
@@ -69,6 +70,24 @@ class Peer {
         end.Send(texts[i]);
       }
       if (keepsOpen) end.Listen();
+    };
+  }
+
+  /// Sends the greeting, and what `answer` gives for each line; nothing of it closes the connection.
+  static Behaviour AnswersLines(
+      std::string greeting, std::function<std::optional<std::string>(const std::string&)> answer) {
+    return [greeting = std::move(greeting), answer = std::move(answer)](End& end) {
+      end.Send(greeting);
+      std::string held;
+      for (auto bytes = end.Receive(); !bytes.empty(); bytes = end.Receive()) {
+        held += bytes;
+        for (auto stop = held.find('\r'); stop != std::string::npos; stop = held.find('\r')) {
+          const auto reply = answer(held.substr(0, stop));
+          if (!reply) return;
+          end.Send(*reply);
+          held.erase(0, stop + 1);
+        }
+      }
     };
   }
 

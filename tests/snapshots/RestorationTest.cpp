@@ -6,13 +6,12 @@
 #include <set>
 #include <thread>
 
-#include <QTcpServer>
-#include <QTcpSocket>
 #include <gtest/gtest.h>
 
 #include "device/CommandCode.h"
 #include "device/TcpChannel.h"
 #include "simulator/WireResponder.h"
+#include "tests/device/Peer.h"
 #include "tests/snapshots/DisturbedProjector.h"
 
 namespace {
@@ -74,32 +73,22 @@ TEST(Restoration, BringsEveryProjectorBackAndUndoesItself) {
   }
 }
 
-/// Serves a projector over TCP until told to end. Where an answer gets lost, the connection does.
-void Serve(const std::stop_token& end, ProjectorChannel& projector,
-           std::atomic<std::uint16_t>& port) {
-  QTcpServer server;
-  server.listen(QHostAddress::LocalHost);
-  port = server.serverPort();
-  while (!end.stop_requested()) {
-    if (!server.waitForNewConnection(10)) continue;
-    const std::unique_ptr<QTcpSocket> socket(server.nextPendingConnection());
+/// Serves a projector. Where an answer gets lost, the connection does.
+Peer::Behaviour Serves(ProjectorChannel& projector) {
+  return [&projector](Peer::End& end) {
     WireResponder responder(projector);
-    while (!end.stop_requested() && socket->state() == QTcpSocket::ConnectedState) {
-      socket->waitForReadyRead(10);
+    for (auto bytes = end.Receive(); !bytes.empty(); bytes = end.Receive()) {
       Wire::Decoder replies;
-      replies.Add(responder.Receive(socket->readAll().toStdString()));
-      std::string bytes;
-      bool isLost = false;
-      while (const auto frame = isLost ? std::nullopt : replies.Next()) {
+      replies.Add(responder.Receive(bytes));
+      while (const auto frame = replies.Next()) {
         const auto* reply = std::get_if<Wire::Reply>(&frame->message);
-        isLost = reply != nullptr && reply->status == Wire::Status::Unanswered;
-        if (!isLost) Wire::Append(bytes, *frame);
+        if (reply != nullptr && reply->status == Wire::Status::Unanswered) return;
+        std::string answer;
+        Wire::Append(answer, *frame);
+        end.Send(answer);
       }
-      socket->write(QByteArray::fromStdString(bytes));
-      socket->flush();
-      if (isLost) socket->disconnectFromHost();
     }
-  }
+  };
 }
 
 /// Holds all that is told of a restoration against the projector, which had `before` at first.
@@ -136,13 +125,11 @@ void ExpectTruthFromAfar(const ProjectorProfile& profile, const Disturbed::Troub
   before.Read();
   room.channel->count = 0;
   room.channel->trouble = trouble;
-  std::atomic<std::uint16_t> port = 0;
-  std::jthread server(Serve, std::ref(*room.channel), std::ref(port));
-  while (port == 0) std::this_thread::yield();
-  ProjectorAccess far(profile, std::make_shared<TcpChannel>("127.0.0.1", port));
+  auto peer = std::make_unique<Peer>(Way::Tcp, std::vector{Serves(*room.channel)});
+  ProjectorAccess far(profile, std::make_shared<TcpChannel>("127.0.0.1", peer->port));
   const Restoration restoration = Restore(far.Settings(), far.Connection(), wanted, nullptr,
                                           [&far] { return !far.Channel().IsGone(); });
-  server = {};
+  peer.reset();
   ExpectTruth(room, restoration, before);
   room.Restore(wanted);
   EXPECT_EQ(room.Take().settings, wanted.settings);

@@ -89,10 +89,7 @@ class BadProjector {
       if (now >= change.first) states[state] = change.second;
     }
     std::erase_if(coming_, [&](const auto& change) { return now >= change.second.first; });
-    if (name == "SVOL") {
-      volume += parameter == "1" ? 1 : -1;
-      return "OK";
-    }
+    if (name == "SVOL") return "OK";
     const auto state = states.find(name);
     if (parameter.starts_with('?')) {
       if (state != states.end()) return state->second;
@@ -109,9 +106,6 @@ class BadProjector {
   PjLinkTime openAgain_{};
   std::optional<PjLinkTime> begun_;
   std::map<std::string, std::pair<PjLinkTime, std::string>> coming_;
-
- public:
-  int volume = 0;
 };
 
 /// Drives a session with that projector in a time of its own, which goes on only while it waits.

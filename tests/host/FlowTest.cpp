@@ -36,8 +36,7 @@ TEST_F(FlowTest, ClosingActsAtOnceInRefreshesAndChangesAndSendsNothingMore) {
     for (const std::string moment : {"opening", "refresh", "change"}) {
       SCOPED_TRACE(name + " while " + moment);
       if (moment != "opening") {
-        Open();
-        ClickTab(kPictureTab);
+        Open(kPictureTab);
       }
       projector_->Take();
       std::size_t sent = 0;
@@ -69,8 +68,7 @@ TEST_F(FlowTest, ClosingActsAtOnceInRefreshesAndChangesAndSendsNothingMore) {
 }
 
 TEST_F(FlowTest, ClosingAPopUpLeavesThePopUpAlone) {
-  Open();
-  ClickTab(kPictureTab);
+  Open(kPictureTab);
   InTheWait([] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
   Page().Click(kCustomGamma);
   EXPECT_TRUE(dialog_.isVisible());
@@ -177,8 +175,7 @@ TEST_F(SilentProjectorTest, NoAnswerIsToldAndTriedAgain) {
 }
 
 TEST_F(FlowTest, ABusyProjectorAndAChangeThatIsNotYetSoAreTold) {
-  Open();
-  ClickTab(kPictureTab);
+  Open(kPictureTab);
   projector_->late = true;
   Page().Choose(kIris, 1);
   EXPECT_EQ(Status(), QStringLiteral("Accepted, not yet so"));
@@ -195,8 +192,7 @@ TEST_F(FlowTest, ABusyProjectorAndAChangeThatIsNotYetSoAreTold) {
 }
 
 TEST_F(SilentProjectorTest, APopUpTellsThatNobodyAnswersAndTriesAgain) {
-  Open();
-  ClickTab(kPictureTab);
+  Open(kPictureTab);
   projector_->Pace(kForEver);
   QTimer look;
   look.callOnTimeout([&] {
@@ -238,8 +234,7 @@ TEST_F(FlowTest, RowsSayWhatThereIsToKnow) {
 }
 
 TEST_F(FlowTest, AHeldButtonStepsOnceForEachReply) {
-  Open();
-  ClickTab(kPictureTab);
+  Open(kPictureTab);
   const int before = Page().SliderAt(kBrightness);
   auto& plus = Page().Item<QPushButton>(kBrightnessPlus);
   projector_->Take();
@@ -260,8 +255,7 @@ TEST_F(FlowTest, AHeldButtonStepsOnceForEachReply) {
 }
 
 TEST_F(FlowTest, ADragTellsWhatLettingGoWouldSend) {
-  Open();
-  ClickTab(kPictureTab);
+  Open(kPictureTab);
   auto& slider = Page().Item<CSliderCtrl>(kBrightness);
   const QString number = Page().Text(kBrightnessField);
   const auto bubbles = [this] {

@@ -166,14 +166,11 @@ void ExpectToRunAgain(const std::function<CAdvanceDlg&(QWidget*)>& make) {
   }
 }
 
-TEST(OwnerOfALocalDialog, DiesAndTheDialogIsThereToBeRunAgain) {
-  std::optional<CAdvanceDlg> dialog;
-  ExpectToRunAgain([&dialog](QWidget* owner) -> CAdvanceDlg& { return dialog.emplace(owner); });
-}
-
-TEST(OwnerOfADialogInASmartPointer, DiesAndTheDialogIsThereToBeRunAgain) {
+TEST(OwnerOfALocalDialogOrOneInASmartPointer, DiesAndTheDialogIsThereToBeRunAgain) {
+  std::optional<CAdvanceDlg> local;
+  ExpectToRunAgain([&](QWidget* owner) -> CAdvanceDlg& { return local.emplace(owner); });
   std::unique_ptr<CAdvanceDlg> dialog;
-  ExpectToRunAgain([&dialog](QWidget* owner) -> CAdvanceDlg& {
+  ExpectToRunAgain([&](QWidget* owner) -> CAdvanceDlg& {
     dialog = std::make_unique<CAdvanceDlg>(owner);
     dialog->SetDeletedWithOwner(false);
     return *dialog;
@@ -183,8 +180,7 @@ TEST(OwnerOfADialogInASmartPointer, DiesAndTheDialogIsThereToBeRunAgain) {
 TEST(OwnerOfADialogWithoutParent, DiesAndTakesWhatIsOverItDown) {
   for (const bool box : {true, false}) {
     Host host;
-    host.Owner()->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(host.Owner()));
+    Activate(*host.Owner());
     CAdvanceDlg dialog;
     host.Prepare(dialog);
     WhenIdle(dialog, [&] {

@@ -35,10 +35,10 @@ class PacedDialog : public testing::Test {
   }
   ~PacedDialog() override { projector_->Pace(std::chrono::milliseconds(0)); }
 
-  void Open() {
+  void Open(int tab = 0) {
     ASSERT_TRUE(dialog_.CreateShown());
-    dialog_.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog_));
+    Activate(dialog_);
+    if (tab != 0) ClickTab(tab);
   }
   QTabBar& Tabs() { return *dialog_.findChild<QTabBar*>(); }
   DialogDriver Page() { return DialogDriver(*dialog_.ShownPage()); }

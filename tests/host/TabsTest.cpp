@@ -95,9 +95,7 @@ TEST(Keyboard, GoesRoundTheTabsAndClosesTheDialogButNeverHidesItsPage) {
                                                {Qt::Key_Escape, Qt::NoModifier, true}}) {
     SCOPED_TRACE(key);
     ASSERT_TRUE(dialog.Create());
-    dialog.show();
-    dialog.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    Activate(dialog);
     open.SelectTab(1);
     (onPage ? open.Page().GetDlgItem(20142) : dialog.GetDlgItem(1))->setFocus();
     press(key, modifiers);

@@ -110,8 +110,7 @@ TEST(PicturePages, WithTwoDialogsOpenAPopUpBelongsToTheOneInUse) {
   wide.RangeText(RangeIndex::GammaPoint) = "78,178";
   OpenDialog first(wide, 1, PictureTest::Custom);
   OpenDialog second(PictureModel(), 1, PictureTest::Custom);
-  first.Dialog().activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&first.Dialog()));
+  Activate(first.Dialog());
   WhenModal("CGammaDlg", [&](CDialog& dialog) {
     EXPECT_EQ(dialog.Owner(), &first.Dialog());
     EXPECT_EQ(dialog.Item<QSlider>(20181).maximum(), 50);

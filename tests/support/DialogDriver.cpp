@@ -61,6 +61,12 @@ void Wheel(QWidget& control, int notches) {
   QApplication::sendEvent(&control, &event);
 }
 
+void Activate(QWidget& window) {
+  window.show();
+  window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window)) << "it did not come up";
+}
+
 bool DialogDriver::IsEnabled(int id) const { return Item<QWidget>(id).isEnabled(); }
 
 QString DialogDriver::Text(int id) const {
@@ -87,9 +93,7 @@ void Open(CAdvanceDlg& dialog, const CModelInfo2& model,
   dialog.CopyData(&model, 0);
   dialog.Projector().SetChannel(std::move(projector));
   EXPECT_TRUE(dialog.Create());
-  dialog.show();
-  dialog.activateWindow();
-  EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog)) << "the dialog did not come up";
+  Activate(dialog);
 }
 
 OpenDialog::OpenDialog(const CModelInfo2& model, int tab,

@@ -18,6 +18,8 @@
 #include "toolkit/CComboBox.h"
 
 void Wheel(QWidget& control, int notches);
+/// Shows a window in front of the others.
+void Activate(QWidget& window);
 
 /// Acts on a dialog's controls as a user does: with mouse, keys and wheel on the real widgets.
 class DialogDriver {

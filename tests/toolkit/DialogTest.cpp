@@ -45,9 +45,7 @@ class SampleDialog : public CDialog {
 
   void Open() {
     ASSERT_TRUE(Create());
-    show();
-    activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(this));
+    Activate(*this);
   }
 
   int presses = 0;

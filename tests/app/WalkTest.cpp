@@ -81,10 +81,9 @@ class Walk {
         modal != nullptr && (choice < 10 || depth_ > 1)) {
       return modal->done(QDialog::Rejected);
     }
-    const std::vector<CAdvanceDlg*> dialogs = Dialogs();
+    std::vector<CAdvanceDlg*> dialogs = Dialogs();
     if (dialogs.empty()) return Open();
-    CAdvanceDlg& dialog =
-        *dialogs[static_cast<std::size_t>(Pick(static_cast<int>(dialogs.size())))];
+    CAdvanceDlg& dialog = *Any(dialogs);
     auto* tabs = dialog.findChild<QTabBar*>();
     const int tab = Pick(tabs->count());
     if (choice == 7) {
@@ -156,11 +155,8 @@ class Walk {
     if (owner == nullptr) return;
     ++died;
     diedInMidCommand += depth_ > 1;
-    if (Pick(2) == 0) {
-      delete owner;
-    } else {
-      owner->deleteLater();
-    }
+    if (Pick(2) == 0) return delete owner;
+    owner->deleteLater();
   }
 
   void Use(CTabPage& page) {
@@ -169,10 +165,8 @@ class Walk {
     static constexpr Qt::Key keys[] = {Qt::Key_Up, Qt::Key_Down, Qt::Key_Home, Qt::Key_End};
     QWidget* control = Any(usable);
     if (auto* button = qobject_cast<QAbstractButton*>(control)) {
-      if (Pick(2) == 0)
-        button->click();  // as a screen reader does
-      else
-        QTest::mouseClick(button, Qt::LeftButton);
+      // The other is what a screen reader does.
+      Pick(2) != 0 ? QTest::mouseClick(button, Qt::LeftButton) : button->click();
     } else {
       QTest::keyClick(control, keys[Pick(std::size(keys))]);
     }

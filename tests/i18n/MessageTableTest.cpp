@@ -185,16 +185,4 @@ TEST(MessageTable, ReadsFilesAndRefusesWhatIsNone) {
   fs::remove_all(folder);
 }
 
-TEST(MessageTable, BuiltModulesHoldTheirLanguages) {
-  const auto english = MessageTable::Read(TEST_CATALOG_DIR "/mcdll.dll");
-  const auto chinese = MessageTable::Read(TEST_CATALOG_DIR "/mcschn.dll");
-  ASSERT_TRUE(english && chinese);
-  EXPECT_EQ(chinese->Count(), 2 * english->Count());
-  constexpr std::uint32_t kStatusTab = 0x0104009C;
-  EXPECT_EQ(TextIn(*english, 1033, kStatusTab), "Status\r\n");
-  EXPECT_FALSE(english->Find(2052, kStatusTab));
-  EXPECT_EQ(TextIn(*chinese, 1033, kStatusTab), TextIn(*chinese, 2052, kStatusTab));
-  EXPECT_NE(TextIn(*chinese, 2052, kStatusTab), "Status\r\n");
-}
-
 }  // namespace

@@ -128,7 +128,10 @@ Made Judge(const Work& work, ProjectorAccess& projector, const ModelSetting& set
   if (work.isInterrupted() && setting.IsStepped() && now) {
     return {"stopped", "stopped at " + work.texts.Value(setting, *now)};
   }
-  if (after.pending > before.pending) return {"pending", "accepted, but not so yet" + isNow};
+  const bool isAnswered = projector.Channel().HasAnswered();
+  // Of one that answers no more nobody knows.
+  if (after.pending > before.pending && isAnswered)
+    return {"pending", "accepted, but not so yet" + isNow};
   if (after.uncertain > before.uncertain) {
     return {"unconfirmed", NoAnswerText(projector) + ", it may have been changed" + isNow,
             ExitCode::NoAnswer};
@@ -148,7 +151,6 @@ Made Judge(const Work& work, ProjectorAccess& projector, const ModelSetting& set
   if (!accepted) return {"refused", "refused" + isNow, ExitCode::Refused};
   if (now) return {"refused", "refused" + isNow, ExitCode::Refused};
   if (!setting.readable) return {"done"};
-  const bool isAnswered = projector.Channel().HasAnswered();
   return {"unconfirmed", std::string("accepted, but ") + ReasonOf(projector, kNotReadable),
           isAnswered ? ExitCode::Refused : ExitCode::NoAnswer};
 }

@@ -24,6 +24,9 @@ struct Made {
 };
 
 /// The changes that the words ask for; anything wrong is complained of. Those that depend on what
+/// Of a setting that cannot be read.
+constexpr int kMostSteps = 4096;
+
 /// the projector will tell are left out.
 std::vector<Change> ChangesOf(const Work& work, const Target& target, Report& report) {
   std::vector<Change> changes;
@@ -49,6 +52,8 @@ std::vector<Change> ChangesOf(const Work& work, const Target& target, Report& re
     } else if (target.OnlySteps(*setting) && !typed->relative) {
       complain("'" + word + "' is no step like +1 or -1, and PJLink has nothing else for it");
     } else {
+    } else if (target.OnlySteps(*setting) && std::abs(typed->amount) > kMostSteps) {
+      complain("'" + word + "' is more than " + std::to_string(kMostSteps) + " steps");
       changes.push_back({setting, *typed, word});
     }
   }
@@ -159,12 +164,15 @@ Made Judge(const Work& work, ProjectorAccess& projector, const ModelSetting& set
 Made MakeSteps(const Change& change, const Work& work, ProjectorAccess& projector) {
   const int wanted = change.typed.amount;
   const CPjtInterface::Tally before = projector.Connection().Sent();
-  const int done = projector.StepUnread(*change.setting, wanted);
+  const int done =
+      projector.StepUnread(*change.setting, wanted, [&work] { return !work.isInterrupted(); });
   if (done == std::abs(wanted)) return {"done"};
-  Made made = Judge(work, projector, *change.setting, wanted, {}, before, false,
-                    projector.Connection().Sent());
-  made.text += " after " + std::to_string(done) + " of " + std::to_string(std::abs(wanted)) +
-               (wanted == 1 || wanted == -1 ? " step" : " steps");
+  const std::string accepted = std::to_string(done) + " of " + std::to_string(std::abs(wanted)) +
+                               (std::abs(wanted) == 1 ? " step" : " steps") + " accepted";
+  const CPjtInterface::Tally after = projector.Connection().Sent();
+  if (after.commands - before.commands == done) return {"stopped", "stopped, " + accepted};
+  Made made = Judge(work, projector, *change.setting, wanted, {}, before, false, after);
+  made.text += "; " + accepted;
   return made;
 }
 

@@ -61,10 +61,11 @@ bool ProjectorAccess::HasSteps(const ModelSetting& setting) {
          FamilyOf(row->Stepping(true, 0).operation) == OperationFamily::GenericStepper;
 }
 
-int ProjectorAccess::StepUnread(const ModelSetting& setting, int steps) {
+int ProjectorAccess::StepUnread(const ModelSetting& setting, int steps,
+                                const std::function<bool()>& goesOn) {
   if (!HasSteps(setting)) return 0;
   const Call step = std::get<ValueRow>(*setting.row).Stepping(steps > 0, 0);
   int done = 0;
-  while (done < std::abs(steps) && Perform(connection_, step).accepted) ++done;
+  while (done < std::abs(steps) && goesOn() && Perform(connection_, step).accepted) ++done;
   return done;
 }

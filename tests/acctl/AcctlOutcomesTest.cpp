@@ -263,8 +263,20 @@ TEST(AcctlPjLink, StepsTheVolumeThatNobodyCanRead) {
     return Acctl(projector.At({"set", "Projector 4-24", "setup.volume", value}));
   };
   EXPECT_THAT(set("+2"), Ends(0, ""));
-  EXPECT_THAT(set("+2"), Ends(1, HasSubstr("setup.volume: refused after 0 of 2 steps\n")));
+  EXPECT_THAT(set("+2"), Ends(1, HasSubstr("setup.volume: refused; 0 of 2 steps accepted\n")));
   EXPECT_THAT(set("5"), Ends(2, HasSubstr("setup.volume: '5' is no step like +1 or -1")));
+  EXPECT_THAT(set("+4097"), Ends(2, HasSubstr("'+4097' is more than 4096 steps")));
+}
+
+TEST(AcctlPjLink, StopsSteppingWhereItIsInterrupted) {
+  QProcess process;
+  ScriptedPjLink projector([&process](const std::string& request) -> std::string {
+    if (request == "CLSS ?") return "2";
+    ::kill(static_cast<pid_t>(process.processId()), SIGTERM);
+    return "OK";
+  });
+  process.start(ACCTL_PROGRAM, projector.At({"set", "Projector 4-24", "setup.volume", "+4000"}));
+  EXPECT_THAT(Finish(process), Ends(128 + SIGTERM, HasSubstr("setup.volume: stopped, ")));
 }
 
 TEST(AcctlPjLink, TellsAcceptedAndNotYetSoBusyAndUnconfirmedApart) {

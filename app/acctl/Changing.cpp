@@ -14,6 +14,7 @@ struct Change {
   const ModelSetting* setting;
   TypedValue typed;
   std::string word;
+  std::optional<int> aim{};  ///< Of the first one, once it is known; others may drag theirs along.
 };
 
 /// What became of a change, for scripts and, behind the key, for people; no text where all is well.
@@ -23,10 +24,10 @@ struct Made {
   int code = ExitCode::Done;
 };
 
-/// The changes that the words ask for; anything wrong is complained of. Those that depend on what
 /// Of a setting that cannot be read.
 constexpr int kMostSteps = 4096;
 
+/// The changes that the words ask for; anything wrong is complained of. Those that depend on what
 /// the projector will tell are left out.
 std::vector<Change> ChangesOf(const Work& work, const Target& target, Report& report) {
   std::vector<Change> changes;
@@ -51,9 +52,9 @@ std::vector<Change> ChangesOf(const Work& work, const Target& target, Report& re
       complain("'" + word + "' is not one of: " + work.texts.Values(*setting));
     } else if (target.OnlySteps(*setting) && !typed->relative) {
       complain("'" + word + "' is no step like +1 or -1, and PJLink has nothing else for it");
-    } else {
     } else if (target.OnlySteps(*setting) && std::abs(typed->amount) > kMostSteps) {
       complain("'" + word + "' is more than " + std::to_string(kMostSteps) + " steps");
+    } else {
       changes.push_back({setting, *typed, word});
     }
   }
@@ -85,12 +86,12 @@ std::optional<int> Aim(const Change& change, const Work& work, ProjectorAccess& 
 
 /// Complains of steps that lead nowhere. What a setting kept for each input source has behind a
 /// change of the source is only known then.
-void CheckSteps(const std::vector<Change>& changes, const Work& work, ProjectorAccess& projector,
+void CheckSteps(std::vector<Change>& changes, const Work& work, ProjectorAccess& projector,
                 Report& report) {
   const Progress progress = ProgressOf(work, projector);
   std::map<const ModelSetting*, std::optional<int>> expected;
   bool ofOtherSource = false;
-  for (const Change& change : changes) {
+  for (Change& change : changes) {
     const ModelSetting& setting = *change.setting;
     ofOtherSource = ofOtherSource || setting.SelectsInput();
     if (ofOtherSource && setting.IsPerSource()) continue;
@@ -102,6 +103,7 @@ void CheckSteps(const std::vector<Change>& changes, const Work& work, ProjectorA
       const auto source = projector.Settings().PresentSource(projector.Connection(), setting);
       value = Aim(change, work, projector, source, value, ExitCode::WrongUse, report);
     }
+    if (&change == &changes.front()) change.aim = value;
   }
 }
 
@@ -185,7 +187,8 @@ std::optional<Made> Make(const Change& change, const Work& work, ProjectorAccess
   CPjtInterface& connection = projector.Connection();
   const auto source = settings.PresentSource(connection, setting);
   // Others were changed already, so that wrong use would say too much.
-  const auto value = Aim(change, work, projector, source, {}, ExitCode::Refused, report);
+  const auto value =
+      change.aim ? change.aim : Aim(change, work, projector, source, {}, ExitCode::Refused, report);
   if (!value) return {};
   const CPjtInterface::Tally before = connection.Sent();
   const bool accepted = settings.Change(

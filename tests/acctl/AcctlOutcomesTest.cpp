@@ -303,6 +303,14 @@ TEST(AcctlPjLink, TellsAcceptedAndNotYetSoBusyAndUnconfirmedApart) {
     return isGone ? "hang up" : others(request);
   };
   EXPECT_EQ(outcome(dies, 3, ", it may have been changed\n"), "unconfirmed");
+  const auto fallsSilent = [](const std::string& request) {
+    return request == "AVMT ?" ? "" : "OK";
+  };
+  EXPECT_EQ(outcome(fallsSilent, 3, "accepted, but no answer\n"), "unconfirmed");
+
+  ScriptedPjLink stepped(ProjectorBut("AVMT 21", "ERR2"));
+  EXPECT_EQ(any.Run(stepped, {"set", "Any", "other.mute", "+1"}).exitCode, 1);
+  EXPECT_EQ(stepped.Count("AVMT ?"), 2);  // where it begins, and what came of it
 
   const QTemporaryDir folder;
   const QString file = folder.filePath("mute.json");

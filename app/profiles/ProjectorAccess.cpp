@@ -49,7 +49,8 @@ void ProjectorAccess::AskForInputs(InputsNeeded needed) {
     std::tie(inputs, areTold) = pjLink_->AskForInputs();
   }
   lacksInputs_ = !areTold;
-  if (lacksInputs_ && !pjLink_->HasAnswered()) channel_->GiveUp();
+  // One that has let us in may answer everything else.
+  if (lacksInputs_ && !pjLink_->HasGreeted()) channel_->GiveUp();
   if (inputs.empty()) return;
   model_.MySourceList = SourcesOf(inputs);
   settings_ = ModelSettings(MakeModelData(model_));

@@ -341,6 +341,10 @@ TEST(AcctlPjLink, TellsInputsThatWereNotToldAsNotReadWithExitCode3) {
   EXPECT_THAT(any.Run(projector, {"apply", file, "Any"}), isNotRead);
   EXPECT_THAT(any.Run(projector, {"set", "Any", "other.input-source", "31"}), isNotRead);
   EXPECT_EQ(projector.Count("INPT 31"), 0);
+  // The class is remembered, so that it is the first thing that is asked.
+  ScriptedPjLink silent(ProjectorBut("INST ?", ""));
+  ASSERT_THAT(any.Run(silent, {"get", "Any", "status.input-source"}), Ends(0, ""));
+  EXPECT_THAT(any.Run(silent, {"set", "Any", "other.input-source", "31"}, "3"), isNotRead);
 }
 
 }  // namespace

@@ -24,8 +24,12 @@ struct Made {
   int code = ExitCode::Done;
 };
 
-/// Of a setting that cannot be read.
 constexpr int kMostSteps = 4096;
+
+/// Whether only the projector knows how far it can be stepped.
+bool IsUnbounded(const Target& target, const ModelSetting& setting) {
+  return target.OnlySteps(setting) || (setting.IsStepped() && !setting.range);
+}
 
 /// The changes that the words ask for; anything wrong is complained of. Those that depend on what
 /// the projector will tell are left out.
@@ -52,7 +56,8 @@ std::vector<Change> ChangesOf(const Work& work, const Target& target, Report& re
       complain("'" + word + "' is not one of: " + work.texts.Values(*setting));
     } else if (target.OnlySteps(*setting) && !typed->relative) {
       complain("'" + word + "' is no step like +1 or -1, and PJLink has nothing else for it");
-    } else if (target.OnlySteps(*setting) && std::abs(typed->amount) > kMostSteps) {
+    } else if (typed->relative && IsUnbounded(target, *setting) &&
+               std::abs(typed->amount) > kMostSteps) {
       complain("'" + word + "' is more than " + std::to_string(kMostSteps) + " steps");
     } else {
       changes.push_back({setting, *typed, word});

@@ -304,9 +304,9 @@ TEST(AcctlPjLink, TellsAcceptedAndNotYetSoBusyAndUnconfirmedApart) {
   };
   EXPECT_EQ(outcome(dies, 3, ", it may have been changed\n"), "unconfirmed");
   const auto fallsSilent = [](const std::string& request) {
-    return request == "AVMT ?" ? "" : "OK";
+    return request == "AVMT ?" ? "hang up" : "OK";
   };
-  EXPECT_EQ(outcome(fallsSilent, 3, "accepted, but no answer\n"), "unconfirmed");
+  EXPECT_EQ(outcome(fallsSilent, 3, "accepted, but no answer (connection lost)\n"), "unconfirmed");
 
   ScriptedPjLink stepped(ProjectorBut("AVMT 21", "ERR2"));
   EXPECT_EQ(any.Run(stepped, {"set", "Any", "other.mute", "+1"}).exitCode, 1);

@@ -33,8 +33,7 @@ struct Snapshot {
   /// Restored before all others and strictly in order, so that a setting may occur several times:
   /// the values that belong to other sources and modes.
   std::vector<SavedSetting> beforehand{};
-  bool isUndo =
-      false;  ///< The values that a restoration replaced; only meaningful for that projector.
+  bool isUndo = false;  ///< Holds what a restoration replaced; only for the same projector.
 
   friend bool operator==(const Snapshot&, const Snapshot&) = default;
 };

@@ -263,7 +263,7 @@ struct PageTable {
   std::span<const ModelRows> models{};
   Unlisted unlisted = Unlisted::AllRows;
   bool refusedIsReadBack = false;  ///< A refused value is read back before the error is shown.
-  bool captionsStay = false;       ///< A row that cannot be read keeps its caption black.
+  bool captionsStay = false;       ///< The caption of a row that cannot be read is not greyed.
 };
 
 /// The row's key, the number of its caption (0 if it only has a key), and the control by which it

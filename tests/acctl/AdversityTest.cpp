@@ -225,7 +225,7 @@ TEST(Adversity, APasswordNeedNotBeAnArgument) {
 }
 
 TEST(Adversity, TheSimulatorServesOnAfterAFailedAcceptAndBehindIdleConnections) {
-  const auto connect = [](const Simulator& simulator) {
+  [[maybe_unused]] const auto connect = [](const Simulator& simulator) {
     return Shell("exec 3<> /dev/tcp/127.0.0.1/\"$1\" && read -t 60 -n 1 -u 3; [[ $? -le 1 ]]",
                  {simulator.Address("tcp").section(':', -1)});
   };

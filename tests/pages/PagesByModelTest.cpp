@@ -165,69 +165,48 @@ std::string WithTexts(const std::string& listing) {
   return text;
 }
 
-using Lines = std::vector<std::string>;
-
-// By heading, the lines below it.
-std::map<std::string, Lines> Blocks(const std::string& listing) {
-  std::map<std::string, Lines> blocks;
-  std::istringstream text(listing);
-  std::string heading, line;
-  while (std::getline(text, line)) {
-    if (line.starts_with(' ')) {
-      blocks[heading].push_back(line);
-    } else if (!line.empty()) {
-      blocks[heading = line];
-    }
-  }
-  return blocks;
-}
-
 // The lines that were expected (-) or found (+) alone, below those that they are indented under.
-std::string Difference(const Lines& expected, const Lines& found) {
-  std::vector common(expected.size() + 1, std::vector<int>(found.size() + 1));  // from there on
-  for (std::size_t i = expected.size(); i-- > 0;) {
-    for (std::size_t j = found.size(); j-- > 0;) {
+std::string Difference(const QStringList& expected, const QStringList& found) {
+  const qsizetype ends[] = {expected.size(), found.size()};
+  // How many lines are common from there on.
+  std::vector common(ends[0] + 1, std::vector<int>(ends[1] + 1));
+  for (qsizetype i = ends[0]; i-- > 0;) {
+    for (qsizetype j = ends[1]; j-- > 0;) {
       common[i][j] = expected[i] == found[j] ? common[i + 1][j + 1] + 1
                                              : std::max(common[i + 1][j], common[i][j + 1]);
     }
   }
-  std::string text;
-  Lines above;
-  const auto add = [&](char sign, const std::string& line) {
-    const std::size_t indent = line.find_first_not_of(' ');
-    std::erase_if(above, [&](const std::string& a) { return a.find_first_not_of(' ') >= indent; });
-    if (sign == ' ') return above.push_back(line);
-    for (const std::string& context : std::exchange(above, {})) text += "  " + context + '\n';
-    text += sign + (' ' + line) + '\n';
-  };
-  std::size_t i = 0, j = 0;
-  while (i < expected.size() || j < found.size()) {
-    if (i < expected.size() && j < found.size() && expected[i] == found[j]) {
-      add(' ', expected[i++]);
-      ++j;
-    } else if (i < expected.size() && (j == found.size() || common[i + 1][j] >= common[i][j + 1])) {
-      add('-', expected[i++]);
+  QString text;
+  QStringList above;
+  for (qsizetype i = 0, j = 0; i < ends[0] || j < ends[1];) {
+    const bool more = i < ends[0] && j < ends[1], same = more && expected[i] == found[j];
+    const bool gone = more ? common[i + 1][j] >= common[i][j + 1] : i < ends[0];
+    const QString line = same || gone ? expected[i] : found[j];
+    const auto indent = [](const QString& of) {
+      return of.size() - QStringView(of).trimmed().size();
+    };
+    above.removeIf([&](const QString& other) { return indent(other) >= indent(line); });
+    if (same) {
+      above << line;
     } else {
-      add('+', found[j++]);
+      for (const QString& context : std::exchange(above, {})) text += "  " + context + '\n';
+      text += (gone ? "- " : "+ ") + line + '\n';
     }
+    i += same || gone;
+    j += same || !gone;
   }
-  return text;
+  return text.toStdString();
 }
 
 void ExpectListed(const std::string& path, const std::string& found) {
   if (qEnvironmentVariableIsSet("UPDATE_LISTING")) std::ofstream(path) << found;
-  std::ostringstream expected;
-  expected << std::ifstream(path).rdbuf();
-  if (found == expected.str()) return;
-  std::string text;
-  auto before = Blocks(expected.str()), now = Blocks(found);
-  for (const auto& [heading, lines] : before) now.try_emplace(heading);
-  for (const auto& [heading, lines] : now) {
-    const std::string difference = Difference(before[heading], lines);
-    if (!difference.empty()) text += heading + '\n' + difference;
-  }
-  ADD_FAILURE() << path << ", expected (-) and found (+):\n"
-                << (text.empty() ? "The rows have changed places." : text);
+  std::ostringstream listed;
+  listed << std::ifstream(path).rdbuf();
+  const auto lines = [](const std::string& text) {
+    return QString::fromStdString(text).split('\n', Qt::SkipEmptyParts);
+  };
+  EXPECT_TRUE(listed.str() == found) << path << ", expected (-) and found (+):\n"
+                                     << Difference(lines(listed.str()), lines(found));
 }
 
 TEST(PagesByModel, AreAsListed) {

@@ -205,8 +205,9 @@ void ExpectListed(const std::string& path, const std::string& found) {
   const auto lines = [](const std::string& text) {
     return QString::fromStdString(text).split('\n', Qt::SkipEmptyParts);
   };
-  EXPECT_TRUE(listed.str() == found) << path << ", expected (-) and found (+):\n"
-                                     << Difference(lines(listed.str()), lines(found));
+  if (listed.str() == found) return;
+  ADD_FAILURE() << path << ", expected (-) and found (+):\n"
+                << Difference(lines(listed.str()), lines(found));
 }
 
 TEST(PagesByModel, AreAsListed) {

@@ -14,6 +14,7 @@ struct Change {
   const ModelSetting* setting;
   TypedValue typed;
   std::string word;
+  std::optional<int> aim{};  ///< Of the first one, once it is known; others may drag theirs along.
 };
 
 /// What became of a change, for scripts and, behind the key, for people; no text where all is well.
@@ -22,6 +23,13 @@ struct Made {
   std::string text{};
   int code = ExitCode::Done;
 };
+
+constexpr int kMostSteps = 4096;
+
+/// Whether only the projector knows how far it can be stepped.
+bool IsUnbounded(const Target& target, const ModelSetting& setting) {
+  return target.OnlySteps(setting) || (setting.IsStepped() && !setting.range);
+}
 
 /// The changes that the words ask for; anything wrong is complained of. Those that depend on what
 /// the projector will tell are left out.
@@ -48,6 +56,9 @@ std::vector<Change> ChangesOf(const Work& work, const Target& target, Report& re
       complain("'" + word + "' is not one of: " + work.texts.Values(*setting));
     } else if (target.OnlySteps(*setting) && !typed->relative) {
       complain("'" + word + "' is no step like +1 or -1, and PJLink has nothing else for it");
+    } else if (typed->relative && IsUnbounded(target, *setting) &&
+               std::abs(typed->amount) > kMostSteps) {
+      complain("'" + word + "' is more than " + std::to_string(kMostSteps) + " steps");
     } else {
       changes.push_back({setting, *typed, word});
     }
@@ -80,12 +91,12 @@ std::optional<int> Aim(const Change& change, const Work& work, ProjectorAccess& 
 
 /// Complains of steps that lead nowhere. What a setting kept for each input source has behind a
 /// change of the source is only known then.
-void CheckSteps(const std::vector<Change>& changes, const Work& work, ProjectorAccess& projector,
+void CheckSteps(std::vector<Change>& changes, const Work& work, ProjectorAccess& projector,
                 Report& report) {
   const Progress progress = ProgressOf(work, projector);
   std::map<const ModelSetting*, std::optional<int>> expected;
   bool ofOtherSource = false;
-  for (const Change& change : changes) {
+  for (Change& change : changes) {
     const ModelSetting& setting = *change.setting;
     ofOtherSource = ofOtherSource || setting.SelectsInput();
     if (ofOtherSource && setting.IsPerSource()) continue;
@@ -97,6 +108,7 @@ void CheckSteps(const std::vector<Change>& changes, const Work& work, ProjectorA
       const auto source = projector.Settings().PresentSource(projector.Connection(), setting);
       value = Aim(change, work, projector, source, value, ExitCode::WrongUse, report);
     }
+    if (&change == &changes.front()) change.aim = value;
   }
 }
 
@@ -128,7 +140,10 @@ Made Judge(const Work& work, ProjectorAccess& projector, const ModelSetting& set
   if (work.isInterrupted() && setting.IsStepped() && now) {
     return {"stopped", "stopped at " + work.texts.Value(setting, *now)};
   }
-  if (after.pending > before.pending) return {"pending", "accepted, but not so yet" + isNow};
+  const bool isAnswered = projector.Channel().HasAnswered();
+  // Of one that answers no more nobody knows.
+  if (after.pending > before.pending && isAnswered)
+    return {"pending", "accepted, but not so yet" + isNow};
   if (after.uncertain > before.uncertain) {
     return {"unconfirmed", NoAnswerText(projector) + ", it may have been changed" + isNow,
             ExitCode::NoAnswer};
@@ -148,7 +163,6 @@ Made Judge(const Work& work, ProjectorAccess& projector, const ModelSetting& set
   if (!accepted) return {"refused", "refused" + isNow, ExitCode::Refused};
   if (now) return {"refused", "refused" + isNow, ExitCode::Refused};
   if (!setting.readable) return {"done"};
-  const bool isAnswered = projector.Channel().HasAnswered();
   return {"unconfirmed", std::string("accepted, but ") + ReasonOf(projector, kNotReadable),
           isAnswered ? ExitCode::Refused : ExitCode::NoAnswer};
 }
@@ -157,12 +171,15 @@ Made Judge(const Work& work, ProjectorAccess& projector, const ModelSetting& set
 Made MakeSteps(const Change& change, const Work& work, ProjectorAccess& projector) {
   const int wanted = change.typed.amount;
   const CPjtInterface::Tally before = projector.Connection().Sent();
-  const int done = projector.StepUnread(*change.setting, wanted);
+  const int done =
+      projector.StepUnread(*change.setting, wanted, [&work] { return !work.isInterrupted(); });
   if (done == std::abs(wanted)) return {"done"};
-  Made made = Judge(work, projector, *change.setting, wanted, {}, before, false,
-                    projector.Connection().Sent());
-  made.text += " after " + std::to_string(done) + " of " + std::to_string(std::abs(wanted)) +
-               (wanted == 1 || wanted == -1 ? " step" : " steps");
+  const std::string accepted = std::to_string(done) + " of " + std::to_string(std::abs(wanted)) +
+                               (std::abs(wanted) == 1 ? " step" : " steps") + " accepted";
+  const CPjtInterface::Tally after = projector.Connection().Sent();
+  if (after.commands - before.commands == done) return {"stopped", "stopped, " + accepted};
+  Made made = Judge(work, projector, *change.setting, wanted, {}, before, false, after);
+  made.text += "; " + accepted;
   return made;
 }
 
@@ -175,7 +192,8 @@ std::optional<Made> Make(const Change& change, const Work& work, ProjectorAccess
   CPjtInterface& connection = projector.Connection();
   const auto source = settings.PresentSource(connection, setting);
   // Others were changed already, so that wrong use would say too much.
-  const auto value = Aim(change, work, projector, source, {}, ExitCode::Refused, report);
+  const auto value =
+      change.aim ? change.aim : Aim(change, work, projector, source, {}, ExitCode::Refused, report);
   if (!value) return {};
   const CPjtInterface::Tally before = connection.Sent();
   const bool accepted = settings.Change(

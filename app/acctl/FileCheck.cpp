@@ -102,8 +102,12 @@ class Entry {
     const auto isSo = [this, inputs](const Form& form) {
       const auto& entries = form.setting->entries;
       const auto entry = std::ranges::find(entries, saved_.value, &ListEntry::value);
+      // An input may have got another name since; that of another one was edited.
       const bool isName = entry != entries.end() && !entry->text;
-      return (isName && inputs == InputNames::OfProjector) ||
+      const bool isOfOther = std::ranges::any_of(entries, [&](const ListEntry& other) {
+        return texts_.IsShownAs(*form.setting, other.value, saved_.text);
+      });
+      return (isName && !isOfOther && inputs == InputNames::OfProjector) ||
              texts_.IsShownAs(*form.setting, saved_.value, saved_.text);
     };
     if (saved_.text.empty() || !IsKnown() || std::ranges::any_of(forms_, isSo)) return {};

@@ -70,6 +70,9 @@ Told Judge(const Work& work, const Target& target, const Restoration& restoratio
   if (restored.outcome == Outcome::NotSettable && lacksEntries) {
     return {&restored, Outcome::NotReached, kInputsNotRead, ExitCode::NoAnswer};
   }
+  if (restored.outcome == Outcome::NotOffered && !target.Carries(kKept, *restored.setting)) {
+    return {&restored, Outcome::NotOffered, kNotInPjLink};
+  }
   if (restored.outcome == Outcome::Refused) {
     return {&restored, Outcome::Refused,
             restored.now ? "refused, it is " + isNow() : std::string("it ") + kNotReadable,
@@ -146,6 +149,7 @@ void Tell(const Work& work, const ModelSettings& model, const std::vector<Told>&
           Report& report) {
   std::map<QString, QJsonArray> lists;
   std::array<std::string, kLists.size()> keys;
+  int notInPjLink = 0;
   for (const OutcomeList& list : kLists) lists[list.member];
   for (const Told& told : outcomes) {
     const RestoredSetting& restored = *told.restored;
@@ -153,7 +157,10 @@ void Tell(const Work& work, const ModelSettings& model, const std::vector<Told>&
     const std::string name = NameOf(work, model, restored.saved);
     QJsonObject json = Describe(work.texts, restored);
     if (restored.isBeforehand) json["beforehand"] = true;
-    if (!told.reason.empty()) {
+    if (told.outcome == Outcome::NotOffered && !told.reason.empty()) {
+      json["reason"] = Wide(told.reason);
+      ++notInPjLink;
+    } else if (!told.reason.empty()) {
       json["reason"] = Wide(told.reason);
       report.Complain(std::string(name).append(": ").append(told.reason), told.code);
     } else if (list.complaint != nullptr) {
@@ -171,6 +178,11 @@ void Tell(const Work& work, const ModelSettings& model, const std::vector<Told>&
     if (!keys[i].empty()) {
       report.Complain(std::string(kLists[i].complaint) + ": " + keys[i], kLists[i].code);
     }
+  }
+  if (notInPjLink > 0) {
+    report.Complain(std::string("skipped, ") + kNotInPjLink + ": " + std::to_string(notInPjLink) +
+                        " of the file's settings",
+                    ExitCode::Done);
   }
   for (const auto& [member, list] : lists) report.json[member] = list;
 }

@@ -73,7 +73,7 @@ inline constexpr Use kKept{
     [](const ModelSetting& setting, const ModelData& model) {
       return IsReadOverPjLink(setting, model) && IsChangedOverPjLink(setting, model);
     }};
-// Hours that were counted do not come back, so that no pattern means them.
+// Resetting an hour counter cannot be undone, so no pattern matches one.
 inline constexpr Use kReset{
     [](const ModelSetting& setting) { return setting.reset.has_value(); }, "this cannot be reset",
     IsResetOverPjLink,

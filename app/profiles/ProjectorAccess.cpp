@@ -49,7 +49,8 @@ void ProjectorAccess::AskForInputs(InputsNeeded needed) {
     std::tie(inputs, areTold) = pjLink_->AskForInputs();
   }
   lacksInputs_ = !areTold;
-  if (lacksInputs_ && !pjLink_->HasAnswered()) channel_->GiveUp();
+  // One that has let us in may answer everything else.
+  if (lacksInputs_ && !pjLink_->HasGreeted()) channel_->GiveUp();
   if (inputs.empty()) return;
   model_.MySourceList = SourcesOf(inputs);
   settings_ = ModelSettings(MakeModelData(model_));
@@ -61,10 +62,11 @@ bool ProjectorAccess::HasSteps(const ModelSetting& setting) {
          FamilyOf(row->Stepping(true, 0).operation) == OperationFamily::GenericStepper;
 }
 
-int ProjectorAccess::StepUnread(const ModelSetting& setting, int steps) {
+int ProjectorAccess::StepUnread(const ModelSetting& setting, int steps,
+                                const std::function<bool()>& goesOn) {
   if (!HasSteps(setting)) return 0;
   const Call step = std::get<ValueRow>(*setting.row).Stepping(steps > 0, 0);
   int done = 0;
-  while (done < std::abs(steps) && Perform(connection_, step).accepted) ++done;
+  while (done < std::abs(steps) && goesOn() && Perform(connection_, step).accepted) ++done;
   return done;
 }

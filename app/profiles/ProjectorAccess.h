@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -45,9 +46,9 @@ class ProjectorAccess {
   bool TellsInputs() const { return tellsInputs_; }
 
   /// Steps a setting that can be stepped and not read, as the volume over PJLink, up so many times,
-  /// or down where `steps` is below zero. Ends with the first step that is not accepted; the result
-  /// is the number of those that were, and `Channel().Last()` says more.
-  int StepUnread(const ModelSetting& setting, int steps);
+  /// or down where `steps` is below zero. Ends with the first step that is not accepted, or before
+  /// the first for which `goesOn` is false; the result is the number of those that were accepted.
+  int StepUnread(const ModelSetting& setting, int steps, const std::function<bool()>& goesOn);
   /// Whether `StepUnread` has a way to do so.
   static bool HasSteps(const ModelSetting& setting);
 

@@ -8,36 +8,40 @@
 #include "ProjectorCommonExport.h"
 #include "device/ProjectorChannel.h"
 
-/// Puts a bound on how long a command may take, whatever the channel behind it does.
+/// Limits how long a command may take, whatever the inner channel does.
 ///
-/// The inner channel runs on a thread of this object's own. `Execute` waits for it; after a moment
-/// it lets the calling thread's event loop run, user input included, so that windows go on working.
-/// A command started from inside that loop is refused. A command without an answer in time yields
-/// an unanswered refusal; from then on further commands fail at once, until the retry interval is
-/// over and the outstanding command has come back. So a projector that does not answer costs one
-/// time-out and not one per command. After a command that failed quickly the interval is short:
-/// long enough for the rest of a page.
+/// The inner channel runs on a thread owned by this object. `Execute` waits for it; after a moment
+/// it runs the calling thread's event loop, user input included, so that windows keep working. A
+/// command started from inside that loop is refused. If no answer comes in time, the reply is an
+/// unanswered refusal. Further commands then fail at once until the retry interval is over and the
+/// outstanding command has returned. A silent projector thus costs one time-out, not one per
+/// command. After a command that failed quickly the interval is short: just long enough to skip
+/// the rest of a page.
 ///
-/// What is announced reaches the inner channel together with the next command, unless it is
-/// abandoned before.
+/// Announced reads reach the inner channel together with the next command, unless they are
+/// abandoned first.
 ///
-/// `GiveUpAfter` shortens the time-out; the inner channel is told with the next command.
+/// `GiveUpAfter` shortens the time-out; it is passed to the inner channel with the next command.
 ///
-/// A command that comes after `Abandon` is always tried: it first waits for the outstanding one to
-/// come back, whose reply is dropped, for at most another time-out.
+/// A command that follows `Abandon` is always tried. It first waits for the outstanding command to
+/// return, for at most another time-out; the reply to that one is dropped.
 ///
-/// Destroying the object does not wait for an outstanding command: the inner channel lives on until
-/// that command returns. Unless somebody else holds it, it ends on the thread that it ran on.
+/// The destructor does not wait for an outstanding command: the inner channel lives until that
+/// command returns. Unless it is shared, it is then destroyed on the thread that it ran on.
+///
+/// Call `Execute`, `Announce`, `GiveUpAfter` and `Abandon` from one thread, usually the
+/// user-interface thread; `Connection`, `Inputs` and `Power` from any thread.
 class PROJECTOR_COMMON_EXPORT BoundedChannel : public ProjectorChannel {
  public:
   struct Limits {
     std::chrono::milliseconds timeOut{2000};
     std::chrono::milliseconds retryAfter{3000};  ///< Counted from the unanswered command's end.
-    /// Waited for before the event loop runs; less where many such waits would hold it up.
+    /// How long a command waits before it runs the event loop; shortened if many such waits would
+    /// hold the loop up.
     std::chrono::milliseconds quickAnswer{5};
-    /// Without a command, after one that was answered; then the inner channel may use the time.
+    /// Pause after an answered command until the inner channel may use the idle time.
     std::chrono::milliseconds idle{50};
-    /// Without a command: from one look after the inner channel's connection to the next.
+    /// Interval at which `TendConnection` is called while there is no command.
     std::chrono::milliseconds tend{1000};
   };
 

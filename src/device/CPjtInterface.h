@@ -14,11 +14,14 @@
 
 /// The connection to one projector and every operation it offers.
 ///
-/// Each operation builds one `PjtCommand`, hands it to the channel and returns when the channel
-/// does. The channel is the host's, or else one of the object's own, made as the connection
-/// parameters say. Copies share it. Without a channel every operation is refused. What each form of
-/// operation takes and returns is listed with the forms below; a refused operation writes nothing
-/// through its pointer. Values are device values; the pages own every bias.
+/// Each operation builds one `PjtCommand`, passes it to the channel and returns when the channel
+/// does. The channel is the one that the host has set; otherwise the object makes its own from the
+/// connection parameters. Copies share the channel. Without a channel every operation is refused.
+/// The forms below list what each form of operation takes and returns; a refused operation writes
+/// nothing through its pointer. Values are device values; biases are left to the pages.
+///
+/// Call it from the thread on which its channel may be called, in a dialog the user-interface
+/// thread.
 class PROJECTOR_COMMON_EXPORT CPjtInterface {
  public:
   CPjtInterface();
@@ -26,40 +29,41 @@ class PROJECTOR_COMMON_EXPORT CPjtInterface {
   CPjtInterface& operator=(const CPjtInterface& other);
   ~CPjtInterface();
 
-  /// The host's way to the projector, which goes before the object's own, whenever it is set. Null
-  /// takes the channel away, until connection parameters are taken again.
+  /// Sets the host's channel, which replaces the object's own, whether it is set before or after
+  /// the connection parameters. Null removes the channel until `CopyData` is called again.
   void SetChannel(std::shared_ptr<ProjectorChannel> channel);
   const std::shared_ptr<ProjectorChannel>& Channel() const { return channel_; }
 
-  /// While cut off, every operation is refused and reaches no channel.
+  /// While cut off, every operation is refused without reaching the channel.
   void CutOff(bool cutOff) { cutOff_ = cutOff; }
 
-  /// How the connection stands.
+  /// The state of the connection.
   ConnectionState Connection() const;
 
-  /// The inputs as the projector itself has told them, over PJLink; nothing as long as it has not.
-  /// From the first call on they are asked for while nobody waits.
+  /// The inputs that the projector has reported over PJLink; nothing until then. From the first
+  /// call on, the channel asks for them while no command waits.
   std::optional<SourceList> Inputs() const;
 
-  /// The power state as the projector told it last, as `ProjectorChannel::Power` says.
+  /// The power state that the projector reported last, see `ProjectorChannel::Power`.
   std::optional<PowerState> Power() const;
 
-  /// Takes the connection parameters. A text ends at its first zero or after 64 characters; null is
-  /// an empty text.
+  /// Sets the connection parameters. A text ends at its first zero or after 64 characters; null
+  /// stands for an empty text.
   ///
   /// Unless the host has set a channel, the object connects by itself with its first command:
   /// - Kind 1 is a network connection to the name or address `text1`, port `parameter`. On port
   ///   4352, or where `parameter` is 0, it speaks PJLink with `text2` as the password; on any other
-  ///   port the wire of docs/wire.md. "pjlink://" or "tcp://" before the address says it outright.
+  ///   port the protocol of docs/wire.md. A prefix "pjlink://" or "tcp://" of the address overrides
+  ///   this choice.
   /// - Any other kind is a serial connection with `parameter` bits per second, 0 for 19200, on the
   ///   port `number`, which counts from 0 ("/dev/ttyS0"), or on the device whose path is `text1`.
   ///
-  /// Parameters that name no connection leave every operation unanswered at once, and `Connection`
-  /// says so.
+  /// With invalid parameters every operation is unanswered at once, and `Connection` returns
+  /// `ConnectionState::WrongParameters`.
   void CopyData(int kind, int number, int parameter, const char* text1, const char* text2);
 
-  /// Take the model's aspect and gamma device values, in list order. At most 32 are kept; a null
-  /// list or a negative count is an empty one. The result is the number kept.
+  /// Copy the model's aspect and gamma device values, in list order. At most 32 are kept; a null
+  /// list or a negative count counts as empty. Return the number of values kept.
   int CopyAspectData(int count, const int* values);
   int CopyGammaData(int count, const int* values);
 
@@ -73,10 +77,10 @@ class PROJECTOR_COMMON_EXPORT CPjtInterface {
   const std::vector<std::int32_t>& AspectValues() const { return aspectValues_; }
   const std::vector<std::int32_t>& GammaValues() const { return gammaValues_; }
 
-  /// Written by the dialog when it opens; carried for the connection.
+  /// Written by the dialog when it opens, for the use of the connection.
   std::int32_t HostOption = 0;
   std::int32_t DialogType = 0;
-  /// Text of the list entry that a page is about to send; pages write it and never read it.
+  /// Text of the list entry that a page is about to send. Pages only write it.
   std::string SettingText;
 
   // The named operations, declared in the form of their family.
@@ -126,51 +130,51 @@ class PROJECTOR_COMMON_EXPORT CPjtInterface {
 #undef PJT_FORM_GenericSetter
 #undef PJT_FORM_GenericStepper
 
-  /// The same steps with the caller's value instead of a pointer: the new value, or `value` when
-  /// the projector refused.
+  /// The same steps without a pointer: return the new value, or `value` if the projector refused.
   short IncrementAutoPowerOff(short value);
   short DecrementAutoPowerOff(short value);
 
-  // The generic operations, by command code. `self` is the object called through.
-  // Exactly 1 is success, though some callers take any result but 0 for it: `Get` then stores the
-  // value as well. `Inc` and `Dec` step by one; read the setting afterwards with `Get`.
+  // The generic operations, by command code. `self` is the object that the call is made through.
+  // Only the result 1 is success. `Get` stores the value for any nonzero result, because some
+  // callers accept those as well. `Inc` and `Dec` step by one; read the setting with `Get`
+  // afterwards.
   int Get(unsigned short code, unsigned short argument, CPjtInterface* self, unsigned short* value);
   int Set(unsigned short code, unsigned short value, CPjtInterface* self);
   int Inc(unsigned short code, unsigned short argument, CPjtInterface* self);
   int Dec(unsigned short code, unsigned short argument, CPjtInterface* self);
 
-  /// Any of the operations as a command, with the reply as the channel gave it.
+  /// Executes any operation given as a command, and returns the channel's reply unchanged.
   PjtReply Execute(const PjtCommand& command) const;
 
-  /// Tells the channel which reads are about to follow, in this order.
+  /// Announces to the channel which reads are about to follow, in this order.
   void Announce(std::span<const PjtCommand> reads) const;
 
-  /// Gives up what is under way: the command that waits ends at once, and as long as the result
-  /// lives, which may outlive the object, every command is unanswered without being sent. Called
-  /// from inside the event loop of a command that waits.
+  /// Abandons the work under way: the waiting command ends at once, and as long as the returned
+  /// object lives, every command is unanswered without being sent. The returned object may outlive
+  /// this one. Called from inside the event loop of a waiting command.
   [[nodiscard]] std::shared_ptr<const void> Abandon();
   bool IsAbandoned() const;
   /// Whether a command of this object is under way.
   bool IsWaiting() const;
 
-  /// The next command is tried, also where the channel spares a projector that was silent.
+  /// Makes the channel try the next command even if the projector was silent.
   void TryAfresh();
 
-  /// What became of the commands so far; each number only grows.
+  /// The results of the commands so far. The counters only grow.
   struct Tally {
     int commands = 0;
     int refused = 0;
-    int unanswered = 0;  ///< Those that were abandoned apart.
-    int notOffered = 0;  ///< Refused, because the projector has no such setting.
-    int busy = 0;        ///< Refused, because the projector cannot do it now.
-    int pending = 0;     ///< Changes that were accepted, and not carried out yet.
-    int uncertain = 0;   ///< Unanswered changes that may have been carried out all the same.
+    int unanswered = 0;  ///< Without those that were abandoned.
+    int notOffered = 0;  ///< Refused because the projector does not have the setting.
+    int busy = 0;        ///< Refused because the projector cannot do it now.
+    int pending = 0;     ///< Changes that were accepted but have not taken effect yet.
+    int uncertain = 0;   ///< Unanswered changes that may have been carried out.
   };
   Tally Sent() const;
 
  private:
-  /// What is under way belongs to one object: a copy starts with none of it, and assignment leaves
-  /// it. Shared with the commands under way, which may outlive the object.
+  /// The commands under way. They belong to one object: a copy starts without any, and assignment
+  /// does not change them. Shared with those commands, which may outlive the object.
   struct Traffic;
   class OwnTraffic {
    public:

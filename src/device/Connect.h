@@ -14,7 +14,7 @@
 #include "device/ProjectorChannel.h"
 #include "device/WireFrame.h"
 
-/// A projector that speaks our wire (docs/wire.md) over TCP.
+/// A projector that speaks the protocol of docs/wire.md over TCP.
 struct TcpAddress {
   std::string host;
   std::uint16_t port = Wire::kDefaultPort;
@@ -33,7 +33,7 @@ struct PjLinkAddress {
   friend bool operator==(const PjLinkAddress&, const PjLinkAddress&) = default;
 };
 
-/// A projector that speaks our wire on a serial line.
+/// A projector that speaks the protocol of docs/wire.md on a serial line.
 struct SerialAddress {
   static constexpr std::int32_t kDefaultBaud = 19200;
 
@@ -43,8 +43,7 @@ struct SerialAddress {
   friend bool operator==(const SerialAddress&, const SerialAddress&) = default;
 };
 
-/// One English sentence, without its full stop, that says what is wrong with a connection's
-/// parameters.
+/// What is wrong with a connection's parameters: one English sentence without its full stop.
 struct AddressError {
   std::string text;
 
@@ -53,31 +52,33 @@ struct AddressError {
 
 using ProjectorAddress = std::variant<AddressError, TcpAddress, PjLinkAddress, SerialAddress>;
 
-/// Reads connection parameters as `CPjtInterface::CopyData` takes them.
+// The functions below may be called from any thread.
+
+/// Interprets connection parameters in the form that `CPjtInterface::CopyData` takes.
 PROJECTOR_COMMON_EXPORT ProjectorAddress ParseConnection(const ConnectionData& data);
 
-/// Reads an address as people write it: "tcp://HOST:PORT", "pjlink://HOST:PORT", "HOST:PORT",
-/// "serial:///dev/ttyUSB0?BAUD" or "/dev/ttyUSB0?BAUD". Ports and speed may be left out. Without a
-/// scheme, port 4352 and none stand for PJLink. An IPv6 address with a port stands in brackets.
+/// Parses an address as people write it: "tcp://HOST:PORT", "pjlink://HOST:PORT", "HOST:PORT",
+/// "serial:///dev/ttyUSB0?BAUD" or "/dev/ttyUSB0?BAUD". Ports and speed are optional. Without a
+/// scheme, port 4352 or no port means PJLink. An IPv6 address with a port is put in brackets.
 PROJECTOR_COMMON_EXPORT ProjectorAddress ParseAddress(std::string_view text,
                                                       std::string_view password = {});
 
-/// Whether the text is the name of a host or its IP address, without scheme and port.
+/// Whether the text is a host name or an IP address, without scheme and port.
 PROJECTOR_COMMON_EXPORT bool IsHostAddress(std::string_view text);
 
-/// The path of the serial port with that number, which counts from 0.
+/// The path of a serial port; `number` counts from 0.
 inline std::string SerialDevice(int number) { return "/dev/ttyS" + std::to_string(number); }
 
-/// A way to the projector that connects with the first command, behind a `BoundedChannel`. That of
-/// an `AddressError` leaves every command unanswered at once. Never null.
+/// Makes a channel that connects with its first command, wrapped in a `BoundedChannel`. For an
+/// `AddressError`, every command is unanswered at once. Never null.
 PROJECTOR_COMMON_EXPORT std::shared_ptr<ProjectorChannel> MakeChannel(
     const ProjectorAddress& address);
 
-/// The bounds for a `BoundedChannel` around a way to that address.
+/// The limits for a `BoundedChannel` around a channel to that address.
 PROJECTOR_COMMON_EXPORT BoundedChannel::Limits BoundsFor(const ProjectorAddress& address);
 
-/// The same without a bound, for a host that puts a channel of its own around it and a
-/// `BoundedChannel` around both, or for threads that may wait as long as the channel itself does:
-/// `timeOut` for connecting and as much for an answer, or the channel's own times without.
+/// The same without a `BoundedChannel`, for a host that puts its own channel in between, or for
+/// threads that may block. `timeOut` limits the time for connecting, and separately the time for
+/// an answer; without it the channel uses its own time-outs. Never null.
 PROJECTOR_COMMON_EXPORT std::shared_ptr<ProjectorChannel> MakeUnboundedChannel(
     const ProjectorAddress& address, std::optional<std::chrono::milliseconds> timeOut = {});

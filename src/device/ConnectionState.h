@@ -5,21 +5,21 @@
 
 #include "ProjectorCommonExport.h"
 
-/// How a connection to a projector stands.
+/// The state of a connection to a projector.
 enum class ConnectionState : std::uint8_t {
   None,              ///< There is no connection that could have a state.
-  Unused,            ///< None was needed yet, or it ended while nobody used it.
-  Connecting,        ///< On its way, for the first time or again.
+  Unused,            ///< Not connected yet, or closed while it was not in use.
+  Connecting,        ///< For the first time or again.
   Connected,         ///< The last command was answered.
-  WrongParameters,   ///< The connection parameters name nothing that could be connected to.
-  NameUnknown,       ///< The address is a name that nobody knows.
-  NotReachable,      ///< Nobody listens there, or there is no such serial port.
+  WrongParameters,   ///< The connection parameters are invalid.
+  NameUnknown,       ///< The host name could not be resolved.
+  NotReachable,      ///< Nothing listens there, or the serial port does not exist.
   NoAnswer,          ///< Connected, but no answer came in time.
   Lost,              ///< The connection broke.
-  NotUnderstood,     ///< What came is not what a projector says.
-  OtherVersion,      ///< The projector speaks no version of the wire that we do.
+  NotUnderstood,     ///< The other end sent something that no projector sends.
+  OtherVersion,      ///< The projector and we have no protocol version in common.
   PasswordRequired,  ///< The projector wants a password, and none or a wrong one was given.
 };
 
-/// The state in a few English words, for programs without a catalog.
+/// The state in a few English words, for programs without a catalog. Any thread.
 PROJECTOR_COMMON_EXPORT std::string_view ConnectionStateText(ConnectionState state);

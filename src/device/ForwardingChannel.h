@@ -9,9 +9,9 @@
 #include "ProjectorCommonExport.h"
 #include "device/ProjectorChannel.h"
 
-/// A channel around another one that passes everything on. Channels that log, disturb or repeat
-/// derive from it and override only what they change, so that none of them loses a member of
-/// `ProjectorChannel` by forgetting it. Each member may be called from the threads that
+/// A channel that forwards every call to another one. Channels that log, disturb or repeat commands
+/// derive from it and override only what they change, so that they cannot forget to forward a
+/// function of `ProjectorChannel`. Its functions may be called from the threads that
 /// `ProjectorChannel` allows.
 class PROJECTOR_COMMON_EXPORT ForwardingChannel : public ProjectorChannel {
  public:
@@ -28,10 +28,10 @@ class PROJECTOR_COMMON_EXPORT ForwardingChannel : public ProjectorChannel {
   }
 
  protected:
-  /// `inner` must not be null; it is shared with whoever else holds it.
+  /// `inner` must not be null. Ownership is shared.
   explicit ForwardingChannel(std::shared_ptr<ProjectorChannel> inner) : inner_(std::move(inner)) {}
 
-  /// The channel that this one stands around.
+  /// The wrapped channel.
   ProjectorChannel& Inner() const { return *inner_; }
 
  private:

@@ -9,10 +9,10 @@
 #include "ProjectorCommonExport.h"
 #include "device/ForwardingChannel.h"
 
-/// Reports every command that passes through to an observer, once the reply is there.
+/// Reports every command and its reply to an observer. Threads as `ProjectorChannel` says.
 class PROJECTOR_COMMON_EXPORT LoggingChannel : public ForwardingChannel {
  public:
-  /// Called on the thread that executes the command.
+  /// Called after the reply has arrived, on the thread that executes the command.
   using Observer =
       std::function<void(const PjtCommand&, const PjtReply&, std::chrono::microseconds elapsed)>;
 
@@ -25,7 +25,7 @@ class PROJECTOR_COMMON_EXPORT LoggingChannel : public ForwardingChannel {
   Observer observer_;
 };
 
-/// The command as one line of a log, and what came back when `reply` is given:
+/// The command as one line of a log, with its result if `reply` is given:
 /// "SetBrightness(140)", "GetInputSrcVolume(3) = 16", "Get 0x2003 = 128", "Set 0x3304 (0x10)
 /// refused".
 PROJECTOR_COMMON_EXPORT std::string FormatCommand(const PjtCommand& command,

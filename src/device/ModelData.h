@@ -14,10 +14,10 @@ using NameSlot = std::array<char, 64>;
 /// The text in a slot, up to its first zero or the slot's end.
 PROJECTOR_COMMON_EXPORT std::string_view NameText(const NameSlot& slot);
 
-/// The beginning of a text, not more than so many bytes, cut at a character boundary; UTF-8.
+/// The beginning of a text, at most `most` bytes, cut at a character boundary; UTF-8.
 PROJECTOR_COMMON_EXPORT std::string_view CutText(std::string_view text, std::size_t most);
 
-/// Puts `text` into a slot, cut at a character boundary where it does not fit; the rest is zeros.
+/// A slot that holds `text`, cut at a character boundary if it is too long; the rest is zeros.
 PROJECTOR_COMMON_EXPORT NameSlot MakeNameSlot(std::string_view text);
 
 /// A capability list: only the first `count` entries are meaningful, though the arrays may hold
@@ -29,7 +29,7 @@ struct CountedList {
   std::array<std::int32_t, kCapacity> values{};  ///< Device value of each entry.
   std::array<NameSlot, kCapacity> names{};
 
-  /// `count` held inside 0..kCapacity, whatever a host passed.
+  /// `count` clamped to 0..kCapacity.
   int Size() const { return count < 0 ? 0 : count > kCapacity ? kCapacity : count; }
 
   bool operator==(const CountedList&) const = default;
@@ -55,13 +55,13 @@ inline constexpr std::size_t AutoOff = 0;
 inline constexpr std::size_t ColorTempAdjust = 1;  ///< Six: gain R, G, B, offset R, G, B.
 inline constexpr std::size_t GammaPoint = 7;       ///< Eight: user gamma points 1..8.
 inline constexpr std::size_t OverScan = 15;  ///< Of the older picture pages and the image pages.
-inline constexpr std::size_t HPhase = 16;    ///< Likewise.
+inline constexpr std::size_t HPhase = 16;    ///< Of the same pages.
 inline constexpr std::size_t Brightness = 17;
 inline constexpr std::size_t Contrast = 18;
 inline constexpr std::size_t KeystoneV = 19;
 inline constexpr std::size_t KeystoneH = 20;
 inline constexpr std::size_t Volume = 21;
-inline constexpr std::size_t ColorBalR = 23;  ///< Of the older pages, as G and B.
+inline constexpr std::size_t ColorBalR = 23;  ///< Of the older pages; also G and B.
 inline constexpr std::size_t ColorBalG = 24;
 inline constexpr std::size_t ColorBalB = 25;
 inline constexpr std::size_t Sharpness = 26;
@@ -75,7 +75,7 @@ inline constexpr std::size_t Bass = 33;
 inline constexpr std::size_t Count = 34;
 }  // namespace RangeIndex
 
-/// What the host tells of the selected projector's model. Nothing in it changes after intake.
+/// What the host knows of the selected projector's model. Does not change after intake.
 struct ModelData {
   std::string ModelName;        ///< UTF-8, as the host knows it.
   std::int32_t ModelCode = 0;   ///< Series code; refines tabs and rows.
@@ -86,8 +86,8 @@ struct ModelData {
   CountedList GammaList;
   CountedList ColorTempList;
   CountedList MyButtonList;
-  std::int32_t ModelWord = 0;                ///< Carried for the host; no page reads it.
-  std::array<std::int32_t, 2> ModelWords{};  ///< Carried for the host; no page reads them.
-  /// "minimum,maximum" in device units, empty for a page's default; by `RangeIndex`.
+  std::int32_t ModelWord = 0;                ///< Stored for the host; no page reads it.
+  std::array<std::int32_t, 2> ModelWords{};  ///< Stored for the host; no page reads them.
+  /// "minimum,maximum" in device units, indexed by `RangeIndex`; empty for a page's default.
   std::array<std::string, RangeIndex::Count> RangeTexts;
 };

@@ -8,7 +8,7 @@
 #include "device/CProjectorItem.h"
 #include "device/ModelData.h"
 
-/// What `CPjtInterface::CopyData` takes.
+/// The arguments of `CPjtInterface::CopyData`.
 struct ConnectionData {
   std::int32_t Kind = 0;
   std::int32_t Number = 0;
@@ -19,17 +19,19 @@ struct ConnectionData {
   friend bool operator==(const ConnectionData&, const ConnectionData&) = default;
 };
 
+// The functions below may be called from any thread.
+
 /// Everything that the record says of the model.
 PROJECTOR_COMMON_EXPORT ModelData MakeModelData(const CModelInfo2& info);
 
-/// The same from the item's model record, under the item's own name. An item without a record
-/// gives the name alone.
+/// The same from the item's model record, but with the item's own name. An item without a record
+/// gives only the name.
 PROJECTOR_COMMON_EXPORT ModelData MakeModelData(const CProjectorItem& item);
 
-/// Connection `index` of the record; an index that the record does not have gives an empty one.
+/// Connection `index` of the record; empty if the record has no such index.
 PROJECTOR_COMMON_EXPORT ConnectionData MakeConnectionData(const CModelInfo2& info, int index);
 
-/// The item's connection; its first text is the dotted address.
+/// The item's connection, with the dotted address as its first text.
 PROJECTOR_COMMON_EXPORT ConnectionData MakeConnectionData(const CProjectorItem& item);
 
 /// "a.b.c.d", `a` from the most significant byte.

@@ -3,11 +3,12 @@
 #include "ProjectorCommonExport.h"
 #include "device/ModelData.h"
 
-/// Whoever holds the model data that the pages and pop-ups read: the dialog they belong to.
+/// The holder of the model data that pages and pop-ups read: the dialog that they belong to.
+/// User-interface thread only.
 class PROJECTOR_COMMON_EXPORT ModelDataSource {
  public:
   virtual ~ModelDataSource() = default;
 
-  /// Owned by the source; unchanged while its pages live.
+  /// Owned by the source; does not change while its pages live.
   virtual const ModelData& Model() const = 0;
 };

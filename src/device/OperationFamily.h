@@ -5,8 +5,8 @@
 #include <cstddef>
 #include <cstdint>
 
-/// The form of an operation: its arguments and what its result means. `kOperationForms` says it
-/// all.
+/// The form of an operation: its arguments and the meaning of its result. `kOperationForms`
+/// describes each family.
 enum class OperationFamily : std::uint8_t {
   Action,
   CheckedReset,
@@ -34,8 +34,8 @@ enum class OperationFamily : std::uint8_t {
 /// What one number of a command stands for.
 enum class Argument : std::uint8_t {
   None,     ///< Nothing; mostly 0.
-  Address,  ///< The source, channel or point that is meant.
-  Value,    ///< The value to set, or of a stepper the value before the step.
+  Address,  ///< The source, channel or point that the operation addresses.
+  Value,    ///< The value to set; for a stepper, the value before the step.
   Flag,
 };
 
@@ -47,17 +47,17 @@ enum class Effect : std::uint8_t {
   Steps,  ///< Changes a value by one step.
 };
 
-/// What the caller of an operation learns from a reply.
+/// What the caller of an operation gets from a reply.
 enum class Tells : std::uint8_t {
-  Nothing,  ///< The reply carries a result all the same.
+  Nothing,  ///< Though the reply carries a result.
   Result,   ///< Accepted or refused.
-  Value,    ///< And, if accepted, the value that was read, or the one after the step.
+  Value,    ///< Also, if accepted, the value read or the one after the step.
 };
 
 /// Which results are a success.
 enum class Success : std::uint8_t { Zero, NonZero, One };
 
-/// What is known of a family of operations.
+/// The properties of a family of operations.
 struct OperationForm {
   OperationFamily family;
   Effect effect;
@@ -65,7 +65,7 @@ struct OperationForm {
   Argument second;  ///< Of `PjtCommand`.
   Tells tells;
   Success success = Success::NonZero;
-  bool isGeneric = false;  ///< A command code says which setting is meant.
+  bool isGeneric = false;  ///< A command code selects the setting.
 };
 
 inline constexpr auto kOperationForms = [] {

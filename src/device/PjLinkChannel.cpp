@@ -58,7 +58,6 @@ void PjLinkChannel::Run(const auto& work) {
     // A projector that closes after each reply has done so before the next request.
     TakeWhatCame();
     if (session_.State() == ConnectionState::Connecting) state_ = ConnectionState::Connecting;
-    hasAnswered_ = hasAnswered_ || session_.State() == ConnectionState::Connected;
   }
   if (wasUsed || session_.State() != before) state_ = session_.State();
   power_ = session_.Power();

@@ -81,8 +81,8 @@ class PROJECTOR_COMMON_EXPORT PjLinkChannel : public ProjectorChannel {
   /// projector does not say. A command that asks for the input next is answered from this one.
   std::pair<std::optional<PjLinkInput>, bool> AskForPresentInput();
 
-  /// Whether the projector has answered anything at all.
-  bool HasAnswered() const { return hasAnswered_; }
+  /// Whether the projector has let us in. It need not have answered anything.
+  bool HasGreeted() const { return session_.HasGreeted(); }
 
   /// What is known by now, to be remembered.
   PjLinkFacts Facts() const;
@@ -110,7 +110,6 @@ class PROJECTOR_COMMON_EXPORT PjLinkChannel : public ProjectorChannel {
   PjLinkSession session_;
   std::chrono::milliseconds longest_ = limits_.answer;
   std::optional<char> rememberedClass_;
-  bool hasAnswered_ = false;
   std::unique_ptr<QTcpSocket> socket_;
   std::atomic<ConnectionState> state_ = ConnectionState::Unused;
   std::atomic<std::optional<PowerState>> power_;

@@ -121,6 +121,7 @@ void PjLinkConnection::TakeGreeting(std::string_view line) {
                                                                : ConnectionState::NotUnderstood);
   }
   proof_ = seed->empty() ? std::string() : PjLink::Digest(*seed, password_);
+  hasGreeted_ = true;
   stage_ = Stage::Sending;
 }
 
@@ -133,6 +134,7 @@ void PjLinkConnection::TakeReply(const std::string& line) {
   }
   if (PjLink::SameWord(line, PjLink::kWrongPassword)) {
     answer_.sent = false;  // nothing is carried out without it
+    hasGreeted_ = false;
     return Lose(ConnectionState::PasswordRequired);
   }
   if (isReply) return;

@@ -71,6 +71,8 @@ class PROJECTOR_COMMON_EXPORT PjLinkConnection {
   PjLinkStep Next(PjLinkTime now);
   const PjLinkAnswer& Answer() const { return answer_; }
   ConnectionState State() const { return state_; }
+  /// Whether the projector has let us in at least once, and did not turn the password down.
+  bool HasGreeted() const { return hasGreeted_; }
 
   // What happens, at any time.
 
@@ -100,6 +102,7 @@ class PROJECTOR_COMMON_EXPORT PjLinkConnection {
 
   Stage stage_ = Stage::Idle;
   ConnectionState state_ = ConnectionState::Unused;
+  bool hasGreeted_ = false;
   bool isOpen_ = false;  ///< As far as the driver has told.
   bool closes_ = false;  ///< The driver is to close it.
   PjLinkTime until_{};   ///< End of the pause, of connecting, or of waiting for the answer.

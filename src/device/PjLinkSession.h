@@ -66,6 +66,7 @@ class PROJECTOR_COMMON_EXPORT PjLinkSession {
   const PjtReply& Reply() const { return reply_; }
   const PjLinkTold& Told() const { return told_; }
   ConnectionState State() const { return connection_.State(); }
+  bool HasGreeted() const { return connection_.HasGreeted(); }
 
   /// The class once it is known, '1' or '2'.
   std::optional<char> ProtocolClass() const { return class_; }

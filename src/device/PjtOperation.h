@@ -20,30 +20,33 @@ inline constexpr std::size_t kOperationCount = 0
 #include "device/PjtOperations.def"
     ;
 
-/// The operation's name, as its member of `CPjtInterface` is called.
+// The functions below may be called from any thread.
+
+/// The operation's name, which is that of its member of `CPjtInterface`.
 PROJECTOR_COMMON_EXPORT std::string_view OperationName(PjtOperation operation);
 
 /// The operation of that name, or nothing.
 PROJECTOR_COMMON_EXPORT std::optional<PjtOperation> OperationByName(std::string_view name);
 
-/// The operation's number on the wire, 1 or above, and the operation of that number, or nothing.
+/// The operation's number in the wire protocol, 1 or above; and the operation with a number, or
+/// nothing.
 PROJECTOR_COMMON_EXPORT std::uint16_t OperationNumber(PjtOperation operation);
 PROJECTOR_COMMON_EXPORT std::optional<PjtOperation> OperationByNumber(std::uint16_t number);
 
 PROJECTOR_COMMON_EXPORT OperationFamily FamilyOf(PjtOperation operation);
 inline const OperationForm& FormOf(PjtOperation operation) { return FormOf(FamilyOf(operation)); }
 
-/// Whether `result`, as a reply carries it, says that the projector did what was asked. Families
-/// whose caller gets no result still carry one in the reply: nonzero is success.
+/// Whether `result`, taken from a reply, is a success. This also works for families whose caller
+/// gets no result: their replies carry one, and nonzero is success.
 PROJECTOR_COMMON_EXPORT bool IsSuccess(PjtOperation operation, int result);
 
-/// A result that says success, and one that says refusal, by the operation's family.
+/// A result that means success, and one that means refusal, for the operation's family.
 PROJECTOR_COMMON_EXPORT int AcceptedResult(PjtOperation operation);
 PROJECTOR_COMMON_EXPORT int RefusedResult(PjtOperation operation);
 
 /// Whether the operation only reads.
 PROJECTOR_COMMON_EXPORT bool IsRead(PjtOperation operation);
 
-/// Whether doing it twice comes to the same as doing it once, whatever the projector has before: of
-/// reads and of changes that name what they lead to. A step does not, nor does an adjustment.
+/// Whether the operation can be repeated without changing its effect: true for reads and for
+/// changes to a given value, false for steps and automatic adjustments.
 PROJECTOR_COMMON_EXPORT bool IsAbsolute(PjtOperation operation);

@@ -25,64 +25,66 @@ struct PjtReply {
   int result = 0;          ///< Success or refusal as the operation's family says (`IsSuccess`).
   std::int16_t value = 0;  ///< The value read or stepped to; meaningful only on success.
   bool answered = true;    ///< False when no answer came; `result` is then a refusal.
-  bool offered = true;   ///< False when it is known that the projector has no such setting at all;
-                         ///< `result` is then a refusal.
-  bool busy = false;     ///< True when the projector cannot do it now: it switches, warms up, cools
-                         ///< down or is in standby; `result` is then a refusal.
-  bool pending = false;  ///< True when a change was accepted and the projector did not have it yet
-                         ///< when the time was over; `result` is then a success.
-  bool unsent = false;   ///< True when the command is unanswered and never left, so that the
-                         ///< projector cannot have carried it out.
-  bool abandoned = false;  ///< True when the command is unanswered because nobody waited any more.
+  bool offered = true;     ///< False when the projector is known not to have the setting; `result`
+                           ///< is then a refusal.
+  bool busy = false;       ///< True when the projector cannot do it now, because it is switching,
+                           ///< warming up, cooling down or in standby; `result` is then a refusal.
+  bool pending = false;    ///< True when a change was accepted but had not taken effect within the
+                           ///< time-out; `result` is then a success.
+  bool unsent = false;     ///< True when the command is unanswered and was never sent, so that the
+                           ///< projector cannot have carried it out.
+  bool abandoned = false;  ///< True when the command is unanswered because it was abandoned.
 };
 
-/// What a projector does, where it tells more than the value of its running state says.
+/// The power state, if the projector reports it in more detail than the value of its running state.
 enum class PowerState : std::uint8_t { Standby, On, CoolingDown, WarmingUp };
 
-/// The way to one projector: a real connection, a simulation, or a channel around a channel that
-/// logs, bounds or disturbs. Called from one thread at a time; `Connection`, `Inputs` and `Power`
-/// from any.
+/// Sends commands to one projector: a real connection, a simulation, or a decorator that logs,
+/// limits or disturbs another channel. Call it from one thread at a time; `Connection`, `Inputs`
+/// and `Power` may be called from any thread at any time.
 class PROJECTOR_COMMON_EXPORT ProjectorChannel {
  public:
   virtual ~ProjectorChannel() = default;
 
-  /// Blocks until the projector answered or the channel gave up. Never throws.
+  /// Sends a command; blocks until the projector has answered or the channel gives up. Never
+  /// throws.
   virtual PjtReply Execute(const PjtCommand& command) = 0;
 
-  /// Says which reads are about to be executed, in this order, so that a channel may ask for all of
-  /// them at once. Binds nobody: any command may follow. Replaces what was announced before.
+  /// Announces the reads that are about to be executed, in this order, so that a channel may send
+  /// them all at once. This is only a hint: any command may follow. Replaces earlier announcements.
   virtual void Announce(std::span<const PjtCommand>) {}
 
-  /// Each command that follows is given up after this time, where the channel can do so, and after
-  /// the channel's own time at the latest.
+  /// Sets a time-out for all following commands, if the channel supports it. The channel's own
+  /// time-out still applies if it is shorter.
   virtual void GiveUpAfter(std::chrono::milliseconds) {}
 
-  /// Nobody waits for the projector any more, nor for what was announced. An `Execute` that lets an
-  /// event loop run ends at once, unanswered; the reply to its command is dropped. A channel that
-  /// spares a silent projector forgets that it was silent. Called on the thread of `Execute`, from
-  /// inside its event loop or between two commands.
+  /// Abandons the command under way and the announced reads. An `Execute` that runs an event loop
+  /// returns at once, unanswered, and the reply to its command is dropped. A channel that fails
+  /// fast for a silent projector tries the next command again. Called on the thread of `Execute`,
+  /// from inside its event loop or between two commands.
   virtual void Abandon() {}
 
-  /// How the connection stands; of a channel that has none, `ConnectionState::None`.
+  /// The state of the connection; `ConnectionState::None` for a channel without one. Any thread.
   virtual ConnectionState Connection() const { return ConnectionState::None; }
 
-  /// The inputs as the projector itself has told them; nothing as long as it has not. Waits for
-  /// nothing: once asked, a channel that can find them out does so when it is idle.
+  /// The inputs that the projector itself has reported; nothing until then. Does not block: after
+  /// the first call, a channel that can ask the projector for them does so when it is idle. Any
+  /// thread.
   virtual std::optional<SourceList> Inputs() { return std::nullopt; }
 
-  /// The power state as the projector itself told it last; nothing as long as it has not, or where
-  /// the value of the running state is all that it tells. Waits for nothing.
+  /// The power state that the projector reported last; nothing until then, or if it reports no more
+  /// than the value of the running state. Does not block. Any thread.
   virtual std::optional<PowerState> Power() const { return std::nullopt; }
 
-  /// Nobody waits for the projector, which has answered the last command: time for one exchange of
-  /// the channel's own. Whether there is more to do. Called on the thread of `Execute`, between two
-  /// commands. Never throws.
+  /// Called when no command waits and the last one was answered: the channel may make one exchange
+  /// of its own. Returns whether there is more to do. Called on the thread of `Execute`, between
+  /// two commands. Never throws.
   virtual bool UseIdleTime() { return false; }
 
-  /// Looks after the connection, which no command has used for the time `unused`: notices that the
-  /// other end has closed it, and closes one that has not been used for long. Whether there is one
-  /// still. Waits for nothing. Called on the thread of `Execute`, between two commands. Never
-  /// throws.
+  /// Checks a connection that no command has used for the time `unused`: detects that the other
+  /// end has closed it, and closes it after a long time without use. Returns whether there still
+  /// is a connection. Does not block. Called on the thread of `Execute`, between two commands.
+  /// Never throws.
   virtual bool TendConnection(std::chrono::milliseconds unused) {
     static_cast<void>(unused);
     return false;

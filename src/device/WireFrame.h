@@ -10,8 +10,9 @@
 #include "ProjectorCommonExport.h"
 #include "device/ProjectorChannel.h"
 
-/// The frames in which a program and a projector talk over TCP and over serial lines; docs/wire.md
-/// says every byte. Bytes are held in `std::string`s.
+/// The frames that a program and a projector exchange over TCP and serial lines; docs/wire.md
+/// describes every byte. Bytes are kept in `std::string`. The functions may be called from any
+/// thread, a `Decoder` from one thread at a time.
 namespace Wire {
 
 inline constexpr std::uint8_t kVersion = 1;
@@ -34,7 +35,7 @@ struct Welcome {
 };
 
 struct Request {
-  std::uint16_t operation = 0;  ///< Its number, known here or not.
+  std::uint16_t operation = 0;  ///< The operation's number; may be unknown here.
   std::uint16_t code = 0;
   std::int16_t first = 0;
   std::int16_t second = 0;
@@ -43,10 +44,10 @@ struct Request {
 };
 
 enum class Status : std::uint8_t {
-  Answered = 0,  ///< `result` and `value` are the projector's; a refusal is among them.
+  Answered = 0,  ///< `result` and `value` are the projector's, also for a refusal.
   UnknownOperation = 1,
-  Unanswered = 2,  ///< The projector's inside did not answer.
-  NoHello = 3,     ///< A request came before the versions were settled.
+  Unanswered = 2,  ///< The projector's internals did not answer.
+  NoHello = 3,     ///< A request came before a version was agreed.
 };
 
 struct Reply {
@@ -57,7 +58,7 @@ struct Reply {
   friend bool operator==(const Reply&, const Reply&) = default;
 };
 
-/// A reply bears the sequence number of its request, a welcome that of its hello.
+/// A reply carries the sequence number of its request, a welcome that of its hello.
 struct Frame {
   std::uint16_t sequence = 0;
   std::variant<Hello, Welcome, Request, Reply> message;
@@ -65,20 +66,20 @@ struct Frame {
   friend bool operator==(const Frame&, const Frame&) = default;
 };
 
-/// Puts the frame's bytes, at most `kMaximumFrame`, behind `bytes`.
+/// Appends the frame's bytes, at most `kMaximumFrame`, to `bytes`.
 PROJECTOR_COMMON_EXPORT void Append(std::string& bytes, const Frame& frame);
 
 PROJECTOR_COMMON_EXPORT Request MakeRequest(const PjtCommand& command);
-/// Nothing where no operation has that number.
+/// Nothing if no operation has that number.
 PROJECTOR_COMMON_EXPORT std::optional<PjtCommand> MakeCommand(const Request& request);
 
-/// Finds frames in bytes that arrive in pieces of any size. What is no frame is skipped byte by
-/// byte, so that a frame behind noise is found.
+/// Finds frames in bytes that arrive in pieces of any size. Bytes that are not part of a frame are
+/// skipped one at a time, so that a frame after noise is found.
 class PROJECTOR_COMMON_EXPORT Decoder {
  public:
   void Add(std::string_view bytes) { bytes_.append(bytes); }
 
-  /// The next frame, or nothing as long as none is complete. Afterwards fewer bytes are held than
+  /// The next frame, or nothing if none is complete yet. The decoder then holds fewer bytes than
   /// the longest frame has.
   std::optional<Frame> Next();
 

@@ -32,17 +32,17 @@ struct PagePopUp;
 /// The "Advanced Control" dialog of one projector: a tab per group of settings, each read live and
 /// changed at once.
 ///
-/// Use: construct, hand over the model with one of the `CopyData` forms, give `Projector()` the
-/// channel to the projector, then `DoModal`, or `CreateShown` for a dialog beside the host's other
-/// windows. The dialog keeps its own copy of all it is given and
-/// talks to the projector from the thread it lives on, the user-interface thread.
+/// To use it, construct it, pass the model to one of the `CopyData` forms, set the channel of
+/// `Projector()`, and call `DoModal`, or `CreateShown` for a dialog beside the host's other
+/// windows. The dialog copies all data passed to it. User-interface thread only; commands are sent
+/// from that thread too.
 ///
-/// What a `CopyData` form gives while the dialog is open, or while one of its handlers still runs,
-/// takes effect when the dialog is created next: an open dialog goes on with the model and the
-/// connection that it was created with, and `Model` tells that model.
+/// Data passed to a `CopyData` form while the dialog is open, or while one of its handlers still
+/// runs, takes effect when the dialog is created next. An open dialog keeps the model and the
+/// connection that it was created with, and `Model` returns that model.
 ///
-/// Where the host names no inputs, the dialog takes those that the projector tells over PJLink, as
-/// soon as it knows them and no handler runs.
+/// If the host names no inputs, the dialog uses those that the projector reports over PJLink, once
+/// they are known and no handler runs.
 class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSource {
   Q_OBJECT
 
@@ -79,17 +79,17 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
                  std::string text24, std::string text25, std::string text26, std::string text27,
                  std::string text28, std::string text29, std::string text30, std::string text31);
 
-  /// Everything from a model record, with connection entry `connection` (0..4; another index
-  /// gives an empty connection). Null changes nothing.
+  /// Takes everything from a model record, with its connection entry `connection` (0..4; any other
+  /// index gives an empty connection). Null changes nothing.
   void CopyData(const CModelInfo2* model, int connection);
 
-  /// Everything from a projector of the host's list: its own name and connection, and the record
-  /// of its model. Null changes nothing; an item without a record gives a model of which only the
-  /// name is known.
+  /// Takes everything from a projector of the host's list: its own name and connection, and the
+  /// record of its model. Null changes nothing. An item without a record gives a model with only a
+  /// name.
   void CopyData(const CProjectorItem* item);
 
-  /// Other sources, also while the dialog is open, for a host that learns of them later: the lists
-  /// that offer them are filled anew, and the shown page is read again as soon as no command waits.
+  /// Replaces the input sources, even while the dialog is open, for a host that learns of them
+  /// later. Lists of sources are refilled, and the shown page is read again once no command waits.
   void ReplaceSources(const SourceList& sources);
 
   /// The connection object that all pages use; owned by the dialog.
@@ -102,12 +102,12 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
 
   /// Configures the connection, creates the pages and inserts the tabs.
   bool OnInitDialog() override;
-  /// Shows the page of the selected tab, read afresh, and hides all others. While a command waits,
-  /// what sent it is abandoned, and the page is read as soon as that has ended.
+  /// Shows the page of the selected tab, reads it, and hides all others. If a command waits, its
+  /// handler is abandoned, and the page is read once the handler has returned.
   void DispTabScreen();
-  /// Another tab was selected.
+  /// Called when another tab was selected.
   void OnSelchangeAdvanceTab();
-  /// Puts the host's resource module back.
+  /// Restores the host's resource module.
   void OnDestroy() override;
 
   /// The page behind the selected tab, or null.
@@ -117,13 +117,13 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
 
   const NotificationMap& Notifications() const override;
 
-  /// The size that shows all tabs and every page whole. The dialog opens smaller where the screen
-  /// has no room for it: the page then scrolls.
+  /// The size that shows all tabs and every page completely. If the screen is too small for it, the
+  /// dialog opens smaller and the page scrolls.
   QSize sizeHint() const override { return wholeSize_; }
 
  protected:
   void DoDataExchange() override;
-  /// Takes the channel away until the dialog is created again.
+  /// Removes the channel until the dialog is created again.
   void OnOrphaned() override;
   void OnBusy() override;
   void OnIdle() override;
@@ -142,7 +142,7 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
     std::optional<ConnectionData> connection;  ///< None where only the model was given.
   };
 
-  /// Where the next creation finds its model.
+  /// The model to use for the next creation.
   ModelData& ModelToCreate();
   void TakeConnection(const ConnectionData& connection);
   void UseIntake();
@@ -151,7 +151,7 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
   void CreatePage(PageId id);
   void InsertTabs();
   void SetTitle();
-  /// What the projector has told anew of its inputs, where the host names none.
+  /// Inputs newly reported by the projector, if the host names none.
   std::optional<SourceList> ToldInputs() const;
   void TakeToldInputs();
   std::optional<PageId> PageIdBehind(int tab) const;

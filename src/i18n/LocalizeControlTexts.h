@@ -9,9 +9,10 @@ class QWidget;
 
 inline namespace AdvancedControl {
 
-/// Replaces the caption of `dialog` and of each of its direct children, where it has the form
-/// number, ";", default text, by the catalog text of that number in `category`. Other captions and
-/// nested children are left alone. Without a catalog nothing changes.
+/// Localizes the captions of `dialog` and its direct children: a caption of the form
+/// "number;default text" is replaced with the catalog text of that number in `category`. Other
+/// captions and nested children do not change, and without a catalog nothing does. User-interface
+/// thread only.
 ADVANCED_CONTROL_EXPORT void LocalizeControlTexts(int category, QWidget& dialog);
 
 /// A catalog text for the user interface; see `CatalogText`.

@@ -11,9 +11,9 @@ inline constexpr std::uint32_t kEnglishUnitedStates = 1033;
 inline constexpr std::uint32_t kChineseSimplified = 2052;
 
 /// The system default language identifier: that of the locale in LC_ALL, LC_MESSAGES or LANG,
-/// whichever is first set and not empty. Encoding and modifier do not count. A locale without a
-/// region has the language's default one, so that plain Chinese is 2052. No locale, "C", "POSIX"
-/// and locales without an identifier are 1033.
+/// whichever is first set and not empty. Encoding and modifier are ignored. A locale without a
+/// region gets the language's default region, so plain Chinese is 2052. Without a locale, and for
+/// "C", "POSIX" and locales without an identifier, the result is 1033.
 ///
 /// Follows changes of the environment. Called from the user-interface thread.
 PROJECTOR_SETTINGS_EXPORT std::uint32_t SystemLanguageId();

@@ -9,32 +9,33 @@
 
 inline namespace AdvancedControl {
 
-/// An operation of the projector as a row's data: all of a command but the value that it carries.
+/// An operation in a row's data: a command without its value.
 struct Call {
   PjtOperation operation{};
   std::uint16_t code = 0;    ///< Command code of a generic operation.
   std::int16_t address = 0;  ///< Source, point or channel of an addressed operation.
   PerModel<int> flag{0};     ///< Second argument of a flagged setter.
-  bool anyResult = false;    ///< Any result but 0 is a success, whatever the family says.
+  bool anyResult = false;    ///< Any nonzero result is a success, whatever the family says.
 
   /// The command for a model, with `value` where the operation takes one.
   PROJECTOR_SETTINGS_EXPORT PjtCommand Command(int value = 0, int modelCode = 0) const;
 };
 
-/// What came of a call.
+/// The result of a call.
 struct Answer {
   bool accepted = false;
   int value = 0;  ///< The value read or stepped to; meaningful only when accepted.
 };
 
-/// Sends a call. What a caller cannot learn counts as accepted: operations without a result.
+/// Sends a call, on the thread on which the connection's channel may be called. Operations without
+/// a result count as accepted.
 PROJECTOR_SETTINGS_EXPORT Answer Perform(CPjtInterface& projector, const Call& call, int value = 0,
                                          int modelCode = 0);
 
-/// Reads a setting; nothing when the read fails.
+/// Reads a setting, on the same thread; nothing if the read fails.
 PROJECTOR_SETTINGS_EXPORT std::optional<int> Read(CPjtInterface& projector, const Call& call);
 
-// How a table names its calls.
+// Functions with which tables describe their calls.
 
 constexpr Call Get(std::uint16_t code) { return {PjtOperation::Get, code}; }
 constexpr Call Set(std::uint16_t code) { return {PjtOperation::Set, code}; }
@@ -48,7 +49,7 @@ constexpr Call Named(PjtOperation operation, int address = 0) {
 constexpr Call Flagged(PjtOperation operation, PerModel<int> flag) {
   return {.operation = operation, .flag = flag};
 }
-/// The same call, with any result but 0 a success.
+/// The same call, but any nonzero result is a success.
 constexpr Call AnyResult(Call call) {
   call.anyResult = true;
   return call;

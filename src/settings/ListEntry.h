@@ -13,7 +13,7 @@
 
 inline namespace AdvancedControl {
 
-/// An entry of a list: its text, and the device value that it stands for.
+/// An entry of a list: its text and its device value.
 struct ListEntry {
   constexpr ListEntry() = default;
   constexpr ListEntry(int listText, int deviceValue = 0) : text(listText), value(deviceValue) {}
@@ -22,14 +22,14 @@ struct ListEntry {
   constexpr ListEntry(std::string_view fixedText, int deviceValue)
       : name(fixedText), value(deviceValue) {}
 
-  std::optional<int> text{};  ///< Number in the list category of the catalog; else `name` is it.
+  std::optional<int> text{};  ///< Number in the list category; without one, `name` is used.
   std::string_view name{};    ///< A text that is the same in every language.
   int value = 0;
 
   friend bool operator==(const ListEntry&, const ListEntry&) = default;
 };
 
-/// Entries that stand for `first` and the values after it.
+/// Entries with the values `first`, `first` + 1 and so on.
 template <int first = 0, class... Texts>
 constexpr std::array<ListEntry, sizeof...(Texts)> Numbered(Texts... texts) {
   std::array<ListEntry, sizeof...(Texts)> entries{ListEntry(texts)...};
@@ -37,13 +37,13 @@ constexpr std::array<ListEntry, sizeof...(Texts)> Numbered(Texts... texts) {
   return entries;
 }
 
-/// The entries of some models; without codes those of every other model.
+/// The entries of some models; without codes, the entries of all other models.
 struct ModelEntries {
   ModelCodes codes;
   std::span<const ListEntry> entries;
 };
 
-/// The entries of a list: the same for every model, told per model, or made from the model's data.
+/// The entries of a list: the same for every model, given per model, or made from the model's data.
 class Entries {
  public:
   using Maker = std::vector<ListEntry> (*)(const ModelData& model);
@@ -66,20 +66,21 @@ class Entries {
   Maker maker_ = nullptr;
 };
 
-// Lists that the model brings with it.
+// Lists made from the model's data. Any thread.
 
 PROJECTOR_SETTINGS_EXPORT std::vector<ListEntry> GammaEntries(const ModelData& model);
 PROJECTOR_SETTINGS_EXPORT std::vector<ListEntry> ColorTempEntries(const ModelData& model);
-/// The same under the texts that only one page uses.
+/// The same with the texts that only one page uses.
 std::vector<ListEntry> Picture1ColorTempEntries(const ModelData& model);
-/// The lamp modes that the dialogs have a text for. Each stands for its position, so that an
-/// unknown name moves the modes behind it up: the position is what the projector takes.
+/// The lamp modes whose names the dialogs know. The value of a mode is its position among the known
+/// ones, which is what the projector takes: an unknown name moves the modes after it up.
 PROJECTOR_SETTINGS_EXPORT std::vector<ListEntry> WhisperEntries(const ModelData& model);
 PROJECTOR_SETTINGS_EXPORT std::vector<ListEntry> AspectEntries(const ModelData& model);
-/// The input sources under their own names; the upper half of a source's word is none of its code.
+/// The input sources with their own names. The upper half of a source's word is not part of its
+/// code.
 PROJECTOR_SETTINGS_EXPORT std::vector<ListEntry> SourceEntries(const ModelData& model);
 
-/// Position of the first entry that stands for `value`, or −1.
+/// Position of the first entry with this value, or −1.
 PROJECTOR_SETTINGS_EXPORT int PositionOf(std::span<const ListEntry> entries, int value);
 
 }  // namespace AdvancedControl

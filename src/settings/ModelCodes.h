@@ -9,7 +9,7 @@
 
 inline namespace AdvancedControl {
 
-/// Model codes that share something.
+/// A set of model codes.
 class ModelCodes {
  public:
   static constexpr std::size_t kCapacity = 20;
@@ -30,10 +30,10 @@ class ModelCodes {
   std::ptrdiff_t count_;
 };
 
-/// The models that have a row, told by the row itself; all of them unless told otherwise.
+/// The models that have a row, as given in the row itself; by default all of them.
 struct Presence {
   ModelCodes codes{};
-  bool except = true;  ///< `codes` are the ones that lack the row, else the ones that have it.
+  bool except = true;  ///< True if the models of `codes` lack the row, false if only they have it.
 
   constexpr bool Has(int modelCode) const { return codes.Contains(modelCode) != except; }
 };
@@ -41,7 +41,7 @@ struct Presence {
 constexpr Presence OnlyOn(std::same_as<int> auto... codes) { return {{codes...}, false}; }
 constexpr Presence NotOn(std::same_as<int> auto... codes) { return {{codes...}, true}; }
 
-/// Something that some models have in another form than all others.
+/// A value that is different on some models.
 template <class Value>
 struct PerModel {
   constexpr PerModel() = default;
@@ -56,13 +56,13 @@ struct PerModel {
   Value exception{};
 };
 
-/// The rows of some models: a digit per row in the page's row order, 1 for a row that they have.
+/// The rows of some models: one digit per row in the page's order, 1 for a row that they have.
 /// Blanks may group the digits.
 struct ModelRows {
   ModelCodes codes;
   std::string_view digits;
 
-  /// The digit of a row; a row behind the last digit is one that every model has.
+  /// Whether the models have a row; every model has the rows after the last digit.
   constexpr bool Has(std::size_t row) const {
     for (const char digit : digits) {
       if (digit != ' ' && row-- == 0) return digit == '1';
@@ -71,7 +71,7 @@ struct ModelRows {
   }
 };
 
-/// For a static_assert beside a table: each line tells every row.
+/// Whether each line has a digit for every row; for a static_assert beside a table.
 constexpr bool AreComplete(std::span<const ModelRows> table, std::ptrdiff_t rowCount) {
   return std::all_of(table.begin(), table.end(), [rowCount](const ModelRows& models) {
     const auto count = [&models](char digit) {

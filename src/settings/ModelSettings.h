@@ -15,27 +15,27 @@
 
 inline namespace AdvancedControl {
 
-/// One setting of a model, as a program without a window sees it.
+/// One setting of a model, for programs without a window.
 struct PROJECTOR_SETTINGS_EXPORT ModelSetting {
   enum class Kind : std::uint8_t {
     Number,  ///< Any whole number of `range`.
     Choice,  ///< The value of one of `entries`; switches are choices too.
-    State,   ///< What the projector does now; some are switches too.
+    State,   ///< What the projector is doing now; some are switches as well.
     Action,  ///< Neither read nor changed: the projector does something.
   };
 
   std::string_view key;  ///< Unique within a model, and the same on every model that has it.
-  int caption = 0;       ///< Number in the caption category; 0 where `key` is all that there is.
-  int tab = 0;           ///< Caption number of the tab that it stands on.
+  int caption = 0;       ///< Number in the caption category; 0 if the setting only has a `key`.
+  int tab = 0;           ///< Caption number of the tab that it is on.
   Kind kind = Kind::State;
   int bias = 0;                    ///< Shown value = device value − `bias`.
-  std::optional<Range> range{};    ///< Device values; none where only the projector bounds it.
+  std::optional<Range> range{};    ///< Device values; none if only the projector limits it.
   std::vector<ListEntry> entries;  ///< In the list's order; names may point into the model's data.
-  std::optional<int> placeholder{};  ///< Value of an entry that is shown, and never sent.
-  int otherwise = 0;                 ///< Text of a state's other values, which are its insert.
-  std::optional<Call> reset{};       ///< Puts it back to the projector's own standard.
-  OfSource of = OfSource::None;      ///< Kept for each input source; read and changed for any.
-  bool ofCurrentSourceOnly = false;  ///< The same, but of the source that plays at that time.
+  std::optional<int> placeholder{};  ///< Value of an entry that is shown but never sent.
+  int otherwise = 0;            ///< Text for other values of a state, with the value as its insert.
+  std::optional<Call> reset{};  ///< Resets it to the projector's default.
+  OfSource of = OfSource::None;  ///< Kept for each input source; can be read and changed for any.
+  bool ofCurrentSourceOnly = false;  ///< The same, but can be reached for the present source only.
   bool readable = false;
   bool changeable = false;
   const PageRow* row = nullptr;  ///< Never null in a list of settings.
@@ -57,11 +57,11 @@ struct SourcedSetting {
   std::optional<int> source{};  ///< Nothing for one that belongs to none, or while unknown.
 };
 
-/// The keys of every model's settings; some stand here more than once.
+/// The keys of all settings of all models, with duplicates.
 PROJECTOR_SETTINGS_EXPORT std::vector<std::string_view> AllKeys();
 
-/// All settings of a model in the order of its pages, the pop-ups' behind those of the page that
-/// opens them.
+/// All settings of a model in the order of its pages; those of a pop-up follow those of the page
+/// that opens it. Call it from the thread on which the connection's channel may be called.
 class PROJECTOR_SETTINGS_EXPORT ModelSettings {
  public:
   explicit ModelSettings(ModelData model);
@@ -73,25 +73,23 @@ class PROJECTOR_SETTINGS_EXPORT ModelSettings {
 
   /// The setting that chooses the input source, or null.
   const ModelSetting* Input() const;
-  /// Whether a setting is kept for this source. Any counts where the model does not tell its
-  /// inputs.
+  /// Whether a setting is kept for this source; true for any source if the model lists no inputs.
   bool HasSource(const ModelSetting& setting, int source) const;
-  /// The source that a setting kept for each of them belongs to now; nothing for any other, or
-  /// while the projector does not say.
+  /// The source that a per-source setting belongs to now; nothing for any other setting, or if the
+  /// projector does not report it.
   std::optional<int> PresentSource(CPjtInterface& projector, const ModelSetting& setting) const;
-  /// Tells the connection what will be read next, in this order, so that it may ask for all at
-  /// once.
+  /// Announces the next reads to the connection, in this order, so that it may send them at once.
   void Announce(CPjtInterface& projector, std::span<const SourcedSetting> settings) const;
-  /// The same for the sources that the settings belong to now. Each is asked for once, and holds as
-  /// long as nothing is changed.
+  /// The same for the sources that the settings belong to now. Each source is asked for once, and
+  /// is valid until something is changed.
   std::vector<SourcedSetting> PrepareReads(CPjtInterface& projector,
                                            std::span<const ModelSetting* const> settings) const;
-  /// The device value, of `source` or else the present one; nothing where the projector refuses it
-  /// or does not answer.
+  /// The device value for `source`, or else for the present source; nothing if the projector
+  /// refuses or does not answer.
   std::optional<int> Read(CPjtInterface& projector, const ModelSetting& setting,
                           std::optional<int> source = {}) const;
-  /// Sends a device value that the setting allows. False where the projector refuses it; a setter
-  /// without a result never does, so that only reading tells what came of it.
+  /// Sends a device value that the setting allows. False if the projector refuses it. A setter
+  /// without a result always returns true; read the setting to find out whether it has changed.
   bool Change(CPjtInterface& projector, const ModelSetting& setting, int value,
               const Sending& how = {}) const;
 

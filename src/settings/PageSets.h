@@ -22,11 +22,11 @@ struct PageTab {
   PageId page;
 };
 
-/// The pages that a page set creates after the status page, in order; none for a dialog type
-/// outside 1..5. Some get no tab on some models.
+/// The pages of a page set after the status page, in order; none for a dialog type outside 1..5. A
+/// page may have no tab on some models. Any thread.
 PROJECTOR_SETTINGS_EXPORT std::span<const PageId> PagesOf(int dialogType);
 
-/// The tabs that a model shows after the status tab, in order.
+/// The tabs that a model shows after the status tab, in order. Any thread.
 PROJECTOR_SETTINGS_EXPORT std::span<const PageTab> TabsOf(int dialogType, int modelCode);
 
 }  // namespace AdvancedControl

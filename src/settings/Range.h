@@ -14,9 +14,10 @@ struct Range {
   friend bool operator==(const Range&, const Range&) = default;
 };
 
-/// A model's range text, "minimum,maximum" in device units, as shown values: device value − bias.
-/// A text that is empty, does not have a decimal 16-bit integer on both sides of its first comma,
-/// or has them in the wrong order gives `fallback`, which is in shown values already.
+/// Converts a model's range text, "minimum,maximum" in device units, to shown values (device value
+/// − bias). Returns `fallback`, which is in shown values, if the text is empty, does not have a
+/// decimal 16-bit integer on each side of its first comma, or has a minimum above its maximum. Any
+/// thread.
 PROJECTOR_SETTINGS_EXPORT Range ParseRange(std::string_view text, int bias, Range fallback);
 
 }  // namespace AdvancedControl

@@ -10,65 +10,65 @@
 
 inline namespace AdvancedControl {
 
-// Rows in use: what a row's data makes of the projector. Whoever reads or changes a setting does it
-// here: the dialogs' rows, programs without a window, snapshots. Values are device values.
+// Reads and changes settings as their rows say, for the rows of dialogs, for programs without a
+// window and for snapshots. Values are device values. Call these functions on the thread on which
+// the connection's channel may be called.
 
-/// Asks for the input source that a row belongs to: nothing while the projector does not say
-/// enough; 0, without asking, for a row that belongs to none.
+/// Asks for the input source that a row belongs to. Nothing if the projector does not report it; 0,
+/// without asking, for a row that belongs to none.
 PROJECTOR_SETTINGS_EXPORT std::optional<int> AskSource(CPjtInterface& projector, OfSource of,
                                                        int modelCode);
-/// The source that stands for none: what a model plays while it does not run. Nothing for a row
-/// that does not belong to it.
+/// The source that a model uses while it is not running. Nothing for a row without such a source.
 std::optional<int> StandbySource(OfSource of, int modelCode);
-/// What `AskSource` will ask first, in order.
+/// The first questions of `AskSource`, in order.
 PROJECTOR_SETTINGS_EXPORT std::span<const Call> SourceQuestions(OfSource of);
 
-/// Reads a row's setting; nothing when that fails, or for a row that shows none. `source` is taken
-/// instead of asking for the one that the row belongs to.
+/// Reads a row's setting. Nothing if that fails, or for a row that shows no setting. If `source` is
+/// given, the projector is not asked for the row's source.
 PROJECTOR_SETTINGS_EXPORT std::optional<int> ReadRow(CPjtInterface& projector, const PageRow& row,
                                                      const ModelData& model,
                                                      std::optional<int> source = {});
 
-/// How a value is sent, beside the value.
+/// Options for sending a value.
 struct Sending {
-  std::string text{};           ///< The entry's, which some connections are told.
-  std::optional<int> source{};  ///< Instead of the present one.
-  /// Asked before each of the steps that a setting without a setter needs.
+  std::string text{};           ///< Text of the entry, which some connections use.
+  std::optional<int> source{};  ///< Used instead of the present source.
+  /// Asked before each step if the setting has no setter; false stops.
   std::function<bool()> goesOn = [] { return true; };
-  std::optional<int> position{};  ///< The chosen entry's, where several stand for the value.
+  std::optional<int> position{};  ///< Of the chosen entry, if several have the value.
 };
 
-/// What became of a value that was to be sent.
+/// The result of sending a value.
 enum class Sent : std::uint8_t {
-  Nothing,  ///< The row does not take it, or its input source is unknown.
+  Nothing,  ///< The row does not allow it, or its input source is unknown.
   Refused,
-  Accepted,  ///< Also where the setter has no result.
+  Accepted,  ///< Also if the setter has no result.
 };
 
-/// Sends a value: an entry's of a list, 0 or 1 of a switch. A row that only steps is stepped to it,
-/// see `StepTo`.
+/// Sends a value: that of a list's entry, or 0 or 1 for a switch. A row without a setter is stepped
+/// to it, see `StepTo`.
 PROJECTOR_SETTINGS_EXPORT Sent SendRow(CPjtInterface& projector, const PageRow& row,
                                        const ModelData& model, int value, const Sending& how = {});
 
-/// The source that a step goes to, of the one that `AskSource` gave; nothing where no step is made.
+/// The source that a step addresses, given the result of `AskSource`; nothing if no step is made.
 PROJECTOR_SETTINGS_EXPORT std::optional<int> SteppedSource(OfSource of, std::optional<int> asked);
 
-/// What came of a step: refused, or the new value; neither where nothing was sent, or where the new
+/// The result of a step: refused, or the new value. Neither if nothing was sent, or if the new
 /// value could not be read.
 struct Stepped {
   bool refused = false;
   std::optional<int> value{};
 };
 
-/// Steps a row inside `bounds`, which are shown values, as `known` is, the one known last.
+/// Steps a row within `bounds`. `bounds` and `known`, the last known value, are shown values.
 PROJECTOR_SETTINGS_EXPORT Stepped Step(CPjtInterface& projector, const ValueRow& row, bool upwards,
                                        int source, Range bounds, int known);
 
-/// Makes one step from the value `present`, and gives the value there is then.
+/// Makes one step from the value `present` and returns the new value.
 using Stepper = std::function<Stepped(bool upwards, int present)>;
 
-/// Steps from `present` to `wanted`, as long as `goesOn`. A step that leads no nearer, or past it,
-/// is the last; one that was refused is tried again, since it may have been lost, but not for ever.
+/// Steps from `present` to `wanted` while `goesOn` returns true. Ends after a step that comes no
+/// nearer or goes past it. A refused step is repeated a few times, because it may have been lost.
 PROJECTOR_SETTINGS_EXPORT Sent StepTo(int present, int wanted, const Stepper& step,
                                       const std::function<bool()>& goesOn);
 

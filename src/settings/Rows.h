@@ -15,10 +15,11 @@
 
 inline namespace AdvancedControl {
 
-// The kinds of rows that a page's table is made of. A row tells what a setting is called, how it is
-// read, sent and stepped, and by which numbered controls a dialog shows it; no widget is needed to
-// use it (see RowUse.h). `key` is the setting's stable name, unique within a model; `caption` is
-// its number in the caption category of the catalog.
+// The kinds of rows in a page's table. A row says what a setting is called, how it is read, sent
+// and stepped, and which numbered controls of a dialog show it. It can be used without widgets (see
+// RowUse.h). `key` is the setting's stable name, unique within a model; `caption` is its number in
+// the caption category of the catalog. Rows do not change; the functions may be called from any
+// thread.
 //
 //   kind      read  changed          values                     may be sent again later
 //   ListRow   yes   SendRow          the entries'               yes, where it is read and sent
@@ -30,48 +31,47 @@ inline namespace AdvancedControl {
 //   ResetRow        its entries      see ResetOf                no
 //   PopUpRow        -                -                          no: a button of the page alone
 
-/// What a list shows for a value that it has no entry for.
+/// What a list shows for a value without an entry.
 enum class NoEntry : std::uint8_t {
   Clears,      ///< Nothing is selected.
   Keeps,       ///< The selection stays.
-  IsPosition,  ///< The value is taken for the position.
-  Ignored,     ///< As if it had not been read: the list's state stays as well.
-  IsOrdinal,   ///< The value is taken for the position counted from 1.
+  IsPosition,  ///< The value is used as the position.
+  Ignored,     ///< Treated as not read: whether the list is enabled stays as well.
+  IsOrdinal,   ///< The value is used as the position, counted from 1.
 };
 
-/// The input source that a setting belongs to, which has a value of its own for each. The source is
-/// asked for afresh before the setting is read or changed, once for all rows that are read
-/// together.
+/// The input source that a setting belongs to, if it has a value for each source. The source is
+/// read again before the setting is read or changed, once for all rows that are read together.
 enum class OfSource : std::uint8_t {
   None,
-  /// The current input. While it is unknown a step goes to source 0, and a slider is refused.
+  /// The current input. If it is unknown, steps use source 0, and moving a slider is refused.
   Current,
-  /// The source that is heard: the current input, or the standby source of models that have one and
-  /// do not run. While it is unknown nothing is changed.
+  /// The source that is heard: the current input, or the standby source if the model has one and is
+  /// not running. If it is unknown, nothing is changed.
   Playing,
 };
 
-/// What follows when the projector refuses a choice.
+/// What happens when the projector refuses a choice.
 enum class Refused : std::uint8_t {
   Silent,             ///< Nothing; the list keeps the choice until the next refresh.
   ReadsBack,          ///< The value is read and shown.
-  ReadsBackPosition,  ///< The same, but the value read is taken for the position.
+  ReadsBackPosition,  ///< The same, but the value read is used as the position.
 };
 
-/// How a list may differ from the plain one, whose entry sends the value that it stands for.
+/// How a list may differ from a plain one, in which each entry sends its value.
 struct ListRules {
-  bool sendsPosition = false;  ///< What is sent is the entry's position.
+  bool sendsPosition = false;  ///< An entry sends its position.
   NoEntry noEntry = NoEntry::Clears;
   Refused refused = Refused::Silent;
-  int error = 0;  ///< Text that tells a refusal; 0 for none.
+  int error = 0;  ///< Text shown for a refusal; 0 for none.
   bool failedReadDisables = true;
-  bool emptyIsNotRead = false;  ///< A list without entries is disabled without asking.
-  bool tellsText = false;       ///< The connection gets the chosen entry's text before the setting.
-  /// After every choice the setting is read as in a refresh: the setter has no result, so nothing
-  /// else tells what the projector made of it.
+  bool emptyIsNotRead = false;  ///< A list without entries is disabled and not read.
+  bool tellsText = false;       ///< The connection gets the chosen entry's text before the value.
+  /// After every choice the setting is read as in a refresh, because the setter has no result that
+  /// would say whether the projector accepted it.
   bool readsBackAlways = false;
-  /// Value of a list's last entry that stands for all values without an entry. It is never sent: a
-  /// choice of it shows what the projector has.
+  /// Value of a last entry that stands for all values without an entry. It is never sent: choosing
+  /// it shows the projector's value.
   PerModel<std::optional<int>> placeholder{};
 };
 
@@ -82,7 +82,7 @@ struct ListRow {
   int control = 0;
   Entries entries{};
   std::optional<Call> read{};
-  std::optional<Call> send{};  ///< None: the list is shown and a choice goes nowhere.
+  std::optional<Call> send{};  ///< If missing, the list is shown but a choice is not sent.
   ListRules rules{};
   Presence on{};
   OfSource of = OfSource::None;
@@ -97,27 +97,28 @@ struct ListRow {
   }
 };
 
-/// Controls of a value row; 0 for one that it does not have.
+/// Controls of a value row; 0 for a missing one.
 struct ValueIds {
   int minus = 0, slider = 0, plus = 0, field = 0;
 };
 
-/// What follows when the projector refuses a slider's new position.
+/// What happens when the projector refuses a slider's new position.
 enum class RefusedDrag : std::uint8_t {
-  Told,      ///< The row's text, and the slider goes back to the last value known.
-  GoesBack,  ///< Only the latter.
-  Empties,   ///< The slider goes back, and the field is emptied.
+  Told,      ///< The row's error is shown and the slider returns to the last known value.
+  GoesBack,  ///< The slider returns to the last known value.
+  Empties,   ///< The slider returns to it and the field is emptied.
   Stays,     ///< Nothing: the slider stays, and the field keeps the old value.
 };
 
-/// No bounds of − and + on our side.
+/// No limits for − and + except the projector's.
 inline constexpr Range kUnbounded{-0x10000, 0x10000};
 
-/// When a row remembers the device value where it otherwise would the shown one. Deliberate: a
-/// slider always remembers its position, and a refused one goes back to what was remembered last.
+/// When a row remembers the device value instead of the shown value. This asymmetry is deliberate:
+/// a slider always remembers its position, and after a refusal returns to whatever was remembered
+/// last.
 enum class DeviceMemory : std::uint8_t { Never, OfSteps, OfStepsAndReads };
 
-/// The button that resets one row. The value read then is shown, unless it lies below the row's own
+/// The button that resets one row. The value read afterwards is shown, unless it is below the row's
 /// range, but not remembered.
 struct RowReset {
   int button = 0;
@@ -125,38 +126,38 @@ struct RowReset {
   Call read{};
 };
 
-/// A setting with a number: slider with − and +, or a field with two arrow buttons. Shown values
-/// are device values − `bias`. A step is sent only inside the bounds, and the value then read back;
-/// a refused one puts the slider back and is told with `error`, unless that is 0.
+/// A setting with a number: a slider with − and +, or a field with two arrow buttons. Shown values
+/// are device values − `bias`. A step is sent only within the bounds, and the value is read back
+/// afterwards. If a step is refused, the slider returns and `error` is shown, unless that is 0.
 ///
-/// Some steppers answer with the new value. Those that take the present one read it first or, by
-/// channel, take the shown value remembered; what the latter leave as it was they have refused, and
-/// nobody is told.
+/// Some steppers answer with the new value. Of those that need the present value, some read it
+/// first; those that address a channel use the remembered shown value. If a stepper of the latter
+/// kind leaves the value unchanged, the step was refused, and no error is shown.
 struct ValueRow {
   static constexpr int kNoRangeText = -1;
 
   std::string_view key;
   int caption = 0;
   ValueIds ids{};
-  std::uint16_t code = 0;  ///< For `Get`, `Set`, `Inc` and `Dec`, unless one is told apart:
+  std::uint16_t code = 0;  ///< For `Get`, `Set`, `Inc` and `Dec`, except those given here:
   std::optional<Call> read{}, set{}, down{}, up{};
   int bias = 0;
   int rangeText = kNoRangeText;  ///< `RangeIndex` of the model's own slider range.
-  PerModel<Range> range{};       ///< Shown values; of the slider where there is no text.
-  /// There is no setter: only − and + change it, and only the projector bounds it unless `bounds`
-  /// does. Such a row has no slider.
+  PerModel<Range> range{};       ///< Shown values; the slider's range if there is no text.
+  /// There is no setter: only − and + change it. Without `bounds`, only the projector limits it.
+  /// Such a row has no slider.
   bool stepsOnly = false;
-  std::optional<PerModel<Range>> bounds{};  ///< Shown values, of − and +; else the slider's range.
-  int ticks = 1;                            ///< 0 is an eighth of the slider's maximum.
-  std::optional<int> initial{};  ///< Shown and taken for the last value known until there is one.
+  std::optional<PerModel<Range>> bounds{};  ///< Shown values, for − and +; else the slider's.
+  int ticks = 1;                            ///< 0 means an eighth of the slider's maximum.
+  std::optional<int> initial{};  ///< Shown, and used as the last known value, until one is read.
   RefusedDrag refusedDrag = RefusedDrag::Told;
   int error = 0;
-  bool greysField = false;         ///< A failed read takes the field out of use as well.
-  bool failedReadDisables = true;  ///< Else it only empties the field.
+  bool greysField = false;         ///< A failed read disables the field as well.
+  bool failedReadDisables = true;  ///< Otherwise it only empties the field.
   DeviceMemory deviceMemory = DeviceMemory::Never;
   OfSource of = OfSource::None;
-  /// The projector keeps it for each input source, but gives and takes only that of the present
-  /// one.
+  /// The projector keeps it for each input source, but only the present source's value can be read
+  /// and changed.
   bool ofCurrentSourceOnly = false;
   RowReset reset{};
   Presence on{};
@@ -176,7 +177,7 @@ struct ValueRow {
   }
 };
 
-/// A switch with a check box; a refused change is read back.
+/// A switch with a check box. After a refused change the setting is read back.
 struct CheckRow {
   std::string_view key;
   int caption = 0;
@@ -193,18 +194,19 @@ struct StateRow {
   int control = 0;
   Call read{};
   Entries texts{};
-  int otherwise = 0;  ///< Text of any other value, which is its insert; 0 for an empty one.
-  int frame = 0;      ///< Text that the state's own is put into; 0 for none.
-  std::optional<Call> turnOff{}, turnOn{};  ///< Of a state that is a switch.
+  int otherwise = 0;  ///< Text for other values, with the value as its insert; 0 for an empty text.
+  int frame = 0;      ///< Text into which the state's text is inserted; 0 for none.
+  std::optional<Call> turnOff{}, turnOn{};  ///< For a state that is a switch.
   Presence on{};
 };
 
-/// When a page reads itself again after an action.
+/// When a page is read again after an action.
 enum class Rereads : std::uint8_t {
   Never,
   WhenDone,
   Always,
-  /// When done, only the value row that was reset, which does not remember what it shows then.
+  /// After success, only the value row that was reset, which does not remember the value it then
+  /// shows.
   ItsRow,
 };
 
@@ -215,17 +217,17 @@ struct ActionRow {
   int control = 0;
   Call call{};
   Rereads rereads = Rereads::Never;
-  int list = 0;  ///< List whose position the call takes; 0 for none.
+  int list = 0;  ///< List whose position the call sends; 0 for none.
   Entries entries{};
   Presence on{};
-  int error = 0;  ///< Text that tells a refusal; 0 for none.
+  int error = 0;  ///< Text shown for a refusal; 0 for none.
 };
 
 /// One of the resets of a page.
 struct ResetEntry {
   int text = 0;              ///< Number in the list category.
   PjtOperation operation{};  ///< Without arguments.
-  int of = 0;                ///< Control of the row that it resets, without which it is not listed.
+  int of = 0;  ///< Control of the row that it resets; only listed if the model has that row.
 };
 
 /// The list of a page's resets and the button that runs the chosen one.
@@ -237,7 +239,7 @@ struct ResetRow {
   Rereads rereads = Rereads::WhenDone;
 };
 
-/// A button that opens a pop-up, which its page does.
+/// A button that opens a pop-up; the page handles it.
 struct PopUpRow {
   std::string_view key;
   int caption = 0;
@@ -247,34 +249,34 @@ struct PopUpRow {
 
 using PageRow = std::variant<ListRow, ValueRow, CheckRow, StateRow, ActionRow, ResetRow, PopUpRow>;
 
-/// What a page shows for a model that its table of models does not list.
+/// What a page shows for a model that is missing in its table of models.
 enum class Unlisted : std::uint8_t {
   NoRow,
-  Template,  ///< The template's rows and lists as they are; nothing is filled or read.
+  Template,  ///< The template's rows and lists unchanged; nothing is filled or read.
   AllRows,
 };
 
 /// All rows of a page, in the order in which they are read.
 struct PageTable {
   std::span<const PageRow> rows{};
-  /// Which rows a model has, a digit a row; empty where only the rows' own `on` tells.
+  /// Which rows a model has, one digit per row; empty if only the rows' own `on` decides.
   std::span<const ModelRows> models{};
   Unlisted unlisted = Unlisted::AllRows;
-  bool refusedIsReadBack = false;  ///< A refused value or choice is read again, before it is told.
-  bool captionsStay = false;       ///< The caption of a row that cannot be read does not grey.
+  bool refusedIsReadBack = false;  ///< A refused value is read back before the error is shown.
+  bool captionsStay = false;       ///< The caption of a row that cannot be read is not greyed.
 };
 
-/// Key, number of the caption, or 0 where the key is all that there is, and the control by which a
-/// row is found in its template.
+/// The row's key, the number of its caption (0 if it only has a key), and the control by which it
+/// is found in its template.
 PROJECTOR_SETTINGS_EXPORT std::string_view KeyOf(const PageRow& row);
 PROJECTOR_SETTINGS_EXPORT int CaptionOf(const PageRow& row);
 PROJECTOR_SETTINGS_EXPORT int ControlOf(const PageRow& row);
-/// The controls that show a row's value and change it, buttons of resets apart.
+/// The controls that show and change a row's value, without the buttons of resets.
 PROJECTOR_SETTINGS_EXPORT std::vector<int> ControlsOf(const PageRow& row);
 /// The list beside an action's button, or 0.
 PROJECTOR_SETTINGS_EXPORT int ListBeside(const PageRow& row);
 
-/// The row that is found by a control, which the table must have.
+/// The row with this control, which the table must have.
 PROJECTOR_SETTINGS_EXPORT const PageRow& FindRow(const PageTable& table, int control);
 
 /// Whether the page uses the template as it is for this model.
@@ -282,18 +284,18 @@ PROJECTOR_SETTINGS_EXPORT bool KeepsTemplate(const PageTable& table, int modelCo
 /// Whether a model has the row at an index of the table.
 PROJECTOR_SETTINGS_EXPORT bool Has(const PageTable& table, std::size_t row, int modelCode);
 
-/// How a row is read in the model's present state; nothing for one that shows no setting. For a row
-/// of an input source the source is still to be told: `ReadRow` asks for it.
+/// How a row is read on this model; nothing for a row that shows no setting. For a row that belongs
+/// to an input source the result lacks the source, which `ReadRow` adds.
 PROJECTOR_SETTINGS_EXPORT std::optional<Call> ReadingOf(const PageRow& row, const ModelData& model);
 
 /// The input source that a row belongs to.
 PROJECTOR_SETTINGS_EXPORT OfSource SourceOf(const PageRow& row);
-/// How a row of the table is reset by itself; nothing for one that has no reset of its own.
+/// How a single row of the table is reset; nothing if it cannot be reset alone.
 PROJECTOR_SETTINGS_EXPORT std::optional<Call> ResetOf(const PageTable& table, const PageRow& row);
 
 /// The slider's range for a model, in shown values.
 PROJECTOR_SETTINGS_EXPORT Range SliderRange(const ValueRow& row, const ModelData& model);
-/// Where − and + stop, in shown values; `kUnbounded` where only the projector tells.
+/// Where − and + stop, in shown values; `kUnbounded` if only the projector limits them.
 PROJECTOR_SETTINGS_EXPORT Range StepBounds(const ValueRow& row, const ModelData& model);
 
 }  // namespace AdvancedControl

@@ -11,27 +11,27 @@
 #include "ProjectorCommonExport.h"
 #include "device/ForwardingChannel.h"
 
-/// What goes wrong with a command.
+/// A fault that a command meets.
 struct Fault {
   enum class Kind {
     None,
     Refuse,    ///< The projector refuses the command.
-    FailRead,  ///< It refuses to be read; anything else goes through.
+    FailRead,  ///< It refuses reads; other commands go through.
     Late,      ///< It answers after `delay`.
     DropOut,   ///< It does not answer.
   };
 
   Kind kind = Kind::None;
-  std::chrono::milliseconds delay{0};  ///< Of `Late`.
+  std::chrono::milliseconds delay{0};  ///< For `Late`.
 
   friend bool operator==(const Fault&, const Fault&) = default;
 };
 
 /// Disturbs the commands on their way to another channel. A fault may be set for one operation, for
-/// the generic operations of one code, or for every command; the narrower one counts.
+/// the generic operations with one code, or for every command; the most specific one applies.
 ///
-/// Faults may be set from any thread while a command is under way; a command that waits goes on as
-/// soon as the fault it waits for is over.
+/// Faults may be set from any thread while a command is under way; a command delayed by a fault
+/// continues as soon as the fault is cleared.
 class PROJECTOR_COMMON_EXPORT FaultChannel : public ForwardingChannel {
  public:
   /// A command that drops out blocks for `dropOut` and is then unanswered.
@@ -39,7 +39,7 @@ class PROJECTOR_COMMON_EXPORT FaultChannel : public ForwardingChannel {
                         std::chrono::milliseconds dropOut = std::chrono::seconds(10))
       : ForwardingChannel(std::move(inner)), dropOut_(dropOut) {}
 
-  /// `Kind::None` takes the fault back.
+  /// `Kind::None` clears the fault.
   void SetFault(const Fault& fault);
   void SetFault(PjtOperation operation, const Fault& fault);
   void SetFault(std::uint16_t code, const Fault& fault);

@@ -10,7 +10,7 @@
 #include "ProjectorCommonExport.h"
 #include "device/PjtOperation.h"
 
-/// Every setting and state that a projector has, by what it is rather than by who reads it.
+/// Every setting and state of a projector, whichever operations read or change it.
 enum class SettingId {
   Power,
   InputSource,
@@ -168,7 +168,7 @@ inline constexpr std::size_t kSettingCount = static_cast<std::size_t>(SettingId:
 /// What a named operation does to a setting.
 enum class Verb { None, Read, Write, StepUp, StepDown, Reset, TurnTo };
 
-/// How a named operation's value stands to the device value, which generic commands exchange.
+/// How a named operation's value relates to the device value, which generic commands use.
 enum class ValueForm {
   Device,    ///< The same.
   OneBased,  ///< Written as device − 1.
@@ -184,11 +184,11 @@ struct Binding {
   PjtOperation operation{};
   Verb verb = Verb::None;
   ValueForm form = ValueForm::Device;
-  int selector = kAny;  ///< The point, channel or input that the command must name in `first`.
-  int turnTo = 0;       ///< Value that `TurnTo` gives.
+  int selector = kAny;  ///< The point, channel or input that `first` must contain.
+  int turnTo = 0;       ///< Value that `TurnTo` sets.
 };
 
-/// The page sets whose models know a setting in this form, a bit each.
+/// The page sets whose models have a setting in this form, one bit each.
 enum class PageSets : std::uint8_t {
   All = 0xFF,
   First = 1 << 1,
@@ -199,7 +199,8 @@ enum class PageSets : std::uint8_t {
   ButThird = All ^ Third,
 };
 
-/// Whether the models of a page set know it. What is no page set is known as one that is not named.
+/// Whether the models of a page set have it. A number that is no page set is treated like a page
+/// set that `PageSets` does not name.
 constexpr bool Knows(PageSets sets, int pageSet) {
   const bool isSet = pageSet > 0 && pageSet < 8;
   return (static_cast<unsigned>(sets) >> (isSet ? pageSet : 0) & 1U) != 0;
@@ -212,30 +213,31 @@ struct SettingRange {
   friend bool operator==(const SettingRange&, const SettingRange&) = default;
 };
 
-/// One row of the table: everything the simulation knows of a setting. All values are device
-/// values.
+/// One row of the table: everything that the simulation knows about a setting. All values are
+/// device values.
 struct Setting {
   static constexpr std::size_t kOperations = 6;
   static constexpr std::size_t kNoRangeText = static_cast<std::size_t>(-1);
 
   SettingId id;
   std::string_view name;
-  std::uint16_t code = 0;  ///< Command code of the generic operations, 0 when there is none.
+  std::uint16_t code = 0;  ///< Command code of the generic operations, 0 if there is none.
   SettingRange range{0, 255};
-  std::uint16_t alsoSetBy = 0;    ///< Code whose `Set` takes the values listed here too.
-  std::span<const int> values{};  ///< When not empty, the values allowed instead of the range.
-  int standard = 0;               ///< Value of a new projector.
-  std::optional<int> reset{};     ///< Value that a reset gives, when it is not the standard one.
+  std::uint16_t alsoSetBy = 0;    ///< Code whose `Set` also accepts the values listed here.
+  std::span<const int> values{};  ///< If not empty, the values allowed instead of the range.
+  int standard = 0;               ///< Initial value.
+  std::optional<int> reset{};     ///< Value after a reset, if it is not `standard`.
   bool perSource = false;         ///< Kept for each input source, and for standby as source 15.
   bool inMemory = false;          ///< Saved and loaded with the memories.
-  bool reported = false;          ///< A state: generic commands cannot change it.
+  bool reported = false;          ///< A state, which generic commands cannot change.
   PageSets sets = PageSets::All;
   std::size_t rangeText = kNoRangeText;  ///< `RangeIndex` of the model's own range.
   std::array<Binding, kOperations> operations{};
 };
 
-/// Every setting; one with two forms has two rows, for different page sets.
+/// Every setting. A setting with two forms has two rows, for different page sets. Any thread.
 PROJECTOR_COMMON_EXPORT std::span<const Setting> SettingsTable();
 
-/// Command codes without a known meaning: each keeps what is written to it, 0 at first.
+/// Command codes without a known meaning. Each stores the value written to it, initially 0. Any
+/// thread.
 PROJECTOR_COMMON_EXPORT std::span<const std::uint16_t> PlainCodes();

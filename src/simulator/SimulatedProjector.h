@@ -14,7 +14,7 @@
 #include "device/ProjectorChannel.h"
 #include "simulator/SettingsTable.h"
 
-/// What sets one model's projector apart from the settings table.
+/// How a model's projector differs from the settings table.
 struct SimulatedModel {
   int pageSet = 5;                                 ///< 1..5.
   std::map<SettingId, SettingRange> ranges;        ///< Instead of the table's, in device values.
@@ -22,12 +22,12 @@ struct SimulatedModel {
   std::set<SettingId> missing{};                   ///< Commands for these are refused.
 };
 
-/// The model as a host describes it: its page set, ranges, sources, aspects, gammas and colour
-/// temperatures. A range text that does not give two ascending numbers is left out.
+/// The model that a host describes: its page set, ranges, sources, aspects, gammas and colour
+/// temperatures. A range text without two ascending numbers is ignored.
 PROJECTOR_COMMON_EXPORT SimulatedModel DescribeModel(const ModelData& data);
 
-/// A projector made of the settings table: it answers every command, keeps what it accepts and
-/// refuses what is out of range. Named and generic commands reach the same settings.
+/// A projector simulated with the settings table. It answers every command, stores accepted values
+/// and refuses those out of range. Named and generic commands reach the same settings.
 ///
 /// Safe to use from several threads at once.
 class PROJECTOR_COMMON_EXPORT SimulatedProjector : public ProjectorChannel {
@@ -46,21 +46,21 @@ class PROJECTOR_COMMON_EXPORT SimulatedProjector : public ProjectorChannel {
   std::span<const SettingId> Settings() const { return present_; }
   bool Has(SettingId id) const;
 
-  // The following hold for settings that the projector has. Of any other the value is 0, the range
-  // and the list are empty, and setting it does nothing.
+  // For a setting that the projector does not have, the value is 0, the range and the list are
+  // empty, and setting it does nothing.
 
-  /// The table row of the setting in the form that this model knows; null when it has none.
+  /// The table row of the setting in this model's form; null if the model does not have it.
   const Setting* Describe(SettingId id) const;
   SettingRange RangeOf(SettingId id) const;
-  /// The values allowed instead of the range; empty when the range counts.
+  /// The values allowed instead of the range; empty if the range applies.
   std::span<const int> ValuesOf(SettingId id) const;
 
-  /// The device value; of a setting kept per source, the one of `source`.
+  /// The device value; for a setting that is kept per source, the value of `source`.
   int Value(SettingId id, int source = kCurrentSource) const;
-  /// Changes the setting as if at the projector itself: any value is taken.
+  /// Changes the setting as if at the projector itself. Accepts any value.
   void SetValue(SettingId id, int value, int source = kCurrentSource);
 
-  /// The same by command code; nothing for a code that the projector does not know.
+  /// The same by command code; nothing if the projector does not know the code.
   std::optional<int> CodeValue(std::uint16_t code) const;
   void SetCodeValue(std::uint16_t code, int value);
 

@@ -5,12 +5,12 @@
 
 #include "snapshots/Restoration.h"
 
-// What of a projector's settings depends on which others.
+// Which settings of a projector depend on which others.
 
 inline namespace AdvancedControl {
 
-/// The input source decides what the projector's other settings belong to, and modes decide what
-/// numbers are worth: each rank is read again when one before it was changed.
+/// The input source selects which values the other settings have, and modes change the meaning of
+/// numbers. Each rank is therefore read again when an earlier rank was changed.
 enum class Rank : std::uint8_t { Source, Choice, Number };
 
 Rank RankOf(const ModelSetting& setting);
@@ -18,12 +18,12 @@ Rank RankOf(const ModelSetting& setting);
 /// Whether both are the same setting, for the same input source.
 bool IsSame(const SavedSetting& one, const SavedSetting& other);
 
-/// In any order; each of a setting that the model has.
+/// Settings that were sent, in any order; the model has each of them.
 using ToldSettings = std::vector<const RestoredSetting*>;
 
-/// Whether one of those told may still change it, whatever is read.
+/// Whether a setting that was sent may still change this one later, whatever is read now.
 bool MayStillChange(const RestoredSetting& restored, const ToldSettings& told);
-/// The same, or may have changed it since it was read.
+/// The same, or whether one may have changed it since it was last read.
 bool MayHaveChanged(const RestoredSetting& restored, const ToldSettings& told);
 
 }  // namespace AdvancedControl

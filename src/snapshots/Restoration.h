@@ -11,20 +11,20 @@
 
 inline namespace AdvancedControl {
 
-/// What has become of one saved setting.
+/// The result for one saved setting.
 enum class Outcome : std::uint8_t {
-  NotReached,   ///< Nothing was sent for it: the work was cut off before.
-  AlreadySo,    ///< The projector has this value without being told.
-  Differs,      ///< It has another one, and was not told yet.
-  Changed,      ///< Told, and read back so.
-  Pending,      ///< Told and accepted, but not so yet when it was read back.
-  Refused,      ///< Told in vain, or the projector does not even tell its value.
-  Busy,         ///< Refused for now: the projector switches, warms up, cools down or stands by.
-  Unconfirmed,  ///< Told, or what was told may have changed it too; what it is now is not known.
+  NotReached,  ///< Nothing was sent for it: the work ended before its turn.
+  AlreadySo,   ///< The projector already had this value.
+  Differs,     ///< It has another value, and nothing was sent yet.
+  Changed,     ///< Sent and confirmed by reading it back.
+  Pending,     ///< Sent and accepted, but not in effect yet when read back.
+  Refused,     ///< Sent but not changed, or the projector refuses to be read.
+  Busy,  ///< Refused because the projector is switching, warming up, cooling down or in standby.
+  Unconfirmed,  ///< It was sent, or another change may have affected it; its value is unknown.
   Unknown,      ///< The model does not have the setting.
   NotOffered,   ///< The model has it, but the projector says that it does not.
-  NotSettable,  ///< The model has it, but it is not one to put back.
-  NotAllowed,   ///< The model does not take this value, or not for this source.
+  NotSettable,  ///< The model has it, but it cannot be restored.
+  NotAllowed,   ///< The model does not allow this value, or not for this source.
 };
 
 struct RestoredSetting {
@@ -32,21 +32,22 @@ struct RestoredSetting {
   const ModelSetting* setting = nullptr;  ///< Null for one that the model does not have.
   bool isBeforehand = false;
   Outcome outcome = Outcome::NotReached;
-  std::optional<int> first{};   ///< What the projector had at first, where it told it.
-  std::optional<int> before{};  ///< What it had last before it was told.
-  std::optional<int> now{};     ///< What it has after being told; nothing while unconfirmed.
-  int turn = 0;   ///< Its place among all that are told, from 1 on; 0 for one that is not.
-  int asOf = -1;  ///< How many had been told when it was read last.
-  /// What it comes to when it was told and is read back different.
+  std::optional<int> first{};   ///< The first value read, if any.
+  std::optional<int> before{};  ///< The last value read before it was sent.
+  std::optional<int> now{};     ///< The value read back; nothing while unconfirmed.
+  int turn = 0;   ///< Its place in the order of sending, from 1 on; 0 if it is not sent.
+  int asOf = -1;  ///< How many settings had been sent when it was last read.
+  /// The outcome if another value is read back after it was sent.
   Outcome otherwise = Outcome::Refused;
 
-  /// Whether it was told and nobody knows if the projector will still carry it out.
+  /// Whether it was sent and the projector may still carry it out later.
   bool IsOpen() const { return otherwise == Outcome::Pending || otherwise == Outcome::Unconfirmed; }
 };
 
-/// Puts the settings of a snapshot back on a projector, of the same model or another. First `Read`,
-/// then `Send`; whenever it ends, `Settings` tells the truth, and doing it all again completes it.
-/// `model` and `connection` outlive it.
+/// Restores the settings of a snapshot on a projector of the same model or another one. Call
+/// `Read`, then `Send`. `Settings` is correct whenever the work ends, and repeating it all
+/// completes an interrupted restoration. `model` and `connection` must outlive it. Call it from one
+/// thread, on which the connection's channel may be called.
 class PROJECTOR_SETTINGS_EXPORT Restoration {
  public:
   using Filter = std::function<bool(const SavedSetting&)>;
@@ -56,34 +57,35 @@ class PROJECTOR_SETTINGS_EXPORT Restoration {
       const Snapshot& snapshot, const ModelSettings& model, CPjtInterface& connection,
       const Filter& filter = [](const SavedSetting&) { return true; });
 
-  /// Reads the projector and tells what differs.
+  /// Reads the projector and finds out what differs.
   void Read(const Progress& progress = {});
-  /// Sends the snapshot's `beforehand`, in its order and up to a source or mode that cannot be set;
-  /// then what differs, what others depend on first; and reads it back. Nothing is sent after what
-  /// others depend on while nobody knows whether that will still be carried out. Texts are for
-  /// connections that are told them. `keepUndo` is called whenever `Undo` has become more, before
-  /// that is sent, and once more when all is known: where it says no, no more is sent.
+  /// Sends the snapshot's `beforehand` in order, up to a source or mode that cannot be set. Then
+  /// sends what differs, starting with the settings that others depend on, and reads it back. While
+  /// it is unknown whether a change that others depend on will be carried out, nothing after it is
+  /// sent. Texts are for connections that use them. `keepUndo` is called each time `Undo` has
+  /// grown, before the change is sent, and once more at the end; if it returns false, nothing more
+  /// is sent.
   void Send(
       const SettingTexts& texts, const Progress& progress = {},
       const std::function<bool()>& keepUndo = [] { return true; });
 
-  /// In the snapshot's order.
+  /// The results in the snapshot's order.
   const std::vector<RestoredSetting>& Settings() const { return settings_; }
-  /// The snapshot's `beforehand`; not reached before `Send`.
+  /// The results for the snapshot's `beforehand`; `NotReached` until `Send`.
   const std::vector<RestoredSetting>& Beforehand() const { return beforehand_; }
-  /// How many of both have come to this.
+  /// How many of both have this outcome.
   int Count(Outcome outcome) const;
 
-  /// What the projector had at first of everything that differs or differed, or may since something
-  /// was told; and beforehand, from the last one back, what each replaced that was sent under a new
-  /// source or mode. Restoring this undoes `Send`.
+  /// A snapshot that undoes `Send`. It holds the first values read of all settings that differ,
+  /// differed, or may differ since something was sent. Its `beforehand` holds the values replaced
+  /// under a new source or mode, the last one first.
   Snapshot Undo(const std::string& projector, const SettingTexts& texts) const;
 
  private:
   using Group = std::vector<RestoredSetting*>;
   struct Way;
 
-  /// Those that fit, in the snapshot's order.
+  /// The matching settings, in the snapshot's order.
   Group Those(const std::function<bool(const RestoredSetting&)>& fit);
   void Announce(const Group& group);
   void Read(const Group& group, const Progress& progress);
@@ -92,7 +94,7 @@ class PROJECTOR_SETTINGS_EXPORT Restoration {
   Group SendSettings(const Way& way);
   Group SendTogether(const Group& group, const Way& way);
   void Confirm(const Group& sent, const Progress& progress);
-  /// Reads again what may have changed since it was read, or tells that it is not known.
+  /// Reads again what may have changed since it was read, or records that its value is unknown.
   void Settle(const Progress& progress);
   bool HasOpen() const;
   std::vector<const RestoredSetting*> Told() const;

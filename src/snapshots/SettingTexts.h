@@ -18,38 +18,39 @@ struct TypedValue {
   bool relative = false;  ///< how far from the present value: positions of a list, else numbers.
 };
 
-/// The texts of settings in one language, and what a text in any language stands for. May be used
-/// from several threads at once. Texts are UTF-8.
+/// Shows settings as texts in one language, and parses texts in any language. May be used from
+/// several threads at once. Texts are UTF-8.
 class PROJECTOR_SETTINGS_EXPORT SettingTexts {
  public:
-  /// `languageId` is preferred; a text that it does not have is taken in English.
+  /// Texts missing in the language `languageId` are in English.
   SettingTexts(std::span<const std::string> catalogFolders, std::uint32_t languageId);
 
-  /// Caption of a setting, as its label reads.
+  /// The caption of a setting, as on its label.
   std::string Caption(const ModelSetting& setting) const;
-  /// The same with what sets it apart from others of its tab: "V" or "H", or else its key, where
-  /// the caption is theirs too, and the name of the input source that it is meant for.
+  /// The same, but unique on its tab: followed by "V" or "H", or else by its key, if other settings
+  /// have the same caption, and by the name of its input source, if one is given.
   std::string Name(const ModelSettings& model, const ModelSetting& setting,
                    std::optional<int> source) const;
-  /// An input source as the list of inputs calls it, or else its number.
+  /// The name of an input source in the list of inputs, or else its number.
   std::string Source(const ModelSettings& model, int source) const;
-  /// Caption of the tab that it stands on.
+  /// The caption of the tab that it is on.
   std::string Tab(const ModelSetting& setting) const;
-  /// The text of an entry; where another one has the same name, with its device value: "HDMI (31)".
+  /// The text of an entry; followed by its device value if another entry has the same name:
+  /// "HDMI (31)".
   std::string Entry(const ModelSetting& setting, const ListEntry& entry) const;
   /// A device value as the dialog shows it: its entry's text, else the shown number.
   std::string Value(const ModelSetting& setting, int value) const;
-  /// The same, but a projector that warms up, as `CPjtInterface::Power` tells, is not just on, and
-  /// one in standby, which answers, is not just off.
+  /// The same, but with the exact power state that `CPjtInterface::Power` returns: a projector that
+  /// is warming up is not shown as on, and one in standby is not shown as off.
   std::string Value(const ModelSetting& setting, int value, std::optional<PowerState> power) const;
-  /// Whether a text is what a device value is shown as, in any language.
+  /// Whether a text is the text of a device value in any language.
   bool IsShownAs(const ModelSetting& setting, int value, std::string_view text) const;
-  /// What the setting takes: "-32 to 32", or the texts of its entries.
+  /// The values that the setting allows: "-32 to 32", or the texts of its entries.
   std::string Values(const ModelSetting& setting) const;
 
-  /// A number as it is shown, "=-3" for one below zero; "+3" or "-3" from the present value; of a
-  /// list an entry's text in any language, upper or lower case, or its device value. Nothing for
-  /// any other text, and for a name that several entries have.
+  /// Parses a number as it is shown, with "=-3" for one below zero; a step, "+3" or "-3"; or, for a
+  /// list, an entry's text in any language and case, or its device value. Nothing for any other
+  /// text, or for a name that several entries have.
   std::optional<TypedValue> Parse(const ModelSetting& setting, std::string_view text) const;
 
  private:
@@ -61,8 +62,8 @@ class PROJECTOR_SETTINGS_EXPORT SettingTexts {
   std::uint32_t languageId_;
 };
 
-/// The device value that was typed; nothing for a step from a value that is not known or that the
-/// list does not have, or to one that the setting does not take.
+/// The device value that was typed. Nothing for a step from a value that is unknown or not in the
+/// list, or to a value that the setting does not allow.
 PROJECTOR_SETTINGS_EXPORT std::optional<int> Resolve(const ModelSetting& setting,
                                                      const TypedValue& typed,
                                                      std::optional<int> present);

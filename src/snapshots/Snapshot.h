@@ -12,17 +12,17 @@
 
 inline namespace AdvancedControl {
 
-/// A setting as it was.
+/// A saved setting.
 struct SavedSetting {
   std::string key;
   int value = 0;                ///< Device value.
-  std::string text;             ///< As it was shown, for people; what counts is the value.
-  std::optional<int> source{};  ///< That it belongs to, where it is kept for each.
+  std::string text;             ///< As it was shown, for people; the value decides.
+  std::optional<int> source{};  ///< Its input source, if it is kept for each one.
 
   friend bool operator==(const SavedSetting&, const SavedSetting&) = default;
 };
 
-/// The settings of a projector at one time: those that may be put back.
+/// The restorable settings of a projector at one time.
 struct Snapshot {
   std::string projector;
   std::string model;
@@ -30,26 +30,26 @@ struct Snapshot {
   int modelCode = 0;
   std::string time;  ///< ISO 8601, UTC.
   std::vector<SavedSetting> settings;
-  /// Put back before all others and one after another, so that a setting may stand here several
-  /// times: what other sources and modes kept for themselves.
+  /// Restored before all others and strictly in order, so that a setting may occur several times:
+  /// the values that belong to other sources and modes.
   std::vector<SavedSetting> beforehand{};
-  bool isUndo = false;  ///< What a restoration replaced; it makes sense on that projector alone.
+  bool isUndo = false;  ///< Holds what a restoration replaced; only for the same projector.
 
   friend bool operator==(const Snapshot&, const Snapshot&) = default;
 };
 
-/// What may be told and asked while many commands are sent, from the thread that sends them.
+/// Callbacks while many commands are sent, on the thread that sends them.
 struct Progress {
   std::function<bool()> goesOn = [] { return true; };  ///< Asked before each command.
   std::function<void()> step = [] {};                  ///< Called after each setting.
 };
 
-/// A snapshot of this model and time without settings.
+/// A snapshot of this model at the present time, without settings.
 PROJECTOR_SETTINGS_EXPORT Snapshot EmptySnapshot(const std::string& projector,
                                                  const ModelData& model);
 
-/// Reads every setting that may be put back; what the projector refuses to tell is left out, and
-/// named in `unread` unless that is null, or the projector does not offer it at all.
+/// Reads every setting that can be restored. Settings that the projector refuses to report are left
+/// out, and added to `unread` if that is not null, unless the projector does not have them at all.
 PROJECTOR_SETTINGS_EXPORT Snapshot TakeSnapshot(const std::string& projector,
                                                 const ModelSettings& settings,
                                                 CPjtInterface& connection,
@@ -62,11 +62,12 @@ PROJECTOR_SETTINGS_EXPORT QByteArray WriteSnapshot(const Snapshot& snapshot);
 
 struct SnapshotContents {
   Snapshot snapshot;
-  QString error;  ///< One line: the place in the text and what is wrong; empty when all is well.
-  QString path;   ///< Of what is wrong, as "settings[3].value"; empty where it is the whole text.
+  QString error;  ///< One line: the place in the text and what is wrong; empty on success.
+  QString path;   ///< Path of the error, such as "settings[3].value"; empty for the whole text.
 };
 
-/// Reads what `WriteSnapshot` wrote, by whoever it was edited since. Unknown members are ignored.
+/// Parses a file that `WriteSnapshot` wrote and that may have been edited since. Unknown members
+/// are ignored.
 PROJECTOR_SETTINGS_EXPORT SnapshotContents ReadSnapshot(const QByteArray& text);
 
 }  // namespace AdvancedControl

@@ -7,15 +7,14 @@
 #include "toolkit/OwnedDialog.h"
 
 /// A dialog built from a numbered template, either run modally or created as a child (a page of
-/// another dialog), whose controls report to handlers. Layout, input and lifetime are those of the
-/// classes that it derives from. User-interface thread only.
+/// another dialog), whose controls report to handlers. Its base classes handle layout, input and
+/// lifetime. User-interface thread only.
 ///
-/// A handler may run an event loop: while a command waits, or for a message box or pop-up. What may
-/// happen to the dialog meanwhile: it may be closed; `deleteLater` waits until the handler has
-/// returned; its owner may die in any way. The dialog then leaves its owner and ends, together with
-/// its pop-ups and message boxes, and is deleted after the handler if its maker said so
-/// (`SetDeletedWithOwner`). It must not be deleted itself (`delete dialog`, or as a member of the
-/// owner).
+/// A handler may run an event loop: while a command waits, or for a message box or pop-up.
+/// Meanwhile the dialog may be closed; `deleteLater` waits until the handler has returned; and the
+/// owner may die in any way. In that case the dialog leaves its owner and ends, together with its
+/// pop-ups and message boxes, and is deleted after the handler if `SetDeletedWithOwner` says so.
+/// The dialog must not be deleted directly (`delete dialog`, or as a member of the owner).
 class ADVANCED_CONTROL_EXPORT CDialog : public OwnedDialog {
   Q_OBJECT
 
@@ -25,21 +24,22 @@ class ADVANCED_CONTROL_EXPORT CDialog : public OwnedDialog {
   explicit CDialog(int templateNumber, CWnd* owner = nullptr);
   ~CDialog() override;
 
-  /// Builds the controls from the template and initialises the dialog without showing it. False
-  /// when no module of the resource chain has the template; the dialog then stays empty.
+  /// Builds the controls from the template and initialises the dialog without showing it. False if
+  /// no module of the resource chain has the template (the dialog then stays empty), or if a
+  /// handler of the dialog is running.
   bool Create();
 
-  /// The same for a dialog beside the host's other windows: on screen before its first read waits
-  /// for the projector. `place` runs when the dialog has its size and is not on screen yet.
+  /// The same, but also shows the dialog beside the host's other windows, before its first read
+  /// waits for the projector. `place` is called when the size is known, before the dialog is shown.
   bool CreateShown(const std::function<void()>& place = {});
 
-  /// Creates, shows and runs the dialog until it is closed; QDialog::Accepted or Rejected, or −1
-  /// when it could not be created. It is on screen before its first read waits for the projector.
-  /// While it runs, its owner takes no input. The death of the dialog, and the closing or death of
-  /// its owner, end the run as Rejected.
+  /// Creates, shows and runs the dialog until it is closed. Returns QDialog::Accepted or Rejected,
+  /// or −1 if it could not be created. It is on screen before its first read waits for the
+  /// projector. While it runs, its owner takes no input. If the dialog dies, or its owner closes or
+  /// dies, the result is Rejected.
   int DoModal();
 
-  /// What the dialog's controls report; each dialog class states its own.
+  /// The notifications of the dialog's controls; each dialog class overrides this.
   virtual const NotificationMap& Notifications() const;
 
   void setVisible(bool visible) override;
@@ -50,11 +50,12 @@ class ADVANCED_CONTROL_EXPORT CDialog : public OwnedDialog {
   /// Fills and lays out; true leaves the focus to the toolkit.
   virtual bool OnInitDialog() { return true; }
 
-  /// A control has changed by itself and its handler could not run: it may show what is not so.
+  /// Called when a control has changed but its handler could not run, so that it may show a wrong
+  /// value.
   virtual void OnStale() {}
 
-  /// Called by `OnInitDialog` when all is there but what is read from the projector: brings a
-  /// dialog on screen that is to be seen before it is read.
+  /// To be called by `OnInitDialog` once everything is ready except the values read from the
+  /// projector. Shows the dialog if it should be on screen before its first read.
   void ShowUnread();
 
  private:

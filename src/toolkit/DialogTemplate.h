@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <span>
 
-/// What a control of a template becomes.
+/// The kind of a template's control.
 enum class ControlKind : std::uint8_t {
   None,
   Label,  ///< Caption of a row; names the row's value controls for a screen reader.
@@ -31,11 +31,11 @@ struct ControlTemplate {
   std::span<const char* const> entries = {};  ///< Fixed list of a combo.
 };
 
-/// Where a row stands.
+/// The place of a row.
 enum class RowPlace : std::uint8_t {
   Left,    ///< In the left column, packed from the top.
   Right,   ///< In the right column, packed from the top.
-  Bottom,  ///< In the left column, at the foot of the dialog whatever rows stand above.
+  Bottom,  ///< In the left column, always at the foot of the dialog.
 };
 
 /// One row: the controls from left to right. A row without a caption continues the one above.
@@ -46,8 +46,9 @@ struct RowTemplate {
   std::array<ControlTemplate, kMaxControls> controls{};
 };
 
-/// A numbered dialog. Positions are not written down: every present row of a dialog has the same
-/// pitch, the ruler's height or more where the font needs it, and an absent row takes no space.
+/// A numbered dialog. It has no coordinates: all present rows have the same pitch, which is the
+/// ruler's height or more if the font needs it, and absent rows take no space. Templates are
+/// constant and may be read from any thread.
 struct DialogTemplate {
   int number = 0;
   const char* caption = "";  ///< Title, empty for a page.
@@ -57,7 +58,7 @@ struct DialogTemplate {
   std::span<const RowTemplate> rows = {};
 };
 
-/// Builders, so that a template reads as one line a row.
+/// Builders that let a template have one line per row.
 namespace tmpl {
 
 constexpr ControlTemplate Label(int id, const char* caption) {

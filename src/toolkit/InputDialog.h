@@ -3,10 +3,10 @@
 #include "AdvancedControlExport.h"
 #include "toolkit/TemplateDialog.h"
 
-/// What input does while handlers run. A handler may run an event loop: while a command waits, or
-/// for a message box or pop-up. Until the last handler returns, what the user does to the controls
-/// is dropped; only the ways out act: tabs, Close, Esc and the window's own button. A dialog can
-/// leave its running handlers behind, which then are to end at once. User-interface thread only.
+/// Controls user input while handlers run. A handler may run an event loop: while a command waits,
+/// or for a message box or pop-up. Until the last handler returns, input to the controls is
+/// dropped; only tabs, Close, Esc and the window's own close button act. They leave the running
+/// handlers, which must then end at once. User-interface thread only.
 ///
 /// Esc and Enter never act on a page: Esc closes the dialog it belongs to, Enter presses the button
 /// that has the focus and nothing else.
@@ -14,12 +14,12 @@ class ADVANCED_CONTROL_EXPORT InputDialog : public TemplateDialog {
   Q_OBJECT
 
  public:
-  /// Whether a handler of the dialog's window runs; it may be waiting for the projector or for the
-  /// answer to a box.
+  /// Whether a handler of the dialog's window is running; it may be waiting for the projector or
+  /// for the user's answer.
   bool IsBusy() const { return busy_ > 0; }
 
-  /// A handler of `dialog`'s top-level dialog runs: while this lives, the dialog is not deleted and
-  /// its controls take no input. `dialog` may be null.
+  /// Marks `dialog`'s top-level dialog as running a handler: while this lives, the dialog is not
+  /// deleted and its controls take no input. `dialog` may be null.
   class Busy {
    public:
     explicit Busy(const QWidget* dialog);
@@ -34,17 +34,17 @@ class ADVANCED_CONTROL_EXPORT InputDialog : public TemplateDialog {
  protected:
   using TemplateDialog::TemplateDialog;
 
-  /// The first handler begins, and the last one has returned.
+  /// Called when the first handler begins, and when the last one has returned.
   virtual void OnBusy() {}
   virtual void OnIdle() {}
 
-  /// The user leaves what the running handlers do: they are to end at once, send nothing more and
-  /// change nothing. `OnReturn` says that they are gone.
+  /// Called when the user leaves the running handlers: they must end at once, and neither send nor
+  /// change anything more. `OnReturn` is called when they have returned.
   virtual void OnLeave() {}
   virtual void OnReturn() {}
 
-  /// Leaves the running handlers, if any; they are gone when the last one returns, or when the one
-  /// that knows them gone says so with `Return`.
+  /// Leaves the running handlers, if any. They have returned when the last one returns, or when a
+  /// handler that knows it is the last calls `Return`.
   void Leave();
   void Return();
   bool IsLeft() const { return left_; }
@@ -52,7 +52,7 @@ class ADVANCED_CONTROL_EXPORT InputDialog : public TemplateDialog {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  /// No handler runs any more, and `OnIdle` and `OnReturn` are done.
+  /// Called when no handler runs any more, after `OnIdle` and `OnReturn`.
   virtual void AfterHandlers() {}
 
   int busy_ = 0;       // handlers that run, one in another

@@ -5,9 +5,9 @@
 
 #include "AdvancedControlExport.h"
 
-/// Base of a class whose maker says by the way of making an object who deletes it: one made with
-/// `new` may be deleted by anybody, as Qt's parents do; one that is a local variable, a member or a
-/// base is deleted by the language alone. One thread only.
+/// Records whether an object was made with `new`. Such an object may be deleted, for example by its
+/// Qt parent; a local variable, a member or a base class object is destroyed by the language alone.
+/// Make the objects of derived classes on one thread only.
 class ADVANCED_CONTROL_EXPORT MadeWithNew {
  public:
   static void* operator new(std::size_t size);

@@ -11,13 +11,13 @@
 class CDialog;
 class CSliderCtrl;
 
-/// What a control reports and who handles it.
+/// What a control reports, and its handler.
 struct Notification {
   enum class Event : std::uint8_t {
     Clicked,    ///< The user pressed a button or changed a check box.
     SelChange,  ///< The user chose an entry of a list, or another tab was selected by anyone.
     HScroll,    ///< The user finished moving any slider of the dialog.
-    Passive,    ///< Nothing is reported: the control is read by another control's handler.
+    Passive,    ///< Reports nothing; the handler of another control reads it.
   };
 
   Event event;
@@ -25,8 +25,8 @@ struct Notification {
   std::function<void(CDialog&, CSliderCtrl*)> handle;
 };
 
-/// A dialog's notifications, one line each. Every control that a user can operate stands in it
-/// exactly once; sliders share the dialog's one HScroll line.
+/// A dialog's notifications, one line each. Every control that a user can operate has exactly one
+/// line; sliders share the dialog's HScroll line. User-interface thread only.
 class NotificationMap {
  public:
   NotificationMap(std::initializer_list<Notification> entries) : entries_(entries) {}
@@ -34,7 +34,7 @@ class NotificationMap {
 
   const std::vector<Notification>& Entries() const { return entries_; }
 
-  /// Whether a line stands for this control.
+  /// Whether this control has a line.
   bool Names(int id) const { return std::ranges::count(entries_, id, &Notification::id) != 0; }
 
  private:

@@ -9,24 +9,24 @@
 #include "toolkit/InputDialog.h"
 #include "toolkit/MadeWithNew.h"
 
-/// The lifetime of a dialog: from its creation to its closing, the death of its owner, and its own
-/// deletion, which waits for running handlers. docs/waiting.md says what a host may do.
+/// The lifetime of a dialog: its creation, its closing, the death of its owner, and its deletion,
+/// which waits for running handlers. docs/waiting.md says what a host may do.
 ///
-/// A window whose owner dies leaves the owner before that deletes its children, and ends, together
-/// with its pop-ups and message boxes. User-interface thread only.
+/// When the owner of a window dies, the window leaves it before the owner deletes its children, and
+/// ends together with its pop-ups and message boxes. User-interface thread only.
 class ADVANCED_CONTROL_EXPORT OwnedDialog : public InputDialog, public MadeWithNew {
   Q_OBJECT
 
  public:
-  /// Whether the dialog may be deleted on the death of its owner: with it, or when the last handler
-  /// has returned. Its maker says so: by `new`, unless this says otherwise. To be called with false
-  /// by a maker that uses `new` and keeps the dialog itself, as a smart pointer does.
+  /// Sets whether the dialog is deleted when its owner dies: with the owner, or once the last
+  /// handler has returned. The default is true for a dialog made with `new`, else false. Call it
+  /// with false if you use `new` but keep the dialog in a smart pointer.
   void SetDeletedWithOwner(bool deleted) { deletedWithOwner_ = deleted; }
 
-  /// The parent, or the window that a running dialog without a parent belongs to; may be null.
+  /// The parent, or the window to which a running dialog without a parent belongs; may be null.
   QWidget* Owner() const { return parentWidget() != nullptr ? parentWidget() : owner_.data(); }
 
-  /// Whether the dialog's window ended because its owner died; until it is created again.
+  /// Whether the dialog's window ended because its owner died. Reset when it is created again.
   bool IsOrphaned() const;
 
   void done(int result) override;
@@ -35,21 +35,21 @@ class ADVANCED_CONTROL_EXPORT OwnedDialog : public InputDialog, public MadeWithN
   OwnedDialog(int templateNumber, CWnd* owner);
   ~OwnedDialog() override;
 
-  /// The dialog is created: it is open from now on until it closes, its owner dies, or `Destroy`.
+  /// Opens the dialog, until it closes, its owner dies, or `Destroy` is called.
   void Open();
   /// Runs `OnDestroy` if the dialog is open. A class that overrides `OnDestroy` calls this in its
   /// destructor.
   void Destroy();
   bool IsCreated() const { return life_ == Life::Open; }
 
-  /// Runs once when an open top-level dialog closes or dies.
+  /// Called once when an open top-level dialog closes or dies.
   virtual void OnDestroy() {}
-  /// The owner died while the dialog was open: from now on nothing may be sent. Handlers may still
-  /// be running.
+  /// Called when the owner has died while the dialog was open: nothing may be sent from now on.
+  /// Handlers may still be running.
   virtual void OnOrphaned() {}
 
-  /// While a dialog without a parent runs, the dialog that the user works on is its owner. It
-  /// becomes no parent: the dialog is its creator's and must not die with it.
+  /// While a dialog without a parent runs, the dialog that the user is working with is its owner,
+  /// but not its parent: the dialog belongs to its creator and must not die with the owner.
   void BorrowOwner();
   void ReturnOwner();
 

@@ -12,7 +12,7 @@
 
 class QGridLayout;
 
-/// The layout of a numbered template: makes its controls, finds them by their numbers, and gives
+/// A dialog laid out by a numbered template: makes the controls, finds them by number, and gives
 /// all present rows the same pitch. User-interface thread only.
 class ADVANCED_CONTROL_EXPORT TemplateDialog : public QDialog {
   Q_OBJECT
@@ -28,7 +28,7 @@ class ADVANCED_CONTROL_EXPORT TemplateDialog : public QDialog {
   /// The control with this number, owned by the dialog, or null.
   QWidget* GetDlgItem(int id) const;
 
-  /// The control with this number, which the template must hold as a `Control`.
+  /// The control with this number, which must exist and be a `Control`.
   template <class Control>
   Control& Item(int id) const {
     auto* control = qobject_cast<Control*>(GetDlgItem(id));
@@ -36,41 +36,41 @@ class ADVANCED_CONTROL_EXPORT TemplateDialog : public QDialog {
     return *control;
   }
 
-  /// Whether input to `target`, the dialog or a widget in it, leads out of the dialog or is no
-  /// control's: tabs, Close and the space between the controls, but nothing of a page.
+  /// Whether `target`, the dialog or a widget in it, accepts input while a handler runs: tabs,
+  /// Close and the space between the controls, but nothing on a page.
   bool IsWayOut(const QWidget& target) const;
 
   /// Shows or removes the row that holds this control; the rows below close the gap.
   void ShowRow(int id, bool present);
 
-  /// Size that the template gives or that the present contents need, whichever is larger.
+  /// The size of the template or the size that the present contents need, whichever is larger.
   QSize DialogSize() const;
 
  protected:
   TemplateDialog(int templateNumber, CWnd* parent);
 
-  /// Deletes the controls there are, and builds those of the template. False when no module of the
-  /// resource chain has the template; the dialog then stays empty.
+  /// Deletes all controls and builds those of the template. False if no module of the resource
+  /// chain has the template; the dialog then stays empty.
   bool BuildControls();
-  /// Completes the layout once texts and present rows are settled, and fits a window to its screen.
+  /// Completes the layout once texts and present rows are final, and fits a window to its screen.
   void FinishLayout();
-  /// Lays the present rows out afresh; needed after texts or presence changed later.
+  /// Updates the layout after texts or the presence of rows have changed.
   void UpdateRows();
 
   const std::unordered_map<int, QWidget*>& Controls() const { return controls_; }
   /// Whether the rows scroll, because the screen has no room for them all.
   bool IsScrolled() const { return scroll_ != nullptr; }
 
-  /// Where the row of a control is, from its first control to its last.
+  /// The rectangle of a control's row, from its first control to its last.
   QRect RowRect(int id);
 
-  /// Greys the captions of a control's row where no control of it can be operated.
+  /// Greys the captions of a control's row if none of its controls can be operated.
   void GreyCaption(int id);
 
-  /// Shows a sentence at the top of a dialog whose upper rows are all absent.
+  /// Shows a sentence at the top of a dialog; the rows there must be absent.
   void ShowNotice(const QString& text);
 
-  /// Lays a widget out in the row of Close, on the other side.
+  /// Places a widget in the row of Close, at the opposite side.
   void PlaceBesideClose(QWidget& widget);
 
   /// Dialog units to device-independent pixels, in the dialog's font.

@@ -263,8 +263,20 @@ TEST(AcctlPjLink, StepsTheVolumeThatNobodyCanRead) {
     return Acctl(projector.At({"set", "Projector 4-24", "setup.volume", value}));
   };
   EXPECT_THAT(set("+2"), Ends(0, ""));
-  EXPECT_THAT(set("+2"), Ends(1, HasSubstr("setup.volume: refused after 0 of 2 steps\n")));
+  EXPECT_THAT(set("+2"), Ends(1, HasSubstr("setup.volume: refused; 0 of 2 steps accepted\n")));
   EXPECT_THAT(set("5"), Ends(2, HasSubstr("setup.volume: '5' is no step like +1 or -1")));
+  EXPECT_THAT(set("+4097"), Ends(2, HasSubstr("'+4097' is more than 4096 steps")));
+}
+
+TEST(AcctlPjLink, StopsSteppingWhereItIsInterrupted) {
+  QProcess process;
+  ScriptedPjLink projector([&process](const std::string& request) -> std::string {
+    if (request == "CLSS ?") return "2";
+    ::kill(static_cast<pid_t>(process.processId()), SIGTERM);
+    return "OK";
+  });
+  process.start(ACCTL_PROGRAM, projector.At({"set", "Projector 4-24", "setup.volume", "+4000"}));
+  EXPECT_THAT(Finish(process), Ends(128 + SIGTERM, HasSubstr("setup.volume: stopped, ")));
 }
 
 TEST(AcctlPjLink, TellsAcceptedAndNotYetSoBusyAndUnconfirmedApart) {
@@ -291,6 +303,14 @@ TEST(AcctlPjLink, TellsAcceptedAndNotYetSoBusyAndUnconfirmedApart) {
     return isGone ? "hang up" : others(request);
   };
   EXPECT_EQ(outcome(dies, 3, ", it may have been changed\n"), "unconfirmed");
+  const auto fallsSilent = [](const std::string& request) {
+    return request == "AVMT ?" ? "hang up" : "OK";
+  };
+  EXPECT_EQ(outcome(fallsSilent, 3, "accepted, but no answer (connection lost)\n"), "unconfirmed");
+
+  ScriptedPjLink stepped(ProjectorBut("AVMT 21", "ERR2"));
+  EXPECT_EQ(any.Run(stepped, {"set", "Any", "other.mute", "+1"}).exitCode, 1);
+  EXPECT_EQ(stepped.Count("AVMT ?"), 2);  // where it begins, and what came of it
 
   const QTemporaryDir folder;
   const QString file = folder.filePath("mute.json");
@@ -321,6 +341,10 @@ TEST(AcctlPjLink, TellsInputsThatWereNotToldAsNotReadWithExitCode3) {
   EXPECT_THAT(any.Run(projector, {"apply", file, "Any"}), isNotRead);
   EXPECT_THAT(any.Run(projector, {"set", "Any", "other.input-source", "31"}), isNotRead);
   EXPECT_EQ(projector.Count("INPT 31"), 0);
+  // The class is remembered, so that it is the first thing that is asked.
+  ScriptedPjLink silent(ProjectorBut("INST ?", ""));
+  ASSERT_THAT(any.Run(silent, {"get", "Any", "status.input-source"}), Ends(0, ""));
+  EXPECT_THAT(any.Run(silent, {"set", "Any", "other.input-source", "31"}, "3"), isNotRead);
 }
 
 }  // namespace

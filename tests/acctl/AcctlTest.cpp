@@ -120,7 +120,7 @@ TEST(Acctl, TellsWhatIsRefusedAndWhatDoesNotAnswer) {
   const QString file = folder.filePath("good.json");
   SaveOthers(file);
   const QStringList other{"--password", "secret", "--connect", simulator.Address("pjlink")};
-  const char* const notOffered = ": skipped, this projector does not offer it: picture.tint\n";
+  const char* const notOffered = ": skipped, PJLink does not have it: 1 of the file's settings\n";
   EXPECT_THAT(Acctl(other + QStringList{"diff", kRoom, file, "--only", "picture.tint"}),
               Ends(0, HasSubstr(notOffered)));
   Write(folder.filePath("any"), R"({"projectors": [{"name": "Any", "model": "M", "dialogType": 5,

@@ -110,8 +110,9 @@ TEST_F(PjLinkAccess, StepsAVolumeThatCannotBeRead) {
   EXPECT_EQ(Asked([](ProjectorAccess& access) {
               const ModelSetting& volume = *access.Settings().Find("setup.volume");
               EXPECT_TRUE(ProjectorAccess::HasSteps(volume));
-              EXPECT_EQ(access.StepUnread(volume, -2), 2);
-              EXPECT_EQ(access.StepUnread(volume, 1), 1);
+              const auto goesOn = [] { return true; };
+              EXPECT_EQ(access.StepUnread(volume, -2, goesOn), 2);
+              EXPECT_EQ(access.StepUnread(volume, 1, goesOn), 1);
             }),
             "CLSS, SVOL 0, SVOL 0, SVOL 1");
 }

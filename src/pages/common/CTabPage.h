@@ -3,17 +3,17 @@
 #include "AdvancedControlExport.h"
 #include "pages/common/RowDialog.h"
 
-/// A page behind a tab.
+/// A page behind a tab. User-interface thread only.
 class ADVANCED_CONTROL_EXPORT CTabPage : public RowDialog {
   Q_OBJECT
 
  public:
   using RowDialog::RowDialog;
 
-  /// Reads the projector and shows what it says; runs each time the page is brought to the front.
+  /// Reads the projector and shows its values; called each time the page is brought to the front.
   virtual void InitDisp() { Refresh(); }
 
-  /// The same, and what is not read yet does not look true.
+  /// Like `InitDisp`, but rows that are not read yet are dimmed.
   void ReadPage() {
     const PageReader::Reading reading(Reader());
     InitDisp();
@@ -23,7 +23,7 @@ class ADVANCED_CONTROL_EXPORT CTabPage : public RowDialog {
   void ReadAgain() override { ReadPage(); }
 };
 
-/// A page that is nothing but its table.
+/// A page without rules of its own beside its table.
 template <int templateNumber, const PageTable& table>
 class TablePage final : public CTabPage {
  public:

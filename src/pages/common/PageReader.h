@@ -12,18 +12,18 @@
 
 class PageVeil;
 
-/// Reads the rows of a page in their order, and shows how far that has come and what came of it:
-/// rows that are not read yet are dimmed, and one that cannot be read says why.
+/// Reads the rows of a page in order and shows the progress and the results: rows that are not read
+/// yet are dimmed, and a row that cannot be read says why. User-interface thread only.
 class PageReader {
  public:
   using Rows = std::vector<std::unique_ptr<RowView>>;
   using Source = RowView::Source;
 
-  /// The rows of `table`; all three outlive the reader.
+  /// `rows` are those of `table`. All three must outlive the reader.
   PageReader(const PageTable& table, RowHost& host, const Rows& rows);
   ~PageReader();
 
-  /// The page is read while this lives; one may live in another.
+  /// Marks the page as being read for its lifetime. May be nested.
   class Reading {
    public:
     explicit Reading(PageReader& reader);
@@ -35,24 +35,24 @@ class PageReader {
     PageReader& reader_;
   };
 
-  /// The commands that a refresh sends for the rows in their present state, in order. A row that
-  /// asks further, by what it has read, is here with its first question.
+  /// The commands that a refresh sends for the rows in their present state, in order. For a row
+  /// whose second command depends on the first answer, only the first one.
   std::vector<PjtCommand> Reads() const;
 
-  /// Reads and shows every present row.
+  /// Reads and shows every row that the model has.
   void ReadAll();
-  /// Reads and shows one row, of a source that is known.
+  /// Reads and shows one row for a known input source.
   void Read(RowView& row, int source);
-  /// Asks for the input source that rows belong to; what they remember of another is forgotten.
+  /// Asks for the input source that rows belong to. They forget values remembered for another one.
   Source AskFor(OfSource of);
 
-  /// From now until the next complete reading no value shown is known to be true.
+  /// Marks all values shown as unconfirmed until the next complete reading.
   void MarkUnread();
 
-  /// Dims what is not read yet while the page waits for the projector. Called again, it follows the
-  /// reading.
+  /// Dims the rows that are not read yet while the page waits for the projector. Call it again to
+  /// update which rows are dimmed.
   void ShowWaiting(bool waiting);
-  /// What goes on meanwhile, in words: how far the reading has come.
+  /// The progress of the reading, as a text for the user.
   QString WaitingText() const;
 
  private:

@@ -13,52 +13,54 @@
 
 class Waiting;
 
-/// A page or pop-up made of a table of rows: makes a view for each, shows those that the model has,
-/// and leads to each view what its controls report. What fits no row is a handler of the class
-/// derived from it, which takes the place of the generated one.
+/// A page or pop-up made of a table of rows. It makes a view for each row, shows the rows that the
+/// model has, and passes each user action to the view of the control's row. A derived class handles
+/// controls that fit no kind of row; its handlers replace the generated ones. User-interface thread
+/// only.
 class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog, private RowHost {
   Q_OBJECT
 
  public:
-  /// `table` outlives the dialog.
+  /// `table` must outlive the dialog. `owner` may be null and is not owned.
   RowDialog(int templateNumber, const PageTable& table, CWnd* owner);
   ~RowDialog() override;
 
   /// One line for each control of the table; `OwnNotifications` replace those of the same control.
   const NotificationMap& Notifications() const final;
 
-  /// What reads the page: which commands that sends, and what a person sees of it.
+  /// The reader of the page, owned by it.
   PageReader& Reader() { return reader_; }
 
-  /// Fills the lists that have other entries for the model as it is now than they had `before`.
+  /// Refills the lists whose entries for the present model differ from those for `before`.
   void RefillLists(const ModelData& before);
 
  protected:
-  /// The lines of controls that the class handles itself.
+  /// The notifications that the derived class handles itself.
   virtual std::vector<Notification> OwnNotifications() const { return {}; }
 
   void DoDataExchange() override;
-  /// Localizes the captions, shows the model's rows, sets ranges and fills lists. A page that has
-  /// none of its rows says so.
+  /// Localizes the captions, shows the model's rows, sets ranges and fills lists. If the model has
+  /// none of the rows, the page says so.
   bool OnInitDialog() override;
 
-  /// Shows the model's rows, sets ranges and fills lists. Nothing for a model that keeps the
+  /// Shows the model's rows, sets ranges and fills lists. Does nothing for a model that uses the
   /// template as it is.
   void PrepareRows();
 
-  /// Reads and shows every present row in the table's order.
+  /// Reads and shows every row that the model has, in the table's order.
   void Refresh();
 
   void ShowSource(std::optional<int>) override {}
   void ShowState(std::optional<int>) override {}
   void ReadAgain() override { Refresh(); }
 
-  /// The user operated this control: does what its row says.
+  /// Does what the row of this control says; called when the user has operated the control.
   void Act(int control);
-  /// A slider of the table was released. False when the projector refused the position.
+  /// Sends a slider's position; called when the user has released it. False if the projector
+  /// refused.
   bool Release(CSliderCtrl& slider);
 
-  /// The view of the row that a control belongs to, which is of this kind.
+  /// The view of the control's row, which must be a `View`.
   template <class View = RowView>
   View& Row(int control) const {
     return static_cast<View&>(*RowOf(GetDlgItem(control)));

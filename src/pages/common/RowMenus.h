@@ -5,18 +5,18 @@
 
 #include "pages/common/PageReader.h"
 
-/// The context menus of a page's rows: filters the events of the page's dialog, opens a menu where
-/// a person asks for it, and does what is chosen in it.
+/// The context menus of a page's rows. Filters the events of the page's dialog, opens a menu on the
+/// user's request, and carries out the chosen command. User-interface thread only.
 class RowMenus final : public QObject {
  public:
-  /// `host` and `rows` outlive the menus.
+  /// `host` and `rows` must outlive the menus.
   RowMenus(RowHost& host, const PageReader::Rows& rows);
 
  protected:
   bool eventFilter(QObject* dialog, QEvent* event) override;
 
  private:
-  /// The row at a point of the dialog; null where it cannot be told which is meant.
+  /// The row at a point of the dialog; null if there is none or it is ambiguous.
   RowView* RowAt(QPoint at) const;
   bool Open(QPoint at, QPoint onScreen);
   bool IsBusy() const;

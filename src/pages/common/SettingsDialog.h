@@ -7,27 +7,27 @@
 #include "settings/CatalogNumbers.h"
 #include "toolkit/CDialog.h"
 
-/// What every page and pop-up needs: the projector, the model data, texts and error boxes.
-/// Nothing in here belongs to one page.
+/// What every page and pop-up needs: the projector, the model data, texts and error boxes. Nothing
+/// here is specific to one page. User-interface thread only.
 class ADVANCED_CONTROL_EXPORT SettingsDialog : public CDialog {
   Q_OBJECT
 
  public:
   using CDialog::CDialog;
 
-  /// The connection that the page works on. Not owned, never null; set by the opener before
-  /// creation, until then a connection that refuses everything.
+  /// The connection that the page uses. Not owned, never null. The opener sets it before creation;
+  /// until then it refuses every command.
   CPjtInterface* projector = &Unconnected();
 
-  /// The model data of the dialog this one belongs to, at any distance; empty data when there is
-  /// none, so that a page on its own shows its generic form.
+  /// The model data of the nearest owner that has some. Without one the data is empty, so that a
+  /// page on its own shows its generic form.
   virtual const ModelData& Model() const;
 
-  /// Tells a refusal: stop-icon box with the error category's text. Nothing is told to a user who
-  /// has left meanwhile.
+  /// Shows a refusal in a message box with a stop icon and a text of the error category. Shows
+  /// nothing if the user has left the running handlers.
   void ShowError(int errorNumber);
 
-  // What its rows need to know of their place.
+  // For the views of its rows.
   using CDialog::GreyCaption;
   using CDialog::RowRect;
 
@@ -35,7 +35,7 @@ class ADVANCED_CONTROL_EXPORT SettingsDialog : public CDialog {
   /// Catalog text of the list category.
   static QString ListString(int number) { return CatalogString(kListCategory, number); }
 
-  /// Asks with the error category's text and the buttons Yes and No; true for Yes.
+  /// Asks a question with a text of the error category and the buttons Yes and No; true for Yes.
   bool Ask(int questionNumber);
 
   void OnOrphaned() override { projector = &Unconnected(); }

@@ -10,10 +10,10 @@
 
 class StatusLine;
 
-/// A dialog's waiting for its projector, from the first handler that begins to the last one that
-/// returns: tells when it has waited for longer than a blink, shows in the line beside Close how
-/// far it has come and what came of it, and abandons what is under way. A dialog with tabs has one
-/// for all its pages, and a pop-up has its own. User-interface thread only.
+/// Shows the user that a dialog waits for its projector, from the beginning of the first handler
+/// until the last one returns. Reports when a wait becomes noticeable, shows progress and results
+/// in the line beside Close, and abandons the work under way. A dialog with tabs has one for all
+/// its pages; a pop-up has its own. User-interface thread only.
 class Waiting final : public QObject {
  public:
   /// What the dialog says about itself and does. Called between construction and destruction.

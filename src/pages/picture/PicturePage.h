@@ -5,8 +5,9 @@
 
 class CComboBox;
 
-/// A picture page with lists of gammas and colour temperatures, each beside a button that opens the
-/// pop-up for those that the user can shape. The controls have the same numbers on every such page.
+/// A picture page with lists of gammas and colour temperatures. A button beside each list opens the
+/// pop-up for entries that the user can customise. The controls have the same numbers on every such
+/// page. User-interface thread only.
 class ADVANCED_CONTROL_EXPORT PicturePage : public CTabPage {
   Q_OBJECT
 
@@ -19,12 +20,12 @@ class ADVANCED_CONTROL_EXPORT PicturePage : public CTabPage {
   void OnBnClickedPicColorBtn();
 
  protected:
-  /// `hideResets` leaves out the Reset buttons of the pop-ups.
+  /// `hideResets` hides the Reset buttons of the pop-ups.
   PicturePage(int templateNumber, const PageTable& table, bool hideResets, CWnd* parent);
 
   std::vector<Notification> OwnNotifications() const override;
 
-  /// Whether the user can shape the chosen entry.
+  /// Whether the user can customise the chosen entry.
   virtual bool IsCustomGamma(const CComboBox& list) const = 0;
   virtual bool IsCustomColorTemp(const CComboBox& list) const = 0;
 

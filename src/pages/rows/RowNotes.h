@@ -7,19 +7,20 @@
 class RowHost;
 class RowView;
 
-/// What there is to say about the rows of a page: why one could not be read, which numbers it
-/// takes. A note is told in the tips of a row's controls, to screen readers, and by a grey caption.
+/// Notes about the rows of a page: why a row could not be read, or which numbers it takes. A note
+/// is shown in the tool tips of the row's controls, given to screen readers, and may grey the
+/// caption. User-interface thread only.
 class RowNotes {
  public:
-  /// `host` outlives the notes. `captionsStay` keeps captions from greying.
+  /// `host` must outlive the notes. With `captionsStay`, captions are never greyed.
   RowNotes(RowHost& host, bool captionsStay) : host_(host), captionsStay_(captionsStay) {}
 
-  /// A row's present note, as a person reads it.
+  /// The text of a row's present note, for the user.
   static QString TextOf(const RowView& row);
 
-  /// Says what there is to say about a row that was read, by what was sent before that.
+  /// Sets the note of a row that was just read; `before` is the tally from before the reading.
   void Tell(RowView& row, const CPjtInterface::Tally& before) const;
-  /// Greys a row's caption, or not, as its controls are.
+  /// Greys a row's caption if its controls are disabled.
   void GreyCaption(const RowView& row) const;
 
  private:

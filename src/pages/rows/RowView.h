@@ -11,14 +11,14 @@
 #include "pages/rows/RowMemory.h"
 #include "toolkit/NotificationMap.h"
 
-/// One row of a page: its widgets, what it remembers, and what it does. There is a class for each
-/// kind of row.
+/// One row of a page: its widgets, remembered values and behaviour. Each kind of row has a class.
+/// User-interface thread only.
 ///
-/// A position is what a row's control can be moved to: a number shown, the place of a list's entry,
-/// or whether a box is checked.
+/// A position is a state that the row's control can be moved to: a shown number, the index of a
+/// list's entry, or whether a box is checked.
 class RowView {
  public:
-  /// The input source that a row is read for; 0 where it belongs to none, nothing while unknown.
+  /// The input source that a row is read for; 0 if it belongs to none, nothing if unknown.
   using Source = std::optional<int>;
 
   /// A control that the user operates, and how it reports that.
@@ -27,44 +27,44 @@ class RowView {
     int control;
   };
 
-  /// A row of `table`; all three outlive the view.
+  /// `row` is one of `table`. All three must outlive the view.
   RowView(const PageTable& table, const PageRow& row, RowHost& host)
       : table_(table), row_(row), host_(host) {}
   virtual ~RowView() = default;
 
   const PageRow& Row() const { return row_; }
 
-  /// All controls of the row that its page finds it by.
+  /// All controls by which the page finds the row.
   virtual std::vector<int> Controls() const;
-  /// Those of them that report to `Act`, and the lists beside its button.
+  /// The controls that report to `Act`, and a list beside the row's button.
   virtual std::vector<Operated> OperatedControls() const { return {}; }
 
-  /// Finds the row's controls, which the page has made anew.
+  /// Finds the row's controls; called each time the page has made new ones.
   virtual void Bind() = 0;
   /// Sets ranges and fills lists for the model, whether it has the row or not.
   virtual void Prepare() {}
-  /// Takes the template's entries as they are, instead.
+  /// Called instead of `Prepare` to use the template's entries as they are.
   virtual void UseTemplate() {}
 
-  /// Reads its setting and shows that.
+  /// Reads the setting and shows it.
   virtual void Read(Source) {}
-  /// All rows of the page have been read.
+  /// Called when all rows of the page have been read.
   virtual void OnPageRead() {}
-  /// The user has operated this control.
+  /// Called when the user has operated this control.
   virtual void Act(int) {}
 
-  /// What it shows; nothing where that is no position.
+  /// The position shown; nothing if the row shows none.
   virtual std::optional<int> Position() const { return {}; }
-  /// A position as it is shown.
+  /// The text of a position.
   virtual QString TextAt(int position) const { return QString::number(position); }
-  /// What it shows, as a text.
+  /// The text that the row shows.
   virtual QString Text() const;
   virtual bool CanMoveTo(int) const { return false; }
-  /// Moves as under a hand, so that all that follows is the same; nothing where it cannot.
+  /// Moves the control as a user would, with the same consequences. Does nothing if it cannot.
   virtual void MoveTo(int) {}
-  /// The numbers that can be entered; nothing for a row that shows none.
+  /// The numbers that can be entered; nothing for a row without numbers.
   virtual std::optional<Range> Numbers() const { return {}; }
-  /// Whether its controls are in use.
+  /// Whether its controls are enabled.
   virtual bool IsUsable() const;
 
   RowMemory memory;
@@ -75,7 +75,7 @@ class RowView {
   SettingsDialog& Dialog() const { return host_.Dialog(); }
   CPjtInterface& Projector() const { return *Dialog().projector; }
   const ModelData& Model() const { return Dialog().Model(); }
-  /// The setting as the projector has it; nothing where the source or the setting is unknown.
+  /// Reads the setting from the projector; nothing if the source is unknown or the read fails.
   std::optional<int> ReadSetting(Source source) const;
 
  private:

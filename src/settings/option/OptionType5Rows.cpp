@@ -1,7 +1,7 @@
 #include "device/CommandCode.h"
-#include "settings/option/MyButtons.h"
 #include "settings/PageTables.h"
 #include "settings/RowParts.h"
+#include "settings/option/MyButtons.h"
 
 inline namespace AdvancedControl {
 

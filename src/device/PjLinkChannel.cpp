@@ -180,13 +180,14 @@ bool PjLinkChannel::UseIdleTime() {
 }
 
 bool PjLinkChannel::TendConnection(std::chrono::milliseconds unused) {
-  if (!socket_) return false;
-  TakeWhatCame();
+  // A projector that closes after its reply has often done so already.
+  const bool wasOpen = socket_ != nullptr || state_ == ConnectionState::Connected;
+  if (socket_) TakeWhatCame();
   if (socket_ && unused >= limits_.unused) {
     socket_.reset();
     session_.Connection().Closed(Clock::now());
   }
-  if (!socket_) state_ = ConnectionState::Unused;
+  if (wasOpen && !socket_) state_ = ConnectionState::Unused;
   return socket_ != nullptr;
 }
 

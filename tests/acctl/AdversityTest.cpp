@@ -1,6 +1,5 @@
 // What the programs do when something fails around them, and when several run at once.
 
-#include <csignal>
 #include <fcntl.h>
 #include <optional>
 #include <sys/file.h>
@@ -9,7 +8,6 @@
 
 #include <QDir>
 #include <QTemporaryDir>
-#include <QThread>
 #include <gtest/gtest.h>
 
 #include "tests/acctl/AcctlProgram.h"
@@ -51,13 +49,6 @@ struct FailingCalls {
 
 QStringList FilesIn(const QTemporaryDir& folder) {
   return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden | QDir::System);
-}
-
-void WaitForAny(const QProcess& process, const QTemporaryDir& folder, const QString& pattern) {
-  while (QDir(folder.path()).entryList({pattern}).isEmpty() &&
-         process.state() != QProcess::NotRunning) {
-    QThread::msleep(5);
-  }
 }
 
 TEST(Adversity, AFailedAllocationEndsTheProgramInsteadOfBeingToldAsARefusal) {
@@ -137,23 +128,6 @@ TEST(Adversity, StandardInputIsReadToItsEndHoweverSlowlyItIsWritten) {
   EXPECT_EQ(diff.output, Acctl({"diff", kRoom, file}).output);
   EXPECT_NE(fcntl(ends[0], F_GETFL) & O_NONBLOCK, 0) << "it is ours";
   close(ends[0]);
-}
-
-TEST(Adversity, ASignalThatComesTwiceAtOnceLosesNoReport) {
-  const QTemporaryDir folder;
-  const QString file = folder.filePath("good.json");
-  SaveOthers(file);
-  const Simulator simulator({"--fault", "late 300"});
-  QProcess acctl;
-  acctl.start(ACCTL_PROGRAM, simulator.At({"apply", file, kRoom}));
-  WaitForAny(acctl, folder, "good.undo.*");
-  for (int i = 0; i < 2; ++i) {
-    ::kill(static_cast<pid_t>(acctl.processId()), SIGTERM);
-    QThread::msleep(30);  // else the system takes both for one
-  }
-  const Outcome cut = Finish(acctl);
-  EXPECT_THAT(cut, Ends(128 + SIGTERM, HasSubstr("cut off")));
-  EXPECT_THAT(cut.output, HasSubstr(" different, "));
 }
 
 TEST(Adversity, RunsOnOneProjectorWaitForEachOther) {

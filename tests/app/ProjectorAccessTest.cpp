@@ -106,17 +106,6 @@ TEST_F(PjLinkAccess, SaysWhenTheInputsGotLost) {
   });
 }
 
-TEST_F(PjLinkAccess, StepsAVolumeThatCannotBeRead) {
-  EXPECT_EQ(Asked([](ProjectorAccess& access) {
-              const ModelSetting& volume = *access.Settings().Find("setup.volume");
-              EXPECT_TRUE(ProjectorAccess::HasSteps(volume));
-              const auto goesOn = [] { return true; };
-              EXPECT_EQ(access.StepUnread(volume, -2, goesOn), 2);
-              EXPECT_EQ(access.StepUnread(volume, 1, goesOn), 1);
-            }),
-            "CLSS, SVOL 0, SVOL 0, SVOL 1");
-}
-
 TEST(PjLinkAccessToNobody, EndsAfterOneTimeOut) {
   constexpr PjLinkChannel::Limits kShort{.connect = std::chrono::milliseconds(100)};
   ProjectorProfile profile{.Name = "Any", .Model = {}, .Lacks = {}};

@@ -45,7 +45,7 @@ class ScriptedPjLink {
   const Script script_;
   std::mutex mutex_;
   std::vector<std::string> requests_;
-  Peer peer_{Way::Tcp, {Peer::AnswersLines("PJLINK 0\r", [this](const std::string& line) {
-               return Answer(line);
-             })}};
+  Peer peer_{
+      Way::Tcp,
+      {Peer::AnswersLines("PJLINK 0\r", [this](const std::string& line) { return Answer(line); })}};
 };

@@ -1,6 +1,5 @@
 // The window, what it asks and what it remembers, and the simulation beside it.
 
-
 #include <QApplication>
 #include <QComboBox>
 #include <QFileDialog>

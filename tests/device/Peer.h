@@ -73,7 +73,7 @@ class Peer {
     };
   }
 
-  /// Sends the greeting, and what `answer` gives for each line; nothing of it closes the connection.
+  /// Sends the greeting, and what `answer` gives for each line; no value closes the connection.
   static Behaviour AnswersLines(
       std::string greeting, std::function<std::optional<std::string>(const std::string&)> answer) {
     return [greeting = std::move(greeting), answer = std::move(answer)](End& end) {

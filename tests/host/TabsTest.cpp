@@ -12,7 +12,7 @@
 
 namespace {
 
-// Order, captions and pages of each model's tabs are in PagesByModel.txt.
+// Order, captions and pages of each model's tabs are in pages/listing/Tabs.txt.
 TEST(Tabs, EachShowsItsPageAlone) {
   for (const auto& [dialogType, count] : {std::pair{0, 1}, {6, 1}, {-1, 1}, {1, 9}, {5, 9}}) {
     OpenDialog open(MakeModel(dialogType, dialogType == 5 ? 30 : 1));

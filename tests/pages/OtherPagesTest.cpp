@@ -1,4 +1,4 @@
-// What single pages do beside what PagesByModel.txt tells.
+// What single pages do beside what the files of listing/ tell.
 
 #include <gtest/gtest.h>
 

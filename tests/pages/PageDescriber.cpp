@@ -65,7 +65,7 @@ class PageDescriber {
 
   std::vector<std::string> Describe() {
     pageReads_ = Log(refresh_);
-    std::vector<std::string> parts{"  reads:" + pageReads_ + '\n'};
+    std::vector<std::string> parts{"reads\n   " + pageReads_ + '\n'};
     for (const RowTemplate& row : page_.Template()->rows) parts.push_back(DescribeRow(row));
     AddShown(parts);
     return parts;
@@ -90,7 +90,11 @@ class PageDescriber {
     const std::string id = std::to_string(control.id);
     const std::string caption = QString(control.caption).simplified().toStdString();
     using enum ControlKind;
-    if (control.kind == Label) return "  " + caption + '\n';
+    if (control.kind == Label) return (caption_ = caption) + '\n';
+    // A row without a caption continues the one above.
+    if (control.kind == Text && row_->controls[0].id == control.id) {
+      return caption_ + ' ' + caption + '\n';
+    }
     if (control.kind == Combo) return "    list " + id + DescribeList(control.id);
     if (control.kind == Slider) return "    slider " + id + DescribeSlider();
     if (control.kind == Field) return "    field " + id + '\n';
@@ -190,7 +194,7 @@ class PageDescriber {
     add("read");
     for (std::size_t i = 0; i < rows.size(); ++i) {
       std::string& part = parts[i + 1];
-      if (!part.empty() && shown[i].Differ()) part += "    shows" + shown[i].Text(" ", ";") + '\n';
+      if (!part.empty() && shown[i].Differ()) part += "    shows\n" + shown[i].Text("      ", "\n");
     }
   }
 
@@ -233,6 +237,7 @@ class PageDescriber {
   MoodyProjector& projector_;
   std::function<void()> refresh_;
   std::string pageReads_;
+  std::string caption_;  // of the last row that has one
   const RowTemplate* row_ = nullptr;
   // Numbers of what the row has: a list that its button goes by, a slider.
   int helper_ = 0;

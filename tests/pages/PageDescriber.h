@@ -29,7 +29,8 @@ class MoodyProjector final : public ProjectorChannel {
 };
 
 /// Says in words what a page does, by using all that is on it: what is read, then a text for each
-/// row of the template, which is empty for a row that is not there.
+/// row of the template, which is empty for a row that is not there. The first line of each text
+/// is its caption.
 ///
 /// Under a control stands what its use sends, reads and brings up; … stands for all reads of the
 /// page, and behind an arrow is what the row shows then, with "off" for what is out of use. Then

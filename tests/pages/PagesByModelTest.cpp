@@ -1,9 +1,10 @@
 // What every page of every model shows, reads and sends, and what follows when the projector does
-// not do what it is asked for, held against the listing beside this file. The real dialog is used,
-// on a simulated projector. After a wanted change write the listing anew with UPDATE_LISTING=1, and
-// read what changed in it.
+// not do what it is asked for, held against the files of listing/, one for each page. The real
+// dialog is used, on a simulated projector. After a wanted change write them anew with
+// UPDATE_LISTING=1, and read what changed in them.
 
 #include <cctype>
+#include <filesystem>
 #include <fstream>
 #include <map>
 #include <sstream>
@@ -31,7 +32,9 @@ struct NumberedCatalog {
       captions.entries.push_back(Ansi('#' + std::to_string(number) + "\r\n"));
     }
     TestBlock list{MessageId(5, 0), captions.entries};
-    list.entries[ListText::StatusValue] = Ansi("status %1\r\n");  // around another text
+    // Around another text, and around a number.
+    list.entries[ListText::StatusValue] = Ansi("status %1\r\n");
+    list.entries[ListText::Hours] = Ansi("%1!d! h\r\n");
     const TestBlock errors{MessageId(2201, 0), captions.entries};
     const std::string folder = own.path().toStdString();
     TestModule({{1033, {captions, list, errors}}}).Save(folder + "/mcdll.dll");
@@ -42,18 +45,22 @@ struct NumberedCatalog {
   QTemporaryDir own;  // tests that run side by side have catalogs of their own
 };
 
-/// Per page and part of it, the forms that it has and the models that have it so.
+/// Per file, then by dialog type, place on the page and caption, the forms that a row has and the
+/// models that have it so.
 using Forms = std::vector<std::pair<std::string, std::string>>;
-using Listing = std::map<std::string, std::map<std::size_t, Forms>>;
+using Listing = std::map<std::string, std::map<std::tuple<int, std::size_t, std::string>, Forms>>;
 
-void Add(Listing& listing, const std::string& page, const std::vector<std::string>& parts,
-         int code) {
+// The first line of a part is its caption; a part that is empty is not there.
+void Add(Listing& listing, const std::string& file, const std::vector<std::string>& parts,
+         const CModelInfo2& info) {
   for (std::size_t i = 0; i < parts.size(); ++i) {
     if (parts[i].empty()) continue;
-    Forms& forms = listing[page][i];
-    const auto same = std::ranges::find(forms, parts[i], &Forms::value_type::first);
-    auto& form = same != forms.end() ? *same : forms.emplace_back(parts[i], "");
-    form.second += ' ' + std::to_string(code);
+    const std::size_t end = parts[i].find('\n');
+    const std::string form = parts[i].substr(end + 1);
+    Forms& forms = listing[file][{info.DialogType, i, parts[i].substr(0, end)}];
+    const auto same = std::ranges::find(forms, form, &Forms::value_type::first);
+    (same != forms.end() ? *same : forms.emplace_back(form, "")).second +=
+        ' ' + std::to_string(info.ModelCode);
   }
 }
 
@@ -67,8 +74,10 @@ CModelInfo2 WithWideRanges(CModelInfo2 info) {
   return info;
 }
 
-// Where the sliders of a page have their ranges from, and where their buttons stop.
-std::string Ranges(CDialog& page, MoodyProjector& projector, const std::function<void()>& refresh) {
+// Where the sliders of a page have their ranges from, and where their buttons stop; a part for each
+// part of `DescribePage`.
+std::vector<std::string> Ranges(CDialog& page, MoodyProjector& projector,
+                                const std::function<void()>& refresh) {
   projector.mood = MoodyProjector::Mood::Ignores;
   const auto lastValueThatSteps = [&](int button, int first) {
     int stepping = first, stopped = -first;
@@ -82,14 +91,16 @@ std::string Ranges(CDialog& page, MoodyProjector& projector, const std::function
     }
     return std::to_string(stepping);
   };
-  std::string text;
+  std::vector<std::string> parts(1);
   for (const RowTemplate& row : page.Template()->rows) {
+    std::string& text = parts.emplace_back();
     for (std::size_t i = 0; i < row.controls.size(); ++i) {
       if (row.controls[i].kind != ControlKind::Slider) continue;
       const auto& slider = page.Item<CSliderCtrl>(row.controls[i].id);
       if (!slider.isVisible()) continue;
       const int minimum = slider.minimum(), range = slider.maximum() - minimum - kWide;
-      text += "  slider " + std::to_string(row.controls[i].id) + ": ";
+      text += QString(row.controls[0].caption).simplified().toStdString() + ", range\n";
+      text += "    slider " + std::to_string(row.controls[i].id) + ": ";
       text += range < 0 ? "its own" : std::to_string(range);
       text += ", from " + std::to_string(minimum) + ", ticks ";
       text += std::to_string(slider.tickInterval()) + "; steps down from ";
@@ -97,11 +108,16 @@ std::string Ranges(CDialog& page, MoodyProjector& projector, const std::function
       text += lastValueThatSteps(row.controls[i + 1].id, -1000) + '\n';
     }
   }
-  return text;
+  return parts;
 }
 
+// The names of the pages by the numbers of their templates.
+const std::map<int, std::string> kPageNames{
+#define PAGE(identifier, number, pageClass) {number, #identifier},
+#include "settings/Pages.def"
+};
+
 void AddPages(Listing& listing, const CModelInfo2& info, bool ranges) {
-  const std::string type = "type " + std::to_string(info.DialogType) + ", ";
   CAdvanceDlg dialog;
   dialog.CopyData(&info, 0);
   const auto projector = std::make_shared<MoodyProjector>(dialog);
@@ -110,26 +126,23 @@ void AddPages(Listing& listing, const CModelInfo2& info, bool ranges) {
   dialog.show();
   const auto add = [&](const std::string& name, CDialog& page,
                        const std::function<void()>& refresh) {
-    if (ranges) {
-      Add(listing, type + name + ", ranges", {Ranges(page, *projector, refresh)}, info.ModelCode);
-    } else {
-      Add(listing, type + name, DescribePage(page, *projector, refresh), info.ModelCode);
-    }
+    Add(listing, name,
+        ranges ? Ranges(page, *projector, refresh) : DescribePage(page, *projector, refresh), info);
   };
   auto* tabs = dialog.findChild<QTabBar*>();
-  std::string captions;
+  std::string captions = "captions and pages\n";
   for (int tab = 0; tab < tabs->count(); ++tab) {
     tabs->setCurrentIndex(tab);
     CTabPage& page = *dialog.ShownPage();
-    const std::string name = "page " + std::to_string(page.TemplateNumber());
-    captions += "  " + tabs->tabText(tab).toStdString().substr(1) + ": " + name + '\n';
+    const std::string& name = kPageNames.at(page.TemplateNumber());
+    captions += "    " + tabs->tabText(tab).toStdString().substr(1) + ": " + name + '\n';
     add(name, page, [&page] { page.InitDisp(); });
   }
-  if (!ranges) Add(listing, type + "tabs", {captions}, info.ModelCode);
+  if (!ranges) Add(listing, "Tabs", {captions}, info);
   if (info.DialogType != 5) return;
-  for (const auto& [kind, name] : {std::pair{PopUp::Gamma, "gamma"},
-                                   {PopUp::ColorTemp, "color temperature"},
-                                   {PopUp::Service, "service"}}) {
+  for (const auto& [kind, name] : {std::pair{PopUp::Gamma, "Gamma"},
+                                   {PopUp::ColorTemp, "ColorTemp"},
+                                   {PopUp::Service, "Service"}}) {
     if (kind != PopUp::Service && info.ModelCode != 30) continue;  // the same for every model
     const auto popUp = MakePopUp(kind, dialog);
     Open(*popUp);
@@ -152,6 +165,51 @@ std::string WithTexts(const std::string& listing) {
   return text;
 }
 
+// The lines that were expected (-) or found (+) alone, below those that they are indented under.
+std::string Difference(const QStringList& expected, const QStringList& found) {
+  const qsizetype ends[] = {expected.size(), found.size()};
+  // How many lines are common from there on.
+  std::vector common(ends[0] + 1, std::vector<int>(ends[1] + 1));
+  for (qsizetype i = ends[0]; i-- > 0;) {
+    for (qsizetype j = ends[1]; j-- > 0;) {
+      common[i][j] = expected[i] == found[j] ? common[i + 1][j + 1] + 1
+                                             : std::max(common[i + 1][j], common[i][j + 1]);
+    }
+  }
+  QString text;
+  QStringList above;
+  for (qsizetype i = 0, j = 0; i < ends[0] || j < ends[1];) {
+    const bool more = i < ends[0] && j < ends[1], same = more && expected[i] == found[j];
+    const bool gone = more ? common[i + 1][j] >= common[i][j + 1] : i < ends[0];
+    const QString line = same || gone ? expected[i] : found[j];
+    const auto indent = [](const QString& of) {
+      return of.size() - QStringView(of).trimmed().size();
+    };
+    above.removeIf([&](const QString& other) { return indent(other) >= indent(line); });
+    if (same) {
+      above << line;
+    } else {
+      for (const QString& context : std::exchange(above, {})) text += "  " + context + '\n';
+      text += (gone ? "- " : "+ ") + line + '\n';
+    }
+    i += same || gone;
+    j += same || !gone;
+  }
+  return text.toStdString();
+}
+
+void ExpectListed(const std::string& path, const std::string& found) {
+  if (qEnvironmentVariableIsSet("UPDATE_LISTING")) std::ofstream(path) << found;
+  std::ostringstream listed;
+  listed << std::ifstream(path).rdbuf();
+  const auto lines = [](const std::string& text) {
+    return QString::fromStdString(text).split('\n', Qt::SkipEmptyParts);
+  };
+  if (listed.str() == found) return;
+  ADD_FAILURE() << path << ", expected (-) and found (+):\n"
+                << Difference(lines(listed.str()), lines(found));
+}
+
 TEST(PagesByModel, AreAsListed) {
   Listing listing;
   {
@@ -161,26 +219,19 @@ TEST(PagesByModel, AreAsListed) {
       AddPages(listing, WithWideRanges(model), true);
     }
   }
-  std::string text;
-  for (const auto& [page, parts] : listing) {
-    text += page + '\n';
-    for (const auto& [part, forms] : parts) {
-      for (const auto& [form, codes] : forms) text += " codes" + codes + '\n' + form;
+  const std::filesystem::path folder = TEST_SOURCE_DIR "/pages/listing";
+  for (const auto& [name, rows] : listing) {
+    std::string text;
+    for (const auto& [row, forms] : rows) {
+      const auto& [type, place, caption] = row;
+      text += (text.empty() ? "type " : "\ntype ") + std::to_string(type) + ", " + caption + '\n';
+      for (const auto& [form, codes] : forms) text += "  codes" + codes + '\n' + form;
     }
+    ExpectListed(folder / (name + ".txt"), WithTexts(text));
   }
-  text = WithTexts(text);
-  const std::string path = TEST_SOURCE_DIR "/pages/PagesByModel.txt";
-  if (qEnvironmentVariableIsSet("UPDATE_LISTING")) std::ofstream(path) << text;
-
-  std::ifstream file(path);
-  std::istringstream actual(text);
-  std::string heading, expectedLine, actualLine;
-  for (int line = 1; std::getline(actual, actualLine); ++line) {
-    ASSERT_TRUE(std::getline(file, expectedLine)) << "more than listed: " << actualLine;
-    if (!expectedLine.starts_with(' ')) heading = expectedLine;
-    ASSERT_EQ(actualLine, expectedLine) << path << ':' << line << ", " << heading;
+  for (const auto& file : std::filesystem::directory_iterator(folder)) {
+    EXPECT_TRUE(listing.contains(file.path().stem())) << file.path() << ": no longer a page";
   }
-  EXPECT_FALSE(std::getline(file, expectedLine)) << "no longer there: " << expectedLine;
 }
 
 }  // namespace

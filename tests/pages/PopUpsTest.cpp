@@ -1,4 +1,4 @@
-// What the pop-ups do beside what PagesByModel.txt tells.
+// What the pop-ups do beside what the files of listing/ tell.
 
 #include <tuple>
 

@@ -52,7 +52,7 @@ void ExpectSame(const ModelSettings& settings, CDialog& dialog, const PageTable&
       using enum ControlKind;
       const bool sets = control.kind == Combo || control.kind == Slider || control.kind == Check;
       if (sets && !widget->isHidden()) {
-        EXPECT_TRUE(told.contains(control.id)) << control.id;
+        EXPECT_TRUE(told.contains(control.id)) << NameOf(*widget);
       }
     }
   }

@@ -60,12 +60,13 @@ void ExpectControlsWellKnown(const CDialog& dialog) {
   for (const Notification& entry : dialog.Notifications().Entries()) ++handlers[entry.id];
   std::set<int> numbers;
   for (const RowTemplate& row : dialog.Template()->rows) {
+    SCOPED_TRACE(row.controls[0].caption);
     for (const ControlTemplate& control : row.controls) {
       if (control.kind == ControlKind::None) break;
       EXPECT_TRUE(numbers.insert(control.id).second) << control.id;
       const bool slider = control.kind == ControlKind::Slider;
       if (slider || UserOperates(control.kind)) {
-        EXPECT_EQ(handlers[slider ? 0 : control.id], 1) << "control " << control.id;
+        EXPECT_EQ(handlers[slider ? 0 : control.id], 1) << NameOf(*dialog.GetDlgItem(control.id));
       } else if (control.kind != ControlKind::Field) {
         continue;
       }
@@ -133,7 +134,7 @@ void ExpectNothingClipped(const CDialog& page) {
     for (const ControlTemplate& control : row.controls) {
       const QWidget* widget = page.GetDlgItem(control.id);
       if (widget == nullptr || !widget->isVisible()) continue;
-      EXPECT_TRUE(widget->parentWidget()->rect().contains(widget->geometry())) << control.id;
+      EXPECT_TRUE(widget->parentWidget()->rect().contains(widget->geometry())) << NameOf(*widget);
       const bool small = control.kind == ControlKind::Minus || control.kind == ControlKind::Plus ||
                          control.kind == ControlKind::Arrow;
       const QSize needed = control.kind == ControlKind::Slider ? widget->minimumSizeHint()
@@ -141,11 +142,12 @@ void ExpectNothingClipped(const CDialog& page) {
                                ? TextSize(*widget, QStringLiteral("-128"))
                            : small ? TextSize(*widget, WindowText(*widget))
                                    : widget->sizeHint();
-      EXPECT_GE(widget->width(), needed.width()) << control.id;
-      EXPECT_GE(widget->height(), needed.height()) << control.id;
+      EXPECT_GE(widget->width(), needed.width()) << NameOf(*widget);
+      EXPECT_GE(widget->height(), needed.height()) << NameOf(*widget);
       for (const QWidget* other : visible) {
         if (other->parentWidget() != widget->parentWidget()) continue;
-        EXPECT_FALSE(other->geometry().intersects(widget->geometry())) << control.id;
+        EXPECT_FALSE(other->geometry().intersects(widget->geometry()))
+            << NameOf(*widget) << " covers " << NameOf(*other);
       }
       if (std::string_view(control.caption) == "→") {
         EXPECT_LT(visible.back()->x(), widget->x()) << "the arrows have changed places";
@@ -175,7 +177,7 @@ void ExpectInReach(CDialog& dialog) {
     if (!widget->isVisible() || widget->window() != &dialog) continue;
     if (!(widget->focusPolicy() & Qt::TabFocus) || !widget->isEnabled()) continue;
     widget->setFocus(Qt::TabFocusReason);
-    EXPECT_TRUE(inSight(*widget)) << widget->accessibleName().toStdString();
+    EXPECT_TRUE(inSight(*widget)) << NameOf(*widget);
     for (const RowTemplate& row : dialog.Template()->rows) {
       const ControlTemplate& close = row.controls.front();
       if (close.kind != ControlKind::Close) continue;
@@ -197,12 +199,12 @@ TEST(Sweep, TabGoesToEveryControlRowByRow) {
       ASSERT_TRUE(reached.insert(control).second) << "round in circles";
       const QPoint at(control->x(), control->geometry().center().y());
       EXPECT_TRUE(at.y() > last.y() + 8 || at.x() > last.x())
-          << control->accessibleName().toStdString() << " before what is left of it or above";
+          << NameOf(*control) << " before what is left of it or above";
       last = at;
     }
     for (const QWidget* control : UsableControls(page)) {
       if ((control->focusPolicy() & Qt::TabFocus) == 0) continue;
-      EXPECT_TRUE(reached.contains(control)) << control->accessibleName().toStdString();
+      EXPECT_TRUE(reached.contains(control)) << NameOf(*control);
     }
   });
 }
@@ -218,7 +220,7 @@ TEST(Sweep, PresentRowsArePacked) {
         const QWidget* widget = page.GetDlgItem(control.id);
         if (widget == nullptr || !widget->isVisible()) continue;
         if (line == 0) line = widget->geometry().center().y();
-        EXPECT_NEAR(widget->geometry().center().y(), line, 1) << control.id;
+        EXPECT_NEAR(widget->geometry().center().y(), line, 1) << NameOf(*widget);
       }
       if (line == 0 || row.place == RowPlace::Bottom) continue;
       if (above.contains(row.place)) pitches.push_back(line - above[row.place]);

@@ -17,16 +17,23 @@
 #include "pages/picture/CColorDlg.h"
 #include "pages/picture/CGammaDlg.h"
 #include "toolkit/CSliderCtrl.h"
+#include "toolkit/WindowText.h"
+
+std::string NameOf(const QWidget& control) {
+  const QString own = control.accessibleName();
+  return (own.isEmpty() ? control.accessibleDescription() + ' ' + WindowText(control) : own)
+      .toStdString();
+}
 
 void DialogDriver::Click(int id) const {
   auto& button = Item<QAbstractButton>(id);
-  ASSERT_TRUE(button.isVisible()) << "button " << id << " cannot be clicked: it is not there";
+  ASSERT_TRUE(button.isVisible()) << NameOf(button) << " cannot be clicked: it is not there";
   QTest::mouseClick(&button, Qt::LeftButton);
 }
 
 void DialogDriver::Choose(int id, int position) const {
   auto& combo = Item<QComboBox>(id);
-  ASSERT_TRUE(combo.isVisible() && combo.isEnabled()) << "list " << id << " is not in use";
+  ASSERT_TRUE(combo.isVisible() && combo.isEnabled()) << NameOf(combo) << ": not in use";
   ASSERT_LT(position, combo.count());
   combo.setFocus();
   combo.showPopup();
@@ -36,7 +43,7 @@ void DialogDriver::Choose(int id, int position) const {
 
 void DialogDriver::Drag(int id, int position) const {
   auto& slider = Item<CSliderCtrl>(id);
-  ASSERT_TRUE(slider.isVisible() && slider.isEnabled()) << "slider " << id << " is not in use";
+  ASSERT_TRUE(slider.isVisible() && slider.isEnabled()) << NameOf(slider) << ": not in use";
   QPoint at = slider.HandleRect().center();
   QTest::mousePress(&slider, Qt::LeftButton, {}, at);
   // The pixel that stands for a position depends on the style: follow the handle.

@@ -19,6 +19,9 @@
 
 void Wheel(QWidget& control, int notches);
 
+/// What a control is called when a test fails: "Brightness +".
+std::string NameOf(const QWidget& control);
+
 /// Acts on a dialog's controls as a user does: with mouse, keys and wheel on the real widgets.
 class DialogDriver {
  public:

@@ -40,7 +40,7 @@ std::vector<Change> ChangesOf(const Work& work, const Target& target, Report& re
     const std::string& key = words[i];
     const std::string& word = words[i + 1];
     const auto complain = [&](const std::string& what) {
-      report.Complain(key + ": " + what, ExitCode::WrongUse);
+      report.Complain(std::string(key).append(": ").append(what), ExitCode::WrongUse);
     };
     const ModelSetting* const setting = target.settings.Find(key);
     if (setting == nullptr) {

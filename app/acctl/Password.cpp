@@ -18,7 +18,7 @@ std::string GivenPassword(const Arguments& arguments, std::string& error) {
     const FileBytes file = ReadToEnd(Wide(arguments.passwordFile), kMost);
     QByteArray line = file.bytes.split('\n').front();
     if (line.endsWith('\r')) line.chop(1);
-    const std::string password = line.toStdString();
+    std::string password = line.toStdString();
     const std::string reason = file.error.isEmpty() ? "its first line is empty"  //
                                                     : file.error.toStdString();
     if (password.empty()) error = "--password-file " + arguments.passwordFile + ": " + reason;

@@ -103,12 +103,11 @@ void ReadInto(const Work& work, ProjectorAccess& projector,
     if (const auto value = projector.Settings().Read(connection, *setting, source)) {
       values.Add(*setting, *value, connection.Power());
       if (IsPower(*setting)) power = StateOf(*value, projector);
-    } else if (!projector.Channel().HasAnswered()) {
+    } else if (const auto& channel = projector.Channel();
+               !channel.HasAnswered() || (!channel.IsOffered() && IsNamed(work, *setting))) {
       ComplainOf(*setting, projector, kNotReadable, report);
-    } else if (projector.Channel().IsOffered()) {
+    } else if (channel.IsOffered()) {
       unread.emplace_back(setting->key);
-    } else if (IsNamed(work, *setting)) {
-      ComplainOf(*setting, projector, kNotReadable, report);
     } else if (!work.arguments.words.empty()) {
       notOffered.emplace_back(setting->key);
     }

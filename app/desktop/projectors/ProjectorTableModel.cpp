@@ -69,7 +69,7 @@ bool HasRows(PageId page, int modelCode) {
 
 QString ConnectionTold(ConnectionState state, std::optional<std::chrono::seconds> sinceAnswer) {
   using std::chrono::floor;
-  const QString text = ProjectorTableModel::tr(ConnectionName(state));
+  QString text = ProjectorTableModel::tr(ConnectionName(state));
   const bool isWell = state == ConnectionState::Connected || state == ConnectionState::Unused;
   if (!isWell || !sinceAnswer || *sinceAnswer < kLongAgo) return text;
   const auto answered = [&]<class Unit>(const QString& told, Unit step) {

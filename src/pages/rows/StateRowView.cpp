@@ -25,9 +25,9 @@ void StateRowView::Read(Source source) {
 QString StateRowView::TextOfState(int value) const {
   const std::vector<ListEntry> texts = row_.texts.Of(Model());
   const int position = PositionOf(texts, value);
-  const QString text = position >= 0         ? TextOf(texts[static_cast<std::size_t>(position)])
-                       : row_.otherwise != 0 ? CatalogString(kListCategory, row_.otherwise, value)
-                                             : QString();
+  QString text = position >= 0         ? TextOf(texts[static_cast<std::size_t>(position)])
+                 : row_.otherwise != 0 ? CatalogString(kListCategory, row_.otherwise, value)
+                                       : QString();
   if (row_.frame == 0) return text;
   return QString::fromStdString(
       CatalogText<kFramedTextSize>(kListCategory, row_.frame, text.toStdString()));

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <limits>
 
+#include "device/HostAddress.h"
+
 namespace {
 
 constexpr int kNetworkKind = 1;

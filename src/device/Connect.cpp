@@ -1,13 +1,9 @@
 #include "device/Connect.h"
 
-#include <algorithm>
-#include <cctype>
 #include <charconv>
 #include <optional>
 
-#include <QHostAddress>
-#include <QUrl>
-
+#include "device/HostAddress.h"
 #include "device/PjLinkChannel.h"
 #include "device/SerialChannel.h"
 #include "device/TcpChannel.h"
@@ -18,7 +14,6 @@ constexpr int kNetworkKind = 1;
 constexpr int kMaximumPort = 65535;
 constexpr int kSerialPorts = 256;
 constexpr int kMaximumBaud = 4'000'000;
-constexpr std::size_t kMaximumHost = 253;
 
 constexpr std::string_view kTcp = "tcp://";
 constexpr std::string_view kPjLink = "pjlink://";
@@ -110,25 +105,6 @@ struct ChannelMaker {
 };
 
 }  // namespace
-
-bool IsHostAddress(std::string_view text) {
-  if (text.empty() || text.size() > kMaximumHost) return false;
-  const QString host = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-  if (host.contains(u':')) {
-    return QHostAddress(host).protocol() == QAbstractSocket::IPv6Protocol;
-  }
-  // What ends like an IPv4 address is one, with all of its four numbers.
-  const QStringList labels = host.split(u'.');
-  const auto isNumber = [](const QString& label) {
-    return !label.isEmpty() && std::ranges::all_of(label, [](QChar c) { return c.isDigit(); });
-  };
-  if (isNumber(labels.back())) return labels.size() == 4 && !QHostAddress(host).isNull();
-  // Letters of any language: names are looked up in their ASCII form.
-  const QByteArray name = QUrl::toAce(host);
-  return !name.isEmpty() && std::ranges::all_of(name, [](char c) {
-    return c == '.' || c == '-' || c == '_' || std::isalnum(static_cast<unsigned char>(c)) != 0;
-  });
-}
 
 ProjectorAddress ParseConnection(const ConnectionData& data) {
   if (data.Kind == kNetworkKind) return ParseNetwork(data.Text1, data.Parameter, data.Text2);

@@ -63,9 +63,6 @@ PROJECTOR_COMMON_EXPORT ProjectorAddress ParseConnection(const ConnectionData& d
 PROJECTOR_COMMON_EXPORT ProjectorAddress ParseAddress(std::string_view text,
                                                       std::string_view password = {});
 
-/// Whether the text is a host name or an IP address, without scheme and port.
-PROJECTOR_COMMON_EXPORT bool IsHostAddress(std::string_view text);
-
 /// The path of a serial port; `number` counts from 0.
 inline std::string SerialDevice(int number) { return "/dev/ttyS" + std::to_string(number); }
 

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "device/Connect.h"
+#include "device/HostAddress.h"
 #include "device/WireFrame.h"
 
 namespace {

@@ -1,0 +1,9 @@
+#pragma once
+
+#include <string_view>
+
+#include "ProjectorCommonExport.h"
+
+/// Whether the text is a host name or an IP address, without scheme and port. Any thread
+/// may call it.
+PROJECTOR_COMMON_EXPORT bool IsHostAddress(std::string_view text);

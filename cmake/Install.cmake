@@ -19,7 +19,7 @@ endfunction()
 
 # What a host names: the connection and the channels to a projector, simulated or real,
 public_headers(ProjectorCommon
-  device/BoundedChannel.h
+  device/channels/BoundedChannel.h
   device/CComCtrl.h
   device/CModelInfo.h
   device/CModelInfo2.h
@@ -29,12 +29,12 @@ public_headers(ProjectorCommon
   device/CSocketCtrl.h
   device/CommandCode.h
   device/Connect.h
-  device/LoggingChannel.h
+  device/channels/LoggingChannel.h
   simulator/FaultChannel.h
   simulator/SimulatedProjector.h
   # and what those include.
   device/ConnectionState.h
-  device/ForwardingChannel.h
+  device/channels/ForwardingChannel.h
   device/ModelData.h
   device/ModelDataIntake.h
   device/ModelDataSource.h
@@ -42,7 +42,7 @@ public_headers(ProjectorCommon
   device/PjtOperation.h
   device/PjtOperations.def
   device/ProjectorChannel.h
-  device/WireFrame.h
+  device/protocol/WireFrame.h
   simulator/SettingsTable.h)
 # The catalog,
 public_headers(ProjectorSettings

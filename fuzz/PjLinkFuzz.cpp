@@ -9,9 +9,9 @@
 #include <string_view>
 
 #include "device/CommandCode.h"
-#include "device/PjLinkInputs.h"
-#include "device/PjLinkLine.h"
-#include "device/PjLinkSession.h"
+#include "device/protocol/PjLinkInputs.h"
+#include "device/protocol/PjLinkLine.h"
+#include "device/protocol/PjLinkSession.h"
 #include "fuzz/Check.h"
 #include "simulator/PjLinkResponder.h"
 

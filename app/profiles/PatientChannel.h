@@ -4,7 +4,7 @@
 #include <memory>
 #include <utility>
 
-#include "device/ForwardingChannel.h"
+#include "device/channels/ForwardingChannel.h"
 
 /// Asks again where an answer got lost, and knows when a projector is gone: one that has never
 /// answered is after the first command, any other after the last repetition. Then every command is

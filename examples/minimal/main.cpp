@@ -2,7 +2,7 @@
 
 #include <QApplication>
 
-#include "device/BoundedChannel.h"
+#include "device/channels/BoundedChannel.h"
 #include "host/CAdvanceDlg.h"
 #include "simulator/SimulatedProjector.h"
 

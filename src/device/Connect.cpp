@@ -4,9 +4,9 @@
 #include <optional>
 
 #include "device/HostAddress.h"
-#include "device/PjLinkChannel.h"
-#include "device/SerialChannel.h"
-#include "device/TcpChannel.h"
+#include "device/channels/PjLinkChannel.h"
+#include "device/channels/SerialChannel.h"
+#include "device/channels/TcpChannel.h"
 
 namespace {
 

@@ -9,10 +9,10 @@
 #include <variant>
 
 #include "ProjectorCommonExport.h"
-#include "device/BoundedChannel.h"
 #include "device/ModelDataIntake.h"
 #include "device/ProjectorChannel.h"
-#include "device/WireFrame.h"
+#include "device/channels/BoundedChannel.h"
+#include "device/protocol/WireFrame.h"
 
 /// A projector that speaks the protocol of docs/wire.md over TCP.
 struct TcpAddress {

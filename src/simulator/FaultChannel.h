@@ -9,7 +9,7 @@
 #include <utility>
 
 #include "ProjectorCommonExport.h"
-#include "device/ForwardingChannel.h"
+#include "device/channels/ForwardingChannel.h"
 
 /// A fault that a command meets.
 struct Fault {

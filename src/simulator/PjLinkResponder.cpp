@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "device/CommandCode.h"
-#include "device/PjLinkLine.h"
+#include "device/protocol/PjLinkLine.h"
 
 namespace {
 

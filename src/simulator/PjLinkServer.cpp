@@ -9,8 +9,8 @@
 #include <QTcpSocket>
 #include <QTimer>
 
-#include "device/PjLinkLine.h"
-#include "device/PjLinkReader.h"
+#include "device/protocol/PjLinkLine.h"
+#include "device/protocol/PjLinkReader.h"
 #include "simulator/TcpListener.h"
 
 namespace {

@@ -5,7 +5,7 @@
 
 #include "ProjectorCommonExport.h"
 #include "device/ProjectorChannel.h"
-#include "device/WireFrame.h"
+#include "device/protocol/WireFrame.h"
 
 /// The projector's end of one connection: takes the bytes that come in and makes those that go out.
 class PROJECTOR_COMMON_EXPORT WireResponder {

@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "device/PjLinkSession.h"
+#include "device/protocol/PjLinkSession.h"
 
 /// A small PJLink projector of its own, written from the standard alone, that behaves as badly as
 /// it is told to. It lives in the time that it is given.

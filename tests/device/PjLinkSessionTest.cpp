@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "device/CommandCode.h"
-#include "device/PjLinkInputs.h"
+#include "device/protocol/PjLinkInputs.h"
 #include "tests/device/BadProjector.h"
 #include "tests/device/Replies.h"
 

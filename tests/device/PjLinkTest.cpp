@@ -11,8 +11,8 @@
 #include <gtest/gtest.h>
 
 #include "device/CommandCode.h"
-#include "device/PjLinkChannel.h"
-#include "device/PjLinkLine.h"
+#include "device/channels/PjLinkChannel.h"
+#include "device/protocol/PjLinkLine.h"
 #include "simulator/PjLinkServer.h"
 #include "simulator/SimulatedProjector.h"
 #include "tests/device/Peer.h"

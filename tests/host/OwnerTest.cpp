@@ -10,7 +10,7 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
-#include "device/BoundedChannel.h"
+#include "device/channels/BoundedChannel.h"
 #include "pages/option/CServiceDlg.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/PacedProjector.h"

@@ -9,7 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "device/CommandCode.h"
-#include "device/TcpChannel.h"
+#include "device/channels/TcpChannel.h"
 #include "simulator/WireResponder.h"
 #include "tests/device/Peer.h"
 #include "tests/snapshots/DisturbedProjector.h"

@@ -1,10 +1,10 @@
-#include "device/PjLinkInputs.h"
+#include "device/protocol/PjLinkInputs.h"
 
 #include <algorithm>
 #include <array>
 #include <utility>
 
-#include "device/PjLinkLine.h"
+#include "device/protocol/PjLinkLine.h"
 
 namespace {
 

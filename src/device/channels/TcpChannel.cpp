@@ -1,9 +1,9 @@
-#include "device/TcpChannel.h"
+#include "device/channels/TcpChannel.h"
 
 #include <QIODevice>
 #include <QTcpSocket>
 
-#include "device/ConnectSocket.h"
+#include "device/channels/ConnectSocket.h"
 
 std::unique_ptr<QIODevice> TcpChannel::Open(const QDeadlineTimer& deadline,
                                             ConnectionState& problem) {

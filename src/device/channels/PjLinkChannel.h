@@ -10,9 +10,9 @@
 #include <vector>
 
 #include "ProjectorCommonExport.h"
-#include "device/PjLinkInputs.h"
-#include "device/PjLinkSession.h"
 #include "device/ProjectorChannel.h"
+#include "device/protocol/PjLinkInputs.h"
+#include "device/protocol/PjLinkSession.h"
 
 class QTcpSocket;
 

@@ -1,4 +1,4 @@
-#include "device/WireFrame.h"
+#include "device/protocol/WireFrame.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "device/PjLinkReader.h"
+#include "device/protocol/PjLinkReader.h"
 
 namespace {
 

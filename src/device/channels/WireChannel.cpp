@@ -1,4 +1,4 @@
-#include "device/WireChannel.h"
+#include "device/channels/WireChannel.h"
 
 #include <algorithm>
 #include <array>

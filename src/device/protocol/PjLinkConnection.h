@@ -7,7 +7,7 @@
 
 #include "ProjectorCommonExport.h"
 #include "device/ConnectionState.h"
-#include "device/PjLinkReader.h"
+#include "device/protocol/PjLinkReader.h"
 
 using PjLinkTime = std::chrono::steady_clock::time_point;
 

@@ -12,7 +12,7 @@
 
 #include "ProjectorCommonExport.h"
 #include "device/ProjectorChannel.h"
-#include "device/WireFrame.h"
+#include "device/protocol/WireFrame.h"
 
 class QDeadlineTimer;
 class QIODevice;

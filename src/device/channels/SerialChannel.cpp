@@ -1,4 +1,4 @@
-#include "device/SerialChannel.h"
+#include "device/channels/SerialChannel.h"
 
 #include <QEventLoop>
 #include <QSerialPort>

@@ -1,4 +1,4 @@
-#include "device/LoggingChannel.h"
+#include "device/channels/LoggingChannel.h"
 
 #include <cstdio>
 

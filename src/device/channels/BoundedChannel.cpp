@@ -1,4 +1,4 @@
-#include "device/BoundedChannel.h"
+#include "device/channels/BoundedChannel.h"
 
 #include <algorithm>
 #include <condition_variable>

@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "ProjectorCommonExport.h"
-#include "device/PjLinkConnection.h"
-#include "device/PjLinkMapping.h"
 #include "device/ProjectorChannel.h"
+#include "device/protocol/PjLinkConnection.h"
+#include "device/protocol/PjLinkMapping.h"
 
 /// Something asked of a projector that is no setting.
 struct PjLinkQuestion {

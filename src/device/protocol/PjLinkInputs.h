@@ -7,7 +7,7 @@
 
 #include "ProjectorCommonExport.h"
 #include "device/ModelData.h"
-#include "device/PjLinkSession.h"
+#include "device/protocol/PjLinkSession.h"
 
 /// An input of a projector.
 struct PjLinkInput {

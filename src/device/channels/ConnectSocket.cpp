@@ -1,4 +1,4 @@
-#include "device/ConnectSocket.h"
+#include "device/channels/ConnectSocket.h"
 
 #include <chrono>
 #include <future>

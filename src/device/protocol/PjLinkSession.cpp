@@ -1,11 +1,11 @@
-#include "device/PjLinkSession.h"
+#include "device/protocol/PjLinkSession.h"
 
 #include <algorithm>
 #include <utility>
 
 #include <QString>
 
-#include "device/PjLinkLine.h"
+#include "device/protocol/PjLinkLine.h"
 
 namespace {
 

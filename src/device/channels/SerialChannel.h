@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "ProjectorCommonExport.h"
-#include "device/WireChannel.h"
+#include "device/channels/WireChannel.h"
 
 /// A projector that speaks our wire on a serial line: 8 data bits, no parity, 1 stop bit.
 class PROJECTOR_COMMON_EXPORT SerialChannel final : public WireChannel {

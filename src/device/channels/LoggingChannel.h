@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "ProjectorCommonExport.h"
-#include "device/ForwardingChannel.h"
+#include "device/channels/ForwardingChannel.h"
 
 /// Reports every command and its reply to an observer. Threads as `ProjectorChannel` says.
 class PROJECTOR_COMMON_EXPORT LoggingChannel : public ForwardingChannel {

@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "ProjectorCommonExport.h"
-#include "device/WireChannel.h"
+#include "device/channels/WireChannel.h"
 
 /// A projector that speaks our wire on a TCP port.
 class PROJECTOR_COMMON_EXPORT TcpChannel final : public WireChannel {

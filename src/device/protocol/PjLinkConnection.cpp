@@ -1,8 +1,8 @@
-#include "device/PjLinkConnection.h"
+#include "device/protocol/PjLinkConnection.h"
 
 #include <utility>
 
-#include "device/PjLinkLine.h"
+#include "device/protocol/PjLinkLine.h"
 
 using Kind = PjLinkStep::Kind;
 

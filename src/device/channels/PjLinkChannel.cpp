@@ -1,4 +1,4 @@
-#include "device/PjLinkChannel.h"
+#include "device/channels/PjLinkChannel.h"
 
 #include <algorithm>
 #include <thread>
@@ -7,7 +7,7 @@
 #include <QTcpSocket>
 
 #include "device/CommandCode.h"
-#include "device/ConnectSocket.h"
+#include "device/channels/ConnectSocket.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "device/PjLinkLine.h"
+#include "device/protocol/PjLinkLine.h"
 
 #include <algorithm>
 #include <array>

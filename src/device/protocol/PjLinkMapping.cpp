@@ -1,9 +1,9 @@
-#include "device/PjLinkMapping.h"
+#include "device/protocol/PjLinkMapping.h"
 
 #include <algorithm>
 
 #include "device/CommandCode.h"
-#include "device/PjLinkLine.h"
+#include "device/protocol/PjLinkLine.h"
 
 namespace {
 

@@ -19,22 +19,23 @@ endfunction()
 
 # What a host names: the connection and the channels to a projector, simulated or real,
 public_headers(ProjectorCommon
-  device/channels/BoundedChannel.h
-  device/CComCtrl.h
-  device/CModelInfo.h
   device/CModelInfo2.h
   device/CPjtInterface.h
   device/CProjectorItem.h
-  device/CScheduleInfo.h
-  device/CSocketCtrl.h
-  device/CommandCode.h
   device/Connect.h
+  device/channels/BoundedChannel.h
+  device/channels/ForwardingChannel.h
   device/channels/LoggingChannel.h
   simulator/FaultChannel.h
   simulator/SimulatedProjector.h
   # and what those include.
+  Namespace.h
+  device/CComCtrl.h
+  device/CModelInfo.h
+  device/CScheduleInfo.h
+  device/CSocketCtrl.h
+  device/CommandCode.h
   device/ConnectionState.h
-  device/channels/ForwardingChannel.h
   device/ModelData.h
   device/ModelDataIntake.h
   device/ModelDataSource.h

@@ -6,6 +6,8 @@
 #include "host/CAdvanceDlg.h"
 #include "simulator/SimulatedProjector.h"
 
+using namespace AdvancedControl;
+
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
 

@@ -8,6 +8,8 @@
 #include "device/channels/SerialChannel.h"
 #include "device/channels/TcpChannel.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 constexpr int kNetworkKind = 1;
@@ -146,3 +148,5 @@ BoundedChannel::Limits BoundsFor(const ProjectorAddress& address) {
   if (!std::holds_alternative<PjLinkAddress>(address)) return {};
   return {.timeOut = PjLinkChannel::Limits().Longest()};
 }
+
+}  // namespace AdvancedControl

@@ -10,7 +10,7 @@
 #include "settings/PageTables.h"
 #include "settings/RowParts.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

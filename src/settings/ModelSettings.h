@@ -8,12 +8,13 @@
 #include <string_view>
 #include <vector>
 
+#include "Namespace.h"
 #include "ProjectorSettingsExport.h"
 #include "device/CPjtInterface.h"
 #include "settings/PageSets.h"
 #include "settings/RowUse.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// One setting of a model, for programs without a window.
 struct PROJECTOR_SETTINGS_EXPORT ModelSetting {

@@ -5,7 +5,7 @@
 
 #include "device/CommandCode.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

@@ -5,10 +5,11 @@
 #include <optional>
 #include <string>
 
+#include "Namespace.h"
 #include "ProjectorSettingsExport.h"
 #include "settings/Rows.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 // Reads and changes settings as their rows say, for the rows of dialogs, for programs without a
 // window and for snapshots. Values are device values. Call these functions on the thread on which

@@ -6,6 +6,8 @@
 #include "device/CommandCode.h"
 #include "device/protocol/PjLinkLine.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 using Op = PjtOperation;
@@ -223,3 +225,5 @@ std::string PjLinkResponder::InputName(std::string_view code) const {
   return found == served_.inputs.end() ? Error(PjLink::kOutOfRange)
                                        : Bounded(found->name, LongestText("INNM"));
 }
+
+}  // namespace AdvancedControl

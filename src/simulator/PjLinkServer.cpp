@@ -13,6 +13,8 @@
 #include "device/protocol/PjLinkReader.h"
 #include "simulator/TcpListener.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 constexpr qint64 kReadBuffer = 512;
@@ -148,3 +150,5 @@ void PjLinkServer::Close() {
 }
 
 void PjLinkServer::SetFault(const LineFault& fault) { state_->fault = fault; }
+
+}  // namespace AdvancedControl

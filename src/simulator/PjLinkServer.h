@@ -5,9 +5,12 @@
 #include <memory>
 #include <string>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
 #include "simulator/FaultyLine.h"
 #include "simulator/PjLinkResponder.h"
+
+namespace AdvancedControl {
 
 /// Lets a projector be controlled over PJLink: answers on a TCP port what clients ask.
 ///
@@ -41,3 +44,5 @@ class PROJECTOR_COMMON_EXPORT PjLinkServer {
   struct State;
   std::unique_ptr<State> state_;
 };
+
+}  // namespace AdvancedControl

@@ -5,6 +5,8 @@
 #include <QTcpSocket>
 #include <QTimer>
 
+namespace AdvancedControl {
+
 namespace {
 
 constexpr std::chrono::milliseconds kPauseAfterFailure{100};
@@ -25,3 +27,5 @@ void TcpListener::incomingConnection(qintptr descriptor) {
   socket->setSocketDescriptor(descriptor);
   addPendingConnection(socket);
 }
+
+}  // namespace AdvancedControl

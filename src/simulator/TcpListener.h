@@ -2,7 +2,10 @@
 
 #include <QTcpServer>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
+
+namespace AdvancedControl {
 
 /// A port that stays open to the next connection whatever became of the last one: after one that
 /// could not be accepted, as when the process has no descriptor left, it tries again at intervals.
@@ -17,3 +20,5 @@ class PROJECTOR_COMMON_EXPORT TcpListener final : public QTcpServer {
  private:
   const qint64 readBuffer_;
 };
+
+}  // namespace AdvancedControl

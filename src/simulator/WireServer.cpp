@@ -11,6 +11,8 @@
 #include "simulator/TcpListener.h"
 #include "simulator/WireResponder.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 constexpr qint64 kLargestPiece = 4096;
@@ -118,3 +120,5 @@ void WireServer::Serve(std::unique_ptr<QIODevice> line) {
 }
 
 void WireServer::SetFault(const LineFault& fault) { parts_->fault = fault; }
+
+}  // namespace AdvancedControl

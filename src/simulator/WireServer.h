@@ -4,12 +4,15 @@
 #include <memory>
 #include <string>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
 #include "device/ProjectorChannel.h"
 #include "simulator/FaultyLine.h"
 
 class QHostAddress;
 class QIODevice;
+
+namespace AdvancedControl {
 
 /// Serves one projector over our wire: on a TCP port, and on lines that are handed over. Lives on a
 /// thread with an event loop; the projector should answer at once.
@@ -38,3 +41,5 @@ class PROJECTOR_COMMON_EXPORT WireServer {
   struct Parts;
   std::unique_ptr<Parts> parts_;
 };
+
+}  // namespace AdvancedControl

@@ -5,7 +5,7 @@
 
 #include "snapshots/Dependence.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

@@ -9,7 +9,7 @@
 #include "i18n/SystemLanguage.h"
 #include "settings/CatalogNumbers.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

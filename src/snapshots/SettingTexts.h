@@ -6,11 +6,12 @@
 #include <string>
 #include <string_view>
 
+#include "Namespace.h"
 #include "ProjectorSettingsExport.h"
 #include "i18n/CatalogTexts.h"
 #include "settings/ModelSettings.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// What a person typed for a setting.
 struct TypedValue {

@@ -15,6 +15,8 @@
 #include "toolkit/InputDialog.h"
 #include "toolkit/WindowText.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 // A handler may wait for the projector or open a box: the assistive technology must not wait for
@@ -347,3 +349,5 @@ void NameControls(const TemplateDialog& dialog) {
     }
   }
 }
+
+}  // namespace AdvancedControl

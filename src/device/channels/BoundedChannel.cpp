@@ -17,6 +17,8 @@
 
 #include "device/DropException.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 using Clock = std::chrono::steady_clock;
@@ -303,3 +305,5 @@ std::optional<PowerState> BoundedChannel::Power() const {
   return Told(*state_, std::optional<PowerState>(),
               [](const auto& inner) { return inner.Power(); });
 }
+
+}  // namespace AdvancedControl

@@ -5,8 +5,11 @@
 #include <optional>
 #include <utility>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
 #include "device/ProjectorChannel.h"
+
+namespace AdvancedControl {
 
 /// Limits how long a command may take, whatever the inner channel does.
 ///
@@ -67,3 +70,5 @@ class PROJECTOR_COMMON_EXPORT BoundedChannel : public ProjectorChannel {
 
   std::shared_ptr<State> state_;
 };
+
+}  // namespace AdvancedControl

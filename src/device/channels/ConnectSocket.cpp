@@ -12,6 +12,8 @@
 #include <QTcpSocket>
 #include <QUrl>
 
+namespace AdvancedControl {
+
 namespace {
 
 // All of them, in the order of preference. Takes as long as the system does.
@@ -60,3 +62,5 @@ std::unique_ptr<QTcpSocket> ConnectSocket(const std::string& host, std::uint16_t
   }
   return nullptr;
 }
+
+}  // namespace AdvancedControl

@@ -6,8 +6,11 @@
 #include <span>
 #include <utility>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
 #include "device/ProjectorChannel.h"
+
+namespace AdvancedControl {
 
 /// A channel that forwards every call to another one. Channels that log, disturb or repeat commands
 /// derive from it and override only what they change, so that they cannot forget to forward a
@@ -37,3 +40,5 @@ class PROJECTOR_COMMON_EXPORT ForwardingChannel : public ProjectorChannel {
  private:
   std::shared_ptr<ProjectorChannel> inner_;
 };
+
+}  // namespace AdvancedControl

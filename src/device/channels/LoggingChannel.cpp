@@ -2,6 +2,8 @@
 
 #include <cstdio>
 
+namespace AdvancedControl {
+
 namespace {
 
 std::string Hexadecimal(unsigned value, int digits) {
@@ -49,3 +51,5 @@ std::string FormatCommand(const PjtCommand& command, const PjtReply* reply) {
   const int value = form.isGeneric ? static_cast<std::uint16_t>(reply->value) : reply->value;
   return text + " = " + std::to_string(value);
 }
+
+}  // namespace AdvancedControl

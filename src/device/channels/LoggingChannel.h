@@ -6,8 +6,11 @@
 #include <string>
 #include <utility>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
 #include "device/channels/ForwardingChannel.h"
+
+namespace AdvancedControl {
 
 /// Reports every command and its reply to an observer. Threads as `ProjectorChannel` says.
 class PROJECTOR_COMMON_EXPORT LoggingChannel : public ForwardingChannel {
@@ -30,3 +33,5 @@ class PROJECTOR_COMMON_EXPORT LoggingChannel : public ForwardingChannel {
 /// refused".
 PROJECTOR_COMMON_EXPORT std::string FormatCommand(const PjtCommand& command,
                                                   const PjtReply* reply = nullptr);
+
+}  // namespace AdvancedControl

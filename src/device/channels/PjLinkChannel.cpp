@@ -9,6 +9,8 @@
 #include "device/CommandCode.h"
 #include "device/channels/ConnectSocket.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 constexpr qint64 kReadBuffer = 512;
@@ -207,3 +209,5 @@ void PjLinkChannel::Remember(const PjLinkFacts& facts) {
 }
 
 std::string PjLinkChannel::Address() const { return host_ + ':' + std::to_string(port_); }
+
+}  // namespace AdvancedControl

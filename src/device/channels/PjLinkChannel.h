@@ -9,12 +9,15 @@
 #include <utility>
 #include <vector>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
 #include "device/ProjectorChannel.h"
 #include "device/protocol/PjLinkInputs.h"
 #include "device/protocol/PjLinkSession.h"
 
 class QTcpSocket;
+
+namespace AdvancedControl {
 
 /// What a projector is, which does not change between sessions.
 struct PjLinkFacts {
@@ -121,3 +124,5 @@ class PROJECTOR_COMMON_EXPORT PjLinkChannel : public ProjectorChannel {
   std::mutex toldMutex_;
   std::optional<SourceList> told_;  ///< Under the mutex.
 };
+
+}  // namespace AdvancedControl

@@ -3,6 +3,8 @@
 #include <QEventLoop>
 #include <QSerialPort>
 
+namespace AdvancedControl {
+
 std::unique_ptr<QIODevice> SerialChannel::Open(const QDeadlineTimer&, ConnectionState&) {
   const QEventLoop needed;  // a port wants its thread to have what event loops run on
   auto port = std::make_unique<QSerialPort>(QString::fromStdString(device_));
@@ -16,3 +18,5 @@ bool SerialChannel::IsAlive(QIODevice& line) const {
   const auto error = static_cast<QSerialPort&>(line).error();
   return error == QSerialPort::NoError || error == QSerialPort::TimeoutError;
 }
+
+}  // namespace AdvancedControl

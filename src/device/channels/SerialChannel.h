@@ -5,8 +5,11 @@
 #include <string>
 #include <utility>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
 #include "device/channels/WireChannel.h"
+
+namespace AdvancedControl {
 
 /// A projector that speaks our wire on a serial line: 8 data bits, no parity, 1 stop bit.
 class PROJECTOR_COMMON_EXPORT SerialChannel final : public WireChannel {
@@ -26,3 +29,5 @@ class PROJECTOR_COMMON_EXPORT SerialChannel final : public WireChannel {
   const std::string device_;
   const std::int32_t baud_;
 };
+
+}  // namespace AdvancedControl

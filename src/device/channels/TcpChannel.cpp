@@ -5,6 +5,8 @@
 
 #include "device/channels/ConnectSocket.h"
 
+namespace AdvancedControl {
+
 std::unique_ptr<QIODevice> TcpChannel::Open(const QDeadlineTimer& deadline,
                                             ConnectionState& problem) {
   constexpr qint64 kReadAhead = 64L * 1024;
@@ -14,3 +16,5 @@ std::unique_ptr<QIODevice> TcpChannel::Open(const QDeadlineTimer& deadline,
 bool TcpChannel::IsAlive(QIODevice& line) const {
   return static_cast<QTcpSocket&>(line).state() == QAbstractSocket::ConnectedState;
 }
+
+}  // namespace AdvancedControl

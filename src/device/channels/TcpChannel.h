@@ -5,8 +5,11 @@
 #include <string>
 #include <utility>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
 #include "device/channels/WireChannel.h"
+
+namespace AdvancedControl {
 
 /// A projector that speaks our wire on a TCP port.
 class PROJECTOR_COMMON_EXPORT TcpChannel final : public WireChannel {
@@ -25,3 +28,5 @@ class PROJECTOR_COMMON_EXPORT TcpChannel final : public WireChannel {
   const std::string host_;
   const std::uint16_t port_;
 };
+
+}  // namespace AdvancedControl

@@ -8,6 +8,8 @@
 #include <QIODevice>
 #include <QRandomGenerator>
 
+namespace AdvancedControl {
+
 namespace {
 
 using Clock = std::chrono::steady_clock;
@@ -215,3 +217,5 @@ bool WireChannel::Fail(ConnectionState problem) {
   state_ = problem;
   return false;
 }
+
+}  // namespace AdvancedControl

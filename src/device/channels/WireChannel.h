@@ -10,12 +10,15 @@
 #include <string>
 #include <vector>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
 #include "device/ProjectorChannel.h"
 #include "device/protocol/WireFrame.h"
 
 class QDeadlineTimer;
 class QIODevice;
+
+namespace AdvancedControl {
 
 /// A projector at the other end of a line that carries the frames of docs/wire.md.
 ///
@@ -109,3 +112,5 @@ class PROJECTOR_COMMON_EXPORT WireChannel : public ProjectorChannel {
   std::deque<Sent> sent_;
   std::chrono::steady_clock::time_point lastAsked_{};
 };
+
+}  // namespace AdvancedControl

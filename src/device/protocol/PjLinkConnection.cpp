@@ -4,6 +4,8 @@
 
 #include "device/protocol/PjLinkLine.h"
 
+namespace AdvancedControl {
+
 using Kind = PjLinkStep::Kind;
 
 void PjLinkConnection::Ask(PjLinkRequest request, PjLinkLimits::Time time, PjLinkTime now) {
@@ -163,3 +165,5 @@ void PjLinkConnection::Drop() {
   isOpen_ = false;
   reader_.Clear();
 }
+
+}  // namespace AdvancedControl

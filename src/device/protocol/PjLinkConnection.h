@@ -5,9 +5,12 @@
 #include <string>
 #include <string_view>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
 #include "device/ConnectionState.h"
 #include "device/protocol/PjLinkReader.h"
+
+namespace AdvancedControl {
 
 using PjLinkTime = std::chrono::steady_clock::time_point;
 
@@ -112,3 +115,5 @@ class PROJECTOR_COMMON_EXPORT PjLinkConnection {
   PjLinkReader reader_;
   std::string proof_;  ///< Goes before the session's first request.
 };
+
+}  // namespace AdvancedControl

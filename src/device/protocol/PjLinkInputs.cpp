@@ -6,6 +6,8 @@
 
 #include "device/protocol/PjLinkLine.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 constexpr std::size_t kMostInputs = SourceList::kCapacity;
@@ -92,3 +94,5 @@ void PjLinkInputs::Add(PjLinkInput input) {
   if (inputs_.size() == kMostInputs) inputs_.pop_back();
   inputs_.push_back(std::move(input));
 }
+
+}  // namespace AdvancedControl

@@ -5,9 +5,12 @@
 #include <string>
 #include <vector>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
 #include "device/ModelData.h"
 #include "device/protocol/PjLinkSession.h"
+
+namespace AdvancedControl {
 
 /// An input of a projector.
 struct PjLinkInput {
@@ -53,3 +56,5 @@ class PROJECTOR_COMMON_EXPORT PjLinkInputs {
   std::vector<PjLinkInput> inputs_;  ///< Of the first of `codes_`, then of what plays beyond them.
   int playing_ = 0;                  ///< 0 before it is known.
 };
+
+}  // namespace AdvancedControl

@@ -7,6 +7,8 @@
 
 #include <QCryptographicHash>
 
+namespace AdvancedControl {
+
 namespace PjLink {
 namespace {
 
@@ -171,3 +173,5 @@ std::string ErrorDigits(int errorStatus) {
 }
 
 }  // namespace PjLink
+
+}  // namespace AdvancedControl

@@ -6,8 +6,11 @@
 #include <string_view>
 #include <vector>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
 #include "device/ProjectorChannel.h"
+
+namespace AdvancedControl {
 
 /// The lines of PJLink, the open standard for controlling projectors of any maker over TCP, and
 /// what their parameters are in device values. Lines are given here without their end, a CR.
@@ -74,3 +77,5 @@ PROJECTOR_COMMON_EXPORT std::vector<std::string> InputCodes(std::string_view lis
 PROJECTOR_COMMON_EXPORT std::string ErrorDigits(int errorStatus);
 
 }  // namespace PjLink
+
+}  // namespace AdvancedControl

@@ -5,6 +5,8 @@
 #include "device/CommandCode.h"
 #include "device/protocol/PjLinkLine.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 using Op = PjtOperation;
@@ -72,3 +74,5 @@ const PjLinkMapping* PjLinkMapping::Find(const PjtCommand& command) {
 int PjLinkAim(const PjtCommand& change) {
   return change.operation == Op::SetPowerOn ? 1 : change.first;
 }
+
+}  // namespace AdvancedControl

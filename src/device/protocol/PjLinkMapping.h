@@ -5,7 +5,10 @@
 #include <string>
 #include <string_view>
 
+#include "Namespace.h"
 #include "device/ProjectorChannel.h"
+
+namespace AdvancedControl {
 
 /// The classes of the protocol that have a command.
 enum class PjLinkClass : std::uint8_t {
@@ -32,3 +35,5 @@ struct PjLinkMapping {
 
 /// The value that a change leads to, as its mapping's `value` says it.
 int PjLinkAim(const PjtCommand& change);
+
+}  // namespace AdvancedControl

@@ -1,5 +1,7 @@
 #include "device/protocol/PjLinkReader.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 constexpr std::string_view kEnds = "\r\n";
@@ -20,3 +22,5 @@ std::optional<std::string> PjLinkReader::Next() {
   bytes_.erase(0, bytes_.find_first_not_of(kEnds, end));
   return line;
 }
+
+}  // namespace AdvancedControl

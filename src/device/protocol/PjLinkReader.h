@@ -5,6 +5,10 @@
 #include <string>
 #include <string_view>
 
+#include "Namespace.h"
+
+namespace AdvancedControl {
+
 /// The lines in bytes that arrive in pieces of any size. A line ends with CR, LF or both. Zero
 /// bytes, which some projectors put around their lines, and empty lines count for nothing.
 class PjLinkReader {
@@ -24,3 +28,5 @@ class PjLinkReader {
  private:
   std::string bytes_;
 };
+
+}  // namespace AdvancedControl

@@ -7,6 +7,8 @@
 
 #include "device/protocol/PjLinkLine.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 constexpr std::chrono::seconds kFresh{1};
@@ -261,3 +263,5 @@ void PjLinkSession::Finish(const PjtReply& reply) {
   keepsLast_ = false;
   reply_ = reply;
 }
+
+}  // namespace AdvancedControl

@@ -5,10 +5,13 @@
 #include <string_view>
 #include <vector>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
 #include "device/ProjectorChannel.h"
 #include "device/protocol/PjLinkConnection.h"
 #include "device/protocol/PjLinkMapping.h"
+
+namespace AdvancedControl {
 
 /// Something asked of a projector that is no setting.
 struct PjLinkQuestion {
@@ -130,3 +133,5 @@ class PROJECTOR_COMMON_EXPORT PjLinkSession {
   PjtReply reply_;
   PjLinkTold told_;
 };
+
+}  // namespace AdvancedControl

@@ -5,6 +5,8 @@
 
 #include <QByteArrayView>
 
+namespace AdvancedControl {
+
 namespace Wire {
 
 namespace {
@@ -151,3 +153,5 @@ std::optional<Frame> Decoder::Next() {
 }
 
 }  // namespace Wire
+
+}  // namespace AdvancedControl

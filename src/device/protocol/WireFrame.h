@@ -7,8 +7,11 @@
 #include <string_view>
 #include <variant>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
 #include "device/ProjectorChannel.h"
+
+namespace AdvancedControl {
 
 /// The frames that a program and a projector exchange over TCP and serial lines; docs/wire.md
 /// describes every byte. Bytes are kept in `std::string`. The functions may be called from any
@@ -92,3 +95,5 @@ class PROJECTOR_COMMON_EXPORT Decoder {
 };
 
 }  // namespace Wire
+
+}  // namespace AdvancedControl

@@ -11,8 +11,9 @@ namespace {
 
 constexpr std::chrono::seconds kFresh{1};
 constexpr int kMostLost = 1;
-/// Before it is asked again for the first time; then it doubles.
+/// Before it is asked again for the first time; then it doubles, up to the longest one.
 constexpr std::chrono::milliseconds kFirstPause{100};
+constexpr std::chrono::milliseconds kLongestPause{1000};
 
 bool IsError(std::string_view answer) {
   return answer.size() == 4 && PjLink::SameWord(answer.substr(0, 3), "ERR");
@@ -113,7 +114,7 @@ void PjLinkSession::Ask(Stage stage, std::string_view command, std::string_view 
 
 void PjLinkSession::AskAfterPause(Stage stage, PjLinkTime now) {
   resumeAt_ = std::min(now + pause_, *askUntil_);
-  pause_ *= 2;
+  pause_ = std::min(2 * pause_, PjLinkLimits::Time(kLongestPause));
   resumed_ = stage;
   stage_ = Stage::Pausing;
 }

@@ -114,6 +114,9 @@ class SteppedSession {
   static constexpr PjLinkLimits kLimits{.connect = std::chrono::seconds(2),
                                         .answer = std::chrono::seconds(2)};
 
+  explicit SteppedSession(PjLinkLimits::Time answer = kLimits.answer)
+      : session("", {.connect = kLimits.connect, .answer = answer}) {}
+
   PjtReply Do(const PjtCommand& command) {
     session.Begin(command, now);
     Run();
@@ -126,7 +129,7 @@ class SteppedSession {
   }
 
   BadProjector projector;
-  PjLinkSession session{"", kLimits};
+  PjLinkSession session;
   PjLinkTime now{std::chrono::hours(1)};
 
  private:

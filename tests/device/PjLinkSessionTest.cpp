@@ -158,6 +158,12 @@ TEST(PjLinkSession, WaitsUntilAChangeIsSo) {
   stepped.now += 2s;
   stepped.projector.states["INPT"] = "5A";
   EXPECT_EQ(stepped.Do(kGetInput).value, 510) << "that was long ago";
+
+  SteppedSession patient(60s);
+  follows(20s)(patient.projector);
+  const auto start = patient.now;
+  EXPECT_EQ(Word(kSetInput, patient.Do(kSetInput)), "done");
+  EXPECT_LT(patient.now - start, 20s + 1200ms) << "it is seen soon after it is so";
 }
 
 TEST(PjLinkSession, AsksABusyProjectorAgainInTime) {

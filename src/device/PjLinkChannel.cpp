@@ -72,7 +72,7 @@ void PjLinkChannel::Run(const auto& work) {
 /// What came while nothing was asked answers nothing that will be, and may be the connection's end.
 void PjLinkChannel::TakeWhatCame() {
   for (int i = 0; socket_ && i < kMostPieces && socket_->waitForReadyRead(0); ++i) {
-    session_.Connection().Received(socket_->readAll().toStdString());
+    session_.Connection().Received(socket_->readAll().toStdString(), Clock::now());
   }
   Listen(std::chrono::milliseconds::zero());
 }
@@ -110,7 +110,7 @@ void PjLinkChannel::Listen(std::chrono::milliseconds time) {
   if (!socket_) return std::this_thread::sleep_for(time);
   const bool isReady =
       socket_->bytesAvailable() > 0 || socket_->waitForReadyRead(static_cast<int>(time.count()));
-  if (isReady) session_.Connection().Received(socket_->readAll().toStdString());
+  if (isReady) session_.Connection().Received(socket_->readAll().toStdString(), Clock::now());
   if (socket_->state() == QAbstractSocket::ConnectedState || socket_->bytesAvailable() > 0) return;
   socket_.reset();
   session_.Connection().Closed(Clock::now());

@@ -201,15 +201,17 @@ TEST(PjLinkSession, AsksABusyProjectorAgainInTime) {
 }
 
 TEST(PjLinkSession, HasTheWholeTimeForEachAnswerAndOneConnectionWithGrowingPauses) {
+  const auto closesLate = [](auto& it) { it.closesAfterReply = 5ms; };
   ExpectEach({
       {"slow", [](auto& it) { it.answers = 1990ms; }, kSetInput, "done", "INPT 32, INPT"},
       {"too slow", [](auto& it) { it.answers = 2010ms; }, kSetInput, "unanswered", "INPT 32"},
       {"closes after each reply, and needs a pause",
        [](auto& it) {
-         it.closesAfterReply = true;
+         it.closesAfterReply = 0ms;
          it.gap = 200ms;
        },
        kSetInput, "done", "INPT 32, INPT"},
+      {"closes a moment after each reply", closesLate, kSetInput, "done", "INPT 32, INPT"},
       {"lets nobody in", [](auto& it) { it.greeting = ""; }, kSetInput, "unsent", ""},
       {"wants a password", [](auto& it) { it.greeting = "PJLINK ERRA\r"; }, kSetInput, "unsent",
        ""},
@@ -220,11 +222,18 @@ TEST(PjLinkSession, HasTheWholeTimeForEachAnswerAndOneConnectionWithGrowingPause
        },
        kGetInput, "not offered", "INPT, CLSS, INPT"},
   });
+  SteppedSession ending;
+  Expect({"closes behind the class", closesLate, Inc(Code::Volume), "done", "CLSS, SVOL 1"},
+         ending);
+  Expect({"closes behind a step", closesLate, Inc(Code::Volume), "done", "SVOL 1"}, ending);
+
   SteppedSession stepped;
-  for (const auto& command : {kGetInput, kSetInput, kGetInput, Get(Code::Mute)}) {
+  const auto begin = stepped.now;
+  for (const auto& command : {kGetInput, Inc(Code::Volume), kGetInput, Inc(Code::Volume)}) {
     stepped.Do(command);
   }
   EXPECT_EQ(stepped.projector.connections, 1);
+  EXPECT_LT(stepped.now - begin, 200ms) << "it is waited for once";
 
   SteppedSession away;
   away.projector.gap = 1h;

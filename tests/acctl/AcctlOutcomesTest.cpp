@@ -214,6 +214,10 @@ TEST(AcctlPjLink, TellsStandbyAsAStateAndNotAsFailures) {
     EXPECT_EQ(get.exitCode, 0);
     EXPECT_EQ(Entry(get)["power"], member);
     EXPECT_TRUE(Entry(get)["unread"].toArray().contains("status.mute"));
+    ScriptedPjLink asked(Projector(power));
+    EXPECT_THAT(any.Run(asked, {"get", "Any", "status.mute"}), Ends(0, StartsWith(left)));
+    EXPECT_EQ(asked.Count("AVMT ?"), 1);
+    EXPECT_EQ(asked.Count("POWR ?"), 1);
     EXPECT_THAT(any.Run(projector, {"save", "Any", kept}),
                 Ends(0, AllOf(StartsWith(left), HasSubstr("nothing was written"))));
     EXPECT_EQ(Contents(kept), "precious");

@@ -261,6 +261,20 @@ TEST(PjLinkSession, OneKeyCostsThreeExchangesCoolAndTwoWarm) {
     warm.Do(command);
     EXPECT_LE(warm.projector.heard.size(), 2);
   }
+  for (const auto& [power, inputs] : {std::pair("1", "CLSS, INPT"), {"0", "CLSS, INPT, POWR"}}) {
+    SteppedSession all;
+    all.projector.states["POWR"] = power;
+    if (*power == '0') all.projector.refuses = {{"INPT", 99}, {"AVMT", 99}, {"FREZ", 99}};
+    all.session.KeepLast();
+    for (const auto& command : {kGetInput, kGetInput}) all.Do(command);
+    EXPECT_EQ(all.projector.TakeHeard(), inputs);
+    all.Do(Get(Code::RunningState));
+    for (int i = 0; i < 2; ++i) {
+      for (const auto code : {Code::BlankState, Code::Mute, Code::Freeze}) all.Do(Get(code));
+    }
+    EXPECT_EQ(all.projector.TakeHeard(),
+              std::string(*power == '0' ? "" : "POWR, ") + "AVMT, FREZ, AVMT, FREZ");
+  }
   SteppedSession other;
   other.session.RememberClass('2');
   other.projector.facts["CLSS"] = "1";

@@ -313,6 +313,15 @@ TEST(AcctlPjLink, TellsAcceptedAndNotYetSoBusyAndUnconfirmedApart) {
     return request == "AVMT ?" ? "hang up" : "OK";
   };
   EXPECT_EQ(outcome(fallsSilent, 3, "accepted, but no answer (connection lost)\n"), "unconfirmed");
+  bool wasLost = false;
+  const auto loses = [others = Projector("1"), &wasLost](const std::string& request) {
+    if (request == "AVMT ?" && wasLost) return std::string("31");
+    const bool isFirst = request == "AVMT 21" && !std::exchange(wasLost, true);
+    return isFirst ? "hang up" : others(request);
+  };
+  ScriptedPjLink losing(loses);
+  EXPECT_THAT(any.Run(losing, set, kTimeOut), Ends(0, ""));
+  EXPECT_EQ(losing.Count("AVMT 21"), 2);
 
   ScriptedPjLink stepped(ProjectorBut("AVMT 21", "ERR2"));
   EXPECT_EQ(any.Run(stepped, {"set", "Any", "other.mute", "+1"}).exitCode, 1);

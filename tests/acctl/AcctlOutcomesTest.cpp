@@ -163,6 +163,8 @@ TEST(AcctlSet, StopsWhereItIsInterruptedAndDoesNotBeginWhatCannotBeReached) {
   const QString key = "image.position-h";
   EXPECT_THAT(Acctl(simulator.At({"set", kRoom, key, "70000"})),
               Ends(2, HasSubstr("'70000' is not one of: ")));
+  EXPECT_THAT(Acctl(simulator.At({"set", kRoom, "picture.tint", "3", key, "60000"})),
+              Ends(2, HasSubstr("'60000' is more than 4096 steps from ")));
   QProcess watch;
   watch.start(ACCTL_PROGRAM, simulator.At({"watch", kRoom, key, "--interval", "0.05"}));
   ASSERT_TRUE(watch.waitForReadyRead(30'000));
@@ -184,9 +186,17 @@ TEST(AcctlSet, StopsWhereItIsInterruptedAndDoesNotBeginWhatCannotBeReached) {
   EXPECT_EQ(Entry(set)["changes"][0]["outcome"], "stopped");
   const QTemporaryDir folder;
   const QString file = folder.filePath("far.json");
-  Write(file, R"({"format": "advanced-control-settings", "version": 1,
+  const auto write = [&](const char* value) {
+    Write(file, QByteArray(R"({"format": "advanced-control-settings", "version": 1,
       "model": {"name": "Model 5-30", "dialogType": 5, "modelCode": 30},
-      "settings": [{"key": "image.position-h", "value": 120}]})");
+      "settings": [{"key": "image.position-h", "value": )") +
+                    value + "}]}");
+  };
+  write("60000");
+  const Outcome far = Acctl(simulator.At({"--json", "apply", file, kRoom}));
+  EXPECT_THAT(far, Ends(1, HasSubstr(": not sent, it is more than 4096 steps away\n")));
+  EXPECT_EQ(Entry(far)["notDone"][0]["key"], key);
+  write("120");
   const Outcome apply = interrupt({"--json", "apply", file, kRoom});
   EXPECT_THAT(apply, isStopped);
   EXPECT_EQ(Entry(apply)["notDone"][0]["key"], key);

@@ -184,7 +184,12 @@ TEST(PjLinkTest, WhateverThePeerDoesTheStateIsClearAndOldRepliesAreDropped) {
       {breaks, "1", State::Connected, false, {kGetPower}, "0", standby},
       {breaks, "1", State::Connected, false, {Do(Op::SetPowerOn), kGetPower}, "? 1"},
       {Peer::Says({kGreeting, "%1POWR=7\r", "%1POWR=7\r", warm}), "-", State::Connected},
-      {Peer::Says({kGreeting, "%1POWR=ERR3\r", "%1powr=2\r", warm}), "-", State::Connected},
+      {Peer::Says({kGreeting, "%1POWR=ERR3\r", "%1powr=2\r", warm}),
+       "-",
+       State::Connected,
+       false,
+       {kGetPower, kGetPower},
+       "2 1"},
       {Peer::Says({kGreeting, "%1POWR=ERR4\r", warm}), "-", State::Connected},
       {Peer::Says({kGreeting, "%1POWR=\r", "%1POWR=\r", warm}), "-", State::Connected}};
   for (std::size_t length = 0; length < kOn.size(); ++length) {

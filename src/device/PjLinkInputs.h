@@ -18,8 +18,9 @@ struct PjLinkInput {
   friend bool operator==(const PjLinkInput&, const PjLinkInput&) = default;
 };
 
-/// The inputs as a model's source list; those that it has no room for are left out. Of inputs of
-/// one name each has its two characters behind it: "HDMI (31)".
+/// The inputs as a model's source list, without those that it has no room for. Each name is
+/// followed by the input's two characters, "HDMI (31)": several inputs may have one name, and an
+/// input must be called the same whether or not the others are known.
 PROJECTOR_COMMON_EXPORT SourceList SourcesOf(const std::vector<PjLinkInput>& inputs);
 
 /// What is known of a projector's inputs, and what to ask next to know more: the list, then the

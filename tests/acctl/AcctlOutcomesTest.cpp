@@ -250,6 +250,12 @@ TEST(AcctlPjLink, OffersOnlyWhatTheProtocolHasAndTellsInputsOfOneNameApart) {
               Ends(0, "acctl: Any: audio.*: skipped, PJLink does not have it\n"));
   EXPECT_THAT(any.Run(projector, {"set", "Any", "picture.tint", "1"}),
               Ends(2, "acctl: Any: picture.tint: PJLink does not have it\n"));
+  // Class 1 tells no names; "Digital 2" is one input's alone.
+  EXPECT_THAT(any.Run(projector, {"settings", "Any"}).output, HasSubstr("Digital 1 (31), Dig"));
+  EXPECT_THAT(any.Run(projector, {"get", "Any", "status.input-source"}).output,
+              HasSubstr("  Digital 1 (31)\n"));
+  EXPECT_EQ(any.Run(projector, {"set", "Any", "other.input-source", "digital 2"}, "3").exitCode, 0);
+  EXPECT_EQ(projector.Count("INPT 32"), 1);
 
   const QTemporaryDir folder;
   const QString named = folder.filePath("named.json");

@@ -124,7 +124,7 @@ TEST_F(SimulatorTest, TheListTellsHowEveryConnectionStands) {
   for (int row = 0; row < 3; ++row) comesTo(row, "Open · Connected");
   comesTo(3, "Open · Password missing or wrong");
   comesTo(4, "Open · Simulated");
-  EXPECT_TRUE(QTest::qWaitFor([&] { return CurrentInput(*window.Dialog(1)) == "RGB1"; }));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return CurrentInput(*window.Dialog(1)) == "RGB1 (31)"; }));
 
   const QString port = simulator_->Address("tcp").section(':', -1);
   simulator_.reset();
@@ -150,12 +150,12 @@ TEST_F(SimulatorTest, ADialogTakesItsInputsFromAProjectorThatTellsThem) {
   EXPECT_EQ(dialog.ShownPage()->GetDlgItem(20134)->toolTip(),
             "The projector does not offer this setting over this connection.");
   dialog.findChild<QTabBar*>()->setCurrentIndex(0);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return CurrentInput(dialog) == "RGB1"; }));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return CurrentInput(dialog) == "RGB1 (31)"; }));
   CAdvanceDlg later;
   later.CopyData(&model, 0);
   later.Projector().SetChannel(dialog.Projector().Channel());
   ASSERT_TRUE(later.Create());
-  EXPECT_EQ(CurrentInput(later), "RGB1") << "known from the start";
+  EXPECT_EQ(CurrentInput(later), "RGB1 (31)") << "known from the start";
 }
 
 TEST(SimulatorPorts, NoneIsBeyondTheLast) {

@@ -272,6 +272,26 @@ TEST(AcctlPjLink, OffersOnlyWhatTheProtocolHasAndTellsInputsOfOneNameApart) {
   EXPECT_THAT(run({"set", "Any", "other.input-source", "31"}), Ends(0, ""));
 }
 
+TEST(AcctlPjLink, ChecksAndRunsACommandForSeveralProjectorsOverOneConnectionEach) {
+  ScriptedPjLink one(Projector("1")), other(Projector("1"));
+  const QTemporaryDir folder;
+  const QString both = folder.filePath("both.json");
+  const auto profile = [](const char* name, const ScriptedPjLink& projector) {
+    return QByteArray(R"({"name": ")") + name +
+           R"(", "model": "M", "dialogType": 5, "modelCode": 30,
+               "link": "pjlink", "connection": {"network": {"address": "127.0.0.1", "port": )" +
+           QByteArray::number(projector.Port()) + "}}}";
+  };
+  Write(both, R"({"projectors": [)" + profile("A", one) + ", " + profile("B", other) + "]}");
+  EXPECT_THAT(
+      Acctl({"--profiles", both, "--timeout", "60", "set", "?", "other.input-source", "31"}),
+      Ends(0, ""));
+  for (ScriptedPjLink* const projector : {&one, &other}) {
+    EXPECT_EQ(projector->Count("INPT 31"), 1);
+    EXPECT_EQ(projector->Connections(), 1);
+  }
+}
+
 TEST(AcctlPjLink, StepsTheVolumeThatNobodyCanRead) {
   int volume = 1;
   ScriptedPjLink projector([&volume, others = Projector("1")](const std::string& request) {

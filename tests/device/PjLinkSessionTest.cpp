@@ -127,8 +127,7 @@ TEST(PjLinkSession, LosesOneThingAndAsksAgainWhereItMatters) {
   lost.projector.loses["INNM"] = 2;
   EXPECT_FALSE(inputs.Take(lost.Ask(*inputs.Next())));
   while (const auto question = inputs.Next()) EXPECT_TRUE(inputs.Take(lost.Ask(*question)));
-  EXPECT_EQ(SourcesOf(inputs.Known()),
-            SourcesOf({{31, "HDMI"}, {32, "HDMI"}, {510, "Office"}}));
+  EXPECT_EQ(SourcesOf(inputs.Known()), SourcesOf({{31, "HDMI"}, {32, "HDMI"}, {510, "Office"}}));
   EXPECT_EQ(NameText(SourcesOf(inputs.Known()).names[1]), "HDMI (32)");
 }
 

@@ -97,7 +97,7 @@ class Talk {
     const std::string_view piece = rest_.substr(0, size);
     rest_.remove_prefix(size);
     if (piece.front() == '!') session_.Connection().Closed(now_);
-    session_.Connection().Received(piece);
+    session_.Connection().Received(piece, now_);
   }
 
   std::string_view rest_;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <chrono>
-#include <cstddef>
 #include <memory>
 #include <string>
 
@@ -19,8 +18,8 @@ namespace AdvancedControl {
 class PROJECTOR_COMMON_EXPORT PjLinkServer {
  public:
   struct Options {
-    std::string password{};                  ///< Empty: none is wanted.
-    std::size_t connections = 4;             ///< As many are served at once; a few more wait.
+    std::string password{};  ///< Empty: none is wanted.
+    int connections = 8;     ///< Served at once; see `TcpListener` for further ones.
     std::chrono::milliseconds idle{30'000};  ///< A connection without a request is closed then.
     ServedProjector served{};
   };

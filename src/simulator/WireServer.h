@@ -18,8 +18,7 @@ namespace AdvancedControl {
 /// thread with an event loop; the projector should answer at once.
 class PROJECTOR_COMMON_EXPORT WireServer {
  public:
-  /// Of the port. Further ones wait until one ends, or until nothing has come for a moment over one
-  /// that owes no reply: the one of these that has been idle longest is closed.
+  /// Of the port, at once; see `TcpListener` for further ones.
   static constexpr int kMaximumConnections = 8;
 
   explicit WireServer(std::shared_ptr<ProjectorChannel> projector);

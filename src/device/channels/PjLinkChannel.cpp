@@ -74,7 +74,7 @@ void PjLinkChannel::Run(const auto& work) {
 /// What came while nothing was asked answers nothing that will be, and may be the connection's end.
 void PjLinkChannel::TakeWhatCame() {
   for (int i = 0; socket_ && i < kMostPieces && socket_->waitForReadyRead(0); ++i) {
-    session_.Connection().Received(socket_->readAll().toStdString());
+    session_.Connection().Received(socket_->readAll().toStdString(), Clock::now());
   }
   Listen(std::chrono::milliseconds::zero());
 }
@@ -112,7 +112,7 @@ void PjLinkChannel::Listen(std::chrono::milliseconds time) {
   if (!socket_) return std::this_thread::sleep_for(time);
   const bool isReady =
       socket_->bytesAvailable() > 0 || socket_->waitForReadyRead(static_cast<int>(time.count()));
-  if (isReady) session_.Connection().Received(socket_->readAll().toStdString());
+  if (isReady) session_.Connection().Received(socket_->readAll().toStdString(), Clock::now());
   if (socket_->state() == QAbstractSocket::ConnectedState || socket_->bytesAvailable() > 0) return;
   socket_.reset();
   session_.Connection().Closed(Clock::now());
@@ -172,7 +172,7 @@ bool PjLinkChannel::UseIdleTime() {
     if (inputs_.Next()) return true;
     pause_ = limits_.firstPause;
     const std::lock_guard lock(toldMutex_);
-    told_ = SourcesOf(inputs_.Known());
+    told_ = SourcesOf(inputs_.Known(), InputCodes::SharedNames);
     return false;
   }
   nextTry_ = Clock::now() + pause_;
@@ -205,7 +205,7 @@ void PjLinkChannel::Remember(const PjLinkFacts& facts) {
   if (facts.inputs.empty()) return;
   inputs_.Remember(facts.inputs);
   const std::lock_guard lock(toldMutex_);
-  told_ = SourcesOf(facts.inputs);
+  told_ = SourcesOf(facts.inputs, InputCodes::SharedNames);
 }
 
 std::string PjLinkChannel::Address() const { return host_ + ':' + std::to_string(port_); }

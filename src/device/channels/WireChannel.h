@@ -53,6 +53,10 @@ class PROJECTOR_COMMON_EXPORT WireChannel : public ProjectorChannel {
 
   ConnectionState Connection() const override { return state_; }
 
+  /// Whether the projector has welcomed us on the last connection. It need not have answered a
+  /// command.
+  bool HasGreeted() const { return welcome_ && welcome_->version == Wire::kVersion; }
+
  protected:
   enum class Medium {
     Reliable,  ///< Bytes that are no frame show that no projector is there.

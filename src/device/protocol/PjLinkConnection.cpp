@@ -16,11 +16,9 @@ void PjLinkConnection::Ask(PjLinkRequest request, PjLinkLimits::Time time, PjLin
   mayRepeat_ = request_.parameter.starts_with(PjLink::kQuery);
   // The rest of a line that has begun would come later.
   if (reader_.HasPart()) Drop();
-  if (isOpen_) {
-    stage_ = Stage::Sending;
-  } else {
-    Open(now);
-  }
+  if (!isOpen_) return Open(now);
+  stage_ = !mayRepeat_ && replies_ == 1 ? Stage::Settling : Stage::Sending;
+  until_ = repliedAt_ + limits_.closing;
 }
 
 PjLinkStep PjLinkConnection::Next(PjLinkTime now) {
@@ -39,6 +37,9 @@ PjLinkStep PjLinkConnection::Next(PjLinkTime now) {
       stage_ = Stage::Connecting;
       until_ = connectBy_;
       return {.kind = Kind::Connect, .until = until_};
+    case Stage::Settling:
+      if (!isLate) return {.kind = Kind::Wait, .until = until_};
+      [[fallthrough]];
     case Stage::Sending: {
       stage_ = Stage::Awaiting;
       until_ = now + answerTime_;
@@ -55,6 +56,7 @@ void PjLinkConnection::Connected() {
   if (stage_ != Stage::Connecting) return;
   isOpen_ = true;
   stage_ = Stage::Greeting;
+  replies_ = 0;
   reader_.Clear();
 }
 
@@ -62,14 +64,14 @@ void PjLinkConnection::NotConnected(ConnectionState problem, PjLinkTime now) {
   if (stage_ == Stage::Connecting) OpenLater(problem, now);
 }
 
-void PjLinkConnection::Received(std::string_view bytes) {
+void PjLinkConnection::Received(std::string_view bytes, PjLinkTime now) {
   if (!isOpen_) return;
   reader_.Add(bytes);
   while (isOpen_) {
     const auto line = reader_.Next();
     if (!line) break;
     if (stage_ == Stage::Greeting) TakeGreeting(*line);
-    if (stage_ == Stage::Awaiting) TakeReply(*line);
+    if (stage_ == Stage::Awaiting) TakeReply(*line, now);
   }
   if (reader_.IsTooLong()) Lose(ConnectionState::NotUnderstood);
 }
@@ -81,6 +83,7 @@ void PjLinkConnection::Closed(PjLinkTime now) {
     case Stage::Greeting:
       OpenLater(ConnectionState::Lost, now);
       break;
+    case Stage::Settling:
     case Stage::Sending:
       Open(now);
       break;
@@ -127,11 +130,13 @@ void PjLinkConnection::TakeGreeting(std::string_view line) {
   stage_ = Stage::Sending;
 }
 
-void PjLinkConnection::TakeReply(const std::string& line) {
+void PjLinkConnection::TakeReply(const std::string& line, PjLinkTime now) {
   const auto reply = PjLink::Parse(line);
   const bool isReply = reply && reply->separator == '=';
   if (isReply && PjLink::SameWord(reply->command, request_.command)) {
     answer_.parameter = reply->parameter;
+    ++replies_;
+    repliedAt_ = now;
     return Finish(ConnectionState::Connected);
   }
   if (PjLink::SameWord(line, PjLink::kWrongPassword)) {

@@ -49,6 +49,9 @@ struct PjLinkLimits {
   /// Before the second attempt to connect; it doubles before each further one. Some projectors need
   /// a while from one connection to the next.
   Time pause{50};
+  /// How long after its first reply a projector that closes the connection after each one may take
+  /// to do so.
+  Time closing{100};
 };
 
 /// The connection to a PJLink projector as one request after the other needs it, without a socket
@@ -59,6 +62,11 @@ struct PjLinkLimits {
 /// closes the connection without a greeting, again and again until the time is over, with growing
 /// pauses. The connection then stands until the projector closes it, a request stays unanswered, or
 /// what comes is no PJLink.
+///
+/// A change is not sent on a connection that is just ending: it would be lost, and nobody could
+/// tell whether it was carried out. Behind the first reply of a connection it therefore waits
+/// whether the projector closes it. One that has not done so keeps the connection for further
+/// requests.
 ///
 /// A question is asked once more where its connection broke or something else than a reply came; a
 /// change never is. One request is under way at a time: replies bear no number, and a projector
@@ -81,16 +89,16 @@ class PROJECTOR_COMMON_EXPORT PjLinkConnection {
 
   void Connected();
   void NotConnected(ConnectionState problem, PjLinkTime now);
-  void Received(std::string_view bytes);
+  void Received(std::string_view bytes, PjLinkTime now);
   void Closed(PjLinkTime now);
 
  private:
-  enum class Stage { Idle, Pausing, Connecting, Greeting, Sending, Awaiting };
+  enum class Stage { Idle, Pausing, Connecting, Greeting, Settling, Sending, Awaiting };
 
   void Open(PjLinkTime now);
   void OpenLater(ConnectionState problem, PjLinkTime now);
   void TakeGreeting(std::string_view line);
-  void TakeReply(const std::string& line);
+  void TakeReply(const std::string& line, PjLinkTime now);
   void Lose(ConnectionState problem);
   void Finish(ConnectionState state);
   void Drop();
@@ -108,7 +116,10 @@ class PROJECTOR_COMMON_EXPORT PjLinkConnection {
   bool hasGreeted_ = false;
   bool isOpen_ = false;  ///< As far as the driver has told.
   bool closes_ = false;  ///< The driver is to close it.
-  PjLinkTime until_{};   ///< End of the pause, of connecting, or of waiting for the answer.
+  int replies_ = 0;      ///< On this connection.
+  PjLinkTime repliedAt_{};
+  PjLinkTime until_{};  ///< End of the pause, of connecting, of settling, or of waiting for the
+                        ///< answer.
   PjLinkTime connectBy_{};
   PjLinkLimits::Time pause_{};
   std::optional<ConnectionState> problem_;  ///< Of the last attempt to connect.

@@ -18,7 +18,7 @@ std::string NameByCode(const std::string& code) {
   return std::string(kKinds.at(static_cast<std::size_t>(code[0] - '1'))) + ' ' + code[1];
 }
 
-/// The name, cut where it must be, with the code behind it.
+/// The name, cut if necessary, followed by the input's two characters.
 std::string WithCode(const PjLinkInput& input) {
   const std::string behind = " (" + PjLink::InputCode(input.number).value_or("?") + ')';
   return std::string(CutText(input.name, NameSlot{}.size() - behind.size())) + behind;
@@ -26,16 +26,15 @@ std::string WithCode(const PjLinkInput& input) {
 
 }  // namespace
 
-SourceList SourcesOf(const std::vector<PjLinkInput>& inputs) {
+SourceList SourcesOf(const std::vector<PjLinkInput>& inputs, InputCodes codes) {
   SourceList sources;
   for (const PjLinkInput& input : inputs) {
     if (sources.count == SourceList::kCapacity) break;
     const auto slot = MakeNameSlot(input.name);
-    const bool isShared = std::ranges::count_if(inputs, [&](const PjLinkInput& other) {
-                            return MakeNameSlot(other.name) == slot;
-                          }) > 1;
+    const auto isSame = [&](const PjLinkInput& other) { return MakeNameSlot(other.name) == slot; };
+    const bool hasCode = codes == InputCodes::AllNames || std::ranges::count_if(inputs, isSame) > 1;
     const auto next = static_cast<std::size_t>(sources.count++);
-    sources.names[next] = isShared ? MakeNameSlot(WithCode(input)) : slot;
+    sources.names[next] = hasCode ? MakeNameSlot(WithCode(input)) : slot;
     sources.firstValues[next] = input.number;
     sources.secondValues[next] = input.number;
   }

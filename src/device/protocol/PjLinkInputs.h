@@ -21,9 +21,15 @@ struct PjLinkInput {
   friend bool operator==(const PjLinkInput&, const PjLinkInput&) = default;
 };
 
-/// The inputs as a model's source list; those that it has no room for are left out. Of inputs of
-/// one name each has its two characters behind it: "HDMI (31)".
-PROJECTOR_COMMON_EXPORT SourceList SourcesOf(const std::vector<PjLinkInput>& inputs);
+/// When an input's name is followed by its two characters, "HDMI (31)".
+enum class InputCodes {
+  SharedNames,  ///< If another input has the same name. For a list that shows all inputs.
+  AllNames,     ///< Always, so that an input has one name whether or not the others are known.
+};
+
+/// The inputs as a model's source list, without those that it has no room for.
+PROJECTOR_COMMON_EXPORT SourceList SourcesOf(const std::vector<PjLinkInput>& inputs,
+                                             InputCodes codes);
 
 /// What is known of a projector's inputs, and what to ask next to know more: the list, then the
 /// name of each. Where a list has no room for all, the one that plays takes the last place.

@@ -13,8 +13,9 @@ namespace {
 
 constexpr std::chrono::seconds kFresh{1};
 constexpr int kMostLost = 1;
-/// Before it is asked again for the first time; then it doubles.
+/// Before it is asked again for the first time; then it doubles, up to the longest one.
 constexpr std::chrono::milliseconds kFirstPause{100};
+constexpr std::chrono::milliseconds kLongestPause{1000};
 
 bool IsError(std::string_view answer) {
   return answer.size() == 4 && PjLink::SameWord(answer.substr(0, 3), "ERR");
@@ -43,6 +44,7 @@ void PjLinkSession::Begin(const PjtCommand& command, PjLinkTime now) {
     return Finish(reply);
   }
   parameter_ = *parameter;
+  Reset();
   if (!TakeKept(now)) BeginWork(mapping_->protocolClass, now);
 }
 
@@ -50,6 +52,7 @@ void PjLinkSession::Begin(PjLinkQuestion question, PjLinkTime now) {
   mapping_ = nullptr;
   told_ = {};
   question_ = std::move(question);
+  Reset();
   BeginWork(question_.protocolClass, now);
 }
 
@@ -68,12 +71,15 @@ PjLinkStep PjLinkSession::Next(PjLinkTime now) {
   return connection_.Next(now);  // it may have to be closed
 }
 
-void PjLinkSession::BeginWork(PjLinkClass needed, PjLinkTime now) {
+void PjLinkSession::Reset() {
   lost_ = 0;
   asked_ = false;
   strange_ = false;
   askUntil_.reset();
   pause_ = kFirstPause;
+}
+
+void PjLinkSession::BeginWork(PjLinkClass needed, PjLinkTime now) {
   if (needed != PjLinkClass::First && !class_) {
     Ask(Stage::Class, "CLSS", PjLink::kQuery, now);
   } else {
@@ -115,7 +121,7 @@ void PjLinkSession::Ask(Stage stage, std::string_view command, std::string_view 
 
 void PjLinkSession::AskAfterPause(Stage stage, PjLinkTime now) {
   resumeAt_ = std::min(now + pause_, *askUntil_);
-  pause_ *= 2;
+  pause_ = std::min(2 * pause_, PjLinkLimits::Time(kLongestPause));
   resumed_ = stage;
   stage_ = Stage::Pausing;
 }
@@ -139,6 +145,9 @@ void PjLinkSession::Take(const PjLinkAnswer& answer, PjLinkTime now) {
     case Stage::Question:
       return TakeTold(answer, now);
     default:
+      if (answer.parameter && IsRead(command_.operation)) {
+        Keep(*answer.parameter, keepsLast_ ? nullptr : mapping_->value, now);
+      }
       return TakeCommand(answer, now);
   }
 }
@@ -180,7 +189,6 @@ void PjLinkSession::TakeCommand(const PjLinkAnswer& answer, PjLinkTime now) {
   }
   if (IsRead(command_.operation)) return TakeValue(*answer.parameter, now);
   if (!PjLink::SameWord(*answer.parameter, PjLink::kDone)) return Finish(reply);
-  kept_.reset();
   reply_ = {.result = AcceptedResult(command_.operation)};
   if (mapping_->value == nullptr) return Finish(reply_);
   askUntil_ = now + AnswerTime();
@@ -193,8 +201,7 @@ void PjLinkSession::TakeValue(const std::string& parameter, PjLinkTime now) {
   // What got distorted is asked for again.
   if (!value && !IsError(parameter) && !std::exchange(strange_, true)) return AskForWork(now);
   if (!value) return Finish(Refused());
-  if (mapping_->command == "POWR") power_ = PjLink::Power(parameter);
-  if (std::exchange(keepsLast_, false)) kept_ = {std::string(mapping_->command), parameter, now};
+  KeepPower(parameter, now);
   Finish(
       {.result = AcceptedResult(command_.operation), .value = static_cast<std::int16_t>(*value)});
 }
@@ -202,28 +209,40 @@ void PjLinkSession::TakeValue(const std::string& parameter, PjLinkTime now) {
 /// `ERR3`.
 void PjLinkSession::TakeNotNow(PjLinkTime now) {
   if (!askUntil_) askUntil_ = now + AnswerTime();
-  if (!std::exchange(asked_, true)) return Ask(Stage::Power, "POWR", PjLink::kQuery, now);
+  if (!std::exchange(asked_, true)) {
+    const bool isKnown = powerAt_ && now - *powerAt_ < kFresh;
+    if (!isKnown) return Ask(Stage::Power, "POWR", PjLink::kQuery, now);
+    if (CannotDoItNow()) askUntil_ = now;
+  }
   if (now < *askUntil_) return AskAfterPause(Stage::Command, now);
   PjtReply reply = Refused();
   reply.busy = true;
   Finish(reply);
 }
 
+/// Whether the power state, which was just told, rules the command out.
+bool PjLinkSession::CannotDoItNow() const {
+  const bool isOwn = mapping_->command == "POWR";  // which ends a standby
+  return (power_ == PowerState::Standby && !isOwn) ||
+         (power_ != PowerState::On && IsRead(command_.operation));
+}
+
 void PjLinkSession::TakePower(const PjLinkAnswer& answer, PjLinkTime now) {
   const auto power = answer.parameter ? PjLink::Power(*answer.parameter) : std::nullopt;
-  if (power) power_ = power;
-  const bool isOwn = mapping_->command == "POWR";  // which ends a standby
-  const bool isVain = !answer.parameter || (power == PowerState::Standby && !isOwn) ||
-                      (power && power != PowerState::On && IsRead(command_.operation));
-  if (isVain) askUntil_ = now;
+  if (power) {
+    power_ = power;
+    powerAt_ = now;
+    kept_["POWR"] = {*answer.parameter, nullptr, now};
+  }
+  if (!answer.parameter || (power && CannotDoItNow())) askUntil_ = now;
   TakeNotNow(now);
 }
 
 void PjLinkSession::TakeConfirmation(const PjLinkAnswer& answer, PjLinkTime now) {
   const auto value = answer.parameter ? mapping_->value(*answer.parameter) : std::nullopt;
-  if (value && mapping_->command == "POWR") power_ = PjLink::Power(*answer.parameter);
+  if (value) KeepPower(*answer.parameter, now);
   if (value == PjLinkAim(command_)) {
-    kept_ = {std::string(mapping_->command), *answer.parameter, now};
+    Keep(*answer.parameter, nullptr, now);
     return Finish(reply_);
   }
   // Where the question is unknown, nothing else will tell.
@@ -249,13 +268,27 @@ void PjLinkSession::TakeTold(const PjLinkAnswer& answer, PjLinkTime now) {
 }
 
 bool PjLinkSession::TakeKept(PjLinkTime now) {
-  const bool isFresh = kept_ && now - kept_->time < kFresh;
-  const bool isMeant = isFresh && IsRead(command_.operation) && kept_->command == mapping_->command;
-  if (!isFresh || !IsRead(command_.operation)) kept_.reset();
-  if (!isMeant) return false;
-  const Kept kept = *std::exchange(kept_, std::nullopt);
-  TakeValue(kept.parameter, now);
+  if (!IsRead(command_.operation)) {
+    kept_.clear();
+    powerAt_.reset();
+    return false;
+  }
+  const auto kept = kept_.extract(mapping_->command);
+  if (!kept || now - kept.mapped().time >= kFresh || kept.mapped().reader == mapping_->value) {
+    return false;
+  }
+  TakeCommand({.parameter = kept.mapped().parameter, .sent = true}, now);
   return true;
+}
+
+void PjLinkSession::Keep(const std::string& parameter, Reader reader, PjLinkTime now) {
+  kept_[mapping_->command] = {parameter, reader, now};
+}
+
+void PjLinkSession::KeepPower(const std::string& parameter, PjLinkTime now) {
+  if (mapping_->command != "POWR") return;
+  power_ = PjLink::Power(parameter);
+  powerAt_ = now;
 }
 
 void PjLinkSession::Finish(const PjtReply& reply) {

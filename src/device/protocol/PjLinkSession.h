@@ -1,9 +1,9 @@
 #pragma once
 
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "Namespace.h"
 #include "ProjectorCommonExport.h"
@@ -46,7 +46,9 @@ struct PjLinkTold {
 /// - After a change was accepted, its state is asked for at growing intervals until it is as
 /// wanted.
 ///   Where it is not so within the time for an answer, the change is pending.
-/// - A read of what a change has just led to is answered from that, within a second.
+/// - What was just told is not asked for again within a second: the state that a change has led to,
+///   the power state behind `ERR3`, and what one reply says of two settings. No setting is read
+///   twice from one answer.
 /// - A question is asked again once where its answer got lost.
 ///
 /// Every step of this is one exchange, and every exchange has the whole time for an answer.
@@ -81,13 +83,16 @@ class PROJECTOR_COMMON_EXPORT PjLinkSession {
  private:
   enum class Stage { Idle, Class, Command, Power, Confirm, Question, Pausing };
 
-  /// The answer to a question that a read may take over.
+  using Reader = decltype(PjLinkMapping::value);
+
+  /// The last answer to a command's question.
   struct Kept {
-    std::string command;
     std::string parameter;
+    Reader reader;  ///< What has read it, or null.
     PjLinkTime time;
   };
 
+  void Reset();
   void BeginWork(PjLinkClass needed, PjLinkTime now);
   void AskForWork(PjLinkTime now);
   void Ask(Stage stage, std::string_view command, std::string_view parameter, PjLinkTime now);
@@ -102,6 +107,9 @@ class PROJECTOR_COMMON_EXPORT PjLinkSession {
   void TakeConfirmation(const PjLinkAnswer& answer, PjLinkTime now);
   void TakeTold(const PjLinkAnswer& answer, PjLinkTime now);
   bool TakeKept(PjLinkTime now);
+  void Keep(const std::string& parameter, Reader reader, PjLinkTime now);
+  void KeepPower(const std::string& parameter, PjLinkTime now);
+  bool CannotDoItNow() const;
   void Finish(const PjtReply& reply);
   PjtReply Refused() const { return {.result = RefusedResult(command_.operation)}; }
   PjLinkLimits::Time AnswerTime() const { return std::min(limits_.answer, longest_); }
@@ -113,6 +121,7 @@ class PROJECTOR_COMMON_EXPORT PjLinkSession {
   std::optional<char> class_;
   bool isClassRemembered_ = false;  ///< And not told by the projector.
   std::optional<PowerState> power_;
+  std::optional<PjLinkTime> powerAt_;  ///< When it was told; nothing since the last change.
 
   // The work.
   PjtCommand command_{PjtOperation::Get};
@@ -129,7 +138,7 @@ class PROJECTOR_COMMON_EXPORT PjLinkSession {
   PjLinkTime resumeAt_{};
   std::optional<PjLinkTime> askUntil_;  ///< As long it is asked again.
   PjLinkLimits::Time pause_{};
-  std::optional<Kept> kept_;
+  std::map<std::string_view, Kept> kept_;  ///< By command; none from before the last change.
   PjtReply reply_;
   PjLinkTold told_;
 };

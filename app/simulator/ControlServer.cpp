@@ -55,7 +55,7 @@ ControlServer::ControlServer(ServedProjectors& projectors)
           const QString line = QString::fromUtf8(socket->readLine()).trimmed();
           socket->write(Obey(line).toUtf8() + '\n');
         }
-        if (socket->bytesAvailable() >= kLongestLine) socket->abort();  // no line of ours
+        if (socket->bytesAvailable() >= kLongestLine) socket->abort();  // too long for a command
       });
     }
   });

@@ -61,7 +61,7 @@ class SimulatorTest : public testing::Test {
   QTcpSocket control_;
 };
 
-TEST_F(SimulatorTest, OneProjectorIsReachedInEveryWayAndFaultsOfTheLineAreOver) {
+TEST_F(SimulatorTest, OneProjectorIsReachableOverAllConnectionsAndRecoversFromLineFaults) {
   using enum ConnectionState;
   const auto tcp = MakeChannel(Address("tcp"));
   EXPECT_EQ(tcp->Execute({PjtOperation::Set, 0x2001, 9999}).result, 0) << "a refusal is an answer";
@@ -103,7 +103,7 @@ TEST_F(SimulatorTest, OneProjectorIsReachedInEveryWayAndFaultsOfTheLineAreOver) 
   EXPECT_EQ(Control("2 none"), "error: no projector '2'; there are 1 to 1, and *");
 }
 
-TEST_F(SimulatorTest, TheListTellsHowEveryConnectionStands) {
+TEST_F(SimulatorTest, TheListShowsTheStateOfEveryConnection) {
   auto profiles = ReadProfileFile(Profiles()).projectors;
   profiles.push_back(profiles[1]);
   profiles[3].Name = "wrong password";
@@ -114,7 +114,7 @@ TEST_F(SimulatorTest, TheListTellsHowEveryConnectionStands) {
   const auto& model = window.findChild<ProjectorView*>()->Model();
   const auto comesTo = [&model](int row, const QString& state) {
     const auto shown = [&] { return model.index(row, ProjectorTableModel::State).data(); };
-    // On a slow machine the last answer may be long ago.
+    // On a slow machine, the text may include the age of the last answer.
     const auto isSo = [&] { return shown().toString().section(" · answered", 0, 0) == state; };
     EXPECT_TRUE(QTest::qWaitFor(isSo)) << row << ": " << shown().toString().toStdString();
   };
@@ -138,7 +138,7 @@ TEST_F(SimulatorTest, TheListTellsHowEveryConnectionStands) {
   comesTo(0, "Open · Connected");
 }
 
-TEST_F(SimulatorTest, ADialogTakesItsInputsFromAProjectorThatTellsThem) {
+TEST_F(SimulatorTest, ADialogUsesTheInputsThatTheProjectorReports) {
   CModelInfo2 model = ReadProfileFile(Profiles()).projectors[1].Model;
   ASSERT_EQ(model.MySourceList.Size(), 0);
   model.ConnectionTexts1[0] = MakeNameSlot("pjlink://127.0.0.1");
@@ -158,7 +158,7 @@ TEST_F(SimulatorTest, ADialogTakesItsInputsFromAProjectorThatTellsThem) {
   EXPECT_EQ(CurrentInput(later), "RGB1") << "known from the start";
 }
 
-TEST(SimulatorPorts, NoneIsBeyondTheLast) {
+TEST(SimulatorPorts, NoneExceedsTheLastPort) {
   const Outcome outcome = ::Run(SIMULATOR_PROGRAM, {"--projector", kName, "--port", "65535"},
                                 QProcessEnvironment::systemEnvironment());
   EXPECT_EQ(outcome.exitCode, 2);
@@ -166,7 +166,7 @@ TEST(SimulatorPorts, NoneIsBeyondTheLast) {
   EXPECT_NE(outcome.errors.find("no ports are left"), std::string::npos) << outcome.errors;
 }
 
-TEST(Dialog, ConnectsByItselfAndPaysTwoRoundTripsAPageAtMost) {
+TEST(Dialog, ConnectsByItselfAndNeedsAtMostTwoRoundTripsPerPage) {
   for (const auto& [type, code] :
        {std::pair{1, 0}, {2, 6}, {3, 10}, {4, 22}, {5, 30}, {5, 42}, {5, 54}}) {
     CModelInfo2 model = FullModel(type, code);
@@ -202,7 +202,7 @@ struct Unanswered final : ProjectorChannel {
   ConnectionState state{};
 };
 
-TEST(Dialog, TellsAtOnceWhyThereIsNoAnswer) {
+TEST(Dialog, SaysAtOnceWhyThereIsNoAnswer) {
   using enum ConnectionState;
   CModelInfo2 model = FullModel(5, 30);
   model.ConnectionKinds[0] = 1;

@@ -12,8 +12,8 @@
 
 inline namespace AdvancedControl {
 
-// The process-wide message catalog. Called from the user-interface thread, and at load and unload
-// of the library.
+// The process-wide message catalog. User-interface thread only; the library loads and unloads it
+// while it is itself loaded and unloaded.
 
 /// The identifier of a message: the category above the number. Both must fit in 16 bits, the
 /// category after 256 is added.
@@ -22,25 +22,26 @@ constexpr std::uint32_t MessageId(int category, int number) {
 }
 
 /// Loads the catalog module of the system language in place of any loaded before: "mcschn.dll" for
-/// Simplified Chinese or where a file "GETSCH" is in the current directory, else "mcdll.dll".
+/// Simplified Chinese or if the current directory contains a file "GETSCH", else "mcdll.dll".
 ///
 /// The module is the first file of that name beside this library, beside the application, in
 /// "../share/advanced-control" or "../../share/advanced-control" from this library, in the
-/// installed data folder, or in the current directory; if that one is damaged, no other is tried.
-/// Returns 0, or -1 and no catalog is loaded.
+/// installed data folder, or in the current directory. If that file is damaged, no other is tried.
+/// Returns 0, or −1 if no catalog could be loaded.
 PROJECTOR_SETTINGS_EXPORT int LoadCatalog();
 
-/// The same with `folders` to look in, in their order; an empty name is the current directory.
+/// The same, but searches `folders` in their order; an empty name is the current directory.
 PROJECTOR_SETTINGS_EXPORT int LoadCatalog(std::span<const std::string> folders);
 
-/// The folders in which the first form looks.
+/// The folders that the form without arguments searches.
 PROJECTOR_SETTINGS_EXPORT std::vector<std::string> CatalogFolders();
 
 /// Releases the loaded module, if any.
 PROJECTOR_SETTINGS_EXPORT void ReleaseCatalog();
 
-/// Which module was refused and why, or where none was found; empty with a catalog. Each failed
-/// `LoadCatalog` also logs it, as a warning of the category "advancedcontrol.catalog".
+/// Why no catalog is loaded: which module was refused and why, or where none was found. Empty if a
+/// catalog is loaded. Each failed `LoadCatalog` also logs it, as a warning of the category
+/// "advancedcontrol.catalog".
 PROJECTOR_SETTINGS_EXPORT std::string CatalogProblem();
 
 /// Whether a module is loaded; without one every text is "No Message Catalog".

@@ -9,7 +9,7 @@
 
 namespace {
 
-// How far the arrow that points up is turned, clockwise.
+// Clockwise rotation, in degrees, that turns the upward arrow into this one.
 std::optional<int> Turn(int number) {
   switch (number) {
     case BitmapId::ArrowUp:

@@ -22,7 +22,7 @@ void FaultyLine::Send(std::string_view bytes) {
       break;
     case LineFault::Kind::Cut:
       Write(bytes.substr(0, static_cast<std::size_t>(fault_.amount)));
-      // A serial line stays: only the rest of the reply is lost.
+      // A serial line stays open: only the rest of the reply is lost.
       if (qobject_cast<QTcpSocket*>(&line_)) Close();
       break;
     case LineFault::Kind::Garbage:
@@ -30,7 +30,7 @@ void FaultyLine::Send(std::string_view bytes) {
       break;
     case LineFault::Kind::Trickle:
       trickling_ += bytes;
-      // Otherwise the rest is on its way already.
+      // Otherwise a timer is already sending the rest.
       if (trickling_.size() == bytes.size()) TrickleOn();
       break;
   }

@@ -16,7 +16,7 @@
 namespace {
 
 constexpr qint64 kReadBuffer = 512;
-/// Replies that a client may leave unread.
+/// Bytes of replies that a client may leave unread.
 constexpr std::size_t kMostUnread = 65536;
 
 std::string NewSeed() {
@@ -27,7 +27,7 @@ std::string NewSeed() {
       .toStdString();
 }
 
-/// One connection, as long as its socket lives.
+/// One connection. Deleted with its socket.
 class Session final : public QObject {
  public:
   Session(QTcpSocket& socket, const PjLinkServer::Options& options, PjLinkResponder& responder,
@@ -43,7 +43,7 @@ class Session final : public QObject {
     idle_.start(options.idle);
     const std::string greeting = PjLink::FormatGreeting(seed);
     if (fault.kind == LineFault::Kind::Cut) {
-      socket_.write((greeting + '\r').c_str());  // it is no reply
+      socket_.write((greeting + '\r').c_str());  // the greeting is not cut
     } else {
       Send(greeting);
     }
@@ -92,7 +92,7 @@ class Session final : public QObject {
   QTimer idle_;
   PjLinkReader reader_;
   bool isServed_ = true;
-  std::string wantedProof_;  ///< Before the next request; empty once given, or without password.
+  std::string wantedProof_;  ///< Expected before the next request; empty once received, or without a password.
 };
 
 }  // namespace
@@ -109,13 +109,13 @@ struct PjLinkServer::State {
   PjLinkResponder responder;
   LineFault fault{};
   std::size_t served = 0;
-  TcpListener server{kReadBuffer};  // the first to go, with its sockets, which use the others
+  TcpListener server{kReadBuffer};  // declared last: its sockets use the other members
 };
 
 void PjLinkServer::State::ServeWaiting() {
   while (served < options.connections && server.hasPendingConnections()) {
     QTcpSocket* const socket = server.nextPendingConnection();
-    if (socket->state() != QAbstractSocket::ConnectedState) {  // left while it waited
+    if (socket->state() != QAbstractSocket::ConnectedState) {  // disconnected while it waited
       socket->deleteLater();
       continue;
     }

@@ -12,7 +12,7 @@ constexpr std::chrono::milliseconds kPauseAfterFailure{100};
 }  // namespace
 
 TcpListener::TcpListener(qint64 readBuffer) : readBuffer_(readBuffer) {
-  connect(this, &QTcpServer::acceptError, this, [this] {  // which has ended accepting
+  connect(this, &QTcpServer::acceptError, this, [this] {  // Qt has stopped accepting
     QTimer::singleShot(kPauseAfterFailure, this, [this] {
       if (isListening()) resumeAccepting();
     });

@@ -4,11 +4,11 @@
 
 #include "ProjectorCommonExport.h"
 
-/// A port that stays open to the next connection whatever became of the last one: after one that
-/// could not be accepted, as when the process has no descriptor left, it tries again at intervals.
+/// A TCP server that keeps accepting connections after a failure: if a connection could not be
+/// accepted, for example because the process is out of descriptors, it tries again at intervals.
 class PROJECTOR_COMMON_EXPORT TcpListener final : public QTcpServer {
  public:
-  /// No connection holds more than `readBuffer` unread bytes, also while it waits to be served.
+  /// Each connection buffers at most `readBuffer` unread bytes, even while it waits to be served.
   explicit TcpListener(qint64 readBuffer);
 
  protected:

@@ -20,7 +20,7 @@ constexpr auto kIdle = std::chrono::milliseconds(200);
 
 using Clock = std::chrono::steady_clock;
 
-/// One connection. Ends itself with its line.
+/// One connection. Deletes itself when its line closes.
 class Session final : public QObject {
  public:
   Session(std::unique_ptr<QIODevice> line, ProjectorChannel& projector, const LineFault& fault,
@@ -32,7 +32,7 @@ class Session final : public QObject {
     if (auto* socket = qobject_cast<QTcpSocket*>(line_)) {
       socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
       connect(socket, &QTcpSocket::disconnected, this, &QObject::deleteLater);
-      // A peer that connects and says nothing does not keep its place.
+      // Closes the connection of a peer that sends nothing.
       QTimer::singleShot(kTimeForHello, this, [this] {
         if (!responder_.IsGreeted()) deleteLater();
       });
@@ -51,7 +51,7 @@ class Session final : public QObject {
       if (piece.isEmpty()) return;
       replies_.Send(responder_.Receive({piece.data(), static_cast<std::size_t>(piece.size())}));
     }
-    // A peer that asks and does not listen is not served on.
+    // Closes the connection of a peer that sends requests without reading the replies.
     if (replies_.Backlog() > kLargestBacklog) deleteLater();
   }
 
@@ -85,7 +85,7 @@ void WireServer::Parts::ServeWaiting() {
   while (server.hasPendingConnections()) {
     if (!HasRoom()) return again.start(kIdle);
     std::unique_ptr<QTcpSocket> socket(server.nextPendingConnection());
-    if (socket->state() != QAbstractSocket::ConnectedState) continue;  // left while it waited
+    if (socket->state() != QAbstractSocket::ConnectedState) continue;  // disconnected while it waited
     new Session(std::move(socket), *projector, fault, &connections);
   }
 }

@@ -9,7 +9,8 @@
 
 namespace {
 
-// What begins something. What ends it, as a release does, must reach the control that has begun.
+// Only events that begin an action. Events that end one, such as a release, must reach the control
+// where it began.
 bool IsInput(const QEvent& event) {
   switch (event.type()) {
     case QEvent::MouseButtonPress:
@@ -35,7 +36,7 @@ bool IsInput(const QEvent& event) {
   }
 }
 
-// Also of a list that has dropped down.
+// Also finds the dialog of a list that is dropped down.
 const TemplateDialog* DialogOf(const QWidget& widget) {
   const QWidget* window = widget.window();
   while (window->windowType() == Qt::Popup && window->parentWidget() != nullptr) {
@@ -67,5 +68,5 @@ bool InputGate::eventFilter(QObject* watched, QEvent* event) {
   if (!IsInput(*event) || !watched->isWidgetType()) return false;
   const auto& target = static_cast<const QWidget&>(*watched);
   const TemplateDialog* dialog = DialogOf(target);
-  return std::ranges::count(closed_, dialog) > 0 && !dialog->IsWayOut(target);
+  return std::ranges::count(closed_, dialog) > 0 && !dialog->AcceptsInputWhileBusy(target);
 }

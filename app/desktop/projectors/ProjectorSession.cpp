@@ -10,7 +10,7 @@
 ProjectorSession::ProjectorSession(ProjectorProfile profile, LoggingChannel::Observer observer)
     : profile_(std::move(profile)),
       simulator_(std::make_shared<SimulatedProjector>(SimulatedModelOf(profile_))),
-      faultChannel_(std::make_shared<FaultChannel>(MakeChannel())),
+      faultChannel_(std::make_shared<FaultChannel>(MakeInnerChannel())),
       lastAnswer_(std::make_shared<std::optional<Clock::time_point>>()),
       channel_(std::make_shared<LoggingChannel>(
           std::make_shared<BoundedChannel>(faultChannel_, Bounds()),
@@ -25,7 +25,7 @@ std::optional<std::chrono::seconds> ProjectorSession::SinceAnswer() const {
   return std::chrono::floor<std::chrono::seconds>(Clock::now() - **lastAnswer_);
 }
 
-std::shared_ptr<ProjectorChannel> ProjectorSession::MakeChannel() {
+std::shared_ptr<ProjectorChannel> ProjectorSession::MakeInnerChannel() {
   if (profile_.Link == ProjectorLink::Simulated) return simulator_;
   return MakeUnboundedChannel(AddressOf(profile_));
 }

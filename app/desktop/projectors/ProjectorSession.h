@@ -54,7 +54,7 @@ class ProjectorSession {
  private:
   using Clock = std::chrono::steady_clock;
 
-  std::shared_ptr<ProjectorChannel> MakeChannel();
+  std::shared_ptr<ProjectorChannel> MakeInnerChannel();
 
   ProjectorProfile profile_;
   std::shared_ptr<SimulatedProjector> simulator_;

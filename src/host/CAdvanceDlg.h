@@ -110,7 +110,7 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
   /// Restores the host's resource module.
   void OnDestroy() override;
 
-  /// The page behind the selected tab, or null.
+  /// The page of the selected tab, or null.
   CTabPage* ShownPage() const { return shownPage_; }
   /// Any page of the dialog; only those of the model's page set have controls once it is open.
   CTabPage& Page(PageId page) const;
@@ -136,10 +136,10 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
  private:
   struct Pages;
 
-  /// What was given while the dialog was open.
+  /// Data passed to `CopyData` while the dialog was open.
   struct Intake {
     ModelData model;
-    std::optional<ConnectionData> connection;  ///< None where only the model was given.
+    std::optional<ConnectionData> connection;  ///< Nothing if only the model was passed.
   };
 
   /// The model to use for the next creation.
@@ -152,10 +152,10 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
   void InsertTabs();
   void SetTitle();
   /// Inputs newly reported by the projector, if the host names none.
-  std::optional<SourceList> ToldInputs() const;
-  void TakeToldInputs();
-  std::optional<PageId> PageIdBehind(int tab) const;
-  CTabPage* PageBehind(int tab) const;
+  std::optional<SourceList> NewReportedInputs() const;
+  void UseReportedInputs();
+  std::optional<PageId> PageIdOfTab(int tab) const;
+  CTabPage* PageOfTab(int tab) const;
   void ShowSelectedPage();
   void ShowWaiting(bool waiting);
   QString WaitingText() const;
@@ -166,7 +166,7 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
   void GoTo(int tab, int control, const std::optional<PagePopUp>& popUp);
   void OpenPopUp(int button, int control, std::chrono::milliseconds delay = {});
 
-  const ResourceModule* savedResources_ = nullptr;  // put back when the dialog closes
+  const ResourceModule* savedResources_ = nullptr;  // restored when the dialog closes
   ModelData model_;
   std::optional<Intake> next_;  // for the next creation
   CPjtInterface projector_;
@@ -180,7 +180,7 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
   StatusLine* status_;
   FindLine* find_;
   QTimer* inputsWatch_;
-  std::optional<SourceList> toldInputs_;  // as last taken
-  bool reading_ = false;                  // a page is being read
-  bool readsAgain_ = false;               // the shown page is to be read when what runs has ended
+  std::optional<SourceList> reportedInputs_;  // the inputs in use
+  bool reading_ = false;                      // a page is being read
+  bool readsAgain_ = false;                   // the shown page must be read when no handler runs
 };

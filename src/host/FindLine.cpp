@@ -36,7 +36,8 @@ FindLine::FindLine(QWidget* parent) : QLineEdit(parent) {
   completer->setFilterMode(Qt::MatchContains);
   completer->setMaxVisibleItems(12);
   setCompleter(completer);
-  // Not to this line itself: that it is disconnected from when it loses the focus.
+  // Connected with the completer as context, because Qt disconnects a line edit from its completer
+  // when it loses the focus.
   connect(completer, qOverload<const QModelIndex&>(&QCompleter::activated), completer,
           [this](const QModelIndex& completion) { Choose(completion); });
   hide();
@@ -66,15 +67,16 @@ void FindLine::Start(std::vector<Place> places) {
 void FindLine::Choose(const QModelIndex& completion) {
   if (!completion.isValid()) return;
   const auto* shown = static_cast<const QAbstractProxyModel*>(completer()->completionModel());
-  // A copy: while its tab is read, somebody may start anew.
+  // A copy, because `Start` may replace the places while the tab is being read.
   const Place place = places_[static_cast<std::size_t>(shown->mapToSource(completion).row())];
   completer()->popup()->hide();
   hide();
-  // The list must have ended before the place's tab is read.
+  // The list of completions must be closed before the tab is read.
   QTimer::singleShot(0, this, [this, place] { Q_EMIT Found(place); });
 }
 
-// The completions pass on their keys; the one marked is meant, or the first.
+// The list of completions passes its keys on to the line. Enter chooses the marked completion, or
+// else the first one.
 void FindLine::keyPressEvent(QKeyEvent* event) {
   QAbstractItemView* completions = completer()->popup();
   if (event->key() == Qt::Key_Escape) {
@@ -115,13 +117,14 @@ void CAdvanceDlg::StartFinding() {
       const PageRow& row = table.rows[i];
       if (!Has(table, i, model_.ModelCode) || std::holds_alternative<ResetRow>(row)) continue;
       const QString caption = CaptionText(row);
-      if (std::exchange(place.caption, caption) == caption) continue;  // the parts of a row
+      if (std::exchange(place.caption, caption) == caption)
+        continue;  // further parts of the same row
       place.control = ControlOf(row);
       places.push_back(place);
     }
   };
   for (int tab = 0; tabs_ != nullptr && tab < tabs_->count(); ++tab) {
-    const auto page = PageIdBehind(tab);
+    const auto page = PageIdOfTab(tab);
     if (!page) continue;
     const QString tabCaption = tabs_->tabText(tab);
     add({.where = tabCaption, .tab = tab}, TableOf(*page));
@@ -138,17 +141,16 @@ namespace {
 void FocusOn(const CDialog& dialog, int control) {
   QWidget* found = dialog.GetDlgItem(control);
   if (found != nullptr && found->isEnabledTo(found->window())) {
-    found->window()->setAttribute(Qt::WA_KeyboardFocusChange);  // so that the focus is seen
+    found->window()->setAttribute(Qt::WA_KeyboardFocusChange);  // makes the focus visible
     found->setFocus(Qt::OtherFocusReason);
   }
 }
 
 }  // namespace
 
-// Reading another tab may end with anything: also with the dialog closed, with a further tab, or
-// with a further search.
+// While the tab is being read, the user may close the dialog, select another tab, or search again.
 void CAdvanceDlg::GoTo(int tab, int control, const std::optional<PagePopUp>& popUp) {
-  tabs_->setFocus(Qt::OtherFocusReason);  // of a row that is grey
+  tabs_->setFocus(Qt::OtherFocusReason);  // used if the row is disabled
   tabs_->setCurrentIndex(tab);
   if (!IsCreated() || tabs_->currentIndex() != tab || shownPage_ == nullptr) return;
   if (find_->isVisible()) return;
@@ -156,7 +158,8 @@ void CAdvanceDlg::GoTo(int tab, int control, const std::optional<PagePopUp>& pop
   if (popUp) OpenPopUp(popUp->button, control);
 }
 
-// The button runs the pop-up until it is closed. A dialog that still reads opens none.
+// The button's handler runs until the pop-up is closed. While the dialog is still reading, the
+// button does nothing, so it is tried again later.
 void CAdvanceDlg::OpenPopUp(int button, int control, std::chrono::milliseconds delay) {
   auto* opener = qobject_cast<QAbstractButton*>(shownPage_->GetDlgItem(button));
   QTimer::singleShot(delay, opener, [this, opener, button, control] {
@@ -169,7 +172,7 @@ void CAdvanceDlg::OpenPopUp(int button, int control, std::chrono::milliseconds d
         FocusOn(*popUp, control);
       }
     });
-    opener->setFocus(Qt::OtherFocusReason);  // where the focus is when the pop-up has gone
+    opener->setFocus(Qt::OtherFocusReason);  // gets the focus back after the pop-up
     opener->click();
   });
 }

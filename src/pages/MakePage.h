@@ -7,5 +7,5 @@
 
 class CTabPage;
 
-/// A page, hidden and without controls until it is created.
+/// Makes a page, which is hidden and has no controls until `Create`.
 std::unique_ptr<CTabPage> MakePage(PageId page, CWnd* parent);

@@ -174,7 +174,7 @@ QVariant ProjectorTableModel::data(const QModelIndex& index, int role) const {
     case ModelCode:
       return profile.Model.ModelCode;
     case Connection:
-      return ConnectionStatusText(profile.Model);
+      return ConnectionText(profile.Model);
     case State: {
       const auto state = states_.find(session);
       const QString& connection = connections_[index.row()];

@@ -23,7 +23,7 @@ class ADVANCED_CONTROL_EXPORT CTabPage : public RowDialog {
   void ReadAgain() override { ReadPage(); }
 };
 
-/// A page without rules of its own beside its table.
+/// A page that is nothing but its table.
 template <int templateNumber, const PageTable& table>
 class TablePage final : public CTabPage {
  public:

@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr int kOpacity = 190;  // of 255; what is below can just be made out
+constexpr int kOpacity = 190;  // of 255; the rows below remain just visible
 
 }  // namespace
 

@@ -8,7 +8,7 @@
 namespace {
 
 constexpr std::chrono::milliseconds kTick{50};
-constexpr int kBlink = 4;  // ticks
+constexpr int kBlink = 4;  // in ticks of the timer
 
 }  // namespace
 
@@ -28,7 +28,7 @@ StatusLine& Waiting::MakeLine(QWidget* parent) {
 }
 
 void Waiting::Begin() {
-  CountAfresh();
+  RestartTally();
   ticks_ = 0;
   if (timer_ == 0) timer_ = startTimer(kTick);
 }
@@ -41,7 +41,7 @@ void Waiting::End(bool left) {
   line_->ShowOutcome(projector, before_);
 }
 
-void Waiting::CountAfresh() { before_ = dialog_.projector().Sent(); }
+void Waiting::RestartTally() { before_ = dialog_.projector().Sent(); }
 
 void Waiting::Abandon() { abandoned_ = dialog_.projector().Abandon(); }
 

@@ -4,7 +4,7 @@
 
 class CComboBox;
 
-/// A button that makes the projector do something, with a list beside it or without.
+/// A button that makes the projector do something, with or without a list beside it.
 class ActionRowView final : public RowView {
  public:
   ActionRowView(const PageTable& table, const PageRow& row, RowHost& host)

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// A button of the page alone.
+/// A button that opens a pop-up; the page handles it.
 class PopUpRowView final : public RowView {
  public:
   using RowView::RowView;

@@ -114,7 +114,7 @@ bool ValueRowView::Release() {
     return true;
   }
   Refuse(row_.refusedDrag == RefusedDrag::Stays ? position : remembered_,
-         row_.refusedDrag == RefusedDrag::Told);
+         row_.refusedDrag == RefusedDrag::ShowsError);
   if (row_.refusedDrag == RefusedDrag::Empties && !Projector().IsAbandoned()) field_->clear();
   return false;
 }

@@ -66,8 +66,7 @@ struct ListRules {
   int error = 0;  ///< Text shown for a refusal; 0 for none.
   bool failedReadDisables = true;
   bool emptyIsNotRead = false;  ///< A list without entries is disabled and not read.
-  bool sendsText =
-      false;  ///< The connection gets the chosen entry's text before the value is sent.
+  bool sendsText = false;       ///< The connection first gets the chosen entry's text.
   /// After every choice the setting is read as in a refresh, because the setter has no result that
   /// would say whether the projector accepted it.
   bool readsBackAlways = false;

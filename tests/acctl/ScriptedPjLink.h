@@ -46,6 +46,6 @@ class ScriptedPjLink {
   std::mutex mutex_;
   std::vector<std::string> requests_;
   Peer peer_{
-      Way::Tcp,
+      Transport::Tcp,
       {Peer::AnswersLines("PJLINK 0\r", [this](const std::string& line) { return Answer(line); })}};
 };

@@ -30,7 +30,7 @@ class PjLinkAccess : public testing::Test {
 
   /// The commands that the projector receives while `use` runs.
   std::string Asked(const std::function<void(ProjectorAccess&)>& use) {
-    projector_.heard.clear();
+    projector_.requests.clear();
     const int before = projector_.connections;
     {
       ProjectorProfile profile{.Name = "Any", .Model = {}, .Lacks = {}};
@@ -43,7 +43,7 @@ class PjLinkAccess : public testing::Test {
     }
     peer_.Finish(++finished_);
     connections_ = projector_.connections - before;
-    return projector_.TakeHeard();
+    return projector_.TakeRequests();
   }
   static std::string InputName(ProjectorAccess& access) {
     const auto& sources = access.Settings().Model().MySourceList;
@@ -66,7 +66,7 @@ class PjLinkAccess : public testing::Test {
   BadProjector projector_;
   int connections_ = 0;  ///< Number of connections of the last `Asked`.
   int finished_ = 0;
-  Peer peer_{Way::Tcp, {Serving(projector_)}};
+  Peer peer_{Transport::Tcp, {Serving(projector_)}};
 };
 
 TEST_F(PjLinkAccess, AsksOnlyWhatTheCommandNeedsAndRemembersTheModel) {

@@ -44,8 +44,8 @@ class SimulatorTest : public testing::Test {
 
   QString Profiles() const { return folder_.filePath("real.json"); }
 
-  ProjectorAddress Address(const char* way) {
-    return ParseAddress(simulator_->Address(way).toStdString(), "secret");
+  ProjectorAddress Address(const char* transport) {
+    return ParseAddress(simulator_->Address(transport).toStdString(), "secret");
   }
 
   std::string Control(const char* line) {
@@ -67,7 +67,7 @@ TEST_F(SimulatorTest, OneProjectorIsReachableOverAllConnectionsAndRecoversFromLi
   EXPECT_EQ(tcp->Execute({PjtOperation::Set, 0x2001, 9999}).result, 0) << "a refusal is an answer";
   EXPECT_EQ(tcp->Connection(), Connected);
   std::int16_t mute = 0;
-  for (const auto& [way, fault, state] :
+  for (const auto& [transport, fault, state] :
        std::initializer_list<std::tuple<const char*, const char*, ConnectionState>>{
            {"tcp", "1 trickle", Connected},
            {"tcp", "* late 100", Connected},
@@ -84,10 +84,11 @@ TEST_F(SimulatorTest, OneProjectorIsReachableOverAllConnectionsAndRecoversFromLi
            {"serial", "1 garbage", NoAnswer},
            {"serial", "1 cut 7", NoAnswer},
        }) {
-    SCOPED_TRACE(testing::Message() << way << ' ' << fault);
+    SCOPED_TRACE(testing::Message() << transport << ' ' << fault);
     mute ^= 1;
     ASSERT_TRUE(tcp->Execute({PjtOperation::SetMute, 0, mute}).answered);
-    BoundedChannel channel(MakeUnboundedChannel(Address(way)), {.timeOut = 10s, .retryAfter = 0ms});
+    BoundedChannel channel(MakeUnboundedChannel(Address(transport)),
+                           {.timeOut = 10s, .retryAfter = 0ms});
     EXPECT_EQ(channel.Execute(kIsMuted).value, mute);
     EXPECT_EQ(Control(fault), "ok");
     const PjtReply reply = channel.Execute(kIsMuted);
@@ -172,7 +173,7 @@ TEST(Dialog, ConnectsByItselfAndNeedsAtMostTwoRoundTripsPerPage) {
     CModelInfo2 model = FullModel(type, code);
     SimulatedProjector projector(DescribeModel(MakeModelData(model)));
     std::atomic<int> askedAtOnce = 0;
-    const Peer peer(Way::Tcp, {[&](Peer::End& end) {
+    const Peer peer(Transport::Tcp, {[&](Peer::End& end) {
                       WireResponder responder(projector);
                       for (auto said = end.Receive(); !said.empty(); said = end.Receive()) {
                         ++askedAtOnce;

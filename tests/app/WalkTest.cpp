@@ -209,7 +209,8 @@ class Walk {
 
 TEST(RandomWalk, ThroughTheWholeProgramUsesNoDeletedObject) {
   {
-    Walk walk(static_cast<unsigned>(Given("WALK_SEED", 1)), Given("WALK_ACTIONS", 500));
+    Walk walk(static_cast<unsigned>(EnvironmentNumber("WALK_SEED", 1)),
+              EnvironmentNumber("WALK_ACTIONS", 500));
     walk.Run();
     EXPECT_GT(walk.opened, 10);
     EXPECT_GT(walk.died, 10);

@@ -1,4 +1,4 @@
-// What PJLink projectors do in the field, in a time of its own: nothing here waits.
+// Faults of real PJLink projectors, in simulated time: nothing here waits.
 
 #include <functional>
 
@@ -19,7 +19,7 @@ const PjtCommand kGetInput = Get(Code::InputSource);
 const PjtCommand kSetInput = Set(Code::InputSource, 32);
 const PjtCommand kOn = Do(Op::SetPowerOn);
 
-/// A reply in one word.
+/// A reply as one word.
 std::string Word(const PjtCommand& command, const PjtReply& reply) {
   if (!reply.answered) return reply.unsent ? "unsent" : "unanswered";
   if (reply.busy) return "busy";
@@ -35,14 +35,14 @@ struct Case {
   std::function<void(BadProjector&)> misbehaves;
   PjtCommand command;
   const char* comesTo;
-  const char* heard;
+  const char* requests;
 };
 
 void Expect(const Case& one, SteppedSession& stepped) {
   SCOPED_TRACE(one.name);
   one.misbehaves(stepped.projector);
   EXPECT_EQ(Word(one.command, stepped.Do(one.command)), one.comesTo);
-  EXPECT_EQ(stepped.projector.TakeHeard(), one.heard);
+  EXPECT_EQ(stepped.projector.TakeRequests(), one.requests);
 }
 
 void ExpectEach(const std::vector<Case>& cases) {
@@ -53,7 +53,7 @@ void ExpectEach(const std::vector<Case>& cases) {
   }
 }
 
-TEST(PjLinkSession, UnderstandsWhateverALineLooksLike) {
+TEST(PjLinkSession, UnderstandsEveryFormOfALine) {
   using namespace std::string_literals;
   const auto wraps = [](const std::string& before, const std::string& after) {
     return [=](BadProjector& it) {
@@ -75,22 +75,22 @@ TEST(PjLinkSession, UnderstandsWhateverALineLooksLike) {
       {"warming up", [](auto& it) { it.states["POWR"] = "3"; }, Get(Code::RunningState), "1",
        "POWR"},
   });
-  for (const auto& [told, known] :
+  for (const auto& [reply, known] :
        {std::pair("1", '1'), {"2", '2'}, {"3", '2'}, {"Class 1", '1'}, {"ERR1", '1'}}) {
     SteppedSession stepped;
-    stepped.projector.facts["CLSS"] = told;
+    stepped.projector.facts["CLSS"] = reply;
     stepped.Do(kGetInput);
-    EXPECT_EQ(stepped.session.ProtocolClass(), known) << told;
-    stepped.projector.TakeHeard();
+    EXPECT_EQ(stepped.session.ProtocolClass(), known) << reply;
+    stepped.projector.TakeRequests();
     stepped.Do(kGetInput);
-    EXPECT_EQ(stepped.projector.TakeHeard(), "INPT") << "known once and for all";
+    EXPECT_EQ(stepped.projector.TakeRequests(), "INPT") << "known once and for all";
   }
   SteppedSession stepped;
   stepped.projector.facts["INNM31"] = std::string(1500, 'x');
   EXPECT_EQ(stepped.Ask(*PjLinkInputs::NameOf(31)).text.size(), 1500);
 }
 
-TEST(PjLinkSession, LosesOneThingAndAsksAgainWhereItMatters) {
+TEST(PjLinkSession, RepeatsALostRequestOnlyIfThatIsSafe) {
   const auto loses = [](const char* command, int times) {
     return [=](BadProjector& it) { it.loses[command] = times; };
   };
@@ -132,7 +132,7 @@ TEST(PjLinkSession, LosesOneThingAndAsksAgainWhereItMatters) {
       << "inputs of one name are told apart";
 }
 
-TEST(PjLinkSession, WaitsUntilAChangeIsSo) {
+TEST(PjLinkSession, WaitsUntilAChangeTakesEffect) {
   const auto follows = [](std::chrono::milliseconds time) {
     return [=](BadProjector& it) { it.follows = time; };
   };
@@ -149,18 +149,18 @@ TEST(PjLinkSession, WaitsUntilAChangeIsSo) {
   SteppedSession stepped;
   stepped.session.RememberClass('2');
   stepped.Do(kSetInput);
-  stepped.projector.TakeHeard();
+  stepped.projector.TakeRequests();
   EXPECT_EQ(stepped.Do(kGetInput).value, 32);
-  EXPECT_EQ(stepped.projector.TakeHeard(), "") << "it was just read";
+  EXPECT_EQ(stepped.projector.TakeRequests(), "") << "it was just read";
   stepped.Do(kGetInput);
-  EXPECT_EQ(stepped.projector.TakeHeard(), "INPT") << "but only once";
+  EXPECT_EQ(stepped.projector.TakeRequests(), "INPT") << "but only once";
   stepped.Do(kSetInput);
   stepped.now += 2s;
   stepped.projector.states["INPT"] = "5A";
   EXPECT_EQ(stepped.Do(kGetInput).value, 510) << "that was long ago";
 }
 
-TEST(PjLinkSession, AsksABusyProjectorAgainInTime) {
+TEST(PjLinkSession, AsksABusyProjectorAgainUntilTheTimeOut) {
   const auto refuses = [](int times, const char* power) {
     return [=](BadProjector& it) {
       it.refuses["INPT"] = times;
@@ -183,18 +183,18 @@ TEST(PjLinkSession, AsksABusyProjectorAgainInTime) {
        },
        kOn, "done", "POWR 1, POWR, POWR 1, POWR"},
   });
-  for (const auto& [told, power] : {std::pair("0", PowerState::Standby),
-                                    {"2", PowerState::CoolingDown},
-                                    {"3", PowerState::WarmingUp}}) {
+  for (const auto& [state, power] : {std::pair("0", PowerState::Standby),
+                                     {"2", PowerState::CoolingDown},
+                                     {"3", PowerState::WarmingUp}}) {
     SteppedSession stepped;
     stepped.session.RememberClass('2');
-    refuses(99, told)(stepped.projector);
+    refuses(99, state)(stepped.projector);
     stepped.Do(kGetInput);
     EXPECT_EQ(stepped.session.Power(), power);
   }
 }
 
-TEST(PjLinkSession, HasTheWholeTimeForEachAnswerAndOneConnectionWithGrowingPauses) {
+TEST(PjLinkSession, HasTheWholeTimeForEachAnswerAndReconnectsAfterGrowingPauses) {
   ExpectEach({
       {"slow", [](auto& it) { it.answers = 1990ms; }, kSetInput, "done", "INPT 32, INPT"},
       {"too slow", [](auto& it) { it.answers = 2010ms; }, kSetInput, "unanswered", "INPT 32"},
@@ -231,27 +231,27 @@ TEST(PjLinkSession, HasTheWholeTimeForEachAnswerAndOneConnectionWithGrowingPause
   EXPECT_EQ(away.projector.attempts, 1 + 6) << "at 0, 50, 150, 350, 750 and 1550 ms";
 }
 
-TEST(PjLinkSession, OneKeyCostsThreeExchangesCoolAndTwoWarm) {
+TEST(PjLinkSession, OneSettingNeedsThreeExchangesAtFirstAndTwoLater) {
   const std::pair<PjtCommand, const char*> kCases[] = {
       {Get(Code::RunningState), "POWR"},   {kGetInput, "CLSS, INPT"},
       {Get(Code::Mute), "AVMT"},           {Get(Code::Freeze), "CLSS, FREZ"},
       {kSetInput, "CLSS, INPT 32, INPT"},  {Do(Op::SetMute, 0), "AVMT 20, AVMT"},
       {Inc(Code::Volume), "CLSS, SVOL 1"}, {Get(Code::Brightness), ""}};
-  for (const auto& [command, heard] : kCases) {
+  for (const auto& [command, requests] : kCases) {
     SteppedSession cold;
     cold.Do(command);
-    EXPECT_EQ(cold.projector.TakeHeard(), heard);
+    EXPECT_EQ(cold.projector.TakeRequests(), requests);
     SteppedSession warm;
     warm.session.RememberClass('2');
     warm.Do(command);
-    EXPECT_LE(warm.projector.heard.size(), 2);
+    EXPECT_LE(warm.projector.requests.size(), 2);
   }
   SteppedSession other;
   other.session.RememberClass('2');
   other.projector.facts["CLSS"] = "1";
   other.projector.states.erase("FREZ");
   EXPECT_FALSE(other.Do(Get(Code::Freeze)).offered);
-  EXPECT_EQ(other.projector.TakeHeard(), "FREZ, CLSS") << "what is remembered may be wrong";
+  EXPECT_EQ(other.projector.TakeRequests(), "FREZ, CLSS") << "what is remembered may be wrong";
 }
 
 }  // namespace

@@ -12,9 +12,9 @@ int calls = 0;
 
 int NamesakeCalls() { return calls; }
 
-// None of this is the library's. A host may call its own functions and classes what it likes. These
-// few stand for all: what the libraries show is held against exported-symbols.txt, but for inline
-// members, such as those of the types here.
+// Functions and classes of a host that have the same names as internal ones of the library. A few
+// examples suffice: a check compares the exported symbols with exported-symbols.txt. It does not
+// cover inline members, such as those of the types here.
 
 int LoadCatalog() { return ++calls; }
 void LocalizeControlTexts(int, QWidget&) { ++calls; }

@@ -118,8 +118,8 @@ class Dialog:
         return self.page()
 
 
-# What is done on a page, and all commands that follow: a number sets a slider, a text picks an
-# entry, nothing presses the control.
+# Actions on a page and the commands that must follow: a number sets a slider, a text chooses an
+# entry, no value presses the control.
 OPERATIONS = [
     (5, 30, "Picture", "Brightness +", None, ["Inc 0x2003", "Get 0x2003"]),
     (5, 30, "Picture", "Contrast", -7, ["SetContrast(121)"]),
@@ -135,7 +135,7 @@ OPERATIONS = [
     (1, 1, "Option", "Menu Color", "Green", ["SetMenuColor(3)", "Get 0x3005"]),
 ]
 
-# Of numbers, choices and states; an action has a button.
+# Roles of numbers, choices and states; actions are buttons.
 ROLES = [["text"], ["combo box", "check box"], ["label", "combo box"]]
 ACTION = "3"
 

@@ -4,6 +4,5 @@
 
 #include "ProjectorCommonExport.h"
 
-/// Whether the text is a host name or an IP address, without scheme and port. Any thread
-/// may call it.
+/// Whether the text is a host name or an IP address, without scheme and port. Any thread.
 PROJECTOR_COMMON_EXPORT bool IsHostAddress(std::string_view text);

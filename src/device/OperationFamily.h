@@ -31,9 +31,9 @@ enum class OperationFamily : std::uint8_t {
   GenericStepper,
 };
 
-/// What one number of a command stands for.
+/// The meaning of a command's argument.
 enum class Argument : std::uint8_t {
-  None,     ///< Nothing; mostly 0.
+  None,  ///< Unused; mostly 0.
   Address,  ///< The source, channel or point that the operation addresses.
   Value,    ///< The value to set; for a stepper, the value before the step.
   Flag,
@@ -42,16 +42,16 @@ enum class Argument : std::uint8_t {
 /// What an operation does to the projector.
 enum class Effect : std::uint8_t {
   Acts,   ///< Starts or resets something.
-  Reads,  ///< Nothing.
+  Reads,  ///< Only reads.
   Sets,   ///< Sets a value that the command names.
   Steps,  ///< Changes a value by one step.
 };
 
-/// What the caller of an operation gets from a reply.
+/// What an operation returns to its caller.
 enum class Tells : std::uint8_t {
-  Nothing,  ///< Though the reply carries a result.
+  Nothing,  ///< Even though the reply has a result.
   Result,   ///< Accepted or refused.
-  Value,    ///< Also, if accepted, the value read or the one after the step.
+  Value,  ///< The result and, if accepted, the value read or the value after the step.
 };
 
 /// Which results are a success.

@@ -12,7 +12,7 @@
 namespace {
 
 constexpr qint64 kReadBuffer = 512;
-constexpr int kMostPieces = 8;  // taken of what came while nothing was asked
+constexpr int kMostPieces = 8;  // of unsolicited data, read at once
 constexpr PjtCommand kGetInput{.operation = PjtOperation::Get, .code = CommandCode::InputSource};
 
 }  // namespace
@@ -55,13 +55,14 @@ void PjLinkChannel::Run(const auto& work) {
        step = session_.Next(Clock::now())) {
     wasUsed = true;
     Drive(step);
-    // A projector that closes after each reply has done so before the next request.
+    // Some projectors close the connection after each reply; this detects it before the next
+    // request.
     TakeWhatCame();
     if (session_.State() == ConnectionState::Connecting) state_ = ConnectionState::Connecting;
   }
   if (wasUsed || session_.State() != before) state_ = session_.State();
   power_ = session_.Power();
-  // It is another projector than the one that is remembered.
+  // Another class means another projector than the remembered one.
   const auto known = session_.ProtocolClass();
   if (rememberedClass_ && known && known != rememberedClass_) {
     inputs_.Forget();
@@ -69,7 +70,8 @@ void PjLinkChannel::Run(const auto& work) {
   }
 }
 
-/// What came while nothing was asked answers nothing that will be, and may be the connection's end.
+/// Reads what arrived without a request: it answers no later request, and may be the end of the
+/// connection.
 void PjLinkChannel::TakeWhatCame() {
   for (int i = 0; socket_ && i < kMostPieces && socket_->waitForReadyRead(0); ++i) {
     session_.Connection().Received(socket_->readAll().toStdString());
@@ -105,7 +107,7 @@ void PjLinkChannel::Connect(const PjLinkStep& step) {
   }
 }
 
-/// Passes on what comes, for so long at most.
+/// Passes received data on to the session, for at most `time`.
 void PjLinkChannel::Listen(std::chrono::milliseconds time) {
   if (!socket_) return std::this_thread::sleep_for(time);
   const bool isReady =
@@ -175,12 +177,12 @@ bool PjLinkChannel::UseIdleTime() {
   }
   nextTry_ = Clock::now() + pause_;
   pause_ = std::min(2 * pause_, limits_.longestPause);
-  state_ = ConnectionState::Connected;  // as far as any command tells
+  state_ = ConnectionState::Connected;  // no command has failed
   return false;
 }
 
 bool PjLinkChannel::TendConnection(std::chrono::milliseconds unused) {
-  // A projector that closes after its reply has often done so already.
+  // A projector that closes after its reply may already have done so.
   const bool wasOpen = socket_ != nullptr || state_ == ConnectionState::Connected;
   if (socket_) TakeWhatCame();
   if (socket_ && unused >= limits_.unused) {

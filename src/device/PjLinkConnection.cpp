@@ -12,7 +12,7 @@ void PjLinkConnection::Ask(PjLinkRequest request, PjLinkLimits::Time time, PjLin
   answer_ = {};
   sawOther_ = false;
   mayRepeat_ = request_.parameter.starts_with(PjLink::kQuery);
-  // The rest of a line that has begun would come later.
+  // The rest of an incomplete line would arrive later.
   if (reader_.HasPart()) Drop();
   if (isOpen_) {
     stage_ = Stage::Sending;
@@ -104,7 +104,7 @@ void PjLinkConnection::Open(PjLinkTime now) {
 }
 
 void PjLinkConnection::OpenLater(ConnectionState problem, PjLinkTime now) {
-  // No time was left to look up a name that is known.
+  // The look-up of a known name ran out of time.
   const bool isUnknown = problem == ConnectionState::NameUnknown;
   if (isUnknown && problem_) problem = *problem_;
   problem_ = problem;
@@ -133,12 +133,12 @@ void PjLinkConnection::TakeReply(const std::string& line) {
     return Finish(ConnectionState::Connected);
   }
   if (PjLink::SameWord(line, PjLink::kWrongPassword)) {
-    answer_.sent = false;  // nothing is carried out without it
+    answer_.sent = false;  // without it the projector carries nothing out
     hasGreeted_ = false;
     return Lose(ConnectionState::PasswordRequired);
   }
   if (isReply) return;
-  // The answer to a change may follow.
+  // The answer to a change may still follow.
   sawOther_ = true;
   if (std::exchange(mayRepeat_, false)) {
     stage_ = Stage::Sending;
@@ -147,7 +147,7 @@ void PjLinkConnection::TakeReply(const std::string& line) {
   }
 }
 
-/// Gives the request and the connection up.
+/// Gives up the request and the connection.
 void PjLinkConnection::Lose(ConnectionState problem) {
   Drop();
   if (stage_ != Stage::Idle) Finish(problem);

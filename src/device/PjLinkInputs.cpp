@@ -9,14 +9,14 @@
 namespace {
 
 constexpr std::size_t kMostInputs = SourceList::kCapacity;
-constexpr std::size_t kLongestName = 128;  // bytes; some tell more than they may
+constexpr std::size_t kLongestName = 128;  // in bytes; some projectors send more than the standard allows
 
 std::string NameByCode(const std::string& code) {
   constexpr std::array kKinds{"RGB", "Video", "Digital", "Storage", "Network", "Internal"};
   return std::string(kKinds.at(static_cast<std::size_t>(code[0] - '1'))) + ' ' + code[1];
 }
 
-/// The name, cut where it must be, with the code behind it.
+/// The name, cut if necessary, with the code appended.
 std::string WithCode(const PjLinkInput& input) {
   const std::string behind = " (" + PjLink::InputCode(input.number).value_or("?") + ')';
   return std::string(CutText(input.name, NameSlot{}.size() - behind.size())) + behind;
@@ -81,7 +81,7 @@ PjLinkInput PjLinkInputs::Named(int number, const std::string& name) {
           name.empty() && code ? NameByCode(*code) : std::string(CutText(name, kLongestName))};
 }
 
-/// The input to ask for next; nothing when all are known.
+/// The input to ask for next; nothing if all are known.
 std::optional<std::string> PjLinkInputs::NextCode() const {
   if (inputs_.size() < std::min(codes_.size(), kMostInputs)) return codes_[inputs_.size()];
   const auto isPlaying = [this](const PjLinkInput& input) { return input.number == playing_; };

@@ -12,36 +12,37 @@
 /// An input of a projector.
 struct PjLinkInput {
   std::int32_t number =
-      0;             ///< What reading the input source yields, as `PjLink::InputNumber` says.
-  std::string name;  ///< UTF-8; the projector's own, or else its kind and place: "Digital 1".
+      0;  ///< The input source number, see `PjLink::InputNumber`.
+  std::string name;  ///< UTF-8; reported by the projector, or else kind and number: "Digital 1".
 
   friend bool operator==(const PjLinkInput&, const PjLinkInput&) = default;
 };
 
-/// The inputs as a model's source list; those that it has no room for are left out. Of inputs of
-/// one name each has its two characters behind it: "HDMI (31)".
+/// The inputs as a model's source list; those beyond its capacity are left out. Inputs with the
+/// same name get their codes appended: "HDMI (31)". Any thread.
 PROJECTOR_COMMON_EXPORT SourceList SourcesOf(const std::vector<PjLinkInput>& inputs);
 
-/// What is known of a projector's inputs, and what to ask next to know more: the list, then the
-/// name of each. Where a list has no room for all, the one that plays takes the last place.
+/// What is known of a projector's inputs, and the next question to ask: first for the list, then
+/// for the name of each. If there are more inputs than a list can hold, the present input takes the
+/// last place. Use from one thread at a time.
 class PROJECTOR_COMMON_EXPORT PjLinkInputs {
  public:
-  /// The question to ask next; nothing when all is known.
+  /// The question to ask next; nothing if everything is known.
   std::optional<PjLinkQuestion> Next() const;
-  /// What became of that question. False where it has to be asked again.
+  /// Takes the result of that question. False if it has to be repeated.
   bool Take(const PjLinkTold& told);
-  /// Does without the name that `Next` asks for, until `Forget`.
+  /// Skips the name that `Next` asks for, until `Forget`.
   void PassOver();
   bool IsListKnown() const { return !codes_.empty(); }
 
-  /// The input that plays.
+  /// Sets the present input.
   void Play(int number) { playing_ = number; }
   const std::vector<PjLinkInput>& Known() const { return inputs_; }
-  /// Takes all inputs for known that are remembered from an earlier session.
+  /// Uses the inputs from an earlier session, which must be complete.
   void Remember(std::vector<PjLinkInput> inputs);
   void Forget() { *this = {}; }
 
-  /// The question for an input's name, and the input with what came of it.
+  /// The question for an input's name; and the input with the name in its answer.
   static std::optional<PjLinkQuestion> NameOf(int number);
   static PjLinkInput Named(int number, const std::string& name);
 
@@ -50,6 +51,6 @@ class PROJECTOR_COMMON_EXPORT PjLinkInputs {
   void Add(PjLinkInput input);
 
   std::vector<std::string> codes_;
-  std::vector<PjLinkInput> inputs_;  ///< Of the first of `codes_`, then of what plays beyond them.
-  int playing_ = 0;                  ///< 0 before it is known.
+  std::vector<PjLinkInput> inputs_;  ///< In the order of `codes_`, then the present input if it is beyond them.
+  int playing_ = 0;  ///< 0 if unknown.
 };

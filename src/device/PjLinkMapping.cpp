@@ -30,7 +30,7 @@ constexpr auto kFreezeOrRun = OneOf<'1', '0'>;
 constexpr auto kPictureMuted = PartMuted<'1'>;
 constexpr auto kSoundMuted = PartMuted<'2'>;
 
-// A projector that warms up or cools down does what it was told.
+// A projector that is warming up or cooling down has accepted the change.
 std::optional<int> PowerAim(std::string_view parameter) {
   const auto power = PjLink::Power(parameter);
   if (!power) return std::nullopt;

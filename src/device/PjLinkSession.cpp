@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::chrono::seconds kFresh{1};
 constexpr int kMostLost = 1;
-/// Before it is asked again for the first time; then it doubles.
+/// Pause before the first repetition; doubled for each further one.
 constexpr std::chrono::milliseconds kFirstPause{100};
 
 bool IsError(std::string_view answer) {
@@ -63,7 +63,7 @@ PjLinkStep PjLinkSession::Next(PjLinkTime now) {
       Resume(now);
     }
   }
-  return connection_.Next(now);  // it may have to be closed
+  return connection_.Next(now);  // the connection may have to be closed
 }
 
 void PjLinkSession::BeginWork(PjLinkClass needed, PjLinkTime now) {
@@ -79,7 +79,7 @@ void PjLinkSession::BeginWork(PjLinkClass needed, PjLinkTime now) {
   }
 }
 
-/// The class is known by now, if it can be.
+/// The class is known now, unless the projector does not report it.
 void PjLinkSession::AskForWork(PjLinkTime now) {
   const PjLinkClass needed = mapping_ ? mapping_->protocolClass : question_.protocolClass;
   if (needed == PjLinkClass::Second && class_ == '1') {
@@ -146,7 +146,7 @@ void PjLinkSession::TakeClass(const PjLinkAnswer& answer, PjLinkTime now) {
     if (answer.sent && lost_++ < kMostLost) return Ask(Stage::Class, "CLSS", PjLink::kQuery, now);
     PjtReply reply = Refused();
     reply.answered = false;
-    reply.unsent = true;  // the command itself has not left
+    reply.unsent = true;  // the command itself was not sent
     return Finish(reply);
   }
   const bool isTold =
@@ -161,7 +161,8 @@ void PjLinkSession::TakeClass(const PjLinkAnswer& answer, PjLinkTime now) {
 void PjLinkSession::TakeCommand(const PjLinkAnswer& answer, PjLinkTime now) {
   PjtReply reply = Refused();
   if (!answer.parameter) {
-    // Another projector may come, or have come since the class was remembered.
+    // The projector may have been replaced since the class was remembered, or may be replaced
+    // before the next connection.
     if (answer.sent == isClassRemembered_) class_.reset();
     reply.answered = false;
     reply.unsent = !answer.sent;
@@ -188,7 +189,7 @@ void PjLinkSession::TakeCommand(const PjLinkAnswer& answer, PjLinkTime now) {
 
 void PjLinkSession::TakeValue(const std::string& parameter, PjLinkTime now) {
   const auto value = mapping_->value(parameter);
-  // What got distorted is asked for again.
+  // A garbled value is requested again once.
   if (!value && !IsError(parameter) && !std::exchange(strange_, true)) return AskForWork(now);
   if (!value) return Finish(Refused());
   if (mapping_->command == "POWR") power_ = PjLink::Power(parameter);
@@ -197,7 +198,7 @@ void PjLinkSession::TakeValue(const std::string& parameter, PjLinkTime now) {
       {.result = AcceptedResult(command_.operation), .value = static_cast<std::int16_t>(*value)});
 }
 
-/// `ERR3`.
+/// Handles `ERR3`.
 void PjLinkSession::TakeNotNow(PjLinkTime now) {
   if (!askUntil_) askUntil_ = now + AnswerTime();
   if (!std::exchange(asked_, true)) return Ask(Stage::Power, "POWR", PjLink::kQuery, now);
@@ -210,7 +211,7 @@ void PjLinkSession::TakeNotNow(PjLinkTime now) {
 void PjLinkSession::TakePower(const PjLinkAnswer& answer, PjLinkTime now) {
   const auto power = answer.parameter ? PjLink::Power(*answer.parameter) : std::nullopt;
   if (power) power_ = power;
-  const bool isOwn = mapping_->command == "POWR";  // which ends a standby
+  const bool isOwn = mapping_->command == "POWR";  // a power command is possible in standby
   const bool isVain = !answer.parameter || (power == PowerState::Standby && !isOwn) ||
                       (power && power != PowerState::On && IsRead(command_.operation));
   if (isVain) askUntil_ = now;
@@ -224,7 +225,7 @@ void PjLinkSession::TakeConfirmation(const PjLinkAnswer& answer, PjLinkTime now)
     kept_ = {std::string(mapping_->command), *answer.parameter, now};
     return Finish(reply_);
   }
-  // Where the question is unknown, nothing else will tell.
+  // If the projector does not support the question, the change cannot be confirmed.
   const bool isSilent = answer.parameter && PjLink::SameWord(*answer.parameter, PjLink::kUndefined);
   if (isSilent) return Finish(reply_);
   if (now < *askUntil_) return AskAfterPause(Stage::Confirm, now);

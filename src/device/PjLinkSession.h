@@ -10,54 +10,55 @@
 #include "device/PjLinkMapping.h"
 #include "device/ProjectorChannel.h"
 
-/// Something asked of a projector that is no setting.
+/// A question to a projector that is not for a setting.
 struct PjLinkQuestion {
   PjLinkClass protocolClass = PjLinkClass::First;
   std::string command{};
   std::string parameter = "?";
 };
 
-/// What became of a question.
+/// The result of a question.
 struct PjLinkTold {
   enum class Kind {
     Text,
-    None,    ///< The projector has no such thing; `text` is empty.
-    NotNow,  ///< It does not tell it in its present state; likewise.
-    Lost,    ///< No answer came; likewise.
+    None,  ///< The projector does not support the question; `text` is empty.
+    NotNow,  ///< The projector does not answer it in its present state; `text` is empty.
+    Lost,  ///< No answer came; `text` is empty.
   };
 
   Kind kind = Kind::Lost;
   std::string text{};  ///< UTF-8, without control characters.
 };
 
-/// A session with a PJLink projector: what a command or a question becomes on the line, what the
-/// answers mean, when to ask again, and when to give up. Needs no socket and no clock, but a driver
-/// that does each step of `Next` and tells `Connection()` what happens, until the work that was
-/// begun is finished; the result is there then.
+/// A session with a PJLink projector: translates commands and questions into requests, interprets
+/// the answers, and decides when to ask again and when to give up. It has no socket and no clock: a
+/// driver performs each step that `Next` returns and reports to `Connection()` what happens, until
+/// the work is finished. Then the result is available. Use from one thread at a time.
 ///
-/// - The class is asked for with the first work that needs it. One that was remembered from before
-///   is asked for again when the projector does not know a command of class 2.
-/// - What the projector cannot do now (`ERR3`) is asked again at growing intervals, within the time
-///   for an answer; then the command is refused as busy. A read is refused at once where the
-///   projector is not on, and a change where it is in standby.
-/// - After a change was accepted, its state is asked for at growing intervals until it is as
-/// wanted.
-///   Where it is not so within the time for an answer, the change is pending.
-/// - A read of what a change has just led to is answered from that, within a second.
-/// - A question is asked again once where its answer got lost.
+/// - Asks for the class with the first work that needs it. A class from an earlier session is asked
+/// for again if the projector does not know a command of class 2.
+/// - If the projector cannot execute a command now (`ERR3`), the command is repeated at growing
+/// intervals until the time for an answer is over, and then refused as busy. A read is refused at
+/// once if the projector is not on, and a change if it is in standby.
+/// - After a change is accepted, its state is requested at growing intervals until it is as wanted.
+/// If that takes longer than the time for an answer, the change is pending.
+/// - A read within a second after a change uses the state read after the change.
+/// - A question is repeated once if its answer got lost.
 ///
-/// Every step of this is one exchange, and every exchange has the whole time for an answer.
+/// Each of these steps is one exchange, and each exchange has the full time for an answer.
 class PROJECTOR_COMMON_EXPORT PjLinkSession {
  public:
   PjLinkSession(const std::string& password, const PjLinkLimits& limits)
       : limits_(limits), connection_(password, limits) {}
 
-  /// Requests have this time from now on, or that of the limits where it is less.
+  /// Sets the time-out of further requests. The time-out of the limits still applies if it is
+  /// shorter.
   void GiveUpAfter(PjLinkLimits::Time time) { longest_ = time; }
 
   void Begin(const PjtCommand& command, PjLinkTime now);
   void Begin(PjLinkQuestion question, PjLinkTime now);
-  /// The next command that reads what the last one read is answered from that, within a second.
+  /// Keeps the value that the last command read. If the next command reads the same within a
+  /// second, this value is used.
   void KeepLast() { keepsLast_ = true; }
 
   PjLinkStep Next(PjLinkTime now);
@@ -68,17 +69,17 @@ class PROJECTOR_COMMON_EXPORT PjLinkSession {
   ConnectionState State() const { return connection_.State(); }
   bool HasGreeted() const { return connection_.HasGreeted(); }
 
-  /// The class once it is known, '1' or '2'.
+  /// The class, '1' or '2', once it is known.
   std::optional<char> ProtocolClass() const { return class_; }
-  /// Takes a class for known that is remembered from an earlier session.
+  /// Uses a class from an earlier session.
   void RememberClass(char protocolClass);
-  /// The power state as it was told last.
+  /// The power state that the projector reported last.
   std::optional<PowerState> Power() const { return power_; }
 
  private:
   enum class Stage { Idle, Class, Command, Power, Confirm, Question, Pausing };
 
-  /// The answer to a question that a read may take over.
+  /// An answer that a later read may use.
   struct Kept {
     std::string command;
     std::string parameter;
@@ -108,23 +109,23 @@ class PROJECTOR_COMMON_EXPORT PjLinkSession {
   PjLinkLimits::Time longest_ = limits_.answer;
   PjLinkConnection connection_;
   std::optional<char> class_;
-  bool isClassRemembered_ = false;  ///< And not told by the projector.
+  bool isClassRemembered_ = false;  ///< And not confirmed by the projector in this session.
   std::optional<PowerState> power_;
 
-  // The work.
+  // The work in progress.
   PjtCommand command_{PjtOperation::Get};
-  const PjLinkMapping* mapping_ = nullptr;  ///< Null of a question.
+  const PjLinkMapping* mapping_ = nullptr;  ///< Null for a question.
   PjLinkQuestion question_;
   std::string parameter_;
-  int lost_ = 0;          ///< Answers to the session's own questions.
-  bool asked_ = false;    ///< For the power state, since the work began.
-  bool strange_ = false;  ///< A value was told that nobody understands.
+  int lost_ = 0;  ///< Number of lost answers to the session's own questions.
+  bool asked_ = false;  ///< Whether the power state was requested for this work.
+  bool strange_ = false;  ///< Whether a garbled value was received.
   bool keepsLast_ = false;
 
   Stage stage_ = Stage::Idle;
-  Stage resumed_ = Stage::Idle;  ///< What the pause is before.
+  Stage resumed_ = Stage::Idle;  ///< The stage after the pause.
   PjLinkTime resumeAt_{};
-  std::optional<PjLinkTime> askUntil_;  ///< As long it is asked again.
+  std::optional<PjLinkTime> askUntil_;  ///< End of the repetitions.
   PjLinkLimits::Time pause_{};
   std::optional<Kept> kept_;
   PjtReply reply_;

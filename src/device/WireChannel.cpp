@@ -13,7 +13,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr std::size_t kMostUnanswered = 64;
-constexpr int kIdlePieces = 64;  // taken of what came while nothing was asked
+constexpr int kIdlePieces = 64;  // of unsolicited data, read at once
 
 bool IsForgotten(const std::optional<Wire::Reply>& reply) {
   return reply && reply->status == Wire::Status::NoHello;
@@ -23,7 +23,8 @@ int Rest(const QDeadlineTimer& deadline) { return static_cast<int>(deadline.rema
 
 }  // namespace
 
-// Counting begins anywhere: on a serial line a late reply may be that to somebody before us.
+// Sequence numbers start at a random value: on a serial line, a late reply may be for the previous
+// program.
 WireChannel::WireChannel(Medium medium, const Limits& limits)
     : medium_(medium),
       limits_(limits),
@@ -38,16 +39,17 @@ PjtReply WireChannel::Execute(const PjtCommand& command) {
     announced_.clear();
     sent_.clear();
   } else if (Clock::now() - lastAsked_ > limits_.answer) {
-    sent_.clear();  // what came during a pause may be as old as that
+    sent_.clear();  // replies received after a pause may be outdated
   }
   if (longest_) giveUpAt_ = Clock::now() + *longest_;
   const auto ask = [&] { return Connect() ? Ask(command) : std::nullopt; };
   auto reply = ask();
-  // It forgot us, as after a restart, and did nothing: so once more, from the hello on.
+  // The projector has forgotten the hello, for example after a restart, and executed nothing.
+  // Repeats hello and request.
   if (IsForgotten(reply)) reply = ask();
   lastAsked_ = Clock::now();
   if (IsForgotten(reply)) Fail(ConnectionState::NotUnderstood);
-  // Nothing is carried out without a version in common.
+  // Without a common version the projector executes nothing.
   const bool isInVain = IsForgotten(reply) || state_ == ConnectionState::OtherVersion;
   unanswered.unsent = !isSent_ || isInVain;
   if (!reply || IsForgotten(reply)) return unanswered;
@@ -81,7 +83,7 @@ QDeadlineTimer WireChannel::Within(std::chrono::milliseconds time) const {
 
 bool WireChannel::Connect() {
   if (line_ && TakeWhatCame()) return true;
-  line_.reset();  // a serial port is opened by one alone
+  line_.reset();  // only one program can open a serial port
   sent_.clear();
   decoder_ = {};
   welcome_.reset();
@@ -95,7 +97,7 @@ bool WireChannel::Connect() {
   hello_ = ++sequence_;
   answered_ = hello_;
   Wire::Append(unsent_, {.sequence = hello_, .message = Wire::Hello{}});
-  // Without noise the first requests go out together with it.
+  // On a reliable line the first requests are sent together with the hello.
   return medium_ == Medium::Reliable || (Write(deadline) && AwaitWelcome());
 }
 
@@ -121,7 +123,7 @@ std::optional<Wire::Reply> WireChannel::Ask(const PjtCommand& command) {
     const auto announced = std::ranges::find(announced_, command);
     if (announced == announced_.end()) {
       Send({&command, 1});
-      // Before the rest of a burst, whose replies still count.
+      // Before the rest of a burst, whose replies are still valid.
       sent_.push_front(sent_.back());
       sent_.pop_back();
     } else {
@@ -135,7 +137,7 @@ std::optional<Wire::Reply> WireChannel::Ask(const PjtCommand& command) {
     if (!Write(Within(limits_.answer)) || !AwaitWelcome()) return std::nullopt;
     own = sent_.begin();
   }
-  sent_.erase(sent_.begin(), own);  // passed over
+  sent_.erase(sent_.begin(), own);  // drops announced reads that were skipped
   const auto answered = [this] { return sent_.front().reply.has_value(); };
   if (!Await(answered, Within(limits_.answer))) return std::nullopt;
   const auto reply = sent_.front().reply;
@@ -197,7 +199,7 @@ WireChannel::Arrival WireChannel::Receive(const QDeadlineTimer& deadline) {
   return strange ? Arrival::Strange : Arrival::Bytes;
 }
 
-// What belongs to no request, or comes a second time, is nobody's.
+// Drops frames that belong to no request, and second replies.
 void WireChannel::Take(const Wire::Frame& frame) {
   if (const auto* welcome = std::get_if<Wire::Welcome>(&frame.message)) {
     if (frame.sequence == hello_ && !welcome_) welcome_ = *welcome;

@@ -102,15 +102,17 @@ struct BoundedChannel::State {
   std::condition_variable commandGiven;
   std::condition_variable changed;  ///< Wakes up waiting threads.
   // Everything below is protected by the mutex.
-  std::optional<PjtCommand> command;  ///< Not yet taken by the worker.
+  std::optional<PjtCommand> command;                 ///< Not yet taken by the worker.
   std::optional<std::vector<PjtCommand>> announced;  ///< Not yet taken by the worker.
-  std::optional<std::chrono::milliseconds> longest;  ///< Time-out of a command, if less than the limit.
-  bool outstanding = false;  ///< A command has not yet returned from the inner channel.
+  std::optional<std::chrono::milliseconds>
+      longest;                ///< Time-out of a command, if less than the limit.
+  bool outstanding = false;   ///< A command has not yet returned from the inner channel.
   bool usesIdleTime = false;  ///< The inner channel uses the idle time right now.
-  bool abandoned = false;  ///< The next command waits for the outstanding one.
+  bool abandoned = false;     ///< The next command waits for the outstanding one.
   bool ended = false;
   Wait* waiting = nullptr;
-  Wait* recipient = nullptr;  ///< The wait that gets the reply to the outstanding command; null if none.
+  Wait* recipient =
+      nullptr;  ///< The wait that gets the reply to the outstanding command; null if none.
   Clock::time_point silentUntil{};
   Clock::time_point lastReturn{};
   Clock::time_point stillSince{};  ///< When the event loop last ran, as far as known.
@@ -191,7 +193,7 @@ bool BoundedChannel::State::WaitUntil(std::unique_lock<std::mutex>& lock, Wait& 
 
 // Asks the inner channel; returns `otherwise` if it throws.
 template <typename Value>
-Value BoundedChannel::Told(State& state, Value otherwise, auto ask) {
+Value BoundedChannel::AskInner(State& state, Value otherwise, auto ask) {
   const std::lock_guard lock(state.mutex);
   try {
     if (state.inner) return ask(*state.inner);
@@ -292,14 +294,15 @@ void BoundedChannel::Announce(std::span<const PjtCommand> reads) {
 }
 
 ConnectionState BoundedChannel::Connection() const {
-  return Told(*state_, ConnectionState::None, [](const auto& inner) { return inner.Connection(); });
+  return AskInner(*state_, ConnectionState::None,
+                  [](const auto& inner) { return inner.Connection(); });
 }
 
 std::optional<SourceList> BoundedChannel::Inputs() {
-  return Told(*state_, std::optional<SourceList>(), [](auto& inner) { return inner.Inputs(); });
+  return AskInner(*state_, std::optional<SourceList>(), [](auto& inner) { return inner.Inputs(); });
 }
 
 std::optional<PowerState> BoundedChannel::Power() const {
-  return Told(*state_, std::optional<PowerState>(),
-              [](const auto& inner) { return inner.Power(); });
+  return AskInner(*state_, std::optional<PowerState>(),
+                  [](const auto& inner) { return inner.Power(); });
 }

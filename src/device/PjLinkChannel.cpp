@@ -41,13 +41,13 @@ PjtReply PjLinkChannel::Execute(const PjtCommand& command) {
   const auto* const mapping = PjLinkMapping::Find(command);
   const bool tellsInput = IsRead(command.operation) && mapping && mapping->command == "INPT";
   if (tellsInput && reply.answered && IsSuccess(command.operation, reply.result)) {
-    inputs_.Play(reply.value);
+    inputs_.SetPresent(reply.value);
   }
   return reply;
 }
 
 void PjLinkChannel::Run(const auto& work) {
-  TakeWhatCame();
+  ReceiveUnsolicited();
   work();
   const ConnectionState before = session_.State();
   bool wasUsed = false;
@@ -57,7 +57,7 @@ void PjLinkChannel::Run(const auto& work) {
     Drive(step);
     // Some projectors close the connection after each reply; this detects it before the next
     // request.
-    TakeWhatCame();
+    ReceiveUnsolicited();
     if (session_.State() == ConnectionState::Connecting) state_ = ConnectionState::Connecting;
   }
   if (wasUsed || session_.State() != before) state_ = session_.State();
@@ -72,7 +72,7 @@ void PjLinkChannel::Run(const auto& work) {
 
 /// Reads what arrived without a request: it answers no later request, and may be the end of the
 /// connection.
-void PjLinkChannel::TakeWhatCame() {
+void PjLinkChannel::ReceiveUnsolicited() {
   for (int i = 0; socket_ && i < kMostPieces && socket_->waitForReadyRead(0); ++i) {
     session_.Connection().Received(socket_->readAll().toStdString());
   }
@@ -124,22 +124,22 @@ bool PjLinkChannel::CanConnect() {
   return can;
 }
 
-PjLinkTold PjLinkChannel::Ask(const PjLinkQuestion& question) {
+PjLinkResult PjLinkChannel::Ask(const PjLinkQuestion& question) {
   if (!CanConnect()) return {};
   Run([&] { session_.Begin(question, Clock::now()); });
-  return session_.Told();
+  return session_.Result();
 }
 
 std::pair<std::vector<PjLinkInput>, bool> PjLinkChannel::AskForInputs() {
   bool isWhole = true;
   bool isLost = false;
   while (const auto question = inputs_.Next()) {
-    const PjLinkTold told = Ask(*question);
-    if (inputs_.Take(told)) continue;
+    const PjLinkResult result = Ask(*question);
+    if (inputs_.Take(result)) continue;
     isWhole = false;
-    isLost = isLost || told.kind == PjLinkTold::Kind::Lost;
+    isLost = isLost || result.kind == PjLinkResult::Kind::Lost;
     if (!inputs_.IsListKnown()) break;
-    inputs_.PassOver();
+    inputs_.SkipName();
   }
   const auto known = inputs_.Known();
   if (!isWhole) inputs_.Forget();
@@ -154,14 +154,14 @@ std::pair<std::optional<PjLinkInput>, bool> PjLinkChannel::AskForPresentInput() 
   const auto input = std::ranges::find(known, reply.value, &PjLinkInput::number);
   if (input != known.end()) return {*input, true};
   const auto question = PjLinkInputs::NameOf(reply.value);
-  const PjLinkTold told = question ? Ask(*question) : PjLinkTold{};
-  return {PjLinkInputs::Named(reply.value, told.text), told.kind != PjLinkTold::Kind::Lost};
+  const PjLinkResult result = question ? Ask(*question) : PjLinkResult{};
+  return {PjLinkInputs::Named(reply.value, result.text), result.kind != PjLinkResult::Kind::Lost};
 }
 
 std::optional<SourceList> PjLinkChannel::Inputs() {
   asksForInputs_ = true;
-  const std::lock_guard lock(toldMutex_);
-  return told_;
+  const std::lock_guard lock(inputsMutex_);
+  return reportedInputs_;
 }
 
 bool PjLinkChannel::UseIdleTime() {
@@ -171,8 +171,8 @@ bool PjLinkChannel::UseIdleTime() {
   if (inputs_.Take(Ask(*question))) {
     if (inputs_.Next()) return true;
     pause_ = limits_.firstPause;
-    const std::lock_guard lock(toldMutex_);
-    told_ = SourcesOf(inputs_.Known());
+    const std::lock_guard lock(inputsMutex_);
+    reportedInputs_ = SourcesOf(inputs_.Known());
     return false;
   }
   nextTry_ = Clock::now() + pause_;
@@ -184,7 +184,7 @@ bool PjLinkChannel::UseIdleTime() {
 bool PjLinkChannel::TendConnection(std::chrono::milliseconds unused) {
   // A projector that closes after its reply may already have done so.
   const bool wasOpen = socket_ != nullptr || state_ == ConnectionState::Connected;
-  if (socket_) TakeWhatCame();
+  if (socket_) ReceiveUnsolicited();
   if (socket_ && unused >= limits_.unused) {
     socket_.reset();
     session_.Connection().Closed(Clock::now());
@@ -204,8 +204,8 @@ void PjLinkChannel::Remember(const PjLinkFacts& facts) {
   if (rememberedClass_) session_.RememberClass(*rememberedClass_);
   if (facts.inputs.empty()) return;
   inputs_.Remember(facts.inputs);
-  const std::lock_guard lock(toldMutex_);
-  told_ = SourcesOf(facts.inputs);
+  const std::lock_guard lock(inputsMutex_);
+  reportedInputs_ = SourcesOf(facts.inputs);
 }
 
 std::string PjLinkChannel::Address() const { return host_ + ':' + std::to_string(port_); }

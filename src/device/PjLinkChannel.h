@@ -19,7 +19,7 @@ class QTcpSocket;
 /// Properties of a projector that do not change between sessions.
 struct PjLinkFacts {
   std::optional<char> protocolClass{};  ///< '1' or '2'; nothing if unknown.
-  std::vector<PjLinkInput> inputs{};  ///< All inputs; empty if unknown.
+  std::vector<PjLinkInput> inputs{};    ///< All inputs; empty if unknown.
 
   friend bool operator==(const PjLinkFacts&, const PjLinkFacts&) = default;
 };
@@ -47,7 +47,8 @@ class PROJECTOR_COMMON_EXPORT PjLinkChannel : public ProjectorChannel {
     /// is on.
     std::chrono::milliseconds firstPause{10'000};
     std::chrono::milliseconds longestPause{120'000};
-    std::chrono::milliseconds unused{20'000};  ///< Time without use after which the connection is closed.
+    std::chrono::milliseconds unused{
+        20'000};  ///< Time without use after which the connection is closed.
 
     /// The longest time for a command: for connecting, the class, the command itself and the time
     /// until it takes effect, after a question for inputs that is under way.
@@ -99,12 +100,12 @@ class PROJECTOR_COMMON_EXPORT PjLinkChannel : public ProjectorChannel {
 
   /// Starts `work` and drives the session until it is finished.
   void Run(const auto& work);
-  void TakeWhatCame();
+  void ReceiveUnsolicited();
   void Drive(const PjLinkStep& step);
   void Connect(const PjLinkStep& step);
   void Listen(std::chrono::milliseconds time);
   bool CanConnect();
-  PjLinkTold Ask(const PjLinkQuestion& question);
+  PjLinkResult Ask(const PjLinkQuestion& question);
 
   const std::string host_;
   const int port_;
@@ -120,6 +121,6 @@ class PROJECTOR_COMMON_EXPORT PjLinkChannel : public ProjectorChannel {
   PjLinkInputs inputs_;
   std::chrono::milliseconds pause_ = limits_.firstPause;
   Clock::time_point nextTry_{};
-  std::mutex toldMutex_;
-  std::optional<SourceList> told_;  ///< Protected by the mutex.
+  std::mutex inputsMutex_;
+  std::optional<SourceList> reportedInputs_;  ///< Protected by the mutex.
 };

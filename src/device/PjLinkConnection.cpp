@@ -10,7 +10,7 @@ void PjLinkConnection::Ask(PjLinkRequest request, PjLinkLimits::Time time, PjLin
   request_ = std::move(request);
   answerTime_ = time;
   answer_ = {};
-  sawOther_ = false;
+  sawOtherLine_ = false;
   mayRepeat_ = request_.parameter.starts_with(PjLink::kQuery);
   // The rest of an incomplete line would arrive later.
   if (reader_.HasPart()) Drop();
@@ -23,10 +23,10 @@ void PjLinkConnection::Ask(PjLinkRequest request, PjLinkLimits::Time time, PjLin
 
 PjLinkStep PjLinkConnection::Next(PjLinkTime now) {
   const bool isLate = now >= until_;
-  if (stage_ == Stage::Connecting && isLate) Lose(ConnectionState::NotReachable);
-  if (stage_ == Stage::Greeting && isLate) Lose(ConnectionState::NoAnswer);
+  if (stage_ == Stage::Connecting && isLate) GiveUp(ConnectionState::NotReachable);
+  if (stage_ == Stage::Greeting && isLate) GiveUp(ConnectionState::NoAnswer);
   if (stage_ == Stage::Awaiting && isLate) {
-    Lose(sawOther_ ? ConnectionState::NotUnderstood : ConnectionState::NoAnswer);
+    GiveUp(sawOtherLine_ ? ConnectionState::NotUnderstood : ConnectionState::NoAnswer);
   }
   if (std::exchange(closes_, false)) return {.kind = Kind::Close};
   switch (stage_) {
@@ -66,10 +66,10 @@ void PjLinkConnection::Received(std::string_view bytes) {
   while (isOpen_) {
     const auto line = reader_.Next();
     if (!line) break;
-    if (stage_ == Stage::Greeting) TakeGreeting(*line);
-    if (stage_ == Stage::Awaiting) TakeReply(*line);
+    if (stage_ == Stage::Greeting) HandleGreeting(*line);
+    if (stage_ == Stage::Awaiting) HandleReply(*line);
   }
-  if (reader_.IsTooLong()) Lose(ConnectionState::NotUnderstood);
+  if (reader_.IsTooLong()) GiveUp(ConnectionState::NotUnderstood);
 }
 
 void PjLinkConnection::Closed(PjLinkTime now) {
@@ -114,18 +114,18 @@ void PjLinkConnection::OpenLater(ConnectionState problem, PjLinkTime now) {
   pause_ *= 2;
 }
 
-void PjLinkConnection::TakeGreeting(std::string_view line) {
+void PjLinkConnection::HandleGreeting(std::string_view line) {
   const auto seed = PjLink::ParseGreeting(line);
   if (!seed) {
-    return Lose(PjLink::SameWord(line, PjLink::kWrongPassword) ? ConnectionState::PasswordRequired
-                                                               : ConnectionState::NotUnderstood);
+    return GiveUp(PjLink::SameWord(line, PjLink::kWrongPassword) ? ConnectionState::PasswordRequired
+                                                                 : ConnectionState::NotUnderstood);
   }
   proof_ = seed->empty() ? std::string() : PjLink::Digest(*seed, password_);
   hasGreeted_ = true;
   stage_ = Stage::Sending;
 }
 
-void PjLinkConnection::TakeReply(const std::string& line) {
+void PjLinkConnection::HandleReply(const std::string& line) {
   const auto reply = PjLink::Parse(line);
   const bool isReply = reply && reply->separator == '=';
   if (isReply && PjLink::SameWord(reply->command, request_.command)) {
@@ -135,20 +135,20 @@ void PjLinkConnection::TakeReply(const std::string& line) {
   if (PjLink::SameWord(line, PjLink::kWrongPassword)) {
     answer_.sent = false;  // without it the projector carries nothing out
     hasGreeted_ = false;
-    return Lose(ConnectionState::PasswordRequired);
+    return GiveUp(ConnectionState::PasswordRequired);
   }
   if (isReply) return;
   // The answer to a change may still follow.
-  sawOther_ = true;
+  sawOtherLine_ = true;
   if (std::exchange(mayRepeat_, false)) {
     stage_ = Stage::Sending;
   } else if (request_.parameter.starts_with(PjLink::kQuery)) {
-    Lose(ConnectionState::NotUnderstood);
+    GiveUp(ConnectionState::NotUnderstood);
   }
 }
 
 /// Gives up the request and the connection.
-void PjLinkConnection::Lose(ConnectionState problem) {
+void PjLinkConnection::GiveUp(ConnectionState problem) {
   Drop();
   if (stage_ != Stage::Idle) Finish(problem);
 }

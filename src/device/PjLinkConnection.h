@@ -15,9 +15,9 @@ using PjLinkTime = std::chrono::steady_clock::time_point;
 struct PjLinkStep {
   enum class Kind {
     Finished,  ///< Nothing: the answer is available.
-    Connect,  ///< Connect until `until` at the latest, and report the result.
+    Connect,   ///< Connect until `until` at the latest, and report the result.
     Send,      ///< Send `bytes`.
-    Wait,  ///< Report events until `until`, then call `Next` again.
+    Wait,      ///< Report events until `until`, then call `Next` again.
     Close,     ///< Close the connection.
   };
 
@@ -87,9 +87,9 @@ class PROJECTOR_COMMON_EXPORT PjLinkConnection {
 
   void Open(PjLinkTime now);
   void OpenLater(ConnectionState problem, PjLinkTime now);
-  void TakeGreeting(std::string_view line);
-  void TakeReply(const std::string& line);
-  void Lose(ConnectionState problem);
+  void HandleGreeting(std::string_view line);
+  void HandleReply(const std::string& line);
+  void GiveUp(ConnectionState problem);
   void Finish(ConnectionState state);
   void Drop();
 
@@ -99,7 +99,7 @@ class PROJECTOR_COMMON_EXPORT PjLinkConnection {
   PjLinkLimits::Time answerTime_{};
   PjLinkAnswer answer_;
   bool mayRepeat_ = false;
-  bool sawOther_ = false;  ///< A line other than a reply came after the request was sent.
+  bool sawOtherLine_ = false;  ///< A line other than a reply came after the request was sent.
 
   Stage stage_ = Stage::Idle;
   ConnectionState state_ = ConnectionState::Unused;

@@ -11,8 +11,7 @@
 
 /// An input of a projector.
 struct PjLinkInput {
-  std::int32_t number =
-      0;  ///< The input source number, see `PjLink::InputNumber`.
+  std::int32_t number = 0;  ///< The input source number, see `PjLink::InputNumber`.
   std::string name;  ///< UTF-8; reported by the projector, or else kind and number: "Digital 1".
 
   friend bool operator==(const PjLinkInput&, const PjLinkInput&) = default;
@@ -30,13 +29,13 @@ class PROJECTOR_COMMON_EXPORT PjLinkInputs {
   /// The question to ask next; nothing if everything is known.
   std::optional<PjLinkQuestion> Next() const;
   /// Takes the result of that question. False if it has to be repeated.
-  bool Take(const PjLinkTold& told);
+  bool Take(const PjLinkResult& result);
   /// Skips the name that `Next` asks for, until `Forget`.
-  void PassOver();
+  void SkipName();
   bool IsListKnown() const { return !codes_.empty(); }
 
   /// Sets the present input.
-  void Play(int number) { playing_ = number; }
+  void SetPresent(int number) { present_ = number; }
   const std::vector<PjLinkInput>& Known() const { return inputs_; }
   /// Uses the inputs from an earlier session, which must be complete.
   void Remember(std::vector<PjLinkInput> inputs);
@@ -51,6 +50,7 @@ class PROJECTOR_COMMON_EXPORT PjLinkInputs {
   void Add(PjLinkInput input);
 
   std::vector<std::string> codes_;
-  std::vector<PjLinkInput> inputs_;  ///< In the order of `codes_`, then the present input if it is beyond them.
-  int playing_ = 0;  ///< 0 if unknown.
+  std::vector<PjLinkInput>
+      inputs_;       ///< In the order of `codes_`, then the present input if it is beyond them.
+  int present_ = 0;  ///< 0 if unknown.
 };

@@ -31,4 +31,4 @@ struct PjLinkMapping {
 };
 
 /// The value that the mapping's `value` returns once a change has taken effect.
-int PjLinkAim(const PjtCommand& change);
+int PjLinkTarget(const PjtCommand& change);

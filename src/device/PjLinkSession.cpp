@@ -41,12 +41,12 @@ void PjLinkSession::Begin(const PjtCommand& command, PjLinkTime now) {
     return Finish(reply);
   }
   parameter_ = *parameter;
-  if (!TakeKept(now)) BeginWork(mapping_->protocolClass, now);
+  if (!AnswerFromKept(now)) BeginWork(mapping_->protocolClass, now);
 }
 
 void PjLinkSession::Begin(PjLinkQuestion question, PjLinkTime now) {
   mapping_ = nullptr;
-  told_ = {};
+  result_ = {};
   question_ = std::move(question);
   BeginWork(question_.protocolClass, now);
 }
@@ -56,7 +56,7 @@ PjLinkStep PjLinkSession::Next(PjLinkTime now) {
     PjLinkStep step = connection_.Next(now);
     if (step.kind != PjLinkStep::Kind::Finished) return step;
     if (stage_ != Stage::Pausing) {
-      Take(connection_.Answer(), now);
+      Handle(connection_.Answer(), now);
     } else if (now < resumeAt_) {
       return {.kind = PjLinkStep::Kind::Wait, .until = resumeAt_};
     } else {
@@ -67,9 +67,9 @@ PjLinkStep PjLinkSession::Next(PjLinkTime now) {
 }
 
 void PjLinkSession::BeginWork(PjLinkClass needed, PjLinkTime now) {
-  lost_ = 0;
-  asked_ = false;
-  strange_ = false;
+  lostAnswers_ = 0;
+  askedForPower_ = false;
+  gotGarbledValue_ = false;
   askUntil_.reset();
   pause_ = kFirstPause;
   if (needed != PjLinkClass::First && !class_) {
@@ -83,7 +83,7 @@ void PjLinkSession::BeginWork(PjLinkClass needed, PjLinkTime now) {
 void PjLinkSession::AskForWork(PjLinkTime now) {
   const PjLinkClass needed = mapping_ ? mapping_->protocolClass : question_.protocolClass;
   if (needed == PjLinkClass::Second && class_ == '1') {
-    told_.kind = PjLinkTold::Kind::None;
+    result_.kind = PjLinkResult::Kind::None;
     PjtReply reply = Refused();
     reply.offered = false;
     return Finish(reply);
@@ -114,51 +114,52 @@ void PjLinkSession::Ask(Stage stage, std::string_view command, std::string_view 
 void PjLinkSession::AskAfterPause(Stage stage, PjLinkTime now) {
   resumeAt_ = std::min(now + pause_, *askUntil_);
   pause_ *= 2;
-  resumed_ = stage;
+  resumedStage_ = stage;
   stage_ = Stage::Pausing;
 }
 
 void PjLinkSession::Resume(PjLinkTime now) {
-  if (resumed_ == Stage::Confirm) {
+  if (resumedStage_ == Stage::Confirm) {
     Ask(Stage::Confirm, mapping_->command, PjLink::kQuery, now);
   } else {
     AskForWork(now);
   }
 }
 
-void PjLinkSession::Take(const PjLinkAnswer& answer, PjLinkTime now) {
+void PjLinkSession::Handle(const PjLinkAnswer& answer, PjLinkTime now) {
   switch (stage_) {
     case Stage::Class:
-      return TakeClass(answer, now);
+      return HandleClass(answer, now);
     case Stage::Power:
-      return TakePower(answer, now);
+      return HandlePower(answer, now);
     case Stage::Confirm:
-      return TakeConfirmation(answer, now);
+      return HandleConfirmation(answer, now);
     case Stage::Question:
-      return TakeTold(answer, now);
+      return HandleQuestionAnswer(answer, now);
     default:
-      return TakeCommand(answer, now);
+      return HandleCommand(answer, now);
   }
 }
 
-void PjLinkSession::TakeClass(const PjLinkAnswer& answer, PjLinkTime now) {
+void PjLinkSession::HandleClass(const PjLinkAnswer& answer, PjLinkTime now) {
   if (!answer.parameter) {
-    if (answer.sent && lost_++ < kMostLost) return Ask(Stage::Class, "CLSS", PjLink::kQuery, now);
+    if (answer.sent && lostAnswers_++ < kMostLost)
+      return Ask(Stage::Class, "CLSS", PjLink::kQuery, now);
     PjtReply reply = Refused();
     reply.answered = false;
     reply.unsent = true;  // the command itself was not sent
     return Finish(reply);
   }
-  const bool isTold =
+  const bool isReported =
       !IsError(*answer.parameter) || PjLink::SameWord(*answer.parameter, PjLink::kUndefined);
-  if (isTold) {
+  if (isReported) {
     class_ = PjLink::ProtocolClass(*answer.parameter);
     isClassRemembered_ = false;
   }
   AskForWork(now);
 }
 
-void PjLinkSession::TakeCommand(const PjLinkAnswer& answer, PjLinkTime now) {
+void PjLinkSession::HandleCommand(const PjLinkAnswer& answer, PjLinkTime now) {
   PjtReply reply = Refused();
   if (!answer.parameter) {
     // The projector may have been replaced since the class was remembered, or may be replaced
@@ -168,7 +169,7 @@ void PjLinkSession::TakeCommand(const PjLinkAnswer& answer, PjLinkTime now) {
     reply.unsent = !answer.sent;
     return Finish(reply);
   }
-  if (PjLink::SameWord(*answer.parameter, PjLink::kNotNow)) return TakeNotNow(now);
+  if (PjLink::SameWord(*answer.parameter, PjLink::kNotNow)) return HandleNotNow(now);
   if (PjLink::SameWord(*answer.parameter, PjLink::kUndefined)) {
     if (mapping_->protocolClass != PjLinkClass::First && std::exchange(isClassRemembered_, false)) {
       class_.reset();
@@ -177,7 +178,7 @@ void PjLinkSession::TakeCommand(const PjLinkAnswer& answer, PjLinkTime now) {
     reply.offered = false;
     return Finish(reply);
   }
-  if (IsRead(command_.operation)) return TakeValue(*answer.parameter, now);
+  if (IsRead(command_.operation)) return HandleValue(*answer.parameter, now);
   if (!PjLink::SameWord(*answer.parameter, PjLink::kDone)) return Finish(reply);
   kept_.reset();
   reply_ = {.result = AcceptedResult(command_.operation)};
@@ -187,10 +188,11 @@ void PjLinkSession::TakeCommand(const PjLinkAnswer& answer, PjLinkTime now) {
   Ask(Stage::Confirm, mapping_->command, PjLink::kQuery, now);
 }
 
-void PjLinkSession::TakeValue(const std::string& parameter, PjLinkTime now) {
+void PjLinkSession::HandleValue(const std::string& parameter, PjLinkTime now) {
   const auto value = mapping_->value(parameter);
   // A garbled value is requested again once.
-  if (!value && !IsError(parameter) && !std::exchange(strange_, true)) return AskForWork(now);
+  if (!value && !IsError(parameter) && !std::exchange(gotGarbledValue_, true))
+    return AskForWork(now);
   if (!value) return Finish(Refused());
   if (mapping_->command == "POWR") power_ = PjLink::Power(parameter);
   if (std::exchange(keepsLast_, false)) kept_ = {std::string(mapping_->command), parameter, now};
@@ -199,29 +201,29 @@ void PjLinkSession::TakeValue(const std::string& parameter, PjLinkTime now) {
 }
 
 /// Handles `ERR3`.
-void PjLinkSession::TakeNotNow(PjLinkTime now) {
+void PjLinkSession::HandleNotNow(PjLinkTime now) {
   if (!askUntil_) askUntil_ = now + AnswerTime();
-  if (!std::exchange(asked_, true)) return Ask(Stage::Power, "POWR", PjLink::kQuery, now);
+  if (!std::exchange(askedForPower_, true)) return Ask(Stage::Power, "POWR", PjLink::kQuery, now);
   if (now < *askUntil_) return AskAfterPause(Stage::Command, now);
   PjtReply reply = Refused();
   reply.busy = true;
   Finish(reply);
 }
 
-void PjLinkSession::TakePower(const PjLinkAnswer& answer, PjLinkTime now) {
+void PjLinkSession::HandlePower(const PjLinkAnswer& answer, PjLinkTime now) {
   const auto power = answer.parameter ? PjLink::Power(*answer.parameter) : std::nullopt;
   if (power) power_ = power;
   const bool isOwn = mapping_->command == "POWR";  // a power command is possible in standby
-  const bool isVain = !answer.parameter || (power == PowerState::Standby && !isOwn) ||
-                      (power && power != PowerState::On && IsRead(command_.operation));
-  if (isVain) askUntil_ = now;
-  TakeNotNow(now);
+  const bool isHopeless = !answer.parameter || (power == PowerState::Standby && !isOwn) ||
+                          (power && power != PowerState::On && IsRead(command_.operation));
+  if (isHopeless) askUntil_ = now;
+  HandleNotNow(now);
 }
 
-void PjLinkSession::TakeConfirmation(const PjLinkAnswer& answer, PjLinkTime now) {
+void PjLinkSession::HandleConfirmation(const PjLinkAnswer& answer, PjLinkTime now) {
   const auto value = answer.parameter ? mapping_->value(*answer.parameter) : std::nullopt;
   if (value && mapping_->command == "POWR") power_ = PjLink::Power(*answer.parameter);
-  if (value == PjLinkAim(command_)) {
+  if (value == PjLinkTarget(command_)) {
     kept_ = {std::string(mapping_->command), *answer.parameter, now};
     return Finish(reply_);
   }
@@ -233,27 +235,28 @@ void PjLinkSession::TakeConfirmation(const PjLinkAnswer& answer, PjLinkTime now)
   Finish(reply_);
 }
 
-void PjLinkSession::TakeTold(const PjLinkAnswer& answer, PjLinkTime now) {
-  using Kind = PjLinkTold::Kind;
+void PjLinkSession::HandleQuestionAnswer(const PjLinkAnswer& answer, PjLinkTime now) {
+  using Kind = PjLinkResult::Kind;
   if (!answer.parameter) {
-    if (answer.sent && lost_++ < kMostLost) return AskForWork(now);
-    told_ = {};
+    if (answer.sent && lostAnswers_++ < kMostLost) return AskForWork(now);
+    result_ = {};
   } else if (!IsError(*answer.parameter)) {
-    told_ = {Kind::Text, Printable(*answer.parameter)};
+    result_ = {Kind::Text, Printable(*answer.parameter)};
   } else {
     const bool isNotNow = PjLink::SameWord(*answer.parameter, PjLink::kNotNow);
-    told_ = {isNotNow ? Kind::NotNow : Kind::None};
+    result_ = {isNotNow ? Kind::NotNow : Kind::None};
   }
   Finish({});
 }
 
-bool PjLinkSession::TakeKept(PjLinkTime now) {
+bool PjLinkSession::AnswerFromKept(PjLinkTime now) {
   const bool isFresh = kept_ && now - kept_->time < kFresh;
-  const bool isMeant = isFresh && IsRead(command_.operation) && kept_->command == mapping_->command;
+  const bool isUsable =
+      isFresh && IsRead(command_.operation) && kept_->command == mapping_->command;
   if (!isFresh || !IsRead(command_.operation)) kept_.reset();
-  if (!isMeant) return false;
-  const Kept kept = *std::exchange(kept_, std::nullopt);
-  TakeValue(kept.parameter, now);
+  if (!isUsable) return false;
+  const KeptAnswer kept = *std::exchange(kept_, std::nullopt);
+  HandleValue(kept.parameter, now);
   return true;
 }
 

@@ -18,12 +18,12 @@ struct PjLinkQuestion {
 };
 
 /// The result of a question.
-struct PjLinkTold {
+struct PjLinkResult {
   enum class Kind {
     Text,
-    None,  ///< The projector does not support the question; `text` is empty.
+    None,    ///< The projector does not support the question; `text` is empty.
     NotNow,  ///< The projector does not answer it in its present state; `text` is empty.
-    Lost,  ///< No answer came; `text` is empty.
+    Lost,    ///< No answer came; `text` is empty.
   };
 
   Kind kind = Kind::Lost;
@@ -65,7 +65,7 @@ class PROJECTOR_COMMON_EXPORT PjLinkSession {
   PjLinkConnection& Connection() { return connection_; }
 
   const PjtReply& Reply() const { return reply_; }
-  const PjLinkTold& Told() const { return told_; }
+  const PjLinkResult& Result() const { return result_; }
   ConnectionState State() const { return connection_.State(); }
   bool HasGreeted() const { return connection_.HasGreeted(); }
 
@@ -80,7 +80,7 @@ class PROJECTOR_COMMON_EXPORT PjLinkSession {
   enum class Stage { Idle, Class, Command, Power, Confirm, Question, Pausing };
 
   /// An answer that a later read may use.
-  struct Kept {
+  struct KeptAnswer {
     std::string command;
     std::string parameter;
     PjLinkTime time;
@@ -91,15 +91,15 @@ class PROJECTOR_COMMON_EXPORT PjLinkSession {
   void Ask(Stage stage, std::string_view command, std::string_view parameter, PjLinkTime now);
   void AskAfterPause(Stage stage, PjLinkTime now);
   void Resume(PjLinkTime now);
-  void Take(const PjLinkAnswer& answer, PjLinkTime now);
-  void TakeClass(const PjLinkAnswer& answer, PjLinkTime now);
-  void TakeCommand(const PjLinkAnswer& answer, PjLinkTime now);
-  void TakeValue(const std::string& parameter, PjLinkTime now);
-  void TakeNotNow(PjLinkTime now);
-  void TakePower(const PjLinkAnswer& answer, PjLinkTime now);
-  void TakeConfirmation(const PjLinkAnswer& answer, PjLinkTime now);
-  void TakeTold(const PjLinkAnswer& answer, PjLinkTime now);
-  bool TakeKept(PjLinkTime now);
+  void Handle(const PjLinkAnswer& answer, PjLinkTime now);
+  void HandleClass(const PjLinkAnswer& answer, PjLinkTime now);
+  void HandleCommand(const PjLinkAnswer& answer, PjLinkTime now);
+  void HandleValue(const std::string& parameter, PjLinkTime now);
+  void HandleNotNow(PjLinkTime now);
+  void HandlePower(const PjLinkAnswer& answer, PjLinkTime now);
+  void HandleConfirmation(const PjLinkAnswer& answer, PjLinkTime now);
+  void HandleQuestionAnswer(const PjLinkAnswer& answer, PjLinkTime now);
+  bool AnswerFromKept(PjLinkTime now);
   void Finish(const PjtReply& reply);
   PjtReply Refused() const { return {.result = RefusedResult(command_.operation)}; }
   PjLinkLimits::Time AnswerTime() const { return std::min(limits_.answer, longest_); }
@@ -117,17 +117,17 @@ class PROJECTOR_COMMON_EXPORT PjLinkSession {
   const PjLinkMapping* mapping_ = nullptr;  ///< Null for a question.
   PjLinkQuestion question_;
   std::string parameter_;
-  int lost_ = 0;  ///< Number of lost answers to the session's own questions.
-  bool asked_ = false;  ///< Whether the power state was requested for this work.
-  bool strange_ = false;  ///< Whether a garbled value was received.
+  int lostAnswers_ = 0;           ///< Number of lost answers to the session's own questions.
+  bool askedForPower_ = false;    ///< Whether the power state was requested for this work.
+  bool gotGarbledValue_ = false;  ///< Whether a garbled value was received.
   bool keepsLast_ = false;
 
   Stage stage_ = Stage::Idle;
-  Stage resumed_ = Stage::Idle;  ///< The stage after the pause.
+  Stage resumedStage_ = Stage::Idle;  ///< The stage after the pause.
   PjLinkTime resumeAt_{};
   std::optional<PjLinkTime> askUntil_;  ///< End of the repetitions.
   PjLinkLimits::Time pause_{};
-  std::optional<Kept> kept_;
+  std::optional<KeptAnswer> kept_;
   PjtReply reply_;
-  PjLinkTold told_;
+  PjLinkResult result_;
 };

@@ -15,7 +15,7 @@ using Clock = std::chrono::steady_clock;
 constexpr std::size_t kMostUnanswered = 64;
 constexpr int kIdlePieces = 64;  // of unsolicited data, read at once
 
-bool IsForgotten(const std::optional<Wire::Reply>& reply) {
+bool HasForgottenHello(const std::optional<Wire::Reply>& reply) {
   return reply && reply->status == Wire::Status::NoHello;
 }
 
@@ -46,13 +46,13 @@ PjtReply WireChannel::Execute(const PjtCommand& command) {
   auto reply = ask();
   // The projector has forgotten the hello, for example after a restart, and executed nothing.
   // Repeats hello and request.
-  if (IsForgotten(reply)) reply = ask();
+  if (HasForgottenHello(reply)) reply = ask();
   lastAsked_ = Clock::now();
-  if (IsForgotten(reply)) Fail(ConnectionState::NotUnderstood);
+  if (HasForgottenHello(reply)) Fail(ConnectionState::NotUnderstood);
   // Without a common version the projector executes nothing.
-  const bool isInVain = IsForgotten(reply) || state_ == ConnectionState::OtherVersion;
-  unanswered.unsent = !isSent_ || isInVain;
-  if (!reply || IsForgotten(reply)) return unanswered;
+  const bool isHopeless = HasForgottenHello(reply) || state_ == ConnectionState::OtherVersion;
+  unanswered.unsent = !isSent_ || isHopeless;
+  if (!reply || HasForgottenHello(reply)) return unanswered;
   unanswered.unsent = false;
   state_ = ConnectionState::Connected;
   switch (reply->status) {
@@ -73,7 +73,7 @@ void WireChannel::Announce(std::span<const PjtCommand> reads) {
 }
 
 bool WireChannel::TendConnection(std::chrono::milliseconds unused) {
-  if (line_ && (unused >= limits_.unused || !TakeWhatCame())) Fail(ConnectionState::Unused);
+  if (line_ && (unused >= limits_.unused || !ReceiveUnsolicited())) Fail(ConnectionState::Unused);
   return line_ != nullptr;
 }
 
@@ -82,7 +82,7 @@ QDeadlineTimer WireChannel::Within(std::chrono::milliseconds time) const {
 }
 
 bool WireChannel::Connect() {
-  if (line_ && TakeWhatCame()) return true;
+  if (line_ && ReceiveUnsolicited()) return true;
   line_.reset();  // only one program can open a serial port
   sent_.clear();
   decoder_ = {};
@@ -101,7 +101,7 @@ bool WireChannel::Connect() {
   return medium_ == Medium::Reliable || (Write(deadline) && AwaitWelcome());
 }
 
-bool WireChannel::TakeWhatCame() {
+bool WireChannel::ReceiveUnsolicited() {
   for (int i = 0; i < kIdlePieces; ++i) {
     const Arrival arrival = Receive(QDeadlineTimer(0));
     if (arrival != Arrival::Bytes) return arrival == Arrival::Late;
@@ -118,7 +118,7 @@ bool WireChannel::AwaitWelcome() {
 std::optional<Wire::Reply> WireChannel::Ask(const PjtCommand& command) {
   auto own = std::ranges::find(sent_, command, &Sent::command);
   if (own == sent_.end()) {
-    const auto hasRoom = [this] { return Room() > 0; };
+    const auto hasRoom = [this] { return FreeSlots() > 0; };
     if (!Await(hasRoom, QDeadlineTimer(limits_.answer))) return std::nullopt;
     const auto announced = std::ranges::find(announced_, command);
     if (announced == announced_.end()) {
@@ -129,7 +129,7 @@ std::optional<Wire::Reply> WireChannel::Ask(const PjtCommand& command) {
     } else {
       sent_.clear();
       const std::size_t count =
-          std::min(Room(), static_cast<std::size_t>(announced_.end() - announced));
+          std::min(FreeSlots(), static_cast<std::size_t>(announced_.end() - announced));
       Send({&*announced, count});
       announced_.erase(announced_.begin(), announced + static_cast<std::ptrdiff_t>(count));
     }
@@ -142,7 +142,7 @@ std::optional<Wire::Reply> WireChannel::Ask(const PjtCommand& command) {
   if (!Await(answered, Within(limits_.answer))) return std::nullopt;
   const auto reply = sent_.front().reply;
   sent_.pop_front();
-  if (IsForgotten(reply)) Fail(ConnectionState::Lost);
+  if (HasForgottenHello(reply)) Fail(ConnectionState::Lost);
   return reply;
 }
 
@@ -153,7 +153,7 @@ void WireChannel::Send(std::span<const PjtCommand> commands) {
   }
 }
 
-std::size_t WireChannel::Room() const {
+std::size_t WireChannel::FreeSlots() const {
   const auto unanswered = static_cast<std::uint16_t>(sequence_ - answered_);
   return kMostUnanswered - std::min<std::size_t>(unanswered, kMostUnanswered);
 }
@@ -178,7 +178,7 @@ bool WireChannel::Await(const auto& arrived, const QDeadlineTimer& deadline) {
         return Fail(ConnectionState::NoAnswer);
       case Arrival::Broken:
         return Fail(ConnectionState::Lost);
-      case Arrival::Strange:
+      case Arrival::Invalid:
         return Fail(ConnectionState::NotUnderstood);
     }
   }
@@ -196,7 +196,7 @@ WireChannel::Arrival WireChannel::Receive(const QDeadlineTimer& deadline) {
   decoder_.Add({piece.data(), static_cast<std::size_t>(size)});
   while (const auto frame = decoder_.Next()) Take(*frame);
   const bool strange = medium_ == Medium::Reliable && decoder_.Skipped() > 0;
-  return strange ? Arrival::Strange : Arrival::Bytes;
+  return strange ? Arrival::Invalid : Arrival::Bytes;
 }
 
 // Drops frames that belong to no request, and second replies.

@@ -30,7 +30,8 @@ class PROJECTOR_COMMON_EXPORT WireChannel : public ProjectorChannel {
   struct Limits {
     std::chrono::milliseconds connect{1500};  ///< Until the projector's welcome.
     std::chrono::milliseconds answer{1500};
-    std::chrono::milliseconds unused{20'000};  ///< Time without use after which the connection is closed.
+    std::chrono::milliseconds unused{
+        20'000};  ///< Time without use after which the connection is closed.
   };
 
   ~WireChannel() override;
@@ -53,7 +54,7 @@ class PROJECTOR_COMMON_EXPORT WireChannel : public ProjectorChannel {
  protected:
   enum class Medium {
     Reliable,  ///< Bytes that are not part of a frame mean that no projector is at the other end.
-    Noisy,  ///< Such bytes are skipped. Requests are sent one at a time.
+    Noisy,     ///< Such bytes are skipped. Requests are sent one at a time.
   };
 
   WireChannel(Medium medium, const Limits& limits);
@@ -71,20 +72,20 @@ class PROJECTOR_COMMON_EXPORT WireChannel : public ProjectorChannel {
     std::uint16_t sequence;
     std::optional<Wire::Reply> reply;
   };
-  enum class Arrival { Bytes, Late, Broken, Strange };
+  enum class Arrival { Bytes, Late, Broken, Invalid };
 
   /// A deadline after `time`, but not after that of the command.
   QDeadlineTimer Within(std::chrono::milliseconds time) const;
   bool Connect();
   /// Reads what arrived without a request: late replies, or the end of the connection. Returns
   /// whether the connection still exists.
-  bool TakeWhatCame();
+  bool ReceiveUnsolicited();
   bool AwaitWelcome();
   std::optional<Wire::Reply> Ask(const PjtCommand& command);
   void Send(std::span<const PjtCommand> commands);
   /// How many more requests may be sent without waiting for a reply. Replies come in the order of
   /// the requests.
-  std::size_t Room() const;
+  std::size_t FreeSlots() const;
   bool Write(const QDeadlineTimer& deadline);
   /// Receives until `arrived` returns true. Otherwise closes the connection and returns false.
   bool Await(const auto& arrived, const QDeadlineTimer& deadline);
@@ -97,15 +98,16 @@ class PROJECTOR_COMMON_EXPORT WireChannel : public ProjectorChannel {
   std::atomic<ConnectionState> state_ = ConnectionState::Unused;
   std::unique_ptr<QIODevice> line_;
   Wire::Decoder decoder_;
-  std::uint16_t sequence_;  ///< Of the last frame sent.
+  std::uint16_t sequence_;   ///< Of the last frame sent.
   std::uint16_t hello_ = 0;  ///< Sequence number of our hello.
-  std::uint16_t answered_ = 0;  ///< Sequence number of the last answered request, or of the hello before that.
+  std::uint16_t answered_ =
+      0;  ///< Sequence number of the last answered request, or of the hello before that.
   std::optional<Wire::Welcome> welcome_;
   std::chrono::steady_clock::time_point welcomeBy_{};
   std::optional<std::chrono::milliseconds> longest_;  ///< Time-out of a command.
   std::chrono::steady_clock::time_point giveUpAt_ = std::chrono::steady_clock::time_point::max();
-  bool isSent_ = false;  ///< Whether the present command may have been sent.
-  std::string unsent_;  ///< Sent with the next write.
+  bool isSent_ = false;                ///< Whether the present command may have been sent.
+  std::string unsent_;                 ///< Sent with the next write.
   std::vector<PjtCommand> announced_;  ///< Not sent yet.
   std::deque<Sent> sent_;
   std::chrono::steady_clock::time_point lastAsked_{};

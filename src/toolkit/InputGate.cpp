@@ -9,8 +9,8 @@
 
 namespace {
 
-// Only events that begin an action. Events that end one, such as a release, must reach the control
-// where it began.
+// Instance events that begin an action. Events that end one, such as a release, must reach the
+// control where it began.
 bool IsInput(const QEvent& event) {
   switch (event.type()) {
     case QEvent::MouseButtonPress:
@@ -47,21 +47,21 @@ const TemplateDialog* DialogOf(const QWidget& widget) {
 
 }  // namespace
 
-InputGate& InputGate::Only() {
+InputGate& InputGate::Instance() {
   static InputGate gate;
   return gate;
 }
 
 void InputGate::Close(const TemplateDialog& dialog) {
-  auto& closed = Only().closed_;
+  auto& closed = Instance().closed_;
   closed.push_back(&dialog);
-  if (closed.size() == 1 && qApp != nullptr) qApp->installEventFilter(&Only());
+  if (closed.size() == 1 && qApp != nullptr) qApp->installEventFilter(&Instance());
 }
 
 void InputGate::Open(const TemplateDialog& dialog) {
-  auto& closed = Only().closed_;
+  auto& closed = Instance().closed_;
   std::erase(closed, &dialog);
-  if (closed.empty() && qApp != nullptr) qApp->removeEventFilter(&Only());
+  if (closed.empty() && qApp != nullptr) qApp->removeEventFilter(&Instance());
 }
 
 bool InputGate::eventFilter(QObject* watched, QEvent* event) {

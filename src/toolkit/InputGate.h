@@ -18,7 +18,7 @@ class InputGate final : public QObject {
 
  private:
   InputGate() = default;
-  static InputGate& Only();
+  static InputGate& Instance();
 
   std::vector<const TemplateDialog*> closed_;
 };

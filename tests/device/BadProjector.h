@@ -120,10 +120,10 @@ class SteppedSession {
     Run();
     return session.Reply();
   }
-  PjLinkTold Ask(const PjLinkQuestion& question) {
+  PjLinkResult Ask(const PjLinkQuestion& question) {
     session.Begin(question, now);
     Run();
-    return session.Told();
+    return session.Result();
   }
 
   BadProjector projector;

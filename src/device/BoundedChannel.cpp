@@ -56,7 +56,7 @@ PjtReply Ask(ProjectorChannel& channel, std::optional<std::chrono::milliseconds>
 bool SpendIdleTime(ProjectorChannel& channel) {
   try {
     return channel.UseIdleTime();
-  } catch (...) {  // likewise
+  } catch (...) {
     DropException();
     return false;
   }
@@ -66,7 +66,7 @@ bool Tend(ProjectorChannel& channel, Clock::time_point lastUse) {
   try {
     return channel.TendConnection(
         std::chrono::floor<std::chrono::milliseconds>(Clock::now() - lastUse));
-  } catch (...) {  // likewise
+  } catch (...) {
     DropException();
     return false;
   }

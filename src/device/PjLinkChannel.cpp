@@ -39,8 +39,8 @@ PjtReply PjLinkChannel::Execute(const PjtCommand& command) {
   session_.GiveUpAfter(limits_.answer);
   const PjtReply reply = session_.Reply();
   const auto* const mapping = PjLinkMapping::Find(command);
-  const bool tellsInput = IsRead(command.operation) && mapping && mapping->command == "INPT";
-  if (tellsInput && reply.answered && IsSuccess(command.operation, reply.result)) {
+  const bool readsInput = IsRead(command.operation) && mapping && mapping->command == "INPT";
+  if (readsInput && reply.answered && IsSuccess(command.operation, reply.result)) {
     inputs_.SetPresent(reply.value);
   }
   return reply;

@@ -110,9 +110,9 @@ bool CAdvanceDlg::OnInitDialog() {
   projector_.DialogType = model_.DialogType;
   projector_.CopyAspectData(model_.AspectList.count, model_.AspectList.values.data());
   projector_.CopyGammaData(model_.GammaList.count, model_.GammaList.values.data());
-  if (const auto told = NewReportedInputs()) {
-    reportedInputs_ = told;
-    model_.MySourceList = *told;
+  if (const auto reported = NewReportedInputs()) {
+    reportedInputs_ = reported;
+    model_.MySourceList = *reported;
   }
   CreatePages();
   InsertTabs();
@@ -229,15 +229,15 @@ void CAdvanceDlg::ReplaceSources(const SourceList& sources) {
 std::optional<SourceList> CAdvanceDlg::NewReportedInputs() const {
   const SourceList& known = model_.MySourceList;
   if (known.Size() > 0 && known != reportedInputs_) return std::nullopt;
-  auto told = projector_.Inputs();
-  return told == known ? std::nullopt : told;
+  auto reported = projector_.Inputs();
+  return reported == known ? std::nullopt : reported;
 }
 
 void CAdvanceDlg::UseReportedInputs() {
   if (IsBusy() || QApplication::activePopupWidget() != nullptr) return;
-  if (const auto told = NewReportedInputs()) {
-    reportedInputs_ = told;
-    ReplaceSources(*told);
+  if (const auto reported = NewReportedInputs()) {
+    reportedInputs_ = reported;
+    ReplaceSources(*reported);
   }
 }
 

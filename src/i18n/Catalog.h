@@ -59,8 +59,9 @@ PROJECTOR_SETTINGS_EXPORT void GetCatalogTextV(int category, int number, int buf
 /// buffer, nothing happens. `inserts` (texts and integers) fill the message's %1, %2 ...
 ///
 /// The text is that of the system language, else the one of language 1033; with a file "GETENG" or
-/// "GETSCH" in the current directory only the latter. The files and the environment are looked at
-/// anew in each call. Where no text is found or can be formatted the text is "No Message Catalog".
+/// "GETSCH" in the current directory only the latter. Each call looks at the files and the
+/// environment again. If there is no text, or it cannot be formatted, the result is "No Message
+/// Catalog".
 PROJECTOR_SETTINGS_EXPORT void GetCatalogText(int category, int number, int bufferSize,
                                               char* buffer);
 template <class... Inserts>

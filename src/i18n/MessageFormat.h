@@ -41,8 +41,8 @@ inline constexpr std::size_t kMaxMessageBytes = std::size_t{64} * 1024;
 /// %1 to %99 is an insert, with a printf conversion if "!...!" follows: flags "-+ #0", width,
 /// precision ("*" takes the insert's own number, the next "*" and the value the numbers after it),
 /// a size prefix and one of d i u o x X c C s S p. The default conversion is "s". "%0" ends the
-/// message; %n, %r, %t, %b are line break (CR LF), CR, tab and blank; % before anything else stands
-/// for that character. Every kind of line break in the text becomes CR LF.
+/// message; %n, %r, %t, %b are line break (CR LF), CR, tab and blank; % before any other character
+/// is that character. Every kind of line break in the text becomes CR LF.
 ///
 /// Inserts are converted if necessary: an integer becomes decimal text, and a text used as number
 /// or width must be a decimal integer. Numbers are cut to the size that the conversion specifies,

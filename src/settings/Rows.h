@@ -22,7 +22,7 @@ inline namespace AdvancedControl {
 // thread.
 //
 //   kind      read  changed          values                     may be sent again later
-//   ListRow   yes   SendRow          the entries'               yes, where it is read and sent
+//   ListRow   yes   SendRow          the entries'               yes, if it is read and sent
 //   ValueRow  yes   SendRow, Step    SliderRange, with a bias   yes
 //   CheckRow  yes   SendRow          0 and 1                    yes
 //   StateRow  yes   SendRow, if it   the entries' texts         no: what the projector does now

@@ -48,7 +48,7 @@ class PROJECTOR_COMMON_EXPORT PjLinkResponder {
   PjLinkResponder(std::shared_ptr<ProjectorChannel> projector, ServedProjector served);
   ~PjLinkResponder();
 
-  /// Executes the request `text`, given without its end of line, and returns the reply likewise;
+  /// Executes the request `text`, without its end of line, and returns the reply, also without it;
   /// nothing if `text` is not a request.
   std::optional<std::string> Answer(std::string_view text);
 

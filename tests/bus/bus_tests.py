@@ -142,7 +142,7 @@ ACTION = "3"
 
 class BusTest(unittest.TestCase):
     def check_page(self, page, settings):
-        """Every setting is told once, and nothing but settings, what operates them, and captions."""
+        """Every setting is presented once, and nothing else but its controls and captions."""
         nodes = [node for node in children(page) if has(node, Atspi.StateType.SHOWING)]
         for tab, key, kind, caption, value, description in settings:
             names = [caption, caption + " V", caption + " H", "IR Remote " + caption]
@@ -151,7 +151,7 @@ class BusTest(unittest.TestCase):
                     self.assertIn(caption + " Execute", [node.get_name() for node in nodes])
                     continue
                 row = next(node for node in nodes if node.get_role_name() in ROLES[int(kind)]
-                           and self.told(node) in [(name, value, description) for name in names])
+                           and self.presented(node) in [(name, value, description) for name in names])
                 nodes.remove(row)
                 if row.get_role_name() == "combo box":
                     self.assertEqual(labels(row), [row.get_name()])
@@ -169,7 +169,7 @@ class BusTest(unittest.TestCase):
                     self.assertEqual(node.get_description(), "Range: %d to %d" % ends)
                     self.assertEqual(labels(node), [node.get_name()])
 
-    def told(self, node):
+    def presented(self, node):
         role, name, description = node.get_role_name(), node.get_name(), node.get_description()
         if role == "label":  # of a state: its text is its name, described by the caption
             return description, name, ""

@@ -1,4 +1,4 @@
 #pragma once
 
-/// How often the library has called one of the host's functions in place of its own.
+/// How often the library has called one of the host's functions instead of its own.
 int NamesakeCalls();

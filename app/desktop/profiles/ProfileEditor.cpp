@@ -298,6 +298,6 @@ void ProfileEditor::ShowError(const QString& error, QWidget* row) {
     row->setFocus();
     rows_->ensureWidgetVisible(row);
   }
-  QAccessibleEvent told(error_, QAccessible::Alert);
-  QAccessible::updateAccessibility(&told);
+  QAccessibleEvent event(error_, QAccessible::Alert);
+  QAccessible::updateAccessibility(&event);
 }

@@ -14,10 +14,10 @@ ProjectorSession::ProjectorSession(ProjectorProfile profile, LoggingChannel::Obs
       lastAnswer_(std::make_shared<std::optional<Clock::time_point>>()),
       channel_(std::make_shared<LoggingChannel>(
           std::make_shared<BoundedChannel>(faultChannel_, Bounds()),
-          [lastAnswer = lastAnswer_, tell = std::move(observer)](
+          [lastAnswer = lastAnswer_, observe = std::move(observer)](
               const PjtCommand& command, const PjtReply& reply, std::chrono::microseconds elapsed) {
             if (reply.answered) *lastAnswer = Clock::now();
-            if (tell) tell(command, reply, elapsed);
+            if (observe) observe(command, reply, elapsed);
           })) {}
 
 std::optional<std::chrono::seconds> ProjectorSession::SinceAnswer() const {

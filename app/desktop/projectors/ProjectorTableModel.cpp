@@ -73,9 +73,9 @@ QString ConnectionStatusText(ConnectionState state,
   QString text = ProjectorTableModel::tr(ConnectionName(state));
   const bool isWell = state == ConnectionState::Connected || state == ConnectionState::Unused;
   if (!isWell || !sinceAnswer || *sinceAnswer < kLongAgo) return text;
-  const auto answered = [&]<class Unit>(const QString& told, Unit step) {
+  const auto answered = [&]<class Unit>(const QString& unitText, Unit step) {
     const auto count = floor<Unit>(*sinceAnswer).count() / step.count() * step.count();
-    return text + QStringLiteral(" · ") + told.arg(count);
+    return text + QStringLiteral(" · ") + unitText.arg(count);
   };
   if (*sinceAnswer < std::chrono::minutes(1)) {
     return answered(ProjectorTableModel::tr("answered %1 s ago"), kLongAgo);

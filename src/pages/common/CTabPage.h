@@ -3,7 +3,7 @@
 #include "AdvancedControlExport.h"
 #include "pages/common/RowDialog.h"
 
-/// A page behind a tab. User-interface thread only.
+/// The page of a tab. User-interface thread only.
 class ADVANCED_CONTROL_EXPORT CTabPage : public RowDialog {
   Q_OBJECT
 

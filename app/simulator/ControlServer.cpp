@@ -53,7 +53,7 @@ ControlServer::ControlServer(ServedProjectors& projectors)
       QObject::connect(socket, &QTcpSocket::readyRead, socket, [this, socket] {
         while (socket->canReadLine()) {
           const QString line = QString::fromUtf8(socket->readLine()).trimmed();
-          socket->write(Obey(line).toUtf8() + '\n');
+          socket->write(Execute(line).toUtf8() + '\n');
         }
         if (socket->bytesAvailable() >= kLongestLine) socket->abort();  // too long for a command
       });
@@ -65,7 +65,7 @@ std::uint16_t ControlServer::Listen(std::uint16_t port) {
   return server_.listen(QHostAddress::LocalHost, port) ? server_.serverPort() : std::uint16_t{0};
 }
 
-QString ControlServer::Obey(const QString& line) {
+QString ControlServer::Execute(const QString& line) {
   const QString first = line.section(QLatin1Char(' '), 0, 0);
   const bool all = first == QLatin1String("*");
   const std::size_t number = first.toULongLong();

@@ -25,7 +25,7 @@ class ControlServer final {
   std::uint16_t Listen(std::uint16_t port);
 
  private:
-  QString Obey(const QString& line);
+  QString Execute(const QString& line);
 
   ServedProjectors& projectors_;
   TcpListener server_;

@@ -134,7 +134,7 @@ bool CPjtInterface::IsAbandoned() const { return traffic_.now->abandoned > 0; }
 bool CPjtInterface::IsWaiting() const { return traffic_.now->waiting > 0; }
 CPjtInterface::Tally CPjtInterface::Sent() const { return traffic_.now->sent; }
 
-void CPjtInterface::TryAfresh() {
+void CPjtInterface::AllowRetry() {
   if (channel_) Guarded([this] { channel_->Abandon(); });
 }
 

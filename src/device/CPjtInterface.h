@@ -158,7 +158,7 @@ class PROJECTOR_COMMON_EXPORT CPjtInterface {
   bool IsWaiting() const;
 
   /// Makes the channel try the next command even if the projector was silent.
-  void TryAfresh();
+  void AllowRetry();
 
   /// The results of the commands so far. The counters only grow.
   struct Tally {

@@ -131,18 +131,18 @@ PjLinkResult PjLinkChannel::Ask(const PjLinkQuestion& question) {
 }
 
 std::pair<std::vector<PjLinkInput>, bool> PjLinkChannel::AskForInputs() {
-  bool isWhole = true;
+  bool isComplete = true;
   bool isLost = false;
   while (const auto question = inputs_.Next()) {
     const PjLinkResult result = Ask(*question);
     if (inputs_.Take(result)) continue;
-    isWhole = false;
+    isComplete = false;
     isLost = isLost || result.kind == PjLinkResult::Kind::Lost;
     if (!inputs_.IsListKnown()) break;
     inputs_.SkipName();
   }
   const auto known = inputs_.Known();
-  if (!isWhole) inputs_.Forget();
+  if (!isComplete) inputs_.Forget();
   return {known, !isLost};
 }
 
@@ -194,9 +194,9 @@ bool PjLinkChannel::TendConnection(std::chrono::milliseconds unused) {
 }
 
 PjLinkFacts PjLinkChannel::Facts() const {
-  const bool areWhole = inputs_.IsListKnown() && !inputs_.Next();
+  const bool areComplete = inputs_.IsListKnown() && !inputs_.Next();
   return {.protocolClass = session_.ProtocolClass(),
-          .inputs = areWhole ? inputs_.Known() : std::vector<PjLinkInput>()};
+          .inputs = areComplete ? inputs_.Known() : std::vector<PjLinkInput>()};
 }
 
 void PjLinkChannel::Remember(const PjLinkFacts& facts) {

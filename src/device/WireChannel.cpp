@@ -19,7 +19,7 @@ bool HasForgottenHello(const std::optional<Wire::Reply>& reply) {
   return reply && reply->status == Wire::Status::NoHello;
 }
 
-int Rest(const QDeadlineTimer& deadline) { return static_cast<int>(deadline.remainingTime()); }
+int Remaining(const QDeadlineTimer& deadline) { return static_cast<int>(deadline.remainingTime()); }
 
 }  // namespace
 
@@ -163,7 +163,7 @@ bool WireChannel::Write(const QDeadlineTimer& deadline) {
   const auto size = static_cast<qint64>(bytes.size());
   if (line_->write(bytes.data(), size) != size) return Fail(ConnectionState::Lost);
   while (line_->bytesToWrite() > 0) {
-    if (line_->waitForBytesWritten(Rest(deadline))) continue;
+    if (line_->waitForBytesWritten(Remaining(deadline))) continue;
     return Fail(IsAlive(*line_) ? ConnectionState::NoAnswer : ConnectionState::Lost);
   }
   return true;
@@ -186,7 +186,7 @@ bool WireChannel::Await(const auto& arrived, const QDeadlineTimer& deadline) {
 }
 
 WireChannel::Arrival WireChannel::Receive(const QDeadlineTimer& deadline) {
-  if (line_->bytesAvailable() == 0 && !line_->waitForReadyRead(Rest(deadline)) &&
+  if (line_->bytesAvailable() == 0 && !line_->waitForReadyRead(Remaining(deadline)) &&
       line_->bytesAvailable() == 0) {
     return IsAlive(*line_) ? Arrival::Late : Arrival::Broken;
   }

@@ -31,7 +31,7 @@ void FaultyLine::Send(std::string_view bytes) {
     case LineFault::Kind::Trickle:
       trickling_ += bytes;
       // Otherwise a timer is already sending the rest.
-      if (trickling_.size() == bytes.size()) TrickleOn();
+      if (trickling_.size() == bytes.size()) SendNextByte();
       break;
   }
 }
@@ -49,11 +49,11 @@ void FaultyLine::Write(std::string_view bytes) {
   if (line_.isWritable()) line_.write(bytes.data(), static_cast<qint64>(bytes.size()));
 }
 
-void FaultyLine::TrickleOn() {
+void FaultyLine::SendNextByte() {
   Write(trickling_.substr(0, 1));
   trickling_.erase(0, 1);
   if (trickling_.empty()) return CloseIfDone();
-  QTimer::singleShot(1, &line_, [this] { TrickleOn(); });
+  QTimer::singleShot(1, &line_, [this] { SendNextByte(); });
 }
 
 void FaultyLine::CloseIfDone() {

@@ -40,7 +40,7 @@ class FaultyLine {
 
  private:
   void Write(std::string_view bytes);
-  void TrickleOn();
+  void SendNextByte();
   void CloseIfDone();
 
   QIODevice& line_;

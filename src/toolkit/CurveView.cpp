@@ -12,7 +12,7 @@ constexpr double kWidth = 2;
 constexpr double kMark = 2.5;  // radius, without the pen
 constexpr double kEdges = 4;  // extra width of a line for each line that covers it
 
-bool LieTogether(const QPolygonF& a, const QPolygonF& b) {
+bool Coincide(const QPolygonF& a, const QPolygonF& b) {
   return std::ranges::equal(
       a, b, [](const QPointF& p, const QPointF& q) { return (p - q).manhattanLength() < kEdges; });
 }
@@ -64,7 +64,7 @@ void CurveView::paintEvent(QPaintEvent*) {
     const QColor color = ColorOf(*line);
     const QPolygonF accepted = place(line->accepted);
     const auto hiding = std::count_if(line + 1, lines_.end(), [&](const Line& later) {
-      return LieTogether(accepted, place(later.accepted));
+      return Coincide(accepted, place(later.accepted));
     });
     const double width = kWidth + kEdges * static_cast<double>(hiding);
     if (line->tried != line->accepted) {

@@ -181,7 +181,7 @@ class Walk {
     QTimer::singleShot(500ms, qApp, [this] {
       if (Dialogs().empty()) Open();
       for (CAdvanceDlg* dialog : Dialogs()) {
-        dialog->Projector().TryAfresh();
+        dialog->Projector().AllowRetry();
         dialog->DispTabScreen();
         ExpectShowsProjector(*dialog);
         ++checked;

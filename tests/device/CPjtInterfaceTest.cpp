@@ -95,7 +95,7 @@ TEST(CPjtInterfaceTest, EveryFormBuildsItsCommandAndInterpretsItsReply) {
     BoundedChannel bounded(channel);
     EXPECT_EQ(Replies(bounded, {form.command}), "?");
     p.Announce({});
-    p.TryAfresh();
+    p.AllowRetry();
     EXPECT_EQ(p.Connection(), ConnectionState::None);
     EXPECT_EQ(bounded.Connection(), ConnectionState::None);
     EXPECT_FALSE(p.Inputs() || bounded.Inputs());

@@ -68,6 +68,6 @@ std::unique_ptr<CAdvanceDlg> ProjectorSession::MakeDialog() const {
   dialog->CopyData(&profile_.Model, 0);
   dialog->Projector().SetChannel(channel_);
   // Opening a dialog always asks the projector, even if it was silent just before.
-  dialog->Projector().TryAfresh();
+  dialog->Projector().AllowRetry();
   return dialog;
 }

@@ -21,7 +21,7 @@ StatusLine& Waiting::MakeLine(QWidget* parent) {
   line_ = new StatusLine(parent);
   connect(line_, &StatusLine::Retry, this, [this] {
     line_->ShowProgress({});
-    dialog_.projector().TryAfresh();
+    dialog_.projector().AllowRetry();
     dialog_.retry();
   });
   return *line_;

@@ -52,9 +52,9 @@ class PROJECTOR_COMMON_EXPORT CPjtInterface {
   ///
   /// Unless the host has set a channel, the object connects by itself with its first command:
   /// - Kind 1 is a network connection to the name or address `text1`, port `parameter`. On port
-  /// 4352, or if `parameter` is 0, it speaks PJLink with `text2` as the password; on any other port
-  /// the protocol of docs/wire.md. A prefix "pjlink://" or "tcp://" of the address overrides this
-  /// choice.
+  ///   4352, or if `parameter` is 0, it speaks PJLink with `text2` as the password; on any other
+  ///   port the protocol of docs/wire.md. A prefix "pjlink://" or "tcp://" of the address overrides
+  ///   this choice.
   /// - Any other kind is a serial connection with `parameter` bits per second, 0 for 19200, on the
   ///   port `number`, which counts from 0 ("/dev/ttyS0"), or on the device whose path is `text1`.
   ///

@@ -36,12 +36,12 @@ struct PjLinkResult {
 /// the work is finished. Then the result is available. Use from one thread at a time.
 ///
 /// - Asks for the class with the first work that needs it. A class from an earlier session is asked
-/// for again if the projector does not know a command of class 2.
+///   for again if the projector does not know a command of class 2.
 /// - If the projector cannot execute a command now (`ERR3`), the command is repeated at growing
-/// intervals until the time for an answer is over, and then refused as busy. A read is refused at
-/// once if the projector is not on, and a change if it is in standby.
+///   intervals until the time for an answer is over, and then refused as busy. A read is refused at
+///   once if the projector is not on, and a change if it is in standby.
 /// - After a change is accepted, its state is requested at growing intervals until it is as wanted.
-/// If that takes longer than the time for an answer, the change is pending.
+///   If that takes longer than the time for an answer, the change is pending.
 /// - A read within a second after a change uses the state read after the change.
 /// - A question is repeated once if its answer got lost.
 ///

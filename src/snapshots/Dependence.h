@@ -21,7 +21,7 @@ bool IsSame(const SavedSetting& one, const SavedSetting& other);
 /// Settings that were sent, in any order. The model has all of them.
 using SentSettings = std::vector<const RestoredSetting*>;
 
-/// Whether a setting that was sent may still change this one later, whatever is read now.
+/// Whether a setting that was sent may still change this one after it is read.
 bool MayStillChange(const RestoredSetting& restored, const SentSettings& sent);
 /// Whether a setting that was sent may have changed this one since it was last read, or may still
 /// do so.

@@ -140,7 +140,7 @@ void SettingsActions::OpenRestoreDialog(RestoreDialog::Purpose purpose,
   auto* dialog = new RestoreDialog(purpose, std::move(contents.snapshot), path, sessions,
                                    whenQuiet_, &window_);
   dialog->setAttribute(Qt::WA_DeleteOnClose);
-  // Nobody must use the projectors or their dialogs meanwhile.
+  // Modal, so that nobody uses the projectors or their dialogs meanwhile.
   dialog->setWindowModality(Qt::ApplicationModal);
   dialog->show();
 }

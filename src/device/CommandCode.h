@@ -2,6 +2,10 @@
 
 #include <cstdint>
 
+#include "Namespace.h"
+
+namespace AdvancedControl {
+
 /// Codes of the generic operations `Get`, `Set`, `Inc` and `Dec`.
 namespace CommandCode {
 
@@ -29,9 +33,9 @@ inline constexpr std::uint16_t Color = 0x2202;
 inline constexpr std::uint16_t Tint = 0x2203;
 inline constexpr std::uint16_t CustomGamma = 0x30A0;
 inline constexpr std::uint16_t Gamma = 0x30A1;             ///< A value of the model's list.
-inline constexpr std::uint16_t UserGammaPoint1 = 0x3090;  ///< Points 1..8 have consecutive codes.
+inline constexpr std::uint16_t UserGammaPoint1 = 0x3090;   ///< Points 1..8 have consecutive codes.
 inline constexpr std::uint16_t ColorTemp = 0x30B0;         ///< A value of the model's list.
-inline constexpr std::uint16_t ColorTempGainR = 0x30B1;  ///< R, G and B have consecutive codes.
+inline constexpr std::uint16_t ColorTempGainR = 0x30B1;    ///< R, G and B have consecutive codes.
 inline constexpr std::uint16_t ColorTempOffsetR = 0x30B5;  ///< R, G and B have consecutive codes.
 inline constexpr std::uint16_t TestPattern = 0x3080;
 inline constexpr std::uint16_t ActiveIris = 0x3304;
@@ -122,3 +126,5 @@ inline constexpr std::uint16_t IrTop = 0x2602;
 inline constexpr std::uint16_t OneTouch = 0x2608;
 
 }  // namespace CommandCode
+
+}  // namespace AdvancedControl

@@ -2,6 +2,8 @@
 
 #include <type_traits>
 
+namespace AdvancedControl {
+
 namespace {
 
 /// The record with four-byte strings, as in the hosts' format.
@@ -106,3 +108,5 @@ std::string DottedAddress(std::uint32_t address) {
   }
   return text;
 }
+
+}  // namespace AdvancedControl

@@ -2,6 +2,8 @@
 #include "resources/AdvancedControlResources.h"
 #include "toolkit/ResourceModule.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 /// Sets up the library when it is loaded, and cleans up when it is unloaded. Without a catalog the
@@ -23,3 +25,5 @@ class LibraryAttachment {
 const LibraryAttachment attachment;
 
 }  // namespace
+
+}  // namespace AdvancedControl

@@ -7,10 +7,11 @@
 #include <string>
 #include <vector>
 
+#include "Namespace.h"
 #include "ProjectorSettingsExport.h"
 #include "i18n/MessageFormat.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 // The process-wide message catalog. User-interface thread only; the library loads and unloads it
 // while it is itself loaded and unloaded.

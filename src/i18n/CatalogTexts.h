@@ -5,10 +5,11 @@
 #include <string>
 #include <vector>
 
+#include "Namespace.h"
 #include "i18n/MessageCatalog.h"
 #include "i18n/MessageFormat.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// The texts of all catalog modules in all languages. Unlike the process-wide catalog, it has no
 /// shared state and may be read from several threads at once.

@@ -5,9 +5,10 @@
 #include <string>
 #include <utility>
 
+#include "Namespace.h"
 #include "i18n/MessageTable.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// A loaded catalog module. It no longer needs the file. May be read from several threads at once.
 class MessageCatalog {

@@ -9,7 +9,9 @@
 #include <string_view>
 #include <variant>
 
-inline namespace AdvancedControl {
+#include "Namespace.h"
+
+namespace AdvancedControl {
 
 /// One insert of a message: a text (UTF-8) or an integer. It refers to the caller's text, so create
 /// it in the call and do not keep it.

@@ -8,7 +8,9 @@
 #include <string_view>
 #include <vector>
 
-inline namespace AdvancedControl {
+#include "Namespace.h"
+
+namespace AdvancedControl {
 
 /// A message of a table, which owns the text.
 struct CatalogMessage {

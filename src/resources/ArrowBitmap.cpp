@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <QPalette>
 
+namespace AdvancedControl {
+
 namespace {
 
 // Clockwise rotation, in degrees, that turns the upward arrow into this one.
@@ -63,3 +65,5 @@ QIcon ArrowBitmap(int number) {
   const auto turn = Turn(number);
   return turn ? QIcon(new ArrowEngine(*turn)) : QIcon();
 }
+
+}  // namespace AdvancedControl

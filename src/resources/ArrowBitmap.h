@@ -2,6 +2,10 @@
 
 #include <QIcon>
 
+#include "Namespace.h"
+
+namespace AdvancedControl {
+
 /// Numbers of the arrow bitmaps.
 namespace BitmapId {
 inline constexpr int ArrowRight = 22154;
@@ -13,3 +17,5 @@ inline constexpr int ArrowUp = 22157;
 /// The arrow with this number, drawn in the size and colour of its button; an empty icon for any
 /// other number. User-interface thread only.
 QIcon ArrowBitmap(int number);
+
+}  // namespace AdvancedControl

@@ -8,7 +8,9 @@
 #include <span>
 #include <string_view>
 
-inline namespace AdvancedControl {
+#include "Namespace.h"
+
+namespace AdvancedControl {
 
 /// A set of model codes.
 class ModelCodes {

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "Namespace.h"
 #include "settings/CatalogNumbers.h"
 #include "settings/Rows.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 // Parts of rows on several groups of pages.
 

@@ -2,10 +2,11 @@
 
 #include <string_view>
 
+#include "Namespace.h"
 #include "settings/LegacyRows.h"
 #include "settings/RowParts.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// Rows that several main, automatic, option and other pages have. They are read and sent in the
 /// same way on all pages, but each page has its own keys and controls.

@@ -5,7 +5,11 @@
 #include <string>
 #include <string_view>
 
+#include "Namespace.h"
+
 class QIODevice;
+
+namespace AdvancedControl {
 
 /// What goes wrong with the replies of a server, regardless of the projector's answers.
 struct LineFault {
@@ -49,3 +53,5 @@ class FaultyLine {
   std::size_t late_ = 0;  // bytes that are delayed
   bool closes_ = false;
 };
+
+}  // namespace AdvancedControl

@@ -8,9 +8,12 @@
 #include <string_view>
 #include <vector>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
 #include "device/ModelData.h"
 #include "device/ProjectorChannel.h"
+
+namespace AdvancedControl {
 
 /// An input as PJLink describes it.
 struct ServedInput {
@@ -82,3 +85,5 @@ class PROJECTOR_COMMON_EXPORT PjLinkResponder {
   const std::shared_ptr<ProjectorChannel> projector_;
   const ServedProjector served_;
 };
+
+}  // namespace AdvancedControl

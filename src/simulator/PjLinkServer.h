@@ -1,13 +1,15 @@
 #pragma once
 
 #include <chrono>
-#include <cstddef>
 #include <memory>
 #include <string>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
 #include "simulator/FaultyLine.h"
 #include "simulator/PjLinkResponder.h"
+
+namespace AdvancedControl {
 
 /// Serves a projector over PJLink on a TCP port.
 ///
@@ -17,8 +19,9 @@ class PROJECTOR_COMMON_EXPORT PjLinkServer {
  public:
   struct Options {
     std::string password{};  ///< Empty if none is required.
-    std::size_t connections = 4;  ///< Connections served at once; a few more wait.
-    std::chrono::milliseconds idle{30'000};  ///< Time without a request after which a connection is closed.
+    int connections = 8;     ///< Served at once; see `TcpListener` for further ones.
+    std::chrono::milliseconds idle{
+        30'000};  ///< Time without a request after which a connection is closed.
     ServedProjector served{};
   };
 
@@ -41,3 +44,5 @@ class PROJECTOR_COMMON_EXPORT PjLinkServer {
   struct State;
   std::unique_ptr<State> state_;
 };
+
+}  // namespace AdvancedControl

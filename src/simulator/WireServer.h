@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
 #include "device/ProjectorChannel.h"
 #include "simulator/FaultyLine.h"
@@ -11,14 +12,14 @@
 class QHostAddress;
 class QIODevice;
 
+namespace AdvancedControl {
+
 /// Serves one projector over the wire protocol (docs/wire.md): on a TCP port, and on open lines.
 /// Use it on one thread, with an event loop. The projector's channel is called on that thread and
 /// should answer at once.
 class PROJECTOR_COMMON_EXPORT WireServer {
  public:
-  /// Number of TCP connections served at once. Further ones wait until a connection ends. If a
-  /// connection that owes no reply has been idle for a moment, it is closed in favour of a waiting
-  /// one; of several, the one idle longest.
+  /// Of the port, at once; see `TcpListener` for further ones.
   static constexpr int kMaximumConnections = 8;
 
   explicit WireServer(std::shared_ptr<ProjectorChannel> projector);
@@ -40,3 +41,5 @@ class PROJECTOR_COMMON_EXPORT WireServer {
   struct Parts;
   std::unique_ptr<Parts> parts_;
 };
+
+}  // namespace AdvancedControl

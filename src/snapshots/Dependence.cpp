@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 
@@ -19,10 +19,11 @@ bool DependsOn(const RestoredSetting& other, const RestoredSetting& sent) {
     case Rank::Number:
       break;
   }
-  // Two settings with the same caption are the same value of the projector, unless they belong to
-  // different sources.
+  // Two settings of one caption may be the same thing on two pages, but not for different sources,
+  // nor if one is for the horizontal and one for the vertical direction.
   const bool isElsewhere = own && sent.saved.source && own != sent.saved.source;
-  return !isElsewhere && other.setting->caption == sent.setting->caption;
+  const bool isAcross = other.setting->key.ends_with("-h") != sent.setting->key.ends_with("-h");
+  return !isElsewhere && !isAcross && other.setting->caption == sent.setting->caption;
 }
 
 }  // namespace

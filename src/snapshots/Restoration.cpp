@@ -5,11 +5,12 @@
 
 #include "snapshots/Dependence.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 
-Outcome InitialOutcome(const ModelSettings& model, const ModelSetting* setting, const SavedSetting& saved) {
+Outcome InitialOutcome(const ModelSettings& model, const ModelSetting* setting,
+                       const SavedSetting& saved) {
   if (setting == nullptr) return Outcome::Unknown;
   if (!setting->Restorable()) return Outcome::NotSettable;
   const bool isAllowed =
@@ -25,7 +26,7 @@ bool IsNumber(const RestoredSetting& restored) {
 /// The outcome of a change if another value is read back, derived from the commands sent in
 /// between. Nothing if the projector received none.
 std::optional<Outcome> OutcomeIfDifferent(const CPjtInterface::Tally& before,
-                                 const CPjtInterface::Tally& after) {
+                                          const CPjtInterface::Tally& after) {
   if (after.uncertain > before.uncertain) return Outcome::Unconfirmed;
   if (after.pending > before.pending) return Outcome::Pending;
   if (after.busy > before.busy) return Outcome::Busy;
@@ -58,7 +59,8 @@ Restoration::Restoration(const Snapshot& snapshot, const ModelSettings& model,
   }
 }
 
-Restoration::Group Restoration::SettingsWhere(const std::function<bool(const RestoredSetting&)>& fit) {
+Restoration::Group Restoration::SettingsWhere(
+    const std::function<bool(const RestoredSetting&)>& fit) {
   Group group;
   for (RestoredSetting& restored : settings_) {
     if (fit(restored)) group.push_back(&restored);
@@ -192,11 +194,12 @@ Restoration::Group Restoration::SendTogether(const Group& group, const SendOptio
     }
     const SavedSetting& saved = restored->saved;
     const CPjtInterface::Tally before = connection_.Sent();
-    model_.Change(
-        connection_, *restored->setting, saved.value,
-        {options.texts.Value(*restored->setting, saved.value), saved.source, options.progress.goesOn});
+    const Sent result = model_.Change(connection_, *restored->setting, saved.value,
+                                      {options.texts.Value(*restored->setting, saved.value),
+                                       saved.source, options.progress.goesOn});
     options.progress.step();
-    const auto otherwise = OutcomeIfDifferent(before, connection_.Sent());
+    const auto otherwise =
+        result == Sent::Nothing ? std::nullopt : OutcomeIfDifferent(before, connection_.Sent());
     if (!otherwise) {
       restored->turn = 0;
       continue;
@@ -208,8 +211,8 @@ Restoration::Group Restoration::SendTogether(const Group& group, const SendOptio
   return sent;
 }
 
-// Whatever a setter returns, only the value read back counts. It is read even after an
-// interruption, so that the outcomes are correct.
+// Whatever a setter answers, the value read afterwards is what the projector has. Also after an
+// interruption, so that what is sent is true.
 void Restoration::Confirm(const Group& sent, const Progress& progress) {
   Announce(sent);
   for (RestoredSetting* restored : sent) {
@@ -253,14 +256,16 @@ void Restoration::RereadAffected(const Progress& progress) {
   }
 }
 
-bool Restoration::HasOpen() const { return std::ranges::any_of(SentInOrder(), &RestoredSetting::IsOpen); }
+bool Restoration::HasOpen() const {
+  return std::ranges::any_of(SentInOrder(), &RestoredSetting::IsOpen);
+}
 
 int Restoration::Count(Outcome outcome) const {
   return static_cast<int>(std::ranges::count(beforehand_, outcome, &RestoredSetting::outcome) +
                           std::ranges::count(settings_, outcome, &RestoredSetting::outcome));
 }
 
-/// Settings that were sent or are about to be sent, in this order.
+/// What was sent, or is just going to be, in that order.
 std::vector<const RestoredSetting*> Restoration::SentInOrder() const {
   std::vector<const RestoredSetting*> sent;
   for (const auto* list : {&beforehand_, &settings_}) {

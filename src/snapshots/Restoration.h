@@ -6,10 +6,11 @@
 #include <string>
 #include <vector>
 
+#include "Namespace.h"
 #include "ProjectorSettingsExport.h"
 #include "snapshots/Snapshot.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// The result for one saved setting.
 enum class Outcome : std::uint8_t {
@@ -35,7 +36,7 @@ struct RestoredSetting {
   std::optional<int> first{};   ///< The first value read, if any.
   std::optional<int> before{};  ///< The last value read before it was sent.
   std::optional<int> now{};     ///< The value read back; nothing while unconfirmed.
-  int turn = 0;  ///< Its position in the order of sending, from 1; 0 if it is not sent.
+  int turn = 0;   ///< Its position in the order of sending, from 1; 0 if it is not sent.
   int asOf = -1;  ///< How many settings had been sent when it was last read.
   /// The outcome if another value is read back after it was sent.
   Outcome otherwise = Outcome::Refused;

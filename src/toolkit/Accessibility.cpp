@@ -15,6 +15,8 @@
 #include "toolkit/InputDialog.h"
 #include "toolkit/WindowText.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 // Acts asynchronously, because a handler may wait for the projector or open a message box, and the
@@ -348,3 +350,5 @@ void NameControls(const TemplateDialog& dialog) {
     }
   }
 }
+
+}  // namespace AdvancedControl

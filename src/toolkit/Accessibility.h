@@ -1,5 +1,9 @@
 #pragma once
 
+#include "Namespace.h"
+
+namespace AdvancedControl {
+
 class TemplateDialog;
 
 /// Makes dialogs, lists and sliders accessible to assistive technologies, for reading and for
@@ -9,3 +13,5 @@ void InstallAccessibility();
 /// Names the controls of a created dialog after their rows' captions, and makes each caption the
 /// label of its row's value. User-interface thread only.
 void NameControls(const TemplateDialog& dialog);
+
+}  // namespace AdvancedControl

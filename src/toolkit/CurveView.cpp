@@ -5,12 +5,14 @@
 
 #include <QPainter>
 
+namespace AdvancedControl {
+
 namespace {
 
 // In pixels.
 constexpr double kWidth = 2;
 constexpr double kMark = 2.5;  // radius, without the pen
-constexpr double kEdges = 4;  // extra width of a line for each line that covers it
+constexpr double kEdges = 4;   // extra width of a line for each line that covers it
 
 bool Coincide(const QPolygonF& a, const QPolygonF& b) {
   return std::ranges::equal(
@@ -80,3 +82,5 @@ void CurveView::paintEvent(QPaintEvent*) {
     labelAt += labels * 0.8;
   }
 }
+
+}  // namespace AdvancedControl

@@ -6,6 +6,10 @@
 #include <QString>
 #include <QWidget>
 
+#include "Namespace.h"
+
+namespace AdvancedControl {
+
 /// Draws lines in a frame as a picture of several values: accepted values as solid lines, values
 /// being tried as dotted lines. Takes neither input nor the focus. User-interface thread only.
 class CurveView : public QWidget {
@@ -13,10 +17,10 @@ class CurveView : public QWidget {
 
  public:
   struct Line {
-    QString label;  ///< Drawn at the line's end; may be empty.
-    int hue = kNoHue;  ///< Hue, 0 to 359; the lightness depends on the palette.
-    QPolygonF
-        accepted;  ///< From left (0) to right (1), low (0) to high (1); up to 3/8 above and below are also shown.
+    QString label;       ///< Drawn at the line's end; may be empty.
+    int hue = kNoHue;    ///< Hue, 0 to 359; the lightness depends on the palette.
+    QPolygonF accepted;  ///< From left (0) to right (1), low (0) to high (1); up to 3/8 above and
+                         ///< below are also shown.
     QPolygonF tried;
 
     static constexpr int kNoHue = -1;  ///< Uses the palette's selection colour.
@@ -36,3 +40,5 @@ class CurveView : public QWidget {
 
   std::vector<Line> lines_;
 };
+
+}  // namespace AdvancedControl

@@ -7,6 +7,8 @@
 #include <QScrollBar>
 #include <QStyle>
 
+namespace AdvancedControl {
+
 namespace {
 
 // A guess: the window manager's frame is unknown until the window is shown.
@@ -56,3 +58,5 @@ void CentreOnScreen(QWidget& window, const QWidget& owner) {
   window.move(std::max(screen.left(), std::min(at.x(), last.x())),
               std::max(screen.top(), std::min(at.y(), last.y())));
 }
+
+}  // namespace AdvancedControl

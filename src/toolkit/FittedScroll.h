@@ -2,6 +2,10 @@
 
 #include <QScrollArea>
 
+#include "Namespace.h"
+
+namespace AdvancedControl {
+
 /// A frameless view for contents that may be too large for the screen. They fill the view or
 /// scroll; the control that gets the focus is scrolled into view. User-interface thread only.
 class FittedScroll : public QScrollArea {
@@ -24,3 +28,5 @@ QSize FittedToScreen(const QWidget& window, QSize wanted);
 
 /// Centres `window` on `owner`, or as near to that as the screen allows.
 void CentreOnScreen(QWidget& window, const QWidget& owner);
+
+}  // namespace AdvancedControl

@@ -1,7 +1,10 @@
 #pragma once
 
 #include "AdvancedControlExport.h"
+#include "Namespace.h"
 #include "toolkit/TemplateDialog.h"
+
+namespace AdvancedControl {
 
 /// Controls user input while handlers run. A handler may run an event loop, for example while a
 /// command waits or a message box is open. Until the last handler returns, input to the controls is
@@ -55,6 +58,8 @@ class ADVANCED_CONTROL_EXPORT InputDialog : public TemplateDialog {
   /// Called when no handler runs any more, after `OnIdle` and `OnReturn`.
   virtual void AfterHandlers() {}
 
-  int busy_ = 0;  // number of running handlers, which are nested
+  int busy_ = 0;       // number of running handlers, which are nested
   bool left_ = false;  // the running handlers were abandoned
 };
+
+}  // namespace AdvancedControl

@@ -7,6 +7,8 @@
 
 #include "toolkit/TemplateDialog.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 // Instance events that begin an action. Events that end one, such as a release, must reach the
@@ -70,3 +72,5 @@ bool InputGate::eventFilter(QObject* watched, QEvent* event) {
   const TemplateDialog* dialog = DialogOf(target);
   return std::ranges::count(closed_, dialog) > 0 && !dialog->AcceptsInputWhileBusy(target);
 }
+
+}  // namespace AdvancedControl

@@ -4,6 +4,10 @@
 
 #include <QObject>
 
+#include "Namespace.h"
+
+namespace AdvancedControl {
+
 class TemplateDialog;
 
 /// Drops input to the controls of dialogs whose handlers run. Filters the application's events only
@@ -22,3 +26,5 @@ class InputGate final : public QObject {
 
   std::vector<const TemplateDialog*> closed_;
 };
+
+}  // namespace AdvancedControl

@@ -3,6 +3,10 @@
 #include <QString>
 #include <QStyledItemDelegate>
 
+#include "Namespace.h"
+
+namespace AdvancedControl {
+
 /// Keeps the text's own direction in a context of the other direction; in right-to-left text,
 /// "#1-Default" would otherwise be drawn as "Default-#1". Use it only for drawing, because it adds
 /// invisible marks.
@@ -20,3 +24,5 @@ class IsolatedTexts : public QStyledItemDelegate {
     return Isolated(QStyledItemDelegate::displayText(value, locale));
   }
 };
+
+}  // namespace AdvancedControl

@@ -2,7 +2,11 @@
 
 #include <QString>
 
+#include "Namespace.h"
+
 class QWidget;
+
+namespace AdvancedControl {
 
 /// Texts of the buttons; an empty text means Qt's own.
 struct ButtonTexts {
@@ -16,3 +20,5 @@ void ShowStopMessage(QWidget* owner, const QString& text, const ButtonTexts& but
 /// Asks a question with an information icon, Yes and No buttons; No is the default button. True for
 /// Yes; closing the box or Esc is No. User-interface thread only.
 bool AskYesNo(QWidget* owner, const QString& text, const ButtonTexts& buttons = {});
+
+}  // namespace AdvancedControl

@@ -13,6 +13,8 @@
 #include "toolkit/ResourceModule.h"
 #include "toolkit/TemplateControls.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 constexpr int kColumnGap = 32;
@@ -222,7 +224,8 @@ void TemplateDialog::GreyCaption(int id) {
 
 void TemplateDialog::ShowNotice(const QString& text) {
   auto* notice = new QLabel(text, this);
-  notice->setMinimumHeight(FromDialogUnits(0, template_->rulerHeight).height());  // as high as a row
+  notice->setMinimumHeight(
+      FromDialogUnits(0, template_->rulerHeight).height());  // as high as a row
   controls_[kNoticeId] = notice;
   auto* left = static_cast<QGridLayout*>(layout()->itemAt(0)->layout());
   left->addWidget(notice, 0, 0, 1, RowColumn::Count, Qt::AlignTop | Qt::AlignLeft);
@@ -256,3 +259,5 @@ QSize TemplateDialog::DialogSize() const {
   if (layout() != nullptr) size = size.expandedTo(layout()->totalSizeHint());
   return size;
 }
+
+}  // namespace AdvancedControl

@@ -7,10 +7,13 @@
 #include <QPointer>
 
 #include "AdvancedControlExport.h"
+#include "Namespace.h"
 #include "toolkit/CWnd.h"
 #include "toolkit/DialogTemplate.h"
 
 class QGridLayout;
+
+namespace AdvancedControl {
 
 /// A dialog laid out by a numbered template: makes the controls, finds them by number, and gives
 /// all present rows the same pitch. User-interface thread only.
@@ -93,8 +96,10 @@ class ADVANCED_CONTROL_EXPORT TemplateDialog : public QDialog {
   int templateNumber_;
   const DialogTemplate* template_ = nullptr;
   QPointer<QWidget> scroll_;  // scrolls the rows of a window that is too large for the screen
-  int pitch_ = 0;  // height of the present rows, in pixels
+  int pitch_ = 0;             // height of the present rows, in pixels
   std::unordered_map<int, QWidget*> controls_;
   std::vector<const QWidget*> usableWhileBusy_;  // tabs and Close
-  std::vector<PlacedRow> rows_;  // in the template's order
+  std::vector<PlacedRow> rows_;                  // in the template's order
 };
+
+}  // namespace AdvancedControl

@@ -22,6 +22,7 @@
 #include "host/FindLine.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/ShownValues.h"
+#include "tests/support/Soon.h"
 
 namespace {
 
@@ -217,7 +218,7 @@ TEST(RandomWalk, ThroughTheWholeProgramUsesNoDeletedObject) {
     EXPECT_GT(walk.diedInMidCommand, 2);
     EXPECT_GT(walk.checked, 0);
   }
-  EXPECT_TRUE(QTest::qWaitFor([] {
+  EXPECT_TRUE(Soon([] {
     return std::ranges::none_of(QApplication::topLevelWidgets(), [](const QWidget* widget) {
       return qobject_cast<const CDialog*>(widget) != nullptr;
     });

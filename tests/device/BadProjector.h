@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "device/PjLinkSession.h"
+#include "device/protocol/PjLinkSession.h"
 
 /// A small PJLink projector, written from the standard independently of the library, with
 /// configurable faults. It runs in simulated time.
@@ -25,7 +25,7 @@ class BadProjector {
   std::string greeting = "PJLINK 0\r";
   std::string before{}, after = "\r";  ///< Written before and after each reply.
   char replyClass = 0;                 ///< Class in each reply; 0 for that of its request.
-  bool closesAfterReply = false;
+  std::optional<Milliseconds> closesAfterReply{};  ///< So long after each.
   bool dropsUnanswered = false;  ///< Closes the connection instead of losing a reply silently.
   Milliseconds answers{10};      ///< Time for each reply.
   Milliseconds follows{0};       ///< Time until an accepted change takes effect.
@@ -64,7 +64,7 @@ class BadProjector {
       if (dropsUnanswered) Close(now);
       return std::nullopt;
     }
-    if (closesAfterReply) Close(now);
+    if (closesAfterReply == Milliseconds(0)) Close(now);
     if (Counts(distorts, name)) return "?%&!\r";
     return before + '%' + (replyClass == 0 ? request[1] : replyClass) + name + '=' + result + after;
   }
@@ -115,6 +115,9 @@ class SteppedSession {
   static constexpr PjLinkLimits kLimits{.connect = std::chrono::seconds(2),
                                         .answer = std::chrono::seconds(2)};
 
+  explicit SteppedSession(PjLinkLimits::Time answer = kLimits.answer)
+      : session("", {.connect = kLimits.connect, .answer = answer}) {}
+
   PjtReply Do(const PjtCommand& command) {
     session.Begin(command, now);
     Run();
@@ -127,7 +130,7 @@ class SteppedSession {
   }
 
   BadProjector projector;
-  PjLinkSession session{"", kLimits};
+  PjLinkSession session;
   PjLinkTime now{std::chrono::hours(1)};
 
  private:
@@ -151,27 +154,39 @@ class SteppedSession {
         }
         break;
       case PjLinkStep::Kind::Send: {
+        if (closesAt_) break;  // it reads nothing more
         const auto answer = projector.Receive(step.bytes, now);
         coming_ = answer.value_or("");
         comesAt_ = now + projector.answers;
+        if (projector.closesAfterReply > BadProjector::Milliseconds(0)) {
+          closesAt_ = comesAt_ + *projector.closesAfterReply;
+        }
         if (!answer && !projector.IsOpen()) connection.Closed(now);
         break;
       }
       case PjLinkStep::Kind::Wait:
+        if (coming_.empty() && closesAt_ && closesAt_ <= step.until) {
+          now = *std::exchange(closesAt_, std::nullopt);
+          projector.Close(now);
+          connection.Closed(now);
+          break;
+        }
         if (coming_.empty() || comesAt_ > step.until) {
           now = step.until;
           break;
         }
         now = std::max(now, comesAt_);
-        connection.Received(std::exchange(coming_, {}));
+        connection.Received(std::exchange(coming_, {}), now);
         if (!projector.IsOpen()) connection.Closed(now);
         break;
       default:
         projector.Close(now);
         coming_.clear();
+        closesAt_.reset();
     }
   }
 
   std::string coming_;
   PjLinkTime comesAt_{};
+  std::optional<PjLinkTime> closesAt_;
 };

@@ -7,7 +7,7 @@
 
 #include "app/desktop/projectors/ProjectorSession.h"
 #include "app/profiles/ProjectorAccess.h"
-#include "device/ForwardingChannel.h"
+#include "device/channels/ForwardingChannel.h"
 
 /// A session's channel for work on many settings. The session's own channel answers for a projector
 /// that was silent just before; this one sends the next command all the same, as long as `goesOn`

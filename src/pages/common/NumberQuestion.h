@@ -2,7 +2,10 @@
 
 #include <QInputDialog>
 
+#include "Namespace.h"
 #include "settings/Rows.h"
+
+namespace AdvancedControl {
 
 /// Asks for a row's number. OK accepts only a whole number inside the range. For any other text the
 /// question stays open with the text and shows the range. User-interface thread only.
@@ -22,3 +25,5 @@ class NumberQuestion final : public QInputDialog {
  private:
   Range range_;
 };
+
+}  // namespace AdvancedControl

@@ -3,6 +3,10 @@
 #include <QRegion>
 #include <QWidget>
 
+#include "Namespace.h"
+
+namespace AdvancedControl {
+
 /// An overlay on a page that waits for its projector: dims parts of the page and shows the wait
 /// cursor. User-interface thread only.
 class PageVeil final : public QWidget {
@@ -18,3 +22,5 @@ class PageVeil final : public QWidget {
  private:
   QRegion dimmed_;
 };
+
+}  // namespace AdvancedControl

@@ -12,6 +12,8 @@
 #include "resources/ArrowBitmap.h"
 #include "toolkit/CSliderCtrl.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 // Arrow buttons show a picture; their text becomes their accessible name.
@@ -184,3 +186,5 @@ void RowDialog::OnIdle() {
 void RowDialog::OnLeave() { waiting_->Abandon(); }
 
 void RowDialog::OnReturn() { waiting_->Return(); }
+
+}  // namespace AdvancedControl

@@ -6,10 +6,13 @@
 #include <vector>
 
 #include "AdvancedControlExport.h"
+#include "Namespace.h"
 #include "pages/common/PageReader.h"
 #include "pages/common/RowMenus.h"
 #include "pages/common/SettingsDialog.h"
 #include "pages/rows/RowView.h"
+
+namespace AdvancedControl {
 
 class Waiting;
 
@@ -88,3 +91,5 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog, private RowHost
   // Only of a pop-up; a page uses that of its dialog.
   std::unique_ptr<Waiting> waiting_;
 };
+
+}  // namespace AdvancedControl

@@ -4,6 +4,10 @@
 
 #include <QMenu>
 
+#include "Namespace.h"
+
+namespace AdvancedControl {
+
 /// The context menu of a row: shows the numbers that the row accepts and its value when the dialog
 /// was opened, and offers to restore that value, to type a number, and to copy. Deletes itself when
 /// it is hidden. User-interface thread only.
@@ -33,3 +37,5 @@ class RowMenu final : public QMenu {
  private:
   void AddText(const QString& text);
 };
+
+}  // namespace AdvancedControl

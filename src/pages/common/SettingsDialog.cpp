@@ -3,6 +3,8 @@
 #include "device/ModelDataSource.h"
 #include "toolkit/MessageBox.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 // If the catalog lacks these texts, the message boxes use Qt's.
@@ -41,3 +43,5 @@ CPjtInterface& SettingsDialog::Unconnected() {
   static CPjtInterface projector;
   return projector;
 }
+
+}  // namespace AdvancedControl

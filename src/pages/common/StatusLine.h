@@ -2,10 +2,13 @@
 
 #include <QWidget>
 
+#include "Namespace.h"
 #include "device/CPjtInterface.h"
 
 class QLabel;
 class QPushButton;
+
+namespace AdvancedControl {
 
 /// The line beside Close. Shows the progress of reading; that a change is not in effect yet or not
 /// possible now; or that the projector does not answer, with a button to try again. Each change is
@@ -35,3 +38,5 @@ class StatusLine final : public QWidget {
   QLabel* text_;
   QPushButton* retry_;
 };
+
+}  // namespace AdvancedControl

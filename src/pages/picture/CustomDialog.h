@@ -4,8 +4,11 @@
 #include <optional>
 #include <vector>
 
+#include "Namespace.h"
 #include "pages/common/RowDialog.h"
 #include "toolkit/CurveView.h"
+
+namespace AdvancedControl {
 
 /// Base of the two custom pop-ups: a test pattern, a column of slider rows with Reset buttons, and
 /// a picture of their values. Every change is sent at once.
@@ -35,3 +38,5 @@ class CustomDialog : public RowDialog {
   bool hideResets_;
   QPointer<CurveView> picture_;
 };
+
+}  // namespace AdvancedControl

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "Namespace.h"
 #include "pages/rows/RowView.h"
 
 class QLabel;
+
+namespace AdvancedControl {
 
 /// A state of the projector, shown as a text, or as a dash if it cannot be read. The page handles
 /// actions that change the state.
@@ -21,3 +24,5 @@ class StateRowView final : public RowView {
   const StateRow& row_;
   QLabel* label_ = nullptr;
 };
+
+}  // namespace AdvancedControl

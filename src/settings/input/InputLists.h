@@ -1,9 +1,10 @@
 #pragma once
 
+#include "Namespace.h"
 #include "device/CommandCode.h"
 #include "settings/RowParts.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 // Lists that the input pages share. Those called legacy are for the older pages only.
 

@@ -2,10 +2,11 @@
 
 #include <vector>
 
+#include "Namespace.h"
 #include "ProjectorSettingsExport.h"
 #include "settings/ListEntry.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// Function codes of the my-button lists, for models without their own list. A list has entries for
 /// the first of them.

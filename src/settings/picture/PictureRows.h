@@ -3,9 +3,10 @@
 #include <array>
 #include <utility>
 
+#include "Namespace.h"
 #include "settings/LegacyRows.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 // Parts that the picture and image pages share.
 

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "Namespace.h"
 #include "settings/RowParts.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 // Parts that the pages with audio routing share.
 

@@ -211,8 +211,8 @@ Restoration::Group Restoration::SendTogether(const Group& group, const SendOptio
   return sent;
 }
 
-// Whatever a setter answers, the value read afterwards is what the projector has. Also after an
-// interruption, so that what is sent is true.
+// Whatever a setter returns, only the value read back counts. It is read even after an
+// interruption, so that the outcomes are correct.
 void Restoration::Confirm(const Group& sent, const Progress& progress) {
   Announce(sent);
   for (RestoredSetting* restored : sent) {
@@ -265,7 +265,7 @@ int Restoration::Count(Outcome outcome) const {
                           std::ranges::count(settings_, outcome, &RestoredSetting::outcome));
 }
 
-/// What was sent, or is just going to be, in that order.
+/// Settings that were sent or are about to be sent, in this order.
 std::vector<const RestoredSetting*> Restoration::SentInOrder() const {
   std::vector<const RestoredSetting*> sent;
   for (const auto* list : {&beforehand_, &settings_}) {

@@ -28,7 +28,8 @@ class CSliderCtrl : public QSlider {
   QSize minimumSizeHint() const override;
 
  Q_SIGNALS:
-  void Scrolling(bool goesOn);  ///< True while the user moves the slider; the value is then the one that the end will send.
+  void Scrolling(bool goesOn);  ///< True while the user moves the slider; the value is then the one
+                                ///< that the end will send.
   void EndScroll();
 
  protected:

@@ -49,8 +49,8 @@ struct PjLinkLimits {
   /// Pause before the second attempt to connect; doubled before each further one. Some projectors
   /// need a while between two connections.
   Time pause{50};
-  /// How long after its first reply a projector that closes the connection after each one may take
-  /// to do so.
+  /// The longest time that a projector which closes the connection after each reply may take to do
+  /// so.
   Time closing{100};
 };
 
@@ -63,10 +63,10 @@ struct PjLinkLimits {
 /// connection stays open until the projector closes it, a request stays unanswered, or something
 /// other than PJLink arrives.
 ///
-/// A change is not sent on a connection that is just ending: it would be lost, and nobody could
-/// tell whether it was carried out. Behind the first reply of a connection it therefore waits
-/// whether the projector closes it. One that has not done so keeps the connection for further
-/// requests.
+/// A change must not be sent on a connection that is about to end: it would be lost, and it would
+/// be unknown whether it was carried out. Therefore the first change after the first reply of a
+/// connection waits whether the projector closes the connection. If it does not, the connection is
+/// used for all further requests.
 ///
 /// A question is repeated once if its connection broke or a line other than its reply came; a
 /// change is never repeated. Only one request is under way at a time, because replies have no
@@ -117,7 +117,7 @@ class PROJECTOR_COMMON_EXPORT PjLinkConnection {
   bool hasGreeted_ = false;
   bool isOpen_ = false;  ///< As reported by the driver.
   bool closes_ = false;  ///< The driver must close it.
-  int replies_ = 0;      ///< On this connection.
+  int replies_ = 0;      ///< Number of replies on this connection.
   PjLinkTime repliedAt_{};
   PjLinkTime until_{};  ///< End of the pause, of connecting, of settling, or of waiting for the
                         ///< answer.

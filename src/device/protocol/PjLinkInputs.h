@@ -20,13 +20,13 @@ struct PjLinkInput {
   friend bool operator==(const PjLinkInput&, const PjLinkInput&) = default;
 };
 
-/// When an input's name is followed by its two characters, "HDMI (31)".
+/// When an input's name is followed by its code: "HDMI (31)".
 enum class InputCodes {
   SharedNames,  ///< If another input has the same name. For a list that shows all inputs.
   AllNames,     ///< Always, so that an input has one name whether or not the others are known.
 };
 
-/// The inputs as a model's source list, without those that it has no room for.
+/// The inputs as a model's source list, without those beyond its capacity. Any thread.
 PROJECTOR_COMMON_EXPORT SourceList SourcesOf(const std::vector<PjLinkInput>& inputs,
                                              InputCodes codes);
 

@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::chrono::seconds kFresh{1};
 constexpr int kMostLost = 1;
-/// Before it is asked again for the first time; then it doubles, up to the longest one.
+/// Pause before the first repetition; doubled for each further one, up to the longest pause.
 constexpr std::chrono::milliseconds kFirstPause{100};
 constexpr std::chrono::milliseconds kLongestPause{1000};
 
@@ -223,7 +223,7 @@ void PjLinkSession::HandleNotNow(PjLinkTime now) {
   Finish(reply);
 }
 
-/// Whether the power state, which was just told, rules the command out.
+/// Whether the power state, which was just reported, rules out the command.
 bool PjLinkSession::CannotDoItNow() const {
   const bool isOwn = mapping_->command == "POWR";  // a power command is possible in standby
   return (power_ == PowerState::Standby && !isOwn) ||

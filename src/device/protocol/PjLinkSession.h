@@ -45,9 +45,9 @@ struct PjLinkResult {
 /// once if the projector is not on, and a change if it is in standby.
 /// - After a change is accepted, its state is requested at growing intervals until it is as wanted.
 /// If that takes longer than the time for an answer, the change is pending.
-/// - What was just told is not asked for again within a second: the state that a change has led to,
-///   the power state behind `ERR3`, and what one reply says of two settings. No setting is read
-///   twice from one answer.
+/// - A value that was just reported is not requested again within a second: the state after a
+/// change, the power state after `ERR3`, and a reply that contains two settings. No setting is read
+/// twice from one answer.
 /// - A question is repeated once if its answer got lost.
 ///
 /// Each of these steps is one exchange, and each exchange has the full time for an answer.
@@ -89,7 +89,7 @@ class PROJECTOR_COMMON_EXPORT PjLinkSession {
   /// The last answer to a command's question.
   struct KeptAnswer {
     std::string parameter;
-    Reader reader;  ///< What has read it, or null.
+    Reader reader;  ///< The reader that has already used it, or null.
     PjLinkTime time;
   };
 
@@ -122,7 +122,8 @@ class PROJECTOR_COMMON_EXPORT PjLinkSession {
   std::optional<char> class_;
   bool isClassRemembered_ = false;  ///< And not confirmed by the projector in this session.
   std::optional<PowerState> power_;
-  std::optional<PjLinkTime> powerAt_;  ///< When it was told; nothing since the last change.
+  std::optional<PjLinkTime>
+      powerAt_;  ///< When the power state was reported; nothing if a change came since.
 
   // The work in progress.
   PjtCommand command_{PjtOperation::Get};

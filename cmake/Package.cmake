@@ -21,7 +21,7 @@ endfunction()
 
 install(FILES packaging/advanced-control.desktop
         DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT program)
-install(FILES packaging/org.advancedcontrol.AdvancedControl.metainfo.xml
+install(FILES packaging/org.advancedcontrol.advancedcontrol.metainfo.xml
         DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo COMPONENT program)
 install(FILES app/desktop/icons/advanced-control.svg
         DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps COMPONENT program)

@@ -42,9 +42,9 @@ awk -F, -v again="$again" '
     return total[i, kind] ? 100 * covered[i, kind] / total[i, kind] : 100
   }
   END {
-    printf "%-52s %7s %9s %6s\n", "files", "lines", "branches", "aim"
+    printf "%-40s %7s %9s %6s\n", "files", "lines", "branches", "aim"
     for (i = 1; i <= count; ++i) {
-      printf "%-52s %5.1f %% %7.1f %% %4d %%\n", pattern[i], share(i, "line"), share(i, "branch"), aim[i]
+      printf "%-40s %5.1f %% %7.1f %% %4s %%\n", pattern[i], share(i, "line"), share(i, "branch"), aim[i]
       if (share(i, "line") < least[i, "line"]) {
         print pattern[i] ": lines are below " least[i, "line"] " %: " again; failed = 1
       }

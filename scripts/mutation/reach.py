@@ -21,6 +21,9 @@ TABLE_SUITES = (
     ("app/", ("app_tests", "acctl_tests")),
 )
 
+# Random walks reach nearly everything and take minutes, so no mutant is worth them.
+LEFT_OUT = ("soak_tests", "walk_tests")
+
 
 def list_tests(program, environment):
     listed = subprocess.run([program, "--gtest_list_tests"], capture_output=True, text=True,
@@ -81,24 +84,25 @@ class Recorder:
         shutil.rmtree(folder)
         return seconds, *result
 
-    def all(self, jobs):
-        programs = sorted((self.build / "bin").glob("*_tests"))
-        tests = [(program, test) for program in programs
-                 for test in list_tests(program, test_environment(self.scratch))]
-        found, code = {}, {}
-        with ThreadPoolExecutor(jobs) as pool:
-            runs = [(program, test, pool.submit(self.record, program, test)) for program, test in tests]
-            for number, (program, test, run) in enumerate(runs, 1):
+    def all(self, jobs, data, keep):
+        """Completes `data`, and keeps it after each suite."""
+        programs = [program for program in sorted((self.build / "bin").glob("*_tests"))
+                    if program.name not in LEFT_OUT and program.name not in data["suites"]]
+        for program in programs:
+            tests = list_tests(program, test_environment(self.scratch))
+            print(f"reach: {len(tests)} tests of {program.name}", flush=True)
+            with ThreadPoolExecutor(jobs) as pool:
+                runs = {test: pool.submit(self.record, program, test) for test in tests}
+            for test, run in runs.items():
                 seconds, reached, present = run.result()
-                print(f"\rreach: {number} of {len(runs)} tests", end="", flush=True)
-                found[f"{program.name}:{test}"] = {
+                data["tests"][f"{program.name}:{test}"] = {
                     "seconds": round(seconds, 3),
                     "lines": {file: sorted(lines) for file, lines in reached.items()}}
                 for file, lines in present.items():
-                    code.setdefault(file, set()).update(lines)
-        print()
+                    data["code"][file] = sorted(lines.union(data["code"].get(file, ())))
+            data["suites"].append(program.name)
+            keep(data)
         shutil.rmtree(self.scratch)
-        return {"tests": found, "code": {file: sorted(lines) for file, lines in code.items()}}
 
 
 def state_of(root):
@@ -113,14 +117,15 @@ def state_of(root):
 class Reach:
     def __init__(self, root, work, jobs, keep):
         kept, state = work / "reach.json", state_of(root)
-        self.data = json.loads(kept.read_text()) if kept.exists() else None
-        if self.data is None or (self.data["state"] != state and not keep):
-            print("Building (build/coverage) and recording what each test reaches")
+        self.data = json.loads(kept.read_text()) if kept.exists() else {"state": ""}
+        if self.data["state"] != state and not (keep and kept.exists()):
+            self.data = {"state": state, "suites": [], "tests": {}, "code": {}}
+        if not (keep and kept.exists()):
+            print("Building (build/coverage), to record what each test reaches", flush=True)
             subprocess.run(["cmake", "--preset", "coverage"], cwd=root, check=True,
                            stdout=subprocess.DEVNULL)
             subprocess.run(["cmake", "--build", "--preset", "coverage"], cwd=root, check=True)
-            self.data = Recorder(root, work).all(jobs) | {"state": state}
-            kept.write_text(json.dumps(self.data))
+            Recorder(root, work).all(jobs, self.data, lambda data: kept.write_text(json.dumps(data)))
         self.tests = self.data["tests"]
 
     def seconds(self, test):

@@ -1,6 +1,7 @@
 """A copy of the tree with a build of its own, in which mutants are built and tested one after the other."""
 
 import os
+import shlex
 import shutil
 import signal
 import subprocess
@@ -42,6 +43,7 @@ class Workplace:
             options.append("-DCMAKE_CXX_COMPILER_LAUNCHER=ccache")
         if shutil.which("mold"):
             options += [f"-DCMAKE_{kind}_LINKER_FLAGS=-fuse-ld=mold" for kind in ("EXE", "SHARED")]
+        options += shlex.split(os.environ.get("MUTATE_CMAKE", ""))
         subprocess.run(["cmake", "--preset", "dev", *options], cwd=self.tree, check=True,
                        stdout=subprocess.DEVNULL)
         built = subprocess.run(["ninja", "-C", self.build], capture_output=True, text=True,

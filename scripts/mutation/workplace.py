@@ -89,7 +89,7 @@ class Workplace:
                                    errors="replace", cwd=self.home, env=test_environment(self.home),
                                    start_new_session=True)
         try:
-            told, _ = running.communicate(timeout=60 + 10 * seconds)
+            told, _ = running.communicate(timeout=60 + 3 * seconds)
         except subprocess.TimeoutExpired:
             return f"{suite}: no end"
         finally:

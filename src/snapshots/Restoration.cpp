@@ -30,8 +30,7 @@ std::optional<Outcome> OutcomeIfDifferent(const CPjtInterface::Tally& before,
   if (after.uncertain > before.uncertain) return Outcome::Unconfirmed;
   if (after.pending > before.pending) return Outcome::Pending;
   if (after.busy > before.busy) return Outcome::Busy;
-  const int unanswered = after.unanswered - before.unanswered;
-  if (unanswered > 0 && unanswered == after.commands - before.commands) return {};
+  if (after.unanswered - before.unanswered == after.commands - before.commands) return {};
   return Outcome::Refused;
 }
 

@@ -248,6 +248,8 @@ TEST(PjLinkTest, TheServerFollowsTheStandard) {
       {"%3POWR ?", "ERR1"},   {"%1NONE ?", "ERR1"},  {"%1INPT 31", "OK"},    {"%2INPT ?", "31"},
       {"%1INPT 32", "ERR2"},  {"%1INST ?", "31 5A"}, {"%2INNM ?5A", "Büro"}, {"%2INNM ?5B", "ERR2"},
       {"%1AVMT 31", "OK"},    {"%1AVMT 20", "OK"},   {"%1AVMT ?", "11"},     {"%1AVMT 4", "ERR2"},
+      {"%1AVMT 21", "OK"},    {"%1AVMT ?", "31"},    {"%1AVMT 10", "OK"},    {"%1AVMT ?", "21"},
+      {"%1AVMT 11", "OK"},    {"%1AVMT ?", "31"},    {"%1AVMT 30", "OK"},    {"%1AVMT ?", "30"},
       {"%1LAMP ?", "1240 1"}, {"%1LAMP 0", "ERR2"},  {"%2SVOL ?", "ERR2"},   {"%2FREZ 1", "OK"},
       {"%2SVER ?", "1.0"},    {"%1NAME x", "ERR2"},  {"%1POWR 0", "OK"},     {"%1AVMT ?", "ERR3"}};
   QByteArray sent;

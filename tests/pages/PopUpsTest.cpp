@@ -8,6 +8,7 @@
 #include "settings/PageTables.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/Soon.h"
+#include "toolkit/CurveView.h"
 
 namespace {
 
@@ -50,6 +51,13 @@ TEST(PopUps, ResetsStopAtThePagesBoundAndAreNotRemembered) {
       if (const auto* value = std::get_if<ValueRow>(&row)) open.ExpectReset(*value, bound);
     }
   }
+}
+
+TEST(PopUps, ThePictureIsDescribedByTheCaptionAndValueOfEachRow) {
+  OpenPopUp open(PopUp::ColorTemp);
+  open.driver.Drag(20181, 5);
+  EXPECT_TRUE(open.popUp->findChild<CurveView*>()->accessibleDescription().startsWith(
+      QStringLiteral("Color Temp Gain R 5, Color Temp Gain G -128, ")));
 }
 
 TEST(GammaPopUp, WithoutResetButtonsIsNarrowerAndCloseStaysInside) {

@@ -22,7 +22,21 @@ const SettingTexts& Texts() {
   return texts;
 }
 
-// The lists, boxes and sliders must be the settings in the list, and accept the same values.
+// Number of a control's caption in its template: that of the label before it, or of a box its own.
+int CaptionNumber(const DialogTemplate& page, int control) {
+  int label = 0;
+  for (const RowTemplate& row : page.rows) {
+    for (const ControlTemplate& item : row.controls) {
+      const int own = std::atoi(item.caption);
+      if (item.kind == ControlKind::Label) label = own;
+      if (item.id == control) return item.kind == ControlKind::Check && own != 0 ? own : label;
+    }
+  }
+  return 0;
+}
+
+// The lists, boxes and sliders must be the settings in the list, with the same captions, and accept
+// the same values.
 void ExpectSame(const ModelSettings& settings, CDialog& dialog, const PageTable& table) {
   std::set<int> listed;
   for (const PageRow& row : table.rows)
@@ -36,6 +50,7 @@ void ExpectSame(const ModelSettings& settings, CDialog& dialog, const PageTable&
     listed.insert(control);
     const QWidget* const widget = dialog.GetDlgItem(control);
     EXPECT_FALSE(widget->isHidden());
+    EXPECT_EQ(setting.caption, CaptionNumber(*dialog.Template(), control));
     QStringList entries;
     for (const ListEntry& entry : setting.entries) entries << Texts().Entry(setting, entry).c_str();
     if (qobject_cast<const CComboBox*>(widget) != nullptr) {

@@ -89,6 +89,10 @@ TEST(SimulatedProjector, SoundIsKeptForEachSourceAndForStandby) {
                                 Set(0x2000, 2), Inc(0x2001), Do(Op::GetInputSrcVolume, 2),
                                 Do(Op::GetInputSrcVolume, kStandby)}),
             "5 16 30 - 2 31 31 5");
+  EXPECT_EQ(Replies(projector, {Do(Op::SetInputSrcTreble, 3, 130), Do(Op::GetInputSrcTreble, 2),
+                                Do(Op::SetInputSrcBass, 3, 126), Do(Op::GetInputSrcBass, 2),
+                                Do(Op::SetSRSWOW, 3, 2), Do(Op::GetSRSWOW, 2)}),
+            "130 128 126 128 2 0");
 }
 
 TEST(SimulatedProjector, MemoriesStoreOnlyThePicture) {

@@ -7,7 +7,7 @@ namespace AdvancedControl {
 
 namespace {
 
-namespace Picture = ControlId::PictureType5;
+using namespace ControlId;
 
 using namespace tmpl;
 using enum RowPlace;
@@ -22,9 +22,9 @@ constexpr std::array<RowTemplate, 10> PictureRows(const char* brightness, const 
                 {Picture::ContrastMinus, Picture::Contrast, Picture::ContrastPlus,
                  Picture::ContrastField}),
       Row(Left, Label(20468, "41;Gamma\t\t:"), Colon(20476), Combo(Picture::Gamma),
-          Button(20133, "120;Custom...")),
+          Button(Picture::CustomGamma, "120;Custom...")),
       Row(Left, Label(20593, "115;Color Temp\t:"), Colon(20594), Combo(Picture::ColorTemp),
-          Button(20143, "120;Custom...")),
+          Button(Picture::CustomColorTemp, "120;Custom...")),
       SliderRow(Left, Label(20595, "116;Color\t\t:"), 20596,
                 {Picture::ColorMinus, Picture::Color, Picture::ColorPlus, Picture::ColorField}),
       SliderRow(Left, Label(20597, "117;Tint\t\t:"), 20598,

@@ -154,7 +154,9 @@ inline constexpr int MonitorOutRgb1 = 20371;
 inline constexpr int MonitorOutRgb2 = 20372;
 }  // namespace SetupType5
 
-namespace PictureType5 {
+// Of the picture pages with custom pop-ups.
+namespace Picture {
+inline constexpr int CustomGamma = 20133;
 inline constexpr int BrightnessMinus = 20134;
 inline constexpr int BrightnessPlus = 20135;
 inline constexpr int Brightness = 20136;
@@ -162,6 +164,7 @@ inline constexpr int ContrastMinus = 20137;
 inline constexpr int Contrast = 20138;
 inline constexpr int ContrastPlus = 20139;
 inline constexpr int Gamma = 20142;
+inline constexpr int CustomColorTemp = 20143;
 inline constexpr int ColorTemp = 20144;
 inline constexpr int ColorMinus = 20147;
 inline constexpr int SharpnessMinus = 20148;
@@ -182,7 +185,7 @@ inline constexpr int TintPlus = 21063;
 inline constexpr int MyMemory = 21064;
 inline constexpr int MyMemoryExecute = 21065;
 inline constexpr int ResetExecute = 21070;
-}  // namespace PictureType5
+}  // namespace Picture
 }  // namespace ControlId
 
 }  // namespace AdvancedControl

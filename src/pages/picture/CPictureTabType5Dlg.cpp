@@ -8,7 +8,7 @@
 
 namespace {
 
-namespace Id = ControlId::PictureType5;
+namespace Id = ControlId::Picture;
 
 constexpr short kNoIrisMode = static_cast<short>(0xFFFF);
 

@@ -6,7 +6,7 @@ namespace AdvancedControl {
 
 namespace {
 
-namespace Id = ControlId::PictureType5;
+namespace Id = ControlId::Picture;
 
 using Op = PjtOperation;
 

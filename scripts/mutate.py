@@ -23,6 +23,8 @@ import sys
 import threading
 import time
 from collections import Counter, defaultdict
+from concurrent.futures import ProcessPoolExecutor
+from functools import partial
 from pathlib import Path
 
 from mutation.mutants import find_mutants
@@ -79,8 +81,10 @@ def choose(arguments):
              and (lines is None or file in lines)]
     if not (ROOT / "build/coverage/compile_commands.json").exists():
         subprocess.run(["cmake", "--preset", "coverage"], cwd=ROOT, check=True, stdout=subprocess.DEVNULL)
-    mutants = [mutant for file in files
-               for mutant in find_mutants(ROOT, ROOT / "build/coverage", file, WORK / "mutants")
+    find = partial(find_mutants, ROOT, ROOT / "build/coverage", WORK / "mutants")
+    with ProcessPoolExecutor(arguments.jobs) as pool:
+        found = list(pool.map(find, files))
+    mutants = [mutant for ofFile in found for mutant in ofFile
                if (lines is None or mutant.line in lines[file])
                and (not arguments.kinds or mutant.kind in arguments.kinds)
                and (not arguments.only or mutant.id in arguments.only)]

@@ -178,7 +178,7 @@ def compile_arguments(root, build):
             if file.startswith(str(root) + "/")}
 
 
-def find_mutants(root, build, file, cache):
+def find_mutants(root, build, cache, file):
     """The mutants of `file`, in order. A header is read through a source file that is named alike or that includes it."""
     digest = hashlib.sha256((root / file).read_bytes()).hexdigest()
     kept = cache / (file.replace("/", "+") + ".json")

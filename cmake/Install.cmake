@@ -1,6 +1,6 @@
 # What `cmake --install` lays down: libraries, headers, catalog modules and the package config.
 include(CMakePackageConfigHelpers)
-set(libraries ProjectorCommon ProjectorSettings AdvancedControl)
+set(libraries ProjectorCommon ProjectorSettings ProjectorFleet AdvancedControl)
 
 # The path of the build is that of the installation: what CMake would patch on installing it pads, and
 # an empty entry means the current directory. What is installed in the system needs none.

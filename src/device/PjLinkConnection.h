@@ -8,23 +8,10 @@
 #include "ProjectorCommonExport.h"
 #include "device/ConnectionState.h"
 #include "device/PjLinkReader.h"
+#include "device/SessionStep.h"
 
-using PjLinkTime = std::chrono::steady_clock::time_point;
-
-/// What a driver has to do next.
-struct PjLinkStep {
-  enum class Kind {
-    Finished,  ///< Nothing: the answer is there.
-    Connect,   ///< Connect, and say what came of it; nobody waits longer than `until`.
-    Send,      ///< Send `bytes`.
-    Wait,      ///< Pass on what happens until `until`, then ask again what is next.
-    Close,     ///< Close the connection.
-  };
-
-  Kind kind = Kind::Finished;
-  PjLinkTime until{};
-  std::string bytes{};
-};
+using PjLinkTime = SessionTime;
+using PjLinkStep = SessionStep;
 
 struct PjLinkRequest {
   char protocolClass = '1';

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -56,6 +58,14 @@ PROJECTOR_COMMON_EXPORT std::optional<PowerState> Power(std::string_view paramet
 /// The running state: warming up is on, too.
 PROJECTOR_COMMON_EXPORT std::optional<int> PowerStatus(std::string_view parameter);
 PROJECTOR_COMMON_EXPORT std::optional<int> ErrorStatus(std::string_view parameter);
+
+/// The parts of a projector that its error status tells of, in the order of its digits.
+enum class Part : std::uint8_t { Fan, Lamp, Temperature, Cover, Filter, Other };
+inline constexpr std::size_t kParts = 6;
+enum class Grade : std::uint8_t { None, Warning, Error };
+using Grades = std::array<Grade, kParts>;
+/// The same status, of every part.
+PROJECTOR_COMMON_EXPORT std::optional<Grades> ErrorGrades(std::string_view parameter);
 PROJECTOR_COMMON_EXPORT std::optional<int> Blank(std::string_view parameter);
 PROJECTOR_COMMON_EXPORT std::optional<int> Mute(std::string_view parameter);
 PROJECTOR_COMMON_EXPORT std::optional<int> Switch(std::string_view parameter);
@@ -63,6 +73,15 @@ PROJECTOR_COMMON_EXPORT std::optional<int> Switch(std::string_view parameter);
 PROJECTOR_COMMON_EXPORT std::optional<int> Hours(std::string_view parameter);
 /// Hours of the first lamp; whether it burns may be missing.
 PROJECTOR_COMMON_EXPORT std::optional<int> LampHours(std::string_view parameter);
+
+struct Lamp {
+  int hours = 0;
+  std::optional<bool> burns{};
+
+  friend bool operator==(const Lamp&, const Lamp&) = default;
+};
+/// All lamps, up to eight; none where the text is not understood.
+PROJECTOR_COMMON_EXPORT std::vector<Lamp> Lamps(std::string_view parameter);
 /// The number of an input: "31" is 31; letters go on from 9, so "3A" is 310 and "3Z" is 335.
 PROJECTOR_COMMON_EXPORT std::optional<int> InputNumber(std::string_view code);
 

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "ProjectorCommonExport.h"
 #include "device/ProjectorChannel.h"
 
 /// The classes of the protocol that have a command.
@@ -15,7 +16,7 @@ enum class PjLinkClass : std::uint8_t {
 };
 
 /// One operation as PJLink has it.
-struct PjLinkMapping {
+struct PROJECTOR_COMMON_EXPORT PjLinkMapping {
   PjtOperation operation;
   std::uint16_t code;
   std::string_view command;

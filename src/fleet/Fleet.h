@@ -1,0 +1,94 @@
+#pragma once
+
+#include <atomic>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <thread>
+#include <utility>
+#include <vector>
+
+#include "ProjectorFleetExport.h"
+#include "fleet/FleetClock.h"
+#include "fleet/FleetEvents.h"
+#include "fleet/FleetPolicy.h"
+#include "fleet/FleetTarget.h"
+#include "fleet/LiveState.h"
+#include "fleet/SocketNetwork.h"
+
+inline namespace AdvancedControl {
+
+class FleetWatcher;
+
+/// Watches any number of projectors from one thread of its own; docs/fleet.md tells how they are
+/// asked. All functions may be called from any thread and return at once.
+class PROJECTOR_FLEET_EXPORT Fleet {
+ public:
+  /// `onChanges` is called on the fleet's thread when the first change has come since the last
+  /// `TakeChanges`.
+  explicit Fleet(
+      const FleetPolicy& policy = {}, std::function<void()> onChanges = [] {});
+  /// Ends every visit; takes a few milliseconds.
+  ~Fleet();
+  Fleet(const Fleet&) = delete;
+  Fleet& operator=(const Fleet&) = delete;
+
+  /// Adds a projector, which is asked at once, or replaces the one of this identity. One with a
+  /// serial port stays without an answer: a line is for one program alone.
+  void Set(FleetTarget target);
+  void Remove(const std::string& id);
+
+  /// Ends all visits and begins none until asking is switched on again, as it is at first.
+  void SetAsking(bool asks);
+
+  /// Keeps the fleet away from a projector as long as it lives, so that somebody else can work on
+  /// it. Must not outlive the fleet.
+  class PROJECTOR_FLEET_EXPORT Pause {
+   public:
+    [[nodiscard]] Pause(Fleet& fleet, std::string id);
+    ~Pause();
+    Pause(const Pause&) = delete;
+    Pause& operator=(const Pause&) = delete;
+
+   private:
+    Fleet& fleet_;
+    const std::string id_;
+  };
+
+  /// Takes over what a command told that somebody else sent. `power` is the exact state that the
+  /// connection knows.
+  void Learn(const std::string& id, const PjtCommand& command, const PjtReply& reply,
+             std::optional<PowerState> power = {});
+  /// How many settings differ from what they should be, as somebody found out.
+  void LearnDrift(const std::string& id, std::optional<int> drift);
+  /// Asks as early as the policy allows, for example since the projector sent a notice.
+  void AskSoon(const std::string& id);
+
+  /// Nothing for a projector that is not in the fleet.
+  std::optional<LiveState> State(const std::string& id) const;
+  std::vector<std::pair<std::string, LiveState>> States() const;
+  /// The last changes of a projector, the oldest first.
+  std::vector<StateChange> History(const std::string& id) const;
+  /// The changes since the last call.
+  FleetChanges TakeChanges();
+  FleetTally Tally() const;
+
+ private:
+  void Run();
+  auto Locked(const auto& use) const;
+  void Change(const auto& use);
+
+  const std::function<void()> onChanges_;
+  const SystemFleetClock clock_;
+  SocketNetwork network_;
+  std::unique_ptr<FleetWatcher> watcher_;  ///< Under the mutex.
+  mutable std::mutex mutex_;
+  mutable std::atomic<int> callers_ = 0;  ///< Waiting for the mutex, beside the fleet's thread.
+  bool toldChanges_ = false;              ///< Under the mutex.
+  bool ends_ = false;                     ///< Under the mutex.
+  std::thread thread_;
+};
+
+}  // namespace AdvancedControl

@@ -3,6 +3,7 @@
 #include <variant>
 
 #include "fleet/PjLinkVisit.h"
+#include "fleet/WireVisit.h"
 
 inline namespace AdvancedControl {
 
@@ -10,6 +11,9 @@ std::unique_ptr<Visit> MakeVisit(const FleetTarget& target, const FleetPolicy& p
                                  const LiveState& state, const ProjectorMemory& memory) {
   if (const auto* const pjLink = std::get_if<PjLinkAddress>(&target.address)) {
     return std::make_unique<PjLinkVisit>(*pjLink, policy, state, memory, target.model);
+  }
+  if (std::holds_alternative<TcpAddress>(target.address)) {
+    return std::make_unique<WireVisit>(policy, state, memory, target.model);
   }
   return nullptr;
 }

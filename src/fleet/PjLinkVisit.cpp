@@ -38,12 +38,6 @@ std::span<const StatusQuestion> StatusQuestions() {
   return kQuestions;
 }
 
-bool LacksAll(const ProjectorMemory& memory, const StatusQuestion& question) {
-  return std::ranges::all_of(question.items, [&](StatusItem item) {
-    return memory.lacks[static_cast<std::size_t>(item)];
-  });
-}
-
 }  // namespace
 
 PjLinkVisit::PjLinkVisit(const PjLinkAddress& address, const FleetPolicy& policy, LiveState state,
@@ -87,7 +81,10 @@ bool PjLinkVisit::Ask(SessionTime now) {
   }
   const auto questions = StatusQuestions();
   const bool isAsleep = question_ > 0 && state_.power == PowerState::Standby;
-  while (question_ < questions.size() && LacksAll(memory_, questions[question_])) ++question_;
+  const auto lacks = [this](StatusItem item) { return Lacks(item); };
+  while (question_ < questions.size() && std::ranges::all_of(questions[question_].items, lacks)) {
+    ++question_;
+  }
   if (isAsleep || question_ == questions.size()) return false;
   const PjLinkMapping& mapping = *questions[question_].mapping;
   asking_ = Asking::Status;
@@ -117,7 +114,7 @@ void PjLinkVisit::TakeStatusText(const PjLinkTold& told) {
     } else {
       ForgetStatus(state_, item);
     }
-    memory_.lacks[static_cast<std::size_t>(item)] = told.kind == PjLinkTold::Kind::None;
+    SetLacks(item, told.kind == PjLinkTold::Kind::None);
   }
   if (told.kind != PjLinkTold::Kind::Text) return;
   // What PJLink tells beyond a device value.

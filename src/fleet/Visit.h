@@ -54,6 +54,10 @@ class Visit {
   /// Tells when something was sent, and when the first answer was there.
   void TakeSending(SessionTime now);
   void TakeAnswering(SessionTime now);
+  bool Lacks(StatusItem item) const { return memory_.lacks[static_cast<std::size_t>(item)]; }
+  void SetLacks(StatusItem item, bool lacks) {
+    memory_.lacks[static_cast<std::size_t>(item)] = lacks;
+  }
   void Take(StatusItem item, int value) { TakeStatus(state_, item, value, model_.get()); }
 
   LiveState state_;

@@ -104,6 +104,54 @@ TEST(FleetWatcher, TellsWhatAProjectorIsDoing) {
   }
 }
 
+TEST(FleetWatcher, TellsWhatTheStatusPageShowsOfAProjectorOnTheWire) {
+  struct Case {
+    const char* name;
+    std::map<std::uint16_t, int> values;
+    const char* told;
+    int bursts = 2;
+  };
+  namespace Code = CommandCode;
+  const Case cases[] = {
+      {"as usual",
+       {},
+       "answers, on, 3 Video, 000000, 1200 h, filter 80 h, not blank, not mute, not freeze"},
+      {"in standby", {{Code::RunningState, 0}}, "answers, standby", 1},
+      {"cooling down, lamp",
+       {{Code::RunningState, 2}, {Code::ErrorStatus, 3}},
+       "answers, cooling down, 3 Video, 020000, 1200 h, filter 80 h, not blank, not mute, not "
+       "freeze"},
+      {"air flow, switches",
+       {{Code::ErrorStatus, 5}, {Code::BlankState, 1}, {Code::Freeze, 1}, {Code::LampTime, 40000}},
+       "answers, on, 3 Video, 000020, 40000 h, filter 80 h, blank, not mute, freeze"},
+      {"an error without a name, a source without one",
+       {{Code::ErrorStatus, 77}, {Code::InputSource, 9}},
+       "answers, on, 9 , 000002, 1200 h, filter 80 h, not blank, not mute, not freeze"},
+  };
+  const auto model = std::make_shared<ModelData>();
+  model->MySourceList.count = 1;
+  model->MySourceList.names[0] = MakeNameSlot("Video");
+  model->MySourceList.firstValues[0] = 3;
+  for (const Case& one : cases) {
+    SCOPED_TRACE(one.name);
+    SteppedFleet fleet;
+    Projector& it = fleet.AddWire("a", model);
+    for (const auto& [code, value] : one.values) it.wire->values[code] = value;
+    fleet.RunFor(20s);
+    EXPECT_EQ(Words(fleet.State("a")), one.told);
+    EXPECT_EQ(it.bursts, one.bursts);
+  }
+  SteppedFleet fleet;
+  fleet.AddWire("refuses").wire->values.erase(Code::Freeze);
+  fleet.AddWire("gone").isThere = false;
+  fleet.AddWire("greets").wire.reset();  // as PJLink does
+  fleet.RunFor(20s);
+  EXPECT_EQ(Words(fleet.State("refuses")),
+            "answers, on, 3 , 000000, 1200 h, filter 80 h, not blank, not mute");
+  EXPECT_EQ(Words(fleet.State("gone")), "silent");
+  EXPECT_EQ(Words(fleet.State("greets")), "not understood");
+}
+
 TEST(FleetWatcher, AsksNothingTwiceThatStaysAsItIs) {
   SteppedFleet fleet;
   Projector& it = fleet.Add("a");

@@ -8,8 +8,25 @@
 #include <utility>
 #include <vector>
 
+#include "device/CommandCode.h"
 #include "fleet/FleetWatcher.h"
+#include "simulator/WireResponder.h"
 #include "tests/device/BadProjector.h"
+
+/// What answers on the wire: the codes that it has, with their values.
+class WireDevice final : public ProjectorChannel {
+ public:
+  std::map<std::uint16_t, int> values{
+      {CommandCode::RunningState, 1}, {CommandCode::InputSource, 3}, {CommandCode::ErrorStatus, 0},
+      {CommandCode::BlankState, 0},   {CommandCode::Mute, 0},        {CommandCode::Freeze, 0},
+      {CommandCode::LampTime, 1200},  {CommandCode::FilterTime, 80}};
+
+  PjtReply Execute(const PjtCommand& command) override {
+    const auto found = values.find(command.code);
+    if (found == values.end()) return {};
+    return {.result = 1, .value = static_cast<std::int16_t>(found->second)};
+  }
+};
 
 /// Projectors in a time of their own, the network that leads to them, and the fleet that watches
 /// them. Nothing here waits. A projector's host is its identity.
@@ -24,13 +41,21 @@ class SteppedFleet final : public FleetNetwork, public FleetClock {
     std::vector<SessionTime> connections{};  ///< When each began.
     int mostConnections = 0;                 ///< At the same time.
     int open = 0;
-    int requests = 0;
+    int bursts = 0;                      ///< Of requests.
+    std::shared_ptr<WireDevice> wire{};  ///< Speaks the wire then, and not PJLink.
+    std::optional<WireResponder> responder{};
   };
 
   explicit SteppedFleet(const FleetPolicy& policy = {}) : watcher(policy, *this, *this) {}
 
   Projector& Add(const std::string& id, const std::string& password = {}) {
     watcher.Set({id, PjLinkAddress{.host = id, .password = password}});
+    return projectors[id];
+  }
+
+  Projector& AddWire(const std::string& id, std::shared_ptr<const ModelData> model = {}) {
+    watcher.Set({id, TcpAddress{.host = id}, std::move(model)});
+    projectors[id].wire = std::make_shared<WireDevice>();
     return projectors[id];
   }
 
@@ -70,8 +95,9 @@ class SteppedFleet final : public FleetNetwork, public FleetClock {
       }
       links_[peer].isOpen = true;
       met.mostConnections = std::max(met.mostConnections, ++met.open);
+      if (met.wire) met.responder.emplace(*met.wire);
       watcher.Connected(peer);
-      Bytes(peer, attempt, met.device.greeting, Milliseconds(1));
+      if (!met.wire) Bytes(peer, attempt, met.device.greeting, Milliseconds(1));
     });
   }
 
@@ -79,8 +105,9 @@ class SteppedFleet final : public FleetNetwork, public FleetClock {
     const Link& link = links_[peer];
     Projector& projector = projectors[link.host];
     if (!projector.isThere) return;
-    ++projector.requests;
-    const auto answer = projector.device.Receive(bytes, now_);
+    ++projector.bursts;
+    const auto answer = projector.wire ? std::optional(projector.responder->Receive(bytes))
+                                       : projector.device.Receive(bytes, now_);
     if (answer) Bytes(peer, link.attempt, *answer, projector.device.answers);
     if (!projector.device.IsOpen()) {
       Later(projector.device.answers, peer, link.attempt, [this, peer] {

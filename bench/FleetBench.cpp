@@ -1,0 +1,172 @@
+// What it costs to ask many projectors how they are: the fleet, and beside it the least that any
+// program can do, a loop that sends the same bytes and looks at nothing.
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <fstream>
+#include <netinet/in.h>
+#include <netinet/tcp.h>
+#include <string>
+#include <sys/epoll.h>
+#include <sys/resource.h>
+#include <sys/socket.h>
+#include <thread>
+#include <unistd.h>
+#include <vector>
+
+#include <benchmark/benchmark.h>
+
+#include "bench/FleetServer.h"
+#include "device/Connect.h"
+#include "fleet/Fleet.h"
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+using Protocol = FleetServer::Protocol;
+
+double SecondsSince(Clock::time_point start) {
+  return std::chrono::duration<double>(Clock::now() - start).count();
+}
+
+double CpuSeconds() {
+  rusage usage{};
+  getrusage(RUSAGE_SELF, &usage);
+  const auto seconds = [](const timeval& time) {
+    return static_cast<double>(time.tv_sec) + 1e-6 * static_cast<double>(time.tv_usec);
+  };
+  return seconds(usage.ru_utime) + seconds(usage.ru_stime);
+}
+
+double Status(const std::string& field) {
+  std::ifstream status("/proc/self/status");
+  for (std::string name; status >> name;) {
+    double value = 0;
+    if (name == field && status >> value) return value;
+  }
+  return 0;
+}
+
+FleetTarget TargetOf(Protocol protocol, std::uint16_t port) {
+  const std::string host = "127.0.0.1";
+  if (protocol == Protocol::Wire) return {std::to_string(port), TcpAddress{host, port}};
+  return {std::to_string(port), PjLinkAddress{.host = host, .port = port, .password = {}}};
+}
+
+/// Asks every projector once with `atOnce` connections: the requests one after the other, or all
+/// together where `bursts`.
+void BareSweep(const std::vector<std::uint16_t>& ports, const std::vector<std::string>& requests,
+               bool greets, std::size_t atOnce) {
+  const int epoll = epoll_create1(EPOLL_CLOEXEC);
+  std::vector<std::size_t> next(20'000);
+  std::size_t begun = 0;
+  std::size_t ended = 0;
+  const auto begin = [&] {
+    const int file = socket(AF_INET, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
+    const int on = 1;
+    setsockopt(file, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    address.sin_port = htons(ports[begun++]);
+    connect(file, reinterpret_cast<sockaddr*>(&address), sizeof address);
+    next[static_cast<std::size_t>(file)] = 0;
+    epoll_event event{.events = (greets ? EPOLLIN : EPOLLIN | EPOLLOUT) | EPOLLET,
+                      .data = {.fd = file}};
+    epoll_ctl(epoll, EPOLL_CTL_ADD, file, &event);
+  };
+  std::array<epoll_event, 64> events{};
+  std::array<char, 4096> buffer{};
+  while (ended < ports.size()) {
+    while (begun < ports.size() && begun - ended < atOnce) begin();
+    const int count = epoll_wait(epoll, events.data(), static_cast<int>(events.size()), -1);
+    for (int i = 0; i < count; ++i) {
+      const int file = events.at(static_cast<std::size_t>(i)).data.fd;
+      std::size_t& request = next[static_cast<std::size_t>(file)];
+      const auto size = recv(file, buffer.data(), buffer.size(), 0);
+      if (size <= 0 && (greets || request > 0)) continue;
+      if (request == requests.size()) {
+        close(file);
+        ++ended;
+        continue;
+      }
+      const std::string& bytes = requests[request++];
+      send(file, bytes.data(), bytes.size(), MSG_NOSIGNAL);
+    }
+  }
+  close(epoll);
+}
+
+const std::vector<std::string>& PjLinkRequests() {
+  static const std::vector<std::string> kRequests{"%1POWR ?\r", "%2INPT ?\r", "%1ERST ?\r",
+                                                  "%1AVMT ?\r", "%2FREZ ?\r", "%1LAMP ?\r",
+                                                  "%2FILT ?\r"};
+  return kRequests;
+}
+
+/// Waits until so many visits have ended.
+void AwaitVisits(const Fleet& fleet, std::uint64_t count) {
+  while (true) {
+    const FleetTally tally = fleet.Tally();
+    if (tally.answered + tally.unanswered >= count) return;
+    std::this_thread::sleep_for(std::chrono::milliseconds(2));
+  }
+}
+
+// Arguments: the protocol, and how many projectors. A sweep asks each of them once; the first one,
+// which also learns what does not change, is not counted.
+void FleetSweep(benchmark::State& state) {
+  const auto protocol = static_cast<Protocol>(state.range(0));
+  const auto count = static_cast<std::uint64_t>(state.range(1));
+  const FleetServer server(protocol, static_cast<int>(count));
+  FleetPolicy policy;
+  policy.interval = std::chrono::hours(1);
+  policy.longestPause = std::chrono::hours(1);
+  policy.soonest = std::chrono::milliseconds(0);
+  Fleet fleet(policy);
+  for (const std::uint16_t port : server.Ports()) fleet.Set(TargetOf(protocol, port));
+  std::uint64_t visits = count;
+  AwaitVisits(fleet, visits);
+  double cpu = 0;
+  double time = 0;
+  double bareCpu = 0;
+  double bareTime = 0;
+  const double firstMemory = Status("VmRSS:");
+  for ([[maybe_unused]] auto iteration : state) {
+    double cpuBefore = CpuSeconds();
+    auto start = Clock::now();
+    for (const std::uint16_t port : server.Ports()) fleet.AskSoon(std::to_string(port));
+    visits += count;
+    AwaitVisits(fleet, visits);
+    const double seconds = SecondsSince(start);
+    state.SetIterationTime(seconds);
+    time += seconds;
+    cpu += CpuSeconds() - cpuBefore;
+    if (protocol == Protocol::Wire) continue;
+    cpuBefore = CpuSeconds();
+    start = Clock::now();
+    BareSweep(server.Ports(), PjLinkRequests(), true, policy.visitsAtOnce);
+    bareTime += SecondsSince(start);
+    bareCpu += CpuSeconds() - cpuBefore;
+  }
+  if (fleet.Tally().unanswered > 0) state.SkipWithError("a projector did not answer");
+  const auto sweeps = static_cast<double>(state.iterations());
+  const double asked = sweeps * static_cast<double>(count);
+  state.counters["cpu_ms_each"] = 1000 * cpu / asked;
+  state.counters["bare_cpu_ms_each"] = 1000 * bareCpu / asked;
+  state.counters["bare_s"] = bareTime / sweeps;
+  state.counters["ratio"] = bareTime > 0 ? time / bareTime : 0;
+  state.counters["cpu_ratio"] = bareCpu > 0 ? cpu / bareCpu : 0;
+  state.counters["MB"] = Status("VmRSS:") / 1024;
+  state.counters["MB_grown"] = (Status("VmRSS:") - firstMemory) / 1024;
+  state.counters["threads"] = Status("Threads:");
+}
+BENCHMARK(FleetSweep)
+    ->ArgsProduct({{static_cast<int>(Protocol::PjLink)}, {10, 100, 1'000, 10'000}})
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+BENCHMARK_MAIN();

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <utility>
+
+#include "device/ForwardingChannel.h"
+
+inline namespace AdvancedControl {
+
+/// Tells somebody, such as a fleet, what each command of another channel came to. `told` is called
+/// on the thread of the command.
+class LearningChannel final : public ForwardingChannel {
+ public:
+  using Told = std::function<void(const PjtCommand&, const PjtReply&, std::optional<PowerState>)>;
+
+  LearningChannel(std::shared_ptr<ProjectorChannel> inner, Told told)
+      : ForwardingChannel(std::move(inner)), told_(std::move(told)) {}
+
+  PjtReply Execute(const PjtCommand& command) override {
+    const PjtReply reply = Inner().Execute(command);
+    told_(command, reply, Power());
+    return reply;
+  }
+
+ private:
+  const Told told_;
+};
+
+}  // namespace AdvancedControl

@@ -1,58 +1,19 @@
 // A fleet's thread and real sockets, to simulated projectors on the loopback address.
 
+#include <atomic>
 #include <chrono>
-#include <functional>
 #include <string>
-#include <thread>
 
 #include <QCoreApplication>
-#include <QHostAddress>
 #include <gtest/gtest.h>
 
 #include "device/CommandCode.h"
-#include "device/ModelDataIntake.h"
 #include "fleet/Fleet.h"
-#include "simulator/PjLinkServer.h"
-#include "simulator/SimulatedProjector.h"
-#include "simulator/WireServer.h"
+#include "tests/fleet/Served.h"
 
 namespace {
 
 using namespace std::chrono_literals;
-
-ModelData Model() {
-  ModelData model;
-  model.DialogType = 5;
-  model.ModelCode = 54;
-  return model;
-}
-
-/// A projector that is served both ways, on the thread of the test.
-struct ServedTwice {
-  std::shared_ptr<SimulatedProjector> projector =
-      std::make_shared<SimulatedProjector>(DescribeModel(Model()));
-  PjLinkServer pjLink{projector, {.password = "secret"}};
-  WireServer wire{projector};
-  std::uint16_t wirePort = wire.Listen(QHostAddress::LocalHost, 0);
-
-  ServedTwice() { EXPECT_TRUE(pjLink.Listen("127.0.0.1", 0)); }
-  PjLinkAddress PjLink(const std::string& password) const {
-    return {.host = "127.0.0.1",
-            .port = static_cast<std::uint16_t>(pjLink.Port()),
-            .password = password};
-  }
-};
-
-/// Serves until it is so; false if that takes very long.
-bool Becomes(const std::function<bool()>& isSo) {
-  const auto end = std::chrono::steady_clock::now() + 60s;
-  while (!isSo()) {
-    if (std::chrono::steady_clock::now() > end) return false;
-    QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
-    std::this_thread::sleep_for(1ms);
-  }
-  return true;
-}
 
 class FleetTest : public testing::Test {
  protected:
@@ -61,13 +22,13 @@ class FleetTest : public testing::Test {
   int count_ = 0;
   char* name_ = nullptr;
   QCoreApplication application_{count_, &name_};
-  ServedTwice served;
+  Served served;
   std::atomic<int> wakes = 0;
   Fleet fleet{{.interval = 50ms, .soonest = 10ms}, [this] { ++wakes; }};
 };
 
 TEST_F(FleetTest, WatchesRealProjectors) {
-  served.projector->Execute({PjtOperation::SetPowerOn});
+  served.device->Execute({PjtOperation::SetPowerOn});
   fleet.Set({"pjlink", served.PjLink("secret")});
   fleet.Set({"wire", TcpAddress{.host = "localhost", .port = served.wirePort}});
   fleet.Set({"locked", served.PjLink("wrong")});
@@ -90,7 +51,7 @@ TEST_F(FleetTest, WatchesRealProjectors) {
   const int before = wakes;
   {
     const Fleet::Pause pause(fleet, "pjlink");
-    served.projector->Execute({PjtOperation::Set, CommandCode::BlankState, 1});
+    served.device->Execute({PjtOperation::Set, CommandCode::BlankState, 1});
     EXPECT_TRUE(Becomes([&] { return fleet.State("wire")->blank == true; }));
     EXPECT_NE(fleet.State("pjlink")->blank, true);
   }

@@ -5,6 +5,7 @@
 #include <array>
 #include <chrono>
 #include <fstream>
+#include <memory>
 #include <netinet/in.h>
 #include <netinet/tcp.h>
 #include <string>
@@ -18,7 +19,9 @@
 #include <benchmark/benchmark.h>
 
 #include "bench/FleetServer.h"
+#include "device/CommandCode.h"
 #include "device/Connect.h"
+#include "device/WireFrame.h"
 #include "fleet/Fleet.h"
 
 namespace {
@@ -54,10 +57,30 @@ FleetTarget TargetOf(Protocol protocol, std::uint16_t port) {
   return {std::to_string(port), PjLinkAddress{.host = host, .port = port, .password = {}}};
 }
 
-/// Asks every projector once with `atOnce` connections: the requests one after the other, or all
-/// together where `bursts`.
-void BareSweep(const std::vector<std::uint16_t>& ports, const std::vector<std::string>& requests,
-               bool greets, std::size_t atOnce) {
+/// What the fleet sends to a projector that it knows, each after the answer to the one before.
+std::vector<std::string> RequestsOf(Protocol protocol) {
+  if (protocol == Protocol::PjLink) {
+    return {"%1POWR ?\r", "%2INPT ?\r", "%1ERST ?\r", "%1AVMT ?\r",
+            "%2FREZ ?\r", "%1LAMP ?\r", "%2FILT ?\r"};
+  }
+  std::string first;
+  std::string rest;
+  std::uint16_t sequence = 0;
+  Wire::Append(first, {.sequence = ++sequence, .message = Wire::Hello{}});
+  for (const std::uint16_t code :
+       {CommandCode::RunningState, CommandCode::InputSource, CommandCode::ErrorStatus,
+        CommandCode::BlankState, CommandCode::Mute, CommandCode::Freeze, CommandCode::LampTime,
+        CommandCode::FilterTime}) {
+    Wire::Append(code == CommandCode::RunningState ? first : rest,
+                 {.sequence = ++sequence, .message = Wire::MakeRequest({PjtOperation::Get, code})});
+  }
+  return {first, rest};
+}
+
+/// Asks every projector once, with so many connections at a time.
+void BareSweep(const std::vector<std::uint16_t>& ports, Protocol protocol, std::size_t atOnce) {
+  const std::vector<std::string> requests = RequestsOf(protocol);
+  const bool greets = protocol == Protocol::PjLink;
   const int epoll = epoll_create1(EPOLL_CLOEXEC);
   std::vector<std::size_t> next(20'000);
   std::size_t begun = 0;
@@ -98,13 +121,6 @@ void BareSweep(const std::vector<std::uint16_t>& ports, const std::vector<std::s
   close(epoll);
 }
 
-const std::vector<std::string>& PjLinkRequests() {
-  static const std::vector<std::string> kRequests{"%1POWR ?\r", "%2INPT ?\r", "%1ERST ?\r",
-                                                  "%1AVMT ?\r", "%2FREZ ?\r", "%1LAMP ?\r",
-                                                  "%2FILT ?\r"};
-  return kRequests;
-}
-
 /// Waits until so many visits have ended.
 void AwaitVisits(const Fleet& fleet, std::uint64_t count) {
   while (true) {
@@ -114,12 +130,14 @@ void AwaitVisits(const Fleet& fleet, std::uint64_t count) {
   }
 }
 
-// Arguments: the protocol, and how many projectors. A sweep asks each of them once; the first one,
-// which also learns what does not change, is not counted.
+// Arguments: the protocol, how many projectors, and 20 where each twentieth is silent, or 0. A
+// sweep asks each of them once; the first one, which also learns what does not change, is not
+// counted.
 void FleetSweep(benchmark::State& state) {
   const auto protocol = static_cast<Protocol>(state.range(0));
   const auto count = static_cast<std::uint64_t>(state.range(1));
-  const FleetServer server(protocol, static_cast<int>(count));
+  const auto silentOne = static_cast<int>(state.range(2));
+  const FleetServer server(protocol, static_cast<int>(count), silentOne);
   FleetPolicy policy;
   policy.interval = std::chrono::hours(1);
   policy.longestPause = std::chrono::hours(1);
@@ -143,29 +161,49 @@ void FleetSweep(benchmark::State& state) {
     state.SetIterationTime(seconds);
     time += seconds;
     cpu += CpuSeconds() - cpuBefore;
-    if (protocol == Protocol::Wire) continue;
+    if (silentOne > 0) continue;
     cpuBefore = CpuSeconds();
     start = Clock::now();
-    BareSweep(server.Ports(), PjLinkRequests(), true, policy.visitsAtOnce);
+    BareSweep(server.Ports(), protocol, policy.visitsAtOnce);
     bareTime += SecondsSince(start);
     bareCpu += CpuSeconds() - cpuBefore;
   }
-  if (fleet.Tally().unanswered > 0) state.SkipWithError("a projector did not answer");
   const auto sweeps = static_cast<double>(state.iterations());
   const double asked = sweeps * static_cast<double>(count);
+  const std::uint64_t silent = silentOne > 0 ? visits / static_cast<unsigned>(silentOne) : 0;
+  if (fleet.Tally().unanswered != silent) state.SkipWithError("another number is silent");
   state.counters["cpu_ms_each"] = 1000 * cpu / asked;
-  state.counters["bare_cpu_ms_each"] = 1000 * bareCpu / asked;
-  state.counters["bare_s"] = bareTime / sweeps;
-  state.counters["ratio"] = bareTime > 0 ? time / bareTime : 0;
-  state.counters["cpu_ratio"] = bareCpu > 0 ? cpu / bareCpu : 0;
   state.counters["MB"] = Status("VmRSS:") / 1024;
   state.counters["MB_grown"] = (Status("VmRSS:") - firstMemory) / 1024;
   state.counters["threads"] = Status("Threads:");
+  if (silentOne > 0) return;
+  state.counters["bare_cpu_ms_each"] = 1000 * bareCpu / asked;
+  state.counters["ratio"] = time / bareTime;
+  state.counters["cpu_ratio"] = cpu / bareCpu;
 }
 BENCHMARK(FleetSweep)
-    ->ArgsProduct({{static_cast<int>(Protocol::PjLink)}, {10, 100, 1'000, 10'000}})
+    ->ArgsProduct({{static_cast<int>(Protocol::PjLink), static_cast<int>(Protocol::Wire)},
+                   {10, 100, 1'000, 10'000},
+                   {0}})
+    ->Args({static_cast<int>(Protocol::PjLink), 10'000, 20})
+    ->Args({static_cast<int>(Protocol::Wire), 10'000, 20})
+    ->ArgNames({"wire", "projectors", "silent"})
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);
+
+// How long the end takes in the middle of a sweep. Argument: how many projectors.
+void EndFleet(benchmark::State& state) {
+  const FleetServer server(Protocol::PjLink, static_cast<int>(state.range(0)), 0);
+  for ([[maybe_unused]] auto iteration : state) {
+    auto fleet = std::make_unique<Fleet>();
+    for (const std::uint16_t port : server.Ports()) fleet->Set(TargetOf(Protocol::PjLink, port));
+    AwaitVisits(*fleet, static_cast<std::uint64_t>(state.range(0)) / 4);
+    const auto start = Clock::now();
+    fleet.reset();
+    state.SetIterationTime(SecondsSince(start));
+  }
+}
+BENCHMARK(EndFleet)->Arg(10'000)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

@@ -46,7 +46,7 @@ int Listen(std::uint16_t& port) {
   address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
   socklen_t size = sizeof address;
   if (listener < 0 || bind(listener, reinterpret_cast<sockaddr*>(&address), size) != 0 ||
-      listen(listener, 4) != 0 ||
+      listen(listener, 64) != 0 ||
       getsockname(listener, reinterpret_cast<sockaddr*>(&address), &size) != 0) {
     std::abort();
   }
@@ -55,7 +55,8 @@ int Listen(std::uint16_t& port) {
 }
 
 /// Serves until the process is killed.
-[[noreturn]] void Serve(FleetServer::Protocol protocol, const std::vector<int>& listeners) {
+[[noreturn]] void Serve(FleetServer::Protocol protocol, const std::vector<int>& listeners,
+                        int silentOne) {
   const bool isWire = protocol == FleetServer::Protocol::Wire;
   const int epoll = epoll_create1(EPOLL_CLOEXEC);
   const auto watch = [epoll](int file, bool listens) {
@@ -63,7 +64,10 @@ int Listen(std::uint16_t& port) {
                       .data = {.u64 = std::uint64_t{listens} << 32 | static_cast<unsigned>(file)}};
     epoll_ctl(epoll, EPOLL_CTL_ADD, file, &event);
   };
-  for (const int listener : listeners) watch(listener, true);
+  for (std::size_t i = 0; i < listeners.size(); ++i) {
+    // The system accepts for one that nobody watches.
+    if (silentOne == 0 || i % static_cast<std::size_t>(silentOne) != 0) watch(listeners[i], true);
+  }
   Device device;
   std::unordered_map<int, std::unique_ptr<WireResponder>> responders;
   std::array<epoll_event, 64> events{};
@@ -100,7 +104,7 @@ int Listen(std::uint16_t& port) {
 
 }  // namespace
 
-FleetServer::FleetServer(Protocol protocol, int projectors) {
+FleetServer::FleetServer(Protocol protocol, int projectors, int silentOne) {
   rlimit files{};
   getrlimit(RLIMIT_NOFILE, &files);
   files.rlim_cur = files.rlim_max;
@@ -114,7 +118,7 @@ FleetServer::FleetServer(Protocol protocol, int projectors) {
   process_ = fork();
   if (process_ == 0) {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
-    Serve(protocol, listeners);
+    Serve(protocol, listeners, silentOne);
   }
   for (const int listener : listeners) close(listener);
 }

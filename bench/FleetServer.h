@@ -11,7 +11,8 @@ class FleetServer {
  public:
   enum class Protocol { PjLink, Wire };
 
-  FleetServer(Protocol protocol, int projectors);
+  /// Each `silentOne`th projector accepts connections and says nothing; 0 for none.
+  FleetServer(Protocol protocol, int projectors, int silentOne);
   ~FleetServer();
   FleetServer(const FleetServer&) = delete;
   FleetServer& operator=(const FleetServer&) = delete;

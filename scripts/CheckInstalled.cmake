@@ -65,8 +65,8 @@ foreach(shown pages settings)
 endforeach()
 
 # Hardened, and no library is looked for in the current directory.
-foreach(built libAdvancedControl.so libProjectorSettings.so libProjectorCommon.so advanced-control acctl
-              advanced-control-simulator)
+foreach(built libAdvancedControl.so libProjectorFleet.so libProjectorSettings.so libProjectorCommon.so
+              advanced-control acctl advanced-control-simulator)
   execute_process(COMMAND readelf -Wd ${BUILD_DIR}/bin/${built} OUTPUT_VARIABLE dynamic
                   COMMAND_ERROR_IS_FATAL ANY)
   if(NOT dynamic MATCHES "BIND_NOW|Flags: NOW")
@@ -81,8 +81,8 @@ foreach(built libAdvancedControl.so libProjectorSettings.so libProjectorCommon.s
   if(NOT used MATCHES "__stack_chk_fail")
     message(FATAL_ERROR "${built} has no stack protector")
   endif()
-  # The dialog's library, compiled as the others are, calls nothing that this would change.
-  if(built MATCHES "^libProjector" AND NOT used MATCHES "__[a-z]+printf_chk")
+  # The other libraries, compiled as these are, call nothing that this would change.
+  if(built MATCHES "^libProjector(Settings|Common)" AND NOT used MATCHES "__[a-z]+printf_chk")
     message(FATAL_ERROR "${built} is not fortified")
   endif()
 endforeach()
@@ -116,7 +116,7 @@ expect_catalog(${multiarch} ".*mcdll.dll is refused.*")
 
 # A function that a library shows may be taken over by one of its host's that is called the same.
 set(shown "")
-foreach(library AdvancedControl ProjectorSettings ProjectorCommon)
+foreach(library AdvancedControl ProjectorFleet ProjectorSettings ProjectorCommon)
   execute_process(COMMAND nm -DC --defined-only ${BUILD_DIR}/bin/lib${library}.so
                   OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
   string(REGEX MATCHALL " T [^\n]*" functions "${symbols}")

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # The checks beside the tests: floors, release build without warnings, acctl on it, what the
-# installed library offers, benchmarks that run, clang-tidy, the channels and the fleet under the thread sanitizer,
-# and the fuzz targets for a moment.
+# installed library offers, benchmarks that run, clang-tidy, channels and fleet under the thread
+# sanitizer, and the fuzz targets for a moment.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

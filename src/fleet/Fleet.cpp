@@ -1,12 +1,29 @@
 #include "fleet/Fleet.h"
 
+#include <algorithm>
+#include <sys/resource.h>
+
 #include "fleet/FleetWatcher.h"
 
 inline namespace AdvancedControl {
 
+namespace {
+
+/// Leaves files for the rest of the program: a projector must not seem silent for want of one.
+FleetPolicy WithinLimits(FleetPolicy policy) {
+  rlimit files{};
+  if (getrlimit(RLIMIT_NOFILE, &files) == 0 && files.rlim_cur != RLIM_INFINITY) {
+    const auto most = std::max<std::size_t>(files.rlim_cur / 2, 1);
+    policy.visitsAtOnce = std::min(policy.visitsAtOnce, most);
+  }
+  return policy;
+}
+
+}  // namespace
+
 Fleet::Fleet(const FleetPolicy& policy, std::function<void()> onChanges)
     : onChanges_(std::move(onChanges)),
-      watcher_(std::make_unique<FleetWatcher>(policy, network_, clock_)),
+      watcher_(std::make_unique<FleetWatcher>(WithinLimits(policy), network_, clock_)),
       thread_([this] { Run(); }) {}
 
 Fleet::~Fleet() {

@@ -28,7 +28,7 @@ class FleetNetwork {
 
   virtual ~FleetNetwork() = default;
 
-  /// Begins to connect a peer that is not connected. `host` is a name or an address.
+  /// Begins to connect, and ends the connection before. `host` is a name or an address.
   virtual void Connect(Peer peer, const std::string& host, std::uint16_t port) = 0;
   /// What cannot be sent at once breaks the connection, of which the listener is then told.
   virtual void Send(Peer peer, std::string_view bytes) = 0;

@@ -33,14 +33,14 @@ FleetWatcher::FleetWatcher(const FleetPolicy& policy, FleetNetwork& network,
 
 void FleetWatcher::Set(FleetTarget target) {
   if (const auto found = peers_.find(target.id); found != peers_.end()) {
-    const Peer peer = found->second;
-    Watched& watched = *watched_[peer];
-    Abandon(peer);
+    Watched& watched = *watched_[found->second];
     const bool hasMoved = watched.target.address != target.address;
     watched.target = std::move(target);
+    if (!hasMoved) return;
+    Abandon(found->second);
     watched.memory = {};
-    if (hasMoved) watched.schedule = {};
-    return Schedule(peer);
+    watched.schedule = {};
+    return Schedule(found->second);
   }
   Peer peer = 0;
   if (free_.empty()) {

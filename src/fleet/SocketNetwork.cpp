@@ -45,6 +45,7 @@ SocketNetwork::~SocketNetwork() {
 }
 
 void SocketNetwork::Connect(Peer peer, const std::string& host, std::uint16_t port) {
+  Close(peer);
   Link& link = LinkOf(peer);
   ++link.generation;
   link.port = port;

@@ -46,17 +46,17 @@ PartProblems ProblemsOf(int text) {
     int text;
     ProjectorPart part;
   };
-  using enum ProjectorPart;
-  constexpr ErrorText kParts[] = {
-      {ListText::ErrorFan, Fan},          {ListText::ErrorLamp, Lamp},
-      {ListText::ErrorLampTime, Lamp},    {ListText::ErrorTemperature, Temperature},
-      {ListText::ErrorCool, Temperature}, {ListText::ErrorCover, Cover},
-      {ListText::ErrorAirFlow, Filter},   {ListText::ErrorFilter, Filter},
+  using Part = ProjectorPart;
+  constexpr ErrorText kErrorTexts[] = {
+      {ListText::ErrorFan, Part::Fan},          {ListText::ErrorLamp, Part::Lamp},
+      {ListText::ErrorLampTime, Part::Lamp},    {ListText::ErrorTemperature, Part::Temperature},
+      {ListText::ErrorCool, Part::Temperature}, {ListText::ErrorCover, Part::Cover},
+      {ListText::ErrorAirFlow, Part::Filter},   {ListText::ErrorFilter, Part::Filter},
   };
   PartProblems problems{};
   if (text == ListText::ErrorNone) return problems;
-  const auto* const found = std::ranges::find(kParts, text, &ErrorText::text);
-  const ProjectorPart part = found == std::end(kParts) ? Other : found->part;
+  const auto* const found = std::ranges::find(kErrorTexts, text, &ErrorText::text);
+  const Part part = found == std::end(kErrorTexts) ? Part::Other : found->part;
   problems.at(static_cast<std::size_t>(part)) = ProblemGrade::Error;
   return problems;
 }

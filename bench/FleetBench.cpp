@@ -16,6 +16,7 @@
 #include <unistd.h>
 #include <vector>
 
+#include <QCoreApplication>
 #include <benchmark/benchmark.h>
 
 #include "bench/FleetServer.h"
@@ -204,6 +205,51 @@ void EndFleet(benchmark::State& state) {
   }
 }
 BENCHMARK(EndFleet)->Arg(10'000)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+// How long an event loop is busy with changes, of which 1,000 a second come while the fleet sweeps.
+// Argument: how many projectors.
+void TakeChanges(benchmark::State& state) {
+  const auto count = static_cast<int>(state.range(0));
+  const FleetServer server(Protocol::PjLink, count, 0);
+  int arguments = 0;
+  QCoreApplication application(arguments, nullptr);
+  FleetPolicy policy;
+  policy.interval = std::chrono::milliseconds(500);
+  double longest = 0;
+  std::size_t taken = 0;
+  for ([[maybe_unused]] auto iteration : state) {
+    std::unique_ptr<Fleet> fleet;
+    const auto take = [&] {
+      const auto start = Clock::now();
+      taken += fleet->TakeChanges().changes.size();
+      longest = std::max(longest, SecondsSince(start));
+    };
+    fleet = std::make_unique<Fleet>(
+        policy, [&] { QMetaObject::invokeMethod(&application, take, Qt::QueuedConnection); });
+    for (const std::uint16_t port : server.Ports()) fleet->Set(TargetOf(Protocol::PjLink, port));
+    AwaitVisits(*fleet, static_cast<std::uint64_t>(count));
+    take();
+    taken = 0;
+    longest = 0;
+    std::thread changing([&] {
+      for (int i = 0; i < 2000; ++i) {
+        const auto port = server.Ports()[static_cast<std::size_t>(i % count)];
+        fleet->LearnDrift(std::to_string(port), i);
+        std::this_thread::sleep_for(std::chrono::microseconds(900));
+      }
+      QMetaObject::invokeMethod(&application, &QCoreApplication::quit, Qt::QueuedConnection);
+    });
+    const auto start = Clock::now();
+    QCoreApplication::exec();
+    state.SetIterationTime(SecondsSince(start));
+    state.counters["changes_per_s"] = static_cast<double>(taken) / SecondsSince(start);
+    changing.join();
+    fleet.reset();
+    QCoreApplication::processEvents();
+  }
+  state.counters["longest_ms"] = 1000 * longest;
+}
+BENCHMARK(TakeChanges)->Arg(1'000)->Iterations(1)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

@@ -16,7 +16,7 @@ struct FleetPolicy {
   /// The shortest pause where somebody wants to know at once.
   std::chrono::milliseconds soonest{5'000};
   /// Projectors visited at the same time, with a connection each.
-  std::size_t visitsAtOnce = 400;
+  std::size_t visitsAtOnce = 1000;
   std::chrono::milliseconds connect{2000};  ///< Time for connecting, until the projector greets.
   std::chrono::milliseconds answer{2000};   ///< Time for each answer.
   std::size_t history = 16;                 ///< Changes kept for each projector.

@@ -4,13 +4,11 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
-#include <fstream>
 #include <memory>
 #include <netinet/in.h>
 #include <netinet/tcp.h>
 #include <string>
 #include <sys/epoll.h>
-#include <sys/resource.h>
 #include <sys/socket.h>
 #include <thread>
 #include <unistd.h>
@@ -19,38 +17,15 @@
 #include <QCoreApplication>
 #include <benchmark/benchmark.h>
 
+#include "bench/FleetMeasures.h"
 #include "bench/FleetServer.h"
 #include "device/CommandCode.h"
 #include "device/Connect.h"
 #include "device/WireFrame.h"
-#include "fleet/Fleet.h"
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
 using Protocol = FleetServer::Protocol;
-
-double SecondsSince(Clock::time_point start) {
-  return std::chrono::duration<double>(Clock::now() - start).count();
-}
-
-double CpuSeconds() {
-  rusage usage{};
-  getrusage(RUSAGE_SELF, &usage);
-  const auto seconds = [](const timeval& time) {
-    return static_cast<double>(time.tv_sec) + 1e-6 * static_cast<double>(time.tv_usec);
-  };
-  return seconds(usage.ru_utime) + seconds(usage.ru_stime);
-}
-
-double Status(const std::string& field) {
-  std::ifstream status("/proc/self/status");
-  for (std::string name; status >> name;) {
-    double value = 0;
-    if (name == field && status >> value) return value;
-  }
-  return 0;
-}
 
 FleetTarget TargetOf(Protocol protocol, std::uint16_t port) {
   const std::string host = "127.0.0.1";
@@ -122,15 +97,6 @@ void BareSweep(const std::vector<std::uint16_t>& ports, Protocol protocol, std::
   close(epoll);
 }
 
-/// Waits until so many visits have ended.
-void AwaitVisits(const Fleet& fleet, std::uint64_t count) {
-  while (true) {
-    const FleetTally tally = fleet.Tally();
-    if (tally.answered + tally.unanswered >= count) return;
-    std::this_thread::sleep_for(std::chrono::milliseconds(2));
-  }
-}
-
 // Arguments: the protocol, how many projectors, and 20 where each twentieth is silent, or 0. A
 // sweep asks each of them once; the first one, which also learns what does not change, is not
 // counted.
@@ -151,7 +117,7 @@ void FleetSweep(benchmark::State& state) {
   double time = 0;
   double bareCpu = 0;
   double bareTime = 0;
-  const double firstMemory = Status("VmRSS:");
+  const double firstMemory = StatusOf("self", "VmRSS:");
   for ([[maybe_unused]] auto iteration : state) {
     double cpuBefore = CpuSeconds();
     auto start = Clock::now();
@@ -174,9 +140,9 @@ void FleetSweep(benchmark::State& state) {
   const std::uint64_t silent = silentOne > 0 ? visits / static_cast<unsigned>(silentOne) : 0;
   if (fleet.Tally().unanswered != silent) state.SkipWithError("another number is silent");
   state.counters["cpu_ms_each"] = 1000 * cpu / asked;
-  state.counters["MB"] = Status("VmRSS:") / 1024;
-  state.counters["MB_grown"] = (Status("VmRSS:") - firstMemory) / 1024;
-  state.counters["threads"] = Status("Threads:");
+  state.counters["MB"] = StatusOf("self", "VmRSS:") / 1024;
+  state.counters["MB_grown"] = (StatusOf("self", "VmRSS:") - firstMemory) / 1024;
+  state.counters["threads"] = StatusOf("self", "Threads:");
   if (silentOne > 0) return;
   state.counters["bare_cpu_ms_each"] = 1000 * bareCpu / asked;
   state.counters["ratio"] = time / bareTime;

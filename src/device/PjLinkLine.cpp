@@ -53,6 +53,14 @@ std::optional<Line> Parse(std::string_view text) {
   return Line{text[1], std::string(command), separator, std::string(text.substr(kHeadLength))};
 }
 
+bool IsNotice(std::string_view datagram) {
+  const auto line = Parse(datagram.substr(0, datagram.find_first_of("\r\n")));
+  if (!line || line->protocolClass != '2' || line->separator != '=') return false;
+  constexpr std::array<std::string_view, 4> kNotices{"LKUP", "ERST", "POWR", "INPT"};
+  return std::ranges::any_of(kNotices,
+                             [&](std::string_view name) { return SameWord(line->command, name); });
+}
+
 bool SameWord(std::string_view a, std::string_view b) {
   return std::ranges::equal(a, b, {}, Upper, Upper);
 }

@@ -40,6 +40,9 @@ struct Line {
 PROJECTOR_COMMON_EXPORT std::string Format(const Line& line);
 PROJECTOR_COMMON_EXPORT std::optional<Line> Parse(std::string_view text);
 
+/// Whether a datagram is a status notice of class 2, with or without its end of line.
+PROJECTOR_COMMON_EXPORT bool IsNotice(std::string_view datagram);
+
 /// Whether the words are the same but for the case of ASCII letters.
 PROJECTOR_COMMON_EXPORT bool SameWord(std::string_view a, std::string_view b);
 

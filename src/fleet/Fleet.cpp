@@ -82,6 +82,10 @@ void Fleet::AskSoon(const std::string& id) {
   Change([&] { watcher_->AskSoon(id); });
 }
 
+std::uint16_t Fleet::ListenForNotices(const std::string& address, std::uint16_t port) {
+  return Locked([&] { return network_.ListenForNotices(address, port); });
+}
+
 std::optional<LiveState> Fleet::State(const std::string& id) const {
   return Locked([&] { return watcher_->State(id); });
 }

@@ -65,6 +65,10 @@ class PROJECTOR_FLEET_EXPORT Fleet {
   void LearnDrift(const std::string& id, std::optional<int> drift);
   /// Asks as early as the policy allows, for example since the projector sent a notice.
   void AskSoon(const std::string& id);
+  /// Does so for each PJLink projector with a numeric address that sends a status notice.
+  /// `address` is one of this machine's, numeric; port 0 is any free one. The port, or 0 when it
+  /// cannot be had.
+  std::uint16_t ListenForNotices(const std::string& address, std::uint16_t port = 4352);
 
   /// Nothing for a projector that is not in the fleet.
   std::optional<LiveState> State(const std::string& id) const;

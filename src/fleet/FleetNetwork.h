@@ -24,6 +24,8 @@ class FleetNetwork {
     virtual void Received(Peer peer, std::string_view bytes) = 0;
     /// The other end closed the connection, or it broke; it is gone.
     virtual void Closed(Peer peer) = 0;
+    /// Somebody at this numeric address says that something has changed at a projector.
+    virtual void Noticed(const std::string& address) = 0;
   };
 
   virtual ~FleetNetwork() = default;

@@ -35,7 +35,7 @@ void FleetWatcher::Set(FleetTarget target) {
   if (const auto found = peers_.find(target.id); found != peers_.end()) {
     Watched& watched = *watched_[found->second];
     const bool hasMoved = watched.target.address != target.address;
-    watched.target = std::move(target);
+    SetTarget(found->second, std::move(target));
     if (!hasMoved) return;
     Abandon(found->second);
     watched.memory = {};
@@ -51,7 +51,8 @@ void FleetWatcher::Set(FleetTarget target) {
     free_.pop_back();
   }
   peers_.emplace(target.id, peer);
-  watched_[peer] = std::make_unique<Watched>(std::move(target));
+  watched_[peer] = std::make_unique<Watched>();
+  SetTarget(peer, std::move(target));
   Schedule(peer);
 }
 
@@ -61,6 +62,7 @@ void FleetWatcher::Remove(const std::string& id) {
   const Peer peer = found->second;
   Abandon(peer);
   ClearTimer(peer);
+  ForgetHost(peer);
   std::erase(line_, peer);
   watched_[peer].reset();
   free_.push_back(peer);
@@ -92,8 +94,12 @@ void FleetWatcher::Resume(const std::string& id) {
 void FleetWatcher::AskSoon(const std::string& id) {
   Watched* const watched = Find(id);
   if (watched == nullptr) return;
+  if (watched->visit) {
+    watched->asksAgain = true;
+    return;
+  }
   watched->schedule.Hasten(clock_.Now(), policy_);
-  if (!watched->visit) Schedule(peers_.at(id));
+  Schedule(peers_.at(id));
 }
 
 void FleetWatcher::Learn(const std::string& id, const PjtCommand& command, const PjtReply& reply,
@@ -174,6 +180,25 @@ void FleetWatcher::Received(Peer peer, std::string_view bytes) {
 void FleetWatcher::Closed(Peer peer) {
   watched_[peer]->visit->Closed(clock_.Now());
   Drive(peer);
+}
+
+void FleetWatcher::Noticed(const std::string& address) {
+  const auto [first, last] = hosts_.equal_range(address);
+  for (auto at = first; at != last; ++at) AskSoon(watched_[at->second]->target.id);
+}
+
+void FleetWatcher::SetTarget(Peer peer, FleetTarget target) {
+  ForgetHost(peer);
+  if (const auto* const pjLink = std::get_if<PjLinkAddress>(&target.address)) {
+    hosts_.emplace(pjLink->host, peer);
+  }
+  watched_[peer]->target = std::move(target);
+}
+
+void FleetWatcher::ForgetHost(Peer peer) {
+  const auto [first, last] = hosts_.equal_range(HostOf(watched_[peer]->target).first);
+  const auto own = std::find_if(first, last, [&](const auto& host) { return host.second == peer; });
+  if (own != last) hosts_.erase(own);
 }
 
 FleetWatcher::Watched* FleetWatcher::Find(const std::string& id) {
@@ -259,6 +284,7 @@ void FleetWatcher::Finish(Peer peer) {
     state.ForgetMomentary();
   }
   Apply(watched, std::move(state));
+  if (std::exchange(watched.asksAgain, false)) watched.schedule.Hasten(clock_.Now(), policy_);
   Schedule(peer);
 }
 

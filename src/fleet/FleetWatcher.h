@@ -65,6 +65,7 @@ class FleetWatcher final : public FleetNetwork::Listener {
   void NotConnected(Peer peer, ConnectionState problem) override;
   void Received(Peer peer, std::string_view bytes) override;
   void Closed(Peer peer) override;
+  void Noticed(const std::string& address) override;
 
  private:
   struct Watched {
@@ -76,12 +77,15 @@ class FleetWatcher final : public FleetNetwork::Listener {
     std::unique_ptr<Visit> visit{};  ///< Null while none is under way.
     std::optional<SessionTime> timer{};
     int pauses = 0;
-    bool waits = false;  ///< In line for a visit.
+    bool waits = false;      ///< In line for a visit.
+    bool asksAgain = false;  ///< Soon after the visit under way, which may have asked too early.
   };
 
   Watched* Find(const std::string& id);
   const Watched* Find(const std::string& id) const;
   bool MayAsk(const Watched& watched) const { return asks_ && watched.pauses == 0; }
+  void SetTarget(Peer peer, FleetTarget target);
+  void ForgetHost(Peer peer);
   void Fire(Peer peer);
   void Begin(Peer peer);
   void Drive(Peer peer);
@@ -100,6 +104,7 @@ class FleetWatcher final : public FleetNetwork::Listener {
   std::deque<std::unique_ptr<Watched>> watched_;  ///< By peer; null where one was removed.
   std::vector<Peer> free_;
   std::unordered_map<std::string, Peer> peers_;
+  std::unordered_multimap<std::string, Peer> hosts_;  ///< Of PJLink projectors.
   std::set<std::pair<SessionTime, Peer>> timers_;
   std::deque<Peer> line_;
   std::size_t visits_ = 0;  ///< Under way.

@@ -13,7 +13,11 @@ inline namespace AdvancedControl {
 
 namespace {
 
+// What no connection's event is called.
 constexpr std::uint64_t kWakeEvent = UINT64_MAX;
+constexpr std::uint64_t kNoticeEvent = UINT64_MAX - 1;
+/// Taken at once, so that a flood of notices leaves time for answers.
+constexpr int kMostNotices = 64;
 /// For so long a name's addresses are not looked up again.
 constexpr std::chrono::minutes kNameLasts{10};
 
@@ -22,10 +26,14 @@ int Checked(int file) {
   return file;
 }
 
+void Watch(int epoll, int file, std::uint64_t data) {
+  epoll_event event{.events = EPOLLIN, .data = {.u64 = data}};
+  epoll_ctl(epoll, EPOLL_CTL_ADD, file, &event);
+}
+
 int OpenWakes(int epoll) {
   const int wakes = Checked(eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC));
-  epoll_event event{.events = EPOLLIN, .data = {.u64 = kWakeEvent}};
-  epoll_ctl(epoll, EPOLL_CTL_ADD, wakes, &event);
+  Watch(epoll, wakes, kWakeEvent);
   return wakes;
 }
 
@@ -74,6 +82,12 @@ void SocketNetwork::Close(Peer peer) {
   Link& link = LinkOf(peer);
   link.stage = Stage::None;
   if (link.socket >= 0) close(std::exchange(link.socket, -1));
+}
+
+std::uint16_t SocketNetwork::ListenForNotices(const std::string& address, std::uint16_t port) {
+  const std::uint16_t taken = notices_.Open(address, port);
+  if (taken != 0) Watch(epoll_, notices_.File(), kNoticeEvent);
+  return taken;
 }
 
 void SocketNetwork::Wait(SessionTime until) {
@@ -142,7 +156,16 @@ void SocketNetwork::Fail(Peer peer, ConnectionState problem) {
   Wake();
 }
 
+void SocketNetwork::PassNotices(Listener& listener) {
+  for (int i = 0; i < kMostNotices; ++i) {
+    const auto sender = notices_.Next();
+    if (!sender) return;
+    listener.Noticed(*sender);
+  }
+}
+
 void SocketNetwork::PassEvent(const epoll_event& event, Listener& listener) {
+  if (event.data.u64 == kNoticeEvent) return PassNotices(listener);
   if (event.data.u64 == kWakeEvent) {
     std::uint64_t count = 0;
     static_cast<void>(!read(wakes_, &count, sizeof count));

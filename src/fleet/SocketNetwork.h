@@ -9,6 +9,7 @@
 #include "device/SessionStep.h"
 #include "fleet/FleetNetwork.h"
 #include "fleet/NameResolver.h"
+#include "fleet/NoticeSocket.h"
 
 inline namespace AdvancedControl {
 
@@ -25,6 +26,9 @@ class SocketNetwork final : public FleetNetwork {
   void Connect(Peer peer, const std::string& host, std::uint16_t port) override;
   void Send(Peer peer, std::string_view bytes) override;
   void Close(Peer peer) override;
+
+  /// Listens for status notices; see `NoticeSocket::Open`.
+  std::uint16_t ListenForNotices(const std::string& address, std::uint16_t port);
 
   /// Waits until something happens, or until then, or for `Wake`. Touches no connection.
   void Wait(SessionTime until);
@@ -59,6 +63,7 @@ class SocketNetwork final : public FleetNetwork {
   void ConnectByName(Peer peer);
   void Open(Peer peer, const SocketAddress& address);
   void Fail(Peer peer, ConnectionState problem);
+  void PassNotices(Listener& listener);
   void PassEvent(const epoll_event& event, Listener& listener);
   void PassBytes(Peer peer, Listener& listener);
   void TakeNames();
@@ -67,6 +72,7 @@ class SocketNetwork final : public FleetNetwork {
   const int epoll_;
   const int wakes_;
   NameResolver resolver_;
+  NoticeSocket notices_;
   std::vector<Link> links_;  ///< By peer.
   std::unordered_map<std::string, Known> names_;
   std::vector<Failure> failures_;  ///< To be told with the next `Pass`.

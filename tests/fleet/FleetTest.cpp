@@ -5,6 +5,7 @@
 #include <string>
 
 #include <QCoreApplication>
+#include <QUdpSocket>
 #include <gtest/gtest.h>
 
 #include "device/CommandCode.h"
@@ -58,6 +59,26 @@ TEST_F(FleetTest, WatchesRealProjectors) {
   EXPECT_TRUE(Becomes([&] { return fleet.State("pjlink")->blank == true; }));
   EXPECT_EQ(fleet.TakeChanges().changes.size(), 2);
   EXPECT_EQ(wakes, before + 1) << "once for all that came since";
+}
+
+TEST_F(FleetTest, AsksWhoSendsNotices) {
+  Fleet slow({.soonest = 0ms});
+  slow.Set({"a", served.PjLink("secret")});
+  const std::uint16_t port = slow.ListenForNotices("127.0.0.1", 0);
+  ASSERT_NE(port, 0);
+  for (const char* const none : {"", "%2POWR 1\r", "%1POWR=1\r", "%2ACKN=0\r", "\xFF%2POWR=1"}) {
+    EXPECT_FALSE(PjLink::IsNotice(none)) << none;
+  }
+  EXPECT_EQ(fleet.ListenForNotices("127.0.0.1", port), 0) << "it is taken";
+  ASSERT_TRUE(Becomes([&] { return slow.Tally().answered == 1; }));
+  QUdpSocket projector;
+  const auto send = [&](const QByteArray& text) {
+    projector.writeDatagram(text, QHostAddress::LocalHost, port);
+  };
+  send("%2POWR=1\r");
+  EXPECT_TRUE(Becomes([&] { return slow.Tally().answered == 2; }));
+  send("%2lkup=00:00:00:00:00:00");
+  EXPECT_TRUE(Becomes([&] { return slow.Tally().answered == 3; }));
 }
 
 // Many visits are in the middle of something whenever it ends.

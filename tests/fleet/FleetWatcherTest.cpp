@@ -234,13 +234,19 @@ TEST(FleetWatcher, StaysAwayWhileSomebodyElseWorks) {
   fleet.RunFor(10s);
   EXPECT_EQ(other.connections.size(), asked + 1);
   fleet.watcher.AskSoon("b");
-  fleet.watcher.AskSoon("b");
+  fleet.watcher.Noticed("b");
+  fleet.watcher.Noticed("nobody");
   fleet.RunFor(10s);
   EXPECT_EQ(other.connections.size(), asked + 2);
+  fleet.watcher.AskSoon("b");
+  fleet.RunFor(1ms);
+  fleet.watcher.AskSoon("b");
+  fleet.RunFor(10s);
+  EXPECT_EQ(other.connections.size(), asked + 4) << "the visit may have asked too early";
   fleet.watcher.Remove("b");
   EXPECT_FALSE(fleet.watcher.State("b"));
   fleet.RunFor(100s);
-  EXPECT_EQ(other.connections.size(), asked + 2);
+  EXPECT_EQ(other.connections.size(), asked + 4);
 }
 
 TEST(FleetWatcher, MovesAlongWithAProjector) {

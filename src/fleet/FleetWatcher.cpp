@@ -35,9 +35,9 @@ void FleetWatcher::Set(FleetTarget target) {
   if (const auto found = peers_.find(target.id); found != peers_.end()) {
     Watched& watched = *watched_[found->second];
     const bool hasMoved = watched.target.address != target.address;
+    if (hasMoved) Abandon(found->second);
     SetTarget(found->second, std::move(target));
     if (!hasMoved) return;
-    Abandon(found->second);
     watched.memory = {};
     watched.schedule = {};
     return Schedule(found->second);
@@ -152,13 +152,13 @@ SessionTime FleetWatcher::Tick() {
     ClearTimer(peer);
     Fire(peer);
   }
-  for (int i = 0; i < kMostBegun && !line_.empty() && visits_ < policy_.visitsAtOnce; ++i) {
+  for (int i = 0; i < kMostBegun && !line_.empty() && visited_.size() < policy_.visitsAtOnce; ++i) {
     const Peer peer = line_.front();
     line_.pop_front();
     watched_[peer]->waits = false;
     if (MayAsk(*watched_[peer])) Begin(peer);
   }
-  if (!line_.empty() && visits_ < policy_.visitsAtOnce) return now;
+  if (!line_.empty() && visited_.size() < policy_.visitsAtOnce) return now;
   return timers_.empty() ? SessionTime::max() : timers_.begin()->first;
 }
 
@@ -226,7 +226,10 @@ void FleetWatcher::Begin(Peer peer) {
     state.connection = ConnectionState::WrongParameters;
     return Apply(watched, std::move(state));
   }
-  ++visits_;
+  if (!visited_.insert(HostOf(watched.target)).second) {
+    watched.visit.reset();
+    return SetTimer(peer, clock_.Now() + policy_.soonest);
+  }
   ++tally_.begun;
   watched.schedule.Begin(clock_.Now(), policy_, random_);
   Drive(peer);
@@ -263,7 +266,7 @@ void FleetWatcher::Finish(Peer peer) {
   Watched& watched = *watched_[peer];
   network_.Close(peer);
   const auto visit = std::move(watched.visit);
-  --visits_;
+  visited_.erase(HostOf(watched.target));
   LiveState state = visit->State();
   // Which no visit tells.
   state.drift = watched.state.drift;
@@ -293,7 +296,7 @@ void FleetWatcher::Abandon(Peer peer) {
   if (!watched.visit) return;
   network_.Close(peer);
   watched.visit.reset();
-  --visits_;
+  visited_.erase(HostOf(watched.target));
   ++tally_.abandoned;
 }
 

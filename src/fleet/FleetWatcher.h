@@ -107,7 +107,8 @@ class FleetWatcher final : public FleetNetwork::Listener {
   std::unordered_multimap<std::string, Peer> hosts_;  ///< Of PJLink projectors.
   std::set<std::pair<SessionTime, Peer>> timers_;
   std::deque<Peer> line_;
-  std::size_t visits_ = 0;  ///< Under way.
+  /// Where the visits under way are. Somebody may have put a projector into the fleet twice.
+  std::set<std::pair<std::string, std::uint16_t>> visited_;
   FleetChanges changes_;
   FleetTally tally_;
 };

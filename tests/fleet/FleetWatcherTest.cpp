@@ -259,8 +259,14 @@ TEST(FleetWatcher, MovesAlongWithAProjector) {
   EXPECT_EQ(fleet.projectors["elsewhere"].connections.size(), 1) << "at once";
   EXPECT_EQ(fleet.State("a").power, PowerState::Standby);
   EXPECT_EQ(fleet.projectors["a"].connections.size(), 1);
+  for (const char* const id : {"one", "same"}) {
+    fleet.watcher.Set({id, PjLinkAddress{.host = "twice", .password = {}}});
+  }
   fleet.watcher.Set({"serial", SerialAddress{.device = "/dev/ttyS0"}});
   fleet.RunFor(100s);
+  EXPECT_EQ(fleet.projectors["twice"].mostConnections, 1);
+  EXPECT_EQ(fleet.State("one").power, PowerState::On);
+  EXPECT_EQ(fleet.State("same").power, PowerState::On);
   EXPECT_EQ(fleet.State("serial").reachability, Reachability::NeverAsked);
   EXPECT_EQ(fleet.State("serial").connection, ConnectionState::WrongParameters);
 }

@@ -21,7 +21,7 @@
 #include "bench/FleetServer.h"
 #include "device/CommandCode.h"
 #include "device/Connect.h"
-#include "device/WireFrame.h"
+#include "device/protocol/WireFrame.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
-// Any bytes as lines from a PJLink peer, at either end, and as all that a projector says to a
-// session.
+// Any bytes as lines from a PJLink peer, at either end, and as everything that a projector sends in
+// a session.
 
 #include <algorithm>
 #include <cstddef>
@@ -9,15 +9,15 @@
 #include <string_view>
 
 #include "device/CommandCode.h"
-#include "device/PjLinkInputs.h"
-#include "device/PjLinkLine.h"
-#include "device/PjLinkSession.h"
+#include "device/protocol/PjLinkInputs.h"
+#include "device/protocol/PjLinkLine.h"
+#include "device/protocol/PjLinkSession.h"
 #include "fuzz/Check.h"
 #include "simulator/PjLinkResponder.h"
 
 namespace {
 
-/// Accepts everything, and yields what it was set to.
+/// Accepts everything, and returns the values set.
 class Plain final : public ProjectorChannel {
  public:
   PjtReply Execute(const PjtCommand& command) override {
@@ -49,8 +49,8 @@ void ReadAsReply(std::string_view text) {
   }
 }
 
-/// A projector that says the bytes, a piece whenever it is waited for, and ends the connection with
-/// every piece that begins so.
+/// A projector that sends the bytes, one piece for each wait, and closes the connection with every
+/// piece that starts with a certain byte.
 class Talk {
  public:
   explicit Talk(std::string_view bytes) : rest_(bytes) {}
@@ -101,7 +101,7 @@ class Talk {
     const std::string_view piece = rest_.substr(0, size);
     rest_.remove_prefix(size);
     if (piece.front() == '!') session_.Connection().Closed(now_);
-    session_.Connection().Received(piece);
+    session_.Connection().Received(piece, now_);
   }
 
   std::string_view rest_;

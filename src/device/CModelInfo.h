@@ -6,8 +6,8 @@
 #include "ProjectorCommonExport.h"
 #include "device/ModelData.h"
 
-/// The short model record of hosts that know neither series code nor ranges.
-/// A value: copying it copies every member.
+/// The short model record, for hosts without series codes and ranges. A value: copying it copies
+/// every member.
 class PROJECTOR_COMMON_EXPORT CModelInfo {
  public:
   CModelInfo() = default;
@@ -16,8 +16,8 @@ class PROJECTOR_COMMON_EXPORT CModelInfo {
 
   std::string ModelName;
   std::int32_t DialogType = 0;  ///< Page set 1..5.
-  SourceList MySourceList;
-  CountedList AspectList;
-  CountedList GammaList;
-  CountedList ColorTempList;
+  AdvancedControl::SourceList MySourceList;
+  AdvancedControl::CountedList AspectList;
+  AdvancedControl::CountedList GammaList;
+  AdvancedControl::CountedList ColorTempList;
 };

@@ -31,28 +31,28 @@ class PROJECTOR_COMMON_EXPORT CPjtInterface {
 
   /// Sets the host's channel, which replaces the object's own, whether it is set before or after
   /// the connection parameters. Null removes the channel until `CopyData` is called again.
-  void SetChannel(std::shared_ptr<ProjectorChannel> channel);
-  const std::shared_ptr<ProjectorChannel>& Channel() const { return channel_; }
+  void SetChannel(std::shared_ptr<AdvancedControl::ProjectorChannel> channel);
+  const std::shared_ptr<AdvancedControl::ProjectorChannel>& Channel() const { return channel_; }
 
   /// While cut off, every operation is refused without reaching the channel.
   void CutOff(bool cutOff) { cutOff_ = cutOff; }
 
   /// The state of the connection.
-  ConnectionState Connection() const;
+  AdvancedControl::ConnectionState Connection() const;
 
   /// The inputs that the projector has reported over PJLink; nothing until then. From the first
   /// call on, the channel asks for them while no command waits.
-  std::optional<SourceList> Inputs() const;
+  std::optional<AdvancedControl::SourceList> Inputs() const;
 
   /// The power state that the projector reported last, see `ProjectorChannel::Power`.
-  std::optional<PowerState> Power() const;
+  std::optional<AdvancedControl::PowerState> Power() const;
 
-  /// Sets the connection parameters. A text ends at its first zero or after 64 characters; null
-  /// stands for an empty text.
+  /// Sets the connection parameters. A text ends at its first zero or after 64 characters; null is
+  /// an empty text.
   ///
   /// Unless the host has set a channel, the object connects by itself with its first command:
   /// - Kind 1 is a network connection to the name or address `text1`, port `parameter`. On port
-  ///   4352, or where `parameter` is 0, it speaks PJLink with `text2` as the password; on any other
+  ///   4352, or if `parameter` is 0, it speaks PJLink with `text2` as the password; on any other
   ///   port the protocol of docs/wire.md. A prefix "pjlink://" or "tcp://" of the address overrides
   ///   this choice.
   /// - Any other kind is a serial connection with `parameter` bits per second, 0 for 19200, on the
@@ -80,7 +80,8 @@ class PROJECTOR_COMMON_EXPORT CPjtInterface {
   /// Written by the dialog when it opens, for the use of the connection.
   std::int32_t HostOption = 0;
   std::int32_t DialogType = 0;
-  /// Text of the list entry that a page is about to send. Pages only write it.
+  /// Text of the list entry that a page is about to send. Written by pages, for the use of the
+  /// connection.
   std::string SettingText;
 
   // The named operations, declared in the form of their family.
@@ -134,20 +135,19 @@ class PROJECTOR_COMMON_EXPORT CPjtInterface {
   short IncrementAutoPowerOff(short value);
   short DecrementAutoPowerOff(short value);
 
-  // The generic operations, by command code. `self` is the object that the call is made through.
-  // Only the result 1 is success. `Get` stores the value for any nonzero result, because some
-  // callers accept those as well. `Inc` and `Dec` step by one; read the setting with `Get`
-  // afterwards.
+  // The generic operations, by command code. `self` is the object itself. Only the result 1 is
+  // success. `Get` stores the value for any nonzero result, because some callers accept those as
+  // well. `Inc` and `Dec` step by one; read the setting with `Get` afterwards.
   int Get(unsigned short code, unsigned short argument, CPjtInterface* self, unsigned short* value);
   int Set(unsigned short code, unsigned short value, CPjtInterface* self);
   int Inc(unsigned short code, unsigned short argument, CPjtInterface* self);
   int Dec(unsigned short code, unsigned short argument, CPjtInterface* self);
 
   /// Executes any operation given as a command, and returns the channel's reply unchanged.
-  PjtReply Execute(const PjtCommand& command) const;
+  AdvancedControl::PjtReply Execute(const AdvancedControl::PjtCommand& command) const;
 
   /// Announces to the channel which reads are about to follow, in this order.
-  void Announce(std::span<const PjtCommand> reads) const;
+  void Announce(std::span<const AdvancedControl::PjtCommand> reads) const;
 
   /// Abandons the work under way: the waiting command ends at once, and as long as the returned
   /// object lives, every command is unanswered without being sent. The returned object may outlive
@@ -158,7 +158,7 @@ class PROJECTOR_COMMON_EXPORT CPjtInterface {
   bool IsWaiting() const;
 
   /// Makes the channel try the next command even if the projector was silent.
-  void TryAfresh();
+  void AllowRetry();
 
   /// The results of the commands so far. The counters only grow.
   struct Tally {
@@ -186,10 +186,10 @@ class PROJECTOR_COMMON_EXPORT CPjtInterface {
     std::shared_ptr<Traffic> now;
   };
 
-  int ExecuteInto(const PjtCommand& command, short* value) const;
-  short ExecuteFor(const PjtCommand& command, short otherwise) const;
+  int ExecuteInto(const AdvancedControl::PjtCommand& command, short* value) const;
+  short ExecuteFor(const AdvancedControl::PjtCommand& command, short otherwise) const;
 
-  std::shared_ptr<ProjectorChannel> channel_;
+  std::shared_ptr<AdvancedControl::ProjectorChannel> channel_;
   OwnTraffic traffic_;
   bool isHosts_ = false;
   bool cutOff_ = false;

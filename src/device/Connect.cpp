@@ -4,9 +4,11 @@
 #include <optional>
 
 #include "device/HostAddress.h"
-#include "device/PjLinkChannel.h"
-#include "device/SerialChannel.h"
-#include "device/TcpChannel.h"
+#include "device/channels/PjLinkChannel.h"
+#include "device/channels/SerialChannel.h"
+#include "device/channels/TcpChannel.h"
+
+namespace AdvancedControl {
 
 namespace {
 
@@ -36,7 +38,7 @@ AddressError Wrong(std::string_view what, std::string_view text) {
   return {std::string(what) + " '" + std::string(text) + "'"};
 }
 
-// `port` is 0 where none is known from elsewhere.
+// `port` is 0 if it is not given separately.
 ProjectorAddress ParseNetwork(std::string_view text, int port, std::string_view password) {
   const std::string_view whole = text;
   const bool tcp = TakePrefix(text, kTcp);
@@ -77,7 +79,7 @@ ProjectorAddress MakeSerial(std::string_view device, int baud) {
                        .baud = baud == 0 ? SerialAddress::kDefaultBaud : baud};
 }
 
-/// Stands for a connection whose parameters name none.
+/// The channel for invalid connection parameters.
 class NoProjector final : public ProjectorChannel {
  public:
   PjtReply Execute(const PjtCommand& command) override {
@@ -146,3 +148,5 @@ BoundedChannel::Limits BoundsFor(const ProjectorAddress& address) {
   if (!std::holds_alternative<PjLinkAddress>(address)) return {};
   return {.timeOut = PjLinkChannel::Limits().Longest()};
 }
+
+}  // namespace AdvancedControl

@@ -2,6 +2,8 @@
 
 #include <new>
 
+namespace AdvancedControl {
+
 void DropException() noexcept {
   try {
     try {
@@ -9,6 +11,8 @@ void DropException() noexcept {
     } catch (const std::bad_alloc&) {
       if (const std::new_handler handler = std::get_new_handler()) handler();
     }
-  } catch (...) {  // also what the handler throws, as it may
+  } catch (...) {  // the handler may throw too
   }
 }
+
+}  // namespace AdvancedControl

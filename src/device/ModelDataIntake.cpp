@@ -2,9 +2,11 @@
 
 #include <type_traits>
 
+namespace AdvancedControl {
+
 namespace {
 
-/// A record with four-byte strings, as the hosts' format describes it.
+/// The record with four-byte strings, as in the hosts' format.
 using HostRecord = BasicModelInfo2<std::uint32_t>;
 static_assert(std::is_standard_layout_v<HostRecord>);
 
@@ -106,3 +108,5 @@ std::string DottedAddress(std::uint32_t address) {
   }
   return text;
 }
+
+}  // namespace AdvancedControl

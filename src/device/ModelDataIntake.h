@@ -3,10 +3,13 @@
 #include <cstdint>
 #include <string>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
 #include "device/CModelInfo2.h"
 #include "device/CProjectorItem.h"
 #include "device/ModelData.h"
+
+namespace AdvancedControl {
 
 /// The arguments of `CPjtInterface::CopyData`.
 struct ConnectionData {
@@ -21,7 +24,7 @@ struct ConnectionData {
 
 // The functions below may be called from any thread.
 
-/// Everything that the record says of the model.
+/// The model data of the record.
 PROJECTOR_COMMON_EXPORT ModelData MakeModelData(const CModelInfo2& info);
 
 /// The same from the item's model record, but with the item's own name. An item without a record
@@ -36,3 +39,5 @@ PROJECTOR_COMMON_EXPORT ConnectionData MakeConnectionData(const CProjectorItem& 
 
 /// "a.b.c.d", `a` from the most significant byte.
 PROJECTOR_COMMON_EXPORT std::string DottedAddress(std::uint32_t address);
+
+}  // namespace AdvancedControl

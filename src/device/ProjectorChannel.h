@@ -5,10 +5,13 @@
 #include <optional>
 #include <span>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
 #include "device/ConnectionState.h"
 #include "device/ModelData.h"
 #include "device/PjtOperation.h"
+
+namespace AdvancedControl {
 
 /// One command to the projector.
 struct PjtCommand {
@@ -20,9 +23,9 @@ struct PjtCommand {
   friend bool operator==(const PjtCommand&, const PjtCommand&) = default;
 };
 
-/// What came back.
+/// The reply to a command.
 struct PjtReply {
-  int result = 0;          ///< Success or refusal as the operation's family says (`IsSuccess`).
+  int result = 0;  ///< Success or refusal, depending on the operation's family (`IsSuccess`).
   std::int16_t value = 0;  ///< The value read or stepped to; meaningful only on success.
   bool answered = true;    ///< False when no answer came; `result` is then a refusal.
   bool offered = true;     ///< False when the projector is known not to have the setting; `result`
@@ -90,3 +93,5 @@ class PROJECTOR_COMMON_EXPORT ProjectorChannel {
     return false;
   }
 };
+
+}  // namespace AdvancedControl

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 void AskSchedule::Begin(SessionTime now, const FleetPolicy& policy, Random& random) {
   begun_ = now;

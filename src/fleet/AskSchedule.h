@@ -2,10 +2,11 @@
 
 #include <random>
 
-#include "device/SessionStep.h"
+#include "Namespace.h"
+#include "device/protocol/SessionStep.h"
 #include "fleet/FleetPolicy.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// When a projector may be asked next.
 class AskSchedule {

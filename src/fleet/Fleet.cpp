@@ -5,7 +5,7 @@
 
 #include "fleet/FleetWatcher.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

@@ -10,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+#include "Namespace.h"
 #include "ProjectorFleetExport.h"
 #include "fleet/FleetClock.h"
 #include "fleet/FleetEvents.h"
@@ -18,7 +19,7 @@
 #include "fleet/LiveState.h"
 #include "fleet/SocketNetwork.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 class FleetWatcher;
 

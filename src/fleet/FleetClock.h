@@ -2,9 +2,10 @@
 
 #include <chrono>
 
-#include "device/SessionStep.h"
+#include "Namespace.h"
+#include "device/protocol/SessionStep.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// The time as people tell it.
 using WallTime = std::chrono::system_clock::time_point;

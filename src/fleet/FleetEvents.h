@@ -4,9 +4,10 @@
 #include <string>
 #include <vector>
 
+#include "Namespace.h"
 #include "fleet/StateChange.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// A change of a projector's state.
 struct FleetChange {

@@ -7,7 +7,7 @@
 #include "fleet/Fleet.h"
 #include "fleet/ProjectorWork.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 FleetJob::FleetJob(Fleet* fleet, std::vector<FleetTarget> targets, FleetWork work,
                    const SettingTexts& texts, Options options)

@@ -11,12 +11,13 @@
 #include <thread>
 #include <vector>
 
+#include "Namespace.h"
 #include "ProjectorFleetExport.h"
 #include "fleet/FleetTarget.h"
 #include "fleet/FleetWork.h"
 #include "snapshots/SettingTexts.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 class Fleet;
 

@@ -5,9 +5,10 @@
 #include <string>
 #include <string_view>
 
+#include "Namespace.h"
 #include "device/ConnectionState.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// The connections of a fleet: sockets, or what a test puts in their place. A peer is a number that
 /// the caller chooses; it has one connection at most.

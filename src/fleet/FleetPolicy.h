@@ -4,7 +4,9 @@
 #include <cstddef>
 #include <cstdint>
 
-inline namespace AdvancedControl {
+#include "Namespace.h"
+
+namespace AdvancedControl {
 
 /// How politely a fleet asks. Every pause counts from the beginning of a visit to the next.
 struct FleetPolicy {

@@ -3,10 +3,11 @@
 #include <memory>
 #include <string>
 
+#include "Namespace.h"
 #include "device/Connect.h"
 #include "device/ModelData.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// What a projector has to be known by before it can be watched.
 struct FleetTarget {

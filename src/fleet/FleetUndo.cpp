@@ -4,7 +4,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

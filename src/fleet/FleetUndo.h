@@ -3,10 +3,11 @@
 #include <QByteArray>
 #include <QString>
 
+#include "Namespace.h"
 #include "ProjectorFleetExport.h"
 #include "fleet/FleetWork.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// The file that undoes a whole job, described in docs/fleet.md: JSON with a snapshot for each
 /// projector that was changed.

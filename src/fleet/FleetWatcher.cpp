@@ -4,7 +4,7 @@
 
 #include "fleet/MakeVisit.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

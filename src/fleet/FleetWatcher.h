@@ -11,6 +11,7 @@
 #include <utility>
 #include <vector>
 
+#include "Namespace.h"
 #include "fleet/AskSchedule.h"
 #include "fleet/FleetClock.h"
 #include "fleet/FleetEvents.h"
@@ -21,7 +22,7 @@
 #include "fleet/StateChange.h"
 #include "fleet/Visit.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// Visits the projectors of a fleet in turn and keeps what they tell. Has neither threads nor
 /// sockets: whoever owns it calls `Tick`, waits for the network until the time that it returns, and

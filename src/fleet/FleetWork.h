@@ -7,9 +7,10 @@
 #include <string>
 #include <variant>
 
+#include "Namespace.h"
 #include "snapshots/Snapshot.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 // What a job may do to each of its projectors.
 

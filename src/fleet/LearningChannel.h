@@ -4,9 +4,10 @@
 #include <memory>
 #include <utility>
 
-#include "device/ForwardingChannel.h"
+#include "Namespace.h"
+#include "device/channels/ForwardingChannel.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// Tells somebody, such as a fleet, what each command of another channel came to. `told` is called
 /// on the thread of the command.

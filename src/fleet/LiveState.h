@@ -6,12 +6,13 @@
 #include <string>
 #include <vector>
 
+#include "Namespace.h"
 #include "device/ConnectionState.h"
-#include "device/PjLinkLine.h"
 #include "device/ProjectorChannel.h"
+#include "device/protocol/PjLinkLine.h"
 #include "fleet/FleetClock.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// Whether a projector can be talked to.
 enum class Reachability : std::uint8_t {

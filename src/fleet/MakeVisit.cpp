@@ -5,7 +5,7 @@
 #include "fleet/PjLinkVisit.h"
 #include "fleet/WireVisit.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 std::unique_ptr<Visit> MakeVisit(const FleetTarget& target, const FleetPolicy& policy,
                                  const LiveState& state, const ProjectorMemory& memory) {

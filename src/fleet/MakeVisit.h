@@ -5,9 +5,10 @@
 #include <string>
 #include <utility>
 
+#include "Namespace.h"
 #include "fleet/Visit.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// The visit that fits the projector's address; null for one that is not on a network.
 std::unique_ptr<Visit> MakeVisit(const FleetTarget& target, const FleetPolicy& policy,

@@ -8,7 +8,7 @@
 #include <unistd.h>
 #include <utility>
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

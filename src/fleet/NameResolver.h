@@ -7,7 +7,9 @@
 #include <string>
 #include <vector>
 
-inline namespace AdvancedControl {
+#include "Namespace.h"
+
+namespace AdvancedControl {
 
 /// An address with a port, as sockets take it.
 union SocketAddress {

@@ -6,10 +6,10 @@
 #include <unistd.h>
 #include <utility>
 
-#include "device/PjLinkLine.h"
+#include "device/protocol/PjLinkLine.h"
 #include "fleet/NameResolver.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

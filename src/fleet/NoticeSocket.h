@@ -4,7 +4,9 @@
 #include <optional>
 #include <string>
 
-inline namespace AdvancedControl {
+#include "Namespace.h"
+
+namespace AdvancedControl {
 
 /// Receives the status notices of PJLink, which projectors send over UDP to whom their settings
 /// name. They prove nothing, as anybody can send them: who gets one should ask the projector.

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <span>
 
-#include "device/PjLinkLine.h"
+#include "device/protocol/PjLinkLine.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 
@@ -65,8 +65,8 @@ void PjLinkVisit::NotConnected(ConnectionState problem, SessionTime now) {
   session_.Connection().NotConnected(problem, now);
 }
 
-void PjLinkVisit::Received(std::string_view bytes, SessionTime) {
-  session_.Connection().Received(bytes);
+void PjLinkVisit::Received(std::string_view bytes, SessionTime now) {
+  session_.Connection().Received(bytes, now);
 }
 
 void PjLinkVisit::Closed(SessionTime now) { session_.Connection().Closed(now); }
@@ -93,9 +93,9 @@ bool PjLinkVisit::Ask(SessionTime now) {
 }
 
 void PjLinkVisit::TakeTold(SessionTime now) {
-  const PjLinkTold& told = session_.Told();
+  const PjLinkResult& told = session_.Result();
   memory_.protocolClass = session_.ProtocolClass();
-  if (told.kind == PjLinkTold::Kind::Lost) return GiveUp();
+  if (told.kind == PjLinkResult::Kind::Lost) return GiveUp();
   TakeAnswering(now);
   if (asking_ == Asking::Name) {
     TakeName(told.text);
@@ -105,18 +105,18 @@ void PjLinkVisit::TakeTold(SessionTime now) {
   }
 }
 
-void PjLinkVisit::TakeStatusText(const PjLinkTold& told) {
+void PjLinkVisit::TakeStatusText(const PjLinkResult& told) {
   const StatusQuestion& question = StatusQuestions()[question_];
   for (const StatusItem item : question.items) {
     const auto value = PjLinkMapping::Find(ReadingOf(item).Command())->value(told.text);
-    if (told.kind == PjLinkTold::Kind::Text && value) {
+    if (told.kind == PjLinkResult::Kind::Text && value) {
       Take(item, *value);
     } else {
       ForgetStatus(state_, item);
     }
-    SetLacks(item, told.kind == PjLinkTold::Kind::None);
+    SetLacks(item, told.kind == PjLinkResult::Kind::None);
   }
-  if (told.kind != PjLinkTold::Kind::Text) return;
+  if (told.kind != PjLinkResult::Kind::Text) return;
   // What PJLink tells beyond a device value.
   switch (question.items.front()) {
     case StatusItem::Power:
@@ -142,6 +142,8 @@ void PjLinkVisit::TakeStatusText(const PjLinkTold& told) {
 
 void PjLinkVisit::TakeName(const std::string& name) {
   PjLinkInput input = PjLinkInputs::Named(state_.source->number, name);
+  // With its code, since the other inputs are not known.
+  input.name = NameText(SourcesOf({input}, InputCodes::AllNames).names[0]);
   state_.source->name = input.name;
   if (memory_.inputs.size() < kMostNames) memory_.inputs.push_back(std::move(input));
 }

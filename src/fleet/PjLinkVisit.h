@@ -1,10 +1,11 @@
 #pragma once
 
+#include "Namespace.h"
 #include "device/Connect.h"
-#include "device/PjLinkSession.h"
+#include "device/protocol/PjLinkSession.h"
 #include "fleet/Visit.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// A visit to a PJLink projector. Each command is asked for once, whatever number of items its
 /// answer tells, and the name of an input when it plays for the first time.
@@ -26,7 +27,7 @@ class PjLinkVisit final : public Visit {
   /// Begins the next question; false when there is none.
   bool Ask(SessionTime now);
   void TakeTold(SessionTime now);
-  void TakeStatusText(const PjLinkTold& told);
+  void TakeStatusText(const PjLinkResult& told);
   void TakeName(const std::string& name);
   bool LacksName() const { return state_.source && state_.source->name.empty(); }
   /// Ends the visit; what was not asked is not known.

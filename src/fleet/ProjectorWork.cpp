@@ -4,11 +4,11 @@
 #include <array>
 #include <utility>
 
-#include "device/PjLinkChannel.h"
+#include "device/channels/PjLinkChannel.h"
 #include "fleet/LearningChannel.h"
 #include "fleet/StatusItems.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 
@@ -51,7 +51,7 @@ ProjectorWork::ProjectorWork(const FleetTarget& target, const SettingTexts& text
   auto* const pjLink = dynamic_cast<PjLinkChannel*>(channel.get());
   if (pjLink == nullptr || settings_.Model().MySourceList.Size() > 0) return;
   ModelData model = settings_.Model();
-  model.MySourceList = SourcesOf(pjLink->AskForInputs().first);
+  model.MySourceList = SourcesOf(pjLink->AskForInputs().first, InputCodes::AllNames);
   settings_ = ModelSettings(std::move(model));
 }
 
@@ -157,10 +157,9 @@ WorkResult ProjectorWork::OutcomeOf(const Restoration& restoration) const {
 /// A switch that is no setting to be kept, as it shows what the projector is doing.
 WorkResult ProjectorWork::SetState(const ModelSetting& setting, int value) {
   const CPjtInterface::Tally before = connection_.Sent();
-  const bool accepted =
-      settings_.Change(connection_, setting, value, {texts_.Value(setting, value)});
+  const Sent sent = settings_.Change(connection_, setting, value, {texts_.Value(setting, value)});
   if (auto trouble = Trouble(before)) return *trouble;
-  if (!accepted) return Refused("refused");
+  if (sent != Sent::Accepted) return Refused("refused");
   if (!setting.readable) return {.outcome = WorkOutcome::Done};
   const auto now = settings_.Read(connection_, setting);
   if (IsGone()) return Unanswered();

@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+#include "Namespace.h"
 #include "device/CPjtInterface.h"
 #include "fleet/FleetTarget.h"
 #include "fleet/FleetWork.h"
@@ -12,7 +13,7 @@
 #include "snapshots/Restoration.h"
 #include "snapshots/SettingTexts.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// A job's work on one projector, over a connection that it makes and that blocks. After the first
 /// command without an answer nothing more is sent.

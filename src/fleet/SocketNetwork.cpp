@@ -9,7 +9,7 @@
 #include <unistd.h>
 #include <utility>
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

@@ -6,12 +6,13 @@
 #include <unordered_map>
 #include <vector>
 
-#include "device/SessionStep.h"
+#include "Namespace.h"
+#include "device/protocol/SessionStep.h"
 #include "fleet/FleetNetwork.h"
 #include "fleet/NameResolver.h"
 #include "fleet/NoticeSocket.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// TCP connections that one thread waits for with epoll. One thread calls `Wait` and then `Pass`;
 /// the others may be called by any, but only one at a time, and not during `Pass`. `Wake` may be

@@ -5,9 +5,10 @@
 #include <string>
 #include <vector>
 
+#include "Namespace.h"
 #include "fleet/LiveState.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// The parts of a live state that change with an event.
 enum class StateField : std::uint8_t {

@@ -5,11 +5,12 @@
 #include <cstdint>
 #include <optional>
 
+#include "Namespace.h"
 #include "device/ModelData.h"
 #include "fleet/LiveState.h"
 #include "settings/Rows.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// The states on the status page, which every model has.
 enum class StatusItem : std::uint8_t {

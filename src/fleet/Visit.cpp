@@ -1,6 +1,6 @@
 #include "fleet/Visit.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 SessionTime::duration Visit::AnswerTime() const {
   return sent_ && firstAnswer_ ? *firstAnswer_ - *sent_ : SessionTime::duration::zero();

@@ -6,13 +6,14 @@
 #include <string_view>
 #include <vector>
 
-#include "device/PjLinkInputs.h"
-#include "device/SessionStep.h"
+#include "Namespace.h"
+#include "device/protocol/PjLinkInputs.h"
+#include "device/protocol/SessionStep.h"
 #include "fleet/FleetPolicy.h"
 #include "fleet/FleetTarget.h"
 #include "fleet/StatusItems.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// What a visit learned that the next one need not ask for again, as long as the projector answers.
 struct ProjectorMemory {

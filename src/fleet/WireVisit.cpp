@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

@@ -1,9 +1,10 @@
 #pragma once
 
-#include "device/WireSession.h"
+#include "Namespace.h"
+#include "device/protocol/WireSession.h"
 #include "fleet/Visit.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// A visit to a projector that speaks the protocol of docs/wire.md: the power state goes out with
 /// the hello, all the rest in one burst.

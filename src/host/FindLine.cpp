@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAbstractProxyModel>
 #include <QApplication>
@@ -14,20 +13,14 @@
 #include <QTimer>
 #include <QToolTip>
 
-#include "host/CAdvanceDlg.h"
 #include "i18n/LocalizeControlTexts.h"
-#include "pages/common/CTabPage.h"
-#include "pages/rows/RowTexts.h"
 #include "settings/CatalogNumbers.h"
-#include "settings/PageTables.h"
-#include "toolkit/CTabCtrl.h"
 
-namespace {
+namespace AdvancedControl {
 
-const QString kSeparator = QStringLiteral(" \u2014 ");
-constexpr std::chrono::milliseconds kLater{50};
-
-}  // namespace
+QString WhatAndWhere(const QString& what, const QString& where) {
+  return what + QStringLiteral(" \u2014 ") + where;
+}
 
 FindLine::FindLine(QWidget* parent) : QLineEdit(parent) {
   setClearButtonEnabled(true);
@@ -36,7 +29,8 @@ FindLine::FindLine(QWidget* parent) : QLineEdit(parent) {
   completer->setFilterMode(Qt::MatchContains);
   completer->setMaxVisibleItems(12);
   setCompleter(completer);
-  // Not to this line itself: that it is disconnected from when it loses the focus.
+  // Connected with the completer as context, because Qt disconnects a line edit from its completer
+  // when it loses the focus.
   connect(completer, qOverload<const QModelIndex&>(&QCompleter::activated), completer,
           [this](const QModelIndex& completion) { Choose(completion); });
   hide();
@@ -47,7 +41,7 @@ void FindLine::Start(std::vector<Place> places) {
   QStringList texts;
   int widest = 0;
   for (const Place& place : places_) {
-    texts << place.caption + kSeparator + place.where;
+    texts << WhatAndWhere(place.caption, place.where);
     widest = std::max(widest, fontMetrics().horizontalAdvance(texts.last()));
   }
   static_cast<QStringListModel*>(completer()->model())->setStringList(texts);
@@ -66,15 +60,16 @@ void FindLine::Start(std::vector<Place> places) {
 void FindLine::Choose(const QModelIndex& completion) {
   if (!completion.isValid()) return;
   const auto* shown = static_cast<const QAbstractProxyModel*>(completer()->completionModel());
-  // A copy: while its tab is read, somebody may start anew.
+  // A copy, because `Start` may replace the places while the tab is being read.
   const Place place = places_[static_cast<std::size_t>(shown->mapToSource(completion).row())];
   completer()->popup()->hide();
   hide();
-  // The list must have ended before the place's tab is read.
+  // The list of completions must be closed before the tab is read.
   QTimer::singleShot(0, this, [this, place] { Q_EMIT Found(place); });
 }
 
-// The completions pass on their keys; the one marked is meant, or the first.
+// The list of completions passes its keys on to the line. Enter chooses the marked completion, or
+// else the first one.
 void FindLine::keyPressEvent(QKeyEvent* event) {
   QAbstractItemView* completions = completer()->popup();
   if (event->key() == Qt::Key_Escape) {
@@ -107,69 +102,4 @@ void FindLine::focusOutEvent(QFocusEvent* event) {
   if (!stays) hide();
 }
 
-void CAdvanceDlg::StartFinding() {
-  std::vector<FindLine::Place> places;
-  const auto add = [&](FindLine::Place place, const PageTable& table) {
-    if (KeepsTemplate(table, model_.ModelCode)) return;
-    for (std::size_t i = 0; i < table.rows.size(); ++i) {
-      const PageRow& row = table.rows[i];
-      if (!Has(table, i, model_.ModelCode) || std::holds_alternative<ResetRow>(row)) continue;
-      const QString caption = CaptionText(row);
-      if (std::exchange(place.caption, caption) == caption) continue;  // the parts of a row
-      place.control = ControlOf(row);
-      places.push_back(place);
-    }
-  };
-  for (int tab = 0; tabs_ != nullptr && tab < tabs_->count(); ++tab) {
-    const auto page = PageIdBehind(tab);
-    if (!page) continue;
-    const QString tabCaption = tabs_->tabText(tab);
-    add({.where = tabCaption, .tab = tab}, TableOf(*page));
-    for (const PagePopUp& popUp : PopUpsOf(*page, model_)) {
-      const QString opener = CaptionText(FindRow(TableOf(*page), popUp.control));
-      add({.where = opener + kSeparator + tabCaption, .tab = tab, .popUp = popUp}, *popUp.table);
-    }
-  }
-  find_->Start(std::move(places));
-}
-
-namespace {
-
-void FocusOn(const CDialog& dialog, int control) {
-  QWidget* found = dialog.GetDlgItem(control);
-  if (found != nullptr && found->isEnabledTo(found->window())) {
-    found->window()->setAttribute(Qt::WA_KeyboardFocusChange);  // so that the focus is seen
-    found->setFocus(Qt::OtherFocusReason);
-  }
-}
-
-}  // namespace
-
-// Reading another tab may end with anything: also with the dialog closed, with a further tab, or
-// with a further search.
-void CAdvanceDlg::GoTo(int tab, int control, const std::optional<PagePopUp>& popUp) {
-  tabs_->setFocus(Qt::OtherFocusReason);  // of a row that is grey
-  tabs_->setCurrentIndex(tab);
-  if (!IsCreated() || tabs_->currentIndex() != tab || shownPage_ == nullptr) return;
-  if (find_->isVisible()) return;
-  FocusOn(*shownPage_, popUp ? popUp->control : control);
-  if (popUp) OpenPopUp(popUp->button, control);
-}
-
-// The button runs the pop-up until it is closed. A dialog that still reads opens none.
-void CAdvanceDlg::OpenPopUp(int button, int control, std::chrono::milliseconds delay) {
-  auto* opener = qobject_cast<QAbstractButton*>(shownPage_->GetDlgItem(button));
-  QTimer::singleShot(delay, opener, [this, opener, button, control] {
-    if (!opener->isVisible() || find_->isVisible()) return;
-    if (IsBusy()) return OpenPopUp(button, control, kLater);
-    if (!opener->isEnabled()) return;
-    QTimer::singleShot(0, this, [this, control] {
-      const auto* popUp = qobject_cast<const CDialog*>(QApplication::activeModalWidget());
-      if (popUp != nullptr && popUp->Owner() != nullptr && popUp->Owner()->window() == this) {
-        FocusOn(*popUp, control);
-      }
-    });
-    opener->setFocus(Qt::OtherFocusReason);  // where the focus is when the pop-up has gone
-    opener->click();
-  });
-}
+}  // namespace AdvancedControl

@@ -2,9 +2,12 @@
 #include "resources/AdvancedControlResources.h"
 #include "toolkit/ResourceModule.h"
 
+namespace AdvancedControl {
+
 namespace {
 
-/// Lives as long as the library is loaded. Without a catalog the dialogs show their template texts.
+/// Sets up the library when it is loaded, and cleans up when it is unloaded. Without a catalog the
+/// dialogs show their template texts.
 class LibraryAttachment {
  public:
   LibraryAttachment() {
@@ -22,3 +25,5 @@ class LibraryAttachment {
 const LibraryAttachment attachment;
 
 }  // namespace
+
+}  // namespace AdvancedControl

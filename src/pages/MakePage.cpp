@@ -11,6 +11,8 @@
 #include "pages/setup/CSetupType5TabDlg.h"
 #include "pages/status/CStatusTabDlg.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 template <class Page>
@@ -27,6 +29,8 @@ std::unique_ptr<CTabPage> MakePage(PageId page, CWnd* parent) {
   };
   auto made = kMakers[static_cast<std::size_t>(page)](parent);
   made->setWindowFlags(Qt::Widget);
-  made->hide();  // or it would come up together with the dialog
+  made->hide();  // otherwise it would be shown together with the dialog
   return made;
 }
+
+}  // namespace AdvancedControl

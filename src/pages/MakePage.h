@@ -2,10 +2,15 @@
 
 #include <memory>
 
+#include "Namespace.h"
 #include "settings/PageSets.h"
 #include "toolkit/CWnd.h"
 
 class CTabPage;
 
-/// A page, hidden and without controls until it is created.
+namespace AdvancedControl {
+
+/// Makes a page, which is hidden and has no controls until `Create`.
 std::unique_ptr<CTabPage> MakePage(PageId page, CWnd* parent);
+
+}  // namespace AdvancedControl

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "Namespace.h"
 #include "toolkit/ResourceModule.h"
+
+namespace AdvancedControl {
 
 /// Numbers of the dialog templates.
 namespace TemplateId {
@@ -18,5 +21,7 @@ inline constexpr int Service = 20054;
 inline constexpr int kPageWidth = 405;
 inline constexpr int kPageHeight = 220;
 
-/// The library's own templates.
+/// The library's own templates. Any thread.
 const ResourceModule& AdvancedControlResources();
+
+}  // namespace AdvancedControl

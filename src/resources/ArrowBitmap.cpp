@@ -7,9 +7,11 @@
 #include <QPainter>
 #include <QPalette>
 
+namespace AdvancedControl {
+
 namespace {
 
-// How far the arrow that points up is turned, clockwise.
+// Clockwise rotation, in degrees, that turns the upward arrow into this one.
 std::optional<int> Turn(int number) {
   switch (number) {
     case BitmapId::ArrowUp:
@@ -63,3 +65,5 @@ QIcon ArrowBitmap(int number) {
   const auto turn = Turn(number);
   return turn ? QIcon(new ArrowEngine(*turn)) : QIcon();
 }
+
+}  // namespace AdvancedControl

@@ -1,5 +1,7 @@
 #include "resources/Templates.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 using namespace tmpl;
@@ -14,7 +16,7 @@ constexpr RowTemplate ExecuteRow(RowPlace place, const ControlTemplate& label, i
   return Row(place, label, Colon(colon), Combo(list), Button(button, "17;Execute"));
 }
 
-// The two rows of a position.
+// The control numbers of a position's two rows.
 struct ArrowIds {
   int up, down, left, right, fieldV, fieldH;
 };
@@ -27,7 +29,7 @@ constexpr RowTemplate PositionH(const ArrowIds& ids) {
              Field(ids.fieldH));
 }
 
-// The number stands in line with those of the slider rows.
+// Aligns the field with those of the slider rows.
 constexpr RowTemplate FieldRow(const ControlTemplate& label, int colon, int minus, int field,
                                int plus) {
   return Row(Left, label, Colon(colon), Minus(minus), Plus(plus), Field(field));
@@ -119,3 +121,5 @@ const DialogTemplate kPicture22Template = PageTemplate(TemplateId::Picture22, kP
 const DialogTemplate kImageTemplate = PageTemplate(TemplateId::Image, kImageRows);
 
 const DialogTemplate kImage4Template = PageTemplate(TemplateId::Image4, kImage4Rows);
+
+}  // namespace AdvancedControl

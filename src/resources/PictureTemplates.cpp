@@ -2,12 +2,14 @@
 
 #include "resources/Templates.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 using namespace tmpl;
 using enum RowPlace;
 
-// The two pages that open the pop-ups differ in a caption and in the row behind sharpness.
+// The two pages that open the pop-ups differ in a caption and in the row after sharpness.
 constexpr std::array<RowTemplate, 10> PictureRows(const char* brightness, const RowTemplate& own) {
   return {
       SliderRow(Left, Label(20534, brightness), 20535, {20134, 20136, 20135, 20329}),
@@ -32,7 +34,7 @@ constexpr auto kPictureType5Rows = PictureRows(
 constexpr auto kPicRows = PictureRows(
     "1073;Brightness\t:", Row(Left, Label(20146, "60;Progressive\t:"), Colon(20392), Combo(20145)));
 
-// A row of a custom pop-up: no colon, a Reset button of its own.
+// A row of a custom pop-up, without a colon and with its own Reset button.
 constexpr RowTemplate CustomRow(const ControlTemplate& label, const SliderIds& ids, int reset) {
   return Row(Left, label, Minus(ids.minus), Slider(ids.slider), Plus(ids.plus), Field(ids.field),
              Button(reset, "1026;Reset"));
@@ -74,3 +76,5 @@ const DialogTemplate kGammaTemplate{
 
 const DialogTemplate kColorTempTemplate{
     .number = TemplateId::ColorTemp, .caption = "19;Color Temp -Custom-", .rows = kColorTempRows};
+
+}  // namespace AdvancedControl

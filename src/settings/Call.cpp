@@ -1,6 +1,6 @@
 #include "settings/Call.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 PjtCommand Call::Command(int value, int modelCode) const {
   const auto carried = [&](Argument argument) -> std::int16_t {
@@ -24,7 +24,7 @@ Answer AnswerTo(const Call& call, const PjtReply& reply) {
   const OperationForm& form = FormOf(call.operation);
   const bool accepted =
       call.anyResult ? reply.result != 0 : IsSuccess(call.operation, reply.result);
-  return {accepted || form.tells == Tells::Nothing,
+  return {accepted || form.returns == Returns::Nothing,
           form.isGeneric ? int{static_cast<std::uint16_t>(reply.value)} : int{reply.value}};
 }
 

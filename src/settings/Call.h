@@ -3,11 +3,12 @@
 #include <cstdint>
 #include <optional>
 
+#include "Namespace.h"
 #include "ProjectorSettingsExport.h"
 #include "device/CPjtInterface.h"
 #include "settings/ModelCodes.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// An operation in a row's data: a command without its value.
 struct Call {
@@ -17,7 +18,7 @@ struct Call {
   PerModel<int> flag{0};     ///< Second argument of a flagged setter.
   bool anyResult = false;    ///< Any nonzero result is a success, whatever the family says.
 
-  /// The command for a model, with `value` where the operation takes one.
+  /// The command for a model, with `value` if the operation takes one.
   PROJECTOR_SETTINGS_EXPORT PjtCommand Command(int value = 0, int modelCode = 0) const;
 };
 

@@ -2,13 +2,14 @@
 
 #include <vector>
 
+#include "Namespace.h"
 #include "ProjectorSettingsExport.h"
 #include "settings/PageSets.h"
 #include "settings/Rows.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
-// The rows of every page, one line a row.
+// The rows of every page, one line per row.
 
 #define PAGE(identifier, number, pageClass) \
   PROJECTOR_SETTINGS_EXPORT extern const PageTable k##identifier##Rows;

@@ -8,15 +8,18 @@
 #include <mutex>
 #include <utility>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
-#include "device/ForwardingChannel.h"
+#include "device/channels/ForwardingChannel.h"
 
-/// A fault that a command meets.
+namespace AdvancedControl {
+
+/// What goes wrong with a command.
 struct Fault {
   enum class Kind {
     None,
     Refuse,    ///< The projector refuses the command.
-    FailRead,  ///< It refuses reads; other commands go through.
+    FailRead,  ///< It refuses reads; other commands work.
     Late,      ///< It answers after `delay`.
     DropOut,   ///< It does not answer.
   };
@@ -27,8 +30,8 @@ struct Fault {
   friend bool operator==(const Fault&, const Fault&) = default;
 };
 
-/// Disturbs the commands on their way to another channel. A fault may be set for one operation, for
-/// the generic operations with one code, or for every command; the most specific one applies.
+/// Adds faults to the commands for another channel. A fault can be set for one operation, for the
+/// generic operations with one code, or for all commands; the most specific one applies.
 ///
 /// Faults may be set from any thread while a command is under way; a command delayed by a fault
 /// continues as soon as the fault is cleared.
@@ -60,3 +63,5 @@ class PROJECTOR_COMMON_EXPORT FaultChannel : public ForwardingChannel {
   std::map<PjtOperation, Fault> byOperation_;
   std::map<std::uint16_t, Fault> byCode_;
 };
+
+}  // namespace AdvancedControl

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "Namespace.h"
 #include "device/CommandCode.h"
 #include "device/ModelData.h"
 #include "simulator/SettingsTable.h"
 
-/// What the lines of the simulated projector's table are made of.
+namespace AdvancedControl {
+
+/// Building blocks for the lines of the settings table.
 namespace setting_parts {
 
 using Id = SettingId;
@@ -73,7 +76,7 @@ constexpr Setting Offset(Id id, std::string_view name, int channel, Op read, Op 
                          Op::IncrementColorTempOffset, Op::DecrementColorTempOffset, reset);
 }
 
-/// A value that the projector keeps from −128 to 127 around the zero point.
+/// A value around the zero point, which the projector stores as −128 to 127.
 constexpr Setting Balance(Id id, std::string_view name, std::uint16_t code, SettingRange range,
                           std::size_t rangeText, Operations operations) {
   return {.id = id,
@@ -135,3 +138,5 @@ constexpr Setting ColorTemp(std::uint16_t alsoSetBy = 0) {
 }
 
 }  // namespace setting_parts
+
+}  // namespace AdvancedControl

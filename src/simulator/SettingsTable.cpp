@@ -2,6 +2,8 @@
 
 #include "simulator/SettingParts.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 using namespace setting_parts;
@@ -50,7 +52,7 @@ constexpr Setting kSettings[] = {
      .reported = true,
      .operations = {Reset(Op::ExecFilterTimeReset)}},
 
-    // Picture. Ranges are the widest that any model's page offers.
+    // Picture. Each range is the widest of all models' pages.
     Balance(Id::Brightness, "Brightness", CommandCode::Brightness, {96, 160},
             RangeIndex::Brightness, {Write(Op::SetBrightness), Reset(Op::ExecBrightnessReset)}),
     Balance(Id::Contrast, "Contrast", CommandCode::Contrast, {80, 176}, RangeIndex::Contrast,
@@ -374,3 +376,5 @@ constexpr std::uint16_t kPlainCodes[] = {
 std::span<const Setting> SettingsTable() { return kSettings; }
 
 std::span<const std::uint16_t> PlainCodes() { return kPlainCodes; }
+
+}  // namespace AdvancedControl

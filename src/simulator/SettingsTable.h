@@ -7,8 +7,11 @@
 #include <span>
 #include <string_view>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
 #include "device/PjtOperation.h"
+
+namespace AdvancedControl {
 
 /// Every setting and state of a projector, whichever operations read or change it.
 enum class SettingId {
@@ -199,8 +202,8 @@ enum class PageSets : std::uint8_t {
   ButThird = All ^ Third,
 };
 
-/// Whether the models of a page set have it. A number that is no page set is treated like a page
-/// set that `PageSets` does not name.
+/// Whether `sets` contains a page set. A number that is no page set is treated like a page set that
+/// `PageSets` does not name.
 constexpr bool Knows(PageSets sets, int pageSet) {
   const bool isSet = pageSet > 0 && pageSet < 8;
   return (static_cast<unsigned>(sets) >> (isSet ? pageSet : 0) & 1U) != 0;
@@ -241,3 +244,5 @@ PROJECTOR_COMMON_EXPORT std::span<const Setting> SettingsTable();
 /// Command codes without a known meaning. Each stores the value written to it, initially 0. Any
 /// thread.
 PROJECTOR_COMMON_EXPORT std::span<const std::uint16_t> PlainCodes();
+
+}  // namespace AdvancedControl

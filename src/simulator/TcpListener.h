@@ -1,19 +1,55 @@
 #pragma once
 
-#include <QTcpServer>
+#include <functional>
+#include <memory>
 
+#include <QTcpServer>
+#include <QTimer>
+
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
 
-/// A port that stays open to the next connection whatever became of the last one: after one that
-/// could not be accepted, as when the process has no descriptor left, it tries again at intervals.
+class QTcpSocket;
+
+namespace AdvancedControl {
+
+class ServedConnection;
+
+/// A TCP port that always accepts the next connection. If the limit of connections is reached, the
+/// one that has been idle longest is closed in favour of the new one; while none is idle, the new
+/// one waits. If a connection could not be accepted, for example because the process is out of
+/// descriptors, it tries again at intervals.
+///
+/// Use it on the thread that creates it, which must have an event loop.
 class PROJECTOR_COMMON_EXPORT TcpListener final : public QTcpServer {
  public:
-  /// No connection holds more than `readBuffer` unread bytes, also while it waits to be served.
-  explicit TcpListener(qint64 readBuffer);
+  /// Makes the connection that serves a connected socket.
+  using Serve = std::function<ServedConnection*(std::unique_ptr<QTcpSocket>)>;
+
+  struct Limits {
+    int connections;    ///< Number of connections served at once.
+    qint64 readBuffer;  ///< Largest number of buffered unread bytes of a connection, even while it
+                        ///< waits.
+  };
+
+  /// Takes ownership of the connections that `serve` makes. They are deleted before `serve` is, so
+  /// they may use the same objects.
+  TcpListener(const Limits& limits, Serve serve);
+
+  /// Ends listening and all connections.
+  void CloseAll();
 
  protected:
   void incomingConnection(qintptr descriptor) override;
 
  private:
-  const qint64 readBuffer_;
+  void ServeWaiting();
+  bool HasRoom();
+
+  const Limits limits_;
+  const Serve serve_;
+  QTimer serveLater_;
+  QObject served_;  ///< Parent of the connections made by `serve_`, and of nothing else.
 };
+
+}  // namespace AdvancedControl

@@ -9,11 +9,11 @@
 #include "i18n/SystemLanguage.h"
 #include "settings/CatalogNumbers.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 
-// No setting is further away, and no sum of two such numbers overflows.
+// Larger than any value, and the sum of two such numbers does not overflow.
 constexpr int kLargest = 1'000'000;
 
 std::optional<int> Number(std::string_view text) {
@@ -45,13 +45,18 @@ bool IsNameShared(const ModelSetting& setting, const ListEntry& entry) {
          });
 }
 
-/// Caption number of "V" or "H", which such a setting's row shows behind its caption; 0 for others.
+/// The name of "HDMI (31)" without what makes it unique.
+std::string_view PlainName(std::string_view name) {
+  return name.ends_with(')') ? name.substr(0, name.rfind(" (")) : name;
+}
+
+/// Caption number of "V" or "H" for a setting whose row shows it after its caption; 0 for others.
 int Direction(std::string_view key) {
   if (key.ends_with("-v")) return 52;
   return key.ends_with("-h") ? 53 : 0;
 }
 
-/// The last part of a key in capitals, which is the caption where it is the same in every language.
+/// The last part of a key in capitals: the caption of settings called the same in every language.
 std::string Abbreviation(std::string_view key) {
   return Wide(key.substr(key.rfind('.') + 1)).toUpper().toStdString();
 }
@@ -164,6 +169,12 @@ std::optional<TypedValue> SettingTexts::Parse(const ModelSetting& setting,
     const bool isIt = IsNameShared(setting, entry) ? SameText(Entry(setting, entry), text)  //
                                                    : Is(entry, text);
     if (isIt) return TypedValue{entry.value};
+  }
+  const auto isPlainName = [&text](const ListEntry& entry) {
+    return !entry.text && SameText(PlainName(entry.name), text);
+  };
+  if (std::ranges::count_if(setting.entries, isPlainName) == 1) {
+    return TypedValue{std::ranges::find_if(setting.entries, isPlainName)->value};
   }
   if (IsPower(setting) && Is(ListEntry(ListText::PowerStandby), text)) return TypedValue{0};
   const bool absolute = text.starts_with('=');

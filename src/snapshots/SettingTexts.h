@@ -6,16 +6,17 @@
 #include <string>
 #include <string_view>
 
+#include "Namespace.h"
 #include "ProjectorSettingsExport.h"
 #include "i18n/CatalogTexts.h"
 #include "settings/ModelSettings.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
-/// What a person typed for a setting.
+/// A value as the user typed it.
 struct TypedValue {
-  int amount = 0;         ///< Device value, or
-  bool relative = false;  ///< how far from the present value: positions of a list, else numbers.
+  int amount = 0;         ///< Device value; or, if `relative`, the distance from the present value,
+  bool relative = false;  ///< in entries for a list, else in numbers.
 };
 
 /// Shows settings as texts in one language, and parses texts in any language. May be used from
@@ -33,7 +34,7 @@ class PROJECTOR_SETTINGS_EXPORT SettingTexts {
                    std::optional<int> source) const;
   /// The name of an input source in the list of inputs, or else its number.
   std::string Source(const ModelSettings& model, int source) const;
-  /// The caption of the tab that it is on.
+  /// The caption of the setting's tab.
   std::string Tab(const ModelSetting& setting) const;
   /// The text of an entry; followed by its device value if another entry has the same name:
   /// "HDMI (31)".
@@ -49,8 +50,9 @@ class PROJECTOR_SETTINGS_EXPORT SettingTexts {
   std::string Values(const ModelSetting& setting) const;
 
   /// Parses a number as it is shown, with "=-3" for one below zero; a step, "+3" or "-3"; or, for a
-  /// list, an entry's text in any language and case, or its device value. Nothing for any other
-  /// text, or for a name that several entries have.
+  /// list, an entry's text in any language and case, its name
+  /// without the number in parentheses that makes it unique, or its device value. Nothing for any
+  /// other text, or for a name that several entries have.
   std::optional<TypedValue> Parse(const ModelSetting& setting, std::string_view text) const;
 
  private:

@@ -11,11 +11,14 @@
 
 #include "toolkit/CSliderCtrl.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 constexpr int kGap = 4;
 
-// A child of the slider's window, so that no window manager has a say in it.
+// A child of the slider's window instead of a window, so that the window manager does not affect
+// it.
 class DragBubble final : public QLabel {
  public:
   explicit DragBubble(CSliderCtrl& slider) : QLabel(slider.window()), slider_(slider) {
@@ -66,3 +69,5 @@ void AttachDragBubble(CSliderCtrl& slider) {
   };
   QObject::connect(&slider, &CSliderCtrl::Scrolling, &slider, show);
 }
+
+}  // namespace AdvancedControl

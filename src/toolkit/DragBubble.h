@@ -1,7 +1,13 @@
 #pragma once
 
+#include "Namespace.h"
+
 class CSliderCtrl;
 
-/// Shows beside a slider's handle, while it is scrolled by hand, the number that letting go would
-/// send.
+namespace AdvancedControl {
+
+/// While the user moves a slider, shows beside its handle the number that releasing it would send.
+/// User-interface thread only.
 void AttachDragBubble(CSliderCtrl& slider);
+
+}  // namespace AdvancedControl

@@ -8,10 +8,14 @@
 #include <utility>
 #include <vector>
 
+#include "Namespace.h"
+
 class CDialog;
 class CSliderCtrl;
 
-/// What a control reports, and its handler.
+namespace AdvancedControl {
+
+/// A report of a control, and its handler.
 struct Notification {
   enum class Event : std::uint8_t {
     Clicked,    ///< The user pressed a button or changed a check box.
@@ -34,7 +38,7 @@ class NotificationMap {
 
   const std::vector<Notification>& Entries() const { return entries_; }
 
-  /// Whether this control has a line.
+  /// Whether the control `id` has a line.
   bool Names(int id) const { return std::ranges::count(entries_, id, &Notification::id) != 0; }
 
  private:
@@ -63,3 +67,5 @@ Notification HScroll(void (Dialog::*handler)(CSliderCtrl&)) {
 inline Notification Passive(int id) {
   return {Notification::Event::Passive, id, [](CDialog&, CSliderCtrl*) {}};
 }
+
+}  // namespace AdvancedControl

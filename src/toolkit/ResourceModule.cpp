@@ -4,6 +4,8 @@
 #include <utility>
 #include <vector>
 
+namespace AdvancedControl {
+
 namespace {
 
 struct Chain {
@@ -11,7 +13,8 @@ struct Chain {
   std::vector<const ResourceModule*> registered;
 };
 
-// Libraries register while they are loaded, before other file-level objects need exist.
+// A local static, because libraries register while they are loaded, before other static objects
+// exist.
 Chain& TheChain() {
   static Chain chain;
   return chain;
@@ -54,3 +57,5 @@ const DialogTemplate* FindDialog(int number) {
 }
 
 }  // namespace ResourceChain
+
+}  // namespace AdvancedControl

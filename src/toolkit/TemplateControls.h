@@ -2,10 +2,13 @@
 
 #include <vector>
 
+#include "Namespace.h"
 #include "toolkit/DialogTemplate.h"
 
 class QGridLayout;
 class QWidget;
+
+namespace AdvancedControl {
 
 /// Columns that every row of every dialog shares, so that the dialogs look like one family.
 namespace RowColumn {
@@ -19,7 +22,8 @@ inline constexpr int Button = 6;
 inline constexpr int Count = 7;
 }  // namespace RowColumn
 
-/// A column of rows: a grid of the shared columns, as wide in every dialog.
+/// A grid for a column of rows, with the shared columns, which have the same width in every dialog.
+/// The caller takes ownership.
 QGridLayout* MakeRowColumns(const QWidget& dialog);
 
 /// The widget for a control of a template, a direct child of `parent`, which owns it.
@@ -28,3 +32,5 @@ QWidget* MakeControl(const ControlTemplate& control, QWidget* parent);
 /// Places a row's controls, in template order, into one grid row, centred on its text line.
 void PlaceRow(const RowTemplate& row, const std::vector<QWidget*>& controls, QGridLayout* grid,
               int gridRow);
+
+}  // namespace AdvancedControl

@@ -31,7 +31,7 @@ std::string Words(const LiveState& state) {
     add(digits);
   }
   for (const LampState& lamp : state.lamps) {
-    add(std::to_string(lamp.hours) + (lamp.burns ? *lamp.burns ? " h lit" : " h out" : " h"));
+    add(std::to_string(lamp.hours) + (lamp.isOn ? *lamp.isOn ? " h lit" : " h out" : " h"));
   }
   if (state.filterHours) add("filter " + std::to_string(*state.filterHours) + " h");
   const std::pair<const char*, std::optional<bool>> kSwitches[] = {
@@ -55,7 +55,8 @@ TEST(FleetWatcher, TellsWhatAProjectorIsDoing) {
   };
   const Case cases[] = {
       {"as usual", [](auto&) {},
-       "answers, on, 31 HDMI, 000000, 1200 h lit, filter 80 h, not blank, not mute, not freeze"},
+       "answers, on, 31 HDMI (31), 000000, 1200 h lit, filter 80 h, not blank, not mute, not "
+       "freeze"},
       {"in standby", says("POWR", "0"), "answers, standby"},
       {"warming up, when it tells no more",
        [](auto& it) {
@@ -70,20 +71,22 @@ TEST(FleetWatcher, TellsWhatAProjectorIsDoing) {
          it.device.facts["LAMP"] = "100 1 20000 0";
          it.device.states["AVMT"] = "31";
        },
-       "answers, cooling down, 31 HDMI, 020011, 100 h lit, 20000 h out, filter 80 h, blank, mute, "
+       "answers, cooling down, 31 HDMI (31), 020011, 100 h lit, 20000 h out, filter 80 h, blank, "
+       "mute, "
        "not freeze"},
       {"class 1", says("CLSS", "1"),
-       "answers, on, 31 Digital 1, 000000, 1200 h lit, not blank, not mute"},
+       "answers, on, 31 Digital 1 (31), 000000, 1200 h lit, not blank, not mute"},
       {"nonsense", says("ERST", "99"),
-       "answers, on, 31 HDMI, 1200 h lit, filter 80 h, not blank, not mute, not freeze"},
+       "answers, on, 31 HDMI (31), 1200 h lit, filter 80 h, not blank, not mute, not freeze"},
       {"closes after each reply",
        [](auto& it) {
-         it.device.closesAfterReply = true;
+         it.device.closesAfterReply = 0ms;
          it.device.gap = 300ms;
        },
-       "answers, on, 31 HDMI, 000000, 1200 h lit, filter 80 h, not blank, not mute, not freeze"},
+       "answers, on, 31 HDMI (31), 000000, 1200 h lit, filter 80 h, not blank, not mute, not "
+       "freeze"},
       {"falls silent in the middle", [](auto& it) { it.device.loses["ERST"] = 2; },
-       "answers, on, 31 HDMI"},
+       "answers, on, 31 HDMI (31)"},
       {"is not there", [](auto& it) { it.isThere = false; }, "silent"},
       {"has its port closed", [](auto& it) { it.isRefusing = true; }, "silent"},
       {"says nothing", [](auto& it) { it.device.greeting.clear(); }, "silent"},
@@ -157,12 +160,12 @@ TEST(FleetWatcher, AsksNothingTwiceThatStaysAsItIs) {
   Projector& it = fleet.Add("a");
   it.device.facts.erase("FILT");
   fleet.RunFor(30s);
-  EXPECT_EQ(it.device.TakeHeard(), "POWR, CLSS, INPT, INNM ?31, ERST, AVMT, FREZ, LAMP, FILT");
+  EXPECT_EQ(it.device.TakeRequests(), "POWR, CLSS, INPT, INNM ?31, ERST, AVMT, FREZ, LAMP, FILT");
   fleet.RunFor(60s);
-  EXPECT_EQ(it.device.TakeHeard(), "POWR, INPT, ERST, AVMT, FREZ, LAMP") << "what is known";
+  EXPECT_EQ(it.device.TakeRequests(), "POWR, INPT, ERST, AVMT, FREZ, LAMP") << "what is known";
   it.device.states["POWR"] = "0";
   fleet.RunFor(300s);
-  const std::string asleep = it.device.TakeHeard();
+  const std::string asleep = it.device.TakeRequests();
   EXPECT_EQ(asleep.find_first_not_of("POWR, "), std::string::npos) << asleep;
   it.isRefusing = true;
   fleet.RunFor(70s);
@@ -190,8 +193,8 @@ TEST(FleetWatcher, TellsChangesAndKeepsTheLast) {
   const StateChange& source = told.changes[0].change;
   EXPECT_EQ(told.changes[0].id, "a");
   EXPECT_EQ(source.field, StateField::Source);
-  EXPECT_EQ(source.before, (FieldValue{31, "HDMI"}));
-  EXPECT_EQ(source.now, (FieldValue{32, "HDMI"}));
+  EXPECT_EQ(source.before, (FieldValue{31, "HDMI (31)"}));
+  EXPECT_EQ(source.now, (FieldValue{32, "HDMI (32)"}));
   EXPECT_TRUE(source.time > before && source.time < fleet.Wall());
   EXPECT_EQ(told.changes[1].change.index, static_cast<int>(ProjectorPart::Cover));
   EXPECT_EQ(told.changes[2].change.now, FieldValue{1201});

@@ -1,8 +1,9 @@
-// What a person sees and may do while the projector takes its time.
+// What the user sees and can do while the projector is slow.
 
 #include <gmock/gmock.h>
 
 #include "tests/host/PacedDialog.h"
+#include "tests/support/Soon.h"
 #include "toolkit/CSliderCtrl.h"
 
 namespace {
@@ -26,7 +27,7 @@ struct SilentProjectorTest : FlowTest {
   SilentProjectorTest() : FlowTest(std::chrono::seconds(3)) {}
 };
 
-TEST_F(FlowTest, ClosingActsAtOnceInRefreshesAndChangesAndSendsNothingMore) {
+TEST_F(FlowTest, ClosingActsAtOnceDuringReadsAndChangesAndSendsNothingMore) {
   const std::pair<std::string, std::function<void()>> ways[] = {
       {"Close", [this] { QTest::mouseClick(dialog_.GetDlgItem(kClose), Qt::LeftButton); }},
       {"Esc", [this] { QTest::keyClick(Focused(), Qt::Key_Escape); }},
@@ -53,7 +54,7 @@ TEST_F(FlowTest, ClosingActsAtOnceInRefreshesAndChangesAndSendsNothingMore) {
       } else if (moment == "refresh") {
         ClickTab(kAudioTab);
       } else {
-        projector_->refuses = true;  // would be told
+        projector_->refuses = true;  // a refusal would show an error
         Page().Choose(kIris, 1);
         projector_->refuses = false;
       }
@@ -67,7 +68,7 @@ TEST_F(FlowTest, ClosingActsAtOnceInRefreshesAndChangesAndSendsNothingMore) {
   }
 }
 
-TEST_F(FlowTest, ClosingAPopUpLeavesThePopUpAlone) {
+TEST_F(FlowTest, ClosingAPopUpClosesOnlyThePopUp) {
   Open(kPictureTab);
   InTheWait([] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
   Page().Click(kCustomGamma);
@@ -90,19 +91,19 @@ TEST_F(FlowTest, AnotherTabIsShownAtOnceAndReadFromItsStart) {
       if (inChange) ClickTab(kPictureTab);
       InTheWait([&] {
         projector_->Take();
-        QApplication::setActiveWindow(&dialog_);  // a list may have been it
+        QApplication::setActiveWindow(&dialog_);  // a list may have been the active window
         leave();
         EXPECT_EQ(dialog_.ShownPage(), &dialog_.Page(PageId::Status));
         projector_->Pace(0ms);
       });
       inChange ? Page().Choose(kIris, 1) : ClickTab(kPictureTab);
-      EXPECT_TRUE(QTest::qWaitFor([&] { return dialog_.ShownPage()->isVisible(); }));
+      EXPECT_TRUE(Soon([&] { return dialog_.ShownPage()->isVisible(); }));
       std::vector<PjtCommand> sent;
       const auto isWhole = [&] {
         std::ranges::copy(projector_->Take(), std::back_inserter(sent));
         return sent.size() >= status.size();
       };
-      EXPECT_TRUE(QTest::qWaitFor(isWhole));
+      EXPECT_TRUE(Soon(isWhole));
       QTest::qWait(30);
       EXPECT_TRUE(isWhole() && sent == status) << "whole, once, and nothing else";
       EXPECT_EQ(Veil(), nullptr);
@@ -110,7 +111,7 @@ TEST_F(FlowTest, AnotherTabIsShownAtOnceAndReadFromItsStart) {
   }
 }
 
-TEST_F(FlowTest, WhatIsTypedOrClickedMeanwhileIsDropped) {
+TEST_F(FlowTest, InputDuringAWaitIsDropped) {
   Open();
   projector_->Take();
   ClickTab(kPictureTab);
@@ -132,7 +133,7 @@ TEST_F(FlowTest, WhatIsTypedOrClickedMeanwhileIsDropped) {
   EXPECT_EQ(Page().Selected(kIris), iris);
 }
 
-TEST_F(FlowTest, TheWindowComesFirstAndSaysWhatItDoes) {
+TEST_F(FlowTest, TheWindowIsShownBeforeTheFirstReadAndShowsProgress) {
   projector_->Pace(200ms);
   QStringList seen;
   QTimer look;
@@ -156,7 +157,7 @@ TEST_F(FlowTest, TheWindowComesFirstAndSaysWhatItDoes) {
   EXPECT_THAT(seen, testing::Each(QString())) << "a fast projector shows no line";
 }
 
-TEST_F(SilentProjectorTest, NoAnswerIsToldAndTriedAgain) {
+TEST_F(SilentProjectorTest, ShowsThatNobodyAnswersAndTriesAgain) {
   Open();
   projector_->Pace(kForEver);
   ClickTab(kPictureTab);
@@ -168,13 +169,13 @@ TEST_F(SilentProjectorTest, NoAnswerIsToldAndTriedAgain) {
 
   projector_->Pace(0ms);
   QTest::mouseClick(&Retry(), Qt::LeftButton);
-  EXPECT_TRUE(QTest::qWaitFor([this] { return !Retry().isVisible(); }));
+  EXPECT_TRUE(Soon([this] { return !Retry().isVisible(); }));
   EXPECT_EQ(Status(), QString());
   EXPECT_TRUE(Page().IsEnabled(kIris));
   EXPECT_EQ(Page().Item<QWidget>(kIris).toolTip(), QString());
 }
 
-TEST_F(FlowTest, ABusyProjectorAndAChangeThatIsNotYetSoAreTold) {
+TEST_F(FlowTest, ShowsABusyProjectorAndAPendingChange) {
   Open(kPictureTab);
   projector_->late = true;
   Page().Choose(kIris, 1);
@@ -191,7 +192,7 @@ TEST_F(FlowTest, ABusyProjectorAndAChangeThatIsNotYetSoAreTold) {
   EXPECT_EQ(boxes.Take().size(), 1U) << "the row's own rule holds as well";
 }
 
-TEST_F(SilentProjectorTest, APopUpTellsThatNobodyAnswersAndTriesAgain) {
+TEST_F(SilentProjectorTest, APopUpShowsThatNobodyAnswersAndTriesAgain) {
   Open(kPictureTab);
   projector_->Pace(kForEver);
   QTimer look;
@@ -213,7 +214,7 @@ TEST_F(SilentProjectorTest, APopUpTellsThatNobodyAnswersAndTriesAgain) {
   EXPECT_FALSE(look.isActive());
 }
 
-TEST_F(FlowTest, RowsSayWhatThereIsToKnow) {
+TEST_F(FlowTest, RowsHaveNotes) {
   model_.GammaList.count = 0;
   dialog_.CopyData(&model_, 0);
   Open();
@@ -241,10 +242,10 @@ TEST_F(FlowTest, AHeldButtonStepsOnceForEachReply) {
   projector_->Pace(60ms);
   QTest::mousePress(&plus, Qt::LeftButton);
   const int steps = projector_->sent + 8;
-  EXPECT_TRUE(QTest::qWaitFor([&] { return projector_->sent >= steps; }, 60'000));
+  EXPECT_TRUE(Soon([&] { return projector_->sent >= steps; }));
   QTest::mouseRelease(&plus, Qt::LeftButton);
   projector_->Pace(0ms);
-  EXPECT_TRUE(QTest::qWaitFor([this] { return !dialog_.Projector().IsWaiting(); }));
+  EXPECT_TRUE(Soon([this] { return !dialog_.Projector().IsWaiting(); }));
   QTest::qWait(200);
   const std::vector<PjtCommand> sent = projector_->Take();
   EXPECT_GE(sent.size(), 6U);
@@ -254,7 +255,7 @@ TEST_F(FlowTest, AHeldButtonStepsOnceForEachReply) {
   EXPECT_EQ(Page().SliderAt(kBrightness), before + static_cast<int>(sent.size()) / 2);
 }
 
-TEST_F(FlowTest, ADragTellsWhatLettingGoWouldSend) {
+TEST_F(FlowTest, ADragShowsTheNumberThatReleasingWouldSend) {
   Open(kPictureTab);
   auto& slider = Page().Item<CSliderCtrl>(kBrightness);
   const QString number = Page().Text(kBrightnessField);
@@ -269,7 +270,7 @@ TEST_F(FlowTest, ADragTellsWhatLettingGoWouldSend) {
   EXPECT_NE(bubbles().first()->text(), number);
   EXPECT_EQ(Page().Text(kBrightnessField), number);
   QTest::mouseRelease(&slider, Qt::LeftButton, {}, at + QPoint(20, 0));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return bubbles().isEmpty(); }));
+  EXPECT_TRUE(Soon([&] { return bubbles().isEmpty(); }));
   EXPECT_EQ(Page().Text(kBrightnessField), QString::number(slider.value()));
   QTest::keyPress(&slider, Qt::Key_Left);
   ASSERT_EQ(bubbles().size(), 1);

@@ -1,5 +1,5 @@
-// A host that deletes the dialog's owner from the event loop that runs while a command waits or a
-// box is open. What is touched afterwards, or leaks, the address sanitizer tells.
+// A host deletes the dialog's owner from the event loop that runs while a command waits or a
+// message box is open. The address sanitizer reports uses of deleted objects and leaks.
 
 #include <functional>
 #include <memory>
@@ -10,10 +10,11 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
-#include "device/BoundedChannel.h"
+#include "device/channels/BoundedChannel.h"
 #include "pages/option/CServiceDlg.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/PacedProjector.h"
+#include "tests/support/Soon.h"
 
 namespace {
 
@@ -25,7 +26,7 @@ constexpr int kOptionTab = 7;
 constexpr int kService = 20373;
 constexpr int kRemoteTop = 20377;
 
-// Acts from the event loop as soon as something is so.
+// Calls `act` from the event loop as soon as `isSo` returns true.
 void When(const std::function<bool()>& isSo, const std::function<void()>& act) {
   auto* timer = new QTimer(qApp);
   timer->callOnTimeout([=] {
@@ -37,7 +38,7 @@ void When(const std::function<bool()>& isSo, const std::function<void()>& act) {
   timer->start(1);
 }
 
-// When all is read, however long a busy machine takes for that.
+// Calls `act` when everything has been read, however slow the machine is.
 void WhenIdle(const CAdvanceDlg& dialog, const std::function<void()>& act) {
   When([&dialog] { return dialog.isVisible() && !dialog.IsBusy(); }, act);
 }
@@ -141,7 +142,7 @@ TEST_P(OwnerTest, DiesWhileTheDialogIsInUse) {
     host.Die(*dialog, moment);
   }
   host.ExpectEnded(moment != Moment::MessageBox);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return dialog == nullptr; })) << "leaks";
+  EXPECT_TRUE(Soon([&] { return dialog == nullptr; })) << "leaks";
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -160,13 +161,17 @@ void ExpectToRunAgain(const std::function<CAdvanceDlg&(QWidget*)>& make) {
     host.ExpectEnded(!idle);
 
     const int sent = host.projector->sent;
-    QTimer::singleShot(200ms, &dialog, &QDialog::accept);  // the old command comes back first
-    EXPECT_EQ(dialog.DoModal(), QDialog::Accepted);
-    EXPECT_GT(host.projector->sent, sent) << "the channel is back";
+    QTimer look;
+    look.callOnTimeout([&] {
+      if (host.projector->sent > sent && !dialog.IsBusy()) dialog.accept();
+    });
+    look.start(10ms);
+    QTimer::singleShot(60s, &dialog, &QDialog::reject);
+    EXPECT_EQ(dialog.DoModal(), QDialog::Accepted) << "the channel is not back";
   }
 }
 
-TEST(OwnerOfALocalDialogOrOneInASmartPointer, DiesAndTheDialogIsThereToBeRunAgain) {
+TEST(OwnerOfALocalDialogOrOneInASmartPointer, DiesAndTheDialogCanRunAgain) {
   std::optional<CAdvanceDlg> local;
   ExpectToRunAgain([&](QWidget* owner) -> CAdvanceDlg& { return local.emplace(owner); });
   std::unique_ptr<CAdvanceDlg> dialog;
@@ -177,7 +182,7 @@ TEST(OwnerOfALocalDialogOrOneInASmartPointer, DiesAndTheDialogIsThereToBeRunAgai
   });
 }
 
-TEST(OwnerOfADialogWithoutParent, DiesAndTakesWhatIsOverItDown) {
+TEST(OwnerOfADialogWithoutParent, DiesAndClosesTheDialogsAboveIt) {
   for (const bool box : {true, false}) {
     Host host;
     Activate(*host.Owner());

@@ -8,6 +8,7 @@
 #include "pages/common/CTabPage.h"
 #include "resources/AdvancedControlResources.h"
 #include "tests/support/DialogDriver.h"
+#include "tests/support/Soon.h"
 #include "toolkit/ResourceModule.h"
 
 namespace {
@@ -27,7 +28,7 @@ TEST(Tabs, EachShowsItsPageAlone) {
   }
 }
 
-TEST(Tabs, APageWithoutATabExistsToo) {
+TEST(Tabs, PagesWithoutATabExist) {
   OpenDialog open(MakeModel(2, 5));
   CTabPage& hidden = open.Dialog().Page(PageId::Auto2);
   EXPECT_NE(hidden.Template(), nullptr);
@@ -35,7 +36,7 @@ TEST(Tabs, APageWithoutATabExistsToo) {
   EXPECT_EQ(open.Dialog().Page(PageId::Main).Template(), nullptr) << "of another page set";
 }
 
-TEST(Tabs, TitleAndConnectionAreTheModels) {
+TEST(Tabs, TitleAndConnectionAreThoseOfTheModel) {
   CModelInfo2 record = MakeModel(5, 30);
   record.ModelName = "Hall %1";
   record.ConnectionKinds[0] = 1;
@@ -58,7 +59,7 @@ TEST(Tabs, TitleAndConnectionAreTheModels) {
   EXPECT_TRUE(serial.Dialog().windowTitle().contains(QStringLiteral("4")));
 }
 
-TEST(Tabs, TheHostsResourceModuleComesBackInAnyOrderOfClosing) {
+TEST(Tabs, TheHostsResourceModuleIsRestoredInAnyOrderOfClosing) {
   static constexpr ResourceModule host{std::span<const DialogTemplate* const>{}};
   const ResourceModule* before = ResourceChain::SetCurrent(&host);
   for (const bool firstFirst : {true, false}) {
@@ -76,7 +77,7 @@ TEST(Tabs, TheHostsResourceModuleComesBackInAnyOrderOfClosing) {
   EXPECT_EQ(ResourceChain::SetCurrent(before), &host) << "after destruction without closing";
 }
 
-TEST(Keyboard, GoesRoundTheTabsAndClosesTheDialogButNeverHidesItsPage) {
+TEST(Keyboard, CyclesThroughTheTabsAndClosesTheDialogButNeverHidesItsPage) {
   OpenDialog open(MakeModel(5, 30));
   CAdvanceDlg& dialog = open.Dialog();
   const auto press = [](Qt::Key key, Qt::KeyboardModifiers modifiers) {
@@ -99,7 +100,7 @@ TEST(Keyboard, GoesRoundTheTabsAndClosesTheDialogButNeverHidesItsPage) {
     open.SelectTab(1);
     (onPage ? open.Page().GetDlgItem(20142) : dialog.GetDlgItem(1))->setFocus();
     press(key, modifiers);
-    EXPECT_TRUE(QTest::qWaitFor([&dialog] { return !dialog.isVisible(); }));
+    EXPECT_TRUE(Soon([&dialog] { return !dialog.isVisible(); }));
     EXPECT_FALSE(open.Page().isHidden());
   }
 }

@@ -1,5 +1,6 @@
-// Every setting of every model, used as a program without a window uses it, on the simulated
-// projector: it says for itself what a projector does, so settings and simulation check each other.
+// Uses every setting of every model as a program without a window does, on the simulated projector.
+// The simulation defines independently what a projector does, so settings and simulation check each
+// other.
 
 #include <set>
 
@@ -14,7 +15,7 @@ namespace {
 
 using Kind = ModelSetting::Kind;
 
-// All choices, and the ends of a range.
+// All choices, or the ends of a range.
 std::vector<int> ValuesOf(const ModelSetting& setting) {
   std::vector<int> values{0, 1};
   if (setting.kind == Kind::Number) {
@@ -28,7 +29,7 @@ std::vector<int> ValuesOf(const ModelSetting& setting) {
   return values;
 }
 
-// Those that do not read back what they send, for the reasons told in their tables.
+// Settings that are not read back as sent, for reasons given in their tables.
 const std::set<std::string_view> kOneWay{"image.color-temp"};
 
 void ExpectWorks(const ModelSettings& settings, const ModelSetting& setting) {
@@ -38,7 +39,8 @@ void ExpectWorks(const ModelSettings& settings, const ModelSetting& setting) {
   const auto fresh = read();
   EXPECT_EQ(fresh.has_value(), setting.readable);
   for (const int value : ValuesOf(setting)) {
-    EXPECT_EQ(settings.Change(projector, setting, value), setting.changeable) << value;
+    EXPECT_EQ(settings.Change(projector, setting, value) == Sent::Accepted, setting.changeable)
+        << value;
     if (setting.Restorable()) {
       EXPECT_EQ(read(), value);
     }
@@ -46,7 +48,7 @@ void ExpectWorks(const ModelSettings& settings, const ModelSetting& setting) {
   if (setting.kind == Kind::Choice) {
     EXPECT_FALSE(setting.entries.empty());
     for (const int other : {setting.placeholder.value_or(12345), 12345}) {
-      EXPECT_FALSE(settings.Change(projector, setting, other));
+      EXPECT_NE(settings.Change(projector, setting, other), Sent::Accepted);
     }
   }
   if (setting.reset) {
@@ -55,7 +57,7 @@ void ExpectWorks(const ModelSettings& settings, const ModelSetting& setting) {
   }
 }
 
-TEST(ModelSettings, EveryOneOfEveryModelWorksOnTheSimulationAndHasAKeyOfItsOwn) {
+TEST(ModelSettings, EverySettingOfEveryModelWorksOnTheSimulationAndHasAUniqueKey) {
   for (const CModelInfo2& info : EveryModel()) {
     SCOPED_TRACE(NameOf(info));
     const ModelSettings settings(MakeModelData(info));
@@ -71,7 +73,7 @@ TEST(ModelSettings, EveryOneOfEveryModelWorksOnTheSimulationAndHasAKeyOfItsOwn) 
   }
 }
 
-TEST(ModelSettings, AnEntryWhoseValueIsMinusOneIsSentLikeAnyOther) {
+TEST(ModelSettings, AnEntryWithTheValueMinusOneIsSentLikeAnyOther) {
   CModelInfo2 model = MakeModel(5, 49);
   AddEntry(model.ColorTempList, -1, "none");
   AddEntry(model.MyButtonList, -1, "none");
@@ -87,13 +89,13 @@ TEST(ModelSettings, AnEntryWhoseValueIsMinusOneIsSentLikeAnyOther) {
   CPjtInterface projector;
   projector.SetChannel(channel);
   for (const char* key : {"picture.color-temp", "option.my-button-1"}) {
-    EXPECT_TRUE(settings.Change(projector, *settings.Find(key), -1)) << key;
+    EXPECT_EQ(settings.Change(projector, *settings.Find(key), -1), Sent::Accepted) << key;
     EXPECT_EQ(channel->sent.first, -1);
   }
 }
 
-// What each step from 10 towards 12 gives; none is made beyond them.
-TEST(StepTo, EndsAtTheValueOrWhereNoStepLeadsNearer) {
+// The result of each step from 10 towards 12; no further step is made.
+TEST(StepTo, EndsAtTheValueOrWhenStepsComeNoNearer) {
   struct Case {
     std::vector<Stepped> steps;
     Sent sent;
@@ -105,7 +107,7 @@ TEST(StepTo, EndsAtTheValueOrWhereNoStepLeadsNearer) {
       {{{.value = 13}}, Sent::Refused},
       {{{}}, Sent::Refused},
       {{kRefused, kRefused, kRefused}, Sent::Refused},
-      // Made, though its answer was lost.
+      // The step was made, but its answer got lost.
       {{kRefused, kRefused, {.refused = true, .value = 11}, {.value = 12}}, Sent::Accepted},
   };
   for (const auto& [steps, sent] : cases) {

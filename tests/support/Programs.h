@@ -7,7 +7,9 @@
 #include <QProcess>
 #include <gtest/gtest.h>
 
-// Programs as processes of their own, and the files that they leave.
+#include "tests/support/Soon.h"
+
+// Runs programs as separate processes, and reads the files that they write.
 
 struct Outcome {
   int exitCode;  ///< −1 if it did not end by itself.
@@ -41,28 +43,35 @@ inline void Write(const QString& path, const QByteArray& text) {
 }
 
 #ifdef SIMULATOR_PROGRAM
-/// The simulator, ready from its making on.
+/// The simulator as a process, ready after construction.
 class SimulatorProcess {
  public:
   explicit SimulatorProcess(const QStringList& arguments) {
-    process_.start(SIMULATOR_PROGRAM, arguments);
-    while (process_.canReadLine() || process_.waitForReadyRead(60'000)) {
-      const QString line = QString::fromUtf8(process_.readLine()).trimmed();
-      if (line == "ready") return;
-      const QString address = line.section(": ", 1);
-      addresses_[line.startsWith("control") ? "control" : address.section(':', 0, 0)] = address;
-    }
-    ADD_FAILURE() << "the simulator is not ready: " << process_.readAllStandardError().data();
+    // The port of an earlier simulator may be another program's for a while.
+    EXPECT_TRUE(Soon([&] { return IsReady(arguments); }))
+        << "the simulator is not ready: " << process_.readAllStandardError().data();
   }
   ~SimulatorProcess() {
     process_.terminate();
     EXPECT_EQ(Finish(process_).exitCode, 0);
   }
 
-  /// What it says to be reached at: "tcp", "serial", "pjlink" or "control".
-  QString Address(const char* way) const { return addresses_.value(way); }
+  /// The address that it reports for "tcp", "serial", "pjlink" or "control".
+  QString Address(const char* transport) const { return addresses_.value(transport); }
 
  private:
+  bool IsReady(const QStringList& arguments) {
+    process_.start(SIMULATOR_PROGRAM, arguments);
+    while (process_.canReadLine() || process_.waitForReadyRead(60'000)) {
+      const QString line = QString::fromUtf8(process_.readLine()).trimmed();
+      if (line == "ready") return true;
+      const QString address = line.section(": ", 1);
+      addresses_[line.startsWith("control") ? "control" : address.section(':', 0, 0)] = address;
+    }
+    process_.waitForFinished();
+    return false;
+  }
+
   QProcess process_;
   QMap<QString, QString> addresses_;
 };

@@ -7,6 +7,8 @@
 #include "i18n/LocalizeControlTexts.h"
 #include "settings/CatalogNumbers.h"
 
+namespace AdvancedControl {
+
 NumberQuestion::NumberQuestion(const QString& caption, Range range, int present, QWidget* parent)
     : QInputDialog(parent), range_(range) {
   setAttribute(Qt::WA_DeleteOnClose);
@@ -33,6 +35,8 @@ void NumberQuestion::done(int result) {
   setLabelText(CatalogString(kListCategory, ListText::NumberWanted, std::int64_t{range_.minimum},
                              std::int64_t{range_.maximum}));
   findChild<QLineEdit*>()->selectAll();
-  QAccessibleEvent told(findChild<QLabel*>(), QAccessible::Alert);
-  QAccessible::updateAccessibility(&told);
+  QAccessibleEvent event(findChild<QLabel*>(), QAccessible::Alert);
+  QAccessible::updateAccessibility(&event);
 }
+
+}  // namespace AdvancedControl

@@ -6,9 +6,12 @@
 
 #include <QPointer>
 
+#include "Namespace.h"
 #include "device/CPjtInterface.h"
 #include "pages/rows/RowNotes.h"
 #include "pages/rows/RowView.h"
+
+namespace AdvancedControl {
 
 class PageVeil;
 
@@ -64,8 +67,10 @@ class PageReader {
   RowHost& host_;
   const Rows& rows_;
   RowNotes notes_;
-  int readings_ = 0;  // one in another
+  int readings_ = 0;  // number of nested readings
   int sentBefore_ = 0;
   bool waiting_ = false;
-  QPointer<PageVeil> veil_;  // only while it is seen
+  QPointer<PageVeil> veil_;  // only while it is shown
 };
+
+}  // namespace AdvancedControl

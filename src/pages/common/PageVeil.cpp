@@ -2,9 +2,11 @@
 
 #include <QPainter>
 
+namespace AdvancedControl {
+
 namespace {
 
-constexpr int kOpacity = 190;  // of 255; what is below can just be made out
+constexpr int kOpacity = 190;  // of 255; the rows below remain just visible
 
 }  // namespace
 
@@ -24,3 +26,5 @@ void PageVeil::paintEvent(QPaintEvent*) {
   color.setAlpha(kOpacity);
   for (const QRect& part : dimmed_) painter.fillRect(part, color);
 }
+
+}  // namespace AdvancedControl

@@ -3,7 +3,12 @@
 #include <QRegion>
 #include <QWidget>
 
-/// Lies over a page that waits for its projector: dims parts of it and shows the wait cursor.
+#include "Namespace.h"
+
+namespace AdvancedControl {
+
+/// An overlay on a page that waits for its projector: dims parts of the page and shows the wait
+/// cursor. User-interface thread only.
 class PageVeil final : public QWidget {
  public:
   explicit PageVeil(QWidget& page);
@@ -17,3 +22,5 @@ class PageVeil final : public QWidget {
  private:
   QRegion dimmed_;
 };
+
+}  // namespace AdvancedControl

@@ -6,10 +6,13 @@
 #include <vector>
 
 #include "AdvancedControlExport.h"
+#include "Namespace.h"
 #include "pages/common/PageReader.h"
 #include "pages/common/RowMenus.h"
 #include "pages/common/SettingsDialog.h"
 #include "pages/rows/RowView.h"
+
+namespace AdvancedControl {
 
 class Waiting;
 
@@ -85,6 +88,8 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog, private RowHost
   PageReader reader_;
   RowMenus menus_;
   bool stale_ = false;
-  // Of a pop-up; a page waits with its dialog.
+  // Only of a pop-up; a page uses that of its dialog.
   std::unique_ptr<Waiting> waiting_;
 };
+
+}  // namespace AdvancedControl

@@ -3,9 +3,11 @@
 #include "device/ModelDataSource.h"
 #include "toolkit/MessageBox.h"
 
+namespace AdvancedControl {
+
 namespace {
 
-// A catalog without these texts leaves the boxes their own.
+// If the catalog lacks these texts, the message boxes use Qt's.
 ButtonTexts BoxButtons() {
   const auto text = [](int number) {
     static constexpr int kUnknown = 0;
@@ -41,3 +43,5 @@ CPjtInterface& SettingsDialog::Unconnected() {
   static CPjtInterface projector;
   return projector;
 }
+
+}  // namespace AdvancedControl

@@ -8,6 +8,8 @@
 #include "i18n/LocalizeControlTexts.h"
 #include "settings/CatalogNumbers.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 int ProblemText(ConnectionState connection) {
@@ -37,7 +39,7 @@ StatusLine::StatusLine(QWidget* parent)
     : QWidget(parent), text_(new QLabel), retry_(new QPushButton) {
   retry_->setAutoDefault(false);
   retry_->hide();
-  hide();  // with nothing to say it is nothing, for a screen reader as well
+  hide();  // hidden from screen readers too while it is empty
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(text_);
@@ -76,3 +78,5 @@ void StatusLine::Show(const QString& text, bool canRetry) {
   QAccessibleEvent changed(text_, canRetry ? QAccessible::Alert : QAccessible::NameChanged);
   QAccessible::updateAccessibility(&changed);
 }
+
+}  // namespace AdvancedControl

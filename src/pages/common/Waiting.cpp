@@ -5,10 +5,12 @@
 
 #include "pages/common/StatusLine.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 constexpr std::chrono::milliseconds kTick{50};
-constexpr int kBlink = 4;  // ticks
+constexpr int kBlink = 4;  // in ticks of the timer
 
 }  // namespace
 
@@ -21,14 +23,14 @@ StatusLine& Waiting::MakeLine(QWidget* parent) {
   line_ = new StatusLine(parent);
   connect(line_, &StatusLine::Retry, this, [this] {
     line_->ShowProgress({});
-    dialog_.projector().TryAfresh();
+    dialog_.projector().AllowRetry();
     dialog_.retry();
   });
   return *line_;
 }
 
 void Waiting::Begin() {
-  CountAfresh();
+  RestartTally();
   ticks_ = 0;
   if (timer_ == 0) timer_ = startTimer(kTick);
 }
@@ -41,7 +43,7 @@ void Waiting::End(bool left) {
   line_->ShowOutcome(projector, before_);
 }
 
-void Waiting::CountAfresh() { before_ = dialog_.projector().Sent(); }
+void Waiting::RestartTally() { before_ = dialog_.projector().Sent(); }
 
 void Waiting::Abandon() { abandoned_ = dialog_.projector().Abandon(); }
 
@@ -61,3 +63,5 @@ void Waiting::Show(bool waiting) {
   dialog_.show(waiting);
   if (line_ != nullptr) line_->ShowProgress(waiting ? dialog_.text() : QString());
 }
+
+}  // namespace AdvancedControl

@@ -17,7 +17,7 @@ std::vector<Notification> CInputTabDlg::OwnNotifications() const {
   return {SelChange(kPowerUpInput, &CInputTabDlg::OnSelchangePowerUpInput)};
 }
 
-// The first entry, the last input, is no source of the list and always sent.
+// The first entry, "last input", is not a source and is always sent.
 void CInputTabDlg::OnSelchangePowerUpInput() {
   const auto& list = Item<CComboBox>(kPowerUpInput);
   if (list.currentIndex() == 0 || list.SelectedValue() <= kHighestInput) Act(kPowerUpInput);

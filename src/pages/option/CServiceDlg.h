@@ -5,16 +5,17 @@
 
 /// The pop-up with the settings of installers: automatic adjustment, remote-control receivers and
 /// frequencies, focus lock. Each change applies at once; a refused one is silently undone.
-class ADVANCED_CONTROL_EXPORT CServiceDlg final : public RowDialog {
+class ADVANCED_CONTROL_EXPORT CServiceDlg final : public AdvancedControl::RowDialog {
   Q_OBJECT
 
  public:
   explicit CServiceDlg(CWnd* parent);
 
-  /// Decides which rows there are; set by the opener, like the projector, before the dialog runs.
+  /// Decides which rows are present. The opener sets it, like the projector, before the dialog
+  /// runs.
   int ModelCode = 0;
 
-  // A change of each control, by name.
+  // Handlers, one for each control.
   void OnCbnSelchangeSvcAtadjenbcomb();
   void OnBnClickedSvcIrfrontchk();
   void OnBnClickedSvcIrrearchk();
@@ -25,10 +26,10 @@ class ADVANCED_CONTROL_EXPORT CServiceDlg final : public RowDialog {
   void OnBnClickedSvcBtnclose();
 
  protected:
-  const ModelData& Model() const override { return model_; }
-  std::vector<Notification> OwnNotifications() const override;
+  const AdvancedControl::ModelData& Model() const override { return model_; }
+  std::vector<AdvancedControl::Notification> OwnNotifications() const override;
   bool OnInitDialog() override;
 
  private:
-  ModelData model_;  // nothing but `ModelCode`
+  AdvancedControl::ModelData model_;  // contains only `ModelCode`
 };

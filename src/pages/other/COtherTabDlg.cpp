@@ -46,7 +46,8 @@ void COtherTabDlg::OnBnClickedOtherPowerOff() {
   if (!Ask(ErrorText::PowerOffQuestion)) return;
   SendRow(*projector, Row(kPower).Row(), Model(), 0);
   InitDisp();
-  // The command has no result: a projector that is still on, or does not say, tells the refusal.
+  // The command has no result. It counts as refused if the projector is still on or does not report
+  // its state.
   if (!runningState_ || runningState_ == shared::kRunning) ShowError(ErrorText::PowerRefused);
 }
 

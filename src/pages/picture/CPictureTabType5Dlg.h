@@ -5,7 +5,7 @@
 
 /// Picture settings of the newest page set: brightness, contrast, color, tint and sharpness; gamma
 /// and color temperature with their custom pop-ups; active iris; memories; resets.
-class ADVANCED_CONTROL_EXPORT CPictureTabType5Dlg final : public PicturePage {
+class ADVANCED_CONTROL_EXPORT CPictureTabType5Dlg final : public AdvancedControl::PicturePage {
   Q_OBJECT
 
  public:
@@ -16,7 +16,7 @@ class ADVANCED_CONTROL_EXPORT CPictureTabType5Dlg final : public PicturePage {
   /// Position of a device value in the active-iris list, or −1.
   static short ActIrisValueToIdx(short value);
 
-  // What the user does with each control, by name.
+  // Handlers, one for each control.
   void OnBnClickedPicBgpBtn();
   void OnBnClickedPicBgnBtn();
   void OnBnClickedPicCnpBtn();

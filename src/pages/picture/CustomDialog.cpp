@@ -6,6 +6,8 @@
 #include "toolkit/CSliderCtrl.h"
 #include "toolkit/WindowText.h"
 
+namespace AdvancedControl {
+
 const ValueRow& CustomDialog::RowAt(std::size_t row) const {
   return std::get<ValueRow>(table_.rows[row + 1]);
 }
@@ -34,7 +36,7 @@ void CustomDialog::AddPicture() {
   Draw();
 }
 
-// A field shows what the projector accepted; a slider is ahead of it while it is being moved.
+// A field shows the accepted value; while the user moves a slider, it already shows the new one.
 void CustomDialog::Draw() {
   Values accepted;
   Values tried;
@@ -56,3 +58,5 @@ void CustomDialog::Draw() {
   picture_->Show(std::move(lines));
   picture_->setAccessibleDescription(description.join(QStringLiteral(", ")));
 }
+
+}  // namespace AdvancedControl

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "Namespace.h"
 #include "pages/rows/RowView.h"
 
 class CComboBox;
 
-/// A button that makes the projector do something, with a list beside it or without.
+namespace AdvancedControl {
+
+/// A button that makes the projector do something, with or without a list beside it.
 class ActionRowView final : public RowView {
  public:
   ActionRowView(const PageTable& table, const PageRow& row, RowHost& host)
@@ -20,3 +23,5 @@ class ActionRowView final : public RowView {
   const ActionRow& row_;
   CComboBox* list_ = nullptr;
 };
+
+}  // namespace AdvancedControl

@@ -6,6 +6,8 @@
 #include "settings/RowUse.h"
 #include "toolkit/CComboBox.h"
 
+namespace AdvancedControl {
+
 std::vector<RowView::Operated> ListRowView::OperatedControls() const {
   return {{Notification::Event::SelChange, row_.control}};
 }
@@ -14,7 +16,7 @@ void ListRowView::Bind() { list_ = &Dialog().Item<CComboBox>(row_.control); }
 
 void ListRowView::Prepare() { FillList(*list_, row_.entries.Of(Model())); }
 
-// The entries keep their texts and stand for what the row's own entries at their places do.
+// The entries keep their texts and get the values of the row's own entries at the same positions.
 void ListRowView::UseTemplate() {
   const std::vector<ListEntry> entries = row_.entries.Of({});
   const int count = std::min(list_->count(), static_cast<int>(entries.size()));
@@ -92,3 +94,5 @@ bool ListRowView::CanMoveTo(int position) const {
 void ListRowView::MoveTo(int position) {
   if (CanMoveTo(position)) list_->Pick(position);
 }
+
+}  // namespace AdvancedControl

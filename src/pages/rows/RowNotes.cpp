@@ -7,6 +7,8 @@
 #include "pages/rows/RowView.h"
 #include "toolkit/CComboBox.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 RowNote NoteOf(const RowView& row, const SettingsDialog& dialog,
@@ -46,7 +48,7 @@ QString RowNotes::TextOf(const RowView& row) {
   return {};
 }
 
-void RowNotes::Tell(RowView& row, const CPjtInterface::Tally& before) const {
+void RowNotes::SetNote(RowView& row, const CPjtInterface::Tally& before) const {
   const SettingsDialog& dialog = host_.Dialog();
   if (const RowNote note = NoteOf(row, dialog, before);
       std::exchange(row.memory.note, note) == note) {
@@ -54,7 +56,7 @@ void RowNotes::Tell(RowView& row, const CPjtInterface::Tally& before) const {
   }
   const QString text = TextOf(row);
   for (const int id : ControlsOf(row.Row())) dialog.GetDlgItem(id)->setToolTip(text);
-  // A text that is only shown is described by its caption.
+  // A label's accessible description is its caption.
   if (qobject_cast<QLabel*>(dialog.GetDlgItem(ControlOf(row.Row()))) != nullptr) return;
   for (const int id : ControlsOf(row.Row())) dialog.GetDlgItem(id)->setAccessibleDescription(text);
   GreyCaption(row);
@@ -63,3 +65,5 @@ void RowNotes::Tell(RowView& row, const CPjtInterface::Tally& before) const {
 void RowNotes::GreyCaption(const RowView& row) const {
   if (!captionsStay_) host_.Dialog().GreyCaption(ControlOf(row.Row()));
 }
+
+}  // namespace AdvancedControl

@@ -4,11 +4,13 @@
 #include "settings/CatalogNumbers.h"
 #include "toolkit/CComboBox.h"
 
+namespace AdvancedControl {
+
 QString PlainText(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-// One that is the same in every language is no text of the catalog.
+// A caption that is the same in every language is not in the catalog.
 QString CaptionText(const PageRow& row) {
   const int number = CaptionOf(row);
   if (number != 0) return CatalogString(kCaptionCategory, number);
@@ -23,3 +25,5 @@ void FillList(CComboBox& list, std::span<const ListEntry> entries) {
   list.clear();
   for (const ListEntry& entry : entries) list.Add(TextOf(entry), entry.value);
 }
+
+}  // namespace AdvancedControl

@@ -6,9 +6,11 @@
 #include "pages/rows/StateRowView.h"
 #include "pages/rows/ValueRowView.h"
 
+namespace AdvancedControl {
+
 namespace {
 
-/// A button of the page alone.
+/// A button that opens a pop-up; the page handles it.
 class PopUpRowView final : public RowView {
  public:
   using RowView::RowView;
@@ -39,3 +41,5 @@ std::vector<std::unique_ptr<RowView>> MakeRowViews(const PageTable& table, RowHo
   for (const PageRow& row : table.rows) views.push_back(MakerOf(row)(table, row, host));
   return views;
 }
+
+}  // namespace AdvancedControl

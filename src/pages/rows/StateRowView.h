@@ -1,11 +1,14 @@
 #pragma once
 
+#include "Namespace.h"
 #include "pages/rows/RowView.h"
 
 class QLabel;
 
-/// A state of the projector, shown as a text, or as a dash where it cannot be read. What a person
-/// can do about it is its page's.
+namespace AdvancedControl {
+
+/// A state of the projector, shown as a text, or as a dash if it cannot be read. The page handles
+/// actions that change the state.
 class StateRowView final : public RowView {
  public:
   StateRowView(const PageTable& table, const PageRow& row, RowHost& host)
@@ -21,3 +24,5 @@ class StateRowView final : public RowView {
   const StateRow& row_;
   QLabel* label_ = nullptr;
 };
+
+}  // namespace AdvancedControl

@@ -14,7 +14,7 @@ CAudioType5Dlg::CAudioType5Dlg(CWnd* parent)
 
 bool CAudioType5Dlg::OnInitDialog() {
   PrepareRows();
-  // Not a model of this page: it stays unlocalized.
+  // For models without this page, the captions stay unlocalized.
   if (Row(kVolume).memory.present) LocalizeControlTexts(kCaptionCategory, *this);
   return true;
 }

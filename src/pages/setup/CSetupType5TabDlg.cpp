@@ -52,7 +52,8 @@ void CSetupType5TabDlg::ShowSource(std::optional<int> source) {
 }
 
 void CSetupType5TabDlg::OnHScroll(CSliderCtrl& slider) {
-  // Intended: a refused horizontal change falls back to the vertical memory, not to its own.
+  // Intended: a refused horizontal change restores the remembered vertical value instead of its
+  // own.
   if (!Release(slider) && &slider == GetDlgItem(kKeystoneH) && !projector->IsAbandoned()) {
     slider.setValue(Row<ValueRowView>(kKeystoneV).Remembered());
   }

@@ -3,7 +3,7 @@
 #include "settings/RowParts.h"
 #include "settings/option/MyButtons.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 
@@ -14,7 +14,7 @@ constexpr auto kCcDisplays =
 constexpr auto kCcModes = Numbered(ListText::ClosedCaptionCaptions, ListText::ClosedCaptionText);
 constexpr auto kCcChannels = Numbered<1>("1", "2", "3", "4");
 
-// Other than in a refresh, what is read back is the position, not a code to look up.
+// The value read back is a position. In a refresh, it is a function code.
 constexpr ListRules kMyButton{
     .refused = Refused::ReadsBackPosition,
     .placeholder = {std::nullopt, kCodesWithOtherFunction, kOtherFunction}};
@@ -27,7 +27,7 @@ constexpr PageRow kRows[] = {
     NamedSlider("option.auto-off", 94, {20367, 20369, 20368, 20370}, {Op::GetAutoOff, Op::SetAutoPowerOff, Op::DecrementAutoPowerOff, Op::IncrementAutoPowerOff}, RangeIndex::AutoOff, {0, 99}, 5),
     ListRow{"option.my-button-1", 95, 20371, MyButtonEntries, Named(Op::GetMyButton1), Named(Op::SetMyButton1), kMyButton},
     ListRow{"option.my-button-2", 96, 20372, MyButtonEntries, Named(Op::GetMyButton2), Named(Op::SetMyButton2), kMyButton},
-    // Other than elsewhere, any result but 0 of the read is a success.
+    // Unlike in other reads, any result but 0 is a success.
     ListRow{"option.my-source", 216, 20374, SourceEntries, AnyResult(Get(CommandCode::MySource)), Set(CommandCode::MySource), {.error = ErrorText::MySourceRefused}},
     PopUpRow{"option.service", 3097, 20373},
     ListRow{"option.cc-display", 191, 20292, kCcDisplays, Named(Op::GetCCDisplay), Named(Op::SetCCDisplay)},

@@ -1,7 +1,7 @@
 #include "settings/CatalogNumbers.h"
 #include "settings/PageTables.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 
@@ -35,7 +35,7 @@ constexpr ModelRows kModels[] = {
     //                                                   | ||| ||Focus Lock
     {{30, 31, 41, 43, 46, 51, 52, 54},                  "1 111 110"},
     {{32, 33, 36, 37, 38, 39, 40, 42, 45, 49, 50, 53},  "1 000 110"},
-    {{44},                                              "1 101 111"},  // no receiver at the rear
+    {{44},                                              "1 101 111"},  // no rear receiver
 };
 // clang-format on
 static_assert(AreComplete(kModels, std::ssize(kRows)));

@@ -1,17 +1,17 @@
 #include "settings/PageTables.h"
 #include "settings/picture/PictureRows.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 
 using Op = PjtOperation;
 
-// "TV" stays in every language.
+// "TV" is the same in every language.
 constexpr ListEntry kProgressives[] = {
     {ListText::Off, 0}, {"TV", 1}, {ListText::LegacyProgressiveFilm, 2}};
 
-// The brightness of this page has texts of its own, here and as its caption.
+// Brightness has different texts on this page, here and in its caption.
 constexpr ResetEntry kResets[] = {
     {ListText::PicBrightness, Op::ExecBrightnessReset, 20136},
     {ListText::Contrast, Op::ExecContrastReset, 20138},
@@ -28,7 +28,7 @@ constexpr ValueRow Sharpness() {
   return row;
 }
 
-// Brightness too is dragged with the generic `Set`, unlike on the newest picture page.
+// Moving the brightness slider sends the generic `Set`, unlike on the newest picture page.
 // clang-format off
 constexpr PageRow kRows[] = {
     CentredSlider("picture.brightness", 1073, {20134, 20136, 20135, 20329}, CommandCode::Brightness, ErrorText::BrightnessRefused, RangeIndex::Brightness),
@@ -39,7 +39,8 @@ constexpr PageRow kRows[] = {
     ListRow{"picture.gamma", 41, 20142, GammaEntries, Get(CommandCode::Gamma), Named(Op::SetGamma), kGammaRules},
     ListRow{"picture.color-temp", 115, 20144, ColorTempEntries, Get(CommandCode::ColorTemp), Set(CommandCode::ColorTemp), kColorTempRules},
     ListRow{"picture.progressive", 60, 20145, kProgressives, Get(CommandCode::Progressive), Named(Op::SetProgressive), {}, NotOn(9, 22)},
-    // Both are followed by a reading when done, which a memory tells by any result but 0 and a reset by 0.
+    // Both read the page again after success, which is any result but 0 for a memory, and 0 for a
+    // reset.
     ActionRow{"picture.my-memory", 119, 21065, Named(Op::SetMyMemory), Rereads::WhenDone, 21064, kMyMemories},
     ResetRow{"picture.reset", 20157, 21070, kResets, Rereads::WhenDone},
 };

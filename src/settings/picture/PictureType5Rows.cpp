@@ -1,14 +1,14 @@
 #include "settings/PageTables.h"
 #include "settings/picture/PictureRows.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 
 using Op = PjtOperation;
 
 constexpr Range kRange{-32, 32};
-// Sharpness has a zero point of its own.
+// Sharpness has a different zero point.
 constexpr int kSharpnessBias = 124;
 
 constexpr ListEntry kActiveIris[] = {
@@ -22,8 +22,8 @@ constexpr ResetEntry kResets[] = {
     {ListText::Sharpness, Op::ExecSharpnessReset, 20152},
 };
 
-// A slider of this page, sent by its own setter. A refused drag stays quiet: the slider keeps the
-// place the user gave it and only the number field tells the projector's value.
+// A slider of this page, sent by its own setter. After a refused drag there is no message: the
+// slider stays where the user moved it, and only the number field shows the projector's value.
 constexpr ValueRow Slider(std::string_view key, int caption, const ValueIds& ids,
                           std::uint16_t code, Op set, int rangeText, int error) {
   return {.key = key,
@@ -59,7 +59,7 @@ constexpr PageRow kRows[] = {
     Sharpness(),
     ListRow{"picture.gamma", 41, 20142, GammaEntries, Get(CommandCode::Gamma), Named(Op::SetGamma), kGammaRules},
     ListRow{"picture.color-temp", 115, 20144, ColorTempEntries, Get(CommandCode::ColorTemp), Set(CommandCode::ColorTemp), kColorTempRules},
-    // A mode that the list does not know leaves the row as it was.
+    // A mode without an entry does not change the row.
     ListRow{"picture.active-iris", 128, 20293, kActiveIris, Get(CommandCode::ActiveIris), Set(CommandCode::ActiveIris), {.noEntry = NoEntry::Ignored, .error = ErrorText::ActiveIrisRefused}, OnlyOn(30, 31, 41, 43, 46, 51, 52, 54)},
     ActionRow{"picture.my-memory", 119, 21065, Named(Op::SetMyMemory), Rereads::WhenDone, 21064, kMyMemories},
     ResetRow{"picture.reset", 20157, 21070, kResets, Rereads::Always},

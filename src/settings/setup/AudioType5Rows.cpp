@@ -2,14 +2,14 @@
 #include "settings/PageTables.h"
 #include "settings/setup/AudioLists.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 
 using Op = PjtOperation;
 
-// The audio inputs that a source can have. The digital and the MIU list have an entry of their own
-// behind the others; only where it is the sixth does it stand for the projector's own number.
+// The audio inputs that a source can have. The digital and the MIU list have an additional last
+// entry. Only as the sixth entry it has the projector's own number as its value.
 constexpr auto kInputsWith4 =
     Numbered(ListText::Off, ListText::Audio1, ListText::Audio2, ListText::Audio3, ListText::Audio4);
 
@@ -30,16 +30,15 @@ constexpr ModelEntries kMiuSources[] = {
     {kCodesWith4, kInputsWith4And<ListText::AudioMIU, kMiuInput>},
     {{}, kInputsAnd<ListText::AudioMIU>}};
 
-// Other than in a refresh, what is read back is the position: 32 and 16 leave no selection then.
+// The value read back is a position. Unlike in a refresh, 32 and 16 then select nothing.
 constexpr ListRules kRouting{.noEntry = NoEntry::IsPosition,
                              .refused = Refused::ReadsBackPosition,
                              .failedReadDisables = false,
-                             .tellsText = true};
+                             .sendsText = true};
 constexpr ListRules kHdmiMode{
     .noEntry = NoEntry::Keeps, .refused = Refused::ReadsBack, .failedReadDisables = false};
 
-// Of the source that is heard. A refused position empties the field, and a failed read does no
-// more.
+// A value of the source that is heard. A refused position or a failed read only empties the field.
 constexpr ValueRow OfPlaying(ValueRow row, int initial) {
   row.initial = initial;
   row.refusedDrag = RefusedDrag::Empties;
@@ -64,40 +63,64 @@ constexpr ValueRow Tone(std::string_view key, int caption, const ValueIds& ids, 
   return row;
 }
 
-// The projector knows a 1 too, which is taken for off.
+// The projector also reports 1, which counts as off.
 constexpr ListEntry kSurrounds[] = {
     {ListText::SwitchOff, 0}, {ListText::SurroundMid, 2}, {ListText::SurroundHigh, 3}};
 constexpr ListRules kSurround{.noEntry = NoEntry::IsOrdinal,
                               .refused = Refused::ReadsBack,
                               .failedReadDisables = false,
-                              .tellsText = true};
+                              .sendsText = true};
 
-// The two digital rows share one operation; a flag tells the projector which of its inputs is
-// meant, and which models want it differs by row.
+// The two digital rows share one operation. A flag selects the input; the models that need the flag
+// differ by row.
 constexpr Call kSetM1D = Flagged(Op::SetAudioM1D, {0, {41, 43}, 1});
 constexpr Call kSetHdmi = Flagged(Op::SetAudioM1D, {0, {41, 43, 51, 53, 54}, 1});
 
-// A Computer row names the same input as its RGB row, and the projector reports both with the RGB
-// operation.
-// clang-format off
+// A Computer row is the same input as its RGB row, and the projector reports both with the RGB
+// operation. clang-format off
 constexpr PageRow kRows[] = {
     Volume(),
-    Tone("audio.treble", 2, {20348, 20350, 20349, 20315}, {Op::GetInputSrcTreble, Op::SetInputSrcTreble, Op::DecrementInputSrcTreb, Op::IncrementInputSrcTreb}, RangeIndex::Treble),
-    Tone("audio.bass", 3, {20351, 20353, 20352, 20316}, {Op::GetInputSrcBass, Op::SetInputSrcBass, Op::DecrementInputSrcBass, Op::IncrementInputSrcBass}, RangeIndex::Bass),
-    ListRow{"audio.srs-wow", 4, 20381, kSurrounds, Named(Op::GetSRSWOW), Named(Op::SetSRSWOW), kSurround, {}, OfSource::Playing},
-    ListRow{"audio.speaker", 5, 20354, kSwitch, Named(Op::GetSpeaker), Named(Op::SetSpeaker), kRouting},
-    ListRow{"audio.rgb1", 1006, 20356, kSources, Named(Op::GetAudioRGB1), Named(Op::SetAudioRGB1), kRouting},
-    ListRow{"audio.computer1", 181, 20365, kSources, Named(Op::GetAudioRGB1), Named(Op::SetAudioComputer1), kRouting},
-    ListRow{"audio.rgb2", 1007, 20358, kSources, Named(Op::GetAudioRGB2), Named(Op::SetAudioRGB2), kRouting},
-    ListRow{"audio.computer2", 182, 20366, kSources, Named(Op::GetAudioRGB2), Named(Op::SetAudioComputer2), kRouting},
+    Tone("audio.treble", 2, {20348, 20350, 20349, 20315},
+         {Op::GetInputSrcTreble, Op::SetInputSrcTreble, Op::DecrementInputSrcTreb,
+          Op::IncrementInputSrcTreb},
+         RangeIndex::Treble),
+    Tone("audio.bass", 3, {20351, 20353, 20352, 20316},
+         {Op::GetInputSrcBass, Op::SetInputSrcBass, Op::DecrementInputSrcBass,
+          Op::IncrementInputSrcBass},
+         RangeIndex::Bass),
+    ListRow{"audio.srs-wow",
+            4,
+            20381,
+            kSurrounds,
+            Named(Op::GetSRSWOW),
+            Named(Op::SetSRSWOW),
+            kSurround,
+            {},
+            OfSource::Playing},
+    ListRow{"audio.speaker", 5, 20354, kSwitch, Named(Op::GetSpeaker), Named(Op::SetSpeaker),
+            kRouting},
+    ListRow{"audio.rgb1", 1006, 20356, kSources, Named(Op::GetAudioRGB1), Named(Op::SetAudioRGB1),
+            kRouting},
+    ListRow{"audio.computer1", 181, 20365, kSources, Named(Op::GetAudioRGB1),
+            Named(Op::SetAudioComputer1), kRouting},
+    ListRow{"audio.rgb2", 1007, 20358, kSources, Named(Op::GetAudioRGB2), Named(Op::SetAudioRGB2),
+            kRouting},
+    ListRow{"audio.computer2", 182, 20366, kSources, Named(Op::GetAudioRGB2),
+            Named(Op::SetAudioComputer2), kRouting},
     ListRow{"audio.m1-d", 1008, 20359, kSources, Named(Op::GetAudioM1D), kSetM1D, kRouting},
     ListRow{"audio.hdmi", 1183, 20367, kHdmiSources, Named(Op::GetAudioM1D), kSetHdmi, kRouting},
-    ListRow{"audio.video", 1009, 20360, kSources, Named(Op::GetAudioVideo), Named(Op::SetAudioVideo), kRouting},
-    ListRow{"audio.s-video", 1010, 20361, kSources, Named(Op::GetAudioSVideo), Named(Op::SetAudioSVideo), kRouting},
-    ListRow{"audio.component", 1011, 20362, kSources, Named(Op::GetAudioComponent), Named(Op::SetAudioComponent), kRouting},
-    ListRow{"audio.miu", 12, 20363, kMiuSources, Named(Op::GetAudioMIU), Named(Op::SetAudioMIU), kRouting},
-    ListRow{"audio.out-standby", 206, 20368, kSources, Named(Op::GetAudioOutStandby), Named(Op::SetAudioOutStandby), kRouting},
-    ListRow{"audio.hdmi-audio", 184, 20364, kHdmiAudio, Named(Op::GetHDMIAudio), Named(Op::SetHDMIAudio), kHdmiMode},
+    ListRow{"audio.video", 1009, 20360, kSources, Named(Op::GetAudioVideo),
+            Named(Op::SetAudioVideo), kRouting},
+    ListRow{"audio.s-video", 1010, 20361, kSources, Named(Op::GetAudioSVideo),
+            Named(Op::SetAudioSVideo), kRouting},
+    ListRow{"audio.component", 1011, 20362, kSources, Named(Op::GetAudioComponent),
+            Named(Op::SetAudioComponent), kRouting},
+    ListRow{"audio.miu", 12, 20363, kMiuSources, Named(Op::GetAudioMIU), Named(Op::SetAudioMIU),
+            kRouting},
+    ListRow{"audio.out-standby", 206, 20368, kSources, Named(Op::GetAudioOutStandby),
+            Named(Op::SetAudioOutStandby), kRouting},
+    ListRow{"audio.hdmi-audio", 184, 20364, kHdmiAudio, Named(Op::GetHDMIAudio),
+            Named(Op::SetHDMIAudio), kHdmiMode},
 };
 
 constexpr ModelRows kModels[] = {
@@ -107,15 +130,11 @@ constexpr ModelRows kModels[] = {
     //          |||SRS |||Computer2 |||MIU
     //          ||||Sp.|||| M1-D    |||| Out Standby
     //          |||||  |||| |HDMI   |||| |HDMI Audio
-    {{30},     "11111  1010 10      1110 00"},
-    {{31},     "11111  1010 10      1111 00"},
-    {{41},     "11111  1010 01      1111 01"},
-    {{43},     "11111  1010 01      1110 01"},
-    {{46, 52}, "10001  1010 00      1110 00"},
-    {{49, 50}, "10001  0101 00      1110 10"},
-    {{51},     "11111  1010 01      1110 11"},
-    {{53},     "10001  0101 01      1110 11"},
-    {{54},     "11111  1010 01      1111 11"},
+    {{30}, "11111  1010 10      1110 00"},     {{31}, "11111  1010 10      1111 00"},
+    {{41}, "11111  1010 01      1111 01"},     {{43}, "11111  1010 01      1110 01"},
+    {{46, 52}, "10001  1010 00      1110 00"}, {{49, 50}, "10001  0101 00      1110 10"},
+    {{51}, "11111  1010 01      1110 11"},     {{53}, "10001  0101 01      1110 11"},
+    {{54}, "11111  1010 01      1111 11"},
 };
 // clang-format on
 static_assert(AreComplete(kModels, std::ssize(kRows)));

@@ -2,7 +2,7 @@
 #include "settings/PageTables.h"
 #include "settings/setup/AudioLists.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 
@@ -38,13 +38,14 @@ constexpr ModelEntries kMonitorRgb1[] = {{{54}, kOutRgb1}, {{}, kOutRgbs}};
 constexpr ModelEntries kMonitorRgb2[] = {{{54}, kOutRgb2}, {{}, kOutRgbs}};
 constexpr ModelEntries kMonitors[] = {{{51, 54}, kOutRgbs}, {{}, kOutComputers}};
 
-constexpr ListRules kReadBackTold{.refused = Refused::ReadsBack, .tellsText = true};
-// A value without an entry leaves the selection of a routing list.
+constexpr ListRules kReadBackWithText{.refused = Refused::ReadsBack, .sendsText = true};
+// A value without an entry does not change the selection of a routing list.
 constexpr ListRules kRouting{.noEntry = NoEntry::Keeps, .refused = Refused::ReadsBack};
-constexpr ListRules kRoutingTold{
-    .noEntry = NoEntry::Keeps, .refused = Refused::ReadsBack, .tellsText = true};
+constexpr ListRules kRoutingWithText{
+    .noEntry = NoEntry::Keeps, .refused = Refused::ReadsBack, .sendsText = true};
 
-// Ticks at eighths. A refused position is not told: the slider goes back to what was remembered.
+// Ticks at eighths. After a refused position the slider returns to the remembered value, without a
+// message.
 constexpr ValueRow Keystone(std::string_view key, int caption, const ValueIds& ids,
                             const ValueOps& ops, int rangeText) {
   ValueRow row = NamedSlider(key, caption, ids, ops, rangeText, {-128, 127}, 0);
@@ -65,7 +66,7 @@ constexpr ValueRow Volume() {
   return row;
 }
 
-// One direction of the digital shift. Any result but 0 counts; nothing on our side bounds it.
+// One direction of the digital shift. Any result but 0 is a success. Only the projector limits it.
 constexpr ValueRow Shift(std::string_view key, const ValueIds& ids, std::uint16_t code) {
   return {.key = key,
           .caption = 195,
@@ -87,7 +88,7 @@ constexpr ResetEntry kResets[] = {
     {ListText::DShiftH, Op::ExecDShiftHReset, 20145},
 };
 
-// A Computer row is the RGB input under its newer name: the projector reports both in one way.
+// A Computer row is the RGB input under its newer name. The projector reports both in the same way.
 // clang-format off
 constexpr PageRow kRows[] = {
     ActionRow{"setup.auto-keystone", 18, 20305, Named(Op::ExecAutoKeyStone)},
@@ -95,19 +96,19 @@ constexpr PageRow kRows[] = {
     Keystone("setup.keystone-h", 138, {20312, 20311, 20313, 20141}, {Op::GetKeystoneH, Op::SetKeystoneH, Op::DecrementKeystoneH, Op::IncrementKeystoneH}, RangeIndex::KeystoneH),
     ListRow{"setup.whisper", 75, 20315, WhisperEntries, Named(Op::GetWhisper), Named(Op::SetWhisper), kReadBack},
     ListRow{"setup.mirror", 40, 20316, kMirrors, Named(Op::GetMirror), Named(Op::SetMirror), kReadBack},
-    ListRow{"setup.speaker", 5, 20321, kSwitch, Named(Op::GetSpeaker), Named(Op::SetSpeaker), kReadBackTold},
+    ListRow{"setup.speaker", 5, 20321, kSwitch, Named(Op::GetSpeaker), Named(Op::SetSpeaker), kReadBackWithText},
     Volume(),
-    // Only the buttons are strict about the result.
+    // Only the buttons insist on the result 1.
     ValueRow{.key = "setup.d-zoom", .caption = 194, .ids = {20331, 20332, 20333, 20143}, .code = CommandCode::DigitalZoom,
              .read = AnyResult(Get(CommandCode::DigitalZoom)), .set = AnyResult(Set(CommandCode::DigitalZoom)),
              .range = Range{80, 100}, .ticks = 2, .refusedDrag = RefusedDrag::GoesBack, .error = ErrorText::DZoomRefused},
     Shift("setup.d-shift-v", {20336, 0, 20335, 20144}, CommandCode::DigitalShiftV),
     Shift("setup.d-shift-h", {20334, 0, 20350, 20145}, CommandCode::DigitalShiftH),
     ListRow{"setup.audio-rgb1", 139, 20320, kThreeAudios, Named(Op::GetAudioRGB1), Named(Op::SetAudioRGB1), kRouting},
-    ListRow{"setup.audio-computer1", 181, 20369, kAudios, Named(Op::GetAudioRGB1), Named(Op::SetAudioComputer1), kRoutingTold},
+    ListRow{"setup.audio-computer1", 181, 20369, kAudios, Named(Op::GetAudioRGB1), Named(Op::SetAudioComputer1), kRoutingWithText},
     ListRow{"setup.audio-rgb2", 140, 20322, kThreeAudios, Named(Op::GetAudioRGB2), Named(Op::SetAudioRGB2), kRouting},
-    ListRow{"setup.audio-computer2", 182, 20370, kAudios, Named(Op::GetAudioRGB2), Named(Op::SetAudioComputer2), kRoutingTold},
-    ListRow{"setup.audio-hdmi", 183, 20329, kAudioHdmi, Named(Op::GetAudioM1D), Flagged(Op::SetAudioM1D, {0, {42}, 1}), kRoutingTold},
+    ListRow{"setup.audio-computer2", 182, 20370, kAudios, Named(Op::GetAudioRGB2), Named(Op::SetAudioComputer2), kRoutingWithText},
+    ListRow{"setup.audio-hdmi", 183, 20329, kAudioHdmi, Named(Op::GetAudioM1D), Flagged(Op::SetAudioM1D, {0, {42}, 1}), kRoutingWithText},
     ListRow{"setup.audio-component", 143, 20325, kThreeAudios, Named(Op::GetAudioComponent), Named(Op::SetAudioComponent), kRouting},
     ListRow{"setup.audio-s-video", 142, 20324, kAudios, Named(Op::GetAudioSVideo), Named(Op::SetAudioSVideo), kRouting},
     ListRow{"setup.audio-video", 141, 20323, kAudios, Named(Op::GetAudioVideo), Named(Op::SetAudioVideo), kRouting},

@@ -1,7 +1,7 @@
 #include "settings/PageTables.h"
 #include "settings/SharedRows.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 
@@ -16,8 +16,8 @@ constexpr ListEntry kErrors[] = {
 constexpr ListEntry kOn[] = {{ListText::On, 1}};
 constexpr ListEntry kFreeze[] = {{ListText::Freeze, 1}};
 
-// Every slot is searched, also those beyond the list's count: hosts leave sources there that the
-// projector can still report.
+// Searches every slot, even beyond the list's count: hosts leave sources there that the projector
+// may still report.
 std::vector<ListEntry> SourcesInAnySlot(const ModelData& model) {
   const SourceList& sources = model.MySourceList;
   std::vector<ListEntry> entries;

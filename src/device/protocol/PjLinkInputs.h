@@ -1,0 +1,67 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "Namespace.h"
+#include "ProjectorCommonExport.h"
+#include "device/ModelData.h"
+#include "device/protocol/PjLinkSession.h"
+
+namespace AdvancedControl {
+
+/// An input of a projector.
+struct PjLinkInput {
+  std::int32_t number = 0;  ///< The input source number, see `PjLink::InputNumber`.
+  std::string name;  ///< UTF-8; reported by the projector, or else kind and number: "Digital 1".
+
+  friend bool operator==(const PjLinkInput&, const PjLinkInput&) = default;
+};
+
+/// When an input's name is followed by its code: "HDMI (31)".
+enum class InputCodes {
+  SharedNames,  ///< If another input has the same name. For a list that shows all inputs.
+  AllNames,     ///< Always, so that an input has one name whether or not the others are known.
+};
+
+/// The inputs as a model's source list, without those beyond its capacity. Any thread.
+PROJECTOR_COMMON_EXPORT SourceList SourcesOf(const std::vector<PjLinkInput>& inputs,
+                                             InputCodes codes);
+
+/// What is known of a projector's inputs, and the next question to ask: first for the list, then
+/// for the name of each. If there are more inputs than a list can hold, the present input takes the
+/// last place. Use from one thread at a time.
+class PROJECTOR_COMMON_EXPORT PjLinkInputs {
+ public:
+  /// The question to ask next; nothing if everything is known.
+  std::optional<PjLinkQuestion> Next() const;
+  /// Takes the result of that question. False if it has to be repeated.
+  bool Take(const PjLinkResult& result);
+  /// Skips the name that `Next` asks for, until `Forget`.
+  void SkipName();
+  bool IsListKnown() const { return !codes_.empty(); }
+
+  /// Sets the present input.
+  void SetPresent(int number) { present_ = number; }
+  const std::vector<PjLinkInput>& Known() const { return inputs_; }
+  /// Uses the inputs from an earlier session, which must be complete.
+  void Remember(std::vector<PjLinkInput> inputs);
+  void Forget() { *this = {}; }
+
+  /// The question for an input's name; and the input with the name in its answer.
+  static std::optional<PjLinkQuestion> NameOf(int number);
+  static PjLinkInput Named(int number, const std::string& name);
+
+ private:
+  std::optional<std::string> NextCode() const;
+  void Add(PjLinkInput input);
+
+  std::vector<std::string> codes_;
+  std::vector<PjLinkInput>
+      inputs_;       ///< In the order of `codes_`, then the present input if it is beyond them.
+  int present_ = 0;  ///< 0 if unknown.
+};
+
+}  // namespace AdvancedControl

@@ -8,20 +8,20 @@
 
 namespace AdvancedControl {
 
-/// When a projector may be asked next.
+/// Determines when a projector is visited next.
 class AskSchedule {
  public:
   using Random = std::minstd_rand;
 
   /// A visit begins.
   void Begin(SessionTime now, const FleetPolicy& policy, Random& random);
-  /// What came of it. An abandoned visit says nothing.
+  /// The result of the visit. An abandoned visit has none.
   void Answered(const FleetPolicy& policy);
   void Unanswered(const FleetPolicy& policy);
-  /// The next visit is as early as it may be, as something has changed.
+  /// Brings the next visit forward, as far as the policy allows.
   void Hasten(SessionTime now, const FleetPolicy& policy);
 
-  /// The epoch for one that was never asked: at once.
+  /// The time of the next visit; the epoch before the first visit.
   SessionTime Next() const { return next_; }
 
  private:

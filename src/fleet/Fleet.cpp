@@ -9,7 +9,8 @@ namespace AdvancedControl {
 
 namespace {
 
-/// Leaves files for the rest of the program: a projector must not seem silent for want of one.
+/// Leaves files for the rest of the program. A projector must not look silent because the process
+/// has no file left.
 FleetPolicy WithinLimits(FleetPolicy policy) {
   rlimit files{};
   if (getrlimit(RLIMIT_NOFILE, &files) == 0 && files.rlim_cur != RLIM_INFINITY) {
@@ -36,7 +37,7 @@ void Fleet::Run() {
     SessionTime next{};
     bool tells = false;
     {
-      // Others go first, as they keep somebody waiting.
+      // Callers on other threads go first; one of them may be a user interface.
       while (callers_ > 0) std::this_thread::yield();
       const std::lock_guard lock(mutex_);
       if (ends_) return;

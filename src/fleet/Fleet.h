@@ -23,8 +23,8 @@ namespace AdvancedControl {
 
 class FleetWatcher;
 
-/// Watches any number of projectors from one thread of its own; docs/fleet.md tells how they are
-/// asked. All functions may be called from any thread and return at once.
+/// Watches any number of projectors from one thread of its own, as docs/fleet.md describes. All
+/// functions may be called from any thread and return at once.
 class PROJECTOR_FLEET_EXPORT Fleet {
  public:
   /// `onChanges` is called on the fleet's thread when the first change has come since the last
@@ -36,16 +36,16 @@ class PROJECTOR_FLEET_EXPORT Fleet {
   Fleet(const Fleet&) = delete;
   Fleet& operator=(const Fleet&) = delete;
 
-  /// Adds a projector, which is asked at once, or replaces the one of this identity. One with a
-  /// serial port stays without an answer: a line is for one program alone.
+  /// Adds a projector, which is visited at once, or replaces the one with this identity. Projectors
+  /// on serial lines are not visited, since only one program can open a line.
   void Set(FleetTarget target);
   void Remove(const std::string& id);
 
   /// Ends all visits and begins none until asking is switched on again, as it is at first.
   void SetAsking(bool asks);
 
-  /// Keeps the fleet away from a projector as long as it lives, so that somebody else can work on
-  /// it. Must not outlive the fleet.
+  /// While an object of this class exists, the fleet does not visit the projector, so that another
+  /// connection can be used. It must not outlive the fleet.
   class PROJECTOR_FLEET_EXPORT Pause {
    public:
     [[nodiscard]] Pause(Fleet& fleet, std::string id);
@@ -58,13 +58,13 @@ class PROJECTOR_FLEET_EXPORT Fleet {
     const std::string id_;
   };
 
-  /// Takes over what a command told that somebody else sent. `power` is the exact state that the
-  /// connection knows.
+  /// Updates the state with the reply to a command that was sent over another connection. `power`
+  /// is the exact state that the connection reports.
   void Learn(const std::string& id, const PjtCommand& command, const PjtReply& reply,
              std::optional<PowerState> power = {});
-  /// How many settings differ from what they should be, as somebody found out.
+  /// Sets how many settings differ from what they should be.
   void LearnDrift(const std::string& id, std::optional<int> drift);
-  /// Asks as early as the policy allows, for example since the projector sent a notice.
+  /// Visits the projector as early as the policy allows.
   void AskSoon(const std::string& id);
   /// Does so for each PJLink projector with a numeric address that sends a status notice.
   /// `address` is one of this machine's, numeric; port 0 is any free one. The port, or 0 when it

@@ -7,10 +7,10 @@
 
 namespace AdvancedControl {
 
-/// The time as people tell it.
+/// Date and time of day.
 using WallTime = std::chrono::system_clock::time_point;
 
-/// The clocks that a fleet goes by.
+/// The clocks that a fleet uses.
 class FleetClock {
  public:
   virtual ~FleetClock() = default;

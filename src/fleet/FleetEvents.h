@@ -15,10 +15,10 @@ struct FleetChange {
   StateChange change;
 };
 
-/// Changes in the order in which they came about.
+/// Changes, the oldest first.
 struct FleetChanges {
   std::vector<FleetChange> changes{};
-  bool areMissing = false;  ///< Nobody took them for so long that the oldest were dropped.
+  bool areMissing = false;  ///< Too many had accumulated, and the oldest were dropped.
 };
 
 /// What a fleet has done so far. The numbers only grow.

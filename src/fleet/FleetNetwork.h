@@ -10,22 +10,22 @@
 
 namespace AdvancedControl {
 
-/// The connections of a fleet: sockets, or what a test puts in their place. A peer is a number that
-/// the caller chooses; it has one connection at most.
+/// The connections of a fleet: sockets, or a test's simulation of them. The caller identifies each
+/// connection by a number of its choice, the peer.
 class FleetNetwork {
  public:
   using Peer = std::uint32_t;
 
-  /// Told what happens, never from inside a call of the network.
+  /// Receives events, never from inside a call to the network.
   class Listener {
    public:
     virtual ~Listener() = default;
     virtual void Connected(Peer peer) = 0;
     virtual void NotConnected(Peer peer, ConnectionState problem) = 0;
     virtual void Received(Peer peer, std::string_view bytes) = 0;
-    /// The other end closed the connection, or it broke; it is gone.
+    /// The other end closed the connection, or it broke.
     virtual void Closed(Peer peer) = 0;
-    /// Somebody at this numeric address says that something has changed at a projector.
+    /// A status notice came from this numeric address.
     virtual void Noticed(const std::string& address) = 0;
   };
 
@@ -33,9 +33,9 @@ class FleetNetwork {
 
   /// Begins to connect, and ends the connection before. `host` is a name or an address.
   virtual void Connect(Peer peer, const std::string& host, std::uint16_t port) = 0;
-  /// What cannot be sent at once breaks the connection, of which the listener is then told.
+  /// If the bytes cannot be sent at once, the connection breaks, and the listener is informed.
   virtual void Send(Peer peer, std::string_view bytes) = 0;
-  /// Ends the connection, or the attempt. Nothing more is told of it.
+  /// Ends the connection, or the attempt to connect. No more events of it follow.
   virtual void Close(Peer peer) = 0;
 };
 

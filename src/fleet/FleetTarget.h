@@ -9,9 +9,9 @@
 
 namespace AdvancedControl {
 
-/// What a projector has to be known by before it can be watched.
+/// The data needed to watch a projector.
 struct FleetTarget {
-  std::string id;  ///< Unique in the fleet and the same for ever, whatever the address becomes.
+  std::string id;  ///< Unique in the fleet; does not change when the address does.
   ProjectorAddress address;
   /// Shared by all projectors of the model. Null for a PJLink projector of which nothing is known.
   std::shared_ptr<const ModelData> model{};

@@ -24,12 +24,12 @@
 
 namespace AdvancedControl {
 
-/// Visits the projectors of a fleet in turn and keeps what they tell. Has neither threads nor
-/// sockets: whoever owns it calls `Tick`, waits for the network until the time that it returns, and
-/// passes on what happens there. Not for several threads at once; `Fleet` makes it so.
+/// Visits the projectors of a fleet and keeps their states. It has no threads and no sockets: its
+/// owner calls `Tick`, waits for network events until the time that `Tick` returns, and passes the
+/// events on. Use from one thread at a time; `Fleet` adds the locking.
 ///
-/// A projector without a visit under way has one timer, which tells when it may be asked again. One
-/// that is due while as many visits are under way as may be waits in line for its turn.
+/// Each projector has one timer: for its next visit, or for the next step of the present one. A
+/// projector that is due while too many visits are in progress waits in line.
 class FleetWatcher final : public FleetNetwork::Listener {
  public:
   using Peer = FleetNetwork::Peer;

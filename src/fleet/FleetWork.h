@@ -47,9 +47,9 @@ enum class WorkOutcome : std::uint8_t {
   Working,
   Done,
   Pending,   ///< Accepted, and not yet so.
-  Refused,   ///< At least a part of it; the reason says by what.
+  Refused,   ///< At least a part of it, for the given reason.
   NoAnswer,  ///< What was sent may have been carried out.
-  Stopped,   ///< By whoever gave the job; what was sent before stays.
+  Stopped,   ///< The job was cancelled; what was sent before stays.
 };
 
 /// What became of a job on one projector.

@@ -9,7 +9,7 @@
 
 namespace AdvancedControl {
 
-/// Tells somebody, such as a fleet, what each command of another channel came to. `told` is called
+/// Reports each command of another channel and its reply, for example to a fleet. `told` is called
 /// on the thread of the command.
 class LearningChannel final : public ForwardingChannel {
  public:

@@ -21,8 +21,9 @@ union SocketAddress {
 /// The address that a text such as "192.0.2.1" or "fe80::1%eth0" is; nothing for a name.
 std::optional<SocketAddress> ParseSocketAddress(const std::string& text, std::uint16_t port);
 
-/// Looks host names up on two threads of its own, which begin with the first name. A lookup takes
-/// as long as the system does; one that is under way at the end goes on by itself, and is dropped.
+/// Looks up host names on two threads of its own, which start with the first name. The system
+/// function for it cannot be interrupted: a lookup that is running at the end continues by itself,
+/// and its result is dropped.
 class NameResolver {
  public:
   struct Found {

@@ -8,8 +8,8 @@
 
 namespace AdvancedControl {
 
-/// Receives the status notices of PJLink, which projectors send over UDP to whom their settings
-/// name. They prove nothing, as anybody can send them: who gets one should ask the projector.
+/// Receives the status notices of PJLink, which projectors send over UDP to an address in their
+/// settings. Anyone can send them, so a notice is only a reason to ask the projector.
 class NoticeSocket {
  public:
   NoticeSocket() = default;

@@ -7,8 +7,8 @@
 
 namespace AdvancedControl {
 
-/// A visit to a PJLink projector. Each command is asked for once, whatever number of items its
-/// answer tells, and the name of an input when it plays for the first time.
+/// A visit to a PJLink projector. Sends each query once, even if its answer contains several items,
+/// and asks for the name of an input that is selected for the first time.
 class PjLinkVisit final : public Visit {
  public:
   PjLinkVisit(const PjLinkAddress& address, const FleetPolicy& policy, LiveState state,
@@ -30,7 +30,7 @@ class PjLinkVisit final : public Visit {
   void TakeStatusText(const PjLinkResult& told);
   void TakeName(const std::string& name);
   bool LacksName() const { return state_.source && state_.source->name.empty(); }
-  /// Ends the visit; what was not asked is not known.
+  /// Ends the visit. Items that were not asked for become unknown.
   void GiveUp();
 
   PjLinkSession session_;

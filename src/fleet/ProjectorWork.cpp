@@ -154,7 +154,7 @@ WorkResult ProjectorWork::OutcomeOf(const Restoration& restoration) const {
   return {.outcome = WorkOutcome::Done};
 }
 
-/// A switch that is no setting to be kept, as it shows what the projector is doing.
+/// Changes a state that is a switch. Snapshots do not contain it.
 WorkResult ProjectorWork::SetState(const ModelSetting& setting, int value) {
   const CPjtInterface::Tally before = connection_.Sent();
   const Sent sent = settings_.Change(connection_, setting, value, {texts_.Value(setting, value)});

@@ -14,9 +14,8 @@
 
 namespace AdvancedControl {
 
-/// TCP connections that one thread waits for with epoll. One thread calls `Wait` and then `Pass`;
-/// the others may be called by any, but only one at a time, and not during `Pass`. `Wake` may be
-/// called by any thread at any time.
+/// TCP connections in an epoll loop. One thread calls `Wait` and then `Pass` in turn. `Wait` and
+/// `Wake` may run at any time; the other functions must be called one at a time.
 class SocketNetwork final : public FleetNetwork {
  public:
   SocketNetwork();

@@ -33,14 +33,15 @@ inline constexpr auto kAllStatusItems = [] {
 
 /// How the page's row reads it.
 const Call& ReadingOf(StatusItem item);
-/// What a command reads; nothing for any other command.
+/// The item that a command reads; nothing for any other command.
 std::optional<StatusItem> StatusItemOf(const PjtCommand& command);
 
-/// Takes a device value over as the page's row tells it. `model` may be null.
+/// Sets an item from its device value, which the row of the status page interprets. `model` may be
+/// null.
 void TakeStatus(LiveState& state, StatusItem item, int value, const ModelData* model);
-/// What the item tells is not known now; hours stay.
+/// Makes an item unknown. Hours are kept.
 void ForgetStatus(LiveState& state, StatusItem item);
-/// Takes the power state over: one that does not run plays nothing.
+/// Sets the power state. A projector in standby has no source, blank, mute and freeze.
 void TakePower(LiveState& state, PowerState power);
 
 }  // namespace AdvancedControl

@@ -6,8 +6,8 @@
 
 namespace AdvancedControl {
 
-/// A visit to a projector that speaks the protocol of docs/wire.md: the power state goes out with
-/// the hello, all the rest in one burst.
+/// A visit to a projector that speaks the protocol of docs/wire.md. Asks for the power state
+/// together with the hello, and then for everything else in one burst.
 class WireVisit final : public Visit {
  public:
   WireVisit(const FleetPolicy& policy, LiveState state, ProjectorMemory memory,

@@ -12,9 +12,9 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr int kIdlePieces = 64;  // taken of what came while nothing was asked
+constexpr int kIdlePieces = 64;  // of unsolicited data, read at once
 
-int Rest(const QDeadlineTimer& deadline) { return static_cast<int>(deadline.remainingTime()); }
+int Remaining(const QDeadlineTimer& deadline) { return static_cast<int>(deadline.remainingTime()); }
 
 }  // namespace
 
@@ -26,7 +26,7 @@ WireChannel::WireChannel(Medium medium, const Limits& limits)
 WireChannel::~WireChannel() = default;
 
 PjtReply WireChannel::Execute(const PjtCommand& command) {
-  if (line_ && !TakeWhatCame()) Disconnect(ConnectionState::Lost);
+  if (line_ && !ReceiveUnsolicited()) Disconnect(ConnectionState::Lost);
   session_.Begin(command, Clock::now());
   for (auto step = session_.Next(Clock::now()); step.kind != SessionStep::Kind::Finished;
        step = session_.Next(Clock::now())) {
@@ -38,14 +38,14 @@ PjtReply WireChannel::Execute(const PjtCommand& command) {
 }
 
 bool WireChannel::TendConnection(std::chrono::milliseconds unused) {
-  if (line_ && (unused >= longestUnused_ || !TakeWhatCame())) {
+  if (line_ && (unused >= longestUnused_ || !ReceiveUnsolicited())) {
     Disconnect(ConnectionState::Lost);
     state_ = ConnectionState::Unused;
   }
   return line_ != nullptr;
 }
 
-bool WireChannel::TakeWhatCame() {
+bool WireChannel::ReceiveUnsolicited() {
   for (int i = 0; i < kIdlePieces; ++i) {
     const Arrival arrival = Receive(QDeadlineTimer(0));
     if (arrival != Arrival::Bytes || !session_.IsOpen()) return arrival == Arrival::Late;
@@ -62,7 +62,7 @@ void WireChannel::Drive(const SessionStep& step) {
   switch (step.kind) {
     case SessionStep::Kind::Connect: {
       auto problem = ConnectionState::NotReachable;
-      line_.reset();  // a serial port is opened by one alone
+      line_.reset();  // only one program can open a serial port
       line_ = Open(QDeadlineTimer(step.until), problem);
       return line_ ? session_.Connected() : session_.NotConnected(problem);
     }
@@ -82,13 +82,13 @@ void WireChannel::Write(const SessionStep& step) {
   const auto size = static_cast<qint64>(step.bytes.size());
   if (line_->write(step.bytes.data(), size) != size) return Disconnect(ConnectionState::Lost);
   while (line_->bytesToWrite() > 0) {
-    if (line_->waitForBytesWritten(Rest(deadline))) continue;
+    if (line_->waitForBytesWritten(Remaining(deadline))) continue;
     return Disconnect(IsAlive(*line_) ? ConnectionState::NoAnswer : ConnectionState::Lost);
   }
 }
 
 WireChannel::Arrival WireChannel::Receive(const QDeadlineTimer& deadline) {
-  if (line_->bytesAvailable() == 0 && !line_->waitForReadyRead(Rest(deadline)) &&
+  if (line_->bytesAvailable() == 0 && !line_->waitForReadyRead(Remaining(deadline)) &&
       line_->bytesAvailable() == 0) {
     return IsAlive(*line_) ? Arrival::Late : Arrival::Broken;
   }

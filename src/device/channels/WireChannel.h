@@ -15,15 +15,16 @@ class QIODevice;
 
 namespace AdvancedControl {
 
-/// A projector at the other end of a line that carries the frames of docs/wire.md: drives a
-/// `WireSession`, which says how it behaves, over a line. All commands come from one thread, as
-/// those behind a `BoundedChannel` do.
+/// Base of channels to a projector over a line with the protocol of docs/wire.md. Drives a
+/// `WireSession`, which describes how it behaves. Call `Execute` and the other functions from one
+/// thread, as a `BoundedChannel` does; `Connection` from any thread.
 class PROJECTOR_COMMON_EXPORT WireChannel : public ProjectorChannel {
  public:
   struct Limits {
-    std::chrono::milliseconds connect{1500};  ///< Until the projector has welcomed us.
+    std::chrono::milliseconds connect{1500};  ///< Until the projector's welcome.
     std::chrono::milliseconds answer{1500};
-    std::chrono::milliseconds unused{20'000};  ///< Then the connection is closed.
+    std::chrono::milliseconds unused{
+        20'000};  ///< Time without use after which the connection is closed.
   };
 
   ~WireChannel() override;
@@ -49,7 +50,7 @@ class PROJECTOR_COMMON_EXPORT WireChannel : public ProjectorChannel {
 
   WireChannel(Medium medium, const Limits& limits);
 
-  /// A line that is open for reading and writing, or null; `problem` then says why.
+  /// Opens the line for reading and writing. On failure returns null and sets `problem`.
   virtual std::unique_ptr<QIODevice> Open(const QDeadlineTimer& deadline,
                                           ConnectionState& problem) = 0;
   /// Whether a line from `Open` can still be used.
@@ -58,9 +59,9 @@ class PROJECTOR_COMMON_EXPORT WireChannel : public ProjectorChannel {
  private:
   enum class Arrival { Bytes, Late, Broken };
 
-  /// Takes what came while nothing was asked: late replies, or the end of the connection. Whether
-  /// that stands.
-  bool TakeWhatCame();
+  /// Reads what arrived without a request: late replies, or the end of the connection. Returns
+  /// whether the connection still exists.
+  bool ReceiveUnsolicited();
   void Disconnect(ConnectionState problem);
   void Drive(const SessionStep& step);
   void Write(const SessionStep& step);

@@ -12,13 +12,13 @@ namespace AdvancedControl {
 using SessionTime = std::chrono::steady_clock::time_point;
 
 /// What the driver of a session has to do next. A session is a protocol without a socket and
-/// without a clock: the driver owns both, does each step, and passes on what happens.
+/// without a clock: the driver owns both, performs each step and reports what happens.
 struct SessionStep {
   enum class Kind : std::uint8_t {
-    Finished,  ///< Nothing: the answer is there.
-    Connect,   ///< Connect, and say what came of it; nobody waits longer than `until`.
+    Finished,  ///< Nothing: the answer is available.
+    Connect,   ///< Connect until `until` at the latest, and report the result.
     Send,      ///< Send `bytes`.
-    Wait,      ///< Pass on what happens until `until`, then ask again what is next.
+    Wait,      ///< Report events until `until`, then call `Next` again.
     Close,     ///< Close the connection.
   };
 

@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::size_t kMostUnanswered = 64;
 
-bool IsForgotten(const Wire::Reply& reply) { return reply.status == Wire::Status::NoHello; }
+bool HasForgottenHello(const Wire::Reply& reply) { return reply.status == Wire::Status::NoHello; }
 
 }  // namespace
 
@@ -28,7 +28,7 @@ void WireSession::Begin(const PjtCommand& command, SessionTime now) {
     announced_.clear();
     sent_.clear();
   } else if (now - lastAsked_ > limits_.answer) {
-    sent_.clear();  // what came during a pause may be as old as that
+    sent_.clear();  // replies received after a pause may be outdated
   }
   if (longest_) giveUpAt_ = now + *longest_;
   Start(now);
@@ -56,7 +56,7 @@ void WireSession::Connected() {
   hello_ = ++sequence_;
   answered_ = hello_;
   Wire::Append(unsent_, {.sequence = hello_, .message = Wire::Hello{}});
-  // Without noise the first requests go out together with it.
+  // On a reliable line the first requests are sent together with the hello.
   stage_ = medium_ == Medium::Noisy ? Stage::Greeting : Stage::Asking;
 }
 
@@ -68,8 +68,8 @@ void WireSession::Received(std::string_view bytes) {
   if (!isOpen_) return;
   decoder_.Add(bytes);
   while (const auto frame = decoder_.Next()) Take(*frame);
-  const bool isStrange = medium_ == Medium::Reliable && decoder_.Skipped() > 0;
-  if (!isStrange) return;
+  const bool isInvalid = medium_ == Medium::Reliable && decoder_.Skipped() > 0;
+  if (!isInvalid) return;
   if (stage_ == Stage::Idle) {
     Drop();
   } else {
@@ -113,8 +113,8 @@ bool WireSession::Advance(SessionTime now) {
     case Stage::Asking:
       Ask(now);
       return true;
-    case Stage::AwaitingRoom:
-      if (Room() > 0) {
+    case Stage::AwaitingSlot:
+      if (FreeSlots() > 0) {
         Make();
         return true;
       }
@@ -139,23 +139,23 @@ bool WireSession::Advance(SessionTime now) {
 
 void WireSession::Ask(SessionTime now) {
   const auto own = std::ranges::find(sent_, command_, &Sent::command);
-  if (own == sent_.end()) return Await(Stage::AwaitingRoom, now + limits_.answer);
-  sent_.erase(sent_.begin(), own);  // passed over
+  if (own == sent_.end()) return Await(Stage::AwaitingSlot, now + limits_.answer);
+  sent_.erase(sent_.begin(), own);  // drops announced reads that were skipped
   Await(Stage::AwaitingReply, Within(limits_.answer, now));
 }
 
-/// Makes the request, and with it those announced behind it.
+/// Makes the request and those announced after it.
 void WireSession::Make() {
   const auto announced = std::ranges::find(announced_, command_);
   if (announced == announced_.end()) {
     Put({&command_, 1});
-    // Before the rest of a burst, whose replies still count.
+    // Before the rest of a burst, whose replies are still valid.
     sent_.push_front(sent_.back());
     sent_.pop_back();
   } else {
     sent_.clear();
     const std::size_t count =
-        std::min(Room(), static_cast<std::size_t>(announced_.end() - announced));
+        std::min(FreeSlots(), static_cast<std::size_t>(announced_.end() - announced));
     Put({&*announced, count});
     announced_.erase(announced_.begin(), announced + static_cast<std::ptrdiff_t>(count));
   }
@@ -170,12 +170,12 @@ void WireSession::Put(std::span<const PjtCommand> commands) {
   }
 }
 
-std::size_t WireSession::Room() const {
+std::size_t WireSession::FreeSlots() const {
   const auto unanswered = static_cast<std::uint16_t>(sequence_ - answered_);
   return kMostUnanswered - std::min<std::size_t>(unanswered, kMostUnanswered);
 }
 
-// What belongs to no request, or comes a second time, is nobody's.
+// Drops frames that belong to no request, and second replies.
 void WireSession::Take(const Wire::Frame& frame) {
   if (const auto* welcome = std::get_if<Wire::Welcome>(&frame.message)) {
     if (frame.sequence == hello_ && !welcome_) welcome_ = *welcome;
@@ -199,8 +199,9 @@ void WireSession::TakeWelcome(SessionTime now) {
 void WireSession::TakeReply(SessionTime now) {
   const Wire::Reply reply = *sent_.front().reply;
   sent_.pop_front();
-  if (!IsForgotten(reply)) return Finish(reply);
-  // It forgot us, as after a restart, and did nothing: so once more, from the hello on.
+  if (!HasForgottenHello(reply)) return Finish(reply);
+  // The projector has forgotten the hello, for example after a restart, and executed nothing.
+  // Repeats hello and request.
   if (std::exchange(wasForgotten_, true)) {
     isSent_ = false;
     return Fail(ConnectionState::NotUnderstood);
@@ -231,9 +232,9 @@ void WireSession::Finish(const std::optional<Wire::Reply>& reply) {
   stage_ = Stage::Idle;
   finishes_ = true;
   const int refused = RefusedResult(command_.operation);
-  // Nothing is carried out without a version in common.
-  const bool isInVain = state_ == ConnectionState::OtherVersion;
-  reply_ = {.result = refused, .answered = false, .unsent = !isSent_ || isInVain};
+  // Without a common version the projector executes nothing.
+  const bool isHopeless = state_ == ConnectionState::OtherVersion;
+  reply_ = {.result = refused, .answered = false, .unsent = !isSent_ || isHopeless};
   if (!reply) return;
   state_ = ConnectionState::Connected;
   reply_.unsent = false;

@@ -17,56 +17,56 @@
 
 namespace AdvancedControl {
 
-/// A session with a projector that speaks the protocol of docs/wire.md: what a command becomes on
-/// the line, what the answers mean, and when to give up. Needs no line and no clock, but a driver
-/// that does each step of `Next` and tells what happens, until the command that was begun is
-/// finished; the reply is there then.
+/// A session with a projector that speaks the protocol of docs/wire.md: translates commands into
+/// frames, interprets the answers, and decides when to give up. It has no line and no clock: a
+/// driver performs each step that `Next` returns and reports what happens, until the command is
+/// finished. Then the reply is available. Use from one thread at a time.
 ///
-/// Asks for a connection with the first command, and again with the next one after it was lost.
-/// Where there is no noise, the command goes out right behind the hello. A projector that has
-/// forgotten the hello is told again. A command whose reply does not come in time, or during which
-/// the connection breaks, is unanswered and was carried out at most once; its reply is nobody's if
-/// it comes later.
+/// Requests a connection with the first command, and again with the next command after the
+/// connection is lost. On a reliable line the command is sent right after the hello. If the
+/// projector has forgotten the hello, hello and command are repeated. A command whose reply does
+/// not come in time, or during which the connection breaks, is unanswered; it was carried out at
+/// most once, and a later reply is dropped.
 class PROJECTOR_COMMON_EXPORT WireSession {
  public:
   enum class Medium : std::uint8_t {
-    Reliable,  ///< Bytes that are no frame show that no projector is there.
-    Noisy,     ///< Such bytes are skipped. Everything is said one at a time.
+    Reliable,  ///< Bytes that are not part of a frame mean that no projector is at the other end.
+    Noisy,     ///< Such bytes are skipped. Requests are sent one at a time.
   };
   struct Limits {
-    std::chrono::milliseconds connect{1500};  ///< Until the projector has welcomed us.
+    std::chrono::milliseconds connect{1500};  ///< Until the projector's welcome.
     std::chrono::milliseconds answer{1500};
   };
 
-  /// Frames are numbered from behind `sequence` on. It should be random: on a serial line a late
-  /// reply may be that to somebody before us.
+  /// The first frame has the number after `sequence`, which should be random: on a serial line, a
+  /// late reply may be for the previous program.
   WireSession(Medium medium, const Limits& limits, std::uint16_t sequence)
       : medium_(medium), limits_(limits), sequence_(sequence) {}
 
-  /// Commands have this time from now on, beside that of the limits.
+  /// Sets the time-out of further commands. Those of the limits still apply.
   void GiveUpAfter(std::chrono::milliseconds time) { longest_ = time; }
-  /// The reads go out in one burst when the first of them is begun. A reply counts for its own
-  /// command in the order announced, as long as neither a change came in between nor a pause longer
-  /// than the time for answering; that time counts anew for each.
+  /// The reads are sent in one burst when the first of them is begun. Replies are used in the order
+  /// announced, until a change comes in between, or a pause longer than the time for an answer.
+  /// That time starts anew with each reply.
   void Announce(std::span<const PjtCommand> reads);
 
   void Begin(const PjtCommand& command, SessionTime now);
   SessionStep Next(SessionTime now);
-  /// What came of the command, once it is finished.
+  /// The reply to the last command, once it is finished.
   const PjtReply& Reply() const { return reply_; }
   ConnectionState State() const { return state_; }
   /// Whether the projector has welcomed us on the last connection. It need not have answered a
   /// command.
   bool HasGreeted() const { return welcome_ && welcome_->version == Wire::kVersion; }
-  /// Whether the connection can still be used, as far as what came tells.
+  /// Whether the connection can still be used, as far as the session knows.
   bool IsOpen() const { return isOpen_; }
 
-  // What happens, at any time.
+  // Reports of what happened, at any time.
 
   void Connected();
   void NotConnected(ConnectionState problem);
   void Received(std::string_view bytes);
-  /// The connection is no longer there, or cannot be used for this reason.
+  /// The connection ended, or became useless for this reason.
   void Closed(ConnectionState problem = ConnectionState::Lost);
 
  private:
@@ -74,30 +74,31 @@ class PROJECTOR_COMMON_EXPORT WireSession {
     Idle,
     Opening,
     Connecting,
-    Greeting,  ///< Waits for the welcome before anything is asked.
+    Greeting,  ///< Waits for the welcome before the first request.
     Asking,
-    AwaitingRoom,
+    AwaitingSlot,
     AwaitingWelcome,
     AwaitingReply,
   };
 
-  /// A request on its way, and its reply once it is there.
+  /// A request that was sent, and its reply once it has arrived.
   struct Sent {
     PjtCommand command;
     std::uint16_t sequence;
     std::optional<Wire::Reply> reply;
   };
 
-  /// From now on, but not longer than the command may take.
+  /// A deadline after `time`, but not after that of the command.
   SessionTime Within(std::chrono::milliseconds time, SessionTime now) const;
   void Start(SessionTime now);
-  /// Goes on as far as possible without anything happening; false where something has to.
+  /// Takes the next step within the session. False if that needs an event or more time.
   bool Advance(SessionTime now);
   void Ask(SessionTime now);
   void Make();
   void Put(std::span<const PjtCommand> commands);
-  /// How many more requests may be unanswered. The replies come in the order of the requests.
-  std::size_t Room() const;
+  /// How many more requests may be sent without waiting for a reply. Replies come in the order of
+  /// the requests.
+  std::size_t FreeSlots() const;
   void Take(const Wire::Frame& frame);
   void TakeWelcome(SessionTime now);
   void TakeReply(SessionTime now);
@@ -110,22 +111,23 @@ class PROJECTOR_COMMON_EXPORT WireSession {
   const Limits limits_;
   ConnectionState state_ = ConnectionState::Unused;
   Stage stage_ = Stage::Idle;
-  bool isOpen_ = false;    ///< As far as the driver has told.
+  bool isOpen_ = false;    ///< As far as the driver has reported.
   bool closes_ = false;    ///< The driver is to close it.
-  bool finishes_ = false;  ///< And the driver has not been told.
+  bool finishes_ = false;  ///< The command, and `Next` has not returned since.
   SessionTime until_{};    ///< End of the present stage.
   Wire::Decoder decoder_;
-  std::uint16_t sequence_;      ///< Of the last frame made.
-  std::uint16_t hello_ = 0;     ///< The sequence number of ours.
-  std::uint16_t answered_ = 0;  ///< That of the last request answered, or of the hello before.
+  std::uint16_t sequence_;   ///< Of the last frame made.
+  std::uint16_t hello_ = 0;  ///< Sequence number of our hello.
+  std::uint16_t answered_ =
+      0;  ///< Sequence number of the last answered request, or of the hello before that.
   std::optional<Wire::Welcome> welcome_;
   SessionTime welcomeBy_{};
-  std::optional<std::chrono::milliseconds> longest_;  ///< For a command.
+  std::optional<std::chrono::milliseconds> longest_;  ///< Time-out of a command.
   SessionTime giveUpAt_ = SessionTime::max();
   PjtCommand command_{PjtOperation::Get};
-  bool isSent_ = false;                ///< The command under way, as far as that may be.
-  bool wasForgotten_ = false;          ///< And is told once more, from the hello on.
-  std::string unsent_;                 ///< Goes out with the next step.
+  bool isSent_ = false;        ///< Whether the present command may have been sent.
+  bool wasForgotten_ = false;  ///< The hello of the present command, which is therefore repeated.
+  std::string unsent_;         ///< Sent with the next step.
   std::vector<PjtCommand> announced_;  ///< Not sent yet.
   std::deque<Sent> sent_;
   SessionTime lastAsked_{};

@@ -1,6 +1,6 @@
 # Installs libraries, headers, catalog modules and the package config.
 include(CMakePackageConfigHelpers)
-set(libraries ProjectorCommon ProjectorSettings AdvancedControl)
+set(libraries ProjectorCommon ProjectorSettings ProjectorFleet AdvancedControl)
 
 # Builds with the run path of the installation. CMake would pad the path in order to patch it when
 # installing, and an empty entry means the current directory. Programs installed in the system need

@@ -32,6 +32,7 @@ class Plain final : public ProjectorChannel {
 void ReadAsReply(std::string_view text) {
   if (const auto seed = PjLink::ParseGreeting(text)) Check(seed->empty() || seed->size() == 8);
   const auto line = PjLink::Parse(text);
+  Check(line || !PjLink::IsNotice(text));
   if (!line) return;
   Check(PjLink::Format(*line) == text);
   for (const auto value : {PjLink::PowerStatus, PjLink::ErrorStatus, PjLink::Blank, PjLink::Mute,
@@ -39,6 +40,9 @@ void ReadAsReply(std::string_view text) {
     const int read = value(line->parameter).value_or(0);
     Check(read >= 0 && read <= UINT16_MAX);
   }
+  const auto lamps = PjLink::Lamps(line->parameter);
+  Check(lamps.size() <= 8);
+  for (const PjLink::Lamp& lamp : lamps) Check(lamp.hours >= 0 && lamp.hours <= UINT16_MAX);
   for (const std::string& code : PjLink::InputCodes(line->parameter)) {
     const auto number = PjLink::InputNumber(code);
     Check(number && PjLink::InputCode(*number) == code);

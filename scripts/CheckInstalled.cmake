@@ -66,8 +66,8 @@ foreach(shown pages settings)
 endforeach()
 
 # The programs must be hardened, and must not search the current directory for libraries.
-foreach(built libAdvancedControl.so libProjectorSettings.so libProjectorCommon.so advanced-control acctl
-              advanced-control-simulator)
+foreach(built libAdvancedControl.so libProjectorFleet.so libProjectorSettings.so libProjectorCommon.so
+              advanced-control acctl advanced-control-simulator)
   execute_process(COMMAND readelf -Wd ${BUILD_DIR}/bin/${built} OUTPUT_VARIABLE dynamic
                   COMMAND_ERROR_IS_FATAL ANY)
   if(NOT dynamic MATCHES "BIND_NOW|Flags: NOW")
@@ -82,8 +82,8 @@ foreach(built libAdvancedControl.so libProjectorSettings.so libProjectorCommon.s
   if(NOT used MATCHES "__stack_chk_fail")
     message(FATAL_ERROR "${built} has no stack protector")
   endif()
-  # The dialog's library is compiled in the same way, but calls no function that this would change.
-  if(built MATCHES "^libProjector" AND NOT used MATCHES "__[a-z]+printf_chk")
+  # The other libraries are compiled in the same way, but call no function that this would change.
+  if(built MATCHES "^libProjector(Settings|Common)" AND NOT used MATCHES "__[a-z]+printf_chk")
     message(FATAL_ERROR "${built} is not fortified")
   endif()
 endforeach()
@@ -118,7 +118,7 @@ expect_catalog(${multiarch} ".*mcdll.dll is refused.*")
 
 # A host's function can replace an exported function with the same name.
 set(shown "")
-foreach(library AdvancedControl ProjectorSettings ProjectorCommon)
+foreach(library AdvancedControl ProjectorFleet ProjectorSettings ProjectorCommon)
   execute_process(COMMAND nm -DC --defined-only ${BUILD_DIR}/bin/lib${library}.so
                   OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
   string(REGEX MATCHALL " T [^\n]*" functions "${symbols}")

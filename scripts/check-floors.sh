@@ -11,6 +11,7 @@ declare -A below=(
   [settings]="device"
   [i18n]="toolkit"
   [snapshots]="device settings i18n"
+  [fleet]="device settings i18n snapshots"
   [resources]="toolkit settings"
   [pages]="toolkit device settings i18n resources"
   [host]="toolkit device settings i18n resources pages"
@@ -25,6 +26,7 @@ for folder in */; do
     used=${include#*\"}
     used=${used%%/*}
     [[ $used == *Export.h\" ]] && continue  # made by the build
+    [[ $used == Namespace.h\" ]] && continue  # stands above all folders
     case " $allowed " in
       *" $used "*) ;;
       *)

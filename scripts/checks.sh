@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # The checks besides the tests: floors, the release build without warnings, acctl on it, the
-# installed library, the benchmarks, clang-tidy, the channels under the thread sanitizer, and a
-# short run of the fuzz targets.
+# installed library, the benchmarks, clang-tidy, channels and fleet under the thread sanitizer, and
+# a short run of the fuzz targets.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -30,9 +30,10 @@ QT_QPA_PLATFORM=offscreen build/check/bin/advanced-control-bench --benchmark_min
 echo "clang-tidy"
 scripts/tidy.py build/check
 
-echo "Building (build/tsan) and testing the channels under the thread sanitizer"
+echo "Building (build/tsan) and testing channels and fleet under the thread sanitizer"
 cmake --preset tsan >/dev/null
-cmake --build --preset tsan --target device_tests
+cmake --build --preset tsan --target device_tests fleet_tests
 QT_QPA_PLATFORM=offscreen build/tsan/bin/device_tests --gtest_brief=1
+build/tsan/bin/fleet_tests --gtest_brief=1
 
 scripts/fuzz.sh 5

@@ -20,13 +20,16 @@ PjtCommand Call::Command(int value, int modelCode) const {
   return {operation, code, carried(form.first), carried(form.second)};
 }
 
-Answer Perform(CPjtInterface& projector, const Call& call, int value, int modelCode) {
-  const PjtReply reply = projector.Execute(call.Command(value, modelCode));
+Answer AnswerTo(const Call& call, const PjtReply& reply) {
   const OperationForm& form = FormOf(call.operation);
   const bool accepted =
       call.anyResult ? reply.result != 0 : IsSuccess(call.operation, reply.result);
   return {accepted || form.returns == Returns::Nothing,
           form.isGeneric ? int{static_cast<std::uint16_t>(reply.value)} : int{reply.value}};
+}
+
+Answer Perform(CPjtInterface& projector, const Call& call, int value, int modelCode) {
+  return AnswerTo(call, projector.Execute(call.Command(value, modelCode)));
 }
 
 std::optional<int> Read(CPjtInterface& projector, const Call& call) {

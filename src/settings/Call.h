@@ -28,8 +28,10 @@ struct Answer {
   int value = 0;  ///< The value read or stepped to; meaningful only when accepted.
 };
 
-/// Sends a call, on the thread on which the connection's channel may be called. Operations without
-/// a result count as accepted.
+/// What a reply to a call says. Operations without a result count as accepted.
+PROJECTOR_SETTINGS_EXPORT Answer AnswerTo(const Call& call, const PjtReply& reply);
+
+/// Sends a call, on the thread on which the connection's channel may be called.
 PROJECTOR_SETTINGS_EXPORT Answer Perform(CPjtInterface& projector, const Call& call, int value = 0,
                                          int modelCode = 0);
 

@@ -9,25 +9,12 @@
 #include "ProjectorCommonExport.h"
 #include "device/ConnectionState.h"
 #include "device/protocol/PjLinkReader.h"
+#include "device/protocol/SessionStep.h"
 
 namespace AdvancedControl {
 
-using PjLinkTime = std::chrono::steady_clock::time_point;
-
-/// What the driver has to do next.
-struct PjLinkStep {
-  enum class Kind {
-    Finished,  ///< Nothing: the answer is available.
-    Connect,   ///< Connect until `until` at the latest, and report the result.
-    Send,      ///< Send `bytes`.
-    Wait,      ///< Report events until `until`, then call `Next` again.
-    Close,     ///< Close the connection.
-  };
-
-  Kind kind = Kind::Finished;
-  PjLinkTime until{};
-  std::string bytes{};
-};
+using PjLinkTime = SessionTime;
+using PjLinkStep = SessionStep;
 
 struct PjLinkRequest {
   char protocolClass = '1';

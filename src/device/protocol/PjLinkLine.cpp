@@ -55,6 +55,14 @@ std::optional<Line> Parse(std::string_view text) {
   return Line{text[1], std::string(command), separator, std::string(text.substr(kHeadLength))};
 }
 
+bool IsNotice(std::string_view datagram) {
+  const auto line = Parse(datagram.substr(0, datagram.find_first_of("\r\n")));
+  if (!line || line->protocolClass != '2' || line->separator != '=') return false;
+  constexpr std::array<std::string_view, 4> kNotices{"LKUP", "ERST", "POWR", "INPT"};
+  return std::ranges::any_of(kNotices,
+                             [&](std::string_view name) { return SameWord(line->command, name); });
+}
+
 bool SameWord(std::string_view a, std::string_view b) {
   return std::ranges::equal(a, b, {}, Upper, Upper);
 }
@@ -100,13 +108,24 @@ std::optional<int> PowerStatus(std::string_view parameter) {
 }
 
 std::optional<int> ErrorStatus(std::string_view parameter) {
-  if (parameter.size() != kErrorOfDigit.size()) return std::nullopt;
-  if (parameter.find_first_not_of("012") != std::string_view::npos) return std::nullopt;
-  for (const char grade : {'2', '1'}) {
-    const std::size_t found = parameter.find(grade);
-    if (found != std::string_view::npos) return kErrorOfDigit[found];
+  const auto grades = ErrorGrades(parameter);
+  if (!grades) return std::nullopt;
+  for (const Grade grade : {Grade::Error, Grade::Warning}) {
+    const auto found = std::ranges::find(*grades, grade);
+    if (found != grades->end()) {
+      return kErrorOfDigit.at(static_cast<std::size_t>(found - grades->begin()));
+    }
   }
   return 0;
+}
+
+std::optional<Grades> ErrorGrades(std::string_view parameter) {
+  Grades grades{};
+  if (parameter.size() != grades.size()) return std::nullopt;
+  if (parameter.find_first_not_of("012") != std::string_view::npos) return std::nullopt;
+  std::ranges::transform(parameter, grades.begin(),
+                         [](char digit) { return static_cast<Grade>(digit - '0'); });
+  return grades;
 }
 
 std::optional<int> Blank(std::string_view parameter) {
@@ -135,6 +154,23 @@ std::optional<int> Hours(std::string_view parameter) {
 
 std::optional<int> LampHours(std::string_view parameter) {
   return Hours(parameter.substr(0, parameter.find(' ')));
+}
+
+std::vector<Lamp> Lamps(std::string_view parameter) {
+  constexpr std::size_t kMostLamps = 8;
+  const auto takeWord = [&parameter] {
+    const std::string_view word = parameter.substr(0, parameter.find(' '));
+    parameter.remove_prefix(std::min(parameter.size(), word.size() + 1));
+    return word;
+  };
+  std::vector<Lamp> lamps;
+  while (!parameter.empty() && lamps.size() < kMostLamps) {
+    const auto hours = Hours(takeWord());
+    if (!hours) return {};
+    const auto isOn = Switch(takeWord());
+    lamps.push_back({*hours, isOn ? std::optional(*isOn == 1) : std::nullopt});
+  }
+  return lamps;
 }
 
 std::optional<int> InputNumber(std::string_view code) {

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -41,6 +43,9 @@ struct Line {
 PROJECTOR_COMMON_EXPORT std::string Format(const Line& line);
 PROJECTOR_COMMON_EXPORT std::optional<Line> Parse(std::string_view text);
 
+/// Whether a datagram is a status notice of class 2, with or without its end of line.
+PROJECTOR_COMMON_EXPORT bool IsNotice(std::string_view datagram);
+
 /// Whether the words are equal, ignoring the case of ASCII letters.
 PROJECTOR_COMMON_EXPORT bool SameWord(std::string_view a, std::string_view b);
 
@@ -60,6 +65,14 @@ PROJECTOR_COMMON_EXPORT std::optional<PowerState> Power(std::string_view paramet
 /// The running state, in which warming up is on.
 PROJECTOR_COMMON_EXPORT std::optional<int> PowerStatus(std::string_view parameter);
 PROJECTOR_COMMON_EXPORT std::optional<int> ErrorStatus(std::string_view parameter);
+
+/// The parts of a projector that its error status tells of, in the order of its digits.
+enum class Part : std::uint8_t { Fan, Lamp, Temperature, Cover, Filter, Other };
+inline constexpr std::size_t kParts = 6;
+enum class Grade : std::uint8_t { None, Warning, Error };
+using Grades = std::array<Grade, kParts>;
+/// The same status, of every part.
+PROJECTOR_COMMON_EXPORT std::optional<Grades> ErrorGrades(std::string_view parameter);
 PROJECTOR_COMMON_EXPORT std::optional<int> Blank(std::string_view parameter);
 PROJECTOR_COMMON_EXPORT std::optional<int> Mute(std::string_view parameter);
 PROJECTOR_COMMON_EXPORT std::optional<int> Switch(std::string_view parameter);
@@ -67,6 +80,15 @@ PROJECTOR_COMMON_EXPORT std::optional<int> Switch(std::string_view parameter);
 PROJECTOR_COMMON_EXPORT std::optional<int> Hours(std::string_view parameter);
 /// Hours of the first lamp. Whether the lamp is on may be missing in the text.
 PROJECTOR_COMMON_EXPORT std::optional<int> LampHours(std::string_view parameter);
+
+struct Lamp {
+  int hours = 0;
+  std::optional<bool> isOn{};
+
+  friend bool operator==(const Lamp&, const Lamp&) = default;
+};
+/// All lamps, up to eight; none if the text is invalid.
+PROJECTOR_COMMON_EXPORT std::vector<Lamp> Lamps(std::string_view parameter);
 /// The number of an input: "31" is 31. Letters follow 9, so "3A" is 310 and "3Z" is 335.
 PROJECTOR_COMMON_EXPORT std::optional<int> InputNumber(std::string_view code);
 

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "Namespace.h"
+#include "ProjectorCommonExport.h"
 #include "device/ProjectorChannel.h"
 
 namespace AdvancedControl {
@@ -18,7 +19,7 @@ enum class PjLinkClass : std::uint8_t {
 };
 
 /// One operation in PJLink.
-struct PjLinkMapping {
+struct PROJECTOR_COMMON_EXPORT PjLinkMapping {
   PjtOperation operation;
   std::uint16_t code;
   std::string_view command;

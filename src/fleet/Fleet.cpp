@@ -1,0 +1,117 @@
+#include "fleet/Fleet.h"
+
+#include <algorithm>
+#include <sys/resource.h>
+
+#include "fleet/FleetWatcher.h"
+
+namespace AdvancedControl {
+
+namespace {
+
+/// Leaves files for the rest of the program. A projector must not look silent because the process
+/// has no file left.
+FleetPolicy WithinLimits(FleetPolicy policy) {
+  rlimit files{};
+  if (getrlimit(RLIMIT_NOFILE, &files) == 0 && files.rlim_cur != RLIM_INFINITY) {
+    const auto most = std::max<std::size_t>(files.rlim_cur / 2, 1);
+    policy.visitsAtOnce = std::min(policy.visitsAtOnce, most);
+  }
+  return policy;
+}
+
+}  // namespace
+
+Fleet::Fleet(const FleetPolicy& policy, std::function<void()> onChanges)
+    : onChanges_(std::move(onChanges)),
+      watcher_(std::make_unique<FleetWatcher>(WithinLimits(policy), network_, clock_)),
+      thread_([this] { Run(); }) {}
+
+Fleet::~Fleet() {
+  Change([this] { ends_ = true; });
+  thread_.join();
+}
+
+void Fleet::Run() {
+  while (true) {
+    SessionTime next{};
+    bool tells = false;
+    {
+      // Callers on other threads go first; one of them may be a user interface.
+      while (callers_ > 0) std::this_thread::yield();
+      const std::lock_guard lock(mutex_);
+      if (ends_) return;
+      network_.Pass(*watcher_);
+      next = watcher_->Tick();
+      tells = watcher_->HasChanges() && !std::exchange(toldChanges_, true);
+    }
+    if (tells) onChanges_();
+    network_.Wait(next);
+  }
+}
+
+auto Fleet::Locked(const auto& use) const {
+  ++callers_;
+  const std::lock_guard lock(mutex_);
+  --callers_;
+  return use();
+}
+
+/// The same, where something may be due earlier now.
+void Fleet::Change(const auto& use) {
+  Locked(use);
+  network_.Wake();
+}
+
+void Fleet::Set(FleetTarget target) {
+  Change([&] { watcher_->Set(std::move(target)); });
+}
+void Fleet::Remove(const std::string& id) {
+  Change([&] { watcher_->Remove(id); });
+}
+void Fleet::SetAsking(bool asks) {
+  Change([&] { watcher_->SetAsking(asks); });
+}
+void Fleet::Learn(const std::string& id, const PjtCommand& command, const PjtReply& reply,
+                  std::optional<PowerState> power) {
+  Change([&] { watcher_->Learn(id, command, reply, power); });
+}
+void Fleet::LearnDrift(const std::string& id, std::optional<int> drift) {
+  Change([&] { watcher_->LearnDrift(id, drift); });
+}
+void Fleet::AskSoon(const std::string& id) {
+  Change([&] { watcher_->AskSoon(id); });
+}
+
+std::uint16_t Fleet::ListenForNotices(const std::string& address, std::uint16_t port) {
+  return Locked([&] { return network_.ListenForNotices(address, port); });
+}
+
+std::optional<LiveState> Fleet::State(const std::string& id) const {
+  return Locked([&] { return watcher_->State(id); });
+}
+std::vector<std::pair<std::string, LiveState>> Fleet::States() const {
+  return Locked([&] { return watcher_->States(); });
+}
+std::vector<StateChange> Fleet::History(const std::string& id) const {
+  return Locked([&] { return watcher_->History(id); });
+}
+FleetChanges Fleet::TakeChanges() {
+  return Locked([&] {
+    toldChanges_ = false;
+    return watcher_->TakeChanges();
+  });
+}
+FleetTally Fleet::Tally() const {
+  return Locked([&] { return watcher_->Tally(); });
+}
+
+Fleet::Pause::Pause(Fleet& fleet, std::string id) : fleet_(fleet), id_(std::move(id)) {
+  fleet_.Change([&] { fleet_.watcher_->Pause(id_); });
+}
+
+Fleet::Pause::~Pause() {
+  fleet_.Change([&] { fleet_.watcher_->Resume(id_); });
+}
+
+}  // namespace AdvancedControl

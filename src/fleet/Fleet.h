@@ -1,0 +1,99 @@
+#pragma once
+
+#include <atomic>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <thread>
+#include <utility>
+#include <vector>
+
+#include "Namespace.h"
+#include "ProjectorFleetExport.h"
+#include "fleet/FleetClock.h"
+#include "fleet/FleetEvents.h"
+#include "fleet/FleetPolicy.h"
+#include "fleet/FleetTarget.h"
+#include "fleet/LiveState.h"
+#include "fleet/SocketNetwork.h"
+
+namespace AdvancedControl {
+
+class FleetWatcher;
+
+/// Watches any number of projectors from one thread of its own, as docs/fleet.md describes. All
+/// functions may be called from any thread and return at once.
+class PROJECTOR_FLEET_EXPORT Fleet {
+ public:
+  /// `onChanges` is called on the fleet's thread when the first change has come since the last
+  /// `TakeChanges`.
+  explicit Fleet(
+      const FleetPolicy& policy = {}, std::function<void()> onChanges = [] {});
+  /// Ends every visit; takes a few milliseconds.
+  ~Fleet();
+  Fleet(const Fleet&) = delete;
+  Fleet& operator=(const Fleet&) = delete;
+
+  /// Adds a projector, which is visited at once, or replaces the one with this identity. Projectors
+  /// on serial lines are not visited, since only one program can open a line.
+  void Set(FleetTarget target);
+  void Remove(const std::string& id);
+
+  /// Ends all visits and begins none until asking is switched on again, as it is at first.
+  void SetAsking(bool asks);
+
+  /// While an object of this class exists, the fleet does not visit the projector, so that another
+  /// connection can be used. It must not outlive the fleet.
+  class PROJECTOR_FLEET_EXPORT Pause {
+   public:
+    [[nodiscard]] Pause(Fleet& fleet, std::string id);
+    ~Pause();
+    Pause(const Pause&) = delete;
+    Pause& operator=(const Pause&) = delete;
+
+   private:
+    Fleet& fleet_;
+    const std::string id_;
+  };
+
+  /// Updates the state with the reply to a command that was sent over another connection. `power`
+  /// is the exact state that the connection reports.
+  void Learn(const std::string& id, const PjtCommand& command, const PjtReply& reply,
+             std::optional<PowerState> power = {});
+  /// Sets how many settings differ from what they should be.
+  void LearnDrift(const std::string& id, std::optional<int> drift);
+  /// Visits the projector as early as the policy allows.
+  void AskSoon(const std::string& id);
+  /// Does so for each PJLink projector with a numeric address that sends a status notice.
+  /// `address` is one of this machine's, numeric; port 0 is any free one. The port, or 0 when it
+  /// cannot be had.
+  std::uint16_t ListenForNotices(const std::string& address, std::uint16_t port = 4352);
+
+  /// Nothing for a projector that is not in the fleet.
+  std::optional<LiveState> State(const std::string& id) const;
+  std::vector<std::pair<std::string, LiveState>> States() const;
+  /// The last changes of a projector, the oldest first.
+  std::vector<StateChange> History(const std::string& id) const;
+  /// The changes since the last call.
+  FleetChanges TakeChanges();
+  FleetTally Tally() const;
+
+ private:
+  void Run();
+  auto Locked(const auto& use) const;
+  void Change(const auto& use);
+
+  const std::function<void()> onChanges_;
+  const SystemFleetClock clock_;
+  SocketNetwork network_;
+  std::unique_ptr<FleetWatcher> watcher_;  ///< Under the mutex.
+  mutable std::mutex mutex_;
+  mutable std::atomic<int> callers_ = 0;  ///< Waiting for the mutex, beside the fleet's thread.
+  bool toldChanges_ = false;              ///< Under the mutex.
+  bool ends_ = false;                     ///< Under the mutex.
+  std::thread thread_;
+};
+
+}  // namespace AdvancedControl

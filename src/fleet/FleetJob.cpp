@@ -1,0 +1,101 @@
+#include "fleet/FleetJob.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+#include "fleet/Fleet.h"
+#include "fleet/ProjectorWork.h"
+
+namespace AdvancedControl {
+
+FleetJob::FleetJob(Fleet* fleet, std::vector<FleetTarget> targets, FleetWork work,
+                   const SettingTexts& texts, Options options)
+    : fleet_(fleet),
+      targets_(std::move(targets)),
+      work_(std::move(work)),
+      texts_(texts),
+      options_(std::move(options)),
+      results_(targets_.size()) {
+  const std::size_t atOnce = std::clamp<std::size_t>(options_.atOnce, 1, kMostThreads);
+  for (std::size_t i = 0; i < std::min(atOnce, targets_.size()); ++i) {
+    threads_.emplace_back([this] { Run(); });
+  }
+}
+
+FleetJob::~FleetJob() {
+  Cancel();
+  for (std::thread& thread : threads_) thread.join();
+}
+
+void FleetJob::Cancel() { isCancelled_ = true; }
+
+FleetJob::Progress FleetJob::HowFar() const {
+  const std::lock_guard lock(mutex_);
+  return {finished_, targets_.size()};
+}
+
+void FleetJob::Wait() {
+  std::unique_lock lock(mutex_);
+  finishes_.wait(lock, [this] { return finished_ == targets_.size(); });
+}
+
+std::vector<WorkResult> FleetJob::Results() const {
+  const std::lock_guard lock(mutex_);
+  return results_;
+}
+
+SnapshotsById FleetJob::Undo() const {
+  const std::lock_guard lock(mutex_);
+  SnapshotsById undo;
+  for (std::size_t i = 0; i < targets_.size(); ++i) {
+    if (const auto& one = results_[i].undo) {
+      undo.emplace(targets_[i].id, std::make_shared<const Snapshot>(*one));
+    }
+  }
+  return undo;
+}
+
+void FleetJob::Run() {
+  while (true) {
+    std::size_t index = 0;
+    {
+      const std::lock_guard lock(mutex_);
+      if (next_ == targets_.size()) return;
+      index = next_++;
+    }
+    WorkOn(index);
+  }
+}
+
+void FleetJob::WorkOn(std::size_t index) {
+  const FleetTarget& target = targets_[index];
+  const auto put = [&](const auto& change) {
+    const std::lock_guard lock(mutex_);
+    change(results_[index]);
+  };
+  WorkResult result{.outcome = WorkOutcome::Stopped};
+  if (!isCancelled_) {
+    put([](WorkResult& now) { now.outcome = WorkOutcome::Working; });
+    std::optional<Fleet::Pause> pause;
+    if (fleet_) pause.emplace(*fleet_, target.id);
+    const auto told = [&](const PjtCommand& command, const PjtReply& reply,
+                          std::optional<PowerState> power) {
+      if (fleet_) fleet_->Learn(target.id, command, reply, power);
+    };
+    const std::function<bool()> goesOn = [this] { return !isCancelled_; };
+    ProjectorWork work(target, texts_, options_.timeOut, goesOn, told);
+    result = work.Do(work_,
+                     [&](const Snapshot& undo) { put([&](WorkResult& now) { now.undo = undo; }); });
+    if (fleet_ && result.differing) fleet_->LearnDrift(target.id, result.differing);
+  }
+  {
+    const std::lock_guard lock(mutex_);
+    results_[index] = std::move(result);
+    ++finished_;
+  }
+  finishes_.notify_all();
+  options_.onProgress();
+}
+
+}  // namespace AdvancedControl

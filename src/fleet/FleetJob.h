@@ -1,0 +1,86 @@
+#pragma once
+
+#include <atomic>
+#include <chrono>
+#include <condition_variable>
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "Namespace.h"
+#include "ProjectorFleetExport.h"
+#include "fleet/FleetTarget.h"
+#include "fleet/FleetWork.h"
+#include "snapshots/SettingTexts.h"
+
+namespace AdvancedControl {
+
+class Fleet;
+
+/// The same work on many projectors, several at a time. While it works on one, the fleet keeps away
+/// and learns from it. Its functions may be called from any thread, and all but `Wait` return at
+/// once.
+class PROJECTOR_FLEET_EXPORT FleetJob {
+ public:
+  /// Each projector takes a thread while it is worked on, which bounds `Options::atOnce`.
+  static constexpr std::size_t kMostThreads = 12;
+
+  struct Options {
+    std::size_t atOnce = 64;
+    std::chrono::milliseconds timeOut{2000};  ///< For connecting, and for each answer.
+    /// Called on a thread of the job after each projector.
+    std::function<void()> onProgress = [] {};
+  };
+  struct Progress {
+    std::size_t finished = 0;
+    std::size_t all = 0;
+  };
+
+  /// Begins. `fleet` may be null; it and `texts` must outlive the job.
+  FleetJob(Fleet* fleet, std::vector<FleetTarget> targets, FleetWork work,
+           const SettingTexts& texts, Options options);
+  FleetJob(Fleet* fleet, std::vector<FleetTarget> targets, FleetWork work,
+           const SettingTexts& texts)
+      : FleetJob(fleet, std::move(targets), std::move(work), texts, Options{}) {}
+  /// Cancels, and waits.
+  ~FleetJob();
+  FleetJob(const FleetJob&) = delete;
+  FleetJob& operator=(const FleetJob&) = delete;
+
+  /// Stops all that have not begun. On the others nothing is sent after the present command, which
+  /// takes up to a time-out.
+  void Cancel();
+  Progress HowFar() const;
+  /// Until all are finished.
+  void Wait();
+
+  /// In the order of the targets.
+  std::vector<WorkResult> Results() const;
+  /// All that undoes what the job has changed so far, by the projectors' identities; see
+  /// `WriteFleetUndo`.
+  SnapshotsById Undo() const;
+
+ private:
+  void Run();
+  void WorkOn(std::size_t index);
+
+  Fleet* const fleet_;
+  const std::vector<FleetTarget> targets_;
+  const FleetWork work_;
+  const SettingTexts& texts_;
+  const Options options_;
+  std::atomic<bool> isCancelled_ = false;
+
+  mutable std::mutex mutex_;
+  std::condition_variable finishes_;
+  std::vector<WorkResult> results_;  ///< Under the mutex, as is what follows.
+  std::size_t next_ = 0;
+  std::size_t finished_ = 0;
+  std::vector<std::thread> threads_;
+};
+
+}  // namespace AdvancedControl

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <variant>
+
+#include "Namespace.h"
+#include "snapshots/Snapshot.h"
+
+namespace AdvancedControl {
+
+// What a job may do to each of its projectors.
+
+struct SwitchPower {
+  bool on = false;
+};
+
+/// Sets one setting. `text` is what a person types: an entry, a number or a step such as "+2".
+struct SetSetting {
+  std::string key{};
+  std::string text{};
+};
+
+struct TakeSnapshots {};
+
+/// Snapshots by the projectors' identities.
+using SnapshotsById = std::map<std::string, std::shared_ptr<const Snapshot>>;
+
+/// Puts each projector's own snapshot back. The undo of a run is one of these, too.
+struct ApplySnapshots {
+  SnapshotsById snapshots{};
+};
+
+/// Finds out how many settings differ from each projector's snapshot, and changes nothing.
+struct CompareSnapshots {
+  SnapshotsById snapshots{};
+};
+
+using FleetWork =
+    std::variant<SwitchPower, SetSetting, TakeSnapshots, ApplySnapshots, CompareSnapshots>;
+
+enum class WorkOutcome : std::uint8_t {
+  Waiting,  ///< For its turn.
+  Working,
+  Done,
+  Pending,   ///< Accepted, and not yet so.
+  Refused,   ///< At least a part of it, for the given reason.
+  NoAnswer,  ///< What was sent may have been carried out.
+  Stopped,   ///< The job was cancelled; what was sent before stays.
+};
+
+/// What became of a job on one projector.
+struct WorkResult {
+  WorkOutcome outcome = WorkOutcome::Waiting;
+  std::string reason{};                ///< A few English words; empty where all is well.
+  std::optional<Snapshot> snapshot{};  ///< That was taken.
+  std::optional<Snapshot> undo{};      ///< What was replaced so far; nothing while that is none.
+  std::optional<int> differing{};      ///< Settings that differ from the snapshot.
+};
+
+}  // namespace AdvancedControl

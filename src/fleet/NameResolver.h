@@ -1,0 +1,50 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <netinet/in.h>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "Namespace.h"
+
+namespace AdvancedControl {
+
+/// An address with a port, as sockets take it.
+union SocketAddress {
+  sockaddr any;
+  sockaddr_in v4;
+  sockaddr_in6 v6;
+};
+
+/// The address that a text such as "192.0.2.1" or "fe80::1%eth0" is; nothing for a name.
+std::optional<SocketAddress> ParseSocketAddress(const std::string& text, std::uint16_t port);
+
+/// Looks up host names on two threads of its own, which start with the first name. The system
+/// function for it cannot be interrupted: a lookup that is running at the end continues by itself,
+/// and its result is dropped.
+class NameResolver {
+ public:
+  struct Found {
+    std::uint32_t asker;
+    std::string name;
+    std::vector<SocketAddress> addresses;  ///< Without a port; empty where there is no such name.
+  };
+
+  /// After each lookup the event file `wakes`, which is duplicated, becomes readable.
+  explicit NameResolver(int wakes);
+  ~NameResolver();
+  NameResolver(const NameResolver&) = delete;
+  NameResolver& operator=(const NameResolver&) = delete;
+
+  void LookUp(std::uint32_t asker, const std::string& name);
+  std::vector<Found> Take();
+
+ private:
+  struct Shared;
+  const std::shared_ptr<Shared> shared_;
+  int threads_ = 0;
+};
+
+}  // namespace AdvancedControl

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "Namespace.h"
+
+namespace AdvancedControl {
+
+/// Receives the status notices of PJLink, which projectors send over UDP to an address in their
+/// settings. Anyone can send them, so a notice is only a reason to ask the projector.
+class NoticeSocket {
+ public:
+  NoticeSocket() = default;
+  ~NoticeSocket();
+  NoticeSocket(const NoticeSocket&) = delete;
+  NoticeSocket& operator=(const NoticeSocket&) = delete;
+
+  /// `address` is numeric, port 0 any free one. The port, or 0 when it cannot be had. Closes the
+  /// socket before.
+  std::uint16_t Open(const std::string& address, std::uint16_t port);
+  /// Becomes readable with each notice; −1 when it is not open.
+  int File() const { return socket_; }
+  /// The address of the sender of the next notice; nothing when there is none left.
+  std::optional<std::string> Next() const;
+
+ private:
+  void Close();
+
+  int socket_ = -1;
+};
+
+}  // namespace AdvancedControl

@@ -1,0 +1,131 @@
+// Jobs on simulated projectors, which the thread of the test serves.
+
+#include <deque>
+
+#include "fleet/Fleet.h"
+#include "fleet/FleetJob.h"
+#include "fleet/FleetUndo.h"
+#include "tests/fleet/Served.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+using enum WorkOutcome;
+
+constexpr PjtCommand kGetMirror{PjtOperation::GetMirror};
+
+class FleetJobTest : public testing::Test {
+ protected:
+  FleetJobTest() {
+    const auto model = std::make_shared<const ModelData>(SimulatedModelData());
+    for (int i = 0; i < 4; ++i) {
+      served.emplace_back().device->Execute({PjtOperation::SetPowerOn});
+      targets.push_back({std::to_string(i), served.back().Wire(), model});
+    }
+    targets.push_back({"gone", TcpAddress{.host = "127.0.0.1", .port = 1}, model});
+  }
+
+  std::vector<WorkResult> Do(FleetWork work, Fleet* fleet = nullptr) {
+    FleetJob job(fleet, targets, std::move(work), texts);
+    EXPECT_TRUE(Becomes([&] { return job.HowFar().finished == targets.size(); }));
+    undo = job.Undo();
+    return job.Results();
+  }
+
+  /// The outcomes in the targets' order.
+  static std::vector<WorkOutcome> Outcomes(const std::vector<WorkResult>& results) {
+    std::vector<WorkOutcome> outcomes;
+    for (const WorkResult& result : results) outcomes.push_back(result.outcome);
+    return outcomes;
+  }
+
+  std::vector<int> Mirrors() {
+    std::vector<int> mirrors;
+    for (const Served& one : served) mirrors.push_back(one.device->Execute(kGetMirror).value);
+    return mirrors;
+  }
+
+  int count_ = 0;
+  char* name_ = nullptr;
+  QCoreApplication application_{count_, &name_};
+  const std::vector<std::string> folders{TEST_CATALOG_DIR};
+  const SettingTexts texts{folders, 1033};
+  std::deque<Served> served;
+  std::vector<FleetTarget> targets;
+  SnapshotsById undo;
+};
+
+TEST_F(FleetJobTest, SetsOnAllAndUndoesTheRun) {
+  served[1].device->Execute({PjtOperation::SetMirror, 0, 2});
+  served[2].device->SetFault(PjtOperation::SetMirror, {.kind = Fault::Kind::Refuse});
+  const auto before = Mirrors();
+  const auto results = Do(SetSetting{"setup.mirror", "2"});
+  EXPECT_EQ(Outcomes(results), (std::vector{Done, Done, Refused, Done, NoAnswer}));
+  EXPECT_EQ(results[2].reason, "setup.mirror: refused");
+  EXPECT_FALSE(results[4].reason.empty());
+  EXPECT_EQ(Mirrors(), (std::vector{2, 2, before[2], 2}));
+  EXPECT_EQ(undo.count("1") + undo.count("gone"), 0) << "nothing was changed there";
+
+  const FleetUndoContents read = ReadFleetUndo(WriteFleetUndo(undo));
+  EXPECT_EQ(read.error, QString());
+  ASSERT_TRUE(read.undo.contains("0") && read.undo.contains("3"));
+  served[2].device->Clear();
+  const auto undone = Do(ApplySnapshots{read.undo});
+  EXPECT_EQ(undone[0].outcome, Done);
+  EXPECT_EQ(undone[1].outcome, Refused) << "it has no snapshot";
+  EXPECT_EQ(Mirrors(), before);
+  for (const char* const wrong : {"", "[]", R"({"undoOfJob":[{"id":"a","snapshot":{}}]})",
+                                  R"({"undoOfJob":[{"snapshot":{}}]})"}) {
+    EXPECT_NE(ReadFleetUndo(wrong).error, QString()) << wrong;
+  }
+}
+
+TEST_F(FleetJobTest, RefusesWhatNoModelTakes) {
+  for (const SetSetting& wrong :
+       {SetSetting{"no.such", "1"}, {"setup.mirror", "9999"}, {"status.lamp-time", "1"}}) {
+    for (const WorkResult& result : Do(wrong)) {
+      EXPECT_TRUE(result.outcome == Refused && !result.reason.empty()) << wrong.key;
+    }
+  }
+}
+
+TEST_F(FleetJobTest, TakesAndComparesSnapshotsAndSwitchesPower) {
+  Fleet fleet;
+  for (const FleetTarget& target : targets) fleet.Set(target);
+  const auto taken = Do(TakeSnapshots(), &fleet);
+  EXPECT_EQ(Outcomes(taken), (std::vector{Done, Done, Done, Done, NoAnswer}));
+  ASSERT_TRUE(taken[0].snapshot);
+  EXPECT_GT(taken[0].snapshot->settings.size(), 20);
+  const auto wanted = std::make_shared<const Snapshot>(*taken[0].snapshot);
+  served[3].device->Execute({PjtOperation::SetMirror, 0, 2});
+  const auto compared =
+      Do(CompareSnapshots{{{"0", wanted}, {"3", wanted}, {"gone", wanted}}}, &fleet);
+  EXPECT_EQ(Outcomes(compared), (std::vector{Done, Refused, Refused, Done, NoAnswer}));
+  EXPECT_EQ(fleet.State("0")->drift, 0);
+  EXPECT_EQ(fleet.State("3")->drift, 1);
+
+  fleet.SetAsking(false);
+  served[1].device->SetFault(PjtOperation::SetPowerOff, {.kind = Fault::Kind::Refuse});
+  const auto off = Do(SwitchPower{false}, &fleet);
+  EXPECT_EQ(off[0].outcome, Done);
+  EXPECT_NE(off[1].outcome, Done);
+  EXPECT_EQ(fleet.State("0")->power, PowerState::Standby) << "learned from the job";
+}
+
+TEST_F(FleetJobTest, StopsAtOnceWhenItIsCancelled) {
+  while (targets.size() < 200) {
+    FleetTarget next = targets[targets.size() % 4];
+    next.id = std::to_string(targets.size());
+    targets.push_back(next);
+  }
+  FleetJob job(nullptr, targets, TakeSnapshots(), texts, {.atOnce = 2});
+  EXPECT_TRUE(Becomes([&] { return job.HowFar().finished > 2; }));
+  job.Cancel();
+  EXPECT_TRUE(Becomes([&] { return job.HowFar().finished == targets.size(); }));
+  const auto outcomes = Outcomes(job.Results());
+  EXPECT_GT(std::ranges::count(outcomes, Stopped), 100);
+  EXPECT_GE(std::ranges::count(outcomes, Done), 2);
+  job.Wait();
+}
+
+}  // namespace

@@ -1,0 +1,97 @@
+// A fleet's thread and real sockets, to simulated projectors on the loopback address.
+
+#include <atomic>
+#include <chrono>
+#include <string>
+
+#include <QCoreApplication>
+#include <QUdpSocket>
+#include <gtest/gtest.h>
+
+#include "device/CommandCode.h"
+#include "fleet/Fleet.h"
+#include "tests/fleet/Served.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+
+class FleetTest : public testing::Test {
+ protected:
+  Reachability Reached(const std::string& id) const { return fleet.State(id)->reachability; }
+
+  int count_ = 0;
+  char* name_ = nullptr;
+  QCoreApplication application_{count_, &name_};
+  Served served;
+  std::atomic<int> wakes = 0;
+  Fleet fleet{{.interval = 50ms, .soonest = 10ms}, [this] { ++wakes; }};
+};
+
+TEST_F(FleetTest, WatchesRealProjectors) {
+  served.device->Execute({PjtOperation::SetPowerOn});
+  fleet.Set({"pjlink", served.PjLink("secret")});
+  fleet.Set({"wire", TcpAddress{.host = "localhost", .port = served.wirePort}});
+  fleet.Set({"locked", served.PjLink("wrong")});
+  fleet.Set({"other", TcpAddress{.host = "127.0.0.1",
+                                 .port = static_cast<std::uint16_t>(served.pjLink.Port())}});
+  fleet.Set({"unnamed", TcpAddress{.host = "no-such-name.invalid"}});
+  fleet.Set({"closed", TcpAddress{.host = "127.0.0.1", .port = 1}});
+  ASSERT_TRUE(Becomes([&] { return fleet.Tally().begun > 50; }));
+  for (const char* const id : {"pjlink", "wire"}) {
+    EXPECT_EQ(Reached(id), Reachability::Answers) << id;
+    EXPECT_EQ(fleet.State(id)->power, PowerState::On) << id;
+  }
+  EXPECT_EQ(Reached("locked"), Reachability::WrongPassword);
+  EXPECT_EQ(Reached("other"), Reachability::NotUnderstood);
+  EXPECT_EQ(Reached("closed"), Reachability::Silent);
+  EXPECT_TRUE(Becomes([&] { return Reached("unnamed") == Reachability::Silent; }));
+  EXPECT_EQ(fleet.State("unnamed")->connection, ConnectionState::NameUnknown);
+
+  fleet.TakeChanges();
+  const int before = wakes;
+  {
+    const Fleet::Pause pause(fleet, "pjlink");
+    served.device->Execute({PjtOperation::Set, CommandCode::BlankState, 1});
+    EXPECT_TRUE(Becomes([&] { return fleet.State("wire")->blank == true; }));
+    EXPECT_NE(fleet.State("pjlink")->blank, true);
+  }
+  EXPECT_TRUE(Becomes([&] { return fleet.State("pjlink")->blank == true; }));
+  EXPECT_EQ(fleet.TakeChanges().changes.size(), 2);
+  EXPECT_EQ(wakes, before + 1) << "once for all that came since";
+}
+
+TEST_F(FleetTest, AsksWhoSendsNotices) {
+  Fleet slow({.soonest = 0ms});
+  slow.Set({"a", served.PjLink("secret")});
+  const std::uint16_t port = slow.ListenForNotices("127.0.0.1", 0);
+  ASSERT_NE(port, 0);
+  for (const char* const none : {"", "%2POWR 1\r", "%1POWR=1\r", "%2ACKN=0\r", "\xFF%2POWR=1"}) {
+    EXPECT_FALSE(PjLink::IsNotice(none)) << none;
+  }
+  EXPECT_EQ(fleet.ListenForNotices("127.0.0.1", port), 0) << "it is taken";
+  ASSERT_TRUE(Becomes([&] { return slow.Tally().answered == 1; }));
+  QUdpSocket projector;
+  const auto send = [&](const QByteArray& text) {
+    projector.writeDatagram(text, QHostAddress::LocalHost, port);
+  };
+  send("%2POWR=1\r");
+  EXPECT_TRUE(Becomes([&] { return slow.Tally().answered == 2; }));
+  send("%2lkup=00:00:00:00:00:00");
+  EXPECT_TRUE(Becomes([&] { return slow.Tally().answered == 3; }));
+}
+
+// Many visits are in the middle of something whenever it ends.
+TEST_F(FleetTest, EndsAtAnyMoment) {
+  for (int i = 0; i < 20; ++i) {
+    Fleet one({.interval = 0ms, .jitter = 0});
+    for (int projector = 0; projector < 30; ++projector) {
+      one.Set({std::to_string(projector),
+               projector % 2 == 0 ? ProjectorAddress(served.PjLink("secret"))
+                                  : TcpAddress{.host = "localhost", .port = served.wirePort}});
+    }
+    EXPECT_TRUE(Becomes([&] { return one.Tally().begun > 40 || i % 2 != 0; }));
+  }
+}
+
+}  // namespace

@@ -1,0 +1,361 @@
+// A fleet and its projectors in a time of their own.
+
+#include <algorithm>
+#include <random>
+
+#include <gtest/gtest.h>
+
+#include "device/CommandCode.h"
+#include "tests/fleet/SteppedFleet.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+using Projector = SteppedFleet::Projector;
+
+const FleetPolicy kPolicy;
+
+/// What a list or a script would show of a state.
+std::string Words(const LiveState& state) {
+  static constexpr std::array kReached{"never asked", "answers", "silent", "wrong password",
+                                       "not understood"};
+  static constexpr std::array kPowers{"standby", "on", "cooling down", "warming up"};
+  std::string text = kReached.at(static_cast<std::size_t>(state.reachability));
+  const auto add = [&](const std::string& word) { text += ", " + word; };
+  if (state.power) add(kPowers.at(static_cast<std::size_t>(*state.power)));
+  if (state.source) add(std::to_string(state.source->number) + ' ' + state.source->name);
+  if (state.problems) {
+    std::string digits;
+    for (const ProblemGrade grade : *state.problems)
+      digits += std::to_string(static_cast<int>(grade));
+    add(digits);
+  }
+  for (const LampState& lamp : state.lamps) {
+    add(std::to_string(lamp.hours) + (lamp.isOn ? *lamp.isOn ? " h lit" : " h out" : " h"));
+  }
+  if (state.filterHours) add("filter " + std::to_string(*state.filterHours) + " h");
+  const std::pair<const char*, std::optional<bool>> kSwitches[] = {
+      {"blank", state.blank}, {"mute", state.mute}, {"freeze", state.freeze}};
+  for (const auto& [name, value] : kSwitches) {
+    if (value) add(std::string(*value ? "" : "not ") + name);
+  }
+  return text;
+}
+
+TEST(FleetWatcher, TellsWhatAProjectorIsDoing) {
+  struct Case {
+    const char* name;
+    std::function<void(Projector&)> is;
+    const char* told;
+  };
+  const auto says = [](const char* command, const char* text) {
+    return [=](Projector& it) {
+      (it.device.states.contains(command) ? it.device.states : it.device.facts)[command] = text;
+    };
+  };
+  const Case cases[] = {
+      {"as usual", [](auto&) {},
+       "answers, on, 31 HDMI (31), 000000, 1200 h lit, filter 80 h, not blank, not mute, not "
+       "freeze"},
+      {"in standby", says("POWR", "0"), "answers, standby"},
+      {"warming up, when it tells no more",
+       [](auto& it) {
+         it.device.states["POWR"] = "3";
+         it.device.busyFor = 1h;
+       },
+       "answers, warming up"},
+      {"problems and lamps",
+       [](auto& it) {
+         it.device.states["POWR"] = "2";
+         it.device.facts["ERST"] = "020011";
+         it.device.facts["LAMP"] = "100 1 20000 0";
+         it.device.states["AVMT"] = "31";
+       },
+       "answers, cooling down, 31 HDMI (31), 020011, 100 h lit, 20000 h out, filter 80 h, blank, "
+       "mute, "
+       "not freeze"},
+      {"class 1", says("CLSS", "1"),
+       "answers, on, 31 Digital 1 (31), 000000, 1200 h lit, not blank, not mute"},
+      {"nonsense", says("ERST", "99"),
+       "answers, on, 31 HDMI (31), 1200 h lit, filter 80 h, not blank, not mute, not freeze"},
+      {"closes after each reply",
+       [](auto& it) {
+         it.device.closesAfterReply = 0ms;
+         it.device.gap = 300ms;
+       },
+       "answers, on, 31 HDMI (31), 000000, 1200 h lit, filter 80 h, not blank, not mute, not "
+       "freeze"},
+      {"falls silent in the middle", [](auto& it) { it.device.loses["ERST"] = 2; },
+       "answers, on, 31 HDMI (31)"},
+      {"is not there", [](auto& it) { it.isThere = false; }, "silent"},
+      {"has its port closed", [](auto& it) { it.isRefusing = true; }, "silent"},
+      {"says nothing", [](auto& it) { it.device.greeting.clear(); }, "silent"},
+      {"wants a password", [](auto& it) { it.device.greeting = "PJLINK ERRA\r"; },
+       "wrong password"},
+      {"is something else", [](auto& it) { it.device.greeting = "220 ready\r\n"; },
+       "not understood"},
+  };
+  for (const Case& one : cases) {
+    SCOPED_TRACE(one.name);
+    SteppedFleet fleet;
+    one.is(fleet.Add("a"));
+    EXPECT_EQ(Words(fleet.State("a")), "never asked");
+    fleet.RunFor(20s);
+    EXPECT_EQ(Words(fleet.State("a")), one.told);
+    EXPECT_EQ(fleet.watcher.Tally().begun, 1);
+    EXPECT_EQ(fleet.projectors["a"].open, 0) << "nobody keeps a connection";
+  }
+}
+
+TEST(FleetWatcher, TellsWhatTheStatusPageShowsOfAProjectorOnTheWire) {
+  struct Case {
+    const char* name;
+    std::map<std::uint16_t, int> values;
+    const char* told;
+    int bursts = 2;
+  };
+  namespace Code = CommandCode;
+  const Case cases[] = {
+      {"as usual",
+       {},
+       "answers, on, 3 Video, 000000, 1200 h, filter 80 h, not blank, not mute, not freeze"},
+      {"in standby", {{Code::RunningState, 0}}, "answers, standby", 1},
+      {"cooling down, lamp",
+       {{Code::RunningState, 2}, {Code::ErrorStatus, 3}},
+       "answers, cooling down, 3 Video, 020000, 1200 h, filter 80 h, not blank, not mute, not "
+       "freeze"},
+      {"air flow, switches",
+       {{Code::ErrorStatus, 5}, {Code::BlankState, 1}, {Code::Freeze, 1}, {Code::LampTime, 40000}},
+       "answers, on, 3 Video, 000020, 40000 h, filter 80 h, blank, not mute, freeze"},
+      {"an error without a name, a source without one",
+       {{Code::ErrorStatus, 77}, {Code::InputSource, 9}},
+       "answers, on, 9 , 000002, 1200 h, filter 80 h, not blank, not mute, not freeze"},
+  };
+  const auto model = std::make_shared<ModelData>();
+  model->MySourceList.count = 1;
+  model->MySourceList.names[0] = MakeNameSlot("Video");
+  model->MySourceList.firstValues[0] = 3;
+  for (const Case& one : cases) {
+    SCOPED_TRACE(one.name);
+    SteppedFleet fleet;
+    Projector& it = fleet.AddWire("a", model);
+    for (const auto& [code, value] : one.values) it.wire->values[code] = value;
+    fleet.RunFor(20s);
+    EXPECT_EQ(Words(fleet.State("a")), one.told);
+    EXPECT_EQ(it.bursts, one.bursts);
+  }
+  SteppedFleet fleet;
+  fleet.AddWire("refuses").wire->values.erase(Code::Freeze);
+  fleet.AddWire("gone").isThere = false;
+  fleet.AddWire("greets").wire.reset();  // as PJLink does
+  fleet.RunFor(20s);
+  EXPECT_EQ(Words(fleet.State("refuses")),
+            "answers, on, 3 , 000000, 1200 h, filter 80 h, not blank, not mute");
+  EXPECT_EQ(Words(fleet.State("gone")), "silent");
+  EXPECT_EQ(Words(fleet.State("greets")), "not understood");
+}
+
+TEST(FleetWatcher, AsksNothingTwiceThatStaysAsItIs) {
+  SteppedFleet fleet;
+  Projector& it = fleet.Add("a");
+  it.device.facts.erase("FILT");
+  fleet.RunFor(30s);
+  EXPECT_EQ(it.device.TakeRequests(), "POWR, CLSS, INPT, INNM ?31, ERST, AVMT, FREZ, LAMP, FILT");
+  fleet.RunFor(60s);
+  EXPECT_EQ(it.device.TakeRequests(), "POWR, INPT, ERST, AVMT, FREZ, LAMP") << "what is known";
+  it.device.states["POWR"] = "0";
+  fleet.RunFor(300s);
+  const std::string asleep = it.device.TakeRequests();
+  EXPECT_EQ(asleep.find_first_not_of("POWR, "), std::string::npos) << asleep;
+  it.isRefusing = true;
+  fleet.RunFor(70s);
+  it.isRefusing = false;
+  it.device.states["POWR"] = "1";
+  it.device.facts["FILT"] = "7";
+  fleet.RunFor(70s);
+  EXPECT_EQ(fleet.State("a").filterHours, 7) << "it may be another one when it is back";
+}
+
+TEST(FleetWatcher, TellsChangesAndKeepsTheLast) {
+  FleetPolicy policy;
+  policy.history = 4;
+  SteppedFleet fleet(policy);
+  Projector& it = fleet.Add("a");
+  fleet.RunFor(30s);
+  fleet.watcher.TakeChanges();
+  it.device.states["INPT"] = "32";
+  it.device.facts["ERST"] = "000200";
+  it.device.facts["LAMP"] = "1201 1";
+  const WallTime before = fleet.Wall();
+  fleet.RunFor(60s);
+  const FleetChanges told = fleet.watcher.TakeChanges();
+  ASSERT_EQ(told.changes.size(), 3);
+  const StateChange& source = told.changes[0].change;
+  EXPECT_EQ(told.changes[0].id, "a");
+  EXPECT_EQ(source.field, StateField::Source);
+  EXPECT_EQ(source.before, (FieldValue{31, "HDMI (31)"}));
+  EXPECT_EQ(source.now, (FieldValue{32, "HDMI (32)"}));
+  EXPECT_TRUE(source.time > before && source.time < fleet.Wall());
+  EXPECT_EQ(told.changes[1].change.index, static_cast<int>(ProjectorPart::Cover));
+  EXPECT_EQ(told.changes[2].change.now, FieldValue{1201});
+  const auto history = fleet.watcher.History("a");
+  ASSERT_EQ(history.size(), 4) << "bounded, and hours are no news";
+  EXPECT_EQ(history.back(), told.changes[1].change);
+  fleet.RunFor(120s);
+  EXPECT_FALSE(fleet.watcher.HasChanges()) << "nothing has changed";
+  fleet.watcher.LearnDrift("a", 3);
+  fleet.RunFor(60s);
+  EXPECT_EQ(fleet.State("a").drift, 3);
+}
+
+TEST(FleetWatcher, StaysAwayWhileSomebodyElseWorks) {
+  SteppedFleet fleet;
+  Projector& it = fleet.Add("a");
+  Projector& other = fleet.Add("b");
+  it.device.answers = 500ms;
+  fleet.RunFor(1s);
+  ASSERT_EQ(it.open, 1) << "in the middle of a visit";
+  fleet.watcher.Pause("a");
+  fleet.watcher.Pause("a");
+  EXPECT_EQ(it.open, 0);
+  fleet.watcher.Learn("a", {PjtOperation::Get, CommandCode::InputSource},
+                      {.result = 1, .value = 32}, {});
+  EXPECT_EQ(Words(fleet.State("a")), "answers, 32 ");
+  fleet.watcher.Resume("a");
+  fleet.RunFor(200s);
+  EXPECT_EQ(it.connections.size(), 1);
+  EXPECT_GE(other.connections.size(), 3);
+  fleet.watcher.Resume("a");
+  fleet.RunFor(6s);
+  EXPECT_EQ(it.connections.size(), 2) << "what was changed is wanted soon";
+
+  fleet.watcher.SetAsking(false);
+  const auto asked = other.connections.size();
+  fleet.RunFor(300s);
+  EXPECT_EQ(it.connections.size() + other.connections.size(), 2 + asked);
+  fleet.watcher.SetAsking(true);
+  fleet.RunFor(10s);
+  EXPECT_EQ(other.connections.size(), asked + 1);
+  fleet.watcher.AskSoon("b");
+  fleet.watcher.Noticed("b");
+  fleet.watcher.Noticed("nobody");
+  fleet.RunFor(10s);
+  EXPECT_EQ(other.connections.size(), asked + 2);
+  fleet.watcher.AskSoon("b");
+  fleet.RunFor(1ms);
+  fleet.watcher.AskSoon("b");
+  fleet.RunFor(10s);
+  EXPECT_EQ(other.connections.size(), asked + 4) << "the visit may have asked too early";
+  fleet.watcher.Remove("b");
+  EXPECT_FALSE(fleet.watcher.State("b"));
+  fleet.RunFor(100s);
+  EXPECT_EQ(other.connections.size(), asked + 4);
+}
+
+TEST(FleetWatcher, MovesAlongWithAProjector) {
+  SteppedFleet fleet;
+  fleet.Add("a");
+  fleet.RunFor(10s);
+  fleet.watcher.Set({"a", PjLinkAddress{.host = "elsewhere", .password = {}}});
+  fleet.projectors["elsewhere"].device.states["POWR"] = "0";
+  fleet.RunFor(10s);
+  EXPECT_EQ(fleet.projectors["elsewhere"].connections.size(), 1) << "at once";
+  EXPECT_EQ(fleet.State("a").power, PowerState::Standby);
+  EXPECT_EQ(fleet.projectors["a"].connections.size(), 1);
+  for (const char* const id : {"one", "same"}) {
+    fleet.watcher.Set({id, PjLinkAddress{.host = "twice", .password = {}}});
+  }
+  fleet.watcher.Set({"serial", SerialAddress{.device = "/dev/ttyS0"}});
+  fleet.RunFor(100s);
+  EXPECT_EQ(fleet.projectors["twice"].mostConnections, 1);
+  EXPECT_EQ(fleet.State("one").power, PowerState::On);
+  EXPECT_EQ(fleet.State("same").power, PowerState::On);
+  EXPECT_EQ(fleet.State("serial").reachability, Reachability::NeverAsked);
+  EXPECT_EQ(fleet.State("serial").connection, ConnectionState::WrongParameters);
+}
+
+// They appear, fall silent, come back, refuse, change their address, and answer late.
+TEST(FleetWatcher, TellsTheTruthOfFiveHundredAndIsPolite) {
+  constexpr int kCount = 500;
+  FleetPolicy policy;
+  policy.visitsAtOnce = 50;
+  SteppedFleet fleet(policy);
+  std::mt19937 random(7);
+  const auto chance = [&](unsigned of) { return random() % of == 0; };
+  std::vector<std::string> ids;
+  for (int i = 0; i < kCount; ++i) {
+    ids.push_back("p" + std::to_string(i));
+    Projector& it = fleet.Add(ids.back());
+    it.isThere = !chance(5);
+    if (chance(10)) it.device.answers = 1900ms;
+  }
+  for (int round = 0; round < 10; ++round) {
+    for (const std::string& id : ids) {
+      if (chance(50)) {
+        const std::string host = id + "'";
+        fleet.projectors[host];
+        fleet.projectors[id].isThere = false;
+        fleet.watcher.Set({id, PjLinkAddress{.host = host, .password = {}}});
+      }
+    }
+    for (auto& [host, it] : fleet.projectors) {
+      if (chance(4)) it.isThere = !it.isThere;
+      it.isRefusing = chance(20);
+      it.device.states["POWR"] = std::string(1, static_cast<char>('0' + random() % 4));
+    }
+    // Longer than the longest pause with its jitter, and all that wait in line.
+    fleet.RunFor(round % 5 == 4 ? 900s : 61s);
+    if (round % 5 != 4) continue;
+    for (const std::string& id : ids) {
+      const std::string host = fleet.projectors.contains(id + "'") ? id + "'" : id;
+      const Projector& it = fleet.projectors[host];
+      const LiveState state = fleet.State(id);
+      const bool answers = it.isThere && !it.isRefusing;
+      EXPECT_EQ(state.reachability, answers ? Reachability::Answers : Reachability::Silent) << id;
+      const auto power = answers ? PjLink::Power(it.device.states.at("POWR")) : std::nullopt;
+      EXPECT_EQ(state.power, power) << id;
+    }
+  }
+  for (const auto& [host, it] : fleet.projectors) {
+    EXPECT_LE(it.mostConnections, 1) << host;
+    // What loses its connection is connected to again, but a visit does not take long.
+    std::optional<SessionTime> visited;
+    SessionTime last{};
+    for (const SessionTime time : it.connections) {
+      if (visited && time < std::exchange(last, time) + 20s) continue;
+      EXPECT_TRUE(!visited || time >= *visited + policy.interval) << host;
+      visited = last = time;
+    }
+  }
+  EXPECT_GT(fleet.watcher.Tally().answered, 10 * kCount);
+  fleet.watcher.SetAsking(false);
+  const FleetTally tally = fleet.watcher.Tally();
+  EXPECT_EQ(tally.begun, tally.answered + tally.unanswered + tally.abandoned);
+}
+
+TEST(FleetWatcher, AsksASilentOneLessAndLess) {
+  SteppedFleet fleet;
+  Projector& it = fleet.Add("a");
+  it.isThere = false;
+  fleet.RunFor(2h);
+  std::vector<double> minutes;
+  for (std::size_t i = 1; i < it.connections.size(); ++i) {
+    minutes.push_back(
+        std::chrono::duration<double, std::ratio<60>>(it.connections[i] - it.connections[i - 1])
+            .count());
+  }
+  ASSERT_GE(minutes.size(), 10);
+  const double least[] = {1, 2, 4, 8, 10, 10};
+  for (std::size_t i = 0; i < std::size(least); ++i) {
+    EXPECT_GE(minutes[i], least[i]);
+    EXPECT_LE(minutes[i], least[i] * (1 + kPolicy.jitter));
+  }
+  it.isThere = true;
+  fleet.RunFor(12min);
+  EXPECT_EQ(fleet.State("a").reachability, Reachability::Answers);
+  const auto asked = it.connections.size();
+  fleet.RunFor(10min);
+  EXPECT_GE(it.connections.size(), asked + 9) << "as usual again";
+}
+
+}  // namespace

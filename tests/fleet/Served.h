@@ -1,0 +1,52 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <string>
+#include <thread>
+
+#include <QCoreApplication>
+#include <QHostAddress>
+#include <gtest/gtest.h>
+
+#include "device/Connect.h"
+#include "simulator/FaultChannel.h"
+#include "simulator/PjLinkServer.h"
+#include "simulator/SimulatedProjector.h"
+#include "simulator/WireServer.h"
+
+inline ModelData SimulatedModelData() {
+  ModelData model;
+  model.DialogType = 5;
+  model.ModelCode = 54;
+  return model;
+}
+
+/// A simulated projector that is served both ways, on the thread of the test.
+struct Served {
+  std::shared_ptr<FaultChannel> device = std::make_shared<FaultChannel>(
+      std::make_shared<SimulatedProjector>(DescribeModel(SimulatedModelData())));
+  PjLinkServer pjLink{device, {.password = "secret"}};
+  WireServer wire{device};
+  std::uint16_t wirePort = wire.Listen(QHostAddress::LocalHost, 0);
+
+  Served() { EXPECT_TRUE(pjLink.Listen("127.0.0.1", 0)); }
+  TcpAddress Wire() const { return {.host = "127.0.0.1", .port = wirePort}; }
+  PjLinkAddress PjLink(const std::string& password) const {
+    return {.host = "127.0.0.1",
+            .port = static_cast<std::uint16_t>(pjLink.Port()),
+            .password = password};
+  }
+};
+
+/// Serves until it is so; false if that takes very long.
+inline bool Becomes(const std::function<bool()>& isSo) {
+  const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(60);
+  while (!isSo()) {
+    if (std::chrono::steady_clock::now() > end) return false;
+    QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+    std::this_thread::sleep_for(std::chrono::milliseconds(1));
+  }
+  return true;
+}

@@ -1,3 +1,4 @@
+#include "settings/ControlId.h"
 #include "settings/PageTables.h"
 #include "settings/input/InputLists.h"
 
@@ -39,7 +40,7 @@ constexpr PageRow kRows[] = {
     ListRow{"input.p-in-p-audio", 44, 21056, kPlainPinPAudios, Get(CommandCode::PinPAudio), Named(Op::SetPinPAudio), kSendsPosition},
     // Intended: the size is only shown here; a choice is not sent.
     ListRow{"input.p-in-p-size", 45, 21061, kInputPinPSizes, Get(CommandCode::PinPSize)},
-    ListRow{"input.power-up-input", 62, 21057, PowerUpInputs, Get(CommandCode::PowerUpInput), Set(CommandCode::PowerUpInput), {.error = ErrorText::PowerUpInputRefused}},
+    ListRow{"input.power-up-input", 62, ControlId::Input::PowerUpInput, PowerUpInputs, Get(CommandCode::PowerUpInput), Set(CommandCode::PowerUpInput), {.error = ErrorText::PowerUpInputRefused}},
 };
 
 constexpr ModelRows kModels[] = {

@@ -1,9 +1,12 @@
+#include "settings/ControlId.h"
 #include "settings/PageTables.h"
 #include "settings/input/InputLists.h"
 
 namespace AdvancedControl {
 
 namespace {
+
+namespace Id = ControlId::InputType5;
 
 using Op = PjtOperation;
 
@@ -26,42 +29,42 @@ constexpr ModelEntries kInputs[] = {{{37, 38, 41, 43, 51, 52, 54}, kAutomaticInp
 // The RGB and the Computer row of an input are two labels of the same setting. The flag says which
 // label the model has: 1 for RGB, 0 for Computer. clang-format off
 constexpr PageRow kRows[] = {
-    ListRow{"input.progressive", 60, 20294, kProgressive, Named(Op::GetProgressive),
+    ListRow{"input.progressive", 60, Id::Progressive, kProgressive, Named(Op::GetProgressive),
             Named(Op::SetProgressive), kSendsPosition},
-    ListRow{"input.video-nr", 1058, 20295, kNoiseReductions, Named(Op::GetVideoNrVal),
+    ListRow{"input.video-nr", 1058, Id::VideoNr, kNoiseReductions, Named(Op::GetVideoNrVal),
             Flagged(Op::SetVideoNR, 1), kSendsPosition},
-    ListRow{"input.3d-ycs", 57, 20296, kYcs, Named(Op::Get3dycs), Named(Op::Set3DYCS),
+    ListRow{"input.3d-ycs", 57, Id::ThreeDYcs, kYcs, Named(Op::Get3dycs), Named(Op::Set3DYCS),
             kSendsPosition},
-    ListRow{"input.color-space", 54, 20297, kColorSpaces, Named(Op::GetColorSpace),
+    ListRow{"input.color-space", 54, Id::ColorSpace, kColorSpaces, Named(Op::GetColorSpace),
             Named(Op::SetColorSpace), kSendsPosition},
-    ListRow{"input.component", 1055, 20298, kComponents, Named(Op::GetComponent),
+    ListRow{"input.component", 1055, Id::Component, kComponents, Named(Op::GetComponent),
             Named(Op::SetComponent), kSendsPosition},
-    ListRow{"input.c-video-format", 1068, 20299, kVideoFormats, Named(Op::GetVideoFormat, 1),
-            Named(Op::SetCVideoFormat), kSendsPosition},
-    ListRow{"input.s-video-format", 1069, 20300, kVideoFormats, Named(Op::GetVideoFormat, 0),
-            Named(Op::SetSVideoFormat), kSendsPosition},
-    ListRow{"input.hdmi", 187, 20307, kHdmis, Named(Op::GetHDMI), Named(Op::SetHDMI),
+    ListRow{"input.c-video-format", 1068, Id::CVideoFormat, kVideoFormats,
+            Named(Op::GetVideoFormat, 1), Named(Op::SetCVideoFormat), kSendsPosition},
+    ListRow{"input.s-video-format", 1069, Id::SVideoFormat, kVideoFormats,
+            Named(Op::GetVideoFormat, 0), Named(Op::SetSVideoFormat), kSendsPosition},
+    ListRow{"input.hdmi", 187, Id::Hdmi, kHdmis, Named(Op::GetHDMI), Named(Op::SetHDMI),
             kSendsPosition},
-    ListRow{"input.m1-d", 70, 20301, kM1Ds, Named(Op::GetM1d), Named(Op::SetM1D), kSendsPosition},
-    ListRow{"input.frame-lock", 59, 20302, kSwitch, Named(Op::GetFrameLock),
+    ListRow{"input.m1-d", 70, Id::M1D, kM1Ds, Named(Op::GetM1d), Named(Op::SetM1D), kSendsPosition},
+    ListRow{"input.frame-lock", 59, Id::FrameLock, kSwitch, Named(Op::GetFrameLock),
             Named(Op::SetFrameLock), kSendsPosition},
-    ListRow{"input.frame-lock-rgb1", 1188, 20309, kSwitch, Named(Op::GetFrameLockComp1),
+    ListRow{"input.frame-lock-rgb1", 1188, Id::FrameLockRgb1, kSwitch, Named(Op::GetFrameLockComp1),
             Flagged(Op::SetFrameLockComp1, 1), kSendsPosition},
-    ListRow{"input.frame-lock-computer1", 185, 20305, kSwitch, Named(Op::GetFrameLockComp1),
-            Flagged(Op::SetFrameLockComp1, 0), kSendsPosition},
-    ListRow{"input.frame-lock-rgb2", 1189, 20310, kSwitch, Named(Op::GetFrameLockComp2),
+    ListRow{"input.frame-lock-computer1", 185, Id::FrameLockComputer1, kSwitch,
+            Named(Op::GetFrameLockComp1), Flagged(Op::SetFrameLockComp1, 0), kSendsPosition},
+    ListRow{"input.frame-lock-rgb2", 1189, Id::FrameLockRgb2, kSwitch, Named(Op::GetFrameLockComp2),
             Flagged(Op::SetFrameLockComp2, 1), kSendsPosition},
-    ListRow{"input.frame-lock-computer2", 186, 20306, kSwitch, Named(Op::GetFrameLockComp2),
-            Flagged(Op::SetFrameLockComp2, 0), kSendsPosition},
-    ListRow{"input.frame-lock-hdmi", 1190, 20308, kSwitch, Named(Op::GetFrameLockHDMI),
+    ListRow{"input.frame-lock-computer2", 186, Id::FrameLockComputer2, kSwitch,
+            Named(Op::GetFrameLockComp2), Flagged(Op::SetFrameLockComp2, 0), kSendsPosition},
+    ListRow{"input.frame-lock-hdmi", 1190, Id::FrameLockHdmi, kSwitch, Named(Op::GetFrameLockHDMI),
             Named(Op::SetFrameLockHDMI), kSendsPosition},
-    ListRow{"input.rgb-in-1", 1071, 20303, kInputs, Named(Op::GetRgbIn, 1),
+    ListRow{"input.rgb-in-1", 1071, Id::RgbIn1, kInputs, Named(Op::GetRgbIn, 1),
             Flagged(Op::SetRgbIn1, 1), kSendsPosition},
-    ListRow{"input.computer-in-1", 179, 20311, kInputs, Named(Op::GetRgbIn, 1),
+    ListRow{"input.computer-in-1", 179, Id::ComputerIn1, kInputs, Named(Op::GetRgbIn, 1),
             Flagged(Op::SetRgbIn1, 0), kSendsPosition},
-    ListRow{"input.rgb-in-2", 1072, 20304, kInputs, Named(Op::GetRgbIn, 2),
+    ListRow{"input.rgb-in-2", 1072, Id::RgbIn2, kInputs, Named(Op::GetRgbIn, 2),
             Flagged(Op::SetRgbIn2, 1), kSendsPosition},
-    ListRow{"input.computer-in-2", 180, 20312, kInputs, Named(Op::GetRgbIn, 2),
+    ListRow{"input.computer-in-2", 180, Id::ComputerIn2, kInputs, Named(Op::GetRgbIn, 2),
             Flagged(Op::SetRgbIn2, 0), kSendsPosition},
 };
 

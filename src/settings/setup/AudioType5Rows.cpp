@@ -1,10 +1,13 @@
 #include "device/CommandCode.h"
+#include "settings/ControlId.h"
 #include "settings/PageTables.h"
 #include "settings/setup/AudioLists.h"
 
 namespace AdvancedControl {
 
 namespace {
+
+namespace Id = ControlId::AudioType5;
 
 using Op = PjtOperation;
 
@@ -49,11 +52,12 @@ constexpr ValueRow OfPlaying(ValueRow row, int initial) {
 }
 
 constexpr ValueRow Volume() {
-  return OfPlaying(NamedSlider("audio.volume", 1, {20345, 20347, 20346, 20355},
-                               {Op::GetInputSrcVolume, Op::SetVolumeEachSrc,
-                                Op::DecrementInputSrcVol, Op::IncrementInputSrcVol},
-                               RangeIndex::Volume, {0, 48}, 4),
-                   24);
+  return OfPlaying(
+      NamedSlider("audio.volume", 1, {Id::VolumeMinus, Id::Volume, Id::VolumePlus, Id::VolumeField},
+                  {Op::GetInputSrcVolume, Op::SetVolumeEachSrc, Op::DecrementInputSrcVol,
+                   Op::IncrementInputSrcVol},
+                  RangeIndex::Volume, {0, 48}, 4),
+      24);
 }
 
 constexpr ValueRow Tone(std::string_view key, int caption, const ValueIds& ids, const ValueOps& ops,
@@ -80,46 +84,46 @@ constexpr Call kSetHdmi = Flagged(Op::SetAudioM1D, {0, {41, 43, 51, 53, 54}, 1})
 // operation. clang-format off
 constexpr PageRow kRows[] = {
     Volume(),
-    Tone("audio.treble", 2, {20348, 20350, 20349, 20315},
+    Tone("audio.treble", 2, {Id::TrebleMinus, Id::Treble, Id::TreblePlus, Id::TrebleField},
          {Op::GetInputSrcTreble, Op::SetInputSrcTreble, Op::DecrementInputSrcTreb,
           Op::IncrementInputSrcTreb},
          RangeIndex::Treble),
-    Tone("audio.bass", 3, {20351, 20353, 20352, 20316},
+    Tone("audio.bass", 3, {Id::BassMinus, Id::Bass, Id::BassPlus, Id::BassField},
          {Op::GetInputSrcBass, Op::SetInputSrcBass, Op::DecrementInputSrcBass,
           Op::IncrementInputSrcBass},
          RangeIndex::Bass),
     ListRow{"audio.srs-wow",
             4,
-            20381,
+            Id::SrsWow,
             kSurrounds,
             Named(Op::GetSRSWOW),
             Named(Op::SetSRSWOW),
             kSurround,
             {},
             OfSource::Playing},
-    ListRow{"audio.speaker", 5, 20354, kSwitch, Named(Op::GetSpeaker), Named(Op::SetSpeaker),
+    ListRow{"audio.speaker", 5, Id::Speaker, kSwitch, Named(Op::GetSpeaker), Named(Op::SetSpeaker),
             kRouting},
-    ListRow{"audio.rgb1", 1006, 20356, kSources, Named(Op::GetAudioRGB1), Named(Op::SetAudioRGB1),
-            kRouting},
-    ListRow{"audio.computer1", 181, 20365, kSources, Named(Op::GetAudioRGB1),
+    ListRow{"audio.rgb1", 1006, Id::Rgb1, kSources, Named(Op::GetAudioRGB1),
+            Named(Op::SetAudioRGB1), kRouting},
+    ListRow{"audio.computer1", 181, Id::Computer1, kSources, Named(Op::GetAudioRGB1),
             Named(Op::SetAudioComputer1), kRouting},
-    ListRow{"audio.rgb2", 1007, 20358, kSources, Named(Op::GetAudioRGB2), Named(Op::SetAudioRGB2),
-            kRouting},
-    ListRow{"audio.computer2", 182, 20366, kSources, Named(Op::GetAudioRGB2),
+    ListRow{"audio.rgb2", 1007, Id::Rgb2, kSources, Named(Op::GetAudioRGB2),
+            Named(Op::SetAudioRGB2), kRouting},
+    ListRow{"audio.computer2", 182, Id::Computer2, kSources, Named(Op::GetAudioRGB2),
             Named(Op::SetAudioComputer2), kRouting},
-    ListRow{"audio.m1-d", 1008, 20359, kSources, Named(Op::GetAudioM1D), kSetM1D, kRouting},
-    ListRow{"audio.hdmi", 1183, 20367, kHdmiSources, Named(Op::GetAudioM1D), kSetHdmi, kRouting},
-    ListRow{"audio.video", 1009, 20360, kSources, Named(Op::GetAudioVideo),
+    ListRow{"audio.m1-d", 1008, Id::M1D, kSources, Named(Op::GetAudioM1D), kSetM1D, kRouting},
+    ListRow{"audio.hdmi", 1183, Id::Hdmi, kHdmiSources, Named(Op::GetAudioM1D), kSetHdmi, kRouting},
+    ListRow{"audio.video", 1009, Id::Video, kSources, Named(Op::GetAudioVideo),
             Named(Op::SetAudioVideo), kRouting},
-    ListRow{"audio.s-video", 1010, 20361, kSources, Named(Op::GetAudioSVideo),
+    ListRow{"audio.s-video", 1010, Id::SVideo, kSources, Named(Op::GetAudioSVideo),
             Named(Op::SetAudioSVideo), kRouting},
-    ListRow{"audio.component", 1011, 20362, kSources, Named(Op::GetAudioComponent),
+    ListRow{"audio.component", 1011, Id::Component, kSources, Named(Op::GetAudioComponent),
             Named(Op::SetAudioComponent), kRouting},
-    ListRow{"audio.miu", 12, 20363, kMiuSources, Named(Op::GetAudioMIU), Named(Op::SetAudioMIU),
+    ListRow{"audio.miu", 12, Id::Miu, kMiuSources, Named(Op::GetAudioMIU), Named(Op::SetAudioMIU),
             kRouting},
-    ListRow{"audio.out-standby", 206, 20368, kSources, Named(Op::GetAudioOutStandby),
+    ListRow{"audio.out-standby", 206, Id::OutStandby, kSources, Named(Op::GetAudioOutStandby),
             Named(Op::SetAudioOutStandby), kRouting},
-    ListRow{"audio.hdmi-audio", 184, 20364, kHdmiAudio, Named(Op::GetHDMIAudio),
+    ListRow{"audio.hdmi-audio", 184, Id::HdmiAudio, kHdmiAudio, Named(Op::GetHDMIAudio),
             Named(Op::SetHDMIAudio), kHdmiMode},
 };
 

@@ -10,7 +10,7 @@
 #include <QUrl>
 
 #include "app/profiles/WholeFile.h"
-#include "device/PjLinkLine.h"
+#include "device/protocol/PjLinkLine.h"
 
 namespace {
 

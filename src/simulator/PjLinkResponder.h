@@ -8,9 +8,12 @@
 #include <string_view>
 #include <vector>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
 #include "device/ModelData.h"
 #include "device/ProjectorChannel.h"
+
+namespace AdvancedControl {
 
 /// An input as PJLink shows it.
 struct ServedInput {
@@ -80,3 +83,5 @@ class PROJECTOR_COMMON_EXPORT PjLinkResponder {
   const std::shared_ptr<ProjectorChannel> projector_;
   const ServedProjector served_;
 };
+
+}  // namespace AdvancedControl

@@ -9,9 +9,12 @@
 #include <QTcpSocket>
 #include <QTimer>
 
-#include "device/PjLinkLine.h"
-#include "device/PjLinkReader.h"
+#include "device/protocol/PjLinkLine.h"
+#include "device/protocol/PjLinkReader.h"
+#include "simulator/ServedConnection.h"
 #include "simulator/TcpListener.h"
+
+namespace AdvancedControl {
 
 namespace {
 
@@ -27,19 +30,20 @@ std::string NewSeed() {
       .toStdString();
 }
 
-/// One connection, as long as its socket lives.
-class Session final : public QObject {
+class Session final : public ServedConnection {
  public:
-  Session(QTcpSocket& socket, const PjLinkServer::Options& options, PjLinkResponder& responder,
-          const LineFault& fault)
-      : QObject(&socket), socket_(socket), responder_(responder), replies_(socket, fault) {
+  Session(std::unique_ptr<QTcpSocket> socket, const PjLinkServer::Options& options,
+          PjLinkResponder& responder, const LineFault& fault)
+      : socket_(*socket.release()), responder_(responder), replies_(socket_, fault) {
+    socket_.setParent(this);
     std::string seed;
     if (!options.password.empty()) {
       seed = NewSeed();
       wantedProof_ = PjLink::Digest(seed, options.password);
     }
     connect(&idle_, &QTimer::timeout, this, [this] { socket_.abort(); });
-    connect(&socket, &QTcpSocket::readyRead, this, &Session::AnswerAll);
+    connect(&socket_, &QTcpSocket::readyRead, this, &Session::AnswerAll);
+    connect(&socket_, &QTcpSocket::disconnected, this, &QObject::deleteLater);
     idle_.start(options.idle);
     const std::string greeting = PjLink::FormatGreeting(seed);
     if (fault.kind == LineFault::Kind::Cut) {
@@ -50,8 +54,12 @@ class Session final : public QObject {
     AnswerAll();
   }
 
+ protected:
+  std::size_t Backlog() const override { return replies_.Backlog(); }
+
  private:
   void AnswerAll() {
+    NoteRead();
     while (isServed_ && socket_.state() == QAbstractSocket::ConnectedState) {
       if (const auto line = reader_.Next()) {
         Answer(*line);
@@ -99,35 +107,16 @@ class Session final : public QObject {
 
 struct PjLinkServer::State {
   State(std::shared_ptr<ProjectorChannel> projector, Options&& given)
-      : options(std::move(given)), responder(std::move(projector), options.served) {
-    QObject::connect(&server, &QTcpServer::newConnection, &server, [this] { ServeWaiting(); });
-  }
-
-  void ServeWaiting();
+      : options(std::move(given)), responder(std::move(projector), options.served) {}
 
   const Options options;
   PjLinkResponder responder;
   LineFault fault{};
-  std::size_t served = 0;
-  TcpListener server{kReadBuffer};  // the first to go, with its sockets, which use the others
+  TcpListener server{{.connections = options.connections, .readBuffer = kReadBuffer},
+                     [this](std::unique_ptr<QTcpSocket> socket) {
+                       return new Session(std::move(socket), options, responder, fault);
+                     }};
 };
-
-void PjLinkServer::State::ServeWaiting() {
-  while (served < options.connections && server.hasPendingConnections()) {
-    QTcpSocket* const socket = server.nextPendingConnection();
-    if (socket->state() != QAbstractSocket::ConnectedState) {  // left while it waited
-      socket->deleteLater();
-      continue;
-    }
-    ++served;
-    QObject::connect(socket, &QTcpSocket::disconnected, &server, [this, socket] {
-      --served;
-      socket->deleteLater();
-      ServeWaiting();
-    });
-    new Session(*socket, options, responder, fault);
-  }
-}
 
 PjLinkServer::PjLinkServer(std::shared_ptr<ProjectorChannel> projector, Options options)
     : state_(std::make_unique<State>(std::move(projector), std::move(options))) {}
@@ -142,9 +131,8 @@ bool PjLinkServer::Listen(const std::string& address, int port) {
 
 int PjLinkServer::Port() const { return state_->server.serverPort(); }
 
-void PjLinkServer::Close() {
-  state_->server.close();
-  for (QTcpSocket* const socket : state_->server.findChildren<QTcpSocket*>()) socket->abort();
-}
+void PjLinkServer::Close() { state_->server.CloseAll(); }
 
 void PjLinkServer::SetFault(const LineFault& fault) { state_->fault = fault; }
+
+}  // namespace AdvancedControl

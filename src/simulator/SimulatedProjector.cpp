@@ -7,6 +7,8 @@
 
 #include "device/CommandCode.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 constexpr int kShownBias = CommandCode::kZeroPoint;
@@ -330,3 +332,5 @@ void SimulatedProjector::SetCodeValue(std::uint16_t code, int value) {
     slots_[found->second].Put(value, SourceOrCurrent(kCurrentSource));
   }
 }
+
+}  // namespace AdvancedControl

@@ -9,10 +9,13 @@
 #include <span>
 #include <vector>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
 #include "device/ModelData.h"
 #include "device/ProjectorChannel.h"
 #include "simulator/SettingsTable.h"
+
+namespace AdvancedControl {
 
 /// How a model's projector differs from the settings table.
 struct SimulatedModel {
@@ -88,3 +91,5 @@ class PROJECTOR_COMMON_EXPORT SimulatedProjector : public ProjectorChannel {
   std::vector<Slot> slots_;
   std::array<std::vector<int>, 4> memories_;
 };
+
+}  // namespace AdvancedControl

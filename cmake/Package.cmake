@@ -88,7 +88,7 @@ set(CPACK_DEBIAN_PROGRAM_PACKAGE_RECOMMENDS "qt6-translations-l10n, qt6-wayland"
 set(CPACK_COMPONENT_PROGRAM_DESCRIPTION "read and change the settings of projectors
 A list of projectors, and for each of them a dialog with a tab per group of
 settings, every value read live and every change sent at once. A log shows
-each command and what came of it.")
+each command and its result.")
 
 foreach(component library development program)
   string(TOUPPER ${component} upper)

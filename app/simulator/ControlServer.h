@@ -8,24 +8,24 @@
 #include "app/simulator/ServedProjectors.h"
 #include "simulator/TcpListener.h"
 
-/// How faults are written.
+/// The syntax of faults, for help and errors.
 inline constexpr char kFaultNames[] =
     "none, refuse, fail-read, silent, late MILLISECONDS, cut BYTES, garbage, trickle";
 
-/// A fault as people write it; nothing for any other text.
+/// Parses a fault; nothing if the text is not one.
 std::optional<ServiceFault> ParseFault(const QString& text);
 
-/// Takes faults while the projectors are served, a line each ("2 late 300", "* none"), and answers
-/// each with "ok" or with what is wrong.
+/// Accepts commands that set faults of the served projectors, one per line ("2 late 300", "*
+/// none"), and answers each with "ok" or an error.
 class ControlServer final {
  public:
   explicit ControlServer(ServedProjectors& projectors);
 
-  /// At the loopback address; `port` 0 takes a free one. The port, or 0 when it cannot be had.
+  /// Listens at the loopback address; 0 chooses a free port. Returns the port, or 0 on failure.
   std::uint16_t Listen(std::uint16_t port);
 
  private:
-  QString Obey(const QString& line);
+  QString Execute(const QString& line);
 
   ServedProjectors& projectors_;
   TcpListener server_;

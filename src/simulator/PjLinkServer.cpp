@@ -19,7 +19,7 @@ namespace AdvancedControl {
 namespace {
 
 constexpr qint64 kReadBuffer = 512;
-/// Replies that a client may leave unread.
+/// Bytes of replies that a client may leave unread.
 constexpr std::size_t kMostUnread = 65536;
 
 std::string NewSeed() {
@@ -47,7 +47,7 @@ class Session final : public ServedConnection {
     idle_.start(options.idle);
     const std::string greeting = PjLink::FormatGreeting(seed);
     if (fault.kind == LineFault::Kind::Cut) {
-      socket_.write((greeting + '\r').c_str());  // it is no reply
+      socket_.write((greeting + '\r').c_str());  // the greeting is not cut
     } else {
       Send(greeting);
     }
@@ -100,7 +100,8 @@ class Session final : public ServedConnection {
   QTimer idle_;
   PjLinkReader reader_;
   bool isServed_ = true;
-  std::string wantedProof_;  ///< Before the next request; empty once given, or without password.
+  std::string wantedProof_;  ///< Expected before the next request; empty once received, or without
+                             ///< a password.
 };
 
 }  // namespace

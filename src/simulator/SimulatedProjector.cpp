@@ -13,10 +13,10 @@ namespace {
 
 constexpr int kShownBias = CommandCode::kZeroPoint;
 
-/// What a command code without a known meaning is: a value that is just kept.
+/// The setting for a command code without a known meaning: stores any value.
 constexpr Setting kPlain{.id = SettingId::Count, .name = "", .range = {0, 0xFFFF}};
 
-/// Where a command of a family carries the value that it sets.
+/// The value that a command sets; its place depends on the operation's family.
 int WrittenValue(const PjtCommand& command) {
   return FormOf(command.operation).second == Argument::Value ? command.second : command.first;
 }
@@ -70,7 +70,7 @@ struct SimulatedProjector::Slot {
   std::vector<int> values;
   int standard = 0;
   int value = 0;
-  std::map<int, int> bySource;  ///< Those that differ from the standard.
+  std::map<int, int> bySource;  ///< Only values that differ from the standard.
 
   bool Allows(int wanted) const {
     if (!values.empty()) return std::ranges::find(values, wanted) != values.end();
@@ -85,7 +85,7 @@ struct SimulatedProjector::Slot {
 
   void Put(int wanted, int source) { (setting->perSource ? bySource[source] : value) = wanted; }
 
-  /// The neighbouring value in the range or the list; it need not be allowed.
+  /// The neighbouring value, counted or from the list; may be outside the range.
   std::optional<int> Next(int current, int step) const {
     if (values.empty()) return current + step;
     const auto found = std::ranges::find(values, current);
@@ -126,7 +126,8 @@ SimulatedProjector::SimulatedProjector(SimulatedModel model) {
       AddSlot(setting, model);
     }
   }
-  // A code that only other page sets give a meaning is plain here; one of a missing setting is not.
+  // A code that has a meaning only for other page sets becomes plain; the code of a missing setting
+  // does not.
   for (const std::uint16_t code : PlainCodes()) {
     const bool hasMeaning = std::ranges::any_of(SettingsTable(), [&](const Setting& setting) {
       return setting.code == code && Knows(setting.sets, model.pageSet);

@@ -1,4 +1,4 @@
-// What the pop-ups do beside what the files of listing/ tell.
+// Behaviour of the pop-ups that the files in listing/ do not show.
 
 #include <tuple>
 
@@ -26,7 +26,8 @@ struct OpenPopUp : OpenDialog {
     return Projector().Take();
   }
 
-  // Shown is 5, and stays what a step goes on from. A value below the page's bound is not shown.
+  // The shown value is 5, and the next step starts from it. A value below the page's bound is not
+  // shown.
   void ExpectReset(const ValueRow& row, int bound) {
     driver.Drag(row.ids.slider, 5);
     const std::string read = Click(row.reset.button).back();

@@ -105,16 +105,6 @@ TEST_F(DialogTest, ASliderReportsOnlyTheEndOfAMove) {
   EXPECT_GT(dialog.scrolls.back(), 6);
 }
 
-TEST_F(DialogTest, ASliderHasATickAtEachInterval) {
-  auto& slider = dialog.Item<CSliderCtrl>(4);
-  const QImage picture = slider.grab().toImage();
-  int ticks = 0;
-  for (int x = 0, y = slider.HandleRect().bottom() + 3; x < picture.width(); ++x) {
-    ticks += picture.pixel(x, y) != picture.pixel(0, y);
-  }
-  EXPECT_EQ(ticks, 11) << "from -10 to 10, at every second";
-}
-
 TEST_F(DialogTest, ADialogThatDiesWhileAKeyIsDownReportsNothing) {
   auto* dying = new SampleDialog;
   dying->Open();

@@ -48,8 +48,8 @@ def parse_arguments():
     parser.add_argument("--again", action="store_true", help="try those anew that lived")
     parser.add_argument("--list", action="store_true", help="list the mutants, and test nothing")
     parser.add_argument("--jobs", type=int, default=os.cpu_count())
-    parser.add_argument("--budget", type=float, default=120, metavar="SECONDS",
-                        help="of tests for one mutant, the quickest first (default: 120)")
+    parser.add_argument("--budget", type=float, default=300, metavar="SECONDS",
+                        help="of tests for one mutant, the quickest first (default: 300)")
     parser.add_argument("--keep-reach", action="store_true",
                         help="take the recorded reach of the tests, though the sources have changed since")
     return parser.parse_args()

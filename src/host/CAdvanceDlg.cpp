@@ -1,12 +1,10 @@
 #include "host/CAdvanceDlg.h"
 
 #include <algorithm>
-#include <chrono>
 #include <iterator>
 #include <utility>
 #include <vector>
 
-#include <QApplication>
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QShortcut>
@@ -36,7 +34,6 @@ constexpr int kMargin = 12;
 constexpr int kFindWidth = 300;
 
 constexpr int kNetworkConnection = 1;
-constexpr std::chrono::milliseconds kInputsPeriod{500};
 
 // Dialogs that have made this library's resources current, in the order in which they were opened.
 std::vector<CAdvanceDlg*>& OpenDialogs() {
@@ -121,8 +118,7 @@ bool CAdvanceDlg::OnInitDialog() {
   OrderFocus();
   ShowUnread();
   DispTabScreen();
-  const bool namesInputs = model_.MySourceList.Size() > 0 && !reportedInputs_;
-  if (IsCreated() && !namesInputs) inputsWatch_->start(kInputsPeriod);
+  if (IsCreated()) WatchInputs();
   return true;
 }
 
@@ -209,36 +205,6 @@ void CAdvanceDlg::DispTabScreen() {
     shownPage_->ReadPage();
     if (shownPage_->layout() != nullptr) shownPage_->layout()->activate();
   } while (readsAgain_ && IsCreated());
-}
-
-void CAdvanceDlg::ReplaceSources(const SourceList& sources) {
-  const ModelData before = model_;
-  if (next_) next_->model.MySourceList = sources;
-  model_.MySourceList = sources;
-  if (!IsCreated()) return;
-  for (const auto& page : pages_->byId) {
-    if (page->Template() != nullptr) page->RefillLists(before);
-  }
-  if (reading_ || projector_.IsWaiting()) {
-    readsAgain_ = true;
-  } else {
-    DispTabScreen();
-  }
-}
-
-std::optional<SourceList> CAdvanceDlg::NewReportedInputs() const {
-  const SourceList& known = model_.MySourceList;
-  if (known.Size() > 0 && known != reportedInputs_) return std::nullopt;
-  auto reported = projector_.Inputs();
-  return reported == known ? std::nullopt : reported;
-}
-
-void CAdvanceDlg::UseReportedInputs() {
-  if (IsBusy() || QApplication::activePopupWidget() != nullptr) return;
-  if (const auto reported = NewReportedInputs()) {
-    reportedInputs_ = reported;
-    ReplaceSources(*reported);
-  }
 }
 
 void CAdvanceDlg::ShowSelectedPage() {

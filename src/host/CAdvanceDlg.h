@@ -157,6 +157,8 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog,
   /// Inputs newly reported by the projector, if the host names none.
   std::optional<AdvancedControl::SourceList> NewReportedInputs() const;
   void UseReportedInputs();
+  /// Uses inputs that the projector reports later, if the host names none.
+  void WatchInputs();
   std::optional<AdvancedControl::PageId> PageIdOfTab(int tab) const;
   CTabPage* PageOfTab(int tab) const;
   void ShowSelectedPage();

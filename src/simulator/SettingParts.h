@@ -129,6 +129,11 @@ constexpr Setting InMemory(Setting setting) {
   return setting;
 }
 
+constexpr Setting PerSource(Setting setting) {
+  setting.perSource = true;
+  return setting;
+}
+
 constexpr Setting ColorTemp(std::uint16_t alsoSetBy = 0) {
   return {.id = Id::ColorTemp,
           .name = "Color temperature",

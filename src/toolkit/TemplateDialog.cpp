@@ -24,6 +24,29 @@ bool HoldsTab(const RowTemplate& row) {
                              [](const auto& control) { return control.kind == ControlKind::Tab; });
 }
 
+bool IsUsableWhileBusy(const DialogTemplate& dialog, int id) {
+  return std::ranges::any_of(dialog.rows, [id](const RowTemplate& row) {
+    return std::ranges::any_of(row.controls, [id](const ControlTemplate& control) {
+      return control.id == id &&
+             (control.kind == ControlKind::Close || control.kind == ControlKind::Tab);
+    });
+  });
+}
+
+// Alt+C closes the dialog in every language; a caption without a C gets "(C)" appended.
+void AssignMnemonics(const TemplateDialog& dialog) {
+  for (const RowTemplate& row : dialog.Template()->rows) {
+    if (row.controls.front().kind != ControlKind::Close) continue;
+    auto& close = dialog.Item<QPushButton>(row.controls.front().id);
+    QString text = close.text();
+    if (text.contains(QLatin1Char('&'))) continue;
+    close.setAccessibleName(text);
+    const auto letter = text.indexOf(QLatin1Char('C'), 0, Qt::CaseInsensitive);
+    close.setText(letter < 0 ? text + QStringLiteral("(&C)")
+                             : text.insert(letter, QLatin1Char('&')));
+  }
+}
+
 }  // namespace
 
 TemplateDialog::TemplateDialog(int templateNumber, CWnd* parent)
@@ -33,7 +56,6 @@ bool TemplateDialog::BuildControls() {
   // If the dialog ran before, the controls of that run still exist.
   for (const auto& [id, control] : std::exchange(controls_, {})) delete control;
   rows_.clear();
-  usableWhileBusy_.clear();
   delete layout();
   delete scroll_;
 
@@ -47,9 +69,6 @@ bool TemplateDialog::BuildControls() {
       QWidget* widget = MakeControl(control, this);
       placed.controls.push_back(widget);
       controls_[control.id] = widget;
-      if (control.kind == ControlKind::Close || control.kind == ControlKind::Tab) {
-        usableWhileBusy_.push_back(widget);
-      }
     }
     rows_.push_back(std::move(placed));
   }
@@ -98,7 +117,7 @@ void TemplateDialog::CreateLayout() {
 
 void TemplateDialog::FinishLayout() {
   UpdateRows();
-  AssignMnemonics();
+  AssignMnemonics(*this);
   FitToScreen();
 }
 
@@ -122,20 +141,6 @@ void TemplateDialog::UpdateRows() {
   for (QWidget* button : buttons) button->setMinimumWidth(buttonWidth);
   for (const PlacedRow& row : rows_) {
     if (row.grid != nullptr) row.grid->setRowMinimumHeight(row.gridRow, row.present ? pitch_ : 0);
-  }
-}
-
-// Alt+C closes the dialog in every language; a caption without a C gets "(C)" appended.
-void TemplateDialog::AssignMnemonics() {
-  for (const RowTemplate& row : template_->rows) {
-    if (row.controls.front().kind != ControlKind::Close) continue;
-    auto& close = Item<QPushButton>(row.controls.front().id);
-    QString text = close.text();
-    if (text.contains(QLatin1Char('&'))) continue;
-    close.setAccessibleName(text);
-    const auto letter = text.indexOf(QLatin1Char('C'), 0, Qt::CaseInsensitive);
-    close.setText(letter < 0 ? text + QStringLiteral("(&C)")
-                             : text.insert(letter, QLatin1Char('&')));
   }
 }
 
@@ -164,9 +169,9 @@ bool TemplateDialog::AcceptsInputWhileBusy(const QWidget& target) const {
   for (const QWidget* part = &target; part != nullptr && part != this;
        part = part->parentWidget()) {
     if (qobject_cast<const TemplateDialog*>(part) != nullptr) return false;  // a page
-    const bool isControl = std::ranges::any_of(
-        controls_, [part](const auto& control) { return control.second == part; });
-    if (isControl) return std::ranges::count(usableWhileBusy_, part) > 0;
+    const auto control =
+        std::ranges::find(controls_, part, [](const auto& numbered) { return numbered.second; });
+    if (control != controls_.end()) return IsUsableWhileBusy(*template_, control->first);
   }
   return true;
 }

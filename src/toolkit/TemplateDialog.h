@@ -90,7 +90,6 @@ class ADVANCED_CONTROL_EXPORT TemplateDialog : public QDialog {
   [[noreturn]] void NoSuchControl(int id) const;
   PlacedRow* RowOf(int id);
   void CreateLayout();
-  void AssignMnemonics();
   void FitToScreen();
 
   int templateNumber_;
@@ -98,8 +97,7 @@ class ADVANCED_CONTROL_EXPORT TemplateDialog : public QDialog {
   QPointer<QWidget> scroll_;  // scrolls the rows of a window that is too large for the screen
   int pitch_ = 0;             // height of the present rows, in pixels
   std::unordered_map<int, QWidget*> controls_;
-  std::vector<const QWidget*> usableWhileBusy_;  // tabs and Close
-  std::vector<PlacedRow> rows_;                  // in the template's order
+  std::vector<PlacedRow> rows_;  // in the template's order
 };
 
 }  // namespace AdvancedControl

@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QTemporaryDir>
 
 #include "tests/support/Programs.h"
@@ -36,6 +38,12 @@ struct Simulator : SimulatorProcess {
 MATCHER_P2(Ends, exitCode, errors, "") {
   *result_listener << arg.exitCode << " and " << arg.errors;
   return arg.exitCode == exitCode && testing::Value(arg.errors, errors);
+}
+
+/// The entry of the only projector in an output as JSON.
+inline QJsonObject Entry(const Outcome& run) {
+  const auto json = QJsonDocument::fromJson(QByteArray::fromStdString(run.output));
+  return json["projectors"][0].toObject();
 }
 
 /// Saves a projector's settings and changes many of them in the file.

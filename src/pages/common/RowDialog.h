@@ -2,7 +2,6 @@
 
 #include <memory>
 #include <optional>
-#include <unordered_map>
 #include <vector>
 
 #include "AdvancedControlExport.h"
@@ -53,8 +52,6 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog, private RowHost
   /// Reads and shows every row that the model has, in the table's order.
   void Refresh();
 
-  void ShowSource(std::optional<int>) override {}
-  void ShowState(std::optional<int>) override {}
   void ReadAgain() override { Refresh(); }
 
   /// Does what the row of this control says; called when the user has operated the control.
@@ -83,7 +80,6 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog, private RowHost
 
   const PageTable& table_;
   const PageReader::Rows rows_;  // in the table's order
-  std::unordered_map<const QWidget*, RowView*> rowsByControl_;
   mutable std::optional<NotificationMap> notifications_;
   PageReader reader_;
   RowMenus menus_;

@@ -31,9 +31,9 @@ class RowHost {
   virtual std::optional<int> AskFor(OfSource of) = 0;
   /// Called before a row that belongs to an input source is read or changed; `source` is nothing if
   /// the source is unknown.
-  virtual void ShowSource(std::optional<int> source) = 0;
+  virtual void ShowSource(std::optional<int> /*source*/) {}
   /// Called after a state of the projector was read; `value` is nothing if that failed.
-  virtual void ShowState(std::optional<int> value) = 0;
+  virtual void ShowState(std::optional<int> /*value*/) {}
 
   /// Reads one row as a refresh does.
   virtual void ReadRow(RowView& row, int source) = 0;

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "Namespace.h"
+#include "i18n/ModuleImage.h"
+
+struct UConverter;
+
+namespace AdvancedControl {
+
+/// Decodes the texts of a message table's entries to UTF-8. Caches the converter of the last code
+/// page.
+class TextDecoder {
+ public:
+  /// Appends the text up to its first zero character; invalid characters become U+FFFD. False if it
+  /// cannot be decoded.
+  bool AppendUnicode(Bytes bytes, std::vector<char>& texts);
+
+  /// The same for a text in the ANSI code page of its language.
+  bool AppendAnsi(std::uint32_t languageId, Bytes bytes, std::vector<char>& texts);
+
+ private:
+  // Appends the first units of `utf16_`.
+  bool AppendUtf16(std::size_t units, std::vector<char>& texts);
+
+  struct CloseConverter {
+    void operator()(UConverter* converter) const;
+  };
+  std::u16string utf16_;
+  std::unique_ptr<UConverter, CloseConverter> converter_;
+  const char* codePage_ = nullptr;
+};
+
+}  // namespace AdvancedControl

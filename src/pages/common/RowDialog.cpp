@@ -98,16 +98,16 @@ const NotificationMap& RowDialog::Notifications() const {
 }
 
 void RowDialog::DoDataExchange() {
-  for (const auto& row : rows_) row->Bind();
+  rowsByControl_.clear();
+  for (const auto& row : rows_) {
+    row->Bind();
+    for (const int id : row->Controls()) rowsByControl_.try_emplace(GetDlgItem(id), row.get());
+  }
 }
 
 RowView* RowDialog::RowOf(const QWidget* control) const {
-  if (control == nullptr) return nullptr;
-  const auto found = std::ranges::find_if(rows_, [this, control](const auto& row) {
-    return std::ranges::any_of(row->Controls(),
-                               [this, control](int id) { return GetDlgItem(id) == control; });
-  });
-  return found == rows_.end() ? nullptr : found->get();
+  const auto found = rowsByControl_.find(control);
+  return found == rowsByControl_.end() ? nullptr : found->second;
 }
 
 bool RowDialog::OnInitDialog() {

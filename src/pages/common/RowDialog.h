@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <optional>
+#include <unordered_map>
 #include <vector>
 
 #include "AdvancedControlExport.h"
@@ -80,6 +81,7 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog, private RowHost
 
   const PageTable& table_;
   const PageReader::Rows rows_;  // in the table's order
+  std::unordered_map<const QWidget*, RowView*> rowsByControl_;
   mutable std::optional<NotificationMap> notifications_;
   PageReader reader_;
   RowMenus menus_;

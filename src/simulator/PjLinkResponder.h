@@ -26,6 +26,10 @@ PROJECTOR_COMMON_EXPORT std::vector<ServedInput> InputsOf(const SourceList& sour
 struct ServedProjector {
   int protocolClass = 2;  ///< 1 or 2.
   std::vector<ServedInput> inputs{};
+  /// Six digits, as `ERST` yields them; empty for what the projector's error status says.
+  std::string errors{};
+  /// Of the lamps after the first.
+  std::vector<int> moreLampHours{};
   /// What the commands that yield a text answer; UTF-8, cut where the standard bounds it.
   std::map<std::string, std::string, std::less<>> texts{
       {"NAME", "Simulated projector"},

@@ -190,10 +190,11 @@ void SimulatedProjector::SetPowerTimes(std::chrono::milliseconds warmUp,
 
 bool SimulatedProjector::SwitchPower(bool on) {
   const Slot* const power = SlotOf(SettingId::Power);
-  if (!power || switchedAt_) return false;
+  if (!power) return false;
   const int wanted = on ? kOn : kStandby;
   int& state = values_[power->index];
   if (state == wanted) return true;
+  if (switchedAt_) return false;
   state = on ? kOn : kCoolingDown;
   switchedAt_ = Clock::now() + (on ? warmUp_ : coolDown_);
   return true;

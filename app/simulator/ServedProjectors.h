@@ -9,22 +9,19 @@
 #include <QJsonObject>
 
 #include "app/profiles/ProfileFile.h"
+#include "app/simulator/ControlServer.h"
+#include "app/simulator/Faults.h"
 #include "simulator/FaultChannel.h"
 #include "simulator/PjLinkServer.h"
 #include "simulator/WireServer.h"
-
-/// What goes wrong: in the projector, or on the way from it.
-struct ServiceFault {
-  Fault::Kind projector = Fault::Kind::None;
-  LineFault line{};
-};
 
 struct ServiceOptions {
   QHostAddress address{QHostAddress::LocalHost};
   std::uint16_t firstPort = 0;  ///< 0 takes free ports.
   std::string password;         ///< Of PJLink; empty for none.
   bool serial = false;          ///< On pseudo terminals too.
-  ServiceFault fault{};
+  std::vector<FaultShare> faults;
+  std::uint64_t seed = 1;  ///< Of the shares.
 };
 
 /// A projector with everything that it can be reached through.
@@ -39,13 +36,13 @@ struct Service {
 };
 
 /// The projectors of a profile file, served while the event loop runs.
-class ServedProjectors {
+class ServedProjectors final : public ControlledProjectors {
  public:
   /// Serves `profiles`; `ErrorText` says what went wrong.
   ServedProjectors(const std::vector<ProjectorProfile>& profiles, const ServiceOptions& options);
 
   const QString& ErrorText() const { return error_; }
-  std::size_t Count() const { return services_.size(); }
+  std::size_t Count() const override { return services_.size(); }
 
   /// One line for each way to each projector: its name, a colon, an address.
   std::string Addresses() const;
@@ -53,7 +50,7 @@ class ServedProjectors {
   /// A profile file for these projectors, made of the one that they came from.
   QByteArray Profiles(const QByteArray& original) const;
 
-  void SetFault(std::size_t projector, const ServiceFault& fault);
+  void SetFault(std::size_t projector, const ServiceFault& fault) override;
 
  private:
   bool Serve(const ProjectorProfile& profile);

@@ -30,6 +30,8 @@ PjLinkProjectorSession::PjLinkProjectorSession(PjLinkResponder& responder,
   greeting_ = PjLink::FormatGreeting(seed) + '\r';
 }
 
+void PjLinkProjectorSession::Add(std::string_view bytes) { reader_.Add(bytes); }
+
 std::optional<PjLinkProjectorSession::Exchange> PjLinkProjectorSession::Next() {
   if (isOver_) return std::nullopt;
   auto line = reader_.Next();

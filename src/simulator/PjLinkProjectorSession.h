@@ -4,13 +4,14 @@
 #include <string>
 #include <string_view>
 
+#include "ProjectorCommonExport.h"
 #include "device/PjLinkReader.h"
 #include "simulator/PjLinkResponder.h"
 
 inline namespace AdvancedControl {
 
 /// The projector's end of one PJLink session, without a socket: greeting, password, requests.
-class PjLinkProjectorSession {
+class PROJECTOR_COMMON_EXPORT PjLinkProjectorSession {
  public:
   /// `responder` must live as long as this. An empty password: none is wanted.
   PjLinkProjectorSession(PjLinkResponder& responder, std::string_view password);
@@ -18,7 +19,7 @@ class PjLinkProjectorSession {
   /// What the projector sends first, with its end.
   const std::string& Greeting() const { return greeting_; }
 
-  void Add(std::string_view bytes) { reader_.Add(bytes); }
+  void Add(std::string_view bytes);
 
   struct Exchange {
     std::string request;  ///< Without its end and without what proves the password.

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "ProjectorCommonExport.h"
@@ -54,6 +55,9 @@ class PROJECTOR_COMMON_EXPORT PjLinkResponder {
   /// The reply to a request, without its end of line; nothing when `text` is no request.
   std::optional<std::string> Answer(std::string_view text);
 
+  /// Six digits instead of `ServedProjector::errors`.
+  void SetErrors(std::string digits) { served_.errors = std::move(digits); }
+
  private:
   struct Command;
   static const Command kCommands[];
@@ -82,5 +86,5 @@ class PROJECTOR_COMMON_EXPORT PjLinkResponder {
   std::string InputName(std::string_view code) const;
 
   const std::shared_ptr<ProjectorChannel> projector_;
-  const ServedProjector served_;
+  ServedProjector served_;
 };

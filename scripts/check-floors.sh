@@ -11,6 +11,7 @@ declare -A below=(
   [settings]="device"
   [i18n]="toolkit"
   [snapshots]="device settings i18n"
+  [fleet]="device simulator settings i18n snapshots"
   [resources]="toolkit settings"
   [pages]="toolkit device settings i18n resources"
   [host]="toolkit device settings i18n resources pages"

@@ -6,7 +6,7 @@
 #include <QCoreApplication>
 #include <QJsonObject>
 
-#include "app/desktop/profiles/JsonEdit.h"
+#include "fleet/JsonEdit.h"
 #include "app/profiles/ProfileFile.h"
 
 /// The profile file that the program works on, and changes to it. A change is written at once and

@@ -673,8 +673,8 @@
         <translation>缺少“%1”</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is the name of projectors[%2] too</source>
-        <translation>“%1”与 projectors[%2] 重名</translation>
+        <source>&quot;%1&quot; is the %2 of projectors[%3] too</source>
+        <translation>“%1”也是 projectors[%3] 的 %2</translation>
     </message>
     <message>
         <source>there is no projector</source>

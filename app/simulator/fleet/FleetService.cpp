@@ -10,7 +10,7 @@
 #include <QRegularExpression>
 
 #include "app/profiles/ProfileFile.h"
-#include "app/profiles/WholeFile.h"
+#include "fleet/WholeFile.h"
 
 namespace {
 

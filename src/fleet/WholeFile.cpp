@@ -1,4 +1,4 @@
-#include "app/profiles/WholeFile.h"
+#include "fleet/WholeFile.h"
 
 #include <algorithm>
 #include <array>
@@ -15,6 +15,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
+
+inline namespace AdvancedControl {
 
 // Plain system calls: QSaveFile does not tell when a file could not be brought to the disk, and
 // takes a name only by replacing whoever has it. Where a function fails, errno says why.
@@ -221,3 +223,5 @@ FileBytes ReadToEnd(const QString& path, qsizetype most) {
   }
   return {bytes, file.IsOpen() ? QString() : qt_error_string(errno)};
 }
+
+}  // namespace AdvancedControl

@@ -1,4 +1,4 @@
-#include "app/profiles/JsonLines.h"
+#include "fleet/JsonLines.h"
 
 #include <algorithm>
 
@@ -6,6 +6,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QSet>
+
+inline namespace AdvancedControl {
 
 namespace {
 
@@ -60,9 +62,9 @@ std::optional<JsonLines::Fault> StringFault(const QByteArray& text, qsizetype& a
 
 }  // namespace
 
-std::optional<JsonLines::Fault> JsonLines::FaultOf(const QByteArray& text) {
-  if (text.size() > kMaximumBytes) {
-    return Fault{0, tr("more than %1 bytes").arg(kMaximumBytes)};
+std::optional<JsonLines::Fault> JsonLines::FaultOf(const QByteArray& text, const Limits& limits) {
+  if (text.size() > limits.bytes) {
+    return Fault{0, tr("more than %1 bytes").arg(limits.bytes)};
   }
   int depth = 0;
   int values = 1;
@@ -79,8 +81,8 @@ std::optional<JsonLines::Fault> JsonLines::FaultOf(const QByteArray& text) {
     if (depth > kMaximumDepth) {
       return Fault{at, tr("nested more than %1 deep").arg(kMaximumDepth)};
     }
-    if (values > kMaximumValues) {
-      return Fault{at, tr("more than %1 values").arg(kMaximumValues)};
+    if (values > limits.values) {
+      return Fault{at, tr("more than %1 values").arg(limits.values)};
     }
     ++at;
   }
@@ -222,3 +224,5 @@ JsonLines::Place JsonLines::PlaceOf(const QByteArray& text, qsizetype offset) {
   return {static_cast<int>(before.count('\n')) + 1,
           static_cast<int>(QString::fromUtf8(line).size()) + 1};
 }
+
+}  // namespace AdvancedControl

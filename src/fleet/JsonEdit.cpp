@@ -1,4 +1,4 @@
-#include "app/desktop/profiles/JsonEdit.h"
+#include "fleet/JsonEdit.h"
 
 #include <algorithm>
 
@@ -6,6 +6,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+
+inline namespace AdvancedControl {
 
 namespace JsonEdit {
 
@@ -181,6 +183,14 @@ QByteArray TextAt(const QByteArray& text, const Path& path) {
   return text.mid(begin, EndOfValue(text, begin) - begin);
 }
 
+std::vector<Extent> Elements(const QByteArray& text, const Path& path) {
+  std::vector<Extent> elements;
+  for (const Child& child : ChildrenOf(text, BeginOf(text, path))) {
+    elements.push_back({child.begin, child.end});
+  }
+  return elements;
+}
+
 QByteArray Write(const Members& members) {
   QByteArray text = "{";
   for (const Member& member : members) {
@@ -192,3 +202,5 @@ QByteArray Write(const Members& members) {
 }
 
 }  // namespace JsonEdit
+
+}  // namespace AdvancedControl

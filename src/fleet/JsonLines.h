@@ -6,6 +6,8 @@
 #include <QCoreApplication>
 #include <QString>
 
+inline namespace AdvancedControl {
+
 /// Where each value of a JSON text stands. Paths are written "projectors[3].ranges.brightness"; the
 /// whole text has an empty one.
 class JsonLines {
@@ -13,10 +15,12 @@ class JsonLines {
 
  public:
   /// What a text may hold at most. What exceeds it is not read at all.
-  static constexpr qsizetype kMaximumBytes = qsizetype{4} << 20;
+  struct Limits {
+    qsizetype bytes = qsizetype{4} << 20;
+    int values = 100'000;
+  };
   static constexpr int kMaximumDepth = 16;
-  static constexpr int kMaximumValues = 100'000;
-  static constexpr qsizetype kMaximumStringBytes = 256;
+  static constexpr qsizetype kMaximumStringBytes = 2048;
 
   struct Fault {
     qsizetype offset;
@@ -25,7 +29,7 @@ class JsonLines {
 
   /// The first thing in a text, well-formed or not, that no reader should be given: what exceeds a
   /// limit, control characters in a string, half a surrogate pair. Takes linear time and no memory.
-  static std::optional<Fault> FaultOf(const QByteArray& text);
+  static std::optional<Fault> FaultOf(const QByteArray& text, const Limits& limits);
 
   /// `text` must be well-formed JSON without a fault, and live as long as this.
   explicit JsonLines(const QByteArray& text) : text_(text) {}
@@ -54,3 +58,5 @@ class JsonLines {
 
   const QByteArray& text_;
 };
+
+}  // namespace AdvancedControl

@@ -9,7 +9,9 @@
 #include <QString>
 #include <QStringList>
 
-#include "app/profiles/ProjectorProfile.h"
+#include "fleet/FleetProfile.h"
+
+inline namespace AdvancedControl {
 
 /// What is said about wrong profile files, in the language of the program if it has a translation.
 struct ProfileText {
@@ -22,8 +24,11 @@ struct WrongValue {
   QString message;
 };
 
-/// All keys that a family may have; an entry may have a name too.
+/// The keys that say what a model is.
+extern const QStringList kModelKeys;
+/// All keys that a family, or an entry, may have.
 extern const QStringList kFamilyKeys;
+extern const QStringList kEntryKeys;
 
 QString Text(std::string_view text);
 
@@ -33,7 +38,7 @@ QString At(const QString& path, int index);
 
 // Each of these throws `WrongValue` where what stands at `path` is not so.
 
-/// An object's keys are all among the known ones.
+/// An object's keys are all among the known ones, or begin with "x-".
 void CheckKeys(const QJsonObject& object, const QString& path, const QStringList& known);
 QJsonObject Object(const QJsonValue& value, const QString& path);
 /// Of no more than `capacity` elements.
@@ -41,8 +46,11 @@ QJsonArray Array(const QJsonValue& value, const QString& path, int capacity);
 /// Not empty; in UTF-8.
 std::string String(const QJsonValue& value, const QString& path);
 /// The connection is of the kind that the profile's link needs.
-void CheckLink(const ProjectorProfile& profile, const QString& path);
+void CheckLink(const FleetProfile& profile, const QString& path);
 
-/// Puts what a family or an entry says over what it is like. Ranges are put over each other one by
-/// one, everything else as a whole.
-void Apply(const QJsonObject& settings, const QString& path, ProjectorProfile& profile);
+/// Puts what a family or an entry says over what it is like; keys that are not theirs are passed
+/// over. Ranges are put over each other one by one, everything else as a whole.
+void ApplyModel(const QJsonObject& settings, const QString& path, ProfileModel& model);
+void ApplyProfile(const QJsonObject& settings, const QString& path, FleetProfile& profile);
+
+}  // namespace AdvancedControl

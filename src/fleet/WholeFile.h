@@ -3,6 +3,8 @@
 #include <QByteArray>
 #include <QString>
 
+inline namespace AdvancedControl {
+
 /// Who may read a file that is written.
 enum class FileAccess {
   Kept,       ///< As the file that is there; a new one as the process has it (umask).
@@ -38,3 +40,5 @@ struct FileBytes {
 /// Reads a file, a device or a pipe to its end, however slowly it is written, or its first `most`
 /// bytes. "-" is standard input, whose mode (blocking or not) is used as it is.
 FileBytes ReadToEnd(const QString& path, qsizetype most);
+
+}  // namespace AdvancedControl

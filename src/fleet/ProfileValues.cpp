@@ -1,18 +1,23 @@
-#include "app/profiles/ProfileValues.h"
+#include "fleet/ProfileValues.h"
 
 #include <algorithm>
 #include <cstdint>
 #include <limits>
 
 #include "device/HostAddress.h"
+#include "fleet/JsonLines.h"
+
+inline namespace AdvancedControl {
 
 namespace {
 
-constexpr int kNetworkKind = 1;
-constexpr int kSerialKind = 0;
 constexpr int kMaximumPort = 65535;
 constexpr int kMaximumSerialPort = 256;
 constexpr int kMaximumBaud = 4'000'000;
+constexpr int kMaximumTags = 32;
+constexpr int kMaximumLampHours = 1'000'000;
+constexpr std::size_t kLongestText = 256;
+constexpr std::size_t kLongestNotes = JsonLines::kMaximumStringBytes;
 constexpr int kMaximumDeviceValue = std::numeric_limits<std::uint16_t>::max();
 
 struct NamedLink {
@@ -82,7 +87,7 @@ QString At(const QString& path, int index) { return path + QStringLiteral("[%1]"
 
 void CheckKeys(const QJsonObject& object, const QString& path, const QStringList& known) {
   for (auto member = object.begin(); member != object.end(); ++member) {
-    if (!known.contains(member.key())) {
+    if (!known.contains(member.key()) && !member.key().startsWith(QLatin1String("x-"))) {
       throw WrongValue{At(path, member.key()),
                        ProfileText::tr("unknown key; known are %1").arg(known.join(", "))};
     }
@@ -105,21 +110,27 @@ QJsonArray Array(const QJsonValue& value, const QString& path, int capacity) {
   return array;
 }
 
-std::string String(const QJsonValue& value, const QString& path) {
-  if (!value.isString() || value.toString().isEmpty()) {
-    throw WrongValue{path, ProfileText::tr("must be a text that is not empty")};
+std::string String(const QJsonValue& value, const QString& path, std::size_t most) {
+  std::string text = value.toString().toStdString();
+  if (text.empty()) throw WrongValue{path, ProfileText::tr("must be a text that is not empty")};
+  if (text.size() > most) {
+    throw WrongValue{path, ProfileText::tr("is longer than %1 bytes").arg(most)};
   }
-  return value.toString().toStdString();
+  return text;
+}
+
+std::string String(const QJsonValue& value, const QString& path) {
+  return String(value, path, kLongestText);
 }
 
 namespace {
 
+std::string ShortText(const QJsonValue& value, const QString& path) {
+  return String(value, path, NameSlot{}.size());
+}
+
 NameSlot Slot(const QJsonValue& value, const QString& path) {
-  const std::string text = String(value, path);
-  if (text.size() > NameSlot{}.size()) {
-    throw WrongValue{path, ProfileText::tr("is longer than %1 bytes").arg(NameSlot{}.size())};
-  }
-  return MakeNameSlot(text);
+  return MakeNameSlot(ShortText(value, path));
 }
 
 std::int32_t Integer(const QJsonValue& value, const QString& path,
@@ -225,56 +236,65 @@ void ApplyRanges(const QJsonObject& ranges, const QString& path, CModelInfo2& mo
   }
 }
 
-NameSlot Device(const QJsonObject& parameters, const QString& path) {
+std::string Device(const QJsonObject& parameters, const QString& path) {
   if (!parameters.contains("device")) return {};
   const QString devicePath = At(path, "device");
   if (!parameters["device"].toString().startsWith(QLatin1Char('/'))) {
     throw WrongValue{devicePath, ProfileText::tr("must be a path that begins with /")};
   }
-  return Slot(parameters["device"], devicePath);
+  return ShortText(parameters["device"], devicePath);
 }
 
-NameSlot Address(const QJsonValue& value, const QString& path) {
-  const NameSlot address = Slot(value, path);
-  if (!IsHostAddress(NameText(address))) {
+std::string Address(const QJsonValue& value, const QString& path) {
+  std::string address = ShortText(value, path);
+  if (!IsHostAddress(address)) {
     throw WrongValue{path, ProfileText::tr("is neither the name of a host nor an IP address")};
   }
   return address;
 }
 
-void ApplyConnection(const QJsonObject& connection, const QString& path, CModelInfo2& model) {
+ProfileConnection Network(const QJsonObject& parameters, const QString& path) {
+  CheckKeys(parameters, path, {"address", "port", "secret"});
+  ProfileConnection network;
+  network.port = Integer(parameters["port"], At(path, "port"), 1, kMaximumPort);
+  network.address = Address(parameters["address"], At(path, "address"));
+  if (parameters.contains("secret")) {
+    network.secret = ShortText(parameters["secret"], At(path, "secret"));
+  }
+  return network;
+}
+
+ProfileConnection Serial(const QJsonObject& parameters, const QString& path) {
+  CheckKeys(parameters, path, {"port", "baud", "device"});
+  ProfileConnection serial{.isNetwork = false};
+  // A path needs no number beside it.
+  if (parameters.contains("port") || !parameters.contains("device")) {
+    serial.port = Integer(parameters["port"], At(path, "port"), 1, kMaximumSerialPort) - 1;
+  }
+  if (parameters.contains("baud")) {
+    serial.baud = Integer(parameters["baud"], At(path, "baud"), 1, kMaximumBaud);
+  }
+  serial.address = Device(parameters, path);
+  return serial;
+}
+
+ProfileConnection Connection(const QJsonObject& connection, const QString& path) {
   CheckKeys(connection, path, {"network", "serial"});
-  if (connection.size() != 1) {
+  const bool isNetwork = connection.contains("network");
+  if (isNetwork == connection.contains("serial")) {
     throw WrongValue{path, ProfileText::tr("must have either \"network\" or \"serial\"")};
   }
-  const QString kind = connection.begin().key();
+  const QString kind = isNetwork ? QStringLiteral("network") : QStringLiteral("serial");
   const QString kindPath = At(path, kind);
-  const QJsonObject parameters = Object(connection.begin().value(), kindPath);
-  if (kind == "network") {
-    CheckKeys(parameters, kindPath, {"address", "port", "secret"});
-    model.ConnectionKinds[0] = kNetworkKind;
-    model.ConnectionNumbers[0] = 0;
-    model.ConnectionParameters[0] =
-        Integer(parameters["port"], At(kindPath, "port"), 1, kMaximumPort);
-    model.ConnectionTexts1[0] = Address(parameters["address"], At(kindPath, "address"));
-    model.ConnectionTexts2[0] = parameters.contains("secret")
-                                    ? Slot(parameters["secret"], At(kindPath, "secret"))
-                                    : NameSlot{};
-  } else {
-    CheckKeys(parameters, kindPath, {"port", "baud", "device"});
-    model.ConnectionKinds[0] = kSerialKind;
-    // A path needs no number beside it.
-    const bool hasNumber = parameters.contains("port") || !parameters.contains("device");
-    model.ConnectionNumbers[0] =
-        hasNumber ? Integer(parameters["port"], At(kindPath, "port"), 1, kMaximumSerialPort) - 1
-                  : 0;
-    model.ConnectionParameters[0] =
-        parameters.contains("baud")
-            ? Integer(parameters["baud"], At(kindPath, "baud"), 1, kMaximumBaud)
-            : 0;
-    model.ConnectionTexts1[0] = Device(parameters, kindPath);
-    model.ConnectionTexts2[0] = {};
-  }
+  const QJsonObject parameters = Object(connection[kind], kindPath);
+  return isNetwork ? Network(parameters, kindPath) : Serial(parameters, kindPath);
+}
+
+std::vector<std::string> Tags(const QJsonValue& value, const QString& path) {
+  std::vector<std::string> tags;
+  const QJsonArray array = Array(value, path, kMaximumTags);
+  for (int i = 0; i < array.size(); ++i) tags.push_back(ShortText(array[i], At(path, i)));
+  return tags;
 }
 
 ProjectorLink Link(const QJsonValue& value, const QString& path) {
@@ -288,10 +308,10 @@ ProjectorLink Link(const QJsonValue& value, const QString& path) {
 
 }  // namespace
 
-void CheckLink(const ProjectorProfile& profile, const QString& path) {
-  if (profile.Link == ProjectorLink::Simulated) return;
-  const bool serial = profile.Link == ProjectorLink::Serial;
-  if (serial == (profile.Model.ConnectionKinds[0] == kNetworkKind)) {
+void CheckLink(const FleetProfile& profile, const QString& path) {
+  if (profile.link == ProjectorLink::Simulated) return;
+  const bool serial = profile.link == ProjectorLink::Serial;
+  if (serial == profile.connection.isNetwork) {
     throw WrongValue{
         path,
         ProfileText::tr("needs a %1 connection").arg(QLatin1String(serial ? "serial" : "network"))};
@@ -317,29 +337,49 @@ std::vector<SettingId> Lacks(const QJsonValue& value, const QString& path) {
 
 }  // namespace
 
-const QStringList kFamilyKeys{"like",    "model",      "dialogType", "modelCode", "mySources",
-                              "whisper", "aspect",     "gamma",      "colorTemp", "myButtons",
-                              "ranges",  "connection", "link",       "lacks"};
+const QStringList kModelKeys{"like",   "model",     "dialogType", "modelCode",
+                             "aspect", "mySources", "whisper",    "gamma",
+                             "ranges", "colorTemp", "myButtons",  "lacks"};
+const QStringList kFamilyKeys =
+    kModelKeys + QStringList{"connection", "link", "tags", "ratedLampHours", "snapshot"};
+const QStringList kEntryKeys = QStringList{"name"} + kFamilyKeys + QStringList{"identity", "notes"};
 
-void Apply(const QJsonObject& settings, const QString& path, ProjectorProfile& profile) {
-  CModelInfo2& model = profile.Model;
+void ApplyModel(const QJsonObject& settings, const QString& path, ProfileModel& model) {
+  CModelInfo2& info = model.info;
   for (auto member = settings.begin(); member != settings.end(); ++member) {
     const QString& key = member.key();
     const QJsonValue value = member.value();
     const QString valuePath = At(path, key);
-    if (key == "name") profile.Name = String(value, valuePath);
-    if (key == "model") model.ModelName = String(value, valuePath);
-    if (key == "dialogType") model.DialogType = Integer(value, valuePath);
-    if (key == "modelCode") model.ModelCode = Integer(value, valuePath);
-    if (key == "mySources") model.MySourceList = Sources(value, valuePath);
-    if (key == "whisper") model.WhisperList = List(value, valuePath);
-    if (key == "aspect") model.AspectList = List(value, valuePath);
-    if (key == "gamma") model.GammaList = List(value, valuePath);
-    if (key == "colorTemp") model.ColorTempList = List(value, valuePath);
-    if (key == "myButtons") model.MyButtonList = List(value, valuePath);
-    if (key == "ranges") ApplyRanges(Object(value, valuePath), valuePath, model);
-    if (key == "connection") ApplyConnection(Object(value, valuePath), valuePath, model);
-    if (key == "link") profile.Link = Link(value, valuePath);
-    if (key == "lacks") profile.Lacks = Lacks(value, valuePath);
+    if (key == "model") info.ModelName = String(value, valuePath);
+    if (key == "dialogType") info.DialogType = Integer(value, valuePath);
+    if (key == "modelCode") info.ModelCode = Integer(value, valuePath);
+    if (key == "mySources") info.MySourceList = Sources(value, valuePath);
+    if (key == "whisper") info.WhisperList = List(value, valuePath);
+    if (key == "aspect") info.AspectList = List(value, valuePath);
+    if (key == "gamma") info.GammaList = List(value, valuePath);
+    if (key == "colorTemp") info.ColorTempList = List(value, valuePath);
+    if (key == "myButtons") info.MyButtonList = List(value, valuePath);
+    if (key == "ranges") ApplyRanges(Object(value, valuePath), valuePath, info);
+    if (key == "lacks") model.lacks = Lacks(value, valuePath);
   }
 }
+
+void ApplyProfile(const QJsonObject& settings, const QString& path, FleetProfile& profile) {
+  for (auto member = settings.begin(); member != settings.end(); ++member) {
+    const QString& key = member.key();
+    const QJsonValue value = member.value();
+    const QString valuePath = At(path, key);
+    if (key == "name") profile.name = String(value, valuePath);
+    if (key == "connection") profile.connection = Connection(Object(value, valuePath), valuePath);
+    if (key == "link") profile.link = Link(value, valuePath);
+    if (key == "identity") profile.identity = String(value, valuePath);
+    if (key == "tags") profile.tags = Tags(value, valuePath);
+    if (key == "notes") profile.notes = String(value, valuePath, kLongestNotes);
+    if (key == "ratedLampHours") {
+      profile.ratedLampHours = Integer(value, valuePath, 1, kMaximumLampHours);
+    }
+    if (key == "snapshot") profile.snapshot = String(value, valuePath);
+  }
+}
+
+}  // namespace AdvancedControl

@@ -7,6 +7,8 @@
 #include <QJsonValue>
 #include <QString>
 
+inline namespace AdvancedControl {
+
 /// Changes to a well-formed JSON text that leave everything else in it as it was written. What is
 /// added is laid out like what stands beside it.
 namespace JsonEdit {
@@ -44,7 +46,16 @@ QByteArray RemoveElement(const QByteArray& text, const Path& path, qsizetype pos
 /// The text of a value.
 QByteArray TextAt(const QByteArray& text, const Path& path);
 
+/// Where each element of an array begins and ends.
+struct Extent {
+  qsizetype begin;
+  qsizetype end;
+};
+std::vector<Extent> Elements(const QByteArray& text, const Path& path);
+
 /// An object on one line.
 QByteArray Write(const Members& members);
 
 }  // namespace JsonEdit
+
+}  // namespace AdvancedControl

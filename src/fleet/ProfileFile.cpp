@@ -39,7 +39,7 @@ class FamilyTree {
  public:
   explicit FamilyTree(const QJsonObject& families) : families_(families) {
     if (families.size() > kMaximumFamilies) {
-      throw WrongValue{"families", ProfileText::tr("has %1 families; at most %2 are possible")
+      throw WrongValue{"families", ProfileFile::tr("has %1 families; at most %2 are possible")
                                        .arg(families.size())
                                        .arg(kMaximumFamilies)};
     }
@@ -64,7 +64,7 @@ class FamilyTree {
  private:
   [[noreturn]] static void ThrowTooManyLikes(const QString& path) {
     throw WrongValue{path,
-                     ProfileText::tr("leads through more than %1 families").arg(kMaximumLikes)};
+                     ProfileFile::tr("leads through more than %1 families").arg(kMaximumLikes)};
   }
 
   // `above` is the number of families and entries that wait for this one.
@@ -72,10 +72,10 @@ class FamilyTree {
     if (above > kMaximumLikes) ThrowTooManyLikes(askedAt);
     if (const auto known = drafts_.find(name); known != drafts_.end()) {
       if (known->second.has_value()) return *known->second;
-      throw WrongValue{askedAt, ProfileText::tr("makes \"%1\" like itself").arg(name)};
+      throw WrongValue{askedAt, ProfileFile::tr("makes \"%1\" like itself").arg(name)};
     }
     if (!families_.contains(name)) {
-      throw WrongValue{askedAt, ProfileText::tr("there is no family \"%1\"").arg(name)};
+      throw WrongValue{askedAt, ProfileFile::tr("there is no family \"%1\"").arg(name)};
     }
     drafts_[name] = std::nullopt;
     const QString path = At("families", name);
@@ -105,7 +105,7 @@ class ProfileReader {
     ApplyProfile(own, path, profile);
     for (const char* key : {"name", "model", "dialogType", "modelCode", "connection"}) {
       if (!own.contains(QLatin1String(key)) && !kind.keys.contains(QLatin1String(key))) {
-        throw WrongValue{path, ProfileText::tr("\"%1\" is missing").arg(key)};
+        throw WrongValue{path, ProfileFile::tr("\"%1\" is missing").arg(key)};
       }
     }
     CheckLink(profile, At(path, "link"));
@@ -140,7 +140,7 @@ class Unique {
     const auto [first, isNew] = entries_.emplace(text, entry);
     if (isNew) return;
     throw WrongValue{At(At(QStringLiteral("projectors"), entry), key_),
-                     ProfileText::tr("\"%1\" is the %2 of projectors[%3] too")
+                     ProfileFile::tr("\"%1\" is the %2 of projectors[%3] too")
                          .arg(Text(text), key_, QString::number(first->second))};
   }
 
@@ -150,13 +150,13 @@ class Unique {
 };
 
 std::vector<FleetProfile> Profiles(const QJsonDocument& document) {
-  if (!document.isObject()) throw WrongValue{{}, ProfileText::tr("the file must hold an object")};
+  if (!document.isObject()) throw WrongValue{{}, ProfileFile::tr("the file must hold an object")};
   const QJsonObject file = document.object();
   CheckKeys(file, {}, {"families", "projectors"});
   ProfileReader reader(file.contains("families") ? Object(file["families"], "families")
                                                  : QJsonObject());
   if (!file.contains("projectors"))
-    throw WrongValue{{}, ProfileText::tr("\"projectors\" is missing")};
+    throw WrongValue{{}, ProfileFile::tr("\"projectors\" is missing")};
   const QJsonArray entries = Array(file["projectors"], "projectors", kMaximumProjectors);
 
   std::vector<FleetProfile> profiles;
@@ -169,7 +169,7 @@ std::vector<FleetProfile> Profiles(const QJsonDocument& document) {
     names.Add(profiles.back().name, i);
     if (!profiles.back().identity.empty()) identities.Add(profiles.back().identity, i);
   }
-  if (profiles.empty()) throw WrongValue{"projectors", ProfileText::tr("there is no projector")};
+  if (profiles.empty()) throw WrongValue{"projectors", ProfileFile::tr("there is no projector")};
   return profiles;
 }
 
@@ -200,7 +200,7 @@ ProfileList ParseProfileList(const QByteArray& text, const QString& fileName) {
   };
   const JsonLines lines(text);
   if (const auto repeated = lines.RepeatedKey()) {
-    return wrongValue(repeated->path, repeated->line, ProfileText::tr("stands here twice"));
+    return wrongValue(repeated->path, repeated->line, ProfileFile::tr("stands here twice"));
   }
   try {
     return {.profiles = Profiles(document), .error = {}};
@@ -211,7 +211,7 @@ ProfileList ParseProfileList(const QByteArray& text, const QString& fileName) {
 
 ProfileFileText ReadProfileText(const QString& fileName) {
   const auto cannotRead = [&fileName](const QString& why) {
-    return ProfileFileText{{}, ProfileText::tr("cannot read profiles %1: %2").arg(fileName, why)};
+    return ProfileFileText{{}, ProfileFile::tr("cannot read profiles %1: %2").arg(fileName, why)};
   };
   // Opening must not wait for the other end of a pipe.
   const int descriptor =
@@ -220,7 +220,7 @@ ProfileFileText ReadProfileText(const QString& fileName) {
   struct stat status {};
   if (fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
     close(descriptor);
-    return cannotRead(ProfileText::tr("not a regular file"));
+    return cannotRead(ProfileFile::tr("not a regular file"));
   }
   QFile file;
   if (!file.open(descriptor, QFile::ReadOnly | QFile::Unbuffered, QFile::AutoCloseHandle)) {

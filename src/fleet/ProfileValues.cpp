@@ -89,32 +89,32 @@ void CheckKeys(const QJsonObject& object, const QString& path, const QStringList
   for (auto member = object.begin(); member != object.end(); ++member) {
     if (!known.contains(member.key()) && !member.key().startsWith(QLatin1String("x-"))) {
       throw WrongValue{At(path, member.key()),
-                       ProfileText::tr("unknown key; known are %1").arg(known.join(", "))};
+                       ProfileFile::tr("unknown key; known are %1").arg(known.join(", "))};
     }
   }
 }
 
 QJsonObject Object(const QJsonValue& value, const QString& path) {
-  if (!value.isObject()) throw WrongValue{path, ProfileText::tr("must be an object")};
+  if (!value.isObject()) throw WrongValue{path, ProfileFile::tr("must be an object")};
   return value.toObject();
 }
 
 QJsonArray Array(const QJsonValue& value, const QString& path, int capacity) {
-  if (!value.isArray()) throw WrongValue{path, ProfileText::tr("must be an array")};
+  if (!value.isArray()) throw WrongValue{path, ProfileFile::tr("must be an array")};
   QJsonArray array = value.toArray();
   if (array.size() > capacity) {
     throw WrongValue{
         path,
-        ProfileText::tr("has %1 entries; at most %2 are possible").arg(array.size()).arg(capacity)};
+        ProfileFile::tr("has %1 entries; at most %2 are possible").arg(array.size()).arg(capacity)};
   }
   return array;
 }
 
 std::string String(const QJsonValue& value, const QString& path, std::size_t most) {
   std::string text = value.toString().toStdString();
-  if (text.empty()) throw WrongValue{path, ProfileText::tr("must be a text that is not empty")};
+  if (text.empty()) throw WrongValue{path, ProfileFile::tr("must be a text that is not empty")};
   if (text.size() > most) {
-    throw WrongValue{path, ProfileText::tr("is longer than %1 bytes").arg(most)};
+    throw WrongValue{path, ProfileFile::tr("is longer than %1 bytes").arg(most)};
   }
   return text;
 }
@@ -139,11 +139,11 @@ std::int32_t Integer(const QJsonValue& value, const QString& path,
   const double number = value.toDouble(0.5);
   const auto integer = static_cast<qint64>(std::clamp(number, -1e10, 1e10));
   if (!value.isDouble() || static_cast<double>(integer) != number) {
-    throw WrongValue{path, ProfileText::tr("must be a whole number")};
+    throw WrongValue{path, ProfileFile::tr("must be a whole number")};
   }
   if (integer < minimum || integer > maximum) {
     throw WrongValue{
-        path, ProfileText::tr("is %1; it must be %2 to %3").arg(integer).arg(minimum).arg(maximum)};
+        path, ProfileFile::tr("is %1; it must be %2 to %3").arg(integer).arg(minimum).arg(maximum)};
   }
   return static_cast<std::int32_t>(integer);
 }
@@ -171,7 +171,7 @@ CountedList List(const QJsonValue& value, const QString& path) {
       list.values[index] = DeviceValue(object["value"], At(entryPath, "value"));
       list.names[index] = Slot(object["name"], At(entryPath, "name"));
     } else {
-      throw WrongValue{entryPath, ProfileText::tr("must be a number, a text or an object with "
+      throw WrongValue{entryPath, ProfileFile::tr("must be a number, a text or an object with "
                                                   "\"value\" and \"name\"")};
     }
   }
@@ -202,13 +202,13 @@ std::size_t RangeNumber(const QString& key, const QString& path) {
   bool isNumber = false;
   const std::size_t index = key.toULongLong(&isNumber);
   if (!isNumber || index >= RangeIndex::Count || key != QString::number(index)) {
-    throw WrongValue{path, ProfileText::tr("is neither the name of a range nor a number 0 to %1")
+    throw WrongValue{path, ProfileFile::tr("is neither the name of a range nor a number 0 to %1")
                                .arg(RangeIndex::Count - 1)};
   }
   named = std::ranges::find(kNamedRanges, index, &NamedRange::index);
   if (named != std::end(kNamedRanges)) {
     throw WrongValue{path,
-                     ProfileText::tr("must be given by its name \"%1\"").arg(Text(named->name))};
+                     ProfileFile::tr("must be given by its name \"%1\"").arg(Text(named->name))};
   }
   return index;
 }
@@ -223,14 +223,14 @@ void ApplyRanges(const QJsonObject& ranges, const QString& path, CModelInfo2& mo
     }
     const QJsonArray ends = member.value().toArray();
     if (ends.size() != 2) {
-      throw WrongValue{rangePath, ProfileText::tr("must be [minimum, maximum] or null")};
+      throw WrongValue{rangePath, ProfileFile::tr("must be [minimum, maximum] or null")};
     }
     // Ends below zero are for settings whose device values are signed.
     constexpr int kLowest = std::numeric_limits<std::int16_t>::min();
     const auto minimum = Integer(ends[0], At(rangePath, 0), kLowest, kMaximumDeviceValue);
     const auto maximum = Integer(ends[1], At(rangePath, 1), kLowest, kMaximumDeviceValue);
     if (minimum > maximum) {
-      throw WrongValue{rangePath, ProfileText::tr("has a minimum above its maximum")};
+      throw WrongValue{rangePath, ProfileFile::tr("has a minimum above its maximum")};
     }
     text = std::to_string(minimum) + ',' + std::to_string(maximum);
   }
@@ -240,7 +240,7 @@ std::string Device(const QJsonObject& parameters, const QString& path) {
   if (!parameters.contains("device")) return {};
   const QString devicePath = At(path, "device");
   if (!parameters["device"].toString().startsWith(QLatin1Char('/'))) {
-    throw WrongValue{devicePath, ProfileText::tr("must be a path that begins with /")};
+    throw WrongValue{devicePath, ProfileFile::tr("must be a path that begins with /")};
   }
   return ShortText(parameters["device"], devicePath);
 }
@@ -248,7 +248,7 @@ std::string Device(const QJsonObject& parameters, const QString& path) {
 std::string Address(const QJsonValue& value, const QString& path) {
   std::string address = ShortText(value, path);
   if (!IsHostAddress(address)) {
-    throw WrongValue{path, ProfileText::tr("is neither the name of a host nor an IP address")};
+    throw WrongValue{path, ProfileFile::tr("is neither the name of a host nor an IP address")};
   }
   return address;
 }
@@ -282,7 +282,7 @@ ProfileConnection Connection(const QJsonObject& connection, const QString& path)
   CheckKeys(connection, path, {"network", "serial"});
   const bool isNetwork = connection.contains("network");
   if (isNetwork == connection.contains("serial")) {
-    throw WrongValue{path, ProfileText::tr("must have either \"network\" or \"serial\"")};
+    throw WrongValue{path, ProfileFile::tr("must have either \"network\" or \"serial\"")};
   }
   const QString kind = isNetwork ? QStringLiteral("network") : QStringLiteral("serial");
   const QString kindPath = At(path, kind);
@@ -301,7 +301,7 @@ ProjectorLink Link(const QJsonValue& value, const QString& path) {
   const std::string name = String(value, path);
   const auto* known = std::ranges::find(kLinks, name, &NamedLink::name);
   if (known == std::end(kLinks)) {
-    throw WrongValue{path, ProfileText::tr("must be simulated, network, serial or pjlink")};
+    throw WrongValue{path, ProfileFile::tr("must be simulated, network, serial or pjlink")};
   }
   return known->link;
 }
@@ -314,7 +314,7 @@ void CheckLink(const FleetProfile& profile, const QString& path) {
   if (serial == profile.connection.isNetwork) {
     throw WrongValue{
         path,
-        ProfileText::tr("needs a %1 connection").arg(QLatin1String(serial ? "serial" : "network"))};
+        ProfileFile::tr("needs a %1 connection").arg(QLatin1String(serial ? "serial" : "network"))};
   }
 }
 
@@ -328,7 +328,7 @@ std::vector<SettingId> Lacks(const QJsonValue& value, const QString& path) {
     const auto settings = SettingsTable();
     const auto setting = std::ranges::find(settings, name, &Setting::name);
     if (setting == settings.end()) {
-      throw WrongValue{At(path, i), ProfileText::tr("there is no setting \"%1\"").arg(Text(name))};
+      throw WrongValue{At(path, i), ProfileFile::tr("there is no setting \"%1\"").arg(Text(name))};
     }
     lacks.push_back(setting->id);
   }

@@ -14,7 +14,7 @@
 inline namespace AdvancedControl {
 
 /// What is said about wrong profile files, in the language of the program if it has a translation.
-struct ProfileText {
+struct ProfileFile {
   Q_DECLARE_TR_FUNCTIONS(ProfileFile)
 };
 

@@ -188,6 +188,11 @@ std::string FleetProjectors::SerialOf(std::size_t projector) {
   return "SIM" + std::to_string(100'000 + projector + 1);
 }
 
+std::string FleetProjectors::IdentityOf(std::size_t projector) const {
+  if (projectors_[projector].protocolClass < 2) return "id:" + SerialOf(projector);
+  return "serial:Advanced Control/" + SerialOf(projector);
+}
+
 std::string AddressText(std::uint32_t address) {
   constexpr unsigned kByte = 0xFF;
   std::string text;

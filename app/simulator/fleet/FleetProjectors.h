@@ -84,6 +84,8 @@ class FleetProjectors {
   /// "02:00:00:00:00:01", the same wherever it is.
   static std::string MacOf(std::size_t projector);
   static std::string SerialOf(std::size_t projector);
+  /// As a profile has it.
+  std::string IdentityOf(std::size_t projector) const;
 
  private:
   void Make(std::size_t index, const Options& options,

@@ -55,6 +55,7 @@ std::string FleetService::Addresses() const {
 }
 
 QByteArray FleetService::Profiles(const QByteArray& original) const {
+  constexpr std::size_t kInABuilding = 100;
   QJsonObject file = QJsonDocument::fromJson(original).object();
   QJsonObject originals;
   for (const auto& value : file["projectors"].toArray()) {
@@ -74,6 +75,8 @@ QByteArray FleetService::Profiles(const QByteArray& original) const {
     entry["name"] = QString::fromStdString(projector.name);
     entry["link"] = isPjLink ? QStringLiteral("pjlink") : QStringLiteral("network");
     entry["connection"] = QJsonObject{{"network", network}};
+    entry["identity"] = QString::fromStdString(projectors_.IdentityOf(i));
+    entry["tags"] = QJsonArray{QStringLiteral("Building %1").arg(i / kInABuilding + 1)};
     // The projector tells them, with PJLink's numbers.
     if (isPjLink) entry["mySources"] = QJsonArray();
     entries.append(entry);

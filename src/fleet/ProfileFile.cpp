@@ -240,4 +240,25 @@ ProfileList ReadProfileList(const QString& fileName) {
   return file.error.isEmpty() ? ParseProfileList(file.text, fileName) : Wrong(file.error);
 }
 
+class ProfileChecker::Reader : public ProfileReader {
+ public:
+  using ProfileReader::ProfileReader;
+};
+
+ProfileChecker::ProfileChecker(const QByteArray& text)
+    : reader_(
+          std::make_unique<Reader>(QJsonDocument::fromJson(text).object()["families"].toObject())) {
+}
+
+ProfileChecker::~ProfileChecker() = default;
+
+QString ProfileChecker::Check(const QJsonObject& entry) {
+  try {
+    reader_->Read(entry, {});
+    return {};
+  } catch (const WrongValue& wrong) {
+    return wrong.path.isEmpty() ? wrong.message : wrong.path + QStringLiteral(": ") + wrong.message;
+  }
+}
+
 }  // namespace AdvancedControl

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <memory>
 #include <vector>
 
 #include <QByteArray>
+#include <QJsonObject>
 #include <QString>
 
 #include "fleet/FleetProfile.h"
@@ -34,5 +36,22 @@ ProfileList ReadProfileList(const QString& fileName);
 
 /// The same from a text; `fileName` stands in error messages.
 ProfileList ParseProfileList(const QByteArray& text, const QString& fileName);
+
+/// Says what would be wrong with an entry of a file.
+class ProfileChecker {
+ public:
+  /// `text` must be a profile file without an error, or one that lacks projectors alone.
+  explicit ProfileChecker(const QByteArray& text);
+  ~ProfileChecker();
+  ProfileChecker(const ProfileChecker&) = delete;
+  ProfileChecker& operator=(const ProfileChecker&) = delete;
+
+  /// One line; empty when all is well. What other entries say is not looked at.
+  QString Check(const QJsonObject& entry);
+
+ private:
+  class Reader;
+  std::unique_ptr<Reader> reader_;
+};
 
 }  // namespace AdvancedControl

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <map>
 #include <optional>
-#include <unordered_map>
 #include <utility>
 
 #include <QCoreApplication>
@@ -12,6 +11,7 @@
 #include <QJsonObject>
 #include <QRegularExpression>
 
+#include "fleet/CsvColumn.h"
 #include "fleet/ProfileEdits.h"
 #include "fleet/ProfileFile.h"
 
@@ -23,80 +23,7 @@ struct ProfileCsv {
   Q_DECLARE_TR_FUNCTIONS(ProfileCsv)
 };
 
-enum class Column {
-  Name,
-  Address,
-  Port,
-  Link,
-  Password,
-  Family,
-  Model,
-  Identity,
-  Serial,
-  Mac,
-  Tags,
-  Notes,
-  RatedLampHours,
-  Snapshot,
-};
-
-struct Heading {
-  QStringView text;  ///< In lower case, letters and digits alone.
-  Column column;
-};
-
-// The first of each column is the one that is written.
-constexpr Heading kHeadings[] = {
-    {u"name", Column::Name},
-    {u"projector", Column::Name},
-    {u"projectorname", Column::Name},
-    {u"devicename", Column::Name},
-    {u"address", Column::Address},
-    {u"ip", Column::Address},
-    {u"ipaddress", Column::Address},
-    {u"host", Column::Address},
-    {u"hostname", Column::Address},
-    {u"port", Column::Port},
-    {u"tcpport", Column::Port},
-    {u"link", Column::Link},
-    {u"protocol", Column::Link},
-    {u"password", Column::Password},
-    {u"secret", Column::Password},
-    {u"family", Column::Family},
-    {u"like", Column::Family},
-    {u"model", Column::Model},
-    {u"modelname", Column::Model},
-    {u"identity", Column::Identity},
-    {u"id", Column::Identity},
-    {u"serial", Column::Serial},
-    {u"serialnumber", Column::Serial},
-    {u"mac", Column::Mac},
-    {u"macaddress", Column::Mac},
-    {u"tags", Column::Tags},
-    {u"tag", Column::Tags},
-    {u"group", Column::Tags},
-    {u"location", Column::Tags},
-    {u"site", Column::Tags},
-    {u"building", Column::Tags},
-    {u"room", Column::Tags},
-    {u"notes", Column::Notes},
-    {u"note", Column::Notes},
-    {u"comment", Column::Notes},
-    {u"remarks", Column::Notes},
-    {u"description", Column::Notes},
-    {u"ratedlamphours", Column::RatedLampHours},
-    {u"lamplife", Column::RatedLampHours},
-    {u"snapshot", Column::Snapshot},
-};
-
 constexpr QChar kTagSeparator = u'|';
-
-std::optional<Column> ColumnOf(const QString& heading) {
-  QString plain = heading.toLower();
-  plain.removeIf([](QChar c) { return !c.isLetterOrNumber(); });
-  const auto* const found = std::ranges::find(kHeadings, QStringView(plain), &Heading::text);
-  return found == std::end(kHeadings) ? std::nullopt : std::optional(found->column);
-}
 
 /// Thrown for a row that cannot be taken.
 struct WrongRow {
@@ -104,24 +31,25 @@ struct WrongRow {
 };
 
 /// The cells of a row by their meaning; empty ones tell nothing. Several columns may be tags.
-using Cells = std::map<Column, QStringList>;
+using Cells = std::map<CsvColumn, QStringList>;
 
-QString One(const Cells& cells, Column column) {
+QString One(const Cells& cells, CsvColumn column) {
   const auto found = cells.find(column);
   return found == cells.end() ? QString() : found->second.first();
 }
 
 QString Identity(const Cells& cells) {
-  if (const QString identity = One(cells, Column::Identity); !identity.isEmpty()) return identity;
-  if (const QString serial = One(cells, Column::Serial); !serial.isEmpty()) {
+  if (const QString identity = One(cells, CsvColumn::Identity); !identity.isEmpty())
+    return identity;
+  if (const QString serial = One(cells, CsvColumn::Serial); !serial.isEmpty()) {
     return QStringLiteral("serial:") + serial;
   }
-  QString mac = One(cells, Column::Mac).toLower();
+  QString mac = One(cells, CsvColumn::Mac).toLower();
   if (mac.isEmpty()) return {};
   mac.replace(QLatin1Char('-'), QLatin1Char(':'));
   static const QRegularExpression kMac(QStringLiteral("^([0-9a-f]{2}:){5}[0-9a-f]{2}$"));
   if (!kMac.match(mac).hasMatch()) {
-    throw WrongRow{ProfileCsv::tr("\"%1\" is no MAC number").arg(One(cells, Column::Mac))};
+    throw WrongRow{ProfileCsv::tr("\"%1\" is no MAC number").arg(One(cells, CsvColumn::Mac))};
   }
   return QStringLiteral("mac:") + mac;
 }
@@ -143,10 +71,10 @@ struct Reached {
 
 // An address as people write it, with its port in it or in a column of its own.
 Reached Reach(const Cells& cells) {
-  const QString address = One(cells, Column::Address);
-  const QString port = One(cells, Column::Port);
+  const QString address = One(cells, CsvColumn::Address);
+  const QString port = One(cells, CsvColumn::Port);
   QString link;
-  if (const QString text = One(cells, Column::Link); !text.isEmpty()) {
+  if (const QString text = One(cells, CsvColumn::Link); !text.isEmpty()) {
     const auto known = LinkOf(text);
     if (!known) throw WrongRow{ProfileCsv::tr("\"%1\" is no link").arg(text)};
     link = *known;
@@ -162,7 +90,7 @@ Reached Reach(const Cells& cells) {
     if (link == QLatin1String("network")) text.prepend(QLatin1String("tcp://"));
   }
   const ProjectorAddress parsed =
-      ParseAddress(text.toStdString(), One(cells, Column::Password).toStdString());
+      ParseAddress(text.toStdString(), One(cells, CsvColumn::Password).toStdString());
   if (const auto* error = std::get_if<AddressError>(&parsed)) {
     throw WrongRow{QString::fromStdString(error->text)};
   }
@@ -232,8 +160,8 @@ std::optional<std::size_t> Importer::Find(const QString& identity, const QString
 }
 
 void Importer::SetModel(const Cells& cells, bool isNew, JsonEdit::Members& members) const {
-  QString family = One(cells, Column::Family);
-  const QString model = One(cells, Column::Model);
+  QString family = One(cells, CsvColumn::Family);
+  const QString model = One(cells, CsvColumn::Model);
   for (auto known = families_.begin(); family.isEmpty() && known != families_.end(); ++known) {
     if (!model.isEmpty() && known->toObject()["model"].toString() == model) family = known.key();
   }
@@ -252,15 +180,15 @@ JsonEdit::Members Importer::Told(const Cells& cells, bool isNew) const {
   const auto tell = [&members](const char* key, const QString& text) {
     if (!text.isEmpty()) members.push_back({key, text});
   };
-  tell("name", One(cells, Column::Name));
+  tell("name", One(cells, CsvColumn::Name));
   tell("identity", Identity(cells));
   SetModel(cells, isNew, members);
-  if (!One(cells, Column::Address).isEmpty()) {
+  if (!One(cells, CsvColumn::Address).isEmpty()) {
     const Reached reached = Reach(cells);
     members.push_back({"link", reached.link});
     members.push_back({"connection", ConnectionValue(reached.connection)});
   }
-  if (const auto tags = cells.find(Column::Tags); tags != cells.end()) {
+  if (const auto tags = cells.find(CsvColumn::Tags); tags != cells.end()) {
     QJsonArray all;
     for (const QString& cell : tags->second) {
       for (const QString& tag : cell.split(kTagSeparator, Qt::SkipEmptyParts)) {
@@ -269,21 +197,21 @@ JsonEdit::Members Importer::Told(const Cells& cells, bool isNew) const {
     }
     members.push_back({"tags", all});
   }
-  QString notes = One(cells, Column::Notes);
+  QString notes = One(cells, CsvColumn::Notes);
   tell("notes", notes.replace(QLatin1Char('\n'), QLatin1Char(' ')));
-  if (const QString hours = One(cells, Column::RatedLampHours); !hours.isEmpty()) {
+  if (const QString hours = One(cells, CsvColumn::RatedLampHours); !hours.isEmpty()) {
     bool isNumber = false;
     const int number = hours.toInt(&isNumber);
     if (!isNumber) throw WrongRow{ProfileCsv::tr("\"%1\" is no number of hours").arg(hours)};
     members.push_back({"ratedLampHours", number});
   }
-  tell("snapshot", One(cells, Column::Snapshot));
+  tell("snapshot", One(cells, CsvColumn::Snapshot));
   return members;
 }
 
 // Whether the projector is new.
 bool Importer::Take(const Cells& cells) {
-  const QString name = One(cells, Column::Name);
+  const QString name = One(cells, CsvColumn::Name);
   const auto known = Find(Identity(cells), name);
   const JsonEdit::Members members = Told(cells, !known);
   QJsonObject entry = known ? entries_[*known] : QJsonObject();
@@ -324,9 +252,9 @@ bool Importer::Take(const Cells& cells) {
 
 CsvImport Importer::Import(const CsvTable& table) {
   CsvImport result{.text = {}, .faults = table.faults};
-  std::vector<std::optional<Column>> columns;
+  std::vector<std::optional<CsvColumn>> columns;
   for (const QString& heading : table.header) {
-    columns.push_back(ColumnOf(heading));
+    columns.push_back(CsvColumnOf(heading));
     if (!columns.back() && !heading.isEmpty()) result.unused.append(heading);
   }
   for (const CsvRow& row : table.rows) {
@@ -351,7 +279,7 @@ CsvImport Importer::Import(const CsvTable& table) {
 CsvImport ImportCsv(const QByteArray& profiles, const QByteArray& csv) {
   const CsvTable table = ParseCsv(csv);
   const bool hasNames = std::ranges::any_of(
-      table.header, [](const QString& heading) { return ColumnOf(heading) == Column::Name; });
+      table.header, [](const QString& heading) { return CsvColumnOf(heading) == CsvColumn::Name; });
   if (!hasNames) {
     const bool isHeader = !table.header.isEmpty();
     return {.text = profiles,

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+#include <limits>
 #include <string>
 #include <string_view>
 
@@ -45,11 +47,16 @@ QJsonObject Object(const QJsonValue& value, const QString& path);
 QJsonArray Array(const QJsonValue& value, const QString& path, int capacity);
 /// Not empty; in UTF-8.
 std::string String(const QJsonValue& value, const QString& path);
+/// A whole number within these bounds.
+std::int32_t Integer(const QJsonValue& value, const QString& path,
+                     std::int32_t minimum = std::numeric_limits<std::int32_t>::min(),
+                     std::int32_t maximum = std::numeric_limits<std::int32_t>::max());
 /// The connection is of the kind that the profile's link needs.
 void CheckLink(const FleetProfile& profile, const QString& path);
 
 /// Puts what a family or an entry says over what it is like; keys that are not theirs are passed
 /// over. Ranges are put over each other one by one, everything else as a whole.
+void ApplyRanges(const QJsonObject& ranges, const QString& path, CModelInfo2& model);
 void ApplyModel(const QJsonObject& settings, const QString& path, ProfileModel& model);
 void ApplyProfile(const QJsonObject& settings, const QString& path, FleetProfile& profile);
 

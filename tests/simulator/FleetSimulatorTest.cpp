@@ -93,6 +93,28 @@ TEST_F(FleetSimulator, ProjectorsDifferAndAreTheSameForTheSameSeed) {
   EXPECT_NE(everything(), first);
 }
 
+TEST_F(FleetSimulator, AnswersOnTheWireToo) {
+  Start({});
+  QTcpSocket wire;
+  wire.connectToHost(AddressOf(6), simulator_->Address("tcp").section(':', -1).toUShort());
+  const auto exchange = [&wire](const char* sent, qsizetype size) {
+    wire.write(QByteArray::fromHex(sent));
+    while (wire.bytesAvailable() < size && wire.waitForReadyRead(kTimeOut)) continue;
+    return wire.read(size).toHex().toStdString();
+  };
+  EXPECT_EQ(exchange("a55a010200010101b7a1", 9), "a55a0201000101cd15");
+  const char* const question =
+      "a55a0308000200d320030000000004"
+      "70";  // Brightness
+  EXPECT_EQ(exchange(question, 15),
+            "a55a0407000200000000010080"
+            "40cf");
+  EXPECT_EQ(Control("7 refuse"), "ok");
+  EXPECT_THAT(exchange(question, 15), testing::StartsWith("a55a0407000200000000000000"));
+  EXPECT_EQ(Control("7 count"),
+            "connections 1 open 1 at-once 1 requests 2 changes 0 polls 0 pause -");
+}
+
 TEST_F(FleetSimulator, AShareHasAFault) {
   Start({"--fault", "refuse 5%", "--fault", "cut 9 10%"});
   std::map<std::string, int> answers;

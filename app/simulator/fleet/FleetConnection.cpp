@@ -55,9 +55,10 @@ FleetConnection::FleetConnection(FleetProjectors& projectors, std::size_t projec
   FleetProjector& served = projectors_.At(projector);
   served.asked.CountConnection();
   if (protocol == FleetProtocol::PjLink) {
-    pjLink_ = std::make_unique<PjLinkEnd>(served.channel, projectors.Served(projector), password);
+    pjLink_ = std::make_unique<PjLinkEnd>(projectors_.ChannelOf(projector),
+                                          projectors.Served(projector), password);
   } else {
-    wire_ = std::make_unique<WireEnd>(served.channel, served.asked);
+    wire_ = std::make_unique<WireEnd>(projectors_.ChannelOf(projector), served.asked);
   }
 }
 

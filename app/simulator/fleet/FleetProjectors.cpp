@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "app/profiles/ProjectorAccess.h"
-#include "device/CommandCode.h"
+#include "device/ForwardingChannel.h"
 #include "device/PjLinkLine.h"
 
 namespace {
@@ -39,6 +39,22 @@ std::string OneError(Chance& chance) {
 }
 
 }  // namespace
+
+/// A simulation that may refuse. `FaultChannel` can do more, and is as large as a projector.
+class FleetProjector::Refusing final : public ForwardingChannel {
+ public:
+  explicit Refusing(std::shared_ptr<ProjectorChannel> inner)
+      : ForwardingChannel(std::move(inner)) {}
+
+  PjtReply Execute(const PjtCommand& command) override {
+    const bool refuses =
+        kind == Fault::Kind::Refuse || (kind == Fault::Kind::FailRead && IsRead(command.operation));
+    return refuses ? PjtReply{.result = RefusedResult(command.operation)}
+                   : Inner().Execute(command);
+  }
+
+  Fault::Kind kind = Fault::Kind::None;
+};
 
 void AskedCounts::CountConnection() {
   ++connections;
@@ -86,7 +102,7 @@ void FleetProjectors::Make(std::size_t index, const Options& options,
   std::snprintf(number.data(), number.size(), "Projector %05zu", index + 1);
   projector.name = number.data();
   projector.simulated = std::make_shared<SimulatedProjector>(std::move(layout));
-  projector.channel = projector.simulated;
+  projector.channel = std::make_shared<FleetProjector::Refusing>(projector.simulated);
   SimulatedProjector& simulated = *projector.simulated;
   simulated.SetValue(SettingId::Power, chance.Percent(kPercentOn) ? 1 : 0);
   simulated.SetValue(SettingId::LampTime, chance.Below(kMostLampHours));
@@ -104,6 +120,10 @@ void FleetProjectors::Make(std::size_t index, const Options& options,
   Move(index, options.firstAddress + static_cast<std::uint32_t>(index));
 }
 
+std::shared_ptr<ProjectorChannel> FleetProjectors::ChannelOf(std::size_t projector) const {
+  return projectors_[projector].channel;
+}
+
 std::optional<std::size_t> FleetProjectors::Find(std::uint32_t address) const {
   const auto found = projectorOfAddress_.find(address);
   return found == projectorOfAddress_.end() ? std::nullopt : std::optional(found->second);
@@ -119,13 +139,8 @@ bool FleetProjectors::Move(std::size_t projector, std::uint32_t address) {
 }
 
 void FleetProjectors::SetFault(std::size_t projector, const ServiceFault& fault) {
-  FleetProjector& target = projectors_[projector];
-  target.fault = fault;
-  target.channel = target.simulated;
-  if (fault.projector == Fault::Kind::None) return;
-  const auto faulty = std::make_shared<FaultChannel>(target.simulated);
-  faulty->SetFault(Fault{.kind = fault.projector});
-  target.channel = faulty;
+  projectors_[projector].fault = fault;
+  projectors_[projector].channel->kind = fault.projector;
 }
 
 void FleetProjectors::SetErrors(std::size_t projector, const std::string& digits) {

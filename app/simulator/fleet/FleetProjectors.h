@@ -41,7 +41,8 @@ struct FleetProjector {
   std::string errors;  ///< Six digits.
   std::vector<int> moreLampHours;
   std::shared_ptr<SimulatedProjector> simulated;
-  std::shared_ptr<ProjectorChannel> channel;  ///< The simulation, or a fault in front of it.
+  class Refusing;
+  std::shared_ptr<Refusing> channel;  ///< In front of the simulation.
   ServiceFault fault{};
   AskedCounts asked{};
   std::string told;  ///< The state of which notices were sent.
@@ -70,6 +71,8 @@ class FleetProjectors {
     return profiles_[projectors_[projector].model];
   }
 
+  /// The projector with its fault.
+  std::shared_ptr<ProjectorChannel> ChannelOf(std::size_t projector) const;
   /// Who has an address.
   std::optional<std::size_t> Find(std::uint32_t address) const;
   /// Takes a projector to an address that nobody has, or nowhere (0).

@@ -6,7 +6,7 @@
 #include <benchmark/benchmark.h>
 
 #include "bench/BenchSupport.h"
-#include "device/BoundedChannel.h"
+#include "device/channels/BoundedChannel.h"
 #include "host/CAdvanceDlg.h"
 #include "pages/common/CTabPage.h"
 

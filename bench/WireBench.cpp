@@ -10,10 +10,10 @@
 
 #include "bench/BenchSupport.h"
 #include "bench/Relay.h"
-#include "device/BoundedChannel.h"
-#include "device/ForwardingChannel.h"
 #include "device/ModelDataIntake.h"
-#include "device/TcpChannel.h"
+#include "device/channels/BoundedChannel.h"
+#include "device/channels/ForwardingChannel.h"
+#include "device/channels/TcpChannel.h"
 #include "host/CAdvanceDlg.h"
 #include "settings/PageSets.h"
 #include "simulator/SimulatedProjector.h"

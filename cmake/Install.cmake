@@ -19,22 +19,23 @@ endfunction()
 
 # What a host names: the connection and the channels to a projector, simulated or real,
 public_headers(ProjectorCommon
-  device/BoundedChannel.h
-  device/CComCtrl.h
-  device/CModelInfo.h
   device/CModelInfo2.h
   device/CPjtInterface.h
   device/CProjectorItem.h
-  device/CScheduleInfo.h
-  device/CSocketCtrl.h
-  device/CommandCode.h
   device/Connect.h
-  device/LoggingChannel.h
+  device/channels/BoundedChannel.h
+  device/channels/ForwardingChannel.h
+  device/channels/LoggingChannel.h
   simulator/FaultChannel.h
   simulator/SimulatedProjector.h
   # and what those include.
+  Namespace.h
+  device/CComCtrl.h
+  device/CModelInfo.h
+  device/CScheduleInfo.h
+  device/CSocketCtrl.h
+  device/CommandCode.h
   device/ConnectionState.h
-  device/ForwardingChannel.h
   device/ModelData.h
   device/ModelDataIntake.h
   device/ModelDataSource.h
@@ -42,7 +43,7 @@ public_headers(ProjectorCommon
   device/PjtOperation.h
   device/PjtOperations.def
   device/ProjectorChannel.h
-  device/WireFrame.h
+  device/protocol/WireFrame.h
   simulator/SettingsTable.h)
 # The catalog,
 public_headers(ProjectorSettings

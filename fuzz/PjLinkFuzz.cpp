@@ -9,9 +9,9 @@
 #include <string_view>
 
 #include "device/CommandCode.h"
-#include "device/PjLinkInputs.h"
-#include "device/PjLinkLine.h"
-#include "device/PjLinkSession.h"
+#include "device/protocol/PjLinkInputs.h"
+#include "device/protocol/PjLinkLine.h"
+#include "device/protocol/PjLinkSession.h"
 #include "fuzz/Check.h"
 #include "simulator/PjLinkResponder.h"
 
@@ -97,7 +97,7 @@ class Talk {
     const std::string_view piece = rest_.substr(0, size);
     rest_.remove_prefix(size);
     if (piece.front() == '!') session_.Connection().Closed(now_);
-    session_.Connection().Received(piece);
+    session_.Connection().Received(piece, now_);
   }
 
   std::string_view rest_;

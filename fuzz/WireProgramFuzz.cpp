@@ -9,7 +9,7 @@
 
 #include <QIODevice>
 
-#include "device/WireChannel.h"
+#include "device/channels/WireChannel.h"
 #include "fuzz/Check.h"
 
 namespace {

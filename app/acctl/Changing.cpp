@@ -24,8 +24,6 @@ struct Made {
   int code = ExitCode::Done;
 };
 
-constexpr int kMostSteps = 4096;
-
 /// Whether only the projector knows how far it can be stepped.
 bool IsUnbounded(const Target& target, const ModelSetting& setting) {
   return target.OnlySteps(setting) || (setting.IsStepped() && !setting.range);
@@ -67,12 +65,13 @@ std::vector<Change> ChangesOf(const Work& work, const Target& target, Report& re
 }
 
 /// The value that a change comes to from `present`, which is asked where it is not known; without
-/// one it is complained of. `wrong` is the exit code for a step that leads nowhere.
+/// one it is complained of. `wrong` is the exit code for a value that cannot be reached.
 std::optional<int> Aim(const Change& change, const Work& work, ProjectorAccess& projector,
                        std::optional<int> source, std::optional<int> present, int wrong,
                        Report& report) {
   const ModelSetting& setting = *change.setting;
-  if (change.typed.relative && !present) {
+  const bool isUnbounded = IsUnbounded(TargetOf(projector), setting);
+  if ((change.typed.relative || isUnbounded) && !present) {
     present = projector.Settings().Read(projector.Connection(), setting, source);
     if (!present) {
       ComplainOf(setting, projector, kNotReadable, report);
@@ -85,12 +84,18 @@ std::optional<int> Aim(const Change& change, const Work& work, ProjectorAccess& 
                         work.texts.Value(setting, *present) +
                         " is not one of: " + work.texts.Values(setting),
                     wrong);
+  } else if (isUnbounded && std::abs(*value - *present) > kMostSteps) {
+    report.Complain(std::string(setting.key) + ": '" + change.word + "' is more than " +
+                        std::to_string(kMostSteps) + " steps from " +
+                        work.texts.Value(setting, *present),
+                    wrong);
+    return {};
   }
   return value;
 }
 
-/// Complains of steps that lead nowhere. What a setting kept for each input source has behind a
-/// change of the source is only known then.
+/// Complains of values that cannot be reached from the present ones. What a setting kept for each
+/// input source has behind a change of the source is only known then.
 void CheckSteps(std::vector<Change>& changes, const Work& work, ProjectorAccess& projector,
                 Report& report) {
   const Progress progress = ProgressOf(work, projector);
@@ -102,7 +107,7 @@ void CheckSteps(std::vector<Change>& changes, const Work& work, ProjectorAccess&
     if (ofOtherSource && setting.IsPerSource()) continue;
     if (TargetOf(projector).OnlySteps(setting)) continue;  // to where nobody knows
     std::optional<int>& value = expected[&setting];
-    if (!change.typed.relative) {
+    if (!change.typed.relative && !IsUnbounded(TargetOf(projector), setting)) {
       value = change.typed.amount;
     } else if (progress.goesOn()) {
       const auto source = projector.Settings().PresentSource(projector.Connection(), setting);
@@ -196,7 +201,7 @@ std::optional<Made> Make(const Change& change, const Work& work, ProjectorAccess
       change.aim ? change.aim : Aim(change, work, projector, source, {}, ExitCode::Refused, report);
   if (!value) return {};
   const CPjtInterface::Tally before = connection.Sent();
-  const bool accepted = settings.Change(
+  const Sent sent = settings.Change(
       connection, setting, *value,
       {work.texts.Value(setting, *value), source, ProgressOf(work, projector).goesOn});
   const CPjtInterface::Tally after = connection.Sent();
@@ -206,7 +211,7 @@ std::optional<Made> Make(const Change& change, const Work& work, ProjectorAccess
     now = settings.Read(connection, setting, source);
   }
   if (now) values.Add(setting, *now, connection.Power());
-  return Judge(work, projector, setting, *value, now, before, accepted, after);
+  return Judge(work, projector, setting, *value, now, before, sent == Sent::Accepted, after);
 }
 
 QJsonObject Describe(const Change& change, const std::optional<Made>& made) {
@@ -222,8 +227,9 @@ QJsonObject Describe(const Change& change, const std::optional<Made>& made) {
 bool NeedsAsking(const Work& work, const Target& target, Report& report) {
   const std::vector<Change> changes = ChangesOf(work, target, report);
   const bool isComplete = 2 * changes.size() == work.arguments.words.size();
-  return !isComplete ||
-         std::ranges::any_of(changes, [](const Change& change) { return change.typed.relative; });
+  return !isComplete || std::ranges::any_of(changes, [&target](const Change& change) {
+    return change.typed.relative || IsUnbounded(target, *change.setting);
+  });
 }
 
 Report CheckSet(const Work& work, ProjectorAccess& projector) {

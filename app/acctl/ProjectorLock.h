@@ -9,7 +9,8 @@
 /// process that dies holds it no longer.
 class ProjectorLock {
  public:
-  /// Waits until nobody has it, at most `timeOut`, and not once `isInterrupted`.
+  /// Waits until nobody has it, at most `timeOut`. `isInterrupted` is called before each pause, so
+  /// not at all if nobody has it; true ends the wait.
   ProjectorLock(const ProjectorAddress& address, std::chrono::milliseconds timeOut,
                 const std::function<bool()>& isInterrupted);
   ~ProjectorLock();

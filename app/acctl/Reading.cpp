@@ -63,6 +63,9 @@ void Values::PutInto(Report& report) const {
 }
 
 std::optional<PowerState> AskPower(ProjectorAccess& projector) {
+  // The channel has asked for it to find out why the projector is busy.
+  const auto told = projector.Connection().Power();
+  if (told && projector.Channel().Last().busy) return told;
   const auto value = Read(projector.Connection(), kPower);
   return value ? std::optional(StateOf(*value, projector)) : std::nullopt;
 }

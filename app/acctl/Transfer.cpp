@@ -1,6 +1,7 @@
 // The commands that keep settings in files and put them back.
 
 #include <array>
+#include <cstdlib>
 
 #include <QJsonArray>
 
@@ -72,6 +73,13 @@ Told Judge(const Work& work, const Target& target, const Restoration& restoratio
   }
   if (restored.outcome == Outcome::NotOffered && !target.Carries(kKept, *restored.setting)) {
     return {&restored, Outcome::NotOffered, kNotInPjLink};
+  }
+  const bool isSent = work.arguments.command == Arguments::Command::Apply && !work.arguments.dryRun;
+  if (isSent && restored.outcome == Outcome::Differs && restored.setting->IsStepped() &&
+      std::abs(*restored.before - restored.saved.value) > kMostSteps) {
+    return {&restored, Outcome::NotReached,
+            "not sent, it is more than " + std::to_string(kMostSteps) + " steps away",
+            ExitCode::Refused};
   }
   if (restored.outcome == Outcome::Refused) {
     return {&restored, Outcome::Refused,

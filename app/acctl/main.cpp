@@ -12,10 +12,10 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include "app/acctl/OpenProjectors.h"
 #include "app/acctl/Output.h"
 #include "app/acctl/Password.h"
 #include "app/acctl/Preflight.h"
-#include "app/acctl/ProjectorLock.h"
 #include "app/acctl/Signals.h"
 #include "app/acctl/Uses.h"
 #include "app/profiles/OutOfMemory.h"
@@ -158,47 +158,65 @@ Act RunOf(Command command) {
   }
 }
 
+/// What is done with a projector.
+struct Action {
+  Act act;
+  OpenProjectors& open;
+  int number;    ///< In `open`.
+  bool isCheck;  ///< Keeps the projector open for the run unless something is wrong.
+};
+
 /// `password` is for a projector whose profile has none; `lacksPassword` becomes whether it wants
 /// one and neither has it.
-Report ActOver(const Work& work, const ProjectorProfile& profile, Act act,
+Report ActOver(const Work& work, const ProjectorProfile& profile, const Action& action,
                const std::string& password, bool& lacksPassword) {
   const Arguments& arguments = work.arguments;
   const auto address = AddressOf(profile, work, password);
   // Lists need next to nothing of the projector, and who watches would never let another one in.
   const bool isListed = arguments.command == Command::Settings;
-  std::optional<ProjectorLock> lock;
-  if (address && !isListed && arguments.command != Command::Watch) {
-    lock.emplace(*address, arguments.timeOut, work.isInterrupted);
+  auto open = action.open.Take(action.number);
+  if (!open) open = std::make_unique<OpenProjector>();
+  if (!open->lock && address && !isListed && arguments.command != Command::Watch) {
+    open->lock.emplace(*address, arguments.timeOut, [&] {
+      action.open.CloseAll();
+      return work.isInterrupted();
+    });
   }
   Report report;
-  if (lock && !lock->IsHeld()) {
+  if (open->lock && !open->lock->IsHeld()) {
     report.Complain("another run of acctl works on it", ExitCode::NoAnswer);
     return report;
   }
-  ProjectorAccess projector(profile, ChannelTo(profile, address, arguments.timeOut),
-                            arguments.timeOut);
+  if (!open->access) {
+    open->access.emplace(profile, ChannelTo(profile, address, arguments.timeOut),
+                         arguments.timeOut);
+  }
+  ProjectorAccess& projector = *open->access;
   projector.AskForInputs(InputsNeededBy(work, TargetOf(projector)));
   if (projector.Channel().IsGone() && !isListed) {
     report.Complain(NoAnswerText(projector), ExitCode::NoAnswer);
   } else {
-    report = act(work, projector);
+    report = action.act(work, projector);
   }
   const auto* const pjLink = address ? std::get_if<PjLinkAddress>(&*address) : nullptr;
   lacksPassword = pjLink != nullptr && pjLink->password.empty() &&
                   projector.Channel().Connection() == ConnectionState::PasswordRequired;
+  if (action.isCheck && report.code == ExitCode::Done) {
+    action.open.Keep(action.number, std::move(open));
+  }
   return report;
 }
 
 /// A password that nobody has given is asked for, unless `typed` is null, and kept there.
-Report ActOnProjector(const Work& work, const ProjectorProfile& profile, Act act,
+Report ActOnProjector(const Work& work, const ProjectorProfile& profile, const Action& action,
                       std::string* typed) {
   bool lacksPassword = false;
   const bool isKnown = typed != nullptr && !typed->empty();
-  Report report = ActOver(work, profile, act, isKnown ? *typed : work.password, lacksPassword);
+  Report report = ActOver(work, profile, action, isKnown ? *typed : work.password, lacksPassword);
   if (!lacksPassword || typed == nullptr) return report;
   // The projector has done nothing so far.
   *typed = AskForPassword(profile.Name, work.isInterrupted).value_or(std::string());
-  return typed->empty() ? report : ActOver(work, profile, act, *typed, lacksPassword);
+  return typed->empty() ? report : ActOver(work, profile, action, *typed, lacksPassword);
 }
 
 /// A line for one of several projectors, or its own text behind its name.
@@ -217,17 +235,18 @@ int RunOnProjectors(const Work& work, const std::vector<const ProjectorProfile*>
   const bool asJson = arguments.json && arguments.command != Command::Watch && !isSaved;
   QJsonArray json;
   std::string typed;
-  const auto act = [&](int number, Act doing) {
-    return ActOnProjector(work, *projectors[static_cast<std::size_t>(number)], doing,
-                          several ? nullptr : &typed);
+  OpenProjectors open;
+  const auto act = [&](int number, Act doing, bool isCheck) {
+    return ActOnProjector(work, *projectors[static_cast<std::size_t>(number)],
+                          {doing, open, number, isCheck}, several ? nullptr : &typed);
   };
-  const auto checked =
-      CheckWords(work, projectors, meter, [&](int number) { return act(number, CheckAsked); });
+  const auto checked = CheckWords(work, projectors, meter,
+                                  [&](int number) { return act(number, CheckAsked, true); });
   RunParallel(
       static_cast<int>(projectors.size()), arguments.jobs, meter,
       [&](int number) {
         if (const auto& report = checked[static_cast<std::size_t>(number)]) return *report;
-        Report report = act(number, RunOf(arguments.command));
+        Report report = act(number, RunOf(arguments.command), false);
         // Nothing was sent to this one, but perhaps to others.
         if (several && report.code == ExitCode::WrongUse) report.code = ExitCode::Refused;
         return report;

@@ -5,7 +5,7 @@
 PjtReply PatientChannel::Execute(const PjtCommand& command) {
   using Clock = std::chrono::steady_clock;
   last_ = {.result = RefusedResult(command.operation), .answered = false, .unsent = true};
-  everAnswered_ = everAnswered_ || Connection() == ConnectionState::Connected;
+  wasThere_ = wasThere_ || Connection() == ConnectionState::Connected;
   const bool isAbsolute = IsAbsolute(command.operation);
   const int attempts = IsRead(command.operation) ? kReadAttempts : kChangeAttempts;
   const auto begin = Clock::now();
@@ -13,19 +13,19 @@ PjtReply PatientChannel::Execute(const PjtCommand& command) {
   bool wasSent = false;
   for (int attempt = 0; attempt < attempts && !gone_; ++attempt) {
     if (attempt > 0) {
-      const bool mayRepeat = everAnswered_ && (isAbsolute || !wasSent);
+      const bool mayRepeat = wasThere_ && (isAbsolute || !wasSent);
       if (!mayRepeat || Clock::now() >= begin + 2 * timeOut_) break;
       std::this_thread::sleep_until(asked + kPause);
     }
     asked = Clock::now();
     last_ = Inner().Execute(command);
+    wasThere_ = wasThere_ || last_.answered || hasGreeted_();
     wasSent = wasSent || last_.answered || !last_.unsent;
     if (last_.answered) break;
   }
   last_.unsent = !wasSent;
   // A step that got lost says nothing yet: the next command does.
-  gone_ = gone_ || (!last_.answered && (isAbsolute || !wasSent || !everAnswered_));
-  everAnswered_ = everAnswered_ || last_.answered;
+  gone_ = gone_ || (!last_.answered && (isAbsolute || !wasSent || !wasThere_));
   return last_;
 }
 

@@ -1,14 +1,15 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <utility>
 
-#include "device/ForwardingChannel.h"
+#include "device/channels/ForwardingChannel.h"
 
-/// Asks again where an answer got lost, and knows when a projector is gone: one that has never
-/// answered is after the first command, any other after the last repetition. Then every command is
-/// unanswered at once, and unsent.
+/// Repeats commands whose answers were lost, and knows when a projector is gone: one that has
+/// neither greeted nor answered is gone after the first command, any other after the last
+/// repetition. Then every command is unanswered at once, and unsent.
 ///
 /// A command always has the whole time of the channel behind. A read is asked up to three times, a
 /// change that is absolute up to twice, any other only once, unless it never left. A repetition
@@ -20,11 +21,15 @@ class PatientChannel : public ForwardingChannel {
   static constexpr int kChangeAttempts = 2;
   static constexpr std::chrono::milliseconds kPause{50};  ///< At least, from one to the next.
 
-  /// `timeOut` is that of the channel behind, for one answer.
-  PatientChannel(std::shared_ptr<ProjectorChannel> inner, std::chrono::milliseconds timeOut)
+  /// `timeOut` is that of the channel behind, for one answer. `hasGreeted` says whether the
+  /// projector has greeted that channel; it is called after each command.
+  PatientChannel(
+      std::shared_ptr<ProjectorChannel> inner, std::chrono::milliseconds timeOut,
+      std::function<bool()> hasGreeted = [] { return false; })
       : ForwardingChannel(std::move(inner)),
         timeOut_(timeOut),
-        everAnswered_(Connection() == ConnectionState::Connected) {}
+        hasGreeted_(std::move(hasGreeted)),
+        wasThere_(Connection() == ConnectionState::Connected) {}
 
   PjtReply Execute(const PjtCommand& command) override;
 
@@ -40,7 +45,8 @@ class PatientChannel : public ForwardingChannel {
 
  private:
   const std::chrono::milliseconds timeOut_;
-  bool everAnswered_;
+  const std::function<bool()> hasGreeted_;
+  bool wasThere_;  ///< It has greeted or answered.
   bool gone_ = false;
   PjtReply last_;
 };

@@ -9,7 +9,7 @@
 #include <QStandardPaths>
 #include <QUrl>
 
-#include "device/PjLinkLine.h"
+#include "device/protocol/PjLinkLine.h"
 #include "fleet/WholeFile.h"
 
 namespace {

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "device/PjLinkChannel.h"
+#include "device/channels/PjLinkChannel.h"
 
 // What PJLink projectors are, kept from one program to the next in the user's cache folder, a file
 // for each address: the protocol's class and the inputs with their names. It holds for a day. A

@@ -6,12 +6,26 @@
 
 #include "app/profiles/PjLinkCache.h"
 #include "device/ModelDataIntake.h"
+#include "device/channels/WireChannel.h"
 
 SimulatedModel SimulatedModelOf(const ProjectorProfile& profile) {
   SimulatedModel model = DescribeModel(MakeModelData(profile.Model));
   model.missing = {profile.Lacks.begin(), profile.Lacks.end()};
   return model;
 }
+
+namespace {
+
+/// Whether the projector at the other end of a connection has greeted; false for a simulated one.
+bool HasGreeted(const ProjectorChannel& channel) {
+  if (const auto* const pjLink = dynamic_cast<const PjLinkChannel*>(&channel)) {
+    return pjLink->HasGreeted();
+  }
+  const auto* const wire = dynamic_cast<const WireChannel*>(&channel);
+  return wire != nullptr && wire->HasGreeted();
+}
+
+}  // namespace
 
 ProjectorAccess::ProjectorAccess(const ProjectorProfile& profile,
                                  std::shared_ptr<ProjectorChannel> channel,
@@ -20,7 +34,8 @@ ProjectorAccess::ProjectorAccess(const ProjectorProfile& profile,
       model_(profile.Model),
       settings_(MakeModelData(model_)),
       pjLink_(std::dynamic_pointer_cast<PjLinkChannel>(channel)),
-      channel_(std::make_shared<PatientChannel>(std::move(channel), timeOut)) {
+      channel_(std::make_shared<PatientChannel>(
+          channel, timeOut, [&channel = *channel] { return HasGreeted(channel); })) {
   tellsInputs_ = pjLink_ != nullptr && model_.MySourceList.Size() == 0;
   connection_.SetChannel(channel_);
   if (!pjLink_) return;
@@ -52,7 +67,7 @@ void ProjectorAccess::AskForInputs(InputsNeeded needed) {
   // One that has let us in may answer everything else.
   if (lacksInputs_ && !pjLink_->HasGreeted()) channel_->GiveUp();
   if (inputs.empty()) return;
-  model_.MySourceList = SourcesOf(inputs);
+  model_.MySourceList = SourcesOf(inputs, InputCodes::AllNames);
   settings_ = ModelSettings(MakeModelData(model_));
 }
 

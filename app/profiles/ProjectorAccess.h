@@ -8,7 +8,7 @@
 #include "app/profiles/PatientChannel.h"
 #include "app/profiles/ProfileFile.h"
 #include "device/CPjtInterface.h"
-#include "device/PjLinkChannel.h"
+#include "device/channels/PjLinkChannel.h"
 #include "settings/ModelSettings.h"
 #include "simulator/SimulatedProjector.h"
 

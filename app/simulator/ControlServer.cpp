@@ -1,34 +1,55 @@
 #include "app/simulator/ControlServer.h"
 
+#include <functional>
+#include <memory>
+#include <utility>
+
 #include <QTcpSocket>
+
+#include "simulator/ServedConnection.h"
 
 namespace {
 
 constexpr int kMaximumConnections = 4;
 constexpr qint64 kLongestLine = 256;
 
+class Session final : public ServedConnection {
+ public:
+  Session(std::unique_ptr<QTcpSocket> socket, std::function<QString(const QString&)> obey)
+      : socket_(*socket.release()), obey_(std::move(obey)) {
+    socket_.setParent(this);
+    connect(&socket_, &QTcpSocket::disconnected, this, &QObject::deleteLater);
+    connect(&socket_, &QTcpSocket::readyRead, this, &Session::AnswerAll);
+    AnswerAll();
+  }
+
+ protected:
+  std::size_t Backlog() const override { return static_cast<std::size_t>(socket_.bytesToWrite()); }
+
+ private:
+  void AnswerAll() {
+    NoteRead();
+    while (socket_.canReadLine()) {
+      const QString line = QString::fromUtf8(socket_.readLine()).trimmed();
+      socket_.write(obey_(line).toUtf8() + '\n');
+    }
+    if (socket_.bytesAvailable() >= kLongestLine) socket_.abort();  // no line of ours
+  }
+
+  QTcpSocket& socket_;
+  const std::function<QString(const QString&)> obey_;
+};
+
 }  // namespace
 
 ControlServer::ControlServer(ControlledProjectors& projectors, std::uint64_t seed)
-    : projectors_(projectors), seed_(seed), server_(kLongestLine) {
-  server_.setMaxPendingConnections(kMaximumConnections);
-  QObject::connect(&server_, &QTcpServer::newConnection, &server_, [this] {
-    while (QTcpSocket* socket = server_.nextPendingConnection()) {
-      if (server_.findChildren<QTcpSocket*>().size() > kMaximumConnections) {
-        delete socket;
-        continue;
-      }
-      QObject::connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
-      QObject::connect(socket, &QTcpSocket::readyRead, socket, [this, socket] {
-        while (socket->canReadLine()) {
-          const QString line = QString::fromUtf8(socket->readLine()).trimmed();
-          socket->write(Obey(line).toUtf8() + '\n');
-        }
-        if (socket->bytesAvailable() >= kLongestLine) socket->abort();  // no line of ours
-      });
-    }
-  });
-}
+    : projectors_(projectors),
+      seed_(seed),
+      server_({.connections = kMaximumConnections, .readBuffer = kLongestLine},
+              [this](std::unique_ptr<QTcpSocket> socket) {
+                return new Session(std::move(socket),
+                                   [this](const QString& line) { return Obey(line); });
+              }) {}
 
 std::uint16_t ControlServer::Listen(std::uint16_t port) {
   return server_.listen(QHostAddress::LocalHost, port) ? server_.serverPort() : std::uint16_t{0};

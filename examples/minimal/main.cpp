@@ -2,9 +2,11 @@
 
 #include <QApplication>
 
-#include "device/BoundedChannel.h"
+#include "device/channels/BoundedChannel.h"
 #include "host/CAdvanceDlg.h"
 #include "simulator/SimulatedProjector.h"
+
+using namespace AdvancedControl;
 
 int main(int argc, char** argv) {
   QApplication application(argc, argv);

@@ -16,8 +16,8 @@ class PROJECTOR_COMMON_EXPORT CModelInfo {
 
   std::string ModelName;
   std::int32_t DialogType = 0;  ///< Page set 1..5.
-  SourceList MySourceList;
-  CountedList AspectList;
-  CountedList GammaList;
-  CountedList ColorTempList;
+  AdvancedControl::SourceList MySourceList;
+  AdvancedControl::CountedList AspectList;
+  AdvancedControl::CountedList GammaList;
+  AdvancedControl::CountedList ColorTempList;
 };

@@ -5,7 +5,10 @@
 #include <cstdint>
 #include <string>
 
+#include "Namespace.h"
 #include "device/ModelData.h"
+
+namespace AdvancedControl {
 
 /// The full model record of a host, with up to five connections side by side.
 ///
@@ -76,5 +79,7 @@ const String& BasicModelInfo2<String>::RangeText(std::size_t index) const {
   return RangeSlots[kRangeTextOrder[index]];
 }
 
+}  // namespace AdvancedControl
+
 /// The record as it is exchanged; its strings are UTF-8.
-using CModelInfo2 = BasicModelInfo2<std::string>;
+using CModelInfo2 = AdvancedControl::BasicModelInfo2<std::string>;

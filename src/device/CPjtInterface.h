@@ -31,21 +31,21 @@ class PROJECTOR_COMMON_EXPORT CPjtInterface {
 
   /// Sets the host's channel, which replaces the object's own, whether it is set before or after
   /// the connection parameters. Null removes the channel until `CopyData` is called again.
-  void SetChannel(std::shared_ptr<ProjectorChannel> channel);
-  const std::shared_ptr<ProjectorChannel>& Channel() const { return channel_; }
+  void SetChannel(std::shared_ptr<AdvancedControl::ProjectorChannel> channel);
+  const std::shared_ptr<AdvancedControl::ProjectorChannel>& Channel() const { return channel_; }
 
   /// While cut off, every operation is refused without reaching the channel.
   void CutOff(bool cutOff) { cutOff_ = cutOff; }
 
   /// The state of the connection.
-  ConnectionState Connection() const;
+  AdvancedControl::ConnectionState Connection() const;
 
   /// The inputs that the projector has reported over PJLink; nothing until then. From the first
   /// call on, the channel asks for them while no command waits.
-  std::optional<SourceList> Inputs() const;
+  std::optional<AdvancedControl::SourceList> Inputs() const;
 
   /// The power state that the projector reported last, see `ProjectorChannel::Power`.
-  std::optional<PowerState> Power() const;
+  std::optional<AdvancedControl::PowerState> Power() const;
 
   /// Sets the connection parameters. A text ends at its first zero or after 64 characters; null
   /// stands for an empty text.
@@ -144,10 +144,10 @@ class PROJECTOR_COMMON_EXPORT CPjtInterface {
   int Dec(unsigned short code, unsigned short argument, CPjtInterface* self);
 
   /// Executes any operation given as a command, and returns the channel's reply unchanged.
-  PjtReply Execute(const PjtCommand& command) const;
+  AdvancedControl::PjtReply Execute(const AdvancedControl::PjtCommand& command) const;
 
   /// Announces to the channel which reads are about to follow, in this order.
-  void Announce(std::span<const PjtCommand> reads) const;
+  void Announce(std::span<const AdvancedControl::PjtCommand> reads) const;
 
   /// Abandons the work under way: the waiting command ends at once, and as long as the returned
   /// object lives, every command is unanswered without being sent. The returned object may outlive
@@ -186,10 +186,10 @@ class PROJECTOR_COMMON_EXPORT CPjtInterface {
     std::shared_ptr<Traffic> now;
   };
 
-  int ExecuteInto(const PjtCommand& command, short* value) const;
-  short ExecuteFor(const PjtCommand& command, short otherwise) const;
+  int ExecuteInto(const AdvancedControl::PjtCommand& command, short* value) const;
+  short ExecuteFor(const AdvancedControl::PjtCommand& command, short otherwise) const;
 
-  std::shared_ptr<ProjectorChannel> channel_;
+  std::shared_ptr<AdvancedControl::ProjectorChannel> channel_;
   OwnTraffic traffic_;
   bool isHosts_ = false;
   bool cutOff_ = false;

@@ -12,6 +12,6 @@ struct CProjectorItem {
   std::int32_t ConnectionNumber = 0;
   std::int32_t ConnectionParameter = 0;
   std::uint32_t Address = 0;  ///< Network address, its first part in the most significant byte.
-  NameSlot ConnectionText2{};
+  AdvancedControl::NameSlot ConnectionText2{};
   const CModelInfo2* Model = nullptr;  ///< Not owned; null is a model of which nothing is known.
 };

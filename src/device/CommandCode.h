@@ -2,6 +2,10 @@
 
 #include <cstdint>
 
+#include "Namespace.h"
+
+namespace AdvancedControl {
+
 /// Codes of the generic operations `Get`, `Set`, `Inc` and `Dec`.
 namespace CommandCode {
 
@@ -122,3 +126,5 @@ inline constexpr std::uint16_t IrTop = 0x2602;
 inline constexpr std::uint16_t OneTouch = 0x2608;
 
 }  // namespace CommandCode
+
+}  // namespace AdvancedControl

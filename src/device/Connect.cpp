@@ -4,9 +4,11 @@
 #include <optional>
 
 #include "device/HostAddress.h"
-#include "device/PjLinkChannel.h"
-#include "device/SerialChannel.h"
-#include "device/TcpChannel.h"
+#include "device/channels/PjLinkChannel.h"
+#include "device/channels/SerialChannel.h"
+#include "device/channels/TcpChannel.h"
+
+namespace AdvancedControl {
 
 namespace {
 
@@ -146,3 +148,5 @@ BoundedChannel::Limits BoundsFor(const ProjectorAddress& address) {
   if (!std::holds_alternative<PjLinkAddress>(address)) return {};
   return {.timeOut = PjLinkChannel::Limits().Longest()};
 }
+
+}  // namespace AdvancedControl

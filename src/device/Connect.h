@@ -8,11 +8,14 @@
 #include <string_view>
 #include <variant>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
-#include "device/BoundedChannel.h"
 #include "device/ModelDataIntake.h"
 #include "device/ProjectorChannel.h"
-#include "device/WireFrame.h"
+#include "device/channels/BoundedChannel.h"
+#include "device/protocol/WireFrame.h"
+
+namespace AdvancedControl {
 
 /// A projector that speaks the protocol of docs/wire.md over TCP.
 struct TcpAddress {
@@ -79,3 +82,5 @@ PROJECTOR_COMMON_EXPORT BoundedChannel::Limits BoundsFor(const ProjectorAddress&
 /// an answer; without it the channel uses its own time-outs. Never null.
 PROJECTOR_COMMON_EXPORT std::shared_ptr<ProjectorChannel> MakeUnboundedChannel(
     const ProjectorAddress& address, std::optional<std::chrono::milliseconds> timeOut = {});
+
+}  // namespace AdvancedControl

@@ -1,5 +1,7 @@
 #include "device/ConnectionState.h"
 
+namespace AdvancedControl {
+
 std::string_view ConnectionStateText(ConnectionState state) {
   switch (state) {
     case ConnectionState::None:
@@ -29,3 +31,5 @@ std::string_view ConnectionStateText(ConnectionState state) {
   }
   return "no connection";
 }
+
+}  // namespace AdvancedControl

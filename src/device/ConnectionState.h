@@ -3,7 +3,10 @@
 #include <cstdint>
 #include <string_view>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
+
+namespace AdvancedControl {
 
 /// The state of a connection to a projector.
 enum class ConnectionState : std::uint8_t {
@@ -23,3 +26,5 @@ enum class ConnectionState : std::uint8_t {
 
 /// The state in a few English words, for programs without a catalog. Any thread.
 PROJECTOR_COMMON_EXPORT std::string_view ConnectionStateText(ConnectionState state);
+
+}  // namespace AdvancedControl

@@ -2,6 +2,8 @@
 
 #include <new>
 
+namespace AdvancedControl {
+
 void DropException() noexcept {
   try {
     try {
@@ -12,3 +14,5 @@ void DropException() noexcept {
   } catch (...) {  // also what the handler throws, as it may
   }
 }
+
+}  // namespace AdvancedControl

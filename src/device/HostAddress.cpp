@@ -6,6 +6,8 @@
 #include <QHostAddress>
 #include <QUrl>
 
+namespace AdvancedControl {
+
 namespace {
 
 constexpr std::size_t kLongestHost = 253;  // bytes of a name in the domain name system
@@ -30,3 +32,5 @@ bool IsHostAddress(std::string_view text) {
     return c == '.' || c == '-' || c == '_' || std::isalnum(static_cast<unsigned char>(c)) != 0;
   });
 }
+
+}  // namespace AdvancedControl

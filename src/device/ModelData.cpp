@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace AdvancedControl {
+
 namespace {
 
 bool ContinuesCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; }
@@ -24,3 +26,5 @@ NameSlot MakeNameSlot(std::string_view text) {
   std::ranges::copy(CutText(text, slot.size()), slot.begin());
   return slot;
 }
+
+}  // namespace AdvancedControl

@@ -6,7 +6,10 @@
 #include <string>
 #include <string_view>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
+
+namespace AdvancedControl {
 
 /// A name in a fixed 64-byte slot, zero-terminated unless it fills the slot; UTF-8.
 using NameSlot = std::array<char, 64>;
@@ -91,3 +94,5 @@ struct ModelData {
   /// "minimum,maximum" in device units, indexed by `RangeIndex`; empty for a page's default.
   std::array<std::string, RangeIndex::Count> RangeTexts;
 };
+
+}  // namespace AdvancedControl

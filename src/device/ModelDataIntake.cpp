@@ -2,6 +2,8 @@
 
 #include <type_traits>
 
+namespace AdvancedControl {
+
 namespace {
 
 /// A record with four-byte strings, as the hosts' format describes it.
@@ -106,3 +108,5 @@ std::string DottedAddress(std::uint32_t address) {
   }
   return text;
 }
+
+}  // namespace AdvancedControl

@@ -3,10 +3,13 @@
 #include <cstdint>
 #include <string>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
 #include "device/CModelInfo2.h"
 #include "device/CProjectorItem.h"
 #include "device/ModelData.h"
+
+namespace AdvancedControl {
 
 /// The arguments of `CPjtInterface::CopyData`.
 struct ConnectionData {
@@ -36,3 +39,5 @@ PROJECTOR_COMMON_EXPORT ConnectionData MakeConnectionData(const CProjectorItem& 
 
 /// "a.b.c.d", `a` from the most significant byte.
 PROJECTOR_COMMON_EXPORT std::string DottedAddress(std::uint32_t address);
+
+}  // namespace AdvancedControl

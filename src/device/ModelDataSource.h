@@ -1,7 +1,10 @@
 #pragma once
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
 #include "device/ModelData.h"
+
+namespace AdvancedControl {
 
 /// The holder of the model data that pages and pop-ups read: the dialog that they belong to.
 /// User-interface thread only.
@@ -12,3 +15,5 @@ class PROJECTOR_COMMON_EXPORT ModelDataSource {
   /// Owned by the source; does not change while its pages live.
   virtual const ModelData& Model() const = 0;
 };
+
+}  // namespace AdvancedControl

@@ -5,6 +5,10 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "Namespace.h"
+
+namespace AdvancedControl {
+
 /// The form of an operation: its arguments and the meaning of its result. `kOperationForms`
 /// describes each family.
 enum class OperationFamily : std::uint8_t {
@@ -106,3 +110,5 @@ static_assert(std::ranges::all_of(kOperationForms,
                                     return &form == &FormOf(form.family);
                                   }),
               "the forms stand in the order of their families");
+
+}  // namespace AdvancedControl

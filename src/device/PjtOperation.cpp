@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+namespace AdvancedControl {
+
 namespace {
 
 struct Description {
@@ -68,3 +70,5 @@ bool IsAbsolute(PjtOperation operation) {
   return FormOf(operation).effect != Effect::Steps && operation != PjtOperation::ExecAutoAdjust &&
          operation != PjtOperation::ExecAutoKeyStone;
 }
+
+}  // namespace AdvancedControl

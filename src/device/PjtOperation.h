@@ -5,8 +5,11 @@
 #include <optional>
 #include <string_view>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
 #include "device/OperationFamily.h"
+
+namespace AdvancedControl {
 
 /// Every operation that the projector understands, named as `CPjtInterface` names it.
 enum class PjtOperation {
@@ -50,3 +53,5 @@ PROJECTOR_COMMON_EXPORT bool IsRead(PjtOperation operation);
 /// Whether the operation can be repeated without changing its effect: true for reads and for
 /// changes to a given value, false for steps and automatic adjustments.
 PROJECTOR_COMMON_EXPORT bool IsAbsolute(PjtOperation operation);
+
+}  // namespace AdvancedControl

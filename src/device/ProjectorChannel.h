@@ -5,10 +5,13 @@
 #include <optional>
 #include <span>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
 #include "device/ConnectionState.h"
 #include "device/ModelData.h"
 #include "device/PjtOperation.h"
+
+namespace AdvancedControl {
 
 /// One command to the projector.
 struct PjtCommand {
@@ -90,3 +93,5 @@ class PROJECTOR_COMMON_EXPORT ProjectorChannel {
     return false;
   }
 };
+
+}  // namespace AdvancedControl

@@ -7,7 +7,7 @@
 #include <QCoreApplication>
 #include <QStringDecoder>
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

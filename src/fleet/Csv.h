@@ -7,7 +7,9 @@
 #include <QString>
 #include <QStringList>
 
-inline namespace AdvancedControl {
+#include "Namespace.h"
+
+namespace AdvancedControl {
 
 /// A line of a table that was not understood.
 struct CsvFault {

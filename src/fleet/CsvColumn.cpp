@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

@@ -5,7 +5,9 @@
 
 #include <QString>
 
-inline namespace AdvancedControl {
+#include "Namespace.h"
+
+namespace AdvancedControl {
 
 /// What a column of a table of projectors tells.
 enum class CsvColumn : std::uint8_t {

@@ -3,7 +3,7 @@
 #include <QCoreApplication>
 #include <QUuid>
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 std::string FleetIdOf(const FleetProfile& profile) {
   return profile.identity.empty() ? "name:" + profile.name : profile.identity;
@@ -31,7 +31,7 @@ ProjectorAddress AddressOf(ProjectorLink link, const ProfileConnection& connecti
 }
 
 QString ConnectionText(const ProfileConnection& connection) {
-  const QString address = QString::fromStdString(connection.address);
+  QString address = QString::fromStdString(connection.address);
   if (connection.isNetwork) return QStringLiteral("%1:%2").arg(address).arg(connection.port);
   if (!address.isEmpty()) return address;
   return QCoreApplication::translate("ProfileFile", "serial port %1").arg(connection.port + 1);

@@ -7,11 +7,12 @@
 
 #include <QString>
 
+#include "Namespace.h"
 #include "device/CModelInfo2.h"
 #include "device/Connect.h"
 #include "simulator/SettingsTable.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// How a projector of a profile file is reached.
 enum class ProjectorLink : std::uint8_t { Simulated, Network, Serial, PjLink };

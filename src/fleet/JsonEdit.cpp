@@ -7,7 +7,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace JsonEdit {
 

@@ -7,7 +7,9 @@
 #include <QJsonValue>
 #include <QString>
 
-inline namespace AdvancedControl {
+#include "Namespace.h"
+
+namespace AdvancedControl {
 
 /// Changes to a well-formed JSON text that leave everything else in it as it was written. What is
 /// added is laid out like what stands beside it.

@@ -7,7 +7,7 @@
 #include <QJsonDocument>
 #include <QSet>
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

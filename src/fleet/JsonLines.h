@@ -6,7 +6,9 @@
 #include <QCoreApplication>
 #include <QString>
 
-inline namespace AdvancedControl {
+#include "Namespace.h"
+
+namespace AdvancedControl {
 
 /// Where each value of a JSON text stands. Paths are written "projectors[3].ranges.brightness"; the
 /// whole text has an empty one.

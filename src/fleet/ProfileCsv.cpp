@@ -15,7 +15,7 @@
 #include "fleet/ProfileEdits.h"
 #include "fleet/ProfileFile.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 
@@ -39,8 +39,7 @@ QString One(const Cells& cells, CsvColumn column) {
 }
 
 QString Identity(const Cells& cells) {
-  if (const QString identity = One(cells, CsvColumn::Identity); !identity.isEmpty())
-    return identity;
+  if (QString identity = One(cells, CsvColumn::Identity); !identity.isEmpty()) return identity;
   if (const QString serial = One(cells, CsvColumn::Serial); !serial.isEmpty()) {
     return QStringLiteral("serial:") + serial;
   }

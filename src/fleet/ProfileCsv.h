@@ -7,10 +7,11 @@
 #include <QString>
 #include <QStringList>
 
+#include "Namespace.h"
 #include "fleet/Csv.h"
 #include "fleet/FleetProfile.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// What came of a table that was taken into a profile file.
 struct CsvImport {

@@ -2,7 +2,7 @@
 
 #include <QJsonObject>
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 const QByteArray ProfileEdits::kNoProfiles = "{\"projectors\": [\n  \n]}\n";
 

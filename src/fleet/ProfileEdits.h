@@ -5,10 +5,11 @@
 
 #include <QByteArray>
 
+#include "Namespace.h"
 #include "fleet/FleetProfile.h"
 #include "fleet/JsonEdit.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// Many changes to the text of a profile file, which leave everything else in it as it was written.
 /// They take time in proportion to what is changed, and the text is put together once.

@@ -17,7 +17,7 @@
 #include "fleet/ProfileValues.h"
 #include "fleet/WholeFile.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

@@ -7,9 +7,10 @@
 #include <QJsonObject>
 #include <QString>
 
+#include "Namespace.h"
 #include "fleet/FleetProfile.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 struct ProfileList {
   std::vector<FleetProfile> profiles;  ///< In the order of the file; empty after an error.

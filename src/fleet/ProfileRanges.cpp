@@ -5,7 +5,7 @@
 
 #include "fleet/ProfileValues.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

@@ -7,7 +7,7 @@
 #include "device/HostAddress.h"
 #include "fleet/JsonLines.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 
@@ -210,6 +210,7 @@ ProfileConnection Connection(const QJsonObject& connection, const QString& path)
 std::vector<std::string> Tags(const QJsonValue& value, const QString& path) {
   std::vector<std::string> tags;
   const QJsonArray array = Array(value, path, kMaximumTags);
+  tags.reserve(static_cast<std::size_t>(array.size()));
   for (int i = 0; i < array.size(); ++i) tags.push_back(ShortText(array[i], At(path, i)));
   return tags;
 }

@@ -11,9 +11,10 @@
 #include <QString>
 #include <QStringList>
 
+#include "Namespace.h"
 #include "fleet/FleetProfile.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// What is said about wrong profile files, in the language of the program if it has a translation.
 struct ProfileFile {

@@ -7,7 +7,7 @@
 #include <QNetworkInterface>
 #include <QTcpSocket>
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 
@@ -103,7 +103,7 @@ void SearchDriver::Visit::Connect() {
   };
   hear(&QTcpSocket::connected, [this] { inquiry_.Connection().Connected(); });
   hear(&QTcpSocket::readyRead,
-       [this] { inquiry_.Connection().Received(socket_->readAll().toStdString()); });
+       [this] { inquiry_.Connection().Received(socket_->readAll().toStdString(), Now()); });
   QObject::connect(socket_, &QTcpSocket::errorOccurred, &timer_, [this, socket = socket_] {
     if (socket != socket_) return;
     const bool wasOpen = socket->error() == QAbstractSocket::RemoteHostClosedError;

@@ -15,9 +15,10 @@
 #include <QTimer>
 #include <QUdpSocket>
 
+#include "Namespace.h"
 #include "fleet/SearchInquiry.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 struct SearchOptions {
   std::vector<std::uint32_t> addresses{};  ///< IPv4; each is asked whether it has a projector.

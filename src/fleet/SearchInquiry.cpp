@@ -4,9 +4,9 @@
 #include <array>
 #include <utility>
 
-#include "device/PjLinkLine.h"
+#include "device/protocol/PjLinkLine.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 
@@ -54,7 +54,7 @@ SearchInquiry::SearchInquiry(FoundProjector found, const std::string& password,
 PjLinkStep SearchInquiry::Next(PjLinkTime now) {
   for (;;) {
     if (isAsking_) {
-      const PjLinkStep step = session_.Next(now);
+      PjLinkStep step = session_.Next(now);
       if (step.kind != PjLinkStep::Kind::Finished) return step;
       isAsking_ = false;
       Take(session_.Told());

@@ -6,10 +6,11 @@
 #include <string_view>
 #include <vector>
 
-#include "device/PjLinkInputs.h"
-#include "device/PjLinkSession.h"
+#include "Namespace.h"
+#include "device/protocol/PjLinkInputs.h"
+#include "device/protocol/PjLinkSession.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// The question of PJLink's search, which is broadcast.
 inline constexpr std::string_view kSearchQuestion = "%2SRCH\r";

@@ -11,7 +11,7 @@
 
 #include "fleet/ProfileEdits.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 
@@ -161,7 +161,7 @@ void Taker::Add(const FoundProjector& found, const QStringList& identities) {
   }
   members.push_back({"link", LinkName(ProjectorLink::PjLink)});
   members.push_back({"connection", NetworkOf(found)});
-  const SourceList sources = SourcesOf(found.inputs);
+  const SourceList sources = SourcesOf(found.inputs, InputCodes::SharedNames);
   QJsonArray inputs;
   for (std::size_t i = 0; i < static_cast<std::size_t>(sources.Size()); ++i) {
     inputs.append(QJsonObject{{"name", Text(std::string(NameText(sources.names[i])))},

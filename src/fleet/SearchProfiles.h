@@ -7,9 +7,10 @@
 #include <QByteArray>
 #include <QStringList>
 
+#include "Namespace.h"
 #include "fleet/SearchInquiry.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// What came of found projectors in a profile file.
 struct TakenProjectors {

@@ -7,7 +7,7 @@
 #include <QRegularExpression>
 #include <QStringList>
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 
@@ -93,8 +93,8 @@ SearchRange ParseSearchRange(const QString& text) {
     }
   }
   std::ranges::sort(range.addresses);
-  const auto repeated = std::ranges::unique(range.addresses);
-  range.addresses.erase(repeated.begin(), repeated.end());
+  range.addresses.erase(std::unique(range.addresses.begin(), range.addresses.end()),
+                        range.addresses.end());
   return range;
 }
 

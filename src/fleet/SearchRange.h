@@ -6,7 +6,9 @@
 
 #include <QString>
 
-inline namespace AdvancedControl {
+#include "Namespace.h"
+
+namespace AdvancedControl {
 
 /// IPv4 addresses to be searched, each once, in ascending order.
 struct SearchRange {

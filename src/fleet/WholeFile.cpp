@@ -16,7 +16,7 @@
 #include <QFileInfo>
 #include <QRandomGenerator>
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 // Plain system calls: QSaveFile does not tell when a file could not be brought to the disk, and
 // takes a name only by replacing whoever has it. Where a function fails, errno says why.

@@ -3,7 +3,9 @@
 #include <QByteArray>
 #include <QString>
 
-inline namespace AdvancedControl {
+#include "Namespace.h"
+
+namespace AdvancedControl {
 
 /// Who may read a file that is written.
 enum class FileAccess {

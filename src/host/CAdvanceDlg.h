@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "AdvancedControlExport.h"
+#include "Namespace.h"
 #include "device/CModelInfo2.h"
 #include "device/CPjtInterface.h"
 #include "device/CProjectorItem.h"
@@ -19,15 +20,15 @@
 
 class CTabCtrl;
 class CTabPage;
+class QTimer;
+namespace AdvancedControl {
 class FindLine;
 class FittedScroll;
-class QTimer;
 class ResourceModule;
 class StatusLine;
 class Waiting;
-inline namespace AdvancedControl {
 struct PagePopUp;
-}
+}  // namespace AdvancedControl
 
 /// The "Advanced Control" dialog of one projector: a tab per group of settings, each read live and
 /// changed at once.
@@ -43,7 +44,8 @@ struct PagePopUp;
 ///
 /// If the host names no inputs, the dialog uses those that the projector reports over PJLink, once
 /// they are known and no handler runs.
-class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSource {
+class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog,
+                                            public AdvancedControl::ModelDataSource {
   Q_OBJECT
 
  public:
@@ -90,12 +92,12 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
 
   /// Replaces the input sources, even while the dialog is open, for a host that learns of them
   /// later. Lists of sources are refilled, and the shown page is read again once no command waits.
-  void ReplaceSources(const SourceList& sources);
+  void ReplaceSources(const AdvancedControl::SourceList& sources);
 
   /// The connection object that all pages use; owned by the dialog.
   CPjtInterface& Projector() { return projector_; }
 
-  const ModelData& Model() const override { return model_; }
+  const AdvancedControl::ModelData& Model() const override { return model_; }
 
   /// Passed on to the connection object when the dialog is initialised.
   void SetHostOption(bool option) { hostOption_ = option; }
@@ -113,9 +115,9 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
   /// The page behind the selected tab, or null.
   CTabPage* ShownPage() const { return shownPage_; }
   /// Any page of the dialog; only those of the model's page set have controls once it is open.
-  CTabPage& Page(PageId page) const;
+  CTabPage& Page(AdvancedControl::PageId page) const;
 
-  const NotificationMap& Notifications() const override;
+  const AdvancedControl::NotificationMap& Notifications() const override;
 
   /// The size that shows all tabs and every page completely. If the screen is too small for it, the
   /// dialog opens smaller and the page scrolls.
@@ -138,23 +140,24 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
 
   /// What was given while the dialog was open.
   struct Intake {
-    ModelData model;
-    std::optional<ConnectionData> connection;  ///< None where only the model was given.
+    AdvancedControl::ModelData model;
+    std::optional<AdvancedControl::ConnectionData>
+        connection;  ///< None where only the model was given.
   };
 
   /// The model to use for the next creation.
-  ModelData& ModelToCreate();
-  void TakeConnection(const ConnectionData& connection);
+  AdvancedControl::ModelData& ModelToCreate();
+  void TakeConnection(const AdvancedControl::ConnectionData& connection);
   void UseIntake();
 
   void CreatePages();
-  void CreatePage(PageId id);
+  void CreatePage(AdvancedControl::PageId id);
   void InsertTabs();
   void SetTitle();
   /// Inputs newly reported by the projector, if the host names none.
-  std::optional<SourceList> ToldInputs() const;
+  std::optional<AdvancedControl::SourceList> ToldInputs() const;
   void TakeToldInputs();
-  std::optional<PageId> PageIdBehind(int tab) const;
+  std::optional<AdvancedControl::PageId> PageIdBehind(int tab) const;
   CTabPage* PageBehind(int tab) const;
   void ShowSelectedPage();
   void ShowWaiting(bool waiting);
@@ -163,24 +166,25 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog, public ModelDataSour
   void OrderFocus();
   void SelectNeighbourTab(int step);
   void StartFinding();
-  void GoTo(int tab, int control, const std::optional<PagePopUp>& popUp);
+  void GoTo(int tab, int control, const std::optional<AdvancedControl::PagePopUp>& popUp);
   void OpenPopUp(int button, int control, std::chrono::milliseconds delay = {});
 
-  const ResourceModule* savedResources_ = nullptr;  // put back when the dialog closes
-  ModelData model_;
+  const AdvancedControl::ResourceModule* savedResources_ =
+      nullptr;  // put back when the dialog closes
+  AdvancedControl::ModelData model_;
   std::optional<Intake> next_;  // for the next creation
   CPjtInterface projector_;
-  FittedScroll* scroll_;  // shows the pages
+  AdvancedControl::FittedScroll* scroll_;  // shows the pages
   std::unique_ptr<Pages> pages_;
   QSize wholeSize_;
   bool hostOption_ = false;
   CTabCtrl* tabs_ = nullptr;
   CTabPage* shownPage_ = nullptr;
-  std::unique_ptr<Waiting> waiting_;
-  StatusLine* status_;
-  FindLine* find_;
+  std::unique_ptr<AdvancedControl::Waiting> waiting_;
+  AdvancedControl::StatusLine* status_;
+  AdvancedControl::FindLine* find_;
   QTimer* inputsWatch_;
-  std::optional<SourceList> toldInputs_;  // as last taken
-  bool reading_ = false;                  // a page is being read
-  bool readsAgain_ = false;               // the shown page is to be read when what runs has ended
+  std::optional<AdvancedControl::SourceList> toldInputs_;  // as last taken
+  bool reading_ = false;                                   // a page is being read
+  bool readsAgain_ = false;  // the shown page is to be read when what runs has ended
 };

@@ -5,7 +5,13 @@
 
 #include <QLineEdit>
 
+#include "Namespace.h"
 #include "settings/PageTables.h"
+
+namespace AdvancedControl {
+
+/// A setting or pop-up with its tab, as the search shows it: "Brightness — Picture".
+QString WhatAndWhere(const QString& what, const QString& where);
 
 /// A line that finds a row by its caption while a person types it. Enter goes there, Esc or a click
 /// elsewhere ends the search.
@@ -39,3 +45,5 @@ class FindLine final : public QLineEdit {
 
   std::vector<Place> places_;
 };
+
+}  // namespace AdvancedControl

@@ -2,6 +2,8 @@
 #include "resources/AdvancedControlResources.h"
 #include "toolkit/ResourceModule.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 /// Lives as long as the library is loaded. Without a catalog the dialogs show their template texts.
@@ -22,3 +24,5 @@ class LibraryAttachment {
 const LibraryAttachment attachment;
 
 }  // namespace
+
+}  // namespace AdvancedControl

@@ -18,7 +18,7 @@
 #include "i18n/MessageCatalog.h"
 #include "i18n/SystemLanguage.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

@@ -7,10 +7,11 @@
 #include <string>
 #include <vector>
 
+#include "Namespace.h"
 #include "ProjectorSettingsExport.h"
 #include "i18n/MessageFormat.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 // The process-wide message catalog. Called from the user-interface thread, and at load and unload
 // of the library.

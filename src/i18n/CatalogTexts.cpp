@@ -6,7 +6,7 @@
 
 #include "i18n/Catalog.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 CatalogTexts::CatalogTexts(std::span<const std::string> folders) {
   for (const char* module : {"mcdll.dll", "mcschn.dll"}) {

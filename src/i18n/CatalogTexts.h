@@ -5,10 +5,11 @@
 #include <string>
 #include <vector>
 
+#include "Namespace.h"
 #include "i18n/MessageCatalog.h"
 #include "i18n/MessageFormat.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// The texts of all catalog modules at once, each asked for by its language. Unlike the
 /// process-wide catalog it holds no state but its own, and may be read from several threads.

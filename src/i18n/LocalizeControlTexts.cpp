@@ -8,7 +8,7 @@
 
 #include "toolkit/WindowText.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

@@ -3,11 +3,12 @@
 #include <QString>
 
 #include "AdvancedControlExport.h"
+#include "Namespace.h"
 #include "i18n/Catalog.h"
 
 class QWidget;
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// Localizes the captions of `dialog` and its direct children: a caption of the form
 /// "number;default text" is replaced with the catalog text of that number in `category`. Other

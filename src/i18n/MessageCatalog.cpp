@@ -2,7 +2,7 @@
 
 #include <exception>
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 std::optional<MessageCatalog> MessageCatalog::Load(const std::string& path) {
   try {

@@ -5,9 +5,10 @@
 #include <string>
 #include <utility>
 
+#include "Namespace.h"
 #include "i18n/MessageTable.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// A loaded catalog module. Movable; independent of the file once loaded.
 class MessageCatalog {

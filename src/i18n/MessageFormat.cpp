@@ -7,7 +7,7 @@
 
 #include <unicode/unistr.h>
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

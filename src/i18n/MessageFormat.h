@@ -9,7 +9,9 @@
 #include <string_view>
 #include <variant>
 
-inline namespace AdvancedControl {
+#include "Namespace.h"
+
+namespace AdvancedControl {
 
 /// One insert of a message: a text (UTF-8) or an integer. Refers to the caller's text, so it is
 /// made where it is passed and not kept.

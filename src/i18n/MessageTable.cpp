@@ -15,7 +15,7 @@
 
 #include "i18n/ModuleImage.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

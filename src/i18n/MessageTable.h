@@ -8,7 +8,9 @@
 #include <string_view>
 #include <vector>
 
-inline namespace AdvancedControl {
+#include "Namespace.h"
+
+namespace AdvancedControl {
 
 /// One message as its table holds it. The text belongs to the table.
 struct CatalogMessage {

@@ -1,6 +1,6 @@
 #include "i18n/ModuleImage.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

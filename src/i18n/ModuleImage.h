@@ -6,7 +6,9 @@
 #include <span>
 #include <vector>
 
-inline namespace AdvancedControl {
+#include "Namespace.h"
+
+namespace AdvancedControl {
 
 using Bytes = std::span<const std::byte>;
 

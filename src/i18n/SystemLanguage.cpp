@@ -8,7 +8,7 @@
 
 #include <unicode/uloc.h>
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

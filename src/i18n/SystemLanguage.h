@@ -2,9 +2,10 @@
 
 #include <cstdint>
 
+#include "Namespace.h"
 #include "ProjectorSettingsExport.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// Language identifiers that the catalog treats specially.
 inline constexpr std::uint32_t kEnglishUnitedStates = 1033;

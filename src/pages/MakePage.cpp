@@ -11,6 +11,8 @@
 #include "pages/setup/CSetupType5TabDlg.h"
 #include "pages/status/CStatusTabDlg.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 template <class Page>
@@ -30,3 +32,5 @@ std::unique_ptr<CTabPage> MakePage(PageId page, CWnd* parent) {
   made->hide();  // or it would come up together with the dialog
   return made;
 }
+
+}  // namespace AdvancedControl

@@ -1,5 +1,7 @@
 #include "resources/Templates.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 using namespace tmpl;
@@ -14,3 +16,5 @@ constexpr RowTemplate kRows[] = {
 
 const DialogTemplate kAdvanceTemplate{
     .number = TemplateId::Advance, .caption = "Advanced Control", .rows = kRows};
+
+}  // namespace AdvancedControl

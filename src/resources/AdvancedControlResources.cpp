@@ -2,6 +2,8 @@
 
 #include "resources/Templates.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 constexpr const DialogTemplate* kDialogs[] = {
@@ -19,3 +21,5 @@ const ResourceModule& AdvancedControlResources() {
   static constexpr ResourceModule module{kDialogs};
   return module;
 }
+
+}  // namespace AdvancedControl

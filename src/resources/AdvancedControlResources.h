@@ -1,6 +1,9 @@
 #pragma once
 
+#include "Namespace.h"
 #include "toolkit/ResourceModule.h"
+
+namespace AdvancedControl {
 
 /// Numbers of the dialog templates.
 namespace TemplateId {
@@ -20,3 +23,5 @@ inline constexpr int kPageHeight = 220;
 
 /// The library's own templates.
 const ResourceModule& AdvancedControlResources();
+
+}  // namespace AdvancedControl

@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <QPalette>
 
+namespace AdvancedControl {
+
 namespace {
 
 // How far the arrow that points up is turned, clockwise.
@@ -63,3 +65,5 @@ QIcon ArrowBitmap(int number) {
   const auto turn = Turn(number);
   return turn ? QIcon(new ArrowEngine(*turn)) : QIcon();
 }
+
+}  // namespace AdvancedControl

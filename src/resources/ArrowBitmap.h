@@ -2,6 +2,10 @@
 
 #include <QIcon>
 
+#include "Namespace.h"
+
+namespace AdvancedControl {
+
 /// Numbers of the arrow bitmaps.
 namespace BitmapId {
 inline constexpr int ArrowRight = 22154;
@@ -13,3 +17,5 @@ inline constexpr int ArrowUp = 22157;
 /// The arrow of this number, drawn at the size and in the colour of the button it stands on; an
 /// empty icon for another number.
 QIcon ArrowBitmap(int number);
+
+}  // namespace AdvancedControl

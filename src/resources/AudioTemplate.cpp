@@ -1,5 +1,7 @@
 #include "resources/Templates.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 using namespace tmpl;
@@ -29,3 +31,5 @@ constexpr RowTemplate kRows[] = {
 }  // namespace
 
 const DialogTemplate kAudioType5Template = PageTemplate(TemplateId::AudioType5, kRows);
+
+}  // namespace AdvancedControl

@@ -1,5 +1,7 @@
 #include "resources/Templates.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 using namespace tmpl;
@@ -42,3 +44,5 @@ constexpr RowTemplate kInputType5Rows[] = {
 }  // namespace
 
 const DialogTemplate kInputType5Template = PageTemplate(TemplateId::InputType5, kInputType5Rows);
+
+}  // namespace AdvancedControl

@@ -1,5 +1,7 @@
 #include "resources/Templates.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 using namespace tmpl;
@@ -69,3 +71,5 @@ const DialogTemplate kInput3Template = PageTemplate(TemplateId::Input3, kInput3R
 const DialogTemplate kInput4Template = PageTemplate(TemplateId::Input4, kInput4Rows);
 
 const DialogTemplate kVideoTemplate = PageTemplate(TemplateId::Video, kVideoRows);
+
+}  // namespace AdvancedControl

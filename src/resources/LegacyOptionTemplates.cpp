@@ -1,5 +1,7 @@
 #include "resources/Templates.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 using namespace tmpl;
@@ -50,3 +52,5 @@ const DialogTemplate kOptionTemplate = PageTemplate(TemplateId::Option, kOptionR
 const DialogTemplate kOption2Template = PageTemplate(TemplateId::Option2, kOption2Rows);
 const DialogTemplate kOption3Template = PageTemplate(TemplateId::Option3, kOption3Rows);
 const DialogTemplate kOption4Template = PageTemplate(TemplateId::Option4, kOption4Rows);
+
+}  // namespace AdvancedControl

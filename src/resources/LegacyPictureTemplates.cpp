@@ -1,5 +1,7 @@
 #include "resources/Templates.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 using namespace tmpl;
@@ -119,3 +121,5 @@ const DialogTemplate kPicture22Template = PageTemplate(TemplateId::Picture22, kP
 const DialogTemplate kImageTemplate = PageTemplate(TemplateId::Image, kImageRows);
 
 const DialogTemplate kImage4Template = PageTemplate(TemplateId::Image4, kImage4Rows);
+
+}  // namespace AdvancedControl

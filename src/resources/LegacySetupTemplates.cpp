@@ -1,5 +1,7 @@
 #include "resources/Templates.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 using namespace tmpl;
@@ -88,3 +90,5 @@ const DialogTemplate kSetup4Template = PageTemplate(TemplateId::Setup4, kSetup4R
 const DialogTemplate kScreenTemplate = PageTemplate(TemplateId::Screen, kScreenRows);
 
 const DialogTemplate kScreen4Template = PageTemplate(TemplateId::Screen4, kScreen4Rows);
+
+}  // namespace AdvancedControl

@@ -1,5 +1,7 @@
 #include "resources/Templates.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 using namespace tmpl;
@@ -52,3 +54,5 @@ const DialogTemplate kMainTemplate = PageTemplate(TemplateId::Main, kMainRows);
 const DialogTemplate kMain2Template = PageTemplate(TemplateId::Main2, kMain2Rows);
 const DialogTemplate kAutoTemplate = PageTemplate(TemplateId::Auto, kAutoRows);
 const DialogTemplate kAuto2Template = PageTemplate(TemplateId::Auto2, kAuto2Rows);
+
+}  // namespace AdvancedControl

@@ -1,5 +1,7 @@
 #include "resources/Templates.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 using namespace tmpl;
@@ -49,3 +51,5 @@ const DialogTemplate kServiceTemplate{.number = TemplateId::Service,
                                       .width = 238,
                                       .height = 130,
                                       .rows = kServiceRows};
+
+}  // namespace AdvancedControl

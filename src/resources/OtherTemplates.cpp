@@ -1,5 +1,7 @@
 #include "resources/Templates.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 using namespace tmpl;
@@ -35,3 +37,5 @@ constexpr RowTemplate kOther4Rows[] = {
 
 const DialogTemplate kOtherTemplate = PageTemplate(TemplateId::Other, kOtherRows);
 const DialogTemplate kOther4Template = PageTemplate(TemplateId::Other4, kOther4Rows);
+
+}  // namespace AdvancedControl

@@ -2,6 +2,8 @@
 
 #include "resources/Templates.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 using namespace tmpl;
@@ -74,3 +76,5 @@ const DialogTemplate kGammaTemplate{
 
 const DialogTemplate kColorTempTemplate{
     .number = TemplateId::ColorTemp, .caption = "19;Color Temp -Custom-", .rows = kColorTempRows};
+
+}  // namespace AdvancedControl

@@ -1,5 +1,7 @@
 #include "resources/Templates.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 using namespace tmpl;
@@ -47,3 +49,5 @@ constexpr RowTemplate kSetupType5Rows[] = {
 }  // namespace
 
 const DialogTemplate kSetupType5Template = PageTemplate(TemplateId::SetupType5, kSetupType5Rows);
+
+}  // namespace AdvancedControl

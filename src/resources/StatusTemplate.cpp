@@ -1,5 +1,7 @@
 #include "resources/Templates.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 using namespace tmpl;
@@ -21,3 +23,5 @@ constexpr RowTemplate kRows[] = {
 }  // namespace
 
 const DialogTemplate kStatusTemplate = PageTemplate(TemplateId::Status, kRows);
+
+}  // namespace AdvancedControl

@@ -2,8 +2,11 @@
 
 #include <span>
 
+#include "Namespace.h"
 #include "resources/AdvancedControlResources.h"
 #include "toolkit/DialogTemplate.h"
+
+namespace AdvancedControl {
 
 #define PAGE(identifier, number, pageClass) extern const DialogTemplate k##identifier##Template;
 #include "settings/Pages.def"
@@ -17,3 +20,5 @@ extern const DialogTemplate kServiceTemplate;
 constexpr DialogTemplate PageTemplate(int number, std::span<const RowTemplate> rows) {
   return {.number = number, .width = kPageWidth, .height = kPageHeight, .rows = rows};
 }
+
+}  // namespace AdvancedControl

@@ -1,6 +1,6 @@
 #include "settings/Call.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 PjtCommand Call::Command(int value, int modelCode) const {
   const auto carried = [&](Argument argument) -> std::int16_t {

@@ -3,11 +3,12 @@
 #include <cstdint>
 #include <optional>
 
+#include "Namespace.h"
 #include "ProjectorSettingsExport.h"
 #include "device/CPjtInterface.h"
 #include "settings/ModelCodes.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// An operation in a row's data: a command without its value.
 struct Call {

@@ -1,6 +1,8 @@
 #pragma once
 
-inline namespace AdvancedControl {
+#include "Namespace.h"
+
+namespace AdvancedControl {
 
 /// Numbers of the message catalog. The texts are in `resources/catalog`, one file a category. A
 /// caption that a template names ("73;Brightness") needs no name here. The build fails when a

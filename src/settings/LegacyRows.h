@@ -1,10 +1,11 @@
 #pragma once
 
+#include "Namespace.h"
 #include "device/CommandCode.h"
 #include "settings/CatalogNumbers.h"
 #include "settings/Rows.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 // Rows that several of the older pages have. A refused change of them is told, and the slider goes
 // back.

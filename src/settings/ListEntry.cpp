@@ -5,7 +5,7 @@
 
 #include "settings/CatalogNumbers.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

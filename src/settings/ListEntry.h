@@ -7,11 +7,12 @@
 #include <string_view>
 #include <vector>
 
+#include "Namespace.h"
 #include "ProjectorSettingsExport.h"
 #include "device/ModelData.h"
 #include "settings/ModelCodes.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// An entry of a list: its text and its device value.
 struct ListEntry {

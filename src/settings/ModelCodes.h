@@ -7,7 +7,9 @@
 #include <span>
 #include <string_view>
 
-inline namespace AdvancedControl {
+#include "Namespace.h"
+
+namespace AdvancedControl {
 
 /// A set of model codes.
 class ModelCodes {

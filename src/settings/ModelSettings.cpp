@@ -10,7 +10,7 @@
 #include "settings/PageTables.h"
 #include "settings/RowParts.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 
@@ -176,9 +176,9 @@ std::optional<int> ModelSettings::Read(CPjtInterface& projector, const ModelSett
   return ReadRow(projector, *setting.row, *model_, source);
 }
 
-bool ModelSettings::Change(CPjtInterface& projector, const ModelSetting& setting, int value,
+Sent ModelSettings::Change(CPjtInterface& projector, const ModelSetting& setting, int value,
                            const Sending& how) const {
-  return SendRow(projector, *setting.row, *model_, value, how) == Sent::Accepted;
+  return SendRow(projector, *setting.row, *model_, value, how);
 }
 
 }  // namespace AdvancedControl

@@ -8,12 +8,13 @@
 #include <string_view>
 #include <vector>
 
+#include "Namespace.h"
 #include "ProjectorSettingsExport.h"
 #include "device/CPjtInterface.h"
 #include "settings/PageSets.h"
 #include "settings/RowUse.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// One setting of a model, for programs without a window.
 struct PROJECTOR_SETTINGS_EXPORT ModelSetting {
@@ -88,9 +89,9 @@ class PROJECTOR_SETTINGS_EXPORT ModelSettings {
   /// refuses or does not answer.
   std::optional<int> Read(CPjtInterface& projector, const ModelSetting& setting,
                           std::optional<int> source = {}) const;
-  /// Sends a device value that the setting allows. False if the projector refuses it. A setter
-  /// without a result always returns true; read the setting to find out whether it has changed.
-  bool Change(CPjtInterface& projector, const ModelSetting& setting, int value,
+  /// Sends a device value that the setting allows. A setter without a result counts as accepted;
+  /// read the setting to find out whether it has changed.
+  Sent Change(CPjtInterface& projector, const ModelSetting& setting, int value,
               const Sending& how = {}) const;
 
  private:

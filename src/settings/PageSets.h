@@ -4,9 +4,10 @@
 #include <cstdint>
 #include <span>
 
+#include "Namespace.h"
 #include "ProjectorSettingsExport.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// Every page.
 enum class PageId : std::uint8_t {

@@ -3,7 +3,7 @@
 #include "device/ModelData.h"
 #include "settings/picture/PictureRows.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

@@ -2,11 +2,12 @@
 
 #include <vector>
 
+#include "Namespace.h"
 #include "ProjectorSettingsExport.h"
 #include "settings/PageSets.h"
 #include "settings/Rows.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 // The rows of every page, one line a row.
 

@@ -6,7 +6,7 @@
 #include <limits>
 #include <optional>
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

@@ -2,9 +2,10 @@
 
 #include <string_view>
 
+#include "Namespace.h"
 #include "ProjectorSettingsExport.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// Bounds of an adjustment, both included.
 struct Range {

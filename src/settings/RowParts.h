@@ -1,9 +1,10 @@
 #pragma once
 
+#include "Namespace.h"
 #include "settings/CatalogNumbers.h"
 #include "settings/Rows.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 // What rows of several groups of pages are made of.
 

@@ -5,7 +5,7 @@
 
 #include "device/CommandCode.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 
@@ -161,9 +161,8 @@ Stepped Step(CPjtInterface& projector, const ValueRow& row, bool upwards, int so
 }
 
 Sent StepTo(int present, int wanted, const Stepper& step, const std::function<bool()>& goesOn) {
-  constexpr int kMostSteps = 4096;
   constexpr int kMostFailures = 3;
-  if (std::abs(present - wanted) > kMostSteps) return Sent::Refused;  // out of reach: not begun
+  if (std::abs(present - wanted) > kMostSteps) return Sent::Nothing;
   int failures = 0;
   for (int i = 0; i < kMostSteps && present != wanted && goesOn(); ++i) {
     const bool upwards = present < wanted;

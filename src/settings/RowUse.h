@@ -5,10 +5,11 @@
 #include <optional>
 #include <string>
 
+#include "Namespace.h"
 #include "ProjectorSettingsExport.h"
 #include "settings/Rows.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 // Reads and changes settings as their rows say, for the rows of dialogs, for programs without a
 // window and for snapshots. Values are device values. Call these functions on the thread on which
@@ -40,7 +41,7 @@ struct Sending {
 
 /// The result of sending a value.
 enum class Sent : std::uint8_t {
-  Nothing,  ///< The row does not allow it, or its input source is unknown.
+  Nothing,  ///< The row does not allow it, its input source is unknown, or it is too far to step.
   Refused,
   Accepted,  ///< Also if the setter has no result.
 };
@@ -67,8 +68,12 @@ PROJECTOR_SETTINGS_EXPORT Stepped Step(CPjtInterface& projector, const ValueRow&
 /// Makes one step from the value `present` and returns the new value.
 using Stepper = std::function<Stepped(bool upwards, int present)>;
 
-/// Steps from `present` to `wanted` while `goesOn` returns true. Ends after a step that comes no
-/// nearer or goes past it. A refused step is repeated a few times, because it may have been lost.
+/// The largest distance that is stepped.
+inline constexpr int kMostSteps = 4096;
+
+/// Steps from `present` to `wanted` while `goesOn` returns true; makes no step if they are more
+/// than `kMostSteps` apart. Ends after a step that comes no nearer or goes past it. A refused step
+/// is repeated a few times, because it may have been lost.
 PROJECTOR_SETTINGS_EXPORT Sent StepTo(int present, int wanted, const Stepper& step,
                                       const std::function<bool()>& goesOn);
 

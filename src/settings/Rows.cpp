@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <type_traits>
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

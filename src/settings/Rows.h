@@ -7,13 +7,14 @@
 #include <variant>
 #include <vector>
 
+#include "Namespace.h"
 #include "ProjectorSettingsExport.h"
 #include "settings/Call.h"
 #include "settings/ListEntry.h"
 #include "settings/ModelCodes.h"
 #include "settings/Range.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 // The kinds of rows in a page's table. A row says what a setting is called, how it is read, sent
 // and stepped, and which numbered controls of a dialog show it. It can be used without widgets (see

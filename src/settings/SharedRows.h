@@ -2,10 +2,11 @@
 
 #include <string_view>
 
+#include "Namespace.h"
 #include "settings/LegacyRows.h"
 #include "settings/RowParts.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// Rows that several main, automatic, option and other pages have: a setting is read, sent and told
 /// in one way, and a page gives it its key and its controls.

@@ -1,5 +1,7 @@
 #include "simulator/FaultChannel.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 template <typename Key>
@@ -76,3 +78,5 @@ PjtReply FaultChannel::Execute(const PjtCommand& command) {
   lock.unlock();
   return Inner().Execute(command);
 }
+
+}  // namespace AdvancedControl

@@ -8,8 +8,11 @@
 #include <mutex>
 #include <utility>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
-#include "device/ForwardingChannel.h"
+#include "device/channels/ForwardingChannel.h"
+
+namespace AdvancedControl {
 
 /// A fault that a command meets.
 struct Fault {
@@ -60,3 +63,5 @@ class PROJECTOR_COMMON_EXPORT FaultChannel : public ForwardingChannel {
   std::map<PjtOperation, Fault> byOperation_;
   std::map<std::uint16_t, Fault> byCode_;
 };
+
+}  // namespace AdvancedControl

@@ -4,6 +4,8 @@
 #include <QTcpSocket>
 #include <QTimer>
 
+namespace AdvancedControl {
+
 void FaultyLine::Send(std::string_view bytes) {
   if (bytes.empty() || closes_) return;
   switch (fault_.kind) {
@@ -64,3 +66,5 @@ void FaultyLine::CloseIfDone() {
     line_.close();
   }
 }
+
+}  // namespace AdvancedControl

@@ -5,7 +5,11 @@
 #include <string>
 #include <string_view>
 
+#include "Namespace.h"
+
 class QIODevice;
+
+namespace AdvancedControl {
 
 /// What goes wrong with the replies of a server, whatever the projector answers.
 struct LineFault {
@@ -50,3 +54,5 @@ class FaultyLine {
   std::size_t late_ = 0;  // bytes whose time has not come
   bool closes_ = false;
 };
+
+}  // namespace AdvancedControl

@@ -3,9 +3,9 @@
 #include <QRandomGenerator>
 #include <QString>
 
-#include "device/PjLinkLine.h"
+#include "device/protocol/PjLinkLine.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

@@ -4,11 +4,12 @@
 #include <string>
 #include <string_view>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
-#include "device/PjLinkReader.h"
+#include "device/protocol/PjLinkReader.h"
 #include "simulator/PjLinkResponder.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// The projector's end of one PJLink session, without a socket: greeting, password, requests.
 class PROJECTOR_COMMON_EXPORT PjLinkProjectorSession {

@@ -4,7 +4,9 @@
 #include <utility>
 
 #include "device/CommandCode.h"
-#include "device/PjLinkLine.h"
+#include "device/protocol/PjLinkLine.h"
+
+namespace AdvancedControl {
 
 namespace {
 
@@ -233,3 +235,5 @@ std::string PjLinkResponder::InputName(std::string_view code) const {
   return found == served_.inputs.end() ? Error(PjLink::kOutOfRange)
                                        : Bounded(found->name, LongestText("INNM"));
 }
+
+}  // namespace AdvancedControl

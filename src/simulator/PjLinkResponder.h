@@ -6,12 +6,14 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
 #include "device/ModelData.h"
 #include "device/ProjectorChannel.h"
+
+namespace AdvancedControl {
 
 /// An input as PJLink shows it.
 struct ServedInput {
@@ -56,7 +58,7 @@ class PROJECTOR_COMMON_EXPORT PjLinkResponder {
   std::optional<std::string> Answer(std::string_view text);
 
   /// Six digits instead of `ServedProjector::errors`.
-  void SetErrors(std::string digits) { served_.errors = std::move(digits); }
+  void SetErrors(std::string_view digits) { served_.errors = digits; }
 
  private:
   struct Command;
@@ -88,3 +90,5 @@ class PROJECTOR_COMMON_EXPORT PjLinkResponder {
   const std::shared_ptr<ProjectorChannel> projector_;
   ServedProjector served_;
 };
+
+}  // namespace AdvancedControl

@@ -9,7 +9,10 @@
 #include <QTimer>
 
 #include "simulator/PjLinkProjectorSession.h"
+#include "simulator/ServedConnection.h"
 #include "simulator/TcpListener.h"
+
+namespace AdvancedControl {
 
 namespace {
 
@@ -17,17 +20,17 @@ constexpr qint64 kReadBuffer = 512;
 /// Replies that a client may leave unread.
 constexpr std::size_t kMostUnread = 65536;
 
-/// One connection, as long as its socket lives.
-class Session final : public QObject {
+class Session final : public ServedConnection {
  public:
-  Session(QTcpSocket& socket, const PjLinkServer::Options& options, PjLinkResponder& responder,
-          const LineFault& fault)
-      : QObject(&socket),
-        socket_(socket),
+  Session(std::unique_ptr<QTcpSocket> socket, const PjLinkServer::Options& options,
+          PjLinkResponder& responder, const LineFault& fault)
+      : socket_(*socket.release()),
         session_(responder, options.password),
-        replies_(socket, fault) {
+        replies_(socket_, fault) {
+    socket_.setParent(this);
     connect(&idle_, &QTimer::timeout, this, [this] { socket_.abort(); });
-    connect(&socket, &QTcpSocket::readyRead, this, &Session::AnswerAll);
+    connect(&socket_, &QTcpSocket::readyRead, this, &Session::AnswerAll);
+    connect(&socket_, &QTcpSocket::disconnected, this, &QObject::deleteLater);
     idle_.start(options.idle);
     if (fault.kind == LineFault::Kind::Cut) {
       socket_.write(session_.Greeting().c_str());  // it is no reply
@@ -37,8 +40,12 @@ class Session final : public QObject {
     AnswerAll();
   }
 
+ protected:
+  std::size_t Backlog() const override { return replies_.Backlog(); }
+
  private:
   void AnswerAll() {
+    NoteRead();
     while (!session_.IsOver() && socket_.state() == QAbstractSocket::ConnectedState) {
       if (const auto exchange = session_.Next()) {
         Send(exchange->reply);
@@ -68,35 +75,16 @@ class Session final : public QObject {
 
 struct PjLinkServer::State {
   State(std::shared_ptr<ProjectorChannel> projector, Options&& given)
-      : options(std::move(given)), responder(std::move(projector), options.served) {
-    QObject::connect(&server, &QTcpServer::newConnection, &server, [this] { ServeWaiting(); });
-  }
-
-  void ServeWaiting();
+      : options(std::move(given)), responder(std::move(projector), options.served) {}
 
   const Options options;
   PjLinkResponder responder;
   LineFault fault{};
-  std::size_t served = 0;
-  TcpListener server{kReadBuffer};  // the first to go, with its sockets, which use the others
+  TcpListener server{{.connections = options.connections, .readBuffer = kReadBuffer},
+                     [this](std::unique_ptr<QTcpSocket> socket) {
+                       return new Session(std::move(socket), options, responder, fault);
+                     }};
 };
-
-void PjLinkServer::State::ServeWaiting() {
-  while (served < options.connections && server.hasPendingConnections()) {
-    QTcpSocket* const socket = server.nextPendingConnection();
-    if (socket->state() != QAbstractSocket::ConnectedState) {  // left while it waited
-      socket->deleteLater();
-      continue;
-    }
-    ++served;
-    QObject::connect(socket, &QTcpSocket::disconnected, &server, [this, socket] {
-      --served;
-      socket->deleteLater();
-      ServeWaiting();
-    });
-    new Session(*socket, options, responder, fault);
-  }
-}
 
 PjLinkServer::PjLinkServer(std::shared_ptr<ProjectorChannel> projector, Options options)
     : state_(std::make_unique<State>(std::move(projector), std::move(options))) {}
@@ -111,9 +99,8 @@ bool PjLinkServer::Listen(const std::string& address, int port) {
 
 int PjLinkServer::Port() const { return state_->server.serverPort(); }
 
-void PjLinkServer::Close() {
-  state_->server.close();
-  for (QTcpSocket* const socket : state_->server.findChildren<QTcpSocket*>()) socket->abort();
-}
+void PjLinkServer::Close() { state_->server.CloseAll(); }
 
 void PjLinkServer::SetFault(const LineFault& fault) { state_->fault = fault; }
+
+}  // namespace AdvancedControl

@@ -1,13 +1,15 @@
 #pragma once
 
 #include <chrono>
-#include <cstddef>
 #include <memory>
 #include <string>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
 #include "simulator/FaultyLine.h"
 #include "simulator/PjLinkResponder.h"
+
+namespace AdvancedControl {
 
 /// Lets a projector be controlled over PJLink: answers on a TCP port what clients ask.
 ///
@@ -16,8 +18,8 @@
 class PROJECTOR_COMMON_EXPORT PjLinkServer {
  public:
   struct Options {
-    std::string password{};                  ///< Empty: none is wanted.
-    std::size_t connections = 4;             ///< As many are served at once; a few more wait.
+    std::string password{};  ///< Empty: none is wanted.
+    int connections = 8;     ///< Served at once; see `TcpListener` for further ones.
     std::chrono::milliseconds idle{30'000};  ///< A connection without a request is closed then.
     ServedProjector served{};
   };
@@ -41,3 +43,5 @@ class PROJECTOR_COMMON_EXPORT PjLinkServer {
   struct State;
   std::unique_ptr<State> state_;
 };
+
+}  // namespace AdvancedControl

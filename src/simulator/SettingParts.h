@@ -1,8 +1,11 @@
 #pragma once
 
+#include "Namespace.h"
 #include "device/CommandCode.h"
 #include "device/ModelData.h"
 #include "simulator/SettingsTable.h"
+
+namespace AdvancedControl {
 
 /// What the lines of the simulated projector's table are made of.
 namespace setting_parts {
@@ -135,3 +138,5 @@ constexpr Setting ColorTemp(std::uint16_t alsoSetBy = 0) {
 }
 
 }  // namespace setting_parts
+
+}  // namespace AdvancedControl

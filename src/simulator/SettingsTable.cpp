@@ -2,6 +2,8 @@
 
 #include "simulator/SettingParts.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 using namespace setting_parts;
@@ -374,3 +376,5 @@ constexpr std::uint16_t kPlainCodes[] = {
 std::span<const Setting> SettingsTable() { return kSettings; }
 
 std::span<const std::uint16_t> PlainCodes() { return kPlainCodes; }
+
+}  // namespace AdvancedControl

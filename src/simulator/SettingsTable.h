@@ -7,8 +7,11 @@
 #include <span>
 #include <string_view>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
 #include "device/PjtOperation.h"
+
+namespace AdvancedControl {
 
 /// Every setting and state of a projector, whichever operations read or change it.
 enum class SettingId {
@@ -241,3 +244,5 @@ PROJECTOR_COMMON_EXPORT std::span<const Setting> SettingsTable();
 /// Command codes without a known meaning. Each stores the value written to it, initially 0. Any
 /// thread.
 PROJECTOR_COMMON_EXPORT std::span<const std::uint16_t> PlainCodes();
+
+}  // namespace AdvancedControl

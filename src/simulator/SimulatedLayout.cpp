@@ -4,6 +4,8 @@
 #include <string_view>
 #include <utility>
 
+namespace AdvancedControl {
+
 namespace {
 
 /// What a command code without a known meaning is: a value that is just kept.
@@ -100,3 +102,5 @@ std::shared_ptr<const SimulatedProjector::Layout> SimulatedProjector::MakeLayout
     SimulatedModel model) {
   return std::make_shared<const Layout>(std::move(model));
 }
+
+}  // namespace AdvancedControl

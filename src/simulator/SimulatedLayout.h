@@ -8,8 +8,11 @@
 #include <optional>
 #include <vector>
 
+#include "Namespace.h"
 #include "device/CommandCode.h"
 #include "simulator/SimulatedProjector.h"
+
+namespace AdvancedControl {
 
 /// A setting as the projectors of a model have it.
 struct SimulatedProjector::Slot {
@@ -71,3 +74,5 @@ class SimulatedProjector::Layout {
  private:
   void Add(const Setting& setting, SimulatedModel& model);
 };
+
+}  // namespace AdvancedControl

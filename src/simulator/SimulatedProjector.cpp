@@ -5,6 +5,8 @@
 
 #include "simulator/SimulatedLayout.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 constexpr int kShownBias = CommandCode::kZeroPoint;
@@ -272,3 +274,5 @@ void SimulatedProjector::SetCodeValue(std::uint16_t code, int value) {
     Put(slot, value, SourceOrCurrent(kCurrentSource));
   }
 }
+
+}  // namespace AdvancedControl

@@ -13,10 +13,13 @@
 #include <utility>
 #include <vector>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
 #include "device/ModelData.h"
 #include "device/ProjectorChannel.h"
 #include "simulator/SettingsTable.h"
+
+namespace AdvancedControl {
 
 /// How a model's projector differs from the settings table.
 struct SimulatedModel {
@@ -109,3 +112,5 @@ class PROJECTOR_COMMON_EXPORT SimulatedProjector : public ProjectorChannel {
   std::chrono::milliseconds coolDown_{0};
   mutable std::optional<Clock::time_point> switchedAt_;  // when the power is as it was asked to be
 };
+
+}  // namespace AdvancedControl

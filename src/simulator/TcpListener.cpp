@@ -1,17 +1,28 @@
 #include "simulator/TcpListener.h"
 
+#include <algorithm>
 #include <chrono>
+#include <utility>
 
 #include <QTcpSocket>
-#include <QTimer>
+
+#include "simulator/ServedConnection.h"
+
+namespace AdvancedControl {
 
 namespace {
 
 constexpr std::chrono::milliseconds kPauseAfterFailure{100};
 
+ServedConnection& Connection(QObject* child) { return *static_cast<ServedConnection*>(child); }
+
 }  // namespace
 
-TcpListener::TcpListener(qint64 readBuffer) : readBuffer_(readBuffer) {
+TcpListener::TcpListener(const Limits& limits, Serve serve)
+    : limits_(limits), serve_(std::move(serve)) {
+  serveLater_.setSingleShot(true);
+  connect(&serveLater_, &QTimer::timeout, this, &TcpListener::ServeWaiting);
+  connect(this, &QTcpServer::newConnection, this, &TcpListener::ServeWaiting);
   connect(this, &QTcpServer::acceptError, this, [this] {  // which has ended accepting
     QTimer::singleShot(kPauseAfterFailure, this, [this] {
       if (isListening()) resumeAccepting();
@@ -19,9 +30,39 @@ TcpListener::TcpListener(qint64 readBuffer) : readBuffer_(readBuffer) {
   });
 }
 
+void TcpListener::CloseAll() {
+  close();
+  while (!served_.children().isEmpty()) delete served_.children().front();
+}
+
 void TcpListener::incomingConnection(qintptr descriptor) {
   auto* const socket = new QTcpSocket(this);
-  socket->setReadBufferSize(readBuffer_);
+  socket->setReadBufferSize(limits_.readBuffer);
   socket->setSocketDescriptor(descriptor);
   addPendingConnection(socket);
 }
+
+void TcpListener::ServeWaiting() {
+  while (hasPendingConnections()) {
+    if (!HasRoom()) return serveLater_.start(ServedConnection::kIdle);
+    std::unique_ptr<QTcpSocket> socket(nextPendingConnection());
+    if (socket->state() != QAbstractSocket::ConnectedState) continue;  // left while it waited
+    ServedConnection* const connection = serve_(std::move(socket));
+    connection->setParent(&served_);
+    connect(connection, &QObject::destroyed, &serveLater_,
+            [this] { serveLater_.start(std::chrono::milliseconds::zero()); });
+  }
+}
+
+bool TcpListener::HasRoom() {
+  const auto& open = served_.children();
+  if (open.size() < limits_.connections) return true;
+  const auto longest = std::ranges::min_element(open, {}, [](QObject* child) {
+    return std::pair(!Connection(child).IsIdle(), Connection(child).LastRead());
+  });
+  if (!Connection(*longest).IsIdle()) return false;
+  delete *longest;
+  return true;
+}
+
+}  // namespace AdvancedControl

@@ -2,6 +2,8 @@
 
 #include <variant>
 
+namespace AdvancedControl {
+
 std::string WireResponder::Receive(std::string_view bytes) {
   std::string answer;
   decoder_.Add(bytes);
@@ -25,3 +27,5 @@ Wire::Reply WireResponder::Answer(const Wire::Request& request) {
   if (!reply.answered) return {.status = Wire::Status::Unanswered};
   return {.result = reply.result, .value = reply.value};
 }
+
+}  // namespace AdvancedControl

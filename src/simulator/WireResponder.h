@@ -3,9 +3,12 @@
 #include <string>
 #include <string_view>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
 #include "device/ProjectorChannel.h"
-#include "device/WireFrame.h"
+#include "device/protocol/WireFrame.h"
+
+namespace AdvancedControl {
 
 /// The projector's end of one connection: takes the bytes that come in and makes those that go out.
 class PROJECTOR_COMMON_EXPORT WireResponder {
@@ -25,3 +28,5 @@ class PROJECTOR_COMMON_EXPORT WireResponder {
   Wire::Decoder decoder_;
   bool greeted_ = false;
 };
+
+}  // namespace AdvancedControl

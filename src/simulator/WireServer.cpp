@@ -1,6 +1,5 @@
 #include "simulator/WireServer.h"
 
-#include <algorithm>
 #include <chrono>
 #include <utility>
 
@@ -8,24 +7,22 @@
 #include <QTcpSocket>
 #include <QTimer>
 
+#include "simulator/ServedConnection.h"
 #include "simulator/TcpListener.h"
 #include "simulator/WireResponder.h"
+
+namespace AdvancedControl {
 
 namespace {
 
 constexpr qint64 kLargestPiece = 4096;
 constexpr std::size_t kLargestBacklog = 256UL * 1024;
 constexpr auto kTimeForHello = std::chrono::seconds(10);
-constexpr auto kIdle = std::chrono::milliseconds(200);
 
-using Clock = std::chrono::steady_clock;
-
-/// One connection. Ends itself with its line.
-class Session final : public QObject {
+class Session final : public ServedConnection {
  public:
-  Session(std::unique_ptr<QIODevice> line, ProjectorChannel& projector, const LineFault& fault,
-          QObject* parent)
-      : QObject(parent), line_(line.release()), responder_(projector), replies_(*line_, fault) {
+  Session(std::unique_ptr<QIODevice> line, ProjectorChannel& projector, const LineFault& fault)
+      : line_(line.release()), responder_(projector), replies_(*line_, fault) {
     line_->setParent(this);
     connect(line_, &QIODevice::readyRead, this, &Session::Read);
     connect(line_, &QIODevice::aboutToClose, this, &QObject::deleteLater);
@@ -40,12 +37,12 @@ class Session final : public QObject {
     Read();
   }
 
-  bool IsIdle() const { return replies_.Backlog() == 0 && Clock::now() - lastRead_ >= kIdle; }
-  Clock::time_point LastRead() const { return lastRead_; }
+ protected:
+  std::size_t Backlog() const override { return replies_.Backlog(); }
 
  private:
   void Read() {
-    lastRead_ = Clock::now();
+    NoteRead();
     while (line_->bytesAvailable() > 0) {
       const QByteArray piece = line_->read(kLargestPiece);
       if (piece.isEmpty()) return;
@@ -58,49 +55,24 @@ class Session final : public QObject {
   QIODevice* const line_;
   WireResponder responder_;
   FaultyLine replies_;
-  Clock::time_point lastRead_{};
 };
 
 }  // namespace
 
 struct WireServer::Parts {
-  explicit Parts(std::shared_ptr<ProjectorChannel> served) : projector(std::move(served)) {
-    again.setSingleShot(true);
-    QObject::connect(&again, &QTimer::timeout, &server, [this] { ServeWaiting(); });
-    QObject::connect(&server, &QTcpServer::newConnection, &server, [this] { ServeWaiting(); });
-  }
+  explicit Parts(std::shared_ptr<ProjectorChannel> served) : projector(std::move(served)) {}
 
-  void ServeWaiting();
-  bool HasRoom();
+  Session* Serve(std::unique_ptr<QIODevice> line) {
+    return new Session(std::move(line), *projector, fault);
+  }
 
   std::shared_ptr<ProjectorChannel> projector;
   LineFault fault{};
-  QTimer again;
-  TcpListener server{kLargestPiece};
   QObject lines;
-  QObject connections;
+  TcpListener server{
+      {.connections = kMaximumConnections, .readBuffer = kLargestPiece},
+      [this](std::unique_ptr<QTcpSocket> socket) { return Serve(std::move(socket)); }};
 };
-
-void WireServer::Parts::ServeWaiting() {
-  while (server.hasPendingConnections()) {
-    if (!HasRoom()) return again.start(kIdle);
-    std::unique_ptr<QTcpSocket> socket(server.nextPendingConnection());
-    if (socket->state() != QAbstractSocket::ConnectedState) continue;  // left while it waited
-    new Session(std::move(socket), *projector, fault, &connections);
-  }
-}
-
-bool WireServer::Parts::HasRoom() {
-  const auto& open = connections.children();
-  if (open.size() < kMaximumConnections) return true;
-  const auto longest = std::ranges::min_element(open, {}, [](QObject* child) {
-    const auto* const session = static_cast<Session*>(child);
-    return std::pair(!session->IsIdle(), session->LastRead());
-  });
-  if (!static_cast<Session*>(*longest)->IsIdle()) return false;
-  delete *longest;
-  return true;
-}
 
 WireServer::WireServer(std::shared_ptr<ProjectorChannel> projector)
     : parts_(std::make_unique<Parts>(std::move(projector))) {}
@@ -114,7 +86,9 @@ std::uint16_t WireServer::Listen(const QHostAddress& address, std::uint16_t port
 std::string WireServer::ErrorText() const { return parts_->server.errorString().toStdString(); }
 
 void WireServer::Serve(std::unique_ptr<QIODevice> line) {
-  new Session(std::move(line), *parts_->projector, parts_->fault, &parts_->lines);
+  parts_->Serve(std::move(line))->setParent(&parts_->lines);
 }
 
 void WireServer::SetFault(const LineFault& fault) { parts_->fault = fault; }
+
+}  // namespace AdvancedControl

@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 
+#include "Namespace.h"
 #include "ProjectorCommonExport.h"
 #include "device/ProjectorChannel.h"
 #include "simulator/FaultyLine.h"
@@ -11,12 +12,13 @@
 class QHostAddress;
 class QIODevice;
 
+namespace AdvancedControl {
+
 /// Serves one projector over our wire: on a TCP port, and on lines that are handed over. Lives on a
 /// thread with an event loop; the projector should answer at once.
 class PROJECTOR_COMMON_EXPORT WireServer {
  public:
-  /// Of the port. Further ones wait until one ends, or until nothing has come for a moment over one
-  /// that owes no reply: the one of these that has been idle longest is closed.
+  /// Of the port, at once; see `TcpListener` for further ones.
   static constexpr int kMaximumConnections = 8;
 
   explicit WireServer(std::shared_ptr<ProjectorChannel> projector);
@@ -38,3 +40,5 @@ class PROJECTOR_COMMON_EXPORT WireServer {
   struct Parts;
   std::unique_ptr<Parts> parts_;
 };
+
+}  // namespace AdvancedControl

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 
@@ -19,9 +19,11 @@ bool MayFollow(const RestoredSetting& other, const RestoredSetting& told) {
     case Rank::Number:
       break;
   }
-  // Some have two ways to them, of which one may be for a source of its own.
+  // Two settings of one caption may be the same thing on two pages, but not for different sources,
+  // nor if one is for the horizontal and one for the vertical direction.
   const bool isElsewhere = own && told.saved.source && own != told.saved.source;
-  return !isElsewhere && other.setting->caption == told.setting->caption;
+  const bool isAcross = other.setting->key.ends_with("-h") != told.setting->key.ends_with("-h");
+  return !isElsewhere && !isAcross && other.setting->caption == told.setting->caption;
 }
 
 }  // namespace

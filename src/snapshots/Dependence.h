@@ -3,11 +3,12 @@
 #include <cstdint>
 #include <vector>
 
+#include "Namespace.h"
 #include "snapshots/Restoration.h"
 
 // Which settings of a projector depend on which others.
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// The input source selects which values the other settings have, and modes change the meaning of
 /// numbers. Each rank is therefore read again when an earlier rank was changed.

@@ -5,7 +5,7 @@
 
 #include "snapshots/Dependence.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 
@@ -191,11 +191,12 @@ Restoration::Group Restoration::SendTogether(const Group& group, const Way& way)
     }
     const SavedSetting& saved = restored->saved;
     const CPjtInterface::Tally before = connection_.Sent();
-    model_.Change(
+    const Sent result = model_.Change(
         connection_, *restored->setting, saved.value,
         {way.texts.Value(*restored->setting, saved.value), saved.source, way.progress.goesOn});
     way.progress.step();
-    const auto otherwise = Otherwise(before, connection_.Sent());
+    const auto otherwise =
+        result == Sent::Nothing ? std::nullopt : Otherwise(before, connection_.Sent());
     if (!otherwise) {
       restored->turn = 0;
       continue;

@@ -6,10 +6,11 @@
 #include <string>
 #include <vector>
 
+#include "Namespace.h"
 #include "ProjectorSettingsExport.h"
 #include "snapshots/Snapshot.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// The result for one saved setting.
 enum class Outcome : std::uint8_t {

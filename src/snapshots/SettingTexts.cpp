@@ -9,7 +9,7 @@
 #include "i18n/SystemLanguage.h"
 #include "settings/CatalogNumbers.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 
@@ -43,6 +43,11 @@ bool IsNameShared(const ModelSetting& setting, const ListEntry& entry) {
          std::ranges::any_of(setting.entries, [&entry](const ListEntry& other) {
            return !other.text && other.value != entry.value && SameText(other.name, entry.name);
          });
+}
+
+/// The name of "HDMI (31)" without what makes it unique.
+std::string_view PlainName(std::string_view name) {
+  return name.ends_with(')') ? name.substr(0, name.rfind(" (")) : name;
 }
 
 /// Caption number of "V" or "H", which such a setting's row shows behind its caption; 0 for others.
@@ -164,6 +169,12 @@ std::optional<TypedValue> SettingTexts::Parse(const ModelSetting& setting,
     const bool isIt = IsNameShared(setting, entry) ? SameText(Entry(setting, entry), text)  //
                                                    : Is(entry, text);
     if (isIt) return TypedValue{entry.value};
+  }
+  const auto isPlainName = [&text](const ListEntry& entry) {
+    return !entry.text && SameText(PlainName(entry.name), text);
+  };
+  if (std::ranges::count_if(setting.entries, isPlainName) == 1) {
+    return TypedValue{std::ranges::find_if(setting.entries, isPlainName)->value};
   }
   if (IsPower(setting) && Is(ListEntry(ListText::PowerStandby), text)) return TypedValue{0};
   const bool absolute = text.starts_with('=');

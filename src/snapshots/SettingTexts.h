@@ -6,11 +6,12 @@
 #include <string>
 #include <string_view>
 
+#include "Namespace.h"
 #include "ProjectorSettingsExport.h"
 #include "i18n/CatalogTexts.h"
 #include "settings/ModelSettings.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// What a person typed for a setting.
 struct TypedValue {
@@ -49,8 +50,9 @@ class PROJECTOR_SETTINGS_EXPORT SettingTexts {
   std::string Values(const ModelSetting& setting) const;
 
   /// Parses a number as it is shown, with "=-3" for one below zero; a step, "+3" or "-3"; or, for a
-  /// list, an entry's text in any language and case, or its device value. Nothing for any other
-  /// text, or for a name that several entries have.
+  /// list, an entry's text in any language and case, its name
+  /// without the number in parentheses that makes it unique, or its device value. Nothing for any
+  /// other text, or for a name that several entries have.
   std::optional<TypedValue> Parse(const ModelSetting& setting, std::string_view text) const;
 
  private:

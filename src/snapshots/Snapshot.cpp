@@ -2,7 +2,7 @@
 
 #include <QDateTime>
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 Snapshot EmptySnapshot(const std::string& projector, const ModelData& model) {
   return {.projector = projector,

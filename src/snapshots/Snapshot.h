@@ -7,10 +7,11 @@
 #include <QByteArray>
 #include <QString>
 
+#include "Namespace.h"
 #include "ProjectorSettingsExport.h"
 #include "snapshots/SettingTexts.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// A saved setting.
 struct SavedSetting {

@@ -26,7 +26,7 @@ struct WrongSnapshot {
 
 }  // namespace
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

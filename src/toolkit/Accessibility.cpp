@@ -8,12 +8,16 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QPointer>
 
 #include "toolkit/CComboBox.h"
 #include "toolkit/CSliderCtrl.h"
+#include "toolkit/CurveView.h"
 #include "toolkit/InputDialog.h"
 #include "toolkit/WindowText.h"
+
+namespace AdvancedControl {
 
 namespace {
 
@@ -264,22 +268,25 @@ class DialogInterface final : public QAccessibleWidget {
 };
 
 QAccessibleInterface* MakeInterface(const QString& className, QObject* object) {
-  if (className == QLatin1String("CSliderCtrl")) {
+  const auto isClass = [&](const QMetaObject& meta) {
+    return className == QLatin1String(meta.className());
+  };
+  if (isClass(CSliderCtrl::staticMetaObject)) {
     return new SliderInterface(static_cast<CSliderCtrl*>(object));
   }
-  if (className == QLatin1String("CComboBox")) {
+  if (isClass(CComboBox::staticMetaObject)) {
     return new ComboInterface(static_cast<CComboBox*>(object));
   }
-  if (className == QLatin1String("QCheckBox") && qobject_cast<TemplateDialog*>(object->parent())) {
+  if (isClass(QCheckBox::staticMetaObject) && qobject_cast<TemplateDialog*>(object->parent())) {
     return new CheckInterface(static_cast<QCheckBox*>(object));
   }
-  if (className == QLatin1String("CurveView")) {
+  if (isClass(CurveView::staticMetaObject)) {
     return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Graphic);
   }
-  if (className == QLatin1String("TemplateDialog")) {
+  if (isClass(TemplateDialog::staticMetaObject)) {
     return new DialogInterface(static_cast<QWidget*>(object));
   }
-  if (className == QLatin1String("QListView") && object->parent() != nullptr) {
+  if (isClass(QListView::staticMetaObject) && object->parent() != nullptr) {
     // A drop-down lies in a frame of its list.
     if (auto* combo = qobject_cast<CComboBox*>(object->parent()->parent())) {
       return new EntriesInterface(static_cast<QWidget*>(object), combo);
@@ -347,3 +354,5 @@ void NameControls(const TemplateDialog& dialog) {
     }
   }
 }
+
+}  // namespace AdvancedControl

@@ -1,5 +1,9 @@
 #pragma once
 
+#include "Namespace.h"
+
+namespace AdvancedControl {
+
 class TemplateDialog;
 
 /// Makes dialogs, lists and sliders tell assistive technologies what they are, and take from them
@@ -9,3 +13,5 @@ void InstallAccessibility();
 /// Names the controls of a created dialog by their rows' captions, and makes each caption the
 /// partner of its row's value.
 void NameControls(const TemplateDialog& dialog);
+
+}  // namespace AdvancedControl

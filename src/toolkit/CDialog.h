@@ -15,7 +15,7 @@
 /// owner may die in any way. In that case the dialog leaves its owner and ends, together with its
 /// pop-ups and message boxes, and is deleted after the handler if `SetDeletedWithOwner` says so.
 /// The dialog must not be deleted directly (`delete dialog`, or as a member of the owner).
-class ADVANCED_CONTROL_EXPORT CDialog : public OwnedDialog {
+class ADVANCED_CONTROL_EXPORT CDialog : public AdvancedControl::OwnedDialog {
   Q_OBJECT
 
  public:
@@ -40,7 +40,7 @@ class ADVANCED_CONTROL_EXPORT CDialog : public OwnedDialog {
   int DoModal();
 
   /// The notifications of the dialog's controls; each dialog class overrides this.
-  virtual const NotificationMap& Notifications() const;
+  virtual const AdvancedControl::NotificationMap& Notifications() const;
 
   void setVisible(bool visible) override;
 
@@ -61,7 +61,7 @@ class ADVANCED_CONTROL_EXPORT CDialog : public OwnedDialog {
  private:
   void CentreOnOwner();
   void ConnectNotifications();
-  void RunHandler(const Notification& entry, CSliderCtrl* slider);
+  void RunHandler(const AdvancedControl::Notification& entry, CSliderCtrl* slider);
 
   bool named_ = false;  // for assistive technologies
   std::function<void()> showUnread_;

@@ -5,6 +5,8 @@
 
 #include <QPainter>
 
+namespace AdvancedControl {
+
 namespace {
 
 // In pixels.
@@ -80,3 +82,5 @@ void CurveView::paintEvent(QPaintEvent*) {
     labelAt += labels * 0.8;
   }
 }
+
+}  // namespace AdvancedControl

@@ -6,6 +6,10 @@
 #include <QString>
 #include <QWidget>
 
+#include "Namespace.h"
+
+namespace AdvancedControl {
+
 /// Lines in a frame, for those who would rather look than read: what is accepted solid, what is
 /// being tried dotted. Takes neither input nor the focus.
 class CurveView : public QWidget {
@@ -36,3 +40,5 @@ class CurveView : public QWidget {
 
   std::vector<Line> lines_;
 };
+
+}  // namespace AdvancedControl

@@ -5,6 +5,10 @@
 #include <cstdint>
 #include <span>
 
+#include "Namespace.h"
+
+namespace AdvancedControl {
+
 /// The kind of a template's control.
 enum class ControlKind : std::uint8_t {
   None,
@@ -107,3 +111,5 @@ constexpr RowTemplate SliderRow(RowPlace place, const ControlTemplate& label, in
 }
 
 }  // namespace tmpl
+
+}  // namespace AdvancedControl

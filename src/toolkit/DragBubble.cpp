@@ -11,6 +11,8 @@
 
 #include "toolkit/CSliderCtrl.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 constexpr int kGap = 4;
@@ -66,3 +68,5 @@ void AttachDragBubble(CSliderCtrl& slider) {
   };
   QObject::connect(&slider, &CSliderCtrl::Scrolling, &slider, show);
 }
+
+}  // namespace AdvancedControl

@@ -7,6 +7,8 @@
 #include <QScrollBar>
 #include <QStyle>
 
+namespace AdvancedControl {
+
 namespace {
 
 // Of a window manager's frame nothing is known before the window is on the screen.
@@ -55,3 +57,5 @@ void CentreOnScreen(QWidget& window, const QWidget& owner) {
   window.move(std::max(screen.left(), std::min(at.x(), last.x())),
               std::max(screen.top(), std::min(at.y(), last.y())));
 }
+
+}  // namespace AdvancedControl

@@ -2,6 +2,10 @@
 
 #include <QScrollArea>
 
+#include "Namespace.h"
+
+namespace AdvancedControl {
+
 /// A frameless view of contents that the screen may have no room for: they are as large as the view
 /// or scroll, and the control that gets the focus is brought into sight.
 class FittedScroll : public QScrollArea {
@@ -23,3 +27,5 @@ QSize FittedToScreen(const QWidget& window, QSize wanted);
 
 /// Puts `window` over the middle of `owner`, or as near as the screen allows.
 void CentreOnScreen(QWidget& window, const QWidget& owner);
+
+}  // namespace AdvancedControl

@@ -7,6 +7,8 @@
 
 #include "toolkit/InputGate.h"
 
+namespace AdvancedControl {
+
 InputDialog::Busy::Busy(const QWidget* dialog)
     : top_(dialog != nullptr ? qobject_cast<InputDialog*>(dialog->window()) : nullptr) {
   if (top_ == nullptr || ++top_->busy_ > 1) return;
@@ -43,3 +45,5 @@ void InputDialog::keyPressEvent(QKeyEvent* event) {
     TemplateDialog::keyPressEvent(event);
   }
 }
+
+}  // namespace AdvancedControl

@@ -1,7 +1,10 @@
 #pragma once
 
 #include "AdvancedControlExport.h"
+#include "Namespace.h"
 #include "toolkit/TemplateDialog.h"
+
+namespace AdvancedControl {
 
 /// Controls user input while handlers run. A handler may run an event loop: while a command waits,
 /// or for a message box or pop-up. Until the last handler returns, input to the controls is
@@ -58,3 +61,5 @@ class ADVANCED_CONTROL_EXPORT InputDialog : public TemplateDialog {
   int busy_ = 0;       // handlers that run, one in another
   bool left_ = false;  // what they do
 };
+
+}  // namespace AdvancedControl

@@ -7,6 +7,8 @@
 
 #include "toolkit/TemplateDialog.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 // What begins something. What ends it, as a release does, must reach the control that has begun.
@@ -69,3 +71,5 @@ bool InputGate::eventFilter(QObject* watched, QEvent* event) {
   const TemplateDialog* dialog = DialogOf(target);
   return std::ranges::count(closed_, dialog) > 0 && !dialog->IsWayOut(target);
 }
+
+}  // namespace AdvancedControl

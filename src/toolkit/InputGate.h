@@ -4,6 +4,10 @@
 
 #include <QObject>
 
+#include "Namespace.h"
+
+namespace AdvancedControl {
+
 class TemplateDialog;
 
 /// Drops what the user does to the controls of dialogs whose handlers run. Only while there is such
@@ -22,3 +26,5 @@ class InputGate final : public QObject {
 
   std::vector<const TemplateDialog*> closed_;
 };
+
+}  // namespace AdvancedControl

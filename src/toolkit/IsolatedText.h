@@ -3,6 +3,10 @@
 #include <QString>
 #include <QStyledItemDelegate>
 
+#include "Namespace.h"
+
+namespace AdvancedControl {
+
 /// `text` as it reads by itself, whatever the direction of what it is shown in: from right to left
 /// "#1-Default" would become "Default-#1". For drawing alone: the marks are no part of the text.
 inline QString Isolated(const QString& text) {
@@ -18,3 +22,5 @@ class IsolatedTexts : public QStyledItemDelegate {
     return Isolated(QStyledItemDelegate::displayText(value, locale));
   }
 };
+
+}  // namespace AdvancedControl

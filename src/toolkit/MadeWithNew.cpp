@@ -3,6 +3,8 @@
 #include <functional>
 #include <vector>
 
+namespace AdvancedControl {
+
 namespace {
 
 struct Block {
@@ -45,3 +47,5 @@ void MadeWithNew::operator delete(void* object) {
   TakeNewBlock(object);  // still there if no object came to be constructed
   ::operator delete(object);
 }
+
+}  // namespace AdvancedControl

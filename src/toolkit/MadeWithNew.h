@@ -4,6 +4,9 @@
 #include <new>
 
 #include "AdvancedControlExport.h"
+#include "Namespace.h"
+
+namespace AdvancedControl {
 
 /// Records whether an object was made with `new`. Such an object may be deleted, for example by its
 /// Qt parent; a local variable, a member or a base class object is destroyed by the language alone.
@@ -28,3 +31,5 @@ class ADVANCED_CONTROL_EXPORT MadeWithNew {
  private:
   const bool isMadeWithNew_;
 };
+
+}  // namespace AdvancedControl

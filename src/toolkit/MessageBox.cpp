@@ -6,6 +6,8 @@
 
 #include "toolkit/OwnedDialog.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 int Run(QWidget* owner, QMessageBox::Icon icon, const QString& text,
@@ -42,3 +44,5 @@ bool AskYesNo(QWidget* owner, const QString& text, const ButtonTexts& buttons) {
   return Run(owner, QMessageBox::Information, text, QMessageBox::Yes | QMessageBox::No,
              QMessageBox::No, buttons) == QMessageBox::Yes;
 }
+
+}  // namespace AdvancedControl

@@ -2,7 +2,11 @@
 
 #include <QString>
 
+#include "Namespace.h"
+
 class QWidget;
+
+namespace AdvancedControl {
 
 /// What the buttons bear; an empty text leaves the toolkit's own.
 struct ButtonTexts {
@@ -16,3 +20,5 @@ void ShowStopMessage(QWidget* owner, const QString& text, const ButtonTexts& but
 /// Asks the user: information icon, Yes and No buttons, No preselected. Closing the box or Esc
 /// answers No. True for Yes.
 bool AskYesNo(QWidget* owner, const QString& text, const ButtonTexts& buttons = {});
+
+}  // namespace AdvancedControl

@@ -8,8 +8,12 @@
 #include <utility>
 #include <vector>
 
+#include "Namespace.h"
+
 class CDialog;
 class CSliderCtrl;
+
+namespace AdvancedControl {
 
 /// What a control reports, and its handler.
 struct Notification {
@@ -63,3 +67,5 @@ Notification HScroll(void (Dialog::*handler)(CSliderCtrl&)) {
 inline Notification Passive(int id) {
   return {Notification::Event::Passive, id, [](CDialog&, CSliderCtrl*) {}};
 }
+
+}  // namespace AdvancedControl

@@ -7,6 +7,8 @@
 #include <QApplication>
 #include <QEvent>
 
+namespace AdvancedControl {
+
 namespace {
 
 // Open top-level dialogs, oldest first.
@@ -143,3 +145,5 @@ void OwnedDialog::AfterHandlers() {
   QObject::connect(last, &QObject::destroyed, [dialog = QPointer(this)] { delete dialog; });
   last->deleteLater();
 }
+
+}  // namespace AdvancedControl

@@ -6,8 +6,11 @@
 #include <QPointer>
 
 #include "AdvancedControlExport.h"
+#include "Namespace.h"
 #include "toolkit/InputDialog.h"
 #include "toolkit/MadeWithNew.h"
+
+namespace AdvancedControl {
 
 /// The lifetime of a dialog: its creation, its closing, the death of its owner, and its deletion,
 /// which waits for running handlers. docs/waiting.md says what a host may do.
@@ -72,3 +75,5 @@ class ADVANCED_CONTROL_EXPORT OwnedDialog : public InputDialog, public MadeWithN
   QPointer<QWidget> owner_;  // borrowed
   QMetaObject::Connection ownerDies_;
 };
+
+}  // namespace AdvancedControl

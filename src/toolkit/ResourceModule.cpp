@@ -4,6 +4,8 @@
 #include <utility>
 #include <vector>
 
+namespace AdvancedControl {
+
 namespace {
 
 struct Chain {
@@ -54,3 +56,5 @@ const DialogTemplate* FindDialog(int number) {
 }
 
 }  // namespace ResourceChain
+
+}  // namespace AdvancedControl

@@ -2,7 +2,10 @@
 
 #include <span>
 
+#include "Namespace.h"
 #include "toolkit/DialogTemplate.h"
+
+namespace AdvancedControl {
 
 /// The resources of one library or program. A module is constant data and outlives its users.
 class ResourceModule {
@@ -35,3 +38,5 @@ void Unregister(const ResourceModule& module);
 const DialogTemplate* FindDialog(int number);
 
 }  // namespace ResourceChain
+
+}  // namespace AdvancedControl

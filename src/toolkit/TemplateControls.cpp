@@ -14,6 +14,8 @@
 #include "toolkit/CSliderCtrl.h"
 #include "toolkit/CTabCtrl.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 constexpr int kSliderMinimumWidth = 150;
@@ -211,3 +213,5 @@ void PlaceRow(const RowTemplate& row, const std::vector<QWidget*>& controls, QGr
                 arrows ? RowColumn::Slider : RowColumn::Minus,
                 fieldColumnTaken ? RowColumn::Field : RowColumn::Count);
 }
+
+}  // namespace AdvancedControl

@@ -2,10 +2,13 @@
 
 #include <vector>
 
+#include "Namespace.h"
 #include "toolkit/DialogTemplate.h"
 
 class QGridLayout;
 class QWidget;
+
+namespace AdvancedControl {
 
 /// Columns that every row of every dialog shares, so that the dialogs look like one family.
 namespace RowColumn {
@@ -28,3 +31,5 @@ QWidget* MakeControl(const ControlTemplate& control, QWidget* parent);
 /// Places a row's controls, in template order, into one grid row, centred on its text line.
 void PlaceRow(const RowTemplate& row, const std::vector<QWidget*>& controls, QGridLayout* grid,
               int gridRow);
+
+}  // namespace AdvancedControl

@@ -13,6 +13,8 @@
 #include "toolkit/ResourceModule.h"
 #include "toolkit/TemplateControls.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 constexpr int kColumnGap = 32;
@@ -255,3 +257,5 @@ QSize TemplateDialog::DialogSize() const {
   if (layout() != nullptr) size = size.expandedTo(layout()->totalSizeHint());
   return size;
 }
+
+}  // namespace AdvancedControl

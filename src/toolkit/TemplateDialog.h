@@ -7,10 +7,13 @@
 #include <QPointer>
 
 #include "AdvancedControlExport.h"
+#include "Namespace.h"
 #include "toolkit/CWnd.h"
 #include "toolkit/DialogTemplate.h"
 
 class QGridLayout;
+
+namespace AdvancedControl {
 
 /// A dialog laid out by a numbered template: makes the controls, finds them by number, and gives
 /// all present rows the same pitch. User-interface thread only.
@@ -98,3 +101,5 @@ class ADVANCED_CONTROL_EXPORT TemplateDialog : public QDialog {
   std::vector<const QWidget*> waysOut_;  // tabs and Close
   std::vector<PlacedRow> rows_;          // of the template, in its order
 };
+
+}  // namespace AdvancedControl

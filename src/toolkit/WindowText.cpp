@@ -4,6 +4,8 @@
 #include <QDialog>
 #include <QLabel>
 
+namespace AdvancedControl {
+
 QString WindowText(const QWidget& window) {
   if (const auto* label = qobject_cast<const QLabel*>(&window)) return label->text();
   if (const auto* button = qobject_cast<const QAbstractButton*>(&window)) return button->text();
@@ -20,3 +22,5 @@ void SetWindowText(QWidget& window, const QString& text) {
     dialog->setWindowTitle(text);
   }
 }
+
+}  // namespace AdvancedControl

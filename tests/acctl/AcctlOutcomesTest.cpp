@@ -163,6 +163,8 @@ TEST(AcctlSet, StopsWhereItIsInterruptedAndDoesNotBeginWhatCannotBeReached) {
   const QString key = "image.position-h";
   EXPECT_THAT(Acctl(simulator.At({"set", kRoom, key, "70000"})),
               Ends(2, HasSubstr("'70000' is not one of: ")));
+  EXPECT_THAT(Acctl(simulator.At({"set", kRoom, "picture.tint", "3", key, "60000"})),
+              Ends(2, HasSubstr("'60000' is more than 4096 steps from ")));
   QProcess watch;
   watch.start(ACCTL_PROGRAM, simulator.At({"watch", kRoom, key, "--interval", "0.05"}));
   ASSERT_TRUE(watch.waitForReadyRead(30'000));
@@ -184,9 +186,17 @@ TEST(AcctlSet, StopsWhereItIsInterruptedAndDoesNotBeginWhatCannotBeReached) {
   EXPECT_EQ(Entry(set)["changes"][0]["outcome"], "stopped");
   const QTemporaryDir folder;
   const QString file = folder.filePath("far.json");
-  Write(file, R"({"format": "advanced-control-settings", "version": 1,
+  const auto write = [&](const char* value) {
+    Write(file, QByteArray(R"({"format": "advanced-control-settings", "version": 1,
       "model": {"name": "Model 5-30", "dialogType": 5, "modelCode": 30},
-      "settings": [{"key": "image.position-h", "value": 120}]})");
+      "settings": [{"key": "image.position-h", "value": )") +
+                    value + "}]}");
+  };
+  write("60000");
+  const Outcome far = Acctl(simulator.At({"--json", "apply", file, kRoom}));
+  EXPECT_THAT(far, Ends(1, HasSubstr(": not sent, it is more than 4096 steps away\n")));
+  EXPECT_EQ(Entry(far)["notDone"][0]["key"], key);
+  write("120");
   const Outcome apply = interrupt({"--json", "apply", file, kRoom});
   EXPECT_THAT(apply, isStopped);
   EXPECT_EQ(Entry(apply)["notDone"][0]["key"], key);
@@ -214,6 +224,10 @@ TEST(AcctlPjLink, TellsStandbyAsAStateAndNotAsFailures) {
     EXPECT_EQ(get.exitCode, 0);
     EXPECT_EQ(Entry(get)["power"], member);
     EXPECT_TRUE(Entry(get)["unread"].toArray().contains("status.mute"));
+    ScriptedPjLink asked(Projector(power));
+    EXPECT_THAT(any.Run(asked, {"get", "Any", "status.mute"}), Ends(0, StartsWith(left)));
+    EXPECT_EQ(asked.Count("AVMT ?"), 1);
+    EXPECT_EQ(asked.Count("POWR ?"), 1);
     EXPECT_THAT(any.Run(projector, {"save", "Any", kept}),
                 Ends(0, AllOf(StartsWith(left), HasSubstr("nothing was written"))));
     EXPECT_EQ(Contents(kept), "precious");
@@ -236,6 +250,12 @@ TEST(AcctlPjLink, OffersOnlyWhatTheProtocolHasAndTellsInputsOfOneNameApart) {
               Ends(0, "acctl: Any: audio.*: skipped, PJLink does not have it\n"));
   EXPECT_THAT(any.Run(projector, {"set", "Any", "picture.tint", "1"}),
               Ends(2, "acctl: Any: picture.tint: PJLink does not have it\n"));
+  // Class 1 tells no names; "Digital 2" is one input's alone.
+  EXPECT_THAT(any.Run(projector, {"settings", "Any"}).output, HasSubstr("Digital 1 (31), Dig"));
+  EXPECT_THAT(any.Run(projector, {"get", "Any", "status.input-source"}).output,
+              HasSubstr("  Digital 1 (31)\n"));
+  EXPECT_EQ(any.Run(projector, {"set", "Any", "other.input-source", "digital 2"}, "3").exitCode, 0);
+  EXPECT_EQ(projector.Count("INPT 32"), 1);
 
   const QTemporaryDir folder;
   const QString named = folder.filePath("named.json");
@@ -250,6 +270,26 @@ TEST(AcctlPjLink, OffersOnlyWhatTheProtocolHasAndTellsInputsOfOneNameApart) {
               Ends(2, HasSubstr("'HDMI' is not one of: HDMI (31), hdmi (32)\n")));
   EXPECT_THAT(run({"set", "Any", "other.input-source", "hdmi (31)"}), Ends(0, ""));
   EXPECT_THAT(run({"set", "Any", "other.input-source", "31"}), Ends(0, ""));
+}
+
+TEST(AcctlPjLink, ChecksAndRunsACommandForSeveralProjectorsOverOneConnectionEach) {
+  ScriptedPjLink one(Projector("1")), other(Projector("1"));
+  const QTemporaryDir folder;
+  const QString both = folder.filePath("both.json");
+  const auto profile = [](const char* name, const ScriptedPjLink& projector) {
+    return QByteArray(R"({"name": ")") + name +
+           R"(", "model": "M", "dialogType": 5, "modelCode": 30,
+               "link": "pjlink", "connection": {"network": {"address": "127.0.0.1", "port": )" +
+           QByteArray::number(projector.Port()) + "}}}";
+  };
+  Write(both, R"({"projectors": [)" + profile("A", one) + ", " + profile("B", other) + "]}");
+  EXPECT_THAT(
+      Acctl({"--profiles", both, "--timeout", "60", "set", "?", "other.input-source", "31"}),
+      Ends(0, ""));
+  for (ScriptedPjLink* const projector : {&one, &other}) {
+    EXPECT_EQ(projector->Count("INPT 31"), 1);
+    EXPECT_EQ(projector->Connections(), 1);
+  }
 }
 
 TEST(AcctlPjLink, StepsTheVolumeThatNobodyCanRead) {
@@ -309,6 +349,15 @@ TEST(AcctlPjLink, TellsAcceptedAndNotYetSoBusyAndUnconfirmedApart) {
     return request == "AVMT ?" ? "hang up" : "OK";
   };
   EXPECT_EQ(outcome(fallsSilent, 3, "accepted, but no answer (connection lost)\n"), "unconfirmed");
+  bool wasLost = false;
+  const auto loses = [others = Projector("1"), &wasLost](const std::string& request) {
+    if (request == "AVMT ?" && wasLost) return std::string("31");
+    const bool isFirst = request == "AVMT 21" && !std::exchange(wasLost, true);
+    return isFirst ? "hang up" : others(request);
+  };
+  ScriptedPjLink losing(loses);
+  EXPECT_THAT(any.Run(losing, set, kTimeOut), Ends(0, ""));
+  EXPECT_EQ(losing.Count("AVMT 21"), 2);
 
   ScriptedPjLink stepped(ProjectorBut("AVMT 21", "ERR2"));
   EXPECT_EQ(any.Run(stepped, {"set", "Any", "other.mute", "+1"}).exitCode, 1);

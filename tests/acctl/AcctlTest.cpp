@@ -129,7 +129,7 @@ TEST(Acctl, TellsWhatIsRefusedAndWhatDoesNotAnswer) {
   const QStringList any{
       "--profiles", folder.filePath("any"), "--connect", simulator.Address("pjlink"), "set",
       "Any",        "other.input-source",   "RGB2"};
-  EXPECT_THAT(Acctl(any + QStringList{"--password", "secret"}).output, HasSubstr(" RGB2\n"));
+  EXPECT_THAT(Acctl(any + QStringList{"--password", "secret"}).output, HasSubstr(" RGB2 (32)\n"));
   EXPECT_THAT(Acctl(any), Ends(3, HasSubstr("no answer (password missing or wrong)\n")));
 
   const Simulator silent({"--fault", "silent"});

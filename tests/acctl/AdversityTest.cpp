@@ -203,8 +203,8 @@ TEST(Adversity, TheSimulatorServesOnAfterAFailedAcceptAndBehindIdleConnections) 
     return Shell("exec 3<> /dev/tcp/127.0.0.1/\"$1\" && read -t 60 -n 1 -u 3; [[ $? -le 1 ]]",
                  {simulator.Address("tcp").section(':', -1)});
   };
-  const auto status = [](const Simulator& simulator) {
-    return Acctl(simulator.At({"--timeout", "20", "status", kRoom}));
+  const auto status = [](const Simulator& simulator, const char* way) {
+    return Acctl({"--connect", simulator.Address(way), "--timeout", "20", "status", kRoom});
   };
   std::optional<Simulator> simulator;
 #if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
@@ -213,16 +213,19 @@ TEST(Adversity, TheSimulatorServesOnAfterAFailedAcceptAndBehindIdleConnections) 
     simulator.emplace();
   }
   EXPECT_EQ(connect(*simulator).exitCode, 0) << "it is closed";
-  EXPECT_THAT(status(*simulator), Ends(0, ""));
+  EXPECT_THAT(status(*simulator, "tcp"), Ends(0, ""));
 #endif
   simulator.emplace();
-  QProcess idle;
-  idle.start("bash", {"-c", "for i in {1..8}; do exec {n}<> /dev/tcp/127.0.0.1/$0; done; echo; cat",
-                      simulator->Address("tcp").section(':', -1)});
-  ASSERT_TRUE(idle.waitForReadyRead(60'000));
-  EXPECT_THAT(status(*simulator), Ends(0, ""));
-  idle.closeWriteChannel();
-  EXPECT_EQ(Finish(idle).exitCode, 0);
+  for (const char* const way : {"tcp", "pjlink"}) {
+    QProcess idle;
+    idle.start("bash",
+               {"-c", "for i in {1..19}; do exec {n}<> /dev/tcp/127.0.0.1/$0; done; echo; cat",
+                simulator->Address(way).section(':', -1)});
+    ASSERT_TRUE(idle.waitForReadyRead(60'000));
+    EXPECT_THAT(status(*simulator, way), Ends(0, ""));
+    idle.closeWriteChannel();
+    EXPECT_EQ(Finish(idle).exitCode, 0);
+  }
 }
 
 TEST(Adversity, TheSimulatorWritesItsProfilesIntoAPipe) {

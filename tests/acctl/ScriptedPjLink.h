@@ -24,6 +24,9 @@ class ScriptedPjLink {
     return QStringList{"--connect", QStringLiteral("pjlink://127.0.0.1:%1").arg(peer_.port)} +
            arguments;
   }
+  int Port() const { return peer_.port; }
+  /// How many connections were made so far.
+  int Connections() const { return connections_; }
   /// How often something was asked so far.
   auto Count(const std::string& request) {
     const std::lock_guard lock(mutex_);
@@ -45,7 +48,10 @@ class ScriptedPjLink {
   const Script script_;
   std::mutex mutex_;
   std::vector<std::string> requests_;
-  Peer peer_{
-      Way::Tcp,
-      {Peer::AnswersLines("PJLINK 0\r", [this](const std::string& line) { return Answer(line); })}};
+  std::atomic<int> connections_ = 0;
+  Peer peer_{Way::Tcp, {[this](Peer::End& end) {
+               ++connections_;
+               Peer::AnswersLines("PJLINK 0\r",
+                                  [this](const std::string& line) { return Answer(line); })(end);
+             }}};
 };

@@ -9,6 +9,7 @@
 #include "app/desktop/log/CommandLog.h"
 #include "app/desktop/log/SettingNames.h"
 #include "tests/support/Programs.h"
+#include "tests/support/Soon.h"
 
 namespace {
 
@@ -84,7 +85,7 @@ TEST(CommandLog, CopiesAndSavesWhatItShowsAndKeepsUp) {
   ASSERT_TRUE(QTest::qWaitForWindowActive(&log));
   auto& table = *log.findChild<QTableView*>();
   log.Add(Entry("A", kChange, {.result = 1}));
-  ASSERT_TRUE(QTest::qWaitFor([&table] { return table.model()->rowCount() == 1; }));
+  ASSERT_TRUE(Soon([&table] { return table.model()->rowCount() == 1; }));
   EXPECT_EQ(table.visualRect(table.model()->index(0, 0)).bottom(), table.viewport()->height() - 1);
   log.Clear();
   int insertions = 0;
@@ -93,7 +94,7 @@ TEST(CommandLog, CopiesAndSavesWhatItShowsAndKeepsUp) {
     log.Add(Entry("A", kRead, {.result = 1, .value = 1}));
     log.Add(Entry("A", kChange, {.result = 1}));
   }
-  ASSERT_TRUE(QTest::qWaitFor([&table] { return table.model()->rowCount() == 10'000; }));
+  ASSERT_TRUE(Soon([&table] { return table.model()->rowCount() == 10'000; }));
   EXPECT_LT(insertions, 100) << "many at a time";
   EXPECT_TRUE(
       table.viewport()->rect().contains(table.visualRect(table.model()->index(9999, 0)).topLeft()));

@@ -28,6 +28,7 @@
 #include "host/CAdvanceDlg.h"
 #include "i18n/Catalog.h"
 #include "tests/app/Windows.h"
+#include "tests/support/Soon.h"
 
 namespace {
 
@@ -44,9 +45,8 @@ TEST(MainWindow, HasOneDialogPerProjectorAndLogsTheirCommands) {
   EXPECT_EQ(window.Dialog(0), nullptr);
   EXPECT_NE(window.OpenDialog(0), nullptr);
   EXPECT_TRUE(window.isEnabled() && table.isEnabled());
-  QTest::qWait(100);  // the log gathers entries
   const auto* log = window.findChild<CommandLog*>()->findChild<QTableView*>()->model();
-  EXPECT_GT(log->rowCount(), 10);
+  EXPECT_TRUE(Soon([log] { return log->rowCount() > 10; })) << "the log gathers entries";
   EXPECT_TRUE(LogText(*log, {0}).contains("\tB\tGet Power Status 0x6000\t1\tok\t"));
   const QRect newest = window.findChild<CommandLog*>()->NewestRows();
   EXPECT_FALSE(newest.isEmpty() || newest.intersects(window.Dialog(0)->frameGeometry()));
@@ -86,7 +86,7 @@ TEST(MainWindow, WhatItAsksHoldsUpNoDialogAndWorkOnProjectorsWaitsForThem) {
   EXPECT_FALSE(QFile::exists(file));
   session.ClearFaults();
   const QPointer watched = progress;
-  ASSERT_TRUE(QTest::qWaitFor([&] { return watched == nullptr; }, 60'000));
+  ASSERT_TRUE(Soon([&] { return watched == nullptr; }));
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << "nothing went wrong";
   EXPECT_EQ(ReadSettingsFile(file).error, "");
 }

@@ -72,12 +72,12 @@ class PjLinkAccess : public testing::Test {
 TEST_F(PjLinkAccess, AsksOnlyWhatTheCommandNeedsAndRemembersWhatTheProjectorIs) {
   const auto showsInput = [](ProjectorAccess& access) {
     access.AskForInputs(InputsNeeded::Present);
-    EXPECT_EQ(InputName(access), "HDMI");
+    EXPECT_EQ(InputName(access), "HDMI (31)");
   };
   const auto listsInputs = [](ProjectorAccess& access) {
     access.AskForInputs(InputsNeeded::All);
     EXPECT_EQ(access.Settings().Model().MySourceList,
-              SourcesOf({{31, "HDMI (31)"}, {32, "HDMI (32)"}, {510, "Office"}}));
+              SourcesOf({{31, "HDMI"}, {32, "HDMI"}, {510, "Office"}}, InputCodes::AllNames));
     EXPECT_FALSE(access.LacksInputs());
     EXPECT_TRUE(
         access.Settings().Read(access.Connection(), *access.Settings().Find("status.power")));

@@ -13,6 +13,7 @@
 #include "app/desktop/MainWindow.h"
 #include "host/CAdvanceDlg.h"
 #include "tests/app/Windows.h"
+#include "tests/support/Soon.h"
 
 namespace {
 

@@ -11,6 +11,7 @@
 #include "app/desktop/projectors/ProjectorSession.h"
 #include "app/desktop/settings/SettingsActions.h"
 #include "app/profiles/SettingsFile.h"
+#include "tests/support/Soon.h"
 
 namespace {
 
@@ -62,7 +63,7 @@ TEST(SettingsActions, PutsBackWhatIsCheckedOnEveryProjector) {
                          return true;
                        });
   dialog.show();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Column(dialog, kSettingColumn).size() >= 50; }));
+  ASSERT_TRUE(Soon([&] { return Column(dialog, kSettingColumn).size() >= 50; }));
   EXPECT_EQ(Column(dialog, kResultColumn)[5], "not read");
   QAbstractItemModel& model = *dialog.findChild<QTreeView*>()->model();
   model.setData(model.index(3, kSettingColumn), Qt::Unchecked, Qt::CheckStateRole);

@@ -13,8 +13,8 @@
 #include "app/desktop/MainWindow.h"
 #include "app/desktop/projectors/ProjectorView.h"
 #include "app/profiles/ProfileFile.h"
-#include "device/BoundedChannel.h"
 #include "device/Connect.h"
+#include "device/channels/BoundedChannel.h"
 #include "host/CAdvanceDlg.h"
 #include "pages/common/CTabPage.h"
 #include "simulator/SimulatedProjector.h"
@@ -22,6 +22,7 @@
 #include "tests/device/Peer.h"
 #include "tests/support/Models.h"
 #include "tests/support/Programs.h"
+#include "tests/support/Soon.h"
 
 namespace {
 
@@ -116,7 +117,7 @@ TEST_F(SimulatorTest, TheListTellsHowEveryConnectionStands) {
     const auto shown = [&] { return model.index(row, ProjectorTableModel::State).data(); };
     // On a slow machine the last answer may be long ago.
     const auto isSo = [&] { return shown().toString().section(" · answered", 0, 0) == state; };
-    EXPECT_TRUE(QTest::qWaitFor(isSo)) << row << ": " << shown().toString().toStdString();
+    EXPECT_TRUE(Soon(isSo)) << row << ": " << shown().toString().toStdString();
   };
   for (int row = 0; row < 4; ++row) comesTo(row, "Not connected");
   comesTo(4, "Simulated");
@@ -124,7 +125,7 @@ TEST_F(SimulatorTest, TheListTellsHowEveryConnectionStands) {
   for (int row = 0; row < 3; ++row) comesTo(row, "Open · Connected");
   comesTo(3, "Open · Password missing or wrong");
   comesTo(4, "Open · Simulated");
-  EXPECT_TRUE(QTest::qWaitFor([&] { return CurrentInput(*window.Dialog(1)) == "RGB1"; }));
+  EXPECT_TRUE(Soon([&] { return CurrentInput(*window.Dialog(1)) == "RGB1"; }));
 
   const QString port = simulator_->Address("tcp").section(':', -1);
   simulator_.reset();
@@ -150,7 +151,7 @@ TEST_F(SimulatorTest, ADialogTakesItsInputsFromAProjectorThatTellsThem) {
   EXPECT_EQ(dialog.ShownPage()->GetDlgItem(20134)->toolTip(),
             "The projector does not offer this setting over this connection.");
   dialog.findChild<QTabBar*>()->setCurrentIndex(0);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return CurrentInput(dialog) == "RGB1"; }));
+  EXPECT_TRUE(Soon([&] { return CurrentInput(dialog) == "RGB1"; }));
   CAdvanceDlg later;
   later.CopyData(&model, 0);
   later.Projector().SetChannel(dialog.Projector().Channel());

@@ -21,6 +21,7 @@
 #include "host/FindLine.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/ShownValues.h"
+#include "tests/support/Soon.h"
 
 namespace {
 
@@ -215,7 +216,7 @@ TEST(RandomWalk, OverTheWholeProgramLeavesNothingBehind) {
     EXPECT_GT(walk.diedInMidCommand, 2);
     EXPECT_GT(walk.checked, 0);
   }
-  EXPECT_TRUE(QTest::qWaitFor([] {
+  EXPECT_TRUE(Soon([] {
     return std::ranges::none_of(QApplication::topLevelWidgets(), [](const QWidget* widget) {
       return qobject_cast<const CDialog*>(widget) != nullptr;
     });

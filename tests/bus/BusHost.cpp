@@ -11,8 +11,8 @@
 #include <QSocketNotifier>
 #include <QTimer>
 
-#include "device/LoggingChannel.h"
 #include "device/ModelDataIntake.h"
+#include "device/channels/LoggingChannel.h"
 #include "i18n/SystemLanguage.h"
 #include "simulator/SimulatedProjector.h"
 #include "snapshots/SettingTexts.h"

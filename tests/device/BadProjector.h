@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "device/PjLinkSession.h"
+#include "device/protocol/PjLinkSession.h"
 
 /// A small PJLink projector of its own, written from the standard alone, that behaves as badly as
 /// it is told to. It lives in the time that it is given.
@@ -23,9 +23,9 @@ class BadProjector {
       {"CLSS", "2"},      {"INST", "31 32 5A"}, {"LAMP", "1200 1"}, {"FILT", "80"},
       {"ERST", "000000"}, {"INNM31", "HDMI"},   {"INNM32", "HDMI"}, {"INNM5A", "Office"}};
   std::string greeting = "PJLINK 0\r";
-  std::string before{}, after = "\r";  ///< Around each reply.
-  char replyClass = 0;                 ///< Of each reply; 0 for that of its request.
-  bool closesAfterReply = false;
+  std::string before{}, after = "\r";              ///< Around each reply.
+  char replyClass = 0;                             ///< Of each reply; 0 for that of its request.
+  std::optional<Milliseconds> closesAfterReply{};  ///< So long after each.
   bool dropsUnanswered = false;           ///< Closes the connection instead of a lost reply.
   Milliseconds answers{10};               ///< For each reply.
   Milliseconds follows{0};                ///< A state comes so long after its OK.
@@ -64,7 +64,7 @@ class BadProjector {
       if (dropsUnanswered) Close(now);
       return std::nullopt;
     }
-    if (closesAfterReply) Close(now);
+    if (closesAfterReply == Milliseconds(0)) Close(now);
     if (Counts(distorts, name)) return "?%&!\r";
     return before + '%' + (replyClass == 0 ? request[1] : replyClass) + name + '=' + result + after;
   }
@@ -114,6 +114,9 @@ class SteppedSession {
   static constexpr PjLinkLimits kLimits{.connect = std::chrono::seconds(2),
                                         .answer = std::chrono::seconds(2)};
 
+  explicit SteppedSession(PjLinkLimits::Time answer = kLimits.answer)
+      : session("", {.connect = kLimits.connect, .answer = answer}) {}
+
   PjtReply Do(const PjtCommand& command) {
     session.Begin(command, now);
     Run();
@@ -126,7 +129,7 @@ class SteppedSession {
   }
 
   BadProjector projector;
-  PjLinkSession session{"", kLimits};
+  PjLinkSession session;
   PjLinkTime now{std::chrono::hours(1)};
 
  private:
@@ -150,27 +153,39 @@ class SteppedSession {
         }
         break;
       case PjLinkStep::Kind::Send: {
+        if (closesAt_) break;  // it reads nothing more
         const auto answer = projector.Receive(step.bytes, now);
         coming_ = answer.value_or("");
         comesAt_ = now + projector.answers;
+        if (projector.closesAfterReply > BadProjector::Milliseconds(0)) {
+          closesAt_ = comesAt_ + *projector.closesAfterReply;
+        }
         if (!answer && !projector.IsOpen()) connection.Closed(now);
         break;
       }
       case PjLinkStep::Kind::Wait:
+        if (coming_.empty() && closesAt_ && closesAt_ <= step.until) {
+          now = *std::exchange(closesAt_, std::nullopt);
+          projector.Close(now);
+          connection.Closed(now);
+          break;
+        }
         if (coming_.empty() || comesAt_ > step.until) {
           now = step.until;
           break;
         }
         now = std::max(now, comesAt_);
-        connection.Received(std::exchange(coming_, {}));
+        connection.Received(std::exchange(coming_, {}), now);
         if (!projector.IsOpen()) connection.Closed(now);
         break;
       default:
         projector.Close(now);
         coming_.clear();
+        closesAt_.reset();
     }
   }
 
   std::string coming_;
   PjLinkTime comesAt_{};
+  std::optional<PjLinkTime> closesAt_;
 };

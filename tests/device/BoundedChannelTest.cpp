@@ -6,10 +6,10 @@
 #include <QTimer>
 #include <gtest/gtest.h>
 
-#include "device/BoundedChannel.h"
 #include "device/CommandCode.h"
-#include "device/PjLinkChannel.h"
-#include "device/TcpChannel.h"
+#include "device/channels/BoundedChannel.h"
+#include "device/channels/PjLinkChannel.h"
+#include "device/channels/TcpChannel.h"
 #include "simulator/WireResponder.h"
 #include "tests/device/Peer.h"
 #include "tests/device/Replies.h"

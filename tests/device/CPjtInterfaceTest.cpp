@@ -4,10 +4,10 @@
 
 #include <gtest/gtest.h>
 
-#include "device/BoundedChannel.h"
 #include "device/CPjtInterface.h"
-#include "device/LoggingChannel.h"
 #include "device/ModelData.h"
+#include "device/channels/BoundedChannel.h"
+#include "device/channels/LoggingChannel.h"
 #include "tests/device/Replies.h"
 
 namespace {

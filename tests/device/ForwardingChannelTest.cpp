@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "device/LoggingChannel.h"
+#include "device/channels/LoggingChannel.h"
 
 namespace {
 

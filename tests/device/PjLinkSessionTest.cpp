@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "device/CommandCode.h"
-#include "device/PjLinkInputs.h"
+#include "device/protocol/PjLinkInputs.h"
 #include "tests/device/BadProjector.h"
 #include "tests/device/Replies.h"
 
@@ -127,9 +127,12 @@ TEST(PjLinkSession, LosesOneThingAndAsksAgainWhereItMatters) {
   lost.projector.loses["INNM"] = 2;
   EXPECT_FALSE(inputs.Take(lost.Ask(*inputs.Next())));
   while (const auto question = inputs.Next()) EXPECT_TRUE(inputs.Take(lost.Ask(*question)));
-  EXPECT_EQ(SourcesOf(inputs.Known()),
-            SourcesOf({{31, "HDMI (31)"}, {32, "HDMI (32)"}, {510, "Office"}}))
-      << "inputs of one name are told apart";
+  const std::vector<PjLinkInput> known{{31, "HDMI"}, {32, "HDMI"}, {510, "Office"}};
+  EXPECT_EQ(inputs.Known(), known);
+  const SourceList shared = SourcesOf(known, InputCodes::SharedNames);
+  EXPECT_EQ(NameText(shared.names[1]), "HDMI (32)");
+  EXPECT_EQ(NameText(shared.names[2]), "Office");
+  EXPECT_EQ(NameText(SourcesOf({known[0]}, InputCodes::AllNames).names[0]), "HDMI (31)");
 }
 
 TEST(PjLinkSession, WaitsUntilAChangeIsSo) {
@@ -158,6 +161,12 @@ TEST(PjLinkSession, WaitsUntilAChangeIsSo) {
   stepped.now += 2s;
   stepped.projector.states["INPT"] = "5A";
   EXPECT_EQ(stepped.Do(kGetInput).value, 510) << "that was long ago";
+
+  SteppedSession patient(60s);
+  follows(20s)(patient.projector);
+  const auto start = patient.now;
+  EXPECT_EQ(Word(kSetInput, patient.Do(kSetInput)), "done");
+  EXPECT_LT(patient.now - start, 20s + 1200ms) << "it is seen soon after it is so";
 }
 
 TEST(PjLinkSession, AsksABusyProjectorAgainInTime) {
@@ -195,15 +204,17 @@ TEST(PjLinkSession, AsksABusyProjectorAgainInTime) {
 }
 
 TEST(PjLinkSession, HasTheWholeTimeForEachAnswerAndOneConnectionWithGrowingPauses) {
+  const auto closesLate = [](auto& it) { it.closesAfterReply = 5ms; };
   ExpectEach({
       {"slow", [](auto& it) { it.answers = 1990ms; }, kSetInput, "done", "INPT 32, INPT"},
       {"too slow", [](auto& it) { it.answers = 2010ms; }, kSetInput, "unanswered", "INPT 32"},
       {"closes after each reply, and needs a pause",
        [](auto& it) {
-         it.closesAfterReply = true;
+         it.closesAfterReply = 0ms;
          it.gap = 200ms;
        },
        kSetInput, "done", "INPT 32, INPT"},
+      {"closes a moment after each reply", closesLate, kSetInput, "done", "INPT 32, INPT"},
       {"lets nobody in", [](auto& it) { it.greeting = ""; }, kSetInput, "unsent", ""},
       {"wants a password", [](auto& it) { it.greeting = "PJLINK ERRA\r"; }, kSetInput, "unsent",
        ""},
@@ -214,11 +225,18 @@ TEST(PjLinkSession, HasTheWholeTimeForEachAnswerAndOneConnectionWithGrowingPause
        },
        kGetInput, "not offered", "INPT, CLSS, INPT"},
   });
+  SteppedSession ending;
+  Expect({"closes behind the class", closesLate, Inc(Code::Volume), "done", "CLSS, SVOL 1"},
+         ending);
+  Expect({"closes behind a step", closesLate, Inc(Code::Volume), "done", "SVOL 1"}, ending);
+
   SteppedSession stepped;
-  for (const auto& command : {kGetInput, kSetInput, kGetInput, Get(Code::Mute)}) {
+  const auto begin = stepped.now;
+  for (const auto& command : {kGetInput, Inc(Code::Volume), kGetInput, Inc(Code::Volume)}) {
     stepped.Do(command);
   }
   EXPECT_EQ(stepped.projector.connections, 1);
+  EXPECT_LT(stepped.now - begin, 200ms) << "it is waited for once";
 
   SteppedSession away;
   away.projector.gap = 1h;
@@ -245,6 +263,20 @@ TEST(PjLinkSession, OneKeyCostsThreeExchangesCoolAndTwoWarm) {
     warm.session.RememberClass('2');
     warm.Do(command);
     EXPECT_LE(warm.projector.heard.size(), 2);
+  }
+  for (const auto& [power, inputs] : {std::pair("1", "CLSS, INPT"), {"0", "CLSS, INPT, POWR"}}) {
+    SteppedSession all;
+    all.projector.states["POWR"] = power;
+    if (*power == '0') all.projector.refuses = {{"INPT", 99}, {"AVMT", 99}, {"FREZ", 99}};
+    all.session.KeepLast();
+    for (const auto& command : {kGetInput, kGetInput}) all.Do(command);
+    EXPECT_EQ(all.projector.TakeHeard(), inputs);
+    all.Do(Get(Code::RunningState));
+    for (int i = 0; i < 2; ++i) {
+      for (const auto code : {Code::BlankState, Code::Mute, Code::Freeze}) all.Do(Get(code));
+    }
+    EXPECT_EQ(all.projector.TakeHeard(),
+              std::string(*power == '0' ? "" : "POWR, ") + "AVMT, FREZ, AVMT, FREZ");
   }
   SteppedSession other;
   other.session.RememberClass('2');

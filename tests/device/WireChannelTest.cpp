@@ -7,9 +7,9 @@
 #include <QTcpServer>
 #include <gtest/gtest.h>
 
-#include "device/BoundedChannel.h"
-#include "device/SerialChannel.h"
-#include "device/TcpChannel.h"
+#include "device/channels/BoundedChannel.h"
+#include "device/channels/SerialChannel.h"
+#include "device/channels/TcpChannel.h"
 #include "simulator/WireResponder.h"
 #include "tests/device/Peer.h"
 #include "tests/device/Replies.h"

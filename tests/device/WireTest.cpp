@@ -8,7 +8,7 @@
 
 #include "device/Connect.h"
 #include "device/HostAddress.h"
-#include "device/WireFrame.h"
+#include "device/protocol/WireFrame.h"
 
 namespace {
 

@@ -91,11 +91,11 @@ FoundProjector Inquire(const ServedProjector& served, const std::string& wanted,
       case PjLinkStep::Kind::Connect:
         end.emplace(responder, wanted);
         inquiry.Connection().Connected();
-        inquiry.Connection().Received(end->Greeting());
+        inquiry.Connection().Received(end->Greeting(), now);
         break;
       case PjLinkStep::Kind::Send:
         end->Add(step.bytes);
-        while (const auto exchange = end->Next()) inquiry.Connection().Received(exchange->reply);
+        while (const auto exchange = end->Next()) inquiry.Connection().Received(exchange->reply, now);
         break;
       case PjLinkStep::Kind::Close:
         break;

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "tests/host/PacedDialog.h"
+#include "tests/support/Soon.h"
 #include "toolkit/CSliderCtrl.h"
 
 namespace {
@@ -96,13 +97,13 @@ TEST_F(FlowTest, AnotherTabIsShownAtOnceAndReadFromItsStart) {
         projector_->Pace(0ms);
       });
       inChange ? Page().Choose(kIris, 1) : ClickTab(kPictureTab);
-      EXPECT_TRUE(QTest::qWaitFor([&] { return dialog_.ShownPage()->isVisible(); }));
+      EXPECT_TRUE(Soon([&] { return dialog_.ShownPage()->isVisible(); }));
       std::vector<PjtCommand> sent;
       const auto isWhole = [&] {
         std::ranges::copy(projector_->Take(), std::back_inserter(sent));
         return sent.size() >= status.size();
       };
-      EXPECT_TRUE(QTest::qWaitFor(isWhole));
+      EXPECT_TRUE(Soon(isWhole));
       QTest::qWait(30);
       EXPECT_TRUE(isWhole() && sent == status) << "whole, once, and nothing else";
       EXPECT_EQ(Veil(), nullptr);
@@ -168,7 +169,7 @@ TEST_F(SilentProjectorTest, NoAnswerIsToldAndTriedAgain) {
 
   projector_->Pace(0ms);
   QTest::mouseClick(&Retry(), Qt::LeftButton);
-  EXPECT_TRUE(QTest::qWaitFor([this] { return !Retry().isVisible(); }));
+  EXPECT_TRUE(Soon([this] { return !Retry().isVisible(); }));
   EXPECT_EQ(Status(), QString());
   EXPECT_TRUE(Page().IsEnabled(kIris));
   EXPECT_EQ(Page().Item<QWidget>(kIris).toolTip(), QString());
@@ -241,10 +242,10 @@ TEST_F(FlowTest, AHeldButtonStepsOnceForEachReply) {
   projector_->Pace(60ms);
   QTest::mousePress(&plus, Qt::LeftButton);
   const int steps = projector_->sent + 8;
-  EXPECT_TRUE(QTest::qWaitFor([&] { return projector_->sent >= steps; }, 60'000));
+  EXPECT_TRUE(Soon([&] { return projector_->sent >= steps; }));
   QTest::mouseRelease(&plus, Qt::LeftButton);
   projector_->Pace(0ms);
-  EXPECT_TRUE(QTest::qWaitFor([this] { return !dialog_.Projector().IsWaiting(); }));
+  EXPECT_TRUE(Soon([this] { return !dialog_.Projector().IsWaiting(); }));
   QTest::qWait(200);
   const std::vector<PjtCommand> sent = projector_->Take();
   EXPECT_GE(sent.size(), 6U);
@@ -269,7 +270,7 @@ TEST_F(FlowTest, ADragTellsWhatLettingGoWouldSend) {
   EXPECT_NE(bubbles().first()->text(), number);
   EXPECT_EQ(Page().Text(kBrightnessField), number);
   QTest::mouseRelease(&slider, Qt::LeftButton, {}, at + QPoint(20, 0));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return bubbles().isEmpty(); }));
+  EXPECT_TRUE(Soon([&] { return bubbles().isEmpty(); }));
   EXPECT_EQ(Page().Text(kBrightnessField), QString::number(slider.value()));
   QTest::keyPress(&slider, Qt::Key_Left);
   ASSERT_EQ(bubbles().size(), 1);

@@ -10,10 +10,11 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
-#include "device/BoundedChannel.h"
+#include "device/channels/BoundedChannel.h"
 #include "pages/option/CServiceDlg.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/PacedProjector.h"
+#include "tests/support/Soon.h"
 
 namespace {
 
@@ -141,7 +142,7 @@ TEST_P(OwnerTest, DiesWhileTheDialogIsInUse) {
     host.Die(*dialog, moment);
   }
   host.ExpectEnded(moment != Moment::MessageBox);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return dialog == nullptr; })) << "leaks";
+  EXPECT_TRUE(Soon([&] { return dialog == nullptr; })) << "leaks";
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -160,9 +161,13 @@ void ExpectToRunAgain(const std::function<CAdvanceDlg&(QWidget*)>& make) {
     host.ExpectEnded(!idle);
 
     const int sent = host.projector->sent;
-    QTimer::singleShot(200ms, &dialog, &QDialog::accept);  // the old command comes back first
-    EXPECT_EQ(dialog.DoModal(), QDialog::Accepted);
-    EXPECT_GT(host.projector->sent, sent) << "the channel is back";
+    QTimer look;
+    look.callOnTimeout([&] {
+      if (host.projector->sent > sent && !dialog.IsBusy()) dialog.accept();
+    });
+    look.start(10ms);
+    QTimer::singleShot(60s, &dialog, &QDialog::reject);
+    EXPECT_EQ(dialog.DoModal(), QDialog::Accepted) << "the channel is not back";
   }
 }
 

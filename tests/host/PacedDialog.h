@@ -13,7 +13,7 @@
 #include <QTimer>
 #include <gtest/gtest.h>
 
-#include "device/BoundedChannel.h"
+#include "device/channels/BoundedChannel.h"
 #include "pages/common/StatusLine.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/PacedProjector.h"

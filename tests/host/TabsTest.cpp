@@ -8,6 +8,7 @@
 #include "pages/common/CTabPage.h"
 #include "resources/AdvancedControlResources.h"
 #include "tests/support/DialogDriver.h"
+#include "tests/support/Soon.h"
 #include "toolkit/ResourceModule.h"
 
 namespace {
@@ -99,7 +100,7 @@ TEST(Keyboard, GoesRoundTheTabsAndClosesTheDialogButNeverHidesItsPage) {
     open.SelectTab(1);
     (onPage ? open.Page().GetDlgItem(20142) : dialog.GetDlgItem(1))->setFocus();
     press(key, modifiers);
-    EXPECT_TRUE(QTest::qWaitFor([&dialog] { return !dialog.isVisible(); }));
+    EXPECT_TRUE(Soon([&dialog] { return !dialog.isVisible(); }));
     EXPECT_FALSE(open.Page().isHidden());
   }
 }

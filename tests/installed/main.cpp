@@ -1,4 +1,5 @@
-// Opens the dialog, shows each page and moves its sliders.
+// Opens the dialog, shows each page and moves its sliders. The host's own classes bear names that
+// the library uses too.
 
 #include <cstdio>
 #include <memory>
@@ -31,7 +32,7 @@ int main(int argc, char** argv) {
   model.ModelCode = 30;
   CAdvanceDlg dialog;
   dialog.CopyData(&model, 0);
-  dialog.Projector().SetChannel(std::make_shared<SimulatedProjector>());
+  dialog.Projector().SetChannel(std::make_shared<AdvancedControl::SimulatedProjector>());
   if (!dialog.CreateShown()) return 2;
 
   auto* const tabs = dialog.findChild<QTabBar*>();

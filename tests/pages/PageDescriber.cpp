@@ -6,7 +6,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 
-#include "device/LoggingChannel.h"
+#include "device/channels/LoggingChannel.h"
 #include "toolkit/CComboBox.h"
 #include "toolkit/CSliderCtrl.h"
 

@@ -7,6 +7,7 @@
 
 #include "settings/PageTables.h"
 #include "tests/support/DialogDriver.h"
+#include "tests/support/Soon.h"
 
 namespace {
 

@@ -12,8 +12,8 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
-#include "device/LoggingChannel.h"
 #include "device/ModelDataIntake.h"
+#include "device/channels/LoggingChannel.h"
 #include "simulator/FaultChannel.h"
 #include "simulator/SimulatedProjector.h"
 #include "tests/support/DialogDriver.h"

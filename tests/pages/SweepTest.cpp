@@ -16,6 +16,7 @@
 #include "app/profiles/ProfileFile.h"
 #include "i18n/Catalog.h"
 #include "tests/support/DialogDriver.h"
+#include "tests/support/Soon.h"
 #include "toolkit/WindowText.h"
 
 namespace {

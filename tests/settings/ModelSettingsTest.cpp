@@ -38,7 +38,8 @@ void ExpectWorks(const ModelSettings& settings, const ModelSetting& setting) {
   const auto fresh = read();
   EXPECT_EQ(fresh.has_value(), setting.readable);
   for (const int value : ValuesOf(setting)) {
-    EXPECT_EQ(settings.Change(projector, setting, value), setting.changeable) << value;
+    EXPECT_EQ(settings.Change(projector, setting, value) == Sent::Accepted, setting.changeable)
+        << value;
     if (setting.Restorable()) {
       EXPECT_EQ(read(), value);
     }
@@ -46,7 +47,7 @@ void ExpectWorks(const ModelSettings& settings, const ModelSetting& setting) {
   if (setting.kind == Kind::Choice) {
     EXPECT_FALSE(setting.entries.empty());
     for (const int other : {setting.placeholder.value_or(12345), 12345}) {
-      EXPECT_FALSE(settings.Change(projector, setting, other));
+      EXPECT_NE(settings.Change(projector, setting, other), Sent::Accepted);
     }
   }
   if (setting.reset) {
@@ -87,7 +88,7 @@ TEST(ModelSettings, AnEntryWhoseValueIsMinusOneIsSentLikeAnyOther) {
   CPjtInterface projector;
   projector.SetChannel(channel);
   for (const char* key : {"picture.color-temp", "option.my-button-1"}) {
-    EXPECT_TRUE(settings.Change(projector, *settings.Find(key), -1)) << key;
+    EXPECT_EQ(settings.Change(projector, *settings.Find(key), -1), Sent::Accepted) << key;
     EXPECT_EQ(channel->sent.first, -1);
   }
 }

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "device/LoggingChannel.h"
+#include "device/channels/LoggingChannel.h"
 #include "simulator/SimulatedProjector.h"
 #include "tests/device/Replies.h"
 

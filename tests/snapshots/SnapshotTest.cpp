@@ -35,7 +35,7 @@ TEST(PatientChannel, AsksAgainWhatIsSafeToAskAndNeverCutsACommandShort) {
   constexpr PjtCommand kChange{.operation = PjtOperation::SetMute, .first = 1};
   constexpr PjtCommand kStep{PjtOperation::Inc, 0x2001};
   struct Case {
-    const char* does;  // behind a first answer
+    const char* does;  // behind a first answer or a greeting
     PjtCommand command;
     std::size_t times;  // it is sent
     bool isAnswered, isUnsent, isGone;
@@ -46,25 +46,30 @@ TEST(PatientChannel, AsksAgainWhatIsSafeToAskAndNeverCutsACommandShort) {
       {"lla", kChange, 2, false, false, true}, {"lu", kChange, 2, false, false, true},
       {"la", kStep, 1, false, false, false},   {"ua", kStep, 2, true, false, false},
       {"u", kStep, 2, false, true, true},      {"La", kRead, 2, true, false, false}};
-  for (const Case& one : kCases) {
-    SCOPED_TRACE(testing::Message() << one.does << ' ' << &one - kCases);
+  const auto expect = [&](const Case& one, bool hasGreeted) {
+    SCOPED_TRACE(testing::Message() << one.does << (hasGreeted ? " first" : " later"));
     const auto inner = std::make_shared<Unsteady>();
-    inner->does = std::string("a") + one.does;
+    inner->does = (hasGreeted ? "" : "a") + std::string(one.does);
     inner->timeOut = kTimeOut;
-    PatientChannel patient(inner, kTimeOut);
-    EXPECT_TRUE(patient.Execute(kRead).answered);
+    PatientChannel patient(inner, kTimeOut, [hasGreeted] { return hasGreeted; });
+    if (!hasGreeted) patient.Execute(kRead);
+    const std::size_t before = inner->count;
     const PjtReply reply = patient.Execute(one.command);
-    EXPECT_EQ(inner->count, 1 + one.times);
+    EXPECT_EQ(inner->count, before + one.times);
     EXPECT_EQ(reply.answered, one.isAnswered);
     EXPECT_EQ(!reply.answered && reply.unsent, one.isUnsent);
     EXPECT_EQ(patient.IsGone(), one.isGone);
     EXPECT_EQ(inner->given, std::chrono::milliseconds()) << "its time is its own";
+  };
+  for (const Case& one : kCases) {
+    expect(one, false);
+    expect(one, true);
   }
   const auto dead = std::make_shared<Unsteady>();
   dead->does = "l";
   PatientChannel patient(dead, kTimeOut);
   EXPECT_FALSE(patient.Execute(kRead).answered || patient.Execute(kRead).answered);
-  EXPECT_EQ(dead->count, 1) << "it has never answered";
+  EXPECT_EQ(dead->count, 1) << "it has neither greeted nor answered";
   patient.GiveUpAfter(kTimeOut);
   patient.Abandon();
   EXPECT_TRUE(dead->given == kTimeOut && dead->isAbandoned) << "all is passed on";

@@ -16,6 +16,7 @@
 #include "pages/option/CServiceDlg.h"
 #include "pages/picture/CColorDlg.h"
 #include "pages/picture/CGammaDlg.h"
+#include "tests/support/Soon.h"
 #include "toolkit/CSliderCtrl.h"
 #include "toolkit/WindowText.h"
 

@@ -7,6 +7,8 @@
 #include <QProcess>
 #include <gtest/gtest.h>
 
+#include "tests/support/Soon.h"
+
 // Programs as processes of their own, and the files that they leave.
 
 struct Outcome {
@@ -45,14 +47,9 @@ inline void Write(const QString& path, const QByteArray& text) {
 class SimulatorProcess {
  public:
   explicit SimulatorProcess(const QStringList& arguments) {
-    process_.start(SIMULATOR_PROGRAM, arguments);
-    while (process_.canReadLine() || process_.waitForReadyRead(60'000)) {
-      const QString line = QString::fromUtf8(process_.readLine()).trimmed();
-      if (line == "ready") return;
-      const QString address = line.section(": ", 1);
-      addresses_[line.startsWith("control") ? "control" : address.section(':', 0, 0)] = address;
-    }
-    ADD_FAILURE() << "the simulator is not ready: " << process_.readAllStandardError().data();
+    // The port of an earlier simulator may be another program's for a while.
+    EXPECT_TRUE(Soon([&] { return IsReady(arguments); }))
+        << "the simulator is not ready: " << process_.readAllStandardError().data();
   }
   ~SimulatorProcess() {
     process_.terminate();
@@ -63,6 +60,18 @@ class SimulatorProcess {
   QString Address(const char* way) const { return addresses_.value(way); }
 
  private:
+  bool IsReady(const QStringList& arguments) {
+    process_.start(SIMULATOR_PROGRAM, arguments);
+    while (process_.canReadLine() || process_.waitForReadyRead(60'000)) {
+      const QString line = QString::fromUtf8(process_.readLine()).trimmed();
+      if (line == "ready") return true;
+      const QString address = line.section(": ", 1);
+      addresses_[line.startsWith("control") ? "control" : address.section(':', 0, 0)] = address;
+    }
+    process_.waitForFinished();
+    return false;
+  }
+
   QProcess process_;
   QMap<QString, QString> addresses_;
 };

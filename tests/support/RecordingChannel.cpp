@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "device/LoggingChannel.h"
+#include "device/channels/LoggingChannel.h"
 
 namespace {
 

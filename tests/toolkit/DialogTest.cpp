@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/DialogDriver.h"
+#include "tests/support/Soon.h"
 #include "toolkit/CComboBox.h"
 #include "toolkit/CSliderCtrl.h"
 #include "toolkit/ResourceModule.h"
@@ -126,7 +127,7 @@ TEST_F(DialogTest, DeleteLaterWaitsForTheRunningHandler) {
     ASSERT_NE(dying, nullptr) << "its handler is still running";
   };
   DialogDriver(*dying).Click(10);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return dying == nullptr; }));
+  EXPECT_TRUE(Soon([&] { return dying == nullptr; }));
 }
 
 TEST_F(DialogTest, TheWheelNeedsTheFocus) {

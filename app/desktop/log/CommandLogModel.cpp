@@ -9,7 +9,7 @@
 #include <QGuiApplication>
 #include <QPalette>
 
-#include "device/LoggingChannel.h"
+#include "device/channels/LoggingChannel.h"
 
 namespace {
 

@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "app/profiles/ProfileFile.h"
-#include "device/BoundedChannel.h"
-#include "device/LoggingChannel.h"
+#include "device/channels/BoundedChannel.h"
+#include "device/channels/LoggingChannel.h"
 #include "simulator/FaultChannel.h"
 #include "simulator/SimulatedProjector.h"
 

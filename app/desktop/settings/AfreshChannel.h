@@ -7,7 +7,7 @@
 
 #include "app/desktop/projectors/ProjectorSession.h"
 #include "app/profiles/ProjectorAccess.h"
-#include "device/ForwardingChannel.h"
+#include "device/channels/ForwardingChannel.h"
 
 /// A session's channel as work on many settings needs it: a command after an unanswered one is
 /// really sent, where the session spares a projector that was silent just now. Once `goesOn` says

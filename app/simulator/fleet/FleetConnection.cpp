@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "device/CommandCode.h"
-#include "device/ForwardingChannel.h"
-#include "device/PjLinkLine.h"
+#include "device/channels/ForwardingChannel.h"
+#include "device/protocol/PjLinkLine.h"
 #include "simulator/PjLinkProjectorSession.h"
 #include "simulator/WireResponder.h"
 

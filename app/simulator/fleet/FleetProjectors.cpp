@@ -6,8 +6,8 @@
 #include <utility>
 
 #include "app/profiles/ProjectorAccess.h"
-#include "device/ForwardingChannel.h"
-#include "device/PjLinkLine.h"
+#include "device/channels/ForwardingChannel.h"
+#include "device/protocol/PjLinkLine.h"
 
 namespace {
 

@@ -93,7 +93,7 @@ QString FleetService::WriteCounts() const {
     const FleetProjector& projector = projectors_.At(i);
     const AskedCounts& asked = projector.asked;
     const bool hasPause = asked.polls > 1;
-    text += QByteArray::number(static_cast<qulonglong>(i + 1)) + ',' +
+    text += QByteArray::fromStdString(std::to_string(i + 1)) + ',' +
             QByteArray::fromStdString(AddressText(projector.address));
     for (const std::uint32_t count :
          {asked.connections, asked.mostOpen, asked.requests, asked.changes, asked.polls}) {

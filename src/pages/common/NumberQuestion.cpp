@@ -7,6 +7,8 @@
 #include "i18n/LocalizeControlTexts.h"
 #include "settings/CatalogNumbers.h"
 
+namespace AdvancedControl {
+
 NumberQuestion::NumberQuestion(const QString& caption, Range range, int present, QWidget* parent)
     : QInputDialog(parent), range_(range) {
   setAttribute(Qt::WA_DeleteOnClose);
@@ -36,3 +38,5 @@ void NumberQuestion::done(int result) {
   QAccessibleEvent told(findChild<QLabel*>(), QAccessible::Alert);
   QAccessible::updateAccessibility(&told);
 }
+
+}  // namespace AdvancedControl

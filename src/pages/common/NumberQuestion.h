@@ -2,7 +2,10 @@
 
 #include <QInputDialog>
 
+#include "Namespace.h"
 #include "settings/Rows.h"
+
+namespace AdvancedControl {
 
 /// Asks for a number of a row. OK takes a whole number inside the range and nothing else: for any
 /// other text the question stays open, says what it takes, and keeps what was typed.
@@ -23,3 +26,5 @@ class NumberQuestion final : public QInputDialog {
  private:
   Range range_;
 };
+
+}  // namespace AdvancedControl

@@ -10,6 +10,8 @@
 #include "settings/CatalogNumbers.h"
 #include "settings/RowUse.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 bool ShowsSetting(const RowView& row) {
@@ -181,3 +183,5 @@ void PageReader::UpdateVeil() {
   }
   veil_->Cover(dialog.isWindow() ? rows : dialog.rect(), unread);
 }
+
+}  // namespace AdvancedControl

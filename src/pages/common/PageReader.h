@@ -6,9 +6,12 @@
 
 #include <QPointer>
 
+#include "Namespace.h"
 #include "device/CPjtInterface.h"
 #include "pages/rows/RowNotes.h"
 #include "pages/rows/RowView.h"
+
+namespace AdvancedControl {
 
 class PageVeil;
 
@@ -69,3 +72,5 @@ class PageReader {
   bool waiting_ = false;
   QPointer<PageVeil> veil_;  // only while it is seen
 };
+
+}  // namespace AdvancedControl

@@ -2,6 +2,8 @@
 
 #include <QPainter>
 
+namespace AdvancedControl {
+
 namespace {
 
 constexpr int kOpacity = 190;  // of 255; what is below can just be made out
@@ -24,3 +26,5 @@ void PageVeil::paintEvent(QPaintEvent*) {
   color.setAlpha(kOpacity);
   for (const QRect& part : dimmed_) painter.fillRect(part, color);
 }
+
+}  // namespace AdvancedControl

@@ -3,6 +3,10 @@
 #include <QRegion>
 #include <QWidget>
 
+#include "Namespace.h"
+
+namespace AdvancedControl {
+
 /// Lies over a page that waits for its projector: dims parts of it and shows the wait cursor.
 class PageVeil final : public QWidget {
  public:
@@ -17,3 +21,5 @@ class PageVeil final : public QWidget {
  private:
   QRegion dimmed_;
 };
+
+}  // namespace AdvancedControl

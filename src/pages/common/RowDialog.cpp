@@ -12,6 +12,8 @@
 #include "resources/ArrowBitmap.h"
 #include "toolkit/CSliderCtrl.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 // Arrow buttons bear a picture, and keep their sign as their name.
@@ -182,3 +184,5 @@ void RowDialog::OnIdle() {
 void RowDialog::OnLeave() { waiting_->Abandon(); }
 
 void RowDialog::OnReturn() { waiting_->Return(); }
+
+}  // namespace AdvancedControl

@@ -6,10 +6,13 @@
 #include <vector>
 
 #include "AdvancedControlExport.h"
+#include "Namespace.h"
 #include "pages/common/PageReader.h"
 #include "pages/common/RowMenus.h"
 #include "pages/common/SettingsDialog.h"
 #include "pages/rows/RowView.h"
+
+namespace AdvancedControl {
 
 class Waiting;
 
@@ -88,3 +91,5 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog, private RowHost
   // Of a pop-up; a page waits with its dialog.
   std::unique_ptr<Waiting> waiting_;
 };
+
+}  // namespace AdvancedControl

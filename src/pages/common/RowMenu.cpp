@@ -6,6 +6,8 @@
 #include "i18n/LocalizeControlTexts.h"
 #include "settings/CatalogNumbers.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 QString ListString(int number) { return CatalogString(kListCategory, number); }
@@ -33,3 +35,5 @@ RowMenu::RowMenu(const Row& row, QWidget* parent) : QMenu(parent) {
 }
 
 void RowMenu::Tell(const QString& text) { addAction(text)->setEnabled(false); }
+
+}  // namespace AdvancedControl

@@ -4,6 +4,10 @@
 
 #include <QMenu>
 
+#include "Namespace.h"
+
+namespace AdvancedControl {
+
 /// What a person can do with a row beside operating its controls: see what it takes and what it
 /// was, put that back, type a number, and copy. The menu ends when it is hidden.
 class RowMenu final : public QMenu {
@@ -32,3 +36,5 @@ class RowMenu final : public QMenu {
  private:
   void Tell(const QString& text);
 };
+
+}  // namespace AdvancedControl

@@ -8,6 +8,8 @@
 #include "pages/rows/RowTexts.h"
 #include "toolkit/CDialog.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 RowMenu::Choice ChoiceOf(bool exists, bool usable) {
@@ -108,3 +110,5 @@ void RowMenus::PutBack(RowView& row) {
   }
   if (row.memory.opened) MoveTo(row, *row.memory.opened);
 }
+
+}  // namespace AdvancedControl

@@ -3,7 +3,10 @@
 #include <QObject>
 #include <QPoint>
 
+#include "Namespace.h"
 #include "pages/common/PageReader.h"
+
+namespace AdvancedControl {
 
 /// The context menus of a page's rows. Filters the events of the page's dialog, opens a menu on the
 /// user's request, and carries out the chosen command. User-interface thread only.
@@ -27,3 +30,5 @@ class RowMenus final : public QObject {
   RowHost& host_;
   const PageReader::Rows& rows_;
 };
+
+}  // namespace AdvancedControl

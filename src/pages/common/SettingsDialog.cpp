@@ -3,6 +3,8 @@
 #include "device/ModelDataSource.h"
 #include "toolkit/MessageBox.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 // A catalog without these texts leaves the boxes their own.
@@ -41,3 +43,5 @@ CPjtInterface& SettingsDialog::Unconnected() {
   static CPjtInterface projector;
   return projector;
 }
+
+}  // namespace AdvancedControl

@@ -1,11 +1,14 @@
 #pragma once
 
 #include "AdvancedControlExport.h"
+#include "Namespace.h"
 #include "device/CPjtInterface.h"
 #include "device/ModelData.h"
 #include "i18n/LocalizeControlTexts.h"
 #include "settings/CatalogNumbers.h"
 #include "toolkit/CDialog.h"
+
+namespace AdvancedControl {
 
 /// What every page and pop-up needs: the projector, the model data, texts and error boxes. Nothing
 /// here is specific to one page. User-interface thread only.
@@ -43,3 +46,5 @@ class ADVANCED_CONTROL_EXPORT SettingsDialog : public CDialog {
  private:
   static CPjtInterface& Unconnected();
 };
+
+}  // namespace AdvancedControl

@@ -8,6 +8,8 @@
 #include "i18n/LocalizeControlTexts.h"
 #include "settings/CatalogNumbers.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 int ProblemText(ConnectionState connection) {
@@ -76,3 +78,5 @@ void StatusLine::Show(const QString& text, bool canRetry) {
   QAccessibleEvent changed(text_, canRetry ? QAccessible::Alert : QAccessible::NameChanged);
   QAccessible::updateAccessibility(&changed);
 }
+
+}  // namespace AdvancedControl

@@ -2,10 +2,13 @@
 
 #include <QWidget>
 
+#include "Namespace.h"
 #include "device/CPjtInterface.h"
 
 class QLabel;
 class QPushButton;
+
+namespace AdvancedControl {
 
 /// The quiet line beside Close: how far reading has come, that a change is not yet so or not
 /// possible now, or that the projector does not answer, with a button to try again. A screen reader
@@ -35,3 +38,5 @@ class StatusLine final : public QWidget {
   QLabel* text_;
   QPushButton* retry_;
 };
+
+}  // namespace AdvancedControl

@@ -5,6 +5,8 @@
 
 #include "pages/common/StatusLine.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 constexpr std::chrono::milliseconds kTick{50};
@@ -61,3 +63,5 @@ void Waiting::Show(bool waiting) {
   dialog_.show(waiting);
   if (line_ != nullptr) line_->ShowProgress(waiting ? dialog_.text() : QString());
 }
+
+}  // namespace AdvancedControl

@@ -6,7 +6,10 @@
 #include <QObject>
 #include <QPointer>
 
+#include "Namespace.h"
 #include "device/CPjtInterface.h"
+
+namespace AdvancedControl {
 
 class StatusLine;
 
@@ -59,3 +62,5 @@ class Waiting final : public QObject {
   int ticks_ = 0;
   bool shown_ = false;
 };
+
+}  // namespace AdvancedControl

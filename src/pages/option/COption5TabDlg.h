@@ -35,7 +35,7 @@ class ADVANCED_CONTROL_EXPORT COption5TabDlg final : public CTabPage {
   void OnBnClickedOpt5Btnsvc();
 
  protected:
-  std::vector<Notification> OwnNotifications() const override;
+  std::vector<AdvancedControl::Notification> OwnNotifications() const override;
   bool OnInitDialog() override;
 
  private:

@@ -5,7 +5,7 @@
 
 /// The pop-up with the settings of installers: automatic adjustment, remote-control receivers and
 /// frequencies, focus lock. Each change applies at once; a refused one is silently undone.
-class ADVANCED_CONTROL_EXPORT CServiceDlg final : public RowDialog {
+class ADVANCED_CONTROL_EXPORT CServiceDlg final : public AdvancedControl::RowDialog {
   Q_OBJECT
 
  public:
@@ -25,10 +25,10 @@ class ADVANCED_CONTROL_EXPORT CServiceDlg final : public RowDialog {
   void OnBnClickedSvcBtnclose();
 
  protected:
-  const ModelData& Model() const override { return model_; }
-  std::vector<Notification> OwnNotifications() const override;
+  const AdvancedControl::ModelData& Model() const override { return model_; }
+  std::vector<AdvancedControl::Notification> OwnNotifications() const override;
   bool OnInitDialog() override;
 
  private:
-  ModelData model_;  // nothing but `ModelCode`
+  AdvancedControl::ModelData model_;  // nothing but `ModelCode`
 };

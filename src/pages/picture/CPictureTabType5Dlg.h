@@ -5,7 +5,7 @@
 
 /// Picture settings of the newest page set: brightness, contrast, color, tint and sharpness; gamma
 /// and color temperature with their custom pop-ups; active iris; memories; resets.
-class ADVANCED_CONTROL_EXPORT CPictureTabType5Dlg final : public PicturePage {
+class ADVANCED_CONTROL_EXPORT CPictureTabType5Dlg final : public AdvancedControl::PicturePage {
   Q_OBJECT
 
  public:

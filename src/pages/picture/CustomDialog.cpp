@@ -6,6 +6,8 @@
 #include "toolkit/CSliderCtrl.h"
 #include "toolkit/WindowText.h"
 
+namespace AdvancedControl {
+
 const ValueRow& CustomDialog::RowAt(std::size_t row) const {
   return std::get<ValueRow>(table_.rows[row + 1]);
 }
@@ -56,3 +58,5 @@ void CustomDialog::Draw() {
   picture_->Show(std::move(lines));
   picture_->setAccessibleDescription(description.join(QStringLiteral(", ")));
 }
+
+}  // namespace AdvancedControl

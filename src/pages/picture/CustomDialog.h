@@ -4,8 +4,11 @@
 #include <optional>
 #include <vector>
 
+#include "Namespace.h"
 #include "pages/common/RowDialog.h"
 #include "toolkit/CurveView.h"
+
+namespace AdvancedControl {
 
 /// What the two custom pop-ups share: a test pattern and a column of slider rows, each with a
 /// button that resets it, and a picture of their values. Every change goes to the projector at
@@ -36,3 +39,5 @@ class CustomDialog : public RowDialog {
   bool hideResets_;
   QPointer<CurveView> picture_;
 };
+
+}  // namespace AdvancedControl

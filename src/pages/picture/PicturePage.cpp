@@ -4,6 +4,8 @@
 #include "pages/picture/CGammaDlg.h"
 #include "toolkit/CComboBox.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 constexpr int kGammaList = 20142;
@@ -57,3 +59,5 @@ void PicturePage::OnBnClickedPicColorBtn() {
   dialog.projector = projector;
   dialog.DoModal();
 }
+
+}  // namespace AdvancedControl

@@ -1,9 +1,12 @@
 #pragma once
 
 #include "AdvancedControlExport.h"
+#include "Namespace.h"
 #include "pages/common/CTabPage.h"
 
 class CComboBox;
+
+namespace AdvancedControl {
 
 /// A picture page with lists of gammas and colour temperatures. A button beside each list opens the
 /// pop-up for entries that the user can customise. The controls have the same numbers on every such
@@ -34,3 +37,5 @@ class ADVANCED_CONTROL_EXPORT PicturePage : public CTabPage {
 
   bool hideResets_;
 };
+
+}  // namespace AdvancedControl

@@ -4,6 +4,8 @@
 #include "settings/RowUse.h"
 #include "toolkit/CComboBox.h"
 
+namespace AdvancedControl {
+
 std::vector<RowView::Operated> ActionRowView::OperatedControls() const {
   std::vector<Operated> operated{{Notification::Event::Clicked, row_.control}};
   if (row_.list != 0) operated.push_back({Notification::Event::Passive, row_.list});
@@ -29,3 +31,5 @@ void ActionRowView::Act(int) {
   if (ReadsAgain(row_.rereads, done)) Host().ReadAgain();
   if (!done && row_.error != 0) Dialog().ShowError(row_.error);
 }
+
+}  // namespace AdvancedControl

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "Namespace.h"
 #include "pages/rows/RowView.h"
 
 class CComboBox;
+
+namespace AdvancedControl {
 
 /// A button that makes the projector do something, with a list beside it or without.
 class ActionRowView final : public RowView {
@@ -20,3 +23,5 @@ class ActionRowView final : public RowView {
   const ActionRow& row_;
   CComboBox* list_ = nullptr;
 };
+
+}  // namespace AdvancedControl

@@ -6,6 +6,8 @@
 #include "settings/CatalogNumbers.h"
 #include "settings/RowUse.h"
 
+namespace AdvancedControl {
+
 std::vector<RowView::Operated> CheckRowView::OperatedControls() const {
   return {{Notification::Event::Clicked, row_.control}};
 }
@@ -38,3 +40,5 @@ bool CheckRowView::CanMoveTo(int position) const {
 void CheckRowView::MoveTo(int position) {
   if (CanMoveTo(position)) check_->click();
 }
+
+}  // namespace AdvancedControl

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "Namespace.h"
 #include "pages/rows/RowView.h"
 
 class QCheckBox;
+
+namespace AdvancedControl {
 
 /// A switch with a check box. A refused change is read back.
 class CheckRowView final : public RowView {
@@ -23,3 +26,5 @@ class CheckRowView final : public RowView {
   const CheckRow& row_;
   QCheckBox* check_ = nullptr;
 };
+
+}  // namespace AdvancedControl

@@ -6,6 +6,8 @@
 #include "settings/RowUse.h"
 #include "toolkit/CComboBox.h"
 
+namespace AdvancedControl {
+
 std::vector<RowView::Operated> ListRowView::OperatedControls() const {
   return {{Notification::Event::SelChange, row_.control}};
 }
@@ -92,3 +94,5 @@ bool ListRowView::CanMoveTo(int position) const {
 void ListRowView::MoveTo(int position) {
   if (CanMoveTo(position)) list_->Pick(position);
 }
+
+}  // namespace AdvancedControl

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "Namespace.h"
 #include "pages/rows/RowView.h"
 
 class CComboBox;
+
+namespace AdvancedControl {
 
 /// A setting with a list of values. A choice is sent at once.
 class ListRowView final : public RowView {
@@ -31,3 +34,5 @@ class ListRowView final : public RowView {
   const ListRow& row_;
   CComboBox* list_ = nullptr;
 };
+
+}  // namespace AdvancedControl

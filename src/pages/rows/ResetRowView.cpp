@@ -8,6 +8,8 @@
 #include "settings/RowUse.h"
 #include "toolkit/CComboBox.h"
 
+namespace AdvancedControl {
+
 std::vector<RowView::Operated> ResetRowView::OperatedControls() const {
   return {{Notification::Event::Clicked, row_.control}, {Notification::Event::Passive, row_.list}};
 }
@@ -41,3 +43,5 @@ void ResetRowView::Act(int) {
   }
   if (ReadsAgain(row_.rereads, done)) Host().ReadAgain();
 }
+
+}  // namespace AdvancedControl

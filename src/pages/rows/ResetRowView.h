@@ -1,8 +1,11 @@
 #pragma once
 
+#include "Namespace.h"
 #include "pages/rows/RowView.h"
 
 class CComboBox;
+
+namespace AdvancedControl {
 
 /// The list of a page's resets and the button that runs the chosen one.
 class ResetRowView final : public RowView {
@@ -21,3 +24,5 @@ class ResetRowView final : public RowView {
   const ResetRow& row_;
   CComboBox* list_ = nullptr;
 };
+
+}  // namespace AdvancedControl

@@ -2,9 +2,13 @@
 
 #include <optional>
 
+#include "Namespace.h"
 #include "settings/Rows.h"
 
 class QWidget;
+
+namespace AdvancedControl {
+
 class RowView;
 class SettingsDialog;
 
@@ -39,3 +43,5 @@ class RowHost {
  protected:
   ~RowHost() = default;
 };
+
+}  // namespace AdvancedControl

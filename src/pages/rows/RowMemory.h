@@ -3,6 +3,10 @@
 #include <cstdint>
 #include <optional>
 
+#include "Namespace.h"
+
+namespace AdvancedControl {
+
 /// The note to show about a row after it was read.
 enum class RowNote : std::uint8_t { None, Refused, NotOffered, Unanswered, NoEntries, Range };
 
@@ -14,3 +18,5 @@ struct RowMemory {
   std::optional<int> opened{};  ///< First position read since the dialog was opened,
   std::optional<int> source{};  ///< for this input source.
 };
+
+}  // namespace AdvancedControl

@@ -7,6 +7,8 @@
 #include "pages/rows/RowView.h"
 #include "toolkit/CComboBox.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 RowNote NoteOf(const RowView& row, const SettingsDialog& dialog,
@@ -63,3 +65,5 @@ void RowNotes::Tell(RowView& row, const CPjtInterface::Tally& before) const {
 void RowNotes::GreyCaption(const RowView& row) const {
   if (!captionsStay_) host_.Dialog().GreyCaption(ControlOf(row.Row()));
 }
+
+}  // namespace AdvancedControl

@@ -2,7 +2,10 @@
 
 #include <QString>
 
+#include "Namespace.h"
 #include "device/CPjtInterface.h"
+
+namespace AdvancedControl {
 
 class RowHost;
 class RowView;
@@ -27,3 +30,5 @@ class RowNotes {
   RowHost& host_;
   bool captionsStay_;
 };
+
+}  // namespace AdvancedControl

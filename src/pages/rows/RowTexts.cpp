@@ -4,6 +4,8 @@
 #include "settings/CatalogNumbers.h"
 #include "toolkit/CComboBox.h"
 
+namespace AdvancedControl {
+
 QString PlainText(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
@@ -23,3 +25,5 @@ void FillList(CComboBox& list, std::span<const ListEntry> entries) {
   list.clear();
   for (const ListEntry& entry : entries) list.Add(TextOf(entry), entry.value);
 }
+
+}  // namespace AdvancedControl

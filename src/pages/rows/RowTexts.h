@@ -5,9 +5,12 @@
 
 #include <QString>
 
+#include "Namespace.h"
 #include "settings/Rows.h"
 
 class CComboBox;
+
+namespace AdvancedControl {
 
 /// A text that is the same in every language.
 QString PlainText(std::string_view text);
@@ -17,3 +20,5 @@ QString CaptionText(const PageRow& row);
 QString TextOf(const ListEntry& entry);
 /// Fills a list anew; nothing is selected then.
 void FillList(CComboBox& list, std::span<const ListEntry> entries);
+
+}  // namespace AdvancedControl

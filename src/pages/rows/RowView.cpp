@@ -2,6 +2,8 @@
 
 #include "settings/RowUse.h"
 
+namespace AdvancedControl {
+
 std::vector<int> RowView::Controls() const { return {ControlOf(row_)}; }
 
 QString RowView::Text() const {
@@ -16,3 +18,5 @@ bool RowView::IsUsable() const {
 std::optional<int> RowView::ReadSetting(Source source) const {
   return source ? ::ReadRow(Projector(), row_, Model(), source) : std::nullopt;
 }
+
+}  // namespace AdvancedControl

@@ -6,10 +6,13 @@
 
 #include <QString>
 
+#include "Namespace.h"
 #include "pages/common/SettingsDialog.h"
 #include "pages/rows/RowHost.h"
 #include "pages/rows/RowMemory.h"
 #include "toolkit/NotificationMap.h"
+
+namespace AdvancedControl {
 
 /// One row of a page: its widgets, remembered values and behaviour. Each kind of row has a class.
 /// User-interface thread only.
@@ -86,3 +89,5 @@ class RowView {
 
 /// The views of all rows of a table, in its order.
 std::vector<std::unique_ptr<RowView>> MakeRowViews(const PageTable& table, RowHost& host);
+
+}  // namespace AdvancedControl

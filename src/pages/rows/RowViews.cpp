@@ -6,6 +6,8 @@
 #include "pages/rows/StateRowView.h"
 #include "pages/rows/ValueRowView.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 /// A button of the page alone.
@@ -39,3 +41,5 @@ std::vector<std::unique_ptr<RowView>> MakeRowViews(const PageTable& table, RowHo
   for (const PageRow& row : table.rows) views.push_back(MakerOf(row)(table, row, host));
   return views;
 }
+
+}  // namespace AdvancedControl

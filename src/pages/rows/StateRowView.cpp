@@ -6,6 +6,8 @@
 #include "pages/rows/RowTexts.h"
 #include "settings/CatalogNumbers.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 // A state's text is put into a catalog text of its own; both may be long.
@@ -34,3 +36,5 @@ QString StateRowView::TextOfState(int value) const {
 }
 
 QString StateRowView::Text() const { return label_->text(); }
+
+}  // namespace AdvancedControl

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "Namespace.h"
 #include "pages/rows/RowView.h"
 
 class QLabel;
+
+namespace AdvancedControl {
 
 /// A state of the projector, shown as a text, or as a dash where it cannot be read. What a person
 /// can do about it is its page's.
@@ -21,3 +24,5 @@ class StateRowView final : public RowView {
   const StateRow& row_;
   QLabel* label_ = nullptr;
 };
+
+}  // namespace AdvancedControl

@@ -5,6 +5,8 @@
 
 #include "toolkit/CSliderCtrl.h"
 
+namespace AdvancedControl {
+
 namespace {
 
 std::int16_t Word(int value) { return static_cast<std::int16_t>(value); }
@@ -187,3 +189,5 @@ void ValueRowView::MoveTo(int position) {
     slider_->ScrollTo(position);
   }
 }
+
+}  // namespace AdvancedControl

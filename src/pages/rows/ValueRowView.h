@@ -1,11 +1,14 @@
 #pragma once
 
+#include "Namespace.h"
 #include "pages/rows/RowView.h"
 #include "settings/RowUse.h"
 
 class CSliderCtrl;
 class QAbstractButton;
 class QLineEdit;
+
+namespace AdvancedControl {
 
 /// A setting with a number: − button, slider, + button and number field, or a field with two arrow
 /// buttons and no slider. It remembers the last value known, which a refused change goes back to.
@@ -56,3 +59,5 @@ class ValueRowView final : public RowView {
   QLineEdit* field_ = nullptr;
   std::int16_t remembered_ = 0;
 };
+
+}  // namespace AdvancedControl

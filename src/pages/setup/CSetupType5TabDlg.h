@@ -61,7 +61,7 @@ class ADVANCED_CONTROL_EXPORT CSetupType5TabDlg final : public CTabPage {
   void OnCbnSelchangeCombStandbymode();
 
  protected:
-  std::vector<Notification> OwnNotifications() const override;
+  std::vector<AdvancedControl::Notification> OwnNotifications() const override;
   bool OnInitDialog() override;
   void ShowSource(std::optional<int> source) override;
 };

@@ -2,7 +2,7 @@
 #include "settings/SharedRows.h"
 #include "settings/input/InputLists.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "Namespace.h"
 #include "device/CommandCode.h"
 #include "settings/RowParts.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 // What the input pages have in common; what is called legacy, only the older ones.
 

@@ -2,10 +2,11 @@
 
 #include <vector>
 
+#include "Namespace.h"
 #include "ProjectorSettingsExport.h"
 #include "settings/ListEntry.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 /// Function codes of the my-button lists of models that bring no list of their own; the list offers
 /// the first of them.

@@ -1,7 +1,7 @@
 #include "settings/PageTables.h"
 #include "settings/SharedRows.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include "settings/RowParts.h"
 #include "settings/option/MyButtons.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include "settings/CatalogNumbers.h"
 #include "settings/PageTables.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

@@ -2,7 +2,7 @@
 #include "settings/SharedRows.h"
 #include "settings/picture/PictureRows.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

@@ -2,7 +2,7 @@
 #include "settings/picture/PictureRows.h"
 #include "settings/setup/ScreenLists.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include "settings/PageTables.h"
 #include "settings/picture/PictureRows.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

@@ -3,9 +3,10 @@
 #include <array>
 #include <utility>
 
+#include "Namespace.h"
 #include "settings/LegacyRows.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 // What the picture and image pages share.
 

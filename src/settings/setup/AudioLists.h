@@ -1,8 +1,9 @@
 #pragma once
 
+#include "Namespace.h"
 #include "settings/RowParts.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 // What the pages that route sound have in common.
 

@@ -2,7 +2,7 @@
 #include "settings/PageTables.h"
 #include "settings/setup/AudioLists.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

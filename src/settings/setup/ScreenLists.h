@@ -1,9 +1,10 @@
 #pragma once
 
+#include "Namespace.h"
 #include "device/CommandCode.h"
 #include "settings/RowParts.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 // What the screen pages have in common.
 

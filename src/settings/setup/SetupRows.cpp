@@ -1,7 +1,7 @@
 #include "settings/LegacyRows.h"
 #include "settings/PageTables.h"
 
-inline namespace AdvancedControl {
+namespace AdvancedControl {
 
 namespace {
 

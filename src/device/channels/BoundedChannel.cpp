@@ -1,0 +1,309 @@
+#include "device/channels/BoundedChannel.h"
+
+#include <algorithm>
+#include <condition_variable>
+#include <mutex>
+#include <optional>
+#include <system_error>
+#include <thread>
+#include <utility>
+#include <vector>
+
+#include <QAbstractEventDispatcher>
+#include <QCoreApplication>
+#include <QEvent>
+#include <QEventLoop>
+#include <QTimer>
+
+#include "device/DropException.h"
+
+namespace AdvancedControl {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+// Commands that follow each other within the pause let no event loop run in between; it shall not
+// stand still for longer than this on their account.
+constexpr std::chrono::milliseconds kPause{2};
+constexpr std::chrono::milliseconds kStandstill{30};
+
+// To fail once more within this time costs little.
+constexpr std::chrono::milliseconds kQuickFailure{100};
+constexpr std::chrono::milliseconds kRetryAfterQuickFailure{200};
+
+PjtReply Unanswered(const PjtCommand& command) {
+  return {.result = RefusedResult(command.operation), .answered = false};
+}
+
+PjtReply Unsent(const PjtCommand& command) {
+  PjtReply reply = Unanswered(command);
+  reply.unsent = true;
+  return reply;
+}
+
+// A channel that throws has not answered.
+PjtReply Ask(ProjectorChannel& channel, std::optional<std::chrono::milliseconds> longest,
+             const std::optional<std::vector<PjtCommand>>& announced, const PjtCommand& command) {
+  try {
+    if (longest) channel.GiveUpAfter(*longest);
+    if (announced) channel.Announce(*announced);
+    return channel.Execute(command);
+  } catch (...) {
+    DropException();
+    return Unanswered(command);
+  }
+}
+
+bool SpendIdleTime(ProjectorChannel& channel) {
+  try {
+    return channel.UseIdleTime();
+  } catch (...) {  // likewise
+    DropException();
+    return false;
+  }
+}
+
+bool Tend(ProjectorChannel& channel, Clock::time_point lastUse) {
+  try {
+    return channel.TendConnection(
+        std::chrono::floor<std::chrono::milliseconds>(Clock::now() - lastUse));
+  } catch (...) {  // likewise
+    DropException();
+    return false;
+  }
+}
+
+bool HasEventLoop() {
+  return QCoreApplication::instance() && QAbstractEventDispatcher::instance() != nullptr;
+}
+
+}  // namespace
+
+/// One `Execute` that waits; lives on its stack.
+struct Wait {
+  std::optional<PjtReply> reply;
+  bool abandoned = false;
+  QEventLoop* loop = nullptr;  ///< The loop that runs meanwhile, if any.
+};
+
+/// Shared with the worker, which may outlive the channel object by one command.
+struct BoundedChannel::State {
+  State(std::shared_ptr<ProjectorChannel> channel, const Limits& bounds)
+      : inner(std::move(channel)), limits(bounds) {}
+
+  void Work();
+  void WakeUp();
+  bool WaitUntil(std::unique_lock<std::mutex>& lock, Wait& wait, auto done);
+
+  std::shared_ptr<ProjectorChannel> inner;  ///< The worker's own once there is a worker.
+  const Limits limits;
+  std::thread worker;
+
+  std::mutex mutex;
+  std::condition_variable commandGiven;
+  std::condition_variable changed;  ///< For who waits.
+  // All below under the mutex.
+  std::optional<PjtCommand> command;                 ///< Given, and not yet taken by the worker.
+  std::optional<std::vector<PjtCommand>> announced;  ///< Likewise.
+  std::optional<std::chrono::milliseconds> longest;  ///< For a command, if less than the limit.
+  bool outstanding = false;   ///< Given, and not yet back from the inner channel.
+  bool usesIdleTime = false;  ///< The inner channel, right now.
+  bool abandoned = false;     ///< The outstanding one is waited for by the next command.
+  bool ended = false;
+  Wait* waiting = nullptr;
+  Wait* recipient = nullptr;  ///< Who gets the reply to the outstanding command; may be nobody.
+  Clock::time_point silentUntil{};
+  Clock::time_point lastReturn{};
+  Clock::time_point stillSince{};  ///< When the event loop ran last, as far as this knows.
+};
+
+void BoundedChannel::State::WakeUp() {
+  if (waiting == nullptr) return;
+  changed.notify_one();
+  if (waiting->loop) {
+    QCoreApplication::postEvent(waiting->loop, new QEvent(QEvent::Quit));
+  }
+}
+
+void BoundedChannel::State::Work() {
+  std::unique_lock lock(mutex);
+  const auto isCalled = [this] { return ended || command; };
+  bool hasMoreToDo = false;
+  bool isConnected = false;
+  Clock::time_point lastUse;
+  while (true) {
+    while ((hasMoreToDo || isConnected) &&
+           !commandGiven.wait_for(lock, hasMoreToDo ? limits.idle : limits.tend, isCalled)) {
+      usesIdleTime = true;
+      lock.unlock();
+      if (hasMoreToDo) {
+        hasMoreToDo = SpendIdleTime(*inner);
+      } else {
+        isConnected = Tend(*inner, lastUse);
+      }
+      lock.lock();
+      usesIdleTime = false;
+    }
+    commandGiven.wait(lock, isCalled);
+    if (ended) {
+      const auto last = std::exchange(inner, nullptr);
+      lock.unlock();
+      return;
+    }
+    const PjtCommand taken = *std::exchange(command, std::nullopt);
+    const auto reads = std::exchange(announced, std::nullopt);
+    const auto time = longest;
+    lock.unlock();
+    const PjtReply answer = Ask(*inner, time, reads, taken);
+    lock.lock();
+    outstanding = false;
+    hasMoreToDo = answer.answered;
+    isConnected = true;  // as far as is known
+    lastUse = Clock::now();
+    if (Wait* to = std::exchange(recipient, nullptr)) to->reply = answer;
+    WakeUp();
+  }
+}
+
+/// False when the time is over or the wait was abandoned.
+bool BoundedChannel::State::WaitUntil(std::unique_lock<std::mutex>& lock, Wait& wait, auto done) {
+  const Clock::time_point now = Clock::now();
+  const Clock::time_point deadline =
+      now + std::min(limits.timeOut, longest.value_or(limits.timeOut));
+  const Clock::time_point quick =
+      std::min({deadline, now + limits.quickAnswer, stillSince + kStandstill});
+  const auto over = [&] { return wait.abandoned || done(); };
+  if (HasEventLoop() && !changed.wait_until(lock, quick, over)) {
+    QEventLoop eventLoop;
+    wait.loop = &eventLoop;
+    lock.unlock();
+    const auto rest = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now());
+    QTimer::singleShot(std::max(rest, std::chrono::milliseconds::zero()), Qt::PreciseTimer,
+                       &eventLoop, &QEventLoop::quit);
+    eventLoop.exec();
+    lock.lock();
+    wait.loop = nullptr;
+    stillSince = Clock::now();
+  }
+  // Also where an ending application lets no event loop run.
+  changed.wait_until(lock, deadline, over);
+  return !wait.abandoned && done();
+}
+
+// A channel that throws has told nothing.
+template <typename Value>
+Value BoundedChannel::Told(State& state, Value otherwise, auto ask) {
+  const std::lock_guard lock(state.mutex);
+  try {
+    if (state.inner) return ask(*state.inner);
+  } catch (...) {
+    DropException();
+  }
+  return otherwise;
+}
+
+BoundedChannel::BoundedChannel(std::shared_ptr<ProjectorChannel> inner, const Limits& limits)
+    : state_(std::make_shared<State>(std::move(inner), limits)) {}
+
+BoundedChannel::~BoundedChannel() {
+  bool returnsSoon = false;
+  {
+    const std::lock_guard lock(state_->mutex);
+    state_->ended = true;
+    returnsSoon = !state_->outstanding && !state_->usesIdleTime;
+  }
+  state_->commandGiven.notify_one();
+  if (!state_->worker.joinable()) return;
+  if (returnsSoon) {
+    state_->worker.join();
+  } else {
+    state_->worker.detach();
+  }
+}
+
+PjtReply BoundedChannel::Execute(const PjtCommand& command) {
+  // Events that run while we wait may destroy this object.
+  const std::shared_ptr<State> state = state_;
+  std::unique_lock lock(state->mutex);
+  if (!state->inner || state->ended || state->waiting ||
+      (state->outstanding && !state->abandoned) || Clock::now() < state->silentUntil) {
+    return Unsent(command);
+  }
+  if (!state->worker.joinable()) {
+    try {
+      state->worker = std::thread([state] { state->Work(); });
+    } catch (const std::system_error&) {
+      return Unsent(command);
+    }
+  }
+
+  Wait wait;
+  state->waiting = &wait;
+  const Clock::time_point start = Clock::now();
+  if (start > state->lastReturn + kPause) state->stillSince = start;
+  const bool free =
+      !state->outstanding || state->WaitUntil(lock, wait, [&] { return !state->outstanding; });
+  const bool isSent = free && !state->ended;
+  if (isSent) {
+    state->command = command;
+    state->outstanding = true;
+    state->abandoned = false;
+    state->recipient = &wait;
+    state->commandGiven.notify_one();
+    state->WaitUntil(lock, wait, [&] { return wait.reply.has_value(); });
+  }
+  // After an abandoned wait somebody else may be waiting by now.
+  if (state->waiting == &wait) state->waiting = nullptr;
+  if (state->recipient == &wait) state->recipient = nullptr;
+  state->lastReturn = Clock::now();
+  if (wait.reply && wait.reply->answered) return *wait.reply;
+  if (!wait.abandoned) {
+    state->abandoned = false;
+    const auto pause = state->limits.retryAfter;
+    const bool isQuick = state->lastReturn <= start + kQuickFailure;
+    state->silentUntil =
+        state->lastReturn + (isQuick ? std::min(pause, kRetryAfterQuickFailure) : pause);
+  }
+  PjtReply reply = wait.reply.value_or(isSent ? Unanswered(command) : Unsent(command));
+  reply.abandoned = wait.abandoned;
+  return reply;
+}
+
+void BoundedChannel::GiveUpAfter(std::chrono::milliseconds time) {
+  const std::lock_guard lock(state_->mutex);
+  state_->longest = time;
+}
+
+void BoundedChannel::Abandon() {
+  const std::lock_guard lock(state_->mutex);
+  state_->silentUntil = {};
+  state_->abandoned = true;
+  state_->announced.emplace();
+  Wait* const wait = state_->waiting;
+  if (wait == nullptr) return;
+  wait->abandoned = true;
+  if (state_->recipient == wait) state_->recipient = nullptr;
+  state_->WakeUp();
+  state_->waiting = nullptr;
+}
+
+void BoundedChannel::Announce(std::span<const PjtCommand> reads) {
+  const std::lock_guard lock(state_->mutex);
+  state_->announced.emplace(reads.begin(), reads.end());
+}
+
+ConnectionState BoundedChannel::Connection() const {
+  return Told(*state_, ConnectionState::None, [](const auto& inner) { return inner.Connection(); });
+}
+
+std::optional<SourceList> BoundedChannel::Inputs() {
+  return Told(*state_, std::optional<SourceList>(), [](auto& inner) { return inner.Inputs(); });
+}
+
+std::optional<PowerState> BoundedChannel::Power() const {
+  return Told(*state_, std::optional<PowerState>(),
+              [](const auto& inner) { return inner.Power(); });
+}
+
+}  // namespace AdvancedControl

@@ -1,0 +1,97 @@
+#include "device/protocol/PjLinkInputs.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "device/protocol/PjLinkLine.h"
+
+namespace AdvancedControl {
+
+namespace {
+
+constexpr std::size_t kMostInputs = SourceList::kCapacity;
+constexpr std::size_t kLongestName = 128;  // bytes; some tell more than they may
+
+std::string NameByCode(const std::string& code) {
+  constexpr std::array kKinds{"RGB", "Video", "Digital", "Storage", "Network", "Internal"};
+  return std::string(kKinds.at(static_cast<std::size_t>(code[0] - '1'))) + ' ' + code[1];
+}
+
+/// The name, cut if necessary, followed by the input's two characters.
+std::string WithCode(const PjLinkInput& input) {
+  const std::string behind = " (" + PjLink::InputCode(input.number).value_or("?") + ')';
+  return std::string(CutText(input.name, NameSlot{}.size() - behind.size())) + behind;
+}
+
+}  // namespace
+
+SourceList SourcesOf(const std::vector<PjLinkInput>& inputs, InputCodes codes) {
+  SourceList sources;
+  for (const PjLinkInput& input : inputs) {
+    if (sources.count == SourceList::kCapacity) break;
+    const auto slot = MakeNameSlot(input.name);
+    const auto isSame = [&](const PjLinkInput& other) { return MakeNameSlot(other.name) == slot; };
+    const bool hasCode = codes == InputCodes::AllNames || std::ranges::count_if(inputs, isSame) > 1;
+    const auto next = static_cast<std::size_t>(sources.count++);
+    sources.names[next] = hasCode ? MakeNameSlot(WithCode(input)) : slot;
+    sources.firstValues[next] = input.number;
+    sources.secondValues[next] = input.number;
+  }
+  return sources;
+}
+
+std::optional<PjLinkQuestion> PjLinkInputs::Next() const {
+  if (codes_.empty()) return PjLinkQuestion{PjLinkClass::Either, "INST"};
+  const auto code = NextCode();
+  return code ? NameOf(*PjLink::InputNumber(*code)) : std::nullopt;
+}
+
+bool PjLinkInputs::Take(const PjLinkTold& told) {
+  const bool isTold = told.kind == PjLinkTold::Kind::Text || told.kind == PjLinkTold::Kind::None;
+  if (!isTold) return false;
+  if (codes_.empty()) {
+    codes_ = PjLink::InputCodes(told.text);
+    return !codes_.empty();
+  }
+  if (const auto code = NextCode()) Add(Named(*PjLink::InputNumber(*code), told.text));
+  return true;
+}
+
+void PjLinkInputs::PassOver() {
+  if (const auto code = NextCode()) Add(Named(*PjLink::InputNumber(*code), {}));
+}
+
+void PjLinkInputs::Remember(std::vector<PjLinkInput> inputs) {
+  codes_.clear();
+  for (const PjLinkInput& input : inputs) {
+    if (auto code = PjLink::InputCode(input.number)) codes_.push_back(std::move(*code));
+  }
+  inputs_ = std::move(inputs);
+}
+
+std::optional<PjLinkQuestion> PjLinkInputs::NameOf(int number) {
+  const auto code = PjLink::InputCode(number);
+  if (!code) return std::nullopt;
+  return PjLinkQuestion{PjLinkClass::Second, "INNM", std::string(PjLink::kQuery) + *code};
+}
+
+PjLinkInput PjLinkInputs::Named(int number, const std::string& name) {
+  const auto code = PjLink::InputCode(number);
+  return {number,
+          name.empty() && code ? NameByCode(*code) : std::string(CutText(name, kLongestName))};
+}
+
+/// The input to ask for next; nothing when all are known.
+std::optional<std::string> PjLinkInputs::NextCode() const {
+  if (inputs_.size() < std::min(codes_.size(), kMostInputs)) return codes_[inputs_.size()];
+  const auto isPlaying = [this](const PjLinkInput& input) { return input.number == playing_; };
+  return std::ranges::any_of(inputs_, isPlaying) ? std::nullopt : PjLink::InputCode(playing_);
+}
+
+void PjLinkInputs::Add(PjLinkInput input) {
+  if (inputs_.size() == kMostInputs) inputs_.pop_back();
+  inputs_.push_back(std::move(input));
+}
+
+}  // namespace AdvancedControl

@@ -1,0 +1,81 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "Namespace.h"
+#include "ProjectorCommonExport.h"
+#include "device/ProjectorChannel.h"
+
+namespace AdvancedControl {
+
+/// The lines of PJLink, the open standard for controlling projectors of any maker over TCP, and
+/// what their parameters are in device values. Lines are given here without their end, a CR.
+///
+/// What is not understood yields nothing; no text whatever does harm.
+namespace PjLink {
+
+inline constexpr int kPort = 4352;
+inline constexpr std::size_t kLongestInputs =
+    157;  ///< Bytes of the list of 50 inputs, with the CR.
+inline constexpr std::string_view kWrongPassword = "PJLINK ERRA";
+
+inline constexpr std::string_view kQuery = "?";
+inline constexpr std::string_view kDone = "OK";
+inline constexpr std::string_view kUndefined = "ERR1";
+inline constexpr std::string_view kOutOfRange = "ERR2";
+inline constexpr std::string_view kNotNow = "ERR3";
+inline constexpr std::string_view kFailure = "ERR4";
+
+/// A request or a reply.
+struct Line {
+  char protocolClass = '1';  ///< A digit.
+  std::string command;       ///< Four letters or digits, in the case in which they came.
+  char separator = ' ';      ///< ' ' in a request, '=' in a reply.
+  std::string parameter;
+};
+
+PROJECTOR_COMMON_EXPORT std::string Format(const Line& line);
+PROJECTOR_COMMON_EXPORT std::optional<Line> Parse(std::string_view text);
+
+/// Whether the words are the same but for the case of ASCII letters.
+PROJECTOR_COMMON_EXPORT bool SameWord(std::string_view a, std::string_view b);
+
+/// The line with which a projector opens a session. An empty seed: without password.
+PROJECTOR_COMMON_EXPORT std::string FormatGreeting(std::string_view seed);
+/// The seed of a greeting.
+PROJECTOR_COMMON_EXPORT std::optional<std::string> ParseGreeting(std::string_view text);
+/// What proves the password, 32 characters before a session's first request.
+PROJECTOR_COMMON_EXPORT std::string Digest(std::string_view seed, std::string_view password);
+
+// Parameters as device values.
+
+/// '2' for class 2 and any above, which has all of class 2; '1' for any other text.
+PROJECTOR_COMMON_EXPORT char ProtocolClass(std::string_view parameter);
+PROJECTOR_COMMON_EXPORT std::optional<PowerState> Power(std::string_view parameter);
+/// The running state: warming up is on, too.
+PROJECTOR_COMMON_EXPORT std::optional<int> PowerStatus(std::string_view parameter);
+PROJECTOR_COMMON_EXPORT std::optional<int> ErrorStatus(std::string_view parameter);
+PROJECTOR_COMMON_EXPORT std::optional<int> Blank(std::string_view parameter);
+PROJECTOR_COMMON_EXPORT std::optional<int> Mute(std::string_view parameter);
+PROJECTOR_COMMON_EXPORT std::optional<int> Switch(std::string_view parameter);
+/// Hours; more than a device value holds, 65,535, are as many as that.
+PROJECTOR_COMMON_EXPORT std::optional<int> Hours(std::string_view parameter);
+/// Hours of the first lamp; whether it burns may be missing.
+PROJECTOR_COMMON_EXPORT std::optional<int> LampHours(std::string_view parameter);
+/// The number of an input: "31" is 31; letters go on from 9, so "3A" is 310 and "3Z" is 335.
+PROJECTOR_COMMON_EXPORT std::optional<int> InputNumber(std::string_view code);
+
+/// The input's two characters.
+PROJECTOR_COMMON_EXPORT std::optional<std::string> InputCode(int number);
+/// The codes in a list of inputs; what is none is passed over.
+PROJECTOR_COMMON_EXPORT std::vector<std::string> InputCodes(std::string_view list);
+/// The error status's six digits.
+PROJECTOR_COMMON_EXPORT std::string ErrorDigits(int errorStatus);
+
+}  // namespace PjLink
+
+}  // namespace AdvancedControl

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds, and starts the host application on simulated projectors.
-# Arguments go to the application; without a display it saves a pictured tour to out/tour instead.
-# With --real as the first argument the projectors are served by a process of its own, and reached
-# over TCP, PJLink and serial lines.
+# Arguments are passed to the application. Without a display it saves pictures of all pages in
+# out/tour instead. With --real as the first argument, the simulator serves the projectors in a
+# separate process, over TCP, PJLink and serial lines.
 set -euo pipefail
 cd "$(dirname "$0")"
 
@@ -18,7 +18,7 @@ if [ "${1:-}" = --real ]; then
   rm -f out/real.json
   "$(dirname "$program")/advanced-control-simulator" --serial --write-profiles out/real.json &
   started=($!)
-  # Both end together, whichever way: the window is closed, or this script gets Ctrl+C or is ended.
+  # Both processes end together: when the window is closed, on Ctrl+C, or when this script is ended.
   trap 'kill "${started[@]}" 2>/dev/null && wait' EXIT
   for _ in $(seq 100); do
     [ -s out/real.json ] && break

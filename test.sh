@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds with the address and undefined-behaviour sanitizers, and runs
-# all tests. Arguments go to ctest.
+# Installs what is missing, builds with the address and undefined-behaviour sanitizers, and runs all
+# tests. Arguments are passed to ctest.
 set -euo pipefail
 cd "$(dirname "$0")"
 

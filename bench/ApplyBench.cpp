@@ -1,5 +1,5 @@
-// What it costs to set many far projectors alike: the program as a process of its own, each
-// projector behind a relay.
+// The cost of applying settings to many distant projectors: the program runs as a separate process,
+// with each projector behind a relay.
 
 #include <algorithm>
 #include <array>
@@ -41,10 +41,10 @@ const ProjectorProfile& Profile() {
   return *std::ranges::find(profiles, "Projector 5-54", &ProjectorProfile::Name);
 }
 
-/// Projectors behind relays, all on one thread.
-class FarRooms {
+/// Projectors behind relays, all served by one thread.
+class FarProjectors {
  public:
-  FarRooms() {
+  FarProjectors() {
     std::promise<std::vector<std::uint16_t>> listening;
     auto ports = listening.get_future();
     thread_ = std::thread([this, &listening] {
@@ -65,12 +65,12 @@ class FarRooms {
     });
     ports_ = ports.get();
   }
-  ~FarRooms() {
+  ~FarProjectors() {
     QMetaObject::invokeMethod(loop_, &QEventLoop::quit, Qt::QueuedConnection);
     thread_.join();
   }
 
-  /// A profile file that leads to them: "Room 0", "Room 1" and so on.
+  /// A profile file for them, with the names "Room 0", "Room 1" and so on.
   QByteArray Profiles() const {
     QFile file(QStringLiteral(BENCH_CATALOG_DIR "/projectors.json"));
     if (!file.open(QIODevice::ReadOnly)) return {};
@@ -98,7 +98,7 @@ class FarRooms {
   std::thread thread_;
 };
 
-/// Settings of one command each, with a first or a second value.
+/// Settings that need one command each, with one of two sets of values.
 Snapshot Settings(bool second) {
   const ModelSettings model(MakeModelData(Profile().Model));
   Snapshot snapshot = EmptySnapshot("bench", model.Model());
@@ -116,7 +116,7 @@ Snapshot Settings(bool second) {
 
 struct Cost {
   double seconds = 0;
-  double megabytes = 0;  ///< The most that the program had in memory.
+  double megabytes = 0;  ///< Peak memory of the program.
   bool done = false;
 };
 
@@ -147,9 +147,10 @@ void Write(const QTemporaryDir& folder, const char* name, const QByteArray& text
   if (file.open(QIODevice::WriteOnly)) file.write(text);
 }
 
-// "ratio" is the time for all rooms divided by that of one times their number over the jobs.
+// "ratio" is the time for all projectors, divided by the ideal time: that for one projector,
+// multiplied by their number and divided by the number of jobs.
 void ApplyToRooms(benchmark::State& state) {
-  const FarRooms rooms;
+  const FarProjectors rooms;
   const QTemporaryDir folder;
   Write(folder, "rooms.json", rooms.Profiles());
   Write(folder, "first.json", WriteSnapshot(Settings(false)));

@@ -1,4 +1,4 @@
 #include <QCoreApplication>
 
-/// What every Qt Core program costs.
+/// The base cost of every Qt Core program.
 int main(int argc, char** argv) { const QCoreApplication application(argc, argv); }

@@ -8,7 +8,7 @@
 
 namespace {
 
-// The offscreen display says of every window that it has no size hints.
+// The offscreen display warns about every window that it does not support size hints.
 void DropDisplayRemarks(QtMsgType type, const QMessageLogContext& context, const QString& message) {
   if (message.contains(QLatin1String("propagateSizeHints"))) return;
   std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, message)));
@@ -17,7 +17,7 @@ void DropDisplayRemarks(QtMsgType type, const QMessageLogContext& context, const
 }  // namespace
 
 int main(int argc, char** argv) {
-  // The benchmarks bring their own display and language, whatever the caller has.
+  // The benchmarks set their own display and language, independent of the caller's.
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qputenv("LC_ALL", "en_US.UTF-8");
   if (LoadCatalog() != 0) return 1;

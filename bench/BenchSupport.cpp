@@ -10,7 +10,7 @@
 
 namespace {
 
-// Two values in turn for each setting; what is not listed stands near its zero point.
+// Two alternating values for each setting. Settings not listed get values near their zero point.
 struct Answers {
   std::uint16_t code;
   std::int16_t values[2];
@@ -31,7 +31,7 @@ void Add(CountedList& list, int value, const char* name) {
   list.names[index] = MakeNameSlot(name);
 }
 
-// Longer than a sleep may take too much.
+// The last part of a delay is spent spinning, because a sleep may overshoot by about this much.
 constexpr std::chrono::microseconds kSpun{300};
 
 void WaitUntil(Clock::time_point time) {
@@ -90,7 +90,7 @@ bool PaintWatch::eventFilter(QObject*, QEvent* event) {
 bool PaintWatch::RunUntilPainted() {
   const auto deadline = Clock::now() + std::chrono::seconds(1);
   while (!painted_ && Clock::now() < deadline) QCoreApplication::processEvents();
-  QCoreApplication::processEvents();  // a layout may have asked for more
+  QCoreApplication::processEvents();  // runs the updates that layouts have requested
   return std::exchange(painted_, false);
 }
 

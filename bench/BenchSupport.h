@@ -12,22 +12,22 @@
 
 using Clock = std::chrono::steady_clock;
 
-/// A projector that accepts everything and answers each command after `delay`. Reads give plausible
-/// values, which change with every round.
+/// A projector that accepts everything and answers each command after `delay`. Reads return
+/// plausible values, which change with every round.
 class AnsweringChannel final : public ProjectorChannel {
  public:
   explicit AnsweringChannel(Clock::duration delay = {}) : delay_(delay) {}
 
   PjtReply Execute(const PjtCommand& command) override;
 
-  /// From now on the values are others, so that a refresh has something to show.
+  /// Changes the values, so that a refresh has something to show.
   void NextRound() { ++round_; }
 
   struct Work {
     int commands = 0;
-    double seconds = 0;  ///< What they took, longer than the delay where the machine was busy.
+    double seconds = 0;  ///< Time that the commands took; longer than the delay on a busy machine.
   };
-  /// The work since the last call. Not while a command runs.
+  /// Returns and clears the work since the last call. Not to be called while a command runs.
   Work TakeWork() { return std::exchange(work_, {}); }
 
  private:
@@ -44,8 +44,8 @@ class PaintWatch final : public QObject {
  public:
   PaintWatch();
 
-  /// Runs the event loop until something was painted since the last call and nothing is left to
-  /// do. False if nothing was painted within a second.
+  /// Runs the event loop until something has been painted since the last call and no events are
+  /// left. False if nothing was painted within a second.
   bool RunUntilPainted();
 
   bool eventFilter(QObject* watched, QEvent* event) override;

@@ -10,7 +10,7 @@
 #include "i18n/Catalog.h"
 #include "i18n/LocalizeControlTexts.h"
 
-extern "C" int _nl_msg_cat_cntr;  // gettext's sign that the language changed
+extern "C" int _nl_msg_cat_cntr;  // tells gettext that the language has changed
 
 namespace {
 
@@ -25,7 +25,7 @@ constexpr CatalogText kTexts[] = {
 constexpr const char* kDomain = "catalog";
 constexpr const char* kContext = "Catalog";
 
-/// A system language, as each side calls it.
+/// A system language with its name on each side.
 struct Language {
   const char* locale;
   const char* translation;
@@ -35,7 +35,7 @@ constexpr Language kEnglish{"en_US.UTF-8", "en", BENCH_CATALOG_DIR};
 constexpr Language kChinese{"zh_CN.UTF-8", "zh_CN", BENCH_CATALOG_DIR};
 constexpr Language kChineseOfTwo{"zh_CN.UTF-8", "zh_CN", BENCH_TWO_LANGUAGES_DIR};
 
-/// Makes a language the system's for as long as it lives.
+/// Sets the system language during its lifetime.
 class LanguageScope {
  public:
   explicit LanguageScope(const Language& language) {
@@ -44,7 +44,7 @@ class LanguageScope {
     loaded_ = LoadCatalog(std::span(&folder, 1)) == 0;
     qputenv("LANGUAGE", language.translation);
     ++_nl_msg_cat_cntr;
-    std::setlocale(LC_MESSAGES, "C.UTF-8");  // in plain "C" gettext looks nothing up
+    std::setlocale(LC_MESSAGES, "C.UTF-8");  // gettext does not look up texts in plain "C"
     bindtextdomain(kDomain, BENCH_TRANSLATIONS_DIR);
     bind_textdomain_codeset(kDomain, "UTF-8");
     const auto file = QStringLiteral(BENCH_TRANSLATIONS_DIR "/%1.qm").arg(language.translation);
@@ -69,7 +69,7 @@ class LanguageScope {
 
 bool HasInserts(const std::string& text) { return text.find('%') != std::string::npos; }
 
-// All sides in turn over all texts, so that whatever disturbs one disturbs the others as well.
+// All sides take turns on all texts, so that disturbances affect them equally.
 void LookUpTexts(benchmark::State& state, const Language& language) {
   const LanguageScope scope(language);
   const QTranslator& translator = scope.Translator();

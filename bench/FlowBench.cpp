@@ -28,8 +28,8 @@ constexpr int kCloseId = 1;
 
 enum Projector { Slow, Silent, DropsOut, Late, Brisk };
 
-/// A projector that is slow, never answers, answers three commands, answers after the time-out, or
-/// just not at once.
+/// A projector that is slow, never answers, answers only three commands, answers after the
+/// time-out, or answers with a short delay.
 class DifficultProjector final : public ProjectorChannel {
  public:
   explicit DifficultProjector(int kind) : kind_(kind) {}
@@ -49,7 +49,7 @@ class DifficultProjector final : public ProjectorChannel {
   std::atomic<int> commands_ = 0;
 };
 
-/// The longest time for which the event loop did not turn, from its first turn on.
+/// Measures the longest time between two turns of the event loop.
 class Heartbeat {
  public:
   Heartbeat() {
@@ -68,7 +68,7 @@ class Heartbeat {
   double longest_ = 0;
 };
 
-/// When the window was painted first.
+/// Records when the window was first painted.
 class FirstPaint final : public QObject {
  public:
   explicit FirstPaint(QWidget& window) { window.installEventFilter(this); }
@@ -81,7 +81,7 @@ class FirstPaint final : public QObject {
 
 double Worst(const std::vector<double>& values) { return *std::ranges::max_element(values) * 1e3; }
 
-// The dialog is run, its tab changed and it is closed, at moments that wander over the reading.
+// Runs the dialog, changes its tab and closes it, at moments that vary over the reading.
 void DifficultRun(benchmark::State& state) {
   const CModelInfo2 model = MakeFullModel(5, 30);
   std::vector<double> painted;

@@ -28,7 +28,7 @@ std::unique_ptr<QDialog> OpenPlain(const PlainBlueprint& blueprint, bool framed)
   return dialog;
 }
 
-/// Seconds from nothing to the first page painted; negative if it was not.
+/// Seconds from the start until the first page is painted; negative if it is not painted.
 double TimeToOpen(PaintWatch& watch, auto open) {
   const auto start = Clock::now();
   const auto dialog = open();
@@ -38,14 +38,14 @@ double TimeToOpen(PaintWatch& watch, auto open) {
   return painted ? seconds : -1;
 }
 
-/// Of each pair: the machine may slow down in between.
+/// The median of the ratios of pairs, because the machine may slow down between pairs.
 double MedianRatio(const std::vector<double>& times, const std::vector<double>& others) {
   std::vector<double> ratios(times.size());
   std::ranges::transform(times, others, ratios.begin(), std::divides());
   return Median(std::move(ratios));
 }
 
-// All dialogs are opened in turn, so that whatever disturbs one disturbs the others as well.
+// The dialogs take turns, so that disturbances affect them equally.
 void OpenDialog(benchmark::State& state) {
   const CModelInfo2 model =
       MakeFullModel(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));

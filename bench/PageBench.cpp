@@ -14,7 +14,7 @@ namespace {
 
 constexpr int kPictureTab = 1;
 
-/// What the user sees happen, on the open dialog.
+/// A visible action on the open dialog.
 struct PageAction {
   int firstTab;
   std::function<void(CAdvanceDlg&, QTabBar&)> act;
@@ -46,14 +46,14 @@ void RunPage(benchmark::State& state, const PageAction& action) {
   dialog.Create();
   dialog.show();
   auto& tabs = *dialog.findChild<QTabBar*>();
-  // Every page was shown before: its first time has costs of its own.
+  // Shows every page once before, because the first time costs more.
   for (const int tab : {kPictureTab, 1 - kPictureTab, action.firstTab}) {
     tabs.setCurrentIndex(tab);
     watch.RunUntilPainted();
   }
   projector->TakeWork();
 
-  std::vector<double> own;  // seconds for each read, the projector's time taken off
+  std::vector<double> own;  // seconds for each read, without the projector's time
   std::vector<double> totals;
   std::vector<double> ratios;
   AnsweringChannel::Work work;
@@ -76,7 +76,7 @@ void RunPage(benchmark::State& state, const PageAction& action) {
   state.counters["reads"] = work.commands;
   state.counters["own_us_per_read"] = Median(own) * 1e6;
   if (ratios.empty()) return;
-  // A busy machine wakes the projector late: the second ratio leaves that out.
+  // On a busy machine the projector wakes up late; the second ratio excludes that.
   const double nominal = work.commands * std::chrono::duration<double>(delay).count();
   state.counters["ratio"] = Median(totals) / nominal;
   state.counters["ratio_to_waited"] = Median(ratios);

@@ -148,8 +148,7 @@ std::unique_ptr<QDialog> MakePlainDialog(const PlainBlueprint& blueprint, bool f
   layout->addWidget(tabs);
   auto* bottom = new QHBoxLayout;
   layout->addLayout(bottom);
-  bottom->addWidget(
-      new QLabel);  // tells what goes on; what stands beside it comes when it is needed
+  bottom->addWidget(new QLabel);  // the status text; its button is made only when needed
   for (QWidget* widget : std::initializer_list<QWidget*>{new QPushButton, new QLineEdit}) {
     bottom->addWidget(widget);
     widget->hide();

@@ -10,13 +10,13 @@
 
 #include "host/CAdvanceDlg.h"
 
-/// What a dialog consists of, ready to be built again without the library.
+/// The parts of a dialog, for building the same dialog without the library.
 struct PlainBlueprint {
   struct Control {
     ControlKind kind;
     QString text;
     QStringList entries = {};  ///< Of a combo box.
-    int minimum = 0;           ///< Of a slider, as its maximum and value.
+    int minimum = 0;           ///< Of a slider, like `maximum` and `value`.
     int maximum = 0;
     int value = 0;
     bool enabled = true;
@@ -37,13 +37,13 @@ struct PlainBlueprint {
   std::vector<Page> pages = {};  ///< Every page created, the shown one first.
 };
 
-/// Reads the blueprint off an open dialog.
+/// Makes the blueprint of an open dialog.
 PlainBlueprint BlueprintOf(CAdvanceDlg& dialog);
 
-/// The same dialog made with nothing but Qt: a tab widget, a page for each page, a grid for each of
-/// its columns, the same widgets with the same texts. It reads no projector and handles nothing.
-/// Without `framed` the pages have no frame around them, which some styles draw slowly.
+/// Builds the same dialog with Qt only: a tab widget with the same pages, a grid for each of their
+/// columns, and the same widgets with the same texts. It reads no projector and handles no events.
+/// Without `framed`, the pages have no frame, which some styles draw slowly.
 std::unique_ptr<QDialog> MakePlainDialog(const PlainBlueprint& blueprint, bool framed);
 
-/// Widgets of each kind in a dialog, for telling that two dialogs hold the same.
+/// Number of widgets of each kind in a dialog, for comparing two dialogs.
 std::vector<qsizetype> WidgetCounts(const QWidget& dialog);

@@ -1,5 +1,5 @@
-// What a program costs that is started for one value: the bare start of a Qt Core program beside
-// it.
+// The cost of a program that is started to read one value, compared with the bare start of a Qt
+// Core program.
 
 #include <array>
 #include <fcntl.h>
@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Runs a program to its end, its output to nowhere; false if it fails.
+/// Runs a program to its end and discards its output; false if it fails.
 bool RunProcess(const char* const* arguments) {
   posix_spawn_file_actions_t actions;
   posix_spawn_file_actions_init(&actions);

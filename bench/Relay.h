@@ -9,7 +9,7 @@
 #include <QTcpSocket>
 #include <QTimer>
 
-/// Passes on what each side says, half a round trip later.
+/// Forwards the bytes of each side after half a round trip.
 class Relay {
  public:
   Relay(std::uint16_t target, std::chrono::milliseconds roundTrip) : oneWay_(roundTrip / 2) {
@@ -28,8 +28,8 @@ class Relay {
 
   std::uint16_t Port() const { return server_.serverPort(); }
 
-  /// How often the program has spoken so far, counted anew whenever the projector spoke in between.
-  /// From any thread.
+  /// The number of exchanges so far: runs of messages from the program without one from the
+  /// projector in between. Any thread.
   int Exchanges() const { return exchanges_; }
 
  private:

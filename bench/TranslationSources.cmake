@@ -1,8 +1,8 @@
 # cmake -DCATALOG_DIR=src/resources/catalog -DOUTPUT_DIR=... -P TranslationSources.cmake
 #
-# Writes the catalog's texts as sources for the two translation systems they are compared with:
-# en.po, zh_CN.po (gettext) and en.ts, zh_CN.ts (Qt), each text under the key "category.number",
-# and CatalogTexts.inc, a line {category, number} for each text.
+# Writes the catalog's texts as sources for the two translation systems that the benchmark compares:
+# en.po, zh_CN.po (gettext) and en.ts, zh_CN.ts (Qt), each text under the key "category.number", and
+# CatalogTexts.inc, a line {category, number} for each text.
 
 cmake_minimum_required(VERSION 3.25)
 

@@ -24,7 +24,7 @@ namespace {
 constexpr int kDialogType = 5;
 constexpr int kModelCode = 54;
 
-/// A projector behind a relay, on a thread of their own.
+/// A projector behind a relay, on their own thread.
 class FarProjector {
  public:
   FarProjector(const CModelInfo2& model, std::chrono::milliseconds roundTrip) {
@@ -48,7 +48,7 @@ class FarProjector {
   }
 
   std::uint16_t Port() const { return port_; }
-  /// Of the relay.
+  /// See `Relay::Exchanges`.
   int Exchanges() const { return relay_->Exchanges(); }
 
  private:
@@ -58,8 +58,7 @@ class FarProjector {
   std::thread thread_;
 };
 
-/// Counts commands, tells when the first was given, and keeps announcements to itself unless they
-/// are wanted.
+/// Counts commands, records the time of the first one, and forwards announcements only if wanted.
 class Counting final : public ForwardingChannel {
  public:
   Counting(std::shared_ptr<ProjectorChannel> inner, bool announces)
@@ -89,7 +88,7 @@ std::shared_ptr<Counting> ConnectTo(const FarProjector& projector, bool announce
       announces);
 }
 
-// `seconds` are those from the first command on, and `exchanges` those of all iterations.
+// `seconds` is the time from the first command on, `exchanges` the sum over all iterations.
 void SetCounters(benchmark::State& state, const Counting& channel, double seconds, int exchanges) {
   state.counters["reads"] = channel.answered;
   state.counters["median_ms"] = seconds * 1000;
@@ -134,8 +133,8 @@ void ShowSetupPage(benchmark::State& state) {
   SetCounters(state, *channel, Median(waits), exchanges);
 }
 
-// From a dialog that is not there, and no connection, to the first page's values; the counters
-// count from the moment at which the dialog connects.
+// Measures from nothing, without a connection, to the values of the first page. The counters start
+// when the dialog connects.
 void OpenOverLink(benchmark::State& state) {
   const CModelInfo2 model = MakeFullModel(kDialogType, kModelCode);
   const FarProjector projector(model, std::chrono::milliseconds(state.range(0)));

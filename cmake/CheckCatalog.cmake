@@ -1,13 +1,13 @@
 # cmake -DCATALOG_DIR=src/resources/catalog -DSOURCE_DIR=src -P CheckCatalog.cmake
 #
-# Fails when a text that the code names is missing from the message catalog in any language. The
-# code names a text by a constant of settings/CatalogNumbers.h or by a caption of a template
-# ("73;Brightness"). The sources themselves are checked too: each entry once, with one text in every
-# language of prologue.mc, and the same inserts in each.
+# Fails if a text that the code uses is missing from the message catalog in any language. The code
+# uses a text through a constant in settings/CatalogNumbers.h or through the caption of a template
+# ("73;Brightness"). Also checks the catalog's sources: each entry must occur once, with a text in
+# every language of prologue.mc and the same inserts in each.
 
 cmake_minimum_required(VERSION 3.25)
 
-# What is added to a constant whose name ends in "Base": first and last value.
+# The first and last value that is added to a constant whose name ends in "Base".
 set(runs
   "ListText::AspectBase 0 16"
   "ListText::WideAspectBase 0 16"
@@ -182,7 +182,7 @@ if(captions EQUAL 0)
   problem("no template caption found in ${SOURCE_DIR}/resources")
 endif()
 
-# Entries that no code names must be whole as well: a text without its translation is a mistake.
+# Entries that no code uses must be complete as well: a text without its translation is a mistake.
 list(GET languages 0 first)
 foreach(key IN LISTS keys)
   string(REPLACE "_" ", number " place "category ${key}")

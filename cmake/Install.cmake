@@ -1,9 +1,10 @@
-# What `cmake --install` lays down: libraries, headers, catalog modules and the package config.
+# Installs libraries, headers, catalog modules and the package config.
 include(CMakePackageConfigHelpers)
 set(libraries ProjectorCommon ProjectorSettings AdvancedControl)
 
-# The path of the build is that of the installation: what CMake would patch on installing it pads, and
-# an empty entry means the current directory. What is installed in the system needs none.
+# Builds with the run path of the installation. CMake would pad the path in order to patch it when
+# installing, and an empty entry means the current directory. Programs installed in the system need
+# no run path.
 if(NOT CMAKE_INSTALL_PREFIX STREQUAL "/usr")
   set_target_properties(${libraries} PROPERTIES INSTALL_RPATH "$ORIGIN")
 endif()
@@ -17,7 +18,7 @@ function(public_headers library)
     FILES ${ARGN} ${PROJECT_BINARY_DIR}/include/${library}Export.h)
 endfunction()
 
-# What a host names: the connection and the channels to a projector, simulated or real,
+# Headers that a host includes: the connection and the channels to a projector, simulated or real.
 public_headers(ProjectorCommon
   device/CModelInfo2.h
   device/CPjtInterface.h
@@ -28,7 +29,7 @@ public_headers(ProjectorCommon
   device/channels/LoggingChannel.h
   simulator/FaultChannel.h
   simulator/SimulatedProjector.h
-  # and what those include.
+  # Headers that these include.
   Namespace.h
   device/CComCtrl.h
   device/CModelInfo.h
@@ -45,11 +46,11 @@ public_headers(ProjectorCommon
   device/ProjectorChannel.h
   device/protocol/WireFrame.h
   simulator/SettingsTable.h)
-# The catalog,
+# The catalog.
 public_headers(ProjectorSettings
   i18n/Catalog.h
   i18n/SystemLanguage.h
-  # and what these and the pages include.
+  # Headers that these and the pages include.
   i18n/MessageFormat.h
   settings/Call.h
   settings/CatalogNumbers.h
@@ -69,7 +70,7 @@ public_headers(AdvancedControl
   pages/picture/CPictureTabType5Dlg.h
   pages/setup/CAudioType5Dlg.h
   pages/setup/CSetupType5TabDlg.h
-  # What those include.
+  # Headers that these include.
   pages/common/CTabPage.h
   pages/common/PageReader.h
   pages/common/RowDialog.h

@@ -9,11 +9,11 @@ set(MESSAGE_CATALOG_DIR ${CMAKE_CURRENT_LIST_DIR})
 #                     TABLES <language identifier>=<compiled language>...)
 #
 # Adds a target, part of "all", that makes the module OUTPUT (in CMAKE_RUNTIME_OUTPUT_DIRECTORY,
-# else in the current binary directory). The sources are UTF-8 and are compiled as one, the
-# prologue first. Each of TABLES puts the texts of one compiled language, called by the file name
-# of the prologue's LanguageNames, under a decimal language identifier; one language may serve
-# several identifiers. The module holds nothing but its message table, and the same sources make
-# the same bytes. The target's property CATALOG_MODULE is the module's path.
+# else in the current binary directory). The sources are UTF-8 and are compiled as one, the prologue
+# first. Each of TABLES puts the texts of one compiled language, called by the file name of the
+# prologue's LanguageNames, under a decimal language identifier; one language may serve several
+# identifiers. The module contains only the message table, and the same sources give the same bytes.
+# The target's property CATALOG_MODULE is the module's path.
 function(add_message_catalog)
   cmake_parse_arguments(PARSE_ARGV 0 arg "" "NAME;OUTPUT" "SOURCES;TABLES")
   foreach(needed NAME OUTPUT SOURCES TABLES)
@@ -48,7 +48,7 @@ function(add_message_catalog)
     COMMAND ${CMAKE_COMMAND} -P ${MESSAGE_CATALOG_DIR}/JoinMessageSources.cmake
             messages.mc ${arg_SOURCES}
     COMMAND ${WINDMC_EXECUTABLE} -C 65001 -U messages.mc
-    # The resource compiler wants a preprocessor; the one at hand is the host's.
+    # The resource compiler needs a preprocessor; uses that of the host compiler.
     COMMAND ${WINDRES_EXECUTABLE} --preprocessor=${CMAKE_CXX_COMPILER} --preprocessor-arg=-E
             --preprocessor-arg=-xc++ --output-format=coff module.rc module.o
     COMMAND ${MODULE_LINKER_EXECUTABLE} --dll --entry=0 --strip-all --no-insert-timestamp

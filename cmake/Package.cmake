@@ -21,7 +21,7 @@ endfunction()
 
 install(FILES packaging/advanced-control.desktop
         DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT program)
-install(FILES packaging/org.advancedcontrol.AdvancedControl.metainfo.xml
+install(FILES packaging/org.advancedcontrol.advancedcontrol.metainfo.xml
         DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo COMPONENT program)
 install(FILES app/desktop/icons/advanced-control.svg
         DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps COMPONENT program)
@@ -58,7 +58,16 @@ set(library libadvancedcontrol${PROJECT_VERSION_MAJOR})
 
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_NAME ${library})
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_SECTION libs)
-set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/triggers)
+# Which version has which function, so that a program asks for no later one than it needs.
+set(symbols ${PROJECT_BINARY_DIR}/packaging/symbols)
+set(gensymbols dpkg-gensymbols -q -p${library} -v${PROJECT_VERSION} -O${symbols})
+foreach(name IN LISTS libraries)
+  list(APPEND gensymbols -e${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/lib${name}.so.${PROJECT_VERSION_MAJOR})
+endforeach()
+file(CONFIGURE OUTPUT packaging/Symbols.cmake
+     CONTENT "execute_process(COMMAND @gensymbols@ COMMAND_ERROR_IS_FATAL ANY)\n" @ONLY)
+set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_BINARY_DIR}/packaging/Symbols.cmake)
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/triggers ${symbols})
 set(CPACK_COMPONENT_LIBRARY_DESCRIPTION "live settings dialog for projectors
 A dialog with a tab per group of settings, every value read live from a
 projector and every change sent at once, for applications that manage
@@ -79,7 +88,7 @@ set(CPACK_DEBIAN_PROGRAM_PACKAGE_RECOMMENDS "qt6-translations-l10n, qt6-wayland"
 set(CPACK_COMPONENT_PROGRAM_DESCRIPTION "read and change the settings of projectors
 A list of projectors, and for each of them a dialog with a tab per group of
 settings, every value read live and every change sent at once. A log shows
-each command and what came of it.")
+each command and its result.")
 
 foreach(component library development program)
   string(TOUPPER ${component} upper)

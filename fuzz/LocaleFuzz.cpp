@@ -15,7 +15,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   setenv("LC_ALL", name.c_str(), 1);
   const std::uint32_t language = SystemLanguageId();
   Check(language > 0 && language <= UINT16_MAX);
-  // The locale library finds out its own default from the environment, but only at first.
+  // The locale library reads its default from the environment only once, so it has to be reset.
   u_cleanup();
   return 0;
 }

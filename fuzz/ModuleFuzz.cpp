@@ -1,4 +1,4 @@
-// Any bytes as a message-table module, and every text that it gives as a message with inserts.
+// Any bytes as a message-table module, and each of its texts as a message with inserts.
 
 #include <cstddef>
 #include <cstdint>

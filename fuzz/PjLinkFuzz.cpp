@@ -1,5 +1,5 @@
-// Any bytes as lines from a PJLink peer, at either end, and as all that a projector says to a
-// session.
+// Any bytes as lines from a PJLink peer, at either end, and as everything that a projector sends in
+// a session.
 
 #include <algorithm>
 #include <cstddef>
@@ -17,7 +17,7 @@
 
 namespace {
 
-/// Accepts everything, and yields what it was set to.
+/// Accepts everything, and returns the values set.
 class Plain final : public ProjectorChannel {
  public:
   PjtReply Execute(const PjtCommand& command) override {
@@ -45,8 +45,8 @@ void ReadAsReply(std::string_view text) {
   }
 }
 
-/// A projector that says the bytes, a piece whenever it is waited for, and ends the connection with
-/// every piece that begins so.
+/// A projector that sends the bytes, one piece for each wait, and closes the connection with every
+/// piece that starts with a certain byte.
 class Talk {
  public:
   explicit Talk(std::string_view bytes) : rest_(bytes) {}

@@ -1,4 +1,4 @@
-// Any bytes as a profile file: projectors, or one line that says what is wrong.
+// Any bytes as a profile file: the result is projectors or a one-line error.
 
 #include <cstddef>
 #include <cstdint>

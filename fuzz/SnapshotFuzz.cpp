@@ -1,5 +1,5 @@
-// Any bytes as a file of settings: settings that are written and read the same, or one line that
-// says what is wrong.
+// Any bytes as a file of settings: the result is settings that are the same after writing and
+// reading, or a one-line error.
 
 #include <cstddef>
 #include <cstdint>

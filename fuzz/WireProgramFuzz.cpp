@@ -1,5 +1,6 @@
-// Anything may come back to the program's end of the wire: a command has the right value or is
-// unanswered, and nothing waits for ever. The input says, a byte each, what the line does next.
+// Any bytes as replies to the program's end of the wire protocol. A command must get the right
+// value or be unanswered, and nothing may wait for ever. Each byte of the input selects what the
+// line does next.
 
 #include <algorithm>
 #include <cstddef>
@@ -52,7 +53,7 @@ class Line final : public QIODevice {
   void Step() {
     if (script.empty()) alive_ = false;
     switch (Next() % 6) {
-      case 0:  // answers what was asked
+      case 0:  // sends the right reply
         while (const auto frame = asked_.Next()) {
           Wire::Frame reply{frame->sequence, Wire::Welcome{}};
           if (const auto* request = std::get_if<Wire::Request>(&frame->message)) {
@@ -63,7 +64,7 @@ class Line final : public QIODevice {
         }
         incoming_ = last_;
         break;
-      case 1:  // the same once more
+      case 1:  // repeats the last reply
         incoming_ = last_ + last_;
         break;
       case 2: {  // noise
@@ -72,10 +73,10 @@ class Line final : public QIODevice {
         script.remove_prefix(size);
         break;
       }
-      case 3:  // a part of it
+      case 3:  // sends a part of the reply
         incoming_ = last_.substr(0, Next());
         break;
-      case 4:  // damaged
+      case 4:  // sends a damaged reply
         incoming_ = last_;
         if (!incoming_.empty()) incoming_[Next() % incoming_.size()] ^= 1;
         break;
@@ -98,7 +99,7 @@ class Channel final : public WireChannel {
   std::unique_ptr<QIODevice> Open(const QDeadlineTimer&, ConnectionState&) override {
     return std::make_unique<Line>();
   }
-  // A line that has no more to say would be waited for.
+  // Ends the line when the input is used up; otherwise the channel would wait for it.
   bool IsAlive(QIODevice& line) const override { return static_cast<Line&>(line).IsAlive(); }
 };
 

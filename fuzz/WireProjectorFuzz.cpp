@@ -1,5 +1,5 @@
-// Any bytes to the projector's end of the wire: what it answers are whole frames, as many as it
-// should, however the bytes arrive.
+// Any bytes to the projector's end of the wire protocol. It must answer with the right number of
+// complete frames, however the bytes are split.
 
 #include <algorithm>
 #include <cstddef>
@@ -43,7 +43,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::string again;
     Wire::Append(again, *frame);
     Check(again.size() <= Wire::kMaximumFrame && bytes.find(again) != std::string_view::npos);
-    if (frame->message.index() % 2 != 0) continue;  // what only projectors send
+    if (frame->message.index() % 2 != 0) continue;  // only projectors send these
     const auto reply = answered.Next();
     Check(reply && reply->sequence == frame->sequence &&
           reply->message.index() == frame->message.index() + 1);

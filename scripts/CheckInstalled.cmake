@@ -1,10 +1,10 @@
 # cmake -DBUILD_DIR=<build> -DSOURCE_DIR=<source> [-DUPDATE_EXPORTS=ON] -P <this file>
 #
-# Installs the build, moves the installed tree, compiles each of its headers by itself, and builds
-# and starts the example host against it, and a host whose functions are called as the library's are.
-# Then looks for the catalogs and languages, how the programs are hardened, and at the functions that
-# the libraries show: those of exported-symbols.txt beside this file, which UPDATE_EXPORTS writes
-# anew.
+# Installs the build and moves the installed tree. Compiles each of its headers by itself, and
+# builds and starts the example host, and a host with functions that have the same names as the
+# library's. Then checks the catalogs and languages, the hardening of the programs, and that the
+# libraries export exactly the functions in exported-symbols.txt beside this file, which
+# UPDATE_EXPORTS rewrites.
 
 cmake_minimum_required(VERSION 3.25)
 
@@ -34,20 +34,21 @@ run(${CMAKE_COMMAND} -S ${SOURCE_DIR}/examples/minimal -B ${example} -G Ninja
     -DCMAKE_PREFIX_PATH=${prefix} -DEACH_HEADER=ON)
 run(${CMAKE_COMMAND} --build ${example})
 
-# The host runs until its user closes the dialog; nobody does.
+# The host runs until it is stopped, because nobody closes its dialog.
 execute_process(COMMAND ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen ${example}/minimal-host
                 TIMEOUT 4 RESULT_VARIABLE result ERROR_VARIABLE errors)
 if(NOT result MATCHES "timeout")
   message(FATAL_ERROR "The example ended by itself: ${result}\n${errors}")
 endif()
 
-# A host's functions do not take the place of the library's.
+# A host's functions must not replace the library's.
 run(${CMAKE_COMMAND} -S ${SOURCE_DIR}/tests/installed -B ${namesakes} -G Ninja
     -DCMAKE_PREFIX_PATH=${prefix})
 run(${CMAKE_COMMAND} --build ${namesakes})
 run(${CMAKE_COMMAND} -E env LC_ALL=C QT_QPA_PLATFORM=offscreen ${namesakes}/namesake-host)
 
-# The language that a program chooses is that of its dialogs: the catalog is in the process once.
+# A language chosen by a program must also apply to its dialogs, because the process has one
+# catalog.
 file(WRITE ${elsewhere}/projectors.json [[{"projectors": [
   {"name": "Hall", "model": "Hall", "dialogType": 5, "modelCode": 30,
    "connection": {"network": {"address": "192.0.2.30", "port": 4352}}}]}]])
@@ -64,7 +65,7 @@ foreach(shown pages settings)
   endif()
 endforeach()
 
-# Hardened, and no library is looked for in the current directory.
+# The programs must be hardened, and must not search the current directory for libraries.
 foreach(built libAdvancedControl.so libProjectorSettings.so libProjectorCommon.so advanced-control acctl
               advanced-control-simulator)
   execute_process(COMMAND readelf -Wd ${BUILD_DIR}/bin/${built} OUTPUT_VARIABLE dynamic
@@ -81,16 +82,17 @@ foreach(built libAdvancedControl.so libProjectorSettings.so libProjectorCommon.s
   if(NOT used MATCHES "__stack_chk_fail")
     message(FATAL_ERROR "${built} has no stack protector")
   endif()
-  # The dialog's library, compiled as the others are, calls nothing that this would change.
+  # The dialog's library is compiled in the same way, but calls no function that this would change.
   if(built MATCHES "^libProjector" AND NOT used MATCHES "__[a-z]+printf_chk")
     message(FATAL_ERROR "${built} is not fortified")
   endif()
 endforeach()
 
-# The catalogs are found from wherever the tree stands, before those of the current directory.
+# The catalogs must be found wherever the tree is, with precedence over those in the current
+# directory.
 file(WRITE ${elsewhere}/mcdll.dll "no module")
 function(expect_catalog folder expected)
-  # Loaded by the library itself, and by a program that is linked to it.
+  # The catalog is loaded by the library itself and by a program linked to it.
   set(host LD_PRELOAD=${folder}/libAdvancedControl.so true)
   set(program ${prefix}/bin/advanced-control --list)
   foreach(command host program)
@@ -114,13 +116,13 @@ expect_catalog(${multiarch} "")
 file(REMOVE ${prefix}/share/advanced-control/mcdll.dll)
 expect_catalog(${multiarch} ".*mcdll.dll is refused.*")
 
-# A function that a library shows may be taken over by one of its host's that is called the same.
+# A host's function can replace an exported function with the same name.
 set(shown "")
 foreach(library AdvancedControl ProjectorSettings ProjectorCommon)
   execute_process(COMMAND nm -DC --defined-only ${BUILD_DIR}/bin/lib${library}.so
                   OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
   string(REGEX MATCHALL " T [^\n]*" functions "${symbols}")
-  # A member stands for its class.
+  # A class is listed instead of its members.
   list(TRANSFORM functions REPLACE "^ T (non-virtual thunk to |virtual thunk to )?" "")
   list(TRANSFORM functions REPLACE "^((AdvancedControl::)?[^:([]+).*" "\\1")
   list(TRANSFORM functions PREPEND "${library} ")

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# A folder of src/ includes only what stands below it; of the programs, each knows only what they share
-# (app/profiles), and of the host application's rooms, each knows only the projectors.
+# A folder of src/ includes only folders below it. Programs include only what they share
+# (app/profiles). The folders of the host application include only that of the projectors.
 set -euo pipefail
 cd "$(dirname "$0")/../src"
 
@@ -44,13 +44,13 @@ for folder in */; do
     wrong=1
   fi
 done
-# The rooms of the host application know nothing of each other but the projectors; the windows at its top put
-# them together.
-for room in desktop/*/; do
-  room=${room%/}
-  if grep -rnE --include='*.h' --include='*.cpp' '^#include "app/desktop/' "$room" |
-    grep -vE "#include \"app/($room|desktop/projectors)/|#include \"app/desktop/(Mnemonic|Modal)\.h\""; then
-    echo "app/$room includes another room's"
+# The folders of the host application include none of each other except the projectors; the windows
+# at the top level combine them.
+for folder in desktop/*/; do
+  folder=${folder%/}
+  if grep -rnE --include='*.h' --include='*.cpp' '^#include "app/desktop/' "$folder" |
+    grep -vE "#include \"app/($folder|desktop/projectors)/|#include \"app/desktop/(Mnemonic|Modal)\.h\""; then
+    echo "app/$folder includes another folder of the host application"
     wrong=1
   fi
 done

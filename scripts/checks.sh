@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# The checks beside the tests: floors, release build without warnings, acctl on it, what the
-# installed library offers, benchmarks that run, clang-tidy, the channels under the thread sanitizer,
-# and the fuzz targets for a moment.
+# The checks besides the tests: floors, the release build without warnings, acctl on it, the
+# installed library, the benchmarks, clang-tidy, the channels under the thread sanitizer, and a
+# short run of the fuzz targets.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -9,7 +9,7 @@ echo "Checking the floors"
 scripts/check-floors.sh
 
 echo "Building (build/check): optimised, warnings are errors"
-# Bound as some distributions bind all that they build.
+# With the linker options that some distributions use for all packages.
 cmake --preset release -B build/check -DADVANCEDCONTROL_TESTS=OFF \
   -DCMAKE_SHARED_LINKER_FLAGS=-Wl,-Bsymbolic-functions \
   -DCMAKE_EXE_LINKER_FLAGS=-Wl,-Bsymbolic-functions >/dev/null

@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# Runs each fuzz target for a while on its corpus, with what earlier runs found worth keeping.
-# Usage: scripts/fuzz.sh [seconds]
+# Runs each fuzz target for a while on its corpus and the inputs kept by earlier runs. Usage:
+# scripts/fuzz.sh [seconds]
 #
-# An input that breaks something is left in build/fuzz/findings; once the fault is mended it goes
-# into fuzz/corpus/<target>.
+# An input that causes a failure is saved in build/fuzz/findings. Once the fault is fixed, add the
+# input to fuzz/corpus/<target>.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 seconds="${1:-5}"

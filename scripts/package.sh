@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Makes the Debian packages in build/package/packages, and lets lintian look at them where it is
+# Makes the Debian packages in build/package/packages, and checks them with lintian if it is
 # installed.
 set -euo pipefail
 cd "$(dirname "$0")/.."

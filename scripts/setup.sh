@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Installs what building, running and testing needs, where it is missing. Without anything missing
-# it asks nothing of the network.
+# Installs missing packages for building, running and testing. If none is missing, it does not use
+# the network.
 set -euo pipefail
 
 packages=(

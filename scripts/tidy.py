@@ -15,7 +15,8 @@ from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
 TOGETHER = 6
-# Every table of rows and templates has a `kRows` of its own; they include little.
+# Every table of rows and templates defines its own `kRows`, so these files cannot be combined. They
+# include little.
 ALONE = ("src/resources", "src/settings/")
 
 

@@ -1,7 +1,8 @@
 #pragma once
 
-// Everything of the libraries but the classes named C… is in the namespace AdvancedControl. Our own
-// programs and tests leave the name out; an installed host names it, and may have a Range of its own.
+// Everything in the libraries except the classes named C… is in the namespace AdvancedControl. It
+// is inline in our own build, so our programs and tests need not name it. For a host of the
+// installed libraries it is not, so the host can have its own global `Range`.
 #ifdef ADVANCED_CONTROL_INSTALLED
 namespace AdvancedControl {}
 #else

@@ -33,8 +33,8 @@ std::optional<PowerState> AskPower(ProjectorAccess& projector);
 /// down"; null for one that is on, or does not say.
 const char* RestOf(std::optional<PowerState> power);
 
-/// Tells which settings were not read, though the projector has answered. Of one that rests that is
-/// no error, and one line.
+/// Returns which settings were not read, though the projector has answered. Of one that rests that
+/// is no error, and one line.
 void TellUnread(const std::vector<std::string>& keys, std::optional<PowerState> power,
                 const char* what, Report& report);
 

@@ -4,8 +4,8 @@
 
 namespace {
 
-// What Qt's application objects and its platforms take; with one hyphen or two. The value is the
-// next argument, and for a few of them it may also stand behind an equals sign.
+// Options of Qt and its platforms that take a value, with one or two hyphens. The value is the next
+// argument; some options also take it after an equals sign.
 const QStringList kToolkitValues{
     "platform", "platformpluginpath", "platformtheme", "plugin",       "qwindowgeometry",
     "geometry", "qwindowicon",        "icon",          "qwindowtitle", "title",
@@ -17,8 +17,8 @@ const QStringList kToolkitSwitches{"reverse", "widgetcount", "nograb",
 
 struct Arguments {
   QStringList own;
-  QStringList toolkit;  ///< Names alone.
-  QString error;        ///< About what Qt would not take.
+  QStringList toolkit;  ///< Names of the options, without values.
+  QString error;        ///< Set if Qt would not accept an option.
 };
 
 Arguments Divide(const QStringList& all) {

@@ -21,7 +21,7 @@
 namespace {
 
 constexpr int kIconSize = 64;
-constexpr int kFrameHeight = 40;  // of a window, before it is known
+constexpr int kFrameHeight = 40;  // of a window; a guess until it is shown
 
 struct HelpText {
   Q_DECLARE_TR_FUNCTIONS(HelpWindows)
@@ -31,7 +31,7 @@ QString ShownText(const QAction& action) {
   return WithoutMnemonic(action.text()).remove(QStringLiteral("…"));
 }
 
-/// As large as the table, or as the screen allows: then it scrolls.
+/// As large as the table. If the screen is too small for it, the table scrolls.
 void ShowTable(const QString& title, const QString& table, QWidget& owner) {
   auto* dialog = new QDialog(&owner);
   dialog->setAttribute(Qt::WA_DeleteOnClose);
@@ -52,8 +52,8 @@ void ShowTable(const QString& title, const QString& table, QWidget& owner) {
   const QSize size = document.size().toSize();
   text->setMinimumWidth(size.width() + text->verticalScrollBar()->sizeHint().width());
   const int others = layout->sizeHint().height() - text->sizeHint().height();
-  const int room = owner.screen()->availableGeometry().height() - kFrameHeight;
-  dialog->resize(dialog->minimumWidth(), std::min(size.height() + others, room));
+  const int availableHeight = owner.screen()->availableGeometry().height() - kFrameHeight;
+  dialog->resize(dialog->minimumWidth(), std::min(size.height() + others, availableHeight));
   dialog->open();
 }
 

@@ -3,9 +3,9 @@
 class QMainWindow;
 class QWidget;
 
-/// Opens a window with all shortcuts: those in the menus of `window`, and those of the projectors'
+/// Opens a window that lists the shortcuts in the menus of `window` and those of the settings
 /// dialogs.
 void ShowShortcuts(QMainWindow& window);
 
-/// Opens a window that says what this program is.
+/// Opens the About window.
 void ShowAbout(QWidget& window);

@@ -34,7 +34,7 @@ namespace {
 
 constexpr int kGap = 9;
 constexpr QSize kUsualSize{1340, 760};
-constexpr QSize kFrame{2 * kGap, 40};  // of a window, before it is known
+constexpr QSize kFrame{2 * kGap, 40};  // of a window; a guess until it is shown
 
 constexpr const char* kGeometryKey = "window/geometry";
 constexpr const char* kSidesKey = "window/sides";
@@ -121,7 +121,7 @@ void MainWindow::MakeLayout() {
   sides_->setStretchFactor(1, 1);
   sides_->setChildrenCollapsible(false);
   sides_->setHandleWidth(kGap);
-  // A splitter does not mirror margins of its own.
+  // A splitter does not mirror its own margins, so a widget around it has them.
   auto* center = new QWidget;
   auto* layout = new QVBoxLayout(center);
   layout->setContentsMargins(kGap, kGap, kGap, kGap);
@@ -194,7 +194,7 @@ std::shared_ptr<ProjectorSession> MainWindow::MakeSession(const ProjectorProfile
   return std::make_shared<ProjectorSession>(profile, std::move(observer));
 }
 
-// A projector of which the file says the same as before keeps its simulation and its dialog.
+// A projector whose profile has not changed keeps its simulation and its dialog.
 void MainWindow::ShowProfiles() {
   ProjectorTableModel::Sessions before = projectors_->Model().All();
   ProjectorTableModel::Sessions sessions;
@@ -214,7 +214,7 @@ void MainWindow::ShowProfiles() {
                      : tr("Advanced Control"));
 }
 
-// The projector selected last, or else one that has something to show on every tab.
+// Selects the last selected projector, or else one that has settings on every tab.
 void MainWindow::SelectFirst() {
   const auto& all = profiles_.Projectors();
   const std::string last = settings_ == nullptr
@@ -244,8 +244,8 @@ QString MainWindow::LastProfiles(const QSettings& settings) {
   return settings.value(kProfilesKey).toString();
 }
 
-// At first the window stands at the lower right: a dialog at the upper left covers neither the log
-// nor the simulation.
+// The first time, the window opens at the lower right, so that a dialog at the upper left covers
+// neither the log nor the simulation.
 void MainWindow::Restore() {
   const QRect screen = MainWindow::screen()->availableGeometry();
   if (settings_ != nullptr && restoreGeometry(settings_->value(kGeometryKey).toByteArray())) {
@@ -279,8 +279,8 @@ void MainWindow::Remember() {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   Remember();
-  // Nobody waits for a projector any more. Then every event loop ends, also those of messages and
-  // pop-ups; the dialogs end with this window.
+  // Abandons commands that wait. All event loops then end, also those of messages and pop-ups; the
+  // dialogs are deleted with this window.
   dialogs_->RejectAll();
   event->accept();
   QCoreApplication::exit();

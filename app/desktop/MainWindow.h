@@ -19,28 +19,27 @@ class ProjectorView;
 class QSettings;
 class QSplitter;
 
-/// The list of projectors, from which a dialog is opened on each, with the log of their commands
-/// and the controls of their simulations. Dialogs are open beside it, one per projector.
+/// The list of projectors, the log of their commands and the controls of their simulations.
+/// Settings dialogs open beside it, one per projector.
 class MainWindow : public QMainWindow {
   Q_OBJECT
 
  public:
-  /// `settings`, not owned, keeps what the window remembers from one start to the next; with null
-  /// it remembers nothing.
+  /// `settings`, not owned, stores the window's state between runs; if null, nothing is stored.
   explicit MainWindow(ProfileDocument profiles, QSettings* settings = nullptr);
-  /// Of projectors that are in no file.
+  /// For projectors that are in no file. Stores nothing.
   explicit MainWindow(std::vector<ProjectorProfile> profiles);
   ~MainWindow() override;
 
-  /// Opens the dialog of a projector or brings the open one to the front. Null when it could not be
-  /// opened, or was closed while it was read; owned by the window. With a tab that one is shown,
-  /// else the last one.
+  /// Opens the dialog of a projector, or brings the open one to the front. `projector` is its
+  /// position in the file. Selects `tab`, from 0, or else the tab shown last. Returns null if the
+  /// dialog could not be opened, or was closed while it was being read. Owned by the window.
   CAdvanceDlg* OpenDialog(std::size_t projector, std::optional<int> tab = {});
 
   /// The projector's open dialog, or null.
   CAdvanceDlg* Dialog(std::size_t projector) const;
 
-  /// The profile file that a user opened last; empty when none is remembered.
+  /// The profile file that the user opened last; empty if there is none.
   static QString LastProfiles(const QSettings& settings);
 
  protected:
@@ -57,7 +56,7 @@ class MainWindow : public QMainWindow {
   void Remember();
 
   ProfileDocument profiles_;
-  const QString firstProfiles_;  // the file at the start, which needs no remembering
+  const QString firstProfiles_;  // opened at the start; not stored as the last file
   QSettings* settings_;
   ProjectorView* projectors_;
   CommandLog* log_;

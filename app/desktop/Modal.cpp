@@ -33,7 +33,7 @@ void AskForFile(QWidget& window, const FileQuestion& question,
 void ShowError(QWidget& window, const QString& title, const QString& text, const QString& detail) {
   auto* box = new QMessageBox(QMessageBox::Critical, title, text, QMessageBox::Ok, &window);
   box->setAttribute(Qt::WA_DeleteOnClose);
-  box->setTextFormat(Qt::PlainText);  // what a file holds is no markup
+  box->setTextFormat(Qt::PlainText);  // text from a file must not be taken as markup
   box->setInformativeText(detail);
   const QStringList lines = text.split(QLatin1Char('\n'));
   if (lines.size() > kLinesShown) {

@@ -9,7 +9,7 @@
 
 namespace {
 
-// What Qt's own translation leaves out.
+// Texts that Qt's own translation lacks.
 [[maybe_unused]] constexpr struct {
   const char* source;
   const char* comment;
@@ -33,7 +33,7 @@ void InstallTranslations() {
                    QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
     QCoreApplication::installTranslator(&toolkit);
   }
-  // The sources are English.
+  // The English texts are in the sources.
   if (isChinese && program.load(QStringLiteral(":/advanced-control_zh_CN.qm"))) {
     QCoreApplication::installTranslator(&program);
   }

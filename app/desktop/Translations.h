@@ -1,6 +1,5 @@
 #pragma once
 
-/// Shows the texts of this program and of the toolkit in the language that the catalog has, and
-/// numbers as that language writes them. Needs an application object; the dialogs' own texts are in
-/// the catalog.
+/// Sets the language of this program's and Qt's texts, and of numbers, to that of the catalog. The
+/// texts of the settings dialogs come from the catalog itself. Needs an application object.
 void InstallTranslations();

@@ -51,7 +51,8 @@ QStringList ProfileFilePlaces() {
           QDir::cleanPath(folder.filePath("../share/advanced-control/projectors.json"))};
 }
 
-/// What --profiles names, else what was open last, else what comes with the program.
+/// Reads the file named by --profiles, else the one opened last, else the one that comes with the
+/// program.
 QString ReadProfiles(const CommandLine& line, ProfileDocument& document) {
   if (!line.profiles.isEmpty()) return document.Load(line.profiles);
   if (line.action == CommandLine::Action::Window && line.open.isEmpty()) {
@@ -65,7 +66,7 @@ QString ReadProfiles(const CommandLine& line, ProfileDocument& document) {
       .arg(places.join(Program::tr(" or ")));
 }
 
-// The catalog was chosen when the library was loaded, by the environment of that time.
+// The library chose the catalog by the environment when it was loaded, so it has to choose again.
 void ChooseLanguage(int language) {
   qputenv("LC_ALL",
           language == static_cast<int>(kChineseSimplified) ? "zh_CN.UTF-8" : "en_US.UTF-8");
@@ -108,22 +109,21 @@ int RunWindow(const CommandLine& line, ProfileDocument profiles, std::size_t ope
   QSettings settings(kName, kName);
   MainWindow window(std::move(profiles), &settings);
   window.show();
-  // While it is read, dialog and window may be closed as at any other time.
+  // The user may close the dialog and the window while the dialog is being read.
   if (!line.open.isEmpty()) {
     QTimer::singleShot(0, &window, [&] { window.OpenDialog(opened, line.tab); });
   }
   return QApplication::exec();
 }
 
-/// What the arguments ask for, found right.
+/// The checked arguments with what they name.
 struct Request {
   CommandLine line;
   ProfileDocument profiles;
   std::size_t opened = 0;  ///< Position of the projector that --open names.
 };
 
-/// Reads and checks all that needs no window, and does what needs none: then the result is an exit
-/// code.
+/// Reads and checks everything that needs no window. Returns an exit code if no window is needed.
 std::variant<Request, int> Prepare(int argc, char* argv[]) {
   const QCoreApplication application(argc, argv);
   InstallTranslations();
@@ -131,7 +131,8 @@ std::variant<Request, int> Prepare(int argc, char* argv[]) {
   const CommandLine& line = request.line;
   if (line.language.has_value()) {
     ChooseLanguage(*line.language);
-    request.line = ParseCommandLine(QCoreApplication::arguments());  // its texts
+    request.line =
+        ParseCommandLine(QCoreApplication::arguments());  // errors may need its translations
   }
   if (!line.error.isEmpty()) return Fail(line.error);
   if (line.action == CommandLine::Action::Help) {
@@ -189,7 +190,7 @@ int Run(int argc, char* argv[]) {
   const QApplication application(argc, argv);
   QGuiApplication::setDesktopFileName(kName);
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/advanced-control.png")));
-  // Unless somebody asks for another one.
+  // The user's choice of style has precedence.
   if (!line.style && qEnvironmentVariableIsEmpty("QT_STYLE_OVERRIDE")) {
     QApplication::setStyle(QStringLiteral("Fusion"));
   }

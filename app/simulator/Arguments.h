@@ -11,20 +11,20 @@
 #include "app/simulator/ServedProjectors.h"
 #include "app/simulator/fleet/FleetService.h"
 
-/// What the program was asked to do.
+/// What the command line asks for.
 struct Arguments {
-  QString profiles;        ///< Empty for the file that comes with the program.
-  QString writeProfiles;   ///< Where to write profiles of the served projectors; empty for nowhere.
-  QStringList projectors;  ///< Names of those to serve; empty for all.
+  QString profiles;        ///< Profile file; empty for the one that comes with the program.
+  QString writeProfiles;   ///< File to write profiles of the served projectors to; empty for none.
+  QStringList projectors;  ///< Names of the projectors to serve; empty for all.
   ServiceOptions service;
   std::optional<FleetOptions> fleet;  ///< Instead of `service`.
   bool control = false;
   std::uint16_t controlPort = 0;
-  QString help;  ///< Not empty when help was asked for.
+  QString help;  ///< The text for `--help`; empty if it was not given.
 
-  /// One line; empty when the arguments can be followed.
+  /// What is wrong with the arguments, in one line; empty if nothing is.
   QString error;
 };
 
-/// Reads the arguments, the first of which is the program's name. Needs an application object.
+/// Parses the arguments; the first one is the program's name. Needs an application object.
 Arguments ParseArguments(const QStringList& arguments);

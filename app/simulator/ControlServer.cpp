@@ -33,7 +33,7 @@ class Session final : public ServedConnection {
       const QString line = QString::fromUtf8(socket_.readLine()).trimmed();
       socket_.write(obey_(line).toUtf8() + '\n');
     }
-    if (socket_.bytesAvailable() >= kLongestLine) socket_.abort();  // no line of ours
+    if (socket_.bytesAvailable() >= kLongestLine) socket_.abort();  // too long for a command
   }
 
   QTcpSocket& socket_;
@@ -48,14 +48,14 @@ ControlServer::ControlServer(ControlledProjectors& projectors, std::uint64_t see
       server_({.connections = kMaximumConnections, .readBuffer = kLongestLine},
               [this](std::unique_ptr<QTcpSocket> socket) {
                 return new Session(std::move(socket),
-                                   [this](const QString& line) { return Obey(line); });
+                                   [this](const QString& line) { return Execute(line); });
               }) {}
 
 std::uint16_t ControlServer::Listen(std::uint16_t port) {
   return server_.listen(QHostAddress::LocalHost, port) ? server_.serverPort() : std::uint16_t{0};
 }
 
-QString ControlServer::Obey(const QString& line) {
+QString ControlServer::Execute(const QString& line) {
   const QString first = line.section(QLatin1Char(' '), 0, 0);
   const bool all = first == QLatin1String("*");
   const std::size_t number = first.toULongLong();

@@ -24,18 +24,18 @@ class ControlledProjectors {
   }
 };
 
-/// Takes faults while the projectors are served, a line each ("2 late 300", "* silent 5%"), and
-/// answers each with "ok" or with what is wrong.
+/// Accepts commands that set faults of the served projectors, one per line ("2 late 300", "* silent
+/// 5%"), and answers each with "ok" or an error.
 class ControlServer final {
  public:
   /// `seed` says who has the fault of a share.
   ControlServer(ControlledProjectors& projectors, std::uint64_t seed);
 
-  /// At the loopback address; `port` 0 takes a free one. The port, or 0 when it cannot be had.
+  /// Listens at the loopback address; 0 chooses a free port. Returns the port, or 0 on failure.
   std::uint16_t Listen(std::uint16_t port);
 
  private:
-  QString Obey(const QString& line);
+  QString Execute(const QString& line);
 
   ControlledProjectors& projectors_;
   const std::uint64_t seed_;

@@ -45,7 +45,7 @@ qint64 PseudoTerminal::readData(char* data, qint64 size) {
   return got < 0 && errno != EAGAIN ? -1 : std::max<ssize_t>(got, 0);
 }
 
-// What the line does not take is lost, as on a wire that nobody reads.
+// Bytes that do not fit are lost, as on a serial line that nobody reads.
 qint64 PseudoTerminal::writeData(const char* data, qint64 size) {
   [[maybe_unused]] const ssize_t taken = ::write(master_, data, static_cast<std::size_t>(size));
   return size;

@@ -7,14 +7,14 @@
 
 class QSocketNotifier;
 
-/// The projector's end of a serial line that a pseudo terminal stands for. Whoever opens the path
-/// is at the other end.
+/// The projector's end of a serial line, simulated by a pseudo terminal. A program that opens the
+/// path is at the other end.
 class PseudoTerminal final : public QIODevice {
  public:
   PseudoTerminal();
   ~PseudoTerminal() override;
 
-  /// Whether there is one; `errorString` says why not.
+  /// Whether the pseudo terminal was created; if not, `errorString` says why.
   bool IsOpen() const { return master_ >= 0; }
   const std::string& Path() const { return path_; }
 
@@ -27,7 +27,7 @@ class PseudoTerminal final : public QIODevice {
 
  private:
   int master_ = -1;
-  int slave_ = -1;  // held open, so that the line lasts when the other end closes
+  int slave_ = -1;  // kept open so that the line survives the closing of the other end
   std::string path_;
   std::unique_ptr<QSocketNotifier> notifier_;
 };

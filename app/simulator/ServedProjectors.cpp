@@ -25,11 +25,11 @@ PjLinkServer::Options PjLinkOptions(const ProjectorProfile& profile, const std::
   return {.password = password, .served = std::move(served)};
 }
 
-// Adds "NAME (WAY)", or "NAME (WAY 2)" and so on where a projector is called so already.
-QString AddName(QStringList& names, const QString& name, const QString& way) {
-  QString added = QStringLiteral("%1 (%2)").arg(name, way);
+// Adds "NAME (CONNECTION)", or "NAME (CONNECTION 2)" and so on if the name is taken.
+QString AddName(QStringList& names, const QString& name, const QString& connection) {
+  QString added = QStringLiteral("%1 (%2)").arg(name, connection);
   for (int i = 2; names.contains(added); ++i) {
-    added = QStringLiteral("%1 (%2 %3)").arg(name, way).arg(i);
+    added = QStringLiteral("%1 (%2 %3)").arg(name, connection).arg(i);
   }
   names.append(added);
   return added;
@@ -49,8 +49,8 @@ ServedProjectors::ServedProjectors(const std::vector<ProjectorProfile>& profiles
 
 bool ServedProjectors::Serve(const ProjectorProfile& profile) {
   Service service{.name = profile.Name, .channel = Simulate(profile), .wire = {}, .pjLink = {}};
-  const auto port = [this](std::size_t way) {
-    const std::size_t place = options_.firstPort + 2 * services_.size() + way;
+  const auto port = [this](std::size_t offset) {
+    const std::size_t place = options_.firstPort + 2 * services_.size() + offset;
     return static_cast<std::uint16_t>(options_.firstPort == 0 ? 0 : place);
   };
   const auto cannot = [&](const QString& what) {
@@ -90,8 +90,8 @@ std::string ServedProjectors::Addresses() const {
   std::string lines;
   for (const Service& service : services_) {
     const std::string name = service.name + ": ";
-    const auto add = [&](const char* way, int port) {
-      lines.append(name).append(way).append(address).append(":").append(std::to_string(port)) +=
+    const auto add = [&](const char* kind, int port) {
+      lines.append(name).append(kind).append(address).append(":").append(std::to_string(port)) +=
           '\n';
     };
     add("tcp://", service.wirePort);
@@ -107,7 +107,7 @@ QJsonObject ServedProjectors::NetworkConnection(int port, const std::string& pas
   return {{"network", network}};
 }
 
-// Each projector over TCP, and once more for each of its other ways.
+// Lists each projector over TCP, and again for each of its other connections.
 QByteArray ServedProjectors::Profiles(const QByteArray& original) const {
   QJsonObject file = QJsonDocument::fromJson(original).object();
   QJsonArray entries;
@@ -118,14 +118,14 @@ QByteArray ServedProjectors::Profiles(const QByteArray& original) const {
     const QString name = entry["name"].toString();
     const auto service = std::ranges::find(services_, name.toStdString(), &Service::name);
     if (service == services_.end()) continue;
-    const auto add = [&](const QString& way, const char* link, const QJsonObject& connection) {
-      if (!way.isEmpty()) entry["name"] = AddName(names, name, way);
+    const auto add = [&](const QString& kind, const char* link, const QJsonObject& connection) {
+      if (!kind.isEmpty()) entry["name"] = AddName(names, name, kind);
       entry["link"] = QLatin1String(link);
       entry["connection"] = connection;
       entries.append(entry);
     };
     add({}, "network", NetworkConnection(service->wirePort, {}));
-    // There the inputs have other numbers, which the projector tells.
+    // PJLink numbers the inputs differently, and the projector reports those numbers.
     const QJsonValue sources = entry.value("mySources");
     entry["mySources"] = QJsonArray();
     add("PJLink", "pjlink", NetworkConnection(service->pjLinkPort, options_.password));

@@ -17,14 +17,14 @@
 
 struct ServiceOptions {
   QHostAddress address{QHostAddress::LocalHost};
-  std::uint16_t firstPort = 0;  ///< 0 takes free ports.
-  std::string password;         ///< Of PJLink; empty for none.
-  bool serial = false;          ///< On pseudo terminals too.
+  std::uint16_t firstPort = 0;  ///< 0 chooses free ports.
+  std::string password;         ///< For PJLink; empty for none.
+  bool serial = false;          ///< Whether to serve on pseudo terminals too.
   std::vector<FaultShare> faults;
   std::uint64_t seed = 1;  ///< Of the shares.
 };
 
-/// A projector with everything that it can be reached through.
+/// A served projector with the servers of all its connections.
 struct Service {
   std::string name;
   std::shared_ptr<FaultChannel> channel;
@@ -35,19 +35,20 @@ struct Service {
   std::string terminal{};  ///< Path; empty for none.
 };
 
-/// The projectors of a profile file, served while the event loop runs.
+/// Serves the projectors of a profile file while the event loop runs.
 class ServedProjectors final : public ControlledProjectors {
  public:
-  /// Serves `profiles`; `ErrorText` says what went wrong.
+  /// Starts serving `profiles`. On failure, `ErrorText` says what is wrong.
   ServedProjectors(const std::vector<ProjectorProfile>& profiles, const ServiceOptions& options);
 
   const QString& ErrorText() const { return error_; }
   std::size_t Count() const override { return services_.size(); }
 
-  /// One line for each way to each projector: its name, a colon, an address.
+  /// One line for each connection of each projector: name, colon, address.
   std::string Addresses() const;
 
-  /// A profile file for these projectors, made of the one that they came from.
+  /// A profile file for the served projectors, based on the file `original` that they were read
+  /// from.
   QByteArray Profiles(const QByteArray& original) const;
 
   void SetFault(std::size_t projector, const ServiceFault& fault) override;

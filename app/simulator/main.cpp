@@ -27,7 +27,8 @@ int Fail(const QString& message) {
   return 2;
 }
 
-// The signals that end the program, as a file; before any thread is started.
+// A file descriptor that reports the signals that end the program. To be called before any thread
+// starts.
 int EndingSignals() {
   sigset_t ending;
   sigemptyset(&ending);
@@ -45,7 +46,7 @@ QString ProfileFile(const Arguments& arguments) {
              : QDir::cleanPath(folder.filePath("../share/advanced-control/projectors.json"));
 }
 
-// Leaves those that were asked for; the name that is none of theirs otherwise.
+// Keeps the projectors with the given names. Returns the first name that no projector has.
 std::optional<QString> Choose(std::vector<ProjectorProfile>& profiles, const QStringList& names) {
   for (const QString& name : names) {
     if (std::ranges::find(profiles, name.toStdString(), &ProjectorProfile::Name) ==

@@ -11,8 +11,8 @@ class PROJECTOR_COMMON_EXPORT CComCtrl {
   CComCtrl(const CComCtrl&) = default;
   CComCtrl& operator=(const CComCtrl& other);
 
-  std::int32_t Port = 0;      ///< Zero-based; shown to people plus one.
-  std::int32_t BaudRate = 0;  ///< Bits per second; 0 when the host named none.
+  std::int32_t Port = 0;      ///< Zero-based; users see the number plus one.
+  std::int32_t BaudRate = 0;  ///< Bits per second; 0 if the host has not set it.
 
   friend bool operator==(const CComCtrl&, const CComCtrl&) = default;
 };

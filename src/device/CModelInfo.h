@@ -6,8 +6,8 @@
 #include "ProjectorCommonExport.h"
 #include "device/ModelData.h"
 
-/// The short model record of hosts that know neither series code nor ranges.
-/// A value: copying it copies every member.
+/// The short model record, for hosts without series codes and ranges. A value: copying it copies
+/// every member.
 class PROJECTOR_COMMON_EXPORT CModelInfo {
  public:
   CModelInfo() = default;

@@ -10,11 +10,11 @@
 
 namespace AdvancedControl {
 
-/// The full model record of a host, with up to five connections side by side.
+/// The full model record of a host, with up to five connections.
 ///
-/// The record's byte layout is fixed for a four-byte `String`; the intake proves it while it is
-/// compiled. Hosts and this library exchange `CModelInfo2`, the instance with `std::string`, by
-/// member.
+/// The byte layout of the record is fixed for a four-byte `String`, which the intake checks at
+/// compile time. Hosts and this library exchange the members of `CModelInfo2`, the instance with
+/// `std::string`.
 template <typename String>
 struct BasicModelInfo2 {
   static constexpr std::size_t kConnections = 5;
@@ -52,7 +52,7 @@ struct BasicModelInfo2 {
   bool operator==(const BasicModelInfo2&) const = default;
 };
 
-/// For each `RangeIndex`, where the record keeps its text.
+/// The position in the record for each `RangeIndex`.
 inline constexpr std::array<std::uint8_t, RangeIndex::Count> kRangeTextOrder{
     31,                              // auto power off
     13, 14, 15, 16, 17, 18,          // colour-temperature gains R, G, B and offsets R, G, B
@@ -81,5 +81,5 @@ const String& BasicModelInfo2<String>::RangeText(std::size_t index) const {
 
 }  // namespace AdvancedControl
 
-/// The record as it is exchanged; its strings are UTF-8.
+/// The record that hosts and this library exchange. Strings are UTF-8.
 using CModelInfo2 = AdvancedControl::BasicModelInfo2<std::string>;

@@ -26,7 +26,7 @@ int KeepList(int count, const int* values, std::vector<std::int32_t>& kept) {
   return size;
 }
 
-// A host's channel may do anything; the dialog's handlers know no exceptions.
+// The dialog's handlers do not handle exceptions, but a host's channel may throw.
 void Guarded(const auto& act) {
   try {
     act();
@@ -102,8 +102,8 @@ int CPjtInterface::CopyGammaData(int count, const int* values) {
 }
 
 PjtReply CPjtInterface::Execute(const PjtCommand& command) const {
-  // Held for the whole call: whoever runs while the channel waits may give this object another one,
-  // or destroy it.
+  // Held for the whole call, because code that runs while the channel waits may set another channel
+  // or destroy this object.
   const std::shared_ptr<ProjectorChannel> channel = channel_;
   const std::shared_ptr<Traffic> traffic = traffic_.now;
   PjtReply reply{.result = RefusedResult(command.operation), .answered = false, .unsent = true};
@@ -134,7 +134,7 @@ bool CPjtInterface::IsAbandoned() const { return traffic_.now->abandoned > 0; }
 bool CPjtInterface::IsWaiting() const { return traffic_.now->waiting > 0; }
 CPjtInterface::Tally CPjtInterface::Sent() const { return traffic_.now->sent; }
 
-void CPjtInterface::TryAfresh() {
+void CPjtInterface::AllowRetry() {
   if (channel_) Guarded([this] { channel_->Abandon(); });
 }
 
@@ -154,7 +154,7 @@ short CPjtInterface::ExecuteFor(const PjtCommand& command, short otherwise) cons
   return IsSuccess(command.operation, reply.result) ? reply.value : otherwise;
 }
 
-// One definition per family; the list of operations says which members there are.
+// One definition per family. The list of operations defines which members exist.
 
 #define PJT_FORM_Action(name) \
   int CPjtInterface::name() { return Execute({Op::name}).result; }

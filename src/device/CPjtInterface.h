@@ -47,12 +47,12 @@ class PROJECTOR_COMMON_EXPORT CPjtInterface {
   /// The power state that the projector reported last, see `ProjectorChannel::Power`.
   std::optional<AdvancedControl::PowerState> Power() const;
 
-  /// Sets the connection parameters. A text ends at its first zero or after 64 characters; null
-  /// stands for an empty text.
+  /// Sets the connection parameters. A text ends at its first zero or after 64 characters; null is
+  /// an empty text.
   ///
   /// Unless the host has set a channel, the object connects by itself with its first command:
   /// - Kind 1 is a network connection to the name or address `text1`, port `parameter`. On port
-  ///   4352, or where `parameter` is 0, it speaks PJLink with `text2` as the password; on any other
+  ///   4352, or if `parameter` is 0, it speaks PJLink with `text2` as the password; on any other
   ///   port the protocol of docs/wire.md. A prefix "pjlink://" or "tcp://" of the address overrides
   ///   this choice.
   /// - Any other kind is a serial connection with `parameter` bits per second, 0 for 19200, on the
@@ -80,7 +80,8 @@ class PROJECTOR_COMMON_EXPORT CPjtInterface {
   /// Written by the dialog when it opens, for the use of the connection.
   std::int32_t HostOption = 0;
   std::int32_t DialogType = 0;
-  /// Text of the list entry that a page is about to send. Pages only write it.
+  /// Text of the list entry that a page is about to send. Written by pages, for the use of the
+  /// connection.
   std::string SettingText;
 
   // The named operations, declared in the form of their family.
@@ -134,10 +135,9 @@ class PROJECTOR_COMMON_EXPORT CPjtInterface {
   short IncrementAutoPowerOff(short value);
   short DecrementAutoPowerOff(short value);
 
-  // The generic operations, by command code. `self` is the object that the call is made through.
-  // Only the result 1 is success. `Get` stores the value for any nonzero result, because some
-  // callers accept those as well. `Inc` and `Dec` step by one; read the setting with `Get`
-  // afterwards.
+  // The generic operations, by command code. `self` is the object itself. Only the result 1 is
+  // success. `Get` stores the value for any nonzero result, because some callers accept those as
+  // well. `Inc` and `Dec` step by one; read the setting with `Get` afterwards.
   int Get(unsigned short code, unsigned short argument, CPjtInterface* self, unsigned short* value);
   int Set(unsigned short code, unsigned short value, CPjtInterface* self);
   int Inc(unsigned short code, unsigned short argument, CPjtInterface* self);
@@ -158,7 +158,7 @@ class PROJECTOR_COMMON_EXPORT CPjtInterface {
   bool IsWaiting() const;
 
   /// Makes the channel try the next command even if the projector was silent.
-  void TryAfresh();
+  void AllowRetry();
 
   /// The results of the commands so far. The counters only grow.
   struct Tally {

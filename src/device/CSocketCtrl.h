@@ -13,8 +13,8 @@ class PROJECTOR_COMMON_EXPORT CSocketCtrl {
   CSocketCtrl& operator=(const CSocketCtrl& other);
 
   std::string Address;    ///< Host name or dotted address.
-  std::string Secret;     ///< What the projector asks for when a connection opens; may be empty.
-  std::int32_t Port = 0;  ///< 0 when the host named none.
+  std::string Secret;     ///< Password for opening a connection; may be empty.
+  std::int32_t Port = 0;  ///< 0 if the host has not set it.
 
   friend bool operator==(const CSocketCtrl&, const CSocketCtrl&) = default;
 };

@@ -9,7 +9,7 @@ namespace AdvancedControl {
 /// Codes of the generic operations `Get`, `Set`, `Inc` and `Dec`.
 namespace CommandCode {
 
-/// Device value of the settings that have their zero point in the middle of their range.
+/// Device value of zero, for settings with the zero point in the middle of their range.
 inline constexpr int kZeroPoint = 128;
 
 // State.
@@ -22,7 +22,7 @@ inline constexpr std::uint16_t BlankState = 0x3020;
 inline constexpr std::uint16_t RunningState = 0x6000;  ///< 0 standby, 1 on, 2 cooling down.
 inline constexpr std::uint16_t ErrorStatus = 0x6020;
 
-// Picture. `kZeroPoint` is zero unless told otherwise.
+// Picture. `kZeroPoint` is zero unless stated otherwise.
 inline constexpr std::uint16_t Brightness = 0x2003;
 inline constexpr std::uint16_t Contrast = 0x2004;
 inline constexpr std::uint16_t ColorBalR = 0x2005;
@@ -33,14 +33,14 @@ inline constexpr std::uint16_t Color = 0x2202;
 inline constexpr std::uint16_t Tint = 0x2203;
 inline constexpr std::uint16_t CustomGamma = 0x30A0;
 inline constexpr std::uint16_t Gamma = 0x30A1;             ///< A value of the model's list.
-inline constexpr std::uint16_t UserGammaPoint1 = 0x3090;   ///< Points 1..8 follow each other.
+inline constexpr std::uint16_t UserGammaPoint1 = 0x3090;   ///< Points 1..8 have consecutive codes.
 inline constexpr std::uint16_t ColorTemp = 0x30B0;         ///< A value of the model's list.
-inline constexpr std::uint16_t ColorTempGainR = 0x30B1;    ///< R, G, B follow each other.
-inline constexpr std::uint16_t ColorTempOffsetR = 0x30B5;  ///< R, G, B follow each other.
+inline constexpr std::uint16_t ColorTempGainR = 0x30B1;    ///< R, G and B have consecutive codes.
+inline constexpr std::uint16_t ColorTempOffsetR = 0x30B5;  ///< R, G and B have consecutive codes.
 inline constexpr std::uint16_t TestPattern = 0x3080;
 inline constexpr std::uint16_t ActiveIris = 0x3304;
 
-// Position and size, as they are.
+// Position and size, without a zero point.
 inline constexpr std::uint16_t Aspect = 0x2008;  ///< A value of the model's list.
 inline constexpr std::uint16_t OverScan = 0x2209;
 inline constexpr std::uint16_t PositionV = 0x2100;
@@ -64,7 +64,7 @@ inline constexpr std::uint16_t S2Aspect = 0x220B;
 inline constexpr std::uint16_t SyncOnGreen = 0x3008;
 inline constexpr std::uint16_t FrameLock = 0x3014;
 
-// Picture in picture, and as the image page of the third page set numbers it.
+// Picture in picture, also with the codes of the third page set's image page.
 inline constexpr std::uint16_t PinPSize = 0x2300;
 inline constexpr std::uint16_t PinPPosition = 0x2301;
 inline constexpr std::uint16_t PinPInput = 0x2302;

@@ -38,7 +38,7 @@ AddressError Wrong(std::string_view what, std::string_view text) {
   return {std::string(what) + " '" + std::string(text) + "'"};
 }
 
-// `port` is 0 where none is known from elsewhere.
+// `port` is 0 if it is not given separately.
 ProjectorAddress ParseNetwork(std::string_view text, int port, std::string_view password) {
   const std::string_view whole = text;
   const bool tcp = TakePrefix(text, kTcp);
@@ -79,7 +79,7 @@ ProjectorAddress MakeSerial(std::string_view device, int baud) {
                        .baud = baud == 0 ? SerialAddress::kDefaultBaud : baud};
 }
 
-/// Stands for a connection whose parameters name none.
+/// The channel for invalid connection parameters.
 class NoProjector final : public ProjectorChannel {
  public:
   PjtReply Execute(const PjtCommand& command) override {

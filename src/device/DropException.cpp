@@ -11,7 +11,7 @@ void DropException() noexcept {
     } catch (const std::bad_alloc&) {
       if (const std::new_handler handler = std::get_new_handler()) handler();
     }
-  } catch (...) {  // also what the handler throws, as it may
+  } catch (...) {  // the handler may throw too
   }
 }
 

@@ -4,11 +4,10 @@
 
 namespace AdvancedControl {
 
-/// For a `catch (...)` behind which the program goes on: drops the exception, but not the news that
-/// memory ran out. What a failed allocation cut short may have left anything behind, locks of the
-/// toolkit's included, so that the next command may wait for ever. Whether the process goes on all
-/// the same is its program's affair: the `std::new_handler` that it has set is called and may end
-/// it. Without one the exception is dropped like any other.
+/// For a `catch (...)` after which the program continues: drops the current exception. If it is
+/// `std::bad_alloc`, first calls the program's `std::new_handler`, if there is one, which may end
+/// the process: code interrupted by a failed allocation, for example in Qt, may still hold locks,
+/// and the next command could wait for ever. Any thread.
 void DropException() noexcept;
 
 }  // namespace AdvancedControl

@@ -10,7 +10,7 @@ namespace AdvancedControl {
 
 namespace {
 
-constexpr std::size_t kLongestHost = 253;  // bytes of a name in the domain name system
+constexpr std::size_t kLongestHost = 253;  // in bytes; the limit of the domain name system
 
 }  // namespace
 
@@ -20,13 +20,13 @@ bool IsHostAddress(std::string_view text) {
   if (host.contains(u':')) {
     return QHostAddress(host).protocol() == QAbstractSocket::IPv6Protocol;
   }
-  // What ends like an IPv4 address is one, with all of its four numbers.
+  // A text that ends in a number must be a complete IPv4 address with four numbers.
   const QStringList labels = host.split(u'.');
   const auto isNumber = [](const QString& label) {
     return !label.isEmpty() && std::ranges::all_of(label, [](QChar c) { return c.isDigit(); });
   };
   if (isNumber(labels.back())) return labels.size() == 4 && !QHostAddress(host).isNull();
-  // Letters of any language: names are looked up in their ASCII form.
+  // Letters of any language are allowed, because names are looked up in their ASCII form.
   const QByteArray name = QUrl::toAce(host);
   return !name.isEmpty() && std::ranges::all_of(name, [](char c) {
     return c == '.' || c == '-' || c == '_' || std::isalnum(static_cast<unsigned char>(c)) != 0;

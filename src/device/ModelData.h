@@ -38,7 +38,7 @@ struct CountedList {
   bool operator==(const CountedList&) const = default;
 };
 
-/// The input sources that the model knows.
+/// The input sources of the model.
 struct SourceList {
   static constexpr int kCapacity = 16;
 
@@ -78,11 +78,11 @@ inline constexpr std::size_t Bass = 33;
 inline constexpr std::size_t Count = 34;
 }  // namespace RangeIndex
 
-/// What the host knows of the selected projector's model. Does not change after intake.
+/// The host's data on the model of the selected projector. Does not change after intake.
 struct ModelData {
-  std::string ModelName;        ///< UTF-8, as the host knows it.
+  std::string ModelName;        ///< UTF-8, as given by the host.
   std::int32_t ModelCode = 0;   ///< Series code; refines tabs and rows.
-  std::int32_t DialogType = 0;  ///< Page set 1..5; any other has the status page only.
+  std::int32_t DialogType = 0;  ///< Page set 1..5; any other value has only the status page.
   SourceList MySourceList;
   CountedList WhisperList;
   CountedList AspectList;

@@ -6,7 +6,7 @@ namespace AdvancedControl {
 
 namespace {
 
-/// A record with four-byte strings, as the hosts' format describes it.
+/// The record with four-byte strings, as in the hosts' format.
 using HostRecord = BasicModelInfo2<std::uint32_t>;
 static_assert(std::is_standard_layout_v<HostRecord>);
 

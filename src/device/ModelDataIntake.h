@@ -24,7 +24,7 @@ struct ConnectionData {
 
 // The functions below may be called from any thread.
 
-/// Everything that the record says of the model.
+/// The model data of the record.
 PROJECTOR_COMMON_EXPORT ModelData MakeModelData(const CModelInfo2& info);
 
 /// The same from the item's model record, but with the item's own name. An item without a record

@@ -12,7 +12,7 @@ class PROJECTOR_COMMON_EXPORT ModelDataSource {
  public:
   virtual ~ModelDataSource() = default;
 
-  /// Owned by the source; does not change while its pages live.
+  /// Owned by the source. Does not change during the lifetime of its pages.
   virtual const ModelData& Model() const = 0;
 };
 

@@ -35,9 +35,9 @@ enum class OperationFamily : std::uint8_t {
   GenericStepper,
 };
 
-/// What one number of a command stands for.
+/// The meaning of a command's argument.
 enum class Argument : std::uint8_t {
-  None,     ///< Nothing; mostly 0.
+  None,     ///< Unused; mostly 0.
   Address,  ///< The source, channel or point that the operation addresses.
   Value,    ///< The value to set; for a stepper, the value before the step.
   Flag,
@@ -46,16 +46,16 @@ enum class Argument : std::uint8_t {
 /// What an operation does to the projector.
 enum class Effect : std::uint8_t {
   Acts,   ///< Starts or resets something.
-  Reads,  ///< Nothing.
+  Reads,  ///< Only reads.
   Sets,   ///< Sets a value that the command names.
   Steps,  ///< Changes a value by one step.
 };
 
-/// What the caller of an operation gets from a reply.
-enum class Tells : std::uint8_t {
-  Nothing,  ///< Though the reply carries a result.
+/// What an operation returns to its caller.
+enum class Returns : std::uint8_t {
+  Nothing,  ///< Even though the reply has a result.
   Result,   ///< Accepted or refused.
-  Value,    ///< Also, if accepted, the value read or the one after the step.
+  Value,    ///< The result and, if accepted, the value read or the value after the step.
 };
 
 /// Which results are a success.
@@ -67,7 +67,7 @@ struct OperationForm {
   Effect effect;
   Argument first;   ///< Of `PjtCommand`.
   Argument second;  ///< Of `PjtCommand`.
-  Tells tells;
+  Returns returns;
   Success success = Success::NonZero;
   bool isGeneric = false;  ///< A command code selects the setting.
 };
@@ -77,27 +77,27 @@ inline constexpr auto kOperationForms = [] {
   using enum Effect;
   using enum Argument;
   return std::to_array<OperationForm>({
-      {Action, Acts, None, None, Tells::Result, Success::Zero},
-      {CheckedReset, Acts, None, None, Tells::Result},
-      {PointReset, Acts, Address, None, Tells::Result},
-      {SilentAction, Acts, None, None, Tells::Nothing},
-      {PointerGetter, Reads, None, None, Tells::Value},
-      {IntSetter, Sets, Value, None, Tells::Result},
-      {ShortSetter, Sets, Value, None, Tells::Result},
-      {FlaggedSetter, Sets, Value, Flag, Tells::Result},
-      {SilentSetter, Sets, Value, None, Tells::Nothing},
-      {SilentFlaggedSetter, Sets, Value, Flag, Tells::Nothing},
-      {PointerStepper, Steps, Value, None, Tells::Value},
-      {SourceGetter, Reads, Address, None, Tells::Value},
-      {SourceStepper, Steps, Address, None, Tells::Value},
-      {SourceSetter, Sets, Address, Value, Tells::Result},
-      {ShortSourceSetter, Sets, Address, Value, Tells::Result},
-      {DirectGetter, Reads, None, None, Tells::Value},
-      {PointGetter, Reads, Address, None, Tells::Value},
-      {ChannelStepper, Steps, Address, Value, Tells::Value},
-      {GenericGetter, Reads, None, None, Tells::Value, Success::One, true},
-      {GenericSetter, Sets, Value, None, Tells::Result, Success::One, true},
-      {GenericStepper, Steps, None, None, Tells::Result, Success::One, true},
+      {Action, Acts, None, None, Returns::Result, Success::Zero},
+      {CheckedReset, Acts, None, None, Returns::Result},
+      {PointReset, Acts, Address, None, Returns::Result},
+      {SilentAction, Acts, None, None, Returns::Nothing},
+      {PointerGetter, Reads, None, None, Returns::Value},
+      {IntSetter, Sets, Value, None, Returns::Result},
+      {ShortSetter, Sets, Value, None, Returns::Result},
+      {FlaggedSetter, Sets, Value, Flag, Returns::Result},
+      {SilentSetter, Sets, Value, None, Returns::Nothing},
+      {SilentFlaggedSetter, Sets, Value, Flag, Returns::Nothing},
+      {PointerStepper, Steps, Value, None, Returns::Value},
+      {SourceGetter, Reads, Address, None, Returns::Value},
+      {SourceStepper, Steps, Address, None, Returns::Value},
+      {SourceSetter, Sets, Address, Value, Returns::Result},
+      {ShortSourceSetter, Sets, Address, Value, Returns::Result},
+      {DirectGetter, Reads, None, None, Returns::Value},
+      {PointGetter, Reads, Address, None, Returns::Value},
+      {ChannelStepper, Steps, Address, Value, Returns::Value},
+      {GenericGetter, Reads, None, None, Returns::Value, Success::One, true},
+      {GenericSetter, Sets, Value, None, Returns::Result, Success::One, true},
+      {GenericStepper, Steps, None, None, Returns::Result, Success::One, true},
   });
 }();
 

@@ -11,7 +11,7 @@
 
 namespace AdvancedControl {
 
-/// Every operation that the projector understands, named as `CPjtInterface` names it.
+/// Every operation of a projector, with the name of its member in `CPjtInterface`.
 enum class PjtOperation {
 #define PJT_OPERATION(name, family, number) name,
 #include "device/PjtOperations.def"
@@ -25,7 +25,7 @@ inline constexpr std::size_t kOperationCount = 0
 
 // The functions below may be called from any thread.
 
-/// The operation's name, which is that of its member of `CPjtInterface`.
+/// The operation's name, which is that of its member in `CPjtInterface`.
 PROJECTOR_COMMON_EXPORT std::string_view OperationName(PjtOperation operation);
 
 /// The operation of that name, or nothing.
@@ -39,8 +39,8 @@ PROJECTOR_COMMON_EXPORT std::optional<PjtOperation> OperationByNumber(std::uint1
 PROJECTOR_COMMON_EXPORT OperationFamily FamilyOf(PjtOperation operation);
 inline const OperationForm& FormOf(PjtOperation operation) { return FormOf(FamilyOf(operation)); }
 
-/// Whether `result`, taken from a reply, is a success. This also works for families whose caller
-/// gets no result: their replies carry one, and nonzero is success.
+/// Whether `result`, taken from a reply, is a success. Also for families that return no result to
+/// the caller: their replies have one, and nonzero is success.
 PROJECTOR_COMMON_EXPORT bool IsSuccess(PjtOperation operation, int result);
 
 /// A result that means success, and one that means refusal, for the operation's family.

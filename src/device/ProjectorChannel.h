@@ -23,9 +23,9 @@ struct PjtCommand {
   friend bool operator==(const PjtCommand&, const PjtCommand&) = default;
 };
 
-/// What came back.
+/// The reply to a command.
 struct PjtReply {
-  int result = 0;          ///< Success or refusal as the operation's family says (`IsSuccess`).
+  int result = 0;  ///< Success or refusal, depending on the operation's family (`IsSuccess`).
   std::int16_t value = 0;  ///< The value read or stepped to; meaningful only on success.
   bool answered = true;    ///< False when no answer came; `result` is then a refusal.
   bool offered = true;     ///< False when the projector is known not to have the setting; `result`

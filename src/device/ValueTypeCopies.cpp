@@ -1,5 +1,5 @@
-// Copying of the value types, in one place so that every library which hands these objects across
-// its boundary can compile and export it.
+// The copy operations of the value types, in a file of their own, so that every library that passes
+// these objects across its boundary can compile and export them.
 #include "device/CComCtrl.h"
 #include "device/CModelInfo.h"
 #include "device/CPjtInterface.h"

@@ -15,10 +15,10 @@ namespace {
 
 constexpr QByteArrayView kByteOrderMark("\xEF\xBB\xBF");
 
-/// A member of an object or an element of an array, with its key where it has one.
+/// A member of an object, with its key, or an element of an array.
 struct Child {
   QString key;
-  qsizetype begin;  ///< Of the key, or of the value where there is none.
+  qsizetype begin;  ///< Start of the key, or of the value if there is no key.
   qsizetype value;
   qsizetype end;
 };
@@ -92,7 +92,8 @@ QByteArray Replaced(const QByteArray& text, qsizetype begin, qsizetype end,
   return text.left(begin) + with + text.mid(end);
 }
 
-// What stands between the last two children, or, of a single one, what would.
+// The text between the last two children; for a single child, a comma and the space before the
+// child.
 QByteArray Separator(const QByteArray& text, qsizetype container,
                      const std::vector<Child>& children) {
   if (children.size() > 1) {
@@ -119,7 +120,7 @@ QByteArray Write(const QJsonValue& value) {
     }
     return JsonEdit::Write(members);
   }
-  // In an array, which alone can be written.
+  // QJsonDocument writes only arrays and objects, so the value is written in an array.
   return QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact).mid(1).chopped(1);
 }
 
@@ -127,7 +128,7 @@ QByteArray Write(const Member& member) {
   return Write(QJsonValue(member.key)) + ": " + Write(member.value);
 }
 
-// Those that differ, so that the others stay as they were written.
+// Sets only the members that differ; the others keep their formatting.
 QByteArray SetMembers(QByteArray text, Path path, const Member& object) {
   path.emplace_back(object.key);
   const QJsonObject before = QJsonDocument::fromJson(JsonEdit::TextAt(text, path)).object();

@@ -11,11 +11,11 @@
 
 namespace AdvancedControl {
 
-/// Changes to a well-formed JSON text that leave everything else in it as it was written. What is
-/// added is laid out like what stands beside it.
+/// Edits a well-formed JSON text and keeps the formatting of everything that does not change. New
+/// text is formatted like its neighbours.
 namespace JsonEdit {
 
-/// Where a value is: keys and positions from the outermost value on.
+/// One step from a value to a value in it: an object's key or an array's position.
 struct Step {
   Step(const char* objectKey) : key(QLatin1String(objectKey)) {}
   Step(QString objectKey) : key(std::move(objectKey)) {}
@@ -26,20 +26,22 @@ struct Step {
 };
 using Path = std::vector<Step>;
 
-/// Members in the order in which they are written. An undefined value stands for no member.
+/// A member of an object; an undefined value means that it is absent. Members are written in their
+/// order.
 struct Member {
   QString key;
   QJsonValue value;
 };
 using Members = std::vector<Member>;
 
-// `path` must lead to an object or array of the text; positions must be in it.
+// `path` leads from the outermost value to an object or array that must exist, and positions must
+// be within it.
 
-/// Gives an object's member this value, adds it as the last one, or takes it out. Of a value that
-/// is an object before and afterwards, only those members are touched that differ.
+/// Sets a member of an object, adds it at the end, or removes it. If the value is an object before
+/// and afterwards, only the members that differ are changed.
 QByteArray SetMember(const QByteArray& text, const Path& path, const Member& member);
 
-/// Puts an element, itself JSON, behind the one at `after` of an array that is not empty.
+/// Inserts `element`, a JSON text, after the element `after` of an array, which must not be empty.
 QByteArray InsertElement(const QByteArray& text, const Path& path, qsizetype after,
                          const QByteArray& element);
 
@@ -55,7 +57,7 @@ struct Extent {
 };
 std::vector<Extent> Elements(const QByteArray& text, const Path& path);
 
-/// An object on one line.
+/// An object as JSON on one line.
 QByteArray Write(const Members& members);
 
 }  // namespace JsonEdit

@@ -57,7 +57,7 @@ PjLinkStep SearchInquiry::Next(PjLinkTime now) {
       PjLinkStep step = session_.Next(now);
       if (step.kind != PjLinkStep::Kind::Finished) return step;
       isAsking_ = false;
-      Take(session_.Told());
+      Take(session_.Result());
     }
     const auto question = IsOver() ? std::nullopt : NextQuestion();
     if (!question) return {};
@@ -74,8 +74,8 @@ std::optional<PjLinkQuestion> SearchInquiry::NextQuestion() const {
   return tellsInputs_ ? inputs_.Next() : std::nullopt;
 }
 
-void SearchInquiry::Take(const PjLinkTold& told) {
-  if (told.kind == PjLinkTold::Kind::Lost) ++lost_;
+void SearchInquiry::Take(const PjLinkResult& told) {
+  if (told.kind == PjLinkResult::Kind::Lost) ++lost_;
   found_.needsPassword = session_.State() == ConnectionState::PasswordRequired;
   hasFound_ = hasFound_ || session_.HasGreeted() || found_.needsPassword;
   found_.protocolClass = session_.ProtocolClass().value_or('1');
@@ -84,7 +84,7 @@ void SearchInquiry::Take(const PjLinkTold& told) {
     ++asked_;
     return;
   }
-  if (!inputs_.Take(told)) inputs_.PassOver();
+  if (!inputs_.Take(told)) inputs_.SkipName();
   tellsInputs_ = inputs_.IsListKnown();
   found_.inputs = inputs_.Known();
 }

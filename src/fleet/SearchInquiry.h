@@ -48,7 +48,7 @@ class SearchInquiry {
 
  private:
   std::optional<PjLinkQuestion> NextQuestion() const;
-  void Take(const PjLinkTold& told);
+  void Take(const PjLinkResult& told);
   bool IsOver() const;
 
   FoundProjector found_;

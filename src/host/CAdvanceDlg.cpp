@@ -38,7 +38,7 @@ constexpr int kFindWidth = 300;
 constexpr int kNetworkConnection = 1;
 constexpr std::chrono::milliseconds kInputsPeriod{500};
 
-// Dialogs that have made this library's resources current, in the order of their opening.
+// Dialogs that have made this library's resources current, in the order in which they were opened.
 std::vector<CAdvanceDlg*>& OpenDialogs() {
   static std::vector<CAdvanceDlg*> dialogs;
   return dialogs;
@@ -73,7 +73,7 @@ CAdvanceDlg::CAdvanceDlg(CWnd* parent)
       inputsWatch_(new QTimer(this)) {
   auto* layout = new QVBoxLayout(scroll_->widget());
   layout->setContentsMargins({});
-  inputsWatch_->callOnTimeout(this, &CAdvanceDlg::TakeToldInputs);
+  inputsWatch_->callOnTimeout(this, &CAdvanceDlg::UseReportedInputs);
   connect(find_, &FindLine::Found, this,
           [this](const FindLine::Place& place) { GoTo(place.tab, place.control, place.popUp); });
   connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this,
@@ -110,9 +110,9 @@ bool CAdvanceDlg::OnInitDialog() {
   projector_.DialogType = model_.DialogType;
   projector_.CopyAspectData(model_.AspectList.count, model_.AspectList.values.data());
   projector_.CopyGammaData(model_.GammaList.count, model_.GammaList.values.data());
-  if (const auto told = ToldInputs()) {
-    toldInputs_ = told;
-    model_.MySourceList = *told;
+  if (const auto reported = NewReportedInputs()) {
+    reportedInputs_ = reported;
+    model_.MySourceList = *reported;
   }
   CreatePages();
   InsertTabs();
@@ -121,7 +121,7 @@ bool CAdvanceDlg::OnInitDialog() {
   OrderFocus();
   ShowUnread();
   DispTabScreen();
-  const bool namesInputs = model_.MySourceList.Size() > 0 && !toldInputs_;
+  const bool namesInputs = model_.MySourceList.Size() > 0 && !reportedInputs_;
   if (IsCreated() && !namesInputs) inputsWatch_->start(kInputsPeriod);
   return true;
 }
@@ -147,7 +147,7 @@ void CAdvanceDlg::InsertTabs() {
     tabs_->addTab(text);
     Page(page).setAccessibleName(text);
   };
-  const QSignalBlocker quiet(tabs_);  // the first tab selects itself before the dialog is ready
+  const QSignalBlocker quiet(tabs_);  // adding the first tab selects it before the dialog is ready
   insert(Caption::TabStatus, PageId::Status);
   for (const PageTab& tab : TabsOf(model_.DialogType, model_.ModelCode))
     insert(tab.caption, tab.page);
@@ -204,7 +204,7 @@ void CAdvanceDlg::DispTabScreen() {
   do {
     readsAgain_ = false;
     Return();
-    waiting_->CountAfresh();
+    waiting_->RestartTally();
     if (shownPage_ == nullptr) continue;
     shownPage_->ReadPage();
     if (shownPage_->layout() != nullptr) shownPage_->layout()->activate();
@@ -226,18 +226,18 @@ void CAdvanceDlg::ReplaceSources(const SourceList& sources) {
   }
 }
 
-std::optional<SourceList> CAdvanceDlg::ToldInputs() const {
+std::optional<SourceList> CAdvanceDlg::NewReportedInputs() const {
   const SourceList& known = model_.MySourceList;
-  if (known.Size() > 0 && known != toldInputs_) return std::nullopt;
-  auto told = projector_.Inputs();
-  return told == known ? std::nullopt : told;
+  if (known.Size() > 0 && known != reportedInputs_) return std::nullopt;
+  auto reported = projector_.Inputs();
+  return reported == known ? std::nullopt : reported;
 }
 
-void CAdvanceDlg::TakeToldInputs() {
+void CAdvanceDlg::UseReportedInputs() {
   if (IsBusy() || QApplication::activePopupWidget() != nullptr) return;
-  if (const auto told = ToldInputs()) {
-    toldInputs_ = told;
-    ReplaceSources(*told);
+  if (const auto reported = NewReportedInputs()) {
+    reportedInputs_ = reported;
+    ReplaceSources(*reported);
   }
 }
 
@@ -245,7 +245,7 @@ void CAdvanceDlg::ShowSelectedPage() {
   for (const auto& page : pages_->byId) {
     if (page->Template() != nullptr) page->hide();
   }
-  shownPage_ = PageBehind(tabs_->currentIndex());
+  shownPage_ = PageOfTab(tabs_->currentIndex());
   if (shownPage_ == nullptr) return;
   shownPage_->Reader().MarkUnread();
   shownPage_->show();
@@ -278,15 +278,15 @@ QString CAdvanceDlg::WaitingText() const {
                                : CatalogString(kListCategory, ListText::Waiting);
 }
 
-std::optional<PageId> CAdvanceDlg::PageIdBehind(int selection) const {
+std::optional<PageId> CAdvanceDlg::PageIdOfTab(int selection) const {
   const auto tabs = TabsOf(model_.DialogType, model_.ModelCode);
   if (selection == 0) return PageId::Status;
   if (selection < 0 || static_cast<std::size_t>(selection) > tabs.size()) return {};
   return tabs[static_cast<std::size_t>(selection) - 1].page;
 }
 
-CTabPage* CAdvanceDlg::PageBehind(int selection) const {
-  const auto page = PageIdBehind(selection);
+CTabPage* CAdvanceDlg::PageOfTab(int selection) const {
+  const auto page = PageIdOfTab(selection);
   return page ? &Page(*page) : nullptr;
 }
 
@@ -300,7 +300,8 @@ void CAdvanceDlg::OnDestroy() {
   auto& open = OpenDialogs();
   const auto self = std::ranges::find(open, this);
   if (self == open.end()) return;
-  // A dialog opened after this one saved this library's module; the host's is now its to put back.
+  // The dialog opened after this one has saved this library's module. It has to restore the host's
+  // module instead.
   if (const auto next = std::next(self); next != open.end()) {
     (*next)->savedResources_ = savedResources_;
   } else {

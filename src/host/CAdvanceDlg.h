@@ -112,7 +112,7 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog,
   /// Restores the host's resource module.
   void OnDestroy() override;
 
-  /// The page behind the selected tab, or null.
+  /// The page of the selected tab, or null.
   CTabPage* ShownPage() const { return shownPage_; }
   /// Any page of the dialog; only those of the model's page set have controls once it is open.
   CTabPage& Page(AdvancedControl::PageId page) const;
@@ -138,11 +138,11 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog,
  private:
   struct Pages;
 
-  /// What was given while the dialog was open.
+  /// Data passed to `CopyData` while the dialog was open.
   struct Intake {
     AdvancedControl::ModelData model;
     std::optional<AdvancedControl::ConnectionData>
-        connection;  ///< None where only the model was given.
+        connection;  ///< Nothing if only the model was passed.
   };
 
   /// The model to use for the next creation.
@@ -155,10 +155,10 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog,
   void InsertTabs();
   void SetTitle();
   /// Inputs newly reported by the projector, if the host names none.
-  std::optional<AdvancedControl::SourceList> ToldInputs() const;
-  void TakeToldInputs();
-  std::optional<AdvancedControl::PageId> PageIdBehind(int tab) const;
-  CTabPage* PageBehind(int tab) const;
+  std::optional<AdvancedControl::SourceList> NewReportedInputs() const;
+  void UseReportedInputs();
+  std::optional<AdvancedControl::PageId> PageIdOfTab(int tab) const;
+  CTabPage* PageOfTab(int tab) const;
   void ShowSelectedPage();
   void ShowWaiting(bool waiting);
   QString WaitingText() const;
@@ -170,7 +170,7 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog,
   void OpenPopUp(int button, int control, std::chrono::milliseconds delay = {});
 
   const AdvancedControl::ResourceModule* savedResources_ =
-      nullptr;  // put back when the dialog closes
+      nullptr;  // restored when the dialog closes
   AdvancedControl::ModelData model_;
   std::optional<Intake> next_;  // for the next creation
   CPjtInterface projector_;
@@ -184,7 +184,7 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog,
   AdvancedControl::StatusLine* status_;
   AdvancedControl::FindLine* find_;
   QTimer* inputsWatch_;
-  std::optional<AdvancedControl::SourceList> toldInputs_;  // as last taken
-  bool reading_ = false;                                   // a page is being read
-  bool readsAgain_ = false;  // the shown page is to be read when what runs has ended
+  std::optional<AdvancedControl::SourceList> reportedInputs_;  // the inputs in use
+  bool reading_ = false;                                       // a page is being read
+  bool readsAgain_ = false;  // the shown page must be read when no handler runs
 };

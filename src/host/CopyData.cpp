@@ -1,4 +1,5 @@
-// What the host hands over: one call a generation of hosts, each kept for those that use it.
+// The forms in which hosts pass their data. Each generation of hosts uses its own form, and all are
+// kept.
 
 #include <cstring>
 #include <iterator>
@@ -34,7 +35,7 @@ void CopySources(SourceList& list, int count, const char* names, const int* firs
 
 }  // namespace
 
-// The pages of an open dialog stand for the model that it was created with.
+// An open dialog keeps its model, because its pages were created for it.
 ModelData& CAdvanceDlg::ModelToCreate() {
   if (IsCreated() || IsBusy()) {
     if (!next_) next_.emplace(Intake{.model = model_, .connection = {}});

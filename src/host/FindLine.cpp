@@ -29,7 +29,8 @@ FindLine::FindLine(QWidget* parent) : QLineEdit(parent) {
   completer->setFilterMode(Qt::MatchContains);
   completer->setMaxVisibleItems(12);
   setCompleter(completer);
-  // Not to this line itself: that it is disconnected from when it loses the focus.
+  // Connected with the completer as context, because Qt disconnects a line edit from its completer
+  // when it loses the focus.
   connect(completer, qOverload<const QModelIndex&>(&QCompleter::activated), completer,
           [this](const QModelIndex& completion) { Choose(completion); });
   hide();
@@ -59,15 +60,16 @@ void FindLine::Start(std::vector<Place> places) {
 void FindLine::Choose(const QModelIndex& completion) {
   if (!completion.isValid()) return;
   const auto* shown = static_cast<const QAbstractProxyModel*>(completer()->completionModel());
-  // A copy: while its tab is read, somebody may start anew.
+  // A copy, because `Start` may replace the places while the tab is being read.
   const Place place = places_[static_cast<std::size_t>(shown->mapToSource(completion).row())];
   completer()->popup()->hide();
   hide();
-  // The list must have ended before the place's tab is read.
+  // The list of completions must be closed before the tab is read.
   QTimer::singleShot(0, this, [this, place] { Q_EMIT Found(place); });
 }
 
-// The completions pass on their keys; the one marked is meant, or the first.
+// The list of completions passes its keys on to the line. Enter chooses the marked completion, or
+// else the first one.
 void FindLine::keyPressEvent(QKeyEvent* event) {
   QAbstractItemView* completions = completer()->popup();
   if (event->key() == Qt::Key_Escape) {

@@ -13,24 +13,24 @@ namespace AdvancedControl {
 /// A setting or pop-up with its tab, as the search shows it: "Brightness — Picture".
 QString WhatAndWhere(const QString& what, const QString& where);
 
-/// A line that finds a row by its caption while a person types it. Enter goes there, Esc or a click
-/// elsewhere ends the search.
+/// A line that finds a row while the user types its caption. Enter goes to the row; Esc or a click
+/// elsewhere ends the search. User-interface thread only.
 class FindLine final : public QLineEdit {
   Q_OBJECT
 
  public:
   struct Place {
     QString caption{};
-    QString where{};                   ///< Caption of its tab, behind that of its pop-up.
-    int tab = 0;                       ///< Index of the tab,
-    int control = 0;                   ///< and number of the control, by which the row is found,
-    std::optional<PagePopUp> popUp{};  ///< which is in a pop-up.
+    QString where{};                   ///< Caption of its tab, after that of its pop-up.
+    int tab = 0;                       ///< Index of the tab.
+    int control = 0;                   ///< Number of the row's control.
+    std::optional<PagePopUp> popUp{};  ///< The pop-up with the row, if it is not on the page.
   };
 
   /// Hidden until `Start`.
   explicit FindLine(QWidget* parent);
 
-  /// Shows the line, empty, over these rows.
+  /// Shows the empty line for a search in `places`.
   void Start(std::vector<Place> places);
 
  Q_SIGNALS:

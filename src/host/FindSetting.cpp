@@ -1,4 +1,4 @@
-// Finding a setting of the dialog, and going to it.
+// Finds a setting in the dialog and shows it.
 
 #include <utility>
 
@@ -20,7 +20,7 @@ constexpr std::chrono::milliseconds kLater{50};
 void FocusOn(const CDialog& dialog, int control) {
   QWidget* found = dialog.GetDlgItem(control);
   if (found != nullptr && found->isEnabledTo(found->window())) {
-    found->window()->setAttribute(Qt::WA_KeyboardFocusChange);  // so that the focus is seen
+    found->window()->setAttribute(Qt::WA_KeyboardFocusChange);  // makes the focus visible
     found->setFocus(Qt::OtherFocusReason);
   }
 }
@@ -35,13 +35,14 @@ void CAdvanceDlg::StartFinding() {
       const PageRow& row = table.rows[i];
       if (!Has(table, i, model_.ModelCode) || std::holds_alternative<ResetRow>(row)) continue;
       const QString caption = CaptionText(row);
-      if (std::exchange(place.caption, caption) == caption) continue;  // the parts of a row
+      if (std::exchange(place.caption, caption) == caption)
+        continue;  // further parts of the same row
       place.control = ControlOf(row);
       places.push_back(place);
     }
   };
   for (int tab = 0; tabs_ != nullptr && tab < tabs_->count(); ++tab) {
-    const auto page = PageIdBehind(tab);
+    const auto page = PageIdOfTab(tab);
     if (!page) continue;
     const QString tabCaption = tabs_->tabText(tab);
     add({.where = tabCaption, .tab = tab}, TableOf(*page));
@@ -53,10 +54,9 @@ void CAdvanceDlg::StartFinding() {
   find_->Start(std::move(places));
 }
 
-// Reading another tab may end with anything: also with the dialog closed, with a further tab, or
-// with a further search.
+// While the tab is being read, the user may close the dialog, select another tab, or search again.
 void CAdvanceDlg::GoTo(int tab, int control, const std::optional<PagePopUp>& popUp) {
-  tabs_->setFocus(Qt::OtherFocusReason);  // of a row that is grey
+  tabs_->setFocus(Qt::OtherFocusReason);  // used if the row is disabled
   tabs_->setCurrentIndex(tab);
   if (!IsCreated() || tabs_->currentIndex() != tab || shownPage_ == nullptr) return;
   if (find_->isVisible()) return;
@@ -64,7 +64,8 @@ void CAdvanceDlg::GoTo(int tab, int control, const std::optional<PagePopUp>& pop
   if (popUp) OpenPopUp(popUp->button, control);
 }
 
-// The button runs the pop-up until it is closed. A dialog that still reads opens none.
+// The button's handler runs until the pop-up is closed. While the dialog is still reading, the
+// button does nothing, so it is tried again later.
 void CAdvanceDlg::OpenPopUp(int button, int control, std::chrono::milliseconds delay) {
   auto* opener = qobject_cast<QAbstractButton*>(shownPage_->GetDlgItem(button));
   QTimer::singleShot(delay, opener, [this, opener, button, control] {
@@ -77,7 +78,7 @@ void CAdvanceDlg::OpenPopUp(int button, int control, std::chrono::milliseconds d
         FocusOn(*popUp, control);
       }
     });
-    opener->setFocus(Qt::OtherFocusReason);  // where the focus is when the pop-up has gone
+    opener->setFocus(Qt::OtherFocusReason);  // gets the focus back after the pop-up
     opener->click();
   });
 }

@@ -6,7 +6,8 @@ namespace AdvancedControl {
 
 namespace {
 
-/// Lives as long as the library is loaded. Without a catalog the dialogs show their template texts.
+/// Sets up the library when it is loaded, and cleans up when it is unloaded. Without a catalog the
+/// dialogs show their template texts.
 class LibraryAttachment {
  public:
   LibraryAttachment() {

@@ -28,13 +28,13 @@ constexpr const char* kEnglishMarker = "GETENG";
 constexpr const char* kChineseMarker = "GETSCH";
 constexpr std::string_view kNoCatalog = "No Message Catalog";
 
-// Constructed by its first user, hence also before main and from other static objects.
+// A local static, because it may be used before main and from other static objects.
 std::optional<MessageCatalog>& LoadedCatalog() {
   static std::optional<MessageCatalog> catalog;
   return catalog;
 }
 
-// Why no catalog is loaded.
+// The reason why no catalog is loaded.
 std::string& Problem() {
   static std::string problem;
   return problem;
@@ -47,10 +47,10 @@ int Fail(std::string problem) {
   return -1;
 }
 
-// Whether the current directory holds something of this name.
+// Whether the current directory contains this name.
 bool MarkerExists(const char* name) { return access(name, F_OK) == 0; }
 
-// The text of a message, expanded into `storage` where it has % sequences.
+// The text of a message. If it has % sequences, it is expanded into `storage`.
 std::optional<std::string_view> TextOf(const CatalogMessage& message,
                                        std::span<const CatalogInsert> inserts,
                                        std::string& storage) {
@@ -68,13 +68,13 @@ std::optional<std::string_view> FindText(int category, int number,
   if (!catalog || number < 0 || number > 0xFFFF || category < -256 || category > 0xFEFF) return {};
   const std::uint32_t id = MessageId(category, number);
   const auto english = catalog->Find(kEnglishUnitedStates, id);
-  // Nothing can change what this call finds. That is so for nearly every text, and asking for the
-  // language and the markers takes longer than all the rest.
+  // The text is the same in every language, as nearly all are. Skips the query for language and
+  // markers, which would take longer than everything else.
   if (english && english->sameEverywhere) return TextOf(*english, inserts, storage);
   const std::uint32_t language = SystemLanguageId();
   if (language != kEnglishUnitedStates) {
     const auto own = catalog->Find(language, id);
-    // With either marker the text of 1033 is the result.
+    // Either marker selects the text of 1033.
     if (own && !MarkerExists(kChineseMarker) && !MarkerExists(kEnglishMarker)) {
       if (const auto text = TextOf(*own, inserts, storage)) return text;
     }
@@ -116,7 +116,7 @@ std::vector<std::string> CatalogFolders() {
   if (!program.empty()) folders.push_back(program.parent_path().string());
   if (!libraryFolder.empty()) {
     folders.push_back((libraryFolder / "../share/advanced-control").string());
-    // A library in a folder of its architecture.
+    // For a library in a folder named after its architecture.
     folders.push_back((libraryFolder / "../../share/advanced-control").string());
   }
 #ifdef ADVANCEDCONTROL_DATADIR
@@ -173,7 +173,7 @@ void GetCatalogTextV(int category, int number, int bufferSize, char* buffer,
   if (bufferSize <= 0 || !buffer) return;
   std::string storage;
   if (const auto text = FindText(category, number, inserts, storage)) {
-    // The line break that ends every entry.
+    // Removes the line break that ends every entry.
     CopyText(WithoutLastCharacter(WithoutLastCharacter(*text)), bufferSize, buffer);
   } else {
     CopyText(kNoCatalog, bufferSize, buffer);

@@ -13,8 +13,8 @@
 
 namespace AdvancedControl {
 
-// The process-wide message catalog. Called from the user-interface thread, and at load and unload
-// of the library.
+// The process-wide message catalog. User-interface thread only; the library loads and unloads it
+// while it is itself loaded and unloaded.
 
 /// The identifier of a message: the category above the number. Both must fit in 16 bits, the
 /// category after 256 is added.
@@ -23,25 +23,26 @@ constexpr std::uint32_t MessageId(int category, int number) {
 }
 
 /// Loads the catalog module of the system language in place of any loaded before: "mcschn.dll" for
-/// Simplified Chinese or where a file "GETSCH" is in the current directory, else "mcdll.dll".
+/// Simplified Chinese or if the current directory contains a file "GETSCH", else "mcdll.dll".
 ///
 /// The module is the first file of that name beside this library, beside the application, in
 /// "../share/advanced-control" or "../../share/advanced-control" from this library, in the
-/// installed data folder, or in the current directory; if that one is damaged, no other is tried.
-/// Returns 0, or -1 and no catalog is loaded.
+/// installed data folder, or in the current directory. If that file is damaged, no other is tried.
+/// Returns 0, or −1 if no catalog could be loaded.
 PROJECTOR_SETTINGS_EXPORT int LoadCatalog();
 
-/// The same with `folders` to look in, in their order; an empty name is the current directory.
+/// The same, but searches `folders` in their order; an empty name is the current directory.
 PROJECTOR_SETTINGS_EXPORT int LoadCatalog(std::span<const std::string> folders);
 
-/// The folders in which the first form looks.
+/// The folders that the form without arguments searches.
 PROJECTOR_SETTINGS_EXPORT std::vector<std::string> CatalogFolders();
 
 /// Releases the loaded module, if any.
 PROJECTOR_SETTINGS_EXPORT void ReleaseCatalog();
 
-/// Which module was refused and why, or where none was found; empty with a catalog. Each failed
-/// `LoadCatalog` also logs it, as a warning of the category "advancedcontrol.catalog".
+/// Why no catalog is loaded: which module was refused and why, or where none was found. Empty if a
+/// catalog is loaded. Each failed `LoadCatalog` also logs it, as a warning of the category
+/// "advancedcontrol.catalog".
 PROJECTOR_SETTINGS_EXPORT std::string CatalogProblem();
 
 /// Whether a module is loaded; without one every text is "No Message Catalog".
@@ -59,8 +60,9 @@ PROJECTOR_SETTINGS_EXPORT void GetCatalogTextV(int category, int number, int buf
 /// buffer, nothing happens. `inserts` (texts and integers) fill the message's %1, %2 ...
 ///
 /// The text is that of the system language, else the one of language 1033; with a file "GETENG" or
-/// "GETSCH" in the current directory only the latter. The files and the environment are looked at
-/// anew in each call. Where no text is found or can be formatted the text is "No Message Catalog".
+/// "GETSCH" in the current directory only the latter. Each call looks at the files and the
+/// environment again. If there is no text, or it cannot be formatted, the result is "No Message
+/// Catalog".
 PROJECTOR_SETTINGS_EXPORT void GetCatalogText(int category, int number, int bufferSize,
                                               char* buffer);
 template <class... Inserts>

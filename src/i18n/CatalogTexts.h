@@ -11,15 +11,15 @@
 
 namespace AdvancedControl {
 
-/// The texts of all catalog modules at once, each asked for by its language. Unlike the
-/// process-wide catalog it holds no state but its own, and may be read from several threads.
+/// The texts of all catalog modules in all languages. Unlike the process-wide catalog, it has no
+/// shared state and may be read from several threads at once.
 class CatalogTexts {
  public:
-  /// Loads every module that the first of `folders` has that has it; a damaged one is as none.
+  /// Loads each module from the first of `folders` that contains it; skips damaged modules.
   explicit CatalogTexts(std::span<const std::string> folders);
 
-  /// A text in exactly this language, without its closing line break; nothing where there is none
-  /// or the inserts do not fit.
+  /// The text in exactly this language, without its closing line break; nothing if there is none or
+  /// the inserts do not fit.
   std::optional<std::string> Find(std::uint32_t languageId, int category, int number,
                                   std::span<const CatalogInsert> inserts = {}) const;
 

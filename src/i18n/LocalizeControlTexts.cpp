@@ -12,8 +12,8 @@ namespace AdvancedControl {
 
 namespace {
 
-// Reads a caption as the field widths of a template say: blanks, a decimal integer, ";" and at
-// least one character that is not a blank.
+// The number of a caption with this format: blanks, a decimal integer, ";" and at least one
+// character that is not a blank.
 std::optional<int> CaptionNumber(const QString& caption) {
   const auto separator = caption.indexOf(QLatin1Char(';'));
   if (separator < 0 || QStringView(caption).mid(separator + 1).trimmed().isEmpty()) return {};

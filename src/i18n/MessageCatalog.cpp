@@ -9,7 +9,7 @@ std::optional<MessageCatalog> MessageCatalog::Load(const std::string& path) {
     auto messages = MessageTable::Read(path);
     if (messages) return MessageCatalog(std::move(*messages));
   } catch (const std::exception&) {
-    // Out of memory: as good as no module.
+    // Out of memory counts as no module.
   }
   return {};
 }

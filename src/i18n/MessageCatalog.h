@@ -10,7 +10,7 @@
 
 namespace AdvancedControl {
 
-/// A loaded catalog module. Movable; independent of the file once loaded.
+/// A loaded catalog module. It no longer needs the file. May be read from several threads at once.
 class MessageCatalog {
  public:
   /// Loads the module at `path` as data. Nothing if there is none or it is damaged.

@@ -14,7 +14,7 @@ namespace {
 struct Conversion {
   std::string flags;
   int width = 0;
-  int precision = -1;  // negative for none
+  int precision = -1;  // negative if none is given
   int bits = 32;
   char kind = 's';
 
@@ -39,7 +39,7 @@ int CharacterCount(std::string_view text) {
       text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
 }
 
-// The integer an insert stands for, as 64 bits; signed and unsigned values alike.
+// The integer value of an insert as 64 bits, signed or unsigned.
 std::optional<std::uint64_t> NumberOf(const CatalogInsert& insert) {
   if (const auto* number = std::get_if<std::int64_t>(&insert.Get())) {
     return static_cast<std::uint64_t>(*number);
@@ -61,7 +61,7 @@ std::string TextOf(const CatalogInsert& insert) {
   return std::string(std::get<std::string_view>(insert.Get()));
 }
 
-// Expands one message. Members answer false where the message has no result.
+// Expands one message. Members return false if the message has no result.
 class Expansion {
  public:
   Expansion(std::string_view text, std::span<const CatalogInsert> inserts)
@@ -138,7 +138,7 @@ class Expansion {
     return next_ < inserts_.size() ? &inserts_[next_++] : nullptr;
   }
 
-  // A decimal number or "*", whose value is the next insert.
+  // Parses a width or precision: a decimal number, or "*" for the next insert.
   bool TakeMeasure(int& measure) {
     std::int64_t value = 0;
     if (Take('*')) {
@@ -177,7 +177,8 @@ class Expansion {
     return true;
   }
 
-  // Bits of the integer that a size prefix names; a long has 32 on the catalogs' platform.
+  // Parses a size prefix. Returns the number of bits; a long has 32 on the platform of the
+  // catalogs.
   int TakeSize() {
     struct Size {
       std::string_view prefix;
@@ -215,7 +216,7 @@ class Expansion {
     if (conversion.HasFlag('-')) result += padding;
   }
 
-  // An integer is a code point, a text gives its first character.
+  // An integer is a code point; of a text, the first character is used.
   bool AppendCharacter(Conversion conversion, const CatalogInsert& insert) {
     conversion.precision = 1;
     if (const auto* text = std::get_if<std::string_view>(&insert.Get())) {

@@ -21,16 +21,16 @@ namespace {
 
 constexpr std::size_t kMaxFileBytes = std::size_t{32} << 20;
 constexpr std::size_t kMaxMessages = std::size_t{1} << 20;
-// An honest module has nothing that is read twice, except that two languages may share a table.
+// In a well-formed module no byte is read twice, except that two languages may share a table.
 constexpr std::uint64_t kMaxReadsOfAByte = 2;
 constexpr std::uint32_t kMessageTableType = 11;
 constexpr std::uint32_t kMaxLanguage = 0xFFFF;
 
-// The bytes of a plain file of acceptable size, else none. Read and not mapped: a file that is cut
-// short while it is mapped ends the program.
+// The bytes of a regular file of acceptable size, otherwise none. The file is not mapped, because
+// truncating a mapped file would crash the program.
 std::vector<std::byte> ReadFile(const std::string& path) {
   std::vector<std::byte> bytes;
-  // Opening must not wait for the other end of a pipe that bears the module's name.
+  // O_NONBLOCK, because the name may be that of a pipe, whose opening would wait for the other end.
   const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
   if (file < 0) return bytes;
   struct stat status {};
@@ -50,8 +50,8 @@ std::vector<std::byte> ReadFile(const std::string& path) {
   return bytes;
 }
 
-// The converters of the ANSI code pages that the platform assigns to languages: whole identifiers,
-// or primary languages (below 0x400). The first line that names a language counts.
+// ANSI code pages of languages: whole identifiers, or primary languages (below 0x400). The first
+// line that contains a language applies.
 struct AnsiCodePage {
   const char* converter;
   std::array<std::uint16_t, 10> languages;
@@ -63,7 +63,7 @@ constexpr AnsiCodePage kAnsiCodePages[] = {
     {"windows-932", {0x11}},
     {"windows-949", {0x12}},
     {"windows-874", {0x1E}},
-    // Serbian and Bosnian in Cyrillic letters, Azeri and Uzbek likewise.
+    // Serbian, Bosnian, Azeri and Uzbek in Cyrillic script.
     {"windows-1251", {0x0C1A, 0x1C1A, 0x201A, 0x281A, 0x301A, 0x082C, 0x0843}},
     {"windows-1250", {0x05, 0x0E, 0x15, 0x18, 0x1A, 0x1B, 0x1C, 0x24}},
     {"windows-1251", {0x02, 0x19, 0x22, 0x23, 0x2F, 0x3F, 0x40, 0x44}},
@@ -86,11 +86,10 @@ const char* AnsiConverter(std::uint32_t languageId) {
   return "windows-1252";
 }
 
-// Decodes the texts of entries; keeps the converter of the last language.
+// Decodes the texts of entries. Caches the converter of the last language.
 class TextDecoder {
  public:
-  // Appends the text up to its first zero character, as UTF-8; what is no character becomes
-  // U+FFFD.
+  // Appends the text up to its first zero character, as UTF-8; invalid characters become U+FFFD.
   bool AppendUnicode(Bytes bytes, std::vector<char>& texts) {
     utf16_.clear();
     for (std::size_t i = 0; i + 1 < bytes.size() && U16(bytes, i) != 0; i += 2) {
@@ -150,12 +149,12 @@ bool IsPlain(std::string_view text) {
 
 struct Entry {
   std::uint64_t key;
-  std::uint32_t resource;  // which of the module's message tables; lower comes first
+  std::uint32_t resource;  // index of the message table; the lowest has precedence
   std::uint32_t offset;
   std::uint32_t length;
 };
 
-// Collects all messages of a module. Every member answers false for a damaged module.
+// Collects all messages of a module. Members return false if the module is damaged.
 class TableReader {
  public:
   TableReader(Bytes file, const ModuleImage& image)
@@ -177,21 +176,21 @@ class TableReader {
 
  private:
   struct DirectoryEntry {
-    std::uint32_t name;  // a number, or with the highest bit set the place of a string
+    std::uint32_t name;  // a number, or the offset of a string if the highest bit is set
     bool isDirectory;
     std::uint32_t target;
 
     bool HasNumber() const { return (name & 0x80000000) == 0; }
   };
 
-  // Whether `bytes` more may be read. What overlaps over and over exhausts the budget.
+  // Whether `bytes` more may be read. The budget bounds the work for a module whose parts overlap.
   bool Spend(std::uint64_t bytes) {
     if (bytes > budget_) return false;
     budget_ -= bytes;
     return true;
   }
 
-  // The entries of a resource directory, numbered ones first.
+  // The entries of a resource directory, numbered entries first.
   std::optional<std::vector<DirectoryEntry>> Directory(std::uint32_t offset) {
     const auto header = Slice(image_.Resources(), offset, 16);
     if (!header) return {};
@@ -244,8 +243,8 @@ class TableReader {
     const std::uint64_t blockCount = U32(*header, 0);
     const auto blocks = Slice(table, 4, 12 * blockCount);
     if (!blocks || !Spend(blocks->size())) return false;
-    // The texts follow the blocks and each other without overlap or gap, and the identifiers
-    // ascend: else a damaged number would show texts under other texts' numbers.
+    // The texts must follow the blocks without overlap or gap, and the identifiers must ascend.
+    // Otherwise a damaged number could assign a text to the wrong message.
     std::uint64_t offset = 4 + blocks->size();
     std::int64_t last = -1;
     for (std::size_t at = 0; at < blocks->size(); at += 12) {
@@ -283,8 +282,8 @@ class TableReader {
     return true;
   }
 
-  // Sorts by key and keeps the first resource's message. One resource with two texts for the same
-  // message contradicts itself.
+  // Sorts by key and keeps the message of the first resource. Fails if one resource has two texts
+  // for the same message.
   bool SortEntries() {
     std::ranges::sort(entries, {},
                       [](const Entry& entry) { return std::pair(entry.key, entry.resource); });

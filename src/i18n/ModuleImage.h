@@ -12,13 +12,13 @@ namespace AdvancedControl {
 
 using Bytes = std::span<const std::byte>;
 
-/// A part of them; nothing where they do not reach so far.
+/// A part of `bytes`; nothing if it is not completely inside.
 inline std::optional<Bytes> Slice(Bytes bytes, std::uint64_t offset, std::uint64_t length) {
   if (offset > bytes.size() || length > bytes.size() - offset) return {};
   return bytes.subspan(static_cast<std::size_t>(offset), static_cast<std::size_t>(length));
 }
 
-/// Little-endian fields of a slice already known to hold them.
+/// Little-endian integers; `bytes` must be large enough.
 inline std::uint16_t U16(Bytes bytes, std::size_t offset) {
   return static_cast<std::uint16_t>(std::to_integer<unsigned>(bytes[offset]) |
                                     std::to_integer<unsigned>(bytes[offset + 1]) << 8);
@@ -28,13 +28,14 @@ inline std::uint32_t U32(Bytes bytes, std::size_t offset) {
   return U16(bytes, offset) | static_cast<std::uint32_t>(U16(bytes, offset + 2)) << 16;
 }
 
-/// The sections of a module and its resource directory, in the bytes that it was opened on.
+/// The sections of a module and its resource directory. Refers to the bytes passed to `Open`.
 class ModuleImage {
  public:
-  /// Nothing for what is no module, or a damaged one.
+  /// Nothing if `file` is not a module or is damaged.
   static std::optional<ModuleImage> Open(Bytes file);
 
-  /// What is at a relative virtual address, up to the end of its section; nothing outside of all.
+  /// The bytes from a relative virtual address to the end of its section; nothing outside all
+  /// sections.
   std::optional<Bytes> From(std::uint32_t address) const;
 
   Bytes Resources() const { return resources_; }

@@ -20,7 +20,7 @@ const char* EnvironmentLocale() {
   return "";
 }
 
-// Identifiers without a region, where the default region is not simply the first one.
+// Adds the default region to identifiers without a region, if it is not the first one.
 std::uint32_t WithRegion(std::uint32_t languageId) {
   constexpr std::uint32_t kChinese = 0x7804;
   constexpr std::uint32_t kSimplifiedScript = 0x0004;
@@ -32,9 +32,9 @@ std::uint32_t WithRegion(std::uint32_t languageId) {
   return languageId < kFirstRegion ? languageId | kFirstRegion : languageId;
 }
 
-// A language of two or three letters, then script, region or variants. Anything else, "C" and the
-// registered oddities ("i-default") among them, must not reach the locale library: it may ask for
-// the system's locale while it is finding it out, and wait for itself.
+// Whether a name is a language of two or three letters, with an optional script, region and
+// variants. No other name, such as "C" or "i-default", may be passed to the locale library: it may
+// ask for the system's locale while it determines that locale, and deadlock.
 bool IsPlainName(std::string_view name) {
   constexpr std::size_t kLongest = 64;
   const std::size_t language = std::min(name.find_first_of("_-"), name.size());
@@ -50,7 +50,7 @@ std::uint32_t LanguageIdOf(std::string_view locale) {
   UErrorCode error = U_ZERO_ERROR;
   uloc_canonicalize(name.c_str(), canonical.data(), ULOC_FULLNAME_CAPACITY, &error);
   if (U_FAILURE(error) || error == U_STRING_NOT_TERMINATED_WARNING) return kEnglishUnitedStates;
-  // The upper half may name a sort order.
+  // The upper half may contain a sort order.
   const std::uint32_t languageId = uloc_getLCID(canonical.data()) & 0xFFFF;
   return languageId == 0 ? kEnglishUnitedStates : WithRegion(languageId);
 }

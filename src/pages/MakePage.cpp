@@ -29,7 +29,7 @@ std::unique_ptr<CTabPage> MakePage(PageId page, CWnd* parent) {
   };
   auto made = kMakers[static_cast<std::size_t>(page)](parent);
   made->setWindowFlags(Qt::Widget);
-  made->hide();  // or it would come up together with the dialog
+  made->hide();  // otherwise it would be shown together with the dialog
   return made;
 }
 

@@ -10,7 +10,7 @@ class CTabPage;
 
 namespace AdvancedControl {
 
-/// A page, hidden and without controls until it is created.
+/// Makes a page, which is hidden and has no controls until `Create`.
 std::unique_ptr<CTabPage> MakePage(PageId page, CWnd* parent);
 
 }  // namespace AdvancedControl

@@ -4,7 +4,7 @@
 #include "resources/AdvancedControlResources.h"
 #include "settings/PageTables.h"
 
-// Pages that are nothing but their table of rows.
+// Pages that are nothing but their table.
 
 #define PAGE(identifier, number, pageClass)
 #define TABLE_PAGE(identifier, number, pageClass) \

@@ -21,7 +21,7 @@ inline constexpr int Service = 20054;
 inline constexpr int kPageWidth = 405;
 inline constexpr int kPageHeight = 220;
 
-/// The library's own templates.
+/// The library's own templates. Any thread.
 const ResourceModule& AdvancedControlResources();
 
 }  // namespace AdvancedControl

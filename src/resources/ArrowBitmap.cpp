@@ -11,7 +11,7 @@ namespace AdvancedControl {
 
 namespace {
 
-// How far the arrow that points up is turned, clockwise.
+// Clockwise rotation, in degrees, that turns the upward arrow into this one.
 std::optional<int> Turn(int number) {
   switch (number) {
     case BitmapId::ArrowUp:

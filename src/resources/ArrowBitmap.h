@@ -14,8 +14,8 @@ inline constexpr int ArrowLeft = 22156;
 inline constexpr int ArrowUp = 22157;
 }  // namespace BitmapId
 
-/// The arrow of this number, drawn at the size and in the colour of the button it stands on; an
-/// empty icon for another number.
+/// The arrow with this number, drawn in the size and colour of its button; an empty icon for any
+/// other number. User-interface thread only.
 QIcon ArrowBitmap(int number);
 
 }  // namespace AdvancedControl

@@ -1,4 +1,5 @@
 #include "resources/Templates.h"
+#include "settings/ControlId.h"
 
 namespace AdvancedControl {
 
@@ -21,7 +22,8 @@ constexpr RowTemplate kInputRows[] = {
     Row(Right, Label(20610, "43;P.IN P.Position\t:"), Colon(20710), Combo(21055)),
     Row(Right, Label(20611, "44;P.IN P.Audio\t:"), Colon(20711), Combo(21056)),
     Row(Right, Label(20612, "45;P.IN P.Size\t:"), Colon(20712), Combo(21061)),
-    Row(Right, Label(20613, "62;Power Up Input\t:"), Colon(20713), Combo(21057)),
+    Row(Right, Label(20613, "62;Power Up Input\t:"), Colon(20713),
+        Combo(ControlId::Input::PowerUpInput)),
 };
 
 constexpr RowTemplate kInput2Rows[] = {

@@ -16,7 +16,7 @@ constexpr RowTemplate ExecuteRow(RowPlace place, const ControlTemplate& label, i
   return Row(place, label, Colon(colon), Combo(list), Button(button, "17;Execute"));
 }
 
-// The two rows of a position.
+// The control numbers of a position's two rows.
 struct ArrowIds {
   int up, down, left, right, fieldV, fieldH;
 };
@@ -29,7 +29,7 @@ constexpr RowTemplate PositionH(const ArrowIds& ids) {
              Field(ids.fieldH));
 }
 
-// The number stands in line with those of the slider rows.
+// Aligns the field with those of the slider rows.
 constexpr RowTemplate FieldRow(const ControlTemplate& label, int colon, int minus, int field,
                                int plus) {
   return Row(Left, label, Colon(colon), Minus(minus), Plus(plus), Field(field));

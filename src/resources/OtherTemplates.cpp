@@ -1,4 +1,5 @@
 #include "resources/Templates.h"
+#include "settings/ControlId.h"
 
 namespace AdvancedControl {
 
@@ -12,9 +13,10 @@ constexpr RowTemplate ListRow(int number, const char* caption, int list) {
 }
 
 constexpr RowTemplate kPower =
-    Row(Left, Label(20630, "4200;Power"), Colon(20730), Button(20100, "4201;Turn On"),
-        Button(20101, "4202;Turn Off"), Text(20102));
-constexpr RowTemplate kInputSource = ListRow(31, "146;Input Source", 20103);
+    Row(Left, Label(20630, "4200;Power"), Colon(20730),
+        Button(ControlId::Other::PowerOn, "4201;Turn On"),
+        Button(ControlId::Other::PowerOff, "4202;Turn Off"), Text(ControlId::Other::Power));
+constexpr RowTemplate kInputSource = ListRow(31, "146;Input Source", ControlId::Other::InputSource);
 constexpr RowTemplate kBlank = ListRow(32, "148;Blank On/Off", 20104);
 constexpr RowTemplate kMute = ListRow(33, "149;Mute", 20105);
 constexpr RowTemplate kFreeze = ListRow(34, "150;Freeze", 20106);

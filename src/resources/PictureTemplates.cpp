@@ -1,40 +1,52 @@
 #include <array>
 
 #include "resources/Templates.h"
+#include "settings/ControlId.h"
 
 namespace AdvancedControl {
 
 namespace {
 
+using namespace ControlId;
+
 using namespace tmpl;
 using enum RowPlace;
 
-// The two pages that open the pop-ups differ in a caption and in the row behind sharpness.
+// The two pages that open the pop-ups differ in a caption and in the row after sharpness.
 constexpr std::array<RowTemplate, 10> PictureRows(const char* brightness, const RowTemplate& own) {
   return {
-      SliderRow(Left, Label(20534, brightness), 20535, {20134, 20136, 20135, 20329}),
-      SliderRow(Left, Label(20536, "74;Contrast\t:"), 20537, {20137, 20138, 20139, 20330}),
-      Row(Left, Label(20468, "41;Gamma\t\t:"), Colon(20476), Combo(20142),
-          Button(20133, "120;Custom...")),
-      Row(Left, Label(20593, "115;Color Temp\t:"), Colon(20594), Combo(20144),
-          Button(20143, "120;Custom...")),
-      SliderRow(Left, Label(20595, "116;Color\t\t:"), 20596, {20147, 20151, 20149, 20331}),
-      SliderRow(Left, Label(20597, "117;Tint\t\t:"), 20598, {21061, 21062, 21063, 20332}),
-      SliderRow(Left, Label(20599, "118;Sharpness\t:"), 20600, {20148, 20152, 20150, 20333}),
+      SliderRow(Left, Label(20534, brightness), 20535,
+                {Picture::BrightnessMinus, Picture::Brightness, Picture::BrightnessPlus,
+                 Picture::BrightnessField}),
+      SliderRow(Left, Label(20536, "74;Contrast\t:"), 20537,
+                {Picture::ContrastMinus, Picture::Contrast, Picture::ContrastPlus,
+                 Picture::ContrastField}),
+      Row(Left, Label(20468, "41;Gamma\t\t:"), Colon(20476), Combo(Picture::Gamma),
+          Button(Picture::CustomGamma, "120;Custom...")),
+      Row(Left, Label(20593, "115;Color Temp\t:"), Colon(20594), Combo(Picture::ColorTemp),
+          Button(Picture::CustomColorTemp, "120;Custom...")),
+      SliderRow(Left, Label(20595, "116;Color\t\t:"), 20596,
+                {Picture::ColorMinus, Picture::Color, Picture::ColorPlus, Picture::ColorField}),
+      SliderRow(Left, Label(20597, "117;Tint\t\t:"), 20598,
+                {Picture::TintMinus, Picture::Tint, Picture::TintPlus, Picture::TintField}),
+      SliderRow(Left, Label(20599, "118;Sharpness\t:"), 20600,
+                {Picture::SharpnessMinus, Picture::Sharpness, Picture::SharpnessPlus,
+                 Picture::SharpnessField}),
       own,
-      Row(Left, Label(20601, "119;My Memory\t:"), Colon(20602), Combo(21064),
-          Button(21065, "17;Execute")),
-      Row(Bottom, Label(20487, "51;Reset\t\t:"), Colon(20423), Combo(20157),
-          Button(21070, "17;Execute")),
+      Row(Left, Label(20601, "119;My Memory\t:"), Colon(20602), Combo(Picture::MyMemory),
+          Button(Picture::MyMemoryExecute, "17;Execute")),
+      Row(Bottom, Label(20487, "51;Reset\t\t:"), Colon(20423), Combo(Picture::Reset),
+          Button(Picture::ResetExecute, "17;Execute")),
   };
 }
 
 constexpr auto kPictureType5Rows = PictureRows(
-    "73;Brightness\t:", Row(Left, Label(20621, "128;Active Iris\t:"), Colon(20622), Combo(20293)));
+    "73;Brightness\t:",
+    Row(Left, Label(20621, "128;Active Iris\t:"), Colon(20622), Combo(Picture::ActiveIris)));
 constexpr auto kPicRows = PictureRows(
     "1073;Brightness\t:", Row(Left, Label(20146, "60;Progressive\t:"), Colon(20392), Combo(20145)));
 
-// A row of a custom pop-up: no colon, a Reset button of its own.
+// A row of a custom pop-up, without a colon and with its own Reset button.
 constexpr RowTemplate CustomRow(const ControlTemplate& label, const SliderIds& ids, int reset) {
   return Row(Left, label, Minus(ids.minus), Slider(ids.slider), Plus(ids.plus), Field(ids.field),
              Button(reset, "1026;Reset"));

@@ -1,4 +1,5 @@
 #include "resources/Templates.h"
+#include "settings/ControlId.h"
 
 namespace AdvancedControl {
 
@@ -16,7 +17,7 @@ constexpr RowTemplate kRows[] = {
     Row(Left, Label(20005, "150;Freeze         "), Colon(20647), Text(20013)),
     Row(Left, Label(20006, "151;Lamp Time      "), Colon(20648), Text(20014)),
     Row(Left, Label(20007, "152;Filter Time    "), Colon(20649), Text(20015)),
-    Row(Bottom, Label(20077, "51;Reset\t\t:"), Colon(20641), Combo(20019),
+    Row(Bottom, Label(20077, "51;Reset\t\t:"), Colon(20641), Combo(ControlId::Status::Reset),
         Button(20018, "17;Execute")),
 };
 

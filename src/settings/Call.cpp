@@ -25,7 +25,7 @@ Answer Perform(CPjtInterface& projector, const Call& call, int value, int modelC
   const OperationForm& form = FormOf(call.operation);
   const bool accepted =
       call.anyResult ? reply.result != 0 : IsSuccess(call.operation, reply.result);
-  return {accepted || form.tells == Tells::Nothing,
+  return {accepted || form.returns == Returns::Nothing,
           form.isGeneric ? int{static_cast<std::uint16_t>(reply.value)} : int{reply.value}};
 }
 

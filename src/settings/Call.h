@@ -18,7 +18,7 @@ struct Call {
   PerModel<int> flag{0};     ///< Second argument of a flagged setter.
   bool anyResult = false;    ///< Any nonzero result is a success, whatever the family says.
 
-  /// The command for a model, with `value` where the operation takes one.
+  /// The command for a model, with `value` if the operation takes one.
   PROJECTOR_SETTINGS_EXPORT PjtCommand Command(int value = 0, int modelCode = 0) const;
 };
 

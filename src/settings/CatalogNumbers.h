@@ -4,9 +4,9 @@
 
 namespace AdvancedControl {
 
-/// Numbers of the message catalog. The texts are in `resources/catalog`, one file a category. A
-/// caption that a template names ("73;Brightness") needs no name here. The build fails when a
-/// number of this file or of a template has no text in one of the languages.
+/// Numbers of the message catalog. The texts are in `resources/catalog`, one file per category. A
+/// caption that a template names ("73;Brightness") needs no name here. The build fails if a number
+/// in this file or in a template has no text in one of the languages.
 
 inline constexpr int kCaptionCategory = 4;   ///< Captions of controls, tabs and dialogs.
 inline constexpr int kListCategory = 5;      ///< Entries of lists, texts of states.
@@ -207,7 +207,7 @@ inline constexpr int MyButtonDZoom = 1013;
 inline constexpr int MyButtonDShift = 1014;
 inline constexpr int MyButtonMySource = 1015;
 inline constexpr int MyButtonPbyP = 1016;
-inline constexpr int MyButtonOther = 1017;  // an assignment that the list does not offer
+inline constexpr int MyButtonOther = 1017;  // an assigned function that is not in the list
 inline constexpr int MyButtonAvMute = 1018;
 
 // Service dialog.
@@ -222,8 +222,8 @@ inline constexpr int Hours = 320;        // %1 hours (integer)
 inline constexpr int FilterTime = 321;
 inline constexpr int LampTime = 322;
 inline constexpr int PowerCoolingDown = 3309;
-inline constexpr int PowerStandby = 4331;    // of lists and scripts; the status row says Off
-inline constexpr int PowerWarmingUp = 4330;  // of lists and scripts; the status row says On
+inline constexpr int PowerStandby = 4331;    // for lists and scripts; the status row shows Off
+inline constexpr int PowerWarmingUp = 4330;  // for lists and scripts; the status row shows On
 inline constexpr int ErrorNone = 332;
 inline constexpr int ErrorCover = 3310;
 inline constexpr int ErrorFan = 3311;
@@ -250,7 +250,7 @@ inline constexpr int MenuColorGray = 4207;
 inline constexpr int MenuColorGreen = 4208;
 inline constexpr int AllRemoteIds = 4209;
 
-// What the dialog says while it waits for the projector, and about rows.
+// Texts of the dialog while it waits for the projector, and about rows.
 inline constexpr int Reading = 4300;  // %1 of %2 (integers)
 inline constexpr int Waiting = 4301;
 inline constexpr int NoAnswer = 4302;
@@ -270,7 +270,7 @@ inline constexpr int NotUnderstood = 4314;
 inline constexpr int OtherVersion = 4315;
 inline constexpr int PasswordRequired = 4316;
 
-// What became of a change, beside Close.
+// Outcomes of changes, shown beside Close.
 inline constexpr int NotYetSo = 4317;
 inline constexpr int NotPossibleNow = 4318;
 

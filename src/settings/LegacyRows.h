@@ -7,10 +7,10 @@
 
 namespace AdvancedControl {
 
-// Rows that several of the older pages have. A refused change of them is told, and the slider goes
-// back.
+// Rows that several of the older pages have. A refused change shows an error, and the slider
+// returns to the old value.
 
-/// A slider of a setting that has its zero point in the middle.
+/// A slider of a setting with its zero point in the middle.
 constexpr ValueRow CentredSlider(std::string_view key, int caption, const ValueIds& ids,
                                  std::uint16_t code, int error, int rangeText,
                                  PerModel<Range> range = Range{-32, 32}, int ticks = 4) {
@@ -25,7 +25,7 @@ constexpr ValueRow CentredSlider(std::string_view key, int caption, const ValueI
           .error = error};
 }
 
-/// A slider of a setting that is shown as it is.
+/// A slider of a setting whose shown value is the device value.
 constexpr ValueRow PlainSlider(std::string_view key, int caption, const ValueIds& ids,
                                std::uint16_t code, int error, int rangeText, Range range,
                                int ticks = 1) {
@@ -34,7 +34,7 @@ constexpr ValueRow PlainSlider(std::string_view key, int caption, const ValueIds
   return row;
 }
 
-/// A number field with two buttons, which only the projector bounds.
+/// A number field with two buttons, limited only by the projector.
 constexpr ValueRow SteppedField(std::string_view key, int caption, const ValueIds& ids,
                                 std::uint16_t code, int error) {
   return {

@@ -9,7 +9,7 @@ namespace AdvancedControl {
 
 namespace {
 
-// Entries of a capability list: the text of device value v is that of `base` + v.
+// Entries of a capability list. The text of a device value has the number `base` + value.
 std::vector<ListEntry> FromList(const CountedList& list, int base) {
   std::vector<ListEntry> entries;
   for (int i = 0; i < list.Size(); ++i) {

@@ -4,6 +4,7 @@
 #include <array>
 #include <concepts>
 #include <cstddef>
+#include <cstdint>
 #include <span>
 #include <string_view>
 
@@ -34,14 +35,25 @@ class ModelCodes {
 
 /// The models that have a row, as given in the row itself; by default all of them.
 struct Presence {
-  ModelCodes codes{};
-  bool except = true;  ///< True if the models of `codes` lack the row, false if only they have it.
+  enum class Listed : std::uint8_t {
+    Have,  ///< Only the models of `codes` have the row.
+    Lack,  ///< All models but those of `codes` have it.
+  };
 
-  constexpr bool Has(int modelCode) const { return codes.Contains(modelCode) != except; }
+  ModelCodes codes{};
+  Listed listed = Listed::Lack;
+
+  constexpr bool Has(int modelCode) const {
+    return codes.Contains(modelCode) == (listed == Listed::Have);
+  }
 };
 
-constexpr Presence OnlyOn(std::same_as<int> auto... codes) { return {{codes...}, false}; }
-constexpr Presence NotOn(std::same_as<int> auto... codes) { return {{codes...}, true}; }
+constexpr Presence OnlyOn(std::same_as<int> auto... codes) {
+  return {{codes...}, Presence::Listed::Have};
+}
+constexpr Presence NotOn(std::same_as<int> auto... codes) {
+  return {{codes...}, Presence::Listed::Lack};
+}
 
 /// A value that is different on some models.
 template <class Value>

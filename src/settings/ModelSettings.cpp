@@ -14,7 +14,7 @@ namespace AdvancedControl {
 
 namespace {
 
-// What a number can be that only the projector bounds.
+// All device values, for a number that only the projector limits.
 constexpr Range kDeviceValues{0, 0xFFFF};
 
 void Describe(const ListRow& row, const ModelData& model, ModelSetting& setting) {
@@ -56,7 +56,7 @@ void Describe(const ActionRow& row, const ModelData& model, ModelSetting& settin
 
 void Describe(const auto&, const ModelData&, ModelSetting&) {}
 
-// A list of resets is part of the settings that it resets, and a pop-up has its own.
+// Resets belong to the settings that they reset, and pop-ups have their own settings.
 bool IsSetting(const PageRow& row) {
   return !std::holds_alternative<ResetRow>(row) && !std::holds_alternative<PopUpRow>(row);
 }
@@ -131,8 +131,8 @@ bool ModelSettings::HasSource(const ModelSetting& setting, int source) const {
   if (setting.of == OfSource::None) return false;
   if (source == StandbySource(setting.of, model_->ModelCode)) return true;
   const ModelSetting* const input = Input();
-  const bool isTold = input != nullptr && !input->entries.empty();
-  return !isTold || PositionOf(input->entries, source) >= 0;
+  const bool hasInputs = input != nullptr && !input->entries.empty();
+  return !hasInputs || PositionOf(input->entries, source) >= 0;
 }
 
 std::optional<int> ModelSettings::PresentSource(CPjtInterface& projector,

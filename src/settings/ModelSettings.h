@@ -22,7 +22,7 @@ struct PROJECTOR_SETTINGS_EXPORT ModelSetting {
     Number,  ///< Any whole number of `range`.
     Choice,  ///< The value of one of `entries`; switches are choices too.
     State,   ///< What the projector is doing now; some are switches as well.
-    Action,  ///< Neither read nor changed: the projector does something.
+    Action,  ///< Makes the projector do something; neither read nor changed.
   };
 
   std::string_view key;  ///< Unique within a model, and the same on every model that has it.
@@ -36,7 +36,8 @@ struct PROJECTOR_SETTINGS_EXPORT ModelSetting {
   int otherwise = 0;            ///< Text for other values of a state, with the value as its insert.
   std::optional<Call> reset{};  ///< Resets it to the projector's default.
   OfSource of = OfSource::None;  ///< Kept for each input source; can be read and changed for any.
-  bool ofCurrentSourceOnly = false;  ///< The same, but can be reached for the present source only.
+  bool ofCurrentSourceOnly =
+      false;  ///< The same, but can be read and changed only for the present source.
   bool readable = false;
   bool changeable = false;
   const PageRow* row = nullptr;  ///< Never null in a list of settings.
@@ -44,11 +45,11 @@ struct PROJECTOR_SETTINGS_EXPORT ModelSetting {
   /// Whether a value read earlier may be sent again.
   bool Restorable() const { return readable && changeable && kind != Kind::State; }
   bool IsPerSource() const { return of != OfSource::None || ofCurrentSourceOnly; }
-  /// Whether a change of it changes the projector's input source.
+  /// Whether changing it switches the projector's input source.
   bool SelectsInput() const;
-  /// Whether it is changed step by step, as it has no setter.
+  /// Whether it has no setter and is therefore changed step by step.
   bool IsStepped() const;
-  /// Whether the row takes this device value.
+  /// Whether the setting allows this device value.
   bool Allows(int value) const;
 };
 

@@ -36,7 +36,8 @@ constexpr PageTab kTabs2[] = {
     {Caption::TabScreen, Screen},      {Caption::TabOption, Option2},
     {Caption::TabOther, Other},
 };
-// The setup page of this set holds picture settings on most models and is captioned so.
+// The setup page of this set has picture settings on most models, so its tab is called "Picture"
+// there.
 constexpr PageTab kTabs3AsPicture[] = {
     {Caption::TabPicture, Setup},  {Caption::TabInput, Input3}, {Caption::TabImage, Image},
     {Caption::TabOption, Option3}, {Caption::TabOther, Other},
@@ -68,7 +69,7 @@ constexpr PageTab kTabs5[] = {
     {Caption::TabOther, Other4},
 };
 
-// The tabs of a page set: one form for the codes listed, another for all others.
+// The tabs of a page set: one list for some model codes, another for all others.
 struct TabRule {
   int dialogType;
   std::span<const int> codes;

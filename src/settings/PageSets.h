@@ -17,7 +17,7 @@ enum class PageId : std::uint8_t {
 };
 inline constexpr std::size_t kPageCount = static_cast<std::size_t>(PageId::Count);
 
-/// One tab: the catalog number of its caption and the page behind it.
+/// One tab: the catalog number of its caption and its page.
 struct PageTab {
   int caption;
   PageId page;

@@ -24,7 +24,7 @@ const PageTable& TableOf(PageId page) {
   return *kTables[static_cast<std::size_t>(page)];
 }
 
-// The user's gamma and colour temperature can only be shaped where the model has them.
+// The pop-ups for the user's gamma and colour temperature need a model that has such entries.
 std::vector<PagePopUp> PopUpsOf(PageId page, const ModelData& model) {
   if (page == PageId::OptionType5) return {{&kServiceRows, 20373, 20373}};
   const bool byValue = page == PageId::PictureType5;

@@ -10,7 +10,7 @@ namespace AdvancedControl {
 
 namespace {
 
-// Blanks, a sign and digits; what follows the digits does not count.
+// Parses blanks, a sign and digits, and ignores what follows the digits.
 std::optional<int> ParseNumber(std::string_view text) {
   text.remove_prefix(std::min(text.find_first_not_of(" \t\r\n"), text.size()));
   if (text.size() > 1 && text.front() == '+' && text[1] != '-') text.remove_prefix(1);

@@ -6,13 +6,13 @@
 
 namespace AdvancedControl {
 
-// What rows of several groups of pages are made of.
+// Parts of rows on several groups of pages.
 
 inline constexpr auto kSwitch = Numbered(ListText::SwitchOff, ListText::SwitchOn);
 inline constexpr auto kMirrors = Numbered(ListText::MirrorNormal, ListText::MirrorHInverse,
                                           ListText::MirrorVInverse, ListText::MirrorHVInverse);
 
-// The picture in the picture.
+// Picture in picture.
 inline constexpr auto kPinPPositions =
     Numbered(ListText::PinPUpperLeft, ListText::PinPUpperRight, ListText::PinPBottomLeft,
              ListText::PinPBottomRight);

@@ -13,13 +13,13 @@ constexpr Call kInput = Named(PjtOperation::GetInputSource);
 constexpr Call kCurrentQuestions[] = {kInput};
 constexpr Call kPlayingQuestions[] = {Get(CommandCode::RunningState), kInput};
 
-// These play the standby source while they do not run.
+// Models that play the standby source while they are not running.
 constexpr ModelCodes kCodesWithStandbySource{49, 50, 51, 52, 53, 54};
 constexpr int kStandbySource = 15;
-// Running states in which they do.
+// Running states in which these models play it.
 constexpr int kStandby = 0;
 constexpr int kCoolingDown = 2;
-// What a projector reports while it plays nothing.
+// The source that a projector reports while it plays nothing.
 constexpr int kNoSource = -1;
 
 std::optional<int> AskPlayingSource(CPjtInterface& projector, int modelCode) {
@@ -44,11 +44,11 @@ class Sender {
         how_.position ? *how_.position : PositionOf(row.entries.Of(model_), value_);
     const bool isSendable = position >= 0 && value_ != row.rules.placeholder.Of(model_.ModelCode);
     if (!row.send || !isSendable) return Sent::Nothing;
-    if (row.rules.tellsText) projector_.SettingText = how_.text;
+    if (row.rules.sendsText) projector_.SettingText = how_.text;
     return Do(*row.Sending(source_), row.rules.sendsPosition ? position : value_);
   }
   Sent operator()(const ValueRow& row) const {
-    return row.stepsOnly ? StepThere(row) : Do(row.Setting(source_), value_);
+    return row.stepsOnly ? StepToValue(row) : Do(row.Setting(source_), value_);
   }
   Sent operator()(const CheckRow& row) const {
     return value_ == 0 || value_ == 1 ? Do(row.send, value_) : Sent::Nothing;
@@ -65,8 +65,8 @@ class Sender {
     return accepted ? Sent::Accepted : Sent::Refused;
   }
 
-  // A step whose answer got lost may have been made, so that only reading tells.
-  Sent StepThere(const ValueRow& row) const {
+  // The projector may have made a step whose answer got lost, so the value has to be read.
+  Sent StepToValue(const ValueRow& row) const {
     const auto read = [&] { return ReadRow(projector_, row, model_, source_); };
     const Range bounds = StepBounds(row, model_);
     const auto present = read();
@@ -138,7 +138,7 @@ Stepped Step(CPjtInterface& projector, const ValueRow& row, bool upwards, int so
   switch (FamilyOf(step.operation)) {
     case OperationFamily::PointerStepper: {
       const auto value = Read(projector, row.Reading(source));
-      // A row that tells refusals must not be told at its own end.
+      // A step at the end of the range is not sent, because its refusal would show an error.
       if (!value || (row.error != 0 && atEnd(*value - row.bias))) return {};
       return answer(Perform(projector, step, *value));
     }
@@ -156,7 +156,7 @@ Stepped Step(CPjtInterface& projector, const ValueRow& row, bool upwards, int so
   if (atEnd(known)) return {};
   if (!Perform(projector, step).accepted) return {.refused = true};
   Call reading = row.Reading(source);
-  reading.anyResult = step.anyResult;  // the read back is as strict as the step
+  reading.anyResult = step.anyResult;  // the value is read back as strictly as it is stepped
   return {.value = Read(projector, reading)};
 }
 

@@ -23,7 +23,7 @@ namespace AdvancedControl {
 // thread.
 //
 //   kind      read  changed          values                     may be sent again later
-//   ListRow   yes   SendRow          the entries'               yes, where it is read and sent
+//   ListRow   yes   SendRow          the entries'               yes, if it is read and sent
 //   ValueRow  yes   SendRow, Step    SliderRange, with a bias   yes
 //   CheckRow  yes   SendRow          0 and 1                    yes
 //   StateRow  yes   SendRow, if it   the entries' texts         no: what the projector does now
@@ -67,7 +67,7 @@ struct ListRules {
   int error = 0;  ///< Text shown for a refusal; 0 for none.
   bool failedReadDisables = true;
   bool emptyIsNotRead = false;  ///< A list without entries is disabled and not read.
-  bool tellsText = false;       ///< The connection gets the chosen entry's text before the value.
+  bool sendsText = false;       ///< The connection first gets the chosen entry's text.
   /// After every choice the setting is read as in a refresh, because the setter has no result that
   /// would say whether the projector accepted it.
   bool readsBackAlways = false;
@@ -105,10 +105,10 @@ struct ValueIds {
 
 /// What happens when the projector refuses a slider's new position.
 enum class RefusedDrag : std::uint8_t {
-  Told,      ///< The row's error is shown and the slider returns to the last known value.
-  GoesBack,  ///< The slider returns to the last known value.
-  Empties,   ///< The slider returns to it and the field is emptied.
-  Stays,     ///< Nothing: the slider stays, and the field keeps the old value.
+  ShowsError,  ///< The row's error is shown and the slider returns to the last known value.
+  GoesBack,    ///< The slider returns to the last known value.
+  Empties,     ///< The slider returns to it and the field is emptied.
+  Stays,       ///< Nothing: the slider stays, and the field keeps the old value.
 };
 
 /// No limits for − and + except the projector's.
@@ -151,7 +151,7 @@ struct ValueRow {
   std::optional<PerModel<Range>> bounds{};  ///< Shown values, for − and +; else the slider's.
   int ticks = 1;                            ///< 0 means an eighth of the slider's maximum.
   std::optional<int> initial{};  ///< Shown, and used as the last known value, until one is read.
-  RefusedDrag refusedDrag = RefusedDrag::Told;
+  RefusedDrag refusedDrag = RefusedDrag::ShowsError;
   int error = 0;
   bool greysField = false;         ///< A failed read disables the field as well.
   bool failedReadDisables = true;  ///< Otherwise it only empties the field.

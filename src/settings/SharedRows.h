@@ -8,8 +8,8 @@
 
 namespace AdvancedControl {
 
-/// Rows that several main, automatic, option and other pages have: a setting is read, sent and told
-/// in one way, and a page gives it its key and its controls.
+/// Rows that several main, automatic, option and other pages have. They are read and sent in the
+/// same way on all pages, but each page has its own keys and controls.
 namespace shared {
 
 using Op = PjtOperation;
@@ -85,12 +85,13 @@ constexpr ActionRow AutoAdjust(std::string_view key, int button, Rereads rereads
   return {.key = key, .caption = 1013, .control = button, .call = Named(Op::ExecAutoAdjust), .rereads = rereads, .error = ErrorText::AutoAdjustRefused};
 }
 
-// The rows of every other page.
+// Rows of the "other" pages.
 /// Running states; any other is standby.
 inline constexpr int kRunning = 1;
 inline constexpr int kCoolingDown = 2;
 inline constexpr ListEntry kPowers[] = {{ListText::On, kRunning}, {ListText::PowerCoolingDown, kCoolingDown}};
-/// Whether the projector runs, and the commands of the buttons beside, which are their page's.
+/// Whether the projector is running, and the commands of the buttons beside it. The page handles
+/// the buttons.
 constexpr StateRow Power(int label) {
   return {.key = "other.power", .caption = 4200, .control = label, .read = Get(CommandCode::RunningState), .texts = kPowers, .otherwise = ListText::Off,
           .turnOff = Named(Op::SetPowerOff), .turnOn = Named(Op::SetPowerOn)};

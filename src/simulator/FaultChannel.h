@@ -14,12 +14,12 @@
 
 namespace AdvancedControl {
 
-/// A fault that a command meets.
+/// What goes wrong with a command.
 struct Fault {
   enum class Kind {
     None,
     Refuse,    ///< The projector refuses the command.
-    FailRead,  ///< It refuses reads; other commands go through.
+    FailRead,  ///< It refuses reads; other commands work.
     Late,      ///< It answers after `delay`.
     DropOut,   ///< It does not answer.
   };
@@ -30,8 +30,8 @@ struct Fault {
   friend bool operator==(const Fault&, const Fault&) = default;
 };
 
-/// Disturbs the commands on their way to another channel. A fault may be set for one operation, for
-/// the generic operations with one code, or for every command; the most specific one applies.
+/// Adds faults to the commands for another channel. A fault can be set for one operation, for the
+/// generic operations with one code, or for all commands; the most specific one applies.
 ///
 /// Faults may be set from any thread while a command is under way; a command delayed by a fault
 /// continues as soon as the fault is cleared.

@@ -24,7 +24,7 @@ void FaultyLine::Send(std::string_view bytes) {
       break;
     case LineFault::Kind::Cut:
       Write(bytes.substr(0, static_cast<std::size_t>(fault_.amount)));
-      // A serial line stays: only the rest of the reply is lost.
+      // A serial line stays open: only the rest of the reply is lost.
       if (qobject_cast<QTcpSocket*>(&line_)) Close();
       break;
     case LineFault::Kind::Garbage:
@@ -32,8 +32,8 @@ void FaultyLine::Send(std::string_view bytes) {
       break;
     case LineFault::Kind::Trickle:
       trickling_ += bytes;
-      // Otherwise the rest is on its way already.
-      if (trickling_.size() == bytes.size()) TrickleOn();
+      // Otherwise a timer is already sending the rest.
+      if (trickling_.size() == bytes.size()) SendNextByte();
       break;
   }
 }
@@ -51,11 +51,11 @@ void FaultyLine::Write(std::string_view bytes) {
   if (line_.isWritable()) line_.write(bytes.data(), static_cast<qint64>(bytes.size()));
 }
 
-void FaultyLine::TrickleOn() {
+void FaultyLine::SendNextByte() {
   Write(trickling_.substr(0, 1));
   trickling_.erase(0, 1);
   if (trickling_.empty()) return CloseIfDone();
-  QTimer::singleShot(1, &line_, [this] { TrickleOn(); });
+  QTimer::singleShot(1, &line_, [this] { SendNextByte(); });
 }
 
 void FaultyLine::CloseIfDone() {

@@ -11,7 +11,7 @@ class QIODevice;
 
 namespace AdvancedControl {
 
-/// What goes wrong with the replies of a server, whatever the projector answers.
+/// What goes wrong with the replies of a server, regardless of the projector's answers.
 struct LineFault {
   enum class Kind : std::uint8_t {
     None,
@@ -28,30 +28,29 @@ struct LineFault {
   friend bool operator==(const LineFault&, const LineFault&) = default;
 };
 
-/// A server's way to send its replies, with a fault that may change at any time.
+/// Sends the replies of a server with a fault, which may change at any time.
 class FaultyLine {
  public:
-  /// Both must live as long as this. Timers that still run end with the line.
-  /// children.
+  /// Both must outlive this object. Pending timers end with the line.
   FaultyLine(QIODevice& line, const LineFault& fault) : line_(line), fault_(fault) {}
   FaultyLine(const FaultyLine&) = delete;
   FaultyLine& operator=(const FaultyLine&) = delete;
 
   void Send(std::string_view bytes);
-  /// Closes the line as soon as all that was sent is on its way.
+  /// Closes the line once everything sent has been written to it.
   void Close();
   /// Number of bytes sent that the other end has not taken yet.
   std::size_t Backlog() const;
 
  private:
   void Write(std::string_view bytes);
-  void TrickleOn();
+  void SendNextByte();
   void CloseIfDone();
 
   QIODevice& line_;
   const LineFault& fault_;
   std::string trickling_;
-  std::size_t late_ = 0;  // bytes whose time has not come
+  std::size_t late_ = 0;  // bytes that are delayed
   bool closes_ = false;
 };
 

@@ -25,7 +25,7 @@ std::size_t LongestText(std::string_view name) {
   return name.starts_with("INF") ? 32 : 128;
 }
 
-/// The text as it may stand in a line.
+/// The text without line breaks, cut to at most `longest` bytes.
 std::string Bounded(std::string text, std::size_t longest) {
   std::erase_if(text, [](char c) { return c == '\r' || c == '\n'; });
   return std::string(CutText(text, longest));
@@ -55,7 +55,7 @@ std::vector<ServedInput> InputsOf(const SourceList& sources) {
 
 struct PjLinkResponder::Command {
   std::string_view name;
-  std::string_view classes;  ///< The classes that have it.
+  std::string_view classes;  ///< The protocol classes that have it.
   bool onlyOn;               ///< Not available in standby.
   std::string (PjLinkResponder::*query)();
   std::string (PjLinkResponder::*set)(std::string_view) = nullptr;

@@ -15,17 +15,17 @@
 
 namespace AdvancedControl {
 
-/// An input as PJLink shows it.
+/// An input as PJLink describes it.
 struct ServedInput {
   std::string code{};       ///< Two characters: kind 1..6, then 1..9 or, in class 2, A..Z.
   std::int16_t source = 0;  ///< Its input source number on the projector.
   std::string name{};       ///< UTF-8, up to 128 bytes.
 };
 
-/// The sources of a model, as its first digital inputs, then network inputs.
+/// Maps the sources of a model to the digital inputs first, then to the network inputs. Any thread.
 PROJECTOR_COMMON_EXPORT std::vector<ServedInput> InputsOf(const SourceList& sources);
 
-/// What a projector is that is shown over PJLink.
+/// A projector as PJLink describes it.
 struct ServedProjector {
   int protocolClass = 2;  ///< 1 or 2.
   std::vector<ServedInput> inputs{};
@@ -33,7 +33,7 @@ struct ServedProjector {
   std::string errors{};
   /// Of the lamps after the first.
   std::vector<int> moreLampHours{};
-  /// What the commands that yield a text answer; UTF-8, cut where the standard bounds it.
+  /// Answers of the commands that return a text; UTF-8, cut to the length that the standard allows.
   std::map<std::string, std::string, std::less<>> texts{
       {"NAME", "Simulated projector"},
       {"INF1", "Advanced Control"},
@@ -48,13 +48,15 @@ struct ServedProjector {
   };
 };
 
-/// Answers PJLink requests on behalf of a projector.
+/// Answers PJLink requests on behalf of a projector. Use it on the thread on which the projector's
+/// channel may be called.
 class PROJECTOR_COMMON_EXPORT PjLinkResponder {
  public:
   PjLinkResponder(std::shared_ptr<ProjectorChannel> projector, ServedProjector served);
   ~PjLinkResponder();
 
-  /// The reply to a request, without its end of line; nothing when `text` is no request.
+  /// Executes the request `text`, without its end of line, and returns the reply, also without it;
+  /// nothing if `text` is not a request.
   std::optional<std::string> Answer(std::string_view text);
 
   /// Six digits instead of `ServedProjector::errors`.

@@ -17,7 +17,7 @@ namespace AdvancedControl {
 namespace {
 
 constexpr qint64 kReadBuffer = 512;
-/// Replies that a client may leave unread.
+/// Bytes of replies that a client may leave unread.
 constexpr std::size_t kMostUnread = 65536;
 
 class Session final : public ServedConnection {
@@ -33,7 +33,7 @@ class Session final : public ServedConnection {
     connect(&socket_, &QTcpSocket::disconnected, this, &QObject::deleteLater);
     idle_.start(options.idle);
     if (fault.kind == LineFault::Kind::Cut) {
-      socket_.write(session_.Greeting().c_str());  // it is no reply
+      socket_.write(session_.Greeting().c_str());  // the greeting is not cut
     } else {
       Send(session_.Greeting());
     }

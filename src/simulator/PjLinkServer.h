@@ -11,16 +11,17 @@
 
 namespace AdvancedControl {
 
-/// Lets a projector be controlled over PJLink: answers on a TCP port what clients ask.
+/// Serves a projector over PJLink on a TCP port.
 ///
-/// Belongs to the thread that makes it, and answers while that thread's event loop runs. The
-/// projector is asked from that thread and must not run the event loop while it answers.
+/// Use it on the thread that creates it; it answers while that thread's event loop runs. The
+/// projector's channel is called on that thread, and must not run the event loop.
 class PROJECTOR_COMMON_EXPORT PjLinkServer {
  public:
   struct Options {
-    std::string password{};  ///< Empty: none is wanted.
+    std::string password{};  ///< Empty if none is required.
     int connections = 8;     ///< Served at once; see `TcpListener` for further ones.
-    std::chrono::milliseconds idle{30'000};  ///< A connection without a request is closed then.
+    std::chrono::milliseconds idle{
+        30'000};  ///< Time without a request after which a connection is closed.
     ServedProjector served{};
   };
 
@@ -29,14 +30,14 @@ class PROJECTOR_COMMON_EXPORT PjLinkServer {
   PjLinkServer(const PjLinkServer&) = delete;
   PjLinkServer& operator=(const PjLinkServer&) = delete;
 
-  /// `address` is numeric; port 0 is any free one. False when the port cannot be had.
+  /// Starts listening. `address` is numeric; port 0 chooses a free one. False on failure.
   bool Listen(const std::string& address, int port);
-  /// The port that is listened on, 0 when none is.
+  /// The port; 0 while not listening.
   int Port() const;
   /// Ends listening and all connections.
   void Close();
 
-  /// Of the greeting as of any reply.
+  /// Sets a fault of all replies and the greeting.
   void SetFault(const LineFault& fault);
 
  private:

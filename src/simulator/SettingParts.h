@@ -7,7 +7,7 @@
 
 namespace AdvancedControl {
 
-/// What the lines of the simulated projector's table are made of.
+/// Building blocks for the lines of the settings table.
 namespace setting_parts {
 
 using Id = SettingId;
@@ -76,7 +76,7 @@ constexpr Setting Offset(Id id, std::string_view name, int channel, Op read, Op 
                          Op::IncrementColorTempOffset, Op::DecrementColorTempOffset, reset);
 }
 
-/// A value that the projector keeps from −128 to 127 around the zero point.
+/// A value around the zero point, which the projector stores as −128 to 127.
 constexpr Setting Balance(Id id, std::string_view name, std::uint16_t code, SettingRange range,
                           std::size_t rangeText, Operations operations) {
   return {.id = id,

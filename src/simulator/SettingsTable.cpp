@@ -52,7 +52,7 @@ constexpr Setting kSettings[] = {
      .reported = true,
      .operations = {Reset(Op::ExecFilterTimeReset)}},
 
-    // Picture. Ranges are the widest that any model's page offers.
+    // Picture. Each range is the widest of all models' pages.
     Balance(Id::Brightness, "Brightness", CommandCode::Brightness, {96, 160},
             RangeIndex::Brightness, {Write(Op::SetBrightness), Reset(Op::ExecBrightnessReset)}),
     Balance(Id::Contrast, "Contrast", CommandCode::Contrast, {80, 176}, RangeIndex::Contrast,

@@ -202,8 +202,8 @@ enum class PageSets : std::uint8_t {
   ButThird = All ^ Third,
 };
 
-/// Whether the models of a page set have it. A number that is no page set is treated like a page
-/// set that `PageSets` does not name.
+/// Whether `sets` contains a page set. A number that is no page set is treated like a page set that
+/// `PageSets` does not name.
 constexpr bool Knows(PageSets sets, int pageSet) {
   const bool isSet = pageSet > 0 && pageSet < 8;
   return (static_cast<unsigned>(sets) >> (isSet ? pageSet : 0) & 1U) != 0;

@@ -15,7 +15,7 @@ constexpr int kStandby = 0;
 constexpr int kOn = 1;
 constexpr int kCoolingDown = 2;
 
-/// Where a command of a family carries the value that it sets.
+/// The value that a command sets; its place depends on the operation's family.
 int WrittenValue(const PjtCommand& command) {
   return FormOf(command.operation).second == Argument::Value ? command.second : command.first;
 }

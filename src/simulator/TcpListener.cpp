@@ -23,7 +23,7 @@ TcpListener::TcpListener(const Limits& limits, Serve serve)
   serveLater_.setSingleShot(true);
   connect(&serveLater_, &QTimer::timeout, this, &TcpListener::ServeWaiting);
   connect(this, &QTcpServer::newConnection, this, &TcpListener::ServeWaiting);
-  connect(this, &QTcpServer::acceptError, this, [this] {  // which has ended accepting
+  connect(this, &QTcpServer::acceptError, this, [this] {  // Qt has stopped accepting
     QTimer::singleShot(kPauseAfterFailure, this, [this] {
       if (isListening()) resumeAccepting();
     });
@@ -46,7 +46,8 @@ void TcpListener::ServeWaiting() {
   while (hasPendingConnections()) {
     if (!HasRoom()) return serveLater_.start(ServedConnection::kIdle);
     std::unique_ptr<QTcpSocket> socket(nextPendingConnection());
-    if (socket->state() != QAbstractSocket::ConnectedState) continue;  // left while it waited
+    if (socket->state() != QAbstractSocket::ConnectedState)
+      continue;  // disconnected while it waited
     ServedConnection* const connection = serve_(std::move(socket));
     connection->setParent(&served_);
     connect(connection, &QObject::destroyed, &serveLater_,

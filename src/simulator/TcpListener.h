@@ -15,23 +15,25 @@ namespace AdvancedControl {
 
 class ServedConnection;
 
-/// A port that always takes the next connection. If as many are open as it serves at once, the one
-/// that has been idle longest is closed for the new one; while none is idle, the new one waits. If
-/// one could not be accepted, as when the process has no descriptor left, it tries again at
-/// intervals.
+/// A TCP port that always accepts the next connection. If the limit of connections is reached, the
+/// one that has been idle longest is closed in favour of the new one; while none is idle, the new
+/// one waits. If a connection could not be accepted, for example because the process is out of
+/// descriptors, it tries again at intervals.
 ///
-/// Belongs to the thread that makes it, which must have an event loop.
+/// Use it on the thread that creates it, which must have an event loop.
 class PROJECTOR_COMMON_EXPORT TcpListener final : public QTcpServer {
  public:
-  /// Serves a connected socket.
+  /// Makes the connection that serves a connected socket.
   using Serve = std::function<ServedConnection*(std::unique_ptr<QTcpSocket>)>;
 
   struct Limits {
-    int connections;    ///< Served at once.
-    qint64 readBuffer;  ///< Unread bytes of a connection, also while it waits to be served.
+    int connections;    ///< Number of connections served at once.
+    qint64 readBuffer;  ///< Largest number of buffered unread bytes of a connection, even while it
+                        ///< waits.
   };
 
-  /// Takes over what `serve` makes, which may go on using what `serve` does as long as this lives.
+  /// Takes ownership of the connections that `serve` makes. They are deleted before `serve` is, so
+  /// they may use the same objects.
   TcpListener(const Limits& limits, Serve serve);
 
   /// Ends listening and all connections.
@@ -47,7 +49,7 @@ class PROJECTOR_COMMON_EXPORT TcpListener final : public QTcpServer {
   const Limits limits_;
   const Serve serve_;
   QTimer serveLater_;
-  QObject served_;  ///< Parent of what `serve_` made, and of nothing else.
+  QObject served_;  ///< Parent of the connections made by `serve_`, and of nothing else.
 };
 
 }  // namespace AdvancedControl

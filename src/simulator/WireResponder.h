@@ -10,15 +10,17 @@
 
 namespace AdvancedControl {
 
-/// The projector's end of one connection: takes the bytes that come in and makes those that go out.
+/// The projector's end of one connection, without the connection: turns received bytes into bytes
+/// to send.
 class PROJECTOR_COMMON_EXPORT WireResponder {
  public:
   explicit WireResponder(ProjectorChannel& projector) : projector_(projector) {}
 
-  /// The frames that answer what is complete by now; empty when nothing is.
+  /// Takes received bytes, which may end inside a frame. Executes all complete requests and returns
+  /// the frames that answer them.
   std::string Receive(std::string_view bytes);
 
-  /// Whether a program has said hello in a version that we speak.
+  /// Whether the peer has sent a hello with a supported version.
   bool IsGreeted() const { return greeted_; }
 
  private:

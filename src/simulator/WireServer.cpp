@@ -29,7 +29,7 @@ class Session final : public ServedConnection {
     if (auto* socket = qobject_cast<QTcpSocket*>(line_)) {
       socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
       connect(socket, &QTcpSocket::disconnected, this, &QObject::deleteLater);
-      // A peer that connects and says nothing does not keep its place.
+      // Closes the connection of a peer that sends nothing.
       QTimer::singleShot(kTimeForHello, this, [this] {
         if (!responder_.IsGreeted()) deleteLater();
       });
@@ -48,7 +48,7 @@ class Session final : public ServedConnection {
       if (piece.isEmpty()) return;
       replies_.Send(responder_.Receive({piece.data(), static_cast<std::size_t>(piece.size())}));
     }
-    // A peer that asks and does not listen is not served on.
+    // Closes the connection of a peer that sends requests without reading the replies.
     if (replies_.Backlog() > kLargestBacklog) deleteLater();
   }
 

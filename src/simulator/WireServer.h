@@ -14,8 +14,9 @@ class QIODevice;
 
 namespace AdvancedControl {
 
-/// Serves one projector over our wire: on a TCP port, and on lines that are handed over. Lives on a
-/// thread with an event loop; the projector should answer at once.
+/// Serves one projector over the wire protocol (docs/wire.md): on a TCP port, and on open lines.
+/// Use it on one thread, with an event loop. The projector's channel is called on that thread and
+/// should answer at once.
 class PROJECTOR_COMMON_EXPORT WireServer {
  public:
   /// Of the port, at once; see `TcpListener` for further ones.
@@ -26,12 +27,12 @@ class PROJECTOR_COMMON_EXPORT WireServer {
   WireServer(const WireServer&) = delete;
   WireServer& operator=(const WireServer&) = delete;
 
-  /// Listens; `port` 0 takes a free one. The port, or 0 when it cannot be had; `ErrorText` then
-  /// says why.
+  /// Starts listening; `port` 0 chooses a free one. Returns the port, or 0 on failure; then
+  /// `ErrorText` says why.
   std::uint16_t Listen(const QHostAddress& address, std::uint16_t port);
   std::string ErrorText() const;
 
-  /// Serves an open line until it closes. Takes it over.
+  /// Takes ownership of an open line and serves it until it closes.
   void Serve(std::unique_ptr<QIODevice> line);
 
   void SetFault(const LineFault& fault);

@@ -6,12 +6,12 @@ namespace AdvancedControl {
 
 namespace {
 
-/// Whether telling one may change the other too.
-bool MayFollow(const RestoredSetting& other, const RestoredSetting& told) {
-  if (&other == &told) return false;
-  if (IsSame(other.saved, told.saved)) return true;
+/// Whether sending the setting `sent` may change `other`.
+bool DependsOn(const RestoredSetting& other, const RestoredSetting& sent) {
+  if (&other == &sent) return false;
+  if (IsSame(other.saved, sent.saved)) return true;
   const auto& own = other.saved.source;
-  switch (RankOf(*told.setting)) {
+  switch (RankOf(*sent.setting)) {
     case Rank::Source:
       return !own;
     case Rank::Choice:
@@ -21,9 +21,9 @@ bool MayFollow(const RestoredSetting& other, const RestoredSetting& told) {
   }
   // Two settings of one caption may be the same thing on two pages, but not for different sources,
   // nor if one is for the horizontal and one for the vertical direction.
-  const bool isElsewhere = own && told.saved.source && own != told.saved.source;
-  const bool isAcross = other.setting->key.ends_with("-h") != told.setting->key.ends_with("-h");
-  return !isElsewhere && !isAcross && other.setting->caption == told.setting->caption;
+  const bool isElsewhere = own && sent.saved.source && own != sent.saved.source;
+  const bool isAcross = other.setting->key.ends_with("-h") != sent.setting->key.ends_with("-h");
+  return !isElsewhere && !isAcross && other.setting->caption == sent.setting->caption;
 }
 
 }  // namespace
@@ -37,17 +37,17 @@ bool IsSame(const SavedSetting& one, const SavedSetting& other) {
   return one.key == other.key && one.source == other.source;
 }
 
-bool MayStillChange(const RestoredSetting& restored, const ToldSettings& told) {
-  return std::ranges::any_of(told, [&restored](const RestoredSetting* other) {
-    return other->IsOpen() && MayFollow(restored, *other);
+bool MayStillChange(const RestoredSetting& restored, const SentSettings& sent) {
+  return std::ranges::any_of(sent, [&restored](const RestoredSetting* other) {
+    return other->IsOpen() && DependsOn(restored, *other);
   });
 }
 
-bool MayHaveChanged(const RestoredSetting& restored, const ToldSettings& told) {
-  const bool isOutdated = std::ranges::any_of(told, [&restored](const RestoredSetting* other) {
-    return other->turn > restored.asOf && MayFollow(restored, *other);
+bool MayHaveChanged(const RestoredSetting& restored, const SentSettings& sent) {
+  const bool isOutdated = std::ranges::any_of(sent, [&restored](const RestoredSetting* other) {
+    return other->turn > restored.asOf && DependsOn(restored, *other);
   });
-  return isOutdated || MayStillChange(restored, told);
+  return isOutdated || MayStillChange(restored, sent);
 }
 
 }  // namespace AdvancedControl

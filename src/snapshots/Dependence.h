@@ -6,7 +6,7 @@
 #include "Namespace.h"
 #include "snapshots/Restoration.h"
 
-// Which settings of a projector depend on which others.
+// Which settings of a projector depend on which others. Any thread.
 
 namespace AdvancedControl {
 
@@ -19,12 +19,13 @@ Rank RankOf(const ModelSetting& setting);
 /// Whether both are the same setting, for the same input source.
 bool IsSame(const SavedSetting& one, const SavedSetting& other);
 
-/// Settings that were sent, in any order; the model has each of them.
-using ToldSettings = std::vector<const RestoredSetting*>;
+/// Settings that were sent, in any order. The model has all of them.
+using SentSettings = std::vector<const RestoredSetting*>;
 
-/// Whether a setting that was sent may still change this one later, whatever is read now.
-bool MayStillChange(const RestoredSetting& restored, const ToldSettings& told);
-/// The same, or whether one may have changed it since it was last read.
-bool MayHaveChanged(const RestoredSetting& restored, const ToldSettings& told);
+/// Whether a setting that was sent may still change this one after it is read.
+bool MayStillChange(const RestoredSetting& restored, const SentSettings& sent);
+/// Whether a setting that was sent may have changed this one since it was last read, or may still
+/// do so.
+bool MayHaveChanged(const RestoredSetting& restored, const SentSettings& sent);
 
 }  // namespace AdvancedControl

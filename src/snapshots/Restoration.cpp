@@ -9,7 +9,8 @@ namespace AdvancedControl {
 
 namespace {
 
-Outcome Judge(const ModelSettings& model, const ModelSetting* setting, const SavedSetting& saved) {
+Outcome InitialOutcome(const ModelSettings& model, const ModelSetting* setting,
+                       const SavedSetting& saved) {
   if (setting == nullptr) return Outcome::Unknown;
   if (!setting->Restorable()) return Outcome::NotSettable;
   const bool isAllowed =
@@ -17,27 +18,26 @@ Outcome Judge(const ModelSettings& model, const ModelSetting* setting, const Sav
   return isAllowed ? Outcome::NotReached : Outcome::NotAllowed;
 }
 
-/// What of the others depends on it is not known for one that the model does not have.
+/// False for a setting that the model does not have: others may depend on it.
 bool IsNumber(const RestoredSetting& restored) {
   return restored.setting != nullptr && RankOf(*restored.setting) == Rank::Number;
 }
 
-/// What telling has come to if it is read back different, as the commands in between went. Nothing
-/// where the projector was told nothing.
-std::optional<Outcome> Otherwise(const CPjtInterface::Tally& before,
-                                 const CPjtInterface::Tally& after) {
+/// The outcome of a change if another value is read back, derived from the commands sent in
+/// between. Nothing if the projector received none.
+std::optional<Outcome> OutcomeIfDifferent(const CPjtInterface::Tally& before,
+                                          const CPjtInterface::Tally& after) {
   if (after.uncertain > before.uncertain) return Outcome::Unconfirmed;
   if (after.pending > before.pending) return Outcome::Pending;
   if (after.busy > before.busy) return Outcome::Busy;
-  const int unanswered = after.unanswered - before.unanswered;
-  if (unanswered > 0 && unanswered == after.commands - before.commands) return {};
+  if (after.unanswered - before.unanswered == after.commands - before.commands) return {};
   return Outcome::Refused;
 }
 
 }  // namespace
 
-/// How everything is sent.
-struct Restoration::Way {
+/// Options of `Send`.
+struct Restoration::SendOptions {
   const SettingTexts& texts;
   const Progress& progress;
   const std::function<bool()>& keepUndo;
@@ -48,7 +48,7 @@ Restoration::Restoration(const Snapshot& snapshot, const ModelSettings& model,
     : model_(model), connection_(connection) {
   const auto restored = [&model](const SavedSetting& saved, bool isBeforehand) {
     const ModelSetting* const setting = model.Find(saved.key);
-    return RestoredSetting{saved, setting, isBeforehand, Judge(model, setting, saved)};
+    return RestoredSetting{saved, setting, isBeforehand, InitialOutcome(model, setting, saved)};
   };
   for (const SavedSetting& saved : snapshot.beforehand) {
     beforehand_.push_back(restored(saved, true));
@@ -58,7 +58,8 @@ Restoration::Restoration(const Snapshot& snapshot, const ModelSettings& model,
   }
 }
 
-Restoration::Group Restoration::Those(const std::function<bool(const RestoredSetting&)>& fit) {
+Restoration::Group Restoration::SettingsWhere(
+    const std::function<bool(const RestoredSetting&)>& fit) {
   Group group;
   for (RestoredSetting& restored : settings_) {
     if (fit(restored)) group.push_back(&restored);
@@ -76,12 +77,12 @@ void Restoration::Announce(const Group& group) {
 }
 
 void Restoration::Read(const Progress& progress) {
-  Read(Those(
+  Read(SettingsWhere(
            [](const RestoredSetting& restored) { return restored.outcome == Outcome::NotReached; }),
        progress);
 }
 
-// What was read since the last was sent is not read again.
+// Settings that were read after the last change are not read again.
 void Restoration::Read(const Group& group, const Progress& progress) {
   Group stale;
   std::ranges::copy_if(group, std::back_inserter(stale), [this](const RestoredSetting* restored) {
@@ -98,7 +99,7 @@ void Restoration::Read(RestoredSetting& restored, const Progress& progress) {
   restored.before = model_.Read(connection_, *restored.setting, restored.saved.source);
   if (!restored.first) restored.first = restored.before;
   if (!restored.before) {
-    // A projector that is gone has refused nothing.
+    // Without an answer, the projector has refused nothing.
     const CPjtInterface::Tally now = connection_.Sent();
     const bool isGone = now.unanswered > sent.unanswered || !progress.goesOn();
     const Outcome refused = now.busy > sent.busy ? Outcome::Busy : Outcome::Refused;
@@ -115,20 +116,20 @@ void Restoration::Read(RestoredSetting& restored, const Progress& progress) {
 
 void Restoration::Send(const SettingTexts& texts, const Progress& progress,
                        const std::function<bool()>& keepUndo) {
-  bool isKept = true;
-  const std::function<bool()> keep = [&] { return isKept = isKept && keepUndo(); };
-  const Progress careful{.goesOn = [&] { return isKept && progress.goesOn(); },
+  bool isUndoSaved = true;
+  const std::function<bool()> keep = [&] { return isUndoSaved = isUndoSaved && keepUndo(); };
+  const Progress careful{.goesOn = [&] { return isUndoSaved && progress.goesOn(); },
                          .step = progress.step};
-  const Way way{texts, careful, keep};
-  SendBeforehand(way);
-  if (!HasOpen()) Confirm(SendSettings(way), careful);
-  Settle(careful);
+  const SendOptions options{texts, careful, keep};
+  SendBeforehand(options);
+  if (!HasOpen()) Confirm(SendSettings(options), careful);
+  RereadAffected(careful);
   if (turns_ > 0) keep();
 }
 
-// A source or mode is alone; numbers that follow each other are read and sent together.
-void Restoration::SendBeforehand(const Way& way) {
-  for (auto next = beforehand_.begin(); next != beforehand_.end() && way.progress.goesOn();) {
+// Sends each source or mode by itself; consecutive numbers are read and sent together.
+void Restoration::SendBeforehand(const SendOptions& options) {
+  for (auto next = beforehand_.begin(); next != beforehand_.end() && options.progress.goesOn();) {
     RestoredSetting& front = *next;
     Group group;
     do {
@@ -138,65 +139,66 @@ void Restoration::SendBeforehand(const Way& way) {
              std::ranges::none_of(group, [next](const RestoredSetting* earlier) {
                return IsSame(earlier->saved, next->saved);
              }));
-    Read(group, way.progress);
-    Confirm(SendTogether(group, way), way.progress);
+    Read(group, options.progress);
+    Confirm(SendTogether(group, options), options.progress);
     const bool isSo = front.outcome == Outcome::AlreadySo || front.outcome == Outcome::Changed;
     if (HasOpen() || (!IsNumber(front) && !isSo)) return;
   }
 }
 
-Restoration::Group Restoration::SendSettings(const Way& way) {
+Restoration::Group Restoration::SendSettings(const SendOptions& options) {
   Group sent;
   const auto send = [&](const Group& group) {
-    const Group now = SendTogether(group, way);
+    const Group now = SendTogether(group, options);
     sent.insert(sent.end(), now.begin(), now.end());
   };
-  // Of the choices some may be modes that others depend on, which were so already.
+  // Choices are sent twice, because some are modes, on which choices sent before may depend.
   for (const Rank rank : {Rank::Source, Rank::Choice, Rank::Choice, Rank::Number}) {
-    const Group group = Those([rank](const RestoredSetting& restored) {
+    const Group group = SettingsWhere([rank](const RestoredSetting& restored) {
       const bool wasRead =
           restored.outcome == Outcome::AlreadySo || restored.outcome == Outcome::Differs;
       return wasRead && RankOf(*restored.setting) == rank;
     });
-    Read(group, way.progress);
+    Read(group, options.progress);
     if (rank == Rank::Number) {
       send(group);
       continue;
     }
     for (RestoredSetting* restored : group) {
       if (restored->outcome != Outcome::Differs) continue;
-      Read(Group{restored}, way.progress);
+      Read(Group{restored}, options.progress);
       send({restored});
-      if (restored->IsOpen()) Confirm({restored}, way.progress);
+      if (restored->IsOpen()) Confirm({restored}, options.progress);
       if (restored->IsOpen()) return sent;
     }
   }
   return sent;
 }
 
-/// Sends what differs of settings that do not depend on each other, and returns what was sent.
-Restoration::Group Restoration::SendTogether(const Group& group, const Way& way) {
+/// Sends the settings of the group that differ. They must not depend on each other. Returns those
+/// that were sent.
+Restoration::Group Restoration::SendTogether(const Group& group, const SendOptions& options) {
   Group differing;
   std::ranges::copy_if(group, std::back_inserter(differing), [](const RestoredSetting* restored) {
     return restored->outcome == Outcome::Differs;
   });
-  if (differing.empty() || !way.progress.goesOn()) return {};
+  if (differing.empty() || !options.progress.goesOn()) return {};
   for (RestoredSetting* restored : differing) restored->turn = ++turns_;
-  way.keepUndo();
+  options.keepUndo();
   Group sent;
   for (RestoredSetting* restored : differing) {
-    if (!way.progress.goesOn()) {
+    if (!options.progress.goesOn()) {
       restored->turn = 0;
       continue;
     }
     const SavedSetting& saved = restored->saved;
     const CPjtInterface::Tally before = connection_.Sent();
-    const Sent result = model_.Change(
-        connection_, *restored->setting, saved.value,
-        {way.texts.Value(*restored->setting, saved.value), saved.source, way.progress.goesOn});
-    way.progress.step();
+    const Sent result = model_.Change(connection_, *restored->setting, saved.value,
+                                      {options.texts.Value(*restored->setting, saved.value),
+                                       saved.source, options.progress.goesOn});
+    options.progress.step();
     const auto otherwise =
-        result == Sent::Nothing ? std::nullopt : Otherwise(before, connection_.Sent());
+        result == Sent::Nothing ? std::nullopt : OutcomeIfDifferent(before, connection_.Sent());
     if (!otherwise) {
       restored->turn = 0;
       continue;
@@ -208,14 +210,14 @@ Restoration::Group Restoration::SendTogether(const Group& group, const Way& way)
   return sent;
 }
 
-// Whatever a setter answers, the value read afterwards is what the projector has. Also after an
-// interruption, so that what is told is true.
+// Whatever a setter returns, only the value read back counts. It is read even after an
+// interruption, so that the outcomes are correct.
 void Restoration::Confirm(const Group& sent, const Progress& progress) {
   Announce(sent);
   for (RestoredSetting* restored : sent) {
     restored->now = model_.Read(connection_, *restored->setting, restored->saved.source);
     if (restored->now) {
-      // A step that may still be made leads away from there.
+      // A step that the projector may still make would change the value again.
       const bool isStepping = restored->IsOpen() && restored->setting->IsStepped();
       const bool done = *restored->now == restored->saved.value && !isStepping;
       if (done) restored->otherwise = Outcome::Refused;
@@ -227,9 +229,9 @@ void Restoration::Confirm(const Group& sent, const Progress& progress) {
   }
 }
 
-void Restoration::Settle(const Progress& progress) {
-  const auto told = Told();
-  const Group changed = Those([&told](const RestoredSetting& restored) {
+void Restoration::RereadAffected(const Progress& progress) {
+  const auto sent = SentInOrder();
+  const Group changed = SettingsWhere([&sent](const RestoredSetting& restored) {
     switch (restored.outcome) {
       case Outcome::Unconfirmed:
       case Outcome::Unknown:
@@ -238,38 +240,40 @@ void Restoration::Settle(const Progress& progress) {
       case Outcome::NotAllowed:
         return false;
       default:
-        return MayHaveChanged(restored, told);
+        return MayHaveChanged(restored, sent);
     }
   });
   Group unread;
   std::ranges::copy_if(changed, std::back_inserter(unread), [&](const RestoredSetting* restored) {
-    return restored->turn == 0 && !MayStillChange(*restored, told);
+    return restored->turn == 0 && !MayStillChange(*restored, sent);
   });
   Read(unread, progress);
   for (RestoredSetting* restored : changed) {
-    if (!MayHaveChanged(*restored, told)) continue;
+    if (!MayHaveChanged(*restored, sent)) continue;
     restored->outcome = Outcome::Unconfirmed;
     restored->now.reset();
   }
 }
 
-bool Restoration::HasOpen() const { return std::ranges::any_of(Told(), &RestoredSetting::IsOpen); }
+bool Restoration::HasOpen() const {
+  return std::ranges::any_of(SentInOrder(), &RestoredSetting::IsOpen);
+}
 
 int Restoration::Count(Outcome outcome) const {
   return static_cast<int>(std::ranges::count(beforehand_, outcome, &RestoredSetting::outcome) +
                           std::ranges::count(settings_, outcome, &RestoredSetting::outcome));
 }
 
-/// What was told, or is just going to be, in that order.
-std::vector<const RestoredSetting*> Restoration::Told() const {
-  std::vector<const RestoredSetting*> told;
+/// Settings that were sent or are about to be sent, in this order.
+std::vector<const RestoredSetting*> Restoration::SentInOrder() const {
+  std::vector<const RestoredSetting*> sent;
   for (const auto* list : {&beforehand_, &settings_}) {
     for (const RestoredSetting& restored : *list) {
-      if (restored.turn > 0) told.push_back(&restored);
+      if (restored.turn > 0) sent.push_back(&restored);
     }
   }
-  std::ranges::sort(told, {}, &RestoredSetting::turn);
-  return told;
+  std::ranges::sort(sent, {}, &RestoredSetting::turn);
+  return sent;
 }
 
 Snapshot Restoration::Undo(const std::string& projector, const SettingTexts& texts) const {
@@ -279,28 +283,28 @@ Snapshot Restoration::Undo(const std::string& projector, const SettingTexts& tex
     list.push_back(
         {restored.saved.key, value, texts.Value(*restored.setting, value), restored.saved.source});
   };
-  const ToldSettings told = Told();
+  const SentSettings sent = SentInOrder();
   for (const RestoredSetting& restored : settings_) {
     if (!restored.first) continue;
     const bool isUntouched =
         restored.outcome == Outcome::AlreadySo || restored.outcome == Outcome::NotReached;
     const bool isSo = restored.first == restored.saved.value;
-    if (isUntouched && isSo && !MayHaveChanged(restored, told)) continue;
+    if (isUntouched && isSo && !MayHaveChanged(restored, sent)) continue;
     add(snapshot.settings, restored, *restored.first);
   }
   const auto first = std::ranges::find_if_not(
-      told, [](const RestoredSetting* restored) { return IsNumber(*restored); });
-  const bool isAllAtFirst = first == told.end() || std::next(first) == told.end();
+      sent, [](const RestoredSetting* restored) { return IsNumber(*restored); });
+  const bool isAllAtFirst = first == sent.end() || std::next(first) == sent.end();
   if (isAllAtFirst && beforehand_.empty()) return snapshot;
-  // Somebody may choose another source or mode meanwhile. What a choice is under the modes that
-  // were set after it is known only once it was read back.
-  for (const RestoredSetting* restored : told) {
+  // The user may choose another source or mode before undoing. Under modes that were set later, the
+  // value of a choice is known only if it was read back.
+  for (const RestoredSetting* restored : sent) {
     if (restored->isBeforehand || IsNumber(*restored) || restored->IsOpen()) continue;
     if (restored->now || restored->setting->SelectsInput()) {
       add(snapshot.beforehand, *restored, restored->now.value_or(restored->saved.value));
     }
   }
-  for (auto last = told.rbegin(); last != told.rend(); ++last) {
+  for (auto last = sent.rbegin(); last != sent.rend(); ++last) {
     add(snapshot.beforehand, **last, *(*last)->before);
   }
   return snapshot;

@@ -30,13 +30,13 @@ enum class Outcome : std::uint8_t {
 
 struct RestoredSetting {
   SavedSetting saved;
-  const ModelSetting* setting = nullptr;  ///< Null for one that the model does not have.
+  const ModelSetting* setting = nullptr;  ///< Null if the model does not have it.
   bool isBeforehand = false;
   Outcome outcome = Outcome::NotReached;
   std::optional<int> first{};   ///< The first value read, if any.
   std::optional<int> before{};  ///< The last value read before it was sent.
   std::optional<int> now{};     ///< The value read back; nothing while unconfirmed.
-  int turn = 0;   ///< Its place in the order of sending, from 1 on; 0 if it is not sent.
+  int turn = 0;   ///< Its position in the order of sending, from 1; 0 if it is not sent.
   int asOf = -1;  ///< How many settings had been sent when it was last read.
   /// The outcome if another value is read back after it was sent.
   Outcome otherwise = Outcome::Refused;
@@ -84,21 +84,21 @@ class PROJECTOR_SETTINGS_EXPORT Restoration {
 
  private:
   using Group = std::vector<RestoredSetting*>;
-  struct Way;
+  struct SendOptions;
 
-  /// The matching settings, in the snapshot's order.
-  Group Those(const std::function<bool(const RestoredSetting&)>& fit);
+  /// The settings for which `fit` returns true, in the snapshot's order.
+  Group SettingsWhere(const std::function<bool(const RestoredSetting&)>& fit);
   void Announce(const Group& group);
   void Read(const Group& group, const Progress& progress);
   void Read(RestoredSetting& restored, const Progress& progress);
-  void SendBeforehand(const Way& way);
-  Group SendSettings(const Way& way);
-  Group SendTogether(const Group& group, const Way& way);
+  void SendBeforehand(const SendOptions& options);
+  Group SendSettings(const SendOptions& options);
+  Group SendTogether(const Group& group, const SendOptions& options);
   void Confirm(const Group& sent, const Progress& progress);
   /// Reads again what may have changed since it was read, or records that its value is unknown.
-  void Settle(const Progress& progress);
+  void RereadAffected(const Progress& progress);
   bool HasOpen() const;
-  std::vector<const RestoredSetting*> Told() const;
+  std::vector<const RestoredSetting*> SentInOrder() const;
 
   const ModelSettings& model_;
   CPjtInterface& connection_;

@@ -13,7 +13,7 @@ namespace AdvancedControl {
 
 namespace {
 
-// No setting is further away, and no sum of two such numbers overflows.
+// Larger than any value, and the sum of two such numbers does not overflow.
 constexpr int kLargest = 1'000'000;
 
 std::optional<int> Number(std::string_view text) {
@@ -50,13 +50,13 @@ std::string_view PlainName(std::string_view name) {
   return name.ends_with(')') ? name.substr(0, name.rfind(" (")) : name;
 }
 
-/// Caption number of "V" or "H", which such a setting's row shows behind its caption; 0 for others.
+/// Caption number of "V" or "H" for a setting whose row shows it after its caption; 0 for others.
 int Direction(std::string_view key) {
   if (key.ends_with("-v")) return 52;
   return key.ends_with("-h") ? 53 : 0;
 }
 
-/// The last part of a key in capitals, which is the caption where it is the same in every language.
+/// The last part of a key in capitals: the caption of settings called the same in every language.
 std::string Abbreviation(std::string_view key) {
   return Wide(key.substr(key.rfind('.') + 1)).toUpper().toStdString();
 }

@@ -13,10 +13,10 @@
 
 namespace AdvancedControl {
 
-/// What a person typed for a setting.
+/// A value as the user typed it.
 struct TypedValue {
-  int amount = 0;         ///< Device value, or
-  bool relative = false;  ///< how far from the present value: positions of a list, else numbers.
+  int amount = 0;         ///< Device value; or, if `relative`, the distance from the present value,
+  bool relative = false;  ///< in entries for a list, else in numbers.
 };
 
 /// Shows settings as texts in one language, and parses texts in any language. May be used from
@@ -34,7 +34,7 @@ class PROJECTOR_SETTINGS_EXPORT SettingTexts {
                    std::optional<int> source) const;
   /// The name of an input source in the list of inputs, or else its number.
   std::string Source(const ModelSettings& model, int source) const;
-  /// The caption of the tab that it is on.
+  /// The caption of the setting's tab.
   std::string Tab(const ModelSetting& setting) const;
   /// The text of an entry; followed by its device value if another entry has the same name:
   /// "HDMI (31)".

@@ -23,7 +23,7 @@ Snapshot TakeSnapshot(const std::string& projector, const ModelSettings& setting
   }
   for (const auto& [setting, source] : settings.PrepareReads(connection, restorable)) {
     if (!progress.goesOn()) break;
-    // A value of nobody knows which source could not be put back.
+    // A value could not be restored without knowing its source.
     const bool isKnown = setting->of == OfSource::None || source;
     const int notOffered = connection.Sent().notOffered;
     const auto value = isKnown ? settings.Read(connection, *setting, source) : std::nullopt;

@@ -17,7 +17,7 @@ namespace AdvancedControl {
 struct SavedSetting {
   std::string key;
   int value = 0;                ///< Device value.
-  std::string text;             ///< As it was shown, for people; the value decides.
+  std::string text;             ///< The text of the value, for human readers only.
   std::optional<int> source{};  ///< Its input source, if it is kept for each one.
 
   friend bool operator==(const SavedSetting&, const SavedSetting&) = default;

@@ -14,14 +14,14 @@
 
 namespace {
 
-/// Thrown while a text is read, caught before the reader returns.
+/// Thrown while parsing; caught before `ReadSnapshot` returns.
 struct WrongSnapshot {
   Q_DECLARE_TR_FUNCTIONS(Snapshot)
 
  public:
-  QString path;  ///< Of the value, as `SnapshotContents` says.
+  QString path;  ///< Path of the value, as in `SnapshotContents`.
   QString message;
-  QString of{};  ///< The key of the setting that it is part of, where that is known.
+  QString of{};  ///< Key of the setting that contains it, if known.
 };
 
 }  // namespace
@@ -38,7 +38,7 @@ constexpr qsizetype kMaximumText = 1024;
 
 QString Wide(const std::string& text) { return QString::fromStdString(text); }
 
-/// A value as it stands in the file, on one line and not too long to be shown.
+/// A value as in the file, shortened and on one line, for an error.
 QString Found(const QJsonValue& value) {
   constexpr qsizetype kMost = 40;
   const QByteArray json = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
@@ -68,7 +68,7 @@ int Integer(const QJsonObject& object, const QString& key, const QString& place,
 std::string Text(const QJsonObject& object, const QString& key, const QString& place) {
   const QString text = object[key].toString();
   const auto isControl = [](QChar character) { return character < QLatin1Char(' '); };
-  // It is shown on terminals.
+  // Texts are shown on terminals, so they must not contain control characters.
   if (text.isEmpty() || text.size() > kMaximumText || std::ranges::any_of(text, isControl)) {
     throw WrongSnapshot{place + key, WrongSnapshot::tr("must be a line of text")};
   }

@@ -21,8 +21,9 @@ namespace AdvancedControl {
 
 namespace {
 
-// A handler may wait for the projector or open a box: the assistive technology must not wait for
-// it. What comes while one runs is dropped, as a user's input is.
+// Acts asynchronously, because a handler may wait for the projector or open a message box, and the
+// assistive technology must not wait for that. While a handler runs, actions are dropped, as other
+// input is.
 template <class Control, class Act>
 void ActLikeAUser(Control* control, Act act) {
   const auto actUnlessBusy = [control, act] {
@@ -60,7 +61,7 @@ class SliderInterface final : public QAccessibleWidget, public QAccessibleValueI
   CSliderCtrl& Slider() const { return *static_cast<CSliderCtrl*>(widget()); }
 };
 
-/// A check box that is clicked when it is toggled: only a click is reported.
+/// Toggling a check box clicks it, because it reports only clicks.
 class CheckInterface final : public QAccessibleWidget {
  public:
   explicit CheckInterface(QCheckBox* check) : QAccessibleWidget(check, QAccessible::CheckBox) {}
@@ -83,8 +84,8 @@ class CheckInterface final : public QAccessibleWidget {
   QCheckBox& Check() const { return *static_cast<QCheckBox*>(widget()); }
 };
 
-/// A list by its caption's name; its text is the selected entry, its children the drop-down and,
-/// where it can be typed into, its field.
+/// A list, named by its caption. Its text is the selected entry. Its children are the drop-down
+/// and, if the list is editable, its field.
 class ComboInterface final : public QAccessibleWidget, public QAccessibleTextInterface {
  public:
   explicit ComboInterface(CComboBox* combo) : QAccessibleWidget(combo, QAccessible::ComboBox) {}
@@ -126,7 +127,7 @@ class ComboInterface final : public QAccessibleWidget, public QAccessibleTextInt
     });
   }
 
-  // The text can be read here, and edited in the field alone; it has no cursor.
+  // The text is read-only here, without a cursor; it is edited in the field.
   void selection(int, int* start, int* end) const override { *start = *end = 0; }
   int selectionCount() const override { return 0; }
   void addSelection(int, int) override {}
@@ -151,7 +152,7 @@ class ComboInterface final : public QAccessibleWidget, public QAccessibleTextInt
   CComboBox& Combo() const { return *static_cast<CComboBox*>(widget()); }
 };
 
-/// An entry of a list; pressing it chooses it.
+/// An entry of a list. Pressing it chooses it.
 class EntryInterface final : public QAccessibleInterface, public QAccessibleActionInterface {
  public:
   EntryInterface(CComboBox* combo, int position) : combo_(combo), position_(position) {}
@@ -206,7 +207,7 @@ class EntryInterface final : public QAccessibleInterface, public QAccessibleActi
   int position_;
 };
 
-/// The drop-down of a list, whether it is open or not.
+/// The drop-down of a list, even if it is closed.
 class EntriesInterface final : public QAccessibleWidget {
  public:
   EntriesInterface(QWidget* view, CComboBox* combo)
@@ -238,7 +239,7 @@ class EntriesInterface final : public QAccessibleWidget {
   mutable std::vector<QAccessible::Id> entries_;
 };
 
-/// A window, or a page: the panel of its tab.
+/// A window; or a page, as the panel of its tab.
 class DialogInterface final : public QAccessibleWidget {
  public:
   explicit DialogInterface(QWidget* dialog) : QAccessibleWidget(dialog, QAccessible::Dialog) {}
@@ -255,7 +256,7 @@ class DialogInterface final : public QAccessibleWidget {
   }
 
  private:
-  // Without the colons behind the captions.
+  // All children except the colons after captions.
   QObjectList Children() const {
     QObjectList children;
     for (QObject* child : widget()->children()) {
@@ -287,7 +288,7 @@ QAccessibleInterface* MakeInterface(const QString& className, QObject* object) {
     return new DialogInterface(static_cast<QWidget*>(object));
   }
   if (isClass(QListView::staticMetaObject) && object->parent() != nullptr) {
-    // A drop-down lies in a frame of its list.
+    // A drop-down is in a frame, whose parent is the list.
     if (auto* combo = qobject_cast<CComboBox*>(object->parent()->parent())) {
       return new EntriesInterface(static_cast<QWidget*>(object), combo);
     }
@@ -295,7 +296,7 @@ QAccessibleInterface* MakeInterface(const QString& className, QObject* object) {
   return nullptr;
 }
 
-// What a screen reader says for a caption: without the tabs and the colon of a template text.
+// A caption for screen readers, without the tabs and the colon of a template's text.
 QString SpokenCaption(const QString& caption) {
   QString spoken = caption.simplified();
   while (spoken.endsWith(QLatin1Char(':'))) spoken.chop(1);
@@ -306,7 +307,7 @@ bool IsText(ControlKind kind) {
   return kind == ControlKind::Label || kind == ControlKind::Colon || kind == ControlKind::Text;
 }
 
-// The control that a row's caption speaks for.
+// The control that a row's caption labels.
 QWidget* ValueOf(const TemplateDialog& dialog, const RowTemplate& row) {
   const auto find = [&](auto matches) -> QWidget* {
     const auto found = std::ranges::find_if(row.controls, matches, &ControlTemplate::kind);
@@ -331,12 +332,12 @@ void InstallAccessibility() {
 void NameControls(const TemplateDialog& dialog) {
   QString caption;
   for (const RowTemplate& row : dialog.Template()->rows) {
-    // A row without a caption continues the one above; "V" and "H" tell the parts of a row apart.
+    // A row without a caption continues the one above; "V" and "H" distinguish the parts of a row.
     QString part;
     for (const auto& [kind, id, text, entries] : row.controls) {
       if (kind == ControlKind::None) break;
       QWidget* control = dialog.GetDlgItem(id);
-      // A button with a picture instead of a text brings a name of its own.
+      // A button with a picture instead of a text already has a name.
       const QString shown = WindowText(*control);
       const QString own = SpokenCaption(shown.isEmpty() ? control->accessibleName() : shown);
       if (kind == ControlKind::Label) {

@@ -6,12 +6,12 @@ namespace AdvancedControl {
 
 class TemplateDialog;
 
-/// Makes dialogs, lists and sliders tell assistive technologies what they are, and take from them
-/// what they take from a hand. Done once; further calls do nothing.
+/// Makes dialogs, lists and sliders accessible to assistive technologies, for reading and for
+/// operating them. Further calls do nothing. User-interface thread only.
 void InstallAccessibility();
 
-/// Names the controls of a created dialog by their rows' captions, and makes each caption the
-/// partner of its row's value.
+/// Names the controls of a created dialog after their rows' captions, and makes each caption the
+/// label of its row's value. User-interface thread only.
 void NameControls(const TemplateDialog& dialog);
 
 }  // namespace AdvancedControl

@@ -9,7 +9,7 @@
 CComboBox::CComboBox(QWidget* parent) : QComboBox(parent) {
   InstallAccessibility();
   setFocusPolicy(Qt::StrongFocus);
-  setContextMenuPolicy(Qt::NoContextMenu);  // or it would keep its dialog from showing one
+  setContextMenuPolicy(Qt::NoContextMenu);  // the dialog shows a context menu instead
   setMaxVisibleItems(20);
   if (isRightToLeft()) setItemDelegate(new IsolatedTexts(this));
 }

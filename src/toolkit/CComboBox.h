@@ -6,31 +6,33 @@
 
 #include "AdvancedControlExport.h"
 
-/// A drop-down list. `activated` reports a choice of the user, also of the entry that is selected
-/// already; selecting by program reports nothing. The wheel is taken only with the focus. Assistive
-/// technologies meet it by its caption's name, and choose as a hand does.
+/// A drop-down list. `activated` reports every choice of the user, even of the selected entry;
+/// selecting by program reports nothing. The list uses the wheel only while it has the focus.
+/// Assistive technologies find it by its caption, and choose as a user does. User-interface thread
+/// only.
 class ADVANCED_CONTROL_EXPORT CComboBox : public QComboBox {
   Q_OBJECT
 
  public:
   explicit CComboBox(QWidget* parent = nullptr);
 
-  /// Adds an entry that stands for its own position. Adding selects nothing: a list shows no value
-  /// before one is known.
+  /// Adds an entry whose value is its position. Adding selects nothing: a list shows no value until
+  /// one is known.
   void Add(const QString& text) { Add(text, count()); }
-  /// Adds an entry that stands for `value`.
+  /// Adds an entry with a value.
   void Add(const QString& text, int value);
 
-  /// Selects a position; one outside the list leaves the list without a selection.
+  /// Selects the entry at a position, or none if the position is outside the list.
   void Select(int position);
 
-  /// Selects the first entry that stands for `value`. False, and nothing changes, without one.
+  /// Selects the first entry with `value`. If there is none, returns false and changes nothing.
   bool SelectValue(int value);
 
-  /// Chooses a position as a user does, and reports it; nothing for one outside the list.
+  /// Chooses the entry at a position as a user does, and reports it. Does nothing for a position
+  /// outside the list.
   void Pick(int position);
 
-  /// What the selected entry stands for; nothing without a selection.
+  /// The value of the selected entry; nothing without a selection.
   std::optional<int> SelectedValue() const;
 
  protected:

@@ -17,12 +17,13 @@ CDialog::CDialog(int templateNumber, CWnd* owner) : OwnedDialog(templateNumber, 
 }
 
 CDialog::~CDialog() {
-  // Hiding takes the focus from a control, which may report to a handler that is gone by now.
+  // Hiding moves the focus away from a control, which must not call a handler of a destroyed
+  // derived class.
   for (const auto& [id, control] : Controls()) control->disconnect(this);
 }
 
 bool CDialog::Create() {
-  if (isWindow() && IsBusy()) return false;  // its controls are in use
+  if (isWindow() && IsBusy()) return false;  // a handler may be using the controls
   Destroy();
   if (!BuildControls()) return false;
   const Busy busy(this);
@@ -41,7 +42,7 @@ bool CDialog::CreateShown(const std::function<void()>& place) {
     show();
   };
   const bool created = Create();
-  ShowUnread();  // a dialog that reads nothing
+  ShowUnread();  // for a dialog that reads nothing
   return created;
 }
 
@@ -59,27 +60,27 @@ int CDialog::DoModal() {
   setWindowModality(Owner() != nullptr ? Qt::WindowModal : Qt::ApplicationModal);
   setResult(Rejected);
   if (!CreateShown([this] { CentreOnOwner(); })) return -1;
-  // It may have been closed while its first page was read.
+  // The dialog may have been closed while its first page was being read.
   const int result = IsCreated() ? exec() : QDialog::result();
   if (self == nullptr) return Rejected;
   ReturnOwner();
   hide();
-  Destroy();  // the event loop may also have ended in other ways than by closing the dialog
+  Destroy();  // the event loop may have ended without closing the dialog
   return result;
 }
 
 void CDialog::CentreOnOwner() {
   if (parentWidget() != nullptr || Owner() == nullptr) return;
-  winId();  // a window of its own is needed to stay above the owner
+  winId();  // creates the native window, which is needed to stay above the owner
   windowHandle()->setTransientParent(Owner()->window()->windowHandle());
-  if (!IsScrolled()) adjustSize();  // or Qt leaves it two thirds of the screen at most
+  if (!IsScrolled()) adjustSize();  // otherwise Qt limits it to two thirds of the screen
   CentreOnScreen(*this, *Owner()->window());
 }
 
 void CDialog::RunHandler(const Notification& entry, CSliderCtrl* slider) {
   auto* top = qobject_cast<CDialog*>(window());
   const QWidget* control = GetDlgItem(entry.id);
-  if (top != nullptr && top->IsBusy() && (control == nullptr || !IsWayOut(*control))) {
+  if (top != nullptr && top->IsBusy() && (control == nullptr || !AcceptsInputWhileBusy(*control))) {
     const auto* button = qobject_cast<const QAbstractButton*>(control);
     if (button == nullptr || button->isCheckable()) top->OnStale();
     return;
@@ -130,9 +131,9 @@ const NotificationMap& CDialog::Notifications() const {
 
 void CDialog::setVisible(bool visible) {
   if (visible && isWindow() && IsOrphaned()) return;
-  // Not before it is seen: a dialog has many pages, and most are not.
+  // Done when first shown, because most pages of a dialog are never shown.
   if (visible && Template() != nullptr && !std::exchange(named_, true)) NameControls(*this);
-  // A page is part of its dialog: showing it must not move the focus or end an event loop.
+  // Showing or hiding a page must not move the focus or end an event loop.
   if (isWindow()) {
     QDialog::setVisible(visible);
   } else {

@@ -47,7 +47,7 @@ class ADVANCED_CONTROL_EXPORT CDialog : public AdvancedControl::OwnedDialog {
  protected:
   /// Binds members to controls; runs before `OnInitDialog`.
   virtual void DoDataExchange() {}
-  /// Fills and lays out; true leaves the focus to the toolkit.
+  /// Fills the controls and completes the layout. True if the toolkit should set the focus.
   virtual bool OnInitDialog() { return true; }
 
   /// Called when a control has changed but its handler could not run, so that it may show a wrong
@@ -63,6 +63,6 @@ class ADVANCED_CONTROL_EXPORT CDialog : public AdvancedControl::OwnedDialog {
   void ConnectNotifications();
   void RunHandler(const AdvancedControl::Notification& entry, CSliderCtrl* slider);
 
-  bool named_ = false;  // for assistive technologies
+  bool named_ = false;  // whether the controls have names for assistive technologies
   std::function<void()> showUnread_;
 };

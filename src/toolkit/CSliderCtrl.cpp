@@ -17,8 +17,8 @@ namespace {
 
 constexpr int kTickLength = 4;
 constexpr int kTickGap = 1;  // between the handle and its ticks
-constexpr int kTickRoom = kTickGap + kTickLength;
-constexpr int kClosestTicks = 3;  // nearer to each other they are a line
+constexpr int kTickHeight = kTickGap + kTickLength;
+constexpr int kClosestTicks = 3;  // closer ticks would look like a line
 
 }  // namespace
 
@@ -46,13 +46,13 @@ void CSliderCtrl::ScrollTo(int position) {
   if (value() != before) Q_EMIT EndScroll();
 }
 
-// The same room above the handle, so that the track is in the middle.
-QSize CSliderCtrl::sizeHint() const { return QSlider::sizeHint() + QSize(0, 2 * kTickRoom); }
+// The same space above the handle as below it, so that the track is in the middle.
+QSize CSliderCtrl::sizeHint() const { return QSlider::sizeHint() + QSize(0, 2 * kTickHeight); }
 
-// Some styles make the handle as high as they can.
+// Some styles make the handle as high as the slider, so they do not get the ticks' space.
 void CSliderCtrl::initStyleOption(QStyleOptionSlider* option) const {
   QSlider::initStyleOption(option);
-  option->rect.adjust(0, kTickRoom, 0, -kTickRoom);
+  option->rect.adjust(0, kTickHeight, 0, -kTickHeight);
 }
 
 QSize CSliderCtrl::minimumSizeHint() const {
@@ -84,7 +84,7 @@ void CSliderCtrl::paintEvent(QPaintEvent* event) {
 }
 
 void CSliderCtrl::mousePressEvent(QMouseEvent* event) {
-  // Some styles also scroll with the middle button; here only the left one acts.
+  // Some styles also scroll with the middle button, but here only the left one does.
   if (event->button() == Qt::LeftButton) {
     pressed_ = true;
     QSlider::mousePressEvent(event);
@@ -95,7 +95,7 @@ void CSliderCtrl::mousePressEvent(QMouseEvent* event) {
 }
 
 void CSliderCtrl::mouseReleaseEvent(QMouseEvent* event) {
-  // The press may have been dropped.
+  // The press may have been dropped, so a release alone reports nothing.
   const bool scrolled = event->button() == Qt::LeftButton && std::exchange(pressed_, false);
   QSlider::mouseReleaseEvent(event);
   if (scrolled) Finish();
@@ -121,13 +121,13 @@ void CSliderCtrl::wheelEvent(QWheelEvent* event) {
   }
   const int before = value();
   QSlider::wheelEvent(event);
-  event->accept();  // at the end of the range too, or the wheel would scroll something behind
+  event->accept();  // even at the end of the range, otherwise the wheel would scroll the parent
   if (value() != before) Q_EMIT EndScroll();
 }
 
 void CSliderCtrl::focusOutEvent(QFocusEvent* event) {
   QSlider::focusOutEvent(event);
-  // A slider that is disabled in mid-step loses the focus by that: the user did not finish.
+  // Disabling the slider takes its focus away; in that case the user did not finish.
   if (!isEnabled()) keyScrolling_ = false;
   EndKeyScroll();
 }

@@ -2,13 +2,13 @@
 
 #include <QSlider>
 
-/// A slider that reports when the user has finished moving it: at the mouse release after a drag
-/// or a click in the groove, at the release of a stepping key, at each wheel notch, and when the
-/// focus leaves while a key is still down. Moving it by program reports nothing. The wheel is
-/// taken only while it has the focus.
+/// A slider that reports when the user has finished moving it: at the mouse release after a drag or
+/// a click in the groove, at the release of a stepping key, at each wheel notch, and when the focus
+/// leaves while a key is still down. Moving it by program reports nothing. It uses the wheel only
+/// while it has the focus. User-interface thread only.
 ///
-/// Its ticks are its own: styles draw them in the shade of a border, which a dark palette swallows,
-/// and push the track out of the middle for them.
+/// It draws its own ticks: those of some styles are invisible with a dark palette, and move the
+/// track out of the middle.
 class CSliderCtrl : public QSlider {
   Q_OBJECT
 
@@ -18,17 +18,18 @@ class CSliderCtrl : public QSlider {
   /// Sets range and tick distance (at least 1); the position is kept inside the range.
   void SetRange(int minimum, int maximum, int tickFrequency);
 
-  /// Moves as a user does, and reports it. Nothing without a change.
+  /// Moves the slider as a user does, and reports it, unless `position` is the present one.
   void ScrollTo(int position);
 
-  /// Where the handle is, in the slider's coordinates.
+  /// The handle's rectangle, in the slider's coordinates.
   QRect HandleRect() const;
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
 
  Q_SIGNALS:
-  void Scrolling(bool goesOn);  ///< While it goes on the value is what its end will send.
+  void Scrolling(bool goesOn);  ///< True while the user moves the slider; the value is then the one
+                                ///< that the end will send.
   void EndScroll();
 
  protected:

@@ -20,7 +20,7 @@ QSize CTabCtrl::tabSizeHint(int index) const {
   return {std::max(natural.width(), itemWidth_), natural.height()};
 }
 
-// A notch over the tabs by accident would leave the page that the user works on.
+// Ignored, because an accidental wheel notch would leave the page that the user works on.
 void CTabCtrl::wheelEvent(QWheelEvent* event) {
   if (hasFocus()) {
     QTabBar::wheelEvent(event);

@@ -2,5 +2,5 @@
 
 #include <QWidget>
 
-/// Any window or control, as the dialogs' public interfaces name it.
+/// Any window or control.
 using CWnd = QWidget;

@@ -11,10 +11,10 @@ namespace {
 
 // In pixels.
 constexpr double kWidth = 2;
-constexpr double kMark = 2.5;  // a radius, to which the pen adds
-constexpr double kEdges = 4;   // what is seen, on both sides, of a line below another
+constexpr double kMark = 2.5;  // radius, without the pen
+constexpr double kEdges = 4;   // extra width of a line for each line that covers it
 
-bool LieTogether(const QPolygonF& a, const QPolygonF& b) {
+bool Coincide(const QPolygonF& a, const QPolygonF& b) {
   return std::ranges::equal(
       a, b, [](const QPointF& p, const QPointF& q) { return (p - q).manhattanLength() < kEdges; });
 }
@@ -60,13 +60,13 @@ void CurveView::paintEvent(QPaintEvent*) {
   painter.setPen(QPen(faint, 1, Qt::DashLine));
   painter.drawPolyline(place({QPointF(0, 0), QPointF(1, 1)}));
 
-  double labelAt = labels / 2;  // the labels beside each other: lines may end in one point
+  double labelAt = labels / 2;  // spreads the labels, because lines may end in the same point
   for (auto line = lines_.begin(); line != lines_.end(); ++line) {
     if (line->accepted.isEmpty()) continue;
     const QColor color = ColorOf(*line);
     const QPolygonF accepted = place(line->accepted);
     const auto hiding = std::count_if(line + 1, lines_.end(), [&](const Line& later) {
-      return LieTogether(accepted, place(later.accepted));
+      return Coincide(accepted, place(later.accepted));
     });
     const double width = kWidth + kEdges * static_cast<double>(hiding);
     if (line->tried != line->accepted) {

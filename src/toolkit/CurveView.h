@@ -10,20 +10,20 @@
 
 namespace AdvancedControl {
 
-/// Lines in a frame, for those who would rather look than read: what is accepted solid, what is
-/// being tried dotted. Takes neither input nor the focus.
+/// Draws lines in a frame as a picture of several values: accepted values as solid lines, values
+/// being tried as dotted lines. Takes neither input nor the focus. User-interface thread only.
 class CurveView : public QWidget {
   Q_OBJECT
 
  public:
   struct Line {
-    QString label;     ///< Stands at the line's end; may be empty.
-    int hue = kNoHue;  ///< Of the colour wheel, 0 to 359; the palette gives the lightness.
-    QPolygonF
-        accepted;  ///< From left (0) to right (1), low (0) to high (1); three eighths more fit.
+    QString label;       ///< Drawn at the line's end; may be empty.
+    int hue = kNoHue;    ///< Hue, 0 to 359; the lightness depends on the palette.
+    QPolygonF accepted;  ///< From left (0) to right (1), low (0) to high (1); up to 3/8 above and
+                         ///< below are also shown.
     QPolygonF tried;
 
-    static constexpr int kNoHue = -1;  ///< The palette's colour for a selection.
+    static constexpr int kNoHue = -1;  ///< Uses the palette's selection colour.
   };
 
   using QWidget::QWidget;

@@ -13,7 +13,7 @@ namespace AdvancedControl {
 enum class ControlKind : std::uint8_t {
   None,
   Label,  ///< Caption of a row; names the row's value controls for a screen reader.
-  Colon,  ///< The ":" behind a caption.
+  Colon,  ///< The ":" after a caption.
   Text,   ///< Static text that shows a value or captions a part of a row ("V", "H").
   Minus,  ///< Small "-" button left of a slider or field.
   Slider,
@@ -31,7 +31,7 @@ enum class ControlKind : std::uint8_t {
 struct ControlTemplate {
   ControlKind kind = ControlKind::None;
   int id = 0;                ///< Number by which `CDialog::GetDlgItem` finds it.
-  const char* caption = "";  ///< UTF-8; "number;default text" where it is localizable.
+  const char* caption = "";  ///< UTF-8; "number;default text" if it is localizable.
   std::span<const char* const> entries = {};  ///< Fixed list of a combo.
 };
 
@@ -39,7 +39,7 @@ struct ControlTemplate {
 enum class RowPlace : std::uint8_t {
   Left,    ///< In the left column, packed from the top.
   Right,   ///< In the right column, packed from the top.
-  Bottom,  ///< In the left column, always at the foot of the dialog.
+  Bottom,  ///< In the left column, at the bottom of the dialog.
 };
 
 /// One row: the controls from left to right. A row without a caption continues the one above.
@@ -99,7 +99,8 @@ constexpr RowTemplate Row(RowPlace place, const Controls&... controls) {
   return {place, {controls...}};
 }
 
-/// A slider row: − button, slider, + button and number field behind the caption.
+/// The control numbers of a slider row: − button, slider, + button and number field, after the
+/// caption.
 struct SliderIds {
   int minus, slider, plus, field;
 };

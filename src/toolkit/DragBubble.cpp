@@ -17,7 +17,8 @@ namespace {
 
 constexpr int kGap = 4;
 
-// A child of the slider's window, so that no window manager has a say in it.
+// A child of the slider's window instead of a window, so that the window manager does not affect
+// it.
 class DragBubble final : public QLabel {
  public:
   explicit DragBubble(CSliderCtrl& slider) : QLabel(slider.window()), slider_(slider) {

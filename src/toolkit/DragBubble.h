@@ -6,8 +6,8 @@ class CSliderCtrl;
 
 namespace AdvancedControl {
 
-/// Shows beside a slider's handle, while it is scrolled by hand, the number that letting go would
-/// send.
+/// While the user moves a slider, shows beside its handle the number that releasing it would send.
+/// User-interface thread only.
 void AttachDragBubble(CSliderCtrl& slider);
 
 }  // namespace AdvancedControl

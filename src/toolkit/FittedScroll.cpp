@@ -11,7 +11,7 @@ namespace AdvancedControl {
 
 namespace {
 
-// Of a window manager's frame nothing is known before the window is on the screen.
+// A guess: the window manager's frame is unknown until the window is shown.
 constexpr QSize kFrame{10, 40};
 
 }  // namespace
@@ -24,12 +24,13 @@ FittedScroll::FittedScroll(QWidget* contents, QWidget* parent) : QScrollArea(par
   contents->setAutoFillBackground(false);
   viewport()->setAutoFillBackground(false);
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
-    if (now != nullptr && widget()->isAncestorOf(now)) BringIntoSight(*now);
+    if (now != nullptr && widget()->isAncestorOf(now)) ScrollIntoView(*now);
   });
 }
 
-// Qt scrolls sideways as if everything ran from left to right.
-void FittedScroll::BringIntoSight(QWidget& control) {
+// Mirrored layouts need this, because Qt scrolls horizontally as if all text ran from left to
+// right.
+void FittedScroll::ScrollIntoView(QWidget& control) {
   ensureWidgetVisible(&control, 0, control.height());
   if (!isRightToLeft()) return;
   const int left = control.mapTo(viewport(), QPoint()).x();
@@ -38,16 +39,16 @@ void FittedScroll::BringIntoSight(QWidget& control) {
   bar.setValue(bar.value() - (beyond > 0 ? beyond : std::min(left, 0)));
 }
 
-QSize RoomOnScreen(const QWidget& window) {
+QSize AvailableSize(const QWidget& window) {
   return window.screen()->availableGeometry().size() - kFrame;
 }
 
 QSize FittedToScreen(const QWidget& window, QSize wanted) {
-  const QSize room = RoomOnScreen(window);
+  const QSize available = AvailableSize(window);
   const int bar = window.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-  const bool tooHigh = wanted.height() > room.height();
-  const bool tooWide = wanted.width() > room.width();
-  return (wanted + QSize(tooHigh ? bar : 0, tooWide ? bar : 0)).boundedTo(room);
+  const bool tooHigh = wanted.height() > available.height();
+  const bool tooWide = wanted.width() > available.width();
+  return (wanted + QSize(tooHigh ? bar : 0, tooWide ? bar : 0)).boundedTo(available);
 }
 
 void CentreOnScreen(QWidget& window, const QWidget& owner) {

@@ -6,26 +6,27 @@
 
 namespace AdvancedControl {
 
-/// A frameless view of contents that the screen may have no room for: they are as large as the view
-/// or scroll, and the control that gets the focus is brought into sight.
+/// A frameless view for contents that may be too large for the screen. They fill the view or
+/// scroll; the control that gets the focus is scrolled into view. User-interface thread only.
 class FittedScroll : public QScrollArea {
   Q_OBJECT
 
  public:
-  /// `contents`, shown without a background of its own, comes to belong to the view.
+  /// The view takes ownership of `contents`, and shows it without its own background.
   FittedScroll(QWidget* contents, QWidget* parent);
 
  private:
-  void BringIntoSight(QWidget& control);
+  void ScrollIntoView(QWidget& control);
 };
 
-/// The largest size that leaves `window` with its frame on its screen.
-QSize RoomOnScreen(const QWidget& window);
+/// The largest size of `window` that fits on its screen, together with its frame.
+QSize AvailableSize(const QWidget& window);
 
-/// `wanted`, or what the screen has room for, with a scroll bar for what then is cut off.
+/// `wanted`, limited to the size of the screen. If one dimension is too large, the other has space
+/// for a scroll bar.
 QSize FittedToScreen(const QWidget& window, QSize wanted);
 
-/// Puts `window` over the middle of `owner`, or as near as the screen allows.
+/// Centres `window` on `owner`, or as near to that as the screen allows.
 void CentreOnScreen(QWidget& window, const QWidget& owner);
 
 }  // namespace AdvancedControl

@@ -6,10 +6,10 @@
 
 namespace AdvancedControl {
 
-/// Controls user input while handlers run. A handler may run an event loop: while a command waits,
-/// or for a message box or pop-up. Until the last handler returns, input to the controls is
-/// dropped; only tabs, Close, Esc and the window's own close button act. They leave the running
-/// handlers, which must then end at once. User-interface thread only.
+/// Controls user input while handlers run. A handler may run an event loop, for example while a
+/// command waits or a message box is open. Until the last handler returns, input to the controls is
+/// dropped; only tabs, Close, Esc and the window's own close button act. They abandon the running
+/// handlers, which must then return at once. User-interface thread only.
 ///
 /// Esc and Enter never act on a page: Esc closes the dialog it belongs to, Enter presses the button
 /// that has the focus and nothing else.
@@ -58,8 +58,8 @@ class ADVANCED_CONTROL_EXPORT InputDialog : public TemplateDialog {
   /// Called when no handler runs any more, after `OnIdle` and `OnReturn`.
   virtual void AfterHandlers() {}
 
-  int busy_ = 0;       // handlers that run, one in another
-  bool left_ = false;  // what they do
+  int busy_ = 0;       // number of running handlers, which are nested
+  bool left_ = false;  // the running handlers were abandoned
 };
 
 }  // namespace AdvancedControl

@@ -11,7 +11,8 @@ namespace AdvancedControl {
 
 namespace {
 
-// What begins something. What ends it, as a release does, must reach the control that has begun.
+// Instance events that begin an action. Events that end one, such as a release, must reach the
+// control where it began.
 bool IsInput(const QEvent& event) {
   switch (event.type()) {
     case QEvent::MouseButtonPress:
@@ -37,7 +38,7 @@ bool IsInput(const QEvent& event) {
   }
 }
 
-// Also of a list that has dropped down.
+// Also finds the dialog of a list that is dropped down.
 const TemplateDialog* DialogOf(const QWidget& widget) {
   const QWidget* window = widget.window();
   while (window->windowType() == Qt::Popup && window->parentWidget() != nullptr) {
@@ -48,28 +49,28 @@ const TemplateDialog* DialogOf(const QWidget& widget) {
 
 }  // namespace
 
-InputGate& InputGate::Only() {
+InputGate& InputGate::Instance() {
   static InputGate gate;
   return gate;
 }
 
 void InputGate::Close(const TemplateDialog& dialog) {
-  auto& closed = Only().closed_;
+  auto& closed = Instance().closed_;
   closed.push_back(&dialog);
-  if (closed.size() == 1 && qApp != nullptr) qApp->installEventFilter(&Only());
+  if (closed.size() == 1 && qApp != nullptr) qApp->installEventFilter(&Instance());
 }
 
 void InputGate::Open(const TemplateDialog& dialog) {
-  auto& closed = Only().closed_;
+  auto& closed = Instance().closed_;
   std::erase(closed, &dialog);
-  if (closed.empty() && qApp != nullptr) qApp->removeEventFilter(&Only());
+  if (closed.empty() && qApp != nullptr) qApp->removeEventFilter(&Instance());
 }
 
 bool InputGate::eventFilter(QObject* watched, QEvent* event) {
   if (!IsInput(*event) || !watched->isWidgetType()) return false;
   const auto& target = static_cast<const QWidget&>(*watched);
   const TemplateDialog* dialog = DialogOf(target);
-  return std::ranges::count(closed_, dialog) > 0 && !dialog->IsWayOut(target);
+  return std::ranges::count(closed_, dialog) > 0 && !dialog->AcceptsInputWhileBusy(target);
 }
 
 }  // namespace AdvancedControl

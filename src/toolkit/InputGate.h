@@ -10,11 +10,11 @@ namespace AdvancedControl {
 
 class TemplateDialog;
 
-/// Drops what the user does to the controls of dialogs whose handlers run. Only while there is such
-/// a dialog does it look at the application's events.
+/// Drops input to the controls of dialogs whose handlers run. Filters the application's events only
+/// while there is such a dialog. User-interface thread only.
 class InputGate final : public QObject {
  public:
-  /// One more dialog is busy, and one fewer.
+  /// Starts and ends dropping input to `dialog`.
   static void Close(const TemplateDialog& dialog);
   static void Open(const TemplateDialog& dialog);
 
@@ -22,7 +22,7 @@ class InputGate final : public QObject {
 
  private:
   InputGate() = default;
-  static InputGate& Only();
+  static InputGate& Instance();
 
   std::vector<const TemplateDialog*> closed_;
 };

@@ -7,13 +7,15 @@
 
 namespace AdvancedControl {
 
-/// `text` as it reads by itself, whatever the direction of what it is shown in: from right to left
-/// "#1-Default" would become "Default-#1". For drawing alone: the marks are no part of the text.
+/// Keeps the text's own direction in a context of the other direction; in right-to-left text,
+/// "#1-Default" would otherwise be drawn as "Default-#1". Use it only for drawing, because it adds
+/// invisible marks.
 inline QString Isolated(const QString& text) {
   return QChar(0x2068) + text + QChar(0x2069);  // first strong isolate, pop directional isolate
 }
 
-/// Draws the texts of a view's items so; what is copied or read out stays as it is.
+/// Draws the texts of a view's items with `Isolated`. Copied texts and those for screen readers
+/// have no marks.
 class IsolatedTexts : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;

@@ -12,7 +12,7 @@ struct Block {
   std::size_t size;
 };
 
-// Memory from MadeWithNew::operator new in which no object has been constructed yet.
+// Memory from MadeWithNew::operator new that has no object yet.
 std::vector<Block>& NewBlocks() {
   static std::vector<Block> blocks;
   return blocks;
@@ -44,7 +44,7 @@ void* MadeWithNew::operator new(std::size_t size, const std::nothrow_t&) noexcep
 }
 
 void MadeWithNew::operator delete(void* object) {
-  TakeNewBlock(object);  // still there if no object came to be constructed
+  TakeNewBlock(object);  // still listed if the constructor was never reached
   ::operator delete(object);
 }
 

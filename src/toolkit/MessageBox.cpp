@@ -18,7 +18,7 @@ int Run(QWidget* owner, QMessageBox::Icon icon, const QString& text,
     return QMessageBox::NoButton;
   }
   const OwnedDialog::Busy busy(window);
-  // On the heap: a window that dies while the box is up takes the box with it.
+  // On the heap, because the owner deletes the box if it dies while the box is open.
   const QPointer<QMessageBox> box = new QMessageBox(
       icon, window != nullptr ? window->windowTitle() : QString(), text, buttons, window);
   box->setTextFormat(Qt::PlainText);

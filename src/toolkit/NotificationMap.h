@@ -15,7 +15,7 @@ class CSliderCtrl;
 
 namespace AdvancedControl {
 
-/// What a control reports, and its handler.
+/// A report of a control, and its handler.
 struct Notification {
   enum class Event : std::uint8_t {
     Clicked,    ///< The user pressed a button or changed a check box.
@@ -38,7 +38,7 @@ class NotificationMap {
 
   const std::vector<Notification>& Entries() const { return entries_; }
 
-  /// Whether this control has a line.
+  /// Whether the control `id` has a line.
   bool Names(int id) const { return std::ranges::count(entries_, id, &Notification::id) != 0; }
 
  private:

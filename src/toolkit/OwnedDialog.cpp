@@ -27,7 +27,7 @@ std::vector<OwnedDialog*> PopUpsOf(const OwnedDialog& owner) {
   return popUps;
 }
 
-// Also the message boxes of running handlers.
+// Also closes the message boxes of running handlers.
 void ClosePopUps(const OwnedDialog& owner) {
   std::vector<QPointer<QDialog>> modals;
   for (OwnedDialog* popUp : PopUpsOf(owner)) modals.emplace_back(popUp);
@@ -80,7 +80,7 @@ void OwnedDialog::BorrowOwner() {
     const auto newest = std::find_if(open.rbegin(), open.rend(), isVisible);
     if (newest != open.rend()) active = *newest;
   }
-  // The list of one of this dialog's own controls may still be the active window.
+  // The active window may still be the drop-down of a list in this dialog.
   const QObject* part = active;
   while (part != nullptr && part != this) part = part->parent();
   owner_ = part == nullptr ? active : nullptr;
@@ -97,17 +97,17 @@ void OwnedDialog::WatchOwner() {
   ownerDies_ = connect(Owner(), &QObject::destroyed, this, &OwnedDialog::OnOwnerDying);
 }
 
-// Comes before the owner deletes its children.
+// Called before the owner deletes its children.
 void OwnedDialog::OnOwnerDying() {
   if (!isWindow()) return;
   if (parentWidget() == nullptr) return End();
-  if (deletedWithOwner_ && !IsBusy()) return;  // as any child
+  if (deletedWithOwner_ && !IsBusy()) return;  // the owner deletes it like any child
   deletionWaits_ = deletionWaits_ || deletedWithOwner_;
   End();
   setParent(nullptr, windowFlags());
 }
 
-// Emits nothing: its listeners may be parts of the owner.
+// Emits no signals, because the receivers may be parts of the owner.
 void OwnedDialog::End() {
   const Life before = std::exchange(life_, Life::Orphaned);
   if (before == Life::Orphaned) return;
@@ -140,7 +140,7 @@ bool OwnedDialog::event(QEvent* event) {
 
 void OwnedDialog::AfterHandlers() {
   if (!deletionWaits_) return;
-  // The dialog's own deferred deletion may be used up.
+  // Qt may already have dispatched the dialog's own deferred deletion.
   auto* last = new QObject;  // NOLINT(bugprone-unhandled-exception-at-new): Qt ends without memory
   QObject::connect(last, &QObject::destroyed, [dialog = QPointer(this)] { delete dialog; });
   last->deleteLater();

@@ -13,7 +13,8 @@ struct Chain {
   std::vector<const ResourceModule*> registered;
 };
 
-// Libraries register while they are loaded, before other file-level objects need exist.
+// A local static, because libraries register while they are loaded, before other static objects
+// exist.
 Chain& TheChain() {
   static Chain chain;
   return chain;

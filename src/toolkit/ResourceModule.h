@@ -20,21 +20,21 @@ class ResourceModule {
   std::span<const DialogTemplate* const> dialogs_;
 };
 
-/// Where resources are looked for: the current module first, then every registered module, newest
-/// first. Process-wide; used from the user-interface thread.
+/// The modules that are searched for resources: the current one first, then all registered ones,
+/// newest first. Process-wide; user-interface thread only.
 namespace ResourceChain {
 
-/// The current module; null when none was ever set.
+/// The current module; null if there is none.
 const ResourceModule* Current();
-/// Makes `module` (null for none) the current one and returns the one before.
+/// Makes `module` (null for none) the current one and returns the previous one.
 const ResourceModule* SetCurrent(const ResourceModule* module);
 
-/// Adds a module to the chain, so that searches of other modules also find its resources.
+/// Adds a module to the chain. It must stay valid until `Unregister`.
 void Register(const ResourceModule& module);
-/// Takes a module out; if it is the current one, there is none any more.
+/// Removes a module. If it is the current one, no module is current afterwards.
 void Unregister(const ResourceModule& module);
 
-/// The template with this number along the chain, or null.
+/// The first template with this number in the chain, or null.
 const DialogTemplate* FindDialog(int number);
 
 }  // namespace ResourceChain

@@ -22,7 +22,7 @@ constexpr int kSliderMinimumWidth = 150;
 constexpr int kRepeatDelay = 400;  // milliseconds
 constexpr int kRepeatInterval = 80;
 
-/// A label of one line, which takes its measure once: QLabel lays its text out three times.
+/// A one-line label that measures its text once; QLabel would lay it out three times.
 class LineLabel final : public QLabel {
  public:
   using QLabel::QLabel;
@@ -53,14 +53,14 @@ int SmallButtonWidth(const QWidget& widget) { return widget.fontMetrics().height
 
 QPushButton* MakeButton(const QString& caption, QWidget* parent) {
   auto* button = new QPushButton(caption, parent);
-  // Enter must not press a button that merely exists.
+  // Enter must not press a button without the focus.
   button->setAutoDefault(false);
   return button;
 }
 
 QPushButton* MakeSmallButton(const QString& caption, QWidget* parent) {
   QPushButton* button = MakeButton(caption, parent);
-  // Held down it steps on; what comes while a step waits for the projector is dropped.
+  // Holding the button repeats the step; repeats are dropped while a step waits for the projector.
   button->setAutoRepeat(true);
   button->setAutoRepeatDelay(kRepeatDelay);
   button->setAutoRepeatInterval(kRepeatInterval);
@@ -83,11 +83,11 @@ CComboBox* MakeCombo(std::span<const char* const> entries, QWidget* parent) {
   return combo;
 }
 
-// Controls that share the value columns: an arrow pad, check boxes, a lone button.
+// Places controls that share the value columns: an arrow pad, check boxes or a single button.
 void PlaceTogether(std::vector<QWidget*> controls, bool arrows, QGridLayout* grid, int gridRow,
                    int firstColumn, int endColumn) {
   auto* box = new QHBoxLayout;
-  // Left stays left where the layout is mirrored.
+  // The left arrow stays left in a mirrored layout.
   if (arrows && controls.front()->isRightToLeft()) std::ranges::reverse(controls);
   box->setContentsMargins(0, 0, 0, 0);
   box->setSpacing(grid->horizontalSpacing());
@@ -153,7 +153,7 @@ bool Has(const RowTemplate& row, ControlKind kind) {
   return std::ranges::find(row.controls, kind, &ControlTemplate::kind) != row.controls.end();
 }
 
-/// Where a control of a row stands; no column for one that stands together with its neighbours.
+/// The column of a control; none if it shares the value columns with its neighbours.
 struct Place {
   int column = -1;
   int span = 1;
@@ -176,7 +176,7 @@ Place PlaceOf(const RowTemplate& row, std::size_t index, std::size_t count) {
     case ControlKind::Combo:
       return {RowColumn::Minus, 3};
     case ControlKind::Field:
-      // The last field of a row stands in the column of all fields.
+      // The last field of a row is in the column of the fields.
       return hasSlider || index + 1 >= count ? Place{RowColumn::Field} : Place{};
     case ControlKind::Button:
       if (hasSlider) return {RowColumn::Button};
@@ -184,7 +184,7 @@ Place PlaceOf(const RowTemplate& row, std::size_t index, std::size_t count) {
     case ControlKind::Close:
       return {RowColumn::Label, RowColumn::Count, Qt::AlignRight};
     case ControlKind::Text:
-      // The captions of an arrow pad's parts have a column, so that its arrows are in line.
+      // The captions within an arrow pad have their own column, so that the arrows are aligned.
       return Has(row, ControlKind::Arrow) ? Place{RowColumn::Minus} : Place{};
     default:
       return {};

@@ -22,7 +22,8 @@ inline constexpr int Button = 6;
 inline constexpr int Count = 7;
 }  // namespace RowColumn
 
-/// A column of rows: a grid of the shared columns, as wide in every dialog.
+/// A grid for a column of rows, with the shared columns, which have the same width in every dialog.
+/// The caller takes ownership.
 QGridLayout* MakeRowColumns(const QWidget& dialog);
 
 /// The widget for a control of a template, a direct child of `parent`, which owns it.

@@ -30,10 +30,10 @@ TemplateDialog::TemplateDialog(int templateNumber, CWnd* parent)
     : QDialog(parent), templateNumber_(templateNumber) {}
 
 bool TemplateDialog::BuildControls() {
-  // A dialog may be run again; the controls of its last run may have been in use until it closed.
+  // If the dialog ran before, the controls of that run still exist.
   for (const auto& [id, control] : std::exchange(controls_, {})) delete control;
   rows_.clear();
-  waysOut_.clear();
+  usableWhileBusy_.clear();
   delete layout();
   delete scroll_;
 
@@ -48,17 +48,17 @@ bool TemplateDialog::BuildControls() {
       placed.controls.push_back(widget);
       controls_[control.id] = widget;
       if (control.kind == ControlKind::Close || control.kind == ControlKind::Tab) {
-        waysOut_.push_back(widget);
+        usableWhileBusy_.push_back(widget);
       }
     }
     rows_.push_back(std::move(placed));
   }
-  // A dialog of tabs places its pages and controls itself.
-  if (std::ranges::none_of(template_->rows, HoldsTab)) LayOut();
+  // A dialog with tabs lays out its pages and controls itself.
+  if (std::ranges::none_of(template_->rows, HoldsTab)) CreateLayout();
   return true;
 }
 
-void TemplateDialog::LayOut() {
+void TemplateDialog::CreateLayout() {
   auto* columns = new QHBoxLayout(this);
   columns->setContentsMargins(isWindow() ? 16 : 0, isWindow() ? 12 : 0, isWindow() ? 16 : 0,
                               isWindow() ? 12 : 0);
@@ -66,7 +66,8 @@ void TemplateDialog::LayOut() {
   if (isWindow()) columns->setSizeConstraint(QLayout::SetFixedSize);  // follows absent rows
   QGridLayout* const left = MakeRowColumns(*this);
   columns->addLayout(left, 1);
-  // Pages keep two columns even where only one is used, so that rows do not jump between tabs.
+  // A page has two columns even if it uses only one, so that rows are at the same place on all
+  // tabs.
   QGridLayout* const right = isWindow() ? nullptr : MakeRowColumns(*this);
   if (right != nullptr) columns->addLayout(right, 1);
   int leftRow = 0;
@@ -87,7 +88,7 @@ void TemplateDialog::LayOut() {
   if (right != nullptr) {
     right->setRowStretch(rightRow, 1);
   } else {
-    // Absent rows make a window lower, but not narrower than its template.
+    // Absent rows reduce a window's height, but its width stays at least that of the template.
     const QMargins margins = layout()->contentsMargins();
     const int width = FromDialogUnits(template_->width, 0).width();
     left->addItem(new QSpacerItem(width - margins.left() - margins.right(), 0), leftRow, 0, 1,
@@ -97,7 +98,7 @@ void TemplateDialog::LayOut() {
 
 void TemplateDialog::FinishLayout() {
   UpdateRows();
-  GiveMnemonics();
+  AssignMnemonics();
   FitToScreen();
 }
 
@@ -124,8 +125,8 @@ void TemplateDialog::UpdateRows() {
   }
 }
 
-// Alt+C closes in every language: where the caption has no C, it bears one behind it.
-void TemplateDialog::GiveMnemonics() {
+// Alt+C closes the dialog in every language; a caption without a C gets "(C)" appended.
+void TemplateDialog::AssignMnemonics() {
   for (const RowTemplate& row : template_->rows) {
     if (row.controls.front().kind != ControlKind::Close) continue;
     auto& close = Item<QPushButton>(row.controls.front().id);
@@ -138,13 +139,13 @@ void TemplateDialog::GiveMnemonics() {
   }
 }
 
-// A pop-up that the screen has no room for scrolls its rows; Close stays in sight.
+// A pop-up that is too large for the screen scrolls its rows; Close stays visible.
 void TemplateDialog::FitToScreen() {
   if (!isWindow() || layout() == nullptr || scroll_ != nullptr) return;
   const QSize wanted = layout()->totalSizeHint();
-  if (wanted == wanted.boundedTo(RoomOnScreen(*this))) return;
+  if (wanted == wanted.boundedTo(AvailableSize(*this))) return;
   auto* rows = new QWidget(this);
-  rows->setLayout(layout());  // the controls come along
+  rows->setLayout(layout());  // also moves the controls
   auto* frame = new QVBoxLayout(this);
   frame->addWidget(scroll_ = new FittedScroll(rows, this));
   for (std::size_t i = 0; i < rows_.size(); ++i) {
@@ -159,13 +160,13 @@ void TemplateDialog::FitToScreen() {
   resize(FittedToScreen(*this, rows->layout()->totalSizeHint() + outside));
 }
 
-bool TemplateDialog::IsWayOut(const QWidget& target) const {
+bool TemplateDialog::AcceptsInputWhileBusy(const QWidget& target) const {
   for (const QWidget* part = &target; part != nullptr && part != this;
        part = part->parentWidget()) {
     if (qobject_cast<const TemplateDialog*>(part) != nullptr) return false;  // a page
     const bool isControl = std::ranges::any_of(
         controls_, [part](const auto& control) { return control.second == part; });
-    if (isControl) return std::ranges::count(waysOut_, part) > 0;
+    if (isControl) return std::ranges::count(usableWhileBusy_, part) > 0;
   }
   return true;
 }
@@ -223,7 +224,8 @@ void TemplateDialog::GreyCaption(int id) {
 
 void TemplateDialog::ShowNotice(const QString& text) {
   auto* notice = new QLabel(text, this);
-  notice->setMinimumHeight(FromDialogUnits(0, template_->rulerHeight).height());  // a row's place
+  notice->setMinimumHeight(
+      FromDialogUnits(0, template_->rulerHeight).height());  // as high as a row
   controls_[kNoticeId] = notice;
   auto* left = static_cast<QGridLayout*>(layout()->itemAt(0)->layout());
   left->addWidget(notice, 0, 0, 1, RowColumn::Count, Qt::AlignTop | Qt::AlignLeft);
@@ -238,7 +240,7 @@ void TemplateDialog::PlaceBesideClose(QWidget& widget) {
 }
 
 QSize TemplateDialog::FromDialogUnits(int width, int height) const {
-  // Shaping the alphabet costs more than making several controls: once a font will do.
+  // Cached per font, because shaping the alphabet takes longer than creating several controls.
   static QString measuredFont;
   static QSize base;
   if (const QString key = font().key(); key != measuredFont) {

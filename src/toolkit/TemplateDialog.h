@@ -41,7 +41,7 @@ class ADVANCED_CONTROL_EXPORT TemplateDialog : public QDialog {
 
   /// Whether `target`, the dialog or a widget in it, accepts input while a handler runs: tabs,
   /// Close and the space between the controls, but nothing on a page.
-  bool IsWayOut(const QWidget& target) const;
+  bool AcceptsInputWhileBusy(const QWidget& target) const;
 
   /// Shows or removes the row that holds this control; the rows below close the gap.
   void ShowRow(int id, bool present);
@@ -61,7 +61,7 @@ class ADVANCED_CONTROL_EXPORT TemplateDialog : public QDialog {
   void UpdateRows();
 
   const std::unordered_map<int, QWidget*>& Controls() const { return controls_; }
-  /// Whether the rows scroll, because the screen has no room for them all.
+  /// Whether the rows scroll because they do not fit on the screen.
   bool IsScrolled() const { return scroll_ != nullptr; }
 
   /// The rectangle of a control's row, from its first control to its last.
@@ -89,17 +89,17 @@ class ADVANCED_CONTROL_EXPORT TemplateDialog : public QDialog {
 
   [[noreturn]] void NoSuchControl(int id) const;
   PlacedRow* RowOf(int id);
-  void LayOut();
-  void GiveMnemonics();
+  void CreateLayout();
+  void AssignMnemonics();
   void FitToScreen();
 
   int templateNumber_;
   const DialogTemplate* template_ = nullptr;
-  QPointer<QWidget> scroll_;  // of the rows of a window that the screen has no room for
-  int pitch_ = 0;             // of the present rows, in pixels
+  QPointer<QWidget> scroll_;  // scrolls the rows of a window that is too large for the screen
+  int pitch_ = 0;             // height of the present rows, in pixels
   std::unordered_map<int, QWidget*> controls_;
-  std::vector<const QWidget*> waysOut_;  // tabs and Close
-  std::vector<PlacedRow> rows_;          // of the template, in its order
+  std::vector<const QWidget*> usableWhileBusy_;  // tabs and Close
+  std::vector<PlacedRow> rows_;                  // in the template's order
 };
 
 }  // namespace AdvancedControl

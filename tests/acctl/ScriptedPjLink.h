@@ -49,7 +49,7 @@ class ScriptedPjLink {
   std::mutex mutex_;
   std::vector<std::string> requests_;
   std::atomic<int> connections_ = 0;
-  Peer peer_{Way::Tcp, {[this](Peer::End& end) {
+  Peer peer_{Transport::Tcp, {[this](Peer::End& end) {
                ++connections_;
                Peer::AnswersLines("PJLINK 0\r",
                                   [this](const std::string& line) { return Answer(line); })(end);

@@ -11,7 +11,7 @@ namespace {
 
 using testing::HasSubstr;
 
-/// Runs the program as a person without a display does.
+/// Runs the program without a display.
 Outcome RunProgram(const QStringList& arguments) {
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
   for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
@@ -49,7 +49,7 @@ const WrongArguments kWrongArguments[] = {
     {{"--profiles", "/dev/zero", "--language", "2052"}, "无法读取配置文件 /dev/zero：不是普通文件"},
 };
 
-TEST(Program, AnswersAWrongCommandLineWithOneLineAndAnExitCode) {
+TEST(Program, ReportsAWrongCommandLineInOneLineWithAnExitCode) {
   for (const auto& [arguments, error] : kWrongArguments) {
     const Outcome run = RunProgram(arguments);
     EXPECT_EQ(run.exitCode, arguments.isEmpty() ? 1 : 2) << error;
@@ -59,7 +59,7 @@ TEST(Program, AnswersAWrongCommandLineWithOneLineAndAnExitCode) {
   }
 }
 
-TEST(Program, SavesPicturesOfTheTabAndLanguageAskedFor) {
+TEST(Program, SavesPicturesOfTheRequestedTabAndLanguage) {
   const QTemporaryDir folder;
   const auto picture = [&folder](const QStringList& arguments) {
     const QString file = folder.filePath("picture.png");
@@ -74,7 +74,7 @@ TEST(Program, SavesPicturesOfTheTabAndLanguageAskedFor) {
   EXPECT_NE(status, picture({"--language", "2052"}));
 }
 
-TEST(Program, ListsItsProjectorsAndLeavesToQtWhatIsQts) {
+TEST(Program, ListsItsProjectorsAndPassesQtOptionsToQt) {
   for (const QStringList& arguments : {QStringList{"-style", "windows", "--list"},
                                        {"-reverse", "-platform", "offscreen", "--list"},
                                        {"--list", "--style=Fusion", "-qwindowtitle", "--tour"}}) {

@@ -38,7 +38,7 @@ struct Shown {
   const char* text;
 };
 
-TEST(CommandLog, NamesTheSettingAndWhatCameOfIt) {
+TEST(CommandLog, ShowsSettingNamesAndOutcomes) {
   const Shown cases[] = {
       {kRead, {.result = 1, .value = 128}, "Get Sharpness 0x2201\t128\tok"},
       {kRead, {.answered = false}, "Get Sharpness 0x2201\t\tno answer"},
@@ -77,7 +77,7 @@ TEST(CommandLog, RefusalsAreReadableOnEveryPalette) {
   QGuiApplication::setPalette(before);
 }
 
-TEST(CommandLog, CopiesAndSavesWhatItShowsAndKeepsUp) {
+TEST(CommandLog, CopiesAndSavesShownRowsAndFollowsNewOnes) {
   CommandLog log;
   log.resize(800, 400);
   log.show();

@@ -1,4 +1,4 @@
-// The window, what it asks and what it remembers, and the simulation beside it.
+// The main window: its questions, its stored state and the controls of the simulation.
 
 #include <QApplication>
 #include <QComboBox>
@@ -52,7 +52,7 @@ TEST(MainWindow, HasOneDialogPerProjectorAndLogsTheirCommands) {
   EXPECT_FALSE(newest.isEmpty() || newest.intersects(window.Dialog(0)->frameGeometry()));
 }
 
-TEST(MainWindow, WhatItAsksHoldsUpNoDialogAndWorkOnProjectorsWaitsForThem) {
+TEST(MainWindow, QuestionsHoldUpNoDialogAndWorkWaitsForDialogs) {
   MainWindow window({Profile("A")});
   window.show();
   CAdvanceDlg* dialog = window.OpenDialog(0);
@@ -144,7 +144,7 @@ TEST(FaultPanel, SetsAndRemovesFaultsOfTheSelectedProjector) {
   EXPECT_EQ(brightness(first), 1);
 }
 
-TEST(MainWindow, RemembersWhereItWasAndWhatWasOpenAndWaitsForNobody) {
+TEST(MainWindow, RestoresItsStateAndClosesWithoutWaiting) {
   const QTemporaryDir folder;
   QSettings settings(folder.filePath("s.ini"), QSettings::IniFormat);
   QRect place;
@@ -171,7 +171,7 @@ TEST(MainWindow, RemembersWhereItWasAndWhatWasOpenAndWaitsForNobody) {
   EXPECT_EQ(window.OpenDialog(5)->findChild<QTabBar*>()->currentIndex(), 2);
 }
 
-TEST(MainWindow, IsChineseThroughout) {
+TEST(MainWindow, IsTranslatedCompletely) {
   const auto speak = [](const char* locale) {
     qputenv("LC_ALL", locale);
     LoadCatalog();
@@ -188,7 +188,7 @@ TEST(MainWindow, IsChineseThroughout) {
     QStringList texts{window.windowTitle(), editor.windowTitle()};
     for (const auto* child : window.findChildren<QObject*>() + editor.findChildren<QObject*>()) {
       for (const char* name : {"text", "title", "toolTip", "placeholderText", "accessibleName"}) {
-        // What is typed and what comes from the profiles is not translated.
+        // Text from the user or from profiles is not translated.
         if (qobject_cast<const QLineEdit*>(child) && qstrcmp(name, "text") == 0) continue;
         if (!child->property("separator").toBool()) texts += child->property(name).toString();
       }

@@ -1,4 +1,4 @@
-// Profile files read, and changed as a text that a person wrote.
+// Reads profile files, and edits them without disturbing their formatting.
 
 #include <cctype>
 #include <ctime>
@@ -20,8 +20,9 @@
 namespace {
 
 struct WrongFile {
-  std::string text;  // of the file, or what stands in its only projector
-  // How the message begins, after the file's name; without a line, after "1: projectors[0].".
+  std::string text;  // the file, or the members of its only projector
+  // Start of the message after the file's name; or, without a line number, after "1:
+  // projectors[0].".
   const char* error;
 };
 
@@ -102,7 +103,7 @@ const WrongFile kWrongFiles[] = {
      "1: projectors[1].identity: \"id:1\" is the identity of projectors[0] too"},
 };
 
-TEST(ProfileFile, WrongOnesAreReportedWithTheirPlace) {
+TEST(ProfileFile, ErrorsAreReportedWithTheirPlace) {
   for (const auto& [text, error] : kWrongFiles) {
     const bool isFile = text.empty() || text[0] == '{' || text[0] == '[';
     const std::string file = isFile ? text : "{\"projectors\": [{" + text + "}]}";
@@ -118,8 +119,8 @@ std::string Repeat(const char* text, int count) {
   return QString(text).repeated(count).toStdString();
 }
 
-// What is too much is refused before it takes time or memory.
-TEST(ProfileFile, TooMuchIsRefusedAtOnce) {
+// Oversized files must be refused before they cost time or memory.
+TEST(ProfileFile, OversizedFilesAreRefusedAtOnce) {
   const auto chain = [](int first, int last, int step) {
     QString text = QString("{\"families\": {\"%1\": {}").arg(step > 0 ? last + step : first + step);
     for (int i = first; i <= last; ++i) {
@@ -158,7 +159,7 @@ TEST(ProfileFile, OnlyRegularFilesAreOpened) {
   }
 }
 
-TEST(ProfileFile, EntryGoesOverItsFamilies) {
+TEST(ProfileFile, EntryOverridesItsFamilies) {
   const ProfileFileContents contents = ParseProfiles(R"({
     "families": {
       "base": {"dialogType": 5, "gamma": [1, 2, 3], "whisper": ["Normal", "Bright"],
@@ -201,7 +202,7 @@ TEST(ProfileFile, EntryGoesOverItsFamilies) {
   EXPECT_TRUE(b.Lacks.empty());
 }
 
-TEST(ProfileFile, ShippedFileHasEveryModelThatPagesTellApart) {
+TEST(ProfileFile, ShippedFileHasEveryModelWithPagesOfItsOwn) {
   const auto contents = ReadProfileFile(TEST_CATALOG_DIR "/projectors.json");
   ASSERT_EQ(contents.error, "");
   using Models = std::set<std::pair<int, int>>;
@@ -222,7 +223,7 @@ struct EditCase {
   const char* expected;
 };
 
-TEST(JsonEdit, LeavesAllElseAsItWasWritten) {
+TEST(JsonEdit, KeepsTheFormattingOfEverythingElse) {
   using JsonEdit::InsertElement, JsonEdit::RemoveElement, JsonEdit::SetMember;
   const EditCase cases[] = {
       {SetMember(R"({ "a" :1 ,"b": 2})", {}, {"a", 5}), R"({ "a" :5 ,"b": 2})"},
@@ -274,7 +275,7 @@ TEST_F(ProfileDocumentFile, EachProjectorIsCopiedAndRemovedWithoutATrace) {
   }
 }
 
-TEST_F(ProfileDocumentFile, WhatCannotBeDoneChangesNothing) {
+TEST_F(ProfileDocumentFile, FailedChangesChangeNothing) {
   using testing::HasSubstr;
   const QByteArray before = Contents(name);
   const QString taken = QString::fromStdString(document.Projectors()[0].Name);
@@ -299,7 +300,7 @@ TEST_F(ProfileDocumentFile, WhatCannotBeDoneChangesNothing) {
   EXPECT_EQ(document.Remove(1), "");
 }
 
-TEST_F(ProfileDocumentFile, WithAPasswordIsItsOwnersAlone) {
+TEST_F(ProfileDocumentFile, WithAPasswordIsReadableByItsOwnerOnly) {
   const auto mode = [](const QString& file) {
     struct stat status {};
     EXPECT_EQ(stat(file.toLocal8Bit().constData(), &status), 0);

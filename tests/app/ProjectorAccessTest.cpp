@@ -1,4 +1,4 @@
-// What one command asks of a PJLink projector, and what the next one need not ask again.
+// What a command asks a PJLink projector, and what the next command does not ask again.
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Lets a projector be reached at a port.
+/// Serves the projector at a port.
 Peer::Behaviour Serving(BadProjector& projector) {
   return [&projector](Peer::End& end) {
     using Clock = std::chrono::steady_clock;
@@ -28,9 +28,9 @@ class PjLinkAccess : public testing::Test {
   PjLinkAccess() { qputenv("XDG_CACHE_HOME", folder_.path().toUtf8()); }
   ~PjLinkAccess() override { qunsetenv("XDG_CACHE_HOME"); }
 
-  /// What is asked of the projector while a program does this with it.
+  /// The commands that the projector receives while `use` runs.
   std::string Asked(const std::function<void(ProjectorAccess&)>& use) {
-    projector_.heard.clear();
+    projector_.requests.clear();
     const int before = projector_.connections;
     {
       ProjectorProfile profile{.Name = "Any", .Model = {}, .Lacks = {}};
@@ -43,7 +43,7 @@ class PjLinkAccess : public testing::Test {
     }
     peer_.Finish(++finished_);
     connections_ = projector_.connections - before;
-    return projector_.TakeHeard();
+    return projector_.TakeRequests();
   }
   static std::string InputName(ProjectorAccess& access) {
     const auto& sources = access.Settings().Model().MySourceList;
@@ -64,12 +64,12 @@ class PjLinkAccess : public testing::Test {
                                                  .answer = std::chrono::seconds(20)};
   const QTemporaryDir folder_;
   BadProjector projector_;
-  int connections_ = 0;  ///< For what was asked last.
+  int connections_ = 0;  ///< Number of connections of the last `Asked`.
   int finished_ = 0;
-  Peer peer_{Way::Tcp, {Serving(projector_)}};
+  Peer peer_{Transport::Tcp, {Serving(projector_)}};
 };
 
-TEST_F(PjLinkAccess, AsksOnlyWhatTheCommandNeedsAndRemembersWhatTheProjectorIs) {
+TEST_F(PjLinkAccess, AsksOnlyWhatTheCommandNeedsAndRemembersTheModel) {
   const auto showsInput = [](ProjectorAccess& access) {
     access.AskForInputs(InputsNeeded::Present);
     EXPECT_EQ(InputName(access), "HDMI (31)");
@@ -97,7 +97,7 @@ TEST_F(PjLinkAccess, AsksOnlyWhatTheCommandNeedsAndRemembersWhatTheProjectorIs) 
   EXPECT_EQ(Asked(showsInput), "CLSS, INPT, INNM ?31") << "too old";
 }
 
-TEST_F(PjLinkAccess, SaysWhenTheInputsGotLost) {
+TEST_F(PjLinkAccess, ReportsInputsThatCouldNotBeRead) {
   projector_.distorts["INST"] = 99;
   Asked([](ProjectorAccess& access) {
     access.AskForInputs();

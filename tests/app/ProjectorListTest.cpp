@@ -22,12 +22,12 @@ QString Selected(const QWidget& window) {
   return table.currentIndex().siblingAtColumn(0).data().toString();
 }
 
-TEST(ProjectorList, AtFirstOneWithRowsOnEveryTabIsSelected) {
+TEST(ProjectorList, InitiallySelectsAProjectorWithRowsOnEveryTab) {
   const MainWindow window({{"no tabs", MakeModel(9, 30), {}}, Profile("A"), Profile("B")});
   EXPECT_EQ(Selected(window), "A");
 }
 
-TEST(ProjectorList, TellsWhenAProjectorAnsweredLast) {
+TEST(ProjectorList, ShowsWhenAProjectorLastAnswered) {
   using std::chrono::seconds;
   const std::tuple<ConnectionState, std::optional<seconds>, const char*> cases[] = {
       {ConnectionState::Unused, {}, "Not connected"},
@@ -39,7 +39,8 @@ TEST(ProjectorList, TellsWhenAProjectorAnsweredLast) {
       {ConnectionState::Unused, seconds(7200), "Not connected · answered 2 h ago"},
       {ConnectionState::NotReachable, seconds(60), "Not reachable"},
   };
-  for (const auto& [state, since, text] : cases) EXPECT_EQ(ConnectionTold(state, since), text);
+  for (const auto& [state, since, text] : cases)
+    EXPECT_EQ(ConnectionStatusText(state, since), text);
   const ProjectorSession session(Profile("A"), nullptr);
   EXPECT_FALSE(session.SinceAnswer());
   session.Channel()->Execute({PjtOperation::Get, 0x2003});
@@ -50,7 +51,7 @@ struct Search {
   const char* words;
   int column;
   int role;
-  const char* part;  // of what stands there, in each row that is found
+  const char* part;  // occurs in that column of each row found
 };
 
 TEST(ProjectorList, IsSearchedAndSorted) {
@@ -105,7 +106,7 @@ void Fill(const QDialog& editor, const QMap<QString, QString>& texts) {
   }
 }
 
-/// Presses OK; whether that was taken.
+/// Presses OK. Returns whether the editor accepted it.
 bool Accept(const QDialog& editor) {
   auto* buttons = editor.findChild<QDialogButtonBox*>();
   QTest::mouseClick(buttons->button(QDialogButtonBox::Ok), Qt::LeftButton);

@@ -18,9 +18,9 @@ namespace {
 constexpr int kSettingColumn = 1, kResultColumn = 4;
 const QString kBeforehand = "Beforehand: other sources and modes";
 
-/// Two projectors of one model, and a file of the first one's settings.
-struct Rooms {
-  Rooms() {
+/// Two projectors of one model, and a file with the settings of the first.
+struct ProjectorPair {
+  ProjectorPair() {
     for (const ProjectorProfile& profile :
          ReadProfileFile(QStringLiteral(TEST_CATALOG_DIR "/projectors.json")).projectors) {
       if (profile.Name != "Projector 5-30" && profile.Name != "Projector 5-31") continue;
@@ -31,14 +31,14 @@ struct Rooms {
     }
     EXPECT_EQ(SettingsActions::SaveTo(file, {sessions[0]}), QStringList());
   }
-  SimulatedProjector& Projector(std::size_t room) { return sessions[room]->Simulator(); }
+  SimulatedProjector& Projector(std::size_t index) { return sessions[index]->Simulator(); }
 
   QTemporaryDir folder;
   const QString file = folder.filePath("good.json");
   ProjectorSessions sessions;
 };
 
-/// The texts of a column, as they are shown.
+/// The texts of a column in the order shown.
 QStringList Column(const RestoreDialog& dialog, int column) {
   const QAbstractItemModel& model = *dialog.findChild<QTreeView*>()->model();
   QStringList texts;
@@ -48,17 +48,17 @@ QStringList Column(const RestoreDialog& dialog, int column) {
   return texts;
 }
 
-TEST(SettingsActions, PutsBackWhatIsCheckedOnEveryProjector) {
-  Rooms rooms;
-  rooms.Projector(0).SetValue(SettingId::Brightness, 135);
-  rooms.Projector(1).SetValue(SettingId::Contrast, 120);
-  rooms.Projector(1).SetValue(SettingId::PositionV, 50);
-  rooms.sessions[1]->SetFault({}, {.kind = Fault::Kind::DropOut});
-  Snapshot snapshot = ReadSettingsFile(rooms.file).snapshot;
+TEST(SettingsActions, RestoresCheckedSettingsOfEveryProjector) {
+  ProjectorPair projectors;
+  projectors.Projector(0).SetValue(SettingId::Brightness, 135);
+  projectors.Projector(1).SetValue(SettingId::Contrast, 120);
+  projectors.Projector(1).SetValue(SettingId::PositionV, 50);
+  projectors.sessions[1]->SetFault({}, {.kind = Fault::Kind::DropOut});
+  Snapshot snapshot = ReadSettingsFile(projectors.file).snapshot;
   snapshot.beforehand = {{"picture.sharpness", 129, ""}};
   snapshot.settings.insert(snapshot.settings.begin(), {"audio.volume", 16, "", 99});
-  RestoreDialog dialog(RestoreDialog::Purpose::Restore, snapshot, rooms.file, rooms.sessions,
-                       [](QObject*, const std::function<void()>& work) {
+  RestoreDialog dialog(RestoreDialog::Purpose::Restore, snapshot, projectors.file,
+                       projectors.sessions, [](QObject*, const std::function<void()>& work) {
                          work();
                          return true;
                        });
@@ -80,36 +80,39 @@ TEST(SettingsActions, PutsBackWhatIsCheckedOnEveryProjector) {
   auto* table = dialog.findChild<QTreeView*>();
   for (const auto key : {Qt::Key_Home, Qt::Key_End, Qt::Key_Space}) QTest::keyClick(table, key);
   EXPECT_EQ(model.index(6, kSettingColumn).data(Qt::CheckStateRole), Qt::Unchecked);
-  rooms.sessions[1]->SetFault(PjtOperation::SetContrast, {.kind = Fault::Kind::DropOut});
+  projectors.sessions[1]->SetFault(PjtOperation::SetContrast, {.kind = Fault::Kind::DropOut});
   dialog.Restore();
   const QString skipped = "skipped: this model does not take the value";
   EXPECT_EQ(Column(dialog, kResultColumn), QStringList({"changed", skipped, "changed", "not read",
                                                         skipped, "changed", "different"}));
-  EXPECT_EQ(rooms.Projector(0).Value(SettingId::Sharpness), 129);
-  EXPECT_EQ(rooms.Projector(1).Value(SettingId::Sharpness), 128);
-  EXPECT_EQ(rooms.Projector(0).Value(SettingId::Brightness), 128);
-  EXPECT_EQ(rooms.Projector(1).Value(SettingId::Contrast), 128);
-  EXPECT_EQ(rooms.Projector(1).Value(SettingId::PositionV), 50);
-  EXPECT_EQ(QDir(rooms.folder.path()).entryList({"good.undo.*"}).size(), 2);
+  EXPECT_EQ(projectors.Projector(0).Value(SettingId::Sharpness), 129);
+  EXPECT_EQ(projectors.Projector(1).Value(SettingId::Sharpness), 128);
+  EXPECT_EQ(projectors.Projector(0).Value(SettingId::Brightness), 128);
+  EXPECT_EQ(projectors.Projector(1).Value(SettingId::Contrast), 128);
+  EXPECT_EQ(projectors.Projector(1).Value(SettingId::PositionV), 50);
+  EXPECT_EQ(QDir(projectors.folder.path()).entryList({"good.undo.*"}).size(), 2);
   dialog.findChild<QCheckBox*>()->setChecked(false);
   EXPECT_GT(Column(dialog, kSettingColumn).size(), 100) << "what is the same is shown on demand";
 }
 
-TEST(SettingsActions, TellsWhatCannotBeSaved) {
-  Rooms rooms;
-  rooms.sessions[1]->SetFault({}, {.kind = Fault::Kind::FailRead});
-  const QStringList errors = SettingsActions::SaveTo(rooms.folder.path(), rooms.sessions);
+TEST(SettingsActions, ReportsWhatCannotBeSaved) {
+  ProjectorPair projectors;
+  projectors.sessions[1]->SetFault({}, {.kind = Fault::Kind::FailRead});
+  const QStringList errors = SettingsActions::SaveTo(projectors.folder.path(), projectors.sessions);
   EXPECT_EQ(errors, QStringList("Projector 5-31: nothing can be read"));
-  const QDeadlineTimer soon(std::chrono::minutes(1));  // and not a time-out for each setting
-  const auto falter = [&] { rooms.sessions[0]->SetFault({}, {.kind = Fault::Kind::DropOut}); };
-  EXPECT_EQ(SettingsActions::SaveTo("/nowhere", {rooms.sessions[0]}, {.step = falter}),
+  const QDeadlineTimer soon(
+      std::chrono::minutes(1));  // much shorter than a time-out for each setting
+  const auto falter = [&] { projectors.sessions[0]->SetFault({}, {.kind = Fault::Kind::DropOut}); };
+  EXPECT_EQ(SettingsActions::SaveTo("/nowhere", {projectors.sessions[0]}, {.step = falter}),
             QStringList("Projector 5-30: no answer"));
   EXPECT_FALSE(soon.hasExpired());
-  rooms.sessions[0]->ClearFaults();
-  SettingsActions::SaveTo(rooms.folder.path(), {rooms.sessions[0], rooms.sessions[0]});
-  EXPECT_EQ(QDir(rooms.folder.path()).entryList({"Projector_5-30*.json"}).size(), 3);
-  EXPECT_THAT(SettingsActions::SaveTo("/proc/x.json", {rooms.sessions[0]}).join('\n').toStdString(),
-              testing::StartsWith("cannot write /proc/x.json: "));
+  projectors.sessions[0]->ClearFaults();
+  SettingsActions::SaveTo(projectors.folder.path(),
+                          {projectors.sessions[0], projectors.sessions[0]});
+  EXPECT_EQ(QDir(projectors.folder.path()).entryList({"Projector_5-30*.json"}).size(), 3);
+  EXPECT_THAT(
+      SettingsActions::SaveTo("/proc/x.json", {projectors.sessions[0]}).join('\n').toStdString(),
+      testing::StartsWith("cannot write /proc/x.json: "));
 }
 
 }  // namespace

@@ -45,8 +45,8 @@ class SimulatorTest : public testing::Test {
 
   QString Profiles() const { return folder_.filePath("real.json"); }
 
-  ProjectorAddress Address(const char* way) {
-    return ParseAddress(simulator_->Address(way).toStdString(), "secret");
+  ProjectorAddress Address(const char* transport) {
+    return ParseAddress(simulator_->Address(transport).toStdString(), "secret");
   }
 
   std::string Control(const char* line) {
@@ -62,13 +62,13 @@ class SimulatorTest : public testing::Test {
   QTcpSocket control_;
 };
 
-TEST_F(SimulatorTest, OneProjectorIsReachedInEveryWayAndFaultsOfTheLineAreOver) {
+TEST_F(SimulatorTest, OneProjectorIsReachableOverAllConnectionsAndRecoversFromLineFaults) {
   using enum ConnectionState;
   const auto tcp = MakeChannel(Address("tcp"));
   EXPECT_EQ(tcp->Execute({PjtOperation::Set, 0x2001, 9999}).result, 0) << "a refusal is an answer";
   EXPECT_EQ(tcp->Connection(), Connected);
   std::int16_t mute = 0;
-  for (const auto& [way, fault, state] :
+  for (const auto& [transport, fault, state] :
        std::initializer_list<std::tuple<const char*, const char*, ConnectionState>>{
            {"tcp", "1 trickle", Connected},
            {"tcp", "* late 100", Connected},
@@ -85,10 +85,11 @@ TEST_F(SimulatorTest, OneProjectorIsReachedInEveryWayAndFaultsOfTheLineAreOver) 
            {"serial", "1 garbage", NoAnswer},
            {"serial", "1 cut 7", NoAnswer},
        }) {
-    SCOPED_TRACE(testing::Message() << way << ' ' << fault);
+    SCOPED_TRACE(testing::Message() << transport << ' ' << fault);
     mute ^= 1;
     ASSERT_TRUE(tcp->Execute({PjtOperation::SetMute, 0, mute}).answered);
-    BoundedChannel channel(MakeUnboundedChannel(Address(way)), {.timeOut = 10s, .retryAfter = 0ms});
+    BoundedChannel channel(MakeUnboundedChannel(Address(transport)),
+                           {.timeOut = 10s, .retryAfter = 0ms});
     EXPECT_EQ(channel.Execute(kIsMuted).value, mute);
     EXPECT_EQ(Control(fault), "ok");
     const PjtReply reply = channel.Execute(kIsMuted);
@@ -104,7 +105,7 @@ TEST_F(SimulatorTest, OneProjectorIsReachedInEveryWayAndFaultsOfTheLineAreOver) 
   EXPECT_EQ(Control("2 none"), "error: no projector '2'; there are 1 to 1, and *");
 }
 
-TEST_F(SimulatorTest, TheListTellsHowEveryConnectionStands) {
+TEST_F(SimulatorTest, TheListShowsTheStateOfEveryConnection) {
   auto profiles = ReadProfileFile(Profiles()).projectors;
   profiles.push_back(profiles[1]);
   profiles[3].Name = "wrong password";
@@ -115,7 +116,7 @@ TEST_F(SimulatorTest, TheListTellsHowEveryConnectionStands) {
   const auto& model = window.findChild<ProjectorView*>()->Model();
   const auto comesTo = [&model](int row, const QString& state) {
     const auto shown = [&] { return model.index(row, ProjectorTableModel::State).data(); };
-    // On a slow machine the last answer may be long ago.
+    // On a slow machine, the text may include the age of the last answer.
     const auto isSo = [&] { return shown().toString().section(" · answered", 0, 0) == state; };
     EXPECT_TRUE(Soon(isSo)) << row << ": " << shown().toString().toStdString();
   };
@@ -139,7 +140,7 @@ TEST_F(SimulatorTest, TheListTellsHowEveryConnectionStands) {
   comesTo(0, "Open · Connected");
 }
 
-TEST_F(SimulatorTest, ADialogTakesItsInputsFromAProjectorThatTellsThem) {
+TEST_F(SimulatorTest, ADialogUsesTheInputsThatTheProjectorReports) {
   CModelInfo2 model = ReadProfileFile(Profiles()).projectors[1].Model;
   ASSERT_EQ(model.MySourceList.Size(), 0);
   model.ConnectionTexts1[0] = MakeNameSlot("pjlink://127.0.0.1");
@@ -159,7 +160,7 @@ TEST_F(SimulatorTest, ADialogTakesItsInputsFromAProjectorThatTellsThem) {
   EXPECT_EQ(CurrentInput(later), "RGB1") << "known from the start";
 }
 
-TEST(SimulatorPorts, NoneIsBeyondTheLast) {
+TEST(SimulatorPorts, NoneExceedsTheLastPort) {
   const Outcome outcome = ::Run(SIMULATOR_PROGRAM, {"--projector", kName, "--port", "65535"},
                                 QProcessEnvironment::systemEnvironment());
   EXPECT_EQ(outcome.exitCode, 2);
@@ -167,13 +168,13 @@ TEST(SimulatorPorts, NoneIsBeyondTheLast) {
   EXPECT_NE(outcome.errors.find("no ports are left"), std::string::npos) << outcome.errors;
 }
 
-TEST(Dialog, ConnectsByItselfAndPaysTwoRoundTripsAPageAtMost) {
+TEST(Dialog, ConnectsByItselfAndNeedsAtMostTwoRoundTripsPerPage) {
   for (const auto& [type, code] :
        {std::pair{1, 0}, {2, 6}, {3, 10}, {4, 22}, {5, 30}, {5, 42}, {5, 54}}) {
     CModelInfo2 model = FullModel(type, code);
     SimulatedProjector projector(DescribeModel(MakeModelData(model)));
     std::atomic<int> askedAtOnce = 0;
-    const Peer peer(Way::Tcp, {[&](Peer::End& end) {
+    const Peer peer(Transport::Tcp, {[&](Peer::End& end) {
                       WireResponder responder(projector);
                       for (auto said = end.Receive(); !said.empty(); said = end.Receive()) {
                         ++askedAtOnce;
@@ -203,7 +204,7 @@ struct Unanswered final : ProjectorChannel {
   ConnectionState state{};
 };
 
-TEST(Dialog, TellsAtOnceWhyThereIsNoAnswer) {
+TEST(Dialog, SaysAtOnceWhyThereIsNoAnswer) {
   using enum ConnectionState;
   CModelInfo2 model = FullModel(5, 30);
   model.ConnectionKinds[0] = 1;

@@ -1,7 +1,8 @@
-// A random walk over the whole program: its window, its dialogs, and dialogs of other owners that
-// die at any time, also while a command waits; so do input and tab changes. Then every dialog must
-// show what the projector holds. It ends in the middle of a time-out. The sanitizers tell what is
-// touched too late. WALK_SEED gives another walk, WALK_ACTIONS a longer one.
+// A random walk through the whole program: its window, its dialogs, and dialogs of other owners.
+// Owners die, input arrives and tabs change at any time, even while a command waits. Afterwards
+// every dialog must show what the projector holds. The walk ends in the middle of a time-out. The
+// sanitizers report uses of deleted objects. WALK_SEED selects another walk, WALK_ACTIONS a longer
+// one.
 
 #include <algorithm>
 #include <iterator>
@@ -62,7 +63,7 @@ class Walk {
     return items[static_cast<std::size_t>(Pick(static_cast<int>(items.size())))];
   }
 
-  // The next step is on its way before this one: it may come in an event loop inside this one.
+  // Schedules the next step first, because it may have to run in an event loop inside this one.
   void Step() {
     if (done_ == actions_) return Settle();
     ++done_;
@@ -120,7 +121,7 @@ class Walk {
 
   void ChangeFaults() {
     for (const auto& session : sessions_) {
-      const int kind = std::max(0, Pick(9) - 4);  // often none
+      const int kind = std::max(0, Pick(9) - 4);  // usually 0
       session->SetFault(std::monostate(),
                         {static_cast<Fault::Kind>(kind), std::chrono::milliseconds(10 + Pick(40))});
     }
@@ -166,7 +167,7 @@ class Walk {
     static constexpr Qt::Key keys[] = {Qt::Key_Up, Qt::Key_Down, Qt::Key_Home, Qt::Key_End};
     QWidget* control = Any(usable);
     if (auto* button = qobject_cast<QAbstractButton*>(control)) {
-      // The other is what a screen reader does.
+      // `click` is what a screen reader does.
       Pick(2) != 0 ? QTest::mouseClick(button, Qt::LeftButton) : button->click();
     } else {
       QTest::keyClick(control, keys[Pick(std::size(keys))]);
@@ -181,7 +182,7 @@ class Walk {
     QTimer::singleShot(500ms, qApp, [this] {
       if (Dialogs().empty()) Open();
       for (CAdvanceDlg* dialog : Dialogs()) {
-        dialog->Projector().TryAfresh();
+        dialog->Projector().AllowRetry();
         dialog->DispTabScreen();
         ExpectShowsProjector(*dialog);
         ++checked;
@@ -190,7 +191,7 @@ class Walk {
     });
   }
 
-  // In the middle of a time-out.
+  // Quits in the middle of a time-out.
   void Quit() {
     const std::vector<CAdvanceDlg*> dialogs = Dialogs();
     SetFaults({Fault::Kind::DropOut});
@@ -200,16 +201,17 @@ class Walk {
 
   const int actions_;
   int done_ = 0;
-  int depth_ = 0;  // of steps one in another
+  int depth_ = 0;  // of nested steps
   std::mt19937 random_;
   ProjectorSessions sessions_;
   std::unique_ptr<MainWindow> window_ = std::make_unique<MainWindow>(kProfiles);
-  std::vector<QPointer<QWidget>> owners_;  // of dialogs beside the window's
+  std::vector<QPointer<QWidget>> owners_;  // of dialogs that the window does not own
 };
 
-TEST(RandomWalk, OverTheWholeProgramLeavesNothingBehind) {
+TEST(RandomWalk, ThroughTheWholeProgramUsesNoDeletedObject) {
   {
-    Walk walk(static_cast<unsigned>(Given("WALK_SEED", 1)), Given("WALK_ACTIONS", 500));
+    Walk walk(static_cast<unsigned>(EnvironmentNumber("WALK_SEED", 1)),
+              EnvironmentNumber("WALK_ACTIONS", 500));
     walk.Run();
     EXPECT_GT(walk.opened, 10);
     EXPECT_GT(walk.died, 10);

@@ -19,7 +19,7 @@
 #include "app/desktop/projectors/ProjectorView.h"
 #include "tests/support/Models.h"
 
-// The host application's windows, used as a person does.
+// Operates the host application's windows as a user does.
 
 inline ProjectorProfile Profile(const char* name) {
   ProjectorProfile profile{name, MakeModel(5, 30), {}};
@@ -27,7 +27,7 @@ inline ProjectorProfile Profile(const char* name) {
   return profile;
 }
 
-/// The part that shows or is called so, but for its mnemonic and the dots of what asks further.
+/// Finds a widget by its text or accessible name, ignoring its mnemonic and a trailing "...".
 template <typename Part>
 Part& Find(const QObject& window, const QString& name) {
   for (auto* part : window.findChildren<Part*>()) {
@@ -42,15 +42,15 @@ inline QTableView& Table(const QWidget& window) {
   return *window.findChild<ProjectorView*>()->findChild<QTableView*>();
 }
 
-/// As an assistive technology does, which knows a list by its name.
+/// Chooses an entry as an assistive technology does, which finds a list by its name.
 inline void Choose(const QWidget& window, const QString& name, const QString& entry) {
   auto* list = qobject_cast<QComboBox*>(Find<QLabel>(window, name).buddy());
-  QAccessibleInterface* told = QAccessible::queryAccessibleInterface(list);
-  EXPECT_EQ(told->text(QAccessible::Name), name);
-  QAccessibleInterface* chosen = told->child(0)->child(list->findText(entry));
+  QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(list);
+  EXPECT_EQ(accessible->text(QAccessible::Name), name);
+  QAccessibleInterface* chosen = accessible->child(0)->child(list->findText(entry));
   chosen->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
   QApplication::processEvents();
-  EXPECT_EQ(told->text(QAccessible::Value), entry);
+  EXPECT_EQ(accessible->text(QAccessible::Value), entry);
 }
 
 inline ProfileDocument Shipped(const QTemporaryDir& folder) {
@@ -61,7 +61,7 @@ inline ProfileDocument Shipped(const QTemporaryDir& folder) {
   return document;
 }
 
-/// Triggers an action that opens a modal dialog and answers that one.
+/// Triggers an action that opens a modal dialog, and answers the dialog.
 inline void Answer(QAction& action, const std::function<void(QDialog&)>& answer) {
   action.trigger();
   const QPointer dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());

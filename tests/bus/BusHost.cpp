@@ -1,6 +1,6 @@
-// A dialog on a simulated projector that an assistive technology may use: BusHost TYPE CODE. First
-// writes what each setting should be told as, by the model's list of settings; then every command,
-// and a line "-" for each line that it reads.
+// A dialog on a simulated projector, for use by an assistive technology: BusHost TYPE CODE. First
+// writes how each setting should be presented, from the model's list of settings. Then writes every
+// command, and a line "-" for each line that it reads.
 
 #include <cstdio>
 #include <cstdlib>
@@ -20,18 +20,18 @@
 
 namespace {
 
-void Tell(const std::string& line) { std::puts(line.c_str()); }
+void WriteLine(const std::string& line) { std::puts(line.c_str()); }
 
 // Tab, key, kind, caption, text of the value, description.
-void TellSettings(const CModelInfo2& model, CPjtInterface& projector) {
+void WriteSettings(const CModelInfo2& model, CPjtInterface& projector) {
   const SettingTexts texts(std::vector<std::string>{TEST_CATALOG_DIR}, kEnglishUnitedStates);
   const ModelSettings settings(MakeModelData(model));
   for (const ModelSetting& setting : settings.All()) {
     const auto value = setting.readable ? settings.Read(projector, setting) : std::nullopt;
-    Tell(texts.Tab(setting) + '\t' + std::string(setting.key) + '\t' +
-         std::to_string(static_cast<int>(setting.kind)) + '\t' + texts.Caption(setting) + '\t' +
-         (value ? texts.Value(setting, *value) : "") + '\t' +
-         (setting.range ? "Range: " + texts.Values(setting) : ""));
+    WriteLine(texts.Tab(setting) + '\t' + std::string(setting.key) + '\t' +
+              std::to_string(static_cast<int>(setting.kind)) + '\t' + texts.Caption(setting) +
+              '\t' + (value ? texts.Value(setting, *value) : "") + '\t' +
+              (setting.range ? "Range: " + texts.Values(setting) : ""));
   }
 }
 
@@ -46,10 +46,10 @@ int main(int argc, char** argv) {
   CAdvanceDlg dialog;
   dialog.CopyData(&model, 0);
   dialog.Projector().SetChannel(projector);
-  TellSettings(model, dialog.Projector());
+  WriteSettings(model, dialog.Projector());
   dialog.Projector().SetChannel(std::make_shared<LoggingChannel>(
       projector,
-      [](const PjtCommand& command, const PjtReply&, auto) { Tell(FormatCommand(command)); }));
+      [](const PjtCommand& command, const PjtReply&, auto) { WriteLine(FormatCommand(command)); }));
   if (!dialog.Create()) return EXIT_FAILURE;
   dialog.show();
 
@@ -57,7 +57,7 @@ int main(int argc, char** argv) {
   QObject::connect(&input, &QSocketNotifier::activated, &dialog, [&dialog] {
     char byte = 0;
     if (read(STDIN_FILENO, &byte, 1) != 1) return QApplication::quit();
-    QTimer::singleShot(0, &dialog, [] { Tell("-"); });  // after what had been begun
+    QTimer::singleShot(0, &dialog, [] { WriteLine("-"); });  // after all work in progress
   });
   return QApplication::exec();
 }

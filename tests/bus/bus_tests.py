@@ -118,8 +118,8 @@ class Dialog:
         return self.page()
 
 
-# What is done on a page, and all commands that follow: a number sets a slider, a text picks an
-# entry, nothing presses the control.
+# Actions on a page and the commands that must follow: a number sets a slider, a text chooses an
+# entry, no value presses the control.
 OPERATIONS = [
     (5, 30, "Picture", "Brightness +", None, ["Inc 0x2003", "Get 0x2003"]),
     (5, 30, "Picture", "Contrast", -7, ["SetContrast(121)"]),
@@ -135,14 +135,14 @@ OPERATIONS = [
     (1, 1, "Option", "Menu Color", "Green", ["SetMenuColor(3)", "Get 0x3005"]),
 ]
 
-# Of numbers, choices and states; an action has a button.
+# Roles of numbers, choices and states; actions are buttons.
 ROLES = [["text"], ["combo box", "check box"], ["label", "combo box"]]
 ACTION = "3"
 
 
 class BusTest(unittest.TestCase):
     def check_page(self, page, settings):
-        """Every setting is told once, and nothing but settings, what operates them, and captions."""
+        """Every setting is presented once, and nothing else but its controls and captions."""
         nodes = [node for node in children(page) if has(node, Atspi.StateType.SHOWING)]
         for tab, key, kind, caption, value, description in settings:
             names = [caption, caption + " V", caption + " H", "IR Remote " + caption]
@@ -151,7 +151,7 @@ class BusTest(unittest.TestCase):
                     self.assertIn(caption + " Execute", [node.get_name() for node in nodes])
                     continue
                 row = next(node for node in nodes if node.get_role_name() in ROLES[int(kind)]
-                           and self.told(node) in [(name, value, description) for name in names])
+                           and self.presented(node) in [(name, value, description) for name in names])
                 nodes.remove(row)
                 if row.get_role_name() == "combo box":
                     self.assertEqual(labels(row), [row.get_name()])
@@ -169,7 +169,7 @@ class BusTest(unittest.TestCase):
                     self.assertEqual(node.get_description(), "Range: %d to %d" % ends)
                     self.assertEqual(labels(node), [node.get_name()])
 
-    def told(self, node):
+    def presented(self, node):
         role, name, description = node.get_role_name(), node.get_name(), node.get_description()
         if role == "label":  # of a state: its text is its name, described by the caption
             return description, name, ""

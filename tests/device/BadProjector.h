@@ -11,8 +11,8 @@
 
 #include "device/protocol/PjLinkSession.h"
 
-/// A small PJLink projector of its own, written from the standard alone, that behaves as badly as
-/// it is told to. It lives in the time that it is given.
+/// A small PJLink projector, written from the standard independently of the library, with
+/// configurable faults. It runs in simulated time.
 class BadProjector {
  public:
   using Milliseconds = std::chrono::milliseconds;
@@ -23,21 +23,21 @@ class BadProjector {
       {"CLSS", "2"},      {"INST", "31 32 5A"}, {"LAMP", "1200 1"}, {"FILT", "80"},
       {"ERST", "000000"}, {"INNM31", "HDMI"},   {"INNM32", "HDMI"}, {"INNM5A", "Office"}};
   std::string greeting = "PJLINK 0\r";
-  std::string before{}, after = "\r";              ///< Around each reply.
-  char replyClass = 0;                             ///< Of each reply; 0 for that of its request.
+  std::string before{}, after = "\r";  ///< Written before and after each reply.
+  char replyClass = 0;                 ///< Class in each reply; 0 for that of its request.
   std::optional<Milliseconds> closesAfterReply{};  ///< So long after each.
-  bool dropsUnanswered = false;           ///< Closes the connection instead of a lost reply.
-  Milliseconds answers{10};               ///< For each reply.
-  Milliseconds follows{0};                ///< A state comes so long after its OK.
-  Milliseconds busyFor{0};                ///< From the first request on it answers ERR3.
-  Milliseconds gap{0};                    ///< Nobody is let in so long after a connection.
-  std::map<std::string, int> loses{};     ///< So many replies to a command get lost.
-  std::map<std::string, int> distorts{};  ///< So many are garbled.
-  std::map<std::string, int> refuses{};   ///< So many are ERR3.
+  bool dropsUnanswered = false;  ///< Closes the connection instead of losing a reply silently.
+  Milliseconds answers{10};      ///< Time for each reply.
+  Milliseconds follows{0};       ///< Time until an accepted change takes effect.
+  Milliseconds busyFor{0};       ///< Answers ERR3 for this time, from the first request on.
+  Milliseconds gap{0};           ///< Refuses connections for this time after each one.
+  std::map<std::string, int> loses{};     ///< Number of replies to a command that get lost.
+  std::map<std::string, int> distorts{};  ///< Number of replies that are garbled.
+  std::map<std::string, int> refuses{};   ///< Number of replies that are ERR3.
 
-  std::vector<std::string> heard{};  ///< Requests, without what is the same in all.
+  std::vector<std::string> requests{};  ///< Requests received, without class and "?".
   int connections = 0;
-  int attempts = 0;  ///< To connect.
+  int attempts = 0;  ///< Attempts to connect.
 
   bool Connect(PjLinkTime now) {
     ++attempts;
@@ -50,12 +50,12 @@ class BadProjector {
     if (std::exchange(isOpen_, false)) openAgain_ = now + gap;
   }
 
-  /// What comes of the bytes of a request; nothing where no reply comes.
+  /// The reply to the bytes of a request; nothing if there is none.
   std::optional<std::string> Receive(std::string_view bytes, PjLinkTime now) {
     const std::string request(bytes.substr(0, bytes.find('\r')));
     const std::string name = request.substr(2, 4);
     const std::string parameter = request.substr(7);
-    heard.push_back(name + (parameter == "?" ? "" : ' ' + parameter));
+    requests.push_back(name + (parameter == "?" ? "" : ' ' + parameter));
     if (!begun_) begun_ = now;
     const std::string result = now < *begun_ + busyFor && name != "POWR" ? "ERR3"
                                : Counts(refuses, name)                   ? "ERR3"
@@ -69,10 +69,10 @@ class BadProjector {
     return before + '%' + (replyClass == 0 ? request[1] : replyClass) + name + '=' + result + after;
   }
 
-  /// All requests so far, in one line.
-  std::string TakeHeard() {
+  /// Returns and clears the requests so far, on one line.
+  std::string TakeRequests() {
     std::string text;
-    for (const std::string& request : std::exchange(heard, {})) {
+    for (const std::string& request : std::exchange(requests, {})) {
       text += (text.empty() ? "" : ", ") + request;
     }
     return text;
@@ -108,7 +108,8 @@ class BadProjector {
   std::map<std::string, std::pair<PjLinkTime, std::string>> coming_;
 };
 
-/// Drives a session with that projector in a time of its own, which goes on only while it waits.
+/// Drives a session with the projector in simulated time, which advances only while the session
+/// waits.
 class SteppedSession {
  public:
   static constexpr PjLinkLimits kLimits{.connect = std::chrono::seconds(2),
@@ -122,10 +123,10 @@ class SteppedSession {
     Run();
     return session.Reply();
   }
-  PjLinkTold Ask(const PjLinkQuestion& question) {
+  PjLinkResult Ask(const PjLinkQuestion& question) {
     session.Begin(question, now);
     Run();
-    return session.Told();
+    return session.Result();
   }
 
   BadProjector projector;

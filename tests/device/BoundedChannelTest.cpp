@@ -21,7 +21,7 @@ using Clock = std::chrono::steady_clock;
 
 constexpr PjtCommand kCommand{PjtOperation::GetMirror};
 
-/// Answers at once, or not before it is let go.
+/// Answers at once, or only when it is opened.
 class Gate final : public ProjectorChannel {
  public:
   PjtReply Execute(const PjtCommand&) override {
@@ -71,7 +71,7 @@ TEST_F(BoundedChannelTest, ASilentProjectorCostsOneTimeOut) {
   const PjtReply first = channel_.Execute(kCommand);
   EXPECT_FALSE(first.answered || first.unsent);
   EXPECT_GE(Clock::now() - start, 1s);
-  // The retry interval is over then, the first command is still out.
+  // By then the retry interval is over, but the first command is still outstanding.
   std::this_thread::sleep_for(350ms);
   const PjtReply second = channel_.Execute(kCommand);
   EXPECT_TRUE(!second.answered && second.unsent);
@@ -88,7 +88,7 @@ TEST_F(BoundedChannelTest, ALostCommandStartsTheRetryIntervalToo) {
   std::optional<BoundedChannel> another;
   gate_->answered = false;
   Clock::time_point start;
-  do {  // again where the machine stood still
+  do {  // repeats if the machine was too slow
     another.emplace(gate_, BoundedChannel::Limits{.timeOut = 1h, .retryAfter = 1h});
     gate_->executed = 0;
     start = Clock::now();
@@ -151,7 +151,7 @@ TEST_F(BoundedChannelTest, TheStateFollowsAConnectionThatNobodyUses) {
       end.Listen();
       ++ended;
     };
-    const Peer closing(Way::Tcp, {answer}), listening(Way::Tcp, {listens});
+    const Peer closing(Transport::Tcp, {answer}), listening(Transport::Tcp, {listens});
     BoundedChannel closed(connect(closing, 1h), {.tend = kSoon});
     EXPECT_TRUE(closed.Execute(command).answered);
     EXPECT_TRUE(Eventually([&] { return closed.Connection() == ConnectionState::Unused; }));
@@ -166,7 +166,7 @@ TEST_F(BoundedChannelTest, TheStateFollowsAConnectionThatNobodyUses) {
         Get(CommandCode::RunningState));
 }
 
-TEST_F(BoundedChannelTest, ACommandFromInsideTheWaitIsRefusedAndQuittingDoesNotCutItShort) {
+TEST_F(BoundedChannelTest, ACommandFromInsideTheWaitIsRefusedAndQuittingDoesNotEndTheWait) {
   gate_->Open(false);
   BoundedChannel patient(gate_, {.timeOut = 1h});
   std::string reply;
@@ -183,7 +183,7 @@ TEST_F(BoundedChannelTest, ACommandFromInsideTheWaitIsRefusedAndQuittingDoesNotC
   EXPECT_EQ(reply, "1");
 }
 
-TEST_F(BoundedChannelTest, ALongSeriesOfQuickAnswersLetsTheEventLoopRunWhereThereIsOne) {
+TEST_F(BoundedChannelTest, ALongSeriesOfQuickAnswersStillRunsTheEventLoop) {
   BoundedChannel patient(gate_, {.timeOut = 1h});
   gate_->takes = 4ms;
   std::thread([&] { EXPECT_TRUE(patient.Execute(kCommand).answered); }).join();
@@ -196,7 +196,7 @@ TEST_F(BoundedChannelTest, ALongSeriesOfQuickAnswersLetsTheEventLoopRunWhereTher
   EXPECT_TRUE(ran);
 }
 
-TEST_F(BoundedChannelTest, DestructionWaitsForNobody) {
+TEST_F(BoundedChannelTest, DestructionDoesNotWait) {
   gate_->Open(false);
   auto channel = std::make_unique<BoundedChannel>(gate_, BoundedChannel::Limits{.timeOut = 20ms});
   EXPECT_EQ(Replies(*channel, {kCommand}), "?");

@@ -14,7 +14,7 @@ namespace {
 
 using Op = PjtOperation;
 
-/// Answers every command alike, or breaks, and keeps the last one.
+/// Gives every command the same reply, or throws, and stores the last command.
 class OneReply final : public ProjectorChannel {
  public:
   PjtReply Execute(const PjtCommand& command) override {
@@ -40,7 +40,7 @@ class OneReply final : public ProjectorChannel {
   PjtCommand last{};
 };
 
-TEST(CPjtInterfaceTest, EveryFormBuildsItsCommandAndTakesItsReply) {
+TEST(CPjtInterfaceTest, EveryFormBuildsItsCommandAndInterpretsItsReply) {
   CPjtInterface p;
   short got = 30;
   auto* const word = reinterpret_cast<unsigned short*>(&got);
@@ -49,7 +49,7 @@ TEST(CPjtInterfaceTest, EveryFormBuildsItsCommandAndTakesItsReply) {
     PjtCommand command;
     int accepted;
     int refused;
-    int value = 30;  ///< What an accepted one leaves behind the pointer.
+    int value = 30;  ///< The value of an accepted command.
   };
   const Form forms[] = {
       {[&] { return p.ExecTintReset(); }, {Op::ExecTintReset}, 0, -1},
@@ -95,7 +95,7 @@ TEST(CPjtInterfaceTest, EveryFormBuildsItsCommandAndTakesItsReply) {
     BoundedChannel bounded(channel);
     EXPECT_EQ(Replies(bounded, {form.command}), "?");
     p.Announce({});
-    p.TryAfresh();
+    p.AllowRetry();
     EXPECT_EQ(p.Connection(), ConnectionState::None);
     EXPECT_EQ(bounded.Connection(), ConnectionState::None);
     EXPECT_FALSE(p.Inputs() || bounded.Inputs());
@@ -104,7 +104,7 @@ TEST(CPjtInterfaceTest, EveryFormBuildsItsCommandAndTakesItsReply) {
   }
 }
 
-TEST(CPjtInterfaceTest, WhatHostsHandOverIsBoundedAndMayBeAbsent) {
+TEST(CPjtInterfaceTest, HostDataIsBoundedAndMayBeNull) {
   CPjtInterface pjt;
   pjt.SetChannel(std::make_shared<OneReply>());
   EXPECT_EQ(pjt.GetMirror(nullptr), 0);
@@ -133,13 +133,13 @@ TEST(CPjtInterfaceTest, WhatHostsHandOverIsBoundedAndMayBeAbsent) {
   EXPECT_EQ(pjt.CopyAspectData(3, nullptr), 0);
 }
 
-TEST(PjtOperationTest, SuccessIsWhatTheFamilySays) {
+TEST(PjtOperationTest, SuccessDependsOnTheFamily) {
   EXPECT_FALSE(IsSuccess(Op::Set, 2)) << "only 1 is success of a generic operation";
   EXPECT_TRUE(IsSuccess(Op::SetColor, -1));
   EXPECT_FALSE(OperationByName("SetBrightnes"));
 }
 
-TEST(FormatCommandTest, SaysWhatWasAskedAndWhatCameBack) {
+TEST(FormatCommandTest, ShowsCommandAndReply) {
   const PjtReply read{.result = 1, .value = -128};
   const PjtReply refused{.result = 0};
   const PjtReply silent{.result = 0, .answered = false};

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Writes down which of its members was called, and answers like nobody else.
+/// Records which member was called, and returns unusual values.
 class Scribe final : public ProjectorChannel {
  public:
   PjtReply Execute(const PjtCommand&) override { return Note("execute"), PjtReply{.value = 7}; }
@@ -29,7 +29,7 @@ class Scribe final : public ProjectorChannel {
   void Note(const std::string& what) { called += what + "; "; }
 };
 
-TEST(ForwardingChannelTest, PassesEveryMemberOn) {
+TEST(ForwardingChannelTest, ForwardsEveryMember) {
   const auto scribe = std::make_shared<Scribe>();
   LoggingChannel channel(std::make_shared<LoggingChannel>(scribe, nullptr), nullptr);
   ProjectorChannel& outer = channel;

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// A record whose every field tells where it stands.
+/// A record in which every field has a different value.
 CModelInfo2 NumberedRecord() {
   CModelInfo2 info;
   info.ModelName = "record";
@@ -33,7 +33,7 @@ CModelInfo2 NumberedRecord() {
 }
 
 TEST(ModelDataIntakeTest, EveryMemberIsCopied) {
-  // Whole arrays, whatever the count.
+  // Arrays are copied completely, regardless of the count.
   const auto members = [](const auto& of) {
     return std::tie(of.ModelName, of.DialogType, of.ModelCode, of.ModelWord, of.ModelWords,
                     of.MySourceList, of.WhisperList, of.AspectList, of.GammaList, of.ColorTempList,
@@ -46,7 +46,7 @@ TEST(ModelDataIntakeTest, EveryMemberIsCopied) {
   EXPECT_EQ(data.RangeTexts[RangeIndex::Bass], "1068");
 }
 
-TEST(ModelDataIntakeTest, AConnectionIsChosenByItsIndexAndAnItemBringsItsOwnWithItsName) {
+TEST(ModelDataIntakeTest, ARecordGivesTheConnectionAtAnIndexAndAnItemItsOwn) {
   const CModelInfo2 info = NumberedRecord();
   EXPECT_EQ(MakeConnectionData(info, 0), (ConnectionData{0, 10, 20, "", ""}));
   EXPECT_EQ(MakeConnectionData(info, 4), (ConnectionData{4, 14, 24, "last", std::string(64, 'z')}));

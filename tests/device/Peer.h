@@ -20,18 +20,18 @@
 #include <QTcpServer>
 #include <QTemporaryDir>
 
-enum class Way { Tcp, Serial };
+enum class Transport { Tcp, Serial };
 
-/// The other end of connections, on a thread of its own: does with the first what the first
-/// behaviour says, and so on; with further ones what the last says. When a behaviour returns, its
-/// connection is closed: a serial line is hung up, and a new one takes its place.
+/// The other end of connections, on its own thread. The first connection gets the first behaviour,
+/// and so on; further ones get the last. When a behaviour returns, its connection is closed; a
+/// serial line is hung up and replaced by a new one.
 class Peer {
  public:
   class End {
    public:
     End(int file, std::function<bool()> isOver) : file_(file), isOver_(std::move(isOver)) {}
 
-    /// What came; nothing when the connection is over.
+    /// Waits for bytes and returns them; empty if the connection has ended.
     std::string Receive() {
       std::string bytes(std::size_t{64} * 1024, '\0');
       const ssize_t size = IsReady(POLLIN) ? read(file_, bytes.data(), bytes.size()) : 0;
@@ -45,7 +45,7 @@ class Peer {
         bytes.remove_prefix(size > 0 ? static_cast<std::size_t>(size) : 0);
       }
     }
-    /// Says nothing more, as long as the connection lasts.
+    /// Sends nothing more, and waits for the end of the connection.
     void Listen() {
       while (!Receive().empty()) continue;
     }
@@ -62,7 +62,7 @@ class Peer {
   };
   using Behaviour = std::function<void(End&)>;
 
-  /// Says the first text at once, each other after a request, then nothing.
+  /// Sends the first text at once, each further one after a request, and then nothing.
   static Behaviour Says(std::vector<std::string> texts, bool keepsOpen = true) {
     return [texts = std::move(texts), keepsOpen](End& end) {
       for (std::size_t i = 0; i < texts.size(); ++i) {
@@ -73,7 +73,7 @@ class Peer {
     };
   }
 
-  /// Sends the greeting, and what `answer` gives for each line; no value closes the connection.
+  /// Sends the greeting, and for each line the result of `answer`. No result closes the connection.
   static Behaviour AnswersLines(
       std::string greeting, std::function<std::optional<std::string>(const std::string&)> answer) {
     return [greeting = std::move(greeting), answer = std::move(answer)](End& end) {
@@ -91,33 +91,34 @@ class Peer {
     };
   }
 
-  Peer(Way way, std::vector<Behaviour> behaviours) : behaviours_(std::move(behaviours)) {
+  Peer(Transport transport, std::vector<Behaviour> behaviours)
+      : behaviours_(std::move(behaviours)) {
     std::signal(SIGPIPE, SIG_IGN);
-    thread_ = std::jthread([this, way] { Run(way); });
+    thread_ = std::jthread([this, transport] { Run(transport); });
     Finish(0);
   }
   ~Peer() { wanted_ = INT_MAX; }
 
-  /// Ends the first `count` connections, and returns when the next may come.
+  /// Ends the first `count` connections. Returns when the next one is possible.
   void Finish(int count) {
     wanted_ = count;
     for (int done = finished_; done < count; done = finished_) finished_.wait(done);
   }
 
-  std::uint16_t port = 0;  ///< Stays 0 of a serial line.
+  std::uint16_t port = 0;  ///< 0 for a serial line.
   std::string Device() const { return folder_.filePath("line").toStdString(); }
 
  private:
-  void Run(Way way) {
+  void Run(Transport transport) {
     QTcpServer listener;
-    if (way == Way::Tcp) {
+    if (transport == Transport::Tcp) {
       listener.listen(QHostAddress::LocalHost);
       port = listener.serverPort();
     }
     for (int index = 0; wanted_ < INT_MAX; ++index) {
-      // The other end is held, so that the line lasts while nobody has it open.
+      // The other end is kept open so that the line survives while nobody else has it open.
       int line = -1, otherEnd = -1;
-      if (way == Way::Serial) {
+      if (transport == Transport::Serial) {
         openpty(&line, &otherEnd, nullptr, nullptr, nullptr);
         std::filesystem::remove(Device());
         std::filesystem::create_symlink(ttyname(otherEnd), Device());

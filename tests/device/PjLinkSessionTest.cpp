@@ -1,4 +1,4 @@
-// What PJLink projectors do in the field, in a time of its own: nothing here waits.
+// Faults of real PJLink projectors, in simulated time: nothing here waits.
 
 #include <functional>
 
@@ -19,7 +19,7 @@ const PjtCommand kGetInput = Get(Code::InputSource);
 const PjtCommand kSetInput = Set(Code::InputSource, 32);
 const PjtCommand kOn = Do(Op::SetPowerOn);
 
-/// A reply in one word.
+/// A reply as one word.
 std::string Word(const PjtCommand& command, const PjtReply& reply) {
   if (!reply.answered) return reply.unsent ? "unsent" : "unanswered";
   if (reply.busy) return "busy";
@@ -35,14 +35,14 @@ struct Case {
   std::function<void(BadProjector&)> misbehaves;
   PjtCommand command;
   const char* comesTo;
-  const char* heard;
+  const char* requests;
 };
 
 void Expect(const Case& one, SteppedSession& stepped) {
   SCOPED_TRACE(one.name);
   one.misbehaves(stepped.projector);
   EXPECT_EQ(Word(one.command, stepped.Do(one.command)), one.comesTo);
-  EXPECT_EQ(stepped.projector.TakeHeard(), one.heard);
+  EXPECT_EQ(stepped.projector.TakeRequests(), one.requests);
 }
 
 void ExpectEach(const std::vector<Case>& cases) {
@@ -53,7 +53,7 @@ void ExpectEach(const std::vector<Case>& cases) {
   }
 }
 
-TEST(PjLinkSession, UnderstandsWhateverALineLooksLike) {
+TEST(PjLinkSession, UnderstandsEveryFormOfALine) {
   using namespace std::string_literals;
   const auto wraps = [](const std::string& before, const std::string& after) {
     return [=](BadProjector& it) {
@@ -81,16 +81,16 @@ TEST(PjLinkSession, UnderstandsWhateverALineLooksLike) {
     stepped.projector.facts["CLSS"] = told;
     stepped.Do(kGetInput);
     EXPECT_EQ(stepped.session.ProtocolClass(), known) << told;
-    stepped.projector.TakeHeard();
+    stepped.projector.TakeRequests();
     stepped.Do(kGetInput);
-    EXPECT_EQ(stepped.projector.TakeHeard(), "INPT") << "known once and for all";
+    EXPECT_EQ(stepped.projector.TakeRequests(), "INPT") << "known once and for all";
   }
   SteppedSession stepped;
   stepped.projector.facts["INNM31"] = std::string(1500, 'x');
   EXPECT_EQ(stepped.Ask(*PjLinkInputs::NameOf(31)).text.size(), 1500);
 }
 
-TEST(PjLinkSession, LosesOneThingAndAsksAgainWhereItMatters) {
+TEST(PjLinkSession, RepeatsALostRequestOnlyIfThatIsSafe) {
   const auto loses = [](const char* command, int times) {
     return [=](BadProjector& it) { it.loses[command] = times; };
   };
@@ -135,7 +135,7 @@ TEST(PjLinkSession, LosesOneThingAndAsksAgainWhereItMatters) {
   EXPECT_EQ(NameText(SourcesOf({known[0]}, InputCodes::AllNames).names[0]), "HDMI (31)");
 }
 
-TEST(PjLinkSession, WaitsUntilAChangeIsSo) {
+TEST(PjLinkSession, WaitsUntilAChangeTakesEffect) {
   const auto follows = [](std::chrono::milliseconds time) {
     return [=](BadProjector& it) { it.follows = time; };
   };
@@ -152,11 +152,11 @@ TEST(PjLinkSession, WaitsUntilAChangeIsSo) {
   SteppedSession stepped;
   stepped.session.RememberClass('2');
   stepped.Do(kSetInput);
-  stepped.projector.TakeHeard();
+  stepped.projector.TakeRequests();
   EXPECT_EQ(stepped.Do(kGetInput).value, 32);
-  EXPECT_EQ(stepped.projector.TakeHeard(), "") << "it was just read";
+  EXPECT_EQ(stepped.projector.TakeRequests(), "") << "it was just read";
   stepped.Do(kGetInput);
-  EXPECT_EQ(stepped.projector.TakeHeard(), "INPT") << "but only once";
+  EXPECT_EQ(stepped.projector.TakeRequests(), "INPT") << "but only once";
   stepped.Do(kSetInput);
   stepped.now += 2s;
   stepped.projector.states["INPT"] = "5A";
@@ -169,7 +169,7 @@ TEST(PjLinkSession, WaitsUntilAChangeIsSo) {
   EXPECT_LT(patient.now - start, 20s + 1200ms) << "it is seen soon after it is so";
 }
 
-TEST(PjLinkSession, AsksABusyProjectorAgainInTime) {
+TEST(PjLinkSession, AsksABusyProjectorAgainUntilTheTimeOut) {
   const auto refuses = [](int times, const char* power) {
     return [=](BadProjector& it) {
       it.refuses["INPT"] = times;
@@ -203,7 +203,7 @@ TEST(PjLinkSession, AsksABusyProjectorAgainInTime) {
   }
 }
 
-TEST(PjLinkSession, HasTheWholeTimeForEachAnswerAndOneConnectionWithGrowingPauses) {
+TEST(PjLinkSession, HasTheWholeTimeForEachAnswerAndReconnectsAfterGrowingPauses) {
   const auto closesLate = [](auto& it) { it.closesAfterReply = 5ms; };
   ExpectEach({
       {"slow", [](auto& it) { it.answers = 1990ms; }, kSetInput, "done", "INPT 32, INPT"},
@@ -249,20 +249,20 @@ TEST(PjLinkSession, HasTheWholeTimeForEachAnswerAndOneConnectionWithGrowingPause
   EXPECT_EQ(away.projector.attempts, 1 + 6) << "at 0, 50, 150, 350, 750 and 1550 ms";
 }
 
-TEST(PjLinkSession, OneKeyCostsThreeExchangesCoolAndTwoWarm) {
+TEST(PjLinkSession, OneSettingNeedsThreeExchangesAtFirstAndTwoLater) {
   const std::pair<PjtCommand, const char*> kCases[] = {
       {Get(Code::RunningState), "POWR"},   {kGetInput, "CLSS, INPT"},
       {Get(Code::Mute), "AVMT"},           {Get(Code::Freeze), "CLSS, FREZ"},
       {kSetInput, "CLSS, INPT 32, INPT"},  {Do(Op::SetMute, 0), "AVMT 20, AVMT"},
       {Inc(Code::Volume), "CLSS, SVOL 1"}, {Get(Code::Brightness), ""}};
-  for (const auto& [command, heard] : kCases) {
+  for (const auto& [command, requests] : kCases) {
     SteppedSession cold;
     cold.Do(command);
-    EXPECT_EQ(cold.projector.TakeHeard(), heard);
+    EXPECT_EQ(cold.projector.TakeRequests(), requests);
     SteppedSession warm;
     warm.session.RememberClass('2');
     warm.Do(command);
-    EXPECT_LE(warm.projector.heard.size(), 2);
+    EXPECT_LE(warm.projector.requests.size(), 2);
   }
   for (const auto& [power, inputs] : {std::pair("1", "CLSS, INPT"), {"0", "CLSS, INPT, POWR"}}) {
     SteppedSession all;
@@ -270,12 +270,12 @@ TEST(PjLinkSession, OneKeyCostsThreeExchangesCoolAndTwoWarm) {
     if (*power == '0') all.projector.refuses = {{"INPT", 99}, {"AVMT", 99}, {"FREZ", 99}};
     all.session.KeepLast();
     for (const auto& command : {kGetInput, kGetInput}) all.Do(command);
-    EXPECT_EQ(all.projector.TakeHeard(), inputs);
+    EXPECT_EQ(all.projector.TakeRequests(), inputs);
     all.Do(Get(Code::RunningState));
     for (int i = 0; i < 2; ++i) {
       for (const auto code : {Code::BlankState, Code::Mute, Code::Freeze}) all.Do(Get(code));
     }
-    EXPECT_EQ(all.projector.TakeHeard(),
+    EXPECT_EQ(all.projector.TakeRequests(),
               std::string(*power == '0' ? "" : "POWR, ") + "AVMT, FREZ, AVMT, FREZ");
   }
   SteppedSession other;
@@ -283,7 +283,7 @@ TEST(PjLinkSession, OneKeyCostsThreeExchangesCoolAndTwoWarm) {
   other.projector.facts["CLSS"] = "1";
   other.projector.states.erase("FREZ");
   EXPECT_FALSE(other.Do(Get(Code::Freeze)).offered);
-  EXPECT_EQ(other.projector.TakeHeard(), "FREZ, CLSS") << "what is remembered may be wrong";
+  EXPECT_EQ(other.projector.TakeRequests(), "FREZ, CLSS") << "what is remembered may be wrong";
 }
 
 }  // namespace

@@ -27,7 +27,7 @@ std::atomic<int> lookUps = 0;
 
 }  // namespace
 
-/// Goes before the system's, for the library too: looking up a name takes its time.
+/// Replaces the system's function, for the library too, to make a name look-up slow.
 extern "C" [[gnu::visibility("default")]] int getaddrinfo(const char* name, const char* service,
                                                           const addrinfo* hints, addrinfo** found) {
   static const auto system =
@@ -47,7 +47,7 @@ const PjtCommand kGetPower = Get(CommandCode::RunningState);
 
 const std::string kHost = "127.0.0.1";
 
-/// A simulated projector on a port, which answers on a thread of its own.
+/// A simulated projector on a port, served by its own thread.
 class Served {
  public:
   explicit Served(PjLinkServer::Options options) {
@@ -66,7 +66,8 @@ class Served {
     return {kHost, port_, password, kLimits};
   }
 
-  /// All that a client gets that sends these bytes, until the server closes or a second is over.
+  /// Everything that a client receives after sending these bytes, until the server closes the
+  /// connection or a second has passed.
   QByteArray Exchange(const QByteArray& sent) const {
     QTcpSocket socket;
     socket.connectToHost(QString::fromStdString(kHost), static_cast<quint16>(port_));
@@ -118,7 +119,7 @@ TEST(PjLinkTest, EveryOperationReachesTheProjector) {
   EXPECT_EQ(channel.Connection(), State::Connected);
 }
 
-TEST(PjLinkTest, OnlyWhatTheProjectorMayHaveIsAsked) {
+TEST(PjLinkTest, AsksOnlyForWhatTheProjectorMayHave) {
   PjLinkChannel nowhere("127.0.0.1", 1, "", kLimits);
   EXPECT_EQ(
       Replies(nowhere, {Do(Op::GetMirror), Get(CommandCode::Brightness), Get(CommandCode::Volume),
@@ -147,12 +148,12 @@ TEST(PjLinkTest, PasswordsAndInputs) {
   EXPECT_EQ(Replies(channel, {kGetPower, kGetPower}), "1 1");
 }
 
-TEST(PjLinkTest, WhateverThePeerDoesTheStateIsClearAndOldRepliesAreDropped) {
+TEST(PjLinkTest, EveryFaultOfThePeerGivesAStateAndOldRepliesAreDropped) {
   struct Case {
     Peer::Behaviour first;
     const char* answer;
     State state;
-    bool isClosed = false;  ///< Before the next commands.
+    bool isClosed = false;  ///< Whether the connection is closed before the next commands.
     std::vector<PjtCommand> next{kGetPower};
     const char* answers = "1";
     Peer::Behaviour second = kGood;
@@ -199,7 +200,7 @@ TEST(PjLinkTest, WhateverThePeerDoesTheStateIsClearAndOldRepliesAreDropped) {
   }
   for (const Case& one : cases) {
     SCOPED_TRACE(&one - cases.data());
-    Peer peer(Way::Tcp, {one.first, one.second});
+    Peer peer(Transport::Tcp, {one.first, one.second});
     PjLinkChannel channel(kHost, peer.port, "", kLimits);
     EXPECT_EQ(Replies(channel, {kGetPower}), one.answer);
     EXPECT_EQ(channel.Connection(), one.state);
@@ -209,12 +210,13 @@ TEST(PjLinkTest, WhateverThePeerDoesTheStateIsClearAndOldRepliesAreDropped) {
   }
 }
 
-TEST(PjLinkTest, InputsAreAskedForWhenIdleAndAgainAfterAPause) {
-  // Closes after each reply, as some do.
+TEST(PjLinkTest, AsksForInputsWhenIdleAndAgainAfterAPause) {
+  // Closes after each reply, as some projectors do.
   const auto says = [](const std::string& text) { return Peer::Says({kGreeting, text}, false); };
-  Peer peer(Way::Tcp, {says("%1CLSS=2\r"), says("%2INPT=6Z\r"), says("%2INST=ERR3\r"),
-                       says("%1POWR=OK\r"), says(kOn), says("%2INST=31 71  3a 5A\r"),
-                       says("%2INNM=Bü\x1Bro\r"), says("%2INNM=ERR1\r"), says("%2INNM=Own\r")});
+  Peer peer(Transport::Tcp,
+            {says("%1CLSS=2\r"), says("%2INPT=6Z\r"), says("%2INST=ERR3\r"), says("%1POWR=OK\r"),
+             says(kOn), says("%2INST=31 71  3a 5A\r"), says("%2INNM=Bü\x1Bro\r"),
+             says("%2INNM=ERR1\r"), says("%2INNM=Own\r")});
   PjLinkChannel channel(kHost, peer.port, "", {.firstPause = 400ms});
   EXPECT_FALSE(channel.Inputs() || channel.UseIdleTime()) << "no command was answered";
   EXPECT_EQ(Replies(channel, {Do(Op::GetInputSource)}), "635");
@@ -239,13 +241,15 @@ TEST(PjLinkTest, SaysWhyItCannotConnect) {
   expect({kHost, 65536 + 4352, "", kLimits}, State::WrongParameters);
 }
 
-TEST(PjLinkTest, TheServerAnswersAsTheStandardSays) {
+TEST(PjLinkTest, TheServerFollowsTheStandard) {
   const Served served({});
   const std::pair<const char*, const char*> cases[] = {
       {"%1POWR ?", "1"},      {"%1powr ?", "1"},     {"%1POWR 2", "ERR2"},   {"%2POWR ?", "ERR1"},
       {"%3POWR ?", "ERR1"},   {"%1NONE ?", "ERR1"},  {"%1INPT 31", "OK"},    {"%2INPT ?", "31"},
       {"%1INPT 32", "ERR2"},  {"%1INST ?", "31 5A"}, {"%2INNM ?5A", "Büro"}, {"%2INNM ?5B", "ERR2"},
       {"%1AVMT 31", "OK"},    {"%1AVMT 20", "OK"},   {"%1AVMT ?", "11"},     {"%1AVMT 4", "ERR2"},
+      {"%1AVMT 21", "OK"},    {"%1AVMT ?", "31"},    {"%1AVMT 10", "OK"},    {"%1AVMT ?", "21"},
+      {"%1AVMT 11", "OK"},    {"%1AVMT ?", "31"},    {"%1AVMT 30", "OK"},    {"%1AVMT ?", "30"},
       {"%1LAMP ?", "1240 1"}, {"%1LAMP 0", "ERR2"},  {"%2SVOL ?", "ERR2"},   {"%2FREZ 1", "OK"},
       {"%2SVER ?", "1.0"},    {"%1NAME x", "ERR2"},  {"%1POWR 0", "OK"},     {"%1AVMT ?", "ERR3"}};
   QByteArray sent;

@@ -17,8 +17,8 @@ inline PjtCommand Set(int code, int value) {
   return {PjtOperation::Set, static_cast<std::uint16_t>(code), static_cast<std::int16_t>(value)};
 }
 
-/// What comes of the commands, one after the other: a value, "-" where it is refused, "!" where it
-/// is not offered, "?" where there is no answer. The pause comes before each.
+/// The replies to the commands: a value, "-" if refused, "!" if not offered, "?" if unanswered.
+/// Pauses before each command.
 inline std::string Replies(ProjectorChannel& channel, const std::vector<PjtCommand>& commands,
                            std::chrono::milliseconds pause = {}) {
   std::string replies;

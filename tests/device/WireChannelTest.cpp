@@ -23,11 +23,11 @@ using End = Peer::End;
 constexpr WireChannel::Limits kLimits{.connect = 400ms, .answer = 400ms};
 constexpr std::size_t kWelcomeSize = 9;
 constexpr std::size_t kReplySize = 15;
-constexpr auto kWays = {Way::Tcp, Way::Serial};
+constexpr auto kTransports = {Transport::Tcp, Transport::Serial};
 
 const PjtCommand kChange = Set(1, 7);
 
-/// Answers reads with their code plus a state that changes raise.
+/// Answers reads with their code plus a counter of changes.
 class Device final : public ProjectorChannel {
  public:
   PjtReply Execute(const PjtCommand& command) override {
@@ -42,7 +42,7 @@ std::unique_ptr<WireChannel> ChannelTo(const Peer& peer) {
   return std::make_unique<TcpChannel>("127.0.0.1", peer.port, kLimits);
 }
 
-/// Gives what the projector would say to what came to `say`, until the connection is over.
+/// Passes each reply of the projector to `say`, until the end of the connection.
 Peer::Behaviour Answers(std::function<void(End&, const std::string&)> say, bool forgets = false) {
   return [say = std::move(say), forgets](End& end) {
     Device device;
@@ -58,7 +58,7 @@ Peer::Behaviour Answers(std::function<void(End&, const std::string&)> say, bool 
 void SendOn(End& end, const std::string& answer) { end.Send(answer); }
 const Peer::Behaviour kServes = Answers(SendOn);
 
-/// Welcomes, says once what becomes of the reply, and then nothing, or closes the connection.
+/// Sends the welcome and one changed reply. Then sends nothing, or closes the connection.
 Peer::Behaviour Distorts(std::function<std::string(std::string)> change, bool closes = false) {
   return [change = std::move(change), closes](End& end) {
     Device device;
@@ -77,7 +77,7 @@ std::string FrameBytes(const Wire::Frame& frame, std::size_t times = 1) {
   return bytes;
 }
 
-TEST(WireChannelTest, WhateverThePeerDoesTheStateIsClearAndTheNextCommandWorks) {
+TEST(WireChannelTest, EveryFaultOfThePeerGivesAStateAndTheNextCommandWorks) {
   struct Case {
     const char* name;
     Peer::Behaviour behaviour;
@@ -111,14 +111,15 @@ TEST(WireChannelTest, WhateverThePeerDoesTheStateIsClearAndTheNextCommandWorks) 
     const auto begin = [cut](const auto& reply) { return reply.substr(0, cut); };
     cases.push_back({"closes in mid-reply", Distorts(begin, true), Lost, Lost});
   }
-  for (const Way way : kWays) {
+  for (const Transport transport : kTransports) {
     for (const auto& [name, behaviour, onTcp, onSerial] : cases) {
-      SCOPED_TRACE(testing::Message() << name << (way == Way::Tcp ? "" : ", on a serial line"));
-      Peer peer(way, {behaviour, kServes});
+      SCOPED_TRACE(testing::Message()
+                   << name << (transport == Transport::Tcp ? "" : ", on a serial line"));
+      Peer peer(transport, {behaviour, kServes});
       const auto channel = ChannelTo(peer);
       EXPECT_EQ(channel->Connection(), Unused);
       EXPECT_EQ(Replies(*channel, {Get(5)}), "?");
-      EXPECT_EQ(channel->Connection(), way == Way::Tcp ? onTcp : onSerial);
+      EXPECT_EQ(channel->Connection(), transport == Transport::Tcp ? onTcp : onSerial);
       peer.Finish(1);
       EXPECT_EQ(Replies(*channel, {Get(5)}), "5");
       EXPECT_EQ(channel->Connection(), Connected);
@@ -141,7 +142,7 @@ TEST(WireChannelTest, SaysWhyItCannotConnect) {
   expect(SerialChannel("/dev/no-such-port", 19200, kLimits), NotReachable);
   expect(SerialChannel("/dev/null", 19200, kLimits), NotReachable);
 
-  // The thread of one that is given up goes by itself.
+  // The thread of an abandoned look-up ends by itself.
   const auto threads = [] {
     return QDir("/proc/self/task").entryList(QDir::Dirs | QDir::NoDotAndDotDot).size();
   };
@@ -158,11 +159,11 @@ TEST(WireChannelTest, SaysWhyItCannotConnect) {
   expect(TcpChannel("127.0.0.1", taken, kLimits), NotReachable);
 }
 
-TEST(WireChannelTest, WhatEndsWhileNothingIsAskedLosesNoCommand) {
-  for (const Way way : kWays) {
+TEST(WireChannelTest, AConnectionThatEndsWhileIdleLosesNoCommand) {
+  for (const Transport transport : kTransports) {
     for (const bool isClosed : {false, true}) {
       SCOPED_TRACE(isClosed);
-      Peer peer(way, {Answers(SendOn, !isClosed), kServes});
+      Peer peer(transport, {Answers(SendOn, !isClosed), kServes});
       const auto channel = ChannelTo(peer);
       EXPECT_EQ(channel->Execute(Get(1)).value, 1);
       if (isClosed) peer.Finish(1);
@@ -171,7 +172,8 @@ TEST(WireChannelTest, WhatEndsWhileNothingIsAskedLosesNoCommand) {
   }
 }
 
-/// Notes how many requests came at once, and gives each reply twice: slowly, or else backwards.
+/// Counts the requests that arrive together, and sends each reply twice: slowly, or in reverse
+/// order.
 Peer::Behaviour AnswersTwice(std::vector<std::size_t>& bursts, std::chrono::milliseconds pause) {
   return Answers([&bursts, pause](End& end, const std::string& answer) {
     const std::size_t welcome = answer.size() % kReplySize;
@@ -194,10 +196,10 @@ TEST(WireChannelTest, AnnouncedReadsGoOutTogetherAndAreAnsweredInOrder) {
     const char* name;
     std::vector<PjtCommand> commands;
     const char* replies;
-    std::vector<std::size_t> bursts;       ///< The hello goes out with the first.
-    std::chrono::milliseconds answers{0};  ///< How long each takes.
-    std::chrono::milliseconds asks{0};     ///< How long the program takes before each.
-    Way way = Way::Tcp;
+    std::vector<std::size_t> bursts;       ///< The first burst includes the hello.
+    std::chrono::milliseconds answers{0};  ///< Time for each reply.
+    std::chrono::milliseconds asks{0};     ///< Pause of the program before each command.
+    Transport transport = Transport::Tcp;
   };
   const Case cases[] = {
       {"in order", {Get(0), Get(1), Get(63), Get(64), Get(79)}, "0 1 63 64 79", {64, 16}},
@@ -207,13 +209,19 @@ TEST(WireChannelTest, AnnouncedReadsGoOutTogetherAndAreAnsweredInOrder) {
       {"asked twice", {Get(20), Get(20)}, "20 20", {60, 1}},
       {"late", {Get(20), Get(21)}, "20 21", {60, 1}, 0ms, kLimits.answer + 20ms},
       {"longer than one may take", {Get(75), Get(77), Get(79)}, "75 77 79", {5}, 100ms},
-      {"serial", {Get(20), kChange, Get(0)}, "20 1001 1000", {0, 1, 1, 1}, 0ms, 0ms, Way::Serial},
+      {"serial",
+       {Get(20), kChange, Get(0)},
+       "20 1001 1000",
+       {0, 1, 1, 1},
+       0ms,
+       0ms,
+       Transport::Serial},
   };
-  for (const auto& [name, commands, replies, expected, answers, asks, way] : cases) {
+  for (const auto& [name, commands, replies, expected, answers, asks, transport] : cases) {
     SCOPED_TRACE(name);
     std::vector<std::size_t> bursts;
     {
-      const Peer peer(way, {AnswersTwice(bursts, answers)});
+      const Peer peer(transport, {AnswersTwice(bursts, answers)});
       BoundedChannel channel(ChannelTo(peer));
       channel.Announce(reads);
       EXPECT_EQ(Replies(channel, commands, asks), replies);
@@ -224,7 +232,7 @@ TEST(WireChannelTest, AnnouncedReadsGoOutTogetherAndAreAnsweredInOrder) {
 
 TEST(WireChannelTest, AnnouncingAgainLeavesNoMoreThan64Unanswered) {
   std::atomic<std::size_t> received = 0;
-  const Peer peer(Way::Tcp, {Answers([&](End& end, const std::string& answer) {
+  const Peer peer(Transport::Tcp, {Answers([&](End& end, const std::string& answer) {
                     if (received == 0) end.Send(answer.substr(0, kWelcomeSize + kReplySize));
                     received += answer.size() / kReplySize;
                   })});

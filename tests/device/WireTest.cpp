@@ -16,7 +16,7 @@ std::string Bytes(const std::string& hexadecimal) {
   return QByteArray::fromHex(QByteArray::fromStdString(hexadecimal)).toStdString();
 }
 
-TEST(WireTest, TheDocumentSaysEveryOperationAndEveryByte) {
+TEST(WireTest, TheDocumentDescribesEveryOperationAndEveryByte) {
   std::ifstream file(TEST_SOURCE_DIR "/../docs/wire.md");
   const std::regex operationLine(R"(\| (\d+) \| (\w+) \| (\w+) \|)");
   const std::regex exampleLine(R"(\|.*\| `(A5 5A [0-9A-F ]+)` \|)");
@@ -26,7 +26,7 @@ TEST(WireTest, TheDocumentSaysEveryOperationAndEveryByte) {
     std::smatch cell;
     if (std::regex_match(line, cell, operationLine)) {
       const auto operation = OperationByName(cell[2].str());
-      if (!operation) continue;  // the table of kinds
+      if (!operation) continue;  // a line of the table of kinds
       ++operations;
       EXPECT_EQ(std::stoi(cell[1]), OperationNumber(*operation)) << cell[2];
       EXPECT_EQ(OperationByNumber(OperationNumber(*operation)), operation) << "given twice";
@@ -55,7 +55,7 @@ TEST(WireTest, TheDocumentSaysEveryOperationAndEveryByte) {
   EXPECT_EQ(again, examples);
 }
 
-TEST(WireTest, FramesAreFoundBehindAnyNoiseInAnyPieces) {
+TEST(WireTest, FindsFramesAfterNoiseAndInPieces) {
   const Wire::Frame frame{0xA55A, Wire::Reply{Wire::Status::Answered, -1, -2}};
   std::string whole;
   Wire::Append(whole, frame);
@@ -79,7 +79,7 @@ TEST(WireTest, FramesAreFoundBehindAnyNoiseInAnyPieces) {
   }
 }
 
-TEST(WireTest, ConnectionParametersNameAWayOrWhatIsWrong) {
+TEST(WireTest, ConnectionParametersGiveAnAddressOrAnError) {
   constexpr int kMost = 4'000'000;
   const std::pair<ProjectorAddress, ProjectorAddress> cases[] = {
       {ParseConnection({1, 0, 7240, "192.0.2.1", ""}), TcpAddress{"192.0.2.1", 7240}},
@@ -113,7 +113,7 @@ TEST(WireTest, ConnectionParametersNameAWayOrWhatIsWrong) {
   for (const auto& one : cases) EXPECT_EQ(one.first, one.second) << "case " << &one - cases;
 }
 
-TEST(WireTest, AHostIsANameOrAWholeAddress) {
+TEST(WireTest, AHostIsANameOrACompleteAddress) {
   for (const char* host : {"192.0.2.1", "::1", "fe80::1%eth0", "beamer", "hall_2.example.org",
                            "3com", "4.hall", "b\u00FCro", "\u5927\u5385.example"}) {
     EXPECT_TRUE(IsHostAddress(host)) << host;

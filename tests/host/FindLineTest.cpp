@@ -37,13 +37,13 @@ TEST_F(Finding, GoesToTheRowOfAnyTab) {
   EXPECT_EQ(open.Dialog().focusWidget()->accessibleName(), QStringLiteral("OSD Bright"));
   Find("mirror", {});
   auto* completions = qobject_cast<QAbstractItemView*>(line.completer()->popup());
-  Q_EMIT completions->clicked(completions->model()->index(0, 0));  // as by the mouse
+  Q_EMIT completions->clicked(completions->model()->index(0, 0));  // as by a mouse click
   QTest::qWait(0);
   EXPECT_EQ(tabs.tabText(tabs.currentIndex()), QStringLiteral("Setup"));
-  Find("contrast", {Qt::Key_Return});  // grey: its tab is shown, and has the focus
+  Find("contrast", {Qt::Key_Return});  // disabled: its tab is shown and gets the focus
   EXPECT_EQ(tabs.currentIndex(), 1);
   EXPECT_EQ(open.Dialog().focusWidget(), &tabs);
-  Find("gain g", {Qt::Key_Return});  // its button is grey
+  Find("gain g", {Qt::Key_Return});  // its button is disabled
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
   EXPECT_EQ(open.Dialog().focusWidget(), open.Page().GetDlgItem(20144)) << "the color temperatures";
   QTimer::singleShot(100, [] {
@@ -51,7 +51,7 @@ TEST_F(Finding, GoesToTheRowOfAnyTab) {
               [](CDialog& popUp) { EXPECT_TRUE(popUp.GetDlgItem(20378)->hasFocus()); });
   });
   {
-    // The pop-up waits until the dialog has read to its end.
+    // The pop-up opens only when the dialog has finished reading.
     const CDialog::Busy reading(&open.Dialog());
     Find("frequency n", {Qt::Key_Return});
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
@@ -60,7 +60,7 @@ TEST_F(Finding, GoesToTheRowOfAnyTab) {
   EXPECT_EQ(tabs.tabText(tabs.currentIndex()), QStringLiteral("Option"));
 }
 
-TEST_F(Finding, StaysForNoNameAndLeavesWithoutTheDialog) {
+TEST_F(Finding, StaysOpenWithoutAMatchAndEscClosesOnlyTheLine) {
   Find("no such row", {Qt::Key_Return});
   EXPECT_TRUE(line.isVisible());
   QTest::keyClick(&line, Qt::Key_Escape);

@@ -1,4 +1,4 @@
-// What a person sees and may do while the projector takes its time.
+// What the user sees and can do while the projector is slow.
 
 #include <gmock/gmock.h>
 
@@ -27,7 +27,7 @@ struct SilentProjectorTest : FlowTest {
   SilentProjectorTest() : FlowTest(std::chrono::seconds(3)) {}
 };
 
-TEST_F(FlowTest, ClosingActsAtOnceInRefreshesAndChangesAndSendsNothingMore) {
+TEST_F(FlowTest, ClosingActsAtOnceDuringReadsAndChangesAndSendsNothingMore) {
   const std::pair<std::string, std::function<void()>> ways[] = {
       {"Close", [this] { QTest::mouseClick(dialog_.GetDlgItem(kClose), Qt::LeftButton); }},
       {"Esc", [this] { QTest::keyClick(Focused(), Qt::Key_Escape); }},
@@ -54,7 +54,7 @@ TEST_F(FlowTest, ClosingActsAtOnceInRefreshesAndChangesAndSendsNothingMore) {
       } else if (moment == "refresh") {
         ClickTab(kAudioTab);
       } else {
-        projector_->refuses = true;  // would be told
+        projector_->refuses = true;  // a refusal would show an error
         Page().Choose(kIris, 1);
         projector_->refuses = false;
       }
@@ -68,7 +68,7 @@ TEST_F(FlowTest, ClosingActsAtOnceInRefreshesAndChangesAndSendsNothingMore) {
   }
 }
 
-TEST_F(FlowTest, ClosingAPopUpLeavesThePopUpAlone) {
+TEST_F(FlowTest, ClosingAPopUpClosesOnlyThePopUp) {
   Open(kPictureTab);
   InTheWait([] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
   Page().Click(kCustomGamma);
@@ -91,7 +91,7 @@ TEST_F(FlowTest, AnotherTabIsShownAtOnceAndReadFromItsStart) {
       if (inChange) ClickTab(kPictureTab);
       InTheWait([&] {
         projector_->Take();
-        QApplication::setActiveWindow(&dialog_);  // a list may have been it
+        QApplication::setActiveWindow(&dialog_);  // a list may have been the active window
         leave();
         EXPECT_EQ(dialog_.ShownPage(), &dialog_.Page(PageId::Status));
         projector_->Pace(0ms);
@@ -111,7 +111,7 @@ TEST_F(FlowTest, AnotherTabIsShownAtOnceAndReadFromItsStart) {
   }
 }
 
-TEST_F(FlowTest, WhatIsTypedOrClickedMeanwhileIsDropped) {
+TEST_F(FlowTest, InputDuringAWaitIsDropped) {
   Open();
   projector_->Take();
   ClickTab(kPictureTab);
@@ -133,7 +133,7 @@ TEST_F(FlowTest, WhatIsTypedOrClickedMeanwhileIsDropped) {
   EXPECT_EQ(Page().Selected(kIris), iris);
 }
 
-TEST_F(FlowTest, TheWindowComesFirstAndSaysWhatItDoes) {
+TEST_F(FlowTest, TheWindowIsShownBeforeTheFirstReadAndShowsProgress) {
   projector_->Pace(200ms);
   QStringList seen;
   QTimer look;
@@ -157,7 +157,7 @@ TEST_F(FlowTest, TheWindowComesFirstAndSaysWhatItDoes) {
   EXPECT_THAT(seen, testing::Each(QString())) << "a fast projector shows no line";
 }
 
-TEST_F(SilentProjectorTest, NoAnswerIsToldAndTriedAgain) {
+TEST_F(SilentProjectorTest, ShowsThatNobodyAnswersAndTriesAgain) {
   Open();
   projector_->Pace(kForEver);
   ClickTab(kPictureTab);
@@ -175,7 +175,7 @@ TEST_F(SilentProjectorTest, NoAnswerIsToldAndTriedAgain) {
   EXPECT_EQ(Page().Item<QWidget>(kIris).toolTip(), QString());
 }
 
-TEST_F(FlowTest, ABusyProjectorAndAChangeThatIsNotYetSoAreTold) {
+TEST_F(FlowTest, ShowsABusyProjectorAndAPendingChange) {
   Open(kPictureTab);
   projector_->late = true;
   Page().Choose(kIris, 1);
@@ -192,7 +192,7 @@ TEST_F(FlowTest, ABusyProjectorAndAChangeThatIsNotYetSoAreTold) {
   EXPECT_EQ(boxes.Take().size(), 1U) << "the row's own rule holds as well";
 }
 
-TEST_F(SilentProjectorTest, APopUpTellsThatNobodyAnswersAndTriesAgain) {
+TEST_F(SilentProjectorTest, APopUpShowsThatNobodyAnswersAndTriesAgain) {
   Open(kPictureTab);
   projector_->Pace(kForEver);
   QTimer look;
@@ -214,7 +214,7 @@ TEST_F(SilentProjectorTest, APopUpTellsThatNobodyAnswersAndTriesAgain) {
   EXPECT_FALSE(look.isActive());
 }
 
-TEST_F(FlowTest, RowsSayWhatThereIsToKnow) {
+TEST_F(FlowTest, RowsHaveNotes) {
   model_.GammaList.count = 0;
   dialog_.CopyData(&model_, 0);
   Open();
@@ -255,7 +255,7 @@ TEST_F(FlowTest, AHeldButtonStepsOnceForEachReply) {
   EXPECT_EQ(Page().SliderAt(kBrightness), before + static_cast<int>(sent.size()) / 2);
 }
 
-TEST_F(FlowTest, ADragTellsWhatLettingGoWouldSend) {
+TEST_F(FlowTest, ADragShowsTheNumberThatReleasingWouldSend) {
   Open(kPictureTab);
   auto& slider = Page().Item<CSliderCtrl>(kBrightness);
   const QString number = Page().Text(kBrightnessField);

@@ -6,7 +6,7 @@
 
 namespace {
 
-// As a host passes it, filled far beyond the count.
+// A list as a host passes it, with entries beyond the count.
 CountedList Filled(int count, int from) {
   CountedList list{.count = count};
   std::iota(list.values.begin(), list.values.end(), from);
@@ -14,7 +14,7 @@ CountedList Filled(int count, int from) {
   return list;
 }
 
-TEST(Intake, EachFormAddsToTheOneBefore) {
+TEST(Intake, EachFormAddsToThePreviousOne) {
   const CountedList whisper = Filled(4, 300), aspect = Filled(1, 400), gamma = Filled(2, 500),
                     colorTemp = Filled(0, 600);
   const auto names = [](const auto& list) { return list.names.data()->data(); };
@@ -51,7 +51,7 @@ TEST(Intake, EachFormAddsToTheOneBefore) {
   EXPECT_EQ(model.WhisperList, whisper);
 }
 
-TEST(Intake, ARecordOrAnItemGivesTheModelAndTheChosenConnectionAndNoneChangesNothing) {
+TEST(Intake, ARecordOrItemGivesModelAndConnectionAndNullChangesNothing) {
   CModelInfo2 record = MakeModel(5, 30);
   record.ConnectionNumbers[3] = 40;
   CAdvanceDlg dialog;
@@ -70,7 +70,7 @@ TEST(Intake, ARecordOrAnItemGivesTheModelAndTheChosenConnectionAndNoneChangesNot
 
 using IntakeOfAnOpenDialog = PacedDialog;
 
-TEST_F(IntakeOfAnOpenDialog, TakesEffectWhenItIsCreatedNext) {
+TEST_F(IntakeOfAnOpenDialog, TakesEffectAtTheNextCreation) {
   Open();
   CModelInfo2 other = FullModel(4, 9);
   other.ConnectionKinds[0] = 0;

@@ -27,7 +27,7 @@ TEST(LocalizeControlTexts, ReplacesCaptionsThatParse) {
   }
 }
 
-TEST(LocalizeControlTexts, TakesTheDialogAndItsDirectChildrenOnly) {
+TEST(LocalizeControlTexts, LocalizesOnlyTheDialogAndItsDirectChildren) {
   QDialog dialog;
   dialog.setWindowTitle(QStringLiteral("28;Gamma -Custom-"));
   QPushButton button(QStringLiteral("27;Close"), &dialog);
@@ -41,7 +41,7 @@ TEST(LocalizeControlTexts, TakesTheDialogAndItsDirectChildrenOnly) {
   EXPECT_EQ(nested.text(), QStringLiteral("27;Close"));
 }
 
-TEST(LocalizeControlTexts, WithoutACatalogLeavesTheTemplateTexts) {
+TEST(LocalizeControlTexts, KeepsTheTemplateTextsWithoutACatalog) {
   ReleaseCatalog();
   EXPECT_EQ(Localized("73;Brightness\t:"), QStringLiteral("73;Brightness\t:"));
   EXPECT_EQ(CatalogString(4, 73), QStringLiteral("No Message Catalog"));

@@ -1,5 +1,5 @@
-// A host that deletes the dialog's owner from the event loop that runs while a command waits or a
-// box is open. What is touched afterwards, or leaks, the address sanitizer tells.
+// A host deletes the dialog's owner from the event loop that runs while a command waits or a
+// message box is open. The address sanitizer reports uses of deleted objects and leaks.
 
 #include <functional>
 #include <memory>
@@ -26,7 +26,7 @@ constexpr int kOptionTab = 7;
 constexpr int kService = 20373;
 constexpr int kRemoteTop = 20377;
 
-// Acts from the event loop as soon as something is so.
+// Calls `act` from the event loop as soon as `isSo` returns true.
 void When(const std::function<bool()>& isSo, const std::function<void()>& act) {
   auto* timer = new QTimer(qApp);
   timer->callOnTimeout([=] {
@@ -38,7 +38,7 @@ void When(const std::function<bool()>& isSo, const std::function<void()>& act) {
   timer->start(1);
 }
 
-// When all is read, however long a busy machine takes for that.
+// Calls `act` when everything has been read, however slow the machine is.
 void WhenIdle(const CAdvanceDlg& dialog, const std::function<void()>& act) {
   When([&dialog] { return dialog.isVisible() && !dialog.IsBusy(); }, act);
 }
@@ -171,7 +171,7 @@ void ExpectToRunAgain(const std::function<CAdvanceDlg&(QWidget*)>& make) {
   }
 }
 
-TEST(OwnerOfALocalDialogOrOneInASmartPointer, DiesAndTheDialogIsThereToBeRunAgain) {
+TEST(OwnerOfALocalDialogOrOneInASmartPointer, DiesAndTheDialogCanRunAgain) {
   std::optional<CAdvanceDlg> local;
   ExpectToRunAgain([&](QWidget* owner) -> CAdvanceDlg& { return local.emplace(owner); });
   std::unique_ptr<CAdvanceDlg> dialog;
@@ -182,7 +182,7 @@ TEST(OwnerOfALocalDialogOrOneInASmartPointer, DiesAndTheDialogIsThereToBeRunAgai
   });
 }
 
-TEST(OwnerOfADialogWithoutParent, DiesAndTakesWhatIsOverItDown) {
+TEST(OwnerOfADialogWithoutParent, DiesAndClosesTheDialogsAboveIt) {
   for (const bool box : {true, false}) {
     Host host;
     Activate(*host.Owner());

@@ -18,13 +18,13 @@
 #include "tests/support/DialogDriver.h"
 #include "tests/support/PacedProjector.h"
 
-// How long the channel waits for a projector that is silent for ever, and how long nobody waits who
-// does not wait for it.
+// The channel's time-out for a silent projector, and a time that no action may take if it does not
+// wait for the projector.
 inline constexpr std::chrono::milliseconds kTimeOut = std::chrono::seconds(20);
 inline constexpr std::chrono::milliseconds kTooLong = std::chrono::seconds(10);
 inline constexpr std::chrono::milliseconds kForEver = std::chrono::hours(1);
 
-/// An open dialog of a projector that takes its time.
+/// An open dialog with a slow projector.
 class PacedDialog : public testing::Test {
  protected:
   explicit PacedDialog(std::chrono::milliseconds timeOut = kTimeOut) {
@@ -54,8 +54,8 @@ class PacedDialog : public testing::Test {
 
   QWidget* Focused() { return dialog_.focusWidget() != nullptr ? dialog_.focusWidget() : &dialog_; }
 
-  /// Makes the projector silent, and acts while the first command waits, which must not keep the
-  /// act.
+  /// Makes the projector silent and calls `act` while the first command waits. The wait must not
+  /// block `act`.
   void InTheWait(const std::function<void()>& act) {
     projector_->Pace(kForEver);
     look_.callOnTimeout(&look_, [this, act] {

@@ -28,7 +28,7 @@ TEST(Tabs, EachShowsItsPageAlone) {
   }
 }
 
-TEST(Tabs, APageWithoutATabExistsToo) {
+TEST(Tabs, PagesWithoutATabExist) {
   OpenDialog open(MakeModel(2, 5));
   CTabPage& hidden = open.Dialog().Page(PageId::Auto2);
   EXPECT_NE(hidden.Template(), nullptr);
@@ -36,7 +36,7 @@ TEST(Tabs, APageWithoutATabExistsToo) {
   EXPECT_EQ(open.Dialog().Page(PageId::Main).Template(), nullptr) << "of another page set";
 }
 
-TEST(Tabs, TitleAndConnectionAreTheModels) {
+TEST(Tabs, TitleAndConnectionAreThoseOfTheModel) {
   CModelInfo2 record = MakeModel(5, 30);
   record.ModelName = "Hall %1";
   record.ConnectionKinds[0] = 1;
@@ -59,7 +59,7 @@ TEST(Tabs, TitleAndConnectionAreTheModels) {
   EXPECT_TRUE(serial.Dialog().windowTitle().contains(QStringLiteral("4")));
 }
 
-TEST(Tabs, TheHostsResourceModuleComesBackInAnyOrderOfClosing) {
+TEST(Tabs, TheHostsResourceModuleIsRestoredInAnyOrderOfClosing) {
   static constexpr ResourceModule host{std::span<const DialogTemplate* const>{}};
   const ResourceModule* before = ResourceChain::SetCurrent(&host);
   for (const bool firstFirst : {true, false}) {
@@ -77,7 +77,7 @@ TEST(Tabs, TheHostsResourceModuleComesBackInAnyOrderOfClosing) {
   EXPECT_EQ(ResourceChain::SetCurrent(before), &host) << "after destruction without closing";
 }
 
-TEST(Keyboard, GoesRoundTheTabsAndClosesTheDialogButNeverHidesItsPage) {
+TEST(Keyboard, CyclesThroughTheTabsAndClosesTheDialogButNeverHidesItsPage) {
   OpenDialog open(MakeModel(5, 30));
   CAdvanceDlg& dialog = open.Dialog();
   const auto press = [](Qt::Key key, Qt::KeyboardModifiers modifiers) {

@@ -25,7 +25,7 @@ constexpr const char* kNoCatalog = "No Message Catalog";
 
 constexpr std::uint32_t kFirst = MessageId(4, 1);
 
-// Runs in an empty current directory, with its own locale and modules.
+// Runs in an empty current directory with its own locale and modules.
 class CatalogTest : public testing::Test {
  protected:
   CatalogTest() {
@@ -49,13 +49,13 @@ class CatalogTest : public testing::Test {
     return LoadCatalog(std::span(&here, 1));
   }
 
-  // One catalog for every language.
+  // Loads the same catalog for every language.
   static void LoadTables(const std::vector<TestTable>& tables) {
     for (const char* name : {"mcdll.dll", "mcschn.dll"}) TestModule(tables).Save(name);
     ASSERT_EQ(LoadHere(), 0);
   }
 
-  // The messages (4, 1), (4, 2) ... of English.
+  // Loads the English messages (4, 1), (4, 2) and so on.
   static void LoadTexts(const std::vector<const char16_t*>& texts) {
     TestBlock block{kFirst, {}};
     for (const char16_t* text : texts) block.entries.push_back(Unicode(text));
@@ -117,8 +117,8 @@ TEST_F(CatalogTest, ChoosesTheModule) {
   expectLoaded("en_US", "chinese");
 }
 
-// What it tells is in the log too.
-TEST_F(CatalogTest, TakesTheFirstFileAndNoneAfterADamagedOneAndTellsWhy) {
+// The problem must also be in the log.
+TEST_F(CatalogTest, LoadsTheFirstFileOrNoneIfItIsDamagedAndSaysWhy) {
   static std::string logged;
   const auto before =
       qInstallMessageHandler([](QtMsgType, const QMessageLogContext& context, const QString& text) {
@@ -142,7 +142,7 @@ TEST_F(CatalogTest, TakesTheFirstFileAndNoneAfterADamagedOneAndTellsWhy) {
   fs::remove("empty/mcdll.dll");
   Touch("empty/mcdll.dll");
   expectFailure(folders, "empty/mcdll.dll is refused: ");
-  // The catalog loaded before is gone too.
+  // The previous catalog must be released too.
   EXPECT_FALSE(IsCatalogLoaded());
   EXPECT_EQ(CatalogText(4, 1), kNoCatalog);
   expectFailure(std::vector<std::string>{"absent", ""}, "mcdll.dll is not found in absent, .");
@@ -151,8 +151,8 @@ TEST_F(CatalogTest, TakesTheFirstFileAndNoneAfterADamagedOneAndTellsWhy) {
   qInstallMessageHandler(before);
 }
 
-// Marker files, locale and current directory count at the moment of the call.
-TEST_F(CatalogTest, LanguageOfEachCall) {
+// Each call uses the present marker files, locale and current directory.
+TEST_F(CatalogTest, EachCallUsesThePresentLanguage) {
   SetLocale("zh_CN");
   LoadTables({{1031, {{kFirst, {Unicode(u"in 1033\r\n")}}}},
               {1033, {{kFirst, {Unicode(u"in 1033\r\n"), Unicode(u"only in 1033\r\n")}}}},
@@ -179,7 +179,7 @@ TEST_F(CatalogTest, LanguageOfEachCall) {
   expectTexts("in 1033", kNoCatalog);
 }
 
-TEST_F(CatalogTest, MessageThatCannotBeFormattedFallsBack) {
+TEST_F(CatalogTest, AMessageThatCannotBeFormattedFallsBack) {
   SetLocale("zh_CN");
   LoadTables({{1033, {{kFirst, {Unicode(u"no insert\r\n"), Unicode(u"%2\r\n")}}}},
               {2052, {{kFirst, {Unicode(u"%1 %2\r\n"), Unicode(u"%1\r\n")}}}}});
@@ -189,7 +189,7 @@ TEST_F(CatalogTest, MessageThatCannotBeFormattedFallsBack) {
   EXPECT_EQ(CatalogText(4, 2), kNoCatalog);
 }
 
-TEST_F(CatalogTest, NumbersThatAreNone) {
+TEST_F(CatalogTest, InvalidNumbers) {
   LoadTables({{1033, {{0xFFFF, {Unicode(u"lowest\r\n")}}, {kFirst, {Unicode(u"text\r\n")}}}}});
   EXPECT_EQ(CatalogText(-256, 0xFFFF), "lowest");
   constexpr std::pair<int, int> kNone[] = {{4, 0},       {4, 2},    {3, 0x10001}, {4, -1},
@@ -214,7 +214,7 @@ TEST_F(CatalogTest, CopyStaysInTheBuffer) {
     GetCatalogText(4, 1, size, buffer.data());
     return buffer;
   };
-  // Bytes of the whole characters that fit, by buffer size.
+  // Length of the copied text, in bytes, by buffer size.
   constexpr std::size_t kLengths[] = {0, 1, 1, 1, 4, 4, 4, 4, 8, 9, 9};
   std::size_t size = 0;
   for (const std::size_t length : kLengths) {

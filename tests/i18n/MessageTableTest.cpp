@@ -45,7 +45,7 @@ TEST(MessageTable, ReadsBothModuleKindsAndBothEncodings) {
     EXPECT_EQ(texts(1033, {0xFFFFFFFE, 0xFFFFFFFF}), "Straße\r\n;;");
     EXPECT_EQ(texts(2052, {0x01040001, 0x01040002}), "亮度\r\n;中文\r\n;");
     EXPECT_EQ(texts(1041, {7, 8}), "日本;😀|\uFFFD|;");
-    // Neither another language of the module nor a neighbour of a block.
+    // Finds neither messages of another language nor neighbours of a block.
     EXPECT_EQ(texts(1041, {0x01040001}) + texts(9, {0x01040001}), "(none);(none);");
     EXPECT_EQ(texts(1033, {0x01040000, 0x01040003, 0xFFFFFFFD, 0}), "(none);(none);(none);(none);");
   }
@@ -100,15 +100,15 @@ TEST(MessageTable, RefusesDamagedModules) {
   for (auto end = m.bytes.begin(); end != m.bytes.end(); ++end) {
     EXPECT_FALSE(MessageTable::Parse(std::vector(m.bytes.begin(), end))) << end - m.bytes.begin();
   }
-  // Two texts for one message, and identifiers that descend.
+  // Two texts for one message, and descending identifiers.
   for (const std::uint32_t second : {2U, 0U}) {
     const TestModule blocks({{1033, {{1, {Ansi("a"), Ansi("b")}}, {second, {Ansi("c")}}}}});
     EXPECT_FALSE(MessageTable::Parse(blocks.bytes)) << second;
   }
 }
 
-// A flipped bit is refused, or changes nothing but the text in which it lies.
-TEST(MessageTable, NoFlippedBitShowsATextUnderAnotherNumber) {
+// A module with a flipped bit is refused, or only the text with the bit differs.
+TEST(MessageTable, NoFlippedBitAssignsATextToAnotherNumber) {
   TestBlock low{10, {}}, high{20, {}};
   for (const char* text : {"one....\r\n..", "twotwo\r\n"}) low.entries.push_back(Ansi(text));
   for (const char* text : {"three.\r\n", "four..\r\n"}) high.entries.push_back(Ansi(text));
@@ -137,7 +137,7 @@ TEST(MessageTable, NoFlippedBitShowsATextUnderAnotherNumber) {
   EXPECT_GT(accepted, 0) << "a changed letter is a text all the same";
 }
 
-// A few bytes of the file, read as the texts of very many languages.
+// A few bytes of the file that serve as the texts of very many languages.
 TEST(MessageTable, SharedBytesDoNotMultiply) {
   constexpr std::uint32_t kLanguages = 3000;
   std::vector<TestTable> tables;
@@ -153,12 +153,12 @@ TEST(MessageTable, SharedBytesDoNotMultiply) {
   EXPECT_LT(std::clock() - start, CLOCKS_PER_SEC);
 }
 
-TEST(MessageTable, ReadsFilesAndRefusesWhatIsNone) {
+TEST(MessageTable, ReadsOnlyRegularFiles) {
   const fs::path folder = fs::path(testing::TempDir()) / "message_table_test";
   fs::remove_all(folder);
   fs::create_directories(folder / "directory");
   const auto path = [&](const char* name) { return (folder / name).string(); };
-  // What is mapped ends the program when it is cut short meanwhile.
+  // Truncating a mapped file would crash the program.
   const TestModule good({{1033, {{1, std::vector(20000, Ansi(std::string(100, 'x')))}}}});
   good.Save(path("good"));
   EXPECT_TRUE(MessageTable::Read(path("good")));

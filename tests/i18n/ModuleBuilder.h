@@ -11,7 +11,7 @@
 #include <string_view>
 #include <vector>
 
-// Makes small message-table modules, with the places where a test may damage them.
+// Makes small message-table modules, and records offsets for damaging them.
 
 struct TestEntry {
   std::uint16_t flags;
@@ -78,7 +78,7 @@ class TestModule {
     Put32(section + 20, static_cast<std::uint32_t>(types));
   }
 
-  /// Writes as many bytes of the value.
+  /// Writes `size` bytes of the value.
   void Put(std::size_t at, std::uint32_t value, int size) {
     bytes.resize(std::max(bytes.size(), at + static_cast<std::size_t>(size)));
     for (int i = 0; i < size; ++i) bytes[at++] = std::byte(value >> (8 * i) & 0xFF);
@@ -99,8 +99,8 @@ class TestModule {
 
   std::vector<std::byte> bytes;
   std::uint16_t sizeOfOptionalHeader;
-  // Where things are in the file: section header, resource directories, and the last table's leaf,
-  // with its table right behind.
+  // Offsets in the file: the section header, the resource directories, and the leaf of the last
+  // table, which is followed by the table.
   std::size_t section = 0;
   std::size_t types = 512;
   std::size_t names = 0;
@@ -110,7 +110,7 @@ class TestModule {
  private:
   std::uint32_t Relative(std::size_t at) const { return static_cast<std::uint32_t>(at - types); }
 
-  // A directory of numbered entries whose targets are filled in later; returns its end.
+  // Writes a directory of numbered entries, whose targets are filled in later. Returns its end.
   std::size_t Directory(std::size_t at, const std::ranges::sized_range auto& numbers) {
     Put32(at + 12, static_cast<std::uint32_t>(std::ranges::size(numbers)) << 16);
     at += 16;

@@ -2,7 +2,7 @@
 
 // None of this is the library's. A host may call its own functions and classes what it likes.
 
-/// How often the library has called one of the host's functions in place of its own.
+/// How often the library has called one of the host's functions instead of its own.
 int NamesakeCalls();
 
 struct Range {

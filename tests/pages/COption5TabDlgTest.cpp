@@ -18,7 +18,7 @@ CModelInfo2 OptionModel(int code, const std::vector<int>& functions = kFunctions
   return model;
 }
 
-// The option page of a model; it stands one tab later behind an audio page.
+// The option page of a model. An audio page before it moves it one tab to the right.
 struct OptionPage : OpenDialog {
   explicit OptionPage(const CModelInfo2& model) : OpenDialog(model) {
     for (int tab = 6; !qobject_cast<COption5TabDlg*>(&Page()); ++tab) SelectTab(tab);
@@ -29,8 +29,8 @@ struct OptionPage : OpenDialog {
   COption5TabDlg& Option() { return static_cast<COption5TabDlg&>(Page()); }
 };
 
-TEST(Option5, WithoutAListOfTheModelTheTemplatesFunctionsHold) {
-  for (const int code : {30, 47}) {  // also a model without rows sends functions, not positions
+TEST(Option5, WithoutAListOfTheModelTheTemplatesFunctionsAreUsed) {
+  for (const int code : {30, 47}) {  // even a model without rows sends functions, not positions
     OptionPage open(OptionModel(code, {}));
     EXPECT_EQ(open.Driver().Entries(20371).size(), 12);
     open.Driver().Choose(20371, 1);
@@ -46,8 +46,8 @@ TEST(Option5, WithoutAListOfTheModelTheTemplatesFunctionsHold) {
   EXPECT_EQ(listed.Option().GetMyBtnVal(12), 255);
 }
 
-// The low half of a source's word is its code. Any result but 0 of the read is a success.
-TEST(Option5, MySourceIsReadLooselyAndKeepsARefusedChoice) {
+// A source's code is the low half of its word. For this read, any result but 0 is a success.
+TEST(Option5, MySourceAcceptsAnyResultOfAReadAndKeepsARefusedChoice) {
   OptionPage open(49);
   const DialogDriver driver = open.Driver();
   open.Projector().AnswerResult("Get 0x3620", 2);

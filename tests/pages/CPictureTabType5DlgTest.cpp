@@ -31,7 +31,7 @@ struct PictureTest : testing::Test {
   RecordingChannel& projector = open.Projector();
 };
 
-TEST_F(PictureTest, ButtonsOpenTheCustomPopUpsOfEntriesThatCanBeShaped) {
+TEST_F(PictureTest, ButtonsOpenTheCustomPopUpsOfCustomisableEntries) {
   for (const int i : {0, 1, 2, 3}) {
     driver.Choose(kGamma, i);
     EXPECT_EQ(driver.IsEnabled(kCustomGamma), i <= 1) << "21 is the last custom gamma";
@@ -48,7 +48,7 @@ TEST_F(PictureTest, ButtonsOpenTheCustomPopUpsOfEntriesThatCanBeShaped) {
   EXPECT_TRUE(driver.IsEnabled(kCustomGamma)) << "the disabled list still has its custom entry";
 }
 
-TEST(PicturePageOfSet4, GoesByPositionsAndItsPopUpsHaveNoResets) {
+TEST(PicturePageOfSet4, FindsCustomEntriesByPositionAndItsPopUpsHaveNoResets) {
   OpenDialog open(PictureModel(4, 11), 1);
   const DialogDriver driver = open.Driver();
   EXPECT_FALSE(driver.IsEnabled(kCustomGamma)) << "nothing is selected";
@@ -67,7 +67,7 @@ TEST(PicturePageOfSet4, GoesByPositionsAndItsPopUpsHaveNoResets) {
   driver.Click(kCustomColorTemp);
 }
 
-TEST_F(PictureTest, AnUnknownIrisModeLeavesTheRowAsItWas) {
+TEST_F(PictureTest, AnUnknownIrisModeDoesNotChangeTheRow) {
   projector.Refuse("Get 0x3304");
   open.Page().InitDisp();
   projector.Accept("Get 0x3304");
@@ -81,7 +81,7 @@ TEST_F(PictureTest, AnUnknownIrisModeLeavesTheRowAsItWas) {
   EXPECT_EQ(CPictureTabType5Dlg::ActIrisIdxToValue(3), static_cast<short>(0xFFFF));
 }
 
-TEST(PicturePages, SendAnEntryWhoseValueIsMinusOneLikeAnyOther) {
+TEST(PicturePages, SendAnEntryWithTheValueMinusOneLikeAnyOther) {
   CModelInfo2 model = PictureModel();
   for (CountedList* list : {&model.GammaList, &model.ColorTempList}) AddEntry(*list, -1, "none");
   OpenDialog open(model, 1);
@@ -90,7 +90,7 @@ TEST(PicturePages, SendAnEntryWhoseValueIsMinusOneLikeAnyOther) {
   EXPECT_EQ(open.Projector().Take(), (Strings{"SetGamma 4", "Set 0x30B0 65535"}));
 }
 
-TEST(PicturePages, ShowBeforeAnythingIsKnownTheMiddleAndNoEntry) {
+TEST(PicturePages, ShowTheMiddleAndNoEntryBeforeTheFirstRead) {
   for (const auto& [dialogType, modelCode] : {std::pair{5, 30}, {4, 11}}) {
     OpenDialog open(MakeModel(dialogType, modelCode), 1,
                     [](RecordingChannel& channel) { channel.Refuse("Get 0x2201"); });
@@ -105,7 +105,7 @@ TEST(PicturePages, ShowBeforeAnythingIsKnownTheMiddleAndNoEntry) {
   }
 }
 
-TEST(PicturePages, WithTwoDialogsOpenAPopUpBelongsToTheOneInUse) {
+TEST(PicturePages, APopUpBelongsToTheDialogInUse) {
   CModelInfo2 wide = PictureModel();
   wide.RangeText(RangeIndex::GammaPoint) = "78,178";
   OpenDialog first(wide, 1, PictureTest::Custom);

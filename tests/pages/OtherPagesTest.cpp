@@ -1,4 +1,4 @@
-// What single pages do beside what the files of listing/ tell.
+// Behaviour of single pages that the files in listing/ do not show.
 
 #include <gtest/gtest.h>
 
@@ -24,7 +24,7 @@ TEST(LegacySetup, ATextNumberOfZeroIsLookedUpLikeAnyOther) {
   EXPECT_EQ(open.Driver().Entries(20099), QStringList{text});
 }
 
-TEST(LegacyScreen, TheNamedModelOfASeriesHasALanguageMore) {
+TEST(LegacyScreen, OneModelOfASeriesHasAnAdditionalLanguage) {
   const auto languages = [](int code, const char* name) {
     CModelInfo2 model = MakeModel(4, code);
     model.ModelName = name;
@@ -39,7 +39,7 @@ TEST(LegacyScreen, TheNamedModelOfASeriesHasALanguageMore) {
   EXPECT_EQ(languages(23, "QD-M7400"), 17);
 }
 
-TEST(StatusPage, NamesTheInputSourceOfAnySlotAndCountsHoursUnsigned) {
+TEST(StatusPage, NamesSourcesInAnySlotAndShowsHoursUnsigned) {
   CModelInfo2 model = MakeModel(5, 30);
   AddSource(model.MySourceList, 1, "Video");
   model.MySourceList.firstValues[15] = 77;
@@ -57,7 +57,7 @@ TEST(StatusPage, NamesTheInputSourceOfAnySlotAndCountsHoursUnsigned) {
   }
 }
 
-TEST(OtherPages, AProjectorThatStaysOnOrIsUnknownHasRefusedToTurnOff) {
+TEST(OtherPages, AProjectorThatStaysOnOrIsSilentHasRefusedToTurnOff) {
   constexpr int kQuestion = 4202, kRefusal = 4201;
   for (const auto& [after, lastBox, state, ready] : {std::tuple{1, kRefusal, "On", true},
                                                      {-1, kRefusal, "-", false},

@@ -14,7 +14,7 @@ namespace {
 
 using Mood = MoodyProjector::Mood;
 
-/// What comes of several cases, those of which the same comes together.
+/// The outcomes of several cases. Cases with the same outcome are combined.
 class Outcomes {
  public:
   void Add(const std::string& name, const std::string& outcome) {
@@ -26,7 +26,7 @@ class Outcomes {
     }
   }
   bool Differ() const { return outcomes_.size() > 1; }
-  /// One after the other, in the order in which they came up.
+  /// The cases in the order in which they were added.
   std::string Text(const std::string& before, const std::string& after) const {
     std::string text;
     for (const auto& [names, outcome] : outcomes_) text += before + names + ':' + outcome + after;
@@ -38,7 +38,7 @@ class Outcomes {
   std::vector<Outcome> outcomes_;
 };
 
-// What a visible control shows.
+// The text that a visible control shows.
 QString ShownBy(const ControlTemplate& control, const QWidget& widget) {
   using enum ControlKind;
   switch (control.kind) {
@@ -129,7 +129,8 @@ class PageDescriber {
            Otherwise([&](bool refused) { Drag(refused ? (minimum + maximum) / 2 : minimum); });
   }
 
-  // With each entry of the list beside it, or at the end of the slider beside it and in its middle.
+  // Clicks the button for each entry of the list beside it, or with the slider beside it at its end
+  // and in its middle.
   std::string DescribeButton(const ControlTemplate& control) {
     auto& button = page_.Item<QAbstractButton>(control.id);
     const auto click = [&button] { button.click(); };
@@ -155,7 +156,7 @@ class PageDescriber {
     return text + (log.empty() ? "" : Otherwise([&click](bool) { click(); }));
   }
 
-  // What the same does to a projector that does not obey.
+  // What the same action does if the projector ignores or refuses it.
   std::string Otherwise(const std::function<void(bool refused)>& act) {
     Outcomes outcomes;
     for (const bool unreadable : {false, true}) {
@@ -173,7 +174,7 @@ class PageDescriber {
     return outcomes.Text("      ", "\n");
   }
 
-  // What the rows show of values of all kinds, and while they cannot be read.
+  // What the rows show for all kinds of values, and if they cannot be read.
   void AddShown(std::vector<std::string>& parts) {
     constexpr std::int16_t kValues[] = {0,  1,  2,  3,  4,  5,  6,   7,   8, 9,
                                         11, 12, 13, 16, 17, 32, 128, 200, -1};
@@ -198,7 +199,7 @@ class PageDescriber {
     }
   }
 
-  // What an act sends, reads and brings up.
+  // What `act` sends, reads and opens.
   std::string Log(const std::function<void()>& act) {
     projector_.log.clear();
     act();
@@ -207,7 +208,7 @@ class PageDescriber {
     return all == std::string::npos ? log : log.replace(all, pageReads_.size(), " …");
   }
 
-  // What a row shows, and what of it is out of use.
+  // What a row shows, and which of its controls are disabled.
   std::string Shown(const RowTemplate& row) const {
     std::string shown;
     for (const ControlTemplate& control : row.controls) {
@@ -237,9 +238,9 @@ class PageDescriber {
   MoodyProjector& projector_;
   std::function<void()> refresh_;
   std::string pageReads_;
-  std::string caption_;  // of the last row that has one
+  std::string caption_;  // of the last row with a caption
   const RowTemplate* row_ = nullptr;
-  // Numbers of what the row has: a list that its button goes by, a slider.
+  // Numbers of the row's other controls: the list that its button uses, and the slider.
   int helper_ = 0;
   int slider_ = 0;
 };
@@ -248,7 +249,7 @@ class PageDescriber {
 
 MoodyProjector::MoodyProjector(CAdvanceDlg& dialog)
     : settingText_(dialog.Projector().SettingText), simulation_(DescribeModel(dialog.Model())) {
-  // Questions are answered with No; what else comes up is closed.
+  // Answers questions with No, and closes other windows.
   closer_.callOnTimeout([this] {
     QWidget* modal = QApplication::activeModalWidget();
     if (modal == nullptr) return;
@@ -267,7 +268,7 @@ PjtReply MoodyProjector::Execute(const PjtCommand& command) {
   log += read || mood == Mood::Obeys ? ' ' + FormatCommand(command) : " sends";
   if (read && value) return {AcceptedResult(command.operation), *value};
   if (read ? unreadable : mood == Mood::Refuses) return {RefusedResult(command.operation), -1};
-  constexpr std::int16_t kAnswer = 126;  // to steps that it ignores
+  constexpr std::int16_t kAnswer = 126;  // reply to a step that the projector ignores
   if (!read && mood == Mood::Ignores) return {AcceptedResult(command.operation), kAnswer};
   return simulation_.Execute(command);
 }

@@ -10,7 +10,7 @@
 #include "host/CAdvanceDlg.h"
 #include "simulator/SimulatedProjector.h"
 
-/// A dialog's simulated projector that need not do what it is asked for.
+/// A simulated projector that can ignore or refuse commands.
 class MoodyProjector final : public ProjectorChannel {
  public:
   explicit MoodyProjector(CAdvanceDlg& dialog);
@@ -19,8 +19,8 @@ class MoodyProjector final : public ProjectorChannel {
 
   enum class Mood { Obeys, Ignores, Refuses } mood = Mood::Obeys;
   bool unreadable = false;
-  std::optional<std::int16_t> value;  ///< of every setting
-  std::string log;                    ///< of what was sent, read and brought up
+  std::optional<std::int16_t> value;  ///< value of every setting
+  std::string log;                    ///< what was sent, read and opened
 
  private:
   std::string& settingText_;
@@ -28,14 +28,14 @@ class MoodyProjector final : public ProjectorChannel {
   QTimer closer_;
 };
 
-/// Says in words what a page does, by using all that is on it: what is read, then a text for each
-/// row of the template, which is empty for a row that is not there. The first line of each text
-/// is its caption.
+/// Describes what a page does by using all its controls. The first text says what is read. It is
+/// followed by a text for each row of the template, which is empty for an absent row. The first
+/// line of each text is the row's caption.
 ///
-/// Under a control stands what its use sends, reads and brings up; … stands for all reads of the
-/// page, and behind an arrow is what the row shows then, with "off" for what is out of use. Then
-/// comes what a click, the list's first two entries, or the slider's minimum and middle do when the
-/// projector ignores or refuses them, and when it can no longer be read. "shows" tells what a row
-/// shows of each value.
+/// The lines under a control list what using it sends, reads and opens. "…" stands for all reads of
+/// the page. After an arrow is what the row then shows, with "off" for disabled controls. Then
+/// follows what a click, the list's first two entries, or the slider's minimum and middle do if the
+/// projector ignores or refuses them, and if the setting cannot be read any more. "shows" lists
+/// what a row shows for each value.
 std::vector<std::string> DescribePage(CDialog& page, MoodyProjector& projector,
                                       const std::function<void()>& refresh);

@@ -1,7 +1,7 @@
-// What every page of every model shows, reads and sends, and what follows when the projector does
-// not do what it is asked for, held against the files of listing/, one for each page. The real
-// dialog is used, on a simulated projector. After a wanted change write them anew with
-// UPDATE_LISTING=1, and read what changed in them.
+// Compares what every page of every model shows, reads and sends, also if the projector does not
+// obey, with the files in listing/, one for each page. Uses the real dialog on a simulated
+// projector. After an intended change, rewrite the files with UPDATE_LISTING=1 and review the
+// differences.
 
 #include <cctype>
 #include <filesystem>
@@ -23,8 +23,8 @@
 
 namespace {
 
-/// While it lives, every caption, text of the list category and error text is its own number
-/// behind a #, so that a test sees which text is asked for, also where two texts read the same.
+/// During its lifetime, every caption, list text and error text is "#" and its own number. A test
+/// then sees which text is used, even if two texts are the same.
 struct NumberedCatalog {
   NumberedCatalog() {
     TestBlock captions{MessageId(4, 0), {}};
@@ -32,7 +32,7 @@ struct NumberedCatalog {
       captions.entries.push_back(Ansi('#' + std::to_string(number) + "\r\n"));
     }
     TestBlock list{MessageId(5, 0), captions.entries};
-    // Around another text, and around a number.
+    // Texts with an inserted text, and with an inserted number.
     list.entries[ListText::StatusValue] = Ansi("status %1\r\n");
     list.entries[ListText::Hours] = Ansi("%1!d! h\r\n");
     const TestBlock errors{MessageId(2201, 0), captions.entries};
@@ -42,15 +42,15 @@ struct NumberedCatalog {
   }
   ~NumberedCatalog() { LoadCatalog(); }
 
-  QTemporaryDir own;  // tests that run side by side have catalogs of their own
+  QTemporaryDir own;  // tests that run in parallel need their own catalogs
 };
 
-/// Per file, then by dialog type, place on the page and caption, the forms that a row has and the
-/// models that have it so.
+/// The forms of a row with the models that have them; by file, dialog type, position on the page
+/// and caption.
 using Forms = std::vector<std::pair<std::string, std::string>>;
 using Listing = std::map<std::string, std::map<std::tuple<int, std::size_t, std::string>, Forms>>;
 
-// The first line of a part is its caption; a part that is empty is not there.
+// The first line of a part is its caption; an empty part is absent.
 void Add(Listing& listing, const std::string& file, const std::vector<std::string>& parts,
          const CModelInfo2& info) {
   for (std::size_t i = 0; i < parts.size(); ++i) {
@@ -64,7 +64,7 @@ void Add(Listing& listing, const std::string& file, const std::vector<std::strin
   }
 }
 
-// Range texts that are wide, each of another width.
+// Wide range texts, each with a different width.
 constexpr int kWide = 4000;
 
 CModelInfo2 WithWideRanges(CModelInfo2 info) {
@@ -74,8 +74,8 @@ CModelInfo2 WithWideRanges(CModelInfo2 info) {
   return info;
 }
 
-// Where the sliders of a page have their ranges from, and where their buttons stop; a part for each
-// part of `DescribePage`.
+// The source of each slider's range on a page, and the values at which its buttons stop; one part
+// for each part of `DescribePage`.
 std::vector<std::string> Ranges(CDialog& page, MoodyProjector& projector,
                                 const std::function<void()>& refresh) {
   projector.mood = MoodyProjector::Mood::Ignores;
@@ -111,7 +111,7 @@ std::vector<std::string> Ranges(CDialog& page, MoodyProjector& projector,
   return parts;
 }
 
-// The names of the pages by the numbers of their templates.
+// Names of the pages by template number.
 const std::map<int, std::string> kPageNames{
 #define PAGE(identifier, number, pageClass) {number, #identifier},
 #include "settings/Pages.def"
@@ -150,7 +150,7 @@ void AddPages(Listing& listing, const CModelInfo2& info, bool ranges) {
   }
 }
 
-// Numbers of list texts get the texts behind them, so that a reader sees what they say.
+// Appends the texts to numbers of list texts, for the reader.
 std::string WithTexts(const std::string& listing) {
   std::string text;
   for (std::size_t at = 0; at < listing.size(); ++at) {
@@ -165,10 +165,11 @@ std::string WithTexts(const std::string& listing) {
   return text;
 }
 
-// The lines that were expected (-) or found (+) alone, below those that they are indented under.
+// The lines that were only expected (-) or only found (+), below the lines under which they are
+// indented.
 std::string Difference(const QStringList& expected, const QStringList& found) {
   const qsizetype ends[] = {expected.size(), found.size()};
-  // How many lines are common from there on.
+  // Number of common lines from there on.
   std::vector common(ends[0] + 1, std::vector<int>(ends[1] + 1));
   for (qsizetype i = ends[0]; i-- > 0;) {
     for (qsizetype j = ends[1]; j-- > 0;) {
@@ -210,7 +211,7 @@ void ExpectListed(const std::string& path, const std::string& found) {
                 << Difference(lines(listed.str()), lines(found));
 }
 
-TEST(PagesByModel, AreAsListed) {
+TEST(PagesByModel, MatchTheListing) {
   Listing listing;
   {
     const NumberedCatalog numbers;

@@ -1,4 +1,4 @@
-// What the pop-ups do beside what the files of listing/ tell.
+// Behaviour of the pop-ups that the files in listing/ do not show.
 
 #include <tuple>
 
@@ -8,6 +8,7 @@
 #include "settings/PageTables.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/Soon.h"
+#include "toolkit/CurveView.h"
 
 namespace {
 
@@ -25,7 +26,8 @@ struct OpenPopUp : OpenDialog {
     return Projector().Take();
   }
 
-  // Shown is 5, and stays what a step goes on from. A value below the page's bound is not shown.
+  // The shown value is 5, and the next step starts from it. A value below the page's bound is not
+  // shown.
   void ExpectReset(const ValueRow& row, int bound) {
     driver.Drag(row.ids.slider, 5);
     const std::string read = Click(row.reset.button).back();
@@ -49,6 +51,13 @@ TEST(PopUps, ResetsStopAtThePagesBoundAndAreNotRemembered) {
       if (const auto* value = std::get_if<ValueRow>(&row)) open.ExpectReset(*value, bound);
     }
   }
+}
+
+TEST(PopUps, ThePictureIsDescribedByTheCaptionAndValueOfEachRow) {
+  OpenPopUp open(PopUp::ColorTemp);
+  open.driver.Drag(20181, 5);
+  EXPECT_TRUE(open.popUp->findChild<CurveView*>()->accessibleDescription().startsWith(
+      QStringLiteral("Color Temp Gain R 5, Color Temp Gain G -128, ")));
 }
 
 TEST(GammaPopUp, WithoutResetButtonsIsNarrowerAndCloseStaysInside) {

@@ -17,8 +17,8 @@ using Strings = std::vector<std::string>;
 constexpr int kBrightness = 20136, kField = 20329, kContrast = 20138, kIris = 20293;
 constexpr int kVolume = 20317, kIrFront = 20375, kPositionV = 20205;
 
-// The lines of a control's menu, in brackets where they cannot be chosen; `choice` is chosen. What
-// it does may wait for the projector, so that it must not begin before the menu has ended.
+// The lines of a control's menu, with disabled ones in brackets. Chooses `choice`, which must not
+// act before the menu is closed, because it may wait for the projector.
 std::string Menu(CDialog& page, int id, const char* choice = "") {
   QWidget& control = *page.GetDlgItem(id);
   const QPoint middle = control.rect().center();
@@ -48,7 +48,7 @@ struct RowMenus : testing::Test {
   DialogDriver driver = open.Driver();
 };
 
-TEST_F(RowMenus, TellWhatARowTakesAndWas) {
+TEST_F(RowMenus, ShowTheRangeAndTheOpeningValueOfARow) {
   driver.Drag(kBrightness, 4);
   for (const auto& [control, lines] : std::vector<std::pair<int, std::string>>{
            {kField, "(Range: -32 to 32), (When opened: 10), Put back, Enter a value…, Copy"},
@@ -62,7 +62,7 @@ TEST_F(RowMenus, TellWhatARowTakesAndWas) {
   EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("Active Iris: Theater"));
 }
 
-TEST_F(RowMenus, PutBackGoesTheWayOfAHandAndNeverWhileAHandlerRuns) {
+TEST_F(RowMenus, PutBackActsLikeAUserAndNeverWhileAHandlerRuns) {
   const auto service = MakePopUp(PopUp::Service, open.Dialog());
   Open(*service);
   DialogDriver(*service).Click(kIrFront);
@@ -78,7 +78,7 @@ TEST_F(RowMenus, PutBackGoesTheWayOfAHandAndNeverWhileAHandlerRuns) {
   }
 }
 
-TEST_F(RowMenus, ATypedNumberIsSentAsADragAndRefusedAsOne) {
+TEST_F(RowMenus, ATypedNumberIsSentAndRefusedLikeADrag) {
   driver.Item<QWidget>(kBrightness).setFocus();
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_F10, Qt::ShiftModifier);
   EXPECT_NE(QApplication::activePopupWidget(), nullptr);
@@ -106,7 +106,7 @@ TEST_F(RowMenus, ATypedNumberIsSentAsADragAndRefusedAsOne) {
   EXPECT_EQ(driver.SliderAt(kBrightness), -9) << "this page's refused drags stay";
 }
 
-TEST(RowMenu, AnotherInputSourceHasAnotherPast) {
+TEST(RowMenu, TheOpeningValueBelongsToTheInputSource) {
   OpenDialog open(FullModel(5, 44), 4);
   open.Driver().Drag(kVolume, 9);
   open.Projector().Answer("GetInputSource", 3);
@@ -118,7 +118,7 @@ TEST(RowMenu, AnotherInputSourceHasAnotherPast) {
   EXPECT_NE(Menu(open.Page(), kVolume).find("When opened: 5"), std::string::npos);
 }
 
-TEST(RowMenu, LeadsArrowsStepByStepUntilNoStepLeadsNearer) {
+TEST(RowMenu, StepsArrowRowsWhileStepsComeNearer) {
   OpenDialog open(FullModel(5, 30), 2,
                   [](RecordingChannel& projector) { projector.Answer("Get 0x2100", 40); });
   RecordingChannel& projector = open.Projector();

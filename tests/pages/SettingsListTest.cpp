@@ -1,4 +1,4 @@
-// What the dialog shows of each projector of the profile file, held against the list of its
+// Compares what the dialog shows for each projector of the profile file with the list of its
 // settings that programs without a window use.
 
 #include <set>
@@ -22,19 +22,35 @@ const SettingTexts& Texts() {
   return texts;
 }
 
-// The lists, boxes and sliders are the settings, and take what those say.
+// Number of a control's caption in its template: that of the label before it, or of a box its own.
+int CaptionNumber(const DialogTemplate& page, int control) {
+  int label = 0;
+  for (const RowTemplate& row : page.rows) {
+    for (const ControlTemplate& item : row.controls) {
+      const int own = std::atoi(item.caption);
+      if (item.kind == ControlKind::Label) label = own;
+      if (item.id == control) return item.kind == ControlKind::Check && own != 0 ? own : label;
+    }
+  }
+  return 0;
+}
+
+// The lists, boxes and sliders must be the settings in the list, with the same captions, and accept
+// the same values.
 void ExpectSame(const ModelSettings& settings, CDialog& dialog, const PageTable& table) {
-  std::set<int> told;
-  for (const PageRow& row : table.rows) told.insert(ListBeside(row));  // which is no setting
+  std::set<int> listed;
+  for (const PageRow& row : table.rows)
+    listed.insert(ListBeside(row));  // the list is not a setting
   for (const ModelSetting& setting : settings.All()) {
     if (setting.row < table.rows.data() || setting.row >= table.rows.data() + table.rows.size()) {
       continue;
     }
     SCOPED_TRACE(setting.key);
     const int control = ControlOf(*setting.row);
-    told.insert(control);
+    listed.insert(control);
     const QWidget* const widget = dialog.GetDlgItem(control);
     EXPECT_FALSE(widget->isHidden());
+    EXPECT_EQ(setting.caption, CaptionNumber(*dialog.Template(), control));
     QStringList entries;
     for (const ListEntry& entry : setting.entries) entries << Texts().Entry(setting, entry).c_str();
     if (qobject_cast<const CComboBox*>(widget) != nullptr) {
@@ -52,13 +68,13 @@ void ExpectSame(const ModelSettings& settings, CDialog& dialog, const PageTable&
       using enum ControlKind;
       const bool sets = control.kind == Combo || control.kind == Slider || control.kind == Check;
       if (sets && !widget->isHidden()) {
-        EXPECT_TRUE(told.contains(control.id)) << NameOf(*widget);
+        EXPECT_TRUE(listed.contains(control.id)) << NameOf(*widget);
       }
     }
   }
 }
 
-TEST(SettingsList, HoldsWhatThePagesAndPopUpsOfEveryProjectorShow) {
+TEST(SettingsList, MatchesThePagesAndPopUpsOfEveryProjector) {
   const auto profiles = ReadProfileFile(TEST_CATALOG_DIR "/projectors.json").projectors;
   ASSERT_GT(profiles.size(), 50U);
   for (const ProjectorProfile& profile : profiles) {

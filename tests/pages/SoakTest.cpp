@@ -1,6 +1,6 @@
 // Random user actions on the whole dialog of every model, with a projector that refuses and fails
-// at random; afterwards every control must show what the projector itself says. SOAK_SEED gives
-// another walk, SOAK_ACTIONS a longer one.
+// at random. Afterwards every control must show the projector's value. SOAK_SEED selects other
+// actions, SOAK_ACTIONS more of them.
 
 #include <random>
 
@@ -27,7 +27,7 @@ class RandomUser {
  public:
   RandomUser(CAdvanceDlg& dialog, FaultChannel& faults, unsigned seed)
       : dialog_(dialog), faults_(faults), random_(seed) {
-    // Whatever comes up above the dialog is used for a moment and closed.
+    // Windows that open above the dialog are used for a moment and closed.
     QObject::connect(&popups_, &QTimer::timeout, [this] { UsePopup(); });
     QObject::connect(&boxes_, &QTimer::timeout, [this] { AnswerBox(); });
     popups_.start(0);
@@ -100,13 +100,13 @@ class RandomUser {
   FaultChannel& faults_;
   std::mt19937 random_;
   QTimer popups_;
-  QTimer boxes_;  // a timer of its own: boxes come up while a pop-up is in use
+  QTimer boxes_;  // a second timer, because message boxes open while a pop-up is in use
 };
 
 class SoakTest : public testing::TestWithParam<CModelInfo2> {};
 
 TEST_P(SoakTest, EveryControlEndsUpShowingTheProjectorsValue) {
-  const auto seed = static_cast<unsigned>(Given("SOAK_SEED", GetParam().ModelCode));
+  const auto seed = static_cast<unsigned>(EnvironmentNumber("SOAK_SEED", GetParam().ModelCode));
   const CModelInfo2& info = GetParam();
   const ModelData model = MakeModelData(info);
   const auto projector = std::make_shared<SimulatedProjector>(DescribeModel(model));
@@ -119,7 +119,7 @@ TEST_P(SoakTest, EveryControlEndsUpShowingTheProjectorsValue) {
        }));
   {
     RandomUser user(dialog, *faults, seed);
-    const int actions = Given("SOAK_ACTIONS", kActionsPerModel);
+    const int actions = EnvironmentNumber("SOAK_ACTIONS", kActionsPerModel);
     for (int i = 0; i < actions; ++i) {
       user.Act();
       ASSERT_TRUE(dialog.isVisible()) << "action " << i << " closed the dialog";

@@ -40,7 +40,7 @@ void ForEachPopup(const std::function<void(CDialog&)>& check) {
   OpenDialog host(MakeModel(5, 44));
   for (const PopUp kind : {PopUp::Gamma, PopUp::ColorTemp, PopUp::Service}) {
     const auto popUp = MakePopUp(kind, host.Dialog());
-    popUp->setParent(nullptr, popUp->windowFlags());  // as its page makes it
+    popUp->setParent(nullptr, popUp->windowFlags());  // as created by its page
     SCOPED_TRACE(popUp->metaObject()->className());
     QTimer::singleShot(0, popUp.get(), [&] {
       check(*popUp);
@@ -76,27 +76,27 @@ void ExpectControlsWellKnown(const CDialog& dialog) {
   }
 }
 
-TEST(Sweep, EveryControlHasItsOwnNumberANameAndExactlyOneHandler) {
+TEST(Sweep, EveryControlHasAUniqueNumberANameAndExactlyOneHandler) {
   ForEachPage([](OpenDialog&, CTabPage& page) { ExpectControlsWellKnown(page); });
   ForEachPopup(ExpectControlsWellKnown);
 }
 
-// What is read of a source follows what the page asked first; the rest is told beforehand.
-TEST(Sweep, APageTellsWhatItWillRead) {
+// Reads for an input source follow the question for the source; all others are announced.
+TEST(Sweep, APageAnnouncesItsReads) {
   ForEachPage([](OpenDialog& open, CTabPage& page) {
     open.Projector().Take();
     for (const PjtCommand& command : page.Reader().Reads()) open.Projector().Execute(command);
-    const std::vector<std::string> told = open.Projector().Take();
+    const std::vector<std::string> announced = open.Projector().Take();
     page.InitDisp();
     std::vector<std::string> sent = open.Projector().Take();
     std::erase_if(sent, [](const std::string& read) {
       return read.starts_with("GetInputSrc") || read.starts_with("GetSRSWOW");
     });
-    EXPECT_EQ(told, sent);
+    EXPECT_EQ(announced, sent);
   });
 }
 
-// Whether a row of the template can be used; the button beside an empty list does nothing.
+// Whether a row of the template can be used. The button beside an empty list does nothing.
 bool IsOperable(const CDialog& page, const RowTemplate& row) {
   bool operable = false;
   for (const ControlTemplate& control : row.controls) {
@@ -128,7 +128,8 @@ QSize TextSize(const QWidget& widget, const QString& text) {
   return {widget.fontMetrics().horizontalAdvance(text) + 8, widget.fontMetrics().height()};
 }
 
-// A visible control lies inside its page, has the room its text needs, and covers no other.
+// Every visible control must be inside its page, have enough space for its text, and overlap no
+// other.
 void ExpectNothingClipped(const CDialog& page) {
   std::vector<const QWidget*> visible;
   for (const RowTemplate& row : page.Template()->rows) {
@@ -158,11 +159,11 @@ void ExpectNothingClipped(const CDialog& page) {
   }
 }
 
-// Window, tabs and Close are on the screen, and so is each control that gets the focus.
+// Window, tabs and Close must be on the screen, and so must each control that gets the focus.
 void ExpectInReach(CDialog& dialog) {
   dialog.activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
-  QApplication::processEvents();  // the scroll bars learn what there is to scroll
+  QApplication::processEvents();  // updates the scroll bars
   const QSize screen = dialog.screen()->availableGeometry().size();
   EXPECT_EQ(dialog.size().boundedTo(screen), dialog.size());
   const auto* scroll = dialog.findChild<QScrollArea*>();
@@ -187,7 +188,7 @@ void ExpectInReach(CDialog& dialog) {
   }
 }
 
-TEST(Sweep, TabGoesToEveryControlRowByRow) {
+TEST(Sweep, TabVisitsEveryControlRowByRow) {
   ForEachPage([](OpenDialog& open, CTabPage& page) {
     std::set<const QWidget*> reached;
     const auto next = [] {
@@ -210,7 +211,7 @@ TEST(Sweep, TabGoesToEveryControlRowByRow) {
   });
 }
 
-// The present rows of a column stand at one pitch, each with its controls on one line.
+// The present rows of a column must have the same pitch, each with its controls on one line.
 TEST(Sweep, PresentRowsArePacked) {
   ForEachPage([](OpenDialog&, CTabPage& page) {
     std::map<RowPlace, int> above;
@@ -231,7 +232,7 @@ TEST(Sweep, PresentRowsArePacked) {
   });
 }
 
-/// What there is to see of a model's dialog, whatever language and font it is shown in.
+/// What a model's dialog looks like, independent of language and font.
 QString LooksOf(const CModelInfo2& model) {
   OpenDialog open(model);
   const QTabBar& tabs = *open.Dialog().findChild<QTabBar*>();
@@ -253,7 +254,7 @@ QString LooksOf(const CModelInfo2& model) {
   return looks;
 }
 
-/// One model of each look; on other screens than the usual one, a model of each type must do.
+/// One model for each look; on unusual screens only one for each type, to save time.
 const std::vector<CModelInfo2>& ModelsByLook() {
   static const std::vector<CModelInfo2> models = [] {
     if (qEnvironmentVariableIsSet("TEST_SCREEN")) {
@@ -270,9 +271,9 @@ const std::vector<CModelInfo2>& ModelsByLook() {
   return models;
 }
 
-class RoomTest : public testing::TestWithParam<const char*> {
+class ScreenSizeTest : public testing::TestWithParam<const char*> {
  protected:
-  ~RoomTest() override {
+  ~ScreenSizeTest() override {
     QApplication::setFont(font);
     QApplication::setLayoutDirection(Qt::LeftToRight);
     qputenv("LC_ALL", "en_US.UTF-8");
@@ -283,10 +284,10 @@ class RoomTest : public testing::TestWithParam<const char*> {
   const QFont font = QApplication::font();
 };
 
-TEST_P(RoomTest, NothingIsClippedOrOutOfReachAtAnyFontSize) {
+TEST_P(ScreenSizeTest, NothingIsClippedOrOutOfReachAtAnyFontSize) {
   qputenv("LC_ALL", GetParam());
   ASSERT_EQ(LoadCatalog(), 0);
-  // The smallest font both ways round.
+  // The smallest font in both directions.
   for (const double scale : {-1.0, 1.0, 1.5, 2.0}) {
     QFont scaled = font;
     scaled.setPointSizeF(font.pointSizeF() * std::abs(scale));
@@ -302,6 +303,7 @@ TEST_P(RoomTest, NothingIsClippedOrOutOfReachAtAnyFontSize) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(EachLanguage, RoomTest, testing::Values("en_US.UTF-8", "zh_CN.UTF-8"));
+INSTANTIATE_TEST_SUITE_P(EachLanguage, ScreenSizeTest,
+                         testing::Values("en_US.UTF-8", "zh_CN.UTF-8"));
 
 }  // namespace

@@ -17,7 +17,7 @@ using Strings = std::vector<std::string>;
 constexpr int kInputTab = 3, kSetupTab = 4, kAudioTab = 5;
 constexpr int kCurrentInput = 20337, kReset = 20328, kStandby = 20368, kHdmi = 20367;
 
-/// A page of a model, in front, on a projector with these values; −1 is a refusal.
+/// The shown page of a model, on a projector with these values; −1 is a refusal.
 struct Type5Page : OpenDialog {
   Type5Page(int tab, int code, const std::map<std::string, int>& values = {})
       : OpenDialog(FullModel(5, code), tab, [&values](RecordingChannel& channel) {
@@ -39,11 +39,11 @@ struct Type5Page : OpenDialog {
   MessageBoxes boxes;
 };
 
-TEST(Input5, TheCaptionsOfAModelWithoutRowsAreLocalizedAllTheSame) {
+TEST(Input5, CaptionsAreLocalizedEvenForAModelWithoutRows) {
   EXPECT_EQ(Type5Page(kInputTab, 47).driver.Text(20500), "Progressive");
 }
 
-TEST(Input5, TheCaptionOfAListThatCannotBeReadStays) {
+TEST(Input5, TheCaptionOfAnUnreadableListIsNotGreyed) {
   Type5Page page(kInputTab, 54, {{"GetProgressive", -1}});
   EXPECT_FALSE(page.driver.Item<QWidget>(20294).isEnabled());
   for (const int caption : {20500, 20508})
@@ -77,7 +77,7 @@ TEST(Setup5, KeystonesRememberDeviceValuesOfStepsAndPositionsOfReleases) {
   EXPECT_EQ(positionAfterRefusal(20310, "SetKeystoneV"), -128) << "a reset is not remembered";
 }
 
-TEST(Setup5, TheVolumeIsThatOfTheCurrentInput) {
+TEST(Setup5, TheVolumeBelongsToTheCurrentInput) {
   Type5Page page(kSetupTab, 42, {{"GetInputSource", 3}, {"GetInputSrcVolume 3", 12}});
   const auto expectShown = [&page](const QString& source, int volume, const Strings& sent) {
     EXPECT_EQ(page.projector.TakeChanges(), sent);
@@ -97,14 +97,14 @@ TEST(Setup5, TheVolumeIsThatOfTheCurrentInput) {
   page.projector.Refuse("GetInputSource");
   page.driver.Drag(20317, 30);
   expectShown("5", 20, {});
-  page.driver.Click(20318);  // without a source only the buttons go on
+  page.driver.Click(20318);  // without a source only the buttons work
   expectShown("0", 0, {"DecrementInputSrcVol 0"});
   page.Page().InitDisp();
   EXPECT_FALSE(page.driver.IsEnabled(20317));
   EXPECT_EQ(page.driver.Text(20142) + page.driver.Text(kCurrentInput), "");
 }
 
-TEST(Setup5, OnlyTheZoomButtonsInsistOnTheResultOne) {
+TEST(Setup5, OnlyTheZoomButtonsRequireTheResultOne) {
   Type5Page page(kSetupTab, 44, {{"Get 0x300A", 95}, {"Get 0x300B", 131}});
   for (const char* key : {"Get 0x300A", "Set 0x300A", "Dec 0x300A", "Get 0x300B", "Inc 0x300B"}) {
     page.projector.AnswerResult(key, 2);
@@ -119,10 +119,10 @@ TEST(Setup5, OnlyTheZoomButtonsInsistOnTheResultOne) {
   EXPECT_EQ(page.boxes.Take().size(), 1U);
   page.projector.AnswerResult("Dec 0x300A", 1);
   page.driver.Click(20331);
-  page.ExpectValue(20332, 91, 20143, "91");  // a read-back is as strict as its step
+  page.ExpectValue(20332, 91, 20143, "91");  // the value is read back as strictly as it is stepped
 }
 
-TEST(Setup5, AnUnknownLampModeMovesThoseBehindItUp) {
+TEST(Setup5, AnUnknownLampModeMovesTheNextOnesUp) {
   CModelInfo2 model = MakeModel(5, 44);
   for (const char* name : {"Normal", "Eco", "Bright"}) AddEntry(model.WhisperList, 0, name);
   OpenDialog open(model, kSetupTab);
@@ -131,7 +131,7 @@ TEST(Setup5, AnUnknownLampModeMovesThoseBehindItUp) {
   EXPECT_EQ(open.Projector().Take(), Strings{"SetWhisper 1"});
 }
 
-TEST(Setup5, SavingIsSentWhenTheAnswerIsYes) {
+TEST(Setup5, SavingIsSentIfTheAnswerIsYes) {
   MessageBoxes boxes(true);
   OpenDialog open(MakeModel(5, 53), kSetupTab);
   open.Driver().Choose(kStandby, 1);
@@ -139,13 +139,13 @@ TEST(Setup5, SavingIsSentWhenTheAnswerIsYes) {
   EXPECT_EQ(open.Driver().Selected(kStandby), 1);
 }
 
-TEST(Setup5, ArrowButtonsBearAPictureAndKeepTheirSignAsTheirName) {
+TEST(Setup5, ArrowButtonsShowAPictureAndKeepTheirSignAsTheirName) {
   QGuiApplication::setLayoutDirection(Qt::RightToLeft);
   const Type5Page page(kSetupTab, 44);
   const auto& left = page.driver.Item<QAbstractButton>(20334);
   EXPECT_LT(left.x(), page.driver.Item<QAbstractButton>(20350).x()) << "also where all is mirrored";
   QGuiApplication::setLayoutDirection(Qt::LeftToRight);
-  // A point that the picture covers, and its mirror image that it leaves blank.
+  // A point that the arrow covers, and its mirror image, which stays blank.
   for (const auto& [id, name, ink, blank] :
        {std::tuple{20335, "D-Shift V ↑", QPoint(8, 28), QPoint(8, 12)},
         {20336, "D-Shift V ↓", QPoint(8, 12), QPoint(8, 28)},
@@ -161,7 +161,7 @@ TEST(Setup5, ArrowButtonsBearAPictureAndKeepTheirSignAsTheirName) {
   EXPECT_TRUE(ArrowBitmap(1).isNull());
 }
 
-TEST(Audio5, OtherModelsLeaveThePageEmptyAndUnlocalized) {
+TEST(Audio5, ThePageIsEmptyAndUnlocalizedForOtherModels) {
   for (const int code : {29, 32, 40, 44, 47, 48, 55}) {
     Type5Page page(kAudioTab, code);
     page.Audio().show();
@@ -174,7 +174,7 @@ TEST(Audio5, OtherModelsLeaveThePageEmptyAndUnlocalized) {
   }
 }
 
-// Also a row that a model does not have has a handler with a name.
+// Even a row that the model does not have has a named handler.
 TEST(Audio5, TheFlagOfTheDigitalInputsDependsOnRowAndModel) {
   for (const int code : {30, 31, 41, 43, 46, 49, 50, 51, 52, 53, 54}) {
     Type5Page page(kAudioTab, code);
@@ -219,7 +219,7 @@ TEST(Audio5, AnInputOfMinusOneIsNoSource) {
   EXPECT_EQ(page.driver.Text(20355), "");
 }
 
-// Which has another zero; a slider remembers its position.
+// The device value has another zero point. A slider remembers its position instead.
 TEST(Audio5, AButtonRemembersTheDeviceValue) {
   Type5Page page(kAudioTab, 41, {{"GetInputSource", 3}, {"IncrementInputSrcTreb 3", 131}});
   page.projector.Refuse("SetInputSrcTreble 3");

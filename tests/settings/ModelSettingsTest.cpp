@@ -1,5 +1,6 @@
-// Every setting of every model, used as a program without a window uses it, on the simulated
-// projector: it says for itself what a projector does, so settings and simulation check each other.
+// Uses every setting of every model as a program without a window does, on the simulated projector.
+// The simulation defines independently what a projector does, so settings and simulation check each
+// other.
 
 #include <set>
 
@@ -14,7 +15,7 @@ namespace {
 
 using Kind = ModelSetting::Kind;
 
-// All choices, and the ends of a range.
+// All choices, or the ends of a range.
 std::vector<int> ValuesOf(const ModelSetting& setting) {
   std::vector<int> values{0, 1};
   if (setting.kind == Kind::Number) {
@@ -28,7 +29,7 @@ std::vector<int> ValuesOf(const ModelSetting& setting) {
   return values;
 }
 
-// Those that do not read back what they send, for the reasons told in their tables.
+// Settings that are not read back as sent, for reasons given in their tables.
 const std::set<std::string_view> kOneWay{"image.color-temp"};
 
 void ExpectWorks(const ModelSettings& settings, const ModelSetting& setting) {
@@ -56,7 +57,7 @@ void ExpectWorks(const ModelSettings& settings, const ModelSetting& setting) {
   }
 }
 
-TEST(ModelSettings, EveryOneOfEveryModelWorksOnTheSimulationAndHasAKeyOfItsOwn) {
+TEST(ModelSettings, EverySettingOfEveryModelWorksOnTheSimulationAndHasAUniqueKey) {
   for (const CModelInfo2& info : EveryModel()) {
     SCOPED_TRACE(NameOf(info));
     const ModelSettings settings(MakeModelData(info));
@@ -72,7 +73,7 @@ TEST(ModelSettings, EveryOneOfEveryModelWorksOnTheSimulationAndHasAKeyOfItsOwn) 
   }
 }
 
-TEST(ModelSettings, AnEntryWhoseValueIsMinusOneIsSentLikeAnyOther) {
+TEST(ModelSettings, AnEntryWithTheValueMinusOneIsSentLikeAnyOther) {
   CModelInfo2 model = MakeModel(5, 49);
   AddEntry(model.ColorTempList, -1, "none");
   AddEntry(model.MyButtonList, -1, "none");
@@ -93,8 +94,8 @@ TEST(ModelSettings, AnEntryWhoseValueIsMinusOneIsSentLikeAnyOther) {
   }
 }
 
-// What each step from 10 towards 12 gives; none is made beyond them.
-TEST(StepTo, EndsAtTheValueOrWhereNoStepLeadsNearer) {
+// The result of each step from 10 towards 12; no further step is made.
+TEST(StepTo, EndsAtTheValueOrWhenStepsComeNoNearer) {
   struct Case {
     std::vector<Stepped> steps;
     Sent sent;
@@ -106,7 +107,7 @@ TEST(StepTo, EndsAtTheValueOrWhereNoStepLeadsNearer) {
       {{{.value = 13}}, Sent::Refused},
       {{{}}, Sent::Refused},
       {{kRefused, kRefused, kRefused}, Sent::Refused},
-      // Made, though its answer was lost.
+      // The step was made, but its answer got lost.
       {{kRefused, kRefused, {.refused = true, .value = 11}, {.value = 12}}, Sent::Accepted},
   };
   for (const auto& [steps, sent] : cases) {

@@ -2,7 +2,7 @@
 
 #include "settings/Range.h"
 
-TEST(Range, TakesTwoDecimalsAroundTheFirstComma) {
+TEST(Range, ParsesTwoDecimalsAroundTheFirstComma) {
   const Range fallback{-32, 32};
   EXPECT_EQ(ParseRange("100,156", 128, fallback), (Range{-28, 28}));
   EXPECT_EQ(ParseRange("0,255", 128, fallback), (Range{-128, 127}));
@@ -13,7 +13,7 @@ TEST(Range, TakesTwoDecimalsAroundTheFirstComma) {
   EXPECT_EQ(ParseRange("7,7", 0, fallback), (Range{7, 7}));
 }
 
-TEST(Range, FallsBackOnAnythingElse) {
+TEST(Range, UsesTheFallbackForAnythingElse) {
   const Range fallback{1, 7};
   for (const char* text : {"", "a", "5", ",", ",,", "5,", ",5", "9,3", "1;2",
                            "1,99999999999999999999", "-40000,3", "0,65536", "+-1,3"}) {

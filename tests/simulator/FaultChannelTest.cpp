@@ -19,7 +19,7 @@ class FaultChannelTest : public testing::Test {
   FaultChannel channel_{projector_, 1min};
 };
 
-TEST_F(FaultChannelTest, TheNarrowestFaultCountsAndALateAnswerIsAnAnswer) {
+TEST_F(FaultChannelTest, TheMostSpecificFaultAppliesAndLateAnswersArrive) {
   const std::vector commands{Do(Op::SetBrightness, 130), Do(Op::ExecTintReset), Get(0x2004),
                              Do(Op::GetColorTempGainR),  Set(0x2002, 1),        Get(0x2002)};
   const Fault refuse{.kind = Kind::Refuse};
@@ -40,11 +40,12 @@ TEST_F(FaultChannelTest, TheNarrowestFaultCountsAndALateAnswerIsAnAnswer) {
   EXPECT_EQ(Replies(channel_, commands), "130 128 128 128 - -");
 }
 
-TEST_F(FaultChannelTest, ADropOutEndsWhenItIsCleared) {
+TEST_F(FaultChannelTest, ADropOutEndsWhenTheFaultIsCleared) {
   channel_.SetFault(Op::GetMirror, {.kind = Kind::DropOut});
   std::thread clearer([this] {
     std::this_thread::sleep_for(30ms);
-    channel_.SetFault(Op::GetSpeaker, {.kind = Kind::Refuse});  // another's fault releases nobody
+    channel_.SetFault(Op::GetSpeaker,
+                      {.kind = Kind::Refuse});  // a fault of another command must not end the wait
     std::this_thread::sleep_for(30ms);
     channel_.Clear();
   });

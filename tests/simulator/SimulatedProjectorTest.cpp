@@ -11,7 +11,7 @@ namespace {
 using Id = SettingId;
 using Op = PjtOperation;
 
-/// A command to a new projector whose setting was given a value, and what comes of it.
+/// A command to a new projector with a given value of a setting, and the result.
 struct Case {
   Id id;
   int before;
@@ -25,13 +25,13 @@ constexpr Case kCases[] = {
     {Id::Brightness, 160, {Op::Inc, 0x2003}, 160},
     {Id::Brightness, 96, {Op::Dec, 0x2003}, 96},
     {Id::LampTime, 97, {Op::ExecLampTimeReset}, 0, "0"},
-    // A list's values, and positions in it.
+    // Values of a list, and positions in it.
     {Id::VideoFormat, 5, {Op::SetVideoFormat, 0, 7}, 5},
     {Id::VideoFormat, 5, {Op::SetVideoFormat, 0, -1}, 5},
     {Id::VideoFormat, 10, {Op::Inc, 0x2200}, 4, "4"},
     {Id::VideoFormat, 7, {Op::Inc, 0x2200}, 7},
     {Id::VideoFormat, 10, {Op::Dec, 0x2200}, 10},
-    // Values written from one on, or stepped to as a page shows them.
+    // Values that are written starting from one, or stepped as shown values.
     {Id::VideoNoiseReduction, 1, {Op::SetVideoNR, 0, 3, 1}, 1},
     {Id::ColorTempGainG, 100, {Op::IncrementColorTempGain, 0, 1, -28}, 101, "-27"},
     {Id::ColorTempGainG, 100, {Op::IncrementColorTempGain, 0, 0, -28}, 100, "1"},
@@ -45,15 +45,15 @@ constexpr Case kCases[] = {
     {Id::KeystoneV, 254, {Op::IncrementKeystoneV}, 255, "255"},
     {Id::KeystoneH, 1, {Op::ExecAutoKeyStone}, 128, "128"},
     {Id::PhaseH, 1, {Op::ExecAutoAdjust}, 16, "1344"},
-    // Sound, of the source named or of the current one.
+    // Sound of a given source or of the current one.
     {Id::Bass, 128, {Op::SetInputSrcBass, 0, 0, 130}, 130, "130"},
     {Id::Treble, 131, {Op::IncrementInputSrcTreb, 0, 0}, 132, "132"},
-    // States, and a code that nobody has.
+    // States, and an unknown code.
     {Id::Power, 1, {Op::Set, 0x6000, 0}, 1},
     {Id::Brightness, 97, {Op::Get, 0x30B4}, 97},
 };
 
-TEST(SimulatedProjector, DoesWhatACommandSaysOrRefusesIt) {
+TEST(SimulatedProjector, ExecutesOrRefusesCommands) {
   for (const Case& expected : kCases) {
     SimulatedProjector projector;
     projector.SetValue(expected.id, expected.before);
@@ -63,7 +63,7 @@ TEST(SimulatedProjector, DoesWhatACommandSaysOrRefusesIt) {
   }
 }
 
-TEST(SettingsTableTest, EveryOperationReachesSomethingAndNoSettingOrCodeStandsTwice) {
+TEST(SettingsTableTest, EveryOperationHasASettingAndNoSettingOrCodeOccursTwice) {
   std::set<Op> reached{Op::SetMyMemory};
   for (const int pageSet : {0, 1, 2, 3, 4, 5}) {
     std::set<Id> ids;
@@ -89,9 +89,13 @@ TEST(SimulatedProjector, SoundIsKeptForEachSourceAndForStandby) {
                                 Set(0x2000, 2), Inc(0x2001), Do(Op::GetInputSrcVolume, 2),
                                 Do(Op::GetInputSrcVolume, kStandby)}),
             "5 16 30 - 2 31 31 5");
+  EXPECT_EQ(Replies(projector, {Do(Op::SetInputSrcTreble, 3, 130), Do(Op::GetInputSrcTreble, 2),
+                                Do(Op::SetInputSrcBass, 3, 126), Do(Op::GetInputSrcBass, 2),
+                                Do(Op::SetSRSWOW, 3, 2), Do(Op::GetSRSWOW, 2)}),
+            "130 128 126 128 2 0");
 }
 
-TEST(SimulatedProjector, MemoriesKeepThePictureAndNothingElse) {
+TEST(SimulatedProjector, MemoriesStoreOnlyThePicture) {
   SimulatedProjector projector;
   EXPECT_EQ(
       Replies(projector, {Set(0x2003, 140), Do(Op::SetMyMemory, 6), Set(0x2002, 1),
@@ -100,13 +104,13 @@ TEST(SimulatedProjector, MemoriesKeepThePictureAndNothingElse) {
       "140 0 1 0 128 0 140 1 - -");
 }
 
-TEST(SimulatedProjector, CodesWithoutMeaningKeepWhatIsWritten) {
+TEST(SimulatedProjector, CodesWithoutMeaningStoreAnyValue) {
   SimulatedProjector projector;
   EXPECT_EQ(Replies(projector, {Get(0x2035), Set(0x2035, -1), Inc(0x2035), Get(0x2035)}),
             "0 -1 - -1");
 }
 
-TEST(SimulatedModelTest, AHostsDescriptionShapesTheProjector) {
+TEST(SimulatedModelTest, AHostsDescriptionDefinesTheProjector) {
   ModelData data;
   data.DialogType = 3;
   data.GammaList = {.count = 2, .values = {16, 20, 99}, .names = {}};

@@ -10,7 +10,7 @@
 #include "i18n/SystemLanguage.h"
 #include "snapshots/Restoration.h"
 
-// Projectors of the profile file on the simulation, disturbed in their work.
+// Simulated projectors of the profile file, with faults.
 
 inline const SettingTexts& Texts() {
   static const std::vector<std::string> folders{TEST_CATALOG_DIR};
@@ -27,11 +27,11 @@ inline const ProjectorProfile& Profile(std::string_view name) {
   return *std::ranges::find(Profiles(), name, &ProjectorProfile::Name);
 }
 
-/// What a projector keeps for each of its sources, or for each of these and its modes.
+/// Settings that a projector keeps for each source, or for each source and mode.
 struct Memory {
   using Values = std::vector<int>;
 
-  /// What belongs to the source or mode that was set since comes back.
+  /// Restores the values of the source or mode that has been set since.
   void Follow(SimulatedProjector& projector) {
     const auto read = [&projector](const std::vector<SettingId>& which) {
       Values values;
@@ -53,7 +53,7 @@ struct Memory {
     kept[now] = read(ids);
     fresh.emplace(now, kept[now]);
   }
-  /// Whether all is as it was, of what is new too.
+  /// Whether all values are the same, including new ones.
   bool IsLike(Memory then) const {
     then.kept.insert(fresh.begin(), fresh.end());
     return kept == then.kept;
@@ -64,8 +64,8 @@ struct Memory {
   std::map<Values, Values> kept{}, fresh{};
 };
 
-/// A projector whose commands may be refused, get lost on the way there or back, be carried out
-/// when they are no longer waited for, or end for good. Its replies may be scripted, too.
+/// A projector whose commands may be refused, get lost, lose their replies, be carried out after
+/// they were given up, or remain unanswered for good. Replies can also be scripted.
 struct Disturbed : ProjectorChannel {
   PjtReply Execute(const PjtCommand& command) override {
     ++count;
@@ -87,7 +87,7 @@ struct Disturbed : ProjectorChannel {
     for (Memory& memory : memories) memory.Follow(projector);
     return reply;
   }
-  /// What was to be carried out before the command of this number, or all.
+  /// Carries out the late changes due before the command with this number, or all of them.
   void CarryOutLate(int number = 1 << 30) {
     while (!late.empty() && late.begin()->first < number) {
       CarryOut(late.extract(late.begin()).mapped());
@@ -101,8 +101,8 @@ struct Disturbed : ProjectorChannel {
   std::minstd_rand random{7};
   struct Trouble {
     int refusedPercent = 0, lostPercent = 0, deadAfter = 1 << 30;
-    int latePercent = 0, lateBy = 0;  ///< In commands that come before it is carried out.
-    int lateChange = 0;               ///< The number of one, from 1 on.
+    int latePercent = 0, lateBy = 0;  ///< Number of commands before a late change is carried out.
+    int lateChange = 0;               ///< The number of the late change, from 1.
   } trouble{};
   std::multimap<int, PjtCommand> late{};
   int count = 0, sent = 0;
@@ -120,9 +120,9 @@ inline Restoration Restore(
   return restoration;
 }
 
-/// A projector and the way to it.
-struct Room {
-  explicit Room(const ProjectorProfile& profile)
+/// A projector with a connection to it.
+struct ConnectedProjector {
+  explicit ConnectedProjector(const ProjectorProfile& profile)
       : channel(std::make_shared<Disturbed>(profile)),
         settings(MakeModelData(profile.Model)),
         name(profile.Name) {

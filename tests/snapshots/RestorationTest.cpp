@@ -1,4 +1,4 @@
-// Snapshots on every projector of the profile file: kept, disturbed, put back.
+// Takes snapshots of every projector of the profile file, changes the settings, and restores them.
 
 #include <array>
 #include <atomic>
@@ -16,64 +16,66 @@
 
 namespace {
 
-// What sources keep for themselves, and what those and their modes do.
+// Settings kept for each source, and for each source and mode.
 std::vector<Memory> Memories() {
   return {{{SettingId::InputSource}, {SettingId::Gamma, SettingId::ColorTemp, SettingId::Volume}},
           {{SettingId::InputSource, SettingId::Gamma, SettingId::ColorTemp},
            {SettingId::Brightness, SettingId::Tint, SettingId::ActiveIris, SettingId::Aspect}}};
 }
 
-TEST(Restoration, BringsEveryProjectorBackAndUndoesItself) {
+TEST(Restoration, RestoresEveryProjectorAndCanBeUndone) {
   ASSERT_GT(Profiles().size(), 50U);
   unsigned seed = 3;
   for (const ProjectorProfile& profile : Profiles()) {
     SCOPED_TRACE(profile.Name);
-    Room room(profile);
+    ConnectedProjector target(profile);
     std::set<std::string> names;
-    for (const ModelSetting& setting : room.settings.All()) {
-      const std::string name = Texts().Name(room.settings, setting, {});
+    for (const ModelSetting& setting : target.settings.All()) {
+      const std::string name = Texts().Name(target.settings, setting, {});
       EXPECT_TRUE(names.insert(Texts().Tab(setting) + name).second) << name;
     }
-    room.ChangeAll(1);
-    room.channel->count = 0;
-    const Snapshot wanted = room.Take();
-    EXPECT_LE(room.channel->count, std::ssize(wanted.settings) + 2) << "a source is asked for once";
-    room.ChangeAll(2);
-    const Restoration restoration = room.Restore(wanted);
-    EXPECT_EQ(room.Take().settings, wanted.settings);
+    target.ChangeAll(1);
+    target.channel->count = 0;
+    const Snapshot wanted = target.Take();
+    EXPECT_LE(target.channel->count, std::ssize(wanted.settings) + 2)
+        << "a source is asked for once";
+    target.ChangeAll(2);
+    const Restoration restoration = target.Restore(wanted);
+    EXPECT_EQ(target.Take().settings, wanted.settings);
     EXPECT_EQ(restoration.Count(Outcome::Changed) + restoration.Count(Outcome::AlreadySo),
               static_cast<int>(wanted.settings.size()));
-    const int sent = room.channel->sent;
-    EXPECT_EQ(room.Restore(wanted).Count(Outcome::Changed), 0);
-    EXPECT_EQ(room.channel->sent, sent) << "what is so is not sent again";
-    // Undone wherever it is cut off, with all that sources and modes keep, and done again.
-    auto& memories = room.channel->memories;
+    const int sent = target.channel->sent;
+    EXPECT_EQ(target.Restore(wanted).Count(Outcome::Changed), 0);
+    EXPECT_EQ(target.channel->sent, sent) << "what is so is not sent again";
+    // A restoration that ends anywhere can be undone, with all values of sources and modes, and
+    // redone.
+    auto& memories = target.channel->memories;
     memories = Memories();
     for (const int cut : {1000, 1, 3, 6, 14}) {
       SCOPED_TRACE(cut);
-      room.ChangeAll(++seed);
-      const Snapshot before = room.Take();
+      target.ChangeAll(++seed);
+      const Snapshot before = target.Take();
       const auto first = memories;
-      const int source = room.channel->projector.Value(SettingId::InputSource);
+      const int source = target.channel->projector.Value(SettingId::InputSource);
       Snapshot undo, redo;
-      const int limit = room.channel->sent + cut;
-      room.Restore(wanted, &undo, [&] { return room.channel->sent < limit; });
-      // Somebody may choose another source meanwhile.
-      if (cut == 1000) room.channel->projector.SetValue(SettingId::InputSource, source);
-      room.channel->Execute({.operation = PjtOperation::GetInputSource});
-      const Snapshot after = room.Take();
+      const int limit = target.channel->sent + cut;
+      target.Restore(wanted, &undo, [&] { return target.channel->sent < limit; });
+      // The user may choose another source meanwhile.
+      if (cut == 1000) target.channel->projector.SetValue(SettingId::InputSource, source);
+      target.channel->Execute({.operation = PjtOperation::GetInputSource});
+      const Snapshot after = target.Take();
       const auto changed = memories;
-      room.Restore(ReadSnapshot(WriteSnapshot(undo)).snapshot, &redo);
-      EXPECT_EQ(room.Take().settings, before.settings);
+      target.Restore(ReadSnapshot(WriteSnapshot(undo)).snapshot, &redo);
+      EXPECT_EQ(target.Take().settings, before.settings);
       EXPECT_TRUE(std::ranges::equal(memories, first, &Memory::IsLike));
-      room.Restore(redo);
-      EXPECT_EQ(room.Take().settings, after.settings);
+      target.Restore(redo);
+      EXPECT_EQ(target.Take().settings, after.settings);
       EXPECT_TRUE(std::ranges::equal(memories, changed, &Memory::IsLike));
     }
   }
 }
 
-/// Serves a projector. Where an answer gets lost, the connection does.
+/// Serves a projector. Closes the connection if an answer gets lost.
 Peer::Behaviour Serves(ProjectorChannel& projector) {
   return [&projector](Peer::End& end) {
     WireResponder responder(projector);
@@ -91,13 +93,16 @@ Peer::Behaviour Serves(ProjectorChannel& projector) {
   };
 }
 
-/// Holds all that is told of a restoration against the projector, which had `before` at first.
-void ExpectTruth(Room& room, const Restoration& restoration, const Restoration& before) {
-  room.channel->CarryOutLate();
-  room.channel->trouble = {};
+/// Compares the outcomes of a restoration with the projector, which had the values `before` at
+/// first.
+void ExpectTruth(ConnectedProjector& target, const Restoration& restoration,
+                 const Restoration& before) {
+  target.channel->CarryOutLate();
+  target.channel->trouble = {};
   for (const RestoredSetting& restored : restoration.Settings()) {
     SCOPED_TRACE(restored.saved.key);
-    const auto now = room.settings.Read(room.connection, *restored.setting, restored.saved.source);
+    const auto now =
+        target.settings.Read(target.connection, *restored.setting, restored.saved.source);
     const auto number = static_cast<std::size_t>(&restored - restoration.Settings().data());
     switch (restored.outcome) {
       case Outcome::Changed:
@@ -117,26 +122,26 @@ void ExpectTruth(Room& room, const Restoration& restoration, const Restoration& 
 
 void ExpectTruthFromAfar(const ProjectorProfile& profile, const Disturbed::Trouble& trouble) {
   SCOPED_TRACE(profile.Name);
-  Room room(profile);
-  room.ChangeAll(1);
-  const Snapshot wanted = room.Take();
-  room.ChangeAll(2);
-  Restoration before(wanted, room.settings, room.connection);
+  ConnectedProjector target(profile);
+  target.ChangeAll(1);
+  const Snapshot wanted = target.Take();
+  target.ChangeAll(2);
+  Restoration before(wanted, target.settings, target.connection);
   before.Read();
-  room.channel->count = 0;
-  room.channel->trouble = trouble;
-  auto peer = std::make_unique<Peer>(Way::Tcp, std::vector{Serves(*room.channel)});
+  target.channel->count = 0;
+  target.channel->trouble = trouble;
+  auto peer = std::make_unique<Peer>(Transport::Tcp, std::vector{Serves(*target.channel)});
   ProjectorAccess far(profile, std::make_shared<TcpChannel>("127.0.0.1", peer->port));
   const Restoration restoration = Restore(far.Settings(), far.Connection(), wanted, nullptr,
                                           [&far] { return !far.Channel().IsGone(); });
   peer.reset();
-  ExpectTruth(room, restoration, before);
-  room.Restore(wanted);
-  EXPECT_EQ(room.Take().settings, wanted.settings);
+  ExpectTruth(target, restoration, before);
+  target.Restore(wanted);
+  EXPECT_EQ(target.Take().settings, wanted.settings);
 }
 
-// Whatever goes wrong, each list holds what is in it, and doing it again completes it.
-TEST(Restoration, TellsTheTruthWhenCommandsAreRefusedLostAndLate) {
+// Whatever goes wrong, the outcomes must be true, and repeating the restoration must complete it.
+TEST(Restoration, OutcomesAreTrueWhenCommandsAreRefusedLostOrLate) {
   std::vector<std::pair<const ProjectorProfile*, Disturbed::Trouble>> cases;
   for (const ProjectorProfile& profile : Profiles()) cases.push_back({&profile, {1, 1}});
   cases.push_back({&Profile("Projector 2-6"), {30, 10}});
@@ -147,7 +152,7 @@ TEST(Restoration, TellsTheTruthWhenCommandsAreRefusedLostAndLate) {
     }
   }
   std::atomic<std::size_t> next = 0;
-  std::array<std::jthread, 16> workers;  // it is mostly waiting
+  std::array<std::jthread, 16> workers;  // the threads mostly wait
   for (std::jthread& worker : workers) {
     worker = std::jthread([&] {
       for (std::size_t n = next++; n < cases.size(); n = next++) {
@@ -157,41 +162,41 @@ TEST(Restoration, TellsTheTruthWhenCommandsAreRefusedLostAndLate) {
   }
 }
 
-// A source or mode drags along what belongs to it. Where its answer is lost and it is carried out
-// at once, before or after it is read back, or after all, and where the work is cut off behind it:
-// nothing is told that is not so, and undoing it brings everything back.
-TEST(Restoration, TellsTheTruthOfWhatAChangeDragsAlong) {
+// Changing a source or mode changes other settings. Its answer is lost, and the change is carried
+// out at once, before or after it is read back, or after everything else; or the work ends after
+// it. In each case the outcomes must be true, and undoing must restore everything.
+TEST(Restoration, OutcomesAreTrueForSettingsThatAChangeAffects) {
   constexpr int kCutOff = -1;
   constexpr int kLateBy[] = {kCutOff, 0, 1, 9, 1 << 20};
   constexpr int kChanges[] = {1, 2, 5, 20};
   std::size_t turn = 0;
   std::set<Outcome> outcomes;
   for (const ProjectorProfile& profile : Profiles()) {
-    Room room(profile);
-    room.channel->memories = Memories();
-    room.ChangeAll(1);
-    const Snapshot wanted = room.Take();
+    ConnectedProjector target(profile);
+    target.channel->memories = Memories();
+    target.ChangeAll(1);
+    const Snapshot wanted = target.Take();
     for (const int by : kLateBy) {
       const int change = kChanges[turn++ % std::size(kChanges)];
       SCOPED_TRACE(testing::Message() << profile.Name << " change " << change << " by " << by);
-      room.ChangeAll(2);
-      const Snapshot atFirst = room.Take();
-      const auto memories = room.channel->memories;
-      Restoration before(wanted, room.settings, room.connection);
+      target.ChangeAll(2);
+      const Snapshot atFirst = target.Take();
+      const auto memories = target.channel->memories;
+      Restoration before(wanted, target.settings, target.connection);
       before.Read();
-      room.channel->sent = 0;
-      if (by != kCutOff) room.channel->trouble = {.lateBy = by, .lateChange = change};
+      target.channel->sent = 0;
+      if (by != kCutOff) target.channel->trouble = {.lateBy = by, .lateChange = change};
       Snapshot undo;
-      const Restoration restoration =
-          room.Restore(wanted, &undo, [&] { return by != kCutOff || room.channel->sent < change; });
+      const Restoration restoration = target.Restore(
+          wanted, &undo, [&] { return by != kCutOff || target.channel->sent < change; });
       if (by == 0) {
         EXPECT_LE(restoration.Count(Outcome::Unconfirmed), 1) << "a step";
       }
       for (const auto& restored : restoration.Settings()) outcomes.insert(restored.outcome);
-      ExpectTruth(room, restoration, before);
-      room.Restore(undo);
-      EXPECT_EQ(room.Take().settings, atFirst.settings);
-      EXPECT_TRUE(std::ranges::equal(room.channel->memories, memories, &Memory::IsLike));
+      ExpectTruth(target, restoration, before);
+      target.Restore(undo);
+      EXPECT_EQ(target.Take().settings, atFirst.settings);
+      EXPECT_TRUE(std::ranges::equal(target.channel->memories, memories, &Memory::IsLike));
     }
   }
   using enum Outcome;
@@ -199,20 +204,20 @@ TEST(Restoration, TellsTheTruthOfWhatAChangeDragsAlong) {
 }
 
 TEST(Restoration, LeavesWhatIsBesideAnInterruptedStepUntouched) {
-  Room room(Profile("Projector 5-30"));
-  Snapshot wanted = room.Take();
+  ConnectedProjector target(Profile("Projector 5-30"));
+  Snapshot wanted = target.Take();
   std::erase_if(wanted.settings, [](const SavedSetting& saved) {
     return !saved.key.starts_with("image.position-");
   });
   for (SavedSetting& saved : wanted.settings) saved.value += 20;
   const Restoration restoration =
-      room.Restore(wanted, nullptr, [&room] { return room.channel->sent < 3; });
+      target.Restore(wanted, nullptr, [&target] { return target.channel->sent < 3; });
   ASSERT_EQ(restoration.Settings().size(), 2);
   EXPECT_EQ(restoration.Settings()[0].outcome, Outcome::Refused) << "after three steps";
   EXPECT_EQ(restoration.Settings()[1].outcome, Outcome::Differs) << "nothing was sent for it";
 }
 
-/// Gives what is scripted for a change; everything else goes its way.
+/// Replies to changes as scripted, and forwards everything else.
 struct Scripted : ProjectorChannel {
   PjtReply Execute(const PjtCommand& command) override {
     const bool isScripted = !IsRead(command.operation) && command.code == code;
@@ -226,7 +231,7 @@ struct Scripted : ProjectorChannel {
   bool isGone = false;
 };
 
-TEST(Restoration, TellsWhyAChangeIsNotSo) {
+TEST(Restoration, SaysWhyAChangeHasNotTakenEffect) {
   Snapshot wanted;
   wanted.settings = {{"picture.tint", 131, ""}, {"picture.active-iris", 16, ""}};
   using enum Outcome;
@@ -238,29 +243,29 @@ TEST(Restoration, TellsWhyAChangeIsNotSo) {
       {{.answered = false, .unsent = true}, {NotReached, NotReached}},
   };
   for (const auto& [reply, outcomes] : kCases) {
-    Room room(Profile("Projector 5-30"));
+    ConnectedProjector target(Profile("Projector 5-30"));
     const auto scripted = std::make_shared<Scripted>();
-    scripted->inner = room.channel;
+    scripted->inner = target.channel;
     scripted->code = CommandCode::ActiveIris;
     scripted->reply = reply;
-    room.connection.SetChannel(scripted);
-    const Restoration restoration = room.Restore(wanted);
+    target.connection.SetChannel(scripted);
+    const Restoration restoration = target.Restore(wanted);
     std::vector<Outcome> told;
     for (const auto& restored : restoration.Settings()) told.push_back(restored.outcome);
     EXPECT_EQ(told, outcomes);
   }
 }
 
-TEST(Restoration, SkipsWhatTheModelDoesNotTakeAndStopsWhenTold) {
-  Room room(Profile("Projector 5-30"));
-  Snapshot snapshot = room.Take();
+TEST(Restoration, SkipsWhatTheModelLacksAndStopsOnRequest) {
+  ConnectedProjector target(Profile("Projector 5-30"));
+  Snapshot snapshot = target.Take();
   snapshot.settings = {{"picture.brightness", 1000, ""}, {"picture.gamma", 99, ""},
                        {"status.power", 0, ""},          {"no.such", 1, ""},
                        {"audio.volume", 3, "", 6},       {"picture.tint", 131, "", 0},
                        {"picture.contrast", 130, ""},    {"picture.tint", 131, ""}};
-  Restoration restoration(snapshot, room.settings, room.connection);
+  Restoration restoration(snapshot, target.settings, target.connection);
   restoration.Read();
-  restoration.Send(Texts(), {.goesOn = [&room] { return room.channel->sent == 0; }});
+  restoration.Send(Texts(), {.goesOn = [&target] { return target.channel->sent == 0; }});
   std::vector<Outcome> outcomes;
   for (const auto& restored : restoration.Settings()) outcomes.push_back(restored.outcome);
   using enum Outcome;

@@ -1,4 +1,4 @@
-// The file of a snapshot, what is typed for its settings, and asking patiently.
+// Snapshot files, typed values of settings, and repeated commands.
 
 #include <array>
 #include <gmock/gmock.h>
@@ -10,8 +10,8 @@
 
 namespace {
 
-/// Leaves each command as it is told to: "a" answers, "l" loses the answer, "u" does not send it;
-/// the last goes on. Everything but "a" takes a time-out where it is in capitals.
+/// Treats each command as scripted: "a" answers, "l" loses the answer, "u" does not send the
+/// command; the last letter repeats. In capitals, "l" and "u" take a time-out.
 struct Unsteady : ProjectorChannel {
   PjtReply Execute(const PjtCommand&) override {
     const char now = does[std::min(count++, does.size() - 1)];
@@ -28,16 +28,16 @@ struct Unsteady : ProjectorChannel {
   bool isAbandoned = false;
 };
 
-TEST(PatientChannel, AsksAgainWhatIsSafeToAskAndNeverCutsACommandShort) {
+TEST(PatientChannel, RepeatsOnlySafeCommandsAndNeverCutsOneShort) {
   using namespace std::chrono_literals;
   constexpr std::chrono::milliseconds kTimeOut = 1s;
   constexpr PjtCommand kRead{.operation = PjtOperation::GetInputSource};
   constexpr PjtCommand kChange{.operation = PjtOperation::SetMute, .first = 1};
   constexpr PjtCommand kStep{PjtOperation::Inc, 0x2001};
   struct Case {
-    const char* does;  // behind a first answer or a greeting
+    const char* does;  // script after a first answer or a greeting
     PjtCommand command;
-    std::size_t times;  // it is sent
+    std::size_t times;  // number of times it is sent
     bool isAnswered, isUnsent, isGone;
   };
   const Case kCases[] = {
@@ -75,9 +75,9 @@ TEST(PatientChannel, AsksAgainWhatIsSafeToAskAndNeverCutsACommandShort) {
   EXPECT_TRUE(dead->given == kTimeOut && dead->isAbandoned) << "all is passed on";
 }
 
-TEST(Snapshot, IsReadAsWrittenAndRefusedWhenWrong) {
-  Room room(Profiles().front());
-  const Snapshot snapshot = room.Take();
+TEST(Snapshot, IsReadAsWrittenAndRefusedIfInvalid) {
+  ConnectedProjector target(Profiles().front());
+  const Snapshot snapshot = target.Take();
   const QByteArray text = WriteSnapshot(snapshot);
   EXPECT_EQ(ReadSnapshot(text).snapshot, snapshot);
   for (const auto& [from, to, error] : std::vector<std::array<const char*, 3>>{
@@ -96,8 +96,8 @@ TEST(Snapshot, IsReadAsWrittenAndRefusedWhenWrong) {
   }
 }
 
-TEST(SettingTexts, UnderstandsWhatPeopleType) {
-  const Room room(Profile("Projector 5-30"));
+TEST(SettingTexts, ParsesTypedValues) {
+  const ConnectedProjector target(Profile("Projector 5-30"));
   struct Typed {
     const char* text;
     std::optional<int> value;  // from the present value `from`
@@ -113,7 +113,7 @@ TEST(SettingTexts, UnderstandsWhatPeopleType) {
       {"setup.mirror", {{"H&V Inverse", 3}}},
   };
   for (const auto& [key, cases] : kCases) {
-    const ModelSetting* const setting = room.settings.Find(key);
+    const ModelSetting* const setting = target.settings.Find(key);
     ASSERT_NE(setting, nullptr) << key;
     for (const auto& [text, value, from] : cases) {
       const auto typed = Texts().Parse(*setting, text);

@@ -47,7 +47,7 @@ void DialogDriver::Drag(int id, int position) const {
   ASSERT_TRUE(slider.isVisible() && slider.isEnabled()) << NameOf(slider) << ": not in use";
   QPoint at = slider.HandleRect().center();
   QTest::mousePress(&slider, Qt::LeftButton, {}, at);
-  // The pixel that stands for a position depends on the style: follow the handle.
+  // Follows the handle, because the pixel of a position depends on the style.
   for (int guard = 0; slider.sliderPosition() != position && guard < 4 * slider.width(); ++guard) {
     at.rx() += slider.sliderPosition() < position ? 1 : -1;
     QTest::mouseMove(&slider, at);
@@ -148,7 +148,7 @@ std::vector<QWidget*> UsableControls(const CDialog& dialog) {
   return usable;
 }
 
-int Given(const char* variable, int otherwise) {
+int EnvironmentNumber(const char* variable, int otherwise) {
   const QString given = qEnvironmentVariable(variable);
   return given.isEmpty() ? otherwise : given.toInt();
 }

@@ -18,13 +18,13 @@
 #include "toolkit/CComboBox.h"
 
 void Wheel(QWidget& control, int notches);
-/// Shows a window in front of the others.
+/// Shows a window in front of all others.
 void Activate(QWidget& window);
 
-/// What a control is called when a test fails: "Brightness +".
+/// The name of a control in failures: "Brightness +".
 std::string NameOf(const QWidget& control);
 
-/// Acts on a dialog's controls as a user does: with mouse, keys and wheel on the real widgets.
+/// Operates a dialog's controls as a user does: mouse, keys and wheel on the real widgets.
 class DialogDriver {
  public:
   explicit DialogDriver(CDialog& dialog) : dialog_(dialog) {}
@@ -37,13 +37,13 @@ class DialogDriver {
   void Click(int id) const;
   /// Opens the list and picks a position.
   void Choose(int id, int position) const;
-  /// Drags the slider's handle until it shows this position, and lets go.
+  /// Drags the slider's handle until it shows this position, and releases it.
   void Drag(int id, int position) const;
   void Press(int id, Qt::Key key) const;
   void Wheel(int id, int notches) const { ::Wheel(Item<QWidget>(id), notches); }
 
   bool IsEnabled(int id) const;
-  /// Text of a label, button, field, or of a list's selected entry.
+  /// The text of a label, button, field, or of a list's selected entry.
   QString Text(int id) const;
   QStringList Entries(int id) const;
   int Selected(int id) const;
@@ -57,7 +57,7 @@ class DialogDriver {
 void Open(CAdvanceDlg& dialog, const CModelInfo2& model,
           std::shared_ptr<ProjectorChannel> projector);
 
-/// The whole dialog, opened on a scripted projector.
+/// The whole dialog, opened with a scripted projector.
 class OpenDialog {
  public:
   /// `tab` is selected after opening; the commands sent until then are forgotten.
@@ -77,18 +77,18 @@ class OpenDialog {
 
 enum class PopUp { Gamma, ColorTemp, Service };
 
-/// A pop-up of an open dialog, on its projector and for its model, to be opened.
+/// Makes a pop-up of an open dialog, with the dialog's projector and model.
 std::unique_ptr<RowDialog> MakePopUp(PopUp kind, CAdvanceDlg& host, bool hideResets = false);
-/// Opens it, or opens it again: either way it reads the projector.
+/// Opens a pop-up, or opens it again. Either way it reads the projector.
 void Open(CDialog& popUp);
 
-/// The controls that can be used now, the closing button apart.
+/// The controls that can be used now, without Close.
 std::vector<QWidget*> UsableControls(const CDialog& dialog);
 
-/// The number that an environment variable gives.
-int Given(const char* variable, int otherwise);
+/// The number in an environment variable, or `otherwise`.
+int EnvironmentNumber(const char* variable, int otherwise);
 
-/// Answers the message boxes that come up while it lives, and remembers them.
+/// Answers the message boxes that open during its lifetime, and records their texts.
 class MessageBoxes {
  public:
   /// `yes` answers yes/no questions.

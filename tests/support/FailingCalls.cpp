@@ -1,4 +1,4 @@
-// Preloaded into a program under test: lets calls fail that hardly ever do on a healthy machine.
+// Preloaded into a program under test. Makes calls fail that rarely fail on a healthy machine.
 //
 //   FAIL_ALLOCATION=N  the N-th allocation after the program made its first thread, once
 //   FAIL_SYNC=WHAT     fsync of each "file" or "folder"; with "kill" the program dies in the first
@@ -23,7 +23,7 @@ void* __libc_realloc(void* block, std::size_t size);
 
 namespace {
 
-std::atomic<long> allocationsLeft{0};  // 0 while none is to fail
+std::atomic<long> allocationsLeft{0};  // 0 if none should fail
 std::atomic<long> acceptsLeft{0};
 
 long Number(const char* name) {

@@ -10,7 +10,7 @@
 #include "device/ModelDataIntake.h"
 #include "simulator/SimulatedProjector.h"
 
-/// A simulated projector that takes as long for each command as it is told.
+/// A simulated projector that takes a given time for each command.
 class PacedProjector final : public ProjectorChannel {
  public:
   explicit PacedProjector(const CModelInfo2& model)
@@ -29,7 +29,7 @@ class PacedProjector final : public ProjectorChannel {
     return reply;
   }
 
-  /// Of the commands to come; none at all lets go the one that waits.
+  /// Sets the time for further commands. Zero also ends the command that waits.
   void Pace(std::chrono::milliseconds pace) {
     const std::lock_guard lock(mutex_);
     pace_ = pace;
@@ -42,8 +42,8 @@ class PacedProjector final : public ProjectorChannel {
   }
 
   std::atomic<bool> refuses = false;
-  std::atomic<bool> busy = false;  ///< Why it refuses.
-  std::atomic<bool> late = false;  ///< Accepts changes, and has not carried them out yet.
+  std::atomic<bool> busy = false;  ///< Whether refusals are for being busy.
+  std::atomic<bool> late = false;  ///< Whether changes are accepted without taking effect yet.
   std::atomic<bool> waiting = false;
   std::atomic<int> sent = 0;
 

@@ -9,7 +9,7 @@
 
 #include "tests/support/Soon.h"
 
-// Programs as processes of their own, and the files that they leave.
+// Runs programs as separate processes, and reads the files that they write.
 
 struct Outcome {
   int exitCode;  ///< −1 if it did not end by itself.
@@ -43,7 +43,7 @@ inline void Write(const QString& path, const QByteArray& text) {
 }
 
 #ifdef SIMULATOR_PROGRAM
-/// The simulator, ready from its making on.
+/// The simulator as a process, ready after construction.
 class SimulatorProcess {
  public:
   explicit SimulatorProcess(const QStringList& arguments) {
@@ -56,8 +56,8 @@ class SimulatorProcess {
     EXPECT_EQ(Finish(process_).exitCode, 0);
   }
 
-  /// What it says to be reached at: "tcp", "serial", "pjlink" or "control".
-  QString Address(const char* way) const { return addresses_.value(way); }
+  /// The address that it reports for "tcp", "serial", "pjlink" or "control".
+  QString Address(const char* transport) const { return addresses_.value(transport); }
 
  private:
   bool IsReady(const QStringList& arguments) {

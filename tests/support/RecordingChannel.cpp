@@ -18,7 +18,7 @@ std::string Describe(const PjtCommand& command) {
   return text.ends_with(' ') ? text.substr(0, text.size() - 1) : text;
 }
 
-// What is scripted for the command, or for as many of its first words as possible.
+// The script for the command, or for as many of its first words as possible.
 auto Find(const auto& scripted, std::string command) {
   auto found = scripted.find(command);
   while (found == scripted.end() && command.find(' ') != std::string::npos) {

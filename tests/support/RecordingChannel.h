@@ -7,20 +7,20 @@
 
 #include "device/ProjectorChannel.h"
 
-/// A projector with scripted replies that remembers what was sent, in order.
+/// A projector with scripted replies that records the commands in order.
 ///
 /// A command reads as "SetBrightness 140", "Get 0x2003", "Set 0x3304 16", "SetVolumeEachSrc 3 12";
-/// a key is the command, or as many of its words as tell which are meant. Everything is accepted
-/// and every value is 0 unless told otherwise.
+/// a key is a command, or its first words. Unless scripted, every command is accepted and every
+/// value is 0.
 class RecordingChannel final : public ProjectorChannel {
  public:
   PjtReply Execute(const PjtCommand& command) override;
 
-  /// What the commands with this key answer.
+  /// Sets the value of the commands with this key.
   void Answer(const std::string& key, int value) { values_[key] = value; }
-  /// The commands with this key are refused, as their family says it.
+  /// Refuses the commands with this key, with the result that means refusal in their family.
   void Refuse(const std::string& key) { refused_.insert(key); }
-  /// The commands with this key, unless refused, answer with this result instead of plain success.
+  /// Sets the result of the commands with this key, unless they are refused.
   void AnswerResult(const std::string& key, int result) { results_[key] = result; }
   void Accept(const std::string& key) { refused_.erase(key); }
 

@@ -13,7 +13,7 @@
 
 namespace {
 
-// What a control of a row shows, and what it has to show for the projector's value.
+// Compares what a row's control shows with what it should show for the projector's value.
 void ExpectShows(const ListRow& row, int value, const CTabPage& page, const ModelData&) {
   const auto& list = page.Item<CComboBox>(row.control);
   EXPECT_TRUE(list.isEnabled());

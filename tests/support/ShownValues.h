@@ -2,5 +2,5 @@
 
 #include "host/CAdvanceDlg.h"
 
-/// Each row of the page in front shows, in use, what the projector holds.
+/// Expects each row of the shown page to be enabled and to show the projector's value.
 void ExpectShowsProjector(CAdvanceDlg& dialog);

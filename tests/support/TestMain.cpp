@@ -7,7 +7,7 @@
 
 namespace {
 
-// The screen as TEST_SCREEN says it, "1024x768", or one with room for every dialog.
+// The screen given by TEST_SCREEN, such as "1024x768", or one large enough for every dialog.
 QByteArray TestDisplay(QTemporaryFile& file) {
   QList<QByteArray> size = qgetenv("TEST_SCREEN").split('x');
   if (size.size() != 2) size = {"1920", "1200"};
@@ -22,7 +22,7 @@ QByteArray TestDisplay(QTemporaryFile& file) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  // The tests bring their own display and language, whatever the caller has.
+  // The tests set their own display and language, independent of the caller's.
   QTemporaryFile screen;
   qputenv("QT_QPA_PLATFORM", TestDisplay(screen));
   qputenv("LC_ALL", "en_US.UTF-8");

@@ -69,7 +69,7 @@ class DialogTest : public testing::Test {
   DialogDriver driver{dialog};
 };
 
-TEST_F(DialogTest, ASliderReportsOnlyTheEndOfWhatTheUserDoes) {
+TEST_F(DialogTest, ASliderReportsOnlyTheEndOfAMove) {
   auto& slider = dialog.Item<CSliderCtrl>(4);
   slider.setValue(3);
   EXPECT_TRUE(dialog.scrolls.empty()) << "moved by program";
@@ -105,7 +105,7 @@ TEST_F(DialogTest, ASliderReportsOnlyTheEndOfWhatTheUserDoes) {
   EXPECT_GT(dialog.scrolls.back(), 6);
 }
 
-TEST_F(DialogTest, ADialogThatDiesWithAKeyDownReportsNothing) {
+TEST_F(DialogTest, ADialogThatDiesWhileAKeyIsDownReportsNothing) {
   auto* dying = new SampleDialog;
   dying->Open();
   bool reported = false;
@@ -178,7 +178,7 @@ TEST_F(DialogTest, EnterPressesTheFocusedButtonOnlyAndEscCloses) {
   EXPECT_EQ(dialog.destroyed, 1);
 }
 
-TEST_F(DialogTest, ARowThatGoesAwayLeavesNoSpace) {
+TEST_F(DialogTest, AnAbsentRowTakesNoSpace) {
   const int height = dialog.height(), last = dialog.GetDlgItem(11)->y();
   const int pitch = last - dialog.GetDlgItem(7)->y();
   dialog.ShowRow(9, false);
@@ -187,7 +187,7 @@ TEST_F(DialogTest, ARowThatGoesAwayLeavesNoSpace) {
   EXPECT_EQ(dialog.height(), height - pitch) << "a pop-up follows its rows";
 }
 
-TEST_F(DialogTest, ListsAreAsWideAsTheirColumnWhateverTheyHold) {
+TEST_F(DialogTest, ListsAreAsWideAsTheirColumnWhateverTheirEntries) {
   dialog.Item<CComboBox>(13).clear();
   dialog.Item<CComboBox>(13).Add(QStringLiteral("1"));
   QTest::qWait(60);
@@ -204,7 +204,7 @@ TEST_F(DialogTest, AModalDialogMayDieWhileItRuns) {
   EXPECT_EQ(dying, nullptr);
 }
 
-TEST_F(DialogTest, RunsModallyAgainAndAgain) {
+TEST_F(DialogTest, RunsModallySeveralTimes) {
   SampleDialog modal;
   for (int run = 1; run <= 2; ++run) {
     QTimer::singleShot(0, &modal, [&] {
@@ -226,7 +226,7 @@ TEST(Dialog, WithoutATemplateStaysEmpty) {
   EXPECT_EQ(dialog.GetDlgItem(1), nullptr);
 }
 
-TEST(ResourceChain, LooksInTheCurrentModuleFirst) {
+TEST(ResourceChain, SearchesTheCurrentModuleFirst) {
   static constexpr DialogTemplate other{.number = 900};
   static constexpr const DialogTemplate* others[] = {&other};
   static constexpr ResourceModule module{others};

@@ -20,12 +20,12 @@ constexpr auto kQuietCheck = std::chrono::milliseconds(50);
 constexpr auto kRetirementCheck = std::chrono::milliseconds(50);
 constexpr const char* kTabKey = "dialog/tab";
 
-// For each type of dialog: they differ in size.
+// Each type of dialog has its own geometry, because their sizes differ.
 QString GeometryKey(const CAdvanceDlg& dialog) {
   return QStringLiteral("dialog/geometry-%1").arg(dialog.Model().DialogType);
 }
 
-// Tabs are remembered by the number of their caption, which models have at different places.
+// The remembered tab is the number of its caption, because its position differs between models.
 std::vector<int> TabCaptions(const CModelInfo2& model) {
   std::vector<int> captions{Caption::TabStatus};
   for (const PageTab& tab : TabsOf(model.DialogType, model.ModelCode)) {
@@ -40,9 +40,9 @@ int Area(const QRect& rectangle) {
 
 }  // namespace
 
-DialogKeeper::DialogKeeper(const QWidget& window, std::function<std::vector<QRect>()> inView,
+DialogKeeper::DialogKeeper(const QWidget& window, std::function<std::vector<QRect>()> keepVisible,
                            QSettings* settings)
-    : window_(window), inView_(std::move(inView)), settings_(settings) {
+    : window_(window), keepVisible_(std::move(keepVisible)), settings_(settings) {
   deleteRetired_.setSingleShot(true);
   deleteRetired_.setInterval(kRetirementCheck);
   connect(&deleteRetired_, &QTimer::timeout, this, &DialogKeeper::DeleteRetired);
@@ -84,7 +84,7 @@ CAdvanceDlg* DialogKeeper::Open(const ProjectorSession& session, std::optional<i
       SelectTab(*dialog, model, tab);
     });
     if (!created) Retire(&session);
-    return Of(session);  // it may have been closed while it was read
+    return Of(session);  // null if it was closed while being read
   }
   dialog->setWindowState(dialog->windowState() & ~Qt::WindowMinimized);
   dialog->show();
@@ -94,11 +94,11 @@ CAdvanceDlg* DialogKeeper::Open(const ProjectorSession& session, std::optional<i
   return Of(session);
 }
 
-// Before anything is read, and not in the user's way later.
+// Called before anything is read. Later tab changes are the user's.
 void DialogKeeper::SelectTab(CAdvanceDlg& dialog, const CModelInfo2& model,
                              std::optional<int> tab) {
   auto* tabs = dialog.findChild<QTabBar*>();
-  const QSignalBlocker quiet(tabs);  // the selected page is about to be read anyway
+  const QSignalBlocker quiet(tabs);  // the selected page is read afterwards anyway
   if (tab) tabs->setCurrentIndex(*tab);
   if (settings_ == nullptr) return;
   const std::vector<int> captions = TabCaptions(model);
@@ -117,7 +117,7 @@ void DialogKeeper::Arrange(CAdvanceDlg& dialog) {
   if (!remembered || dialogs_.size() > 1) Place(dialog);
 }
 
-// Further dialogs stand a little apart from the first, to the inside of the screen.
+// Each further dialog opens a little apart from the others, towards the centre of the screen.
 void DialogKeeper::Place(CAdvanceDlg& dialog) const {
   const QRect screen = window_.screen()->availableGeometry();
   const QRect beside = window_.frameGeometry();
@@ -136,20 +136,20 @@ void DialogKeeper::Place(CAdvanceDlg& dialog) const {
       inside(screen.left(), bottom),
       inside(right, bottom),
   };
-  const std::vector<QRect> inView = inView_();
+  const std::vector<QRect> keepVisible = keepVisible_();
   const QPoint best = *std::ranges::min_element(places, {}, [&](QPoint place) {
     std::vector<int> covered;
-    covered.reserve(inView.size());
-    for (const QRect& part : inView) covered.push_back(Area(QRect(place, size) & part));
+    covered.reserve(keepVisible.size());
+    for (const QRect& part : keepVisible) covered.push_back(Area(QRect(place, size) & part));
     return covered;
   });
   const auto others = std::min(dialogs_.size() - 1, kCascadeLength);
   const int apart = kCascade * static_cast<int>(others);
   QPoint place = inside(best.x() + (best.x() == right ? -apart : apart), best.y() + apart);
-  if (QRect(place, size).intersects(inView.front())) {
+  if (QRect(place, size).intersects(keepVisible.front())) {
     place.setY(screen.top() + apart);
-    const int room = inView.front().top() - place.y() - frame.height();
-    dialog.resize(dialog.width(), std::min(dialog.height(), room));
+    const int availableHeight = keepVisible.front().top() - place.y() - frame.height();
+    dialog.resize(dialog.width(), std::min(dialog.height(), availableHeight));
   }
   dialog.move(place);
 }
@@ -187,8 +187,8 @@ void DialogKeeper::Remember(const CAdvanceDlg& dialog) {
   if (settings_ != nullptr) settings_->setValue(GeometryKey(dialog), dialog.saveGeometry());
 }
 
-// A dialog can be closed by the window manager while one of its handlers waits for the projector,
-// in an event loop below ours; that handler goes on afterwards.
+// The window manager can close a dialog while one of its handlers waits for the projector in a
+// nested event loop. That handler still returns into the dialog, so it cannot be deleted yet.
 void DialogKeeper::DeleteRetired() {
   if (QThread::currentThread()->loopLevel() > 1) {
     deleteRetired_.start();

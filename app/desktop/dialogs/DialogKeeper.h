@@ -16,27 +16,28 @@ class CAdvanceDlg;
 class QSettings;
 class QWidget;
 
-/// The open dialogs, at most one per projector. Remembers where the last one was and which tab it
-/// showed.
+/// The open settings dialogs, at most one per projector. Remembers where the last one was and which
+/// tab it showed.
 class DialogKeeper : public QObject {
   Q_OBJECT
 
  public:
-  /// Dialogs open beside what `inView` tells, places of the screen, the most important one first,
-  /// or cover as little of them as possible; for the first place a dialog even opens less high.
-  /// `settings` may be null: then nothing is remembered. Neither is owned.
-  DialogKeeper(const QWidget& window, std::function<std::vector<QRect>()> inView,
+  /// Dialogs open beside the areas of the screen that `keepVisible` returns, the most important one
+  /// first, or cover as little of them as possible. To keep the first area visible, a dialog also
+  /// opens less high than it would. `settings` may be null: then nothing is remembered. Neither is
+  /// owned.
+  DialogKeeper(const QWidget& window, std::function<std::vector<QRect>()> keepVisible,
                QSettings* settings);
   ~DialogKeeper() override;
 
-  /// Opens a projector's dialog or brings the open one to the front. Null when it could not be
-  /// opened, or was closed while it was read; owned by the keeper. With a tab that one is shown,
-  /// else the one that was shown last in any.
+  /// Opens a projector's dialog, or brings the open one to the front. Selects `tab`, from 0, or
+  /// else the tab shown last in any dialog. Returns null if the dialog could not be opened, or was
+  /// closed while it was being read. Owned by the keeper.
   CAdvanceDlg* Open(const ProjectorSession& session, std::optional<int> tab = {});
 
-  /// Runs work on projectors now, or as soon as no dialog waits for one: a handler that waits below
-  /// it could not go on before the work has ended, and no command can be given in between. Whether
-  /// it has run now. It does not when `context` is gone before.
+  /// Runs work on projectors now, or as soon as no dialog waits for a projector. This keeps a
+  /// waiting handler from being held up by the work, and the user from sending commands during it.
+  /// Returns whether the work has run already. It never runs after `context` is destroyed.
   bool RunWhenQuiet(QObject* context, std::function<void()> work);
 
   /// The projector's open dialog, or null.
@@ -45,7 +46,7 @@ class DialogKeeper : public QObject {
   /// Closes a projector's dialog, if it is open. The projector may be destroyed afterwards.
   void Close(const ProjectorSession& session);
   void CloseAll();
-  /// Takes all dialogs off the screen; those whose handlers still run live on until these have
+  /// Hides all dialogs. Those whose handlers still run are deleted after the handlers have
   /// returned.
   void RejectAll();
 
@@ -63,7 +64,7 @@ class DialogKeeper : public QObject {
   void DeleteRetired();
 
   const QWidget& window_;
-  const std::function<std::vector<QRect>()> inView_;
+  const std::function<std::vector<QRect>()> keepVisible_;
   QSettings* settings_;
   std::map<const ProjectorSession*, std::unique_ptr<CAdvanceDlg>> dialogs_;
   /// Closed dialogs whose handlers may still be running.

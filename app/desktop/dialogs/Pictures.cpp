@@ -24,14 +24,14 @@ struct Picture {
   QPixmap pixmap;
 };
 
-/// A dialog on a fresh simulation, shown.
+/// A shown dialog with a new simulation.
 class OpenedDialog {
  public:
   explicit OpenedDialog(const ProjectorProfile& profile) : session_(profile, nullptr) {
     dialog_ = session_.MakeDialog();
     if (!dialog_->Create()) dialog_.reset();
     if (!dialog_) return;
-    dialog_->resize(dialog_->sizeHint());  // whatever screen there is
+    dialog_->resize(dialog_->sizeHint());  // independent of the size of the screen
     dialog_->show();
   }
 
@@ -47,7 +47,7 @@ class OpenedDialog {
   std::unique_ptr<CAdvanceDlg> dialog_;
 };
 
-// Which controls the shown page has.
+// The controls of the shown page, for comparing.
 QString LookOf(const CAdvanceDlg& dialog) {
   const CTabPage* page = dialog.ShownPage();
   if (page == nullptr) return QStringLiteral("none;");

@@ -6,20 +6,21 @@
 
 #include "app/profiles/ProfileFile.h"
 
-// Results that are texts are one line on what went wrong, empty when nothing did.
+// A text as a result is a one-line error, empty on success.
 
-/// Makes the folder where it is missing.
+/// Creates the folder if it does not exist.
 QString MakePictureFolder(const QString& folder);
 
-/// Saves a picture (PNG) of a projector's dialog with this tab selected.
+/// Saves a picture (PNG) of a projector's dialog with this tab, from 0, selected.
 QString SaveScreenshot(const ProjectorProfile& profile, int tab, const QString& fileName);
 
 struct TourResult {
   int pictures = 0;
-  int projectors = 0;  ///< Those whose dialogs look different.
+  int projectors = 0;  ///< Projectors whose dialogs differ from all before.
   QString error;
 };
 
-/// Opens every projector and saves pictures of all tabs of each whose pages or rows differ from all
-/// before it, as <type>-<code>-<tab number>-<tab>.png, with an index.html that shows them.
+/// Saves pictures of all tabs of every projector whose pages or rows differ from those of all
+/// projectors before it. The files are called <type>-<code>-<tab number>-<tab>.png; an index.html
+/// shows them.
 TourResult SaveTour(const std::vector<ProjectorProfile>& profiles, const QString& folder);

@@ -31,7 +31,7 @@ namespace {
 constexpr int kRowsInView = 5;
 constexpr auto kGatherTime = std::chrono::milliseconds(40);
 
-// Widest usual text of each column.
+// The widest usual text of each column.
 constexpr std::array<const char*, CommandLogModel::ColumnCount> kWidthSamples{
     "00:00:00.000", "Projector 5-30 b", "Get User Gamma Point 8 0x30B1 ",
     "0xFFFF",       "not offered",      "2000.0"};
@@ -46,7 +46,7 @@ QToolButton* ButtonOf(QAction* action) {
 
 }  // namespace
 
-/// Rows that do not fill it stand at its foot: the newest one is always at the same place.
+/// A table that aligns its rows at the bottom, so that the newest one is always at the same place.
 class CommandLog::RowsAtFoot : public QTableView {
  protected:
   void updateGeometries() override {
@@ -64,7 +64,7 @@ class CommandLog::RowsAtFoot : public QTableView {
   int free_ = 0;
 };
 
-/// Shows a text that its column cuts off in a tool tip.
+/// Shows the full text of a cell that is cut off as a tool tip.
 class CommandLog::Cells : public IsolatedTexts {
  public:
   using IsolatedTexts::IsolatedTexts;
@@ -112,7 +112,7 @@ CommandLog::CommandLog(QWidget* parent)
 
   auto* head = new QHBoxLayout;
   caption_->setBuddy(view_);
-  caption_->setMinimumWidth(1);  // it gives way where the window has to be narrow
+  caption_->setMinimumWidth(1);  // it shrinks before the window is limited
   head->addWidget(caption_);
   head->addStretch();
   head->addLayout(buttons_);
@@ -131,7 +131,7 @@ CommandLog::CommandLog(QWidget* parent)
   connect(&gather_, &QTimer::timeout, this, &CommandLog::ShowPending);
 }
 
-// The caption is shown as a whole or not at all.
+// Hides the caption if it does not fit as a whole.
 void CommandLog::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
   caption_->setVisible(caption_->sizeHint().width() + buttons_->sizeHint().width() <= width());

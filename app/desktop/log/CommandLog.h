@@ -13,27 +13,27 @@ class QHBoxLayout;
 class QLabel;
 class QHeaderView;
 
-/// Shows the log, whose newest row stands at the foot and is followed unless the user has scrolled
-/// back. Its rows can be copied, saved and reduced to those that asked for a change.
+/// The command log as a table, with the newest row at the bottom. It scrolls along unless the user
+/// has scrolled back. Rows can be copied, saved, and limited to changes.
 class CommandLog : public QWidget {
   Q_OBJECT
 
  public:
   explicit CommandLog(QWidget* parent = nullptr);
 
-  /// Takes an entry; entries that come close upon each other are shown together.
+  /// Adds an entry. Entries that arrive in quick succession are shown together.
   void Add(CommandLogModel::Entry entry);
   void Clear();
 
-  /// Writes all that is shown, with a line of titles. Empty, or one line on what went wrong.
+  /// Writes all shown rows, below a line of titles. Returns a one-line error, or an empty text.
   QString Save(const QString& fileName) const;
 
   QHeaderView& Columns() const;
 
-  /// Where on the screen the last few rows stand; nowhere while it is hidden.
+  /// The area of the last few rows, in screen coordinates; empty while the log is hidden.
   QRect NewestRows() const;
 
-  /// For a menu; owned by the log.
+  /// Actions for menus; owned by the log.
   QAction* ChangesOnly() const { return changesOnly_; }
   QAction* SaveAs() const { return saveAs_; }
   QAction* ClearAll() const { return clear_; }

@@ -23,7 +23,7 @@ constexpr std::array<const char*, CommandLogModel::ColumnCount> kTitles{
 
 struct EntryTexts {
   QString command;
-  QString value;  ///< What was sent, or what came back.
+  QString value;  ///< The value sent, or the value of the reply.
 };
 
 // "Get 0x2201" is shown with its setting's name in the middle, "SetBrightness(140)" as the command
@@ -45,7 +45,7 @@ EntryTexts Describe(const CommandLogModel::Entry& entry) {
   return texts;
 }
 
-/// What became of a command, with its text and whether that is a failure.
+/// The outcome of a command as a text.
 struct Outcome {
   const char* text;
   bool failed;

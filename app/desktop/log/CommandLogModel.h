@@ -11,7 +11,8 @@
 
 #include "device/ProjectorChannel.h"
 
-/// The commands given and what came back, oldest first; the oldest are dropped beyond a limit.
+/// The commands sent and their replies, oldest first. Holds at most `kMaximumEntries`, and drops
+/// the oldest ones.
 class CommandLogModel : public QAbstractTableModel {
   Q_OBJECT
 
@@ -22,7 +23,7 @@ class CommandLogModel : public QAbstractTableModel {
   struct Entry {
     QTime time;
     QString projector;
-    QString setting;  ///< What the setting of a generic command is called; may be empty.
+    QString setting;  ///< Name of a generic command's setting; may be empty.
     PjtCommand command;
     PjtReply reply;
     std::chrono::microseconds elapsed;
@@ -33,7 +34,7 @@ class CommandLogModel : public QAbstractTableModel {
   void Append(std::vector<Entry> entries);
   void Clear();
 
-  /// Whether the entry of a row asked for a change, rather than read.
+  /// Whether the row's command asked for a change instead of reading.
   bool IsChange(int row) const;
 
   int rowCount(const QModelIndex& parent = {}) const override;
@@ -46,7 +47,7 @@ class CommandLogModel : public QAbstractTableModel {
   std::deque<Entry> entries_;
 };
 
-/// The log, or only what asked for a change.
+/// Filters the log to changes, if wanted.
 class CommandLogFilter : public QSortFilterProxyModel {
   Q_OBJECT
 
@@ -62,5 +63,5 @@ class CommandLogFilter : public QSortFilterProxyModel {
   bool changesOnly_ = false;
 };
 
-/// Rows of a log as text: a line each, the columns separated by tabs.
+/// Rows of a log as text: one line per row, with columns separated by tabs.
 QString LogText(const QAbstractItemModel& log, const std::vector<int>& rows);

@@ -12,7 +12,7 @@ namespace {
 
 using Names = std::map<std::uint16_t, QString>;
 
-// Of rows with the same code the first one names it.
+// If several rows have the same code, the name is that of the first.
 class RowNames {
  public:
   explicit RowNames(Names& names) : names_(names) {}

@@ -5,6 +5,6 @@
 
 #include <QString>
 
-/// What a model's dialog calls the settings behind the generic commands, in the catalog's language,
-/// by command code. A setting that has no row is called as the simulation calls it.
+/// Names of the settings behind the generic commands, by command code, in the catalog's language:
+/// the captions of the model's dialog, or the simulation's names for settings without a row.
 std::map<std::uint16_t, QString> SettingNames(int dialogType, int modelCode);

@@ -23,20 +23,21 @@ ProfileActions::ProfileActions(ProfileDocument& document, std::function<int()> c
       document_(document),
       current_(std::move(current)),
       window_(window),
-      open_(Make(tr("&Open Profiles…"), QKeySequence::Open, &ProfileActions::OpenFile)),
-      reload_(Make(tr("&Reload"), QKeySequence::Refresh, &ProfileActions::ReloadFile)),
-      saveAs_(Make(tr("&Save Profiles As…"), Qt::CTRL | Qt::SHIFT | Qt::Key_S,
-                   &ProfileActions::SaveFileAs)),
-      add_(Make(tr("&Add…"), QKeySequence::New, &ProfileActions::AddProjector)),
-      edit_(Make(tr("&Edit…"), Qt::Key_F2, &ProfileActions::EditProjector)),
-      duplicate_(Make(tr("&Duplicate"), Qt::CTRL | Qt::Key_D, &ProfileActions::DuplicateProjector)),
-      remove_(Make(tr("&Remove"), QKeySequence::Delete, &ProfileActions::RemoveProjector)) {
-  remove_->setShortcutContext(Qt::WidgetWithChildrenShortcut);  // in the list alone
+      open_(MakeAction(tr("&Open Profiles…"), QKeySequence::Open, &ProfileActions::OpenFile)),
+      reload_(MakeAction(tr("&Reload"), QKeySequence::Refresh, &ProfileActions::ReloadFile)),
+      saveAs_(MakeAction(tr("&Save Profiles As…"), Qt::CTRL | Qt::SHIFT | Qt::Key_S,
+                         &ProfileActions::SaveFileAs)),
+      add_(MakeAction(tr("&Add…"), QKeySequence::New, &ProfileActions::AddProjector)),
+      edit_(MakeAction(tr("&Edit…"), Qt::Key_F2, &ProfileActions::EditProjector)),
+      duplicate_(
+          MakeAction(tr("&Duplicate"), Qt::CTRL | Qt::Key_D, &ProfileActions::DuplicateProjector)),
+      remove_(MakeAction(tr("&Remove"), QKeySequence::Delete, &ProfileActions::RemoveProjector)) {
+  remove_->setShortcutContext(Qt::WidgetWithChildrenShortcut);  // only while the list has the focus
   Update();
 }
 
-QAction* ProfileActions::Make(const QString& text, const QKeySequence& keys,
-                              void (ProfileActions::*act)()) {
+QAction* ProfileActions::MakeAction(const QString& text, const QKeySequence& keys,
+                                    void (ProfileActions::*act)()) {
   auto* action = new QAction(text, this);
   action->setShortcut(keys);
   connect(action, &QAction::triggered, this, [this, action, act] {
@@ -53,7 +54,7 @@ void ProfileActions::Update() {
   }
 }
 
-void ProfileActions::Conclude(const QString& title, const QString& error, int selected) {
+void ProfileActions::ReportResult(const QString& title, const QString& error, int selected) {
   if (error.isEmpty()) {
     Q_EMIT Changed(selected);
   } else {
@@ -68,11 +69,11 @@ void ProfileActions::OpenFile() {
        .title = tr("Open Profiles"),
        .suggestion = document_.FileName(),
        .filter = tr("Profiles (*.json);;All files (*)")},
-      [this](const QString& path) { Conclude(tr("Open Profiles"), document_.Load(path), -1); });
+      [this](const QString& path) { ReportResult(tr("Open Profiles"), document_.Load(path), -1); });
 }
 
 void ProfileActions::ReloadFile() {
-  Conclude(tr("Reload"), document_.Load(document_.FileName()), -1);
+  ReportResult(tr("Reload"), document_.Load(document_.FileName()), -1);
 }
 
 void ProfileActions::SaveFileAs() {
@@ -82,11 +83,11 @@ void ProfileActions::SaveFileAs() {
               .suggestion = document_.FileName(),
               .filter = tr("Profiles (*.json);;All files (*)")},
              [this](const QString& path) {
-               Conclude(tr("Save Profiles As"), document_.SaveAs(path), current_());
+               ReportResult(tr("Save Profiles As"), document_.SaveAs(path), current_());
              });
 }
 
-// A new projector stands behind the selected one.
+// A new projector is inserted after the selected one.
 void ProfileActions::AddProjector() {
   const int after =
       current_() < 0 ? static_cast<int>(document_.Projectors().size()) - 1 : current_();
@@ -121,7 +122,7 @@ void ProfileActions::DuplicateProjector() {
         std::ranges::find(all, candidate.toStdString(), &ProjectorProfile::Name) != all.end();
     if (!taken) copy = candidate;
   }
-  Conclude(tr("Duplicate"), document_.Duplicate(Position(row), copy), row + 1);
+  ReportResult(tr("Duplicate"), document_.Duplicate(Position(row), copy), row + 1);
 }
 
 void ProfileActions::RemoveProjector() {
@@ -131,13 +132,13 @@ void ProfileActions::RemoveProjector() {
                                    tr("Remove \"%1\" from %2?").arg(name, document_.FileName()),
                                    QMessageBox::NoButton, &window_);
   question->setAttribute(Qt::WA_DeleteOnClose);
-  question->setTextFormat(Qt::PlainText);  // the name may hold markup
+  question->setTextFormat(Qt::PlainText);  // the name must not be taken as markup
   const QPushButton* remove = question->addButton(tr("Remove"), QMessageBox::DestructiveRole);
   question->setDefaultButton(question->addButton(QMessageBox::Cancel));
   connect(question, &QDialog::finished, this, [this, question, remove, row] {
     if (question->clickedButton() != remove) return;
     const int left = static_cast<int>(document_.Projectors().size()) - 1;
-    Conclude(tr("Remove Projector"), document_.Remove(Position(row)), std::min(row, left - 1));
+    ReportResult(tr("Remove Projector"), document_.Remove(Position(row)), std::min(row, left - 1));
   });
   question->open();
 }

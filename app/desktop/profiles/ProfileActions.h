@@ -9,14 +9,14 @@ class ProfileEditor;
 class QAction;
 class QWidget;
 
-/// What a user does with the profile file and the projectors in it, as actions for menus. Asks for
-/// names and numbers, tells errors.
+/// Menu actions for the profile file and the projectors in it. Asks for names and numbers, and
+/// reports errors.
 class ProfileActions : public QObject {
   Q_OBJECT
 
  public:
-  /// `current` tells the selected projector's position, −1 for none. The document must outlive
-  /// this, which belongs to the window; the actions belong to it.
+  /// `current` returns the position of the selected projector, −1 for none. The document must
+  /// outlive this object. The window owns this object, which owns the actions.
   ProfileActions(ProfileDocument& document, std::function<int()> current, QWidget& window);
 
   QAction* Open() const { return open_; }
@@ -27,16 +27,16 @@ class ProfileActions : public QObject {
   QAction* Duplicate() const { return duplicate_; }
   QAction* Remove() const { return remove_; }
 
-  /// Enables what can be done with the document and the selected projector.
+  /// Enables the actions that are possible for the document and the selected projector.
   void Update();
 
  Q_SIGNALS:
-  /// The document has other projectors; `selected` is the position of the one to select, −1 for
-  /// none in particular.
+  /// The list of projectors has changed. `selected` is the position of the projector to select, −1
+  /// for no particular one.
   void Changed(int selected);
 
  private:
-  QAction* Make(const QString& text, const QKeySequence& keys, void (ProfileActions::*act)());
+  QAction* MakeAction(const QString& text, const QKeySequence& keys, void (ProfileActions::*act)());
   void OpenFile();
   void ReloadFile();
   void SaveFileAs();
@@ -44,10 +44,10 @@ class ProfileActions : public QObject {
   void EditProjector();
   void DuplicateProjector();
   void RemoveProjector();
-  /// Opens an editor, which then belongs to the window; `selected` is the projector it is for.
+  /// Opens an editor, which the window then owns, for the projector at `selected`.
   void OpenEditor(ProfileEditor* editor, int selected);
-  /// Tells the error, if there is one, or the change.
-  void Conclude(const QString& title, const QString& error, int selected);
+  /// Shows the error, if there is one; otherwise emits `Changed`.
+  void ReportResult(const QString& title, const QString& error, int selected);
 
   ProfileDocument& document_;
   const std::function<int()> current_;

@@ -9,24 +9,24 @@
 #include "fleet/JsonEdit.h"
 #include "app/profiles/ProfileFile.h"
 
-/// The profile file that the program works on, and changes to it. A change is written at once and
-/// whole: what a person wrote in the file stays as it is, a file that somebody else changed
-/// meanwhile is left alone, and after an error it is as it was.
+/// The profile file that the program uses, and changes to it. Each change is written at once as a
+/// whole file that keeps the user's formatting. If another program has changed the file meanwhile,
+/// it is left alone; after an error it is as before.
 ///
-/// Results that are texts are one line on what went wrong, empty when nothing did.
+/// A text as a result is a one-line error, empty on success.
 class ProfileDocument {
   Q_DECLARE_TR_FUNCTIONS(ProfileDocument)
 
  public:
   ProfileDocument() = default;
-  /// Of projectors that are in no file; they cannot be changed.
+  /// For projectors that are in no file; they cannot be changed.
   explicit ProfileDocument(std::vector<ProjectorProfile> projectors)
       : projectors_(std::move(projectors)) {}
 
-  /// Reads a file in place of any before; after an error nothing has changed.
+  /// Reads a file and replaces the present one. After an error nothing has changed.
   QString Load(const QString& fileName);
 
-  /// Writes what was read to another file, which is the one worked on from then on.
+  /// Writes the document to another file, which replaces the present one.
   QString SaveAs(const QString& fileName);
 
   bool HasFile() const { return !fileName_.isEmpty(); }
@@ -36,20 +36,20 @@ class ProfileDocument {
   const std::vector<ProjectorProfile>& Projectors() const { return projectors_; }
 
   QStringList Families() const { return file_["families"].toObject().keys(); }
-  /// All that a family says, with what it is like; empty for a name that is no family's.
+  /// A family's settings, including those it inherits; empty for an unknown name.
   QJsonObject Family(const QString& name) const;
-  /// What the file says of a projector itself.
+  /// A projector's own entry in the file, without its family's settings.
   QJsonObject Entry(std::size_t projector) const;
 
-  // Each needs a file.
+  // These functions need a file.
 
-  /// Gives a projector's entry these members; undefined values take theirs out.
+  /// Sets members of a projector's entry; a member with an undefined value is removed.
   QString Change(std::size_t projector, const JsonEdit::Members& members);
-  /// Puts a projector behind another.
+  /// Inserts a projector after the one at `after`.
   QString Insert(std::size_t after, const JsonEdit::Members& members);
-  /// Puts a copy with another name behind a projector.
+  /// Inserts a copy with another name after a projector.
   QString Duplicate(std::size_t projector, const QString& name);
-  /// The only projector of a file cannot be removed.
+  /// Removes a projector, unless it is the only one of the file.
   QString Remove(std::size_t projector);
 
  private:
@@ -57,7 +57,7 @@ class ProfileDocument {
   QString ChangedMeanwhile() const;
 
   QString fileName_;
-  QByteArray text_;  // as it was read or written last
+  QByteArray text_;  // as last read or written
   QJsonObject file_;
   std::vector<ProjectorProfile> projectors_;
 };

@@ -23,8 +23,8 @@
 
 namespace {
 
-constexpr int kFrameHeight = 40;  // before it is known
-constexpr int kFieldWidth = 26;   // average letters
+constexpr int kFrameHeight = 40;  // a guess until it is shown
+constexpr int kFieldWidth = 26;   // in average characters
 const QString kNetwork = QStringLiteral("network");
 const QString kPjLink = QStringLiteral("pjlink");
 const QString kSerial = QStringLiteral("serial");
@@ -33,7 +33,7 @@ QString TextOf(const QJsonValue& value) {
   return value.isDouble() ? QString::number(value.toInt()) : value.toString();
 }
 
-/// What an entry says at a path such as "connection.network.port".
+/// The value at a path such as "connection.network.port".
 QJsonValue ValueAt(const QJsonObject& entry, const QString& path) {
   QJsonValue value = entry;
   for (const QString& key : path.split(QLatin1Char('.'))) value = value.toObject().value(key);
@@ -134,7 +134,7 @@ CComboBox* ProfileEditor::AddList(const QString& caption, const char* path) {
   return list;
 }
 
-// A connection of a kind that this dialog does not know is offered as it is.
+// A connection of an unknown kind is added to the list unchanged.
 void ProfileEditor::FillLists() {
   family_->addItem(tr("None"), QString());
   for (const QString& name : document_.Families()) family_->addItem(name, name);
@@ -166,7 +166,8 @@ void ProfileEditor::ShowFamily() {
   dialogType_->setPlaceholderText(TextOf(family["dialogType"]));
   modelCode_->setPlaceholderText(TextOf(family["modelCode"]));
   if (!entry_.isEmpty()) return;
-  // A new projector is reached as its family is, or else over the network, until that is chosen.
+  // Until the user chooses the connection of a new projector, it is that of its family, or else the
+  // network.
   for (CComboBox* list : {link_, connection_}) {
     if (chosen_.contains(list)) continue;
     list->setCurrentIndex(
@@ -183,20 +184,20 @@ void ProfileEditor::ShowConnectionFields() {
   for (QLineEdit* field : {serialPort_, device_, baud_}) {
     form_->setRowVisible(field, kind == kSerial);
   }
-  GiveRoom();
+  FitHeight();
 }
 
-// As high as the rows, or as the screen allows: then they scroll.
-void ProfileEditor::GiveRoom() {
+// As high as the rows. If the screen is too small for them, they scroll.
+void ProfileEditor::FitHeight() {
   const QSize wanted = form_->sizeHint();
   rows_->setMinimumSize(wanted.width() + rows_->verticalScrollBar()->sizeHint().width(), 1);
   error_->setMinimumHeight(std::max(0, error_->heightForWidth(rows_->minimumWidth())));
   const int others = layout()->minimumSize().height();
-  const int room = screen()->availableGeometry().height() - kFrameHeight - others;
-  rows_->setMinimumHeight(std::min(wanted.height(), room));
+  const int availableHeight = screen()->availableGeometry().height() - kFrameHeight - others;
+  rows_->setMinimumHeight(std::min(wanted.height(), availableHeight));
 }
 
-// The way that was chosen needs a connection of its kind.
+// Selects a connection of the kind that the chosen link needs.
 void ProfileEditor::ChooseFittingConnection() {
   const QString own = link_->currentData().toString();
   const QString link = own.isEmpty() ? Family()["link"].toString() : own;
@@ -210,7 +211,7 @@ void ProfileEditor::ChooseFittingConnection() {
 
 QString ProfileEditor::ConnectionKind() const { return connection_->currentData().toString(); }
 
-// Unchanged, a field is what the file says to the letter. An empty one says nothing.
+// An unchanged field gives exactly the value in the file, an empty one no value.
 QJsonValue ProfileEditor::ValueOf(const QLineEdit* field) const {
   QJsonValue written = ValueAt(entry_, field->objectName());
   if (field->text() == TextOf(written)) return written;
@@ -281,7 +282,7 @@ void ProfileEditor::accept() {
   }
   const QString error = apply_(Changes());
   if (error.isEmpty()) return QDialog::accept();
-  // What is wrong in the file is told by the row that it comes from.
+  // Errors in the file name a member; the dialog shows the row's caption instead.
   static const QRegularExpression place(QStringLiteral(R"(^.*?projectors\[\d+\]\.([\w.]+): )"));
   const QRegularExpressionMatch found = place.match(error);
   QWidget* row = found.hasMatch() ? rows_->findChild<QWidget*>(found.captured(1)) : nullptr;
@@ -292,11 +293,11 @@ void ProfileEditor::accept() {
 void ProfileEditor::ShowError(const QString& error, QWidget* row) {
   error_->setText(error);
   error_->show();
-  GiveRoom();
+  FitHeight();
   if (row != nullptr) {
     row->setFocus();
     rows_->ensureWidgetVisible(row);
   }
-  QAccessibleEvent told(error_, QAccessible::Alert);
-  QAccessible::updateAccessibility(&told);
+  QAccessibleEvent event(error_, QAccessible::Alert);
+  QAccessible::updateAccessibility(&event);
 }

@@ -16,41 +16,41 @@ class QLabel;
 class QLineEdit;
 class QScrollArea;
 
-/// Asks for what a profile file says of a projector. What is left empty comes from the projector's
-/// family; what the dialog does not ask for stays as the file has it.
+/// Edits a projector's entry in the profile file. Empty fields take their value from the
+/// projector's family. Members that have no field keep their values.
 class ProfileEditor : public QDialog {
   Q_OBJECT
 
  public:
-  /// Takes what was entered and returns what is wrong with it, empty when nothing is. The dialog
-  /// stays open until it is taken.
+  /// Applies the changes and returns an error, empty on success. The dialog stays open until they
+  /// are applied.
   using Apply = std::function<QString(const JsonEdit::Members&)>;
 
-  /// `entry` is what the file says of the projector, empty for a new one. The document must outlive
-  /// the dialog.
+  /// `entry` is the projector's present entry, empty for a new one. The document must outlive the
+  /// dialog.
   ProfileEditor(const ProfileDocument& document, const QJsonObject& entry, Apply apply,
                 QWidget* parent = nullptr);
 
-  /// What was changed, in the order of a new entry.
+  /// The changed members, in the order of a new entry.
   JsonEdit::Members Changes() const;
 
   void accept() override;
 
  private:
-  // A row's path is where the entry says it.
+  // `path` is the member's place in the entry, such as "connection.network.port".
   QLineEdit* AddField(const QString& caption, const char* path);
   CComboBox* AddList(const QString& caption, const char* path);
   void FillLists();
   QJsonObject Family() const;
   void ShowFamily();
   void ShowConnectionFields();
-  void GiveRoom();
+  void FitHeight();
   void ChooseFittingConnection();
   QString ConnectionKind() const;
   QJsonValue ValueOf(const QLineEdit* field) const;
   QJsonValue Connection() const;
   QString CaptionOf(QWidget* field) const;
-  /// The empty fields that need an entry, since no family gives it.
+  /// Empty fields that must be filled in, because no family has a value.
   std::vector<QLineEdit*> Missing() const;
   void ShowError(const QString& error, QWidget* row);
 
@@ -73,5 +73,5 @@ class ProfileEditor : public QDialog {
   QLineEdit* baud_;
   QScrollArea* rows_;
   QLabel* error_;
-  std::set<const CComboBox*> chosen_;  // by the user
+  std::set<const CComboBox*> chosen_;  // lists that the user has operated
 };

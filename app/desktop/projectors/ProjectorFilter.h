@@ -4,16 +4,16 @@
 #include <QSortFilterProxyModel>
 #include <QStringList>
 
-/// The projectors that a search finds, in the order of the column that is sorted by, or of their
-/// file. Numbers in texts are ordered as numbers.
+/// The projectors that match the search, sorted by a column or in the order of the file. Numbers
+/// within texts sort as numbers.
 class ProjectorFilter : public QSortFilterProxyModel {
   Q_OBJECT
 
  public:
   explicit ProjectorFilter(QObject* parent = nullptr);
 
-  /// Keeps the projectors of which each word stands in a column or in the name of a tab, whatever
-  /// its case; all of them without a word.
+  /// Shows the projectors for which each word occurs in a column or in the name of a tab, ignoring
+  /// case. Without a word all projectors are shown.
   void Search(const QString& words);
 
  protected:

@@ -5,19 +5,19 @@
 #include "app/profiles/ProjectorAccess.h"
 #include "host/CAdvanceDlg.h"
 
-// The log stands outermost: it shows what the dialog got, also where a command was given up before
-// its answer came or was not passed on at all.
+// The log is the outermost channel. It shows what the dialog got, even for a command that was given
+// up before its answer came, or was never sent.
 ProjectorSession::ProjectorSession(ProjectorProfile profile, LoggingChannel::Observer observer)
     : profile_(std::move(profile)),
       simulator_(std::make_shared<SimulatedProjector>(SimulatedModelOf(profile_))),
-      faultChannel_(std::make_shared<FaultChannel>(MakeWay())),
+      faultChannel_(std::make_shared<FaultChannel>(MakeInnerChannel())),
       lastAnswer_(std::make_shared<std::optional<Clock::time_point>>()),
       channel_(std::make_shared<LoggingChannel>(
           std::make_shared<BoundedChannel>(faultChannel_, Bounds()),
-          [lastAnswer = lastAnswer_, tell = std::move(observer)](
+          [lastAnswer = lastAnswer_, observe = std::move(observer)](
               const PjtCommand& command, const PjtReply& reply, std::chrono::microseconds elapsed) {
             if (reply.answered) *lastAnswer = Clock::now();
-            if (tell) tell(command, reply, elapsed);
+            if (observe) observe(command, reply, elapsed);
           })) {}
 
 std::optional<std::chrono::seconds> ProjectorSession::SinceAnswer() const {
@@ -25,7 +25,7 @@ std::optional<std::chrono::seconds> ProjectorSession::SinceAnswer() const {
   return std::chrono::floor<std::chrono::seconds>(Clock::now() - **lastAnswer_);
 }
 
-std::shared_ptr<ProjectorChannel> ProjectorSession::MakeWay() {
+std::shared_ptr<ProjectorChannel> ProjectorSession::MakeInnerChannel() {
   if (profile_.Link == ProjectorLink::Simulated) return simulator_;
   return MakeUnboundedChannel(AddressOf(profile_));
 }
@@ -67,7 +67,7 @@ std::unique_ptr<CAdvanceDlg> ProjectorSession::MakeDialog() const {
   auto dialog = std::make_unique<CAdvanceDlg>();
   dialog->CopyData(&profile_.Model, 0);
   dialog->Projector().SetChannel(channel_);
-  // Who opens a dialog again wants to know now whether the projector is back.
-  dialog->Projector().TryAfresh();
+  // Opening a dialog always asks the projector, even if it was silent just before.
+  dialog->Projector().AllowRetry();
   return dialog;
 }

@@ -16,45 +16,45 @@
 
 class CAdvanceDlg;
 
-/// What a fault is set for: every command, one operation, or the generic operations of one code.
+/// The commands that a fault affects: all, one operation, or the generic operations of one code.
 using FaultTarget = std::variant<std::monostate, PjtOperation, std::uint16_t>;
 
-/// One projector of the list with its simulation or its connection, which lives as long as the
-/// program, whether a dialog is open or not.
+/// One projector of the list with its simulation or connection, which it keeps while no dialog is
+/// open.
 class ProjectorSession {
  public:
-  /// `observer` is told of every command that a dialog gave, with what the dialog got back; it is
-  /// called on the user-interface thread, from inside the dialog's handlers.
+  /// `observer` gets every command of a dialog and the reply that the dialog got. It is called on
+  /// the user-interface thread, from inside the dialog's handlers.
   ProjectorSession(ProjectorProfile profile, LoggingChannel::Observer observer);
 
   const ProjectorProfile& Profile() const { return profile_; }
-  /// The model as the profile tells it, with the inputs that the projector told where that names
-  /// none.
+  /// The model of the profile. If the profile names no inputs, it has those that the projector
+  /// reported.
   CModelInfo2 Model() const;
-  /// The way to the projector that dialogs take, too.
+  /// The channel to the projector, which dialogs use as well.
   const std::shared_ptr<ProjectorChannel>& Channel() const { return channel_; }
-  /// The times of that way.
+  /// The time limits of that channel.
   BoundedChannel::Limits Bounds() const;
-  /// Of a projector that is not simulated, a simulation that nobody uses.
+  /// An unused simulation if the projector is a real one.
   SimulatedProjector& Simulator() { return *simulator_; }
 
-  /// How the connection stands; of a simulated projector `ConnectionState::None`.
+  /// The state of the connection; `ConnectionState::None` for a simulated projector.
   ConnectionState Connection() const { return channel_->Connection(); }
-  /// How long ago the projector answered a command last; nothing when it never has.
+  /// The time since the projector last answered a command; nothing if it never has.
   std::optional<std::chrono::seconds> SinceAnswer() const;
 
-  /// `Fault::Kind::None` takes the fault back.
+  /// `Fault::Kind::None` removes the fault.
   void SetFault(const FaultTarget& target, const Fault& fault);
   void ClearFaults();
   const std::map<FaultTarget, Fault>& Faults() const { return faults_; }
 
-  /// A dialog on this projector, with model and channel, not created yet.
+  /// A dialog for this projector, with its model and channel; its window is not created yet.
   std::unique_ptr<CAdvanceDlg> MakeDialog() const;
 
  private:
   using Clock = std::chrono::steady_clock;
 
-  std::shared_ptr<ProjectorChannel> MakeWay();
+  std::shared_ptr<ProjectorChannel> MakeInnerChannel();
 
   ProjectorProfile profile_;
   std::shared_ptr<SimulatedProjector> simulator_;

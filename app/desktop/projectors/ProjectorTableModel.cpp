@@ -52,8 +52,8 @@ const char* ConnectionName(ConnectionState state) {
   return "";
 }
 
-QString ConnectionTold(const ProjectorSession& session) {
-  return ConnectionTold(session.Connection(), session.SinceAnswer());
+QString ConnectionStatusText(const ProjectorSession& session) {
+  return ConnectionStatusText(session.Connection(), session.SinceAnswer());
 }
 
 bool HasRows(PageId page, int modelCode) {
@@ -67,14 +67,15 @@ bool HasRows(PageId page, int modelCode) {
 
 }  // namespace
 
-QString ConnectionTold(ConnectionState state, std::optional<std::chrono::seconds> sinceAnswer) {
+QString ConnectionStatusText(ConnectionState state,
+                             std::optional<std::chrono::seconds> sinceAnswer) {
   using std::chrono::floor;
   QString text = ProjectorTableModel::tr(ConnectionName(state));
   const bool isWell = state == ConnectionState::Connected || state == ConnectionState::Unused;
   if (!isWell || !sinceAnswer || *sinceAnswer < kLongAgo) return text;
-  const auto answered = [&]<class Unit>(const QString& told, Unit step) {
+  const auto answered = [&]<class Unit>(const QString& unitText, Unit step) {
     const auto count = floor<Unit>(*sinceAnswer).count() / step.count() * step.count();
-    return text + QStringLiteral(" · ") + told.arg(count);
+    return text + QStringLiteral(" · ") + unitText.arg(count);
   };
   if (*sinceAnswer < std::chrono::minutes(1)) {
     return answered(ProjectorTableModel::tr("answered %1 s ago"), kLongAgo);
@@ -105,12 +106,12 @@ ProjectorTableModel::ProjectorTableModel(QObject* parent) : QAbstractTableModel(
   connect(&update_, &QTimer::timeout, this, &ProjectorTableModel::UpdateConnections);
 }
 
-// A simulated projector has no connection whose state could change.
+// Only real projectors have a connection whose state can change.
 void ProjectorTableModel::SetSessions(Sessions sessions) {
   beginResetModel();
   sessions_ = std::move(sessions);
   connections_.clear();
-  for (const auto& session : sessions_) connections_ += ConnectionTold(*session);
+  for (const auto& session : sessions_) connections_ += ConnectionStatusText(*session);
   if (std::ranges::all_of(sessions_, [](const auto& session) {
         return session->Connection() == ConnectionState::None;
       })) {
@@ -134,7 +135,7 @@ void ProjectorTableModel::SetState(const ProjectorSession* session, const QStrin
 
 void ProjectorTableModel::UpdateConnections() {
   for (std::size_t row = 0; row < sessions_.size(); ++row) {
-    const QString now = ConnectionTold(*sessions_[row]);
+    const QString now = ConnectionStatusText(*sessions_[row]);
     if (std::exchange(connections_[static_cast<qsizetype>(row)], now) != now) StateChanged(row);
   }
 }
@@ -157,7 +158,7 @@ QVariant ProjectorTableModel::data(const QModelIndex& index, int role) const {
   const ProjectorSession* session = sessions_[static_cast<std::size_t>(index.row())].get();
   const ProjectorProfile& profile = session->Profile();
   if (role == kTabsRole) return TabNames(profile.Model).join(QLatin1Char('\n'));
-  // The state has no room in a narrow window.
+  // A narrow window cuts the state off.
   if (role == Qt::ToolTipRole && index.column() == State) role = Qt::DisplayRole;
   if (role == Qt::ToolTipRole) return TabNames(profile.Model).join(QStringLiteral(" · "));
   const bool isNumber = index.column() == DialogType || index.column() == ModelCode;

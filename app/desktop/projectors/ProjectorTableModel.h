@@ -10,15 +10,16 @@
 
 #include "app/desktop/projectors/ProjectorSession.h"
 
-/// The captions of a model's tabs, in their order, in the catalog's language.
+/// The captions of a model's tabs, in tab order, in the catalog's language.
 QStringList TabNames(const CModelInfo2& model);
 
-/// Whether every tab that the model's dialog shows has a setting on it.
+/// Whether every tab of the model's dialog has a setting.
 bool HasRowsOnEveryTab(const CModelInfo2& model);
 
-/// How a connection stands, and, where none is wrong, when the projector answered last if that is
-/// long ago: in steps of ten seconds, then of minutes, then of hours.
-QString ConnectionTold(ConnectionState state, std::optional<std::chrono::seconds> sinceAnswer);
+/// The state of a connection. If nothing is wrong and the last answer is long ago, also its age, in
+/// steps of ten seconds, then minutes, then hours.
+QString ConnectionStatusText(ConnectionState state,
+                             std::optional<std::chrono::seconds> sinceAnswer);
 
 /// The projectors in the order of their file.
 class ProjectorTableModel : public QAbstractTableModel {
@@ -28,7 +29,7 @@ class ProjectorTableModel : public QAbstractTableModel {
   using Sessions = ProjectorSessions;
 
   enum Column { Name, State, Model, DialogType, ModelCode, Connection, ColumnCount };
-  /// Names of the projector's tabs, a line each.
+  /// Names of the projector's tabs, one per line.
   static constexpr int kTabsRole = Qt::UserRole;
 
   explicit ProjectorTableModel(QObject* parent = nullptr);
@@ -36,8 +37,8 @@ class ProjectorTableModel : public QAbstractTableModel {
   void SetSessions(Sessions sessions);
   const Sessions& All() const { return sessions_; }
 
-  /// What is going on with a projector, in a word or two; empty when nothing is. Stands before how
-  /// its connection stands, which the model keeps up by itself.
+  /// Sets a short text on what a projector is doing, empty for nothing. It is shown before the
+  /// state of the connection, which the model updates by itself.
   void SetState(const ProjectorSession* session, const QString& state);
 
   int rowCount(const QModelIndex& parent = {}) const override;
@@ -51,7 +52,7 @@ class ProjectorTableModel : public QAbstractTableModel {
   void StateChanged(std::size_t row);
 
   Sessions sessions_;
-  QStringList connections_;  // as shown, of each session
+  QStringList connections_;  // the shown text of each session
   QTimer update_;
   std::map<const ProjectorSession*, QString> states_;
 };

@@ -57,7 +57,7 @@ ProjectorView::ProjectorView(QWidget* parent)
 
   connect(search_, &QLineEdit::textChanged, this, [this](const QString& words) {
     filter_->Search(words);
-    // The next row became the current one without being selected.
+    // When a row is removed, the next one becomes the current row without being selected.
     const QModelIndex current = table_->currentIndex();
     if (!table_->selectionModel()->hasSelection()) {
       SelectOnly(current.isValid() ? current : filter_->index(0, 0));
@@ -65,7 +65,7 @@ ProjectorView::ProjectorView(QWidget* parent)
     open_->setEnabled(CurrentRow() >= 0);
   });
   connect(search_, &QLineEdit::returnPressed, this, &ProjectorView::Activated);
-  // Activation is a double-click or Enter.
+  // Emitted for a double-click and Enter.
   connect(table_, &QTableView::activated, this, &ProjectorView::Activated);
   connect(open_, &QPushButton::clicked, this, &ProjectorView::Activated);
   connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this] {
@@ -76,7 +76,7 @@ ProjectorView::ProjectorView(QWidget* parent)
           &ProjectorView::CurrentChanged);
 }
 
-// A third click on a title goes back to the order of the file.
+// A third click on a title restores the order of the file.
 void ProjectorView::MakeColumns() {
   QHeaderView& columns = Columns();
   columns.setHighlightSections(false);
@@ -103,11 +103,12 @@ void ProjectorView::SetSessions(ProjectorTableModel::Sessions sessions) {
     for (int column = 0; column + 1 < ProjectorTableModel::ColumnCount; ++column) {
       table_->setColumnWidth(column, table_->columnWidth(column) + kColumnGap);
     }
-    // It grows while a dialog is open, and when a real projector has not been asked for long.
+    // The column's text becomes longer while a dialog is open, or if a real projector has not
+    // answered for long.
     const bool isSimulated = std::ranges::all_of(model_->All(), [](const auto& session) {
       return session->Connection() == ConnectionState::None;
     });
-    const QString state = ConnectionTold(
+    const QString state = ConnectionStatusText(
         isSimulated ? ConnectionState::None : ConnectionState::Connected, std::chrono::seconds(50));
     table_->setColumnWidth(
         ProjectorTableModel::State,
@@ -145,7 +146,7 @@ void ProjectorView::Select(int row) {
   SelectOnly(filter_->mapFromSource(source));
 }
 
-// Whatever keys are held: with Ctrl a table would toggle the row.
+// Ignores modifier keys; with Ctrl the table would toggle the row.
 void ProjectorView::SelectOnly(const QModelIndex& index) {
   table_->selectionModel()->setCurrentIndex(
       index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
@@ -159,7 +160,7 @@ void ProjectorView::FocusSearch() {
 
 void ProjectorView::FocusTable() { table_->setFocus(); }
 
-// From the search box into the list, and out of a search.
+// Keys that lead from the search box into the list, and that clear the search.
 bool ProjectorView::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::KeyPress) {
     const int key = static_cast<QKeyEvent*>(event)->key();

@@ -17,32 +17,32 @@ class ProjectorView : public QWidget {
  public:
   explicit ProjectorView(QWidget* parent = nullptr);
 
-  /// Shows these projectors. The one selected stays so, as long as one of its name is there.
+  /// Shows these projectors. The selection stays if a projector with the same name is among them.
   void SetSessions(ProjectorTableModel::Sessions sessions);
 
   ProjectorTableModel& Model() const { return *model_; }
 
-  /// The selected projector and its position in the model; null and −1 where none is.
+  /// The selected projector and its position in the model; null and −1 if none is selected.
   ProjectorSession* Current() const;
   int CurrentRow() const;
 
-  /// All that are selected, in the order of the list.
+  /// All selected projectors, in the order of the list.
   ProjectorSessions Selected() const;
 
-  /// Selects a projector of the model; a search that hides it is taken back.
+  /// Selects a projector of the model. Clears a search that hides it.
   void Select(int row);
 
   void FocusSearch();
   void FocusTable();
 
   QHeaderView& Columns() const;
-  /// They become the list's context menu.
+  /// Sets the list's context menu.
   void AddContextActions(const QList<QAction*>& actions);
 
  Q_SIGNALS:
-  /// The user wants the selected projector's dialog.
+  /// The user asked for the selected projector's dialog.
   void Activated();
-  /// The selected projector, or the projectors selected beside it, are others.
+  /// The selection has changed.
   void CurrentChanged();
 
  protected:

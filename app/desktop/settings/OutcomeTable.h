@@ -6,8 +6,7 @@
 
 #include "snapshots/Restoration.h"
 
-/// The table of a `RestoreDialog`: a row for each setting of each projector, with what became of
-/// it.
+/// The table of a `RestoreDialog`: a row for each setting of each projector, with its outcome.
 class OutcomeTable : public QStandardItemModel {
   Q_DECLARE_TR_FUNCTIONS(RestoreDialog)
 
@@ -16,7 +15,7 @@ class OutcomeTable : public QStandardItemModel {
 
   explicit OutcomeTable(QObject* parent);
 
-  /// The number of the new row. One that is checkable begins checked.
+  /// Appends a row and returns its number. A checkable row starts checked.
   int Append(const QString& projector, const QString& setting, const QString& key,
              bool isCheckable);
   void SetValues(int row, const QString& here, const QString& file);
@@ -26,17 +25,18 @@ class OutcomeTable : public QStandardItemModel {
   bool IsCheckable(int row) const { return item(row, kSetting)->isCheckable(); }
   bool IsChecked(int row) const;
   void Uncheck(int row);
-  /// Takes the check away where nothing is left to be done.
+  /// Unchecks a row that has nothing left to do.
   void UncheckDone(int row);
 
-  /// "12 changed, 28 already so, 1 refused"; what there is none of is left out.
+  /// Counts of all outcomes that occur: "12 changed, 28 already so, 1 refused".
   QString Summary() const;
 
  private:
   static QString TextOf(Outcome outcome);
 };
 
-/// Rows whose outcome asks for a look, and whose text has what was typed.
+/// Shows rows that contain the typed text. May hide settings that already have the value of the
+/// file.
 class OutcomeFilter : public QSortFilterProxyModel {
  public:
   using QSortFilterProxyModel::QSortFilterProxyModel;

@@ -19,8 +19,8 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 
-#include "app/desktop/settings/AfreshChannel.h"
 #include "app/desktop/settings/OutcomeTable.h"
+#include "app/desktop/settings/RetryAfterSilenceChannel.h"
 #include "app/profiles/SettingsFile.h"
 #include "device/ModelDataIntake.h"
 #include "i18n/Catalog.h"
@@ -30,23 +30,23 @@
 namespace {
 
 constexpr QSize kUsualSize{720, 560};
-constexpr QSize kFrame{10, 40};  // before it is known
+constexpr QSize kFrame{10, 40};  // a guess until it is shown
 
 QString Wide(const std::string& text) { return QString::fromStdString(text); }
 
 }  // namespace
 
-/// A projector with its part of the table.
-struct RestoreDialog::Room {
-  explicit Room(std::shared_ptr<ProjectorSession> projector)
+/// A projector with its rows of the table.
+struct RestoreDialog::ProjectorPart {
+  explicit ProjectorPart(std::shared_ptr<ProjectorSession> projector)
       : session(std::move(projector)),
         name(session->Profile().Name),
         settings(MakeModelData(session->Model())) {}
 
-  /// For each piece of work: one that was gone before may be back.
+  /// Called for each piece of work, because a projector that was gone may be back.
   void Connect(const std::function<bool()>& goesOn) {
     if (channel && !channel->IsGone()) return;
-    channel = MakePatient(*session, goesOn);
+    channel = MakePatientChannel(*session, goesOn);
     connection.SetChannel(channel);
   }
 
@@ -56,27 +56,27 @@ struct RestoreDialog::Room {
   std::shared_ptr<PatientChannel> channel;
   CPjtInterface connection;
   std::optional<Restoration> restoration;
-  std::optional<int> beforehandRow;  ///< Of all that is put back beforehand.
-  int firstRow = 0;                  ///< Of the settings.
+  std::optional<int> beforehandRow;  ///< Row for all settings that are restored before the others.
+  int firstRow = 0;                  ///< First row of the other settings.
 };
 
-/// While it lives the dialog can be stopped, but not be asked for anything else.
-class RestoreDialog::Working {
+/// Marks the dialog as working while it exists: only stopping is possible.
+class RestoreDialog::WorkingScope {
  public:
-  Working(RestoreDialog& dialog, int steps) : dialog_(dialog) {
+  WorkingScope(RestoreDialog& dialog, int steps) : dialog_(dialog) {
     dialog_.working_ = true;
     dialog_.stopped_ = false;
     dialog_.progress_->setRange(0, std::max(steps, 1));
     dialog_.progress_->setValue(0);
     dialog_.UpdateButtons();
   }
-  ~Working() {
+  ~WorkingScope() {
     dialog_.working_ = false;
     dialog_.progress_->setValue(dialog_.progress_->maximum());
     dialog_.UpdateButtons();
   }
-  Working(const Working&) = delete;
-  Working& operator=(const Working&) = delete;
+  WorkingScope(const WorkingScope&) = delete;
+  WorkingScope& operator=(const WorkingScope&) = delete;
 
  private:
   RestoreDialog& dialog_;
@@ -92,16 +92,16 @@ RestoreDialog::RestoreDialog(Purpose purpose, Snapshot snapshot, QString file,
       whenQuiet_(std::move(whenQuiet)),
       texts_(CatalogFolders(), SystemLanguageId()) {
   for (const auto& session : sessions) {
-    rooms_.push_back(std::make_unique<Room>(session));
+    projectors_.push_back(std::make_unique<ProjectorPart>(session));
   }
   setWindowTitle(purpose == Purpose::Restore ? tr("Apply Settings") : tr("Compare Settings"));
-  Lay();
+  CreateLayout();
   UpdateButtons();
 }
 
 RestoreDialog::~RestoreDialog() = default;
 
-void RestoreDialog::Lay() {
+void RestoreDialog::CreateLayout() {
   filter_ = new QLineEdit;
   filter_->setPlaceholderText(tr("Filter"));
   filter_->setAccessibleName(tr("Filter"));
@@ -124,8 +124,8 @@ void RestoreDialog::Lay() {
   table_->setUniformRowHeights(true);
   table_->setEditTriggers(QTreeView::NoEditTriggers);
   table_->setAccessibleName(tr("Settings"));
-  table_->setColumnHidden(OutcomeTable::kProjector, rooms_.size() == 1);
-  // The keyboard begins at what is checked.
+  table_->setColumnHidden(OutcomeTable::kProjector, projectors_.size() == 1);
+  // The keyboard starts in the first column, which must be the one with the check boxes.
   table_->header()->moveSection(OutcomeTable::kSetting, OutcomeTable::kProjector);
 
   progress_ = new QProgressBar;
@@ -174,14 +174,14 @@ void RestoreDialog::Start(void (RestoreDialog::*work)()) {
   if (!begun) summary_->setText(tr("Waiting for the projector of an open dialog…"));
 }
 
-// Enter presses the button that has the focus, and none from the filter or the table.
+// Enter presses only a button that has the focus; in the filter and the table it presses none.
 void RestoreDialog::keyPressEvent(QKeyEvent* event) {
   const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (isEnter && qobject_cast<QPushButton*>(focusWidget()) == nullptr) return;
   QDialog::keyPressEvent(event);
 }
 
-// The first press stops the work, and another one leaves.
+// The first Close or Esc stops the work; the next one closes the dialog.
 void RestoreDialog::reject() {
   stopped_ = true;
   if (!working_) QDialog::reject();
@@ -192,9 +192,9 @@ void RestoreDialog::UpdateButtons() {
   for (QPushButton* button : {compare_, restore_}) button->setEnabled(!working_ && compared_);
 }
 
-Progress RestoreDialog::WorkOn(Room& room) {
-  room.Connect([this] { return !stopped_; });
-  return {.goesOn = [this, &room] { return !stopped_ && !room.channel->IsGone(); },
+Progress RestoreDialog::WorkOn(ProjectorPart& projector) {
+  projector.Connect([this] { return !stopped_; });
+  return {.goesOn = [this, &projector] { return !stopped_ && !projector.channel->IsGone(); },
           .step =
               [this] {
                 progress_->setValue(progress_->value() + 1);
@@ -202,11 +202,12 @@ Progress RestoreDialog::WorkOn(Room& room) {
               }};
 }
 
-// What somebody has taken the check from stays so.
+// Rows that the user has unchecked stay unchecked.
 void RestoreDialog::Compare() {
   if (working_) return;
   compared_ = true;
-  const Working working(*this, static_cast<int>(rooms_.size() * snapshot_.settings.size()));
+  const WorkingScope working(*this,
+                             static_cast<int>(projectors_.size() * snapshot_.settings.size()));
   std::set<int> unwanted;
   for (int row = 0; row < model_->rowCount(); ++row) {
     const Outcome outcome = model_->OutcomeOf(row);
@@ -214,12 +215,13 @@ void RestoreDialog::Compare() {
     if (isOpen && model_->IsCheckable(row) && !model_->IsChecked(row)) unwanted.insert(row);
   }
   model_->setRowCount(0);
-  for (const auto& room : rooms_) {
-    room->restoration.emplace(snapshot_, room->settings, room->connection);
-    room->restoration->Read(WorkOn(*room));
-    if (purpose_ == Purpose::Restore && !snapshot_.beforehand.empty()) AddBeforehandRow(*room);
-    room->firstRow = model_->rowCount();
-    for (const RestoredSetting& restored : room->restoration->Settings()) AddRow(*room, restored);
+  for (const auto& projector : projectors_) {
+    projector->restoration.emplace(snapshot_, projector->settings, projector->connection);
+    projector->restoration->Read(WorkOn(*projector));
+    if (purpose_ == Purpose::Restore && !snapshot_.beforehand.empty()) AddBeforehandRow(*projector);
+    projector->firstRow = model_->rowCount();
+    for (const RestoredSetting& restored : projector->restoration->Settings())
+      AddRow(*projector, restored);
   }
   for (const int row : unwanted) model_->Uncheck(row);
   ShowSummary();
@@ -227,30 +229,32 @@ void RestoreDialog::Compare() {
 
 void RestoreDialog::ShowSummary() {
   summary_->setText(model_->Summary());
-  // Not while rows are filled: measuring them all for each text would take long.
+  // Done once at the end; measuring all rows after each change would be slow.
   for (int i = 0; i < OutcomeTable::kColumnCount; ++i) table_->resizeColumnToContents(i);
 }
 
-void RestoreDialog::AddRow(const Room& room, const RestoredSetting& restored) {
+void RestoreDialog::AddRow(const ProjectorPart& projector, const RestoredSetting& restored) {
   const SavedSetting& saved = restored.saved;
   QString setting = Wide(saved.key);
   if (restored.setting != nullptr) {
-    setting = tr("%1: %2").arg(Wide(texts_.Tab(*restored.setting)),
-                               Wide(texts_.Name(room.settings, *restored.setting, saved.source)));
+    setting =
+        tr("%1: %2").arg(Wide(texts_.Tab(*restored.setting)),
+                         Wide(texts_.Name(projector.settings, *restored.setting, saved.source)));
   } else if (saved.source) {
-    setting += QStringLiteral(" (%1)").arg(Wide(texts_.Source(room.settings, *saved.source)));
+    setting += QStringLiteral(" (%1)").arg(Wide(texts_.Source(projector.settings, *saved.source)));
   }
   const bool isOpen = purpose_ == Purpose::Restore && restored.outcome == Outcome::Differs;
-  ShowOutcome(restored, model_->Append(Wide(room.name), setting, Wide(saved.key), isOpen));
+  ShowOutcome(restored, model_->Append(Wide(projector.name), setting, Wide(saved.key), isOpen));
 }
 
-// Some of it makes no sense without the rest, and none can be compared before it is its turn.
-void RestoreDialog::AddBeforehandRow(Room& room) {
-  room.beforehandRow =
-      model_->Append(Wide(room.name), tr("Beforehand: other sources and modes"), {}, true);
-  model_->SetValues(*room.beforehandRow, {},
+// One row for them all: some are useless without the others, and none can be compared before it is
+// restored.
+void RestoreDialog::AddBeforehandRow(ProjectorPart& projector) {
+  projector.beforehandRow =
+      model_->Append(Wide(projector.name), tr("Beforehand: other sources and modes"), {}, true);
+  model_->SetValues(*projector.beforehandRow, {},
                     tr("%1 settings").arg(static_cast<int>(snapshot_.beforehand.size())));
-  ShowBeforehand(*room.restoration, *room.beforehandRow);
+  ShowBeforehand(*projector.restoration, *projector.beforehandRow);
 }
 
 void RestoreDialog::ShowOutcome(const RestoredSetting& restored, int row) {
@@ -266,7 +270,7 @@ void RestoreDialog::ShowOutcome(const RestoredSetting& restored, int row) {
   model_->SetOutcome(row, restored.outcome);
 }
 
-/// What is worst of it.
+/// Shows the worst outcome among them.
 void RestoreDialog::ShowBeforehand(const Restoration& restoration, int row) {
   const auto& all = restoration.Beforehand();
   Outcome worst = Outcome::AlreadySo;
@@ -283,36 +287,37 @@ void RestoreDialog::Restore() {
   if (working_) return;
   int steps = 0;
   for (int row = 0; row < model_->rowCount(); ++row) steps += model_->IsChecked(row) ? 3 : 0;
-  const Working working(*this, steps);
+  const WorkingScope working(*this, steps);
   QString error;
-  for (const auto& room : rooms_) {
-    if (!stopped_ && error.isEmpty()) error = RestoreRoom(*room);
+  for (const auto& projector : projectors_) {
+    if (!stopped_ && error.isEmpty()) error = RestoreProjector(*projector);
   }
   ShowSummary();
   if (!error.isEmpty()) summary_->setText(error);
 }
 
-// Reads once more what is checked: somebody may have changed it since.
-QString RestoreDialog::RestoreRoom(Room& room) {
+// Reads the checked settings again, because they may have changed since the comparison.
+QString RestoreDialog::RestoreProjector(ProjectorPart& projector) {
   // A file may hold a setting for several input sources.
   std::map<std::pair<std::string, std::optional<int>>, int> rows;
   const auto idOf = [](const SavedSetting& saved) { return std::pair(saved.key, saved.source); };
-  const auto& known = room.restoration->Settings();
+  const auto& known = projector.restoration->Settings();
   for (std::size_t i = 0; i < known.size(); ++i) {
-    const int row = room.firstRow + static_cast<int>(i);
+    const int row = projector.firstRow + static_cast<int>(i);
     if (model_->IsChecked(row)) rows[idOf(known[i].saved)] = row;
   }
   Snapshot wanted = snapshot_;
-  if (!room.beforehandRow || !model_->IsChecked(*room.beforehandRow)) wanted.beforehand.clear();
-  Restoration part(wanted, room.settings, room.connection,
+  if (!projector.beforehandRow || !model_->IsChecked(*projector.beforehandRow))
+    wanted.beforehand.clear();
+  Restoration part(wanted, projector.settings, projector.connection,
                    [&](const SavedSetting& saved) { return rows.contains(idOf(saved)); });
-  const Progress progress = WorkOn(room);
+  const Progress progress = WorkOn(projector);
   part.Read(progress);
-  UndoFile undo(file_, {}, room.name);
-  part.Send(texts_, progress, [&] { return undo.Keep(part.Undo(room.name, texts_)); });
+  UndoFile undo(file_, {}, projector.name);
+  part.Send(texts_, progress, [&] { return undo.Keep(part.Undo(projector.name, texts_)); });
   if (!wanted.beforehand.empty()) {
-    ShowBeforehand(part, *room.beforehandRow);
-    model_->UncheckDone(*room.beforehandRow);
+    ShowBeforehand(part, *projector.beforehandRow);
+    model_->UncheckDone(*projector.beforehandRow);
   }
   for (const RestoredSetting& restored : part.Settings()) {
     const int row = rows.at(idOf(restored.saved));

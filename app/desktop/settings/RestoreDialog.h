@@ -17,31 +17,32 @@ class QProgressBar;
 class QPushButton;
 class QTreeView;
 
-/// Runs work on projectors now, or as soon as no dialog waits for one; whether it has run now. It
-/// never runs once `context` is gone.
+/// Runs work on projectors now, or as soon as no dialog waits for a projector. Returns whether the
+/// work has run already. It never runs after `context` is destroyed.
 using WhenQuiet = std::function<bool(QObject* context, std::function<void()> work)>;
 
-/// A file of settings beside what projectors have: every setting with both values. For restoring,
-/// each difference has a check box; afterwards each setting says what became of it.
+/// Compares a file of settings with the settings of projectors: shows every setting with both
+/// values. For restoring, each difference has a check box; afterwards each setting shows its
+/// outcome.
 ///
-/// It works on the user-interface thread, as the settings dialog does: the channels keep it
-/// painting, and it can be stopped after each setting.
+/// It works on the user-interface thread. While a command waits, the channels keep windows
+/// painting. The user can stop the work after each setting.
 class RestoreDialog : public QDialog {
   Q_OBJECT
 
  public:
   enum class Purpose { Compare, Restore };
 
-  /// `file` is where `snapshot` was read from, and where the values that are replaced are kept
-  /// beside. What the user asks for is done through `whenQuiet`.
+  /// `file` is the file that `snapshot` was read from; replaced values are saved beside it. All
+  /// work is done through `whenQuiet`.
   RestoreDialog(Purpose purpose, Snapshot snapshot, QString file, const ProjectorSessions& sessions,
                 WhenQuiet whenQuiet, QWidget* parent = nullptr);
   ~RestoreDialog() override;
 
-  /// Reads all projectors and shows what differs; those that were silent before are asked again.
-  /// Done by itself when the dialog is shown.
+  /// Reads all projectors and shows the differences. Projectors that were silent before are asked
+  /// again. Runs automatically when the dialog is shown.
   void Compare();
-  /// Sends the differences that are checked.
+  /// Sends the checked differences.
   void Restore();
 
   void reject() override;
@@ -51,18 +52,18 @@ class RestoreDialog : public QDialog {
   void showEvent(QShowEvent* event) override;
 
  private:
-  struct Room;
-  class Working;
+  struct ProjectorPart;
+  class WorkingScope;
 
   void Start(void (RestoreDialog::*work)());
-  void Lay();
-  void AddBeforehandRow(Room& room);
-  void AddRow(const Room& room, const RestoredSetting& restored);
+  void CreateLayout();
+  void AddBeforehandRow(ProjectorPart& projector);
+  void AddRow(const ProjectorPart& projector, const RestoredSetting& restored);
   void ShowOutcome(const RestoredSetting& restored, int row);
   void ShowBeforehand(const Restoration& restoration, int row);
-  QString RestoreRoom(Room& room);
+  QString RestoreProjector(ProjectorPart& projector);
   void ShowSummary();
-  Progress WorkOn(Room& room);
+  Progress WorkOn(ProjectorPart& projector);
   void UpdateButtons();
 
   const Purpose purpose_;
@@ -70,7 +71,7 @@ class RestoreDialog : public QDialog {
   const QString file_;
   const WhenQuiet whenQuiet_;
   const SettingTexts texts_;
-  std::vector<std::unique_ptr<Room>> rooms_;
+  std::vector<std::unique_ptr<ProjectorPart>> projectors_;
   OutcomeTable* model_ = nullptr;
   QTreeView* table_ = nullptr;
   QLineEdit* filter_ = nullptr;

@@ -9,7 +9,7 @@
 
 #include "app/desktop/Modal.h"
 #include "app/desktop/projectors/ProjectorSession.h"
-#include "app/desktop/settings/AfreshChannel.h"
+#include "app/desktop/settings/RetryAfterSilenceChannel.h"
 #include "app/profiles/SettingsFile.h"
 #include "fleet/WholeFile.h"
 #include "device/ModelDataIntake.h"
@@ -22,13 +22,13 @@ SettingsActions::SettingsActions(std::function<ProjectorSessions()> selected, Wh
       selected_(std::move(selected)),
       whenQuiet_(std::move(whenQuiet)),
       window_(window),
-      save_(Make(tr("Save Se&ttings…"), &SettingsActions::SaveSettings)),
-      compare_(Make(tr("&Compare with File…"), &SettingsActions::CompareSettings)),
-      apply_(Make(tr("A&pply Settings…"), &SettingsActions::ApplySettings)) {
+      save_(MakeAction(tr("Save Se&ttings…"), &SettingsActions::SaveSettings)),
+      compare_(MakeAction(tr("&Compare with File…"), &SettingsActions::CompareSettings)),
+      apply_(MakeAction(tr("A&pply Settings…"), &SettingsActions::ApplySettings)) {
   Update();
 }
 
-QAction* SettingsActions::Make(const QString& text, Act act) {
+QAction* SettingsActions::MakeAction(const QString& text, Act act) {
   auto* action = new QAction(text, this);
   connect(action, &QAction::triggered, this, [this, act] {
     const ProjectorSessions sessions = selected_();
@@ -51,13 +51,13 @@ QStringList SettingsActions::SaveTo(const QString& path, const ProjectorSessions
     const QString shownName = QString::fromStdString(name);
     const ModelSettings settings(MakeModelData(session->Model()));
     CPjtInterface connection;
-    const auto channel = MakePatient(*session, progress.goesOn);
+    const auto channel = MakePatientChannel(*session, progress.goesOn);
     connection.SetChannel(channel);
     const Progress whileThere{.goesOn = [&] { return progress.goesOn() && !channel->IsGone(); },
                               .step = progress.step};
     std::vector<std::string> unread;
     const Snapshot snapshot = TakeSnapshot(name, settings, connection, texts, whileThere, &unread);
-    // Half a snapshot would look like a whole one.
+    // An incomplete snapshot must not be saved: it would look complete.
     if (!progress.goesOn()) break;
     if (channel->IsGone()) {
       errors.append(tr("%1: no answer").arg(shownName));
@@ -98,7 +98,7 @@ void SettingsActions::SaveWatched(const QString& path, const ProjectorSessions& 
   auto* watched = new QProgressDialog(tr("Waiting for the projector of an open dialog…"),
                                       tr("Stop"), 0, 0, &window_);
   watched->setWindowTitle(title);
-  // From the start, so that neither the projectors nor their dialogs are used meanwhile.
+  // Modal from the start, so that nobody uses the projectors or their dialogs meanwhile.
   watched->setWindowModality(Qt::ApplicationModal);
   watched->show();
   whenQuiet_(watched, [this, path, sessions, title, watched] {
@@ -140,7 +140,7 @@ void SettingsActions::OpenRestoreDialog(RestoreDialog::Purpose purpose,
   auto* dialog = new RestoreDialog(purpose, std::move(contents.snapshot), path, sessions,
                                    whenQuiet_, &window_);
   dialog->setAttribute(Qt::WA_DeleteOnClose);
-  // Neither the projectors nor their dialogs are used meanwhile.
+  // Modal, so that nobody uses the projectors or their dialogs meanwhile.
   dialog->setWindowModality(Qt::ApplicationModal);
   dialog->show();
 }

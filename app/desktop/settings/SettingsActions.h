@@ -9,14 +9,14 @@
 class QAction;
 class QWidget;
 
-/// Saving the settings of projectors in files, comparing them with a file and putting a file back,
-/// as actions for menus. Asks for files, tells errors.
+/// Menu actions that save the settings of projectors in files, compare them with a file, and
+/// restore them from a file. Asks for files, and reports errors.
 class SettingsActions : public QObject {
   Q_OBJECT
 
  public:
-  /// `selected` tells the projectors that are meant. They are used through `whenQuiet`. This
-  /// belongs to the window, and the actions to this.
+  /// `selected` returns the projectors to work on. All work on them is done through `whenQuiet`.
+  /// The window owns this object, which owns the actions.
   SettingsActions(std::function<ProjectorSessions()> selected, WhenQuiet whenQuiet,
                   QWidget& window);
 
@@ -24,18 +24,19 @@ class SettingsActions : public QObject {
   QAction* Compare() const { return compare_; }
   QAction* Apply() const { return apply_; }
 
-  /// Enables what can be done with the selected projectors.
+  /// Enables the actions that are possible for the selected projectors.
   void Update();
 
-  /// Saves the settings of each projector: of one in `path`, of several in new files of their names
-  /// in the folder `path`. One line for each that went wrong.
+  /// Saves the settings of each projector: those of a single one in the file `path`, those of
+  /// several in new files in the folder `path`, named after the projectors. Returns a line for each
+  /// failure.
   static QStringList SaveTo(const QString& path, const ProjectorSessions& sessions,
                             const Progress& progress = {});
 
  private:
   using Act = void (SettingsActions::*)(const ProjectorSessions& sessions);
 
-  QAction* Make(const QString& text, Act act);
+  QAction* MakeAction(const QString& text, Act act);
   void SaveSettings(const ProjectorSessions& sessions);
   void CompareSettings(const ProjectorSessions& sessions);
   void ApplySettings(const ProjectorSessions& sessions);

@@ -62,7 +62,8 @@ QString Text(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-// Command codes with the names of their settings, which differ between page sets in a few cases.
+// Command codes with the names of their settings. A few settings have several names, which differ
+// between page sets.
 std::map<std::uint16_t, QStringList> NamedCodes() {
   std::map<std::uint16_t, QStringList> codes;
   for (const std::uint16_t code : PlainCodes()) codes[code];
@@ -158,7 +159,7 @@ FaultPanel::FaultPanel(QWidget* parent)
   SetSession(nullptr);
 }
 
-// The wheel scrolls past a number that has no focus, and does not change it.
+// The wheel must not change a number that has no focus.
 bool FaultPanel::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Wheel && !static_cast<QWidget*>(watched)->hasFocus()) {
     event->ignore();
@@ -184,7 +185,7 @@ bool FaultPanel::IsSimulated() const {
   return session_ != nullptr && session_->Profile().Link == ProjectorLink::Simulated;
 }
 
-// Those of a real projector are its own.
+// Only simulated projectors have states that can be set.
 void FaultPanel::RefreshStates() {
   if (session_ == nullptr) return;
   if (!IsSimulated()) {

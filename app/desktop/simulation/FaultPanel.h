@@ -9,18 +9,18 @@ class QListWidget;
 class QPushButton;
 class QSpinBox;
 
-/// Disturbs the simulation of one projector: faults of its commands, its power state, its error
-/// status. Everything takes effect at once, also for a dialog that is open.
+/// Controls the simulation of one projector: faults of its commands, its power state and its error
+/// status. Changes take effect at once, even for an open dialog.
 class FaultPanel : public QGroupBox {
   Q_OBJECT
 
  public:
   explicit FaultPanel(QWidget* parent = nullptr);
 
-  /// Not owned; null disables the panel.
+  /// `session` is not owned; null disables the panel.
   void SetSession(ProjectorSession* session);
 
-  /// Shows the states that the simulation has now.
+  /// Shows the present states of the simulation.
   void RefreshStates();
 
  protected:

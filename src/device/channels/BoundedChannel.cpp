@@ -23,12 +23,12 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-// Commands that follow each other within the pause let no event loop run in between; it shall not
-// stand still for longer than this on their account.
+// If the next command follows within the pause, the event loop does not run in between. A series of
+// such commands must not hold it up for longer than this.
 constexpr std::chrono::milliseconds kPause{2};
 constexpr std::chrono::milliseconds kStandstill{30};
 
-// To fail once more within this time costs little.
+// After a failure within this time, the next attempt is cheap.
 constexpr std::chrono::milliseconds kQuickFailure{100};
 constexpr std::chrono::milliseconds kRetryAfterQuickFailure{200};
 
@@ -42,7 +42,7 @@ PjtReply Unsent(const PjtCommand& command) {
   return reply;
 }
 
-// A channel that throws has not answered.
+// An exception of the channel counts as no answer.
 PjtReply Ask(ProjectorChannel& channel, std::optional<std::chrono::milliseconds> longest,
              const std::optional<std::vector<PjtCommand>>& announced, const PjtCommand& command) {
   try {
@@ -58,7 +58,7 @@ PjtReply Ask(ProjectorChannel& channel, std::optional<std::chrono::milliseconds>
 bool SpendIdleTime(ProjectorChannel& channel) {
   try {
     return channel.UseIdleTime();
-  } catch (...) {  // likewise
+  } catch (...) {
     DropException();
     return false;
   }
@@ -68,7 +68,7 @@ bool Tend(ProjectorChannel& channel, Clock::time_point lastUse) {
   try {
     return channel.TendConnection(
         std::chrono::floor<std::chrono::milliseconds>(Clock::now() - lastUse));
-  } catch (...) {  // likewise
+  } catch (...) {
     DropException();
     return false;
   }
@@ -80,14 +80,14 @@ bool HasEventLoop() {
 
 }  // namespace
 
-/// One `Execute` that waits; lives on its stack.
+/// One waiting `Execute`, on its stack.
 struct Wait {
   std::optional<PjtReply> reply;
   bool abandoned = false;
-  QEventLoop* loop = nullptr;  ///< The loop that runs meanwhile, if any.
+  QEventLoop* loop = nullptr;  ///< The event loop that runs during the wait, if any.
 };
 
-/// Shared with the worker, which may outlive the channel object by one command.
+/// Shared with the worker thread, which may outlive the channel object by one command.
 struct BoundedChannel::State {
   State(std::shared_ptr<ProjectorChannel> channel, const Limits& bounds)
       : inner(std::move(channel)), limits(bounds) {}
@@ -96,26 +96,28 @@ struct BoundedChannel::State {
   void WakeUp();
   bool WaitUntil(std::unique_lock<std::mutex>& lock, Wait& wait, auto done);
 
-  std::shared_ptr<ProjectorChannel> inner;  ///< The worker's own once there is a worker.
+  std::shared_ptr<ProjectorChannel> inner;  ///< Used only by the worker once it runs.
   const Limits limits;
   std::thread worker;
 
   std::mutex mutex;
   std::condition_variable commandGiven;
-  std::condition_variable changed;  ///< For who waits.
-  // All below under the mutex.
-  std::optional<PjtCommand> command;                 ///< Given, and not yet taken by the worker.
-  std::optional<std::vector<PjtCommand>> announced;  ///< Likewise.
-  std::optional<std::chrono::milliseconds> longest;  ///< For a command, if less than the limit.
-  bool outstanding = false;   ///< Given, and not yet back from the inner channel.
-  bool usesIdleTime = false;  ///< The inner channel, right now.
-  bool abandoned = false;     ///< The outstanding one is waited for by the next command.
+  std::condition_variable changed;  ///< Wakes up waiting threads.
+  // Everything below is protected by the mutex.
+  std::optional<PjtCommand> command;                 ///< Not yet taken by the worker.
+  std::optional<std::vector<PjtCommand>> announced;  ///< Not yet taken by the worker.
+  std::optional<std::chrono::milliseconds>
+      longest;                ///< Time-out of a command, if less than the limit.
+  bool outstanding = false;   ///< A command has not yet returned from the inner channel.
+  bool usesIdleTime = false;  ///< The inner channel uses the idle time right now.
+  bool abandoned = false;     ///< The next command waits for the outstanding one.
   bool ended = false;
   Wait* waiting = nullptr;
-  Wait* recipient = nullptr;  ///< Who gets the reply to the outstanding command; may be nobody.
+  Wait* recipient =
+      nullptr;  ///< The wait that gets the reply to the outstanding command; null if none.
   Clock::time_point silentUntil{};
   Clock::time_point lastReturn{};
-  Clock::time_point stillSince{};  ///< When the event loop ran last, as far as this knows.
+  Clock::time_point stillSince{};  ///< When the event loop last ran, as far as known.
 };
 
 void BoundedChannel::State::WakeUp() {
@@ -159,7 +161,7 @@ void BoundedChannel::State::Work() {
     lock.lock();
     outstanding = false;
     hasMoreToDo = answer.answered;
-    isConnected = true;  // as far as is known
+    isConnected = true;  // until the inner channel reports otherwise
     lastUse = Clock::now();
     if (Wait* to = std::exchange(recipient, nullptr)) to->reply = answer;
     WakeUp();
@@ -186,14 +188,14 @@ bool BoundedChannel::State::WaitUntil(std::unique_lock<std::mutex>& lock, Wait& 
     wait.loop = nullptr;
     stillSince = Clock::now();
   }
-  // Also where an ending application lets no event loop run.
+  // Also used if the application is ending, when no event loop can run.
   changed.wait_until(lock, deadline, over);
   return !wait.abandoned && done();
 }
 
-// A channel that throws has told nothing.
+// Asks the inner channel; returns `otherwise` if it throws.
 template <typename Value>
-Value BoundedChannel::Told(State& state, Value otherwise, auto ask) {
+Value BoundedChannel::AskInner(State& state, Value otherwise, auto ask) {
   const std::lock_guard lock(state.mutex);
   try {
     if (state.inner) return ask(*state.inner);
@@ -223,7 +225,7 @@ BoundedChannel::~BoundedChannel() {
 }
 
 PjtReply BoundedChannel::Execute(const PjtCommand& command) {
-  // Events that run while we wait may destroy this object.
+  // Events handled during the wait may destroy this object.
   const std::shared_ptr<State> state = state_;
   std::unique_lock lock(state->mutex);
   if (!state->inner || state->ended || state->waiting ||
@@ -253,7 +255,7 @@ PjtReply BoundedChannel::Execute(const PjtCommand& command) {
     state->commandGiven.notify_one();
     state->WaitUntil(lock, wait, [&] { return wait.reply.has_value(); });
   }
-  // After an abandoned wait somebody else may be waiting by now.
+  // After an abandoned wait, another command may be waiting.
   if (state->waiting == &wait) state->waiting = nullptr;
   if (state->recipient == &wait) state->recipient = nullptr;
   state->lastReturn = Clock::now();
@@ -294,16 +296,17 @@ void BoundedChannel::Announce(std::span<const PjtCommand> reads) {
 }
 
 ConnectionState BoundedChannel::Connection() const {
-  return Told(*state_, ConnectionState::None, [](const auto& inner) { return inner.Connection(); });
+  return AskInner(*state_, ConnectionState::None,
+                  [](const auto& inner) { return inner.Connection(); });
 }
 
 std::optional<SourceList> BoundedChannel::Inputs() {
-  return Told(*state_, std::optional<SourceList>(), [](auto& inner) { return inner.Inputs(); });
+  return AskInner(*state_, std::optional<SourceList>(), [](auto& inner) { return inner.Inputs(); });
 }
 
 std::optional<PowerState> BoundedChannel::Power() const {
-  return Told(*state_, std::optional<PowerState>(),
-              [](const auto& inner) { return inner.Power(); });
+  return AskInner(*state_, std::optional<PowerState>(),
+                  [](const auto& inner) { return inner.Power(); });
 }
 
 }  // namespace AdvancedControl

@@ -66,7 +66,7 @@ class PROJECTOR_COMMON_EXPORT BoundedChannel : public ProjectorChannel {
  private:
   struct State;
   template <typename Value>
-  static Value Told(State& state, Value otherwise, auto ask);
+  static Value AskInner(State& state, Value otherwise, auto ask);
 
   std::shared_ptr<State> state_;
 };

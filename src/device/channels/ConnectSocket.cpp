@@ -16,7 +16,7 @@ namespace AdvancedControl {
 
 namespace {
 
-// All of them, in the order of preference. Takes as long as the system does.
+// All addresses of a name, in order of preference. Blocks as long as the system takes.
 QList<QHostAddress> LookUp(const QByteArray& name) {
   addrinfo hints{};
   hints.ai_socktype = SOCK_STREAM;
@@ -29,7 +29,7 @@ QList<QHostAddress> LookUp(const QByteArray& name) {
   return addresses;
 }
 
-// None when the time is over; the thread then ends when the system has given up.
+// None if the deadline passes. In that case the look-up's thread ends when the system gives up.
 QList<QHostAddress> Addresses(const QString& host, const QDeadlineTimer& deadline) {
   if (const QHostAddress address(host); !address.isNull()) return {address};
   const QByteArray name = QUrl::toAce(host);
@@ -54,7 +54,8 @@ std::unique_ptr<QTcpSocket> ConnectSocket(const std::string& host, std::uint16_t
     socket->setProxy(QNetworkProxy::NoProxy);
     socket->setReadBufferSize(readBuffer);
     socket->connectToHost(addresses[i], port);
-    // An address that swallows everything leaves time for the others.
+    // Each address gets a share of the time, because one that never answers must leave time for the
+    // others.
     const qint64 share = deadline.remainingTime() / (addresses.size() - i);
     if (!socket->waitForConnected(static_cast<int>(share))) continue;
     socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);

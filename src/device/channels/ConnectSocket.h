@@ -12,9 +12,10 @@ class QTcpSocket;
 
 namespace AdvancedControl {
 
-/// A connection to `host`, a name or an address, that holds at most `readBuffer` bytes which nobody
-/// has read; or null, and `problem` says why. Blocks until the deadline at most, of which looking
-/// up a name takes what it needs; then each of its addresses has its share of the rest.
+/// Connects to `host`, a name or an address. The socket buffers at most `readBuffer` unread bytes.
+/// On failure returns null and sets `problem`. Blocks at most until the deadline: first to look up
+/// the name, then for each of its addresses with an equal share of the remaining time. Use the
+/// socket on the calling thread.
 std::unique_ptr<QTcpSocket> ConnectSocket(const std::string& host, std::uint16_t port,
                                           std::int64_t readBuffer, const QDeadlineTimer& deadline,
                                           ConnectionState& problem);

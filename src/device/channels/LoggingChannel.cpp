@@ -47,7 +47,7 @@ std::string FormatCommand(const PjtCommand& command, const PjtReply* reply) {
   if (reply->busy) return text + " busy";
   if (!IsSuccess(command.operation, reply->result)) return text + " refused";
   if (reply->pending) return text + " accepted, not yet so";
-  if (form.tells != Tells::Value) return text;
+  if (form.returns != Returns::Value) return text;
   const int value = form.isGeneric ? static_cast<std::uint16_t>(reply->value) : reply->value;
   return text + " = " + std::to_string(value);
 }

@@ -12,7 +12,7 @@
 
 namespace AdvancedControl {
 
-/// Reports every command and its reply to an observer. Threads as `ProjectorChannel` says.
+/// Reports every command and its reply to an observer. Threads as for `ProjectorChannel`.
 class PROJECTOR_COMMON_EXPORT LoggingChannel : public ForwardingChannel {
  public:
   /// Called after the reply has arrived, on the thread that executes the command.

@@ -14,7 +14,7 @@ namespace AdvancedControl {
 namespace {
 
 constexpr qint64 kReadBuffer = 512;
-constexpr int kMostPieces = 8;  // taken of what came while nothing was asked
+constexpr int kMostPieces = 8;  // of unsolicited data, read at once
 constexpr PjtCommand kGetInput{.operation = PjtOperation::Get, .code = CommandCode::InputSource};
 
 }  // namespace
@@ -41,15 +41,15 @@ PjtReply PjLinkChannel::Execute(const PjtCommand& command) {
   session_.GiveUpAfter(limits_.answer);
   const PjtReply reply = session_.Reply();
   const auto* const mapping = PjLinkMapping::Find(command);
-  const bool tellsInput = IsRead(command.operation) && mapping && mapping->command == "INPT";
-  if (tellsInput && reply.answered && IsSuccess(command.operation, reply.result)) {
-    inputs_.Play(reply.value);
+  const bool readsInput = IsRead(command.operation) && mapping && mapping->command == "INPT";
+  if (readsInput && reply.answered && IsSuccess(command.operation, reply.result)) {
+    inputs_.SetPresent(reply.value);
   }
   return reply;
 }
 
 void PjLinkChannel::Run(const auto& work) {
-  TakeWhatCame();
+  ReceiveUnsolicited();
   work();
   const ConnectionState before = session_.State();
   bool wasUsed = false;
@@ -57,13 +57,14 @@ void PjLinkChannel::Run(const auto& work) {
        step = session_.Next(Clock::now())) {
     wasUsed = true;
     Drive(step);
-    // A projector that closes after each reply has done so before the next request.
-    TakeWhatCame();
+    // Some projectors close the connection after each reply; this detects it before the next
+    // request.
+    ReceiveUnsolicited();
     if (session_.State() == ConnectionState::Connecting) state_ = ConnectionState::Connecting;
   }
   if (wasUsed || session_.State() != before) state_ = session_.State();
   power_ = session_.Power();
-  // It is another projector than the one that is remembered.
+  // Another class means another projector than the remembered one.
   const auto known = session_.ProtocolClass();
   if (rememberedClass_ && known && known != rememberedClass_) {
     inputs_.Forget();
@@ -71,8 +72,9 @@ void PjLinkChannel::Run(const auto& work) {
   }
 }
 
-/// What came while nothing was asked answers nothing that will be, and may be the connection's end.
-void PjLinkChannel::TakeWhatCame() {
+/// Reads what arrived without a request: it answers no later request, and may be the end of the
+/// connection.
+void PjLinkChannel::ReceiveUnsolicited() {
   for (int i = 0; socket_ && i < kMostPieces && socket_->waitForReadyRead(0); ++i) {
     session_.Connection().Received(socket_->readAll().toStdString(), Clock::now());
   }
@@ -107,7 +109,7 @@ void PjLinkChannel::Connect(const PjLinkStep& step) {
   }
 }
 
-/// Passes on what comes, for so long at most.
+/// Passes received data on to the session, for at most `time`.
 void PjLinkChannel::Listen(std::chrono::milliseconds time) {
   if (!socket_) return std::this_thread::sleep_for(time);
   const bool isReady =
@@ -124,25 +126,25 @@ bool PjLinkChannel::CanConnect() {
   return can;
 }
 
-PjLinkTold PjLinkChannel::Ask(const PjLinkQuestion& question) {
+PjLinkResult PjLinkChannel::Ask(const PjLinkQuestion& question) {
   if (!CanConnect()) return {};
   Run([&] { session_.Begin(question, Clock::now()); });
-  return session_.Told();
+  return session_.Result();
 }
 
 std::pair<std::vector<PjLinkInput>, bool> PjLinkChannel::AskForInputs() {
-  bool isWhole = true;
+  bool isComplete = true;
   bool isLost = false;
   while (const auto question = inputs_.Next()) {
-    const PjLinkTold told = Ask(*question);
-    if (inputs_.Take(told)) continue;
-    isWhole = false;
-    isLost = isLost || told.kind == PjLinkTold::Kind::Lost;
+    const PjLinkResult result = Ask(*question);
+    if (inputs_.Take(result)) continue;
+    isComplete = false;
+    isLost = isLost || result.kind == PjLinkResult::Kind::Lost;
     if (!inputs_.IsListKnown()) break;
-    inputs_.PassOver();
+    inputs_.SkipName();
   }
   const auto known = inputs_.Known();
-  if (!isWhole) inputs_.Forget();
+  if (!isComplete) inputs_.Forget();
   return {known, !isLost};
 }
 
@@ -154,14 +156,14 @@ std::pair<std::optional<PjLinkInput>, bool> PjLinkChannel::AskForPresentInput() 
   const auto input = std::ranges::find(known, reply.value, &PjLinkInput::number);
   if (input != known.end()) return {*input, true};
   const auto question = PjLinkInputs::NameOf(reply.value);
-  const PjLinkTold told = question ? Ask(*question) : PjLinkTold{};
-  return {PjLinkInputs::Named(reply.value, told.text), told.kind != PjLinkTold::Kind::Lost};
+  const PjLinkResult result = question ? Ask(*question) : PjLinkResult{};
+  return {PjLinkInputs::Named(reply.value, result.text), result.kind != PjLinkResult::Kind::Lost};
 }
 
 std::optional<SourceList> PjLinkChannel::Inputs() {
   asksForInputs_ = true;
-  const std::lock_guard lock(toldMutex_);
-  return told_;
+  const std::lock_guard lock(inputsMutex_);
+  return reportedInputs_;
 }
 
 bool PjLinkChannel::UseIdleTime() {
@@ -171,20 +173,20 @@ bool PjLinkChannel::UseIdleTime() {
   if (inputs_.Take(Ask(*question))) {
     if (inputs_.Next()) return true;
     pause_ = limits_.firstPause;
-    const std::lock_guard lock(toldMutex_);
-    told_ = SourcesOf(inputs_.Known(), InputCodes::SharedNames);
+    const std::lock_guard lock(inputsMutex_);
+    reportedInputs_ = SourcesOf(inputs_.Known(), InputCodes::SharedNames);
     return false;
   }
   nextTry_ = Clock::now() + pause_;
   pause_ = std::min(2 * pause_, limits_.longestPause);
-  state_ = ConnectionState::Connected;  // as far as any command tells
+  state_ = ConnectionState::Connected;  // no command has failed
   return false;
 }
 
 bool PjLinkChannel::TendConnection(std::chrono::milliseconds unused) {
-  // A projector that closes after its reply has often done so already.
+  // A projector that closes after its reply may already have done so.
   const bool wasOpen = socket_ != nullptr || state_ == ConnectionState::Connected;
-  if (socket_) TakeWhatCame();
+  if (socket_) ReceiveUnsolicited();
   if (socket_ && unused >= limits_.unused) {
     socket_.reset();
     session_.Connection().Closed(Clock::now());
@@ -194,9 +196,9 @@ bool PjLinkChannel::TendConnection(std::chrono::milliseconds unused) {
 }
 
 PjLinkFacts PjLinkChannel::Facts() const {
-  const bool areWhole = inputs_.IsListKnown() && !inputs_.Next();
+  const bool areComplete = inputs_.IsListKnown() && !inputs_.Next();
   return {.protocolClass = session_.ProtocolClass(),
-          .inputs = areWhole ? inputs_.Known() : std::vector<PjLinkInput>()};
+          .inputs = areComplete ? inputs_.Known() : std::vector<PjLinkInput>()};
 }
 
 void PjLinkChannel::Remember(const PjLinkFacts& facts) {
@@ -204,8 +206,8 @@ void PjLinkChannel::Remember(const PjLinkFacts& facts) {
   if (rememberedClass_) session_.RememberClass(*rememberedClass_);
   if (facts.inputs.empty()) return;
   inputs_.Remember(facts.inputs);
-  const std::lock_guard lock(toldMutex_);
-  told_ = SourcesOf(facts.inputs, InputCodes::SharedNames);
+  const std::lock_guard lock(inputsMutex_);
+  reportedInputs_ = SourcesOf(facts.inputs, InputCodes::SharedNames);
 }
 
 std::string PjLinkChannel::Address() const { return host_ + ':' + std::to_string(port_); }

@@ -19,44 +19,46 @@ class QTcpSocket;
 
 namespace AdvancedControl {
 
-/// What a projector is, which does not change between sessions.
+/// Properties of a projector that do not change between sessions.
 struct PjLinkFacts {
-  std::optional<char> protocolClass{};  ///< '1' or '2'; nothing where it is not known.
-  std::vector<PjLinkInput> inputs{};    ///< All of them, or none where they are not known.
+  std::optional<char> protocolClass{};  ///< '1' or '2'; nothing if unknown.
+  std::vector<PjLinkInput> inputs{};    ///< All inputs; empty if unknown.
 
   friend bool operator==(const PjLinkFacts&, const PjLinkFacts&) = default;
 };
 
-/// The way to a projector of any maker that speaks PJLink, class 1 or 2, over TCP: drives a
-/// `PjLinkSession`, which says how it behaves, over a socket.
+/// A channel to a projector of any maker that speaks PJLink, class 1 or 2, over TCP. It drives a
+/// `PjLinkSession`, which implements the behaviour, over a socket.
 ///
-/// Power, input, error status, blank, mute, freeze, volume steps, lamp and filter hours are asked
-/// of the projector. All else is refused at once, without traffic, as not offered.
+/// Supports power, input, error status, blank, mute, freeze, volume steps, lamp and filter hours.
+/// All other commands are refused at once as not offered, without traffic.
 ///
-/// Connects when first used, and stays connected as long as the projector likes. One that closed
-/// the connection meanwhile, as many do after 30 seconds and some after each reply, is connected to
-/// again.
+/// Connects with the first command and keeps the connection open. If the projector closes it, as
+/// many do after 30 seconds and some after each reply, the next command connects again.
 ///
-/// The inputs are asked for one by one while the channel is idle, once somebody wants them. After a
-/// failure there is a pause, which doubles with each further one.
+/// After the first call of `Inputs`, asks for the inputs one by one while the channel is idle.
+/// After a failure it pauses; the pause doubles with each further failure.
 ///
-/// Blocks without an event loop, up to `Limits::Longest`: belongs behind a `BoundedChannel`.
+/// Blocks without an event loop, up to `Limits::Longest`, so wrap it in a `BoundedChannel`. Threads
+/// as for `ProjectorChannel`.
 class PROJECTOR_COMMON_EXPORT PjLinkChannel : public ProjectorChannel {
  public:
   struct Limits {
-    std::chrono::milliseconds connect{2000};  ///< From the start until the projector has greeted.
+    std::chrono::milliseconds connect{2000};  ///< From the start until the projector's greeting.
     std::chrono::milliseconds answer{2000};   ///< For each request.
-    /// After inputs were not told. A projector in standby may tell them only once it is on.
+    /// Pause after a failure to get the inputs. A projector in standby may report them only when it
+    /// is on.
     std::chrono::milliseconds firstPause{10'000};
     std::chrono::milliseconds longestPause{120'000};
-    std::chrono::milliseconds unused{20'000};  ///< Then the connection is closed.
+    std::chrono::milliseconds unused{
+        20'000};  ///< Time without use after which the connection is closed.
 
-    /// What a command may take: connecting, the class, the command itself and the time until it is
-    /// carried out, behind a question for inputs that was under way.
+    /// The longest time for a command: for connecting, the class, the command itself and the time
+    /// until it takes effect, after a question for inputs that is under way.
     std::chrono::milliseconds Longest() const { return connect + 4 * answer; }
   };
 
-  /// `host` is a name or an address. An empty password proves nothing to a projector that has one.
+  /// `host` is a name or an address. `password` is empty for a projector without one.
   PjLinkChannel(std::string host, int port, const std::string& password)
       : PjLinkChannel(std::move(host), port, password, {}) {}
   PjLinkChannel(std::string host, int port, const std::string& password, const Limits& limits);
@@ -64,11 +66,11 @@ class PROJECTOR_COMMON_EXPORT PjLinkChannel : public ProjectorChannel {
   PjLinkChannel(const PjLinkChannel&) = delete;
   PjLinkChannel& operator=(const PjLinkChannel&) = delete;
 
-  /// Whether PJLink, of either class, has this command at all.
+  /// Whether PJLink of either class supports this command.
   static bool Has(const PjtCommand& command);
 
   PjtReply Execute(const PjtCommand& command) override;
-  /// For each request of a command; what is asked otherwise has the channel's own time.
+  /// Applies to each request of a command. Other questions have the channel's own time-out.
   void GiveUpAfter(std::chrono::milliseconds time) override { longest_ = time; }
   ConnectionState Connection() const override { return state_; }
   std::optional<SourceList> Inputs() override;
@@ -76,20 +78,21 @@ class PROJECTOR_COMMON_EXPORT PjLinkChannel : public ProjectorChannel {
   bool UseIdleTime() override;
   bool TendConnection(std::chrono::milliseconds unused) override;
 
-  /// Asks for all inputs that are not known yet, as many as a source list holds. The name of one
-  /// that is not told is its kind and place. There are none where the projector tells none now, as
-  /// in standby. False in the second where an answer got lost.
+  /// Asks for all inputs that are not known yet, up to the capacity of a source list. An input
+  /// without a reported name is named by kind and number. Empty if the projector reports no inputs
+  /// now, as in standby. The second value is false if an answer got lost.
   std::pair<std::vector<PjLinkInput>, bool> AskForInputs();
-  /// Asks for the input that plays; what it is called is told in the same way. Nothing where the
-  /// projector does not say. A command that asks for the input next is answered from this one.
+  /// Asks for the present input; its name is determined in the same way. Nothing if the projector
+  /// does not report it. If the next command reads the input, this answer is used for it.
   std::pair<std::optional<PjLinkInput>, bool> AskForPresentInput();
 
-  /// Whether the projector has let us in. It need not have answered anything.
+  /// Whether the projector has accepted the connection and the password. It need not have answered
+  /// anything.
   bool HasGreeted() const { return session_.HasGreeted(); }
 
-  /// What is known by now, to be remembered.
+  /// What is known now, for `Remember` in a later session.
   PjLinkFacts Facts() const;
-  /// Takes for known what is remembered from an earlier session. Before the first command.
+  /// Uses facts from an earlier session. To be called before the first command.
   void Remember(const PjLinkFacts& facts);
 
   /// "host:port".
@@ -98,14 +101,14 @@ class PROJECTOR_COMMON_EXPORT PjLinkChannel : public ProjectorChannel {
  private:
   using Clock = std::chrono::steady_clock;
 
-  /// Begins work and drives the session until it is finished.
+  /// Starts `work` and drives the session until it is finished.
   void Run(const auto& work);
-  void TakeWhatCame();
+  void ReceiveUnsolicited();
   void Drive(const PjLinkStep& step);
   void Connect(const PjLinkStep& step);
   void Listen(std::chrono::milliseconds time);
   bool CanConnect();
-  PjLinkTold Ask(const PjLinkQuestion& question);
+  PjLinkResult Ask(const PjLinkQuestion& question);
 
   const std::string host_;
   const int port_;
@@ -121,8 +124,8 @@ class PROJECTOR_COMMON_EXPORT PjLinkChannel : public ProjectorChannel {
   PjLinkInputs inputs_;
   std::chrono::milliseconds pause_ = limits_.firstPause;
   Clock::time_point nextTry_{};
-  std::mutex toldMutex_;
-  std::optional<SourceList> told_;  ///< Under the mutex.
+  std::mutex inputsMutex_;
+  std::optional<SourceList> reportedInputs_;  ///< Protected by the mutex.
 };
 
 }  // namespace AdvancedControl

@@ -6,7 +6,7 @@
 namespace AdvancedControl {
 
 std::unique_ptr<QIODevice> SerialChannel::Open(const QDeadlineTimer&, ConnectionState&) {
-  const QEventLoop needed;  // a port wants its thread to have what event loops run on
+  const QEventLoop needed;  // creates the thread's event dispatcher, which the port needs
   auto port = std::make_unique<QSerialPort>(QString::fromStdString(device_));
   port->setBaudRate(baud_);
   if (!port->open(QIODevice::ReadWrite)) return nullptr;

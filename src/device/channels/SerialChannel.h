@@ -11,7 +11,8 @@
 
 namespace AdvancedControl {
 
-/// A projector that speaks our wire on a serial line: 8 data bits, no parity, 1 stop bit.
+/// A channel to a projector that speaks the protocol of docs/wire.md on a serial line: 8 data bits,
+/// no parity, 1 stop bit. Threads as for `WireChannel`.
 class PROJECTOR_COMMON_EXPORT SerialChannel final : public WireChannel {
  public:
   /// `device` is the port's path; `baud` its speed in bits per second.

@@ -11,7 +11,8 @@
 
 namespace AdvancedControl {
 
-/// A projector that speaks our wire on a TCP port.
+/// A channel to a projector that speaks the protocol of docs/wire.md over TCP. Threads as for
+/// `WireChannel`.
 class PROJECTOR_COMMON_EXPORT TcpChannel final : public WireChannel {
  public:
   /// `host` is a name or an address.

@@ -15,17 +15,18 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr std::size_t kMostUnanswered = 64;
-constexpr int kIdlePieces = 64;  // taken of what came while nothing was asked
+constexpr int kIdlePieces = 64;  // of unsolicited data, read at once
 
-bool IsForgotten(const std::optional<Wire::Reply>& reply) {
+bool HasForgottenHello(const std::optional<Wire::Reply>& reply) {
   return reply && reply->status == Wire::Status::NoHello;
 }
 
-int Rest(const QDeadlineTimer& deadline) { return static_cast<int>(deadline.remainingTime()); }
+int Remaining(const QDeadlineTimer& deadline) { return static_cast<int>(deadline.remainingTime()); }
 
 }  // namespace
 
-// Counting begins anywhere: on a serial line a late reply may be that to somebody before us.
+// Sequence numbers start at a random value: on a serial line, a late reply may be for the previous
+// program.
 WireChannel::WireChannel(Medium medium, const Limits& limits)
     : medium_(medium),
       limits_(limits),
@@ -40,19 +41,20 @@ PjtReply WireChannel::Execute(const PjtCommand& command) {
     announced_.clear();
     sent_.clear();
   } else if (Clock::now() - lastAsked_ > limits_.answer) {
-    sent_.clear();  // what came during a pause may be as old as that
+    sent_.clear();  // replies received after a pause may be outdated
   }
   if (longest_) giveUpAt_ = Clock::now() + *longest_;
   const auto ask = [&] { return Connect() ? Ask(command) : std::nullopt; };
   auto reply = ask();
-  // It forgot us, as after a restart, and did nothing: so once more, from the hello on.
-  if (IsForgotten(reply)) reply = ask();
+  // The projector has forgotten the hello, for example after a restart, and executed nothing.
+  // Repeats hello and request.
+  if (HasForgottenHello(reply)) reply = ask();
   lastAsked_ = Clock::now();
-  if (IsForgotten(reply)) Fail(ConnectionState::NotUnderstood);
-  // Nothing is carried out without a version in common.
-  const bool isInVain = IsForgotten(reply) || state_ == ConnectionState::OtherVersion;
-  unanswered.unsent = !isSent_ || isInVain;
-  if (!reply || IsForgotten(reply)) return unanswered;
+  if (HasForgottenHello(reply)) Fail(ConnectionState::NotUnderstood);
+  // Without a common version the projector executes nothing.
+  const bool isHopeless = HasForgottenHello(reply) || state_ == ConnectionState::OtherVersion;
+  unanswered.unsent = !isSent_ || isHopeless;
+  if (!reply || HasForgottenHello(reply)) return unanswered;
   unanswered.unsent = false;
   state_ = ConnectionState::Connected;
   switch (reply->status) {
@@ -73,7 +75,7 @@ void WireChannel::Announce(std::span<const PjtCommand> reads) {
 }
 
 bool WireChannel::TendConnection(std::chrono::milliseconds unused) {
-  if (line_ && (unused >= limits_.unused || !TakeWhatCame())) Fail(ConnectionState::Unused);
+  if (line_ && (unused >= limits_.unused || !ReceiveUnsolicited())) Fail(ConnectionState::Unused);
   return line_ != nullptr;
 }
 
@@ -82,8 +84,8 @@ QDeadlineTimer WireChannel::Within(std::chrono::milliseconds time) const {
 }
 
 bool WireChannel::Connect() {
-  if (line_ && TakeWhatCame()) return true;
-  line_.reset();  // a serial port is opened by one alone
+  if (line_ && ReceiveUnsolicited()) return true;
+  line_.reset();  // only one program can open a serial port
   sent_.clear();
   decoder_ = {};
   welcome_.reset();
@@ -97,11 +99,11 @@ bool WireChannel::Connect() {
   hello_ = ++sequence_;
   answered_ = hello_;
   Wire::Append(unsent_, {.sequence = hello_, .message = Wire::Hello{}});
-  // Without noise the first requests go out together with it.
+  // On a reliable line the first requests are sent together with the hello.
   return medium_ == Medium::Reliable || (Write(deadline) && AwaitWelcome());
 }
 
-bool WireChannel::TakeWhatCame() {
+bool WireChannel::ReceiveUnsolicited() {
   for (int i = 0; i < kIdlePieces; ++i) {
     const Arrival arrival = Receive(QDeadlineTimer(0));
     if (arrival != Arrival::Bytes) return arrival == Arrival::Late;
@@ -118,18 +120,18 @@ bool WireChannel::AwaitWelcome() {
 std::optional<Wire::Reply> WireChannel::Ask(const PjtCommand& command) {
   auto own = std::ranges::find(sent_, command, &Sent::command);
   if (own == sent_.end()) {
-    const auto hasRoom = [this] { return Room() > 0; };
+    const auto hasRoom = [this] { return FreeSlots() > 0; };
     if (!Await(hasRoom, QDeadlineTimer(limits_.answer))) return std::nullopt;
     const auto announced = std::ranges::find(announced_, command);
     if (announced == announced_.end()) {
       Send({&command, 1});
-      // Before the rest of a burst, whose replies still count.
+      // Before the rest of a burst, whose replies are still valid.
       sent_.push_front(sent_.back());
       sent_.pop_back();
     } else {
       sent_.clear();
       const std::size_t count =
-          std::min(Room(), static_cast<std::size_t>(announced_.end() - announced));
+          std::min(FreeSlots(), static_cast<std::size_t>(announced_.end() - announced));
       Send({&*announced, count});
       announced_.erase(announced_.begin(), announced + static_cast<std::ptrdiff_t>(count));
     }
@@ -137,12 +139,12 @@ std::optional<Wire::Reply> WireChannel::Ask(const PjtCommand& command) {
     if (!Write(Within(limits_.answer)) || !AwaitWelcome()) return std::nullopt;
     own = sent_.begin();
   }
-  sent_.erase(sent_.begin(), own);  // passed over
+  sent_.erase(sent_.begin(), own);  // drops announced reads that were skipped
   const auto answered = [this] { return sent_.front().reply.has_value(); };
   if (!Await(answered, Within(limits_.answer))) return std::nullopt;
   const auto reply = sent_.front().reply;
   sent_.pop_front();
-  if (IsForgotten(reply)) Fail(ConnectionState::Lost);
+  if (HasForgottenHello(reply)) Fail(ConnectionState::Lost);
   return reply;
 }
 
@@ -153,7 +155,7 @@ void WireChannel::Send(std::span<const PjtCommand> commands) {
   }
 }
 
-std::size_t WireChannel::Room() const {
+std::size_t WireChannel::FreeSlots() const {
   const auto unanswered = static_cast<std::uint16_t>(sequence_ - answered_);
   return kMostUnanswered - std::min<std::size_t>(unanswered, kMostUnanswered);
 }
@@ -163,7 +165,7 @@ bool WireChannel::Write(const QDeadlineTimer& deadline) {
   const auto size = static_cast<qint64>(bytes.size());
   if (line_->write(bytes.data(), size) != size) return Fail(ConnectionState::Lost);
   while (line_->bytesToWrite() > 0) {
-    if (line_->waitForBytesWritten(Rest(deadline))) continue;
+    if (line_->waitForBytesWritten(Remaining(deadline))) continue;
     return Fail(IsAlive(*line_) ? ConnectionState::NoAnswer : ConnectionState::Lost);
   }
   return true;
@@ -178,7 +180,7 @@ bool WireChannel::Await(const auto& arrived, const QDeadlineTimer& deadline) {
         return Fail(ConnectionState::NoAnswer);
       case Arrival::Broken:
         return Fail(ConnectionState::Lost);
-      case Arrival::Strange:
+      case Arrival::Invalid:
         return Fail(ConnectionState::NotUnderstood);
     }
   }
@@ -186,7 +188,7 @@ bool WireChannel::Await(const auto& arrived, const QDeadlineTimer& deadline) {
 }
 
 WireChannel::Arrival WireChannel::Receive(const QDeadlineTimer& deadline) {
-  if (line_->bytesAvailable() == 0 && !line_->waitForReadyRead(Rest(deadline)) &&
+  if (line_->bytesAvailable() == 0 && !line_->waitForReadyRead(Remaining(deadline)) &&
       line_->bytesAvailable() == 0) {
     return IsAlive(*line_) ? Arrival::Late : Arrival::Broken;
   }
@@ -196,10 +198,10 @@ WireChannel::Arrival WireChannel::Receive(const QDeadlineTimer& deadline) {
   decoder_.Add({piece.data(), static_cast<std::size_t>(size)});
   while (const auto frame = decoder_.Next()) Take(*frame);
   const bool strange = medium_ == Medium::Reliable && decoder_.Skipped() > 0;
-  return strange ? Arrival::Strange : Arrival::Bytes;
+  return strange ? Arrival::Invalid : Arrival::Bytes;
 }
 
-// What belongs to no request, or comes a second time, is nobody's.
+// Drops frames that belong to no request, and second replies.
 void WireChannel::Take(const Wire::Frame& frame) {
   if (const auto* welcome = std::get_if<Wire::Welcome>(&frame.message)) {
     if (frame.sequence == hello_ && !welcome_) welcome_ = *welcome;

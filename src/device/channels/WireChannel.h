@@ -20,20 +20,21 @@ class QIODevice;
 
 namespace AdvancedControl {
 
-/// A projector at the other end of a line that carries the frames of docs/wire.md.
+/// Base of channels to a projector over a line with the protocol of docs/wire.md.
 ///
-/// Connects when the first command is given, and again with the next command after the connection
-/// was lost; where there is no noise, that command goes out right behind the hello. A projector
-/// that has forgotten the hello is told again. A command whose reply does not come in time, or
-/// during which the connection breaks, is unanswered and was carried out at most once; its reply is
-/// nobody's if it comes later. All commands come from one thread, as those behind a
-/// `BoundedChannel` do.
+/// Connects with the first command, and again with the next command after the connection is lost.
+/// On a reliable line the command is sent right after the hello. If the projector has forgotten the
+/// hello, it is repeated. A command whose reply does not come in time, or during which the
+/// connection breaks, is unanswered; it was carried out at most once, and a later reply is dropped.
+/// Call `Execute` and the other functions from one thread, as a `BoundedChannel` does; `Connection`
+/// from any thread.
 class PROJECTOR_COMMON_EXPORT WireChannel : public ProjectorChannel {
  public:
   struct Limits {
-    std::chrono::milliseconds connect{1500};  ///< Until the projector has welcomed us.
+    std::chrono::milliseconds connect{1500};  ///< Until the projector's welcome.
     std::chrono::milliseconds answer{1500};
-    std::chrono::milliseconds unused{20'000};  ///< Then the connection is closed.
+    std::chrono::milliseconds unused{
+        20'000};  ///< Time without use after which the connection is closed.
   };
 
   ~WireChannel() override;
@@ -42,9 +43,9 @@ class PROJECTOR_COMMON_EXPORT WireChannel : public ProjectorChannel {
 
   PjtReply Execute(const PjtCommand& command) override;
 
-  /// The reads go out in one burst when the first of them is executed. A reply counts for its own
-  /// command in the order announced, as long as neither a change came in between nor a pause longer
-  /// than the time for answering; that time counts anew for each.
+  /// The reads are sent in one burst when the first of them is executed. Replies are used in the
+  /// order announced, until a change comes in between, or a pause longer than the time for an
+  /// answer. That time starts anew with each reply.
   void Announce(std::span<const PjtCommand> reads) override;
 
   void GiveUpAfter(std::chrono::milliseconds time) override { longest_ = time; }
@@ -59,40 +60,41 @@ class PROJECTOR_COMMON_EXPORT WireChannel : public ProjectorChannel {
 
  protected:
   enum class Medium {
-    Reliable,  ///< Bytes that are no frame show that no projector is there.
-    Noisy,     ///< Such bytes are skipped. Everything is said one at a time.
+    Reliable,  ///< Bytes that are not part of a frame mean that no projector is at the other end.
+    Noisy,     ///< Such bytes are skipped. Requests are sent one at a time.
   };
 
   WireChannel(Medium medium, const Limits& limits);
 
-  /// A line that is open for reading and writing, or null; `problem` then says why.
+  /// Opens the line for reading and writing. On failure returns null and sets `problem`.
   virtual std::unique_ptr<QIODevice> Open(const QDeadlineTimer& deadline,
                                           ConnectionState& problem) = 0;
   /// Whether a line from `Open` can still be used.
   virtual bool IsAlive(QIODevice& line) const = 0;
 
  private:
-  /// A request on its way, and its reply once it is there.
+  /// A request that was sent, and its reply once it has arrived.
   struct Sent {
     PjtCommand command;
     std::uint16_t sequence;
     std::optional<Wire::Reply> reply;
   };
-  enum class Arrival { Bytes, Late, Broken, Strange };
+  enum class Arrival { Bytes, Late, Broken, Invalid };
 
-  /// From now on, but not longer than the command may take.
+  /// A deadline after `time`, but not after that of the command.
   QDeadlineTimer Within(std::chrono::milliseconds time) const;
   bool Connect();
-  /// Takes what came while nothing was asked: late replies, or the end of the connection. Whether
-  /// that stands.
-  bool TakeWhatCame();
+  /// Reads what arrived without a request: late replies, or the end of the connection. Returns
+  /// whether the connection still exists.
+  bool ReceiveUnsolicited();
   bool AwaitWelcome();
   std::optional<Wire::Reply> Ask(const PjtCommand& command);
   void Send(std::span<const PjtCommand> commands);
-  /// How many more requests may be unanswered. The replies come in the order of the requests.
-  std::size_t Room() const;
+  /// How many more requests may be sent without waiting for a reply. Replies come in the order of
+  /// the requests.
+  std::size_t FreeSlots() const;
   bool Write(const QDeadlineTimer& deadline);
-  /// Receives until `arrived`; false, and the connection is gone, if that does not come to pass.
+  /// Receives until `arrived` returns true. Otherwise closes the connection and returns false.
   bool Await(const auto& arrived, const QDeadlineTimer& deadline);
   Arrival Receive(const QDeadlineTimer& deadline);
   void Take(const Wire::Frame& frame);
@@ -103,15 +105,16 @@ class PROJECTOR_COMMON_EXPORT WireChannel : public ProjectorChannel {
   std::atomic<ConnectionState> state_ = ConnectionState::Unused;
   std::unique_ptr<QIODevice> line_;
   Wire::Decoder decoder_;
-  std::uint16_t sequence_;      ///< Of the last frame made.
-  std::uint16_t hello_ = 0;     ///< The sequence number of ours.
-  std::uint16_t answered_ = 0;  ///< That of the last request answered, or of the hello before.
+  std::uint16_t sequence_;   ///< Of the last frame sent.
+  std::uint16_t hello_ = 0;  ///< Sequence number of our hello.
+  std::uint16_t answered_ =
+      0;  ///< Sequence number of the last answered request, or of the hello before that.
   std::optional<Wire::Welcome> welcome_;
   std::chrono::steady_clock::time_point welcomeBy_{};
-  std::optional<std::chrono::milliseconds> longest_;  ///< For a command.
+  std::optional<std::chrono::milliseconds> longest_;  ///< Time-out of a command.
   std::chrono::steady_clock::time_point giveUpAt_ = std::chrono::steady_clock::time_point::max();
-  bool isSent_ = false;                ///< The command under way, as far as that may be.
-  std::string unsent_;                 ///< Goes out with the next write.
+  bool isSent_ = false;                ///< Whether the present command may have been sent.
+  std::string unsent_;                 ///< Sent with the next write.
   std::vector<PjtCommand> announced_;  ///< Not sent yet.
   std::deque<Sent> sent_;
   std::chrono::steady_clock::time_point lastAsked_{};

@@ -12,9 +12,9 @@ void PjLinkConnection::Ask(PjLinkRequest request, PjLinkLimits::Time time, PjLin
   request_ = std::move(request);
   answerTime_ = time;
   answer_ = {};
-  sawOther_ = false;
+  sawOtherLine_ = false;
   mayRepeat_ = request_.parameter.starts_with(PjLink::kQuery);
-  // The rest of a line that has begun would come later.
+  // The rest of an incomplete line would arrive later.
   if (reader_.HasPart()) Drop();
   if (!isOpen_) return Open(now);
   stage_ = !mayRepeat_ && replies_ == 1 ? Stage::Settling : Stage::Sending;
@@ -23,10 +23,10 @@ void PjLinkConnection::Ask(PjLinkRequest request, PjLinkLimits::Time time, PjLin
 
 PjLinkStep PjLinkConnection::Next(PjLinkTime now) {
   const bool isLate = now >= until_;
-  if (stage_ == Stage::Connecting && isLate) Lose(ConnectionState::NotReachable);
-  if (stage_ == Stage::Greeting && isLate) Lose(ConnectionState::NoAnswer);
+  if (stage_ == Stage::Connecting && isLate) GiveUp(ConnectionState::NotReachable);
+  if (stage_ == Stage::Greeting && isLate) GiveUp(ConnectionState::NoAnswer);
   if (stage_ == Stage::Awaiting && isLate) {
-    Lose(sawOther_ ? ConnectionState::NotUnderstood : ConnectionState::NoAnswer);
+    GiveUp(sawOtherLine_ ? ConnectionState::NotUnderstood : ConnectionState::NoAnswer);
   }
   if (std::exchange(closes_, false)) return {.kind = Kind::Close};
   switch (stage_) {
@@ -70,10 +70,10 @@ void PjLinkConnection::Received(std::string_view bytes, PjLinkTime now) {
   while (isOpen_) {
     const auto line = reader_.Next();
     if (!line) break;
-    if (stage_ == Stage::Greeting) TakeGreeting(*line);
-    if (stage_ == Stage::Awaiting) TakeReply(*line, now);
+    if (stage_ == Stage::Greeting) HandleGreeting(*line);
+    if (stage_ == Stage::Awaiting) HandleReply(*line, now);
   }
-  if (reader_.IsTooLong()) Lose(ConnectionState::NotUnderstood);
+  if (reader_.IsTooLong()) GiveUp(ConnectionState::NotUnderstood);
 }
 
 void PjLinkConnection::Closed(PjLinkTime now) {
@@ -109,7 +109,7 @@ void PjLinkConnection::Open(PjLinkTime now) {
 }
 
 void PjLinkConnection::OpenLater(ConnectionState problem, PjLinkTime now) {
-  // No time was left to look up a name that is known.
+  // The look-up of a known name ran out of time.
   const bool isUnknown = problem == ConnectionState::NameUnknown;
   if (isUnknown && problem_) problem = *problem_;
   problem_ = problem;
@@ -119,18 +119,18 @@ void PjLinkConnection::OpenLater(ConnectionState problem, PjLinkTime now) {
   pause_ *= 2;
 }
 
-void PjLinkConnection::TakeGreeting(std::string_view line) {
+void PjLinkConnection::HandleGreeting(std::string_view line) {
   const auto seed = PjLink::ParseGreeting(line);
   if (!seed) {
-    return Lose(PjLink::SameWord(line, PjLink::kWrongPassword) ? ConnectionState::PasswordRequired
-                                                               : ConnectionState::NotUnderstood);
+    return GiveUp(PjLink::SameWord(line, PjLink::kWrongPassword) ? ConnectionState::PasswordRequired
+                                                                 : ConnectionState::NotUnderstood);
   }
   proof_ = seed->empty() ? std::string() : PjLink::Digest(*seed, password_);
   hasGreeted_ = true;
   stage_ = Stage::Sending;
 }
 
-void PjLinkConnection::TakeReply(const std::string& line, PjLinkTime now) {
+void PjLinkConnection::HandleReply(const std::string& line, PjLinkTime now) {
   const auto reply = PjLink::Parse(line);
   const bool isReply = reply && reply->separator == '=';
   if (isReply && PjLink::SameWord(reply->command, request_.command)) {
@@ -140,22 +140,22 @@ void PjLinkConnection::TakeReply(const std::string& line, PjLinkTime now) {
     return Finish(ConnectionState::Connected);
   }
   if (PjLink::SameWord(line, PjLink::kWrongPassword)) {
-    answer_.sent = false;  // nothing is carried out without it
+    answer_.sent = false;  // without it the projector carries nothing out
     hasGreeted_ = false;
-    return Lose(ConnectionState::PasswordRequired);
+    return GiveUp(ConnectionState::PasswordRequired);
   }
   if (isReply) return;
-  // The answer to a change may follow.
-  sawOther_ = true;
+  // The answer to a change may still follow.
+  sawOtherLine_ = true;
   if (std::exchange(mayRepeat_, false)) {
     stage_ = Stage::Sending;
   } else if (request_.parameter.starts_with(PjLink::kQuery)) {
-    Lose(ConnectionState::NotUnderstood);
+    GiveUp(ConnectionState::NotUnderstood);
   }
 }
 
-/// Gives the request and the connection up.
-void PjLinkConnection::Lose(ConnectionState problem) {
+/// Gives up the request and the connection.
+void PjLinkConnection::GiveUp(ConnectionState problem) {
   Drop();
   if (stage_ != Stage::Idle) Finish(problem);
 }

@@ -14,13 +14,13 @@ namespace AdvancedControl {
 
 using PjLinkTime = std::chrono::steady_clock::time_point;
 
-/// What a driver has to do next.
+/// What the driver has to do next.
 struct PjLinkStep {
   enum class Kind {
-    Finished,  ///< Nothing: the answer is there.
-    Connect,   ///< Connect, and say what came of it; nobody waits longer than `until`.
+    Finished,  ///< Nothing: the answer is available.
+    Connect,   ///< Connect until `until` at the latest, and report the result.
     Send,      ///< Send `bytes`.
-    Wait,      ///< Pass on what happens until `until`, then ask again what is next.
+    Wait,      ///< Report events until `until`, then call `Next` again.
     Close,     ///< Close the connection.
   };
 
@@ -36,56 +36,57 @@ struct PjLinkRequest {
 };
 
 struct PjLinkAnswer {
-  /// The reply's, `OK` and errors included; nothing where no reply came.
+  /// Parameter of the reply, which may be `OK` or an error; nothing without a reply.
   std::optional<std::string> parameter{};
-  bool sent = false;  ///< Whether the request may have been carried out.
+  bool sent = false;  ///< Whether the projector may have carried out the request.
 };
 
 struct PjLinkLimits {
   using Time = std::chrono::milliseconds;
 
-  Time connect{2000};  ///< Until the projector has greeted, with all attempts.
+  Time connect{2000};  ///< For all attempts, until the projector's greeting.
   Time answer{2000};   ///< For each request.
-  /// Before the second attempt to connect; it doubles before each further one. Some projectors need
-  /// a while from one connection to the next.
+  /// Pause before the second attempt to connect; doubled before each further one. Some projectors
+  /// need a while between two connections.
   Time pause{50};
-  /// How long after its first reply a projector that closes the connection after each one may take
-  /// to do so.
+  /// The longest time that a projector which closes the connection after each reply may take to do
+  /// so.
   Time closing{100};
 };
 
-/// The connection to a PJLink projector as one request after the other needs it, without a socket
-/// and without a clock: a driver owns both, does each `Next` step, and passes on what happens. Then
-/// it asks again for the next step, until the request is finished.
+/// The connection to a PJLink projector, for one request after the other. It has no socket and no
+/// clock: a driver owns both, performs each step that `Next` returns, reports what happens, and
+/// calls `Next` again until the request is finished. Use from one thread at a time.
 ///
-/// Connects when there is a request and no connection; where nobody listens, or the projector
-/// closes the connection without a greeting, again and again until the time is over, with growing
-/// pauses. The connection then stands until the projector closes it, a request stays unanswered, or
-/// what comes is no PJLink.
+/// Connects when there is a request but no connection. If nobody listens, or the projector closes
+/// the connection without a greeting, it tries again until the time-out, with growing pauses. The
+/// connection stays open until the projector closes it, a request stays unanswered, or something
+/// other than PJLink arrives.
 ///
-/// A change is not sent on a connection that is just ending: it would be lost, and nobody could
-/// tell whether it was carried out. Behind the first reply of a connection it therefore waits
-/// whether the projector closes it. One that has not done so keeps the connection for further
-/// requests.
+/// A change must not be sent on a connection that is about to end: it would be lost, and it would
+/// be unknown whether it was carried out. Therefore the first change after the first reply of a
+/// connection waits whether the projector closes the connection. If it does not, the connection is
+/// used for all further requests.
 ///
-/// A question is asked once more where its connection broke or something else than a reply came; a
-/// change never is. One request is under way at a time: replies bear no number, and a projector
-/// need not take a second request before it has answered the first. Replies to other commands are
-/// dropped, as is what comes unasked. The class in a reply is not looked at, as some always say 1.
+/// A question is repeated once if its connection broke or a line other than its reply came; a
+/// change is never repeated. Only one request is under way at a time, because replies have no
+/// number, and a projector need not accept a second request before it has answered the first.
+/// Replies to other commands and unsolicited lines are dropped. The class in a reply is ignored,
+/// because some projectors always send 1.
 class PROJECTOR_COMMON_EXPORT PjLinkConnection {
  public:
   PjLinkConnection(std::string password, const PjLinkLimits& limits)
       : password_(std::move(password)), limits_(limits) {}
 
-  /// Begins a request. `time` is that for its answer.
+  /// Starts a request. `time` is the time-out for its answer.
   void Ask(PjLinkRequest request, PjLinkLimits::Time time, PjLinkTime now);
   PjLinkStep Next(PjLinkTime now);
   const PjLinkAnswer& Answer() const { return answer_; }
   ConnectionState State() const { return state_; }
-  /// Whether the projector has let us in at least once, and did not turn the password down.
+  /// Whether the projector has accepted a connection, and the password, at least once.
   bool HasGreeted() const { return hasGreeted_; }
 
-  // What happens, at any time.
+  // Reports of the driver; allowed at any time.
 
   void Connected();
   void NotConnected(ConnectionState problem, PjLinkTime now);
@@ -97,9 +98,9 @@ class PROJECTOR_COMMON_EXPORT PjLinkConnection {
 
   void Open(PjLinkTime now);
   void OpenLater(ConnectionState problem, PjLinkTime now);
-  void TakeGreeting(std::string_view line);
-  void TakeReply(const std::string& line, PjLinkTime now);
-  void Lose(ConnectionState problem);
+  void HandleGreeting(std::string_view line);
+  void HandleReply(const std::string& line, PjLinkTime now);
+  void GiveUp(ConnectionState problem);
   void Finish(ConnectionState state);
   void Drop();
 
@@ -109,22 +110,22 @@ class PROJECTOR_COMMON_EXPORT PjLinkConnection {
   PjLinkLimits::Time answerTime_{};
   PjLinkAnswer answer_;
   bool mayRepeat_ = false;
-  bool sawOther_ = false;  ///< A line that is no reply, since the request was sent.
+  bool sawOtherLine_ = false;  ///< A line other than a reply came after the request was sent.
 
   Stage stage_ = Stage::Idle;
   ConnectionState state_ = ConnectionState::Unused;
   bool hasGreeted_ = false;
-  bool isOpen_ = false;  ///< As far as the driver has told.
-  bool closes_ = false;  ///< The driver is to close it.
-  int replies_ = 0;      ///< On this connection.
+  bool isOpen_ = false;  ///< As reported by the driver.
+  bool closes_ = false;  ///< The driver must close it.
+  int replies_ = 0;      ///< Number of replies on this connection.
   PjLinkTime repliedAt_{};
   PjLinkTime until_{};  ///< End of the pause, of connecting, of settling, or of waiting for the
                         ///< answer.
   PjLinkTime connectBy_{};
   PjLinkLimits::Time pause_{};
-  std::optional<ConnectionState> problem_;  ///< Of the last attempt to connect.
+  std::optional<ConnectionState> problem_;  ///< Result of the last attempt to connect.
   PjLinkReader reader_;
-  std::string proof_;  ///< Goes before the session's first request.
+  std::string proof_;  ///< Sent before the session's first request.
 };
 
 }  // namespace AdvancedControl

@@ -11,7 +11,8 @@ namespace AdvancedControl {
 namespace {
 
 constexpr std::size_t kMostInputs = SourceList::kCapacity;
-constexpr std::size_t kLongestName = 128;  // bytes; some tell more than they may
+constexpr std::size_t kLongestName =
+    128;  // in bytes; some projectors send more than the standard allows
 
 std::string NameByCode(const std::string& code) {
   constexpr std::array kKinds{"RGB", "Video", "Digital", "Storage", "Network", "Internal"};
@@ -47,18 +48,19 @@ std::optional<PjLinkQuestion> PjLinkInputs::Next() const {
   return code ? NameOf(*PjLink::InputNumber(*code)) : std::nullopt;
 }
 
-bool PjLinkInputs::Take(const PjLinkTold& told) {
-  const bool isTold = told.kind == PjLinkTold::Kind::Text || told.kind == PjLinkTold::Kind::None;
+bool PjLinkInputs::Take(const PjLinkResult& result) {
+  const bool isTold =
+      result.kind == PjLinkResult::Kind::Text || result.kind == PjLinkResult::Kind::None;
   if (!isTold) return false;
   if (codes_.empty()) {
-    codes_ = PjLink::InputCodes(told.text);
+    codes_ = PjLink::InputCodes(result.text);
     return !codes_.empty();
   }
-  if (const auto code = NextCode()) Add(Named(*PjLink::InputNumber(*code), told.text));
+  if (const auto code = NextCode()) Add(Named(*PjLink::InputNumber(*code), result.text));
   return true;
 }
 
-void PjLinkInputs::PassOver() {
+void PjLinkInputs::SkipName() {
   if (const auto code = NextCode()) Add(Named(*PjLink::InputNumber(*code), {}));
 }
 
@@ -82,11 +84,11 @@ PjLinkInput PjLinkInputs::Named(int number, const std::string& name) {
           name.empty() && code ? NameByCode(*code) : std::string(CutText(name, kLongestName))};
 }
 
-/// The input to ask for next; nothing when all are known.
+/// The input to ask for next; nothing if all are known.
 std::optional<std::string> PjLinkInputs::NextCode() const {
   if (inputs_.size() < std::min(codes_.size(), kMostInputs)) return codes_[inputs_.size()];
-  const auto isPlaying = [this](const PjLinkInput& input) { return input.number == playing_; };
-  return std::ranges::any_of(inputs_, isPlaying) ? std::nullopt : PjLink::InputCode(playing_);
+  const auto isPlaying = [this](const PjLinkInput& input) { return input.number == present_; };
+  return std::ranges::any_of(inputs_, isPlaying) ? std::nullopt : PjLink::InputCode(present_);
 }
 
 void PjLinkInputs::Add(PjLinkInput input) {

@@ -17,7 +17,7 @@ constexpr std::size_t kSeedLength = 8;
 constexpr std::size_t kHeadLength = 7;  // %1POWR=
 constexpr std::size_t kMostHourDigits = 9;
 
-/// The error status that each digit of the reply stands for.
+/// The error status for each digit of the reply.
 constexpr std::array kErrorOfDigit{2, 3, 4, 1, 8, 9};
 
 // Independent of the locale.

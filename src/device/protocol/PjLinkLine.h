@@ -12,10 +12,10 @@
 
 namespace AdvancedControl {
 
-/// The lines of PJLink, the open standard for controlling projectors of any maker over TCP, and
-/// what their parameters are in device values. Lines are given here without their end, a CR.
+/// The lines of PJLink, the open standard for controlling projectors over TCP, and the conversion
+/// of their parameters to device values. Lines are passed without their closing CR.
 ///
-/// What is not understood yields nothing; no text whatever does harm.
+/// Text may be untrusted: the functions return nothing for invalid text. Any thread.
 namespace PjLink {
 
 inline constexpr int kPort = 4352;
@@ -33,7 +33,7 @@ inline constexpr std::string_view kFailure = "ERR4";
 /// A request or a reply.
 struct Line {
   char protocolClass = '1';  ///< A digit.
-  std::string command;       ///< Four letters or digits, in the case in which they came.
+  std::string command;       ///< Four letters or digits, in their original case.
   char separator = ' ';      ///< ' ' in a request, '=' in a reply.
   std::string parameter;
 };
@@ -41,39 +41,40 @@ struct Line {
 PROJECTOR_COMMON_EXPORT std::string Format(const Line& line);
 PROJECTOR_COMMON_EXPORT std::optional<Line> Parse(std::string_view text);
 
-/// Whether the words are the same but for the case of ASCII letters.
+/// Whether the words are equal, ignoring the case of ASCII letters.
 PROJECTOR_COMMON_EXPORT bool SameWord(std::string_view a, std::string_view b);
 
-/// The line with which a projector opens a session. An empty seed: without password.
+/// The line with which a projector opens a session. `seed` is empty for a session without a
+/// password.
 PROJECTOR_COMMON_EXPORT std::string FormatGreeting(std::string_view seed);
 /// The seed of a greeting.
 PROJECTOR_COMMON_EXPORT std::optional<std::string> ParseGreeting(std::string_view text);
-/// What proves the password, 32 characters before a session's first request.
+/// The proof of the password: 32 characters, sent before a session's first request.
 PROJECTOR_COMMON_EXPORT std::string Digest(std::string_view seed, std::string_view password);
 
 // Parameters as device values.
 
-/// '2' for class 2 and any above, which has all of class 2; '1' for any other text.
+/// '2' for class 2 and higher classes, which include class 2; '1' for any other text.
 PROJECTOR_COMMON_EXPORT char ProtocolClass(std::string_view parameter);
 PROJECTOR_COMMON_EXPORT std::optional<PowerState> Power(std::string_view parameter);
-/// The running state: warming up is on, too.
+/// The running state, in which warming up is on.
 PROJECTOR_COMMON_EXPORT std::optional<int> PowerStatus(std::string_view parameter);
 PROJECTOR_COMMON_EXPORT std::optional<int> ErrorStatus(std::string_view parameter);
 PROJECTOR_COMMON_EXPORT std::optional<int> Blank(std::string_view parameter);
 PROJECTOR_COMMON_EXPORT std::optional<int> Mute(std::string_view parameter);
 PROJECTOR_COMMON_EXPORT std::optional<int> Switch(std::string_view parameter);
-/// Hours; more than a device value holds, 65,535, are as many as that.
+/// Hours, limited to 65,535, the largest device value.
 PROJECTOR_COMMON_EXPORT std::optional<int> Hours(std::string_view parameter);
-/// Hours of the first lamp; whether it burns may be missing.
+/// Hours of the first lamp. Whether the lamp is on may be missing in the text.
 PROJECTOR_COMMON_EXPORT std::optional<int> LampHours(std::string_view parameter);
-/// The number of an input: "31" is 31; letters go on from 9, so "3A" is 310 and "3Z" is 335.
+/// The number of an input: "31" is 31. Letters follow 9, so "3A" is 310 and "3Z" is 335.
 PROJECTOR_COMMON_EXPORT std::optional<int> InputNumber(std::string_view code);
 
-/// The input's two characters.
+/// The code of an input: two characters.
 PROJECTOR_COMMON_EXPORT std::optional<std::string> InputCode(int number);
-/// The codes in a list of inputs; what is none is passed over.
+/// The codes in a list of inputs. Invalid entries are skipped.
 PROJECTOR_COMMON_EXPORT std::vector<std::string> InputCodes(std::string_view list);
-/// The error status's six digits.
+/// The six digits for an error status.
 PROJECTOR_COMMON_EXPORT std::string ErrorDigits(int errorStatus);
 
 }  // namespace PjLink

@@ -32,8 +32,8 @@ constexpr auto kFreezeOrRun = OneOf<'1', '0'>;
 constexpr auto kPictureMuted = PartMuted<'1'>;
 constexpr auto kSoundMuted = PartMuted<'2'>;
 
-// A projector that warms up or cools down does what it was told.
-std::optional<int> PowerAim(std::string_view parameter) {
+// A projector that is warming up or cooling down has accepted the change.
+std::optional<int> PowerTarget(std::string_view parameter) {
   const auto power = PjLink::Power(parameter);
   if (!power) return std::nullopt;
   return power == PowerState::On || power == PowerState::WarmingUp ? 1 : 0;
@@ -41,8 +41,8 @@ std::optional<int> PowerAim(std::string_view parameter) {
 
 constexpr PjLinkMapping kMappings[] = {
     {Op::Get, CommandCode::RunningState, "POWR", First, Query, PjLink::PowerStatus},
-    {Op::SetPowerOn, 0, "POWR", First, On, PowerAim},
-    {Op::SetPowerOff, 0, "POWR", First, Off, PowerAim},
+    {Op::SetPowerOn, 0, "POWR", First, On, PowerTarget},
+    {Op::SetPowerOff, 0, "POWR", First, Off, PowerTarget},
     {Op::Get, CommandCode::InputSource, "INPT", Either, Query, PjLink::InputNumber},
     {Op::GetInputSource, 0, "INPT", Either, Query, PjLink::InputNumber},
     {Op::Set, CommandCode::InputSource, "INPT", Either, PjLink::InputCode, PjLink::InputNumber},
@@ -71,7 +71,7 @@ const PjLinkMapping* PjLinkMapping::Find(const PjtCommand& command) {
   return found == std::end(kMappings) ? nullptr : found;
 }
 
-int PjLinkAim(const PjtCommand& change) {
+int PjLinkTarget(const PjtCommand& change) {
   return change.operation == Op::SetPowerOn ? 1 : change.first;
 }
 

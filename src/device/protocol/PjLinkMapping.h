@@ -10,30 +10,30 @@
 
 namespace AdvancedControl {
 
-/// The classes of the protocol that have a command.
+/// The protocol classes that have a command.
 enum class PjLinkClass : std::uint8_t {
   First,
   Second,
-  Either,  ///< In both, with more values in the second.
+  Either,  ///< Both, with more values in the second.
 };
 
-/// One operation as PJLink has it.
+/// One operation in PJLink.
 struct PjLinkMapping {
   PjtOperation operation;
   std::uint16_t code;
   std::string_view command;
   PjLinkClass protocolClass;
-  /// The request's parameter for a value; nothing when there is no such value.
+  /// The request's parameter for a value; nothing if PJLink does not have the value.
   std::optional<std::string> (*parameter)(int value);
-  /// What the reply to the question for the same command says: the value of a read, and what a
-  /// change led to. Null where the command has no question.
+  /// Converts the reply to the question of the same command to the value of a read, or to the value
+  /// that a change has led to. Null if the command has no question.
   std::optional<int> (*value)(std::string_view) = nullptr;
 
-  /// How the operation is said in PJLink, or null.
+  /// The mapping of a command, or null if PJLink does not have it.
   static const PjLinkMapping* Find(const PjtCommand& command);
 };
 
-/// The value that a change leads to, as its mapping's `value` says it.
-int PjLinkAim(const PjtCommand& change);
+/// The value that the mapping's `value` returns once a change has taken effect.
+int PjLinkTarget(const PjtCommand& change);
 
 }  // namespace AdvancedControl

@@ -9,19 +9,19 @@
 
 namespace AdvancedControl {
 
-/// The lines in bytes that arrive in pieces of any size. A line ends with CR, LF or both. Zero
-/// bytes, which some projectors put around their lines, and empty lines count for nothing.
+/// Splits bytes that arrive in pieces of any size into lines. A line ends with CR, LF or both.
+/// Ignores empty lines, and zero bytes, which some projectors send around their lines.
 class PjLinkReader {
  public:
-  /// Far more than the standard allows, as some names are longer than that.
+  /// Far more than the standard allows, because some names are too long.
   static constexpr std::size_t kLongest = 4096;
 
   void Add(std::string_view bytes);
-  /// The next line without its end, or nothing as long as none is complete.
+  /// The next line without its end; nothing if none is complete yet.
   std::optional<std::string> Next();
-  /// Whether a line has begun and not ended.
+  /// Whether an incomplete line has arrived.
   bool HasPart() const { return !bytes_.empty(); }
-  /// Whether that one is longer than any line may be.
+  /// Whether the incomplete line is longer than any line may be.
   bool IsTooLong() const { return bytes_.size() > kLongest; }
   void Clear() { bytes_.clear(); }
 

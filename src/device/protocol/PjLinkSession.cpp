@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::chrono::seconds kFresh{1};
 constexpr int kMostLost = 1;
-/// Before it is asked again for the first time; then it doubles, up to the longest one.
+/// Pause before the first repetition; doubled for each further one, up to the longest pause.
 constexpr std::chrono::milliseconds kFirstPause{100};
 constexpr std::chrono::milliseconds kLongestPause{1000};
 
@@ -45,12 +45,12 @@ void PjLinkSession::Begin(const PjtCommand& command, PjLinkTime now) {
   }
   parameter_ = *parameter;
   Reset();
-  if (!TakeKept(now)) BeginWork(mapping_->protocolClass, now);
+  if (!AnswerFromKept(now)) BeginWork(mapping_->protocolClass, now);
 }
 
 void PjLinkSession::Begin(PjLinkQuestion question, PjLinkTime now) {
   mapping_ = nullptr;
-  told_ = {};
+  result_ = {};
   question_ = std::move(question);
   Reset();
   BeginWork(question_.protocolClass, now);
@@ -61,20 +61,20 @@ PjLinkStep PjLinkSession::Next(PjLinkTime now) {
     PjLinkStep step = connection_.Next(now);
     if (step.kind != PjLinkStep::Kind::Finished) return step;
     if (stage_ != Stage::Pausing) {
-      Take(connection_.Answer(), now);
+      Handle(connection_.Answer(), now);
     } else if (now < resumeAt_) {
       return {.kind = PjLinkStep::Kind::Wait, .until = resumeAt_};
     } else {
       Resume(now);
     }
   }
-  return connection_.Next(now);  // it may have to be closed
+  return connection_.Next(now);  // the connection may have to be closed
 }
 
 void PjLinkSession::Reset() {
-  lost_ = 0;
-  asked_ = false;
-  strange_ = false;
+  lostAnswers_ = 0;
+  askedForPower_ = false;
+  gotGarbledValue_ = false;
   askUntil_.reset();
   pause_ = kFirstPause;
 }
@@ -87,11 +87,11 @@ void PjLinkSession::BeginWork(PjLinkClass needed, PjLinkTime now) {
   }
 }
 
-/// The class is known by now, if it can be.
+/// The class is known now, unless the projector does not report it.
 void PjLinkSession::AskForWork(PjLinkTime now) {
   const PjLinkClass needed = mapping_ ? mapping_->protocolClass : question_.protocolClass;
   if (needed == PjLinkClass::Second && class_ == '1') {
-    told_.kind = PjLinkTold::Kind::None;
+    result_.kind = PjLinkResult::Kind::None;
     PjtReply reply = Refused();
     reply.offered = false;
     return Finish(reply);
@@ -122,63 +122,65 @@ void PjLinkSession::Ask(Stage stage, std::string_view command, std::string_view 
 void PjLinkSession::AskAfterPause(Stage stage, PjLinkTime now) {
   resumeAt_ = std::min(now + pause_, *askUntil_);
   pause_ = std::min(2 * pause_, PjLinkLimits::Time(kLongestPause));
-  resumed_ = stage;
+  resumedStage_ = stage;
   stage_ = Stage::Pausing;
 }
 
 void PjLinkSession::Resume(PjLinkTime now) {
-  if (resumed_ == Stage::Confirm) {
+  if (resumedStage_ == Stage::Confirm) {
     Ask(Stage::Confirm, mapping_->command, PjLink::kQuery, now);
   } else {
     AskForWork(now);
   }
 }
 
-void PjLinkSession::Take(const PjLinkAnswer& answer, PjLinkTime now) {
+void PjLinkSession::Handle(const PjLinkAnswer& answer, PjLinkTime now) {
   switch (stage_) {
     case Stage::Class:
-      return TakeClass(answer, now);
+      return HandleClass(answer, now);
     case Stage::Power:
-      return TakePower(answer, now);
+      return HandlePower(answer, now);
     case Stage::Confirm:
-      return TakeConfirmation(answer, now);
+      return HandleConfirmation(answer, now);
     case Stage::Question:
-      return TakeTold(answer, now);
+      return HandleQuestionAnswer(answer, now);
     default:
       if (answer.parameter && IsRead(command_.operation)) {
         Keep(*answer.parameter, keepsLast_ ? nullptr : mapping_->value, now);
       }
-      return TakeCommand(answer, now);
+      return HandleCommand(answer, now);
   }
 }
 
-void PjLinkSession::TakeClass(const PjLinkAnswer& answer, PjLinkTime now) {
+void PjLinkSession::HandleClass(const PjLinkAnswer& answer, PjLinkTime now) {
   if (!answer.parameter) {
-    if (answer.sent && lost_++ < kMostLost) return Ask(Stage::Class, "CLSS", PjLink::kQuery, now);
+    if (answer.sent && lostAnswers_++ < kMostLost)
+      return Ask(Stage::Class, "CLSS", PjLink::kQuery, now);
     PjtReply reply = Refused();
     reply.answered = false;
-    reply.unsent = true;  // the command itself has not left
+    reply.unsent = true;  // the command itself was not sent
     return Finish(reply);
   }
-  const bool isTold =
+  const bool isReported =
       !IsError(*answer.parameter) || PjLink::SameWord(*answer.parameter, PjLink::kUndefined);
-  if (isTold) {
+  if (isReported) {
     class_ = PjLink::ProtocolClass(*answer.parameter);
     isClassRemembered_ = false;
   }
   AskForWork(now);
 }
 
-void PjLinkSession::TakeCommand(const PjLinkAnswer& answer, PjLinkTime now) {
+void PjLinkSession::HandleCommand(const PjLinkAnswer& answer, PjLinkTime now) {
   PjtReply reply = Refused();
   if (!answer.parameter) {
-    // Another projector may come, or have come since the class was remembered.
+    // The projector may have been replaced since the class was remembered, or may be replaced
+    // before the next connection.
     if (answer.sent == isClassRemembered_) class_.reset();
     reply.answered = false;
     reply.unsent = !answer.sent;
     return Finish(reply);
   }
-  if (PjLink::SameWord(*answer.parameter, PjLink::kNotNow)) return TakeNotNow(now);
+  if (PjLink::SameWord(*answer.parameter, PjLink::kNotNow)) return HandleNotNow(now);
   if (PjLink::SameWord(*answer.parameter, PjLink::kUndefined)) {
     if (mapping_->protocolClass != PjLinkClass::First && std::exchange(isClassRemembered_, false)) {
       class_.reset();
@@ -187,7 +189,7 @@ void PjLinkSession::TakeCommand(const PjLinkAnswer& answer, PjLinkTime now) {
     reply.offered = false;
     return Finish(reply);
   }
-  if (IsRead(command_.operation)) return TakeValue(*answer.parameter, now);
+  if (IsRead(command_.operation)) return HandleValue(*answer.parameter, now);
   if (!PjLink::SameWord(*answer.parameter, PjLink::kDone)) return Finish(reply);
   reply_ = {.result = AcceptedResult(command_.operation)};
   if (mapping_->value == nullptr) return Finish(reply_);
@@ -196,20 +198,21 @@ void PjLinkSession::TakeCommand(const PjLinkAnswer& answer, PjLinkTime now) {
   Ask(Stage::Confirm, mapping_->command, PjLink::kQuery, now);
 }
 
-void PjLinkSession::TakeValue(const std::string& parameter, PjLinkTime now) {
+void PjLinkSession::HandleValue(const std::string& parameter, PjLinkTime now) {
   const auto value = mapping_->value(parameter);
-  // What got distorted is asked for again.
-  if (!value && !IsError(parameter) && !std::exchange(strange_, true)) return AskForWork(now);
+  // A garbled value is requested again once.
+  if (!value && !IsError(parameter) && !std::exchange(gotGarbledValue_, true))
+    return AskForWork(now);
   if (!value) return Finish(Refused());
   KeepPower(parameter, now);
   Finish(
       {.result = AcceptedResult(command_.operation), .value = static_cast<std::int16_t>(*value)});
 }
 
-/// `ERR3`.
-void PjLinkSession::TakeNotNow(PjLinkTime now) {
+/// Handles `ERR3`.
+void PjLinkSession::HandleNotNow(PjLinkTime now) {
   if (!askUntil_) askUntil_ = now + AnswerTime();
-  if (!std::exchange(asked_, true)) {
+  if (!std::exchange(askedForPower_, true)) {
     const bool isKnown = powerAt_ && now - *powerAt_ < kFresh;
     if (!isKnown) return Ask(Stage::Power, "POWR", PjLink::kQuery, now);
     if (CannotDoItNow()) askUntil_ = now;
@@ -220,14 +223,14 @@ void PjLinkSession::TakeNotNow(PjLinkTime now) {
   Finish(reply);
 }
 
-/// Whether the power state, which was just told, rules the command out.
+/// Whether the power state, which was just reported, rules out the command.
 bool PjLinkSession::CannotDoItNow() const {
-  const bool isOwn = mapping_->command == "POWR";  // which ends a standby
+  const bool isOwn = mapping_->command == "POWR";  // a power command is possible in standby
   return (power_ == PowerState::Standby && !isOwn) ||
          (power_ != PowerState::On && IsRead(command_.operation));
 }
 
-void PjLinkSession::TakePower(const PjLinkAnswer& answer, PjLinkTime now) {
+void PjLinkSession::HandlePower(const PjLinkAnswer& answer, PjLinkTime now) {
   const auto power = answer.parameter ? PjLink::Power(*answer.parameter) : std::nullopt;
   if (power) {
     power_ = power;
@@ -235,17 +238,17 @@ void PjLinkSession::TakePower(const PjLinkAnswer& answer, PjLinkTime now) {
     kept_["POWR"] = {*answer.parameter, nullptr, now};
   }
   if (!answer.parameter || (power && CannotDoItNow())) askUntil_ = now;
-  TakeNotNow(now);
+  HandleNotNow(now);
 }
 
-void PjLinkSession::TakeConfirmation(const PjLinkAnswer& answer, PjLinkTime now) {
+void PjLinkSession::HandleConfirmation(const PjLinkAnswer& answer, PjLinkTime now) {
   const auto value = answer.parameter ? mapping_->value(*answer.parameter) : std::nullopt;
   if (value) KeepPower(*answer.parameter, now);
-  if (value == PjLinkAim(command_)) {
+  if (value == PjLinkTarget(command_)) {
     Keep(*answer.parameter, nullptr, now);
     return Finish(reply_);
   }
-  // Where the question is unknown, nothing else will tell.
+  // If the projector does not support the question, the change cannot be confirmed.
   const bool isSilent = answer.parameter && PjLink::SameWord(*answer.parameter, PjLink::kUndefined);
   if (isSilent) return Finish(reply_);
   if (now < *askUntil_) return AskAfterPause(Stage::Confirm, now);
@@ -253,21 +256,21 @@ void PjLinkSession::TakeConfirmation(const PjLinkAnswer& answer, PjLinkTime now)
   Finish(reply_);
 }
 
-void PjLinkSession::TakeTold(const PjLinkAnswer& answer, PjLinkTime now) {
-  using Kind = PjLinkTold::Kind;
+void PjLinkSession::HandleQuestionAnswer(const PjLinkAnswer& answer, PjLinkTime now) {
+  using Kind = PjLinkResult::Kind;
   if (!answer.parameter) {
-    if (answer.sent && lost_++ < kMostLost) return AskForWork(now);
-    told_ = {};
+    if (answer.sent && lostAnswers_++ < kMostLost) return AskForWork(now);
+    result_ = {};
   } else if (!IsError(*answer.parameter)) {
-    told_ = {Kind::Text, Printable(*answer.parameter)};
+    result_ = {Kind::Text, Printable(*answer.parameter)};
   } else {
     const bool isNotNow = PjLink::SameWord(*answer.parameter, PjLink::kNotNow);
-    told_ = {isNotNow ? Kind::NotNow : Kind::None};
+    result_ = {isNotNow ? Kind::NotNow : Kind::None};
   }
   Finish({});
 }
 
-bool PjLinkSession::TakeKept(PjLinkTime now) {
+bool PjLinkSession::AnswerFromKept(PjLinkTime now) {
   if (!IsRead(command_.operation)) {
     kept_.clear();
     powerAt_.reset();
@@ -277,7 +280,7 @@ bool PjLinkSession::TakeKept(PjLinkTime now) {
   if (!kept || now - kept.mapped().time >= kFresh || kept.mapped().reader == mapping_->value) {
     return false;
   }
-  TakeCommand({.parameter = kept.mapped().parameter, .sent = true}, now);
+  HandleCommand({.parameter = kept.mapped().parameter, .sent = true}, now);
   return true;
 }
 

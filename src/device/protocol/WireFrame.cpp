@@ -15,7 +15,7 @@ constexpr std::array<char, 2> kMark{'\xA5', '\x5A'};
 constexpr std::size_t kHeader = 6;  // mark, kind, length of the body, sequence number
 constexpr std::size_t kCheckSum = 2;
 
-// By kind, which counts from 1 in the order of the variant.
+// By kind; kinds count from 1 in the order of the variant.
 constexpr std::array<std::size_t, 4> kBodySizes{2, 1, 8, 7};
 static_assert(kHeader + *std::ranges::max_element(kBodySizes) + kCheckSum == kMaximumFrame);
 
@@ -25,7 +25,7 @@ void Put(std::string& bytes, std::uint32_t value, int size) {
   }
 }
 
-/// Takes numbers from the front of bytes that are long enough.
+/// Reads numbers from the front of the bytes, which must be long enough.
 class Taker {
  public:
   explicit Taker(std::string_view bytes) : bytes_(bytes) {}
@@ -69,7 +69,7 @@ struct BodyWriter {
   }
 };
 
-// Of a frame whose check sum is right.
+// Parses a frame with a correct check sum.
 Frame Parse(std::string_view bytes) {
   const auto kind = static_cast<std::size_t>(static_cast<unsigned char>(bytes[2]));
   Taker header(bytes.substr(4));
@@ -97,7 +97,7 @@ Frame Parse(std::string_view bytes) {
   return frame;
 }
 
-// Size of the frame that begins here: 0 where none does, nothing where more bytes must tell.
+// Size of the frame that begins here: 0 if none does, nothing if more bytes are needed.
 std::optional<std::size_t> FrameSize(std::string_view bytes) {
   const std::size_t marked = std::min(bytes.size(), kMark.size());
   if (!std::equal(kMark.begin(), kMark.begin() + marked, bytes.begin())) return 0;

@@ -22,7 +22,7 @@ inline constexpr std::uint8_t kVersion = 1;
 inline constexpr std::uint16_t kDefaultPort = 7240;
 inline constexpr std::size_t kMaximumFrame = 16;
 
-/// The versions that the program speaks.
+/// The versions that the program supports.
 struct Hello {
   std::uint8_t lowest = kVersion;
   std::uint8_t highest = kVersion;

@@ -4,7 +4,7 @@
 #include "Namespace.h"
 #include "pages/common/RowDialog.h"
 
-/// A page behind a tab. User-interface thread only.
+/// The page of a tab. User-interface thread only.
 class ADVANCED_CONTROL_EXPORT CTabPage : public AdvancedControl::RowDialog {
   Q_OBJECT
 
@@ -26,7 +26,7 @@ class ADVANCED_CONTROL_EXPORT CTabPage : public AdvancedControl::RowDialog {
 
 namespace AdvancedControl {
 
-/// A page without rules of its own beside its table.
+/// A page that is nothing but its table.
 template <int templateNumber, const PageTable& table>
 class TablePage final : public CTabPage {
  public:

@@ -35,8 +35,8 @@ void NumberQuestion::done(int result) {
   setLabelText(CatalogString(kListCategory, ListText::NumberWanted, std::int64_t{range_.minimum},
                              std::int64_t{range_.maximum}));
   findChild<QLineEdit*>()->selectAll();
-  QAccessibleEvent told(findChild<QLabel*>(), QAccessible::Alert);
-  QAccessible::updateAccessibility(&told);
+  QAccessibleEvent event(findChild<QLabel*>(), QAccessible::Alert);
+  QAccessible::updateAccessibility(&event);
 }
 
 }  // namespace AdvancedControl

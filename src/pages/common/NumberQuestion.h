@@ -7,14 +7,13 @@
 
 namespace AdvancedControl {
 
-/// Asks for a number of a row. OK takes a whole number inside the range and nothing else: for any
-/// other text the question stays open, says what it takes, and keeps what was typed.
+/// Asks for a row's number. OK accepts only a whole number inside the range. For any other text the
+/// question stays open with the text and shows the range. User-interface thread only.
 class NumberQuestion final : public QInputDialog {
   Q_OBJECT
 
  public:
-  /// `parent` is the window that takes no input meanwhile. The question deletes itself when it is
-  /// closed.
+  /// The question is modal to the window `parent`, and deletes itself when it is closed.
   NumberQuestion(const QString& caption, Range range, int present, QWidget* parent);
 
   void done(int result) override;

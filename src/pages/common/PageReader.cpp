@@ -43,7 +43,7 @@ PageReader::Reading::~Reading() {
   }
   for (const auto& row : reader_.rows_) {
     row->memory.unread = false;
-    // What stands beside a list may have followed it.
+    // Controls beside the list may have been enabled or disabled with it.
     if (row->memory.note != RowNote::None) reader_.notes_.GreyCaption(*row);
   }
   reader_.UpdateVeil();
@@ -69,8 +69,8 @@ std::vector<PjtCommand> PageReader::Reads() const {
   return commands;
 }
 
-// What can be asked for together from row `first` on: all up to the question for a source that is
-// not known yet, which decides what follows.
+// The reads from row `first` on that can be announced together. They end with the question for a
+// source that is still unknown, because later reads depend on it.
 std::vector<PjtCommand> PageReader::ReadsFrom(std::size_t first, OfSource known,
                                               Source source) const {
   std::vector<PjtCommand> commands;
@@ -112,7 +112,8 @@ void PageReader::ReadAll() {
     } else if (source) {
       Read(row, *source);
     } else {
-      Read(row, source, before);  // why the source is unknown is why the row is
+      Read(row, source,
+           before);  // if the source is unknown, the row is unknown for the same reason
     }
     if (projector.IsAbandoned()) return;
   }
@@ -126,7 +127,7 @@ void PageReader::Read(RowView& row, Source source, const CPjtInterface::Tally& b
   if (Projector().IsAbandoned()) return;
   row.memory.unread = false;
   if (ShowsSetting(row)) {
-    notes_.Tell(row, before);
+    notes_.SetNote(row, before);
     const RowNote note = row.memory.note;
     const bool isRead = note == RowNote::None || note == RowNote::Range;
     const bool isFirst =
@@ -172,12 +173,12 @@ void PageReader::UpdateVeil() {
     rows = rows.united(place);
     if (row->memory.unread) unread += place;
   }
-  // A read that was broken off stays dimmed.
+  // Rows whose read was abandoned stay dimmed.
   if (!waiting_ && (unread.isEmpty() || readings_ > 0 || veil_ == nullptr)) {
     delete veil_;
     return;
   }
-  // Beside the rows, so that it scrolls with them.
+  // A sibling of the rows, so that it scrolls with them.
   if (veil_ == nullptr) {
     veil_ = new PageVeil(*dialog.GetDlgItem(ControlOf(rows_.front()->Row()))->parentWidget());
   }

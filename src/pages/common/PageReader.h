@@ -67,10 +67,10 @@ class PageReader {
   RowHost& host_;
   const Rows& rows_;
   RowNotes notes_;
-  int readings_ = 0;  // one in another
+  int readings_ = 0;  // number of nested readings
   int sentBefore_ = 0;
   bool waiting_ = false;
-  QPointer<PageVeil> veil_;  // only while it is seen
+  QPointer<PageVeil> veil_;  // only while it is shown
 };
 
 }  // namespace AdvancedControl

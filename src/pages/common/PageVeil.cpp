@@ -6,7 +6,7 @@ namespace AdvancedControl {
 
 namespace {
 
-constexpr int kOpacity = 190;  // of 255; what is below can just be made out
+constexpr int kOpacity = 190;  // of 255; the rows below remain just visible
 
 }  // namespace
 

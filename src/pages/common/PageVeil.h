@@ -7,7 +7,8 @@
 
 namespace AdvancedControl {
 
-/// Lies over a page that waits for its projector: dims parts of it and shows the wait cursor.
+/// An overlay on a page that waits for its projector: dims parts of the page and shows the wait
+/// cursor. User-interface thread only.
 class PageVeil final : public QWidget {
  public:
   explicit PageVeil(QWidget& page);

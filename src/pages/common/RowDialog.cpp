@@ -16,7 +16,7 @@ namespace AdvancedControl {
 
 namespace {
 
-// Arrow buttons bear a picture, and keep their sign as their name.
+// Arrow buttons show a picture; their text becomes their accessible name.
 void DrawArrows(CDialog& dialog) {
   static constexpr std::pair<std::string_view, int> kBitmaps[] = {{"↑", BitmapId::ArrowUp},
                                                                   {"↓", BitmapId::ArrowDown},
@@ -28,7 +28,8 @@ void DrawArrows(CDialog& dialog) {
       auto& button = dialog.Item<QAbstractButton>(control.id);
       button.setAccessibleName(button.text());
       button.setText({});
-      const int side = button.fontMetrics().height();  // as high as the buttons that bear a text
+      const int side =
+          button.fontMetrics().height();  // gives the same height as buttons with a text
       button.setIconSize({side, side});
       for (const auto& [sign, bitmap] : kBitmaps) {
         if (sign == control.caption) button.setIcon(ArrowBitmap(bitmap));
@@ -38,7 +39,8 @@ void DrawArrows(CDialog& dialog) {
 }
 
 void ShowPresentRows(CDialog& dialog, const PageReader::Rows& rows) {
-  // Several rows of the table may stand in one row of the template: it is there if any of them is.
+  // Several rows of the table may share a row of the template, which is shown if any of them is
+  // present.
   for (const bool present : {false, true}) {
     for (const auto& row : rows) {
       if (row->memory.present == present) dialog.ShowRow(ControlOf(row->Row()), present);
@@ -111,9 +113,9 @@ RowView* RowDialog::RowOf(const QWidget* control) const {
 bool RowDialog::OnInitDialog() {
   LocalizeControlTexts(kCaptionCategory, *this);
   PrepareRows();
-  // A model without the settings that a page is for would see a page that looks broken.
+  // If the model has none of the settings, the page says so, because an empty page looks broken.
   const bool isEmpty = std::ranges::none_of(rows_, [](const auto& row) {
-    const bool isReset = std::holds_alternative<ResetRow>(row->Row());  // resets other rows
+    const bool isReset = std::holds_alternative<ResetRow>(row->Row());  // it resets other rows
     return row->memory.present && !isReset;
   });
   if (isEmpty && !KeepsTemplate(table_, Model().ModelCode)) {
@@ -134,7 +136,7 @@ void RowDialog::PrepareRows() {
     DrawArrows(*this);
     ShowPresentRows(*this, rows_);
   }
-  // Absent rows too: their handlers have names, and work for a host that calls them.
+  // Absent rows too, because a host may call their named handlers.
   for (const auto& row : rows_) keepsTemplate ? row->UseTemplate() : row->Prepare();
 }
 

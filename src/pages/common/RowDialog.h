@@ -88,7 +88,7 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog, private RowHost
   PageReader reader_;
   RowMenus menus_;
   bool stale_ = false;
-  // Of a pop-up; a page waits with its dialog.
+  // Only of a pop-up; a page uses that of its dialog.
   std::unique_ptr<Waiting> waiting_;
 };
 

@@ -16,9 +16,9 @@ QString ListString(int number) { return CatalogString(kListCategory, number); }
 
 RowMenu::RowMenu(const Row& row, QWidget* parent) : QMenu(parent) {
   connect(this, &QMenu::aboutToHide, this, &QObject::deleteLater);
-  if (!row.note.isEmpty()) Tell(row.note);
+  if (!row.note.isEmpty()) AddText(row.note);
   if (!row.opened.isEmpty()) {
-    Tell(CatalogString(kListCategory, ListText::WhenOpened, row.opened.toStdString()));
+    AddText(CatalogString(kListCategory, ListText::WhenOpened, row.opened.toStdString()));
   }
   addSeparator();
   if (row.putBack != Choice::Absent) {
@@ -34,6 +34,6 @@ RowMenu::RowMenu(const Row& row, QWidget* parent) : QMenu(parent) {
   addAction(ListString(ListText::Copy), [copied] { QApplication::clipboard()->setText(copied); });
 }
 
-void RowMenu::Tell(const QString& text) { addAction(text)->setEnabled(false); }
+void RowMenu::AddText(const QString& text) { addAction(text)->setEnabled(false); }
 
 }  // namespace AdvancedControl

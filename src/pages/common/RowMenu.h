@@ -8,20 +8,21 @@
 
 namespace AdvancedControl {
 
-/// What a person can do with a row beside operating its controls: see what it takes and what it
-/// was, put that back, type a number, and copy. The menu ends when it is hidden.
+/// The context menu of a row: shows the numbers that the row accepts and its value when the dialog
+/// was opened, and offers to restore that value, to type a number, and to copy. Deletes itself when
+/// it is hidden. User-interface thread only.
 class RowMenu final : public QMenu {
   Q_OBJECT
 
  public:
   enum class Choice : std::uint8_t { Absent, Grey, Usable };
 
-  /// Texts are as they are shown, and may be empty.
+  /// The texts to show; may be empty.
   struct Row {
     QString caption;
     QString value;
-    QString note;    ///< The numbers it takes, or why it is grey.
-    QString opened;  ///< What it was when the dialog was opened.
+    QString note;    ///< The numbers that the row accepts, or why it is disabled.
+    QString opened;  ///< Its value when the dialog was opened.
     Choice putBack = Choice::Absent;
     Choice enterValue = Choice::Absent;
   };
@@ -34,7 +35,7 @@ class RowMenu final : public QMenu {
   void EnterValue();
 
  private:
-  void Tell(const QString& text);
+  void AddText(const QString& text);
 };
 
 }  // namespace AdvancedControl

@@ -21,7 +21,7 @@ RowMenu::Choice ChoiceOf(bool exists, bool usable) {
 
 RowMenus::RowMenus(RowHost& host, const PageReader::Rows& rows) : host_(host), rows_(rows) {}
 
-// Some platforms know only the menu key.
+// Some platforms send no context-menu event for the menu key.
 bool RowMenus::eventFilter(QObject*, QEvent* event) {
   if (event->type() == QEvent::ContextMenu) {
     auto* asked = static_cast<QContextMenuEvent*>(event);
@@ -65,7 +65,7 @@ bool RowMenus::Open(QPoint at, QPoint onScreen) {
            ChoiceOf(!std::holds_alternative<StateRow>(row.Row()), opened && row.CanMoveTo(*opened)),
        .enterValue = ChoiceOf(row.Numbers().has_value(), row.IsUsable() && row.Position())},
       &dialog);
-  // Not before the menu has ended: what they start may wait for the projector.
+  // Queued until the menu is closed, because the actions may wait for the projector.
   connect(
       menu, &RowMenu::PutBack, &dialog, [this, &row] { PutBack(row); }, Qt::QueuedConnection);
   connect(
@@ -75,7 +75,7 @@ bool RowMenus::Open(QPoint at, QPoint onScreen) {
   return true;
 }
 
-// The dialog may go on or end while this is asked in it.
+// The dialog may be operated or closed while the question is open.
 void RowMenus::AskForNumber(RowView& row) {
   const Range range = row.Numbers().value_or(kUnbounded);
   auto* question =
@@ -104,7 +104,8 @@ void RowMenus::PutBack(RowView& row) {
     }
     if (!host_.Dialog().isVisible()) return;
     if (!row.memory.opened) {
-      host_.ReadAgain();  // of another source now: what was shown is its predecessor's
+      host_.ReadAgain();  // the source has changed, and the shown values are those of the previous
+                          // one
       return;
     }
   }

@@ -7,7 +7,7 @@ namespace AdvancedControl {
 
 namespace {
 
-// A catalog without these texts leaves the boxes their own.
+// If the catalog lacks these texts, the message boxes use Qt's.
 ButtonTexts BoxButtons() {
   const auto text = [](int number) {
     static constexpr int kUnknown = 0;

@@ -39,7 +39,7 @@ StatusLine::StatusLine(QWidget* parent)
     : QWidget(parent), text_(new QLabel), retry_(new QPushButton) {
   retry_->setAutoDefault(false);
   retry_->hide();
-  hide();  // with nothing to say it is nothing, for a screen reader as well
+  hide();  // hidden from screen readers too while it is empty
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(text_);

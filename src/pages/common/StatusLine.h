@@ -10,21 +10,21 @@ class QPushButton;
 
 namespace AdvancedControl {
 
-/// The quiet line beside Close: how far reading has come, that a change is not yet so or not
-/// possible now, or that the projector does not answer, with a button to try again. A screen reader
-/// is told of each change.
+/// The line beside Close. Shows the progress of reading; that a change is not in effect yet or not
+/// possible now; or that the projector does not answer, with a button to try again. Each change is
+/// announced to screen readers. User-interface thread only.
 class StatusLine final : public QWidget {
   Q_OBJECT
 
  public:
   explicit StatusLine(QWidget* parent);
 
-  /// Something goes on; an empty text ends that.
+  /// Shows the progress of the present work. An empty text ends it.
   void ShowProgress(const QString& text);
 
-  /// Says what became of the commands since `before`: why one was not answered, that a change was
-  /// accepted and is not yet so, that the projector was busy, or nothing. Stays until the next
-  /// call of these.
+  /// Shows the outcome of the commands since `before`: why one was not answered, that a change was
+  /// accepted but is not in effect yet, that the projector was busy, or nothing. Stays until the
+  /// next call of `ShowProgress` or `ShowOutcome`.
   void ShowOutcome(const CPjtInterface& projector, const CPjtInterface::Tally& before);
 
   QWidget* RetryButton() const;

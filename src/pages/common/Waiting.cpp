@@ -10,7 +10,7 @@ namespace AdvancedControl {
 namespace {
 
 constexpr std::chrono::milliseconds kTick{50};
-constexpr int kBlink = 4;  // ticks
+constexpr int kBlink = 4;  // in ticks of the timer
 
 }  // namespace
 
@@ -23,14 +23,14 @@ StatusLine& Waiting::MakeLine(QWidget* parent) {
   line_ = new StatusLine(parent);
   connect(line_, &StatusLine::Retry, this, [this] {
     line_->ShowProgress({});
-    dialog_.projector().TryAfresh();
+    dialog_.projector().AllowRetry();
     dialog_.retry();
   });
   return *line_;
 }
 
 void Waiting::Begin() {
-  CountAfresh();
+  RestartTally();
   ticks_ = 0;
   if (timer_ == 0) timer_ = startTimer(kTick);
 }
@@ -43,7 +43,7 @@ void Waiting::End(bool left) {
   line_->ShowOutcome(projector, before_);
 }
 
-void Waiting::CountAfresh() { before_ = dialog_.projector().Sent(); }
+void Waiting::RestartTally() { before_ = dialog_.projector().Sent(); }
 
 void Waiting::Abandon() { abandoned_ = dialog_.projector().Abandon(); }
 

@@ -19,32 +19,32 @@ class StatusLine;
 /// its pages; a pop-up has its own. User-interface thread only.
 class Waiting final : public QObject {
  public:
-  /// What the dialog says about itself and does. Called between construction and destruction.
+  /// Functions of the dialog, called during the lifetime of `Waiting`.
   struct Dialog {
     std::function<CPjtInterface&()> projector;
-    /// Called with true again and again while a wait is long, and with false once when it is over;
-    /// after short waits not at all.
+    /// Called repeatedly with true during a long wait, and once with false at its end. Not called
+    /// for short waits.
     std::function<void(bool waiting)> show;
-    /// How far what goes on has come, in words.
+    /// The progress of the present work as a text.
     std::function<QString()> text;
-    /// The user wants to try again what was not answered.
+    /// Called when the user wants to repeat what was not answered.
     std::function<void()> retry;
   };
 
   explicit Waiting(Dialog dialog);
   ~Waiting() override;
 
-  /// Makes the line afresh, as a child of `parent`, which owns it.
+  /// Makes a new line, owned by `parent`.
   StatusLine& MakeLine(QWidget* parent);
 
-  /// The first handler begins, and the last one has returned. What it did is shown unless the user
-  /// `left` it.
+  /// To be called when the first handler begins and when the last one has returned. `End` shows the
+  /// outcome of the commands, unless the user abandoned the handlers (`left`).
   void Begin();
   void End(bool left);
-  /// What was sent up to now does not count for what `End` shows.
-  void CountAfresh();
+  /// Makes `End` ignore all commands sent so far.
+  void RestartTally();
 
-  /// Abandons what is under way, until `Return`: no command is sent meanwhile.
+  /// Abandons the running handlers: no command is sent until `Return`.
   void Abandon();
   void Return();
 
@@ -56,8 +56,8 @@ class Waiting final : public QObject {
 
   Dialog dialog_;
   QPointer<StatusLine> line_;
-  CPjtInterface::Tally before_;            // what counts
-  std::shared_ptr<const void> abandoned_;  // as long as it lives
+  CPjtInterface::Tally before_;  // the tally at the beginning of the commands that `End` shows
+  std::shared_ptr<const void> abandoned_;  // commands are abandoned while it exists
   int timer_ = 0;
   int ticks_ = 0;
   bool shown_ = false;

@@ -1,12 +1,12 @@
 #include "pages/input/CInputTabDlg.h"
 
 #include "resources/AdvancedControlResources.h"
+#include "settings/ControlId.h"
 #include "settings/PageTables.h"
 #include "toolkit/CComboBox.h"
 
 namespace {
 
-constexpr int kPowerUpInput = 21057;
 constexpr int kHighestInput = 5;
 
 }  // namespace
@@ -14,11 +14,12 @@ constexpr int kHighestInput = 5;
 CInputTabDlg::CInputTabDlg(CWnd* parent) : CTabPage(TemplateId::Input, kInputRows, parent) {}
 
 std::vector<Notification> CInputTabDlg::OwnNotifications() const {
-  return {SelChange(kPowerUpInput, &CInputTabDlg::OnSelchangePowerUpInput)};
+  return {SelChange(ControlId::Input::PowerUpInput, &CInputTabDlg::OnSelchangePowerUpInput)};
 }
 
-// The first entry, the last input, is no source of the list and always sent.
+// The first entry, "last input", is not a source and is always sent.
 void CInputTabDlg::OnSelchangePowerUpInput() {
-  const auto& list = Item<CComboBox>(kPowerUpInput);
-  if (list.currentIndex() == 0 || list.SelectedValue() <= kHighestInput) Act(kPowerUpInput);
+  const auto& list = Item<CComboBox>(ControlId::Input::PowerUpInput);
+  if (list.currentIndex() == 0 || list.SelectedValue() <= kHighestInput)
+    Act(ControlId::Input::PowerUpInput);
 }

@@ -9,7 +9,7 @@ class CInputTabDlg final : public CTabPage {
  public:
   explicit CInputTabDlg(CWnd* parent);
 
-  /// The input that the projector starts with: only some can be chosen.
+  /// Sends the input to start with. Only some inputs can be chosen.
   void OnSelchangePowerUpInput();
 
  protected:

@@ -4,20 +4,20 @@
 #include "pages/common/CTabPage.h"
 
 /// Input settings of the newest page set: signal processing, formats and modes of the inputs, one
-/// list a row. A choice is sent at once and never read back before the next refresh.
+/// list per row. A choice is sent at once, and not read back before the next refresh.
 class ADVANCED_CONTROL_EXPORT CInputType5Dlg final : public CTabPage {
   Q_OBJECT
 
  public:
   explicit CInputType5Dlg(CWnd* parent);
 
-  /// Reads every present row; a row that cannot be read is out of use until the next time.
+  /// Reads every present row. A row that cannot be read is disabled until the next reading.
   void Init();
 
   /// Position of a device value in the two video-format lists, or −1.
   static int VideoFmtToIdx(short value);
 
-  // A choice in each list, by name.
+  // Handlers, one for a choice in each list.
   void OnCbnSelchangeInput5ProgComb();
   void OnCbnSelchangeInput5VidnrComb();
   void OnCbnSelchangeInput53dycsComb();

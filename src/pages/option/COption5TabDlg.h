@@ -6,7 +6,7 @@
 #include "pages/common/CTabPage.h"
 
 /// Options of the newest page set: automatic functions, my buttons, my source, closed captions and
-/// the way to the service settings.
+/// a button for the service settings.
 class ADVANCED_CONTROL_EXPORT COption5TabDlg final : public CTabPage {
   Q_OBJECT
 
@@ -18,7 +18,7 @@ class ADVANCED_CONTROL_EXPORT COption5TabDlg final : public CTabPage {
   /// The function code at an index, or −1 for an index without one.
   int GetMyBtnVal(int index) const;
 
-  // What the user does with each control, by name.
+  // Handlers, one for each control.
   void OnCbnSelchangeOpt5Atseacomb();
   void OnCbnSelchangeOpt5Atkscomb();
   void OnCbnSelchangeOpt5Atoncomb();

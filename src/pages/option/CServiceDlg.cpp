@@ -1,12 +1,19 @@
 #include "pages/option/CServiceDlg.h"
 
 #include "resources/AdvancedControlResources.h"
+#include "settings/ControlId.h"
 #include "settings/PageTables.h"
+
+namespace {
+
+namespace Id = ControlId::Service;
+
+}  // namespace
 
 CServiceDlg::CServiceDlg(CWnd* parent) : RowDialog(TemplateId::Service, kServiceRows, parent) {}
 
 std::vector<Notification> CServiceDlg::OwnNotifications() const {
-  return {Clicked(20380, &CServiceDlg::OnBnClickedSvcBtnclose)};
+  return {Clicked(Id::Close, &CServiceDlg::OnBnClickedSvcBtnclose)};
 }
 
 bool CServiceDlg::OnInitDialog() {
@@ -17,11 +24,11 @@ bool CServiceDlg::OnInitDialog() {
   return true;
 }
 
-void CServiceDlg::OnCbnSelchangeSvcAtadjenbcomb() { Act(20374); }
-void CServiceDlg::OnBnClickedSvcIrfrontchk() { Act(20375); }
-void CServiceDlg::OnBnClickedSvcIrrearchk() { Act(20376); }
-void CServiceDlg::OnBnClickedSvcIrtopchk() { Act(20377); }
-void CServiceDlg::OnCbnSelchangeSvcIrfreqncomb() { Act(20378); }
-void CServiceDlg::OnCbnSelchangeSvcIrfreqhcomb() { Act(20379); }
-void CServiceDlg::OnCbnSelchangeSvcFocuslockcomb() { Act(20381); }
+void CServiceDlg::OnCbnSelchangeSvcAtadjenbcomb() { Act(Id::AutoAdjust); }
+void CServiceDlg::OnBnClickedSvcIrfrontchk() { Act(Id::IrFront); }
+void CServiceDlg::OnBnClickedSvcIrrearchk() { Act(Id::IrRear); }
+void CServiceDlg::OnBnClickedSvcIrtopchk() { Act(Id::IrTop); }
+void CServiceDlg::OnCbnSelchangeSvcIrfreqncomb() { Act(Id::IrFrequencyNormal); }
+void CServiceDlg::OnCbnSelchangeSvcIrfreqhcomb() { Act(Id::IrFrequencyHigh); }
+void CServiceDlg::OnCbnSelchangeSvcFocuslockcomb() { Act(Id::FocusLock); }
 void CServiceDlg::OnBnClickedSvcBtnclose() { accept(); }

@@ -11,10 +11,11 @@ class ADVANCED_CONTROL_EXPORT CServiceDlg final : public AdvancedControl::RowDia
  public:
   explicit CServiceDlg(CWnd* parent);
 
-  /// Decides which rows there are; set by the opener, like the projector, before the dialog runs.
+  /// Decides which rows are present. The opener sets it, like the projector, before the dialog
+  /// runs.
   int ModelCode = 0;
 
-  // A change of each control, by name.
+  // Handlers, one for each control.
   void OnCbnSelchangeSvcAtadjenbcomb();
   void OnBnClickedSvcIrfrontchk();
   void OnBnClickedSvcIrrearchk();
@@ -30,5 +31,5 @@ class ADVANCED_CONTROL_EXPORT CServiceDlg final : public AdvancedControl::RowDia
   bool OnInitDialog() override;
 
  private:
-  AdvancedControl::ModelData model_;  // nothing but `ModelCode`
+  AdvancedControl::ModelData model_;  // contains only `ModelCode`
 };

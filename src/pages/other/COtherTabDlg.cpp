@@ -1,6 +1,7 @@
 #include "pages/other/COtherTabDlg.h"
 
 #include "resources/AdvancedControlResources.h"
+#include "settings/ControlId.h"
 #include "settings/PageTables.h"
 #include "settings/RowUse.h"
 #include "settings/SharedRows.h"
@@ -9,10 +10,7 @@
 
 namespace {
 
-constexpr int kPowerOn = 20100;
-constexpr int kPowerOff = 20101;
-constexpr int kPower = 20102;
-constexpr int kInputSource = 20103;
+namespace Id = ControlId::Other;
 
 }  // namespace
 
@@ -23,37 +21,38 @@ COther4TabDlg::COther4TabDlg(CWnd* parent)
 
 std::vector<Notification> COtherTabDlg::OwnNotifications() const {
   return {
-      Clicked(kPowerOn, &COtherTabDlg::OnBnClickedOtherPowerOn),
-      Clicked(kPowerOff, &COtherTabDlg::OnBnClickedOtherPowerOff),
-      SelChange(kInputSource, &COtherTabDlg::OnCbnSelchangeOtherInput),
+      Clicked(Id::PowerOn, &COtherTabDlg::OnBnClickedOtherPowerOn),
+      Clicked(Id::PowerOff, &COtherTabDlg::OnBnClickedOtherPowerOff),
+      SelChange(Id::InputSource, &COtherTabDlg::OnCbnSelchangeOtherInput),
   };
 }
 
 void COtherTabDlg::ShowState(std::optional<int> value) {
   runningState_ = value;
   const bool ready = value && value != shared::kCoolingDown;
-  GetDlgItem(kPowerOn)->setEnabled(ready);
-  GetDlgItem(kPowerOff)->setEnabled(ready);
+  GetDlgItem(Id::PowerOn)->setEnabled(ready);
+  GetDlgItem(Id::PowerOff)->setEnabled(ready);
 }
 
 void COtherTabDlg::OnBnClickedOtherPowerOn() {
-  const Sent sent = SendRow(*projector, Row(kPower).Row(), Model(), 1);
+  const Sent sent = SendRow(*projector, Row(Id::Power).Row(), Model(), 1);
   InitDisp();
   if (sent != Sent::Accepted) ShowError(ErrorText::PowerRefused);
 }
 
 void COtherTabDlg::OnBnClickedOtherPowerOff() {
   if (!Ask(ErrorText::PowerOffQuestion)) return;
-  SendRow(*projector, Row(kPower).Row(), Model(), 0);
+  SendRow(*projector, Row(Id::Power).Row(), Model(), 0);
   InitDisp();
-  // The command has no result: a projector that is still on, or does not say, tells the refusal.
+  // The command has no result. It counts as refused if the projector is still on or does not report
+  // its state.
   if (!runningState_ || runningState_ == shared::kRunning) ShowError(ErrorText::PowerRefused);
 }
 
 void COtherTabDlg::OnCbnSelchangeOtherInput() {
-  const auto source = Item<CComboBox>(kInputSource).SelectedValue();
+  const auto source = Item<CComboBox>(Id::InputSource).SelectedValue();
   if (!source) return;
-  const Sent sent = SendRow(*projector, Row(kInputSource).Row(), Model(), *source);
+  const Sent sent = SendRow(*projector, Row(Id::InputSource).Row(), Model(), *source);
   InitDisp();
   if (sent != Sent::Accepted) ShowError(ErrorText::InputSourceRefused);
 }

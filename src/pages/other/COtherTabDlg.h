@@ -24,7 +24,7 @@ class COtherTabDlg : public CTabPage {
   void ShowState(std::optional<int> value) override;
 
  private:
-  std::optional<int> runningState_;  // nothing while it cannot be read
+  std::optional<int> runningState_;  // nothing if it could not be read
 };
 
 /// The same with the settings of lens and screen.

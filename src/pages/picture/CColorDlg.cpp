@@ -1,6 +1,6 @@
 #include "pages/picture/CColorDlg.h"
 
-// A channel's offset lifts its line, its gain tilts it.
+// A channel's offset moves its line up, its gain changes the slope.
 std::vector<CurveView::Line> CColorDlg::LinesOf(const Values& values) const {
   static constexpr double kStep = 1.0 / 128;
   std::vector<CurveView::Line> lines{{QStringLiteral("R"), 0, {}, {}},

@@ -1,6 +1,6 @@
 #include "pages/picture/CGammaDlg.h"
 
-// Each point lifts or lowers the straight line at its place.
+// Each point raises or lowers the straight line at its position.
 std::vector<CurveView::Line> CGammaDlg::LinesOf(const Values& values) const {
   static constexpr double kLift = 1.0 / 48;
   CurveView::Line line;

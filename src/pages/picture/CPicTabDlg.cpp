@@ -9,10 +9,10 @@
 
 CPicTabDlg::CPicTabDlg(CWnd* parent) : PicturePage(TemplateId::Pic, kPicRows, true, parent) {}
 
-// The lists of these models begin with three gammas that the user can shape, and have such a colour
-// temperature in the fourth place only, whatever the entries stand for.
+// On these models the first three gammas and the fourth colour temperature can be customised,
+// whatever the entries' values are.
 bool CPicTabDlg::IsCustomGamma(const CComboBox& list) const {
-  // No selection is a large number.
+  // Without a selection, −1 becomes a large number.
   return static_cast<std::uint16_t>(list.currentIndex()) <= kLastCustomGammaPosition;
 }
 

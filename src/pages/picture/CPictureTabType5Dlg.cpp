@@ -1,17 +1,19 @@
 #include "pages/picture/CPictureTabType5Dlg.h"
 
 #include "resources/AdvancedControlResources.h"
+#include "settings/ControlId.h"
 #include "settings/PageTables.h"
 #include "settings/picture/PictureRows.h"
 #include "toolkit/CComboBox.h"
 
 namespace {
 
-constexpr int kActiveIrisList = 20293;
+namespace Id = ControlId::Picture;
+
 constexpr short kNoIrisMode = static_cast<short>(0xFFFF);
 
 std::vector<ListEntry> ActiveIrisEntries() {
-  return std::get<ListRow>(FindRow(kPictureType5Rows, kActiveIrisList)).entries.Of({});
+  return std::get<ListRow>(FindRow(kPictureType5Rows, Id::ActiveIris)).entries.Of({});
 }
 
 }  // namespace
@@ -39,17 +41,17 @@ short CPictureTabType5Dlg::ActIrisValueToIdx(short value) {
   return static_cast<short>(PositionOf(ActiveIrisEntries(), value));
 }
 
-void CPictureTabType5Dlg::OnBnClickedPicBgpBtn() { Act(20135); }
-void CPictureTabType5Dlg::OnBnClickedPicBgnBtn() { Act(20134); }
-void CPictureTabType5Dlg::OnBnClickedPicCnpBtn() { Act(20139); }
-void CPictureTabType5Dlg::OnBnClickedPicCnnBtn() { Act(20137); }
-void CPictureTabType5Dlg::OnBnClickedPicClrpBtn() { Act(20149); }
-void CPictureTabType5Dlg::OnBnClickedPicClrnBtn() { Act(20147); }
-void CPictureTabType5Dlg::OnBnClickedPicTintpBtn() { Act(21063); }
-void CPictureTabType5Dlg::OnBnClickedPicTintnBtn() { Act(21061); }
-void CPictureTabType5Dlg::OnBnClickedPicShppBtn() { Act(20150); }
-void CPictureTabType5Dlg::OnBnClickedPicShpnBtn() { Act(20148); }
-void CPictureTabType5Dlg::OnBnClickedPicMyldBtn() { Act(21065); }
-void CPictureTabType5Dlg::OnCbnSelchangePic5ActilisCombo() { Act(20293); }
-void CPictureTabType5Dlg::OnBnClickedPicRstBtn() { Act(21070); }
+void CPictureTabType5Dlg::OnBnClickedPicBgpBtn() { Act(Id::BrightnessPlus); }
+void CPictureTabType5Dlg::OnBnClickedPicBgnBtn() { Act(Id::BrightnessMinus); }
+void CPictureTabType5Dlg::OnBnClickedPicCnpBtn() { Act(Id::ContrastPlus); }
+void CPictureTabType5Dlg::OnBnClickedPicCnnBtn() { Act(Id::ContrastMinus); }
+void CPictureTabType5Dlg::OnBnClickedPicClrpBtn() { Act(Id::ColorPlus); }
+void CPictureTabType5Dlg::OnBnClickedPicClrnBtn() { Act(Id::ColorMinus); }
+void CPictureTabType5Dlg::OnBnClickedPicTintpBtn() { Act(Id::TintPlus); }
+void CPictureTabType5Dlg::OnBnClickedPicTintnBtn() { Act(Id::TintMinus); }
+void CPictureTabType5Dlg::OnBnClickedPicShppBtn() { Act(Id::SharpnessPlus); }
+void CPictureTabType5Dlg::OnBnClickedPicShpnBtn() { Act(Id::SharpnessMinus); }
+void CPictureTabType5Dlg::OnBnClickedPicMyldBtn() { Act(Id::MyMemoryExecute); }
+void CPictureTabType5Dlg::OnCbnSelchangePic5ActilisCombo() { Act(Id::ActiveIris); }
+void CPictureTabType5Dlg::OnBnClickedPicRstBtn() { Act(Id::ResetExecute); }
 void CPictureTabType5Dlg::OnHScroll(CSliderCtrl& slider) { Release(slider); }

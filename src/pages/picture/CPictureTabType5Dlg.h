@@ -16,7 +16,7 @@ class ADVANCED_CONTROL_EXPORT CPictureTabType5Dlg final : public AdvancedControl
   /// Position of a device value in the active-iris list, or −1.
   static short ActIrisValueToIdx(short value);
 
-  // What the user does with each control, by name.
+  // Handlers, one for each control.
   void OnBnClickedPicBgpBtn();
   void OnBnClickedPicBgnBtn();
   void OnBnClickedPicCnpBtn();

@@ -36,7 +36,7 @@ void CustomDialog::AddPicture() {
   Draw();
 }
 
-// A field shows what the projector accepted; a slider is ahead of it while it is being moved.
+// A field shows the accepted value; while the user moves a slider, it already shows the new one.
 void CustomDialog::Draw() {
   Values accepted;
   Values tried;

@@ -10,9 +10,8 @@
 
 namespace AdvancedControl {
 
-/// What the two custom pop-ups share: a test pattern and a column of slider rows, each with a
-/// button that resets it, and a picture of their values. Every change goes to the projector at
-/// once.
+/// Base of the two custom pop-ups: a test pattern, a column of slider rows with Reset buttons, and
+/// a picture of their values. Every change is sent at once.
 class CustomDialog : public RowDialog {
   Q_OBJECT
 
@@ -22,9 +21,9 @@ class CustomDialog : public RowDialog {
 
   bool OnInitDialog() override;
 
-  /// The rows' shown values, in their order; nothing for one that could not be read.
+  /// The shown values of the rows, in their order; nothing for a row that could not be read.
   using Values = std::vector<std::optional<int>>;
-  /// The lines that a picture of the values is made of; one that is not known has no points.
+  /// The lines of the picture. A line with an unknown value has no points.
   virtual std::vector<CurveView::Line> LinesOf(const Values& values) const = 0;
 
  private:
@@ -35,7 +34,7 @@ class CustomDialog : public RowDialog {
   void AddPicture();
   void Draw();
 
-  const PageTable& table_;  // the pattern, then the slider rows
+  const PageTable& table_;  // the test pattern, then the slider rows
   bool hideResets_;
   QPointer<CurveView> picture_;
 };

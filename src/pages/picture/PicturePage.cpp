@@ -2,16 +2,14 @@
 
 #include "pages/picture/CColorDlg.h"
 #include "pages/picture/CGammaDlg.h"
+#include "settings/ControlId.h"
 #include "toolkit/CComboBox.h"
 
 namespace AdvancedControl {
 
 namespace {
 
-constexpr int kGammaList = 20142;
-constexpr int kColorTempList = 20144;
-constexpr int kCustomGamma = 20133;
-constexpr int kCustomColorTemp = 20143;
+namespace Id = ControlId::Picture;
 
 }  // namespace
 
@@ -21,10 +19,10 @@ PicturePage::PicturePage(int templateNumber, const PageTable& table, bool hideRe
 std::vector<Notification> PicturePage::OwnNotifications() const {
   using Self = PicturePage;
   return {
-      SelChange(kGammaList, &Self::OnCbnSelchangePicGammaComb),
-      SelChange(kColorTempList, &Self::OnCbnSelchangePicCctComb),
-      Clicked(kCustomGamma, &Self::OnBnClickedPicGammaBtn),
-      Clicked(kCustomColorTemp, &Self::OnBnClickedPicColorBtn),
+      SelChange(Id::Gamma, &Self::OnCbnSelchangePicGammaComb),
+      SelChange(Id::ColorTemp, &Self::OnCbnSelchangePicCctComb),
+      Clicked(Id::CustomGamma, &Self::OnBnClickedPicGammaBtn),
+      Clicked(Id::CustomColorTemp, &Self::OnBnClickedPicColorBtn),
   };
 }
 
@@ -34,17 +32,17 @@ void PicturePage::InitDisp() {
 }
 
 void PicturePage::EnableCustomButtons() {
-  GetDlgItem(kCustomGamma)->setEnabled(IsCustomGamma(Item<CComboBox>(kGammaList)));
-  GetDlgItem(kCustomColorTemp)->setEnabled(IsCustomColorTemp(Item<CComboBox>(kColorTempList)));
+  GetDlgItem(Id::CustomGamma)->setEnabled(IsCustomGamma(Item<CComboBox>(Id::Gamma)));
+  GetDlgItem(Id::CustomColorTemp)->setEnabled(IsCustomColorTemp(Item<CComboBox>(Id::ColorTemp)));
 }
 
 void PicturePage::OnCbnSelchangePicGammaComb() {
-  Act(kGammaList);
+  Act(Id::Gamma);
   EnableCustomButtons();
 }
 
 void PicturePage::OnCbnSelchangePicCctComb() {
-  Act(kColorTempList);
+  Act(Id::ColorTemp);
   EnableCustomButtons();
 }
 

@@ -7,7 +7,7 @@ class CComboBox;
 
 namespace AdvancedControl {
 
-/// A button that makes the projector do something, with a list beside it or without.
+/// A button that makes the projector do something, with or without a list beside it.
 class ActionRowView final : public RowView {
  public:
   ActionRowView(const PageTable& table, const PageRow& row, RowHost& host)

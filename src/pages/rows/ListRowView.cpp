@@ -16,7 +16,7 @@ void ListRowView::Bind() { list_ = &Dialog().Item<CComboBox>(row_.control); }
 
 void ListRowView::Prepare() { FillList(*list_, row_.entries.Of(Model())); }
 
-// The entries keep their texts and stand for what the row's own entries at their places do.
+// The entries keep their texts and get the values of the row's own entries at the same positions.
 void ListRowView::UseTemplate() {
   const std::vector<ListEntry> entries = row_.entries.Of({});
   const int count = std::min(list_->count(), static_cast<int>(entries.size()));

@@ -22,7 +22,8 @@ void ResetRowView::Prepare() {
     const ResetEntry& entry = row_.entries[i];
     const RowView* of = Host().RowOf(Dialog().GetDlgItem(entry.of));
     if (entry.of != 0 && (of == nullptr || !of->memory.present)) continue;
-    // The entry's place in the table rides along: what is listed does not tell it.
+    // The value is the entry's position in the table, because the list has only the present
+    // entries.
     list_->Add(CatalogString(kListCategory, entry.text), static_cast<int>(i));
   }
 }

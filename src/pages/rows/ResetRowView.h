@@ -15,7 +15,7 @@ class ResetRowView final : public RowView {
 
   std::vector<Operated> OperatedControls() const override;
   void Bind() override;
-  /// Lists the resets of the present rows; nothing is selected then.
+  /// Lists the resets of the present rows. Nothing is selected afterwards.
   void Prepare() override;
   void OnPageRead() override;
   void Act(int control) override;

@@ -48,7 +48,7 @@ QString RowNotes::TextOf(const RowView& row) {
   return {};
 }
 
-void RowNotes::Tell(RowView& row, const CPjtInterface::Tally& before) const {
+void RowNotes::SetNote(RowView& row, const CPjtInterface::Tally& before) const {
   const SettingsDialog& dialog = host_.Dialog();
   if (const RowNote note = NoteOf(row, dialog, before);
       std::exchange(row.memory.note, note) == note) {
@@ -56,7 +56,7 @@ void RowNotes::Tell(RowView& row, const CPjtInterface::Tally& before) const {
   }
   const QString text = TextOf(row);
   for (const int id : ControlsOf(row.Row())) dialog.GetDlgItem(id)->setToolTip(text);
-  // A text that is only shown is described by its caption.
+  // A label's accessible description is its caption.
   if (qobject_cast<QLabel*>(dialog.GetDlgItem(ControlOf(row.Row()))) != nullptr) return;
   for (const int id : ControlsOf(row.Row())) dialog.GetDlgItem(id)->setAccessibleDescription(text);
   GreyCaption(row);

@@ -22,7 +22,7 @@ class RowNotes {
   static QString TextOf(const RowView& row);
 
   /// Sets the note of a row that was just read; `before` is the tally from before the reading.
-  void Tell(RowView& row, const CPjtInterface::Tally& before) const;
+  void SetNote(RowView& row, const CPjtInterface::Tally& before) const;
   /// Greys a row's caption if its controls are disabled.
   void GreyCaption(const RowView& row) const;
 

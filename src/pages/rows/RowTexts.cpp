@@ -10,7 +10,7 @@ QString PlainText(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-// One that is the same in every language is no text of the catalog.
+// A caption that is the same in every language is not in the catalog.
 QString CaptionText(const PageRow& row) {
   const int number = CaptionOf(row);
   if (number != 0) return CatalogString(kCaptionCategory, number);

@@ -14,11 +14,11 @@ namespace AdvancedControl {
 
 /// A text that is the same in every language.
 QString PlainText(std::string_view text);
-/// A row's name as a person reads it.
+/// A row's caption as shown to the user.
 QString CaptionText(const PageRow& row);
 /// The text of an entry, in the language of the catalog.
 QString TextOf(const ListEntry& entry);
-/// Fills a list anew; nothing is selected then.
+/// Replaces the entries of a list. Nothing is selected afterwards.
 void FillList(CComboBox& list, std::span<const ListEntry> entries);
 
 }  // namespace AdvancedControl

@@ -10,7 +10,7 @@ namespace AdvancedControl {
 
 namespace {
 
-/// A button of the page alone.
+/// A button that opens a pop-up; the page handles it.
 class PopUpRowView final : public RowView {
  public:
   using RowView::RowView;

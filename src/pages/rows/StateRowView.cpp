@@ -10,7 +10,7 @@ namespace AdvancedControl {
 
 namespace {
 
-// A state's text is put into a catalog text of its own; both may be long.
+// A state's text is inserted into another catalog text; both may be long.
 constexpr int kFramedTextSize = 2048;
 
 }  // namespace

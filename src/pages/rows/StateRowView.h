@@ -7,8 +7,8 @@ class QLabel;
 
 namespace AdvancedControl {
 
-/// A state of the projector, shown as a text, or as a dash where it cannot be read. What a person
-/// can do about it is its page's.
+/// A state of the projector, shown as a text, or as a dash if it cannot be read. The page handles
+/// actions that change the state.
 class StateRowView final : public RowView {
  public:
   StateRowView(const PageTable& table, const PageRow& row, RowHost& host)

@@ -33,7 +33,7 @@ void ValueRowView::Bind() {
   slider_ = row_.ids.slider != 0 ? &dialog.Item<CSliderCtrl>(row_.ids.slider) : nullptr;
   plus_ = &dialog.Item<QAbstractButton>(row_.ids.plus);
   field_ = &dialog.Item<QLineEdit>(row_.ids.field);
-  field_->setContextMenuPolicy(Qt::NoContextMenu);  // the row's comes up there too
+  field_->setContextMenuPolicy(Qt::NoContextMenu);  // the row's own menu opens there too
 }
 
 void ValueRowView::Prepare() {
@@ -90,7 +90,7 @@ Stepped ValueRowView::Step(bool upwards) {
   return stepped;
 }
 
-// A refusal is told once: nothing is tried again behind the message.
+// A refusal ends the stepping, and is shown once.
 void ValueRowView::StepTo(int number) {
   const auto present = Position();
   if (!present) return;
@@ -116,22 +116,23 @@ bool ValueRowView::Release() {
     return true;
   }
   Refuse(row_.refusedDrag == RefusedDrag::Stays ? position : remembered_,
-         row_.refusedDrag == RefusedDrag::Told);
+         row_.refusedDrag == RefusedDrag::ShowsError);
   if (row_.refusedDrag == RefusedDrag::Empties && !Projector().IsAbandoned()) field_->clear();
   return false;
 }
 
-// The slider stands at `position` afterwards, unless the value is read again.
-void ValueRowView::Refuse(int position, bool told) {
+// Moves the slider to `position`, unless the value is read back.
+void ValueRowView::Refuse(int position, bool showMessage) {
   if (Projector().IsAbandoned()) return;
   MoveSlider(position);
   if (Table().refusedIsReadBack) {
     if (const auto value = ReadSetting(0)) remembered_ = Word(ShowDevice(*value));
   }
-  if (told && row_.error != 0) Dialog().ShowError(row_.error);
+  if (showMessage && row_.error != 0) Dialog().ShowError(row_.error);
 }
 
-// What resets show is not remembered: the next step's bound test still uses the value from before.
+// The value after a reset is shown but not remembered: the bound test of the next step uses the
+// earlier value.
 void ValueRowView::RunReset() {
   if (!Perform(Projector(), row_.reset.call).accepted) return;
   const auto value = ::Read(Projector(), row_.reset.read);

@@ -11,8 +11,8 @@ class QLineEdit;
 namespace AdvancedControl {
 
 /// A setting with a number: − button, slider, + button and number field, or a field with two arrow
-/// buttons and no slider. It remembers the last value known, which a refused change goes back to.
-/// Values are shown values unless told otherwise.
+/// buttons and no slider. It remembers the last known value, which it restores after a refused
+/// change. Values are shown values unless stated otherwise.
 class ValueRowView final : public RowView {
  public:
   ValueRowView(const PageTable& table, const PageRow& row, RowHost& host)
@@ -30,26 +30,26 @@ class ValueRowView final : public RowView {
   std::optional<Range> Numbers() const override;
   bool IsUsable() const override;
 
-  /// Shows its value afresh after a reset, without remembering it.
+  /// Reads and shows the value after a reset, without remembering it.
   void ShowAgain();
-  /// The slider was released. False when the projector refused the position.
+  /// Sends the position of the released slider. False if the projector refused it.
   bool Release();
 
-  // For pages with rules of their own.
+  // For pages with their own rules.
   std::int16_t Remembered() const { return remembered_; }
   void MoveSlider(int value);
   void ShowNumber(int value);
-  /// Takes −, slider and + in or out of use; a disabled row's field is empty.
+  /// Enables or disables −, slider and +. The field of a disabled row is empty.
   void Enable() { EnableControls(true); }
   void Disable();
 
  private:
   void EnableControls(bool enable);
-  /// Shows a device value, and gives the shown one.
+  /// Shows a device value, and returns the shown value.
   int ShowDevice(int value);
   Stepped Step(bool upwards);
   void StepTo(int number);
-  void Refuse(int position, bool told);
+  void Refuse(int position, bool showMessage);
   void RunReset();
 
   const ValueRow& row_;

@@ -1,11 +1,12 @@
 #include "pages/setup/CAudioType5Dlg.h"
 
 #include "resources/AdvancedControlResources.h"
+#include "settings/ControlId.h"
 #include "settings/PageTables.h"
 
 namespace {
 
-constexpr int kVolume = 20347;
+namespace Id = ControlId::AudioType5;
 
 }  // namespace
 
@@ -14,29 +15,29 @@ CAudioType5Dlg::CAudioType5Dlg(CWnd* parent)
 
 bool CAudioType5Dlg::OnInitDialog() {
   PrepareRows();
-  // Not a model of this page: it stays unlocalized.
-  if (Row(kVolume).memory.present) LocalizeControlTexts(kCaptionCategory, *this);
+  // For models without this page, the captions stay unlocalized.
+  if (Row(Id::Volume).memory.present) LocalizeControlTexts(kCaptionCategory, *this);
   return true;
 }
 
 void CAudioType5Dlg::OnHScroll(CSliderCtrl& slider) { Release(slider); }
-void CAudioType5Dlg::OnBnClickedAud5Btnvolneg() { Act(20345); }
-void CAudioType5Dlg::OnBnClickedAud5Btnvolpos() { Act(20346); }
-void CAudioType5Dlg::OnBnClickedAud5Btntreneg() { Act(20348); }
-void CAudioType5Dlg::OnBnClickedAud5Btntrepos() { Act(20349); }
-void CAudioType5Dlg::OnBnClickedAud5Btnbasneg() { Act(20351); }
-void CAudioType5Dlg::OnBnClickedAud5Btnbaspos() { Act(20352); }
-void CAudioType5Dlg::OnCbnSelchangeAud5Srswcomb() { Act(20381); }
-void CAudioType5Dlg::OnCbnSelchangeAud5Spekcomb() { Act(20354); }
-void CAudioType5Dlg::OnCbnSelchangeAud5Argb1comb() { Act(20356); }
-void CAudioType5Dlg::OnCbnSelchangeAud5Acomp1comb() { Act(20365); }
-void CAudioType5Dlg::OnCbnSelchangeAud5Argb2comb() { Act(20358); }
-void CAudioType5Dlg::OnCbnSelchangeAud5Acomp2comb() { Act(20366); }
-void CAudioType5Dlg::OnCbnSelchangeAud5Am1dcomb() { Act(20359); }
-void CAudioType5Dlg::OnCbnSelchangeAud5Ahdmicomb() { Act(20367); }
-void CAudioType5Dlg::OnCbnSelchangeAud5Avidcomb() { Act(20360); }
-void CAudioType5Dlg::OnCbnSelchangeAud5Asvidcomb() { Act(20361); }
-void CAudioType5Dlg::OnCbnSelchangeAud5Acompcomb() { Act(20362); }
-void CAudioType5Dlg::OnCbnSelchangeAud5Amiucomb() { Act(20363); }
-void CAudioType5Dlg::OnCbnSelchangeAud5Aoutstbcomb() { Act(20368); }
-void CAudioType5Dlg::OnCbnSelchangeAud5Hdmiaudiocomb() { Act(20364); }
+void CAudioType5Dlg::OnBnClickedAud5Btnvolneg() { Act(Id::VolumeMinus); }
+void CAudioType5Dlg::OnBnClickedAud5Btnvolpos() { Act(Id::VolumePlus); }
+void CAudioType5Dlg::OnBnClickedAud5Btntreneg() { Act(Id::TrebleMinus); }
+void CAudioType5Dlg::OnBnClickedAud5Btntrepos() { Act(Id::TreblePlus); }
+void CAudioType5Dlg::OnBnClickedAud5Btnbasneg() { Act(Id::BassMinus); }
+void CAudioType5Dlg::OnBnClickedAud5Btnbaspos() { Act(Id::BassPlus); }
+void CAudioType5Dlg::OnCbnSelchangeAud5Srswcomb() { Act(Id::SrsWow); }
+void CAudioType5Dlg::OnCbnSelchangeAud5Spekcomb() { Act(Id::Speaker); }
+void CAudioType5Dlg::OnCbnSelchangeAud5Argb1comb() { Act(Id::Rgb1); }
+void CAudioType5Dlg::OnCbnSelchangeAud5Acomp1comb() { Act(Id::Computer1); }
+void CAudioType5Dlg::OnCbnSelchangeAud5Argb2comb() { Act(Id::Rgb2); }
+void CAudioType5Dlg::OnCbnSelchangeAud5Acomp2comb() { Act(Id::Computer2); }
+void CAudioType5Dlg::OnCbnSelchangeAud5Am1dcomb() { Act(Id::M1D); }
+void CAudioType5Dlg::OnCbnSelchangeAud5Ahdmicomb() { Act(Id::Hdmi); }
+void CAudioType5Dlg::OnCbnSelchangeAud5Avidcomb() { Act(Id::Video); }
+void CAudioType5Dlg::OnCbnSelchangeAud5Asvidcomb() { Act(Id::SVideo); }
+void CAudioType5Dlg::OnCbnSelchangeAud5Acompcomb() { Act(Id::Component); }
+void CAudioType5Dlg::OnCbnSelchangeAud5Amiucomb() { Act(Id::Miu); }
+void CAudioType5Dlg::OnCbnSelchangeAud5Aoutstbcomb() { Act(Id::OutStandby); }
+void CAudioType5Dlg::OnCbnSelchangeAud5Hdmiaudiocomb() { Act(Id::HdmiAudio); }

@@ -4,14 +4,14 @@
 #include "pages/common/CTabPage.h"
 
 /// Sound settings of the newest page set: volume, treble, bass and surround of the source that
-/// plays now, the audio input of every source, speaker and standby. No refusal is told in words.
+/// plays now, the audio input of every source, speaker and standby. Refusals show no message.
 class ADVANCED_CONTROL_EXPORT CAudioType5Dlg final : public CTabPage {
   Q_OBJECT
 
  public:
   explicit CAudioType5Dlg(CWnd* parent);
 
-  // What the user does with each control, by name.
+  // Handlers, one for each control.
   void OnHScroll(CSliderCtrl& slider);
   void OnBnClickedAud5Btnvolneg();
   void OnBnClickedAud5Btnvolpos();

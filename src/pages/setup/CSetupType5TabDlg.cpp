@@ -5,6 +5,7 @@
 #include "pages/rows/ListRowView.h"
 #include "pages/rows/ValueRowView.h"
 #include "resources/AdvancedControlResources.h"
+#include "settings/ControlId.h"
 #include "settings/PageTables.h"
 #include "toolkit/CComboBox.h"
 #include "toolkit/CSliderCtrl.h"
@@ -12,15 +13,10 @@
 
 namespace {
 
+namespace Id = ControlId::SetupType5;
+
 constexpr int kInitialVolume = 16;
 constexpr int kSaving = 1;
-
-constexpr int kKeystoneV = 20310;
-constexpr int kKeystoneH = 20311;
-constexpr int kVolume = 20317;
-constexpr int kCurrentInput = 20337;
-constexpr int kStandbyMode = 20368;
-constexpr int kReset = 20328;
 
 }  // namespace
 
@@ -30,86 +26,87 @@ CSetupType5TabDlg::CSetupType5TabDlg(CWnd* parent)
 std::vector<Notification> CSetupType5TabDlg::OwnNotifications() const {
   using Self = CSetupType5TabDlg;
   return {
-      SelChange(kStandbyMode, &Self::OnCbnSelchangeCombStandbymode),
+      SelChange(Id::StandbyMode, &Self::OnCbnSelchangeCombStandbymode),
       HScroll(&Self::OnHScroll),
   };
 }
 
 bool CSetupType5TabDlg::OnInitDialog() {
   CTabPage::OnInitDialog();
-  ShowRow(kCurrentInput, Row(kVolume).memory.present);
-  Row<ValueRowView>(kVolume).ShowNumber(kInitialVolume);
+  ShowRow(Id::CurrentInput, Row(Id::Volume).memory.present);
+  Row<ValueRowView>(Id::Volume).ShowNumber(kInitialVolume);
   return true;
 }
 
 void CSetupType5TabDlg::InitDisp() {
-  Row(kReset).Prepare();
+  Row(Id::ResetExecute).Prepare();
   CTabPage::InitDisp();
 }
 
 void CSetupType5TabDlg::ShowSource(std::optional<int> source) {
-  Item<QLineEdit>(kCurrentInput).setText(source ? QString::number(*source) : QString());
+  Item<QLineEdit>(Id::CurrentInput).setText(source ? QString::number(*source) : QString());
 }
 
 void CSetupType5TabDlg::OnHScroll(CSliderCtrl& slider) {
-  // Intended: a refused horizontal change falls back to the vertical memory, not to its own.
-  if (!Release(slider) && &slider == GetDlgItem(kKeystoneH) && !projector->IsAbandoned()) {
-    slider.setValue(Row<ValueRowView>(kKeystoneV).Remembered());
+  // Intended: a refused horizontal change restores the remembered vertical value instead of its
+  // own.
+  if (!Release(slider) && &slider == GetDlgItem(Id::KeystoneH) && !projector->IsAbandoned()) {
+    slider.setValue(Row<ValueRowView>(Id::KeystoneV).Remembered());
   }
 }
 
 int CSetupType5TabDlg::DisableVolumeCtrl(bool disable) {
   if (disable) {
-    Row<ValueRowView>(kVolume).Disable();
+    Row<ValueRowView>(Id::Volume).Disable();
   } else {
-    Row<ValueRowView>(kVolume).Enable();
+    Row<ValueRowView>(Id::Volume).Enable();
   }
   return 0;
 }
 
 void CSetupType5TabDlg::OnCbnSelchangeCombStandbymode() {
-  if (Item<CComboBox>(kStandbyMode).SelectedValue() == kSaving &&
+  if (Item<CComboBox>(Id::StandbyMode).SelectedValue() == kSaving &&
       !Ask(ErrorText::StandbySavingQuestion)) {
-    Row<ListRowView>(kStandbyMode).ReadBack();
+    Row<ListRowView>(Id::StandbyMode).ReadBack();
     return;
   }
-  Act(kStandbyMode);
+  Act(Id::StandbyMode);
 }
 
-void CSetupType5TabDlg::OnBnClickedStu5Btnatks() { Act(20305); }
-void CSetupType5TabDlg::OnBnClickedStu5Btksvneg() { Act(20308); }
-void CSetupType5TabDlg::OnBnClickedStu5Btksvpos() { Act(20309); }
-void CSetupType5TabDlg::OnBnClickedStu5Btkshneg() { Act(20312); }
-void CSetupType5TabDlg::OnBnClickedStu5Btkshpos() { Act(20313); }
-void CSetupType5TabDlg::OnBnClickedStu5Btvolneg() { Act(20318); }
-void CSetupType5TabDlg::OnBnClickedStu5Btvolpos() { Act(20319); }
-void CSetupType5TabDlg::OnBnClickedStu5Btreset() { Act(20328); }
-void CSetupType5TabDlg::OnCbnSelchangeStu5Wspcomb() { Act(20315); }
-void CSetupType5TabDlg::OnCbnSelchangeStu5Mircomb() { Act(20316); }
-void CSetupType5TabDlg::OnCbnSelchangeStu5Speakercomb() { Act(20321); }
-void CSetupType5TabDlg::OnBnClickedDzoomDecBtn() { Act(20331); }
-void CSetupType5TabDlg::OnBnClickedDzoomIncBtn() { Act(20333); }
-void CSetupType5TabDlg::OnBnClickedDshiftUpBtn() { Act(20335); }
-void CSetupType5TabDlg::OnBnClickedDshiftDownBtn() { Act(20336); }
-void CSetupType5TabDlg::OnBnClickedDshiftLeftBtn() { Act(20334); }
-void CSetupType5TabDlg::OnBnClickedDshiftRightBtn() { Act(20350); }
-void CSetupType5TabDlg::OnCbnSelchangeStu5Argb1comb() { Act(20320); }
-void CSetupType5TabDlg::OnCbnSelchangeStu5Acomp1comb() { Act(20369); }
-void CSetupType5TabDlg::OnCbnSelchangeStu5Argb2comb() { Act(20322); }
-void CSetupType5TabDlg::OnCbnSelchangeStu5Acomp2comb() { Act(20370); }
-void CSetupType5TabDlg::OnCbnSelchangeStu5Ahdmicomb() { Act(20329); }
-void CSetupType5TabDlg::OnCbnSelchangeStu5Avidcomb() { Act(20323); }
-void CSetupType5TabDlg::OnCbnSelchangeStu5Asvidcomb() { Act(20324); }
-void CSetupType5TabDlg::OnCbnSelchangeStu5Acompcomb() { Act(20325); }
-void CSetupType5TabDlg::OnCbnSelchangeStu5Amiucomb() { Act(20326); }
-void CSetupType5TabDlg::OnCbnSelchangeStu5HdmiaudioComb() { Act(20330); }
-void CSetupType5TabDlg::OnCbnSelchangeCombMonitoroutRgb1() { Act(20371); }
-void CSetupType5TabDlg::OnCbnSelchangeCombMonitoroutComputer1() { Act(20360); }
-void CSetupType5TabDlg::OnCbnSelchangeCombMonitoroutRgb2() { Act(20372); }
-void CSetupType5TabDlg::OnCbnSelchangeCombMonitoroutComputer2() { Act(20361); }
-void CSetupType5TabDlg::OnCbnSelchangeCombMonitoroutHdmi() { Act(20362); }
-void CSetupType5TabDlg::OnCbnSelchangeCombMonitoroutComponent() { Act(20363); }
-void CSetupType5TabDlg::OnCbnSelchangeCombMonitoroutSvideo() { Act(20364); }
-void CSetupType5TabDlg::OnCbnSelchangeCombMonitoroutVideo() { Act(20365); }
-void CSetupType5TabDlg::OnCbnSelchangeCombMonitoroutMiu() { Act(20366); }
-void CSetupType5TabDlg::OnCbnSelchangeCombMonitoroutStandby() { Act(20367); }
+void CSetupType5TabDlg::OnBnClickedStu5Btnatks() { Act(Id::AutoKeystone); }
+void CSetupType5TabDlg::OnBnClickedStu5Btksvneg() { Act(Id::KeystoneVMinus); }
+void CSetupType5TabDlg::OnBnClickedStu5Btksvpos() { Act(Id::KeystoneVPlus); }
+void CSetupType5TabDlg::OnBnClickedStu5Btkshneg() { Act(Id::KeystoneHMinus); }
+void CSetupType5TabDlg::OnBnClickedStu5Btkshpos() { Act(Id::KeystoneHPlus); }
+void CSetupType5TabDlg::OnBnClickedStu5Btvolneg() { Act(Id::VolumeMinus); }
+void CSetupType5TabDlg::OnBnClickedStu5Btvolpos() { Act(Id::VolumePlus); }
+void CSetupType5TabDlg::OnBnClickedStu5Btreset() { Act(Id::ResetExecute); }
+void CSetupType5TabDlg::OnCbnSelchangeStu5Wspcomb() { Act(Id::Whisper); }
+void CSetupType5TabDlg::OnCbnSelchangeStu5Mircomb() { Act(Id::Mirror); }
+void CSetupType5TabDlg::OnCbnSelchangeStu5Speakercomb() { Act(Id::Speaker); }
+void CSetupType5TabDlg::OnBnClickedDzoomDecBtn() { Act(Id::DZoomMinus); }
+void CSetupType5TabDlg::OnBnClickedDzoomIncBtn() { Act(Id::DZoomPlus); }
+void CSetupType5TabDlg::OnBnClickedDshiftUpBtn() { Act(Id::DShiftVPlus); }
+void CSetupType5TabDlg::OnBnClickedDshiftDownBtn() { Act(Id::DShiftVMinus); }
+void CSetupType5TabDlg::OnBnClickedDshiftLeftBtn() { Act(Id::DShiftHMinus); }
+void CSetupType5TabDlg::OnBnClickedDshiftRightBtn() { Act(Id::DShiftHPlus); }
+void CSetupType5TabDlg::OnCbnSelchangeStu5Argb1comb() { Act(Id::AudioRgb1); }
+void CSetupType5TabDlg::OnCbnSelchangeStu5Acomp1comb() { Act(Id::AudioComputer1); }
+void CSetupType5TabDlg::OnCbnSelchangeStu5Argb2comb() { Act(Id::AudioRgb2); }
+void CSetupType5TabDlg::OnCbnSelchangeStu5Acomp2comb() { Act(Id::AudioComputer2); }
+void CSetupType5TabDlg::OnCbnSelchangeStu5Ahdmicomb() { Act(Id::AudioHdmi); }
+void CSetupType5TabDlg::OnCbnSelchangeStu5Avidcomb() { Act(Id::AudioVideo); }
+void CSetupType5TabDlg::OnCbnSelchangeStu5Asvidcomb() { Act(Id::AudioSVideo); }
+void CSetupType5TabDlg::OnCbnSelchangeStu5Acompcomb() { Act(Id::AudioComponent); }
+void CSetupType5TabDlg::OnCbnSelchangeStu5Amiucomb() { Act(Id::AudioMiu); }
+void CSetupType5TabDlg::OnCbnSelchangeStu5HdmiaudioComb() { Act(Id::HdmiAudio); }
+void CSetupType5TabDlg::OnCbnSelchangeCombMonitoroutRgb1() { Act(Id::MonitorOutRgb1); }
+void CSetupType5TabDlg::OnCbnSelchangeCombMonitoroutComputer1() { Act(Id::MonitorOutComputer1); }
+void CSetupType5TabDlg::OnCbnSelchangeCombMonitoroutRgb2() { Act(Id::MonitorOutRgb2); }
+void CSetupType5TabDlg::OnCbnSelchangeCombMonitoroutComputer2() { Act(Id::MonitorOutComputer2); }
+void CSetupType5TabDlg::OnCbnSelchangeCombMonitoroutHdmi() { Act(Id::MonitorOutHdmi); }
+void CSetupType5TabDlg::OnCbnSelchangeCombMonitoroutComponent() { Act(Id::MonitorOutComponent); }
+void CSetupType5TabDlg::OnCbnSelchangeCombMonitoroutSvideo() { Act(Id::MonitorOutSVideo); }
+void CSetupType5TabDlg::OnCbnSelchangeCombMonitoroutVideo() { Act(Id::MonitorOutVideo); }
+void CSetupType5TabDlg::OnCbnSelchangeCombMonitoroutMiu() { Act(Id::MonitorOutMiu); }
+void CSetupType5TabDlg::OnCbnSelchangeCombMonitoroutStandby() { Act(Id::MonitorOutStandby); }

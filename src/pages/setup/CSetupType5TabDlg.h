@@ -5,7 +5,7 @@
 
 /// Installation settings of the newest page set: keystone, digital zoom and shift, whisper, mirror,
 /// volume, speaker and their resets on the left; audio routing, monitor out and standby on the
-/// right. A refusal mostly goes back to what the projector reports without a word.
+/// right. After most refusals, the row silently shows what the projector reports.
 class ADVANCED_CONTROL_EXPORT CSetupType5TabDlg final : public CTabPage {
   Q_OBJECT
 
@@ -14,11 +14,10 @@ class ADVANCED_CONTROL_EXPORT CSetupType5TabDlg final : public CTabPage {
 
   void InitDisp() override;
 
-  /// Takes the volume's buttons and slider out of use and empties its field, or takes them into
-  /// use. Always 0.
+  /// Disables the volume's buttons and slider and empties its field, or enables them. Returns 0.
   int DisableVolumeCtrl(bool disable);
 
-  // What the user does with each control, by name.
+  // Handlers, one for each control.
   void OnBnClickedStu5Btnatks();
   void OnBnClickedStu5Btksvneg();
   void OnBnClickedStu5Btksvpos();

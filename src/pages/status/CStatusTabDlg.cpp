@@ -1,6 +1,7 @@
 #include "pages/status/CStatusTabDlg.h"
 
 #include "resources/AdvancedControlResources.h"
+#include "settings/ControlId.h"
 #include "settings/PageTables.h"
 #include "toolkit/CComboBox.h"
 
@@ -8,6 +9,6 @@ CStatusTabDlg::CStatusTabDlg(CWnd* parent) : CTabPage(TemplateId::Status, kStatu
 
 bool CStatusTabDlg::OnInitDialog() {
   CTabPage::OnInitDialog();
-  Item<CComboBox>(20019).Select(0);
+  Item<CComboBox>(ControlId::Status::Reset).Select(0);
   return true;
 }

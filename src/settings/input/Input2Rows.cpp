@@ -40,8 +40,7 @@ static_assert(AreComplete(kModels, std::ssize(kRows)));
 
 }  // namespace
 
-// Of a model that is not listed nothing is known: every row is there, and those that it refuses
-// grey.
+// An unlisted model shows every row; those that it refuses are disabled.
 constinit const PageTable kInput2Rows{kRows, kModels, Unlisted::AllRows};
 
 }  // namespace AdvancedControl

@@ -6,7 +6,7 @@
 
 namespace AdvancedControl {
 
-// What the input pages have in common; what is called legacy, only the older ones.
+// Lists that the input pages share. Those called legacy are for the older pages only.
 
 inline constexpr auto kColorSpaces =
     Numbered(ListText::Auto, "RGB", "SMPTE240", "REC709", "REC601");
@@ -23,10 +23,10 @@ inline constexpr auto kLegacyNoiseReductions =
 inline constexpr auto kLegacyProgressive =
     Numbered(ListText::Off, ListText::LegacyProgressiveTv, ListText::LegacyProgressiveFilm);
 
-// The projector interface takes positions, also of lists whose values are mapped when they are
-// read, and maps them back.
+// The setters expect positions, even for lists whose values are mapped when they are read; they map
+// the positions back.
 inline constexpr ListRules kSendsPosition{.sendsPosition = true};
-// A format that the list does not have is the position itself.
+// A format without an entry is used as the position.
 inline constexpr ListRules kFormatRules{.sendsPosition = true, .noEntry = NoEntry::IsPosition};
 
 constexpr ListRow VideoFormatRow(int control) {

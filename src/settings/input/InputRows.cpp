@@ -1,3 +1,4 @@
+#include "settings/ControlId.h"
 #include "settings/PageTables.h"
 #include "settings/input/InputLists.h"
 
@@ -12,9 +13,9 @@ constexpr int kLastInput = 16;
 constexpr auto kShortYcs = Numbered(ListText::Off, ListText::On);
 constexpr ModelEntries kYcs[] = {{{16, 17}, kLegacyYcs}, {{}, kShortYcs}};
 constexpr auto kPinPInputs = Numbered<1>("Video", "S-Video");
-// "RGB" and "Video" are no texts of the catalog here.
+// "RGB" and "Video" are not in the catalog for this page.
 constexpr auto kPlainPinPAudios = Numbered("RGB", "Video");
-// "Off" has a number of its own on this page.
+// "Off" has a different number on this page.
 constexpr auto kInputPinPSizes =
     Numbered(ListText::InputPinPSizeOff, ListText::PinPLarge, ListText::PinPSmall);
 
@@ -37,9 +38,9 @@ constexpr PageRow kRows[] = {
     ListRow{"input.p-in-p-input", 42, 21054, kPinPInputs, Get(CommandCode::PinPInput), Named(Op::SetPinPInput), kSendsPosition},
     ListRow{"input.p-in-p-position", 43, 21055, kPinPPositions, Get(CommandCode::PinPPosition), Named(Op::SetPinPPosition), kSendsPosition},
     ListRow{"input.p-in-p-audio", 44, 21056, kPlainPinPAudios, Get(CommandCode::PinPAudio), Named(Op::SetPinPAudio), kSendsPosition},
-    // Intended: the size is only shown here, a choice is not sent.
+    // Intended: the size is only shown here; a choice is not sent.
     ListRow{"input.p-in-p-size", 45, 21061, kInputPinPSizes, Get(CommandCode::PinPSize)},
-    ListRow{"input.power-up-input", 62, 21057, PowerUpInputs, Get(CommandCode::PowerUpInput), Set(CommandCode::PowerUpInput), {.error = ErrorText::PowerUpInputRefused}},
+    ListRow{"input.power-up-input", 62, ControlId::Input::PowerUpInput, PowerUpInputs, Get(CommandCode::PowerUpInput), Set(CommandCode::PowerUpInput), {.error = ErrorText::PowerUpInputRefused}},
 };
 
 constexpr ModelRows kModels[] = {
@@ -60,8 +61,7 @@ static_assert(AreComplete(kModels, std::ssize(kRows)));
 
 }  // namespace
 
-// Of a model that is not listed nothing is known: every row is there, and those that it refuses
-// grey.
+// An unlisted model shows every row; those that it refuses are disabled.
 constinit const PageTable kInputRows{kRows, kModels, Unlisted::AllRows};
 
 }  // namespace AdvancedControl

@@ -1,3 +1,4 @@
+#include "settings/ControlId.h"
 #include "settings/PageTables.h"
 #include "settings/input/InputLists.h"
 
@@ -5,11 +6,13 @@ namespace AdvancedControl {
 
 namespace {
 
+namespace Id = ControlId::InputType5;
+
 using Op = PjtOperation;
 
 constexpr auto kProgressive =
     Numbered(ListText::Off, ListText::ProgressiveTv, ListText::ProgressiveFilm);
-// "Middle" and "Still Image" have numbers of their own, apart from those of the older input pages.
+// "Middle" and "Still Image" have other numbers than on the older input pages.
 constexpr auto kNoiseReductions = Numbered<1>(
     ListText::NoiseReductionLow, ListText::NoiseReductionMiddle, ListText::NoiseReductionHigh);
 constexpr auto kYcs = Numbered(ListText::Off, ListText::YcsMovie, ListText::YcsStillImage);
@@ -23,29 +26,46 @@ constexpr auto kAutomaticInput = Numbered<2>(ListText::SyncOnGreenOff, ListText:
 constexpr ModelEntries kInputs[] = {{{37, 38, 41, 43, 51, 52, 54}, kAutomaticInput},
                                     {{}, kSyncOnGreen}};
 
-// The RGB and the Computer row of an input are two labels of one setting; the flag tells which one
-// the user saw: 1 for RGB, 0 for Computer.
-// clang-format off
+// The RGB and the Computer row of an input are two labels of the same setting. The flag says which
+// label the model has: 1 for RGB, 0 for Computer. clang-format off
 constexpr PageRow kRows[] = {
-    ListRow{"input.progressive", 60, 20294, kProgressive, Named(Op::GetProgressive), Named(Op::SetProgressive), kSendsPosition},
-    ListRow{"input.video-nr", 1058, 20295, kNoiseReductions, Named(Op::GetVideoNrVal), Flagged(Op::SetVideoNR, 1), kSendsPosition},
-    ListRow{"input.3d-ycs", 57, 20296, kYcs, Named(Op::Get3dycs), Named(Op::Set3DYCS), kSendsPosition},
-    ListRow{"input.color-space", 54, 20297, kColorSpaces, Named(Op::GetColorSpace), Named(Op::SetColorSpace), kSendsPosition},
-    ListRow{"input.component", 1055, 20298, kComponents, Named(Op::GetComponent), Named(Op::SetComponent), kSendsPosition},
-    ListRow{"input.c-video-format", 1068, 20299, kVideoFormats, Named(Op::GetVideoFormat, 1), Named(Op::SetCVideoFormat), kSendsPosition},
-    ListRow{"input.s-video-format", 1069, 20300, kVideoFormats, Named(Op::GetVideoFormat, 0), Named(Op::SetSVideoFormat), kSendsPosition},
-    ListRow{"input.hdmi", 187, 20307, kHdmis, Named(Op::GetHDMI), Named(Op::SetHDMI), kSendsPosition},
-    ListRow{"input.m1-d", 70, 20301, kM1Ds, Named(Op::GetM1d), Named(Op::SetM1D), kSendsPosition},
-    ListRow{"input.frame-lock", 59, 20302, kSwitch, Named(Op::GetFrameLock), Named(Op::SetFrameLock), kSendsPosition},
-    ListRow{"input.frame-lock-rgb1", 1188, 20309, kSwitch, Named(Op::GetFrameLockComp1), Flagged(Op::SetFrameLockComp1, 1), kSendsPosition},
-    ListRow{"input.frame-lock-computer1", 185, 20305, kSwitch, Named(Op::GetFrameLockComp1), Flagged(Op::SetFrameLockComp1, 0), kSendsPosition},
-    ListRow{"input.frame-lock-rgb2", 1189, 20310, kSwitch, Named(Op::GetFrameLockComp2), Flagged(Op::SetFrameLockComp2, 1), kSendsPosition},
-    ListRow{"input.frame-lock-computer2", 186, 20306, kSwitch, Named(Op::GetFrameLockComp2), Flagged(Op::SetFrameLockComp2, 0), kSendsPosition},
-    ListRow{"input.frame-lock-hdmi", 1190, 20308, kSwitch, Named(Op::GetFrameLockHDMI), Named(Op::SetFrameLockHDMI), kSendsPosition},
-    ListRow{"input.rgb-in-1", 1071, 20303, kInputs, Named(Op::GetRgbIn, 1), Flagged(Op::SetRgbIn1, 1), kSendsPosition},
-    ListRow{"input.computer-in-1", 179, 20311, kInputs, Named(Op::GetRgbIn, 1), Flagged(Op::SetRgbIn1, 0), kSendsPosition},
-    ListRow{"input.rgb-in-2", 1072, 20304, kInputs, Named(Op::GetRgbIn, 2), Flagged(Op::SetRgbIn2, 1), kSendsPosition},
-    ListRow{"input.computer-in-2", 180, 20312, kInputs, Named(Op::GetRgbIn, 2), Flagged(Op::SetRgbIn2, 0), kSendsPosition},
+    ListRow{"input.progressive", 60, Id::Progressive, kProgressive, Named(Op::GetProgressive),
+            Named(Op::SetProgressive), kSendsPosition},
+    ListRow{"input.video-nr", 1058, Id::VideoNr, kNoiseReductions, Named(Op::GetVideoNrVal),
+            Flagged(Op::SetVideoNR, 1), kSendsPosition},
+    ListRow{"input.3d-ycs", 57, Id::ThreeDYcs, kYcs, Named(Op::Get3dycs), Named(Op::Set3DYCS),
+            kSendsPosition},
+    ListRow{"input.color-space", 54, Id::ColorSpace, kColorSpaces, Named(Op::GetColorSpace),
+            Named(Op::SetColorSpace), kSendsPosition},
+    ListRow{"input.component", 1055, Id::Component, kComponents, Named(Op::GetComponent),
+            Named(Op::SetComponent), kSendsPosition},
+    ListRow{"input.c-video-format", 1068, Id::CVideoFormat, kVideoFormats,
+            Named(Op::GetVideoFormat, 1), Named(Op::SetCVideoFormat), kSendsPosition},
+    ListRow{"input.s-video-format", 1069, Id::SVideoFormat, kVideoFormats,
+            Named(Op::GetVideoFormat, 0), Named(Op::SetSVideoFormat), kSendsPosition},
+    ListRow{"input.hdmi", 187, Id::Hdmi, kHdmis, Named(Op::GetHDMI), Named(Op::SetHDMI),
+            kSendsPosition},
+    ListRow{"input.m1-d", 70, Id::M1D, kM1Ds, Named(Op::GetM1d), Named(Op::SetM1D), kSendsPosition},
+    ListRow{"input.frame-lock", 59, Id::FrameLock, kSwitch, Named(Op::GetFrameLock),
+            Named(Op::SetFrameLock), kSendsPosition},
+    ListRow{"input.frame-lock-rgb1", 1188, Id::FrameLockRgb1, kSwitch, Named(Op::GetFrameLockComp1),
+            Flagged(Op::SetFrameLockComp1, 1), kSendsPosition},
+    ListRow{"input.frame-lock-computer1", 185, Id::FrameLockComputer1, kSwitch,
+            Named(Op::GetFrameLockComp1), Flagged(Op::SetFrameLockComp1, 0), kSendsPosition},
+    ListRow{"input.frame-lock-rgb2", 1189, Id::FrameLockRgb2, kSwitch, Named(Op::GetFrameLockComp2),
+            Flagged(Op::SetFrameLockComp2, 1), kSendsPosition},
+    ListRow{"input.frame-lock-computer2", 186, Id::FrameLockComputer2, kSwitch,
+            Named(Op::GetFrameLockComp2), Flagged(Op::SetFrameLockComp2, 0), kSendsPosition},
+    ListRow{"input.frame-lock-hdmi", 1190, Id::FrameLockHdmi, kSwitch, Named(Op::GetFrameLockHDMI),
+            Named(Op::SetFrameLockHDMI), kSendsPosition},
+    ListRow{"input.rgb-in-1", 1071, Id::RgbIn1, kInputs, Named(Op::GetRgbIn, 1),
+            Flagged(Op::SetRgbIn1, 1), kSendsPosition},
+    ListRow{"input.computer-in-1", 179, Id::ComputerIn1, kInputs, Named(Op::GetRgbIn, 1),
+            Flagged(Op::SetRgbIn1, 0), kSendsPosition},
+    ListRow{"input.rgb-in-2", 1072, Id::RgbIn2, kInputs, Named(Op::GetRgbIn, 2),
+            Flagged(Op::SetRgbIn2, 1), kSendsPosition},
+    ListRow{"input.computer-in-2", 180, Id::ComputerIn2, kInputs, Named(Op::GetRgbIn, 2),
+            Flagged(Op::SetRgbIn2, 0), kSendsPosition},
 };
 
 constexpr ModelRows kModels[] = {
@@ -60,23 +80,23 @@ constexpr ModelRows kModels[] = {
     //                  |||||||HDMI || ||||| |Computer in-1
     //                  ||||||||    || ||||| ||RGB IN-2
     //                  ||||||||    || ||||| |||Computer in-2
-    {{30, 31},         "11111110    11 00000 1010"},
-    {{32, 33, 36},     "11011110    01 00000 1010"},
-    {{37},             "11010110    01 00000 0101"},
-    {{38},             "11010110    01 00000 0100"},
-    {{39, 45},         "11011110    01 00000 0101"},
+    {{30, 31}, "11111110    11 00000 1010"},
+    {{32, 33, 36}, "11011110    01 00000 1010"},
+    {{37}, "11010110    01 00000 0101"},
+    {{38}, "11010110    01 00000 0100"},
+    {{39, 45}, "11011110    01 00000 0101"},
     {{40, 44, 49, 50}, "11011110    00 01010 0101"},
     {{41, 43, 51, 54}, "11111111    00 10101 1010"},
-    {{42, 53},         "11011111    00 01011 0101"},
-    {{46},             "11111110    01 00000 1010"},
-    {{52},             "11111110    00 10100 1010"},
+    {{42, 53}, "11011111    00 01011 0101"},
+    {{46}, "11111110    01 00000 1010"},
+    {{52}, "11111110    00 10100 1010"},
 };
 // clang-format on
 static_assert(AreComplete(kModels, std::ssize(kRows)));
 
 }  // namespace
 
-// What another signal would offer keeps its name in full.
+// Captions of rows that the present signal lacks are not greyed.
 constinit const PageTable kInputType5Rows{
     .rows = kRows, .models = kModels, .unlisted = Unlisted::Template, .captionsStay = true};
 

@@ -9,7 +9,7 @@ namespace AdvancedControl {
 
 namespace {
 
-// Functions that bear another text on some models.
+// Functions whose text differs on some models.
 struct FunctionText {
   int code;
   int text;
@@ -21,7 +21,7 @@ constexpr FunctionText kFunctionTexts[] = {
     {3, ListText::MyButtonHdmi, {41, 42, 43, 51, 53, 54}},
     {4, ListText::MyButtonComputer2, {37, 39, 40, 42, 44, 45, 49, 50, 53}},
     {22, ListText::MyButtonAvMute, {50, 51, 54}},
-    // 42 is left out on purpose: its function 25 bears the common text.
+    // Intended: 42 is missing, because its function 25 has the common text.
     {25, ListText::MyButtonTemplate, {40, 41, 43, 44, 49, 50, 51, 52, 53, 54}},
     {26, ListText::MyButtonPbyP, {51}},
     {27, ListText::MyButtonMySource, {49, 50, 51, 53, 54}},
@@ -35,7 +35,7 @@ constexpr FunctionText kFunctionTexts[] = {
     {kOtherFunction, ListText::MyButtonOther, kCodesWithOtherFunction},
 };
 
-// For models that bring no list of their own.
+// For models without their own list.
 constexpr const char* kDefaultTexts[] = {"RGB1",      "RGB2",         "M1-D",
                                          "Component", "S-Video",      "Video",
                                          "MIU",       "Information",  "Auto Keystone Execute",

@@ -5,7 +5,7 @@ namespace AdvancedControl {
 
 namespace {
 
-// The models with a tab of their own for the automatic functions have them there.
+// On these models the automatic functions have their own tab.
 constexpr Presence kWithoutAutoTab = NotOn(6, 7);
 
 template <class Row>

@@ -1,4 +1,5 @@
 #include "device/CommandCode.h"
+#include "settings/ControlId.h"
 #include "settings/PageTables.h"
 #include "settings/RowParts.h"
 #include "settings/option/MyButtons.h"
@@ -7,6 +8,8 @@ namespace AdvancedControl {
 
 namespace {
 
+namespace Id = ControlId::OptionType5;
+
 using Op = PjtOperation;
 
 constexpr auto kCcDisplays =
@@ -14,25 +17,25 @@ constexpr auto kCcDisplays =
 constexpr auto kCcModes = Numbered(ListText::ClosedCaptionCaptions, ListText::ClosedCaptionText);
 constexpr auto kCcChannels = Numbered<1>("1", "2", "3", "4");
 
-// Other than in a refresh, what is read back is the position, not a code to look up.
+// The value read back is a position. In a refresh, it is a function code.
 constexpr ListRules kMyButton{
     .refused = Refused::ReadsBackPosition,
     .placeholder = {std::nullopt, kCodesWithOtherFunction, kOtherFunction}};
 
 // clang-format off
 constexpr PageRow kRows[] = {
-    ListRow{"option.auto-search", 16, 20364, kSwitch, Named(Op::GetAutoSearch), Named(Op::SetAutoSearch), kReadBack},
-    ListRow{"option.auto-keystone", 18, 20365, kSwitch, Named(Op::GetAutoKeystone), Named(Op::SetAutoKeystone), kReadBack},
-    ListRow{"option.auto-on", 93, 20366, kSwitch, Named(Op::GetAutoOn), Named(Op::SetAutoPowerOn), kReadBack},
-    NamedSlider("option.auto-off", 94, {20367, 20369, 20368, 20370}, {Op::GetAutoOff, Op::SetAutoPowerOff, Op::DecrementAutoPowerOff, Op::IncrementAutoPowerOff}, RangeIndex::AutoOff, {0, 99}, 5),
-    ListRow{"option.my-button-1", 95, 20371, MyButtonEntries, Named(Op::GetMyButton1), Named(Op::SetMyButton1), kMyButton},
-    ListRow{"option.my-button-2", 96, 20372, MyButtonEntries, Named(Op::GetMyButton2), Named(Op::SetMyButton2), kMyButton},
-    // Other than elsewhere, any result but 0 of the read is a success.
-    ListRow{"option.my-source", 216, 20374, SourceEntries, AnyResult(Get(CommandCode::MySource)), Set(CommandCode::MySource), {.error = ErrorText::MySourceRefused}},
-    PopUpRow{"option.service", 3097, 20373},
-    ListRow{"option.cc-display", 191, 20292, kCcDisplays, Named(Op::GetCCDisplay), Named(Op::SetCCDisplay)},
-    ListRow{"option.cc-mode", 192, 20293, kCcModes, Named(Op::GetCCMode), Named(Op::SetCCMode)},
-    ListRow{"option.cc-channel", 193, 20294, kCcChannels, Named(Op::GetCCChannel), Named(Op::SetCCChannel)},
+    ListRow{"option.auto-search", 16, Id::AutoSearch, kSwitch, Named(Op::GetAutoSearch), Named(Op::SetAutoSearch), kReadBack},
+    ListRow{"option.auto-keystone", 18, Id::AutoKeystone, kSwitch, Named(Op::GetAutoKeystone), Named(Op::SetAutoKeystone), kReadBack},
+    ListRow{"option.auto-on", 93, Id::AutoOn, kSwitch, Named(Op::GetAutoOn), Named(Op::SetAutoPowerOn), kReadBack},
+    NamedSlider("option.auto-off", 94, {Id::AutoOffMinus, Id::AutoOff, Id::AutoOffPlus, Id::AutoOffField}, {Op::GetAutoOff, Op::SetAutoPowerOff, Op::DecrementAutoPowerOff, Op::IncrementAutoPowerOff}, RangeIndex::AutoOff, {0, 99}, 5),
+    ListRow{"option.my-button-1", 95, Id::MyButton1, MyButtonEntries, Named(Op::GetMyButton1), Named(Op::SetMyButton1), kMyButton},
+    ListRow{"option.my-button-2", 96, Id::MyButton2, MyButtonEntries, Named(Op::GetMyButton2), Named(Op::SetMyButton2), kMyButton},
+    // Unlike in other reads, any result but 0 is a success.
+    ListRow{"option.my-source", 216, Id::MySource, SourceEntries, AnyResult(Get(CommandCode::MySource)), Set(CommandCode::MySource), {.error = ErrorText::MySourceRefused}},
+    PopUpRow{"option.service", 3097, Id::Service},
+    ListRow{"option.cc-display", 191, Id::CcDisplay, kCcDisplays, Named(Op::GetCCDisplay), Named(Op::SetCCDisplay)},
+    ListRow{"option.cc-mode", 192, Id::CcMode, kCcModes, Named(Op::GetCCMode), Named(Op::SetCCMode)},
+    ListRow{"option.cc-channel", 193, Id::CcChannel, kCcChannels, Named(Op::GetCCChannel), Named(Op::SetCCChannel)},
 };
 
 constexpr ModelRows kModels[] = {

@@ -1,9 +1,12 @@
 #include "settings/CatalogNumbers.h"
+#include "settings/ControlId.h"
 #include "settings/PageTables.h"
 
 namespace AdvancedControl {
 
 namespace {
+
+namespace Id = ControlId::Service;
 
 using Op = PjtOperation;
 
@@ -18,13 +21,13 @@ constexpr ListRules kReadBack{.refused = Refused::ReadsBack};
 
 // clang-format off
 constexpr PageRow kRows[] = {
-    ListRow{"service.auto-adjust", 1085, 20374, kAutoAdjust, Named(Op::GetAutoAdjustEnable), Named(Op::SetAutoAdjustEnable), kReadBack},
-    CheckRow{"service.ir-front", 81, 20375, Named(Op::GetIRRemoteFront), Named(Op::SetIRFront)},
-    CheckRow{"service.ir-rear", 82, 20376, Named(Op::GetIRRemoteRear), Named(Op::SetIRRear)},
-    CheckRow{"service.ir-top", 83, 20377, Named(Op::GetIRRemoteTop), Named(Op::SetIRTop)},
-    ListRow{"service.ir-frequency-normal", 1134, 20378, kEnable, Named(Op::GetIRREmoteFreqNormal), Named(Op::SetIRRemoteFreqNormal), kReadBack},
-    ListRow{"service.ir-frequency-high", 1135, 20379, kEnable, Named(Op::GetIRRemoteFreqHigh), Named(Op::SetIRRemoteFreqHigh), kReadBack},
-    ListRow{"service.focus-lock", 196, 20381, kFocusLock, Named(Op::GetFocusLock), Named(Op::SetFocusLock), kReadBack},
+    ListRow{"service.auto-adjust", 1085, Id::AutoAdjust, kAutoAdjust, Named(Op::GetAutoAdjustEnable), Named(Op::SetAutoAdjustEnable), kReadBack},
+    CheckRow{"service.ir-front", 81, Id::IrFront, Named(Op::GetIRRemoteFront), Named(Op::SetIRFront)},
+    CheckRow{"service.ir-rear", 82, Id::IrRear, Named(Op::GetIRRemoteRear), Named(Op::SetIRRear)},
+    CheckRow{"service.ir-top", 83, Id::IrTop, Named(Op::GetIRRemoteTop), Named(Op::SetIRTop)},
+    ListRow{"service.ir-frequency-normal", 1134, Id::IrFrequencyNormal, kEnable, Named(Op::GetIRREmoteFreqNormal), Named(Op::SetIRRemoteFreqNormal), kReadBack},
+    ListRow{"service.ir-frequency-high", 1135, Id::IrFrequencyHigh, kEnable, Named(Op::GetIRRemoteFreqHigh), Named(Op::SetIRRemoteFreqHigh), kReadBack},
+    ListRow{"service.focus-lock", 196, Id::FocusLock, kFocusLock, Named(Op::GetFocusLock), Named(Op::SetFocusLock), kReadBack},
 };
 
 constexpr ModelRows kModels[] = {
@@ -35,7 +38,7 @@ constexpr ModelRows kModels[] = {
     //                                                   | ||| ||Focus Lock
     {{30, 31, 41, 43, 46, 51, 52, 54},                  "1 111 110"},
     {{32, 33, 36, 37, 38, 39, 40, 42, 45, 49, 50, 53},  "1 000 110"},
-    {{44},                                              "1 101 111"},  // no receiver at the rear
+    {{44},                                              "1 101 111"},  // no rear receiver
 };
 // clang-format on
 static_assert(AreComplete(kModels, std::ssize(kRows)));

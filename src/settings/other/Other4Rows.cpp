@@ -1,3 +1,4 @@
+#include "settings/ControlId.h"
 #include "settings/PageTables.h"
 #include "settings/SharedRows.h"
 
@@ -15,8 +16,8 @@ constexpr auto kPicturePositions =
 
 // clang-format off
 constexpr PageRow kRows[] = {
-    shared::Power(20102),
-    shared::InputSource(20103),
+    shared::Power(ControlId::Other::Power),
+    shared::InputSource(ControlId::Other::InputSource),
     shared::Blank(20104),
     shared::Mute(20105),
     shared::Freeze(20106),

@@ -1,4 +1,4 @@
-// The two pop-ups that shape the user's gamma curve and colour temperature.
+// The two pop-ups for the user's gamma curve and colour temperature.
 
 #include "device/CommandCode.h"
 #include "settings/CatalogNumbers.h"
@@ -23,7 +23,7 @@ constexpr ListRow Pattern(std::string_view key) {
           {.error = ErrorText::TestPatternRefused, .failedReadDisables = false}};
 }
 
-// The − and + buttons stop at the default range whatever range the model gives its sliders.
+// − and + stop at the default range, whatever the model's slider range is.
 constexpr ValueRow Row(std::string_view key, int caption, const ValueIds& ids, int code,
                        std::size_t rangeText, Range range, int ticks, int error) {
   return {.key = key,

@@ -15,7 +15,7 @@ constexpr auto kImageMirrors =
 constexpr auto kPinPInputs =
     Numbered(ListText::PinPInputVideo, ListText::PinPInputSVideo, ListText::PinPInputComponent);
 
-// On model 71, which lacks the row, it undoes what was set at the projector.
+// Also on model 71, which lacks the row: it resets a value that was set at the projector.
 constexpr ResetEntry kResets[] = {{ListText::Keystone, Op::ExecKeyStoneReset}};
 
 constexpr ValueRow Keystone() {
@@ -37,7 +37,8 @@ constexpr PageRow kRows[] = {
     ListRow{"image.pin-p-audio", 44, 20118, kPinPAudios, Get(CommandCode::ImagePinPAudio), Named(Op::SetPinPAudio)},
     ListRow{"image.pin-p-size", 45, 20119, kPinPSizes, Get(CommandCode::ImagePinPSize), Named(Op::SetPinPSize)},
     ListRow{"image.gamma", 41, 20115, GammaEntries, Get(CommandCode::Gamma), Named(Op::SetGamma), kGammaRules},
-    // These projectors take a colour temperature under gamma's code, though they tell it under its own.
+    // These projectors set the colour temperature with gamma's code, but report it with its own
+    // code.
     ListRow{"image.color-temp", 115, 20121, ColorTempEntries, Get(CommandCode::ColorTemp), Set(CommandCode::Gamma), {.error = ErrorText::ImageColorTempRefused, .emptyIsNotRead = true}},
     ResetRow{"image.reset", 20120, 20643, kResets},
 };

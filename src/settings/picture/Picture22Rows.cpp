@@ -10,14 +10,14 @@ using Op = PjtOperation;
 constexpr ArrowIds kArrows{
     .up = 20031, .down = 20033, .left = 20034, .right = 20032, .fieldV = 20045, .fieldH = 20044};
 
-// The values that the other position page has on a slider.
+// The same values are on a slider on the other position page.
 constexpr auto kOverScans = NumberEntries<kOverScan.minimum, kOverScan.maximum>();
 
 constexpr ResetEntry kResets[] = {
     {ListText::VPosition, Op::ExecVPosReset, 20045},
     {ListText::HPosition, Op::ExecHPosReset, 20044},
     {ListText::HSize, Op::ExecHSizeReset, 20040},
-    // Model 15 shows no over scan but has it, so that it can still be reset.
+    // Model 15 has over scan without showing it, so it can still be reset.
     {ListText::Picture22OverScan, Op::ExecOverScanReset},
 };
 

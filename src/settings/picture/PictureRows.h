@@ -8,35 +8,37 @@
 
 namespace AdvancedControl {
 
-// What the picture and image pages share.
+// Parts that the picture and image pages share.
 
 inline constexpr auto kMyMemories =
     Numbered(ListText::MyMemoryBase, ListText::MyMemoryBase + 1, ListText::MyMemoryBase + 2,
              ListText::MyMemoryBase + 3, ListText::MyMemoryBase + 4, ListText::MyMemoryBase + 5,
              ListText::MyMemoryBase + 6, ListText::MyMemoryBase + 7);
 
-// The gammas and colour temperatures that the user can shape: up to and from a value on the newest
-// models, by their position on the others.
+// The gammas and colour temperatures that the user can customise. On the newest models these are
+// gammas up to a value and colour temperatures from a value on; on the others they are determined
+// by position.
 inline constexpr int kLastCustomGamma = 21;
 inline constexpr int kFirstCustomColorTemp = 17;
 inline constexpr int kLastCustomGammaPosition = 2;
 inline constexpr int kCustomColorTempPosition = 3;
 
-// A gamma is taken by its position, not by its value.
+// The projector expects a gamma's position, not its value.
 inline constexpr ListRules kGammaRules{.sendsPosition = true, .emptyIsNotRead = true};
 inline constexpr ListRules kColorTempRules{.error = ErrorText::ColorTempRefused,
                                            .emptyIsNotRead = true};
 
-// Shown values where the model tells no range. The older picture pages count every slider around
-// the zero point, phase and over scan too; the image page shows both as the projector counts them.
+// Shown values for models without their own range. The older picture pages show all sliders
+// relative to the zero point, even phase and over scan; the image page shows the device values of
+// these two.
 inline constexpr Range kOverScan{0, 10};
 inline constexpr Range kHPhase{-128, 120};
 inline constexpr int kHPhaseTicks = 32;
 inline constexpr Range kImageHPhase{0, 31};
-// Model 3 counts a balance as it counts color, in a wider range.
+// On model 3 the balances have the same wide range as color.
 inline constexpr PerModel<Range> kColorBalance{{-32, 32}, {3}, {-63, 63}};
 
-/// A number of two digits at most, as text.
+/// A number of at most two digits as text.
 template <int number>
 inline constexpr auto kNumberText = [] {
   constexpr int size = number < 0 ? -number : number;
@@ -49,7 +51,7 @@ inline constexpr auto kNumberText = [] {
   return text;
 }();
 
-/// Entries that show `first` to `last` and stand for `bias` more.
+/// Entries with the texts `first` to `last`; their values are greater by `bias`.
 template <int first, int last>
 constexpr auto NumberEntries(int bias = 0) {
   return [bias]<int... offsets>(std::integer_sequence<int, offsets...>) {

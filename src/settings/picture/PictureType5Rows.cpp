@@ -1,3 +1,4 @@
+#include "settings/ControlId.h"
 #include "settings/PageTables.h"
 #include "settings/picture/PictureRows.h"
 
@@ -5,25 +6,27 @@ namespace AdvancedControl {
 
 namespace {
 
+namespace Id = ControlId::Picture;
+
 using Op = PjtOperation;
 
 constexpr Range kRange{-32, 32};
-// Sharpness has a zero point of its own.
+// Sharpness has a different zero point.
 constexpr int kSharpnessBias = 124;
 
 constexpr ListEntry kActiveIris[] = {
     {ListText::Off, 0x00}, {ListText::IrisTheater, 0x10}, {ListText::IrisPresentation, 0x11}};
 
 constexpr ResetEntry kResets[] = {
-    {ListText::Brightness, Op::ExecBrightnessReset, 20136},
-    {ListText::Contrast, Op::ExecContrastReset, 20138},
-    {ListText::Color, Op::ExecColorReset, 20151},
-    {ListText::Tint, Op::ExecTintReset, 21062},
-    {ListText::Sharpness, Op::ExecSharpnessReset, 20152},
+    {ListText::Brightness, Op::ExecBrightnessReset, Id::Brightness},
+    {ListText::Contrast, Op::ExecContrastReset, Id::Contrast},
+    {ListText::Color, Op::ExecColorReset, Id::Color},
+    {ListText::Tint, Op::ExecTintReset, Id::Tint},
+    {ListText::Sharpness, Op::ExecSharpnessReset, Id::Sharpness},
 };
 
-// A slider of this page, sent by its own setter. A refused drag stays quiet: the slider keeps the
-// place the user gave it and only the number field tells the projector's value.
+// A slider of this page, sent by its own setter. After a refused drag there is no message: the
+// slider stays where the user moved it, and only the number field shows the projector's value.
 constexpr ValueRow Slider(std::string_view key, int caption, const ValueIds& ids,
                           std::uint16_t code, Op set, int rangeText, int error) {
   return {.key = key,
@@ -40,9 +43,10 @@ constexpr ValueRow Slider(std::string_view key, int caption, const ValueIds& ids
 }
 
 constexpr ValueRow Sharpness() {
-  ValueRow row =
-      Slider("picture.sharpness", 118, {20148, 20152, 20150, 20333}, CommandCode::Sharpness,
-             Op::SetSharpness, RangeIndex::Sharpness, ErrorText::SharpnessRefused);
+  ValueRow row = Slider("picture.sharpness", 118,
+                        {Id::SharpnessMinus, Id::Sharpness, Id::SharpnessPlus, Id::SharpnessField},
+                        CommandCode::Sharpness, Op::SetSharpness, RangeIndex::Sharpness,
+                        ErrorText::SharpnessRefused);
   row.bias = kSharpnessBias;
   row.range = Range{1, 7};
   row.ticks = 1;
@@ -52,17 +56,17 @@ constexpr ValueRow Sharpness() {
 
 // clang-format off
 constexpr PageRow kRows[] = {
-    Slider("picture.brightness", 73, {20134, 20136, 20135, 20329}, CommandCode::Brightness, Op::SetBrightness, RangeIndex::Brightness, ErrorText::BrightnessRefused),
-    Slider("picture.contrast", 74, {20137, 20138, 20139, 20330}, CommandCode::Contrast, Op::SetContrast, RangeIndex::Contrast, ErrorText::ContrastRefused),
-    Slider("picture.color", 116, {20147, 20151, 20149, 20331}, CommandCode::Color, Op::SetColor, RangeIndex::Color, ErrorText::ColorRefused),
-    Slider("picture.tint", 117, {21061, 21062, 21063, 20332}, CommandCode::Tint, Op::SetTint, RangeIndex::Tint, ErrorText::TintRefused),
+    Slider("picture.brightness", 73, {Id::BrightnessMinus, Id::Brightness, Id::BrightnessPlus, Id::BrightnessField}, CommandCode::Brightness, Op::SetBrightness, RangeIndex::Brightness, ErrorText::BrightnessRefused),
+    Slider("picture.contrast", 74, {Id::ContrastMinus, Id::Contrast, Id::ContrastPlus, Id::ContrastField}, CommandCode::Contrast, Op::SetContrast, RangeIndex::Contrast, ErrorText::ContrastRefused),
+    Slider("picture.color", 116, {Id::ColorMinus, Id::Color, Id::ColorPlus, Id::ColorField}, CommandCode::Color, Op::SetColor, RangeIndex::Color, ErrorText::ColorRefused),
+    Slider("picture.tint", 117, {Id::TintMinus, Id::Tint, Id::TintPlus, Id::TintField}, CommandCode::Tint, Op::SetTint, RangeIndex::Tint, ErrorText::TintRefused),
     Sharpness(),
-    ListRow{"picture.gamma", 41, 20142, GammaEntries, Get(CommandCode::Gamma), Named(Op::SetGamma), kGammaRules},
-    ListRow{"picture.color-temp", 115, 20144, ColorTempEntries, Get(CommandCode::ColorTemp), Set(CommandCode::ColorTemp), kColorTempRules},
-    // A mode that the list does not know leaves the row as it was.
-    ListRow{"picture.active-iris", 128, 20293, kActiveIris, Get(CommandCode::ActiveIris), Set(CommandCode::ActiveIris), {.noEntry = NoEntry::Ignored, .error = ErrorText::ActiveIrisRefused}, OnlyOn(30, 31, 41, 43, 46, 51, 52, 54)},
-    ActionRow{"picture.my-memory", 119, 21065, Named(Op::SetMyMemory), Rereads::WhenDone, 21064, kMyMemories},
-    ResetRow{"picture.reset", 20157, 21070, kResets, Rereads::Always},
+    ListRow{"picture.gamma", 41, Id::Gamma, GammaEntries, Get(CommandCode::Gamma), Named(Op::SetGamma), kGammaRules},
+    ListRow{"picture.color-temp", 115, Id::ColorTemp, ColorTempEntries, Get(CommandCode::ColorTemp), Set(CommandCode::ColorTemp), kColorTempRules},
+    // A mode without an entry does not change the row.
+    ListRow{"picture.active-iris", 128, Id::ActiveIris, kActiveIris, Get(CommandCode::ActiveIris), Set(CommandCode::ActiveIris), {.noEntry = NoEntry::Ignored, .error = ErrorText::ActiveIrisRefused}, OnlyOn(30, 31, 41, 43, 46, 51, 52, 54)},
+    ActionRow{"picture.my-memory", 119, Id::MyMemoryExecute, Named(Op::SetMyMemory), Rereads::WhenDone, Id::MyMemory, kMyMemories},
+    ResetRow{"picture.reset", Id::Reset, Id::ResetExecute, kResets, Rereads::Always},
 };
 // clang-format on
 

@@ -12,7 +12,7 @@ using Code = std::uint16_t;
 
 constexpr int kLanguages = 17;
 
-// Series of which one model, known by its name, has a language more than the others.
+// Series in which one model, identified by its name, has an additional language.
 constexpr std::pair<int, std::string_view> kNamedModels[] = {
     {11, "QD-M7450"}, {12, "QD-M7400"}, {13, "QD-S7350"}};
 
@@ -27,7 +27,7 @@ std::vector<ListEntry> LanguageEntries(const ModelData& model) {
   return entries;
 }
 
-// The halves of the picture take a source by its place in the model's list.
+// A half of the picture gets a source by its position in the model's list.
 std::vector<ListEntry> SourcePositions(const ModelData& model) {
   std::vector<ListEntry> entries = SourceEntries(model);
   for (std::size_t i = 0; i < entries.size(); ++i) entries[i].value = static_cast<int>(i);
@@ -42,9 +42,9 @@ constexpr auto kSizes = Numbered(ListText::PbyPSizeSmall, ListText::PbyPSizeMidd
                                  ListText::PbyPSizeLarge, ListText::PbyPSizeFull);
 constexpr auto kAreas = Numbered(ListText::PbyPAreaLeft, ListText::PbyPAreaRight);
 
-// A refusal is told, and the list stays on the refused entry.
-constexpr ListRow Told(std::string_view key, int caption, int control, Entries entries, Code code,
-                       int error) {
+// A list that shows an error for a refused choice and keeps the refused entry.
+constexpr ListRow WithError(std::string_view key, int caption, int control, Entries entries,
+                            Code code, int error) {
   return {key, caption, control, entries, Get(code), Set(code), {.error = error}};
 }
 
@@ -53,25 +53,42 @@ constexpr ResetEntry kResets[] = {
     {ListText::MenuPositionH, Op::ExecMenuPositionHReset, 20232},
 };
 
-// Every model has all rows: one that does not know a setting leaves its row out of use.
-// clang-format off
+// Every model has all rows. If it does not have a setting, the row is disabled. clang-format off
 constexpr PageRow kRows[] = {
-    ListRow{"screen.language", 76, 20226, LanguageEntries, Get(CommandCode::Language), Named(Op::SetLanguage)},
+    ListRow{"screen.language", 76, 20226, LanguageEntries, Get(CommandCode::Language),
+            Named(Op::SetLanguage)},
     MenuPosition("screen.menu-position-v", {20230, 0, 20227, 20231}, CommandCode::MenuPositionV),
     MenuPosition("screen.menu-position-h", {20228, 0, 20229, 20232}, CommandCode::MenuPositionH),
-    ValueRow{.key = "screen.osd-brightness", .caption = 133, .ids = {20233, 20234, 20235, 20236}, .code = CommandCode::OsdBrightness,
-             .rangeText = RangeIndex::OsdBrightness, .range = Range{0, 255}, .bounds = kUnbounded, .ticks = 32, .error = ErrorText::OsdBrightRefused},
-    ListRow{"screen.blank", 38, 20237, kBlanks, Get(CommandCode::BlankColor), Named(Op::SetBlankColor), kBlankRules},
-    ListRow{"screen.startup", 1039, 21086, kStartups, Get(CommandCode::Startup), Named(Op::SetStartup), kStartupRules},
-    ListRow{"screen.my-screen-lock", 1130, 20238, kSwitch, Get(CommandCode::MyScreenLock), Named(Op::SetMyScreenLock)},
-    ListRow{"screen.message", 131, 20239, kSwitch, Get(CommandCode::Message), Named(Op::SetMessage)},
-    Told("screen.template", 209, 20242, kTemplates, CommandCode::Template, ErrorText::TemplateRefused),
-    Told("screen.p-by-p", 210, 20243, kSwitch, CommandCode::PbyP, ErrorText::PbyPRefused),
-    Told("screen.p-by-p-size", 211, 20244, kSizes, CommandCode::PbyPSize, ErrorText::PbyPSizeRefused),
-    Told("screen.p-by-p-sub-source", 212, 20245, SourcePositions, CommandCode::PbyPSubSource, ErrorText::PbyPSubSourceRefused),
-    Told("screen.p-by-p-main-area", 213, 20246, kAreas, CommandCode::PbyPMainArea, ErrorText::PbyPMainAreaRefused),
-    Told("screen.p-by-p-start-area", 214, 20247, kAreas, CommandCode::PbyPStartArea, ErrorText::PbyPStartAreaRefused),
-    Told("screen.p-by-p-main-source", 215, 20248, SourcePositions, CommandCode::PbyPMainSource, ErrorText::PbyPMainSourceRefused),
+    ValueRow{.key = "screen.osd-brightness",
+             .caption = 133,
+             .ids = {20233, 20234, 20235, 20236},
+             .code = CommandCode::OsdBrightness,
+             .rangeText = RangeIndex::OsdBrightness,
+             .range = Range{0, 255},
+             .bounds = kUnbounded,
+             .ticks = 32,
+             .error = ErrorText::OsdBrightRefused},
+    ListRow{"screen.blank", 38, 20237, kBlanks, Get(CommandCode::BlankColor),
+            Named(Op::SetBlankColor), kBlankRules},
+    ListRow{"screen.startup", 1039, 21086, kStartups, Get(CommandCode::Startup),
+            Named(Op::SetStartup), kStartupRules},
+    ListRow{"screen.my-screen-lock", 1130, 20238, kSwitch, Get(CommandCode::MyScreenLock),
+            Named(Op::SetMyScreenLock)},
+    ListRow{"screen.message", 131, 20239, kSwitch, Get(CommandCode::Message),
+            Named(Op::SetMessage)},
+    WithError("screen.template", 209, 20242, kTemplates, CommandCode::Template,
+              ErrorText::TemplateRefused),
+    WithError("screen.p-by-p", 210, 20243, kSwitch, CommandCode::PbyP, ErrorText::PbyPRefused),
+    WithError("screen.p-by-p-size", 211, 20244, kSizes, CommandCode::PbyPSize,
+              ErrorText::PbyPSizeRefused),
+    WithError("screen.p-by-p-sub-source", 212, 20245, SourcePositions, CommandCode::PbyPSubSource,
+              ErrorText::PbyPSubSourceRefused),
+    WithError("screen.p-by-p-main-area", 213, 20246, kAreas, CommandCode::PbyPMainArea,
+              ErrorText::PbyPMainAreaRefused),
+    WithError("screen.p-by-p-start-area", 214, 20247, kAreas, CommandCode::PbyPStartArea,
+              ErrorText::PbyPStartAreaRefused),
+    WithError("screen.p-by-p-main-source", 215, 20248, SourcePositions, CommandCode::PbyPMainSource,
+              ErrorText::PbyPMainSourceRefused),
     ResetRow{"screen.reset", 20240, 20241, kResets},
 };
 // clang-format on

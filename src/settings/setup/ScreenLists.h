@@ -6,7 +6,7 @@
 
 namespace AdvancedControl {
 
-// What the screen pages have in common.
+// Parts that the screen pages share.
 
 inline constexpr ListEntry kBlanks[] = {{ListText::BlankBlue, 3},
                                         {ListText::BlankWhite, 5},
@@ -16,12 +16,12 @@ inline constexpr ListEntry kBlanks[] = {{ListText::BlankBlue, 3},
 inline constexpr ListEntry kStartups[] = {
     {ListText::BlankOriginal, 0}, {ListText::Off, 1}, {ListText::BlankMyScreen, 32}};
 
-// A value that these lists do not have leaves the selection.
+// A value without an entry does not change the selection.
 inline constexpr ListRules kBlankRules{.noEntry = NoEntry::Keeps};
-// The projector takes the position, though it reports 32 for the third entry.
+// The projector expects the position, but reports 32 for the third entry.
 inline constexpr ListRules kStartupRules{.sendsPosition = true, .noEntry = NoEntry::Keeps};
 
-/// One direction of the menu's position. Nothing on our side bounds it.
+/// One direction of the menu's position, limited only by the projector.
 constexpr ValueRow MenuPosition(std::string_view key, const ValueIds& ids, std::uint16_t code) {
   return {.key = key,
           .caption = 132,

@@ -14,13 +14,13 @@ constexpr PerModel<Range> kSharpness{{-8, 8}, kWideModels, {-6, 6}};
 constexpr PerModel<Range> kColor{{-18, 18}, kWideModels, {-63, 63}};
 constexpr PerModel<Range> kTint{{-18, 18}, kWideModels, {-14, 14}};
 
-// − and + keep to the page's own bounds, whatever range the model gives the slider.
+// − and + stop at the page's own bounds, whatever the model's slider range is.
 constexpr ValueRow Bounded(PerModel<Range> bounds, ValueRow row) {
   row.bounds = bounds;
   return row;
 }
 
-// Intended: left increases and right decreases, other than for the digital shift and the menu.
+// Intended: left increases and right decreases, unlike for the digital shift and the menu.
 constexpr ArrowIds kArrows{
     .up = 20087, .down = 20089, .left = 20086, .right = 20088, .fieldV = 20090, .fieldH = 20091};
 
@@ -40,7 +40,7 @@ constexpr ResetEntry kResets[] = {
 // clang-format off
 constexpr PageRow kRows[] = {
     Bounded(kBalance, CentredSlider("setup.brightness", 73, {20078, 20079, 20080, 20081}, CommandCode::Brightness, ErrorText::BrightnessRefused, RangeIndex::Brightness)),
-    // The contrast's bounds are those of its slider.
+    // − and + of the contrast stop at the slider's bounds.
     CentredSlider("setup.contrast", 74, {20082, 20083, 20084, 20085}, CommandCode::Contrast, ErrorText::ContrastRefused, RangeIndex::Contrast, kContrast),
     PositionV("setup.position-v", kArrows),
     PositionH("setup.position-h", kArrows),
@@ -52,7 +52,7 @@ constexpr PageRow kRows[] = {
     Bounded(kTint, CentredSlider("setup.tint", 117, {21062, 21063, 21064, 20102}, CommandCode::Tint, ErrorText::TintRefused, RangeIndex::Tint, kTint)),
     Bounded(kBalance, CentredSlider("setup.color-balance-r", 125, {20103, 20104, 20105, 20106}, CommandCode::ColorBalR, ErrorText::ColorBalRRefused, RangeIndex::ColorBalR)),
     Bounded(kBalance, CentredSlider("setup.color-balance-b", 127, {21042, 21043, 21068, 20107}, CommandCode::ColorBalB, ErrorText::ColorBalBRefused, RangeIndex::ColorBalB)),
-    // The projector takes the position in the model's list, and reports the value.
+    // The projector expects the position in the model's list, but reports the value.
     ListRow{"setup.aspect", 46, 20099, AspectEntries, Get(CommandCode::Aspect), Named(Op::SetAspect), {.sendsPosition = true, .emptyIsNotRead = true}},
     ResetRow{"setup.reset", 21069, 21073, kResets},
 };

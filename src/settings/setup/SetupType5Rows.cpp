@@ -1,10 +1,13 @@
 #include "device/CommandCode.h"
+#include "settings/ControlId.h"
 #include "settings/PageTables.h"
 #include "settings/setup/AudioLists.h"
 
 namespace AdvancedControl {
 
 namespace {
+
+namespace Id = ControlId::SetupType5;
 
 using Op = PjtOperation;
 
@@ -38,13 +41,14 @@ constexpr ModelEntries kMonitorRgb1[] = {{{54}, kOutRgb1}, {{}, kOutRgbs}};
 constexpr ModelEntries kMonitorRgb2[] = {{{54}, kOutRgb2}, {{}, kOutRgbs}};
 constexpr ModelEntries kMonitors[] = {{{51, 54}, kOutRgbs}, {{}, kOutComputers}};
 
-constexpr ListRules kReadBackTold{.refused = Refused::ReadsBack, .tellsText = true};
-// A value without an entry leaves the selection of a routing list.
+constexpr ListRules kReadBackWithText{.refused = Refused::ReadsBack, .sendsText = true};
+// A value without an entry does not change the selection of a routing list.
 constexpr ListRules kRouting{.noEntry = NoEntry::Keeps, .refused = Refused::ReadsBack};
-constexpr ListRules kRoutingTold{
-    .noEntry = NoEntry::Keeps, .refused = Refused::ReadsBack, .tellsText = true};
+constexpr ListRules kRoutingWithText{
+    .noEntry = NoEntry::Keeps, .refused = Refused::ReadsBack, .sendsText = true};
 
-// Ticks at eighths. A refused position is not told: the slider goes back to what was remembered.
+// Ticks at eighths. After a refused position the slider returns to the remembered value, without a
+// message.
 constexpr ValueRow Keystone(std::string_view key, int caption, const ValueIds& ids,
                             const ValueOps& ops, int rangeText) {
   ValueRow row = NamedSlider(key, caption, ids, ops, rangeText, {-128, 127}, 0);
@@ -56,16 +60,17 @@ constexpr ValueRow Keystone(std::string_view key, int caption, const ValueIds& i
 }
 
 constexpr ValueRow Volume() {
-  ValueRow row = NamedSlider("setup.volume", 1, {20318, 20317, 20319, 20142},
-                             {Op::GetInputSrcVolume, Op::SetVolumeEachSrc, Op::DecrementInputSrcVol,
-                              Op::IncrementInputSrcVol},
-                             RangeIndex::Volume, {0, 32}, 0);
+  ValueRow row =
+      NamedSlider("setup.volume", 1, {Id::VolumeMinus, Id::Volume, Id::VolumePlus, Id::VolumeField},
+                  {Op::GetInputSrcVolume, Op::SetVolumeEachSrc, Op::DecrementInputSrcVol,
+                   Op::IncrementInputSrcVol},
+                  RangeIndex::Volume, {0, 32}, 0);
   row.refusedDrag = RefusedDrag::GoesBack;
   row.of = OfSource::Current;
   return row;
 }
 
-// One direction of the digital shift. Any result but 0 counts; nothing on our side bounds it.
+// One direction of the digital shift. Any result but 0 is a success. Only the projector limits it.
 constexpr ValueRow Shift(std::string_view key, const ValueIds& ids, std::uint16_t code) {
   return {.key = key,
           .caption = 195,
@@ -80,51 +85,51 @@ constexpr ValueRow Shift(std::string_view key, const ValueIds& ids, std::uint16_
 }
 
 constexpr ResetEntry kResets[] = {
-    {ListText::KeystoneV, Op::ExecKeyStoneVReset, 20310},
-    {ListText::KeystoneH, Op::ExecKeyStoneHReset, 20311},
-    {ListText::DZoom, Op::ExecDZoomReset, 20332},
-    {ListText::DShiftV, Op::ExecDShiftVReset, 20144},
-    {ListText::DShiftH, Op::ExecDShiftHReset, 20145},
+    {ListText::KeystoneV, Op::ExecKeyStoneVReset, Id::KeystoneV},
+    {ListText::KeystoneH, Op::ExecKeyStoneHReset, Id::KeystoneH},
+    {ListText::DZoom, Op::ExecDZoomReset, Id::DZoom},
+    {ListText::DShiftV, Op::ExecDShiftVReset, Id::DShiftVField},
+    {ListText::DShiftH, Op::ExecDShiftHReset, Id::DShiftHField},
 };
 
-// A Computer row is the RGB input under its newer name: the projector reports both in one way.
+// A Computer row is the RGB input under its newer name. The projector reports both in the same way.
 // clang-format off
 constexpr PageRow kRows[] = {
-    ActionRow{"setup.auto-keystone", 18, 20305, Named(Op::ExecAutoKeyStone)},
-    Keystone("setup.keystone-v", 137, {20308, 20310, 20309, 20314}, {Op::GetKeystoneV, Op::SetKeystoneV, Op::DecrementKeystoneV, Op::IncrementKeystoneV}, RangeIndex::KeystoneV),
-    Keystone("setup.keystone-h", 138, {20312, 20311, 20313, 20141}, {Op::GetKeystoneH, Op::SetKeystoneH, Op::DecrementKeystoneH, Op::IncrementKeystoneH}, RangeIndex::KeystoneH),
-    ListRow{"setup.whisper", 75, 20315, WhisperEntries, Named(Op::GetWhisper), Named(Op::SetWhisper), kReadBack},
-    ListRow{"setup.mirror", 40, 20316, kMirrors, Named(Op::GetMirror), Named(Op::SetMirror), kReadBack},
-    ListRow{"setup.speaker", 5, 20321, kSwitch, Named(Op::GetSpeaker), Named(Op::SetSpeaker), kReadBackTold},
+    ActionRow{"setup.auto-keystone", 18, Id::AutoKeystone, Named(Op::ExecAutoKeyStone)},
+    Keystone("setup.keystone-v", 137, {Id::KeystoneVMinus, Id::KeystoneV, Id::KeystoneVPlus, Id::KeystoneVField}, {Op::GetKeystoneV, Op::SetKeystoneV, Op::DecrementKeystoneV, Op::IncrementKeystoneV}, RangeIndex::KeystoneV),
+    Keystone("setup.keystone-h", 138, {Id::KeystoneHMinus, Id::KeystoneH, Id::KeystoneHPlus, Id::KeystoneHField}, {Op::GetKeystoneH, Op::SetKeystoneH, Op::DecrementKeystoneH, Op::IncrementKeystoneH}, RangeIndex::KeystoneH),
+    ListRow{"setup.whisper", 75, Id::Whisper, WhisperEntries, Named(Op::GetWhisper), Named(Op::SetWhisper), kReadBack},
+    ListRow{"setup.mirror", 40, Id::Mirror, kMirrors, Named(Op::GetMirror), Named(Op::SetMirror), kReadBack},
+    ListRow{"setup.speaker", 5, Id::Speaker, kSwitch, Named(Op::GetSpeaker), Named(Op::SetSpeaker), kReadBackWithText},
     Volume(),
-    // Only the buttons are strict about the result.
-    ValueRow{.key = "setup.d-zoom", .caption = 194, .ids = {20331, 20332, 20333, 20143}, .code = CommandCode::DigitalZoom,
+    // Only the buttons insist on the result 1.
+    ValueRow{.key = "setup.d-zoom", .caption = 194, .ids = {Id::DZoomMinus, Id::DZoom, Id::DZoomPlus, Id::DZoomField}, .code = CommandCode::DigitalZoom,
              .read = AnyResult(Get(CommandCode::DigitalZoom)), .set = AnyResult(Set(CommandCode::DigitalZoom)),
              .range = Range{80, 100}, .ticks = 2, .refusedDrag = RefusedDrag::GoesBack, .error = ErrorText::DZoomRefused},
-    Shift("setup.d-shift-v", {20336, 0, 20335, 20144}, CommandCode::DigitalShiftV),
-    Shift("setup.d-shift-h", {20334, 0, 20350, 20145}, CommandCode::DigitalShiftH),
-    ListRow{"setup.audio-rgb1", 139, 20320, kThreeAudios, Named(Op::GetAudioRGB1), Named(Op::SetAudioRGB1), kRouting},
-    ListRow{"setup.audio-computer1", 181, 20369, kAudios, Named(Op::GetAudioRGB1), Named(Op::SetAudioComputer1), kRoutingTold},
-    ListRow{"setup.audio-rgb2", 140, 20322, kThreeAudios, Named(Op::GetAudioRGB2), Named(Op::SetAudioRGB2), kRouting},
-    ListRow{"setup.audio-computer2", 182, 20370, kAudios, Named(Op::GetAudioRGB2), Named(Op::SetAudioComputer2), kRoutingTold},
-    ListRow{"setup.audio-hdmi", 183, 20329, kAudioHdmi, Named(Op::GetAudioM1D), Flagged(Op::SetAudioM1D, {0, {42}, 1}), kRoutingTold},
-    ListRow{"setup.audio-component", 143, 20325, kThreeAudios, Named(Op::GetAudioComponent), Named(Op::SetAudioComponent), kRouting},
-    ListRow{"setup.audio-s-video", 142, 20324, kAudios, Named(Op::GetAudioSVideo), Named(Op::SetAudioSVideo), kRouting},
-    ListRow{"setup.audio-video", 141, 20323, kAudios, Named(Op::GetAudioVideo), Named(Op::SetAudioVideo), kRouting},
-    ListRow{"setup.audio-miu", 144, 20326, kAudioMiu, Named(Op::GetAudioMIU), Named(Op::SetAudioMIU), kRouting},
-    ListRow{"setup.hdmi-audio", 184, 20330, kHdmiAudio, Named(Op::GetHDMIAudio), Named(Op::SetHDMIAudio), kRouting},
-    ListRow{"setup.standby-mode", 205, 20368, kStandbys, Named(Op::GetStandbyMode), Named(Op::SetStandbyMode), kRouting},
-    ListRow{"setup.monitor-out-rgb1", 207, 20371, kMonitorRgb1, Named(Op::GetMonitorOutComputer1), Named(Op::SetMonitorOutComputer1), kRouting},
-    ListRow{"setup.monitor-out-computer1", 197, 20360, kOutComputer1, Named(Op::GetMonitorOutComputer1), Named(Op::SetMonitorOutComputer1), kRouting},
-    ListRow{"setup.monitor-out-rgb2", 208, 20372, kMonitorRgb2, Named(Op::GetMonitorOutComputer2), Named(Op::SetMonitorOutComputer2), kRouting},
-    ListRow{"setup.monitor-out-computer2", 198, 20361, kOutComputer2, Named(Op::GetMonitorOutComputer2), Named(Op::SetMonitorOutComputer2), kRouting},
-    ListRow{"setup.monitor-out-hdmi", 199, 20362, kMonitors, Named(Op::GetMonitorOutHDMI), Named(Op::SetMonitorOutHDMI), kRouting},
-    ListRow{"setup.monitor-out-component", 200, 20363, kMonitors, Named(Op::GetMonitorOutComponent), Named(Op::SetMonitorOutComponent), kRouting},
-    ListRow{"setup.monitor-out-s-video", 201, 20364, kMonitors, Named(Op::GetMonitorOutSVideo), Named(Op::SetMonitorOutSVideo), kRouting},
-    ListRow{"setup.monitor-out-video", 202, 20365, kMonitors, Named(Op::GetMonitorOutVideo), Named(Op::SetMonitorOutVideo), kRouting},
-    ListRow{"setup.monitor-out-miu", 203, 20366, kMonitors, Named(Op::GetMonitorOutMIU), Named(Op::SetMonitorOutMIU), kRouting},
-    ListRow{"setup.monitor-out-standby", 204, 20367, kMonitors, Named(Op::GetMonitorOutStandby), Named(Op::SetMonitorOutStandby), kRouting},
-    ResetRow{"setup.reset", 20327, 20328, kResets, Rereads::ItsRow},
+    Shift("setup.d-shift-v", {Id::DShiftVMinus, 0, Id::DShiftVPlus, Id::DShiftVField}, CommandCode::DigitalShiftV),
+    Shift("setup.d-shift-h", {Id::DShiftHMinus, 0, Id::DShiftHPlus, Id::DShiftHField}, CommandCode::DigitalShiftH),
+    ListRow{"setup.audio-rgb1", 139, Id::AudioRgb1, kThreeAudios, Named(Op::GetAudioRGB1), Named(Op::SetAudioRGB1), kRouting},
+    ListRow{"setup.audio-computer1", 181, Id::AudioComputer1, kAudios, Named(Op::GetAudioRGB1), Named(Op::SetAudioComputer1), kRoutingWithText},
+    ListRow{"setup.audio-rgb2", 140, Id::AudioRgb2, kThreeAudios, Named(Op::GetAudioRGB2), Named(Op::SetAudioRGB2), kRouting},
+    ListRow{"setup.audio-computer2", 182, Id::AudioComputer2, kAudios, Named(Op::GetAudioRGB2), Named(Op::SetAudioComputer2), kRoutingWithText},
+    ListRow{"setup.audio-hdmi", 183, Id::AudioHdmi, kAudioHdmi, Named(Op::GetAudioM1D), Flagged(Op::SetAudioM1D, {0, {42}, 1}), kRoutingWithText},
+    ListRow{"setup.audio-component", 143, Id::AudioComponent, kThreeAudios, Named(Op::GetAudioComponent), Named(Op::SetAudioComponent), kRouting},
+    ListRow{"setup.audio-s-video", 142, Id::AudioSVideo, kAudios, Named(Op::GetAudioSVideo), Named(Op::SetAudioSVideo), kRouting},
+    ListRow{"setup.audio-video", 141, Id::AudioVideo, kAudios, Named(Op::GetAudioVideo), Named(Op::SetAudioVideo), kRouting},
+    ListRow{"setup.audio-miu", 144, Id::AudioMiu, kAudioMiu, Named(Op::GetAudioMIU), Named(Op::SetAudioMIU), kRouting},
+    ListRow{"setup.hdmi-audio", 184, Id::HdmiAudio, kHdmiAudio, Named(Op::GetHDMIAudio), Named(Op::SetHDMIAudio), kRouting},
+    ListRow{"setup.standby-mode", 205, Id::StandbyMode, kStandbys, Named(Op::GetStandbyMode), Named(Op::SetStandbyMode), kRouting},
+    ListRow{"setup.monitor-out-rgb1", 207, Id::MonitorOutRgb1, kMonitorRgb1, Named(Op::GetMonitorOutComputer1), Named(Op::SetMonitorOutComputer1), kRouting},
+    ListRow{"setup.monitor-out-computer1", 197, Id::MonitorOutComputer1, kOutComputer1, Named(Op::GetMonitorOutComputer1), Named(Op::SetMonitorOutComputer1), kRouting},
+    ListRow{"setup.monitor-out-rgb2", 208, Id::MonitorOutRgb2, kMonitorRgb2, Named(Op::GetMonitorOutComputer2), Named(Op::SetMonitorOutComputer2), kRouting},
+    ListRow{"setup.monitor-out-computer2", 198, Id::MonitorOutComputer2, kOutComputer2, Named(Op::GetMonitorOutComputer2), Named(Op::SetMonitorOutComputer2), kRouting},
+    ListRow{"setup.monitor-out-hdmi", 199, Id::MonitorOutHdmi, kMonitors, Named(Op::GetMonitorOutHDMI), Named(Op::SetMonitorOutHDMI), kRouting},
+    ListRow{"setup.monitor-out-component", 200, Id::MonitorOutComponent, kMonitors, Named(Op::GetMonitorOutComponent), Named(Op::SetMonitorOutComponent), kRouting},
+    ListRow{"setup.monitor-out-s-video", 201, Id::MonitorOutSVideo, kMonitors, Named(Op::GetMonitorOutSVideo), Named(Op::SetMonitorOutSVideo), kRouting},
+    ListRow{"setup.monitor-out-video", 202, Id::MonitorOutVideo, kMonitors, Named(Op::GetMonitorOutVideo), Named(Op::SetMonitorOutVideo), kRouting},
+    ListRow{"setup.monitor-out-miu", 203, Id::MonitorOutMiu, kMonitors, Named(Op::GetMonitorOutMIU), Named(Op::SetMonitorOutMIU), kRouting},
+    ListRow{"setup.monitor-out-standby", 204, Id::MonitorOutStandby, kMonitors, Named(Op::GetMonitorOutStandby), Named(Op::SetMonitorOutStandby), kRouting},
+    ResetRow{"setup.reset", Id::Reset, Id::ResetExecute, kResets, Rereads::ItsRow},
 };
 
 constexpr ModelRows kModels[] = {

@@ -1,3 +1,4 @@
+#include "settings/ControlId.h"
 #include "settings/PageTables.h"
 #include "settings/SharedRows.h"
 
@@ -16,8 +17,8 @@ constexpr ListEntry kErrors[] = {
 constexpr ListEntry kOn[] = {{ListText::On, 1}};
 constexpr ListEntry kFreeze[] = {{ListText::Freeze, 1}};
 
-// Every slot is searched, also those beyond the list's count: hosts leave sources there that the
-// projector can still report.
+// Searches every slot, even beyond the list's count: hosts leave sources there that the projector
+// may still report.
 std::vector<ListEntry> SourcesInAnySlot(const ModelData& model) {
   const SourceList& sources = model.MySourceList;
   std::vector<ListEntry> entries;
@@ -51,7 +52,7 @@ constexpr PageRow kRows[] = {
     State("status.freeze", 150, 20013, CommandCode::Freeze, kFreeze, ListText::FreezeNormal),
     State("status.lamp-time", 151, 20014, CommandCode::LampTime, {}, ListText::Hours),
     State("status.filter-time", 152, 20015, CommandCode::FilterTime, {}, ListText::Hours),
-    ResetRow{"status.reset", 20019, 20018, kResets},
+    ResetRow{"status.reset", ControlId::Status::Reset, 20018, kResets},
 };
 // clang-format on
 

@@ -1,0 +1,65 @@
+#!/usr/bin/env bash
+# What takes too long for every change: fuzzing on the kept corpus, random walks over the host application and the
+# dialogs of every model, and kills of both ends. Adds a line to the table in docs/reliability.md.
+# Usage: scripts/long.sh [time, such as 2h or 20m]
+#
+# A third of the time goes to each. The sanitizers watch the walks; PRESET=dev takes another build. What was found is
+# told at the end, with what to run to see it again, and ends the script with 1.
+set -uo pipefail
+cd "$(dirname "$0")/.."
+
+case "${1:-2h}" in
+  *h) seconds=$((${1%h} * 3600)) ;;
+  *m) seconds=$((${1%m} * 60)) ;;
+  *) seconds="${1%s}" ;;
+esac
+preset="${PRESET:-asan}"
+bin="build/$preset/bin"
+part=$((seconds / 3))
+logs=build/long
+findings=()
+mkdir -p "$logs"
+
+echo "Building (build/$preset)"
+cmake --preset "$preset" >/dev/null && cmake --build --preset "$preset" || exit 1
+
+targets=$(ls fuzz/corpus | wc -l)
+if ! scripts/fuzz.sh $((part * $(nproc) / targets)) | tee "$logs/fuzz.log"; then
+  findings+=("fuzzing: scripts/fuzz.sh, and build/fuzz/findings")
+fi
+runs=$(awk '/ Done [0-9]+ runs/ { for (i = 1; i < NF; ++i) if ($i == "Done") sum += $(i + 1) } END { print sum + 0 }' "$logs/fuzz.log")
+
+export QT_QPA_PLATFORM=offscreen
+actions=0
+# walk <name> <program> <variables>...: adds the actions that it made.
+walk() {
+  local name="$1" program="$2" made
+  shift 2
+  if env "$@" "$bin/$program" >"$logs/$name.log" 2>&1; then
+    made=$(grep -c '^\[       OK' "$logs/$name.log")
+    actions=$((actions + made * each))
+  else
+    findings+=("a walk: $* $bin/$program, and $logs/$name.log")
+  fi
+}
+echo "Walking for $part s"
+end=$((SECONDS + part))
+seed=$(date +%s)
+while [ $SECONDS -lt $end ] && [ ${#findings[@]} -eq 0 ]; do
+  each=5000 walk "walk" walk_tests "WALK_SEED=$seed" WALK_ACTIONS=5000
+  [ $SECONDS -lt $end ] && each=1000 walk "soak" soak_tests "SOAK_SEED=$seed" SOAK_ACTIONS=1000
+  seed=$((seed + 1))
+done
+
+echo "Killing for $part s"
+if ! kills=$(scripts/kills.py "$bin" "$part" "$seed" 2>"$logs/kills.log"); then
+  findings+=("kills: scripts/kills.py $bin $part $seed, and $logs/kills.log")
+fi
+
+said=none
+[ ${#findings[@]} -eq 0 ] || said="${#findings[@]}, to be mended"
+printf "| %s | %s | %s | %d s | %'d | %'d | %'d | %s |\n" "$(date -u +%F)" "$(git rev-parse --short HEAD)" "$preset" \
+  "$seconds" "$runs" "$actions" "${kills:-0}" "$said" | tee -a docs/reliability.md
+[ ${#findings[@]} -eq 0 ] && exit
+printf 'Found by %s\n' "${findings[@]}" >&2
+exit 1

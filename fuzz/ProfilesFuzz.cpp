@@ -3,19 +3,19 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "app/profiles/ProfileFile.h"
+#include "fleet/ProfileFile.h"
 #include "fuzz/Check.h"
 #include "settings/Range.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const QByteArray text(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
-  const ProfileFileContents contents = ParseProfiles(text, "p.json");
-  Check(contents.error.isEmpty() != contents.projectors.empty());
+  const ProfileList contents = ParseProfileList(text, "p.json");
+  Check(contents.error.isEmpty() != contents.profiles.empty());
   for (const QChar c : contents.error) Check(c >= QLatin1Char(' '));
   constexpr Range kNone{1, 0};
-  for (const ProjectorProfile& profile : contents.projectors) {
-    Check(!profile.Name.empty() && !ConnectionText(profile.Model).isEmpty());
-    for (const std::string& range : profile.Model.RangeSlots) {
+  for (const FleetProfile& profile : contents.profiles) {
+    Check(!profile.name.empty() && !ConnectionText(profile.connection).isEmpty());
+    for (const std::string& range : profile.model->info.RangeSlots) {
       Check(range.empty() || ParseRange(range, 0, kNone) != kNone);
     }
   }

@@ -4,7 +4,7 @@
 #include <numeric>
 
 #include "app/acctl/Uses.h"
-#include "app/profiles/JsonLines.h"
+#include "fleet/JsonLines.h"
 #include "device/ModelDataIntake.h"
 
 namespace {

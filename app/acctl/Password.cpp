@@ -9,7 +9,7 @@
 #include <unistd.h>
 
 #include "app/acctl/Report.h"
-#include "app/profiles/WholeFile.h"
+#include "fleet/WholeFile.h"
 
 std::string GivenPassword(const Arguments& arguments, std::string& error) {
   if (!arguments.password.empty()) return arguments.password;

@@ -8,7 +8,7 @@
 #include "app/acctl/FileCheck.h"
 #include "app/acctl/Output.h"
 #include "app/acctl/Reading.h"
-#include "app/profiles/WholeFile.h"
+#include "fleet/WholeFile.h"
 #include "snapshots/Restoration.h"
 
 namespace {

@@ -19,7 +19,7 @@
 #include "app/desktop/profiles/ProfileDocument.h"
 #include "app/profiles/OutOfMemory.h"
 #include "app/profiles/Table.h"
-#include "app/profiles/WholeFile.h"
+#include "fleet/WholeFile.h"
 #include "i18n/Catalog.h"
 #include "i18n/SystemLanguage.h"
 #include "settings/PageSets.h"

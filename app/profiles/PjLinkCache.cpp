@@ -9,8 +9,8 @@
 #include <QStandardPaths>
 #include <QUrl>
 
-#include "app/profiles/WholeFile.h"
 #include "device/protocol/PjLinkLine.h"
+#include "fleet/WholeFile.h"
 
 namespace {
 

@@ -1,181 +1,22 @@
 #include "app/profiles/ProfileFile.h"
 
-#include <algorithm>
-#include <fcntl.h>
-#include <map>
-#include <optional>
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <QFile>
-#include <QJsonDocument>
-
-#include "app/profiles/JsonLines.h"
-#include "app/profiles/ProfileValues.h"
-#include "app/profiles/WholeFile.h"
-
 namespace {
 
-constexpr int kMaximumProjectors = 1000;
-constexpr int kMaximumFamilies = 1000;
-constexpr int kMaximumLikes = 16;  // families that are like one another in a row
-
-/// A profile under construction, with the keys that it has been given.
-struct Draft {
-  ProjectorProfile profile;
-  QStringList keys;
-  int likes = 0;  // families below it
-};
-
-class FamilyTree {
- public:
-  explicit FamilyTree(const QJsonObject& families) : families_(families) {
-    if (families.size() > kMaximumFamilies) {
-      throw WrongValue{"families", ProfileText::tr("has %1 families; at most %2 are possible")
-                                       .arg(families.size())
-                                       .arg(kMaximumFamilies)};
-    }
-    for (const QString& name : families.keys()) Resolve(name, QString(), 0);
+ProfileFileContents Contents(const ProfileList& list) {
+  ProfileFileContents contents{.projectors = {}, .error = list.error};
+  contents.projectors.reserve(list.profiles.size());
+  for (const FleetProfile& profile : list.profiles) {
+    contents.projectors.push_back(MakeProjectorProfile(profile));
   }
-
-  /// What `settings` are like, under what they say themselves.
-  Draft Derive(const QJsonObject& settings, const QString& path, int above = 0) {
-    Draft draft;
-    if (settings.contains("like")) {
-      const QString likePath = At(path, "like");
-      draft = Resolve(Text(String(settings["like"], likePath)), likePath, above + 1);
-      // Checked on the way down too: the chain may be too long to go to its end.
-      if (++draft.likes + above > kMaximumLikes) ThrowTooManyLikes(likePath);
-    }
-    Apply(settings, path, draft.profile);
-    draft.keys += settings.keys();
-    return draft;
-  }
-
- private:
-  [[noreturn]] static void ThrowTooManyLikes(const QString& path) {
-    throw WrongValue{path,
-                     ProfileText::tr("leads through more than %1 families").arg(kMaximumLikes)};
-  }
-
-  // `above` is the number of families and entries that wait for this one.
-  const Draft& Resolve(const QString& name, const QString& askedAt, int above) {
-    if (above > kMaximumLikes) ThrowTooManyLikes(askedAt);
-    if (const auto known = drafts_.find(name); known != drafts_.end()) {
-      if (known->second.has_value()) return *known->second;
-      throw WrongValue{askedAt, ProfileText::tr("makes \"%1\" like itself").arg(name)};
-    }
-    if (!families_.contains(name)) {
-      throw WrongValue{askedAt, ProfileText::tr("there is no family \"%1\"").arg(name)};
-    }
-    drafts_[name] = std::nullopt;
-    const QString path = At("families", name);
-    const QJsonObject settings = Object(families_[name], path);
-    CheckKeys(settings, path, kFamilyKeys);
-    return drafts_[name].emplace(Derive(settings, path, above));
-  }
-
-  const QJsonObject families_;
-  std::map<QString, std::optional<Draft>> drafts_;  // without a draft while it is being derived
-};
-
-std::vector<ProjectorProfile> Profiles(const QJsonDocument& document) {
-  if (!document.isObject()) throw WrongValue{{}, ProfileText::tr("the file must hold an object")};
-  const QJsonObject file = document.object();
-  CheckKeys(file, {}, {"families", "projectors"});
-  FamilyTree families(file.contains("families") ? Object(file["families"], "families")
-                                                : QJsonObject());
-  if (!file.contains("projectors"))
-    throw WrongValue{{}, ProfileText::tr("\"projectors\" is missing")};
-  const QJsonArray entries = Array(file["projectors"], "projectors", kMaximumProjectors);
-
-  std::vector<ProjectorProfile> profiles;
-  std::map<std::string, int> entryOfName;
-  for (int i = 0; i < entries.size(); ++i) {
-    const QString path = At(QStringLiteral("projectors"), i);
-    const QJsonObject entry = Object(entries[i], path);
-    CheckKeys(entry, path, QStringList{"name"} + kFamilyKeys);
-    Draft draft = families.Derive(entry, path);
-    for (const char* key : {"name", "model", "dialogType", "modelCode", "connection"}) {
-      if (!draft.keys.contains(QLatin1String(key))) {
-        throw WrongValue{path, ProfileText::tr("\"%1\" is missing").arg(key)};
-      }
-    }
-    CheckLink(draft.profile, At(path, "link"));
-    const auto [named, isNew] = entryOfName.emplace(draft.profile.Name, i);
-    if (!isNew) {
-      throw WrongValue{At(path, "name"),
-                       ProfileText::tr("\"%1\" is the name of projectors[%2] too")
-                           .arg(Text(draft.profile.Name), QString::number(named->second))};
-    }
-    profiles.push_back(std::move(draft.profile));
-  }
-  if (profiles.empty()) throw WrongValue{"projectors", ProfileText::tr("there is no projector")};
-  return profiles;
+  return contents;
 }
-
-bool HoldsPassword(const QJsonValue& value) {
-  if (value.isArray()) return std::ranges::any_of(value.toArray(), HoldsPassword);
-  const QJsonObject object = value.toObject();
-  return object.contains("secret") || std::ranges::any_of(object, HoldsPassword);
-}
-
-ProfileFileContents Wrong(const QString& error) { return {.projectors = {}, .error = error}; }
 
 }  // namespace
 
-ProfileFileContents ParseProfiles(const QByteArray& text, const QString& fileName) {
-  const auto faultAt = [&](qsizetype offset, const QString& message) {
-    const auto [line, column] = JsonLines::PlaceOf(text, offset);
-    return Wrong(fileName + QStringLiteral(":%1:%2: ").arg(line).arg(column) + message);
-  };
-  if (const auto fault = JsonLines::FaultOf(text)) return faultAt(fault->offset, fault->message);
-  QJsonParseError syntax;
-  const QJsonDocument document = QJsonDocument::fromJson(text, &syntax);
-  if (document.isNull()) return faultAt(syntax.offset, syntax.errorString());
-
-  const auto wrongValue = [&](const QString& path, int line, const QString& message) {
-    const QString place = path.isEmpty() ? QString() : path + QStringLiteral(": ");
-    return Wrong(fileName + QStringLiteral(":%1: ").arg(line) + place + message);
-  };
-  const JsonLines lines(text);
-  if (const auto repeated = lines.RepeatedKey()) {
-    return wrongValue(repeated->path, repeated->line, ProfileText::tr("stands here twice"));
-  }
-  try {
-    return {.projectors = Profiles(document), .error = {}};
-  } catch (const WrongValue& wrong) {
-    return wrongValue(wrong.path, lines.LineOf(wrong.path), wrong.message);
-  }
-}
-
-ProfileFileText ReadProfileText(const QString& fileName) {
-  const auto cannotRead = [&fileName](const QString& why) {
-    return ProfileFileText{{}, ProfileText::tr("cannot read profiles %1: %2").arg(fileName, why)};
-  };
-  // Opening must not wait for the other end of a pipe.
-  const int descriptor =
-      open(QFile::encodeName(fileName).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
-  if (descriptor < 0) return cannotRead(qt_error_string());
-  struct stat status {};
-  if (fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
-    close(descriptor);
-    return cannotRead(ProfileText::tr("not a regular file"));
-  }
-  QFile file;
-  if (!file.open(descriptor, QFile::ReadOnly | QFile::Unbuffered, QFile::AutoCloseHandle)) {
-    return cannotRead(file.errorString());
-  }
-  // One byte more than the limit shows that the file exceeds it, whatever size it claims.
-  return {file.read(JsonLines::kMaximumBytes + 1), {}};
-}
-
-QString WriteProfileText(const QString& fileName, const QByteArray& text) {
-  const bool isPrivate = HoldsPassword(QJsonDocument::fromJson(text).object());
-  return WriteWholeFile(fileName, text, isPrivate ? FileAccess::OwnerOnly : FileAccess::Kept);
-}
-
 ProfileFileContents ReadProfileFile(const QString& fileName) {
-  const ProfileFileText file = ReadProfileText(fileName);
-  return file.error.isEmpty() ? ParseProfiles(file.text, fileName) : Wrong(file.error);
+  return Contents(ReadProfileList(fileName));
+}
+
+ProfileFileContents ParseProfiles(const QByteArray& text, const QString& fileName) {
+  return Contents(ParseProfileList(text, fileName));
 }

@@ -6,6 +6,7 @@
 #include <QString>
 
 #include "app/profiles/ProjectorProfile.h"
+#include "fleet/ProfileFile.h"
 
 struct ProfileFileContents {
   std::vector<ProjectorProfile> projectors;  ///< In the order of the file; empty after an error.
@@ -13,20 +14,7 @@ struct ProfileFileContents {
   QString error;
 };
 
-struct ProfileFileText {
-  QByteArray text;
-  QString error;  ///< One line; empty when the file was read.
-};
-
-/// What stands in a regular file, up to a little more than a profile file may hold.
-ProfileFileText ReadProfileText(const QString& fileName);
-
-/// Writes a profile file as a whole, or leaves the one that is there untouched. Nobody but its
-/// owner can read one that holds a password. One line that says what is wrong; empty when all is
-/// well.
-QString WriteProfileText(const QString& fileName, const QByteArray& text);
-
-/// The projectors of a profile file. Its format is described in `docs/profiles.md`.
+/// The projectors of a profile file, as a host knows them.
 ProfileFileContents ReadProfileFile(const QString& fileName);
 
 /// The same from a text; `fileName` stands in error messages.

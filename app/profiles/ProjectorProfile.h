@@ -7,12 +7,10 @@
 
 #include "device/CModelInfo2.h"
 #include "device/Connect.h"
+#include "fleet/FleetProfile.h"
 #include "simulator/SettingsTable.h"
 
-/// How a projector of a profile file is reached.
-enum class ProjectorLink { Simulated, Network, Serial, PjLink };
-
-/// One projector of a profile file: what a host knows of it, and how its simulation is made.
+/// A projector of a profile file as a host knows it, with a model record of its own.
 struct ProjectorProfile {
   std::string Name;              ///< Unique in its file; UTF-8.
   CModelInfo2 Model;             ///< With the connection as connection 0.
@@ -21,6 +19,8 @@ struct ProjectorProfile {
 
   bool operator==(const ProjectorProfile&) const = default;
 };
+
+ProjectorProfile MakeProjectorProfile(const FleetProfile& profile);
 
 /// Where the projector of a profile is; of a simulated one, an error that says so.
 ProjectorAddress AddressOf(const ProjectorProfile& profile);

@@ -8,8 +8,8 @@
 #include <QFileInfo>
 #include <QJsonDocument>
 
-#include "app/profiles/JsonLines.h"
-#include "app/profiles/WholeFile.h"
+#include "fleet/JsonLines.h"
+#include "fleet/WholeFile.h"
 
 namespace {
 
@@ -26,7 +26,7 @@ QString KeyAt(const Snapshot& snapshot, const QString& path) {
 
 SettingsFileContents ReadSettingsFile(const QString& path) {
   // One byte more than the reader takes shows that the file is too large.
-  const FileBytes file = ReadToEnd(path, JsonLines::kMaximumBytes + 1);
+  const FileBytes file = ReadToEnd(path, JsonLines::Limits().bytes + 1);
   if (!file.error.isEmpty()) {
     return {.error = QCoreApplication::translate("SettingsFile", "cannot read %1: %2")
                          .arg(path, file.error)};
@@ -42,7 +42,7 @@ SettingsFileContents ParseSettingsFile(const QByteArray& text, const QString& na
     contents.error = QStringLiteral("%1:%2: ").arg(name).arg(line) + message;
     return contents;
   };
-  if (const auto fault = JsonLines::FaultOf(text)) {
+  if (const auto fault = JsonLines::FaultOf(text, {})) {
     return wrong(JsonLines::PlaceOf(text, fault->offset).line, fault->message);
   }
   QJsonParseError syntax;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include <QHostAddress>
@@ -8,6 +9,7 @@
 #include <QStringList>
 
 #include "app/simulator/ServedProjectors.h"
+#include "app/simulator/fleet/FleetService.h"
 
 /// What the command line asks for.
 struct Arguments {
@@ -15,6 +17,7 @@ struct Arguments {
   QString writeProfiles;   ///< File to write profiles of the served projectors to; empty for none.
   QStringList projectors;  ///< Names of the projectors to serve; empty for all.
   ServiceOptions service;
+  std::optional<FleetOptions> fleet;  ///< Instead of `service`.
   bool control = false;
   std::uint16_t controlPort = 0;
   QString help;  ///< The text for `--help`; empty if it was not given.

@@ -12,24 +12,6 @@ namespace {
 
 constexpr int kMaximumConnections = 4;
 constexpr qint64 kLongestLine = 256;
-constexpr int kLongestDelay = 60'000;
-
-struct NamedFault {
-  const char* name;
-  ServiceFault fault;
-  bool hasAmount = false;
-};
-
-constexpr NamedFault kFaults[] = {
-    {"none", {}},
-    {"refuse", {.projector = Fault::Kind::Refuse}},
-    {"fail-read", {.projector = Fault::Kind::FailRead}},
-    {"silent", {.line = {LineFault::Kind::Silent}}},
-    {"late", {.line = {LineFault::Kind::Late}}, true},
-    {"cut", {.line = {LineFault::Kind::Cut}}, true},
-    {"garbage", {.line = {LineFault::Kind::Garbage}}},
-    {"trickle", {.line = {LineFault::Kind::Trickle}}},
-};
 
 class Session final : public ServedConnection {
  public:
@@ -60,21 +42,9 @@ class Session final : public ServedConnection {
 
 }  // namespace
 
-std::optional<ServiceFault> ParseFault(const QString& text) {
-  const QStringList words = text.simplified().split(QLatin1Char(' '));
-  for (const auto& [name, known, hasAmount] : kFaults) {
-    if (words.first() != QLatin1String(name) || words.size() != (hasAmount ? 2 : 1)) continue;
-    ServiceFault fault = known;
-    if (!hasAmount) return fault;
-    bool isNumber = false;
-    fault.line.amount = words[1].toInt(&isNumber);
-    if (isNumber && fault.line.amount >= 0 && fault.line.amount <= kLongestDelay) return fault;
-  }
-  return std::nullopt;
-}
-
-ControlServer::ControlServer(ServedProjectors& projectors)
+ControlServer::ControlServer(ControlledProjectors& projectors, std::uint64_t seed)
     : projectors_(projectors),
+      seed_(seed),
       server_({.connections = kMaximumConnections, .readBuffer = kLongestLine},
               [this](std::unique_ptr<QTcpSocket> socket) {
                 return new Session(std::move(socket),
@@ -94,10 +64,17 @@ QString ControlServer::Execute(const QString& line) {
         .arg(first)
         .arg(projectors_.Count());
   }
-  const auto fault = ParseFault(line.section(QLatin1Char(' '), 1));
-  if (!fault) return QStringLiteral("error: faults are %1").arg(QLatin1String(kFaultNames));
-  for (std::size_t i = 0; i < projectors_.Count(); ++i) {
-    if (all || i + 1 == number) projectors_.SetFault(i, *fault);
+  const QString rest = line.section(QLatin1Char(' '), 1);
+  const auto share = ParseFault(rest);
+  if (!share || (!all && share->percent < 100)) {
+    const auto answer = projectors_.Obey(all ? std::nullopt : std::optional(number - 1), rest);
+    return answer.value_or(QStringLiteral("error: faults are %1").arg(QLatin1String(kFaultNames)));
   }
+  if (!all) {
+    projectors_.SetFault(number - 1, share->fault);
+    return QStringLiteral("ok");
+  }
+  const auto faults = Distribute({&*share, 1}, projectors_.Count(), seed_);
+  for (std::size_t i = 0; i < faults.size(); ++i) projectors_.SetFault(i, faults[i]);
   return QStringLiteral("ok");
 }

@@ -42,8 +42,9 @@ ServedProjectors::ServedProjectors(const std::vector<ProjectorProfile>& profiles
     : options_(options) {
   for (const ProjectorProfile& profile : profiles) {
     if (!Serve(profile)) return;
-    SetFault(services_.size() - 1, options_.fault);
   }
+  const auto faults = Distribute(options_.faults, Count(), options_.seed);
+  for (std::size_t i = 0; i < faults.size(); ++i) SetFault(i, faults[i]);
 }
 
 bool ServedProjectors::Serve(const ProjectorProfile& profile) {

@@ -9,22 +9,19 @@
 #include <QJsonObject>
 
 #include "app/profiles/ProfileFile.h"
+#include "app/simulator/ControlServer.h"
+#include "app/simulator/Faults.h"
 #include "simulator/FaultChannel.h"
 #include "simulator/PjLinkServer.h"
 #include "simulator/WireServer.h"
-
-/// A fault of a served projector, or of its connections.
-struct ServiceFault {
-  Fault::Kind projector = Fault::Kind::None;
-  LineFault line{};
-};
 
 struct ServiceOptions {
   QHostAddress address{QHostAddress::LocalHost};
   std::uint16_t firstPort = 0;  ///< 0 chooses free ports.
   std::string password;         ///< For PJLink; empty for none.
   bool serial = false;          ///< Whether to serve on pseudo terminals too.
-  ServiceFault fault{};
+  std::vector<FaultShare> faults;
+  std::uint64_t seed = 1;  ///< Of the shares.
 };
 
 /// A served projector with the servers of all its connections.
@@ -39,13 +36,13 @@ struct Service {
 };
 
 /// Serves the projectors of a profile file while the event loop runs.
-class ServedProjectors {
+class ServedProjectors final : public ControlledProjectors {
  public:
   /// Starts serving `profiles`. On failure, `ErrorText` says what is wrong.
   ServedProjectors(const std::vector<ProjectorProfile>& profiles, const ServiceOptions& options);
 
   const QString& ErrorText() const { return error_; }
-  std::size_t Count() const { return services_.size(); }
+  std::size_t Count() const override { return services_.size(); }
 
   /// One line for each connection of each projector: name, colon, address.
   std::string Addresses() const;
@@ -54,7 +51,7 @@ class ServedProjectors {
   /// from.
   QByteArray Profiles(const QByteArray& original) const;
 
-  void SetFault(std::size_t projector, const ServiceFault& fault);
+  void SetFault(std::size_t projector, const ServiceFault& fault) override;
 
  private:
   bool Serve(const ProjectorProfile& profile);

@@ -4,8 +4,10 @@
 #include <exception>
 #include <new>
 #include <optional>
+#include <sys/resource.h>
 #include <sys/signalfd.h>
 #include <unistd.h>
+#include <utility>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -16,6 +18,7 @@
 #include "app/simulator/Arguments.h"
 #include "app/simulator/ControlServer.h"
 #include "app/simulator/ServedProjectors.h"
+#include "app/simulator/fleet/FleetService.h"
 
 namespace {
 
@@ -58,18 +61,19 @@ std::optional<QString> Choose(std::vector<ProjectorProfile>& profiles, const QSt
   return std::nullopt;
 }
 
-int Run(const Arguments& arguments, int endingSignals) {
-  const QString fileName = ProfileFile(arguments);
-  ProfileFileContents contents = ReadProfileFile(fileName);
-  if (!contents.error.isEmpty()) return Fail(contents.error);
-  if (const auto unknown = Choose(contents.projectors, arguments.projectors)) {
-    return Fail(QStringLiteral("there is no projector '%1'").arg(*unknown));
-  }
-  ServedProjectors projectors(contents.projectors, arguments.service);
-  if (!projectors.ErrorText().isEmpty()) return Fail(projectors.ErrorText());
+// A limit below what the system grants would end a fleet at a thousand connections.
+void RaiseDescriptorLimit() {
+  rlimit limit{};
+  if (getrlimit(RLIMIT_NOFILE, &limit) != 0) return;
+  limit.rlim_cur = limit.rlim_max;
+  setrlimit(RLIMIT_NOFILE, &limit);
+}
 
+// Writes the profiles of what is served, tells where it is, and serves until a signal comes.
+template <typename Projectors>
+int Serve(Projectors& projectors, const Arguments& arguments, int endingSignals) {
   if (!arguments.writeProfiles.isEmpty()) {
-    QFile original(fileName);
+    QFile original(ProfileFile(arguments));
     const bool read = original.open(QIODevice::ReadOnly);
     const QString error =
         read ? WriteProfileText(arguments.writeProfiles, projectors.Profiles(original.readAll()))
@@ -77,7 +81,7 @@ int Run(const Arguments& arguments, int endingSignals) {
     if (!error.isEmpty()) return Fail(error);
   }
   std::fputs(projectors.Addresses().c_str(), stdout);
-  ControlServer control(projectors);
+  ControlServer control(projectors, arguments.service.seed);
   if (arguments.control) {
     const int port = control.Listen(arguments.controlPort);
     if (port == 0) return Fail(QStringLiteral("--control: the port cannot be had"));
@@ -89,6 +93,25 @@ int Run(const Arguments& arguments, int endingSignals) {
   const QSocketNotifier ended(endingSignals, QSocketNotifier::Read);
   QObject::connect(&ended, &QSocketNotifier::activated, qApp, &QCoreApplication::quit);
   return QCoreApplication::exec();
+}
+
+int Run(const Arguments& arguments, int endingSignals) {
+  ProfileFileContents contents = ReadProfileFile(ProfileFile(arguments));
+  if (!contents.error.isEmpty()) return Fail(contents.error);
+  if (const auto unknown = Choose(contents.projectors, arguments.projectors)) {
+    return Fail(QStringLiteral("there is no projector '%1'").arg(*unknown));
+  }
+  if (arguments.fleet) {
+    RaiseDescriptorLimit();
+    FleetService fleet(std::move(contents.projectors), *arguments.fleet);
+    if (const QString error = fleet.Start(); !error.isEmpty()) return Fail(error);
+    const int status = Serve(fleet, arguments, endingSignals);
+    const QString error = fleet.WriteCounts();
+    return error.isEmpty() ? status : Fail(error);
+  }
+  ServedProjectors projectors(contents.projectors, arguments.service);
+  if (!projectors.ErrorText().isEmpty()) return Fail(projectors.ErrorText());
+  return Serve(projectors, arguments, endingSignals);
 }
 
 }  // namespace

@@ -15,6 +15,7 @@ using Op = PjtOperation;
 constexpr int kStandby = 0;
 constexpr int kOn = 1;
 constexpr int kCooling = 2;
+constexpr int kWarming = 3;
 constexpr std::size_t kMostInputs = 50;
 
 std::string Error(std::string_view error) { return std::string(error); }
@@ -136,7 +137,10 @@ std::string PjLinkResponder::Change(const PjtCommand& command) {
 bool PjLinkResponder::IsOn() { return Power() == std::to_string(kOn); }
 
 std::string PjLinkResponder::Power() {
-  return Report(CommandCode::RunningState, [](int status) { return std::to_string(status); });
+  return Report(CommandCode::RunningState, [this](int status) {
+    const bool isWarming = projector_->Power() == PowerState::WarmingUp;
+    return std::to_string(status == kOn && isWarming ? kWarming : status);
+  });
 }
 
 std::string PjLinkResponder::SetPower(std::string_view parameter) {
@@ -181,12 +185,18 @@ std::string PjLinkResponder::SetMuted(std::string_view parameter) {
 }
 
 std::string PjLinkResponder::Errors() {
-  return Report(CommandCode::ErrorStatus, PjLink::ErrorDigits);
+  return Report(CommandCode::ErrorStatus, [this](int status) {
+    return served_.errors.empty() ? PjLink::ErrorDigits(status) : served_.errors;
+  });
 }
 
 std::string PjLinkResponder::Lamp() {
-  return Report(CommandCode::LampTime,
-                [this](int hours) { return std::to_string(hours) + (IsOn() ? " 1" : " 0"); });
+  return Report(CommandCode::LampTime, [this](int first) {
+    const std::string burns = IsOn() ? " 1" : " 0";
+    std::string lamps = std::to_string(first) + burns;
+    for (const int hours : served_.moreLampHours) lamps += ' ' + std::to_string(hours) + burns;
+    return lamps;
+  });
 }
 
 std::string PjLinkResponder::Inputs() {

@@ -29,6 +29,10 @@ PROJECTOR_COMMON_EXPORT std::vector<ServedInput> InputsOf(const SourceList& sour
 struct ServedProjector {
   int protocolClass = 2;  ///< 1 or 2.
   std::vector<ServedInput> inputs{};
+  /// Six digits, as `ERST` yields them; empty for what the projector's error status says.
+  std::string errors{};
+  /// Of the lamps after the first.
+  std::vector<int> moreLampHours{};
   /// Answers of the commands that return a text; UTF-8, cut to the length that the standard allows.
   std::map<std::string, std::string, std::less<>> texts{
       {"NAME", "Simulated projector"},
@@ -54,6 +58,9 @@ class PROJECTOR_COMMON_EXPORT PjLinkResponder {
   /// Executes the request `text`, without its end of line, and returns the reply, also without it;
   /// nothing if `text` is not a request.
   std::optional<std::string> Answer(std::string_view text);
+
+  /// Six digits instead of `ServedProjector::errors`.
+  void SetErrors(std::string_view digits) { served_.errors = digits; }
 
  private:
   struct Command;
@@ -83,7 +90,7 @@ class PROJECTOR_COMMON_EXPORT PjLinkResponder {
   std::string InputName(std::string_view code) const;
 
   const std::shared_ptr<ProjectorChannel> projector_;
-  const ServedProjector served_;
+  ServedProjector served_;
 };
 
 }  // namespace AdvancedControl

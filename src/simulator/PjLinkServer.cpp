@@ -5,12 +5,10 @@
 #include <utility>
 
 #include <QHostAddress>
-#include <QRandomGenerator>
 #include <QTcpSocket>
 #include <QTimer>
 
-#include "device/protocol/PjLinkLine.h"
-#include "device/protocol/PjLinkReader.h"
+#include "simulator/PjLinkProjectorSession.h"
 #include "simulator/ServedConnection.h"
 #include "simulator/TcpListener.h"
 
@@ -22,34 +20,22 @@ constexpr qint64 kReadBuffer = 512;
 /// Bytes of replies that a client may leave unread.
 constexpr std::size_t kMostUnread = 65536;
 
-std::string NewSeed() {
-  constexpr int kDigits = 8;
-  constexpr int kHexadecimal = 16;
-  return QString::number(QRandomGenerator::global()->generate(), kHexadecimal)
-      .rightJustified(kDigits, QLatin1Char('0'))
-      .toStdString();
-}
-
 class Session final : public ServedConnection {
  public:
   Session(std::unique_ptr<QTcpSocket> socket, const PjLinkServer::Options& options,
           PjLinkResponder& responder, const LineFault& fault)
-      : socket_(*socket.release()), responder_(responder), replies_(socket_, fault) {
+      : socket_(*socket.release()),
+        session_(responder, options.password),
+        replies_(socket_, fault) {
     socket_.setParent(this);
-    std::string seed;
-    if (!options.password.empty()) {
-      seed = NewSeed();
-      wantedProof_ = PjLink::Digest(seed, options.password);
-    }
     connect(&idle_, &QTimer::timeout, this, [this] { socket_.abort(); });
     connect(&socket_, &QTcpSocket::readyRead, this, &Session::AnswerAll);
     connect(&socket_, &QTcpSocket::disconnected, this, &QObject::deleteLater);
     idle_.start(options.idle);
-    const std::string greeting = PjLink::FormatGreeting(seed);
     if (fault.kind == LineFault::Kind::Cut) {
-      socket_.write((greeting + '\r').c_str());  // the greeting is not cut
+      socket_.write(session_.Greeting().c_str());  // the greeting is not cut
     } else {
-      Send(greeting);
+      Send(session_.Greeting());
     }
     AnswerAll();
   }
@@ -60,48 +46,29 @@ class Session final : public ServedConnection {
  private:
   void AnswerAll() {
     NoteRead();
-    while (isServed_ && socket_.state() == QAbstractSocket::ConnectedState) {
-      if (const auto line = reader_.Next()) {
-        Answer(*line);
+    while (!session_.IsOver() && socket_.state() == QAbstractSocket::ConnectedState) {
+      if (const auto exchange = session_.Next()) {
+        Send(exchange->reply);
+        idle_.start();
         continue;
       }
+      if (session_.IsOver()) return socket_.abort();  // a line without end
       const QByteArray piece = socket_.read(kReadBuffer);
       if (piece.isEmpty()) return;
-      reader_.Add(piece.toStdString());
-      if (reader_.IsTooLong()) socket_.abort();
+      session_.Add({piece.data(), static_cast<std::size_t>(piece.size())});
     }
-  }
-
-  void Answer(std::string_view line) {
-    if (!line.starts_with(wantedProof_)) {
-      Send(PjLink::kWrongPassword);
-      return End();
-    }
-    const auto answer = responder_.Answer(line.substr(wantedProof_.size()));
-    wantedProof_.clear();
-    if (!answer) return End();
-    Send(*answer);
-    idle_.start();
-  }
-
-  void End() {
-    isServed_ = false;
-    replies_.Close();
+    if (session_.IsOver()) replies_.Close();
   }
 
   void Send(std::string_view line) {
-    replies_.Send(std::string(line) + '\r');
+    replies_.Send(line);
     if (replies_.Backlog() > kMostUnread) socket_.abort();
   }
 
   QTcpSocket& socket_;
-  PjLinkResponder& responder_;
+  PjLinkProjectorSession session_;
   FaultyLine replies_;
   QTimer idle_;
-  PjLinkReader reader_;
-  bool isServed_ = true;
-  std::string wantedProof_;  ///< Expected before the next request; empty once received, or without
-                             ///< a password.
 };
 
 }  // namespace

@@ -1,20 +1,19 @@
 #include "simulator/SimulatedProjector.h"
 
 #include <algorithm>
-#include <charconv>
-#include <string_view>
 #include <utility>
 
-#include "device/CommandCode.h"
+#include "simulator/SimulatedLayout.h"
 
 namespace AdvancedControl {
 
 namespace {
 
 constexpr int kShownBias = CommandCode::kZeroPoint;
-
-/// The setting for a command code without a known meaning: stores any value.
-constexpr Setting kPlain{.id = SettingId::Count, .name = "", .range = {0, 0xFFFF}};
+// Of the running state.
+constexpr int kStandby = 0;
+constexpr int kOn = 1;
+constexpr int kCoolingDown = 2;
 
 /// The value that a command sets; its place depends on the operation's family.
 int WrittenValue(const PjtCommand& command) {
@@ -23,174 +22,50 @@ int WrittenValue(const PjtCommand& command) {
 
 bool IsSource(int source) { return source >= 0 && source <= 255; }
 
-std::optional<int> Number(std::string_view text) {
-  const std::size_t start = text.find_first_not_of(' ');
-  if (start == std::string_view::npos) return std::nullopt;
-  int number = 0;
-  const char* const end = text.data() + text.size();
-  if (std::from_chars(text.data() + start, end, number).ec != std::errc{}) return std::nullopt;
-  return number;
-}
-
-std::optional<SettingRange> ParseRange(std::string_view text) {
-  const std::size_t comma = text.find(',');
-  if (comma == std::string_view::npos) return std::nullopt;
-  const std::optional<int> minimum = Number(text.substr(0, comma));
-  const std::optional<int> maximum = Number(text.substr(comma + 1));
-  if (!minimum || !maximum || *minimum > *maximum) return std::nullopt;
-  return SettingRange{*minimum, *maximum};
-}
-
-std::vector<int> ListValues(const CountedList& list) {
-  return {list.values.begin(), list.values.begin() + list.Size()};
-}
-
 }  // namespace
 
-SimulatedModel DescribeModel(const ModelData& data) {
-  SimulatedModel model{.pageSet = data.DialogType, .ranges = {}};
-  for (const Setting& setting : SettingsTable()) {
-    if (setting.rangeText == Setting::kNoRangeText) continue;
-    if (const auto range = ParseRange(data.RangeTexts[setting.rangeText])) {
-      model.ranges[setting.id] = *range;
-    }
-  }
-  const auto* const sources = data.MySourceList.firstValues.begin();
-  model.values[SettingId::InputSource] = {sources, sources + data.MySourceList.Size()};
-  model.values[SettingId::Aspect] = ListValues(data.AspectList);
-  model.values[SettingId::Gamma] = ListValues(data.GammaList);
-  model.values[SettingId::ColorTemp] = ListValues(data.ColorTempList);
-  return model;
-}
+SimulatedProjector::SimulatedProjector(SimulatedModel model)
+    : SimulatedProjector(MakeLayout(std::move(model))) {}
 
-/// One setting of this projector.
-struct SimulatedProjector::Slot {
-  const Setting* setting = nullptr;
-  SettingRange range;
-  std::vector<int> values;
-  int standard = 0;
-  int value = 0;
-  std::map<int, int> bySource;  ///< Only values that differ from the standard.
-
-  bool Allows(int wanted) const {
-    if (!values.empty()) return std::ranges::find(values, wanted) != values.end();
-    return wanted >= range.minimum && wanted <= range.maximum;
-  }
-
-  int At(int source) const {
-    if (!setting->perSource) return value;
-    const auto found = bySource.find(source);
-    return found == bySource.end() ? standard : found->second;
-  }
-
-  void Put(int wanted, int source) { (setting->perSource ? bySource[source] : value) = wanted; }
-
-  /// The neighbouring value, counted or from the list; may be outside the range.
-  std::optional<int> Next(int current, int step) const {
-    if (values.empty()) return current + step;
-    const auto found = std::ranges::find(values, current);
-    if (found == values.end()) return std::nullopt;
-    const auto position = found - values.begin() + step;
-    if (position < 0 || position >= std::ssize(values)) return std::nullopt;
-    return values[static_cast<std::size_t>(position)];
-  }
-
-  std::optional<int> FromWritten(int written, ValueForm form) const {
-    switch (form) {
-      case ValueForm::Device:
-        return written;
-      case ValueForm::OneBased:
-        return written + 1;
-      case ValueForm::TwoBased:
-        return written + 2;
-      case ValueForm::Shown:
-        return written + kShownBias;
-      case ValueForm::Position:
-        if (values.empty()) return written;
-        if (written < 0 || written >= std::ssize(values)) return std::nullopt;
-        return values[static_cast<std::size_t>(written)];
-    }
-    return std::nullopt;
-  }
-};
-
-struct SimulatedProjector::Route {
-  std::size_t slot = 0;
-  Binding binding;
-};
-
-SimulatedProjector::SimulatedProjector(SimulatedModel model) {
-  slotOfSetting_.fill(-1);
-  for (const Setting& setting : SettingsTable()) {
-    if (Knows(setting.sets, model.pageSet) && !model.missing.contains(setting.id)) {
-      AddSlot(setting, model);
-    }
-  }
-  // A code that has a meaning only for other page sets becomes plain; the code of a missing setting
-  // does not.
-  for (const std::uint16_t code : PlainCodes()) {
-    const bool hasMeaning = std::ranges::any_of(SettingsTable(), [&](const Setting& setting) {
-      return setting.code == code && Knows(setting.sets, model.pageSet);
-    });
-    if (hasMeaning) continue;
-    slotOfCode_.emplace(code, slots_.size());
-    slots_.push_back({.setting = &kPlain, .range = kPlain.range, .values = {}, .bySource = {}});
-  }
-  std::vector<int> pictures;
-  for (const Slot& slot : slots_) {
-    if (slot.setting->inMemory) pictures.push_back(slot.value);
-  }
-  memories_.fill(pictures);
+SimulatedProjector::SimulatedProjector(std::shared_ptr<const Layout> layout)
+    : layout_(std::move(layout)) {
+  for (const Slot& slot : layout_->slots) values_.push_back(slot.standard);
 }
 
 SimulatedProjector::~SimulatedProjector() = default;
 
-void SimulatedProjector::AddSlot(const Setting& setting, SimulatedModel& model) {
-  const std::size_t index = slots_.size();
-  Slot slot{.setting = &setting, .range = setting.range, .values = {}, .bySource = {}};
-  slot.values.assign(setting.values.begin(), setting.values.end());
-  if (const auto own = model.ranges.find(setting.id); own != model.ranges.end()) {
-    slot.range = own->second;
-  }
-  if (const auto own = model.values.find(setting.id);
-      own != model.values.end() && !own->second.empty()) {
-    slot.values = std::move(own->second);
-  }
-  slot.standard = setting.standard;
-  if (!slot.Allows(slot.standard)) {
-    slot.standard = slot.values.empty()
-                        ? std::clamp(slot.standard, slot.range.minimum, slot.range.maximum)
-                        : slot.values.front();
-  }
-  slot.value = slot.standard;
-  slots_.push_back(std::move(slot));
-
-  present_.push_back(setting.id);
-  slotOfSetting_[static_cast<std::size_t>(setting.id)] = static_cast<int>(index);
-  if (setting.code != 0) slotOfCode_.emplace(setting.code, index);
-  for (const Binding& binding : setting.operations) {
-    if (binding.verb == Verb::None) continue;
-    routes_[static_cast<std::size_t>(binding.operation)].push_back({index, binding});
-  }
-}
-
-SimulatedProjector::Slot* SimulatedProjector::SlotOf(SettingId id) {
-  return const_cast<Slot*>(std::as_const(*this).SlotOf(id));
-}
+std::span<const SettingId> SimulatedProjector::Settings() const { return layout_->present; }
 
 const SimulatedProjector::Slot* SimulatedProjector::SlotOf(SettingId id) const {
-  const int index = slotOfSetting_[static_cast<std::size_t>(id)];
-  return index < 0 ? nullptr : &slots_[static_cast<std::size_t>(index)];
+  const int index = layout_->slotOfSetting[static_cast<std::size_t>(id)];
+  return index < 0 ? nullptr : &layout_->slots[static_cast<std::size_t>(index)];
+}
+
+int SimulatedProjector::At(const Slot& slot, int source) const {
+  if (slot.setting->perSource) {
+    const auto found = bySource_.find({slot.index, source});
+    if (found != bySource_.end()) return found->second;
+  }
+  return values_[slot.index];
+}
+
+void SimulatedProjector::Put(const Slot& slot, int value, int source) {
+  if (slot.setting->perSource) {
+    bySource_[{slot.index, source}] = value;
+  } else {
+    values_[slot.index] = value;
+  }
 }
 
 int SimulatedProjector::SourceOrCurrent(int source) const {
   if (source != kCurrentSource) return source;
   const Slot* const input = SlotOf(SettingId::InputSource);
-  return input ? input->value : 0;
+  return input ? values_[input->index] : 0;
 }
 
 PjtReply SimulatedProjector::Execute(const PjtCommand& command) {
   const std::lock_guard lock(mutex_);
+  FinishSwitching();
   const std::optional<int> value =
       FormOf(command.operation).isGeneric ? ExecuteGeneric(command) : ExecuteNamed(command);
   if (!value) return {.result = RefusedResult(command.operation)};
@@ -198,18 +73,19 @@ PjtReply SimulatedProjector::Execute(const PjtCommand& command) {
 }
 
 std::optional<int> SimulatedProjector::ExecuteGeneric(const PjtCommand& command) {
-  const auto found = slotOfCode_.find(command.code);
-  if (found == slotOfCode_.end()) return std::nullopt;
-  Slot* target = &slots_[found->second];
+  const auto found = layout_->slotOfCode.find(command.code);
+  if (found == layout_->slotOfCode.end()) return std::nullopt;
+  const Slot* target = &layout_->slots[found->second];
   const int written = static_cast<std::uint16_t>(command.first);
   if (command.operation == PjtOperation::Set && !target->Allows(written)) {
-    const auto other = std::ranges::find(
-        slots_, command.code, [](const Slot& candidate) { return candidate.setting->alsoSetBy; });
-    if (other != slots_.end() && !other->values.empty()) target = &*other;
+    const auto other = std::ranges::find(layout_->slots, command.code, [](const Slot& candidate) {
+      return candidate.setting->alsoSetBy;
+    });
+    if (other != layout_->slots.end() && !other->values.empty()) target = &*other;
   }
-  Slot& slot = *target;
+  const Slot& slot = *target;
   const int source = SourceOrCurrent(kCurrentSource);
-  const int current = slot.At(source);
+  const int current = At(slot, source);
 
   std::optional<int> wanted;
   switch (command.operation) {
@@ -226,7 +102,7 @@ std::optional<int> SimulatedProjector::ExecuteGeneric(const PjtCommand& command)
       break;
   }
   if (slot.setting->reported || !wanted || !slot.Allows(*wanted)) return std::nullopt;
-  slot.Put(*wanted, source);
+  Put(slot, *wanted, source);
   return wanted;
 }
 
@@ -234,8 +110,14 @@ std::optional<int> SimulatedProjector::ExecuteNamed(const PjtCommand& command) {
   if (command.operation == PjtOperation::SetMyMemory) {
     return UseMemory(command.first) ? std::optional(0) : std::nullopt;
   }
+  const bool isSwitch = command.operation == PjtOperation::SetPowerOn ||
+                        command.operation == PjtOperation::SetPowerOff;
+  if (isSwitch && TakesTime()) {
+    return SwitchPower(command.operation == PjtOperation::SetPowerOn) ? std::optional(0)
+                                                                      : std::nullopt;
+  }
   std::optional<int> result;
-  for (const Route& route : routes_[static_cast<std::size_t>(command.operation)]) {
+  for (const Route& route : layout_->routes[static_cast<std::size_t>(command.operation)]) {
     const int selector = route.binding.selector;
     if (selector != Binding::kAny && selector != command.first) continue;
     if (const auto value = ExecuteRoute(route, command)) result = value;
@@ -244,12 +126,12 @@ std::optional<int> SimulatedProjector::ExecuteNamed(const PjtCommand& command) {
 }
 
 std::optional<int> SimulatedProjector::ExecuteRoute(const Route& route, const PjtCommand& command) {
-  Slot& slot = slots_[route.slot];
+  const Slot& slot = layout_->slots[route.slot];
   const Binding& binding = route.binding;
   const int source = command.first;
   if (slot.setting->perSource && !IsSource(source)) return std::nullopt;
 
-  const int current = slot.At(source);
+  const int current = At(slot, source);
   std::optional<int> wanted;
   switch (binding.verb) {
     case Verb::None:
@@ -273,7 +155,7 @@ std::optional<int> SimulatedProjector::ExecuteRoute(const Route& route, const Pj
       break;
   }
   if (!wanted || !slot.Allows(*wanted)) return std::nullopt;
-  slot.Put(*wanted, source);
+  Put(slot, *wanted, source);
   return binding.form == ValueForm::Shown ? *wanted - kShownBias : *wanted;
 }
 
@@ -282,13 +164,64 @@ bool SimulatedProjector::UseMemory(int position) {
   if (position < 0 || position >= 2 * count) return false;
   const bool load = position < count;
   std::vector<int>& memory = memories_[static_cast<std::size_t>(position % count)];
+  if (load && memory.empty()) {
+    for (const Slot& slot : layout_->slots) {
+      if (slot.setting->inMemory) values_[slot.index] = slot.standard;
+    }
+    return true;
+  }
+  if (!load) memory.clear();
   auto kept = memory.begin();
-  for (Slot& slot : slots_) {
+  for (const Slot& slot : layout_->slots) {
     if (!slot.setting->inMemory) continue;
-    (load ? slot.value : *kept) = load ? *kept : slot.value;
-    ++kept;
+    if (load) {
+      values_[slot.index] = *kept++;
+    } else {
+      memory.push_back(values_[slot.index]);
+    }
   }
   return true;
+}
+
+void SimulatedProjector::SetPowerTimes(std::chrono::milliseconds warmUp,
+                                       std::chrono::milliseconds coolDown) {
+  const std::lock_guard lock(mutex_);
+  warmUp_ = warmUp;
+  coolDown_ = coolDown;
+}
+
+bool SimulatedProjector::SwitchPower(bool on) {
+  const Slot* const power = SlotOf(SettingId::Power);
+  if (!power) return false;
+  const int wanted = on ? kOn : kStandby;
+  int& state = values_[power->index];
+  if (state == wanted) return true;
+  if (switchedAt_) return false;
+  state = on ? kOn : kCoolingDown;
+  switchedAt_ = Clock::now() + (on ? warmUp_ : coolDown_);
+  return true;
+}
+
+void SimulatedProjector::FinishSwitching() const {
+  if (!switchedAt_ || Clock::now() < *switchedAt_) return;
+  switchedAt_.reset();
+  int& state = values_[SlotOf(SettingId::Power)->index];
+  if (state == kCoolingDown) state = kStandby;
+}
+
+std::optional<PowerState> SimulatedProjector::Power() const {
+  const std::lock_guard lock(mutex_);
+  const Slot* const power = SlotOf(SettingId::Power);
+  if (!power || !TakesTime()) return std::nullopt;
+  FinishSwitching();
+  switch (values_[power->index]) {
+    case kStandby:
+      return PowerState::Standby;
+    case kCoolingDown:
+      return PowerState::CoolingDown;
+    default:
+      return switchedAt_ ? PowerState::WarmingUp : PowerState::On;
+  }
 }
 
 bool SimulatedProjector::Has(SettingId id) const { return SlotOf(id) != nullptr; }
@@ -311,26 +244,34 @@ std::span<const int> SimulatedProjector::ValuesOf(SettingId id) const {
 int SimulatedProjector::Value(SettingId id, int source) const {
   const std::lock_guard lock(mutex_);
   const Slot* const slot = SlotOf(id);
-  return slot ? slot->At(SourceOrCurrent(source)) : 0;
+  if (!slot) return 0;
+  FinishSwitching();
+  return At(*slot, SourceOrCurrent(source));
 }
 
 void SimulatedProjector::SetValue(SettingId id, int value, int source) {
   const std::lock_guard lock(mutex_);
-  if (Slot* const slot = SlotOf(id)) slot->Put(value, SourceOrCurrent(source));
+  const Slot* const slot = SlotOf(id);
+  if (!slot) return;
+  if (id == SettingId::Power) switchedAt_.reset();
+  Put(*slot, value, SourceOrCurrent(source));
 }
 
 std::optional<int> SimulatedProjector::CodeValue(std::uint16_t code) const {
   const std::lock_guard lock(mutex_);
-  if (const auto found = slotOfCode_.find(code); found != slotOfCode_.end()) {
-    return slots_[found->second].At(SourceOrCurrent(kCurrentSource));
+  if (const auto found = layout_->slotOfCode.find(code); found != layout_->slotOfCode.end()) {
+    FinishSwitching();
+    return At(layout_->slots[found->second], SourceOrCurrent(kCurrentSource));
   }
   return std::nullopt;
 }
 
 void SimulatedProjector::SetCodeValue(std::uint16_t code, int value) {
   const std::lock_guard lock(mutex_);
-  if (const auto found = slotOfCode_.find(code); found != slotOfCode_.end()) {
-    slots_[found->second].Put(value, SourceOrCurrent(kCurrentSource));
+  if (const auto found = layout_->slotOfCode.find(code); found != layout_->slotOfCode.end()) {
+    const Slot& slot = layout_->slots[found->second];
+    if (slot.setting->id == SettingId::Power) switchedAt_.reset();
+    Put(slot, value, SourceOrCurrent(kCurrentSource));
   }
 }
 

@@ -1,12 +1,16 @@
 #pragma once
 
 #include <array>
+#include <chrono>
+#include <cstddef>
 #include <cstdint>
 #include <map>
+#include <memory>
 #include <mutex>
 #include <optional>
 #include <set>
 #include <span>
+#include <utility>
 #include <vector>
 
 #include "Namespace.h"
@@ -38,15 +42,27 @@ class PROJECTOR_COMMON_EXPORT SimulatedProjector : public ProjectorChannel {
   static constexpr int kCurrentSource = -1;
   static constexpr int kStandbySource = 15;
 
+  /// What all projectors of a model have in common. A program that simulates many makes it once,
+  /// and each then takes about a kilobyte. Does not change; any thread.
+  class Layout;
+  static std::shared_ptr<const Layout> MakeLayout(SimulatedModel model);
+
   explicit SimulatedProjector(SimulatedModel model = {});
+  explicit SimulatedProjector(std::shared_ptr<const Layout> layout);
   ~SimulatedProjector() override;
   SimulatedProjector(const SimulatedProjector&) = delete;
   SimulatedProjector& operator=(const SimulatedProjector&) = delete;
 
   PjtReply Execute(const PjtCommand& command) override;
 
+  /// Lets switching on and off take time, none at first. Meanwhile the projector warms up, which
+  /// reads as on, or cools down, and refuses to be switched.
+  void SetPowerTimes(std::chrono::milliseconds warmUp, std::chrono::milliseconds coolDown);
+  /// Nothing while switching takes no time.
+  std::optional<PowerState> Power() const override;
+
   /// The settings this projector has, in the table's order. Does not change.
-  std::span<const SettingId> Settings() const { return present_; }
+  std::span<const SettingId> Settings() const;
   bool Has(SettingId id) const;
 
   // For a setting that the projector does not have, the value is 0, the range and the list are
@@ -68,28 +84,33 @@ class PROJECTOR_COMMON_EXPORT SimulatedProjector : public ProjectorChannel {
   void SetCodeValue(std::uint16_t code, int value);
 
  private:
+  using Clock = std::chrono::steady_clock;
   struct Slot;
   struct Route;
 
-  void AddSlot(const Setting& setting, SimulatedModel& model);
-  Slot* SlotOf(SettingId id);
   const Slot* SlotOf(SettingId id) const;
+  int At(const Slot& slot, int source) const;
+  void Put(const Slot& slot, int value, int source);
   int SourceOrCurrent(int source) const;
   std::optional<int> ExecuteGeneric(const PjtCommand& command);
   std::optional<int> ExecuteNamed(const PjtCommand& command);
   std::optional<int> ExecuteRoute(const Route& route, const PjtCommand& command);
   bool UseMemory(int position);
+  bool TakesTime() const { return warmUp_.count() > 0 || coolDown_.count() > 0; }
+  bool SwitchPower(bool on);
+  void FinishSwitching() const;
 
-  // Built once, then only read.
-  std::vector<SettingId> present_;
-  std::array<int, kSettingCount> slotOfSetting_{};
-  std::map<std::uint16_t, std::size_t> slotOfCode_;
-  std::array<std::vector<Route>, kOperationCount> routes_;
+  const std::shared_ptr<const Layout> layout_;
 
   mutable std::mutex mutex_;
   // Under the mutex.
-  std::vector<Slot> slots_;
-  std::array<std::vector<int>, 4> memories_;
+  mutable std::vector<int>
+      values_;  // one for each slot; of a setting kept per source, the standard
+  std::map<std::pair<std::size_t, int>, int> bySource_;  // those that differ from it
+  std::array<std::vector<int>, 4> memories_;             // empty while they hold the standards
+  std::chrono::milliseconds warmUp_{0};
+  std::chrono::milliseconds coolDown_{0};
+  mutable std::optional<Clock::time_point> switchedAt_;  // when the power is as it was asked to be
 };
 
 }  // namespace AdvancedControl

@@ -26,8 +26,12 @@ struct WrongFile {
   const char* error;
 };
 
-const std::string kWhole = R"("name": "A", "model": "M", "dialogType": 1, "modelCode": 1, )"
-                           R"("connection": {"serial": {"port": 1}})";
+std::string Named(const std::string& name) {
+  return R"("name": ")" + name + R"(", "model": "M", "dialogType": 1, "modelCode": 1, )" +
+         R"("connection": {"serial": {"port": 1}})";
+}
+
+const std::string kWhole = Named("A");
 
 const WrongFile kWrongFiles[] = {
     {"", "1:1: "},
@@ -41,6 +45,11 @@ const WrongFile kWrongFiles[] = {
     {"\n\"name\": \"A\",\n\"name\": \"B\"", "3: projectors[0].name: stands here twice"},
     {R"("name": "")", "name: must be"},
     {R"("modelCode": 1.5)", "modelCode: must be a whole number"},
+    {"\"name\": \"" + std::string(257, 'x') + '"', "name: is longer than 256 bytes"},
+    {R"("tags": ["A", ""])", "tags[1]: must be a text that is not empty"},
+    {R"("ratedLampHours": 0)", "ratedLampHours: is 0; it must be 1 to 1000000"},
+    {R"("snapshot": {})", "snapshot: must be a text"},
+    {R"("X-other": 1)", "X-other: unknown key"},
     {R"("modelCode": 2147483648)", "modelCode: is 2147483648;"},
     {R"("gamma": [0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0])",
      "gamma: has 33 entries; at most 32"},
@@ -90,6 +99,8 @@ const WrongFile kWrongFiles[] = {
     {"{\"families\": {\"a\": {\n\"dialogType\": \"5\"}}, \"projectors\": []}",
      "2: families.a.dialogType: must be a whole number"},
     {kWhole + "}, {" + kWhole, "1: projectors[1].name: \"A\" is the name of projectors[0] too"},
+    {kWhole + R"(, "identity": "id:1"}, {"identity": "id:1", )" + Named("B"),
+     "1: projectors[1].identity: \"id:1\" is the identity of projectors[0] too"},
 };
 
 TEST(ProfileFile, ErrorsAreReportedWithTheirPlace) {
@@ -121,13 +132,12 @@ TEST(ProfileFile, OversizedFilesAreRefusedAtOnce) {
   for (int i = 1; i <= 1000; ++i) many += ", \"" + std::to_string(i) + "\": {}";
   const WrongFile tooMuch[] = {
       {Repeat("{\"a\":", 1000), "p.json:1:81: nested more than 16 deep"},
-      {Repeat("{\"a\":", 900'000), "p.json:1:1: more than 4194304 bytes"},
-      {"[" + Repeat("1,", 25'000'000), "p.json:1:1: more than 4194304 bytes"},
-      {"[\n" + Repeat("1,", 200'000), "p.json:2:199998: more than 100000 values"},
-      {"[\"" + Repeat("a", 256) + "\"]", "p.json:1: the file must hold an object"},
-      {"[\"" + Repeat("a", 257) + "\"]", "p.json:1:2: text of more than 256 bytes"},
-      {"{\"projectors\": [" + Repeat("0,", 1000) + "0]}",
-       "p.json:1: projectors: has 1001 entries; at most 1000"},
+      {"[" + std::string(67'108'864, ' '), "p.json:1:1: more than 67108864 bytes"},
+      {"[\n" + Repeat("1,", 5'000'001), "p.json:2:9999998: more than 5000000 values"},
+      {"[\"" + Repeat("a", 2048) + "\"]", "p.json:1: the file must hold an object"},
+      {"[\"" + Repeat("a", 2049) + "\"]", "p.json:1:2: text of more than 2048 bytes"},
+      {"{\"projectors\": [" + Repeat("0,", 100'000) + "0]}",
+       "p.json:1: projectors: has 100001 entries; at most 100000"},
       {many + "}}", "p.json:1: families: has 1001 families; at most 1000"},
       {chain(101, 117, -1), "p.json:1: families.117.like: leads through more than 16 families"},
       {chain(100, 998, 1), "p.json:1: families.116.like: leads through more than 16 families"},

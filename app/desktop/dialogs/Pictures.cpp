@@ -13,7 +13,7 @@
 #include <QTabBar>
 
 #include "app/desktop/projectors/ProjectorSession.h"
-#include "app/profiles/WholeFile.h"
+#include "fleet/WholeFile.h"
 #include "host/CAdvanceDlg.h"
 #include "pages/common/CTabPage.h"
 

@@ -23,7 +23,7 @@
 
 #include "app/desktop/Mnemonic.h"
 #include "app/desktop/Modal.h"
-#include "app/profiles/WholeFile.h"
+#include "fleet/WholeFile.h"
 #include "toolkit/IsolatedText.h"
 
 namespace {

@@ -65,8 +65,10 @@ QString ProfileDocument::Insert(std::size_t after, const JsonEdit::Members& memb
 }
 
 QString ProfileDocument::Duplicate(std::size_t projector, const QString& name) {
-  const QByteArray copy = JsonEdit::SetMember(JsonEdit::TextAt(text_, EntryPath(projector)), {},
-                                              {QStringLiteral("name"), name});
+  QByteArray copy = JsonEdit::SetMember(JsonEdit::TextAt(text_, EntryPath(projector)), {},
+                                        {QStringLiteral("name"), name});
+  // Which is that of one projector alone.
+  copy = JsonEdit::SetMember(copy, {}, {QStringLiteral("identity"), QJsonValue::Undefined});
   return Write(
       JsonEdit::InsertElement(text_, kProjectors, static_cast<qsizetype>(projector), copy));
 }

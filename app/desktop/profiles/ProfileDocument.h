@@ -6,7 +6,7 @@
 #include <QCoreApplication>
 #include <QJsonObject>
 
-#include "app/desktop/profiles/JsonEdit.h"
+#include "fleet/JsonEdit.h"
 #include "app/profiles/ProfileFile.h"
 
 /// The profile file that the program uses, and changes to it. Each change is written at once as a

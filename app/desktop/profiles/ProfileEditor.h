@@ -7,7 +7,7 @@
 #include <QDialog>
 #include <QJsonObject>
 
-#include "app/desktop/profiles/JsonEdit.h"
+#include "fleet/JsonEdit.h"
 
 class CComboBox;
 class ProfileDocument;

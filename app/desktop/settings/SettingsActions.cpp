@@ -11,7 +11,7 @@
 #include "app/desktop/projectors/ProjectorSession.h"
 #include "app/desktop/settings/RetryAfterSilenceChannel.h"
 #include "app/profiles/SettingsFile.h"
-#include "app/profiles/WholeFile.h"
+#include "fleet/WholeFile.h"
 #include "device/ModelDataIntake.h"
 #include "i18n/Catalog.h"
 #include "i18n/SystemLanguage.h"

@@ -175,6 +175,37 @@
     </message>
 </context>
 <context>
+    <name>Csv</name>
+    <message>
+        <source>a quotation mark is not closed</source>
+        <translation>引号没有闭合</translation>
+    </message>
+    <message>
+        <source>a text goes on behind its closing quotation mark</source>
+        <translation>闭合引号之后还有文本</translation>
+    </message>
+    <message>
+        <source>more than %1 cells</source>
+        <translation>超过 %1 个单元格</translation>
+    </message>
+    <message>
+        <source>%1 cells, but the header has %2</source>
+        <translation>有 %1 个单元格，而表头有 %2 个</translation>
+    </message>
+    <message>
+        <source>more than %1 rows</source>
+        <translation>超过 %1 行</translation>
+    </message>
+    <message>
+        <source>there is no header</source>
+        <translation>没有表头</translation>
+    </message>
+    <message>
+        <source>more than %1 bytes</source>
+        <translation>超过 %1 字节</translation>
+    </message>
+</context>
+<context>
     <name>FaultPanel</name>
     <message>
         <source>Standby</source>
@@ -541,6 +572,33 @@
     </message>
 </context>
 <context>
+    <name>ProfileCsv</name>
+    <message>
+        <source>&quot;%1&quot; is no MAC number</source>
+        <translation>“%1”不是 MAC 地址</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no link</source>
+        <translation>“%1”不是连接方式</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is the name of another projector, with the identity %2</source>
+        <translation>“%1”是另一台投影机的名称，其标识为 %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number of hours</source>
+        <translation>“%1”不是小时数</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is the name of another projector</source>
+        <translation>“%1”是另一台投影机的名称</translation>
+    </message>
+    <message>
+        <source>the header has no column &quot;name&quot;</source>
+        <translation>表头中没有“name”列</translation>
+    </message>
+</context>
+<context>
     <name>ProfileDocument</name>
     <message>
         <source>%1 was changed by another program. Reload it (F5), then do this again.</source>
@@ -673,8 +731,8 @@
         <translation>缺少“%1”</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is the name of projectors[%2] too</source>
-        <translation>“%1”与 projectors[%2] 重名</translation>
+        <source>&quot;%1&quot; is the %2 of projectors[%3] too</source>
+        <translation>“%1”也是 projectors[%3] 的 %2</translation>
     </message>
     <message>
         <source>there is no projector</source>
@@ -1080,6 +1138,17 @@
     <message>
         <source>Waiting for the projector of an open dialog…</source>
         <translation>正在等待已打开对话框的投影机…</translation>
+    </message>
+</context>
+<context>
+    <name>Search</name>
+    <message>
+        <source>&quot;%1&quot; is neither an IPv4 address nor a range of them</source>
+        <translation>“%1”既不是 IPv4 地址，也不是地址范围</translation>
+    </message>
+    <message>
+        <source>more than %1 addresses</source>
+        <translation>超过 %1 个地址</translation>
     </message>
 </context>
 <context>

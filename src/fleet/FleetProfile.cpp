@@ -1,0 +1,40 @@
+#include "fleet/FleetProfile.h"
+
+#include <QCoreApplication>
+#include <QUuid>
+
+namespace AdvancedControl {
+
+std::string FleetIdOf(const FleetProfile& profile) {
+  return profile.identity.empty() ? "name:" + profile.name : profile.identity;
+}
+
+std::string MakeIdentity() {
+  return "id:" + QUuid::createUuid().toString(QUuid::WithoutBraces).toStdString();
+}
+
+ProjectorAddress AddressOf(ProjectorLink link, const ProfileConnection& connection) {
+  const auto port = static_cast<std::uint16_t>(connection.port);
+  switch (link) {
+    case ProjectorLink::Network:
+      return TcpAddress{.host = connection.address, .port = port};
+    case ProjectorLink::PjLink:
+      return PjLinkAddress{.host = connection.address, .port = port, .password = connection.secret};
+    case ProjectorLink::Serial:
+      return SerialAddress{
+          .device = connection.address.empty() ? SerialDevice(connection.port) : connection.address,
+          .baud = connection.baud == 0 ? SerialAddress::kDefaultBaud : connection.baud};
+    case ProjectorLink::Simulated:
+      break;
+  }
+  return AddressError{"the projector is simulated"};
+}
+
+QString ConnectionText(const ProfileConnection& connection) {
+  QString address = QString::fromStdString(connection.address);
+  if (connection.isNetwork) return QStringLiteral("%1:%2").arg(address).arg(connection.port);
+  if (!address.isEmpty()) return address;
+  return QCoreApplication::translate("ProfileFile", "serial port %1").arg(connection.port + 1);
+}
+
+}  // namespace AdvancedControl

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <QString>
+
+#include "Namespace.h"
+#include "device/CModelInfo2.h"
+#include "device/Connect.h"
+#include "simulator/SettingsTable.h"
+
+namespace AdvancedControl {
+
+/// How a projector of a profile file is reached.
+enum class ProjectorLink : std::uint8_t { Simulated, Network, Serial, PjLink };
+
+/// What projectors of one model have in common. About 15 kilobytes, and so shared by them.
+struct ProfileModel {
+  CModelInfo2 info;              ///< Without a connection.
+  std::vector<SettingId> lacks;  ///< Settings that the simulated model does not have.
+
+  bool operator==(const ProfileModel&) const = default;
+};
+
+/// Where a projector is: a host and port, or a serial line.
+struct ProfileConnection {
+  bool isNetwork = true;
+  std::string address{};  ///< The host's name or IP address, or the path of the serial port.
+  std::int32_t port =
+      0;  ///< Of the host; of a serial line its number from 0, where it has no path.
+  std::int32_t baud = 0;  ///< Of a serial line; 0 for the usual speed.
+  std::string secret{};   ///< The password, empty for none.
+
+  bool operator==(const ProfileConnection&) const = default;
+};
+
+/// One projector of a profile file. Texts are UTF-8.
+struct FleetProfile {
+  std::string name;  ///< Unique in its file.
+  std::shared_ptr<const ProfileModel> model;
+  ProfileConnection connection;
+  ProjectorLink link = ProjectorLink::Simulated;
+
+  /// What stays the same when the projector gets another name or address: "mac:00:00:5e:00:53:01",
+  /// "serial:12345" or "id:" and a text that somebody chose. Unique in its file; may be empty.
+  std::string identity{};
+  std::vector<std::string> tags{};
+  std::string notes{};
+  int ratedLampHours = 0;  ///< 0 if not known.
+  std::string snapshot{};  ///< Name of the snapshot of how it should be; empty for none.
+};
+
+/// What tells a projector from all others of its file: its identity, or else its name.
+std::string FleetIdOf(const FleetProfile& profile);
+
+/// An identity for a projector whose protocol tells none.
+std::string MakeIdentity();
+
+/// Where a projector is; an error if it is simulated.
+ProjectorAddress AddressOf(ProjectorLink link, const ProfileConnection& connection);
+inline ProjectorAddress AddressOf(const FleetProfile& profile) {
+  return AddressOf(profile.link, profile.connection);
+}
+
+/// "192.0.2.30:4352" or "serial port 1"
+QString ConnectionText(const ProfileConnection& connection);
+
+}  // namespace AdvancedControl

@@ -1,0 +1,316 @@
+#include "fleet/ProfileCsv.h"
+
+#include <algorithm>
+#include <map>
+#include <optional>
+#include <utility>
+
+#include <QCoreApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+
+#include "fleet/CsvColumn.h"
+#include "fleet/ProfileEdits.h"
+#include "fleet/ProfileFile.h"
+
+namespace AdvancedControl {
+
+namespace {
+
+struct ProfileCsv {
+  Q_DECLARE_TR_FUNCTIONS(ProfileCsv)
+};
+
+constexpr QChar kTagSeparator = u'|';
+
+/// Thrown for a row that cannot be taken.
+struct WrongRow {
+  QString reason;
+};
+
+/// The cells of a row by their meaning; empty ones tell nothing. Several columns may be tags.
+using Cells = std::map<CsvColumn, QStringList>;
+
+QString One(const Cells& cells, CsvColumn column) {
+  const auto found = cells.find(column);
+  return found == cells.end() ? QString() : found->second.first();
+}
+
+QString Identity(const Cells& cells) {
+  if (QString identity = One(cells, CsvColumn::Identity); !identity.isEmpty()) return identity;
+  if (const QString serial = One(cells, CsvColumn::Serial); !serial.isEmpty()) {
+    return QStringLiteral("serial:") + serial;
+  }
+  QString mac = One(cells, CsvColumn::Mac).toLower();
+  if (mac.isEmpty()) return {};
+  mac.replace(QLatin1Char('-'), QLatin1Char(':'));
+  static const QRegularExpression kMac(QStringLiteral("^([0-9a-f]{2}:){5}[0-9a-f]{2}$"));
+  if (!kMac.match(mac).hasMatch()) {
+    throw WrongRow{ProfileCsv::tr("\"%1\" is no MAC number").arg(One(cells, CsvColumn::Mac))};
+  }
+  return QStringLiteral("mac:") + mac;
+}
+
+std::optional<QString> LinkOf(const QString& text) {
+  const QString word = text.toLower();
+  if (word == QLatin1String("tcp") || word == QLatin1String("wire"))
+    return QStringLiteral("network");
+  for (const char* link : {"pjlink", "network", "serial", "simulated"}) {
+    if (word == QLatin1String(link)) return word;
+  }
+  return std::nullopt;
+}
+
+struct Reached {
+  QString link;
+  ProfileConnection connection;
+};
+
+// An address as people write it, with its port in it or in a column of its own.
+Reached Reach(const Cells& cells) {
+  const QString address = One(cells, CsvColumn::Address);
+  const QString port = One(cells, CsvColumn::Port);
+  QString link;
+  if (const QString text = One(cells, CsvColumn::Link); !text.isEmpty()) {
+    const auto known = LinkOf(text);
+    if (!known) throw WrongRow{ProfileCsv::tr("\"%1\" is no link").arg(text)};
+    link = *known;
+  }
+  QString text = address;
+  if (!port.isEmpty() && !address.contains(QLatin1String("://"))) {
+    const bool isIpv6 =
+        address.count(QLatin1Char(':')) > 1 && !address.startsWith(QLatin1Char('['));
+    text = (isIpv6 ? QStringLiteral("[%1]:%2") : QStringLiteral("%1:%2")).arg(address, port);
+  }
+  if (!text.contains(QLatin1String("://"))) {
+    if (link == QLatin1String("pjlink")) text.prepend(QLatin1String("pjlink://"));
+    if (link == QLatin1String("network")) text.prepend(QLatin1String("tcp://"));
+  }
+  const ProjectorAddress parsed =
+      ParseAddress(text.toStdString(), One(cells, CsvColumn::Password).toStdString());
+  if (const auto* error = std::get_if<AddressError>(&parsed)) {
+    throw WrongRow{QString::fromStdString(error->text)};
+  }
+  Reached reached;
+  if (const auto* pjLink = std::get_if<PjLinkAddress>(&parsed)) {
+    reached.link = QStringLiteral("pjlink");
+    reached.connection = {
+        .address = pjLink->host, .port = pjLink->port, .secret = pjLink->password};
+  } else if (const auto* tcp = std::get_if<TcpAddress>(&parsed)) {
+    reached.link = QStringLiteral("network");
+    reached.connection = {.address = tcp->host, .port = tcp->port};
+  } else {
+    const auto& serial = std::get<SerialAddress>(parsed);
+    reached.link = QStringLiteral("serial");
+    reached.connection = {.isNetwork = false, .address = serial.device, .baud = serial.baud};
+  }
+  if (link == QLatin1String("simulated")) reached.link = link;
+  return reached;
+}
+
+/// Takes rows into a profile file.
+class Importer {
+ public:
+  explicit Importer(const QByteArray& profiles)
+      : edits_(profiles),
+        checker_(profiles),
+        families_(QJsonDocument::fromJson(profiles).object()["families"].toObject()) {
+    const QJsonArray entries = QJsonDocument::fromJson(profiles).object()["projectors"].toArray();
+    for (const auto& entry : entries) Remember(entry.toObject());
+  }
+
+  CsvImport Import(const CsvTable& table);
+
+ private:
+  void Remember(const QJsonObject& entry) {
+    byName_.emplace(entry["name"].toString(), entries_.size());
+    if (entry.contains("identity")) {
+      byIdentity_.emplace(entry["identity"].toString(), entries_.size());
+    }
+    entries_.push_back(entry);
+  }
+  std::optional<std::size_t> Find(const QString& identity, const QString& name) const;
+  JsonEdit::Members Told(const Cells& cells, bool isNew) const;
+  void SetModel(const Cells& cells, bool isNew, JsonEdit::Members& members) const;
+  bool Take(const Cells& cells);
+
+  ProfileEdits edits_;
+  ProfileChecker checker_;
+  const QJsonObject families_;
+  std::vector<QJsonObject> entries_;
+  std::map<QString, std::size_t> byName_;
+  std::map<QString, std::size_t> byIdentity_;
+};
+
+std::optional<std::size_t> Importer::Find(const QString& identity, const QString& name) const {
+  if (const auto found = byIdentity_.find(identity); found != byIdentity_.end()) {
+    return found->second;
+  }
+  const auto found = byName_.find(name);
+  if (found == byName_.end()) return std::nullopt;
+  const QString other = entries_[found->second]["identity"].toString();
+  if (!identity.isEmpty() && !other.isEmpty()) {
+    throw WrongRow{ProfileCsv::tr("\"%1\" is the name of another projector, with the identity %2")
+                       .arg(name, other)};
+  }
+  return found->second;
+}
+
+void Importer::SetModel(const Cells& cells, bool isNew, JsonEdit::Members& members) const {
+  QString family = One(cells, CsvColumn::Family);
+  const QString model = One(cells, CsvColumn::Model);
+  for (auto known = families_.begin(); family.isEmpty() && known != families_.end(); ++known) {
+    if (!model.isEmpty() && known->toObject()["model"].toString() == model) family = known.key();
+  }
+  if (!family.isEmpty()) members.push_back({"like", family});
+  const QJsonObject like = families_[family].toObject();
+  if (!model.isEmpty() && like["model"].toString() != model) members.push_back({"model", model});
+  if (!isNew || !family.isEmpty()) return;
+  // Of which no more is known than what the protocol tells.
+  if (model.isEmpty()) members.push_back({"model", "PJLink"});
+  members.push_back({"dialogType", 0});
+  members.push_back({"modelCode", 0});
+}
+
+JsonEdit::Members Importer::Told(const Cells& cells, bool isNew) const {
+  JsonEdit::Members members;
+  const auto tell = [&members](const char* key, const QString& text) {
+    if (!text.isEmpty()) members.push_back({key, text});
+  };
+  tell("name", One(cells, CsvColumn::Name));
+  tell("identity", Identity(cells));
+  SetModel(cells, isNew, members);
+  if (!One(cells, CsvColumn::Address).isEmpty()) {
+    const Reached reached = Reach(cells);
+    members.push_back({"link", reached.link});
+    members.push_back({"connection", ConnectionValue(reached.connection)});
+  }
+  if (const auto tags = cells.find(CsvColumn::Tags); tags != cells.end()) {
+    QJsonArray all;
+    for (const QString& cell : tags->second) {
+      for (const QString& tag : cell.split(kTagSeparator, Qt::SkipEmptyParts)) {
+        all.append(tag.trimmed());
+      }
+    }
+    members.push_back({"tags", all});
+  }
+  QString notes = One(cells, CsvColumn::Notes);
+  tell("notes", notes.replace(QLatin1Char('\n'), QLatin1Char(' ')));
+  if (const QString hours = One(cells, CsvColumn::RatedLampHours); !hours.isEmpty()) {
+    bool isNumber = false;
+    const int number = hours.toInt(&isNumber);
+    if (!isNumber) throw WrongRow{ProfileCsv::tr("\"%1\" is no number of hours").arg(hours)};
+    members.push_back({"ratedLampHours", number});
+  }
+  tell("snapshot", One(cells, CsvColumn::Snapshot));
+  return members;
+}
+
+// Whether the projector is new.
+bool Importer::Take(const Cells& cells) {
+  const QString name = One(cells, CsvColumn::Name);
+  const auto known = Find(Identity(cells), name);
+  const JsonEdit::Members members = Told(cells, !known);
+  QJsonObject entry = known ? entries_[*known] : QJsonObject();
+  for (const auto& [key, value] : members) {
+    const auto before = entry[key].toObject()["network"].toObject();
+    entry[key] = value;
+    // A table seldom tells the password, and one without it does not take it away.
+    if (key != QLatin1String("connection") || !before.contains("secret")) continue;
+    QJsonObject network = value.toObject()["network"].toObject();
+    if (network.isEmpty() || network.contains("secret")) continue;
+    network["secret"] = before["secret"];
+    entry[key] = QJsonObject{{"network", network}};
+  }
+  if (const QString wrong = checker_.Check(entry); !wrong.isEmpty()) throw WrongRow{wrong};
+  const QString newName = entry["name"].toString();
+  const auto named = byName_.find(newName);
+  if (named != byName_.end() && (!known || named->second != *known)) {
+    throw WrongRow{ProfileCsv::tr("\"%1\" is the name of another projector").arg(newName)};
+  }
+  if (!known) {
+    edits_.Add(members);
+    Remember(entry);
+    return true;
+  }
+  JsonEdit::Members changed;
+  for (const JsonEdit::Member& member : members) {
+    if (entries_[*known][member.key] != entry[member.key]) {
+      changed.push_back({member.key, entry[member.key]});
+    }
+  }
+  edits_.Change(*known, changed);
+  byName_.erase(entries_[*known]["name"].toString());
+  byName_.emplace(newName, *known);
+  if (entry.contains("identity")) byIdentity_.emplace(entry["identity"].toString(), *known);
+  entries_[*known] = entry;
+  return false;
+}
+
+CsvImport Importer::Import(const CsvTable& table) {
+  CsvImport result{.text = {}, .faults = table.faults};
+  std::vector<std::optional<CsvColumn>> columns;
+  for (const QString& heading : table.header) {
+    columns.push_back(CsvColumnOf(heading));
+    if (!columns.back() && !heading.isEmpty()) result.unused.append(heading);
+  }
+  for (const CsvRow& row : table.rows) {
+    Cells cells;
+    for (qsizetype i = 0; i < row.cells.size(); ++i) {
+      const auto column = columns[static_cast<std::size_t>(i)];
+      if (column && !row.cells[i].isEmpty()) cells[*column].append(row.cells[i]);
+    }
+    try {
+      ++(Take(cells) ? result.added : result.changed);
+    } catch (const WrongRow& wrong) {
+      result.faults.push_back({row.line, wrong.reason});
+    }
+  }
+  std::ranges::stable_sort(result.faults, {}, &CsvFault::line);
+  result.text = edits_.Text();
+  return result;
+}
+
+}  // namespace
+
+CsvImport ImportCsv(const QByteArray& profiles, const QByteArray& csv) {
+  const CsvTable table = ParseCsv(csv);
+  const bool hasNames = std::ranges::any_of(
+      table.header, [](const QString& heading) { return CsvColumnOf(heading) == CsvColumn::Name; });
+  if (!hasNames) {
+    const bool isHeader = !table.header.isEmpty();
+    return {.text = profiles,
+            .faults = table.faults,
+            .error = isHeader ? ProfileCsv::tr("the header has no column \"name\"")
+                              : table.faults.front().reason};
+  }
+  CsvImport result = Importer(profiles).Import(table);
+  if (result.added + result.changed == 0) result.text = profiles;
+  return result;
+}
+
+QByteArray ExportCsv(const std::vector<FleetProfile>& profiles) {
+  std::vector<QStringList> rows{{"name", "address", "port", "link", "model", "identity", "tags",
+                                 "notes", "rated lamp hours", "snapshot"}};
+  for (const FleetProfile& profile : profiles) {
+    const ProfileConnection& connection = profile.connection;
+    QStringList tags;
+    for (const std::string& tag : profile.tags) tags.append(QString::fromStdString(tag));
+    const auto text = [](const std::string& utf8) { return QString::fromStdString(utf8); };
+    const QString address = connection.isNetwork || !connection.address.empty()
+                                ? text(connection.address)
+                                : text(SerialDevice(connection.port));
+    rows.push_back(
+        {text(profile.name), address,
+         connection.isNetwork ? QString::number(connection.port) : QString(),
+         LinkName(profile.link), text(profile.model->info.ModelName), text(profile.identity),
+         tags.join(kTagSeparator), text(profile.notes),
+         profile.ratedLampHours > 0 ? QString::number(profile.ratedLampHours) : QString(),
+         text(profile.snapshot)});
+  }
+  return WriteCsv(rows);
+}
+
+}  // namespace AdvancedControl

@@ -1,0 +1,223 @@
+#include "fleet/SearchDriver.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include <QNetworkInterface>
+#include <QTcpSocket>
+
+namespace AdvancedControl {
+
+namespace {
+
+constexpr int kPace = 20;  // milliseconds
+constexpr auto kSecondBroadcast = std::chrono::milliseconds(500);
+constexpr int kLongestAnswer = 128;
+constexpr qint64 kReadBuffer = 8192;
+
+}  // namespace
+
+std::vector<QHostAddress> NetworkBroadcasts() {
+  std::vector<QHostAddress> broadcasts;
+  for (const QNetworkInterface& network : QNetworkInterface::allInterfaces()) {
+    const auto flags = network.flags();
+    if (!flags.testFlag(QNetworkInterface::IsUp) ||
+        !flags.testFlag(QNetworkInterface::CanBroadcast)) {
+      continue;
+    }
+    for (const QNetworkAddressEntry& entry : network.addressEntries()) {
+      const QHostAddress broadcast = entry.broadcast();
+      if (!broadcast.isNull() && std::ranges::find(broadcasts, broadcast) == broadcasts.end()) {
+        broadcasts.push_back(broadcast);
+      }
+    }
+  }
+  return broadcasts;
+}
+
+/// One inquiry with its connection.
+class SearchDriver::Visit {
+ public:
+  Visit(SearchDriver& driver, FoundProjector found)
+      : driver_(driver),
+        inquiry_(std::move(found), driver.options_.password, driver.options_.limits) {
+    timer_.setSingleShot(true);
+    QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { Drive(); });
+  }
+  ~Visit() { Drop(); }
+  Visit(const Visit&) = delete;
+  Visit& operator=(const Visit&) = delete;
+
+  const SearchInquiry& Inquiry() const { return inquiry_; }
+  void Drive();
+
+ private:
+  static PjLinkTime Now() { return std::chrono::steady_clock::now(); }
+  void Connect();
+  void Drop();
+
+  SearchDriver& driver_;
+  SearchInquiry inquiry_;
+  QTimer timer_;
+  QTcpSocket* socket_ = nullptr;  // deletes itself later, as it may be calling us
+};
+
+void SearchDriver::Visit::Drive() {
+  for (;;) {
+    const PjLinkStep step = inquiry_.Next(Now());
+    switch (step.kind) {
+      case PjLinkStep::Kind::Finished:
+        Drop();
+        return driver_.End(this);
+      case PjLinkStep::Kind::Connect:
+        Connect();
+        break;
+      case PjLinkStep::Kind::Send:
+        if (socket_) socket_->write(step.bytes.data(), static_cast<qint64>(step.bytes.size()));
+        break;
+      case PjLinkStep::Kind::Close:
+        Drop();
+        break;
+      case PjLinkStep::Kind::Wait:
+        const auto wait = std::chrono::ceil<std::chrono::milliseconds>(step.until - Now());
+        return timer_.start(std::max(wait, std::chrono::milliseconds(0)));
+    }
+    if (step.kind != PjLinkStep::Kind::Connect) continue;
+    // The connection itself has a time too.
+    const auto wait = std::chrono::ceil<std::chrono::milliseconds>(step.until - Now());
+    return timer_.start(std::max(wait, std::chrono::milliseconds(0)));
+  }
+}
+
+void SearchDriver::Visit::Connect() {
+  Drop();
+  socket_ = new QTcpSocket;
+  socket_->setReadBufferSize(kReadBuffer);
+  const auto hear = [this, socket = socket_](auto signal, auto action) {
+    QObject::connect(socket, signal, &timer_, [this, socket, action] {
+      if (socket != socket_) return;
+      action();
+      Drive();
+    });
+  };
+  hear(&QTcpSocket::connected, [this] { inquiry_.Connection().Connected(); });
+  hear(&QTcpSocket::readyRead,
+       [this] { inquiry_.Connection().Received(socket_->readAll().toStdString(), Now()); });
+  QObject::connect(socket_, &QTcpSocket::errorOccurred, &timer_, [this, socket = socket_] {
+    if (socket != socket_) return;
+    const bool wasOpen = socket->error() == QAbstractSocket::RemoteHostClosedError;
+    Drop();
+    if (wasOpen) {
+      inquiry_.Connection().Closed(Now());
+    } else {
+      inquiry_.Connection().NotConnected(ConnectionState::NotReachable, Now());
+    }
+    Drive();
+  });
+  const FoundProjector& at = inquiry_.Found();
+  socket_->connectToHost(QHostAddress(QString::fromStdString(at.address)), at.port);
+}
+
+void SearchDriver::Visit::Drop() {
+  if (!socket_) return;
+  QTcpSocket* const socket = std::exchange(socket_, nullptr);
+  socket->disconnect(&timer_);
+  socket->abort();
+  socket->deleteLater();
+}
+
+SearchDriver::SearchDriver(SearchOptions options,
+                           std::function<void(const FoundProjector&)> onFound,
+                           std::function<void()> onFinished)
+    : options_(std::move(options)),
+      onFound_(std::move(onFound)),
+      onFinished_(std::move(onFinished)) {
+  QObject::connect(&pace_, &QTimer::timeout, &context_, [this] { BeginVisits(); });
+  listening_.setSingleShot(true);
+}
+
+SearchDriver::~SearchDriver() = default;
+
+void SearchDriver::Start() {
+  for (const std::uint32_t address : options_.addresses) Enqueue(address, {});
+  if (!options_.broadcasts.empty()) {
+    datagrams_ = std::make_unique<QUdpSocket>();
+    if (!datagrams_->bind(QHostAddress(QHostAddress::AnyIPv4), options_.answerPort) &&
+        !datagrams_->bind(QHostAddress(QHostAddress::AnyIPv4))) {
+      problem_ = datagrams_->errorString();
+    }
+    QObject::connect(datagrams_.get(), &QUdpSocket::readyRead, &context_,
+                     [this] { TakeAnswers(); });
+    listening_.start(options_.answers);
+    Broadcast();
+    // Datagrams get lost.
+    QTimer::singleShot(kSecondBroadcast, &context_, [this] { Broadcast(); });
+  }
+  pace_.start(kPace);
+}
+
+void SearchDriver::Broadcast() {
+  for (const QHostAddress& address : options_.broadcasts) {
+    const auto sent = datagrams_->writeDatagram(kSearchQuestion.data(),
+                                                static_cast<qint64>(kSearchQuestion.size()),
+                                                address, options_.port);
+    if (sent < 0) problem_ = datagrams_->errorString();
+  }
+}
+
+void SearchDriver::TakeAnswers() {
+  while (datagrams_->hasPendingDatagrams()) {
+    std::array<char, kLongestAnswer> text{};
+    QHostAddress from;
+    const qint64 size = datagrams_->readDatagram(text.data(), text.size(), &from);
+    if (size < 0) return;
+    const auto mac = ParseSearchAnswer({text.data(), static_cast<std::size_t>(size)});
+    if (mac && listening_.isActive()) Enqueue(from.toIPv4Address(), *mac);
+  }
+}
+
+void SearchDriver::Enqueue(std::uint32_t address, const std::string& mac) {
+  if (known_.insert(address).second) {
+    waiting_.push_back({.address = QHostAddress(address).toString().toStdString(),
+                        .port = options_.port,
+                        .mac = mac});
+    return;
+  }
+  // A range may have it too.
+  const std::string text = QHostAddress(address).toString().toStdString();
+  const auto waiting = std::ranges::find(waiting_, text, &FoundProjector::address);
+  if (waiting != waiting_.end() && waiting->mac.empty()) waiting->mac = mac;
+}
+
+void SearchDriver::BeginVisits() {
+  constexpr double kMilliseconds = 1000;
+  allowance_ = std::min(allowance_ + options_.perSecond * kPace / kMilliseconds,
+                        std::max(1.0, options_.perSecond * kPace / kMilliseconds));
+  while (allowance_ >= 1 && !waiting_.empty() &&
+         visits_.size() < static_cast<std::size_t>(options_.atOnce)) {
+    --allowance_;
+    visits_.push_back(std::make_unique<Visit>(*this, std::move(waiting_.front())));
+    waiting_.pop_front();
+    Visit* const visit = visits_.back().get();
+    QTimer::singleShot(0, &context_, [this, visit] {
+      const auto present = std::ranges::find(visits_, visit, &std::unique_ptr<Visit>::get);
+      if (present != visits_.end()) visit->Drive();
+    });
+  }
+  if (!waiting_.empty() || !visits_.empty() || listening_.isActive()) return;
+  pace_.stop();
+  onFinished_();
+}
+
+void SearchDriver::End(Visit* visit) {
+  const auto ended = std::ranges::find(visits_, visit, &std::unique_ptr<Visit>::get);
+  // Whoever calls may still be at work in it.
+  std::shared_ptr<Visit> kept(std::move(*ended));
+  visits_.erase(ended);
+  ++done_;
+  if (kept->Inquiry().HasFound()) onFound_(kept->Inquiry().Found());
+  QTimer::singleShot(0, &context_, [kept] {});
+}
+
+}  // namespace AdvancedControl

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "Namespace.h"
+#include "device/protocol/PjLinkInputs.h"
+#include "device/protocol/PjLinkSession.h"
+
+namespace AdvancedControl {
+
+/// The question of PJLink's search, which is broadcast.
+inline constexpr std::string_view kSearchQuestion = "%2SRCH\r";
+
+/// The MAC number of an answer to it, "00:00:5e:00:53:01"; nothing for any other datagram.
+std::optional<std::string> ParseSearchAnswer(std::string_view datagram);
+
+/// A projector that a search found. What it does not tell is empty.
+struct FoundProjector {
+  std::string address;  ///< IPv4.
+  std::uint16_t port = 0;
+  std::string mac{};           ///< From a broadcast search.
+  bool needsPassword = false;  ///< It wants another password than it was given, and told no more.
+  char protocolClass = '1';
+  std::string name{};  ///< These are UTF-8.
+  std::string maker{};
+  std::string model{};
+  std::string serial{};
+  std::vector<PjLinkInput> inputs{};
+};
+
+/// Asks a PJLink projector who and what it is: name, maker, model, serial number and inputs. Like a
+/// session it has neither a socket nor a clock: a driver does each step of `Next` and tells
+/// `Connection()` what happens, until the inquiry is finished, and then closes the connection.
+class SearchInquiry {
+ public:
+  SearchInquiry(FoundProjector found, const std::string& password, const PjLinkLimits& limits);
+
+  PjLinkStep Next(PjLinkTime now);
+  PjLinkConnection& Connection() { return session_.Connection(); }
+
+  /// Whether there is a projector.
+  bool HasFound() const { return hasFound_; }
+  const FoundProjector& Found() const { return found_; }
+
+ private:
+  std::optional<PjLinkQuestion> NextQuestion() const;
+  void Take(const PjLinkResult& told);
+  bool IsOver() const;
+
+  FoundProjector found_;
+  PjLinkSession session_;
+  std::size_t asked_ = 0;  // of the texts
+  PjLinkInputs inputs_;
+  bool tellsInputs_ = true;
+  bool isAsking_ = false;
+  bool hasFound_ = false;
+  int lost_ = 0;
+};
+
+}  // namespace AdvancedControl

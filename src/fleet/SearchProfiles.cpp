@@ -1,0 +1,205 @@
+#include "fleet/SearchProfiles.h"
+
+#include <map>
+#include <optional>
+#include <set>
+#include <utility>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include "fleet/ProfileEdits.h"
+
+namespace AdvancedControl {
+
+namespace {
+
+QString Text(const std::string& utf8) { return QString::fromStdString(utf8); }
+
+QString SerialIdentity(const FoundProjector& found) {
+  const bool isNumber = found.serial.find_first_not_of("0 -") != std::string::npos;
+  if (!isNumber) return {};
+  return Text("serial:" + found.maker + '/' + found.serial);
+}
+
+/// Takes projectors into a profile file, one after the other.
+class Taker {
+ public:
+  Taker(const QByteArray& profiles, const std::vector<FoundProjector>& found, std::string password);
+
+  void Take(const FoundProjector& found);
+  TakenProjectors Result() &&;
+
+ private:
+  QStringList IdentitiesOf(const FoundProjector& found) const;
+  std::optional<std::size_t> Find(const FoundProjector& found, const QStringList& identities) const;
+  void Update(std::size_t profile, const FoundProjector& found, const QStringList& identities);
+  void Add(const FoundProjector& found, const QStringList& identities);
+  QString FreeName(const FoundProjector& found) const;
+  QJsonValue NetworkOf(const FoundProjector& found) const;
+
+  const QByteArray original_;
+  const std::string password_;
+  ProfileEdits edits_;
+  QJsonObject families_;
+  std::vector<QJsonObject> entries_;
+  std::map<QString, std::size_t> byIdentity_;
+  std::map<QString, std::size_t> byAddress_;
+  std::set<QString> names_;
+  std::set<QString> sharedSerials_;  // which some makers give to all of a model
+  TakenProjectors result_;
+  bool hasChanged_ = false;
+};
+
+QString AddressKey(const QString& address, int port) {
+  return address + QLatin1Char(':') + QString::number(port);
+}
+
+Taker::Taker(const QByteArray& profiles, const std::vector<FoundProjector>& found,
+             std::string password)
+    : original_(profiles), password_(std::move(password)), edits_(profiles) {
+  const QJsonObject file = QJsonDocument::fromJson(profiles).object();
+  families_ = file["families"].toObject();
+  for (const auto& value : file["projectors"].toArray()) {
+    const QJsonObject entry = value.toObject();
+    const QJsonObject network = entry["connection"].toObject()["network"].toObject();
+    names_.insert(entry["name"].toString());
+    byIdentity_.emplace(entry["identity"].toString(), entries_.size());
+    byAddress_.emplace(AddressKey(network["address"].toString(), network["port"].toInt()),
+                       entries_.size());
+    entries_.push_back(entry);
+  }
+  byIdentity_.erase(QString());
+  std::map<QString, std::string> serials;
+  for (const FoundProjector& projector : found) {
+    const QString serial = SerialIdentity(projector);
+    const auto [first, isNew] = serials.emplace(serial, projector.address);
+    if (!isNew && first->second != projector.address) sharedSerials_.insert(serial);
+  }
+}
+
+QStringList Taker::IdentitiesOf(const FoundProjector& found) const {
+  QStringList identities;
+  const QString serial = SerialIdentity(found);
+  if (!serial.isEmpty() && !sharedSerials_.contains(serial)) identities.append(serial);
+  if (!found.mac.empty()) identities.append(Text("mac:" + found.mac));
+  return identities;
+}
+
+std::optional<std::size_t> Taker::Find(const FoundProjector& found,
+                                       const QStringList& identities) const {
+  for (const QString& identity : identities) {
+    if (const auto known = byIdentity_.find(identity); known != byIdentity_.end()) {
+      return known->second;
+    }
+  }
+  const auto there = byAddress_.find(AddressKey(Text(found.address), found.port));
+  if (there == byAddress_.end()) return std::nullopt;
+  // Where two are told apart by what they are, the address says nothing.
+  const bool isOther = entries_[there->second].contains("identity") && !identities.isEmpty();
+  return isOther ? std::nullopt : std::optional(there->second);
+}
+
+QJsonValue Taker::NetworkOf(const FoundProjector& found) const {
+  return ConnectionValue({.address = found.address,
+                          .port = found.port,
+                          .secret = found.needsPassword ? std::string() : password_});
+}
+
+void Taker::Update(std::size_t profile, const FoundProjector& found,
+                   const QStringList& identities) {
+  QJsonObject& entry = entries_[profile];
+  JsonEdit::Members members;
+  if (!entry.contains("identity") && !identities.isEmpty()) {
+    members.push_back({"identity", identities.first()});
+    byIdentity_.emplace(identities.first(), profile);
+  }
+  QJsonObject connection = entry["connection"].toObject();
+  QJsonObject network = connection["network"].toObject();
+  const bool isElsewhere =
+      network["address"].toString() != Text(found.address) || network["port"].toInt() != found.port;
+  if (isElsewhere && entry["connection"].toObject().contains("network")) {
+    network["address"] = Text(found.address);
+    network["port"] = found.port;
+    connection["network"] = network;
+    members.push_back({"connection", connection});
+    result_.moved.append(entry["name"].toString());
+  } else {
+    ++result_.known;
+  }
+  hasChanged_ = hasChanged_ || !members.empty();
+  for (const JsonEdit::Member& member : members) entry[member.key] = member.value;
+  edits_.Change(profile, members);
+}
+
+QString Taker::FreeName(const FoundProjector& found) const {
+  QString name = Text(found.name).trimmed();
+  if (name.isEmpty()) {
+    name = (Text(found.model) + QLatin1Char(' ') + Text(found.address)).trimmed();
+  }
+  QString free = name;
+  for (int i = 2; names_.contains(free); ++i) free = QStringLiteral("%1 (%2)").arg(name).arg(i);
+  return free;
+}
+
+void Taker::Add(const FoundProjector& found, const QStringList& identities) {
+  const QString name = FreeName(found);
+  const QString identity = identities.isEmpty() ? Text(MakeIdentity()) : identities.first();
+  JsonEdit::Members members{{"name", name}, {"identity", identity}};
+  QString family;
+  for (auto known = families_.begin(); known != families_.end(); ++known) {
+    if (known->toObject()["model"].toString() == Text(found.model)) family = known.key();
+  }
+  if (!family.isEmpty() && !found.model.empty()) {
+    members.push_back({"like", family});
+  } else {
+    members.push_back(
+        {"model", found.model.empty() ? QStringLiteral("PJLink") : Text(found.model)});
+    members.push_back({"dialogType", 0});
+    members.push_back({"modelCode", 0});
+  }
+  members.push_back({"link", LinkName(ProjectorLink::PjLink)});
+  members.push_back({"connection", NetworkOf(found)});
+  const SourceList sources = SourcesOf(found.inputs, InputCodes::SharedNames);
+  QJsonArray inputs;
+  for (std::size_t i = 0; i < static_cast<std::size_t>(sources.Size()); ++i) {
+    inputs.append(QJsonObject{{"name", Text(std::string(NameText(sources.names[i])))},
+                              {"value", sources.firstValues[i]}});
+  }
+  // Where it told none, it is asked later.
+  members.push_back({"mySources", inputs});
+  edits_.Add(members);
+  names_.insert(name);
+  byIdentity_.emplace(identity, entries_.size());
+  QJsonObject entry;
+  for (const JsonEdit::Member& member : members) entry[member.key] = member.value;
+  entries_.push_back(entry);
+  result_.added.append(name);
+  hasChanged_ = true;
+}
+
+void Taker::Take(const FoundProjector& found) {
+  const QStringList identities = IdentitiesOf(found);
+  if (const auto known = Find(found, identities)) {
+    Update(*known, found, identities);
+  } else {
+    Add(found, identities);
+  }
+}
+
+TakenProjectors Taker::Result() && {
+  result_.text = hasChanged_ ? edits_.Text() : original_;
+  return std::move(result_);
+}
+
+}  // namespace
+
+TakenProjectors TakeFound(const QByteArray& profiles, const std::vector<FoundProjector>& found,
+                          const std::string& password) {
+  Taker taker(profiles, found, password);
+  for (const FoundProjector& projector : found) taker.Take(projector);
+  return std::move(taker).Result();
+}
+
+}  // namespace AdvancedControl

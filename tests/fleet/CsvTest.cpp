@@ -1,0 +1,160 @@
+// Tables in and out.
+
+#include <gmock/gmock.h>
+#include <string>
+
+#include <QJsonDocument>
+#include <gtest/gtest.h>
+
+#include "fleet/Csv.h"
+#include "fleet/ProfileCsv.h"
+#include "fleet/ProfileEdits.h"
+#include "fleet/ProfileFile.h"
+
+namespace {
+
+using testing::ElementsAre;
+
+QByteArray Utf16(const char* utf8, bool bigEndian, bool marked) {
+  QByteArray bytes;
+  const QString text = QString::fromUtf8(utf8);
+  const auto add = [&](char16_t unit) {
+    const char low = static_cast<char>(unit & 0xFF), high = static_cast<char>(unit >> 8);
+    bytes += bigEndian ? high : low;
+    bytes += bigEndian ? low : high;
+  };
+  if (marked) add(0xFEFF);
+  for (const QChar c : text) add(c.unicode());
+  return bytes;
+}
+
+// "header | line: cell, cell | … ! line: reason"
+std::string Described(const CsvTable& table) {
+  QString text = table.header.join('/');
+  for (const CsvRow& row : table.rows) {
+    text += QString(" | %1: %2").arg(row.line).arg(row.cells.join('/'));
+  }
+  for (const CsvFault& fault : table.faults) {
+    text += QString(" ! %1: %2").arg(fault.line).arg(fault.reason);
+  }
+  return text.replace('\n', '~').toStdString();
+}
+
+struct Case {
+  QByteArray bytes;
+  const char* expected;
+};
+
+TEST(Csv, ReadsWhatSpreadsheetsExport) {
+  const Case cases[] = {
+      {"name,address\nA,B\n", "name/address | 2: A/B"},
+      {"\xEF\xBB\xBFname;address\r\nA,x;B\r\n\r\n;\r\nC;D", "name/address | 2: A,x/B | 5: C/D"},
+      {"name\taddress\rA; x\tB", "name/address | 2: A; x/B"},
+      {"sep=|\nname|x\nA;,|B", "name/x | 3: A;,/B"},
+      {"\n\nname , \"x;y;z\"\n \"A \"\"b\"\"\" , B \n", "name/x;y;z | 4: A \"b\"/B"},
+      {"name,x\n\"two\r\nlines\",B\nC,D", "name/x | 2: two~lines/B | 4: C/D"},
+      {"name,x\nA\nB,C,\nD,E,F\nG,'=1\n",
+       "name/x | 2: A/ | 3: B/C | 5: G/=1 ! 4: 3 cells, but the "
+       "header has 2"},
+      {"name,x\n\"A\" b,C\nD,E\n\"F,G\nH,I",
+       "name/x | 3: D/E | 5: H/I ! 2: a text goes on behind its closing quotation mark ! 4: a "
+       "quotation mark is not closed"},
+      {Utf16("name;ü\nÄ;B", false, true), "name/ü | 2: Ä/B"},
+      {Utf16("name;ü\nÄ;B", true, false), "name/ü | 2: Ä/B"},
+      {Utf16("name;ü\nÄ;B", false, false), "name/ü | 2: Ä/B"},
+      {"name,\xFC\n\xC4 \x80,B", "name/ü | 2: Ä €/B"},
+      {"", " ! 1: there is no header"},
+      {"\"name\nA", " ! 1: a quotation mark is not closed"},
+  };
+  for (const auto& [bytes, expected] : cases) {
+    EXPECT_EQ(Described(ParseCsv(bytes)), expected) << bytes.toStdString();
+  }
+}
+
+TEST(Csv, IsReadAsItWasWritten) {
+  const QStringList header{"name", "x"};
+  const QStringList cells[] = {{"A, b;", "\"c\"\nd"}, {"=SUM(A1)", "'-x"}, {" e ", "ü"}};
+  std::vector<QStringList> rows{header};
+  rows.insert(rows.end(), std::begin(cells), std::end(cells));
+  const QByteArray written = WriteCsv(rows);
+  EXPECT_TRUE(written.contains("'=SUM(A1)"));
+  const CsvTable table = ParseCsv(written);
+  ASSERT_EQ(table.rows.size(), 3U) << Described(table);
+  for (std::size_t i = 0; i < 3; ++i) EXPECT_EQ(table.rows[i].cells, cells[i]);
+}
+
+constexpr char kFile[] = R"({
+  "families": {"hall": {"model": "M 30", "dialogType": 5, "modelCode": 30}},
+  "projectors": [
+    {"name": "A", "like": "hall", "identity": "mac:00:00:5e:00:53:01", "x-mine": 1, "link": "pjlink",
+     "connection": {"network": {"address": "192.0.2.1", "port": 4352, "secret": "open"}}},
+    {"name": "B", "like": "hall", "connection": {"serial": {"port": 2}}}
+  ]
+})";
+
+TEST(ProfileCsv, TakesTheRowsThatAreRight) {
+  const CsvImport import = ImportCsv(
+      kFile,
+      "Name;IP Address;Port;Protocol;Model;MAC address;Building;Tags;Lamp life;Purchased\r\n"
+      "A2;192.0.2.9;;;;00-00-5E-00-53-01;3;lab | old;2000;2019\r\n"
+      "C;192.0.2.3;7240;wire;M 30;;;;;\r\n"
+      "D;pjlink://d.example:4400;;;X1;;;;;\r\n"
+      "E;192.0.2;;;;;;;;\r\n"
+      "F;192.0.2.4;;radio;;;;;;\r\n"
+      "A2;192.0.2.5;;;;00:00:5E:00:53:77;;;;\r\n"
+      ";192.0.2.6;;;;;;;;\r\n"
+      "G;;;;;;;;;\r\n"
+      "H;192.0.2.7;;;;;;;many;\r\n"
+      "B;;;;;;;spare;;\r\n");
+  EXPECT_EQ(import.error, "");
+  EXPECT_EQ(import.added, 2U);
+  EXPECT_EQ(import.changed, 2U);
+  EXPECT_THAT(import.unused, ElementsAre("Purchased"));
+  std::string faults;
+  for (const CsvFault& fault : import.faults) {
+    faults += std::to_string(fault.line) + ": " + fault.reason.toStdString() + '\n';
+  }
+  EXPECT_EQ(faults,
+            "5: no address '192.0.2'\n"
+            "6: \"radio\" is no link\n"
+            "7: \"A2\" is the name of another projector, with the identity mac:00:00:5e:00:53:01\n"
+            "8: \"name\" is missing\n"
+            "9: \"connection\" is missing\n"
+            "10: \"many\" is no number of hours\n");
+  const ProfileList list = ParseProfileList(import.text, "p.json");
+  ASSERT_EQ(list.error, "");
+  ASSERT_EQ(list.profiles.size(), 4U);
+  const FleetProfile& a = list.profiles[0];
+  EXPECT_EQ(a.name, "A2");
+  EXPECT_EQ(AddressOf(a), ProjectorAddress(PjLinkAddress{"192.0.2.9", 4352, "open"}));
+  EXPECT_THAT(a.tags, ElementsAre("3", "lab", "old"));
+  EXPECT_EQ(a.ratedLampHours, 2000);
+  EXPECT_TRUE(import.text.contains("\"x-mine\": 1, \"link\": \"pjlink\",\n"))
+      << "as it was written";
+  EXPECT_THAT(list.profiles[1].tags, ElementsAre("spare"));
+  EXPECT_EQ(AddressOf(list.profiles[2]), ProjectorAddress(TcpAddress{"192.0.2.3", 7240}));
+  EXPECT_EQ(list.profiles[2].model, a.model);
+  EXPECT_EQ(AddressOf(list.profiles[3]), ProjectorAddress(PjLinkAddress{"d.example", 4400, ""}));
+  EXPECT_EQ(list.profiles[3].model->info.ModelName, "X1");
+
+  const CsvImport nothing = ImportCsv(kFile, "title,x\nA,B\n");
+  EXPECT_EQ(nothing.error, "the header has no column \"name\"");
+  EXPECT_EQ(nothing.text, kFile);
+}
+
+TEST(ProfileCsv, WhatGoesOutComesInAgain) {
+  const ProfileList before = ParseProfileList(kFile, "p.json");
+  const QByteArray csv = ExportCsv(before.profiles);
+  EXPECT_FALSE(csv.contains("open")) << "a password";
+  const CsvImport same = ImportCsv(kFile, csv);
+  EXPECT_EQ(same.changed, 2U);
+  const ProfileList after = ParseProfileList(same.text, "p.json");
+  ASSERT_EQ(after.error, "");
+  EXPECT_EQ(AddressOf(after.profiles[0]), AddressOf(before.profiles[0]));
+
+  const CsvImport fresh = ImportCsv(ProfileEdits::kNoProfiles, csv);
+  EXPECT_EQ(fresh.added, 2U) << (fresh.faults.empty() ? "" : qPrintable(fresh.faults[0].reason));
+  EXPECT_EQ(ParseProfileList(fresh.text, "p.json").profiles[0].identity, "mac:00:00:5e:00:53:01");
+}
+
+}  // namespace

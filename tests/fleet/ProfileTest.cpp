@@ -1,0 +1,87 @@
+// Profiles as the fleet reads and edits them.
+
+#include <gmock/gmock.h>
+#include <string>
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <gtest/gtest.h>
+
+#include "fleet/ProfileEdits.h"
+#include "fleet/ProfileFile.h"
+
+namespace {
+
+using testing::ElementsAre;
+
+constexpr char kFile[] = R"({ "x-made by": "a person",
+  "families": {"hall": {"model": "M", "dialogType": 5, "modelCode": 30, "ratedLampHours": 3000,
+                        "tags": ["halls"]}},
+  "projectors": [
+    {"name": "A", "like": "hall", "identity": "serial:1", "snapshot": "day", "notes": "door left",
+     "connection": {"network": {"address": "192.0.2.1", "port": 4352}}, "link": "pjlink"},
+
+    {"tags": ["Building 3", "lab"], "name": "B", "like": "hall", "x-mine": [1, {"z": 2, "a": 1}],
+     "connection": {"serial": {"port": 2}}, "ratedLampHours": 2000 },
+    {"name": "C", "like": "hall", "modelCode": 31, "connection": {"serial": {"port": 3}}}
+  ] }
+)";
+
+TEST(Profile, HasWhatTheFleetKnowsOfAProjector) {
+  const ProfileList list = ParseProfileList(kFile, "p.json");
+  ASSERT_EQ(list.error, "");
+  ASSERT_EQ(list.profiles.size(), 3U);
+  const FleetProfile& a = list.profiles[0];
+  const FleetProfile& b = list.profiles[1];
+  EXPECT_EQ(FleetIdOf(a), "serial:1");
+  EXPECT_EQ(a.snapshot, "day");
+  EXPECT_EQ(a.notes, "door left");
+  EXPECT_THAT(a.tags, ElementsAre("halls"));
+  EXPECT_EQ(a.ratedLampHours, 3000);
+  EXPECT_EQ(AddressOf(a), ProjectorAddress(PjLinkAddress{"192.0.2.1", 4352, ""}));
+  EXPECT_EQ(FleetIdOf(b), "name:B");
+  EXPECT_THAT(b.tags, ElementsAre("Building 3", "lab"));
+  EXPECT_EQ(b.ratedLampHours, 2000);
+  EXPECT_EQ(a.model, b.model) << "shared by those that are described alike";
+  EXPECT_EQ(list.profiles[2].model->info.ModelCode, 31);
+}
+
+TEST(ProfileEdits, LeaveWhatAPersonWrote) {
+  ProfileEdits untouched(kFile);
+  EXPECT_EQ(untouched.Text(), kFile);
+
+  QByteArray expected = kFile;
+  expected.replace("\"192.0.2.1\"", "\"192.0.2.9\"").replace(", \"snapshot\": \"day\"", "");
+  expected.replace(R"("port": 3}}})", R"("port": 3}}},
+    {"name": "D", "like": "hall", "connection": {"serial": {"port": 1}}})");
+  ProfileEdits edits(kFile);
+  edits.Change(0, {{"connection", ConnectionValue({.address = "192.0.2.9", .port = 4352})},
+                   {"snapshot", QJsonValue::Undefined}});
+  edits.Add(
+      {{"name", "D"}, {"like", "hall"}, {"connection", ConnectionValue({.isNetwork = false})}});
+  EXPECT_EQ(edits.Text().toStdString(), expected.toStdString());
+  EXPECT_EQ(ParseProfileList(edits.Text(), "p.json").error, "");
+  edits.Remove(3);
+  edits.Remove(0);
+  edits.Remove(1);
+  const ProfileList last = ParseProfileList(edits.Text(), "p.json");
+  ASSERT_EQ(last.profiles.size(), 1U);
+  EXPECT_EQ(last.profiles[0].name, "C");
+}
+
+TEST(ProfileEdits, MakeAFileOfTenThousand) {
+  ProfileEdits edits(ProfileEdits::kNoProfiles);
+  for (int i = 0; i < 10'000; ++i) {
+    edits.Add({{"name", QString::number(i)},
+               {"model", "M"},
+               {"dialogType", 5},
+               {"modelCode", i % 2},
+               {"connection", ConnectionValue({.address = "192.0.2.1", .port = 4352})}});
+  }
+  const ProfileList list = ParseProfileList(edits.Text(), "p.json");
+  ASSERT_EQ(list.error, "");
+  ASSERT_EQ(list.profiles.size(), 10'000U);
+  EXPECT_EQ(list.profiles[9999].model, list.profiles[1].model);
+}
+
+}  // namespace

@@ -1,0 +1,238 @@
+// Projectors found on the network, and what becomes of them in a profile file.
+
+#include <algorithm>
+#include <chrono>
+#include <gmock/gmock.h>
+#include <map>
+#include <optional>
+#include <string>
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QTcpSocket>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+#include "fleet/ProfileEdits.h"
+#include "fleet/ProfileFile.h"
+#include "fleet/SearchDriver.h"
+#include "fleet/SearchProfiles.h"
+#include "fleet/SearchRange.h"
+#include "simulator/PjLinkProjectorSession.h"
+#include "simulator/SimulatedProjector.h"
+#include "tests/support/Programs.h"
+
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::SizeIs;
+
+struct RangeCase {
+  const char* text;
+  const char* expected;  // number, first and last address, or what is wrong
+};
+
+TEST(SearchRange, IsReadAsPeopleWriteIt) {
+  const RangeCase cases[] = {
+      {"192.0.2.7", "1 192.0.2.7 192.0.2.7"},
+      {"192.0.2.77/24", "254 192.0.2.1 192.0.2.254"},
+      {"192.0.2.8/30", "2 192.0.2.9 192.0.2.10"},
+      {"192.0.2.8/31", "2 192.0.2.8 192.0.2.9"},
+      {"192.0.2.8/32", "1 192.0.2.8 192.0.2.8"},
+      {"10.0.0.0/16", "65534 10.0.0.1 10.0.255.254"},
+      {"192.0.2.10 - 192.0.3.9", "256 192.0.2.10 192.0.3.9"},
+      {"192.0.2.10-12, 192.0.2.11;192.0.2.1\n", "4 192.0.2.1 192.0.2.12"},
+      {"0.0.0.0-255.255.255.255", "more than 65536 addresses"},
+      {"10.0.0.0/15", "more than 65536 addresses"},
+      {"0.0.0.0/0", "\"0.0.0.0/0\" is neither an IPv4 address nor a range of them"},
+      {"192.0.2.12-10", "\"192.0.2.12-10\" is neither"},
+      {"192.0.2.256", "\"192.0.2.256\" is neither"},
+      {"192.0.2", "\"192.0.2\" is neither"},
+      {"192.0.2.1/33", "\"192.0.2.1/33\" is neither"},
+      {"projector.example", "\"projector.example\" is neither"},
+  };
+  for (const auto& [text, expected] : cases) {
+    const SearchRange range = ParseSearchRange(text);
+    std::string told = range.error.toStdString();
+    if (told.empty()) {
+      told = std::to_string(range.addresses.size());
+      for (const std::uint32_t end : {range.addresses.front(), range.addresses.back()}) {
+        told += ' ' + QHostAddress(end).toString().toStdString();
+      }
+    }
+    EXPECT_THAT(told, HasSubstr(expected)) << text;
+  }
+}
+
+TEST(SearchAnswer, IsAMacNumber) {
+  EXPECT_EQ(ParseSearchAnswer("%2ACKN=00:00:5E:00:53:01\r"), "00:00:5e:00:53:01");
+  EXPECT_EQ(ParseSearchAnswer("%2ackn=00-00-5e-00-53-01\r\n"), "00:00:5e:00:53:01");
+  for (const char* other : {"", "%2SRCH\r", "%2ACKN=\r", "%2ACKN=00:00:5e:00:53\r",
+                            "%2ACKN=00:00:5e:00:53:0x\r", "%2LKUP=00:00:5e:00:53:01\r"}) {
+    EXPECT_EQ(ParseSearchAnswer(other), std::nullopt) << other;
+  }
+}
+
+// The whole of a conversation in memory.
+FoundProjector Inquire(const ServedProjector& served, const std::string& wanted,
+                       const std::string& given) {
+  SimulatedProjector projector;
+  PjLinkResponder responder(std::shared_ptr<ProjectorChannel>(&projector, [](auto*) {}), served);
+  std::optional<PjLinkProjectorSession> end;
+  SearchInquiry inquiry({.address = "192.0.2.1", .port = 4352}, given, {});
+  const PjLinkTime now{};
+  for (int steps = 0; steps < 200; ++steps) {
+    const PjLinkStep step = inquiry.Next(now);
+    switch (step.kind) {
+      case PjLinkStep::Kind::Finished:
+        EXPECT_TRUE(inquiry.HasFound());
+        return inquiry.Found();
+      case PjLinkStep::Kind::Connect:
+        end.emplace(responder, wanted);
+        inquiry.Connection().Connected();
+        inquiry.Connection().Received(end->Greeting(), now);
+        break;
+      case PjLinkStep::Kind::Send:
+        end->Add(step.bytes);
+        while (const auto exchange = end->Next()) inquiry.Connection().Received(exchange->reply, now);
+        break;
+      case PjLinkStep::Kind::Close:
+        break;
+      case PjLinkStep::Kind::Wait:
+        ADD_FAILURE() << "waits";
+        return inquiry.Found();
+    }
+  }
+  ADD_FAILURE() << "goes on for ever";
+  return inquiry.Found();
+}
+
+TEST(SearchInquiry, LearnsWhoAndWhatAProjectorIs) {
+  ServedProjector served{.inputs = {{"31", 3, "HDMI"}, {"5A", 4, "LAN"}}};
+  served.texts["NAME"] = "Hall";
+  served.texts["SNUM"] = "X-17";
+  FoundProjector found = Inquire(served, "open", "open");
+  EXPECT_EQ(found.name, "Hall");
+  EXPECT_EQ(found.maker, "Advanced Control");
+  EXPECT_EQ(found.model, "Simulation");
+  EXPECT_EQ(found.serial, "X-17");
+  EXPECT_EQ(found.protocolClass, '2');
+  EXPECT_THAT(found.inputs, ElementsAre(PjLinkInput{31, "HDMI"}, PjLinkInput{510, "LAN"}));
+
+  found = Inquire(served, "open", "");
+  EXPECT_TRUE(found.needsPassword);
+  EXPECT_EQ(found.name, "");
+
+  served.protocolClass = 1;
+  served.inputs.clear();
+  found = Inquire(served, "", "");
+  EXPECT_EQ(found.name + '/' + found.serial, "Hall/");
+  EXPECT_THAT(found.inputs, SizeIs(0));
+}
+
+constexpr char kFile[] = R"({
+  "families": {"hall": {"model": "M 30", "dialogType": 5, "modelCode": 30}},
+  "projectors": [
+    {"name": "By serial", "like": "hall", "identity": "serial:Maker/1", "x-mine": true,
+     "connection": {"network": {"address": "192.0.2.1", "port": 4352, "secret": "open"}}},
+    {"name": "By MAC", "like": "hall", "identity": "mac:00:00:5e:00:53:02",
+     "connection": {"network": {"address": "192.0.2.2", "port": 4352}}},
+    {"name": "By address", "like": "hall",
+     "connection": {"network": {"address": "192.0.2.3", "port": 4352}}},
+    {"name": "Hall", "like": "hall",
+     "connection": {"serial": {"port": 1}}}
+  ]
+})";
+
+FoundProjector At(const char* address, const char* name, const char* serial, const char* mac = "") {
+  return {.address = address,
+          .port = 4352,
+          .mac = mac,
+          .name = name,
+          .maker = "Maker",
+          .model = "M 30",
+          .serial = serial};
+}
+
+TEST(SearchProfiles, KnowProjectorsAgainByTheirIdentity) {
+  const TakenProjectors taken = TakeFound(
+      kFile,
+      {At("192.0.2.2", "A", "1"),                          // moved to where another one was
+       At("192.0.2.9", "B", "7", "00:00:5e:00:53:02"),     // moved, known by its second identity
+       At("192.0.2.3", "C", "3"),                          // gets its identity
+       At("192.0.2.4", "Hall", "4"),                       // new, with a name that is taken
+       At("192.0.2.5", "", "0000"),                        // new, and tells nothing
+       At("192.0.2.6", "D", "same", "00:00:5e:00:53:06"),  // of a maker that numbers nothing
+       At("192.0.2.7", "E", "same", "00:00:5e:00:53:07")},
+      "secret");
+  EXPECT_THAT(taken.moved, ElementsAre("By serial", "By MAC"));
+  EXPECT_EQ(taken.known, 1U);
+  EXPECT_THAT(taken.added, ElementsAre("Hall (2)", "M 30 192.0.2.5", "D", "E"));
+  const ProfileList list = ParseProfileList(taken.text, "p.json");
+  ASSERT_EQ(list.error, "");
+  ASSERT_THAT(list.profiles, SizeIs(8));
+  EXPECT_EQ(list.profiles[0].connection.address, "192.0.2.2");
+  EXPECT_EQ(list.profiles[0].connection.secret, "open");
+  EXPECT_EQ(list.profiles[1].connection.address, "192.0.2.9");
+  EXPECT_EQ(list.profiles[2].identity, "serial:Maker/3");
+  const FleetProfile& added = list.profiles[4];
+  EXPECT_EQ(AddressOf(added), ProjectorAddress(PjLinkAddress{"192.0.2.4", 4352, "secret"}));
+  EXPECT_EQ(added.identity, "serial:Maker/4");
+  EXPECT_EQ(added.model->info.ModelCode, 30);
+  EXPECT_THAT(list.profiles[5].identity, testing::StartsWith("id:"));
+  EXPECT_EQ(list.profiles[7].identity, "mac:00:00:5e:00:53:07");
+  EXPECT_TRUE(taken.text.contains("\"x-mine\": true"));
+
+  EXPECT_EQ(TakeFound(kFile, {At("192.0.2.1", "A", "1")}, "").text, kFile) << "nothing new";
+}
+
+// The simulator program answers, at loopback addresses alone.
+TEST(SearchDriver, FindsAFleetByRangeAndByBroadcast) {
+  constexpr std::size_t kCount = 20;
+  int count = 0;
+  QCoreApplication application(count, nullptr);
+  const SimulatorProcess simulator({"--fleet", QString::number(kCount), "--control", "0"});
+  SearchOptions options;
+  options.port = simulator.Address("pjlink").section(':', -1).toUShort();
+  options.answerPort = 0;
+  options.answers = std::chrono::seconds(60);
+  options.limits = {.connect = std::chrono::seconds(30), .answer = std::chrono::seconds(30)};
+  // Ends with so many, or with the search.
+  const auto search = [&](std::size_t wanted) {
+    std::map<std::string, FoundProjector> found;
+    QEventLoop loop;
+    SearchDriver driver(
+        options,
+        [&](const FoundProjector& projector) {
+          found[projector.address] = projector;
+          if (found.size() == wanted) loop.quit();
+        },
+        [&] { loop.quit(); });
+    driver.Start();
+    loop.exec();
+    EXPECT_EQ(driver.Problem(), "");
+    return found;
+  };
+  options.addresses = ParseSearchRange("127.64.0.1-127.64.0.20").addresses;
+  options.perSecond = 50;
+  const auto start = std::chrono::steady_clock::now();
+  const auto byRange = search(kCount + 1);
+  EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(350));
+  ASSERT_THAT(byRange, SizeIs(kCount));
+  const auto isSecond = [](const auto& found) { return found.second.protocolClass == '2'; };
+  const auto ofSecondClass = std::ranges::count_if(byRange, isSecond);
+  options.addresses.clear();
+  options.broadcasts = {QHostAddress("127.255.255.255")};
+  const auto byBroadcast = search(static_cast<std::size_t>(ofSecondClass));
+  for (const auto& [address, found] : byRange) {
+    const auto same = byBroadcast.find(address);
+    EXPECT_EQ(same != byBroadcast.end(), found.protocolClass == '2') << address;
+    if (same == byBroadcast.end()) continue;
+    EXPECT_EQ(same->second.serial, found.serial);
+    EXPECT_EQ(same->second.inputs, found.inputs);
+    EXPECT_THAT(same->second.mac, HasSubstr("02:00:00:00:00:"));
+  }
+}
+
+}  // namespace

@@ -1,0 +1,196 @@
+// The simulator as a process that serves many projectors.
+
+#include <algorithm>
+#include <gmock/gmock.h>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+
+#include <QTcpSocket>
+#include <QUdpSocket>
+#include <gtest/gtest.h>
+
+#include "tests/support/Programs.h"
+
+namespace {
+
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::MatchesRegex;
+
+constexpr int kTimeOut = 20'000;
+constexpr std::size_t kCount = 40;
+
+class FleetSimulator : public testing::Test {
+ protected:
+  void Start(const QStringList& more) {
+    simulator_.reset();
+    simulator_.emplace(QStringList{"--fleet", QString::number(kCount), "--control", "0"} + more);
+    port_ = simulator_->Address("pjlink").section(':', -1).toUShort();
+    control_.abort();
+    control_.connectToHost(QHostAddress::LocalHost,
+                           simulator_->Address("control").section(':', 1).toUShort());
+    ASSERT_TRUE(control_.waitForConnected());
+  }
+
+  std::string Control(const QByteArray& line) {
+    control_.write(line + '\n');
+    EXPECT_TRUE(control_.waitForReadyRead(kTimeOut));
+    return control_.readLine().trimmed().toStdString();
+  }
+
+  static QHostAddress AddressOf(std::size_t projector) {
+    return QHostAddress(0x7F400001U + static_cast<quint32>(projector));
+  }
+
+  /// What follows the greeting, "-" where the connection ends or nothing comes.
+  std::string Ask(const QHostAddress& address, const QByteArray& request) {
+    QTcpSocket socket;
+    socket.connectToHost(address, port_);
+    const auto line = [&] {
+      while (!socket.canReadLine() && !socket.peek(200).contains('\r')) {
+        if (!socket.waitForReadyRead(kTimeOut)) return std::string("-");
+      }
+      std::string text;
+      for (char c = 0; socket.getChar(&c) && c != '\r';) text += c;
+      return text;
+    };
+    if (line() != "PJLINK 0") return "-";
+    socket.write(request + '\r');
+    return line();
+  }
+
+  std::optional<SimulatorProcess> simulator_;
+  std::uint16_t port_ = 0;
+  QTcpSocket control_;
+};
+
+TEST_F(FleetSimulator, ProjectorsDifferAndAreTheSameForTheSameSeed) {
+  const auto everything = [this] {
+    std::vector<std::string> all;
+    for (std::size_t i = 0; i < kCount; ++i) {
+      for (const char* question : {"NAME", "CLSS", "POWR", "ERST", "LAMP"}) {
+        all.push_back(Ask(AddressOf(i), QByteArray("%1") + question + " ?"));
+      }
+    }
+    return all;
+  };
+  Start({});
+  const auto first = everything();
+  EXPECT_EQ(first[0], "%1NAME=Projector 00001");
+  for (const char* some : {"%1CLSS=1", "%1CLSS=2", "%1POWR=0", "%1POWR=1", "%1ERST=000000"}) {
+    EXPECT_THAT(first, testing::Contains(some));
+  }
+  EXPECT_THAT(first, testing::Contains(MatchesRegex("%1ERST=.*[12].*")));
+  EXPECT_GT(std::set(first.begin(), first.end()).size(), 60U) << "lamps differ";
+  EXPECT_EQ(Control("* count"),
+            "connections 200 open 0 at-once 1 requests 200 changes 0 polls 40 "
+            "pause -");
+  Start({});
+  EXPECT_EQ(everything(), first);
+  Start({"--seed", "2"});
+  EXPECT_NE(everything(), first);
+}
+
+TEST_F(FleetSimulator, AnswersOnTheWireToo) {
+  Start({});
+  QTcpSocket wire;
+  wire.connectToHost(AddressOf(6), simulator_->Address("tcp").section(':', -1).toUShort());
+  const auto exchange = [&wire](const char* sent, qsizetype size) {
+    wire.write(QByteArray::fromHex(sent));
+    while (wire.bytesAvailable() < size && wire.waitForReadyRead(kTimeOut)) continue;
+    return wire.read(size).toHex().toStdString();
+  };
+  EXPECT_EQ(exchange("a55a010200010101b7a1", 9), "a55a0201000101cd15");
+  const char* const question =
+      "a55a0308000200d320030000000004"
+      "70";  // Brightness
+  EXPECT_EQ(exchange(question, 15),
+            "a55a0407000200000000010080"
+            "40cf");
+  EXPECT_EQ(Control("7 refuse"), "ok");
+  EXPECT_THAT(exchange(question, 15), testing::StartsWith("a55a0407000200000000000000"));
+  EXPECT_EQ(Control("7 count"),
+            "connections 1 open 1 at-once 1 requests 2 changes 0 polls 0 pause -");
+}
+
+TEST_F(FleetSimulator, AShareHasAFault) {
+  Start({"--fault", "refuse 5%", "--fault", "cut 9 10%"});
+  std::map<std::string, int> answers;
+  for (std::size_t i = 0; i < kCount; ++i) {
+    const std::string answer = Ask(AddressOf(i), "%1LAMP ?");
+    ++answers[answer == "%1LAMP=ERR1" || answer == "-" ? answer : "hours"];
+  }
+  EXPECT_EQ(answers, (std::map<std::string, int>{{"-", 4}, {"%1LAMP=ERR1", 2}, {"hours", 34}}));
+  EXPECT_EQ(Control("3 silent 5%"), Control("3 silence")) << "a share of one";
+  EXPECT_EQ(Control("* none"), "ok");
+  EXPECT_EQ(Control("4 refuse"), "ok");
+  EXPECT_EQ(Ask(AddressOf(3), "%1POWR ?"), "%1POWR=ERR1");
+  EXPECT_EQ(Ask(AddressOf(4), "%1INF1 ?"), "%1INF1=Advanced Control");
+}
+
+TEST_F(FleetSimulator, SwitchingTakesTimeAndNoticesTellOfIt) {
+  QUdpSocket listener;
+  ASSERT_TRUE(listener.bind(QHostAddress::LocalHost, 0));
+  Start({"--warm-up", "0.3", "--notices", QString("127.0.0.1:%1").arg(listener.localPort())});
+  std::map<quint32, std::string> told;
+  const auto wait = [&](quint32 from, const char* notice) {
+    while (told[from].find(notice) == std::string::npos && listener.waitForReadyRead(kTimeOut)) {
+      while (listener.hasPendingDatagrams()) {
+        QByteArray text(200, '\0');
+        QHostAddress sender;
+        text.truncate(listener.readDatagram(text.data(), text.size(), &sender));
+        told[sender.toIPv4Address()] += text.toStdString();
+      }
+    }
+    return told[from];
+  };
+  std::size_t second = 0;  // of class 2 and in standby
+  while (Ask(AddressOf(second), "%1CLSS ?") != "%1CLSS=2" ||
+         Ask(AddressOf(second), "%1POWR ?") != "%1POWR=0") {
+    ASSERT_LT(++second, kCount);
+  }
+  const quint32 from = AddressOf(second).toIPv4Address();
+  EXPECT_THAT(wait(from, "%2POWR=0\r"), HasSubstr("%2LKUP=02:00:00:00:00:"));
+  EXPECT_EQ(Ask(AddressOf(second), "%1POWR 1"), "%1POWR=OK");
+  EXPECT_THAT(wait(from, "%2POWR=1\r"), HasSubstr("%2POWR=3\r"));
+  EXPECT_EQ(Ask(AddressOf(second), "%1POWR ?"), "%1POWR=1");
+  EXPECT_EQ(Control(QByteArray::number(qulonglong(second + 1)) + " errors 020100"), "ok");
+  EXPECT_THAT(wait(from, "%2ERST=020100\r"), EndsWith("%2ERST=020100\r"));
+}
+
+TEST_F(FleetSimulator, IsFoundByASearchAndMayMove) {
+  Start({});
+  QUdpSocket asker;
+  ASSERT_TRUE(asker.bind(QHostAddress::LocalHost, 0));
+  const auto found = [&](const QHostAddress& to, std::size_t wanted) {
+    asker.writeDatagram("%2SRCH\r", to, port_);
+    std::map<quint32, std::string> answers;
+    while (answers.size() < wanted && asker.waitForReadyRead(kTimeOut)) {
+      while (asker.hasPendingDatagrams()) {
+        QByteArray text(200, '\0');
+        QHostAddress sender;
+        text.truncate(asker.readDatagram(text.data(), text.size(), &sender));
+        answers[sender.toIPv4Address()] = text.toStdString();
+      }
+    }
+    return answers;
+  };
+  std::size_t ofSecondClass = 0, one = 0;
+  for (std::size_t i = 0; i < kCount; ++i) {
+    if (Ask(AddressOf(i), "%1CLSS ?") == "%1CLSS=2") one = i, ++ofSecondClass;
+  }
+  const auto answers = found(QHostAddress("127.255.255.255"), ofSecondClass);
+  EXPECT_EQ(answers.size(), ofSecondClass);
+  const quint32 address = AddressOf(one).toIPv4Address();
+  const std::string itself = answers.at(address);
+  EXPECT_THAT(itself, MatchesRegex("%2ACKN=02:00:00:00:00:..\r"));
+  const QByteArray number = QByteArray::number(qulonglong(one + 1));
+  EXPECT_EQ(Control(number + " address 127.64.9.9"), "ok");
+  EXPECT_EQ(Ask(AddressOf(one), "%1CLSS ?"), "-");
+  EXPECT_EQ(found(QHostAddress("127.64.9.9"), 1).begin()->second, itself);
+  EXPECT_EQ(Control(number + " address 127.64.0.1"), "error: another projector has 127.64.0.1");
+}
+
+}  // namespace

@@ -4,8 +4,8 @@
 #include <numeric>
 
 #include "app/acctl/Uses.h"
-#include "fleet/JsonLines.h"
 #include "device/ModelDataIntake.h"
+#include "fleet/JsonLines.h"
 
 namespace {
 

@@ -95,7 +95,8 @@ FoundProjector Inquire(const ServedProjector& served, const std::string& wanted,
         break;
       case PjLinkStep::Kind::Send:
         end->Add(step.bytes);
-        while (const auto exchange = end->Next()) inquiry.Connection().Received(exchange->reply, now);
+        while (const auto exchange = end->Next())
+          inquiry.Connection().Received(exchange->reply, now);
         break;
       case PjLinkStep::Kind::Close:
         break;

@@ -6,8 +6,8 @@
 #include <QCoreApplication>
 #include <QJsonObject>
 
-#include "fleet/JsonEdit.h"
 #include "app/profiles/ProfileFile.h"
+#include "fleet/JsonEdit.h"
 
 /// The profile file that the program uses, and changes to it. Each change is written at once as a
 /// whole file that keeps the user's formatting. If another program has changed the file meanwhile,

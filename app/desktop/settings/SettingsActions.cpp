@@ -11,8 +11,8 @@
 #include "app/desktop/projectors/ProjectorSession.h"
 #include "app/desktop/settings/RetryAfterSilenceChannel.h"
 #include "app/profiles/SettingsFile.h"
-#include "fleet/WholeFile.h"
 #include "device/ModelDataIntake.h"
+#include "fleet/WholeFile.h"
 #include "i18n/Catalog.h"
 #include "i18n/SystemLanguage.h"
 

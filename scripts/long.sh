@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # What takes too long for every change: fuzzing on the kept corpus, random walks over the host application and the
-# dialogs of every model, and kills of both ends. Adds a line to the table in docs/reliability.md.
+# dialogs of every model, kills of both ends, and clang-tidy over everything. Adds a line to the table in docs/reliability.md.
 # Usage: scripts/long.sh [time, such as 2h or 20m]
 #
 # A third of the time goes to each. The sanitizers watch the walks; PRESET=dev takes another build. What was found is
@@ -54,6 +54,12 @@ done
 echo "Killing for $part s"
 if ! kills=$(scripts/kills.py "$bin" "$part" "$seed" 2>"$logs/kills.log"); then
   findings+=("kills: scripts/kills.py $bin $part $seed, and $logs/kills.log")
+fi
+
+echo "clang-tidy over everything"
+if ! (cmake --preset release -B build/check -DADVANCEDCONTROL_TESTS=OFF >/dev/null && cmake --build build/check &&
+      scripts/tidy.py build/check) >"$logs/tidy.log" 2>&1; then
+  findings+=("clang-tidy: scripts/tidy.py build/check, and $logs/tidy.log")
 fi
 
 said=none

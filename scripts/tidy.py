@@ -1,5 +1,7 @@
 #!/usr/bin/env python3
-"""clang-tidy over the code of a configured build: scripts/tidy.py BUILD_FOLDER [FILE...].
+"""clang-tidy over the code of a configured build: scripts/tidy.py BUILD_FOLDER [--since COMMIT | FILE...].
+
+With --since, only over the files that were changed since the commit, or whose header was.
 
 Most of its time goes into the headers that the files share. So a few files of a folder are looked
 at as if they were one. Where that finds anything, also that they do not go together, each of them
@@ -62,11 +64,25 @@ def tidy_together(number, files, commands, build):
     return "".join(found.stdout or found.stderr for found in alone if found.returncode != 0)
 
 
+def changed_since(commit, files):
+    """Those of the files that were changed since the commit; all if the clone does not reach back so far."""
+    diff = subprocess.run(["git", "diff", "--name-only", commit, "--", "src", "app"], cwd=ROOT,
+                          capture_output=True, text=True)
+    if diff.returncode != 0:
+        return files
+    stems = {os.path.splitext(name)[0] for name in diff.stdout.split()}
+    return [name for name in files if os.path.splitext(name)[0] in stems]
+
+
 def main():
     build = Path(sys.argv[1]).resolve()
     (build / "tidy").mkdir(exist_ok=True)
     commands = read_commands(build)
-    files = sys.argv[2:] or sorted(name for name in commands if name.startswith(("src/", "app/")))
+    files = sorted(name for name in commands if name.startswith(("src/", "app/")))
+    if sys.argv[2:3] == ["--since"]:
+        files = changed_since(sys.argv[3], files)
+    elif sys.argv[2:]:
+        files = sys.argv[2:]
     with ThreadPoolExecutor(os.cpu_count()) as pool:
         found = "".join(pool.map(lambda job: tidy_together(*job, commands, build),
                                  enumerate(batches(files))))

@@ -47,7 +47,9 @@ def batches(files):
 
 
 def tidy(file, *arguments):
-    return subprocess.run(["clang-tidy", "--quiet", file, *arguments], cwd=ROOT,
+    # src/Namespace.h alone says whether the namespace is inline.
+    quiet = "--extra-arg=-Wno-inline-namespace-reopened-noninline"
+    return subprocess.run(["clang-tidy", "--quiet", quiet, file, *arguments], cwd=ROOT,
                           capture_output=True, text=True)
 
 

@@ -74,9 +74,9 @@ class Talk {
     for (auto question = inputs.Next(); question; question = inputs.Next()) {
       session_.Begin(*question, now_);
       Finish();
-      if (!inputs.Take(session_.Told())) break;
+      if (!inputs.Take(session_.Result())) break;
     }
-    Check(SourcesOf(inputs.Known()).count <= SourceList::kCapacity);
+    Check(SourcesOf(inputs.Known(), InputCodes::AllNames).count <= SourceList::kCapacity);
   }
 
  private:

@@ -28,7 +28,7 @@ bool HasGreeted(const ProjectorChannel& channel) {
 }  // namespace
 
 ProjectorAccess::ProjectorAccess(const ProjectorProfile& profile,
-                                 std::shared_ptr<ProjectorChannel> channel,
+                                 const std::shared_ptr<ProjectorChannel>& channel,
                                  std::chrono::milliseconds timeOut)
     : name_(profile.Name),
       model_(profile.Model),

@@ -27,7 +27,7 @@ enum class InputsNeeded {
 class ProjectorAccess {
  public:
   /// `timeOut` is that of the channel, for one answer.
-  ProjectorAccess(const ProjectorProfile& profile, std::shared_ptr<ProjectorChannel> channel,
+  ProjectorAccess(const ProjectorProfile& profile, const std::shared_ptr<ProjectorChannel>& channel,
                   std::chrono::milliseconds timeOut = std::chrono::seconds(2));
 
   ~ProjectorAccess();

@@ -5,6 +5,7 @@
 #include <string>
 
 #include <QCoreApplication>
+#include <QNetworkProxy>
 #include <QUdpSocket>
 #include <gtest/gtest.h>
 
@@ -72,6 +73,7 @@ TEST_F(FleetTest, AsksWhoSendsNotices) {
   EXPECT_EQ(fleet.ListenForNotices("127.0.0.1", port), 0) << "it is taken";
   ASSERT_TRUE(Becomes([&] { return slow.Tally().answered == 1; }));
   QUdpSocket projector;
+  projector.setProxy(QNetworkProxy::NoProxy);  // looking for one takes a thread
   const auto send = [&](const QByteArray& text) {
     projector.writeDatagram(text, QHostAddress::LocalHost, port);
   };

@@ -333,29 +333,4 @@ TEST(FleetWatcher, TellsTheTruthOfFiveHundredAndIsPolite) {
   EXPECT_EQ(tally.begun, tally.answered + tally.unanswered + tally.abandoned);
 }
 
-TEST(FleetWatcher, AsksASilentOneLessAndLess) {
-  SteppedFleet fleet;
-  Projector& it = fleet.Add("a");
-  it.isThere = false;
-  fleet.RunFor(2h);
-  std::vector<double> minutes;
-  for (std::size_t i = 1; i < it.connections.size(); ++i) {
-    minutes.push_back(
-        std::chrono::duration<double, std::ratio<60>>(it.connections[i] - it.connections[i - 1])
-            .count());
-  }
-  ASSERT_GE(minutes.size(), 10);
-  const double least[] = {1, 2, 4, 8, 10, 10};
-  for (std::size_t i = 0; i < std::size(least); ++i) {
-    EXPECT_GE(minutes[i], least[i]);
-    EXPECT_LE(minutes[i], least[i] * (1 + kPolicy.jitter));
-  }
-  it.isThere = true;
-  fleet.RunFor(12min);
-  EXPECT_EQ(fleet.State("a").reachability, Reachability::Answers);
-  const auto asked = it.connections.size();
-  fleet.RunFor(10min);
-  EXPECT_GE(it.connections.size(), asked + 9) << "as usual again";
-}
-
 }  // namespace

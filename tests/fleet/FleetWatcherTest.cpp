@@ -13,8 +13,6 @@ namespace {
 using namespace std::chrono_literals;
 using Projector = SteppedFleet::Projector;
 
-const FleetPolicy kPolicy;
-
 /// What a list or a script would show of a state.
 std::string Words(const LiveState& state) {
   static constexpr std::array kReached{"never asked", "answers", "silent", "wrong password",

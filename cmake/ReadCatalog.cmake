@@ -1,0 +1,152 @@
+# Reads the message catalog's sources for a script, which sets before including this file:
+#   CATALOG_DIR        the folder of the sources
+#   CATALOG_LANGUAGES  the languages to read besides English, named as their files are: "de" is de.po
+#
+# Sets
+#   CATALOG_CATEGORY_<facility>      the category: the facility of prologue.mc without 256
+#   CATALOG_KEYS                     all entries as "<facility>_<number>", in the order of the sources
+#   CATALOG_TEXT_en_<key>            the English text
+#   CATALOG_NOTES_<key>              the comments for translators, each line with its line break
+#   CATALOG_TEXT_<language>_<key>    the translation; not set if there is none or it is not current
+#   CATALOG_OLD_<language>_<key>     a translation that is not current, because it is marked as fuzzy
+#                                    or the English text has changed since
+#   CATALOG_SOURCE_<language>_<key>  the English text that it translates
+#   CATALOG_HEADER_<language>        the file's first entry, as it is there
+#   CATALOG_IDENTIFIERS_<language>   the system's language identifiers that the file names
+#   CATALOG_PROBLEMS                 what is wrong, a line each
+#
+# In texts, ";" is "<sc>", "[" is "<lb>" and "]" is "<rb>"; catalog_text() puts them back.
+
+set(CATALOG_PROBLEMS "")
+set(CATALOG_KEYS "")
+
+macro(catalog_problem text)
+  string(APPEND CATALOG_PROBLEMS "\n  ${text}")
+endmacro()
+
+# The lines of a file as a list.
+macro(catalog_lines file result)
+  file(READ "${file}" ${result})
+  string(REPLACE "\r\n" "\n" ${result} "${${result}}")
+  string(REPLACE ";" "<sc>" ${result} "${${result}}")
+  string(REPLACE "[" "<lb>" ${result} "${${result}}")
+  string(REPLACE "]" "<rb>" ${result} "${${result}}")
+  string(REPLACE "\n" ";" ${result} "${${result}}")
+endmacro()
+
+function(catalog_text result text)
+  string(REPLACE "<sc>" ";" text "${text}")
+  string(REPLACE "<lb>" "[" text "${text}")
+  string(REPLACE "<rb>" "]" text "${text}")
+  set(${result} "${text}" PARENT_SCOPE)
+endfunction()
+
+file(READ "${CATALOG_DIR}/prologue.mc" CATALOG_PROLOGUE)
+string(REGEX MATCH "FacilityNames=\\([^)]*\\)" facilities "${CATALOG_PROLOGUE}")
+string(REGEX MATCHALL "[A-Za-z]+=0x[0-9A-Fa-f]+" facilities "${facilities}")
+if(NOT facilities)
+  message(FATAL_ERROR "${CATALOG_DIR}/prologue.mc names no facilities")
+endif()
+foreach(facility IN LISTS facilities)
+  string(REGEX MATCH "^(.*)=(.*)$" facility "${facility}")
+  math(EXPR CATALOG_CATEGORY_${CMAKE_MATCH_1} "${CMAKE_MATCH_2} - 256")
+endforeach()
+
+# English. A text is one line.
+foreach(source captions lists errors)
+  catalog_lines("${CATALOG_DIR}/${source}.mc" lines)
+  set(notes "")
+  set(number "")
+  set(key "")
+  set(state entry)
+  foreach(line IN LISTS lines)
+    if(state STREQUAL "text")
+      if(line MATCHES "^\\.?$")
+        catalog_problem("${source}.mc: ${number} has an empty text")
+      endif()
+      set(CATALOG_TEXT_en_${key} "${line}")
+      set(state end)
+    elseif(state STREQUAL "end")
+      if(NOT line STREQUAL ".")
+        catalog_problem("${source}.mc: the text of ${number} has no end, or more than one line")
+      endif()
+      set(state entry)
+    elseif(line MATCHES "^<sc>// ?(.*)$")
+      string(APPEND notes "${CMAKE_MATCH_1}\n")
+    elseif(line STREQUAL "")
+      set(notes "")
+    elseif(line MATCHES "^MessageId=([0-9]+)$")
+      set(number ${CMAKE_MATCH_1})
+      set(key "")
+    elseif(number AND line MATCHES "^Facility=(Captions|Lists|Errors)$")
+      set(key ${CMAKE_MATCH_1}_${number})
+      if(DEFINED CATALOG_TEXT_en_${key})
+        catalog_problem("${source}.mc: ${number} is there twice")
+      else()
+        list(APPEND CATALOG_KEYS ${key})
+      endif()
+      set(CATALOG_NOTES_${key} "${notes}")
+      set(notes "")
+    elseif(key AND line STREQUAL "Language=English")
+      set(state text)
+    else()
+      catalog_problem("${source}.mc: \"${line}\" is not understood (after ${number})")
+    endif()
+  endforeach()
+endforeach()
+
+# Stores the entry of which the fields have been read.
+macro(store_entry)
+  if(msgctxt MATCHES "^([A-Za-z]+) ([0-9]+)$")
+    set(key ${CMAKE_MATCH_1}_${CMAKE_MATCH_2})
+    string(REPLACE "\\\"" "\"" msgid "${msgid}")
+    string(REPLACE "\\\"" "\"" msgstr "${msgstr}")
+    set(CATALOG_SOURCE_${language}_${key} "${msgid}")
+    if(DEFINED CATALOG_TEXT_${language}_${key} OR DEFINED CATALOG_OLD_${language}_${key})
+      catalog_problem("${language}.po: ${msgctxt} is there twice")
+    elseif(NOT DEFINED CATALOG_TEXT_en_${key})
+      catalog_problem("${language}.po: there is no ${msgctxt}")
+    elseif(msgstr STREQUAL "")
+    elseif(fuzzy OR NOT msgid STREQUAL CATALOG_TEXT_en_${key})
+      set(CATALOG_OLD_${language}_${key} "${msgstr}")
+    else()
+      set(CATALOG_TEXT_${language}_${key} "${msgstr}")
+    endif()
+  elseif(DEFINED msgstr AND NOT DEFINED CATALOG_IDENTIFIERS_${language})
+    string(REGEX MATCH "X-Language-Identifiers:([ 0-9]+)" identifiers "${msgstr}")
+    string(REGEX MATCHALL "[0-9]+" CATALOG_IDENTIFIERS_${language} "${CMAKE_MATCH_1}")
+    catalog_text(CATALOG_HEADER_${language} "${entry}")
+  elseif(DEFINED msgstr)
+    catalog_problem("${language}.po: \"${msgid}\" has no number")
+  endif()
+endmacro()
+
+foreach(language IN LISTS CATALOG_LANGUAGES)
+  catalog_lines("${CATALOG_DIR}/${language}.po" lines)
+  list(APPEND lines "")
+  set(entry "")
+  foreach(line IN LISTS lines)
+    if(line STREQUAL "")
+      store_entry()
+      foreach(field msgctxt msgid msgstr fuzzy)
+        unset(${field})
+      endforeach()
+      set(entry "")
+      continue()
+    endif()
+    string(APPEND entry "${line}\n")
+    if(line MATCHES "^(msgctxt|msgid|msgstr) \"(.*)\"$")
+      set(field ${CMAKE_MATCH_1})
+      set(${field} "${CMAKE_MATCH_2}")
+    elseif(DEFINED field AND line MATCHES "^\"(.*)\"$")
+      string(APPEND ${field} "${CMAKE_MATCH_1}")
+    elseif(line MATCHES "^#,.* fuzzy")
+      set(fuzzy ON)
+    elseif(NOT line MATCHES "^#")
+      catalog_problem("${language}.po: \"${line}\" is not understood")
+    endif()
+  endforeach()
+  if(NOT CATALOG_IDENTIFIERS_${language})
+    catalog_problem("${language}.po: the header has no X-Language-Identifiers")
+  endif()
+endforeach()

@@ -164,6 +164,15 @@ void ReleaseCatalog() { LoadedCatalog().reset(); }
 
 bool IsCatalogLoaded() { return LoadedCatalog().has_value(); }
 
+std::uint32_t ShownLanguageId() {
+  const auto& catalog = LoadedCatalog();
+  if (!catalog) return kEnglishUnitedStates;
+  const std::uint32_t language = SystemLanguageId();
+  const bool hasMarker = MarkerExists(kChineseMarker) || MarkerExists(kEnglishMarker);
+  if (catalog->HasLanguage(language) && !hasMarker) return language;
+  return catalog->HasLanguage(kChineseSimplified) ? kChineseSimplified : kEnglishUnitedStates;
+}
+
 void GetCatalogText(int category, int number, int bufferSize, char* buffer) {
   GetCatalogTextV(category, number, bufferSize, buffer, {});
 }

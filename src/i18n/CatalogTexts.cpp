@@ -1,5 +1,6 @@
 #include "i18n/CatalogTexts.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <system_error>
 #include <utility>
@@ -34,6 +35,18 @@ std::optional<std::string> CatalogTexts::Find(std::uint32_t languageId, int cate
     return text;
   }
   return {};
+}
+
+std::vector<MessageTable::Language> CatalogTexts::Languages() const {
+  std::vector<MessageTable::Language> all;
+  for (const MessageCatalog& module : modules_) {
+    for (const MessageTable::Language& language : module.Languages()) {
+      if (std::ranges::find(all, language.id, &MessageTable::Language::id) == all.end()) {
+        all.push_back(language);
+      }
+    }
+  }
+  return all;
 }
 
 }  // namespace AdvancedControl

@@ -89,8 +89,8 @@ CommandLine ParseCommandLine(const QStringList& arguments) {
     return line;
   };
   if (parser.isSet(language)) {
-    line.language = FindLanguage(CatalogLanguages(CatalogFolders()),
-                                 parser.value(language).toStdString());
+    line.language =
+        FindLanguage(CatalogLanguages(CatalogFolders()), parser.value(language).toStdString());
     if (!line.language) {
       return wrong(
           CommandLine::tr("--language: there are no texts in '%1'.").arg(parser.value(language)));

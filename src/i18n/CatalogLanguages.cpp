@@ -22,16 +22,19 @@ constexpr std::uint32_t kChineseSingapore = 4100;
 
 using Buffer = std::array<char, ULOC_FULLNAME_CAPACITY>;
 
-// "de_DE" for 1031.
+// Language and region: "de_DE" for 1031, "zh_TW" for 1028.
 std::string LocaleName(std::uint32_t languageId) {
   if (languageId == kPseudo) return "qps_PLOC";
   if (languageId == kPseudoMirrored) return "qps_PLOCM";
-  Buffer name{};
+  Buffer locale{};
+  Buffer language{};
+  Buffer region{};
   UErrorCode error = U_ZERO_ERROR;
-  uloc_getLocaleForLCID(languageId, name.data(), ULOC_FULLNAME_CAPACITY, &error);
+  uloc_getLocaleForLCID(languageId, locale.data(), ULOC_FULLNAME_CAPACITY, &error);
+  uloc_getLanguage(locale.data(), language.data(), ULOC_FULLNAME_CAPACITY, &error);
+  uloc_getCountry(locale.data(), region.data(), ULOC_FULLNAME_CAPACITY, &error);
   if (U_FAILURE(error)) return "en_US";
-  const std::string whole = name.data();
-  return whole.substr(0, whole.find('@'));  // a sort order
+  return std::string(language.data()) + (region[0] != 0 ? "_" : "") + region.data();
 }
 
 std::string LanguagePart(const std::string& locale) { return locale.substr(0, locale.find('_')); }
@@ -52,8 +55,8 @@ std::string DisplayName(const std::string& locale, const std::string& in, bool w
   ULocaleDisplayNames* const names =
       uldn_openForContext(in.c_str(), contexts.data(), std::ssize(contexts), &error);
   std::array<char16_t, 128> name{};
-  const std::int32_t length = uldn_localeDisplayName(names, shown.c_str(), name.data(),
-                                                     std::ssize(name), &error);
+  const std::int32_t length =
+      uldn_localeDisplayName(names, shown.c_str(), name.data(), std::ssize(name), &error);
   uldn_close(names);
   return U_FAILURE(error) || length > std::ssize(name)
              ? locale
@@ -80,7 +83,12 @@ std::vector<CatalogLanguage> CatalogLanguages(std::span<const std::string> folde
     if (known != languages.end()) {
       known->regions.push_back(id);
     } else {
-      languages.push_back({.id = id, .locale = LocaleName(id), .tag = {}, .name = {}, .englishName = {}, .regions = {id}});
+      languages.push_back({.id = id,
+                           .locale = LocaleName(id),
+                           .tag = {},
+                           .name = {},
+                           .englishName = {},
+                           .regions = {id}});
     }
   }
   for (CatalogLanguage& language : languages) {
@@ -93,7 +101,7 @@ std::vector<CatalogLanguage> CatalogLanguages(std::span<const std::string> folde
     language.name = DisplayName(language.locale, language.locale, isShared);
     language.englishName = DisplayName(language.locale, "en", isShared);
   }
-  std::ranges::sort(languages, {}, &CatalogLanguage::name);
+  std::ranges::sort(languages, {}, &CatalogLanguage::tag);
   return languages;
 }
 

@@ -14,23 +14,23 @@ namespace AdvancedControl {
 
 /// A language that the catalog modules have texts in.
 struct CatalogLanguage {
-  std::uint32_t id;         ///< The system's language identifier, such as 1031.
-  std::string locale;       ///< Its locale, such as "de_DE".
-  std::string tag;          ///< The shortest tag that means it: "de", "zh-TW".
-  std::string name;         ///< In the language itself: "Deutsch".
-  std::string englishName;  ///< "German".
+  std::uint32_t id;                    ///< The system's language identifier, such as 1031.
+  std::string locale;                  ///< Its locale, such as "de_DE".
+  std::string tag;                     ///< The shortest tag that means it: "de", "zh-TW".
+  std::string name;                    ///< In the language itself: "Deutsch".
+  std::string englishName;             ///< "German".
   std::vector<std::uint32_t> regions;  ///< All identifiers that have these texts, also `id`.
 };
 
-/// The languages of all modules in `folders`, by name. Skips damaged modules. May be called from any
-/// thread.
+/// The languages of all modules in `folders`, by tag. Skips damaged modules. May be called from
+/// any thread.
 PROJECTOR_SETTINGS_EXPORT std::vector<CatalogLanguage> CatalogLanguages(
     std::span<const std::string> folders);
 
 /// The identifier of the language that a person calls `text`: a tag or the name of a locale ("de",
-/// "zh-TW", "pt_BR.UTF-8"), a name of the language ("Deutsch", "german"), or an identifier ("1031").
-/// Regions that the modules do not list get the language itself, so "en-GB" is 1033 and "zh-SG" is
-/// 2052. Nothing if none of `languages` is meant.
+/// "zh-TW", "pt_BR.UTF-8"), a name of the language ("Deutsch", "german"), or an identifier
+/// ("1031"). Regions that the modules do not list get the language itself, so "en-GB" is 1033 and
+/// "zh-SG" is 2052. Nothing if none of `languages` is meant.
 PROJECTOR_SETTINGS_EXPORT std::optional<std::uint32_t> FindLanguage(
     std::span<const CatalogLanguage> languages, std::string_view text);
 

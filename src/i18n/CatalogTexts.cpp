@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <map>
 #include <system_error>
 #include <utility>
 
@@ -40,10 +41,10 @@ std::optional<std::string> CatalogTexts::Find(std::uint32_t languageId, int cate
 std::vector<MessageTable::Language> CatalogTexts::Languages() const {
   std::vector<MessageTable::Language> all;
   for (const MessageCatalog& module : modules_) {
-    for (const MessageTable::Language& language : module.Languages()) {
-      if (std::ranges::find(all, language.id, &MessageTable::Language::id) == all.end()) {
-        all.push_back(language);
-      }
+    std::map<std::uint32_t, std::uint32_t> firsts;  // the Chinese module has 1033 too
+    for (const auto& [id, first] : module.Languages()) {
+      if (std::ranges::find(all, id, &MessageTable::Language::id) != all.end()) continue;
+      all.push_back({.id = id, .first = firsts.emplace(first, id).first->second});
     }
   }
   return all;

@@ -39,7 +39,7 @@ void LocalizeCaption(int category, QWidget& window) {
 
 void LocalizeControlTexts(int category, QWidget& dialog) {
   if (!IsCatalogLoaded()) return;
-  dialog.setLayoutDirection(IsRightToLeft(ShownLanguageId()) ? Qt::RightToLeft : Qt::LeftToRight);
+  if (IsRightToLeft(ShownLanguageId())) dialog.setLayoutDirection(Qt::RightToLeft);
   LocalizeCaption(category, dialog);
   for (QObject* child : dialog.children()) {
     if (child->isWidgetType()) LocalizeCaption(category, *static_cast<QWidget*>(child));

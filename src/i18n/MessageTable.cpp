@@ -294,7 +294,8 @@ CatalogMessage MessageTable::At(Place place) const {
 }
 
 const MessageTable::LanguagePart* MessageTable::FindLanguage(std::uint32_t languageId) const {
-  const auto found = std::ranges::lower_bound(languages_, languageId, {}, &LanguagePart::languageId);
+  const auto found =
+      std::ranges::lower_bound(languages_, languageId, {}, &LanguagePart::languageId);
   return found != languages_.end() && found->languageId == languageId ? &*found : nullptr;
 }
 

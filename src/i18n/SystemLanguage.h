@@ -18,8 +18,8 @@ inline constexpr std::uint32_t kChineseSimplified = 2052;
 inline constexpr std::uint32_t kPseudo = 1281;
 inline constexpr std::uint32_t kPseudoMirrored = 2559;
 
-/// The language identifier of a locale's name or language tag, such as "de_AT.UTF-8" or "zh-Hant". A
-/// name without a region gets the language's default region. Nothing for "C", "POSIX" and names
+/// The language identifier of a locale's name or language tag, such as "de_AT.UTF-8" or "zh-Hant".
+/// A name without a region gets the language's default region. Nothing for "C", "POSIX" and names
 /// without an identifier.
 PROJECTOR_SETTINGS_EXPORT std::optional<std::uint32_t> LanguageIdOf(std::string_view name);
 

@@ -53,7 +53,10 @@ foreach(facility IN LISTS facilities)
 endforeach()
 
 # English. A text is one line.
-foreach(source captions lists errors)
+file(GLOB sources RELATIVE "${CATALOG_DIR}" "${CATALOG_DIR}/*.mc")
+list(REMOVE_ITEM sources prologue.mc)
+list(TRANSFORM sources REPLACE "\\.mc$" "")
+foreach(source IN LISTS sources)
   catalog_lines("${CATALOG_DIR}/${source}.mc" lines)
   set(notes "")
   set(number "")

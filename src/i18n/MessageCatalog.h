@@ -22,6 +22,11 @@ class MessageCatalog {
     return messages_.Find(languageId, messageId);
   }
 
+  /// The same in language 1033.
+  std::optional<CatalogMessage> FindEnglish(std::uint32_t messageId) const {
+    return messages_.FindEnglish(messageId);
+  }
+
   bool HasLanguage(std::uint32_t languageId) const { return messages_.HasLanguage(languageId); }
 
   /// The languages that it has messages in.

@@ -1,12 +1,8 @@
 #include "i18n/MessageTable.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <fcntl.h>
 #include <map>
-#include <sys/stat.h>
 #include <tuple>
-#include <unistd.h>
 #include <utility>
 
 #include "i18n/ModuleImage.h"
@@ -17,36 +13,12 @@ namespace AdvancedControl {
 
 namespace {
 
-constexpr std::size_t kMaxFileBytes = std::size_t{32} << 20;
 constexpr std::size_t kMaxMessages = std::size_t{1} << 20;
-// In a well-formed module no byte is read twice, except that two languages may share an ANSI table.
+// No byte of a well-formed module is read twice, except that two languages may share an ANSI table.
 constexpr std::uint64_t kMaxReadsOfAByte = 2;
+constexpr std::size_t kUsualEntryBytes = 24;
 constexpr std::uint32_t kMessageTableType = 11;
 constexpr std::uint32_t kMaxLanguage = 0xFFFF;
-
-// The bytes of a regular file of acceptable size, otherwise none. The file is not mapped, because
-// truncating a mapped file would crash the program.
-std::vector<std::byte> ReadFile(const std::string& path) {
-  std::vector<std::byte> bytes;
-  // O_NONBLOCK, because the name may be that of a pipe, whose opening would wait for the other end.
-  const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-  if (file < 0) return bytes;
-  struct stat status {};
-  if (fstat(file, &status) == 0 && S_ISREG(status.st_mode) && status.st_size > 0 &&
-      std::cmp_less_equal(status.st_size, kMaxFileBytes)) {
-    bytes.resize(static_cast<std::size_t>(status.st_size));
-    std::size_t got = 0;
-    while (got < bytes.size()) {
-      const ssize_t count = read(file, bytes.data() + got, bytes.size() - got);
-      if (count < 0 && errno == EINTR) continue;
-      if (count <= 0) break;
-      got += static_cast<std::size_t>(count);
-    }
-    bytes.resize(got);
-  }
-  close(file);
-  return bytes;
-}
 
 bool IsPlain(std::string_view text) {
   for (std::size_t i = 0; i < text.size(); ++i) {
@@ -272,17 +244,19 @@ class MessageTable::Reader {
 };
 
 std::optional<MessageTable> MessageTable::Read(const std::string& path) {
-  return Parse(ReadFile(path));
+  return Parse(ReadModule(path));
 }
 
 std::optional<MessageTable> MessageTable::Parse(std::span<const std::byte> module) {
-  if (module.size() > kMaxFileBytes) return {};
+  if (module.size() > kMaxModuleBytes) return {};
   const auto image = ModuleImage::Open(module);
   if (!image) return {};
   MessageTable table;
+  // Generous: what is not used takes no memory.
   table.texts_.reserve(module.size());
+  table.ids_.reserve(module.size() / kUsualEntryBytes);
+  table.places_.reserve(module.size() / kUsualEntryBytes);
   if (!Reader(module, *image, table).ReadTypes()) return {};
-  table.texts_.shrink_to_fit();
   table.MarkSameEverywhere();
   return table;
 }
@@ -310,6 +284,7 @@ void MessageTable::MarkSameEverywhere() {
   const LanguagePart* const english = FindLanguage(kEnglishUnitedStates);
   if (english == nullptr) return;
   const Part own = english->part;
+  english_ = own;
   for (std::uint32_t i = own.begin; i < own.end; ++i) places_[i].sameEverywhere = 1;
   std::vector<Part> others;
   for (const LanguagePart& language : languages_) others.push_back(language.part);
@@ -332,8 +307,11 @@ void MessageTable::MarkSameEverywhere() {
 std::optional<CatalogMessage> MessageTable::Find(std::uint32_t languageId,
                                                  std::uint32_t messageId) const {
   const LanguagePart* const language = FindLanguage(languageId);
-  if (language == nullptr) return {};
-  const auto found = FindIn(language->part, messageId);
+  return language != nullptr ? Find(language->part, messageId) : std::nullopt;
+}
+
+std::optional<CatalogMessage> MessageTable::Find(Part part, std::uint32_t messageId) const {
+  const auto found = FindIn(part, messageId);
   return found ? std::optional(At(places_[*found])) : std::nullopt;
 }
 

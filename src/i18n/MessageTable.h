@@ -44,6 +44,11 @@ class MessageTable {
   /// table, even if the table is moved.
   std::optional<CatalogMessage> Find(std::uint32_t languageId, std::uint32_t messageId) const;
 
+  /// The same in language 1033, faster.
+  std::optional<CatalogMessage> FindEnglish(std::uint32_t messageId) const {
+    return Find(english_, messageId);
+  }
+
   bool HasLanguage(std::uint32_t languageId) const { return FindLanguage(languageId) != nullptr; }
 
   /// A language of the table and the first one that has the same messages, by identifier. Languages
@@ -84,11 +89,13 @@ class MessageTable {
 
   CatalogMessage At(Place place) const;
   const LanguagePart* FindLanguage(std::uint32_t languageId) const;
+  std::optional<CatalogMessage> Find(Part part, std::uint32_t messageId) const;
   std::optional<std::size_t> FindIn(Part part, std::uint32_t messageId) const;
   void MarkSameEverywhere();
 
   // Sorted arrays, not hash tables, because a module could contain keys chosen to collide.
   std::vector<LanguagePart> languages_;
+  Part english_{.begin = 0, .end = 0};  // of language 1033
   std::vector<std::uint32_t> ids_;
   std::vector<Place> places_;
   std::vector<char> texts_;

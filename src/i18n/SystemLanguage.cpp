@@ -5,12 +5,29 @@
 #include <cstdlib>
 #include <string>
 #include <string_view>
+#include <unistd.h>
+#include <vector>
 
 #include <unicode/uloc.h>
 
 namespace AdvancedControl {
 
 namespace {
+
+// Whether the environment has other entries than in the last call. A look at all of them is faster
+// than a search for one.
+bool HasEnvironmentChanged() {
+  static std::vector<const char*> known;  // with the null at the end
+  static char* none = nullptr;
+  char** const now = environ != nullptr ? environ : &none;
+  std::size_t i = 0;
+  while (i < known.size() && known[i] == now[i]) {
+    if (now[i++] == nullptr) return false;
+  }
+  while (now[i] != nullptr) ++i;
+  known.assign(now, now + i + 1);
+  return true;
+}
 
 const char* EnvironmentLocale() {
   for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
@@ -69,7 +86,8 @@ std::optional<std::uint32_t> LanguageIdOf(std::string_view name) {
 std::uint32_t SystemLanguageId() {
   static std::string knownLocale;
   static std::uint32_t languageId = kEnglishUnitedStates;
-  const char* locale = EnvironmentLocale();
+  static const char* locale = "";
+  if (HasEnvironmentChanged()) locale = EnvironmentLocale();
   if (knownLocale != locale) {
     knownLocale = locale;
     languageId = LanguageIdOf(knownLocale).value_or(kEnglishUnitedStates);

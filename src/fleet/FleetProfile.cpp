@@ -30,6 +30,12 @@ ProjectorAddress AddressOf(ProjectorLink link, const ProfileConnection& connecti
   return AddressError{"the projector is simulated"};
 }
 
+FleetTarget TargetOf(const FleetProfile& profile) {
+  return {.id = FleetIdOf(profile),
+          .address = AddressOf(profile),
+          .model = {profile.model, &profile.model->data}};
+}
+
 QString ConnectionText(const ProfileConnection& connection) {
   QString address = QString::fromStdString(connection.address);
   if (connection.isNetwork) return QStringLiteral("%1:%2").arg(address).arg(connection.port);

@@ -71,6 +71,9 @@ inline ProjectorAddress AddressOf(const FleetProfile& profile) {
 /// What a fleet needs to watch the projector.
 PROJECTOR_FLEET_EXPORT FleetTarget TargetOf(const FleetProfile& profile);
 
+/// What the dialog needs to open the projector: its model, with the connection as connection 0.
+PROJECTOR_FLEET_EXPORT CModelInfo2 ModelInfoOf(const FleetProfile& profile);
+
 /// "192.0.2.30:4352" or "serial port 1"
 PROJECTOR_FLEET_EXPORT QString ConnectionText(const ProfileConnection& connection);
 

@@ -6,12 +6,12 @@
 #include <deque>
 #include <functional>
 #include <memory>
-#include <set>
 #include <string>
 #include <vector>
 
 #include <QHostAddress>
 #include <QObject>
+#include <QSet>
 #include <QTimer>
 #include <QUdpSocket>
 
@@ -22,7 +22,7 @@
 namespace AdvancedControl {
 
 struct SearchOptions {
-  std::vector<std::uint32_t> addresses{};  ///< IPv4; each is asked whether it has a projector.
+  std::vector<QHostAddress> addresses{};  ///< Each is asked whether it has a projector.
   /// Where PJLink's search is sent; empty for nowhere. `NetworkBroadcasts` has those of the
   /// machine.
   std::vector<QHostAddress> broadcasts{};
@@ -52,7 +52,7 @@ class PROJECTOR_FLEET_EXPORT SearchDriver final {
 
   /// Addresses asked so far, and those that are known so far.
   std::size_t Done() const { return done_; }
-  std::size_t Count() const { return known_.size(); }
+  std::size_t Count() const { return static_cast<std::size_t>(known_.size()); }
   /// One line where the broadcast could not be sent or its answers not taken; empty otherwise.
   const QString& Problem() const { return problem_; }
 
@@ -61,7 +61,7 @@ class PROJECTOR_FLEET_EXPORT SearchDriver final {
 
   void Broadcast();
   void TakeAnswers();
-  void Enqueue(std::uint32_t address, const std::string& mac);
+  void Enqueue(const QHostAddress& address, const std::string& mac);
   void BeginVisits();
   void End(Visit* visit);
 
@@ -73,7 +73,7 @@ class PROJECTOR_FLEET_EXPORT SearchDriver final {
   QTimer listening_;  // runs while answers to the broadcast are taken
   std::unique_ptr<QUdpSocket> datagrams_;
   std::deque<FoundProjector> waiting_;
-  std::set<std::uint32_t> known_;
+  QSet<QHostAddress> known_;
   std::vector<std::unique_ptr<Visit>> visits_;
   double allowance_ = 0;  // connections that may begin now
   std::size_t done_ = 0;

@@ -20,7 +20,7 @@ std::optional<std::string> ParseSearchAnswer(std::string_view datagram);
 
 /// A projector that a search found. What it does not tell is empty.
 struct FoundProjector {
-  std::string address;  ///< IPv4.
+  std::string address;  ///< Numeric, IPv4 or IPv6.
   std::uint16_t port = 0;
   std::string mac{};           ///< From a broadcast search.
   bool needsPassword = false;  ///< It wants another password than it was given, and told no more.

@@ -101,6 +101,10 @@ class SteppedFleet final : public FleetNetwork, public FleetClock {
     });
   }
 
+  void OpenLine(Peer peer, const std::string& device, std::int32_t) override {
+    Connect(peer, device, 0);
+  }
+
   void Send(Peer peer, std::string_view bytes) override {
     const Link& link = links_[peer];
     Projector& projector = projectors[link.host];

@@ -38,6 +38,7 @@ class SteppedFleet final : public FleetNetwork, public FleetClock {
     BadProjector device{};
     bool isThere = true;                     ///< Otherwise nobody says anything.
     bool isRefusing = false;                 ///< The port is closed.
+    bool isTaken = false;                    ///< Another program has the serial port.
     std::vector<SessionTime> connections{};  ///< When each began.
     int mostConnections = 0;                 ///< At the same time.
     int open = 0;
@@ -90,6 +91,7 @@ class SteppedFleet final : public FleetNetwork, public FleetClock {
     if (!projector.isThere) return;
     Later(Milliseconds(1), peer, attempt, [this, peer, attempt, host] {
       Projector& met = projectors[host];
+      if (met.isTaken) return watcher.InUse(peer);
       if (met.isRefusing || !met.device.Connect(now_)) {
         return watcher.NotConnected(peer, ConnectionState::NotReachable);
       }

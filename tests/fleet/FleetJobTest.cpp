@@ -130,7 +130,7 @@ TEST_F(FleetJobTest, WorksOverPjLinkAndASerialPort) {
   const auto taken = Do(TakeSnapshots());
   EXPECT_EQ(Outcomes(taken), (std::vector{Done, Done, NoAnswer}));
   const auto& told = taken[0].snapshot->settings;
-  EXPECT_EQ(std::ranges::count(told, "other.freeze", &SavedSetting::key), 1);
+  EXPECT_EQ(std::ranges::count(told, "HDMI (31)", &SavedSetting::text), 1);
   EXPECT_GT(taken[1].snapshot->settings.size(), 20);
   EXPECT_EQ(Outcomes(Do(SwitchPower{false})), (std::vector{Done, Done, NoAnswer}));
 }

@@ -3,9 +3,17 @@
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <thread>
 #include <utility>
 
 #include "device/channels/ForwardingChannel.h"
+
+/// The clock and the pauses of a channel. A test steps them.
+struct PatientTime {
+  using Point = std::chrono::steady_clock::time_point;
+  std::function<Point()> now = [] { return std::chrono::steady_clock::now(); };
+  std::function<void(Point)> sleepUntil = [](Point end) { std::this_thread::sleep_until(end); };
+};
 
 /// Repeats commands whose answers were lost, and knows when a projector is gone: one that has
 /// neither greeted nor answered is gone after the first command, any other after the last
@@ -25,10 +33,11 @@ class PatientChannel : public ForwardingChannel {
   /// projector has greeted that channel; it is called after each command.
   PatientChannel(
       std::shared_ptr<ProjectorChannel> inner, std::chrono::milliseconds timeOut,
-      std::function<bool()> hasGreeted = [] { return false; })
+      std::function<bool()> hasGreeted = [] { return false; }, PatientTime time = {})
       : ForwardingChannel(std::move(inner)),
         timeOut_(timeOut),
         hasGreeted_(std::move(hasGreeted)),
+        time_(std::move(time)),
         wasThere_(Connection() == ConnectionState::Connected) {}
 
   PjtReply Execute(const PjtCommand& command) override;
@@ -46,6 +55,7 @@ class PatientChannel : public ForwardingChannel {
  private:
   const std::chrono::milliseconds timeOut_;
   const std::function<bool()> hasGreeted_;
+  const PatientTime time_;
   bool wasThere_;  ///< It has greeted or answered.
   bool gone_ = false;
   PjtReply last_;

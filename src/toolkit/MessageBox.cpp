@@ -28,7 +28,10 @@ int Run(QWidget* owner, QMessageBox::Icon icon, const QString& text,
                                         {QMessageBox::No, texts.no}}) {
     if ((buttons & button) && !caption.isEmpty()) box->button(button)->setText(caption);
   }
-  if (window != nullptr) box->setWindowModality(Qt::WindowModal);
+  if (window != nullptr) {
+    box->setLayoutDirection(window->layoutDirection());
+    box->setWindowModality(Qt::WindowModal);
+  }
   const int answer = box->exec();
   delete box;
   return answer;

@@ -8,8 +8,9 @@ namespace AdvancedControl {
 
 namespace {
 
-// A little more than 3, because styles draw pages somewhat lighter than `Window`.
-constexpr double kDisabledContrast = 3.5;
+// More than 3, because styles draw pages and buttons lighter than the palette says.
+constexpr double kOnLight = 3.5;
+constexpr double kOnDark = 4.5;
 
 double Luminance(const QColor& color) {
   const auto linear = [](double part) {
@@ -17,6 +18,10 @@ double Luminance(const QColor& color) {
   };
   return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
          0.0722 * linear(color.blueF());
+}
+
+bool IsDark(const QColor& background) {
+  return ContrastOf(background, Qt::white) > ContrastOf(background, Qt::black);
 }
 
 QColor Mixed(const QColor& color, const QColor& other, double share) {
@@ -37,9 +42,7 @@ double ContrastOf(const QColor& first, const QColor& second) {
 
 QColor ReadableOn(const QColor& background, const QColor& color, double contrast) {
   static constexpr int kSteps = 20;
-  const QColor end = ContrastOf(background, Qt::black) > ContrastOf(background, Qt::white)
-                         ? QColor(Qt::black)
-                         : QColor(Qt::white);
+  const QColor end = IsDark(background) ? Qt::white : Qt::black;
   QColor readable = color;
   for (int i = 1; i <= kSteps && ContrastOf(background, readable) < contrast; ++i) {
     readable = Mixed(color, end, static_cast<double>(i) / kSteps);
@@ -54,8 +57,8 @@ QPalette WithReadableDisabledTexts(QPalette palette) {
       {QPalette::ButtonText, QPalette::Button}};
   for (const auto& [text, background] : kTexts) {
     const QColor color = palette.color(QPalette::Disabled, text);
-    const QColor readable =
-        ReadableOn(palette.color(QPalette::Disabled, background), color, kDisabledContrast);
+    const QColor behind = palette.color(QPalette::Disabled, background);
+    const QColor readable = ReadableOn(behind, color, IsDark(behind) ? kOnDark : kOnLight);
     if (readable != color) palette.setColor(QPalette::Disabled, text, readable);
   }
   return palette;

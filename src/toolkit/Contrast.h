@@ -10,7 +10,7 @@ namespace AdvancedControl {
 double ContrastOf(const QColor& first, const QColor& second);
 
 /// `color`, made lighter or darker until its contrast to `background` is at least `contrast`, which
-/// must be below 4.5.
+/// may be up to 4.5.
 QColor ReadableOn(const QColor& background, const QColor& color, double contrast);
 
 /// `palette` with texts of disabled controls that can be read.

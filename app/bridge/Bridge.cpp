@@ -71,6 +71,7 @@ QString Bridge::Start() {
   if (!options_.textFile.isEmpty()) {
     if (const QString error = CheckWholeFile(options_.textFile); !error.isEmpty()) return error;
     writing_.start(kWriting);
+    QTimer::singleShot(kObserving, &writing_, [this] { WriteTextFile(); });
   }
   const QString notices = options_.notices.toString();
   if (!options_.notices.isNull() &&

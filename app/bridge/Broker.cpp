@@ -86,8 +86,9 @@ QString Broker::Configure(const BrokerAddress& address, const std::optional<Brok
                              OrNull(address.certFile), OrNull(address.keyFile), nullptr);
   }
   if (code == MOSQ_ERR_SUCCESS && will) {
-    code = mosquitto_will_set(client, will->topic.constData(), static_cast<int>(will->payload.size()),
-                              will->payload.constData(), kAtLeastOnce, will->isRetained);
+    code =
+        mosquitto_will_set(client, will->topic.constData(), static_cast<int>(will->payload.size()),
+                           will->payload.constData(), kAtLeastOnce, will->isRetained);
   }
   return code == MOSQ_ERR_SUCCESS ? QString() : ErrorText(code);
 }

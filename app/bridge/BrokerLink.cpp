@@ -106,10 +106,13 @@ void BrokerLink::Take(const BrokerMessage& message) {
 }
 
 void BrokerLink::FollowRole() {
+  const bool standsBack = keeper_.GetRole() == ShareKeeper::Role::StandingBack;
+  if (std::exchange(stoodBack_, standsBack) != standsBack) {
+    Log(standsBack ? QStringLiteral("stands back: another bridge has the share")
+                   : QStringLiteral("takes the share over"));
+  }
   if (HoldsShare() != holds_) {
     holds_ = HoldsShare();
-    Log(holds_ ? QStringLiteral("has the share")
-               : QStringLiteral("stands back: another bridge has the share"));
     publisher_.Stop();
     // Not while the connection is telling something.
     QTimer::singleShot(0, &ending_, [this] { Connect(); });

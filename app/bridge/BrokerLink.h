@@ -65,6 +65,7 @@ class BrokerLink {
   bool holds_ = false;      ///< What the present connection is for.
   bool isSettled_ = false;  ///< What follows from being settled was done.
   bool toldProblem_ = false;
+  bool stoodBack_ = false;
   bool isClosing_ = false;
   std::optional<int> helloSubscription_{};
   std::optional<int> farewell_{};

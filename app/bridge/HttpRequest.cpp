@@ -49,15 +49,15 @@ void HttpRequest::Take(std::string_view bytes) {
 
 /// The status.
 int HttpRequest::Read() {
-  const auto line = head_.left(head_.indexOf("\r\n")).split(' ');
+  const auto line = head_.split('\r').first().split(' ');
   if (line.size() != 3 || !line[1].startsWith('/')) return kBadRequest;
-  if (!line[2].startsWith("HTTP/1.")) {
+  if (line[2] != "HTTP/1.1" && line[2] != "HTTP/1.0") {
     return line[2].startsWith("HTTP/") ? kOtherVersion : kBadRequest;
   }
   isHead_ = line[0] == "HEAD";
   if (!isHead_ && line[0] != "GET") return kNoMethod;
   const auto mark = line[1].indexOf('?');
-  path_ = line[1].left(mark);
+  path_ = mark < 0 ? line[1] : line[1].left(mark);
   if (mark >= 0) query_ = line[1].mid(mark + 1);
   return kOk;
 }

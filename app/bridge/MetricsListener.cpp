@@ -1,19 +1,13 @@
 #include "app/bridge/MetricsListener.h"
 
-#include <chrono>
 #include <memory>
 #include <utility>
 
 #include <QTcpSocket>
 #include <QTimer>
 
-namespace {
-
-constexpr std::chrono::seconds kLongestVisit{10};
-
-}  // namespace
-
-MetricsListener::MetricsListener(Answering answering) : answering_(std::move(answering)) {
+MetricsListener::MetricsListener(Answering answering, std::chrono::milliseconds longest)
+    : answering_(std::move(answering)), longest_(longest) {
   QObject::connect(&server_, &QTcpServer::newConnection, &server_, [this] { Accept(); });
 }
 
@@ -35,7 +29,7 @@ void MetricsListener::Accept() {
       --clients_;
       client->deleteLater();
     });
-    QTimer::singleShot(kLongestVisit, client, [client] { client->abort(); });
+    QTimer::singleShot(longest_, client, [client] { client->abort(); });
     const auto read = [this, client, request = std::make_shared<HttpRequest>()] {
       const QByteArray bytes = client->readAll();
       if (request->IsComplete()) return;

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
-#include <optional>
 
 #include <QByteArray>
 #include <QHostAddress>
@@ -21,7 +21,9 @@ class MetricsListener {
   };
   using Answering = std::function<Answer(const HttpRequest& request)>;
 
-  explicit MetricsListener(Answering answering);
+  /// A client that takes longer is sent away.
+  explicit MetricsListener(Answering answering,
+                           std::chrono::milliseconds longest = std::chrono::seconds(10));
 
   /// The port, or an error. Port 0 takes any free one.
   struct Listening {
@@ -34,6 +36,7 @@ class MetricsListener {
   void Accept();
 
   const Answering answering_;
+  const std::chrono::milliseconds longest_;
   int clients_ = 0;
   QTcpServer server_;  ///< Ends first, with its clients.
 };

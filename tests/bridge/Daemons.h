@@ -54,7 +54,8 @@ class Daemon {
 
  private:
   void Wait() {
-    if (Runs()) EXPECT_TRUE(process_.waitForFinished(60'000));
+    if (!Runs()) return;
+    EXPECT_TRUE(process_.waitForFinished(60'000));
   }
 
   QProcess process_;
@@ -82,10 +83,10 @@ class MosquittoBroker {
  public:
   explicit MosquittoBroker(const QString& folder, bool remembers = true)
       : file_(folder + "/broker") {
-    Write(file_, "listener " + QByteArray::number(port) +
-                     " 127.0.0.1\nallow_anonymous true\nmax_queued_messages 0\npersistence " +
-                     (remembers ? "true" : "false") + "\npersistence_location " + folder.toUtf8() +
-                     "/\n");
+    Write(file_,
+          "listener " + QByteArray::number(port) +
+              " 127.0.0.1\nuser root\nallow_anonymous true\nmax_queued_messages 0\npersistence " +
+              (remembers ? "true" : "false") + "\npersistence_location " + folder.toUtf8() + "/\n");
     Start();
   }
   void Start() {

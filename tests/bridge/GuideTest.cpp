@@ -113,11 +113,11 @@ TEST(Guide, LeadsToAMailAndToTheAllClear) {
     if (i == blocks.size() - 2) {
       EXPECT_TRUE(Soon([&] { return mail.mails.contains("FIRING"); }))
           << Contents(folder.filePath("alertmanager.log")).data();
-      EXPECT_THAT(mail.mails.toStdString(), HasSubstr("Projector 00007"));
+      EXPECT_THAT(mail.mails.toStdString(), HasSubstr("Projector 00001"));
     }
   }
   EXPECT_TRUE(Soon([&] { return mail.mails.contains("RESOLVED"); }));
-  EXPECT_TRUE(said.contains("projector_up{projector=\"Projector 00007\"} 1")) << said.data();
+  EXPECT_TRUE(said.contains("projector_up{projector=\"Projector 00001\"} 1")) << said.data();
   EXPECT_TRUE(said.contains("\"reachability\"")) << said.data();
   shell.write("exit\n");
   EXPECT_EQ(Finish(shell).exitCode, 0);

@@ -157,7 +157,8 @@ TEST(HttpRequest, UnderstandsGetAndRefusesTheRest) {
     EXPECT_EQ(request.Parameter("x"), "");
     EXPECT_TRUE(request.Parameter("y").isNull());
   }
-  EXPECT_TRUE(read("HEAD / HTTP/1.0\r\n\r\n", 3).IsHead());
+  EXPECT_TRUE(read("HEAD /x HTTP/1.0\r\n\r\n", 3).IsHead());
+  EXPECT_EQ(read("HEAD /x HTTP/1.0\r\n\r\n", 3).Path(), "/x");
   EXPECT_FALSE(read("GET / HTTP/1.1\r\nHost: x\r\n", 3).IsComplete());
   const std::vector<std::pair<QByteArray, int>> wrong{
       {"POST / HTTP/1.1\r\n\r\n", 405},
@@ -167,7 +168,7 @@ TEST(HttpRequest, UnderstandsGetAndRefusesTheRest) {
       {"GET http://x/ HTTP/1.1\r\n\r\n", 400},
       {"\r\n\r\n", 400},
       {QByteArray(HttpRequest::kLongest + 1, 'x'), 431},
-      {"GET / HTTP/1.1\n\n\r\n\r\n", 400}};
+      {"GET / HTTP/1.1\n\n\r\n\r\n", 505}};
   for (const auto& [text, status] : wrong) {
     EXPECT_EQ(read(text, 100).Status(), status) << text.left(40).data();
   }
@@ -206,7 +207,11 @@ TEST(MetricsListener, ServesFewClientsAndSurvivesStrangeOnes) {
   }));
   EXPECT_TRUE(answer.startsWith("HTTP/1.1 200 OK\r\n"));
   EXPECT_TRUE(answer.endsWith(large));
-  EXPECT_TRUE(isClosed(idle.front())) << "who asks nothing is sent away";
+
+  MetricsListener impatient({}, std::chrono::milliseconds(50));
+  QTcpSocket slow;
+  slow.connectToHost(QHostAddress::LocalHost, impatient.Listen(QHostAddress::LocalHost, 0).port);
+  EXPECT_TRUE(isClosed(&slow)) << "who asks nothing is sent away";
 }
 
 }  // namespace

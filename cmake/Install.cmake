@@ -76,6 +76,7 @@ public_headers(AdvancedControl
   pages/common/PageReader.h
   pages/common/RowDialog.h
   pages/common/RowMenus.h
+  pages/common/RowResets.h
   pages/common/SettingsDialog.h
   pages/picture/PicturePage.h
   pages/rows/RowHost.h

@@ -10,7 +10,7 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
-#include "app/profiles/ProfileFile.h"
+#include "fleet/ProfileFile.h"
 #include "tests/pages/EachPage.h"
 #include "tests/support/Soon.h"
 #include "toolkit/WindowText.h"
@@ -78,9 +78,9 @@ bool IsOperable(const CDialog& page, const RowTemplate& row) {
 
 TEST(Sweep, NoTabOfAnyShippedProfileIsBlank) {
   std::vector<CModelInfo2> models;
-  const ProfileFileContents profiles = ReadProfileFile(TEST_CATALOG_DIR "/projectors.json");
-  for (const ProjectorProfile& profile : profiles.projectors) models.push_back(profile.Model);
-  ASSERT_FALSE(models.empty()) << profiles.error.toStdString();
+  const ProfileList list = ReadProfileList(TEST_CATALOG_DIR "/projectors.json");
+  for (const FleetProfile& profile : list.profiles) models.push_back(ModelInfoOf(profile));
+  ASSERT_FALSE(models.empty()) << list.error.toStdString();
   const auto expectFilled = [](OpenDialog&, CTabPage& page) {
     EXPECT_FALSE(page.Template()->rows.empty()) << "a page that no model has a row of";
     const auto* notice = qobject_cast<QLabel*>(page.GetDlgItem(CDialog::kNoticeId));
@@ -133,6 +133,30 @@ TEST(Sweep, PresentRowsArePacked) {
     }
     for (const int pitch : pitches) EXPECT_NEAR(pitch, pitches.front(), 1);
   });
+}
+
+// Sliders and lists must not jump when the tab changes.
+TEST(Sweep, ControlsStartAndEndAtTheSamePlaceOnAllTabs) {
+  for (const CModelInfo2& model : {FullModel(1, 1), FullModel(4, 9), FullModel(5, 30)}) {
+    std::map<std::pair<RowPlace, ControlKind>, std::set<std::pair<int, int>>> places;
+    ForEachPage(
+        [&places](OpenDialog&, CTabPage& page) {
+          for (const RowTemplate& row : page.Template()->rows) {
+            for (const ControlTemplate& control : row.controls) {
+              if (control.kind != ControlKind::Slider && control.kind != ControlKind::Colon)
+                continue;
+              const QWidget& widget = *page.GetDlgItem(control.id);
+              const RowPlace column =
+                  row.place == RowPlace::Right ? RowPlace::Right : RowPlace::Left;
+              if (widget.isVisible())
+                places[{column, control.kind}].emplace(widget.x(), widget.width());
+            }
+          }
+        },
+        {model});
+    EXPECT_FALSE(places.empty());
+    for (const auto& [kind, different] : places) EXPECT_EQ(different.size(), 1U) << NameOf(model);
+  }
 }
 
 }  // namespace

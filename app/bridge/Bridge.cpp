@@ -54,9 +54,10 @@ Bridge::Bridge(const Options& options, std::vector<FleetProfile> profiles,
               [this](std::size_t projector, const Command& command, const WorkResult& result) {
                 FinishCommand(projector, command, result);
               }),
+      drift_(fleet_, texts_, options_.snapshots),
       listener_([this](const HttpRequest& request) { return AnswerRequest(request); }) {
   QObject::connect(&tick_, &QTimer::timeout, &tick_, [this] { Tick(); });
-  QObject::connect(&observing_, &QTimer::timeout, &observing_, [this] { Observe(); });
+  QObject::connect(&observing_, &QTimer::timeout, &observing_, [this] { fleet_.Observe(); });
   QObject::connect(&writing_, &QTimer::timeout, &writing_, [this] { WriteTextFile(); });
 }
 
@@ -83,6 +84,7 @@ QString Bridge::Start() {
     if (const QString error = link_->Start(); !error.isEmpty()) return "--broker: " + error;
   }
   Log(QStringLiteral("watches %1 projectors").arg(fleet_.Count()));
+  if (!options_.snapshots.isEmpty()) drift_.Start([this] { return MayAsk(); });
   tick_.start(kTick);
   observing_.start(kObserving);
   Tick();
@@ -146,16 +148,14 @@ void Bridge::FinishCommand(std::size_t projector, const Command& command,
 
 void Bridge::Tick() {
   if (link_) link_->Tick();
-  fleet_.SetAsking(!link_ || link_->MayAsk());
+  fleet_.SetAsking(MayAsk());
 }
-
-void Bridge::Observe() { fleet_.Observe(); }
 
 BridgeCounts Bridge::Counts() const {
   BridgeCounts counts{.version = ADVANCED_CONTROL_VERSION,
                       .share = options_.share.Name().toStdString(),
                       .projectors = fleet_.Count(),
-                      .holdsShare = !link_ || link_->MayAsk(),
+                      .holdsShare = MayAsk(),
                       .takesCommands = desk_.TakesCommands(),
                       .visits = fleet_.Tally(),
                       .answers = fleet_.Answers(),
@@ -171,7 +171,7 @@ BridgeCounts Bridge::Counts() const {
 const QByteArray& Bridge::AllMetrics() {
   if (const auto now = Clock::now(); rendered_.isEmpty() || now - renderedAt_ > kRendered) {
     MetricsText text;
-    if (!link_ || link_->MayAsk()) AddProjectors(text, fleet_.States());
+    if (MayAsk()) AddProjectors(text, fleet_.States());
     AddBridge(text, Counts());
     rendered_ = text.Text();
     renderedAt_ = now;

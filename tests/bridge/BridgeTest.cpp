@@ -188,9 +188,10 @@ TEST_F(BridgeProgram, TellsABrokerThatForgotEverythingAgain) {
 }
 
 TEST_F(BridgeProgram, CarriesOutWhatIsAllowedAndAnswers) {
-  StartProjectors(10, {"--link", "network"});
+  StartProjectors(40, {"--link", "network"});
   MosquittoBroker broker(folder_.path());
-  auto bridge = Bridge(At(broker) + QStringList{"--allow-commands", "power,picture.*"});
+  auto bridge =
+      Bridge(At(broker) + QStringList{"--allow-commands", "power,picture.*,setup.auto-keystone"});
   Subscriber subscriber(broker.port, {"projectors/#", "homeassistant/#"});
   // One that is on and has the setting.
   QByteArray id;
@@ -199,18 +200,21 @@ TEST_F(BridgeProgram, CarriesOutWhatIsAllowedAndAnswers) {
       if (!topic.endsWith("/state") || !payload.contains("\"power\":\"on\"")) continue;
       const QByteArray level = topic.split('/')[1];
       const auto config = subscriber.Last().find("homeassistant/device/" + level + "/config");
-      const bool has =
-          config != subscriber.Last().end() && config->second.contains("/set/picture.brightness");
+      const bool has = config != subscriber.Last().end() &&
+                       config->second.contains("/set/picture.brightness") &&
+                       config->second.contains("/set/setup.auto-keystone");
       if (has) id = level;
     }
     return !id.isEmpty();
   })) << bridge->Said().data();
   const QByteArray answer = "projectors/" + id + "/answer";
+  std::string last;
   const auto outcomeOf = [&](const QString& topic, const QStringList& what,
                              const QByteArray& input = {}) {
     const int before = subscriber.Count(answer);
     Publish(broker, QStringList{"-t", "projectors/" + QString(id) + topic} + what, input);
     EXPECT_TRUE(Soon([&] { return subscriber.Count(answer) > before; })) << topic.toStdString();
+    last = subscriber.Last().at(answer).left(300).toStdString();
     return subscriber.Json(answer)["outcome"].toString().toStdString();
   };
   const std::string changes = Changes();
@@ -224,12 +228,12 @@ TEST_F(BridgeProgram, CarriesOutWhatIsAllowedAndAnswers) {
   EXPECT_EQ(outcomeOf("/set", {"-m", R"({"key":"picture.brightness","value":-3,"id":"mine"})"}),
             "accepted");
   EXPECT_EQ(subscriber.Json(answer)["id"], "mine");
+  EXPECT_EQ(outcomeOf("/set/setup.auto-keystone", {"-m", "run"}), "accepted") << last;
   EXPECT_NE(Changes(), changes);
   EXPECT_EQ(outcomeOf("/set/power", {"-m", "off"}), "accepted");
   EXPECT_TRUE(Soon([&] {
     return subscriber.Json("projectors/" + id + "/state")["power"] == "standby";
   })) << "what a command tells is published";
-  EXPECT_EQ(outcomeOf("/set/picture.brightness", {"-m", "3"}), "standby");
 
   // Both kill switches.
   const std::string now = Changes();

@@ -11,7 +11,6 @@
 
 namespace {
 
-constexpr std::chrono::minutes kFirst{1};
 constexpr std::chrono::hours kEvery{24};
 constexpr std::size_t kAtOnce = 4;
 constexpr qsizetype kLargestFile = 1 << 20;
@@ -34,13 +33,14 @@ DriftCheck::DriftCheck(BridgeFleet& fleet, const SettingTexts& texts, QString fo
   QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { Check(); });
 }
 
-void DriftCheck::Start(std::function<bool()> mayAsk) {
+void DriftCheck::Start(std::function<bool()> mayAsk, std::chrono::milliseconds first) {
   mayAsk_ = std::move(mayAsk);
-  timer_.start(kFirst);
+  first_ = first;
+  timer_.start(first_);
 }
 
 void DriftCheck::Check() {
-  if (!mayAsk_()) return timer_.start(kFirst);
+  if (!mayAsk_()) return timer_.start(first_);
   timer_.start(kEvery);
   std::map<std::string, std::shared_ptr<const Snapshot>> files;
   std::vector<FleetTarget> targets;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <chrono>
+#include <functional>
 #include <memory>
 
 #include <QString>
@@ -17,8 +19,9 @@ class DriftCheck {
   /// outlive it.
   DriftCheck(BridgeFleet& fleet, const SettingTexts& texts, QString folder);
 
-  /// Begins, the first time after a minute. Does nothing while `mayAsk` is false.
-  void Start(std::function<bool()> mayAsk);
+  /// Begins, the first time after `first`. Does nothing while `mayAsk` is false.
+  void Start(std::function<bool()> mayAsk,
+             std::chrono::milliseconds first = std::chrono::minutes(1));
 
  private:
   void Check();
@@ -27,6 +30,7 @@ class DriftCheck {
   const SettingTexts& texts_;
   const QString folder_;
   std::function<bool()> mayAsk_;
+  std::chrono::milliseconds first_{};
   QTimer timer_;
   std::unique_ptr<FleetJob> job_;  ///< The last one; ends first.
 };

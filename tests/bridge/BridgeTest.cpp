@@ -263,6 +263,47 @@ TEST_F(BridgeProgram, CarriesOutWhatIsAllowedAndAnswers) {
   EXPECT_EQ(subscriber.Json(answer)["outcome"], "error");
 }
 
+TEST_F(BridgeProgram, ProvesWhoItIs) {
+  StartProjectors(3);
+  const QByteArray folder = folder_.path().toUtf8();
+  const QByteArray make = R"(cd "$1"
+    key() { openssl ecparam -genkey -name prime256v1 -noout -out "$1.key"; }
+    sign() {
+      key "$1"
+      openssl req -new -key "$1.key" -subj "/CN=$2" -out "$1.csr"
+      openssl x509 -req -in "$1.csr" -CA ca.crt -CAkey ca.key -CAcreateserial -days 2 -out "$1.crt"
+    }
+    set -e
+    key ca
+    openssl req -x509 -new -key ca.key -subj /CN=ca -days 2 -out ca.crt
+    sign broker localhost
+    sign bridge bridge
+    mosquitto_passwd -b -c passwords hall secret
+    chmod a+r ./*
+    echo hall > user; echo secret > password; echo wrong > wrong)";
+  const Outcome made =
+      ::Run("bash", {"-c", make, "bash", folder_.path()}, QProcessEnvironment::systemEnvironment());
+  ASSERT_EQ(made.exitCode, 0) << made.errors;
+  MosquittoBroker broker(folder_.path(), true,
+                         "allow_anonymous false\nrequire_certificate true\ncafile " + folder +
+                             "/ca.crt\ncertfile " + folder + "/broker.crt\nkeyfile " + folder +
+                             "/broker.key\npassword_file " + folder + "/passwords\n");
+  const auto at = [&](const char* password, bool hasCertificate) {
+    const auto file = [&](const char* name) { return folder_.filePath(name); };
+    QStringList arguments{"--broker",        QString("localhost:%1").arg(broker.port),
+                          "--ca-file",       file("ca.crt"),
+                          "--user-file",     file("user"),
+                          "--password-file", file(password)};
+    if (hasCertificate) {
+      arguments += {"--cert-file", file("bridge.crt"), "--key-file", file("bridge.key")};
+    }
+    return arguments;
+  };
+  EXPECT_TRUE(Bridge(at("wrong", true))->Says("not connected to the broker: Connection Refused"));
+  EXPECT_TRUE(Bridge(at("password", false))->Says("not connected to the broker"));
+  EXPECT_TRUE(Bridge(at("password", true))->Says(": connected to the broker"));
+}
+
 TEST_F(BridgeProgram, WritesATextFileAndNeedsNoBroker) {
   StartProjectors(5);
   const QString file = folder_.filePath("projectors.prom");

@@ -116,7 +116,10 @@ BrokerMessage Bridge::MessageOf(Publisher::Kind kind, std::size_t projector) {
     return {options_.discoveryPrefix + "/device/" + id + "/config",
             discovery_.MessageOf(profile, id), true};
   }
-  return {topics_.State(id), StateMessage(profile, fleet_.State(projector)), true};
+  const LiveState state = fleet_.State(projector);
+  // The broker may have what another run of the bridge knew.
+  if (state.reachability == Reachability::NeverAsked) return {};
+  return {topics_.State(id), StateMessage(profile, state), true};
 }
 
 void Bridge::Take(const BrokerMessage& message) {
@@ -149,6 +152,7 @@ void Bridge::FinishCommand(std::size_t projector, const Command& command,
 void Bridge::Tick() {
   if (link_) link_->Tick();
   fleet_.SetAsking(MayAsk());
+  if (!MayAsk()) runner_.StopAll();
 }
 
 BridgeCounts Bridge::Counts() const {

@@ -46,6 +46,7 @@ class Subscriber {
     const auto found = last.find(topic);
     return found == last.end() ? QJsonObject() : QJsonDocument::fromJson(found->second).object();
   }
+  bool Saw(const char* text) { return daemon_->Said().contains(text); }
   int Count(const QByteArray& topic) { return Last(), counts_[topic]; }
   /// How many topics with this end have a message that contains a text.
   int With(const char* end, const char* text = "") {
@@ -170,6 +171,7 @@ TEST_F(BridgeProgram, ServesFiveHundredProjectorsThroughFailures) {
     return subscriber->Count("projectors/bridge/2-of-2/availability") >= before + 2 &&
            isComplete() && subscriber->With("/availability", "online") == 2;
   }));
+  EXPECT_FALSE(subscriber->Saw("never-asked")) << "what the dead bridge knew holds until the visit";
   const QRegularExpression most("at-once (\\d+)");
   EXPECT_LE(most.match(QString::fromStdString(Control("* count"))).captured(1).toInt(), 1)
       << "never two connections to a projector";

@@ -94,7 +94,8 @@ and the files for CMake.")
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_NAME advanced-control)
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_DEPENDS "${library} (= ${version})")
-set(CPACK_DEBIAN_PROGRAM_PACKAGE_RECOMMENDS "qt6-translations-l10n, qt6-wayland")
+set(CPACK_DEBIAN_PROGRAM_PACKAGE_RECOMMENDS
+    "qt6-translations-l10n, qt6-wayland, fonts-dejavu-core | fonts-noto-core, fonts-wqy-microhei | fonts-noto-cjk")
 set(CPACK_COMPONENT_PROGRAM_DESCRIPTION "read and change the settings of projectors
 A list of projectors, and for each of them a dialog with a tab per group of
 settings, every value read live and every change sent at once. A log shows

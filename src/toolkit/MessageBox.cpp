@@ -41,7 +41,10 @@ int Run(QWidget* owner, QMessageBox::Icon icon, const QString& text,
   }
   UseIcon(*box, icon == QMessageBox::Critical ? IconName::Stop : IconName::Information);
   RemoveForeignButtonIcons(*box);
-  if (window != nullptr) box->setWindowModality(Qt::WindowModal);
+  if (window != nullptr) {
+    box->setLayoutDirection(window->layoutDirection());
+    box->setWindowModality(Qt::WindowModal);
+  }
   const int answer = box->exec();
   delete box;
   return answer;

@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
 # What takes too long for every change: fuzzing on the kept corpus, random walks over the host application and the
-# dialogs of every model, kills of both ends, and clang-tidy over everything. Adds a line to the table in docs/reliability.md.
+# dialogs of every model, kills of both ends, and calls that fail; then each file compiled without the headers of others,
+# clang-tidy over everything, and the checks of a release. Adds a line to the table in docs/reliability.md.
 # Usage: scripts/long.sh [time, such as 2h or 20m]
 #
-# A third of the time goes to each. The sanitizers watch the walks; PRESET=dev takes another build. What was found is
-# told at the end, with what to run to see it again, and ends the script with 1.
+# A quarter of the time goes to each of the first four. The sanitizers watch the walks; PRESET=dev takes another build.
+# What was found is told at the end, with what to run to see it again, and ends the script with 1.
 set -uo pipefail
 cd "$(dirname "$0")/.."
 
@@ -15,13 +16,15 @@ case "${1:-2h}" in
 esac
 preset="${PRESET:-asan}"
 bin="build/$preset/bin"
-part=$((seconds / 3))
+part=$((seconds / 4))
 logs=build/long
 findings=()
 mkdir -p "$logs"
 
 echo "Building (build/$preset)"
 cmake --preset "$preset" >/dev/null && cmake --build --preset "$preset" || exit 1
+echo "Building (build/check)"
+cmake --preset check >/dev/null && cmake --build --preset check || exit 1
 
 targets=$(ls fuzz/corpus | wc -l)
 if ! scripts/fuzz.sh $((part * $(nproc) / targets)) | tee "$logs/fuzz.log"; then
@@ -56,16 +59,23 @@ if ! kills=$(scripts/kills.py "$bin" "$part" "$seed" 2>"$logs/kills.log"); then
   findings+=("kills: scripts/kills.py $bin $part $seed, and $logs/kills.log")
 fi
 
-echo "clang-tidy over everything"
-if ! (cmake --preset release -B build/check -DADVANCEDCONTROL_TESTS=OFF >/dev/null && cmake --build build/check &&
-      scripts/tidy.py build/check) >"$logs/tidy.log" 2>&1; then
-  findings+=("clang-tidy: scripts/tidy.py build/check, and $logs/tidy.log")
-fi
+echo "Failing calls for $part s"
+faults=$(scripts/faults.py build/check "$part" "$seed" 2>"$logs/faults.log") ||
+  findings+=("calls that fail: $(tail -n 1 "$logs/faults.log"), and $logs/faults.log")
+
+# further <what> <command line>
+further() {
+  echo "$1"
+  bash -euo pipefail -c "$2" >"$logs/${1// /-}.log" 2>&1 || findings+=("$1: $2, and $logs/${1// /-}.log")
+}
+further "each file alone" "cmake --preset dev && cmake --build --preset dev"
+further "clang-tidy over everything" "scripts/tidy.py build/check --deep"
+further "the checks of a release" "scripts/check-release.sh"
 
 said=none
 [ ${#findings[@]} -eq 0 ] || said="${#findings[@]}, to be mended"
-printf "| %s | %s | %s | %d s | %'d | %'d | %'d | %s |\n" "$(date -u +%F)" "$(git rev-parse --short HEAD)" "$preset" \
-  "$seconds" "$runs" "$actions" "${kills:-0}" "$said" | tee -a docs/reliability.md
+printf "| %s | %s | %s | %d s | %'d | %'d | %'d | %'d | %s |\n" "$(date -u +%F)" "$(git rev-parse --short HEAD)" "$preset" \
+  "$seconds" "$runs" "$actions" "${kills:-0}" "${faults%% *}" "$said" | tee -a docs/reliability.md
 [ ${#findings[@]} -eq 0 ] && exit
 printf 'Found by %s\n' "${findings[@]}" >&2
 exit 1

@@ -50,8 +50,6 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
-set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
-set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY >=)
 
 set(version "${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}")
 set(library libadvancedcontrol${PROJECT_VERSION_MAJOR})
@@ -67,7 +65,15 @@ endforeach()
 file(CONFIGURE OUTPUT packaging/Symbols.cmake
      CONTENT "execute_process(COMMAND @gensymbols@ COMMAND_ERROR_IS_FATAL ANY)\n" @ONLY)
 set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_BINARY_DIR}/packaging/Symbols.cmake)
-set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/triggers ${symbols})
+# CPack would add scripts that do what the trigger does.
+set(shlibs "")
+foreach(name IN LISTS libraries)
+  string(APPEND shlibs
+    "lib${name} ${PROJECT_VERSION_MAJOR} ${library} (>= ${PROJECT_VERSION})\n")
+endforeach()
+file(CONFIGURE OUTPUT packaging/shlibs CONTENT "${shlibs}" @ONLY)
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/triggers ${symbols}
+    ${PROJECT_BINARY_DIR}/packaging/shlibs)
 set(CPACK_COMPONENT_LIBRARY_DESCRIPTION "live settings dialog for projectors
 A dialog with a tab per group of settings, every value read live from a
 projector and every change sent at once, for applications that manage

@@ -57,13 +57,13 @@ void EndWhenOutOfMemory(const char* program) {
   u_setMemoryFunctions(
       nullptr, AllocateOrEnd, ReallocateOrEnd, [](const void*, void* memory) { std::free(memory); },
       &error);
-  // Thrown where nobody can catch it: on a thread, or in a function that does not throw.
+  // Thrown where nothing can catch it: on a thread, or in a `noexcept` function.
   otherwise = std::set_terminate([] {
     try {
       if (std::current_exception()) throw;
     } catch (const std::bad_alloc&) {
       EndOutOfMemory();
-    } catch (...) {  // not ours to tell
+    } catch (...) {  // another error: handled as before
     }
     otherwise();
   });
@@ -74,7 +74,7 @@ void EndConsoleProgramWhenOutOfMemory(const char* program) {
   setenv("QT_NO_GLIB", "1", 1);
 }
 
-// Without allocating, and without what runs at a program's end.
+// Does not allocate, and runs no exit handlers.
 void EndOutOfMemory() {
   const std::array line{Bytes(programName), Bytes(": out of memory\n")};
   [[maybe_unused]] const ssize_t told = writev(STDERR_FILENO, line.data(), line.size());

@@ -4,7 +4,7 @@
 set -euo pipefail
 
 packages=(
-  g++ cmake ninja-build
+  g++ cmake ninja-build mold
   qt6-base-dev qt6-serialport-dev
   libicu-dev
   binutils-mingw-w64-x86-64

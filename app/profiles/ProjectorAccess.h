@@ -13,7 +13,10 @@
 #include "simulator/SimulatedProjector.h"
 
 /// The simulation that a profile describes.
-SimulatedModel SimulatedModelOf(const ProjectorProfile& profile);
+SimulatedModel SimulatedModelOf(const FleetProfile& profile);
+inline SimulatedModel SimulatedModelOf(const ProjectorProfile& profile) {
+  return SimulatedModelOf(MakeFleetProfile(profile));
+}
 
 /// What a command has to know of the inputs that a projector tells itself.
 enum class InputsNeeded {
@@ -27,8 +30,11 @@ enum class InputsNeeded {
 class ProjectorAccess {
  public:
   /// `timeOut` is that of the channel, for one answer.
-  ProjectorAccess(const ProjectorProfile& profile, const std::shared_ptr<ProjectorChannel>& channel,
+  ProjectorAccess(const FleetProfile& profile, const std::shared_ptr<ProjectorChannel>& channel,
                   std::chrono::milliseconds timeOut = std::chrono::seconds(2));
+  ProjectorAccess(const ProjectorProfile& profile, const std::shared_ptr<ProjectorChannel>& channel,
+                  std::chrono::milliseconds timeOut = std::chrono::seconds(2))
+      : ProjectorAccess(MakeFleetProfile(profile), channel, timeOut) {}
 
   ~ProjectorAccess();
   ProjectorAccess(const ProjectorAccess&) = delete;
@@ -59,7 +65,6 @@ class ProjectorAccess {
 
  private:
   std::string name_;
-  CModelInfo2 model_;
   ModelSettings settings_;
   std::shared_ptr<PjLinkChannel> pjLink_;  ///< Null for any other way.
   std::shared_ptr<PatientChannel> channel_;

@@ -8,6 +8,7 @@
 #include <QStringList>
 
 #include "Namespace.h"
+#include "ProjectorFleetExport.h"
 
 namespace AdvancedControl {
 
@@ -37,14 +38,14 @@ struct CsvTable {
 /// whichever the header has most of, or a line "sep=;" before it says; cells may be in quotation
 /// marks. Empty lines count for nothing. Rows with too few cells are filled up. What is wrong in
 /// one row does not touch the others.
-CsvTable ParseCsv(const QByteArray& bytes);
+PROJECTOR_FLEET_EXPORT CsvTable ParseCsv(const QByteArray& bytes);
 
 /// Writes comma-separated values that spreadsheets open as they are: in UTF-8 with a byte order
 /// mark, quoted where necessary. A cell that a spreadsheet would take for a formula gets an
 /// apostrophe before it, which `ParseCsv` takes off.
-QByteArray WriteCsv(const std::vector<QStringList>& rows);
+PROJECTOR_FLEET_EXPORT QByteArray WriteCsv(const std::vector<QStringList>& rows);
 
 /// The text of a file of unknown encoding.
-QString DecodeText(const QByteArray& bytes);
+PROJECTOR_FLEET_EXPORT QString DecodeText(const QByteArray& bytes);
 
 }  // namespace AdvancedControl

@@ -7,12 +7,13 @@
 #include <QString>
 
 #include "Namespace.h"
+#include "ProjectorFleetExport.h"
 
 namespace AdvancedControl {
 
 /// Where each value of a JSON text stands. Paths are written "projectors[3].ranges.brightness"; the
 /// whole text has an empty one.
-class JsonLines {
+class PROJECTOR_FLEET_EXPORT JsonLines {
   Q_DECLARE_TR_FUNCTIONS(JsonLines)
 
  public:

@@ -8,6 +8,7 @@
 #include <QStringList>
 
 #include "Namespace.h"
+#include "ProjectorFleetExport.h"
 #include "fleet/Csv.h"
 #include "fleet/FleetProfile.h"
 
@@ -27,9 +28,9 @@ struct CsvImport {
 /// `ProfileEdits::kNoProfiles`. A row is that of a projector with its identity, or else with its
 /// name; another row adds a projector. Only what the row tells is changed; docs/profiles.md lists
 /// the columns.
-CsvImport ImportCsv(const QByteArray& profiles, const QByteArray& csv);
+PROJECTOR_FLEET_EXPORT CsvImport ImportCsv(const QByteArray& profiles, const QByteArray& csv);
 
 /// The profiles as comma-separated values, without passwords.
-QByteArray ExportCsv(const std::vector<FleetProfile>& profiles);
+PROJECTOR_FLEET_EXPORT QByteArray ExportCsv(const std::vector<FleetProfile>& profiles);
 
 }  // namespace AdvancedControl

@@ -6,6 +6,7 @@
 #include <QByteArray>
 
 #include "Namespace.h"
+#include "ProjectorFleetExport.h"
 #include "fleet/FleetProfile.h"
 #include "fleet/JsonEdit.h"
 
@@ -13,7 +14,7 @@ namespace AdvancedControl {
 
 /// Many changes to the text of a profile file, which leave everything else in it as it was written.
 /// They take time in proportion to what is changed, and the text is put together once.
-class ProfileEdits {
+class PROJECTOR_FLEET_EXPORT ProfileEdits {
  public:
   /// `text` must be a profile file without an error, or `kNoProfiles`.
   explicit ProfileEdits(const QByteArray& text);
@@ -47,8 +48,8 @@ class ProfileEdits {
 };
 
 /// What a file says of the connection of a profile.
-QJsonValue ConnectionValue(const ProfileConnection& connection);
+PROJECTOR_FLEET_EXPORT QJsonValue ConnectionValue(const ProfileConnection& connection);
 /// The name of a link in a file.
-QString LinkName(ProjectorLink link);
+PROJECTOR_FLEET_EXPORT QString LinkName(ProjectorLink link);
 
 }  // namespace AdvancedControl

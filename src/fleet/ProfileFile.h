@@ -8,6 +8,7 @@
 #include <QString>
 
 #include "Namespace.h"
+#include "ProjectorFleetExport.h"
 #include "fleet/FleetProfile.h"
 
 namespace AdvancedControl {
@@ -24,22 +25,23 @@ struct ProfileFileText {
 };
 
 /// What stands in a regular file, up to a little more than a profile file may hold.
-ProfileFileText ReadProfileText(const QString& fileName);
+PROJECTOR_FLEET_EXPORT ProfileFileText ReadProfileText(const QString& fileName);
 
 /// Writes a profile file as a whole, or leaves the one that is there untouched. Nobody but its
 /// owner can read one that holds a password. One line that says what is wrong; empty when all is
 /// well.
-QString WriteProfileText(const QString& fileName, const QByteArray& text);
+PROJECTOR_FLEET_EXPORT QString WriteProfileText(const QString& fileName, const QByteArray& text);
 
 /// The projectors of a profile file. Its format is described in `docs/profiles.md`. Projectors that
 /// the file describes alike share a model.
-ProfileList ReadProfileList(const QString& fileName);
+PROJECTOR_FLEET_EXPORT ProfileList ReadProfileList(const QString& fileName);
 
 /// The same from a text; `fileName` stands in error messages.
-ProfileList ParseProfileList(const QByteArray& text, const QString& fileName);
+PROJECTOR_FLEET_EXPORT ProfileList ParseProfileList(const QByteArray& text,
+                                                    const QString& fileName);
 
 /// Says what would be wrong with an entry of a file.
-class ProfileChecker {
+class PROJECTOR_FLEET_EXPORT ProfileChecker {
  public:
   /// `text` must be a profile file without an error, or one that lacks projectors alone.
   explicit ProfileChecker(const QByteArray& text);

@@ -16,6 +16,7 @@
 #include <QUdpSocket>
 
 #include "Namespace.h"
+#include "ProjectorFleetExport.h"
 #include "fleet/SearchInquiry.h"
 
 namespace AdvancedControl {
@@ -35,11 +36,11 @@ struct SearchOptions {
 };
 
 /// The broadcast address of each network that the machine is in.
-std::vector<QHostAddress> NetworkBroadcasts();
+PROJECTOR_FLEET_EXPORT std::vector<QHostAddress> NetworkBroadcasts();
 
 /// A search for projectors on Qt's event loop. Nothing is sent before it starts, or after it is
 /// deleted. Belongs to one thread; the callbacks are called there, and may delete nothing of it.
-class SearchDriver final {
+class PROJECTOR_FLEET_EXPORT SearchDriver final {
  public:
   SearchDriver(SearchOptions options, std::function<void(const FoundProjector&)> onFound,
                std::function<void()> onFinished);

@@ -8,6 +8,7 @@
 #include <QStringList>
 
 #include "Namespace.h"
+#include "ProjectorFleetExport.h"
 #include "fleet/SearchInquiry.h"
 
 namespace AdvancedControl {
@@ -24,7 +25,8 @@ struct TakenProjectors {
 /// `ProfileEdits::kNoProfiles`. One with the identity of a profile is that profile's, wherever it
 /// is now. One at the address of a profile without an identity is that profile's, which then gets
 /// the identity. Each other one becomes a profile. `password` is what they were asked with.
-TakenProjectors TakeFound(const QByteArray& profiles, const std::vector<FoundProjector>& found,
-                          const std::string& password);
+PROJECTOR_FLEET_EXPORT TakenProjectors TakeFound(const QByteArray& profiles,
+                                                 const std::vector<FoundProjector>& found,
+                                                 const std::string& password);
 
 }  // namespace AdvancedControl

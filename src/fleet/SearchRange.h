@@ -7,6 +7,7 @@
 #include <QString>
 
 #include "Namespace.h"
+#include "ProjectorFleetExport.h"
 
 namespace AdvancedControl {
 
@@ -21,6 +22,6 @@ struct SearchRange {
 /// Parses addresses as people write them, separated by commas, spaces or line ends: "192.0.2.7",
 /// "192.0.2.0/24" (without the first and the last one, which are those of the network),
 /// "192.0.2.10-192.0.2.40" or "192.0.2.10-40".
-SearchRange ParseSearchRange(const QString& text);
+PROJECTOR_FLEET_EXPORT SearchRange ParseSearchRange(const QString& text);
 
 }  // namespace AdvancedControl

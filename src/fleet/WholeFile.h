@@ -4,6 +4,7 @@
 #include <QString>
 
 #include "Namespace.h"
+#include "ProjectorFleetExport.h"
 
 namespace AdvancedControl {
 
@@ -17,11 +18,11 @@ enum class FileAccess {
 /// written to, and never replaced. Behind links the file that they lead to is written. Returns when
 /// the disk has it: what cannot be brought there is an error, even if the file can be seen already.
 /// One line that says what is wrong; empty when all is well.
-QString WriteWholeFile(const QString& path, const QByteArray& bytes,
-                       FileAccess access = FileAccess::Kept);
+PROJECTOR_FLEET_EXPORT QString WriteWholeFile(const QString& path, const QByteArray& bytes,
+                                              FileAccess access = FileAccess::Kept);
 
 /// Says whether a file could be written there, in the same way; changes nothing.
-QString CheckWholeFile(const QString& path);
+PROJECTOR_FLEET_EXPORT QString CheckWholeFile(const QString& path);
 
 struct NewFile {
   QString path;   ///< Of the file that was written.
@@ -32,7 +33,7 @@ struct NewFile {
 /// with the first free number from 2 on before its suffix. Others may do the same meanwhile, in
 /// this program or another: everybody gets a name of their own. A file has its name only once the
 /// disk has all of it.
-NewFile WriteNewFile(const QString& path, const QByteArray& bytes);
+PROJECTOR_FLEET_EXPORT NewFile WriteNewFile(const QString& path, const QByteArray& bytes);
 
 struct FileBytes {
   QByteArray bytes;
@@ -41,6 +42,6 @@ struct FileBytes {
 
 /// Reads a file, a device or a pipe to its end, however slowly it is written, or its first `most`
 /// bytes. "-" is standard input, whose mode (blocking or not) is used as it is.
-FileBytes ReadToEnd(const QString& path, qsizetype most);
+PROJECTOR_FLEET_EXPORT FileBytes ReadToEnd(const QString& path, qsizetype most);
 
 }  // namespace AdvancedControl

@@ -13,7 +13,7 @@
 #include <QTimer>
 #include <gtest/gtest.h>
 
-#include "app/profiles/ProfileFile.h"
+#include "fleet/ProfileFile.h"
 #include "i18n/Catalog.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/Soon.h"
@@ -111,9 +111,9 @@ bool IsOperable(const CDialog& page, const RowTemplate& row) {
 
 TEST(Sweep, NoTabOfAnyShippedProfileIsBlank) {
   std::vector<CModelInfo2> models;
-  const ProfileFileContents profiles = ReadProfileFile(TEST_CATALOG_DIR "/projectors.json");
-  for (const ProjectorProfile& profile : profiles.projectors) models.push_back(profile.Model);
-  ASSERT_FALSE(models.empty()) << profiles.error.toStdString();
+  const ProfileList list = ReadProfileList(TEST_CATALOG_DIR "/projectors.json");
+  for (const FleetProfile& profile : list.profiles) models.push_back(ModelInfoOf(profile));
+  ASSERT_FALSE(models.empty()) << list.error.toStdString();
   const auto expectFilled = [](OpenDialog&, CTabPage& page) {
     EXPECT_FALSE(page.Template()->rows.empty()) << "a page that no model has a row of";
     const auto* notice = qobject_cast<QLabel*>(page.GetDlgItem(CDialog::kNoticeId));

@@ -1,12 +1,13 @@
 #!/usr/bin/python3
 """Kills acctl and the simulator at random moments: scripts/kills.py FOLDER SECONDS [SEED].
 
-FOLDER has the programs. Held after each kill: a file of settings is whole, the undo file of a change that was cut off
+FOLDER has the programs. Held after each kill: a file of settings is whole, undoing a change that was cut off
 takes back all of it, and without an undo file nothing was changed; a program whose projector dies says so and ends, and
 the next one works on the projector that came back. Prints the number of kills; what was found is left in the folder
 that is named, and ends the run with 1."""
 
 import json
+import os
 import random
 import shutil
 import signal
@@ -39,6 +40,7 @@ class Kills:
         self.random = random.Random(seed)
         self.folder = Path(tempfile.mkdtemp(prefix="kills-"))
         self.profiles = self.folder / "profiles.json"
+        self.environment = {**os.environ, "XDG_STATE_HOME": str(self.folder / "state")}
         self.port = free_port()
         self.kills = 0
         self.simulator = None
@@ -68,7 +70,7 @@ class Kills:
 
     def acctl(self, *arguments):
         return subprocess.Popen([self.programs / "acctl", "--profiles", self.profiles, "--json", *arguments],
-                                cwd=self.folder, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
+                                cwd=self.folder, env=self.environment, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
 
     def finish(self, program, codes=(0,)):
         try:
@@ -89,7 +91,7 @@ class Kills:
             raise Found(f"{file} is not whole: {error}") from None
 
     def undo_files(self):
-        return sorted(self.folder.glob("*.undo.*.json"))
+        return sorted(self.folder.glob("state/advanced-control/undo/*"))
 
     def forget_undo(self):
         for file in self.undo_files():
@@ -114,8 +116,7 @@ class Kills:
         self.kill(program)
         undo = self.undo_files()
         for file in undo:
-            self.settings(file.name)
-            self.finish(self.acctl("apply", file.name, PROJECTOR))
+            self.finish(self.acctl("undo", str(file)))
         self.expect_good("not undone" if undo else "changed without an undo file")
         self.forget_undo()
 

@@ -56,6 +56,11 @@ if ! kills=$(scripts/kills.py "$bin" "$part" "$seed" 2>"$logs/kills.log"); then
   findings+=("kills: scripts/kills.py $bin $part $seed, and $logs/kills.log")
 fi
 
+echo "A playbook twice"
+if ! LONG=1 ctest --test-dir "build/$preset" -R '^script_tests$' --output-on-failure >"$logs/playbook.log" 2>&1; then
+  findings+=("a playbook: LONG=1 ctest -R script_tests, and $logs/playbook.log")
+fi
+
 echo "clang-tidy over everything"
 if ! (cmake --preset release -B build/check -DADVANCEDCONTROL_TESTS=OFF >/dev/null && cmake --build build/check &&
       scripts/tidy.py build/check) >"$logs/tidy.log" 2>&1; then

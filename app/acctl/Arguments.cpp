@@ -53,7 +53,8 @@ GivenWords Separate(const std::vector<std::string>& words) {
     if (option == nullptr) return fail("there is no option --" + name);
     if (option->value.empty() && value) return fail("--" + name + " takes no value");
     if (!option->value.empty() && !value) {
-      if (word + 1 == words.end()) return fail("--" + name + " needs " + std::string(option->value));
+      if (word + 1 == words.end())
+        return fail("--" + name + " needs " + std::string(option->value));
       value = *++word;
     }
     given.options.push_back({option, value.value_or(std::string()), isShort});
@@ -169,6 +170,14 @@ Arguments ParseArguments(const std::vector<std::string>& words) {
   Arguments arguments;
   TakeOwnSettings(arguments);
   if (!arguments.error.empty()) return arguments;
+  // The words of `complete` are those of another command, which may be incomplete.
+  if (!words.empty() && words.front() == FormOf(Command::Complete).name) {
+    arguments.command = Command::Complete;
+    arguments.words.assign(words.begin() + 1, words.end());
+    const auto option = std::ranges::find(words, "--profiles");
+    if (words.end() - option > 2) arguments.profiles = option[1];
+    return arguments;
+  }
   GivenWords given = Separate(words);
   if (!given.error.empty()) return Wrong(std::move(arguments), std::move(given.error));
   if (IsAsked(given, "version")) {
@@ -190,17 +199,13 @@ Arguments ParseArguments(const std::vector<std::string>& words) {
     return arguments;
   }
   arguments.command = form->command;
-  if (form->command == Command::Complete) {  // its words are another command's, options included
-    const auto command = std::ranges::find(words, form->name);
-    arguments.words.assign(command + 1, words.end());
-    return arguments;
-  }
   const Format usual = arguments.format;
   arguments.format = Format::Text;
   std::string error = TakeOptions(given, *form, arguments);
   if (!error.empty()) return Wrong(std::move(arguments), std::move(error));
   const bool isGiven = IsAsked(given, "format") || IsAsked(given, "json");
-  if (!isGiven || arguments.format == Format::Text) arguments.format = isGiven ? Format::Text : usual;
+  if (!isGiven || arguments.format == Format::Text)
+    arguments.format = isGiven ? Format::Text : usual;
   const bool isOfValues = arguments.format == Format::Tsv || arguments.format == Format::Value;
   if (isOfValues && !HasValues(form->command)) {
     if (isGiven) {

@@ -13,6 +13,7 @@ enum class Format { Text, Json, JsonLines, Tsv, Value };
 /// How projectors are reached.
 struct ConnectingOptions {
   std::string address{};       ///< Where the projector is, instead of its profile's address.
+  std::uint16_t port = 0;      ///< Of `Find`; 0 for that of PJLink.
   std::string password{};      ///< Of PJLink projectors whose profile has none.
   std::string passwordFile{};  ///< The file that has the password; empty for none.
   std::chrono::milliseconds timeOut{2000};  ///< For one answer.
@@ -32,12 +33,12 @@ struct Arguments {
 
   std::string profiles;  ///< Empty for the file that comes with the program.
   ConnectingOptions connecting;
-  std::vector<std::string> only;          ///< Patterns of keys; empty for all.
-  std::string folder;                     ///< Of `Save`: a file for each projector goes there.
-  std::string undoFolder;                 ///< Empty for the user's own.
-  int undoDays = 30;                      ///< Older undo files are removed.
-  std::optional<std::uint32_t> language;  ///< Of texts; without one, the system's.
-  std::chrono::milliseconds interval{1000};      ///< Of `Watch`.
+  std::vector<std::string> only;             ///< Patterns of keys; empty for all.
+  std::string folder;                        ///< Of `Save`: a file for each projector goes there.
+  std::string undoFolder;                    ///< Empty for the user's own.
+  int undoDays = 30;                         ///< Older undo files are removed.
+  std::optional<std::uint32_t> language;     ///< Of texts; without one, the system's.
+  std::chrono::milliseconds interval{1000};  ///< Of `Watch`.
   std::optional<std::chrono::milliseconds> wait;  ///< How long to wait for a state.
   std::string until;                              ///< Of `Watch`: "KEY=VALUE"; empty for none.
   std::string from;                               ///< Of `Set`: a file with the words.

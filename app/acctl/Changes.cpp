@@ -74,8 +74,8 @@ void CheckSteps(std::vector<Change>& changes, const Work& work, ProjectorAccess&
         value = projector.Settings().Read(projector.Connection(), setting, source);
       }
       if (!value) {
-        report.Add(FailureOf(projector, {ProblemCode::NotReadable, kNotReadable,
-                                         std::string(setting.key)}));
+        report.Add(FailureOf(projector,
+                             {ProblemCode::NotReadable, kNotReadable, std::string(setting.key)}));
         continue;
       }
       value = AimOf(change, work, target, value, ExitCode::WrongUse, report);
@@ -127,7 +127,10 @@ std::vector<Change> CheckedChanges(const Work& work, ProjectorAccess& projector,
     const ModelSetting* const setting =
         FindSetting(target.settings, work.arguments.words[i], kSet.isPossible);
     if (setting == nullptr || !target.LacksEntries(*setting)) continue;
-    report.Add({ProblemCode::InputsUnknown, kInputsNotRead, std::string(setting->key), {},
+    report.Add({ProblemCode::InputsUnknown,
+                kInputsNotRead,
+                std::string(setting->key),
+                {},
                 ExitCode::NoAnswer});
   }
   if (!StopsChanges(report)) CheckSteps(changes, work, projector, report);

@@ -11,8 +11,8 @@
 struct Change {
   const ModelSetting* setting;
   TypedValue typed;
-  std::string word;             ///< The value as it was typed.
-  std::optional<int> aim{};     ///< The device value; nothing until it is known.
+  std::string word;          ///< The value as it was typed.
+  std::optional<int> aim{};  ///< The device value; nothing until it is known.
 };
 
 /// Whether only the projector knows how far it can be stepped.

@@ -131,16 +131,25 @@ class Completer {
     for (const FleetProfile* profile : selection.projectors) {
       const ModelSettings& model = models_.Of(*profile);
       if (!seen.insert(&model).second) continue;
-      const bool isValue = command == Command::Set && (plain_.size() % 2 != 0) &&
-                           plain_.back().find('=') == std::string::npos;
+      const std::string key = KeyWithoutValue();
       if (command == Command::Set && equals != std::string::npos) {
         OfferValues(model, typed_.substr(0, equals), typed_.substr(0, equals + 1));
-      } else if (isValue) {
-        OfferValues(model, plain_.back(), "");
+      } else if (command == Command::Set && !key.empty()) {
+        OfferValues(model, key, "");
       } else {
         OfferKeys(model, UseBy(command));
       }
     }
+  }
+
+  /// The last key of `set`, if its value is yet to come; else empty.
+  std::string KeyWithoutValue() const {
+    std::string key;
+    for (std::size_t i = 2; i < plain_.size(); ++i) {
+      const bool isComplete = !key.empty() || plain_[i].find('=') != std::string::npos;
+      key = isComplete ? std::string() : plain_[i];
+    }
+    return key;
   }
 
   void OfferKeys(const ModelSettings& model, const Use& use) {

@@ -53,9 +53,9 @@ bool IsEqual(const Condition& condition, const ValueTexts& texts, const ModelSet
   const std::string code = texts.Code(setting, value, power);
   if (code == condition.value) return true;
   const bool isNumber = setting.kind == ModelSetting::Kind::Number;
-  const auto typed = texts.Parse(
-      setting, isNumber && condition.value.starts_with('-') ? '=' + condition.value
-                                                            : condition.value);
+  const auto typed =
+      texts.Parse(setting, isNumber && condition.value.starts_with('-') ? '=' + condition.value
+                                                                        : condition.value);
   return typed && !typed->relative && texts.Code(setting, typed->amount) == code;
 }
 

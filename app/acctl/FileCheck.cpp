@@ -5,7 +5,6 @@
 
 #include "app/acctl/Selection.h"
 #include "app/acctl/Uses.h"
-#include "device/ModelDataIntake.h"
 #include "fleet/JsonLines.h"
 
 namespace {
@@ -37,7 +36,8 @@ std::string Advice(const std::string& key, const std::vector<std::string_view>& 
   return std::string("; did you mean ").append(*nearest).append("?");
 }
 
-/// The values that a file may have for a setting: "97 to 159, shown as -31 to 31", "0 (Off), 1 (Theater)".
+/// The values that a file may have for a setting: "97 to 159, shown as -31 to 31", "0 (Off), 1
+/// (Theater)".
 std::string Possible(const SettingTexts& texts, const ModelSetting& setting) {
   if (setting.kind == Kind::Number) {
     const Range range = setting.range.value_or(Range{0, 0xFFFF});
@@ -65,7 +65,7 @@ std::optional<ModelSettings> ModelOf(const Snapshot& file,
     if (found == nullptr || model.ModelName == file.model) found = &profile;
   }
   if (found == nullptr) return {};
-  return ModelSettings(MakeModelData(found->model->info));
+  return ModelSettings(found->model->data);
 }
 
 /// A setting of the file, and what the projector's model and the file's own model say of it.

@@ -187,10 +187,11 @@ std::string HelpText(std::optional<Command> topic) {
 
 std::string ManPage(std::optional<Command> topic) {
   if (topic) return CommandPage(FormOf(*topic));
-  std::string text = ".TH ACCTL 1 \"\" \"Advanced Control\" \"User Commands\"\n.SH NAME\n"
-                     "acctl \\- read, change, save and restore the settings of projectors\n"
-                     ".SH SYNOPSIS\n.B acctl\n[\\fIoptions\\fR] \\fIcommand\\fR ...\n"
-                     ".SH DESCRIPTION\n";
+  std::string text =
+      ".TH ACCTL 1 \"\" \"Advanced Control\" \"User Commands\"\n.SH NAME\n"
+      "acctl \\- read, change, save and restore the settings of projectors\n"
+      ".SH SYNOPSIS\n.B acctl\n[\\fIoptions\\fR] \\fIcommand\\fR ...\n"
+      ".SH DESCRIPTION\n";
   text += Roff(kIntroduction) + "\n.PP\n" + Roff(kWords) + "\n.SH COMMANDS\n";
   std::string others;
   for (const CommandForm& form : CommandForms()) {
@@ -204,8 +205,9 @@ std::string ManPage(std::optional<Command> topic) {
   for (const OptionForm& option : OptionForms()) {
     if (option.isDefault) text += ' ' + Roff(option.name);
   }
-  text += ". The configuration file may give the same. An option overrides a variable, and a "
-          "variable overrides the file.\n";
+  text +=
+      ". The configuration file may give the same. An option overrides a variable, and a "
+      "variable overrides the file.\n";
   return text + RoffEntries("FILES", kFiles) + RoffExamples(AllExamples()) + ".SH SEE ALSO\n" +
          others + "advanced\\-control(1)\n";
 }

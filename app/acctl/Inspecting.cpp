@@ -22,9 +22,8 @@ Report RunSettings(const Work& work, ProjectorAccess& projector) {
   Table table;
   QJsonArray described;
   const SettingTexts& texts = work.texts.Shown();
-  for (const ModelSetting* setting :
-       Chosen(TargetOf(projector), UseBy(work.arguments.usedBy), work.arguments.words,
-              work.isForSeveral, report)) {
+  for (const ModelSetting* setting : Chosen(TargetOf(projector), UseBy(work.arguments.usedBy),
+                                            work.arguments.words, work.isForSeveral, report)) {
     described.append(DescribeSetting(work.texts, *setting));
     if (work.arguments.brief) {
       table.Add({std::string(setting->key)});

@@ -1,6 +1,7 @@
 #include "app/acctl/Listing.h"
 
 #include <algorithm>
+#include <map>
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -65,8 +66,8 @@ std::string Text(const ValueTexts& texts, const Explained& explained) {
   Table table;
   const std::string alias(AliasOf(setting.key));
   table.Add({std::string(setting.key), alias.empty() ? "" : "short name: " + alias});
-  const bool isListed = setting.kind == ModelSetting::Kind::Choice ||
-                        setting.kind == ModelSetting::Kind::Number;
+  const bool isListed =
+      setting.kind == ModelSetting::Kind::Choice || setting.kind == ModelSetting::Kind::Number;
   table.Add({"  tab", texts.Shown().Tab(setting)});
   table.Add({"  caption", texts.Shown().Caption(setting)});
   table.Add({"  kind", NameOf(setting.kind)});
@@ -126,9 +127,8 @@ int ListModels(const Work& work, ModelCache& models) {
     if (work.arguments.brief) {
       table.Add({model.ModelName});
     } else {
-      table.Add({model.ModelName, std::to_string(model.DialogType),
-                 std::to_string(model.ModelCode), std::to_string(count) + " projectors",
-                 std::to_string(settings) + " settings"});
+      table.Add({model.ModelName, std::to_string(model.DialogType), std::to_string(model.ModelCode),
+                 std::to_string(count) + " projectors", std::to_string(settings) + " settings"});
     }
     json.append(QJsonObject{{"model", Wide(model.ModelName)},
                             {"dialogType", model.DialogType},
@@ -144,15 +144,17 @@ int Explain(const Work& work, ModelCache& models) {
   for (const FleetProfile* profile : ModelsOf(work.profiles)) {
     const ModelSettings& model = models.Of(*profile);
     for (const ModelSetting& setting : model.All()) {
-      const bool isMeant =
-          std::ranges::any_of(work.arguments.words, [&](const std::string& word) {
-            return IsLike(setting.key, {word}) || AliasOf(setting.key) == word;
-          });
+      const bool isMeant = std::ranges::any_of(work.arguments.words, [&](const std::string& word) {
+        return IsLike(setting.key, {word}) || AliasOf(setting.key) == word;
+      });
       if (!isMeant) continue;
       // Models whose values differ are explained one by one.
       const QJsonObject json = DescribeSetting(work.texts, setting);
       auto same = std::ranges::find(found, json, &Explained::json);
-      if (same == found.end()) same = found.insert(found.end(), {&setting, json, {}});
+      if (same == found.end()) {
+        found.push_back({&setting, json, {}});
+        same = found.end() - 1;
+      }
       same->models.emplace_back(profile->model->info.ModelName);
     }
   }

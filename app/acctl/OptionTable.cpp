@@ -75,10 +75,9 @@ bool TakeLanguage(const std::string& text, std::optional<std::uint32_t>& languag
 }
 
 const std::vector<Command> kChanging{Command::Set, Command::Reset, Command::Apply, Command::Undo};
-const std::vector<Command> kAsking{Command::Settings, Command::Get,   Command::Set,
-                                   Command::Reset,    Command::Status, Command::Save,
-                                   Command::Diff,     Command::Apply, Command::Undo,
-                                   Command::Watch};
+const std::vector<Command> kAsking{Command::Settings, Command::Get,  Command::Set,  Command::Reset,
+                                   Command::Status,   Command::Save, Command::Diff, Command::Apply,
+                                   Command::Undo,     Command::Watch};
 
 std::vector<OptionForm> MakeOptions() {
   using A = Arguments;
@@ -100,6 +99,14 @@ std::vector<OptionForm> MakeOptions() {
        .help = "the projector is at ADDRESS; P gives only its model",
        .take = [](A& a, Text text) { return TakeText(text, a.connecting.address); },
        .of = kAsking},
+      {.name = "port",
+       .value = "N",
+       .help = "the port of the projectors that are searched; 4352 by default",
+       .take =
+           [](A& a, Text text) {
+             return TakeNumber<std::uint16_t>(text, 1, 65535, a.connecting.port);
+           },
+       .of = {Command::Find}},
       {.name = "password",
        .value = "TEXT",
        .help = "PJLink password; other users of this machine can see it here",

@@ -8,12 +8,12 @@
 #include "app/acctl/Arguments.h"
 
 struct OptionForm {
-  std::string_view name;
+  std::string_view name{};
   char letter = 0;         ///< The short form; 0 for none.
-  std::string_view value;  ///< What it takes; empty for a switch.
-  std::string_view help;
+  std::string_view value{};  ///< What it takes; empty for a switch.
+  std::string_view help{};
   /// Stores the value; false if it is not possible.
-  std::function<bool(Arguments&, const std::string&)> take;
+  std::function<bool(Arguments&, const std::string&)> take{};
   std::vector<Command> of{};  ///< The commands that have it; empty for all.
   bool isDefault = false;     ///< The environment and the configuration file may give it.
 

@@ -49,10 +49,9 @@ void TakeOwnSettings(Arguments& arguments) {
   constexpr qsizetype kMost = 65'536;
   const char* const named = std::getenv("ACCTL_CONFIG");
   const QString path =
-      named != nullptr
-          ? QString::fromLocal8Bit(named)
-          : QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-                QStringLiteral("/advanced-control/acctl.conf");
+      named != nullptr ? QString::fromLocal8Bit(named)
+                       : QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                             QStringLiteral("/advanced-control/acctl.conf");
   if (const FileBytes file = ReadToEnd(path, kMost); file.error.isEmpty()) {
     arguments.error = TakeFile(arguments, path, file.bytes);
   } else if (named != nullptr && *named != '\0') {

@@ -21,8 +21,8 @@ class Meter {
   int drawn_ = -1;
 };
 
-/// How many projectors a command works on at once. Reading takes little more than a connection each,
-/// so that hundreds of slow links are waited for together.
+/// How many projectors a command works on at once. Reading takes little more than a connection
+/// each, so that hundreds of slow links are waited for together.
 int JobsOf(const Arguments& arguments);
 
 /// Lets the process open as many files as so many jobs need, if the system allows it.

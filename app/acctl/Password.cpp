@@ -21,7 +21,8 @@ std::string GivenPassword(const Arguments& arguments, std::string& error) {
     std::string password = line.toStdString();
     const std::string reason = file.error.isEmpty() ? "its first line is empty"  //
                                                     : file.error.toStdString();
-    if (password.empty()) error = "--password-file " + arguments.connecting.passwordFile + ": " + reason;
+    if (password.empty())
+      error = "--password-file " + arguments.connecting.passwordFile + ": " + reason;
     return password;
   }
   const char* const password = std::getenv("ACCTL_PASSWORD");

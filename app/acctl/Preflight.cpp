@@ -5,7 +5,6 @@
 #include "app/acctl/Aliases.h"
 #include "app/acctl/Changes.h"
 #include "app/acctl/FileCheck.h"
-#include "device/ModelDataIntake.h"
 
 namespace {
 
@@ -57,7 +56,7 @@ void RejectCommonLacks(const std::vector<Report>& reports,
 
 const ModelSettings& ModelCache::Of(const FleetProfile& profile) {
   auto& model = models_[profile.model.get()];
-  if (!model) model = std::make_unique<ModelSettings>(MakeModelData(profile.model->info));
+  if (!model) model = std::make_unique<ModelSettings>(profile.model->data);
   return *model;
 }
 
@@ -71,7 +70,8 @@ std::vector<std::string> FileMistakes(const Work& work, const Projectors& projec
     const std::pair pair{&models.Of(*profile), &work.files.Of(profile->name)};
     if (std::ranges::find(checked, pair) != checked.end()) continue;
     checked.push_back(pair);
-    for (std::string& mistake : MistakesIn(work, *pair.second, *pair.first, InputNames::OfProfile)) {
+    for (std::string& mistake :
+         MistakesIn(work, *pair.second, *pair.first, InputNames::OfProfile)) {
       if (std::ranges::find(mistakes, mistake) == mistakes.end()) {
         mistakes.push_back(std::move(mistake));
       }

@@ -1,6 +1,7 @@
 #include "app/acctl/Printer.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QJsonDocument>
 
@@ -30,7 +31,8 @@ std::string Line(const QJsonObject& json) {
 /// A cell of a table separated by tabs, which must have neither tabs nor line breaks.
 std::string Cell(const QJsonValue& value) {
   std::string text = value.toVariant().toString().toStdString();
-  std::ranges::replace_if(text, [](char c) { return c == '\t' || c == '\n'; }, ' ');
+  std::ranges::replace_if(
+      text, [](char c) { return c == '\t' || c == '\n'; }, ' ');
   return text;
 }
 
@@ -51,9 +53,7 @@ QJsonObject EntryOf(const std::string& name, bool isSimulated, const Report& rep
 }  // namespace
 
 QJsonObject Envelope(Command command) {
-  return {{"format", "acctl"},
-          {"version", 1},
-          {"command", Wide(FormOf(command).name)}};
+  return {{"format", "acctl"}, {"version", 1}, {"command", Wide(FormOf(command).name)}};
 }
 
 QJsonObject Describe(const Problem& problem) {

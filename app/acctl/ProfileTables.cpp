@@ -33,9 +33,9 @@ int Finish(const Arguments& arguments, const std::string& text, const QJsonObjec
     QJsonObject json = Envelope(arguments.command);
     for (const QString& member : result.keys()) json[member] = result[member];
     const bool isLine = arguments.format == Format::JsonLines;
-    output =
-        QJsonDocument(json).toJson(isLine ? QJsonDocument::Compact : QJsonDocument::Indented)
-            .toStdString();
+    output = QJsonDocument(json)
+                 .toJson(isLine ? QJsonDocument::Compact : QJsonDocument::Indented)
+                 .toStdString();
     if (isLine) output += '\n';
   }
   return Print(output) ? code : ExitCode::Refused;
@@ -48,24 +48,6 @@ ProfileFileText ReadOrBegin(const std::string& path) {
   if (!file.error.isEmpty()) return file;
   file.error = ParseProfileList(file.text, Wide(path)).error;
   return file;
-}
-
-/// "192.0.2.0/24" or "192.0.2.7:4353" of the words of `find`; the port of the last one counts.
-QString TakeRange(const std::vector<std::string>& words, SearchOptions& options) {
-  QStringList ranges;
-  for (const std::string& word : words) {
-    const QString range = Wide(word);
-    const QString port = range.section(':', 1);
-    if (!port.isEmpty()) {
-      bool isNumber = false;
-      options.port = port.toUShort(&isNumber);
-      if (!isNumber || options.port == 0) return port + QStringLiteral(" is no port");
-    }
-    ranges += range.section(':', 0, 0);
-  }
-  SearchRange parsed = ParseSearchRange(ranges.join(','));
-  options.addresses = std::move(parsed.addresses);
-  return parsed.error;
 }
 
 QJsonObject Describe(const FoundProjector& found) {
@@ -91,8 +73,7 @@ QString AddFound(const Arguments& arguments, const std::vector<FoundProjector>& 
   result["moved"] = QJsonArray::fromStringList(taken.moved);
   text += std::to_string(taken.added.size()) + " added, " + std::to_string(taken.moved.size()) +
           " moved, " + std::to_string(taken.known) + " known\n";
-  return taken.text == file.text ? QString()
-                                 : WriteProfileText(Wide(arguments.file), taken.text);
+  return taken.text == file.text ? QString() : WriteProfileText(Wide(arguments.file), taken.text);
 }
 
 }  // namespace
@@ -102,11 +83,18 @@ int Find(const Arguments& arguments, const std::string& password) {
   options.limits.connect = arguments.connecting.timeOut;
   if (arguments.words.empty()) {
     options.broadcasts = NetworkBroadcasts();
-  } else if (const QString error = TakeRange(arguments.words, options); !error.isEmpty()) {
-    return Fail(arguments, {.code = ProblemCode::WrongUse,
-                            .text = error.toStdString(),
-                            .exitCode = ExitCode::WrongUse});
+  } else {
+    QStringList words;
+    for (const std::string& word : arguments.words) words += Wide(word);
+    SearchRange range = ParseSearchRange(words.join(' '));
+    if (!range.error.isEmpty()) {
+      return Fail(arguments, {.code = ProblemCode::WrongUse,
+                              .text = range.error.toStdString(),
+                              .exitCode = ExitCode::WrongUse});
+    }
+    options.addresses = std::move(range.addresses);
   }
+  if (arguments.connecting.port != 0) options.port = arguments.connecting.port;
   std::vector<FoundProjector> found;
   QEventLoop loop;
   SearchDriver search(
@@ -149,9 +137,10 @@ int Import(const Arguments& arguments) {
   }
   const ProfileFileText file = ReadOrBegin(arguments.profiles);
   const FileBytes csv = ReadToEnd(Wide(arguments.file), kMost);
-  const QString unread = csv.error.isEmpty()
-                             ? QString()
-                             : QStringLiteral("cannot read %1: %2").arg(Wide(arguments.file), csv.error);
+  const QString unread =
+      csv.error.isEmpty()
+          ? QString()
+          : QStringLiteral("cannot read %1: %2").arg(Wide(arguments.file), csv.error);
   for (const QString& error : {file.error, unread}) {
     if (!error.isEmpty()) return Fail(arguments, {ProblemCode::File, error.toStdString()});
   }

@@ -75,8 +75,7 @@ class ProgramRun {
                   .command = CommandLine(words),
                   .address = arguments.connecting.address,
                   .isUndo = arguments.command == Command::Undo} {
-    const bool isEnglish =
-        arguments.language.value_or(SystemLanguageId()) == kEnglishUnitedStates;
+    const bool isEnglish = arguments.language.value_or(SystemLanguageId()) == kEnglishUnitedStates;
     if (!isEnglish) english_.emplace(folders_, kEnglishUnitedStates);
   }
 
@@ -160,7 +159,8 @@ int ProgramRun::ListRecordedRuns() const {
   QJsonArray json;
   for (const RecordedRun& run : ListRuns(UndoFolderOf(arguments_))) {
     const auto count = static_cast<int>(run.undo.size());
-    table.Add({run.name, run.time, std::to_string(count) + (count == 1 ? " projector" : " projectors"),
+    table.Add({run.name, run.time,
+               std::to_string(count) + (count == 1 ? " projector" : " projectors"),
                run.isUndone ? "undone" : "", run.command});
     json.append(QJsonObject{{"run", Wide(run.name)},
                             {"time", Wide(run.time)},
@@ -209,7 +209,10 @@ int ProgramRun::Run() {
   if (arguments_.list) return ListRecordedRuns();
   if (const std::string error = Prepare(); !error.empty()) return FailWrongUse(arguments_, error);
   const ValueTexts texts(shown_, english_ ? *english_ : shown_);
-  const Work listing{.arguments = arguments_, .texts = texts, .profiles = profiles_, .isInterrupted = [] { return false; }};
+  const Work listing{
+      .arguments = arguments_, .texts = texts, .profiles = profiles_, .isInterrupted = [] {
+        return false;
+      }};
   switch (arguments_.command) {
     case Command::List:
       return List(listing, projectors_);
@@ -221,7 +224,7 @@ int ProgramRun::Run() {
       return Export(projectors_);
     case Command::Complete:
       return Print(Completions(arguments_.words, profiles_, models_, texts)) ? ExitCode::Done
-                                                                            : ExitCode::Refused;
+                                                                             : ExitCode::Refused;
     default:
       break;
   }

@@ -9,7 +9,6 @@
 #include "app/acctl/Output.h"
 #include "app/acctl/Password.h"
 #include "app/acctl/Signals.h"
-#include "app/profiles/ProjectorProfile.h"
 #include "device/Connect.h"
 
 namespace {
@@ -44,7 +43,7 @@ bool IsChanging(const Arguments& arguments) {
 }
 
 /// The projector's address; nothing if it is simulated.
-std::optional<ProjectorAddress> AddressOf(const FleetProfile& profile, const Work& work,
+std::optional<ProjectorAddress> PresentAddress(const FleetProfile& profile, const Work& work,
                                           const std::string& password) {
   if (IsSimulated(profile, work.arguments)) return std::nullopt;
   const std::string& given = work.arguments.connecting.address;
@@ -58,22 +57,22 @@ std::shared_ptr<ProjectorChannel> ChannelTo(const FleetProfile& profile,
                                             const std::optional<ProjectorAddress>& address,
                                             std::chrono::milliseconds timeOut) {
   if (address) return MakeUnboundedChannel(*address, timeOut);
-  return std::make_shared<SimulatedProjector>(SimulatedModelOf(MakeProjectorProfile(profile)));
+  return std::make_shared<SimulatedProjector>(SimulatedModelOf(profile));
 }
 
 void Connect(const Work& work, const FleetProfile& profile,
              const std::optional<ProjectorAddress>& address, OpenProjector& open) {
   const auto timeOut = work.arguments.connecting.timeOut;
   if (open.access) return;
-  open.access.emplace(MakeProjectorProfile(profile), ChannelTo(profile, address, timeOut), timeOut);
+  open.access.emplace(profile, ChannelTo(profile, address, timeOut), timeOut);
   open.access->AskForInputs(InputsNeededBy(work, TargetOf(*open.access)));
 }
 
 int NameWidth(const Projectors& projectors, const Arguments& arguments) {
   int width = 0;
   for (const FleetProfile* profile : projectors) {
-    width = std::max(width,
-                     DisplayWidth(ShownName(profile->name, IsSimulated(*profile, arguments))));
+    width =
+        std::max(width, DisplayWidth(ShownName(profile->name, IsSimulated(*profile, arguments))));
   }
   return width;
 }
@@ -87,7 +86,7 @@ bool IsSimulated(const FleetProfile& profile, const Arguments& arguments) {
 std::unique_ptr<OpenProjector> OpenWithoutLock(const Work& work, const FleetProfile& profile,
                                                const std::string& password) {
   auto open = std::make_unique<OpenProjector>();
-  Connect(work, profile, AddressOf(profile, work, password), *open);
+  Connect(work, profile, PresentAddress(profile, work, password), *open);
   return open;
 }
 
@@ -103,7 +102,7 @@ ProjectorRuns::ProjectorRuns(const Work& work, Projectors projectors, ModelCache
 ProjectorRuns::Attempt ProjectorRuns::Try(int number, const Step& step,
                                           const std::string& password) {
   const Arguments& arguments = work_.arguments;
-  const auto address = ::AddressOf(Profile(number), work_, password);
+  const auto address = PresentAddress(Profile(number), work_, password);
   const bool isListed = arguments.command == Command::Settings;  // which asks for inputs at most
   Attempt attempt;
   auto open = open_.Take(number);
@@ -131,7 +130,8 @@ ProjectorRuns::Attempt ProjectorRuns::Try(int number, const Step& step,
   attempt.lacksPassword = pjLink != nullptr && pjLink->password.empty() &&
                           projector.Channel().Connection() == ConnectionState::PasswordRequired;
   const CPjtInterface::Tally sent = projector.Connection().Sent();
-  attempt.mayRepeat = !IsChanging(arguments) || (sent.commands == sent.unanswered && sent.uncertain == 0);
+  attempt.mayRepeat =
+      !IsChanging(arguments) || (sent.commands == sent.unanswered && sent.uncertain == 0);
   if (step.keepsOpen && attempt.report.code == ExitCode::Done) open_.Keep(number, std::move(open));
   return attempt;
 }

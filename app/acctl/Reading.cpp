@@ -104,8 +104,8 @@ void ReadInto(const Work& work, ProjectorAccess& projector,
       if (IsPower(*setting)) power = StateOf(*value, projector);
     } else if (const auto& channel = projector.Channel();
                !channel.HasAnswered() || (!channel.IsOffered() && IsNamed(work, *setting))) {
-      report.Add(FailureOf(projector, {ProblemCode::NotReadable, kNotReadable,
-                                       std::string(setting->key)}));
+      report.Add(FailureOf(projector,
+                           {ProblemCode::NotReadable, kNotReadable, std::string(setting->key)}));
     } else if (channel.IsOffered()) {
       unread.emplace_back(setting->key);
     } else if (!work.arguments.words.empty()) {

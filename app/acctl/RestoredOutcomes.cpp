@@ -98,7 +98,8 @@ ReportedSetting RestoredOutcomes::Judge(const RestoredSetting& restored) const {
             ExitCode::Refused};
   }
   if (restored.outcome == Outcome::Refused) {
-    const std::string reason = restored.now ? "refused, it is " + isNow() : std::string("it ") + kNotReadable;
+    const std::string reason =
+        restored.now ? "refused, it is " + isNow() : std::string("it ") + kNotReadable;
     return {&restored, Outcome::Refused,
             restored.now ? ProblemCode::Refused : ProblemCode::NotReadable, reason,
             ExitCode::Refused};
@@ -172,8 +173,7 @@ void RestoredOutcomes::PutInto(Report& report) const {
     if (reported.outcome == Outcome::NotOffered && !reported.reason.empty()) {
       ++notInPjLink;
     } else if (!reported.reason.empty()) {
-      report.Add(
-          {reported.code, reported.reason, saved.key, NameOf(saved), reported.exitCode});
+      report.Add({reported.code, reported.reason, saved.key, NameOf(saved), reported.exitCode});
     } else if (list.problem != nullptr && list.exitCode != ExitCode::Done) {
       report.Add({list.code, list.problem, saved.key, NameOf(saved), list.exitCode});
     } else if (list.problem != nullptr) {

@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include "app/acctl/Selection.h"
 #include "fleet/WholeFile.h"
 
 namespace {
@@ -33,10 +34,9 @@ std::string CheckUndo(const Arguments& arguments, const Snapshot& file,
 std::string CheckOnly(const Arguments& arguments, SettingsFileContents& contents) {
   Snapshot& snapshot = contents.snapshot;
   for (const std::string& pattern : arguments.only) {
-    const bool isNone =
-        std::ranges::none_of(snapshot.settings, [&pattern](const SavedSetting& saved) {
-          return IsLike(saved.key, {pattern});
-        });
+    const bool isNone = std::ranges::none_of(
+        snapshot.settings,
+        [&pattern](const SavedSetting& saved) { return IsLike(saved.key, {pattern}); });
     if (isNone) return "--only " + pattern + ": the file has no such setting";
   }
   // A part of these would be restored under a source or mode that they do not belong to.
@@ -90,8 +90,7 @@ std::string PathIn(const QDir& folder, const std::string& projector,
     if (taken.contains(file.toStdString())) continue;
     if (!QFileInfo::exists(file)) return file.toStdString();
     const SettingsFileContents contents = ReadSettingsFile(file);
-    const bool isOther =
-        contents.error.isEmpty() && contents.snapshot.projector != projector;
+    const bool isOther = contents.error.isEmpty() && contents.snapshot.projector != projector;
     if (!isOther) return file.toStdString();
   }
 }
@@ -167,6 +166,7 @@ void TakeRun(const RecordedRun& run, const std::vector<FleetProfile>& profiles,
     files.own[profile.name] = {.snapshot = *found->second, .name = run.path};
   }
   for (const auto& [id, snapshot] : run.undo) {
-    if (!known.contains(id)) left.push_back(snapshot->projector + ": is in the profile file no more");
+    if (!known.contains(id))
+      left.push_back(snapshot->projector + ": is in the profile file no more");
   }
 }

@@ -12,7 +12,7 @@ namespace {
 /// Reports settings that could not be read. Whether the projector is resting, so that this is no
 /// error.
 bool AddUnread(const Work& work, ProjectorAccess& projector, std::vector<std::string> unread,
-                  Report& report) {
+               Report& report) {
   const Target target = TargetOf(projector);
   const auto isMeant = [&work](std::string_view key) { return IsLike(key, work.arguments.only); };
   std::erase_if(unread, [&](const std::string& key) {
@@ -25,7 +25,10 @@ bool AddUnread(const Work& work, ProjectorAccess& projector, std::vector<std::st
   if (isInputUnread && rests) unread.emplace_back(input->key);
   ReportUnread(unread, power, "cannot be read now, and is left out", report);
   if (isInputUnread && !rests) {
-    report.Add({ProblemCode::InputsUnknown, kInputsNotRead, std::string(input->key), {},
+    report.Add({ProblemCode::InputsUnknown,
+                kInputsNotRead,
+                std::string(input->key),
+                {},
                 ExitCode::NoAnswer});
   }
   return rests;

@@ -77,8 +77,7 @@ class Selector {
       found = true;
     }
     if (!found && selection_.error.empty()) {
-      selection_.error =
-          "there is no projector '" + std::string(term) + "'; acctl list shows all";
+      selection_.error = "there is no projector '" + std::string(term) + "'; acctl list shows all";
     }
   }
 

@@ -109,10 +109,10 @@ void SetRun::Make(Result& result) {
   const ModelSetting& setting = *result.change->setting;
   CPjtInterface& connection = projector_.Connection();
   const CPjtInterface::Tally before = connection.Sent();
-  const Sent sent = projector_.Settings().Change(
-      connection, setting, *result.aim,
-      {work_.texts.Shown().Value(setting, *result.aim), result.source,
-       ProgressOf(work_, projector_).goesOn});
+  const Sent sent =
+      projector_.Settings().Change(connection, setting, *result.aim,
+                                   {work_.texts.Shown().Value(setting, *result.aim), result.source,
+                                    ProgressOf(work_, projector_).goesOn});
   const CPjtInterface::Tally after = connection.Sent();
   // A setter without a result says nothing; reading the setting does.
   if (!projector_.Channel().IsGone() && setting.readable) {
@@ -144,8 +144,8 @@ void SetRun::MakeSteps(Result& result) {
 void SetRun::Fail(Result& result, const char* outcome, const char* code, std::string text,
                   int exitCode) {
   result.outcome = outcome;
-  result.problem = Problem{code, std::move(text), std::string(result.change->setting->key), {},
-                           exitCode};
+  result.problem =
+      Problem{code, std::move(text), std::string(result.change->setting->key), {}, exitCode};
 }
 
 std::string SetRun::NowText(const Result& result) const {
@@ -220,8 +220,8 @@ void SetRun::WaitForEffect(std::chrono::milliseconds time) {
   const auto end = Clock::now() + time;
   auto next = Clock::now();
   const auto isAwaited = [this](const Result& result) {
-    const bool mayCome = std::string_view(result.outcome) == "done" ||
-                         std::string_view(result.outcome) == "pending";
+    const bool mayCome =
+        std::string_view(result.outcome) == "done" || std::string_view(result.outcome) == "pending";
     return mayCome && result.change->setting->readable && !IsInEffect(result);
   };
   while (progress.goesOn() && std::ranges::any_of(results_, isAwaited) && Clock::now() < end) {

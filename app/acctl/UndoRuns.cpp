@@ -70,8 +70,7 @@ void RemoveOlder(const QString& folder, int days) {
 
 RecordedRun ReadRun(const QString& path) {
   constexpr qsizetype kMost = qsizetype{1} << 30;
-  RecordedRun run{.path = path,
-                  .name = QFileInfo(path).completeBaseName().toStdString()};
+  RecordedRun run{.path = path, .name = QFileInfo(path).completeBaseName().toStdString()};
   const FileBytes file = ReadToEnd(path, kMost);
   if (!file.error.isEmpty()) {
     run.error = QStringLiteral("cannot read %1: %2").arg(path, file.error);
@@ -139,8 +138,7 @@ bool UndoRecorder::Create(const QByteArray& line) {
                      {"command", Wide(run_.command)}};
   if (!run_.address.empty()) header["connect"] = Wide(run_.address);
   if (run_.isUndo) header["isUndo"] = true;
-  const NewFile made =
-      WriteNewFile(QDir(folder_).filePath(stamp + kSuffix), LineOf(header) + line);
+  const NewFile made = WriteNewFile(QDir(folder_).filePath(stamp + kSuffix), LineOf(header) + line);
   error_ = made.error;
   if (!error_.isEmpty()) return false;
   path_ = made.path;
@@ -150,7 +148,8 @@ bool UndoRecorder::Create(const QByteArray& line) {
 
 bool UndoRecorder::Append(const QByteArray& line) {
   if (WriteAndSync(file_, line)) return true;
-  error_ = QStringLiteral("cannot write %1: %2").arg(path_, QString::fromLocal8Bit(std::strerror(errno)));
+  error_ = QStringLiteral("cannot write %1: %2")
+               .arg(path_, QString::fromLocal8Bit(std::strerror(errno)));
   return false;
 }
 

@@ -147,11 +147,10 @@ std::vector<const ModelSetting*> Chosen(const Target& target, const Use& use,
       return Names(target, use, word, *setting);
     };
     if (std::ranges::any_of(chosen, isNamed)) continue;
-    const bool exists =
-        FindSetting(settings, word) != nullptr ||
-        std::ranges::any_of(settings.All(), [&](const ModelSetting& setting) {
-          return IsLike(setting.key, {word});
-        });
+    const bool exists = FindSetting(settings, word) != nullptr ||
+                        std::ranges::any_of(settings.All(), [&](const ModelSetting& setting) {
+                          return IsLike(setting.key, {word});
+                        });
     const bool isPossible = std::ranges::any_of(settings.All(), [&](const ModelSetting& setting) {
       return Names(target, use, word, setting) && use.isPossible(setting);
     });

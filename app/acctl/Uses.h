@@ -65,12 +65,11 @@ inline constexpr Use kRead{[](const ModelSetting& setting) { return setting.read
                            "this cannot be read", IsReadOverPjLink};
 inline constexpr Use kSet{[](const ModelSetting& setting) { return setting.changeable; },
                           "this cannot be set", IsChangedOverPjLink};
-inline constexpr Use kSaved{[](const ModelSetting& setting) { return setting.Restorable(); },
-                            "this cannot be restored",
-                            [](const ModelSetting& setting, const ModelData& model) {
-                              return IsReadOverPjLink(setting, model) &&
-                                     IsChangedOverPjLink(setting, model);
-                            }};
+inline constexpr Use kSaved{
+    [](const ModelSetting& setting) { return setting.Restorable(); }, "this cannot be restored",
+    [](const ModelSetting& setting, const ModelData& model) {
+      return IsReadOverPjLink(setting, model) && IsChangedOverPjLink(setting, model);
+    }};
 // Resetting an hour counter cannot be undone, so no pattern or short name stands for one.
 inline constexpr Use kReset{
     [](const ModelSetting& setting) { return setting.reset.has_value(); }, "this cannot be reset",

@@ -24,7 +24,8 @@ std::string WordOf(std::string_view text) {
 }
 
 bool IsNumber(std::string_view text) {
-  return !text.empty() && std::ranges::all_of(text, [](unsigned char c) { return std::isdigit(c); });
+  return !text.empty() &&
+         std::ranges::all_of(text, [](unsigned char c) { return std::isdigit(c); });
 }
 
 }  // namespace
@@ -64,8 +65,8 @@ std::string ValueTexts::Code(const ModelSetting& setting, int value,
   const auto entry = std::ranges::find(setting.entries, value, &ListEntry::value);
   if (entry != setting.entries.end()) return EntryCode(setting, *entry);
   const std::string word = WordOf(english_.Value(setting, value));
-  const bool isCount = setting.kind != ModelSetting::Kind::State || word.empty() ||
-                       IsNumber(word.substr(0, 1));
+  const bool isCount =
+      setting.kind != ModelSetting::Kind::State || word.empty() || IsNumber(word.substr(0, 1));
   return isCount ? std::to_string(value - setting.bias) : word;
 }
 

@@ -26,8 +26,7 @@ struct Seen {
   bool IsLike(const Seen& other, const ValueTexts& texts, const ModelSetting& setting) const {
     if (value != other.value) return false;
     // Warming up and on are one value.
-    return !value || texts.Code(setting, *value, power) ==
-                         texts.Code(setting, *value, other.power);
+    return !value || texts.Code(setting, *value, power) == texts.Code(setting, *value, other.power);
   }
 };
 
@@ -36,9 +35,9 @@ struct Shared {
   const Work& work;
   std::optional<Condition> until;
   std::optional<Clock::time_point> end;
-  std::mutex mutex{};                  ///< For the output.
+  std::mutex mutex{};  ///< For the output and the code.
   std::atomic<bool> isReaderGone = false;
-  std::atomic<int> code = ExitCode::Done;
+  int code = ExitCode::Done;
 
   bool GoesOn() const {
     return !work.isInterrupted() && !isReaderGone && (!end || Clock::now() < *end);
@@ -47,7 +46,10 @@ struct Shared {
     const std::lock_guard lock(mutex);
     if (!isReaderGone && !Print(text)) isReaderGone = true;
   }
-  void Fail(int exitCode) { code = std::max(code.load(), exitCode); }
+  void Fail(int exitCode) {
+    const std::lock_guard lock(mutex);
+    code = std::max(code, exitCode);
+  }
 };
 
 class ProjectorWatch {
@@ -117,15 +119,13 @@ class ProjectorWatch {
       }
     }
     const auto& until = shared_.until;
-    isFinished_ = isFinished_ ||
-                  (until && value && IsMeant(projector, setting) &&
-                   IsMet(*until, shared_.work.texts, setting, *value, seen.power));
+    isFinished_ = isFinished_ || (until && value && IsMeant(projector, setting) &&
+                                  IsMet(*until, shared_.work.texts, setting, *value, seen.power));
   }
 
   bool IsMeant(const ProjectorAccess& projector, const ModelSetting& setting) const {
     Report ignored;
-    const auto named =
-        Chosen(TargetOf(projector), kRead, {shared_.until->key}, true, ignored);
+    const auto named = Chosen(TargetOf(projector), kRead, {shared_.until->key}, true, ignored);
     return std::ranges::find(named, &setting) != named.end();
   }
 
@@ -215,8 +215,8 @@ int Watch(const Work& work, const Projectors& projectors, ModelCache& models) {
   AllowFilesFor(static_cast<int>(projectors.size()));
   int width = 0;
   for (const FleetProfile* profile : projectors) {
-    width = std::max(
-        width, DisplayWidth(ShownName(profile->name, IsSimulated(*profile, work.arguments))));
+    width = std::max(width,
+                     DisplayWidth(ShownName(profile->name, IsSimulated(*profile, work.arguments))));
   }
   {
     std::vector<std::jthread> threads;
@@ -225,5 +225,5 @@ int Watch(const Work& work, const Projectors& projectors, ModelCache& models) {
           [&shared, profile, width] { ProjectorWatch(shared, *profile, width).Run(); });
     }
   }
-  return shared.isReaderGone ? ExitCode::Refused : shared.code.load();
+  return shared.isReaderGone ? ExitCode::Refused : shared.code;
 }

@@ -18,7 +18,8 @@ class UndoRecorder;
 /// The files of settings that a command uses: one for all projectors, or each projector's own.
 struct SettingsFiles {
   SettingsFileContents common{};
-  std::map<std::string, SettingsFileContents> own{};  ///< By name; if not empty, `common` is unused.
+  std::map<std::string, SettingsFileContents>
+      own{};  ///< By name; if not empty, `common` is unused.
 
   const SettingsFileContents& Of(const std::string& projector) const {
     const auto found = own.find(projector);
@@ -35,7 +36,7 @@ struct Work {
   SettingsFiles files{};
   std::map<std::string, std::string> paths{};  ///< The file to save each projector in, by name.
   std::map<std::string, std::string> ids{};    ///< What tells a projector from others, by name.
-  std::string password{};  ///< Of PJLink projectors whose profile has none.
-  UndoRecorder* undo = nullptr;  ///< Null if the command changes nothing.
+  std::string password{};                      ///< Of PJLink projectors whose profile has none.
+  UndoRecorder* undo = nullptr;                ///< Null if the command changes nothing.
   std::function<bool()> isInterrupted;
 };

@@ -24,6 +24,17 @@ Arguments Wrong(Arguments arguments, std::string error) {
   return arguments;
 }
 
+/// Whether JSON is wanted, for errors before the options are taken.
+bool WantsJson(const std::vector<std::string>& words) {
+  for (std::size_t i = 0; i < words.size(); ++i) {
+    const bool isFormat = i > 0 && (words[i - 1] == "-o" || words[i - 1] == "--format");
+    if (words[i] == "--json" || words[i] == "--format=json" || (isFormat && words[i] == "json")) {
+      return true;
+    }
+  }
+  return false;
+}
+
 // "--name", "--name value", "--name=value", "-o value". Words after "--" are never options, and
 // any other single minus begins a value.
 GivenWords Separate(const std::vector<std::string>& words) {
@@ -179,6 +190,8 @@ Arguments ParseArguments(const std::vector<std::string>& words) {
     return arguments;
   }
   GivenWords given = Separate(words);
+  const Format usual = arguments.format;
+  if (WantsJson(words)) arguments.format = Format::Json;
   if (!given.error.empty()) return Wrong(std::move(arguments), std::move(given.error));
   if (IsAsked(given, "version")) {
     arguments.command = Command::Version;
@@ -199,13 +212,11 @@ Arguments ParseArguments(const std::vector<std::string>& words) {
     return arguments;
   }
   arguments.command = form->command;
-  const Format usual = arguments.format;
   arguments.format = Format::Text;
   std::string error = TakeOptions(given, *form, arguments);
   if (!error.empty()) return Wrong(std::move(arguments), std::move(error));
   const bool isGiven = IsAsked(given, "format") || IsAsked(given, "json");
-  if (!isGiven || arguments.format == Format::Text)
-    arguments.format = isGiven ? Format::Text : usual;
+  if (!isGiven) arguments.format = usual;
   const bool isOfValues = arguments.format == Format::Tsv || arguments.format == Format::Value;
   if (isOfValues && !HasValues(form->command)) {
     if (isGiven) {

@@ -59,7 +59,7 @@ std::string TakeWordsFrom(Arguments& arguments) {
       return arguments.from + ": '" + lines[i] + "' is not KEY=VALUE";
     }
   }
-  return {};
+  return arguments.words.empty() ? arguments.from + ": has no KEY=VALUE" : std::string();
 }
 
 /// One run of the program for a command that works with projectors.

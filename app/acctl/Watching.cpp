@@ -96,7 +96,6 @@ class ProjectorWatch {
              projector.Settings().Read(projector.Connection(), *setting, source));
       }
       if (projector.Channel().IsGone()) break;
-      if (!HasReader()) shared_.isReaderGone = true;
       if (!isFinished_) Wait(work.arguments.interval);
     }
     if (projector.Channel().IsGone() && !std::exchange(isSilent_, true)) Add(NoAnswerOf(projector));
@@ -171,7 +170,10 @@ class ProjectorWatch {
   void Wait(std::chrono::milliseconds time) const {
     constexpr std::chrono::milliseconds kStep{20};
     const auto end = Clock::now() + time;
-    while (shared_.GoesOn() && Clock::now() < end) std::this_thread::sleep_for(kStep);
+    while (shared_.GoesOn() && Clock::now() < end) {
+      std::this_thread::sleep_for(kStep);
+      if (!HasReader()) shared_.isReaderGone = true;
+    }
   }
 
   Shared& shared_;

@@ -11,4 +11,4 @@ for line in "${(@f)$(acctl complete "${(@Q)words[2,CURRENT-1]}" "${(Q)PREFIX}" 2
     *) candidates+=("$line") ;;
   esac
 done
-compadd -- "${candidates[@]}"
+(($#candidates)) && compadd -- "${candidates[@]}"

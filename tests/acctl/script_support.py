@@ -27,8 +27,6 @@ def write_rooms(path):
 class Building(unittest.TestCase):
     """Each test has projectors of its own, in their first state, and a folder."""
 
-    SIMULATOR = []
-
     def setUp(self):
         self.folder = Path(tempfile.mkdtemp(prefix="acctl-"))
         self.addCleanup(shutil.rmtree, self.folder)
@@ -42,12 +40,19 @@ class Building(unittest.TestCase):
     def start_simulator(self, *options):
         simulator = subprocess.Popen(
             [PROGRAMS / "advanced-control-simulator", "--profiles", self.folder / "rooms.json", "--write-profiles",
-             self.folder / "served.json", *self.SIMULATOR, *options], stdout=subprocess.PIPE, text=True)
+             self.folder / "served.json", *options], stdout=subprocess.PIPE, text=True)
         self.addCleanup(self.stop, simulator)
         for line in simulator.stdout:
             if line.strip() == "ready":
-                return simulator
-        self.fail("the simulator does not start")
+                break
+        else:
+            self.fail("the simulator does not start")
+        # It serves each projector over PJLink too.
+        served = json.loads((self.folder / "served.json").read_text())
+        self.pjlink = [profile for profile in served["projectors"] if profile["link"] == "pjlink"]
+        served["projectors"] = [profile for profile in served["projectors"] if profile["link"] == "network"]
+        (self.folder / "served.json").write_text(json.dumps(served, indent=1))
+        return simulator
 
     def stop(self, simulator):
         simulator.terminate()

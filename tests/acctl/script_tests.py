@@ -79,7 +79,7 @@ class Output(Building):
                     ["get", "Office", "nonsense"], ["--connect", "tcp://127.0.0.1:1", "status", "Office"]]
         for command in commands:
             with self.subTest(command=command):
-                run = self.acctl("-o", "json", *command)
+                run = self.acctl("--json", *command)
                 VALIDATOR.validate(json.loads(run.stdout))
         lines = jsonschema.Draft202012Validator({"$ref": "#/$defs/line", "$defs": SCHEMA["$defs"]})
         for command in (["get", "*", "active-iris"], ["diff", ALL, "saved"], ["watch", ALL, "power", "--wait", "0.1"]):
@@ -89,16 +89,14 @@ class Output(Building):
     def test_the_form_does_not_depend_on_the_number_of_projectors(self):
         for words, output in (
                 (["get", "Office", "contrast"], "^Office  main.contrast  Contrast  0\n$"),
-                (["get", "Office,Seminar 1", "contrast"],
+                (["get", "Seminar 1,Office", "contrast"],
                  "^Seminar 1  picture.contrast  Contrast  0\nOffice     main.contrast  Contrast  0\n$"),
                 (["get", "Office", "contrast", "-o", "value"], "^0\n$"),
                 (["get", "Office", "power", "-o", "tsv"],
-                 "^projector\tkey\tvalue\tcode\ttext\tsimulated\nOffice\tstatus.power\t1\ton\tOn\tfalse\n$"),
+                 "^projector\tkey\tvalue\tcode\ttext\tsimulated\nOffice\tother.power\t1\ton\tOn\tfalse\n$"),
                 (["set", "Office", "contrast=-3"], "^Office  main.contrast  Contrast  0  ->  -3\n$"),
                 (["set", "Office", "contrast+=2"], "^Office  main.contrast  Contrast  -3  ->  -1\n$"),
                 (["set", "Office", "contrast-=2", "--dry-run"], "^Office  main.contrast  Contrast  -1  ->  -3\n$")):
-            if "Office,Seminar 1" in words:
-                words[1] = "Seminar 1,Office"
             self.check(words, 0, output)
         value = json.loads(self.acctl("-o", "jsonl", "get", "Office", "contrast").stdout)
         self.assertEqual({name: value[name] for name in ("name", "alias", "shown", "code")},
@@ -114,14 +112,13 @@ class Output(Building):
             for setting in projector["settings"]:
                 codes = [entry["code"] for entry in setting.get("entries", [])]
                 self.assertEqual(len(set(codes)), len(codes), setting["key"])
-                self.assertFalse([code for code in codes if not re.fullmatch("[a-z0-9-]*[a-z][a-z0-9-]*", code)])
+                self.assertFalse([code for code in codes if not re.fullmatch("[a-z0-9-]*[a-z-][a-z0-9-]*", code)])
         gamma = next(setting for setting in settings[0]["settings"] if setting["key"] == "picture.gamma")
         for entry in gamma["entries"]:
             run = self.json("set", "Lecture hall", "gamma=" + entry["code"])
             self.assertEqual(run["projectors"][0]["changes"][0]["after"]["value"], entry["value"])
 
     def test_errors_have_codes(self):
-        self.SIMULATOR = ["--fault", "silent"]
         for words, code, problem in (
                 (["status", "Office", "--connect", "tcp://127.0.0.1:1"], 3, "no-answer"),
                 (["set", "Lecture hall,Office", "active-iris=off"], 1, "no-such-setting")):
@@ -131,9 +128,11 @@ class Output(Building):
                          "out-of-range")
         self.assertEqual(self.json("get", "Nobody", code=2)["errors"][0]["code"], "wrong-use")
         self.acctl("set", "Seminar 1", "power=standby", "--wait", "60s")
-        entry = self.json("set", "Seminar 1", "blank=on", code=1)["projectors"][0]
+        port = self.pjlink[1]["connection"]["network"]["port"]
+        entry = self.json("set", "Seminar 1", "mute=on", "--connect", f"pjlink://127.0.0.1:{port}",
+                          code=1)["projectors"][0]
         self.assertEqual(entry["changes"][0]["outcome"], "busy")
-        self.assertEqual(entry["errors"][0], {"code": "standby", "key": "other.blank",
+        self.assertEqual(entry["errors"][0], {"code": "standby", "key": "other.mute",
                                               "text": "refused, the projector is in standby"})
 
     def test_simulated_projectors_are_marked(self):
@@ -200,10 +199,9 @@ class Runs(Building):
     def test_set_takes_a_file_and_waits(self):
         (self.folder / "evening").write_text("# dark\nbrightness=-4\n\ncontrast=1\n")
         self.check(["set", ALL, "--from", "evening"], 0, "->  -4")
-        self.check(["set", ALL, "--from", "-"], 2, errors="use: acctl set|no|is empty|KEY")
+        self.check(["set", ALL, "--from", "-"], 2, errors="-: has no KEY=VALUE")
         run = self.acctl("set", "Office", "--from", "-", text="contrast=2\n")
-        self.assertEqual((run.returncode, run.stdout), (0, "Office  main.contrast  Contrast  1  ->  2\n")
-                         if "1  ->" in run.stdout else (0, "Office  main.contrast  Contrast  0  ->  2\n"))
+        self.assertEqual((run.returncode, run.stdout), (0, "Office  main.contrast  Contrast  0  ->  2\n"))
         self.check(["set", "Office", "power=standby", "--wait", "60s", "-o", "value"], 0, "^Standby\n$")
 
     def test_a_silent_projector_is_retried_and_stops_others_only_if_asked(self):
@@ -269,9 +267,9 @@ class LookingUp(Building):
         self.check(["--profiles", "new.json", "list", "@x", "--brief"], 0, "^A\n$")
         run = self.acctl("import", "new.csv", ACCTL_PROFILES="")
         self.assertEqual((run.returncode, run.stderr), (2, "acctl: name the profile file with --profiles\n"))
-        port = next(int(profile["connection"]["network"]["port"]) for profile in
-                    json.loads((self.folder / "served.json").read_text())["projectors"])
-        self.check(["find", "127.0.0.1", "--port", str(port), "--add", "found.json"], 0, "0 added, 0 moved, 0 known")
+        port = str(self.pjlink[0]["connection"]["network"]["port"])
+        self.check(["find", "127.0.0.1", "--port", port, "--add", "found.json"], 0, "1 added, 0 moved, 0 known")
+        self.check(["find", "127.0.0.1", "--port", port, "--add", "found.json"], 0, "0 added, 0 moved, 1 known")
 
     def test_manual_pages_are_sound(self):
         commands = re.findall(r"^  (\w+) {2,}", self.acctl("--help").stdout.split("Options")[0], re.MULTILINE)
@@ -324,7 +322,8 @@ class Integrations(Building):
     def test_the_monitoring_plugin_has_the_usual_exit_codes(self):
         for words, code, output in (
                 (["*"], 0, "^PROJECTOR OK - .* \\| 'Lecture hall'=\\d+;;;0 .*projectors=4 faulty=0\n$"),
-                (["-w", "1", "Office"], 0, "OK"), (["-c", "1", "--nonsense", "Office"], 3, ""),
+                (["-w", "1", "Office"], 1, "^PROJECTOR WARNING - Office: lamp has \\d+ h \\|"),
+                (["-w", "1", "-c", "2", "*"], 2, "CRITICAL"), (["--nonsense", "Office"], 3, "^$"),
                 (["Nobody"], 3, "^PROJECTOR UNKNOWN - acctl: there is no projector")):
             run = self.run_program("check_projector", *words)
             with self.subTest(words=words):

@@ -70,8 +70,9 @@ void CheckSteps(std::vector<Change>& changes, const Work& work, ProjectorAccess&
       value = change.typed.amount;
     } else if (progress.goesOn()) {
       if (!value) {
-        const auto source = projector.Settings().PresentSource(projector.Connection(), setting);
-        value = projector.Settings().Read(projector.Connection(), setting, source);
+        change.source = projector.Settings().PresentSource(projector.Connection(), setting);
+        value = projector.Settings().Read(projector.Connection(), setting, change.source);
+        change.present = value;
       }
       if (!value) {
         report.Add(FailureOf(projector,

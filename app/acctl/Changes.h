@@ -11,8 +11,10 @@
 struct Change {
   const ModelSetting* setting;
   TypedValue typed;
-  std::string word;          ///< The value as it was typed.
-  std::optional<int> aim{};  ///< The device value; nothing until it is known.
+  std::string word;              ///< The value as it was typed.
+  std::optional<int> aim{};      ///< The device value; nothing until it is known.
+  std::optional<int> present{};  ///< The value before all changes, if the check has read it.
+  std::optional<int> source{};   ///< Its input source, if it has one.
 };
 
 /// Whether only the projector knows how far it can be stepped.

@@ -9,7 +9,7 @@
 
 struct OptionForm {
   std::string_view name{};
-  char letter = 0;         ///< The short form; 0 for none.
+  char letter = 0;           ///< The short form; 0 for none.
   std::string_view value{};  ///< What it takes; empty for a switch.
   std::string_view help{};
   /// Stores the value; false if it is not possible.

@@ -44,7 +44,7 @@ bool IsChanging(const Arguments& arguments) {
 
 /// The projector's address; nothing if it is simulated.
 std::optional<ProjectorAddress> PresentAddress(const FleetProfile& profile, const Work& work,
-                                          const std::string& password) {
+                                               const std::string& password) {
   if (IsSimulated(profile, work.arguments)) return std::nullopt;
   const std::string& given = work.arguments.connecting.address;
   ProjectorAddress address = given.empty() ? AddressOf(profile) : ParseAddress(given);

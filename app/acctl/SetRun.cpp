@@ -28,7 +28,9 @@ void SetRun::ReadBefore() {
   std::vector<Result*> readable;
   for (Result& result : results_) {
     const ModelSetting& setting = *result.change->setting;
-    if (!setting.readable || TargetOf(projector_).OnlySteps(setting)) continue;
+    result.before = result.change->present;
+    result.source = result.change->source;
+    if (!setting.readable || result.before || TargetOf(projector_).OnlySteps(setting)) continue;
     settings.push_back(&setting);
     readable.push_back(&result);
   }
@@ -39,9 +41,8 @@ void SetRun::ReadBefore() {
     readable[i]->before = model.Read(projector_.Connection(), *settings[i], reads[i].source);
   }
   if (!projector_.Channel().IsGone() || results_.empty()) return;
-  Problem problem = NoAnswerOf(projector_);
-  problem.key = results_.front().change->setting->key;
-  report_.Add(std::move(problem));
+  const Problem silence = NoAnswerOf(projector_);
+  Fail(results_.front(), "notDone", silence.code, silence.text, ExitCode::NoAnswer);
 }
 
 // An earlier change may have changed the value, or the source that it belongs to.

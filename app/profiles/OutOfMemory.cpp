@@ -20,19 +20,19 @@ iovec Bytes(const char* text) { return {const_cast<char*>(text), std::strlen(tex
 void EndWhenOutOfMemory(const char* program) {
   programName = program;
   std::set_new_handler(EndOutOfMemory);
-  // Thrown where nobody can catch it: on a thread, or in a function that does not throw.
+  // Thrown where nothing can catch it: on a thread, or in a `noexcept` function.
   otherwise = std::set_terminate([] {
     try {
       if (std::current_exception()) throw;
     } catch (const std::bad_alloc&) {
       EndOutOfMemory();
-    } catch (...) {  // not ours to tell
+    } catch (...) {  // another error: handled as before
     }
     otherwise();
   });
 }
 
-// Without allocating, and without what runs at a program's end.
+// Does not allocate, and runs no exit handlers.
 void EndOutOfMemory() {
   const std::array line{Bytes(programName), Bytes(": out of memory\n")};
   [[maybe_unused]] const ssize_t told = writev(STDERR_FILENO, line.data(), line.size());

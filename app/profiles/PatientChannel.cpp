@@ -24,7 +24,7 @@ PjtReply PatientChannel::Execute(const PjtCommand& command) {
     if (last_.answered) break;
   }
   last_.unsent = !wasSent;
-  // A step that got lost says nothing yet: the next command does.
+  // An unanswered step does not mean that the projector is gone; the next command will show it.
   gone_ = gone_ || (!last_.answered && (isAbsolute || !wasSent || !wasThere_));
   return last_;
 }

@@ -62,7 +62,7 @@ void ProjectorAccess::AskForInputs(InputsNeeded needed) {
     std::tie(inputs, areTold) = pjLink_->AskForInputs();
   }
   lacksInputs_ = !areTold;
-  // One that has let us in may answer everything else.
+  // A projector that has accepted the connection may still answer other questions.
   if (lacksInputs_ && !pjLink_->HasGreeted()) channel_->GiveUp();
   if (inputs.empty()) return;
   ModelData model = settings_.Model();

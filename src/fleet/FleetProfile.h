@@ -20,7 +20,7 @@ namespace AdvancedControl {
 /// How a projector of a profile file is reached.
 enum class ProjectorLink : std::uint8_t { Simulated, Network, Serial, PjLink };
 
-/// What projectors of one model have in common. About 30 kilobytes, and so shared by them.
+/// What projectors of one model have in common. They share it, as it takes about 30 kilobytes.
 struct ProfileModel {
   CModelInfo2 info;              ///< Without a connection.
   std::vector<SettingId> lacks;  ///< Settings that the simulated model does not have.
@@ -46,19 +46,19 @@ struct FleetProfile {
   ProfileConnection connection;
   ProjectorLink link = ProjectorLink::Simulated;
 
-  /// What stays the same when the projector gets another name or address: "mac:00:00:5e:00:53:01",
-  /// "serial:12345" or "id:" and a text that somebody chose. Unique in its file; may be empty.
+  /// Does not change when the projector gets another name or address: "mac:00:00:5e:00:53:01",
+  /// "serial:12345", or "id:" and any text. Unique in its file; may be empty.
   std::string identity{};
   std::vector<std::string> tags{};
   std::string notes{};
   int ratedLampHours = 0;  ///< 0 if not known.
-  std::string snapshot{};  ///< Name of the snapshot of how it should be; empty for none.
+  std::string snapshot{};  ///< Name of the snapshot that it should match; empty for none.
 };
 
-/// What tells a projector from all others of its file: its identity, or else its name.
+/// Identifies a projector within its file: its identity, or else its name.
 PROJECTOR_FLEET_EXPORT std::string FleetIdOf(const FleetProfile& profile);
 
-/// An identity for a projector whose protocol tells none.
+/// A new identity for a projector whose protocol reports none.
 PROJECTOR_FLEET_EXPORT std::string MakeIdentity();
 
 /// Where a projector is; an error if it is simulated.

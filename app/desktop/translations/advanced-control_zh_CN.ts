@@ -1143,8 +1143,8 @@
 <context>
     <name>Search</name>
     <message>
-        <source>&quot;%1&quot; is neither an IPv4 address nor a range of them</source>
-        <translation>“%1”既不是 IPv4 地址，也不是地址范围</translation>
+        <source>&quot;%1&quot; is neither an IP address nor a range of them</source>
+        <translation>“%1”既不是 IP 地址，也不是地址范围</translation>
     </message>
     <message>
         <source>more than %1 addresses</source>

@@ -208,6 +208,7 @@ int ProgramRun::RunOnProjectors(const ValueTexts& texts) {
 int ProgramRun::Run() {
   if (arguments_.list) return ListRecordedRuns();
   if (const std::string error = Prepare(); !error.empty()) return FailWrongUse(arguments_, error);
+  if (!shown_.Problem().empty()) Complain(shown_.Problem());
   const ValueTexts texts(shown_, english_ ? *english_ : shown_);
   const Work listing{
       .arguments = arguments_, .texts = texts, .profiles = profiles_, .isInterrupted = [] {

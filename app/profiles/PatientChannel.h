@@ -3,9 +3,17 @@
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <thread>
 #include <utility>
 
 #include "device/channels/ForwardingChannel.h"
+
+/// The clock and the pauses of a channel. A test steps them.
+struct PatientTime {
+  using Point = std::chrono::steady_clock::time_point;
+  std::function<Point()> now = [] { return std::chrono::steady_clock::now(); };
+  std::function<void(Point)> sleepUntil = [](Point end) { std::this_thread::sleep_until(end); };
+};
 
 /// Repeats unanswered commands, and detects that a projector is gone. A projector that has neither
 /// greeted nor answered counts as gone after the first unanswered command, any other one after the
@@ -25,10 +33,11 @@ class PatientChannel : public ForwardingChannel {
   /// attempt and returns whether the projector has greeted the inner channel.
   PatientChannel(
       std::shared_ptr<ProjectorChannel> inner, std::chrono::milliseconds timeOut,
-      std::function<bool()> hasGreeted = [] { return false; })
+      std::function<bool()> hasGreeted = [] { return false; }, PatientTime time = {})
       : ForwardingChannel(std::move(inner)),
         timeOut_(timeOut),
         hasGreeted_(std::move(hasGreeted)),
+        time_(std::move(time)),
         wasThere_(Connection() == ConnectionState::Connected) {}
 
   PjtReply Execute(const PjtCommand& command) override;
@@ -46,6 +55,7 @@ class PatientChannel : public ForwardingChannel {
  private:
   const std::chrono::milliseconds timeOut_;
   const std::function<bool()> hasGreeted_;
+  const PatientTime time_;
   bool wasThere_;  ///< It has greeted or answered.
   bool gone_ = false;
   PjtReply last_;

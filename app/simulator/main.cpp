@@ -116,7 +116,7 @@ int Run(const Arguments& arguments, int endingSignals) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
-  EndWhenOutOfMemory("advanced-control-simulator");
+  EndConsoleProgramWhenOutOfMemory("advanced-control-simulator");
   const int endingSignals = EndingSignals();
   const QCoreApplication application(argc, argv);
   const Arguments arguments = ParseArguments(QCoreApplication::arguments());

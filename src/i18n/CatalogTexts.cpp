@@ -16,6 +16,8 @@ CatalogTexts::CatalogTexts(std::span<const std::string> folders) {
       if (!std::filesystem::is_regular_file(path, error)) continue;
       if (auto loaded = MessageCatalog::Load(path.string())) {
         modules_.push_back(std::move(*loaded));
+      } else if (problem_.empty()) {
+        problem_ = path.string() + " is damaged or cannot be read; its texts are missing";
       }
       break;
     }

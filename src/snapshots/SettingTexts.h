@@ -26,6 +26,9 @@ class PROJECTOR_SETTINGS_EXPORT SettingTexts {
   /// Texts missing in the language `languageId` are in English.
   SettingTexts(std::span<const std::string> catalogFolders, std::uint32_t languageId);
 
+  /// As `CatalogTexts::Problem`.
+  const std::string& Problem() const { return texts_.Problem(); }
+
   /// The caption of a setting, as on its label.
   std::string Caption(const ModelSetting& setting) const;
   /// The same, but unique on its tab: followed by "V" or "H", or else by its key, if other settings

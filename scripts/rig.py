@@ -31,7 +31,7 @@ class Rig:
         self.programs = programs
         self.folder = Path(tempfile.mkdtemp(prefix=prefix))
         self.profiles = self.folder / "profiles.json"
-        self.environment = {**os.environ, "XDG_STATE_HOME": str(self.folder / "state")}
+        self.own = {**os.environ, "XDG_STATE_HOME": str(self.folder / "state")}  # undo files are there
         self.port = free_port()
         self.simulator = None
         self.start_simulator()
@@ -60,7 +60,7 @@ class Rig:
     def acctl(self, *arguments, environment=None):
         return subprocess.Popen([self.programs / "acctl", "--profiles", self.profiles, "--json", *arguments],
                                 cwd=self.folder, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True,
-                                env={**self.environment, **(environment or {})})
+                                env=environment or self.own)
 
     def finish(self, program, codes=(0,)):
         """What the program prints."""

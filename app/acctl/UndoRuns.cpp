@@ -53,9 +53,22 @@ void TakeLines(const QByteArray& text, RecordedRun& run) {
   }
 }
 
+/// Appends a line to a file. If that fails, no part of it is left.
 bool WriteAndSync(int file, const QByteArray& line) {
-  return write(file, line.constData(), static_cast<std::size_t>(line.size())) == line.size() &&
-         fsync(file) == 0;
+  const off_t end = lseek(file, 0, SEEK_END);
+  qsizetype done = 0;
+  while (done < line.size()) {
+    const auto left = static_cast<std::size_t>(line.size() - done);
+    const ssize_t written = write(file, line.constData() + done, left);
+    if (written < 0 && errno == EINTR) continue;
+    if (written < 0) break;
+    done += written;
+  }
+  if (done == line.size() && fsync(file) == 0) return true;
+  const int error = errno;
+  if (ftruncate(file, end) != 0) return false;
+  errno = error;
+  return false;
 }
 
 void RemoveOlder(const QString& folder, int days) {

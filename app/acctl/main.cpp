@@ -77,7 +77,7 @@ int Main(int argc, char* argv[]) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
-  EndWhenOutOfMemory("acctl");
+  EndConsoleProgramWhenOutOfMemory("acctl");
   try {
     GuardOutput();
     return Main(argc, argv);

@@ -16,6 +16,7 @@ namespace {
 
 using testing::AllOf;
 using testing::AnyOf;
+using testing::EndsWith;
 using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
@@ -68,7 +69,7 @@ TEST(Adversity, AFailedAllocationEndsTheProgramWithOneLine) {
                            Ends(-1, HasSubstr("ASSERT: \"this->isMutable()"))));
 #endif
     if (set.exitCode == 0) {
-      EXPECT_EQ(set.output, "picture.tint  色调  3\n");
+      EXPECT_THAT(set.output, EndsWith(" -> 3\n"));
     }
     told += set.exitCode == 1;
   }

@@ -49,6 +49,7 @@ public_headers(ProjectorCommon
 # The catalog.
 public_headers(ProjectorSettings
   i18n/Catalog.h
+  i18n/CatalogLanguages.h
   i18n/SystemLanguage.h
   # Headers that these and the pages include.
   i18n/MessageFormat.h
@@ -75,6 +76,7 @@ public_headers(AdvancedControl
   pages/common/PageReader.h
   pages/common/RowDialog.h
   pages/common/RowMenus.h
+  pages/common/RowResets.h
   pages/common/SettingsDialog.h
   pages/picture/PicturePage.h
   pages/rows/RowHost.h

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # What takes too long for every change: fuzzing on the kept corpus, random walks over the host application and the
-# dialogs of every model, kills of both ends, clang-tidy over everything, and whether memory grows in a hundred sweeps of a
-# fleet. Adds a line to the table in docs/reliability.md.
+# dialogs of every model, kills of both ends, every page in every language, clang-tidy over everything, and whether memory
+# grows in a hundred sweeps of a fleet. Adds a line to the table in docs/reliability.md.
 # Usage: scripts/long.sh [time, such as 2h or 20m]
 #
 # A third of the time goes to each. The sanitizers watch the walks; PRESET=dev takes another build. What was found is
@@ -61,6 +61,15 @@ echo "A playbook twice"
 if ! LONG=1 ctest --test-dir "build/$preset" -R '^script_tests$' --output-on-failure >"$logs/playbook.log" 2>&1; then
   findings+=("a playbook: LONG=1 ctest -R script_tests, and $logs/playbook.log")
 fi
+
+echo "Every page in every language"
+for screen in "1024x768 1" "1920x1080 2" "1920x1080 3"; do
+  read -r size scale <<<"$screen"
+  if ! TEST_LANGUAGES=all TEST_SCREEN=$size QT_SCALE_FACTOR=$scale "$bin/sweep_tests" \
+    '--gtest_filter=*NothingIsClipped*' >"$logs/languages-$size-$scale.log" 2>&1; then
+    findings+=("a text without room: TEST_LANGUAGES=all TEST_SCREEN=$size QT_SCALE_FACTOR=$scale $bin/sweep_tests, and $logs/languages-$size-$scale.log")
+  fi
+done
 
 echo "clang-tidy over everything"
 if ! (cmake --preset release -B build/check -DADVANCEDCONTROL_TESTS=OFF >/dev/null && cmake --build build/check &&

@@ -7,6 +7,8 @@
 #include "app/acctl/OptionTable.h"
 #include "app/acctl/Selection.h"
 #include "app/acctl/Uses.h"
+#include "i18n/Catalog.h"
+#include "i18n/CatalogLanguages.h"
 
 namespace {
 
@@ -77,7 +79,8 @@ class Completer {
     } else if (option.name == "for") {
       for (const char* command : {"get", "set", "reset", "watch"}) Offer(command);
     } else if (option.name == "language") {
-      for (const char* language : {"1033", "2052"}) Offer(language);
+      for (const CatalogLanguage& language : CatalogLanguages(CatalogFolders()))
+        Offer(language.tag);
     } else if (option.name == "where" || option.name == "until") {
       for (const Alias& alias : Aliases()) Offer(std::string(alias.name) + '=');
     } else if (option.value == "FILE") {

@@ -17,7 +17,7 @@ constexpr std::string_view kWords =
     "P selects projectors: a name, a pattern such as 'Lecture*', @TAG, or model=PATTERN. Several are separated by "
     "commas, and !P leaves projectors out. KEY is the key of a setting, a pattern such as 'picture.*', or a short name "
     "such as brightness, input or power, which is the same on all models. VALUE is a number as the dialog shows it, the "
-    "text of an entry in English or Chinese, or its code.";
+    "text of an entry in any language of the dialog, or its code.";
 
 struct Named {
   std::string_view name;

@@ -5,7 +5,8 @@
 #include <charconv>
 #include <utility>
 
-#include "i18n/SystemLanguage.h"
+#include "i18n/Catalog.h"
+#include "i18n/CatalogLanguages.h"
 
 namespace {
 
@@ -68,10 +69,8 @@ bool TakeFormat(const std::string& text, Format& format) {
 }
 
 bool TakeLanguage(const std::string& text, std::optional<std::uint32_t>& language) {
-  std::uint32_t number = 0;
-  if (!TakeNumber(text, kEnglishUnitedStates, kChineseSimplified, number)) return false;
-  language = number;
-  return number == kEnglishUnitedStates || number == kChineseSimplified;
+  language = FindLanguage(CatalogLanguages(CatalogFolders()), text);
+  return language.has_value();
 }
 
 const std::vector<Command> kChanging{Command::Set, Command::Reset, Command::Apply, Command::Undo};
@@ -228,8 +227,8 @@ std::vector<OptionForm> MakeOptions() {
        .of = {Command::Set, Command::Watch},
        .isDefault = true},
       {.name = "language",
-       .value = "ID",
-       .help = "language of texts: 1033 for English, 2052 for Chinese",
+       .value = "NAME",
+       .help = "language of texts, such as de or zh-TW",
        .take = [](A& a, Text text) { return TakeLanguage(text, a.language); },
        .isDefault = true},
       {.name = "help",

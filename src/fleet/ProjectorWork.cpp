@@ -74,6 +74,7 @@ WorkResult ProjectorWork::Do(const SwitchPower& power) {
 WorkResult ProjectorWork::Do(const SetSetting& set) {
   const ModelSetting* const setting = settings_.Find(set.key);
   if (setting == nullptr) return Refused("the model has no such setting");
+  if (setting->kind == ModelSetting::Kind::Action) return Run(*setting, set.text);
   if (!setting->changeable) return Refused("it cannot be set");
   const auto typed = texts_.Parse(*setting, set.text);
   if (!typed) return Refused("'" + set.text + "' is not one of: " + texts_.Values(*setting));
@@ -160,6 +161,21 @@ WorkResult ProjectorWork::SetState(const ModelSetting& setting, int value) {
   const auto now = settings_.Read(connection_, setting);
   if (IsGone()) return Unanswered();
   return {.outcome = now == value ? WorkOutcome::Done : WorkOutcome::Pending};
+}
+
+/// Does what a button does, with the entry of the list beside it, if there is one.
+WorkResult ProjectorWork::Run(const ModelSetting& action, const std::string& entry) {
+  int position = 0;
+  if (!action.entries.empty()) {
+    const auto typed = texts_.Parse(action, entry);
+    position = typed ? PositionOf(action.entries, typed->amount) : -1;
+    if (position < 0) return Refused("'" + entry + "' is no entry of its list");
+  }
+  const CPjtInterface::Tally before = connection_.Sent();
+  const Call& call = std::get<ActionRow>(*action.row).call;
+  const bool accepted = Perform(connection_, call, position, settings_.Model().ModelCode).accepted;
+  if (auto trouble = Trouble(before)) return *trouble;
+  return accepted ? WorkResult{.outcome = WorkOutcome::Done} : Refused("refused");
 }
 
 std::optional<WorkResult> ProjectorWork::Trouble(const CPjtInterface::Tally& before) const {

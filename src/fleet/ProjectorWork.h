@@ -37,6 +37,7 @@ class ProjectorWork {
 
   WorkResult Apply(const Snapshot& snapshot);
   WorkResult OutcomeOf(const Restoration& restoration) const;
+  WorkResult Run(const ModelSetting& action, const std::string& entry);
   WorkResult SetState(const ModelSetting& setting, int value);
   /// The outcome of a change whose reply led from `before` to the present tally, where that says
   /// more than that it was accepted.

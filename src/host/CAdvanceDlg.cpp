@@ -19,6 +19,7 @@
 #include "pages/common/CTabPage.h"
 #include "pages/common/StatusLine.h"
 #include "pages/common/Waiting.h"
+#include "pages/status/CStatusTabDlg.h"
 #include "resources/AdvancedControlResources.h"
 #include "settings/CatalogNumbers.h"
 #include "toolkit/CTabCtrl.h"
@@ -96,6 +97,10 @@ const NotificationMap& CAdvanceDlg::Notifications() const {
   return map;
 }
 
+void CAdvanceDlg::SetRatedLampHours(int hours) {
+  static_cast<CStatusTabDlg&>(Page(PageId::Status)).SetRatedLampHours(hours);
+}
+
 bool CAdvanceDlg::OnInitDialog() {
   CDialog::OnInitDialog();
   UseIntake();
@@ -132,7 +137,6 @@ void CAdvanceDlg::CreatePage(PageId id) {
   page.projector = &projector_;
   page.Create();
   page.hide();
-  page.setMinimumSize(page.DialogSize());
   scroll_->widget()->layout()->addWidget(&page);
 }
 
@@ -158,9 +162,15 @@ void CAdvanceDlg::SetTitle() {
 }
 
 void CAdvanceDlg::FitToPages() {
-  QSize pages;
+  std::vector<TemplateDialog*> created;
   for (const auto& page : pages_->byId) {
-    if (page->Template() != nullptr) pages = pages.expandedTo(page->minimumSize());
+    if (page->Template() != nullptr) created.push_back(page.get());
+  }
+  TemplateDialog::ShareCaptionWidths(created);
+  QSize pages;
+  for (TemplateDialog* page : created) {
+    page->setMinimumSize(page->DialogSize());
+    pages = pages.expandedTo(page->minimumSize());
   }
   const int width = std::max(tabs_->sizeHint().width() + 2 * kMargin,
                              kPagePosition.x() + pages.width() + kPagePosition.x());

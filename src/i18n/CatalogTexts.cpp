@@ -1,6 +1,8 @@
 #include "i18n/CatalogTexts.h"
 
+#include <algorithm>
 #include <filesystem>
+#include <map>
 #include <system_error>
 #include <utility>
 
@@ -36,6 +38,18 @@ std::optional<std::string> CatalogTexts::Find(std::uint32_t languageId, int cate
     return text;
   }
   return {};
+}
+
+std::vector<MessageTable::Language> CatalogTexts::Languages() const {
+  std::vector<MessageTable::Language> all;
+  for (const MessageCatalog& module : modules_) {
+    std::map<std::uint32_t, std::uint32_t> firsts;  // the Chinese module has 1033 too
+    for (const auto& [id, first] : module.Languages()) {
+      if (std::ranges::find(all, id, &MessageTable::Language::id) != all.end()) continue;
+      all.push_back({.id = id, .first = firsts.emplace(first, id).first->second});
+    }
+  }
+  return all;
 }
 
 }  // namespace AdvancedControl

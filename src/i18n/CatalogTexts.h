@@ -26,6 +26,9 @@ class CatalogTexts {
   std::optional<std::string> Find(std::uint32_t languageId, int category, int number,
                                   std::span<const CatalogInsert> inserts = {}) const;
 
+  /// The languages of all modules. One that two modules have occurs once, as in the first.
+  std::vector<MessageTable::Language> Languages() const;
+
  private:
   std::vector<MessageCatalog> modules_;
   std::string problem_;

@@ -111,7 +111,14 @@ TEST(SettingTexts, ParsesTypedValues) {
       {"picture.brightness", {{"+3", 131, 128}, {"-3", 125, 128}, {"+1", {}, 159}}},
       {"picture.sharpness", {{"4", 128}}},
       {"picture.active-iris",
-       {{"theater", 16}, {"影院", 16}, {"17", 17}, {"1", {}}, {"+1", 16, 0}, {"+1", {}, 17}}},
+       {{"theater", 16},
+        {"影院", 16},
+        {"kino", 16},
+        {"シアター", 16},
+        {"17", 17},
+        {"1", {}},
+        {"+1", 16, 0},
+        {"+1", {}, 17}}},
       {"setup.mirror", {{"H&V Inverse", 3}}},
   };
   for (const auto& [key, cases] : kCases) {

@@ -10,6 +10,7 @@
 #include "pages/common/Waiting.h"
 #include "pages/rows/ValueRowView.h"
 #include "resources/ArrowBitmap.h"
+#include "toolkit/CComboBox.h"
 #include "toolkit/CSliderCtrl.h"
 
 namespace AdvancedControl {
@@ -63,8 +64,10 @@ RowDialog::RowDialog(int templateNumber, const PageTable& table, CWnd* owner)
       table_(table),
       rows_(MakeRowViews(table, *this)),
       reader_(table, *this, rows_),
-      menus_(*this, rows_) {
+      menus_(*this, rows_),
+      resets_(*this, rows_) {
   installEventFilter(&menus_);
+  installEventFilter(&resets_);
 }
 
 RowDialog::~RowDialog() = default;
@@ -98,6 +101,7 @@ const NotificationMap& RowDialog::Notifications() const {
 }
 
 void RowDialog::DoDataExchange() {
+  resets_.Clear();
   rowsByControl_.clear();
   for (const auto& row : rows_) {
     row->Bind();
@@ -144,8 +148,11 @@ void RowDialog::RefillLists(const ModelData& before) {
   if (KeepsTemplate(table_, Model().ModelCode)) return;
   for (const auto& row : rows_) {
     const auto* list = std::get_if<ListRow>(&row->Row());
-    if (list != nullptr && list->entries.Of(before) != list->entries.Of(Model())) row->Prepare();
+    if (list == nullptr || list->entries.Of(before) == list->entries.Of(Model())) continue;
+    row->Prepare();
+    Item<CComboBox>(list->control).UpdateWidth();
   }
+  UpdateRows();
 }
 
 void RowDialog::Refresh() {

@@ -9,6 +9,7 @@
 #include "Namespace.h"
 #include "pages/common/PageReader.h"
 #include "pages/common/RowMenus.h"
+#include "pages/common/RowResets.h"
 #include "pages/common/SettingsDialog.h"
 #include "pages/rows/RowView.h"
 
@@ -85,6 +86,7 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog, private RowHost
   mutable std::optional<NotificationMap> notifications_;
   PageReader reader_;
   RowMenus menus_;
+  RowResets resets_;
   bool stale_ = false;
   // Only of a pop-up; a page uses that of its dialog.
   std::unique_ptr<Waiting> waiting_;

@@ -32,8 +32,8 @@ class RowHost {
   /// Called before a row that belongs to an input source is read or changed; `source` is nothing if
   /// the source is unknown.
   virtual void ShowSource(std::optional<int> /*source*/) {}
-  /// Called after a state of the projector was read; `value` is nothing if that failed.
-  virtual void ShowState(std::optional<int> /*value*/) {}
+  /// Called after the state that `control` shows was read; `value` is nothing if that failed.
+  virtual void ShowState(int /*control*/, std::optional<int> /*value*/) {}
 
   /// Reads one row as a refresh does.
   virtual void ReadRow(RowView& row, int source) = 0;

@@ -69,7 +69,7 @@ TEST(Adversity, AFailedAllocationEndsTheProgramWithOneLine) {
                            Ends(-1, HasSubstr("ASSERT: \"this->isMutable()"))));
 #endif
     if (set.exitCode == 0) {
-      EXPECT_THAT(set.output, EndsWith(" -> 3\n"));
+      EXPECT_THAT(set.output, EndsWith("  ->  3\n"));
     }
     told += set.exitCode == 1;
   }

@@ -16,7 +16,8 @@ packages=(
   at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi xvfb
   fonts-dejavu-core fonts-wqy-microhei
   ansible-core fish groff-base python3-jsonschema systemd zsh
-  libmosquitto-dev mosquitto mosquitto-clients prometheus prometheus-alertmanager curl
+  desktop-file-utils appstream
+  libmosquitto-dev mosquitto mosquitto-clients prometheus prometheus-alertmanager curl openssl
 )
 
 missing=()

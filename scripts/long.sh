@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # What takes too long for every change: fuzzing on the kept corpus, random walks over the host application and the
-# dialogs of every model, kills of both ends, and calls that fail; then every page in every language, a playbook, each file
+# dialogs of every model, kills of both ends, and calls that fail; then every page in every language, each file
 # compiled without the headers of others, clang-tidy over everything, the checks of a release, and whether memory grows
 # in a hundred sweeps of a fleet. Adds a line to the table in docs/reliability.md.
 # Usage: scripts/long.sh [time, such as 2h or 20m]
@@ -78,7 +78,6 @@ further() {
   echo "$1"
   bash -euo pipefail -c "$2" >"$logs/${1// /-}.log" 2>&1 || findings+=("$1: $2, and $logs/${1// /-}.log")
 }
-further "a playbook twice" "LONG=1 ctest --test-dir build/$preset -R '^script_tests$' --output-on-failure"
 further "each file alone" "cmake --preset dev && cmake --build --preset dev"
 further "clang-tidy over everything" "scripts/tidy.py build/check --deep"
 further "the checks of a release" "scripts/check-release.sh"

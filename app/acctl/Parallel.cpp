@@ -1,4 +1,4 @@
-#include "app/acctl/Runner.h"
+#include "app/acctl/Parallel.h"
 
 #include <algorithm>
 #include <condition_variable>
@@ -8,13 +8,14 @@
 #include <new>
 #include <optional>
 #include <string>
+#include <sys/resource.h>
 #include <thread>
 
 #include "app/profiles/OutOfMemory.h"
 
 void Meter::Draw(int done) {
   constexpr int kWidth = 30;
-  if (!shown_ || done == drawn_) return;
+  if (!isShown_ || done == drawn_) return;
   drawn_ = done;
   std::string bar(static_cast<std::size_t>(kWidth * done / total_), '#');
   bar.resize(kWidth, '.');
@@ -35,12 +36,37 @@ Report Guarded(const std::function<Report(int)>& run, int number) {
     EndOutOfMemory();
   } catch (const std::exception& error) {
     Report report;
-    report.Complain(error.what(), ExitCode::Refused);
+    report.Add({ProblemCode::Internal, error.what()});
     return report;
   }
 }
 
 }  // namespace
+
+int JobsOf(const Arguments& arguments) {
+  constexpr int kReading = 512;
+  constexpr int kChanging = 64;
+  if (arguments.connecting.jobs > 0) return arguments.connecting.jobs;
+  switch (arguments.command) {
+    case Command::Set:
+    case Command::Reset:
+    case Command::Apply:
+    case Command::Undo:
+      return kChanging;
+    default:
+      return kReading;
+  }
+}
+
+void AllowFilesFor(int jobs) {
+  constexpr rlim_t kOfOneJob = 4;
+  constexpr rlim_t kOthers = 64;
+  const rlim_t needed = kOfOneJob * static_cast<rlim_t>(jobs) + kOthers;
+  rlimit limit{};
+  if (getrlimit(RLIMIT_NOFILE, &limit) != 0 || limit.rlim_cur >= needed) return;
+  limit.rlim_cur = std::min(needed, limit.rlim_max);
+  setrlimit(RLIMIT_NOFILE, &limit);
+}
 
 void RunParallel(int count, int jobs, Meter& meter, const std::function<Report(int)>& run,
                  const std::function<void(int, Report)>& handOver) {
@@ -74,7 +100,7 @@ void RunParallel(int count, int jobs, Meter& meter, const std::function<Report(i
       ready.wait(lock);
     }
     Report finished = std::move(*report);
-    *report = {};  // a large list is not kept twice
+    *report = {};  // so that a large list is not kept twice
     lock.unlock();
     meter.Clear();
     handOver(next, std::move(finished));

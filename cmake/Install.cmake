@@ -73,6 +73,7 @@ public_headers(AdvancedControl
   # Headers that these include.
   pages/common/CTabPage.h
   pages/common/PageReader.h
+  pages/common/PageRows.h
   pages/common/RowDialog.h
   pages/common/RowMenus.h
   pages/common/SettingsDialog.h
@@ -84,6 +85,7 @@ public_headers(AdvancedControl
   toolkit/CDialog.h
   toolkit/CWnd.h
   toolkit/DialogTemplate.h
+  toolkit/HandlerWatch.h
   toolkit/InputDialog.h
   toolkit/MadeWithNew.h
   toolkit/NotificationMap.h

@@ -82,7 +82,7 @@ void CDialog::RunHandler(const Notification& entry, CSliderCtrl* slider) {
   const QWidget* control = GetDlgItem(entry.id);
   if (top != nullptr && top->IsBusy() && (control == nullptr || !AcceptsInputWhileBusy(*control))) {
     const auto* button = qobject_cast<const QAbstractButton*>(control);
-    if (button == nullptr || button->isCheckable()) top->OnStale();
+    if (button == nullptr || button->isCheckable()) top->Watch().OnStale();
     return;
   }
   const Busy busy(this);

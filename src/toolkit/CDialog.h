@@ -50,10 +50,6 @@ class ADVANCED_CONTROL_EXPORT CDialog : public AdvancedControl::OwnedDialog {
   /// Fills the controls and completes the layout. True if the toolkit should set the focus.
   virtual bool OnInitDialog() { return true; }
 
-  /// Called when a control has changed but its handler could not run, so that it may show a wrong
-  /// value.
-  virtual void OnStale() {}
-
   /// To be called by `OnInitDialog` once everything is ready except the values read from the
   /// projector. Shows the dialog if it should be on screen before its first read.
   void ShowUnread();

@@ -8,6 +8,7 @@
 
 #include "Namespace.h"
 #include "device/CPjtInterface.h"
+#include "pages/common/PageRows.h"
 #include "pages/rows/RowNotes.h"
 #include "pages/rows/RowView.h"
 
@@ -19,7 +20,7 @@ class PageVeil;
 /// yet are dimmed, and a row that cannot be read says why. User-interface thread only.
 class PageReader {
  public:
-  using Rows = std::vector<std::unique_ptr<RowView>>;
+  using Rows = PageRows::Views;
   using Source = RowView::Source;
 
   /// `rows` are those of `table`. All three must outlive the reader.

@@ -2,12 +2,12 @@
 
 #include <memory>
 #include <optional>
-#include <unordered_map>
 #include <vector>
 
 #include "AdvancedControlExport.h"
 #include "Namespace.h"
 #include "pages/common/PageReader.h"
+#include "pages/common/PageRows.h"
 #include "pages/common/RowMenus.h"
 #include "pages/common/SettingsDialog.h"
 #include "pages/rows/RowView.h"
@@ -67,11 +67,7 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog, private RowHost
     return static_cast<View&>(*RowOf(GetDlgItem(control)));
   }
 
-  void OnBusy() override;
-  void OnIdle() override;
-  void OnLeave() override;
-  void OnReturn() override;
-  void OnStale() override { stale_ = true; }
+  HandlerWatch& Watch() override;
 
  private:
   SettingsDialog& Dialog() final { return *this; }
@@ -79,15 +75,11 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog, private RowHost
   std::optional<int> AskFor(OfSource of) final { return reader_.AskFor(of); }
   void ReadRow(RowView& row, int source) final { reader_.Read(row, source); }
 
-  const PageTable& table_;
-  const PageReader::Rows rows_;  // in the table's order
-  std::unordered_map<const QWidget*, RowView*> rowsByControl_;
+  PageRows rows_;
   mutable std::optional<NotificationMap> notifications_;
   PageReader reader_;
   RowMenus menus_;
-  bool stale_ = false;
-  // Only of a pop-up; a page uses that of its dialog.
-  std::unique_ptr<Waiting> waiting_;
+  std::unique_ptr<Waiting> waiting_;  // only of a pop-up; a page uses that of its dialog
 };
 
 }  // namespace AdvancedControl

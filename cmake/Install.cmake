@@ -72,11 +72,14 @@ public_headers(AdvancedControl
   pages/setup/CSetupType5TabDlg.h
   # Headers that these include.
   pages/common/CTabPage.h
+  pages/common/DialogContext.h
   pages/common/PageReader.h
   pages/common/PageRows.h
+  pages/common/PendingInput.h
   pages/common/RowDialog.h
   pages/common/RowMenus.h
   pages/common/SettingsDialog.h
+  pages/common/WantedSettings.h
   pages/picture/PicturePage.h
   pages/rows/RowHost.h
   pages/rows/RowMemory.h

@@ -17,6 +17,7 @@
 #include "pages/common/StatusLine.h"
 #include "resources/AdvancedControlResources.h"
 #include "settings/CatalogNumbers.h"
+#include "snapshots/Snapshot.h"
 #include "toolkit/CTabCtrl.h"
 
 namespace {
@@ -44,11 +45,23 @@ CAdvanceDlg::Parts::Parts(CAdvanceDlg& owner)
                .show = [this](bool waits) { ShowWaiting(waits); },
                .text = [this] { return WaitingText(); },
                .retry = [this] { dialog.DispTabScreen(); },
-               .readAgain = [this](bool) { ReadLater(); }}),
+               .readAgain = [this](bool) { ReadLater(); },
+               .idle = [this](bool left) { ShowIdle(left); }}),
       status(waiting.MakeLine(&owner)),
       search(owner, pages),
+      strip(*new ProjectorStrip(&owner,
+                                [this] {
+                                  CTabPage* shown = pages.Shown();
+                                  return shown != nullptr ? shown->Reader().SinceRead()
+                                                          : ProjectorStrip::Age();
+                                })),
       frame(owner) {
   inputsWatch.callOnTimeout(&inputsWatch, [this] { UseReportedInputs(); });
+  const auto readAgain = [this] {
+    if (!dialog.IsBusy()) dialog.DispTabScreen();
+  };
+  connect(&strip, &ProjectorStrip::ReadAgain, &waiting, readAgain);
+  AddShortcut(QKeySequence::Refresh, readAgain);
   AddShortcut(QKeySequence::Find, [this] { search.Start(); });
   AddShortcut(QKeySequence(Qt::CTRL | Qt::Key_Tab), [this] { pages.SelectNeighbour(1); });
   AddShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab),
@@ -63,6 +76,7 @@ void CAdvanceDlg::Parts::AddShortcut(const QKeySequence& keys, std::function<voi
 
 DialogFrame::Parts CAdvanceDlg::Parts::Framed() {
   return {.pages = pages,
+          .strip = strip,
           .status = status,
           .find = search.Line(),
           .close = *dialog.GetDlgItem(kCloseId)};
@@ -76,6 +90,30 @@ void CAdvanceDlg::Parts::SetTitle() {
                                             projector.ConnectionText1())
                             : CatalogString(kCaptionCategory, Caption::TitleSerial, name,
                                             std::int64_t{projector.ConnectionNumber()} + 1));
+}
+
+void CAdvanceDlg::Parts::SetStrip() {
+  strip.SetProjector({QString::fromStdString(projectorName),
+                      QString::fromStdString(data.Model().ModelName), ConnectionText()});
+}
+
+QString CAdvanceDlg::Parts::ConnectionText() const {
+  const CPjtInterface& projector = dialog.projector_;
+  if (projector.ConnectionKind() == kNetworkConnection) {
+    return QString::fromStdString(projector.ConnectionText1());
+  }
+  return CatalogString(kListCategory, ListText::SerialPort,
+                       std::int64_t{projector.ConnectionNumber()} + 1);
+}
+
+void CAdvanceDlg::Parts::ShowIdle(bool left) {
+  const CPjtInterface::Tally sent = dialog.projector_.Sent();
+  if (!left && sent.commands > shownTally.commands) {
+    strip.SetAnswers(sent.unanswered == shownTally.unanswered);
+  }
+  shownTally = sent;
+  strip.ShowAge();
+  if (!wanted.IsEmpty()) pages.ShowDifferences();
 }
 
 void CAdvanceDlg::Parts::ShowWaiting(bool waits) {
@@ -105,6 +143,28 @@ const ModelData& CAdvanceDlg::Model() const { return parts_->data.Model(); }
 
 void CAdvanceDlg::SetHostOption(bool option) { parts_->hostOption = option; }
 
+void CAdvanceDlg::SetProjectorName(std::string name) { parts_->projectorName = std::move(name); }
+
+std::string CAdvanceDlg::ProjectorName() const { return parts_->projectorName; }
+
+void CAdvanceDlg::SetWanted(const Snapshot& wanted) {
+  WantedSettings settings;
+  for (const SavedSetting& setting : wanted.settings) {
+    settings.Add(setting.key, setting.source, setting.value);
+  }
+  SetWanted(std::move(settings));
+}
+
+void CAdvanceDlg::SetWanted(WantedSettings wanted) {
+  parts_->wanted = std::move(wanted);
+  for (CTabPage* page : parts_->pages.Created()) page->Reader().ShowNotes();
+  parts_->pages.ShowDifferences();
+}
+
+const WantedSettings* CAdvanceDlg::Wanted() const {
+  return parts_->wanted.IsEmpty() ? nullptr : &parts_->wanted;
+}
+
 CTabPage* CAdvanceDlg::ShownPage() const { return parts_->pages.Shown(); }
 
 CTabPage& CAdvanceDlg::Page(PageId page) const { return parts_->pages.Page(page); }
@@ -133,6 +193,7 @@ bool CAdvanceDlg::OnInitDialog() {
   if (const auto reported = parts_->data.NewReportedInputs()) parts_->data.UseReported(*reported);
   parts_->pages.Create(model, projector_, Item<CTabCtrl>(kTabControlId));
   parts_->SetTitle();
+  parts_->SetStrip();
   parts_->frame.FitToPages(parts_->Framed());
   parts_->pages.OrderFocus({parts_->status.RetryButton(), GetDlgItem(kCloseId)});
   ShowUnread();

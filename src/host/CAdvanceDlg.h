@@ -10,10 +10,15 @@
 #include "device/CProjectorItem.h"
 #include "device/ModelData.h"
 #include "device/ModelDataSource.h"
+#include "pages/common/DialogContext.h"
+#include "pages/common/WantedSettings.h"
 #include "settings/PageSets.h"
 #include "toolkit/CDialog.h"
 
 class CTabPage;
+namespace AdvancedControl {
+struct Snapshot;
+}  // namespace AdvancedControl
 
 /// The "Advanced Control" dialog of one projector: a tab per group of settings, each read live and
 /// changed at once.
@@ -30,7 +35,8 @@ class CTabPage;
 /// If the host names no inputs, the dialog uses those that the projector reports over PJLink, once
 /// they are known and no handler runs.
 class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog,
-                                            public AdvancedControl::ModelDataSource {
+                                            public AdvancedControl::ModelDataSource,
+                                            public AdvancedControl::DialogContext {
   Q_OBJECT
 
  public:
@@ -96,6 +102,19 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog,
   void OnSelchangeAdvanceTab();
   /// Restores the host's resource module.
   void OnDestroy() override;
+
+  /// Gives the projector's own name, UTF-8, which the dialog and its boxes then show; empty for
+  /// none. Call it before the dialog is created.
+  void SetProjectorName(std::string name);
+  std::string ProjectorName() const override;
+
+  /// Gives the settings that the projector should have: rows that have another value are marked,
+  /// and offer to set it; without wanted settings nothing is marked. May be called at any time.
+  /// Values that the model's rows cannot show are ignored.
+  void SetWanted(AdvancedControl::WantedSettings wanted);
+  /// The same with the settings of a snapshot.
+  void SetWanted(const AdvancedControl::Snapshot& wanted);
+  const AdvancedControl::WantedSettings* Wanted() const override;
 
   /// The page of the selected tab, or null.
   CTabPage* ShownPage() const;

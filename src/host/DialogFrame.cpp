@@ -19,6 +19,7 @@ namespace {
 constexpr QPoint kPagePosition{20, 64};
 constexpr int kMargin = 12;
 constexpr int kFindWidth = 300;
+constexpr int kStripGap = 2;
 
 }  // namespace
 
@@ -40,6 +41,10 @@ void DialogFrame::Place(const Parts& parts) const {
   const int tabsHeight = tabs.sizeHint().height();
   tabs.setGeometry(kMargin, kPagePosition.y() - kMargin - tabsHeight, width - 2 * kMargin,
                    tabsHeight);
+  const QRect strip(kPagePosition.x(), kStripGap, width - 2 * kPagePosition.x(),
+                    tabs.y() - 2 * kStripGap);
+  parts.strip.setGeometry(strip);
+  parts.strip.setVisible(strip.height() >= parts.strip.fontMetrics().height());
   const QSize button = parts.close.sizeHint().expandedTo(QSize(90, 0));
   const QRect bottomRight(width - kMargin - button.width(), height - kMargin - button.height(),
                           button.width(), button.height());

@@ -20,6 +20,7 @@ class DialogFrame {
   /// All parts belong to `dialog`.
   struct Parts {
     DialogPages& pages;
+    QWidget& strip;
     StatusLine& status;
     FindLine& find;
     QWidget& close;

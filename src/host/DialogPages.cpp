@@ -105,6 +105,19 @@ void DialogPages::ShowSelected() {
   area_->widget()->layout()->activate();
 }
 
+void DialogPages::ShowDifferences() const {
+  for (int tab = 0; tabs_ != nullptr && tab < tabs_->count(); ++tab) {
+    const auto id = PageIdOfTab(tab);
+    if (!id) continue;
+    CTabPage& page = Page(*id);
+    const int differences = page.Reader().Differences();
+    const QString text =
+        differences == 0 ? page.accessibleName()
+                         : QStringLiteral("%1 (%2)").arg(page.accessibleName()).arg(differences);
+    if (tabs_->tabText(tab) != text) tabs_->setTabText(tab, text);
+  }
+}
+
 void DialogPages::SelectNeighbour(int step) {
   const int count = tabs_ != nullptr ? tabs_->count() : 0;
   if (count == 0) return;

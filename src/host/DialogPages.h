@@ -54,6 +54,8 @@ class DialogPages {
   CTabPage* Shown() const { return shown_; }
   /// Shows the page of the selected tab, marked as unread, and hides all others.
   void ShowSelected();
+  /// Lets each tab say how many rows of its page differ from the wanted values.
+  void ShowDifferences() const;
   /// Selects the tab `step` places further on, and gives it the focus.
   void SelectNeighbour(int step);
 

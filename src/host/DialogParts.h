@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 #include <QTimer>
 
@@ -8,8 +9,10 @@
 #include "host/DialogFrame.h"
 #include "host/DialogPages.h"
 #include "host/HostData.h"
+#include "host/ProjectorStrip.h"
 #include "host/SettingSearch.h"
 #include "pages/common/Waiting.h"
+#include "pages/common/WantedSettings.h"
 #include "toolkit/ResourceModule.h"
 
 /// The parts of the dialog, and what they do together.
@@ -19,6 +22,9 @@ struct CAdvanceDlg::Parts {
   DialogFrame::Parts Framed();
   void AddShortcut(const QKeySequence& keys, std::function<void()> act);
   void SetTitle();
+  void SetStrip();
+  QString ConnectionText() const;
+  void ShowIdle(bool left);
   void ShowWaiting(bool waiting);
   QString WaitingText() const;
   void ReadLater();
@@ -31,9 +37,13 @@ struct CAdvanceDlg::Parts {
   Waiting waiting;
   StatusLine& status;
   SettingSearch search;
+  ProjectorStrip& strip;
   DialogFrame frame;
   QTimer inputsWatch;                              // runs while the projector may report inputs
   const ResourceModule* savedResources = nullptr;  // restored when the dialog closes
+  std::string projectorName;
+  WantedSettings wanted;
+  CPjtInterface::Tally shownTally;  // until which the strip shows whether the projector answers
   bool hostOption = false;
   bool reading = false;  // a page is being read
 };

@@ -35,6 +35,10 @@ class ADVANCED_CONTROL_EXPORT InputDialog : public TemplateDialog {
     InputDialog* top_;
   };
 
+ Q_SIGNALS:
+  /// Input to a widget was dropped because a handler runs.
+  void InputDropped(const QWidget* target);
+
  protected:
   using TemplateDialog::TemplateDialog;
 

@@ -79,8 +79,7 @@ void PageRows::Prepare() {
   const int code = host_.Dialog().Model().ModelCode;
   const bool keepsTemplate = KeepsTemplate();
   for (std::size_t i = 0; i < views_.size(); ++i) {
-    views_[i]->memory.present = !keepsTemplate && Has(table_, i, code);
-    views_[i]->memory.opened.reset();
+    views_[i]->memory = {.present = !keepsTemplate && Has(table_, i, code)};
   }
   if (!keepsTemplate) {
     DrawArrows(host_.Dialog());

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include <QShortcut>
 #include <QTimer>
 
 #include "pages/common/StatusLine.h"
@@ -16,7 +17,8 @@ RowDialog::RowDialog(int templateNumber, const PageTable& table, CWnd* owner)
     : SettingsDialog(templateNumber, owner),
       rows_(table, *this),
       reader_(table, *this, rows_.All()),
-      menus_(*this, rows_.All()) {
+      menus_(*this, rows_.All()),
+      pending_(*this) {
   installEventFilter(&menus_);
 }
 
@@ -62,6 +64,11 @@ bool RowDialog::OnInitDialog() {
   // If the model has none of the settings, the page says so, because an empty page looks broken.
   if (rows_.IsEmpty()) ShowNotice(ListString(ListText::NoSettings));
   if (isWindow()) PlaceBesideClose(waiting_->MakeLine(this));
+  if (isWindow() && findChild<QShortcut*>() == nullptr) {
+    connect(new QShortcut(QKeySequence::Refresh, this), &QShortcut::activated, this, [this] {
+      if (!IsBusy()) ReadAgain();
+    });
+  }
   return true;
 }
 
@@ -97,6 +104,14 @@ HandlerWatch& RowDialog::Watch() {
                             }});
   }
   return *waiting_;
+}
+
+void RowDialog::Handle(const Notification& entry, CSliderCtrl* slider) {
+  pending_.Run(entry, slider);
+}
+
+void RowDialog::KeepInput(const Notification& entry, CSliderCtrl* slider) {
+  pending_.Keep(entry, slider);
 }
 
 RowView* RowDialog::RowOf(const QWidget* control) const { return rows_.Of(control); }

@@ -8,6 +8,7 @@
 #include "Namespace.h"
 #include "pages/common/PageReader.h"
 #include "pages/common/PageRows.h"
+#include "pages/common/PendingInput.h"
 #include "pages/common/RowMenus.h"
 #include "pages/common/SettingsDialog.h"
 #include "pages/rows/RowView.h"
@@ -69,16 +70,22 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog, private RowHost
 
   HandlerWatch& Watch() override;
 
+  bool KeepsInput(const QWidget& control) const override { return pending_.Keeps(control); }
+  void Handle(const Notification& entry, CSliderCtrl* slider) override;
+  void KeepInput(const Notification& entry, CSliderCtrl* slider) override;
+
  private:
   SettingsDialog& Dialog() final { return *this; }
   RowView* RowOf(const QWidget* control) const final;
   std::optional<int> AskFor(OfSource of) final { return reader_.AskFor(of); }
   void ReadRow(RowView& row, int source) final { reader_.Read(row, source); }
+  void ShowNotes(const RowView& row) final { reader_.Notes().Show(row); }
 
   PageRows rows_;
   mutable std::optional<NotificationMap> notifications_;
   PageReader reader_;
   RowMenus menus_;
+  PendingInput pending_;
   std::unique_ptr<Waiting> waiting_;  // only of a pop-up; a page uses that of its dialog
 };
 

@@ -39,9 +39,13 @@ void Waiting::OnIdle(bool left) {
   if (timer_ != 0) killTimer(std::exchange(timer_, 0));
   if (shown_) Show(false);
   const CPjtInterface& projector = dialog_.projector();
-  if (!left && line_ != nullptr && projector.Sent().commands != before_.commands) {
+  const bool isNews = projector.Sent().commands != before_.commands;
+  if (line_ != nullptr && left) {
+    line_->Say({});
+  } else if (line_ != nullptr && (isNews || line_->HasSomethingToSay())) {
     line_->ShowOutcome(projector, before_);
   }
+  dialog_.idle(left);
   if (TakeStale()) dialog_.readAgain(left);
 }
 

@@ -33,6 +33,8 @@ class Waiting final : public QObject, public HandlerWatch {
     std::function<void()> retry;
     /// Called when no handler runs and the dialog has to be read again; `left` as for `OnIdle`.
     std::function<void(bool left)> readAgain;
+    /// Called each time no handler runs any more.
+    std::function<void(bool left)> idle = [](bool) {};
   };
 
   explicit Waiting(Dialog dialog);

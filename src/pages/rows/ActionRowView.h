@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Namespace.h"
+#include "pages/rows/RowTexts.h"
 #include "pages/rows/RowView.h"
 
 class CComboBox;
@@ -19,7 +20,11 @@ class ActionRowView final : public RowView {
   void OnPageRead() override;
   void Act(int control) override;
 
+  QString Name() const override { return CaptionText(Row()); }
+
  private:
+  QString DoneText(int position, const QString& entry) const;
+
   const ActionRow& row_;
   CComboBox* list_ = nullptr;
 };

@@ -23,8 +23,12 @@ void CheckRowView::Read(Source source) {
 
 void CheckRowView::Act(int) {
   const int value = check_->isChecked() ? 1 : 0;
-  if (SendRow(Projector(), Row(), Model(), value) == Sent::Accepted) return;
-  if (const auto present = ReadSetting(0)) check_->setChecked(*present != 0);
+  if (SendRow(Projector(), Row(), Model(), value) == Sent::Accepted) return Confirm(value);
+  if (const auto present = ReadSetting(0)) {
+    check_->setChecked(*present != 0);
+    memory.known = Position();
+  }
+  TellRefusal(TextAt(value));
 }
 
 std::optional<int> CheckRowView::Position() const { return check_->isChecked() ? 1 : 0; }

@@ -28,6 +28,8 @@ void ResetRowView::Prepare() {
   }
 }
 
+QString ResetRowView::Name() const { return list_->accessibleName(); }
+
 void ResetRowView::OnPageRead() {
   if (list_->currentIndex() < 0) list_->Select(0);
 }
@@ -42,7 +44,12 @@ void ResetRowView::Act(int) {
     auto* of = dynamic_cast<ValueRowView*>(Host().RowOf(Dialog().GetDlgItem(entry.of)));
     if (of != nullptr) of->ShowAgain();
   }
+  const QString text = list_->currentText();
   if (ReadsAgain(row_.rereads, done)) Host().ReadAgain();
+  if (!isListed) return;
+  if (!done) return TellRefusal(text);
+  Confirm({});
+  Dialog().Say(CatalogString(kListCategory, ListText::ResetDone, text.toStdString()));
 }
 
 }  // namespace AdvancedControl

@@ -19,6 +19,7 @@ class ResetRowView final : public RowView {
   void Prepare() override;
   void OnPageRead() override;
   void Act(int control) override;
+  QString Name() const override;
 
  private:
   const ResetRow& row_;

@@ -1,5 +1,7 @@
 #include "pages/rows/ValueRowView.h"
 
+#include <utility>
+
 #include <QAbstractButton>
 #include <QLineEdit>
 
@@ -10,6 +12,8 @@ namespace AdvancedControl {
 namespace {
 
 std::int16_t Word(int value) { return static_cast<std::int16_t>(value); }
+
+QString SignOf(bool upwards) { return upwards ? QStringLiteral("+") : QStringLiteral("\u2212"); }
 
 }  // namespace
 
@@ -34,6 +38,9 @@ void ValueRowView::Bind() {
   plus_ = &dialog.Item<QAbstractButton>(row_.ids.plus);
   field_ = &dialog.Item<QLineEdit>(row_.ids.field);
   field_->setContextMenuPolicy(Qt::NoContextMenu);  // the row's own menu opens there too
+  number_.reset();
+  pending_ = {};
+  heldBack_.reset();
 }
 
 void ValueRowView::Prepare() {
@@ -57,12 +64,12 @@ void ValueRowView::Read(Source source) {
   } else if (row_.failedReadDisables) {
     Disable();
   } else {
-    field_->clear();
+    ClearNumber();
   }
 }
 
 void ValueRowView::ShowAgain() {
-  if (const auto value = ReadSetting(0)) ShowDevice(*value);
+  if (const auto value = ReadSetting(0)) Confirm(ShowDevice(*value));
 }
 
 void ValueRowView::Act(int control) {
@@ -77,6 +84,7 @@ Stepped ValueRowView::Step(bool upwards) {
   const auto asked = Host().AskFor(row_.of);
   if (Projector().IsAbandoned()) return {};
   const auto source = SteppedSource(row_.of, asked);
+  if (!source) TellRefusal(SignOf(upwards));
   if (!source) return {};
   if (row_.of == OfSource::Current) Host().ShowSource(source);
   const Stepped stepped =
@@ -84,8 +92,11 @@ Stepped ValueRowView::Step(bool upwards) {
   if (stepped.value) {
     const int shown = ShowDevice(*stepped.value);
     remembered_ = Word(row_.deviceMemory == DeviceMemory::Never ? shown : *stepped.value);
+    Confirm(shown);
   } else if (stepped.refused && row_.error != 0) {
-    Refuse(remembered_, true);
+    Refuse(remembered_, SignOf(upwards), true);
+  } else if (stepped.refused || stepped.unchanged) {
+    TellRefusal(SignOf(upwards));
   }
   return stepped;
 }
@@ -107,36 +118,48 @@ bool ValueRowView::Release() {
   const int position = slider_->value();
   const auto source = Host().AskFor(row_.of);
   if (source && row_.of == OfSource::Current) Host().ShowSource(source);
-  if (!source && row_.of == OfSource::Playing) return true;
+  if (!source && row_.of == OfSource::Playing) {
+    TellRefusal(TextAt(position));
+    return true;
+  }
   if (source && SendRow(Projector(), Row(), Model(), position + row_.bias, {.source = source}) ==
                     Sent::Accepted) {
     remembered_ = Word(position);
     ShowNumber(position);
     MoveSlider(position);
+    Confirm(position);
     return true;
   }
-  Refuse(row_.refusedDrag == RefusedDrag::Stays ? position : remembered_,
+  Refuse(row_.refusedDrag == RefusedDrag::Stays ? position : remembered_, TextAt(position),
          row_.refusedDrag == RefusedDrag::ShowsError);
-  if (row_.refusedDrag == RefusedDrag::Empties && !Projector().IsAbandoned()) field_->clear();
+  if (row_.refusedDrag == RefusedDrag::Empties && !Projector().IsAbandoned()) ClearNumber();
   return false;
 }
 
 // Moves the slider to `position`, unless the value is read back.
-void ValueRowView::Refuse(int position, bool showMessage) {
+void ValueRowView::Refuse(int position, const QString& tried, bool showMessage) {
   if (Projector().IsAbandoned()) return;
   MoveSlider(position);
   if (Table().refusedIsReadBack) {
-    if (const auto value = ReadSetting(0)) remembered_ = Word(ShowDevice(*value));
+    if (const auto value = ReadSetting(0)) {
+      memory.known = ShowDevice(*value);
+      remembered_ = Word(*memory.known);
+    }
   }
+  TellRefusal(tried);
   if (showMessage && row_.error != 0) Dialog().ShowError(row_.error);
 }
 
 // The value after a reset is shown but not remembered: the bound test of the next step uses the
 // earlier value.
 void ValueRowView::RunReset() {
-  if (!Perform(Projector(), row_.reset.call).accepted) return;
+  const auto& button = Dialog().Item<QAbstractButton>(row_.reset.button);
+  if (!Perform(Projector(), row_.reset.call).accepted) return TellRefusal(button.text());
   const auto value = ::Read(Projector(), row_.reset.read);
-  if (value && *value - row_.bias >= row_.range.Of(Model().ModelCode).minimum) ShowDevice(*value);
+  if (value && *value - row_.bias >= row_.range.Of(Model().ModelCode).minimum) {
+    Confirm(ShowDevice(*value));
+  }
+  Dialog().Say(CatalogString(kListCategory, ListText::ResetDone, Name().toStdString()));
 }
 
 int ValueRowView::ShowDevice(int value) {
@@ -147,14 +170,45 @@ int ValueRowView::ShowDevice(int value) {
 }
 
 void ValueRowView::MoveSlider(int value) {
-  if (slider_ != nullptr) slider_->setValue(value);
+  if (slider_ == nullptr) return;
+  if (pending_.keepsSlider || (memory.collects && slider_->isSliderDown())) {
+    heldBack_ = value;
+  } else {
+    heldBack_.reset();
+    slider_->setValue(value);
+  }
 }
 
-void ValueRowView::ShowNumber(int value) { field_->setText(QString::number(value)); }
+void ValueRowView::ShowNumber(int value) {
+  number_ = value;
+  ShowField();
+}
+
+void ValueRowView::ClearNumber() {
+  number_.reset();
+  ShowField();
+}
+
+// A pending number is as light as a hint, because the projector does not have it yet.
+void ValueRowView::ShowField() {
+  const auto shown = pending_.number ? pending_.number : number_;
+  QPalette palette;
+  if (pending_.number) {
+    palette = field_->palette();
+    palette.setColor(QPalette::Text, palette.color(QPalette::PlaceholderText));
+  }
+  if (field_->testAttribute(Qt::WA_SetPalette) || pending_.number) field_->setPalette(palette);
+  field_->setText(shown ? QString::number(*shown) : QString());
+}
+
+void ValueRowView::ShowPending(const Pending& pending) {
+  if (std::exchange(pending_, pending) != pending) ShowField();
+  if (!memory.collects && heldBack_) slider_->setValue(*std::exchange(heldBack_, std::nullopt));
+}
 
 void ValueRowView::Disable() {
   EnableControls(false);
-  field_->clear();
+  ClearNumber();
 }
 
 void ValueRowView::EnableControls(bool enable) {
@@ -163,10 +217,8 @@ void ValueRowView::EnableControls(bool enable) {
   plus_->setEnabled(enable);
 }
 
-std::optional<int> ValueRowView::Position() const {
-  bool known = false;
-  const int number = field_->text().toInt(&known);
-  return known ? std::optional(number) : std::nullopt;
+bool ValueRowView::ChangesNumber(const QWidget& control) const {
+  return &control == minus_ || &control == plus_ || &control == slider_;
 }
 
 std::optional<Range> ValueRowView::Numbers() const {

@@ -24,7 +24,8 @@ class ValueRowView final : public RowView {
   void Prepare() override;
   void Read(Source source) override;
   void Act(int control) override;
-  std::optional<int> Position() const override;
+  std::optional<int> Position() const override { return number_; }
+  std::optional<int> PositionOfValue(int value) const override { return value - row_.bias; }
   bool CanMoveTo(int position) const override;
   void MoveTo(int position) override;
   std::optional<Range> Numbers() const override;
@@ -34,6 +35,20 @@ class ValueRowView final : public RowView {
   void ShowAgain();
   /// Sends the position of the released slider. False if the projector refused it.
   bool Release();
+
+  /// What the user has asked for and the projector was not told yet.
+  struct Pending {
+    std::optional<int> number{};  ///< To be shown instead of the projector's number.
+    bool keepsSlider = false;     ///< The slider stays where the user has left it.
+
+    friend bool operator==(const Pending&, const Pending&) = default;
+  };
+  /// Shows it until the next call.
+  void ShowPending(const Pending& pending);
+
+  /// Whether the control is −, + or the slider.
+  bool ChangesNumber(const QWidget& control) const;
+  bool IsUpwards(int control) const { return control == row_.ids.plus; }
 
   // For pages with their own rules.
   std::int16_t Remembered() const { return remembered_; }
@@ -49,7 +64,9 @@ class ValueRowView final : public RowView {
   int ShowDevice(int value);
   Stepped Step(bool upwards);
   void StepTo(int number);
-  void Refuse(int position, bool showMessage);
+  void Refuse(int position, const QString& tried, bool showMessage);
+  void ClearNumber();
+  void ShowField();
   void RunReset();
 
   const ValueRow& row_;
@@ -58,6 +75,9 @@ class ValueRowView final : public RowView {
   QAbstractButton* plus_ = nullptr;
   QLineEdit* field_ = nullptr;
   std::int16_t remembered_ = 0;
+  std::optional<int> number_;  // the number shown, apart from a pending one
+  Pending pending_;
+  std::optional<int> heldBack_;  // where the slider goes when nothing is pending
 };
 
 }  // namespace AdvancedControl

@@ -7,6 +7,7 @@
 
 #include "i18n/LocalizeControlTexts.h"
 #include "pages/common/PageVeil.h"
+#include "pages/rows/RowOutcomes.h"
 #include "settings/CatalogNumbers.h"
 #include "settings/RowUse.h"
 
@@ -147,7 +148,7 @@ void PageReader::ShowNotes() {
 
 int PageReader::Differences() const {
   return static_cast<int>(std::ranges::count_if(
-      rows_, [](const auto& row) { return row->memory.present && row->Differs(); }));
+      rows_, [](const auto& row) { return row->memory.present && Differs(*row); }));
 }
 
 std::optional<std::chrono::milliseconds> PageReader::SinceRead() const {
@@ -169,12 +170,12 @@ void PageReader::Read(RowView& row, Source source, const CPjtInterface::Tally& b
     if (isRead && isFirst) row.memory.opened = row.Position();
     row.memory.isKnown = false;
     if (isRead) {
-      row.Confirm(row.Position());
+      Confirm(row, row.Position());
     } else if (host_.Dialog().Context().Wanted() != nullptr) {
       notes_.Show(row);
     }
   } else {
-    row.Confirm({});
+    Confirm(row, {});
   }
   if (veil_ != nullptr) UpdateVeil();
 }

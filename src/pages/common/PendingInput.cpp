@@ -31,7 +31,7 @@ void PendingInput::Run(const Notification& entry, CSliderCtrl* slider) {
   SettingsDialog& dialog = host_.Dialog();
   const QWidget* control = slider != nullptr ? slider : dialog.GetDlgItem(entry.id);
   auto* row = dynamic_cast<ValueRowView*>(host_.RowOf(control));
-  const bool isNumber = row != nullptr && row->ChangesNumber(*control);
+  const bool isNumber = row != nullptr && row->Widgets().Change(*control);
   // A pop-up or a message box may run inside a handler.
   if (!isNumber || row_ != nullptr) return entry.handle(dialog, slider);
   row_ = row;
@@ -46,8 +46,8 @@ void PendingInput::Run(const Notification& entry, CSliderCtrl* slider) {
     if (!acts_.empty()) acts_.erase(acts_.begin());
     Show();
   }
+  row_->Widgets().ShowPending({});
   Watch(false);
-  row_->ShowPending({});
   row_ = nullptr;
 }
 
@@ -58,6 +58,7 @@ void PendingInput::Handle(const Act& act) {
 
 void PendingInput::Watch(bool on) {
   row_->memory.collects = on;
+  row_->Widgets().Collect(on);
   pressed_ = nullptr;
   SettingsDialog& dialog = host_.Dialog();
   disconnect(inputDropped_);
@@ -68,15 +69,14 @@ void PendingInput::Watch(bool on) {
   if (!on) return;
   const auto* window = qobject_cast<const InputDialog*>(dialog.window());
   if (window == nullptr) return;
-  inputDropped_ = connect(window, &InputDialog::InputDropped, this,
-                          [this](const QWidget* target) {
-                            if (host_.RowOf(target) != row_) Drop();
-                          });
+  inputDropped_ = connect(window, &InputDialog::InputDropped, this, [this](const QWidget* target) {
+    if (host_.RowOf(target) != row_) Drop();
+  });
 }
 
 bool PendingInput::Keeps(const QWidget& control) const {
   return row_ != nullptr && !host_.Dialog().projector->IsAbandoned() &&
-         host_.RowOf(&control) == row_ && row_->ChangesNumber(control);
+         host_.RowOf(&control) == row_ && row_->Widgets().Change(control);
 }
 
 // Only a button that was pressed during the wait: the release of a button held since before, and
@@ -109,7 +109,7 @@ void PendingInput::Drop() {
 }
 
 void PendingInput::Show() {
-  if (acts_.size() < 2) return row_->ShowPending({});
+  if (acts_.size() < 2) return row_->Widgets().ShowPending({});
   const Range bounds = row_->Numbers().value_or(kUnbounded);
   std::optional<int> number = row_->Position();
   bool keepsSlider = false;
@@ -118,11 +118,11 @@ void PendingInput::Show() {
       number = act.position;
       keepsSlider = &act != acts_.data();
     } else if (number) {
-      const int step = row_->IsUpwards(act.entry->id) ? 1 : -1;
+      const int step = row_->Widgets().IsPlus(*host_.Dialog().GetDlgItem(act.entry->id)) ? 1 : -1;
       number = std::clamp(*number + step, bounds.minimum, bounds.maximum);
     }
   }
-  row_->ShowPending({.number = number, .keepsSlider = keepsSlider});
+  row_->Widgets().ShowPending({.number = number, .keepsSlider = keepsSlider});
 }
 
 }  // namespace AdvancedControl

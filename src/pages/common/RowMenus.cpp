@@ -5,6 +5,7 @@
 
 #include "pages/common/NumberQuestion.h"
 #include "pages/common/RowMenu.h"
+#include "pages/rows/RowOutcomes.h"
 #include "pages/rows/RowTexts.h"
 #include "toolkit/CDialog.h"
 
@@ -58,7 +59,7 @@ bool RowMenus::Open(QPoint at, QPoint onScreen) {
   RowView& row = *found;
   CDialog& dialog = host_.Dialog();
   const auto opened = row.memory.opened;
-  const auto wanted = row.Wanted();
+  const auto wanted = WantedPosition(row);
   auto* menu = new RowMenu(
       {.caption = CaptionText(row.Row()),
        .value = row.Text(),
@@ -122,7 +123,7 @@ void RowMenus::PutBack(RowView& row) {
 
 void RowMenus::SetToWanted(RowView& row) {
   if (!HasItsSource(row)) return;
-  if (const auto wanted = row.Wanted()) MoveTo(row, *wanted);
+  if (const auto wanted = WantedPosition(row)) MoveTo(row, *wanted);
 }
 
 // The values belong to the source for which the row was read. If the projector plays another one

@@ -2,6 +2,7 @@
 
 #include <QPushButton>
 
+#include "pages/rows/RowOutcomes.h"
 #include "resources/AdvancedControlResources.h"
 #include "settings/ControlId.h"
 #include "settings/PageTables.h"
@@ -57,7 +58,7 @@ void COtherTabDlg::OnBnClickedOtherPowerOff() {
 }
 
 void COtherTabDlg::ShowPowerRefused(int button) {
-  Row(Id::Power).TellRefusal(Item<QPushButton>(button).text());
+  TellRefusal(Row(Id::Power), Item<QPushButton>(button).text());
   ShowError(ErrorText::PowerRefused);
 }
 
@@ -68,6 +69,6 @@ void COtherTabDlg::OnCbnSelchangeOtherInput() {
   const Sent sent = SendRow(*projector, Row(Id::InputSource).Row(), Model(), *source);
   InitDisp();
   if (sent == Sent::Accepted) return;
-  Row(Id::InputSource).TellRefusal(text);
+  TellRefusal(Row(Id::InputSource), text);
   ShowError(ErrorText::InputSourceRefused);
 }

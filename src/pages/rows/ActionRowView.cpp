@@ -1,5 +1,6 @@
 #include "pages/rows/ActionRowView.h"
 
+#include "pages/rows/RowOutcomes.h"
 #include "pages/rows/RowTexts.h"
 #include "settings/RowUse.h"
 #include "toolkit/CComboBox.h"
@@ -31,11 +32,11 @@ void ActionRowView::Act(int) {
   const QString entry = list_ != nullptr ? list_->currentText() : QString();
   if (ReadsAgain(row_.rereads, done)) Host().ReadAgain();
   if (done) {
-    Confirm({});
+    Confirm(*this, {});
     Dialog().Say(DoneText(position, entry));
     return;
   }
-  TellRefusal(entry);
+  TellRefusal(*this, entry);
   if (row_.error != 0) Dialog().ShowError(row_.error);
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "Namespace.h"
-#include "pages/rows/RowTexts.h"
 #include "pages/rows/RowView.h"
 
 class CComboBox;
@@ -19,8 +18,6 @@ class ActionRowView final : public RowView {
   void Prepare() override;
   void OnPageRead() override;
   void Act(int control) override;
-
-  QString Name() const override { return CaptionText(Row()); }
 
  private:
   QString DoneText(int position, const QString& entry) const;

@@ -19,7 +19,6 @@ class CheckRowView final : public RowView {
   void Act(int control) override;
   std::optional<int> Position() const override;
   QString TextAt(int position) const override;
-  std::optional<int> PositionOfValue(int value) const override { return value != 0 ? 1 : 0; }
   bool CanMoveTo(int position) const override;
   void MoveTo(int position) override;
 

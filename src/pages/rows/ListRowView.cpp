@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "pages/rows/RowOutcomes.h"
 #include "pages/rows/RowTexts.h"
 #include "settings/RowUse.h"
 #include "toolkit/CComboBox.h"
@@ -47,11 +48,6 @@ void ListRowView::Select(int value) {
   if (row_.rules.noEntry == NoEntry::IsOrdinal) list_->Select(value - 1);
 }
 
-std::optional<int> ListRowView::PositionOfValue(int value) const {
-  const int position = list_->findData(value);
-  return position >= 0 ? std::optional(position) : std::nullopt;
-}
-
 void ListRowView::Act(int) {
   const auto chosen = list_->SelectedValue();
   if (!chosen) return;
@@ -59,7 +55,7 @@ void ListRowView::Act(int) {
   const QString text = list_->currentText();
   if (!row_.send) return Dialog().Say(CatalogString(kListCategory, ListText::OnlyShown));
   const auto source = Host().AskFor(row_.of);
-  if (!source) return TellRefusal(text);
+  if (!source) return TellRefusal(*this, text);
   const CPjtInterface::Tally before = Projector().Sent();
   const Sending how{.text = text.toStdString(), .source = source, .position = position};
   const Sent sent = SendRow(Projector(), Row(), Model(), *chosen, how);
@@ -73,12 +69,12 @@ void ListRowView::Act(int) {
     // A setter without a result: only reading the setting shows that the choice was not accepted.
     const bool isOpen = Projector().Sent().pending > before.pending;
     const bool isReadBack = row_.rules.readsBackAlways && IsRead(memory.note) && !isOpen;
-    if (isReadBack && memory.known != position) return TellRefusal(text);
-    if (!row_.rules.readsBackAlways) Confirm(position);
+    if (isReadBack && memory.known != position) return TellRefusal(*this, text);
+    if (!row_.rules.readsBackAlways) Confirm(*this, position);
     return;
   }
   if (Table().refusedIsReadBack || row_.rules.refused != Refused::Silent) ReadBack(*source);
-  TellRefusal(text);
+  TellRefusal(*this, text);
   if (row_.rules.error != 0) Dialog().ShowError(row_.rules.error);
 }
 

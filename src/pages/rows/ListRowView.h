@@ -21,7 +21,6 @@ class ListRowView final : public RowView {
   void Act(int control) override;
   std::optional<int> Position() const override;
   QString TextAt(int position) const override;
-  std::optional<int> PositionOfValue(int value) const override;
   bool CanMoveTo(int position) const override;
   void MoveTo(int position) override;
 

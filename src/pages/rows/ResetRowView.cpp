@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "i18n/LocalizeControlTexts.h"
+#include "pages/rows/RowOutcomes.h"
 #include "pages/rows/ValueRowView.h"
 #include "settings/CatalogNumbers.h"
 #include "settings/RowUse.h"
@@ -28,8 +29,6 @@ void ResetRowView::Prepare() {
   }
 }
 
-QString ResetRowView::Name() const { return list_->accessibleName(); }
-
 void ResetRowView::OnPageRead() {
   if (list_->currentIndex() < 0) list_->Select(0);
 }
@@ -47,8 +46,8 @@ void ResetRowView::Act(int) {
   const QString text = list_->currentText();
   if (ReadsAgain(row_.rereads, done)) Host().ReadAgain();
   if (!isListed) return;
-  if (!done) return TellRefusal(text);
-  Confirm({});
+  if (!done) return TellRefusal(*this, text);
+  Confirm(*this, {});
   Dialog().Say(CatalogString(kListCategory, ListText::ResetDone, text.toStdString()));
 }
 

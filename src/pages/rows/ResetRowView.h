@@ -19,7 +19,6 @@ class ResetRowView final : public RowView {
   void Prepare() override;
   void OnPageRead() override;
   void Act(int control) override;
-  QString Name() const override;
 
  private:
   const ResetRow& row_;

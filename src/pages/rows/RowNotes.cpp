@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include "pages/rows/RowMarks.h"
+#include "pages/rows/RowOutcomes.h"
 #include "pages/rows/RowView.h"
 #include "toolkit/CComboBox.h"
 
@@ -59,7 +60,7 @@ RowNotes::~RowNotes() { delete marks_; }
 
 QString RowNotes::TextOf(const RowView& row) {
   QStringList texts{row.memory.refusal};
-  if (const auto wanted = row.Wanted()) {
+  if (const auto wanted = WantedPosition(row)) {
     texts << CatalogString(kListCategory, ListText::Wanted, row.TextAt(*wanted).toStdString());
   }
   texts << NoteText(row);
@@ -84,12 +85,12 @@ void RowNotes::Show(const RowView& row) {
 }
 
 void RowNotes::ShowMarks(const RowView& changed) {
-  if (marks_ == nullptr && changed.memory.refusal.isEmpty() && !changed.Differs()) return;
+  if (marks_ == nullptr && changed.memory.refusal.isEmpty() && !Differs(changed)) return;
   std::vector<RowMarks::Mark> marks;
   for (const auto& row : rows_) {
     const RowMarks::Mark mark{.control = ControlOf(row->Row()),
                               .refused = !row->memory.refusal.isEmpty(),
-                              .differs = row->Differs()};
+                              .differs = Differs(*row)};
     if (row->memory.present && (mark.refused || mark.differs)) marks.push_back(mark);
   }
   if (marks_ == nullptr) marks_ = new RowMarks(host_.Dialog());

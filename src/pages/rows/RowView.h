@@ -36,6 +36,7 @@ class RowView {
   virtual ~RowView() = default;
 
   const PageRow& Row() const { return row_; }
+  RowHost& Host() const { return host_; }
 
   /// All controls by which the page finds the row.
   virtual std::vector<int> Controls() const;
@@ -70,25 +71,9 @@ class RowView {
   /// Whether its controls are enabled.
   virtual bool IsUsable() const;
 
-  /// The row's name for the user: its caption and what distinguishes it from other parts.
-  virtual QString Name() const;
-  /// The position of a device value; nothing if the row has none.
-  virtual std::optional<int> PositionOfValue(int /*value*/) const { return {}; }
-  /// The position that the row should have now; nothing if any will do.
-  std::optional<int> Wanted() const;
-  /// Whether the projector has another position.
-  bool Differs() const;
-
-  /// Remembers the position that the projector has now: it was read, or a change was accepted.
-  void Confirm(std::optional<int> position);
-  /// Tells the user that the projector did not accept `tried`, the text of a value or of a button,
-  /// in the line beside Close and by a mark on the row, which stays until `Confirm`.
-  void TellRefusal(const QString& tried);
-
   RowMemory memory;
 
  protected:
-  RowHost& Host() const { return host_; }
   const PageTable& Table() const { return table_; }
   SettingsDialog& Dialog() const { return host_.Dialog(); }
   CPjtInterface& Projector() const { return *Dialog().projector; }

@@ -24,7 +24,7 @@
 
 #include "app/profiles/ProjectorAccess.h"
 #include "bench/Relay.h"
-#include "device/ModelDataIntake.h"
+#include "fleet/ProfileFile.h"
 #include "simulator/WireServer.h"
 #include "snapshots/Snapshot.h"
 
@@ -35,10 +35,10 @@ constexpr int kDiffering = 40;
 constexpr int kJobs = 16;
 constexpr std::chrono::milliseconds kRoundTrip{20};
 
-const ProjectorProfile& Profile() {
+const FleetProfile& Profile() {
   static const auto profiles =
-      ReadProfileFile(QStringLiteral(BENCH_CATALOG_DIR "/projectors.json")).projectors;
-  return *std::ranges::find(profiles, "Projector 5-54", &ProjectorProfile::Name);
+      ReadProfileList(QStringLiteral(BENCH_CATALOG_DIR "/projectors.json")).profiles;
+  return *std::ranges::find(profiles, "Projector 5-54", &FleetProfile::name);
 }
 
 /// Projectors behind relays, all served by one thread.
@@ -100,7 +100,7 @@ class FarProjectors {
 
 /// Settings that need one command each, with one of two sets of values.
 Snapshot Settings(bool second) {
-  const ModelSettings model(MakeModelData(Profile().Model));
+  const ModelSettings model(Profile().model->data);
   Snapshot snapshot = EmptySnapshot("bench", model.Model());
   for (const ModelSetting& setting : model.All()) {
     if (!setting.Restorable() || setting.IsPerSource()) continue;

@@ -158,6 +158,42 @@ BENCHMARK(FleetSweep)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);
 
+// Whether memory grows in a hundred sweeps. Arguments: the protocol, and how many projectors.
+void ManySweeps(benchmark::State& state) {
+  constexpr int kSweeps = 100;
+  constexpr int kFirst = 10;
+  constexpr double kMostGrown = 1024;  // kB
+  const auto protocol = static_cast<Protocol>(state.range(0));
+  const auto count = static_cast<std::uint64_t>(state.range(1));
+  const FleetServer server(protocol, static_cast<int>(count), 20);
+  for ([[maybe_unused]] auto iteration : state) {
+    Fleet fleet({.interval = std::chrono::milliseconds(0),
+                 .jitter = 0,
+                 .longestPause = std::chrono::milliseconds(0),
+                 .connect = std::chrono::milliseconds(50),
+                 .answer = std::chrono::milliseconds(50)});
+    for (const std::uint16_t port : server.Ports()) fleet.Set(TargetOf(protocol, port));
+    AwaitVisits(fleet, kFirst * count);
+    const double before = StatusOf("self", "VmRSS:");
+    const auto start = Clock::now();
+    while (fleet.Tally().answered < kSweeps * count) {
+      fleet.TakeChanges();
+      std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    }
+    state.SetIterationTime(SecondsSince(start));
+    const double grown = StatusOf("self", "VmRSS:") - before;
+    state.counters["MB_grown"] = grown / 1024;
+    if (grown > kMostGrown) state.SkipWithError("memory grows");
+  }
+}
+BENCHMARK(ManySweeps)
+    ->Args({static_cast<int>(Protocol::PjLink), 1'000})
+    ->Args({static_cast<int>(Protocol::Wire), 1'000})
+    ->ArgNames({"wire", "projectors"})
+    ->Iterations(1)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+
 // How long the end takes in the middle of a sweep. Argument: how many projectors.
 void EndFleet(benchmark::State& state) {
   const FleetServer server(Protocol::PjLink, static_cast<int>(state.range(0)), 0);
@@ -172,7 +208,7 @@ void EndFleet(benchmark::State& state) {
 }
 BENCHMARK(EndFleet)->Arg(10'000)->UseManualTime()->Unit(benchmark::kMillisecond);
 
-// How long an event loop is busy with changes, of which 1,000 a second come while the fleet sweeps.
+// How long an event loop is busy with changes, of which 1,250 a second come while the fleet sweeps.
 // Argument: how many projectors.
 void TakeChanges(benchmark::State& state) {
   const auto count = static_cast<int>(state.range(0));
@@ -198,10 +234,12 @@ void TakeChanges(benchmark::State& state) {
     taken = 0;
     longest = 0;
     std::thread changing([&] {
-      for (int i = 0; i < 2000; ++i) {
+      // Those that a busy machine delayed come together.
+      auto due = Clock::now();
+      for (int i = 0; i < 3000; ++i) {
         const auto port = server.Ports()[static_cast<std::size_t>(i % count)];
         fleet->LearnDrift(std::to_string(port), i);
-        std::this_thread::sleep_for(std::chrono::microseconds(900));
+        std::this_thread::sleep_until(due += std::chrono::microseconds(800));
       }
       QMetaObject::invokeMethod(&application, &QCoreApplication::quit, Qt::QueuedConnection);
     });

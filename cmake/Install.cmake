@@ -49,6 +49,7 @@ public_headers(ProjectorCommon
 # The catalog.
 public_headers(ProjectorSettings
   i18n/Catalog.h
+  i18n/CatalogLanguages.h
   i18n/SystemLanguage.h
   # Headers that these and the pages include.
   i18n/MessageFormat.h
@@ -78,6 +79,7 @@ public_headers(AdvancedControl
   pages/common/PendingInput.h
   pages/common/RowDialog.h
   pages/common/RowMenus.h
+  pages/common/RowResets.h
   pages/common/SettingsDialog.h
   pages/common/WantedSettings.h
   pages/picture/PicturePage.h

@@ -1,22 +1,36 @@
-# Message-table modules from message-compiler sources.
+# Message-table modules from the catalog's sources.
 
 find_program(WINDMC_EXECUTABLE NAMES x86_64-w64-mingw32-windmc REQUIRED)
-find_program(WINDRES_EXECUTABLE NAMES x86_64-w64-mingw32-windres REQUIRED)
+find_program(MODULE_ASSEMBLER_EXECUTABLE NAMES x86_64-w64-mingw32-as REQUIRED)
 find_program(MODULE_LINKER_EXECUTABLE NAMES x86_64-w64-mingw32-ld REQUIRED)
 set(MESSAGE_CATALOG_DIR ${CMAKE_CURRENT_LIST_DIR})
 
-# add_message_catalog(NAME <target> OUTPUT <file> SOURCES <prologue.mc> <file.mc>...
-#                     TABLES <language identifier>=<compiled language>...)
+# catalog_languages(<folder> <result>)
+#
+# The languages that the folder has a file of, such as "de" for de.po, and the folder's sources in
+# <result>_SOURCES. A new file is noticed by the next build.
+function(catalog_languages folder result)
+  file(GLOB english CONFIGURE_DEPENDS ${folder}/*.mc)
+  file(GLOB files CONFIGURE_DEPENDS ${folder}/*.po)
+  set(languages "")
+  foreach(file IN LISTS files)
+    cmake_path(GET file STEM LAST_ONLY language)
+    list(APPEND languages ${language})
+  endforeach()
+  set(${result} ${languages} PARENT_SCOPE)
+  set(${result}_SOURCES ${english} ${files} PARENT_SCOPE)
+endfunction()
+
+# add_message_catalog(NAME <target> OUTPUT <file> CATALOG <folder> TABLES <table>...)
 #
 # Adds a target, part of "all", that makes the module OUTPUT (in CMAKE_RUNTIME_OUTPUT_DIRECTORY,
-# else in the current binary directory). The sources are UTF-8 and are compiled as one, the prologue
-# first. Each of TABLES puts the texts of one compiled language, called by the file name of the
-# prologue's LanguageNames, under a decimal language identifier; one language may serve several
-# identifiers. The module contains only the message table, and the same sources give the same bytes.
+# else in the current binary directory) from the sources in the folder. Each of TABLES is a language,
+# listed under the identifiers that its file names, or "<identifier>=<language>"; "en" is English.
+# The module contains only message tables, each once, and the same sources give the same bytes.
 # The target's property CATALOG_MODULE is the module's path.
 function(add_message_catalog)
-  cmake_parse_arguments(PARSE_ARGV 0 arg "" "NAME;OUTPUT" "SOURCES;TABLES")
-  foreach(needed NAME OUTPUT SOURCES TABLES)
+  cmake_parse_arguments(PARSE_ARGV 0 arg "" "NAME;OUTPUT;CATALOG" "TABLES")
+  foreach(needed NAME OUTPUT CATALOG TABLES)
     if(NOT arg_${needed})
       message(FATAL_ERROR "add_message_catalog: ${needed} is missing")
     endif()
@@ -28,33 +42,21 @@ function(add_message_catalog)
     set(folder ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
   endif()
   set(module ${folder}/${arg_OUTPUT})
+  file(MAKE_DIRECTORY ${work})
+  catalog_languages(${arg_CATALOG} languages)
+  list(JOIN arg_TABLES " " tables)
 
-  set(script "")
-  foreach(table IN LISTS arg_TABLES)
-    if(NOT table MATCHES "^([0-9]+)=([A-Za-z0-9_]+)$")
-      message(FATAL_ERROR "add_message_catalog: bad table \"${table}\"")
-    endif()
-    set(texts ${CMAKE_MATCH_2})
-    math(EXPR primary "${CMAKE_MATCH_1} & 0x3ff")
-    math(EXPR region "${CMAKE_MATCH_1} >> 10")
-    string(APPEND script "LANGUAGE ${primary}, ${region}\n1 MESSAGETABLE \"${texts}.bin\"\n")
-  endforeach()
-  file(CONFIGURE OUTPUT ${work}/module.rc CONTENT "${script}" @ONLY)
-
-  list(TRANSFORM arg_SOURCES REPLACE "^([^/].*)$" "${CMAKE_CURRENT_SOURCE_DIR}/\\1")
   add_custom_command(
     OUTPUT ${module}
     COMMAND ${CMAKE_COMMAND} -E make_directory ${folder}
-    COMMAND ${CMAKE_COMMAND} -P ${MESSAGE_CATALOG_DIR}/JoinMessageSources.cmake
-            messages.mc ${arg_SOURCES}
+    COMMAND ${CMAKE_COMMAND} -DCATALOG_DIR=${arg_CATALOG} -DTABLES=${tables}
+            -P ${MESSAGE_CATALOG_DIR}/WriteCatalogTables.cmake
     COMMAND ${WINDMC_EXECUTABLE} -C 65001 -U messages.mc
-    # The resource compiler needs a preprocessor; uses that of the host compiler.
-    COMMAND ${WINDRES_EXECUTABLE} --preprocessor=${CMAKE_CXX_COMPILER} --preprocessor-arg=-E
-            --preprocessor-arg=-xc++ --output-format=coff module.rc module.o
+    COMMAND ${MODULE_ASSEMBLER_EXECUTABLE} -o module.o module.s
     COMMAND ${MODULE_LINKER_EXECUTABLE} --dll --entry=0 --strip-all --no-insert-timestamp
             -T ${MESSAGE_CATALOG_DIR}/MessageModule.ld -o ${module} module.o
-    DEPENDS ${arg_SOURCES} ${work}/module.rc ${MESSAGE_CATALOG_DIR}/JoinMessageSources.cmake
-            ${MESSAGE_CATALOG_DIR}/MessageModule.ld
+    DEPENDS ${languages_SOURCES} ${MESSAGE_CATALOG_DIR}/WriteCatalogTables.cmake
+            ${MESSAGE_CATALOG_DIR}/ReadCatalog.cmake ${MESSAGE_CATALOG_DIR}/MessageModule.ld
     WORKING_DIRECTORY ${work}
     COMMENT "Making message module ${arg_OUTPUT}"
     VERBATIM)

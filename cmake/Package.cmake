@@ -1,7 +1,7 @@
 # Debian packages: `cmake --preset package && cmake --build --preset package && cpack --preset package`.
 #
-# The library with its catalogs, the files to build against it, and the program. Their components are
-# those of the install rules.
+# The library with its catalogs, the files to build against it, the programs, and the bridge. Their
+# components are those of the install rules.
 set(ADVANCEDCONTROL_MAINTAINER "Advanced Control maintainers <maintainers@example.org>"
     CACHE STRING "Maintainer of the Debian packages, as name <address>")
 
@@ -32,6 +32,16 @@ install_compressed(acctl.1 ${CMAKE_INSTALL_MANDIR}/man1/acctl.1.gz program)
 install_compressed(advanced-control-simulator.1
   ${CMAKE_INSTALL_MANDIR}/man1/advanced-control-simulator.1.gz program)
 
+# Alerts and dashboard, and the service with its options.
+install(FILES packaging/bridge/projector-alerts.yml packaging/bridge/projectors-dashboard.json
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/advanced-control-bridge COMPONENT bridge)
+install(FILES packaging/bridge/advanced-control-bridge.service
+        DESTINATION lib/systemd/system COMPONENT bridge)
+install(FILES packaging/bridge/advanced-control-bridge.default RENAME advanced-control-bridge
+        DESTINATION ${CMAKE_INSTALL_FULL_SYSCONFDIR}/default COMPONENT bridge)
+install_compressed(advanced-control-bridge.1
+  ${CMAKE_INSTALL_MANDIR}/man1/advanced-control-bridge.1.gz bridge)
+
 set(CPACK_GENERATOR DEB)
 set(CPACK_VERBATIM_VARIABLES ON)
 set(CPACK_PACKAGE_NAME advanced-control)
@@ -41,7 +51,7 @@ set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR}/packages)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
-set(CPACK_COMPONENTS_ALL library development program)
+set(CPACK_COMPONENTS_ALL library development program bridge)
 set(CPACK_COMPONENTS_GROUPING ONE_PER_GROUP)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
@@ -84,13 +94,24 @@ and the files for CMake.")
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_NAME advanced-control)
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_DEPENDS "${library} (= ${version})")
-set(CPACK_DEBIAN_PROGRAM_PACKAGE_RECOMMENDS "qt6-translations-l10n, qt6-wayland")
+set(CPACK_DEBIAN_PROGRAM_PACKAGE_RECOMMENDS
+    "qt6-translations-l10n, qt6-wayland, fonts-dejavu-core | fonts-noto-core, fonts-wqy-microhei | fonts-noto-cjk")
 set(CPACK_COMPONENT_PROGRAM_DESCRIPTION "read and change the settings of projectors
 A list of projectors, and for each of them a dialog with a tab per group of
 settings, every value read live and every change sent at once. A log shows
 each command and its result.")
 
-foreach(component library development program)
+set(CPACK_DEBIAN_BRIDGE_PACKAGE_NAME advanced-control-bridge)
+set(CPACK_DEBIAN_BRIDGE_PACKAGE_SECTION net)
+set(CPACK_DEBIAN_BRIDGE_PACKAGE_DEPENDS "${library} (= ${version})")
+set(CPACK_DEBIAN_BRIDGE_PACKAGE_SUGGESTS "mosquitto, prometheus, prometheus-alertmanager")
+set(CPACK_DEBIAN_BRIDGE_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/bridge/conffiles)
+set(CPACK_COMPONENT_BRIDGE_DESCRIPTION "tell metrics stores and message brokers about projectors
+Watches projectors, serves metrics with alerts, and sends states to an MQTT
+broker with discovery messages for home automation. Takes commands if they
+are allowed.")
+
+foreach(component library development program bridge)
   string(TOUPPER ${component} upper)
   set(documents ${CMAKE_INSTALL_DATADIR}/doc/${CPACK_DEBIAN_${upper}_PACKAGE_NAME})
   install(FILES packaging/copyright DESTINATION ${documents} COMPONENT ${component})

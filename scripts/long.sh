@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # What takes too long for every change: fuzzing on the kept corpus, random walks over the host application and the
-# dialogs of every model, kills of both ends, and clang-tidy over everything. Adds a line to the table in docs/reliability.md.
+# dialogs of every model, kills of both ends, every page in every language, clang-tidy over everything, and whether memory
+# grows in a hundred sweeps of a fleet. Adds a line to the table in docs/reliability.md.
 # Usage: scripts/long.sh [time, such as 2h or 20m]
 #
 # A third of the time goes to each. The sanitizers watch the walks; PRESET=dev takes another build. What was found is
@@ -56,10 +57,25 @@ if ! kills=$(scripts/kills.py "$bin" "$part" "$seed" 2>"$logs/kills.log"); then
   findings+=("kills: scripts/kills.py $bin $part $seed, and $logs/kills.log")
 fi
 
+echo "Every page in every language"
+for screen in "1024x768 1" "1920x1080 2" "1920x1080 3"; do
+  read -r size scale <<<"$screen"
+  if ! TEST_LANGUAGES=all TEST_SCREEN=$size QT_SCALE_FACTOR=$scale "$bin/sweep_tests" \
+    '--gtest_filter=*NothingIsClipped*' >"$logs/languages-$size-$scale.log" 2>&1; then
+    findings+=("a text without room: TEST_LANGUAGES=all TEST_SCREEN=$size QT_SCALE_FACTOR=$scale $bin/sweep_tests, and $logs/languages-$size-$scale.log")
+  fi
+done
+
 echo "clang-tidy over everything"
 if ! (cmake --preset release -B build/check -DADVANCEDCONTROL_TESTS=OFF >/dev/null && cmake --build build/check &&
       scripts/tidy.py build/check) >"$logs/tidy.log" 2>&1; then
   findings+=("clang-tidy: scripts/tidy.py build/check, and $logs/tidy.log")
+fi
+
+echo "A hundred sweeps of a fleet"
+if ! build/check/bin/fleet-bench --benchmark_filter=ManySweeps >"$logs/sweeps.log" 2>&1 ||
+  grep -q 'ERROR OCCURRED' "$logs/sweeps.log"; then
+  findings+=("sweeps: build/check/bin/fleet-bench --benchmark_filter=ManySweeps, and $logs/sweeps.log")
 fi
 
 said=none

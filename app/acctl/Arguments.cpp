@@ -6,7 +6,8 @@
 #include <limits>
 #include <string_view>
 
-#include "i18n/SystemLanguage.h"
+#include "i18n/Catalog.h"
+#include "i18n/CatalogLanguages.h"
 
 namespace {
 
@@ -79,10 +80,8 @@ bool TakeUse(const std::string& text, Command& command) {
 }
 
 bool TakeLanguage(const std::string& text, std::optional<std::uint32_t>& language) {
-  std::uint32_t number = 0;
-  if (!TakeNumber(text, kEnglishUnitedStates, kChineseSimplified, number)) return false;
-  language = number;
-  return number == kEnglishUnitedStates || number == kChineseSimplified;
+  language = FindLanguage(CatalogLanguages(CatalogFolders()), text);
+  return language.has_value();
 }
 
 const std::vector<OptionForm>& Options() {
@@ -142,7 +141,7 @@ const std::vector<OptionForm>& Options() {
        "between two readings; 1 without",
        [](A& a, Text text) { return TakeSeconds(text, a.interval); },
        {Command::Watch}},
-      {"language", "ID", "texts in the language ID: 1033 English, 2052 Chinese",
+      {"language", "NAME", "texts in the language NAME, such as de or zh-TW",
        [](A& a, Text text) { return TakeLanguage(text, a.language); }},
       {"help", "", "this text", [](A&, Text) { return true; }},
       {"version", "", "the version", [](A&, Text) { return true; }},

@@ -301,6 +301,7 @@ int Main(int argc, char* argv[]) {
   if (!passwordError.empty()) return Fail(passwordError);
   const std::vector<std::string> folders = CatalogFolders();
   const SettingTexts texts(folders, arguments.language.value_or(SystemLanguageId()));
+  if (!texts.Problem().empty()) Complain(texts.Problem());
   Work work{.arguments = arguments,
             .texts = texts,
             .profiles = profiles.projectors,
@@ -331,7 +332,7 @@ int Main(int argc, char* argv[]) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
-  EndWhenOutOfMemory("acctl");
+  EndConsoleProgramWhenOutOfMemory("acctl");
   try {
     GuardOutput();
     return Main(argc, argv);

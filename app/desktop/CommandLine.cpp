@@ -2,6 +2,9 @@
 
 #include <QCommandLineParser>
 
+#include "i18n/Catalog.h"
+#include "i18n/CatalogLanguages.h"
+
 namespace {
 
 // Options of Qt and its platforms that take a value, with one or two hyphens. The value is the next
@@ -74,8 +77,8 @@ CommandLine ParseCommandLine(const QStringList& arguments) {
       CommandLine::tr("Save pictures of all tabs of all kinds of projectors in <folder> and exit."),
       CommandLine::tr("folder"));
   const QCommandLineOption language(
-      "language", CommandLine::tr("Show texts in the language <id>: 1033 English, 2052 Chinese."),
-      "id");
+      "language", CommandLine::tr("Show texts in the language <name>, such as de or zh-TW."),
+      CommandLine::tr("name"));
   parser.addOptions({help, profiles, open, tab, list, screenshot, tour, language});
 
   const auto [own, toolkit, toolkitError] = Divide(arguments);
@@ -86,11 +89,11 @@ CommandLine ParseCommandLine(const QStringList& arguments) {
     return line;
   };
   if (parser.isSet(language)) {
-    line.language = Number(parser.value(language));
-    if (line.language != 1033 && line.language != 2052) {
-      line.language.reset();
-      return wrong(CommandLine::tr("--language: '%1' is neither 1033 nor 2052.")
-                       .arg(parser.value(language)));
+    line.language =
+        FindLanguage(CatalogLanguages(CatalogFolders()), parser.value(language).toStdString());
+    if (!line.language) {
+      return wrong(
+          CommandLine::tr("--language: there are no texts in '%1'.").arg(parser.value(language)));
     }
   }
   if (!isRead) return wrong(parser.errorText());

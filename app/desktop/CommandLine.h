@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 
 #include <QCoreApplication>
@@ -18,7 +19,7 @@ struct CommandLine {
   QString open;                 ///< Name of the projector to open; empty for none.
   std::optional<int> tab;       ///< Tab to select, from 0.
   QString target;               ///< File of `Screenshot`, folder of `Tour`.
-  std::optional<int> language;  ///< 1033 or 2052.
+  std::optional<std::uint32_t> language;  ///< One that the catalog has texts in.
   QString help;                 ///< The text for `Help`.
   bool platform = false;        ///< Whether `-platform` is given.
   bool style = false;           ///< Whether `-style` is given.

@@ -5,7 +5,8 @@
 #include <QLocale>
 #include <QTranslator>
 
-#include "i18n/SystemLanguage.h"
+#include "i18n/Catalog.h"
+#include "i18n/CatalogLanguages.h"
 
 namespace {
 
@@ -25,16 +26,15 @@ void InstallTranslations() {
   static QTranslator program;
   QCoreApplication::removeTranslator(&toolkit);
   QCoreApplication::removeTranslator(&program);
-  const bool isChinese = SystemLanguageId() == kChineseSimplified;
-  const QLocale locale = isChinese ? QLocale(QLocale::Chinese, QLocale::China)
-                                   : QLocale(QLocale::English, QLocale::UnitedStates);
+  const QLocale locale(QString::fromStdString(LocaleOf(ShownLanguageId())));
   QLocale::setDefault(locale);
   if (toolkit.load(locale, QStringLiteral("qtbase"), QStringLiteral("_"),
                    QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
     QCoreApplication::installTranslator(&toolkit);
   }
   // The English texts are in the sources.
-  if (isChinese && program.load(QStringLiteral(":/advanced-control_zh_CN.qm"))) {
+  if (program.load(locale, QStringLiteral("advanced-control"), QStringLiteral("_"),
+                   QStringLiteral(":/"))) {
     QCoreApplication::installTranslator(&program);
   }
 }

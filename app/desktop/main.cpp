@@ -21,7 +21,7 @@
 #include "app/profiles/Table.h"
 #include "fleet/WholeFile.h"
 #include "i18n/Catalog.h"
-#include "i18n/SystemLanguage.h"
+#include "i18n/CatalogLanguages.h"
 #include "settings/PageSets.h"
 
 namespace {
@@ -67,9 +67,8 @@ QString ReadProfiles(const CommandLine& line, ProfileDocument& document) {
 }
 
 // The library chose the catalog by the environment when it was loaded, so it has to choose again.
-void ChooseLanguage(int language) {
-  qputenv("LC_ALL",
-          language == static_cast<int>(kChineseSimplified) ? "zh_CN.UTF-8" : "en_US.UTF-8");
+void ChooseLanguage(std::uint32_t language) {
+  qputenv("LC_ALL", QByteArray::fromStdString(LocaleOf(language)));
   LoadCatalog();
   InstallTranslations();
 }

@@ -1,6 +1,9 @@
 #include "app/profiles/OutOfMemory.h"
 
 #include <array>
+#include <cerrno>
+#include <csignal>
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <exception>
@@ -8,31 +11,70 @@
 #include <sys/uio.h>
 #include <unistd.h>
 
+#include <unicode/uclean.h>
+
 namespace {
 
 const char* programName = "";
 std::terminate_handler otherwise = nullptr;
 
+struct sigaction otherFaults {};
+
 iovec Bytes(const char* text) { return {const_cast<char*>(text), std::strlen(text)}; }
+
+// Qt uses some of its memory before it looks whether it got any.
+void OnFault(int signal, siginfo_t* fault, void*) {
+  constexpr std::uintptr_t kNearNull = 65536;
+  const bool isNearNull =
+      fault->si_code == SEGV_MAPERR && reinterpret_cast<std::uintptr_t>(fault->si_addr) < kNearNull;
+  if (isNearNull && errno == ENOMEM) EndOutOfMemory();
+  sigaction(signal, &otherFaults, nullptr);  // the fault is repeated for whoever was there before
+}
+
+// The locale library would take a failed allocation for an unknown language.
+void* AllocateOrEnd(const void*, std::size_t size) {
+  void* const memory = std::malloc(size);
+  if (memory == nullptr && size > 0) EndOutOfMemory();
+  return memory;
+}
+
+void* ReallocateOrEnd(const void*, void* memory, std::size_t size) {
+  void* const moved = std::realloc(memory, size);
+  if (moved == nullptr && size > 0) EndOutOfMemory();
+  return moved;
+}
 
 }  // namespace
 
 void EndWhenOutOfMemory(const char* program) {
   programName = program;
   std::set_new_handler(EndOutOfMemory);
-  // Thrown where nobody can catch it: on a thread, or in a function that does not throw.
+  struct sigaction action {};
+  action.sa_sigaction = OnFault;
+  action.sa_flags = SA_SIGINFO;
+  sigaction(SIGSEGV, &action, &otherFaults);
+  UErrorCode error = U_ZERO_ERROR;
+  u_setMemoryFunctions(
+      nullptr, AllocateOrEnd, ReallocateOrEnd, [](const void*, void* memory) { std::free(memory); },
+      &error);
+  // Thrown where nothing can catch it: on a thread, or in a `noexcept` function.
   otherwise = std::set_terminate([] {
     try {
       if (std::current_exception()) throw;
     } catch (const std::bad_alloc&) {
       EndOutOfMemory();
-    } catch (...) {  // not ours to tell
+    } catch (...) {  // another error: handled as before
     }
     otherwise();
   });
 }
 
-// Without allocating, and without what runs at a program's end.
+void EndConsoleProgramWhenOutOfMemory(const char* program) {
+  EndWhenOutOfMemory(program);
+  setenv("QT_NO_GLIB", "1", 1);
+}
+
+// Does not allocate, and runs no exit handlers.
 void EndOutOfMemory() {
   const std::array line{Bytes(programName), Bytes(": out of memory\n")};
   [[maybe_unused]] const ssize_t told = writev(STDERR_FILENO, line.data(), line.size());

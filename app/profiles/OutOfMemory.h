@@ -1,10 +1,14 @@
 #pragma once
 
-/// From now on a failed allocation ends the program, with one line on standard error behind
-/// `program` and exit code 1. Nobody goes on after it: what threw in mid-work, the toolkit
-/// included, may have left locks held. `program` must live as long as the process.
+/// From now on a failed allocation ends the program with exit code 1 and the line "PROGRAM: out of
+/// memory" on standard error. The program cannot continue, because the interrupted code, for
+/// example in Qt, may still hold locks. `program` must live as long as the process.
 void EndWhenOutOfMemory(const char* program);
 
-/// Ends the program in that way. Where an allocation of the toolkit's own failed, the exception
-/// comes first, and whoever catches it calls this.
+/// The same for a program without windows. Call it before the application object exists: GLib,
+/// which ends a program in its own way, is then not used.
+void EndConsoleProgramWhenOutOfMemory(const char* program);
+
+/// Ends the program in that way. To be called by code that catches `std::bad_alloc`: some
+/// allocations inside Qt throw without calling the new-handler. Any thread.
 [[noreturn]] void EndOutOfMemory();

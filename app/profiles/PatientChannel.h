@@ -3,49 +3,59 @@
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <thread>
 #include <utility>
 
 #include "device/channels/ForwardingChannel.h"
 
-/// Repeats commands whose answers were lost, and knows when a projector is gone: one that has
-/// neither greeted nor answered is gone after the first command, any other after the last
-/// repetition. Then every command is unanswered at once, and unsent.
+/// The clock and the pauses of a channel. A test steps them.
+struct PatientTime {
+  using Point = std::chrono::steady_clock::time_point;
+  std::function<Point()> now = [] { return std::chrono::steady_clock::now(); };
+  std::function<void(Point)> sleepUntil = [](Point end) { std::this_thread::sleep_until(end); };
+};
+
+/// Repeats unanswered commands, and detects that a projector is gone. A projector that has neither
+/// greeted nor answered counts as gone after the first unanswered command, any other one after the
+/// last repetition. From then on every command fails at once and is not sent.
 ///
-/// A command always has the whole time of the channel behind. A read is asked up to three times, a
-/// change that is absolute up to twice, any other only once, unless it never left. A repetition
-/// begins only within two time-outs, so that a projector that falls silent costs two of them and
-/// not one per command.
+/// A read is sent up to three times, and an absolute change up to twice. Any other change is
+/// repeated only if it was never sent. Each attempt has the full time-out of the inner channel. No
+/// repetition begins later than two time-outs after the first attempt, so a projector that falls
+/// silent costs two time-outs, and not two for each command.
 class PatientChannel : public ForwardingChannel {
  public:
   static constexpr int kReadAttempts = 3;
   static constexpr int kChangeAttempts = 2;
-  static constexpr std::chrono::milliseconds kPause{50};  ///< At least, from one to the next.
+  static constexpr std::chrono::milliseconds kPause{50};  ///< Least time between two attempts.
 
-  /// `timeOut` is that of the channel behind, for one answer. `hasGreeted` says whether the
-  /// projector has greeted that channel; it is called after each command.
+  /// `timeOut` is the inner channel's time-out for an answer. `hasGreeted` is called after each
+  /// attempt and returns whether the projector has greeted the inner channel.
   PatientChannel(
       std::shared_ptr<ProjectorChannel> inner, std::chrono::milliseconds timeOut,
-      std::function<bool()> hasGreeted = [] { return false; })
+      std::function<bool()> hasGreeted = [] { return false; }, PatientTime time = {})
       : ForwardingChannel(std::move(inner)),
         timeOut_(timeOut),
         hasGreeted_(std::move(hasGreeted)),
+        time_(std::move(time)),
         wasThere_(Connection() == ConnectionState::Connected) {}
 
   PjtReply Execute(const PjtCommand& command) override;
 
-  /// Counts the projector for gone, as somebody else found out.
+  /// Treats the projector as gone, when the caller has found that out in another way.
   void GiveUp();
   bool IsGone() const { return gone_; }
-  /// The reply to the last command; before the first one that says nothing wrong.
+  /// The reply to the last command; before the first command, one without an error.
   const PjtReply& Last() const { return last_; }
   /// Whether the last command was answered.
   bool HasAnswered() const { return last_.answered; }
-  /// Whether it was to something that the projector has, as far as that is known.
+  /// Whether the last command was for something that the projector has, as far as that is known.
   bool IsOffered() const { return last_.offered; }
 
  private:
   const std::chrono::milliseconds timeOut_;
   const std::function<bool()> hasGreeted_;
+  const PatientTime time_;
   bool wasThere_;  ///< It has greeted or answered.
   bool gone_ = false;
   PjtReply last_;

@@ -4,12 +4,12 @@
 
 #include "device/channels/PjLinkChannel.h"
 
-// What PJLink projectors are, kept from one program to the next in the user's cache folder, a file
-// for each address: the protocol's class and the inputs with their names. It holds for a day. A
-// file that is damaged, too old or from another version is as none, and any may be deleted.
+// Remembers the protocol class and the inputs of PJLink projectors between runs, in one file for
+// each address in the user's cache folder. A file is used for a day. One that is damaged, too old
+// or of another version is ignored, and any may be deleted.
 
-/// What is remembered of the projector at that address, as `PjLinkChannel::Address` says it.
+/// What is remembered of the projector at an address, given as in `PjLinkChannel::Address`.
 PjLinkFacts ReadPjLinkCache(const std::string& address);
 
-/// Remembers it. Where that fails, nothing is.
+/// Remembers it, or does nothing if the file cannot be written.
 void WritePjLinkCache(const std::string& address, const PjLinkFacts& facts);

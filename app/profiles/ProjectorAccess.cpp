@@ -5,12 +5,11 @@
 #include <utility>
 
 #include "app/profiles/PjLinkCache.h"
-#include "device/ModelDataIntake.h"
 #include "device/channels/WireChannel.h"
 
-SimulatedModel SimulatedModelOf(const ProjectorProfile& profile) {
-  SimulatedModel model = DescribeModel(MakeModelData(profile.Model));
-  model.missing = {profile.Lacks.begin(), profile.Lacks.end()};
+SimulatedModel SimulatedModelOf(const FleetProfile& profile) {
+  SimulatedModel model = DescribeModel(profile.model->data);
+  model.missing = {profile.model->lacks.begin(), profile.model->lacks.end()};
   return model;
 }
 
@@ -27,16 +26,15 @@ bool HasGreeted(const ProjectorChannel& channel) {
 
 }  // namespace
 
-ProjectorAccess::ProjectorAccess(const ProjectorProfile& profile,
+ProjectorAccess::ProjectorAccess(const FleetProfile& profile,
                                  const std::shared_ptr<ProjectorChannel>& channel,
                                  std::chrono::milliseconds timeOut)
-    : name_(profile.Name),
-      model_(profile.Model),
-      settings_(MakeModelData(model_)),
+    : name_(profile.name),
+      settings_(profile.model->data),
       pjLink_(std::dynamic_pointer_cast<PjLinkChannel>(channel)),
       channel_(std::make_shared<PatientChannel>(
           channel, timeOut, [&channel = *channel] { return HasGreeted(channel); })) {
-  tellsInputs_ = pjLink_ != nullptr && model_.MySourceList.Size() == 0;
+  tellsInputs_ = pjLink_ != nullptr && settings_.Model().MySourceList.Size() == 0;
   connection_.SetChannel(channel_);
   if (!pjLink_) return;
   remembered_ = ReadPjLinkCache(pjLink_->Address());
@@ -52,7 +50,7 @@ ProjectorAccess::~ProjectorAccess() {
 }
 
 void ProjectorAccess::AskForInputs(InputsNeeded needed) {
-  const bool areKnown = pjLink_ == nullptr || model_.MySourceList.Size() > 0;
+  const bool areKnown = pjLink_ == nullptr || settings_.Model().MySourceList.Size() > 0;
   if (areKnown || needed == InputsNeeded::None) return;
   std::vector<PjLinkInput> inputs;
   bool areTold = false;
@@ -64,11 +62,12 @@ void ProjectorAccess::AskForInputs(InputsNeeded needed) {
     std::tie(inputs, areTold) = pjLink_->AskForInputs();
   }
   lacksInputs_ = !areTold;
-  // One that has let us in may answer everything else.
+  // A projector that has accepted the connection may still answer other questions.
   if (lacksInputs_ && !pjLink_->HasGreeted()) channel_->GiveUp();
   if (inputs.empty()) return;
-  model_.MySourceList = SourcesOf(inputs, InputCodes::AllNames);
-  settings_ = ModelSettings(MakeModelData(model_));
+  ModelData model = settings_.Model();
+  model.MySourceList = SourcesOf(inputs, InputCodes::AllNames);
+  settings_ = ModelSettings(std::move(model));
 }
 
 bool ProjectorAccess::HasSteps(const ModelSetting& setting) {

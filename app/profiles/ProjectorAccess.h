@@ -13,43 +13,48 @@
 #include "simulator/SimulatedProjector.h"
 
 /// The simulation that a profile describes.
-SimulatedModel SimulatedModelOf(const ProjectorProfile& profile);
+SimulatedModel SimulatedModelOf(const FleetProfile& profile);
+inline SimulatedModel SimulatedModelOf(const ProjectorProfile& profile) {
+  return SimulatedModelOf(MakeFleetProfile(profile));
+}
 
-/// What a command has to know of the inputs that a projector tells itself.
+/// Which of a PJLink projector's inputs a command needs to know.
 enum class InputsNeeded {
   None,
-  Present,  ///< The name of the one that is shown.
+  Present,  ///< The present one.
   All,
 };
 
-/// A projector of a profile file as a program without a window uses it. One thread at a time. What
-/// a PJLink projector is, is remembered for the next program.
+/// The connection to a projector of a profile file, for programs without a window. Use from one
+/// thread at a time. The class and inputs of a PJLink projector are remembered for the next run.
 class ProjectorAccess {
  public:
-  /// `timeOut` is that of the channel, for one answer.
-  ProjectorAccess(const ProjectorProfile& profile, const std::shared_ptr<ProjectorChannel>& channel,
+  /// `timeOut` is the channel's time-out for an answer.
+  ProjectorAccess(const FleetProfile& profile, const std::shared_ptr<ProjectorChannel>& channel,
                   std::chrono::milliseconds timeOut = std::chrono::seconds(2));
+  ProjectorAccess(const ProjectorProfile& profile, const std::shared_ptr<ProjectorChannel>& channel,
+                  std::chrono::milliseconds timeOut = std::chrono::seconds(2))
+      : ProjectorAccess(MakeFleetProfile(profile), channel, timeOut) {}
 
   ~ProjectorAccess();
   ProjectorAccess(const ProjectorAccess&) = delete;
   ProjectorAccess& operator=(const ProjectorAccess&) = delete;
 
-  /// Asks a PJLink projector for its inputs where the profile names none and they are not
-  /// remembered.
+  /// Asks a PJLink projector for its inputs, unless the profile names them or they are remembered.
   void AskForInputs(InputsNeeded needed = InputsNeeded::All);
-  /// Whether inputs were asked for and the answer got lost, so that settings that choose one lack
-  /// entries, and what is read of them has a number or a kind instead of a name.
+  /// Whether an answer about inputs got lost. Then settings that choose an input lack entries, and
+  /// inputs are shown by number or kind instead of by name.
   bool LacksInputs() const { return lacksInputs_; }
 
   bool IsPjLink() const { return pjLink_ != nullptr; }
-  /// Whether the inputs are those that the projector tells, as the profile names none.
+  /// Whether the inputs come from the projector, because the profile names none.
   bool TellsInputs() const { return tellsInputs_; }
 
-  /// Steps a setting that can be stepped and not read, as the volume over PJLink, up so many times,
-  /// or down where `steps` is below zero. Ends with the first step that is not accepted, or before
-  /// the first for which `goesOn` is false; the result is the number of those that were accepted.
+  /// Steps a setting that cannot be read, such as the volume over PJLink: up `steps` times, or down
+  /// if it is negative. Stops at the first step that is refused, or when `goesOn` returns false.
+  /// Returns the number of accepted steps.
   int StepUnread(const ModelSetting& setting, int steps, const std::function<bool()>& goesOn);
-  /// Whether `StepUnread` has a way to do so.
+  /// Whether `StepUnread` can step this setting.
   static bool HasSteps(const ModelSetting& setting);
 
   const std::string& Name() const { return name_; }
@@ -59,9 +64,8 @@ class ProjectorAccess {
 
  private:
   std::string name_;
-  CModelInfo2 model_;
   ModelSettings settings_;
-  std::shared_ptr<PjLinkChannel> pjLink_;  ///< Null for any other way.
+  std::shared_ptr<PjLinkChannel> pjLink_;  ///< Null unless the projector speaks PJLink.
   std::shared_ptr<PatientChannel> channel_;
   CPjtInterface connection_;
   PjLinkFacts remembered_;

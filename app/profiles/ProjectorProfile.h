@@ -7,6 +7,7 @@
 
 #include "device/CModelInfo2.h"
 #include "device/Connect.h"
+#include "device/ModelDataIntake.h"
 #include "fleet/FleetProfile.h"
 #include "simulator/SettingsTable.h"
 
@@ -21,6 +22,7 @@ struct ProjectorProfile {
 };
 
 ProjectorProfile MakeProjectorProfile(const FleetProfile& profile);
+FleetProfile MakeFleetProfile(const ProjectorProfile& profile);
 
 /// Where the projector of a profile is; of a simulated one, an error that says so.
 ProjectorAddress AddressOf(const ProjectorProfile& profile);

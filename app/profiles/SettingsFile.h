@@ -6,33 +6,33 @@
 
 struct SettingsFileContents {
   Snapshot snapshot{};
-  QString name{};     ///< Of the file, as messages call it.
-  QByteArray text{};  ///< What was read, for the line in which a value stands.
-  QString error{};    ///< One line: file, line and what is wrong; empty when all is well.
+  QString name{};     ///< The file's name in messages.
+  QByteArray text{};  ///< The file's contents.
+  QString error{};    ///< One line with file, line and fault; empty on success.
 };
 
 /// Reads a file of saved settings; "-" is standard input.
 SettingsFileContents ReadSettingsFile(const QString& path);
 
-/// The same from a text; `name` stands in error messages.
+/// Parses the text of such a file; `name` is its name in error messages.
 SettingsFileContents ParseSettingsFile(const QByteArray& text, const QString& name);
 
-/// A projector's name as part of a file's name. Several projectors may have the same.
+/// A projector's name in a form that is valid in a file name. Different names may give the same
+/// result.
 QString FileNameOf(const std::string& projector);
 
-/// The file that keeps the values that a restored one replaces: a new one, so that no other is
-/// lost.
+/// The file with the values that a restored file replaces. Always a new file.
 class UndoFile {
  public:
-  /// Beside `file` where `folder` is empty.
+  /// The file will be in `folder`, or if that is empty, beside `file`.
   UndoFile(const QString& file, const QString& folder, const std::string& projector);
 
-  /// Whether the file now holds this; where it cannot, it holds what it held before.
+  /// Writes the file. On failure returns false and leaves the earlier contents.
   bool Keep(const Snapshot& undo);
 
-  /// Empty while nothing is kept.
+  /// Empty until something was written.
   QString Path() const { return isThere_ ? path_ : QString(); }
-  /// One line on what could not be kept; empty when all is well.
+  /// One line with the failure of the last `Keep`; empty on success.
   QString Error() const;
 
  private:

@@ -12,16 +12,16 @@
 
 namespace {
 
-std::shared_ptr<FaultChannel> Simulate(const ProjectorProfile& profile) {
+std::shared_ptr<FaultChannel> Simulate(const FleetProfile& profile) {
   return std::make_shared<FaultChannel>(
       std::make_shared<SimulatedProjector>(SimulatedModelOf(profile)));
 }
 
-PjLinkServer::Options PjLinkOptions(const ProjectorProfile& profile, const std::string& password) {
+PjLinkServer::Options PjLinkOptions(const FleetProfile& profile, const std::string& password) {
   ServedProjector served;
-  served.inputs = InputsOf(profile.Model.MySourceList);
-  served.texts["NAME"] = profile.Name;
-  served.texts["INF2"] = profile.Model.ModelName;
+  served.inputs = InputsOf(profile.model->info.MySourceList);
+  served.texts["NAME"] = profile.name;
+  served.texts["INF2"] = profile.model->info.ModelName;
   return {.password = password, .served = std::move(served)};
 }
 
@@ -37,24 +37,24 @@ QString AddName(QStringList& names, const QString& name, const QString& connecti
 
 }  // namespace
 
-ServedProjectors::ServedProjectors(const std::vector<ProjectorProfile>& profiles,
+ServedProjectors::ServedProjectors(const std::vector<FleetProfile>& profiles,
                                    const ServiceOptions& options)
     : options_(options) {
-  for (const ProjectorProfile& profile : profiles) {
+  for (const FleetProfile& profile : profiles) {
     if (!Serve(profile)) return;
   }
   const auto faults = Distribute(options_.faults, Count(), options_.seed);
   for (std::size_t i = 0; i < faults.size(); ++i) SetFault(i, faults[i]);
 }
 
-bool ServedProjectors::Serve(const ProjectorProfile& profile) {
-  Service service{.name = profile.Name, .channel = Simulate(profile), .wire = {}, .pjLink = {}};
+bool ServedProjectors::Serve(const FleetProfile& profile) {
+  Service service{.name = profile.name, .channel = Simulate(profile), .wire = {}, .pjLink = {}};
   const auto port = [this](std::size_t offset) {
     const std::size_t place = options_.firstPort + 2 * services_.size() + offset;
     return static_cast<std::uint16_t>(options_.firstPort == 0 ? 0 : place);
   };
   const auto cannot = [&](const QString& what) {
-    error_ = QString::fromStdString(profile.Name) + QStringLiteral(": ") + what;
+    error_ = QString::fromStdString(profile.name) + QStringLiteral(": ") + what;
     return false;
   };
   if (options_.firstPort + 2 * services_.size() + 1 > UINT16_MAX) {

@@ -8,9 +8,9 @@
 #include <QHostAddress>
 #include <QJsonObject>
 
-#include "app/profiles/ProfileFile.h"
 #include "app/simulator/ControlServer.h"
 #include "app/simulator/Faults.h"
+#include "fleet/ProfileFile.h"
 #include "simulator/FaultChannel.h"
 #include "simulator/PjLinkServer.h"
 #include "simulator/WireServer.h"
@@ -39,7 +39,7 @@ struct Service {
 class ServedProjectors final : public ControlledProjectors {
  public:
   /// Starts serving `profiles`. On failure, `ErrorText` says what is wrong.
-  ServedProjectors(const std::vector<ProjectorProfile>& profiles, const ServiceOptions& options);
+  ServedProjectors(const std::vector<FleetProfile>& profiles, const ServiceOptions& options);
 
   const QString& ErrorText() const { return error_; }
   std::size_t Count() const override { return services_.size(); }
@@ -54,7 +54,7 @@ class ServedProjectors final : public ControlledProjectors {
   void SetFault(std::size_t projector, const ServiceFault& fault) override;
 
  private:
-  bool Serve(const ProjectorProfile& profile);
+  bool Serve(const FleetProfile& profile);
   QJsonObject NetworkConnection(int port, const std::string& password) const;
 
   const ServiceOptions options_;

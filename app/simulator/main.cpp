@@ -47,16 +47,15 @@ QString ProfileFile(const Arguments& arguments) {
 }
 
 // Keeps the projectors with the given names. Returns the first name that no projector has.
-std::optional<QString> Choose(std::vector<ProjectorProfile>& profiles, const QStringList& names) {
+std::optional<QString> Choose(std::vector<FleetProfile>& profiles, const QStringList& names) {
   for (const QString& name : names) {
-    if (std::ranges::find(profiles, name.toStdString(), &ProjectorProfile::Name) ==
-        profiles.end()) {
+    if (std::ranges::find(profiles, name.toStdString(), &FleetProfile::name) == profiles.end()) {
       return name;
     }
   }
   if (names.isEmpty()) return std::nullopt;
-  std::erase_if(profiles, [&names](const ProjectorProfile& profile) {
-    return !names.contains(QString::fromStdString(profile.Name));
+  std::erase_if(profiles, [&names](const FleetProfile& profile) {
+    return !names.contains(QString::fromStdString(profile.name));
   });
   return std::nullopt;
 }
@@ -96,20 +95,20 @@ int Serve(Projectors& projectors, const Arguments& arguments, int endingSignals)
 }
 
 int Run(const Arguments& arguments, int endingSignals) {
-  ProfileFileContents contents = ReadProfileFile(ProfileFile(arguments));
+  ProfileList contents = ReadProfileList(ProfileFile(arguments));
   if (!contents.error.isEmpty()) return Fail(contents.error);
-  if (const auto unknown = Choose(contents.projectors, arguments.projectors)) {
+  if (const auto unknown = Choose(contents.profiles, arguments.projectors)) {
     return Fail(QStringLiteral("there is no projector '%1'").arg(*unknown));
   }
   if (arguments.fleet) {
     RaiseDescriptorLimit();
-    FleetService fleet(std::move(contents.projectors), *arguments.fleet);
+    FleetService fleet(std::move(contents.profiles), *arguments.fleet);
     if (const QString error = fleet.Start(); !error.isEmpty()) return Fail(error);
     const int status = Serve(fleet, arguments, endingSignals);
     const QString error = fleet.WriteCounts();
     return error.isEmpty() ? status : Fail(error);
   }
-  ServedProjectors projectors(contents.projectors, arguments.service);
+  ServedProjectors projectors(contents.profiles, arguments.service);
   if (!projectors.ErrorText().isEmpty()) return Fail(projectors.ErrorText());
   return Serve(projectors, arguments, endingSignals);
 }
@@ -117,7 +116,7 @@ int Run(const Arguments& arguments, int endingSignals) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
-  EndWhenOutOfMemory("advanced-control-simulator");
+  EndConsoleProgramWhenOutOfMemory("advanced-control-simulator");
   const int endingSignals = EndingSignals();
   const QCoreApplication application(argc, argv);
   const Arguments arguments = ParseArguments(QCoreApplication::arguments());

@@ -9,7 +9,7 @@
 
 namespace AdvancedControl {
 
-/// What a column of a table of projectors tells.
+/// The meaning of a column in a table of projectors.
 enum class CsvColumn : std::uint8_t {
   Name,
   Address,
@@ -27,7 +27,7 @@ enum class CsvColumn : std::uint8_t {
   Snapshot,
 };
 
-/// By the column's heading, whose case, spaces and marks do not count.
+/// The meaning of a heading; nothing if it is unknown. Case, spaces and punctuation are ignored.
 std::optional<CsvColumn> CsvColumnOf(const QString& heading);
 
 }  // namespace AdvancedControl

@@ -36,8 +36,7 @@ class PROJECTOR_FLEET_EXPORT Fleet {
   Fleet(const Fleet&) = delete;
   Fleet& operator=(const Fleet&) = delete;
 
-  /// Adds a projector, which is visited at once, or replaces the one with this identity. Projectors
-  /// on serial lines are not visited, since only one program can open a line.
+  /// Adds a projector, which is visited at once, or replaces the one with this identity.
   void Set(FleetTarget target);
   void Remove(const std::string& id);
 

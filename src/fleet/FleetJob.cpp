@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "fleet/Fleet.h"
+#include "fleet/JobChannel.h"
 #include "fleet/ProjectorWork.h"
 
 namespace AdvancedControl {
@@ -17,15 +18,16 @@ FleetJob::FleetJob(Fleet* fleet, std::vector<FleetTarget> targets, FleetWork wor
       texts_(texts),
       options_(std::move(options)),
       results_(targets_.size()) {
-  const std::size_t atOnce = std::clamp<std::size_t>(options_.atOnce, 1, kMostThreads);
-  for (std::size_t i = 0; i < std::min(atOnce, targets_.size()); ++i) {
-    threads_.emplace_back([this] { Run(); });
-  }
+  const std::size_t atOnce =
+      std::min(std::clamp<std::size_t>(options_.atOnce, 1, kMostAtOnce), targets_.size());
+  thread_ = std::thread([this, atOnce] {
+    loop_.Run(static_cast<JobLoop::Peer>(atOnce), [this](JobLoop::Peer peer) { Run(peer); });
+  });
 }
 
 FleetJob::~FleetJob() {
   Cancel();
-  for (std::thread& thread : threads_) thread.join();
+  thread_.join();
 }
 
 void FleetJob::Cancel() { isCancelled_ = true; }
@@ -56,7 +58,8 @@ SnapshotsById FleetJob::Undo() const {
   return undo;
 }
 
-void FleetJob::Run() {
+/// One of those that work at the same time.
+void FleetJob::Run(JobLoop::Peer peer) {
   while (true) {
     std::size_t index = 0;
     {
@@ -64,11 +67,11 @@ void FleetJob::Run() {
       if (next_ == targets_.size()) return;
       index = next_++;
     }
-    WorkOn(index);
+    WorkOn(index, peer);
   }
 }
 
-void FleetJob::WorkOn(std::size_t index) {
+void FleetJob::WorkOn(std::size_t index, JobLoop::Peer peer) {
   const FleetTarget& target = targets_[index];
   const auto put = [&](const auto& change) {
     const std::lock_guard lock(mutex_);
@@ -84,7 +87,8 @@ void FleetJob::WorkOn(std::size_t index) {
       if (fleet_) fleet_->Learn(target.id, command, reply, power);
     };
     const std::function<bool()> goesOn = [this] { return !isCancelled_; };
-    ProjectorWork work(target, texts_, options_.timeOut, goesOn, told);
+    const auto channel = MakeJobChannel(loop_, peer, target, options_.timeOut);
+    ProjectorWork work(target, channel, texts_, goesOn, told);
     result = work.Do(work_,
                      [&](const Snapshot& undo) { put([&](WorkResult& now) { now.undo = undo; }); });
     if (fleet_ && result.differing) fleet_->LearnDrift(target.id, result.differing);

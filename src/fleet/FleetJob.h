@@ -15,24 +15,27 @@
 #include "ProjectorFleetExport.h"
 #include "fleet/FleetTarget.h"
 #include "fleet/FleetWork.h"
+#include "fleet/JobLoop.h"
 #include "snapshots/SettingTexts.h"
 
 namespace AdvancedControl {
 
 class Fleet;
 
-/// The same work on many projectors, several at a time. While it works on one, the fleet keeps away
-/// and learns from it. Its functions may be called from any thread, and all but `Wait` return at
-/// once.
+/// The same work on many projectors, several at a time, on one thread of its own. While it works on
+/// one, the fleet keeps away and learns from it. Its functions may be called from any thread, and
+/// all but `Wait` return at once.
 class PROJECTOR_FLEET_EXPORT FleetJob {
  public:
-  /// Each projector takes a thread while it is worked on, which bounds `Options::atOnce`.
+  /// Bounds `Options::atOnce`.
+  static constexpr std::size_t kMostAtOnce = 512;
+  /// A program that starts a job for each command runs at most so many at a time.
   static constexpr std::size_t kMostThreads = 12;
 
   struct Options {
     std::size_t atOnce = 64;
     std::chrono::milliseconds timeOut{2000};  ///< For connecting, and for each answer.
-    /// Called on a thread of the job after each projector.
+    /// Called on the thread of the job after each projector.
     std::function<void()> onProgress = [] {};
   };
   struct Progress {
@@ -65,8 +68,8 @@ class PROJECTOR_FLEET_EXPORT FleetJob {
   SnapshotsById Undo() const;
 
  private:
-  void Run();
-  void WorkOn(std::size_t index);
+  void Run(JobLoop::Peer peer);
+  void WorkOn(std::size_t index, JobLoop::Peer peer);
 
   Fleet* const fleet_;
   const std::vector<FleetTarget> targets_;
@@ -80,7 +83,8 @@ class PROJECTOR_FLEET_EXPORT FleetJob {
   std::vector<WorkResult> results_;  ///< Under the mutex, as is what follows.
   std::size_t next_ = 0;
   std::size_t finished_ = 0;
-  std::vector<std::thread> threads_;
+  JobLoop loop_;
+  std::thread thread_;
 };
 
 }  // namespace AdvancedControl

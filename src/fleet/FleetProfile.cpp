@@ -30,6 +30,25 @@ ProjectorAddress AddressOf(ProjectorLink link, const ProfileConnection& connecti
   return AddressError{"the projector is simulated"};
 }
 
+FleetTarget TargetOf(const FleetProfile& profile) {
+  return {.id = FleetIdOf(profile),
+          .address = AddressOf(profile),
+          .model = {profile.model, &profile.model->data}};
+}
+
+CModelInfo2 ModelInfoOf(const FleetProfile& profile) {
+  constexpr int kNetworkKind = 1;
+  constexpr int kSerialKind = 0;
+  const ProfileConnection& connection = profile.connection;
+  CModelInfo2 info = profile.model->info;
+  info.ConnectionKinds[0] = connection.isNetwork ? kNetworkKind : kSerialKind;
+  info.ConnectionNumbers[0] = connection.isNetwork ? 0 : connection.port;
+  info.ConnectionParameters[0] = connection.isNetwork ? connection.port : connection.baud;
+  info.ConnectionTexts1[0] = MakeNameSlot(connection.address);
+  info.ConnectionTexts2[0] = MakeNameSlot(connection.secret);
+  return info;
+}
+
 QString ConnectionText(const ProfileConnection& connection) {
   QString address = QString::fromStdString(connection.address);
   if (connection.isNetwork) return QStringLiteral("%1:%2").arg(address).arg(connection.port);

@@ -8,8 +8,11 @@
 #include <QString>
 
 #include "Namespace.h"
+#include "ProjectorFleetExport.h"
 #include "device/CModelInfo2.h"
 #include "device/Connect.h"
+#include "device/ModelData.h"
+#include "fleet/FleetTarget.h"
 #include "simulator/SettingsTable.h"
 
 namespace AdvancedControl {
@@ -17,12 +20,11 @@ namespace AdvancedControl {
 /// How a projector of a profile file is reached.
 enum class ProjectorLink : std::uint8_t { Simulated, Network, Serial, PjLink };
 
-/// What projectors of one model have in common. About 15 kilobytes, and so shared by them.
+/// What projectors of one model have in common. They share it, as it takes about 30 kilobytes.
 struct ProfileModel {
   CModelInfo2 info;              ///< Without a connection.
   std::vector<SettingId> lacks;  ///< Settings that the simulated model does not have.
-
-  bool operator==(const ProfileModel&) const = default;
+  ModelData data;                ///< The same as `info`, as the libraries use it.
 };
 
 /// Where a projector is: a host and port, or a serial line.
@@ -44,28 +46,35 @@ struct FleetProfile {
   ProfileConnection connection;
   ProjectorLink link = ProjectorLink::Simulated;
 
-  /// What stays the same when the projector gets another name or address: "mac:00:00:5e:00:53:01",
-  /// "serial:12345" or "id:" and a text that somebody chose. Unique in its file; may be empty.
+  /// Does not change when the projector gets another name or address: "mac:00:00:5e:00:53:01",
+  /// "serial:12345", or "id:" and any text. Unique in its file; may be empty.
   std::string identity{};
   std::vector<std::string> tags{};
   std::string notes{};
   int ratedLampHours = 0;  ///< 0 if not known.
-  std::string snapshot{};  ///< Name of the snapshot of how it should be; empty for none.
+  std::string snapshot{};  ///< Name of the snapshot that it should match; empty for none.
 };
 
-/// What tells a projector from all others of its file: its identity, or else its name.
-std::string FleetIdOf(const FleetProfile& profile);
+/// Identifies a projector within its file: its identity, or else its name.
+PROJECTOR_FLEET_EXPORT std::string FleetIdOf(const FleetProfile& profile);
 
-/// An identity for a projector whose protocol tells none.
-std::string MakeIdentity();
+/// A new identity for a projector whose protocol reports none.
+PROJECTOR_FLEET_EXPORT std::string MakeIdentity();
 
 /// Where a projector is; an error if it is simulated.
-ProjectorAddress AddressOf(ProjectorLink link, const ProfileConnection& connection);
+PROJECTOR_FLEET_EXPORT ProjectorAddress AddressOf(ProjectorLink link,
+                                                  const ProfileConnection& connection);
 inline ProjectorAddress AddressOf(const FleetProfile& profile) {
   return AddressOf(profile.link, profile.connection);
 }
 
+/// What a fleet needs to watch the projector.
+PROJECTOR_FLEET_EXPORT FleetTarget TargetOf(const FleetProfile& profile);
+
+/// What the dialog needs to open the projector: its model, with the connection as connection 0.
+PROJECTOR_FLEET_EXPORT CModelInfo2 ModelInfoOf(const FleetProfile& profile);
+
 /// "192.0.2.30:4352" or "serial port 1"
-QString ConnectionText(const ProfileConnection& connection);
+PROJECTOR_FLEET_EXPORT QString ConnectionText(const ProfileConnection& connection);
 
 }  // namespace AdvancedControl

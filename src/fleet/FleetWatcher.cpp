@@ -172,6 +172,12 @@ void FleetWatcher::NotConnected(Peer peer, ConnectionState problem) {
   Drive(peer);
 }
 
+/// Says nothing about the projector.
+void FleetWatcher::InUse(Peer peer) {
+  Abandon(peer);
+  Schedule(peer);
+}
+
 void FleetWatcher::Received(Peer peer, std::string_view bytes) {
   watched_[peer]->visit->Received(bytes, clock_.Now());
   Drive(peer);
@@ -220,7 +226,8 @@ void FleetWatcher::Fire(Peer peer) {
 
 void FleetWatcher::Begin(Peer peer) {
   Watched& watched = *watched_[peer];
-  watched.visit = MakeVisit(watched.target, policy_, watched.state, watched.memory);
+  const auto sequence = static_cast<std::uint16_t>(clock_.Now().time_since_epoch().count());
+  watched.visit = MakeVisit(watched.target, policy_, watched.state, watched.memory, sequence);
   if (!watched.visit) {
     LiveState state = watched.state;
     state.connection = ConnectionState::WrongParameters;
@@ -241,11 +248,9 @@ void FleetWatcher::Drive(Peer peer) {
   while (true) {
     const SessionStep step = watched.visit->Next(clock_.Now());
     switch (step.kind) {
-      case Kind::Connect: {
-        const auto [host, port] = HostOf(watched.target);
-        network_.Connect(peer, host, port);
+      case Kind::Connect:
+        ConnectTo(watched.target, network_, peer);
         break;
-      }
       case Kind::Send:
         network_.Send(peer, step.bytes);
         break;

@@ -64,6 +64,7 @@ class FleetWatcher final : public FleetNetwork::Listener {
 
   void Connected(Peer peer) override;
   void NotConnected(Peer peer, ConnectionState problem) override;
+  void InUse(Peer peer) override;
   void Received(Peer peer, std::string_view bytes) override;
   void Closed(Peer peer) override;
   void Noticed(const std::string& address) override;

@@ -18,7 +18,8 @@ struct SwitchPower {
   bool on = false;
 };
 
-/// Sets one setting. `text` is what a person types: an entry, a number or a step such as "+2".
+/// Sets one setting. `text` is what a person types: an entry, a number or a step such as "+2". The
+/// key may also be that of an action, which is then done; `text` is the entry of its list, if any.
 struct SetSetting {
   std::string key{};
   std::string text{};

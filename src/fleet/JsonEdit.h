@@ -8,6 +8,7 @@
 #include <QString>
 
 #include "Namespace.h"
+#include "ProjectorFleetExport.h"
 
 namespace AdvancedControl {
 
@@ -39,26 +40,28 @@ using Members = std::vector<Member>;
 
 /// Sets a member of an object, adds it at the end, or removes it. If the value is an object before
 /// and afterwards, only the members that differ are changed.
-QByteArray SetMember(const QByteArray& text, const Path& path, const Member& member);
+PROJECTOR_FLEET_EXPORT QByteArray SetMember(const QByteArray& text, const Path& path,
+                                            const Member& member);
 
 /// Inserts `element`, a JSON text, after the element `after` of an array, which must not be empty.
-QByteArray InsertElement(const QByteArray& text, const Path& path, qsizetype after,
-                         const QByteArray& element);
+PROJECTOR_FLEET_EXPORT QByteArray InsertElement(const QByteArray& text, const Path& path,
+                                                qsizetype after, const QByteArray& element);
 
-QByteArray RemoveElement(const QByteArray& text, const Path& path, qsizetype position);
+PROJECTOR_FLEET_EXPORT QByteArray RemoveElement(const QByteArray& text, const Path& path,
+                                                qsizetype position);
 
 /// The text of a value.
-QByteArray TextAt(const QByteArray& text, const Path& path);
+PROJECTOR_FLEET_EXPORT QByteArray TextAt(const QByteArray& text, const Path& path);
 
 /// Where each element of an array begins and ends.
 struct Extent {
   qsizetype begin;
   qsizetype end;
 };
-std::vector<Extent> Elements(const QByteArray& text, const Path& path);
+PROJECTOR_FLEET_EXPORT std::vector<Extent> Elements(const QByteArray& text, const Path& path);
 
 /// An object as JSON on one line.
-QByteArray Write(const Members& members);
+PROJECTOR_FLEET_EXPORT QByteArray Write(const Members& members);
 
 }  // namespace JsonEdit
 

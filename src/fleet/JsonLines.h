@@ -7,16 +7,17 @@
 #include <QString>
 
 #include "Namespace.h"
+#include "ProjectorFleetExport.h"
 
 namespace AdvancedControl {
 
-/// Where each value of a JSON text stands. Paths are written "projectors[3].ranges.brightness"; the
-/// whole text has an empty one.
-class JsonLines {
+/// Finds the line of each value of a JSON text. Paths are written
+/// "projectors[3].ranges.brightness"; the path of the whole text is empty.
+class PROJECTOR_FLEET_EXPORT JsonLines {
   Q_DECLARE_TR_FUNCTIONS(JsonLines)
 
  public:
-  /// What a text may hold at most. What exceeds it is not read at all.
+  /// The largest text that is read.
   struct Limits {
     qsizetype bytes = qsizetype{4} << 20;
     int values = 100'000;
@@ -29,18 +30,19 @@ class JsonLines {
     QString message;
   };
 
-  /// The first thing in a text, well-formed or not, that no reader should be given: what exceeds a
-  /// limit, control characters in a string, half a surrogate pair. Takes linear time and no memory.
+  /// The first fault that a JSON reader must not be given: a limit exceeded, a control character in
+  /// a string, or half a surrogate pair. The text need not be well-formed. Takes linear time and no
+  /// memory.
   static std::optional<Fault> FaultOf(const QByteArray& text, const Limits& limits);
 
-  /// `text` must be well-formed JSON without a fault, and live as long as this.
+  /// `text` must be well-formed JSON without a fault, and must outlive this object.
   explicit JsonLines(const QByteArray& text) : text_(text) {}
 
-  /// Line, from 1, in which the value begins; for a path that the text does not have, that of the
-  /// innermost value around it that it has.
+  /// The line, from 1, in which the value at a path begins; if there is none, that of the innermost
+  /// value around it.
   int LineOf(const QString& path) const;
 
-  /// Path of the first key that stands twice in its object, and the line of its second value.
+  /// The path of the first key that an object has twice, and the line of its second value.
   struct Repeated {
     QString path;
     int line;

@@ -8,14 +8,25 @@
 namespace AdvancedControl {
 
 std::unique_ptr<Visit> MakeVisit(const FleetTarget& target, const FleetPolicy& policy,
-                                 const LiveState& state, const ProjectorMemory& memory) {
+                                 const LiveState& state, const ProjectorMemory& memory,
+                                 std::uint16_t sequence) {
   if (const auto* const pjLink = std::get_if<PjLinkAddress>(&target.address)) {
     return std::make_unique<PjLinkVisit>(*pjLink, policy, state, memory, target.model);
   }
-  if (std::holds_alternative<TcpAddress>(target.address)) {
-    return std::make_unique<WireVisit>(policy, state, memory, target.model);
+  if (std::holds_alternative<AddressError>(target.address)) return nullptr;
+  const bool isSerial = std::holds_alternative<SerialAddress>(target.address);
+  return std::make_unique<WireVisit>(
+      isSerial ? WireSession::Medium::Noisy : WireSession::Medium::Reliable, policy, state, memory,
+      target.model, sequence);
+}
+
+void ConnectTo(const FleetTarget& target, FleetNetwork& network, FleetNetwork::Peer peer) {
+  const auto [host, port] = HostOf(target);
+  if (const auto* const serial = std::get_if<SerialAddress>(&target.address)) {
+    network.OpenLine(peer, serial->device, serial->baud);
+  } else {
+    network.Connect(peer, host, port);
   }
-  return nullptr;
 }
 
 std::pair<std::string, std::uint16_t> HostOf(const FleetTarget& target) {
@@ -24,6 +35,9 @@ std::pair<std::string, std::uint16_t> HostOf(const FleetTarget& target) {
   }
   if (const auto* const tcp = std::get_if<TcpAddress>(&target.address)) {
     return {tcp->host, tcp->port};
+  }
+  if (const auto* const serial = std::get_if<SerialAddress>(&target.address)) {
+    return {serial->device, 0};
   }
   return {};
 }

@@ -6,15 +6,21 @@
 #include <utility>
 
 #include "Namespace.h"
+#include "fleet/FleetNetwork.h"
 #include "fleet/Visit.h"
 
 namespace AdvancedControl {
 
-/// The visit that fits the projector's address; null for one that is not on a network.
+/// The visit that fits the projector's address; null for a wrong address. `sequence` differs from
+/// visit to visit; see `WireSession`.
 std::unique_ptr<Visit> MakeVisit(const FleetTarget& target, const FleetPolicy& policy,
-                                 const LiveState& state, const ProjectorMemory& memory);
+                                 const LiveState& state, const ProjectorMemory& memory,
+                                 std::uint16_t sequence);
 
-/// Where a projector on a network is.
+/// Begins to connect to the projector.
+void ConnectTo(const FleetTarget& target, FleetNetwork& network, FleetNetwork::Peer peer);
+
+/// Where a projector is: host and port, or a serial port's path and 0.
 std::pair<std::string, std::uint16_t> HostOf(const FleetTarget& target);
 
 }  // namespace AdvancedControl

@@ -8,28 +8,28 @@
 #include <QStringList>
 
 #include "Namespace.h"
+#include "ProjectorFleetExport.h"
 #include "fleet/Csv.h"
 #include "fleet/FleetProfile.h"
 
 namespace AdvancedControl {
 
-/// What came of a table that was taken into a profile file.
+/// The result of importing a table into a profile file.
 struct CsvImport {
-  QByteArray text;  ///< Of the profile file with what was taken; as it was if nothing was.
+  QByteArray text;  ///< The new text of the profile file; unchanged if no row was imported.
   std::size_t added = 0;
-  std::size_t changed = 0;         ///< Those that the file had, whether or not something differed.
-  std::vector<CsvFault> faults{};  ///< Of the rows that were not taken, by line.
-  QStringList unused{};            ///< Columns that mean nothing here.
-  QString error{};                 ///< Not empty where nothing could be taken: one line.
+  std::size_t changed = 0;         ///< Rows for projectors that the file already had.
+  std::vector<CsvFault> faults{};  ///< Rows that were not imported, by line.
+  QStringList unused{};            ///< Headings that are not known.
+  QString error{};                 ///< One line; empty unless nothing could be imported.
 };
 
-/// Takes the rows of comma-separated values into the text of a profile file, or into
-/// `ProfileEdits::kNoProfiles`. A row is that of a projector with its identity, or else with its
-/// name; another row adds a projector. Only what the row tells is changed; docs/profiles.md lists
-/// the columns.
-CsvImport ImportCsv(const QByteArray& profiles, const QByteArray& csv);
+/// Imports a table into the text of a profile file, or into `ProfileEdits::kNoProfiles`. A row
+/// changes the projector with the same identity, or else the one with the same name; any other row
+/// adds a projector. Only what the row contains is changed. docs/profiles.md lists the columns.
+PROJECTOR_FLEET_EXPORT CsvImport ImportCsv(const QByteArray& profiles, const QByteArray& csv);
 
-/// The profiles as comma-separated values, without passwords.
-QByteArray ExportCsv(const std::vector<FleetProfile>& profiles);
+/// The profiles as a table, without passwords.
+PROJECTOR_FLEET_EXPORT QByteArray ExportCsv(const std::vector<FleetProfile>& profiles);
 
 }  // namespace AdvancedControl

@@ -6,36 +6,38 @@
 #include <QByteArray>
 
 #include "Namespace.h"
+#include "ProjectorFleetExport.h"
 #include "fleet/FleetProfile.h"
 #include "fleet/JsonEdit.h"
 
 namespace AdvancedControl {
 
-/// Many changes to the text of a profile file, which leave everything else in it as it was written.
-/// They take time in proportion to what is changed, and the text is put together once.
-class ProfileEdits {
+/// Makes many changes to the text of a profile file and keeps the formatting of everything else.
+/// The time is proportional to the changes; the text is put together once.
+class PROJECTOR_FLEET_EXPORT ProfileEdits {
  public:
   /// `text` must be a profile file without an error, or `kNoProfiles`.
   explicit ProfileEdits(const QByteArray& text);
 
-  /// The text of a file to which projectors are yet to be added.
+  /// The text of a file without projectors.
   static const QByteArray kNoProfiles;
 
-  /// Those of the text and those that were added; removed ones keep their place here.
+  /// The entries of the text and those added. Removed entries are counted, so numbers stay the
+  /// same.
   std::size_t Count() const { return entries_.size(); }
 
-  /// Gives an entry these members; undefined values take theirs out.
+  /// Sets members of an entry; an undefined value removes its member.
   void Change(std::size_t projector, const JsonEdit::Members& members);
-  /// Adds an entry behind the last one.
+  /// Adds an entry at the end.
   void Add(const JsonEdit::Members& members);
   void Remove(std::size_t projector) { entries_[projector].isThere = false; }
 
-  /// A text without any projector is not a profile file.
+  /// The new text. If it has no projector, it is not a valid profile file.
   QByteArray Text() const;
 
  private:
   struct Entry {
-    QByteArray before;  // what stands between the one before and this
+    QByteArray before;  // the text between the previous entry and this one
     QByteArray text;
     bool isThere = true;
   };
@@ -46,9 +48,9 @@ class ProfileEdits {
   std::vector<Entry> entries_;
 };
 
-/// What a file says of the connection of a profile.
-QJsonValue ConnectionValue(const ProfileConnection& connection);
-/// The name of a link in a file.
-QString LinkName(ProjectorLink link);
+/// A connection as a profile file has it.
+PROJECTOR_FLEET_EXPORT QJsonValue ConnectionValue(const ProfileConnection& connection);
+/// The name of a link in a profile file.
+PROJECTOR_FLEET_EXPORT QString LinkName(ProjectorLink link);
 
 }  // namespace AdvancedControl

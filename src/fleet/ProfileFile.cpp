@@ -13,6 +13,7 @@
 #include <QFile>
 #include <QJsonDocument>
 
+#include "device/ModelDataIntake.h"
 #include "fleet/JsonLines.h"
 #include "fleet/ProfileValues.h"
 #include "fleet/WholeFile.h"
@@ -122,6 +123,7 @@ class ProfileReader {
     const QByteArray text = QJsonDocument(described).toJson(QJsonDocument::Compact);
     if (const auto known = kinds_.find(text); known != kinds_.end()) return known->second;
     Draft draft = families_.Derive(described, path);
+    draft.model.data = MakeModelData(draft.model.info);
     draft.profile.model = std::make_shared<const ProfileModel>(std::move(draft.model));
     return kinds_.emplace(text, Kind{std::move(draft.profile), std::move(draft.keys)})
         .first->second;

@@ -8,13 +8,14 @@
 #include <QString>
 
 #include "Namespace.h"
+#include "ProjectorFleetExport.h"
 #include "fleet/FleetProfile.h"
 
 namespace AdvancedControl {
 
 struct ProfileList {
   std::vector<FleetProfile> profiles;  ///< In the order of the file; empty after an error.
-  /// One line that names the place and what is wrong there; empty when all is well.
+  /// One line with place and fault; empty on success.
   QString error;
 };
 
@@ -23,31 +24,31 @@ struct ProfileFileText {
   QString error;  ///< One line; empty when the file was read.
 };
 
-/// What stands in a regular file, up to a little more than a profile file may hold.
-ProfileFileText ReadProfileText(const QString& fileName);
+/// Reads a regular file; of one that is larger than a profile file may be, only the beginning.
+PROJECTOR_FLEET_EXPORT ProfileFileText ReadProfileText(const QString& fileName);
 
-/// Writes a profile file as a whole, or leaves the one that is there untouched. Nobody but its
-/// owner can read one that holds a password. One line that says what is wrong; empty when all is
-/// well.
-QString WriteProfileText(const QString& fileName, const QByteArray& text);
+/// Writes a profile file completely, or leaves the present one unchanged. A file with a password is
+/// readable by its owner only. Returns one line with the fault; empty on success.
+PROJECTOR_FLEET_EXPORT QString WriteProfileText(const QString& fileName, const QByteArray& text);
 
-/// The projectors of a profile file. Its format is described in `docs/profiles.md`. Projectors that
-/// the file describes alike share a model.
-ProfileList ReadProfileList(const QString& fileName);
+/// Reads a profile file; docs/profiles.md describes its format. Projectors with the same
+/// description share one model.
+PROJECTOR_FLEET_EXPORT ProfileList ReadProfileList(const QString& fileName);
 
-/// The same from a text; `fileName` stands in error messages.
-ProfileList ParseProfileList(const QByteArray& text, const QString& fileName);
+/// Parses the text of a profile file; `fileName` is its name in error messages.
+PROJECTOR_FLEET_EXPORT ProfileList ParseProfileList(const QByteArray& text,
+                                                    const QString& fileName);
 
-/// Says what would be wrong with an entry of a file.
-class ProfileChecker {
+/// Checks entries before they are put into a file.
+class PROJECTOR_FLEET_EXPORT ProfileChecker {
  public:
-  /// `text` must be a profile file without an error, or one that lacks projectors alone.
+  /// `text` must be a valid profile file, which need not have projectors.
   explicit ProfileChecker(const QByteArray& text);
   ~ProfileChecker();
   ProfileChecker(const ProfileChecker&) = delete;
   ProfileChecker& operator=(const ProfileChecker&) = delete;
 
-  /// One line; empty when all is well. What other entries say is not looked at.
+  /// One line with the fault; empty if there is none. Does not compare the entry with others.
   QString Check(const QJsonObject& entry);
 
  private:

@@ -16,7 +16,7 @@
 
 namespace AdvancedControl {
 
-/// What is said about wrong profile files, in the language of the program if it has a translation.
+/// The translation context of messages about profile files.
 struct ProfileFile {
   Q_DECLARE_TR_FUNCTIONS(ProfileFile)
 };
@@ -27,7 +27,7 @@ struct WrongValue {
   QString message;
 };
 
-/// The keys that say what a model is.
+/// The keys that describe a model.
 extern const QStringList kModelKeys;
 /// All keys that a family, or an entry, may have.
 extern const QStringList kFamilyKeys;
@@ -39,7 +39,7 @@ QString Text(std::string_view text);
 QString At(const QString& path, const QString& key);
 QString At(const QString& path, int index);
 
-// Each of these throws `WrongValue` where what stands at `path` is not so.
+// Each of these throws `WrongValue` if the value at `path` is not as described.
 
 /// An object's keys are all among the known ones, or begin with "x-".
 void CheckKeys(const QJsonObject& object, const QString& path, const QStringList& known);
@@ -52,11 +52,12 @@ std::string String(const QJsonValue& value, const QString& path);
 std::int32_t Integer(const QJsonValue& value, const QString& path,
                      std::int32_t minimum = std::numeric_limits<std::int32_t>::min(),
                      std::int32_t maximum = std::numeric_limits<std::int32_t>::max());
-/// The connection is of the kind that the profile's link needs.
+/// Checks that the connection is of the kind that the profile's link needs.
 void CheckLink(const FleetProfile& profile, const QString& path);
 
-/// Puts what a family or an entry says over what it is like; keys that are not theirs are passed
-/// over. Ranges are put over each other one by one, everything else as a whole.
+/// Apply the values of a family or an entry over the inherited ones. Each ignores keys that are not
+/// its own. A range replaces the inherited one of the same name, any other value the whole
+/// inherited value.
 void ApplyRanges(const QJsonObject& ranges, const QString& path, CModelInfo2& model);
 void ApplyModel(const QJsonObject& settings, const QString& path, ProfileModel& model);
 void ApplyProfile(const QJsonObject& settings, const QString& path, FleetProfile& profile);

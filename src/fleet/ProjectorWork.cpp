@@ -4,7 +4,7 @@
 #include <array>
 #include <utility>
 
-#include "device/channels/PjLinkChannel.h"
+#include "fleet/JobChannel.h"
 #include "fleet/LearningChannel.h"
 #include "fleet/StatusItems.h"
 
@@ -26,11 +26,6 @@ constexpr Failure kFailures[] = {
     {Outcome::Unknown, "the model does not have it"},
 };
 
-std::shared_ptr<ProjectorChannel> MakeLearning(std::shared_ptr<ProjectorChannel> channel,
-                                               LearningChannel::Told told) {
-  return std::make_shared<LearningChannel>(std::move(channel), std::move(told));
-}
-
 const Snapshot* SnapshotOf(const SnapshotsById& snapshots, const std::string& id) {
   const auto found = snapshots.find(id);
   return found == snapshots.end() ? nullptr : found->second.get();
@@ -38,20 +33,21 @@ const Snapshot* SnapshotOf(const SnapshotsById& snapshots, const std::string& id
 
 }  // namespace
 
-ProjectorWork::ProjectorWork(const FleetTarget& target, const SettingTexts& texts,
-                             std::chrono::milliseconds timeOut, const std::function<bool()>& goesOn,
+ProjectorWork::ProjectorWork(const FleetTarget& target,
+                             const std::shared_ptr<ProjectorChannel>& channel,
+                             const SettingTexts& texts, const std::function<bool()>& goesOn,
                              Told told)
     : id_(target.id),
       texts_(texts),
       goesOn_(goesOn),
       settings_(target.model ? *target.model : ModelData()),
       progress_{.goesOn = [this] { return goesOn_() && !IsGone(); }} {
-  const auto channel = MakeUnboundedChannel(target.address, timeOut);
-  connection_.SetChannel(MakeLearning(channel, std::move(told)));
-  auto* const pjLink = dynamic_cast<PjLinkChannel*>(channel.get());
-  if (pjLink == nullptr || settings_.Model().MySourceList.Size() > 0) return;
+  connection_.SetChannel(std::make_shared<LearningChannel>(channel, std::move(told)));
+  auto* const asked = dynamic_cast<JobChannel*>(channel.get());
+  const bool isPjLink = std::holds_alternative<PjLinkAddress>(target.address);
+  if (asked == nullptr || !isPjLink || settings_.Model().MySourceList.Size() > 0) return;
   ModelData model = settings_.Model();
-  model.MySourceList = SourcesOf(pjLink->AskForInputs().first, InputCodes::AllNames);
+  model.MySourceList = SourcesOf(asked->AskForInputs(), InputCodes::AllNames);
   settings_ = ModelSettings(std::move(model));
 }
 
@@ -78,6 +74,7 @@ WorkResult ProjectorWork::Do(const SwitchPower& power) {
 WorkResult ProjectorWork::Do(const SetSetting& set) {
   const ModelSetting* const setting = settings_.Find(set.key);
   if (setting == nullptr) return Refused("the model has no such setting");
+  if (setting->kind == ModelSetting::Kind::Action) return Run(*setting, set.text);
   if (!setting->changeable) return Refused("it cannot be set");
   const auto typed = texts_.Parse(*setting, set.text);
   if (!typed) return Refused("'" + set.text + "' is not one of: " + texts_.Values(*setting));
@@ -164,6 +161,21 @@ WorkResult ProjectorWork::SetState(const ModelSetting& setting, int value) {
   const auto now = settings_.Read(connection_, setting);
   if (IsGone()) return Unanswered();
   return {.outcome = now == value ? WorkOutcome::Done : WorkOutcome::Pending};
+}
+
+/// Does what a button does, with the entry of the list beside it, if there is one.
+WorkResult ProjectorWork::Run(const ModelSetting& action, const std::string& entry) {
+  int position = 0;
+  if (!action.entries.empty()) {
+    const auto typed = texts_.Parse(action, entry);
+    position = typed ? PositionOf(action.entries, typed->amount) : -1;
+    if (position < 0) return Refused("'" + entry + "' is no entry of its list");
+  }
+  const CPjtInterface::Tally before = connection_.Sent();
+  const Call& call = std::get<ActionRow>(*action.row).call;
+  const bool accepted = Perform(connection_, call, position, settings_.Model().ModelCode).accepted;
+  if (auto trouble = Trouble(before)) return *trouble;
+  return accepted ? WorkResult{.outcome = WorkOutcome::Done} : Refused("refused");
 }
 
 std::optional<WorkResult> ProjectorWork::Trouble(const CPjtInterface::Tally& before) const {

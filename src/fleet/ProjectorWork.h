@@ -1,6 +1,5 @@
 #pragma once
 
-#include <chrono>
 #include <functional>
 #include <memory>
 #include <string>
@@ -15,16 +14,16 @@
 
 namespace AdvancedControl {
 
-/// A job's work on one projector, over a connection that it makes and that blocks. After the first
-/// command without an answer nothing more is sent.
+/// A job's work on one projector, over a channel of its own. After the first command without an
+/// answer nothing more is sent.
 class ProjectorWork {
  public:
   /// `told` is called with each command and its reply; see `LearningChannel`.
   using Told = std::function<void(const PjtCommand&, const PjtReply&, std::optional<PowerState>)>;
 
   /// `texts` and `goesOn`, which is asked before each command, must outlive it.
-  ProjectorWork(const FleetTarget& target, const SettingTexts& texts,
-                std::chrono::milliseconds timeOut, const std::function<bool()>& goesOn, Told told);
+  ProjectorWork(const FleetTarget& target, const std::shared_ptr<ProjectorChannel>& channel,
+                const SettingTexts& texts, const std::function<bool()>& goesOn, Told told);
 
   /// `keepUndo` is called whenever the undo has grown, before the change is sent.
   WorkResult Do(const FleetWork& work, const std::function<void(const Snapshot&)>& keepUndo);
@@ -38,6 +37,7 @@ class ProjectorWork {
 
   WorkResult Apply(const Snapshot& snapshot);
   WorkResult OutcomeOf(const Restoration& restoration) const;
+  WorkResult Run(const ModelSetting& action, const std::string& entry);
   WorkResult SetState(const ModelSetting& setting, int value);
   /// The outcome of a change whose reply led from `before` to the present tally, where that says
   /// more than that it was accepted.

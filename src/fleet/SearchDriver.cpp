@@ -140,7 +140,7 @@ SearchDriver::SearchDriver(SearchOptions options,
 SearchDriver::~SearchDriver() = default;
 
 void SearchDriver::Start() {
-  for (const std::uint32_t address : options_.addresses) Enqueue(address, {});
+  for (const QHostAddress& address : options_.addresses) Enqueue(address, {});
   if (!options_.broadcasts.empty()) {
     datagrams_ = std::make_unique<QUdpSocket>();
     if (!datagrams_->bind(QHostAddress(QHostAddress::AnyIPv4), options_.answerPort) &&
@@ -173,19 +173,18 @@ void SearchDriver::TakeAnswers() {
     const qint64 size = datagrams_->readDatagram(text.data(), text.size(), &from);
     if (size < 0) return;
     const auto mac = ParseSearchAnswer({text.data(), static_cast<std::size_t>(size)});
-    if (mac && listening_.isActive()) Enqueue(from.toIPv4Address(), *mac);
+    if (mac && listening_.isActive()) Enqueue(from, *mac);
   }
 }
 
-void SearchDriver::Enqueue(std::uint32_t address, const std::string& mac) {
-  if (known_.insert(address).second) {
-    waiting_.push_back({.address = QHostAddress(address).toString().toStdString(),
-                        .port = options_.port,
-                        .mac = mac});
+void SearchDriver::Enqueue(const QHostAddress& address, const std::string& mac) {
+  const std::string text = address.toString().toStdString();
+  if (!known_.contains(address)) {
+    known_.insert(address);
+    waiting_.push_back({.address = text, .port = options_.port, .mac = mac});
     return;
   }
   // A range may have it too.
-  const std::string text = QHostAddress(address).toString().toStdString();
   const auto waiting = std::ranges::find(waiting_, text, &FoundProjector::address);
   if (waiting != waiting_.end() && waiting->mac.empty()) waiting->mac = mac;
 }

@@ -6,40 +6,41 @@
 #include <deque>
 #include <functional>
 #include <memory>
-#include <set>
 #include <string>
 #include <vector>
 
 #include <QHostAddress>
 #include <QObject>
+#include <QSet>
 #include <QTimer>
 #include <QUdpSocket>
 
 #include "Namespace.h"
+#include "ProjectorFleetExport.h"
 #include "fleet/SearchInquiry.h"
 
 namespace AdvancedControl {
 
 struct SearchOptions {
-  std::vector<std::uint32_t> addresses{};  ///< IPv4; each is asked whether it has a projector.
+  std::vector<QHostAddress> addresses{};  ///< Each is asked whether it has a projector.
   /// Where PJLink's search is sent; empty for nowhere. `NetworkBroadcasts` has those of the
   /// machine.
   std::vector<QHostAddress> broadcasts{};
   std::uint16_t port = 4352;                ///< Of the projectors, TCP and UDP.
   std::uint16_t answerPort = 4352;          ///< Where projectors send their answers; 0 for any.
-  std::string password{};                   ///< Tried where one is wanted.
-  int atOnce = 64;                          ///< Connections at most at a time.
-  int perSecond = 200;                      ///< Connections begun at most in a second.
+  std::string password{};                   ///< For projectors that require one.
+  int atOnce = 64;                          ///< Most connections at the same time.
+  int perSecond = 200;                      ///< Most connections begun in a second.
   std::chrono::milliseconds answers{3000};  ///< Answers to the broadcast are taken for this time.
   PjLinkLimits limits{.connect = std::chrono::milliseconds(1500)};
 };
 
 /// The broadcast address of each network that the machine is in.
-std::vector<QHostAddress> NetworkBroadcasts();
+PROJECTOR_FLEET_EXPORT std::vector<QHostAddress> NetworkBroadcasts();
 
-/// A search for projectors on Qt's event loop. Nothing is sent before it starts, or after it is
-/// deleted. Belongs to one thread; the callbacks are called there, and may delete nothing of it.
-class SearchDriver final {
+/// Searches for projectors, on Qt's event loop. Sends nothing before `Start`, or after it is
+/// deleted. Use it on one thread; the callbacks are called on that thread and must not delete it.
+class PROJECTOR_FLEET_EXPORT SearchDriver final {
  public:
   SearchDriver(SearchOptions options, std::function<void(const FoundProjector&)> onFound,
                std::function<void()> onFinished);
@@ -49,10 +50,10 @@ class SearchDriver final {
 
   void Start();
 
-  /// Addresses asked so far, and those that are known so far.
+  /// The number of addresses asked so far, and of all addresses known so far.
   std::size_t Done() const { return done_; }
-  std::size_t Count() const { return known_.size(); }
-  /// One line where the broadcast could not be sent or its answers not taken; empty otherwise.
+  std::size_t Count() const { return static_cast<std::size_t>(known_.size()); }
+  /// One line if the broadcast could not be sent or its answers not received; otherwise empty.
   const QString& Problem() const { return problem_; }
 
  private:
@@ -60,7 +61,7 @@ class SearchDriver final {
 
   void Broadcast();
   void TakeAnswers();
-  void Enqueue(std::uint32_t address, const std::string& mac);
+  void Enqueue(const QHostAddress& address, const std::string& mac);
   void BeginVisits();
   void End(Visit* visit);
 
@@ -72,7 +73,7 @@ class SearchDriver final {
   QTimer listening_;  // runs while answers to the broadcast are taken
   std::unique_ptr<QUdpSocket> datagrams_;
   std::deque<FoundProjector> waiting_;
-  std::set<std::uint32_t> known_;
+  QSet<QHostAddress> known_;
   std::vector<std::unique_ptr<Visit>> visits_;
   double allowance_ = 0;  // connections that may begin now
   std::size_t done_ = 0;

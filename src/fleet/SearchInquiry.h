@@ -18,12 +18,12 @@ inline constexpr std::string_view kSearchQuestion = "%2SRCH\r";
 /// The MAC number of an answer to it, "00:00:5e:00:53:01"; nothing for any other datagram.
 std::optional<std::string> ParseSearchAnswer(std::string_view datagram);
 
-/// A projector that a search found. What it does not tell is empty.
+/// A projector that was found. What it did not report is empty.
 struct FoundProjector {
-  std::string address;  ///< IPv4.
+  std::string address;  ///< Numeric, IPv4 or IPv6.
   std::uint16_t port = 0;
   std::string mac{};           ///< From a broadcast search.
-  bool needsPassword = false;  ///< It wants another password than it was given, and told no more.
+  bool needsPassword = false;  ///< It refused the password, and nothing more is known.
   char protocolClass = '1';
   std::string name{};  ///< These are UTF-8.
   std::string maker{};
@@ -32,9 +32,9 @@ struct FoundProjector {
   std::vector<PjLinkInput> inputs{};
 };
 
-/// Asks a PJLink projector who and what it is: name, maker, model, serial number and inputs. Like a
-/// session it has neither a socket nor a clock: a driver does each step of `Next` and tells
-/// `Connection()` what happens, until the inquiry is finished, and then closes the connection.
+/// Asks a PJLink projector for its name, maker, model, serial number and inputs. Like a session it
+/// has no socket and no clock: a driver performs each step that `Next` returns and reports to
+/// `Connection()` what happens, until the inquiry is finished. Then it closes the connection.
 class SearchInquiry {
  public:
   SearchInquiry(FoundProjector found, const std::string& password, const PjLinkLimits& limits);
@@ -42,7 +42,7 @@ class SearchInquiry {
   PjLinkStep Next(PjLinkTime now);
   PjLinkConnection& Connection() { return session_.Connection(); }
 
-  /// Whether there is a projector.
+  /// Whether a projector has answered.
   bool HasFound() const { return hasFound_; }
   const FoundProjector& Found() const { return found_; }
 

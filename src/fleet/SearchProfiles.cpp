@@ -5,6 +5,7 @@
 #include <set>
 #include <utility>
 
+#include <QHostAddress>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -52,8 +53,11 @@ class Taker {
   bool hasChanged_ = false;
 };
 
+// An IPv6 address can be written in several ways.
 QString AddressKey(const QString& address, int port) {
-  return address + QLatin1Char(':') + QString::number(port);
+  const QHostAddress numeric(address);
+  return (numeric.isNull() ? address : numeric.toString()) + QLatin1Char(':') +
+         QString::number(port);
 }
 
 Taker::Taker(const QByteArray& profiles, const std::vector<FoundProjector>& found,
@@ -117,8 +121,8 @@ void Taker::Update(std::size_t profile, const FoundProjector& found,
   }
   QJsonObject connection = entry["connection"].toObject();
   QJsonObject network = connection["network"].toObject();
-  const bool isElsewhere =
-      network["address"].toString() != Text(found.address) || network["port"].toInt() != found.port;
+  const bool isElsewhere = AddressKey(network["address"].toString(), network["port"].toInt()) !=
+                           AddressKey(Text(found.address), found.port);
   if (isElsewhere && entry["connection"].toObject().contains("network")) {
     network["address"] = Text(found.address);
     network["port"] = found.port;

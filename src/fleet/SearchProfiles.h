@@ -8,23 +8,25 @@
 #include <QStringList>
 
 #include "Namespace.h"
+#include "ProjectorFleetExport.h"
 #include "fleet/SearchInquiry.h"
 
 namespace AdvancedControl {
 
-/// What came of found projectors in a profile file.
+/// The result of adding found projectors to a profile file.
 struct TakenProjectors {
-  QByteArray text;        ///< Of the profile file, as it was if nothing has changed.
-  QStringList added{};    ///< Names of profiles.
-  QStringList moved{};    ///< Of those that were known and have another address now.
-  std::size_t known = 0;  ///< The others.
+  QByteArray text;        ///< The new text of the profile file.
+  QStringList added{};    ///< Names of the new profiles.
+  QStringList moved{};    ///< Names of known profiles whose address has changed.
+  std::size_t known = 0;  ///< Number of known projectors whose address has not changed.
 };
 
-/// Takes found projectors into the text of a profile file without an error, or into
-/// `ProfileEdits::kNoProfiles`. One with the identity of a profile is that profile's, wherever it
-/// is now. One at the address of a profile without an identity is that profile's, which then gets
-/// the identity. Each other one becomes a profile. `password` is what they were asked with.
-TakenProjectors TakeFound(const QByteArray& profiles, const std::vector<FoundProjector>& found,
-                          const std::string& password);
+/// Adds found projectors to the text of a valid profile file, or to `ProfileEdits::kNoProfiles`. If
+/// a profile has the identity of a found projector, it gets its address. If a profile without an
+/// identity has its address, it gets the identity. Otherwise a profile is added. `password` is the
+/// password of the search.
+PROJECTOR_FLEET_EXPORT TakenProjectors TakeFound(const QByteArray& profiles,
+                                                 const std::vector<FoundProjector>& found,
+                                                 const std::string& password);
 
 }  // namespace AdvancedControl

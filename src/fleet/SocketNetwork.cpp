@@ -9,6 +9,8 @@
 #include <unistd.h>
 #include <utility>
 
+#include "fleet/SerialLine.h"
+
 namespace AdvancedControl {
 
 namespace {
@@ -70,18 +72,39 @@ void SocketNetwork::Connect(Peer peer, const std::string& host, std::uint16_t po
   resolver_.LookUp(peer, host);
 }
 
-void SocketNetwork::Send(Peer peer, std::string_view bytes) {
+void SocketNetwork::OpenLine(Peer peer, const std::string& device, std::int32_t baud) {
+  Close(peer);
   Link& link = LinkOf(peer);
+  ++link.generation;
+  link.name.clear();
+  auto problem = SerialLine::Problem::None;
+  link.file = SerialLine::Open(device, baud, problem);
+  link.isLine = true;
+  if (link.file >= 0) return WatchFile(peer);
+  Fail(peer,
+       problem == SerialLine::Problem::InUse ? Failure::Kind::InUse : Failure::Kind::NotConnected);
+}
+
+void SocketNetwork::Send(Peer peer, std::string_view bytes) {
+  const Link& link = LinkOf(peer);
   if (link.stage != Stage::Open) return;
-  const auto sent = send(link.socket, bytes.data(), bytes.size(), MSG_NOSIGNAL);
+  const auto sent = link.isLine ? write(link.file, bytes.data(), bytes.size())
+                                : send(link.file, bytes.data(), bytes.size(), MSG_NOSIGNAL);
   // The little that is ever sent always has room, as an answer comes before there is more.
-  if (sent != static_cast<ssize_t>(bytes.size())) shutdown(link.socket, SHUT_RDWR);
+  if (sent != static_cast<ssize_t>(bytes.size())) Fail(peer, Failure::Kind::Closed);
 }
 
 void SocketNetwork::Close(Peer peer) {
   Link& link = LinkOf(peer);
   link.stage = Stage::None;
-  if (link.socket >= 0) close(std::exchange(link.socket, -1));
+  const int file = std::exchange(link.file, -1);
+  const bool isLine = std::exchange(link.isLine, false);
+  if (file < 0) return;
+  if (isLine) {
+    SerialLine::Close(file);
+  } else {
+    close(file);
+  }
 }
 
 std::uint16_t SocketNetwork::ListenForNotices(const std::string& address, std::uint16_t port) {
@@ -114,7 +137,16 @@ void SocketNetwork::Pass(Listener& listener) {
   for (const Failure& failure : std::exchange(failures_, {})) {
     if (!IsCurrent(failure.peer, failure.generation)) continue;
     Close(failure.peer);
-    listener.NotConnected(failure.peer, failure.problem);
+    switch (failure.kind) {
+      case Failure::Kind::NotConnected:
+        listener.NotConnected(failure.peer, failure.problem);
+        break;
+      case Failure::Kind::InUse:
+        listener.InUse(failure.peer);
+        break;
+      case Failure::Kind::Closed:
+        listener.Closed(failure.peer);
+    }
   }
 }
 
@@ -126,7 +158,9 @@ SocketNetwork::Link& SocketNetwork::LinkOf(Peer peer) {
 void SocketNetwork::ConnectByName(Peer peer) {
   const Link& link = LinkOf(peer);
   const Known& known = names_.at(link.name);
-  if (known.addresses.empty()) return Fail(peer, ConnectionState::NameUnknown);
+  if (known.addresses.empty()) {
+    return Fail(peer, Failure::Kind::NotConnected, ConnectionState::NameUnknown);
+  }
   SocketAddress address = known.addresses[known.next % known.addresses.size()];
   (address.any.sa_family == AF_INET ? address.v4.sin_port : address.v6.sin6_port) =
       htons(link.port);
@@ -135,24 +169,30 @@ void SocketNetwork::ConnectByName(Peer peer) {
 
 void SocketNetwork::Open(Peer peer, const SocketAddress& address) {
   Link& link = LinkOf(peer);
-  link.socket = socket(address.any.sa_family, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
-  if (link.socket < 0) return Fail(peer, ConnectionState::NotReachable);
+  link.file = socket(address.any.sa_family, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
+  if (link.file < 0) return Fail(peer, Failure::Kind::NotConnected);
   const int on = 1;
-  setsockopt(link.socket, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
-  if (connect(link.socket, &address.any, SizeOf(address)) != 0 && errno != EINPROGRESS) {
-    return Fail(peer, ConnectionState::NotReachable);
+  setsockopt(link.file, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
+  if (connect(link.file, &address.any, SizeOf(address)) != 0 && errno != EINPROGRESS) {
+    return Fail(peer, Failure::Kind::NotConnected);
   }
+  WatchFile(peer);
+}
+
+void SocketNetwork::WatchFile(Peer peer) {
+  Link& link = LinkOf(peer);
   link.stage = Stage::Connecting;
   // Edges are told once, so that nothing has to be asked for anew with each state.
   epoll_event event{.events = EPOLLIN | EPOLLOUT | EPOLLRDHUP | EPOLLET,
                     .data = {.u64 = std::uint64_t{link.generation} << 32 | peer}};
-  epoll_ctl(epoll_, EPOLL_CTL_ADD, link.socket, &event);
+  epoll_ctl(epoll_, EPOLL_CTL_ADD, link.file, &event);
 }
 
-void SocketNetwork::Fail(Peer peer, ConnectionState problem) {
+/// Tells the listener later.
+void SocketNetwork::Fail(Peer peer, Failure::Kind kind, ConnectionState problem) {
   Link& link = LinkOf(peer);
-  link.stage = Stage::Connecting;
-  failures_.push_back({peer, link.generation, problem});
+  link.stage = Stage::Failed;
+  failures_.push_back({peer, link.generation, kind, problem});
   Wake();
 }
 
@@ -173,7 +213,7 @@ void SocketNetwork::PassEvent(const epoll_event& event, Listener& listener) {
   }
   const auto peer = static_cast<Peer>(event.data.u64);
   const auto generation = static_cast<std::uint32_t>(event.data.u64 >> 32);
-  if (!IsCurrent(peer, generation)) return;
+  if (!IsCurrent(peer, generation) || links_[peer].stage == Stage::Failed) return;
   if (links_[peer].stage == Stage::Connecting) {
     if ((event.events & (EPOLLERR | EPOLLHUP)) != 0) {
       if (const auto known = names_.find(links_[peer].name); known != names_.end()) {
@@ -194,7 +234,7 @@ void SocketNetwork::PassEvent(const epoll_event& event, Listener& listener) {
 void SocketNetwork::PassBytes(Peer peer, Listener& listener) {
   const std::uint32_t generation = links_[peer].generation;
   while (IsCurrent(peer, generation)) {
-    const auto size = recv(links_[peer].socket, buffer_.data(), buffer_.size(), 0);
+    const auto size = read(links_[peer].file, buffer_.data(), buffer_.size());
     if (size < 0 && (errno == EAGAIN || errno == EWOULDBLOCK)) return;
     if (size <= 0) {
       Close(peer);

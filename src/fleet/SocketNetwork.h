@@ -14,8 +14,8 @@
 
 namespace AdvancedControl {
 
-/// TCP connections in an epoll loop. One thread calls `Wait` and then `Pass` in turn. `Wait` and
-/// `Wake` may run at any time; the other functions must be called one at a time.
+/// TCP connections and serial ports in an epoll loop. One thread calls `Wait` and then `Pass` in
+/// turn. `Wait` and `Wake` may run at any time; the other functions must be called one at a time.
 class SocketNetwork final : public FleetNetwork {
  public:
   SocketNetwork();
@@ -24,6 +24,7 @@ class SocketNetwork final : public FleetNetwork {
   SocketNetwork& operator=(const SocketNetwork&) = delete;
 
   void Connect(Peer peer, const std::string& host, std::uint16_t port) override;
+  void OpenLine(Peer peer, const std::string& device, std::int32_t baud) override;
   void Send(Peer peer, std::string_view bytes) override;
   void Close(Peer peer) override;
 
@@ -38,10 +39,11 @@ class SocketNetwork final : public FleetNetwork {
   void Pass(Listener& listener);
 
  private:
-  enum class Stage : std::uint8_t { None, LookingUp, Connecting, Open };
+  enum class Stage : std::uint8_t { None, LookingUp, Connecting, Open, Failed };
 
   struct Link {
-    int socket = -1;
+    int file = -1;
+    bool isLine = false;           ///< A serial port, and not a socket.
     std::uint32_t generation = 0;  ///< Grows with each connection, so that late events are known.
     Stage stage = Stage::None;
     std::uint16_t port = 0;
@@ -54,15 +56,19 @@ class SocketNetwork final : public FleetNetwork {
     SessionTime time{};
   };
   struct Failure {
+    enum class Kind : std::uint8_t { NotConnected, InUse, Closed };
+
     Peer peer;
     std::uint32_t generation;
+    Kind kind;
     ConnectionState problem;
   };
 
   Link& LinkOf(Peer peer);
   void ConnectByName(Peer peer);
   void Open(Peer peer, const SocketAddress& address);
-  void Fail(Peer peer, ConnectionState problem);
+  void WatchFile(Peer peer);
+  void Fail(Peer peer, Failure::Kind kind, ConnectionState problem = ConnectionState::NotReachable);
   void PassNotices(Listener& listener);
   void PassEvent(const epoll_event& event, Listener& listener);
   void PassBytes(Peer peer, Listener& listener);

@@ -4,43 +4,43 @@
 #include <QString>
 
 #include "Namespace.h"
+#include "ProjectorFleetExport.h"
 
 namespace AdvancedControl {
 
-/// Who may read a file that is written.
+/// Who may read a written file.
 enum class FileAccess {
-  Kept,       ///< As the file that is there; a new one as the process has it (umask).
-  OwnerOnly,  ///< Nobody else, whatever the file that is there says: for passwords.
+  Kept,       ///< As before; a new file according to the umask.
+  OwnerOnly,  ///< Only the owner, for passwords, whatever the present file's permissions are.
 };
 
-/// Writes a file as a whole, or leaves the one that is there untouched; a device or a pipe is
-/// written to, and never replaced. Behind links the file that they lead to is written. Returns when
-/// the disk has it: what cannot be brought there is an error, even if the file can be seen already.
-/// One line that says what is wrong; empty when all is well.
-QString WriteWholeFile(const QString& path, const QByteArray& bytes,
-                       FileAccess access = FileAccess::Kept);
+/// Writes a file completely, or leaves the present one unchanged. Follows links. A device or a pipe
+/// is written to and not replaced. Returns when the data is on the disk; if that fails, it is an
+/// error even if the file has already been replaced. Returns one line with the fault; empty on
+/// success.
+PROJECTOR_FLEET_EXPORT QString WriteWholeFile(const QString& path, const QByteArray& bytes,
+                                              FileAccess access = FileAccess::Kept);
 
-/// Says whether a file could be written there, in the same way; changes nothing.
-QString CheckWholeFile(const QString& path);
+/// Checks whether a file could be written there. Changes nothing. Returns as `WriteWholeFile`.
+PROJECTOR_FLEET_EXPORT QString CheckWholeFile(const QString& path);
 
 struct NewFile {
-  QString path;   ///< Of the file that was written.
-  QString error;  ///< One line; empty when all is well.
+  QString path;   ///< The written file.
+  QString error;  ///< One line; empty on success.
 };
 
-/// Writes a file that was not there before: `path`, or where somebody has that name already, `path`
-/// with the first free number from 2 on before its suffix. Others may do the same meanwhile, in
-/// this program or another: everybody gets a name of their own. A file has its name only once the
-/// disk has all of it.
-NewFile WriteNewFile(const QString& path, const QByteArray& bytes);
+/// Writes a new file: `path`, or if that name is taken, `path` with the first free number from 2 on
+/// before its suffix. Safe against other programs that do the same at the same time. The file gets
+/// its name when all of it is on the disk.
+PROJECTOR_FLEET_EXPORT NewFile WriteNewFile(const QString& path, const QByteArray& bytes);
 
 struct FileBytes {
   QByteArray bytes;
-  QString error;  ///< Of the system; empty when all is well.
+  QString error;  ///< The system's message; empty on success.
 };
 
-/// Reads a file, a device or a pipe to its end, however slowly it is written, or its first `most`
-/// bytes. "-" is standard input, whose mode (blocking or not) is used as it is.
-FileBytes ReadToEnd(const QString& path, qsizetype most);
+/// Reads a file, a device or a pipe to its end, or its first `most` bytes. Waits for a pipe that is
+/// written slowly. "-" is standard input, which may be in non-blocking mode.
+PROJECTOR_FLEET_EXPORT FileBytes ReadToEnd(const QString& path, qsizetype most);
 
 }  // namespace AdvancedControl

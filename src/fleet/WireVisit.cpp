@@ -10,12 +10,11 @@ static_assert(kAllStatusItems.front() == StatusItem::Power);
 
 }  // namespace
 
-WireVisit::WireVisit(const FleetPolicy& policy, LiveState state, ProjectorMemory memory,
-                     std::shared_ptr<const ModelData> model)
+WireVisit::WireVisit(WireSession::Medium medium, const FleetPolicy& policy, LiveState state,
+                     ProjectorMemory memory, std::shared_ptr<const ModelData> model,
+                     std::uint16_t sequence)
     : Visit(std::move(state), std::move(memory), std::move(model)),
-      // Over TCP nobody else's reply can come, so that any number will do.
-      session_(WireSession::Medium::Reliable, {.connect = policy.connect, .answer = policy.answer},
-               0) {
+      session_(medium, {.connect = policy.connect, .answer = policy.answer}, sequence) {
   std::ranges::copy_if(kAllStatusItems, std::back_inserter(asked_),
                        [this](StatusItem item) { return !Lacks(item); });
 }

@@ -7,11 +7,13 @@
 namespace AdvancedControl {
 
 /// A visit to a projector that speaks the protocol of docs/wire.md. Asks for the power state
-/// together with the hello, and then for everything else in one burst.
+/// together with the hello, and then for everything else in one burst; on a serial line, one after
+/// the other.
 class WireVisit final : public Visit {
  public:
-  WireVisit(const FleetPolicy& policy, LiveState state, ProjectorMemory memory,
-            std::shared_ptr<const ModelData> model);
+  /// `sequence` as for `WireSession`.
+  WireVisit(WireSession::Medium medium, const FleetPolicy& policy, LiveState state,
+            ProjectorMemory memory, std::shared_ptr<const ModelData> model, std::uint16_t sequence);
 
   SessionStep Next(SessionTime now) override;
   void Connected(SessionTime) override { session_.Connected(); }

@@ -15,6 +15,7 @@
 #include "i18n/LocalizeControlTexts.h"
 #include "pages/common/CTabPage.h"
 #include "pages/common/StatusLine.h"
+#include "pages/status/CStatusTabDlg.h"
 #include "resources/AdvancedControlResources.h"
 #include "settings/CatalogNumbers.h"
 #include "snapshots/Snapshot.h"
@@ -102,8 +103,7 @@ QString CAdvanceDlg::Parts::ConnectionText() const {
   if (projector.ConnectionKind() == kNetworkConnection) {
     return QString::fromStdString(projector.ConnectionText1());
   }
-  return CatalogString(kListCategory, ListText::SerialPort,
-                       std::int64_t{projector.ConnectionNumber()} + 1);
+  return QStringLiteral("COM%1").arg(std::int64_t{projector.ConnectionNumber()} + 1);
 }
 
 void CAdvanceDlg::Parts::ShowIdle(bool left) {
@@ -163,6 +163,10 @@ void CAdvanceDlg::SetWanted(WantedSettings wanted) {
 
 const WantedSettings* CAdvanceDlg::Wanted() const {
   return parts_->wanted.IsEmpty() ? nullptr : &parts_->wanted;
+}
+
+void CAdvanceDlg::SetRatedLampHours(int hours) {
+  static_cast<CStatusTabDlg&>(Page(PageId::Status)).SetRatedLampHours(hours);
 }
 
 CTabPage* CAdvanceDlg::ShownPage() const { return parts_->pages.Shown(); }

@@ -93,6 +93,10 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog,
   /// Passed on to the connection object when the dialog is initialised.
   void SetHostOption(bool option);
 
+  /// Sets after how many hours a lamp of this model should be replaced; 0, the default, if that is
+  /// not known. The status page shows the lamp time as a part of it from the next reading on.
+  void SetRatedLampHours(int hours);
+
   /// Configures the connection, creates the pages and inserts the tabs.
   bool OnInitDialog() override;
   /// Shows the page of the selected tab, reads it, and hides all others. If a command waits, its

@@ -24,7 +24,7 @@ constexpr int kStripGap = 2;
 }  // namespace
 
 void DialogFrame::FitToPages(const Parts& parts) {
-  const QSize pages = parts.pages.WholeSize();
+  const QSize pages = parts.pages.FitPages();
   const int width = std::max(parts.pages.Tabs()->sizeHint().width() + 2 * kMargin,
                              kPagePosition.x() + pages.width() + kPagePosition.x());
   const int height = kPagePosition.y() + pages.height() + kPagePosition.x() +

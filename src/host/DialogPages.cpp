@@ -49,7 +49,6 @@ void DialogPages::CreatePage(PageId id, CPjtInterface& projector) {
   page.projector = &projector;
   page.Create();
   page.hide();
-  page.setMinimumSize(page.DialogSize());
   area_->widget()->layout()->addWidget(&page);
 }
 
@@ -66,9 +65,15 @@ void DialogPages::InsertTabs() {
     insert(tab.caption, tab.page);
 }
 
-QSize DialogPages::WholeSize() const {
+QSize DialogPages::FitPages() const {
+  const std::vector<CTabPage*> created = Created();
+  const std::vector<TemplateDialog*> dialogs(created.begin(), created.end());
+  TemplateDialog::ShareCaptionWidths(dialogs);
   QSize whole;
-  for (const CTabPage* page : Created()) whole = whole.expandedTo(page->minimumSize());
+  for (TemplateDialog* page : dialogs) {
+    page->setMinimumSize(page->DialogSize());
+    whole = whole.expandedTo(page->minimumSize());
+  }
   return whole;
 }
 

@@ -40,8 +40,8 @@ class DialogPages {
   /// Creates the pages of the model's page set and inserts its tabs. `model` must outlive the
   /// pages.
   void Create(const ModelData& model, CPjtInterface& projector, CTabCtrl& tabs);
-  /// The size that shows every page completely.
-  QSize WholeSize() const;
+  /// Aligns the pages with each other, and returns the size that shows every page completely.
+  QSize FitPages() const;
   /// Lets Tab go through the controls of the pages in their templates' order, from the row of tabs
   /// to `last`.
   void OrderFocus(std::initializer_list<QWidget*> last) const;

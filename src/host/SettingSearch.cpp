@@ -18,7 +18,8 @@ namespace {
 
 constexpr std::chrono::milliseconds kLater{50};
 
-void FocusOn(const CDialog& dialog, int control) {
+void FocusOn(CDialog& dialog, int control) {
+  dialog.Highlight(control);
   QWidget* found = dialog.GetDlgItem(control);
   if (found != nullptr && found->isEnabledTo(found->window())) {
     found->window()->setAttribute(Qt::WA_KeyboardFocusChange);  // makes the focus visible
@@ -84,7 +85,7 @@ void SettingSearch::OpenPopUp(int button, int control, std::chrono::milliseconds
     if (dialog_.IsBusy()) return OpenPopUp(button, control, kLater);
     if (!opener->isEnabled()) return;
     QTimer::singleShot(0, this, [this, control] {
-      const auto* popUp = qobject_cast<const CDialog*>(QApplication::activeModalWidget());
+      auto* popUp = qobject_cast<CDialog*>(QApplication::activeModalWidget());
       if (popUp != nullptr && popUp->Owner() != nullptr && popUp->Owner()->window() == &dialog_) {
         FocusOn(*popUp, control);
       }

@@ -67,7 +67,7 @@ std::optional<std::string_view> FindText(int category, int number,
   const auto& catalog = LoadedCatalog();
   if (!catalog || number < 0 || number > 0xFFFF || category < -256 || category > 0xFEFF) return {};
   const std::uint32_t id = MessageId(category, number);
-  const auto english = catalog->Find(kEnglishUnitedStates, id);
+  const auto english = catalog->FindEnglish(id);
   // The text is the same in every language, as nearly all are. Skips the query for language and
   // markers, which would take longer than everything else.
   if (english && english->sameEverywhere) return TextOf(*english, inserts, storage);
@@ -163,6 +163,15 @@ std::string CatalogProblem() { return Problem(); }
 void ReleaseCatalog() { LoadedCatalog().reset(); }
 
 bool IsCatalogLoaded() { return LoadedCatalog().has_value(); }
+
+std::uint32_t ShownLanguageId() {
+  const auto& catalog = LoadedCatalog();
+  if (!catalog) return kEnglishUnitedStates;
+  const std::uint32_t language = SystemLanguageId();
+  const bool hasMarker = MarkerExists(kChineseMarker) || MarkerExists(kEnglishMarker);
+  if (catalog->HasLanguage(language) && !hasMarker) return language;
+  return catalog->HasLanguage(kChineseSimplified) ? kChineseSimplified : kEnglishUnitedStates;
+}
 
 void GetCatalogText(int category, int number, int bufferSize, char* buffer) {
   GetCatalogTextV(category, number, bufferSize, buffer, {});

@@ -48,6 +48,11 @@ PROJECTOR_SETTINGS_EXPORT std::string CatalogProblem();
 /// Whether a module is loaded; without one every text is "No Message Catalog".
 PROJECTOR_SETTINGS_EXPORT bool IsCatalogLoaded();
 
+/// The language whose texts are shown now: the system language if the loaded module lists it and no
+/// marker file is there, else that of the module's entries of 1033: 1033, or 2052 in the Chinese
+/// module.
+PROJECTOR_SETTINGS_EXPORT std::uint32_t ShownLanguageId();
+
 /// `GetCatalogText` with the inserts in an array.
 PROJECTOR_SETTINGS_EXPORT void GetCatalogTextV(int category, int number, int bufferSize,
                                                char* buffer,

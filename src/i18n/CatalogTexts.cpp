@@ -1,6 +1,8 @@
 #include "i18n/CatalogTexts.h"
 
+#include <algorithm>
 #include <filesystem>
+#include <map>
 #include <system_error>
 #include <utility>
 
@@ -16,6 +18,8 @@ CatalogTexts::CatalogTexts(std::span<const std::string> folders) {
       if (!std::filesystem::is_regular_file(path, error)) continue;
       if (auto loaded = MessageCatalog::Load(path.string())) {
         modules_.push_back(std::move(*loaded));
+      } else if (problem_.empty()) {
+        problem_ = path.string() + " is damaged or cannot be read; its texts are missing";
       }
       break;
     }
@@ -34,6 +38,18 @@ std::optional<std::string> CatalogTexts::Find(std::uint32_t languageId, int cate
     return text;
   }
   return {};
+}
+
+std::vector<MessageTable::Language> CatalogTexts::Languages() const {
+  std::vector<MessageTable::Language> all;
+  for (const MessageCatalog& module : modules_) {
+    std::map<std::uint32_t, std::uint32_t> firsts;  // the Chinese module has 1033 too
+    for (const auto& [id, first] : module.Languages()) {
+      if (std::ranges::find(all, id, &MessageTable::Language::id) != all.end()) continue;
+      all.push_back({.id = id, .first = firsts.emplace(first, id).first->second});
+    }
+  }
+  return all;
 }
 
 }  // namespace AdvancedControl

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "Namespace.h"
 #include "i18n/MessageTable.h"
@@ -20,6 +21,16 @@ class MessageCatalog {
   std::optional<CatalogMessage> Find(std::uint32_t languageId, std::uint32_t messageId) const {
     return messages_.Find(languageId, messageId);
   }
+
+  /// The same in language 1033.
+  std::optional<CatalogMessage> FindEnglish(std::uint32_t messageId) const {
+    return messages_.FindEnglish(messageId);
+  }
+
+  bool HasLanguage(std::uint32_t languageId) const { return messages_.HasLanguage(languageId); }
+
+  /// The languages that it has messages in.
+  std::vector<MessageTable::Language> Languages() const { return messages_.Languages(); }
 
  private:
   explicit MessageCatalog(MessageTable messages) : messages_(std::move(messages)) {}

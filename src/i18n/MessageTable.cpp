@@ -1,50 +1,24 @@
 #include "i18n/MessageTable.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <fcntl.h>
-#include <numeric>
-#include <sys/stat.h>
-#include <unistd.h>
+#include <map>
+#include <tuple>
 #include <utility>
 
 #include "i18n/ModuleImage.h"
+#include "i18n/SystemLanguage.h"
 #include "i18n/TextDecoder.h"
 
 namespace AdvancedControl {
 
 namespace {
 
-constexpr std::size_t kMaxFileBytes = std::size_t{32} << 20;
 constexpr std::size_t kMaxMessages = std::size_t{1} << 20;
-// In a well-formed module no byte is read twice, except that two languages may share a table.
+// No byte of a well-formed module is read twice, except that two languages may share an ANSI table.
 constexpr std::uint64_t kMaxReadsOfAByte = 2;
+constexpr std::size_t kUsualEntryBytes = 24;
 constexpr std::uint32_t kMessageTableType = 11;
 constexpr std::uint32_t kMaxLanguage = 0xFFFF;
-
-// The bytes of a regular file of acceptable size, otherwise none. The file is not mapped, because
-// truncating a mapped file would crash the program.
-std::vector<std::byte> ReadFile(const std::string& path) {
-  std::vector<std::byte> bytes;
-  // O_NONBLOCK, because the name may be that of a pipe, whose opening would wait for the other end.
-  const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-  if (file < 0) return bytes;
-  struct stat status {};
-  if (fstat(file, &status) == 0 && S_ISREG(status.st_mode) && status.st_size > 0 &&
-      std::cmp_less_equal(status.st_size, kMaxFileBytes)) {
-    bytes.resize(static_cast<std::size_t>(status.st_size));
-    std::size_t got = 0;
-    while (got < bytes.size()) {
-      const ssize_t count = read(file, bytes.data() + got, bytes.size() - got);
-      if (count < 0 && errno == EINTR) continue;
-      if (count <= 0) break;
-      got += static_cast<std::size_t>(count);
-    }
-    bytes.resize(got);
-  }
-  close(file);
-  return bytes;
-}
 
 bool IsPlain(std::string_view text) {
   for (std::size_t i = 0; i < text.size(); ++i) {
@@ -57,18 +31,13 @@ bool IsPlain(std::string_view text) {
   return true;
 }
 
-struct Entry {
-  std::uint64_t key;
-  std::uint32_t resource;  // index of the message table; the lowest has precedence
-  std::uint32_t offset;
-  std::uint32_t length;
-};
+}  // namespace
 
 // Collects all messages of a module. Members return false if the module is damaged.
-class TableReader {
+class MessageTable::Reader {
  public:
-  TableReader(Bytes file, const ModuleImage& image)
-      : image_(image), budget_(kMaxReadsOfAByte * file.size()) {}
+  Reader(Bytes file, const ModuleImage& image, MessageTable& table)
+      : image_(image), table_(table), budget_(kMaxReadsOfAByte * file.size()) {}
 
   bool ReadTypes() {
     const auto types = Directory(0);
@@ -78,13 +47,22 @@ class TableReader {
         return false;
       }
     }
-    return SortEntries();
+    return JoinTables() && !table_.ids_.empty();
   }
 
-  std::vector<Entry> entries;
-  std::vector<char> texts;
-
  private:
+  // A table that was read. One with ANSI texts means something else in another language.
+  struct ReadTable {
+    Part part;
+    bool isShareable = true;
+  };
+  // A language of a resource; the lowest resource has precedence.
+  struct Use {
+    std::uint32_t languageId;
+    std::uint32_t resource;
+    Part part;
+  };
+
   struct DirectoryEntry {
     std::uint32_t name;  // a number, or the offset of a string if the highest bit is set
     bool isDirectory;
@@ -142,12 +120,23 @@ class TableReader {
   bool ReadLeaf(const DirectoryEntry& language) {
     const auto leaf = Slice(image_.Resources(), language.target, 16);
     if (!leaf) return false;
-    const auto data = image_.From(U32(*leaf, 0));
-    const auto table = data ? Slice(*data, 0, U32(*leaf, 4)) : std::nullopt;
-    return table && ReadTable(language.name, *table);
+    const std::pair place(U32(*leaf, 0), U32(*leaf, 4));
+    const auto known = tables_.find(place);
+    if (known != tables_.end() && known->second.isShareable) {
+      uses_.push_back({language.name, resource_, known->second.part});
+      return true;
+    }
+    const auto data = image_.From(place.first);
+    const auto table = data ? Slice(*data, 0, place.second) : std::nullopt;
+    ReadTable read{.part = {.begin = Size(), .end = Size()}};
+    if (!table || !Read(language.name, *table, read)) return false;
+    read.part.end = Size();
+    tables_.insert_or_assign(place, read);
+    uses_.push_back({language.name, resource_, read.part});
+    return true;
   }
 
-  bool ReadTable(std::uint32_t languageId, Bytes table) {
+  bool Read(std::uint32_t languageId, Bytes table, ReadTable& read) {
     const auto header = Slice(table, 0, 4);
     if (!header) return false;
     const std::uint64_t blockCount = U32(*header, 0);
@@ -169,8 +158,10 @@ class TableReader {
         const std::size_t length = head ? U16(*head, 0) : 0;
         const auto entry = Slice(table, offset, length);
         if (length < 4 || length % 4 != 0 || !entry || !Spend(length)) return false;
+        const std::uint16_t flags = U16(*head, 2);
+        read.isShareable &= flags == 1;
         const auto messageId = static_cast<std::uint32_t>(id);
-        if (!AddMessage(languageId, messageId, U16(*head, 2), entry->subspan(4))) return false;
+        if (!AddMessage(languageId, messageId, flags, entry->subspan(4))) return false;
         offset += length;
       }
     }
@@ -179,66 +170,93 @@ class TableReader {
   }
 
   bool AddMessage(std::uint32_t languageId, std::uint32_t id, std::uint16_t flags, Bytes text) {
-    if (entries.size() == kMaxMessages) return false;
+    if (table_.ids_.size() == kMaxMessages) return false;
+    std::vector<char>& texts = table_.texts_;
     const std::size_t start = texts.size();
     const bool decoded = flags == 1   ? decoder_.AppendUnicode(text, texts)
                          : flags == 0 ? decoder_.AppendAnsi(languageId, text, texts)
                                       : false;
     if (!decoded) return false;
-    entries.push_back({.key = std::uint64_t{languageId} << 32 | id,
-                       .resource = resource_,
-                       .offset = static_cast<std::uint32_t>(start),
-                       .length = static_cast<std::uint32_t>(texts.size() - start)});
+    const std::size_t length = texts.size() - start;
+    table_.ids_.push_back(id);
+    table_.places_.push_back({.offset = static_cast<std::uint32_t>(start),
+                              .length = static_cast<std::uint32_t>(length) & 0x3FFFFFFF,
+                              .plain = IsPlain({texts.data() + start, length}) ? 1U : 0U,
+                              .sameEverywhere = 0});
     return true;
   }
 
-  // Sorts by key and keeps the message of the first resource. Fails if one resource has two texts
-  // for the same message.
-  bool SortEntries() {
-    std::ranges::sort(entries, {},
-                      [](const Entry& entry) { return std::pair(entry.key, entry.resource); });
-    for (std::size_t i = 1; i < entries.size(); ++i) {
-      if (entries[i].key == entries[i - 1].key && entries[i].resource == entries[i - 1].resource) {
-        return false;
-      }
+  // Gives each language its messages. Fails if one resource has two texts for the same message.
+  bool JoinTables() {
+    std::ranges::sort(uses_, {}, [](const Use& use) {
+      return std::tuple(use.languageId, use.resource, use.part.begin);
+    });
+    for (auto first = uses_.begin(); first != uses_.end();) {
+      const auto last = std::find_if(
+          first, uses_.end(), [&](const Use& use) { return use.languageId != first->languageId; });
+      Part part = first->part;
+      if (last - first > 1 && !Merge({first, last}, part)) return false;
+      table_.languages_.push_back({first->languageId, part});
+      first = last;
     }
-    const auto sameKey = [](const Entry& a, const Entry& b) { return a.key == b.key; };
-    entries.erase(std::unique(entries.begin(), entries.end(), sameKey), entries.end());
-    return !entries.empty();
+    return true;
   }
 
+  // The messages of all resources of a language, each from the first resource that has it.
+  bool Merge(std::span<const Use> uses, Part& part) {
+    struct Entry {
+      std::uint32_t id;
+      std::uint32_t resource;
+      Place place;
+    };
+    std::vector<Entry> entries;
+    for (const Use& use : uses) {
+      merged_ += use.part.end - use.part.begin;
+      if (merged_ > kMaxMessages) return false;
+      for (std::uint32_t i = use.part.begin; i < use.part.end; ++i) {
+        entries.push_back({table_.ids_[i], use.resource, table_.places_[i]});
+      }
+    }
+    std::ranges::sort(entries, {}, [](const Entry& e) { return std::pair(e.id, e.resource); });
+    part = {.begin = Size(), .end = Size()};
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+      if (i > 0 && entries[i].id == entries[i - 1].id) {
+        if (entries[i].resource == entries[i - 1].resource) return false;
+        continue;
+      }
+      table_.ids_.push_back(entries[i].id);
+      table_.places_.push_back(entries[i].place);
+    }
+    part.end = Size();
+    return true;
+  }
+
+  std::uint32_t Size() const { return static_cast<std::uint32_t>(table_.ids_.size()); }
+
   const ModuleImage& image_;
+  MessageTable& table_;
   std::uint64_t budget_;
   std::uint32_t resource_ = 0;
+  std::size_t merged_ = 0;
+  std::map<std::pair<std::uint32_t, std::uint32_t>, ReadTable> tables_;  // by address and size
+  std::vector<Use> uses_;
   TextDecoder decoder_;
 };
 
-}  // namespace
-
 std::optional<MessageTable> MessageTable::Read(const std::string& path) {
-  return Parse(ReadFile(path));
+  return Parse(ReadModule(path));
 }
 
 std::optional<MessageTable> MessageTable::Parse(std::span<const std::byte> module) {
-  if (module.size() > kMaxFileBytes) return {};
+  if (module.size() > kMaxModuleBytes) return {};
   const auto image = ModuleImage::Open(module);
   if (!image) return {};
-  TableReader reader(module, *image);
-  if (!reader.ReadTypes()) return {};
-
   MessageTable table;
-  table.texts_ = std::move(reader.texts);
-  table.texts_.shrink_to_fit();
-  table.keys_.reserve(reader.entries.size());
-  table.places_.reserve(reader.entries.size());
-  for (const Entry& entry : reader.entries) {
-    const std::string_view text(table.texts_.data() + entry.offset, entry.length);
-    table.keys_.push_back(entry.key);
-    table.places_.push_back({.offset = entry.offset,
-                             .length = entry.length & 0x3FFFFFFF,
-                             .plain = IsPlain(text) ? 1U : 0U,
-                             .sameEverywhere = 0});
-  }
+  // Generous: what is not used takes no memory.
+  table.texts_.reserve(module.size());
+  table.ids_.reserve(module.size() / kUsualEntryBytes);
+  table.places_.reserve(module.size() / kUsualEntryBytes);
+  if (!Reader(module, *image, table).ReadTypes()) return {};
   table.MarkSameEverywhere();
   return table;
 }
@@ -249,27 +267,62 @@ CatalogMessage MessageTable::At(Place place) const {
           .sameEverywhere = place.sameEverywhere != 0};
 }
 
+const MessageTable::LanguagePart* MessageTable::FindLanguage(std::uint32_t languageId) const {
+  const auto found =
+      std::ranges::lower_bound(languages_, languageId, {}, &LanguagePart::languageId);
+  return found != languages_.end() && found->languageId == languageId ? &*found : nullptr;
+}
+
+std::optional<std::size_t> MessageTable::FindIn(Part part, std::uint32_t messageId) const {
+  const std::span ids = std::span(ids_).subspan(part.begin, part.end - part.begin);
+  const auto found = std::ranges::lower_bound(ids, messageId);
+  if (found == ids.end() || *found != messageId) return {};
+  return part.begin + static_cast<std::size_t>(found - ids.begin());
+}
+
 void MessageTable::MarkSameEverywhere() {
-  const auto messageOf = [this](std::size_t i) { return static_cast<std::uint32_t>(keys_[i]); };
-  std::vector<std::size_t> byMessage(keys_.size());
-  std::iota(byMessage.begin(), byMessage.end(), std::size_t{0});
-  std::ranges::sort(byMessage, {}, messageOf);
-  for (auto first = byMessage.begin(); first != byMessage.end();) {
-    const auto last = std::find_if(
-        first, byMessage.end(), [&](std::size_t i) { return messageOf(i) != messageOf(*first); });
-    const bool same = std::all_of(first, last, [&](std::size_t i) {
-      return At(places_[i]).text == At(places_[*first]).text;
-    });
-    for (; first != last; ++first) places_[*first].sameEverywhere = same ? 1 : 0;
+  const LanguagePart* const english = FindLanguage(kEnglishUnitedStates);
+  if (english == nullptr) return;
+  const Part own = english->part;
+  english_ = own;
+  for (std::uint32_t i = own.begin; i < own.end; ++i) places_[i].sameEverywhere = 1;
+  std::vector<Part> others;
+  for (const LanguagePart& language : languages_) others.push_back(language.part);
+  std::ranges::sort(others);
+  others.erase(std::ranges::unique(others).begin(), others.end());
+  for (const Part other : others) {
+    if (other == own) continue;
+    std::uint32_t next = own.begin;  // Languages mostly have the same messages.
+    for (std::uint32_t i = other.begin; i < other.end; ++i, ++next) {
+      if (next >= own.end || ids_[next] != ids_[i]) {
+        const auto found = FindIn(own, ids_[i]);
+        if (!found) continue;
+        next = static_cast<std::uint32_t>(*found);
+      }
+      if (At(places_[i]).text != At(places_[next]).text) places_[next].sameEverywhere = 0;
+    }
   }
 }
 
 std::optional<CatalogMessage> MessageTable::Find(std::uint32_t languageId,
                                                  std::uint32_t messageId) const {
-  const std::uint64_t key = std::uint64_t{languageId} << 32 | messageId;
-  const auto found = std::ranges::lower_bound(keys_, key);
-  if (found == keys_.end() || *found != key) return {};
-  return At(places_[static_cast<std::size_t>(found - keys_.begin())]);
+  const LanguagePart* const language = FindLanguage(languageId);
+  return language != nullptr ? Find(language->part, messageId) : std::nullopt;
+}
+
+std::optional<CatalogMessage> MessageTable::Find(Part part, std::uint32_t messageId) const {
+  const auto found = FindIn(part, messageId);
+  return found ? std::optional(At(places_[*found])) : std::nullopt;
+}
+
+std::vector<MessageTable::Language> MessageTable::Languages() const {
+  std::map<Part, std::uint32_t> firsts;
+  std::vector<Language> languages;
+  for (const LanguagePart& language : languages_) {
+    const auto first = firsts.emplace(language.part, language.languageId).first;
+    languages.push_back({language.languageId, first->second});
+  }
+  return languages;
 }
 
 }  // namespace AdvancedControl

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <compare>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -19,7 +20,7 @@ struct CatalogMessage {
   /// True if expanding would not change the text: it has no % sequence, and every line break is CR
   /// LF.
   bool plain = false;
-  /// True if all languages of the table have the same text for this message.
+  /// True for a message of language 1033 if no other language of the table has another text for it.
   bool sameEverywhere = false;
 };
 
@@ -29,7 +30,7 @@ struct CatalogMessage {
 /// Reads PE32 and PE32+ modules, message tables of any resource name and any number of languages,
 /// with Unicode entries and entries in the ANSI code page of their language. If several resources
 /// contain the same message of a language, a numbered resource has precedence over a named one, and
-/// a lower number over a higher.
+/// a lower number over a higher. Texts that several languages share are kept once.
 class MessageTable {
  public:
   /// Reads the module at `path`. Nothing if it cannot be read, is larger than 32 MiB, is damaged in
@@ -43,10 +44,26 @@ class MessageTable {
   /// table, even if the table is moved.
   std::optional<CatalogMessage> Find(std::uint32_t languageId, std::uint32_t messageId) const;
 
-  /// Number of messages, counting each language.
-  std::size_t Count() const { return keys_.size(); }
+  /// The same in language 1033, faster.
+  std::optional<CatalogMessage> FindEnglish(std::uint32_t messageId) const {
+    return Find(english_, messageId);
+  }
 
-  /// The message at a position below `Count()`, sorted by language and number.
+  bool HasLanguage(std::uint32_t languageId) const { return FindLanguage(languageId) != nullptr; }
+
+  /// A language of the table and the first one that has the same messages, by identifier. Languages
+  /// that share nothing have themselves.
+  struct Language {
+    std::uint32_t id;
+    std::uint32_t first;
+  };
+  /// All languages, by identifier.
+  std::vector<Language> Languages() const;
+
+  /// Number of messages, counting each language, but shared messages once.
+  std::size_t Count() const { return ids_.size(); }
+
+  /// The message at a position below `Count()`.
   CatalogMessage At(std::size_t position) const { return At(places_[position]); }
 
  private:
@@ -57,12 +74,29 @@ class MessageTable {
     std::uint32_t sameEverywhere : 1;
   };
 
+  // The messages of a language: a part of `ids_` and `places_`, sorted by number.
+  struct Part {
+    std::uint32_t begin;
+    std::uint32_t end;
+
+    auto operator<=>(const Part&) const = default;
+  };
+  struct LanguagePart {
+    std::uint32_t languageId;
+    Part part;
+  };
+  class Reader;
+
   CatalogMessage At(Place place) const;
+  const LanguagePart* FindLanguage(std::uint32_t languageId) const;
+  std::optional<CatalogMessage> Find(Part part, std::uint32_t messageId) const;
+  std::optional<std::size_t> FindIn(Part part, std::uint32_t messageId) const;
   void MarkSameEverywhere();
 
-  // Language in the upper half, message in the lower; sorted. Not a hash table, because a module
-  // could contain keys chosen to collide.
-  std::vector<std::uint64_t> keys_;
+  // Sorted arrays, not hash tables, because a module could contain keys chosen to collide.
+  std::vector<LanguagePart> languages_;
+  Part english_{.begin = 0, .end = 0};  // of language 1033
+  std::vector<std::uint32_t> ids_;
   std::vector<Place> places_;
   std::vector<char> texts_;
 };

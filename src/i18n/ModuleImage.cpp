@@ -1,5 +1,11 @@
 #include "i18n/ModuleImage.h"
 
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
 namespace AdvancedControl {
 
 namespace {
@@ -7,6 +13,29 @@ namespace {
 constexpr std::size_t kMaxSections = 96;
 
 }  // namespace
+
+// The file is not mapped, because truncating a mapped file would crash the program.
+std::vector<std::byte> ReadModule(const std::string& path) {
+  std::vector<std::byte> bytes;
+  // O_NONBLOCK, because the name may be that of a pipe, whose opening would wait for the other end.
+  const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+  if (file < 0) return bytes;
+  struct stat status {};
+  if (fstat(file, &status) == 0 && S_ISREG(status.st_mode) && status.st_size > 0 &&
+      std::cmp_less_equal(status.st_size, kMaxModuleBytes)) {
+    bytes.resize(static_cast<std::size_t>(status.st_size));
+    std::size_t got = 0;
+    while (got < bytes.size()) {
+      const ssize_t count = read(file, bytes.data() + got, bytes.size() - got);
+      if (count < 0 && errno == EINTR) continue;
+      if (count <= 0) break;
+      got += static_cast<std::size_t>(count);
+    }
+    bytes.resize(got);
+  }
+  close(file);
+  return bytes;
+}
 
 std::optional<ModuleImage> ModuleImage::Open(Bytes file) {
   const auto dosHeader = Slice(file, 0, 64);

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <string>
 #include <vector>
 
 #include "Namespace.h"
@@ -27,6 +28,12 @@ inline std::uint16_t U16(Bytes bytes, std::size_t offset) {
 inline std::uint32_t U32(Bytes bytes, std::size_t offset) {
   return U16(bytes, offset) | static_cast<std::uint32_t>(U16(bytes, offset + 2)) << 16;
 }
+
+/// The largest module that is read.
+inline constexpr std::size_t kMaxModuleBytes = std::size_t{32} << 20;
+
+/// The bytes of a regular file of that size at most; of any other, none.
+std::vector<std::byte> ReadModule(const std::string& path);
 
 /// The sections of a module and its resource directory. Refers to the bytes passed to `Open`.
 class ModuleImage {

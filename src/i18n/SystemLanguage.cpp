@@ -5,12 +5,29 @@
 #include <cstdlib>
 #include <string>
 #include <string_view>
+#include <unistd.h>
+#include <vector>
 
 #include <unicode/uloc.h>
 
 namespace AdvancedControl {
 
 namespace {
+
+// Whether the environment has other entries than in the last call. A look at all of them is faster
+// than a search for one.
+bool HasEnvironmentChanged() {
+  static std::vector<const char*> known;  // with the null at the end
+  static char* none = nullptr;
+  char** const now = environ != nullptr ? environ : &none;
+  std::size_t i = 0;
+  while (i < known.size() && known[i] == now[i]) {
+    if (now[i++] == nullptr) return false;
+  }
+  while (now[i] != nullptr) ++i;
+  known.assign(now, now + i + 1);
+  return true;
+}
 
 const char* EnvironmentLocale() {
   for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
@@ -43,27 +60,37 @@ bool IsPlainName(std::string_view name) {
          std::ranges::all_of(name.substr(0, language), isLetter);
 }
 
-std::uint32_t LanguageIdOf(std::string_view locale) {
-  const std::string name(locale.substr(0, locale.find_first_of(".@")));
-  if (!IsPlainName(name)) return kEnglishUnitedStates;
-  std::array<char, ULOC_FULLNAME_CAPACITY> canonical{};
-  UErrorCode error = U_ZERO_ERROR;
-  uloc_canonicalize(name.c_str(), canonical.data(), ULOC_FULLNAME_CAPACITY, &error);
-  if (U_FAILURE(error) || error == U_STRING_NOT_TERMINATED_WARNING) return kEnglishUnitedStates;
-  // The upper half may contain a sort order.
-  const std::uint32_t languageId = uloc_getLCID(canonical.data()) & 0xFFFF;
-  return languageId == 0 ? kEnglishUnitedStates : WithRegion(languageId);
+// Whether a name is `wanted`, except for the case of letters and "-" instead of "_".
+bool IsNamed(std::string_view name, std::string_view wanted) {
+  return std::ranges::equal(name, wanted, [](char a, char b) {
+    return a == '-' ? b == '_' : (a >= 'A' && a <= 'Z' ? a + 'a' - 'A' : a) == b;
+  });
 }
 
 }  // namespace
 
+std::optional<std::uint32_t> LanguageIdOf(std::string_view name) {
+  const std::string plain(name.substr(0, name.find_first_of(".@")));
+  if (!IsPlainName(plain)) return {};
+  if (IsNamed(plain, "qps_ploc")) return kPseudo;
+  if (IsNamed(plain, "qps_plocm")) return kPseudoMirrored;
+  std::array<char, ULOC_FULLNAME_CAPACITY> canonical{};
+  UErrorCode error = U_ZERO_ERROR;
+  uloc_canonicalize(plain.c_str(), canonical.data(), ULOC_FULLNAME_CAPACITY, &error);
+  if (U_FAILURE(error) || error == U_STRING_NOT_TERMINATED_WARNING) return {};
+  // The upper half may contain a sort order.
+  const std::uint32_t languageId = uloc_getLCID(canonical.data()) & 0xFFFF;
+  return languageId == 0 ? std::nullopt : std::optional(WithRegion(languageId));
+}
+
 std::uint32_t SystemLanguageId() {
   static std::string knownLocale;
-  static std::uint32_t languageId = LanguageIdOf(knownLocale);
-  const char* locale = EnvironmentLocale();
+  static std::uint32_t languageId = kEnglishUnitedStates;
+  static const char* locale = "";
+  if (HasEnvironmentChanged()) locale = EnvironmentLocale();
   if (knownLocale != locale) {
     knownLocale = locale;
-    languageId = LanguageIdOf(knownLocale);
+    languageId = LanguageIdOf(knownLocale).value_or(kEnglishUnitedStates);
   }
   return languageId;
 }

@@ -5,6 +5,7 @@
 
 #include <unicode/ucnv.h>
 #include <unicode/ustring.h>
+#include <unicode/utf16.h>
 
 namespace AdvancedControl {
 
@@ -51,6 +52,33 @@ const char* AnsiConverter(std::uint32_t languageId) {
 void TextDecoder::CloseConverter::operator()(UConverter* converter) const { ucnv_close(converter); }
 
 bool TextDecoder::AppendUnicode(Bytes bytes, std::vector<char>& texts) {
+  // Nearly all texts have no surrogates, and a module may have ten thousand texts.
+  const std::size_t start = texts.size();
+  texts.resize(start + 3 * (bytes.size() / 2));
+  char* out = texts.data() + start;
+  const auto put = [&out](unsigned byte) { *out++ = static_cast<char>(byte); };
+  bool isSimple = true;
+  for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
+    const unsigned unit = U16(bytes, i);
+    if (unit == 0) break;
+    isSimple = !U16_IS_SURROGATE(unit);
+    if (!isSimple) break;
+    if (unit < 0x80) {
+      put(unit);
+    } else if (unit < 0x800) {
+      put(0xC0 | unit >> 6);
+      put(0x80 | (unit & 0x3F));
+    } else {
+      put(0xE0 | unit >> 12);
+      put(0x80 | (unit >> 6 & 0x3F));
+      put(0x80 | (unit & 0x3F));
+    }
+  }
+  texts.resize(isSimple ? static_cast<std::size_t>(out - texts.data()) : start);
+  return isSimple || AppendWithSurrogates(bytes, texts);
+}
+
+bool TextDecoder::AppendWithSurrogates(Bytes bytes, std::vector<char>& texts) {
   utf16_.clear();
   for (std::size_t i = 0; i + 1 < bytes.size() && U16(bytes, i) != 0; i += 2) {
     utf16_.push_back(static_cast<char16_t>(U16(bytes, i)));

@@ -25,6 +25,7 @@ class TextDecoder {
   bool AppendAnsi(std::uint32_t languageId, Bytes bytes, std::vector<char>& texts);
 
  private:
+  bool AppendWithSurrogates(Bytes bytes, std::vector<char>& texts);
   // Appends the first units of `utf16_`.
   bool AppendUtf16(std::size_t units, std::vector<char>& texts);
 

@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <QPalette>
 
+#include "toolkit/Contrast.h"
+
 namespace AdvancedControl {
 
 namespace {
@@ -34,10 +36,11 @@ class ArrowEngine final : public QIconEngine {
   void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
     const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
     static constexpr QPointF kUp[] = {{0, -0.3}, {0.4, 0.25}, {-0.4, 0.25}};
+    const QPalette palette = WithReadableDisabledTexts(QGuiApplication::palette());
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setPen(Qt::NoPen);
-    painter->setBrush(QGuiApplication::palette().brush(group, QPalette::ButtonText));
+    painter->setBrush(palette.brush(group, QPalette::ButtonText));
     painter->translate(QRectF(rect).center());
     painter->rotate(turn_);
     painter->scale(rect.width(), rect.height());

@@ -29,7 +29,6 @@ constexpr RowTemplate PositionH(const ArrowIds& ids) {
              Field(ids.fieldH));
 }
 
-// Aligns the field with those of the slider rows.
 constexpr RowTemplate FieldRow(const ControlTemplate& label, int colon, int minus, int field,
                                int plus) {
   return Row(Left, label, Colon(colon), Minus(minus), Plus(plus), Field(field));

@@ -306,7 +306,6 @@ inline constexpr int ReadSeconds = 4373;  // %1 seconds ago (integer)
 inline constexpr int ReadMinutes = 4374;  // %1 minutes ago (integer)
 inline constexpr int ReadAgain = 4375;
 inline constexpr int KeepUpToDate = 4376;
-inline constexpr int SerialPort = 4377;  // %1 its number (integer)
 
 // Settings that the projector should have.
 inline constexpr int Wanted = 4380;       // %1 the value's text

@@ -64,7 +64,13 @@ std::string Abbreviation(std::string_view key) {
 }  // namespace
 
 SettingTexts::SettingTexts(std::span<const std::string> catalogFolders, std::uint32_t languageId)
-    : texts_(catalogFolders), languageId_(languageId) {}
+    : texts_(catalogFolders),
+      languageId_(languageId),
+      likely_{languageId, kEnglishUnitedStates, kChineseSimplified} {
+  for (const auto& [id, first] : texts_.Languages()) {
+    if (id == first && std::ranges::find(likely_, id) == likely_.end()) others_.push_back(id);
+  }
+}
 
 std::string SettingTexts::Text(int category, int number, int value) const {
   const CatalogInsert insert(value);
@@ -135,7 +141,8 @@ std::string SettingTexts::Value(const ModelSetting& setting, int value,
 
 bool SettingTexts::IsShownAs(const ModelSetting& setting, int value, std::string_view text) const {
   const bool isEntry = std::ranges::any_of(setting.entries, [&](const ListEntry& entry) {
-    return entry.value == value && (Is(entry, text) || SameText(Entry(setting, entry), text));
+    return entry.value == value && (Is(entry, text, likely_) || Is(entry, text, others_) ||
+                                    SameText(Entry(setting, entry), text));
   });
   return isEntry || Number(text) == value - setting.bias;
 }
@@ -154,21 +161,23 @@ std::string SettingTexts::Values(const ModelSetting& setting) const {
   return texts;
 }
 
-bool SettingTexts::Is(const ListEntry& entry, std::string_view text) const {
+bool SettingTexts::Is(const ListEntry& entry, std::string_view text,
+                      std::span<const std::uint32_t> languages) const {
   if (!entry.text) return SameText(entry.name, text);
-  for (const std::uint32_t language : {languageId_, kEnglishUnitedStates, kChineseSimplified}) {
+  return std::ranges::any_of(languages, [&](std::uint32_t language) {
     const auto known = texts_.Find(language, kListCategory, *entry.text);
-    if (known && SameText(*known, text)) return true;
-  }
-  return false;
+    return known && SameText(*known, text);
+  });
 }
 
 std::optional<TypedValue> SettingTexts::Parse(const ModelSetting& setting,
                                               std::string_view text) const {
-  for (const ListEntry& entry : setting.entries) {
-    const bool isIt = IsNameShared(setting, entry) ? SameText(Entry(setting, entry), text)  //
-                                                   : Is(entry, text);
-    if (isIt) return TypedValue{entry.value};
+  for (const std::span<const std::uint32_t> languages : {std::span(likely_), std::span(others_)}) {
+    for (const ListEntry& entry : setting.entries) {
+      const bool isIt = IsNameShared(setting, entry) ? SameText(Entry(setting, entry), text)
+                                                     : Is(entry, text, languages);
+      if (isIt) return TypedValue{entry.value};
+    }
   }
   const auto isPlainName = [&text](const ListEntry& entry) {
     return !entry.text && SameText(PlainName(entry.name), text);
@@ -176,7 +185,8 @@ std::optional<TypedValue> SettingTexts::Parse(const ModelSetting& setting,
   if (std::ranges::count_if(setting.entries, isPlainName) == 1) {
     return TypedValue{std::ranges::find_if(setting.entries, isPlainName)->value};
   }
-  if (IsPower(setting) && Is(ListEntry(ListText::PowerStandby), text)) return TypedValue{0};
+  if (IsPower(setting) && Is(ListEntry(ListText::PowerStandby), text, likely_))
+    return TypedValue{0};
   const bool absolute = text.starts_with('=');
   const bool relative = text.starts_with('+') || text.starts_with('-');
   const auto number = Number(absolute ? text.substr(1) : text);

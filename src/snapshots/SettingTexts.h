@@ -5,6 +5,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "Namespace.h"
 #include "ProjectorSettingsExport.h"
@@ -25,6 +26,9 @@ class PROJECTOR_SETTINGS_EXPORT SettingTexts {
  public:
   /// Texts missing in the language `languageId` are in English.
   SettingTexts(std::span<const std::string> catalogFolders, std::uint32_t languageId);
+
+  /// As `CatalogTexts::Problem`.
+  const std::string& Problem() const { return texts_.Problem(); }
 
   /// The caption of a setting, as on its label.
   std::string Caption(const ModelSetting& setting) const;
@@ -51,17 +55,21 @@ class PROJECTOR_SETTINGS_EXPORT SettingTexts {
 
   /// Parses a number as it is shown, with "=-3" for one below zero; a step, "+3" or "-3"; or, for a
   /// list, an entry's text in any language and case, its name
-  /// without the number in parentheses that makes it unique, or its device value. Nothing for any
-  /// other text, or for a name that several entries have.
+  /// without the number in parentheses that makes it unique, or its device value. If a text means
+  /// different entries in different languages, this language, English and Chinese have precedence.
+  /// Nothing for any other text, or for a name that several entries have.
   std::optional<TypedValue> Parse(const ModelSetting& setting, std::string_view text) const;
 
  private:
   std::string Text(int category, int number, int value = 0) const;
   std::string Entry(const ListEntry& entry) const;
-  bool Is(const ListEntry& entry, std::string_view text) const;
+  bool Is(const ListEntry& entry, std::string_view text,
+          std::span<const std::uint32_t> languages) const;
 
   CatalogTexts texts_;
   std::uint32_t languageId_;
+  std::vector<std::uint32_t> likely_;  // languages that a typed text is probably in
+  std::vector<std::uint32_t> others_;
 };
 
 /// The device value that was typed. Nothing for a step from a value that is unknown or not in the

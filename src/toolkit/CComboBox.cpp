@@ -1,10 +1,20 @@
 #include "toolkit/CComboBox.h"
 
+#include <algorithm>
+
+#include <QAbstractItemView>
+#include <QScrollBar>
 #include <QStyleOption>
 #include <QWheelEvent>
 
 #include "toolkit/Accessibility.h"
 #include "toolkit/IsolatedText.h"
+
+namespace {
+
+constexpr int kLongest = 44;  // characters of average width
+
+}  // namespace
 
 CComboBox::CComboBox(QWidget* parent) : QComboBox(parent) {
   InstallAccessibility();
@@ -42,8 +52,35 @@ std::optional<int> CComboBox::SelectedValue() const {
   return value.isValid() ? std::optional(value.toInt()) : std::nullopt;
 }
 
+QSize CComboBox::sizeHint() const {
+  const QSize whole = QComboBox::sizeHint();
+  wholeWidth_ = whole.width();
+  return {std::min(whole.width(), kLongest * fontMetrics().averageCharWidth()), whole.height()};
+}
+
+// Changing the policy discards the measured width. `AdjustToContents` must not stay: Qt would then
+// measure all entries again for each one that is added.
+void CComboBox::UpdateWidth() {
+  setSizeAdjustPolicy(AdjustToContents);
+  setSizeAdjustPolicy(AdjustToContentsOnFirstShow);
+}
+
+void CComboBox::showPopup() {
+  if (wholeWidth_ > width()) {
+    view()->setMinimumWidth(view()->sizeHintForColumn(0) +
+                            view()->verticalScrollBar()->sizeHint().width());
+  }
+  QComboBox::showPopup();
+}
+
 void CComboBox::initStyleOption(QStyleOptionComboBox* option) const {
   QComboBox::initStyleOption(option);
+  if (wholeWidth_ > width()) {
+    const QRect room =
+        style()->subControlRect(QStyle::CC_ComboBox, option, QStyle::SC_ComboBoxEditField, this);
+    option->currentText =
+        fontMetrics().elidedText(option->currentText, Qt::ElideRight, room.width());
+  }
   if (isRightToLeft()) option->currentText = Isolated(option->currentText);
 }
 

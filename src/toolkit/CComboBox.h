@@ -7,8 +7,9 @@
 #include "AdvancedControlExport.h"
 
 /// A drop-down list. `activated` reports every choice of the user, even of the selected entry;
-/// selecting by program reports nothing. While it is closed, the wheel changes it only
-/// if it has the focus and Ctrl is held.
+/// selecting by program reports nothing. While it is closed, the wheel changes it only if it has the
+/// focus and Ctrl is held. It is as wide as its longest entry, but not wider than reads well; opened,
+/// it shows every entry whole.
 /// Assistive technologies find it by its caption, and choose as a user does. User-interface thread
 /// only.
 class ADVANCED_CONTROL_EXPORT CComboBox : public QComboBox {
@@ -33,10 +34,20 @@ class ADVANCED_CONTROL_EXPORT CComboBox : public QComboBox {
   /// outside the list.
   void Pick(int position);
 
+  /// Measures the entries again; to be called when they have changed after the list was shown.
+  void UpdateWidth();
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override { return sizeHint(); }
+  void showPopup() override;
+
   /// The value of the selected entry; nothing without a selection.
   std::optional<int> SelectedValue() const;
 
  protected:
   void initStyleOption(QStyleOptionComboBox* option) const override;
   void wheelEvent(QWheelEvent* event) override;
+
+ private:
+  mutable int wholeWidth_ = 0;  // shows every entry whole; 0 before it is measured
 };

@@ -11,6 +11,7 @@
 #include "toolkit/CComboBox.h"
 #include "toolkit/CSliderCtrl.h"
 #include "toolkit/FittedScroll.h"
+#include "toolkit/FocusRing.h"
 
 CDialog::CDialog(int templateNumber, CWnd* owner) : OwnedDialog(templateNumber, owner) {
   InstallAccessibility();
@@ -139,6 +140,8 @@ void CDialog::setVisible(bool visible) {
   if (visible && isWindow() && IsOrphaned()) return;
   // Done when first shown, because most pages of a dialog are never shown.
   if (visible && Template() != nullptr && !std::exchange(named_, true)) NameControls(*this);
+  // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): owned by its parent
+  if (visible && isWindow() && focusRing_ == nullptr) focusRing_ = new FocusRing(*this);
   // Showing or hiding a page must not move the focus or end an event loop.
   if (isWindow()) {
     QDialog::setVisible(visible);

@@ -2,9 +2,15 @@
 
 #include <functional>
 
+#include <QPointer>
+
 #include "AdvancedControlExport.h"
 #include "toolkit/NotificationMap.h"
 #include "toolkit/OwnedDialog.h"
+
+namespace AdvancedControl {
+class FocusRing;
+}  // namespace AdvancedControl
 
 /// A dialog built from a numbered template, either run modally or created as a child (a page of
 /// another dialog), whose controls report to handlers. Its base classes handle layout, input and
@@ -64,6 +70,7 @@ class ADVANCED_CONTROL_EXPORT CDialog : public AdvancedControl::OwnedDialog {
   void ConnectNotifications();
   void RunHandler(const AdvancedControl::Notification& entry, CSliderCtrl* slider);
 
+  QPointer<AdvancedControl::FocusRing> focusRing_;  // only of a window
   bool named_ = false;  // whether the controls have names for assistive technologies
   std::function<void()> showUnread_;
 };

@@ -1,17 +1,19 @@
 #include "toolkit/CSliderCtrl.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include <QEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QStyle>
 #include <QStyleOptionSlider>
+#include <QStylePainter>
 #include <QWheelEvent>
 
 #include "toolkit/DragBubble.h"
+#include "toolkit/FocusRing.h"
 
 namespace {
 
@@ -19,6 +21,12 @@ constexpr int kTickLength = 4;
 constexpr int kTickGap = 1;  // between the handle and its ticks
 constexpr int kTickHeight = kTickGap + kTickLength;
 constexpr int kClosestTicks = 3;  // closer ticks would look like a line
+constexpr double kZeroWidth = 2;
+constexpr float kZeroOpacity = 0.7F;
+constexpr double kTrack = 4;     // height
+constexpr float kEmpty = 0.22F;  // opacity of the track
+constexpr double kFocusRadius = 4;
+constexpr double kCatch = 3;  // pixels from 0
 
 }  // namespace
 
@@ -59,28 +67,82 @@ QSize CSliderCtrl::minimumSizeHint() const {
   return {QSlider::minimumSizeHint().width(), sizeHint().height()};
 }
 
-void CSliderCtrl::paintEvent(QPaintEvent* event) {
-  QSlider::paintEvent(event);
+double CSliderCtrl::PlaceOf(int position) const {
   QStyleOptionSlider option;
   initStyleOption(&option);
-  const QRect handle =
-      style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, this);
-  const int room = width() - handle.width();
-  const auto offset = [&](int value) {
-    return QStyle::sliderPositionFromValue(minimum(), maximum(), value, room, option.upsideDown);
+  const int handle = HandleRect().width();
+  return handle / 2.0 + QStyle::sliderPositionFromValue(minimum(), maximum(), position,
+                                                        width() - handle, option.upsideDown);
+}
+
+void CSliderCtrl::DrawTrack(QPainter& painter, const QRect& handle) const {
+  const double middle = QRectF(handle).center().y();
+  const auto draw = [&](double from, double to, const QColor& color) {
+    painter.setBrush(color);
+    painter.drawRoundedRect(QRectF(QPointF(std::min(from, to), middle - kTrack / 2),
+                                   QPointF(std::max(from, to), middle + kTrack / 2)),
+                            kTrack / 2, kTrack / 2);
   };
+  QColor empty = palette().color(QPalette::WindowText);
+  empty.setAlphaF(kEmpty);
+  painter.setPen(Qt::NoPen);
+  draw(PlaceOf(minimum()), PlaceOf(maximum()), empty);
+  if (!isEnabled()) return;
+  draw(PlaceOf(HasZero() ? 0 : minimum()), PlaceOf(sliderPosition()),
+       palette().color(QPalette::Highlight));
+}
+
+void CSliderCtrl::DrawTicks(QPainter& painter, const QRect& handle) const {
   const int span = maximum() - minimum();
   if (span <= 0 || tickInterval() <= 0) return;
+  const int room = width() - handle.width();
   const int step = room / kClosestTicks < span / tickInterval() ? pageStep() : tickInterval();
-  QPainter painter(this);
   QColor color = palette().color(QPalette::WindowText);
   color.setAlphaF(0.5F);
   painter.setPen(color);
   const int top = handle.bottom() + 1 + kTickGap;
-  for (int value = minimum(); value <= maximum(); value += step) {
-    const int x = handle.width() / 2 + offset(value);
+  // Counted from 0 if the range has it.
+  const int first = HasZero() ? minimum() - minimum() % step : minimum();
+  for (int value = first; value <= maximum(); value += step) {
+    const int x = static_cast<int>(PlaceOf(value));
     painter.drawLine(x, top, x, top + kTickLength - 1);
   }
+}
+
+void CSliderCtrl::DrawZero(QPainter& painter, const QRect& handle) const {
+  QColor color = palette().color(QPalette::WindowText);
+  color.setAlphaF(kZeroOpacity);
+  painter.setPen(QPen(color, kZeroWidth));
+  const double x = PlaceOf(0);
+  const double below = handle.bottom() + 1 + kTickGap;
+  painter.drawLine(QPointF(x, below), QPointF(x, below + kTickLength));
+  painter.drawLine(QPointF(x, handle.top() - kTickHeight), QPointF(x, handle.top() - kTickGap));
+}
+
+void CSliderCtrl::paintEvent(QPaintEvent*) {
+  QStylePainter painter(this);
+  QStyleOptionSlider option;
+  initStyleOption(&option);
+  const QRect handle = HandleRect();
+  DrawTicks(painter, handle);
+  painter.setRenderHint(QPainter::Antialiasing);
+  DrawTrack(painter, handle);
+  if (HasZero()) DrawZero(painter, handle);
+  option.subControls = QStyle::SC_SliderHandle;
+  if (isSliderDown()) {
+    option.activeSubControls = QStyle::SC_SliderHandle;
+    option.state |= QStyle::State_Sunken;
+  }
+  painter.drawComplexControl(QStyle::CC_Slider, option);
+  if (!FocusRing::IsShownFor(*this)) return;
+  painter.setPen(FocusRing::PenFor(*this));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRoundedRect(QRectF(handle).adjusted(-1, -1, 1, 1), kFocusRadius, kFocusRadius);
+}
+
+void CSliderCtrl::DragTo(int position) {
+  setValue(position);
+  Q_EMIT Scrolling(true);
 }
 
 void CSliderCtrl::mousePressEvent(QMouseEvent* event) {
@@ -92,6 +154,12 @@ void CSliderCtrl::mousePressEvent(QMouseEvent* event) {
   } else {
     event->ignore();
   }
+}
+
+void CSliderCtrl::mouseMoveEvent(QMouseEvent* event) {
+  QSlider::mouseMoveEvent(event);
+  if (!isSliderDown() || !HasZero()) return;
+  if (std::abs(PlaceOf(sliderPosition()) - PlaceOf(0)) <= kCatch) setSliderPosition(0);
 }
 
 void CSliderCtrl::mouseReleaseEvent(QMouseEvent* event) {

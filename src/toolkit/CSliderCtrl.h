@@ -8,7 +8,8 @@
 /// while it has the focus. User-interface thread only.
 ///
 /// It draws its own ticks: those of some styles are invisible with a dark palette, and move the
-/// track out of the middle.
+/// track out of the middle. It also draws its own track. If the range has negative and positive
+/// positions, 0 has a mark, the track is filled from there, and a drag with the mouse catches at 0.
 class CSliderCtrl : public QSlider {
   Q_OBJECT
 
@@ -20,6 +21,10 @@ class CSliderCtrl : public QSlider {
 
   /// Moves the slider as a user does, and reports it, unless `position` is the present one.
   void ScrollTo(int position);
+
+  /// Moves the slider to `position` as a drag does, which `Drop` ends and reports.
+  void DragTo(int position);
+  void Drop() { Finish(); }
 
   /// The handle's rectangle, in the slider's coordinates.
   QRect HandleRect() const;
@@ -36,6 +41,7 @@ class CSliderCtrl : public QSlider {
   void initStyleOption(QStyleOptionSlider* option) const override;
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
@@ -43,6 +49,12 @@ class CSliderCtrl : public QSlider {
   void focusOutEvent(QFocusEvent* event) override;
 
  private:
+  bool HasZero() const { return minimum() < 0 && maximum() > 0; }
+  /// The horizontal middle of the handle at a position, in pixels.
+  double PlaceOf(int position) const;
+  void DrawTrack(QPainter& painter, const QRect& handle) const;
+  void DrawTicks(QPainter& painter, const QRect& handle) const;
+  void DrawZero(QPainter& painter, const QRect& handle) const;
   void EndKeyScroll();
   void Finish();
 

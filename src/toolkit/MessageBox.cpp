@@ -1,14 +1,25 @@
 #include "toolkit/MessageBox.h"
 
+#include <QLabel>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <QStyle>
 
+#include "toolkit/Icons.h"
 #include "toolkit/OwnedDialog.h"
 
 namespace AdvancedControl {
 
 namespace {
+
+// The box keeps its kind, by which the platform chooses the sound.
+void UseIcon(QMessageBox& box, IconName name) {
+  auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgboxex_icon_label"));
+  if (label == nullptr) return;
+  const int side = box.style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &box);
+  label->setPixmap(ThemedIcon(name).pixmap({side, side}, box.devicePixelRatio()));
+}
 
 int Run(QWidget* owner, QMessageBox::Icon icon, const QString& text,
         QMessageBox::StandardButtons buttons, QMessageBox::StandardButton preselected,
@@ -29,7 +40,12 @@ int Run(QWidget* owner, QMessageBox::Icon icon, const QString& text,
                                         {QMessageBox::No, texts.no}}) {
     if ((buttons & button) && !caption.isEmpty()) box->button(button)->setText(caption);
   }
-  if (window != nullptr) box->setWindowModality(Qt::WindowModal);
+  UseIcon(*box, icon == QMessageBox::Critical ? IconName::Stop : IconName::Information);
+  RemoveForeignButtonIcons(*box);
+  if (window != nullptr) {
+    box->setLayoutDirection(window->layoutDirection());
+    box->setWindowModality(Qt::WindowModal);
+  }
   const int answer = box->exec();
   delete box;
   return answer;

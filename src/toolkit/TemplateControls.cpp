@@ -4,50 +4,24 @@
 #include <utility>
 
 #include <QCheckBox>
-#include <QEvent>
 #include <QGridLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 
 #include "toolkit/CComboBox.h"
 #include "toolkit/CSliderCtrl.h"
 #include "toolkit/CTabCtrl.h"
+#include "toolkit/LineLabel.h"
+#include "toolkit/StateLabel.h"
 
 namespace AdvancedControl {
 
 namespace {
 
+constexpr int kSpacing = 6;
 constexpr int kSliderMinimumWidth = 150;
 constexpr int kRepeatDelay = 400;  // milliseconds
 constexpr int kRepeatInterval = 80;
-
-/// A one-line label that measures its text once; QLabel would lay it out three times.
-class LineLabel final : public QLabel {
- public:
-  using QLabel::QLabel;
-
-  QSize sizeHint() const override {
-    if (measured_.isValid() && text() == measuredText_) return measured_;
-    measuredText_ = text();
-    const bool asQLabel = measuredText_.isEmpty() || measuredText_.contains(QLatin1Char('&'));
-    measured_ = asQLabel ? QLabel::sizeHint() : fontMetrics().size(0, measuredText_);
-    return measured_;
-  }
-  QSize minimumSizeHint() const override { return sizeHint(); }
-
- protected:
-  void changeEvent(QEvent* event) override {
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
-      measured_ = {};
-    }
-    QLabel::changeEvent(event);
-  }
-
- private:
-  mutable QString measuredText_;
-  mutable QSize measured_;
-};
 
 int SmallButtonWidth(const QWidget& widget) { return widget.fontMetrics().height() * 2; }
 
@@ -83,29 +57,39 @@ CComboBox* MakeCombo(std::span<const char* const> entries, QWidget* parent) {
   return combo;
 }
 
-// Places controls that share the value columns: an arrow pad, check boxes or a single button.
-void PlaceTogether(std::vector<QWidget*> controls, bool arrows, QGridLayout* grid, int gridRow,
-                   int firstColumn, int endColumn) {
+// Places controls that share the value columns: a list and its button, arrows and their number,
+// check boxes or a single button.
+void PlaceTogether(const std::vector<QWidget*>& controls, QGridLayout* grid, int gridRow,
+                   int firstColumn) {
+  const int span = RowColumn::Count - firstColumn;
+  if (controls.size() == 1) {
+    return grid->addWidget(controls.front(), gridRow, firstColumn, 1, span,
+                           Qt::AlignVCenter | Qt::AlignLeft);
+  }
   auto* box = new QHBoxLayout;
-  // The left arrow stays left in a mirrored layout.
-  if (arrows && controls.front()->isRightToLeft()) std::ranges::reverse(controls);
   box->setContentsMargins(0, 0, 0, 0);
   box->setSpacing(grid->horizontalSpacing());
   for (QWidget* control : controls) box->addWidget(control, 0, Qt::AlignVCenter);
   box->addStretch(1);
-  grid->addLayout(box, gridRow, firstColumn, 1, endColumn - firstColumn);
+  grid->addLayout(box, gridRow, firstColumn, 1, span);
 }
 
 }  // namespace
+
+int ResetButtonSide(const QWidget& dialog) { return dialog.fontMetrics().height() + kSpacing; }
 
 QGridLayout* MakeRowColumns(const QWidget& dialog) {
   auto* grid = new QGridLayout;
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setVerticalSpacing(0);
-  grid->setHorizontalSpacing(6);
+  grid->setHorizontalSpacing(kSpacing);
   grid->setColumnMinimumWidth(RowColumn::Minus, SmallButtonWidth(dialog));
   grid->setColumnMinimumWidth(RowColumn::Slider, kSliderMinimumWidth);
   grid->setColumnMinimumWidth(RowColumn::Plus, SmallButtonWidth(dialog));
+  // Room for the button that resets a row, so that sliders have the same width on all pages.
+  if (!dialog.isWindow()) {
+    grid->setColumnMinimumWidth(RowColumn::Button, ResetButtonSide(dialog) + kSpacing);
+  }
   grid->setColumnStretch(RowColumn::Slider, 1);
   return grid;
 }
@@ -115,11 +99,9 @@ QWidget* MakeControl(const ControlTemplate& control, QWidget* parent) {
   switch (control.kind) {
     case ControlKind::Label:
     case ControlKind::Colon:
-    case ControlKind::Text: {
-      auto* label = new LineLabel(caption, parent);
-      label->setTextFormat(Qt::PlainText);
-      return label;
-    }
+      return new LineLabel(caption, parent);
+    case ControlKind::Text:
+      return new StateLabel(caption, parent);
     case ControlKind::Minus:
       return MakeSmallButton(QStringLiteral("\u2212"), parent);
     case ControlKind::Plus:
@@ -160,7 +142,7 @@ struct Place {
   Qt::Alignment horizontal{};
 };
 
-Place PlaceOf(const RowTemplate& row, std::size_t index, std::size_t count) {
+Place PlaceOf(const RowTemplate& row, std::size_t index) {
   const bool hasSlider = Has(row, ControlKind::Slider);
   switch (row.controls[index].kind) {
     case ControlKind::Label:
@@ -173,14 +155,10 @@ Place PlaceOf(const RowTemplate& row, std::size_t index, std::size_t count) {
       return hasSlider ? Place{RowColumn::Minus} : Place{};
     case ControlKind::Plus:
       return hasSlider ? Place{RowColumn::Plus} : Place{};
-    case ControlKind::Combo:
-      return {RowColumn::Minus, 3};
     case ControlKind::Field:
-      // The last field of a row is in the column of the fields.
-      return hasSlider || index + 1 >= count ? Place{RowColumn::Field} : Place{};
+      return hasSlider ? Place{RowColumn::Field} : Place{};
     case ControlKind::Button:
-      if (hasSlider) return {RowColumn::Button};
-      return Has(row, ControlKind::Combo) ? Place{RowColumn::Field, 2, Qt::AlignLeft} : Place{};
+      return hasSlider ? Place{RowColumn::Button} : Place{};
     case ControlKind::Close:
       return {RowColumn::Label, RowColumn::Count, Qt::AlignRight};
     case ControlKind::Text:
@@ -197,7 +175,7 @@ void PlaceRow(const RowTemplate& row, const std::vector<QWidget*>& controls, QGr
               int gridRow) {
   std::vector<QWidget*> together;
   for (std::size_t i = 0; i < controls.size(); ++i) {
-    const Place place = PlaceOf(row, i, controls.size());
+    const Place place = PlaceOf(row, i);
     if (place.column < 0) {
       together.push_back(controls[i]);
     } else {
@@ -206,12 +184,10 @@ void PlaceRow(const RowTemplate& row, const std::vector<QWidget*>& controls, QGr
     }
   }
   if (together.empty()) return;
-  const bool fieldColumnTaken =
-      controls.size() > 1 && row.controls[controls.size() - 1].kind == ControlKind::Field;
   const bool arrows = Has(row, ControlKind::Arrow);
-  PlaceTogether(std::move(together), arrows, grid, gridRow,
-                arrows ? RowColumn::Slider : RowColumn::Minus,
-                fieldColumnTaken ? RowColumn::Field : RowColumn::Count);
+  // The left arrow stays left in a mirrored layout.
+  if (arrows && together.front()->isRightToLeft()) std::swap(together[0], together[1]);
+  PlaceTogether(together, grid, gridRow, arrows ? RowColumn::Slider : RowColumn::Minus);
 }
 
 }  // namespace AdvancedControl

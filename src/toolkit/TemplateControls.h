@@ -22,6 +22,9 @@ inline constexpr int Button = 6;
 inline constexpr int Count = 7;
 }  // namespace RowColumn
 
+/// The side of the square button that resets a row, in pixels; see `RowResets`.
+int ResetButtonSide(const QWidget& dialog);
+
 /// A grid for a column of rows, with the shared columns, which have the same width in every dialog.
 /// The caller takes ownership.
 QGridLayout* MakeRowColumns(const QWidget& dialog);

@@ -3,13 +3,17 @@
 #include <algorithm>
 #include <utility>
 
+#include <QEvent>
 #include <QFontMetrics>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "toolkit/CComboBox.h"
+#include "toolkit/Contrast.h"
 #include "toolkit/FittedScroll.h"
+#include "toolkit/Flash.h"
 #include "toolkit/ResourceModule.h"
 #include "toolkit/TemplateControls.h"
 
@@ -18,6 +22,7 @@ namespace AdvancedControl {
 namespace {
 
 constexpr int kColumnGap = 32;
+constexpr int kShortestList = 70;  // in dialog units
 
 bool HoldsTab(const RowTemplate& row) {
   return std::ranges::any_of(row.controls,
@@ -61,6 +66,7 @@ bool TemplateDialog::BuildControls() {
 
   template_ = ResourceChain::FindDialog(templateNumber_);
   if (template_ == nullptr) return false;
+  MakeDisabledTextsReadable();
   setWindowTitle(QString::fromUtf8(template_->caption));
   for (const RowTemplate& row : template_->rows) {
     PlacedRow placed{};
@@ -77,18 +83,33 @@ bool TemplateDialog::BuildControls() {
   return true;
 }
 
+// Only for a window, because its pages inherit its palette.
+void TemplateDialog::MakeDisabledTextsReadable() {
+  if (!isWindow()) return;
+  const QPalette readable = WithReadableDisabledTexts(palette());
+  if (readable != palette()) setPalette(readable);
+}
+
+void TemplateDialog::changeEvent(QEvent* event) {
+  QDialog::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange && template_ != nullptr) MakeDisabledTextsReadable();
+}
+
 void TemplateDialog::CreateLayout() {
   auto* columns = new QHBoxLayout(this);
   columns->setContentsMargins(isWindow() ? 16 : 0, isWindow() ? 12 : 0, isWindow() ? 16 : 0,
                               isWindow() ? 12 : 0);
-  columns->setSpacing(kColumnGap);
+  columns->setSpacing(isWindow() ? kColumnGap : 0);
   if (isWindow()) columns->setSizeConstraint(QLayout::SetFixedSize);  // follows absent rows
   QGridLayout* const left = MakeRowColumns(*this);
   columns->addLayout(left, 1);
   // A page has two columns even if it uses only one, so that rows are at the same place on all
   // tabs.
   QGridLayout* const right = isWindow() ? nullptr : MakeRowColumns(*this);
-  if (right != nullptr) columns->addLayout(right, 1);
+  if (right != nullptr) {
+    columns->addSpacing(kColumnGap);  // also beside an empty column
+    columns->addLayout(right, 1);
+  }
   int leftRow = 0;
   int rightRow = 0;
   bool stretched = false;
@@ -139,8 +160,46 @@ void TemplateDialog::UpdateRows() {
     }
   }
   for (QWidget* button : buttons) button->setMinimumWidth(buttonWidth);
+  ShareListWidths();
   for (const PlacedRow& row : rows_) {
     if (row.grid != nullptr) row.grid->setRowMinimumHeight(row.gridRow, row.present ? pitch_ : 0);
+  }
+}
+
+// The lists of a column are as wide as the widest of them, so that their ends and the buttons
+// beside them are aligned.
+void TemplateDialog::ShareListWidths() {
+  const int least = FromDialogUnits(kShortestList, 0).width();
+  std::unordered_map<const QGridLayout*, std::vector<CComboBox*>> columns;
+  for (const PlacedRow& row : rows_) {
+    if (!row.present) continue;
+    for (QWidget* control : row.controls) {
+      if (auto* list = qobject_cast<CComboBox*>(control)) columns[row.grid].push_back(list);
+    }
+  }
+  for (const auto& [grid, lists] : columns) {
+    int width = least;
+    for (const CComboBox* list : lists) width = std::max(width, list->sizeHint().width());
+    for (CComboBox* list : lists) list->setMinimumWidth(width);
+  }
+}
+
+void TemplateDialog::ShareCaptionWidths(std::span<TemplateDialog* const> dialogs) {
+  for (const RowPlace place : {RowPlace::Left, RowPlace::Right}) {
+    int width = 0;
+    std::vector<QGridLayout*> columns;
+    for (TemplateDialog* dialog : dialogs) {
+      for (std::size_t i = 0; i < dialog->rows_.size(); ++i) {
+        const PlacedRow& row = dialog->rows_[i];
+        const RowTemplate& line = dialog->template_->rows[i];
+        const bool isRight = line.place == RowPlace::Right;
+        if (!row.present || row.grid == nullptr || isRight != (place == RowPlace::Right)) continue;
+        if (line.controls.front().kind != ControlKind::Label) continue;
+        width = std::max(width, row.controls.front()->sizeHint().width());
+        if (columns.empty() || columns.back() != row.grid) columns.push_back(row.grid);
+      }
+    }
+    for (QGridLayout* column : columns) column->setColumnMinimumWidth(RowColumn::Label, width);
   }
 }
 
@@ -210,6 +269,16 @@ QRect TemplateDialog::RowRect(int id) {
     for (const QWidget* control : row->controls) rect = rect.united(control->geometry());
   }
   return rect;
+}
+
+void TemplateDialog::Highlight(int id) {
+  QWidget* control = GetDlgItem(id);
+  if (control == nullptr || !control->isVisible()) return;
+  QWidget& parent = *control->parentWidget();
+  for (QWidget* area = &parent; area != nullptr; area = area->parentWidget()) {
+    if (auto* scroll = qobject_cast<FittedScroll*>(area)) scroll->ScrollIntoView(*control);
+  }
+  Flash(parent, RowRect(id));
 }
 
 void TemplateDialog::GreyCaption(int id) {

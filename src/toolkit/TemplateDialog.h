@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <unordered_map>
 #include <vector>
 
@@ -49,6 +50,13 @@ class ADVANCED_CONTROL_EXPORT TemplateDialog : public QDialog {
   /// Shows or removes the row that holds this control; the rows below close the gap.
   void ShowRow(int id, bool present);
 
+  /// Gives the captions of all these dialogs the same width, the left columns and the right columns
+  /// each, so that controls keep their place when the dialogs change. Absent rows do not count.
+  static void ShareCaptionWidths(std::span<TemplateDialog* const> dialogs);
+
+  /// Scrolls a control's row into view and highlights it for a few seconds.
+  void Highlight(int id);
+
   /// The size of the template or the size that the present contents need, whichever is larger.
   QSize DialogSize() const;
 
@@ -76,6 +84,8 @@ class ADVANCED_CONTROL_EXPORT TemplateDialog : public QDialog {
   /// Shows a sentence at the top of a dialog; the rows there must be absent.
   void ShowNotice(const QString& text);
 
+  void changeEvent(QEvent* event) override;
+
   /// Places a widget in the row of Close, at the opposite side.
   void PlaceBesideClose(QWidget& widget);
 
@@ -93,6 +103,8 @@ class ADVANCED_CONTROL_EXPORT TemplateDialog : public QDialog {
   [[noreturn]] void NoSuchControl(int id) const;
   PlacedRow* RowOf(int id);
   void CreateLayout();
+  void MakeDisabledTextsReadable();
+  void ShareListWidths();
   void FitToScreen();
 
   int templateNumber_;

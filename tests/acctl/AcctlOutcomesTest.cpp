@@ -113,16 +113,19 @@ TEST(AcctlSet, SendsNothingToAnyoneWhereAWordIsWrongForOne) {
 TEST(AcctlSet, StopsWhereItIsInterruptedAndDoesNotBeginWhatCannotBeReached) {
   const Simulator simulator({"--fault", "late 40"});
   const QString key = "image.position-h";
-  EXPECT_THAT(Acctl(simulator.At({"set", kRoom, key, "70000"})),
+  const auto patiently = [&simulator](const QStringList& arguments) {
+    return simulator.At(QStringList{"--timeout", "60"} + arguments);
+  };
+  EXPECT_THAT(Acctl(patiently({"set", kRoom, key, "70000"})),
               Ends(2, HasSubstr("'70000' is not one of: ")));
-  EXPECT_THAT(Acctl(simulator.At({"set", kRoom, "picture.tint", "3", key, "60000"})),
+  EXPECT_THAT(Acctl(patiently({"set", kRoom, "picture.tint", "3", key, "60000"})),
               Ends(2, HasSubstr("'60000' is more than 4096 steps from ")));
   QProcess watch;
-  watch.start(ACCTL_PROGRAM, simulator.At({"watch", kRoom, key, "--interval", "0.05"}));
+  watch.start(ACCTL_PROGRAM, patiently({"watch", kRoom, key, "--interval", "0.05"}));
   ASSERT_TRUE(watch.waitForReadyRead(30'000));
   const auto interrupt = [&](const QStringList& arguments) {
     QProcess process;
-    process.start(ACCTL_PROGRAM, simulator.At(arguments));
+    process.start(ACCTL_PROGRAM, patiently(arguments));  // for minutes, if nobody interrupts it
     // The first ones may still be of the run before.
     for (int step = 0; step < 4; ++step) {
       watch.readAllStandardOutput();
@@ -133,7 +136,7 @@ TEST(AcctlSet, StopsWhereItIsInterruptedAndDoesNotBeginWhatCannotBeReached) {
   };
   const auto isStopped = Ends(
       128 + SIGINT, AllOf(HasSubstr(": image.position-h: stopped at "), Not(HasSubstr("refused"))));
-  const Outcome set = interrupt({"--json", "set", kRoom, key, "+100"});
+  const Outcome set = interrupt({"--json", "set", kRoom, key, "+4000"});
   EXPECT_THAT(set, isStopped);
   EXPECT_EQ(Entry(set)["changes"][0]["outcome"], "stopped");
   const QTemporaryDir folder;
@@ -145,10 +148,10 @@ TEST(AcctlSet, StopsWhereItIsInterruptedAndDoesNotBeginWhatCannotBeReached) {
                     value + "}]}");
   };
   write("60000");
-  const Outcome far = Acctl(simulator.At({"--json", "apply", file, kRoom}));
+  const Outcome far = Acctl(patiently({"--json", "apply", file, kRoom}));
   EXPECT_THAT(far, Ends(1, HasSubstr(": not sent, it is more than 4096 steps away\n")));
   EXPECT_EQ(Entry(far)["notDone"][0]["key"], key);
-  write("120");
+  write("4000");
   const Outcome apply = interrupt({"--json", "apply", file, kRoom});
   EXPECT_THAT(apply, isStopped);
   EXPECT_EQ(Entry(apply)["notDone"][0]["key"], key);

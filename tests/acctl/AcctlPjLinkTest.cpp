@@ -4,8 +4,10 @@
 #include <algorithm>
 #include <csignal>
 #include <string>
+#include <thread>
 #include <tuple>
 #include <utility>
+#include <vector>
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -183,56 +185,65 @@ TEST(AcctlPjLink, TellsAcceptedAndNotYetSoBusyAndUnconfirmedApart) {
   constexpr const char* kTimeOut = "3";
   const AnyProfile any;
   const QStringList set{"--json", "set", "Any", "other.mute", "on"};
-  const auto outcome = [&](ScriptedPjLink::Script script, int exitCode, const char* error) {
-    ScriptedPjLink projector(std::move(script));
-    const Outcome run = any.Run(projector, set, kTimeOut);
-    EXPECT_THAT(run, Ends(exitCode, HasSubstr(error)));
-    const QJsonValue change = Entry(run)["changes"][0];
-    EXPECT_THAT(
-        std::string("acctl: Any: other.mute: ") + change["reason"].toString().toStdString() + '\n',
-        run.errors);
-    return change["outcome"].toString().toStdString();
-  };
-  EXPECT_EQ(outcome(Projector("1"), 0, "accepted, but not so yet, it is Off\n"), "pending");
-  EXPECT_EQ(outcome(ProjectorBut("AVMT 21", "ERR3"), 1, "refused, the projector is busy\n"),
-            "busy");
-  EXPECT_EQ(outcome(ProjectorBut("AVMT 21", "ERR2"), 1, "refused, it is Off\n"), "refused");
   bool isGone = false;
   const auto dies = [others = Projector("1"), &isGone](const std::string& request) {
     isGone = isGone || request == "AVMT 21";
     return isGone ? "hang up" : others(request);
   };
-  EXPECT_EQ(outcome(dies, 3, ", it may have been changed\n"), "unconfirmed");
   const auto fallsSilent = [](const std::string& request) {
     return request == "AVMT ?" ? "hang up" : "OK";
   };
-  EXPECT_EQ(outcome(fallsSilent, 3, "accepted, but no answer (connection lost)\n"), "unconfirmed");
   bool wasLost = false;
   const auto loses = [others = Projector("1"), &wasLost](const std::string& request) {
     if (request == "AVMT ?" && wasLost) return std::string("31");
     const bool isFirst = request == "AVMT 21" && !std::exchange(wasLost, true);
     return isFirst ? "hang up" : others(request);
   };
-  ScriptedPjLink losing(loses);
-  EXPECT_THAT(any.Run(losing, set, kTimeOut), Ends(0, ""));
-  EXPECT_EQ(losing.Count("AVMT 21"), 2);
-
-  ScriptedPjLink stepped(ProjectorBut("AVMT 21", "ERR2"));
-  EXPECT_EQ(any.Run(stepped, {"set", "Any", "other.mute", "+1"}).exitCode, 1);
-  EXPECT_EQ(stepped.Count("AVMT ?"), 2);  // where it begins, and what came of it
-
   const QTemporaryDir folder;
   const QString file = folder.filePath("mute.json");
   Write(file, R"({"format": "advanced-control-settings", "version": 1,
       "model": {"name": "M", "dialogType": 5, "modelCode": 30},
       "settings": [{"key": "other.mute", "value": 1}]})");
-  ScriptedPjLink late(Projector("1"));
-  const Outcome pending = any.Run(late, {"--json", "apply", file, "Any"}, kTimeOut);
-  EXPECT_THAT(pending, Ends(0, HasSubstr("accepted, but not so yet: other.mute\n")));
-  EXPECT_EQ(Entry(pending)["pending"][0]["key"], "other.mute");
-  ScriptedPjLink busy(ProjectorBut("AVMT 21", "ERR3"));
-  EXPECT_EQ(Entry(any.Run(busy, {"--json", "apply", file, "Any"}, kTimeOut))["busy"][0]["key"],
-            "other.mute");
+  const QStringList apply{"--json", "apply", file, "Any"};
+
+  std::vector<std::jthread> runs;  // most of them wait for the time-out
+  const auto expect = [&](ScriptedPjLink::Script script, int exitCode, const char* error,
+                          const char* outcome) {
+    runs.emplace_back([=, &any] {
+      ScriptedPjLink projector(script);
+      const Outcome run = any.Run(projector, set, kTimeOut);
+      EXPECT_THAT(run, Ends(exitCode, HasSubstr(error)));
+      const QJsonValue change = Entry(run)["changes"][0];
+      EXPECT_EQ(change["outcome"], outcome);
+      EXPECT_EQ("acctl: Any: other.mute: " + change["reason"].toString().toStdString() + '\n',
+                run.errors);
+    });
+  };
+  expect(Projector("1"), 0, "accepted, but not so yet, it is Off\n", "pending");
+  expect(ProjectorBut("AVMT 21", "ERR3"), 1, "refused, the projector is busy\n", "busy");
+  expect(ProjectorBut("AVMT 21", "ERR2"), 1, "refused, it is Off\n", "refused");
+  expect(dies, 3, ", it may have been changed\n", "unconfirmed");
+  expect(fallsSilent, 3, "accepted, but no answer (connection lost)\n", "unconfirmed");
+  runs.emplace_back([&] {
+    ScriptedPjLink losing(loses);
+    EXPECT_THAT(any.Run(losing, set, kTimeOut), Ends(0, ""));
+    EXPECT_EQ(losing.Count("AVMT 21"), 2);
+  });
+  runs.emplace_back([&] {
+    ScriptedPjLink stepped(ProjectorBut("AVMT 21", "ERR2"));
+    EXPECT_EQ(any.Run(stepped, {"set", "Any", "other.mute", "+1"}).exitCode, 1);
+    EXPECT_EQ(stepped.Count("AVMT ?"), 2);  // where it begins, and what came of it
+  });
+  runs.emplace_back([&] {
+    ScriptedPjLink late(Projector("1"));
+    const Outcome pending = any.Run(late, apply, kTimeOut);
+    EXPECT_THAT(pending, Ends(0, HasSubstr("accepted, but not so yet: other.mute\n")));
+    EXPECT_EQ(Entry(pending)["pending"][0]["key"], "other.mute");
+  });
+  runs.emplace_back([&] {
+    ScriptedPjLink busy(ProjectorBut("AVMT 21", "ERR3"));
+    EXPECT_EQ(Entry(any.Run(busy, apply, kTimeOut))["busy"][0]["key"], "other.mute");
+  });
 }
 
 TEST(AcctlPjLink, TellsInputsThatWereNotToldAsNotReadWithExitCode3) {

@@ -28,7 +28,7 @@ TEST(Acctl, AnswersWrongUseWithOneLineAndExitCode2) {
       {{"list", "--jobs", "0"}, "--jobs: '0' is not possible"},
       {{"list", "--json=1"}, "--json takes no value"},
       {{"list", "--timeout=0.001"}, "--timeout: '0.001'"},
-      {{"list", "--language", "1034"}, "--language: '1034'"},
+      {{"list", "--language", "1066"}, "--language: '1066'"},
       {{"list", "x"}, "use: acctl list"},
       {{"set", kRoom, "picture.tint"}, "use: acctl set P KEY VALUE"},
       {{"get", "Nobody"}, "there is no projector 'Nobody'"},

@@ -41,7 +41,7 @@ const WrongArguments kWrongArguments[] = {
     {{"--list", "--tour", "x"}, "Only one of"},
     {{"-platform=offscreen", "--list"}, "'=' in '-platform=offscreen'"},
     {{"--list", "-style"}, "--style needs a value"},
-    {{"--list", "--language", "1034"}, "'1034' is neither"},
+    {{"--list", "--language", "1066"}, "no texts in '1066'"},
     {{"--profiles", "/nowhere.json"}, "cannot read profiles /nowhere.json: "},
     {{"--profiles", "/dev/zero"}, "cannot read profiles /dev/zero: not a regular"},
     {{}, "no display"},

@@ -29,6 +29,7 @@
 #include "i18n/Catalog.h"
 #include "tests/app/Windows.h"
 #include "tests/support/Soon.h"
+#include "toolkit/FittedScroll.h"
 
 namespace {
 
@@ -48,8 +49,8 @@ TEST(MainWindow, HasOneDialogPerProjectorAndLogsTheirCommands) {
   const auto* log = window.findChild<CommandLog*>()->findChild<QTableView*>()->model();
   EXPECT_TRUE(Soon([log] { return log->rowCount() > 10; })) << "the log gathers entries";
   EXPECT_TRUE(LogText(*log, {0}).contains("\tB\tGet Power Status 0x6000\t1\tok\t"));
-  const QRect newest = window.findChild<CommandLog*>()->NewestRows();
-  EXPECT_FALSE(newest.isEmpty() || newest.intersects(window.Dialog(0)->frameGeometry()));
+  const CAdvanceDlg& dialog = *window.Dialog(0);
+  EXPECT_EQ(dialog.size(), FittedToScreen(dialog, dialog.sizeHint())) << "no smaller for the log";
 }
 
 TEST(MainWindow, QuestionsHoldUpNoDialogAndWorkWaitsForDialogs) {

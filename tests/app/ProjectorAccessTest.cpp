@@ -23,6 +23,13 @@ Peer::Behaviour Serving(BadProjector& projector) {
   };
 }
 
+FleetProfile ProfileOf(int dialogType, int modelCode) {
+  auto model = std::make_shared<ProfileModel>();
+  model->data.DialogType = dialogType;
+  model->data.ModelCode = modelCode;
+  return {.name = "Any", .model = std::move(model), .connection = {}};
+}
+
 class PjLinkAccess : public testing::Test {
  protected:
   PjLinkAccess() { qputenv("XDG_CACHE_HOME", folder_.path().toUtf8()); }
@@ -33,10 +40,7 @@ class PjLinkAccess : public testing::Test {
     projector_.requests.clear();
     const int before = projector_.connections;
     {
-      ProjectorProfile profile{.Name = "Any", .Model = {}, .Lacks = {}};
-      profile.Model.DialogType = 4;
-      profile.Model.ModelCode = 24;
-      ProjectorAccess access(profile,
+      ProjectorAccess access(ProfileOf(4, 24),
                              std::make_shared<PjLinkChannel>("127.0.0.1", peer_.port, "", kLimits),
                              kLimits.answer);
       use(access);
@@ -108,9 +112,8 @@ TEST_F(PjLinkAccess, ReportsInputsThatCouldNotBeRead) {
 
 TEST(PjLinkAccessToNobody, EndsAfterOneTimeOut) {
   constexpr PjLinkChannel::Limits kShort{.connect = std::chrono::milliseconds(100)};
-  ProjectorProfile profile{.Name = "Any", .Model = {}, .Lacks = {}};
   const auto channel = std::make_shared<PjLinkChannel>("127.0.0.1", 1, "", kShort);
-  ProjectorAccess access(profile, channel, kShort.connect);
+  ProjectorAccess access(ProfileOf(0, 0), channel, kShort.connect);
   access.AskForInputs();
   EXPECT_TRUE(access.Channel().IsGone() && access.LacksInputs());
 }

@@ -144,7 +144,7 @@ TEST_F(SimulatorTest, ADialogUsesTheInputsThatTheProjectorReports) {
   CModelInfo2 model = ReadProfileFile(Profiles()).projectors[1].Model;
   ASSERT_EQ(model.MySourceList.Size(), 0);
   model.ConnectionTexts1[0] = MakeNameSlot("pjlink://127.0.0.1");
-  EXPECT_EQ(Control("1 late 200"), "ok");
+  EXPECT_EQ(Control("1 late 60"), "ok");
   CAdvanceDlg dialog;
   dialog.CopyData(&model, 0);
   ASSERT_TRUE(dialog.Create());

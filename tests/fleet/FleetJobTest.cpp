@@ -1,7 +1,14 @@
 // Jobs on simulated projectors, which the thread of the test serves.
 
 #include <deque>
+#include <filesystem>
+#include <iterator>
 
+#include <QNetworkProxy>
+#include <QTcpServer>
+#include <QTcpSocket>
+
+#include "app/simulator/PseudoTerminal.h"
 #include "fleet/Fleet.h"
 #include "fleet/FleetJob.h"
 #include "fleet/FleetUndo.h"
@@ -110,6 +117,52 @@ TEST_F(FleetJobTest, TakesAndComparesSnapshotsAndSwitchesPower) {
   EXPECT_EQ(off[0].outcome, Done);
   EXPECT_NE(off[1].outcome, Done);
   EXPECT_EQ(fleet.State("0")->power, PowerState::Standby) << "learned from the job";
+}
+
+TEST_F(FleetJobTest, WorksOverPjLinkAndASerialPort) {
+  auto terminal = std::make_unique<PseudoTerminal>();
+  const SerialAddress line{.device = terminal->Path()};
+  served[1].wire.Serve(std::move(terminal));
+  const auto model = targets.front().model;
+  targets = {{"pjlink", served[0].PjLink("secret"), model},
+             {"line", line, model},
+             {"nowhere", AddressError{"no address"}, model}};
+  const auto taken = Do(TakeSnapshots());
+  EXPECT_EQ(Outcomes(taken), (std::vector{Done, Done, NoAnswer}));
+  const auto& told = taken[0].snapshot->settings;
+  EXPECT_EQ(std::ranges::count(told, "HDMI (31)", &SavedSetting::text), 1);
+  EXPECT_GT(taken[1].snapshot->settings.size(), 20);
+  EXPECT_EQ(Outcomes(Do(SwitchPower{false})), (std::vector{Done, Done, NoAnswer}));
+}
+
+TEST_F(FleetJobTest, WaitsForSixtyFourAtOnceOnOneThread) {
+  QTcpServer silent;
+  silent.setProxy(QNetworkProxy::NoProxy);  // looking for one takes a thread
+  silent.setMaxPendingConnections(100);
+  ASSERT_TRUE(silent.listen(QHostAddress::LocalHost));
+  targets.clear();
+  for (int i = 0; i < 70; ++i) {
+    targets.push_back(
+        {std::to_string(i), TcpAddress{.host = "127.0.0.1", .port = silent.serverPort()}});
+  }
+  const auto threads = [] {
+    return std::distance(std::filesystem::directory_iterator("/proc/self/task"), {});
+  };
+  const auto before = threads();
+  std::vector<std::unique_ptr<QTcpSocket>> connections;
+  const auto accept = [&] {
+    while (auto* const next = silent.nextPendingConnection()) connections.emplace_back(next);
+    return connections.size();
+  };
+  FleetJob job(nullptr, targets, SwitchPower{true}, texts, {.timeOut = 60s});
+  EXPECT_TRUE(Becomes([&] { return accept() == 64; }));
+  EXPECT_EQ(threads(), before + 1);
+  job.Cancel();
+  connections.clear();
+  EXPECT_TRUE(Becomes([&] { return job.HowFar().finished == targets.size(); }));
+  const auto outcomes = Outcomes(job.Results());
+  EXPECT_EQ(std::ranges::count(outcomes, NoAnswer), 64);
+  EXPECT_EQ(std::ranges::count(outcomes, Stopped), 6);
 }
 
 TEST_F(FleetJobTest, StopsAtOnceWhenItIsCancelled) {

@@ -9,8 +9,10 @@
 #include <QUdpSocket>
 #include <gtest/gtest.h>
 
+#include "app/simulator/PseudoTerminal.h"
 #include "device/CommandCode.h"
 #include "fleet/Fleet.h"
+#include "fleet/SerialLine.h"
 #include "tests/fleet/Served.h"
 
 namespace {
@@ -60,6 +62,33 @@ TEST_F(FleetTest, WatchesRealProjectors) {
   EXPECT_TRUE(Becomes([&] { return fleet.State("pjlink")->blank == true; }));
   EXPECT_EQ(fleet.TakeChanges().changes.size(), 2);
   EXPECT_EQ(wakes, before + 1) << "once for all that came since";
+}
+
+TEST_F(FleetTest, WatchesASerialPortAndLeavesItToOthers) {
+  auto terminal = std::make_unique<PseudoTerminal>();
+  const SerialAddress address{.device = terminal->Path(), .baud = 57'600};
+  served.wire.Serve(std::move(terminal));
+  fleet.Set({"line", address});
+  fleet.Set({"none", SerialAddress{.device = "/dev/no-such-port"}});
+  fleet.Set({"file", SerialAddress{.device = "/dev/null"}});
+  ASSERT_TRUE(Becomes([&] { return Reached("line") == Reachability::Answers; }));
+  EXPECT_TRUE(Becomes([&] { return Reached("none") == Reachability::Silent; }));
+  EXPECT_TRUE(Becomes([&] { return Reached("file") == Reachability::Silent; }));
+  fleet.Remove("none");
+  fleet.Remove("file");
+
+  auto problem = SerialLine::Problem::None;
+  int file = -1;
+  ASSERT_TRUE(Becomes([&] {
+    file = SerialLine::Open(address.device, address.baud, problem);
+    return file >= 0;
+  })) << "it is free between two visits";
+  const FleetTally before = fleet.Tally();
+  EXPECT_TRUE(Becomes([&] { return fleet.Tally().abandoned > before.abandoned + 1; }));
+  EXPECT_EQ(Reached("line"), Reachability::Answers);
+  SerialLine::Close(file);
+  EXPECT_TRUE(Becomes([&] { return fleet.Tally().answered > before.answered + 1; }));
+  EXPECT_EQ(fleet.Tally().unanswered, before.unanswered);
 }
 
 TEST_F(FleetTest, AsksWhoSendsNotices) {

@@ -153,6 +153,27 @@ TEST(FleetWatcher, TellsWhatTheStatusPageShowsOfAProjectorOnTheWire) {
   EXPECT_EQ(Words(fleet.State("greets")), "not understood");
 }
 
+TEST(FleetWatcher, LeavesASerialPortToOthers) {
+  SteppedFleet fleet;
+  for (const char* const id : {"a", "same line"}) {
+    fleet.watcher.Set({id, SerialAddress{.device = "line"}});
+  }
+  Projector& it = fleet.projectors["line"];
+  it.wire = std::make_shared<WireDevice>();
+  fleet.RunFor(20s);
+  EXPECT_EQ(Words(fleet.State("a")),
+            "answers, on, 3 , 000000, 1200 h, filter 80 h, not blank, not mute, not freeze");
+  EXPECT_EQ(it.mostConnections, 1);
+  EXPECT_EQ(it.open, 0);
+  it.isTaken = true;
+  const LiveState before = fleet.State("a");
+  const auto asked = it.connections.size();
+  fleet.RunFor(200s);
+  EXPECT_EQ(Words(fleet.State("a")), Words(before)) << "a port in use tells nothing about it";
+  EXPECT_GE(it.connections.size(), asked + 4) << "as often as usual";
+  EXPECT_EQ(fleet.watcher.Tally().unanswered, 0);
+}
+
 TEST(FleetWatcher, AsksNothingTwiceThatStaysAsItIs) {
   SteppedFleet fleet;
   Projector& it = fleet.Add("a");
@@ -263,16 +284,32 @@ TEST(FleetWatcher, MovesAlongWithAProjector) {
   for (const char* const id : {"one", "same"}) {
     fleet.watcher.Set({id, PjLinkAddress{.host = "twice", .password = {}}});
   }
-  fleet.watcher.Set({"serial", SerialAddress{.device = "/dev/ttyS0"}});
+  fleet.watcher.Set({"nowhere", AddressError{"no address"}});
   fleet.RunFor(100s);
   EXPECT_EQ(fleet.projectors["twice"].mostConnections, 1);
   EXPECT_EQ(fleet.State("one").power, PowerState::On);
   EXPECT_EQ(fleet.State("same").power, PowerState::On);
-  EXPECT_EQ(fleet.State("serial").reachability, Reachability::NeverAsked);
-  EXPECT_EQ(fleet.State("serial").connection, ConnectionState::WrongParameters);
+  EXPECT_EQ(fleet.State("nowhere").reachability, Reachability::NeverAsked);
+  EXPECT_EQ(fleet.State("nowhere").connection, ConnectionState::WrongParameters);
 }
 
-// They appear, fall silent, come back, refuse, change their address, and answer late.
+// What a visit tells of a projector that stays as it is.
+Reachability Expected(const Projector& it, const FleetPolicy& policy) {
+  if (!it.isThere || it.isRefusing || it.device.answers > policy.answer) {
+    return Reachability::Silent;
+  }
+  const bool isLocked = !it.wire && it.device.greeting != BadProjector().greeting;
+  return isLocked ? Reachability::WrongPassword : Reachability::Answers;
+}
+
+std::optional<PowerState> PowerOf(const Projector& it) {
+  if (!it.wire) return PjLink::Power(it.device.states.at("POWR"));
+  constexpr std::array kStates{PowerState::Standby, PowerState::On, PowerState::CoolingDown};
+  return kStates.at(static_cast<std::size_t>(it.wire->values.at(CommandCode::RunningState)));
+}
+
+// They appear, fall silent, come back, refuse, want another password, change their address, and
+// answer late or too late.
 TEST(FleetWatcher, TellsTheTruthOfFiveHundredAndIsPolite) {
   constexpr int kCount = 500;
   FleetPolicy policy;
@@ -280,38 +317,45 @@ TEST(FleetWatcher, TellsTheTruthOfFiveHundredAndIsPolite) {
   SteppedFleet fleet(policy);
   std::mt19937 random(7);
   const auto chance = [&](unsigned of) { return random() % of == 0; };
-  std::vector<std::string> ids;
+  std::map<std::string, std::string> hosts;  // by identity
   for (int i = 0; i < kCount; ++i) {
-    ids.push_back("p" + std::to_string(i));
-    Projector& it = fleet.Add(ids.back());
+    const std::string id = "p" + std::to_string(i);
+    hosts[id] = id;
+    Projector& it = i % 4 == 0 ? fleet.AddWire(id) : fleet.Add(id);
     it.isThere = !chance(5);
-    if (chance(10)) it.device.answers = 1900ms;
   }
   for (int round = 0; round < 10; ++round) {
-    for (const std::string& id : ids) {
-      if (chance(50)) {
-        const std::string host = id + "'";
+    for (auto& [id, host] : hosts) {
+      if (!chance(50)) continue;
+      Projector& before = fleet.projectors[host];
+      before.isThere = false;
+      host += '\'';
+      if (before.wire) {
+        fleet.projectors[host].wire = std::make_shared<WireDevice>();
+        fleet.watcher.Set({id, TcpAddress{.host = host}});
+      } else {
         fleet.projectors[host];
-        fleet.projectors[id].isThere = false;
         fleet.watcher.Set({id, PjLinkAddress{.host = host, .password = {}}});
       }
     }
     for (auto& [host, it] : fleet.projectors) {
       if (chance(4)) it.isThere = !it.isThere;
       it.isRefusing = chance(20);
+      it.device.answers = chance(10) ? 1900ms : chance(20) ? 2500ms : 10ms;
+      it.device.greeting = chance(20) ? "PJLINK ERRA\r" : BadProjector().greeting;
       it.device.states["POWR"] = std::string(1, static_cast<char>('0' + random() % 4));
+      if (it.wire) it.wire->values[CommandCode::RunningState] = static_cast<int>(random() % 3);
     }
     // Longer than the longest pause with its jitter, and all that wait in line.
     fleet.RunFor(round % 5 == 4 ? 900s : 61s);
     if (round % 5 != 4) continue;
-    for (const std::string& id : ids) {
-      const std::string host = fleet.projectors.contains(id + "'") ? id + "'" : id;
+    for (const auto& [id, host] : hosts) {
       const Projector& it = fleet.projectors[host];
       const LiveState state = fleet.State(id);
-      const bool answers = it.isThere && !it.isRefusing;
-      EXPECT_EQ(state.reachability, answers ? Reachability::Answers : Reachability::Silent) << id;
-      const auto power = answers ? PjLink::Power(it.device.states.at("POWR")) : std::nullopt;
-      EXPECT_EQ(state.power, power) << id;
+      const Reachability expected = Expected(it, policy);
+      EXPECT_EQ(state.reachability, expected) << host;
+      EXPECT_EQ(state.power, expected == Reachability::Answers ? PowerOf(it) : std::nullopt)
+          << host;
     }
   }
   for (const auto& [host, it] : fleet.projectors) {

@@ -45,7 +45,20 @@ TEST(SearchRange, IsReadAsPeopleWriteIt) {
       {"192.0.2.10-12, 192.0.2.11;192.0.2.1\n", "4 192.0.2.1 192.0.2.12"},
       {"0.0.0.0-255.255.255.255", "more than 65536 addresses"},
       {"10.0.0.0/15", "more than 65536 addresses"},
-      {"0.0.0.0/0", "\"0.0.0.0/0\" is neither an IPv4 address nor a range of them"},
+      {"2001:db8::7", "1 2001:db8::7 2001:db8::7"},
+      {"2001:db8::7/126, 192.0.2.7", "4 192.0.2.7 2001:db8::7"},
+      {"fe80::1%7/127", "2 fe80::%7 fe80::1%7"},
+      {"2001:db8::fffe-2001:db8::1:1", "4 2001:db8::fffe 2001:db8::1:1"},
+      {"2001:db8::10-1f", "16 2001:db8::10 2001:db8::1f"},
+      {"::ffff:ffff:ffff:ffff/112", "65535 ::ffff:ffff:ffff:1 ::ffff:ffff:ffff:ffff"},
+      {"2001:db8::/111", "more than 65536 addresses"},
+      {"2001:db8::/32", "more than 65536 addresses"},
+      {"::1-2001:db8::1", "\"::1-2001:db8::1\" is neither"},
+      {"2001:db8::2-1", "\"2001:db8::2-1\" is neither"},
+      {"::1-192.0.2.1", "\"::1-192.0.2.1\" is neither"},
+      {"2001:db8::/129", "\"2001:db8::/129\" is neither"},
+      {"2001:db8::1::", "\"2001:db8::1::\" is neither"},
+      {"0.0.0.0/0", "\"0.0.0.0/0\" is neither an IP address nor a range of them"},
       {"192.0.2.12-10", "\"192.0.2.12-10\" is neither"},
       {"192.0.2.256", "\"192.0.2.256\" is neither"},
       {"192.0.2", "\"192.0.2\" is neither"},
@@ -57,8 +70,8 @@ TEST(SearchRange, IsReadAsPeopleWriteIt) {
     std::string told = range.error.toStdString();
     if (told.empty()) {
       told = std::to_string(range.addresses.size());
-      for (const std::uint32_t end : {range.addresses.front(), range.addresses.back()}) {
-        told += ' ' + QHostAddress(end).toString().toStdString();
+      for (const QHostAddress& end : {range.addresses.front(), range.addresses.back()}) {
+        told += ' ' + end.toString().toStdString();
       }
     }
     EXPECT_THAT(told, HasSubstr(expected)) << text;
@@ -140,7 +153,7 @@ constexpr char kFile[] = R"({
     {"name": "By MAC", "like": "hall", "identity": "mac:00:00:5e:00:53:02",
      "connection": {"network": {"address": "192.0.2.2", "port": 4352}}},
     {"name": "By address", "like": "hall",
-     "connection": {"network": {"address": "192.0.2.3", "port": 4352}}},
+     "connection": {"network": {"address": "2001:db8:0::3", "port": 4352}}},
     {"name": "Hall", "like": "hall",
      "connection": {"serial": {"port": 1}}}
   ]
@@ -161,7 +174,7 @@ TEST(SearchProfiles, KnowProjectorsAgainByTheirIdentity) {
       kFile,
       {At("192.0.2.2", "A", "1"),                          // moved to where another one was
        At("192.0.2.9", "B", "7", "00:00:5e:00:53:02"),     // moved, known by its second identity
-       At("192.0.2.3", "C", "3"),                          // gets its identity
+       At("2001:db8::3", "C", "3"),                        // gets its identity
        At("192.0.2.4", "Hall", "4"),                       // new, with a name that is taken
        At("192.0.2.5", "", "0000"),                        // new, and tells nothing
        At("192.0.2.6", "D", "same", "00:00:5e:00:53:06"),  // of a maker that numbers nothing

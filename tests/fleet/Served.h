@@ -10,6 +10,7 @@
 #include <QHostAddress>
 #include <gtest/gtest.h>
 
+#include "device/CommandCode.h"
 #include "device/Connect.h"
 #include "simulator/FaultChannel.h"
 #include "simulator/PjLinkServer.h"
@@ -27,11 +28,15 @@ inline ModelData SimulatedModelData() {
 struct Served {
   std::shared_ptr<FaultChannel> device = std::make_shared<FaultChannel>(
       std::make_shared<SimulatedProjector>(DescribeModel(SimulatedModelData())));
-  PjLinkServer pjLink{device, {.password = "secret"}};
+  PjLinkServer pjLink{device,
+                      {.password = "secret", .served = {.inputs = {{"31", Input(), "HDMI"}}}}};
   WireServer wire{device};
   std::uint16_t wirePort = wire.Listen(QHostAddress::LocalHost, 0);
 
   Served() { EXPECT_TRUE(pjLink.Listen("127.0.0.1", 0)); }
+  std::int16_t Input() const {
+    return device->Execute({PjtOperation::Get, CommandCode::InputSource}).value;
+  }
   TcpAddress Wire() const { return {.host = "127.0.0.1", .port = wirePort}; }
   PjLinkAddress PjLink(const std::string& password) const {
     return {.host = "127.0.0.1",

@@ -38,6 +38,7 @@ class SteppedFleet final : public FleetNetwork, public FleetClock {
     BadProjector device{};
     bool isThere = true;                     ///< Otherwise nobody says anything.
     bool isRefusing = false;                 ///< The port is closed.
+    bool isTaken = false;                    ///< Another program has the serial port.
     std::vector<SessionTime> connections{};  ///< When each began.
     int mostConnections = 0;                 ///< At the same time.
     int open = 0;
@@ -90,6 +91,7 @@ class SteppedFleet final : public FleetNetwork, public FleetClock {
     if (!projector.isThere) return;
     Later(Milliseconds(1), peer, attempt, [this, peer, attempt, host] {
       Projector& met = projectors[host];
+      if (met.isTaken) return watcher.InUse(peer);
       if (met.isRefusing || !met.device.Connect(now_)) {
         return watcher.NotConnected(peer, ConnectionState::NotReachable);
       }
@@ -99,6 +101,10 @@ class SteppedFleet final : public FleetNetwork, public FleetClock {
       watcher.Connected(peer);
       if (!met.wire) Bytes(peer, attempt, met.device.greeting, Milliseconds(1));
     });
+  }
+
+  void OpenLine(Peer peer, const std::string& device, std::int32_t) override {
+    Connect(peer, device, 0);
   }
 
   void Send(Peer peer, std::string_view bytes) override {

@@ -10,6 +10,13 @@
 
 namespace {
 
+bool IsHighlighted(const CDialog& dialog, int control) {
+  const auto frames = dialog.findChildren<QWidget*>(QStringLiteral("flash"));
+  return std::ranges::any_of(frames, [&](const QWidget* frame) {
+    return frame->isVisible() && frame->geometry().contains(dialog.GetDlgItem(control)->geometry());
+  });
+}
+
 struct Finding : testing::Test {
   OpenDialog open{FullModel(5, 30), 0,
                   [](RecordingChannel& projector) { projector.Refuse("Get 0x2004"); }};
@@ -32,6 +39,7 @@ TEST_F(Finding, GoesToTheRowOfAnyTab) {
   EXPECT_FALSE(line.isVisible());
   EXPECT_EQ(tabs.currentIndex(), 1);
   EXPECT_EQ(open.Dialog().focusWidget(), open.Page().GetDlgItem(20136));
+  EXPECT_TRUE(IsHighlighted(open.Page(), 20136));
   Find("bright", {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return});
   EXPECT_EQ(tabs.tabText(tabs.currentIndex()), QStringLiteral("Screen"));
   EXPECT_EQ(open.Dialog().focusWidget()->accessibleName(), QStringLiteral("OSD Bright"));
@@ -43,12 +51,15 @@ TEST_F(Finding, GoesToTheRowOfAnyTab) {
   Find("contrast", {Qt::Key_Return});  // disabled: its tab is shown and gets the focus
   EXPECT_EQ(tabs.currentIndex(), 1);
   EXPECT_EQ(open.Dialog().focusWidget(), &tabs);
+  EXPECT_TRUE(IsHighlighted(open.Page(), 20138)) << "though it cannot have the focus";
   Find("gain g", {Qt::Key_Return});  // its button is disabled
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
   EXPECT_EQ(open.Dialog().focusWidget(), open.Page().GetDlgItem(20144)) << "the color temperatures";
   QTimer::singleShot(100, [] {
-    WhenModal("CServiceDlg",
-              [](CDialog& popUp) { EXPECT_TRUE(popUp.GetDlgItem(20378)->hasFocus()); });
+    WhenModal("CServiceDlg", [](CDialog& popUp) {
+      EXPECT_TRUE(popUp.GetDlgItem(20378)->hasFocus());
+      EXPECT_TRUE(IsHighlighted(popUp, 20378));
+    });
   });
   {
     // The pop-up opens only when the dialog has finished reading.

@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include "i18n/Catalog.h"
+#include "i18n/CatalogTexts.h"
 #include "i18n/SystemLanguage.h"
 #include "tests/i18n/ModuleBuilder.h"
 
@@ -152,6 +153,14 @@ TEST_F(CatalogTest, LoadsTheFirstFileOrNoneIfItIsDamagedAndSaysWhy) {
 }
 
 // Each call uses the present marker files, locale and current directory.
+TEST_F(CatalogTest, TheTextsOfAllModulesNameTheModuleThatIsMissing) {
+  const std::string here = ".";
+  EXPECT_EQ(CatalogTexts(std::span(&here, 1)).Problem(), "");
+  Touch("mcschn.dll");
+  EXPECT_EQ(CatalogTexts(std::span(&here, 1)).Problem(),
+            "./mcschn.dll is damaged or cannot be read; its texts are missing");
+}
+
 TEST_F(CatalogTest, EachCallUsesThePresentLanguage) {
   SetLocale("zh_CN");
   LoadTables({{1031, {{kFirst, {Unicode(u"in 1033\r\n")}}}},

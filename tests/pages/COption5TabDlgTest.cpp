@@ -63,6 +63,16 @@ TEST(Option5, MySourceAcceptsAnyResultOfAReadAndKeepsARefusedChoice) {
   EXPECT_EQ(driver.Selected(20374), 0);
 }
 
+TEST(Option5, AnOpenDialogTakesOtherSources) {
+  OptionPage open(49);
+  open.Projector().Answer("Get 0x3620", 3);
+  SourceList sources;
+  AddSource(sources, 0x50003, "Camera");
+  open.Dialog().ReplaceSources(sources);
+  EXPECT_EQ(open.Driver().Entries(20374), QStringList{"Camera"});
+  EXPECT_EQ(open.Driver().Selected(20374), 0) << "it is read again";
+}
+
 TEST(Option5, ServiceOpensForTheModelOnTheSameProjector) {
   OptionPage open(44);
   WhenModal("CServiceDlg", [&](CDialog& dialog) {

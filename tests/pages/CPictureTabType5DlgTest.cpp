@@ -1,6 +1,7 @@
 // The picture pages with custom pop-ups.
 
 #include <QTest>
+#include <QToolButton>
 #include <gtest/gtest.h>
 
 #include "pages/picture/CPictureTabType5Dlg.h"
@@ -10,7 +11,7 @@ namespace {
 
 using Strings = std::vector<std::string>;
 
-constexpr int kGamma = 20142, kColorTemp = 20144, kIris = 20293;
+constexpr int kGamma = 20142, kColorTemp = 20144, kIris = 20293, kContrast = 20138;
 constexpr int kCustomGamma = 20133, kCustomColorTemp = 20143;
 
 CModelInfo2 PictureModel(int dialogType = 5, int modelCode = 30) {
@@ -30,6 +31,46 @@ struct PictureTest : testing::Test {
   DialogDriver driver = open.Driver();
   RecordingChannel& projector = open.Projector();
 };
+
+TEST_F(PictureTest, TheButtonAfterANumberDoesWhatTheListOfResetsDoes) {
+  const auto visible = [&] {
+    std::vector<QToolButton*> buttons;
+    for (auto* button : open.Page().findChildren<QToolButton*>()) {
+      if (button->isVisible()) buttons.push_back(button);
+    }
+    return buttons;
+  };
+  const auto hover = [&](int control) {
+    QTest::mouseMove(&open.Page(), open.Page().GetDlgItem(control)->geometry().center());
+    return visible();
+  };
+  EXPECT_TRUE(visible().empty());
+  EXPECT_TRUE(hover(kGamma).empty()) << "there is no reset for it";
+  ASSERT_EQ(hover(kContrast).size(), 1U);
+  QToolButton* contrast = visible().front();
+  EXPECT_EQ(contrast->accessibleName(), QStringLiteral("Reset: Contrast"));
+  EXPECT_TRUE(hover(kIris).empty());
+  QWidget* plus = open.Page().GetDlgItem(20139);
+  plus->setFocus();
+  EXPECT_EQ(visible(), std::vector{contrast});
+  QTest::keyClick(plus, Qt::Key_Tab);
+  EXPECT_TRUE(contrast->hasFocus());
+  EXPECT_TRUE(contrast->isVisible());
+
+  driver.Choose(20157, 3);
+  for (const bool refused : {false, true}) {
+    if (refused) projector.Refuse("ExecContrastReset");
+    projector.Take();
+    QTest::mouseClick(contrast, Qt::LeftButton);
+    const Strings byButton = projector.Take();
+    EXPECT_EQ(byButton.front(), "ExecContrastReset");
+    EXPECT_EQ(driver.Selected(20157), 3) << "the list keeps its selection";
+    driver.Choose(20157, 1);
+    driver.Click(21070);
+    EXPECT_EQ(projector.Take(), byButton);
+    driver.Choose(20157, 3);
+  }
+}
 
 TEST_F(PictureTest, ButtonsOpenTheCustomPopUpsOfCustomisableEntries) {
   for (const int i : {0, 1, 2, 3}) {

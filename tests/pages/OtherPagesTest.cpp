@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/DialogDriver.h"
+#include "toolkit/StateLabel.h"
 
 namespace {
 
@@ -55,6 +56,32 @@ TEST(StatusPage, NamesSourcesInAnySlotAndShowsHoursUnsigned) {
     open.Page().InitDisp();
     EXPECT_EQ(open.Driver().Text(control), text);
   }
+}
+
+TEST(StatusPage, PowerErrorAndLampHaveAMark) {
+  using enum StateLabel::Mark;
+  OpenDialog open(MakeModel(5, 30));
+  const auto label = [&](int control) -> const StateLabel& {
+    return open.Driver().Item<StateLabel>(control);
+  };
+  EXPECT_FALSE(label(20014).Share()) << "the rated hours are not known";
+  open.Dialog().SetRatedLampHours(2000);
+  for (const auto& [key, value, control, mark] : {std::tuple{"Get 0x6000", 0, 20008, Idle},
+                                                  {"Get 0x6000", 1, 20008, Good},
+                                                  {"Get 0x6000", 2, 20008, Attention},
+                                                  {"Get 0x6020", 0, 20010, Good},
+                                                  {"Get 0x1090", 500, 20014, Good},
+                                                  {"Get 0x1090", 1900, 20014, Attention},
+                                                  {"Get 0x6020", 3, 20010, Bad},
+                                                  {"Get 0x6020", 3, 20014, Bad}}) {
+    open.Projector().Answer(key, value);
+    open.Page().InitDisp();
+    EXPECT_EQ(label(control).ShownMark(), mark) << key << ' ' << value;
+  }
+  EXPECT_EQ(label(20014).Share(), 0.95);
+  open.Projector().Refuse("Get 0x1090");
+  open.Page().InitDisp();
+  EXPECT_FALSE(label(20014).Share());
 }
 
 TEST(OtherPages, AProjectorThatStaysOnOrIsSilentHasRefusedToTurnOff) {

@@ -60,6 +60,35 @@ TEST(PopUps, ThePictureIsDescribedByTheCaptionAndValueOfEachRow) {
       QStringLiteral("Color Temp Gain R 5, Color Temp Gain G -128, ")));
 }
 
+TEST(GammaPopUp, APointOfTheCurveCanBeDraggedAndSendsWhatItsSliderSends) {
+  OpenPopUp open(PopUp::Gamma);
+  auto& curve = *open.popUp->findChild<CurveView*>();
+  const auto drag = [&](double toValue) {
+    const double place = 3.0 / 9;
+    const int now = open.driver.SliderAt(21025);
+    const auto at = [&](double value) {
+      return curve.PlaceOf({place, place + value / 48}).toPoint();
+    };
+    QTest::mousePress(&curve, Qt::LeftButton, {}, at(now));
+    QTest::mouseMove(&curve, at(toValue));
+    EXPECT_TRUE(open.Projector().Take().empty()) << "not before the end";
+    QTest::mouseRelease(&curve, Qt::LeftButton, {}, at(toValue));
+    return open.Projector().Take();
+  };
+  open.driver.Drag(21025, 1);
+  open.Projector().Take();
+  const Strings byCurve = drag(9);
+  EXPECT_EQ(open.driver.Text(20168), QStringLiteral("9"));
+  open.driver.Drag(21025, 1);
+  open.Projector().Take();
+  open.driver.Drag(21025, 9);
+  EXPECT_EQ(open.Projector().Take(), byCurve);
+  drag(100);
+  EXPECT_EQ(open.driver.SliderAt(21025), open.driver.Item<QSlider>(21025).maximum());
+  QTest::mouseClick(&curve, Qt::LeftButton, {}, curve.PlaceOf({0.5, 1.2}).toPoint());
+  EXPECT_TRUE(open.Projector().Take().empty()) << "no point is there";
+}
+
 TEST(GammaPopUp, WithoutResetButtonsIsNarrowerAndCloseStaysInside) {
   const OpenPopUp full(PopUp::Gamma), plain(PopUp::Gamma, 30, true);
   EXPECT_FALSE(plain.popUp->GetDlgItem(20336)->isVisible());

@@ -8,6 +8,7 @@
 
 #include "app/profiles/ProjectorAccess.h"
 #include "device/ModelDataIntake.h"
+#include "fleet/ProfileFile.h"
 #include "i18n/SystemLanguage.h"
 #include "settings/PageTables.h"
 #include "snapshots/SettingTexts.h"
@@ -75,21 +76,22 @@ void ExpectSame(const ModelSettings& settings, CDialog& dialog, const PageTable&
 }
 
 TEST(SettingsList, MatchesThePagesAndPopUpsOfEveryProjector) {
-  const auto profiles = ReadProfileFile(TEST_CATALOG_DIR "/projectors.json").projectors;
+  const auto profiles = ReadProfileList(TEST_CATALOG_DIR "/projectors.json").profiles;
   ASSERT_GT(profiles.size(), 50U);
-  for (const ProjectorProfile& profile : profiles) {
-    SCOPED_TRACE(profile.Name);
-    const ModelSettings settings(MakeModelData(profile.Model));
+  for (const FleetProfile& profile : profiles) {
+    SCOPED_TRACE(profile.name);
+    const CModelInfo2 info = ModelInfoOf(profile);
+    const ModelSettings settings(profile.model->data);
     CAdvanceDlg dialog;
-    dialog.CopyData(&profile.Model, 0);
+    dialog.CopyData(&info, 0);
     dialog.Projector().SetChannel(std::make_shared<SimulatedProjector>(SimulatedModelOf(profile)));
     ASSERT_TRUE(dialog.Create());
-    const auto tabs = TabsOf(profile.Model.DialogType, profile.Model.ModelCode);
+    const auto tabs = TabsOf(info.DialogType, info.ModelCode);
     for (std::size_t tab = 0; tab < tabs.size(); ++tab) {
       dialog.findChild<QTabBar*>()->setCurrentIndex(static_cast<int>(tab) + 1);
       SCOPED_TRACE(Texts().Tab({.key = "", .tab = tabs[tab].caption, .entries = {}}));
       const PageTable& table = TableOf(tabs[tab].page);
-      if (KeepsTemplate(table, profile.Model.ModelCode)) continue;
+      if (KeepsTemplate(table, info.ModelCode)) continue;
       ExpectSame(settings, *dialog.ShownPage(), table);
     }
     for (const auto& [kind, key, table] :

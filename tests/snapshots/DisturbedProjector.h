@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "app/profiles/ProjectorAccess.h"
+#include "fleet/ProfileFile.h"
 #include "i18n/SystemLanguage.h"
 #include "snapshots/Restoration.h"
 
@@ -18,13 +19,13 @@ inline const SettingTexts& Texts() {
   return texts;
 }
 
-inline const std::vector<ProjectorProfile>& Profiles() {
-  static const auto profiles = ReadProfileFile(TEST_CATALOG_DIR "/projectors.json").projectors;
+inline const std::vector<FleetProfile>& Profiles() {
+  static const auto profiles = ReadProfileList(TEST_CATALOG_DIR "/projectors.json").profiles;
   return profiles;
 }
 
-inline const ProjectorProfile& Profile(std::string_view name) {
-  return *std::ranges::find(Profiles(), name, &ProjectorProfile::Name);
+inline const FleetProfile& Profile(std::string_view name) {
+  return *std::ranges::find(Profiles(), name, &FleetProfile::name);
 }
 
 /// Settings that a projector keeps for each source, or for each source and mode.
@@ -95,7 +96,7 @@ struct Disturbed : ProjectorChannel {
   }
   bool Happens(int percent) { return static_cast<int>(random() % 100) < percent; }
 
-  explicit Disturbed(const ProjectorProfile& profile) : projector(SimulatedModelOf(profile)) {}
+  explicit Disturbed(const FleetProfile& profile) : projector(SimulatedModelOf(profile)) {}
   SimulatedProjector projector;
   std::vector<Memory> memories{};
   std::minstd_rand random{7};
@@ -122,10 +123,10 @@ inline Restoration Restore(
 
 /// A projector with a connection to it.
 struct ConnectedProjector {
-  explicit ConnectedProjector(const ProjectorProfile& profile)
+  explicit ConnectedProjector(const FleetProfile& profile)
       : channel(std::make_shared<Disturbed>(profile)),
-        settings(MakeModelData(profile.Model)),
-        name(profile.Name) {
+        settings(profile.model->data),
+        name(profile.name) {
     connection.SetChannel(channel);
   }
 

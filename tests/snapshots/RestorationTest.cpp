@@ -26,8 +26,8 @@ std::vector<Memory> Memories() {
 TEST(Restoration, RestoresEveryProjectorAndCanBeUndone) {
   ASSERT_GT(Profiles().size(), 50U);
   unsigned seed = 3;
-  for (const ProjectorProfile& profile : Profiles()) {
-    SCOPED_TRACE(profile.Name);
+  for (const FleetProfile& profile : Profiles()) {
+    SCOPED_TRACE(profile.name);
     ConnectedProjector target(profile);
     std::set<std::string> names;
     for (const ModelSetting& setting : target.settings.All()) {
@@ -120,8 +120,8 @@ void ExpectTruth(ConnectedProjector& target, const Restoration& restoration,
   }
 }
 
-void ExpectTruthFromAfar(const ProjectorProfile& profile, const Disturbed::Trouble& trouble) {
-  SCOPED_TRACE(profile.Name);
+void ExpectTruthFromAfar(const FleetProfile& profile, const Disturbed::Trouble& trouble) {
+  SCOPED_TRACE(profile.name);
   ConnectedProjector target(profile);
   target.ChangeAll(1);
   const Snapshot wanted = target.Take();
@@ -142,8 +142,8 @@ void ExpectTruthFromAfar(const ProjectorProfile& profile, const Disturbed::Troub
 
 // Whatever goes wrong, the outcomes must be true, and repeating the restoration must complete it.
 TEST(Restoration, OutcomesAreTrueWhenCommandsAreRefusedLostOrLate) {
-  std::vector<std::pair<const ProjectorProfile*, Disturbed::Trouble>> cases;
-  for (const ProjectorProfile& profile : Profiles()) cases.push_back({&profile, {1, 1}});
+  std::vector<std::pair<const FleetProfile*, Disturbed::Trouble>> cases;
+  for (const FleetProfile& profile : Profiles()) cases.push_back({&profile, {1, 1}});
   cases.push_back({&Profile("Projector 2-6"), {30, 10}});
   for (const int dead : {40, 100, 130}) cases.push_back({&Profile("Projector 5-54"), {0, 0, dead}});
   for (const int by : {0, 2, 30}) {
@@ -171,14 +171,14 @@ TEST(Restoration, OutcomesAreTrueForSettingsThatAChangeAffects) {
   constexpr int kChanges[] = {1, 2, 5, 20};
   std::size_t turn = 0;
   std::set<Outcome> outcomes;
-  for (const ProjectorProfile& profile : Profiles()) {
+  for (const FleetProfile& profile : Profiles()) {
     ConnectedProjector target(profile);
     target.channel->memories = Memories();
     target.ChangeAll(1);
     const Snapshot wanted = target.Take();
     for (const int by : kLateBy) {
       const int change = kChanges[turn++ % std::size(kChanges)];
-      SCOPED_TRACE(testing::Message() << profile.Name << " change " << change << " by " << by);
+      SCOPED_TRACE(testing::Message() << profile.name << " change " << change << " by " << by);
       target.ChangeAll(2);
       const Snapshot atFirst = target.Take();
       const auto memories = target.channel->memories;

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <gmock/gmock.h>
-#include <thread>
 
 #include <gtest/gtest.h>
 
@@ -11,11 +10,11 @@
 namespace {
 
 /// Treats each command as scripted: "a" answers, "l" loses the answer, "u" does not send the
-/// command; the last letter repeats. In capitals, "l" and "u" take a time-out.
+/// command; the last letter repeats. "L" takes a time-out.
 struct Unsteady : ProjectorChannel {
   PjtReply Execute(const PjtCommand&) override {
     const char now = does[std::min(count++, does.size() - 1)];
-    if (now == 'L') std::this_thread::sleep_for(timeOut);
+    if (now == 'L') clock += timeOut;
     return {.result = now == 'a', .answered = now == 'a', .unsent = now == 'u'};
   }
   void GiveUpAfter(std::chrono::milliseconds time) override { given = time; }
@@ -23,6 +22,7 @@ struct Unsteady : ProjectorChannel {
 
   std::string does;
   std::chrono::milliseconds timeOut{};
+  PatientTime::Point clock{};
   std::size_t count = 0;
   std::chrono::milliseconds given{};
   bool isAbandoned = false;
@@ -51,7 +51,9 @@ TEST(PatientChannel, RepeatsOnlySafeCommandsAndNeverCutsOneShort) {
     const auto inner = std::make_shared<Unsteady>();
     inner->does = (hasGreeted ? "" : "a") + std::string(one.does);
     inner->timeOut = kTimeOut;
-    PatientChannel patient(inner, kTimeOut, [hasGreeted] { return hasGreeted; });
+    PatientChannel patient(inner, kTimeOut, [hasGreeted] { return hasGreeted; },
+                           {[&inner] { return inner->clock; },
+                            [&inner](auto end) { inner->clock = std::max(inner->clock, end); }});
     if (!hasGreeted) patient.Execute(kRead);
     const std::size_t before = inner->count;
     const PjtReply reply = patient.Execute(one.command);
@@ -109,7 +111,14 @@ TEST(SettingTexts, ParsesTypedValues) {
       {"picture.brightness", {{"+3", 131, 128}, {"-3", 125, 128}, {"+1", {}, 159}}},
       {"picture.sharpness", {{"4", 128}}},
       {"picture.active-iris",
-       {{"theater", 16}, {"影院", 16}, {"17", 17}, {"1", {}}, {"+1", 16, 0}, {"+1", {}, 17}}},
+       {{"theater", 16},
+        {"影院", 16},
+        {"kino", 16},
+        {"シアター", 16},
+        {"17", 17},
+        {"1", {}},
+        {"+1", 16, 0},
+        {"+1", {}, 17}}},
       {"setup.mirror", {{"H&V Inverse", 3}}},
   };
   for (const auto& [key, cases] : kCases) {

@@ -1,3 +1,5 @@
+#include <QApplication>
+#include <QPen>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -5,6 +7,8 @@
 #include "tests/support/Soon.h"
 #include "toolkit/CComboBox.h"
 #include "toolkit/CSliderCtrl.h"
+#include "toolkit/Contrast.h"
+#include "toolkit/FocusRing.h"
 #include "toolkit/ResourceModule.h"
 
 namespace {
@@ -189,14 +193,81 @@ TEST_F(DialogTest, AnAbsentRowTakesNoSpace) {
   EXPECT_EQ(dialog.height(), height - pitch) << "a pop-up follows its rows";
 }
 
-TEST_F(DialogTest, ListsAreAsWideAsTheirColumnWhateverTheirEntries) {
-  dialog.Item<CComboBox>(13).clear();
-  dialog.Item<CComboBox>(13).Add(QStringLiteral("1"));
-  QTest::qWait(60);
-  const QRect list = dialog.GetDlgItem(9)->geometry();
-  EXPECT_EQ(list.width(), dialog.GetDlgItem(13)->width());
-  EXPECT_EQ(list.x(), dialog.GetDlgItem(3)->x());
-  EXPECT_EQ(list.right(), dialog.GetDlgItem(5)->geometry().right());
+TEST_F(DialogTest, ADragCatchesAtZeroFromWhereTheTrackIsFilled) {
+  auto& slider = dialog.Item<CSliderCtrl>(4);
+  slider.SetRange(-500, 500, 100);  // less than a pixel a position
+  const QPoint start = slider.HandleRect().center();
+  QTest::mousePress(&slider, Qt::LeftButton, {}, start);
+  const auto dragTo = [&](int apart) {
+    QTest::mouseMove(&slider, start + QPoint(apart, 0));
+    return slider.value();
+  };
+  EXPECT_GT(dragTo(20), 0);
+  EXPECT_EQ(dragTo(2), 0);
+  EXPECT_EQ(dragTo(-2), 0);
+  EXPECT_LT(dragTo(-20), 0);
+  QTest::mouseRelease(&slider, Qt::LeftButton, {}, start);
+  slider.setValue(0);
+  slider.setFocus();
+  QTest::keyClick(&slider, Qt::Key_Right);
+  EXPECT_EQ(slider.value(), 1) << "keys reach every position";
+
+  slider.setValue(-250);
+  const QImage image = slider.grab().toImage();
+  const auto at = [&](double share) {
+    return image.pixelColor(static_cast<int>(image.width() * share), image.height() / 2);
+  };
+  EXPECT_NE(at(0.4), at(0.1)) << "filled between the handle and 0";
+  EXPECT_EQ(at(0.9), at(0.1)) << "but not beyond 0";
+}
+
+TEST_F(DialogTest, ListsShareTheWidthOfTheLongestEntryUpToALimit) {
+  auto& longer = dialog.Item<CComboBox>(9);
+  const auto& shorter = dialog.Item<CComboBox>(13);
+  EXPECT_EQ(longer.width(), shorter.width());
+  EXPECT_EQ(longer.x(), dialog.GetDlgItem(3)->x());
+  EXPECT_LT(longer.width(), dialog.GetDlgItem(5)->geometry().right() - longer.x());
+  EXPECT_LT(dialog.GetDlgItem(10)->x() - longer.geometry().right(), 20)
+      << "its button is beside it";
+  for (const int letters : {20, 200}) {
+    longer.clear();
+    longer.Add(QString(letters, QLatin1Char('n')));
+    longer.UpdateWidth();
+    const int needed = longer.fontMetrics().horizontalAdvance(longer.itemText(0));
+    EXPECT_EQ(longer.sizeHint().width() > needed, letters == 20);
+    EXPECT_LT(longer.sizeHint().width(), 500);
+  }
+}
+
+TEST_F(DialogTest, DisabledTextsAndTheFocusCanBeSeenWithAnyPalette) {
+  const std::pair<QPalette::ColorRole, QPalette::ColorRole> roles[] = {
+      {QPalette::WindowText, QPalette::Window},
+      {QPalette::ButtonText, QPalette::Button},
+      {QPalette::Text, QPalette::Base}};
+  const QPalette before = QApplication::palette();
+  for (const QColor& color : {QColor(239, 239, 239), QColor(Qt::white), QColor(53, 53, 53)}) {
+    QApplication::setPalette(QPalette(color));
+    for (const auto& [text, background] : roles) {
+      const QPalette palette = dialog.GetDlgItem(10)->palette();
+      const QColor disabled = palette.color(QPalette::Disabled, text);
+      EXPECT_GE(ContrastOf(disabled, palette.color(QPalette::Disabled, background)), 3);
+      EXPECT_NE(disabled, palette.color(QPalette::Active, text)) << "still looks disabled";
+    }
+    const QColor ring = FocusRing::PenFor(dialog).color();
+    EXPECT_GE(ContrastOf(ring, dialog.palette().color(QPalette::Window)), 3);
+  }
+  QApplication::setPalette(before);
+}
+
+TEST_F(DialogTest, ARingFollowsTheFocusOfKeys) {
+  const auto ring = [&] { return dialog.findChild<FocusRing*>(); };
+  QTest::mouseClick(dialog.GetDlgItem(10), Qt::LeftButton);
+  EXPECT_FALSE(ring()->isVisible());
+  for (const int id : {9, 10}) {
+    while (!dialog.GetDlgItem(id)->hasFocus()) QTest::keyClick(&dialog, Qt::Key_Tab);
+    EXPECT_TRUE(ring()->isVisible());
+    EXPECT_TRUE(ring()->geometry().contains(dialog.GetDlgItem(id)->geometry()));
+  }
 }
 
 TEST_F(DialogTest, AModalDialogMayDieWhileItRuns) {

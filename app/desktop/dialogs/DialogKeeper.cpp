@@ -146,11 +146,7 @@ void DialogKeeper::Place(CAdvanceDlg& dialog) const {
   const auto others = std::min(dialogs_.size() - 1, kCascadeLength);
   const int apart = kCascade * static_cast<int>(others);
   QPoint place = inside(best.x() + (best.x() == right ? -apart : apart), best.y() + apart);
-  if (QRect(place, size).intersects(keepVisible.front())) {
-    place.setY(screen.top() + apart);
-    const int availableHeight = keepVisible.front().top() - place.y() - frame.height();
-    dialog.resize(dialog.width(), std::min(dialog.height(), availableHeight));
-  }
+  if (QRect(place, size).intersects(keepVisible.front())) place.setY(screen.top() + apart);
   dialog.move(place);
 }
 

@@ -23,9 +23,8 @@ class DialogKeeper : public QObject {
 
  public:
   /// Dialogs open beside the areas of the screen that `keepVisible` returns, the most important one
-  /// first, or cover as little of them as possible. To keep the first area visible, a dialog also
-  /// opens less high than it would. `settings` may be null: then nothing is remembered. Neither is
-  /// owned.
+  /// first, or cover as little of them as possible; no dialog is made smaller for that. `settings`
+  /// may be null: then nothing is remembered. Neither is owned.
   DialogKeeper(const QWidget& window, std::function<std::vector<QRect>()> keepVisible,
                QSettings* settings);
   ~DialogKeeper() override;

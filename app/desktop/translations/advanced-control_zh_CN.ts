@@ -48,12 +48,12 @@
         <translation>文件夹</translation>
     </message>
     <message>
-        <source>Show texts in the language &lt;id&gt;: 1033 English, 2052 Chinese.</source>
-        <translation>显示文字所用的语言 &lt;id&gt;：1033 为英文，2052 为中文。</translation>
+        <source>Show texts in the language &lt;name&gt;, such as de or zh-TW.</source>
+        <translation>显示文字所用的语言 &lt;名称&gt;，例如 de 或 zh-TW。</translation>
     </message>
     <message>
-        <source>--language: &apos;%1&apos; is neither 1033 nor 2052.</source>
-        <translation>--language：“%1”既不是 1033 也不是 2052。</translation>
+        <source>--language: there are no texts in &apos;%1&apos;.</source>
+        <translation>--language：没有“%1”的文字。</translation>
     </message>
     <message>
         <source>Unexpected argument &apos;%1&apos;.</source>
@@ -1143,8 +1143,8 @@
 <context>
     <name>Search</name>
     <message>
-        <source>&quot;%1&quot; is neither an IPv4 address nor a range of them</source>
-        <translation>“%1”既不是 IPv4 地址，也不是地址范围</translation>
+        <source>&quot;%1&quot; is neither an IP address nor a range of them</source>
+        <translation>“%1”既不是 IP 地址，也不是地址范围</translation>
     </message>
     <message>
         <source>more than %1 addresses</source>

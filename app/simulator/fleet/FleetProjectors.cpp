@@ -73,10 +73,10 @@ void AskedCounts::CountRequest(bool isPoll, bool isChange) {
   lastPoll = now;
 }
 
-FleetProjectors::FleetProjectors(std::vector<ProjectorProfile> profiles, const Options& options)
+FleetProjectors::FleetProjectors(std::vector<FleetProfile> profiles, const Options& options)
     : profiles_(std::move(profiles)) {
   std::vector<std::shared_ptr<const SimulatedProjector::Layout>> layouts;
-  for (const ProjectorProfile& profile : profiles_) {
+  for (const FleetProfile& profile : profiles_) {
     layouts.push_back(SimulatedProjector::MakeLayout(SimulatedModelOf(profile)));
   }
   projectors_.resize(options.count);
@@ -179,7 +179,7 @@ std::size_t FleetProjectors::ChangeOne(std::uint64_t chance) {
 
 ServedProjector FleetProjectors::Served(std::size_t projector) const {
   const FleetProjector& of = projectors_[projector];
-  const CModelInfo2& model = profiles_[of.model].Model;
+  const CModelInfo2& model = profiles_[of.model].model->info;
   ServedProjector served{.protocolClass = of.protocolClass,
                          .inputs = InputsOf(model.MySourceList),
                          .errors = of.errors,

@@ -9,8 +9,8 @@
 #include <unordered_map>
 #include <vector>
 
-#include "app/profiles/ProjectorProfile.h"
 #include "app/simulator/Faults.h"
+#include "fleet/FleetProfile.h"
 #include "simulator/PjLinkResponder.h"
 #include "simulator/SimulatedProjector.h"
 
@@ -62,12 +62,12 @@ class FleetProjectors {
   };
 
   /// Made after the profiles, one after the other and again from the first.
-  FleetProjectors(std::vector<ProjectorProfile> profiles, const Options& options);
+  FleetProjectors(std::vector<FleetProfile> profiles, const Options& options);
 
   std::size_t Count() const { return projectors_.size(); }
   FleetProjector& At(std::size_t projector) { return projectors_[projector]; }
   const FleetProjector& At(std::size_t projector) const { return projectors_[projector]; }
-  const ProjectorProfile& ProfileOf(std::size_t projector) const {
+  const FleetProfile& ProfileOf(std::size_t projector) const {
     return profiles_[projectors_[projector].model];
   }
 
@@ -94,7 +94,7 @@ class FleetProjectors {
   void Make(std::size_t index, const Options& options,
             std::shared_ptr<const SimulatedProjector::Layout> layout);
 
-  std::vector<ProjectorProfile> profiles_;
+  std::vector<FleetProfile> profiles_;
   std::vector<FleetProjector> projectors_;
   std::unordered_map<std::uint32_t, std::size_t> projectorOfAddress_;
 };

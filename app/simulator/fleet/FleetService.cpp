@@ -9,7 +9,7 @@
 #include <QJsonObject>
 #include <QRegularExpression>
 
-#include "app/profiles/ProfileFile.h"
+#include "fleet/ProfileFile.h"
 #include "fleet/WholeFile.h"
 
 namespace {
@@ -24,7 +24,7 @@ QString Unknown() {
 
 }  // namespace
 
-FleetService::FleetService(std::vector<ProjectorProfile> profiles, const FleetOptions& options)
+FleetService::FleetService(std::vector<FleetProfile> profiles, const FleetOptions& options)
     : options_(options),
       projectors_(std::move(profiles), options.projectors),
       server_(projectors_, options.server) {
@@ -66,7 +66,7 @@ QByteArray FleetService::Profiles(const QByteArray& original) const {
     const FleetProjector& projector = projectors_.At(i);
     const bool isPjLink =
         options_.link == FleetLink::PjLink || (options_.link == FleetLink::Mixed && i % 2 == 0);
-    QJsonObject entry = originals[QString::fromStdString(projectors_.ProfileOf(i).Name)].toObject();
+    QJsonObject entry = originals[QString::fromStdString(projectors_.ProfileOf(i).name)].toObject();
     QJsonObject network{{"address", QString::fromStdString(AddressText(projector.address))},
                         {"port", isPjLink ? server_.PjLinkPort() : server_.WirePort()}};
     if (isPjLink && !options_.server.password.empty()) {

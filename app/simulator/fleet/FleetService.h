@@ -29,7 +29,7 @@ struct FleetOptions {
 /// port.
 class FleetService final : public ControlledProjectors {
  public:
-  FleetService(std::vector<ProjectorProfile> profiles, const FleetOptions& options);
+  FleetService(std::vector<FleetProfile> profiles, const FleetOptions& options);
 
   /// What went wrong, one line; empty when the fleet is served.
   QString Start();

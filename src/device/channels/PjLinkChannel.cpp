@@ -133,19 +133,11 @@ PjLinkResult PjLinkChannel::Ask(const PjLinkQuestion& question) {
 }
 
 std::pair<std::vector<PjLinkInput>, bool> PjLinkChannel::AskForInputs() {
-  bool isComplete = true;
-  bool isLost = false;
-  while (const auto question = inputs_.Next()) {
-    const PjLinkResult result = Ask(*question);
-    if (inputs_.Take(result)) continue;
-    isComplete = false;
-    isLost = isLost || result.kind == PjLinkResult::Kind::Lost;
-    if (!inputs_.IsListKnown()) break;
-    inputs_.SkipName();
-  }
+  const auto asked =
+      inputs_.AskForAll([this](const PjLinkQuestion& question) { return Ask(question); });
   const auto known = inputs_.Known();
-  if (!isComplete) inputs_.Forget();
-  return {known, !isLost};
+  if (!asked.isComplete) inputs_.Forget();
+  return {known, !asked.isLost};
 }
 
 std::pair<std::optional<PjLinkInput>, bool> PjLinkChannel::AskForPresentInput() {

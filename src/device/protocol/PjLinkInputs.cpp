@@ -64,6 +64,20 @@ void PjLinkInputs::SkipName() {
   if (const auto code = NextCode()) Add(Named(*PjLink::InputNumber(*code), {}));
 }
 
+PjLinkInputs::Asked PjLinkInputs::AskForAll(
+    const std::function<PjLinkResult(const PjLinkQuestion&)>& ask) {
+  Asked asked;
+  while (const auto question = Next()) {
+    const PjLinkResult result = ask(*question);
+    if (Take(result)) continue;
+    asked.isComplete = false;
+    asked.isLost = asked.isLost || result.kind == PjLinkResult::Kind::Lost;
+    if (!IsListKnown()) break;
+    SkipName();
+  }
+  return asked;
+}
+
 void PjLinkInputs::Remember(std::vector<PjLinkInput> inputs) {
   codes_.clear();
   for (const PjLinkInput& input : inputs) {

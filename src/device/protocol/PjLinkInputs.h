@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -42,6 +43,13 @@ class PROJECTOR_COMMON_EXPORT PjLinkInputs {
   /// Skips the name that `Next` asks for, until `Forget`.
   void SkipName();
   bool IsListKnown() const { return !codes_.empty(); }
+  /// Asks everything that is not known; `ask` returns the result of a question. What it could not
+  /// learn is named by kind and number, or missing.
+  struct Asked {
+    bool isComplete = true;
+    bool isLost = false;  ///< An answer got lost.
+  };
+  Asked AskForAll(const std::function<PjLinkResult(const PjLinkQuestion&)>& ask);
 
   /// Sets the present input.
   void SetPresent(int number) { present_ = number; }

@@ -6,6 +6,7 @@
 
 #include "i18n/LocalizeControlTexts.h"
 #include "settings/CatalogNumbers.h"
+#include "toolkit/Icons.h"
 
 namespace AdvancedControl {
 
@@ -21,6 +22,7 @@ NumberQuestion::NumberQuestion(const QString& caption, Range range, int present,
                                    std::int64_t{range.maximum}));
   setOkButtonText(CatalogString(kCaptionCategory, Caption::Ok));
   setCancelButtonText(CatalogString(kCaptionCategory, Caption::Cancel));
+  RemoveForeignButtonIcons(*this);
 }
 
 void NumberQuestion::done(int result) {

@@ -142,7 +142,9 @@ void PageReader::FindSourceOfWanted() {
 
 void PageReader::ShowNotes() {
   for (const auto& row : rows_) {
-    if (row->memory.present) notes_.Show(*row);
+    // A state is never wanted, and its page may have given it a tool tip.
+    const bool isState = std::holds_alternative<StateRow>(row->Row());
+    if (row->memory.present && !isState) notes_.Show(*row);
   }
 }
 
@@ -171,7 +173,7 @@ void PageReader::Read(RowView& row, Source source, const CPjtInterface::Tally& b
     row.memory.isKnown = false;
     if (isRead) {
       Confirm(row, row.Position());
-    } else if (host_.Dialog().Context().Wanted() != nullptr) {
+    } else if (WantedPosition(row)) {
       notes_.Show(row);
     }
   } else {

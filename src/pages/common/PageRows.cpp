@@ -6,6 +6,7 @@
 #include <QAbstractButton>
 
 #include "resources/ArrowBitmap.h"
+#include "toolkit/CComboBox.h"
 
 namespace AdvancedControl {
 
@@ -94,7 +95,9 @@ void PageRows::RefillLists(const ModelData& before) {
   const ModelData& model = host_.Dialog().Model();
   for (const auto& row : views_) {
     const auto* list = std::get_if<ListRow>(&row->Row());
-    if (list != nullptr && list->entries.Of(before) != list->entries.Of(model)) row->Prepare();
+    if (list == nullptr || list->entries.Of(before) == list->entries.Of(model)) continue;
+    row->Prepare();
+    host_.Dialog().Item<CComboBox>(list->control).UpdateWidth();
   }
 }
 

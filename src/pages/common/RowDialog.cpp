@@ -18,8 +18,10 @@ RowDialog::RowDialog(int templateNumber, const PageTable& table, CWnd* owner)
       rows_(table, *this),
       reader_(table, *this, rows_.All()),
       menus_(*this, rows_.All()),
+      resets_(*this, rows_.All()),
       pending_(*this) {
   installEventFilter(&menus_);
+  installEventFilter(&resets_);
 }
 
 RowDialog::~RowDialog() = default;
@@ -52,11 +54,17 @@ const NotificationMap& RowDialog::Notifications() const {
   return notifications_.emplace(std::move(entries));
 }
 
-void RowDialog::DoDataExchange() { rows_.Bind(); }
+void RowDialog::DoDataExchange() {
+  resets_.Clear();
+  rows_.Bind();
+}
 
 void RowDialog::PrepareRows() { rows_.Prepare(); }
 
-void RowDialog::RefillLists(const ModelData& before) { rows_.RefillLists(before); }
+void RowDialog::RefillLists(const ModelData& before) {
+  rows_.RefillLists(before);
+  UpdateRows();
+}
 
 bool RowDialog::OnInitDialog() {
   LocalizeControlTexts(kCaptionCategory, *this);

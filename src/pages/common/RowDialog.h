@@ -10,6 +10,7 @@
 #include "pages/common/PageRows.h"
 #include "pages/common/PendingInput.h"
 #include "pages/common/RowMenus.h"
+#include "pages/common/RowResets.h"
 #include "pages/common/SettingsDialog.h"
 #include "pages/rows/RowView.h"
 
@@ -85,6 +86,7 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog, private RowHost
   mutable std::optional<NotificationMap> notifications_;
   PageReader reader_;
   RowMenus menus_;
+  RowResets resets_;
   PendingInput pending_;
   std::unique_ptr<Waiting> waiting_;  // only of a pop-up; a page uses that of its dialog
 };

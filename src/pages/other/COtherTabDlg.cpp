@@ -30,7 +30,7 @@ std::vector<Notification> COtherTabDlg::OwnNotifications() const {
   };
 }
 
-void COtherTabDlg::ShowState(std::optional<int> value) {
+void COtherTabDlg::ShowState(int, std::optional<int> value) {
   runningState_ = value;
   const bool ready = value && value != shared::kCoolingDown;
   const int reason = value ? ListText::NotWhileCoolingDown : ListText::ReadRefused;

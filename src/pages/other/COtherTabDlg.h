@@ -21,7 +21,7 @@ class COtherTabDlg : public CTabPage {
       : CTabPage(templateNumber, table, parent) {}
 
   std::vector<Notification> OwnNotifications() const override;
-  void ShowState(std::optional<int> value) override;
+  void ShowState(int control, std::optional<int> value) override;
 
  private:
   void ShowPowerRefused(int button);

@@ -16,4 +16,5 @@ class CGammaDlg final : public CustomDialog {
 
  protected:
   std::vector<CurveView::Line> LinesOf(const Values& values) const override;
+  int ValueAt(std::size_t row, double height) const override;
 };

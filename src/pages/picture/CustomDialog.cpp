@@ -1,5 +1,6 @@
 #include "pages/picture/CustomDialog.h"
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QLineEdit>
 
@@ -7,6 +8,9 @@
 #include "toolkit/WindowText.h"
 
 namespace AdvancedControl {
+
+// The focus changes once more while the controls are being deleted.
+CustomDialog::~CustomDialog() { delete picture_; }
 
 const ValueRow& CustomDialog::RowAt(std::size_t row) const {
   return std::get<ValueRow>(table_.rows[row + 1]);
@@ -33,7 +37,29 @@ void CustomDialog::AddPicture() {
     connect(&Item<QLineEdit>(ids.field), &QLineEdit::textChanged, this, &CustomDialog::Draw);
     connect(&Item<CSliderCtrl>(ids.slider), &CSliderCtrl::valueChanged, this, &CustomDialog::Draw);
   }
+  connect(picture_, &CurveView::Dragged, this, [this](int row, double height) {
+    const auto index = static_cast<std::size_t>(row);
+    auto& slider = Item<CSliderCtrl>(RowAt(index).ids.slider);
+    if (!IsBusy() && slider.isEnabled()) slider.DragTo(ValueAt(index, height));
+  });
+  connect(picture_, &CurveView::Dropped, this, [this](int row) {
+    auto& slider = Item<CSliderCtrl>(RowAt(static_cast<std::size_t>(row)).ids.slider);
+    if (slider.isEnabled()) slider.Drop();
+  });
+  connect(qApp, &QApplication::focusChanged, picture_, [this] {
+    if (isVisible()) Draw();
+  });
   Draw();
+}
+
+std::optional<int> CustomDialog::FocusedRow() const {
+  for (std::size_t row = 0; row < RowCount(); ++row) {
+    const ValueIds& ids = RowAt(row).ids;
+    for (const int id : {ids.minus, ids.slider, ids.plus, ids.field, RowAt(row).reset.button}) {
+      if (GetDlgItem(id)->hasFocus()) return static_cast<int>(row);
+    }
+  }
+  return {};
 }
 
 // A field shows the accepted value; while the user moves a slider, it already shows the new one.
@@ -55,7 +81,7 @@ void CustomDialog::Draw() {
   std::vector<CurveView::Line> lines = LinesOf(accepted);
   std::vector<CurveView::Line> ahead = LinesOf(tried);
   for (std::size_t i = 0; i < lines.size(); ++i) lines[i].tried = std::move(ahead[i].accepted);
-  picture_->Show(std::move(lines));
+  picture_->Show(std::move(lines), FocusedRow());
   picture_->setAccessibleDescription(description.join(QStringLiteral(", ")));
 }
 

@@ -2,6 +2,9 @@
 
 #include <utility>
 
+#include <QAbstractButton>
+#include <QScopedValueRollback>
+
 #include "i18n/LocalizeControlTexts.h"
 #include "pages/rows/RowOutcomes.h"
 #include "pages/rows/ValueRowView.h"
@@ -33,8 +36,27 @@ void ResetRowView::OnPageRead() {
   if (list_->currentIndex() < 0) list_->Select(0);
 }
 
+std::optional<int> ResetRowView::EntryFor(const RowView& row) const {
+  for (std::size_t i = 0; i < row_.entries.size(); ++i) {
+    const int of = row_.entries[i].of;
+    if (of != 0 && Host().RowOf(Dialog().GetDlgItem(of)) == &row) return static_cast<int>(i);
+  }
+  return {};
+}
+
+QString ResetRowView::TextFor(const RowView& row) const {
+  const auto entry = EntryFor(row);
+  if (!entry) return {};
+  return CatalogString(kListCategory, row_.entries[static_cast<std::size_t>(*entry)].text);
+}
+
+void ResetRowView::Reset(const RowView& row) {
+  const QScopedValueRollback instead(instead_, EntryFor(row));
+  if (instead_) Dialog().Item<QAbstractButton>(row_.control).click();
+}
+
 void ResetRowView::Act(int) {
-  const auto chosen = list_->SelectedValue();
+  const auto chosen = instead_ ? instead_ : list_->SelectedValue();
   const bool isListed = chosen && std::cmp_less(*chosen, row_.entries.size());
   const ResetEntry entry =
       isListed ? row_.entries[static_cast<std::size_t>(*chosen)] : ResetEntry{};
@@ -43,7 +65,7 @@ void ResetRowView::Act(int) {
     auto* of = dynamic_cast<ValueRowView*>(Host().RowOf(Dialog().GetDlgItem(entry.of)));
     if (of != nullptr) of->ShowAgain();
   }
-  const QString text = list_->currentText();
+  const QString text = CatalogString(kListCategory, entry.text);
   if (ReadsAgain(row_.rereads, done)) Host().ReadAgain();
   if (!isListed) return;
   if (!done) return TellRefusal(*this, text);

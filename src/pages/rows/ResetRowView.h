@@ -20,9 +20,18 @@ class ResetRowView final : public RowView {
   void OnPageRead() override;
   void Act(int control) override;
 
+  /// The text of the list's entry that resets a row; empty if there is none.
+  QString TextFor(const RowView& row) const;
+  /// Resets a row, which must have an entry, just as a user does with the list and the button. The
+  /// list keeps its selection.
+  void Reset(const RowView& row);
+
  private:
+  std::optional<int> EntryFor(const RowView& row) const;
+
   const ResetRow& row_;
   CComboBox* list_ = nullptr;
+  std::optional<int> instead_;  // the entry to use instead of the selected one
 };
 
 }  // namespace AdvancedControl

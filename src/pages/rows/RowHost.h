@@ -33,8 +33,8 @@ class RowHost {
   /// Called before a row that belongs to an input source is read or changed; `source` is nothing if
   /// the source is unknown.
   virtual void ShowSource(std::optional<int> /*source*/) {}
-  /// Called after a state of the projector was read; `value` is nothing if that failed.
-  virtual void ShowState(std::optional<int> /*value*/) {}
+  /// Called after the state that `control` shows was read; `value` is nothing if that failed.
+  virtual void ShowState(int /*control*/, std::optional<int> /*value*/) {}
 
   /// Called when what there is to say about a row has changed: its refusal, or its difference from
   /// the wanted value.

@@ -35,7 +35,7 @@ QString NameOf(const RowView& row) {
 }
 
 void Confirm(RowView& row, std::optional<int> position) {
-  const bool isNews = !row.memory.refusal.isEmpty() || WantedOf(row) != nullptr;
+  const bool isNews = !row.memory.refusal.isEmpty() || WantedPosition(row);
   row.memory.isKnown = true;
   row.memory.known = position;
   row.memory.refusal.clear();

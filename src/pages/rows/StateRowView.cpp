@@ -21,7 +21,7 @@ void StateRowView::Read(Source source) {
   const auto value = ReadSetting(source);
   if (Projector().IsAbandoned()) return;
   label_->setText(value ? TextOfState(*value) : QStringLiteral("-"));
-  Host().ShowState(value);
+  Host().ShowState(row_.control, value);
 }
 
 QString StateRowView::TextOfState(int value) const {

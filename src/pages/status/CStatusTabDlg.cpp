@@ -7,11 +7,27 @@
 #include "resources/AdvancedControlResources.h"
 #include "settings/ControlId.h"
 #include "settings/PageTables.h"
+#include "settings/SharedRows.h"
 #include "toolkit/CComboBox.h"
+#include "toolkit/StateLabel.h"
 
 namespace {
 
 constexpr std::chrono::seconds kPause{5};
+
+constexpr int kPower = 20008;
+constexpr int kError = 20010;
+constexpr int kLampTime = 20014;
+
+constexpr int kNoError = 0;
+constexpr int kLampError = 3;
+constexpr int kLampTimeError = 6;
+constexpr double kNearlyDue = 0.9;
+
+StateLabel::Mark PowerMark(int value) {
+  if (value == shared::kRunning) return StateLabel::Mark::Good;
+  return value == shared::kCoolingDown ? StateLabel::Mark::Attention : StateLabel::Mark::Idle;
+}
 
 }  // namespace
 
@@ -25,6 +41,12 @@ CStatusTabDlg::CStatusTabDlg(CWnd* parent) : CTabPage(TemplateId::Status, kStatu
 bool CStatusTabDlg::OnInitDialog() {
   CTabPage::OnInitDialog();
   keepsUpToDate_.setText(ListString(ListText::KeepUpToDate));
+  for (const RowTemplate& row : Template()->rows) {
+    for (const ControlTemplate& control : row.controls) {
+      if (control.kind != ControlKind::Text) continue;
+      Item<StateLabel>(control.id).SetMark(StateLabel::Mark::None);  // aligns the texts
+    }
+  }
   Item<CComboBox>(ControlId::Status::Reset).Select(0);
   return true;
 }
@@ -37,4 +59,35 @@ void CStatusTabDlg::ReadIfQuiet() {
   next_.stop();
   ReadAgain();
   if (keepsUpToDate_.isChecked()) next_.start(kPause);
+}
+
+void CStatusTabDlg::ShowState(int control, std::optional<int> value) {
+  using enum StateLabel::Mark;
+  if (control == kPower) {
+    Item<StateLabel>(control).SetMark(value ? PowerMark(*value) : None);
+  } else if (control == kError) {
+    error_ = value;
+    Item<StateLabel>(control).SetMark(!value ? None : *value == kNoError ? Good : Bad);
+  } else if (control == kLampTime) {
+    ShowLampTime(value);
+  }
+}
+
+// The error status is read before the lamp time.
+void CStatusTabDlg::ShowLampTime(std::optional<int> hours) {
+  using enum StateLabel::Mark;
+  auto& label = Item<StateLabel>(kLampTime);
+  const bool isRated = hours && ratedLampHours_ > 0;
+  const double share = isRated ? static_cast<double>(*hours) / ratedLampHours_ : 0;
+  label.SetShare(isRated ? std::optional(share) : std::nullopt);
+  const auto text = [](int number) {
+    return CatalogString(kListCategory, ListText::Hours, std::int64_t{number});
+  };
+  label.setToolTip(isRated ? text(*hours) + QStringLiteral(" / ") + text(ratedLampHours_)
+                           : QString());
+  const bool isDue = error_ == kLampTimeError || share >= 1;
+  label.SetMark(error_ == kLampError           ? Bad
+                : isDue || share >= kNearlyDue ? Attention
+                : isRated                      ? Good
+                                               : None);
 }

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <chrono>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include <QTimer>
+
+#include "app/bridge/BridgeFleet.h"
+#include "app/bridge/BrokerLink.h"
+#include "app/bridge/CommandDesk.h"
+#include "app/bridge/CommandRunner.h"
+#include "app/bridge/Discovery.h"
+#include "app/bridge/MetricsListener.h"
+#include "app/bridge/ModelBook.h"
+#include "app/bridge/Options.h"
+
+/// The whole bridge: what the fleet tells goes to the metrics and to the broker, and commands go to
+/// the fleet. Lives on the main thread.
+class Bridge {
+ public:
+  /// `texts` must outlive it.
+  Bridge(const Options& options, std::vector<FleetProfile> profiles, const SettingTexts& texts);
+
+  /// One line that says why it cannot work; empty when all is well.
+  QString Start();
+  /// The switch that a signal turns.
+  void SwitchCommands(bool on);
+
+ private:
+  void StartBroker();
+  BrokerMessage MessageOf(Publisher::Kind kind, std::size_t projector);
+  void Take(const BrokerMessage& message);
+  void FinishCommand(std::size_t projector, const Command& command, const WorkResult& result);
+  MetricsListener::Answer AnswerRequest(const HttpRequest& request);
+  QByteArray Probe(std::size_t projector) const;
+  const QByteArray& AllMetrics();
+  BridgeCounts Counts() const;
+  void Tick();
+  void Observe();
+  void WriteTextFile();
+
+  const Options options_;
+  const Topics topics_;
+  const SettingTexts& texts_;
+  ModelBook models_;
+  const Discovery discovery_;
+  BridgeFleet fleet_;
+  std::unique_ptr<BrokerLink> link_;  ///< Null without a broker.
+  CommandDesk desk_;
+  CommandRunner runner_;
+  MetricsListener listener_;
+  QByteArray rendered_;  ///< The last metrics, for clients that come together.
+  std::chrono::steady_clock::time_point renderedAt_{};
+  QTimer tick_;
+  QTimer observing_;
+  QTimer writing_;
+  bool failedToWrite_ = false;
+};

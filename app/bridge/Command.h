@@ -1,0 +1,41 @@
+#pragma once
+
+#include <string>
+
+#include <QByteArray>
+#include <QJsonValue>
+#include <QString>
+
+#include "app/bridge/KeyRules.h"
+#include "fleet/FleetWork.h"
+#include "snapshots/SettingTexts.h"
+
+/// A change that somebody asks for.
+struct Command {
+  std::string key{};
+  std::string value{};  ///< As a person types it; see `SettingTexts::Parse`.
+  QJsonValue tag{};     ///< What the sender calls the command; comes back with the answer.
+};
+
+struct ParsedCommand {
+  Command command{};
+  QString error{};  ///< One line; empty when all is well.
+};
+
+inline constexpr qsizetype kLongestCommand = 4096;  ///< Bytes.
+
+/// Reads a command: with a key the payload is the value; without one it is JSON with the members
+/// "key", "value" and, if wanted, "id". The payload may be anything.
+ParsedCommand ParseCommand(const QByteArray& key, const QByteArray& payload);
+
+/// Says what is wrong with a command for a projector with these settings, without asking the
+/// projector: one line; empty when all is well.
+QString CheckCommand(const Command& command, const ModelSettings& settings,
+                     const SettingTexts& texts, const KeyRules& rules);
+
+/// What a job does for a command without an error.
+FleetWork WorkOf(const Command& command);
+
+/// What became of a command, and why: JSON.
+QByteArray AnswerMessage(const Command& command, const std::string& outcome,
+                         const std::string& reason);

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <deque>
+#include <functional>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "app/bridge/Broker.h"
+
+/// Decides what is sent to the broker, and when. States and discovery messages of projectors are
+/// made when their turn comes, so that only the latest is sent, and nothing that the broker has
+/// already. Answers go first, then states. While there is no connection everything waits. Few
+/// messages are under way at a time, so that a slow broker does not fill the memory.
+class Publisher {
+ public:
+  static constexpr std::size_t kUnderWay = 200;
+  static constexpr std::size_t kMostAnswers = 1000;  ///< That wait; then the oldest is dropped.
+
+  enum class Kind : std::uint8_t { State, Discovery };
+  static constexpr std::size_t kKinds = 2;
+
+  /// The message of a projector; one without a topic is not sent.
+  using Make = std::function<BrokerMessage(Kind kind, std::size_t projector)>;
+  /// As `Broker::Publish`.
+  using Send = std::function<std::optional<int>(const BrokerMessage& message)>;
+
+  Publisher(std::size_t projectors, Make make, Send send);
+
+  /// A projector's message may be another now.
+  void Renew(Kind kind, std::size_t projector);
+  void RenewAll(Kind kind);
+  /// The broker, or who listens there, has lost what was sent.
+  void Forget(Kind kind);
+  void Answer(BrokerMessage message);
+
+  /// Begins to send, with the message that came last; until then everything waits.
+  void Start();
+  void Stop() { isOpen_ = false; }
+  /// Another client sends from now on: what is under way is not known to arrive.
+  void Restart();
+  /// The broker has a message.
+  void Sent(int number);
+
+  std::size_t UnderWay() const { return underWay_.size(); }
+  bool IsIdle() const { return underWay_.empty() && answers_.empty() && !HasDue(); }
+  /// How many messages were handed over, by kind.
+  const std::map<std::string, std::uint64_t>& Counts() const { return counts_; }
+
+ private:
+  struct Queue {
+    std::deque<std::size_t> due{};
+    std::vector<bool> isDue{};
+    std::vector<std::optional<std::uint64_t>> sent{};  ///< Hashes of what the broker has.
+  };
+
+  bool HasDue() const;
+  Queue& QueueOf(Kind kind) { return queues_.at(static_cast<std::size_t>(kind)); }
+  void Pump();
+  bool SendNext(Kind kind);
+  bool SendMessage(const BrokerMessage& message, const char* kind);
+
+  const Make make_;
+  const Send send_;
+  bool isOpen_ = false;
+  std::array<Queue, kKinds> queues_{};
+  std::deque<BrokerMessage> answers_{};
+  std::set<int> underWay_{};
+  std::map<std::string, std::uint64_t> counts_{};
+};

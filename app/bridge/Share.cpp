@@ -1,0 +1,51 @@
+#include "app/bridge/Share.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdint>
+
+#include "app/bridge/Topics.h"
+
+namespace {
+
+constexpr int kMostShares = 1000;
+
+std::optional<int> Number(std::string_view text) {
+  int number = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  const bool isNumber = error == std::errc() && end == text.data() + text.size();
+  return isNumber ? std::optional(number) : std::nullopt;
+}
+
+}  // namespace
+
+bool Share::Has(const FleetProfile& profile) const {
+  const auto isWanted = [&](const std::string& tag) {
+    return std::ranges::find(profile.tags, tag) != profile.tags.end();
+  };
+  if (!tags.empty() && std::ranges::none_of(tags, isWanted)) return false;
+  // The share with the highest hash has the projector, so a further share takes a little from each.
+  const std::string id = FleetIdOf(profile) + '/';
+  int best = 1;
+  std::uint64_t highest = 0;
+  for (int i = 1; i <= count; ++i) {
+    const std::uint64_t hash = StableHash(id + std::to_string(i));
+    if (hash > highest) highest = hash, best = i;
+  }
+  return best == number;
+}
+
+QByteArray Share::Name() const {
+  QByteArray name = QByteArray::number(number) + "-of-" + QByteArray::number(count);
+  for (const std::string& tag : tags) name += '-' + TopicLevel(tag);
+  return name;
+}
+
+std::optional<Share> ParseShare(const std::string& text) {
+  const auto slash = text.find('/');
+  if (slash == std::string::npos) return {};
+  const auto number = Number(std::string_view(text).substr(0, slash));
+  const auto count = Number(std::string_view(text).substr(slash + 1));
+  if (!number || !count || *number < 1 || *number > *count || *count > kMostShares) return {};
+  return Share{.number = *number, .count = *count};
+}

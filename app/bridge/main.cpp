@@ -1,0 +1,92 @@
+#include <csignal>
+#include <cstdio>
+#include <exception>
+#include <new>
+#include <sys/resource.h>
+#include <sys/signalfd.h>
+#include <unistd.h>
+
+#include <QCoreApplication>
+#include <QSocketNotifier>
+
+#include "app/bridge/Bridge.h"
+#include "app/bridge/Log.h"
+#include "app/bridge/Options.h"
+#include "app/profiles/OutOfMemory.h"
+#include "fleet/ProfileFile.h"
+#include "i18n/Catalog.h"
+
+namespace {
+
+constexpr int kWrongUse = 2;
+
+int Fail(const QString& message) {
+  Log(message);
+  return kWrongUse;
+}
+
+/// A file descriptor that reports the signals. To be called before any thread starts.
+int SignalFile() {
+  std::signal(SIGPIPE, SIG_IGN);
+  sigset_t signals;
+  sigemptyset(&signals);
+  for (const int signal : {SIGTERM, SIGINT, SIGHUP, SIGUSR1, SIGUSR2}) sigaddset(&signals, signal);
+  pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+  return signalfd(-1, &signals, SFD_CLOEXEC | SFD_NONBLOCK);
+}
+
+/// The fleet uses half the files that the process may open.
+void RaiseDescriptorLimit() {
+  rlimit limit{};
+  if (getrlimit(RLIMIT_NOFILE, &limit) != 0) return;
+  limit.rlim_cur = limit.rlim_max;
+  setrlimit(RLIMIT_NOFILE, &limit);
+}
+
+void TakeSignals(int file, Bridge& bridge) {
+  signalfd_siginfo signal{};
+  while (read(file, &signal, sizeof signal) == sizeof signal) {
+    if (signal.ssi_signo == SIGUSR1) {
+      bridge.SwitchCommands(false);
+    } else if (signal.ssi_signo == SIGUSR2) {
+      bridge.SwitchCommands(true);
+    } else {
+      QCoreApplication::quit();
+    }
+  }
+}
+
+int Run(const Options& options, int signals) {
+  ProfileList profiles = ReadProfileList(options.profiles);
+  if (!profiles.error.isEmpty()) return Fail(profiles.error);
+  RaiseDescriptorLimit();
+  const SettingTexts texts(CatalogFolders(), options.language);
+  Bridge bridge(options, std::move(profiles.profiles), texts);
+  profiles = {};
+  if (const QString error = bridge.Start(); !error.isEmpty()) return Fail(error);
+  const QSocketNotifier signalled(signals, QSocketNotifier::Read);
+  QObject::connect(&signalled, &QSocketNotifier::activated, qApp,
+                   [&bridge, signals] { TakeSignals(signals, bridge); });
+  return QCoreApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  EndWhenOutOfMemory("advanced-control-bridge");
+  const int signals = SignalFile();
+  const QCoreApplication application(argc, argv);
+  const Options options = ParseOptions(QCoreApplication::arguments());
+  if (!options.error.isEmpty()) return Fail(options.error);
+  if (!options.help.isEmpty()) {
+    std::fputs(qUtf8Printable(options.help), stdout);
+    return 0;
+  }
+  try {
+    return Run(options, signals);
+  } catch (const std::bad_alloc&) {
+    EndOutOfMemory();
+  } catch (const std::exception& error) {
+    return Fail(QString::fromLocal8Bit(error.what()));
+  }
+}

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "Namespace.h"
+#include "device/protocol/SessionStep.h"
+#include "fleet/Fiber.h"
+#include "fleet/SocketNetwork.h"
+
+namespace AdvancedControl {
+
+class JobChannel;
+
+/// Works on several projectors at a time on one thread. Each work is a fiber, and waits for its
+/// projector in a `JobChannel`, while the others go on.
+class JobLoop final : private FleetNetwork::Listener {
+ public:
+  using Peer = FleetNetwork::Peer;
+
+  /// Calls `work` with the numbers from 0 up to `count`, all at the same time, and returns when all
+  /// have returned. `work` must not throw.
+  void Run(Peer count, const std::function<void(Peer)>& work);
+
+  // For channels, in a work:
+
+  /// The channel whose events these are; null for none.
+  void SetChannel(Peer peer, JobChannel* channel) { works_[peer].channel = channel; }
+  FleetNetwork& Network() { return network_; }
+  /// Waits until something happens at the work's connection, or until then, at least for one look
+  /// at the network.
+  void Wait(Peer peer, SessionTime until);
+
+ private:
+  struct Work {
+    std::unique_ptr<Fiber> fiber;
+    JobChannel* channel = nullptr;
+    SessionTime until{};  ///< Waits until then.
+    bool goesOn = true;   ///< As something has happened.
+  };
+
+  void Connected(Peer peer) override;
+  void NotConnected(Peer peer, ConnectionState problem) override;
+  void InUse(Peer peer) override { NotConnected(peer, ConnectionState::NotReachable); }
+  void Received(Peer peer, std::string_view bytes) override;
+  void Closed(Peer peer) override;
+  void Noticed(const std::string&) override {}
+  /// Tells a work's channel what happened.
+  void Tell(Peer peer, const auto& what);
+  /// Continues each work that has waited long enough. The time at which the next one has.
+  SessionTime Continue();
+
+  SocketNetwork network_;
+  std::vector<Work> works_;
+};
+
+}  // namespace AdvancedControl

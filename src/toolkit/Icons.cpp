@@ -1,0 +1,145 @@
+#include "toolkit/Icons.h"
+
+#include <algorithm>
+
+#include <QDialogButtonBox>
+#include <QGuiApplication>
+#include <QIconEngine>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPalette>
+#include <QPushButton>
+
+#include "toolkit/Contrast.h"
+
+namespace AdvancedControl {
+
+namespace {
+
+struct Design {
+  const char* theme;  ///< Name in the theme; empty if ours is always used.
+  QColor color;       ///< Of the disc behind a sign; invalid for a line drawing.
+  char sign;          ///< On the disc.
+};
+
+Design DesignOf(IconName name) {
+  switch (name) {
+    case IconName::Refresh:
+      return {"view-refresh", {}, 0};
+    case IconName::Information:
+      return {"dialog-information", {0x2f, 0x6f, 0xc4}, 'i'};
+    case IconName::Question:
+      return {"dialog-question", {0x2f, 0x6f, 0xc4}, '?'};
+    case IconName::Warning:
+      return {"dialog-warning", {0xb8, 0x75, 0x00}, '!'};
+    case IconName::Stop:
+      return {"dialog-error", {0xc4, 0x2b, 0x2b}, 'x'};
+    case IconName::Reset:
+      break;
+  }
+  return {"", {}, 0};
+}
+
+// Three quarters of a circle with an arrow head at its end, in a square of side 1. Runs clockwise.
+void DrawTurn(QPainter& painter, const QColor& color) {
+  const QRectF circle(0.2, 0.2, 0.6, 0.6);
+  painter.setPen(QPen(color, 0.1, Qt::SolidLine, Qt::RoundCap));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawArc(circle, 45 * 16, 270 * 16);
+  const QPointF end(0.5 + 0.3 * 0.7071, 0.5 - 0.3 * 0.7071);
+  const QPointF head[] = {end + QPointF(0.12, 0.12), end + QPointF(0.12, -0.2),
+                          end + QPointF(-0.2, 0.12)};
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(color);
+  painter.drawPolygon(head, 3);
+}
+
+void DrawSign(QPainter& painter, const Design& design) {
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(design.color);
+  painter.drawEllipse(QRectF(0.04, 0.04, 0.92, 0.92));
+  painter.setPen(QPen(Qt::white, 0.1, Qt::SolidLine, Qt::RoundCap));
+  painter.setBrush(Qt::NoBrush);
+  const auto dot = [&painter](double y) { painter.drawPoint(QPointF(0.5, y)); };
+  switch (design.sign) {
+    case 'i':
+      dot(0.28);
+      painter.drawLine(QPointF(0.5, 0.46), QPointF(0.5, 0.73));
+      break;
+    case '!':
+      painter.drawLine(QPointF(0.5, 0.26), QPointF(0.5, 0.54));
+      dot(0.73);
+      break;
+    case '?': {
+      QPainterPath hook(QPointF(0.36, 0.4));
+      hook.cubicTo(0.36, 0.18, 0.66, 0.18, 0.66, 0.38);
+      hook.cubicTo(0.66, 0.5, 0.5, 0.48, 0.5, 0.6);
+      painter.drawPath(hook);
+      dot(0.76);
+      break;
+    }
+    default:
+      painter.drawLine(QPointF(0.34, 0.34), QPointF(0.66, 0.66));
+      painter.drawLine(QPointF(0.66, 0.34), QPointF(0.34, 0.66));
+      break;
+  }
+}
+
+class DrawnIcon final : public QIconEngine {
+ public:
+  explicit DrawnIcon(IconName name) : name_(name) {}
+
+  void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
+    const Design design = DesignOf(name_);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    const int side = std::min(rect.width(), rect.height());
+    painter->translate(QRectF(rect).center() - QPointF(side, side) / 2);
+    painter->scale(side, side);
+    if (design.color.isValid()) {
+      DrawSign(*painter, design);
+    } else {
+      const QPalette palette = WithReadableDisabledTexts(QGuiApplication::palette());
+      const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
+      if (name_ == IconName::Reset) {  // runs counter-clockwise
+        painter->translate(1, 0);
+        painter->scale(-1, 1);
+      }
+      DrawTurn(*painter, palette.color(group, QPalette::ButtonText));
+    }
+    painter->restore();
+  }
+
+  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+    QPixmap pixmap(size);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    paint(&painter, pixmap.rect(), mode, state);
+    return pixmap;
+  }
+
+  QIconEngine* clone() const override { return new DrawnIcon(name_); }
+
+ private:
+  IconName name_;
+};
+
+}  // namespace
+
+QIcon ThemedIcon(IconName name) {
+  const QString theme = QString::fromLatin1(DesignOf(name).theme);
+  // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): owned by the icon
+  const QIcon own(new DrawnIcon(name));
+  return theme.isEmpty() || !QIcon::hasThemeIcon(theme) ? own : QIcon::fromTheme(theme);
+}
+
+void RemoveForeignButtonIcons(QWidget& dialog) {
+  if (QIcon::hasThemeIcon(QStringLiteral("dialog-ok"))) return;
+  for (const auto* box : dialog.findChildren<QDialogButtonBox*>()) {
+    for (QAbstractButton* button : box->buttons()) {
+      if (box->standardButton(button) != QDialogButtonBox::NoButton) button->setIcon({});
+    }
+  }
+}
+
+}  // namespace AdvancedControl

@@ -1,0 +1,300 @@
+// The program between simulated projectors, Debian's message broker and clients that others wrote.
+
+#include <csignal>
+#include <gmock/gmock.h>
+#include <map>
+#include <memory>
+#include <set>
+#include <string>
+#include <vector>
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+#include <gtest/gtest.h>
+
+#include "tests/bridge/Daemons.h"
+
+namespace {
+
+using testing::HasSubstr;
+
+constexpr int kCount = 500;
+
+/// mosquitto_sub, and the last message of each topic.
+class Subscriber {
+ public:
+  Subscriber(quint16 port, const QStringList& topics) {
+    QStringList arguments{"-p", QString::number(port), "-q", "1", "-F", "%t %r %p"};
+    for (const QString& topic : topics) arguments << "-t" << topic;
+    daemon_ = std::make_unique<Daemon>("mosquitto_sub", arguments);
+  }
+
+  const std::map<QByteArray, QByteArray>& Last() {
+    const QByteArray& said = daemon_->Said();
+    for (auto end = said.indexOf('\n', read_); end >= 0; end = said.indexOf('\n', read_)) {
+      const QByteArray line = said.mid(read_, end - read_);
+      read_ = end + 1;
+      const auto topic = line.left(line.indexOf(' '));
+      last_[topic] = line.mid(topic.size() + 3);
+      ++counts_[topic];
+    }
+    return last_;
+  }
+  QJsonObject Json(const QByteArray& topic) {
+    const auto& last = Last();
+    const auto found = last.find(topic);
+    return found == last.end() ? QJsonObject() : QJsonDocument::fromJson(found->second).object();
+  }
+  int Count(const QByteArray& topic) { return Last(), counts_[topic]; }
+  /// How many topics with this end have a message that contains a text.
+  int With(const char* end, const char* text = "") {
+    int count = 0;
+    for (const auto& [topic, payload] : Last())
+      count += topic.endsWith(end) && payload.contains(text);
+    return count;
+  }
+
+ private:
+  std::unique_ptr<Daemon> daemon_;
+  qsizetype read_ = 0;
+  std::map<QByteArray, QByteArray> last_;
+  std::map<QByteArray, int> counts_;
+};
+
+class BridgeProgram : public testing::Test {
+ protected:
+  void SetUp() override { ASSERT_TRUE(folder_.isValid()); }
+
+  void StartProjectors(int count, const QStringList& more = {}) {
+    profiles_ = folder_.filePath("projectors.json");
+    simulator_ = std::make_unique<SimulatorProcess>(
+        QStringList{"--fleet", QString::number(count), "--control", "0", "--write-profiles",
+                    profiles_, "--warm-up", "0", "--cool-down", "0"} +
+        more);
+  }
+  /// A line for the simulator, and its answer.
+  std::string Control(const QByteArray& line) {
+    QTcpSocket control;
+    control.connectToHost(QHostAddress::LocalHost,
+                          simulator_->Address("control").section(':', 1).toUShort());
+    control.write(line + '\n');
+    EXPECT_TRUE(Soon([&] { return control.waitForReadyRead(10) || control.canReadLine(); }));
+    return control.readLine().trimmed().toStdString();
+  }
+  std::unique_ptr<Daemon> Bridge(const QStringList& more, quint16 port = 0) {
+    return std::make_unique<Daemon>(
+        BRIDGE_PROGRAM, QStringList{"--profiles", profiles_, "--interval", "5", "--listen",
+                                    port == 0 ? "none" : QString("127.0.0.1:%1").arg(port)} +
+                            more);
+  }
+  static QStringList At(const MosquittoBroker& broker) {
+    return {"--broker", QString("127.0.0.1:%1").arg(broker.port)};
+  }
+  static void Publish(const MosquittoBroker& broker, const QStringList& arguments,
+                      const QByteArray& input = {}) {
+    QProcess publish;
+    publish.start("mosquitto_pub",
+                  QStringList{"-p", QString::number(broker.port), "-q", "1"} + arguments);
+    publish.write(input);
+    publish.closeWriteChannel();
+    const Outcome outcome = Finish(publish);
+    EXPECT_EQ(outcome.exitCode, 0) << outcome.errors;
+  }
+  static double Metric(quint16 port, const QByteArray& sample) {
+    const QByteArray text = '\n' + Get(port, "/metrics");
+    const auto at = text.indexOf('\n' + sample + ' ');
+    return at < 0 ? -1 : text.mid(at + sample.size() + 2).split('\n').first().toDouble();
+  }
+  /// The changes that all projectors together have made.
+  std::string Changes() {
+    const QString counts = QString::fromStdString(Control("* count"));
+    return counts.section("changes ", 1).section(' ', 0, 0).toStdString();
+  }
+
+  QTemporaryDir folder_;
+  QString profiles_;
+  std::unique_ptr<SimulatorProcess> simulator_;
+};
+
+TEST_F(BridgeProgram, ServesFiveHundredProjectorsThroughFailures) {
+  StartProjectors(kCount, {"--fault", "silent 5%", "--link", "mixed"});
+  MosquittoBroker broker(folder_.path());
+  const quint16 port = FreePort();
+  const auto first = Bridge(At(broker) + QStringList{"--share", "1/2"}, port);
+  auto second = Bridge(At(broker) + QStringList{"--share", "2/2"});
+  auto subscriber =
+      std::make_unique<Subscriber>(broker.port, QStringList{"projectors/#", "homeassistant/#"});
+  const auto isComplete = [&] {
+    return subscriber->With("/state", "\"reachability\":\"answers\"") == kCount * 95 / 100 &&
+           subscriber->With("/state", "\"reachability\":\"silent\"") == kCount * 5 / 100 &&
+           subscriber->With("/config", "\"components\"") == kCount;
+  };
+  EXPECT_TRUE(Soon(isComplete)) << first->Said().data() << second->Said().data();
+  EXPECT_EQ(subscriber->With("/availability", "online"), 2);
+
+  // The metrics of one share agree.
+  const double projectors = Metric(port, "projector_bridge_projectors");
+  EXPECT_GT(projectors, kCount / 3.0);
+  EXPECT_LT(projectors, kCount * 2 / 3.0);
+  EXPECT_EQ(Get(port, "/metrics").count("\nprojector_up{"), projectors);
+  EXPECT_EQ(Get(port, "/healthz"), "ok\n");
+  EXPECT_THAT(Get(port, "/probe?target=Nobody").toStdString(), HasSubstr("no projector"));
+
+  // One with the same share stands back, and visits nobody.
+  const auto third = Bridge(At(broker) + QStringList{"--share", "2/2"});
+  EXPECT_TRUE(third->Says("stands back"));
+  EXPECT_TRUE(second->Says("another bridge has the same share"));
+
+  // A broker that remembers gets nothing twice.
+  ASSERT_TRUE(Soon([&] {
+    return Metric(port, "projector_bridge_messages_total{kind=\"discovery\"}") == projectors;
+  }));
+  const double sent = Metric(port, "projector_bridge_messages_total{kind=\"state\"}");
+  broker.Stop();
+  EXPECT_TRUE(Soon([&] { return Metric(port, "projector_bridge_broker_connected") == 0; }));
+  broker.Start();
+  EXPECT_TRUE(Soon([&] { return Metric(port, "projector_bridge_broker_connected") == 1; }));
+  subscriber =
+      std::make_unique<Subscriber>(broker.port, QStringList{"projectors/#", "homeassistant/#"});
+  EXPECT_TRUE(
+      Soon([&] { return isComplete() && subscriber->With("/availability", "online") == 2; }));
+  EXPECT_EQ(Metric(port, "projector_bridge_messages_total{kind=\"state\"}"), sent);
+  EXPECT_EQ(Metric(port, "projector_bridge_messages_total{kind=\"discovery\"}"), projectors);
+
+  // A bridge dies. The broker says so, and the one that stood back takes over.
+  const int before = subscriber->Count("projectors/bridge/2-of-2/availability");
+  second->Kill();
+  EXPECT_TRUE(third->Says("takes the share over"));
+  EXPECT_TRUE(Soon([&] {
+    return subscriber->Count("projectors/bridge/2-of-2/availability") >= before + 2 &&
+           isComplete() && subscriber->With("/availability", "online") == 2;
+  }));
+  const QRegularExpression most("at-once (\\d+)");
+  EXPECT_LE(most.match(QString::fromStdString(Control("* count"))).captured(1).toInt(), 1)
+      << "never two connections to a projector";
+}
+
+TEST_F(BridgeProgram, TellsABrokerThatForgotEverythingAgain) {
+  StartProjectors(20);
+  MosquittoBroker broker(folder_.path(), false);
+  const auto bridge = Bridge(At(broker) + QStringList{"--mqtt", "5", "--discovery", "none"});
+  for (int i = 0; i < 2; ++i) {
+    Subscriber subscriber(broker.port, {"projectors/#"});
+    EXPECT_TRUE(Soon([&] { return subscriber.With("/state", "\"answers\"") == 20; })) << i;
+    broker.Stop();
+    broker.Start();
+  }
+}
+
+TEST_F(BridgeProgram, CarriesOutWhatIsAllowedAndAnswers) {
+  StartProjectors(10, {"--link", "network"});
+  MosquittoBroker broker(folder_.path());
+  auto bridge = Bridge(At(broker) + QStringList{"--allow-commands", "power,picture.*"});
+  Subscriber subscriber(broker.port, {"projectors/#", "homeassistant/#"});
+  // One that is on and has the setting.
+  QByteArray id;
+  ASSERT_TRUE(Soon([&] {
+    for (const auto& [topic, payload] : subscriber.Last()) {
+      if (!topic.endsWith("/state") || !payload.contains("\"power\":\"on\"")) continue;
+      const QByteArray level = topic.split('/')[1];
+      const auto config = subscriber.Last().find("homeassistant/device/" + level + "/config");
+      const bool has =
+          config != subscriber.Last().end() && config->second.contains("/set/picture.brightness");
+      if (has) id = level;
+    }
+    return !id.isEmpty();
+  })) << bridge->Said().data();
+  const QByteArray answer = "projectors/" + id + "/answer";
+  const auto outcomeOf = [&](const QString& topic, const QStringList& what,
+                             const QByteArray& input = {}) {
+    const int before = subscriber.Count(answer);
+    Publish(broker, QStringList{"-t", "projectors/" + QString(id) + topic} + what, input);
+    EXPECT_TRUE(Soon([&] { return subscriber.Count(answer) > before; })) << topic.toStdString();
+    return subscriber.Json(answer)["outcome"].toString().toStdString();
+  };
+  const std::string changes = Changes();
+  EXPECT_EQ(outcomeOf("/set", {"-m", "{\"key\":"}), "error");
+  EXPECT_EQ(outcomeOf("/set/no.such-key", {"-m", "1"}), "error");
+  EXPECT_EQ(outcomeOf("/set/setup.whisper", {"-m", "1"}), "error") << "not allowed";
+  EXPECT_EQ(outcomeOf("/set/picture.brightness", {"-m", "99999"}), "error");
+  EXPECT_EQ(outcomeOf("/set/picture.brightness", {"-s"}, QByteArray(1 << 20, '1')), "error");
+  EXPECT_EQ(Changes(), changes) << "nothing of it reached a projector";
+
+  EXPECT_EQ(outcomeOf("/set", {"-m", R"({"key":"picture.brightness","value":-3,"id":"mine"})"}),
+            "accepted");
+  EXPECT_EQ(subscriber.Json(answer)["id"], "mine");
+  EXPECT_NE(Changes(), changes);
+  EXPECT_EQ(outcomeOf("/set/power", {"-m", "off"}), "accepted");
+  EXPECT_TRUE(Soon([&] {
+    return subscriber.Json("projectors/" + id + "/state")["power"] == "standby";
+  })) << "what a command tells is published";
+  EXPECT_EQ(outcomeOf("/set/picture.brightness", {"-m", "3"}), "standby");
+
+  // Both kill switches.
+  const std::string now = Changes();
+  Publish(broker, {"-t", "projectors/bridge/commands", "-r", "-m", "off"});
+  EXPECT_TRUE(bridge->Says("commands are switched off"));
+  EXPECT_EQ(outcomeOf("/set/power", {"-m", "on"}), "error");
+  Publish(broker, {"-t", "projectors/bridge/commands", "-r", "-m", "on"});
+  EXPECT_TRUE(bridge->Says("takes commands"));
+  kill(static_cast<pid_t>(bridge->Id()), SIGUSR1);
+  EXPECT_TRUE(bridge->Says("a signal switched commands off"));
+  EXPECT_EQ(outcomeOf("/set/power", {"-m", "on"}), "error");
+  EXPECT_EQ(Changes(), now);
+  kill(static_cast<pid_t>(bridge->Id()), SIGUSR2);
+  EXPECT_TRUE(bridge->Says("a signal switched commands on"));
+  EXPECT_EQ(outcomeOf("/set/power", {"-m", "on"}), "accepted");
+
+  // The projector falls silent.
+  EXPECT_EQ(Control("* silent"), "ok");
+  EXPECT_EQ(outcomeOf("/set/power", {"-m", "off"}), "no-answer");
+
+  // A command that lies there when the bridge comes is an old one.
+  bridge.reset();
+  Publish(broker, {"-t", "projectors/" + QString(id) + "/set/power", "-r", "-m", "off"});
+  const int before = subscriber.Count(answer);
+  bridge = Bridge(At(broker) + QStringList{"--allow-commands", "power"});
+  EXPECT_TRUE(Soon([&] { return subscriber.Count(answer) > before; }));
+  EXPECT_EQ(subscriber.Json(answer)["outcome"], "error");
+}
+
+TEST_F(BridgeProgram, WritesATextFileAndNeedsNoBroker) {
+  StartProjectors(5);
+  const QString file = folder_.filePath("projectors.prom");
+  const auto bridge = Bridge({"--text-file", file});
+  EXPECT_TRUE(Soon([&] { return Contents(file).count("\nprojector_up{") == 5; }));
+  EXPECT_EQ(QDir(folder_.path()).entryList({"*.prom"}), QStringList{"projectors.prom"});
+}
+
+TEST_F(BridgeProgram, SaysWhatIsWrongWithItsOptions) {
+  StartProjectors(1);
+  const QString empty = folder_.filePath("empty");
+  Write(empty, "\n");
+  const std::vector<std::pair<QStringList, const char*>> cases{
+      {{}, "--profiles is missing"},
+      {{"--profiles", empty}, "empty"},
+      {{"--profiles", profiles_, "--share", "3/2"}, "is no share"},
+      {{"--profiles", profiles_, "--interval", "1"}, "is no time"},
+      {{"--profiles", profiles_, "--listen", "everywhere"}, "is no numeric address"},
+      {{"--profiles", profiles_, "--allow-commands", "*"}, "needs --broker"},
+      {{"--profiles", profiles_, "--broker", ":1"}, "is no host"},
+      {{"--profiles", profiles_, "--broker", "h:0"}, "is no host"},
+      {{"--profiles", profiles_, "--broker", "h", "--mqtt", "4"}, "is neither 3 nor 5"},
+      {{"--profiles", profiles_, "--broker", "h", "--topic", "a/#"}, "is no topic"},
+      {{"--profiles", profiles_, "--broker", "h", "--cert-file", "x"}, "need each other"},
+      {{"--profiles", profiles_, "--broker", "h", "--password-file", empty}, "is empty"},
+      {{"--profiles", profiles_, "--broker", "h", "--ca-file", "/none"}, "cannot read /none"},
+      {{"--profiles", profiles_, "--commands-per-minute", "0"}, "is no number"},
+      {{"--profiles", profiles_, "--listen", "none", "--text-file", "/none/x"}, "/none/x"},
+      {{"everything"}, "unexpected argument"},
+  };
+  for (const auto& [arguments, text] : cases) {
+    const Outcome outcome =
+        ::Run(BRIDGE_PROGRAM, arguments, QProcessEnvironment::systemEnvironment());
+    EXPECT_EQ(outcome.exitCode, 2) << arguments.join(' ').toStdString();
+    EXPECT_THAT(outcome.errors, HasSubstr(text));
+  }
+}
+
+}  // namespace

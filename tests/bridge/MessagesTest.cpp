@@ -1,0 +1,370 @@
+// What the bridge says and understands, without a network.
+
+#include <chrono>
+#include <gmock/gmock.h>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <gtest/gtest.h>
+
+#include "app/bridge/CommandDesk.h"
+#include "app/bridge/Discovery.h"
+#include "app/bridge/Share.h"
+#include "app/bridge/StateMessage.h"
+#include "settings/RowParts.h"
+#include "tests/support/Models.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+using testing::HasSubstr;
+
+QJsonObject Json(const QByteArray& text) { return QJsonDocument::fromJson(text).object(); }
+
+FleetProfile ProfileOf(const CModelInfo2& info,
+                       const std::string& identity = "mac:00:00:5e:00:53:01") {
+  auto model = std::make_shared<ProfileModel>();
+  model->info = info;
+  model->data = MakeModelData(info);
+  return {.name = "Hall \"1\"",
+          .model = model,
+          .connection = {},
+          .link = ProjectorLink::PjLink,
+          .identity = identity};
+}
+
+const SettingTexts& Texts() {
+  static const std::vector<std::string> folders{TEST_CATALOG_DIR};
+  static const SettingTexts texts(folders, 0x0409);
+  return texts;
+}
+
+TEST(Topics, LevelsAreDistinctAndFitEveryBroker) {
+  EXPECT_EQ(TopicLevel("mac:00:00:5e:00:53:01"), "mac_00_00_5e_00_53_01");
+  const std::vector<std::string> texts{"a:b",
+                                       "a_b",
+                                       "a/b",
+                                       "a+b",
+                                       "a#b",
+                                       "A:b",
+                                       "Hörsaal",
+                                       "",
+                                       std::string(100, 'x'),
+                                       std::string(99, 'x') + 'y'};
+  std::set<QByteArray> levels;
+  for (const std::string& text : texts) {
+    const QByteArray level = TopicLevel(text);
+    EXPECT_THAT(level.toStdString(), testing::MatchesRegex("[A-Za-z0-9_-]+"));
+    EXPECT_LE(level.size(), 90);
+    levels.insert(level);
+  }
+  EXPECT_EQ(levels.size(), texts.size());
+
+  const Topics topics("site/hall", "1-of-1");
+  for (const auto& [topic, id, key] : std::vector<std::array<QByteArray, 3>>{
+           {"site/hall/x/set", "x", ""},
+           {"site/hall/x/set/picture.brightness", "x", "picture.brightness"},
+           {"site/hall/x/set/", "", ""},
+           {"site/hall/x/set/a/b", "", ""},
+           {"site/hall/x/state", "", ""},
+           {"site/hallx/set", "", ""},
+           {"x/set", "", ""}}) {
+    EXPECT_EQ(topics.ParseSet(topic).id, id) << topic.data();
+    EXPECT_EQ(topics.ParseSet(topic).key, key) << topic.data();
+  }
+}
+
+FleetProfile Identified(const std::string& identity, const std::vector<std::string>& tags = {}) {
+  return {.name = "Hall", .model = {}, .connection = {}, .identity = identity, .tags = tags};
+}
+
+TEST(Share, DividesEvenlyAndMovesFew) {
+  std::vector<FleetProfile> profiles;
+  for (int i = 0; i < 3000; ++i) profiles.push_back(Identified("mac:" + std::to_string(i)));
+  const auto ownerOf = [](const FleetProfile& profile, int count) {
+    std::vector<int> owners;
+    for (int i = 1; i <= count; ++i) {
+      if (Share{.number = i, .count = count}.Has(profile)) owners.push_back(i);
+    }
+    EXPECT_EQ(owners.size(), 1U);
+    return owners.front();
+  };
+  std::map<int, int> sizes;
+  int moved = 0;
+  for (const FleetProfile& profile : profiles) {
+    const int five = ownerOf(profile, 5);
+    const int six = ownerOf(profile, 6);
+    ++sizes[five];
+    if (five == six) continue;
+    ++moved;
+    EXPECT_EQ(six, 6);
+  }
+  for (const auto& [owner, size] : sizes) EXPECT_NEAR(size, 600, 100) << owner;
+  EXPECT_NEAR(moved, 500, 100);
+  // Shares on different machines and of different versions must agree.
+  EXPECT_EQ(ownerOf(Identified("mac:00:00:5e:00:53:01"), 5), 4);
+  EXPECT_EQ(ownerOf(Identified(""), 5), 3);
+
+  Share tagged{.tags = {"north", "south"}};
+  EXPECT_FALSE(tagged.Has(Identified("id:1", {"east"})));
+  EXPECT_TRUE(tagged.Has(Identified("id:1", {"east", "south"})));
+  EXPECT_EQ(ParseShare("2/5"), (Share{.number = 2, .count = 5}));
+  EXPECT_EQ(ParseShare("2/5")->Name(), "2-of-5");
+  for (const char* wrong : {"", "2", "0/5", "6/5", "2/5x", "-1/5", "1/1001", "1/99999999999"}) {
+    EXPECT_FALSE(ParseShare(wrong)) << wrong;
+  }
+}
+
+TEST(StateMessage, TellsWhatIsKnownAndNothingElse) {
+  const FleetProfile profile = ProfileOf(FullModel(5, 30));
+  LiveState state;
+  QJsonObject json = Json(StateMessage(profile, state));
+  EXPECT_EQ(json["name"], "Hall \"1\"");
+  EXPECT_EQ(json["reachability"], "never-asked");
+  for (const char* member : {"reason", "power", "input", "input-number", "blank", "mute", "freeze",
+                             "problems", "lamp-hours", "filter-hours", "drift"}) {
+    EXPECT_TRUE(json.contains(member) && json[member].isNull()) << member;
+  }
+
+  state.reachability = Reachability::Answers;
+  state.power = PowerState::WarmingUp;
+  state.source = PlayingSource{31, {}};
+  state.blank = true;
+  state.problems = PartProblems{};
+  state.problems->at(2) = ProblemGrade::Warning;
+  state.lamps = {{120, true}, {7, {}}};
+  json = Json(StateMessage(profile, state));
+  EXPECT_EQ(json["power"], "warming-up");
+  EXPECT_EQ(json["input"], "31") << "a number is better than no name";
+  EXPECT_EQ(json["blank"], "on");
+  EXPECT_EQ(json["problems"].toObject()["temperature"], "warning");
+  EXPECT_EQ(json["lamps"].toArray().size(), 2);
+  EXPECT_EQ(json["lamp-hours"], 120);
+  EXPECT_TRUE(json["reason"].isNull());
+
+  state.reachability = Reachability::Silent;
+  state.connection = ConnectionState::NoAnswer;
+  EXPECT_THAT(Json(StateMessage(profile, state))["reason"].toString().toStdString(),
+              HasSubstr("answer"));
+}
+
+class DiscoveryOf : public testing::Test {
+ protected:
+  QJsonObject Of(const CModelInfo2& info, const std::vector<std::string>& keys) {
+    const KeyRules rules(keys);
+    const Discovery discovery(models_, Texts(), rules, topics_);
+    return Json(discovery.MessageOf(ProfileOf(info), "x"));
+  }
+
+  ModelBook models_;
+  const Topics topics_{"projectors", "1-of-1"};
+};
+
+TEST_F(DiscoveryOf, AProjectorThatIsOnlyWatchedHasOnlySensors) {
+  const QJsonObject message = Of(FullModel(5, 30), {});
+  EXPECT_EQ(message["device"].toObject()["name"], "Hall \"1\"");
+  EXPECT_EQ(message["device"].toObject()["connections"].toArray()[0].toArray()[1],
+            "00:00:5e:00:53:01");
+  EXPECT_EQ(message["availability"].toArray().size(), 2);
+  const QJsonObject components = message["components"].toObject();
+  EXPECT_EQ(components.size(), 14) << "reachable, six problems, and seven of the status page";
+  for (const QString& key : components.keys()) {
+    const QJsonObject entity = components[key].toObject();
+    EXPECT_THAT(entity["platform"].toString().toStdString(), testing::EndsWith("sensor"));
+    EXPECT_EQ(entity["state_topic"], "projectors/x/state");
+    EXPECT_EQ(entity["unique_id"], "x_" + key);
+    EXPECT_FALSE(entity.contains("command_topic"));
+  }
+  const QJsonObject lamp = components["status_lamp-time"].toObject();
+  EXPECT_EQ(lamp["device_class"], "duration");
+  EXPECT_EQ(lamp["name"], "Lamp Time");
+  EXPECT_EQ(components["reachable"].toObject()["availability"].toArray().size(), 1)
+      << "it must not vanish with what it reports";
+}
+
+TEST_F(DiscoveryOf, ControlsFollowTheKindsOfTheRows) {
+  const QJsonObject type5 = Of(FullModel(5, 30), {"*"})["components"].toObject();
+  const QJsonObject brightness = type5["picture_brightness"].toObject();
+  EXPECT_EQ(brightness["platform"], "number");
+  EXPECT_EQ(brightness["command_topic"], "projectors/x/set/picture.brightness");
+  EXPECT_LT(brightness["min"].toInt(), 0) << "as it is shown, without the bias";
+  EXPECT_EQ(brightness["command_template"], "={{ value | int }}") << "-3 alone is a step";
+  EXPECT_FALSE(brightness.contains("state_topic")) << "nobody watches it";
+  EXPECT_EQ(type5["power"].toObject()["platform"], "switch");
+
+  std::set<std::string> platforms;
+  for (const CModelInfo2& info : EveryModel()) {
+    const ModelSettings settings(MakeModelData(info));
+    const QJsonObject components = Of(info, {"*"})["components"].toObject();
+    for (const QString& key : components.keys()) {
+      const QJsonObject entity = components[key].toObject();
+      const std::string platform = entity["platform"].toString().toStdString();
+      platforms.insert(platform);
+      EXPECT_FALSE(key.startsWith("service_")) << NameOf(info);
+      EXPECT_FALSE(entity["name"].toString().isEmpty()) << NameOf(info) << ' ' << key.toStdString();
+      EXPECT_EQ(platform == "select", !entity["options"].toArray().isEmpty());
+      EXPECT_EQ(platform == "number", entity["min"].toInt() < entity["max"].toInt());
+      // Everything that a hub can send is understood.
+      const QString topic = entity["command_topic"].toString();
+      const std::string setting = topic.section('/', -1).toStdString();
+      QStringList payloads{entity["payload_on"].toString(), entity["payload_off"].toString()};
+      if (platform == "select") {
+        payloads.clear();
+        for (const auto& option : entity["options"].toArray()) payloads << option.toString();
+      } else if (platform == "number") {
+        payloads = {"=" + QString::number(entity["min"].toInt()),
+                    "=" + QString::number(entity["max"].toInt())};
+      } else if (platform != "switch") {
+        payloads = {"run"};
+      }
+      for (const QString& payload : payloads) {
+        if (topic.isEmpty()) break;
+        EXPECT_EQ(
+            CheckCommand({setting, payload.toStdString()}, settings, Texts(), KeyRules({"*"})),
+            QString())
+            << NameOf(info) << ' ' << setting;
+      }
+    }
+  }
+  EXPECT_EQ(platforms, (std::set<std::string>{"binary_sensor", "button", "number", "select",
+                                              "sensor", "switch"}));
+  const QJsonObject old = Of(FullModel(1, 1), {"*"})["components"].toObject();
+  const QJsonObject mute = old["other_mute"].toObject();
+  EXPECT_EQ(mute["state_topic"], "projectors/x/state");
+  EXPECT_EQ(mute["value_template"], "{{ value_json['mute'] }}");
+}
+
+TEST(KeyRules, NeverAllowWhatIsForService) {
+  const KeyRules all({"*", "service.*", "service.ir-top"});
+  for (const std::string_view key : AllKeys()) {
+    EXPECT_EQ(all.Allows(key), !key.starts_with("service.")) << key;
+  }
+  // No setting is a reset of hours.
+  for (const CModelInfo2& info : EveryModel()) {
+    const ModelSettings settings(MakeModelData(info));
+    for (const ModelSetting& setting : settings.All()) {
+      const auto* const action = std::get_if<ActionRow>(setting.row);
+      if (action == nullptr) continue;
+      EXPECT_NE(action->call.operation, PjtOperation::ExecLampTimeReset) << setting.key;
+      EXPECT_NE(action->call.operation, PjtOperation::ExecFilterTimeReset) << setting.key;
+    }
+  }
+  EXPECT_FALSE(KeyRules().Allows("picture.brightness"));
+  EXPECT_TRUE(KeyRules({"picture.*"}).Allows("picture.brightness"));
+  EXPECT_FALSE(KeyRules({"picture.*"}).Allows(kPowerKey));
+}
+
+class Desk : public testing::Test {
+ protected:
+  /// The outcome and reason of the answer, or what was run.
+  std::string Send(const QByteArray& topic, const QByteArray& payload, bool isRetained = false) {
+    said_.clear();
+    desk_.Take({"projectors/" + topic, payload, isRetained}, now_);
+    return said_;
+  }
+
+  const FleetProfile profile_ = ProfileOf(FullModel(5, 30));
+  ModelBook models_;
+  const Topics topics_{"projectors", "1-of-1"};
+  CommandDesk::Time now_{};
+  std::string said_;
+  CommandDesk desk_{
+      {.keys = KeyRules({"picture.*", "power"}), .perMinute = 60, .burst = 5},
+      models_,
+      Texts(),
+      topics_,
+      {.find = [this](const QByteArray& id,
+                      std::size_t&) { return id == "x" ? &profile_ : nullptr; },
+       .run =
+           [this](std::size_t, const Command& command) {
+             said_ = "run " + command.key + '=' + command.value;
+             return true;
+           },
+       .answer =
+           [this](const BrokerMessage& answer) {
+             EXPECT_EQ(answer.topic, "projectors/x/answer");
+             EXPECT_FALSE(answer.isRetained);
+             const QJsonObject json = Json(answer.payload);
+             said_ = (json["outcome"].toString() + ": " + json["reason"].toString()).toStdString();
+             if (json.contains("id"))
+               said_ += " #" + json["id"].toVariant().toString().toStdString();
+           }}};
+};
+
+TEST_F(Desk, RefusesEverythingWrongWithAReason) {
+  const QByteArray large(1 << 20, '[');
+  const std::vector<std::array<QByteArray, 3>> cases{
+      {"x/set", R"({"key": "picture.brightness", "value": 3})", "run picture.brightness==3"},
+      {"x/set", R"({"key": "picture.brightness", "value": -3})", "run picture.brightness==-3"},
+      {"x/set", R"({"key": "power", "value": true})", "run power=1"},
+      {"x/set/picture.brightness", " +2\n", "run picture.brightness=+2"},
+      {"y/set/picture.brightness", "3", ""},
+      {"x/set/service.ir-top", "1", "error: 'service.ir-top' may not be commanded"},
+      {"x/set/picture.nothing", "1", "error: the model has no setting 'picture.nothing'"},
+      {"x/set/picture.brightness", "999", "error: '999' is not one of: -32 to 32"},
+      {"x/set/picture.brightness", "", "error: '' is not one of: -32 to 32"},
+      {"x/set/picture.brightness", "\xff\xfe", "error: the value is no text in UTF-8"},
+      {"x/set/power", "maybe", "error: the power is on or off"},
+      {"x/set/status.lamp-time", "0", "error: 'status.lamp-time' may not be commanded"},
+      {"x/set", "{\"key\": ", "error: not JSON: unterminated object"},
+      {"x/set", "[]", "error: the JSON is no object"},
+      {"x/set", R"({"value": 3, "id": 7})", "error: \"key\" is missing #7"},
+      {"x/set", R"({"key": "power", "value": 1.5})",
+       "error: \"value\" is no text, whole number, true or false"},
+      {"x/set", R"({"key": "power", "value": "on", "x": 1, "id": "a"})",
+       "error: unknown member \"x\" #a"},
+      {"x/set", large, "error: the command has more than 4096 bytes"},
+      {"x/set/power", large, "error: the command has more than 4096 bytes"},
+  };
+  for (const auto& [topic, payload, said] : cases) {
+    now_ += 1min;
+    EXPECT_EQ(Send(topic, payload), said.toStdString()) << payload.left(60).data();
+  }
+  EXPECT_EQ(Send("x/set/power", "on", true), "error: a command must not be retained");
+  EXPECT_EQ(Send("x/set/power", "", true), "") << "a retained command was removed";
+}
+
+TEST_F(Desk, LimitsAndSwitches) {
+  const auto send = [this] { return Send("x/set/power", "on"); };
+  for (int i = 0; i < 5; ++i) EXPECT_EQ(send(), "run power=on");
+  EXPECT_EQ(send(), "error: more than 60 commands a minute");
+  now_ += 1s;
+  EXPECT_EQ(send(), "run power=on");
+  EXPECT_EQ(send(), "error: more than 60 commands a minute");
+
+  now_ += 1min;
+  const std::string off = "error: commands are switched off";
+  for (const char* payload : {"off", "of", "0", "on off"}) {
+    desk_.TakeSwitch(payload);
+    EXPECT_EQ(send(), off) << payload;
+  }
+  desk_.TakeSwitch("ON");
+  EXPECT_EQ(send(), "run power=on");
+  desk_.SetSwitchedOn(false);
+  desk_.TakeSwitch({});
+  EXPECT_EQ(send(), off);
+  desk_.SetSwitchedOn(true);
+  EXPECT_EQ(send(), "run power=on");
+  EXPECT_EQ(desk_.Counts().at("error"), 7U);
+}
+
+TEST_F(Desk, TellsEveryOutcome) {
+  const Command command{"picture.brightness", "3", "a"};
+  const auto finish = [&](WorkOutcome outcome, bool isAsleep) {
+    desk_.Finish("x", command, {.outcome = outcome, .reason = "why"}, isAsleep);
+    return said_;
+  };
+  EXPECT_EQ(finish(WorkOutcome::Done, false), "accepted: why #a");
+  EXPECT_EQ(finish(WorkOutcome::Pending, true), "pending: why #a");
+  EXPECT_EQ(finish(WorkOutcome::Refused, false), "refused: why #a");
+  EXPECT_EQ(finish(WorkOutcome::Refused, true), "standby: why #a");
+  EXPECT_EQ(finish(WorkOutcome::NoAnswer, true), "no-answer: why #a");
+  EXPECT_EQ(finish(WorkOutcome::Stopped, false), "stopped: why #a");
+}
+
+}  // namespace

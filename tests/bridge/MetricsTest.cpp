@@ -1,0 +1,217 @@
+// Metrics, how they are fetched, and the files that come with them.
+
+#include <gmock/gmock.h>
+#include <set>
+#include <string>
+#include <vector>
+
+#include <QCoreApplication>
+#include <QDirIterator>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+#include <gtest/gtest.h>
+
+#include "app/bridge/HttpRequest.h"
+#include "app/bridge/Metrics.h"
+#include "app/bridge/MetricsListener.h"
+#include "tests/bridge/Daemons.h"
+
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+const QString kShipped = QStringLiteral(TEST_SOURCE_DIR "/../packaging/bridge/");
+
+Outcome Promtool(const QStringList& arguments, const QByteArray& input = {}) {
+  QProcess promtool;
+  promtool.start("promtool", arguments);
+  promtool.write(input);
+  promtool.closeWriteChannel();
+  return Finish(promtool);
+}
+
+FleetProfile Profile(const std::string& name) {
+  auto model = std::make_shared<ProfileModel>();
+  model->data.ModelName = "5-30";
+  return {.name = name, .model = model, .connection = {}, .ratedLampHours = 3000};
+}
+
+LiveState FullState() {
+  LiveState state;
+  state.reachability = Reachability::Answers;
+  state.answered = WallTime(std::chrono::milliseconds(1'700'000'000'250));
+  state.power = PowerState::On;
+  state.source = PlayingSource{31, "HDMI"};
+  state.problems = PartProblems{};
+  state.problems->at(2) = ProblemGrade::Error;
+  state.lamps = {{100, true}, {50, false}};
+  state.filterHours = 7;
+  state.drift = 3;
+  return state;
+}
+
+QByteArray Everything() {
+  const FleetProfile known = Profile("Hall \"1\"\\\n");
+  const FleetProfile unknown = Profile("Hall 2");
+  LiveState silent;
+  silent.reachability = Reachability::Silent;
+  const std::vector<MeasuredProjector> projectors{
+      {&known, FullState()}, {&unknown, LiveState()}, {&known, silent}};
+  MetricsText text;
+  AddProjectors(text, {projectors.data(), 2});
+  BridgeCounts counts{.version = "1", .share = "1-of-1", .isConnected = true};
+  counts.messages["state"] = 5;
+  counts.commands["accepted"] = 1;
+  counts.answers.Add(std::chrono::milliseconds(30));
+  counts.answers.Add(std::chrono::seconds(9));
+  MeasureProcess(counts);
+  AddBridge(text, counts);
+  return text.Text();
+}
+
+TEST(Metrics, FollowTheConvention) {
+  const std::string text = Everything().toStdString();
+  const std::string hall = R"(projector="Hall \"1\"\\\n")";
+  for (const std::string& line : {
+           "projector_up{" + hall + "} 1\n",
+           "projector_power_state{" + hall + ",state=\"on\"} 1\n",
+           "projector_power_state{" + hall + ",state=\"standby\"} 0\n",
+           "projector_lamp_seconds_total{" + hall + ",lamp=\"2\"} 180000\n",
+           "projector_filter_seconds_total{" + hall + "} 25200\n",
+           "projector_error{" + hall + ",component=\"temperature\"} 2\n",
+           "projector_input_info{" + hall + ",input=\"HDMI\",number=\"31\"} 1\n",
+           "projector_drift_settings{" + hall + "} 3\n",
+           "projector_last_answer_timestamp_seconds{" + hall + "} 1700000000.25\n",
+           std::string("projector_bridge_answer_seconds_bucket{le=\"0.05\"} 1\n"),
+           std::string("projector_bridge_answer_seconds_bucket{le=\"+Inf\"} 2\n"),
+           std::string("projector_bridge_messages_total{kind=\"state\"} 5\n"),
+       }) {
+    EXPECT_THAT(text, HasSubstr(line));
+  }
+  EXPECT_THAT(text, Not(HasSubstr("projector_up{projector=\"Hall 2\"}"))) << "never asked";
+  EXPECT_THAT(text, Not(HasSubstr("projector_power_state{projector=\"Hall 2\"")));
+  const Outcome checked = Promtool({"check", "metrics"}, QByteArray::fromStdString(text));
+  EXPECT_EQ(checked.exitCode, 0);
+  EXPECT_EQ(checked.errors, "");
+}
+
+TEST(Shipped, AlertsFireWhenTheyShould) {
+  const Outcome checked = Promtool({"check", "rules", kShipped + "projector-alerts.yml"});
+  EXPECT_EQ(checked.exitCode, 0) << checked.errors << checked.output;
+  const Outcome tested =
+      Promtool({"test", "rules", QStringLiteral(TEST_SOURCE_DIR "/bridge/alerts-test.yml")});
+  EXPECT_EQ(tested.exitCode, 0) << tested.errors << tested.output;
+}
+
+TEST(Shipped, RulesAndDashboardAskForMetricsThatAreThere) {
+  const QByteArray exported = Everything();
+  const QRegularExpression names("\\b(?:projector|process)_[a-z_]+\\b");
+  std::set<std::string> asked;
+  for (const char* file : {"projector-alerts.yml", "projectors-dashboard.json"}) {
+    QByteArray text = Contents(kShipped + file);
+    if (text.startsWith('{')) {
+      const auto dashboard = QJsonDocument::fromJson(text).object();
+      text.clear();
+      for (const auto& panel : dashboard["panels"].toArray()) {
+        for (const auto& target : panel.toObject()["targets"].toArray()) {
+          text += target.toObject()["expr"].toString().toUtf8() + '\n';
+        }
+      }
+    }
+    for (auto match = names.globalMatch(text); match.hasNext();) {
+      asked.insert(match.next().captured().toStdString());
+    }
+  }
+  EXPECT_GT(asked.size(), 10U);
+  for (const std::string& name : asked) EXPECT_TRUE(exported.contains(name.data())) << name;
+}
+
+TEST(Shipped, TheServiceMayDoLittle) {
+  QProcess analyze;
+  analyze.start(ProgramPath("systemd-analyze"),
+                {"security", "--offline=yes", "--no-pager", "--threshold=20",
+                 kShipped + "advanced-control-bridge.service"});
+  const Outcome outcome = Finish(analyze);
+  EXPECT_EQ(outcome.exitCode, 0) << "an exposure above 2.0: " << outcome.output << outcome.errors;
+}
+
+TEST(HttpRequest, UnderstandsGetAndRefusesTheRest) {
+  const auto read = [](const QByteArray& text, qsizetype step) {
+    HttpRequest request;
+    for (qsizetype i = 0; i < text.size(); i += step) {
+      const QByteArray part = text.mid(i, step);
+      request.Take({part.data(), static_cast<std::size_t>(part.size())});
+    }
+    return request;
+  };
+  const QByteArray get =
+      "GET /probe?x&target=Hall+%221%22%C3%A4&target=2 HTTP/1.1\r\nHost: x\r\n\r\nrest";
+  for (const int step : {1, 7, 1000}) {
+    const HttpRequest request = read(get, step);
+    EXPECT_EQ(request.Status(), 200);
+    EXPECT_EQ(request.Path(), "/probe");
+    EXPECT_EQ(request.Parameter("target"), QByteArray("Hall \"1\"ä"));
+    EXPECT_EQ(request.Parameter("x"), "");
+    EXPECT_TRUE(request.Parameter("y").isNull());
+  }
+  EXPECT_TRUE(read("HEAD /x HTTP/1.0\r\n\r\n", 3).IsHead());
+  EXPECT_EQ(read("HEAD /x HTTP/1.0\r\n\r\n", 3).Path(), "/x");
+  EXPECT_FALSE(read("GET / HTTP/1.1\r\nHost: x\r\n", 3).IsComplete());
+  const std::vector<std::pair<QByteArray, int>> wrong{
+      {"POST / HTTP/1.1\r\n\r\n", 405},
+      {"GET / HTTP/2\r\n\r\n", 505},
+      {"GET /\r\n\r\n", 400},
+      {"GET  / HTTP/1.1\r\n\r\n", 400},
+      {"GET http://x/ HTTP/1.1\r\n\r\n", 400},
+      {"\r\n\r\n", 400},
+      {QByteArray(HttpRequest::kLongest + 1, 'x'), 431},
+      {"GET / HTTP/1.1\n\n\r\n\r\n", 505}};
+  for (const auto& [text, status] : wrong) {
+    EXPECT_EQ(read(text, 100).Status(), status) << text.left(40).data();
+  }
+}
+
+TEST(MetricsListener, ServesFewClientsAndSurvivesStrangeOnes) {
+  const QByteArray large(8'000'000, 'x');
+  MetricsListener listener([&](const HttpRequest&) { return MetricsListener::Answer{200, large}; });
+  const quint16 port = listener.Listen(QHostAddress::LocalHost, 0).port;
+  ASSERT_NE(port, 0);
+  EXPECT_NE(MetricsListener({}).Listen(QHostAddress::LocalHost, port).error, "");
+
+  const auto connected = [port](const QByteArray& text) {
+    auto socket = std::make_unique<QTcpSocket>();
+    socket->connectToHost(QHostAddress::LocalHost, port);
+    socket->write(text);
+    return socket;
+  };
+  const auto isClosed = [](const auto& socket) {
+    return Soon([&] { return socket->state() == QAbstractSocket::UnconnectedState; });
+  };
+  std::vector<std::unique_ptr<QTcpSocket>> idle;
+  for (int i = 0; i < MetricsListener::kMostClients; ++i) idle.push_back(connected("GET /"));
+  ASSERT_TRUE(Soon([&] { return idle.back()->bytesToWrite() == 0; }));
+  const auto tooMany = connected("GET / HTTP/1.1\r\n\r\n");
+  EXPECT_TRUE(isClosed(tooMany));
+  EXPECT_EQ(tooMany->readAll(), "");
+  idle.pop_back();
+  QByteArray answer;
+  EXPECT_TRUE(Soon([&] {
+    const auto next = connected("GET / HTTP/1.1\r\n\r\n");
+    answer.clear();
+    isClosed(next);
+    answer = next->readAll();
+    return !answer.isEmpty();
+  }));
+  EXPECT_TRUE(answer.startsWith("HTTP/1.1 200 OK\r\n"));
+  EXPECT_TRUE(answer.endsWith(large));
+
+  MetricsListener impatient({}, std::chrono::milliseconds(50));
+  QTcpSocket slow;
+  slow.connectToHost(QHostAddress::LocalHost, impatient.Listen(QHostAddress::LocalHost, 0).port);
+  EXPECT_TRUE(isClosed(&slow)) << "who asks nothing is sent away";
+}
+
+}  // namespace

@@ -1,0 +1,78 @@
+// The dialog in the languages that the build makes from English: each text between brackets is from
+// the catalog, and each text with both brackets is whole.
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLabel>
+#include <QRegularExpression>
+#include <QTabBar>
+#include <gtest/gtest.h>
+
+#include "i18n/Catalog.h"
+#include "tests/pages/EachPage.h"
+
+namespace {
+
+// Nothing with letters is outside brackets, except the model's own names in some lists and the
+// letter of a mnemonic, "[...](&C)".
+bool IsTranslated(QString text) {
+  static const QRegularExpression known(QStringLiteral(
+      "\\[[^\\]]*\\]|\\(&.\\)|Model|Computer[12]|MIU|Video|gamma|temperature|aspect|button"));
+  text.remove(known);
+  return std::ranges::none_of(text, [](QChar character) { return character.isLetter(); });
+}
+
+void ExpectTranslated(const CDialog& window) {
+  EXPECT_TRUE(IsTranslated(window.windowTitle())) << window.windowTitle().toStdString();
+  for (const QWidget* widget : window.findChildren<QWidget*>()) {
+    if (!widget->isVisible()) continue;
+    QStringList texts{widget->toolTip(), widget->accessibleName()};
+    if (const auto* label = qobject_cast<const QLabel*>(widget)) texts += label->text();
+    if (const auto* button = qobject_cast<const QAbstractButton*>(widget)) texts += button->text();
+    if (const auto* list = qobject_cast<const QComboBox*>(widget)) {
+      for (int i = 0; i < list->count(); ++i) texts += list->itemText(i);
+    }
+    if (const auto* tabs = qobject_cast<const QTabBar*>(widget)) {
+      for (int i = 0; i < tabs->count(); ++i) texts += tabs->tabText(i);
+    }
+    for (const QString& text : texts) {
+      EXPECT_TRUE(IsTranslated(text)) << NameOf(*widget) << ": " << text.toStdString();
+    }
+  }
+}
+
+class PseudoLanguageTest : public testing::Test {
+ protected:
+  ~PseudoLanguageTest() override { Load("en_US.UTF-8", TEST_CATALOG_DIR); }
+
+  static void Load(const char* locale, const std::string& folder) {
+    qputenv("LC_ALL", locale);
+    EXPECT_EQ(LoadCatalog(std::span(&folder, 1)), 0);
+  }
+};
+
+TEST_F(PseudoLanguageTest, EveryTextOfEveryPageAndPopUpIsFromTheCatalog) {
+  Load("qps-ploc", TEST_PSEUDO_DIR);
+  ForEachPage([](OpenDialog& open, CTabPage&) { ExpectTranslated(open.Dialog()); });
+  ForEachPopup(ExpectTranslated);
+}
+
+TEST_F(PseudoLanguageTest, TheMirroredLanguageTurnsTheDialogAround) {
+  for (const char* locale : {"qps-plocm", "qps-ploc"}) {
+    Load(locale, TEST_PSEUDO_DIR);
+    const bool isMirrored = std::string(locale) == "qps-plocm";
+    OpenDialog open(FullModel(5, 30), 1);
+    const CTabPage& page = open.Page();
+    EXPECT_EQ(page.isRightToLeft(), isMirrored);
+    for (const RowTemplate& row : page.Template()->rows) {
+      const QWidget* first = page.GetDlgItem(row.controls[0].id);
+      const QWidget* second = page.GetDlgItem(row.controls[1].id);
+      if (first == nullptr || second == nullptr || !first->isVisible() || !second->isVisible()) {
+        continue;
+      }
+      EXPECT_EQ(first->x() > second->x(), isMirrored) << NameOf(*second);
+    }
+  }
+}
+
+}  // namespace

@@ -1,0 +1,197 @@
+// Every text has room on every page, in every language, at every font size and on small screens.
+
+#include <set>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QScreen>
+#include <QScrollArea>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include "i18n/Catalog.h"
+#include "i18n/CatalogLanguages.h"
+#include "tests/pages/EachPage.h"
+#include "toolkit/WindowText.h"
+
+namespace {
+
+QSize TextSize(const QWidget& widget, const QString& text) {
+  return {widget.fontMetrics().horizontalAdvance(text) + 8, widget.fontMetrics().height()};
+}
+
+// Every visible control must be inside its page, have enough space for its text, and overlap no
+// other.
+void ExpectNothingClipped(const CDialog& page) {
+  std::vector<const QWidget*> visible;
+  for (const RowTemplate& row : page.Template()->rows) {
+    for (const ControlTemplate& control : row.controls) {
+      const QWidget* widget = page.GetDlgItem(control.id);
+      if (widget == nullptr || !widget->isVisible()) continue;
+      EXPECT_TRUE(widget->parentWidget()->rect().contains(widget->geometry())) << NameOf(*widget);
+      const bool small = control.kind == ControlKind::Minus || control.kind == ControlKind::Plus ||
+                         control.kind == ControlKind::Arrow;
+      const QSize needed = control.kind == ControlKind::Slider ? widget->minimumSizeHint()
+                           : control.kind == ControlKind::Field
+                               ? TextSize(*widget, QStringLiteral("-128"))
+                           : small ? TextSize(*widget, WindowText(*widget))
+                                   : widget->sizeHint();
+      EXPECT_GE(widget->width(), needed.width()) << NameOf(*widget);
+      EXPECT_GE(widget->height(), needed.height()) << NameOf(*widget);
+      for (const QWidget* other : visible) {
+        if (other->parentWidget() != widget->parentWidget()) continue;
+        EXPECT_FALSE(other->geometry().intersects(widget->geometry()))
+            << NameOf(*widget) << " covers " << NameOf(*other);
+      }
+      if (std::string_view(control.caption) == "→") {
+        EXPECT_LT(visible.back()->x(), widget->x()) << "the arrows have changed places";
+      }
+      visible.push_back(widget);
+    }
+  }
+}
+
+// Window, tabs and Close must be on the screen, and so must each control that gets the focus.
+void ExpectInReach(CDialog& dialog) {
+  dialog.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+  QApplication::processEvents();  // updates the scroll bars
+  const QSize screen = dialog.screen()->availableGeometry().size();
+  EXPECT_EQ(dialog.size().boundedTo(screen), dialog.size());
+  const auto* scroll = dialog.findChild<QScrollArea*>();
+  if (scroll != nullptr && scroll->widget()->height() > scroll->height()) {
+    EXPECT_GE(dialog.height(), screen.height() - 50) << "there is more room";
+  }
+  const auto inSight = [&dialog](const QWidget& widget) {
+    const QRect shown = widget.visibleRegion().boundingRect();
+    return shown.height() == widget.height() && shown.width() >= std::min(widget.width(), 40) &&
+           dialog.rect().contains(QRect(widget.mapTo(&dialog, shown.topLeft()), shown.size()));
+  };
+  for (QWidget* widget : dialog.findChildren<QWidget*>()) {
+    if (!widget->isVisible() || widget->window() != &dialog) continue;
+    if (!(widget->focusPolicy() & Qt::TabFocus) || !widget->isEnabled()) continue;
+    widget->setFocus(Qt::TabFocusReason);
+    EXPECT_TRUE(inSight(*widget)) << NameOf(*widget);
+    for (const RowTemplate& row : dialog.Template()->rows) {
+      const ControlTemplate& close = row.controls.front();
+      if (close.kind != ControlKind::Close) continue;
+      EXPECT_TRUE(inSight(*dialog.GetDlgItem(close.id))) << "Close";
+    }
+  }
+}
+
+/// What a model's dialog looks like, independent of language and font.
+QString LooksOf(const CModelInfo2& model) {
+  OpenDialog open(model);
+  const QTabBar& tabs = *open.Dialog().findChild<QTabBar*>();
+  QString looks;
+  for (int tab = 0; tab < tabs.count(); ++tab) {
+    open.SelectTab(tab);
+    looks += '\n' + tabs.tabText(tab);
+    for (const RowTemplate& row : open.Page().Template()->rows) {
+      for (const ControlTemplate& control : row.controls) {
+        const QWidget* widget = open.Page().GetDlgItem(control.id);
+        if (widget == nullptr || !widget->isVisible()) continue;
+        looks += QStringLiteral("\n%1 %2 ").arg(control.id).arg(widget->isEnabled());
+        looks += WindowText(*widget);
+        const auto* list = qobject_cast<const QComboBox*>(widget);
+        for (int i = 0; list != nullptr && i < list->count(); ++i) looks += '|' + list->itemText(i);
+      }
+    }
+  }
+  return looks;
+}
+
+/// Models that together have nearly all rows.
+std::vector<CModelInfo2> FewModels() {
+  return {FullModel(1, 1), FullModel(2, 6),  FullModel(3, 10),
+          FullModel(4, 9), FullModel(5, 30), FullModel(5, 42)};
+}
+
+/// One model for each look; on unusual screens only one for each type, to save time.
+const std::vector<CModelInfo2>& ModelsByLook() {
+  static const std::vector<CModelInfo2> models = [] {
+    if (qEnvironmentVariableIsSet("TEST_SCREEN")) return FewModels();
+    std::vector<CModelInfo2> different;
+    std::set<QString> looks;
+    for (const CModelInfo2& model : EveryModel()) {
+      if (looks.insert(LooksOf(model)).second) different.push_back(model);
+    }
+    return different;
+  }();
+  return models;
+}
+
+class LanguageTest : public testing::Test {
+ protected:
+  ~LanguageTest() override {
+    QApplication::setFont(font);
+    QApplication::setLayoutDirection(Qt::LeftToRight);
+    Use("en_US.UTF-8");
+  }
+
+  static void Use(const std::string& locale) {
+    qputenv("LC_ALL", locale.c_str());
+    EXPECT_EQ(LoadCatalog(), 0);
+  }
+
+  const QFont font = QApplication::font();
+};
+
+class ScreenSizeTest : public LanguageTest, public testing::WithParamInterface<std::string> {
+ protected:
+  const std::vector<CModelInfo2>& models = ModelsByLook();
+};
+
+TEST_P(ScreenSizeTest, NothingIsClippedOrOutOfReachAtAnyFontSize) {
+  Use(GetParam());
+  // The smallest font in both directions.
+  for (const double scale : {-1.0, 1.0, 1.5, 2.0}) {
+    QFont scaled = font;
+    scaled.setPointSizeF(font.pointSizeF() * std::abs(scale));
+    QApplication::setFont(scaled);
+    QApplication::setLayoutDirection(scale < 0 ? Qt::RightToLeft : Qt::LeftToRight);
+    SCOPED_TRACE(scale);
+    const auto expectRoom = [](CDialog& page, CDialog& dialog) {
+      ExpectNothingClipped(page);
+      ExpectInReach(dialog);
+    };
+    ForEachPage([&](OpenDialog& open, CTabPage& page) { expectRoom(page, open.Dialog()); }, models);
+    ForEachPopup([&](CDialog& popUp) { expectRoom(popUp, popUp); });
+  }
+}
+
+/// The languages of the catalog's modules, or with TEST_LANGUAGES all of them.
+std::vector<std::string> Locales() {
+  std::vector<std::string> locales{"en_US.UTF-8", "zh_CN.UTF-8"};
+  if (!qEnvironmentVariableIsSet("TEST_LANGUAGES")) return locales;
+  locales.clear();
+  for (const CatalogLanguage& language : CatalogLanguages(CatalogFolders())) {
+    locales.push_back(LocaleOf(language.id));
+  }
+  return locales;
+}
+
+INSTANTIATE_TEST_SUITE_P(EachLanguage, ScreenSizeTest, testing::ValuesIn(Locales()));
+
+// Tabs must show their texts whole too.
+TEST_F(LanguageTest, NothingIsClipped) {
+  for (const CatalogLanguage& language : CatalogLanguages(CatalogFolders())) {
+    SCOPED_TRACE(language.tag);
+    Use(LocaleOf(language.id));
+    const auto expectRoom = [](OpenDialog& open, CTabPage& page) {
+      ExpectNothingClipped(page);
+      const QSize screen = page.screen()->availableGeometry().size();
+      EXPECT_EQ(open.Dialog().size().boundedTo(screen), open.Dialog().size());
+      const auto& tabs = *open.Dialog().findChild<QTabBar*>();
+      for (int i = 0; i < tabs.count(); ++i) {
+        EXPECT_GE(tabs.tabRect(i).width(), TextSize(tabs, tabs.tabText(i)).width())
+            << tabs.tabText(i).toStdString();
+      }
+    };
+    ForEachPage(expectRoom, FewModels());
+    ForEachPopup([](CDialog& popUp) { ExpectNothingClipped(popUp); });
+  }
+}
+
+}  // namespace

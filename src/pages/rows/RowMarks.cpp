@@ -90,8 +90,8 @@ void RowMarks::paintEvent(QPaintEvent*) {
     }
     if (mark.refused) {
       painter.setPen(warning);
-      painter.drawText(place(kSpace, kSignWidth), Qt::AlignCenter | Qt::TextDontClip,
-                       QStringLiteral("!"));
+      painter.drawText(place(mark.differs ? kSpace : kSignWidth + 1, kSignWidth),
+                       Qt::AlignCenter | Qt::TextDontClip, QStringLiteral("!"));
     }
   }
 }

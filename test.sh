@@ -10,4 +10,6 @@ cmake --preset asan >/dev/null
 cmake --build --preset asan
 cmake --build --preset asan --target format-check
 echo "Testing"
-ctest --preset asan -j "$(nproc)" "$@"
+# Many tests mostly wait.
+ctest --preset asan -j $((2 * $(nproc))) "$@" ||
+  { echo "Tests failed. To see them again: ctest --preset asan --rerun-failed" >&2; exit 1; }

@@ -7,6 +7,7 @@
 #include <thread>
 #include <vector>
 
+#include <QCoreApplication>
 #include <QEventLoop>
 #include <QHostAddress>
 #include <benchmark/benchmark.h>

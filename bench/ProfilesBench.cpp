@@ -33,7 +33,7 @@ QByteArray ManyProfiles(int count) {
     entries.append(entry);
   }
   file["projectors"] = entries;
-  return QJsonDocument(file).toJson();
+  return QJsonDocument(file).toJson(QJsonDocument::Compact);
 }
 
 double HeapMegabytes() {

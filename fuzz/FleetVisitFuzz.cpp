@@ -110,7 +110,7 @@ class Projector {
       const auto end = lines_.find('\r');
       if (end == std::string::npos) return replies;
       const auto mark = lines_.find('%');
-      if (mark + 6 < end) {
+      if (mark < end && mark + 6 < end) {
         const std::string_view text = script_.substr(0, Next() % 16);
         replies += lines_.substr(mark, 6) + '=' + std::string(text) + '\r';
         script_.remove_prefix(std::min(text.size(), script_.size()));

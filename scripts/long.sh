@@ -1,11 +1,17 @@
 #!/usr/bin/env bash
 # What takes too long for every change: fuzzing on the kept corpus, random walks over the host application and the
+<<<<<<< HEAD
+# dialogs of every model, kills of both ends, and calls that fail; then each file compiled without the headers of others,
+# clang-tidy over everything, the checks of a release, and whether memory grows in a hundred sweeps of a fleet. Adds a
+# line to the table in docs/reliability.md.
+=======
 # dialogs of every model, kills of both ends, every page in every language, clang-tidy over everything, and whether memory
 # grows in a hundred sweeps of a fleet. Adds a line to the table in docs/reliability.md.
+>>>>>>> main
 # Usage: scripts/long.sh [time, such as 2h or 20m]
 #
-# A third of the time goes to each. The sanitizers watch the walks; PRESET=dev takes another build. What was found is
-# told at the end, with what to run to see it again, and ends the script with 1.
+# A quarter of the time goes to each of the first four. The sanitizers watch the walks; PRESET=dev takes another build.
+# What was found is told at the end, with what to run to see it again, and ends the script with 1.
 set -uo pipefail
 cd "$(dirname "$0")/.."
 
@@ -16,13 +22,15 @@ case "${1:-2h}" in
 esac
 preset="${PRESET:-asan}"
 bin="build/$preset/bin"
-part=$((seconds / 3))
+part=$((seconds / 4))
 logs=build/long
 findings=()
 mkdir -p "$logs"
 
 echo "Building (build/$preset)"
 cmake --preset "$preset" >/dev/null && cmake --build --preset "$preset" || exit 1
+echo "Building (build/check)"
+cmake --preset check >/dev/null && cmake --build --preset check || exit 1
 
 targets=$(ls fuzz/corpus | wc -l)
 if ! scripts/fuzz.sh $((part * $(nproc) / targets)) | tee "$logs/fuzz.log"; then
@@ -57,6 +65,11 @@ if ! kills=$(scripts/kills.py "$bin" "$part" "$seed" 2>"$logs/kills.log"); then
   findings+=("kills: scripts/kills.py $bin $part $seed, and $logs/kills.log")
 fi
 
+<<<<<<< HEAD
+echo "Failing calls for $part s"
+faults=$(scripts/faults.py build/check "$part" "$seed" 2>"$logs/faults.log") ||
+  findings+=("calls that fail: $(tail -n 1 "$logs/faults.log"), and $logs/faults.log")
+=======
 echo "Every page in every language"
 for screen in "1024x768 1" "1920x1080 2" "1920x1080 3"; do
   read -r size scale <<<"$screen"
@@ -71,17 +84,24 @@ if ! (cmake --preset release -B build/check -DADVANCEDCONTROL_TESTS=OFF >/dev/nu
       scripts/tidy.py build/check) >"$logs/tidy.log" 2>&1; then
   findings+=("clang-tidy: scripts/tidy.py build/check, and $logs/tidy.log")
 fi
+>>>>>>> main
 
-echo "A hundred sweeps of a fleet"
-if ! build/check/bin/fleet-bench --benchmark_filter=ManySweeps >"$logs/sweeps.log" 2>&1 ||
-  grep -q 'ERROR OCCURRED' "$logs/sweeps.log"; then
-  findings+=("sweeps: build/check/bin/fleet-bench --benchmark_filter=ManySweeps, and $logs/sweeps.log")
-fi
+# further <what> <command line>
+further() {
+  echo "$1"
+  bash -euo pipefail -c "$2" >"$logs/${1// /-}.log" 2>&1 || findings+=("$1: $2, and $logs/${1// /-}.log")
+}
+further "each file alone" "cmake --preset dev && cmake --build --preset dev"
+further "clang-tidy over everything" "scripts/tidy.py build/check --deep"
+further "the checks of a release" "scripts/check-release.sh"
+
+further "a hundred sweeps of a fleet" \
+  "! build/check/bin/fleet-bench --benchmark_filter=ManySweeps 2>&1 | tee /dev/stderr | grep -q 'ERROR OCCURRED'"
 
 said=none
 [ ${#findings[@]} -eq 0 ] || said="${#findings[@]}, to be mended"
-printf "| %s | %s | %s | %d s | %'d | %'d | %'d | %s |\n" "$(date -u +%F)" "$(git rev-parse --short HEAD)" "$preset" \
-  "$seconds" "$runs" "$actions" "${kills:-0}" "$said" | tee -a docs/reliability.md
+printf "| %s | %s | %s | %d s | %'d | %'d | %'d | %'d | %s |\n" "$(date -u +%F)" "$(git rev-parse --short HEAD)" "$preset" \
+  "$seconds" "$runs" "$actions" "${kills:-0}" "${faults%% *}" "$said" | tee -a docs/reliability.md
 [ ${#findings[@]} -eq 0 ] && exit
 printf 'Found by %s\n' "${findings[@]}" >&2
 exit 1

@@ -15,7 +15,8 @@ packages=(
   gettext qt6-l10n-tools qt6-tools-dev qt6-translations-l10n
   at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi xvfb
   fonts-dejavu-core fonts-wqy-microhei
-  libmosquitto-dev mosquitto mosquitto-clients prometheus prometheus-alertmanager curl
+  desktop-file-utils appstream
+  libmosquitto-dev mosquitto mosquitto-clients prometheus prometheus-alertmanager curl openssl
 )
 
 missing=()

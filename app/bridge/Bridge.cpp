@@ -54,9 +54,10 @@ Bridge::Bridge(const Options& options, std::vector<FleetProfile> profiles,
               [this](std::size_t projector, const Command& command, const WorkResult& result) {
                 FinishCommand(projector, command, result);
               }),
+      drift_(fleet_, texts_, options_.snapshots),
       listener_([this](const HttpRequest& request) { return AnswerRequest(request); }) {
   QObject::connect(&tick_, &QTimer::timeout, &tick_, [this] { Tick(); });
-  QObject::connect(&observing_, &QTimer::timeout, &observing_, [this] { Observe(); });
+  QObject::connect(&observing_, &QTimer::timeout, &observing_, [this] { fleet_.Observe(); });
   QObject::connect(&writing_, &QTimer::timeout, &writing_, [this] { WriteTextFile(); });
 }
 
@@ -83,6 +84,7 @@ QString Bridge::Start() {
     if (const QString error = link_->Start(); !error.isEmpty()) return "--broker: " + error;
   }
   Log(QStringLiteral("watches %1 projectors").arg(fleet_.Count()));
+  if (!options_.snapshots.isEmpty()) drift_.Start([this] { return MayAsk(); });
   tick_.start(kTick);
   observing_.start(kObserving);
   Tick();
@@ -114,7 +116,10 @@ BrokerMessage Bridge::MessageOf(Publisher::Kind kind, std::size_t projector) {
     return {options_.discoveryPrefix + "/device/" + id + "/config",
             discovery_.MessageOf(profile, id), true};
   }
-  return {topics_.State(id), StateMessage(profile, fleet_.State(projector)), true};
+  const LiveState state = fleet_.State(projector);
+  // The broker may have what another run of the bridge knew.
+  if (state.reachability == Reachability::NeverAsked) return {};
+  return {topics_.State(id), StateMessage(profile, state), true};
 }
 
 void Bridge::Take(const BrokerMessage& message) {
@@ -146,16 +151,15 @@ void Bridge::FinishCommand(std::size_t projector, const Command& command,
 
 void Bridge::Tick() {
   if (link_) link_->Tick();
-  fleet_.SetAsking(!link_ || link_->MayAsk());
+  fleet_.SetAsking(MayAsk());
+  if (!MayAsk()) runner_.StopAll();
 }
-
-void Bridge::Observe() { fleet_.Observe(); }
 
 BridgeCounts Bridge::Counts() const {
   BridgeCounts counts{.version = ADVANCED_CONTROL_VERSION,
                       .share = options_.share.Name().toStdString(),
                       .projectors = fleet_.Count(),
-                      .holdsShare = !link_ || link_->MayAsk(),
+                      .holdsShare = MayAsk(),
                       .takesCommands = desk_.TakesCommands(),
                       .visits = fleet_.Tally(),
                       .answers = fleet_.Answers(),
@@ -171,7 +175,7 @@ BridgeCounts Bridge::Counts() const {
 const QByteArray& Bridge::AllMetrics() {
   if (const auto now = Clock::now(); rendered_.isEmpty() || now - renderedAt_ > kRendered) {
     MetricsText text;
-    if (!link_ || link_->MayAsk()) AddProjectors(text, fleet_.States());
+    if (MayAsk()) AddProjectors(text, fleet_.States());
     AddBridge(text, Counts());
     rendered_ = text.Text();
     renderedAt_ = now;

@@ -12,6 +12,7 @@
 #include "app/bridge/CommandDesk.h"
 #include "app/bridge/CommandRunner.h"
 #include "app/bridge/Discovery.h"
+#include "app/bridge/DriftCheck.h"
 #include "app/bridge/MetricsListener.h"
 #include "app/bridge/ModelBook.h"
 #include "app/bridge/Options.h"
@@ -37,8 +38,8 @@ class Bridge {
   QByteArray Probe(std::size_t projector) const;
   const QByteArray& AllMetrics();
   BridgeCounts Counts() const;
+  bool MayAsk() const { return !link_ || link_->MayAsk(); }
   void Tick();
-  void Observe();
   void WriteTextFile();
 
   const Options options_;
@@ -50,6 +51,7 @@ class Bridge {
   std::unique_ptr<BrokerLink> link_;  ///< Null without a broker.
   CommandDesk desk_;
   CommandRunner runner_;
+  DriftCheck drift_;
   MetricsListener listener_;
   QByteArray rendered_;  ///< The last metrics, for clients that come together.
   std::chrono::steady_clock::time_point renderedAt_{};

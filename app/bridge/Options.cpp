@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include <QCommandLineParser>
+#include <QDir>
 #include <QFile>
 
 namespace {
@@ -58,6 +59,8 @@ class Reader {
                                  "tag"};
   const QCommandLineOption interval_{
       "interval", "Visit each projector every <seconds>, at least 5.", "seconds", "60"};
+  const QCommandLineOption compare_{
+      "compare", "Once a day, compare each projector with its snapshot in <folder>.", "folder"};
   const QCommandLineOption notices_{
       "notices", "Listen at <address> for the status notices of projectors.", "address"};
   const QCommandLineOption listen_{"listen", "Serve metrics at <address:port>; 'none' for nowhere.",
@@ -198,10 +201,10 @@ CommandDesk::Rules Reader::ReadCommands() const {
 Options Reader::Read(const QStringList& arguments) {
   parser_.setApplicationDescription(
       "Watches projectors, and tells a metrics store and a message broker of them.");
-  parser_.addOptions({help_,     profiles_, share_,     tags_,    interval_, notices_,
-                      listen_,   textFile_, broker_,    mqtt_,    userFile_, passwordFile_,
-                      tls_,      caFile_,   certFile_,  keyFile_, prefix_,   discovery_,
-                      takeover_, allow_,    perMinute_, language_});
+  parser_.addOptions({help_,         profiles_, share_,    tags_,      interval_, compare_,
+                      notices_,      listen_,   textFile_, broker_,    mqtt_,     userFile_,
+                      passwordFile_, tls_,      caFile_,   certFile_,  keyFile_,  prefix_,
+                      discovery_,    takeover_, allow_,    perMinute_, language_});
   if (!parser_.parse(arguments)) throw WrongOption{parser_.errorText()};
   if (const QStringList rest = parser_.positionalArguments(); !rest.isEmpty()) {
     throw WrongOption{QStringLiteral("unexpected argument '%1'").arg(rest.first())};
@@ -218,6 +221,10 @@ Options Reader::Read(const QStringList& arguments) {
   options.interval = Seconds(interval_, kShortestInterval);
   if (parser_.isSet(notices_) && !options.notices.setAddress(parser_.value(notices_))) {
     ThrowWrong(notices_, QStringLiteral("is no numeric address"));
+  }
+  options.snapshots = parser_.value(compare_);
+  if (parser_.isSet(compare_) && !QDir(options.snapshots).exists()) {
+    ThrowWrong(compare_, QStringLiteral("is no folder"));
   }
   ReadListener(options);
   options.broker = ReadBroker();

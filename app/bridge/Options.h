@@ -17,6 +17,7 @@ struct Options {
   QString profiles{};
   Share share{};
   std::chrono::milliseconds interval{60'000};
+  QString snapshots{};     ///< Folder of those to compare with; empty for no comparison.
   QHostAddress notices{};  ///< Where to listen for status notices; null for nowhere.
 
   bool listens = true;

@@ -112,15 +112,17 @@ std::optional<Bounds> Span(const QString& text) {
   // The last part of it, as an address has it.
   constexpr qsizetype kLongestPart = 4;
   constexpr int kHexadecimal = 16;
-  std::optional<std::uint32_t> part = first->isV6 ? std::nullopt : Number(end, UINT8_MAX);
-  if (first->isV6 && end.size() <= kLongestPart) {
-    bool isNumber = false;
-    const std::uint32_t number = end.toUShort(&isNumber, kHexadecimal);
-    if (isNumber) part = number;
+  bool isNumber = false;
+  std::uint64_t part = 0;
+  if (first->isV6) {
+    if (end.size() <= kLongestPart) part = end.toUShort(&isNumber, kHexadecimal);
+  } else if (const auto number = Number(end, UINT8_MAX)) {
+    isNumber = true;
+    part = *number;
   }
-  if (!part) return std::nullopt;
+  if (!isNumber) return std::nullopt;
   const std::uint64_t mask = first->isV6 ? UINT16_MAX : UINT8_MAX;
-  const std::uint64_t last = (first->low & ~mask) | *part;
+  const std::uint64_t last = (first->low & ~mask) | part;
   return first->low <= last ? std::optional(Bounds{*first, last}) : std::nullopt;
 }
 

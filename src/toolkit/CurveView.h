@@ -35,6 +35,8 @@ class CurveView : public QWidget {
   /// Shows the lines, and marks the points of the value `marked`.
   void Show(std::vector<Line> lines, std::optional<int> marked = {});
 
+  std::optional<int> Marked() const { return marked_; }
+
   /// The place of a point, in the picture's coordinates.
   QPointF PlaceOf(const QPointF& point) const;
 

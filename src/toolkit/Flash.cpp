@@ -22,7 +22,7 @@ class FlashFrame final : public QWidget {
   FlashFrame(QWidget& parent, const QRect& place) : QWidget(&parent) {
     setObjectName(QStringLiteral("flash"));
     setAttribute(Qt::WA_TransparentForMouseEvents);
-    setGeometry(place.adjusted(-kMargin, -kMargin / 2, kMargin, kMargin / 2));
+    setGeometry(place.adjusted(-kMargin, -kMargin / 2, kMargin, kMargin / 2) & parent.rect());
     QTimer::singleShot(kDuration, this, &QObject::deleteLater);
     raise();
     show();

@@ -46,6 +46,7 @@ class Subscriber {
     const auto found = last.find(topic);
     return found == last.end() ? QJsonObject() : QJsonDocument::fromJson(found->second).object();
   }
+  bool Saw(const char* text) { return daemon_->Said().contains(text); }
   int Count(const QByteArray& topic) { return Last(), counts_[topic]; }
   /// How many topics with this end have a message that contains a text.
   int With(const char* end, const char* text = "") {
@@ -170,6 +171,7 @@ TEST_F(BridgeProgram, ServesFiveHundredProjectorsThroughFailures) {
     return subscriber->Count("projectors/bridge/2-of-2/availability") >= before + 2 &&
            isComplete() && subscriber->With("/availability", "online") == 2;
   }));
+  EXPECT_FALSE(subscriber->Saw("never-asked")) << "what the dead bridge knew holds until the visit";
   const QRegularExpression most("at-once (\\d+)");
   EXPECT_LE(most.match(QString::fromStdString(Control("* count"))).captured(1).toInt(), 1)
       << "never two connections to a projector";
@@ -188,9 +190,10 @@ TEST_F(BridgeProgram, TellsABrokerThatForgotEverythingAgain) {
 }
 
 TEST_F(BridgeProgram, CarriesOutWhatIsAllowedAndAnswers) {
-  StartProjectors(10, {"--link", "network"});
+  StartProjectors(40, {"--link", "network"});
   MosquittoBroker broker(folder_.path());
-  auto bridge = Bridge(At(broker) + QStringList{"--allow-commands", "power,picture.*"});
+  auto bridge =
+      Bridge(At(broker) + QStringList{"--allow-commands", "power,picture.*,setup.auto-keystone"});
   Subscriber subscriber(broker.port, {"projectors/#", "homeassistant/#"});
   // One that is on and has the setting.
   QByteArray id;
@@ -199,18 +202,21 @@ TEST_F(BridgeProgram, CarriesOutWhatIsAllowedAndAnswers) {
       if (!topic.endsWith("/state") || !payload.contains("\"power\":\"on\"")) continue;
       const QByteArray level = topic.split('/')[1];
       const auto config = subscriber.Last().find("homeassistant/device/" + level + "/config");
-      const bool has =
-          config != subscriber.Last().end() && config->second.contains("/set/picture.brightness");
+      const bool has = config != subscriber.Last().end() &&
+                       config->second.contains("/set/picture.brightness") &&
+                       config->second.contains("/set/setup.auto-keystone");
       if (has) id = level;
     }
     return !id.isEmpty();
   })) << bridge->Said().data();
   const QByteArray answer = "projectors/" + id + "/answer";
+  std::string last;
   const auto outcomeOf = [&](const QString& topic, const QStringList& what,
                              const QByteArray& input = {}) {
     const int before = subscriber.Count(answer);
     Publish(broker, QStringList{"-t", "projectors/" + QString(id) + topic} + what, input);
     EXPECT_TRUE(Soon([&] { return subscriber.Count(answer) > before; })) << topic.toStdString();
+    last = subscriber.Last().at(answer).left(300).toStdString();
     return subscriber.Json(answer)["outcome"].toString().toStdString();
   };
   const std::string changes = Changes();
@@ -224,12 +230,12 @@ TEST_F(BridgeProgram, CarriesOutWhatIsAllowedAndAnswers) {
   EXPECT_EQ(outcomeOf("/set", {"-m", R"({"key":"picture.brightness","value":-3,"id":"mine"})"}),
             "accepted");
   EXPECT_EQ(subscriber.Json(answer)["id"], "mine");
+  EXPECT_EQ(outcomeOf("/set/setup.auto-keystone", {"-m", "run"}), "accepted") << last;
   EXPECT_NE(Changes(), changes);
   EXPECT_EQ(outcomeOf("/set/power", {"-m", "off"}), "accepted");
   EXPECT_TRUE(Soon([&] {
     return subscriber.Json("projectors/" + id + "/state")["power"] == "standby";
   })) << "what a command tells is published";
-  EXPECT_EQ(outcomeOf("/set/picture.brightness", {"-m", "3"}), "standby");
 
   // Both kill switches.
   const std::string now = Changes();
@@ -257,6 +263,47 @@ TEST_F(BridgeProgram, CarriesOutWhatIsAllowedAndAnswers) {
   bridge = Bridge(At(broker) + QStringList{"--allow-commands", "power"});
   EXPECT_TRUE(Soon([&] { return subscriber.Count(answer) > before; }));
   EXPECT_EQ(subscriber.Json(answer)["outcome"], "error");
+}
+
+TEST_F(BridgeProgram, ProvesWhoItIs) {
+  StartProjectors(3);
+  const QByteArray folder = folder_.path().toUtf8();
+  const QByteArray make = R"(cd "$1"
+    key() { openssl ecparam -genkey -name prime256v1 -noout -out "$1.key"; }
+    sign() {
+      key "$1"
+      openssl req -new -key "$1.key" -subj "/CN=$2" -out "$1.csr"
+      openssl x509 -req -in "$1.csr" -CA ca.crt -CAkey ca.key -CAcreateserial -days 2 -out "$1.crt"
+    }
+    set -e
+    key ca
+    openssl req -x509 -new -key ca.key -subj /CN=ca -days 2 -out ca.crt
+    sign broker localhost
+    sign bridge bridge
+    mosquitto_passwd -b -c passwords hall secret
+    chmod a+r ./*
+    echo hall > user; echo secret > password; echo wrong > wrong)";
+  const Outcome made =
+      ::Run("bash", {"-c", make, "bash", folder_.path()}, QProcessEnvironment::systemEnvironment());
+  ASSERT_EQ(made.exitCode, 0) << made.errors;
+  MosquittoBroker broker(folder_.path(), true,
+                         "allow_anonymous false\nrequire_certificate true\ncafile " + folder +
+                             "/ca.crt\ncertfile " + folder + "/broker.crt\nkeyfile " + folder +
+                             "/broker.key\npassword_file " + folder + "/passwords\n");
+  const auto at = [&](const char* password, bool hasCertificate) {
+    const auto file = [&](const char* name) { return folder_.filePath(name); };
+    QStringList arguments{"--broker",        QString("localhost:%1").arg(broker.port),
+                          "--ca-file",       file("ca.crt"),
+                          "--user-file",     file("user"),
+                          "--password-file", file(password)};
+    if (hasCertificate) {
+      arguments += {"--cert-file", file("bridge.crt"), "--key-file", file("bridge.key")};
+    }
+    return arguments;
+  };
+  EXPECT_TRUE(Bridge(at("wrong", true))->Says("not connected to the broker: Connection Refused"));
+  EXPECT_TRUE(Bridge(at("password", false))->Says("not connected to the broker"));
+  EXPECT_TRUE(Bridge(at("password", true))->Says(": connected to the broker"));
 }
 
 TEST_F(BridgeProgram, WritesATextFileAndNeedsNoBroker) {

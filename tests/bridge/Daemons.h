@@ -81,12 +81,14 @@ inline QByteArray Get(quint16 port, const QByteArray& target) {
 /// Debian's message broker, with what it keeps in a folder.
 class MosquittoBroker {
  public:
-  explicit MosquittoBroker(const QString& folder, bool remembers = true)
+  /// `more` are lines for its file.
+  explicit MosquittoBroker(const QString& folder, bool remembers = true,
+                           const QByteArray& more = "allow_anonymous true\n")
       : file_(folder + "/broker") {
-    Write(file_,
-          "listener " + QByteArray::number(port) +
-              " 127.0.0.1\nuser root\nallow_anonymous true\nmax_queued_messages 0\npersistence " +
-              (remembers ? "true" : "false") + "\npersistence_location " + folder.toUtf8() + "/\n");
+    Write(file_, "listener " + QByteArray::number(port) +
+                     " 127.0.0.1\nuser root\nmax_queued_messages 0\npersistence " +
+                     (remembers ? "true" : "false") + "\npersistence_location " + folder.toUtf8() +
+                     "/\n" + more);
     Start();
   }
   void Start() {

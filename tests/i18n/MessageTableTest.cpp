@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <ctime>
@@ -58,6 +59,24 @@ TEST(MessageTable, LowerResourceComesFirst) {
   ASSERT_TRUE(table);
   EXPECT_EQ(TextIn(*table, 1033, 1), "first");
   EXPECT_EQ(TextIn(*table, 1033, 2), "only here");
+}
+
+// Texts in an ANSI code page differ by language, although the bytes are the same.
+TEST(MessageTable, LanguagesWithTheSameTableShareItsUnicodeTexts) {
+  const auto parse = [](const TestEntry& entry) {
+    TestModule module({{1036, {{1, {entry}}}}, {1049, {{1, {entry}}}}});
+    const std::size_t slots = module.names + 24 + 20;
+    std::copy_n(module.bytes.begin() + static_cast<std::ptrdiff_t>(slots), 4,
+                module.bytes.begin() + static_cast<std::ptrdiff_t>(slots) + 8);
+    return MessageTable::Parse(module.bytes);
+  };
+  const auto unicode = parse(Unicode(u"\u00E9"));
+  const auto ansi = parse(Ansi("\xE9"));
+  ASSERT_TRUE(unicode && ansi);
+  EXPECT_EQ(TextIn(*unicode, 1036, 1) + TextIn(*unicode, 1049, 1), "éé");
+  EXPECT_EQ(unicode->Count(), 1U);
+  EXPECT_EQ(unicode->Languages().back().first, 1036U);
+  EXPECT_EQ(TextIn(*ansi, 1036, 1) + TextIn(*ansi, 1049, 1), "éй");
 }
 
 TEST(MessageTable, RefusesDamagedModules) {

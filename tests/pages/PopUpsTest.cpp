@@ -2,6 +2,7 @@
 
 #include <tuple>
 
+#include <QApplication>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -83,6 +84,12 @@ TEST(GammaPopUp, APointOfTheCurveCanBeDraggedAndSendsWhatItsSliderSends) {
   open.Projector().Take();
   open.driver.Drag(21025, 9);
   EXPECT_EQ(open.Projector().Take(), byCurve);
+  open.popUp->activateWindow();
+  ASSERT_TRUE(Soon([&] { return QApplication::activeWindow() == open.popUp.get(); }));
+  for (const auto& [control, point] : {std::pair{20181, 0}, {20341, 5}, {20168, 2}}) {
+    open.popUp->GetDlgItem(control)->setFocus();
+    EXPECT_EQ(curve.Marked(), point) << "the point of the row with the focus";
+  }
   drag(100);
   EXPECT_EQ(open.driver.SliderAt(21025), open.driver.Item<QSlider>(21025).maximum());
   QTest::mouseClick(&curve, Qt::LeftButton, {}, curve.PlaceOf({0.5, 1.2}).toPoint());

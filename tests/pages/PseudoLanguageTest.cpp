@@ -13,13 +13,28 @@
 
 namespace {
 
-// Nothing with letters is outside brackets, except the model's own names in some lists and the
-// letter of a mnemonic, "[...](&C)".
+// Texts that are the same in every language: names of signals, the model's own names, and what the
+// templates of some pages show without the catalog.
+const QStringList kUntranslated{
+    "Model",        "Computer1",   "Computer2",     "gamma",       "temperature",
+    "aspect",       "button",      "RGB",           "RGB1",        "RGB2",
+    "M1-D",         "MIU",         "DVI",           "TV",          "DVD",
+    "SMPTE240",     "REC709",      "REC601",        "Scart RGB",   "Component",
+    "S-Video",      "Video",       "PAL",           "SECAM",       "NTSC",
+    "NTSC 4.43",    "NTSC4.43",    "M-PAL",         "N-PAL",       "1080i",
+    "1035i",        "Computer",    "Auto",          "Information", "Auto Keystone Execute",
+    "FILM",         "My Memory",   "Low",           "Middle",      "High",
+    "Off",          "Movie",       "Normal",        "Enhanced",    "Filter Reset",
+    "Picture Mode", "Still Image", "Current Input", "On",          "Sync On G Off",
+    "Sync On G On"};
+
+// Without what is in brackets and without the letter of a mnemonic, "[...](&C)".
 bool IsTranslated(QString text) {
-  static const QRegularExpression known(QStringLiteral(
-      "\\[[^\\]]*\\]|\\(&.\\)|Model|Computer[12]|MIU|Video|gamma|temperature|aspect|button"));
+  static const QRegularExpression known(QStringLiteral("\\[[^\\]]*\\]|\\(&.\\)"));
   text.remove(known);
-  return std::ranges::none_of(text, [](QChar character) { return character.isLetter(); });
+  if (text.endsWith(':')) text.chop(1);
+  return kUntranslated.contains(text) ||
+         std::ranges::none_of(text, [](QChar character) { return character.isLetter(); });
 }
 
 void ExpectTranslated(const CDialog& window) {

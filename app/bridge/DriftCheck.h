@@ -1,0 +1,36 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <memory>
+
+#include <QString>
+#include <QTimer>
+
+#include "app/bridge/BridgeFleet.h"
+#include "fleet/FleetJob.h"
+#include "snapshots/SettingTexts.h"
+
+/// Finds out once a day how many settings of each projector differ from its snapshot, a few
+/// projectors at a time. The fleet learns the numbers. Lives on the main thread.
+class DriftCheck {
+ public:
+  /// The snapshot that a profile names "good" is `folder`/good.json. `fleet` and `texts` must
+  /// outlive it.
+  DriftCheck(BridgeFleet& fleet, const SettingTexts& texts, QString folder);
+
+  /// Begins, the first time after `first`. Does nothing while `mayAsk` is false.
+  void Start(std::function<bool()> mayAsk,
+             std::chrono::milliseconds first = std::chrono::minutes(1));
+
+ private:
+  void Check();
+
+  BridgeFleet& fleet_;
+  const SettingTexts& texts_;
+  const QString folder_;
+  std::function<bool()> mayAsk_;
+  std::chrono::milliseconds first_{};
+  QTimer timer_;
+  std::unique_ptr<FleetJob> job_;  ///< The last one; ends first.
+};

@@ -1,0 +1,37 @@
+#!/usr/bin/env bash
+# Whether programs that were built with the libraries of an earlier state still run with those of this one: functions and
+# types that users see, compared by abidiff. Usage: scripts/check-abi.sh [COMMIT, instead of the last tag]
+#
+# It needs abigail-tools. What was only added is no break.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+since="${1:-$(git describe --tags --abbrev=0 2>/dev/null || true)}"
+[ -n "$since" ] || { echo "No release has a tag yet: name a commit to compare with" >&2; exit 2; }
+libraries="ProjectorCommon ProjectorSettings ProjectorFleet AdvancedControl"
+then=build/abi/then
+git worktree remove --force "$then" 2>/dev/null || true
+trap 'git worktree remove --force "$then" 2>/dev/null || true' EXIT
+git worktree add --detach "$then" "$since" >/dev/null
+for source in . "$then"; do
+  into=build/abi/$([ "$source" = . ] && echo now || echo before)
+  cmake -S "$source" -B "$into" -G Ninja -DCMAKE_BUILD_TYPE=Debug -DADVANCEDCONTROL_TESTS=OFF \
+    -DADVANCEDCONTROL_BENCHMARKS=OFF -DADVANCEDCONTROL_PRECOMPILE=ON >/dev/null
+  # A library that an earlier state has not is not compared.
+  for library in $libraries; do
+    cmake --build "$into" --target "$library" >/dev/null || [ "$source" != . ]
+  done
+done
+broken=0
+for library in $libraries; do
+  before=build/abi/before/bin/lib$library.so
+  [ -e "$before" ] || { echo "$library is new"; continue; }
+  if abidiff --no-added-syms --headers-dir1 "$then/src" --headers-dir2 src \
+    --drop-private-types "$before" "build/abi/now/bin/lib$library.so" >"build/abi/$library.txt"; then
+    echo "$library: compatible with $since"
+  else
+    echo "$library: see build/abi/$library.txt"
+    broken=1
+  fi
+done
+exit $broken

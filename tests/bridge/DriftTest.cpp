@@ -1,0 +1,56 @@
+// A bridge's fleet, and how it finds out what differs from a snapshot.
+
+#include <memory>
+
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+#include "app/bridge/DriftCheck.h"
+#include "snapshots/Snapshot.h"
+#include "tests/fleet/Served.h"
+#include "tests/support/Programs.h"
+
+namespace {
+
+TEST(DriftCheck, TellsHowManySettingsDiffer) {
+  Served served;
+  auto model = std::make_shared<ProfileModel>();
+  model->data = SimulatedModelData();
+  const auto profile = [&](const char* name, ProjectorLink link) {
+    return FleetProfile{.name = name,
+                        .model = model,
+                        .connection = {.address = "127.0.0.1", .port = served.wirePort},
+                        .link = link,
+                        .snapshot = "good"};
+  };
+  int changes = 0;
+  BridgeFleet fleet(
+      {profile("Hall", ProjectorLink::Network), profile("No", ProjectorLink::Simulated)}, {}, {},
+      [&](std::size_t) { ++changes; });
+  ASSERT_EQ(fleet.Count(), 1U) << "without what is simulated";
+  EXPECT_EQ(fleet.FindName("Hall"), 0U);
+  EXPECT_FALSE(fleet.FindName("No"));
+  EXPECT_EQ(fleet.Find(fleet.Id(0)), 0U);
+
+  const QTemporaryDir folder;
+  Snapshot snapshot = EmptySnapshot("Hall", model->data);
+  const ModelSettings settings(model->data);
+  for (const ModelSetting& setting : settings.All()) {
+    if (!setting.Restorable() || !setting.range || snapshot.settings.size() == 2) continue;
+    snapshot.settings.push_back({std::string(setting.key), setting.range->minimum, "", {}});
+  }
+  Write(folder.filePath("good.json"), WriteSnapshot(snapshot));
+  const std::vector<std::string> catalogs{TEST_CATALOG_DIR};
+  const SettingTexts texts(catalogs, 0x0409);
+  DriftCheck check(fleet, texts, folder.path());
+  check.Start([] { return true; }, std::chrono::milliseconds(1));
+  EXPECT_TRUE(Becomes([&] { return fleet.State(0).drift == 2; }));
+
+  fleet.SetAsking(true);
+  EXPECT_TRUE(Becomes([&] { return fleet.States()[0].state.power && changes > 0; }));
+  fleet.Observe();
+  fleet.Observe();
+  EXPECT_EQ(fleet.Answers().Count(), 1U) << "each answer counts once";
+}
+
+}  // namespace

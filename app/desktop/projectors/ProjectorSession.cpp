@@ -76,6 +76,7 @@ LineFault ProjectorSession::ServedLine() const {
 std::unique_ptr<CAdvanceDlg> ProjectorSession::MakeDialog() const {
   auto dialog = std::make_unique<CAdvanceDlg>();
   dialog->CopyData(&profile_.Model, 0);
+  dialog->SetProjectorName(profile_.Name);
   dialog->Projector().SetChannel(channel_);
   // Opening a dialog always asks the projector, even if it was silent just before.
   dialog->Projector().AllowRetry();

@@ -109,13 +109,13 @@ class ProjectorWatch {
     const Seen seen{value, projector.Connection().Power()};
     const auto [known, isNew] = last_.try_emplace(std::string(setting.key), seen);
     if (isNew || !known->second.IsLike(seen, shared_.work.texts, setting)) {
-      const Seen old = isNew ? Seen{} : known->second;
-      known->second = seen;
+      const bool hasOld = !isNew && known->second.value.has_value();
       if (value) {
-        Write(setting, old, seen);
+        Write(setting, hasOld ? &known->second : nullptr, seen);
       } else {
         AddUnread(projector, setting);
       }
+      known->second = seen;
     }
     const auto& until = shared_.until;
     isFinished_ = isFinished_ || (until && value && IsMeant(projector, setting) &&
@@ -151,7 +151,8 @@ class ProjectorWatch {
     shared_.Write(QJsonDocument(json).toJson(QJsonDocument::Compact).toStdString() + '\n');
   }
 
-  void Write(const ModelSetting& setting, const Seen& old, const Seen& now) {
+  /// `old` is the value before; null if there is none.
+  void Write(const ModelSetting& setting, const Seen* old, const Seen& now) {
     const ValueTexts& texts = shared_.work.texts;
     if (shared_.work.arguments.format == Format::Text) {
       Table line;
@@ -161,8 +162,8 @@ class ProjectorWatch {
       return;
     }
     QJsonObject json = DescribeValue(texts, setting, *now.value, now.power);
-    json["old"] = old.value ? QJsonValue(DescribeValueAlone(texts, setting, *old.value, old.power))
-                            : QJsonValue();
+    json["old"] = QJsonValue();
+    if (old != nullptr) json["old"] = DescribeValueAlone(texts, setting, *old->value, old->power);
     json["new"] = DescribeValueAlone(texts, setting, *now.value, now.power);
     Write(json);
   }

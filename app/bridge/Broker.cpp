@@ -44,7 +44,8 @@ const char* OrNull(const QByteArray& text) { return text.isEmpty() ? nullptr : t
 
 }  // namespace
 
-Broker::Broker(const BrokerAddress& address, std::optional<BrokerMessage> will, Listener listener)
+Broker::Broker(const BrokerAddress& address, const std::optional<BrokerMessage>& will,
+               Listener listener)
     : address_(address),
       listener_(std::move(listener)),
       client_(MakeClient(this), mosquitto_destroy),

@@ -48,7 +48,7 @@ class Broker {
   };
 
   /// Begins to connect. The broker sends `will` when the connection breaks.
-  Broker(const BrokerAddress& address, std::optional<BrokerMessage> will, Listener listener);
+  Broker(const BrokerAddress& address, const std::optional<BrokerMessage>& will, Listener listener);
   /// Says good-bye, so that the will is not sent.
   ~Broker();
   Broker(const Broker&) = delete;

@@ -53,7 +53,7 @@ QString CommandDesk::Refuse(const FleetProfile& profile, std::size_t index,
                             const ParsedCommand& parsed, Time now) {
   if (!parsed.error.isEmpty()) return parsed.error;
   if (!TakesCommands()) return QStringLiteral("commands are switched off");
-  const QString error = CheckCommand(parsed.command, models_.Of(profile), texts_, rules_.keys);
+  QString error = CheckCommand(parsed.command, models_.Of(profile), texts_, rules_.keys);
   if (!error.isEmpty()) return error;
   if (limit_.Take(index, now)) return {};
   return QStringLiteral("more than %1 commands a minute").arg(rules_.perMinute);

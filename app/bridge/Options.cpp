@@ -145,7 +145,7 @@ QByteArray FirstLine(const QString& path) {
   if (!file.open(QFile::ReadOnly)) {
     throw WrongOption{QStringLiteral("cannot read %1: %2").arg(path, file.errorString())};
   }
-  const QByteArray line = file.readLine(kLongestSecret).trimmed();
+  QByteArray line = file.readLine(kLongestSecret).trimmed();
   if (line.isEmpty()) throw WrongOption{QStringLiteral("%1 is empty").arg(path)};
   return line;
 }

@@ -20,6 +20,7 @@
 #include "app/desktop/Mnemonic.h"
 #include "app/desktop/profiles/ProfileDocument.h"
 #include "toolkit/CComboBox.h"
+#include "toolkit/Icons.h"
 
 namespace {
 
@@ -104,6 +105,7 @@ ProfileEditor::ProfileEditor(const ProfileDocument& document, const QJsonObject&
   layout->addWidget(rows_);
   layout->addWidget(error_);
   layout->addWidget(buttons);
+  RemoveForeignButtonIcons(*this);
 
   connect(buttons, &QDialogButtonBox::accepted, this, &ProfileEditor::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &ProfileEditor::reject);

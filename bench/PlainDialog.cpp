@@ -149,6 +149,9 @@ std::unique_ptr<QDialog> MakePlainDialog(const PlainBlueprint& blueprint, bool f
   auto* bottom = new QHBoxLayout;
   layout->addLayout(bottom);
   bottom->addWidget(new QLabel);  // the status text; its button is made only when needed
+  auto* top = new QHBoxLayout;
+  for (const char* text : {"the projector", "when it was read"}) top->addWidget(new QLabel(text));
+  layout->insertLayout(0, top);
   for (QWidget* widget : std::initializer_list<QWidget*>{new QPushButton, new QLineEdit}) {
     bottom->addWidget(widget);
     widget->hide();

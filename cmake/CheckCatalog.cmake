@@ -19,6 +19,7 @@ set(runs
   "ListText::ColorTempBase 0 29"
   "ListText::Picture1ColorTempBase 0 29"
   "ListText::MyMemoryBase 0 7"
+  "ListText::MemoryDoneBase 0 7"
   "ListText::LanguageBase 0 16"
   "ListText::MyButtonBase 0 6"
   "ListText::MyButtonBase 16 27"

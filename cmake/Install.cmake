@@ -73,11 +73,15 @@ public_headers(AdvancedControl
   pages/setup/CSetupType5TabDlg.h
   # Headers that these include.
   pages/common/CTabPage.h
+  pages/common/DialogContext.h
   pages/common/PageReader.h
+  pages/common/PageRows.h
+  pages/common/PendingInput.h
   pages/common/RowDialog.h
   pages/common/RowMenus.h
   pages/common/RowResets.h
   pages/common/SettingsDialog.h
+  pages/common/WantedSettings.h
   pages/picture/PicturePage.h
   pages/rows/RowHost.h
   pages/rows/RowMemory.h
@@ -86,6 +90,7 @@ public_headers(AdvancedControl
   toolkit/CDialog.h
   toolkit/CWnd.h
   toolkit/DialogTemplate.h
+  toolkit/HandlerWatch.h
   toolkit/InputDialog.h
   toolkit/MadeWithNew.h
   toolkit/NotificationMap.h

@@ -28,7 +28,6 @@ install(FILES app/desktop/icons/advanced-control.svg
 install(FILES app/desktop/icons/advanced-control.png
         DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/64x64/apps COMPONENT program)
 install_compressed(advanced-control.1 ${CMAKE_INSTALL_MANDIR}/man1/advanced-control.1.gz program)
-install_compressed(acctl.1 ${CMAKE_INSTALL_MANDIR}/man1/acctl.1.gz program)
 install_compressed(advanced-control-simulator.1
   ${CMAKE_INSTALL_MANDIR}/man1/advanced-control-simulator.1.gz program)
 

@@ -14,7 +14,7 @@ declare -A below=(
   [fleet]="device simulator settings i18n snapshots"
   [resources]="toolkit settings"
   [pages]="toolkit device settings i18n resources"
-  [host]="toolkit device settings i18n resources pages"
+  [host]="toolkit device settings i18n snapshots resources pages"
 )
 
 wrong=0

@@ -36,11 +36,11 @@ class Faults(Rig):
                          "serve": self.serve}
         self.finish(self.acctl("apply", "changed.json", PROJECTOR))
         shutil.move(self.undo_files()[0], self.folder / "undo.json")
-        self.finish(self.acctl("apply", "undo.json", PROJECTOR))
+        self.finish(self.acctl("undo", "undo.json"))
         self.forget_undo()
 
     def environment(self, how, number):
-        environment = dict(os.environ, LC_ALL="zh_CN.UTF-8", LD_PRELOAD=str(self.library),
+        environment = dict(self.own, LC_ALL="zh_CN.UTF-8", LD_PRELOAD=str(self.library),
                            FAIL_COUNTS=str(self.folder / "counts"))
         if number:
             environment["FAIL_ALLOCATION" if how == "allocation" else "FAIL_CALL"] = str(number)
@@ -97,9 +97,9 @@ class Faults(Rig):
 
     def undo(self, environment):
         self.finish(self.acctl("apply", "changed.json", PROJECTOR))
-        if self.run(environment, "apply", "undo.json", PROJECTOR)[0]:
+        if self.run(environment, "undo", "undo.json")[0]:
             self.expect_like("good.json", "success is told")
-        self.finish(self.acctl("apply", "undo.json", PROJECTOR))
+        self.finish(self.acctl("undo", "undo.json"))
         self.expect_like("good.json", "not undone later")
         self.forget_undo()
 

@@ -1,13 +1,8 @@
 #!/usr/bin/env bash
 # What takes too long for every change: fuzzing on the kept corpus, random walks over the host application and the
-<<<<<<< HEAD
-# dialogs of every model, kills of both ends, and calls that fail; then each file compiled without the headers of others,
-# clang-tidy over everything, the checks of a release, and whether memory grows in a hundred sweeps of a fleet. Adds a
-# line to the table in docs/reliability.md.
-=======
-# dialogs of every model, kills of both ends, every page in every language, clang-tidy over everything, and whether memory
-# grows in a hundred sweeps of a fleet. Adds a line to the table in docs/reliability.md.
->>>>>>> main
+# dialogs of every model, kills of both ends, and calls that fail; then every page in every language, each file
+# compiled without the headers of others, clang-tidy over everything, the checks of a release, and whether memory grows
+# in a hundred sweeps of a fleet. Adds a line to the table in docs/reliability.md.
 # Usage: scripts/long.sh [time, such as 2h or 20m]
 #
 # A quarter of the time goes to each of the first four. The sanitizers watch the walks; PRESET=dev takes another build.
@@ -65,11 +60,10 @@ if ! kills=$(scripts/kills.py "$bin" "$part" "$seed" 2>"$logs/kills.log"); then
   findings+=("kills: scripts/kills.py $bin $part $seed, and $logs/kills.log")
 fi
 
-<<<<<<< HEAD
 echo "Failing calls for $part s"
 faults=$(scripts/faults.py build/check "$part" "$seed" 2>"$logs/faults.log") ||
   findings+=("calls that fail: $(tail -n 1 "$logs/faults.log"), and $logs/faults.log")
-=======
+
 echo "Every page in every language"
 for screen in "1024x768 1" "1920x1080 2" "1920x1080 3"; do
   read -r size scale <<<"$screen"
@@ -78,13 +72,6 @@ for screen in "1024x768 1" "1920x1080 2" "1920x1080 3"; do
     findings+=("a text without room: TEST_LANGUAGES=all TEST_SCREEN=$size QT_SCALE_FACTOR=$scale $bin/sweep_tests, and $logs/languages-$size-$scale.log")
   fi
 done
-
-echo "clang-tidy over everything"
-if ! (cmake --preset release -B build/check -DADVANCEDCONTROL_TESTS=OFF >/dev/null && cmake --build build/check &&
-      scripts/tidy.py build/check) >"$logs/tidy.log" 2>&1; then
-  findings+=("clang-tidy: scripts/tidy.py build/check, and $logs/tidy.log")
-fi
->>>>>>> main
 
 # further <what> <command line>
 further() {

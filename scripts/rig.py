@@ -1,6 +1,7 @@
 """A simulated projector and acctl beside it, in a folder of their own, for scripts that disturb them."""
 
 import json
+import os
 import shutil
 import socket
 import subprocess
@@ -30,6 +31,7 @@ class Rig:
         self.programs = programs
         self.folder = Path(tempfile.mkdtemp(prefix=prefix))
         self.profiles = self.folder / "profiles.json"
+        self.own = {**os.environ, "XDG_STATE_HOME": str(self.folder / "state")}  # undo files are there
         self.port = free_port()
         self.simulator = None
         self.start_simulator()
@@ -58,7 +60,7 @@ class Rig:
     def acctl(self, *arguments, environment=None):
         return subprocess.Popen([self.programs / "acctl", "--profiles", self.profiles, "--json", *arguments],
                                 cwd=self.folder, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True,
-                                env=environment)
+                                env=environment or self.own)
 
     def finish(self, program, codes=(0,)):
         """What the program prints."""
@@ -78,7 +80,7 @@ class Rig:
             raise Found(f"{file} is not whole: {error}") from None
 
     def undo_files(self):
-        return sorted(self.folder.glob("*.undo.*.json"))
+        return sorted(self.folder.glob("state/advanced-control/undo/*"))
 
     def forget_undo(self):
         for file in self.undo_files():
@@ -94,7 +96,6 @@ class Rig:
         nothing was changed."""
         undo = self.undo_files()
         for file in undo:
-            self.settings(file.name)
-            self.finish(self.acctl("apply", file.name, PROJECTOR))
+            self.finish(self.acctl("undo", str(file)))
         self.expect_like("good.json", "not undone" if undo else "changed without an undo file")
         self.forget_undo()

@@ -4,7 +4,7 @@
 set -euo pipefail
 
 packages=(
-  g++ cmake ninja-build
+  g++ cmake ninja-build mold
   qt6-base-dev qt6-serialport-dev
   libicu-dev
   binutils-mingw-w64-x86-64
@@ -15,6 +15,7 @@ packages=(
   gettext qt6-l10n-tools qt6-tools-dev qt6-translations-l10n
   at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi xvfb
   fonts-dejavu-core fonts-wqy-microhei
+  ansible-core fish groff-base python3-jsonschema systemd zsh
   desktop-file-utils appstream
   libmosquitto-dev mosquitto mosquitto-clients prometheus prometheus-alertmanager curl openssl
 )

@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 """clang-tidy over the code of a build: scripts/tidy.py BUILD_FOLDER [--since COMMIT | --deep | FILE...].
 
-With --since, only over the files that were changed since the commit, or whose header was. With --deep, over the tests
+With --since, only over the files that were changed since the commit, or whose header was, and of many only over those
+changed last. With --deep, over the tests
 too, and with the checks of the analyzer, which take a minute for a large file.
 
 Most of its time goes into the headers that the files share. So a few files of a folder are looked
@@ -18,6 +19,7 @@ from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
 TOGETHER = 6
+MOST_CHANGED = 24
 # Every table of rows and templates defines its own `kRows`, so these files cannot be combined. They
 # include little.
 ALONE = ("src/resources", "src/settings/")
@@ -72,13 +74,17 @@ def tidy_together(number, files, commands, build, checks):
 
 
 def changed_since(commit, files):
-    """Those of the files that were changed since the commit; all if the clone does not reach back so far."""
-    diff = subprocess.run(["git", "diff", "--name-only", commit, "--", *FOLDERS], cwd=ROOT,
-                          capture_output=True, text=True)
-    if diff.returncode != 0:
+    """Those of the files that were changed since the commit, the latest first; all if the clone does not reach back so
+    far. No more than a check for every change has time for."""
+    log = subprocess.run(["git", "log", "--format=", "--name-only", f"{commit}..", "--", *FOLDERS], cwd=ROOT,
+                         capture_output=True, text=True)
+    if log.returncode != 0:
         return files
-    stems = {os.path.splitext(name)[0] for name in diff.stdout.split()}
-    return [name for name in files if os.path.splitext(name)[0] in stems]
+    stems = {os.path.splitext(name)[0]: name for name in files}
+    changed = dict.fromkeys(stem for stem in (os.path.splitext(name)[0] for name in log.stdout.split()) if stem in stems)
+    if len(changed) > MOST_CHANGED:
+        print(f"{len(changed) - MOST_CHANGED} more files were changed: scripts/tidy.py BUILD_FOLDER looks at all")
+    return sorted(stems[stem] for stem in list(changed)[:MOST_CHANGED])
 
 
 def main():

@@ -3,15 +3,15 @@
 #include <algorithm>
 #include <numeric>
 
+#include "app/acctl/Selection.h"
 #include "app/acctl/Uses.h"
-#include "device/ModelDataIntake.h"
 #include "fleet/JsonLines.h"
 
 namespace {
 
 using Kind = ModelSetting::Kind;
 
-/// How many letters have to be changed, added or taken out to make one word the other.
+/// How many letters must be changed, added or removed to turn one word into the other.
 std::size_t Distance(std::string_view one, std::string_view other) {
   std::vector<std::size_t> row(other.size() + 1);
   std::iota(row.begin(), row.end(), std::size_t{0});
@@ -27,16 +27,17 @@ std::size_t Distance(std::string_view one, std::string_view other) {
   return row.back();
 }
 
-/// "; did you mean picture.tint?", or what tells all keys.
+/// "; did you mean picture.tint?", or how to list all keys.
 std::string Advice(const std::string& key, const std::vector<std::string_view>& keys) {
   constexpr std::size_t kFar = 4;
   const auto distance = [&key](std::string_view known) { return Distance(key, known); };
   const auto nearest = std::ranges::min_element(keys, {}, distance);
-  if (nearest == keys.end() || distance(*nearest) >= kFar) return "; acctl settings tells all keys";
+  if (nearest == keys.end() || distance(*nearest) >= kFar) return "; acctl settings lists all keys";
   return std::string("; did you mean ").append(*nearest).append("?");
 }
 
-/// What stands in a file for a setting: "97 to 159, shown as -31 to 31", "0 (Off), 1 (Theater)".
+/// The values that a file may have for a setting: "97 to 159, shown as -31 to 31", "0 (Off), 1
+/// (Theater)".
 std::string Possible(const SettingTexts& texts, const ModelSetting& setting) {
   if (setting.kind == Kind::Number) {
     const Range range = setting.range.value_or(Range{0, 0xFFFF});
@@ -54,20 +55,20 @@ std::string Possible(const SettingTexts& texts, const ModelSetting& setting) {
   return values;
 }
 
-/// The model that a file is of, as a profile has it; the same name counts first.
+/// The model that the file was saved from, if a profile has it; one with the same name if possible.
 std::optional<ModelSettings> ModelOf(const Snapshot& file,
-                                     const std::vector<ProjectorProfile>& profiles) {
-  const ProjectorProfile* found = nullptr;
-  for (const ProjectorProfile& profile : profiles) {
-    const CModelInfo2& model = profile.Model;
+                                     const std::vector<FleetProfile>& profiles) {
+  const FleetProfile* found = nullptr;
+  for (const FleetProfile& profile : profiles) {
+    const CModelInfo2& model = profile.model->info;
     if (model.DialogType != file.dialogType || model.ModelCode != file.modelCode) continue;
     if (found == nullptr || model.ModelName == file.model) found = &profile;
   }
   if (found == nullptr) return {};
-  return ModelSettings(MakeModelData(found->Model));
+  return ModelSettings(found->model->data);
 }
 
-/// One setting as the two models have it that may vouch for what stands in the file.
+/// A setting of the file, and what the projector's model and the file's own model say of it.
 class Entry {
  public:
   Entry(const SettingTexts& texts, const SavedSetting& saved, const ModelSettings& model,
@@ -102,7 +103,7 @@ class Entry {
     const auto isSo = [this, inputs](const Form& form) {
       const auto& entries = form.setting->entries;
       const auto entry = std::ranges::find(entries, saved_.value, &ListEntry::value);
-      // An input may have got another name since; that of another one was edited.
+      // An input may have been renamed since, but the name of another input is a mistake.
       const bool isName = entry != entries.end() && !entry->text;
       const bool isOfOther = std::ranges::any_of(entries, [&](const ListEntry& other) {
         return texts_.IsShownAs(*form.setting, other.value, saved_.text);
@@ -114,7 +115,7 @@ class Entry {
     const ModelSetting& setting = *forms_.front().setting;
     return "text \"" + saved_.text + "\" is not that of value " + std::to_string(saved_.value) +
            ", which is \"" + texts_.Value(setting, saved_.value) +
-           "\"; change both, or take the text out";
+           "\"; change both, or remove the text";
   }
 
  private:
@@ -127,7 +128,7 @@ class Entry {
     const ModelSetting* const setting = model.Find(saved_.key);
     if (setting != nullptr && setting->Restorable()) forms_.push_back({&model, setting});
   }
-  // A projector may report a value that its list does not have, which is saved with its number.
+  // A projector may report a value that its list lacks. It is then saved with its number as text.
   bool Passes(const Form& form) const {
     const ModelSetting& setting = *form.setting;
     if (setting.Allows(saved_.value)) return true;
@@ -141,42 +142,42 @@ class Entry {
 
 }  // namespace
 
-std::vector<std::string> MistakesIn(const Work& work, const ModelSettings& model,
-                                    InputNames inputs) {
-  const Snapshot& file = work.file.snapshot;
+std::vector<std::string> MistakesIn(const Work& work, const SettingsFileContents& contents,
+                                    const ModelSettings& model, InputNames inputs) {
+  constexpr std::size_t kMost = 20;
+  const Snapshot& file = contents.snapshot;
   const bool isOwn = model.Model().DialogType == file.dialogType &&  //
                      model.Model().ModelCode == file.modelCode;
   const auto other = isOwn ? std::nullopt : ModelOf(file, work.profiles);
   std::vector<std::string> mistakes;
-  const JsonLines lines(work.file.text);
-  const auto tell = [&](const SavedSetting& saved, const QString& path, const std::string& what) {
-    constexpr std::size_t kMost = 20;
+  const JsonLines lines(contents.text);
+  const auto add = [&](const SavedSetting& saved, const QString& path, const std::string& what) {
     if (what.empty() || mistakes.size() >= kMost) return !what.empty();
     const std::string place =
-        work.file.name.toStdString() + ':' + std::to_string(lines.LineOf(path)) + ": ";
+        contents.name.toStdString() + ':' + std::to_string(lines.LineOf(path)) + ": ";
     mistakes.push_back(std::string(place).append(saved.key).append(": ").append(what));
     return true;
   };
   const std::vector<std::string_view> keys = AllKeys();
-  const auto look = [&](const SavedSetting& saved, const QString& path) {
+  const auto check = [&](const SavedSetting& saved, const QString& path) {
     if (std::ranges::find(keys, saved.key) == keys.end()) {
-      tell(saved, path + ".key", "no model has such a setting" + Advice(saved.key, keys));
+      add(saved, path + ".key", "no model has such a setting" + Advice(saved.key, keys));
       return;
     }
-    // Nobody else knows what the model of the file takes.
+    // Without the file's own model, nobody knows what it allows.
     if (!isOwn && !other) return;
-    const Entry entry(work.texts, saved, model, other ? &*other : nullptr);
-    tell(saved, path + ".source", entry.SourceMistake());
-    if (!tell(saved, path + ".value", entry.ValueMistake())) {
-      tell(saved, path + ".text", entry.TextMistake(inputs));
+    const Entry entry(work.texts.Shown(), saved, model, other ? &*other : nullptr);
+    add(saved, path + ".source", entry.SourceMistake());
+    if (!add(saved, path + ".value", entry.ValueMistake())) {
+      add(saved, path + ".text", entry.TextMistake(inputs));
     }
   };
   for (std::size_t i = 0; i < file.beforehand.size(); ++i) {
-    look(file.beforehand[i], QStringLiteral("beforehand[%1]").arg(i));
+    check(file.beforehand[i], QStringLiteral("beforehand[%1]").arg(i));
   }
   for (std::size_t i = 0; i < file.settings.size(); ++i) {
     if (!IsLike(file.settings[i].key, work.arguments.only)) continue;
-    look(file.settings[i], QStringLiteral("settings[%1]").arg(i));
+    check(file.settings[i], QStringLiteral("settings[%1]").arg(i));
   }
   return mistakes;
 }
@@ -184,9 +185,11 @@ std::vector<std::string> MistakesIn(const Work& work, const ModelSettings& model
 Report CheckFile(const Work& work, const ProjectorAccess& projector) {
   Report report;
   if (work.arguments.lenient || !projector.TellsInputs()) return report;
-  for (const std::string& mistake :
-       MistakesIn(work, projector.Settings(), InputNames::OfProjector)) {
-    report.Complain(mistake, ExitCode::WrongUse);
+  for (std::string& mistake : MistakesIn(work, work.files.Of(projector.Name()),
+                                         projector.Settings(), InputNames::OfProjector)) {
+    report.Add({.code = ProblemCode::WrongFile,
+                .text = std::move(mistake),
+                .exitCode = ExitCode::WrongUse});
   }
   return report;
 }

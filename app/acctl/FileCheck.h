@@ -3,16 +3,20 @@
 #include <string>
 #include <vector>
 
-#include "app/acctl/Commands.h"
+#include "app/acctl/Report.h"
+#include "app/acctl/Work.h"
+#include "app/profiles/ProjectorAccess.h"
 
-/// Whose names of the inputs are: a projector's own may have changed since the file was saved.
+/// Where the names of inputs come from. A projector's own may have changed since the file was
+/// saved.
 enum class InputNames { OfProfile, OfProjector };
 
-/// What nobody can have meant in the command's file, for a projector of `model`: one line each,
-/// with the file, the line in it and the key. Only settings that take part are looked at. What
-/// `model` does not have, or does not take from a file of another model, is none of it.
-std::vector<std::string> MistakesIn(const Work& work, const ModelSettings& model,
-                                    InputNames inputs);
+/// Mistakes in a file of settings for a projector of `model`, one line each with file, line and
+/// key. Only settings that take part are checked. It is no mistake if `model` lacks a setting of a
+/// file of another model, or does not allow its value.
+std::vector<std::string> MistakesIn(const Work& work, const SettingsFileContents& contents,
+                                    const ModelSettings& model, InputNames inputs);
 
-/// The same of a projector that tells its inputs itself, once it has; any other was checked before.
+/// Checks the file for a projector that reports its inputs itself; for any other this was done
+/// before.
 Report CheckFile(const Work& work, const ProjectorAccess& projector);

@@ -5,32 +5,35 @@
 #include <memory>
 #include <mutex>
 #include <optional>
+#include <vector>
 
 #include "app/acctl/ProjectorLock.h"
 #include "app/profiles/ProjectorAccess.h"
 
-/// A projector that a command works with, and the lock on it if there is one. Closing it releases
-/// the connection before the lock.
+/// An open projector and the lock on it, if there is one. The connection is closed before the lock
+/// is released.
 struct OpenProjector {
   std::optional<ProjectorLock> lock;
   std::optional<ProjectorAccess> access{};
 };
 
-/// Projectors that stay open between the check of a command and its run, by their numbers, so that
-/// the run needs no second connection. Any thread may call it.
+/// Keeps projectors open, by their numbers, between the check of a command and its run, so that the
+/// run needs no second connection. Any thread may call it.
 ///
-/// Whoever has to wait for another run must call `CloseAll` first: two runs that wait for each
-/// other while each keeps what the other needs would get nowhere.
+/// Call `CloseAll` before waiting for another run of the program: two runs that wait for each other
+/// while each holds a projector that the other needs would never end.
 class OpenProjectors {
  public:
-  /// Keeps a projector open, or closes it if there are too many, or if this run has waited.
+  /// Keeps a projector open; closes it if there are too many, or after `CloseAll`.
   void Keep(int number, std::unique_ptr<OpenProjector> projector);
   /// The projector that was kept, or null.
   std::unique_ptr<OpenProjector> Take(int number);
+  /// Gives the projectors with these numbers the numbers from 0 on, and closes all others.
+  void Renumber(const std::vector<int>& numbers);
   void CloseAll();
 
  private:
-  /// Each needs two file descriptors, and other runs wait for it.
+  /// Other runs wait for each of them.
   static constexpr std::size_t kMost = 64;
 
   std::mutex mutex_;

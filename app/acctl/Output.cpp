@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <poll.h>
 #include <string>
 #include <unistd.h>
 
@@ -17,6 +18,11 @@ bool Print(std::string_view text) {
     text.remove_prefix(static_cast<std::size_t>(written));
   }
   return true;
+}
+
+bool HasReader() {
+  pollfd output{.fd = STDOUT_FILENO, .events = 0, .revents = 0};
+  return poll(&output, 1, 0) <= 0 || (output.revents & (POLLERR | POLLHUP | POLLNVAL)) == 0;
 }
 
 void Complain(std::string_view message) {

@@ -4,9 +4,12 @@
 
 #include "app/profiles/Table.h"
 
-/// Writes to standard output at once. Nothing is left to do when it fails: the error is told,
-/// unless it is that nobody reads any more, and false.
+/// Writes to standard output at once. False on failure, which is reported unless nobody reads the
+/// output any more.
 bool Print(std::string_view text);
 
-/// One line on standard error, behind the program's name.
+/// Whether somebody can still read standard output.
+bool HasReader();
+
+/// Writes one line to standard error, after the program's name.
 void Complain(std::string_view message);

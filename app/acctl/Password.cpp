@@ -12,16 +12,17 @@
 #include "fleet/WholeFile.h"
 
 std::string GivenPassword(const Arguments& arguments, std::string& error) {
-  if (!arguments.password.empty()) return arguments.password;
-  if (!arguments.passwordFile.empty()) {
+  if (!arguments.connecting.password.empty()) return arguments.connecting.password;
+  if (!arguments.connecting.passwordFile.empty()) {
     constexpr qsizetype kMost = 4096;
-    const FileBytes file = ReadToEnd(Wide(arguments.passwordFile), kMost);
+    const FileBytes file = ReadToEnd(Wide(arguments.connecting.passwordFile), kMost);
     QByteArray line = file.bytes.split('\n').front();
     if (line.endsWith('\r')) line.chop(1);
     std::string password = line.toStdString();
     const std::string reason = file.error.isEmpty() ? "its first line is empty"  //
                                                     : file.error.toStdString();
-    if (password.empty()) error = "--password-file " + arguments.passwordFile + ": " + reason;
+    if (password.empty())
+      error = "--password-file " + arguments.connecting.passwordFile + ": " + reason;
     return password;
   }
   const char* const password = std::getenv("ACCTL_PASSWORD");

@@ -6,11 +6,11 @@
 
 #include "app/acctl/Arguments.h"
 
-/// The password that comes with the call: as an argument, in a file, in the environment. Empty for
-/// none; `error` is one line, or empty when all is well.
+/// The password that an option, a file or the environment gives. Empty if there is none. `error`
+/// becomes one line, or empty on success.
 std::string GivenPassword(const Arguments& arguments, std::string& error);
 
-/// Asks whoever sits at the terminal, without showing what is typed. Nothing where nobody does, and
-/// when it is given up or interrupted.
+/// Asks for the password at the terminal, without showing it. Nothing without a terminal, or if
+/// there is no input or it is interrupted.
 std::optional<std::string> AskForPassword(const std::string& projector,
                                           const std::function<bool()>& isInterrupted);

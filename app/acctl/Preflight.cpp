@@ -2,22 +2,16 @@
 
 #include <algorithm>
 
+#include "app/acctl/Aliases.h"
+#include "app/acctl/Changes.h"
 #include "app/acctl/FileCheck.h"
-#include "app/acctl/Output.h"
-#include "device/ModelDataIntake.h"
 
 namespace {
 
-using Command = Arguments::Command;
-
-ModelSettings SettingsOf(const ProjectorProfile& profile) {
-  return ModelSettings(MakeModelData(profile.Model));
-}
-
 bool HasFile(Command command) { return command == Command::Diff || command == Command::Apply; }
 
-/// What is wrong for any projector like this. Whether that is all that can be wrong.
-bool CheckUnasked(const Work& work, const Target& target, Report& report) {
+/// Checks what is wrong for any projector like this. Whether nothing else can be wrong.
+bool CheckWithoutAsking(const Work& work, const Target& target, Report& report) {
   const Arguments& arguments = work.arguments;
   switch (arguments.command) {
     case Command::Set:
@@ -25,10 +19,10 @@ bool CheckUnasked(const Work& work, const Target& target, Report& report) {
     case Command::Get:
     case Command::Watch:
     case Command::Reset:
-      Chosen(target, UseBy(arguments.command), arguments.words, report);
+      Chosen(target, UseBy(arguments.command), arguments.words, work.isForSeveral, report);
       return true;
     case Command::Save:
-      Chosen(target, kKept, arguments.only, report);
+      Chosen(target, kSaved, arguments.only, work.isForSeveral, report);
       return true;
     default:
       return !HasFile(arguments.command) || !target.TellsInputs();
@@ -39,55 +33,90 @@ bool IsWrong(const std::optional<Report>& report) {
   return report && report->code == ExitCode::WrongUse;
 }
 
-}  // namespace
-
-int CheckFile(const Work& work, const std::vector<const ProjectorProfile*>& projectors) {
-  if (work.arguments.lenient) return ExitCode::Done;
-  std::vector<std::string> told;
-  for (const ProjectorProfile* profile : projectors) {
-    for (std::string& mistake : MistakesIn(work, SettingsOf(*profile), InputNames::OfProfile)) {
-      if (std::ranges::find(told, mistake) != told.end()) continue;
-      Complain(mistake);
-      told.push_back(std::move(mistake));
-    }
+/// Turns a lack that all projectors have in common into wrong use of the first one.
+void RejectCommonLacks(const std::vector<Report>& reports,
+                       std::vector<std::optional<Report>>& results) {
+  const auto lacks = [](const Report& report, const std::string& key) {
+    return std::ranges::any_of(report.problems, [&key](const Problem& problem) {
+      return IsLack(problem) && problem.key == key && problem.exitCode != ExitCode::Done;
+    });
+  };
+  for (const Problem& problem : reports.front().problems) {
+    const bool isCommon = std::ranges::all_of(
+        reports, [&](const Report& report) { return lacks(report, problem.key); });
+    if (!isCommon) continue;
+    Problem wrong = problem;
+    wrong.exitCode = ExitCode::WrongUse;
+    if (!results.front()) results.front().emplace();
+    results.front()->Add(std::move(wrong));
   }
-  return told.empty() ? ExitCode::Done : ExitCode::WrongUse;
 }
 
-std::vector<std::optional<Report>> CheckWords(
-    const Work& work, const std::vector<const ProjectorProfile*>& projectors, Meter& meter,
-    const std::function<Report(int)>& ask) {
-  std::vector<std::optional<Report>> reports(projectors.size());
+}  // namespace
+
+const ModelSettings& ModelCache::Of(const FleetProfile& profile) {
+  auto& model = models_[profile.model.get()];
+  if (!model) model = std::make_unique<ModelSettings>(profile.model->data);
+  return *model;
+}
+
+std::vector<std::string> FileMistakes(const Work& work, const Projectors& projectors,
+                                      ModelCache& models) {
+  std::vector<std::string> mistakes;
+  if (work.arguments.lenient) return mistakes;
+  // Projectors of one model have the same mistakes.
+  std::vector<std::pair<const ModelSettings*, const SettingsFileContents*>> checked;
+  for (const FleetProfile* profile : projectors) {
+    const std::pair pair{&models.Of(*profile), &work.files.Of(profile->name)};
+    if (std::ranges::find(checked, pair) != checked.end()) continue;
+    checked.push_back(pair);
+    for (std::string& mistake :
+         MistakesIn(work, *pair.second, *pair.first, InputNames::OfProfile)) {
+      if (std::ranges::find(mistakes, mistake) == mistakes.end()) {
+        mistakes.push_back(std::move(mistake));
+      }
+    }
+  }
+  return mistakes;
+}
+
+std::vector<std::optional<Report>> CheckWords(const Work& work, const Projectors& projectors,
+                                              ModelCache& models, Meter& meter,
+                                              const std::function<Report(int)>& ask) {
+  std::vector<std::optional<Report>> results(projectors.size());
+  std::vector<Report> reports(projectors.size());
   std::vector<int> asked;
   for (std::size_t i = 0; i < projectors.size(); ++i) {
-    const ModelSettings settings = SettingsOf(*projectors[i]);
-    Report report;
-    const bool isAll =
-        CheckUnasked(work, {settings, IsPjLink(*projectors[i], work.arguments)}, report);
-    if (report.code != ExitCode::Done) {
-      reports[i] = std::move(report);
-    } else if (!isAll && projectors.size() > 1) {
+    const Target target{models.Of(*projectors[i]), IsPjLink(*projectors[i], work.arguments)};
+    const bool isAll = CheckWithoutAsking(work, target, reports[i]);
+    if (reports[i].code == ExitCode::WrongUse) {
+      results[i] = reports[i];
+    } else if (!isAll && work.isForSeveral) {
       asked.push_back(static_cast<int>(i));
     }
   }
-  if (!std::ranges::any_of(reports, IsWrong)) {
+  if (work.isForSeveral) RejectCommonLacks(reports, results);
+  if (!std::ranges::any_of(results, IsWrong)) {
     RunParallel(
-        static_cast<int>(asked.size()), work.arguments.jobs, meter,
+        static_cast<int>(asked.size()), JobsOf(work.arguments), meter,
         [&](int turn) { return ask(asked[static_cast<std::size_t>(turn)]); },
         [&](int turn, Report report) {
-          if (report.code == ExitCode::Done) return;
+          if (!StopsChanges(report)) return;
           const auto number = static_cast<std::size_t>(asked[static_cast<std::size_t>(turn)]);
-          reports[number] = std::move(report);
+          results[number] = std::move(report);
         });
   }
-  if (std::ranges::any_of(reports, IsWrong)) {
-    for (std::optional<Report>& report : reports) report = report.value_or(Report());
+  if (std::ranges::any_of(results, IsWrong)) {
+    for (std::optional<Report>& report : results) report = report.value_or(Report());
   }
-  return reports;
+  return results;
 }
 
-Report CheckAsked(const Work& work, ProjectorAccess& projector) {
-  return HasFile(work.arguments.command) ? CheckFile(work, projector) : CheckSet(work, projector);
+Report CheckByAsking(const Work& work, ProjectorAccess& projector) {
+  if (HasFile(work.arguments.command)) return CheckFile(work, projector);
+  Report report;
+  CheckedChanges(work, projector, report);
+  return report;
 }
 
 InputsNeeded InputsNeededBy(const Work& work, const Target& target) {
@@ -103,7 +132,7 @@ InputsNeeded InputsNeededBy(const Work& work, const Target& target) {
       return arguments.brief ? InputsNeeded::None : InputsNeeded::All;
     case Command::Get:
     case Command::Watch:
-      shown = Chosen(target, kRead, arguments.words, ignored);
+      shown = Chosen(target, kRead, arguments.words, true, ignored);
       return std::ranges::any_of(shown, showsInput) ? InputsNeeded::Present : InputsNeeded::None;
     case Command::Status:
       return InputsNeeded::Present;
@@ -112,7 +141,8 @@ InputsNeeded InputsNeededBy(const Work& work, const Target& target) {
     case Command::Set:
       return std::ranges::any_of(arguments.words,
                                  [&](const std::string& word) {
-                                   const auto* const setting = target.settings.Find(word);
+                                   const auto* const setting =
+                                       FindSetting(target.settings, word, kSet.isPossible);
                                    return setting != nullptr && target.LacksEntries(*setting);
                                  })
                  ? InputsNeeded::All

@@ -1,25 +1,40 @@
 #pragma once
 
 #include <functional>
+#include <map>
+#include <memory>
 #include <optional>
 #include <vector>
 
-#include "app/acctl/Commands.h"
-#include "app/acctl/Runner.h"
+#include "app/acctl/Parallel.h"
+#include "app/acctl/Uses.h"
+#include "app/acctl/Work.h"
 
-/// Says on standard error what nobody can have meant in the file of `diff` or `apply`, unless that
-/// is to be skipped. The exit code: done, or wrong use.
-int CheckFile(const Work& work, const std::vector<const ProjectorProfile*>& projectors);
+/// The settings of models, made once for all projectors of a model. One thread.
+class ModelCache {
+ public:
+  const ModelSettings& Of(const FleetProfile& profile);
 
-/// Checks the words of a command for all its projectors, before anything is sent to any. The report
-/// of each with which nothing more is to be done: of all of them where a word is wrong for one.
-/// Of several projectors, those are asked, by `ask` and their numbers, whose model alone does not
-/// tell what the words come to; a single one is when the command runs.
-std::vector<std::optional<Report>> CheckWords(
-    const Work& work, const std::vector<const ProjectorProfile*>& projectors, Meter& meter,
-    const std::function<Report(int)>& ask);
-/// What is left to be checked of a projector that is asked; changes nothing.
-Report CheckAsked(const Work& work, ProjectorAccess& projector);
+ private:
+  std::map<const ProfileModel*, std::unique_ptr<const ModelSettings>> models_;
+};
 
-/// What a command has to know of the inputs that a projector tells itself.
+using Projectors = std::vector<const FleetProfile*>;
+
+/// Mistakes in the files of `diff` or `apply`, unless these are to be skipped.
+std::vector<std::string> FileMistakes(const Work& work, const Projectors& projectors,
+                                      ModelCache& models);
+
+/// Checks the words of a command for all its projectors, before anything is sent to any. The result
+/// has a report for each projector for which nothing more is to be done: for all of them if a word
+/// is wrong for one, or if none of them has a setting. If the words depend on what a projector
+/// answers and there are several, it is asked with `ask` and its number; a single one is asked when
+/// the command runs.
+std::vector<std::optional<Report>> CheckWords(const Work& work, const Projectors& projectors,
+                                              ModelCache& models, Meter& meter,
+                                              const std::function<Report(int)>& ask);
+/// The part of the check that asks the projector; changes nothing.
+Report CheckByAsking(const Work& work, ProjectorAccess& projector);
+
+/// What a command must know about the inputs of a projector that reports them itself.
 InputsNeeded InputsNeededBy(const Work& work, const Target& target);

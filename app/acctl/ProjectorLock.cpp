@@ -28,13 +28,14 @@ QString TextOf(const SerialAddress& address) {
   return real.isEmpty() ? device : real;
 }
 
-// The cache folder and not that of the session: what runs without one, as from cron, waits too.
+// In the cache folder rather than the session's, so that runs without a session, as from cron, wait
+// too.
 QString FileOf(const ProjectorAddress& address) {
   const QDir folder(QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
                     QStringLiteral("/advanced-control/locks"));
   folder.mkpath(QStringLiteral("."));
   const QString text = std::visit([](const auto& way) { return TextOf(way); }, address);
-  // An address may be longer than a name, and have a slash.
+  // An address may have slashes, and be too long for a name.
   const auto name = QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Sha1).toHex();
   return folder.filePath(QString::fromLatin1(name));
 }
@@ -48,7 +49,7 @@ ProjectorLock::ProjectorLock(const ProjectorAddress& address, std::chrono::milli
   if (file_ < 0) return;
   const auto end = std::chrono::steady_clock::now() + timeOut;
   while (flock(file_, LOCK_EX | LOCK_NB) != 0) {
-    if (errno != EWOULDBLOCK && errno != EINTR) return;  // the file system knows no locks
+    if (errno != EWOULDBLOCK && errno != EINTR) return;  // the file system has no locks
     const auto left = end - std::chrono::steady_clock::now();
     isHeld_ = left > left.zero() && !isInterrupted();
     if (!isHeld_) return;

@@ -5,20 +5,20 @@
 
 #include "device/Connect.h"
 
-/// Keeps the user's other runs of the program away from one projector. Held while it lives; a
-/// process that dies holds it no longer.
+/// Keeps other runs of the program by the same user away from one projector. Released when it is
+/// destroyed or the process dies.
 class ProjectorLock {
  public:
-  /// Waits until nobody has it, at most `timeOut`. `isInterrupted` is called before each pause, so
-  /// not at all if nobody has it; true ends the wait.
+  /// Waits until the lock is free, for at most `timeOut`. `isInterrupted` is called before each
+  /// pause, so not at all if the lock is free; if it returns true, the wait ends.
   ProjectorLock(const ProjectorAddress& address, std::chrono::milliseconds timeOut,
                 const std::function<bool()>& isInterrupted);
   ~ProjectorLock();
   ProjectorLock(const ProjectorLock&) = delete;
   ProjectorLock& operator=(const ProjectorLock&) = delete;
 
-  /// False when somebody else still has it. True also where no lock can be had at all, as without
-  /// a folder to write to: that is no reason not to work.
+  /// False if another run still has it. True also if locks are impossible, for example without a
+  /// writable folder: work goes on without them.
   bool IsHeld() const { return isHeld_; }
 
  private:

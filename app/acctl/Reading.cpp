@@ -2,30 +2,27 @@
 
 #include <algorithm>
 
-#include "app/acctl/Uses.h"
+#include "app/acctl/Aliases.h"
 #include "device/CommandCode.h"
 
 namespace {
 
 bool IsNamed(const Work& work, const ModelSetting& setting) {
-  const auto& words = work.arguments.words;
-  return std::ranges::find(words, setting.key) != words.end();
+  return std::ranges::any_of(work.arguments.words, [&setting](const std::string& word) {
+    return word == setting.key || (word == AliasOf(setting.key));
+  });
 }
 
 constexpr Call kPower = Get(CommandCode::RunningState);
 
-bool IsPower(const ModelSetting& setting) {
-  const auto* const state = std::get_if<StateRow>(setting.row);
-  return state != nullptr && state->read.code == kPower.code;
-}
-
-// A projector that tells more than the value says so.
+// Some projectors report more than the value says.
 PowerState StateOf(int value, ProjectorAccess& projector) {
-  if (const auto told = projector.Connection().Power()) return *told;
+  if (const auto reported = projector.Connection().Power()) return *reported;
   if (value == 1) return PowerState::On;
   return value == 2 ? PowerState::CoolingDown : PowerState::Standby;
 }
 
+/// The name of a power state in the JSON member "power".
 const char* NameOf(PowerState power) {
   switch (power) {
     case PowerState::On:
@@ -47,25 +44,16 @@ std::string Joined(const std::vector<std::string>& keys) {
 
 }  // namespace
 
-std::vector<std::string> Cells(const SettingTexts& texts, const ModelSetting& setting, int value,
-                               std::optional<PowerState> power) {
-  return {std::string(setting.key), texts.Caption(setting), texts.Value(setting, value, power)};
-}
-
-void Values::Add(const ModelSetting& setting, int value, std::optional<PowerState> power) {
-  table_.Add(Cells(texts_, setting, value, power));
-  json_.append(ValueOf(texts_, setting, value, power));
-}
-
-void Values::PutInto(Report& report) const {
-  report.text = table_.Text();
-  report.json["settings"] = json_;
+Progress ProgressOf(const Work& work, const ProjectorAccess& projector) {
+  return {.goesOn = [&work, &projector] {
+    return !work.isInterrupted() && !projector.Channel().IsGone();
+  }};
 }
 
 std::optional<PowerState> AskPower(ProjectorAccess& projector) {
-  // The channel has asked for it to find out why the projector is busy.
-  const auto told = projector.Connection().Power();
-  if (told && projector.Channel().Last().busy) return told;
+  // To find out why the projector is busy, the channel has already asked.
+  const auto reported = projector.Connection().Power();
+  if (reported && projector.Channel().Last().busy) return reported;
   const auto value = Read(projector.Connection(), kPower);
   return value ? std::optional(StateOf(*value, projector)) : std::nullopt;
 }
@@ -76,18 +64,26 @@ const char* RestOf(std::optional<PowerState> power) {
   return power == PowerState::CoolingDown ? "cooling down" : nullptr;
 }
 
-void TellUnread(const std::vector<std::string>& keys, std::optional<PowerState> power,
-                const char* what, Report& report) {
+const char* RestCodeOf(PowerState power) {
+  if (power == PowerState::Standby) return ProblemCode::Standby;
+  if (power == PowerState::WarmingUp) return ProblemCode::WarmingUp;
+  return power == PowerState::CoolingDown ? ProblemCode::CoolingDown : ProblemCode::Busy;
+}
+
+void ReportUnread(const std::vector<std::string>& keys, std::optional<PowerState> power,
+                  const char* what, Report& report) {
   if (power) report.json["power"] = NameOf(*power);
   if (keys.empty()) return;
   QJsonArray unread;
   for (const std::string& key : keys) unread.append(Wide(key));
   report.json["unread"] = unread;
   if (const char* const rest = RestOf(power)) {
-    report.Complain(std::string(rest) + ", left out: " + Joined(keys), ExitCode::Done);
+    report.Add({.code = RestCodeOf(*power),
+                .text = std::string(rest) + ", left out: " + Joined(keys),
+                .exitCode = ExitCode::Done});
     return;
   }
-  for (const std::string& key : keys) report.Complain(key + ": " + what, ExitCode::Refused);
+  for (const std::string& key : keys) report.Add({ProblemCode::NotReadable, what, key});
 }
 
 void ReadInto(const Work& work, ProjectorAccess& projector,
@@ -108,20 +104,21 @@ void ReadInto(const Work& work, ProjectorAccess& projector,
       if (IsPower(*setting)) power = StateOf(*value, projector);
     } else if (const auto& channel = projector.Channel();
                !channel.HasAnswered() || (!channel.IsOffered() && IsNamed(work, *setting))) {
-      ComplainOf(*setting, projector, kNotReadable, report);
+      report.Add(FailureOf(projector,
+                           {ProblemCode::NotReadable, kNotReadable, std::string(setting->key)}));
     } else if (channel.IsOffered()) {
       unread.emplace_back(setting->key);
     } else if (!work.arguments.words.empty()) {
       notOffered.emplace_back(setting->key);
     }
-    progress.step();
     if (!progress.goesOn()) break;
   }
   if (!unread.empty() && !power) power = AskPower(projector);
-  TellUnread(unread, power, kNotReadable, report);
+  ReportUnread(unread, power, kNotReadable, report);
   if (!notOffered.empty()) {
-    report.Complain(std::string("skipped, ").append(kNotOffered).append(": ") + Joined(notOffered),
-                    ExitCode::Done);
+    report.Add({.code = ProblemCode::NotOffered,
+                .text = std::string("skipped, ") + kNotOffered + ": " + Joined(notOffered),
+                .exitCode = ExitCode::Done});
   }
   values.PutInto(report);
 }

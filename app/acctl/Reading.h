@@ -3,42 +3,28 @@
 #include <optional>
 #include <vector>
 
-#include <QJsonArray>
+#include "app/acctl/Uses.h"
+#include "app/acctl/Values.h"
+#include "app/acctl/Work.h"
 
-#include "app/acctl/Commands.h"
-#include "app/profiles/Table.h"
+/// Goes on until the work is interrupted or the projector is gone.
+Progress ProgressOf(const Work& work, const ProjectorAccess& projector);
 
-/// Settings with their values, for people and for scripts.
-class Values {
- public:
-  explicit Values(const SettingTexts& texts) : texts_(texts) {}
-
-  void Add(const ModelSetting& setting, int value, std::optional<PowerState> power);
-  void PutInto(Report& report) const;
-
- private:
-  const SettingTexts& texts_;
-  Table table_;
-  QJsonArray json_;
-};
-
-/// Key, caption and text.
-std::vector<std::string> Cells(const SettingTexts& texts, const ModelSetting& setting, int value,
-                               std::optional<PowerState> power);
-
-/// What the projector does, which is asked; nothing where it does not say.
+/// Asks for the power state; nothing if the projector does not report it.
 std::optional<PowerState> AskPower(ProjectorAccess& projector);
 
-/// Why a healthy projector cannot tell or do something now: "in standby", "warming up", "cooling
+/// Why a healthy projector cannot report or do something now: "in standby", "warming up", "cooling
 /// down"; null for one that is on, or does not say.
 const char* RestOf(std::optional<PowerState> power);
+/// The code of a problem with the same meaning.
+const char* RestCodeOf(PowerState power);
 
-/// Returns which settings were not read, though the projector has answered. Of one that rests that
-/// is no error, and one line.
-void TellUnread(const std::vector<std::string>& keys, std::optional<PowerState> power,
-                const char* what, Report& report);
+/// Adds settings that could not be read although the projector has answered to the report. In
+/// standby that is one note and no error.
+void ReportUnread(const std::vector<std::string>& keys, std::optional<PowerState> power,
+                  const char* what, Report& report);
 
-/// Reads settings into the report; once the projector is gone no other is asked. What it does not
-/// offer is refused where it was asked for by its key, and told where a pattern means it.
+/// Reads settings into the report, until the projector is gone. A setting that the projector does
+/// not offer is an error if its key was given, and a note if a pattern includes it.
 void ReadInto(const Work& work, ProjectorAccess& projector,
               const std::vector<const ModelSetting*>& settings, Report& report);

@@ -1,9 +1,9 @@
 #pragma once
 
-/// From now on the first SIGINT, SIGTERM or SIGHUP lets the work tell what was done. What whoever
-/// started the program wants ignored, as nohup does, stays so. A further one ends the program as
-/// usual, but not within a second: who ends a program and its process group sends two.
+/// After this, the first SIGINT, SIGTERM or SIGHUP only lets the program finish and report what was
+/// done. Another one ends it as usual, unless it comes within a second: ending a program and its
+/// process group sends two. Signals ignored at the start, as with nohup, stay ignored.
 void WatchSignals();
 
-/// The signal that came; 0 as long as none has. Any thread.
+/// The signal that was received, or 0. Any thread.
 int ReceivedSignal();

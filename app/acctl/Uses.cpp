@@ -1,8 +1,9 @@
 #include "app/acctl/Uses.h"
 
 #include <algorithm>
-#include <fnmatch.h>
 
+#include "app/acctl/Aliases.h"
+#include "app/acctl/Selection.h"
 #include "device/Connect.h"
 
 namespace {
@@ -20,14 +21,15 @@ bool IsInPjLink(const std::optional<Call>& call) {
   return call && PjLinkChannel::Has(call->Command());
 }
 
-}  // namespace
-
-bool IsLike(std::string_view name, const std::vector<std::string>& patterns) {
-  const std::string text(name);
-  return patterns.empty() || std::ranges::any_of(patterns, [&text](const std::string& pattern) {
-           return text == pattern || fnmatch(pattern.c_str(), text.c_str(), 0) == 0;
-         });
+bool Names(const Target& target, const Use& use, const std::string& word,
+           const ModelSetting& setting) {
+  if (setting.key == word) return true;
+  return use.isForPatterns(setting) &&
+         (IsLike(setting.key, {word}) ||
+          FindSetting(target.settings, word, use.isPossible) == &setting);
 }
+
+}  // namespace
 
 bool Target::Carries(const Use& use, const ModelSetting& setting) const {
   return !isPjLink || use.isInPjLink(setting, settings.Model());
@@ -41,9 +43,10 @@ bool Target::LacksEntries(const ModelSetting& setting) const {
   return TellsInputs() && setting.kind == ModelSetting::Kind::Choice && setting.entries.empty();
 }
 
-bool IsPjLink(const ProjectorProfile& profile, const Arguments& arguments) {
-  if (arguments.address.empty()) return profile.Link == ProjectorLink::PjLink;
-  return std::holds_alternative<PjLinkAddress>(ParseAddress(arguments.address));
+bool IsPjLink(const FleetProfile& profile, const Arguments& arguments) {
+  const std::string& address = arguments.connecting.address;
+  if (address.empty()) return profile.link == ProjectorLink::PjLink;
+  return std::holds_alternative<PjLinkAddress>(ParseAddress(address));
 }
 
 Target TargetOf(const ProjectorAccess& projector) {
@@ -69,77 +72,102 @@ bool IsResetOverPjLink(const ModelSetting& setting, const ModelData&) {
   return IsInPjLink(setting.reset);
 }
 
-std::string NoAnswerText(const ProjectorAccess& projector) {
-  std::string text = "no answer";
+Problem NoAnswerOf(const ProjectorAccess& projector) {
+  Problem problem{ProblemCode::NoAnswer, "no answer"};
+  problem.exitCode = ExitCode::NoAnswer;
   switch (const ConnectionState state = projector.Channel().Connection()) {
     case ConnectionState::None:
     case ConnectionState::Unused:
     case ConnectionState::Connecting:
     case ConnectionState::Connected:
     case ConnectionState::NoAnswer:
-      return text;
+      return problem;
+    case ConnectionState::PasswordRequired:
+      problem.code = ProblemCode::WrongPassword;
+      [[fallthrough]];
     default:
-      return text + " (" + std::string(ConnectionStateText(state)) + ')';
+      problem.text += " (" + std::string(ConnectionStateText(state)) + ')';
+      return problem;
   }
 }
 
-std::string ReasonOf(const ProjectorAccess& projector, const char* refusal) {
+Problem FailureOf(const ProjectorAccess& projector, Problem otherwise) {
   const PatientChannel& channel = projector.Channel();
-  if (!channel.HasAnswered()) return NoAnswerText(projector);
-  return channel.IsOffered() ? refusal : kNotOffered;
+  Problem problem = std::move(otherwise);
+  if (!channel.HasAnswered()) {
+    Problem silence = NoAnswerOf(projector);
+    silence.key = problem.key;
+    return silence;
+  }
+  if (!channel.IsOffered()) {
+    problem.code = ProblemCode::NotOffered;
+    problem.text = kNotOffered;
+  }
+  return problem;
 }
 
-void ComplainOf(const ModelSetting& setting, const ProjectorAccess& projector, const char* refusal,
-                Report& report) {
-  report.Complain(std::string(setting.key) + ": " + ReasonOf(projector, refusal),
-                  projector.Channel().HasAnswered() ? ExitCode::Refused : ExitCode::NoAnswer);
-}
-
-const Use& UseBy(Arguments::Command command) {
+const Use& UseBy(Command command) {
   switch (command) {
-    case Arguments::Command::Get:
-    case Arguments::Command::Watch:
+    case Command::Get:
+    case Command::Watch:
       return kRead;
-    case Arguments::Command::Set:
+    case Command::Set:
       return kSet;
-    case Arguments::Command::Reset:
+    case Command::Reset:
       return kReset;
     default:
-      return kTold;
+      return kListed;
   }
+}
+
+bool IsLack(const Problem& problem) {
+  return problem.code == ProblemCode::NoSuchSetting || problem.code == ProblemCode::NotInProtocol;
+}
+
+Problem LackOf(std::string_view word, bool isInModel, bool isForSeveral) {
+  return {.code = isInModel ? ProblemCode::NotInProtocol : ProblemCode::NoSuchSetting,
+          .text = isInModel ? kNotInPjLink : kNoSuchSetting,
+          .key = std::string(word),
+          .exitCode = isForSeveral ? ExitCode::Refused : ExitCode::WrongUse};
 }
 
 std::vector<const ModelSetting*> Chosen(const Target& target, const Use& use,
-                                        const std::vector<std::string>& words, Report& report) {
+                                        const std::vector<std::string>& words, bool isForSeveral,
+                                        Report& report) {
   const ModelSettings& settings = target.settings;
-  const auto names = [&use](const std::string& word, const ModelSetting& setting) {
-    return setting.key == word || (use.isForPatterns(setting) && IsLike(setting.key, {word}));
-  };
   std::vector<const ModelSetting*> chosen;
   for (const ModelSetting& setting : settings.All()) {
-    const auto isNamed = [&](const std::string& word) { return names(word, setting); };
+    const auto isNamed = [&](const std::string& word) { return Names(target, use, word, setting); };
     const bool isMeant = words.empty() || std::ranges::any_of(words, isNamed);
     if (isMeant && use.isPossible(setting) && target.Carries(use, setting))
       chosen.push_back(&setting);
   }
   for (const std::string& word : words) {
-    const auto isNamed = [&](const ModelSetting* setting) { return names(word, *setting); };
-    if (std::ranges::any_of(chosen, isNamed)) continue;
-    const auto any = [&](const auto& fits) {
-      return std::ranges::any_of(settings.All(), [&](const ModelSetting& setting) {
-        return IsLike(setting.key, {word}) && fits(setting);
-      });
+    const auto isNamed = [&](const ModelSetting* setting) {
+      return Names(target, use, word, *setting);
     };
-    const bool exists = any([](const ModelSetting&) { return true; });
-    const bool isPossible = any([&](const ModelSetting& setting) {
-      return names(word, setting) && use.isPossible(setting);
+    if (std::ranges::any_of(chosen, isNamed)) continue;
+    const bool exists = FindSetting(settings, word) != nullptr ||
+                        std::ranges::any_of(settings.All(), [&](const ModelSetting& setting) {
+                          return IsLike(setting.key, {word});
+                        });
+    const bool isPossible = std::ranges::any_of(settings.All(), [&](const ModelSetting& setting) {
+      return Names(target, use, word, setting) && use.isPossible(setting);
     });
-    // One pattern serves projectors of every kind.
-    const bool isSkipped = isPossible && settings.Find(word) == nullptr;
-    const char* const refusal = isPossible ? kNotInPjLink : use.refusal;
-    report.Complain(word + ": " + (isSkipped ? "skipped, " : "") +
-                        (exists ? refusal : "this model has no such setting"),
-                    isSkipped ? ExitCode::Done : ExitCode::WrongUse);
+    if (exists && !isPossible) {
+      report.Add({.code = ProblemCode::NotPossible,
+                  .text = use.refusal,
+                  .key = word,
+                  .exitCode = ExitCode::WrongUse});
+    } else if (isPossible && FindSetting(settings, word) == nullptr) {
+      // One pattern is for projectors of every kind.
+      report.Add({.code = ProblemCode::NotInProtocol,
+                  .text = std::string("skipped, ") + kNotInPjLink,
+                  .key = word,
+                  .exitCode = ExitCode::Done});
+    } else {
+      report.Add(LackOf(word, exists, isForSeveral));
+    }
   }
   return chosen;
 }

@@ -10,11 +10,9 @@
 
 inline constexpr const char* kNotReadable = "cannot be read now";
 inline constexpr const char* kNotOffered = "this projector does not offer it";
-inline constexpr const char* kInputsNotRead = "not read, the projector did not tell its inputs";
+inline constexpr const char* kInputsNotRead = "not read, the projector did not report its inputs";
 inline constexpr const char* kNotInPjLink = "PJLink does not have it";
-
-/// Whether a name is one of the patterns, or there is none.
-bool IsLike(std::string_view name, const std::vector<std::string>& patterns);
+inline constexpr const char* kNoSuchSetting = "this model has no such setting";
 
 struct Use;
 
@@ -23,26 +21,25 @@ struct Target {
   const ModelSettings& settings;
   bool isPjLink = false;
 
-  /// Whether the inputs are only known once the projector has told them.
+  /// Whether only the projector itself can say which inputs it has.
   bool TellsInputs() const { return isPjLink && settings.Model().MySourceList.Size() == 0; }
-  /// Whether the way to it has what a use of the setting needs.
+  /// Whether the protocol has what this use of the setting needs.
   bool Carries(const Use& use, const ModelSetting& setting) const;
-  /// Whether the way to it can step the setting, and neither read nor set it.
+  /// Whether the protocol can step the setting, but neither read nor set it.
   bool OnlySteps(const ModelSetting& setting) const;
-  /// Whether this is a list of inputs that are still to be told.
+  /// Whether this is a list of inputs that the projector has not reported yet.
   bool LacksEntries(const ModelSetting& setting) const;
 };
 
-/// The profile's way to the projector, unless the command names another.
-bool IsPjLink(const ProjectorProfile& profile, const Arguments& arguments);
+/// Whether the projector is reached over PJLink, by its profile or by --connect.
+bool IsPjLink(const FleetProfile& profile, const Arguments& arguments);
 Target TargetOf(const ProjectorAccess& projector);
 
-/// "no answer", and what the connection knows of the reason.
-std::string NoAnswerText(const ProjectorAccess& projector);
-/// Why a setting cannot be used now: `refusal`, unless the last command came to something worse.
-std::string ReasonOf(const ProjectorAccess& projector, const char* refusal);
-void ComplainOf(const ModelSetting& setting, const ProjectorAccess& projector, const char* refusal,
-                Report& report);
+/// "no answer", with what the connection knows of the reason.
+Problem NoAnswerOf(const ProjectorAccess& projector);
+/// Why the last command for a setting failed: `otherwise`, unless the projector did not answer or
+/// does not have it.
+Problem FailureOf(const ProjectorAccess& projector, Problem otherwise);
 
 /// What a command does with a setting.
 struct Use {
@@ -56,33 +53,40 @@ struct Use {
 bool IsReadOverPjLink(const ModelSetting& setting, const ModelData& model);
 bool IsChangedOverPjLink(const ModelSetting& setting, const ModelData& model);
 bool IsResetOverPjLink(const ModelSetting& setting, const ModelData& model);
-/// Whether PJLink can step it, and neither read nor set it, as the volume.
+/// Whether PJLink can step it, but neither read nor set it, such as the volume.
 bool IsOnlySteppedOverPjLink(const ModelSetting& setting);
 
-inline constexpr Use kTold{[](const ModelSetting&) { return true; }, "",
-                           [](const ModelSetting& setting, const ModelData& model) {
-                             return IsReadOverPjLink(setting, model) ||
-                                    IsChangedOverPjLink(setting, model);
-                           }};
+inline constexpr Use kListed{[](const ModelSetting&) { return true; }, "",
+                             [](const ModelSetting& setting, const ModelData& model) {
+                               return IsReadOverPjLink(setting, model) ||
+                                      IsChangedOverPjLink(setting, model);
+                             }};
 inline constexpr Use kRead{[](const ModelSetting& setting) { return setting.readable; },
                            "this cannot be read", IsReadOverPjLink};
 inline constexpr Use kSet{[](const ModelSetting& setting) { return setting.changeable; },
                           "this cannot be set", IsChangedOverPjLink};
-inline constexpr Use kKept{
-    [](const ModelSetting& setting) { return setting.Restorable(); }, "this is not one to put back",
+inline constexpr Use kSaved{
+    [](const ModelSetting& setting) { return setting.Restorable(); }, "this cannot be restored",
     [](const ModelSetting& setting, const ModelData& model) {
       return IsReadOverPjLink(setting, model) && IsChangedOverPjLink(setting, model);
     }};
-// Resetting an hour counter cannot be undone, so no pattern matches one.
+// Resetting an hour counter cannot be undone, so no pattern or short name stands for one.
 inline constexpr Use kReset{
     [](const ModelSetting& setting) { return setting.reset.has_value(); }, "this cannot be reset",
     IsResetOverPjLink,
     [](const ModelSetting& setting) { return setting.kind != ModelSetting::Kind::State; }};
 
 /// What `get`, `set`, `reset` and `watch` can use; for any other command everything.
-const Use& UseBy(Arguments::Command command);
+const Use& UseBy(Command command);
 
-/// The settings that the words name and that can be used so, in the model's order; a word that
-/// names none is complained of.
+/// Whether a problem is only that a projector lacks a setting that others have.
+bool IsLack(const Problem& problem);
+/// A setting that the model does not have, or that PJLink does not have. This is wrong use if the
+/// command is for one projector, and an error of this one if it is for several.
+Problem LackOf(std::string_view word, bool isInModel, bool isForSeveral);
+
+/// The settings that the words name and that can be used in this way, in the model's order. A word
+/// that names none is a problem of the report.
 std::vector<const ModelSetting*> Chosen(const Target& target, const Use& use,
-                                        const std::vector<std::string>& words, Report& report);
+                                        const std::vector<std::string>& words, bool isForSeveral,
+                                        Report& report);

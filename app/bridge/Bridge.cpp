@@ -70,7 +70,7 @@ QString Bridge::Start() {
     Log(QStringLiteral("serves metrics at port %1").arg(listening.port));
   }
   if (!options_.textFile.isEmpty()) {
-    if (const QString error = CheckWholeFile(options_.textFile); !error.isEmpty()) return error;
+    if (QString error = CheckWholeFile(options_.textFile); !error.isEmpty()) return error;
     writing_.start(kWriting);
     QTimer::singleShot(kObserving, &writing_, [this] { WriteTextFile(); });
   }

@@ -20,16 +20,26 @@ void MetricsText::Add(const QByteArray& labels, double value, std::string_view s
 
 void MetricsText::AddText(const QByteArray& labels, const QByteArray& value,
                           std::string_view suffix) {
+  // Piece by piece: a store may have a hundred thousand samples.
   text_ += head_;
   head_.clear();
   text_ += name_;
-  text_ += Bytes(suffix);
-  if (!labels.isEmpty()) text_ += '{' + labels + '}';
-  text_ += ' ' + value + '\n';
+  text_.append(suffix.data(), static_cast<qsizetype>(suffix.size()));
+  if (!labels.isEmpty()) {
+    text_ += '{';
+    text_ += labels;
+    text_ += '}';
+  }
+  text_ += ' ';
+  text_ += value;
+  text_ += '\n';
 }
 
 QByteArray MetricsText::Label(std::string_view name, std::string_view value) {
-  QByteArray label = Bytes(name) + "=\"";
+  QByteArray label;
+  label.reserve(static_cast<qsizetype>(name.size() + value.size()) + 3);
+  label += Bytes(name);
+  label += "=\"";
   for (const char c : value) {
     if (c == '\\' || c == '"') label += '\\';
     if (c == '\n') {

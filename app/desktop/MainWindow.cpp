@@ -2,213 +2,222 @@
 
 #include <algorithm>
 #include <map>
+#include <set>
 #include <utility>
 
-#include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDockWidget>
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QLabel>
-#include <QMenuBar>
-#include <QPointer>
+#include <QMessageBox>
 #include <QScreen>
-#include <QScrollArea>
 #include <QSettings>
-#include <QSplitter>
 #include <QStatusBar>
-#include <QVBoxLayout>
 
-#include "app/desktop/HelpWindows.h"
+#include "app/desktop/FleetSummary.h"
+#include "app/desktop/ListPane.h"
+#include "app/desktop/LiveProjectors.h"
+#include "app/desktop/Notify.h"
+#include "app/desktop/Preferences.h"
+#include "app/desktop/PresetActions.h"
+#include "app/desktop/alerts/AlertList.h"
 #include "app/desktop/dialogs/DialogKeeper.h"
 #include "app/desktop/log/CommandLog.h"
 #include "app/desktop/log/SettingNames.h"
 #include "app/desktop/profiles/ProfileActions.h"
-#include "app/desktop/projectors/ProjectorView.h"
+#include "app/desktop/profiles/TransferActions.h"
 #include "app/desktop/settings/SettingsActions.h"
+#include "app/desktop/simulation/Demonstration.h"
 #include "app/desktop/simulation/FaultPanel.h"
+#include "app/desktop/work/WorkActions.h"
 #include "host/CAdvanceDlg.h"
 #include "i18n/Catalog.h"
 
 namespace {
 
-constexpr int kGap = 9;
 constexpr QSize kUsualSize{1340, 760};
-constexpr QSize kFrame{2 * kGap, 40};  // of a window; a guess until it is shown
+constexpr QSize kFrame{18, 40};  // of a window; a guess until it is shown
+constexpr std::size_t kOpenedUnasked = 8;
+constexpr int kToldFor = 10'000;  // milliseconds
 
 constexpr const char* kGeometryKey = "window/geometry";
-constexpr const char* kSidesKey = "window/sides";
-constexpr const char* kToolsKey = "window/tools";
-constexpr const char* kProjectorColumnsKey = "window/projectorColumns";
+constexpr const char* kStateKey = "window/docks";
+constexpr const char* kSidesKey = "window/panes";
+constexpr const char* kProjectorColumnsKey = "window/liveColumns";
 constexpr const char* kLogColumnsKey = "window/logColumns";
 constexpr const char* kProjectorKey = "window/projector";
 constexpr const char* kProfilesKey = "window/profiles";
 
+QString CommandName(const ProjectorProfile& profile, const PjtCommand& command) {
+  static std::map<std::pair<int, int>, std::map<std::uint16_t, QString>> all;
+  auto& names = all[{profile.Model.DialogType, profile.Model.ModelCode}];
+  if (names.empty()) names = SettingNames(profile.Model.DialogType, profile.Model.ModelCode);
+  const auto name = names.find(command.code);
+  return name == names.end() ? QString() : name->second;
+}
+
 }  // namespace
 
-MainWindow::MainWindow(std::vector<ProjectorProfile> profiles)
-    : MainWindow(ProfileDocument(std::move(profiles))) {}
+MainWindow::MainWindow(const std::vector<ProjectorProfile>& profiles, const FleetPolicy& policy)
+    : MainWindow(ProfileDocument(profiles), nullptr, policy) {}
 
-MainWindow::MainWindow(ProfileDocument profiles, QSettings* settings)
+MainWindow::MainWindow(ProfileDocument profiles, QSettings* settings, const FleetPolicy& policy)
     : profiles_(std::move(profiles)),
       firstProfiles_(profiles_.FileName()),
       settings_(settings),
-      projectors_(new ProjectorView),
       log_(new CommandLog),
       faults_(new FaultPanel),
-      sides_(new QSplitter),
-      tools_(new QSplitter(Qt::Vertical)),
-      profileActions_(new ProfileActions(
-          profiles_, [this] { return projectors_->CurrentRow(); }, *this)),
-      settingsActions_(new SettingsActions([this] { return projectors_->Selected(); },
-                                           [this](QObject* context, std::function<void()> work) {
-                                             return dialogs_->RunWhenQuiet(context,
-                                                                           std::move(work));
-                                           },
-                                           *this)),
-      dialogs_(std::make_unique<DialogKeeper>(
-          *this,
-          [this] {
-            const QRect tools(tools_->mapToGlobal(QPoint()), tools_->size());
-            return std::vector{log_->NewestRows(), tools, frameGeometry()};
+      alerts_(new AlertList),
+      live_(std::make_unique<LiveProjectors>(
+          policy,
+          [this](const ProjectorProfile& profile, const PjtCommand& command, const PjtReply& reply,
+                 std::chrono::microseconds elapsed) {
+            log_->Add({QDateTime::currentDateTime(), QString::fromStdString(profile.Name),
+                       CommandName(profile, command), command, reply, elapsed});
+          })),
+      pane_(new ListPane(live_->Watch())),
+      projectors_(&pane_->View()),
+      work_(new WorkActions(
+          [this] { return pane_->Selected(); },
+          [this](const std::string& id) {
+            const int position = projectors_->Model().Find(id);
+            return position < 0
+                       ? QString()
+                       : QString::fromStdString(
+                             profiles_.Projectors()[static_cast<std::size_t>(position)].name);
           },
-          settings)) {
-  MakeLayout();
+          live_->Watch(), *this)),
+      profileActions_(new ProfileActions(
+          profiles_, [this] { return projectors_->Selected(); }, *this)),
+      transfers_(new TransferActions(profiles_, *profileActions_, *this)),
+      presets_(new PresetActions({.selected = [this] { return pane_->Selected(); },
+                                  .watch = live_->Watch(),
+                                  .work = *work_,
+                                  .document = profiles_,
+                                  .edits = *profileActions_,
+                                  .window = *this})),
+      settingsActions_(new SettingsActions(
+          [this] {
+            ProjectorSessions sessions;
+            for (const ProjectorRow* row : pane_->Selected())
+              sessions.push_back(live_->Session(row->profile));
+            return sessions;
+          },
+          [this](QObject* context, std::function<void()> work) {
+            return dialogs_->RunWhenQuiet(context, std::move(work));
+          },
+          *this)),
+      dialogs_(std::make_unique<DialogKeeper>(*this, settings)) {
+  setCentralWidget(pane_);
+  MakeDocks();
   MakeMenus();
-  if (const std::string problem = CatalogProblem(); !problem.empty()) {
-    statusBar()->addWidget(new QLabel(QString::fromStdString(problem)));
-  }
-  connect(log_, &CommandLog::Updated, faults_, &FaultPanel::RefreshStates);
-  connect(projectors_, &ProjectorView::Activated, this, &MainWindow::OpenCurrent);
-  connect(projectors_, &ProjectorView::CurrentChanged, this, [this] {
-    faults_->SetSession(projectors_->Current());
-    profileActions_->Update();
-    settingsActions_->Update();
-  });
-  connect(profileActions_, &ProfileActions::Changed, this, [this](int selected) {
-    ShowProfiles();
-    if (selected >= 0) projectors_->Select(selected);
-  });
-  connect(dialogs_.get(), &DialogKeeper::Opened, this, [this](const ProjectorSession* session) {
-    projectors_->Model().SetState(session, tr("Open"));
-  });
-  connect(dialogs_.get(), &DialogKeeper::Closed, this,
-          [this](const ProjectorSession* session) { projectors_->Model().SetState(session, {}); });
+  Connect();
   ShowProfiles();
   SelectFirst();
   Restore();
   projectors_->FocusTable();
 }
 
+// What uses the projectors ends before them.
 MainWindow::~MainWindow() {
   faults_->SetSession(nullptr);
+  delete work_;
   dialogs_->CloseAll();
+  delete takeCentralWidget();
 }
 
-void MainWindow::MakeLayout() {
-  auto* faults = new QScrollArea;
-  faults->setWidget(faults_);
-  faults->setWidgetResizable(true);
-  faults->setFrameShape(QFrame::NoFrame);
-  tools_->addWidget(faults);
-  tools_->addWidget(log_);
-  tools_->setStretchFactor(1, 1);
-  tools_->setSizes({faults_->minimumSizeHint().height(), kUsualSize.height()});
-  tools_->setHandleWidth(kGap);
-  tools_->setChildrenCollapsible(false);
-  sides_->addWidget(projectors_);
-  sides_->addWidget(tools_);
-  sides_->setStretchFactor(1, 1);
-  sides_->setChildrenCollapsible(false);
-  sides_->setHandleWidth(kGap);
-  // A splitter does not mirror its own margins, so a widget around it has them.
-  auto* center = new QWidget;
-  auto* layout = new QVBoxLayout(center);
-  layout->setContentsMargins(kGap, kGap, kGap, kGap);
-  layout->addWidget(sides_);
-  setCentralWidget(center);
-}
-
-void MainWindow::MakeMenus() {
-  const auto add = [this](QMenu* menu, const QString& text, const QKeySequence& keys, auto act) {
-    QAction* action = menu->addAction(text);
-    action->setShortcut(keys);
-    connect(action, &QAction::triggered, this, act);
-    return action;
-  };
-
-  QMenu* file = menuBar()->addMenu(tr("&File"));
-  file->addActions({profileActions_->Open(), profileActions_->Reload(), profileActions_->SaveAs()});
-  file->addSeparator();
-  file->addAction(log_->SaveAs());
-  file->addSeparator();
-  add(file, tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), [this] { close(); });
-
-  QMenu* projector = menuBar()->addMenu(tr("&Projector"));
-  QAction* open = add(projector, tr("&Open Settings"), QKeySequence(Qt::CTRL | Qt::Key_Return),
-                      &MainWindow::OpenCurrent);
-  projector->addSeparator();
-  projector->addActions(
-      {settingsActions_->Save(), settingsActions_->Compare(), settingsActions_->Apply()});
-  projector->addSeparator();
-  projector->addActions({profileActions_->Add(), profileActions_->Edit(),
-                         profileActions_->Duplicate(), profileActions_->Remove()});
-  projectors_->AddContextActions({open, settingsActions_->Save(), settingsActions_->Compare(),
-                                  settingsActions_->Apply(), profileActions_->Add(),
-                                  profileActions_->Edit(), profileActions_->Duplicate(),
-                                  profileActions_->Remove()});
-
-  QMenu* view = menuBar()->addMenu(tr("&View"));
-  add(view, tr("&Find Projectors"), QKeySequence::Find, [this] { projectors_->FocusSearch(); });
-  view->addSeparator();
-  const auto addToggle = [&](const QString& text, const QKeySequence& keys, QWidget* part) {
-    QAction* action = add(view, text, keys, [part](bool shown) { part->setVisible(shown); });
-    action->setCheckable(true);
-    action->setChecked(true);
-  };
-  addToggle(tr("&Simulation"), QKeySequence(Qt::CTRL | Qt::Key_1), tools_->widget(0));
-  addToggle(tr("&Command Log"), QKeySequence(Qt::CTRL | Qt::Key_2), log_);
-  view->addSeparator();
-  view->addActions({log_->ChangesOnly(), log_->ClearAll()});
-  log_->ChangesOnly()->setShortcut(Qt::CTRL | Qt::Key_H);
-  log_->ClearAll()->setShortcut(Qt::CTRL | Qt::Key_L);
-
-  QMenu* help = menuBar()->addMenu(tr("&Help"));
-  add(help, tr("&Keyboard Shortcuts"), QKeySequence::HelpContents,
-      [this] { ShowShortcuts(*this); });
-  add(help, tr("&About"), {}, [this] { ShowAbout(*this); });
-}
-
-std::shared_ptr<ProjectorSession> MainWindow::MakeSession(const ProjectorProfile& profile) {
-  auto observer = [log = QPointer(log_), name = QString::fromStdString(profile.Name),
-                   type = profile.Model.DialogType, code = profile.Model.ModelCode,
-                   settings = std::map<std::uint16_t, QString>()](
-                      const PjtCommand& command, const PjtReply& reply,
-                      std::chrono::microseconds elapsed) mutable {
-    if (!log) return;
-    if (settings.empty()) settings = SettingNames(type, code);
-    const auto setting = settings.find(command.code);
-    log->Add({QTime::currentTime(), name, setting == settings.end() ? QString() : setting->second,
-              command, reply, elapsed});
-  };
-  return std::make_shared<ProjectorSession>(profile, std::move(observer));
-}
-
-// A projector whose profile has not changed keeps its simulation and its dialog.
-void MainWindow::ShowProfiles() {
-  ProjectorTableModel::Sessions before = projectors_->Model().All();
-  ProjectorTableModel::Sessions sessions;
-  for (const ProjectorProfile& profile : profiles_.Projectors()) {
-    const auto same = std::ranges::find_if(before, [&profile](const auto& session) {
-      return session != nullptr && session->Profile() == profile;
-    });
-    sessions.push_back(same == before.end() ? MakeSession(profile) : std::move(*same));
+void MainWindow::Connect() {
+  if (const std::string problem = CatalogProblem(); !problem.empty()) {
+    statusBar()->addWidget(new QLabel(QString::fromStdString(problem)));
   }
-  for (const auto& session : before) {
-    if (session != nullptr) dialogs_->Close(*session);
-  }
-  projectors_->SetSessions(std::move(sessions));
+  auto* status = new FleetSummary;
+  statusBar()->addPermanentWidget(status);
+  connect(pane_, &ListPane::Counted, status, &FleetSummary::Show);
+  alerts_->SetRules(AlertRules::Read(settings_));
+  connect(pane_, &ListPane::Counted, this, [this](const std::vector<ProjectorRow>& rows) {
+    alerts_->Look(rows, std::chrono::system_clock::now());
+  });
+  connect(alerts_, &AlertList::Changed, this, &MainWindow::TakeAlerts);
+  connect(alerts_, &AlertList::Activated, this, [this](const std::string& id) {
+    if (const int position = projectors_->Model().Find(id); position >= 0)
+      projectors_->Select(position);
+  });
+  connect(alerts_, &AlertList::Raised, this, [this](const QStringList& texts) {
+    const AlertRules rules = AlertRules::Read(settings_);
+    if (settings_ != nullptr && rules.notifies && !rules.IsQuiet(QTime::currentTime()))
+      Notify(*this, texts);
+  });
+  connect(work_, &WorkActions::Told, this,
+          [this](const QString& text) { statusBar()->showMessage(text, kToldFor); });
+  connect(log_, &CommandLog::Updated, faults_, &FaultPanel::RefreshStates);
+  connect(faults_, &FaultPanel::Changed, this,
+          [this](const ProjectorSession* session) { live_->TakeSimulation(*session); });
+  connect(live_.get(), &LiveProjectors::Changed, pane_, &ListPane::Refresh);
+  connect(projectors_, &ProjectorView::Activated, this, &MainWindow::OpenSelected);
+  connect(projectors_, &ProjectorView::SelectionChanged, this, &MainWindow::TakeSelection);
+  connect(findChild<QDockWidget*>(QStringLiteral("simulation")), &QDockWidget::visibilityChanged,
+          this, &MainWindow::TakeSelection);
+  connect(profileActions_, &ProfileActions::Changed, this, [this](int selected) {
+    ShowProfiles();
+    if (selected >= 0) projectors_->Select(selected);
+  });
+  const auto setOpen = [this](const ProjectorSession* session, bool isOpen) {
+    const int position = projectors_->Model().Find(live_->IdOf(*session));
+    if (position < 0) return;
+    projectors_->Model().Change(position, [isOpen](ProjectorRow& row) { row.isOpen = isOpen; });
+  };
+  connect(dialogs_.get(), &DialogKeeper::Opened, this,
+          [this, setOpen](const ProjectorSession* session) {
+            live_->Watch().LeaveToDialog(live_->IdOf(*session));
+            setOpen(session, true);
+          });
+  connect(dialogs_.get(), &DialogKeeper::Closed, this,
+          [this, setOpen](const ProjectorSession* session) {
+            live_->Watch().TakeBack(live_->IdOf(*session));
+            setOpen(session, false);
+          });
+}
+
+// A simulation that nobody looks at needs no session.
+void MainWindow::TakeSelection() {
+  const ProjectorRow* current = projectors_->Current();
+  const auto* dock = findChild<QDockWidget*>(QStringLiteral("simulation"));
+  const bool isWanted = current != nullptr && dock->isVisible();
+  faults_->SetSession(isWanted ? live_->Session(current->profile).get() : nullptr);
+  const bool any = projectors_->SelectedCount() > 0;
   profileActions_->Update();
+  settingsActions_->Update(any);
+  work_->Update(any);
+  presets_->Update(any);
+}
+
+void MainWindow::TakeAlerts() {
+  std::set<std::string> open;
+  for (const Alert& alert : alerts_->Open()) open.insert(alert.id);
+  const auto& rows = projectors_->Model().All();
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    const bool has = open.contains(rows[i].id);
+    if (rows[i].hasAlert == has) continue;
+    projectors_->Model().Change(static_cast<int>(i),
+                                [has](ProjectorRow& row) { row.hasAlert = has; });
+  }
+}
+
+void MainWindow::ShowPreferences() {
+  auto* dialog = new Preferences(*settings_, this);
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  connect(dialog, &QDialog::accepted, this,
+          [this] { alerts_->SetRules(AlertRules::Read(settings_)); });
+  dialog->open();
+}
+
+void MainWindow::ShowProfiles() {
+  faults_->SetSession(nullptr);
+  for (const auto& session : live_->SetProfiles(profiles_.Projectors())) dialogs_->Close(*session);
+  pane_->SetProfiles(profiles_.Projectors());
+  TakeSelection();
   setWindowTitle(profiles_.HasFile()
                      ? tr("Advanced Control: %1").arg(QFileInfo(profiles_.FileName()).fileName())
                      : tr("Advanced Control"));
@@ -220,24 +229,48 @@ void MainWindow::SelectFirst() {
   const std::string last = settings_ == nullptr
                                ? std::string()
                                : settings_->value(kProjectorKey).toString().toStdString();
-  auto first = std::ranges::find(all, last, &ProjectorProfile::Name);
+  auto first = std::ranges::find(all, last, &FleetProfile::name);
   if (first == all.end())
-    first = std::ranges::find_if(all, HasRowsOnEveryTab, &ProjectorProfile::Model);
+    first = std::ranges::find_if(
+        all, [](const FleetProfile& profile) { return HasRowsOnEveryTab(profile.model->info); });
   if (first != all.end()) projectors_->Select(static_cast<int>(first - all.begin()));
 }
 
-void MainWindow::OpenCurrent() {
-  if (const int row = projectors_->CurrentRow(); row >= 0)
-    OpenDialog(static_cast<std::size_t>(row));
+void MainWindow::OpenSelected() {
+  const std::vector<int> positions = projectors_->Selected();
+  const auto open = [this, positions] {
+    for (const int position : positions)
+      dialogs_->Open(*Session(static_cast<std::size_t>(position)));
+  };
+  if (positions.size() <= kOpenedUnasked) return open();
+  auto* question = new QMessageBox(QMessageBox::Question, tr("Open Settings"),
+                                   tr("Open %1 dialogs?").arg(positions.size()),
+                                   QMessageBox::Open | QMessageBox::Cancel, this);
+  question->setAttribute(Qt::WA_DeleteOnClose);
+  connect(question, &QDialog::accepted, this, open);
+  question->open();
+}
+
+std::shared_ptr<ProjectorSession> MainWindow::Session(std::size_t projector) const {
+  return live_->Session(profiles_.Projectors()[projector]);
 }
 
 CAdvanceDlg* MainWindow::OpenDialog(std::size_t projector, std::optional<int> tab) {
   projectors_->Select(static_cast<int>(projector));
-  return dialogs_->Open(*projectors_->Model().All()[projector], tab);
+  return dialogs_->Open(*Session(projector), tab);
 }
 
 CAdvanceDlg* MainWindow::Dialog(std::size_t projector) const {
-  return dialogs_->Of(*projectors_->Model().All()[projector]);
+  return dialogs_->Of(*Session(projector));
+}
+
+void MainWindow::Demonstrate() {
+  ProjectorSessions simulated;
+  for (const FleetProfile& profile : profiles_.Projectors()) {
+    if (profile.link == ProjectorLink::Simulated) simulated.push_back(live_->Session(profile));
+  }
+  ShowDemonstration(simulated);
+  for (const auto& session : simulated) live_->TakeSimulation(*session);
 }
 
 QString MainWindow::LastProfiles(const QSettings& settings) {
@@ -245,19 +278,18 @@ QString MainWindow::LastProfiles(const QSettings& settings) {
 }
 
 // The first time, the window opens at the lower right, so that a dialog at the upper left covers
-// neither the log nor the simulation.
+// little of it.
 void MainWindow::Restore() {
   const QRect screen = MainWindow::screen()->availableGeometry();
   if (settings_ != nullptr && restoreGeometry(settings_->value(kGeometryKey).toByteArray())) {
-    sides_->restoreState(settings_->value(kSidesKey).toByteArray());
-    tools_->restoreState(settings_->value(kToolsKey).toByteArray());
+    restoreState(settings_->value(kStateKey).toByteArray());
+    if (!pane_->RestoreState(settings_->value(kSidesKey).toByteArray())) pane_->Spread(width());
     projectors_->Columns().restoreState(settings_->value(kProjectorColumnsKey).toByteArray());
     log_->Columns().restoreState(settings_->value(kLogColumnsKey).toByteArray());
     return;
   }
   resize(kUsualSize.boundedTo(screen.size() - kFrame));
-  const int listWidth = std::min(width() * 9 / 20, width() - tools_->sizeHint().width());
-  sides_->setSizes({listWidth, width() - listWidth});
+  pane_->Spread(width());
   move(screen.right() + 1 - width() - kFrame.width(),
        screen.bottom() + 1 - height() - kFrame.height());
 }
@@ -265,15 +297,15 @@ void MainWindow::Restore() {
 void MainWindow::Remember() {
   if (settings_ == nullptr) return;
   settings_->setValue(kGeometryKey, saveGeometry());
-  settings_->setValue(kSidesKey, sides_->saveState());
-  settings_->setValue(kToolsKey, tools_->saveState());
+  settings_->setValue(kStateKey, saveState());
+  settings_->setValue(kSidesKey, pane_->SaveState());
   settings_->setValue(kProjectorColumnsKey, projectors_->Columns().saveState());
   settings_->setValue(kLogColumnsKey, log_->Columns().saveState());
   if (profiles_.FileName() != firstProfiles_) {
     settings_->setValue(kProfilesKey, QFileInfo(profiles_.FileName()).absoluteFilePath());
   }
-  if (const ProjectorSession* current = projectors_->Current()) {
-    settings_->setValue(kProjectorKey, QString::fromStdString(current->Profile().Name));
+  if (const ProjectorRow* current = projectors_->Current()) {
+    settings_->setValue(kProjectorKey, QString::fromStdString(current->profile.name));
   }
 }
 

@@ -3,11 +3,18 @@
 #include <utility>
 
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 
 namespace {
 
 constexpr qsizetype kLinesShown = 10;
+
+/// Where the last file was chosen while the program runs.
+QString& LastFolder() {
+  static QString folder;
+  return folder;
+}
 
 }  // namespace
 
@@ -25,7 +32,12 @@ void AskForFile(QWidget& window, const FileQuestion& question,
     dialog->setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog->setNameFilter(question.filter);
   }
+  if (!LastFolder().isEmpty()) dialog->setDirectory(LastFolder());
   if (!question.suggestion.isEmpty()) dialog->selectFile(question.suggestion);
+  QObject::connect(dialog, &QFileDialog::fileSelected, &window,
+                   [kind = question.kind](const QString& path) {
+                     LastFolder() = kind == Kind::Folder ? path : QFileInfo(path).absolutePath();
+                   });
   QObject::connect(dialog, &QFileDialog::fileSelected, &window, std::move(take));
   dialog->open();
 }

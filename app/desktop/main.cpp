@@ -14,6 +14,7 @@
 
 #include "app/desktop/CommandLine.h"
 #include "app/desktop/MainWindow.h"
+#include "app/desktop/Preferences.h"
 #include "app/desktop/Translations.h"
 #include "app/desktop/dialogs/Pictures.h"
 #include "app/desktop/profiles/ProfileDocument.h"
@@ -52,8 +53,8 @@ QStringList ProfileFilePlaces() {
 }
 
 /// Reads the file named by --profiles, else the one opened last, else the one that comes with the
-/// program.
-QString ReadProfiles(const CommandLine& line, ProfileDocument& document) {
+/// program; `areShipped` tells whether it is the last of these.
+QString ReadProfiles(const CommandLine& line, ProfileDocument& document, bool& areShipped) {
   if (!line.profiles.isEmpty()) return document.Load(line.profiles);
   if (line.action == CommandLine::Action::Window && line.open.isEmpty()) {
     const QString last = MainWindow::LastProfiles(QSettings(kName, kName));
@@ -61,7 +62,8 @@ QString ReadProfiles(const CommandLine& line, ProfileDocument& document) {
   }
   const QStringList places = ProfileFilePlaces();
   const auto place = std::ranges::find_if(places, qOverload<const QString&>(&QFileInfo::exists));
-  if (place != places.end()) return document.Load(*place);
+  areShipped = place != places.end();
+  if (areShipped) return document.Load(*place);
   return Program::tr("no profiles at %1; name a file with --profiles")
       .arg(places.join(Program::tr(" or ")));
 }
@@ -74,27 +76,32 @@ void ChooseLanguage(std::uint32_t language) {
 }
 
 // Tab 0 is the status page, which every projector has.
-int LastTab(const ProjectorProfile& profile) {
-  return static_cast<int>(TabsOf(profile.Model.DialogType, profile.Model.ModelCode).size());
+int LastTab(const CModelInfo2& model) {
+  return static_cast<int>(TabsOf(model.DialogType, model.ModelCode).size());
 }
 
-void PrintList(const std::vector<ProjectorProfile>& profiles) {
+void PrintList(const std::vector<FleetProfile>& profiles) {
   Table table;
   std::vector<std::string> titles;
-  for (const char* title : {"Name", "Model", "Type", "Code", "Connection"}) {
-    titles.push_back(QCoreApplication::translate("ProjectorTableModel", title).toStdString());
+  for (const char* title :
+       {QT_TRANSLATE_NOOP("Program", "Name"), QT_TRANSLATE_NOOP("Program", "Model"),
+        QT_TRANSLATE_NOOP("Program", "Type"), QT_TRANSLATE_NOOP("Program", "Code"),
+        QT_TRANSLATE_NOOP("Program", "Connection")}) {
+    titles.push_back(Program::tr(title).toStdString());
   }
   table.Add(titles);
-  for (const ProjectorProfile& profile : profiles) {
-    const CModelInfo2& model = profile.Model;
-    table.Add({profile.Name, model.ModelName, std::to_string(model.DialogType),
-               std::to_string(model.ModelCode), ConnectionText(model).toStdString()});
+  for (const FleetProfile& profile : profiles) {
+    const CModelInfo2& model = profile.model->info;
+    table.Add({profile.name, model.ModelName, std::to_string(model.DialogType),
+               std::to_string(model.ModelCode), ConnectionText(profile.connection).toStdString()});
   }
   std::fputs(table.Text().c_str(), stdout);
 }
 
-int RunTour(const std::vector<ProjectorProfile>& profiles, const QString& folder) {
-  const TourResult tour = SaveTour(profiles, folder);
+int RunTour(const std::vector<FleetProfile>& profiles, const QString& folder) {
+  std::vector<ProjectorProfile> projectors;
+  std::ranges::transform(profiles, std::back_inserter(projectors), MakeProjectorProfile);
+  const TourResult tour = SaveTour(projectors, folder);
   if (!tour.error.isEmpty()) return Fail(tour.error);
   const QString said = Program::tr("%1 pictures of %2 kinds of projectors saved in %3")
                            .arg(tour.pictures)
@@ -104,23 +111,27 @@ int RunTour(const std::vector<ProjectorProfile>& profiles, const QString& folder
   return 0;
 }
 
-int RunWindow(const CommandLine& line, ProfileDocument profiles, std::size_t opened) {
-  QSettings settings(kName, kName);
-  MainWindow window(std::move(profiles), &settings);
-  window.show();
-  // The user may close the dialog and the window while the dialog is being read.
-  if (!line.open.isEmpty()) {
-    QTimer::singleShot(0, &window, [&] { window.OpenDialog(opened, line.tab); });
-  }
-  return QApplication::exec();
-}
-
 /// The checked arguments with what they name.
 struct Request {
   CommandLine line;
   ProfileDocument profiles;
-  std::size_t opened = 0;  ///< Position of the projector that --open names.
+  bool areShipped = false;  ///< The profiles that come with the program.
+  std::size_t opened = 0;   ///< Position of the projector that --open names.
 };
+
+int RunWindow(Request request) {
+  const auto& [line, profiles, areShipped, opened] = request;
+  QSettings settings(kName, kName);
+  MainWindow window(profiles, &settings,
+                    {.interval = std::chrono::seconds(Preferences::Interval(&settings))});
+  if (areShipped) window.Demonstrate();
+  window.show();
+  // The user may close the dialog and the window while the dialog is being read.
+  if (!line.open.isEmpty()) {
+    QTimer::singleShot(0, &window, [&] { window.OpenDialog(request.opened, request.line.tab); });
+  }
+  return QApplication::exec();
+}
 
 /// Reads and checks everything that needs no window. Returns an exit code if no window is needed.
 std::variant<Request, int> Prepare(int argc, char* argv[]) {
@@ -128,8 +139,9 @@ std::variant<Request, int> Prepare(int argc, char* argv[]) {
   InstallTranslations();
   Request request{.line = ParseCommandLine(QCoreApplication::arguments()), .profiles = {}};
   const CommandLine& line = request.line;
-  if (line.language.has_value()) {
-    ChooseLanguage(*line.language);
+  const int preferred = Preferences::Language(QSettings(kName, kName));
+  if (line.language.has_value() || preferred != 0) {
+    ChooseLanguage(line.language.value_or(preferred));
     request.line =
         ParseCommandLine(QCoreApplication::arguments());  // errors may need its translations
   }
@@ -143,9 +155,9 @@ std::variant<Request, int> Prepare(int argc, char* argv[]) {
     return 0;
   }
 
-  const QString wrongProfiles = ReadProfiles(line, request.profiles);
+  const QString wrongProfiles = ReadProfiles(line, request.profiles, request.areShipped);
   if (!wrongProfiles.isEmpty()) return Fail(wrongProfiles);
-  const std::vector<ProjectorProfile>& projectors = request.profiles.Projectors();
+  const std::vector<FleetProfile>& projectors = request.profiles.Projectors();
   if (line.action == CommandLine::Action::List) {
     PrintList(projectors);
     return 0;
@@ -156,14 +168,14 @@ std::variant<Request, int> Prepare(int argc, char* argv[]) {
   }
   if (line.open.isEmpty()) return request;
 
-  const auto opened =
-      std::ranges::find(projectors, line.open.toStdString(), &ProjectorProfile::Name);
+  const auto opened = std::ranges::find(projectors, line.open.toStdString(), &FleetProfile::name);
   if (opened == projectors.end()) {
     return Fail(
         Program::tr("--open: there is no projector '%1'; --list names all.").arg(line.open));
   }
   request.opened = static_cast<std::size_t>(opened - projectors.begin());
-  if (const int last = LastTab(*opened), tab = line.tab.value_or(0); tab < 0 || tab > last) {
+  if (const int last = LastTab(opened->model->info), tab = line.tab.value_or(0);
+      tab < 0 || tab > last) {
     return Fail(Program::tr("--tab: there is no tab %1; '%2' has tabs 0 to %3.")
                     .arg(QString::number(tab), line.open, QString::number(last)));
   }
@@ -177,7 +189,8 @@ std::variant<Request, int> Prepare(int argc, char* argv[]) {
 int Run(int argc, char* argv[]) {
   auto prepared = Prepare(argc, argv);
   if (const int* exitCode = std::get_if<int>(&prepared)) return *exitCode;
-  auto& [line, profiles, opened] = std::get<Request>(prepared);
+  auto& request = std::get<Request>(prepared);
+  const auto& [line, profiles, areShipped, opened] = request;
 
   if (!line.platform && !HasDisplay()) {
     if (line.action == CommandLine::Action::Window) {
@@ -199,12 +212,12 @@ int Run(int argc, char* argv[]) {
     case CommandLine::Action::Tour:
       return RunTour(profiles.Projectors(), line.target);
     case CommandLine::Action::Screenshot: {
-      const QString error =
-          SaveScreenshot(profiles.Projectors()[opened], line.tab.value_or(0), line.target);
+      const QString error = SaveScreenshot(MakeProjectorProfile(profiles.Projectors()[opened]),
+                                           line.tab.value_or(0), line.target);
       return error.isEmpty() ? 0 : Fail(error);
     }
     default:
-      return RunWindow(line, std::move(profiles), opened);
+      return RunWindow(std::move(request));
   }
 }
 

@@ -1,11 +1,7 @@
 #pragma once
 
-#include <array>
-#include <chrono>
 #include <memory>
-#include <optional>
 #include <string>
-#include <utility>
 
 #include "AdvancedControlExport.h"
 #include "Namespace.h"
@@ -13,21 +9,15 @@
 #include "device/CPjtInterface.h"
 #include "device/CProjectorItem.h"
 #include "device/ModelData.h"
-#include "device/ModelDataIntake.h"
 #include "device/ModelDataSource.h"
+#include "pages/common/DialogContext.h"
+#include "pages/common/WantedSettings.h"
 #include "settings/PageSets.h"
 #include "toolkit/CDialog.h"
 
-class CTabCtrl;
 class CTabPage;
-class QTimer;
 namespace AdvancedControl {
-class FindLine;
-class FittedScroll;
-class ResourceModule;
-class StatusLine;
-class Waiting;
-struct PagePopUp;
+struct Snapshot;
 }  // namespace AdvancedControl
 
 /// The "Advanced Control" dialog of one projector: a tab per group of settings, each read live and
@@ -45,7 +35,8 @@ struct PagePopUp;
 /// If the host names no inputs, the dialog uses those that the projector reports over PJLink, once
 /// they are known and no handler runs.
 class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog,
-                                            public AdvancedControl::ModelDataSource {
+                                            public AdvancedControl::ModelDataSource,
+                                            public AdvancedControl::DialogContext {
   Q_OBJECT
 
  public:
@@ -97,10 +88,10 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog,
   /// The connection object that all pages use; owned by the dialog.
   CPjtInterface& Projector() { return projector_; }
 
-  const AdvancedControl::ModelData& Model() const override { return model_; }
+  const AdvancedControl::ModelData& Model() const override;
 
   /// Passed on to the connection object when the dialog is initialised.
-  void SetHostOption(bool option) { hostOption_ = option; }
+  void SetHostOption(bool option);
 
   /// Sets after how many hours a lamp of this model should be replaced; 0, the default, if that is
   /// not known. The status page shows the lamp time as a part of it from the next reading on.
@@ -116,8 +107,21 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog,
   /// Restores the host's resource module.
   void OnDestroy() override;
 
+  /// Gives the projector's own name, UTF-8, which the dialog and its boxes then show; empty for
+  /// none. Call it before the dialog is created.
+  void SetProjectorName(std::string name);
+  std::string ProjectorName() const override;
+
+  /// Gives the settings that the projector should have: rows that have another value are marked,
+  /// and offer to set it; without wanted settings nothing is marked. May be called at any time.
+  /// Values that the model's rows cannot show are ignored.
+  void SetWanted(AdvancedControl::WantedSettings wanted);
+  /// The same with the settings of a snapshot.
+  void SetWanted(const AdvancedControl::Snapshot& wanted);
+  const AdvancedControl::WantedSettings* Wanted() const override;
+
   /// The page of the selected tab, or null.
-  CTabPage* ShownPage() const { return shownPage_; }
+  CTabPage* ShownPage() const;
   /// Any page of the dialog; only those of the model's page set have controls once it is open.
   CTabPage& Page(AdvancedControl::PageId page) const;
 
@@ -125,72 +129,21 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog,
 
   /// The size that shows all tabs and every page completely. If the screen is too small for it, the
   /// dialog opens smaller and the page scrolls.
-  QSize sizeHint() const override { return wholeSize_; }
+  QSize sizeHint() const override;
 
  protected:
-  void DoDataExchange() override;
   /// Removes the channel until the dialog is created again.
   void OnOrphaned() override;
-  void OnBusy() override;
-  void OnIdle() override;
-  void OnLeave() override;
-  void OnReturn() override;
-  void OnStale() override { readsAgain_ = true; }
+  AdvancedControl::HandlerWatch& Watch() override;
   void resizeEvent(QResizeEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  struct Pages;
-
-  /// Data passed to `CopyData` while the dialog was open.
-  struct Intake {
-    AdvancedControl::ModelData model;
-    std::optional<AdvancedControl::ConnectionData>
-        connection;  ///< Nothing if only the model was passed.
-  };
+  struct Parts;
 
   /// The model to use for the next creation.
   AdvancedControl::ModelData& ModelToCreate();
-  void TakeConnection(const AdvancedControl::ConnectionData& connection);
-  void UseIntake();
 
-  void CreatePages();
-  void CreatePage(AdvancedControl::PageId id);
-  void InsertTabs();
-  void SetTitle();
-  /// Inputs newly reported by the projector, if the host names none.
-  std::optional<AdvancedControl::SourceList> NewReportedInputs() const;
-  void UseReportedInputs();
-  /// Uses inputs that the projector reports later, if the host names none.
-  void WatchInputs();
-  std::optional<AdvancedControl::PageId> PageIdOfTab(int tab) const;
-  CTabPage* PageOfTab(int tab) const;
-  void ShowSelectedPage();
-  void ShowWaiting(bool waiting);
-  QString WaitingText() const;
-  void FitToPages();
-  void OrderFocus();
-  void SelectNeighbourTab(int step);
-  void StartFinding();
-  void GoTo(int tab, int control, const std::optional<AdvancedControl::PagePopUp>& popUp);
-  void OpenPopUp(int button, int control, std::chrono::milliseconds delay = {});
-
-  const AdvancedControl::ResourceModule* savedResources_ =
-      nullptr;  // restored when the dialog closes
-  AdvancedControl::ModelData model_;
-  std::optional<Intake> next_;  // for the next creation
   CPjtInterface projector_;
-  AdvancedControl::FittedScroll* scroll_;  // shows the pages
-  std::unique_ptr<Pages> pages_;
-  QSize wholeSize_;
-  bool hostOption_ = false;
-  CTabCtrl* tabs_ = nullptr;
-  CTabPage* shownPage_ = nullptr;
-  std::unique_ptr<AdvancedControl::Waiting> waiting_;
-  AdvancedControl::StatusLine* status_;
-  AdvancedControl::FindLine* find_;
-  QTimer* inputsWatch_;
-  std::optional<AdvancedControl::SourceList> reportedInputs_;  // the inputs in use
-  bool reading_ = false;                                       // a page is being read
-  bool readsAgain_ = false;  // the shown page must be read when no handler runs
+  std::unique_ptr<Parts> parts_;
 };

@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "device/ModelDataIntake.h"
-#include "host/CAdvanceDlg.h"
+#include "host/DialogParts.h"
 
 namespace {
 
@@ -37,28 +37,7 @@ void CopySources(SourceList& list, int count, const char* names, const int* firs
 
 // An open dialog keeps its model, because its pages were created for it.
 ModelData& CAdvanceDlg::ModelToCreate() {
-  if (IsCreated() || IsBusy()) {
-    if (!next_) next_.emplace(Intake{.model = model_, .connection = {}});
-    return next_->model;
-  }
-  UseIntake();
-  return model_;
-}
-
-void CAdvanceDlg::TakeConnection(const ConnectionData& connection) {
-  if (next_) {
-    next_->connection = connection;
-    return;
-  }
-  projector_.CopyData(connection.Kind, connection.Number, connection.Parameter,
-                      connection.Text1.c_str(), connection.Text2.c_str());
-}
-
-void CAdvanceDlg::UseIntake() {
-  if (!next_) return;
-  const Intake given = *std::exchange(next_, std::nullopt);
-  model_ = given.model;
-  if (given.connection) TakeConnection(*given.connection);
+  return parts_->data.ModelToFill(IsCreated() || IsBusy());
 }
 
 void CAdvanceDlg::CopyData(std::string modelName, int dialogType, int mySourceCount,
@@ -117,11 +96,11 @@ void CAdvanceDlg::CopyData3(std::string text0, std::string text1, std::string te
 void CAdvanceDlg::CopyData(const CModelInfo2* model, int connection) {
   if (model == nullptr) return;
   ModelToCreate() = MakeModelData(*model);
-  TakeConnection(MakeConnectionData(*model, connection));
+  parts_->data.TakeConnection(MakeConnectionData(*model, connection));
 }
 
 void CAdvanceDlg::CopyData(const CProjectorItem* item) {
   if (item == nullptr) return;
   ModelToCreate() = MakeModelData(*item);
-  TakeConnection(MakeConnectionData(*item));
+  parts_->data.TakeConnection(MakeConnectionData(*item));
 }

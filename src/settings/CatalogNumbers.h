@@ -282,6 +282,34 @@ inline constexpr int Copy = 4323;
 inline constexpr int FindSetting = 4324;
 inline constexpr int NothingFound = 4325;
 inline constexpr int NumberWanted = 4326;  // %1 to %2 (integers)
+
+// What came of an action, shown beside Close. %1 names the row, with the value if there is one.
+inline constexpr int NotAccepted = 4340;
+inline constexpr int NotAcceptedHas = 4341;  // %2 the value that the projector has
+inline constexpr int ResetDone = 4342;
+inline constexpr int ActionDone = 4343;
+inline constexpr int ActionSent = 4344;         // of an action without a result
+inline constexpr int ChoiceGoesNowhere = 4345;  // %1 the entry
+inline constexpr int MemoryDoneBase = 4350;     // + 0..3 loaded, 4..7 saved
+
+// Why a row cannot be used.
+inline constexpr int OnlyShown = 4360;
+inline constexpr int OnlyForCustomGamma = 4361;
+inline constexpr int OnlyForCustomColorTemp = 4362;
+inline constexpr int NotWhileCoolingDown = 4363;
+
+// The line over the tabs.
+inline constexpr int Answers = 4370;
+inline constexpr int DoesNotAnswer = 4371;
+inline constexpr int ReadNow = 4372;
+inline constexpr int ReadSeconds = 4373;  // %1 seconds ago (integer)
+inline constexpr int ReadMinutes = 4374;  // %1 minutes ago (integer)
+inline constexpr int ReadAgain = 4375;
+inline constexpr int KeepUpToDate = 4376;
+
+// Settings that the projector should have.
+inline constexpr int Wanted = 4380;       // %1 the value's text
+inline constexpr int SetToWanted = 4381;  // %1 the value's text
 }  // namespace ListText
 
 namespace ErrorText {
@@ -345,6 +373,7 @@ inline constexpr int AutoOffRefused = 4204;
 // Questions.
 inline constexpr int StandbySavingQuestion = 1002;
 inline constexpr int PowerOffQuestion = 4202;
+inline constexpr int NamedPowerOffQuestion = 4205;  // %1 the projector's name
 }  // namespace ErrorText
 
 }  // namespace AdvancedControl

@@ -139,7 +139,8 @@ Stepped Step(CPjtInterface& projector, const ValueRow& row, bool upwards, int so
     case OperationFamily::PointerStepper: {
       const auto value = Read(projector, row.Reading(source));
       // A step at the end of the range is not sent, because its refusal would show an error.
-      if (!value || (row.error != 0 && atEnd(*value - row.bias))) return {};
+      if (!value) return {.unchanged = true};
+      if (row.error != 0 && atEnd(*value - row.bias)) return {};
       return answer(Perform(projector, step, *value));
     }
     case OperationFamily::SourceStepper:
@@ -147,7 +148,7 @@ Stepped Step(CPjtInterface& projector, const ValueRow& row, bool upwards, int so
     case OperationFamily::ChannelStepper: {
       if (atEnd(known)) return {};
       const Answer stepped = Perform(projector, step, known);
-      if (!stepped.accepted || stepped.value == known) return {};
+      if (!stepped.accepted || stepped.value == known) return {.unchanged = true};
       return {.value = stepped.value + row.bias};
     }
     default:

@@ -54,11 +54,12 @@ PROJECTOR_SETTINGS_EXPORT Sent SendRow(CPjtInterface& projector, const PageRow& 
 /// The source that a step addresses, given the result of `AskSource`; nothing if no step is made.
 PROJECTOR_SETTINGS_EXPORT std::optional<int> SteppedSource(OfSource of, std::optional<int> asked);
 
-/// The result of a step: refused, or the new value. Neither if nothing was sent, or if the new
-/// value could not be read.
+/// The result of a step: refused, or the new value. Neither if nothing was sent, if the step had no
+/// effect, or if the new value could not be read.
 struct Stepped {
   bool refused = false;
   std::optional<int> value{};
+  bool unchanged = false;  ///< The step had no effect, but the row shows no error for that.
 };
 
 /// Steps a row within `bounds`. `bounds` and `known`, the last known value, are shown values.

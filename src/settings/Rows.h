@@ -222,6 +222,8 @@ struct ActionRow {
   Entries entries{};
   Presence on{};
   int error = 0;  ///< Text shown for a refusal; 0 for none.
+  int done =
+      0;  ///< Text of the list category for a success, plus the position; 0 for a general one.
 };
 
 /// One of the resets of a page.

@@ -84,8 +84,9 @@ void CComboBox::initStyleOption(QStyleOptionComboBox* option) const {
   if (isRightToLeft()) option->currentText = Isolated(option->currentText);
 }
 
+// Otherwise scrolling a page would change the list that happens to have the focus.
 void CComboBox::wheelEvent(QWheelEvent* event) {
-  if (hasFocus()) {
+  if (hasFocus() && event->modifiers().testFlag(Qt::ControlModifier)) {
     QComboBox::wheelEvent(event);
   } else {
     event->ignore();

@@ -80,13 +80,19 @@ void CDialog::CentreOnOwner() {
 
 void CDialog::RunHandler(const Notification& entry, CSliderCtrl* slider) {
   auto* top = qobject_cast<CDialog*>(window());
-  const QWidget* control = GetDlgItem(entry.id);
-  if (top != nullptr && top->IsBusy() && (control == nullptr || !AcceptsInputWhileBusy(*control))) {
+  const QWidget* control = slider != nullptr ? slider : GetDlgItem(entry.id);
+  const bool isBusy = top != nullptr && top->IsBusy();
+  if (isBusy && control != nullptr && KeepsInput(*control)) return KeepInput(entry, slider);
+  if (isBusy && (control == nullptr || !AcceptsInputWhileBusy(*control))) {
     const auto* button = qobject_cast<const QAbstractButton*>(control);
-    if (button == nullptr || button->isCheckable()) top->OnStale();
+    if (button == nullptr || button->isCheckable()) top->Watch().OnStale();
     return;
   }
   const Busy busy(this);
+  Handle(entry, slider);
+}
+
+void CDialog::Handle(const Notification& entry, CSliderCtrl* slider) {
   entry.handle(*this, slider);
 }
 

@@ -56,9 +56,10 @@ class ADVANCED_CONTROL_EXPORT CDialog : public AdvancedControl::OwnedDialog {
   /// Fills the controls and completes the layout. True if the toolkit should set the focus.
   virtual bool OnInitDialog() { return true; }
 
-  /// Called when a control has changed but its handler could not run, so that it may show a wrong
-  /// value.
-  virtual void OnStale() {}
+  /// Calls the handler of a notification.
+  virtual void Handle(const AdvancedControl::Notification& entry, CSliderCtrl* slider);
+  /// Called instead while a handler runs, for a control whose input is kept.
+  virtual void KeepInput(const AdvancedControl::Notification&, CSliderCtrl*) {}
 
   /// To be called by `OnInitDialog` once everything is ready except the values read from the
   /// projector. Shows the dialog if it should be on screen before its first read.

@@ -13,24 +13,29 @@ InputDialog::Busy::Busy(const QWidget* dialog)
     : top_(dialog != nullptr ? qobject_cast<InputDialog*>(dialog->window()) : nullptr) {
   if (top_ == nullptr || ++top_->busy_ > 1) return;
   InputGate::Close(*top_);
-  top_->OnBusy();
+  top_->Watch().OnBusy();
 }
 
 InputDialog::Busy::~Busy() {
   if (top_ == nullptr || --top_->busy_ > 0) return;
   InputGate::Open(*top_);
-  top_->OnIdle();
+  top_->Watch().OnIdle(top_->left_);
   top_->Return();
   top_->AfterHandlers();
 }
 
+HandlerWatch& InputDialog::Watch() {
+  static HandlerWatch none;
+  return none;
+}
+
 void InputDialog::Leave() {
   if (busy_ == 0 || std::exchange(left_, true)) return;
-  OnLeave();
+  Watch().OnLeave();
 }
 
 void InputDialog::Return() {
-  if (std::exchange(left_, false)) OnReturn();
+  if (std::exchange(left_, false)) Watch().OnReturn();
 }
 
 void InputDialog::keyPressEvent(QKeyEvent* event) {

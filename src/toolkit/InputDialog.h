@@ -2,6 +2,7 @@
 
 #include "AdvancedControlExport.h"
 #include "Namespace.h"
+#include "toolkit/HandlerWatch.h"
 #include "toolkit/TemplateDialog.h"
 
 namespace AdvancedControl {
@@ -34,17 +35,15 @@ class ADVANCED_CONTROL_EXPORT InputDialog : public TemplateDialog {
     InputDialog* top_;
   };
 
+ Q_SIGNALS:
+  /// Input to a widget was dropped because a handler runs.
+  void InputDropped(const QWidget* target);
+
  protected:
   using TemplateDialog::TemplateDialog;
 
-  /// Called when the first handler begins, and when the last one has returned.
-  virtual void OnBusy() {}
-  virtual void OnIdle() {}
-
-  /// Called when the user leaves the running handlers: they must end at once, and neither send nor
-  /// change anything more. `OnReturn` is called when they have returned.
-  virtual void OnLeave() {}
-  virtual void OnReturn() {}
+  /// Who follows the handlers of this window.
+  virtual HandlerWatch& Watch();
 
   /// Leaves the running handlers, if any. They have returned when the last one returns, or when a
   /// handler that knows it is the last calls `Return`.
@@ -55,7 +54,7 @@ class ADVANCED_CONTROL_EXPORT InputDialog : public TemplateDialog {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  /// Called when no handler runs any more, after `OnIdle` and `OnReturn`.
+  /// Called when no handler runs any more, after the watch was told.
   virtual void AfterHandlers() {}
 
   int busy_ = 0;       // number of running handlers, which are nested

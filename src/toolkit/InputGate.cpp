@@ -5,7 +5,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 
-#include "toolkit/TemplateDialog.h"
+#include "toolkit/InputDialog.h"
 
 namespace AdvancedControl {
 
@@ -38,13 +38,19 @@ bool IsInput(const QEvent& event) {
   }
 }
 
+bool IsModifier(const QEvent& event) {
+  if (event.type() != QEvent::KeyPress) return false;
+  const int key = static_cast<const QKeyEvent&>(event).key();
+  return key >= Qt::Key_Shift && key <= Qt::Key_ScrollLock;
+}
+
 // Also finds the dialog of a list that is dropped down.
-const TemplateDialog* DialogOf(const QWidget& widget) {
-  const QWidget* window = widget.window();
+InputDialog* DialogOf(const QWidget& widget) {
+  QWidget* window = widget.window();
   while (window->windowType() == Qt::Popup && window->parentWidget() != nullptr) {
     window = window->parentWidget()->window();
   }
-  return qobject_cast<const TemplateDialog*>(window);
+  return qobject_cast<InputDialog*>(window);
 }
 
 }  // namespace
@@ -54,13 +60,13 @@ InputGate& InputGate::Instance() {
   return gate;
 }
 
-void InputGate::Close(const TemplateDialog& dialog) {
+void InputGate::Close(const InputDialog& dialog) {
   auto& closed = Instance().closed_;
   closed.push_back(&dialog);
   if (closed.size() == 1 && qApp != nullptr) qApp->installEventFilter(&Instance());
 }
 
-void InputGate::Open(const TemplateDialog& dialog) {
+void InputGate::Open(const InputDialog& dialog) {
   auto& closed = Instance().closed_;
   std::erase(closed, &dialog);
   if (closed.empty() && qApp != nullptr) qApp->removeEventFilter(&Instance());
@@ -69,8 +75,12 @@ void InputGate::Open(const TemplateDialog& dialog) {
 bool InputGate::eventFilter(QObject* watched, QEvent* event) {
   if (!IsInput(*event) || !watched->isWidgetType()) return false;
   const auto& target = static_cast<const QWidget&>(*watched);
-  const TemplateDialog* dialog = DialogOf(target);
-  return std::ranges::count(closed_, dialog) > 0 && !dialog->AcceptsInputWhileBusy(target);
+  InputDialog* dialog = DialogOf(target);
+  if (std::ranges::count(closed_, dialog) == 0 || dialog->AcceptsInputWhileBusy(target)) {
+    return false;
+  }
+  if (!IsModifier(*event)) Q_EMIT dialog->InputDropped(&target);
+  return true;
 }
 
 }  // namespace AdvancedControl

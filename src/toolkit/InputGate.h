@@ -8,15 +8,15 @@
 
 namespace AdvancedControl {
 
-class TemplateDialog;
+class InputDialog;
 
 /// Drops input to the controls of dialogs whose handlers run. Filters the application's events only
 /// while there is such a dialog. User-interface thread only.
 class InputGate final : public QObject {
  public:
   /// Starts and ends dropping input to `dialog`.
-  static void Close(const TemplateDialog& dialog);
-  static void Open(const TemplateDialog& dialog);
+  static void Close(const InputDialog& dialog);
+  static void Open(const InputDialog& dialog);
 
   bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -24,7 +24,7 @@ class InputGate final : public QObject {
   InputGate() = default;
   static InputGate& Instance();
 
-  std::vector<const TemplateDialog*> closed_;
+  std::vector<const InputDialog*> closed_;
 };
 
 }  // namespace AdvancedControl

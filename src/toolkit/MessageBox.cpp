@@ -23,7 +23,7 @@ void UseIcon(QMessageBox& box, IconName name) {
 
 int Run(QWidget* owner, QMessageBox::Icon icon, const QString& text,
         QMessageBox::StandardButtons buttons, QMessageBox::StandardButton preselected,
-        const ButtonTexts& texts) {
+        const BoxTexts& texts) {
   QWidget* window = owner != nullptr ? owner->window() : nullptr;
   if (const auto* dialog = qobject_cast<OwnedDialog*>(window); dialog && dialog->IsOrphaned()) {
     return QMessageBox::NoButton;
@@ -31,7 +31,8 @@ int Run(QWidget* owner, QMessageBox::Icon icon, const QString& text,
   const OwnedDialog::Busy busy(window);
   // On the heap, because the owner deletes the box if it dies while the box is open.
   const QPointer<QMessageBox> box = new QMessageBox(
-      icon, window != nullptr ? window->windowTitle() : QString(), text, buttons, window);
+      icon, texts.title.isEmpty() && window != nullptr ? window->windowTitle() : texts.title, text,
+      buttons, window);
   box->setTextFormat(Qt::PlainText);
   box->setDefaultButton(preselected);
   for (const auto& [button, caption] : {std::pair(QMessageBox::Ok, texts.ok),
@@ -52,13 +53,13 @@ int Run(QWidget* owner, QMessageBox::Icon icon, const QString& text,
 
 }  // namespace
 
-void ShowStopMessage(QWidget* owner, const QString& text, const ButtonTexts& buttons) {
-  Run(owner, QMessageBox::Critical, text, QMessageBox::Ok, QMessageBox::Ok, buttons);
+void ShowStopMessage(QWidget* owner, const QString& text, const BoxTexts& texts) {
+  Run(owner, QMessageBox::Critical, text, QMessageBox::Ok, QMessageBox::Ok, texts);
 }
 
-bool AskYesNo(QWidget* owner, const QString& text, const ButtonTexts& buttons) {
+bool AskYesNo(QWidget* owner, const QString& text, const BoxTexts& texts) {
   return Run(owner, QMessageBox::Information, text, QMessageBox::Yes | QMessageBox::No,
-             QMessageBox::No, buttons) == QMessageBox::Yes;
+             QMessageBox::No, texts) == QMessageBox::Yes;
 }
 
 }  // namespace AdvancedControl

@@ -8,17 +8,19 @@ class QWidget;
 
 namespace AdvancedControl {
 
-/// Texts of the buttons; an empty text means Qt's own.
-struct ButtonTexts {
-  QString ok, yes, no;
+/// Title and buttons of a box. An empty title means that of the owner's window, an empty text of a
+/// button Qt's own.
+struct BoxTexts {
+  QString title{}, ok{}, yes{}, no{};
 };
 
-/// Shows an error with a stop icon and an OK button. Modal to `owner`'s window, whose title it has;
-/// returns when the user has closed it, or when the owner dies. User-interface thread only.
-void ShowStopMessage(QWidget* owner, const QString& text, const ButtonTexts& buttons = {});
+/// Shows an error with a stop icon and an OK button. Modal to `owner`'s window, whose title it has
+/// by default; returns when the user has closed it, or when the owner dies. User-interface thread
+/// only.
+void ShowStopMessage(QWidget* owner, const QString& text, const BoxTexts& texts = {});
 
 /// Asks a question with an information icon, Yes and No buttons; No is the default button. True for
 /// Yes; closing the box or Esc is No. User-interface thread only.
-bool AskYesNo(QWidget* owner, const QString& text, const ButtonTexts& buttons = {});
+bool AskYesNo(QWidget* owner, const QString& text, const BoxTexts& texts = {});
 
 }  // namespace AdvancedControl

@@ -227,10 +227,13 @@ void TemplateDialog::FitToScreen() {
 bool TemplateDialog::AcceptsInputWhileBusy(const QWidget& target) const {
   for (const QWidget* part = &target; part != nullptr && part != this;
        part = part->parentWidget()) {
-    if (qobject_cast<const TemplateDialog*>(part) != nullptr) return false;  // a page
+    if (const auto* page = qobject_cast<const TemplateDialog*>(part)) {
+      return page->KeepsInput(target);
+    }
     const auto control =
         std::ranges::find(controls_, part, [](const auto& numbered) { return numbered.second; });
-    if (control != controls_.end()) return IsUsableWhileBusy(*template_, control->first);
+    if (control == controls_.end()) continue;
+    return IsUsableWhileBusy(*template_, control->first) || KeepsInput(*part);
   }
   return true;
 }

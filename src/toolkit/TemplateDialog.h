@@ -41,8 +41,11 @@ class ADVANCED_CONTROL_EXPORT TemplateDialog : public QDialog {
   }
 
   /// Whether `target`, the dialog or a widget in it, accepts input while a handler runs: tabs,
-  /// Close and the space between the controls, but nothing on a page.
+  /// Close and the space between the controls, but nothing on a page except controls whose input is
+  /// kept.
   bool AcceptsInputWhileBusy(const QWidget& target) const;
+  /// Whether the input to a control of this dialog is kept while its own handler runs.
+  virtual bool KeepsInput(const QWidget& /*control*/) const { return false; }
 
   /// Shows or removes the row that holds this control; the rows below close the gap.
   void ShowRow(int id, bool present);

@@ -88,7 +88,7 @@ TEST(AcctlPjLink, TellsStandbyAsAStateAndNotAsFailures) {
     EXPECT_THAT(any.Run(asked, {"get", "Any", "status.mute"}), Ends(0, StartsWith(left)));
     EXPECT_EQ(asked.Count("AVMT ?"), 1);
     EXPECT_EQ(asked.Count("POWR ?"), 1);
-    EXPECT_THAT(any.Run(projector, {"save", "Any", kept}),
+    EXPECT_THAT(any.Run(projector, {"save", "--force", "Any", kept}),
                 Ends(0, AllOf(StartsWith(left), HasSubstr("nothing was written"))));
     EXPECT_EQ(Contents(kept), "precious");
   }
@@ -166,7 +166,7 @@ TEST(AcctlPjLink, StepsTheVolumeThatNobodyCanRead) {
   EXPECT_THAT(set("+2"), Ends(1, HasSubstr("setup.volume: refused; 0 of 2 steps accepted\n")));
   EXPECT_THAT(set("-2"), Ends(0, ""));
   EXPECT_EQ(projector.Count("SVOL 0"), 2);
-  EXPECT_THAT(set("5"), Ends(2, HasSubstr("setup.volume: '5' is no step like +1 or -1")));
+  EXPECT_THAT(set("5"), Ends(2, HasSubstr("setup.volume: '5' is no step such as +1 or -1")));
   EXPECT_THAT(set("+4097"), Ends(2, HasSubstr("'+4097' is more than 4096 steps")));
 }
 
@@ -181,7 +181,7 @@ TEST(AcctlPjLink, StopsSteppingWhereItIsInterrupted) {
   EXPECT_THAT(Finish(process), Ends(128 + SIGTERM, HasSubstr("setup.volume: stopped, ")));
 }
 
-TEST(AcctlPjLink, TellsAcceptedAndNotYetSoBusyAndUnconfirmedApart) {
+TEST(AcctlPjLink, TellsPendingBusyAndUnconfirmedApart) {
   constexpr const char* kTimeOut = "3";
   const AnyProfile any;
   const QStringList set{"--json", "set", "Any", "other.mute", "on"};
@@ -190,8 +190,11 @@ TEST(AcctlPjLink, TellsAcceptedAndNotYetSoBusyAndUnconfirmedApart) {
     isGone = isGone || request == "AVMT 21";
     return isGone ? "hang up" : others(request);
   };
-  const auto fallsSilent = [](const std::string& request) {
-    return request == "AVMT ?" ? "hang up" : "OK";
+  bool wasSent = false;
+  const auto fallsSilent = [others = Projector("1"), &wasSent](const std::string& request) {
+    wasSent = wasSent || request == "AVMT 21";
+    if (request == "AVMT 21") return std::string("OK");
+    return request == "AVMT ?" && wasSent ? "hang up" : others(request);
   };
   bool wasLost = false;
   const auto loses = [others = Projector("1"), &wasLost](const std::string& request) {

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <QDir>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTemporaryDir>
@@ -9,10 +10,26 @@
 #include "tests/support/Programs.h"
 
 inline const QString kRoom = "Projector 5-30";
+/// It as output names it, if the program simulates it itself.
+inline const std::string kSimulated = "Projector 5-30 (simulated)  ";
+/// What a change of it is noted with.
+inline const std::string kNothingLasting =
+    "acctl: Projector 5-30: simulated by acctl itself, nothing lasting was changed\n";
 
-/// What the program remembers of projectors is gone with the tests, which use their ports.
+/// What the program keeps is gone with the tests, whose ports the next ones use.
 inline const QTemporaryDir kCache;
-inline const bool kIsCacheSet = qputenv("XDG_CACHE_HOME", kCache.path().toUtf8());
+inline const QTemporaryDir kState;
+inline const bool kAreFoldersSet = qputenv("XDG_CACHE_HOME", kCache.path().toUtf8()) &&
+                                   qputenv("XDG_STATE_HOME", kState.path().toUtf8()) &&
+                                   qputenv("XDG_CONFIG_HOME", kState.path().toUtf8());
+
+/// The undo files of the runs so far.
+inline QStringList UndoFiles() {
+  const QDir folder(kState.filePath("advanced-control/undo"));
+  QStringList files;
+  for (const QString& name : folder.entryList(QDir::Files)) files += folder.filePath(name);
+  return files;
+}
 
 inline Outcome Acctl(const QStringList& arguments, const char* locale = "C",
                      const QString& program = ACCTL_PROGRAM) {

@@ -16,6 +16,7 @@ namespace {
 
 using testing::AllOf;
 using testing::AnyOf;
+using testing::EndsWith;
 using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
@@ -68,7 +69,7 @@ TEST(Adversity, AFailedAllocationEndsTheProgramWithOneLine) {
                            Ends(-1, HasSubstr("ASSERT: \"this->isMutable()"))));
 #endif
     if (set.exitCode == 0) {
-      EXPECT_EQ(set.output, "picture.tint  色调  3\n");
+      EXPECT_THAT(set.output, EndsWith("  ->  3\n"));
     }
     told += set.exitCode == 1;
   }
@@ -93,9 +94,10 @@ TEST(Adversity, OnlyWhatTheDiskHasIsSaved) {
   QFile::remove(folder.filePath("new.json"));
   const FailingCalls calls("FAIL_SYNC", "kill");
   EXPECT_EQ(Acctl({"save", kRoom, file}).exitCode, -1);
+  const QStringList undo = UndoFiles();
   EXPECT_EQ(Acctl({"apply", file, kRoom}).exitCode, -1);
   EXPECT_EQ(Contents(file), kept);
-  EXPECT_THAT(FilesIn(folder).filter("undo"), testing::IsEmpty());
+  EXPECT_EQ(UndoFiles(), undo);
 }
 
 TEST(Adversity, LinksAreFollowedUnlessTheyLeadInACircle) {
@@ -161,8 +163,9 @@ TEST(Adversity, AnUndoFileIsForItsOwnProjector) {
   const QString file = folder.filePath("good.json"), other = "Projector 5-31";
   SaveOthers(file);
   EXPECT_THAT(Acctl({"apply", file, other}), Ends(0, Not(HasSubstr("--force"))));
-  EXPECT_THAT(Acctl({"apply", file, kRoom}), Ends(0, ""));
-  const QString undo = folder.filePath(FilesIn(folder).filter("5-30").front());
+  EXPECT_THAT(Acctl({"apply", file, kRoom}), Ends(0, kNothingLasting));
+  const QString undo = folder.filePath("undo.json");
+  Write(undo, Contents(file).replace("\"model\": {", "\"undo\": true, \"model\": {"));
   EXPECT_THAT(Acctl({"apply", undo, other}),
               Ends(2, HasSubstr("undoes a change of Projector 5-30; --force applies it to " +
                                 other.toStdString())));

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPointer>
+#include <QProgressBar>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -37,18 +38,19 @@ TEST(MainWindow, HasOneDialogPerProjectorAndLogsTheirCommands) {
   MainWindow window({Profile("A"), Profile("B")});
   window.show();
   QTableView& table = Table(window);
-  table.setCurrentIndex(table.model()->index(1, 2));
+  window.findChild<ProjectorView*>()->Select(1);
   QTest::keyClick(&table, Qt::Key_Return);
   ASSERT_NE(window.Dialog(1), nullptr);
   EXPECT_TRUE(window.Dialog(1)->windowTitle().contains("B"));
   EXPECT_EQ(window.OpenDialog(1), window.Dialog(1));
-  Find<QPushButton>(window, "Open").click();
+  Find<QAction>(window, "Open Settings").trigger();
   EXPECT_EQ(window.Dialog(0), nullptr);
   EXPECT_NE(window.OpenDialog(0), nullptr);
   EXPECT_TRUE(window.isEnabled() && table.isEnabled());
   const auto* log = window.findChild<CommandLog*>()->findChild<QTableView*>()->model();
   EXPECT_TRUE(Soon([log] { return log->rowCount() > 10; })) << "the log gathers entries";
   EXPECT_TRUE(LogText(*log, {0}).contains("\tB\tGet Power Status 0x6000\t1\tok\t"));
+  EXPECT_FALSE(window.findChild<CommandLog*>()->isVisible()) << "it takes no room at first";
   const CAdvanceDlg& dialog = *window.Dialog(0);
   EXPECT_EQ(dialog.size(), FittedToScreen(dialog, dialog.sizeHint())) << "no smaller for the log";
 }
@@ -57,7 +59,7 @@ TEST(MainWindow, QuestionsHoldUpNoDialogAndWorkWaitsForDialogs) {
   MainWindow window({Profile("A")});
   window.show();
   CAdvanceDlg* dialog = window.OpenDialog(0);
-  ProjectorSession& session = *window.findChild<ProjectorView*>()->Current();
+  ProjectorSession& session = *window.Session(0);
   session.SetFault({}, {Fault::Kind::Late, std::chrono::milliseconds(20)});
   const QTemporaryDir folder;
   const QString file = folder.filePath("settings.json");
@@ -157,7 +159,7 @@ TEST(MainWindow, RestoresItsStateAndClosesWithoutWaiting) {
     CAdvanceDlg* dialog = window.OpenDialog(5);
     dialog->findChild<QTabBar*>()->setCurrentIndex(2);
     place = window.geometry();
-    window.findChild<ProjectorView*>()->Current()->SetFault({}, {Fault::Kind::DropOut});
+    window.Session(5)->SetFault({}, {Fault::Kind::DropOut});
     QTimer::singleShot(0, dialog, [dialog] { dialog->DispTabScreen(); });
     QTimer::singleShot(50, &window, &QWidget::close);
     EXPECT_EQ(QApplication::exec(), 0);
@@ -168,7 +170,7 @@ TEST(MainWindow, RestoresItsStateAndClosesWithoutWaiting) {
   window.show();
   EXPECT_EQ(window.geometry(), place);
   EXPECT_EQ(Table(window).columnWidth(0), 123);
-  EXPECT_EQ(window.findChild<ProjectorView*>()->CurrentRow(), 5);
+  EXPECT_EQ(window.findChild<ProjectorView*>()->CurrentPosition(), 5);
   EXPECT_EQ(window.OpenDialog(5)->findChild<QTabBar*>()->currentIndex(), 2);
 }
 
@@ -189,8 +191,11 @@ TEST(MainWindow, IsTranslatedCompletely) {
     QStringList texts{window.windowTitle(), editor.windowTitle()};
     for (const auto* child : window.findChildren<QObject*>() + editor.findChildren<QObject*>()) {
       for (const char* name : {"text", "title", "toolTip", "placeholderText", "accessibleName"}) {
-        // Text from the user or from profiles is not translated.
-        if (qobject_cast<const QLineEdit*>(child) && qstrcmp(name, "text") == 0) continue;
+        // Text from the user, from profiles or from projectors is not translated.
+        const bool isValue = child->objectName() == "value" ||
+                             qobject_cast<const QLineEdit*>(child) ||
+                             qobject_cast<const QProgressBar*>(child);
+        if (isValue && qstrcmp(name, "text") == 0) continue;
         if (!child->property("separator").toBool()) texts += child->property(name).toString();
       }
     }

@@ -266,11 +266,11 @@ TEST_F(ProfileDocumentFile, EachProjectorIsCopiedAndRemovedWithoutATrace) {
   const QByteArray before = Contents(name);
   const std::size_t count = document.Projectors().size();
   for (std::size_t i = 0; i < count; i += 7) {
-    ASSERT_EQ(document.Duplicate(i, "copy"), "");
+    ASSERT_EQ(document.Duplicate(i, {{"name", "copy"}}), "");
     ASSERT_EQ(document.Projectors().size(), count + 1);
-    EXPECT_EQ(document.Projectors()[i].Model, document.Projectors()[i + 1].Model);
+    EXPECT_EQ(document.Projectors()[i].model, document.Projectors()[i + 1].model);
     EXPECT_NE(Contents(name), before);
-    ASSERT_EQ(document.Remove(i + 1), "");
+    ASSERT_EQ(document.Remove({static_cast<int>(i) + 1}), "");
     ASSERT_EQ(Contents(name), before) << i;
   }
 }
@@ -278,26 +278,26 @@ TEST_F(ProfileDocumentFile, EachProjectorIsCopiedAndRemovedWithoutATrace) {
 TEST_F(ProfileDocumentFile, FailedChangesChangeNothing) {
   using testing::HasSubstr;
   const QByteArray before = Contents(name);
-  const QString taken = QString::fromStdString(document.Projectors()[0].Name);
-  EXPECT_THAT(document.Duplicate(1, taken).toStdString(), HasSubstr("is the name of"));
+  const QString taken = QString::fromStdString(document.Projectors()[0].name);
+  EXPECT_THAT(document.Duplicate(1, {{"name", taken}}).toStdString(), HasSubstr("is the name of"));
   EXPECT_THAT(document.Change(1, {{"modelCode", "x"}}).toStdString(), HasSubstr("whole number"));
   EXPECT_THAT(document.Change(1, {{"name", kNone}}).toStdString(), HasSubstr("is missing"));
   EXPECT_EQ(Contents(name), before);
 
   Write(name, before + "\n");
-  EXPECT_THAT(document.Remove(1).toStdString(), HasSubstr("changed by another program"));
+  EXPECT_THAT(document.Remove({1}).toStdString(), HasSubstr("changed by another program"));
   EXPECT_THAT(document.SaveAs(name).toStdString(), HasSubstr("changed by another program"));
   EXPECT_EQ(Contents(name), before + "\n");
   EXPECT_EQ(document.Load(name), "");
-  EXPECT_EQ(document.Remove(1), "");
+  EXPECT_EQ(document.Remove({1}), "");
 
   const std::size_t count = document.Projectors().size();
   QFile::remove(name);
-  EXPECT_THAT(document.Remove(1).toStdString(), HasSubstr("cannot read"));
+  EXPECT_THAT(document.Remove({1}).toStdString(), HasSubstr("cannot read"));
   EXPECT_THAT(document.SaveAs("/nowhere/p.json").toStdString(), HasSubstr("/nowhere/p.json"));
   EXPECT_EQ(document.Projectors().size(), count);
   EXPECT_EQ(document.SaveAs(name), "");
-  EXPECT_EQ(document.Remove(1), "");
+  EXPECT_EQ(document.Remove({1}), "");
 }
 
 TEST_F(ProfileDocumentFile, WithAPasswordIsReadableByItsOwnerOnly) {

@@ -17,7 +17,6 @@
 #include <gtest/gtest.h>
 
 #include "app/desktop/MainWindow.h"
-#include "app/desktop/projectors/ProjectorView.h"
 #include "host/CAdvanceDlg.h"
 #include "host/FindLine.h"
 #include "tests/support/DialogDriver.h"
@@ -29,12 +28,12 @@ namespace {
 using namespace std::chrono_literals;
 
 const std::vector<ProjectorProfile> kProfiles{
-    {"", MakeModel(5, 30), {}}, {"", MakeModel(4, 9), {}}, {"", MakeModel(2, 6), {}}};
+    {"A", MakeModel(5, 30), {}}, {"B", MakeModel(4, 9), {}}, {"C", MakeModel(2, 6), {}}};
 
 class Walk {
  public:
   Walk(unsigned seed, int actions) : actions_(actions), random_(seed) {
-    sessions_ = window_->findChild<ProjectorView*>()->Model().All();
+    for (std::size_t i = 0; i < kProfiles.size(); ++i) sessions_.push_back(window_->Session(i));
     for (const ProjectorProfile& profile : kProfiles) {
       sessions_.push_back(std::make_shared<ProjectorSession>(profile, nullptr));
     }

@@ -17,7 +17,7 @@
 #include "tests/support/RecordingChannel.h"
 #include "toolkit/CComboBox.h"
 
-void Wheel(QWidget& control, int notches);
+void Wheel(QWidget& control, int notches, Qt::KeyboardModifiers keys = {});
 /// Shows a window in front of all others.
 void Activate(QWidget& window);
 
@@ -40,7 +40,9 @@ class DialogDriver {
   /// Drags the slider's handle until it shows this position, and releases it.
   void Drag(int id, int position) const;
   void Press(int id, Qt::Key key) const;
-  void Wheel(int id, int notches) const { ::Wheel(Item<QWidget>(id), notches); }
+  void Wheel(int id, int notches, Qt::KeyboardModifiers keys = {}) const {
+    ::Wheel(Item<QWidget>(id), notches, keys);
+  }
 
   bool IsEnabled(int id) const;
   /// The text of a label, button, field, or of a list's selected entry.

@@ -148,6 +148,8 @@ TEST_F(DialogTest, TheWheelNeedsTheFocus) {
   EXPECT_NE(driver.SliderAt(4), 0);
   dialog.GetDlgItem(9)->setFocus();
   driver.Wheel(9, -1);
+  EXPECT_EQ(driver.Selected(9), 0) << "a closed list also needs Ctrl";
+  driver.Wheel(9, -1, Qt::ControlModifier);
   EXPECT_EQ(driver.Selected(9), 1);
   EXPECT_EQ(dialog.choices, 1);
 }

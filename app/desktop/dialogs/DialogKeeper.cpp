@@ -40,9 +40,8 @@ int Area(const QRect& rectangle) {
 
 }  // namespace
 
-DialogKeeper::DialogKeeper(const QWidget& window, std::function<std::vector<QRect>()> keepVisible,
-                           QSettings* settings)
-    : window_(window), keepVisible_(std::move(keepVisible)), settings_(settings) {
+DialogKeeper::DialogKeeper(const QWidget& window, QSettings* settings)
+    : window_(window), settings_(settings) {
   deleteRetired_.setSingleShot(true);
   deleteRetired_.setInterval(kRetirementCheck);
   connect(&deleteRetired_, &QTimer::timeout, this, &DialogKeeper::DeleteRetired);
@@ -136,18 +135,11 @@ void DialogKeeper::Place(CAdvanceDlg& dialog) const {
       inside(screen.left(), bottom),
       inside(right, bottom),
   };
-  const std::vector<QRect> keepVisible = keepVisible_();
-  const QPoint best = *std::ranges::min_element(places, {}, [&](QPoint place) {
-    std::vector<int> covered;
-    covered.reserve(keepVisible.size());
-    for (const QRect& part : keepVisible) covered.push_back(Area(QRect(place, size) & part));
-    return covered;
-  });
+  const QPoint best = *std::ranges::min_element(
+      places, {}, [&](QPoint place) { return Area(QRect(place, size) & beside); });
   const auto others = std::min(dialogs_.size() - 1, kCascadeLength);
   const int apart = kCascade * static_cast<int>(others);
-  QPoint place = inside(best.x() + (best.x() == right ? -apart : apart), best.y() + apart);
-  if (QRect(place, size).intersects(keepVisible.front())) place.setY(screen.top() + apart);
-  dialog.move(place);
+  dialog.move(inside(best.x() + (best.x() == right ? -apart : apart), best.y() + apart));
 }
 
 void DialogKeeper::Close(const ProjectorSession& session) {

@@ -7,7 +7,6 @@
 #include <vector>
 
 #include <QObject>
-#include <QRect>
 #include <QTimer>
 
 #include "app/desktop/projectors/ProjectorSession.h"
@@ -22,11 +21,9 @@ class DialogKeeper : public QObject {
   Q_OBJECT
 
  public:
-  /// Dialogs open beside the areas of the screen that `keepVisible` returns, the most important one
-  /// first, or cover as little of them as possible; no dialog is made smaller for that. `settings`
-  /// may be null: then nothing is remembered. Neither is owned.
-  DialogKeeper(const QWidget& window, std::function<std::vector<QRect>()> keepVisible,
-               QSettings* settings);
+  /// Dialogs open beside `window`, or cover as little of it as possible. `settings` may be null:
+  /// then nothing is remembered. Neither is owned.
+  DialogKeeper(const QWidget& window, QSettings* settings);
   ~DialogKeeper() override;
 
   /// Opens a projector's dialog, or brings the open one to the front. Selects `tab`, from 0, or
@@ -63,7 +60,6 @@ class DialogKeeper : public QObject {
   void DeleteRetired();
 
   const QWidget& window_;
-  const std::function<std::vector<QRect>()> keepVisible_;
   QSettings* settings_;
   std::map<const ProjectorSession*, std::unique_ptr<CAdvanceDlg>> dialogs_;
   /// Closed dialogs whose handlers may still be running.

@@ -13,8 +13,10 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QHelpEvent>
-#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
 #include <QPaintEvent>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QTableView>
 #include <QToolButton>
@@ -28,7 +30,6 @@
 
 namespace {
 
-constexpr int kRowsInView = 5;
 constexpr auto kGatherTime = std::chrono::milliseconds(40);
 
 // The widest usual text of each column.
@@ -86,10 +87,10 @@ CommandLog::CommandLog(QWidget* parent)
       shown_(new CommandLogFilter(this)),
       view_(new RowsAtFoot),
       changesOnly_(new QAction(tr("Changes &Only"), this)),
+      errorsOnly_(new QAction(tr("&Errors Only"), this)),
       saveAs_(new QAction(tr("Save &Log As…"), this)),
-      clear_(new QAction(tr("Clea&r Log"), this)),
-      caption_(new QLabel(tr("Commands, &newest last"))),
-      buttons_(new QHBoxLayout) {
+      clear_(new QAction(tr("Clea&r Log…"), this)),
+      filter_(new QLineEdit) {
   shown_->setSourceModel(model_);
   view_->setModel(shown_);
   view_->setItemDelegate(new Cells(view_));
@@ -103,38 +104,36 @@ CommandLog::CommandLog(QWidget* parent)
 
   changesOnly_->setCheckable(true);
   changesOnly_->setToolTip(tr("Leave out the commands that only read"));
+  errorsOnly_->setCheckable(true);
+  errorsOnly_->setToolTip(tr("Leave out the commands that were carried out"));
   auto* copy = new QAction(tr("&Copy"), this);
   copy->setShortcut(QKeySequence::Copy);
   copy->setShortcutContext(Qt::WidgetShortcut);
   view_->addAction(copy);
-  view_->addActions({changesOnly_, saveAs_, clear_});
+  view_->addActions({changesOnly_, errorsOnly_, saveAs_, clear_});
   view_->setContextMenuPolicy(Qt::ActionsContextMenu);
 
+  filter_->setPlaceholderText(tr("Projector, command or result"));
+  filter_->setAccessibleName(tr("Filter the log"));
+  filter_->setClearButtonEnabled(true);
   auto* head = new QHBoxLayout;
-  caption_->setBuddy(view_);
-  caption_->setMinimumWidth(1);  // it shrinks before the window is limited
-  head->addWidget(caption_);
-  head->addStretch();
-  head->addLayout(buttons_);
-  for (QAction* action : {changesOnly_, saveAs_, clear_}) buttons_->addWidget(ButtonOf(action));
+  head->addWidget(filter_, 1);
+  for (QAction* action : {changesOnly_, errorsOnly_, saveAs_, clear_})
+    head->addWidget(ButtonOf(action));
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addLayout(head);
   layout->addWidget(view_);
 
   connect(changesOnly_, &QAction::toggled, shown_, &CommandLogFilter::ShowChangesOnly);
+  connect(errorsOnly_, &QAction::toggled, shown_, &CommandLogFilter::ShowErrorsOnly);
+  connect(filter_, &QLineEdit::textChanged, shown_, &CommandLogFilter::ShowOnly);
   connect(copy, &QAction::triggered, this, &CommandLog::CopySelected);
   connect(saveAs_, &QAction::triggered, this, &CommandLog::AskAndSave);
-  connect(clear_, &QAction::triggered, this, &CommandLog::Clear);
+  connect(clear_, &QAction::triggered, this, &CommandLog::AskAndClear);
   gather_.setSingleShot(true);
   gather_.setInterval(kGatherTime);
   connect(&gather_, &QTimer::timeout, this, &CommandLog::ShowPending);
-}
-
-// Hides the caption if it does not fit as a whole.
-void CommandLog::resizeEvent(QResizeEvent* event) {
-  QWidget::resizeEvent(event);
-  caption_->setVisible(caption_->sizeHint().width() + buttons_->sizeHint().width() <= width());
 }
 
 void CommandLog::MakeColumns() {
@@ -154,14 +153,6 @@ void CommandLog::MakeColumns() {
 }
 
 QHeaderView& CommandLog::Columns() const { return *view_->horizontalHeader(); }
-
-QRect CommandLog::NewestRows() const {
-  if (!isVisible()) return {};
-  const QWidget& rows = *view_->viewport();
-  const int height =
-      std::min(rows.height(), kRowsInView * view_->verticalHeader()->defaultSectionSize());
-  return {rows.mapToGlobal(QPoint(0, rows.height() - height)), QSize(rows.width(), height)};
-}
 
 void CommandLog::Add(CommandLogModel::Entry entry) {
   pending_.push_back(std::move(entry));
@@ -212,4 +203,17 @@ void CommandLog::AskAndSave() {
                const QString error = Save(path);
                if (!error.isEmpty()) ShowError(*this, tr("Save Log"), error);
              });
+}
+
+void CommandLog::AskAndClear() {
+  auto* question = new QMessageBox(QMessageBox::Question, tr("Clear Log"),
+                                   tr("Remove all %1 entries of the log?").arg(model_->rowCount()),
+                                   QMessageBox::NoButton, this);
+  question->setAttribute(Qt::WA_DeleteOnClose);
+  const QPushButton* clear = question->addButton(tr("Clear"), QMessageBox::DestructiveRole);
+  question->setDefaultButton(question->addButton(QMessageBox::Cancel));
+  connect(question, &QDialog::finished, this, [this, question, clear] {
+    if (question->clickedButton() == clear) Clear();
+  });
+  question->open();
 }

@@ -9,9 +9,8 @@
 #include "app/desktop/log/CommandLogModel.h"
 
 class QAction;
-class QHBoxLayout;
-class QLabel;
 class QHeaderView;
+class QLineEdit;
 
 /// The command log as a table, with the newest row at the bottom. It scrolls along unless the user
 /// has scrolled back. Rows can be copied, saved, and limited to changes.
@@ -30,20 +29,15 @@ class CommandLog : public QWidget {
 
   QHeaderView& Columns() const;
 
-  /// The area of the last few rows, in screen coordinates; empty while the log is hidden.
-  QRect NewestRows() const;
-
   /// Actions for menus; owned by the log.
   QAction* ChangesOnly() const { return changesOnly_; }
+  QAction* ErrorsOnly() const { return errorsOnly_; }
   QAction* SaveAs() const { return saveAs_; }
   QAction* ClearAll() const { return clear_; }
 
  Q_SIGNALS:
   /// New entries are shown.
   void Updated();
-
- protected:
-  void resizeEvent(QResizeEvent* event) override;
 
  private:
   class Cells;
@@ -53,15 +47,16 @@ class CommandLog : public QWidget {
   void ShowPending();
   void CopySelected() const;
   void AskAndSave();
+  void AskAndClear();
 
   CommandLogModel* model_;
   CommandLogFilter* shown_;
   RowsAtFoot* view_;
   QAction* changesOnly_;
+  QAction* errorsOnly_;
   QAction* saveAs_;
   QAction* clear_;
-  QLabel* caption_;
-  QHBoxLayout* buttons_;
+  QLineEdit* filter_;
   std::vector<CommandLogModel::Entry> pending_;
   QTimer gather_;
 };

@@ -100,6 +100,10 @@ bool CommandLogModel::IsChange(int row) const {
   return !IsRead(entries_[static_cast<std::size_t>(row)].command.operation);
 }
 
+bool CommandLogModel::IsError(int row) const {
+  return OutcomeOf(entries_[static_cast<std::size_t>(row)]).failed;
+}
+
 int CommandLogModel::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(entries_.size());
 }
@@ -114,6 +118,8 @@ QVariant CommandLogModel::data(const QModelIndex& index, int role) const {
   if (role == Qt::ForegroundRole && index.column() == Result && OutcomeOf(entry).failed) {
     return QBrush(FailureColor());
   }
+  if (role == kDatedRole && index.column() == Time)
+    return entry.time.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz"));
   if (role != Qt::DisplayRole) return {};
   switch (index.column()) {
     case Time:
@@ -143,8 +149,28 @@ void CommandLogFilter::ShowChangesOnly(bool only) {
   invalidateFilter();
 }
 
+void CommandLogFilter::ShowErrorsOnly(bool only) {
+  errorsOnly_ = only;
+  invalidateFilter();
+}
+
+void CommandLogFilter::ShowOnly(const QString& text) {
+  words_ = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+  invalidateFilter();
+}
+
 bool CommandLogFilter::filterAcceptsRow(int row, const QModelIndex& /*parent*/) const {
-  return !changesOnly_ || static_cast<const CommandLogModel*>(sourceModel())->IsChange(row);
+  const auto* log = static_cast<const CommandLogModel*>(sourceModel());
+  if (changesOnly_ && !log->IsChange(row)) return false;
+  if (errorsOnly_ && !log->IsError(row)) return false;
+  if (words_.isEmpty()) return true;
+  QString text;
+  for (const auto column : {CommandLogModel::Projector, CommandLogModel::Command,
+                            CommandLogModel::Value, CommandLogModel::Result}) {
+    text += log->index(row, column).data().toString() + QLatin1Char('\n');
+  }
+  return std::ranges::all_of(
+      words_, [&text](const QString& word) { return text.contains(word, Qt::CaseInsensitive); });
 }
 
 QString LogText(const QAbstractItemModel& log, const std::vector<int>& rows) {
@@ -152,7 +178,9 @@ QString LogText(const QAbstractItemModel& log, const std::vector<int>& rows) {
   for (const int row : rows) {
     for (int column = 0; column < log.columnCount(); ++column) {
       if (column > 0) text += QLatin1Char('\t');
-      text += log.index(row, column).data().toString();
+      const QModelIndex cell = log.index(row, column);
+      const QVariant dated = cell.data(CommandLogModel::kDatedRole);
+      text += (dated.isValid() ? dated : cell.data()).toString();
     }
     text += QLatin1Char('\n');
   }

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include <QAbstractTableModel>
+#include <QDateTime>
 #include <QSortFilterProxyModel>
-#include <QTime>
 
 #include "device/ProjectorChannel.h"
 
@@ -21,7 +21,7 @@ class CommandLogModel : public QAbstractTableModel {
   static constexpr std::size_t kMaximumEntries = 20'000;
 
   struct Entry {
-    QTime time;
+    QDateTime time;
     QString projector;
     QString setting;  ///< Name of a generic command's setting; may be empty.
     PjtCommand command;
@@ -34,8 +34,13 @@ class CommandLogModel : public QAbstractTableModel {
   void Append(std::vector<Entry> entries);
   void Clear();
 
+  /// Of the time: with its date, for files.
+  static constexpr int kDatedRole = Qt::UserRole;
+
   /// Whether the row's command asked for a change instead of reading.
   bool IsChange(int row) const;
+  /// Whether the projector did not do what the row's command asked.
+  bool IsError(int row) const;
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;
@@ -47,7 +52,7 @@ class CommandLogModel : public QAbstractTableModel {
   std::deque<Entry> entries_;
 };
 
-/// Filters the log to changes, if wanted.
+/// Limits the log to changes, to errors, and to rows that contain a text, if wanted.
 class CommandLogFilter : public QSortFilterProxyModel {
   Q_OBJECT
 
@@ -55,13 +60,18 @@ class CommandLogFilter : public QSortFilterProxyModel {
   using QSortFilterProxyModel::QSortFilterProxyModel;
 
   void ShowChangesOnly(bool only);
+  void ShowErrorsOnly(bool only);
+  /// Each word of `text` must occur in a row: in the projector's name, the command or the result.
+  void ShowOnly(const QString& text);
 
  protected:
   bool filterAcceptsRow(int row, const QModelIndex& parent) const override;
 
  private:
   bool changesOnly_ = false;
+  bool errorsOnly_ = false;
+  QStringList words_;
 };
 
-/// Rows of a log as text: one line per row, with columns separated by tabs.
+/// Rows of a log as text: one line per row, with columns separated by tabs, and dates before times.
 QString LogText(const QAbstractItemModel& log, const std::vector<int>& rows);

@@ -1,10 +1,16 @@
 #include "app/desktop/profiles/ProfileDocument.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
+
+#include "fleet/ProfileEdits.h"
+#include "fleet/ProfileFile.h"
+#include "fleet/WholeFile.h"
 
 namespace {
 
@@ -16,15 +22,19 @@ JsonEdit::Path EntryPath(std::size_t projector) {
 
 }  // namespace
 
+ProfileDocument::ProfileDocument(const std::vector<ProjectorProfile>& projectors) {
+  std::ranges::transform(projectors, std::back_inserter(projectors_), MakeFleetProfile);
+}
+
 QString ProfileDocument::Load(const QString& fileName) {
   const ProfileFileText file = ReadProfileText(fileName);
   if (!file.error.isEmpty()) return file.error;
-  ProfileFileContents contents = ParseProfiles(file.text, fileName);
-  if (!contents.error.isEmpty()) return contents.error;
+  ProfileList list = ParseProfileList(file.text, fileName);
+  if (!list.error.isEmpty()) return list.error;
   fileName_ = fileName;
   text_ = file.text;
-  file_ = QJsonDocument::fromJson(text_).object();
-  projectors_ = std::move(contents.projectors);
+  file_ = {};
+  projectors_ = std::move(list.profiles);
   return {};
 }
 
@@ -37,8 +47,19 @@ QString ProfileDocument::SaveAs(const QString& fileName) {
   return {};
 }
 
+bool ProfileDocument::IsReadOnly() const {
+  return HasFile() && !CheckWholeFile(fileName_).isEmpty();
+}
+
+const QJsonObject& ProfileDocument::File() const {
+  if (file_.isEmpty()) file_ = QJsonDocument::fromJson(text_).object();
+  return file_;
+}
+
+QStringList ProfileDocument::Families() const { return File()["families"].toObject().keys(); }
+
 QJsonObject ProfileDocument::Family(const QString& name) const {
-  QJsonObject own = file_["families"].toObject()[name].toObject();
+  QJsonObject own = File()["families"].toObject()[name].toObject();
   if (!own.contains("like")) return own;
   QJsonObject all = Family(own["like"].toString());
   for (auto member = own.constBegin(); member != own.constEnd(); ++member) {
@@ -47,8 +68,29 @@ QJsonObject ProfileDocument::Family(const QString& name) const {
   return all;
 }
 
+QMap<QString, QJsonObject> ProfileDocument::Models() const {
+  static const QStringList kOfOne{"name", "connection", "link",           "identity",
+                                  "tags", "notes",      "ratedLampHours", "snapshot"};
+  QMap<QString, QJsonObject> models;
+  const QJsonObject families = File()["families"].toObject();
+  for (const QString& family : families.keys()) {
+    const QString name = families[family].toObject()["model"].toString();
+    if (!name.isEmpty()) models.insert(name, {{"like", family}});
+  }
+  for (const auto& value : File()["projectors"].toArray()) {
+    QJsonObject entry = value.toObject();
+    const QString name = entry["model"].toString();
+    if (name.isEmpty() || models.contains(name)) continue;
+    for (const QString& key : entry.keys()) {
+      if (kOfOne.contains(key) || key.startsWith(QLatin1String("x-"))) entry.remove(key);
+    }
+    models.insert(name, entry);
+  }
+  return models;
+}
+
 QJsonObject ProfileDocument::Entry(std::size_t projector) const {
-  return file_["projectors"].toArray().at(static_cast<qsizetype>(projector)).toObject();
+  return File()["projectors"].toArray().at(static_cast<qsizetype>(projector)).toObject();
 }
 
 QString ProfileDocument::Change(std::size_t projector, const JsonEdit::Members& members) {
@@ -64,17 +106,49 @@ QString ProfileDocument::Insert(std::size_t after, const JsonEdit::Members& memb
                                        JsonEdit::Write(members)));
 }
 
-QString ProfileDocument::Duplicate(std::size_t projector, const QString& name) {
+QString ProfileDocument::Duplicate(std::size_t projector, const JsonEdit::Members& members) {
+  // The identity is that of one projector alone.
   QByteArray copy = JsonEdit::SetMember(JsonEdit::TextAt(text_, EntryPath(projector)), {},
-                                        {QStringLiteral("name"), name});
-  // Which is that of one projector alone.
-  copy = JsonEdit::SetMember(copy, {}, {QStringLiteral("identity"), QJsonValue::Undefined});
+                                        {QStringLiteral("identity"), QJsonValue::Undefined});
+  for (const JsonEdit::Member& member : members) copy = JsonEdit::SetMember(copy, {}, member);
   return Write(
       JsonEdit::InsertElement(text_, kProjectors, static_cast<qsizetype>(projector), copy));
 }
 
-QString ProfileDocument::Remove(std::size_t projector) {
-  return Write(JsonEdit::RemoveElement(text_, kProjectors, static_cast<qsizetype>(projector)));
+QString ProfileDocument::Remove(const std::vector<int>& projectors) {
+  if (projectors.size() == 1) {
+    return Write(
+        JsonEdit::RemoveElement(text_, kProjectors, static_cast<qsizetype>(projectors.front())));
+  }
+  ProfileEdits edits(text_);
+  for (const int projector : projectors) edits.Remove(static_cast<std::size_t>(projector));
+  return Write(edits.Text());
+}
+
+QString ProfileDocument::Tag(const std::vector<int>& projectors, const QStringList& tags,
+                             bool adds) {
+  ProfileEdits edits(text_);
+  for (const int projector : projectors) {
+    const auto place = static_cast<std::size_t>(projector);
+    QJsonArray all;
+    for (const std::string& tag : projectors_[place].tags) {
+      const QString text = QString::fromStdString(tag);
+      if (adds || !tags.contains(text)) all.append(text);
+    }
+    for (const QString& tag : tags) {
+      if (adds && !all.contains(tag)) all.append(tag);
+    }
+    edits.Change(place, {{QStringLiteral("tags"), all}});
+  }
+  return Write(edits.Text());
+}
+
+QString ProfileDocument::SetMember(const std::vector<int>& projectors,
+                                   const JsonEdit::Member& member) {
+  ProfileEdits edits(text_);
+  for (const int projector : projectors)
+    edits.Change(static_cast<std::size_t>(projector), {member});
+  return Write(edits.Text());
 }
 
 QString ProfileDocument::ChangedMeanwhile() const {
@@ -86,12 +160,12 @@ QString ProfileDocument::ChangedMeanwhile() const {
 
 QString ProfileDocument::Write(const QByteArray& text) {
   if (text == text_) return {};
-  ProfileFileContents contents = ParseProfiles(text, fileName_);
-  if (!contents.error.isEmpty()) return contents.error;
+  ProfileList list = ParseProfileList(text, fileName_);
+  if (!list.error.isEmpty()) return list.error;
   if (QString error = ChangedMeanwhile(); !error.isEmpty()) return error;
   if (QString error = WriteProfileText(fileName_, text); !error.isEmpty()) return error;
   text_ = text;
-  file_ = QJsonDocument::fromJson(text_).object();
-  projectors_ = std::move(contents.projectors);
+  file_ = {};
+  projectors_ = std::move(list.profiles);
   return {};
 }

@@ -5,8 +5,9 @@
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QJsonObject>
+#include <QMap>
 
-#include "app/profiles/ProfileFile.h"
+#include "app/profiles/ProjectorProfile.h"
 #include "fleet/JsonEdit.h"
 
 /// The profile file that the program uses, and changes to it. Each change is written at once as a
@@ -20,8 +21,7 @@ class ProfileDocument {
  public:
   ProfileDocument() = default;
   /// For projectors that are in no file; they cannot be changed.
-  explicit ProfileDocument(std::vector<ProjectorProfile> projectors)
-      : projectors_(std::move(projectors)) {}
+  explicit ProfileDocument(const std::vector<ProjectorProfile>& projectors);
 
   /// Reads a file and replaces the present one. After an error nothing has changed.
   QString Load(const QString& fileName);
@@ -33,11 +33,17 @@ class ProfileDocument {
   const QString& FileName() const { return fileName_; }
 
   /// In the order of the file.
-  const std::vector<ProjectorProfile>& Projectors() const { return projectors_; }
+  const std::vector<FleetProfile>& Projectors() const { return projectors_; }
+  /// The text of the file.
+  const QByteArray& Text() const { return text_; }
+  /// Whether the file cannot be written.
+  bool IsReadOnly() const;
 
-  QStringList Families() const { return file_["families"].toObject().keys(); }
+  QStringList Families() const;
   /// A family's settings, including those it inherits; empty for an unknown name.
   QJsonObject Family(const QString& name) const;
+  /// The models that the file describes, by name: the members of an entry that make one of them.
+  QMap<QString, QJsonObject> Models() const;
   /// A projector's own entry in the file, without its family's settings.
   QJsonObject Entry(std::size_t projector) const;
 
@@ -47,17 +53,23 @@ class ProfileDocument {
   QString Change(std::size_t projector, const JsonEdit::Members& members);
   /// Inserts a projector after the one at `after`.
   QString Insert(std::size_t after, const JsonEdit::Members& members);
-  /// Inserts a copy with another name after a projector.
-  QString Duplicate(std::size_t projector, const QString& name);
-  /// Removes a projector, unless it is the only one of the file.
-  QString Remove(std::size_t projector);
+  /// Inserts a copy after a projector, with these members instead.
+  QString Duplicate(std::size_t projector, const JsonEdit::Members& members);
+  /// Removes projectors, unless no other is in the file.
+  QString Remove(const std::vector<int>& projectors);
+  /// Gives projectors these tags in addition, or takes them away.
+  QString Tag(const std::vector<int>& projectors, const QStringList& tags, bool adds);
+  /// Sets or removes one member of several entries.
+  QString SetMember(const std::vector<int>& projectors, const JsonEdit::Member& member);
+  /// Replaces the text of the file.
+  QString Write(const QByteArray& text);
 
  private:
-  QString Write(const QByteArray& text);
+  const QJsonObject& File() const;
   QString ChangedMeanwhile() const;
 
   QString fileName_;
-  QByteArray text_;  // as last read or written
-  QJsonObject file_;
-  std::vector<ProjectorProfile> projectors_;
+  QByteArray text_;           // as last read or written
+  mutable QJsonObject file_;  // empty until it is needed
+  std::vector<FleetProfile> projectors_;
 };

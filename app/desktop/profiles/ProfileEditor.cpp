@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 #include <QAccessible>
+#include <QCheckBox>
+#include <QCompleter>
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QIntValidator>
@@ -18,6 +21,8 @@
 #include <QVBoxLayout>
 
 #include "app/desktop/Mnemonic.h"
+#include "app/desktop/profiles/ConnectionTest.h"
+#include "app/desktop/profiles/LinkNames.h"
 #include "app/desktop/profiles/ProfileDocument.h"
 #include "toolkit/CComboBox.h"
 #include "toolkit/Icons.h"
@@ -26,9 +31,6 @@ namespace {
 
 constexpr int kFrameHeight = 40;  // a guess until it is shown
 constexpr int kFieldWidth = 26;   // in average characters
-const QString kNetwork = QStringLiteral("network");
-const QString kPjLink = QStringLiteral("pjlink");
-const QString kSerial = QStringLiteral("serial");
 
 QString TextOf(const QJsonValue& value) {
   return value.isDouble() ? QString::number(value.toInt()) : value.toString();
@@ -42,14 +44,6 @@ QJsonValue ValueAt(const QJsonObject& entry, const QString& path) {
 }
 
 bool IsBlank(const QLineEdit* field) { return field->text().trimmed().isEmpty(); }
-
-void Put(QJsonObject& object, const char* key, const QJsonValue& value) {
-  if (value.isUndefined()) {
-    object.remove(QLatin1String(key));
-  } else {
-    object[QLatin1String(key)] = value;
-  }
-}
 
 void TakeNumbersOnly(QLineEdit& field, int minimum, int maximum) {
   field.setValidator(new QIntValidator(minimum, maximum, &field));
@@ -78,7 +72,10 @@ ProfileEditor::ProfileEditor(const ProfileDocument& document, const QJsonObject&
       device_(AddField(tr("&Device"), "connection.serial.device")),
       baud_(AddField(tr("&Baud"), "connection.serial.baud")),
       rows_(new QScrollArea),
-      error_(new QLabel) {
+      error_(new QLabel),
+      more_(new QCheckBox(tr("All &fields of the model"))),
+      test_(new ConnectionTest([this] { return Address(); })),
+      models_(document.Models()) {
   setWindowTitle(entry.isEmpty() ? tr("Add Projector") : tr("Edit Projector"));
   TakeNumbersOnly(*dialogType_, 1, 5);
   TakeNumbersOnly(*modelCode_, 0, std::numeric_limits<int>::max());
@@ -87,6 +84,12 @@ ProfileEditor::ProfileEditor(const ProfileDocument& document, const QJsonObject&
   TakeNumbersOnly(*baud_, 1, 4'000'000);
   secret_->setEchoMode(QLineEdit::PasswordEchoOnEdit);
   FillLists();
+  auto* names = new QCompleter(models_.keys(), model_);
+  names->setCaseSensitivity(Qt::CaseInsensitive);
+  names->setFilterMode(Qt::MatchContains);
+  model_->setCompleter(names);
+  form_->insertRow(3, QString(), more_);
+  form_->addRow(QString(), test_);
 
   error_->setWordWrap(true);
   error_->setTextFormat(Qt::PlainText);
@@ -109,16 +112,60 @@ ProfileEditor::ProfileEditor(const ProfileDocument& document, const QJsonObject&
 
   connect(buttons, &QDialogButtonBox::accepted, this, &ProfileEditor::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &ProfileEditor::reject);
+  if (document_.IsReadOnly()) {
+    const QPushButton* saveAs =
+        buttons->addButton(tr("Save Profiles As…"), QDialogButtonBox::ActionRole);
+    connect(saveAs, &QPushButton::clicked, this, [this] {
+      reject();
+      Q_EMIT SaveAsWanted();
+    });
+    error_->setText(tr("%1 cannot be changed.").arg(document_.FileName()));
+    error_->show();
+  }
+  connect(model_, &QLineEdit::textChanged, this, &ProfileEditor::TakeModel);
+  connect(more_, &QCheckBox::toggled, this, &ProfileEditor::ShowModelFields);
+  for (QLineEdit* field : {address_, networkPort_, secret_})
+    connect(field, &QLineEdit::textChanged, test_, &ConnectionTest::Clear);
+  connect(address_, &QLineEdit::textChanged, this, &ProfileEditor::CheckAddress);
   connect(family_, &QComboBox::currentIndexChanged, this, &ProfileEditor::ShowFamily);
   connect(link_, &QComboBox::activated, this, [this] {
     chosen_.insert(link_);
     ChooseFittingConnection();
+    FillPort();
   });
   connect(connection_, &QComboBox::activated, this, [this] { chosen_.insert(connection_); });
   connect(connection_, &QComboBox::currentIndexChanged, this, &ProfileEditor::ShowConnectionFields);
   ShowFamily();
   ShowConnectionFields();
+  ShowModelFields();
+  FillPort();
   name_->setFocus();
+}
+
+void ProfileEditor::AskForCopy(const QString& name) {
+  setWindowTitle(tr("Duplicate Projector"));
+  name_->setText(name);
+  address_->clear();
+  if (address_->isVisibleTo(this)) address_->setFocus();
+}
+
+// A model that the file knows has the numbers that nobody knows.
+void ProfileEditor::TakeModel() {
+  const auto model = models_.constFind(model_->text().trimmed());
+  if (model == models_.constEnd()) return;
+  modelMembers_ = *model;
+  family_->setCurrentIndex(std::max(0, family_->findData(modelMembers_.take("like").toString())));
+  dialogType_->setText(TextOf(modelMembers_.take("dialogType")));
+  modelCode_->setText(TextOf(modelMembers_.take("modelCode")));
+  modelMembers_.remove("model");
+}
+
+void ProfileEditor::ShowModelFields() {
+  for (QWidget* field : {static_cast<QWidget*>(family_), static_cast<QWidget*>(dialogType_),
+                         static_cast<QWidget*>(modelCode_)}) {
+    form_->setRowVisible(field, more_->isChecked());
+  }
+  FitHeight();
 }
 
 QLineEdit* ProfileEditor::AddField(const QString& caption, const char* path) {
@@ -168,25 +215,13 @@ void ProfileEditor::ShowFamily() {
   dialogType_->setPlaceholderText(TextOf(family["dialogType"]));
   modelCode_->setPlaceholderText(TextOf(family["modelCode"]));
   if (!entry_.isEmpty()) return;
-  // Until the user chooses the connection of a new projector, it is that of its family, or else the
-  // network.
-  for (CComboBox* list : {link_, connection_}) {
+  // Until the user chooses the connection of a new projector, it is that of its family, or else
+  // PJLink, which most projectors speak.
+  for (const auto& [list, usual] : {std::pair(link_, kPjLink), std::pair(connection_, kNetwork)}) {
     if (chosen_.contains(list)) continue;
-    list->setCurrentIndex(
-        list->findData(family.contains(list->objectName()) ? QString() : kNetwork));
+    list->setCurrentIndex(list->findData(family.contains(list->objectName()) ? QString() : usual));
   }
   if (!chosen_.contains(connection_)) ChooseFittingConnection();
-}
-
-void ProfileEditor::ShowConnectionFields() {
-  const QString kind = ConnectionKind();
-  for (QLineEdit* field : {address_, networkPort_, secret_}) {
-    form_->setRowVisible(field, kind == kNetwork);
-  }
-  for (QLineEdit* field : {serialPort_, device_, baud_}) {
-    form_->setRowVisible(field, kind == kSerial);
-  }
-  FitHeight();
 }
 
 // As high as the rows. If the screen is too small for them, they scroll.
@@ -199,20 +234,6 @@ void ProfileEditor::FitHeight() {
   rows_->setMinimumHeight(std::min(wanted.height(), availableHeight));
 }
 
-// Selects a connection of the kind that the chosen link needs.
-void ProfileEditor::ChooseFittingConnection() {
-  const QString own = link_->currentData().toString();
-  const QString link = own.isEmpty() ? Family()["link"].toString() : own;
-  const QString needed = link == kPjLink ? kNetwork : link;
-  if (needed != kNetwork && needed != kSerial) return;
-  const QJsonObject ofFamily = Family()["connection"].toObject();
-  const bool fits =
-      ConnectionKind().isEmpty() ? ofFamily.contains(needed) : ConnectionKind() == needed;
-  if (!fits) connection_->setCurrentIndex(connection_->findData(needed));
-}
-
-QString ProfileEditor::ConnectionKind() const { return connection_->currentData().toString(); }
-
 // An unchanged field gives exactly the value in the file, an empty one no value.
 QJsonValue ProfileEditor::ValueOf(const QLineEdit* field) const {
   QJsonValue written = ValueAt(entry_, field->objectName());
@@ -222,24 +243,6 @@ QJsonValue ProfileEditor::ValueOf(const QLineEdit* field) const {
   bool isNumber = false;
   const int number = text.toInt(&isNumber);
   return isNumber && field->validator() != nullptr ? QJsonValue(number) : QJsonValue(text);
-}
-
-QJsonValue ProfileEditor::Connection() const {
-  const QString kind = ConnectionKind();
-  QJsonObject written = entry_["connection"].toObject();
-  if (kind.isEmpty()) return QJsonValue::Undefined;
-  if (kind != kNetwork && kind != kSerial) return written;
-  QJsonObject parameters = written[kind].toObject();
-  if (kind == kNetwork) {
-    Put(parameters, "address", ValueOf(address_));
-    Put(parameters, "port", ValueOf(networkPort_));
-    Put(parameters, "secret", ValueOf(secret_));
-  } else {
-    Put(parameters, "port", ValueOf(serialPort_));
-    Put(parameters, "device", ValueOf(device_));
-    Put(parameters, "baud", ValueOf(baud_));
-  }
-  return QJsonObject{{kind, parameters}};
 }
 
 JsonEdit::Members ProfileEditor::Changes() const {
@@ -254,6 +257,8 @@ JsonEdit::Members ProfileEditor::Changes() const {
       {"connection", Connection()},
       {"link", link.isEmpty() ? QJsonValue(QJsonValue::Undefined) : QJsonValue(link)},
   };
+  for (auto member = modelMembers_.constBegin(); member != modelMembers_.constEnd(); ++member)
+    all.push_back({member.key(), *member});
   std::erase_if(all, [this](const JsonEdit::Member& member) {
     return member.value == entry_.value(member.key);
   });
@@ -278,7 +283,10 @@ std::vector<QLineEdit*> ProfileEditor::Missing() const {
 void ProfileEditor::accept() {
   if (const std::vector<QLineEdit*> missing = Missing(); !missing.empty()) {
     QStringList captions;
-    for (QLineEdit* field : missing) captions += CaptionOf(field);
+    for (QLineEdit* field : missing) {
+      if (field == dialogType_ || field == modelCode_) more_->setChecked(true);
+      captions += CaptionOf(field);
+    }
     const QString all = QLocale().createSeparatedList(captions);
     return ShowError(tr("Still to be filled in: %1").arg(all), missing.front());
   }
@@ -288,6 +296,7 @@ void ProfileEditor::accept() {
   static const QRegularExpression place(QStringLiteral(R"(^.*?projectors\[\d+\]\.([\w.]+): )"));
   const QRegularExpressionMatch found = place.match(error);
   QWidget* row = found.hasMatch() ? rows_->findChild<QWidget*>(found.captured(1)) : nullptr;
+  if (row != nullptr && !row->isVisibleTo(this)) more_->setChecked(true);
   if (row == nullptr) return ShowError(error, nullptr);
   ShowError(tr("%1: %2").arg(CaptionOf(row), error.mid(found.capturedEnd())), row);
 }

@@ -6,11 +6,15 @@
 
 #include <QDialog>
 #include <QJsonObject>
+#include <QMap>
 
+#include "device/Connect.h"
 #include "fleet/JsonEdit.h"
 
 class CComboBox;
+class ConnectionTest;
 class ProfileDocument;
+class QCheckBox;
 class QFormLayout;
 class QLabel;
 class QLineEdit;
@@ -34,7 +38,14 @@ class ProfileEditor : public QDialog {
   /// The changed members, in the order of a new entry.
   JsonEdit::Members Changes() const;
 
+  /// Makes the entry one for a copy: with this name, and with an address that is yet to be typed.
+  void AskForCopy(const QString& name);
+
   void accept() override;
+
+ Q_SIGNALS:
+  /// The file cannot be written, and the user wants another one.
+  void SaveAsWanted();
 
  private:
   // `path` is the member's place in the entry, such as "connection.network.port".
@@ -43,6 +54,11 @@ class ProfileEditor : public QDialog {
   void FillLists();
   QJsonObject Family() const;
   void ShowFamily();
+  void TakeModel();
+  void ShowModelFields();
+  void FillPort();
+  void CheckAddress();
+  ProjectorAddress Address() const;
   void ShowConnectionFields();
   void FitHeight();
   void ChooseFittingConnection();
@@ -73,5 +89,9 @@ class ProfileEditor : public QDialog {
   QLineEdit* baud_;
   QScrollArea* rows_;
   QLabel* error_;
+  QCheckBox* more_;
+  ConnectionTest* test_;
+  const QMap<QString, QJsonObject> models_;
+  QJsonObject modelMembers_;  // of the model that was chosen, without those that have a field
   std::set<const CComboBox*> chosen_;  // lists that the user has operated
 };

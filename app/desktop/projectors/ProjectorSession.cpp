@@ -11,19 +11,9 @@ ProjectorSession::ProjectorSession(ProjectorProfile profile, LoggingChannel::Obs
     : profile_(std::move(profile)),
       simulator_(std::make_shared<SimulatedProjector>(SimulatedModelOf(profile_))),
       faultChannel_(std::make_shared<FaultChannel>(MakeInnerChannel())),
-      lastAnswer_(std::make_shared<std::optional<Clock::time_point>>()),
+      served_(std::make_shared<FaultChannel>(simulator_)),
       channel_(std::make_shared<LoggingChannel>(
-          std::make_shared<BoundedChannel>(faultChannel_, Bounds()),
-          [lastAnswer = lastAnswer_, observe = std::move(observer)](
-              const PjtCommand& command, const PjtReply& reply, std::chrono::microseconds elapsed) {
-            if (reply.answered) *lastAnswer = Clock::now();
-            if (observe) observe(command, reply, elapsed);
-          })) {}
-
-std::optional<std::chrono::seconds> ProjectorSession::SinceAnswer() const {
-  if (!*lastAnswer_) return std::nullopt;
-  return std::chrono::floor<std::chrono::seconds>(Clock::now() - **lastAnswer_);
-}
+          std::make_shared<BoundedChannel>(faultChannel_, Bounds()), std::move(observer))) {}
 
 std::shared_ptr<ProjectorChannel> ProjectorSession::MakeInnerChannel() {
   if (profile_.Link == ProjectorLink::Simulated) return simulator_;
@@ -44,13 +34,18 @@ CModelInfo2 ProjectorSession::Model() const {
 }
 
 void ProjectorSession::SetFault(const FaultTarget& target, const Fault& fault) {
-  if (const auto* operation = std::get_if<PjtOperation>(&target)) {
-    faultChannel_->SetFault(*operation, fault);
-  } else if (const auto* code = std::get_if<std::uint16_t>(&target)) {
-    faultChannel_->SetFault(*code, fault);
-  } else {
-    faultChannel_->SetFault(fault);
-  }
+  const auto set = [&target](FaultChannel& channel, const Fault& one) {
+    if (const auto* operation = std::get_if<PjtOperation>(&target)) {
+      channel.SetFault(*operation, one);
+    } else if (const auto* code = std::get_if<std::uint16_t>(&target)) {
+      channel.SetFault(*code, one);
+    } else {
+      channel.SetFault(one);
+    }
+  };
+  const bool waits = fault.kind == Fault::Kind::Late || fault.kind == Fault::Kind::DropOut;
+  set(*faultChannel_, fault);
+  set(*served_, waits ? Fault{} : fault);
   if (fault.kind == Fault::Kind::None) {
     faults_.erase(target);
   } else {
@@ -60,12 +55,28 @@ void ProjectorSession::SetFault(const FaultTarget& target, const Fault& fault) {
 
 void ProjectorSession::ClearFaults() {
   faultChannel_->Clear();
+  served_->Clear();
   faults_.clear();
+}
+
+LineFault ProjectorSession::ServedLine() const {
+  const auto ofAll = faults_.find(FaultTarget());
+  if (ofAll == faults_.end()) return {};
+  switch (ofAll->second.kind) {
+    case Fault::Kind::DropOut:
+      return {.kind = LineFault::Kind::Silent};
+    case Fault::Kind::Late:
+      return {.kind = LineFault::Kind::Late,
+              .amount = static_cast<int>(ofAll->second.delay.count())};
+    default:
+      return {};
+  }
 }
 
 std::unique_ptr<CAdvanceDlg> ProjectorSession::MakeDialog() const {
   auto dialog = std::make_unique<CAdvanceDlg>();
   dialog->CopyData(&profile_.Model, 0);
+  dialog->SetProjectorName(profile_.Name);
   dialog->Projector().SetChannel(channel_);
   // Opening a dialog always asks the projector, even if it was silent just before.
   dialog->Projector().AllowRetry();

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <chrono>
 #include <cstdint>
 #include <map>
 #include <memory>
@@ -12,6 +11,7 @@
 #include "device/channels/BoundedChannel.h"
 #include "device/channels/LoggingChannel.h"
 #include "simulator/FaultChannel.h"
+#include "simulator/FaultyLine.h"
 #include "simulator/SimulatedProjector.h"
 
 class CAdvanceDlg;
@@ -38,10 +38,10 @@ class ProjectorSession {
   /// An unused simulation if the projector is a real one.
   SimulatedProjector& Simulator() { return *simulator_; }
 
-  /// The state of the connection; `ConnectionState::None` for a simulated projector.
-  ConnectionState Connection() const { return channel_->Connection(); }
-  /// The time since the projector last answered a command; nothing if it never has.
-  std::optional<std::chrono::seconds> SinceAnswer() const;
+  /// The simulation for others than dialogs. Its faults do not make it wait; those of the whole
+  /// projector are faults of the line then.
+  const std::shared_ptr<FaultChannel>& Served() const { return served_; }
+  LineFault ServedLine() const;
 
   /// `Fault::Kind::None` removes the fault.
   void SetFault(const FaultTarget& target, const Fault& fault);
@@ -52,14 +52,12 @@ class ProjectorSession {
   std::unique_ptr<CAdvanceDlg> MakeDialog() const;
 
  private:
-  using Clock = std::chrono::steady_clock;
-
   std::shared_ptr<ProjectorChannel> MakeInnerChannel();
 
   ProjectorProfile profile_;
   std::shared_ptr<SimulatedProjector> simulator_;
   std::shared_ptr<FaultChannel> faultChannel_;
-  std::shared_ptr<std::optional<Clock::time_point>> lastAnswer_;
+  std::shared_ptr<FaultChannel> served_;
   std::shared_ptr<ProjectorChannel> channel_;
   std::map<FaultTarget, Fault> faults_;
 };

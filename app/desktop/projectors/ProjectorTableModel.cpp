@@ -2,11 +2,12 @@
 
 #include <algorithm>
 #include <array>
-#include <chrono>
 #include <utility>
 
-#include "i18n/LocalizeControlTexts.h"
-#include "settings/CatalogNumbers.h"
+#include <QFont>
+
+#include "app/desktop/projectors/RowOrder.h"
+#include "app/desktop/projectors/StateTexts.h"
 #include "settings/PageTables.h"
 
 namespace {
@@ -14,47 +15,15 @@ namespace {
 constexpr std::array<const char*, ProjectorTableModel::ColumnCount> kTitles{
     QT_TRANSLATE_NOOP("ProjectorTableModel", "Name"),
     QT_TRANSLATE_NOOP("ProjectorTableModel", "State"),
+    QT_TRANSLATE_NOOP("ProjectorTableModel", "Power"),
+    QT_TRANSLATE_NOOP("ProjectorTableModel", "Source"),
+    QT_TRANSLATE_NOOP("ProjectorTableModel", "Lamp"),
+    QT_TRANSLATE_NOOP("ProjectorTableModel", "Problem"),
     QT_TRANSLATE_NOOP("ProjectorTableModel", "Model"),
-    QT_TRANSLATE_NOOP("ProjectorTableModel", "Type"),
-    QT_TRANSLATE_NOOP("ProjectorTableModel", "Code"),
-    QT_TRANSLATE_NOOP("ProjectorTableModel", "Connection")};
-
-constexpr auto kUpdateInterval = std::chrono::milliseconds(300);
-constexpr std::chrono::seconds kLongAgo{10};
-
-const char* ConnectionName(ConnectionState state) {
-  switch (state) {
-    case ConnectionState::None:
-      return QT_TRANSLATE_NOOP("ProjectorTableModel", "Simulated");
-    case ConnectionState::Unused:
-      return QT_TRANSLATE_NOOP("ProjectorTableModel", "Not connected");
-    case ConnectionState::Connecting:
-      return QT_TRANSLATE_NOOP("ProjectorTableModel", "Connecting");
-    case ConnectionState::Connected:
-      return QT_TRANSLATE_NOOP("ProjectorTableModel", "Connected");
-    case ConnectionState::WrongParameters:
-      return QT_TRANSLATE_NOOP("ProjectorTableModel", "Wrong parameters");
-    case ConnectionState::NameUnknown:
-      return QT_TRANSLATE_NOOP("ProjectorTableModel", "Unknown host");
-    case ConnectionState::NotReachable:
-      return QT_TRANSLATE_NOOP("ProjectorTableModel", "Not reachable");
-    case ConnectionState::NoAnswer:
-      return QT_TRANSLATE_NOOP("ProjectorTableModel", "No answer");
-    case ConnectionState::Lost:
-      return QT_TRANSLATE_NOOP("ProjectorTableModel", "Connection lost");
-    case ConnectionState::NotUnderstood:
-      return QT_TRANSLATE_NOOP("ProjectorTableModel", "Answers not understood");
-    case ConnectionState::OtherVersion:
-      return QT_TRANSLATE_NOOP("ProjectorTableModel", "Other protocol version");
-    case ConnectionState::PasswordRequired:
-      return QT_TRANSLATE_NOOP("ProjectorTableModel", "Password missing or wrong");
-  }
-  return "";
-}
-
-QString ConnectionStatusText(const ProjectorSession& session) {
-  return ConnectionStatusText(session.Connection(), session.SinceAnswer());
-}
+    QT_TRANSLATE_NOOP("ProjectorTableModel", "Place"),
+    QT_TRANSLATE_NOOP("ProjectorTableModel", "Settings"),
+    QT_TRANSLATE_NOOP("ProjectorTableModel", "Last answer"),
+    QT_TRANSLATE_NOOP("ProjectorTableModel", "Address")};
 
 bool HasRows(PageId page, int modelCode) {
   const PageTable& table = TableOf(page);
@@ -65,34 +34,32 @@ bool HasRows(PageId page, int modelCode) {
   return false;
 }
 
+bool ShowsState(int column) {
+  using enum ProjectorTableModel::Column;
+  return column != Name && column != Model && column != Place && column != Address;
+}
+
+/// A number to sort by; nothing for a column of texts.
+std::optional<double> NumberOf(const ProjectorRow& row, int column) {
+  switch (column) {
+    case ProjectorTableModel::State:
+      return -static_cast<double>(HealthOf(row));  // the most urgent first
+    case ProjectorTableModel::Power:
+      return row.state.power ? static_cast<double>(*row.state.power) : -1;
+    case ProjectorTableModel::Lamp:
+      return LampHoursOf(row.state);
+    case ProjectorTableModel::Settings:
+      return row.state.drift.value_or(-1);
+    case ProjectorTableModel::Answered:
+      return row.state.answered
+                 ? static_cast<double>(-row.state.answered->time_since_epoch().count())
+                 : 0.0;
+    default:
+      return std::nullopt;
+  }
+}
+
 }  // namespace
-
-QString ConnectionStatusText(ConnectionState state,
-                             std::optional<std::chrono::seconds> sinceAnswer) {
-  using std::chrono::floor;
-  QString text = ProjectorTableModel::tr(ConnectionName(state));
-  const bool isWell = state == ConnectionState::Connected || state == ConnectionState::Unused;
-  if (!isWell || !sinceAnswer || *sinceAnswer < kLongAgo) return text;
-  const auto answered = [&]<class Unit>(const QString& unitText, Unit step) {
-    const auto count = floor<Unit>(*sinceAnswer).count() / step.count() * step.count();
-    return text + QStringLiteral(" · ") + unitText.arg(count);
-  };
-  if (*sinceAnswer < std::chrono::minutes(1)) {
-    return answered(ProjectorTableModel::tr("answered %1 s ago"), kLongAgo);
-  }
-  if (*sinceAnswer < std::chrono::hours(1)) {
-    return answered(ProjectorTableModel::tr("answered %1 min ago"), std::chrono::minutes(1));
-  }
-  return answered(ProjectorTableModel::tr("answered %1 h ago"), std::chrono::hours(1));
-}
-
-QStringList TabNames(const CModelInfo2& model) {
-  QStringList names{CatalogString(kCaptionCategory, Caption::TabStatus)};
-  for (const PageTab& tab : TabsOf(model.DialogType, model.ModelCode)) {
-    names += CatalogString(kCaptionCategory, tab.caption);
-  }
-  return names;
-}
 
 bool HasRowsOnEveryTab(const CModelInfo2& model) {
   const auto tabs = TabsOf(model.DialogType, model.ModelCode);
@@ -101,87 +68,167 @@ bool HasRowsOnEveryTab(const CModelInfo2& model) {
   });
 }
 
-ProjectorTableModel::ProjectorTableModel(QObject* parent) : QAbstractTableModel(parent) {
-  update_.setInterval(kUpdateInterval);
-  connect(&update_, &QTimer::timeout, this, &ProjectorTableModel::UpdateConnections);
-}
+ProjectorTableModel::ProjectorTableModel(QObject* parent) : QAbstractTableModel(parent) {}
 
-// Only real projectors have a connection whose state can change.
-void ProjectorTableModel::SetSessions(Sessions sessions) {
+void ProjectorTableModel::SetRows(std::vector<ProjectorRow> rows) {
   beginResetModel();
-  sessions_ = std::move(sessions);
-  connections_.clear();
-  for (const auto& session : sessions_) connections_ += ConnectionStatusText(*session);
-  if (std::ranges::all_of(sessions_, [](const auto& session) {
-        return session->Connection() == ConnectionState::None;
-      })) {
-    update_.stop();
-  } else {
-    update_.start();
-  }
-  std::erase_if(states_, [this](const auto& state) {
-    return std::ranges::find(sessions_, state.first, &std::shared_ptr<ProjectorSession>::get) ==
-           sessions_.end();
-  });
+  rows_ = std::move(rows);
+  search_.SetRows(rows_);
+  positions_.clear();
+  for (const ProjectorRow& row : rows_)
+    positions_.emplace(row.id, static_cast<int>(positions_.size()));
+  shown_ = Arranged();
+  rowsOf_.assign(rows_.size(), -1);
+  for (std::size_t i = 0; i < shown_.size(); ++i)
+    rowsOf_[static_cast<std::size_t>(shown_[i])] = static_cast<int>(i);
+  isOutOfDate_ = false;
   endResetModel();
 }
 
-void ProjectorTableModel::SetState(const ProjectorSession* session, const QString& state) {
-  const auto found = std::ranges::find(sessions_, session, &std::shared_ptr<ProjectorSession>::get);
-  if (found == sessions_.end()) return;
-  states_[session] = state;
-  StateChanged(static_cast<std::size_t>(found - sessions_.begin()));
+int ProjectorTableModel::Find(const std::string& id) const {
+  const auto found = positions_.find(id);
+  return found == positions_.end() ? -1 : found->second;
 }
 
-void ProjectorTableModel::UpdateConnections() {
-  for (std::size_t row = 0; row < sessions_.size(); ++row) {
-    const QString now = ConnectionStatusText(*sessions_[row]);
-    if (std::exchange(connections_[static_cast<qsizetype>(row)], now) != now) StateChanged(row);
+QModelIndex ProjectorTableModel::IndexOf(int position) const {
+  if (position < 0 || position >= static_cast<int>(rowsOf_.size())) return {};
+  const int row = rowsOf_[static_cast<std::size_t>(position)];
+  return row < 0 ? QModelIndex() : index(row, 0);
+}
+
+void ProjectorTableModel::ShowChanged(int position) {
+  isOutOfDate_ =
+      isOutOfDate_ || ShowsState(sortColumn_) ||
+      (group_.kind != ProjectorGroup::Kind::All && group_.kind != ProjectorGroup::Kind::Tag);
+  if (const QModelIndex first = IndexOf(position); first.isValid()) {
+    Q_EMIT dataChanged(first, first.siblingAtColumn(ColumnCount - 1));
   }
 }
 
-void ProjectorTableModel::StateChanged(std::size_t row) {
-  const QModelIndex cell = index(static_cast<int>(row), State);
-  Q_EMIT dataChanged(cell, cell);
+void ProjectorTableModel::Rearrange() {
+  if (isOutOfDate_) Arrange();
+}
+
+void ProjectorTableModel::Search(const QString& text) {
+  search_.SetText(text);
+  Arrange();
+}
+
+void ProjectorTableModel::SetGroup(const ProjectorGroup& group) {
+  group_ = group;
+  Arrange();
+}
+
+void ProjectorTableModel::sort(int column, Qt::SortOrder order) {
+  sortColumn_ = column;
+  sortOrder_ = order;
+  Arrange();
+}
+
+// Views keep their selection and their place.
+void ProjectorTableModel::Arrange() {
+  std::vector<int> next = Arranged();
+  isOutOfDate_ = false;
+  if (next == shown_) return;
+  Q_EMIT layoutAboutToBeChanged({}, QAbstractItemModel::VerticalSortHint);
+  const QModelIndexList before = persistentIndexList();
+  std::vector<int> positions;
+  positions.reserve(static_cast<std::size_t>(before.size()));
+  for (const QModelIndex& kept : before) positions.push_back(PositionAt(kept.row()));
+  shown_ = std::move(next);
+  std::ranges::fill(rowsOf_, -1);
+  for (std::size_t i = 0; i < shown_.size(); ++i)
+    rowsOf_[static_cast<std::size_t>(shown_[i])] = static_cast<int>(i);
+  QModelIndexList after;
+  after.reserve(before.size());
+  for (qsizetype i = 0; i < before.size(); ++i) {
+    const QModelIndex first = IndexOf(positions[static_cast<std::size_t>(i)]);
+    after.append(first.isValid() ? first.siblingAtColumn(before[i].column()) : QModelIndex());
+  }
+  changePersistentIndexList(before, after);
+  Q_EMIT layoutChanged({}, QAbstractItemModel::VerticalSortHint);
+}
+
+std::vector<int> ProjectorTableModel::Arranged() {
+  std::vector<int> positions = search_.Matching(rows_, group_);
+  if (sortColumn_ >= 0) {
+    const auto sort = [this, &positions](const auto& keyOf) {
+      SortBy(positions, sortOrder_,
+             [&](int position) { return keyOf(rows_[static_cast<std::size_t>(position)]); });
+    };
+    if (!rows_.empty() && NumberOf(rows_.front(), sortColumn_)) {
+      sort([this](const ProjectorRow& row) { return *NumberOf(row, sortColumn_); });
+    } else {
+      sort([this](const ProjectorRow& row) { return TextOf(row, sortColumn_); });
+    }
+  }
+  search_.PutExactFirst(rows_, positions);
+  return positions;
 }
 
 int ProjectorTableModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(sessions_.size());
+  return parent.isValid() ? 0 : static_cast<int>(shown_.size());
 }
 
 int ProjectorTableModel::columnCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : ColumnCount;
 }
 
+QString ProjectorTableModel::TextOf(const ProjectorRow& row, int column) const {
+  switch (column) {
+    case Name:
+      return QString::fromStdString(row.profile.name);
+    case State:
+      return row.isOpen ? tr("%1 · open").arg(StateTexts::State(row)) : StateTexts::State(row);
+    case Power:
+      return StateTexts::Power(row.state);
+    case Source:
+      return StateTexts::Source(row.state);
+    case Lamp:
+      return StateTexts::LampHours(row.state);
+    case Problem:
+      return StateTexts::Problems(row.state);
+    case Model:
+      return QString::fromStdString(row.profile.model->info.ModelName);
+    case Place: {
+      QStringList tags;
+      for (const std::string& tag : row.profile.tags) tags += QString::fromStdString(tag);
+      return tags.join(QStringLiteral(", "));
+    }
+    case Settings:
+      return StateTexts::Drift(row.state);
+    case Answered:
+      return StateTexts::Answered(row.state, std::chrono::system_clock::now());
+    case Address:
+      return ConnectionText(row.profile.connection);
+    default:
+      return {};
+  }
+}
+
 QVariant ProjectorTableModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
-  const ProjectorSession* session = sessions_[static_cast<std::size_t>(index.row())].get();
-  const ProjectorProfile& profile = session->Profile();
-  if (role == kTabsRole) return TabNames(profile.Model).join(QLatin1Char('\n'));
-  // A narrow window cuts the state off.
-  if (role == Qt::ToolTipRole && index.column() == State) role = Qt::DisplayRole;
-  if (role == Qt::ToolTipRole) return TabNames(profile.Model).join(QStringLiteral(" · "));
-  const bool isNumber = index.column() == DialogType || index.column() == ModelCode;
-  if (role == Qt::TextAlignmentRole && isNumber) return QVariant(Qt::AlignCenter);
-  if (role != Qt::DisplayRole) return {};
-  switch (index.column()) {
-    case Name:
-      return QString::fromStdString(profile.Name);
-    case Model:
-      return QString::fromStdString(profile.Model.ModelName);
-    case DialogType:
-      return profile.Model.DialogType;
-    case ModelCode:
-      return profile.Model.ModelCode;
-    case Connection:
-      return ConnectionText(profile.Model);
-    case State: {
-      const auto state = states_.find(session);
-      const QString& connection = connections_[index.row()];
-      return state == states_.end() || state->second.isEmpty()
-                 ? connection
-                 : state->second + QStringLiteral(" · ") + connection;
-    }
+  const ProjectorRow& row = At(index);
+  switch (role) {
+    case Qt::DisplayRole:
+      return TextOf(row, index.column());
+    case Qt::ToolTipRole:
+      if (index.column() == Name)
+        return TabNames(row.profile.model->info).join(QStringLiteral(" · "));
+      return TextOf(row, index.column());
+    case Qt::DecorationRole:
+      return index.column() == State ? QVariant(StateTexts::Icon(HealthOf(row))) : QVariant();
+    case Qt::FontRole:
+      if (!row.hasAlert || index.column() != Name) return {};
+      {
+        QFont bold;
+        bold.setBold(true);
+        return bold;
+      }
+    case kShareRole:
+      if (index.column() != Lamp || row.profile.ratedLampHours == 0 || LampHoursOf(row.state) < 0)
+        return {};
+      return static_cast<double>(LampHoursOf(row.state)) / row.profile.ratedLampHours;
     default:
       return {};
   }

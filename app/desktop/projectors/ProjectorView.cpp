@@ -1,79 +1,88 @@
 #include "app/desktop/projectors/ProjectorView.h"
 
 #include <algorithm>
+#include <array>
+#include <set>
 #include <utility>
 
+#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
+#include <QMenu>
+#include <QScrollBar>
 #include <QTableView>
 #include <QVBoxLayout>
 
-#include "app/desktop/projectors/ProjectorFilter.h"
-#include "toolkit/IsolatedText.h"
+#include "app/desktop/projectors/LampDelegate.h"
+#include "app/desktop/projectors/StateTexts.h"
 
 namespace {
 
-constexpr int kColumnGap = 4;
+constexpr int kColumnGap = 14;
+constexpr int kIconWidth = 24;
+constexpr int kManyHours = 12'345;
 constexpr int kMinimumWidth = 170;
+
+// The widest usual text of each column.
+constexpr std::array<const char*, ProjectorTableModel::ColumnCount> kWidthSamples{
+    "Lecture Hall 12",     "Wrong pass", "Cooling down",      "Component",       "",
+    "Temperature",         "Model 5-30", "Building A, Libra", "As it should be", "12 min ago",
+    "192.168.100.100:4352"};
 
 }  // namespace
 
 ProjectorView::ProjectorView(QWidget* parent)
     : QWidget(parent),
       model_(new ProjectorTableModel(this)),
-      filter_(new ProjectorFilter(this)),
       search_(new QLineEdit),
-      table_(new QTableView),
-      open_(new QPushButton(tr("&Open"))) {
-  filter_->setSourceModel(model_);
+      found_(new QLabel),
+      table_(new QTableView) {
   search_->setClearButtonEnabled(true);
-  search_->setPlaceholderText(tr("Find a name, a model, a tab …"));
+  search_->setPlaceholderText(tr("Find a name, model, place, address, tab or setting"));
   search_->setAccessibleName(tr("Find projectors"));
   search_->installEventFilter(this);
-  table_->setModel(filter_);
+  found_->setTextFormat(Qt::PlainText);
+  found_->hide();
+  table_->setModel(model_);
   table_->setItemDelegate(new IsolatedTexts(table_));
+  table_->setItemDelegateForColumn(ProjectorTableModel::Lamp, new LampDelegate(table_));
   table_->setAccessibleName(tr("Projectors"));
   table_->setSelectionBehavior(QTableView::SelectRows);
   table_->setSelectionMode(QTableView::ExtendedSelection);
   table_->setTabKeyNavigation(false);
   table_->setWordWrap(false);
+  table_->setShowGrid(false);
+  table_->setAlternatingRowColors(true);
   table_->verticalHeader()->hide();
-  table_->verticalHeader()->setDefaultSectionSize(table_->fontMetrics().height() + 6);
+  // Measuring ten thousand rows one by one would be slow.
+  table_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  table_->verticalHeader()->setDefaultSectionSize(table_->fontMetrics().height() + 8);
   table_->setContextMenuPolicy(Qt::ActionsContextMenu);
   table_->setMinimumWidth(kMinimumWidth);
   MakeColumns();
 
-  auto* caption = new QLabel(tr("Pro&jectors"));
-  caption->setBuddy(table_);
+  auto* head = new QHBoxLayout;
+  head->addWidget(search_, 1);
+  head->addWidget(found_);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
-  layout->addWidget(caption);
-  layout->addWidget(search_);
+  layout->addLayout(head);
   layout->addWidget(table_);
-  layout->addWidget(open_, 0, Qt::AlignRight);
 
-  connect(search_, &QLineEdit::textChanged, this, [this](const QString& words) {
-    filter_->Search(words);
-    // When a row is removed, the next one becomes the current row without being selected.
-    const QModelIndex current = table_->currentIndex();
-    if (!table_->selectionModel()->hasSelection()) {
-      SelectOnly(current.isValid() ? current : filter_->index(0, 0));
-    }
-    open_->setEnabled(CurrentRow() >= 0);
+  connect(search_, &QLineEdit::textChanged, this, &ProjectorView::TakeSearch);
+  connect(search_, &QLineEdit::returnPressed, this, [this] {
+    if (model_->rowCount() == 0) return;
+    if (!table_->currentIndex().isValid()) SelectOnly(model_->index(0, 0));
+    Q_EMIT Activated();
   });
-  connect(search_, &QLineEdit::returnPressed, this, &ProjectorView::Activated);
   // Emitted for a double-click and Enter.
   connect(table_, &QTableView::activated, this, &ProjectorView::Activated);
-  connect(open_, &QPushButton::clicked, this, &ProjectorView::Activated);
-  connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this] {
-    open_->setEnabled(CurrentRow() >= 0);
-    Q_EMIT CurrentChanged();
-  });
+  connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+          &ProjectorView::SelectionChanged);
   connect(table_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-          &ProjectorView::CurrentChanged);
+          &ProjectorView::SelectionChanged);
 }
 
 // A third click on a title restores the order of the file.
@@ -84,7 +93,37 @@ void ProjectorView::MakeColumns() {
   columns.setSortIndicatorClearable(true);
   columns.setSortIndicator(-1, Qt::AscendingOrder);
   columns.setStretchLastSection(true);
+  columns.setSectionsMovable(true);
   table_->setSortingEnabled(true);
+  const QFontMetrics metrics = table_->fontMetrics();
+  for (int column = 0; column < ProjectorTableModel::ColumnCount; ++column) {
+    const QString title = model_->headerData(column, Qt::Horizontal).toString();
+    const QString sample =
+        column == ProjectorTableModel::Lamp
+            ? StateTexts::Hours(kManyHours)
+            : QString::fromLatin1(kWidthSamples[static_cast<std::size_t>(column)]);
+    const int text =
+        std::max(metrics.horizontalAdvance(sample), metrics.horizontalAdvance(title) + kColumnGap);
+    table_->setColumnWidth(
+        column, text + kColumnGap + (column == ProjectorTableModel::State ? kIconWidth : 0));
+  }
+  for (const auto column : {ProjectorTableModel::Settings, ProjectorTableModel::Address})
+    columns.setSectionHidden(column, true);
+  columns.setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(&columns, &QWidget::customContextMenuRequested, this, &ProjectorView::AskForColumns);
+}
+
+void ProjectorView::AskForColumns(const QPoint& place) {
+  auto* menu = new QMenu(this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  for (int column = 1; column < ProjectorTableModel::ColumnCount; ++column) {
+    QAction* action = menu->addAction(model_->headerData(column, Qt::Horizontal).toString());
+    action->setCheckable(true);
+    action->setChecked(!Columns().isSectionHidden(column));
+    connect(action, &QAction::toggled, this,
+            [this, column](bool isShown) { Columns().setSectionHidden(column, !isShown); });
+  }
+  menu->popup(Columns().mapToGlobal(place));
 }
 
 QHeaderView& ProjectorView::Columns() const { return *table_->horizontalHeader(); }
@@ -93,57 +132,68 @@ void ProjectorView::AddContextActions(const QList<QAction*>& actions) {
   table_->addActions(actions);
 }
 
-void ProjectorView::SetSessions(ProjectorTableModel::Sessions sessions) {
-  const ProjectorSession* current = Current();
-  const std::string name = current == nullptr ? std::string() : current->Profile().Name;
-  const bool isFirst = model_->rowCount() == 0;
-  model_->SetSessions(std::move(sessions));
-  if (isFirst) {
-    table_->resizeColumnsToContents();
-    for (int column = 0; column + 1 < ProjectorTableModel::ColumnCount; ++column) {
-      table_->setColumnWidth(column, table_->columnWidth(column) + kColumnGap);
-    }
-    // The column's text becomes longer while a dialog is open, or if a real projector has not
-    // answered for long.
-    const bool isSimulated = std::ranges::all_of(model_->All(), [](const auto& session) {
-      return session->Connection() == ConnectionState::None;
-    });
-    const QString state = ConnectionStatusText(
-        isSimulated ? ConnectionState::None : ConnectionState::Connected, std::chrono::seconds(50));
-    table_->setColumnWidth(
-        ProjectorTableModel::State,
-        table_->fontMetrics().horizontalAdvance(tr("Open") + QStringLiteral(" · ") + state) +
-            4 * kColumnGap);
+void ProjectorView::TakeSearch(const QString& text) {
+  model_->Search(text);
+  const int count = model_->rowCount();
+  found_->setVisible(!text.trimmed().isEmpty());
+  found_->setText(count == 0 ? tr("Nothing found") : tr("%1 found").arg(count));
+  const bool isExact = count > 0 && QString::compare(model_->index(0, 0).data().toString(),
+                                                     text.trimmed(), Qt::CaseInsensitive) == 0;
+  if (count > 0 && (isExact || !table_->selectionModel()->hasSelection()))
+    SelectOnly(model_->index(0, 0));
+  Q_EMIT SelectionChanged();
+}
+
+void ProjectorView::SetRows(std::vector<ProjectorRow> rows) {
+  std::set<std::string> selected;
+  for (const int position : Selected())
+    selected.insert(model_->All()[static_cast<std::size_t>(position)].id);
+  const ProjectorRow* before = Current();
+  const std::string current = before == nullptr ? std::string() : before->id;
+  model_->SetRows(std::move(rows));
+  QItemSelection selection;
+  for (const std::string& id : selected) {
+    const QModelIndex index = model_->IndexOf(model_->Find(id));
+    if (index.isValid()) selection.select(index, index);
   }
-  const auto& all = model_->All();
-  const auto same = std::ranges::find_if(
-      all, [&name](const auto& session) { return session->Profile().Name == name; });
-  if (!all.empty()) Select(same == all.end() ? 0 : static_cast<int>(same - all.begin()));
-  Q_EMIT CurrentChanged();
+  QModelIndex index = model_->IndexOf(model_->Find(current));
+  if (!index.isValid()) index = model_->index(0, 0);
+  if (selection.isEmpty() && index.isValid()) selection.select(index, index);
+  table_->selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+  table_->selectionModel()->select(selection,
+                                   QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  Q_EMIT SelectionChanged();
 }
 
-int ProjectorView::CurrentRow() const { return filter_->mapToSource(table_->currentIndex()).row(); }
+int ProjectorView::CurrentPosition() const {
+  const QModelIndex current = table_->currentIndex();
+  return current.isValid() ? model_->PositionAt(current.row()) : -1;
+}
 
-ProjectorSessions ProjectorView::Selected() const {
-  QModelIndexList rows = table_->selectionModel()->selectedRows();
-  std::ranges::sort(rows, {}, &QModelIndex::row);
-  ProjectorSessions selected;
-  for (const QModelIndex& row : rows) {
-    const int place = filter_->mapToSource(row).row();
-    selected.push_back(model_->All()[static_cast<std::size_t>(place)]);
+const ProjectorRow* ProjectorView::Current() const {
+  const int position = CurrentPosition();
+  return position < 0 ? nullptr : &model_->All()[static_cast<std::size_t>(position)];
+}
+
+std::vector<int> ProjectorView::Selected() const {
+  std::vector<int> rows;
+  for (const QItemSelectionRange& range : table_->selectionModel()->selection()) {
+    for (int row = range.top(); row <= range.bottom(); ++row) rows.push_back(row);
   }
-  return selected;
+  std::ranges::sort(rows);
+  const auto repeated = std::ranges::unique(rows);
+  rows.erase(repeated.begin(), repeated.end());
+  std::ranges::transform(rows, rows.begin(), [this](int row) { return model_->PositionAt(row); });
+  return rows;
 }
 
-ProjectorSession* ProjectorView::Current() const {
-  const int row = CurrentRow();
-  return row < 0 ? nullptr : model_->All()[static_cast<std::size_t>(row)].get();
-}
-
-void ProjectorView::Select(int row) {
-  const QModelIndex source = model_->index(row, 0);
-  if (!filter_->mapFromSource(source).isValid()) search_->clear();
-  SelectOnly(filter_->mapFromSource(source));
+void ProjectorView::Select(int position) {
+  if (!model_->IndexOf(position).isValid()) search_->clear();
+  if (!model_->IndexOf(position).isValid()) {
+    model_->SetGroup({});
+    Q_EMIT GroupLeft();
+  }
+  SelectOnly(model_->IndexOf(position));
 }
 
 // Ignores modifier keys; with Ctrl the table would toggle the row.
@@ -151,6 +201,23 @@ void ProjectorView::SelectOnly(const QModelIndex& index) {
   table_->selectionModel()->setCurrentIndex(
       index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
   table_->scrollTo(index);
+}
+
+std::size_t ProjectorView::SelectedCount() const {
+  std::size_t count = 0;
+  for (const QItemSelectionRange& range : table_->selectionModel()->selection())
+    count += static_cast<std::size_t>(range.height());
+  return count;
+}
+
+std::vector<int> ProjectorView::InSight() const {
+  std::vector<int> positions;
+  if (!isVisible() || model_->rowCount() == 0) return positions;
+  const int last = table_->rowAt(table_->viewport()->height() - 1);
+  const int end = last < 0 ? model_->rowCount() : last + 1;
+  for (int row = std::max(0, table_->rowAt(0)); row < end; ++row)
+    positions.push_back(model_->PositionAt(row));
+  return positions;
 }
 
 void ProjectorView::FocusSearch() {

@@ -1,36 +1,40 @@
 #pragma once
 
+#include <vector>
+
 #include <QWidget>
 
 #include "app/desktop/projectors/ProjectorTableModel.h"
 
-class ProjectorFilter;
 class QHeaderView;
+class QLabel;
 class QLineEdit;
-class QPushButton;
 class QTableView;
 
-/// The list of projectors with a search box above it and the button that opens one.
+/// The list of projectors with a search box above it.
 class ProjectorView : public QWidget {
   Q_OBJECT
 
  public:
   explicit ProjectorView(QWidget* parent = nullptr);
 
-  /// Shows these projectors. The selection stays if a projector with the same name is among them.
-  void SetSessions(ProjectorTableModel::Sessions sessions);
+  /// Shows these projectors. Those that are selected stay so.
+  void SetRows(std::vector<ProjectorRow> rows);
 
   ProjectorTableModel& Model() const { return *model_; }
 
-  /// The selected projector and its position in the model; null and −1 if none is selected.
-  ProjectorSession* Current() const;
-  int CurrentRow() const;
+  /// The position of the current projector in the file; −1 if there is none.
+  int CurrentPosition() const;
+  /// Null if there is none.
+  const ProjectorRow* Current() const;
+  /// The positions of all selected projectors, in the order of the list.
+  std::vector<int> Selected() const;
+  std::size_t SelectedCount() const;
+  /// The positions of those that can be seen.
+  std::vector<int> InSight() const;
 
-  /// All selected projectors, in the order of the list.
-  ProjectorSessions Selected() const;
-
-  /// Selects a projector of the model. Clears a search that hides it.
-  void Select(int row);
+  /// Selects one projector. Shows all of them first if it is hidden.
+  void Select(int position);
 
   void FocusSearch();
   void FocusTable();
@@ -40,21 +44,23 @@ class ProjectorView : public QWidget {
   void AddContextActions(const QList<QAction*>& actions);
 
  Q_SIGNALS:
-  /// The user asked for the selected projector's dialog.
+  /// The user asked for the dialogs of the selected projectors.
   void Activated();
-  /// The selection has changed.
-  void CurrentChanged();
+  void SelectionChanged();
+  /// A projector had to be shown that was in none of the chosen group.
+  void GroupLeft();
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void MakeColumns();
+  void AskForColumns(const QPoint& place);
+  void TakeSearch(const QString& text);
   void SelectOnly(const QModelIndex& index);
 
   ProjectorTableModel* model_;
-  ProjectorFilter* filter_;
   QLineEdit* search_;
+  QLabel* found_;
   QTableView* table_;
-  QPushButton* open_;
 };

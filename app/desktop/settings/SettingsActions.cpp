@@ -25,7 +25,7 @@ SettingsActions::SettingsActions(std::function<ProjectorSessions()> selected, Wh
       save_(MakeAction(tr("Save Se&ttings…"), &SettingsActions::SaveSettings)),
       compare_(MakeAction(tr("&Compare with File…"), &SettingsActions::CompareSettings)),
       apply_(MakeAction(tr("A&pply Settings…"), &SettingsActions::ApplySettings)) {
-  Update();
+  Update(false);
 }
 
 QAction* SettingsActions::MakeAction(const QString& text, Act act) {
@@ -37,8 +37,7 @@ QAction* SettingsActions::MakeAction(const QString& text, Act act) {
   return action;
 }
 
-void SettingsActions::Update() {
-  const bool any = !selected_().empty();
+void SettingsActions::Update(bool any) {
   for (QAction* action : {save_, compare_, apply_}) action->setEnabled(any);
 }
 

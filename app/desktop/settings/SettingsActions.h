@@ -24,8 +24,8 @@ class SettingsActions : public QObject {
   QAction* Compare() const { return compare_; }
   QAction* Apply() const { return apply_; }
 
-  /// Enables the actions that are possible for the selected projectors.
-  void Update();
+  /// Enables the actions if projectors are selected.
+  void Update(bool any);
 
   /// Saves the settings of each projector: those of a single one in the file `path`, those of
   /// several in new files in the folder `path`, named after the projectors. Returns a line for each

@@ -139,9 +139,11 @@ FaultPanel::FaultPanel(QWidget* parent)
 
   connect(power_, &QComboBox::activated, this, [this] {
     session_->Simulator().SetValue(SettingId::Power, power_->currentData().toInt());
+    Q_EMIT Changed(session_);
   });
   connect(error_, &QComboBox::activated, this, [this] {
     session_->Simulator().SetValue(SettingId::ErrorStatus, error_->currentData().toInt());
+    Q_EMIT Changed(session_);
   });
   connect(target_, &QComboBox::editTextChanged, this, &FaultPanel::UpdateButtons);
   connect(kind_, &QComboBox::currentIndexChanged, this, &FaultPanel::UpdateButtons);
@@ -152,6 +154,7 @@ FaultPanel::FaultPanel(QWidget* parent)
           &QShortcut::activated, remove_, &QPushButton::click);
   connect(clear_, &QPushButton::clicked, this, [this] {
     session_->ClearFaults();
+    Q_EMIT Changed(session_);
     ShowFaults();
   });
   delay_->setFocusPolicy(Qt::StrongFocus);
@@ -231,6 +234,7 @@ void FaultPanel::SetFault() {
   const auto kind = static_cast<Fault::Kind>(kind_->currentData().toInt());
   const std::chrono::milliseconds delay{kind == Fault::Kind::Late ? delay_->value() : 0};
   session_->SetFault(target_->itemData(index).value<FaultTarget>(), {.kind = kind, .delay = delay});
+  Q_EMIT Changed(session_);
   ShowFaults();
 }
 
@@ -238,6 +242,7 @@ void FaultPanel::RemoveSelected() {
   const int row = faults_->currentRow();
   if (session_ == nullptr || row < 0) return;
   session_->SetFault(std::next(session_->Faults().begin(), row)->first, {});
+  Q_EMIT Changed(session_);
   ShowFaults();
 }
 

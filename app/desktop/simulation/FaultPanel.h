@@ -23,6 +23,10 @@ class FaultPanel : public QGroupBox {
   /// Shows the present states of the simulation.
   void RefreshStates();
 
+ Q_SIGNALS:
+  /// The user has changed the simulation.
+  void Changed(const ProjectorSession* session);
+
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -2,6 +2,57 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN">
 <context>
+    <name>AlertList</name>
+    <message>
+        <source>&amp;Acknowledge</source>
+        <translation>确认(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Acknowledge A&amp;ll</source>
+        <translation>全部确认(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Since</source>
+        <translation>起始时间</translation>
+    </message>
+    <message>
+        <source>Alert</source>
+        <translation>警报</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Alerts</source>
+        <translation>警报</translation>
+    </message>
+    <message>
+        <source>%1 does not answer</source>
+        <translation>%1 无应答</translation>
+    </message>
+    <message>
+        <source>%1: the lamp has %2 of %3</source>
+        <translation>%1：灯泡已用 %2，额定 %3</translation>
+    </message>
+    <message>
+        <source>%1: %2 settings are not as they should be</source>
+        <translation>%1：有 %2 项设置与应有值不同</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>acknowledged</source>
+        <translation>已确认</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>未确认</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Unexpected &apos;=&apos; in &apos;%1&apos;.</source>
@@ -91,10 +142,6 @@
         <translation>日志另存为(&amp;L)…</translation>
     </message>
     <message>
-        <source>Clea&amp;r Log</source>
-        <translation>清空日志(&amp;R)</translation>
-    </message>
-    <message>
         <source>Command log</source>
         <translation>命令日志</translation>
     </message>
@@ -115,8 +162,36 @@
         <translation>表格 (*.tsv);;所有文件 (*)</translation>
     </message>
     <message>
-        <source>Commands, &amp;newest last</source>
-        <translation>命令，最新的在最后(&amp;N)</translation>
+        <source>&amp;Errors Only</source>
+        <translation>仅错误(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Clea&amp;r Log…</source>
+        <translation>清空记录(&amp;R)…</translation>
+    </message>
+    <message>
+        <source>Leave out the commands that were carried out</source>
+        <translation>不显示已执行成功的命令</translation>
+    </message>
+    <message>
+        <source>Projector, command or result</source>
+        <translation>投影机、命令或结果</translation>
+    </message>
+    <message>
+        <source>Filter the log</source>
+        <translation>筛选记录</translation>
+    </message>
+    <message>
+        <source>Clear Log</source>
+        <translation>清空记录</translation>
+    </message>
+    <message>
+        <source>Remove all %1 entries of the log?</source>
+        <translation>要删除全部 %1 条记录吗？</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清空</translation>
     </message>
 </context>
 <context>
@@ -175,6 +250,33 @@
     </message>
 </context>
 <context>
+    <name>ConnectionTest</name>
+    <message>
+        <source>&amp;Test Connection</source>
+        <translation>测试连接(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Result of the test</source>
+        <translation>测试结果</translation>
+    </message>
+    <message>
+        <source>There is nothing to connect to.</source>
+        <translation>没有可连接的地址。</translation>
+    </message>
+    <message>
+        <source>A serial line is tried when its dialog opens.</source>
+        <translation>打开对话框时才会尝试串口。</translation>
+    </message>
+    <message>
+        <source>Asking…</source>
+        <translation>正在询问…</translation>
+    </message>
+    <message>
+        <source>A projector answers: %1</source>
+        <translation>有投影机应答：%1</translation>
+    </message>
+</context>
+<context>
     <name>Csv</name>
     <message>
         <source>a quotation mark is not closed</source>
@@ -203,6 +305,105 @@
     <message>
         <source>more than %1 bytes</source>
         <translation>超过 %1 字节</translation>
+    </message>
+</context>
+<context>
+    <name>DetailsPanel</name>
+    <message>
+        <source>Details</source>
+        <translation>详细信息</translation>
+    </message>
+    <message>
+        <source>State:</source>
+        <translation>状态：</translation>
+    </message>
+    <message>
+        <source>Power:</source>
+        <translation>电源：</translation>
+    </message>
+    <message>
+        <source>Source:</source>
+        <translation>信号源：</translation>
+    </message>
+    <message>
+        <source>Problem:</source>
+        <translation>故障：</translation>
+    </message>
+    <message>
+        <source>Picture and sound:</source>
+        <translation>图像和声音：</translation>
+    </message>
+    <message>
+        <source>Lamp:</source>
+        <translation>灯泡：</translation>
+    </message>
+    <message>
+        <source>Filter:</source>
+        <translation>过滤网：</translation>
+    </message>
+    <message>
+        <source>Settings:</source>
+        <translation>设置：</translation>
+    </message>
+    <message>
+        <source>Answered:</source>
+        <translation>上次应答：</translation>
+    </message>
+    <message>
+        <source>Share of the lamp&apos;s rated hours</source>
+        <translation>已用灯泡时间占额定时间的比例</translation>
+    </message>
+    <message>
+        <source>Recent e&amp;vents</source>
+        <translation>最近事件(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Recent events</source>
+        <translation>最近事件</translation>
+    </message>
+    <message>
+        <source>No projector selected</source>
+        <translation>未选择投影机</translation>
+    </message>
+    <message>
+        <source>%1 projectors selected</source>
+        <translation>已选择 %1 台投影机</translation>
+    </message>
+    <message>
+        <source>blank</source>
+        <translation>图像消隐</translation>
+    </message>
+    <message>
+        <source>muted</source>
+        <translation>静音</translation>
+    </message>
+    <message>
+        <source>frozen</source>
+        <translation>画面冻结</translation>
+    </message>
+    <message>
+        <source>shown</source>
+        <translation>正常显示</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1，额定 %2</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>%1  %2</source>
+        <translation>%1  %2</translation>
+    </message>
+    <message>
+        <source>nothing yet</source>
+        <translation>暂无</translation>
+    </message>
+    <message>
+        <source>simulated</source>
+        <translation>模拟</translation>
     </message>
 </context>
 <context>
@@ -357,6 +558,139 @@
     </message>
 </context>
 <context>
+    <name>FleetSummary</name>
+    <message>
+        <source>%1 on</source>
+        <translation>%1 台开机</translation>
+    </message>
+    <message>
+        <source>%1 off</source>
+        <translation>%1 台待机</translation>
+    </message>
+    <message>
+        <source>%1 with problems</source>
+        <translation>%1 台有故障</translation>
+    </message>
+    <message>
+        <source>%1 not reachable</source>
+        <translation>%1 台无法连接</translation>
+    </message>
+    <message>
+        <source>%1 alerts</source>
+        <translation>%1 台有警报</translation>
+    </message>
+    <message>
+        <source>oldest answer %1</source>
+        <translation>最早的应答：%1</translation>
+    </message>
+</context>
+<context>
+    <name>FleetWork</name>
+    <message>
+        <source>refused</source>
+        <translation>被拒绝</translation>
+    </message>
+    <message>
+        <source>the projector is busy or in standby</source>
+        <translation>投影机正忙或处于待机状态</translation>
+    </message>
+    <message>
+        <source>the projector does not have it</source>
+        <translation>投影机没有此功能</translation>
+    </message>
+    <message>
+        <source>the model does not allow this value</source>
+        <translation>此机型不允许该值</translation>
+    </message>
+    <message>
+        <source>it cannot be set</source>
+        <translation>无法设置</translation>
+    </message>
+    <message>
+        <source>the model does not have it</source>
+        <translation>此机型没有此功能</translation>
+    </message>
+    <message>
+        <source>the model has no such setting</source>
+        <translation>此机型没有该设置</translation>
+    </message>
+    <message>
+        <source>there is no snapshot for it</source>
+        <translation>没有对应的快照</translation>
+    </message>
+    <message>
+        <source>not confirmed, it may have changed</source>
+        <translation>未确认，可能已更改</translation>
+    </message>
+    <message>
+        <source>not all of it could be sent</source>
+        <translation>未能全部发送</translation>
+    </message>
+    <message>
+        <source>no answer</source>
+        <translation>无应答</translation>
+    </message>
+    <message>
+        <source>not reachable</source>
+        <translation>无法连接</translation>
+    </message>
+    <message>
+        <source>not connected</source>
+        <translation>未连接</translation>
+    </message>
+    <message>
+        <source>wrong connection parameters</source>
+        <translation>连接参数错误</translation>
+    </message>
+    <message>
+        <source>unknown host name</source>
+        <translation>主机名未知</translation>
+    </message>
+    <message>
+        <source>connection lost</source>
+        <translation>连接已断开</translation>
+    </message>
+    <message>
+        <source>answers are not understood</source>
+        <translation>无法理解应答</translation>
+    </message>
+    <message>
+        <source>another version of the protocol</source>
+        <translation>协议版本不同</translation>
+    </message>
+    <message>
+        <source>password missing or wrong</source>
+        <translation>缺少密码或密码错误</translation>
+    </message>
+</context>
+<context>
+    <name>GroupList</name>
+    <message>
+        <source>Groups</source>
+        <translation>分组</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>有故障</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>待机</translation>
+    </message>
+    <message>
+        <source>Not reachable</source>
+        <translation>无法连接</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>HelpWindows</name>
     <message>
         <source>In a projector&apos;s dialog</source>
@@ -438,7 +772,7 @@
     <name>MainWindow</name>
     <message>
         <source>Open</source>
-        <translation>已打开</translation>
+        <translation>打开</translation>
     </message>
     <message>
         <source>&amp;File</source>
@@ -459,10 +793,6 @@
     <message>
         <source>&amp;View</source>
         <translation>查看(&amp;V)</translation>
-    </message>
-    <message>
-        <source>&amp;Find Projectors</source>
-        <translation>查找投影机(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Simulation</source>
@@ -492,6 +822,57 @@
         <source>Advanced Control</source>
         <translation>高级控制</translation>
     </message>
+    <message>
+        <source>Open Settings</source>
+        <translation>打开设置</translation>
+    </message>
+    <message>
+        <source>Open %1 dialogs?</source>
+        <translation>要打开 %1 个对话框吗？</translation>
+    </message>
+    <message>
+        <source>Alerts</source>
+        <translation>警报</translation>
+    </message>
+    <message>
+        <source>Simulation</source>
+        <translation>模拟</translation>
+    </message>
+    <message>
+        <source>Command Log</source>
+        <translation>命令记录</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>编辑(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Preferences…</source>
+        <translation>首选项(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>Re&amp;fresh</source>
+        <translation>刷新(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>查找(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Alerts</source>
+        <translation>警报(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>工具栏</translation>
+    </message>
+</context>
+<context>
+    <name>Notify</name>
+    <message>
+        <source>Advanced Control</source>
+        <translation>高级控制</translation>
+    </message>
 </context>
 <context>
     <name>Pictures</name>
@@ -502,6 +883,167 @@
     <message>
         <source>cannot write to the folder %1</source>
         <translation>无法写入文件夹 %1</translation>
+    </message>
+</context>
+<context>
+    <name>Preferences</name>
+    <message>
+        <source>Preferences</source>
+        <translation>首选项</translation>
+    </message>
+    <message>
+        <source>As the system</source>
+        <translation>跟随系统</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> 秒</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>从不</translation>
+    </message>
+    <message>
+        <source> min</source>
+        <translation> 分钟</translation>
+    </message>
+    <message>
+        <source>&amp;Fan, lamp, temperature, cover, filter</source>
+        <translation>风扇、灯泡、温度、机盖、过滤网(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Settings that are not as they should &amp;be</source>
+        <translation>设置与应有值不同(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Notify on the &amp;desktop</source>
+        <translation>显示桌面通知(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Quiet from</source>
+        <translation>免打扰开始时间</translation>
+    </message>
+    <message>
+        <source>Quiet until</source>
+        <translation>免打扰结束时间</translation>
+    </message>
+    <message>
+        <source>&amp;Language (after a restart)</source>
+        <translation>语言（重启后生效）(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Ask each projector &amp;every</source>
+        <translation>询问每台投影机的间隔(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Alerts</source>
+        <translation>警报</translation>
+    </message>
+    <message>
+        <source>Lamp &amp;hours, of the rated hours</source>
+        <translation>灯泡时间达到额定时间的(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Silent for</source>
+        <translation>无应答达到(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Quiet hours</source>
+        <translation>免打扰时段</translation>
+    </message>
+</context>
+<context>
+    <name>PresetActions</name>
+    <message>
+        <source>P&amp;resets</source>
+        <translation>预设(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Put on the selection</source>
+        <translation>应用到所选投影机</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation>尚无预设</translation>
+    </message>
+    <message>
+        <source>&amp;Save as Preset…</source>
+        <translation>保存为预设(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>Should &amp;Be Like</source>
+        <translation>应与预设一致(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Nothing</source>
+        <translation>不指定</translation>
+    </message>
+    <message>
+        <source>&amp;Compare with What It Should Be</source>
+        <translation>与应有设置比较(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Put Back What It Should Be</source>
+        <translation>恢复应有设置(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Save as Preset</source>
+        <translation>保存为预设</translation>
+    </message>
+    <message>
+        <source>Name of the preset:</source>
+        <translation>预设名称：</translation>
+    </message>
+    <message>
+        <source>Save the settings of %1 projectors?</source>
+        <translation>要保存 %1 台投影机的设置吗？</translation>
+    </message>
+    <message>
+        <source>Saved as the preset %1</source>
+        <translation>已保存为预设 %1</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>预设</translation>
+    </message>
+    <message>
+        <source>Preset %1</source>
+        <translation>预设 %1</translation>
+    </message>
+    <message>
+        <source>Put the preset %2 on %1 projectors?</source>
+        <translation>要将预设 %2 应用到 %1 台投影机吗？</translation>
+    </message>
+    <message>
+        <source>Should Be Like</source>
+        <translation>应与预设一致</translation>
+    </message>
+    <message>
+        <source>None of the selected projectors has a preset that it should be like.</source>
+        <translation>所选投影机均未指定应一致的预设。</translation>
+    </message>
+    <message>
+        <source>Put Back</source>
+        <translation>恢复应有设置</translation>
+    </message>
+    <message>
+        <source>Put back the settings of %1 projectors?</source>
+        <translation>要恢复 %1 台投影机的应有设置吗？</translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation>比较</translation>
+    </message>
+</context>
+<context>
+    <name>PresetFolder</name>
+    <message>
+        <source>cannot create the folder %1</source>
+        <translation>无法创建文件夹 %1</translation>
     </message>
 </context>
 <context>
@@ -525,14 +1067,6 @@
     <message>
         <source>&amp;Edit…</source>
         <translation>编辑(&amp;E)…</translation>
-    </message>
-    <message>
-        <source>&amp;Duplicate</source>
-        <translation>复制一份(&amp;D)</translation>
-    </message>
-    <message>
-        <source>&amp;Remove</source>
-        <translation>移除(&amp;R)</translation>
     </message>
     <message>
         <source>Open Profiles</source>
@@ -569,6 +1103,52 @@
     <message>
         <source>This could not be done; nothing was changed.</source>
         <translation>操作未能完成，未作任何更改。</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>撤销(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>重做(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate…</source>
+        <translation>复制(&amp;D)…</translation>
+    </message>
+    <message>
+        <source>&amp;Remove…</source>
+        <translation>移除(&amp;R)…</translation>
+    </message>
+    <message>
+        <source>Ta&amp;g…</source>
+        <translation>标签(&amp;G)…</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>编辑</translation>
+    </message>
+    <message>
+        <source>Remove Projectors</source>
+        <translation>移除投影机</translation>
+    </message>
+    <message>
+        <source>Remove %1 projectors from %2?</source>
+        <translation>要从 %2 移除 %1 台投影机吗？</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>标签</translation>
+    </message>
+    <message>
+        <source>Tags for %1 projectors, separated by commas;
+a minus in front takes a tag away:</source>
+        <translation>%1 台投影机的标签，用逗号分隔；
+标签前加减号表示去掉：</translation>
     </message>
 </context>
 <context>
@@ -694,6 +1274,26 @@
     <message>
         <source>%1: %2</source>
         <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>All &amp;fields of the model</source>
+        <translation>显示机型的全部字段(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Save Profiles As…</source>
+        <translation>另存配置文件…</translation>
+    </message>
+    <message>
+        <source>%1 cannot be changed.</source>
+        <translation>无法修改 %1。</translation>
+    </message>
+    <message>
+        <source>Duplicate Projector</source>
+        <translation>复制投影机</translation>
+    </message>
+    <message>
+        <source>%1 is no address.</source>
+        <translation>%1 不是有效地址。</translation>
     </message>
 </context>
 <context>
@@ -853,9 +1453,6 @@
         <source>no display; use --list, --tour or --screenshot without one.</source>
         <translation>没有显示器，此时请使用 --list、--tour 或 --screenshot。</translation>
     </message>
-</context>
-<context>
-    <name>ProjectorTableModel</name>
     <message>
         <source>Name</source>
         <translation>名称</translation>
@@ -876,81 +1473,60 @@
         <source>Connection</source>
         <translation>连接</translation>
     </message>
+</context>
+<context>
+    <name>ProjectorTableModel</name>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>型号</translation>
+    </message>
     <message>
         <source>State</source>
         <translation>状态</translation>
     </message>
     <message>
-        <source>Simulated</source>
-        <translation>模拟</translation>
+        <source>Power</source>
+        <translation>电源</translation>
     </message>
     <message>
-        <source>Not connected</source>
-        <translation>未连接</translation>
+        <source>Source</source>
+        <translation>信号源</translation>
     </message>
     <message>
-        <source>Connecting</source>
-        <translation>正在连接</translation>
+        <source>Lamp</source>
+        <translation>灯泡</translation>
     </message>
     <message>
-        <source>Connected</source>
-        <translation>已连接</translation>
+        <source>Problem</source>
+        <translation>故障</translation>
     </message>
     <message>
-        <source>Wrong parameters</source>
-        <translation>连接参数错误</translation>
+        <source>Place</source>
+        <translation>位置</translation>
     </message>
     <message>
-        <source>Unknown host</source>
-        <translation>未知主机</translation>
+        <source>Settings</source>
+        <translation>设置</translation>
     </message>
     <message>
-        <source>Not reachable</source>
-        <translation>无法访问</translation>
+        <source>Last answer</source>
+        <translation>上次应答</translation>
     </message>
     <message>
-        <source>No answer</source>
-        <translation>无应答</translation>
+        <source>Address</source>
+        <translation>地址</translation>
     </message>
     <message>
-        <source>Connection lost</source>
-        <translation>连接中断</translation>
-    </message>
-    <message>
-        <source>Answers not understood</source>
-        <translation>无法识别应答</translation>
-    </message>
-    <message>
-        <source>Other protocol version</source>
-        <translation>协议版本不符</translation>
-    </message>
-    <message>
-        <source>Password missing or wrong</source>
-        <translation>缺少密码或密码错误</translation>
-    </message>
-    <message>
-        <source>answered %1 s ago</source>
-        <translation>%1 秒前应答</translation>
-    </message>
-    <message>
-        <source>answered %1 min ago</source>
-        <translation>%1 分钟前应答</translation>
-    </message>
-    <message>
-        <source>answered %1 h ago</source>
-        <translation>%1 小时前应答</translation>
+        <source>%1 · open</source>
+        <translation>%1 · 已打开</translation>
     </message>
 </context>
 <context>
     <name>ProjectorView</name>
-    <message>
-        <source>&amp;Open</source>
-        <translation>打开(&amp;O)</translation>
-    </message>
-    <message>
-        <source>Find a name, a model, a tab …</source>
-        <translation>查找名称、型号、选项卡…</translation>
-    </message>
     <message>
         <source>Find projectors</source>
         <translation>查找投影机</translation>
@@ -960,12 +1536,16 @@
         <translation>投影机</translation>
     </message>
     <message>
-        <source>Pro&amp;jectors</source>
-        <translation>投影机(&amp;J)</translation>
+        <source>Find a name, model, place, address, tab or setting</source>
+        <translation>查找名称、机型、位置、地址、标签页或设置</translation>
     </message>
     <message>
-        <source>Open</source>
-        <translation>已打开</translation>
+        <source>Nothing found</source>
+        <translation>未找到</translation>
+    </message>
+    <message>
+        <source>%1 found</source>
+        <translation>找到 %1 台</translation>
     </message>
 </context>
 <context>
@@ -1152,6 +1732,73 @@
     </message>
 </context>
 <context>
+    <name>SearchDialog</name>
+    <message>
+        <source>&amp;Search</source>
+        <translation>搜索(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Find Projectors</source>
+        <translation>查找投影机</translation>
+    </message>
+    <message>
+        <source>the networks of this computer</source>
+        <translation>本机所在的网络</translation>
+    </message>
+    <message>
+        <source>For example 192.0.2.0/24, or 192.0.2.10-40</source>
+        <translation>例如 192.0.2.0/24 或 192.0.2.10-40</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>型号</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>地址</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>备注</translation>
+    </message>
+    <message>
+        <source>Projectors found</source>
+        <translation>找到的投影机</translation>
+    </message>
+    <message>
+        <source>&amp;Addresses</source>
+        <translation>地址(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Pass&amp;word</source>
+        <translation>密码(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Add the &amp;Checked</source>
+        <translation>添加选中项(&amp;C)</translation>
+    </message>
+    <message>
+        <source>known already</source>
+        <translation>已在列表中</translation>
+    </message>
+    <message>
+        <source>wants a password</source>
+        <translation>需要密码</translation>
+    </message>
+    <message>
+        <source>%1 found</source>
+        <translation>找到 %1 台</translation>
+    </message>
+    <message>
+        <source>%1 found, %2 of %3 addresses asked…</source>
+        <translation>找到 %1 台，已询问 %2/%3 个地址…</translation>
+    </message>
+</context>
+<context>
     <name>SettingsActions</name>
     <message>
         <source>Save Se&amp;ttings…</source>
@@ -1281,10 +1928,389 @@
     </message>
 </context>
 <context>
+    <name>StateTexts</name>
+    <message>
+        <source>Not watched</source>
+        <translation>未监视</translation>
+    </message>
+    <message>
+        <source>Asking…</source>
+        <translation>正在询问…</translation>
+    </message>
+    <message>
+        <source>Unknown host</source>
+        <translation>主机未知</translation>
+    </message>
+    <message>
+        <source>No answer</source>
+        <translation>无应答</translation>
+    </message>
+    <message>
+        <source>Wrong password</source>
+        <translation>密码错误</translation>
+    </message>
+    <message>
+        <source>Not understood</source>
+        <translation>无法理解应答</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>故障</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>正常</translation>
+    </message>
+    <message>
+        <source>Standby</source>
+        <translation>待机</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>开机</translation>
+    </message>
+    <message>
+        <source>Cooling down</source>
+        <translation>冷却中</translation>
+    </message>
+    <message>
+        <source>Warming up</source>
+        <translation>预热中</translation>
+    </message>
+    <message>
+        <source>Fan</source>
+        <translation>风扇</translation>
+    </message>
+    <message>
+        <source>Lamp</source>
+        <translation>灯泡</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>温度</translation>
+    </message>
+    <message>
+        <source>Cover</source>
+        <translation>机盖</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>过滤网</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>其他</translation>
+    </message>
+    <message>
+        <source>%1 (warning)</source>
+        <translation>%1（警告）</translation>
+    </message>
+    <message>
+        <source>%1 h</source>
+        <translation>%1 小时</translation>
+    </message>
+    <message>
+        <source>As it should be</source>
+        <translation>一致</translation>
+    </message>
+    <message>
+        <source>%1 differ</source>
+        <translation>%1 项不同</translation>
+    </message>
+    <message>
+        <source>%1 s ago</source>
+        <translation>%1 秒前</translation>
+    </message>
+    <message>
+        <source>%1 min ago</source>
+        <translation>%1 分钟前</translation>
+    </message>
+    <message>
+        <source>%1 h ago</source>
+        <translation>%1 小时前</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>关</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>开</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>电源</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>信号源</translation>
+    </message>
+    <message>
+        <source>Blank</source>
+        <translation>图像消隐</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>静音</translation>
+    </message>
+    <message>
+        <source>Freeze</source>
+        <translation>画面冻结</translation>
+    </message>
+    <message>
+        <source>Settings that differ</source>
+        <translation>不同的设置</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>TransferActions</name>
+    <message>
+        <source>Find on the &amp;Network…</source>
+        <translation>在网络上查找(&amp;N)…</translation>
+    </message>
+    <message>
+        <source>&amp;Import Table…</source>
+        <translation>导入表格(&amp;I)…</translation>
+    </message>
+    <message>
+        <source>E&amp;xport Table…</source>
+        <translation>导出表格(&amp;X)…</translation>
+    </message>
+    <message>
+        <source>Find Projectors</source>
+        <translation>查找投影机</translation>
+    </message>
+    <message>
+        <source>Add Found Projectors</source>
+        <translation>添加找到的投影机</translation>
+    </message>
+    <message>
+        <source>Import Table</source>
+        <translation>导入表格</translation>
+    </message>
+    <message>
+        <source>Tables (*.csv *.tsv *.txt);;All files (*)</source>
+        <translation>表格 (*.csv *.tsv *.txt);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>%1 added, %2 already known, %3 rows not taken.</source>
+        <translation>添加 %1 台，%2 台已存在，%3 行未导入。</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>第 %1 行：%2</translation>
+    </message>
+    <message>
+        <source>Columns that mean nothing here: %1</source>
+        <translation>未使用的列：%1</translation>
+    </message>
+    <message>
+        <source>Export Table</source>
+        <translation>导出表格</translation>
+    </message>
+    <message>
+        <source>Tables (*.csv);;All files (*)</source>
+        <translation>表格 (*.csv);;所有文件 (*)</translation>
+    </message>
+</context>
+<context>
     <name>WholeFile</name>
     <message>
         <source>cannot write %1: %2</source>
         <translation>无法写入 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>WorkActions</name>
+    <message>
+        <source>Switch O&amp;n</source>
+        <translation>开机(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Switch O&amp;ff</source>
+        <translation>关机(&amp;F)</translation>
+    </message>
+    <message>
+        <source>P&amp;ower</source>
+        <translation>电源(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Input</source>
+        <translation>信号源(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Blank</source>
+        <translation>图像消隐(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Blank the Picture</source>
+        <translation>图像消隐</translation>
+    </message>
+    <message>
+        <source>Show the Picture</source>
+        <translation>显示图像</translation>
+    </message>
+    <message>
+        <source>&amp;Mute</source>
+        <translation>静音(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Mute the Sound</source>
+        <translation>静音</translation>
+    </message>
+    <message>
+        <source>Sound On</source>
+        <translation>取消静音</translation>
+    </message>
+    <message>
+        <source>Free&amp;ze</source>
+        <translation>画面冻结(&amp;Z)</translation>
+    </message>
+    <message>
+        <source>Freeze the Picture</source>
+        <translation>冻结画面</translation>
+    </message>
+    <message>
+        <source>Release the Picture</source>
+        <translation>取消冻结</translation>
+    </message>
+    <message>
+        <source>%2 on %1 projectors?</source>
+        <translation>要对 %1 台投影机执行“%2”吗？</translation>
+    </message>
+    <message>
+        <source>Switch On</source>
+        <translation>开机</translation>
+    </message>
+    <message>
+        <source>Switch Off</source>
+        <translation>关机</translation>
+    </message>
+    <message>
+        <source>Switch on %1 projectors?</source>
+        <translation>要打开 %1 台投影机吗？</translation>
+    </message>
+    <message>
+        <source>Switch off %1 projectors?</source>
+        <translation>要关闭 %1 台投影机吗？</translation>
+    </message>
+    <message>
+        <source>Input %1</source>
+        <translation>信号源 %1</translation>
+    </message>
+    <message>
+        <source>Choose the input %2 on %1 projectors?</source>
+        <translation>要将 %1 台投影机切换到信号源 %2 吗？</translation>
+    </message>
+    <message>
+        <source>No inputs are known</source>
+        <translation>没有已知的信号源</translation>
+    </message>
+    <message>
+        <source>%1, %2: %3</source>
+        <translation>%1，%2：%3</translation>
+    </message>
+</context>
+<context>
+    <name>WorkDialog</name>
+    <message>
+        <source>Projector</source>
+        <translation>投影机</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>Projectors</source>
+        <translation>投影机</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>进度</translation>
+    </message>
+    <message>
+        <source>&amp;Retry the Failed</source>
+        <translation>重试失败项(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo All</source>
+        <translation>全部撤销(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>WorkRun</name>
+    <message>
+        <source>the model does not have it</source>
+        <translation>此机型没有此功能</translation>
+    </message>
+    <message>
+        <source>%1 of %2 done</source>
+        <translation>已完成 %1/%2 台</translation>
+    </message>
+    <message>
+        <source>, of these %1 still under way</source>
+        <translation>，其中 %1 台仍在进行</translation>
+    </message>
+    <message>
+        <source>, %1 failed</source>
+        <translation>，%1 台失败</translation>
+    </message>
+    <message>
+        <source>Undo: %1</source>
+        <translation>撤销：%1</translation>
+    </message>
+    <message>
+        <source>working…</source>
+        <translation>正在执行…</translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation>完成</translation>
+    </message>
+    <message>
+        <source>accepted, still under way</source>
+        <translation>已接受，仍在进行</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>被拒绝</translation>
+    </message>
+    <message>
+        <source>no answer</source>
+        <translation>无应答</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>已停止</translation>
     </message>
 </context>
 </TS>

@@ -7,6 +7,7 @@
 
 #include "i18n/LocalizeControlTexts.h"
 #include "pages/common/PageVeil.h"
+#include "pages/rows/RowOutcomes.h"
 #include "settings/CatalogNumbers.h"
 #include "settings/RowUse.h"
 
@@ -23,7 +24,7 @@ bool ShowsSetting(const RowView& row) {
 }  // namespace
 
 PageReader::PageReader(const PageTable& table, RowHost& host, const Rows& rows)
-    : host_(host), rows_(rows), notes_(host, table.captionsStay) {}
+    : host_(host), rows_(rows), notes_(host, rows, table.captionsStay) {}
 
 PageReader::~PageReader() = default;
 
@@ -47,6 +48,7 @@ PageReader::Reading::~Reading() {
     if (row->memory.note != RowNote::None) reader_.notes_.GreyCaption(*row);
   }
   reader_.UpdateVeil();
+  reader_.sinceRead_.start();
 }
 
 void PageReader::MarkUnread() {
@@ -118,6 +120,42 @@ void PageReader::ReadAll() {
     if (projector.IsAbandoned()) return;
   }
   for (const auto& row : rows_) row->OnPageRead();
+  FindSourceOfWanted();
+}
+
+// Some settings are kept for each input source although reading them names none. Only wanted values
+// need to know the source.
+void PageReader::FindSourceOfWanted() {
+  if (host_.Dialog().Context().Wanted() == nullptr) return;
+  Source source;
+  bool isAsked = false;
+  for (const auto& row : rows_) {
+    const auto* value = std::get_if<ValueRow>(&row->Row());
+    if (!row->memory.present || value == nullptr || !value->ofCurrentSourceOnly) continue;
+    if (!std::exchange(isAsked, true)) {
+      source = AskSource(Projector(), OfSource::Current, host_.Dialog().Model().ModelCode);
+    }
+    row->memory.source = source;
+    notes_.Show(*row);
+  }
+}
+
+void PageReader::ShowNotes() {
+  for (const auto& row : rows_) {
+    // A state is never wanted, and its page may have given it a tool tip.
+    const bool isState = std::holds_alternative<StateRow>(row->Row());
+    if (row->memory.present && !isState) notes_.Show(*row);
+  }
+}
+
+int PageReader::Differences() const {
+  return static_cast<int>(std::ranges::count_if(
+      rows_, [](const auto& row) { return row->memory.present && Differs(*row); }));
+}
+
+std::optional<std::chrono::milliseconds> PageReader::SinceRead() const {
+  if (!sinceRead_.isValid()) return {};
+  return std::chrono::milliseconds(sinceRead_.elapsed());
 }
 
 void PageReader::Read(RowView& row, int source) { Read(row, source, Projector().Sent()); }
@@ -128,11 +166,18 @@ void PageReader::Read(RowView& row, Source source, const CPjtInterface::Tally& b
   row.memory.unread = false;
   if (ShowsSetting(row)) {
     notes_.SetNote(row, before);
-    const RowNote note = row.memory.note;
-    const bool isRead = note == RowNote::None || note == RowNote::Range;
+    const bool isRead = IsRead(row.memory.note);
     const bool isFirst =
         !row.memory.opened && source && ReadingOf(row.Row(), host_.Dialog().Model());
     if (isRead && isFirst) row.memory.opened = row.Position();
+    row.memory.isKnown = false;
+    if (isRead) {
+      Confirm(row, row.Position());
+    } else if (WantedPosition(row)) {
+      notes_.Show(row);
+    }
+  } else {
+    Confirm(row, {});
   }
   if (veil_ != nullptr) UpdateVeil();
 }
@@ -166,12 +211,14 @@ void PageReader::ShowWaiting(bool waiting) {
 void PageReader::UpdateVeil() {
   SettingsDialog& dialog = host_.Dialog();
   QRegion unread;
+  QRegion open;
   QRect rows;
   for (const auto& row : rows_) {
     if (!row->memory.present) continue;
     const QRect place = dialog.RowRect(ControlOf(row->Row()));
     rows = rows.united(place);
     if (row->memory.unread) unread += place;
+    if (row->memory.collects) open += place;
   }
   // Rows whose read was abandoned stay dimmed.
   if (!waiting_ && (unread.isEmpty() || readings_ > 0 || veil_ == nullptr)) {
@@ -182,7 +229,7 @@ void PageReader::UpdateVeil() {
   if (veil_ == nullptr) {
     veil_ = new PageVeil(*dialog.GetDlgItem(ControlOf(rows_.front()->Row()))->parentWidget());
   }
-  veil_->Cover(dialog.isWindow() ? rows : dialog.rect(), unread);
+  veil_->Cover(dialog.isWindow() ? rows : dialog.rect(), unread, open);
 }
 
 }  // namespace AdvancedControl

@@ -1,13 +1,16 @@
 #pragma once
 
+#include <chrono>
 #include <memory>
 #include <optional>
 #include <vector>
 
+#include <QElapsedTimer>
 #include <QPointer>
 
 #include "Namespace.h"
 #include "device/CPjtInterface.h"
+#include "pages/common/PageRows.h"
 #include "pages/rows/RowNotes.h"
 #include "pages/rows/RowView.h"
 
@@ -19,7 +22,7 @@ class PageVeil;
 /// yet are dimmed, and a row that cannot be read says why. User-interface thread only.
 class PageReader {
  public:
-  using Rows = std::vector<std::unique_ptr<RowView>>;
+  using Rows = PageRows::Views;
   using Source = RowView::Source;
 
   /// `rows` are those of `table`. All three must outlive the reader.
@@ -58,11 +61,20 @@ class PageReader {
   /// The progress of the reading, as a text for the user.
   QString WaitingText() const;
 
+  RowNotes& Notes() { return notes_; }
+  /// Shows the notes of all rows anew, because the wanted values have changed.
+  void ShowNotes();
+  /// How many rows have another value than the wanted one.
+  int Differences() const;
+  /// The time since the last complete reading; nothing before the first one.
+  std::optional<std::chrono::milliseconds> SinceRead() const;
+
  private:
   CPjtInterface& Projector() const;
   std::vector<PjtCommand> ReadsFrom(std::size_t first, OfSource known, Source source) const;
   void Read(RowView& row, Source source, const CPjtInterface::Tally& before);
   void UpdateVeil();
+  void FindSourceOfWanted();
 
   RowHost& host_;
   const Rows& rows_;
@@ -70,6 +82,7 @@ class PageReader {
   int readings_ = 0;  // number of nested readings
   int sentBefore_ = 0;
   bool waiting_ = false;
+  QElapsedTimer sinceRead_;
   QPointer<PageVeil> veil_;  // only while it is shown
 };
 

@@ -12,9 +12,14 @@ constexpr int kOpacity = 190;  // of 255; the rows below remain just visible
 
 PageVeil::PageVeil(QWidget& page) : QWidget(&page) { setCursor(Qt::WaitCursor); }
 
-void PageVeil::Cover(const QRect& area, const QRegion& dimmed) {
+void PageVeil::Cover(const QRect& area, const QRegion& dimmed, const QRegion& open) {
   setGeometry(area);
   dimmed_ = dimmed.translated(-area.topLeft());
+  if (open.isEmpty()) {
+    clearMask();
+  } else {
+    setMask(QRegion(rect()) - open.translated(-area.topLeft()));
+  }
   raise();
   show();
   update();

@@ -13,8 +13,8 @@ class PageVeil final : public QWidget {
  public:
   explicit PageVeil(QWidget& page);
 
-  /// Covers `area` of the page and dims `dimmed`, both in the page's coordinates.
-  void Cover(const QRect& area, const QRegion& dimmed);
+  /// Covers `area` of the page except `open`, and dims `dimmed`, all in the page's coordinates.
+  void Cover(const QRect& area, const QRegion& dimmed, const QRegion& open);
 
  protected:
   void paintEvent(QPaintEvent* event) override;

@@ -2,12 +2,13 @@
 
 #include <memory>
 #include <optional>
-#include <unordered_map>
 #include <vector>
 
 #include "AdvancedControlExport.h"
 #include "Namespace.h"
 #include "pages/common/PageReader.h"
+#include "pages/common/PageRows.h"
+#include "pages/common/PendingInput.h"
 #include "pages/common/RowMenus.h"
 #include "pages/common/RowResets.h"
 #include "pages/common/SettingsDialog.h"
@@ -68,28 +69,26 @@ class ADVANCED_CONTROL_EXPORT RowDialog : public SettingsDialog, private RowHost
     return static_cast<View&>(*RowOf(GetDlgItem(control)));
   }
 
-  void OnBusy() override;
-  void OnIdle() override;
-  void OnLeave() override;
-  void OnReturn() override;
-  void OnStale() override { stale_ = true; }
+  HandlerWatch& Watch() override;
+
+  bool KeepsInput(const QWidget& control) const override { return pending_.Keeps(control); }
+  void Handle(const Notification& entry, CSliderCtrl* slider) override;
+  void KeepInput(const Notification& entry, CSliderCtrl* slider) override;
 
  private:
   SettingsDialog& Dialog() final { return *this; }
   RowView* RowOf(const QWidget* control) const final;
   std::optional<int> AskFor(OfSource of) final { return reader_.AskFor(of); }
   void ReadRow(RowView& row, int source) final { reader_.Read(row, source); }
+  void ShowNotes(const RowView& row) final { reader_.Notes().Show(row); }
 
-  const PageTable& table_;
-  const PageReader::Rows rows_;  // in the table's order
-  std::unordered_map<const QWidget*, RowView*> rowsByControl_;
+  PageRows rows_;
   mutable std::optional<NotificationMap> notifications_;
   PageReader reader_;
   RowMenus menus_;
   RowResets resets_;
-  bool stale_ = false;
-  // Only of a pop-up; a page uses that of its dialog.
-  std::unique_ptr<Waiting> waiting_;
+  PendingInput pending_;
+  std::unique_ptr<Waiting> waiting_;  // only of a pop-up; a page uses that of its dialog
 };
 
 }  // namespace AdvancedControl

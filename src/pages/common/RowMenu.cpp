@@ -16,7 +16,7 @@ QString ListString(int number) { return CatalogString(kListCategory, number); }
 
 RowMenu::RowMenu(const Row& row, QWidget* parent) : QMenu(parent) {
   connect(this, &QMenu::aboutToHide, this, &QObject::deleteLater);
-  if (!row.note.isEmpty()) AddText(row.note);
+  for (const QString& note : row.notes.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) AddText(note);
   if (!row.opened.isEmpty()) {
     AddText(CatalogString(kListCategory, ListText::WhenOpened, row.opened.toStdString()));
   }
@@ -24,6 +24,11 @@ RowMenu::RowMenu(const Row& row, QWidget* parent) : QMenu(parent) {
   if (row.putBack != Choice::Absent) {
     addAction(ListString(ListText::PutBack), this, &RowMenu::PutBack)
         ->setEnabled(row.putBack == Choice::Usable);
+  }
+  if (row.setToWanted != Choice::Absent) {
+    addAction(CatalogString(kListCategory, ListText::SetToWanted, row.wanted.toStdString()), this,
+              &RowMenu::SetToWanted)
+        ->setEnabled(row.setToWanted == Choice::Usable);
   }
   if (row.enterValue != Choice::Absent) {
     addAction(ListString(ListText::EnterValue), this, &RowMenu::EnterValue)

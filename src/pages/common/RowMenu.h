@@ -8,9 +8,9 @@
 
 namespace AdvancedControl {
 
-/// The context menu of a row: shows the numbers that the row accepts and its value when the dialog
-/// was opened, and offers to restore that value, to type a number, and to copy. Deletes itself when
-/// it is hidden. User-interface thread only.
+/// The context menu of a row: shows what there is to say about the row and its value when the
+/// dialog was opened, and offers to restore that value, to set the wanted one, to type a number,
+/// and to copy. Deletes itself when it is hidden. User-interface thread only.
 class RowMenu final : public QMenu {
   Q_OBJECT
 
@@ -21,9 +21,11 @@ class RowMenu final : public QMenu {
   struct Row {
     QString caption;
     QString value;
-    QString note;    ///< The numbers that the row accepts, or why it is disabled.
+    QString notes;   ///< What there is to say about it, a text in each line.
     QString opened;  ///< Its value when the dialog was opened.
+    QString wanted;  ///< The value that it should have.
     Choice putBack = Choice::Absent;
+    Choice setToWanted = Choice::Absent;
     Choice enterValue = Choice::Absent;
   };
 
@@ -32,6 +34,7 @@ class RowMenu final : public QMenu {
 
  Q_SIGNALS:
   void PutBack();
+  void SetToWanted();
   void EnterValue();
 
  private:

@@ -5,6 +5,7 @@
 
 #include "pages/common/NumberQuestion.h"
 #include "pages/common/RowMenu.h"
+#include "pages/rows/RowOutcomes.h"
 #include "pages/rows/RowTexts.h"
 #include "toolkit/CDialog.h"
 
@@ -52,25 +53,44 @@ RowView* RowMenus::RowAt(QPoint at) const {
 
 bool RowMenus::Open(QPoint at, QPoint onScreen) {
   RowView* const found = RowAt(at);
-  if (found == nullptr || !ReadingOf(found->Row(), host_.Dialog().Model())) return false;
+  if (found == nullptr || !ReadingOf(found->Row(), host_.Dialog().Model())) {
+    return OpenForPage(onScreen);
+  }
   RowView& row = *found;
   CDialog& dialog = host_.Dialog();
   const auto opened = row.memory.opened;
+  const auto wanted = WantedPosition(row);
   auto* menu = new RowMenu(
       {.caption = CaptionText(row.Row()),
        .value = row.Text(),
-       .note = RowNotes::TextOf(row),
+       .notes = RowNotes::TextOf(row),
        .opened = opened ? row.TextAt(*opened) : QString(),
+       .wanted = wanted ? row.TextAt(*wanted) : QString(),
        .putBack =
            ChoiceOf(!std::holds_alternative<StateRow>(row.Row()), opened && row.CanMoveTo(*opened)),
+       .setToWanted = ChoiceOf(wanted.has_value(), wanted && row.CanMoveTo(*wanted)),
        .enterValue = ChoiceOf(row.Numbers().has_value(), row.IsUsable() && row.Position())},
       &dialog);
   // Queued until the menu is closed, because the actions may wait for the projector.
   connect(
       menu, &RowMenu::PutBack, &dialog, [this, &row] { PutBack(row); }, Qt::QueuedConnection);
   connect(
+      menu, &RowMenu::SetToWanted, &dialog, [this, &row] { SetToWanted(row); },
+      Qt::QueuedConnection);
+  connect(
       menu, &RowMenu::EnterValue, &dialog, [this, &row] { AskForNumber(row); },
       Qt::QueuedConnection);
+  if (QAction* action = host_.PageAction(); action != nullptr) menu->addAction(action);
+  menu->popup(onScreen);
+  return true;
+}
+
+bool RowMenus::OpenForPage(QPoint onScreen) {
+  QAction* action = host_.PageAction();
+  if (action == nullptr) return false;
+  auto* menu = new QMenu(&host_.Dialog());
+  connect(menu, &QMenu::aboutToHide, menu, &QObject::deleteLater);
+  menu->addAction(action);
   menu->popup(onScreen);
   return true;
 }
@@ -81,6 +101,7 @@ void RowMenus::AskForNumber(RowView& row) {
   auto* question =
       new NumberQuestion(CaptionText(row.Row()), range, row.Position().value_or(range.minimum),
                          host_.Dialog().window());
+  question->setWindowTitle(NamedTitle(host_.Dialog(), question->windowTitle()));
   connect(question, &NumberQuestion::Entered, &host_.Dialog(),
           [this, &row](int position) { MoveTo(row, position); });
   question->open();
@@ -96,20 +117,28 @@ void RowMenus::MoveTo(RowView& row, int position) {
 }
 
 void RowMenus::PutBack(RowView& row) {
-  if (IsBusy()) return;
-  if (const OfSource of = SourceOf(row.Row()); of != OfSource::None) {
-    {
-      const CDialog::Busy busy(&host_.Dialog());
-      host_.AskFor(of);
-    }
-    if (!host_.Dialog().isVisible()) return;
-    if (!row.memory.opened) {
-      host_.ReadAgain();  // the source has changed, and the shown values are those of the previous
-                          // one
-      return;
-    }
-  }
+  if (!HasItsSource(row)) return;
   if (row.memory.opened) MoveTo(row, *row.memory.opened);
+}
+
+void RowMenus::SetToWanted(RowView& row) {
+  if (!HasItsSource(row)) return;
+  if (const auto wanted = WantedPosition(row)) MoveTo(row, *wanted);
+}
+
+// The values belong to the source for which the row was read. If the projector plays another one
+// now, the page is read again instead.
+bool RowMenus::HasItsSource(RowView& row) {
+  if (IsBusy()) return false;
+  const OfSource of = SourceOf(row.Row());
+  if (of == OfSource::None) return true;
+  {
+    const CDialog::Busy busy(&host_.Dialog());
+    host_.AskFor(of);
+  }
+  if (!host_.Dialog().isVisible()) return false;
+  if (!row.memory.opened) host_.ReadAgain();
+  return row.memory.opened.has_value();
 }
 
 }  // namespace AdvancedControl

@@ -22,10 +22,14 @@ class RowMenus final : public QObject {
   /// The row at a point of the dialog; null if there is none or it is ambiguous.
   RowView* RowAt(QPoint at) const;
   bool Open(QPoint at, QPoint onScreen);
+  /// Opens the menu of the page itself, if it has one.
+  bool OpenForPage(QPoint onScreen);
   bool IsBusy() const;
   void AskForNumber(RowView& row);
   void MoveTo(RowView& row, int position);
   void PutBack(RowView& row);
+  void SetToWanted(RowView& row);
+  bool HasItsSource(RowView& row);
 
   RowHost& host_;
   const PageReader::Rows& rows_;

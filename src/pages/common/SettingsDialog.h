@@ -5,6 +5,7 @@
 #include "device/CPjtInterface.h"
 #include "device/ModelData.h"
 #include "i18n/LocalizeControlTexts.h"
+#include "pages/common/DialogContext.h"
 #include "settings/CatalogNumbers.h"
 #include "toolkit/CDialog.h"
 
@@ -26,9 +27,20 @@ class ADVANCED_CONTROL_EXPORT SettingsDialog : public CDialog {
   /// page on its own shows its generic form.
   virtual const ModelData& Model() const;
 
+  /// The context given by the nearest owner that has one, else one that knows nothing.
+  const DialogContext& Context() const;
+
+  /// Shows a text in the line beside Close once no handler runs, unless the outcome of the commands
+  /// is more important.
+  void Say(const QString& text) const;
+
   /// Shows a refusal in a message box with a stop icon and a text of the error category. Shows
   /// nothing if the user has left the running handlers.
   void ShowError(int errorNumber);
+
+  /// Enables a control. If it is not usable, its tool tip and its description for screen readers
+  /// give the reason: a text of the list category.
+  void Enable(int control, bool usable, int reason);
 
   // For the views of its rows.
   using CDialog::GreyCaption;
@@ -38,13 +50,18 @@ class ADVANCED_CONTROL_EXPORT SettingsDialog : public CDialog {
   /// Catalog text of the list category.
   static QString ListString(int number) { return CatalogString(kListCategory, number); }
 
-  /// Asks a question with a text of the error category and the buttons Yes and No; true for Yes.
-  bool Ask(int questionNumber);
+  /// Asks a question with the buttons Yes and No; true for Yes.
+  bool Ask(const QString& question);
+  /// The same with a text of the error category.
+  bool Ask(int questionNumber) { return Ask(CatalogString(kErrorCategory, questionNumber)); }
 
   void OnOrphaned() override { projector = &Unconnected(); }
 
  private:
   static CPjtInterface& Unconnected();
 };
+
+/// The title of a window that belongs to the dialog, after the projector's name if that is known.
+QString NamedTitle(const SettingsDialog& dialog, const QString& title);
 
 }  // namespace AdvancedControl

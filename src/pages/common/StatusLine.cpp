@@ -1,5 +1,7 @@
 #include "pages/common/StatusLine.h"
 
+#include <utility>
+
 #include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -12,7 +14,7 @@ namespace AdvancedControl {
 
 namespace {
 
-int ProblemText(ConnectionState connection) {
+int ProblemNumber(ConnectionState connection) {
   switch (connection) {
     case ConnectionState::WrongParameters:
       return ListText::WrongParameters;
@@ -35,6 +37,10 @@ int ProblemText(ConnectionState connection) {
 
 }  // namespace
 
+QString ProblemText(ConnectionState connection) {
+  return CatalogString(kListCategory, ProblemNumber(connection));
+}
+
 StatusLine::StatusLine(QWidget* parent)
     : QWidget(parent), text_(new QLabel), retry_(new QPushButton) {
   retry_->setAutoDefault(false);
@@ -50,32 +56,33 @@ StatusLine::StatusLine(QWidget* parent)
 
 QWidget* StatusLine::RetryButton() const { return retry_; }
 
-void StatusLine::ShowProgress(const QString& text) { Show(text, false); }
+void StatusLine::ShowProgress(const QString& text) { Show(text, Tone::Quiet); }
 
 void StatusLine::ShowOutcome(const CPjtInterface& projector, const CPjtInterface::Tally& before) {
   const CPjtInterface::Tally sent = projector.Sent();
+  const QString said = std::exchange(said_, QString());
   if (sent.unanswered > before.unanswered) {
-    return Show(CatalogString(kListCategory, ProblemText(projector.Connection())), true);
-  }
-  QString text;
-  if (sent.pending > before.pending) {
-    text = CatalogString(kListCategory, ListText::NotYetSo);
+    Show(ProblemText(projector.Connection()), Tone::Alert, true);
+  } else if (sent.pending > before.pending) {
+    Show(CatalogString(kListCategory, ListText::NotYetSo), Tone::Quiet);
   } else if (sent.busy > before.busy) {
-    text = CatalogString(kListCategory, ListText::NotPossibleNow);
+    Show(CatalogString(kListCategory, ListText::NotPossibleNow), Tone::Quiet);
+  } else {
+    Show(said, Tone::Alert);
   }
-  Show(text, false);
 }
 
-void StatusLine::Show(const QString& text, bool canRetry) {
+void StatusLine::Show(const QString& text, Tone tone, bool canRetry) {
   if (canRetry && retry_->text().isEmpty()) {
     retry_->setText(CatalogString(kListCategory, ListText::Retry));
   }
   retry_->setVisible(canRetry);
   setVisible(!text.isEmpty());
-  if (text == text_->text()) return;
+  if (text == text_->text() && (tone == Tone::Quiet || canRetry)) return;
   text_->setText(text);
   if (text.isEmpty()) return;
-  QAccessibleEvent changed(text_, canRetry ? QAccessible::Alert : QAccessible::NameChanged);
+  QAccessibleEvent changed(text_,
+                           tone == Tone::Alert ? QAccessible::Alert : QAccessible::NameChanged);
   QAccessible::updateAccessibility(&changed);
 }
 

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <cstdint>
+
+#include <QString>
 #include <QWidget>
 
 #include "Namespace.h"
@@ -10,9 +13,12 @@ class QPushButton;
 
 namespace AdvancedControl {
 
-/// The line beside Close. Shows the progress of reading; that a change is not in effect yet or not
-/// possible now; or that the projector does not answer, with a button to try again. Each change is
-/// announced to screen readers. User-interface thread only.
+/// The text of a problem of the connection.
+QString ProblemText(ConnectionState connection);
+
+/// The line beside Close. Shows the progress of reading; what came of an action; that a change is
+/// not in effect yet or not possible now; or that the projector does not answer, with a button to
+/// try again. Each change is announced to screen readers. User-interface thread only.
 class StatusLine final : public QWidget {
   Q_OBJECT
 
@@ -22,9 +28,13 @@ class StatusLine final : public QWidget {
   /// Shows the progress of the present work. An empty text ends it.
   void ShowProgress(const QString& text);
 
+  /// Takes a text about the present work for the next `ShowOutcome`.
+  void Say(const QString& text) { said_ = text; }
+  bool HasSomethingToSay() const { return !said_.isEmpty(); }
+
   /// Shows the outcome of the commands since `before`: why one was not answered, that a change was
-  /// accepted but is not in effect yet, that the projector was busy, or nothing. Stays until the
-  /// next call of `ShowProgress` or `ShowOutcome`.
+  /// accepted but is not in effect yet, that the projector was busy, or else what was said. Stays
+  /// until the next call of `ShowProgress` or `ShowOutcome`.
   void ShowOutcome(const CPjtInterface& projector, const CPjtInterface::Tally& before);
 
   QWidget* RetryButton() const;
@@ -33,10 +43,12 @@ class StatusLine final : public QWidget {
   void Retry();
 
  private:
-  void Show(const QString& text, bool canRetry);
+  enum class Tone : std::uint8_t { Quiet, Alert };
+  void Show(const QString& text, Tone tone, bool canRetry = false);
 
   QLabel* text_;
   QPushButton* retry_;
+  QString said_;
 };
 
 }  // namespace AdvancedControl

@@ -29,25 +29,31 @@ StatusLine& Waiting::MakeLine(QWidget* parent) {
   return *line_;
 }
 
-void Waiting::Begin() {
+void Waiting::OnBusy() {
   RestartTally();
   ticks_ = 0;
   if (timer_ == 0) timer_ = startTimer(kTick);
 }
 
-void Waiting::End(bool left) {
+void Waiting::OnIdle(bool left) {
   if (timer_ != 0) killTimer(std::exchange(timer_, 0));
   if (shown_) Show(false);
   const CPjtInterface& projector = dialog_.projector();
-  if (left || line_ == nullptr || projector.Sent().commands == before_.commands) return;
-  line_->ShowOutcome(projector, before_);
+  const bool isNews = projector.Sent().commands != before_.commands;
+  if (line_ != nullptr && left) {
+    line_->Say({});
+  } else if (line_ != nullptr && (isNews || line_->HasSomethingToSay())) {
+    line_->ShowOutcome(projector, before_);
+  }
+  dialog_.idle(left);
+  if (TakeStale()) dialog_.readAgain(left);
 }
 
 void Waiting::RestartTally() { before_ = dialog_.projector().Sent(); }
 
-void Waiting::Abandon() { abandoned_ = dialog_.projector().Abandon(); }
+void Waiting::OnLeave() { abandoned_ = dialog_.projector().Abandon(); }
 
-void Waiting::Return() { abandoned_.reset(); }
+void Waiting::OnReturn() { abandoned_.reset(); }
 
 void Waiting::timerEvent(QTimerEvent*) {
   if (dialog_.projector().IsWaiting()) {

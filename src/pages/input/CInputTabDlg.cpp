@@ -20,6 +20,10 @@ std::vector<Notification> CInputTabDlg::OwnNotifications() const {
 // The first entry, "last input", is not a source and is always sent.
 void CInputTabDlg::OnSelchangePowerUpInput() {
   const auto& list = Item<CComboBox>(ControlId::Input::PowerUpInput);
-  if (list.currentIndex() == 0 || list.SelectedValue() <= kHighestInput)
+  if (list.currentIndex() == 0 || list.SelectedValue() <= kHighestInput) {
     Act(ControlId::Input::PowerUpInput);
+  } else {
+    Say(CatalogString(kListCategory, ListText::ChoiceGoesNowhere,
+                      list.currentText().toStdString()));
+  }
 }

@@ -1,5 +1,8 @@
 #include "pages/other/COtherTabDlg.h"
 
+#include <QPushButton>
+
+#include "pages/rows/RowOutcomes.h"
 #include "resources/AdvancedControlResources.h"
 #include "settings/ControlId.h"
 #include "settings/PageTables.h"
@@ -30,29 +33,42 @@ std::vector<Notification> COtherTabDlg::OwnNotifications() const {
 void COtherTabDlg::ShowState(int, std::optional<int> value) {
   runningState_ = value;
   const bool ready = value && value != shared::kCoolingDown;
-  GetDlgItem(Id::PowerOn)->setEnabled(ready);
-  GetDlgItem(Id::PowerOff)->setEnabled(ready);
+  const int reason = value ? ListText::NotWhileCoolingDown : ListText::ReadRefused;
+  Enable(Id::PowerOn, ready, reason);
+  Enable(Id::PowerOff, ready, reason);
 }
 
 void COtherTabDlg::OnBnClickedOtherPowerOn() {
   const Sent sent = SendRow(*projector, Row(Id::Power).Row(), Model(), 1);
   InitDisp();
-  if (sent != Sent::Accepted) ShowError(ErrorText::PowerRefused);
+  if (sent != Sent::Accepted) ShowPowerRefused(Id::PowerOn);
 }
 
 void COtherTabDlg::OnBnClickedOtherPowerOff() {
-  if (!Ask(ErrorText::PowerOffQuestion)) return;
+  const std::string name = Context().ProjectorName();
+  const bool isSure =
+      name.empty() ? Ask(ErrorText::PowerOffQuestion)
+                   : Ask(CatalogString(kErrorCategory, ErrorText::NamedPowerOffQuestion, name));
+  if (!isSure) return;
   SendRow(*projector, Row(Id::Power).Row(), Model(), 0);
   InitDisp();
   // The command has no result. It counts as refused if the projector is still on or does not report
   // its state.
-  if (!runningState_ || runningState_ == shared::kRunning) ShowError(ErrorText::PowerRefused);
+  if (!runningState_ || runningState_ == shared::kRunning) ShowPowerRefused(Id::PowerOff);
+}
+
+void COtherTabDlg::ShowPowerRefused(int button) {
+  TellRefusal(Row(Id::Power), Item<QPushButton>(button).text());
+  ShowError(ErrorText::PowerRefused);
 }
 
 void COtherTabDlg::OnCbnSelchangeOtherInput() {
   const auto source = Item<CComboBox>(Id::InputSource).SelectedValue();
   if (!source) return;
+  const QString text = Item<CComboBox>(Id::InputSource).currentText();
   const Sent sent = SendRow(*projector, Row(Id::InputSource).Row(), Model(), *source);
   InitDisp();
-  if (sent != Sent::Accepted) ShowError(ErrorText::InputSourceRefused);
+  if (sent == Sent::Accepted) return;
+  TellRefusal(Row(Id::InputSource), text);
+  ShowError(ErrorText::InputSourceRefused);
 }

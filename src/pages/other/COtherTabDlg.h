@@ -24,6 +24,8 @@ class COtherTabDlg : public CTabPage {
   void ShowState(int control, std::optional<int> value) override;
 
  private:
+  void ShowPowerRefused(int button);
+
   std::optional<int> runningState_;  // nothing if it could not be read
 };
 

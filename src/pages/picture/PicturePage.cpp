@@ -32,8 +32,9 @@ void PicturePage::InitDisp() {
 }
 
 void PicturePage::EnableCustomButtons() {
-  GetDlgItem(Id::CustomGamma)->setEnabled(IsCustomGamma(Item<CComboBox>(Id::Gamma)));
-  GetDlgItem(Id::CustomColorTemp)->setEnabled(IsCustomColorTemp(Item<CComboBox>(Id::ColorTemp)));
+  Enable(Id::CustomGamma, IsCustomGamma(Item<CComboBox>(Id::Gamma)), ListText::OnlyForCustomGamma);
+  Enable(Id::CustomColorTemp, IsCustomColorTemp(Item<CComboBox>(Id::ColorTemp)),
+         ListText::OnlyForCustomColorTemp);
 }
 
 void PicturePage::OnCbnSelchangePicGammaComb() {

@@ -1,5 +1,6 @@
 #include "pages/rows/ActionRowView.h"
 
+#include "pages/rows/RowOutcomes.h"
 #include "pages/rows/RowTexts.h"
 #include "settings/RowUse.h"
 #include "toolkit/CComboBox.h"
@@ -28,8 +29,23 @@ void ActionRowView::Act(int) {
   const int position = list_ != nullptr ? list_->currentIndex() : 0;
   if (position < 0) return;
   const bool done = Perform(Projector(), row_.call, position).accepted;
+  const QString entry = list_ != nullptr ? list_->currentText() : QString();
   if (ReadsAgain(row_.rereads, done)) Host().ReadAgain();
-  if (!done && row_.error != 0) Dialog().ShowError(row_.error);
+  if (done) {
+    Confirm(*this, {});
+    Dialog().Say(DoneText(position, entry));
+    return;
+  }
+  TellRefusal(*this, entry);
+  if (row_.error != 0) Dialog().ShowError(row_.error);
+}
+
+QString ActionRowView::DoneText(int position, const QString& entry) const {
+  if (row_.done != 0) return CatalogString(kListCategory, row_.done + position);
+  const bool hasResult = FormOf(row_.call.operation).returns != Returns::Nothing;
+  const QString what = (CaptionText(Row()) + QLatin1Char(' ') + entry).trimmed();
+  return CatalogString(kListCategory, hasResult ? ListText::ActionDone : ListText::ActionSent,
+                       what.toStdString());
 }
 
 }  // namespace AdvancedControl

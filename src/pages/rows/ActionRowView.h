@@ -20,6 +20,8 @@ class ActionRowView final : public RowView {
   void Act(int control) override;
 
  private:
+  QString DoneText(int position, const QString& entry) const;
+
   const ActionRow& row_;
   CComboBox* list_ = nullptr;
 };

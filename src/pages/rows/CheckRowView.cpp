@@ -3,6 +3,7 @@
 #include <QCheckBox>
 
 #include "i18n/LocalizeControlTexts.h"
+#include "pages/rows/RowOutcomes.h"
 #include "settings/CatalogNumbers.h"
 #include "settings/RowUse.h"
 
@@ -23,8 +24,12 @@ void CheckRowView::Read(Source source) {
 
 void CheckRowView::Act(int) {
   const int value = check_->isChecked() ? 1 : 0;
-  if (SendRow(Projector(), Row(), Model(), value) == Sent::Accepted) return;
-  if (const auto present = ReadSetting(0)) check_->setChecked(*present != 0);
+  if (SendRow(Projector(), Row(), Model(), value) == Sent::Accepted) return Confirm(*this, value);
+  if (const auto present = ReadSetting(0)) {
+    check_->setChecked(*present != 0);
+    memory.known = Position();
+  }
+  TellRefusal(*this, TextAt(value));
 }
 
 std::optional<int> CheckRowView::Position() const { return check_->isChecked() ? 1 : 0; }

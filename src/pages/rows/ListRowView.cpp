@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "pages/rows/RowOutcomes.h"
 #include "pages/rows/RowTexts.h"
 #include "settings/RowUse.h"
 #include "toolkit/CComboBox.h"
@@ -49,20 +50,31 @@ void ListRowView::Select(int value) {
 
 void ListRowView::Act(int) {
   const auto chosen = list_->SelectedValue();
-  if (!chosen || !row_.send) return;
+  if (!chosen) return;
+  const int position = list_->currentIndex();
+  const QString text = list_->currentText();
+  if (!row_.send) return Dialog().Say(CatalogString(kListCategory, ListText::OnlyShown));
   const auto source = Host().AskFor(row_.of);
-  if (!source) return;
-  const Sending how{.text = list_->currentText().toStdString(),
-                    .source = source,
-                    .position = list_->currentIndex()};
+  if (!source) return TellRefusal(*this, text);
+  const CPjtInterface::Tally before = Projector().Sent();
+  const Sending how{.text = text.toStdString(), .source = source, .position = position};
   const Sent sent = SendRow(Projector(), Row(), Model(), *chosen, how);
   if (sent == Sent::Nothing) {
     if (const auto value = ReadSetting(source)) list_->SelectValue(*value);
-    return;
+    return Dialog().Say(
+        CatalogString(kListCategory, ListText::ChoiceGoesNowhere, text.toStdString()));
   }
   if (row_.rules.readsBackAlways) Host().ReadRow(*this, *source);
-  if (sent == Sent::Accepted) return;
+  if (sent == Sent::Accepted) {
+    // A setter without a result: only reading the setting shows that the choice was not accepted.
+    const bool isOpen = Projector().Sent().pending > before.pending;
+    const bool isReadBack = row_.rules.readsBackAlways && IsRead(memory.note) && !isOpen;
+    if (isReadBack && memory.known != position) return TellRefusal(*this, text);
+    if (!row_.rules.readsBackAlways) Confirm(*this, position);
+    return;
+  }
   if (Table().refusedIsReadBack || row_.rules.refused != Refused::Silent) ReadBack(*source);
+  TellRefusal(*this, text);
   if (row_.rules.error != 0) Dialog().ShowError(row_.rules.error);
 }
 
@@ -78,6 +90,7 @@ void ListRowView::ReadBack(int source) {
   } else {
     Select(*value);
   }
+  memory.known = Position();
 }
 
 std::optional<int> ListRowView::Position() const {

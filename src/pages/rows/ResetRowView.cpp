@@ -6,6 +6,7 @@
 #include <QScopedValueRollback>
 
 #include "i18n/LocalizeControlTexts.h"
+#include "pages/rows/RowOutcomes.h"
 #include "pages/rows/ValueRowView.h"
 #include "settings/CatalogNumbers.h"
 #include "settings/RowUse.h"
@@ -64,7 +65,12 @@ void ResetRowView::Act(int) {
     auto* of = dynamic_cast<ValueRowView*>(Host().RowOf(Dialog().GetDlgItem(entry.of)));
     if (of != nullptr) of->ShowAgain();
   }
+  const QString text = CatalogString(kListCategory, entry.text);
   if (ReadsAgain(row_.rereads, done)) Host().ReadAgain();
+  if (!isListed) return;
+  if (!done) return TellRefusal(*this, text);
+  Confirm(*this, {});
+  Dialog().Say(CatalogString(kListCategory, ListText::ResetDone, text.toStdString()));
 }
 
 }  // namespace AdvancedControl

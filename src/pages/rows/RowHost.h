@@ -5,6 +5,7 @@
 #include "Namespace.h"
 #include "settings/Rows.h"
 
+class QAction;
 class QWidget;
 
 namespace AdvancedControl {
@@ -34,6 +35,12 @@ class RowHost {
   virtual void ShowSource(std::optional<int> /*source*/) {}
   /// Called after the state that `control` shows was read; `value` is nothing if that failed.
   virtual void ShowState(int /*control*/, std::optional<int> /*value*/) {}
+
+  /// Called when what there is to say about a row has changed: its refusal, or its difference from
+  /// the wanted value.
+  virtual void ShowNotes(const RowView& row) = 0;
+  /// An action of the whole page, for its context menus; null if it has none. Not owned.
+  virtual QAction* PageAction() { return nullptr; }
 
   /// Reads one row as a refresh does.
   virtual void ReadRow(RowView& row, int source) = 0;

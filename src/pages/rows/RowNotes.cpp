@@ -1,9 +1,13 @@
 #include "pages/rows/RowNotes.h"
 
 #include <utility>
+#include <vector>
 
 #include <QLabel>
+#include <QStringList>
 
+#include "pages/rows/RowMarks.h"
+#include "pages/rows/RowOutcomes.h"
 #include "pages/rows/RowView.h"
 #include "toolkit/CComboBox.h"
 
@@ -19,6 +23,8 @@ RowNote NoteOf(const RowView& row, const SettingsDialog& dialog,
   if (after.unanswered > before.unanswered) return RowNote::Unanswered;
   if (after.notOffered > before.notOffered) return RowNote::NotOffered;
   if (after.refused > before.refused || !row.IsUsable()) return RowNote::Refused;
+  const auto* choices = std::get_if<ListRow>(&row.Row());
+  if (choices != nullptr && !choices->send) return RowNote::OnlyShown;
   return row.Numbers() ? RowNote::Range : RowNote::None;
 }
 
@@ -28,9 +34,7 @@ QString RangeText(const Range& range) {
                        std::int64_t{range.maximum});
 }
 
-}  // namespace
-
-QString RowNotes::TextOf(const RowView& row) {
+QString NoteText(const RowView& row) {
   switch (row.memory.note) {
     case RowNote::Refused:
       return CatalogString(kListCategory, ListText::ReadRefused);
@@ -40,6 +44,8 @@ QString RowNotes::TextOf(const RowView& row) {
       return CatalogString(kListCategory, ListText::ReadUnanswered);
     case RowNote::NoEntries:
       return CatalogString(kListCategory, ListText::NoEntries);
+    case RowNote::OnlyShown:
+      return CatalogString(kListCategory, ListText::OnlyShown);
     case RowNote::Range:
       return RangeText(row.Numbers().value_or(kUnbounded));
     case RowNote::None:
@@ -48,18 +54,47 @@ QString RowNotes::TextOf(const RowView& row) {
   return {};
 }
 
-void RowNotes::SetNote(RowView& row, const CPjtInterface::Tally& before) const {
-  const SettingsDialog& dialog = host_.Dialog();
-  if (const RowNote note = NoteOf(row, dialog, before);
-      std::exchange(row.memory.note, note) == note) {
-    return;
+}  // namespace
+
+RowNotes::~RowNotes() { delete marks_; }
+
+QString RowNotes::TextOf(const RowView& row) {
+  QStringList texts{row.memory.refusal};
+  if (const auto wanted = WantedPosition(row)) {
+    texts << CatalogString(kListCategory, ListText::Wanted, row.TextAt(*wanted).toStdString());
   }
+  texts << NoteText(row);
+  texts.removeAll(QString());
+  return texts.join(QLatin1Char('\n'));
+}
+
+void RowNotes::SetNote(RowView& row, const CPjtInterface::Tally& before) {
+  const RowNote note = NoteOf(row, host_.Dialog(), before);
+  if (std::exchange(row.memory.note, note) != note) Show(row);
+}
+
+void RowNotes::Show(const RowView& row) {
+  const SettingsDialog& dialog = host_.Dialog();
   const QString text = TextOf(row);
   for (const int id : ControlsOf(row.Row())) dialog.GetDlgItem(id)->setToolTip(text);
+  ShowMarks(row);
   // A label's accessible description is its caption.
   if (qobject_cast<QLabel*>(dialog.GetDlgItem(ControlOf(row.Row()))) != nullptr) return;
   for (const int id : ControlsOf(row.Row())) dialog.GetDlgItem(id)->setAccessibleDescription(text);
   GreyCaption(row);
+}
+
+void RowNotes::ShowMarks(const RowView& changed) {
+  if (marks_ == nullptr && changed.memory.refusal.isEmpty() && !Differs(changed)) return;
+  std::vector<RowMarks::Mark> marks;
+  for (const auto& row : rows_) {
+    const RowMarks::Mark mark{.control = ControlOf(row->Row()),
+                              .refused = !row->memory.refusal.isEmpty(),
+                              .differs = Differs(*row)};
+    if (row->memory.present && (mark.refused || mark.differs)) marks.push_back(mark);
+  }
+  if (marks_ == nullptr) marks_ = new RowMarks(host_.Dialog());
+  marks_->Show(std::move(marks));
 }
 
 void RowNotes::GreyCaption(const RowView& row) const {

@@ -36,6 +36,7 @@ class RowView {
   virtual ~RowView() = default;
 
   const PageRow& Row() const { return row_; }
+  RowHost& Host() const { return host_; }
 
   /// All controls by which the page finds the row.
   virtual std::vector<int> Controls() const;
@@ -73,7 +74,6 @@ class RowView {
   RowMemory memory;
 
  protected:
-  RowHost& Host() const { return host_; }
   const PageTable& Table() const { return table_; }
   SettingsDialog& Dialog() const { return host_.Dialog(); }
   CPjtInterface& Projector() const { return *Dialog().projector; }

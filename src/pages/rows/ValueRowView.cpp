@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QLineEdit>
 
+#include "pages/rows/RowOutcomes.h"
 #include "toolkit/CSliderCtrl.h"
 
 namespace AdvancedControl {
@@ -10,6 +11,8 @@ namespace AdvancedControl {
 namespace {
 
 std::int16_t Word(int value) { return static_cast<std::int16_t>(value); }
+
+QString SignOf(bool upwards) { return upwards ? QStringLiteral("+") : QStringLiteral("\u2212"); }
 
 }  // namespace
 
@@ -27,42 +30,35 @@ std::vector<RowView::Operated> ValueRowView::OperatedControls() const {
   return operated;
 }
 
-void ValueRowView::Bind() {
-  const CDialog& dialog = Dialog();
-  minus_ = &dialog.Item<QAbstractButton>(row_.ids.minus);
-  slider_ = row_.ids.slider != 0 ? &dialog.Item<CSliderCtrl>(row_.ids.slider) : nullptr;
-  plus_ = &dialog.Item<QAbstractButton>(row_.ids.plus);
-  field_ = &dialog.Item<QLineEdit>(row_.ids.field);
-  field_->setContextMenuPolicy(Qt::NoContextMenu);  // the row's own menu opens there too
-}
+void ValueRowView::Bind() { controls_ = NumberControls(Dialog(), row_.ids); }
 
 void ValueRowView::Prepare() {
   const Range range = SliderRange(row_, Model());
   const int ticks = row_.ticks != 0 ? row_.ticks : range.maximum / 8;
-  if (slider_ != nullptr) slider_->SetRange(range.minimum, range.maximum, ticks);
+  if (auto* slider = controls_.Slider()) slider->SetRange(range.minimum, range.maximum, ticks);
   if (!row_.initial) return;
   remembered_ = Word(*row_.initial);
-  ShowNumber(*row_.initial);
-  MoveSlider(*row_.initial);
+  controls_.ShowNumber(*row_.initial);
+  controls_.MoveSlider(*row_.initial);
 }
 
 void ValueRowView::Read(Source source) {
   const auto value = ReadSetting(source);
   if (Projector().IsAbandoned()) return;
-  if (row_.greysField) field_->setEnabled(value.has_value());
+  if (row_.greysField) controls_.Field().setEnabled(value.has_value());
   if (value) {
-    Enable();
+    controls_.Enable();
     const int shown = ShowDevice(*value);
     remembered_ = Word(row_.deviceMemory == DeviceMemory::OfStepsAndReads ? *value : shown);
   } else if (row_.failedReadDisables) {
-    Disable();
+    controls_.Disable();
   } else {
-    field_->clear();
+    controls_.ShowNumber({});
   }
 }
 
 void ValueRowView::ShowAgain() {
-  if (const auto value = ReadSetting(0)) ShowDevice(*value);
+  if (const auto value = ReadSetting(0)) Confirm(*this, ShowDevice(*value));
 }
 
 void ValueRowView::Act(int control) {
@@ -77,6 +73,7 @@ Stepped ValueRowView::Step(bool upwards) {
   const auto asked = Host().AskFor(row_.of);
   if (Projector().IsAbandoned()) return {};
   const auto source = SteppedSource(row_.of, asked);
+  if (!source) TellRefusal(*this, SignOf(upwards));
   if (!source) return {};
   if (row_.of == OfSource::Current) Host().ShowSource(source);
   const Stepped stepped =
@@ -84,8 +81,11 @@ Stepped ValueRowView::Step(bool upwards) {
   if (stepped.value) {
     const int shown = ShowDevice(*stepped.value);
     remembered_ = Word(row_.deviceMemory == DeviceMemory::Never ? shown : *stepped.value);
+    Confirm(*this, shown);
   } else if (stepped.refused && row_.error != 0) {
-    Refuse(remembered_, true);
+    Refuse(remembered_, SignOf(upwards), true);
+  } else if (stepped.refused || stepped.unchanged) {
+    TellRefusal(*this, SignOf(upwards));
   }
   return stepped;
 }
@@ -104,90 +104,80 @@ void ValueRowView::StepTo(int number) {
 }
 
 bool ValueRowView::Release() {
-  const int position = slider_->value();
+  const int position = controls_.Slider()->value();
   const auto source = Host().AskFor(row_.of);
   if (source && row_.of == OfSource::Current) Host().ShowSource(source);
-  if (!source && row_.of == OfSource::Playing) return true;
+  if (!source && row_.of == OfSource::Playing) {
+    TellRefusal(*this, TextAt(position));
+    return true;
+  }
   if (source && SendRow(Projector(), Row(), Model(), position + row_.bias, {.source = source}) ==
                     Sent::Accepted) {
     remembered_ = Word(position);
-    ShowNumber(position);
-    MoveSlider(position);
+    controls_.ShowNumber(position);
+    controls_.MoveSlider(position);
+    Confirm(*this, position);
     return true;
   }
-  Refuse(row_.refusedDrag == RefusedDrag::Stays ? position : remembered_,
+  Refuse(row_.refusedDrag == RefusedDrag::Stays ? position : remembered_, TextAt(position),
          row_.refusedDrag == RefusedDrag::ShowsError);
-  if (row_.refusedDrag == RefusedDrag::Empties && !Projector().IsAbandoned()) field_->clear();
+  if (row_.refusedDrag == RefusedDrag::Empties && !Projector().IsAbandoned())
+    controls_.ShowNumber({});
   return false;
 }
 
 // Moves the slider to `position`, unless the value is read back.
-void ValueRowView::Refuse(int position, bool showMessage) {
+void ValueRowView::Refuse(int position, const QString& tried, bool showMessage) {
   if (Projector().IsAbandoned()) return;
-  MoveSlider(position);
+  controls_.MoveSlider(position);
   if (Table().refusedIsReadBack) {
-    if (const auto value = ReadSetting(0)) remembered_ = Word(ShowDevice(*value));
+    if (const auto value = ReadSetting(0)) {
+      memory.known = ShowDevice(*value);
+      remembered_ = Word(*memory.known);
+    }
   }
+  TellRefusal(*this, tried);
   if (showMessage && row_.error != 0) Dialog().ShowError(row_.error);
 }
 
 // The value after a reset is shown but not remembered: the bound test of the next step uses the
 // earlier value.
 void ValueRowView::RunReset() {
-  if (!Perform(Projector(), row_.reset.call).accepted) return;
+  const auto& button = Dialog().Item<QAbstractButton>(row_.reset.button);
+  if (!Perform(Projector(), row_.reset.call).accepted) return TellRefusal(*this, button.text());
   const auto value = ::Read(Projector(), row_.reset.read);
-  if (value && *value - row_.bias >= row_.range.Of(Model().ModelCode).minimum) ShowDevice(*value);
+  if (value && *value - row_.bias >= row_.range.Of(Model().ModelCode).minimum) {
+    Confirm(*this, ShowDevice(*value));
+  }
+  Dialog().Say(CatalogString(kListCategory, ListText::ResetDone, NameOf(*this).toStdString()));
 }
 
 int ValueRowView::ShowDevice(int value) {
   const int shown = Word(value - row_.bias);
-  ShowNumber(shown);
-  MoveSlider(shown);
+  controls_.ShowNumber(shown);
+  controls_.MoveSlider(shown);
   return shown;
 }
 
-void ValueRowView::MoveSlider(int value) {
-  if (slider_ != nullptr) slider_->setValue(value);
-}
-
-void ValueRowView::ShowNumber(int value) { field_->setText(QString::number(value)); }
-
-void ValueRowView::Disable() {
-  EnableControls(false);
-  field_->clear();
-}
-
-void ValueRowView::EnableControls(bool enable) {
-  minus_->setEnabled(enable);
-  if (slider_ != nullptr) slider_->setEnabled(enable);
-  plus_->setEnabled(enable);
-}
-
-std::optional<int> ValueRowView::Position() const {
-  bool known = false;
-  const int number = field_->text().toInt(&known);
-  return known ? std::optional(number) : std::nullopt;
-}
-
 std::optional<Range> ValueRowView::Numbers() const {
-  if (slider_ == nullptr) return StepBounds(row_, Model());
-  return Range{slider_->minimum(), slider_->maximum()};
+  const CSliderCtrl* slider = controls_.Slider();
+  if (slider == nullptr) return StepBounds(row_, Model());
+  return Range{slider->minimum(), slider->maximum()};
 }
-
-bool ValueRowView::IsUsable() const { return minus_->isEnabledTo(&Dialog()); }
 
 bool ValueRowView::CanMoveTo(int position) const {
   if (!IsUsable()) return false;
-  if (slider_ == nullptr) return Position() && *Position() != position;
-  return position != slider_->value() && position >= slider_->minimum() &&
-         position <= slider_->maximum();
+  const CSliderCtrl* slider = controls_.Slider();
+  if (slider == nullptr) return Position() && *Position() != position;
+  return position != slider->value() && position >= slider->minimum() &&
+         position <= slider->maximum();
 }
 
 void ValueRowView::MoveTo(int position) {
-  if (slider_ == nullptr) {
+  if (controls_.Slider() == nullptr) {
     StepTo(position);
   } else if (CanMoveTo(position)) {
-    slider_->ScrollTo(position);
+    controls_.Slider()->ScrollTo(position);
   }
 }
 

@@ -1,12 +1,9 @@
 #pragma once
 
 #include "Namespace.h"
+#include "pages/rows/NumberControls.h"
 #include "pages/rows/RowView.h"
 #include "settings/RowUse.h"
-
-class CSliderCtrl;
-class QAbstractButton;
-class QLineEdit;
 
 namespace AdvancedControl {
 
@@ -24,39 +21,31 @@ class ValueRowView final : public RowView {
   void Prepare() override;
   void Read(Source source) override;
   void Act(int control) override;
-  std::optional<int> Position() const override;
+  std::optional<int> Position() const override { return controls_.Number(); }
   bool CanMoveTo(int position) const override;
   void MoveTo(int position) override;
   std::optional<Range> Numbers() const override;
-  bool IsUsable() const override;
+  bool IsUsable() const override { return controls_.AreEnabled(); }
 
   /// Reads and shows the value after a reset, without remembering it.
   void ShowAgain();
   /// Sends the position of the released slider. False if the projector refused it.
   bool Release();
 
-  // For pages with their own rules.
+  // For what else shows and changes the number.
+  NumberControls& Widgets() { return controls_; }
   std::int16_t Remembered() const { return remembered_; }
-  void MoveSlider(int value);
-  void ShowNumber(int value);
-  /// Enables or disables −, slider and +. The field of a disabled row is empty.
-  void Enable() { EnableControls(true); }
-  void Disable();
 
  private:
-  void EnableControls(bool enable);
   /// Shows a device value, and returns the shown value.
   int ShowDevice(int value);
   Stepped Step(bool upwards);
   void StepTo(int number);
-  void Refuse(int position, bool showMessage);
+  void Refuse(int position, const QString& tried, bool showMessage);
   void RunReset();
 
   const ValueRow& row_;
-  QAbstractButton* minus_ = nullptr;
-  CSliderCtrl* slider_ = nullptr;
-  QAbstractButton* plus_ = nullptr;
-  QLineEdit* field_ = nullptr;
+  NumberControls controls_;
   std::int16_t remembered_ = 0;
 };
 

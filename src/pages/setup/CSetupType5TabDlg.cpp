@@ -34,7 +34,7 @@ std::vector<Notification> CSetupType5TabDlg::OwnNotifications() const {
 bool CSetupType5TabDlg::OnInitDialog() {
   CTabPage::OnInitDialog();
   ShowRow(Id::CurrentInput, Row(Id::Volume).memory.present);
-  Row<ValueRowView>(Id::Volume).ShowNumber(kInitialVolume);
+  Row<ValueRowView>(Id::Volume).Widgets().ShowNumber(kInitialVolume);
   return true;
 }
 
@@ -57,9 +57,9 @@ void CSetupType5TabDlg::OnHScroll(CSliderCtrl& slider) {
 
 int CSetupType5TabDlg::DisableVolumeCtrl(bool disable) {
   if (disable) {
-    Row<ValueRowView>(Id::Volume).Disable();
+    Row<ValueRowView>(Id::Volume).Widgets().Disable();
   } else {
-    Row<ValueRowView>(Id::Volume).Enable();
+    Row<ValueRowView>(Id::Volume).Widgets().Enable();
   }
   return 0;
 }

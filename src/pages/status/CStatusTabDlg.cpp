@@ -1,5 +1,9 @@
 #include "pages/status/CStatusTabDlg.h"
 
+#include <chrono>
+
+#include <QApplication>
+
 #include "resources/AdvancedControlResources.h"
 #include "settings/ControlId.h"
 #include "settings/PageTables.h"
@@ -8,6 +12,8 @@
 #include "toolkit/StateLabel.h"
 
 namespace {
+
+constexpr std::chrono::seconds kPause{5};
 
 constexpr int kPower = 20008;
 constexpr int kError = 20010;
@@ -25,10 +31,16 @@ StateLabel::Mark PowerMark(int value) {
 
 }  // namespace
 
-CStatusTabDlg::CStatusTabDlg(CWnd* parent) : CTabPage(TemplateId::Status, kStatusRows, parent) {}
+CStatusTabDlg::CStatusTabDlg(CWnd* parent) : CTabPage(TemplateId::Status, kStatusRows, parent) {
+  keepsUpToDate_.setCheckable(true);
+  connect(&keepsUpToDate_, &QAction::toggled, this,
+          [this](bool on) { on ? next_.start(kPause) : next_.stop(); });
+  next_.callOnTimeout(this, &CStatusTabDlg::ReadIfQuiet);
+}
 
 bool CStatusTabDlg::OnInitDialog() {
   CTabPage::OnInitDialog();
+  keepsUpToDate_.setText(ListString(ListText::KeepUpToDate));
   for (const RowTemplate& row : Template()->rows) {
     for (const ControlTemplate& control : row.controls) {
       if (control.kind != ControlKind::Text) continue;
@@ -37,6 +49,16 @@ bool CStatusTabDlg::OnInitDialog() {
   }
   Item<CComboBox>(ControlId::Status::Reset).Select(0);
   return true;
+}
+
+// The pause begins when the page has been read, however long that takes.
+void CStatusTabDlg::ReadIfQuiet() {
+  const auto* dialog = qobject_cast<const CDialog*>(window());
+  const bool isBusy = dialog == nullptr || dialog->IsBusy() || projector->IsWaiting();
+  if (!isVisible() || isBusy || QApplication::activePopupWidget() != nullptr) return;
+  next_.stop();
+  ReadAgain();
+  if (keepsUpToDate_.isChecked()) next_.start(kPause);
 }
 
 void CStatusTabDlg::ShowState(int control, std::optional<int> value) {

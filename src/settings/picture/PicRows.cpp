@@ -45,7 +45,7 @@ constexpr PageRow kRows[] = {
     ListRow{"picture.progressive", 60, 20145, kProgressives, Get(CommandCode::Progressive), Named(Op::SetProgressive), {}, NotOn(9, 22)},
     // Both read the page again after success, which is any result but 0 for a memory, and 0 for a
     // reset.
-    ActionRow{"picture.my-memory", 119, Id::MyMemoryExecute, Named(Op::SetMyMemory), Rereads::WhenDone, Id::MyMemory, kMyMemories},
+    ActionRow{"picture.my-memory", 119, Id::MyMemoryExecute, Named(Op::SetMyMemory), Rereads::WhenDone, Id::MyMemory, kMyMemories, {}, 0, ListText::MemoryDoneBase},
     ResetRow{"picture.reset", Id::Reset, Id::ResetExecute, kResets, Rereads::WhenDone},
 };
 // clang-format on

@@ -1,0 +1,123 @@
+#include "app/acctl/Conditions.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <utility>
+
+#include "app/acctl/Aliases.h"
+
+namespace {
+
+using Comparison = Condition::Comparison;
+
+// The longer ones first.
+constexpr std::array<std::pair<std::string_view, Comparison>, 6> kSigns{
+    {{"<=", Comparison::LessOrEqual},
+     {">=", Comparison::GreaterOrEqual},
+     {"!=", Comparison::Unequal},
+     {"<", Comparison::Less},
+     {">", Comparison::Greater},
+     {"=", Comparison::Equal}}};
+
+bool IsKnown(std::string_view key) {
+  static const std::vector<std::string_view> keys = AllKeys();
+  return std::ranges::find(keys, key) != keys.end() ||
+         std::ranges::find(Aliases(), key, &Alias::name) != Aliases().end();
+}
+
+std::optional<double> NumberOf(std::string_view text) {
+  double number = 0;
+  const auto [stop, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (error != std::errc() || stop != text.data() + text.size()) return {};
+  return number;
+}
+
+bool Compares(Comparison comparison, double left, double right) {
+  switch (comparison) {
+    case Comparison::Less:
+      return left < right;
+    case Comparison::LessOrEqual:
+      return left <= right;
+    case Comparison::Greater:
+      return left > right;
+    case Comparison::GreaterOrEqual:
+      return left >= right;
+    default:
+      return false;
+  }
+}
+
+bool IsEqual(const Condition& condition, const ValueTexts& texts, const ModelSetting& setting,
+             int value, std::optional<PowerState> power) {
+  const std::string code = texts.Code(setting, value, power);
+  if (code == condition.value) return true;
+  const bool isNumber = setting.kind == ModelSetting::Kind::Number;
+  const auto typed =
+      texts.Parse(setting, isNumber && condition.value.starts_with('-') ? '=' + condition.value
+                                                                        : condition.value);
+  return typed && !typed->relative && texts.Code(setting, typed->amount) == code;
+}
+
+}  // namespace
+
+ConditionList ParseConditions(std::string_view text) {
+  ConditionList list;
+  const auto fail = [&list](std::string_view part, const char* why) {
+    list.error = "--where '" + std::string(part) + "': " + why;
+    return list;
+  };
+  while (true) {
+    while (text.starts_with(' ')) text.remove_prefix(1);
+    if (text.empty()) return list;
+    const auto end = text.find_first_of("<>=! ");
+    const std::string_view rest = end == std::string_view::npos ? "" : text.substr(end);
+    const auto* const sign = std::ranges::find_if(
+        kSigns, [&rest](const auto& known) { return rest.starts_with(known.first); });
+    if (sign == kSigns.end()) return fail(text, "one of = != < <= > >= is missing");
+    Condition condition{std::string(text.substr(0, end)), sign->second, {}};
+    std::string_view value = rest.substr(sign->first.size());
+    const bool isQuoted = value.starts_with('"');
+    if (isQuoted) value.remove_prefix(1);
+    const auto stop = value.find(isQuoted ? '"' : ' ');
+    condition.value = value.substr(0, stop);
+    if (condition.value.empty()) return fail(text, "a value is missing");
+    if (!IsKnown(condition.key)) return fail(condition.key, "no model has such a setting");
+    text = stop == std::string_view::npos ? "" : value.substr(stop + (isQuoted ? 1 : 0));
+    list.conditions.push_back(std::move(condition));
+  }
+}
+
+bool IsMet(const Condition& condition, const ValueTexts& texts, const ModelSetting& setting,
+           int value, std::optional<PowerState> power) {
+  if (condition.comparison == Comparison::Equal || condition.comparison == Comparison::Unequal) {
+    return IsEqual(condition, texts, setting, value, power) ==
+           (condition.comparison == Comparison::Equal);
+  }
+  const auto number = NumberOf(condition.value);
+  return number && Compares(condition.comparison, value - setting.bias, *number);
+}
+
+bool MeetsAll(const std::vector<Condition>& conditions, const ValueTexts& texts,
+              ProjectorAccess& projector, Report& report) {
+  std::vector<const ModelSetting*> settings;
+  for (const Condition& condition : conditions) {
+    const ModelSetting* const setting =
+        FindSetting(projector.Settings(), condition.key, kRead.isPossible);
+    if (setting == nullptr || !setting->readable) return false;
+    settings.push_back(setting);
+  }
+  const auto reads = projector.Settings().PrepareReads(projector.Connection(), settings);
+  for (std::size_t i = 0; i < reads.size(); ++i) {
+    const auto& [setting, source] = reads[i];
+    const auto value = projector.Settings().Read(projector.Connection(), *setting, source);
+    if (!value) {
+      if (!projector.Channel().HasAnswered()) report.Add(NoAnswerOf(projector));
+      return false;
+    }
+    if (!IsMet(conditions[i], texts, *setting, *value, projector.Connection().Power())) {
+      return false;
+    }
+  }
+  return true;
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "app/acctl/Uses.h"
+#include "app/acctl/ValueCodes.h"
+
+/// One condition on a setting of a projector, such as "lamp-hours>1500".
+struct Condition {
+  enum class Comparison { Equal, Unequal, Less, LessOrEqual, Greater, GreaterOrEqual };
+
+  std::string key;  ///< Or the short name.
+  Comparison comparison = Comparison::Equal;
+  std::string value;
+};
+
+struct ConditionList {
+  std::vector<Condition> conditions{};
+  std::string error{};  ///< One line; empty on success.
+};
+
+/// Parses conditions separated by spaces; a value with spaces is put in double quotes. Every key
+/// must be one that some model has.
+ConditionList ParseConditions(std::string_view text);
+
+/// Whether a setting with this device value meets the condition.
+bool IsMet(const Condition& condition, const ValueTexts& texts, const ModelSetting& setting,
+           int value, std::optional<PowerState> power);
+
+/// Reads what the conditions are about. Whether all are met; not if the model lacks a setting. A
+/// projector that does not answer is a problem of the report.
+bool MeetsAll(const std::vector<Condition>& conditions, const ValueTexts& texts,
+              ProjectorAccess& projector, Report& report);

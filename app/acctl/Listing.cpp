@@ -1,0 +1,178 @@
+#include "app/acctl/Listing.h"
+
+#include <algorithm>
+#include <map>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include "app/acctl/Aliases.h"
+#include "app/acctl/Describing.h"
+#include "app/acctl/Output.h"
+#include "app/acctl/Printer.h"
+#include "app/acctl/ProjectorRuns.h"
+#include "app/acctl/Selection.h"
+
+namespace {
+
+/// Prints entries as text or as JSON under the name `list`.
+int PrintEntries(const Arguments& arguments, const std::string& text, const char* list,
+                 const QJsonArray& entries) {
+  std::string output = text;
+  if (arguments.format == Format::Json) {
+    QJsonObject json = Envelope(arguments.command);
+    json[list] = entries;
+    output = QJsonDocument(json).toJson().toStdString();
+  } else if (arguments.format == Format::JsonLines) {
+    output.clear();
+    for (const auto& entry : entries) {
+      output += QJsonDocument(entry.toObject()).toJson(QJsonDocument::Compact).toStdString() + '\n';
+    }
+  }
+  return Print(output) ? ExitCode::Done : ExitCode::Refused;
+}
+
+std::string Joined(const std::vector<std::string>& texts) {
+  std::string joined;
+  for (const std::string& text : texts) joined += (joined.empty() ? "" : ", ") + text;
+  return joined;
+}
+
+QJsonArray Array(const std::vector<std::string>& texts) {
+  QJsonArray array;
+  for (const std::string& text : texts) array.append(Wide(text));
+  return array;
+}
+
+/// The different models of the profiles, each with one of its profiles.
+std::vector<const FleetProfile*> ModelsOf(const std::vector<FleetProfile>& profiles) {
+  std::vector<const FleetProfile*> models;
+  std::map<std::string_view, bool> known;
+  for (const FleetProfile& profile : profiles) {
+    if (known.try_emplace(profile.model->info.ModelName, true).second) models.push_back(&profile);
+  }
+  return models;
+}
+
+/// A setting of one model, and the models that have the same one.
+struct Explained {
+  const ModelSetting* setting;
+  QJsonObject json;
+  std::vector<std::string> models;
+};
+
+std::string Text(const ValueTexts& texts, const Explained& explained) {
+  const ModelSetting& setting = *explained.setting;
+  Table table;
+  const std::string alias(AliasOf(setting.key));
+  table.Add({std::string(setting.key), alias.empty() ? "" : "short name: " + alias});
+  const bool isListed =
+      setting.kind == ModelSetting::Kind::Choice || setting.kind == ModelSetting::Kind::Number;
+  table.Add({"  tab", texts.Shown().Tab(setting)});
+  table.Add({"  caption", texts.Shown().Caption(setting)});
+  table.Add({"  kind", NameOf(setting.kind)});
+  if (isListed || setting.changeable) table.Add({"  values", texts.ValuesWithCodes(setting)});
+  std::string uses;
+  const auto add = [&uses](bool isSo, const char* use) {
+    if (isSo) uses += (uses.empty() ? "" : ", ") + std::string(use);
+  };
+  add(setting.readable, "get");
+  add(setting.changeable, "set");
+  add(setting.reset.has_value(), "reset");
+  add(setting.Restorable(), "save and apply");
+  table.Add({"  commands", uses});
+  if (setting.IsPerSource()) table.Add({"  kept", "for each input source"});
+  table.Add({"  models", Joined(explained.models)});
+  return table.Text();
+}
+
+}  // namespace
+
+int List(const Work& work, const Projectors& projectors) {
+  Table table;
+  QJsonArray json;
+  for (const FleetProfile* profile : projectors) {
+    const CModelInfo2& model = profile->model->info;
+    const bool isSimulated = IsSimulated(*profile, work.arguments);
+    const std::string connection = ConnectionText(profile->connection).toStdString();
+    if (work.arguments.brief) {
+      table.Add({profile->name});
+    } else {
+      table.Add({ShownName(profile->name, isSimulated), model.ModelName,
+                 std::to_string(model.DialogType), std::to_string(model.ModelCode), connection,
+                 Joined(profile->tags)});
+    }
+    json.append(QJsonObject{{"name", Wide(profile->name)},
+                            {"id", Wide(FleetIdOf(*profile))},
+                            {"model", Wide(model.ModelName)},
+                            {"dialogType", model.DialogType},
+                            {"modelCode", model.ModelCode},
+                            {"connection", Wide(connection)},
+                            {"tags", Array(profile->tags)},
+                            {"simulated", isSimulated}});
+  }
+  return PrintEntries(work.arguments, table.Text(), "projectors", json);
+}
+
+int ListModels(const Work& work, ModelCache& models) {
+  Table table;
+  QJsonArray json;
+  for (const FleetProfile* profile : ModelsOf(work.profiles)) {
+    const CModelInfo2& model = profile->model->info;
+    if (!IsLike(model.ModelName, work.arguments.words)) continue;
+    const auto count = std::ranges::count_if(work.profiles, [&model](const FleetProfile& other) {
+      return other.model->info.ModelName == model.ModelName;
+    });
+    const auto settings = static_cast<int>(models.Of(*profile).All().size());
+    if (work.arguments.brief) {
+      table.Add({model.ModelName});
+    } else {
+      table.Add({model.ModelName, std::to_string(model.DialogType), std::to_string(model.ModelCode),
+                 std::to_string(count) + " projectors", std::to_string(settings) + " settings"});
+    }
+    json.append(QJsonObject{{"model", Wide(model.ModelName)},
+                            {"dialogType", model.DialogType},
+                            {"modelCode", model.ModelCode},
+                            {"projectors", static_cast<int>(count)},
+                            {"settings", settings}});
+  }
+  return PrintEntries(work.arguments, table.Text(), "models", json);
+}
+
+int Explain(const Work& work, ModelCache& models) {
+  std::vector<Explained> found;
+  for (const FleetProfile* profile : ModelsOf(work.profiles)) {
+    const ModelSettings& model = models.Of(*profile);
+    for (const ModelSetting& setting : model.All()) {
+      const bool isMeant = std::ranges::any_of(work.arguments.words, [&](const std::string& word) {
+        return IsLike(setting.key, {word}) || AliasOf(setting.key) == word;
+      });
+      if (!isMeant) continue;
+      // Models whose values differ are explained one by one.
+      const QJsonObject json = DescribeSetting(work.texts, setting);
+      auto same = std::ranges::find(found, json, &Explained::json);
+      if (same == found.end()) {
+        found.push_back({&setting, json, {}});
+        same = found.end() - 1;
+      }
+      same->models.emplace_back(profile->model->info.ModelName);
+    }
+  }
+  if (found.empty()) {
+    const Problem problem{.code = ProblemCode::NoSuchSetting,
+                          .text = "no model has such a setting",
+                          .key = work.arguments.words.front()};
+    Complain(problem.Line());
+    Print(ErrorOutput(work.arguments, problem));
+    return ExitCode::WrongUse;
+  }
+  std::string text;
+  QJsonArray json;
+  for (const Explained& explained : found) {
+    text += (text.empty() ? "" : "\n") + Text(work.texts, explained);
+    QJsonObject entry = explained.json;
+    entry["models"] = Array(explained.models);
+    json.append(entry);
+  }
+  return PrintEntries(work.arguments, text, "settings", json);
+}

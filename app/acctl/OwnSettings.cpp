@@ -1,0 +1,68 @@
+#include "app/acctl/OwnSettings.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+#include <QStandardPaths>
+
+#include "app/acctl/OptionTable.h"
+#include "app/acctl/Report.h"
+#include "fleet/WholeFile.h"
+
+namespace {
+
+std::string VariableOf(const OptionForm& option) {
+  std::string name = "ACCTL_";
+  for (const char letter : option.name) {
+    name += letter == '-' ? '_' : static_cast<char>(letter >= 'a' ? letter - 'a' + 'A' : letter);
+  }
+  return name;
+}
+
+std::string Take(Arguments& arguments, const OptionForm& option, const std::string& value) {
+  if (option.take(arguments, value)) return {};
+  return "'" + value + "' is not possible";
+}
+
+/// Lines like "jobs = 32"; '#' begins a comment.
+std::string TakeFile(Arguments& arguments, const QString& path, const QByteArray& text) {
+  int number = 0;
+  for (const QByteArray& whole : text.split('\n')) {
+    ++number;
+    const QByteArray line = whole.trimmed();
+    if (line.isEmpty() || line.startsWith('#')) continue;
+    const std::string place = path.toStdString() + ':' + std::to_string(number) + ": ";
+    const auto equals = line.indexOf('=');
+    if (equals < 0) return place + "'=' is missing";
+    const std::string name = line.left(equals).trimmed().toStdString();
+    const OptionForm* const option = FindOption(name);
+    if (option == nullptr || !option->isDefault) return place + "there is no setting " + name;
+    const auto error = Take(arguments, *option, line.mid(equals + 1).trimmed().toStdString());
+    if (!error.empty()) return place + name + ": " + error;
+  }
+  return {};
+}
+
+}  // namespace
+
+void TakeOwnSettings(Arguments& arguments) {
+  constexpr qsizetype kMost = 65'536;
+  const char* const named = std::getenv("ACCTL_CONFIG");
+  const QString path =
+      named != nullptr ? QString::fromLocal8Bit(named)
+                       : QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                             QStringLiteral("/advanced-control/acctl.conf");
+  if (const FileBytes file = ReadToEnd(path, kMost); file.error.isEmpty()) {
+    arguments.error = TakeFile(arguments, path, file.bytes);
+  } else if (named != nullptr && *named != '\0') {
+    arguments.error = "cannot read " + path.toStdString() + ": " + file.error.toStdString();
+  }
+  for (const OptionForm& option : OptionForms()) {
+    if (!option.isDefault || !arguments.error.empty()) continue;
+    const std::string variable = VariableOf(option);
+    const char* const value = std::getenv(variable.c_str());
+    if (value == nullptr || *value == '\0') continue;
+    const std::string error = Take(arguments, option, value);
+    if (!error.empty()) arguments.error = variable + ": " + error;
+  }
+}

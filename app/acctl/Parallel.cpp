@@ -1,0 +1,109 @@
+#include "app/acctl/Parallel.h"
+
+#include <algorithm>
+#include <condition_variable>
+#include <cstdio>
+#include <exception>
+#include <mutex>
+#include <new>
+#include <optional>
+#include <string>
+#include <sys/resource.h>
+#include <thread>
+
+#include "app/profiles/OutOfMemory.h"
+
+void Meter::Draw(int done) {
+  constexpr int kWidth = 30;
+  if (!isShown_ || done == drawn_) return;
+  drawn_ = done;
+  std::string bar(static_cast<std::size_t>(kWidth * done / total_), '#');
+  bar.resize(kWidth, '.');
+  std::fprintf(stderr, "\r%s %d of %d", bar.c_str(), done, total_);
+}
+
+void Meter::Clear() {
+  if (drawn_ >= 0) std::fputs("\r\033[K", stderr);
+  drawn_ = -1;
+}
+
+namespace {
+
+Report Guarded(const std::function<Report(int)>& run, int number) {
+  try {
+    return run(number);
+  } catch (const std::bad_alloc&) {
+    EndOutOfMemory();
+  } catch (const std::exception& error) {
+    Report report;
+    report.Add({ProblemCode::Internal, error.what()});
+    return report;
+  }
+}
+
+}  // namespace
+
+int JobsOf(const Arguments& arguments) {
+  constexpr int kReading = 512;
+  constexpr int kChanging = 64;
+  if (arguments.connecting.jobs > 0) return arguments.connecting.jobs;
+  switch (arguments.command) {
+    case Command::Set:
+    case Command::Reset:
+    case Command::Apply:
+    case Command::Undo:
+      return kChanging;
+    default:
+      return kReading;
+  }
+}
+
+void AllowFilesFor(int jobs) {
+  constexpr rlim_t kOfOneJob = 4;
+  constexpr rlim_t kOthers = 64;
+  const rlim_t needed = kOfOneJob * static_cast<rlim_t>(jobs) + kOthers;
+  rlimit limit{};
+  if (getrlimit(RLIMIT_NOFILE, &limit) != 0 || limit.rlim_cur >= needed) return;
+  limit.rlim_cur = std::min(needed, limit.rlim_max);
+  setrlimit(RLIMIT_NOFILE, &limit);
+}
+
+void RunParallel(int count, int jobs, Meter& meter, const std::function<Report(int)>& run,
+                 const std::function<void(int, Report)>& handOver) {
+  std::mutex mutex;
+  std::condition_variable ready;
+  std::vector<std::optional<Report>> reports(static_cast<std::size_t>(count));
+  int taken = 0;
+  int done = 0;
+  const auto work = [&] {
+    std::unique_lock lock(mutex);
+    while (taken < count) {
+      const int number = taken++;
+      lock.unlock();
+      Report report = Guarded(run, number);
+      lock.lock();
+      reports[static_cast<std::size_t>(number)] = std::move(report);
+      ++done;
+      ready.notify_one();
+    }
+  };
+  const int threadCount = std::min(jobs, count);
+  std::vector<std::jthread> threads;
+  threads.reserve(static_cast<std::size_t>(threadCount));
+  for (int i = 0; i < threadCount; ++i) threads.emplace_back(work);
+
+  std::unique_lock lock(mutex);
+  for (int next = 0; next < count; ++next) {
+    std::optional<Report>& report = reports[static_cast<std::size_t>(next)];
+    while (!report) {
+      meter.Draw(done);
+      ready.wait(lock);
+    }
+    Report finished = std::move(*report);
+    *report = {};  // so that a large list is not kept twice
+    lock.unlock();
+    meter.Clear();
+    handOver(next, std::move(finished));
+    lock.lock();
+  }
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "app/acctl/Arguments.h"
+#include "app/acctl/Report.h"
+
+/// Shows a person at a terminal how many projectors are done, as a bar on standard error.
+class Meter {
+ public:
+  /// Without `isShown`, nothing is drawn. `total` counts projectors.
+  Meter(bool isShown, int total) : isShown_(isShown), total_(total) {}
+
+  void Draw(int done);
+  void Clear();
+
+ private:
+  bool isShown_;
+  int total_;
+  int drawn_ = -1;
+};
+
+/// How many projectors a command works on at once. Reading takes little more than a connection
+/// each, so that hundreds of slow links are waited for together.
+int JobsOf(const Arguments& arguments);
+
+/// Lets the process open as many files as so many jobs need, if the system allows it.
+void AllowFilesFor(int jobs);
+
+/// Calls `run` for the numbers 0 to `count` − 1 on at most `jobs` threads. Passes each report to
+/// `handOver`, on the calling thread and in the order of the numbers, as soon as it can.
+void RunParallel(int count, int jobs, Meter& meter, const std::function<Report(int)>& run,
+                 const std::function<void(int, Report)>& handOver);

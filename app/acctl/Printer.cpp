@@ -1,0 +1,152 @@
+#include "app/acctl/Printer.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QJsonDocument>
+
+#include "app/acctl/Output.h"
+
+namespace {
+
+/// The list in an entry that has one object for each value or change; null if there is none.
+const char* RecordsOf(Command command) {
+  switch (command) {
+    case Command::Settings:
+    case Command::Get:
+    case Command::Status:
+    case Command::Reset:
+      return "settings";
+    case Command::Set:
+      return "changes";
+    default:
+      return nullptr;
+  }
+}
+
+std::string Line(const QJsonObject& json) {
+  return QJsonDocument(json).toJson(QJsonDocument::Compact).toStdString() + '\n';
+}
+
+/// A cell of a table separated by tabs, which must have neither tabs nor line breaks.
+std::string Cell(const QJsonValue& value) {
+  std::string text = value.toVariant().toString().toStdString();
+  std::ranges::replace_if(
+      text, [](char c) { return c == '\t' || c == '\n'; }, ' ');
+  return text;
+}
+
+QJsonObject EntryOf(const std::string& name, bool isSimulated, const Report& report) {
+  QJsonObject entry = report.json;
+  entry["name"] = Wide(name);
+  entry["simulated"] = isSimulated;
+  QJsonArray errors;
+  QJsonArray notes;
+  for (const Problem& problem : report.problems) {
+    (problem.exitCode == ExitCode::Done ? notes : errors).append(Describe(problem));
+  }
+  entry["errors"] = errors;
+  if (!notes.isEmpty()) entry["notes"] = notes;
+  return entry;
+}
+
+}  // namespace
+
+QJsonObject Envelope(Command command) {
+  return {{"format", "acctl"}, {"version", 1}, {"command", Wide(FormOf(command).name)}};
+}
+
+QJsonObject Describe(const Problem& problem) {
+  QJsonObject json{{"code", problem.code}, {"text", Wide(problem.text)}};
+  if (!problem.key.empty()) json["key"] = Wide(problem.key);
+  return json;
+}
+
+std::string ErrorOutput(const Arguments& arguments, const Problem& problem) {
+  QJsonObject json = Envelope(arguments.command);
+  json["errors"] = QJsonArray{Describe(problem)};
+  if (arguments.format == Format::JsonLines) return Line({{"error", Describe(problem)}});
+  if (arguments.format != Format::Json) return {};
+  json["projectors"] = QJsonArray();
+  return QJsonDocument(json).toJson().toStdString();
+}
+
+std::string ShownName(const std::string& name, bool isSimulated) {
+  return isSimulated ? name + " (simulated)" : name;
+}
+
+void Printer::Write(std::string_view text) {
+  if (isPrinted_ && !text.empty()) isPrinted_ = Print(text);
+}
+
+void Printer::AddText(const std::string& name, bool isSimulated, const std::string& text) {
+  std::string prefix = ShownName(name, isSimulated);
+  prefix.append(static_cast<std::size_t>(std::max(0, nameWidth_ - DisplayWidth(prefix)) + 2), ' ');
+  std::string lines;
+  for (std::size_t begin = 0; begin < text.size();) {
+    const std::size_t end = std::min(text.find('\n', begin), text.size() - 1) + 1;
+    lines += prefix + text.substr(begin, end - begin);
+    begin = end;
+  }
+  Write(lines);
+}
+
+void Printer::AddLines(const QJsonObject& entry) {
+  const char* const records = RecordsOf(arguments_.command);
+  if (records == nullptr) {
+    Write(Line(entry));
+    return;
+  }
+  const auto write = [&](QJsonObject line) {
+    line["name"] = entry["name"];
+    line["simulated"] = entry["simulated"];
+    Write(Line(line));
+  };
+  for (const auto& record : entry[records].toArray()) write(record.toObject());
+  for (const auto& error : entry["errors"].toArray()) write({{"error", error}});
+  for (const auto& note : entry["notes"].toArray()) write({{"note", note}});
+}
+
+void Printer::AddValues(const QJsonObject& entry) {
+  const bool isTable = arguments_.format == Format::Tsv;
+  if (isTable && !std::exchange(isBegun_, true)) {
+    Write("projector\tkey\tvalue\tcode\ttext\tsimulated\n");
+  }
+  for (const auto& value : entry["settings"].toArray()) {
+    const QJsonObject setting = value.toObject();
+    std::string line;
+    if (isTable) {
+      line = Cell(entry["name"]) + '\t' + Cell(setting["key"]) + '\t' + Cell(setting["value"]) +
+             '\t' + Cell(setting["code"]) + '\t' + Cell(setting["text"]) + '\t' +
+             Cell(entry["simulated"]);
+    } else {
+      line = Cell(setting["text"]);
+    }
+    Write(line + '\n');
+  }
+}
+
+void Printer::Add(const std::string& name, bool isSimulated, const Report& report) {
+  for (const Problem& problem : report.problems) Complain(name + ": " + problem.Line());
+  const bool isFile = arguments_.command == Command::Save && arguments_.file == "-";
+  if (isFile) {
+    Write(report.text);
+  } else if (arguments_.format == Format::Text) {
+    AddText(name, isSimulated, report.text);
+  } else if (arguments_.format == Format::Json) {
+    projectors_.append(EntryOf(name, isSimulated, report));
+  } else if (arguments_.format == Format::JsonLines) {
+    AddLines(EntryOf(name, isSimulated, report));
+  } else {
+    AddValues(EntryOf(name, isSimulated, report));
+  }
+}
+
+bool Printer::Finish() {
+  const bool isFile = arguments_.command == Command::Save && arguments_.file == "-";
+  if (arguments_.format != Format::Json || isFile) return isPrinted_;
+  QJsonObject json = Envelope(arguments_.command);
+  json["projectors"] = projectors_;
+  Write(QJsonDocument(json).toJson().toStdString());
+  return isPrinted_;
+}

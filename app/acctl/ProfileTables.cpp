@@ -1,0 +1,173 @@
+#include "app/acctl/ProfileTables.h"
+
+#include <QEventLoop>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QTimer>
+
+#include "app/acctl/Output.h"
+#include "app/acctl/Printer.h"
+#include "app/acctl/Signals.h"
+#include "fleet/ProfileCsv.h"
+#include "fleet/ProfileEdits.h"
+#include "fleet/ProfileFile.h"
+#include "fleet/SearchDriver.h"
+#include "fleet/SearchProfiles.h"
+#include "fleet/SearchRange.h"
+#include "fleet/WholeFile.h"
+
+namespace {
+
+int Fail(const Arguments& arguments, const Problem& problem) {
+  Complain(problem.Line());
+  Print(ErrorOutput(arguments, problem));
+  return problem.exitCode;
+}
+
+/// Prints the result of a command in the format of the arguments.
+int Finish(const Arguments& arguments, const std::string& text, const QJsonObject& result,
+           int code) {
+  std::string output = text;
+  if (arguments.format != Format::Text) {
+    QJsonObject json = Envelope(arguments.command);
+    for (const QString& member : result.keys()) json[member] = result[member];
+    const bool isLine = arguments.format == Format::JsonLines;
+    output = QJsonDocument(json)
+                 .toJson(isLine ? QJsonDocument::Compact : QJsonDocument::Indented)
+                 .toStdString();
+    if (isLine) output += '\n';
+  }
+  return Print(output) ? code : ExitCode::Refused;
+}
+
+/// The text of a profile file, or that of an empty one if there is no file.
+ProfileFileText ReadOrBegin(const std::string& path) {
+  if (!QFileInfo::exists(Wide(path))) return {ProfileEdits::kNoProfiles, {}};
+  ProfileFileText file = ReadProfileText(Wide(path));
+  if (!file.error.isEmpty()) return file;
+  file.error = ParseProfileList(file.text, Wide(path)).error;
+  return file;
+}
+
+QJsonObject Describe(const FoundProjector& found) {
+  QJsonObject json{{"address", Wide(found.address)}, {"port", found.port}};
+  const auto add = [&json](const char* member, const std::string& text) {
+    if (!text.empty()) json[member] = Wide(text);
+  };
+  add("name", found.name);
+  add("maker", found.maker);
+  add("model", found.model);
+  add("serial", found.serial);
+  add("mac", found.mac);
+  if (found.needsPassword) json["needsPassword"] = true;
+  return json;
+}
+
+QString AddFound(const Arguments& arguments, const std::vector<FoundProjector>& found,
+                 const std::string& password, QJsonObject& result, std::string& text) {
+  const ProfileFileText file = ReadOrBegin(arguments.file);
+  if (!file.error.isEmpty()) return file.error;
+  const TakenProjectors taken = TakeFound(file.text, found, password);
+  result["added"] = QJsonArray::fromStringList(taken.added);
+  result["moved"] = QJsonArray::fromStringList(taken.moved);
+  text += std::to_string(taken.added.size()) + " added, " + std::to_string(taken.moved.size()) +
+          " moved, " + std::to_string(taken.known) + " known\n";
+  return taken.text == file.text ? QString() : WriteProfileText(Wide(arguments.file), taken.text);
+}
+
+}  // namespace
+
+int Find(const Arguments& arguments, const std::string& password) {
+  SearchOptions options{.password = password};
+  options.limits.connect = arguments.connecting.timeOut;
+  if (arguments.words.empty()) {
+    options.broadcasts = NetworkBroadcasts();
+  } else {
+    QStringList words;
+    for (const std::string& word : arguments.words) words += Wide(word);
+    SearchRange range = ParseSearchRange(words.join(' '));
+    if (!range.error.isEmpty()) {
+      return Fail(arguments, {.code = ProblemCode::WrongUse,
+                              .text = range.error.toStdString(),
+                              .exitCode = ExitCode::WrongUse});
+    }
+    options.addresses = std::move(range.addresses);
+  }
+  if (arguments.connecting.port != 0) options.port = arguments.connecting.port;
+  std::vector<FoundProjector> found;
+  QEventLoop loop;
+  SearchDriver search(
+      options, [&found](const FoundProjector& projector) { found.push_back(projector); },
+      [&loop] { loop.quit(); });
+  QTimer interruption;
+  QObject::connect(&interruption, &QTimer::timeout, [&loop] {
+    if (ReceivedSignal() != 0) loop.quit();
+  });
+  interruption.start(100);
+  QTimer::singleShot(0, &loop, [&search] { search.Start(); });
+  loop.exec();
+  int code = ExitCode::Done;
+  if (!search.Problem().isEmpty()) {
+    Complain(search.Problem().toStdString());
+    code = ExitCode::Refused;
+  }
+  Table table;
+  QJsonArray json;
+  for (const FoundProjector& projector : found) {
+    table.Add({projector.address, projector.name, projector.maker, projector.model,
+               projector.needsPassword ? "needs a password" : projector.serial});
+    json.append(Describe(projector));
+  }
+  QJsonObject result{{"found", json}};
+  std::string text = table.Text();
+  if (!arguments.file.empty()) {
+    const QString error = AddFound(arguments, found, password, result, text);
+    if (!error.isEmpty()) return Fail(arguments, {ProblemCode::File, error.toStdString()});
+  }
+  return Finish(arguments, text, result, code);
+}
+
+int Import(const Arguments& arguments) {
+  constexpr qsizetype kMost = qsizetype{64} << 20;
+  if (arguments.profiles.empty()) {
+    return Fail(arguments, {.code = ProblemCode::WrongUse,
+                            .text = "name the profile file with --profiles",
+                            .exitCode = ExitCode::WrongUse});
+  }
+  const ProfileFileText file = ReadOrBegin(arguments.profiles);
+  const FileBytes csv = ReadToEnd(Wide(arguments.file), kMost);
+  const QString unread =
+      csv.error.isEmpty()
+          ? QString()
+          : QStringLiteral("cannot read %1: %2").arg(Wide(arguments.file), csv.error);
+  for (const QString& error : {file.error, unread}) {
+    if (!error.isEmpty()) return Fail(arguments, {ProblemCode::File, error.toStdString()});
+  }
+  const CsvImport import = ImportCsv(file.text, csv.bytes);
+  QString error = import.error;
+  if (error.isEmpty() && import.text != file.text && !arguments.dryRun) {
+    error = WriteProfileText(Wide(arguments.profiles), import.text);
+  }
+  if (!error.isEmpty()) return Fail(arguments, {ProblemCode::File, error.toStdString()});
+  QJsonArray faults;
+  for (const CsvFault& fault : import.faults) {
+    Complain(arguments.file + ':' + std::to_string(fault.line) + ": " + fault.reason.toStdString());
+    faults.append(QJsonObject{{"line", fault.line}, {"text", fault.reason}});
+  }
+  const std::string text = std::to_string(import.added) + " added, " +
+                           std::to_string(import.changed) + " known, " +
+                           std::to_string(import.faults.size()) + " wrong\n";
+  const QJsonObject result{{"added", static_cast<int>(import.added)},
+                           {"changed", static_cast<int>(import.changed)},
+                           {"unused", QJsonArray::fromStringList(import.unused)},
+                           {"faults", faults}};
+  return Finish(arguments, text, result,
+                import.faults.empty() ? ExitCode::Done : ExitCode::Refused);
+}
+
+int Export(const Projectors& projectors) {
+  std::vector<FleetProfile> profiles;
+  for (const FleetProfile* profile : projectors) profiles.push_back(*profile);
+  return Print(ExportCsv(profiles).toStdString()) ? ExitCode::Done : ExitCode::Refused;
+}

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "app/acctl/Preflight.h"
+
+// The commands that fill and print profile files. Each returns the exit code.
+
+/// Searches the network, and adds what was found to a profile file if the arguments name one.
+/// `password` is tried where one is required.
+int Find(const Arguments& arguments, const std::string& password);
+int Import(const Arguments& arguments);
+int Export(const Projectors& projectors);

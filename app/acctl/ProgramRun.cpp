@@ -1,0 +1,265 @@
+#include "app/acctl/ProgramRun.h"
+
+#include <algorithm>
+
+#include <QDateTime>
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include "app/acctl/Completion.h"
+#include "app/acctl/Listing.h"
+#include "app/acctl/Output.h"
+#include "app/acctl/Password.h"
+#include "app/acctl/ProfileTables.h"
+#include "app/acctl/ProjectorRuns.h"
+#include "app/acctl/RunFiles.h"
+#include "app/acctl/Selection.h"
+#include "app/acctl/Signals.h"
+#include "app/acctl/Watching.h"
+#include "device/Connect.h"
+#include "fleet/WholeFile.h"
+#include "i18n/Catalog.h"
+#include "i18n/SystemLanguage.h"
+
+namespace {
+
+int Fail(const Arguments& arguments, const Problem& problem) {
+  Complain(problem.Line());
+  Print(ErrorOutput(arguments, problem));
+  return problem.exitCode;
+}
+
+/// The command line for the list of runs, without passwords.
+std::string CommandLine(const std::vector<std::string>& words) {
+  std::string line;
+  bool isPassword = false;
+  for (const std::string& word : words) {
+    const bool hidesNext = word == "--password";
+    const bool isHidden = isPassword || word.starts_with("--password=");
+    line += (line.empty() ? "" : " ") + (isHidden ? std::string("***") : word);
+    isPassword = hidesNext;
+  }
+  return line;
+}
+
+/// Adds the words of --from: lines like KEY=VALUE; '#' begins a comment.
+std::string TakeWordsFrom(Arguments& arguments) {
+  constexpr qsizetype kMost = qsizetype{1} << 20;
+  const FileBytes file = ReadToEnd(Wide(arguments.from), kMost);
+  if (!file.error.isEmpty()) {
+    return "cannot read " + arguments.from + ": " + file.error.toStdString();
+  }
+  std::vector<std::string> lines;
+  for (const QByteArray& whole : file.bytes.split('\n')) {
+    const QByteArray line = whole.trimmed();
+    if (!line.isEmpty() && !line.startsWith('#')) lines.push_back(line.toStdString());
+  }
+  for (std::size_t i = 0; i < lines.size(); ++i) {
+    if (!AddAssignment(lines[i], arguments.words)) {
+      return arguments.from + ": '" + lines[i] + "' is not KEY=VALUE";
+    }
+  }
+  return arguments.words.empty() ? arguments.from + ": has no KEY=VALUE" : std::string();
+}
+
+/// One run of the program for a command that works with projectors.
+class ProgramRun {
+ public:
+  ProgramRun(const Arguments& arguments, const std::vector<std::string>& words,
+             const std::vector<FleetProfile>& profiles)
+      : arguments_(arguments),
+        profiles_(profiles),
+        folders_(CatalogFolders()),
+        shown_(folders_, arguments.language.value_or(SystemLanguageId())),
+        recorded_{.time = QDateTime::currentDateTimeUtc().toString(Qt::ISODate).toStdString(),
+                  .command = CommandLine(words),
+                  .address = arguments.connecting.address,
+                  .isUndo = arguments.command == Command::Undo} {
+    const bool isEnglish = arguments.language.value_or(SystemLanguageId()) == kEnglishUnitedStates;
+    if (!isEnglish) english_.emplace(folders_, kEnglishUnitedStates);
+  }
+
+  int Run();
+
+ private:
+  std::string Prepare();
+  std::string PrepareUndo();
+  int RunOnProjectors(const ValueTexts& texts);
+  int ListRecordedRuns() const;
+  int FinishUndo(int code, const std::vector<FleetProfile>& profiles);
+
+  Arguments arguments_;
+  const std::vector<FleetProfile>& profiles_;
+  const std::vector<std::string> folders_;
+  const SettingTexts shown_;
+  std::optional<SettingTexts> english_;  // only if that is another language
+  RecordedRun recorded_;
+  RecordedRun undone_;
+  Projectors projectors_;
+  SettingsFiles files_;
+  std::map<std::string, std::string> paths_;
+  std::vector<Condition> conditions_;
+  std::vector<std::string> left_;  // what takes no part, and why
+  std::string password_;
+  ModelCache models_;
+};
+
+std::string ProgramRun::PrepareUndo() {
+  std::string error = ChooseRun(arguments_, undone_);
+  if (!error.empty()) return error;
+  // The file says where its projector was, and on what its values depend.
+  if (arguments_.connecting.address.empty()) arguments_.connecting.address = undone_.address;
+  TakeRun(undone_, profiles_, projectors_, files_, left_);
+  arguments_.lenient = true;
+  return {};
+}
+
+std::string ProgramRun::Prepare() {
+  if (!arguments_.from.empty()) {
+    if (std::string error = TakeWordsFrom(arguments_); !error.empty()) return error;
+  }
+  if (!arguments_.where.empty()) {
+    ConditionList list = ParseConditions(arguments_.where);
+    if (!list.error.empty()) return list.error;
+    conditions_ = std::move(list.conditions);
+  }
+  std::string error;
+  if (arguments_.command == Command::Undo) {
+    error = PrepareUndo();
+  } else {
+    Selection selection = Select(arguments_.projectors, profiles_);
+    error = std::move(selection.error);
+    projectors_ = std::move(selection.projectors);
+  }
+  const std::string& connect = arguments_.connecting.address;
+  if (error.empty() && !connect.empty()) {
+    const auto address = ParseAddress(connect);
+    if (const auto* const wrong = std::get_if<AddressError>(&address)) {
+      return "--connect: " + wrong->text;
+    }
+    if (projectors_.size() > 1) {
+      return "this takes one projector, not " + std::to_string(projectors_.size());
+    }
+  }
+  if (error.empty()) password_ = GivenPassword(arguments_, error);
+  if (!error.empty()) return error;
+  switch (arguments_.command) {
+    case Command::Diff:
+    case Command::Apply:
+      return LoadSettingsFiles(arguments_, projectors_, profiles_, files_, left_);
+    case Command::Save:
+      return ChooseSavePaths(arguments_, projectors_, paths_);
+    default:
+      return {};
+  }
+}
+
+int ProgramRun::ListRecordedRuns() const {
+  Table table;
+  QJsonArray json;
+  for (const RecordedRun& run : ListRuns(UndoFolderOf(arguments_))) {
+    const auto count = static_cast<int>(run.undo.size());
+    table.Add({run.name, run.time,
+               std::to_string(count) + (count == 1 ? " projector" : " projectors"),
+               run.isUndone ? "undone" : "", run.command});
+    json.append(QJsonObject{{"run", Wide(run.name)},
+                            {"time", Wide(run.time)},
+                            {"command", Wide(run.command)},
+                            {"file", run.path},
+                            {"projectors", count},
+                            {"isUndo", run.isUndo},
+                            {"isUndone", run.isUndone}});
+  }
+  std::string text = table.Text();
+  if (arguments_.format != Format::Text) {
+    QJsonObject envelope = Envelope(arguments_.command);
+    envelope["runs"] = json;
+    text = QJsonDocument(envelope).toJson().toStdString();
+  }
+  return Print(text) ? ExitCode::Done : ExitCode::Refused;
+}
+
+int ProgramRun::RunOnProjectors(const ValueTexts& texts) {
+  UndoRecorder undo(UndoFolderOf(arguments_), arguments_.undoDays, recorded_);
+  Work work{.arguments = arguments_,
+            .texts = texts,
+            .profiles = profiles_,
+            .isForSeveral = projectors_.size() > 1,
+            .files = std::move(files_),
+            .paths = std::move(paths_),
+            .password = password_,
+            .undo = &undo,
+            .isInterrupted = [] { return ReceivedSignal() != 0; }};
+  for (const FleetProfile* profile : projectors_) work.ids[profile->name] = FleetIdOf(*profile);
+  if (arguments_.command == Command::Diff || arguments_.command == Command::Apply) {
+    const auto mistakes = FileMistakes(work, projectors_, models_);
+    for (const std::string& mistake : mistakes) {
+      Fail(arguments_,
+           {.code = ProblemCode::WrongFile, .text = mistake, .exitCode = ExitCode::WrongUse});
+    }
+    if (!mistakes.empty()) return ExitCode::WrongUse;
+  }
+  if (arguments_.command == Command::Watch) return Watch(work, projectors_, models_);
+  ProjectorRuns runs(work, projectors_, models_);
+  if (!conditions_.empty()) runs.Filter(conditions_);
+  return runs.Run();
+}
+
+int ProgramRun::Run() {
+  if (arguments_.list) return ListRecordedRuns();
+  if (const std::string error = Prepare(); !error.empty()) return FailWrongUse(arguments_, error);
+  if (!shown_.Problem().empty()) Complain(shown_.Problem());
+  const ValueTexts texts(shown_, english_ ? *english_ : shown_);
+  const Work listing{
+      .arguments = arguments_, .texts = texts, .profiles = profiles_, .isInterrupted = [] {
+        return false;
+      }};
+  switch (arguments_.command) {
+    case Command::List:
+      return List(listing, projectors_);
+    case Command::Models:
+      return ListModels(listing, models_);
+    case Command::Explain:
+      return Explain(listing, models_);
+    case Command::Export:
+      return Export(projectors_);
+    case Command::Complete:
+      return Print(Completions(arguments_.words, profiles_, models_, texts)) ? ExitCode::Done
+                                                                             : ExitCode::Refused;
+    default:
+      break;
+  }
+  for (const std::string& line : left_) Complain(line);
+  int code = RunOnProjectors(texts);
+  if (!left_.empty()) code = std::max(code, ExitCode::Refused);
+  const bool isUndone =
+      arguments_.command == Command::Undo && !arguments_.dryRun && code == ExitCode::Done;
+  if (isUndone) {
+    const QString error = MarkUndone(undone_);
+    if (!error.isEmpty()) Complain(undone_.path.toStdString() + ": " + error.toStdString());
+  }
+  return code;
+}
+
+}  // namespace
+
+int FailWrongUse(const Arguments& arguments, const std::string& error) {
+  return Fail(arguments,
+              {.code = ProblemCode::WrongUse, .text = error, .exitCode = ExitCode::WrongUse});
+}
+
+bool NeedsProfiles(const Arguments& arguments) {
+  return arguments.command != Command::Find && arguments.command != Command::Import &&
+         !arguments.list;
+}
+
+int RunProgram(const Arguments& arguments, const std::vector<std::string>& words,
+               const std::vector<FleetProfile>& profiles) {
+  if (arguments.command == Command::Import) return Import(arguments);
+  if (arguments.command == Command::Find) {
+    std::string error;
+    const std::string password = GivenPassword(arguments, error);
+    return error.empty() ? Find(arguments, password) : FailWrongUse(arguments, error);
+  }
+  return ProgramRun(arguments, words, profiles).Run();
+}

@@ -1,0 +1,230 @@
+#include "app/acctl/ProjectorRuns.h"
+
+#include <algorithm>
+#include <thread>
+#include <unistd.h>
+#include <utility>
+
+#include "app/acctl/Commands.h"
+#include "app/acctl/Output.h"
+#include "app/acctl/Password.h"
+#include "app/acctl/Signals.h"
+#include "device/Connect.h"
+
+namespace {
+
+using Action = Report (*)(const Work&, ProjectorAccess&);
+
+Action ActionOf(Command command) {
+  switch (command) {
+    case Command::Settings:
+      return RunSettings;
+    case Command::Get:
+      return RunGet;
+    case Command::Set:
+      return RunSet;
+    case Command::Reset:
+      return RunReset;
+    case Command::Status:
+      return RunStatus;
+    case Command::Save:
+      return RunSave;
+    case Command::Diff:
+      return RunDiff;
+    default:
+      return RunApply;
+  }
+}
+
+bool IsChanging(const Arguments& arguments) {
+  const Command command = arguments.command;
+  return !arguments.dryRun && (command == Command::Set || command == Command::Reset ||
+                               command == Command::Apply || command == Command::Undo);
+}
+
+/// The projector's address; nothing if it is simulated.
+std::optional<ProjectorAddress> PresentAddress(const FleetProfile& profile, const Work& work,
+                                               const std::string& password) {
+  if (IsSimulated(profile, work.arguments)) return std::nullopt;
+  const std::string& given = work.arguments.connecting.address;
+  ProjectorAddress address = given.empty() ? AddressOf(profile) : ParseAddress(given);
+  auto* const pjLink = std::get_if<PjLinkAddress>(&address);
+  if (pjLink != nullptr && pjLink->password.empty()) pjLink->password = password;
+  return address;
+}
+
+std::shared_ptr<ProjectorChannel> ChannelTo(const FleetProfile& profile,
+                                            const std::optional<ProjectorAddress>& address,
+                                            std::chrono::milliseconds timeOut) {
+  if (address) return MakeUnboundedChannel(*address, timeOut);
+  return std::make_shared<SimulatedProjector>(SimulatedModelOf(profile));
+}
+
+void Connect(const Work& work, const FleetProfile& profile,
+             const std::optional<ProjectorAddress>& address, OpenProjector& open) {
+  const auto timeOut = work.arguments.connecting.timeOut;
+  if (open.access) return;
+  open.access.emplace(profile, ChannelTo(profile, address, timeOut), timeOut);
+  open.access->AskForInputs(InputsNeededBy(work, TargetOf(*open.access)));
+}
+
+int NameWidth(const Projectors& projectors, const Arguments& arguments) {
+  int width = 0;
+  for (const FleetProfile* profile : projectors) {
+    width =
+        std::max(width, DisplayWidth(ShownName(profile->name, IsSimulated(*profile, arguments))));
+  }
+  return width;
+}
+
+}  // namespace
+
+bool IsSimulated(const FleetProfile& profile, const Arguments& arguments) {
+  return arguments.connecting.address.empty() && profile.link == ProjectorLink::Simulated;
+}
+
+std::unique_ptr<OpenProjector> OpenWithoutLock(const Work& work, const FleetProfile& profile,
+                                               const std::string& password) {
+  auto open = std::make_unique<OpenProjector>();
+  Connect(work, profile, PresentAddress(profile, work, password), *open);
+  return open;
+}
+
+ProjectorRuns::ProjectorRuns(const Work& work, Projectors projectors, ModelCache& models)
+    : work_(work),
+      projectors_(std::move(projectors)),
+      models_(models),
+      meter_(projectors_.size() > 1 && isatty(STDERR_FILENO) == 1, Count()),
+      printer_(work.arguments, NameWidth(projectors_, work.arguments)) {
+  AllowFilesFor(std::min(JobsOf(work.arguments), Count()));
+}
+
+ProjectorRuns::Attempt ProjectorRuns::Try(int number, const Step& step,
+                                          const std::string& password) {
+  const Arguments& arguments = work_.arguments;
+  const auto address = PresentAddress(Profile(number), work_, password);
+  const bool isListed = arguments.command == Command::Settings;  // which asks for inputs at most
+  Attempt attempt;
+  auto open = open_.Take(number);
+  if (!open) open = std::make_unique<OpenProjector>();
+  if (!open->lock && address && !isListed) {
+    open->lock.emplace(*address, arguments.connecting.timeOut, [this] {
+      open_.CloseAll();
+      return work_.isInterrupted();
+    });
+  }
+  if (open->lock && !open->lock->IsHeld()) {
+    attempt.report.Add({.code = ProblemCode::Locked,
+                        .text = "another run of acctl works on it",
+                        .exitCode = ExitCode::NoAnswer});
+    return attempt;
+  }
+  Connect(work_, Profile(number), address, *open);
+  ProjectorAccess& projector = *open->access;
+  if (projector.Channel().IsGone() && !isListed) {
+    attempt.report.Add(NoAnswerOf(projector));
+  } else {
+    attempt.report = step.action(work_, projector);
+  }
+  const auto* const pjLink = address ? std::get_if<PjLinkAddress>(&*address) : nullptr;
+  attempt.lacksPassword = pjLink != nullptr && pjLink->password.empty() &&
+                          projector.Channel().Connection() == ConnectionState::PasswordRequired;
+  const CPjtInterface::Tally sent = projector.Connection().Sent();
+  attempt.mayRepeat =
+      !IsChanging(arguments) || (sent.commands == sent.unanswered && sent.uncertain == 0);
+  if (step.keepsOpen && attempt.report.code == ExitCode::Done) open_.Keep(number, std::move(open));
+  return attempt;
+}
+
+/// Asks for a password that is missing, if the command is for one projector.
+ProjectorRuns::Attempt ProjectorRuns::TryWithPassword(int number, const Step& step) {
+  const bool mayAsk = Count() == 1;
+  Attempt attempt =
+      Try(number, step, mayAsk && !typedPassword_.empty() ? typedPassword_ : work_.password);
+  if (!attempt.lacksPassword || !mayAsk) return attempt;
+  // The projector has not done anything yet.
+  typedPassword_ =
+      AskForPassword(Profile(number).name, work_.isInterrupted).value_or(std::string());
+  return typedPassword_.empty() ? attempt : Try(number, step, typedPassword_);
+}
+
+Report ProjectorRuns::Act(int number, const Step& step) {
+  constexpr std::chrono::milliseconds kPause{1000};
+  Attempt attempt = TryWithPassword(number, step);
+  for (int retry = 0; retry < work_.arguments.connecting.retries; ++retry) {
+    const bool isSilent = attempt.report.code == ExitCode::NoAnswer && !attempt.lacksPassword;
+    if (!isSilent || !attempt.mayRepeat || work_.isInterrupted()) break;
+    std::this_thread::sleep_for(kPause);
+    attempt = TryWithPassword(number, step);
+  }
+  return std::move(attempt.report);
+}
+
+void ProjectorRuns::Filter(const std::vector<Condition>& conditions) {
+  constexpr const char* kMeets = "meets";
+  const Step step{[&](const Work& work, ProjectorAccess& projector) {
+                    Report report;
+                    report.json[kMeets] = MeetsAll(conditions, work.texts, projector, report);
+                    return report;
+                  },
+                  true};
+  Projectors meeting;
+  std::vector<int> numbers;
+  RunParallel(
+      Count(), JobsOf(work_.arguments), meter_, [&](int number) { return Act(number, step); },
+      [&](int number, Report report) {
+        if (report.json[kMeets].toBool()) {
+          meeting.push_back(&Profile(number));
+          numbers.push_back(number);
+        } else if (report.code != ExitCode::Done) {
+          report.json.remove(kMeets);
+          code_ = std::max(code_, report.code);
+          printer_.Add(Profile(number).name, IsSimulated(Profile(number), work_.arguments), report);
+        }
+      });
+  open_.Renumber(numbers);
+  projectors_ = std::move(meeting);
+}
+
+Report ProjectorRuns::RunOne(int number, const std::vector<std::optional<Report>>& checked) {
+  const Arguments& arguments = work_.arguments;
+  if (const auto& report = checked[static_cast<std::size_t>(number)]) return *report;
+  Report report;
+  if (arguments.failFast && hasFailed_) {
+    report.Add({.code = ProblemCode::Stopped, .text = "not begun, as another projector failed"});
+    return report;
+  }
+  report = Act(number, {ActionOf(arguments.command)});
+  // Nothing was sent to this one, but perhaps to others.
+  if (work_.isForSeveral && report.code == ExitCode::WrongUse && IsChanging(arguments)) {
+    report.code = ExitCode::Refused;
+  }
+  if (IsChanging(arguments) && IsSimulated(Profile(number), arguments)) {
+    report.Add({.code = ProblemCode::Simulated,
+                .text = "simulated by acctl itself, nothing lasting was changed",
+                .exitCode = ExitCode::Done});
+  }
+  if (report.code != ExitCode::Done) hasFailed_ = true;
+  return report;
+}
+
+int ProjectorRuns::Run() {
+  const Arguments& arguments = work_.arguments;
+  if (Count() > 0) {
+    const auto checked = CheckWords(work_, projectors_, models_, meter_, [&](int number) {
+      return Act(number, {CheckByAsking, true});
+    });
+    RunParallel(
+        Count(), JobsOf(arguments), meter_, [&](int number) { return RunOne(number, checked); },
+        [&](int number, const Report& report) {
+          code_ = std::max(code_, report.code);
+          printer_.Add(Profile(number).name, IsSimulated(Profile(number), arguments), report);
+        });
+  }
+  const bool isPrinted = printer_.Finish();
+  if (const int signal = ReceivedSignal(); signal != 0) {
+    Complain("interrupted; what was done is reported above");
+    return ExitCode::Signalled + signal;
+  }
+  return isPrinted ? code_ : std::max(code_, ExitCode::Refused);
+}

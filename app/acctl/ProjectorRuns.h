@@ -1,0 +1,65 @@
+#pragma once
+
+#include <atomic>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "app/acctl/Conditions.h"
+#include "app/acctl/OpenProjectors.h"
+#include "app/acctl/Preflight.h"
+#include "app/acctl/Printer.h"
+
+/// Whether a projector is simulated by this program, so that nothing that it is told lasts.
+bool IsSimulated(const FleetProfile& profile, const Arguments& arguments);
+
+/// Opens a projector without waiting for others; null if another run of the program uses it.
+std::unique_ptr<OpenProjector> OpenWithoutLock(const Work& work, const FleetProfile& profile,
+                                               const std::string& password);
+
+/// Runs a command on its projectors: checks the words first, then works on several at once, and
+/// prints the reports in the order of the projectors.
+class ProjectorRuns {
+ public:
+  ProjectorRuns(const Work& work, Projectors projectors, ModelCache& models);
+
+  /// Leaves out projectors that do not meet the conditions. Those that do not answer are reported.
+  void Filter(const std::vector<Condition>& conditions);
+  /// The exit code.
+  int Run();
+
+ private:
+  using Action = std::function<Report(const Work&, ProjectorAccess&)>;
+  /// An action, and whether the projector stays open for the next one.
+  struct Step {
+    Action action;
+    bool keepsOpen = false;
+  };
+  /// What became of one attempt to reach a projector.
+  struct Attempt {
+    Report report;
+    bool lacksPassword = false;
+    bool mayRepeat = true;  ///< Nothing can have been changed.
+  };
+
+  Report Act(int number, const Step& step);
+  Attempt Try(int number, const Step& step, const std::string& password);
+  Attempt TryWithPassword(int number, const Step& step);
+  Report RunOne(int number, const std::vector<std::optional<Report>>& checked);
+  const FleetProfile& Profile(int number) const {
+    return *projectors_[static_cast<std::size_t>(number)];
+  }
+  int Count() const { return static_cast<int>(projectors_.size()); }
+
+  const Work& work_;
+  Projectors projectors_;
+  ModelCache& models_;
+  OpenProjectors open_;
+  Meter meter_;
+  Printer printer_;
+  std::string typedPassword_;
+  int code_ = ExitCode::Done;
+  std::atomic<bool> hasFailed_ = false;
+};

@@ -1,0 +1,172 @@
+#include "app/acctl/RunFiles.h"
+
+#include <algorithm>
+#include <set>
+
+#include <QDir>
+#include <QFileInfo>
+
+#include "app/acctl/Selection.h"
+#include "fleet/WholeFile.h"
+
+namespace {
+
+const FleetProfile* FindProfile(const std::vector<FleetProfile>& profiles,
+                                const std::string& name) {
+  const auto found = std::ranges::find(profiles, name, &FleetProfile::name);
+  return found != profiles.end() ? &*found : nullptr;
+}
+
+/// An undo file holds values of another projector, for the order in which that one was changed.
+std::string CheckUndo(const Arguments& arguments, const Snapshot& file,
+                      const Projectors& projectors) {
+  const bool isUndo = file.isUndo || !file.beforehand.empty();
+  const bool changes = arguments.command == Command::Apply && !arguments.dryRun;
+  if (!isUndo || !changes || arguments.force) return {};
+  const auto other = std::ranges::find_if(
+      projectors, [&file](const FleetProfile* profile) { return profile->name != file.projector; });
+  if (other == projectors.end()) return {};
+  return arguments.file + ": undoes a change of " + file.projector + "; --force applies it to " +
+         (*other)->name;
+}
+
+/// Takes the settings that --only means, and checks that there are some for each pattern.
+std::string CheckOnly(const Arguments& arguments, SettingsFileContents& contents) {
+  Snapshot& snapshot = contents.snapshot;
+  for (const std::string& pattern : arguments.only) {
+    const bool isNone = std::ranges::none_of(
+        snapshot.settings,
+        [&pattern](const SavedSetting& saved) { return IsLike(saved.key, {pattern}); });
+    if (isNone) return "--only " + pattern + ": the file has no such setting";
+  }
+  // A part of these would be restored under a source or mode that they do not belong to.
+  if (!arguments.only.empty()) snapshot.beforehand.clear();
+  return {};
+}
+
+std::string LoadFolder(const Arguments& arguments, Projectors& projectors,
+                       const std::vector<FleetProfile>& profiles, SettingsFiles& files,
+                       std::vector<std::string>& left) {
+  const QDir folder(Wide(arguments.file));
+  for (const QString& name : folder.entryList({"*.json"}, QDir::Files, QDir::Name)) {
+    SettingsFileContents contents = ReadSettingsFile(folder.filePath(name));
+    if (!contents.error.isEmpty()) return contents.error.toStdString();
+    const std::string projector = contents.snapshot.projector;
+    const std::string path = contents.name.toStdString();
+    if (FindProfile(profiles, projector) == nullptr) {
+      left.push_back(path + ": there is no projector '" + projector + "'");
+      continue;
+    }
+    if (!arguments.only.empty()) contents.snapshot.beforehand.clear();
+    const auto [other, isNew] = files.own.try_emplace(projector, std::move(contents));
+    if (!isNew) return path + ": " + other->second.name.toStdString() + " is also of " + projector;
+  }
+  if (files.own.empty()) return arguments.file + ": the folder has no files of settings";
+  std::erase_if(projectors, [&](const FleetProfile* profile) {
+    const bool isMissing = !files.own.contains(profile->name);
+    if (isMissing && !arguments.projectors.empty()) {
+      left.push_back(profile->name + ": there is no file of it in " + arguments.file);
+    }
+    return isMissing;
+  });
+  return {};
+}
+
+/// Why a file must not be replaced; empty if it may be.
+std::string WhyKept(const std::string& path, bool force) {
+  const QFileInfo info(Wide(path));
+  if (force || path == "-" || !info.isFile() || info.size() == 0) return {};
+  if (ReadSettingsFile(Wide(path)).error.isEmpty()) return {};
+  return path + ": is not a file of settings; --force replaces it";
+}
+
+/// The file of a projector in a folder: a new one, or its own.
+std::string PathIn(const QDir& folder, const std::string& projector,
+                   const std::set<std::string>& taken) {
+  const QString base = FileNameOf(projector);
+  for (int number = 1;; ++number) {
+    const QString suffix = number == 1 ? QString() : '-' + QString::number(number);
+    const QString file = folder.filePath(base + suffix + QStringLiteral(".json"));
+    if (taken.contains(file.toStdString())) continue;
+    if (!QFileInfo::exists(file)) return file.toStdString();
+    const SettingsFileContents contents = ReadSettingsFile(file);
+    const bool isOther = contents.error.isEmpty() && contents.snapshot.projector != projector;
+    if (!isOther) return file.toStdString();
+  }
+}
+
+}  // namespace
+
+std::string LoadSettingsFiles(const Arguments& arguments, Projectors& projectors,
+                              const std::vector<FleetProfile>& profiles, SettingsFiles& files,
+                              std::vector<std::string>& left) {
+  if (QFileInfo(Wide(arguments.file)).isDir()) {
+    return LoadFolder(arguments, projectors, profiles, files, left);
+  }
+  if (arguments.projectors.empty()) return "name the projectors to which the file is applied";
+  files.common = ReadSettingsFile(Wide(arguments.file));
+  if (!files.common.error.isEmpty()) return files.common.error.toStdString();
+  std::string error = CheckOnly(arguments, files.common);
+  return error.empty() ? CheckUndo(arguments, files.common.snapshot, projectors) : error;
+}
+
+std::string ChooseSavePaths(const Arguments& arguments, const Projectors& projectors,
+                            std::map<std::string, std::string>& paths) {
+  if (arguments.folder.empty()) {
+    if (projectors.size() > 1) {
+      return "one file is for one projector, not " + std::to_string(projectors.size()) +
+             "; -o names a folder";
+    }
+    for (const FleetProfile* profile : projectors) paths[profile->name] = arguments.file;
+    return WhyKept(arguments.file, arguments.force);
+  }
+  if (!QDir().mkpath(Wide(arguments.folder))) return "cannot make the folder " + arguments.folder;
+  const QDir folder(Wide(arguments.folder));
+  std::set<std::string> taken;
+  for (const FleetProfile* profile : projectors) {
+    const std::string path = PathIn(folder, profile->name, taken);
+    if (std::string why = WhyKept(path, arguments.force); !why.empty()) return why;
+    taken.insert(path);
+    paths[profile->name] = path;
+  }
+  return {};
+}
+
+QString UndoFolderOf(const Arguments& arguments) {
+  return arguments.undoFolder.empty() ? UndoFolder() : Wide(arguments.undoFolder);
+}
+
+std::string ChooseRun(const Arguments& arguments, RecordedRun& run) {
+  if (!arguments.file.empty() && QFileInfo::exists(Wide(arguments.file))) {
+    run = ReadRun(Wide(arguments.file));
+    return run.error.toStdString();
+  }
+  std::vector<RecordedRun> runs = ListRuns(UndoFolderOf(arguments));
+  std::ranges::reverse(runs);
+  const auto found = std::ranges::find_if(runs, [&arguments](const RecordedRun& recorded) {
+    if (!arguments.file.empty()) return recorded.name == arguments.file;
+    return !recorded.isUndo && !recorded.isUndone;
+  });
+  if (found != runs.end()) {
+    run = std::move(*found);
+    return {};
+  }
+  return arguments.file.empty() ? "there is no run to undo"
+                                : "there is no run '" + arguments.file + "'; --list shows them";
+}
+
+void TakeRun(const RecordedRun& run, const std::vector<FleetProfile>& profiles,
+             Projectors& projectors, SettingsFiles& files, std::vector<std::string>& left) {
+  std::set<std::string> known;
+  for (const FleetProfile& profile : profiles) {
+    const auto found = run.undo.find(FleetIdOf(profile));
+    if (found == run.undo.end()) continue;
+    known.insert(found->first);
+    projectors.push_back(&profile);
+    files.own[profile.name] = {.snapshot = *found->second, .name = run.path};
+  }
+  for (const auto& [id, snapshot] : run.undo) {
+    if (!known.contains(id))
+      left.push_back(snapshot->projector + ": is in the profile file no more");
+  }
+}

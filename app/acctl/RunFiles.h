@@ -1,0 +1,34 @@
+#pragma once
+
+#include <string>
+
+#include "app/acctl/Preflight.h"
+#include "app/acctl/UndoRuns.h"
+#include "app/acctl/Work.h"
+
+// What a command reads and writes besides the projectors. Each function returns one line that says
+// what is wrong, or an empty text.
+
+/// Reads the file or folder of `diff` or `apply`. With a folder, projectors without a file of their
+/// own are removed; `left` gets a line for each one that was named, and for each file without a
+/// projector.
+std::string LoadSettingsFiles(const Arguments& arguments, Projectors& projectors,
+                              const std::vector<FleetProfile>& profiles, SettingsFiles& files,
+                              std::vector<std::string>& left);
+
+/// Decides the file in which each projector is saved: the given one, or one in the folder that is
+/// named like the projector. A file that is not one of settings is only replaced with --force.
+std::string ChooseSavePaths(const Arguments& arguments, const Projectors& projectors,
+                            std::map<std::string, std::string>& paths);
+
+/// The run that `undo` is to undo: the named one, or the last one that was not undone and is no
+/// undo itself.
+std::string ChooseRun(const Arguments& arguments, RecordedRun& run);
+
+/// Takes what a run replaced as the files of its projectors; `left` gets a line for each projector
+/// that is in no profile any more.
+void TakeRun(const RecordedRun& run, const std::vector<FleetProfile>& profiles,
+             Projectors& projectors, SettingsFiles& files, std::vector<std::string>& left);
+
+/// The folder for undo files.
+QString UndoFolderOf(const Arguments& arguments);

@@ -1,0 +1,299 @@
+#include "app/acctl/SetRun.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <thread>
+#include <utility>
+
+#include "app/acctl/Reading.h"
+#include "app/acctl/UndoRuns.h"
+
+namespace {
+
+/// A projector that is changing its power state counts as done.
+bool IsSo(const ModelSetting& setting, int value, int now) {
+  return setting.kind == ModelSetting::Kind::State ? (now == 1) == (value == 1) : now == value;
+}
+
+}  // namespace
+
+SetRun::SetRun(const Work& work, ProjectorAccess& projector, const std::vector<Change>& changes,
+               Report& report)
+    : work_(work), projector_(projector), report_(report) {
+  for (const Change& change : changes) results_.push_back({.change = &change, .aim = change.aim});
+}
+
+void SetRun::ReadBefore() {
+  std::vector<const ModelSetting*> settings;
+  std::vector<Result*> readable;
+  for (Result& result : results_) {
+    const ModelSetting& setting = *result.change->setting;
+    result.before = result.change->present;
+    result.source = result.change->source;
+    if (!setting.readable || result.before || TargetOf(projector_).OnlySteps(setting)) continue;
+    settings.push_back(&setting);
+    readable.push_back(&result);
+  }
+  const ModelSettings& model = projector_.Settings();
+  const auto reads = model.PrepareReads(projector_.Connection(), settings);
+  for (std::size_t i = 0; i < reads.size() && ProgressOf(work_, projector_).goesOn(); ++i) {
+    readable[i]->source = reads[i].source;
+    readable[i]->before = model.Read(projector_.Connection(), *settings[i], reads[i].source);
+  }
+  if (!projector_.Channel().IsGone() || results_.empty()) return;
+  const Problem silence = NoAnswerOf(projector_);
+  Fail(results_.front(), "notDone", silence.code, silence.text, ExitCode::NoAnswer);
+}
+
+// An earlier change may have changed the value, or the source that it belongs to.
+void SetRun::ReadAgain(Result& result) {
+  const ModelSetting& setting = *result.change->setting;
+  const bool isOfOtherSource = isForOtherSource_ && setting.IsPerSource();
+  const bool wasChanged = std::ranges::any_of(results_, [&](const Result& other) {
+    return &other < &result && other.change->setting == &setting;
+  });
+  if (!setting.readable || (!isOfOtherSource && !wasChanged)) return;
+  result.source = projector_.Settings().PresentSource(projector_.Connection(), setting);
+  result.before = projector_.Settings().Read(projector_.Connection(), setting, result.source);
+}
+
+/// Records what the change replaces. A run that cannot be undone goes on, and says so.
+bool SetRun::KeepBefore(const Result& result) {
+  const ModelSetting& setting = *result.change->setting;
+  if (!setting.Restorable() || !result.before || result.before == result.aim) return true;
+  const auto saved = [&](int value) {
+    return SavedSetting{.key = std::string(setting.key),
+                        .value = value,
+                        .text = work_.texts.Shown().Value(setting, value),
+                        .source = setting.of != OfSource::None ? result.source : std::nullopt};
+  };
+  if (setting.kind == ModelSetting::Kind::Choice) modes_.push_back(saved(*result.aim));
+  replaced_.insert(replaced_.begin(), saved(*result.before));
+  Snapshot undo = EmptySnapshot(projector_.Name(), projector_.Settings().Model());
+  if (replaced_.size() == 1) {
+    undo.settings = replaced_;
+  } else {
+    undo.beforehand = modes_;
+    undo.beforehand.insert(undo.beforehand.end(), replaced_.begin(), replaced_.end());
+  }
+  return work_.undo->Keep(work_.ids.at(projector_.Name()), undo);
+}
+
+void SetRun::Make() {
+  const Progress progress = ProgressOf(work_, projector_);
+  bool isKept = true;
+  for (Result& result : results_) {
+    if (!progress.goesOn()) break;
+    const ModelSetting& setting = *result.change->setting;
+    if (TargetOf(projector_).OnlySteps(setting)) {
+      MakeSteps(result);
+    } else {
+      ReadAgain(result);
+      // Others were changed already, so that this is no wrong use.
+      if (!result.aim) {
+        result.aim = AimOf(*result.change, work_, TargetOf(projector_), result.before,
+                           ExitCode::Refused, report_);
+      }
+      if (!result.aim) continue;
+      isKept = KeepBefore(result) && isKept;
+      Make(result);
+    }
+    isForOtherSource_ = isForOtherSource_ || setting.SelectsInput();
+  }
+  if (isKept) return;
+  report_.Add({.code = ProblemCode::File,
+               .text = "this cannot be undone: " + work_.undo->Error().toStdString(),
+               .exitCode = ExitCode::Done});
+}
+
+void SetRun::Make(Result& result) {
+  const ModelSetting& setting = *result.change->setting;
+  CPjtInterface& connection = projector_.Connection();
+  const CPjtInterface::Tally before = connection.Sent();
+  const Sent sent =
+      projector_.Settings().Change(connection, setting, *result.aim,
+                                   {work_.texts.Shown().Value(setting, *result.aim), result.source,
+                                    ProgressOf(work_, projector_).goesOn});
+  const CPjtInterface::Tally after = connection.Sent();
+  // A setter without a result says nothing; reading the setting does.
+  if (!projector_.Channel().IsGone() && setting.readable) {
+    result.now = projector_.Settings().Read(connection, setting, result.source);
+  }
+  Judge(result, before, sent == Sent::Accepted, after);
+}
+
+void SetRun::MakeSteps(Result& result) {
+  const int wanted = result.change->typed.amount;
+  const CPjtInterface::Tally before = projector_.Connection().Sent();
+  const int done = projector_.StepUnread(*result.change->setting, wanted,
+                                         [this] { return !work_.isInterrupted(); });
+  if (done == std::abs(wanted)) {
+    result.outcome = "done";
+    return;
+  }
+  const std::string accepted = std::to_string(done) + " of " + std::to_string(std::abs(wanted)) +
+                               (std::abs(wanted) == 1 ? " step" : " steps") + " accepted";
+  const CPjtInterface::Tally after = projector_.Connection().Sent();
+  if (after.commands - before.commands == done) {
+    Fail(result, "stopped", ProblemCode::Stopped, "stopped, " + accepted, ExitCode::Done);
+    return;
+  }
+  Judge(result, before, false, after);
+  if (result.problem) result.problem->text += "; " + accepted;
+}
+
+void SetRun::Fail(Result& result, const char* outcome, const char* code, std::string text,
+                  int exitCode) {
+  result.outcome = outcome;
+  result.problem =
+      Problem{code, std::move(text), std::string(result.change->setting->key), {}, exitCode};
+}
+
+std::string SetRun::NowText(const Result& result) const {
+  if (!result.now) return {};
+  return ", it is " + work_.texts.Shown().Value(*result.change->setting, *result.now);
+}
+
+/// Decides the outcome of a change from the commands that were sent between `before` and `after`,
+/// and from the value that the setting has now.
+void SetRun::Judge(Result& result, const CPjtInterface::Tally& before, bool accepted,
+                   const CPjtInterface::Tally& after) {
+  const ModelSetting& setting = *result.change->setting;
+  const std::string isNow = NowText(result);
+  if (result.now && IsSo(setting, *result.aim, *result.now)) {
+    result.outcome = "done";
+    return;
+  }
+  if (work_.isInterrupted() && setting.IsStepped() && result.now) {
+    return Fail(result, "stopped", ProblemCode::Stopped, "stopped at " + isNow.substr(8),
+                ExitCode::Done);
+  }
+  const bool isAnswered = projector_.Channel().HasAnswered();
+  // If it does not answer any more, nobody knows.
+  if (after.pending > before.pending && isAnswered) {
+    return Fail(result, "pending", ProblemCode::Pending, "accepted, but not so yet" + isNow,
+                ExitCode::Done);
+  }
+  const Problem silence = NoAnswerOf(projector_);
+  if (after.uncertain > before.uncertain) {
+    return Fail(result, "unconfirmed", silence.code,
+                silence.text + ", it may have been changed" + isNow, ExitCode::NoAnswer);
+  }
+  if (after.unanswered > before.unanswered) {
+    return Fail(result, "notDone", silence.code, silence.text, ExitCode::NoAnswer);
+  }
+  if (after.notOffered > before.notOffered) {
+    return Fail(result, "refused", ProblemCode::NotOffered, kNotOffered, ExitCode::Refused);
+  }
+  const bool isBusy = after.busy > before.busy;
+  if (isBusy || (!accepted && !result.now)) {
+    const auto power = AskPower(projector_);
+    const char* const rest = RestOf(power);
+    if (rest != nullptr || isBusy) {
+      return Fail(result, "busy", rest != nullptr ? RestCodeOf(*power) : ProblemCode::Busy,
+                  std::string("refused, the projector is ") + (rest != nullptr ? rest : "busy"),
+                  ExitCode::Refused);
+    }
+  }
+  if (!accepted || result.now) {
+    return Fail(result, "refused", ProblemCode::Refused, "refused" + isNow, ExitCode::Refused);
+  }
+  if (!setting.readable) {
+    result.outcome = "done";
+    return;
+  }
+  const Problem failure = FailureOf(projector_, {ProblemCode::Unconfirmed, kNotReadable});
+  Fail(result, "unconfirmed", failure.code, "accepted, but " + failure.text,
+       isAnswered ? ExitCode::Refused : ExitCode::NoAnswer);
+}
+
+bool SetRun::IsInEffect(const Result& result) const {
+  const ModelSetting& setting = *result.change->setting;
+  if (!result.now || !result.aim) return !setting.readable;
+  return work_.texts.Code(setting, *result.now, projector_.Connection().Power()) ==
+         work_.texts.Code(setting, *result.aim);
+}
+
+void SetRun::WaitForEffect(std::chrono::milliseconds time) {
+  using Clock = std::chrono::steady_clock;
+  constexpr std::chrono::milliseconds kStep{20};
+  const Progress progress = ProgressOf(work_, projector_);
+  const auto end = Clock::now() + time;
+  auto next = Clock::now();
+  const auto isAwaited = [this](const Result& result) {
+    const bool mayCome =
+        std::string_view(result.outcome) == "done" || std::string_view(result.outcome) == "pending";
+    return mayCome && result.change->setting->readable && !IsInEffect(result);
+  };
+  while (progress.goesOn() && std::ranges::any_of(results_, isAwaited) && Clock::now() < end) {
+    std::this_thread::sleep_for(kStep);
+    if (Clock::now() < next) continue;
+    next = Clock::now() + work_.arguments.interval;
+    for (Result& result : results_) {
+      if (!isAwaited(result)) continue;
+      result.now = projector_.Settings().Read(projector_.Connection(), *result.change->setting,
+                                              result.source);
+      if (IsInEffect(result)) {
+        result.outcome = "done";
+        result.problem.reset();
+      }
+    }
+  }
+  for (Result& result : results_) {
+    if (!isAwaited(result)) continue;
+    const Problem silence = NoAnswerOf(projector_);
+    if (projector_.Channel().IsGone()) {
+      Fail(result, "unconfirmed", silence.code, silence.text, ExitCode::NoAnswer);
+    } else {
+      Fail(result, "pending", ProblemCode::Pending, "not so in time" + NowText(result),
+           ExitCode::Refused);
+    }
+  }
+}
+
+void SetRun::Compare() {
+  for (Result& result : results_) {
+    const ModelSetting& setting = *result.change->setting;
+    if (!TargetOf(projector_).OnlySteps(setting) && !result.aim) {
+      result.aim = AimOf(*result.change, work_, TargetOf(projector_), result.before,
+                         ExitCode::Refused, report_);
+    }
+    result.outcome = result.before && result.before == result.aim ? "alreadySo" : "different";
+  }
+}
+
+QJsonObject SetRun::Describe(const Result& result) const {
+  const ModelSetting& setting = *result.change->setting;
+  QJsonObject json{{"key", Wide(setting.key)},
+                   {"wanted", Wide(result.change->word)},
+                   {"outcome", result.outcome}};
+  const auto add = [&](const char* member, std::optional<int> value,
+                       std::optional<PowerState> power = {}) {
+    if (value) json[member] = DescribeValueAlone(work_.texts, setting, *value, power);
+  };
+  add("before", result.before);
+  add("after", result.now, projector_.Connection().Power());
+  if (work_.arguments.dryRun) add("aim", result.aim);
+  if (result.problem) json["reason"] = Wide(result.problem->text);
+  return json;
+}
+
+void SetRun::Finish() {
+  Values values(work_.texts);
+  QJsonArray changes;
+  for (const Result& result : results_) {
+    const ModelSetting& setting = *result.change->setting;
+    const std::string before =
+        result.before ? work_.texts.Shown().Value(setting, *result.before) : std::string();
+    const auto value = work_.arguments.dryRun ? result.aim : result.now;
+    if (value) {
+      const auto power = work_.arguments.dryRun ? std::nullopt : projector_.Connection().Power();
+      values.AddChanged(setting, before, *value, power);
+    }
+    if (result.problem) report_.Add(*result.problem);
+    changes.append(Describe(result));
+  }
+  values.PutInto(report_);
+  if (work_.arguments.dryRun) report_.json.remove("settings");
+  report_.json["changes"] = changes;
+}

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <chrono>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "app/acctl/Changes.h"
+#include "app/acctl/Values.h"
+
+/// Makes the changes of `set` on one projector, in their order, and reports each.
+class SetRun {
+ public:
+  /// All must outlive the run. The report gets the results.
+  SetRun(const Work& work, ProjectorAccess& projector, const std::vector<Change>& changes,
+         Report& report);
+
+  /// Reads the present values, which are reported beside the new ones and can be restored later.
+  void ReadBefore();
+  void Make();
+  /// Waits until every change that was accepted is in effect, for at most this time.
+  void WaitForEffect(std::chrono::milliseconds time);
+  /// Only reports what `Make` would do.
+  void Compare();
+  /// Puts the results into the report.
+  void Finish();
+
+ private:
+  struct Result {
+    const Change* change;
+    std::optional<int> source{};
+    std::optional<int> before{};
+    std::optional<int> aim{};
+    std::optional<int> now{};
+    const char* outcome = "notDone";
+    std::optional<Problem> problem{};
+  };
+
+  void Make(Result& result);
+  void MakeSteps(Result& result);
+  void ReadAgain(Result& result);
+  bool KeepBefore(const Result& result);
+  void Judge(Result& result, const CPjtInterface::Tally& before, bool accepted,
+             const CPjtInterface::Tally& after);
+  bool IsInEffect(const Result& result) const;
+  void Fail(Result& result, const char* outcome, const char* code, std::string text, int exitCode);
+  std::string NowText(const Result& result) const;
+  QJsonObject Describe(const Result& result) const;
+
+  const Work& work_;
+  ProjectorAccess& projector_;
+  Report& report_;
+  std::vector<Result> results_;
+  std::vector<SavedSetting> modes_;     ///< Choices that were sent, in order.
+  std::vector<SavedSetting> replaced_;  ///< What was there before, the last one first.
+  bool isForOtherSource_ = false;       ///< The input source was changed.
+};

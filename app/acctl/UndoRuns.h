@@ -1,0 +1,64 @@
+#pragma once
+
+#include <mutex>
+#include <string>
+#include <vector>
+
+#include <QString>
+
+#include "fleet/FleetWork.h"
+
+/// What one run of the program replaced, from its undo file.
+struct RecordedRun {
+  QString path{};
+  std::string name{};     ///< The file's name without its suffix; runs sort by it.
+  std::string time{};     ///< ISO 8601, UTC.
+  std::string command{};  ///< As it was typed, without passwords.
+  std::string address{};  ///< Of --connect; empty without.
+  SnapshotsById undo{};
+  bool isUndo = false;    ///< It undid another run itself.
+  bool isUndone = false;  ///< All of it was undone.
+  QString error{};        ///< One line; empty if the file could be read.
+};
+
+/// Reads an undo file of this program, or one of a job of the host application.
+RecordedRun ReadRun(const QString& path);
+/// The runs of a folder, the oldest first; files that cannot be read are left out.
+std::vector<RecordedRun> ListRuns(const QString& folder);
+/// Records in its file that all of a run was undone. One line that says what is wrong, or empty.
+QString MarkUndone(const RecordedRun& run);
+
+/// The user's folder for undo files.
+QString UndoFolder();
+
+/// Writes the undo file of a run. The file has a line for the run and then one for each change,
+/// appended before the change is sent; the last one of a projector counts. Any thread may call it.
+class UndoRecorder {
+ public:
+  /// `run` gives time, command and address. The file is made when there is something to keep; then
+  /// files older than `days` are removed, unless that is 0.
+  UndoRecorder(QString folder, int days, RecordedRun run);
+  ~UndoRecorder();
+  UndoRecorder(const UndoRecorder&) = delete;
+  UndoRecorder& operator=(const UndoRecorder&) = delete;
+
+  /// Whether the disk now has this for the projector with the identity `id`.
+  bool Keep(const std::string& id, const Snapshot& undo);
+
+  /// Empty while nothing is kept.
+  QString Path() const;
+  /// Why something could not be kept; empty if all could.
+  QString Error() const;
+
+ private:
+  bool Create(const QByteArray& line);
+  bool Append(const QByteArray& line);
+
+  const QString folder_;
+  const int days_;
+  const RecordedRun run_;
+  mutable std::mutex mutex_;
+  int file_ = -1;
+  QString path_;
+  QString error_;
+};

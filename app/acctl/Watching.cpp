@@ -1,0 +1,231 @@
+#include "app/acctl/Watching.h"
+
+#include <algorithm>
+#include <atomic>
+#include <map>
+#include <mutex>
+#include <thread>
+
+#include <QDateTime>
+#include <QJsonDocument>
+
+#include "app/acctl/Conditions.h"
+#include "app/acctl/Output.h"
+#include "app/acctl/ProjectorRuns.h"
+#include "app/acctl/Reading.h"
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+/// A value as it was read; nothing if it could not be read.
+struct Seen {
+  std::optional<int> value{};
+  std::optional<PowerState> power{};
+
+  bool IsLike(const Seen& other, const ValueTexts& texts, const ModelSetting& setting) const {
+    if (value != other.value) return false;
+    // Warming up and on are one value.
+    return !value || texts.Code(setting, *value, power) == texts.Code(setting, *value, other.power);
+  }
+};
+
+/// What the threads of all projectors share.
+struct Shared {
+  const Work& work;
+  std::optional<Condition> until;
+  std::optional<Clock::time_point> end;
+  std::mutex mutex{};  ///< For the output and the code.
+  std::atomic<bool> isReaderGone = false;
+  int code = ExitCode::Done;
+
+  bool GoesOn() const {
+    return !work.isInterrupted() && !isReaderGone && (!end || Clock::now() < *end);
+  }
+  void Write(const std::string& text) {
+    const std::lock_guard lock(mutex);
+    if (!isReaderGone && !Print(text)) isReaderGone = true;
+  }
+  void Fail(int exitCode) {
+    const std::lock_guard lock(mutex);
+    code = std::max(code, exitCode);
+  }
+};
+
+class ProjectorWatch {
+ public:
+  ProjectorWatch(Shared& shared, const FleetProfile& profile, int nameWidth)
+      : shared_(shared),
+        profile_(profile),
+        isSimulated_(IsSimulated(profile, shared.work.arguments)),
+        prefix_(ShownName(profile.name, isSimulated_)) {
+    prefix_.append(static_cast<std::size_t>(nameWidth - DisplayWidth(prefix_) + 2), ' ');
+  }
+
+  void Run() {
+    constexpr std::chrono::milliseconds kLongestPause{60'000};
+    auto pause = shared_.work.arguments.interval;
+    while (shared_.GoesOn() && !isFinished_) {
+      const auto open = OpenWithoutLock(shared_.work, profile_, shared_.work.password);
+      const bool wasSilent = isSilent_;
+      Follow(*open->access);
+      if (isFinished_ || !shared_.GoesOn()) break;
+      pause = wasSilent && isSilent_ ? std::min(2 * pause, std::max(pause, kLongestPause))
+                                     : shared_.work.arguments.interval;
+      Wait(pause);
+    }
+    if (!shared_.until || isFinished_ || shared_.work.isInterrupted()) return;
+    shared_.Fail(isSilent_ ? ExitCode::NoAnswer : ExitCode::Refused);
+    if (!isSilent_) Add({ProblemCode::Pending, "not so in time", shared_.until->key});
+  }
+
+ private:
+  /// Reads again and again until the projector is gone or there is nothing more to wait for.
+  void Follow(ProjectorAccess& projector) {
+    const Work& work = shared_.work;
+    Report ignored;
+    std::vector<std::string> words = work.arguments.words;
+    if (shared_.until) words.push_back(shared_.until->key);
+    const auto chosen = Chosen(TargetOf(projector), kRead, words, true, ignored);
+    const Progress progress = ProgressOf(work, projector);
+    while (!projector.Channel().IsGone() && shared_.GoesOn() && !isFinished_) {
+      for (const auto& [setting, source] :
+           projector.Settings().PrepareReads(projector.Connection(), chosen)) {
+        if (!progress.goesOn() || isFinished_) break;
+        Take(projector, *setting,
+             projector.Settings().Read(projector.Connection(), *setting, source));
+      }
+      if (projector.Channel().IsGone()) break;
+      if (!isFinished_) Wait(work.arguments.interval);
+    }
+    if (projector.Channel().IsGone() && !std::exchange(isSilent_, true)) Add(NoAnswerOf(projector));
+  }
+
+  void Take(ProjectorAccess& projector, const ModelSetting& setting, std::optional<int> value) {
+    if (!projector.Channel().HasAnswered()) return;
+    if (std::exchange(isSilent_, false)) {
+      Add({.code = "answers", .text = "answers again", .exitCode = ExitCode::Done});
+    }
+    const Seen seen{value, projector.Connection().Power()};
+    const auto [known, isNew] = last_.try_emplace(std::string(setting.key), seen);
+    if (isNew || !known->second.IsLike(seen, shared_.work.texts, setting)) {
+      const Seen old = isNew ? Seen{} : known->second;
+      known->second = seen;
+      if (value) {
+        Write(setting, old, seen);
+      } else {
+        AddUnread(projector, setting);
+      }
+    }
+    const auto& until = shared_.until;
+    isFinished_ = isFinished_ || (until && value && IsMeant(projector, setting) &&
+                                  IsMet(*until, shared_.work.texts, setting, *value, seen.power));
+  }
+
+  bool IsMeant(const ProjectorAccess& projector, const ModelSetting& setting) const {
+    Report ignored;
+    const auto named = Chosen(TargetOf(projector), kRead, {shared_.until->key}, true, ignored);
+    return std::ranges::find(named, &setting) != named.end();
+  }
+
+  void AddUnread(ProjectorAccess& projector, const ModelSetting& setting) {
+    Problem problem =
+        FailureOf(projector, {ProblemCode::NotReadable, kNotReadable, std::string(setting.key)});
+    if (const char* const rest = RestOf(AskPower(projector))) {
+      problem.text += std::string(", the projector is ") + rest;
+    }
+    Add(problem);
+  }
+
+  void Add(const Problem& problem) {
+    Complain(profile_.name + ": " + problem.Line());
+    if (shared_.work.arguments.format == Format::Text) return;
+    const bool isNote = problem.exitCode == ExitCode::Done;
+    Write({{isNote ? "note" : "error", Describe(problem)}});
+  }
+
+  void Write(QJsonObject json) {
+    json["name"] = Wide(profile_.name);
+    json["simulated"] = isSimulated_;
+    json["time"] = QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs);
+    shared_.Write(QJsonDocument(json).toJson(QJsonDocument::Compact).toStdString() + '\n');
+  }
+
+  void Write(const ModelSetting& setting, const Seen& old, const Seen& now) {
+    const ValueTexts& texts = shared_.work.texts;
+    if (shared_.work.arguments.format == Format::Text) {
+      Table line;
+      line.Add({std::string(setting.key), texts.Shown().Caption(setting),
+                texts.Shown().Value(setting, *now.value, now.power)});
+      shared_.Write(prefix_ + line.Text());
+      return;
+    }
+    QJsonObject json = DescribeValue(texts, setting, *now.value, now.power);
+    json["old"] = old.value ? QJsonValue(DescribeValueAlone(texts, setting, *old.value, old.power))
+                            : QJsonValue();
+    json["new"] = DescribeValueAlone(texts, setting, *now.value, now.power);
+    Write(json);
+  }
+
+  void Wait(std::chrono::milliseconds time) const {
+    constexpr std::chrono::milliseconds kStep{20};
+    const auto end = Clock::now() + time;
+    while (shared_.GoesOn() && Clock::now() < end) {
+      std::this_thread::sleep_for(kStep);
+      if (!HasReader()) shared_.isReaderGone = true;
+    }
+  }
+
+  Shared& shared_;
+  const FleetProfile& profile_;
+  const bool isSimulated_;
+  std::string prefix_;
+  std::map<std::string, Seen> last_;
+  bool isSilent_ = false;
+  bool isFinished_ = false;
+};
+
+/// Reports words that are wrong for a projector. Whether there are any.
+bool HasWrongWords(const Work& work, const Projectors& projectors, ModelCache& models) {
+  Meter meter(false, 0);
+  const auto checked = CheckWords(work, projectors, models, meter, [](int) { return Report(); });
+  bool isWrong = false;
+  for (std::size_t i = 0; i < projectors.size(); ++i) {
+    if (!checked[i]) continue;
+    isWrong = true;
+    for (const Problem& problem : checked[i]->problems) {
+      Complain(projectors[i]->name + ": " + problem.Line());
+    }
+  }
+  return isWrong;
+}
+
+}  // namespace
+
+int Watch(const Work& work, const Projectors& projectors, ModelCache& models) {
+  if (HasWrongWords(work, projectors, models)) return ExitCode::WrongUse;
+  Shared shared{.work = work, .until = {}, .end = {}};
+  if (!work.arguments.until.empty()) {
+    const ConditionList until = ParseConditions(work.arguments.until);
+    if (!until.error.empty() || until.conditions.size() != 1) {
+      Complain("--until: '" + work.arguments.until + "' is not KEY=VALUE");
+      return ExitCode::WrongUse;
+    }
+    shared.until = until.conditions.front();
+  }
+  if (work.arguments.wait) shared.end = Clock::now() + *work.arguments.wait;
+  AllowFilesFor(static_cast<int>(projectors.size()));
+  int width = 0;
+  for (const FleetProfile* profile : projectors) {
+    width = std::max(width,
+                     DisplayWidth(ShownName(profile->name, IsSimulated(*profile, work.arguments))));
+  }
+  {
+    std::vector<std::jthread> threads;
+    for (const FleetProfile* profile : projectors) {
+      threads.emplace_back(
+          [&shared, profile, width] { ProjectorWatch(shared, *profile, width).Run(); });
+    }
+  }
+  return shared.isReaderGone ? ExitCode::Refused : shared.code;
+}

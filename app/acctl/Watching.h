@@ -1,0 +1,9 @@
+#pragma once
+
+#include "app/acctl/Preflight.h"
+#include "app/acctl/Work.h"
+
+/// Prints the settings of the projectors and every change of them, until it is interrupted, nobody
+/// reads the output any more, the time of --wait is over, or every projector has the value of
+/// --until. The exit code.
+int Watch(const Work& work, const Projectors& projectors, ModelCache& models);

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "app/acctl/Arguments.h"
+#include "app/acctl/Report.h"
+#include "app/acctl/ValueCodes.h"
+#include "app/profiles/SettingsFile.h"
+#include "fleet/FleetProfile.h"
+#include "snapshots/Snapshot.h"
+
+class UndoRecorder;
+
+/// The files of settings that a command uses: one for all projectors, or each projector's own.
+struct SettingsFiles {
+  SettingsFileContents common{};
+  std::map<std::string, SettingsFileContents>
+      own{};  ///< By name; if not empty, `common` is unused.
+
+  const SettingsFileContents& Of(const std::string& projector) const {
+    const auto found = own.find(projector);
+    return found != own.end() ? found->second : common;
+  }
+};
+
+/// What the runs of a command for all its projectors share. Any thread may read it.
+struct Work {
+  const Arguments& arguments;
+  const ValueTexts& texts;
+  const std::vector<FleetProfile>& profiles;
+  bool isForSeveral = false;  ///< A setting that one projector lacks is then no wrong use.
+  SettingsFiles files{};
+  std::map<std::string, std::string> paths{};  ///< The file to save each projector in, by name.
+  std::map<std::string, std::string> ids{};    ///< What tells a projector from others, by name.
+  std::string password{};                      ///< Of PJLink projectors whose profile has none.
+  UndoRecorder* undo = nullptr;                ///< Null if the command changes nothing.
+  std::function<bool()> isInterrupted;
+};

@@ -1,0 +1,121 @@
+#include "app/desktop/ListPane.h"
+
+#include <utility>
+
+#include <QScrollArea>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+#include "app/desktop/details/DetailsPanel.h"
+#include "app/desktop/groups/GroupList.h"
+#include "app/desktop/projectors/FleetWatch.h"
+
+namespace {
+
+constexpr int kGap = 9;
+constexpr auto kCounting = std::chrono::seconds(1);
+
+}  // namespace
+
+ListPane::ListPane(FleetWatch& watch, QWidget* parent)
+    : QWidget(parent),
+      watch_(watch),
+      sides_(new QSplitter),
+      groups_(new GroupList),
+      view_(new ProjectorView) {
+  sides_->addWidget(groups_);
+  sides_->addWidget(view_);
+  sides_->setStretchFactor(1, 1);
+  sides_->setHandleWidth(kGap);
+  // A splitter does not mirror its own margins, so a widget around it has them.
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(kGap, kGap, kGap, kGap);
+  layout->addWidget(sides_);
+  connect(groups_, &GroupList::Chosen, this,
+          [this](const ProjectorGroup& group) { view_->Model().SetGroup(group); });
+  connect(view_, &ProjectorView::GroupLeft, this, [this] { groups_->Choose({}); });
+  connect(view_, &ProjectorView::SelectionChanged, this, &ListPane::ShowDetails);
+  // Once a second at most, however many changes there are.
+  connect(&counting_, &QTimer::timeout, this, &ListPane::Count);
+  counting_.start(kCounting);
+}
+
+void ListPane::AddDetails(const QList<QAction*>& actions) {
+  details_ = new DetailsPanel(actions);
+  auto* scrolled = new QScrollArea;
+  scrolled->setWidget(details_);
+  scrolled->setWidgetResizable(true);
+  scrolled->setFrameShape(QFrame::NoFrame);
+  scrolled->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  scrolled->setFocusPolicy(Qt::NoFocus);
+  sides_->addWidget(scrolled);
+  ShowDetails();
+}
+
+void ListPane::Show(ProjectorRow& row) const {
+  row.isWatched = watch_.IsWatched(row.id);
+  if (auto state = watch_.Projectors().State(row.id)) row.state = std::move(*state);
+}
+
+void ListPane::SetProfiles(const std::vector<FleetProfile>& profiles) {
+  std::vector<ProjectorRow> rows;
+  rows.reserve(profiles.size());
+  for (const FleetProfile& profile : profiles) {
+    ProjectorRow row{.id = FleetIdOf(profile), .profile = profile};
+    if (const int before = view_->Model().Find(row.id); before >= 0) {
+      const ProjectorRow& known = view_->Model().All()[static_cast<std::size_t>(before)];
+      row.isOpen = known.isOpen;
+      row.hasAlert = known.hasAlert;
+    }
+    Show(row);
+    rows.push_back(std::move(row));
+  }
+  view_->SetRows(std::move(rows));
+  Count();
+}
+
+void ListPane::Refresh(const std::vector<std::string>& ids) {
+  for (const std::string& id : ids) {
+    const int position = view_->Model().Find(id);
+    if (position >= 0) view_->Model().Change(position, [this](ProjectorRow& row) { Show(row); });
+  }
+}
+
+std::vector<const ProjectorRow*> ListPane::Selected() const {
+  std::vector<const ProjectorRow*> rows;
+  for (const int position : view_->Selected())
+    rows.push_back(&view_->Model().All()[static_cast<std::size_t>(position)]);
+  return rows;
+}
+
+void ListPane::ShowDetails() {
+  if (details_ == nullptr) return;
+  const ProjectorRow* current = view_->Current();
+  details_->Show(
+      current, view_->SelectedCount(),
+      current == nullptr ? std::vector<StateChange>() : watch_.Projectors().History(current->id));
+}
+
+// The last answers are no news for the fleet; of the rows in sight they are fetched here.
+void ListPane::Count() {
+  std::vector<std::string> ids;
+  for (const int position : view_->InSight())
+    ids.push_back(view_->Model().All()[static_cast<std::size_t>(position)].id);
+  if (const ProjectorRow* current = view_->Current()) ids.push_back(current->id);
+  Refresh(ids);
+  view_->Model().Rearrange();
+  const std::vector<ProjectorRow>& rows = view_->Model().All();
+  groups_->Show(rows);
+  ShowDetails();
+  Q_EMIT Counted(rows);
+}
+
+QByteArray ListPane::SaveState() const { return sides_->saveState(); }
+
+bool ListPane::RestoreState(const QByteArray& state) { return sides_->restoreState(state); }
+
+void ListPane::Spread(int width) {
+  const int left = groups_->sizeHint().width();
+  const int right = details_ == nullptr ? 0 : details_->sizeHint().width();
+  sides_->setSizes({left, width - left - right, right});
+}

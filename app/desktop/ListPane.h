@@ -1,0 +1,55 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include <QTimer>
+#include <QWidget>
+
+#include "app/desktop/projectors/ProjectorView.h"
+
+class DetailsPanel;
+class FleetWatch;
+class GroupList;
+class QSplitter;
+
+/// The groups, the list, and the details of the selected projector, side by side.
+class ListPane : public QWidget {
+  Q_OBJECT
+
+ public:
+  /// `watch` must outlive it.
+  explicit ListPane(FleetWatch& watch, QWidget* parent = nullptr);
+
+  ProjectorView& View() const { return *view_; }
+  /// `actions` are the buttons of the details.
+  void AddDetails(const QList<QAction*>& actions);
+
+  void SetProfiles(const std::vector<FleetProfile>& profiles);
+  /// Shows what the fleet knows of these now.
+  void Refresh(const std::vector<std::string>& ids);
+  /// The selected projectors; valid until the list changes.
+  std::vector<const ProjectorRow*> Selected() const;
+
+  QByteArray SaveState() const;
+  /// False where there is none.
+  bool RestoreState(const QByteArray& state);
+  /// Gives the list what the groups and details do not need.
+  void Spread(int width);
+
+ Q_SIGNALS:
+  /// Something has changed that counts.
+  void Counted(const std::vector<ProjectorRow>& rows);
+
+ private:
+  void Show(ProjectorRow& row) const;
+  void ShowDetails();
+  void Count();
+
+  FleetWatch& watch_;
+  QSplitter* sides_;
+  GroupList* groups_;
+  ProjectorView* view_;
+  DetailsPanel* details_ = nullptr;
+  QTimer counting_;
+};

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <map>
+#include <set>
+#include <vector>
+
+#include <QDateTime>
+#include <QWidget>
+
+#include "app/desktop/alerts/AlertRules.h"
+
+class QPushButton;
+class QTreeWidget;
+
+/// The alerts that are there now, with buttons to acknowledge them. An acknowledged alert stays in
+/// the list until its cause is gone; if the cause comes again, so does the alert.
+class AlertList : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit AlertList(QWidget* parent = nullptr);
+
+  void SetRules(const AlertRules& rules) { rules_ = rules; }
+  /// Looks for alerts.
+  void Look(const std::vector<ProjectorRow>& rows, WallTime now);
+  /// Those that nobody has acknowledged.
+  std::vector<Alert> Open() const;
+
+ Q_SIGNALS:
+  /// There are others than before, or some were acknowledged.
+  void Changed();
+  /// These are new: a line for each, for a notification.
+  void Raised(const QStringList& texts);
+  void Activated(const std::string& id);
+
+ private:
+  struct Entry {
+    QString text;
+    QDateTime since;
+    bool isAcknowledged = false;
+  };
+
+  QString TextOf(const Alert& alert, const ProjectorRow& row) const;
+  void Acknowledge(bool all);
+  void Show();
+
+  AlertRules rules_;
+  std::map<Alert, Entry> alerts_;
+  QTreeWidget* list_;
+  QPushButton* acknowledge_;
+  QPushButton* acknowledgeAll_;
+};

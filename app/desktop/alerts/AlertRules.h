@@ -1,0 +1,40 @@
+#pragma once
+
+#include <chrono>
+#include <vector>
+
+#include <QSettings>
+#include <QString>
+#include <QTime>
+
+#include "app/desktop/projectors/ProjectorRow.h"
+
+/// When somebody is to be told.
+struct AlertRules {
+  int lampPercent = 90;            ///< Of the rated hours; 0 for never.
+  std::chrono::minutes silent{5};  ///< 0 for never.
+  bool problems = true;            ///< Of fan, lamp, temperature, cover, filter and others.
+  bool drift = true;               ///< Settings that differ from what they should be.
+  bool notifies = true;            ///< On the desktop, too.
+  QTime quietFrom{}, quietTo{};    ///< No notifications then; the same for no such time.
+
+  bool IsQuiet(QTime now) const;
+  /// `settings` may be null.
+  static AlertRules Read(const QSettings* settings);
+  void Write(QSettings& settings) const;
+};
+
+/// Something about a projector that somebody should see to.
+struct Alert {
+  enum class Kind : std::uint8_t { Silent, Lamp, Drift, Problem };
+
+  std::string id;
+  Kind kind = Kind::Problem;
+  ProjectorPart part = ProjectorPart::Other;  ///< Of a problem.
+
+  friend auto operator<=>(const Alert&, const Alert&) = default;
+};
+
+/// What the rules find in the projectors at a time.
+std::vector<Alert> FindAlerts(const AlertRules& rules, const std::vector<ProjectorRow>& rows,
+                              WallTime now);

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include <QList>
+#include <QWidget>
+
+#include "app/desktop/projectors/ProjectorRow.h"
+#include "fleet/StateChange.h"
+
+class QAction;
+class QGridLayout;
+class QLabel;
+class QListWidget;
+class QProgressBar;
+
+/// How one projector is: its states, lamp and filter, what happened to it lately, and buttons for
+/// the usual work.
+class DetailsPanel : public QWidget {
+  Q_OBJECT
+
+ public:
+  /// `actions` become buttons; those with a menu open it.
+  explicit DetailsPanel(const QList<QAction*>& actions, QWidget* parent = nullptr);
+
+  /// `row` may be null. `count` is how many projectors are selected.
+  void Show(const ProjectorRow* row, std::size_t count, const std::vector<StateChange>& history);
+
+ private:
+  enum Fact {
+    State,
+    Power,
+    Source,
+    Problem,
+    Switches,
+    Lamp,
+    Filter,
+    Settings,
+    Answered,
+    FactCount
+  };
+
+  void ShowFacts(const ProjectorRow& row);
+  void ShowHistory(const std::vector<StateChange>& history);
+
+  QLabel* name_;
+  QLabel* place_;
+  QLabel* sign_;
+  std::array<QLabel*, FactCount> facts_{};
+  QProgressBar* lamp_;
+  QListWidget* events_;
+  QWidget* body_;
+};

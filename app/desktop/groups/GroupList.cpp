@@ -1,0 +1,80 @@
+#include "app/desktop/groups/GroupList.h"
+
+#include <algorithm>
+#include <array>
+#include <map>
+
+#include <QCollator>
+
+#include "app/desktop/projectors/StateTexts.h"
+#include "toolkit/IsolatedText.h"
+
+namespace {
+
+using Kind = ProjectorGroup::Kind;
+
+constexpr int kUsualWidth = 160;
+constexpr int kRowGap = 8;
+constexpr std::array kKinds{Kind::All, Kind::Problems, Kind::Off, Kind::Unreachable};
+
+}  // namespace
+
+GroupList::GroupList(QWidget* parent) : QListWidget(parent) {
+  setAccessibleName(tr("Groups"));
+  setItemDelegate(new IsolatedTexts(this));
+  connect(this, &QListWidget::currentRowChanged, this, [this](int row) {
+    if (row >= 0) Q_EMIT Chosen(groups_[static_cast<std::size_t>(row)]);
+  });
+}
+
+QSize GroupList::sizeHint() const { return {kUsualWidth, QListWidget::sizeHint().height()}; }
+
+void GroupList::Show(const std::vector<ProjectorRow>& rows) {
+  std::array<int, kKinds.size()> counts{};
+  std::map<std::string, int> tags;
+  for (const ProjectorRow& row : rows) {
+    for (std::size_t i = 0; i < kKinds.size(); ++i) counts[i] += ProjectorGroup{kKinds[i]}.Has(row);
+    for (const std::string& tag : row.profile.tags) ++tags[tag];
+  }
+  std::vector<ProjectorGroup> groups;
+  for (const Kind kind : kKinds) groups.push_back({kind});
+  for (const auto& [tag, count] : tags) groups.push_back({Kind::Tag, QString::fromStdString(tag)});
+  QCollator collator;
+  collator.setNumericMode(true);
+  std::ranges::stable_sort(groups.begin() + kKinds.size(), groups.end(),
+                           [&collator](const ProjectorGroup& a, const ProjectorGroup& b) {
+                             return collator.compare(a.tag, b.tag) < 0;
+                           });
+  if (groups != groups_) {
+    const int row = currentRow();
+    const ProjectorGroup chosen =
+        row < 0 ? ProjectorGroup() : groups_[static_cast<std::size_t>(row)];
+    const bool isLeft = std::ranges::find(groups, chosen) == groups.end();
+    {
+      const QSignalBlocker quiet(this);
+      groups_ = groups;
+      clear();
+      for (const ProjectorGroup& group : groups_) {
+        auto* entry = new QListWidgetItem(this);
+        entry->setSizeHint({0, fontMetrics().height() + kRowGap});
+        if (group.kind == Kind::Problems) entry->setIcon(StateTexts::Icon(Health::Error));
+        if (group.kind == Kind::Unreachable) entry->setIcon(StateTexts::Icon(Health::Unreachable));
+      }
+      Choose(chosen);
+    }
+    if (isLeft) Q_EMIT Chosen({});
+  }
+  const std::array<QString, kKinds.size()> names{tr("All"), tr("Problems"), tr("Off"),
+                                                 tr("Not reachable")};
+  for (std::size_t i = 0; i < groups_.size(); ++i) {
+    const bool isTag = i >= kKinds.size();
+    const QString name = isTag ? groups_[i].tag : names[i];
+    const int count = isTag ? tags[groups_[i].tag.toStdString()] : counts[i];
+    item(static_cast<int>(i))->setText(tr("%1 (%2)").arg(name).arg(count));
+  }
+}
+
+void GroupList::Choose(const ProjectorGroup& group) {
+  const auto found = std::ranges::find(groups_, group);
+  setCurrentRow(found == groups_.end() ? 0 : static_cast<int>(found - groups_.begin()));
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <memory>
+
+#include <QString>
+#include <QStringList>
+
+#include "snapshots/Snapshot.h"
+
+/// The presets: files of saved settings in one folder of the user's, `advanced-control/presets`
+/// below `~/.local/share` (or XDG_DATA_HOME). A preset is called like its file.
+namespace PresetFolder {
+
+QString Path();
+/// The names of all presets, sorted.
+QStringList Names();
+/// The file of a preset, whether or not it exists.
+QString FileOf(const QString& name);
+
+struct Contents {
+  std::shared_ptr<const Snapshot> snapshot;  ///< Null after an error.
+  QString error;
+};
+Contents Read(const QString& name);
+
+/// Writes a preset, and replaces one of the same name. One line that says what is wrong; empty when
+/// all is well.
+QString Write(const QString& name, const Snapshot& snapshot);
+
+}  // namespace PresetFolder

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include <QObject>
+
+class ProfileActions;
+class ProfileDocument;
+class QAction;
+class QWidget;
+
+/// Menu actions that bring many projectors into the profile file or out of it: found on the
+/// network, or as a table of comma-separated values.
+class TransferActions : public QObject {
+  Q_OBJECT
+
+ public:
+  /// The changes are made through `edits`. Both must outlive this object, which the window owns.
+  TransferActions(ProfileDocument& document, ProfileActions& edits, QWidget& window);
+
+  QAction* Find() const { return find_; }
+  QAction* Import() const { return import_; }
+  QAction* Export() const { return export_; }
+
+  void Update();
+
+  /// Takes the rows of a table into the file, and tells what came of them.
+  void ImportFile(const QString& path);
+
+ private:
+  void AskForSearch();
+  void AskForImport();
+  void AskForExport();
+
+  ProfileDocument& document_;
+  ProfileActions& edits_;
+  QWidget& window_;
+  QAction* find_;
+  QAction* import_;
+  QAction* export_;
+};

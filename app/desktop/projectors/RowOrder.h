@@ -1,0 +1,30 @@
+#pragma once
+
+#include <type_traits>
+#include <vector>
+
+#include <QString>
+#include <Qt>
+
+// Each key is worked out once, so that ten thousand rows are sorted in a few milliseconds. Equal
+// ones keep their order.
+
+/// Sorts positions by numbers, which are in the order of the positions.
+void SortByNumbers(std::vector<int>& positions, Qt::SortOrder order,
+                   const std::vector<double>& numbers);
+/// The same by texts. Numbers within texts sort as numbers, and case does not count.
+void SortByTexts(std::vector<int>& positions, Qt::SortOrder order,
+                 const std::vector<QString>& texts);
+
+/// Sorts positions by the number or text that `keyOf` returns for a position.
+void SortBy(std::vector<int>& positions, Qt::SortOrder order, const auto& keyOf) {
+  using Key = decltype(keyOf(0));
+  std::vector<Key> keys;
+  keys.reserve(positions.size());
+  for (const int position : positions) keys.push_back(keyOf(position));
+  if constexpr (std::is_same_v<Key, double>) {
+    SortByNumbers(positions, order, keys);
+  } else {
+    SortByTexts(positions, order, keys);
+  }
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <memory>
+#include <unordered_map>
+
+#include <QString>
+#include <QStringList>
+
+#include "app/desktop/projectors/ProjectorRow.h"
+
+/// The captions of a model's tabs, in tab order, in the catalog's language.
+QStringList TabNames(const CModelInfo2& model);
+
+/// What the search finds in a projector, in lower case.
+class SearchTexts {
+ public:
+  /// Name, model, tags, address and notes.
+  static QString OfProjector(const FleetProfile& profile);
+
+  /// The names of the tabs and settings of a model; worked out once for each.
+  const QString& OfModel(const std::shared_ptr<const ProfileModel>& model);
+
+ private:
+  std::unordered_map<std::shared_ptr<const ProfileModel>, QString> models_;
+};

@@ -1,0 +1,43 @@
+#include "app/desktop/projectors/SessionStore.h"
+
+#include <algorithm>
+
+std::shared_ptr<ProjectorSession> SessionStore::Get(const FleetProfile& profile) {
+  const std::string id = FleetIdOf(profile);
+  std::shared_ptr<ProjectorSession>& session = sessions_[id];
+  if (!session) {
+    ProjectorProfile made = MakeProjectorProfile(profile);
+    LoggingChannel::Observer observer = makeObserver_(id, made);
+    session = std::make_shared<ProjectorSession>(std::move(made), std::move(observer));
+  }
+  return session;
+}
+
+std::shared_ptr<ProjectorSession> SessionStore::Find(const std::string& id) const {
+  const auto found = sessions_.find(id);
+  return found == sessions_.end() ? nullptr : found->second;
+}
+
+std::string SessionStore::IdOf(const ProjectorSession& session) const {
+  const auto found = std::ranges::find_if(
+      sessions_, [&session](const auto& one) { return one.second.get() == &session; });
+  return found == sessions_.end() ? std::string() : found->first;
+}
+
+std::vector<std::shared_ptr<ProjectorSession>> SessionStore::Keep(
+    const std::vector<FleetProfile>& profiles) {
+  std::map<std::string, const FleetProfile*> present;
+  for (const FleetProfile& profile : profiles) present.emplace(FleetIdOf(profile), &profile);
+  std::vector<std::shared_ptr<ProjectorSession>> others;
+  for (auto session = sessions_.begin(); session != sessions_.end();) {
+    const auto profile = present.find(session->first);
+    if (profile != present.end() &&
+        MakeProjectorProfile(*profile->second) == session->second->Profile()) {
+      ++session;
+      continue;
+    }
+    others.push_back(std::move(session->second));
+    session = sessions_.erase(session);
+  }
+  return others;
+}

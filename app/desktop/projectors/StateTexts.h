@@ -1,0 +1,41 @@
+#pragma once
+
+#include <chrono>
+
+#include <QCoreApplication>
+#include <QIcon>
+#include <QString>
+
+#include "app/desktop/projectors/ProjectorRow.h"
+#include "fleet/StateChange.h"
+
+/// Says in words how a projector is, in the program's language. A text is empty where nothing is
+/// known.
+class StateTexts {
+  Q_DECLARE_TR_FUNCTIONS(StateTexts)
+
+ public:
+  /// "OK", "Problem", "No answer" and so on.
+  static QString State(const ProjectorRow& row);
+  static QString Power(const LiveState& state);
+  static QString Power(PowerState power);
+  /// The name of the source, else its number.
+  static QString Source(const LiveState& state);
+  /// "Lamp: error, Filter: warning"
+  static QString Problems(const LiveState& state);
+  /// "1234 h"
+  static QString LampHours(const LiveState& state);
+  static QString Hours(int hours);
+  /// "3 differ", or "as it should be".
+  static QString Drift(const LiveState& state);
+  /// "12 s ago"
+  static QString Ago(std::chrono::seconds age);
+  /// How long ago the projector answered last.
+  static QString Answered(const LiveState& state, WallTime now);
+  /// "Power: Standby → On"
+  static QString Change(const StateChange& change);
+  static QString Part(ProjectorPart part);
+
+  /// A sign of a shape and a color of its own, so that neither is needed to tell them apart.
+  static QIcon Icon(Health health);
+};

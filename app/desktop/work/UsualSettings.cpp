@@ -1,0 +1,17 @@
+#include "app/desktop/work/UsualSettings.h"
+
+const ModelSettings& UsualSettings::Of(const std::shared_ptr<const ModelData>& model) {
+  const auto found = models_.find(model);
+  if (found != models_.end()) return found->second;
+  return models_.emplace(model, ModelSettings(model ? *model : ModelData())).first->second;
+}
+
+std::string UsualSettings::InputKey(const std::shared_ptr<const ModelData>& model) {
+  const ModelSetting* const input = Of(model).Input();
+  return input == nullptr ? std::string() : std::string(input->key);
+}
+
+bool UsualSettings::Has(const std::shared_ptr<const ModelData>& model, const std::string& key) {
+  const ModelSetting* const setting = Of(model).Find(key);
+  return setting != nullptr && setting->changeable;
+}

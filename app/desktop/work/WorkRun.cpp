@@ -1,0 +1,202 @@
+#include "app/desktop/work/WorkRun.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "app/desktop/projectors/FleetWatch.h"
+
+namespace {
+
+constexpr std::chrono::milliseconds kLook{100};
+
+// The reasons of jobs, which every program shows and which are English in the sources.
+[[maybe_unused]] constexpr const char* kReasons[] = {
+    QT_TRANSLATE_NOOP("FleetWork", "refused"),
+    QT_TRANSLATE_NOOP("FleetWork", "the projector is busy or in standby"),
+    QT_TRANSLATE_NOOP("FleetWork", "the projector does not have it"),
+    QT_TRANSLATE_NOOP("FleetWork", "the model does not allow this value"),
+    QT_TRANSLATE_NOOP("FleetWork", "it cannot be set"),
+    QT_TRANSLATE_NOOP("FleetWork", "the model does not have it"),
+    QT_TRANSLATE_NOOP("FleetWork", "the model has no such setting"),
+    QT_TRANSLATE_NOOP("FleetWork", "there is no snapshot for it"),
+    QT_TRANSLATE_NOOP("FleetWork", "not confirmed, it may have changed"),
+    QT_TRANSLATE_NOOP("FleetWork", "not all of it could be sent"),
+    QT_TRANSLATE_NOOP("FleetWork", "no answer"),
+    QT_TRANSLATE_NOOP("FleetWork", "not reachable"),
+    QT_TRANSLATE_NOOP("FleetWork", "not connected"),
+    QT_TRANSLATE_NOOP("FleetWork", "wrong connection parameters"),
+    QT_TRANSLATE_NOOP("FleetWork", "unknown host name"),
+    QT_TRANSLATE_NOOP("FleetWork", "connection lost"),
+    QT_TRANSLATE_NOOP("FleetWork", "answers are not understood"),
+    QT_TRANSLATE_NOOP("FleetWork", "another version of the protocol"),
+    QT_TRANSLATE_NOOP("FleetWork", "password missing or wrong"),
+};
+
+// "picture.brightness: refused" names the setting with its key.
+QString Translated(const std::string& reason) {
+  const std::size_t colon = reason.find(": ");
+  const std::string text = colon == std::string::npos ? reason : reason.substr(colon + 2);
+  return QCoreApplication::translate("FleetWork", text.c_str());
+}
+
+}  // namespace
+
+struct WorkRun::Job {
+  Job(FleetWatch& watch, const SettingTexts& texts, WorkPart part)
+      : work(std::move(part.work)),
+        targets(std::move(part.targets)),
+        job(&watch.Projectors(), targets, work, texts) {}
+
+  const FleetWork work;
+  const std::vector<FleetTarget> targets;
+  FleetJob job;
+};
+
+WorkRun::WorkRun(FleetWatch& watch, const SettingTexts& texts, WorkPlan plan, QObject* parent)
+    : QObject(parent), watch_(watch), texts_(texts), plan_(std::move(plan)) {
+  const auto add = [this](const std::string& id, WorkLine line) {
+    places_.emplace(id, lines_.size());
+    lines_.push_back(std::move(line));
+  };
+  for (const WorkPart& part : plan_.parts) {
+    for (const FleetTarget& target : part.targets) add(target.id, {.id = target.id});
+  }
+  for (const std::string& id : plan_.missing) {
+    add(id,
+        {.id = id, .outcome = WorkOutcome::Refused, .reason = tr("the model does not have it")});
+  }
+  connect(&looking_, &QTimer::timeout, this, &WorkRun::Look);
+}
+
+WorkRun::~WorkRun() {
+  for (const auto& job : jobs_) job->job.Cancel();
+}
+
+void WorkRun::Start() { Begin(plan_.parts); }
+
+void WorkRun::Begin(std::vector<WorkPart> parts) {
+  for (WorkPart& part : parts) {
+    for (const FleetTarget& target : part.targets) {
+      lines_[places_.at(target.id)] = {.id = target.id};
+      const auto state = watch_.Projectors().State(target.id);
+      powerBefore_.try_emplace(target.id, state ? state->power : std::nullopt);
+    }
+    if (!part.targets.empty())
+      jobs_.push_back(std::make_unique<Job>(watch_, texts_, std::move(part)));
+  }
+  looking_.start(kLook);
+  Q_EMIT Progressed();
+}
+
+void WorkRun::Cancel() {
+  for (const auto& job : jobs_) job->job.Cancel();
+}
+
+void WorkRun::RetryFailed() {
+  std::vector<WorkPart> parts = plan_.parts;
+  for (WorkPart& part : parts) {
+    std::erase_if(part.targets, [this](const FleetTarget& target) {
+      return !lines_[places_.at(target.id)].HasFailed();
+    });
+  }
+  Begin(std::move(parts));
+}
+
+void WorkRun::Look() {
+  bool isOver = true;
+  for (const auto& job : jobs_) {
+    const auto [finished, all] = job->job.HowFar();
+    isOver = isOver && finished == all;
+  }
+  for (const auto& job : jobs_) Collect(*job);
+  if (isOver) {
+    looking_.stop();
+    for (const auto& job : jobs_) {
+      undo_.merge(job->job.Undo());
+      for (const FleetTarget& target : job->targets) watch_.Projectors().AskSoon(target.id);
+    }
+    jobs_.clear();
+  }
+  Q_EMIT Progressed();
+  if (isOver) Q_EMIT Finished();
+}
+
+void WorkRun::Collect(const Job& job) {
+  const std::vector<WorkResult> results = job.job.Results();
+  for (std::size_t i = 0; i < results.size(); ++i) {
+    const std::string& id = job.targets[i].id;
+    WorkLine& line = lines_[places_.at(id)];
+    line.outcome = results[i].outcome;
+    line.reason = results[i].reason.empty() ? QString() : Translated(results[i].reason);
+    if (results[i].snapshot)
+      taken_.try_emplace(id, std::make_shared<const Snapshot>(*results[i].snapshot));
+  }
+}
+
+QString WorkRun::Summary() const {
+  const auto count = [this](const auto& is) {
+    return static_cast<int>(std::ranges::count_if(lines_, is));
+  };
+  const int done = count([](const WorkLine& line) { return line.outcome == WorkOutcome::Done; });
+  const int pending =
+      count([](const WorkLine& line) { return line.outcome == WorkOutcome::Pending; });
+  const int failed = count([](const WorkLine& line) { return line.HasFailed(); });
+  QString text = tr("%1 of %2 done").arg(done + pending).arg(lines_.size());
+  if (pending > 0) text += tr(", of these %1 still under way").arg(pending);
+  if (failed > 0) text += tr(", %1 failed").arg(failed);
+  return text;
+}
+
+std::optional<WorkPart> WorkRun::PowerUndo(bool on) const {
+  WorkPart undo{.work = SwitchPower{.on = on}, .targets = {}};
+  for (const WorkPart& part : plan_.parts) {
+    const auto* power = std::get_if<SwitchPower>(&part.work);
+    if (power == nullptr || power->on == on) continue;
+    for (const FleetTarget& target : part.targets) {
+      const WorkOutcome outcome = lines_[places_.at(target.id)].outcome;
+      const bool isDone = outcome == WorkOutcome::Done || outcome == WorkOutcome::Pending;
+      const auto before = powerBefore_.find(target.id);
+      if (!isDone || before == powerBefore_.end() || !before->second) continue;
+      const bool wasOn =
+          *before->second == PowerState::On || *before->second == PowerState::WarmingUp;
+      if (wasOn == on) undo.targets.push_back(target);
+    }
+  }
+  return undo.targets.empty() ? std::nullopt : std::optional(std::move(undo));
+}
+
+std::optional<WorkPlan> WorkRun::UndoPlan() const {
+  WorkPlan undo{.title = tr("Undo: %1").arg(plan_.title), .question = {}, .parts = {}};
+  for (const bool on : {false, true}) {
+    if (auto part = PowerUndo(on)) undo.parts.push_back(std::move(*part));
+  }
+  WorkPart settings{.work = ApplySnapshots{undo_}, .targets = {}};
+  for (const WorkPart& part : plan_.parts) {
+    for (const FleetTarget& target : part.targets) {
+      if (undo_.contains(target.id)) settings.targets.push_back(target);
+    }
+  }
+  if (!settings.targets.empty()) undo.parts.push_back(std::move(settings));
+  if (undo.parts.empty()) return std::nullopt;
+  return undo;
+}
+
+QString WorkRun::TextOf(const WorkLine& line) {
+  switch (line.outcome) {
+    case WorkOutcome::Waiting:
+      return {};
+    case WorkOutcome::Working:
+      return tr("working…");
+    case WorkOutcome::Done:
+      return tr("done");
+    case WorkOutcome::Pending:
+      return tr("accepted, still under way");
+    case WorkOutcome::Refused:
+      return line.reason.isEmpty() ? tr("refused") : line.reason;
+    case WorkOutcome::NoAnswer:
+      return line.reason.isEmpty() ? tr("no answer") : line.reason;
+    case WorkOutcome::Stopped:
+      return tr("stopped");
+  }
+  return {};
+}

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <QCoreApplication>
+#include <QObject>
+#include <QTimer>
+
+#include "app/desktop/work/WorkPlan.h"
+#include "fleet/FleetJob.h"
+
+class FleetWatch;
+
+/// What came of the work on one projector.
+struct WorkLine {
+  std::string id;
+  WorkOutcome outcome = WorkOutcome::Waiting;
+  QString reason{};
+
+  bool HasFailed() const {
+    return outcome == WorkOutcome::Refused || outcome == WorkOutcome::NoAnswer ||
+           outcome == WorkOutcome::Stopped;
+  }
+};
+
+/// Carries out a plan with jobs of the fleet, again on those that failed, and knows what undoes it.
+class WorkRun : public QObject {
+  Q_OBJECT
+
+ public:
+  /// `watch` and `texts` must outlive it.
+  WorkRun(FleetWatch& watch, const SettingTexts& texts, WorkPlan plan, QObject* parent = nullptr);
+  ~WorkRun() override;
+
+  void Start();
+  void Cancel();
+  bool IsRunning() const { return !jobs_.empty(); }
+  /// Begins again with those that failed.
+  void RetryFailed();
+
+  const WorkPlan& Plan() const { return plan_; }
+  /// In the order of the plan.
+  const std::vector<WorkLine>& Lines() const { return lines_; }
+  /// "137 of 500 done, 3 failed"
+  QString Summary() const;
+  /// The snapshots that were taken.
+  const SnapshotsById& Taken() const { return taken_; }
+
+  /// What undoes all that has been done; nothing while that is nothing.
+  std::optional<WorkPlan> UndoPlan() const;
+
+  static QString TextOf(const WorkLine& line);
+
+ Q_SIGNALS:
+  void Progressed();
+  void Finished();
+
+ private:
+  struct Job;
+
+  void Begin(std::vector<WorkPart> parts);
+  void Look();
+  void Collect(const Job& job);
+  std::optional<WorkPart> PowerUndo(bool on) const;
+
+  FleetWatch& watch_;
+  const SettingTexts& texts_;
+  const WorkPlan plan_;
+  std::vector<WorkLine> lines_;
+  std::map<std::string, std::size_t> places_;  // of the lines
+  std::map<std::string, std::optional<PowerState>> powerBefore_;
+  std::vector<std::unique_ptr<Job>> jobs_;
+  SnapshotsById undo_;
+  SnapshotsById taken_;
+  QTimer looking_;
+};

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+
+#include "AdvancedControlExport.h"
+#include "Namespace.h"
+
+namespace AdvancedControl {
+
+class WantedSettings;
+
+/// What the dialog of a projector knows beyond its model; pages and pop-ups find it like the model
+/// data. User-interface thread only.
+class ADVANCED_CONTROL_EXPORT DialogContext {
+ public:
+  virtual ~DialogContext() = default;
+
+  /// The projector's own name, UTF-8; empty if the host gave none.
+  virtual std::string ProjectorName() const { return {}; }
+  /// The settings that the projector should have; null if the host gave none.
+  virtual const WantedSettings* Wanted() const { return nullptr; }
+};
+
+}  // namespace AdvancedControl

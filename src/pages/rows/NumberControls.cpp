@@ -1,0 +1,78 @@
+#include "pages/rows/NumberControls.h"
+
+#include <utility>
+
+#include <QAbstractButton>
+#include <QLineEdit>
+
+#include "pages/common/SettingsDialog.h"
+#include "toolkit/CSliderCtrl.h"
+
+namespace AdvancedControl {
+
+NumberControls::NumberControls(const SettingsDialog& dialog, const ValueIds& ids)
+    : minus_(&dialog.Item<QAbstractButton>(ids.minus)),
+      slider_(ids.slider != 0 ? &dialog.Item<CSliderCtrl>(ids.slider) : nullptr),
+      plus_(&dialog.Item<QAbstractButton>(ids.plus)),
+      field_(&dialog.Item<QLineEdit>(ids.field)) {
+  field_->setContextMenuPolicy(Qt::NoContextMenu);  // the row's own menu opens there too
+}
+
+bool NumberControls::Change(const QWidget& control) const {
+  return &control == minus_ || &control == plus_ || &control == slider_;
+}
+
+bool NumberControls::IsPlus(const QWidget& control) const { return &control == plus_; }
+
+bool NumberControls::AreEnabled() const { return minus_->isEnabledTo(minus_->window()); }
+
+void NumberControls::Enable() { EnableAll(true); }
+
+void NumberControls::Disable() {
+  EnableAll(false);
+  ShowNumber({});
+}
+
+void NumberControls::EnableAll(bool enable) {
+  minus_->setEnabled(enable);
+  if (slider_ != nullptr) slider_->setEnabled(enable);
+  plus_->setEnabled(enable);
+}
+
+void NumberControls::ShowNumber(std::optional<int> number) {
+  number_ = number;
+  ShowField();
+}
+
+void NumberControls::MoveSlider(int value) {
+  if (slider_ == nullptr) return;
+  if (pending_.keepsSlider || (collects_ && slider_->isSliderDown())) {
+    heldBack_ = value;
+  } else {
+    heldBack_.reset();
+    slider_->setValue(value);
+  }
+}
+
+// A pending number is as light as a hint, because the projector does not have it yet.
+void NumberControls::ShowField() {
+  QPalette palette;
+  if (pending_.number) {
+    palette = field_->palette();
+    palette.setColor(QPalette::Text, palette.color(QPalette::PlaceholderText));
+  }
+  if (field_->testAttribute(Qt::WA_SetPalette) || pending_.number) field_->setPalette(palette);
+  const auto shown = pending_.number ? pending_.number : number_;
+  field_->setText(shown ? QString::number(*shown) : QString());
+}
+
+void NumberControls::ShowPending(const Pending& pending) {
+  if (std::exchange(pending_, pending) != pending) ShowField();
+}
+
+void NumberControls::Collect(bool collects) {
+  collects_ = collects;
+  if (!collects && heldBack_) slider_->setValue(*std::exchange(heldBack_, std::nullopt));
+}
+
+}  // namespace AdvancedControl

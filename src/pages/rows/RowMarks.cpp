@@ -1,0 +1,99 @@
+#include "pages/rows/RowMarks.h"
+
+#include <utility>
+
+#include <QEvent>
+#include <QPainter>
+#include <QScrollArea>
+#include <QStyle>
+
+#include "pages/common/SettingsDialog.h"
+
+namespace AdvancedControl {
+
+namespace {
+
+// In pixels.
+constexpr int kBarWidth = 3;
+constexpr int kSignWidth = 6;
+constexpr int kSpace = kBarWidth + kSignWidth + 1;  // beside a row
+
+// The part of the page that is visible, in the window's coordinates.
+QRect VisiblePart(const QWidget& page) {
+  if (page.isWindow()) return page.rect();
+  for (const QWidget* area = page.parentWidget(); area != nullptr; area = area->parentWidget()) {
+    if (qobject_cast<const QScrollArea*>(area) == nullptr) continue;
+    return {area->mapTo(page.window(), QPoint()), area->size()};
+  }
+  return {page.mapTo(page.window(), QPoint()), page.size()};
+}
+
+}  // namespace
+
+RowMarks::RowMarks(SettingsDialog& page) : QWidget(page.window()), page_(page) {
+  setAttribute(Qt::WA_TransparentForMouseEvents);
+  setAttribute(Qt::WA_NoSystemBackground);
+  page.installEventFilter(this);
+  if (!page.isWindow() && page.parentWidget() != nullptr) {
+    page.parentWidget()->installEventFilter(this);  // moves when the page scrolls
+  }
+  Place();
+}
+
+void RowMarks::Show(std::vector<Mark> marks) {
+  if (marks == marks_) return;
+  marks_ = std::move(marks);
+  Place();
+}
+
+void RowMarks::Place() {
+  setGeometry(VisiblePart(page_).adjusted(-kSpace, 0, kSpace, 0));
+  setVisible(!marks_.empty() && page_.isVisible());
+  raise();
+  update();
+}
+
+bool RowMarks::eventFilter(QObject*, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::Show:
+    case QEvent::Hide:
+    case QEvent::Move:
+    case QEvent::Resize:
+    case QEvent::LayoutRequest:
+      Place();
+      break;
+    default:
+      break;
+  }
+  return false;
+}
+
+void RowMarks::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  QFont bold = font();
+  bold.setBold(true);
+  painter.setFont(bold);
+  const QPalette& colors = palette();
+  const bool isDark = colors.color(QPalette::Window).lightness() < 128;
+  const QColor warning = isDark ? QColor(255, 140, 120) : QColor(190, 30, 20);
+  for (const Mark& mark : marks_) {
+    const QWidget* rows = page_.GetDlgItem(mark.control)->parentWidget();
+    QRect row = page_.RowRect(mark.control);
+    row.moveTopLeft(rows->mapTo(window(), row.topLeft()) - pos());
+    const auto place = [&](int left, int width) {
+      const QRect at(row.left() - left, row.top(), width, row.height());
+      return QStyle::visualRect(layoutDirection(), row, at);
+    };
+    if (mark.differs) {
+      painter.fillRect(place(kBarWidth + 1, kBarWidth).adjusted(0, 2, 0, -2),
+                       colors.color(QPalette::Highlight));
+    }
+    if (mark.refused) {
+      painter.setPen(warning);
+      painter.drawText(place(mark.differs ? kSpace : kSignWidth + 1, kSignWidth),
+                       Qt::AlignCenter | Qt::TextDontClip, QStringLiteral("!"));
+    }
+  }
+}
+
+}  // namespace AdvancedControl

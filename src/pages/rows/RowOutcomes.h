@@ -1,0 +1,31 @@
+#pragma once
+
+#include <optional>
+
+#include <QString>
+
+#include "Namespace.h"
+
+namespace AdvancedControl {
+
+class RowView;
+
+// What a row's view knows of the projector's value, and says about the user's actions on the row.
+// User-interface thread only.
+
+/// The row's name for the user: its caption and what distinguishes it from other parts of it.
+QString NameOf(const RowView& row);
+
+/// Remembers the position that the projector has now: it was read, or a change was accepted.
+void Confirm(RowView& row, std::optional<int> position);
+
+/// Tells the user that the projector did not accept `tried`, the text of a value or of a button, in
+/// the line beside Close and by a mark on the row, which stays until `Confirm`.
+void TellRefusal(RowView& row, const QString& tried);
+
+/// The position that the row should have now; nothing if any will do.
+std::optional<int> WantedPosition(const RowView& row);
+/// Whether the projector has another position.
+bool Differs(const RowView& row);
+
+}  // namespace AdvancedControl

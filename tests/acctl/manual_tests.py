@@ -1,0 +1,138 @@
+"""What explains acctl and what is built on it: help, completion, the manual's commands, and integrations/."""
+
+import json
+import re
+import shutil
+import subprocess
+
+from script_support import PROGRAMS, SOURCES, Building
+
+
+class LookingUp(Building):
+    def test_settings_models_and_help_are_explained(self):
+        for words, output in (
+                (["explain", "active-iris"], "values +Off \\(off\\), Theater \\(theater\\), "),
+                (["explain", "volume"], "short name: volume\n(.*\n)+.*kept +for each input source"),
+                (["explain", "power"], "commands +get, set"),
+                (["models", "Model 5-*"], "^Model 5-30 +5 +30 +1 projectors +\\d+ settings$"),
+                (["help", "set"], "Use: acctl set P KEY=VALUE(.*\n)+Examples\n  acctl set"),
+                (["set", "--help"], "  --wait TIME"), (["--help"], "^  explain  ")):
+            self.check(words, 0, output)
+        self.check(["explain", "smell"], 2, errors="no model has such a setting")
+
+    def test_profiles_come_and_go_as_tables(self):
+        csv = self.acctl("export", "@hall").stdout
+        self.assertIn("Lecture hall", csv)
+        (self.folder / "new.csv").write_text("name,address,tags\nA,192.0.2.7,x\nB,nonsense:nonsense:1,y\n")
+        self.check(["--profiles", "new.json", "import", "new.csv"], 1, "^1 added, 0 known, 1 wrong", "new.csv:3: ")
+        self.check(["--profiles", "new.json", "list", "@x", "--brief"], 0, "^A\n$")
+        run = self.acctl("import", "new.csv", ACCTL_PROFILES="")
+        self.assertEqual((run.returncode, run.stderr), (2, "acctl: name the profile file with --profiles\n"))
+        port = str(self.pjlink[0]["connection"]["network"]["port"])
+        self.check(["find", "127.0.0.1", "--port", port, "--add", "found.json"], 0, "1 added, 0 moved, 0 known")
+        self.check(["find", "127.0.0.1", "--port", port, "--add", "found.json"], 0, "0 added, 0 moved, 1 known")
+
+    def test_manual_pages_are_sound(self):
+        commands = re.findall(r"^  (\w+) {2,}", self.acctl("--help").stdout.split("Options")[0], re.MULTILINE)
+        self.assertGreater(len(commands), 15)
+        for command in ["", *commands]:
+            page = self.acctl("man", *command.split()).stdout
+            warnings = subprocess.run(["groff", "-man", "-Tutf8", "-ww", "-z"], input=page, text=True,
+                                      capture_output=True, check=True).stderr
+            self.assertEqual(warnings, "", command)
+
+    COMPLETED = (("acctl exp", ["explain", "export"]), ("acctl get @buil", ["@building-1", "@building-3"]),
+                 ("acctl set Office contr", ["contrast"]), ("acctl list --for", ["--format"]),
+                 ("acctl get Office power -o js", ["json", "jsonl"]), ("acctl save Office -o sav", ["saved"]),
+                 ("acctl reset Office status.", ["status.filter-time", "status.lamp-time"]))
+
+    def completed(self, shell, line):
+        completion = SOURCES / f"app/acctl/completion.{shell}"
+        if shell == "fish":
+            return self.run_program("fish", "-c", f"source {completion}; complete -C '{line}'")
+        if shell == "zsh":
+            stubs = "compadd() { shift; print -l -- $@ }; _files() { print -l -- $PREFIX*(N) }"
+            return self.run_program("zsh", "-fc", f"{stubs}; words=(${{(z)1}}); CURRENT=$#words; PREFIX=$words[-1]; "
+                                    f"source {completion}", "zsh", line)
+        return self.run_program("bash", "-c", f"source {completion}; COMP_WORDS=($1); "
+                                "COMP_CWORD=$((${#COMP_WORDS[@]} - 1)); _acctl; printf '%s\\n' \"${COMPREPLY[@]}\"",
+                                "bash", line)
+
+    def test_shells_complete_the_same(self):
+        (self.folder / "saved").mkdir()
+        for shell in ("bash", "zsh", "fish"):
+            for line, words in self.COMPLETED:
+                with self.subTest(shell=shell, line=line):
+                    run = self.completed(shell, line)
+                    found = [word.split("\t")[0].rstrip("/") for word in run.stdout.splitlines()]
+                    self.assertEqual(sorted(found), words, run.stderr)
+
+
+class Manual(Building):
+    def test_every_command_of_the_manual_works(self):
+        for page in sorted((SOURCES / "docs/acctl").glob("*.md")):
+            blocks = re.findall(r"^```sh\n(.*?)^```", page.read_text(), re.DOTALL | re.MULTILINE)
+            self.assertTrue(blocks)
+            for block in blocks:
+                with self.subTest(page=page.name, block=block):
+                    run = self.run_program("bash", "-euo", "pipefail", "-c", block, ACCTL_INTERVAL="0.1")
+                    self.assertEqual((run.returncode, "no such" in run.stderr), (0, False), run.stderr + run.stdout)
+
+
+class Integrations(Building):
+    def test_the_monitoring_plugin_has_the_usual_exit_codes(self):
+        for words, code, output in (
+                (["*"], 0, "^PROJECTOR OK - .* \\| 'Lecture hall'=\\d+;;;0 .*projectors=4 faulty=0\n$"),
+                (["-w", "1", "Office"], 1, "^PROJECTOR WARNING - Office: lamp has \\d+ h \\|"),
+                (["-w", "1", "-c", "2", "*"], 2, "CRITICAL"), (["--nonsense", "Office"], 3, "^$"),
+                (["Nobody"], 3, "^PROJECTOR UNKNOWN - acctl: there is no projector")):
+            run = self.run_program("check_projector", *words)
+            with self.subTest(words=words):
+                self.assertEqual(run.returncode, code, run.stdout)
+                self.assertRegex(run.stdout, output)
+        self.stop(self.simulator)
+        run = self.run_program("check_projector", "Office")
+        self.assertEqual(run.returncode, 2)
+        self.assertRegex(run.stdout, "^PROJECTOR CRITICAL - Office: no answer")
+
+    def test_units_are_sound_and_do_what_they_say(self):
+        units = SOURCES / "integrations/systemd"
+        for unit in sorted(units.glob("*.timer")):
+            self.assertIn("Persistent=true", unit.read_text())
+            calendar = re.search("^OnCalendar=(.*)$", unit.read_text(), re.MULTILINE)[1]
+            self.assertEqual(self.run_program("systemd-analyze", "calendar", calendar).returncode, 0)
+            service = unit.with_suffix(".service").read_text()
+            line = re.search("^ExecStart=(.*)$", service, re.MULTILINE)[1].replace("%S", str(self.folder))
+            run = self.run_program("bash", "-c", line.replace("${PROJECTORS}", "'*'"), ACCTL_INTERVAL="0.1")
+            self.assertEqual(run.returncode, 0, run.stderr)
+        self.assertTrue((self.folder / "projectors/saved/Office.json").exists())
+
+    def module(self, *modes, **arguments):
+        values = {"projectors": "*", "executable": str(PROGRAMS / "acctl"), "settings": {"contrast": "-3"}, **arguments}
+        modes = {f"_ansible_{mode}": True for mode in modes}
+        run = self.run_program("/usr/bin/python3", SOURCES / "integrations/ansible/plugins/modules/settings.py",
+                               text=json.dumps({"ANSIBLE_MODULE_ARGS": {**values, **modes}}))
+        return json.loads(run.stdout)
+
+    def test_the_ansible_module_changes_once(self):
+        checked = self.module("check_mode", "diff")
+        self.assertTrue(checked["changed"])
+        self.assertIn("Office: main.contrast=-3\n", checked["diff"]["after"])
+        self.assertTrue(self.module()["changed"])
+        self.assertFalse(self.module()["changed"])
+        self.assertFalse(self.module("check_mode")["changed"])
+        failed = self.module(settings={"contrast": 99})
+        self.assertTrue(failed["failed"])
+        self.assertIn("'99' is not one of", failed["msg"])
+
+    def test_a_playbook_changes_nothing_the_second_time(self):
+        (self.folder / "library").mkdir()
+        shutil.copy(SOURCES / "integrations/ansible/plugins/modules/settings.py", self.folder / "library")
+        (self.folder / "play.yml").write_text(
+            "- hosts: localhost\n  gather_facts: false\n  tasks:\n    - settings:\n        projectors: '@building-3'\n"
+            "        settings: {contrast: -3, blank: 'on'}\n        where: brightness<100\n")
+        for changed in (1, 0):
+            run = self.run_program("ansible-playbook", "-i", "localhost,", "-c", "local", "play.yml",
+                                   LC_ALL="C.UTF-8")
+            self.assertEqual(run.returncode, 0, run.stdout + run.stderr)
+            self.assertRegex(run.stdout, f"ok=1 +changed={changed} ")

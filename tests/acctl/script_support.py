@@ -1,0 +1,91 @@
+"""A small building of simulated projectors, and acctl to work on them."""
+
+import json
+import os
+import re
+import shutil
+import subprocess
+import tempfile
+import unittest
+from pathlib import Path
+
+PROGRAMS = Path(os.environ["PROGRAMS"])
+SOURCES = Path(__file__).resolve().parents[2]
+ROOMS = {"Lecture hall": ("Projector 5-30", ["building-3", "hall"]), "Seminar 1": ("Projector 5-31", ["building-3"]),
+         "Seminar 2": ("Projector 4-24", ["building-3"]), "Office": ("Projector 2-6", ["building-1"])}
+
+
+def write_rooms(path):
+    profiles = json.loads((PROGRAMS / "projectors.json").read_text())
+    known = {profile["name"]: profile for profile in profiles["projectors"]}
+    profiles["projectors"] = [{**known[model], "name": name, "tags": tags, "identity": "id:" + name,
+                               "connection": {"network": {"address": "192.0.2.1", "port": 4352}}}
+                              for name, (model, tags) in ROOMS.items()]
+    path.write_text(json.dumps(profiles))
+
+
+class Building(unittest.TestCase):
+    """Each test has projectors of its own, in their first state, and a folder."""
+
+    def setUp(self):
+        self.folder = Path(tempfile.mkdtemp(prefix="acctl-"))
+        self.addCleanup(shutil.rmtree, self.folder)
+        write_rooms(self.folder / "rooms.json")
+        self.simulator = self.start_simulator()
+        self.environment = {**os.environ, "LC_ALL": "C", "HOME": str(self.folder), "ACCTL_PROFILES": "served.json",
+                            "PATH": f"{PROGRAMS}:{SOURCES}/integrations/monitoring:{os.environ['PATH']}",
+                            **{f"XDG_{name}_HOME": str(self.folder / name.lower())
+                               for name in ("CACHE", "CONFIG", "STATE")}}
+
+    def start_simulator(self, *options):
+        simulator = subprocess.Popen(
+            [PROGRAMS / "advanced-control-simulator", "--profiles", self.folder / "rooms.json", "--write-profiles",
+             self.folder / "served.json", *options], stdout=subprocess.PIPE, text=True)
+        self.addCleanup(self.stop, simulator)
+        for line in simulator.stdout:
+            if line.strip() == "ready":
+                break
+        else:
+            self.fail("the simulator does not start")
+        # It serves each projector over PJLink too.
+        served = json.loads((self.folder / "served.json").read_text())
+        self.pjlink = [profile for profile in served["projectors"] if profile["link"] == "pjlink"]
+        served["projectors"] = [profile for profile in served["projectors"] if profile["link"] == "network"]
+        (self.folder / "served.json").write_text(json.dumps(served, indent=1))
+        return simulator
+
+    def stop(self, simulator):
+        simulator.terminate()
+        simulator.wait()
+        simulator.stdout.close()
+
+    def run_program(self, *command, text=None, **environment):
+        return subprocess.run(command, cwd=self.folder, env={**self.environment, **environment}, text=True, input=text,
+                              capture_output=True, timeout=120, check=False)
+
+    def acctl(self, *words, text=None, **environment):
+        return self.run_program(PROGRAMS / "acctl", *words, text=text, **environment)
+
+    def start(self, *words):
+        program = subprocess.Popen([PROGRAMS / "acctl", *words], cwd=self.folder, env=self.environment, text=True,
+                                   stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+        self.addCleanup(program.stdout.close)
+        self.addCleanup(program.stderr.close)
+        return program
+
+    def json(self, *words, code=0, **environment):
+        run = self.acctl("-o", "json", *words, **environment)
+        self.assertEqual(run.returncode, code, run.stderr)
+        return json.loads(run.stdout)
+
+    def check(self, words, code, output="", errors=""):
+        """Runs a command line; output and errors are expressions that must be found, or "" for nothing at all."""
+        with self.subTest(words=words):
+            run = self.acctl(*words)
+            self.assertEqual(run.returncode, code, run.stdout + run.stderr)
+            for expected, printed in ((output, run.stdout), (errors, run.stderr)):
+                if expected:
+                    self.assertRegex(printed, re.compile(expected, re.MULTILINE))
+                else:
+                    self.assertEqual(printed, "")
+            return run

@@ -1,0 +1,150 @@
+// The main window with many projectors: work on all of them, alerts, and tables.
+
+#include <algorithm>
+
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTcpSocket>
+#include <QTest>
+#include <QTreeWidget>
+#include <gtest/gtest.h>
+
+#include "app/desktop/MainWindow.h"
+#include "app/desktop/alerts/AlertList.h"
+#include "app/desktop/groups/GroupList.h"
+#include "app/desktop/profiles/TransferActions.h"
+#include "app/desktop/work/WorkDialog.h"
+#include "tests/app/Windows.h"
+#include "tests/support/Programs.h"
+#include "tests/support/Soon.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+
+const FleetPolicy kOften{.interval = 200ms, .longestPause = 200ms, .soonest = 200ms};
+
+const std::vector<ProjectorRow>& Rows(const MainWindow& window) {
+  return window.findChild<ProjectorView*>()->Model().All();
+}
+
+std::ptrdiff_t CountIn(const MainWindow& window, ProjectorGroup::Kind kind) {
+  return std::ranges::count_if(
+      Rows(window), [kind](const ProjectorRow& row) { return ProjectorGroup{kind}.Has(row); });
+}
+
+QPushButton& Button(const WorkDialog& dialog, const QString& text) {
+  return Find<QPushButton>(dialog, text);
+}
+
+/// The window of the work, when it is done.
+WorkDialog& Done(const MainWindow& window) {
+  WorkDialog* dialog = nullptr;
+  EXPECT_TRUE(Soon([&] {
+    dialog = window.findChild<WorkDialog*>();
+    return dialog != nullptr && !dialog->Run().IsRunning();
+  }));
+  return *dialog;
+}
+
+std::ptrdiff_t Failed(const WorkDialog& dialog) {
+  return std::ranges::count_if(dialog.Run().Lines(), &WorkLine::HasFailed);
+}
+
+TEST(FleetWindow, SwitchesFiveHundredOffTriesAgainAndUndoes) {
+  const QTemporaryDir folder;
+  const QString file = folder.filePath("fleet.json");
+  const SimulatorProcess simulator({"--fleet", "500", "--port", "0", "--fault", "silent 5%",
+                                    "--warm-up", "0", "--cool-down", "0", "--control", "0",
+                                    "--write-profiles", file});
+  ProfileDocument document;
+  ASSERT_EQ(document.Load(file), "");
+  MainWindow window(document, nullptr, {.longestPause = 1s, .soonest = 200ms});
+  window.show();
+  ASSERT_TRUE(Soon([&] {
+    return std::ranges::none_of(
+        Rows(window), [](const ProjectorRow& row) { return HealthOf(row) == Health::NotAsked; });
+  }));
+  const auto silent = CountIn(window, ProjectorGroup::Kind::Unreachable);
+  const auto off = CountIn(window, ProjectorGroup::Kind::Off);
+  EXPECT_EQ(silent, 25);
+  auto* groups = window.findChild<GroupList*>();
+  EXPECT_TRUE(Soon([&] { return groups->item(2)->text() == QStringLiteral("Off (%1)").arg(off); }));
+
+  Table(window).selectAll();
+  Find<QAction>(window, "Switch Off").trigger();
+  WorkDialog* dialog = window.findChild<WorkDialog*>();
+  Find<QLabel>(*dialog, "Switch off 500 projectors?");
+  EXPECT_EQ(dialog->findChild<QTreeWidget*>()->topLevelItemCount(), 500);
+  Button(*dialog, "Switch Off").click();
+  EXPECT_EQ(Failed(Done(window)), silent);
+  Find<QLabel>(*dialog, "475 of 500 done, 25 failed");
+  EXPECT_TRUE(Soon([&] { return CountIn(window, ProjectorGroup::Kind::Off) == 475; }));
+
+  QTcpSocket control;
+  control.connectToHost(QHostAddress::LocalHost,
+                        simulator.Address("control").section(':', 1).toUShort());
+  ASSERT_TRUE(control.waitForConnected());
+  control.write("* none\n");
+  ASSERT_TRUE(control.waitForReadyRead(60'000));
+  Button(*dialog, "Retry the Failed").click();
+  EXPECT_EQ(Failed(Done(window)), 0);
+  EXPECT_FALSE(Button(*dialog, "Retry the Failed").isVisible());
+
+  Button(*dialog, "Undo All").click();
+  EXPECT_TRUE(Soon([&] { return CountIn(window, ProjectorGroup::Kind::Off) == off + silent; }))
+      << "those that were on are on again";
+}
+
+TEST(FleetWindow, RaisesAnAlertUntilItsCauseIsGone) {
+  MainWindow window({Profile("A"), Profile("B")}, kOften);
+  window.show();
+  const auto& alerts = *window.findChild<AlertList*>();
+  const auto raise = [&window](int error) {
+    window.Session(1)->Simulator().SetValue(SettingId::ErrorStatus, error);
+  };
+  raise(4);
+  ASSERT_TRUE(Soon([&] { return Rows(window)[1].hasAlert; }));
+  EXPECT_EQ(
+      alerts.Open(),
+      (std::vector{Alert{Rows(window)[1].id, Alert::Kind::Problem, ProjectorPart::Temperature}}));
+  EXPECT_EQ(alerts.findChild<QTreeWidget*>()->topLevelItem(0)->text(1), "B: Temperature");
+  Find<QPushButton>(alerts, "Acknowledge All").click();
+  EXPECT_FALSE(Rows(window)[1].hasAlert);
+  raise(0);
+  EXPECT_TRUE(Soon([&] { return alerts.findChild<QTreeWidget*>()->topLevelItemCount() == 0; }));
+  raise(4);
+  EXPECT_TRUE(Soon([&] { return Rows(window)[1].hasAlert; })) << "it came again";
+}
+
+TEST(FleetWindow, QuietHoursGoOnPastMidnight) {
+  const AlertRules rules{.quietFrom = QTime(22, 0), .quietTo = QTime(6, 0)};
+  EXPECT_TRUE(rules.IsQuiet(QTime(23, 0)) && rules.IsQuiet(QTime(5, 59)));
+  EXPECT_FALSE(rules.IsQuiet(QTime(6, 0)) || rules.IsQuiet(QTime(12, 0)));
+  EXPECT_FALSE(AlertRules().IsQuiet(QTime(0, 0)));
+}
+
+TEST(FleetWindow, TakesATableAndNamesItsTenWrongLines) {
+  const QTemporaryDir folder;
+  MainWindow window(Shipped(folder));
+  window.show();
+  const auto before = Rows(window).size();
+  QByteArray table("name,address\n");
+  for (int i = 0; i < 20; ++i) {
+    table += "Room " + QByteArray::number(i) + (i % 2 == 0 ? ",192.0.2.1\n" : ",192.0.2.1:x\n");
+  }
+  Write(folder.filePath("t.csv"), table);
+  window.findChild<TransferActions*>()->ImportFile(folder.filePath("t.csv"));
+  auto* said = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+  ASSERT_NE(said, nullptr);
+  EXPECT_EQ(said->text(), "10 added, 0 already known, 10 rows not taken.");
+  EXPECT_EQ(said->informativeText().count("Line "), 10);
+  EXPECT_TRUE(said->informativeText().startsWith("Line 3: "));
+  said->close();
+  EXPECT_EQ(Rows(window).size(), before + 10);
+  Find<QAction>(window, "Undo Import Table").trigger();
+  EXPECT_EQ(Rows(window).size(), before);
+}
+
+}  // namespace

@@ -1,0 +1,137 @@
+// What the user does to a row with a number while it waits for a slow projector.
+
+#include <gmock/gmock.h>
+
+#include <QLineEdit>
+
+#include "device/channels/LoggingChannel.h"
+#include "tests/host/PacedDialog.h"
+#include "tests/support/Soon.h"
+#include "toolkit/CSliderCtrl.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+using testing::ElementsAreArray;
+
+constexpr int kPictureTab = 1;
+constexpr int kPlus = 20135, kSlider = 20136, kMinus = 20134, kField = 20329;
+constexpr int kContrastPlus = 20137, kIris = 20293;
+
+using Strings = std::vector<std::string>;
+
+struct PendingInputTest : PacedDialog {
+  /// Presses +, acts while its command waits, and returns all commands.
+  Strings SentBy(const std::function<void()>& act) {
+    projector_->Take();
+    InTheWait([this, act] {
+      act();
+      projector_->Pace(0ms);
+    });
+    Page().Click(kPlus);
+    EXPECT_TRUE(Soon([this] { return !dialog_.IsBusy(); }));
+    Strings sent;
+    for (const PjtCommand& command : projector_->Take()) sent.push_back(FormatCommand(command));
+    return sent;
+  }
+  bool IsLight() {
+    const auto& field = Page().Item<QLineEdit>(kField);
+    return field.palette().color(QPalette::Text) ==
+           field.palette().color(QPalette::PlaceholderText);
+  }
+};
+
+TEST_F(PendingInputTest, IsCarriedOutInOrder) {
+  Open(kPictureTab);
+  const int start = Page().SliderAt(kSlider);
+  const Strings one = SentBy([] {});
+  ASSERT_EQ(one.size(), 2U) << "a step and its read";
+  Page().Drag(kSlider, start);
+  const std::string up = one[0], read = one[1];
+  const std::string down = "Dec" + up.substr(3);
+  const auto set = [](int shown) { return "SetBrightness(" + std::to_string(shown + 128) + ")"; };
+  struct Case {
+    const char* name;
+    std::function<void()> act;
+    Strings more;
+    int pending;
+  };
+  const auto times = [this](int count, int control) {
+    for (int i = 0; i < count; ++i) Page().Click(control);
+  };
+  const Case cases[] = {
+      {"presses", [=] { times(3, kPlus); }, {up, read, up, read, up, read}, 4},
+      {"both ways",
+       [=] { times(1, kPlus), times(2, kMinus); },
+       {up, read, down, read, down, read},
+       0},
+      {"by key", [this] { Page().Press(kPlus, Qt::Key_Space); }, {up, read}, 2},
+      {"the last position",
+       [this] { Page().Drag(kSlider, -7), Page().Drag(kSlider, 9); },
+       {set(9)},
+       9},
+      {"a position between presses",
+       [=, this] { times(1, kPlus), Page().Drag(kSlider, -5), times(1, kPlus); },
+       {up, read, set(-5), up, read},
+       -4},
+  };
+  for (const auto& [name, act, more, pending] : cases) {
+    SCOPED_TRACE(name);
+    Strings all{up, read};
+    all.insert(all.end(), more.begin(), more.end());
+    EXPECT_THAT(SentBy([&, &act = act, &pending = pending] {
+                  act();
+                  EXPECT_EQ(Page().Text(kField), QString::number(start + pending));
+                  EXPECT_TRUE(IsLight());
+                }),
+                ElementsAreArray(all));
+    EXPECT_EQ(Page().Text(kField), QString::number(start + pending));
+    EXPECT_EQ(Page().SliderAt(kSlider), start + pending);
+    EXPECT_FALSE(IsLight());
+    Page().Drag(kSlider, start);
+  }
+}
+
+TEST_F(PendingInputTest, IsDroppedByAnythingElse) {
+  const std::pair<const char*, std::function<void()>> cases[] = {
+      {"another row", [this] { Page().Click(kContrastPlus); }},
+      {"a list", [this] { Page().Press(kIris, Qt::Key_Down); }},
+      {"a refusal", [this] { projector_->refuses = true; }},
+      {"another tab", [this] { ClickTab(0); }},
+      {"Esc", [this] { QTest::keyClick(Focused(), Qt::Key_Escape); }},
+  };
+  for (const auto& [name, act] : cases) {
+    SCOPED_TRACE(name);
+    Open(kPictureTab);
+    MessageBoxes boxes;
+    const auto sent = SentBy([&, &act = act] {
+      for (int i = 0; i < 3; ++i) Page().Click(kPlus);
+      act();
+    });
+    projector_->refuses = false;
+    EXPECT_EQ(
+        std::ranges::count_if(sent, [](const auto& command) { return command.starts_with("Inc"); }),
+        1);
+    if (dialog_.isVisible() && Tabs().currentIndex() == kPictureTab) {
+      EXPECT_EQ(Page().Text(kField), QString::number(Page().SliderAt(kSlider)));
+      EXPECT_FALSE(IsLight());
+    }
+    dialog_.reject();
+  }
+}
+
+TEST_F(PendingInputTest, TheReleaseOfAButtonHeldSinceBeforeIsNoFurtherPress) {
+  Open(kPictureTab);
+  projector_->Take();
+  auto& plus = Page().Item<QPushButton>(kPlus);
+  InTheWait([&] {
+    QTest::mouseRelease(&plus, Qt::LeftButton);
+    projector_->Pace(0ms);
+  });
+  QTest::mousePress(&plus, Qt::LeftButton);
+  EXPECT_TRUE(Soon([&] { return !look_.isActive() && !dialog_.IsBusy(); }));
+  EXPECT_FALSE(plus.isDown());
+  EXPECT_EQ(projector_->Take().size(), 2U);
+}
+
+}  // namespace

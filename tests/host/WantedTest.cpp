@@ -1,0 +1,157 @@
+// Which projector the dialog belongs to, when its page was read, and which settings differ from
+// those that the projector should have.
+
+#include <gmock/gmock.h>
+
+#include <QAction>
+#include <QContextMenuEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QTabBar>
+#include <QTest>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+#include "host/ProjectorStrip.h"
+#include "pages/rows/RowMarks.h"
+#include "snapshots/Snapshot.h"
+#include "tests/support/DialogDriver.h"
+#include "tests/support/Soon.h"
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr int kPictureTab = 1, kOtherTab = 8;
+constexpr int kBrightness = 20136, kIris = 20293, kContrast = 20138;
+
+std::string StripText(CAdvanceDlg& dialog) {
+  return dialog.findChild<ProjectorStrip*>()->findChild<QLabel*>()->toolTip().toStdString();
+}
+
+QMenu* MenuOf(QWidget& control) {
+  QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(2, 2),
+                          control.mapToGlobal(QPoint(2, 2)));
+  QApplication::sendEvent(&control, &event);
+  return qobject_cast<QMenu*>(QApplication::activePopupWidget());
+}
+
+void Choose(QWidget& control, const QString& text) {
+  QMenu* menu = MenuOf(control);
+  ASSERT_NE(menu, nullptr);
+  for (QAction* action : menu->actions()) {
+    if (action->text() == text) action->trigger();
+  }
+  menu->close();
+  QCoreApplication::processEvents();
+}
+
+struct SilentChannel final : ProjectorChannel {
+  PjtReply Execute(const PjtCommand& command) override {
+    return {.result = RefusedResult(command.operation), .answered = false};
+  }
+};
+
+TEST(Projector, IsNamedOverTheTabsAndInBoxes) {
+  CModelInfo2 record = FullModel(5, 30);
+  record.ModelName = "QD-1";
+  record.ConnectionKinds[0] = 1;
+  record.ConnectionTexts1[0] = MakeNameSlot("10.0.0.7");
+  CAdvanceDlg dialog;
+  dialog.SetProjectorName("Lecture hall 2");
+  Open(dialog, record, std::make_shared<RecordingChannel>());
+  EXPECT_EQ(StripText(dialog), "Lecture hall 2 — QD-1 — 10.0.0.7 — answers");
+  dialog.findChild<QTabBar*>()->setCurrentIndex(kOtherTab);
+  QString title, text;
+  QTimer::singleShot(0, [&] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    ASSERT_NE(box, nullptr);
+    title = box->windowTitle();
+    text = box->text();
+    box->reject();
+  });
+  DialogDriver(*dialog.ShownPage()).Click(20101);
+  EXPECT_EQ(text, QStringLiteral("Turn Lecture hall 2 off?"));
+  EXPECT_TRUE(title.startsWith(QStringLiteral("Lecture hall 2 — "))) << title.toStdString();
+  dialog.Projector().SetChannel(std::make_shared<SilentChannel>());
+  dialog.DispTabScreen();
+  EXPECT_TRUE(StripText(dialog).ends_with("does not answer")) << StripText(dialog);
+}
+
+TEST(ReadAgain, F5ReadsThePageUnlessAHandlerRuns) {
+  OpenDialog open(FullModel(5, 30), kPictureTab);
+  open.Dialog().DispTabScreen();
+  const auto reads = open.Projector().Take();
+  for (const bool busy : {true, false}) {
+    const CDialog::Busy handler(busy ? &open.Dialog() : nullptr);
+    QTest::keyClick(&open.Dialog(), Qt::Key_F5);
+    EXPECT_EQ(open.Projector().Take(), busy ? std::vector<std::string>() : reads);
+  }
+}
+
+TEST(ReadAgain, TheStatusPageIsKeptUpToDateOnlyWhenAskedAndQuiet) {
+  OpenDialog open(FullModel(5, 30));
+  open.Page().InitDisp();
+  const auto reads = open.Projector().Take();
+  auto& timer = *open.Page().findChild<QTimer*>();
+  EXPECT_FALSE(timer.isActive());
+  Choose(open.Page(), QStringLiteral("Keep up to date"));
+  ASSERT_TRUE(timer.isActive());
+  {
+    const CDialog::Busy handler(&open.Dialog());
+    timer.start(1);
+    QTest::qWait(30);
+    EXPECT_THAT(open.Projector().Take(), IsEmpty());
+  }
+  std::vector<std::string> sent;
+  EXPECT_TRUE(Soon([&] { return !(sent = open.Projector().Take()).empty(); }));
+  EXPECT_EQ(sent, reads);
+  EXPECT_GT(timer.interval(), 1000) << "the next pause is whole";
+  Choose(open.Page(), QStringLiteral("Keep up to date"));
+  EXPECT_FALSE(timer.isActive());
+}
+
+struct WantedTest : testing::Test {
+  WantedTest() {
+    wanted.settings = {{.key = "picture.brightness", .value = 140, .text = {}},
+                       {.key = "picture.active-iris", .value = 16, .text = {}},
+                       {.key = "picture.contrast", .value = 128, .text = {}}};
+    open.Dialog().SetWanted(wanted);
+  }
+  std::vector<int> Differing() {
+    std::vector<int> controls;
+    for (const auto& mark : open.Dialog().findChild<RowMarks*>()->Shown()) {
+      controls.push_back(mark.control);
+    }
+    return controls;
+  }
+  QString Tab() { return open.Dialog().findChild<QTabBar*>()->tabText(kPictureTab); }
+
+  OpenDialog open{FullModel(5, 30), kPictureTab, [](RecordingChannel& projector) {
+                    projector.Answer("Get 0x2003", 128);
+                    projector.Answer("Get 0x2004", 128);
+                  }};
+  Snapshot wanted;
+};
+
+TEST_F(WantedTest, MarksWhatDiffersAndSetsIt) {
+  EXPECT_THAT(Differing(), ElementsAre(kBrightness, kIris));
+  EXPECT_EQ(Tab(), QStringLiteral("Picture (2)"));
+  QWidget& brightness = *open.Page().GetDlgItem(kBrightness);
+  EXPECT_TRUE(brightness.toolTip().startsWith(QStringLiteral("Wanted: 12")));
+  Choose(brightness, QStringLiteral("Set to wanted: 12"));
+  EXPECT_EQ(open.Projector().Take(), std::vector<std::string>{"SetBrightness 140"});
+  EXPECT_THAT(Differing(), ElementsAre(kIris));
+  EXPECT_EQ(Tab(), QStringLiteral("Picture (1)"));
+  open.Projector().Answer("Get 0x3304", 16);
+  open.Projector().Answer("Get 0x2004", 130);
+  open.Dialog().DispTabScreen();
+  EXPECT_THAT(Differing(), ElementsAre(kBrightness, kContrast)) << "as just read";
+  open.Dialog().SetWanted(WantedSettings());
+  EXPECT_THAT(Differing(), IsEmpty());
+  EXPECT_EQ(Tab(), QStringLiteral("Picture"));
+  EXPECT_FALSE(brightness.toolTip().contains(QStringLiteral("Wanted")));
+}
+
+}  // namespace

@@ -1,0 +1,120 @@
+// What the dialog says about refusals, and about actions whose effect cannot be seen.
+
+#include <gmock/gmock.h>
+
+#include <QLabel>
+#include <QPushButton>
+#include <gtest/gtest.h>
+
+#include "pages/common/StatusLine.h"
+#include "pages/rows/RowMarks.h"
+#include "tests/support/DialogDriver.h"
+
+namespace {
+
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+std::string Said(const CDialog& dialog) {
+  return dialog.window()->findChild<StatusLine*>()->findChild<QLabel*>()->text().toStdString();
+}
+
+std::vector<int> Marked(const CDialog& dialog) {
+  std::vector<int> controls;
+  if (const auto* marks = dialog.window()->findChild<RowMarks*>()) {
+    for (const RowMarks::Mark& mark : marks->Shown()) {
+      if (mark.refused) controls.push_back(mark.control);
+    }
+  }
+  return controls;
+}
+
+struct Case {
+  const char* name;
+  int dialogType, modelCode, tab;
+  void (*act)(const DialogDriver& driver);
+  const char* refused;  // a command that the projector refuses; null for none
+  const char* said;
+  int marked = 0;  // the row's control
+  int boxes = 0;
+};
+
+void PrintTo(const Case& tried, std::ostream* out) { *out << tried.name; }
+
+class Outcomes : public testing::TestWithParam<Case> {};
+
+TEST_P(Outcomes, AreSaidBesideCloseAndMarkedUntilTheNextSuccess) {
+  const Case& tried = GetParam();
+  OpenDialog open(FullModel(tried.dialogType, tried.modelCode), tried.tab,
+                  [](RecordingChannel& projector) {
+                    projector.Answer("Get 0x2003", 128);
+                    projector.Answer("Get 0x2004", 128);
+                  });
+  MessageBoxes boxes;
+  if (tried.refused != nullptr) open.Projector().Refuse(tried.refused);
+  tried.act(open.Driver());
+  EXPECT_EQ(Said(open.Page()), tried.said);
+  EXPECT_EQ(boxes.Take().size(), static_cast<std::size_t>(tried.boxes));
+  if (tried.marked == 0) {
+    EXPECT_THAT(Marked(open.Page()), IsEmpty());
+    return;
+  }
+  EXPECT_THAT(Marked(open.Page()), testing::ElementsAre(tried.marked));
+  const QWidget& control = *open.Page().GetDlgItem(tried.marked);
+  EXPECT_THAT(control.toolTip().toStdString(), HasSubstr(tried.said));
+  EXPECT_THAT(control.accessibleDescription().toStdString(), HasSubstr(tried.said));
+  open.Projector().Accept(tried.refused);
+  tried.act(open.Driver());
+  EXPECT_THAT(Marked(open.Page()), IsEmpty());
+  EXPECT_EQ(control.toolTip().indexOf(QString::fromUtf8(tried.said)), -1);
+}
+
+constexpr Case kCases[] = {
+    {"slider", 5, 30, 1, [](const DialogDriver& page) { page.Drag(20136, 6); }, "SetBrightness",
+     "Not accepted: Brightness 6. The projector has 0.", 20136},
+    {"step", 5, 30, 1, [](const DialogDriver& page) { page.Click(20135); }, "Inc 0x2003",
+     "Not accepted: Brightness +. The projector has 0.", 20136, 1},
+    {"list", 5, 30, 1, [](const DialogDriver& page) { page.Choose(20293, 1); }, "Set 0x3304",
+     "Not accepted: Active Iris Theater. The projector has Off.", 20293, 1},
+    {"memory", 5, 30, 1, [](const DialogDriver& page) { page.Click(21065); }, "SetMyMemory",
+     "Not accepted: My Memory Load1.", 21065},
+    {"loaded", 5, 30, 1, [](const DialogDriver& page) { page.Click(21065); }, nullptr,
+     "Memory 1 loaded"},
+    {"reset refused", 5, 30, 1, [](const DialogDriver& page) { page.Click(21070); },
+     "ExecBrightnessReset", "Not accepted: Reset Brightness.", 21070},
+    {"reset", 5, 30, 0, [](const DialogDriver& page) { page.Click(20018); }, nullptr,
+     "Lamp Time reset"},
+    {"without a result", 5, 30, 4, [](const DialogDriver& page) { page.Click(20305); }, nullptr,
+     "Sent: Auto Keystone"},
+    {"only shown", 1, 1, 4, [](const DialogDriver& page) { page.Choose(21061, 1); }, nullptr,
+     "This setting is only shown here. A choice is not sent."},
+};
+
+INSTANTIATE_TEST_SUITE_P(Rows, Outcomes, testing::ValuesIn(kCases));
+
+TEST(OutcomesOfPopUps, AreSaidInThePopUp) {
+  OpenDialog open(FullModel(5, 30));
+  const auto service = MakePopUp(PopUp::Service, open.Dialog());
+  Open(*service);
+  open.Projector().Refuse("SetIRFront");
+  DialogDriver(*service).Click(20375);
+  EXPECT_THAT(Said(*service), HasSubstr("On. The projector has Off."));
+  EXPECT_THAT(Marked(*service), testing::ElementsAre(20375));
+  EXPECT_EQ(Said(open.Page()), "");
+}
+
+TEST(UnusableControls, SayWhy) {
+  CModelInfo2 model = MakeModel(5, 30);
+  for (const int value : {17, 33}) AddEntry(model.GammaList, value, "gamma");
+  OpenDialog open(model, 1);
+  for (const int position : {1, 0}) {
+    open.Driver().Choose(20142, position);
+    const QWidget& custom = *open.Page().GetDlgItem(20133);
+    const QString why =
+        position == 1 ? QStringLiteral("Only for gamma patterns that can be changed") : QString();
+    EXPECT_EQ(custom.toolTip(), why);
+    EXPECT_EQ(custom.accessibleDescription(), why);
+  }
+}
+
+}  // namespace

@@ -16,7 +16,7 @@ enum class IconName : std::uint8_t { Reset, Refresh, Information, Question, Warn
 /// The icon of the platform's theme, or our own drawing if the theme has none. Our drawings follow
 /// the application's palette and are sharp in every size. `Reset` is always our own.
 /// User-interface thread only.
-ADVANCED_CONTROL_EXPORT QIcon ThemedIcon(IconName name);
+QIcon ThemedIcon(IconName name);
 
 /// Removes the icons of a dialog's OK, Cancel, Yes, No and Close buttons if the platform's theme
 /// has none for them; Qt would use its own then. The buttons must exist.

@@ -25,6 +25,7 @@
 #include "app/desktop/profiles/LinkNames.h"
 #include "app/desktop/profiles/ProfileDocument.h"
 #include "toolkit/CComboBox.h"
+#include "toolkit/Icons.h"
 
 namespace {
 
@@ -107,6 +108,7 @@ ProfileEditor::ProfileEditor(const ProfileDocument& document, const QJsonObject&
   layout->addWidget(rows_);
   layout->addWidget(error_);
   layout->addWidget(buttons);
+  RemoveForeignButtonIcons(*this);
 
   connect(buttons, &QDialogButtonBox::accepted, this, &ProfileEditor::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &ProfileEditor::reject);

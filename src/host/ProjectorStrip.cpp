@@ -49,7 +49,7 @@ void ProjectorStrip::SetProjector(const QStringList& parts) {
   parts_ = parts;
   parts_.removeAll(QString());
   parts_.removeDuplicates();
-  state_.clear();
+  answers_.reset();
   const QString again = CatalogString(kListCategory, ListText::ReadAgain);
   again_->setAccessibleName(again);
   again_->setToolTip(again);
@@ -57,15 +57,15 @@ void ProjectorStrip::SetProjector(const QStringList& parts) {
 }
 
 void ProjectorStrip::SetAnswers(bool answers) {
-  const QString state =
-      CatalogString(kListCategory, answers ? ListText::Answers : ListText::DoesNotAnswer);
-  if (std::exchange(state_, state) != state) ShowProjector();
+  if (std::exchange(answers_, answers) != answers) ShowProjector();
 }
 
 void ProjectorStrip::ShowProjector() {
-  QStringList parts = parts_;
-  if (!state_.isEmpty()) parts << state_;
-  const QString text = parts.join(QStringLiteral(" \u2014 "));
+  QString text = parts_.join(QStringLiteral(" \u2014 "));
+  if (answers_) {
+    text = CatalogString(kListCategory, *answers_ ? ListText::Answers : ListText::DoesNotAnswer,
+                         text.toStdString());
+  }
   projector_->setText(
       projector_->fontMetrics().elidedText(text, Qt::ElideRight, projector_->width()));
   projector_->setToolTip(text);

@@ -44,7 +44,7 @@ class ProjectorStrip final : public QWidget {
 
   std::function<Age()> age_;
   QStringList parts_;
-  QString state_;
+  std::optional<bool> answers_;  // nothing before the first answer is due
   QLabel* projector_;
   QLabel* read_;
   QToolButton* again_;

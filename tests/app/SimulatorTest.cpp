@@ -1,10 +1,12 @@
 #include <algorithm>
 #include <atomic>
 #include <chrono>
+#include <cstdint>
 #include <optional>
 
 #include <QLabel>
 #include <QTabBar>
+#include <QTcpServer>
 #include <QTcpSocket>
 #include <QTemporaryDir>
 #include <QTest>
@@ -31,6 +33,18 @@ using namespace std::chrono_literals;
 constexpr PjtCommand kIsMuted{PjtOperation::Get, 0x2002};
 constexpr char kName[] = "Projector 5-30";
 
+/// The first of four ports that are free, and that no connection of another program takes later, as
+/// they are below the range for these.
+QString LastingPort() {
+  constexpr int kFirst = 10'000;
+  int port = kFirst + 4 * static_cast<int>(QCoreApplication::applicationPid() % 5000);
+  const auto isFree = [](int p) {
+    return QTcpServer().listen(QHostAddress::LocalHost, static_cast<std::uint16_t>(p));
+  };
+  while (!isFree(port) || !isFree(port + 1)) port += 4;
+  return QString::number(port);
+}
+
 QString CurrentInput(const CAdvanceDlg& dialog) {
   return dialog.Page(PageId::Status).GetDlgItem(20009)->property("text").toString();
 }
@@ -56,9 +70,10 @@ class SimulatorTest : public testing::Test {
   }
 
   QTemporaryDir folder_;
+  const QString port_ = LastingPort();
   std::optional<SimulatorProcess> simulator_{
       std::in_place, QStringList{"--projector", kName, "--serial", "--control", "0", "--password",
-                                 "secret", "--write-profiles", Profiles()}};
+                                 "secret", "--port", port_, "--write-profiles", Profiles()}};
   QTcpSocket control_;
 };
 
@@ -128,10 +143,9 @@ TEST_F(SimulatorTest, TheListShowsTheStateOfEveryConnection) {
   window.Session(4)->Simulator().SetValue(SettingId::ErrorStatus, 4);
   comesTo(4, "Error");
 
-  const QString port = simulator_->Address("tcp").section(':', -1);
   simulator_.reset();
   for (const int row : {0, 1}) comesTo(row, "No answer");
-  simulator_.emplace(QStringList{"--projector", kName, "--port", port});
+  simulator_.emplace(QStringList{"--projector", kName, "--port", port_});
   comesTo(0, "OK");
 }
 

@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/Programs.h"
+#include "tests/support/Soon.h"
 
 // Programs that serve until they are stopped, on the loopback address.
 

@@ -14,11 +14,19 @@
 #include "device/ModelDataIntake.h"
 #include "device/channels/LoggingChannel.h"
 #include "i18n/SystemLanguage.h"
+#include "settings/Rows.h"
 #include "simulator/SimulatedProjector.h"
 #include "snapshots/SettingTexts.h"
 #include "tests/support/DialogDriver.h"
 
 namespace {
+
+/// What assistive technologies hear of a setting besides its caption and value.
+std::string Description(const SettingTexts& texts, const ModelSetting& setting) {
+  if (setting.range) return "Range: " + texts.Values(setting);
+  const bool isOnlyShown = std::holds_alternative<ListRow>(*setting.row) && !setting.changeable;
+  return isOnlyShown ? "This setting is only shown here. A choice is not sent." : "";
+}
 
 void WriteLine(const std::string& line) { std::puts(line.c_str()); }
 
@@ -31,7 +39,7 @@ void WriteSettings(const CModelInfo2& model, CPjtInterface& projector) {
     WriteLine(texts.Tab(setting) + '\t' + std::string(setting.key) + '\t' +
               std::to_string(static_cast<int>(setting.kind)) + '\t' + texts.Caption(setting) +
               '\t' + (value ? texts.Value(setting, *value) : "") + '\t' +
-              (setting.range ? "Range: " + texts.Values(setting) : ""));
+              Description(texts, setting));
   }
 }
 

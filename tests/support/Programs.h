@@ -7,8 +7,6 @@
 #include <QProcess>
 #include <gtest/gtest.h>
 
-#include "tests/support/Soon.h"
-
 // Runs programs as separate processes, and reads the files that they write.
 
 struct Outcome {
@@ -47,8 +45,7 @@ inline void Write(const QString& path, const QByteArray& text) {
 class SimulatorProcess {
  public:
   explicit SimulatorProcess(const QStringList& arguments) {
-    // The port of an earlier simulator may be another program's for a while.
-    EXPECT_TRUE(Soon([&] { return IsReady(arguments); }))
+    EXPECT_TRUE(IsReady(arguments))
         << "the simulator is not ready: " << process_.readAllStandardError().data();
   }
   ~SimulatorProcess() {

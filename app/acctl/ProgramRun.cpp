@@ -185,8 +185,9 @@ int ProgramRun::ListRecordedRuns() const {
 }
 
 int ProgramRun::RunOnProjectors(const ValueTexts& texts) {
-  const std::string error = ImpossibleValue(conditions_, texts, projectors_, models_);
-  if (!error.empty()) return FailWrongUse(arguments_, "--where " + error);
+  // One condition may be for projectors of every kind, so this is no error.
+  const std::string note = ImpossibleValue(conditions_, texts, projectors_, models_);
+  if (!note.empty()) Complain("--where " + note);
   UndoRecorder undo(UndoFolderOf(arguments_), arguments_.undoDays, recorded_);
   Work work{.arguments = arguments_,
             .texts = texts,

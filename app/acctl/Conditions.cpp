@@ -33,6 +33,10 @@ std::optional<double> NumberOf(std::string_view text) {
   return number;
 }
 
+bool IsForEquality(const Condition& condition) {
+  return condition.comparison == Comparison::Equal || condition.comparison == Comparison::Unequal;
+}
+
 bool Compares(Comparison comparison, double left, double right) {
   switch (comparison) {
     case Comparison::Less:
@@ -83,14 +87,38 @@ ConditionList ParseConditions(std::string_view text) {
     condition.value = value.substr(0, stop);
     if (condition.value.empty()) return fail(text, "a value is missing");
     if (!IsKnown(condition.key)) return fail(condition.key, "no model has such a setting");
+    if (!IsForEquality(condition) && !NumberOf(condition.value)) {
+      return fail(condition.key, "only numbers are less or greater");
+    }
     text = stop == std::string_view::npos ? "" : value.substr(stop + (isQuoted ? 1 : 0));
     list.conditions.push_back(std::move(condition));
   }
 }
 
+std::string ImpossibleValue(const std::vector<Condition>& conditions, const ValueTexts& texts,
+                            const Projectors& projectors, ModelCache& models) {
+  for (const Condition& condition : conditions) {
+    if (NumberOf(condition.value)) continue;
+    const ModelSetting* lacking = nullptr;
+    const bool isPossible = std::ranges::any_of(projectors, [&](const FleetProfile* profile) {
+      const ModelSetting* const setting =
+          FindSetting(models.Of(*profile), condition.key, kRead.isPossible);
+      if (setting == nullptr) return false;
+      lacking = setting;
+      const bool isListed =
+          setting->kind == ModelSetting::Kind::Choice && !setting->entries.empty();
+      return !isListed || texts.Parse(*setting, condition.value);
+    });
+    if (isPossible || lacking == nullptr) continue;
+    return condition.key + ": '" + condition.value +
+           "' is not one of: " + texts.ValuesWithCodes(*lacking);
+  }
+  return {};
+}
+
 bool IsMet(const Condition& condition, const ValueTexts& texts, const ModelSetting& setting,
            int value, std::optional<PowerState> power) {
-  if (condition.comparison == Comparison::Equal || condition.comparison == Comparison::Unequal) {
+  if (IsForEquality(condition)) {
     return IsEqual(condition, texts, setting, value, power) ==
            (condition.comparison == Comparison::Equal);
   }

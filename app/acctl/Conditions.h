@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "app/acctl/Preflight.h"
 #include "app/acctl/Uses.h"
 #include "app/acctl/ValueCodes.h"
 
@@ -24,6 +25,11 @@ struct ConditionList {
 /// Parses conditions separated by spaces; a value with spaces is put in double quotes. Every key
 /// must be one that some model has.
 ConditionList ParseConditions(std::string_view text);
+
+/// Why a condition is about a value that none of the projectors' models has; empty if there is
+/// none. Numbers, states and choices that only a projector knows may have any value.
+std::string ImpossibleValue(const std::vector<Condition>& conditions, const ValueTexts& texts,
+                            const Projectors& projectors, ModelCache& models);
 
 /// Whether a setting with this device value meets the condition.
 bool IsMet(const Condition& condition, const ValueTexts& texts, const ModelSetting& setting,

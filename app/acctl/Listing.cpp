@@ -71,7 +71,11 @@ std::string Text(const ValueTexts& texts, const Explained& explained) {
   table.Add({"  tab", texts.Shown().Tab(setting)});
   table.Add({"  caption", texts.Shown().Caption(setting)});
   table.Add({"  kind", NameOf(setting.kind)});
-  if (isListed || setting.changeable) table.Add({"  values", texts.ValuesWithCodes(setting)});
+  if (setting.kind == ModelSetting::Kind::Choice && setting.entries.empty()) {
+    table.Add({"  values", "those that the projector reports"});
+  } else if (isListed || setting.changeable) {
+    table.Add({"  values", texts.ValuesWithCodes(setting)});
+  }
   std::string uses;
   const auto add = [&uses](bool isSo, const char* use) {
     if (isSo) uses += (uses.empty() ? "" : ", ") + std::string(use);
@@ -80,7 +84,7 @@ std::string Text(const ValueTexts& texts, const Explained& explained) {
   add(setting.changeable, "set");
   add(setting.reset.has_value(), "reset");
   add(setting.Restorable(), "save and apply");
-  table.Add({"  commands", uses});
+  if (!uses.empty()) table.Add({"  commands", uses});
   if (setting.IsPerSource()) table.Add({"  kept", "for each input source"});
   table.Add({"  models", Joined(explained.models)});
   return table.Text();
@@ -128,7 +132,7 @@ int ListModels(const Work& work, ModelCache& models) {
       table.Add({model.ModelName});
     } else {
       table.Add({model.ModelName, std::to_string(model.DialogType), std::to_string(model.ModelCode),
-                 std::to_string(count) + " projectors", std::to_string(settings) + " settings"});
+                 Counted(static_cast<int>(count), "projector"), Counted(settings, "setting")});
     }
     json.append(QJsonObject{{"model", Wide(model.ModelName)},
                             {"dialogType", model.DialogType},

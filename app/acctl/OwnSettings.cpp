@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include <QFileInfo>
 #include <QStandardPaths>
 
 #include "app/acctl/OptionTable.h"
@@ -54,7 +55,7 @@ void TakeOwnSettings(Arguments& arguments) {
                              QStringLiteral("/advanced-control/acctl.conf");
   if (const FileBytes file = ReadToEnd(path, kMost); file.error.isEmpty()) {
     arguments.error = TakeFile(arguments, path, file.bytes);
-  } else if (named != nullptr && *named != '\0') {
+  } else if (named != nullptr ? *named != '\0' : QFileInfo::exists(path)) {
     arguments.error = "cannot read " + path.toStdString() + ": " + file.error.toStdString();
   }
   for (const OptionForm& option : OptionForms()) {

@@ -86,7 +86,6 @@ class ProgramRun {
   std::string PrepareUndo();
   int RunOnProjectors(const ValueTexts& texts);
   int ListRecordedRuns() const;
-  int FinishUndo(int code, const std::vector<FleetProfile>& profiles);
 
   Arguments arguments_;
   const std::vector<FleetProfile>& profiles_;
@@ -157,11 +156,16 @@ std::string ProgramRun::Prepare() {
 int ProgramRun::ListRecordedRuns() const {
   Table table;
   QJsonArray json;
+  QJsonArray errors;
   for (const RecordedRun& run : ListRuns(UndoFolderOf(arguments_))) {
+    if (!run.error.isEmpty()) {
+      Complain(run.error.toStdString());
+      errors.append(QJsonObject{{"code", ProblemCode::File}, {"text", run.error}});
+      continue;
+    }
     const auto count = static_cast<int>(run.undo.size());
-    table.Add({run.name, run.time,
-               std::to_string(count) + (count == 1 ? " projector" : " projectors"),
-               run.isUndone ? "undone" : "", run.command});
+    table.Add({run.name, run.time, Counted(count, "projector"), run.isUndone ? "undone" : "",
+               run.command});
     json.append(QJsonObject{{"run", Wide(run.name)},
                             {"time", Wide(run.time)},
                             {"command", Wide(run.command)},
@@ -174,12 +178,16 @@ int ProgramRun::ListRecordedRuns() const {
   if (arguments_.format != Format::Text) {
     QJsonObject envelope = Envelope(arguments_.command);
     envelope["runs"] = json;
+    if (!errors.isEmpty()) envelope["errors"] = errors;
     text = QJsonDocument(envelope).toJson().toStdString();
   }
-  return Print(text) ? ExitCode::Done : ExitCode::Refused;
+  return Print(text) && errors.isEmpty() ? ExitCode::Done : ExitCode::Refused;
 }
 
 int ProgramRun::RunOnProjectors(const ValueTexts& texts) {
+  // One condition may be for projectors of every kind, so this is no error.
+  const std::string note = ImpossibleValue(conditions_, texts, projectors_, models_);
+  if (!note.empty()) Complain("--where " + note);
   UndoRecorder undo(UndoFolderOf(arguments_), arguments_.undoDays, recorded_);
   Work work{.arguments = arguments_,
             .texts = texts,
@@ -236,7 +244,11 @@ int ProgramRun::Run() {
       arguments_.command == Command::Undo && !arguments_.dryRun && code == ExitCode::Done;
   if (isUndone) {
     const QString error = MarkUndone(undone_);
-    if (!error.isEmpty()) Complain(undone_.path.toStdString() + ": " + error.toStdString());
+    if (!error.isEmpty()) {
+      Complain("cannot record in " + undone_.path.toStdString() +
+               " that it is undone: " + error.toStdString());
+      code = ExitCode::Refused;
+    }
   }
   return code;
 }

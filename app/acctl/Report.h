@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <QJsonObject>
@@ -70,6 +71,11 @@ struct Report {
     problems.push_back(std::move(problem));
   }
 };
+
+/// "1 projector", "2 projectors"
+inline std::string Counted(int count, std::string_view what) {
+  return std::to_string(count) + ' ' + std::string(what) + (count == 1 ? "" : "s");
+}
 
 inline QString Wide(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));

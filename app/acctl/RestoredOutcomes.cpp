@@ -90,8 +90,7 @@ ReportedSetting RestoredOutcomes::Judge(const RestoredSetting& restored) const {
   if (restored.outcome == Outcome::NotOffered && !target_.Carries(kSaved, *restored.setting)) {
     return {&restored, Outcome::NotOffered, ProblemCode::NotInProtocol, kNotInPjLink};
   }
-  const bool isSent = work_.arguments.command != Command::Diff && !work_.arguments.dryRun;
-  if (isSent && restored.outcome == Outcome::Differs && restored.setting->IsStepped() &&
+  if (Sends() && restored.outcome == Outcome::Differs && restored.setting->IsStepped() &&
       std::abs(*restored.before - restored.saved.value) > kMostSteps) {
     return {&restored, Outcome::NotReached, ProblemCode::OutOfRange,
             "not sent, it is more than " + std::to_string(kMostSteps) + " steps away",
@@ -105,6 +104,10 @@ ReportedSetting RestoredOutcomes::Judge(const RestoredSetting& restored) const {
             ExitCode::Refused};
   }
   return {&restored, restored.outcome};
+}
+
+bool RestoredOutcomes::Sends() const {
+  return work_.arguments.command != Command::Diff && !work_.arguments.dryRun;
 }
 
 int RestoredOutcomes::Count(Outcome outcome) const {
@@ -121,7 +124,8 @@ std::string RestoredOutcomes::Summary() const {
     if (list.text == nullptr) {
       skipped += Count(list.outcome);
     } else {
-      add(Count(list.outcome), list.text);
+      const bool isLeft = list.outcome == Outcome::NotReached && !Sends();
+      add(Count(list.outcome), isLeft ? "not compared" : list.text);
     }
   }
   add(skipped, "skipped");
@@ -200,13 +204,16 @@ std::string RestoredOutcomes::Differences() const {
   Table table;
   for (const ReportedSetting& reported : settings_) {
     const RestoredSetting& restored = *reported.restored;
-    const bool isShown =
+    const bool isCompared =
         reported.outcome == Outcome::Differs || reported.outcome == Outcome::Changed;
-    if (!isShown || !restored.before) continue;
+    // What is restored beforehand is compared only while it is restored.
+    const bool isLeft =
+        restored.isBeforehand && reported.outcome == Outcome::NotReached && !Sends();
+    if (restored.setting == nullptr || !(isLeft || (isCompared && restored.before))) continue;
     const ModelSetting& setting = *restored.setting;
+    const auto text = [&](int value) { return work_.texts.Shown().Value(setting, value); };
     table.Add({NameOf(restored.saved), work_.texts.Shown().Caption(setting),
-               work_.texts.Shown().Value(setting, *restored.before), "->",
-               work_.texts.Shown().Value(setting, restored.saved.value)});
+               restored.before ? text(*restored.before) : "?", "->", text(restored.saved.value)});
   }
   return table.Text();
 }

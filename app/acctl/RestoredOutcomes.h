@@ -25,7 +25,7 @@ class RestoredOutcomes {
 
   /// Puts all lists and problems into the report.
   void PutInto(Report& report) const;
-  /// What differs, or did before it was changed: a line for each setting.
+  /// What differs, did before it was changed, or may differ: a line for each setting.
   std::string Differences() const;
   /// "12 changed, 28 already so, 1 refused"
   std::string Summary() const;
@@ -33,6 +33,7 @@ class RestoredOutcomes {
 
  private:
   ReportedSetting Judge(const RestoredSetting& restored) const;
+  bool Sends() const;
   bool IsStopped(const RestoredSetting& restored) const;
   std::string NameOf(const SavedSetting& saved) const;
   QJsonObject Describe(const ReportedSetting& reported) const;

@@ -103,7 +103,11 @@ std::string LoadSettingsFiles(const Arguments& arguments, Projectors& projectors
   if (QFileInfo(Wide(arguments.file)).isDir()) {
     return LoadFolder(arguments, projectors, profiles, files, left);
   }
-  if (arguments.projectors.empty()) return "name the projectors to which the file is applied";
+  if (arguments.projectors.empty()) {
+    const bool isMissing = arguments.file != "-" && !QFileInfo::exists(Wide(arguments.file));
+    return isMissing ? arguments.file + ": there is no such file or folder"
+                     : "name the projectors to which the file is applied";
+  }
   files.common = ReadSettingsFile(Wide(arguments.file));
   if (!files.common.error.isEmpty()) return files.common.error.toStdString();
   std::string error = CheckOnly(arguments, files.common);
@@ -145,8 +149,13 @@ std::string ChooseRun(const Arguments& arguments, RecordedRun& run) {
   std::ranges::reverse(runs);
   const auto found = std::ranges::find_if(runs, [&arguments](const RecordedRun& recorded) {
     if (!arguments.file.empty()) return recorded.name == arguments.file;
-    return !recorded.isUndo && !recorded.isUndone;
+    // One that cannot be read may be the last run.
+    return !recorded.error.isEmpty() || (!recorded.isUndo && !recorded.isUndone);
   });
+  if (found != runs.end() && !found->error.isEmpty()) {
+    const char* const help = arguments.file.empty() ? "; name an earlier run to undo that one" : "";
+    return found->error.toStdString() + help;
+  }
   if (found != runs.end()) {
     run = std::move(*found);
     return {};
@@ -167,6 +176,6 @@ void TakeRun(const RecordedRun& run, const std::vector<FleetProfile>& profiles,
   }
   for (const auto& [id, snapshot] : run.undo) {
     if (!known.contains(id))
-      left.push_back(snapshot->projector + ": is in the profile file no more");
+      left.push_back(snapshot->projector + ": is no longer in the profile file");
   }
 }

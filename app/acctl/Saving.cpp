@@ -71,7 +71,7 @@ Report RunSave(const Work& work, ProjectorAccess& projector) {
     return report;
   }
   const auto count = static_cast<int>(snapshot.settings.size());
-  report.text = std::to_string(count) + " settings saved in " + file + '\n';
+  report.text = Counted(count, "setting") + " saved in " + file + '\n';
   report.json["file"] = Wide(file);
   report.json["saved"] = count;
   return report;

@@ -43,11 +43,12 @@ bool TakeLine(const QJsonObject& json, RecordedRun& run) {
   return true;
 }
 
-// Whole lines are appended, so only the last one may be incomplete.
+// Whole lines are appended, so only the last one may be incomplete. `MarkUndone` ends that one.
 void TakeLines(const QByteArray& text, RecordedRun& run) {
   const QByteArrayList lines = text.split('\n');
   for (qsizetype i = 0; i + 1 < lines.size(); ++i) {
     if (TakeLine(QJsonDocument::fromJson(lines[i]).object(), run)) continue;
+    if (lines[i + 1].startsWith("{\"undone\"")) continue;
     run.error = QStringLiteral("%1:%2: not a line of an undo file").arg(run.path).arg(i + 1);
     return;
   }
@@ -91,6 +92,7 @@ RecordedRun ReadRun(const QString& path) {
     TakeLines(file.bytes, run);
   } else {
     FleetUndoContents job = ReadFleetUndo(file.bytes);
+    run.isOfJob = true;
     run.undo = std::move(job.undo);
     if (!job.error.isEmpty()) run.error = path + QStringLiteral(": ") + job.error;
   }
@@ -104,16 +106,16 @@ std::vector<RecordedRun> ListRuns(const QString& folder) {
   std::vector<RecordedRun> runs;
   for (const QFileInfo& file :
        QDir(folder).entryInfoList({u'*' + kSuffix}, QDir::Files, QDir::Name)) {
-    RecordedRun run = ReadRun(file.filePath());
-    if (run.error.isEmpty()) runs.push_back(std::move(run));
+    runs.push_back(ReadRun(file.filePath()));
   }
   return runs;
 }
 
 QString MarkUndone(const RecordedRun& run) {
+  if (run.isOfJob) return {};
   const int file = open(QFile::encodeName(run.path).constData(), O_WRONLY | O_APPEND | O_CLOEXEC);
   const QString time = QDateTime::currentDateTimeUtc().toString(Qt::ISODate);
-  const bool isWritten = file >= 0 && WriteAndSync(file, LineOf({{"undone", time}}));
+  const bool isWritten = file >= 0 && WriteAndSync(file, '\n' + LineOf({{"undone", time}}));
   const QString error = isWritten ? QString() : QString::fromLocal8Bit(std::strerror(errno));
   if (file >= 0) close(file);
   return error;

@@ -18,14 +18,16 @@ struct RecordedRun {
   SnapshotsById undo{};
   bool isUndo = false;    ///< It undid another run itself.
   bool isUndone = false;  ///< All of it was undone.
+  bool isOfJob = false;   ///< The file is one of the host application.
   QString error{};        ///< One line; empty if the file could be read.
 };
 
 /// Reads an undo file of this program, or one of a job of the host application.
 RecordedRun ReadRun(const QString& path);
-/// The runs of a folder, the oldest first; files that cannot be read are left out.
+/// The runs of a folder, the oldest first. Those whose files cannot be read have an `error`.
 std::vector<RecordedRun> ListRuns(const QString& folder);
-/// Records in its file that all of a run was undone. One line that says what is wrong, or empty.
+/// Records in its file that all of a run was undone. A file of the host application is left as it
+/// is. One line that says what is wrong, or empty.
 QString MarkUndone(const RecordedRun& run);
 
 /// The user's folder for undo files.

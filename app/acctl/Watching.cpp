@@ -212,6 +212,11 @@ int Watch(const Work& work, const Projectors& projectors, ModelCache& models) {
       Complain("--until: '" + work.arguments.until + "' is not KEY=VALUE");
       return ExitCode::WrongUse;
     }
+    const std::string error = ImpossibleValue(until.conditions, work.texts, projectors, models);
+    if (!error.empty()) {
+      Complain("--until " + error);
+      return ExitCode::WrongUse;
+    }
     shared.until = until.conditions.front();
   }
   if (work.arguments.wait) shared.end = Clock::now() + *work.arguments.wait;

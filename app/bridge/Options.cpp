@@ -1,5 +1,6 @@
 #include "app/bridge/Options.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include <QCommandLineParser>
@@ -186,6 +187,11 @@ CommandDesk::Rules Reader::ReadCommands() const {
   for (const QString& list : parser_.values(allow_)) {
     for (const QString& key : list.split(',', Qt::SkipEmptyParts)) {
       keys.push_back(key.trimmed().toStdString());
+      const KeyRules rules({keys.back()});
+      const auto allows = [&rules](std::string_view known) { return rules.Allows(known); };
+      if (rules.Allows(kPowerKey) || std::ranges::any_of(AllKeys(), allows)) continue;
+      throw WrongOption{QStringLiteral("--allow-commands: '%1' is no setting that may be commanded")
+                            .arg(key.trimmed())};
     }
   }
   constexpr int kMost = 6000;

@@ -14,7 +14,7 @@ class LookingUp(Building):
                 (["explain", "active-iris"], "values +Off \\(off\\), Theater \\(theater\\), "),
                 (["explain", "volume"], "short name: volume\n(.*\n)+.*kept +for each input source"),
                 (["explain", "power"], "commands +get, set"),
-                (["models", "Model 5-*"], "^Model 5-30 +5 +30 +1 projectors +\\d+ settings$"),
+                (["models", "Model 5-*"], "^Model 5-30 +5 +30 +1 projector +\\d+ settings$"),
                 (["help", "set"], "Use: acctl set P KEY=VALUE(.*\n)+Examples\n  acctl set"),
                 (["set", "--help"], "  --wait TIME"), (["--help"], "^  explain  ")):
             self.check(words, 0, output)

@@ -48,13 +48,19 @@ class Choosing(Building):
             with self.subTest(conditions=conditions):
                 found = self.json("get", "*", "power", "--where", conditions)["projectors"]
                 self.assertEqual([projector["name"] for projector in found], names)
-        for wrong, error in (("power", "one of = != < "), ("power=", "a value is missing"), ("smell=1", "no model has")):
+        for wrong, error in (("power", "one of = != < "), ("power=", "a value is missing"), ("smell=1", "no model has"),
+                             ("lamp-hours>many", "only numbers")):
             self.check(["get", "*", "power", "--where", wrong], 2, errors=error)
+        self.check(["get", "*", "power", "--where", "input!=hdim"], 0, "On$", "--where input: 'hdim' is not one of: RGB")
 
     def test_short_names_stand_for_the_key_of_each_model(self):
         run = self.check(["get", "*", "brightness", "-o", "tsv"], 0, "^Office\tmain.brightness\t")
         self.assertIn("Lecture hall\tpicture.brightness\t", run.stdout)
         self.check(["reset", "*", "lamp-hours"], 2, errors="lamp-hours: this cannot be reset")
+        profiles = {**json.loads((self.folder / "served.json").read_text()), "projectors": self.pjlink}
+        (self.folder / "pjlink.json").write_text(json.dumps(profiles))
+        explained = self.acctl("explain", "input", ACCTL_PROFILES="pjlink.json").stdout
+        self.assertRegex(explained, "(?m)^  values +those that the projector reports$")
 
     def test_a_key_that_one_lacks_stops_only_this_one(self):
         lacks = "Office: active-iris: this model has no such setting"
@@ -166,6 +172,42 @@ class Runs(Building):
         self.check(["undo", undo["run"]], 0, "2 changed")
         self.assertEqual(self.value(ALL, "contrast"), ["2"] * 3)
 
+    def test_a_run_that_cannot_be_read_is_never_passed_over(self):
+        for brightness in ("5", "6"):
+            self.acctl("set", "Office", "brightness=" + brightness)
+        undo = self.folder / "state/advanced-control/undo"
+        earlier, last = sorted(undo.iterdir())
+        whole = last.read_text()
+        header, line = whole.splitlines()
+        for damaged, error in (("", "illegal value"), (header + "\n", "nothing to undo"), (whole[:-9] + "\n", ":2: not a line"),
+                               (whole.replace(":1}", ":2}"), ":1: not a line"), (whole.replace(line, "[" * 9999), ":2: not"),
+                               (whole.replace('"id"', '"no"'), ":2: not"), (whole.replace("snapshot", "shot"), ":2: not")):
+            last.write_text(damaged)
+            self.check(["undo"], 2, errors=f"{last.name}.*{error}.*; name an earlier run")
+            self.check(["undo", last.stem], 2, errors=error)
+            self.check(["undo", "--list"], 1, earlier.stem + ".*set Office brightness=5\n$", errors=error)
+        VALIDATOR.validate(self.json("undo", "--list", code=1))
+        # A run that was killed while it wrote a line is undone, and stays in the list.
+        last.write_text(whole + line[:40])
+        self.check(["undo"], 0, "6  ->  5")
+        self.assertTrue(self.json("undo", "--list")["runs"][1]["isUndone"])
+        self.check(["undo"], 0, "5  ->  0")
+        self.check(["undo"], 2, errors="there is no run to undo")
+
+    def test_an_undo_of_the_host_application_is_not_written_to(self):
+        self.acctl("set", "Office", "brightness=5", "contrast=2")
+        run = next((self.folder / "state/advanced-control/undo").iterdir())
+        self.check(["undo", "--dry-run"], 0, r"main.contrast .* \?  ->  0\n.* \?  ->  0\nOffice  2 not compared$")
+        job = self.folder / "job.undo"
+        job.write_text(json.dumps({"undoOfJob": [json.loads(run.read_text().splitlines()[-1])]}, indent=1))
+        before = job.read_text()
+        self.check(["undo", "job.undo"], 0, "2 changed")
+        self.assertEqual(job.read_text(), before)
+        # What is undone and cannot be recorded is reported with an exit code of its own.
+        pipe = self.acctl("undo", "/dev/stdin", text=run.read_text())
+        self.assertEqual(pipe.returncode, 1)
+        self.assertIn("cannot record in /dev/stdin that it is undone", pipe.stderr)
+
     def test_what_was_set_for_a_new_input_is_undone_for_it(self):
         before = self.acctl("get", "Lecture hall", "-o", "tsv").stdout
         self.check(["set", "Lecture hall", "input=rgb2", "volume=7", "brightness=4", "input=rgb1", "volume=9"], 0, "->")
@@ -183,6 +225,7 @@ class Runs(Building):
         self.check(["apply", "saved"], 0, "^Seminar 2 .*already so")
         shutil.copy(self.folder / "saved/other.json", self.folder / "saved/twice.json")
         self.check(["apply", "saved"], 2, errors="is also of Seminar 2")
+        self.check(["apply", "sav"], 2, errors="sav: there is no such file or folder")
 
     def test_save_replaces_only_files_of_settings(self):
         notes = self.folder / "notes.txt"
@@ -190,7 +233,7 @@ class Runs(Building):
         self.check(["save", "Office", "notes.txt"], 2, errors="is not a file of settings; --force replaces it")
         self.assertEqual(notes.read_text(), "precious")
         self.check(["save", "Office", "notes.txt", "--force"], 0, "saved in notes.txt")
-        self.check(["save", "Office", "notes.txt"], 0, "saved in notes.txt")
+        self.check(["save", "Office", "notes.txt", "--only", "main.contrast"], 0, " 1 setting saved in notes.txt")
         self.check(["save", "Seminar*", "notes.txt"], 2, errors="-o names a folder")
 
     def test_set_takes_a_file_and_waits(self):
@@ -219,6 +262,9 @@ class Runs(Building):
         (config / "acctl.conf").write_text("jobs = many\n")
         self.check(["list"], 2, errors="acctl.conf:1: jobs: 'many' is not possible")
         (config / "acctl.conf").unlink()
+        (config / "acctl.conf").mkdir()
+        self.check(["list"], 2, errors="cannot read .*acctl.conf: Is a directory")
+        (config / "acctl.conf").rmdir()
         self.assertIn("ACCTL_TIMEOUT: 'x'", self.acctl("list", ACCTL_TIMEOUT="x").stderr)
 
 
@@ -242,3 +288,4 @@ class Watching(Building):
         self.acctl("set", "*", "contrast=4")
         self.assertEqual(watch.wait(60), 0)
         self.check(["watch", "Office", "power", "--until", "contrast=9", "--wait", "0.2"], 1, "On", "not so in time")
+        self.check(["watch", "Office", "power", "--until", "input=hdim"], 2, errors="'hdim' is not one of")

@@ -325,6 +325,7 @@ TEST_F(BridgeProgram, SaysWhatIsWrongWithItsOptions) {
       {{"--profiles", profiles_, "--interval", "1"}, "is no time"},
       {{"--profiles", profiles_, "--listen", "everywhere"}, "is no numeric address"},
       {{"--profiles", profiles_, "--allow-commands", "*"}, "needs --broker"},
+      {{"--profiles", profiles_, "--broker", "h", "--allow-commands", "pic.*"}, "'pic.*' is no"},
       {{"--profiles", profiles_, "--broker", ":1"}, "is no host"},
       {{"--profiles", profiles_, "--broker", "h:0"}, "is no host"},
       {{"--profiles", profiles_, "--broker", "h", "--mqtt", "4"}, "is neither 3 nor 5"},

@@ -24,7 +24,7 @@ void FleetSummary::Show(const std::vector<ProjectorRow>& rows) {
   if (const int silent = in(ProjectorGroup::Kind::Unreachable); silent > 0)
     parts += tr("%1 not reachable").arg(silent);
   if (const int alerts = count([](const ProjectorRow& row) { return row.hasAlert; }); alerts > 0)
-    parts += tr("%1 alerts").arg(alerts);
+    parts += tr("%1 with alerts").arg(alerts);
   std::optional<WallTime> oldest;
   for (const ProjectorRow& row : rows) {
     if (row.state.reachability != Reachability::Answers || !row.state.answered) continue;

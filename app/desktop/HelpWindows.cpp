@@ -17,6 +17,7 @@
 #include <QVBoxLayout>
 
 #include "app/desktop/Mnemonic.h"
+#include "toolkit/Icons.h"
 
 namespace {
 
@@ -46,6 +47,7 @@ void ShowTable(const QString& title, const QString& table, QWidget& owner) {
   auto* layout = new QVBoxLayout(dialog);
   layout->addWidget(text);
   layout->addWidget(buttons);
+  RemoveForeignButtonIcons(*dialog);
   QTextDocument document;
   document.setDefaultFont(text->font());
   document.setHtml(table);
@@ -93,5 +95,6 @@ void ShowAbout(QWidget& window) {
                                 QMessageBox::Ok, &window);
   about->setAttribute(Qt::WA_DeleteOnClose);
   about->setIconPixmap(window.windowIcon().pixmap(kIconSize));
+  RemoveForeignButtonIcons(*about);
   about->open();
 }

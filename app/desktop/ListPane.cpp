@@ -1,5 +1,6 @@
 #include "app/desktop/ListPane.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <QScrollArea>
@@ -14,6 +15,7 @@ namespace {
 
 constexpr int kGap = 9;
 constexpr auto kCounting = std::chrono::seconds(1);
+constexpr std::size_t kFetchedUnseen = 500;
 
 }  // namespace
 
@@ -96,15 +98,20 @@ void ListPane::ShowDetails() {
       current == nullptr ? std::vector<StateChange>() : watch_.Projectors().History(current->id));
 }
 
-// The last answers are no news for the fleet; of the rows in sight they are fetched here.
+// The last answers are no news for the fleet. They are fetched here: each time of the rows in
+// sight, and in turn of the others, which sorting and the status bar need too.
 void ListPane::Count() {
   std::vector<std::string> ids;
   for (const int position : view_->InSight())
     ids.push_back(view_->Model().All()[static_cast<std::size_t>(position)].id);
   if (const ProjectorRow* current = view_->Current()) ids.push_back(current->id);
+  const std::vector<ProjectorRow>& rows = view_->Model().All();
+  for (std::size_t i = 0; i < std::min(kFetchedUnseen, rows.size()); ++i) {
+    nextFetched_ = (nextFetched_ + 1) % rows.size();
+    ids.push_back(rows[nextFetched_].id);
+  }
   Refresh(ids);
   view_->Model().Rearrange();
-  const std::vector<ProjectorRow>& rows = view_->Model().All();
   groups_->Show(rows);
   ShowDetails();
   Q_EMIT Counted(rows);

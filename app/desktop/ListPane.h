@@ -52,4 +52,5 @@ class ListPane : public QWidget {
   ProjectorView* view_;
   DetailsPanel* details_ = nullptr;
   QTimer counting_;
+  std::size_t nextFetched_ = 0;  ///< Position of the next row whose last answer is fetched unseen.
 };

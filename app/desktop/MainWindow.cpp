@@ -34,6 +34,7 @@
 #include "app/desktop/work/WorkActions.h"
 #include "host/CAdvanceDlg.h"
 #include "i18n/Catalog.h"
+#include "toolkit/Icons.h"
 
 namespace {
 
@@ -248,6 +249,7 @@ void MainWindow::OpenSelected() {
                                    QMessageBox::Open | QMessageBox::Cancel, this);
   question->setAttribute(Qt::WA_DeleteOnClose);
   connect(question, &QDialog::accepted, this, open);
+  RemoveForeignButtonIcons(*question);
   question->open();
 }
 

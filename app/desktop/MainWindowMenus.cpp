@@ -11,6 +11,7 @@
 #include "app/desktop/ListPane.h"
 #include "app/desktop/LiveProjectors.h"
 #include "app/desktop/MainWindow.h"
+#include "app/desktop/Mnemonic.h"
 #include "app/desktop/PresetActions.h"
 #include "app/desktop/alerts/AlertList.h"
 #include "app/desktop/log/CommandLog.h"
@@ -86,7 +87,15 @@ void MainWindow::MakeMenus() {
   const QList<QAction*> settings{settingsActions_->Save(), settingsActions_->Compare(),
                                  settingsActions_->Apply()};
   projector->addActions(settings);
-  projectors_->AddContextActions(QList<QAction*>{open, refresh} + usual + settings + profile);
+  const auto gap = [this] {
+    auto* separator = new QAction(this);
+    separator->setSeparator(true);
+    return QList<QAction*>{separator};
+  };
+  projectors_->AddContextActions(QList<QAction*>{open, refresh} + gap() + usual + gap() + settings +
+                                 gap() + profile);
+  for (QAction* action : QList<QAction*>{refresh, work_->PowerOn(), work_->PowerOff()} + usual)
+    action->setIconText(WithoutMnemonic(action->text()));
   pane_->AddDetails(QList<QAction*>{open} + usual);
 
   QMenu* view = menuBar()->addMenu(tr("&View"));

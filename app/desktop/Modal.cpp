@@ -6,6 +6,8 @@
 #include <QFileInfo>
 #include <QMessageBox>
 
+#include "toolkit/Icons.h"
+
 namespace {
 
 constexpr qsizetype kLinesShown = 10;
@@ -52,5 +54,6 @@ void ShowError(QWidget& window, const QString& title, const QString& text, const
     box->setText(lines.first(kLinesShown).join(QLatin1Char('\n')) + QStringLiteral("\n…"));
     box->setDetailedText(text);
   }
+  RemoveForeignButtonIcons(*box);
   box->open();
 }

@@ -15,6 +15,7 @@
 
 #include "i18n/SystemLanguage.h"
 #include "toolkit/CComboBox.h"
+#include "toolkit/Icons.h"
 
 namespace {
 
@@ -93,6 +94,7 @@ Preferences::Preferences(QSettings& settings, QWidget* parent)
   layout->addLayout(general);
   layout->addWidget(alerts);
   layout->addWidget(buttons);
+  RemoveForeignButtonIcons(*this);
 }
 
 void Preferences::accept() {

@@ -13,6 +13,7 @@
 #include "app/desktop/profiles/ProfileDocument.h"
 #include "app/desktop/projectors/FleetWatch.h"
 #include "app/desktop/work/WorkActions.h"
+#include "toolkit/Icons.h"
 
 namespace {
 
@@ -77,6 +78,7 @@ void PresetActions::AskForName() {
     parts_.work.Do(std::move(plan), [this, name](const WorkRun& run) { Save(name, run); });
   });
   question->open();
+  RemoveForeignButtonIcons(*question);
 }
 
 void PresetActions::Save(const QString& name, const WorkRun& run) {

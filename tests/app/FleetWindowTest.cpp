@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTcpSocket>
@@ -13,6 +15,7 @@
 #include "app/desktop/MainWindow.h"
 #include "app/desktop/alerts/AlertList.h"
 #include "app/desktop/groups/GroupList.h"
+#include "app/desktop/profiles/SearchDialog.h"
 #include "app/desktop/profiles/TransferActions.h"
 #include "app/desktop/work/WorkDialog.h"
 #include "tests/app/Windows.h"
@@ -116,6 +119,31 @@ TEST(FleetWindow, RaisesAnAlertUntilItsCauseIsGone) {
   EXPECT_TRUE(Soon([&] { return alerts.findChild<QTreeWidget*>()->topLevelItemCount() == 0; }));
   raise(4);
   EXPECT_TRUE(Soon([&] { return Rows(window)[1].hasAlert; })) << "it came again";
+}
+
+TEST(FleetWindow, TheFirstReadingIsNoEventAndUnseenRowsStayUpToDate) {
+  MainWindow window({Profile("A"), Profile("B")}, kOften);  // not shown: no row is in sight
+  const auto& state = Rows(window)[1].state;
+  ASSERT_TRUE(Soon([&] { return Rows(window)[0].state.power && state.answered; }));
+  const WallTime first = *state.answered;
+  EXPECT_TRUE(Soon([&] { return *state.answered > first + 2s; }));
+  const auto& events = Find<QListWidget>(window, "Recent events");
+  EXPECT_EQ(events.item(0)->text(), "nothing yet");
+  window.Session(0)->Simulator().SetValue(SettingId::ErrorStatus, 4);
+  EXPECT_TRUE(
+      Soon([&] { return events.item(0)->text().endsWith(QString("Temperature: OK → Error")); }));
+}
+
+TEST(FleetWindow, EnterSearchesForProjectors) {
+  SearchDialog dialog({}, nullptr);
+  dialog.open();
+  auto* addresses = dialog.findChild<QLineEdit*>();
+  QTest::keyClicks(addresses, "nowhere");
+  QTest::keyClick(addresses, Qt::Key_Return);
+  EXPECT_TRUE(dialog.isVisible());
+  EXPECT_TRUE(std::ranges::any_of(dialog.findChildren<QLabel*>(), [](const QLabel* label) {
+    return label->text().contains(QStringLiteral("nowhere"));
+  }));
 }
 
 TEST(FleetWindow, QuietHoursGoOnPastMidnight) {

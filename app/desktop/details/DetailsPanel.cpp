@@ -15,6 +15,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "app/desktop/projectors/LampDelegate.h"
 #include "app/desktop/projectors/StateTexts.h"
 #include "toolkit/IsolatedText.h"
 
@@ -49,6 +50,14 @@ QString TimeOf(WallTime time) {
   const bool isToday = moment.date() == QDate::currentDate();
   return isToday ? QLocale().toString(moment.time(), QLocale::ShortFormat)
                  : QLocale().toString(moment, QLocale::ShortFormat);
+}
+
+/// Whether a change belongs to the first reading after the start, which shows only how things are.
+bool IsOfFirstReading(const StateChange& change, const std::vector<StateChange>& history) {
+  const StateChange& first = history.front();
+  return first.field == StateField::Reachability &&
+         first.before.number == static_cast<int>(Reachability::NeverAsked) &&
+         change.time == first.time;
 }
 
 /// Whether a change is more than that something became known, or unknown, by being asked.
@@ -130,6 +139,7 @@ DetailsPanel::DetailsPanel(const QList<QAction*>& actions, QWidget* parent)
   layout->addLayout(buttons);
   layout->addSpacing(6);
   layout->addWidget(body_, 1);
+  layout->addStretch();  // while the body is hidden
   setMinimumWidth(kUsualWidth * 3 / 4);
 }
 
@@ -167,6 +177,10 @@ void DetailsPanel::ShowFacts(const ProjectorRow& row) {
   if (hours >= 0 && rated > 0) lampText = tr("%1 of %2").arg(lampText, StateTexts::Hours(rated));
   lamp_->setVisible(hours >= 0 && rated > 0);
   lamp_->setValue(rated > 0 ? std::min(kPercent, hours * kPercent / rated) : 0);
+  QPalette bar;
+  if (rated > 0)
+    bar.setColor(QPalette::Highlight, LampDelegate::Color(static_cast<double>(hours) / rated));
+  lamp_->setPalette(bar);
   QString problems = StateTexts::Problems(state);
   if (problems.isEmpty() && state.problems) problems = tr("none");
   const std::array<QString, FactCount> texts{
@@ -187,7 +201,7 @@ void DetailsPanel::ShowFacts(const ProjectorRow& row) {
 void DetailsPanel::ShowHistory(const std::vector<StateChange>& history) {
   QStringList texts;
   for (auto change = history.rbegin(); change != history.rend(); ++change)
-    if (IsEvent(*change))
+    if (IsEvent(*change) && !IsOfFirstReading(*change, history))
       texts += tr("%1  %2").arg(TimeOf(change->time), StateTexts::Change(*change));
   if (texts.isEmpty()) texts += tr("nothing yet");
   if (texts.size() == events_->count() && texts.first() == events_->item(0)->text()) return;

@@ -5,6 +5,8 @@
 #include <map>
 
 #include <QCollator>
+#include <QIcon>
+#include <QPixmap>
 
 #include "app/desktop/projectors/StateTexts.h"
 #include "toolkit/IsolatedText.h"
@@ -15,6 +17,7 @@ using Kind = ProjectorGroup::Kind;
 
 constexpr int kUsualWidth = 160;
 constexpr int kRowGap = 8;
+constexpr int kIconSize = 16;
 constexpr std::array kKinds{Kind::All, Kind::Problems, Kind::Off, Kind::Unreachable};
 
 }  // namespace
@@ -54,9 +57,13 @@ void GroupList::Show(const std::vector<ProjectorRow>& rows) {
       const QSignalBlocker quiet(this);
       groups_ = groups;
       clear();
+      QPixmap blank(kIconSize, kIconSize);
+      blank.fill(Qt::transparent);
+      const QIcon noIcon(blank);  // so that all names begin in one column
       for (const ProjectorGroup& group : groups_) {
         auto* entry = new QListWidgetItem(this);
         entry->setSizeHint({0, fontMetrics().height() + kRowGap});
+        entry->setIcon(noIcon);
         if (group.kind == Kind::Problems) entry->setIcon(StateTexts::Icon(Health::Error));
         if (group.kind == Kind::Unreachable) entry->setIcon(StateTexts::Icon(Health::Unreachable));
       }

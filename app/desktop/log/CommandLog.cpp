@@ -26,10 +26,12 @@
 #include "app/desktop/Mnemonic.h"
 #include "app/desktop/Modal.h"
 #include "fleet/WholeFile.h"
+#include "toolkit/Icons.h"
 #include "toolkit/IsolatedText.h"
 
 namespace {
 
+constexpr int kLeastFilter = 14;  // characters
 constexpr auto kGatherTime = std::chrono::milliseconds(40);
 
 // The widest usual text of each column.
@@ -116,6 +118,7 @@ CommandLog::CommandLog(QWidget* parent)
   filter_->setPlaceholderText(tr("Projector, command or result"));
   filter_->setAccessibleName(tr("Filter the log"));
   filter_->setClearButtonEnabled(true);
+  filter_->setMinimumWidth(filter_->fontMetrics().averageCharWidth() * kLeastFilter);
   auto* head = new QHBoxLayout;
   head->addWidget(filter_, 1);
   for (QAction* action : {changesOnly_, errorsOnly_, saveAs_, clear_})
@@ -206,6 +209,7 @@ void CommandLog::AskAndSave() {
 }
 
 void CommandLog::AskAndClear() {
+  if (model_->rowCount() == 0) return;
   auto* question = new QMessageBox(QMessageBox::Question, tr("Clear Log"),
                                    tr("Remove all %1 entries of the log?").arg(model_->rowCount()),
                                    QMessageBox::NoButton, this);
@@ -215,5 +219,6 @@ void CommandLog::AskAndClear() {
   connect(question, &QDialog::finished, this, [this, question, clear] {
     if (question->clickedButton() == clear) Clear();
   });
+  RemoveForeignButtonIcons(*question);
   question->open();
 }

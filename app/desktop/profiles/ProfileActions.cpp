@@ -13,6 +13,7 @@
 #include "app/desktop/Modal.h"
 #include "app/desktop/profiles/ProfileDocument.h"
 #include "app/desktop/profiles/ProfileEditor.h"
+#include "toolkit/Icons.h"
 
 namespace {
 
@@ -225,6 +226,7 @@ void ProfileActions::RemoveProjectors() {
     const QString error = Do(tr("Remove"), next, [&] { return document_.Remove(rows); });
     if (!error.isEmpty()) ReportResult(tr("Remove"), error, -1);
   });
+  RemoveForeignButtonIcons(*question);
   question->open();
 }
 
@@ -250,4 +252,5 @@ void ProfileActions::TagProjectors() {
     if (!error.isEmpty()) ReportResult(tr("Tag"), error, -1);
   });
   question->open();
+  RemoveForeignButtonIcons(*question);
 }

@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include "fleet/SearchRange.h"
+#include "toolkit/Icons.h"
 #include "toolkit/IsolatedText.h"
 
 namespace {
@@ -45,12 +46,13 @@ SearchDialog::SearchDialog(const std::vector<FleetProfile>& known, QWidget* pare
   buttons->addButton(search_, QDialogButtonBox::ActionRole);
   add_ = buttons->addButton(tr("Add the &Checked"), QDialogButtonBox::AcceptRole);
   add_->setEnabled(false);
-  search_->setDefault(true);
   auto* layout = new QVBoxLayout(this);
   layout->addLayout(form);
   layout->addWidget(list_, 1);
   layout->addWidget(text_);
   layout->addWidget(buttons);
+  search_->setDefault(true);  // only now that the dialog knows the buttons
+  RemoveForeignButtonIcons(*this);
   resize(kUsualSize);
   list_->setColumnWidth(0, kUsualSize.width() / 4);
   list_->setColumnWidth(1, kUsualSize.width() / 4);

@@ -12,6 +12,7 @@
 #include "fleet/ProfileCsv.h"
 #include "fleet/SearchProfiles.h"
 #include "fleet/WholeFile.h"
+#include "toolkit/Icons.h"
 
 namespace {
 
@@ -88,6 +89,7 @@ void TransferActions::ImportFile(const QString& path) {
         faults.first(std::min<qsizetype>(faults.size(), 12)).join(QLatin1Char('\n')));
     if (faults.size() > 12) box->setDetailedText(faults.join(QLatin1Char('\n')));
   }
+  RemoveForeignButtonIcons(*box);
   box->open();
 }
 

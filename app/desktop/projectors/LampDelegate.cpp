@@ -15,6 +15,11 @@ constexpr int kBarHeight = 3;
 
 }  // namespace
 
+QColor LampDelegate::Color(double share) {
+  if (share >= 1) return {0xD0, 0x36, 0x30};
+  return share >= kMuch ? QColor(0xE0, 0x9A, 0x10) : QColor(0x2E, 0x9E, 0x4F);
+}
+
 void LampDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                          const QModelIndex& index) const {
   IsolatedTexts::paint(painter, option, index);
@@ -29,8 +34,5 @@ void LampDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
   QRect full = bar;
   full.setWidth(static_cast<int>(bar.width() * std::clamp(share, 0.0, 1.0)));
   if (option.direction == Qt::RightToLeft) full.moveRight(bar.right());
-  const QColor color = share >= 1       ? QColor(0xD0, 0x36, 0x30)
-                       : share >= kMuch ? QColor(0xE0, 0x9A, 0x10)
-                                        : QColor(0x2E, 0x9E, 0x4F);
-  painter->fillRect(full, color);
+  painter->fillRect(full, Color(share));
 }

@@ -1,11 +1,16 @@
 #pragma once
 
+#include <QColor>
+
 #include "toolkit/IsolatedText.h"
 
 /// Draws the hours of a lamp in front of a bar, which is full when the rated hours are over.
 class LampDelegate : public IsolatedTexts {
  public:
   using IsolatedTexts::IsolatedTexts;
+
+  /// Of the bar of a lamp that has burned `share` of its rated hours, 1 being all of them.
+  static QColor Color(double share);
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
              const QModelIndex& index) const override;

@@ -27,8 +27,9 @@ void Fill(QPainter& painter, std::initializer_list<QPointF> corners) {
   painter.drawPolygon(std::data(corners), static_cast<int>(corners.size()));
 }
 
-QPixmap Draw(Health health, int scale) {
-  QPixmap pixmap(kIconSize * scale, kIconSize * scale);
+QPixmap Draw(Health health, double scale) {
+  const int side = qRound(kIconSize * scale);
+  QPixmap pixmap(side, side);
   pixmap.setDevicePixelRatio(scale);
   pixmap.fill(Qt::transparent);
   QPainter painter(&pixmap);
@@ -224,7 +225,12 @@ QIcon StateTexts::Icon(Health health) {
   static std::map<Health, QIcon> icons;
   QIcon& icon = icons[health];
   if (icon.isNull()) {
-    for (const int scale : {1, 2, 3}) icon.addPixmap(Draw(health, scale));
+    // One for each usual scale of a screen, unstained in selected rows.
+    for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0, 2.5, 3.0}) {
+      const QPixmap pixmap = Draw(health, scale);
+      icon.addPixmap(pixmap);
+      icon.addPixmap(pixmap, QIcon::Selected);
+    }
   }
   return icon;
 }

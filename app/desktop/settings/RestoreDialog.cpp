@@ -25,6 +25,7 @@
 #include "device/ModelDataIntake.h"
 #include "i18n/Catalog.h"
 #include "i18n/SystemLanguage.h"
+#include "toolkit/Icons.h"
 #include "toolkit/IsolatedText.h"
 
 namespace {
@@ -153,6 +154,7 @@ void RestoreDialog::CreateLayout() {
   column->addWidget(progress_);
   column->addWidget(summary_);
   column->addWidget(buttons);
+  RemoveForeignButtonIcons(*this);
 
   connect(filter_, &QLineEdit::textChanged, shown, &OutcomeFilter::setFilterFixedString);
   connect(differencesOnly_, &QCheckBox::toggled, this, [shown](bool on) { shown->HideSame(on); });

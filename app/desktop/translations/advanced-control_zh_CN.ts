@@ -576,7 +576,7 @@
         <translation>%1 台无法连接</translation>
     </message>
     <message>
-        <source>%1 alerts</source>
+        <source>%1 with alerts</source>
         <translation>%1 台有警报</translation>
     </message>
     <message>
@@ -2175,7 +2175,7 @@ a minus in front takes a tag away:</source>
         <translation>静音</translation>
     </message>
     <message>
-        <source>Sound On</source>
+        <source>Unmute the Sound</source>
         <translation>取消静音</translation>
     </message>
     <message>

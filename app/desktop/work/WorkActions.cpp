@@ -47,7 +47,7 @@ WorkActions::WorkActions(std::function<Rows()> selected, WorkDialog::NameOf name
       input_(new QAction(tr("&Input"), this)),
       blank_(
           MakeSwitch(tr("&Blank"), "other.blank", tr("Blank the Picture"), tr("Show the Picture"))),
-      mute_(MakeSwitch(tr("&Mute"), "other.mute", tr("Mute the Sound"), tr("Sound On"))),
+      mute_(MakeSwitch(tr("&Mute"), "other.mute", tr("Mute the Sound"), tr("Unmute the Sound"))),
       freeze_(MakeSwitch(tr("Free&ze"), "other.freeze", tr("Freeze the Picture"),
                          tr("Release the Picture"))) {
   connect(on_, &QAction::triggered, this, [this] { SwitchAll(true); });

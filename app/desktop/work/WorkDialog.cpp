@@ -11,6 +11,7 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include "toolkit/Icons.h"
 #include "toolkit/IsolatedText.h"
 
 namespace {
@@ -70,6 +71,7 @@ void WorkDialog::MakeLayout(const NameOf& nameOf) {
   layout->addWidget(list_, 1);
   layout->addWidget(progress_);
   layout->addWidget(buttons);
+  RemoveForeignButtonIcons(*this);
   resize(kUsualSize.boundedTo(screen()->availableGeometry().size() - kFrame));
 }
 

@@ -166,6 +166,7 @@ TEST_F(SilentProjectorTest, ShowsThatNobodyAnswersAndTriesAgain) {
   EXPECT_FALSE(Page().IsEnabled(kIris));
   EXPECT_EQ(Page().Item<QWidget>(kIris).toolTip(), CatalogString(5, 4304));
   EXPECT_EQ(Page().Item<QWidget>(kIris).accessibleDescription(), CatalogString(5, 4304));
+  EXPECT_FALSE(dialog_.ShownPage()->Reader().SinceRead());
 
   projector_->Pace(0ms);
   QTest::mouseClick(&Retry(), Qt::LeftButton);

@@ -120,6 +120,22 @@ TEST_F(PendingInputTest, IsDroppedByAnythingElse) {
   }
 }
 
+TEST_F(PendingInputTest, TheSliderLeavesAPositionThatIsDropped) {
+  Open();
+  const auto popUp = MakePopUp(PopUp::ColorTemp, dialog_);
+  ::Open(*popUp);
+  const DialogDriver driver(*popUp);
+  const int start = driver.SliderAt(20181);
+  InTheWait([&] {
+    driver.Drag(20181, start + 5);
+    projector_->refuses = true;
+    projector_->Pace(0ms);
+  });
+  driver.Click(20188);
+  EXPECT_TRUE(Soon([&] { return !look_.isActive() && !popUp->IsBusy(); }));
+  EXPECT_EQ(driver.SliderAt(20181), start);
+}
+
 TEST_F(PendingInputTest, TheReleaseOfAButtonHeldSinceBeforeIsNoFurtherPress) {
   Open(kPictureTab);
   projector_->Take();

@@ -101,6 +101,8 @@ TEST(OutcomesOfPopUps, AreSaidInThePopUp) {
   EXPECT_THAT(Said(*service), HasSubstr("On. The projector has Off."));
   EXPECT_THAT(Marked(*service), testing::ElementsAre(20375));
   EXPECT_EQ(Said(open.Page()), "");
+  Open(*service);
+  EXPECT_THAT(Marked(*service), IsEmpty()) << "opened again, it has read every row";
 }
 
 TEST(UnusableControls, SayWhy) {

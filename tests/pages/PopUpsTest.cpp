@@ -3,6 +3,7 @@
 #include <tuple>
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -59,6 +60,24 @@ TEST(PopUps, ThePictureIsDescribedByTheCaptionAndValueOfEachRow) {
   open.driver.Drag(20181, 5);
   EXPECT_TRUE(open.popUp->findChild<CurveView*>()->accessibleDescription().startsWith(
       QStringLiteral("Color Temp Gain R 5, Color Temp Gain G -128, ")));
+}
+
+TEST(GammaPopUp, APendingPressIsNotDescribedAsAccepted) {
+  OpenPopUp open(PopUp::Gamma);
+  open.Projector().Answer("Get 0x3090", 129);
+  QString whilePending;
+  const auto& field = open.driver.Item<QLineEdit>(20162);
+  QObject::connect(
+      &field, &QLineEdit::textChanged, &field,
+      [&] {
+        open.driver.Click(20161);
+        EXPECT_NE(field.text(), QStringLiteral("1"));
+        whilePending = open.popUp->findChild<CurveView*>()->accessibleDescription();
+      },
+      Qt::SingleShotConnection);
+  open.driver.Click(20161);
+  EXPECT_TRUE(whilePending.startsWith(QStringLiteral("User Gamma Point 1 1,")))
+      << whilePending.toStdString();
 }
 
 TEST(GammaPopUp, APointOfTheCurveCanBeDraggedAndSendsWhatItsSliderSends) {

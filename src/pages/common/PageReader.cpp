@@ -32,7 +32,7 @@ CPjtInterface& PageReader::Projector() const { return *host_.Dialog().projector;
 
 PageReader::Reading::Reading(PageReader& reader) : reader_(reader) {
   if (reader_.readings_++ > 0) return;
-  reader_.sentBefore_ = reader_.Projector().Sent().commands;
+  reader_.sentBefore_ = reader_.Projector().Sent();
   reader_.MarkUnread();
 }
 
@@ -48,7 +48,8 @@ PageReader::Reading::~Reading() {
     if (row->memory.note != RowNote::None) reader_.notes_.GreyCaption(*row);
   }
   reader_.UpdateVeil();
-  reader_.sinceRead_.start();
+  const bool isAnswered = reader_.Projector().Sent().unanswered == reader_.sentBefore_.unanswered;
+  if (isAnswered) reader_.sinceRead_.start();
 }
 
 void PageReader::MarkUnread() {
@@ -194,7 +195,7 @@ PageReader::Source PageReader::AskFor(OfSource of) {
 
 QString PageReader::WaitingText() const {
   if (readings_ == 0) return CatalogString(kListCategory, ListText::Waiting);
-  const int next = Projector().Sent().commands - sentBefore_ + 1;
+  const int next = Projector().Sent().commands - sentBefore_.commands + 1;
   auto total = static_cast<int>(Reads().size());
   for (const auto& row : rows_) {
     total += row->memory.present && SourceOf(row->Row()) != OfSource::None;

@@ -66,7 +66,7 @@ class PageReader {
   void ShowNotes();
   /// How many rows have another value than the wanted one.
   int Differences() const;
-  /// The time since the last complete reading; nothing before the first one.
+  /// The time since the last reading that was complete and answered; nothing before the first one.
   std::optional<std::chrono::milliseconds> SinceRead() const;
 
  private:
@@ -80,7 +80,7 @@ class PageReader {
   const Rows& rows_;
   RowNotes notes_;
   int readings_ = 0;  // number of nested readings
-  int sentBefore_ = 0;
+  CPjtInterface::Tally sentBefore_;
   bool waiting_ = false;
   QElapsedTimer sinceRead_;
   QPointer<PageVeil> veil_;  // only while it is shown

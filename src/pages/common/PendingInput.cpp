@@ -104,8 +104,10 @@ bool PendingInput::eventFilter(QObject* control, QEvent* event) {
 
 // The act under way stays, because its handler runs.
 void PendingInput::Drop() {
-  if (acts_.size() > 1) acts_.erase(acts_.begin() + 1, acts_.end());
+  bool movedSlider = false;
+  for (; acts_.size() > 1; acts_.pop_back()) movedSlider |= acts_.back().slider != nullptr;
   Show();
+  if (movedSlider) row_->Widgets().ReturnSlider();
 }
 
 void PendingInput::Show() {

@@ -56,6 +56,7 @@ const NotificationMap& RowDialog::Notifications() const {
 
 void RowDialog::DoDataExchange() {
   resets_.Clear();
+  reader_.Notes().Clear();
   rows_.Bind();
 }
 

@@ -47,7 +47,7 @@ void CustomDialog::AddPicture() {
     if (slider.isEnabled()) slider.Drop();
   });
   connect(qApp, &QApplication::focusChanged, picture_, [this] {
-    if (isVisible()) Draw();
+    if (isVisible() && IsCreated()) Draw();
   });
   Draw();
 }
@@ -62,7 +62,7 @@ std::optional<int> CustomDialog::FocusedRow() const {
   return {};
 }
 
-// A field shows the accepted value; while the user moves a slider, it already shows the new one.
+// While the user moves a slider, it already shows the new value; a field shows what is pending.
 void CustomDialog::Draw() {
   Values accepted;
   Values tried;
@@ -70,13 +70,16 @@ void CustomDialog::Draw() {
   for (std::size_t row = 0; row < RowCount(); ++row) {
     const auto& slider = Item<CSliderCtrl>(RowAt(row).ids.slider);
     const auto& field = Item<QLineEdit>(RowAt(row).ids.field);
-    bool known = false;
-    const int value = field.text().toInt(&known);
-    const bool moved = qBound(slider.minimum(), value, slider.maximum()) != slider.value();
-    accepted.push_back(known ? std::optional(value) : std::nullopt);
-    tried.push_back(known && moved ? slider.value() : accepted.back());
+    const std::optional<int> value = Row<RowView>(RowAt(row).ids.slider).Position();
+    accepted.push_back(value);
+    tried.push_back(value);
+    if (!value) continue;
+    const QString number = QString::number(*value);
+    const bool moved = qBound(slider.minimum(), *value, slider.maximum()) != slider.value();
+    if (moved) tried.back() = slider.value();
+    if (field.text() != number) tried.back() = field.text().toInt();
     const QWidget& caption = *GetDlgItem(Template()->rows[row + 1].controls.front().id);
-    if (known) description += WindowText(caption) + QLatin1Char(' ') + field.text();
+    description += WindowText(caption) + QLatin1Char(' ') + number;
   }
   std::vector<CurveView::Line> lines = LinesOf(accepted);
   std::vector<CurveView::Line> ahead = LinesOf(tried);

@@ -54,6 +54,10 @@ void NumberControls::MoveSlider(int value) {
   }
 }
 
+void NumberControls::ReturnSlider() {
+  if (const auto position = heldBack_ ? heldBack_ : number_) MoveSlider(*position);
+}
+
 // A pending number is as light as a hint, because the projector does not have it yet.
 void NumberControls::ShowField() {
   QPalette palette;

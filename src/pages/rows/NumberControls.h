@@ -39,6 +39,8 @@ class NumberControls {
   void ShowNumber(std::optional<int> number);
   /// Moves the slider, or remembers to do so while the user moves it.
   void MoveSlider(int value);
+  /// Moves the slider away from where the user has left it, because that position is not sent.
+  void ReturnSlider();
 
   /// What the user has asked for and the projector was not told yet.
   struct Pending {

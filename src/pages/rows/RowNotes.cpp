@@ -56,7 +56,9 @@ QString NoteText(const RowView& row) {
 
 }  // namespace
 
-RowNotes::~RowNotes() { delete marks_; }
+RowNotes::~RowNotes() { Clear(); }
+
+void RowNotes::Clear() { delete marks_; }
 
 QString RowNotes::TextOf(const RowView& row) {
   QStringList texts{row.memory.refusal};

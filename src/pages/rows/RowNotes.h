@@ -35,6 +35,8 @@ class RowNotes {
   void SetNote(RowView& row, const CPjtInterface::Tally& before);
   /// Shows the texts and marks of a row as they are now.
   void Show(const RowView& row);
+  /// Removes the marks, because the dialog has made new controls.
+  void Clear();
   /// Greys a row's caption if its controls are disabled.
   void GreyCaption(const RowView& row) const;
 

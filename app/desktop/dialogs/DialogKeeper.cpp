@@ -77,7 +77,7 @@ CAdvanceDlg* DialogKeeper::Open(const ProjectorSession& session, std::optional<i
     dialog = (dialogs_[&session] = session.MakeDialog()).get();
     connect(dialog, &QDialog::finished, this, [this, key = &session] { Retire(key); });
     Q_EMIT Opened(&session);
-    const CModelInfo2& model = session.Profile().Model;
+    const CModelInfo2& model = session.Profile().model->info;
     const bool created = dialog->CreateShown([&] {
       Arrange(*dialog);
       SelectTab(*dialog, model, tab);

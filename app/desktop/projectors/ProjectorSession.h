@@ -7,9 +7,9 @@
 #include <variant>
 #include <vector>
 
-#include "app/profiles/ProfileFile.h"
 #include "device/channels/BoundedChannel.h"
 #include "device/channels/LoggingChannel.h"
+#include "fleet/FleetProfile.h"
 #include "simulator/FaultChannel.h"
 #include "simulator/FaultyLine.h"
 #include "simulator/SimulatedProjector.h"
@@ -25,9 +25,9 @@ class ProjectorSession {
  public:
   /// `observer` gets every command of a dialog and the reply that the dialog got. It is called on
   /// the user-interface thread, from inside the dialog's handlers.
-  ProjectorSession(ProjectorProfile profile, LoggingChannel::Observer observer);
+  ProjectorSession(FleetProfile profile, LoggingChannel::Observer observer);
 
-  const ProjectorProfile& Profile() const { return profile_; }
+  const FleetProfile& Profile() const { return profile_; }
   /// The model of the profile. If the profile names no inputs, it has those that the projector
   /// reported.
   CModelInfo2 Model() const;
@@ -54,7 +54,7 @@ class ProjectorSession {
  private:
   std::shared_ptr<ProjectorChannel> MakeInnerChannel();
 
-  ProjectorProfile profile_;
+  FleetProfile profile_;
   std::shared_ptr<SimulatedProjector> simulator_;
   std::shared_ptr<FaultChannel> faultChannel_;
   std::shared_ptr<FaultChannel> served_;

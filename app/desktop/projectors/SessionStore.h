@@ -12,8 +12,8 @@
 /// list of ten thousand projectors has few of them.
 class SessionStore {
  public:
-  using MakeObserver = std::function<LoggingChannel::Observer(const std::string& id,
-                                                              const ProjectorProfile& profile)>;
+  using MakeObserver =
+      std::function<LoggingChannel::Observer(const std::string& id, const FleetProfile& profile)>;
 
   explicit SessionStore(MakeObserver makeObserver) : makeObserver_(std::move(makeObserver)) {}
 

@@ -26,8 +26,8 @@ class LiveProjectors : public QObject {
 
   LiveProjectors(const FleetPolicy& policy, Observer observer);
 
-  /// A projector whose profile has not changed keeps its session. Returns the sessions of the
-  /// others.
+  /// A projector whose name, model and connection have not changed keeps its session, which takes
+  /// over its new profile. Returns the sessions of the others.
   std::vector<std::shared_ptr<ProjectorSession>> SetProfiles(
       const std::vector<FleetProfile>& profiles);
 

@@ -217,6 +217,7 @@ void MainWindow::ShowPreferences() {
 void MainWindow::ShowProfiles() {
   faults_->SetSession(nullptr);
   for (const auto& session : live_->SetProfiles(profiles_.Projectors())) dialogs_->Close(*session);
+  dialogs_->UpdateAll();
   pane_->SetProfiles(profiles_.Projectors());
   TakeSelection();
   setWindowTitle(profiles_.HasFile()

@@ -155,6 +155,10 @@ void DialogKeeper::CloseAll() {
   dialogs_.clear();
 }
 
+void DialogKeeper::UpdateAll() {
+  for (const auto& [session, dialog] : dialogs_) session->UpdateDialog(*dialog);
+}
+
 void DialogKeeper::RejectAll() {
   std::vector<CAdvanceDlg*> open;
   for (const auto& [session, dialog] : dialogs_) open.push_back(dialog.get());

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "app/desktop/presets/PresetFolder.h"
 #include "app/profiles/ProjectorAccess.h"
 #include "host/CAdvanceDlg.h"
 
@@ -81,5 +82,15 @@ std::unique_ptr<CAdvanceDlg> ProjectorSession::MakeDialog() const {
   dialog->Projector().SetChannel(channel_);
   // Opening a dialog always asks the projector, even if it was silent just before.
   dialog->Projector().AllowRetry();
+  UpdateDialog(*dialog);
   return dialog;
+}
+
+void ProjectorSession::UpdateDialog(CAdvanceDlg& dialog) const {
+  dialog.SetRatedLampHours(profile_.ratedLampHours);
+  std::shared_ptr<const Snapshot> wanted;
+  if (!profile_.snapshot.empty()) {
+    wanted = PresetFolder::Read(QString::fromStdString(profile_.snapshot)).snapshot;
+  }
+  dialog.SetWanted(wanted ? *wanted : Snapshot());
 }

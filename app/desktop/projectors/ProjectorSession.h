@@ -28,6 +28,8 @@ class ProjectorSession {
   ProjectorSession(FleetProfile profile, LoggingChannel::Observer observer);
 
   const FleetProfile& Profile() const { return profile_; }
+  /// Takes over a profile with the same name, model and connection.
+  void SetProfile(const FleetProfile& profile) { profile_ = profile; }
   /// The model of the profile. If the profile names no inputs, it has those that the projector
   /// reported.
   CModelInfo2 Model() const;
@@ -50,6 +52,10 @@ class ProjectorSession {
 
   /// A dialog for this projector, with its model and channel; its window is not created yet.
   std::unique_ptr<CAdvanceDlg> MakeDialog() const;
+  /// Tells a dialog of this projector what the profile says besides the connection: the lamp's
+  /// rated hours, and the preset that the projector should be like. A preset that cannot be read
+  /// counts as none.
+  void UpdateDialog(CAdvanceDlg& dialog) const;
 
  private:
   std::shared_ptr<ProjectorChannel> MakeInnerChannel();

@@ -42,6 +42,7 @@ std::vector<std::shared_ptr<ProjectorSession>> SessionStore::Keep(
   for (auto session = sessions_.begin(); session != sessions_.end();) {
     const auto profile = present.find(session->first);
     if (profile != present.end() && IsAsBefore(*profile->second, session->second->Profile())) {
+      session->second->SetProfile(*profile->second);
       ++session;
       continue;
     }

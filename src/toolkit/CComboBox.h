@@ -7,11 +7,10 @@
 #include "AdvancedControlExport.h"
 
 /// A drop-down list. `activated` reports every choice of the user, even of the selected entry;
-/// selecting by program reports nothing. While it is closed, the wheel changes it only if it has the
-/// focus and Ctrl is held. It is as wide as its longest entry, but not wider than reads well; opened,
-/// it shows every entry whole.
-/// Assistive technologies find it by its caption, and choose as a user does. User-interface thread
-/// only.
+/// selecting by program reports nothing. While it is closed, the wheel changes it only if it has
+/// the focus and Ctrl is held. It is as wide as its longest entry, but not wider than reads well;
+/// opened, it shows every entry whole. Assistive technologies find it by its caption, and choose as
+/// a user does. User-interface thread only.
 class ADVANCED_CONTROL_EXPORT CComboBox : public QComboBox {
   Q_OBJECT
 

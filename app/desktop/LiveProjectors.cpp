@@ -6,7 +6,7 @@
 LiveProjectors::LiveProjectors(const FleetPolicy& policy, Observer observer)
     : observer_(std::move(observer)),
       watch_(policy),
-      sessions_([this](const std::string& id, const ProjectorProfile& profile) {
+      sessions_([this](const std::string& id, const FleetProfile& profile) {
         return MakeObserver(id, profile);
       }) {
   connect(&watch_, &FleetWatch::Changed, this, &LiveProjectors::Changed);
@@ -19,7 +19,7 @@ LiveProjectors::LiveProjectors(const FleetPolicy& policy, Observer observer)
 
 // A session may outlive this object, as the one of a dialog that is being closed.
 LoggingChannel::Observer LiveProjectors::MakeObserver(const std::string& id,
-                                                      const ProjectorProfile& profile) {
+                                                      const FleetProfile& profile) {
   return [self = QPointer(this), id, profile](const PjtCommand& command, const PjtReply& reply,
                                               std::chrono::microseconds elapsed) {
     if (!self) return;

@@ -21,13 +21,13 @@ class LiveProjectors : public QObject {
 
  public:
   /// Called for every command of a dialog.
-  using Observer = std::function<void(const ProjectorProfile& profile, const PjtCommand& command,
+  using Observer = std::function<void(const FleetProfile& profile, const PjtCommand& command,
                                       const PjtReply& reply, std::chrono::microseconds elapsed)>;
 
   LiveProjectors(const FleetPolicy& policy, Observer observer);
 
-  /// A projector whose profile has not changed keeps its session. Returns the sessions of the
-  /// others.
+  /// A projector whose name, model and connection have not changed keeps its session, which takes
+  /// over its new profile. Returns the sessions of the others.
   std::vector<std::shared_ptr<ProjectorSession>> SetProfiles(
       const std::vector<FleetProfile>& profiles);
 
@@ -45,7 +45,7 @@ class LiveProjectors : public QObject {
   void Changed(const std::vector<std::string>& ids);
 
  private:
-  LoggingChannel::Observer MakeObserver(const std::string& id, const ProjectorProfile& profile);
+  LoggingChannel::Observer MakeObserver(const std::string& id, const FleetProfile& profile);
 
   const Observer observer_;
   FleetWatch watch_;

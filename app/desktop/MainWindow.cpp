@@ -51,18 +51,19 @@ constexpr const char* kLogColumnsKey = "window/logColumns";
 constexpr const char* kProjectorKey = "window/projector";
 constexpr const char* kProfilesKey = "window/profiles";
 
-QString CommandName(const ProjectorProfile& profile, const PjtCommand& command) {
+QString CommandName(const FleetProfile& profile, const PjtCommand& command) {
   static std::map<std::pair<int, int>, std::map<std::uint16_t, QString>> all;
-  auto& names = all[{profile.Model.DialogType, profile.Model.ModelCode}];
-  if (names.empty()) names = SettingNames(profile.Model.DialogType, profile.Model.ModelCode);
+  const CModelInfo2& model = profile.model->info;
+  auto& names = all[{model.DialogType, model.ModelCode}];
+  if (names.empty()) names = SettingNames(model.DialogType, model.ModelCode);
   const auto name = names.find(command.code);
   return name == names.end() ? QString() : name->second;
 }
 
 }  // namespace
 
-MainWindow::MainWindow(const std::vector<ProjectorProfile>& profiles, const FleetPolicy& policy)
-    : MainWindow(ProfileDocument(profiles), nullptr, policy) {}
+MainWindow::MainWindow(std::vector<FleetProfile> profiles, const FleetPolicy& policy)
+    : MainWindow(ProfileDocument(std::move(profiles)), nullptr, policy) {}
 
 MainWindow::MainWindow(ProfileDocument profiles, QSettings* settings, const FleetPolicy& policy)
     : profiles_(std::move(profiles)),
@@ -73,9 +74,9 @@ MainWindow::MainWindow(ProfileDocument profiles, QSettings* settings, const Flee
       alerts_(new AlertList),
       live_(std::make_unique<LiveProjectors>(
           policy,
-          [this](const ProjectorProfile& profile, const PjtCommand& command, const PjtReply& reply,
+          [this](const FleetProfile& profile, const PjtCommand& command, const PjtReply& reply,
                  std::chrono::microseconds elapsed) {
-            log_->Add({QDateTime::currentDateTime(), QString::fromStdString(profile.Name),
+            log_->Add({QDateTime::currentDateTime(), QString::fromStdString(profile.name),
                        CommandName(profile, command), command, reply, elapsed});
           })),
       pane_(new ListPane(live_->Watch())),
@@ -217,6 +218,7 @@ void MainWindow::ShowPreferences() {
 void MainWindow::ShowProfiles() {
   faults_->SetSession(nullptr);
   for (const auto& session : live_->SetProfiles(profiles_.Projectors())) dialogs_->Close(*session);
+  dialogs_->UpdateAll();
   pane_->SetProfiles(profiles_.Projectors());
   TakeSelection();
   setWindowTitle(profiles_.HasFile()

@@ -35,8 +35,7 @@ class MainWindow : public QMainWindow {
   explicit MainWindow(ProfileDocument profiles, QSettings* settings = nullptr,
                       const FleetPolicy& policy = {});
   /// For projectors that are in no file. Stores nothing.
-  explicit MainWindow(const std::vector<ProjectorProfile>& profiles,
-                      const FleetPolicy& policy = {});
+  explicit MainWindow(std::vector<FleetProfile> profiles, const FleetPolicy& policy = {});
   ~MainWindow() override;
 
   /// Opens the dialog of a projector, or brings the open one to the front. `projector` is its

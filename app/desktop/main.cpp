@@ -99,9 +99,7 @@ void PrintList(const std::vector<FleetProfile>& profiles) {
 }
 
 int RunTour(const std::vector<FleetProfile>& profiles, const QString& folder) {
-  std::vector<ProjectorProfile> projectors;
-  std::ranges::transform(profiles, std::back_inserter(projectors), MakeProjectorProfile);
-  const TourResult tour = SaveTour(projectors, folder);
+  const TourResult tour = SaveTour(profiles, folder);
   if (!tour.error.isEmpty()) return Fail(tour.error);
   const QString said = Program::tr("%1 pictures of %2 kinds of projectors saved in %3")
                            .arg(tour.pictures)
@@ -212,8 +210,8 @@ int Run(int argc, char* argv[]) {
     case CommandLine::Action::Tour:
       return RunTour(profiles.Projectors(), line.target);
     case CommandLine::Action::Screenshot: {
-      const QString error = SaveScreenshot(MakeProjectorProfile(profiles.Projectors()[opened]),
-                                           line.tab.value_or(0), line.target);
+      const QString error =
+          SaveScreenshot(profiles.Projectors()[opened], line.tab.value_or(0), line.target);
       return error.isEmpty() ? 0 : Fail(error);
     }
     default:

@@ -6,17 +6,14 @@
 #include <string>
 
 #include "app/profiles/PatientChannel.h"
-#include "app/profiles/ProfileFile.h"
 #include "device/CPjtInterface.h"
 #include "device/channels/PjLinkChannel.h"
+#include "fleet/FleetProfile.h"
 #include "settings/ModelSettings.h"
 #include "simulator/SimulatedProjector.h"
 
 /// The simulation that a profile describes.
 SimulatedModel SimulatedModelOf(const FleetProfile& profile);
-inline SimulatedModel SimulatedModelOf(const ProjectorProfile& profile) {
-  return SimulatedModelOf(MakeFleetProfile(profile));
-}
 
 /// Which of a PJLink projector's inputs a command needs to know.
 enum class InputsNeeded {
@@ -32,10 +29,6 @@ class ProjectorAccess {
   /// `timeOut` is the channel's time-out for an answer.
   ProjectorAccess(const FleetProfile& profile, const std::shared_ptr<ProjectorChannel>& channel,
                   std::chrono::milliseconds timeOut = std::chrono::seconds(2));
-  ProjectorAccess(const ProjectorProfile& profile, const std::shared_ptr<ProjectorChannel>& channel,
-                  std::chrono::milliseconds timeOut = std::chrono::seconds(2))
-      : ProjectorAccess(MakeFleetProfile(profile), channel, timeOut) {}
-
   ~ProjectorAccess();
   ProjectorAccess(const ProjectorAccess&) = delete;
   ProjectorAccess& operator=(const ProjectorAccess&) = delete;

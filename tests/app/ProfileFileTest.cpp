@@ -13,7 +13,7 @@
 #include <gtest/gtest.h>
 
 #include "app/desktop/profiles/ProfileDocument.h"
-#include "app/profiles/ProfileFile.h"
+#include "fleet/ProfileFile.h"
 #include "tests/support/Models.h"
 #include "tests/support/Programs.h"
 
@@ -107,11 +107,11 @@ TEST(ProfileFile, ErrorsAreReportedWithTheirPlace) {
   for (const auto& [text, error] : kWrongFiles) {
     const bool isFile = text.empty() || text[0] == '{' || text[0] == '[';
     const std::string file = isFile ? text : "{\"projectors\": [{" + text + "}]}";
-    const ProfileFileContents contents = ParseProfiles(QByteArray(file.c_str()), "p.json");
+    const ProfileList contents = ParseProfileList(QByteArray(file.c_str()), "p.json");
     const char* place = std::isdigit(error[0]) ? "p.json:" : "p.json:1: projectors[0].";
     EXPECT_THAT(contents.error.toStdString(), testing::StartsWith(std::string(place) + error));
     EXPECT_FALSE(contents.error.contains('\n'));
-    EXPECT_TRUE(contents.projectors.empty());
+    EXPECT_TRUE(contents.profiles.empty());
   }
 }
 
@@ -144,7 +144,7 @@ TEST(ProfileFile, OversizedFilesAreRefusedAtOnce) {
   };
   for (const auto& [text, error] : tooMuch) {
     const std::clock_t start = std::clock();
-    const auto contents = ParseProfiles(QByteArray::fromStdString(text), "p.json");
+    const auto contents = ParseProfileList(QByteArray::fromStdString(text), "p.json");
     EXPECT_THAT(contents.error.toStdString(), testing::StartsWith(error));
     EXPECT_LT(std::clock() - start, CLOCKS_PER_SEC) << error;
   }
@@ -155,12 +155,12 @@ TEST(ProfileFile, OnlyRegularFilesAreOpened) {
   const QString pipe = folder.filePath("pipe");
   ASSERT_EQ(mkfifo(qPrintable(pipe), 0600), 0);
   for (const QString& name : {pipe, QStringLiteral("/dev/zero"), folder.path()}) {
-    EXPECT_TRUE(ReadProfileFile(name).error.endsWith(name + ": not a regular file"));
+    EXPECT_TRUE(ReadProfileList(name).error.endsWith(name + ": not a regular file"));
   }
 }
 
 TEST(ProfileFile, EntryOverridesItsFamilies) {
-  const ProfileFileContents contents = ParseProfiles(R"({
+  const ProfileList contents = ParseProfileList(R"({
     "families": {
       "base": {"dialogType": 5, "gamma": [1, 2, 3], "whisper": ["Normal", "Bright"],
                "ranges": {"brightness": [90, 160], "contrast": [80, 170], "tint": [1, 2]},
@@ -176,11 +176,11 @@ TEST(ProfileFile, EntryOverridesItsFamilies) {
       {"name": "B", "like": "base", "model": "M", "modelCode": 31, "lacks": [],
        "connection": {"serial": {"port": 2, "baud": 9600}}}
     ]})",
-                                                     "p.json");
+                                                "p.json");
   ASSERT_EQ(contents.error, "");
-  ASSERT_EQ(contents.projectors.size(), 2U);
+  ASSERT_EQ(contents.profiles.size(), 2U);
 
-  const CModelInfo2& a = contents.projectors[0].Model;
+  const CModelInfo2& a = contents.profiles[0].model->info;
   EXPECT_EQ(std::pair(a.DialogType, a.ModelCode), std::pair(5, 30));
   EXPECT_EQ(a.GammaList.count, 1);
   EXPECT_EQ(a.GammaList.values[0], 16);
@@ -192,26 +192,26 @@ TEST(ProfileFile, EntryOverridesItsFamilies) {
   EXPECT_EQ(a.RangeText(RangeIndex::Contrast), "-5,5");
   EXPECT_EQ(a.RangeText(RangeIndex::Tint), "");
   EXPECT_EQ(a.RangeText(22), "3,4");
-  EXPECT_EQ(ConnectionText(a), "192.0.2.1:23");
-  EXPECT_EQ(contents.projectors[0].Lacks, std::vector{SettingId::ActiveIris});
+  EXPECT_EQ(ConnectionText(contents.profiles[0].connection), "192.0.2.1:23");
+  EXPECT_EQ(contents.profiles[0].model->lacks, std::vector{SettingId::ActiveIris});
 
-  const ProjectorProfile& b = contents.projectors[1];
-  EXPECT_EQ(b.Model.GammaList.count, 3);
-  EXPECT_EQ(b.Model.ConnectionParameters[0], 9600);
-  EXPECT_EQ(ConnectionText(b.Model), "serial port 2");
-  EXPECT_TRUE(b.Lacks.empty());
+  const FleetProfile& b = contents.profiles[1];
+  EXPECT_EQ(b.model->info.GammaList.count, 3);
+  EXPECT_EQ(ModelInfoOf(b).ConnectionParameters[0], 9600);
+  EXPECT_EQ(ConnectionText(b.connection), "serial port 2");
+  EXPECT_TRUE(b.model->lacks.empty());
 }
 
 TEST(ProfileFile, ShippedFileHasEveryModelWithPagesOfItsOwn) {
-  const auto contents = ReadProfileFile(TEST_CATALOG_DIR "/projectors.json");
+  const auto contents = ReadProfileList(TEST_CATALOG_DIR "/projectors.json");
   ASSERT_EQ(contents.error, "");
   using Models = std::set<std::pair<int, int>>;
   Models missing;
   for (const auto& [dialogType, codes] : ListedModels()) {
     for (const int code : codes) missing.emplace(dialogType, code);
   }
-  for (const ProjectorProfile& profile : contents.projectors) {
-    missing.erase({profile.Model.DialogType, profile.Model.ModelCode});
+  for (const FleetProfile& profile : contents.profiles) {
+    missing.erase({profile.model->info.DialogType, profile.model->info.ModelCode});
   }
   EXPECT_EQ(missing, (Models{{1, 0}, {2, 0}, {3, 0}, {4, 0}, {5, 29}, {5, 55}}));
 }

@@ -23,7 +23,7 @@ QString Selected(const QWidget& window) {
 }
 
 TEST(ProjectorList, InitiallySelectsAProjectorWithRowsOnEveryTab) {
-  const MainWindow window({{"no tabs", MakeModel(9, 30), {}}, Profile("A"), Profile("B")});
+  const MainWindow window({Profile("no tabs", MakeModel(9, 30)), Profile("A"), Profile("B")});
   EXPECT_EQ(Selected(window), "A");
 }
 
@@ -94,13 +94,9 @@ TEST(ProjectorList, ProjectorsAreAddedEditedDuplicatedAndRemoved) {
   MainWindow window(Shipped(folder));
   window.show();
   auto& list = *window.findChild<ProjectorView*>();
-  const auto inFile = [&folder] {
-    std::vector<ProjectorProfile> all;
-    const ProfileDocument document = Shipped(folder);
-    for (const FleetProfile& one : document.Projectors()) all.push_back(MakeProjectorProfile(one));
-    return all;
-  };
+  const auto inFile = [&folder] { return Shipped(folder).Projectors(); };
   const auto before = inFile();
+  const QByteArray text = Shipped(folder).Text();
 
   Answer(Find<QAction>(window, "Add"), [](QDialog& editor) {
     EXPECT_FALSE(Accept(editor)) << "without a name";
@@ -127,7 +123,7 @@ TEST(ProjectorList, ProjectorsAreAddedEditedDuplicatedAndRemoved) {
     EXPECT_TRUE(Accept(editor));
   });
   auto others = inFile();
-  EXPECT_EQ(others[1].Name, "A \"大厅\"");
+  EXPECT_EQ(others[1].name, "A \"大厅\"");
   EXPECT_EQ(Selected(window), "A \"大厅\"");
   EXPECT_EQ(window.Dialog(0), open) << "nothing changed for it";
   Answer(Find<QAction>(window, "Duplicate"), [](QDialog& editor) {
@@ -166,12 +162,12 @@ TEST(ProjectorList, ProjectorsAreAddedEditedDuplicatedAndRemoved) {
   EXPECT_EQ(inFile().size(), before.size() + 2) << "asked, and answered with Esc";
   Answer(Find<QAction>(window, "Remove"),
          [](QDialog& question) { Find<QPushButton>(question, "Remove").click(); });
-  EXPECT_EQ(inFile()[0].Name, "A \"大厅\"");
+  EXPECT_EQ(inFile()[0].name, "A \"大厅\"");
   EXPECT_EQ(list.Model().rowCount(), static_cast<int>(before.size()) + 1);
 
   auto* undo = window.findChild<QUndoStack*>();
   while (undo->canUndo()) undo->undo();
-  EXPECT_EQ(inFile(), before);
+  EXPECT_EQ(Shipped(folder).Text(), text);
   while (undo->canRedo()) undo->redo();
   EXPECT_EQ(inFile().size(), before.size() + 1);
 }

@@ -11,6 +11,7 @@
 #include "app/desktop/projectors/ProjectorSession.h"
 #include "app/desktop/settings/SettingsActions.h"
 #include "app/profiles/SettingsFile.h"
+#include "fleet/ProfileFile.h"
 #include "tests/support/Soon.h"
 
 namespace {
@@ -21,9 +22,9 @@ const QString kBeforehand = "Beforehand: other sources and modes";
 /// Two projectors of one model, and a file with the settings of the first.
 struct ProjectorPair {
   ProjectorPair() {
-    for (const ProjectorProfile& profile :
-         ReadProfileFile(QStringLiteral(TEST_CATALOG_DIR "/projectors.json")).projectors) {
-      if (profile.Name != "Projector 5-30" && profile.Name != "Projector 5-31") continue;
+    for (const FleetProfile& profile :
+         ReadProfileList(TEST_CATALOG_DIR "/projectors.json").profiles) {
+      if (profile.name != "Projector 5-30" && profile.name != "Projector 5-31") continue;
       sessions.push_back(std::make_shared<ProjectorSession>(
           profile, [this](const PjtCommand&, const PjtReply& reply, std::chrono::microseconds) {
             if (!reply.answered) sessions[1]->ClearFaults();

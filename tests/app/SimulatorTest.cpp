@@ -14,9 +14,9 @@
 
 #include "app/desktop/MainWindow.h"
 #include "app/desktop/projectors/ProjectorView.h"
-#include "app/profiles/ProfileFile.h"
 #include "device/Connect.h"
 #include "device/channels/BoundedChannel.h"
+#include "fleet/ProfileFile.h"
 #include "host/CAdvanceDlg.h"
 #include "pages/common/CTabPage.h"
 #include "simulator/SimulatedProjector.h"
@@ -121,11 +121,11 @@ TEST_F(SimulatorTest, OneProjectorIsReachableOverAllConnectionsAndRecoversFromLi
 }
 
 TEST_F(SimulatorTest, TheListShowsTheStateOfEveryConnection) {
-  auto profiles = ReadProfileFile(Profiles()).projectors;
+  auto profiles = ReadProfileList(Profiles()).profiles;
   profiles.push_back(profiles[1]);
-  profiles[3].Name = "wrong password";
-  profiles[3].Model.ConnectionTexts2[0] = MakeNameSlot("wrong");
-  profiles.push_back({.Name = "simulated", .Model = profiles[0].Model, .Lacks = {}});
+  profiles[3].name = "wrong password";
+  profiles[3].connection.secret = "wrong";
+  profiles.push_back({.name = "simulated", .model = profiles[0].model, .connection = {}});
   MainWindow window(profiles, {.interval = 200ms, .longestPause = 200ms, .soonest = 200ms});
   window.show();
   const auto& model = window.findChild<ProjectorView*>()->Model();
@@ -150,7 +150,7 @@ TEST_F(SimulatorTest, TheListShowsTheStateOfEveryConnection) {
 }
 
 TEST_F(SimulatorTest, ADialogUsesTheInputsThatTheProjectorReports) {
-  CModelInfo2 model = ReadProfileFile(Profiles()).projectors[1].Model;
+  CModelInfo2 model = ModelInfoOf(ReadProfileList(Profiles()).profiles[1]);
   ASSERT_EQ(model.MySourceList.Size(), 0);
   model.ConnectionTexts1[0] = MakeNameSlot("pjlink://127.0.0.1");
   EXPECT_EQ(Control("1 late 60"), "ok");

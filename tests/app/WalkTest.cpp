@@ -19,6 +19,7 @@
 #include "app/desktop/MainWindow.h"
 #include "host/CAdvanceDlg.h"
 #include "host/FindLine.h"
+#include "tests/app/Windows.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/ShownValues.h"
 #include "tests/support/Soon.h"
@@ -27,14 +28,14 @@ namespace {
 
 using namespace std::chrono_literals;
 
-const std::vector<ProjectorProfile> kProfiles{
-    {"A", MakeModel(5, 30), {}}, {"B", MakeModel(4, 9), {}}, {"C", MakeModel(2, 6), {}}};
+const std::vector kProfiles{Profile("A"), Profile("B", MakeModel(4, 9)),
+                            Profile("C", MakeModel(2, 6))};
 
 class Walk {
  public:
   Walk(unsigned seed, int actions) : actions_(actions), random_(seed) {
     for (std::size_t i = 0; i < kProfiles.size(); ++i) sessions_.push_back(window_->Session(i));
-    for (const ProjectorProfile& profile : kProfiles) {
+    for (const FleetProfile& profile : kProfiles) {
       sessions_.push_back(std::make_shared<ProjectorSession>(profile, nullptr));
     }
     window_->show();
@@ -138,7 +139,8 @@ class Walk {
     const auto& session = Any(sessions_);
     owners_.emplace_back(new QWidget)->show();
     const QPointer dialog = new CAdvanceDlg(owners_.back());
-    dialog->CopyData(&session->Profile().Model, 0);
+    const CModelInfo2 model = ModelInfoOf(session->Profile());
+    dialog->CopyData(&model, 0);
     dialog->Projector().SetChannel(session->Channel());
     ++opened;
     if (Pick(2) == 0 && depth_ == 1) {

@@ -21,10 +21,12 @@
 
 // Operates the host application's windows as a user does.
 
-inline ProjectorProfile Profile(const char* name) {
-  ProjectorProfile profile{name, MakeModel(5, 30), {}};
-  profile.Model.ModelName = name;
-  return profile;
+inline FleetProfile Profile(const char* name, CModelInfo2 model = MakeModel(5, 30)) {
+  model.ModelName = name;
+  return {.name = name,
+          .model = std::make_shared<const ProfileModel>(
+              ProfileModel{.info = model, .lacks = {}, .data = MakeModelData(model)}),
+          .connection = {}};
 }
 
 /// Finds a widget by its text or accessible name, ignoring its mnemonic and a trailing "...".

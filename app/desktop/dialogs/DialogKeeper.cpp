@@ -77,7 +77,7 @@ CAdvanceDlg* DialogKeeper::Open(const ProjectorSession& session, std::optional<i
     dialog = (dialogs_[&session] = session.MakeDialog()).get();
     connect(dialog, &QDialog::finished, this, [this, key = &session] { Retire(key); });
     Q_EMIT Opened(&session);
-    const CModelInfo2& model = session.Profile().Model;
+    const CModelInfo2& model = session.Profile().model->info;
     const bool created = dialog->CreateShown([&] {
       Arrange(*dialog);
       SelectTab(*dialog, model, tab);
@@ -153,6 +153,10 @@ void DialogKeeper::CloseAll() {
   for (const auto& [session, dialog] : dialogs_) Remember(*dialog);
   retired_.clear();
   dialogs_.clear();
+}
+
+void DialogKeeper::UpdateAll() {
+  for (const auto& [session, dialog] : dialogs_) session->UpdateDialog(*dialog);
 }
 
 void DialogKeeper::RejectAll() {

@@ -42,6 +42,8 @@ class DialogKeeper : public QObject {
   /// Closes a projector's dialog, if it is open. The projector may be destroyed afterwards.
   void Close(const ProjectorSession& session);
   void CloseAll();
+  /// Tells the open dialogs what the profiles of their sessions say now.
+  void UpdateAll();
   /// Hides all dialogs. Those whose handlers still run are deleted after the handlers have
   /// returned.
   void RejectAll();

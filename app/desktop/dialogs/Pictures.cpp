@@ -27,7 +27,7 @@ struct Picture {
 /// A shown dialog with a new simulation.
 class OpenedDialog {
  public:
-  explicit OpenedDialog(const ProjectorProfile& profile) : session_(profile, nullptr) {
+  explicit OpenedDialog(const FleetProfile& profile) : session_(profile, nullptr) {
     dialog_ = session_.MakeDialog();
     if (!dialog_->Create()) dialog_.reset();
     if (!dialog_) return;
@@ -70,9 +70,9 @@ QString Save(const QPixmap& pixmap, const QString& fileName) {
   return WriteWholeFile(fileName, bytes.data());
 }
 
-QString CannotOpen(const ProjectorProfile& profile) {
+QString CannotOpen(const FleetProfile& profile) {
   return QCoreApplication::translate("Pictures", "the dialog of %1 cannot be created")
-      .arg(QString::fromStdString(profile.Name));
+      .arg(QString::fromStdString(profile.name));
 }
 
 constexpr const char* kIndexHead =
@@ -87,19 +87,19 @@ QString MakePictureFolder(const QString& folder) {
   return QCoreApplication::translate("Pictures", "cannot write to the folder %1").arg(folder);
 }
 
-QString SaveScreenshot(const ProjectorProfile& profile, int tab, const QString& fileName) {
+QString SaveScreenshot(const FleetProfile& profile, int tab, const QString& fileName) {
   const OpenedDialog opened(profile);
   if (opened.Dialog() == nullptr) return CannotOpen(profile);
   opened.Dialog()->findChild<QTabBar*>()->setCurrentIndex(tab);
   return Save(opened.Grab(), fileName);
 }
 
-TourResult SaveTour(const std::vector<ProjectorProfile>& profiles, const QString& folder) {
+TourResult SaveTour(const std::vector<FleetProfile>& profiles, const QString& folder) {
   TourResult result;
   const QDir directory(folder);
   QByteArray index = kIndexHead;
   QSet<QString> seen;
-  for (const ProjectorProfile& profile : profiles) {
+  for (const FleetProfile& profile : profiles) {
     const OpenedDialog opened(profile);
     if (opened.Dialog() == nullptr) {
       result.error = CannotOpen(profile);
@@ -117,14 +117,14 @@ TourResult SaveTour(const std::vector<ProjectorProfile>& profiles, const QString
     seen.insert(look);
     ++result.projectors;
     index += QStringLiteral("<h2>%1 (dialog type %2, model code %3)</h2>\n")
-                 .arg(QString::fromStdString(profile.Name).toHtmlEscaped())
-                 .arg(profile.Model.DialogType)
-                 .arg(profile.Model.ModelCode)
+                 .arg(QString::fromStdString(profile.name).toHtmlEscaped())
+                 .arg(profile.model->info.DialogType)
+                 .arg(profile.model->info.ModelCode)
                  .toUtf8();
     for (std::size_t tab = 0; tab < pictures.size(); ++tab) {
       const QString name = QStringLiteral("%1-%2-%3-%4.png")
-                               .arg(profile.Model.DialogType)
-                               .arg(profile.Model.ModelCode)
+                               .arg(profile.model->info.DialogType)
+                               .arg(profile.model->info.ModelCode)
                                .arg(tab)
                                .arg(FileNamePart(pictures[tab].tab));
       result.error = Save(pictures[tab].pixmap, directory.filePath(name));

@@ -4,7 +4,7 @@
 
 #include <QString>
 
-#include "app/profiles/ProfileFile.h"
+#include "fleet/FleetProfile.h"
 
 // A text as a result is a one-line error, empty on success.
 
@@ -12,7 +12,7 @@
 QString MakePictureFolder(const QString& folder);
 
 /// Saves a picture (PNG) of a projector's dialog with this tab, from 0, selected.
-QString SaveScreenshot(const ProjectorProfile& profile, int tab, const QString& fileName);
+QString SaveScreenshot(const FleetProfile& profile, int tab, const QString& fileName);
 
 struct TourResult {
   int pictures = 0;
@@ -23,4 +23,4 @@ struct TourResult {
 /// Saves pictures of all tabs of every projector whose pages or rows differ from those of all
 /// projectors before it. The files are called <type>-<code>-<tab number>-<tab>.png; an index.html
 /// shows them.
-TourResult SaveTour(const std::vector<ProjectorProfile>& profiles, const QString& folder);
+TourResult SaveTour(const std::vector<FleetProfile>& profiles, const QString& folder);

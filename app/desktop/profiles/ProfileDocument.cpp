@@ -1,7 +1,5 @@
 #include "app/desktop/profiles/ProfileDocument.h"
 
-#include <algorithm>
-#include <iterator>
 #include <utility>
 
 #include <QFileInfo>
@@ -21,10 +19,6 @@ JsonEdit::Path EntryPath(std::size_t projector) {
 }
 
 }  // namespace
-
-ProfileDocument::ProfileDocument(const std::vector<ProjectorProfile>& projectors) {
-  std::ranges::transform(projectors, std::back_inserter(projectors_), MakeFleetProfile);
-}
 
 QString ProfileDocument::Load(const QString& fileName) {
   const ProfileFileText file = ReadProfileText(fileName);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <utility>
 #include <vector>
 
 #include <QByteArray>
@@ -7,7 +8,7 @@
 #include <QJsonObject>
 #include <QMap>
 
-#include "app/profiles/ProjectorProfile.h"
+#include "fleet/FleetProfile.h"
 #include "fleet/JsonEdit.h"
 
 /// The profile file that the program uses, and changes to it. Each change is written at once as a
@@ -21,7 +22,8 @@ class ProfileDocument {
  public:
   ProfileDocument() = default;
   /// For projectors that are in no file; they cannot be changed.
-  explicit ProfileDocument(const std::vector<ProjectorProfile>& projectors);
+  explicit ProfileDocument(std::vector<FleetProfile> projectors)
+      : projectors_(std::move(projectors)) {}
 
   /// Reads a file and replaces the present one. After an error nothing has changed.
   QString Load(const QString& fileName);

@@ -2,12 +2,13 @@
 
 #include <utility>
 
+#include "app/desktop/presets/PresetFolder.h"
 #include "app/profiles/ProjectorAccess.h"
 #include "host/CAdvanceDlg.h"
 
 // The log is the outermost channel. It shows what the dialog got, even for a command that was given
 // up before its answer came, or was never sent.
-ProjectorSession::ProjectorSession(ProjectorProfile profile, LoggingChannel::Observer observer)
+ProjectorSession::ProjectorSession(FleetProfile profile, LoggingChannel::Observer observer)
     : profile_(std::move(profile)),
       simulator_(std::make_shared<SimulatedProjector>(SimulatedModelOf(profile_))),
       faultChannel_(std::make_shared<FaultChannel>(MakeInnerChannel())),
@@ -16,17 +17,17 @@ ProjectorSession::ProjectorSession(ProjectorProfile profile, LoggingChannel::Obs
           std::make_shared<BoundedChannel>(faultChannel_, Bounds()), std::move(observer))) {}
 
 std::shared_ptr<ProjectorChannel> ProjectorSession::MakeInnerChannel() {
-  if (profile_.Link == ProjectorLink::Simulated) return simulator_;
+  if (profile_.link == ProjectorLink::Simulated) return simulator_;
   return MakeUnboundedChannel(AddressOf(profile_));
 }
 
 BoundedChannel::Limits ProjectorSession::Bounds() const {
-  if (profile_.Link == ProjectorLink::Simulated) return {};
+  if (profile_.link == ProjectorLink::Simulated) return {};
   return BoundsFor(AddressOf(profile_));
 }
 
 CModelInfo2 ProjectorSession::Model() const {
-  CModelInfo2 model = profile_.Model;
+  CModelInfo2 model = ModelInfoOf(profile_);
   if (model.MySourceList.Size() == 0) {
     model.MySourceList = channel_->Inputs().value_or(model.MySourceList);
   }
@@ -75,10 +76,21 @@ LineFault ProjectorSession::ServedLine() const {
 
 std::unique_ptr<CAdvanceDlg> ProjectorSession::MakeDialog() const {
   auto dialog = std::make_unique<CAdvanceDlg>();
-  dialog->CopyData(&profile_.Model, 0);
-  dialog->SetProjectorName(profile_.Name);
+  const CModelInfo2 model = ModelInfoOf(profile_);
+  dialog->CopyData(&model, 0);
+  dialog->SetProjectorName(profile_.name);
   dialog->Projector().SetChannel(channel_);
   // Opening a dialog always asks the projector, even if it was silent just before.
   dialog->Projector().AllowRetry();
+  UpdateDialog(*dialog);
   return dialog;
+}
+
+void ProjectorSession::UpdateDialog(CAdvanceDlg& dialog) const {
+  dialog.SetRatedLampHours(profile_.ratedLampHours);
+  std::shared_ptr<const Snapshot> wanted;
+  if (!profile_.snapshot.empty()) {
+    wanted = PresetFolder::Read(QString::fromStdString(profile_.snapshot)).snapshot;
+  }
+  dialog.SetWanted(wanted ? *wanted : Snapshot());
 }

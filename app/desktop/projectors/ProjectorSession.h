@@ -7,9 +7,9 @@
 #include <variant>
 #include <vector>
 
-#include "app/profiles/ProfileFile.h"
 #include "device/channels/BoundedChannel.h"
 #include "device/channels/LoggingChannel.h"
+#include "fleet/FleetProfile.h"
 #include "simulator/FaultChannel.h"
 #include "simulator/FaultyLine.h"
 #include "simulator/SimulatedProjector.h"
@@ -25,9 +25,11 @@ class ProjectorSession {
  public:
   /// `observer` gets every command of a dialog and the reply that the dialog got. It is called on
   /// the user-interface thread, from inside the dialog's handlers.
-  ProjectorSession(ProjectorProfile profile, LoggingChannel::Observer observer);
+  ProjectorSession(FleetProfile profile, LoggingChannel::Observer observer);
 
-  const ProjectorProfile& Profile() const { return profile_; }
+  const FleetProfile& Profile() const { return profile_; }
+  /// Takes over a profile with the same name, model and connection.
+  void SetProfile(const FleetProfile& profile) { profile_ = profile; }
   /// The model of the profile. If the profile names no inputs, it has those that the projector
   /// reported.
   CModelInfo2 Model() const;
@@ -50,11 +52,15 @@ class ProjectorSession {
 
   /// A dialog for this projector, with its model and channel; its window is not created yet.
   std::unique_ptr<CAdvanceDlg> MakeDialog() const;
+  /// Tells a dialog of this projector what the profile says besides the connection: the lamp's
+  /// rated hours, and the preset that the projector should be like. A preset that cannot be read
+  /// counts as none.
+  void UpdateDialog(CAdvanceDlg& dialog) const;
 
  private:
   std::shared_ptr<ProjectorChannel> MakeInnerChannel();
 
-  ProjectorProfile profile_;
+  FleetProfile profile_;
   std::shared_ptr<SimulatedProjector> simulator_;
   std::shared_ptr<FaultChannel> faultChannel_;
   std::shared_ptr<FaultChannel> served_;

@@ -2,13 +2,23 @@
 
 #include <algorithm>
 
+namespace {
+
+/// Whether a session of one profile can serve the other.
+bool IsAsBefore(const FleetProfile& one, const FleetProfile& other) {
+  const bool isOneModel = one.model == other.model || (one.model->info == other.model->info &&
+                                                       one.model->lacks == other.model->lacks);
+  return isOneModel && one.name == other.name && one.link == other.link &&
+         one.connection == other.connection;
+}
+
+}  // namespace
+
 std::shared_ptr<ProjectorSession> SessionStore::Get(const FleetProfile& profile) {
   const std::string id = FleetIdOf(profile);
   std::shared_ptr<ProjectorSession>& session = sessions_[id];
   if (!session) {
-    ProjectorProfile made = MakeProjectorProfile(profile);
-    LoggingChannel::Observer observer = makeObserver_(id, made);
-    session = std::make_shared<ProjectorSession>(std::move(made), std::move(observer));
+    session = std::make_shared<ProjectorSession>(profile, makeObserver_(id, profile));
   }
   return session;
 }
@@ -31,8 +41,8 @@ std::vector<std::shared_ptr<ProjectorSession>> SessionStore::Keep(
   std::vector<std::shared_ptr<ProjectorSession>> others;
   for (auto session = sessions_.begin(); session != sessions_.end();) {
     const auto profile = present.find(session->first);
-    if (profile != present.end() &&
-        MakeProjectorProfile(*profile->second) == session->second->Profile()) {
+    if (profile != present.end() && IsAsBefore(*profile->second, session->second->Profile())) {
+      session->second->SetProfile(*profile->second);
       ++session;
       continue;
     }

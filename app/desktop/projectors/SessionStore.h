@@ -12,8 +12,8 @@
 /// list of ten thousand projectors has few of them.
 class SessionStore {
  public:
-  using MakeObserver = std::function<LoggingChannel::Observer(const std::string& id,
-                                                              const ProjectorProfile& profile)>;
+  using MakeObserver =
+      std::function<LoggingChannel::Observer(const std::string& id, const FleetProfile& profile)>;
 
   explicit SessionStore(MakeObserver makeObserver) : makeObserver_(std::move(makeObserver)) {}
 
@@ -24,7 +24,8 @@ class SessionStore {
   /// Empty for one that is not here.
   std::string IdOf(const ProjectorSession& session) const;
 
-  /// Keeps the sessions of those profiles that are as before, and returns the others.
+  /// Keeps the sessions of those profiles whose name, model and connection are as before, and
+  /// returns the others.
   std::vector<std::shared_ptr<ProjectorSession>> Keep(const std::vector<FleetProfile>& profiles);
 
  private:

@@ -41,7 +41,7 @@ QString Wide(const std::string& text) { return QString::fromStdString(text); }
 struct RestoreDialog::ProjectorPart {
   explicit ProjectorPart(std::shared_ptr<ProjectorSession> projector)
       : session(std::move(projector)),
-        name(session->Profile().Name),
+        name(session->Profile().name),
         settings(MakeModelData(session->Model())) {}
 
   /// Called for each piece of work, because a projector that was gone may be back.

@@ -46,7 +46,7 @@ QStringList SettingsActions::SaveTo(const QString& path, const ProjectorSessions
   QStringList errors;
   const SettingTexts texts(CatalogFolders(), SystemLanguageId());
   for (const auto& session : sessions) {
-    const std::string& name = session->Profile().Name;
+    const std::string& name = session->Profile().name;
     const QString shownName = QString::fromStdString(name);
     const ModelSettings settings(MakeModelData(session->Model()));
     CPjtInterface connection;
@@ -87,7 +87,7 @@ void SettingsActions::SaveSettings(const ProjectorSessions& sessions) {
       window_,
       {.kind = isOne ? FileQuestion::Kind::Save : FileQuestion::Kind::Folder,
        .title = isOne ? tr("Save Settings") : tr("Save Settings in Folder"),
-       .suggestion = isOne ? FileNameOf(sessions.front()->Profile().Name) + ".json" : QString(),
+       .suggestion = isOne ? FileNameOf(sessions.front()->Profile().name) + ".json" : QString(),
        .filter = tr("Settings (*.json)")},
       [this, sessions](const QString& path) { SaveWatched(path, sessions); });
 }

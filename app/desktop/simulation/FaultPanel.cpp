@@ -178,14 +178,14 @@ void FaultPanel::SetSession(ProjectorSession* session) {
     setTitle(tr("No projector selected"));
   } else {
     const QString title = IsSimulated() ? tr("Simulation of %1") : tr("Simulated faults of %1");
-    setTitle(title.arg(Text(session->Profile().Name)));
+    setTitle(title.arg(Text(session->Profile().name)));
   }
   RefreshStates();
   ShowFaults();
 }
 
 bool FaultPanel::IsSimulated() const {
-  return session_ != nullptr && session_->Profile().Link == ProjectorLink::Simulated;
+  return session_ != nullptr && session_->Profile().link == ProjectorLink::Simulated;
 }
 
 // Only simulated projectors have states that can be set.

@@ -11,11 +11,11 @@ namespace {
 
 constexpr const char* kAddress = "127.0.0.1";
 
-PjLinkServer::Options OptionsOf(const ProjectorProfile& profile) {
+PjLinkServer::Options OptionsOf(const FleetProfile& profile) {
   PjLinkServer::Options options;
-  options.served.inputs = InputsOf(profile.Model.MySourceList);
-  options.served.texts["NAME"] = profile.Name;
-  options.served.texts["INF2"] = profile.Model.ModelName;
+  options.served.inputs = InputsOf(profile.model->info.MySourceList);
+  options.served.texts["NAME"] = profile.name;
+  options.served.texts["INF2"] = profile.model->info.ModelName;
   return options;
 }
 

@@ -45,8 +45,8 @@ for folder in */; do
     wrong=1
   fi
 done
-# The folders of the host application include none of each other except the projectors; the windows
-# at the top level combine them.
+# The folders of the host application include none of each other except projectors and presets; the
+# windows at the top level combine them.
 for folder in desktop/*/; do
   folder=${folder%/}
   if grep -rnE --include='*.h' --include='*.cpp' '^#include "app/desktop/' "$folder" |

@@ -77,7 +77,7 @@ class FarProjectors {
     QJsonObject json = QJsonDocument::fromJson(file.readAll()).object();
     QJsonObject room;
     for (const QJsonValue& entry : json["projectors"].toArray()) {
-      if (entry["name"].toString().toStdString() == Profile().Name) room = entry.toObject();
+      if (entry["name"].toString().toStdString() == Profile().name) room = entry.toObject();
     }
     QJsonArray rooms;
     for (int i = 0; i < kRooms; ++i) {

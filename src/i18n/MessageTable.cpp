@@ -289,7 +289,8 @@ void MessageTable::MarkSameEverywhere() {
   std::vector<Part> others;
   for (const LanguagePart& language : languages_) others.push_back(language.part);
   std::ranges::sort(others);
-  others.erase(std::ranges::unique(others).begin(), others.end());
+  // Not ranges::unique: clang 14 cannot use its result with this standard library.
+  others.erase(std::unique(others.begin(), others.end()), others.end());
   for (const Part other : others) {
     if (other == own) continue;
     std::uint32_t next = own.begin;  // Languages mostly have the same messages.

@@ -79,7 +79,8 @@ class MessageTable {
     std::uint32_t begin;
     std::uint32_t end;
 
-    auto operator<=>(const Part&) const = default;
+    // No null pointer is written here.
+    auto operator<=>(const Part&) const = default;  // NOLINT(modernize-use-nullptr)
   };
   struct LanguagePart {
     std::uint32_t languageId;

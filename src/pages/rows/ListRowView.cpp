@@ -69,7 +69,8 @@ void ListRowView::Act(int) {
     // A setter without a result: only reading the setting shows that the choice was not accepted.
     const bool isOpen = Projector().Sent().pending > before.pending;
     const bool isReadBack = row_.rules.readsBackAlways && IsRead(memory.note) && !isOpen;
-    if (isReadBack && memory.known != position) return TellRefusal(*this, text);
+    const bool isAsChosen = memory.known && AreSame(*memory.known, position);
+    if (isReadBack && !isAsChosen) return TellRefusal(*this, text);
     if (!row_.rules.readsBackAlways) Confirm(*this, position);
     return;
   }
@@ -95,6 +96,11 @@ void ListRowView::ReadBack(int source) {
 
 std::optional<int> ListRowView::Position() const {
   return list_->currentIndex() >= 0 ? std::optional(list_->currentIndex()) : std::nullopt;
+}
+
+// A host's list may have several entries with one value.
+bool ListRowView::AreSame(int position, int other) const {
+  return list_->itemData(position) == list_->itemData(other);
 }
 
 QString ListRowView::TextAt(int position) const { return list_->itemText(position); }

@@ -59,6 +59,8 @@ class RowView {
 
   /// The position shown; nothing if the row shows none.
   virtual std::optional<int> Position() const { return {}; }
+  /// Whether two positions stand for the same value.
+  virtual bool AreSame(int position, int other) const { return position == other; }
   /// The text of a position.
   virtual QString TextAt(int position) const { return QString::number(position); }
   /// The text that the row shows.

@@ -7,6 +7,7 @@
 #include "settings/CatalogNumbers.h"
 #include "toolkit/CTabCtrl.h"
 #include "toolkit/FittedScroll.h"
+#include "toolkit/TemplateRows.h"
 
 namespace AdvancedControl {
 
@@ -67,10 +68,11 @@ void DialogPages::InsertTabs() {
 
 QSize DialogPages::FitPages() const {
   const std::vector<CTabPage*> created = Created();
-  const std::vector<TemplateDialog*> dialogs(created.begin(), created.end());
-  TemplateDialog::ShareCaptionWidths(dialogs);
+  std::vector<const TemplateRows*> rows;
+  for (const CTabPage* page : created) rows.push_back(&page->Rows());
+  TemplateRows::ShareCaptionWidths(rows);
   QSize whole;
-  for (TemplateDialog* page : dialogs) {
+  for (CTabPage* page : created) {
     page->setMinimumSize(page->DialogSize());
     whole = whole.expandedTo(page->minimumSize());
   }

@@ -86,11 +86,24 @@ constexpr Case kCases[] = {
      "Lamp Time reset"},
     {"without a result", 5, 30, 4, [](const DialogDriver& page) { page.Click(20305); }, nullptr,
      "Sent: Auto Keystone"},
+    {"with a unit", 5, 30, 7, [](const DialogDriver& page) { page.Drag(20369, 5); },
+     "SetAutoPowerOff", "Not accepted: Auto Off 5\u00a0min. The projector has 0\u00a0min.", 20369},
     {"only shown", 1, 1, 4, [](const DialogDriver& page) { page.Choose(21061, 1); }, nullptr,
      "This setting is only shown here. A choice is not sent."},
 };
 
 INSTANTIATE_TEST_SUITE_P(Rows, Outcomes, testing::ValuesIn(kCases));
+
+TEST(Outcomes, OfAnEntryWhoseValueAnotherOneHasToo) {
+  CModelInfo2 model = MakeModel(1, 1);
+  for (const int value : {0, 1, 1, 2}) AddEntry(model.AspectList, value, "aspect");
+  OpenDialog open(model, 1, [](RecordingChannel& projector) { projector.Answer("GetAspect", 1); });
+  open.Projector().Answer("Get 0x2008", 1);
+  for (const int position : {2, 3}) {
+    open.Driver().Choose(20108, position);
+    EXPECT_EQ(Marked(open.Page()).size(), position == 3) << "it reads 1: " << Said(open.Page());
+  }
+}
 
 TEST(OutcomesOfPopUps, AreSaidInThePopUp) {
   OpenDialog open(FullModel(5, 30));

@@ -1,10 +1,11 @@
 #include "pages/rows/ValueRowView.h"
 
 #include <QAbstractButton>
-#include <QLineEdit>
 
 #include "pages/rows/RowOutcomes.h"
+#include "pages/rows/RowTexts.h"
 #include "toolkit/CSliderCtrl.h"
+#include "toolkit/NumberField.h"
 
 namespace AdvancedControl {
 
@@ -36,6 +37,7 @@ void ValueRowView::Prepare() {
   const Range range = SliderRange(row_, Model());
   const int ticks = row_.ticks != 0 ? row_.ticks : range.maximum / 8;
   if (auto* slider = controls_.Slider()) slider->SetRange(range.minimum, range.maximum, ticks);
+  if (row_.unit != 0) controls_.Field().SetUnit(CatalogString(kListCategory, row_.unit));
   if (!row_.initial) return;
   remembered_ = Word(*row_.initial);
   controls_.ShowNumber(*row_.initial);
@@ -157,6 +159,10 @@ int ValueRowView::ShowDevice(int value) {
   controls_.ShowNumber(shown);
   controls_.MoveSlider(shown);
   return shown;
+}
+
+QString ValueRowView::TextAt(int position) const {
+  return WithUnit(QString::number(position), Row());
 }
 
 std::optional<Range> ValueRowView::Numbers() const {

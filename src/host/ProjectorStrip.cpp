@@ -9,6 +9,7 @@
 #include "i18n/LocalizeControlTexts.h"
 #include "settings/CatalogNumbers.h"
 #include "toolkit/Icons.h"
+#include "toolkit/LineLabel.h"
 
 namespace AdvancedControl {
 
@@ -54,6 +55,7 @@ void ProjectorStrip::SetProjector(const QStringList& parts) {
   const QString again = CatalogString(kListCategory, ListText::ReadAgain);
   again_->setAccessibleName(again);
   again_->setToolTip(again);
+  LineLabel::AlignToStart(*projector_);  // the language is known now
   ShowProjector();
 }
 

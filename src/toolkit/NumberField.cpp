@@ -8,7 +8,8 @@
 namespace {
 
 // In pixels.
-constexpr int kAround = 16;  // frame and margins at both sides of the number
+constexpr int kAround = 16;   // at both sides of a number
+constexpr int kMargins = 12;  // the least around a number with a unit
 constexpr int kUnitGap = 4;
 constexpr int kUnitMargin = 2;
 
@@ -21,12 +22,13 @@ NumberField::NumberField(QWidget* parent) : QLineEdit(parent) {
   setFixedWidth(fontMetrics().horizontalAdvance(QStringLiteral("-00000")) + kAround);
 }
 
-void NumberField::SetUnit(const QString& unit) {
+void NumberField::SetUnit(const QString& unit, const QString& widest) {
   unit_ = unit;
-  const int room = unit.isEmpty() ? 0 : fontMetrics().horizontalAdvance(unit) + kUnitGap;
-  setTextMargins(isRightToLeft() ? room : 0, 0, isRightToLeft() ? 0 : room, 0);
-  const int number = fontMetrics().horizontalAdvance(QStringLiteral("-000"));
-  setFixedWidth(std::max(width(), number + room + kAround));
+  const QFontMetrics metrics = fontMetrics();
+  const int room = kUnitGap + metrics.horizontalAdvance(unit);
+  // In a mirrored layout the number stays at the right, and the unit is drawn at its left.
+  if (!isRightToLeft()) setTextMargins(0, 0, room, 0);
+  setFixedWidth(std::max(width(), metrics.horizontalAdvance(widest) + room + kMargins));
 }
 
 void NumberField::paintEvent(QPaintEvent* event) {
@@ -34,11 +36,13 @@ void NumberField::paintEvent(QPaintEvent* event) {
   if (unit_.isEmpty() || text().isEmpty()) return;
   QStyleOptionFrame option;
   initStyleOption(&option);
-  const QRect inside = style()
-                           ->subElementRect(QStyle::SE_LineEditContents, &option, this)
-                           .adjusted(kUnitMargin, 0, -kUnitMargin, 0);
+  QRect inside = style()
+                     ->subElementRect(QStyle::SE_LineEditContents, &option, this)
+                     .adjusted(kUnitMargin, 0, -kUnitMargin, 0);
+  if (isRightToLeft()) {
+    inside.setRight(inside.right() - fontMetrics().horizontalAdvance(text()) - kUnitGap);
+  }
   QPainter painter(this);
   painter.setPen(palette().color(QPalette::Text));
-  painter.drawText(inside, Qt::AlignVCenter | (isRightToLeft() ? Qt::AlignLeft : Qt::AlignRight),
-                   unit_);
+  painter.drawText(inside, Qt::AlignVCenter | Qt::AlignRight, unit_);
 }

@@ -10,8 +10,8 @@ class NumberField final : public QLineEdit {
  public:
   explicit NumberField(QWidget* parent);
 
-  /// Shows a unit behind every number, or none if it is empty. The field grows if it has to.
-  void SetUnit(const QString& unit);
+  /// Shows a unit behind every number. The field grows if it has no room for `widest` with it.
+  void SetUnit(const QString& unit, const QString& widest);
   const QString& Unit() const { return unit_; }
 
  protected:

@@ -59,6 +59,7 @@ void ListRowView::Act(int) {
   const CPjtInterface::Tally before = Projector().Sent();
   const Sending how{.text = text.toStdString(), .source = source, .position = position};
   const Sent sent = SendRow(Projector(), Row(), Model(), *chosen, how);
+  const bool isRefused = IsRefusedSince(before);
   if (sent == Sent::Nothing) {
     if (const auto value = ReadSetting(source)) list_->SelectValue(*value);
     return Dialog().Say(
@@ -66,11 +67,11 @@ void ListRowView::Act(int) {
   }
   if (row_.rules.readsBackAlways) Host().ReadRow(*this, *source);
   if (sent == Sent::Accepted) {
-    // A setter without a result: only reading the setting shows that the choice was not accepted.
+    // Reading the setting tells most about a setter that returns nothing.
     const bool isOpen = Projector().Sent().pending > before.pending;
     const bool isReadBack = row_.rules.readsBackAlways && IsRead(memory.note) && !isOpen;
     const bool isAsChosen = memory.known && AreSame(*memory.known, position);
-    if (isReadBack && !isAsChosen) return TellRefusal(*this, text);
+    if (isReadBack ? !isAsChosen : isRefused) return TellRefusal(*this, text);
     if (!row_.rules.readsBackAlways) Confirm(*this, position);
     return;
   }

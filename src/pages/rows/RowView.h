@@ -80,6 +80,11 @@ class RowView {
   SettingsDialog& Dialog() const { return host_.Dialog(); }
   CPjtInterface& Projector() const { return *Dialog().projector; }
   const ModelData& Model() const { return Dialog().Model(); }
+  /// Whether the projector has refused a command since `before`, even one whose operation returns
+  /// nothing.
+  bool IsRefusedSince(const CPjtInterface::Tally& before) const {
+    return Projector().Sent().refused > before.refused;
+  }
   /// Reads the setting from the projector; nothing if the source is unknown or the read fails.
   std::optional<int> ReadSetting(Source source) const;
 

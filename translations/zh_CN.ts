@@ -2,6 +2,999 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN">
 <context>
+    <name>Acctl</name>
+    <message>
+        <source>there is no option --%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--%1 takes no value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--%1 needs %2</source>
+        <extracomment>An option and what must follow it: &quot;--profiles needs FILE&quot;.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 takes no %2</source>
+        <extracomment>A command and an option: &quot;list takes no --wait&quot;.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: &apos;%2&apos; is not possible</source>
+        <extracomment>An option and its value.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a command is missing; --help lists them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no command &apos;%1&apos;; --help lists them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has no such --format</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>use: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the name of the file is empty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not one of: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no step such as +1 or -1, and PJLink can only step it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>&apos;%1&apos; is more than %n steps</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; from %2 is not one of: %3</source>
+        <extracomment>A step such as +3, the value that it starts from, and the values that are possible.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>&apos;%1&apos; is more than %n steps from %2</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>list projectors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Prints name, model, page set, series code, connection and tags of the projectors, or of all.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>list models</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Prints the models of the profile file, with the number of projectors and of settings of each.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>list settings and their values</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Prints the settings that the model has: key, tab, caption and possible values. The projector is not asked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>explain a setting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Prints what a setting is: tab and caption, possible values with their codes, the models that have it, and whether it can be set, reset, and saved and restored.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>print present values</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reads settings from the projectors and prints them; without a key, all of them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>change settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes settings in the order given, reads each back, and prints the value before and after. All keys and values are checked for all projectors first; if a value is wrong for one, nothing is sent to any. A key that a projector does not have is reported, and does not stop the others.
+KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the form KEY VALUE, +3 and -3 are steps, and =-3 is a number below zero. &apos;acctl undo&apos; restores what was there before, except the power state and the results of actions.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>reset settings to the projector&apos;s standard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>print power, input, errors and hours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Prints the status page of the projectors, or of all.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>save settings in files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saves every setting that can be restored: those of one projector in FILE (&apos;-&apos; is standard output), or those of any number in a folder, a file each. A file that is not a file of settings is not replaced without --force.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>compare with saved settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Prints what differs from a file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>restore saved settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>undo the last run of set or apply</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>print values and every change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Prints values, and then every change until it is interrupted, until nobody reads its output any more, or until all projectors have the value of --until. A projector that falls silent is tried again and again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>search the network for projectors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Asks every PJLink projector of the network, or the addresses given, who it is. ADDRESSES are like 192.0.2.7, 192.0.2.0/24 or 192.0.2.10-40. Nothing is stored unless --add names a profile file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>take projectors from a table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Adds the rows of comma-separated values (&apos;-&apos; is standard input) to the profile file that --profiles or ACCTL_PROFILES names, and changes those that it has.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>print projectors as a table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Prints the projectors, or all, as comma-separated values, without passwords.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>explain a command</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one of = != &lt; &lt;= &gt; &gt;= is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a value is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no model has such a setting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>only numbers are less or greater</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no model has such a setting; acctl settings lists all keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no model has such a setting; did you mean %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <extracomment>A range of numbers.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 to %2, shown as %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>source %1: this is not kept for each source</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>source %1 does not exist; there are %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>value %1 is not possible; possible are %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>text &quot;%1&quot; is not that of value %2, which is &quot;%3&quot;; change both, or remove the text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reads, changes, saves and restores the settings of projectors that the Advanced Control dialog shows. The projectors are those of a profile file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>P selects projectors: a name, a pattern such as &apos;Lecture*&apos;, @TAG, or model=PATTERN. Several are separated by commas, and !P leaves projectors out. KEY is the key of a setting, a pattern such as &apos;picture.*&apos;, or a short name such as brightness, input or power, which is the same on all models. VALUE is a number as the dialog shows it, the text of an entry in any language of the dialog, or its code.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Done. Also if a projector in standby could not report everything, or accepted a change that has not taken effect yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Something was refused, a projector lacks a setting that was named, or a file or the output could not be read or written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wrong use: nothing was sent to any projector.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A projector did not answer or did not report its inputs, or another run of acctl used it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Interrupted; the report says what was done.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use: %1</source>
+        <extracomment>Above the help of a command; %1 is how it is called.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options of all commands; &apos;acctl help COMMAND&apos; lists its own, with examples</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Examples</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exit codes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>number</source>
+        <extracomment>A kind of setting: a value with a range.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>choice</source>
+        <extracomment>A kind of setting: a list of entries.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>state</source>
+        <extracomment>A kind of setting: on or off, or a counter.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>action</source>
+        <extracomment>A kind of setting: something that the projector does once.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>short name: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tab</source>
+        <extracomment>Of the dialog, on which the setting is.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>caption</source>
+        <extracomment>Of the setting in the dialog.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>kind</source>
+        <extracomment>What kind of setting it is: number, choice, state or action.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>values</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>those that the projector reports</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>commands</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>kept</source>
+        <extracomment>The setting has a value of its own &quot;for each input source&quot;.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>for each input source</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>models</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings</source>
+        <translation>
+            <numerusform>%n 项设置</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>no profiles at %1; name a file with --profiles</source>
+        <translation type="unfinished">在 %1 找不到配置文件，请用 --profiles 指定文件</translation>
+    </message>
+    <message>
+        <source>read the projectors from FILE</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>only projectors in this state, such as &apos;power=on lamp-hours&gt;1500&apos;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the projector is at ADDRESS; P gives only its model</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the port of the projectors that are searched; 4352 by default</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PJLink password; other users of this machine can see it here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the first line of FILE is the password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>output: text, json, jsonl (a line for each value or projector), tsv or value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the same as --format json</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>only names or keys, one a line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>only settings that get, set, reset or watch can use</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>only keys that match GLOB; may be repeated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>take KEY=VALUE lines from FILE (&apos;-&apos; is standard input)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>save each projector in a file of its own in DIR</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>add what was found to the profile file FILE</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>print what would change, and change nothing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>wait until the state is reached, up to TIME, such as 90s or 5m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>end when every projector has this value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>exit with 1 if something differs, with 2 if something could not be compared</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>skip what is wrong in FILE instead of sending nothing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>apply: also the undo file of another projector; save: replace any file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>list the runs that can be undone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the folder for undo files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>remove undo files older than N days; 30 by default, 0 keeps all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>projectors at once, 1 to 1024; by default 512 to read and 64 to change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>time for one answer; 2 by default</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>try a projector that does not answer N more times; 0 by default</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>begin no other projector after the first error</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>time between two readings; 1 by default</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>language of texts, such as de or zh-TW</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this text; with a command, its own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot write: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not possible</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;=&apos; is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no setting %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot read %1: %2</source>
+        <translation type="unfinished">无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <extracomment>Behind a bar: how many projectors are done, and how many there are.</extracomment>
+        <translation type="unfinished">%1，额定 %2</translation>
+    </message>
+    <message>
+        <source>its first line is empty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Password of %1: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (simulated)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 added, %2 moved, %3 known</source>
+        <extracomment>Numbers of projectors: new ones, those with a new address, and those that the file has already.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>needs a password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>name the profile file with --profiles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 added, %2 known, %3 wrong</source>
+        <extracomment>Numbers of projectors in a table: new ones, those that the file has already, and wrong rows.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: &apos;%2&apos; is not KEY=VALUE</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: has no KEY=VALUE</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this takes one projector, not %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>undone</source>
+        <extracomment>Of a run of the program: somebody has undone it.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot record in %1 that it is undone: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>another run of acctl works on it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not begun, as another projector failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>simulated by acctl itself, nothing lasting was changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>interrupted; what was done is reported above</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>in standby, left out: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>warming up, left out: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cooling down, left out: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>skipped, this projector does not offer it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n changed</source>
+        <translation>
+            <numerusform>已更改 %n 项</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n different</source>
+        <translation>
+            <numerusform>不同 %n 项</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n already so</source>
+        <translation>
+            <numerusform>已一致 %n 项</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not yet so</source>
+        <translation>
+            <numerusform>尚未生效 %n 项</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>accepted, but not so yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n refused</source>
+        <translation>
+            <numerusform>被拒绝 %n 项</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n busy</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the projector is busy or in standby</source>
+        <translation type="unfinished">投影机正忙或处于待机状态</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n unconfirmed</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>not confirmed, it may have changed</source>
+        <translation type="unfinished">未确认，可能已更改</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not done</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>skipped, this model does not have it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>skipped, this projector does not offer it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>skipped, it cannot be restored</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>skipped, this model does not take it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>stopped at %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>not sent, it is more than %n steps away</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>refused, it is %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it cannot be read now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not compared</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n skipped</source>
+        <translation>
+            <numerusform>已跳过 %n 项</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>nothing to do</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1：%2</translation>
+    </message>
+    <message numerus="yes">
+        <source>skipped, PJLink does not have them: %n of the file&apos;s settings</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1; no more was sent</source>
+        <translation type="unfinished">%1；其余设置未发送</translation>
+    </message>
+    <message>
+        <source>%1; nothing was sent</source>
+        <translation type="unfinished">%1；未发送任何设置</translation>
+    </message>
+    <message>
+        <source>%1: undoes a change of %2; --force applies it to %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--only %1: the file has no such setting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: there is no projector &apos;%2&apos;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 is also of %3</source>
+        <extracomment>Two files, and the projector that both are of.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: the folder has no files of settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: there is no file of it in %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: is not a file of settings; --force replaces it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: there is no such file or folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>name the projectors to which the file is applied</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one file is for one projector, not %1; -o names a folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot make the folder %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1; name an earlier run to undo that one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no run to undo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no run &apos;%1&apos;; --list shows them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: is no longer in the profile file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot be read now, and is left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>nothing can be read, and nothing was written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings saved in %1</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>there is no projector &apos;%1&apos;; acctl list shows all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>refused, the projector is in standby</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>refused, the projector is warming up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>refused, the projector is cooling down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>refused, the projector is busy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this cannot be undone: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>stopped, %1 of %n steps accepted</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1; %2 of %n steps accepted</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>accepted, but not so yet, it is %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, it may have been changed, it is %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, it may have been changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation type="unfinished">被拒绝</translation>
+    </message>
+    <message>
+        <source>accepted, but %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not so in time, it is %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not so in time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1:%2: not a line of an undo file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: there is nothing to undo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot write %1: %2</source>
+        <translation type="unfinished">无法写入 %1：%2</translation>
+    </message>
+    <message>
+        <source>wrong connection parameters</source>
+        <translation type="unfinished">连接参数错误</translation>
+    </message>
+    <message>
+        <source>unknown host name</source>
+        <translation type="unfinished">主机名未知</translation>
+    </message>
+    <message>
+        <source>not reachable</source>
+        <translation type="unfinished">无法连接</translation>
+    </message>
+    <message>
+        <source>connection lost</source>
+        <translation type="unfinished">连接已断开</translation>
+    </message>
+    <message>
+        <source>answers are not understood</source>
+        <translation type="unfinished">无法理解应答</translation>
+    </message>
+    <message>
+        <source>another version of the protocol</source>
+        <translation type="unfinished">协议版本不同</translation>
+    </message>
+    <message>
+        <source>password missing or wrong</source>
+        <translation type="unfinished">缺少密码或密码错误</translation>
+    </message>
+    <message>
+        <source>no answer</source>
+        <translation type="unfinished">无应答</translation>
+    </message>
+    <message>
+        <source>no answer (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this model has no such setting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>skipped, PJLink does not have it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot be read now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this projector does not offer it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not read, the projector did not report its inputs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PJLink does not have it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this cannot be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this cannot be set</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this cannot be restored</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this cannot be reset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, the projector is in standby</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, the projector is warming up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, the projector is cooling down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>answers again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--until: &apos;%1&apos; is not KEY=VALUE</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>AlertList</name>
     <message>
         <source>&amp;Acknowledge</source>
@@ -36,10 +1029,6 @@
         <translation>%1：灯泡已用 %2，额定 %3</translation>
     </message>
     <message>
-        <source>%1: %2 settings are not as they should be</source>
-        <translation>%1：有 %2 项设置与应有值不同</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1：%2</translation>
     </message>
@@ -50,6 +1039,231 @@
     <message>
         <source>open</source>
         <translation>未确认</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n settings are not as they should be</source>
+        <translation>
+            <numerusform>%1：有 %n 项设置与应有值不同</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>BridgeOptions</name>
+    <message>
+        <source>Display this help.</source>
+        <translation type="unfinished">显示此帮助。</translation>
+    </message>
+    <message>
+        <source>The projectors are those of &lt;file&gt;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation type="unfinished">文件</translation>
+    </message>
+    <message>
+        <source>Watch one of several shares: 2/5 is the second of five.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>share</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Watch only projectors with &lt;tag&gt;, or one of several.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tag</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Visit each projector every &lt;seconds&gt;, at least 5.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Once a day, compare each projector with its snapshot in &lt;folder&gt;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>folder</source>
+        <translation type="unfinished">文件夹</translation>
+    </message>
+    <message>
+        <source>Listen at &lt;address&gt; for the status notices of projectors.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Serve metrics at &lt;address:port&gt;; &apos;none&apos; for nowhere.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>address:port</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write metrics to &lt;file&gt; every 15 seconds, for a collector of text files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Send messages to the MQTT broker at &lt;host:port&gt;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>host:port</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Version of MQTT, 3 (3.1.1) or 5.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The first line of &lt;file&gt; is the user at the broker.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The first line of &lt;file&gt; is the password at the broker.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Encrypt, and trust the authorities that the system trusts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Encrypt, and trust the authorities in &lt;file&gt;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The certificate of this client.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Its key.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The first level of all topics.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>topic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The first level of discovery topics; &apos;none&apos; for no discovery.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take the share of a bridge that has said nothing for &lt;seconds&gt;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings that may be commanded: keys or patterns, separated by commas; &apos;power&apos; is the power. Without it nothing may be.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Commands that each projector takes in a minute.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>n</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Names in discovery messages, and messages of this program, are in the language &lt;name&gt;, such as de or zh-TW.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation type="unfinished">名称</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no time from %2 seconds to a day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no topic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no share such as 2/5</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no numeric address with a port</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot read %1: %2</source>
+        <translation type="unfinished">无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 is empty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--%1 needs --broker</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no host with a port</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is neither 3 nor 5</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--cert-file and --key-file need each other</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--allow-commands: &apos;%1&apos; is no setting that may be commanded</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no number from 1 to %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Watches projectors, and tells a metrics store and a message broker of them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--profiles is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no numeric address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there are no texts in &apos;%1&apos;</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -186,12 +1400,14 @@
         <translation>清空记录</translation>
     </message>
     <message>
-        <source>Remove all %1 entries of the log?</source>
-        <translation>要删除全部 %1 条记录吗？</translation>
-    </message>
-    <message>
         <source>Clear</source>
         <translation>清空</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %n entries of the log?</source>
+        <translation>
+            <numerusform>要删除全部 %n 条记录吗？</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -366,10 +1582,6 @@
         <translation>未选择投影机</translation>
     </message>
     <message>
-        <source>%1 projectors selected</source>
-        <translation>已选择 %1 台投影机</translation>
-    </message>
-    <message>
         <source>blank</source>
         <translation>图像消隐</translation>
     </message>
@@ -404,6 +1616,48 @@
     <message>
         <source>simulated</source>
         <translation>模拟</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors selected</source>
+        <translation>
+            <numerusform>已选择 %n 台投影机</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Discovery</name>
+    <message>
+        <source>Problem: fan</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Problem: lamp</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Problem: temperature</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Problem: cover</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Problem: filter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Problem: other</source>
+        <extracomment>Any other problem of a projector.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reachable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation type="unfinished">电源</translation>
     </message>
 </context>
 <context>
@@ -560,28 +1814,43 @@
 <context>
     <name>FleetSummary</name>
     <message>
-        <source>%1 on</source>
-        <translation>%1 台开机</translation>
-    </message>
-    <message>
-        <source>%1 off</source>
-        <translation>%1 台待机</translation>
-    </message>
-    <message>
-        <source>%1 with problems</source>
-        <translation>%1 台有故障</translation>
-    </message>
-    <message>
-        <source>%1 not reachable</source>
-        <translation>%1 台无法连接</translation>
-    </message>
-    <message>
-        <source>%1 with alerts</source>
-        <translation>%1 台有警报</translation>
-    </message>
-    <message>
         <source>oldest answer %1</source>
         <translation>最早的应答：%1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n on</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n 台开机</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n off</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n 台待机</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n with problems</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n 台有故障</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not reachable</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n 台无法连接</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n with alerts</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n 台有警报</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -827,10 +2096,6 @@
         <translation>打开设置</translation>
     </message>
     <message>
-        <source>Open %1 dialogs?</source>
-        <translation>要打开 %1 个对话框吗？</translation>
-    </message>
-    <message>
         <source>Alerts</source>
         <translation>警报</translation>
     </message>
@@ -866,12 +2131,48 @@
         <source>Tools</source>
         <translation>工具栏</translation>
     </message>
+    <message numerus="yes">
+        <source>Open %n dialogs?</source>
+        <translation>
+            <numerusform>要打开 %n 个对话框吗？</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Notify</name>
     <message>
         <source>Advanced Control</source>
         <translation>高级控制</translation>
+    </message>
+</context>
+<context>
+    <name>Package</name>
+    <message>
+        <source>Advanced Control</source>
+        <extracomment>The name of the program in the menu.</extracomment>
+        <translation type="unfinished">高级控制</translation>
+    </message>
+    <message>
+        <source>Projector Settings</source>
+        <extracomment>What kind of program it is, in the menu.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read and change the settings of projectors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>projector;beamer;brightness;keystone;</source>
+        <extracomment>Words that people may search for, each with a semicolon behind it; as many as are useful.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A list that shows how hundreds of projectors are and changes many of them at once, and for each of them a dialog with a tab per group of settings. Every value is read live from the projector, and every change is sent at once. A log shows each command and its result.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Projectors can be simulated, with faults that are set by hand.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -999,10 +2300,6 @@
         <translation>预设名称：</translation>
     </message>
     <message>
-        <source>Save the settings of %1 projectors?</source>
-        <translation>要保存 %1 台投影机的设置吗？</translation>
-    </message>
-    <message>
         <source>Saved as the preset %1</source>
         <translation>已保存为预设 %1</translation>
     </message>
@@ -1013,10 +2310,6 @@
     <message>
         <source>Preset %1</source>
         <translation>预设 %1</translation>
-    </message>
-    <message>
-        <source>Put the preset %2 on %1 projectors?</source>
-        <translation>要将预设 %2 应用到 %1 台投影机吗？</translation>
     </message>
     <message>
         <source>Should Be Like</source>
@@ -1031,12 +2324,20 @@
         <translation>恢复应有设置</translation>
     </message>
     <message>
-        <source>Put back the settings of %1 projectors?</source>
-        <translation>要恢复 %1 台投影机的应有设置吗？</translation>
-    </message>
-    <message>
         <source>Compare</source>
         <translation>比较</translation>
+    </message>
+    <message numerus="yes">
+        <source>Put the preset %1 on %n projectors?</source>
+        <translation>
+            <numerusform>要将预设 %1 应用到 %n 台投影机吗？</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Put back the settings of %n projectors?</source>
+        <translation>
+            <numerusform>要恢复 %n 台投影机的应有设置吗？</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1137,18 +2438,22 @@
         <translation>移除投影机</translation>
     </message>
     <message>
-        <source>Remove %1 projectors from %2?</source>
-        <translation>要从 %2 移除 %1 台投影机吗？</translation>
-    </message>
-    <message>
         <source>Tag</source>
         <translation>标签</translation>
     </message>
-    <message>
-        <source>Tags for %1 projectors, separated by commas;
+    <message numerus="yes">
+        <source>Remove %n projectors from %1?</source>
+        <translation>
+            <numerusform>要从 %1 移除 %n 台投影机吗？</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Tags for %n projectors, separated by commas;
 a minus in front takes a tag away:</source>
-        <translation>%1 台投影机的标签，用逗号分隔；
-标签前加减号表示去掉：</translation>
+        <translation>
+            <numerusform>%n 台投影机的标签，用逗号分隔；
+标签前加减号表示去掉：</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1434,14 +2739,6 @@ a minus in front takes a tag away:</source>
         <translation>在 %1 找不到配置文件，请用 --profiles 指定文件</translation>
     </message>
     <message>
-        <source> or </source>
-        <translation> 或 </translation>
-    </message>
-    <message>
-        <source>%1 pictures of %2 kinds of projectors saved in %3</source>
-        <translation>已将 %2 种投影机的 %1 张图片保存到 %3</translation>
-    </message>
-    <message>
         <source>--open: there is no projector &apos;%1&apos;; --list names all.</source>
         <translation>--open：没有名为“%1”的投影机，用 --list 可列出全部。</translation>
     </message>
@@ -1472,6 +2769,12 @@ a minus in front takes a tag away:</source>
     <message>
         <source>Connection</source>
         <translation>连接</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures of %1 kinds of projectors saved in %2</source>
+        <translation>
+            <numerusform>已将 %1 种投影机的 %n 张图片保存到 %2</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1543,9 +2846,12 @@ a minus in front takes a tag away:</source>
         <source>Nothing found</source>
         <translation>未找到</translation>
     </message>
-    <message>
-        <source>%1 found</source>
-        <translation>找到 %1 台</translation>
+    <message numerus="yes">
+        <source>%n found</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>找到 %n 台</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1672,38 +2978,6 @@ a minus in front takes a tag away:</source>
         <translation>已跳过：此型号不接受该值</translation>
     </message>
     <message>
-        <source>%1 changed</source>
-        <translation>已更改 %1 项</translation>
-    </message>
-    <message>
-        <source>%1 different</source>
-        <translation>不同 %1 项</translation>
-    </message>
-    <message>
-        <source>%1 already so</source>
-        <translation>已一致 %1 项</translation>
-    </message>
-    <message>
-        <source>%1 not yet so</source>
-        <translation>尚未生效 %1 项</translation>
-    </message>
-    <message>
-        <source>%1 refused</source>
-        <translation>被拒绝 %1 项</translation>
-    </message>
-    <message>
-        <source>%1 not confirmed</source>
-        <translation>未确认 %1 项</translation>
-    </message>
-    <message>
-        <source>%1 not read</source>
-        <translation>未读取 %1 项</translation>
-    </message>
-    <message>
-        <source>%1 skipped</source>
-        <translation>已跳过 %1 项</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1：%2</translation>
     </message>
@@ -1712,12 +2986,63 @@ a minus in front takes a tag away:</source>
         <translation>预先恢复：其他输入源和模式</translation>
     </message>
     <message>
-        <source>%1 settings</source>
-        <translation>%1 项设置</translation>
-    </message>
-    <message>
         <source>Waiting for the projector of an open dialog…</source>
         <translation>正在等待已打开对话框的投影机…</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n changed</source>
+        <extracomment>How many settings came to this, in a list such as &quot;12 changed, 3 refused&quot;.</extracomment>
+        <translation>
+            <numerusform>已更改 %n 项</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n different</source>
+        <translation>
+            <numerusform>不同 %n 项</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n already so</source>
+        <translation>
+            <numerusform>已一致 %n 项</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not yet so</source>
+        <translation>
+            <numerusform>尚未生效 %n 项</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n refused</source>
+        <translation>
+            <numerusform>被拒绝 %n 项</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not confirmed</source>
+        <translation>
+            <numerusform>未确认 %n 项</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not read</source>
+        <translation>
+            <numerusform>未读取 %n 项</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n skipped</source>
+        <translation>
+            <numerusform>已跳过 %n 项</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings</source>
+        <translation>
+            <numerusform>%n 项设置</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1789,13 +3114,19 @@ a minus in front takes a tag away:</source>
         <source>wants a password</source>
         <translation>需要密码</translation>
     </message>
-    <message>
-        <source>%1 found</source>
-        <translation>找到 %1 台</translation>
+    <message numerus="yes">
+        <source>%n found</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>找到 %n 台</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 found, %2 of %3 addresses asked…</source>
-        <translation>找到 %1 台，已询问 %2/%3 个地址…</translation>
+    <message numerus="yes">
+        <source>%n found, %1 of %2 addresses asked…</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>找到 %n 台，已询问 %1/%2 个地址…</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1819,10 +3150,6 @@ a minus in front takes a tag away:</source>
     <message>
         <source>%1: nothing can be read</source>
         <translation>%1：无法读取任何设置</translation>
-    </message>
-    <message>
-        <source>%1: %2 settings cannot be read and are left out</source>
-        <translation>%1：有 %2 项设置无法读取，未保存</translation>
     </message>
     <message>
         <source>Save Settings</source>
@@ -1852,6 +3179,12 @@ a minus in front takes a tag away:</source>
         <source>Waiting for the projector of an open dialog…</source>
         <translation>正在等待已打开对话框的投影机…</translation>
     </message>
+    <message numerus="yes">
+        <source>%1: %n settings cannot be read and are left out</source>
+        <translation>
+            <numerusform>%1：有 %n 项设置无法读取，未保存</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>SettingsFile</name>
@@ -1874,6 +3207,192 @@ a minus in front takes a tag away:</source>
     <message>
         <source>%1; no more was sent</source>
         <translation>%1；其余设置未发送</translation>
+    </message>
+</context>
+<context>
+    <name>Simulator</name>
+    <message>
+        <source>--control: the port cannot be had</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no projector &apos;%1&apos;</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SimulatorArguments</name>
+    <message>
+        <source>&apos;%1&apos; is no port.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no number from %2 to %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no time up to an hour.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Display this help.</source>
+        <translation type="unfinished">显示此帮助。</translation>
+    </message>
+    <message>
+        <source>Serve the projectors of &lt;file&gt;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation type="unfinished">文件</translation>
+    </message>
+    <message>
+        <source>Serve only the projector &lt;name&gt;; may be given several times.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation type="unfinished">名称</translation>
+    </message>
+    <message>
+        <source>Listen on &lt;address&gt; instead of 127.0.0.1; with --fleet, the address of the first projector instead of 127.64.0.1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The first projector is at port &lt;n&gt;, the others at those that follow; 0, as without it, takes any that are free. With --fleet, &lt;n&gt; is the port of every projector for our own protocol, and the next one for PJLink.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>n</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PJLink asks for &lt;text&gt;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Serve each projector on a pseudo terminal too.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Begin with a fault: %1. Of a share of the projectors: &apos;silent 5%&apos;. May be given several times.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>fault</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Everything that is left to chance depends on &lt;n&gt;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Listen at port &lt;n&gt; of the loopback address for faults, a line each: projector&apos;s number from 1, or *, and the fault.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write profiles that lead a host to the served projectors to &lt;file&gt;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Serve &lt;n&gt; projectors, made after those of the profiles, each at a loopback address of its own.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of a fleet: what --write-profiles uses; pjlink, network or mixed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>way</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of a fleet: seconds until a projector is on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of a fleet: seconds until a projector is in standby.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of a fleet: so many changes of state in a second happen by themselves.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of a fleet: send PJLink&apos;s status notices to this address.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>address:port</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of a fleet: at the end, write how often each projector was asked to &lt;file&gt;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Help and errors are in the language &lt;name&gt;, such as de or zh-TW.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Serves simulated projectors over TCP, PJLink and pseudo terminals. Prints an address a line, then &quot;ready&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unexpected argument &apos;%1&apos;.</source>
+        <translation type="unfinished">多余的参数“%1”。</translation>
+    </message>
+    <message>
+        <source>--%1 needs --fleet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no address.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--password: is longer than %1 bytes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--fault: &apos;%1&apos; is none of %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--fleet has no serial lines.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no IPv4 loopback address.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; leaves too few addresses.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; leaves none for PJLink.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no IPv4 loopback address with a port.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is none of pjlink, network and mixed.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2018,10 +3537,6 @@ a minus in front takes a tag away:</source>
         <translation>一致</translation>
     </message>
     <message>
-        <source>%1 differ</source>
-        <translation>%1 项不同</translation>
-    </message>
-    <message>
         <source>%1 s ago</source>
         <translation>%1 秒前</translation>
     </message>
@@ -2076,6 +3591,13 @@ a minus in front takes a tag away:</source>
     <message>
         <source>%1: %2</source>
         <translation>%1：%2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n differ</source>
+        <comment>settings</comment>
+        <translation>
+            <numerusform>%n 项不同</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2191,10 +3713,6 @@ a minus in front takes a tag away:</source>
         <translation>取消冻结</translation>
     </message>
     <message>
-        <source>%2 on %1 projectors?</source>
-        <translation>要对 %1 台投影机执行“%2”吗？</translation>
-    </message>
-    <message>
         <source>Switch On</source>
         <translation>开机</translation>
     </message>
@@ -2203,20 +3721,8 @@ a minus in front takes a tag away:</source>
         <translation>关机</translation>
     </message>
     <message>
-        <source>Switch on %1 projectors?</source>
-        <translation>要打开 %1 台投影机吗？</translation>
-    </message>
-    <message>
-        <source>Switch off %1 projectors?</source>
-        <translation>要关闭 %1 台投影机吗？</translation>
-    </message>
-    <message>
         <source>Input %1</source>
         <translation>信号源 %1</translation>
-    </message>
-    <message>
-        <source>Choose the input %2 on %1 projectors?</source>
-        <translation>要将 %1 台投影机切换到信号源 %2 吗？</translation>
     </message>
     <message>
         <source>No inputs are known</source>
@@ -2225,6 +3731,60 @@ a minus in front takes a tag away:</source>
     <message>
         <source>%1, %2: %3</source>
         <translation>%1，%2：%3</translation>
+    </message>
+    <message numerus="yes">
+        <source>Blank the picture of %n projectors?</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Show the picture of %n projectors?</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Mute the sound of %n projectors?</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Unmute the sound of %n projectors?</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Freeze the picture of %n projectors?</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Release the picture of %n projectors?</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Switch on %n projectors?</source>
+        <translation>
+            <numerusform>要打开 %n 台投影机吗？</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Switch off %n projectors?</source>
+        <translation>
+            <numerusform>要关闭 %n 台投影机吗？</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Choose the input %1 on %n projectors?</source>
+        <translation>
+            <numerusform>要将 %n 台投影机切换到信号源 %1 吗？</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2273,18 +3833,6 @@ a minus in front takes a tag away:</source>
         <translation>此机型没有此功能</translation>
     </message>
     <message>
-        <source>%1 of %2 done</source>
-        <translation>已完成 %1/%2 台</translation>
-    </message>
-    <message>
-        <source>, of these %1 still under way</source>
-        <translation>，其中 %1 台仍在进行</translation>
-    </message>
-    <message>
-        <source>, %1 failed</source>
-        <translation>，%1 台失败</translation>
-    </message>
-    <message>
         <source>Undo: %1</source>
         <translation>撤销：%1</translation>
     </message>
@@ -2311,6 +3859,27 @@ a minus in front takes a tag away:</source>
     <message>
         <source>stopped</source>
         <translation>已停止</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n done</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>已完成 %1/%n 台</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>, of these %n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>，其中 %n 台仍在进行</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>, %n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>，%n 台失败</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

@@ -65,7 +65,7 @@ QString ReadProfiles(const CommandLine& line, ProfileDocument& document, bool& a
   areShipped = place != places.end();
   if (areShipped) return document.Load(*place);
   return Program::tr("no profiles at %1; name a file with --profiles")
-      .arg(places.join(Program::tr(" or ")));
+      .arg(places.join(QStringLiteral(", ")));
 }
 
 // The library chose the catalog by the environment when it was loaded, so it has to choose again.
@@ -101,10 +101,10 @@ void PrintList(const std::vector<FleetProfile>& profiles) {
 int RunTour(const std::vector<FleetProfile>& profiles, const QString& folder) {
   const TourResult tour = SaveTour(profiles, folder);
   if (!tour.error.isEmpty()) return Fail(tour.error);
-  const QString said = Program::tr("%1 pictures of %2 kinds of projectors saved in %3")
-                           .arg(tour.pictures)
-                           .arg(tour.projectors)
-                           .arg(folder);
+  const QString said =
+      Program::tr("%n pictures of %1 kinds of projectors saved in %2", nullptr, tour.pictures)
+          .arg(tour.projectors)
+          .arg(folder);
   std::printf("%s\n", qUtf8Printable(said));
   return 0;
 }

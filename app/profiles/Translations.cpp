@@ -1,6 +1,5 @@
 #include "app/profiles/Translations.h"
 
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -73,16 +72,13 @@ void InstallTranslations(std::uint32_t languageId) {
   if (const auto name = FileNameOf(folder, languageId)) install(program, *name, folder);
 }
 
-void InstallTranslations(const QStringList& arguments) {
+std::optional<std::uint32_t> NamedLanguage(const QStringList& arguments) {
+  const QString option = QStringLiteral("--language");
   QString named;
-  for (qsizetype i = 1; i < arguments.size(); ++i) {
-    const QString option = QStringLiteral("--language");
-    if (arguments[i] == option && i + 1 < arguments.size()) named = arguments[i + 1];
+  for (qsizetype i = 0; i < arguments.size(); ++i) {
+    if (i > 0 && arguments[i - 1] == option) named = arguments[i];
     if (arguments[i].startsWith(option + '=')) named = arguments[i].mid(option.size() + 1);
   }
-  std::optional<std::uint32_t> language;
-  if (!named.isEmpty()) {
-    language = FindLanguage(CatalogLanguages(CatalogFolders()), named.toStdString());
-  }
-  InstallTranslations(language.value_or(SystemLanguageId()));
+  if (named.isEmpty()) return {};
+  return FindLanguage(CatalogLanguages(CatalogFolders()), named.toStdString());
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 #include <QStringList>
 
@@ -9,6 +10,6 @@
 /// they come from the catalog. Needs an application object; replaces what an earlier call chose.
 void InstallTranslations(std::uint32_t languageId);
 
-/// The same for the language that the arguments name with --language, or that of the system. An
-/// argument that names none is reported by the reader of the arguments.
-void InstallTranslations(const QStringList& arguments);
+/// The language that the arguments name with --language; nothing if there is no such argument, or
+/// no language of this name.
+std::optional<std::uint32_t> NamedLanguage(const QStringList& arguments);

@@ -16,6 +16,7 @@
 #include "app/desktop/MainWindow.h"
 #include "app/desktop/Preferences.h"
 #include "app/desktop/Translations.h"
+#include "app/desktop/WindowMemory.h"
 #include "app/desktop/dialogs/Pictures.h"
 #include "app/desktop/profiles/ProfileDocument.h"
 #include "app/profiles/OutOfMemory.h"
@@ -57,7 +58,7 @@ QStringList ProfileFilePlaces() {
 QString ReadProfiles(const CommandLine& line, ProfileDocument& document, bool& areShipped) {
   if (!line.profiles.isEmpty()) return document.Load(line.profiles);
   if (line.action == CommandLine::Action::Window && line.open.isEmpty()) {
-    const QString last = MainWindow::LastProfiles(QSettings(kName, kName));
+    const QString last = WindowMemory::LastProfiles(QSettings(kName, kName));
     if (!last.isEmpty() && document.Load(last).isEmpty()) return {};
   }
   const QStringList places = ProfileFilePlaces();
@@ -101,10 +102,7 @@ void PrintList(const std::vector<FleetProfile>& profiles) {
 int RunTour(const std::vector<FleetProfile>& profiles, const QString& folder) {
   const TourResult tour = SaveTour(profiles, folder);
   if (!tour.error.isEmpty()) return Fail(tour.error);
-  const QString said = Program::tr("%1 pictures of %2 kinds of projectors saved in %3")
-                           .arg(tour.pictures)
-                           .arg(tour.projectors)
-                           .arg(folder);
+  const QString said = Program::tr("%n pictures saved in %1", nullptr, tour.pictures).arg(folder);
   std::printf("%s\n", qUtf8Printable(said));
   return 0;
 }

@@ -82,7 +82,7 @@ TEST(FleetWindow, SwitchesFiveHundredOffTriesAgainAndUndoes) {
   EXPECT_EQ(dialog->findChild<QTreeWidget*>()->topLevelItemCount(), 500);
   Button(*dialog, "Switch Off").click();
   EXPECT_EQ(Failed(Done(window)), silent);
-  Find<QLabel>(*dialog, "475 of 500 done, 25 failed");
+  Find<QLabel>(*dialog, "475 of 500 done · 25 failed");
   EXPECT_TRUE(Soon([&] { return CountIn(window, ProjectorGroup::Kind::Off) == 475; }));
 
   QTcpSocket control;
@@ -166,7 +166,7 @@ TEST(FleetWindow, TakesATableAndNamesItsTenWrongLines) {
   window.findChild<TransferActions*>()->ImportFile(folder.filePath("t.csv"));
   auto* said = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
   ASSERT_NE(said, nullptr);
-  EXPECT_EQ(said->text(), "10 added, 0 already known, 10 rows not taken.");
+  EXPECT_EQ(said->text(), "10 projectors added · 0 already known · 10 rows not taken");
   EXPECT_EQ(said->informativeText().count("Line "), 10);
   EXPECT_TRUE(said->informativeText().startsWith("Line 3: "));
   said->close();

@@ -111,11 +111,12 @@ void SearchDialog::Add(const FoundProjector& found) {
 void SearchDialog::ShowProgress() {
   if (isOver_) showing_.stop();
   search_->setEnabled(isOver_);
-  QString text = isOver_ ? tr("%1 found").arg(found_.size())
-                         : tr("%1 found, %2 of %3 addresses asked…")
-                               .arg(found_.size())
-                               .arg(driver_->Done())
-                               .arg(driver_->Count());
+  QString text = tr("%n projectors found", nullptr, static_cast<int>(found_.size()));
+  if (!isOver_) {
+    text += QStringLiteral(" · ") +
+            tr("%1 of %n addresses asked…", nullptr, static_cast<int>(driver_->Count()))
+                .arg(driver_->Done());
+  }
   if (!driver_->Problem().isEmpty()) text += QLatin1Char('\n') + driver_->Problem();
   text_->setText(text);
 }

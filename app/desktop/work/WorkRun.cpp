@@ -141,10 +141,12 @@ QString WorkRun::Summary() const {
   const int pending =
       count([](const WorkLine& line) { return line.outcome == WorkOutcome::Pending; });
   const int failed = count([](const WorkLine& line) { return line.HasFailed(); });
-  QString text = tr("%1 of %2 done").arg(done + pending).arg(lines_.size());
-  if (pending > 0) text += tr(", of these %1 still under way").arg(pending);
-  if (failed > 0) text += tr(", %1 failed").arg(failed);
-  return text;
+  QStringList texts{
+      tr("%1 of %n done", nullptr, static_cast<int>(lines_.size())).arg(done + pending)};
+  //: The number is one of projectors that have accepted a command but are still carrying it out.
+  if (pending > 0) texts += tr("%n still under way", nullptr, pending);
+  if (failed > 0) texts += tr("%n failed", nullptr, failed);
+  return texts.join(QStringLiteral(" · "));
 }
 
 std::optional<WorkPart> WorkRun::PowerUndo(bool on) const {

@@ -82,7 +82,7 @@ TEST(FleetWindow, SwitchesFiveHundredOffTriesAgainAndUndoes) {
   EXPECT_EQ(dialog->findChild<QTreeWidget*>()->topLevelItemCount(), 500);
   Button(*dialog, "Switch Off").click();
   EXPECT_EQ(Failed(Done(window)), silent);
-  Find<QLabel>(*dialog, "475 of 500 done · 25 failed");
+  Find<QLabel>(*dialog, "475 of 500 done, 25 failed");
   EXPECT_TRUE(Soon([&] { return CountIn(window, ProjectorGroup::Kind::Off) == 475; }));
 
   QTcpSocket control;
@@ -119,6 +119,17 @@ TEST(FleetWindow, RaisesAnAlertUntilItsCauseIsGone) {
   EXPECT_TRUE(Soon([&] { return alerts.findChild<QTreeWidget*>()->topLevelItemCount() == 0; }));
   raise(4);
   EXPECT_TRUE(Soon([&] { return Rows(window)[1].hasAlert; })) << "it came again";
+}
+
+TEST(FleetWindow, ShowsWhatADialogHasRead) {
+  MainWindow window({Profile("A")}, {.interval = 1h});
+  window.show();
+  SimulatedProjector& projector = window.Session(0)->Simulator();
+  ASSERT_TRUE(Soon([&] { return Rows(window)[0].state.answered.has_value(); }));
+  projector.SetValue(SettingId::LampTime, 777);
+  window.OpenDialog(0, 0);
+  EXPECT_TRUE(
+      Soon([&] { return Rows(window)[0].state.lamps == std::vector<LampState>{{.hours = 777}}; }));
 }
 
 TEST(FleetWindow, TheFirstReadingIsNoEventAndUnseenRowsStayUpToDate) {

@@ -115,6 +115,7 @@ TourResult SaveTour(const std::vector<FleetProfile>& profiles, const QString& fo
     }
     if (seen.contains(look)) continue;
     seen.insert(look);
+    ++result.projectors;
     index += QStringLiteral("<h2>%1 (dialog type %2, model code %3)</h2>\n")
                  .arg(QString::fromStdString(profile.name).toHtmlEscaped())
                  .arg(profile.model->info.DialogType)

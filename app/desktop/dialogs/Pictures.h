@@ -16,6 +16,7 @@ QString SaveScreenshot(const FleetProfile& profile, int tab, const QString& file
 
 struct TourResult {
   int pictures = 0;
+  int projectors = 0;  ///< Projectors whose dialogs differ from all before.
   QString error;
 };
 

@@ -77,7 +77,7 @@ void GroupList::Show(const std::vector<ProjectorRow>& rows) {
     const bool isTag = i >= kKinds.size();
     const QString name = isTag ? groups_[i].tag : names[i];
     const int count = isTag ? tags[groups_[i].tag.toStdString()] : counts[i];
-    item(static_cast<int>(i))->setText(tr("%1 (%n)", nullptr, count).arg(name));
+    item(static_cast<int>(i))->setText(tr("%1 (%2)").arg(name).arg(count));
   }
 }
 

@@ -111,12 +111,11 @@ void SearchDialog::Add(const FoundProjector& found) {
 void SearchDialog::ShowProgress() {
   if (isOver_) showing_.stop();
   search_->setEnabled(isOver_);
-  QString text = tr("%n projectors found", nullptr, static_cast<int>(found_.size()));
-  if (!isOver_) {
-    text += QStringLiteral(" · ") +
-            tr("%1 of %n addresses asked…", nullptr, static_cast<int>(driver_->Count()))
-                .arg(driver_->Done());
-  }
+  QString text = isOver_ ? tr("%n found", "projectors", static_cast<int>(found_.size()))
+                         : tr("%n found, %1 of %2 addresses asked…", "projectors",
+                              static_cast<int>(found_.size()))
+                               .arg(driver_->Done())
+                               .arg(driver_->Count());
   if (!driver_->Problem().isEmpty()) text += QLatin1Char('\n') + driver_->Problem();
   text_->setText(text);
 }

@@ -5,6 +5,7 @@
 #include <iterator>
 #include <map>
 
+#include <QLocale>
 #include <QPainter>
 #include <QPixmap>
 #include <QRegularExpression>
@@ -144,7 +145,7 @@ QString StateTexts::Problems(const LiveState& state) {
   return all.join(QStringLiteral(", "));
 }
 
-QString StateTexts::Hours(int hours) { return tr("%Ln h", nullptr, hours); }
+QString StateTexts::Hours(int hours) { return tr("%1 h").arg(QLocale().toString(hours)); }
 
 QString StateTexts::LampHours(const LiveState& state) {
   const int hours = LampHoursOf(state);
@@ -153,15 +154,15 @@ QString StateTexts::LampHours(const LiveState& state) {
 
 QString StateTexts::Drift(const LiveState& state) {
   if (!state.drift) return {};
-  return *state.drift == 0 ? tr("As it should be") : tr("%n differ", nullptr, *state.drift);
+  return *state.drift == 0 ? tr("As it should be")
+                           : tr("%n differ", "settings", static_cast<int>(*state.drift));
 }
 
 QString StateTexts::Ago(std::chrono::seconds age) {
   using namespace std::chrono;
-  const auto number = [](auto count) { return static_cast<int>(count.count()); };
-  if (age < minutes(1)) return tr("%n s ago", nullptr, std::max(0, number(age)));
-  if (age < hours(1)) return tr("%n min ago", nullptr, number(floor<minutes>(age)));
-  return tr("%n h ago", nullptr, number(floor<hours>(age)));
+  if (age < minutes(1)) return tr("%1 s ago").arg(std::max<qlonglong>(0, age.count()));
+  if (age < hours(1)) return tr("%1 min ago").arg(floor<minutes>(age).count());
+  return tr("%1 h ago").arg(floor<hours>(age).count());
 }
 
 QString StateTexts::Answered(const LiveState& state, WallTime now) {

@@ -256,11 +256,9 @@ void FaultPanel::ShowFaults() {
       }
       const QString kind = tr(std::ranges::find(kKinds, fault.kind, &NamedKind::kind)->name);
       const bool isLate = fault.kind == Fault::Kind::Late;
-      //: A command, what is wrong with it ("Delay"), and for how long.
-      faults_->addItem(
-          isLate
-              ? tr("%1: %2, %n ms", nullptr, static_cast<int>(fault.delay.count())).arg(text, kind)
-              : tr("%1: %2").arg(text, kind));
+      //: A command, what is wrong with it ("Delay"), and for how many milliseconds.
+      faults_->addItem(isLate ? tr("%1: %2, %3 ms").arg(text, kind).arg(fault.delay.count())
+                              : tr("%1: %2").arg(text, kind));
     }
     faults_->setCurrentRow(0);
   }

@@ -19,7 +19,6 @@ void WorkActions::Do(WorkPlan plan, const Then& then) {
   std::size_t count = plan.missing.size();
   for (const WorkPart& part : plan.parts) count += part.targets.size();
   if (count == 0) return;
-  if (plan.question.contains(QLatin1String("%1"))) plan.question = plan.question.arg(count);
   auto* dialog = new WorkDialog(new WorkRun(watch_, texts_, plan), nameOf_, &window_);
   connect(dialog, &WorkDialog::UndoWanted, this, [this](const WorkPlan& undo) { Do(undo); });
   if (then)

@@ -141,12 +141,11 @@ QString WorkRun::Summary() const {
   const int pending =
       count([](const WorkLine& line) { return line.outcome == WorkOutcome::Pending; });
   const int failed = count([](const WorkLine& line) { return line.HasFailed(); });
-  QStringList texts{
-      tr("%1 of %n done", nullptr, static_cast<int>(lines_.size())).arg(done + pending)};
-  //: The number is one of projectors that have accepted a command but are still carrying it out.
-  if (pending > 0) texts += tr("%n still under way", nullptr, pending);
-  if (failed > 0) texts += tr("%n failed", nullptr, failed);
-  return texts.join(QStringLiteral(" · "));
+  QString text =
+      tr("%1 of %n done", "projectors", static_cast<int>(lines_.size())).arg(done + pending);
+  if (pending > 0) text += tr(", of these %n still under way", "projectors", pending);
+  if (failed > 0) text += tr(", %n failed", "projectors", failed);
+  return text;
 }
 
 std::optional<WorkPart> WorkRun::PowerUndo(bool on) const {

@@ -45,7 +45,7 @@ class WorkRun : public QObject {
   const WorkPlan& Plan() const { return plan_; }
   /// In the order of the plan.
   const std::vector<WorkLine>& Lines() const { return lines_; }
-  /// "137 of 500 done · 3 failed"
+  /// "137 of 500 done, 3 failed"
   QString Summary() const;
   /// The snapshots that were taken.
   const SnapshotsById& Taken() const { return taken_; }

@@ -378,7 +378,7 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     </message>
     <message>
         <source>no profiles at %1; name a file with --profiles</source>
-        <translation type="unfinished">在 %1 找不到配置文件，请用 --profiles 指定文件</translation>
+        <translation>在 %1 找不到配置文件，请用 --profiles 指定文件</translation>
     </message>
     <message>
         <source>read the projectors from FILE</source>
@@ -522,12 +522,12 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     </message>
     <message>
         <source>cannot read %1: %2</source>
-        <translation type="unfinished">无法读取 %1：%2</translation>
+        <translation>无法读取 %1：%2</translation>
     </message>
     <message>
         <source>%1 of %2</source>
         <extracomment>Behind a bar: how many projectors are done, and how many there are.</extracomment>
-        <translation type="unfinished">%1，额定 %2</translation>
+        <translation>%1，额定 %2</translation>
     </message>
     <message>
         <source>its first line is empty</source>
@@ -660,7 +660,7 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     </message>
     <message>
         <source>the projector is busy or in standby</source>
-        <translation type="unfinished">投影机正忙或处于待机状态</translation>
+        <translation>投影机正忙或处于待机状态</translation>
     </message>
     <message numerus="yes">
         <source>%n unconfirmed</source>
@@ -670,7 +670,7 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     </message>
     <message>
         <source>not confirmed, it may have changed</source>
-        <translation type="unfinished">未确认，可能已更改</translation>
+        <translation>未确认，可能已更改</translation>
     </message>
     <message numerus="yes">
         <source>%n not done</source>
@@ -730,7 +730,7 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1：%2</translation>
+        <translation>%1：%2</translation>
     </message>
     <message numerus="yes">
         <source>skipped, PJLink does not have them: %n of the file&apos;s settings</source>
@@ -740,11 +740,11 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     </message>
     <message>
         <source>%1; no more was sent</source>
-        <translation type="unfinished">%1；其余设置未发送</translation>
+        <translation>%1；其余设置未发送</translation>
     </message>
     <message>
         <source>%1; nothing was sent</source>
-        <translation type="unfinished">%1；未发送任何设置</translation>
+        <translation>%1；未发送任何设置</translation>
     </message>
     <message>
         <source>%1: undoes a change of %2; --force applies it to %3</source>
@@ -871,7 +871,7 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     </message>
     <message>
         <source>refused</source>
-        <translation type="unfinished">被拒绝</translation>
+        <translation>被拒绝</translation>
     </message>
     <message>
         <source>accepted, but %1</source>
@@ -895,39 +895,39 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     </message>
     <message>
         <source>cannot write %1: %2</source>
-        <translation type="unfinished">无法写入 %1：%2</translation>
+        <translation>无法写入 %1：%2</translation>
     </message>
     <message>
         <source>wrong connection parameters</source>
-        <translation type="unfinished">连接参数错误</translation>
+        <translation>连接参数错误</translation>
     </message>
     <message>
         <source>unknown host name</source>
-        <translation type="unfinished">主机名未知</translation>
+        <translation>主机名未知</translation>
     </message>
     <message>
         <source>not reachable</source>
-        <translation type="unfinished">无法连接</translation>
+        <translation>无法连接</translation>
     </message>
     <message>
         <source>connection lost</source>
-        <translation type="unfinished">连接已断开</translation>
+        <translation>连接已断开</translation>
     </message>
     <message>
         <source>answers are not understood</source>
-        <translation type="unfinished">无法理解应答</translation>
+        <translation>无法理解应答</translation>
     </message>
     <message>
         <source>another version of the protocol</source>
-        <translation type="unfinished">协议版本不同</translation>
+        <translation>协议版本不同</translation>
     </message>
     <message>
         <source>password missing or wrong</source>
-        <translation type="unfinished">缺少密码或密码错误</translation>
+        <translation>缺少密码或密码错误</translation>
     </message>
     <message>
         <source>no answer</source>
-        <translation type="unfinished">无应答</translation>
+        <translation>无应答</translation>
     </message>
     <message>
         <source>no answer (%1)</source>
@@ -1051,7 +1051,7 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     <name>BridgeOptions</name>
     <message>
         <source>Display this help.</source>
-        <translation type="unfinished">显示此帮助。</translation>
+        <translation>显示此帮助。</translation>
     </message>
     <message>
         <source>The projectors are those of &lt;file&gt;.</source>
@@ -1059,7 +1059,7 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     </message>
     <message>
         <source>file</source>
-        <translation type="unfinished">文件</translation>
+        <translation>文件</translation>
     </message>
     <message>
         <source>Watch one of several shares: 2/5 is the second of five.</source>
@@ -1091,7 +1091,7 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     </message>
     <message>
         <source>folder</source>
-        <translation type="unfinished">文件夹</translation>
+        <translation>文件夹</translation>
     </message>
     <message>
         <source>Listen at &lt;address&gt; for the status notices of projectors.</source>
@@ -1191,7 +1191,7 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     </message>
     <message>
         <source>name</source>
-        <translation type="unfinished">名称</translation>
+        <translation>名称</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no time from %2 seconds to a day</source>
@@ -1211,7 +1211,7 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     </message>
     <message>
         <source>cannot read %1: %2</source>
-        <translation type="unfinished">无法读取 %1：%2</translation>
+        <translation>无法读取 %1：%2</translation>
     </message>
     <message>
         <source>%1 is empty</source>
@@ -1466,6 +1466,61 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     </message>
 </context>
 <context>
+    <name>ConnectionFields</name>
+    <message>
+        <source>&amp;Reached through</source>
+        <translation>连接方式(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Connect&amp;ion</source>
+        <translation>连接(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Address</source>
+        <translation>地址(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Port</source>
+        <translation>端口(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Pass&amp;word</source>
+        <translation>密码(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Port n&amp;umber</source>
+        <translation>串口号(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Device</source>
+        <translation>设备(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Baud</source>
+        <translation>波特率(&amp;B)</translation>
+    </message>
+    <message>
+        <source>As its family</source>
+        <translation>与系列相同</translation>
+    </message>
+    <message>
+        <source>Simulated</source>
+        <translation>模拟</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>网络</translation>
+    </message>
+    <message>
+        <source>Serial port</source>
+        <translation>串口</translation>
+    </message>
+    <message>
+        <source>%1 is no address.</source>
+        <translation>%1 不是有效地址。</translation>
+    </message>
+</context>
+<context>
     <name>ConnectionTest</name>
     <message>
         <source>&amp;Test Connection</source>
@@ -1657,7 +1712,7 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished">电源</translation>
+        <translation>电源</translation>
     </message>
 </context>
 <context>
@@ -1791,10 +1846,6 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
         <translation>请选择，或输入名称或代码的一部分</translation>
     </message>
     <message>
-        <source> %1 ms</source>
-        <translation> %1 毫秒</translation>
-    </message>
-    <message>
         <source>Po&amp;wer</source>
         <translation>电源(&amp;W)</translation>
     </message>
@@ -1809,6 +1860,11 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     <message>
         <source>%1: %2</source>
         <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1: %2, %3 ms</source>
+        <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
+        <translation>%1：%2，%3 毫秒</translation>
     </message>
 </context>
 <context>
@@ -2139,6 +2195,33 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     </message>
 </context>
 <context>
+    <name>ModelFields</name>
+    <message>
+        <source>&amp;Family</source>
+        <translation>系列(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Model</source>
+        <translation>型号(&amp;M)</translation>
+    </message>
+    <message>
+        <source>All &amp;fields of the model</source>
+        <translation>显示机型的全部字段(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Dialog &amp;type</source>
+        <translation>对话框类型(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Model cod&amp;e</source>
+        <translation>型号代码(&amp;E)</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+</context>
+<context>
     <name>Notify</name>
     <message>
         <source>Advanced Control</source>
@@ -2150,7 +2233,7 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     <message>
         <source>Advanced Control</source>
         <extracomment>The name of the program in the menu.</extracomment>
-        <translation type="unfinished">高级控制</translation>
+        <translation>高级控制</translation>
     </message>
     <message>
         <source>Projector Settings</source>
@@ -2350,40 +2433,12 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
 <context>
     <name>ProfileActions</name>
     <message>
-        <source>&amp;Open Profiles…</source>
-        <translation>打开配置文件(&amp;O)…</translation>
-    </message>
-    <message>
-        <source>&amp;Reload</source>
-        <translation>重新加载(&amp;R)</translation>
-    </message>
-    <message>
-        <source>&amp;Save Profiles As…</source>
-        <translation>配置文件另存为(&amp;S)…</translation>
-    </message>
-    <message>
         <source>&amp;Add…</source>
         <translation>添加(&amp;A)…</translation>
     </message>
     <message>
         <source>&amp;Edit…</source>
         <translation>编辑(&amp;E)…</translation>
-    </message>
-    <message>
-        <source>Open Profiles</source>
-        <translation>打开配置文件</translation>
-    </message>
-    <message>
-        <source>Profiles (*.json);;All files (*)</source>
-        <translation>配置文件 (*.json);;所有文件 (*)</translation>
-    </message>
-    <message>
-        <source>Reload</source>
-        <translation>重新加载</translation>
-    </message>
-    <message>
-        <source>Save Profiles As</source>
-        <translation>配置文件另存为</translation>
     </message>
     <message>
         <source>Duplicate</source>
@@ -2400,18 +2455,6 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     <message>
         <source>Remove</source>
         <translation>移除</translation>
-    </message>
-    <message>
-        <source>This could not be done; nothing was changed.</source>
-        <translation>操作未能完成，未作任何更改。</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>撤销(&amp;U)</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>重做(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Duplicate…</source>
@@ -2497,80 +2540,12 @@ a minus in front takes a tag away:</source>
         <translation>名称(&amp;N)</translation>
     </message>
     <message>
-        <source>&amp;Model</source>
-        <translation>型号(&amp;M)</translation>
-    </message>
-    <message>
-        <source>Dialog &amp;type</source>
-        <translation>对话框类型(&amp;T)</translation>
-    </message>
-    <message>
-        <source>Model cod&amp;e</source>
-        <translation>型号代码(&amp;E)</translation>
-    </message>
-    <message>
         <source>Add Projector</source>
         <translation>添加投影机</translation>
     </message>
     <message>
         <source>Edit Projector</source>
         <translation>编辑投影机</translation>
-    </message>
-    <message>
-        <source>None</source>
-        <translation>无</translation>
-    </message>
-    <message>
-        <source>&amp;Family</source>
-        <translation>系列(&amp;F)</translation>
-    </message>
-    <message>
-        <source>As its family</source>
-        <translation>与系列相同</translation>
-    </message>
-    <message>
-        <source>Network</source>
-        <translation>网络</translation>
-    </message>
-    <message>
-        <source>Serial port</source>
-        <translation>串口</translation>
-    </message>
-    <message>
-        <source>Connect&amp;ion</source>
-        <translation>连接(&amp;I)</translation>
-    </message>
-    <message>
-        <source>&amp;Address</source>
-        <translation>地址(&amp;A)</translation>
-    </message>
-    <message>
-        <source>&amp;Port</source>
-        <translation>端口(&amp;P)</translation>
-    </message>
-    <message>
-        <source>Port n&amp;umber</source>
-        <translation>串口号(&amp;U)</translation>
-    </message>
-    <message>
-        <source>&amp;Baud</source>
-        <translation>波特率(&amp;B)</translation>
-    </message>
-    <message>
-        <source>Simulated</source>
-        <translation>模拟</translation>
-    </message>
-    <message>
-        <source>&amp;Reached through</source>
-        <translation>连接方式(&amp;R)</translation>
-    </message>
-    <message>
-        <source>Pass&amp;word</source>
-        <translation>密码(&amp;W)</translation>
-    </message>
-    <message>
-        <source>&amp;Device</source>
-        <translation>设备(&amp;D)</translation>
     </message>
     <message>
         <source>Still to be filled in: %1</source>
@@ -2581,24 +2556,8 @@ a minus in front takes a tag away:</source>
         <translation>%1：%2</translation>
     </message>
     <message>
-        <source>All &amp;fields of the model</source>
-        <translation>显示机型的全部字段(&amp;F)</translation>
-    </message>
-    <message>
-        <source>Save Profiles As…</source>
-        <translation>另存配置文件…</translation>
-    </message>
-    <message>
-        <source>%1 cannot be changed.</source>
-        <translation>无法修改 %1。</translation>
-    </message>
-    <message>
         <source>Duplicate Projector</source>
         <translation>复制投影机</translation>
-    </message>
-    <message>
-        <source>%1 is no address.</source>
-        <translation>%1 不是有效地址。</translation>
     </message>
 </context>
 <context>
@@ -2733,6 +2692,64 @@ a minus in front takes a tag away:</source>
     </message>
 </context>
 <context>
+    <name>ProfileFileActions</name>
+    <message>
+        <source>&amp;Open Profiles…</source>
+        <translation>打开配置文件(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>重新加载(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Save Profiles As…</source>
+        <translation>配置文件另存为(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>Open Profiles</source>
+        <translation>打开配置文件</translation>
+    </message>
+    <message>
+        <source>Profiles (*.json);;All files (*)</source>
+        <translation>配置文件 (*.json);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>重新加载</translation>
+    </message>
+    <message>
+        <source>Save Profiles As</source>
+        <translation>配置文件另存为</translation>
+    </message>
+    <message>
+        <source>Read-Only File</source>
+        <translation>只读文件</translation>
+    </message>
+    <message>
+        <source>%1 cannot be changed. Save the profiles in another file first.</source>
+        <translation>无法更改 %1。请先将配置另存为其他文件。</translation>
+    </message>
+    <message>
+        <source>Save Profiles As…</source>
+        <translation>另存配置文件…</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileHistory</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>撤销(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>重做(&amp;R)</translation>
+    </message>
+    <message>
+        <source>This could not be done; nothing was changed.</source>
+        <translation>操作未能完成，未作任何更改。</translation>
+    </message>
+</context>
+<context>
     <name>Program</name>
     <message>
         <source>no profiles at %1; name a file with --profiles</source>
@@ -2778,14 +2795,10 @@ a minus in front takes a tag away:</source>
     </message>
 </context>
 <context>
-    <name>ProjectorTableModel</name>
+    <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
         <translation>名称</translation>
-    </message>
-    <message>
-        <source>Model</source>
-        <translation>型号</translation>
     </message>
     <message>
         <source>State</source>
@@ -2806,6 +2819,10 @@ a minus in front takes a tag away:</source>
     <message>
         <source>Problem</source>
         <translation>故障</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>型号</translation>
     </message>
     <message>
         <source>Place</source>
@@ -3236,7 +3253,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Display this help.</source>
-        <translation type="unfinished">显示此帮助。</translation>
+        <translation>显示此帮助。</translation>
     </message>
     <message>
         <source>Serve the projectors of &lt;file&gt;.</source>
@@ -3244,7 +3261,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>file</source>
-        <translation type="unfinished">文件</translation>
+        <translation>文件</translation>
     </message>
     <message>
         <source>Serve only the projector &lt;name&gt;; may be given several times.</source>
@@ -3252,7 +3269,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>name</source>
-        <translation type="unfinished">名称</translation>
+        <translation>名称</translation>
     </message>
     <message>
         <source>Listen on &lt;address&gt; instead of 127.0.0.1; with --fleet, the address of the first projector instead of 127.64.0.1.</source>
@@ -3352,7 +3369,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Unexpected argument &apos;%1&apos;.</source>
-        <translation type="unfinished">多余的参数“%1”。</translation>
+        <translation>多余的参数“%1”。</translation>
     </message>
     <message>
         <source>--%1 needs --fleet.</source>
@@ -3631,10 +3648,6 @@ a minus in front takes a tag away:</source>
         <translation>表格 (*.csv *.tsv *.txt);;所有文件 (*)</translation>
     </message>
     <message>
-        <source>%1 added, %2 already known, %3 rows not taken.</source>
-        <translation>添加 %1 台，%2 台已存在，%3 行未导入。</translation>
-    </message>
-    <message>
         <source>Line %1: %2</source>
         <translation>第 %1 行：%2</translation>
     </message>
@@ -3650,16 +3663,27 @@ a minus in front takes a tag away:</source>
         <source>Tables (*.csv);;All files (*)</source>
         <translation>表格 (*.csv);;所有文件 (*)</translation>
     </message>
-</context>
-<context>
-    <name>WholeFile</name>
-    <message>
-        <source>cannot write %1: %2</source>
-        <translation>无法写入 %1：%2</translation>
+    <message numerus="yes">
+        <source>%n projectors added</source>
+        <translation>
+            <numerusform>已添加 %n 台投影机</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n already known</source>
+        <translation>
+            <numerusform>%n 台已存在</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rows not taken</source>
+        <translation>
+            <numerusform>%n 行未导入</numerusform>
+        </translation>
     </message>
 </context>
 <context>
-    <name>WorkActions</name>
+    <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
         <translation>开机(&amp;N)</translation>
@@ -3684,9 +3708,21 @@ a minus in front takes a tag away:</source>
         <source>Blank the Picture</source>
         <translation>图像消隐</translation>
     </message>
+    <message numerus="yes">
+        <source>Blank the picture of %n projectors?</source>
+        <translation>
+            <numerusform>要对 %n 台投影机消隐画面吗？</numerusform>
+        </translation>
+    </message>
     <message>
         <source>Show the Picture</source>
         <translation>显示图像</translation>
+    </message>
+    <message numerus="yes">
+        <source>Show the picture of %n projectors?</source>
+        <translation>
+            <numerusform>要对 %n 台投影机显示画面吗？</numerusform>
+        </translation>
     </message>
     <message>
         <source>&amp;Mute</source>
@@ -3696,9 +3732,21 @@ a minus in front takes a tag away:</source>
         <source>Mute the Sound</source>
         <translation>静音</translation>
     </message>
+    <message numerus="yes">
+        <source>Mute the sound of %n projectors?</source>
+        <translation>
+            <numerusform>要对 %n 台投影机静音吗？</numerusform>
+        </translation>
+    </message>
     <message>
         <source>Unmute the Sound</source>
         <translation>取消静音</translation>
+    </message>
+    <message numerus="yes">
+        <source>Unmute the sound of %n projectors?</source>
+        <translation>
+            <numerusform>要对 %n 台投影机取消静音吗？</numerusform>
+        </translation>
     </message>
     <message>
         <source>Free&amp;ze</source>
@@ -3708,9 +3756,21 @@ a minus in front takes a tag away:</source>
         <source>Freeze the Picture</source>
         <translation>冻结画面</translation>
     </message>
+    <message numerus="yes">
+        <source>Freeze the picture of %n projectors?</source>
+        <translation>
+            <numerusform>要对 %n 台投影机冻结画面吗？</numerusform>
+        </translation>
+    </message>
     <message>
         <source>Release the Picture</source>
         <translation>取消冻结</translation>
+    </message>
+    <message numerus="yes">
+        <source>Release the picture of %n projectors?</source>
+        <translation>
+            <numerusform>要对 %n 台投影机解除冻结吗？</numerusform>
+        </translation>
     </message>
     <message>
         <source>Switch On</source>
@@ -3719,54 +3779,6 @@ a minus in front takes a tag away:</source>
     <message>
         <source>Switch Off</source>
         <translation>关机</translation>
-    </message>
-    <message>
-        <source>Input %1</source>
-        <translation>信号源 %1</translation>
-    </message>
-    <message>
-        <source>No inputs are known</source>
-        <translation>没有已知的信号源</translation>
-    </message>
-    <message>
-        <source>%1, %2: %3</source>
-        <translation>%1，%2：%3</translation>
-    </message>
-    <message numerus="yes">
-        <source>Blank the picture of %n projectors?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Show the picture of %n projectors?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Mute the sound of %n projectors?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Unmute the sound of %n projectors?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Freeze the picture of %n projectors?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Release the picture of %n projectors?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-        </translation>
     </message>
     <message numerus="yes">
         <source>Switch on %n projectors?</source>
@@ -3780,11 +3792,33 @@ a minus in front takes a tag away:</source>
             <numerusform>要关闭 %n 台投影机吗？</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Input %1</source>
+        <translation>信号源 %1</translation>
+    </message>
     <message numerus="yes">
         <source>Choose the input %1 on %n projectors?</source>
         <translation>
             <numerusform>要将 %n 台投影机切换到信号源 %1 吗？</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>No inputs are known</source>
+        <translation>没有已知的信号源</translation>
+    </message>
+</context>
+<context>
+    <name>WholeFile</name>
+    <message>
+        <source>cannot write %1: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>WorkActions</name>
+    <message>
+        <source>%1, %2: %3</source>
+        <translation>%1，%2：%3</translation>
     </message>
 </context>
 <context>

@@ -141,7 +141,7 @@ std::pair<std::vector<PjLinkInput>, bool> PjLinkChannel::AskForInputs() {
 }
 
 std::pair<std::optional<PjLinkInput>, bool> PjLinkChannel::AskForPresentInput() {
-  session_.KeepLast();
+  session_.KeepNext();
   const PjtReply reply = Execute(kGetInput);
   if (!IsSuccess(kGetInput.operation, reply.result)) return {std::nullopt, reply.answered};
   const auto& known = inputs_.Known();

@@ -94,6 +94,8 @@ std::pair<std::optional<PjLinkInput>, bool> PjLinkChannel::AskForPresentInput() 
   return {PjLinkInputs::Named(reply.value, result.text), result.kind != PjLinkResult::Kind::Lost};
 }
 
+std::optional<SourceList> PjLinkChannel::Inputs() { return inquiry_.Report(); }
+
 bool PjLinkChannel::UseIdleTime() {
   const auto question = inquiry_.NextQuestion(Clock::now());
   if (!question || state_ != ConnectionState::Connected) return false;
@@ -119,5 +121,7 @@ void PjLinkChannel::Remember(const PjLinkFacts& facts) {
   if (facts.protocolClass) session_.RememberClass(*facts.protocolClass);
   inquiry_.Remember(facts.inputs, facts.protocolClass);
 }
+
+std::string PjLinkChannel::Address() const { return socket_.Address(); }
 
 }  // namespace AdvancedControl

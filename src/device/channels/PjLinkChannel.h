@@ -71,7 +71,7 @@ class PROJECTOR_COMMON_EXPORT PjLinkChannel : public ProjectorChannel {
   /// Applies to each request of a command. Other questions have the channel's own time-out.
   void GiveUpAfter(std::chrono::milliseconds time) override { longest_ = time; }
   ConnectionState Connection() const override { return state_; }
-  std::optional<SourceList> Inputs() override { return inquiry_.Report(); }
+  std::optional<SourceList> Inputs() override;
   std::optional<PowerState> Power() const override { return power_; }
   bool UseIdleTime() override;
   bool TendConnection(std::chrono::milliseconds unused) override;
@@ -94,7 +94,7 @@ class PROJECTOR_COMMON_EXPORT PjLinkChannel : public ProjectorChannel {
   void Remember(const PjLinkFacts& facts);
 
   /// "host:port".
-  std::string Address() const { return socket_.Address(); }
+  std::string Address() const;
 
  private:
   /// Starts `work` and performs the session's steps until it is finished.

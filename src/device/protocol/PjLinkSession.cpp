@@ -12,6 +12,8 @@ constexpr int kMostLost = 1;
 
 }  // namespace
 
+void PjLinkSession::RememberClass(char protocolClass) { class_.Remember(protocolClass); }
+
 void PjLinkSession::Begin(const PjtCommand& command, PjLinkTime now) {
   isQuestion_ = false;
   lostAnswers_ = 0;

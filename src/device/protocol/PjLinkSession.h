@@ -59,7 +59,7 @@ class PROJECTOR_COMMON_EXPORT PjLinkSession {
   /// The class, '1' or '2', once it is known.
   std::optional<char> ProtocolClass() const { return class_.Value(); }
   /// Uses a class from an earlier session.
-  void RememberClass(char protocolClass) { class_.Remember(protocolClass); }
+  void RememberClass(char protocolClass);
   /// The power state that the projector reported last.
   std::optional<PowerState> Power() const { return execution_.Power(); }
 

@@ -23,7 +23,7 @@ check "Calls that fail" "scripts/faults.py build/check 15"
 check "Installed library" "cmake -DBUILD_DIR=$PWD/build/check -DSOURCE_DIR=$PWD -P scripts/CheckInstalled.cmake"
 check "Benchmarks for a moment" \
   "build/check/bin/advanced-control-bench --benchmark_min_time=0.01 --benchmark_filter='OpenDialog|RefreshPicture/ms:0' >/dev/null"
-check "clang-tidy over the last changes" "scripts/tidy.py build/check --since HEAD~3"
+check "clang-tidy over the last changes" "scripts/tidy.py --since HEAD~3"
 cmake --preset tsan >/dev/null
 check "Build under the thread sanitizer (build/tsan)" "cmake --build --preset tsan --target device_tests fleet_tests"
 check "Channels under the thread sanitizer" "build/tsan/bin/device_tests --gtest_brief=1"

@@ -79,9 +79,9 @@ def choose(arguments):
         patterns = [mutant.split(":")[0] for mutant in arguments.only]
     files = [file for file in sources if any(fnmatch.fnmatch(file, pattern) for pattern in patterns)
              and (lines is None or file in lines)]
-    if not (ROOT / "build/coverage/compile_commands.json").exists():
-        subprocess.run(["cmake", "--preset", "coverage"], cwd=ROOT, check=True, stdout=subprocess.DEVNULL)
-    find = partial(find_mutants, ROOT, ROOT / "build/coverage", WORK / "mutants")
+    commands = WORK / "commands"  # which name every file; other builds combine them
+    subprocess.run(["cmake", "--preset", "dev", "-B", commands], cwd=ROOT, check=True, stdout=subprocess.DEVNULL)
+    find = partial(find_mutants, ROOT, commands, WORK / "mutants")
     with ProcessPoolExecutor(arguments.jobs) as pool:
         found = list(pool.map(find, files))
     mutants = [mutant for ofFile in found for mutant in ofFile

@@ -1,7 +1,12 @@
-# Compiles several files of a target at once, up to eight, which saves most of the time that goes into headers. Files
-# that give the same name to something of their own are never combined. Included last, for the targets of all folders.
+# Compiles several files of a target at once, up to eight of a folder, which saves most of the time that goes into
+# headers. Files that give the same name to something of their own are never combined. Included last, for the targets of
+# all folders.
 
-# own_names(<file> <variable>): names at the beginnings of lines, where our layout puts functions, constants and types.
+# A name of one file may be hidden in another, and anonymous namespaces have names then.
+target_compile_options(ProjectFlags INTERFACE -Wno-shadow $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
+
+# own_names(<file> <variable>): names at the beginnings of lines, where our layout puts functions, constants and types,
+# and constants elsewhere.
 function(own_names file variable)
   file(READ ${file} text)
   string(REGEX REPLACE "[][;]" "(" text "\n${text}")
@@ -9,6 +14,9 @@ function(own_names file variable)
   string(REGEX REPLACE "\n(struct|class|enum|union) (class )?([A-Za-z0-9_]+)[^\n]*" "\nstruct \\3{" text "${text}")
   string(REGEX MATCHALL "\n[A-Za-z_][^\n={(]*[ &*>][A-Za-z0-9_]+ ?[={(]" declarations "${text}")
   list(TRANSFORM declarations REPLACE ".*[ &*>]([A-Za-z0-9_]+) ?[={(]" "\\1")
+  string(REGEX MATCHALL "k[A-Z][A-Za-z0-9]* =" constants "${text}")
+  list(TRANSFORM constants REPLACE " =" "")
+  list(APPEND declarations ${constants})
   list(REMOVE_DUPLICATES declarations)
   set(${variable} "${declarations}" PARENT_SCOPE)
 endfunction()
@@ -23,6 +31,8 @@ function(combine target)
       continue()  # made by the build
     endif()
     own_names(${path} names)
+    file(RELATIVE_PATH place ${PROJECT_SOURCE_DIR} ${path})
+    string(REGEX MATCH "^[^/]*/[^/]*/" place ${place})
     set(group 0)
     set(fits FALSE)
     while(NOT fits)
@@ -32,10 +42,11 @@ function(combine target)
       list(LENGTH both separate)
       list(REMOVE_DUPLICATES both)
       list(LENGTH both together)
-      if(size LESS 8 AND separate EQUAL together)
+      if(size EQUAL 0 OR (size LESS 8 AND separate EQUAL together AND place STREQUAL place_${group}))
         set(fits TRUE)
       endif()
     endwhile()
+    set(place_${group} ${place})
     list(APPEND names_${group} ${names})
     list(APPEND files_${group} ${path})
     set_source_files_properties(${path} TARGET_DIRECTORY ${target}

@@ -6,10 +6,11 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-# check <what> <command line>
+# check <what> <command line>: also tells the time that passed, and that of the processors.
+TIMEFORMAT="  %0R s (processors: %0U s + %0S s)"
 check() {
   echo "$1"
-  bash -euo pipefail -c "$2" || { echo "$1: failed. To see it again: $2" >&2; exit 1; }
+  time bash -euo pipefail -c "$2" || { echo "$1: failed. To see it again: $2" >&2; exit 1; }
 }
 
 export QT_QPA_PLATFORM=offscreen
@@ -26,6 +27,6 @@ check "Benchmarks for a moment" \
 check "clang-tidy over the last changes" "scripts/tidy.py --since HEAD~3"
 cmake --preset tsan >/dev/null
 check "Build under the thread sanitizer (build/tsan)" "cmake --build --preset tsan --target device_tests fleet_tests"
-check "Channels under the thread sanitizer" "build/tsan/bin/device_tests --gtest_brief=1"
-check "Fleet under the thread sanitizer" "build/tsan/bin/fleet_tests --gtest_brief=1"
+check "Channels and fleet under the thread sanitizer" \
+  "ctest --preset tsan -j $jobs -R '^(device|fleet)_tests'"
 check "Fuzz targets for a moment" "scripts/fuzz.sh 2"

@@ -1,7 +1,8 @@
-// Writes a file as the host application does, so that scripts/faults.py can make calls fail meanwhile:
+// Writes a file as the host application does, so that scripts/faults.py can make calls fail
+// meanwhile:
 //
-//   host_files edit FILE   renames the first projector of a profile file, as the profile editor does
-//   host_files log FILE    saves a command log
+//   host_files edit FILE   renames the first projector of a profile file, as the profile editor
+//   does host_files log FILE    saves a command log
 //
 // An error is printed, and ends the program with 1.
 

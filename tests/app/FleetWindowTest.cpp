@@ -121,6 +121,17 @@ TEST(FleetWindow, RaisesAnAlertUntilItsCauseIsGone) {
   EXPECT_TRUE(Soon([&] { return Rows(window)[1].hasAlert; })) << "it came again";
 }
 
+TEST(FleetWindow, ShowsWhatADialogHasRead) {
+  MainWindow window({Profile("A")}, {.interval = 1h});
+  window.show();
+  SimulatedProjector& projector = window.Session(0)->Simulator();
+  ASSERT_TRUE(Soon([&] { return Rows(window)[0].state.answered.has_value(); }));
+  projector.SetValue(SettingId::LampTime, 777);
+  window.OpenDialog(0, 0);
+  EXPECT_TRUE(
+      Soon([&] { return Rows(window)[0].state.lamps == std::vector<LampState>{{.hours = 777}}; }));
+}
+
 TEST(FleetWindow, TheFirstReadingIsNoEventAndUnseenRowsStayUpToDate) {
   MainWindow window({Profile("A"), Profile("B")}, kOften);  // not shown: no row is in sight
   const auto& state = Rows(window)[1].state;
@@ -166,7 +177,7 @@ TEST(FleetWindow, TakesATableAndNamesItsTenWrongLines) {
   window.findChild<TransferActions*>()->ImportFile(folder.filePath("t.csv"));
   auto* said = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
   ASSERT_NE(said, nullptr);
-  EXPECT_EQ(said->text(), "10 added, 0 already known, 10 rows not taken.");
+  EXPECT_EQ(said->text(), "10 projectors added · 0 already known · 10 rows not taken");
   EXPECT_EQ(said->informativeText().count("Line "), 10);
   EXPECT_TRUE(said->informativeText().startsWith("Line 3: "));
   said->close();

@@ -151,6 +151,19 @@ TEST_F(FleetSimulator, AShareHasAFault) {
   EXPECT_EQ(Ask(AddressOf(4), "%1INF1 ?"), "%1INF1=Advanced Control");
 }
 
+TEST_F(FleetSimulator, ADelayedRefusalClosesTheConnection) {
+  for (const char* fault : {"late 20", "trickle"}) {
+    Start({"--password", "secret", "--fault", fault});
+    QTcpSocket socket;
+    socket.connectToHost(AddressOf(0), port_);
+    socket.write(QByteArray(32, '0') + "%1POWR ?\r");  // a wrong proof
+    std::string text;
+    while (socket.waitForReadyRead(kTimeOut)) text += socket.readAll().toStdString();
+    EXPECT_THAT(text, EndsWith("PJLINK ERRA\r")) << fault;
+    EXPECT_EQ(socket.state(), QAbstractSocket::UnconnectedState) << fault;
+  }
+}
+
 TEST_F(FleetSimulator, SwitchingTakesTimeAndNoticesTellOfIt) {
   QUdpSocket listener;
   ASSERT_TRUE(listener.bind(QHostAddress::LocalHost, 0));

@@ -2,6 +2,7 @@
 
 #include "Namespace.h"
 #include "settings/CatalogNumbers.h"
+#include "settings/ErrorNumbers.h"
 #include "settings/Rows.h"
 
 namespace AdvancedControl {

@@ -308,8 +308,14 @@ inline constexpr int ReadAgain = 4375;
 inline constexpr int KeepUpToDate = 4376;
 
 // Settings that the projector should have.
-inline constexpr int Wanted = 4380;       // %1 the value's text
-inline constexpr int SetToWanted = 4381;  // %1 the value's text
+inline constexpr int Wanted = 4380;           // %1 the value's text
+inline constexpr int SetToWanted = 4381;      // %1 the value's text
+inline constexpr int NotAsWanted = 4382;      // %1 settings (integer)
+inline constexpr int SeenNotAsWanted = 4383;  // %1 settings when they were last seen (integer)
+
+// Units, shown behind a number.
+inline constexpr int Minutes = 4390;
+inline constexpr int Percent = 4391;
 }  // namespace ListText
 
 }  // namespace AdvancedControl

@@ -43,4 +43,9 @@ constexpr ValueRow NamedSlider(std::string_view key, int caption, const ValueIds
           .ticks = ticks};
 }
 
+constexpr ValueRow InUnit(int unit, ValueRow row) {
+  row.unit = unit;
+  return row;
+}
+
 }  // namespace AdvancedControl

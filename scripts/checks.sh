@@ -17,7 +17,7 @@ export QT_QPA_PLATFORM=offscreen
 jobs=$((2 * $(nproc)))  # many tests mostly wait
 check "Floors" "scripts/check-floors.sh"
 check "Size of classes" \
-  "scripts/members.py --only src/{device,fleet,host,i18n,pages,resources,settings,simulator,snapshots} app/{acctl,profiles,simulator}"
+  "scripts/members.py --only src/{device,fleet,host,i18n,resources,settings,simulator,snapshots,toolkit} app/{acctl,profiles,simulator}"
 check "Packaging" "scripts/check-packaging.sh"
 cmake --preset check >/dev/null
 check "Optimised build (build/check): warnings are errors" "cmake --build --preset check"

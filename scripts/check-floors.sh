@@ -55,4 +55,10 @@ for folder in desktop/*/; do
     wrong=1
   fi
 done
+# A file that nobody reads at one sitting has more than one subject.
+cd ..
+if git ls-files 'src/*.h' 'src/*.cpp' 'app/*.h' 'app/*.cpp' | xargs wc -l |
+  awk '$1 > 350 && $2 != "total" { print $2 " has " $1 " lines, more than 350"; found = 1 } END { exit !found }'; then
+  wrong=1
+fi
 exit $wrong

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# The checks besides the tests under the sanitizers: floors, an optimised build without warnings with its tests and
-# benchmarks, calls that fail, the installed library, what goes into the packages, clang-tidy over the last changes,
-# channels and fleet under the thread sanitizer, and a moment of each fuzz target. A check that fails says what to run to
-# see it again.
+# The checks besides the tests under the sanitizers: floors, classes with too many members, an optimised build without
+# warnings with its tests and benchmarks, calls that fail, the installed library, what goes into the packages, clang-tidy
+# over the last changes, channels and fleet under the thread sanitizer, and a moment of each fuzz target. A check that
+# fails says what to run to see it again.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -16,6 +16,8 @@ check() {
 export QT_QPA_PLATFORM=offscreen
 jobs=$((2 * $(nproc)))  # many tests mostly wait
 check "Floors" "scripts/check-floors.sh"
+check "Size of classes" \
+  "scripts/members.py --only src/{device,fleet,host,i18n,resources,settings,simulator,snapshots,toolkit} app/{acctl,profiles,simulator}"
 check "Packaging" "scripts/check-packaging.sh"
 cmake --preset check >/dev/null
 check "Optimised build (build/check): warnings are errors" "cmake --build --preset check"

@@ -4,8 +4,6 @@
 
 namespace AdvancedControl {
 
-using Kind = PjLinkStep::Kind;
-
 void PjLinkConnection::Ask(PjLinkRequest request, PjLinkLimits::Time time, PjLinkTime now) {
   exchange_.Start(std::move(request), time);
   // The rest of an incomplete line would arrive later.
@@ -16,6 +14,7 @@ void PjLinkConnection::Ask(PjLinkRequest request, PjLinkLimits::Time time, PjLin
 }
 
 PjLinkStep PjLinkConnection::Next(PjLinkTime now) {
+  using Kind = PjLinkStep::Kind;
   const bool isLate = now >= until_;
   if (stage_ == Stage::Connecting && isLate) GiveUp(ConnectionState::NotReachable);
   if (stage_ == Stage::Greeting && isLate) GiveUp(ConnectionState::NoAnswer);

@@ -47,6 +47,7 @@ void WireRequests::Send(const PjtCommand& command, std::string& bytes) {
   const auto count = std::min(std::ssize(announced_) - (announced - announced_.begin()),
                               static_cast<std::ptrdiff_t>(FreeSlots()));
   sent_.clear();
+  sent_.reserve(static_cast<std::size_t>(count));
   for (auto next = announced; next != announced + count; ++next) {
     sent_.push_back(Make(*next, bytes));
   }

@@ -15,7 +15,7 @@
 
 class FleetWatch;
 
-/// What came of the work on one projector.
+/// The result of the work on one projector.
 struct WorkLine {
   std::string id;
   WorkOutcome outcome = WorkOutcome::Waiting;
@@ -27,7 +27,7 @@ struct WorkLine {
   }
 };
 
-/// Carries out a plan with jobs of the fleet, again on those that failed, and knows what undoes it.
+/// Carries out a plan with jobs of the fleet, repeats it on those that failed, and can undo it.
 class WorkRun : public QObject {
   Q_OBJECT
 
@@ -50,7 +50,7 @@ class WorkRun : public QObject {
   /// The snapshots that were taken.
   const SnapshotsById& Taken() const { return taken_; }
 
-  /// What undoes all that has been done; nothing while that is nothing.
+  /// The plan that undoes all that was done; nothing if nothing was.
   std::optional<WorkPlan> UndoPlan() const;
 
   static QString TextOf(const WorkLine& line);

@@ -1,8 +1,6 @@
 #include "app/desktop/alerts/AlertList.h"
 
 #include <algorithm>
-#include <string_view>
-#include <unordered_map>
 
 #include <QDateTime>
 #include <QHBoxLayout>
@@ -16,6 +14,8 @@
 #include "toolkit/IsolatedText.h"
 
 namespace {
+
+constexpr int kGap = 30;  // beside the time
 
 /// The number in the text of an alert; 0 if it has none.
 int NumberOf(const Alert& alert, const ProjectorRow& row) {
@@ -38,6 +38,8 @@ AlertList::AlertList(QWidget* parent)
   list_->setAccessibleName(tr("Alerts"));
   list_->header()->setSectionResizeMode(1, QHeaderView::Stretch);
   list_->header()->setStretchLastSection(false);
+  const QString time = QLocale().toString(QDateTime::currentDateTime(), QLocale::ShortFormat);
+  list_->setColumnWidth(0, list_->fontMetrics().horizontalAdvance(time) + kGap);
   auto* buttons = new QHBoxLayout;
   buttons->addStretch();
   buttons->addWidget(acknowledge_);
@@ -75,26 +77,26 @@ QString AlertList::TextOf(const Alert& alert, const ProjectorRow& row) const {
 
 // Thousands of projectors may have alerts at the same time, so nothing here searches in a list.
 void AlertList::Look(const std::vector<ProjectorRow>& rows, WallTime now) {
-  std::vector<Alert> found = FindAlerts(rules_, rows, now);
-  std::ranges::sort(found);
-  bool hasChanged = std::erase_if(alerts_, [&found](const auto& one) {
-                      return !std::ranges::binary_search(found, one.first);
-                    }) > 0;
-  std::unordered_map<std::string_view, const ProjectorRow*> rowOf;
-  QStringList raised;
   const QString since = QLocale().toString(QDateTime::currentDateTime(), QLocale::ShortFormat);
-  for (const ProjectorRow& row : rows) rowOf.emplace(row.id, &row);
-  for (const Alert& alert : found) {
-    const ProjectorRow& row = *rowOf.at(alert.id);
-    const auto [entry, isNew] = alerts_.try_emplace(alert, Entry{.since = since});
-    // Hours and numbers of settings change while the alert stays.
-    const int number = NumberOf(alert, row);
-    if (!isNew && entry->second.number == number) continue;
-    entry->second.number = number;
-    entry->second.text = TextOf(alert, row);
-    if (isNew) raised += entry->second.text;
-    hasChanged = true;
+  bool hasChanged = false;
+  QStringList raised;
+  ++looks_;
+  for (const ProjectorRow& row : rows) {
+    for (const Alert& alert : FindAlerts(rules_, row, now)) {
+      const auto [found, isNew] = alerts_.try_emplace(alert, Entry{.since = since});
+      Entry& entry = found->second;
+      entry.seen = looks_;
+      // Hours and numbers of settings change while the alert stays.
+      const int number = NumberOf(alert, row);
+      if (!isNew && entry.number == number) continue;
+      entry.number = number;
+      entry.text = TextOf(alert, row);
+      if (isNew) raised += entry.text;
+      hasChanged = true;
+    }
   }
+  const auto isGone = [this](const auto& one) { return one.second.seen != looks_; };
+  hasChanged = std::erase_if(alerts_, isGone) > 0 || hasChanged;
   if (!hasChanged) return;
   Show();
   Q_EMIT Changed();
@@ -133,7 +135,6 @@ void AlertList::Show() {
   }
   list_->clear();
   list_->addTopLevelItems(items);
-  list_->resizeColumnToContents(0);
   acknowledge_->setEnabled(!alerts_.empty());
   acknowledgeAll_->setEnabled(!Open().empty());
 }

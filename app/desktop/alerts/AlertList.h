@@ -36,7 +36,8 @@ class AlertList : public QWidget {
   struct Entry {
     QString since;
     QString text{};
-    int number = 0;  ///< In the text.
+    int number = 0;     ///< In the text.
+    unsigned seen = 0;  ///< When the alert was found last, as `looks_`.
     bool isAcknowledged = false;
   };
 
@@ -46,6 +47,7 @@ class AlertList : public QWidget {
 
   AlertRules rules_;
   std::map<Alert, Entry> alerts_;
+  unsigned looks_ = 0;
   QTreeWidget* list_;
   QPushButton* acknowledge_;
   QPushButton* acknowledgeAll_;

@@ -35,6 +35,5 @@ struct Alert {
   friend auto operator<=>(const Alert&, const Alert&) = default;
 };
 
-/// What the rules find in the projectors at a time.
-std::vector<Alert> FindAlerts(const AlertRules& rules, const std::vector<ProjectorRow>& rows,
-                              WallTime now);
+/// What the rules find in a projector at a time.
+std::vector<Alert> FindAlerts(const AlertRules& rules, const ProjectorRow& row, WallTime now);

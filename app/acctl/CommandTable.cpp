@@ -66,15 +66,16 @@ constexpr CommandForm kCommands[] = {
      "acctl save 'Lecture hall' good.json\n"
      "acctl save '@building-3' -o saved",
      1, kMany},
-    {Command::Diff, "diff", Words::ProjectorFile, "P FILE|DIR", "compare with saved settings",
-     "Prints what differs from a file ('-' is standard input), or from each projector's own file in a folder.",
+    {Command::Diff, "diff", Words::ProjectorFile, "P FILE|PRESET|DIR", "compare with saved settings",
+     "Prints what differs from a file ('-' is standard input), from a preset of the host application, or from each "
+     "projector's own file in a folder.",
      "acctl diff 'Seminar*' good.json\n"
      "acctl diff '@building-3' saved --exit-code",
      2, 2},
-    {Command::Apply, "apply", Words::FileProjectors, "FILE P... | DIR [P...]", "restore saved settings",
-     "Reads the projectors, sends what differs from the file ('-' is standard input), or from each projector's own "
-     "file in a folder, and reads it back. What is replaced is kept first, so that 'acctl undo' can restore it. An "
-     "interrupted run can be repeated at any time.",
+    {Command::Apply, "apply", Words::FileProjectors, "FILE|PRESET P... | DIR [P...]", "restore saved settings",
+     "Reads the projectors, sends what differs from the file ('-' is standard input), from a preset of the host "
+     "application, or from each projector's own file in a folder, and reads it back. What is replaced is kept first, "
+     "so that 'acctl undo' can restore it. An interrupted run can be repeated at any time.",
      "acctl apply good.json 'Seminar*' --only 'picture.*' --dry-run\n"
      "acctl apply saved",
      1, kMany},

@@ -39,6 +39,7 @@ constexpr Named kVariables[] = {
 };
 constexpr Named kFiles[] = {
     {"~/.config/advanced-control/acctl.conf", "Defaults, one a line, such as 'jobs = 32'."},
+    {"~/.local/share/advanced-control/presets", "Presets, which 'apply' and 'diff' find by name."},
     {"~/.local/state/advanced-control/undo", "What 'acctl undo' restores."},
     {"~/.cache/advanced-control/locks", "Locks, so that runs for one projector wait for each other."},
 };

@@ -25,6 +25,9 @@ void FleetSummary::Show(const std::vector<ProjectorRow>& rows) {
     parts += tr("%1 not reachable").arg(silent);
   if (const int alerts = count([](const ProjectorRow& row) { return row.hasAlert; }); alerts > 0)
     parts += tr("%1 with alerts").arg(alerts);
+  if (const int unwatched = count([](const ProjectorRow& row) { return !row.isWatched; });
+      unwatched > 0)
+    parts += tr("%n not watched", nullptr, unwatched);
   std::optional<WallTime> oldest;
   for (const ProjectorRow& row : rows) {
     if (row.state.reachability != Reachability::Answers || !row.state.answered) continue;

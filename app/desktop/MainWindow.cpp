@@ -1,7 +1,6 @@
 #include "app/desktop/MainWindow.h"
 
 #include <algorithm>
-#include <map>
 #include <set>
 #include <utility>
 
@@ -16,19 +15,20 @@
 #include <QSettings>
 #include <QStatusBar>
 
+#include "app/desktop/DriftCheck.h"
 #include "app/desktop/FleetSummary.h"
 #include "app/desktop/ListPane.h"
 #include "app/desktop/LiveProjectors.h"
+#include "app/desktop/Modal.h"
 #include "app/desktop/Notify.h"
 #include "app/desktop/Preferences.h"
 #include "app/desktop/PresetActions.h"
+#include "app/desktop/SettingsActions.h"
 #include "app/desktop/alerts/AlertList.h"
 #include "app/desktop/dialogs/DialogKeeper.h"
 #include "app/desktop/log/CommandLog.h"
-#include "app/desktop/log/SettingNames.h"
 #include "app/desktop/profiles/ProfileActions.h"
 #include "app/desktop/profiles/TransferActions.h"
-#include "app/desktop/settings/SettingsActions.h"
 #include "app/desktop/simulation/Demonstration.h"
 #include "app/desktop/simulation/FaultPanel.h"
 #include "app/desktop/work/WorkActions.h"
@@ -47,18 +47,10 @@ constexpr const char* kGeometryKey = "window/geometry";
 constexpr const char* kStateKey = "window/docks";
 constexpr const char* kSidesKey = "window/panes";
 constexpr const char* kProjectorColumnsKey = "window/liveColumns";
-constexpr const char* kLogColumnsKey = "window/logColumns";
+constexpr const char* kLogColumnsKey = "window/commandColumns";
+constexpr const char* kFolderKey = "window/folder";
 constexpr const char* kProjectorKey = "window/projector";
 constexpr const char* kProfilesKey = "window/profiles";
-
-QString CommandName(const FleetProfile& profile, const PjtCommand& command) {
-  static std::map<std::pair<int, int>, std::map<std::uint16_t, QString>> all;
-  const CModelInfo2& model = profile.model->info;
-  auto& names = all[{model.DialogType, model.ModelCode}];
-  if (names.empty()) names = SettingNames(model.DialogType, model.ModelCode);
-  const auto name = names.find(command.code);
-  return name == names.end() ? QString() : name->second;
-}
 
 }  // namespace
 
@@ -76,8 +68,7 @@ MainWindow::MainWindow(ProfileDocument profiles, QSettings* settings, const Flee
           policy,
           [this](const FleetProfile& profile, const PjtCommand& command, const PjtReply& reply,
                  std::chrono::microseconds elapsed) {
-            log_->Add({QDateTime::currentDateTime(), QString::fromStdString(profile.name),
-                       CommandName(profile, command), command, reply, elapsed});
+            log_->Add(profile, command, reply, elapsed);
           })),
       pane_(new ListPane(live_->Watch())),
       projectors_(&pane_->View()),
@@ -100,17 +91,11 @@ MainWindow::MainWindow(ProfileDocument profiles, QSettings* settings, const Flee
                                   .document = profiles_,
                                   .edits = *profileActions_,
                                   .window = *this})),
-      settingsActions_(new SettingsActions(
-          [this] {
-            ProjectorSessions sessions;
-            for (const ProjectorRow* row : pane_->Selected())
-              sessions.push_back(live_->Session(row->profile));
-            return sessions;
-          },
-          [this](QObject* context, std::function<void()> work) {
-            return dialogs_->RunWhenQuiet(context, std::move(work));
-          },
-          *this)),
+      settingsActions_(new SettingsActions({.selected = [this] { return pane_->Selected(); },
+                                            .watch = live_->Watch(),
+                                            .work = *work_,
+                                            .drift = presets_->Drift(),
+                                            .window = *this})),
       dialogs_(std::make_unique<DialogKeeper>(*this, settings)) {
   setCentralWidget(pane_);
   MakeDocks();
@@ -178,6 +163,7 @@ void MainWindow::Connect() {
   connect(dialogs_.get(), &DialogKeeper::Closed, this,
           [this, setOpen](const ProjectorSession* session) {
             live_->Watch().TakeBack(live_->IdOf(*session));
+            presets_->Drift().Check({live_->IdOf(*session)});
             setOpen(session, false);
           });
 }
@@ -210,8 +196,10 @@ void MainWindow::TakeAlerts() {
 void MainWindow::ShowPreferences() {
   auto* dialog = new Preferences(*settings_, this);
   dialog->setAttribute(Qt::WA_DeleteOnClose);
-  connect(dialog, &QDialog::accepted, this,
-          [this] { alerts_->SetRules(AlertRules::Read(settings_)); });
+  connect(dialog, &QDialog::accepted, this, [this] {
+    alerts_->SetRules(AlertRules::Read(settings_));
+    live_->Watch().SetInterval(std::chrono::seconds(Preferences::Interval(settings_)));
+  });
   dialog->open();
 }
 
@@ -284,6 +272,7 @@ QString MainWindow::LastProfiles(const QSettings& settings) {
 // The first time, the window opens at the lower right, so that a dialog at the upper left covers
 // little of it.
 void MainWindow::Restore() {
+  if (settings_ != nullptr) SetLastFolder(settings_->value(kFolderKey).toString());
   const QRect screen = MainWindow::screen()->availableGeometry();
   if (settings_ != nullptr && restoreGeometry(settings_->value(kGeometryKey).toByteArray())) {
     restoreState(settings_->value(kStateKey).toByteArray());
@@ -304,6 +293,7 @@ void MainWindow::Remember() {
   settings_->setValue(kStateKey, saveState());
   settings_->setValue(kSidesKey, pane_->SaveState());
   settings_->setValue(kProjectorColumnsKey, projectors_->Columns().saveState());
+  settings_->setValue(kFolderKey, LastFolder());
   settings_->setValue(kLogColumnsKey, log_->Columns().saveState());
   if (profiles_.FileName() != firstProfiles_) {
     settings_->setValue(kProfilesKey, QFileInfo(profiles_.FileName()).absoluteFilePath());

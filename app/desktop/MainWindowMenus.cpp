@@ -13,11 +13,11 @@
 #include "app/desktop/MainWindow.h"
 #include "app/desktop/Mnemonic.h"
 #include "app/desktop/PresetActions.h"
+#include "app/desktop/SettingsActions.h"
 #include "app/desktop/alerts/AlertList.h"
 #include "app/desktop/log/CommandLog.h"
 #include "app/desktop/profiles/ProfileActions.h"
 #include "app/desktop/profiles/TransferActions.h"
-#include "app/desktop/settings/SettingsActions.h"
 #include "app/desktop/simulation/FaultPanel.h"
 #include "app/desktop/work/WorkActions.h"
 

@@ -62,7 +62,7 @@ WorkActions::WorkActions(std::function<Rows()> selected, WorkDialog::NameOf name
 }
 
 // Jobs that run use the fleet, which ends after this object.
-WorkActions::~WorkActions() { qDeleteAll(window_.findChildren<WorkDialog*>()); }
+WorkActions::~WorkActions() { qDeleteAll(window_.findChildren<WorkRun*>()); }
 
 QAction* WorkActions::MakeSwitch(const QString& text, const char* key, const QString& onText,
                                  const QString& offText) {

@@ -2,8 +2,11 @@
 
 #include <algorithm>
 
+#include "app/acctl/Message.h"
 #include "app/acctl/OptionTable.h"
 #include "app/acctl/OwnSettings.h"
+#include "app/profiles/Translations.h"
+#include "i18n/SystemLanguage.h"
 
 namespace {
 
@@ -24,15 +27,27 @@ Arguments Wrong(Arguments arguments, std::string error) {
   return arguments;
 }
 
-/// Whether JSON is wanted, for errors before the options are taken.
-bool WantsJson(const std::vector<std::string>& words) {
+/// Whether the words ask for a format, for errors before the options are taken.
+bool NamesFormat(const std::vector<std::string>& words, const std::string& format) {
   for (std::size_t i = 0; i < words.size(); ++i) {
     const bool isFormat = i > 0 && (words[i - 1] == "-o" || words[i - 1] == "--format");
-    if (words[i] == "--json" || words[i] == "--format=json" || (isFormat && words[i] == "json")) {
-      return true;
-    }
+    if (words[i] == "--format=" + format || (isFormat && words[i] == format)) return true;
   }
   return false;
+}
+
+bool WantsJson(const std::vector<std::string>& words) {
+  return NamesFormat(words, "json") || std::ranges::find(words, "--json") != words.end();
+}
+
+/// Texts for people are in their language; those in JSON are English. `arguments` has the defaults.
+void ChooseLanguage(const std::vector<std::string>& words, const Arguments& arguments) {
+  const bool isJson = WantsJson(words) || NamesFormat(words, "jsonl") ||
+                      arguments.format == Format::Json || arguments.format == Format::JsonLines;
+  QStringList list;
+  for (const std::string& word : words) list += Wide(word);
+  const auto named = isJson ? std::optional(kEnglishUnitedStates) : NamedLanguage(list);
+  InstallTranslations(named ? *named : arguments.language.value_or(SystemLanguageId()));
 }
 
 // "--name", "--name value", "--name=value", "-o value". Words after "--" are never options, and
@@ -61,11 +76,14 @@ GivenWords Separate(const std::vector<std::string>& words) {
       name.resize(equals);
     }
     const OptionForm* const option = FindOption(name);
-    if (option == nullptr) return fail("there is no option --" + name);
-    if (option->value.empty() && value) return fail("--" + name + " takes no value");
+    if (option == nullptr) return fail(Message(Acctl::tr("there is no option --%1"), name));
+    if (option->value.empty() && value)
+      return fail(Message(Acctl::tr("--%1 takes no value"), name));
     if (!option->value.empty() && !value) {
-      if (word + 1 == words.end())
-        return fail("--" + name + " needs " + std::string(option->value));
+      if (word + 1 == words.end()) {
+        //: An option and what must follow it: "--profiles needs FILE".
+        return fail(Message(Acctl::tr("--%1 needs %2"), name, option->value));
+      }
       value = *++word;
     }
     given.options.push_back({option, value.value_or(std::string()), isShort});
@@ -78,8 +96,14 @@ std::string TakeOptions(const GivenWords& given, const CommandForm& form, Argume
     const bool isFolder = isShort && given_->name == "format" && form.command == Command::Save;
     const OptionForm& option = isFolder ? *FindOption("folder") : *given_;
     const std::string name = "--" + std::string(option.name);
-    if (!option.IsOf(form.command)) return std::string(form.name) + " takes no " + name;
-    if (!option.take(arguments, value)) return name + ": '" + value + "' is not possible";
+    if (!option.IsOf(form.command)) {
+      //: A command and an option: "list takes no --wait".
+      return Message(Acctl::tr("%1 takes no %2"), form.name, name);
+    }
+    if (!option.take(arguments, value)) {
+      //: An option and its value.
+      return Message(Acctl::tr("%1: '%2' is not possible"), name, value);
+    }
   }
   return {};
 }
@@ -179,7 +203,9 @@ bool NeedsFile(Command command) {
 
 Arguments ParseArguments(const std::vector<std::string>& words) {
   Arguments arguments;
+  ChooseLanguage(words, arguments);
   TakeOwnSettings(arguments);
+  if (arguments.language || arguments.format != Format::Text) ChooseLanguage(words, arguments);
   if (!arguments.error.empty()) return arguments;
   // The words of `complete` are those of another command, which may be incomplete.
   if (!words.empty() && words.front() == FormOf(Command::Complete).name) {
@@ -200,12 +226,14 @@ Arguments ParseArguments(const std::vector<std::string>& words) {
   const bool wantsHelp = IsAsked(given, "help");
   if (given.words.empty()) {
     if (wantsHelp) return arguments;
-    return Wrong(std::move(arguments), "a command is missing; --help lists them");
+    return Wrong(std::move(arguments),
+                 Message(Acctl::tr("a command is missing; --help lists them")));
   }
   const CommandForm* const form = FindCommand(given.words.front());
   if (form == nullptr) {
-    return Wrong(std::move(arguments),
-                 "there is no command '" + given.words.front() + "'; --help lists them");
+    return Wrong(
+        std::move(arguments),
+        Message(Acctl::tr("there is no command '%1'; --help lists them"), given.words.front()));
   }
   if (wantsHelp) {
     arguments.topic = form->command;
@@ -220,7 +248,7 @@ Arguments ParseArguments(const std::vector<std::string>& words) {
   const bool isOfValues = arguments.format == Format::Tsv || arguments.format == Format::Value;
   if (isOfValues && !HasValues(form->command)) {
     if (isGiven) {
-      return Wrong(std::move(arguments), std::string(form->name) + " has no such --format");
+      return Wrong(std::move(arguments), Message(Acctl::tr("%1 has no such --format"), form->name));
     }
     arguments.format = Format::Text;
   }
@@ -230,11 +258,12 @@ Arguments ParseArguments(const std::vector<std::string>& words) {
   if (isRight) Distribute(std::move(given.words), form->words, arguments);
   if (!isRight || !TakeSpecialWords(arguments)) {
     return Wrong(std::move(arguments),
-                 "use: acctl " + std::string(form->name) + ' ' + std::string(form->usage));
+                 Message(Acctl::tr("use: %1"),
+                         "acctl " + std::string(form->name) + ' ' + std::string(form->usage)));
   }
   const bool needsFile = NeedsFile(form->command) && arguments.folder.empty();
   if (needsFile && arguments.file.empty()) {
-    return Wrong(std::move(arguments), "the name of the file is empty");
+    return Wrong(std::move(arguments), Message(Acctl::tr("the name of the file is empty")));
   }
   return arguments;
 }

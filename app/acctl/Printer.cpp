@@ -5,6 +5,7 @@
 
 #include <QJsonDocument>
 
+#include "app/acctl/Message.h"
 #include "app/acctl/Output.h"
 
 namespace {
@@ -72,7 +73,7 @@ std::string ErrorOutput(const Arguments& arguments, const Problem& problem) {
 }
 
 std::string ShownName(const std::string& name, bool isSimulated) {
-  return isSimulated ? name + " (simulated)" : name;
+  return isSimulated ? Message(Acctl::tr("%1 (simulated)"), name) : name;
 }
 
 void Printer::Write(std::string_view text) {

@@ -13,6 +13,7 @@
 #include <QJsonObject>
 #include <QStandardPaths>
 
+#include "app/acctl/Message.h"
 #include "app/acctl/Report.h"
 #include "fleet/FleetUndo.h"
 #include "fleet/WholeFile.h"
@@ -49,7 +50,7 @@ void TakeLines(const QByteArray& text, RecordedRun& run) {
   for (qsizetype i = 0; i + 1 < lines.size(); ++i) {
     if (TakeLine(QJsonDocument::fromJson(lines[i]).object(), run)) continue;
     if (lines[i + 1].startsWith("{\"undone\"")) continue;
-    run.error = QStringLiteral("%1:%2: not a line of an undo file").arg(run.path).arg(i + 1);
+    run.error = Acctl::tr("%1:%2: not a line of an undo file").arg(run.path).arg(i + 1);
     return;
   }
 }
@@ -87,7 +88,7 @@ RecordedRun ReadRun(const QString& path) {
   RecordedRun run{.path = path, .name = QFileInfo(path).completeBaseName().toStdString()};
   const FileBytes file = ReadToEnd(path, kMost);
   if (!file.error.isEmpty()) {
-    run.error = QStringLiteral("cannot read %1: %2").arg(path, file.error);
+    run.error = Acctl::tr("cannot read %1: %2").arg(path, file.error);
   } else if (file.bytes.startsWith("{\"")) {
     TakeLines(file.bytes, run);
   } else {
@@ -97,7 +98,7 @@ RecordedRun ReadRun(const QString& path) {
     if (!job.error.isEmpty()) run.error = path + QStringLiteral(": ") + job.error;
   }
   if (run.error.isEmpty() && run.undo.empty()) {
-    run.error = path + QStringLiteral(": there is nothing to undo");
+    run.error = Acctl::tr("%1: there is nothing to undo").arg(path);
   }
   return run;
 }
@@ -163,8 +164,8 @@ bool UndoRecorder::Create(const QByteArray& line) {
 
 bool UndoRecorder::Append(const QByteArray& line) {
   if (WriteAndSync(file_, line)) return true;
-  error_ = QStringLiteral("cannot write %1: %2")
-               .arg(path_, QString::fromLocal8Bit(std::strerror(errno)));
+  error_ =
+      Acctl::tr("cannot write %1: %2").arg(path_, QString::fromLocal8Bit(std::strerror(errno)));
   return false;
 }
 

@@ -13,7 +13,8 @@
 #include <QTimeEdit>
 #include <QVBoxLayout>
 
-#include "i18n/SystemLanguage.h"
+#include "i18n/Catalog.h"
+#include "i18n/CatalogLanguages.h"
 #include "toolkit/CComboBox.h"
 #include "toolkit/Icons.h"
 
@@ -58,8 +59,8 @@ Preferences::Preferences(QSettings& settings, QWidget* parent)
   setWindowTitle(tr("Preferences"));
   const AlertRules rules = AlertRules::Read(&settings);
   language_->Add(tr("As the system"), 0);
-  language_->Add(QStringLiteral("English"), static_cast<int>(kEnglishUnitedStates));
-  language_->Add(QStringLiteral("简体中文"), static_cast<int>(kChineseSimplified));
+  for (const CatalogLanguage& language : CatalogLanguages(CatalogFolders()))
+    language_->Add(QString::fromStdString(language.name), static_cast<int>(language.id));
   language_->SelectValue(Language(settings));
   theme_->Add(tr("As the desktop"), static_cast<int>(Theme::Desktop));
   theme_->Add(tr("Light"), static_cast<int>(Theme::Light));

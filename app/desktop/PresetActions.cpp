@@ -172,8 +172,9 @@ void PresetActions::PutBack() {
     part.targets.push_back(projector.target);
   }
   part.work = std::move(apply);
+  const auto count = static_cast<int>(part.targets.size());
   parts_.work.Do({.title = tr("Put Back"),
-                  .question = tr("Put back the settings of %1 projectors?"),
+                  .question = tr("Put back the settings of %n projectors?", nullptr, count),
                   .parts = {std::move(part)}},
                  [this](const WorkRun& run) { drift_->CheckAfter(run); });
 }

@@ -23,12 +23,12 @@
 #include <gtest/gtest.h>
 
 #include "app/desktop/Preferences.h"
-#include "app/desktop/Translations.h"
 #include "app/desktop/log/CommandLog.h"
 #include "app/desktop/profiles/ProfileEditor.h"
 #include "app/desktop/simulation/FaultPanel.h"
 #include "app/profiles/PresetFolder.h"
 #include "app/profiles/SettingsFile.h"
+#include "app/profiles/Translations.h"
 #include "host/CAdvanceDlg.h"
 #include "i18n/Catalog.h"
 #include "pages/common/CTabPage.h"
@@ -237,7 +237,7 @@ TEST(MainWindow, IsTranslatedCompletely) {
   const auto speak = [](const char* locale) {
     qputenv("LC_ALL", locale);
     LoadCatalog();
-    InstallTranslations();
+    InstallTranslations(ShownLanguageId());
   };
   speak("zh_CN.UTF-8");
   {

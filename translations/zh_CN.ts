@@ -5,371 +5,370 @@
     <name>Acctl</name>
     <message>
         <source>there is no option --%1</source>
-        <translation>没有选项 --%1</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>--%1 takes no value</source>
-        <translation>--%1 不带值</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>--%1 needs %2</source>
         <extracomment>An option and what must follow it: &quot;--profiles needs FILE&quot;.</extracomment>
-        <translation>--%1 需要 %2</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1 takes no %2</source>
         <extracomment>A command and an option: &quot;list takes no --wait&quot;.</extracomment>
-        <translation>%1 不能使用 %2</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1: &apos;%2&apos; is not possible</source>
         <extracomment>An option and its value.</extracomment>
-        <translation>%1：“%2”不可用</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>a command is missing; --help lists them</source>
-        <translation>缺少命令；可用 --help 列出命令</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>there is no command &apos;%1&apos;; --help lists them</source>
-        <translation>没有命令“%1”；可用 --help 列出命令</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1 has no such --format</source>
-        <translation>%1 没有这种 --format</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>use: %1</source>
-        <translation>用法：%1</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>the name of the file is empty</source>
-        <translation>文件名为空</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not one of: %2</source>
-        <translation>“%1”不在以下各项中：%2</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no step such as +1 or -1, and PJLink can only step it</source>
-        <translation>“%1”不是 +1 或 -1 这样的步进，而 PJLink 只能逐步调节</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
         <source>&apos;%1&apos; is more than %n steps</source>
-        <translation>
-            <numerusform>“%1”超过 %n 步</numerusform>
+        <translation type="unfinished">
+            <numerusform></numerusform>
         </translation>
     </message>
     <message>
         <source>&apos;%1&apos; from %2 is not one of: %3</source>
         <extracomment>A step such as +3, the value that it starts from, and the values that are possible.</extracomment>
-        <translation>从 %2 起的“%1”不在以下各项中：%3</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
         <source>&apos;%1&apos; is more than %n steps from %2</source>
-        <translation>
-            <numerusform>从 %2 起的“%1”超过 %n 步</numerusform>
+        <translation type="unfinished">
+            <numerusform></numerusform>
         </translation>
     </message>
     <message>
         <source>list projectors</source>
-        <translation>列出投影机</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Prints name, model, page set, series code, connection and tags of the projectors, or of all.</source>
-        <translation>显示指定的或全部投影机的名称、型号、页面组、系列代码、连接和标签。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>list models</source>
-        <translation>列出型号</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Prints the models of the profile file, with the number of projectors and of settings of each.</source>
-        <translation>显示配置文件中的型号，以及每种型号的投影机数和设置数。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>list settings and their values</source>
-        <translation>列出设置及其值</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Prints the settings that the model has: key, tab, caption and possible values. The projector is not asked.</source>
-        <translation>显示该型号具有的设置：键、选项卡、标题和可能的值。不会询问投影机。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>explain a setting</source>
-        <translation>说明一项设置</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Prints what a setting is: tab and caption, possible values with their codes, the models that have it, and whether it can be set, reset, and saved and restored.</source>
-        <translation>说明一项设置：所在选项卡和标题、可能的值及其代码、具有该设置的型号，以及能否设置、复位、保存和还原。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>print present values</source>
-        <translation>显示当前值</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Reads settings from the projectors and prints them; without a key, all of them.</source>
-        <translation>从投影机读取设置并显示；不指定键时读取全部设置。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>change settings</source>
-        <translation>更改设置</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Changes settings in the order given, reads each back, and prints the value before and after. All keys and values are checked for all projectors first; if a value is wrong for one, nothing is sent to any. A key that a projector does not have is reported, and does not stop the others.
 KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the form KEY VALUE, +3 and -3 are steps, and =-3 is a number below zero. &apos;acctl undo&apos; restores what was there before, except the power state and the results of actions.</source>
-        <translation>按给出的顺序更改设置，逐项读回，并显示更改前后的值。首先为所有投影机检查全部键和值；只要有一台的值有误，就不向任何投影机发送。某台投影机没有的键会报告出来，不影响其他投影机。
-KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VALUE 时，+3 和 -3 是步进，=-3 是负数。“acctl undo”可还原先前的值，但电源状态和操作的结果除外。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>reset settings to the projector&apos;s standard</source>
-        <translation>将设置复位为投影机的标准值</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>将设置复位为投影机自身的标准值，并显示复位后的值。计时器只能用完整的键复位，因为此操作无法撤消。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>print power, input, errors and hours</source>
-        <translation>显示电源、输入、错误和小时数</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Prints the status page of the projectors, or of all.</source>
-        <translation>显示指定的或全部投影机的状态页。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>save settings in files</source>
-        <translation>将设置保存到文件</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Saves every setting that can be restored: those of one projector in FILE (&apos;-&apos; is standard output), or those of any number in a folder, a file each. A file that is not a file of settings is not replaced without --force.</source>
-        <translation>保存所有可以还原的设置：一台投影机的设置保存到 FILE（“-”表示标准输出），任意多台的设置保存到文件夹，每台一个文件。不是设置文件的文件，没有 --force 时不会被替换。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>compare with saved settings</source>
-        <translation>与保存的设置比较</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Prints what differs from a file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder.</source>
-        <translation>显示与文件（“-”表示标准输入）或与文件夹中每台投影机各自文件的差异。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>restore saved settings</source>
-        <translation>还原保存的设置</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation>读取投影机，发送与文件（“-”表示标准输入）或与文件夹中每台投影机各自文件不同的设置，再读回。被替换的值会先保存下来，以便用“acctl undo”还原。中断的运行可随时重复。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>undo the last run of set or apply</source>
-        <translation>撤消上一次 set 或 apply 运行</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>在所有相关投影机上还原上一次“set”或“apply”替换的值，或还原 RUN 替换的值：“acctl undo --list”列出的名称，或一个文件。撤消本身也可以按其名称撤消。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>print values and every change</source>
-        <translation>显示值和每次变化</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Prints values, and then every change until it is interrupted, until nobody reads its output any more, or until all projectors have the value of --until. A projector that falls silent is tried again and again.</source>
-        <translation>先显示值，再显示每次变化，直到被中断、不再有程序读取其输出，或所有投影机都达到 --until 的值为止。无应答的投影机会反复重试。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>search the network for projectors</source>
-        <translation>在网络中搜索投影机</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Asks every PJLink projector of the network, or the addresses given, who it is. ADDRESSES are like 192.0.2.7, 192.0.2.0/24 or 192.0.2.10-40. Nothing is stored unless --add names a profile file.</source>
-        <translation>询问网络中的每台 PJLink 投影机，或给出的地址，是何投影机。ADDRESSES 的写法如 192.0.2.7、192.0.2.0/24 或 192.0.2.10-40。除非 --add 指定了配置文件，否则不保存任何内容。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>take projectors from a table</source>
-        <translation>从表格导入投影机</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Adds the rows of comma-separated values (&apos;-&apos; is standard input) to the profile file that --profiles or ACCTL_PROFILES names, and changes those that it has.</source>
-        <translation>将逗号分隔值的各行（“-”表示标准输入）添加到 --profiles 或 ACCTL_PROFILES 指定的配置文件，并更改其中已有的投影机。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>print projectors as a table</source>
-        <translation>以表格形式显示投影机</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Prints the projectors, or all, as comma-separated values, without passwords.</source>
-        <translation>以逗号分隔值显示指定的或全部投影机，不含密码。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>explain a command</source>
-        <translation>说明一个命令</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>one of = != &lt; &lt;= &gt; &gt;= is missing</source>
-        <translation>缺少 = != &lt; &lt;= &gt; &gt;= 之一</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>a value is missing</source>
-        <translation>缺少值</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>no model has such a setting</source>
-        <translation>没有任何型号具有此设置</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>only numbers are less or greater</source>
-        <translation>只有数字才能比较大小</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>no model has such a setting; acctl settings lists all keys</source>
-        <translation>没有任何型号具有此设置；acctl settings 可列出所有键</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>no model has such a setting; did you mean %1?</source>
-        <translation>没有任何型号具有此设置；您是指 %1 吗？</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1 to %2</source>
         <extracomment>A range of numbers.</extracomment>
-        <translation>%1 至 %2</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1 to %2, shown as %3</source>
-        <translation>%1 至 %2，显示为 %3</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>source %1: this is not kept for each source</source>
-        <translation>信号源 %1：此设置不按信号源分别保存</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>source %1 does not exist; there are %2</source>
-        <translation>信号源 %1 不存在；可用的有 %2</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>value %1 is not possible; possible are %2</source>
-        <translation>不能使用值 %1；可用的有 %2</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>text &quot;%1&quot; is not that of value %2, which is &quot;%3&quot;; change both, or remove the text</source>
-        <translation>文本“%1”不是值 %2 的文本（应为“%3”）；请同时更改两者，或删除文本</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Reads, changes, saves and restores the settings of projectors that the Advanced Control dialog shows. The projectors are those of a profile file.</source>
-        <translation>读取、更改、保存和还原“Advanced Control”对话框所显示的投影机设置。投影机取自配置文件。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>P selects projectors: a name, a pattern such as &apos;Lecture*&apos;, @TAG, or model=PATTERN. Several are separated by commas, and !P leaves projectors out. KEY is the key of a setting, a pattern such as &apos;picture.*&apos;, or a short name such as brightness, input or power, which is the same on all models. VALUE is a number as the dialog shows it, the text of an entry in any language of the dialog, or its code.</source>
-        <translation>P 选择投影机：名称、“Lecture*”这样的模式、@TAG 或 model=PATTERN。多个之间用逗号分隔，!P 排除投影机。KEY 是设置的键、“picture.*”这样的模式，或 brightness、input、power 这样在所有型号上都相同的短名称。VALUE 是对话框显示的数字、某一项在对话框任一语言中的文本，或其代码。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Done. Also if a projector in standby could not report everything, or accepted a change that has not taken effect yet.</source>
-        <translation>完成。待机的投影机未能报告全部内容，或已接受的更改尚未生效时也是如此。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Something was refused, a projector lacks a setting that was named, or a file or the output could not be read or written.</source>
-        <translation>有设置被拒绝，投影机没有指定的设置，或者无法读写文件或输出。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Wrong use: nothing was sent to any projector.</source>
-        <translation>用法错误：未向任何投影机发送内容。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>A projector did not answer or did not report its inputs, or another run of acctl used it.</source>
-        <translation>有投影机无应答或未报告其输入，或者正被另一个 acctl 使用。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Interrupted; the report says what was done.</source>
-        <translation>已中断；报告中说明已完成的部分。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Use: %1</source>
         <extracomment>Above the help of a command; %1 is how it is called.</extracomment>
-        <translation>用法：%1</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Options</source>
-        <translation>选项</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Commands</source>
-        <translation>命令</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Options of all commands; &apos;acctl help COMMAND&apos; lists its own, with examples</source>
-        <translation>所有命令的选项；“acctl help COMMAND”列出命令自己的选项及示例</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Examples</source>
-        <translation>示例</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Exit codes</source>
-        <translation>退出代码</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>number</source>
         <extracomment>A kind of setting: a value with a range.</extracomment>
-        <translation>数字</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>choice</source>
         <extracomment>A kind of setting: a list of entries.</extracomment>
-        <translation>选择</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>state</source>
         <extracomment>A kind of setting: on or off, or a counter.</extracomment>
-        <translation>状态</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>action</source>
         <extracomment>A kind of setting: something that the projector does once.</extracomment>
-        <translation>操作</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>short name: %1</source>
-        <translation>短名称：%1</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>tab</source>
         <extracomment>Of the dialog, on which the setting is.</extracomment>
-        <translation>选项卡</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>caption</source>
         <extracomment>Of the setting in the dialog.</extracomment>
-        <translation>标题</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>kind</source>
         <extracomment>What kind of setting it is: number, choice, state or action.</extracomment>
-        <translation>种类</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>values</source>
-        <translation>值</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>those that the projector reports</source>
-        <translation>投影机报告的值</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>commands</source>
-        <translation>命令</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>kept</source>
         <extracomment>The setting has a value of its own &quot;for each input source&quot;.</extracomment>
-        <translation>保存</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>for each input source</source>
-        <translation>按每个输入信号源分别</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>models</source>
-        <translation>型号</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
         <source>%n settings</source>
@@ -379,147 +378,147 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
     <message>
         <source>no profiles at %1; name a file with --profiles</source>
-        <translation>%1 处没有配置；请用 --profiles 指定文件</translation>
+        <translation>在 %1 找不到配置文件，请用 --profiles 指定文件</translation>
     </message>
     <message>
         <source>read the projectors from FILE</source>
-        <translation>从 FILE 读取投影机</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>only projectors in this state, such as &apos;power=on lamp-hours&gt;1500&apos;</source>
-        <translation>仅处于此状态的投影机，例如“power=on lamp-hours&gt;1500”</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>the projector is at ADDRESS; P gives only its model</source>
-        <translation>投影机位于 ADDRESS；P 只给出其型号</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>the port of the projectors that are searched; 4352 by default</source>
-        <translation>所搜索投影机的端口；默认为 4352</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>PJLink password; other users of this machine can see it here</source>
-        <translation>PJLink 密码；此计算机的其他用户可在此处看到它</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>the first line of FILE is the password</source>
-        <translation>FILE 的第一行是密码</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>output: text, json, jsonl (a line for each value or projector), tsv or value</source>
-        <translation>输出：text、json、jsonl（每个值或投影机一行）、tsv 或 value</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>the same as --format json</source>
-        <translation>与 --format json 相同</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>only names or keys, one a line</source>
-        <translation>只显示名称或键，每行一个</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>only settings that get, set, reset or watch can use</source>
-        <translation>只显示 get、set、reset 或 watch 可以使用的设置</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>only keys that match GLOB; may be repeated</source>
-        <translation>只使用与 GLOB 匹配的键；可重复使用</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>take KEY=VALUE lines from FILE (&apos;-&apos; is standard input)</source>
-        <translation>从 FILE 读取 KEY=VALUE 行（“-”表示标准输入）</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>save each projector in a file of its own in DIR</source>
-        <translation>将每台投影机保存到 DIR 中各自的文件</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>add what was found to the profile file FILE</source>
-        <translation>将找到的投影机添加到配置文件 FILE</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>print what would change, and change nothing</source>
-        <translation>显示将会更改的内容，但不更改</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>wait until the state is reached, up to TIME, such as 90s or 5m</source>
-        <translation>等待达到该状态，最长 TIME，例如 90s 或 5m</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>end when every projector has this value</source>
-        <translation>所有投影机都具有此值时结束</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>exit with 1 if something differs, with 2 if something could not be compared</source>
-        <translation>有差异时以 1 退出，有无法比较的内容时以 2 退出</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>skip what is wrong in FILE instead of sending nothing</source>
-        <translation>跳过 FILE 中的错误，而不是什么都不发送</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>apply: also the undo file of another projector; save: replace any file</source>
-        <translation>apply：也可用另一台投影机的撤消文件；save：替换任何文件</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>list the runs that can be undone</source>
-        <translation>列出可以撤消的运行</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>the folder for undo files</source>
-        <translation>撤消文件所在的文件夹</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>remove undo files older than N days; 30 by default, 0 keeps all</source>
-        <translation>删除早于 N 天的撤消文件；默认为 30，0 表示全部保留</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>projectors at once, 1 to 1024; by default 512 to read and 64 to change</source>
-        <translation>同时处理的投影机数，1 至 1024；默认读取时为 512，更改时为 64</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>time for one answer; 2 by default</source>
-        <translation>等待一次应答的时间；默认为 2</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>try a projector that does not answer N more times; 0 by default</source>
-        <translation>投影机无应答时再重试 N 次；默认为 0</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>begin no other projector after the first error</source>
-        <translation>出现第一个错误后不再开始处理其他投影机</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>time between two readings; 1 by default</source>
-        <translation>两次读取之间的时间；默认为 1</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>language of texts, such as de or zh-TW</source>
-        <translation>文本的语言，例如 de 或 zh-TW</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>this text; with a command, its own</source>
-        <translation>此文本；与命令一起使用时显示该命令的帮助</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>the version</source>
-        <translation>版本</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>cannot write: %1</source>
-        <translation>无法写入：%1</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not possible</source>
-        <translation>“%1”不可用</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>&apos;=&apos; is missing</source>
-        <translation>缺少“=”</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>there is no setting %1</source>
-        <translation>没有设置 %1</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>cannot read %1: %2</source>
@@ -528,95 +527,95 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     <message>
         <source>%1 of %2</source>
         <extracomment>Behind a bar: how many projectors are done, and how many there are.</extracomment>
-        <translation>%1/%2</translation>
+        <translation>%1，额定 %2</translation>
     </message>
     <message>
         <source>its first line is empty</source>
-        <translation>其第一行为空</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Password of %1: </source>
-        <translation>%1 的密码： </translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1 (simulated)</source>
-        <translation>%1（模拟）</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1 added, %2 moved, %3 known</source>
         <extracomment>Numbers of projectors: new ones, those with a new address, and those that the file has already.</extracomment>
-        <translation>添加 %1 台，移动 %2 台，已知 %3 台</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>needs a password</source>
-        <translation>需要密码</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>name the profile file with --profiles</source>
-        <translation>请用 --profiles 指定配置文件</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1 added, %2 known, %3 wrong</source>
         <extracomment>Numbers of projectors in a table: new ones, those that the file has already, and wrong rows.</extracomment>
-        <translation>添加 %1 台，已知 %2 台，错误 %3 行</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1: &apos;%2&apos; is not KEY=VALUE</source>
-        <translation>%1：“%2”不是 KEY=VALUE</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1: has no KEY=VALUE</source>
-        <translation>%1：没有 KEY=VALUE</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>this takes one projector, not %1</source>
-        <translation>此命令只用于一台投影机，而不是 %1 台</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>undone</source>
         <extracomment>Of a run of the program: somebody has undone it.</extracomment>
-        <translation>已撤消</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>cannot record in %1 that it is undone: %2</source>
-        <translation>无法在 %1 中记录已撤消：%2</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>another run of acctl works on it</source>
-        <translation>另一个 acctl 正在使用它</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>not begun, as another projector failed</source>
-        <translation>未开始，因为另一台投影机失败</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>simulated by acctl itself, nothing lasting was changed</source>
-        <translation>由 acctl 自行模拟，未作任何持久更改</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>interrupted; what was done is reported above</source>
-        <translation>已中断；上面报告了已完成的部分</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>in standby, left out: %1</source>
-        <translation>处于待机，已略过：%1</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>warming up, left out: %1</source>
-        <translation>正在预热，已略过：%1</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>cooling down, left out: %1</source>
-        <translation>正在冷却，已略过：%1</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>skipped, this projector does not offer it: %1</source>
-        <translation>已跳过，此投影机不提供：%1</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
         <source>%n projectors</source>
-        <translation>
-            <numerusform>%n 台投影机</numerusform>
+        <translation type="unfinished">
+            <numerusform></numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -645,7 +644,7 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
     <message>
         <source>accepted, but not so yet</source>
-        <translation>已接受，但尚未生效</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
         <source>%n refused</source>
@@ -655,18 +654,18 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
     <message numerus="yes">
         <source>%n busy</source>
-        <translation>
-            <numerusform>%n 项忙</numerusform>
+        <translation type="unfinished">
+            <numerusform></numerusform>
         </translation>
     </message>
     <message>
         <source>the projector is busy or in standby</source>
-        <translation>投影机忙或处于待机</translation>
+        <translation>投影机正忙或处于待机状态</translation>
     </message>
     <message numerus="yes">
         <source>%n unconfirmed</source>
-        <translation>
-            <numerusform>%n 项未确认</numerusform>
+        <translation type="unfinished">
+            <numerusform></numerusform>
         </translation>
     </message>
     <message>
@@ -675,48 +674,48 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
     <message numerus="yes">
         <source>%n not done</source>
-        <translation>
-            <numerusform>%n 项未完成</numerusform>
+        <translation type="unfinished">
+            <numerusform></numerusform>
         </translation>
     </message>
     <message>
         <source>skipped, this model does not have it</source>
-        <translation>已跳过，此型号没有该设置</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>skipped, this projector does not offer it</source>
-        <translation>已跳过，此投影机不提供该设置</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>skipped, it cannot be restored</source>
-        <translation>已跳过，无法还原</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>skipped, this model does not take it</source>
-        <translation>已跳过，此型号不接受该值</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>stopped at %1</source>
-        <translation>停在 %1</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
         <source>not sent, it is more than %n steps away</source>
-        <translation>
-            <numerusform>未发送，相距超过 %n 步</numerusform>
+        <translation type="unfinished">
+            <numerusform></numerusform>
         </translation>
     </message>
     <message>
         <source>refused, it is %1</source>
-        <translation>被拒绝，当前为 %1</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>it cannot be read now</source>
-        <translation>现在无法读取</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
         <source>%n not compared</source>
-        <translation>
-            <numerusform>%n 项未比较</numerusform>
+        <translation type="unfinished">
+            <numerusform></numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -727,7 +726,7 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
     <message>
         <source>nothing to do</source>
-        <translation>无需操作</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -735,140 +734,140 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
     <message numerus="yes">
         <source>skipped, PJLink does not have them: %n of the file&apos;s settings</source>
-        <translation>
-            <numerusform>已跳过，PJLink 不支持文件中的 %n 项设置</numerusform>
+        <translation type="unfinished">
+            <numerusform></numerusform>
         </translation>
     </message>
     <message>
         <source>%1; no more was sent</source>
-        <translation>%1；未再发送其他内容</translation>
+        <translation>%1；其余设置未发送</translation>
     </message>
     <message>
         <source>%1; nothing was sent</source>
-        <translation>%1；未发送任何内容</translation>
+        <translation>%1；未发送任何设置</translation>
     </message>
     <message>
         <source>%1: undoes a change of %2; --force applies it to %3</source>
-        <translation>%1：撤消的是 %2 的更改；用 --force 可应用于 %3</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>--only %1: the file has no such setting</source>
-        <translation>--only %1：文件中没有此设置</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1: there is no projector &apos;%2&apos;</source>
-        <translation>%1：没有投影机“%2”</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1: %2 is also of %3</source>
         <extracomment>Two files, and the projector that both are of.</extracomment>
-        <translation>%1：%2 也属于 %3</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1: the folder has no files of settings</source>
-        <translation>%1：文件夹中没有设置文件</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1: there is no file of it in %2</source>
-        <translation>%1：%2 中没有它的文件</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1: is not a file of settings; --force replaces it</source>
-        <translation>%1：不是设置文件；用 --force 可替换它</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1: there is no such file or folder</source>
-        <translation>%1：没有此文件或文件夹</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>name the projectors to which the file is applied</source>
-        <translation>请指定要应用该文件的投影机</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>one file is for one projector, not %1; -o names a folder</source>
-        <translation>一个文件只用于一台投影机，而不是 %1 台；请用 -o 指定文件夹</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>cannot make the folder %1</source>
-        <translation>无法创建文件夹 %1</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1; name an earlier run to undo that one</source>
-        <translation>%1；请指定更早的运行以将其撤消</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>there is no run to undo</source>
-        <translation>没有可以撤消的运行</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>there is no run &apos;%1&apos;; --list shows them</source>
-        <translation>没有运行“%1”；可用 --list 列出</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1: is no longer in the profile file</source>
-        <translation>%1：已不在配置文件中</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>cannot be read now, and is left out</source>
-        <translation>现在无法读取，已略过</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>nothing can be read, and nothing was written</source>
-        <translation>什么都无法读取，未写入任何内容</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
         <source>%n settings saved in %1</source>
-        <translation>
-            <numerusform>已将 %n 项设置保存到 %1</numerusform>
+        <translation type="unfinished">
+            <numerusform></numerusform>
         </translation>
     </message>
     <message>
         <source>there is no projector &apos;%1&apos;; acctl list shows all</source>
-        <translation>没有投影机“%1”；acctl list 可列出全部</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>refused, the projector is in standby</source>
-        <translation>被拒绝，投影机处于待机</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>refused, the projector is warming up</source>
-        <translation>被拒绝，投影机正在预热</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>refused, the projector is cooling down</source>
-        <translation>被拒绝，投影机正在冷却</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>refused, the projector is busy</source>
-        <translation>被拒绝，投影机忙</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>this cannot be undone: %1</source>
-        <translation>无法撤消：%1</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
         <source>stopped, %1 of %n steps accepted</source>
-        <translation>
-            <numerusform>已停止，%n 步中接受了 %1 步</numerusform>
+        <translation type="unfinished">
+            <numerusform></numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1; %2 of %n steps accepted</source>
-        <translation>
-            <numerusform>%1；%n 步中接受了 %2 步</numerusform>
+        <translation type="unfinished">
+            <numerusform></numerusform>
         </translation>
     </message>
     <message>
         <source>accepted, but not so yet, it is %1</source>
-        <translation>已接受，但尚未生效，当前为 %1</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1, it may have been changed, it is %2</source>
-        <translation>%1，可能已更改，当前为 %2</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1, it may have been changed</source>
-        <translation>%1，可能已更改</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>refused</source>
@@ -876,23 +875,23 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
     <message>
         <source>accepted, but %1</source>
-        <translation>已接受，但%1</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>not so in time, it is %1</source>
-        <translation>未能及时生效，当前为 %1</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>not so in time</source>
-        <translation>未能及时生效</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1:%2: not a line of an undo file</source>
-        <translation>%1:%2：不是撤消文件的行</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1: there is nothing to undo</source>
-        <translation>%1：没有可以撤消的内容</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>cannot write %1: %2</source>
@@ -904,11 +903,11 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
     <message>
         <source>unknown host name</source>
-        <translation>未知的主机名</translation>
+        <translation>主机名未知</translation>
     </message>
     <message>
         <source>not reachable</source>
-        <translation>无法访问</translation>
+        <translation>无法连接</translation>
     </message>
     <message>
         <source>connection lost</source>
@@ -916,7 +915,7 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
     <message>
         <source>answers are not understood</source>
-        <translation>无法理解其应答</translation>
+        <translation>无法理解应答</translation>
     </message>
     <message>
         <source>another version of the protocol</source>
@@ -924,7 +923,7 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
     <message>
         <source>password missing or wrong</source>
-        <translation>密码缺失或错误</translation>
+        <translation>缺少密码或密码错误</translation>
     </message>
     <message>
         <source>no answer</source>
@@ -932,67 +931,67 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
     <message>
         <source>no answer (%1)</source>
-        <translation>无应答（%1）</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>this model has no such setting</source>
-        <translation>此型号没有该设置</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>skipped, PJLink does not have it</source>
-        <translation>已跳过，PJLink 不支持</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>cannot be read now</source>
-        <translation>现在无法读取</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>this projector does not offer it</source>
-        <translation>此投影机不提供该设置</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>not read, the projector did not report its inputs</source>
-        <translation>未读取，投影机未报告其输入</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>PJLink does not have it</source>
-        <translation>PJLink 不支持该设置</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>this cannot be read</source>
-        <translation>无法读取该设置</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>this cannot be set</source>
-        <translation>无法设置该设置</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>this cannot be restored</source>
-        <translation>无法还原该设置</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>this cannot be reset</source>
-        <translation>无法复位该设置</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1, the projector is in standby</source>
-        <translation>%1，投影机处于待机</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1, the projector is warming up</source>
-        <translation>%1，投影机正在预热</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1, the projector is cooling down</source>
-        <translation>%1，投影机正在冷却</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>answers again</source>
-        <translation>恢复应答</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>--until: &apos;%1&apos; is not KEY=VALUE</source>
-        <translation>--until：“%1”不是 KEY=VALUE</translation>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1056,7 +1055,7 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
     <message>
         <source>The projectors are those of &lt;file&gt;.</source>
-        <translation>投影机取自&lt;文件&gt;。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>file</source>
@@ -1064,31 +1063,31 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
     <message>
         <source>Watch one of several shares: 2/5 is the second of five.</source>
-        <translation>监视若干份额之一：2/5 是五份中的第二份。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>share</source>
-        <translation>份额</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Watch only projectors with &lt;tag&gt;, or one of several.</source>
-        <translation>只监视带有&lt;标签&gt;或其中之一的投影机。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>tag</source>
-        <translation>标签</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Visit each projector every &lt;seconds&gt;, at least 5.</source>
-        <translation>每隔&lt;秒&gt;访问每台投影机，至少 5 秒。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>seconds</source>
-        <translation>秒</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Once a day, compare each projector with its snapshot in &lt;folder&gt;.</source>
-        <translation>每天一次，将每台投影机与&lt;文件夹&gt;中的快照比较。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>folder</source>
@@ -1096,99 +1095,99 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
     <message>
         <source>Listen at &lt;address&gt; for the status notices of projectors.</source>
-        <translation>在&lt;地址&gt;接收投影机的状态通知。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>address</source>
-        <translation>地址</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Serve metrics at &lt;address:port&gt;; &apos;none&apos; for nowhere.</source>
-        <translation>在&lt;地址:端口&gt;提供指标；“none”表示不提供。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>address:port</source>
-        <translation>地址:端口</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Write metrics to &lt;file&gt; every 15 seconds, for a collector of text files.</source>
-        <translation>每 15 秒将指标写入&lt;文件&gt;，供文本文件收集器使用。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Send messages to the MQTT broker at &lt;host:port&gt;.</source>
-        <translation>将消息发送到&lt;主机:端口&gt;的 MQTT 代理。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>host:port</source>
-        <translation>主机:端口</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Version of MQTT, 3 (3.1.1) or 5.</source>
-        <translation>MQTT 的版本，3（3.1.1）或 5。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>version</source>
-        <translation>版本</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The first line of &lt;file&gt; is the user at the broker.</source>
-        <translation>&lt;文件&gt;的第一行是代理的用户名。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The first line of &lt;file&gt; is the password at the broker.</source>
-        <translation>&lt;文件&gt;的第一行是代理的密码。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Encrypt, and trust the authorities that the system trusts.</source>
-        <translation>加密，并信任系统信任的证书颁发机构。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Encrypt, and trust the authorities in &lt;file&gt;.</source>
-        <translation>加密，并信任&lt;文件&gt;中的证书颁发机构。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The certificate of this client.</source>
-        <translation>此客户端的证书。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Its key.</source>
-        <translation>其密钥。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The first level of all topics.</source>
-        <translation>所有主题的第一级。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>topic</source>
-        <translation>主题</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The first level of discovery topics; &apos;none&apos; for no discovery.</source>
-        <translation>发现主题的第一级；“none”表示不发现。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Take the share of a bridge that has said nothing for &lt;seconds&gt;.</source>
-        <translation>桥接程序有&lt;秒&gt;未发出消息时，接管其份额。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Settings that may be commanded: keys or patterns, separated by commas; &apos;power&apos; is the power. Without it nothing may be.</source>
-        <translation>允许通过命令更改的设置：键或模式，用逗号分隔；“power”是电源。没有此选项则一概不允许。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>keys</source>
-        <translation>键</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Commands that each projector takes in a minute.</source>
-        <translation>每台投影机每分钟接受的命令数。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>n</source>
-        <translation>数目</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Names in discovery messages, and messages of this program, are in the language &lt;name&gt;, such as de or zh-TW.</source>
-        <translation>发现消息中的名称和此程序的消息使用语言&lt;名称&gt;，例如 de 或 zh-TW。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>name</source>
@@ -1196,19 +1195,19 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
     <message>
         <source>&apos;%1&apos; is no time from %2 seconds to a day</source>
-        <translation>“%1”不是从 %2 秒到一天的时间</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no topic</source>
-        <translation>“%1”不是主题</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no share such as 2/5</source>
-        <translation>“%1”不是 2/5 这样的份额</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no numeric address with a port</source>
-        <translation>“%1”不是带端口的数字地址</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>cannot read %1: %2</source>
@@ -1216,55 +1215,55 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
     <message>
         <source>%1 is empty</source>
-        <translation>%1 为空</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>--%1 needs --broker</source>
-        <translation>--%1 需要 --broker</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no host with a port</source>
-        <translation>“%1”不是带端口的主机</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>&apos;%1&apos; is neither 3 nor 5</source>
-        <translation>“%1”既不是 3 也不是 5</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>--cert-file and --key-file need each other</source>
-        <translation>--cert-file 和 --key-file 必须同时使用</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>--allow-commands: &apos;%1&apos; is no setting that may be commanded</source>
-        <translation>--allow-commands：“%1”不是可以通过命令更改的设置</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no number from 1 to %2</source>
-        <translation>“%1”不是从 1 到 %2 的数字</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Watches projectors, and tells a metrics store and a message broker of them.</source>
-        <translation>监视投影机，并向指标存储和消息代理报告其状态。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>unexpected argument &apos;%1&apos;</source>
-        <translation>意外的参数“%1”</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>--profiles is missing</source>
-        <translation>缺少 --profiles</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no numeric address</source>
-        <translation>“%1”不是数字地址</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no folder</source>
-        <translation>“%1”不是文件夹</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>there are no texts in &apos;%1&apos;</source>
-        <translation>“%1”中没有文本</translation>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1467,6 +1466,61 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
 </context>
 <context>
+    <name>ConnectionFields</name>
+    <message>
+        <source>&amp;Reached through</source>
+        <translation>连接方式(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Connect&amp;ion</source>
+        <translation>连接(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Address</source>
+        <translation>地址(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Port</source>
+        <translation>端口(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Pass&amp;word</source>
+        <translation>密码(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Port n&amp;umber</source>
+        <translation>串口号(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Device</source>
+        <translation>设备(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Baud</source>
+        <translation>波特率(&amp;B)</translation>
+    </message>
+    <message>
+        <source>As its family</source>
+        <translation>与系列相同</translation>
+    </message>
+    <message>
+        <source>Simulated</source>
+        <translation>模拟</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>网络</translation>
+    </message>
+    <message>
+        <source>Serial port</source>
+        <translation>串口</translation>
+    </message>
+    <message>
+        <source>%1 is no address.</source>
+        <translation>%1 不是有效地址。</translation>
+    </message>
+</context>
+<context>
     <name>ConnectionTest</name>
     <message>
         <source>&amp;Test Connection</source>
@@ -1629,32 +1683,32 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     <name>Discovery</name>
     <message>
         <source>Problem: fan</source>
-        <translation>问题：风扇</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Problem: lamp</source>
-        <translation>问题：灯泡</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Problem: temperature</source>
-        <translation>问题：温度</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Problem: cover</source>
-        <translation>问题：机盖</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Problem: filter</source>
-        <translation>问题：过滤网</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Problem: other</source>
         <extracomment>Any other problem of a projector.</extracomment>
-        <translation>问题：其他</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Reachable</source>
-        <translation>可访问</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Power</source>
@@ -1792,10 +1846,6 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <translation>请选择，或输入名称或代码的一部分</translation>
     </message>
     <message>
-        <source> %1 ms</source>
-        <translation> %1 毫秒</translation>
-    </message>
-    <message>
         <source>Po&amp;wer</source>
         <translation>电源(&amp;W)</translation>
     </message>
@@ -1810,6 +1860,11 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     <message>
         <source>%1: %2</source>
         <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1: %2, %3 ms</source>
+        <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
+        <translation>%1：%2，%3 毫秒</translation>
     </message>
 </context>
 <context>
@@ -2140,6 +2195,33 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
 </context>
 <context>
+    <name>ModelFields</name>
+    <message>
+        <source>&amp;Family</source>
+        <translation>系列(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Model</source>
+        <translation>型号(&amp;M)</translation>
+    </message>
+    <message>
+        <source>All &amp;fields of the model</source>
+        <translation>显示机型的全部字段(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Dialog &amp;type</source>
+        <translation>对话框类型(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Model cod&amp;e</source>
+        <translation>型号代码(&amp;E)</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+</context>
+<context>
     <name>Notify</name>
     <message>
         <source>Advanced Control</source>
@@ -2156,24 +2238,24 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     <message>
         <source>Projector Settings</source>
         <extracomment>What kind of program it is, in the menu.</extracomment>
-        <translation>投影机设置</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Read and change the settings of projectors</source>
-        <translation>读取和更改投影机的设置</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>projector;beamer;brightness;keystone;</source>
         <extracomment>Words that people may search for, each with a semicolon behind it; as many as are useful.</extracomment>
-        <translation>投影机;投影仪;亮度;梯形校正;</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>A list that shows how hundreds of projectors are and changes many of them at once, and for each of them a dialog with a tab per group of settings. Every value is read live from the projector, and every change is sent at once. A log shows each command and its result.</source>
-        <translation>列表显示数百台投影机的状态，并可同时更改多台；每台投影机都有一个对话框，每组设置一个选项卡。每个值都从投影机实时读取，每次更改都立即发送。日志显示每条命令及其结果。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Projectors can be simulated, with faults that are set by hand.</source>
-        <translation>可以模拟投影机，并手动设置故障。</translation>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2351,40 +2433,12 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
 <context>
     <name>ProfileActions</name>
     <message>
-        <source>&amp;Open Profiles…</source>
-        <translation>打开配置文件(&amp;O)…</translation>
-    </message>
-    <message>
-        <source>&amp;Reload</source>
-        <translation>重新加载(&amp;R)</translation>
-    </message>
-    <message>
-        <source>&amp;Save Profiles As…</source>
-        <translation>配置文件另存为(&amp;S)…</translation>
-    </message>
-    <message>
         <source>&amp;Add…</source>
         <translation>添加(&amp;A)…</translation>
     </message>
     <message>
         <source>&amp;Edit…</source>
         <translation>编辑(&amp;E)…</translation>
-    </message>
-    <message>
-        <source>Open Profiles</source>
-        <translation>打开配置文件</translation>
-    </message>
-    <message>
-        <source>Profiles (*.json);;All files (*)</source>
-        <translation>配置文件 (*.json);;所有文件 (*)</translation>
-    </message>
-    <message>
-        <source>Reload</source>
-        <translation>重新加载</translation>
-    </message>
-    <message>
-        <source>Save Profiles As</source>
-        <translation>配置文件另存为</translation>
     </message>
     <message>
         <source>Duplicate</source>
@@ -2401,18 +2455,6 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     <message>
         <source>Remove</source>
         <translation>移除</translation>
-    </message>
-    <message>
-        <source>This could not be done; nothing was changed.</source>
-        <translation>操作未能完成，未作任何更改。</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>撤销(&amp;U)</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>重做(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Duplicate…</source>
@@ -2498,80 +2540,12 @@ a minus in front takes a tag away:</source>
         <translation>名称(&amp;N)</translation>
     </message>
     <message>
-        <source>&amp;Model</source>
-        <translation>型号(&amp;M)</translation>
-    </message>
-    <message>
-        <source>Dialog &amp;type</source>
-        <translation>对话框类型(&amp;T)</translation>
-    </message>
-    <message>
-        <source>Model cod&amp;e</source>
-        <translation>型号代码(&amp;E)</translation>
-    </message>
-    <message>
         <source>Add Projector</source>
         <translation>添加投影机</translation>
     </message>
     <message>
         <source>Edit Projector</source>
         <translation>编辑投影机</translation>
-    </message>
-    <message>
-        <source>None</source>
-        <translation>无</translation>
-    </message>
-    <message>
-        <source>&amp;Family</source>
-        <translation>系列(&amp;F)</translation>
-    </message>
-    <message>
-        <source>As its family</source>
-        <translation>与系列相同</translation>
-    </message>
-    <message>
-        <source>Network</source>
-        <translation>网络</translation>
-    </message>
-    <message>
-        <source>Serial port</source>
-        <translation>串口</translation>
-    </message>
-    <message>
-        <source>Connect&amp;ion</source>
-        <translation>连接(&amp;I)</translation>
-    </message>
-    <message>
-        <source>&amp;Address</source>
-        <translation>地址(&amp;A)</translation>
-    </message>
-    <message>
-        <source>&amp;Port</source>
-        <translation>端口(&amp;P)</translation>
-    </message>
-    <message>
-        <source>Port n&amp;umber</source>
-        <translation>串口号(&amp;U)</translation>
-    </message>
-    <message>
-        <source>&amp;Baud</source>
-        <translation>波特率(&amp;B)</translation>
-    </message>
-    <message>
-        <source>Simulated</source>
-        <translation>模拟</translation>
-    </message>
-    <message>
-        <source>&amp;Reached through</source>
-        <translation>连接方式(&amp;R)</translation>
-    </message>
-    <message>
-        <source>Pass&amp;word</source>
-        <translation>密码(&amp;W)</translation>
-    </message>
-    <message>
-        <source>&amp;Device</source>
-        <translation>设备(&amp;D)</translation>
     </message>
     <message>
         <source>Still to be filled in: %1</source>
@@ -2582,24 +2556,8 @@ a minus in front takes a tag away:</source>
         <translation>%1：%2</translation>
     </message>
     <message>
-        <source>All &amp;fields of the model</source>
-        <translation>显示机型的全部字段(&amp;F)</translation>
-    </message>
-    <message>
-        <source>Save Profiles As…</source>
-        <translation>另存配置文件…</translation>
-    </message>
-    <message>
-        <source>%1 cannot be changed.</source>
-        <translation>无法修改 %1。</translation>
-    </message>
-    <message>
         <source>Duplicate Projector</source>
         <translation>复制投影机</translation>
-    </message>
-    <message>
-        <source>%1 is no address.</source>
-        <translation>%1 不是有效地址。</translation>
     </message>
 </context>
 <context>
@@ -2734,6 +2692,64 @@ a minus in front takes a tag away:</source>
     </message>
 </context>
 <context>
+    <name>ProfileFileActions</name>
+    <message>
+        <source>&amp;Open Profiles…</source>
+        <translation>打开配置文件(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>重新加载(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Save Profiles As…</source>
+        <translation>配置文件另存为(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>Open Profiles</source>
+        <translation>打开配置文件</translation>
+    </message>
+    <message>
+        <source>Profiles (*.json);;All files (*)</source>
+        <translation>配置文件 (*.json);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>重新加载</translation>
+    </message>
+    <message>
+        <source>Save Profiles As</source>
+        <translation>配置文件另存为</translation>
+    </message>
+    <message>
+        <source>Read-Only File</source>
+        <translation>只读文件</translation>
+    </message>
+    <message>
+        <source>%1 cannot be changed. Save the profiles in another file first.</source>
+        <translation>无法更改 %1。请先将配置另存为其他文件。</translation>
+    </message>
+    <message>
+        <source>Save Profiles As…</source>
+        <translation>另存配置文件…</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileHistory</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>撤销(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>重做(&amp;R)</translation>
+    </message>
+    <message>
+        <source>This could not be done; nothing was changed.</source>
+        <translation>操作未能完成，未作任何更改。</translation>
+    </message>
+</context>
+<context>
     <name>Program</name>
     <message>
         <source>no profiles at %1; name a file with --profiles</source>
@@ -2779,14 +2795,10 @@ a minus in front takes a tag away:</source>
     </message>
 </context>
 <context>
-    <name>ProjectorTableModel</name>
+    <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
         <translation>名称</translation>
-    </message>
-    <message>
-        <source>Model</source>
-        <translation>型号</translation>
     </message>
     <message>
         <source>State</source>
@@ -2807,6 +2819,10 @@ a minus in front takes a tag away:</source>
     <message>
         <source>Problem</source>
         <translation>故障</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>型号</translation>
     </message>
     <message>
         <source>Place</source>
@@ -3214,26 +3230,26 @@ a minus in front takes a tag away:</source>
     <name>Simulator</name>
     <message>
         <source>--control: the port cannot be had</source>
-        <translation>--control：无法使用该端口</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>there is no projector &apos;%1&apos;</source>
-        <translation>没有投影机“%1”</translation>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>SimulatorArguments</name>
     <message>
         <source>&apos;%1&apos; is no port.</source>
-        <translation>“%1”不是端口。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no number from %2 to %3.</source>
-        <translation>“%1”不是从 %2 到 %3 的数字。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no time up to an hour.</source>
-        <translation>“%1”不是一小时以内的时间。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Display this help.</source>
@@ -3241,7 +3257,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Serve the projectors of &lt;file&gt;.</source>
-        <translation>提供&lt;文件&gt;中的投影机。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>file</source>
@@ -3249,7 +3265,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Serve only the projector &lt;name&gt;; may be given several times.</source>
-        <translation>只提供投影机&lt;名称&gt;；可以多次使用。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>name</source>
@@ -3257,143 +3273,143 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Listen on &lt;address&gt; instead of 127.0.0.1; with --fleet, the address of the first projector instead of 127.64.0.1.</source>
-        <translation>在&lt;地址&gt;而不是 127.0.0.1 上监听；与 --fleet 一起使用时，是第一台投影机的地址，代替 127.64.0.1。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>address</source>
-        <translation>地址</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The first projector is at port &lt;n&gt;, the others at those that follow; 0, as without it, takes any that are free. With --fleet, &lt;n&gt; is the port of every projector for our own protocol, and the next one for PJLink.</source>
-        <translation>第一台投影机使用端口&lt;数目&gt;，其他投影机使用其后的端口；0 或不指定时，使用任何空闲端口。与 --fleet 一起使用时，&lt;数目&gt;是每台投影机自有协议的端口，其下一个端口用于 PJLink。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>n</source>
-        <translation>数目</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>PJLink asks for &lt;text&gt;.</source>
-        <translation>PJLink 要求输入&lt;文本&gt;。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>text</source>
-        <translation>文本</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Serve each projector on a pseudo terminal too.</source>
-        <translation>同时在伪终端上提供每台投影机。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Begin with a fault: %1. Of a share of the projectors: &apos;silent 5%&apos;. May be given several times.</source>
-        <translation>以故障开始：%1。对一部分投影机：“silent 5%”。可以多次使用。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>fault</source>
-        <translation>故障</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Everything that is left to chance depends on &lt;n&gt;.</source>
-        <translation>所有随机内容都取决于&lt;数目&gt;。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Listen at port &lt;n&gt; of the loopback address for faults, a line each: projector&apos;s number from 1, or *, and the fault.</source>
-        <translation>在环回地址的端口&lt;数目&gt;接收故障，每行一个：投影机的编号（从 1 开始）或 *，以及故障。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Write profiles that lead a host to the served projectors to &lt;file&gt;.</source>
-        <translation>将主机访问所提供投影机的配置写入&lt;文件&gt;。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Serve &lt;n&gt; projectors, made after those of the profiles, each at a loopback address of its own.</source>
-        <translation>仿照配置中的投影机提供&lt;数目&gt;台投影机，每台各有一个环回地址。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Of a fleet: what --write-profiles uses; pjlink, network or mixed.</source>
-        <translation>投影机群：--write-profiles 使用的方式；pjlink、network 或 mixed。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>way</source>
-        <translation>方式</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Of a fleet: seconds until a projector is on.</source>
-        <translation>投影机群：投影机开启所需的秒数。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>seconds</source>
-        <translation>秒</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Of a fleet: seconds until a projector is in standby.</source>
-        <translation>投影机群：投影机进入待机所需的秒数。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Of a fleet: so many changes of state in a second happen by themselves.</source>
-        <translation>投影机群：每秒自行发生的状态变化数。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Of a fleet: send PJLink&apos;s status notices to this address.</source>
-        <translation>投影机群：将 PJLink 的状态通知发送到此地址。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>address:port</source>
-        <translation>地址:端口</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Of a fleet: at the end, write how often each projector was asked to &lt;file&gt;.</source>
-        <translation>投影机群：结束时将每台投影机被询问的次数写入&lt;文件&gt;。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Help and errors are in the language &lt;name&gt;, such as de or zh-TW.</source>
-        <translation>帮助和错误使用语言&lt;名称&gt;，例如 de 或 zh-TW。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Serves simulated projectors over TCP, PJLink and pseudo terminals. Prints an address a line, then &quot;ready&quot;.</source>
-        <translation>通过 TCP、PJLink 和伪终端提供模拟投影机。每行显示一个地址，然后显示“ready”。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Unexpected argument &apos;%1&apos;.</source>
-        <translation>意外的参数“%1”。</translation>
+        <translation>多余的参数“%1”。</translation>
     </message>
     <message>
         <source>--%1 needs --fleet.</source>
-        <translation>--%1 需要 --fleet。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no address.</source>
-        <translation>“%1”不是地址。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>--password: is longer than %1 bytes.</source>
-        <translation>--password：超过 %1 字节。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>--fault: &apos;%1&apos; is none of %2.</source>
-        <translation>--fault：“%1”不在 %2 中。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>--fleet has no serial lines.</source>
-        <translation>--fleet 没有串行线路。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no IPv4 loopback address.</source>
-        <translation>“%1”不是 IPv4 环回地址。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>&apos;%1&apos; leaves too few addresses.</source>
-        <translation>“%1”剩余的地址太少。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>&apos;%1&apos; leaves none for PJLink.</source>
-        <translation>“%1”没有给 PJLink 留下端口。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no IPv4 loopback address with a port.</source>
-        <translation>“%1”不是带端口的 IPv4 环回地址。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>&apos;%1&apos; is none of pjlink, network and mixed.</source>
-        <translation>“%1”不是 pjlink、network 或 mixed。</translation>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3632,10 +3648,6 @@ a minus in front takes a tag away:</source>
         <translation>表格 (*.csv *.tsv *.txt);;所有文件 (*)</translation>
     </message>
     <message>
-        <source>%1 added, %2 already known, %3 rows not taken.</source>
-        <translation>添加 %1 台，%2 台已存在，%3 行未导入。</translation>
-    </message>
-    <message>
         <source>Line %1: %2</source>
         <translation>第 %1 行：%2</translation>
     </message>
@@ -3651,16 +3663,27 @@ a minus in front takes a tag away:</source>
         <source>Tables (*.csv);;All files (*)</source>
         <translation>表格 (*.csv);;所有文件 (*)</translation>
     </message>
-</context>
-<context>
-    <name>WholeFile</name>
-    <message>
-        <source>cannot write %1: %2</source>
-        <translation>无法写入 %1：%2</translation>
+    <message numerus="yes">
+        <source>%n projectors added</source>
+        <translation>
+            <numerusform>已添加 %n 台投影机</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n already known</source>
+        <translation>
+            <numerusform>%n 台已存在</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rows not taken</source>
+        <translation>
+            <numerusform>%n 行未导入</numerusform>
+        </translation>
     </message>
 </context>
 <context>
-    <name>WorkActions</name>
+    <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
         <translation>开机(&amp;N)</translation>
@@ -3685,9 +3708,21 @@ a minus in front takes a tag away:</source>
         <source>Blank the Picture</source>
         <translation>图像消隐</translation>
     </message>
+    <message numerus="yes">
+        <source>Blank the picture of %n projectors?</source>
+        <translation>
+            <numerusform>要对 %n 台投影机消隐画面吗？</numerusform>
+        </translation>
+    </message>
     <message>
         <source>Show the Picture</source>
         <translation>显示图像</translation>
+    </message>
+    <message numerus="yes">
+        <source>Show the picture of %n projectors?</source>
+        <translation>
+            <numerusform>要对 %n 台投影机显示画面吗？</numerusform>
+        </translation>
     </message>
     <message>
         <source>&amp;Mute</source>
@@ -3697,9 +3732,21 @@ a minus in front takes a tag away:</source>
         <source>Mute the Sound</source>
         <translation>静音</translation>
     </message>
+    <message numerus="yes">
+        <source>Mute the sound of %n projectors?</source>
+        <translation>
+            <numerusform>要对 %n 台投影机静音吗？</numerusform>
+        </translation>
+    </message>
     <message>
         <source>Unmute the Sound</source>
         <translation>取消静音</translation>
+    </message>
+    <message numerus="yes">
+        <source>Unmute the sound of %n projectors?</source>
+        <translation>
+            <numerusform>要对 %n 台投影机取消静音吗？</numerusform>
+        </translation>
     </message>
     <message>
         <source>Free&amp;ze</source>
@@ -3709,9 +3756,21 @@ a minus in front takes a tag away:</source>
         <source>Freeze the Picture</source>
         <translation>冻结画面</translation>
     </message>
+    <message numerus="yes">
+        <source>Freeze the picture of %n projectors?</source>
+        <translation>
+            <numerusform>要对 %n 台投影机冻结画面吗？</numerusform>
+        </translation>
+    </message>
     <message>
         <source>Release the Picture</source>
         <translation>取消冻结</translation>
+    </message>
+    <message numerus="yes">
+        <source>Release the picture of %n projectors?</source>
+        <translation>
+            <numerusform>要对 %n 台投影机解除冻结吗？</numerusform>
+        </translation>
     </message>
     <message>
         <source>Switch On</source>
@@ -3720,54 +3779,6 @@ a minus in front takes a tag away:</source>
     <message>
         <source>Switch Off</source>
         <translation>关机</translation>
-    </message>
-    <message>
-        <source>Input %1</source>
-        <translation>信号源 %1</translation>
-    </message>
-    <message>
-        <source>No inputs are known</source>
-        <translation>没有已知的信号源</translation>
-    </message>
-    <message>
-        <source>%1, %2: %3</source>
-        <translation>%1，%2：%3</translation>
-    </message>
-    <message numerus="yes">
-        <source>Blank the picture of %n projectors?</source>
-        <translation>
-            <numerusform>将 %n 台投影机的画面设为空白？</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Show the picture of %n projectors?</source>
-        <translation>
-            <numerusform>显示 %n 台投影机的画面？</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Mute the sound of %n projectors?</source>
-        <translation>
-            <numerusform>将 %n 台投影机的声音静音？</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Unmute the sound of %n projectors?</source>
-        <translation>
-            <numerusform>恢复 %n 台投影机的声音？</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Freeze the picture of %n projectors?</source>
-        <translation>
-            <numerusform>冻结 %n 台投影机的画面？</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Release the picture of %n projectors?</source>
-        <translation>
-            <numerusform>解除 %n 台投影机的画面冻结？</numerusform>
-        </translation>
     </message>
     <message numerus="yes">
         <source>Switch on %n projectors?</source>
@@ -3781,11 +3792,33 @@ a minus in front takes a tag away:</source>
             <numerusform>要关闭 %n 台投影机吗？</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Input %1</source>
+        <translation>信号源 %1</translation>
+    </message>
     <message numerus="yes">
         <source>Choose the input %1 on %n projectors?</source>
         <translation>
             <numerusform>要将 %n 台投影机切换到信号源 %1 吗？</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>No inputs are known</source>
+        <translation>没有已知的信号源</translation>
+    </message>
+</context>
+<context>
+    <name>WholeFile</name>
+    <message>
+        <source>cannot write %1: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>WorkActions</name>
+    <message>
+        <source>%1, %2: %3</source>
+        <translation>%1，%2：%3</translation>
     </message>
 </context>
 <context>

@@ -9,8 +9,8 @@
 
 class DriftCheck;
 class FleetWatch;
-class ProfileActions;
 class ProfileDocument;
+class ProfileHistory;
 class QAction;
 class QMenu;
 class WorkActions;
@@ -28,7 +28,7 @@ class PresetActions : public QObject {
     FleetWatch& watch;
     WorkActions& work;
     ProfileDocument& document;
-    ProfileActions& edits;
+    ProfileHistory& edits;
     QWidget& window;
   };
 

@@ -131,7 +131,7 @@ TEST_F(SimulatorTest, TheListShowsTheStateOfEveryConnection) {
   window.show();
   const auto& model = window.findChild<ProjectorView*>()->Model();
   const auto comesTo = [&model](int row, const QString& state) {
-    const auto shown = [&] { return model.index(row, ProjectorTableModel::State).data(); };
+    const auto shown = [&] { return model.index(row, ProjectorColumns::State).data(); };
     const auto isSo = [&] { return shown().toString() == state; };
     EXPECT_TRUE(Soon(isSo)) << row << ": " << shown().toString().toStdString();
   };

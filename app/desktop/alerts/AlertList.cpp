@@ -1,6 +1,9 @@
 #include "app/desktop/alerts/AlertList.h"
 
 #include <algorithm>
+#include <map>
+#include <string_view>
+#include <utility>
 
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -65,12 +68,17 @@ void AlertList::Look(const std::vector<ProjectorRow>& rows, WallTime now) {
   bool hasChanged =
       std::erase_if(alerts_, [&](const auto& one) { return !present.contains(one.first); }) > 0;
   QStringList raised;
+  std::map<std::string_view, const ProjectorRow*> rowsById;
+  if (!present.empty())
+    for (const ProjectorRow& row : rows) rowsById.emplace(row.id, &row);
   for (const Alert& alert : present) {
     const auto [entry, isNew] = alerts_.try_emplace(alert);
-    if (!isNew) continue;
-    const auto row = std::ranges::find(rows, alert.id, &ProjectorRow::id);
-    entry->second = {.text = TextOf(alert, *row), .since = QDateTime::currentDateTime()};
-    raised += entry->second.text;
+    if (isNew) entry->second.since = QDateTime::currentDateTime();
+    // Hours and numbers of settings change while the alert stays.
+    QString text = TextOf(alert, *rowsById.at(alert.id));
+    if (entry->second.text == text) continue;
+    entry->second.text = std::move(text);
+    if (isNew) raised += entry->second.text;
     hasChanged = true;
   }
   if (!hasChanged) return;

@@ -119,8 +119,8 @@ void ListPane::ShowDetails() {
 }
 
 // The fleet does not report an answer that changes nothing. So the times of the last answers are
-// fetched here, of the rows in sight each time and of the others in turn: sorting and the status bar
-// need those too.
+// fetched here, of the rows in sight each time and of the others in turn: sorting and the status
+// bar need those too.
 void ListPane::Count() {
   std::vector<std::string> ids;
   for (const int position : view_->InSight())

@@ -72,6 +72,9 @@ void Fleet::Remove(const std::string& id) {
 void Fleet::SetAsking(bool asks) {
   Change([&] { watcher_->SetAsking(asks); });
 }
+void Fleet::SetInterval(std::chrono::milliseconds interval) {
+  Change([&] { watcher_->SetInterval(interval); });
+}
 void Fleet::Learn(const std::string& id, const PjtCommand& command, const PjtReply& reply,
                   std::optional<PowerState> power) {
   Change([&] { watcher_->Learn(id, command, reply, power); });

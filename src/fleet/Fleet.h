@@ -1,6 +1,7 @@
 #pragma once
 
 #include <atomic>
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <mutex>
@@ -42,6 +43,8 @@ class PROJECTOR_FLEET_EXPORT Fleet {
 
   /// Ends all visits and begins none until asking is switched on again, as it is at first.
   void SetAsking(bool asks);
+  /// Replaces `FleetPolicy::interval`, for the pauses under way, too.
+  void SetInterval(std::chrono::milliseconds interval);
 
   /// While an object of this class exists, the fleet does not visit the projector, so that another
   /// connection can be used. It must not outlive the fleet.

@@ -77,6 +77,15 @@ void FleetWatcher::SetAsking(bool asks) {
   }
 }
 
+void FleetWatcher::SetInterval(std::chrono::milliseconds interval) {
+  policy_.interval = interval;
+  for (const auto& [id, peer] : peers_) {
+    if (watched_[peer]->visit) continue;  // its end sets the next pause
+    watched_[peer]->schedule.Adapt(policy_);
+    Schedule(peer);
+  }
+}
+
 void FleetWatcher::Pause(const std::string& id) {
   Watched* const watched = Find(id);
   if (watched == nullptr) return;

@@ -41,6 +41,7 @@ class FleetWatcher final : public FleetNetwork::Listener {
   void Set(FleetTarget target);
   void Remove(const std::string& id);
   void SetAsking(bool asks);
+  void SetInterval(std::chrono::milliseconds interval);
 
   // Of a projector that is not in the fleet these do nothing.
 
@@ -98,7 +99,7 @@ class FleetWatcher final : public FleetNetwork::Listener {
   void ClearTimer(Peer peer);
   void Apply(Watched& watched, LiveState state);
 
-  const FleetPolicy policy_;
+  FleetPolicy policy_;
   FleetNetwork& network_;
   const FleetClock& clock_;
   AskSchedule::Random random_;

@@ -26,6 +26,15 @@ constexpr Failure kFailures[] = {
     {Outcome::Unknown, "the model does not have it"},
 };
 
+std::shared_ptr<const std::vector<SettingResult>> NotAlreadySo(const Restoration& restoration) {
+  std::vector<SettingResult> results;
+  for (const RestoredSetting& restored : restoration.Settings()) {
+    if (restored.outcome == Outcome::AlreadySo) continue;
+    results.push_back({restored.saved, restored.outcome, restored.before});
+  }
+  return std::make_shared<const std::vector<SettingResult>>(std::move(results));
+}
+
 const Snapshot* SnapshotOf(const SnapshotsById& snapshots, const std::string& id) {
   const auto found = snapshots.find(id);
   return found == snapshots.end() ? nullptr : found->second.get();
@@ -98,7 +107,9 @@ WorkResult ProjectorWork::Do(const TakeSnapshots&) {
   if (taken.settings.empty() && !unread.empty()) {
     return Refused("the projector reports none of its settings now");
   }
-  return {.outcome = WorkOutcome::Done, .snapshot = std::move(taken)};
+  return {.outcome = WorkOutcome::Done,
+          .snapshot = std::move(taken),
+          .unread = static_cast<int>(unread.size())};
 }
 
 WorkResult ProjectorWork::Do(const ApplySnapshots& apply) {
@@ -113,7 +124,12 @@ WorkResult ProjectorWork::Do(const CompareSnapshots& compare) {
   restoration.Read(progress_);
   if (IsGone()) return Unanswered();
   if (!goesOn_()) return {.outcome = WorkOutcome::Stopped};
-  return {.outcome = WorkOutcome::Done, .differing = restoration.Count(Outcome::Differs)};
+  // One that reports nothing now, as in standby, is not known to be as it should be.
+  const int differing = restoration.Count(Outcome::Differs);
+  const bool isKnown = differing + restoration.Count(Outcome::AlreadySo) > 0;
+  return {.outcome = WorkOutcome::Done,
+          .differing = isKnown ? std::optional(differing) : std::nullopt,
+          .settings = NotAlreadySo(restoration)};
 }
 
 WorkResult ProjectorWork::Apply(const Snapshot& snapshot) {
@@ -143,7 +159,11 @@ WorkResult ProjectorWork::OutcomeOf(const Restoration& restoration) const {
   for (const auto& [outcome, reason] : kFailures) {
     for (const auto* const all : {&restoration.Beforehand(), &restoration.Settings()}) {
       const auto failed = std::ranges::find(*all, outcome, &RestoredSetting::outcome);
-      if (failed != all->end()) return Refused(failed->saved.key + ": " + reason);
+      if (failed == all->end()) continue;
+      WorkResult result = Refused(failed->saved.key + ": " + reason);
+      if (failed->setting != nullptr)
+        result.setting = texts_.Name(settings_, *failed->setting, failed->saved.source);
+      return result;
     }
   }
   if (restoration.Count(Outcome::Pending) > 0) return {.outcome = WorkOutcome::Pending};

@@ -25,7 +25,9 @@
 
 #include "app/desktop/Mnemonic.h"
 #include "app/desktop/Modal.h"
+#include "app/desktop/log/SettingNames.h"
 #include "fleet/WholeFile.h"
+#include "toolkit/CComboBox.h"
 #include "toolkit/Icons.h"
 #include "toolkit/IsolatedText.h"
 
@@ -35,9 +37,13 @@ constexpr int kLeastFilter = 14;  // characters
 constexpr auto kGatherTime = std::chrono::milliseconds(40);
 
 // The widest usual text of each column.
-constexpr std::array<const char*, CommandLogModel::ColumnCount> kWidthSamples{
-    "00:00:00.000", "Projector 5-30 b", "Get User Gamma Point 8 0x30B1 ",
-    "0xFFFF",       "not offered",      "2000.0"};
+constexpr std::array<const char*, CommandLogModel::ColumnCount> kWidthSamples{"00:00:00.000",
+                                                                              "Projector 5-30 b",
+                                                                              "Digital Keystone V",
+                                                                              "ExecAutoKeyStone",
+                                                                              "Standard (12345)",
+                                                                              "not offered",
+                                                                              "2000.0"};
 
 QToolButton* ButtonOf(QAction* action) {
   action->setIconText(WithoutMnemonic(action->text()));
@@ -92,7 +98,8 @@ CommandLog::CommandLog(QWidget* parent)
       errorsOnly_(new QAction(tr("&Errors Only"), this)),
       saveAs_(new QAction(tr("Save &Log As…"), this)),
       clear_(new QAction(tr("Clea&r Log…"), this)),
-      filter_(new QLineEdit) {
+      filter_(new QLineEdit),
+      projectors_(new CComboBox) {
   shown_->setSourceModel(model_);
   view_->setModel(shown_);
   view_->setItemDelegate(new Cells(view_));
@@ -115,12 +122,16 @@ CommandLog::CommandLog(QWidget* parent)
   view_->addActions({changesOnly_, errorsOnly_, saveAs_, clear_});
   view_->setContextMenuPolicy(Qt::ActionsContextMenu);
 
-  filter_->setPlaceholderText(tr("Projector, command or result"));
+  filter_->setPlaceholderText(tr("Projector, setting, command or result"));
   filter_->setAccessibleName(tr("Filter the log"));
   filter_->setClearButtonEnabled(true);
   filter_->setMinimumWidth(filter_->fontMetrics().averageCharWidth() * kLeastFilter);
   auto* head = new QHBoxLayout;
+  projectors_->addItem(tr("All projectors"));
+  projectors_->Select(0);
+  projectors_->setAccessibleName(tr("Show the commands of"));
   head->addWidget(filter_, 1);
+  head->addWidget(projectors_);
   for (QAction* action : {changesOnly_, errorsOnly_, saveAs_, clear_})
     head->addWidget(ButtonOf(action));
   auto* layout = new QVBoxLayout(this);
@@ -131,6 +142,9 @@ CommandLog::CommandLog(QWidget* parent)
   connect(changesOnly_, &QAction::toggled, shown_, &CommandLogFilter::ShowChangesOnly);
   connect(errorsOnly_, &QAction::toggled, shown_, &CommandLogFilter::ShowErrorsOnly);
   connect(filter_, &QLineEdit::textChanged, shown_, &CommandLogFilter::ShowOnly);
+  connect(projectors_, &QComboBox::activated, this, [this](int chosen) {
+    shown_->ShowProjector(chosen == 0 ? QString() : projectors_->itemText(chosen));
+  });
   connect(copy, &QAction::triggered, this, &CommandLog::CopySelected);
   connect(saveAs_, &QAction::triggered, this, &CommandLog::AskAndSave);
   connect(clear_, &QAction::triggered, this, &CommandLog::AskAndClear);
@@ -138,6 +152,8 @@ CommandLog::CommandLog(QWidget* parent)
   gather_.setInterval(kGatherTime);
   connect(&gather_, &QTimer::timeout, this, &CommandLog::ShowPending);
 }
+
+CommandLog::~CommandLog() = default;
 
 void CommandLog::MakeColumns() {
   view_->verticalHeader()->hide();
@@ -157,6 +173,22 @@ void CommandLog::MakeColumns() {
 
 QHeaderView& CommandLog::Columns() const { return *view_->horizontalHeader(); }
 
+void CommandLog::Add(const FleetProfile& profile, const PjtCommand& command, const PjtReply& reply,
+                     std::chrono::microseconds elapsed) {
+  if (!names_) names_ = std::make_unique<SettingNames>();
+  SettingNames::Meaning meaning = names_->Of(profile.model, command, reply);
+  Add({QDateTime::currentDateTime(), QString::fromStdString(profile.name),
+       std::move(meaning.setting), std::move(meaning.value), command, reply, elapsed});
+}
+
+// The list of projectors has those that occur in the log.
+void CommandLog::AddProjectors(const std::vector<CommandLogModel::Entry>& entries) {
+  for (const CommandLogModel::Entry& entry : entries) {
+    if (!known_.contains(entry.projector)) projectors_->addItem(entry.projector);
+    known_.insert(entry.projector);
+  }
+}
+
 void CommandLog::Add(CommandLogModel::Entry entry) {
   pending_.push_back(std::move(entry));
   if (!gather_.isActive()) gather_.start();
@@ -170,6 +202,7 @@ void CommandLog::Clear() {
 void CommandLog::ShowPending() {
   const QScrollBar* bar = view_->verticalScrollBar();
   const bool follows = bar->value() == bar->maximum();
+  AddProjectors(pending_);
   model_->Append(std::exchange(pending_, {}));
   if (follows) view_->scrollToBottom();
   Q_EMIT Updated();

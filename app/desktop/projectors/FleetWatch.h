@@ -37,6 +37,9 @@ class FleetWatch : public QObject {
   void SetServed(const std::string& id, const Served& served);
   bool IsWatched(const std::string& id) const { return watched_.contains(id); }
 
+  /// Between two visits to a projector, from now on.
+  void SetInterval(std::chrono::seconds interval) { fleet_->SetInterval(interval); }
+
   /// For a job. The address of one that cannot be reached is an error.
   FleetTarget TargetOf(const FleetProfile& profile) const;
 

@@ -20,6 +20,8 @@ struct WorkLine {
   std::string id;
   WorkOutcome outcome = WorkOutcome::Waiting;
   QString reason{};
+  int unread = 0;  ///< Settings that are missing in the snapshot that was taken.
+  std::shared_ptr<const std::vector<SettingResult>> settings{};  ///< Of a comparison.
 
   bool HasFailed() const {
     return outcome == WorkOutcome::Refused || outcome == WorkOutcome::NoAnswer ||
@@ -49,6 +51,8 @@ class WorkRun : public QObject {
   QString Summary() const;
   /// The snapshots that were taken.
   const SnapshotsById& Taken() const { return taken_; }
+  /// What the projectors had before their settings were changed.
+  const SnapshotsById& Undo() const { return undo_; }
 
   /// The plan that undoes all that was done; nothing if nothing was.
   std::optional<WorkPlan> UndoPlan() const;

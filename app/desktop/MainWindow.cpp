@@ -41,7 +41,6 @@ namespace {
 constexpr std::size_t kOpenedUnasked = 8;
 constexpr int kToldFor = 10'000;  // milliseconds
 
-
 }  // namespace
 
 MainWindow::MainWindow(std::vector<FleetProfile> profiles, const FleetPolicy& policy)

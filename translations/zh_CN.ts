@@ -5,370 +5,363 @@
     <name>Acctl</name>
     <message>
         <source>there is no option --%1</source>
-        <translation type="unfinished"></translation>
+        <translation>没有选项 --%1</translation>
     </message>
     <message>
         <source>--%1 takes no value</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 不带值</translation>
     </message>
     <message>
         <source>--%1 needs %2</source>
         <extracomment>An option and what must follow it: &quot;--profiles needs FILE&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>--%1 需要 %2</translation>
     </message>
     <message>
         <source>%1 takes no %2</source>
         <extracomment>A command and an option: &quot;list takes no --wait&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 不能使用 %2</translation>
     </message>
     <message>
         <source>%1: &apos;%2&apos; is not possible</source>
         <extracomment>An option and its value.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1：“%2”不可用</translation>
     </message>
     <message>
         <source>a command is missing; --help lists them</source>
-        <translation type="unfinished"></translation>
+        <translation>缺少命令；可用 --help 列出命令</translation>
     </message>
     <message>
         <source>there is no command &apos;%1&apos;; --help lists them</source>
-        <translation type="unfinished"></translation>
+        <translation>没有命令“%1”；可用 --help 列出命令</translation>
     </message>
     <message>
         <source>%1 has no such --format</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 没有这种 --format</translation>
     </message>
     <message>
         <source>use: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>用法：%1</translation>
     </message>
     <message>
         <source>the name of the file is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>文件名为空</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not one of: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”不在以下各项中：%2</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no step such as +1 or -1, and PJLink can only step it</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”不是 +1 或 -1 这样的步进，而 PJLink 只能逐步调节</translation>
     </message>
     <message numerus="yes">
         <source>&apos;%1&apos; is more than %n steps</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>“%1”超过 %n 步</numerusform>
         </translation>
     </message>
     <message>
         <source>&apos;%1&apos; from %2 is not one of: %3</source>
         <extracomment>A step such as +3, the value that it starts from, and the values that are possible.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>从 %2 起的“%1”不在以下各项中：%3</translation>
     </message>
     <message numerus="yes">
         <source>&apos;%1&apos; is more than %n steps from %2</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>从 %2 起的“%1”超过 %n 步</numerusform>
         </translation>
     </message>
     <message>
         <source>list projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>列出投影机</translation>
     </message>
     <message>
         <source>Prints name, model, page set, series code, connection and tags of the projectors, or of all.</source>
-        <translation type="unfinished"></translation>
+        <translation>显示指定的或全部投影机的名称、型号、页面组、系列代码、连接和标签。</translation>
     </message>
     <message>
         <source>list models</source>
-        <translation type="unfinished"></translation>
+        <translation>列出型号</translation>
     </message>
     <message>
         <source>Prints the models of the profile file, with the number of projectors and of settings of each.</source>
-        <translation type="unfinished"></translation>
+        <translation>显示配置文件中的型号，以及每种型号的投影机数和设置数。</translation>
     </message>
     <message>
         <source>list settings and their values</source>
-        <translation type="unfinished"></translation>
+        <translation>列出设置及其值</translation>
     </message>
     <message>
         <source>Prints the settings that the model has: key, tab, caption and possible values. The projector is not asked.</source>
-        <translation type="unfinished"></translation>
+        <translation>显示该型号具有的设置：键、选项卡、标题和可能的值。不会询问投影机。</translation>
     </message>
     <message>
         <source>explain a setting</source>
-        <translation type="unfinished"></translation>
+        <translation>说明一项设置</translation>
     </message>
     <message>
         <source>Prints what a setting is: tab and caption, possible values with their codes, the models that have it, and whether it can be set, reset, and saved and restored.</source>
-        <translation type="unfinished"></translation>
+        <translation>说明一项设置：所在选项卡和标题、可能的值及其代码、具有该设置的型号，以及能否设置、复位、保存和还原。</translation>
     </message>
     <message>
         <source>print present values</source>
-        <translation type="unfinished"></translation>
+        <translation>显示当前值</translation>
     </message>
     <message>
         <source>Reads settings from the projectors and prints them; without a key, all of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>从投影机读取设置并显示；不指定键时读取全部设置。</translation>
     </message>
     <message>
         <source>change settings</source>
-        <translation type="unfinished"></translation>
+        <translation>更改设置</translation>
     </message>
     <message>
         <source>Changes settings in the order given, reads each back, and prints the value before and after. All keys and values are checked for all projectors first; if a value is wrong for one, nothing is sent to any. A key that a projector does not have is reported, and does not stop the others.
 KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the form KEY VALUE, +3 and -3 are steps, and =-3 is a number below zero. &apos;acctl undo&apos; restores what was there before, except the power state and the results of actions.</source>
-        <translation type="unfinished"></translation>
+        <translation>按给出的顺序更改设置，逐项读回，并显示更改前后的值。首先为所有投影机检查全部键和值；只要有一台的值有误，就不向任何投影机发送。某台投影机没有的键会报告出来，不影响其他投影机。
+KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VALUE 时，+3 和 -3 是步进，=-3 是负数。“acctl undo”可还原先前的值，但电源状态和操作的结果除外。</translation>
     </message>
     <message>
         <source>reset settings to the projector&apos;s standard</source>
-        <translation type="unfinished"></translation>
+        <translation>将设置复位为投影机的标准值</translation>
     </message>
     <message>
         <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>将设置复位为投影机自身的标准值，并显示复位后的值。计时器只能用完整的键复位，因为此操作无法撤消。</translation>
     </message>
     <message>
         <source>print power, input, errors and hours</source>
-        <translation type="unfinished"></translation>
+        <translation>显示电源、输入、错误和小时数</translation>
     </message>
     <message>
         <source>Prints the status page of the projectors, or of all.</source>
-        <translation type="unfinished"></translation>
+        <translation>显示指定的或全部投影机的状态页。</translation>
     </message>
     <message>
         <source>save settings in files</source>
-        <translation type="unfinished"></translation>
+        <translation>将设置保存到文件</translation>
     </message>
     <message>
         <source>Saves every setting that can be restored: those of one projector in FILE (&apos;-&apos; is standard output), or those of any number in a folder, a file each. A file that is not a file of settings is not replaced without --force.</source>
-        <translation type="unfinished"></translation>
+        <translation>保存所有可以还原的设置：一台投影机的设置保存到 FILE（“-”表示标准输出），任意多台的设置保存到文件夹，每台一个文件。不是设置文件的文件，没有 --force 时不会被替换。</translation>
     </message>
     <message>
         <source>compare with saved settings</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Prints what differs from a file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>与保存的设置比较</translation>
     </message>
     <message>
         <source>restore saved settings</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation type="unfinished"></translation>
+        <translation>还原保存的设置</translation>
     </message>
     <message>
         <source>undo the last run of set or apply</source>
-        <translation type="unfinished"></translation>
+        <translation>撤消上一次 set 或 apply 运行</translation>
     </message>
     <message>
         <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation type="unfinished"></translation>
+        <translation>在所有相关投影机上还原上一次“set”或“apply”替换的值，或还原 RUN 替换的值：“acctl undo --list”列出的名称，或一个文件。撤消本身也可以按其名称撤消。</translation>
     </message>
     <message>
         <source>print values and every change</source>
-        <translation type="unfinished"></translation>
+        <translation>显示值和每次变化</translation>
     </message>
     <message>
         <source>Prints values, and then every change until it is interrupted, until nobody reads its output any more, or until all projectors have the value of --until. A projector that falls silent is tried again and again.</source>
-        <translation type="unfinished"></translation>
+        <translation>先显示值，再显示每次变化，直到被中断、不再有程序读取其输出，或所有投影机都达到 --until 的值为止。无应答的投影机会反复重试。</translation>
     </message>
     <message>
         <source>search the network for projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>在网络中搜索投影机</translation>
     </message>
     <message>
         <source>Asks every PJLink projector of the network, or the addresses given, who it is. ADDRESSES are like 192.0.2.7, 192.0.2.0/24 or 192.0.2.10-40. Nothing is stored unless --add names a profile file.</source>
-        <translation type="unfinished"></translation>
+        <translation>询问网络中的每台 PJLink 投影机，或给出的地址，是何投影机。ADDRESSES 的写法如 192.0.2.7、192.0.2.0/24 或 192.0.2.10-40。除非 --add 指定了配置文件，否则不保存任何内容。</translation>
     </message>
     <message>
         <source>take projectors from a table</source>
-        <translation type="unfinished"></translation>
+        <translation>从表格导入投影机</translation>
     </message>
     <message>
         <source>Adds the rows of comma-separated values (&apos;-&apos; is standard input) to the profile file that --profiles or ACCTL_PROFILES names, and changes those that it has.</source>
-        <translation type="unfinished"></translation>
+        <translation>将逗号分隔值的各行（“-”表示标准输入）添加到 --profiles 或 ACCTL_PROFILES 指定的配置文件，并更改其中已有的投影机。</translation>
     </message>
     <message>
         <source>print projectors as a table</source>
-        <translation type="unfinished"></translation>
+        <translation>以表格形式显示投影机</translation>
     </message>
     <message>
         <source>Prints the projectors, or all, as comma-separated values, without passwords.</source>
-        <translation type="unfinished"></translation>
+        <translation>以逗号分隔值显示指定的或全部投影机，不含密码。</translation>
     </message>
     <message>
         <source>explain a command</source>
-        <translation type="unfinished"></translation>
+        <translation>说明一个命令</translation>
     </message>
     <message>
         <source>one of = != &lt; &lt;= &gt; &gt;= is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>缺少 = != &lt; &lt;= &gt; &gt;= 之一</translation>
     </message>
     <message>
         <source>a value is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>缺少值</translation>
     </message>
     <message>
         <source>no model has such a setting</source>
-        <translation type="unfinished"></translation>
+        <translation>没有任何型号具有此设置</translation>
     </message>
     <message>
         <source>only numbers are less or greater</source>
-        <translation type="unfinished"></translation>
+        <translation>只有数字才能比较大小</translation>
     </message>
     <message>
         <source>no model has such a setting; acctl settings lists all keys</source>
-        <translation type="unfinished"></translation>
+        <translation>没有任何型号具有此设置；acctl settings 可列出所有键</translation>
     </message>
     <message>
         <source>no model has such a setting; did you mean %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>没有任何型号具有此设置；您是指 %1 吗？</translation>
     </message>
     <message>
         <source>%1 to %2</source>
         <extracomment>A range of numbers.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 至 %2</translation>
     </message>
     <message>
         <source>%1 to %2, shown as %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 至 %2，显示为 %3</translation>
     </message>
     <message>
         <source>source %1: this is not kept for each source</source>
-        <translation type="unfinished"></translation>
+        <translation>信号源 %1：此设置不按信号源分别保存</translation>
     </message>
     <message>
         <source>source %1 does not exist; there are %2</source>
-        <translation type="unfinished"></translation>
+        <translation>信号源 %1 不存在；可用的有 %2</translation>
     </message>
     <message>
         <source>value %1 is not possible; possible are %2</source>
-        <translation type="unfinished"></translation>
+        <translation>不能使用值 %1；可用的有 %2</translation>
     </message>
     <message>
         <source>text &quot;%1&quot; is not that of value %2, which is &quot;%3&quot;; change both, or remove the text</source>
-        <translation type="unfinished"></translation>
+        <translation>文本“%1”不是值 %2 的文本（应为“%3”）；请同时更改两者，或删除文本</translation>
     </message>
     <message>
         <source>Reads, changes, saves and restores the settings of projectors that the Advanced Control dialog shows. The projectors are those of a profile file.</source>
-        <translation type="unfinished"></translation>
+        <translation>读取、更改、保存和还原“Advanced Control”对话框所显示的投影机设置。投影机取自配置文件。</translation>
     </message>
     <message>
         <source>P selects projectors: a name, a pattern such as &apos;Lecture*&apos;, @TAG, or model=PATTERN. Several are separated by commas, and !P leaves projectors out. KEY is the key of a setting, a pattern such as &apos;picture.*&apos;, or a short name such as brightness, input or power, which is the same on all models. VALUE is a number as the dialog shows it, the text of an entry in any language of the dialog, or its code.</source>
-        <translation type="unfinished"></translation>
+        <translation>P 选择投影机：名称、“Lecture*”这样的模式、@TAG 或 model=PATTERN。多个之间用逗号分隔，!P 排除投影机。KEY 是设置的键、“picture.*”这样的模式，或 brightness、input、power 这样在所有型号上都相同的短名称。VALUE 是对话框显示的数字、某一项在对话框任一语言中的文本，或其代码。</translation>
     </message>
     <message>
         <source>Done. Also if a projector in standby could not report everything, or accepted a change that has not taken effect yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>完成。待机的投影机未能报告全部内容，或已接受的更改尚未生效时也是如此。</translation>
     </message>
     <message>
         <source>Something was refused, a projector lacks a setting that was named, or a file or the output could not be read or written.</source>
-        <translation type="unfinished"></translation>
+        <translation>有设置被拒绝，投影机没有指定的设置，或者无法读写文件或输出。</translation>
     </message>
     <message>
         <source>Wrong use: nothing was sent to any projector.</source>
-        <translation type="unfinished"></translation>
+        <translation>用法错误：未向任何投影机发送内容。</translation>
     </message>
     <message>
         <source>A projector did not answer or did not report its inputs, or another run of acctl used it.</source>
-        <translation type="unfinished"></translation>
+        <translation>有投影机无应答或未报告其输入，或者正被另一个 acctl 使用。</translation>
     </message>
     <message>
         <source>Interrupted; the report says what was done.</source>
-        <translation type="unfinished"></translation>
+        <translation>已中断；报告中说明已完成的部分。</translation>
     </message>
     <message>
         <source>Use: %1</source>
         <extracomment>Above the help of a command; %1 is how it is called.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>用法：%1</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>选项</translation>
     </message>
     <message>
         <source>Commands</source>
-        <translation type="unfinished"></translation>
+        <translation>命令</translation>
     </message>
     <message>
         <source>Options of all commands; &apos;acctl help COMMAND&apos; lists its own, with examples</source>
-        <translation type="unfinished"></translation>
+        <translation>所有命令的选项；“acctl help COMMAND”列出命令自己的选项及示例</translation>
     </message>
     <message>
         <source>Examples</source>
-        <translation type="unfinished"></translation>
+        <translation>示例</translation>
     </message>
     <message>
         <source>Exit codes</source>
-        <translation type="unfinished"></translation>
+        <translation>退出代码</translation>
     </message>
     <message>
         <source>number</source>
         <extracomment>A kind of setting: a value with a range.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>数字</translation>
     </message>
     <message>
         <source>choice</source>
         <extracomment>A kind of setting: a list of entries.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>选择</translation>
     </message>
     <message>
         <source>state</source>
         <extracomment>A kind of setting: on or off, or a counter.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>状态</translation>
     </message>
     <message>
         <source>action</source>
         <extracomment>A kind of setting: something that the projector does once.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>操作</translation>
     </message>
     <message>
         <source>short name: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>短名称：%1</translation>
     </message>
     <message>
         <source>tab</source>
         <extracomment>Of the dialog, on which the setting is.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>选项卡</translation>
     </message>
     <message>
         <source>caption</source>
         <extracomment>Of the setting in the dialog.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>标题</translation>
     </message>
     <message>
         <source>kind</source>
         <extracomment>What kind of setting it is: number, choice, state or action.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>种类</translation>
     </message>
     <message>
         <source>values</source>
-        <translation type="unfinished"></translation>
+        <translation>值</translation>
     </message>
     <message>
         <source>those that the projector reports</source>
-        <translation type="unfinished"></translation>
+        <translation>投影机报告的值</translation>
     </message>
     <message>
         <source>commands</source>
-        <translation type="unfinished"></translation>
+        <translation>命令</translation>
     </message>
     <message>
         <source>kept</source>
         <extracomment>The setting has a value of its own &quot;for each input source&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>保存</translation>
     </message>
     <message>
         <source>for each input source</source>
-        <translation type="unfinished"></translation>
+        <translation>按每个输入信号源分别</translation>
     </message>
     <message>
         <source>models</source>
-        <translation type="unfinished"></translation>
+        <translation>型号</translation>
     </message>
     <message numerus="yes">
         <source>%n settings</source>
@@ -378,147 +371,147 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     </message>
     <message>
         <source>no profiles at %1; name a file with --profiles</source>
-        <translation>在 %1 找不到配置文件，请用 --profiles 指定文件</translation>
+        <translation>%1 处没有配置；请用 --profiles 指定文件</translation>
     </message>
     <message>
         <source>read the projectors from FILE</source>
-        <translation type="unfinished"></translation>
+        <translation>从 FILE 读取投影机</translation>
     </message>
     <message>
         <source>only projectors in this state, such as &apos;power=on lamp-hours&gt;1500&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>仅处于此状态的投影机，例如“power=on lamp-hours&gt;1500”</translation>
     </message>
     <message>
         <source>the projector is at ADDRESS; P gives only its model</source>
-        <translation type="unfinished"></translation>
+        <translation>投影机位于 ADDRESS；P 只给出其型号</translation>
     </message>
     <message>
         <source>the port of the projectors that are searched; 4352 by default</source>
-        <translation type="unfinished"></translation>
+        <translation>所搜索投影机的端口；默认为 4352</translation>
     </message>
     <message>
         <source>PJLink password; other users of this machine can see it here</source>
-        <translation type="unfinished"></translation>
+        <translation>PJLink 密码；此计算机的其他用户可在此处看到它</translation>
     </message>
     <message>
         <source>the first line of FILE is the password</source>
-        <translation type="unfinished"></translation>
+        <translation>FILE 的第一行是密码</translation>
     </message>
     <message>
         <source>output: text, json, jsonl (a line for each value or projector), tsv or value</source>
-        <translation type="unfinished"></translation>
+        <translation>输出：text、json、jsonl（每个值或投影机一行）、tsv 或 value</translation>
     </message>
     <message>
         <source>the same as --format json</source>
-        <translation type="unfinished"></translation>
+        <translation>与 --format json 相同</translation>
     </message>
     <message>
         <source>only names or keys, one a line</source>
-        <translation type="unfinished"></translation>
+        <translation>只显示名称或键，每行一个</translation>
     </message>
     <message>
         <source>only settings that get, set, reset or watch can use</source>
-        <translation type="unfinished"></translation>
+        <translation>只显示 get、set、reset 或 watch 可以使用的设置</translation>
     </message>
     <message>
         <source>only keys that match GLOB; may be repeated</source>
-        <translation type="unfinished"></translation>
+        <translation>只使用与 GLOB 匹配的键；可重复使用</translation>
     </message>
     <message>
         <source>take KEY=VALUE lines from FILE (&apos;-&apos; is standard input)</source>
-        <translation type="unfinished"></translation>
+        <translation>从 FILE 读取 KEY=VALUE 行（“-”表示标准输入）</translation>
     </message>
     <message>
         <source>save each projector in a file of its own in DIR</source>
-        <translation type="unfinished"></translation>
+        <translation>将每台投影机保存到 DIR 中各自的文件</translation>
     </message>
     <message>
         <source>add what was found to the profile file FILE</source>
-        <translation type="unfinished"></translation>
+        <translation>将找到的投影机添加到配置文件 FILE</translation>
     </message>
     <message>
         <source>print what would change, and change nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>显示将会更改的内容，但不更改</translation>
     </message>
     <message>
         <source>wait until the state is reached, up to TIME, such as 90s or 5m</source>
-        <translation type="unfinished"></translation>
+        <translation>等待达到该状态，最长 TIME，例如 90s 或 5m</translation>
     </message>
     <message>
         <source>end when every projector has this value</source>
-        <translation type="unfinished"></translation>
+        <translation>所有投影机都具有此值时结束</translation>
     </message>
     <message>
         <source>exit with 1 if something differs, with 2 if something could not be compared</source>
-        <translation type="unfinished"></translation>
+        <translation>有差异时以 1 退出，有无法比较的内容时以 2 退出</translation>
     </message>
     <message>
         <source>skip what is wrong in FILE instead of sending nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>跳过 FILE 中的错误，而不是什么都不发送</translation>
     </message>
     <message>
         <source>apply: also the undo file of another projector; save: replace any file</source>
-        <translation type="unfinished"></translation>
+        <translation>apply：也可用另一台投影机的撤消文件；save：替换任何文件</translation>
     </message>
     <message>
         <source>list the runs that can be undone</source>
-        <translation type="unfinished"></translation>
+        <translation>列出可以撤消的运行</translation>
     </message>
     <message>
         <source>the folder for undo files</source>
-        <translation type="unfinished"></translation>
+        <translation>撤消文件所在的文件夹</translation>
     </message>
     <message>
         <source>remove undo files older than N days; 30 by default, 0 keeps all</source>
-        <translation type="unfinished"></translation>
+        <translation>删除早于 N 天的撤消文件；默认为 30，0 表示全部保留</translation>
     </message>
     <message>
         <source>projectors at once, 1 to 1024; by default 512 to read and 64 to change</source>
-        <translation type="unfinished"></translation>
+        <translation>同时处理的投影机数，1 至 1024；默认读取时为 512，更改时为 64</translation>
     </message>
     <message>
         <source>time for one answer; 2 by default</source>
-        <translation type="unfinished"></translation>
+        <translation>等待一次应答的时间；默认为 2</translation>
     </message>
     <message>
         <source>try a projector that does not answer N more times; 0 by default</source>
-        <translation type="unfinished"></translation>
+        <translation>投影机无应答时再重试 N 次；默认为 0</translation>
     </message>
     <message>
         <source>begin no other projector after the first error</source>
-        <translation type="unfinished"></translation>
+        <translation>出现第一个错误后不再开始处理其他投影机</translation>
     </message>
     <message>
         <source>time between two readings; 1 by default</source>
-        <translation type="unfinished"></translation>
+        <translation>两次读取之间的时间；默认为 1</translation>
     </message>
     <message>
         <source>language of texts, such as de or zh-TW</source>
-        <translation type="unfinished"></translation>
+        <translation>文本的语言，例如 de 或 zh-TW</translation>
     </message>
     <message>
         <source>this text; with a command, its own</source>
-        <translation type="unfinished"></translation>
+        <translation>此文本；与命令一起使用时显示该命令的帮助</translation>
     </message>
     <message>
         <source>the version</source>
-        <translation type="unfinished"></translation>
+        <translation>版本</translation>
     </message>
     <message>
         <source>cannot write: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>无法写入：%1</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not possible</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”不可用</translation>
     </message>
     <message>
         <source>&apos;=&apos; is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>缺少“=”</translation>
     </message>
     <message>
         <source>there is no setting %1</source>
-        <translation type="unfinished"></translation>
+        <translation>没有设置 %1</translation>
     </message>
     <message>
         <source>cannot read %1: %2</source>
@@ -527,95 +520,95 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     <message>
         <source>%1 of %2</source>
         <extracomment>Behind a bar: how many projectors are done, and how many there are.</extracomment>
-        <translation>%1，额定 %2</translation>
+        <translation>%1/%2</translation>
     </message>
     <message>
         <source>its first line is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>其第一行为空</translation>
     </message>
     <message>
         <source>Password of %1: </source>
-        <translation type="unfinished"></translation>
+        <translation>%1 的密码： </translation>
     </message>
     <message>
         <source>%1 (simulated)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1（模拟）</translation>
     </message>
     <message>
         <source>%1 added, %2 moved, %3 known</source>
         <extracomment>Numbers of projectors: new ones, those with a new address, and those that the file has already.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>添加 %1 台，移动 %2 台，已知 %3 台</translation>
     </message>
     <message>
         <source>needs a password</source>
-        <translation type="unfinished"></translation>
+        <translation>需要密码</translation>
     </message>
     <message>
         <source>name the profile file with --profiles</source>
-        <translation type="unfinished"></translation>
+        <translation>请用 --profiles 指定配置文件</translation>
     </message>
     <message>
         <source>%1 added, %2 known, %3 wrong</source>
         <extracomment>Numbers of projectors in a table: new ones, those that the file has already, and wrong rows.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>添加 %1 台，已知 %2 台，错误 %3 行</translation>
     </message>
     <message>
         <source>%1: &apos;%2&apos; is not KEY=VALUE</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：“%2”不是 KEY=VALUE</translation>
     </message>
     <message>
         <source>%1: has no KEY=VALUE</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：没有 KEY=VALUE</translation>
     </message>
     <message>
         <source>this takes one projector, not %1</source>
-        <translation type="unfinished"></translation>
+        <translation>此命令只用于一台投影机，而不是 %1 台</translation>
     </message>
     <message>
         <source>undone</source>
         <extracomment>Of a run of the program: somebody has undone it.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>已撤消</translation>
     </message>
     <message>
         <source>cannot record in %1 that it is undone: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>无法在 %1 中记录已撤消：%2</translation>
     </message>
     <message>
         <source>another run of acctl works on it</source>
-        <translation type="unfinished"></translation>
+        <translation>另一个 acctl 正在使用它</translation>
     </message>
     <message>
         <source>not begun, as another projector failed</source>
-        <translation type="unfinished"></translation>
+        <translation>未开始，因为另一台投影机失败</translation>
     </message>
     <message>
         <source>simulated by acctl itself, nothing lasting was changed</source>
-        <translation type="unfinished"></translation>
+        <translation>由 acctl 自行模拟，未作任何持久更改</translation>
     </message>
     <message>
         <source>interrupted; what was done is reported above</source>
-        <translation type="unfinished"></translation>
+        <translation>已中断；上面报告了已完成的部分</translation>
     </message>
     <message>
         <source>in standby, left out: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>处于待机，已略过：%1</translation>
     </message>
     <message>
         <source>warming up, left out: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>正在预热，已略过：%1</translation>
     </message>
     <message>
         <source>cooling down, left out: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>正在冷却，已略过：%1</translation>
     </message>
     <message>
         <source>skipped, this projector does not offer it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>已跳过，此投影机不提供：%1</translation>
     </message>
     <message numerus="yes">
         <source>%n projectors</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 台投影机</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -644,7 +637,7 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     </message>
     <message>
         <source>accepted, but not so yet</source>
-        <translation type="unfinished"></translation>
+        <translation>已接受，但尚未生效</translation>
     </message>
     <message numerus="yes">
         <source>%n refused</source>
@@ -654,18 +647,18 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     </message>
     <message numerus="yes">
         <source>%n busy</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 项忙</numerusform>
         </translation>
     </message>
     <message>
         <source>the projector is busy or in standby</source>
-        <translation>投影机正忙或处于待机状态</translation>
+        <translation>投影机忙或处于待机</translation>
     </message>
     <message numerus="yes">
         <source>%n unconfirmed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 项未确认</numerusform>
         </translation>
     </message>
     <message>
@@ -674,48 +667,48 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     </message>
     <message numerus="yes">
         <source>%n not done</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 项未完成</numerusform>
         </translation>
     </message>
     <message>
         <source>skipped, this model does not have it</source>
-        <translation type="unfinished"></translation>
+        <translation>已跳过，此型号没有该设置</translation>
     </message>
     <message>
         <source>skipped, this projector does not offer it</source>
-        <translation type="unfinished"></translation>
+        <translation>已跳过，此投影机不提供该设置</translation>
     </message>
     <message>
         <source>skipped, it cannot be restored</source>
-        <translation type="unfinished"></translation>
+        <translation>已跳过，无法还原</translation>
     </message>
     <message>
         <source>skipped, this model does not take it</source>
-        <translation type="unfinished"></translation>
+        <translation>已跳过，此型号不接受该值</translation>
     </message>
     <message>
         <source>stopped at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>停在 %1</translation>
     </message>
     <message numerus="yes">
         <source>not sent, it is more than %n steps away</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>未发送，相距超过 %n 步</numerusform>
         </translation>
     </message>
     <message>
         <source>refused, it is %1</source>
-        <translation type="unfinished"></translation>
+        <translation>被拒绝，当前为 %1</translation>
     </message>
     <message>
         <source>it cannot be read now</source>
-        <translation type="unfinished"></translation>
+        <translation>现在无法读取</translation>
     </message>
     <message numerus="yes">
         <source>%n not compared</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 项未比较</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -726,7 +719,7 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     </message>
     <message>
         <source>nothing to do</source>
-        <translation type="unfinished"></translation>
+        <translation>无需操作</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -734,140 +727,140 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     </message>
     <message numerus="yes">
         <source>skipped, PJLink does not have them: %n of the file&apos;s settings</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>已跳过，PJLink 不支持文件中的 %n 项设置</numerusform>
         </translation>
     </message>
     <message>
         <source>%1; no more was sent</source>
-        <translation>%1；其余设置未发送</translation>
+        <translation>%1；未再发送其他内容</translation>
     </message>
     <message>
         <source>%1; nothing was sent</source>
-        <translation>%1；未发送任何设置</translation>
+        <translation>%1；未发送任何内容</translation>
     </message>
     <message>
         <source>%1: undoes a change of %2; --force applies it to %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：撤消的是 %2 的更改；用 --force 可应用于 %3</translation>
     </message>
     <message>
         <source>--only %1: the file has no such setting</source>
-        <translation type="unfinished"></translation>
+        <translation>--only %1：文件中没有此设置</translation>
     </message>
     <message>
         <source>%1: there is no projector &apos;%2&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：没有投影机“%2”</translation>
     </message>
     <message>
         <source>%1: %2 is also of %3</source>
         <extracomment>Two files, and the projector that both are of.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1：%2 也属于 %3</translation>
     </message>
     <message>
         <source>%1: the folder has no files of settings</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：文件夹中没有设置文件</translation>
     </message>
     <message>
         <source>%1: there is no file of it in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：%2 中没有它的文件</translation>
     </message>
     <message>
         <source>%1: is not a file of settings; --force replaces it</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：不是设置文件；用 --force 可替换它</translation>
     </message>
     <message>
         <source>%1: there is no such file or folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：没有此文件或文件夹</translation>
     </message>
     <message>
         <source>name the projectors to which the file is applied</source>
-        <translation type="unfinished"></translation>
+        <translation>请指定要应用该文件的投影机</translation>
     </message>
     <message>
         <source>one file is for one projector, not %1; -o names a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>一个文件只用于一台投影机，而不是 %1 台；请用 -o 指定文件夹</translation>
     </message>
     <message>
         <source>cannot make the folder %1</source>
-        <translation type="unfinished"></translation>
+        <translation>无法创建文件夹 %1</translation>
     </message>
     <message>
         <source>%1; name an earlier run to undo that one</source>
-        <translation type="unfinished"></translation>
+        <translation>%1；请指定更早的运行以将其撤消</translation>
     </message>
     <message>
         <source>there is no run to undo</source>
-        <translation type="unfinished"></translation>
+        <translation>没有可以撤消的运行</translation>
     </message>
     <message>
         <source>there is no run &apos;%1&apos;; --list shows them</source>
-        <translation type="unfinished"></translation>
+        <translation>没有运行“%1”；可用 --list 列出</translation>
     </message>
     <message>
         <source>%1: is no longer in the profile file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：已不在配置文件中</translation>
     </message>
     <message>
         <source>cannot be read now, and is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>现在无法读取，已略过</translation>
     </message>
     <message>
         <source>nothing can be read, and nothing was written</source>
-        <translation type="unfinished"></translation>
+        <translation>什么都无法读取，未写入任何内容</translation>
     </message>
     <message numerus="yes">
         <source>%n settings saved in %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>已将 %n 项设置保存到 %1</numerusform>
         </translation>
     </message>
     <message>
         <source>there is no projector &apos;%1&apos;; acctl list shows all</source>
-        <translation type="unfinished"></translation>
+        <translation>没有投影机“%1”；acctl list 可列出全部</translation>
     </message>
     <message>
         <source>refused, the projector is in standby</source>
-        <translation type="unfinished"></translation>
+        <translation>被拒绝，投影机处于待机</translation>
     </message>
     <message>
         <source>refused, the projector is warming up</source>
-        <translation type="unfinished"></translation>
+        <translation>被拒绝，投影机正在预热</translation>
     </message>
     <message>
         <source>refused, the projector is cooling down</source>
-        <translation type="unfinished"></translation>
+        <translation>被拒绝，投影机正在冷却</translation>
     </message>
     <message>
         <source>refused, the projector is busy</source>
-        <translation type="unfinished"></translation>
+        <translation>被拒绝，投影机忙</translation>
     </message>
     <message>
         <source>this cannot be undone: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>无法撤消：%1</translation>
     </message>
     <message numerus="yes">
         <source>stopped, %1 of %n steps accepted</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>已停止，%n 步中接受了 %1 步</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1; %2 of %n steps accepted</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1；%n 步中接受了 %2 步</numerusform>
         </translation>
     </message>
     <message>
         <source>accepted, but not so yet, it is %1</source>
-        <translation type="unfinished"></translation>
+        <translation>已接受，但尚未生效，当前为 %1</translation>
     </message>
     <message>
         <source>%1, it may have been changed, it is %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1，可能已更改，当前为 %2</translation>
     </message>
     <message>
         <source>%1, it may have been changed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1，可能已更改</translation>
     </message>
     <message>
         <source>refused</source>
@@ -875,23 +868,23 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     </message>
     <message>
         <source>accepted, but %1</source>
-        <translation type="unfinished"></translation>
+        <translation>已接受，但%1</translation>
     </message>
     <message>
         <source>not so in time, it is %1</source>
-        <translation type="unfinished"></translation>
+        <translation>未能及时生效，当前为 %1</translation>
     </message>
     <message>
         <source>not so in time</source>
-        <translation type="unfinished"></translation>
+        <translation>未能及时生效</translation>
     </message>
     <message>
         <source>%1:%2: not a line of an undo file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:%2：不是撤消文件的行</translation>
     </message>
     <message>
         <source>%1: there is nothing to undo</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：没有可以撤消的内容</translation>
     </message>
     <message>
         <source>cannot write %1: %2</source>
@@ -903,11 +896,11 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     </message>
     <message>
         <source>unknown host name</source>
-        <translation>主机名未知</translation>
+        <translation>未知的主机名</translation>
     </message>
     <message>
         <source>not reachable</source>
-        <translation>无法连接</translation>
+        <translation>无法访问</translation>
     </message>
     <message>
         <source>connection lost</source>
@@ -915,7 +908,7 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     </message>
     <message>
         <source>answers are not understood</source>
-        <translation>无法理解应答</translation>
+        <translation>无法理解其应答</translation>
     </message>
     <message>
         <source>another version of the protocol</source>
@@ -923,7 +916,7 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     </message>
     <message>
         <source>password missing or wrong</source>
-        <translation>缺少密码或密码错误</translation>
+        <translation>密码缺失或错误</translation>
     </message>
     <message>
         <source>no answer</source>
@@ -931,67 +924,75 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     </message>
     <message>
         <source>no answer (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>无应答（%1）</translation>
     </message>
     <message>
         <source>this model has no such setting</source>
-        <translation type="unfinished"></translation>
+        <translation>此型号没有该设置</translation>
     </message>
     <message>
         <source>skipped, PJLink does not have it</source>
-        <translation type="unfinished"></translation>
+        <translation>已跳过，PJLink 不支持</translation>
     </message>
     <message>
         <source>cannot be read now</source>
-        <translation type="unfinished"></translation>
+        <translation>现在无法读取</translation>
     </message>
     <message>
         <source>this projector does not offer it</source>
-        <translation type="unfinished"></translation>
+        <translation>此投影机不提供该设置</translation>
     </message>
     <message>
         <source>not read, the projector did not report its inputs</source>
-        <translation type="unfinished"></translation>
+        <translation>未读取，投影机未报告其输入</translation>
     </message>
     <message>
         <source>PJLink does not have it</source>
-        <translation type="unfinished"></translation>
+        <translation>PJLink 不支持该设置</translation>
     </message>
     <message>
         <source>this cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>无法读取该设置</translation>
     </message>
     <message>
         <source>this cannot be set</source>
-        <translation type="unfinished"></translation>
+        <translation>无法设置该设置</translation>
     </message>
     <message>
         <source>this cannot be restored</source>
-        <translation type="unfinished"></translation>
+        <translation>无法还原该设置</translation>
     </message>
     <message>
         <source>this cannot be reset</source>
-        <translation type="unfinished"></translation>
+        <translation>无法复位该设置</translation>
     </message>
     <message>
         <source>%1, the projector is in standby</source>
-        <translation type="unfinished"></translation>
+        <translation>%1，投影机处于待机</translation>
     </message>
     <message>
         <source>%1, the projector is warming up</source>
-        <translation type="unfinished"></translation>
+        <translation>%1，投影机正在预热</translation>
     </message>
     <message>
         <source>%1, the projector is cooling down</source>
-        <translation type="unfinished"></translation>
+        <translation>%1，投影机正在冷却</translation>
     </message>
     <message>
         <source>answers again</source>
-        <translation type="unfinished"></translation>
+        <translation>恢复应答</translation>
     </message>
     <message>
         <source>--until: &apos;%1&apos; is not KEY=VALUE</source>
-        <translation type="unfinished"></translation>
+        <translation>--until：“%1”不是 KEY=VALUE</translation>
+    </message>
+    <message>
+        <source>Prints what differs from a file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder.</source>
+        <translation>打印与某个文件（&apos;-&apos; 为标准输入）、与主程序的某个预设，或与文件夹中每台投影机自己的文件之间的差异。</translation>
+    </message>
+    <message>
+        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
+        <translation>读取投影机，发送与文件（&apos;-&apos; 为标准输入）、与主程序的某个预设，或与文件夹中每台投影机自己的文件不同的部分，并读回结果。被替换的值会先保存，以便 &apos;acctl undo&apos; 恢复。中断的运行可随时重复。</translation>
     </message>
 </context>
 <context>
@@ -1055,7 +1056,7 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     </message>
     <message>
         <source>The projectors are those of &lt;file&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>投影机取自&lt;文件&gt;。</translation>
     </message>
     <message>
         <source>file</source>
@@ -1063,31 +1064,31 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     </message>
     <message>
         <source>Watch one of several shares: 2/5 is the second of five.</source>
-        <translation type="unfinished"></translation>
+        <translation>监视若干份额之一：2/5 是五份中的第二份。</translation>
     </message>
     <message>
         <source>share</source>
-        <translation type="unfinished"></translation>
+        <translation>份额</translation>
     </message>
     <message>
         <source>Watch only projectors with &lt;tag&gt;, or one of several.</source>
-        <translation type="unfinished"></translation>
+        <translation>只监视带有&lt;标签&gt;或其中之一的投影机。</translation>
     </message>
     <message>
         <source>tag</source>
-        <translation type="unfinished"></translation>
+        <translation>标签</translation>
     </message>
     <message>
         <source>Visit each projector every &lt;seconds&gt;, at least 5.</source>
-        <translation type="unfinished"></translation>
+        <translation>每隔&lt;秒&gt;访问每台投影机，至少 5 秒。</translation>
     </message>
     <message>
         <source>seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>秒</translation>
     </message>
     <message>
         <source>Once a day, compare each projector with its snapshot in &lt;folder&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>每天一次，将每台投影机与&lt;文件夹&gt;中的快照比较。</translation>
     </message>
     <message>
         <source>folder</source>
@@ -1095,99 +1096,99 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     </message>
     <message>
         <source>Listen at &lt;address&gt; for the status notices of projectors.</source>
-        <translation type="unfinished"></translation>
+        <translation>在&lt;地址&gt;接收投影机的状态通知。</translation>
     </message>
     <message>
         <source>address</source>
-        <translation type="unfinished"></translation>
+        <translation>地址</translation>
     </message>
     <message>
         <source>Serve metrics at &lt;address:port&gt;; &apos;none&apos; for nowhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>在&lt;地址:端口&gt;提供指标；“none”表示不提供。</translation>
     </message>
     <message>
         <source>address:port</source>
-        <translation type="unfinished"></translation>
+        <translation>地址:端口</translation>
     </message>
     <message>
         <source>Write metrics to &lt;file&gt; every 15 seconds, for a collector of text files.</source>
-        <translation type="unfinished"></translation>
+        <translation>每 15 秒将指标写入&lt;文件&gt;，供文本文件收集器使用。</translation>
     </message>
     <message>
         <source>Send messages to the MQTT broker at &lt;host:port&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>将消息发送到&lt;主机:端口&gt;的 MQTT 代理。</translation>
     </message>
     <message>
         <source>host:port</source>
-        <translation type="unfinished"></translation>
+        <translation>主机:端口</translation>
     </message>
     <message>
         <source>Version of MQTT, 3 (3.1.1) or 5.</source>
-        <translation type="unfinished"></translation>
+        <translation>MQTT 的版本，3（3.1.1）或 5。</translation>
     </message>
     <message>
         <source>version</source>
-        <translation type="unfinished"></translation>
+        <translation>版本</translation>
     </message>
     <message>
         <source>The first line of &lt;file&gt; is the user at the broker.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;文件&gt;的第一行是代理的用户名。</translation>
     </message>
     <message>
         <source>The first line of &lt;file&gt; is the password at the broker.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;文件&gt;的第一行是代理的密码。</translation>
     </message>
     <message>
         <source>Encrypt, and trust the authorities that the system trusts.</source>
-        <translation type="unfinished"></translation>
+        <translation>加密，并信任系统信任的证书颁发机构。</translation>
     </message>
     <message>
         <source>Encrypt, and trust the authorities in &lt;file&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>加密，并信任&lt;文件&gt;中的证书颁发机构。</translation>
     </message>
     <message>
         <source>The certificate of this client.</source>
-        <translation type="unfinished"></translation>
+        <translation>此客户端的证书。</translation>
     </message>
     <message>
         <source>Its key.</source>
-        <translation type="unfinished"></translation>
+        <translation>其密钥。</translation>
     </message>
     <message>
         <source>The first level of all topics.</source>
-        <translation type="unfinished"></translation>
+        <translation>所有主题的第一级。</translation>
     </message>
     <message>
         <source>topic</source>
-        <translation type="unfinished"></translation>
+        <translation>主题</translation>
     </message>
     <message>
         <source>The first level of discovery topics; &apos;none&apos; for no discovery.</source>
-        <translation type="unfinished"></translation>
+        <translation>发现主题的第一级；“none”表示不发现。</translation>
     </message>
     <message>
         <source>Take the share of a bridge that has said nothing for &lt;seconds&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>桥接程序有&lt;秒&gt;未发出消息时，接管其份额。</translation>
     </message>
     <message>
         <source>Settings that may be commanded: keys or patterns, separated by commas; &apos;power&apos; is the power. Without it nothing may be.</source>
-        <translation type="unfinished"></translation>
+        <translation>允许通过命令更改的设置：键或模式，用逗号分隔；“power”是电源。没有此选项则一概不允许。</translation>
     </message>
     <message>
         <source>keys</source>
-        <translation type="unfinished"></translation>
+        <translation>键</translation>
     </message>
     <message>
         <source>Commands that each projector takes in a minute.</source>
-        <translation type="unfinished"></translation>
+        <translation>每台投影机每分钟接受的命令数。</translation>
     </message>
     <message>
         <source>n</source>
-        <translation type="unfinished"></translation>
+        <translation>数目</translation>
     </message>
     <message>
         <source>Names in discovery messages, and messages of this program, are in the language &lt;name&gt;, such as de or zh-TW.</source>
-        <translation type="unfinished"></translation>
+        <translation>发现消息中的名称和此程序的消息使用语言&lt;名称&gt;，例如 de 或 zh-TW。</translation>
     </message>
     <message>
         <source>name</source>
@@ -1195,19 +1196,19 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     </message>
     <message>
         <source>&apos;%1&apos; is no time from %2 seconds to a day</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”不是从 %2 秒到一天的时间</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no topic</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”不是主题</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no share such as 2/5</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”不是 2/5 这样的份额</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no numeric address with a port</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”不是带端口的数字地址</translation>
     </message>
     <message>
         <source>cannot read %1: %2</source>
@@ -1215,55 +1216,55 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     </message>
     <message>
         <source>%1 is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 为空</translation>
     </message>
     <message>
         <source>--%1 needs --broker</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 需要 --broker</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no host with a port</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”不是带端口的主机</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is neither 3 nor 5</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”既不是 3 也不是 5</translation>
     </message>
     <message>
         <source>--cert-file and --key-file need each other</source>
-        <translation type="unfinished"></translation>
+        <translation>--cert-file 和 --key-file 必须同时使用</translation>
     </message>
     <message>
         <source>--allow-commands: &apos;%1&apos; is no setting that may be commanded</source>
-        <translation type="unfinished"></translation>
+        <translation>--allow-commands：“%1”不是可以通过命令更改的设置</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no number from 1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”不是从 1 到 %2 的数字</translation>
     </message>
     <message>
         <source>Watches projectors, and tells a metrics store and a message broker of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>监视投影机，并向指标存储和消息代理报告其状态。</translation>
     </message>
     <message>
         <source>unexpected argument &apos;%1&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>意外的参数“%1”</translation>
     </message>
     <message>
         <source>--profiles is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>缺少 --profiles</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no numeric address</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”不是数字地址</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no folder</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”不是文件夹</translation>
     </message>
     <message>
         <source>there are no texts in &apos;%1&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”中没有文本</translation>
     </message>
 </context>
 <context>
@@ -1388,10 +1389,6 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
         <translation>不显示已执行成功的命令</translation>
     </message>
     <message>
-        <source>Projector, command or result</source>
-        <translation>投影机、命令或结果</translation>
-    </message>
-    <message>
         <source>Filter the log</source>
         <translation>筛选记录</translation>
     </message>
@@ -1408,6 +1405,18 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
         <translation>
             <numerusform>要删除全部 %n 条记录吗？</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Projector, setting, command or result</source>
+        <translation>投影机、设置、命令或结果</translation>
+    </message>
+    <message>
+        <source>All projectors</source>
+        <translation>所有投影机</translation>
+    </message>
+    <message>
+        <source>Show the commands of</source>
+        <translation>显示其命令</translation>
     </message>
 </context>
 <context>
@@ -1463,6 +1472,63 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     <message>
         <source>not yet so</source>
         <translation>尚未生效</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>设置</translation>
+    </message>
+</context>
+<context>
+    <name>ComparisonDialog</name>
+    <message>
+        <source>Progress</source>
+        <translation>进度</translation>
+    </message>
+    <message>
+        <source>&amp;Ask Again</source>
+        <translation>重新询问(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>应用(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Reading settings…</source>
+        <translation>正在读取设置…</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Nothing differs.</source>
+        <translation>没有差异。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors differ.</source>
+        <translation>
+            <numerusform>%n 台投影机有差异。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors have all these settings already.</source>
+        <translation>
+            <numerusform>%n 台投影机已具有全部这些设置。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors could not be read.</source>
+        <translation>
+            <numerusform>%n 台投影机无法读取。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1680,35 +1746,76 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     </message>
 </context>
 <context>
+    <name>DifferenceTree</name>
+    <message>
+        <source>Setting</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>当前</translation>
+    </message>
+    <message>
+        <source>Differences</source>
+        <translation>差异</translation>
+    </message>
+    <message>
+        <source>First the other sources and modes</source>
+        <translation>首先是其他输入源和模式</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings</source>
+        <translation>
+            <numerusform>%n 项设置</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings do not apply to this model</source>
+        <translation>
+            <numerusform>%n 项设置不适用于此型号</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings cannot be read now</source>
+        <translation>
+            <numerusform>%n 项设置现在无法读取</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
     <name>Discovery</name>
     <message>
         <source>Problem: fan</source>
-        <translation type="unfinished"></translation>
+        <translation>问题：风扇</translation>
     </message>
     <message>
         <source>Problem: lamp</source>
-        <translation type="unfinished"></translation>
+        <translation>问题：灯泡</translation>
     </message>
     <message>
         <source>Problem: temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>问题：温度</translation>
     </message>
     <message>
         <source>Problem: cover</source>
-        <translation type="unfinished"></translation>
+        <translation>问题：机盖</translation>
     </message>
     <message>
         <source>Problem: filter</source>
-        <translation type="unfinished"></translation>
+        <translation>问题：过滤网</translation>
     </message>
     <message>
         <source>Problem: other</source>
         <extracomment>Any other problem of a projector.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>问题：其他</translation>
     </message>
     <message>
         <source>Reachable</source>
-        <translation type="unfinished"></translation>
+        <translation>可访问</translation>
     </message>
     <message>
         <source>Power</source>
@@ -1908,6 +2015,13 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
             <numerusform>%n 台有警报</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n not watched</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n 台未监视</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>FleetWork</name>
@@ -1986,6 +2100,10 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     <message>
         <source>password missing or wrong</source>
         <translation>缺少密码或密码错误</translation>
+    </message>
+    <message>
+        <source>the projector reports none of its settings now</source>
+        <translation>投影机现在不报告任何设置</translation>
     </message>
 </context>
 <context>
@@ -2238,24 +2356,24 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     <message>
         <source>Projector Settings</source>
         <extracomment>What kind of program it is, in the menu.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>投影机设置</translation>
     </message>
     <message>
         <source>Read and change the settings of projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>读取和更改投影机的设置</translation>
     </message>
     <message>
         <source>projector;beamer;brightness;keystone;</source>
         <extracomment>Words that people may search for, each with a semicolon behind it; as many as are useful.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>投影机;投影仪;亮度;梯形校正;</translation>
     </message>
     <message>
         <source>A list that shows how hundreds of projectors are and changes many of them at once, and for each of them a dialog with a tab per group of settings. Every value is read live from the projector, and every change is sent at once. A log shows each command and its result.</source>
-        <translation type="unfinished"></translation>
+        <translation>列表显示数百台投影机的状态，并可同时更改多台；每台投影机都有一个对话框，每组设置一个选项卡。每个值都从投影机实时读取，每次更改都立即发送。日志显示每条命令及其结果。</translation>
     </message>
     <message>
         <source>Projectors can be simulated, with faults that are set by hand.</source>
-        <translation type="unfinished"></translation>
+        <translation>可以模拟投影机，并手动设置故障。</translation>
     </message>
 </context>
 <context>
@@ -2339,6 +2457,26 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
         <source>Quiet hours</source>
         <translation>免打扰时段</translation>
     </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>与桌面相同</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>浅色</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>深色</translation>
+    </message>
+    <message>
+        <source>&amp;Colors</source>
+        <translation>颜色(&amp;C)</translation>
+    </message>
+    <message>
+        <source>(the same time twice: none)</source>
+        <translation>（两个时间相同：不设）</translation>
+    </message>
 </context>
 <context>
     <name>PresetActions</name>
@@ -2379,10 +2517,6 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
         <translation>保存为预设</translation>
     </message>
     <message>
-        <source>Name of the preset:</source>
-        <translation>预设名称：</translation>
-    </message>
-    <message>
         <source>Saved as the preset %1</source>
         <translation>已保存为预设 %1</translation>
     </message>
@@ -2406,21 +2540,92 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
         <source>Put Back</source>
         <translation>恢复应有设置</translation>
     </message>
-    <message>
-        <source>Compare</source>
-        <translation>比较</translation>
-    </message>
-    <message numerus="yes">
-        <source>Put the preset %1 on %n projectors?</source>
-        <translation>
-            <numerusform>要将预设 %1 应用到 %n 台投影机吗？</numerusform>
-        </translation>
-    </message>
     <message numerus="yes">
         <source>Put back the settings of %n projectors?</source>
         <translation>
             <numerusform>要恢复 %n 台投影机的应有设置吗？</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Reading the settings of %1…</source>
+        <translation>正在读取 %1 的设置…</translation>
+    </message>
+    <message>
+        <source>Preset</source>
+        <translation>预设</translation>
+    </message>
+    <message>
+        <source>What It Should Be</source>
+        <translation>应有的设置</translation>
+    </message>
+    <message>
+        <source>Should be</source>
+        <translation>应为</translation>
+    </message>
+</context>
+<context>
+    <name>PresetDialog</name>
+    <message>
+        <source>Save as Preset</source>
+        <translation>保存为预设</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation>预设的设置</translation>
+    </message>
+    <message>
+        <source>&amp;Name of the preset</source>
+        <translation>预设名称(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>全部(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Check all settings</source>
+        <translation>选中所有设置</translation>
+    </message>
+    <message>
+        <source>This &amp;Page</source>
+        <translation>此页(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Check the settings of the selected page, and no others</source>
+        <translation>只选中所选页的设置</translation>
+    </message>
+    <message>
+        <source>N&amp;one</source>
+        <translation>无(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Uncheck all settings</source>
+        <translation>取消选中所有设置</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
+        <translation>不能使用此预设名称：请去掉斜杠和开头的点。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings are checked.</source>
+        <translation>
+            <numerusform>已选中 %n 项设置。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The preset %1 will be replaced.</source>
+        <translation>预设 %1 将被替换。</translation>
     </message>
 </context>
 <context>
@@ -2885,184 +3090,6 @@ a minus in front takes a tag away:</source>
     </message>
 </context>
 <context>
-    <name>RestoreDialog</name>
-    <message>
-        <source>Progress</source>
-        <translation>进度</translation>
-    </message>
-    <message>
-        <source>Apply Settings</source>
-        <translation>应用设置</translation>
-    </message>
-    <message>
-        <source>Compare Settings</source>
-        <translation>比较设置</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>筛选</translation>
-    </message>
-    <message>
-        <source>&amp;Differences only</source>
-        <translation>仅显示差异(&amp;D)</translation>
-    </message>
-    <message>
-        <source>Projector</source>
-        <translation>投影机</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>设置</translation>
-    </message>
-    <message>
-        <source>Here</source>
-        <translation>当前值</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>文件中的值</translation>
-    </message>
-    <message>
-        <source>Result</source>
-        <translation>结果</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>设置</translation>
-    </message>
-    <message>
-        <source>&amp;Apply</source>
-        <translation>应用(&amp;A)</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>停止</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>关闭</translation>
-    </message>
-    <message>
-        <source>not read</source>
-        <translation>未读取</translation>
-    </message>
-    <message>
-        <source>already so</source>
-        <translation>已一致</translation>
-    </message>
-    <message>
-        <source>different</source>
-        <translation>不同</translation>
-    </message>
-    <message>
-        <source>changed</source>
-        <translation>已更改</translation>
-    </message>
-    <message>
-        <source>refused</source>
-        <translation>被拒绝</translation>
-    </message>
-    <message>
-        <source>accepted, not yet so</source>
-        <translation>已接受，尚未生效</translation>
-    </message>
-    <message>
-        <source>refused: the projector is busy or in standby</source>
-        <translation>被拒绝：投影机正忙或处于待机</translation>
-    </message>
-    <message>
-        <source>not confirmed</source>
-        <translation>未确认</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not have it</source>
-        <translation>已跳过：此型号没有该设置</translation>
-    </message>
-    <message>
-        <source>&amp;Compare Again</source>
-        <translation>重新比较(&amp;C)</translation>
-    </message>
-    <message>
-        <source>skipped: this projector does not offer it</source>
-        <translation>已跳过：此投影机不提供该设置</translation>
-    </message>
-    <message>
-        <source>skipped: it is not one to put back</source>
-        <translation>已跳过：该设置不可还原</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not take the value</source>
-        <translation>已跳过：此型号不接受该值</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1：%2</translation>
-    </message>
-    <message>
-        <source>Beforehand: other sources and modes</source>
-        <translation>预先恢复：其他输入源和模式</translation>
-    </message>
-    <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>正在等待已打开对话框的投影机…</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n changed</source>
-        <extracomment>How many settings came to this, in a list such as &quot;12 changed, 3 refused&quot;.</extracomment>
-        <translation>
-            <numerusform>已更改 %n 项</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n different</source>
-        <translation>
-            <numerusform>不同 %n 项</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n already so</source>
-        <translation>
-            <numerusform>已一致 %n 项</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not yet so</source>
-        <translation>
-            <numerusform>尚未生效 %n 项</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n refused</source>
-        <translation>
-            <numerusform>被拒绝 %n 项</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not confirmed</source>
-        <translation>
-            <numerusform>未确认 %n 项</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not read</source>
-        <translation>
-            <numerusform>未读取 %n 项</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n skipped</source>
-        <translation>
-            <numerusform>已跳过 %n 项</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n settings</source>
-        <translation>
-            <numerusform>%n 项设置</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>Search</name>
     <message>
         <source>&quot;%1&quot; is neither an IP address nor a range of them</source>
@@ -3161,14 +3188,6 @@ a minus in front takes a tag away:</source>
         <translation>应用设置(&amp;P)…</translation>
     </message>
     <message>
-        <source>%1: no answer</source>
-        <translation>%1：无应答</translation>
-    </message>
-    <message>
-        <source>%1: nothing can be read</source>
-        <translation>%1：无法读取任何设置</translation>
-    </message>
-    <message>
         <source>Save Settings</source>
         <translation>保存设置</translation>
     </message>
@@ -3185,22 +3204,40 @@ a minus in front takes a tag away:</source>
         <translation>正在读取设置…</translation>
     </message>
     <message>
-        <source>Stop</source>
-        <translation>停止</translation>
-    </message>
-    <message>
         <source>Open Settings</source>
         <translation>打开设置文件</translation>
     </message>
     <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>正在等待已打开对话框的投影机…</translation>
+        <source>Settings saved in %1.</source>
+        <translation>设置已保存到 %1。</translation>
     </message>
     <message numerus="yes">
-        <source>%1: %n settings cannot be read and are left out</source>
+        <source>Settings of %n projectors saved in %1.</source>
         <translation>
-            <numerusform>%1：有 %n 项设置无法读取，未保存</numerusform>
+            <numerusform>%n 台投影机的设置已保存到 %1。</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings could not be read.</source>
+        <translation>
+            <numerusform>%n 项设置无法读取。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Apply Settings</source>
+        <translation>应用设置</translation>
+    </message>
+    <message>
+        <source>Compare Settings</source>
+        <translation>比较设置</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>The values before are kept in %1.</source>
+        <translation>之前的值保存在 %1 中。</translation>
     </message>
 </context>
 <context>
@@ -3230,26 +3267,26 @@ a minus in front takes a tag away:</source>
     <name>Simulator</name>
     <message>
         <source>--control: the port cannot be had</source>
-        <translation type="unfinished"></translation>
+        <translation>--control：无法使用该端口</translation>
     </message>
     <message>
         <source>there is no projector &apos;%1&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>没有投影机“%1”</translation>
     </message>
 </context>
 <context>
     <name>SimulatorArguments</name>
     <message>
         <source>&apos;%1&apos; is no port.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”不是端口。</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no number from %2 to %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”不是从 %2 到 %3 的数字。</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no time up to an hour.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”不是一小时以内的时间。</translation>
     </message>
     <message>
         <source>Display this help.</source>
@@ -3257,7 +3294,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Serve the projectors of &lt;file&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>提供&lt;文件&gt;中的投影机。</translation>
     </message>
     <message>
         <source>file</source>
@@ -3265,7 +3302,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Serve only the projector &lt;name&gt;; may be given several times.</source>
-        <translation type="unfinished"></translation>
+        <translation>只提供投影机&lt;名称&gt;；可以多次使用。</translation>
     </message>
     <message>
         <source>name</source>
@@ -3273,143 +3310,143 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Listen on &lt;address&gt; instead of 127.0.0.1; with --fleet, the address of the first projector instead of 127.64.0.1.</source>
-        <translation type="unfinished"></translation>
+        <translation>在&lt;地址&gt;而不是 127.0.0.1 上监听；与 --fleet 一起使用时，是第一台投影机的地址，代替 127.64.0.1。</translation>
     </message>
     <message>
         <source>address</source>
-        <translation type="unfinished"></translation>
+        <translation>地址</translation>
     </message>
     <message>
         <source>The first projector is at port &lt;n&gt;, the others at those that follow; 0, as without it, takes any that are free. With --fleet, &lt;n&gt; is the port of every projector for our own protocol, and the next one for PJLink.</source>
-        <translation type="unfinished"></translation>
+        <translation>第一台投影机使用端口&lt;数目&gt;，其他投影机使用其后的端口；0 或不指定时，使用任何空闲端口。与 --fleet 一起使用时，&lt;数目&gt;是每台投影机自有协议的端口，其下一个端口用于 PJLink。</translation>
     </message>
     <message>
         <source>n</source>
-        <translation type="unfinished"></translation>
+        <translation>数目</translation>
     </message>
     <message>
         <source>PJLink asks for &lt;text&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>PJLink 要求输入&lt;文本&gt;。</translation>
     </message>
     <message>
         <source>text</source>
-        <translation type="unfinished"></translation>
+        <translation>文本</translation>
     </message>
     <message>
         <source>Serve each projector on a pseudo terminal too.</source>
-        <translation type="unfinished"></translation>
+        <translation>同时在伪终端上提供每台投影机。</translation>
     </message>
     <message>
         <source>Begin with a fault: %1. Of a share of the projectors: &apos;silent 5%&apos;. May be given several times.</source>
-        <translation type="unfinished"></translation>
+        <translation>以故障开始：%1。对一部分投影机：“silent 5%”。可以多次使用。</translation>
     </message>
     <message>
         <source>fault</source>
-        <translation type="unfinished"></translation>
+        <translation>故障</translation>
     </message>
     <message>
         <source>Everything that is left to chance depends on &lt;n&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>所有随机内容都取决于&lt;数目&gt;。</translation>
     </message>
     <message>
         <source>Listen at port &lt;n&gt; of the loopback address for faults, a line each: projector&apos;s number from 1, or *, and the fault.</source>
-        <translation type="unfinished"></translation>
+        <translation>在环回地址的端口&lt;数目&gt;接收故障，每行一个：投影机的编号（从 1 开始）或 *，以及故障。</translation>
     </message>
     <message>
         <source>Write profiles that lead a host to the served projectors to &lt;file&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>将主机访问所提供投影机的配置写入&lt;文件&gt;。</translation>
     </message>
     <message>
         <source>Serve &lt;n&gt; projectors, made after those of the profiles, each at a loopback address of its own.</source>
-        <translation type="unfinished"></translation>
+        <translation>仿照配置中的投影机提供&lt;数目&gt;台投影机，每台各有一个环回地址。</translation>
     </message>
     <message>
         <source>Of a fleet: what --write-profiles uses; pjlink, network or mixed.</source>
-        <translation type="unfinished"></translation>
+        <translation>投影机群：--write-profiles 使用的方式；pjlink、network 或 mixed。</translation>
     </message>
     <message>
         <source>way</source>
-        <translation type="unfinished"></translation>
+        <translation>方式</translation>
     </message>
     <message>
         <source>Of a fleet: seconds until a projector is on.</source>
-        <translation type="unfinished"></translation>
+        <translation>投影机群：投影机开启所需的秒数。</translation>
     </message>
     <message>
         <source>seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>秒</translation>
     </message>
     <message>
         <source>Of a fleet: seconds until a projector is in standby.</source>
-        <translation type="unfinished"></translation>
+        <translation>投影机群：投影机进入待机所需的秒数。</translation>
     </message>
     <message>
         <source>Of a fleet: so many changes of state in a second happen by themselves.</source>
-        <translation type="unfinished"></translation>
+        <translation>投影机群：每秒自行发生的状态变化数。</translation>
     </message>
     <message>
         <source>Of a fleet: send PJLink&apos;s status notices to this address.</source>
-        <translation type="unfinished"></translation>
+        <translation>投影机群：将 PJLink 的状态通知发送到此地址。</translation>
     </message>
     <message>
         <source>address:port</source>
-        <translation type="unfinished"></translation>
+        <translation>地址:端口</translation>
     </message>
     <message>
         <source>Of a fleet: at the end, write how often each projector was asked to &lt;file&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>投影机群：结束时将每台投影机被询问的次数写入&lt;文件&gt;。</translation>
     </message>
     <message>
         <source>Help and errors are in the language &lt;name&gt;, such as de or zh-TW.</source>
-        <translation type="unfinished"></translation>
+        <translation>帮助和错误使用语言&lt;名称&gt;，例如 de 或 zh-TW。</translation>
     </message>
     <message>
         <source>Serves simulated projectors over TCP, PJLink and pseudo terminals. Prints an address a line, then &quot;ready&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>通过 TCP、PJLink 和伪终端提供模拟投影机。每行显示一个地址，然后显示“ready”。</translation>
     </message>
     <message>
         <source>Unexpected argument &apos;%1&apos;.</source>
-        <translation>多余的参数“%1”。</translation>
+        <translation>意外的参数“%1”。</translation>
     </message>
     <message>
         <source>--%1 needs --fleet.</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 需要 --fleet。</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no address.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”不是地址。</translation>
     </message>
     <message>
         <source>--password: is longer than %1 bytes.</source>
-        <translation type="unfinished"></translation>
+        <translation>--password：超过 %1 字节。</translation>
     </message>
     <message>
         <source>--fault: &apos;%1&apos; is none of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>--fault：“%1”不在 %2 中。</translation>
     </message>
     <message>
         <source>--fleet has no serial lines.</source>
-        <translation type="unfinished"></translation>
+        <translation>--fleet 没有串行线路。</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no IPv4 loopback address.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”不是 IPv4 环回地址。</translation>
     </message>
     <message>
         <source>&apos;%1&apos; leaves too few addresses.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”剩余的地址太少。</translation>
     </message>
     <message>
         <source>&apos;%1&apos; leaves none for PJLink.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”没有给 PJLink 留下端口。</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no IPv4 loopback address with a port.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”不是带端口的 IPv4 环回地址。</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is none of pjlink, network and mixed.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”不是 pjlink、network 或 mixed。</translation>
     </message>
 </context>
 <context>
@@ -3913,6 +3950,16 @@ a minus in front takes a tag away:</source>
         <comment>projectors</comment>
         <translation>
             <numerusform>，%n 台失败</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message numerus="yes">
+        <source>done, %n settings could not be read</source>
+        <translation>
+            <numerusform>完成，%n 项设置无法读取</numerusform>
         </translation>
     </message>
 </context>

@@ -9,7 +9,6 @@
 #include <vector>
 
 #include "Namespace.h"
-#include "snapshots/Restoration.h"
 #include "snapshots/Snapshot.h"
 
 namespace AdvancedControl {
@@ -57,10 +56,16 @@ enum class WorkOutcome : std::uint8_t {
   Stopped,   ///< The job was cancelled; what was sent before stays.
 };
 
-/// A setting of a snapshot that a projector did not have at first: what became of it.
-struct SettingResult {
+/// A setting of a snapshot that is not known to be so on a projector.
+struct SettingDifference {
+  enum class Kind : std::uint8_t {
+    Differs,
+    DoesNotApply,  ///< The model or the projector does not have it, or does not take the value.
+    NotRead,       ///< The projector does not report it now.
+  };
+
   SavedSetting saved;
-  Outcome outcome = Outcome::NotReached;
+  Kind kind = Kind::NotRead;
   std::optional<int> here{};  ///< The present device value, if it is known.
 };
 
@@ -74,7 +79,7 @@ struct WorkResult {
   int unread = 0;                      ///< Settings that are missing in `snapshot`: not readable.
   std::optional<int> differing{};      ///< Settings that differ from the snapshot.
   /// Of a comparison; shared, because a job hands out copies of its results. Null for other work.
-  std::shared_ptr<const std::vector<SettingResult>> settings{};
+  std::shared_ptr<const std::vector<SettingDifference>> differences{};
 };
 
 }  // namespace AdvancedControl

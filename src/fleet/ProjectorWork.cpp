@@ -26,13 +26,29 @@ constexpr Failure kFailures[] = {
     {Outcome::Unknown, "the model does not have it"},
 };
 
-std::shared_ptr<const std::vector<SettingResult>> NotAlreadySo(const Restoration& restoration) {
-  std::vector<SettingResult> results;
+SettingDifference::Kind KindOf(Outcome outcome) {
+  using Kind = SettingDifference::Kind;
+  switch (outcome) {
+    case Outcome::Differs:
+      return Kind::Differs;
+    case Outcome::Unknown:
+    case Outcome::NotOffered:
+    case Outcome::NotSettable:
+    case Outcome::NotAllowed:
+      return Kind::DoesNotApply;
+    default:
+      return Kind::NotRead;
+  }
+}
+
+std::shared_ptr<const std::vector<SettingDifference>> DifferencesIn(
+    const Restoration& restoration) {
+  std::vector<SettingDifference> differences;
   for (const RestoredSetting& restored : restoration.Settings()) {
     if (restored.outcome == Outcome::AlreadySo) continue;
-    results.push_back({restored.saved, restored.outcome, restored.before});
+    differences.push_back({restored.saved, KindOf(restored.outcome), restored.before});
   }
-  return std::make_shared<const std::vector<SettingResult>>(std::move(results));
+  return std::make_shared<const std::vector<SettingDifference>>(std::move(differences));
 }
 
 const Snapshot* SnapshotOf(const SnapshotsById& snapshots, const std::string& id) {
@@ -129,7 +145,7 @@ WorkResult ProjectorWork::Do(const CompareSnapshots& compare) {
   const bool isKnown = differing + restoration.Count(Outcome::AlreadySo) > 0;
   return {.outcome = WorkOutcome::Done,
           .differing = isKnown ? std::optional(differing) : std::nullopt,
-          .settings = NotAlreadySo(restoration)};
+          .differences = DifferencesIn(restoration)};
 }
 
 WorkResult ProjectorWork::Apply(const Snapshot& snapshot) {

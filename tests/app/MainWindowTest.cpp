@@ -22,6 +22,7 @@
 #include <QWheelEvent>
 #include <gtest/gtest.h>
 
+#include "app/desktop/MainWindow.h"
 #include "app/desktop/Preferences.h"
 #include "app/desktop/log/CommandLog.h"
 #include "app/desktop/profiles/ProfileEditor.h"
@@ -32,7 +33,7 @@
 #include "host/CAdvanceDlg.h"
 #include "i18n/Catalog.h"
 #include "pages/common/CTabPage.h"
-#include "tests/app/Work.h"
+#include "tests/app/Windows.h"
 #include "toolkit/FittedScroll.h"
 #include "toolkit/StateLabel.h"
 

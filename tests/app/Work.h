@@ -15,18 +15,6 @@
 
 // Work on many projectors, as the windows show it.
 
-inline const std::vector<ProjectorRow>& Rows(const MainWindow& window) {
-  return window.findChild<ProjectorView*>()->Model().All();
-}
-
-/// Whether all projectors have been asked, and jobs can reach them.
-inline bool AreWatched(const MainWindow& window) {
-  return Soon([&] {
-    return std::ranges::all_of(
-        Rows(window), [](const ProjectorRow& row) { return HealthOf(row) != Health::NotAsked; });
-  });
-}
-
 inline void MakeSilent(const MainWindow& window, std::size_t projector, bool isSilent) {
   ProjectorSession& session = *window.Session(projector);
   session.SetFault({}, {.kind = isSilent ? Fault::Kind::DropOut : Fault::Kind::None});

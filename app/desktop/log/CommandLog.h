@@ -2,7 +2,6 @@
 
 #include <chrono>
 #include <memory>
-#include <set>
 #include <vector>
 
 #include <QTimer>
@@ -12,6 +11,7 @@
 #include "fleet/FleetProfile.h"
 
 class CComboBox;
+class LogTable;
 class QAction;
 class QHeaderView;
 class QLineEdit;
@@ -49,26 +49,20 @@ class CommandLog : public QWidget {
   void Updated();
 
  private:
-  class Cells;
-  class RowsAtFoot;
-
-  void MakeColumns();
   void AddProjectors(const std::vector<CommandLogModel::Entry>& entries);
   void ShowPending();
-  void CopySelected() const;
   void AskAndSave();
   void AskAndClear();
 
   CommandLogModel* model_;
   CommandLogFilter* shown_;
-  RowsAtFoot* view_;
+  LogTable* view_;
   QAction* changesOnly_;
   QAction* errorsOnly_;
   QAction* saveAs_;
   QAction* clear_;
   QLineEdit* filter_;
   CComboBox* projectors_;
-  std::set<QString> known_;              ///< In the list of projectors.
   std::unique_ptr<SettingNames> names_;  ///< Null before the first command.
   std::vector<CommandLogModel::Entry> pending_;
   QTimer gather_;

@@ -143,6 +143,11 @@ QVariant CommandLogModel::headerData(int section, Qt::Orientation orientation, i
   return tr(kTitles[static_cast<std::size_t>(section)]);
 }
 
+CommandLogFilter::CommandLogFilter(CommandLogModel& log, QObject* parent)
+    : QSortFilterProxyModel(parent) {
+  setSourceModel(&log);
+}
+
 void CommandLogFilter::ShowChangesOnly(bool only) {
   changesOnly_ = only;
   invalidateFilter();

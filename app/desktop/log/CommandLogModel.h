@@ -59,7 +59,7 @@ class CommandLogFilter : public QSortFilterProxyModel {
   Q_OBJECT
 
  public:
-  using QSortFilterProxyModel::QSortFilterProxyModel;
+  CommandLogFilter(CommandLogModel& log, QObject* parent);
 
   void ShowChangesOnly(bool only);
   void ShowErrorsOnly(bool only);

@@ -106,11 +106,12 @@ void ComparisonDialog::ShowResult() {
     return static_cast<int>(std::ranges::count_if(lines, is));
   };
   const int differing = count([](const WorkLine& line) {
-    return line.settings && std::ranges::find(*line.settings, Outcome::Differs,
-                                              &SettingResult::outcome) != line.settings->end();
+    return line.differences &&
+           std::ranges::find(*line.differences, SettingDifference::Kind::Differs,
+                             &SettingDifference::kind) != line.differences->end();
   });
   const int same =
-      count([](const WorkLine& line) { return line.settings && line.settings->empty(); });
+      count([](const WorkLine& line) { return line.differences && line.differences->empty(); });
   const int failed = count(&WorkLine::HasFailed);
   QStringList sentences;
   if (differing == 0) sentences += tr("Nothing differs.");

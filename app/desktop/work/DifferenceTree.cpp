@@ -12,25 +12,8 @@ namespace {
 
 enum Column { kSetting, kNow, kWanted, kColumnCount };
 
-constexpr int kPlaceRole = Qt::UserRole;  // of the projector, or of the setting in its results
+constexpr int kPlaceRole = Qt::UserRole;  // of the projector, or among its differences
 constexpr int kBeforehand = -1;           // the place of the line for all of these
-
-/// What several outcomes have in common for a person.
-enum class Meaning { Differs, DoesNotApply, NotRead };
-
-Meaning MeaningOf(Outcome outcome) {
-  switch (outcome) {
-    case Outcome::Unknown:
-    case Outcome::NotOffered:
-    case Outcome::NotSettable:
-    case Outcome::NotAllowed:
-      return Meaning::DoesNotApply;
-    case Outcome::Differs:
-      return Meaning::Differs;
-    default:
-      return Meaning::NotRead;
-  }
-}
 
 QString Wide(const std::string& text) { return QString::fromStdString(text); }
 
@@ -82,9 +65,10 @@ void DifferenceTree::Show(const std::vector<ComparedProjector>& projectors,
 void DifferenceTree::AddProjector(std::size_t index, const ComparedProjector& projector,
                                   const WorkLine& line) {
   if (line.outcome <= WorkOutcome::Working) return;
-  const auto results = line.settings ? *line.settings : std::vector<SettingResult>();
-  const bool hasBeforehand = isCheckable_ && line.settings && !projector.wanted->beforehand.empty();
-  if (!line.HasFailed() && results.empty() && !hasBeforehand) return;
+  const auto found = line.differences ? *line.differences : std::vector<SettingDifference>();
+  const bool hasBeforehand =
+      isCheckable_ && line.differences && !projector.wanted->beforehand.empty();
+  if (!line.HasFailed() && found.empty() && !hasBeforehand) return;
   auto* branch = new QTreeWidgetItem(this, {projector.name});
   branch->setData(kSetting, kPlaceRole, static_cast<int>(index));
   QFont bold = font();
@@ -101,12 +85,11 @@ void DifferenceTree::AddProjector(std::size_t index, const ComparedProjector& pr
   }
   int foreign = 0;
   int unread = 0;
-  for (std::size_t i = 0; i < results.size(); ++i) {
-    const Meaning meaning = MeaningOf(results[i].outcome);
-    foreign += meaning == Meaning::DoesNotApply;
-    unread += meaning == Meaning::NotRead;
-    if (meaning == Meaning::Differs)
-      AddDifference(*branch, projector, results[i], static_cast<int>(i));
+  for (std::size_t i = 0; i < found.size(); ++i) {
+    foreign += found[i].kind == SettingDifference::Kind::DoesNotApply;
+    unread += found[i].kind == SettingDifference::Kind::NotRead;
+    if (found[i].kind == SettingDifference::Kind::Differs)
+      AddDifference(*branch, projector, found[i], static_cast<int>(i));
   }
   if (isCheckable_ && branch->childCount() > 0) Check(*branch, Qt::Checked);
   if (foreign > 0)
@@ -115,13 +98,13 @@ void DifferenceTree::AddProjector(std::size_t index, const ComparedProjector& pr
 }
 
 void DifferenceTree::AddDifference(QTreeWidgetItem& branch, const ComparedProjector& projector,
-                                   const SettingResult& result, int place) {
+                                   const SettingDifference& difference, int place) {
   const auto& model = projector.target.model;
-  const ModelSetting& setting = *models_.Of(model).Find(result.saved.key);
+  const ModelSetting& setting = *models_.Of(model).Find(difference.saved.key);
   auto* leaf = new QTreeWidgetItem(
-      &branch, {NameOf(model, result.saved),
-                result.here ? Wide(texts_.Value(setting, *result.here)) : QString(),
-                Wide(texts_.Value(setting, result.saved.value))});
+      &branch, {NameOf(model, difference.saved),
+                difference.here ? Wide(texts_.Value(setting, *difference.here)) : QString(),
+                Wide(texts_.Value(setting, difference.saved.value))});
   leaf->setData(kSetting, kPlaceRole, place);
   if (isCheckable_) Check(*leaf, Qt::Checked);
 }
@@ -188,7 +171,7 @@ SnapshotsById DifferenceTree::Checked(const std::vector<ComparedProjector>& proj
       if (place == kBeforehand) {
         part.beforehand = beforehand;
       } else {
-        part.settings.push_back((*lines[index].settings)[static_cast<std::size_t>(place)].saved);
+        part.settings.push_back((*lines[index].differences)[static_cast<std::size_t>(place)].saved);
       }
     }
     if (!part.settings.empty() || !part.beforehand.empty())

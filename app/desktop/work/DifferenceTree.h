@@ -44,7 +44,7 @@ class DifferenceTree : public QTreeWidget {
  private:
   void AddProjector(std::size_t index, const ComparedProjector& projector, const WorkLine& line);
   void AddDifference(QTreeWidgetItem& branch, const ComparedProjector& projector,
-                     const SettingResult& result, int place);
+                     const SettingDifference& difference, int place);
   void AddRemark(QTreeWidgetItem& branch, const QString& text);
   QString NameOf(const std::shared_ptr<const ModelData>& model, const SavedSetting& saved);
   void TakeCheck(QTreeWidgetItem* item);

@@ -132,7 +132,7 @@ void WorkRun::Collect(const Job& job) {
     if (!results[i].setting.empty())
       line.reason = tr("%1: %2").arg(QString::fromStdString(results[i].setting), line.reason);
     line.unread = results[i].unread;
-    line.settings = results[i].settings;
+    line.differences = results[i].differences;
     if (results[i].snapshot)
       taken_.try_emplace(id, std::make_shared<const Snapshot>(*results[i].snapshot));
   }

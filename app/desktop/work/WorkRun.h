@@ -21,7 +21,7 @@ struct WorkLine {
   WorkOutcome outcome = WorkOutcome::Waiting;
   QString reason{};
   int unread = 0;  ///< Settings that are missing in the snapshot that was taken.
-  std::shared_ptr<const std::vector<SettingResult>> settings{};  ///< Of a comparison.
+  std::shared_ptr<const std::vector<SettingDifference>> differences{};  ///< Of a comparison.
 
   bool HasFailed() const {
     return outcome == WorkOutcome::Refused || outcome == WorkOutcome::NoAnswer ||

@@ -1811,7 +1811,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -1999,7 +1999,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     <message>
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
-        <translation>%1 : %2, %3 ms</translation>
+        <translation>%1&#xa0;: %2, %3&#xa0;ms</translation>
     </message>
 </context>
 <context>
@@ -2991,7 +2991,7 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     </message>
     <message>
         <source>This could not be done; nothing was changed.</source>
-        <translation>Cela n’a pas été possible ; rien n’a été modifié.</translation>
+        <translation>Cela n’a pas été possible&#xa0;; rien n’a été modifié.</translation>
     </message>
 </context>
 <context>
@@ -3798,8 +3798,8 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     <message numerus="yes">
         <source>Blank the picture of %n projectors?</source>
         <translation>
-            <numerusform>Afficher un écran vide sur %n projecteur ?</numerusform>
-            <numerusform>Afficher un écran vide sur %n projecteurs ?</numerusform>
+            <numerusform>Afficher un écran vide sur %n projecteur&#xa0;?</numerusform>
+            <numerusform>Afficher un écran vide sur %n projecteurs&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
@@ -3809,8 +3809,8 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     <message numerus="yes">
         <source>Show the picture of %n projectors?</source>
         <translation>
-            <numerusform>Afficher l’image de %n projecteur ?</numerusform>
-            <numerusform>Afficher l’image de %n projecteurs ?</numerusform>
+            <numerusform>Afficher l’image de %n projecteur&#xa0;?</numerusform>
+            <numerusform>Afficher l’image de %n projecteurs&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
@@ -3824,8 +3824,8 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     <message numerus="yes">
         <source>Mute the sound of %n projectors?</source>
         <translation>
-            <numerusform>Couper le son de %n projecteur ?</numerusform>
-            <numerusform>Couper le son de %n projecteurs ?</numerusform>
+            <numerusform>Couper le son de %n projecteur&#xa0;?</numerusform>
+            <numerusform>Couper le son de %n projecteurs&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
@@ -3835,8 +3835,8 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     <message numerus="yes">
         <source>Unmute the sound of %n projectors?</source>
         <translation>
-            <numerusform>Rétablir le son de %n projecteur ?</numerusform>
-            <numerusform>Rétablir le son de %n projecteurs ?</numerusform>
+            <numerusform>Rétablir le son de %n projecteur&#xa0;?</numerusform>
+            <numerusform>Rétablir le son de %n projecteurs&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
@@ -3850,8 +3850,8 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     <message numerus="yes">
         <source>Freeze the picture of %n projectors?</source>
         <translation>
-            <numerusform>Arrêter l’image de %n projecteur ?</numerusform>
-            <numerusform>Arrêter l’image de %n projecteurs ?</numerusform>
+            <numerusform>Arrêter l’image de %n projecteur&#xa0;?</numerusform>
+            <numerusform>Arrêter l’image de %n projecteurs&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
@@ -3861,8 +3861,8 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     <message numerus="yes">
         <source>Release the picture of %n projectors?</source>
         <translation>
-            <numerusform>Libérer l’image de %n projecteur ?</numerusform>
-            <numerusform>Libérer l’image de %n projecteurs ?</numerusform>
+            <numerusform>Libérer l’image de %n projecteur&#xa0;?</numerusform>
+            <numerusform>Libérer l’image de %n projecteurs&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
@@ -3876,15 +3876,15 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     <message numerus="yes">
         <source>Switch on %n projectors?</source>
         <translation>
-            <numerusform>Allumer %n projecteur ?</numerusform>
-            <numerusform>Allumer %n projecteurs ?</numerusform>
+            <numerusform>Allumer %n projecteur&#xa0;?</numerusform>
+            <numerusform>Allumer %n projecteurs&#xa0;?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Switch off %n projectors?</source>
         <translation>
-            <numerusform>Éteindre %n projecteur ?</numerusform>
-            <numerusform>Éteindre %n projecteurs ?</numerusform>
+            <numerusform>Éteindre %n projecteur&#xa0;?</numerusform>
+            <numerusform>Éteindre %n projecteurs&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
@@ -3894,8 +3894,8 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     <message numerus="yes">
         <source>Choose the input %1 on %n projectors?</source>
         <translation>
-            <numerusform>Choisir l’entrée %1 sur %n projecteur ?</numerusform>
-            <numerusform>Choisir l’entrée %1 sur %n projecteurs ?</numerusform>
+            <numerusform>Choisir l’entrée %1 sur %n projecteur&#xa0;?</numerusform>
+            <numerusform>Choisir l’entrée %1 sur %n projecteurs&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
@@ -4016,7 +4016,7 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message numerus="yes">
         <source>done, %n settings could not be read</source>

@@ -45,12 +45,12 @@ for folder in */; do
     wrong=1
   fi
 done
-# The folders of the host application include none of each other except projectors and presets; the
-# windows at the top level combine them.
+# The folders of the host application include none of each other except projectors; the windows at
+# the top level combine them.
 for folder in desktop/*/; do
   folder=${folder%/}
   if grep -rnE --include='*.h' --include='*.cpp' '^#include "app/desktop/' "$folder" |
-    grep -vE "#include \"app/($folder|desktop/(projectors|presets))/|#include \"app/desktop/(Mnemonic|Modal)\.h\""; then
+    grep -vE "#include \"app/($folder|desktop/projectors)/|#include \"app/desktop/(Mnemonic|Modal)\.h\""; then
     echo "app/$folder includes another folder of the host application"
     wrong=1
   fi

@@ -152,16 +152,8 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <translation>mit gespeicherten Einstellungen vergleichen</translation>
     </message>
     <message>
-        <source>Prints what differs from a file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder.</source>
-        <translation>Gibt aus, was von einer Datei („-“ ist die Standardeingabe) oder von der eigenen Datei jedes Projektors in einem Ordner abweicht.</translation>
-    </message>
-    <message>
         <source>restore saved settings</source>
         <translation>gespeicherte Einstellungen wiederherstellen</translation>
-    </message>
-    <message>
-        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation>Liest die Projektoren, sendet, was von der Datei („-“ ist die Standardeingabe) oder von der eigenen Datei jedes Projektors in einem Ordner abweicht, und liest es zurück. Was ersetzt wird, wird vorher gesichert, damit „acctl undo“ es wiederherstellen kann. Ein unterbrochener Lauf kann jederzeit wiederholt werden.</translation>
     </message>
     <message>
         <source>undo the last run of set or apply</source>
@@ -1013,6 +1005,14 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <source>--until: &apos;%1&apos; is not KEY=VALUE</source>
         <translation>--until: „%1“ ist nicht KEY=VALUE</translation>
     </message>
+    <message>
+        <source>Prints what differs from a file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -1401,10 +1401,6 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <translation>&amp;Kopieren</translation>
     </message>
     <message>
-        <source>Projector, command or result</source>
-        <translation>Projektor, Befehl oder Ergebnis</translation>
-    </message>
-    <message>
         <source>Filter the log</source>
         <translation>Protokoll filtern</translation>
     </message>
@@ -1430,6 +1426,18 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <message>
         <source>Clear</source>
         <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Projector, setting, command or result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All projectors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the commands of</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1485,6 +1493,121 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <message>
         <source>ok</source>
         <translation>ok</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Einstellung</translation>
+    </message>
+</context>
+<context>
+    <name>ComparisonDialog</name>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>&amp;Ask Again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>&amp;Anwenden</translation>
+    </message>
+    <message>
+        <source>Reading settings…</source>
+        <translation>Einstellungen werden gelesen …</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Nothing differs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors differ.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors have all these settings already.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors could not be read.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionFields</name>
+    <message>
+        <source>&amp;Reached through</source>
+        <translation>E&amp;rreichbar über</translation>
+    </message>
+    <message>
+        <source>Connect&amp;ion</source>
+        <translation>Ver&amp;bindung</translation>
+    </message>
+    <message>
+        <source>&amp;Address</source>
+        <translation>&amp;Adresse</translation>
+    </message>
+    <message>
+        <source>&amp;Port</source>
+        <translation>&amp;Port</translation>
+    </message>
+    <message>
+        <source>Pass&amp;word</source>
+        <translation>Pass&amp;wort</translation>
+    </message>
+    <message>
+        <source>Port n&amp;umber</source>
+        <translation>Portn&amp;ummer</translation>
+    </message>
+    <message>
+        <source>&amp;Device</source>
+        <translation>&amp;Gerät</translation>
+    </message>
+    <message>
+        <source>&amp;Baud</source>
+        <translation>Ba&amp;udrate</translation>
+    </message>
+    <message>
+        <source>As its family</source>
+        <translation>Wie die Familie</translation>
+    </message>
+    <message>
+        <source>Simulated</source>
+        <translation>Simuliert</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Netzwerk</translation>
+    </message>
+    <message>
+        <source>Serial port</source>
+        <translation>Serielle Schnittstelle</translation>
+    </message>
+    <message>
+        <source>%1 is no address.</source>
+        <translation>%1 ist keine Adresse.</translation>
     </message>
 </context>
 <context>
@@ -1645,6 +1768,50 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <message>
         <source>nothing yet</source>
         <translation>noch nichts</translation>
+    </message>
+</context>
+<context>
+    <name>DifferenceTree</name>
+    <message>
+        <source>Setting</source>
+        <translation>Einstellung</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Differences</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First the other sources and modes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings</source>
+        <translation>
+            <numerusform>%n Einstellung</numerusform>
+            <numerusform>%n Einstellungen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings do not apply to this model</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings cannot be read now</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -1830,8 +1997,9 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source> %1 ms</source>
-        <translation> %1 ms</translation>
+        <source>%1: %2, %3 ms</source>
+        <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
+        <translation>%1: %2, %3 ms</translation>
     </message>
 </context>
 <context>
@@ -1879,6 +2047,14 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <message>
         <source>oldest answer %1</source>
         <translation>älteste Antwort %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not watched</source>
+        <comment>projectors</comment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1958,6 +2134,10 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <message>
         <source>password missing or wrong</source>
         <translation>Passwort fehlt oder ist falsch</translation>
+    </message>
+    <message>
+        <source>the projector reports none of its settings now</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2168,6 +2348,33 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
 </context>
 <context>
+    <name>ModelFields</name>
+    <message>
+        <source>&amp;Family</source>
+        <translation>&amp;Familie</translation>
+    </message>
+    <message>
+        <source>&amp;Model</source>
+        <translation>&amp;Modell</translation>
+    </message>
+    <message>
+        <source>All &amp;fields of the model</source>
+        <translation>Alle Fel&amp;der des Modells</translation>
+    </message>
+    <message>
+        <source>Dialog &amp;type</source>
+        <translation>Dialogt&amp;yp</translation>
+    </message>
+    <message>
+        <source>Model cod&amp;e</source>
+        <translation>Modell&amp;code</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+</context>
+<context>
     <name>Notify</name>
     <message>
         <source>Advanced Control</source>
@@ -2285,6 +2492,26 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <source>Quiet hours</source>
         <translation>Ruhezeit</translation>
     </message>
+    <message>
+        <source>As the desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Colors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(the same time twice: none)</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetActions</name>
@@ -2325,10 +2552,6 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <translation>Als Vorgabe speichern</translation>
     </message>
     <message>
-        <source>Name of the preset:</source>
-        <translation>Name der Vorgabe:</translation>
-    </message>
-    <message>
         <source>Saved as the preset %1</source>
         <translation>Als Vorgabe %1 gespeichert</translation>
     </message>
@@ -2339,13 +2562,6 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <message>
         <source>Preset %1</source>
         <translation>Vorgabe %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>Put the preset %1 on %n projectors?</source>
-        <translation>
-            <numerusform>Vorgabe %1 auf %n Projektor anwenden?</numerusform>
-            <numerusform>Vorgabe %1 auf %n Projektoren anwenden?</numerusform>
-        </translation>
     </message>
     <message>
         <source>Should Be Like</source>
@@ -2367,8 +2583,86 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         </translation>
     </message>
     <message>
-        <source>Compare</source>
-        <translation>Vergleichen</translation>
+        <source>Reading the settings of %1…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What It Should Be</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Should be</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PresetDialog</name>
+    <message>
+        <source>Save as Preset</source>
+        <translation>Als Vorgabe speichern</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Einstellung</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Name of the preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check all settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This &amp;Page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check the settings of the selected page, and no others</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>N&amp;one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Uncheck all settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings are checked.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The preset %1 will be replaced.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2380,26 +2674,6 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
 </context>
 <context>
     <name>ProfileActions</name>
-    <message>
-        <source>&amp;Open Profiles…</source>
-        <translation>Profile ö&amp;ffnen …</translation>
-    </message>
-    <message>
-        <source>&amp;Reload</source>
-        <translation>&amp;Neu laden</translation>
-    </message>
-    <message>
-        <source>&amp;Save Profiles As…</source>
-        <translation>Profile &amp;speichern unter …</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Rückgängig</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;Wiederholen</translation>
-    </message>
     <message>
         <source>&amp;Add…</source>
         <translation>&amp;Hinzufügen …</translation>
@@ -2419,26 +2693,6 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <message>
         <source>Ta&amp;g…</source>
         <translation>Schlag&amp;wörter …</translation>
-    </message>
-    <message>
-        <source>This could not be done; nothing was changed.</source>
-        <translation>Das war nicht möglich; nichts wurde geändert.</translation>
-    </message>
-    <message>
-        <source>Open Profiles</source>
-        <translation>Profile öffnen</translation>
-    </message>
-    <message>
-        <source>Profiles (*.json);;All files (*)</source>
-        <translation>Profile (*.json);;Alle Dateien (*)</translation>
-    </message>
-    <message>
-        <source>Reload</source>
-        <translation>Neu laden</translation>
-    </message>
-    <message>
-        <source>Save Profiles As</source>
-        <translation>Profile speichern unter</translation>
     </message>
     <message>
         <source>Add</source>
@@ -2531,58 +2785,6 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
         <translation>&amp;Name</translation>
     </message>
     <message>
-        <source>&amp;Family</source>
-        <translation>&amp;Familie</translation>
-    </message>
-    <message>
-        <source>&amp;Model</source>
-        <translation>&amp;Modell</translation>
-    </message>
-    <message>
-        <source>Dialog &amp;type</source>
-        <translation>Dialogt&amp;yp</translation>
-    </message>
-    <message>
-        <source>Model cod&amp;e</source>
-        <translation>Modell&amp;code</translation>
-    </message>
-    <message>
-        <source>&amp;Reached through</source>
-        <translation>E&amp;rreichbar über</translation>
-    </message>
-    <message>
-        <source>Connect&amp;ion</source>
-        <translation>Ver&amp;bindung</translation>
-    </message>
-    <message>
-        <source>&amp;Address</source>
-        <translation>&amp;Adresse</translation>
-    </message>
-    <message>
-        <source>&amp;Port</source>
-        <translation>&amp;Port</translation>
-    </message>
-    <message>
-        <source>Pass&amp;word</source>
-        <translation>Pass&amp;wort</translation>
-    </message>
-    <message>
-        <source>Port n&amp;umber</source>
-        <translation>Portn&amp;ummer</translation>
-    </message>
-    <message>
-        <source>&amp;Device</source>
-        <translation>&amp;Gerät</translation>
-    </message>
-    <message>
-        <source>&amp;Baud</source>
-        <translation>Ba&amp;udrate</translation>
-    </message>
-    <message>
-        <source>All &amp;fields of the model</source>
-        <translation>Alle Fel&amp;der des Modells</translation>
-    </message>
-    <message>
         <source>Add Projector</source>
         <translation>Projektor hinzufügen</translation>
     </message>
@@ -2591,36 +2793,8 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
         <translation>Projektor bearbeiten</translation>
     </message>
     <message>
-        <source>Save Profiles As…</source>
-        <translation>Profile speichern unter …</translation>
-    </message>
-    <message>
-        <source>%1 cannot be changed.</source>
-        <translation>%1 kann nicht geändert werden.</translation>
-    </message>
-    <message>
         <source>Duplicate Projector</source>
         <translation>Projektor duplizieren</translation>
-    </message>
-    <message>
-        <source>None</source>
-        <translation>Keine</translation>
-    </message>
-    <message>
-        <source>As its family</source>
-        <translation>Wie die Familie</translation>
-    </message>
-    <message>
-        <source>Simulated</source>
-        <translation>Simuliert</translation>
-    </message>
-    <message>
-        <source>Network</source>
-        <translation>Netzwerk</translation>
-    </message>
-    <message>
-        <source>Serial port</source>
-        <translation>Serielle Schnittstelle</translation>
     </message>
     <message>
         <source>Still to be filled in: %1</source>
@@ -2629,10 +2803,6 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>%1 is no address.</source>
-        <translation>%1 ist keine Adresse.</translation>
     </message>
 </context>
 <context>
@@ -2767,6 +2937,64 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
     </message>
 </context>
 <context>
+    <name>ProfileFileActions</name>
+    <message>
+        <source>&amp;Open Profiles…</source>
+        <translation>Profile ö&amp;ffnen …</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>&amp;Neu laden</translation>
+    </message>
+    <message>
+        <source>&amp;Save Profiles As…</source>
+        <translation>Profile &amp;speichern unter …</translation>
+    </message>
+    <message>
+        <source>Open Profiles</source>
+        <translation>Profile öffnen</translation>
+    </message>
+    <message>
+        <source>Profiles (*.json);;All files (*)</source>
+        <translation>Profile (*.json);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Neu laden</translation>
+    </message>
+    <message>
+        <source>Save Profiles As</source>
+        <translation>Profile speichern unter</translation>
+    </message>
+    <message>
+        <source>Read-Only File</source>
+        <translation>Schreibgeschützte Datei</translation>
+    </message>
+    <message>
+        <source>%1 cannot be changed. Save the profiles in another file first.</source>
+        <translation>%1 lässt sich nicht ändern. Speichern Sie die Profile zuerst in einer anderen Datei.</translation>
+    </message>
+    <message>
+        <source>Save Profiles As…</source>
+        <translation>Profile speichern unter …</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileHistory</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>This could not be done; nothing was changed.</source>
+        <translation>Das war nicht möglich; nichts wurde geändert.</translation>
+    </message>
+</context>
+<context>
     <name>Program</name>
     <message>
         <source>no profiles at %1; name a file with --profiles</source>
@@ -2813,7 +3041,7 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
     </message>
 </context>
 <context>
-    <name>ProjectorTableModel</name>
+    <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
         <translation>Name</translation>
@@ -2901,193 +3129,6 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
         <source>Folder</source>
         <comment>All other platforms</comment>
         <translation>Ordner</translation>
-    </message>
-</context>
-<context>
-    <name>RestoreDialog</name>
-    <message>
-        <source>Projector</source>
-        <translation>Projektor</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>Einstellung</translation>
-    </message>
-    <message>
-        <source>Here</source>
-        <translation>Hier</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>Datei</translation>
-    </message>
-    <message>
-        <source>Result</source>
-        <translation>Ergebnis</translation>
-    </message>
-    <message>
-        <source>not read</source>
-        <translation>nicht gelesen</translation>
-    </message>
-    <message>
-        <source>already so</source>
-        <translation>unverändert</translation>
-    </message>
-    <message>
-        <source>different</source>
-        <translation>abweichend</translation>
-    </message>
-    <message>
-        <source>changed</source>
-        <translation>geändert</translation>
-    </message>
-    <message>
-        <source>refused</source>
-        <translation>abgelehnt</translation>
-    </message>
-    <message>
-        <source>accepted, not yet so</source>
-        <translation>angenommen, noch nicht wirksam</translation>
-    </message>
-    <message>
-        <source>refused: the projector is busy or in standby</source>
-        <translation>abgelehnt: der Projektor ist beschäftigt oder im Standby</translation>
-    </message>
-    <message>
-        <source>not confirmed</source>
-        <translation>nicht bestätigt</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not have it</source>
-        <translation>übersprungen: dieses Modell hat es nicht</translation>
-    </message>
-    <message>
-        <source>skipped: this projector does not offer it</source>
-        <translation>übersprungen: dieser Projektor bietet es nicht an</translation>
-    </message>
-    <message>
-        <source>skipped: it is not one to put back</source>
-        <translation>übersprungen: wird nicht wiederhergestellt</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not take the value</source>
-        <translation>übersprungen: dieses Modell nimmt den Wert nicht an</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n changed</source>
-        <extracomment>How many settings came to this, in a list such as &quot;12 changed, 3 refused&quot;.</extracomment>
-        <translation>
-            <numerusform>%n geändert</numerusform>
-            <numerusform>%n geändert</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n different</source>
-        <translation>
-            <numerusform>%n abweichend</numerusform>
-            <numerusform>%n abweichend</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n already so</source>
-        <translation>
-            <numerusform>%n unverändert</numerusform>
-            <numerusform>%n unverändert</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not yet so</source>
-        <translation>
-            <numerusform>%n noch nicht wirksam</numerusform>
-            <numerusform>%n noch nicht wirksam</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n refused</source>
-        <translation>
-            <numerusform>%n abgelehnt</numerusform>
-            <numerusform>%n abgelehnt</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not confirmed</source>
-        <translation>
-            <numerusform>%n nicht bestätigt</numerusform>
-            <numerusform>%n nicht bestätigt</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not read</source>
-        <translation>
-            <numerusform>%n nicht gelesen</numerusform>
-            <numerusform>%n nicht gelesen</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n skipped</source>
-        <translation>
-            <numerusform>%n übersprungen</numerusform>
-            <numerusform>%n übersprungen</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Apply Settings</source>
-        <translation>Einstellungen anwenden</translation>
-    </message>
-    <message>
-        <source>Compare Settings</source>
-        <translation>Einstellungen vergleichen</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filtern</translation>
-    </message>
-    <message>
-        <source>&amp;Differences only</source>
-        <translation>Nur &amp;Unterschiede</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Einstellungen</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Fortschritt</translation>
-    </message>
-    <message>
-        <source>&amp;Compare Again</source>
-        <translation>Noch einmal &amp;vergleichen</translation>
-    </message>
-    <message>
-        <source>&amp;Apply</source>
-        <translation>&amp;Anwenden</translation>
-    </message>
-    <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>Wartet auf den Projektor eines offenen Dialogs …</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Anhalten</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Schließen</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>Beforehand: other sources and modes</source>
-        <translation>Vorher: andere Quellen und Betriebsarten</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n settings</source>
-        <translation>
-            <numerusform>%n Einstellung</numerusform>
-            <numerusform>%n Einstellungen</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -3191,21 +3232,6 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
         <translation>Einstellungen &amp;anwenden …</translation>
     </message>
     <message>
-        <source>%1: no answer</source>
-        <translation>%1: keine Antwort</translation>
-    </message>
-    <message>
-        <source>%1: nothing can be read</source>
-        <translation>%1: nichts kann gelesen werden</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1: %n settings cannot be read and are left out</source>
-        <translation>
-            <numerusform>%1: %n Einstellung kann nicht gelesen werden und wird ausgelassen</numerusform>
-            <numerusform>%1: %n Einstellungen können nicht gelesen werden und werden ausgelassen</numerusform>
-        </translation>
-    </message>
-    <message>
         <source>Save Settings</source>
         <translation>Einstellungen speichern</translation>
     </message>
@@ -3218,20 +3244,46 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
         <translation>Einstellungen (*.json)</translation>
     </message>
     <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>Wartet auf den Projektor eines offenen Dialogs …</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Anhalten</translation>
-    </message>
-    <message>
         <source>Reading settings…</source>
         <translation>Einstellungen werden gelesen …</translation>
     </message>
     <message>
         <source>Open Settings</source>
         <translation>Einstellungen öffnen</translation>
+    </message>
+    <message>
+        <source>Settings saved in %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Settings of %n projectors saved in %1.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings could not be read.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Apply Settings</source>
+        <translation>Einstellungen anwenden</translation>
+    </message>
+    <message>
+        <source>Compare Settings</source>
+        <translation>Einstellungen vergleichen</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>The values before are kept in %1.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3680,10 +3732,6 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
         <translation>Tabellen (*.csv *.tsv *.txt);;Alle Dateien (*)</translation>
     </message>
     <message>
-        <source>%1 added, %2 already known, %3 rows not taken.</source>
-        <translation>%1 hinzugefügt, %2 schon bekannt, %3 Zeilen nicht übernommen.</translation>
-    </message>
-    <message>
         <source>Line %1: %2</source>
         <translation>Zeile %1: %2</translation>
     </message>
@@ -3699,16 +3747,30 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
         <source>Tables (*.csv);;All files (*)</source>
         <translation>Tabellen (*.csv);;Alle Dateien (*)</translation>
     </message>
-</context>
-<context>
-    <name>WholeFile</name>
-    <message>
-        <source>cannot write %1: %2</source>
-        <translation>kann %1 nicht schreiben: %2</translation>
+    <message numerus="yes">
+        <source>%n projectors added</source>
+        <translation>
+            <numerusform>%n Projektor hinzugefügt</numerusform>
+            <numerusform>%n Projektoren hinzugefügt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n already known</source>
+        <translation>
+            <numerusform>%n schon bekannt</numerusform>
+            <numerusform>%n schon bekannt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rows not taken</source>
+        <translation>
+            <numerusform>%n Zeile nicht übernommen</numerusform>
+            <numerusform>%n Zeilen nicht übernommen</numerusform>
+        </translation>
     </message>
 </context>
 <context>
-    <name>WorkActions</name>
+    <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
         <translation>Ei&amp;nschalten</translation>
@@ -3840,6 +3902,16 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
         <source>No inputs are known</source>
         <translation>Keine Eingänge bekannt</translation>
     </message>
+</context>
+<context>
+    <name>WholeFile</name>
+    <message>
+        <source>cannot write %1: %2</source>
+        <translation>kann %1 nicht schreiben: %2</translation>
+    </message>
+</context>
+<context>
+    <name>WorkActions</name>
     <message>
         <source>%1, %2: %3</source>
         <translation>%1, %2: %3</translation>
@@ -3941,6 +4013,17 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
     <message>
         <source>stopped</source>
         <translation>angehalten</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>done, %n settings could not be read</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 </TS>

@@ -158,12 +158,60 @@
     </message>
 </context>
 <context>
+    <name>ComparisonDialog</name>
+    <message numerus="yes">
+        <source>%n projectors differ.</source>
+        <translation>
+            <numerusform>%n projector differs.</numerusform>
+            <numerusform>%n projectors differ.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors have all these settings already.</source>
+        <translation>
+            <numerusform>%n projector has all these settings already.</numerusform>
+            <numerusform>%n projectors have all these settings already.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors could not be read.</source>
+        <translation>
+            <numerusform>%n projector could not be read.</numerusform>
+            <numerusform>%n projectors could not be read.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>DetailsPanel</name>
     <message numerus="yes">
         <source>%n projectors selected</source>
         <translation>
             <numerusform>%n projector selected</numerusform>
             <numerusform>%n projectors selected</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>DifferenceTree</name>
+    <message numerus="yes">
+        <source>%n settings</source>
+        <translation>
+            <numerusform>%n setting</numerusform>
+            <numerusform>%n settings</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings do not apply to this model</source>
+        <translation>
+            <numerusform>%n setting does not apply to this model</numerusform>
+            <numerusform>%n settings do not apply to this model</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings cannot be read now</source>
+        <translation>
+            <numerusform>%n setting cannot be read now</numerusform>
+            <numerusform>%n settings cannot be read now</numerusform>
         </translation>
     </message>
 </context>
@@ -209,6 +257,14 @@
             <numerusform>%n with alerts</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n not watched</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n not watched</numerusform>
+            <numerusform>%n not watched</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -223,17 +279,20 @@
 <context>
     <name>PresetActions</name>
     <message numerus="yes">
-        <source>Put the preset %1 on %n projectors?</source>
-        <translation>
-            <numerusform>Put the preset %1 on %n projector?</numerusform>
-            <numerusform>Put the preset %1 on %n projectors?</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
         <source>Put back the settings of %n projectors?</source>
         <translation>
             <numerusform>Put back the settings of %n projector?</numerusform>
             <numerusform>Put back the settings of %n projectors?</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>PresetDialog</name>
+    <message numerus="yes">
+        <source>%n settings are checked.</source>
+        <translation>
+            <numerusform>%n setting is checked.</numerusform>
+            <numerusform>%n settings are checked.</numerusform>
         </translation>
     </message>
 </context>
@@ -279,73 +338,6 @@ a minus in front takes a tag away:</numerusform>
     </message>
 </context>
 <context>
-    <name>RestoreDialog</name>
-    <message numerus="yes">
-        <source>%n changed</source>
-        <extracomment>How many settings came to this, in a list such as &quot;12 changed, 3 refused&quot;.</extracomment>
-        <translation>
-            <numerusform>%n changed</numerusform>
-            <numerusform>%n changed</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n different</source>
-        <translation>
-            <numerusform>%n different</numerusform>
-            <numerusform>%n different</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n already so</source>
-        <translation>
-            <numerusform>%n already so</numerusform>
-            <numerusform>%n already so</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not yet so</source>
-        <translation>
-            <numerusform>%n not yet so</numerusform>
-            <numerusform>%n not yet so</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n refused</source>
-        <translation>
-            <numerusform>%n refused</numerusform>
-            <numerusform>%n refused</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not confirmed</source>
-        <translation>
-            <numerusform>%n not confirmed</numerusform>
-            <numerusform>%n not confirmed</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not read</source>
-        <translation>
-            <numerusform>%n not read</numerusform>
-            <numerusform>%n not read</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n skipped</source>
-        <translation>
-            <numerusform>%n skipped</numerusform>
-            <numerusform>%n skipped</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n settings</source>
-        <translation>
-            <numerusform>%n setting</numerusform>
-            <numerusform>%n settings</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>SearchDialog</name>
     <message numerus="yes">
         <source>%n found</source>
@@ -367,10 +359,17 @@ a minus in front takes a tag away:</numerusform>
 <context>
     <name>SettingsActions</name>
     <message numerus="yes">
-        <source>%1: %n settings cannot be read and are left out</source>
+        <source>Settings of %n projectors saved in %1.</source>
         <translation>
-            <numerusform>%1: %n setting cannot be read and is left out</numerusform>
-            <numerusform>%1: %n settings cannot be read and are left out</numerusform>
+            <numerusform>Settings of %n projector saved in %1.</numerusform>
+            <numerusform>Settings of %n projectors saved in %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings could not be read.</source>
+        <translation>
+            <numerusform>%n setting could not be read.</numerusform>
+            <numerusform>%n settings could not be read.</numerusform>
         </translation>
     </message>
 </context>
@@ -499,6 +498,13 @@ a minus in front takes a tag away:</numerusform>
         <translation>
             <numerusform>, %n failed</numerusform>
             <numerusform>, %n failed</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>done, %n settings could not be read</source>
+        <translation>
+            <numerusform>done, %n setting could not be read</numerusform>
+            <numerusform>done, %n settings could not be read</numerusform>
         </translation>
     </message>
 </context>

@@ -152,16 +152,8 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>comparar con ajustes guardados</translation>
     </message>
     <message>
-        <source>Prints what differs from a file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder.</source>
-        <translation>Muestra lo que difiere de un archivo («-» es la entrada estándar), o del archivo propio de cada proyector en una carpeta.</translation>
-    </message>
-    <message>
         <source>restore saved settings</source>
         <translation>restaurar ajustes guardados</translation>
-    </message>
-    <message>
-        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation>Lee los proyectores, envía lo que difiere del archivo («-» es la entrada estándar), o del archivo propio de cada proyector en una carpeta, y lo vuelve a leer. Lo que se sustituye se guarda antes, para que «acctl undo» pueda restaurarlo. Una ejecución interrumpida se puede repetir en cualquier momento.</translation>
     </message>
     <message>
         <source>undo the last run of set or apply</source>
@@ -1013,6 +1005,14 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <source>--until: &apos;%1&apos; is not KEY=VALUE</source>
         <translation>--until: «%1» no es KEY=VALUE</translation>
     </message>
+    <message>
+        <source>Prints what differs from a file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -1401,10 +1401,6 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>&amp;Copiar</translation>
     </message>
     <message>
-        <source>Projector, command or result</source>
-        <translation>Proyector, orden o resultado</translation>
-    </message>
-    <message>
         <source>Filter the log</source>
         <translation>Filtrar el registro</translation>
     </message>
@@ -1430,6 +1426,18 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <message>
         <source>Clear</source>
         <translation>Vaciar</translation>
+    </message>
+    <message>
+        <source>Projector, setting, command or result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All projectors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the commands of</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1485,6 +1493,121 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <message>
         <source>ok</source>
         <translation>correcto</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Ajuste</translation>
+    </message>
+</context>
+<context>
+    <name>ComparisonDialog</name>
+    <message>
+        <source>Progress</source>
+        <translation>Progreso</translation>
+    </message>
+    <message>
+        <source>&amp;Ask Again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>&amp;Aplicar</translation>
+    </message>
+    <message>
+        <source>Reading settings…</source>
+        <translation>Leyendo ajustes…</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Nothing differs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors differ.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors have all these settings already.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors could not be read.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionFields</name>
+    <message>
+        <source>&amp;Reached through</source>
+        <translation>Accesible me&amp;diante</translation>
+    </message>
+    <message>
+        <source>Connect&amp;ion</source>
+        <translation>Cone&amp;xión</translation>
+    </message>
+    <message>
+        <source>&amp;Address</source>
+        <translation>&amp;Dirección</translation>
+    </message>
+    <message>
+        <source>&amp;Port</source>
+        <translation>&amp;Puerto</translation>
+    </message>
+    <message>
+        <source>Pass&amp;word</source>
+        <translation>Contr&amp;aseña</translation>
+    </message>
+    <message>
+        <source>Port n&amp;umber</source>
+        <translation>N&amp;úmero de puerto</translation>
+    </message>
+    <message>
+        <source>&amp;Device</source>
+        <translation>D&amp;ispositivo</translation>
+    </message>
+    <message>
+        <source>&amp;Baud</source>
+        <translation>&amp;Baudios</translation>
+    </message>
+    <message>
+        <source>As its family</source>
+        <translation>Como su familia</translation>
+    </message>
+    <message>
+        <source>Simulated</source>
+        <translation>Simulado</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Red</translation>
+    </message>
+    <message>
+        <source>Serial port</source>
+        <translation>Puerto serie</translation>
+    </message>
+    <message>
+        <source>%1 is no address.</source>
+        <translation>%1 no es una dirección.</translation>
     </message>
 </context>
 <context>
@@ -1645,6 +1768,50 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <message>
         <source>nothing yet</source>
         <translation>nada todavía</translation>
+    </message>
+</context>
+<context>
+    <name>DifferenceTree</name>
+    <message>
+        <source>Setting</source>
+        <translation>Ajuste</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Differences</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First the other sources and modes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings</source>
+        <translation>
+            <numerusform>%n ajuste</numerusform>
+            <numerusform>%n ajustes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings do not apply to this model</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings cannot be read now</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -1830,8 +1997,9 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source> %1 ms</source>
-        <translation> %1 ms</translation>
+        <source>%1: %2, %3 ms</source>
+        <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1879,6 +2047,14 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <message>
         <source>oldest answer %1</source>
         <translation>respuesta más antigua %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not watched</source>
+        <comment>projectors</comment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1958,6 +2134,10 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <message>
         <source>password missing or wrong</source>
         <translation>falta la contraseña o es incorrecta</translation>
+    </message>
+    <message>
+        <source>the projector reports none of its settings now</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2168,6 +2348,33 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
 </context>
 <context>
+    <name>ModelFields</name>
+    <message>
+        <source>&amp;Family</source>
+        <translation>&amp;Familia</translation>
+    </message>
+    <message>
+        <source>&amp;Model</source>
+        <translation>&amp;Modelo</translation>
+    </message>
+    <message>
+        <source>All &amp;fields of the model</source>
+        <translation>T&amp;odos los campos del modelo</translation>
+    </message>
+    <message>
+        <source>Dialog &amp;type</source>
+        <translation>&amp;Tipo de cuadro de diálogo</translation>
+    </message>
+    <message>
+        <source>Model cod&amp;e</source>
+        <translation>&amp;Código de modelo</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguna</translation>
+    </message>
+</context>
+<context>
     <name>Notify</name>
     <message>
         <source>Advanced Control</source>
@@ -2285,6 +2492,26 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <source>Quiet hours</source>
         <translation>Horas de silencio</translation>
     </message>
+    <message>
+        <source>As the desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Colors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(the same time twice: none)</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetActions</name>
@@ -2325,10 +2552,6 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>Guardar como preajuste</translation>
     </message>
     <message>
-        <source>Name of the preset:</source>
-        <translation>Nombre del preajuste:</translation>
-    </message>
-    <message>
         <source>Saved as the preset %1</source>
         <translation>Guardado como preajuste %1</translation>
     </message>
@@ -2339,13 +2562,6 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <message>
         <source>Preset %1</source>
         <translation>Preajuste %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>Put the preset %1 on %n projectors?</source>
-        <translation>
-            <numerusform>¿Aplicar el preajuste %1 a %n proyector?</numerusform>
-            <numerusform>¿Aplicar el preajuste %1 a %n proyectores?</numerusform>
-        </translation>
     </message>
     <message>
         <source>Should Be Like</source>
@@ -2367,8 +2583,86 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         </translation>
     </message>
     <message>
-        <source>Compare</source>
-        <translation>Comparar</translation>
+        <source>Reading the settings of %1…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What It Should Be</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Should be</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PresetDialog</name>
+    <message>
+        <source>Save as Preset</source>
+        <translation>Guardar como preajuste</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Ajuste</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valor</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Name of the preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check all settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This &amp;Page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check the settings of the selected page, and no others</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>N&amp;one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Uncheck all settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings are checked.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The preset %1 will be replaced.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2380,26 +2674,6 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
 </context>
 <context>
     <name>ProfileActions</name>
-    <message>
-        <source>&amp;Open Profiles…</source>
-        <translation>&amp;Abrir perfiles…</translation>
-    </message>
-    <message>
-        <source>&amp;Reload</source>
-        <translation>&amp;Recargar</translation>
-    </message>
-    <message>
-        <source>&amp;Save Profiles As…</source>
-        <translation>&amp;Guardar perfiles como…</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Deshacer</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>Re&amp;hacer</translation>
-    </message>
     <message>
         <source>&amp;Add…</source>
         <translation>&amp;Añadir…</translation>
@@ -2419,26 +2693,6 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <message>
         <source>Ta&amp;g…</source>
         <translation>E&amp;tiquetar…</translation>
-    </message>
-    <message>
-        <source>This could not be done; nothing was changed.</source>
-        <translation>No se pudo hacer; no se cambió nada.</translation>
-    </message>
-    <message>
-        <source>Open Profiles</source>
-        <translation>Abrir perfiles</translation>
-    </message>
-    <message>
-        <source>Profiles (*.json);;All files (*)</source>
-        <translation>Perfiles (*.json);;Todos los archivos (*)</translation>
-    </message>
-    <message>
-        <source>Reload</source>
-        <translation>Recargar</translation>
-    </message>
-    <message>
-        <source>Save Profiles As</source>
-        <translation>Guardar perfiles como</translation>
     </message>
     <message>
         <source>Add</source>
@@ -2531,58 +2785,6 @@ un signo menos delante quita una etiqueta:</numerusform>
         <translation>&amp;Nombre</translation>
     </message>
     <message>
-        <source>&amp;Family</source>
-        <translation>&amp;Familia</translation>
-    </message>
-    <message>
-        <source>&amp;Model</source>
-        <translation>&amp;Modelo</translation>
-    </message>
-    <message>
-        <source>Dialog &amp;type</source>
-        <translation>&amp;Tipo de cuadro de diálogo</translation>
-    </message>
-    <message>
-        <source>Model cod&amp;e</source>
-        <translation>&amp;Código de modelo</translation>
-    </message>
-    <message>
-        <source>&amp;Reached through</source>
-        <translation>Accesible me&amp;diante</translation>
-    </message>
-    <message>
-        <source>Connect&amp;ion</source>
-        <translation>Cone&amp;xión</translation>
-    </message>
-    <message>
-        <source>&amp;Address</source>
-        <translation>&amp;Dirección</translation>
-    </message>
-    <message>
-        <source>&amp;Port</source>
-        <translation>&amp;Puerto</translation>
-    </message>
-    <message>
-        <source>Pass&amp;word</source>
-        <translation>Contr&amp;aseña</translation>
-    </message>
-    <message>
-        <source>Port n&amp;umber</source>
-        <translation>N&amp;úmero de puerto</translation>
-    </message>
-    <message>
-        <source>&amp;Device</source>
-        <translation>D&amp;ispositivo</translation>
-    </message>
-    <message>
-        <source>&amp;Baud</source>
-        <translation>&amp;Baudios</translation>
-    </message>
-    <message>
-        <source>All &amp;fields of the model</source>
-        <translation>T&amp;odos los campos del modelo</translation>
-    </message>
-    <message>
         <source>Add Projector</source>
         <translation>Añadir proyector</translation>
     </message>
@@ -2591,36 +2793,8 @@ un signo menos delante quita una etiqueta:</numerusform>
         <translation>Editar proyector</translation>
     </message>
     <message>
-        <source>Save Profiles As…</source>
-        <translation>Guardar perfiles como…</translation>
-    </message>
-    <message>
-        <source>%1 cannot be changed.</source>
-        <translation>%1 no se puede cambiar.</translation>
-    </message>
-    <message>
         <source>Duplicate Projector</source>
         <translation>Duplicar proyector</translation>
-    </message>
-    <message>
-        <source>None</source>
-        <translation>Ninguna</translation>
-    </message>
-    <message>
-        <source>As its family</source>
-        <translation>Como su familia</translation>
-    </message>
-    <message>
-        <source>Simulated</source>
-        <translation>Simulado</translation>
-    </message>
-    <message>
-        <source>Network</source>
-        <translation>Red</translation>
-    </message>
-    <message>
-        <source>Serial port</source>
-        <translation>Puerto serie</translation>
     </message>
     <message>
         <source>Still to be filled in: %1</source>
@@ -2629,10 +2803,6 @@ un signo menos delante quita una etiqueta:</numerusform>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>%1 is no address.</source>
-        <translation>%1 no es una dirección.</translation>
     </message>
 </context>
 <context>
@@ -2767,6 +2937,64 @@ un signo menos delante quita una etiqueta:</numerusform>
     </message>
 </context>
 <context>
+    <name>ProfileFileActions</name>
+    <message>
+        <source>&amp;Open Profiles…</source>
+        <translation>&amp;Abrir perfiles…</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>&amp;Recargar</translation>
+    </message>
+    <message>
+        <source>&amp;Save Profiles As…</source>
+        <translation>&amp;Guardar perfiles como…</translation>
+    </message>
+    <message>
+        <source>Open Profiles</source>
+        <translation>Abrir perfiles</translation>
+    </message>
+    <message>
+        <source>Profiles (*.json);;All files (*)</source>
+        <translation>Perfiles (*.json);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Recargar</translation>
+    </message>
+    <message>
+        <source>Save Profiles As</source>
+        <translation>Guardar perfiles como</translation>
+    </message>
+    <message>
+        <source>Read-Only File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be changed. Save the profiles in another file first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Profiles As…</source>
+        <translation>Guardar perfiles como…</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileHistory</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>Re&amp;hacer</translation>
+    </message>
+    <message>
+        <source>This could not be done; nothing was changed.</source>
+        <translation>No se pudo hacer; no se cambió nada.</translation>
+    </message>
+</context>
+<context>
     <name>Program</name>
     <message>
         <source>no profiles at %1; name a file with --profiles</source>
@@ -2813,7 +3041,7 @@ un signo menos delante quita una etiqueta:</numerusform>
     </message>
 </context>
 <context>
-    <name>ProjectorTableModel</name>
+    <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
         <translation>Nombre</translation>
@@ -2901,193 +3129,6 @@ un signo menos delante quita una etiqueta:</numerusform>
         <source>Folder</source>
         <comment>All other platforms</comment>
         <translation>Carpeta</translation>
-    </message>
-</context>
-<context>
-    <name>RestoreDialog</name>
-    <message>
-        <source>Projector</source>
-        <translation>Proyector</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>Ajuste</translation>
-    </message>
-    <message>
-        <source>Here</source>
-        <translation>Aquí</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>Archivo</translation>
-    </message>
-    <message>
-        <source>Result</source>
-        <translation>Resultado</translation>
-    </message>
-    <message>
-        <source>not read</source>
-        <translation>no leído</translation>
-    </message>
-    <message>
-        <source>already so</source>
-        <translation>sin cambios</translation>
-    </message>
-    <message>
-        <source>different</source>
-        <translation>diferente</translation>
-    </message>
-    <message>
-        <source>changed</source>
-        <translation>cambiado</translation>
-    </message>
-    <message>
-        <source>refused</source>
-        <translation>rechazado</translation>
-    </message>
-    <message>
-        <source>accepted, not yet so</source>
-        <translation>aceptado, aún sin efecto</translation>
-    </message>
-    <message>
-        <source>refused: the projector is busy or in standby</source>
-        <translation>rechazado: el proyector está ocupado o en espera</translation>
-    </message>
-    <message>
-        <source>not confirmed</source>
-        <translation>sin confirmar</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not have it</source>
-        <translation>omitido: este modelo no lo tiene</translation>
-    </message>
-    <message>
-        <source>skipped: this projector does not offer it</source>
-        <translation>omitido: este proyector no lo ofrece</translation>
-    </message>
-    <message>
-        <source>skipped: it is not one to put back</source>
-        <translation>omitido: no se restaura</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not take the value</source>
-        <translation>omitido: este modelo no admite el valor</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n changed</source>
-        <extracomment>How many settings came to this, in a list such as &quot;12 changed, 3 refused&quot;.</extracomment>
-        <translation>
-            <numerusform>%n cambiado</numerusform>
-            <numerusform>%n cambiados</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n different</source>
-        <translation>
-            <numerusform>%n diferente</numerusform>
-            <numerusform>%n diferentes</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n already so</source>
-        <translation>
-            <numerusform>%n sin cambios</numerusform>
-            <numerusform>%n sin cambios</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not yet so</source>
-        <translation>
-            <numerusform>%n aún sin efecto</numerusform>
-            <numerusform>%n aún sin efecto</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n refused</source>
-        <translation>
-            <numerusform>%n rechazado</numerusform>
-            <numerusform>%n rechazados</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not confirmed</source>
-        <translation>
-            <numerusform>%n sin confirmar</numerusform>
-            <numerusform>%n sin confirmar</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not read</source>
-        <translation>
-            <numerusform>%n no leído</numerusform>
-            <numerusform>%n no leídos</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n skipped</source>
-        <translation>
-            <numerusform>%n omitido</numerusform>
-            <numerusform>%n omitidos</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Apply Settings</source>
-        <translation>Aplicar ajustes</translation>
-    </message>
-    <message>
-        <source>Compare Settings</source>
-        <translation>Comparar ajustes</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filtrar</translation>
-    </message>
-    <message>
-        <source>&amp;Differences only</source>
-        <translation>Solo &amp;diferencias</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Ajustes</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Progreso</translation>
-    </message>
-    <message>
-        <source>&amp;Compare Again</source>
-        <translation>&amp;Comparar de nuevo</translation>
-    </message>
-    <message>
-        <source>&amp;Apply</source>
-        <translation>&amp;Aplicar</translation>
-    </message>
-    <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>Esperando al proyector de un cuadro de diálogo abierto…</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Detener</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Cerrar</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>Beforehand: other sources and modes</source>
-        <translation>Antes: otras fuentes y modos</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n settings</source>
-        <translation>
-            <numerusform>%n ajuste</numerusform>
-            <numerusform>%n ajustes</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -3191,21 +3232,6 @@ un signo menos delante quita una etiqueta:</numerusform>
         <translation>Ap&amp;licar ajustes…</translation>
     </message>
     <message>
-        <source>%1: no answer</source>
-        <translation>%1: sin respuesta</translation>
-    </message>
-    <message>
-        <source>%1: nothing can be read</source>
-        <translation>%1: no se puede leer nada</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1: %n settings cannot be read and are left out</source>
-        <translation>
-            <numerusform>%1: %n ajuste no se puede leer y se omite</numerusform>
-            <numerusform>%1: %n ajustes no se pueden leer y se omiten</numerusform>
-        </translation>
-    </message>
-    <message>
         <source>Save Settings</source>
         <translation>Guardar ajustes</translation>
     </message>
@@ -3218,20 +3244,46 @@ un signo menos delante quita una etiqueta:</numerusform>
         <translation>Ajustes (*.json)</translation>
     </message>
     <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>Esperando al proyector de un cuadro de diálogo abierto…</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Detener</translation>
-    </message>
-    <message>
         <source>Reading settings…</source>
         <translation>Leyendo ajustes…</translation>
     </message>
     <message>
         <source>Open Settings</source>
         <translation>Abrir ajustes</translation>
+    </message>
+    <message>
+        <source>Settings saved in %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Settings of %n projectors saved in %1.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings could not be read.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Apply Settings</source>
+        <translation>Aplicar ajustes</translation>
+    </message>
+    <message>
+        <source>Compare Settings</source>
+        <translation>Comparar ajustes</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>The values before are kept in %1.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3680,10 +3732,6 @@ un signo menos delante quita una etiqueta:</numerusform>
         <translation>Tablas (*.csv *.tsv *.txt);;Todos los archivos (*)</translation>
     </message>
     <message>
-        <source>%1 added, %2 already known, %3 rows not taken.</source>
-        <translation>%1 añadidos, %2 ya conocidos, %3 filas no aceptadas.</translation>
-    </message>
-    <message>
         <source>Line %1: %2</source>
         <translation>Línea %1: %2</translation>
     </message>
@@ -3699,16 +3747,30 @@ un signo menos delante quita una etiqueta:</numerusform>
         <source>Tables (*.csv);;All files (*)</source>
         <translation>Tablas (*.csv);;Todos los archivos (*)</translation>
     </message>
-</context>
-<context>
-    <name>WholeFile</name>
-    <message>
-        <source>cannot write %1: %2</source>
-        <translation>no se puede escribir %1: %2</translation>
+    <message numerus="yes">
+        <source>%n projectors added</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n already known</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rows not taken</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
-    <name>WorkActions</name>
+    <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
         <translation>E&amp;ncender</translation>
@@ -3840,6 +3902,16 @@ un signo menos delante quita una etiqueta:</numerusform>
         <source>No inputs are known</source>
         <translation>No se conocen entradas</translation>
     </message>
+</context>
+<context>
+    <name>WholeFile</name>
+    <message>
+        <source>cannot write %1: %2</source>
+        <translation>no se puede escribir %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>WorkActions</name>
     <message>
         <source>%1, %2: %3</source>
         <translation>%1, %2: %3</translation>
@@ -3941,6 +4013,17 @@ un signo menos delante quita una etiqueta:</numerusform>
     <message>
         <source>stopped</source>
         <translation>detenido</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>done, %n settings could not be read</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 </TS>

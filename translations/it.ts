@@ -152,16 +152,8 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <translation>confronta con impostazioni salvate</translation>
     </message>
     <message>
-        <source>Prints what differs from a file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder.</source>
-        <translation>Mostra ciò che differisce da un file (“-” è l’input standard), o dal file di ciascun proiettore in una cartella.</translation>
-    </message>
-    <message>
         <source>restore saved settings</source>
         <translation>ripristina impostazioni salvate</translation>
-    </message>
-    <message>
-        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation>Legge i proiettori, invia ciò che differisce dal file (“-” è l’input standard), o dal file di ciascun proiettore in una cartella, e lo rilegge. Ciò che viene sostituito è prima conservato, perché “acctl undo” possa ripristinarlo. Un’esecuzione interrotta può essere ripetuta in qualsiasi momento.</translation>
     </message>
     <message>
         <source>undo the last run of set or apply</source>
@@ -1013,6 +1005,14 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <source>--until: &apos;%1&apos; is not KEY=VALUE</source>
         <translation>--until: “%1” non è KEY=VALUE</translation>
     </message>
+    <message>
+        <source>Prints what differs from a file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -1401,10 +1401,6 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <translation>&amp;Copia</translation>
     </message>
     <message>
-        <source>Projector, command or result</source>
-        <translation>Proiettore, comando o risultato</translation>
-    </message>
-    <message>
         <source>Filter the log</source>
         <translation>Filtra il registro</translation>
     </message>
@@ -1430,6 +1426,18 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <message>
         <source>Clear</source>
         <translation>Svuota</translation>
+    </message>
+    <message>
+        <source>Projector, setting, command or result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All projectors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the commands of</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1485,6 +1493,121 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <message>
         <source>ok</source>
         <translation>ok</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Impostazione</translation>
+    </message>
+</context>
+<context>
+    <name>ComparisonDialog</name>
+    <message>
+        <source>Progress</source>
+        <translation>Avanzamento</translation>
+    </message>
+    <message>
+        <source>&amp;Ask Again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>&amp;Applica</translation>
+    </message>
+    <message>
+        <source>Reading settings…</source>
+        <translation>Lettura delle impostazioni…</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Ferma</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Nothing differs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors differ.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors have all these settings already.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors could not be read.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionFields</name>
+    <message>
+        <source>&amp;Reached through</source>
+        <translation>&amp;Raggiungibile tramite</translation>
+    </message>
+    <message>
+        <source>Connect&amp;ion</source>
+        <translation>Connes&amp;sione</translation>
+    </message>
+    <message>
+        <source>&amp;Address</source>
+        <translation>&amp;Indirizzo</translation>
+    </message>
+    <message>
+        <source>&amp;Port</source>
+        <translation>&amp;Porta</translation>
+    </message>
+    <message>
+        <source>Pass&amp;word</source>
+        <translation>Pass&amp;word</translation>
+    </message>
+    <message>
+        <source>Port n&amp;umber</source>
+        <translation>N&amp;umero di porta</translation>
+    </message>
+    <message>
+        <source>&amp;Device</source>
+        <translation>&amp;Dispositivo</translation>
+    </message>
+    <message>
+        <source>&amp;Baud</source>
+        <translation>&amp;Baud</translation>
+    </message>
+    <message>
+        <source>As its family</source>
+        <translation>Come la famiglia</translation>
+    </message>
+    <message>
+        <source>Simulated</source>
+        <translation>Simulato</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Rete</translation>
+    </message>
+    <message>
+        <source>Serial port</source>
+        <translation>Porta seriale</translation>
+    </message>
+    <message>
+        <source>%1 is no address.</source>
+        <translation>%1 non è un indirizzo.</translation>
     </message>
 </context>
 <context>
@@ -1645,6 +1768,50 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <message>
         <source>nothing yet</source>
         <translation>ancora nulla</translation>
+    </message>
+</context>
+<context>
+    <name>DifferenceTree</name>
+    <message>
+        <source>Setting</source>
+        <translation>Impostazione</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Differences</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First the other sources and modes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings</source>
+        <translation>
+            <numerusform>%n impostazione</numerusform>
+            <numerusform>%n impostazioni</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings do not apply to this model</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings cannot be read now</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -1830,8 +1997,9 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source> %1 ms</source>
-        <translation> %1 ms</translation>
+        <source>%1: %2, %3 ms</source>
+        <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1879,6 +2047,14 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <message>
         <source>oldest answer %1</source>
         <translation>risposta più vecchia %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not watched</source>
+        <comment>projectors</comment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1958,6 +2134,10 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <message>
         <source>password missing or wrong</source>
         <translation>password mancante o errata</translation>
+    </message>
+    <message>
+        <source>the projector reports none of its settings now</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2168,6 +2348,33 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
 </context>
 <context>
+    <name>ModelFields</name>
+    <message>
+        <source>&amp;Family</source>
+        <translation>&amp;Famiglia</translation>
+    </message>
+    <message>
+        <source>&amp;Model</source>
+        <translation>&amp;Modello</translation>
+    </message>
+    <message>
+        <source>All &amp;fields of the model</source>
+        <translation>Tutti i c&amp;ampi del modello</translation>
+    </message>
+    <message>
+        <source>Dialog &amp;type</source>
+        <translation>&amp;Tipo di finestra di dialogo</translation>
+    </message>
+    <message>
+        <source>Model cod&amp;e</source>
+        <translation>&amp;Codice del modello</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Nessuna</translation>
+    </message>
+</context>
+<context>
     <name>Notify</name>
     <message>
         <source>Advanced Control</source>
@@ -2285,6 +2492,26 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <source>Quiet hours</source>
         <translation>Ore di silenzio</translation>
     </message>
+    <message>
+        <source>As the desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Colors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(the same time twice: none)</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetActions</name>
@@ -2325,10 +2552,6 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <translation>Salva come preimpostazione</translation>
     </message>
     <message>
-        <source>Name of the preset:</source>
-        <translation>Nome della preimpostazione:</translation>
-    </message>
-    <message>
         <source>Saved as the preset %1</source>
         <translation>Salvato come preimpostazione %1</translation>
     </message>
@@ -2339,13 +2562,6 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <message>
         <source>Preset %1</source>
         <translation>Preimpostazione %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>Put the preset %1 on %n projectors?</source>
-        <translation>
-            <numerusform>Applicare la preimpostazione %1 a %n proiettore?</numerusform>
-            <numerusform>Applicare la preimpostazione %1 a %n proiettori?</numerusform>
-        </translation>
     </message>
     <message>
         <source>Should Be Like</source>
@@ -2367,8 +2583,86 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         </translation>
     </message>
     <message>
-        <source>Compare</source>
-        <translation>Confronta</translation>
+        <source>Reading the settings of %1…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What It Should Be</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Should be</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PresetDialog</name>
+    <message>
+        <source>Save as Preset</source>
+        <translation>Salva come preimpostazione</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Impostazione</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valore</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Name of the preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check all settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This &amp;Page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check the settings of the selected page, and no others</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>N&amp;one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Uncheck all settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings are checked.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The preset %1 will be replaced.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2380,26 +2674,6 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
 </context>
 <context>
     <name>ProfileActions</name>
-    <message>
-        <source>&amp;Open Profiles…</source>
-        <translation>&amp;Apri profili…</translation>
-    </message>
-    <message>
-        <source>&amp;Reload</source>
-        <translation>&amp;Ricarica</translation>
-    </message>
-    <message>
-        <source>&amp;Save Profiles As…</source>
-        <translation>&amp;Salva profili con nome…</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>Ann&amp;ulla</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>Ri&amp;peti</translation>
-    </message>
     <message>
         <source>&amp;Add…</source>
         <translation>A&amp;ggiungi…</translation>
@@ -2419,26 +2693,6 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <message>
         <source>Ta&amp;g…</source>
         <translation>Etic&amp;hetta…</translation>
-    </message>
-    <message>
-        <source>This could not be done; nothing was changed.</source>
-        <translation>Non è stato possibile; nulla è stato cambiato.</translation>
-    </message>
-    <message>
-        <source>Open Profiles</source>
-        <translation>Apri profili</translation>
-    </message>
-    <message>
-        <source>Profiles (*.json);;All files (*)</source>
-        <translation>Profili (*.json);;Tutti i file (*)</translation>
-    </message>
-    <message>
-        <source>Reload</source>
-        <translation>Ricarica</translation>
-    </message>
-    <message>
-        <source>Save Profiles As</source>
-        <translation>Salva profili con nome</translation>
     </message>
     <message>
         <source>Add</source>
@@ -2531,58 +2785,6 @@ un segno meno davanti toglie un’etichetta:</numerusform>
         <translation>&amp;Nome</translation>
     </message>
     <message>
-        <source>&amp;Family</source>
-        <translation>&amp;Famiglia</translation>
-    </message>
-    <message>
-        <source>&amp;Model</source>
-        <translation>&amp;Modello</translation>
-    </message>
-    <message>
-        <source>Dialog &amp;type</source>
-        <translation>&amp;Tipo di finestra di dialogo</translation>
-    </message>
-    <message>
-        <source>Model cod&amp;e</source>
-        <translation>&amp;Codice del modello</translation>
-    </message>
-    <message>
-        <source>&amp;Reached through</source>
-        <translation>&amp;Raggiungibile tramite</translation>
-    </message>
-    <message>
-        <source>Connect&amp;ion</source>
-        <translation>Connes&amp;sione</translation>
-    </message>
-    <message>
-        <source>&amp;Address</source>
-        <translation>&amp;Indirizzo</translation>
-    </message>
-    <message>
-        <source>&amp;Port</source>
-        <translation>&amp;Porta</translation>
-    </message>
-    <message>
-        <source>Pass&amp;word</source>
-        <translation>Pass&amp;word</translation>
-    </message>
-    <message>
-        <source>Port n&amp;umber</source>
-        <translation>N&amp;umero di porta</translation>
-    </message>
-    <message>
-        <source>&amp;Device</source>
-        <translation>&amp;Dispositivo</translation>
-    </message>
-    <message>
-        <source>&amp;Baud</source>
-        <translation>&amp;Baud</translation>
-    </message>
-    <message>
-        <source>All &amp;fields of the model</source>
-        <translation>Tutti i c&amp;ampi del modello</translation>
-    </message>
-    <message>
         <source>Add Projector</source>
         <translation>Aggiungi proiettore</translation>
     </message>
@@ -2591,36 +2793,8 @@ un segno meno davanti toglie un’etichetta:</numerusform>
         <translation>Modifica proiettore</translation>
     </message>
     <message>
-        <source>Save Profiles As…</source>
-        <translation>Salva profili con nome…</translation>
-    </message>
-    <message>
-        <source>%1 cannot be changed.</source>
-        <translation>%1 non può essere cambiato.</translation>
-    </message>
-    <message>
         <source>Duplicate Projector</source>
         <translation>Duplica proiettore</translation>
-    </message>
-    <message>
-        <source>None</source>
-        <translation>Nessuna</translation>
-    </message>
-    <message>
-        <source>As its family</source>
-        <translation>Come la famiglia</translation>
-    </message>
-    <message>
-        <source>Simulated</source>
-        <translation>Simulato</translation>
-    </message>
-    <message>
-        <source>Network</source>
-        <translation>Rete</translation>
-    </message>
-    <message>
-        <source>Serial port</source>
-        <translation>Porta seriale</translation>
     </message>
     <message>
         <source>Still to be filled in: %1</source>
@@ -2629,10 +2803,6 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>%1 is no address.</source>
-        <translation>%1 non è un indirizzo.</translation>
     </message>
 </context>
 <context>
@@ -2767,6 +2937,64 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     </message>
 </context>
 <context>
+    <name>ProfileFileActions</name>
+    <message>
+        <source>&amp;Open Profiles…</source>
+        <translation>&amp;Apri profili…</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>&amp;Ricarica</translation>
+    </message>
+    <message>
+        <source>&amp;Save Profiles As…</source>
+        <translation>&amp;Salva profili con nome…</translation>
+    </message>
+    <message>
+        <source>Open Profiles</source>
+        <translation>Apri profili</translation>
+    </message>
+    <message>
+        <source>Profiles (*.json);;All files (*)</source>
+        <translation>Profili (*.json);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Ricarica</translation>
+    </message>
+    <message>
+        <source>Save Profiles As</source>
+        <translation>Salva profili con nome</translation>
+    </message>
+    <message>
+        <source>Read-Only File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be changed. Save the profiles in another file first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Profiles As…</source>
+        <translation>Salva profili con nome…</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileHistory</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>Ann&amp;ulla</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>Ri&amp;peti</translation>
+    </message>
+    <message>
+        <source>This could not be done; nothing was changed.</source>
+        <translation>Non è stato possibile; nulla è stato cambiato.</translation>
+    </message>
+</context>
+<context>
     <name>Program</name>
     <message>
         <source>no profiles at %1; name a file with --profiles</source>
@@ -2813,7 +3041,7 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     </message>
 </context>
 <context>
-    <name>ProjectorTableModel</name>
+    <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
         <translation>Nome</translation>
@@ -2901,193 +3129,6 @@ un segno meno davanti toglie un’etichetta:</numerusform>
         <source>Folder</source>
         <comment>All other platforms</comment>
         <translation>Cartella</translation>
-    </message>
-</context>
-<context>
-    <name>RestoreDialog</name>
-    <message>
-        <source>Projector</source>
-        <translation>Proiettore</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>Impostazione</translation>
-    </message>
-    <message>
-        <source>Here</source>
-        <translation>Qui</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>File</translation>
-    </message>
-    <message>
-        <source>Result</source>
-        <translation>Risultato</translation>
-    </message>
-    <message>
-        <source>not read</source>
-        <translation>non letta</translation>
-    </message>
-    <message>
-        <source>already so</source>
-        <translation>invariata</translation>
-    </message>
-    <message>
-        <source>different</source>
-        <translation>diversa</translation>
-    </message>
-    <message>
-        <source>changed</source>
-        <translation>cambiata</translation>
-    </message>
-    <message>
-        <source>refused</source>
-        <translation>rifiutata</translation>
-    </message>
-    <message>
-        <source>accepted, not yet so</source>
-        <translation>accettata, non ancora attiva</translation>
-    </message>
-    <message>
-        <source>refused: the projector is busy or in standby</source>
-        <translation>rifiutata: il proiettore è occupato o in standby</translation>
-    </message>
-    <message>
-        <source>not confirmed</source>
-        <translation>non confermata</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not have it</source>
-        <translation>ignorata: questo modello non la ha</translation>
-    </message>
-    <message>
-        <source>skipped: this projector does not offer it</source>
-        <translation>ignorata: questo proiettore non la offre</translation>
-    </message>
-    <message>
-        <source>skipped: it is not one to put back</source>
-        <translation>ignorata: non si ripristina</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not take the value</source>
-        <translation>ignorata: questo modello non accetta il valore</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n changed</source>
-        <extracomment>How many settings came to this, in a list such as &quot;12 changed, 3 refused&quot;.</extracomment>
-        <translation>
-            <numerusform>%n cambiata</numerusform>
-            <numerusform>%n cambiate</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n different</source>
-        <translation>
-            <numerusform>%n diversa</numerusform>
-            <numerusform>%n diverse</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n already so</source>
-        <translation>
-            <numerusform>%n invariata</numerusform>
-            <numerusform>%n invariate</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not yet so</source>
-        <translation>
-            <numerusform>%n non ancora attiva</numerusform>
-            <numerusform>%n non ancora attive</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n refused</source>
-        <translation>
-            <numerusform>%n rifiutata</numerusform>
-            <numerusform>%n rifiutate</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not confirmed</source>
-        <translation>
-            <numerusform>%n non confermata</numerusform>
-            <numerusform>%n non confermate</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not read</source>
-        <translation>
-            <numerusform>%n non letta</numerusform>
-            <numerusform>%n non lette</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n skipped</source>
-        <translation>
-            <numerusform>%n ignorata</numerusform>
-            <numerusform>%n ignorate</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Apply Settings</source>
-        <translation>Applica impostazioni</translation>
-    </message>
-    <message>
-        <source>Compare Settings</source>
-        <translation>Confronta impostazioni</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filtra</translation>
-    </message>
-    <message>
-        <source>&amp;Differences only</source>
-        <translation>Solo &amp;differenze</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Impostazioni</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Avanzamento</translation>
-    </message>
-    <message>
-        <source>&amp;Compare Again</source>
-        <translation>&amp;Confronta di nuovo</translation>
-    </message>
-    <message>
-        <source>&amp;Apply</source>
-        <translation>&amp;Applica</translation>
-    </message>
-    <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>In attesa del proiettore di una finestra di dialogo aperta…</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Ferma</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Chiudi</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>Beforehand: other sources and modes</source>
-        <translation>Prima: altre sorgenti e modalità</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n settings</source>
-        <translation>
-            <numerusform>%n impostazione</numerusform>
-            <numerusform>%n impostazioni</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -3191,21 +3232,6 @@ un segno meno davanti toglie un’etichetta:</numerusform>
         <translation>Appl&amp;ica impostazioni…</translation>
     </message>
     <message>
-        <source>%1: no answer</source>
-        <translation>%1: nessuna risposta</translation>
-    </message>
-    <message>
-        <source>%1: nothing can be read</source>
-        <translation>%1: non si può leggere nulla</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1: %n settings cannot be read and are left out</source>
-        <translation>
-            <numerusform>%1: %n impostazione non può essere letta e viene tralasciata</numerusform>
-            <numerusform>%1: %n impostazioni non possono essere lette e vengono tralasciate</numerusform>
-        </translation>
-    </message>
-    <message>
         <source>Save Settings</source>
         <translation>Salva impostazioni</translation>
     </message>
@@ -3218,20 +3244,46 @@ un segno meno davanti toglie un’etichetta:</numerusform>
         <translation>Impostazioni (*.json)</translation>
     </message>
     <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>In attesa del proiettore di una finestra di dialogo aperta…</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Ferma</translation>
-    </message>
-    <message>
         <source>Reading settings…</source>
         <translation>Lettura delle impostazioni…</translation>
     </message>
     <message>
         <source>Open Settings</source>
         <translation>Apri impostazioni</translation>
+    </message>
+    <message>
+        <source>Settings saved in %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Settings of %n projectors saved in %1.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings could not be read.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Apply Settings</source>
+        <translation>Applica impostazioni</translation>
+    </message>
+    <message>
+        <source>Compare Settings</source>
+        <translation>Confronta impostazioni</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>The values before are kept in %1.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3680,10 +3732,6 @@ un segno meno davanti toglie un’etichetta:</numerusform>
         <translation>Tabelle (*.csv *.tsv *.txt);;Tutti i file (*)</translation>
     </message>
     <message>
-        <source>%1 added, %2 already known, %3 rows not taken.</source>
-        <translation>%1 aggiunti, %2 già noti, %3 righe non accettate.</translation>
-    </message>
-    <message>
         <source>Line %1: %2</source>
         <translation>Riga %1: %2</translation>
     </message>
@@ -3699,16 +3747,30 @@ un segno meno davanti toglie un’etichetta:</numerusform>
         <source>Tables (*.csv);;All files (*)</source>
         <translation>Tabelle (*.csv);;Tutti i file (*)</translation>
     </message>
-</context>
-<context>
-    <name>WholeFile</name>
-    <message>
-        <source>cannot write %1: %2</source>
-        <translation>impossibile scrivere %1: %2</translation>
+    <message numerus="yes">
+        <source>%n projectors added</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n already known</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rows not taken</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
-    <name>WorkActions</name>
+    <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
         <translation>Acce&amp;ndi</translation>
@@ -3840,6 +3902,16 @@ un segno meno davanti toglie un’etichetta:</numerusform>
         <source>No inputs are known</source>
         <translation>Nessun ingresso noto</translation>
     </message>
+</context>
+<context>
+    <name>WholeFile</name>
+    <message>
+        <source>cannot write %1: %2</source>
+        <translation>impossibile scrivere %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>WorkActions</name>
     <message>
         <source>%1, %2: %3</source>
         <translation>%1, %2: %3</translation>
@@ -3941,6 +4013,17 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     <message>
         <source>stopped</source>
         <translation>fermato</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>done, %n settings could not be read</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 </TS>

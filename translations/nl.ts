@@ -152,16 +152,8 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>vergelijken met opgeslagen instellingen</translation>
     </message>
     <message>
-        <source>Prints what differs from a file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder.</source>
-        <translation>Toont wat afwijkt van een bestand (‘-’ is de standaardinvoer), of van het eigen bestand van elke projector in een map.</translation>
-    </message>
-    <message>
         <source>restore saved settings</source>
         <translation>opgeslagen instellingen herstellen</translation>
-    </message>
-    <message>
-        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation>Leest de projectors, stuurt wat afwijkt van het bestand (‘-’ is de standaardinvoer), of van het eigen bestand van elke projector in een map, en leest het terug. Wat vervangen wordt, wordt eerst bewaard, zodat ‘acctl undo’ het kan herstellen. Een afgebroken uitvoering kan altijd herhaald worden.</translation>
     </message>
     <message>
         <source>undo the last run of set or apply</source>
@@ -1013,6 +1005,14 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <source>--until: &apos;%1&apos; is not KEY=VALUE</source>
         <translation>--until: ‘%1’ is geen KEY=VALUE</translation>
     </message>
+    <message>
+        <source>Prints what differs from a file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -1401,10 +1401,6 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>&amp;Kopiëren</translation>
     </message>
     <message>
-        <source>Projector, command or result</source>
-        <translation>Projector, opdracht of resultaat</translation>
-    </message>
-    <message>
         <source>Filter the log</source>
         <translation>Het logboek filteren</translation>
     </message>
@@ -1430,6 +1426,18 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <message>
         <source>Clear</source>
         <translation>Wissen</translation>
+    </message>
+    <message>
+        <source>Projector, setting, command or result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All projectors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the commands of</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1485,6 +1493,121 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <message>
         <source>ok</source>
         <translation>ok</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Instelling</translation>
+    </message>
+</context>
+<context>
+    <name>ComparisonDialog</name>
+    <message>
+        <source>Progress</source>
+        <translation>Voortgang</translation>
+    </message>
+    <message>
+        <source>&amp;Ask Again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>&amp;Toepassen</translation>
+    </message>
+    <message>
+        <source>Reading settings…</source>
+        <translation>Instellingen worden gelezen…</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stoppen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>Nothing differs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors differ.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors have all these settings already.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors could not be read.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionFields</name>
+    <message>
+        <source>&amp;Reached through</source>
+        <translation>Be&amp;reikbaar via</translation>
+    </message>
+    <message>
+        <source>Connect&amp;ion</source>
+        <translation>Ver&amp;binding</translation>
+    </message>
+    <message>
+        <source>&amp;Address</source>
+        <translation>&amp;Adres</translation>
+    </message>
+    <message>
+        <source>&amp;Port</source>
+        <translation>&amp;Poort</translation>
+    </message>
+    <message>
+        <source>Pass&amp;word</source>
+        <translation>&amp;Wachtwoord</translation>
+    </message>
+    <message>
+        <source>Port n&amp;umber</source>
+        <translation>Poortn&amp;ummer</translation>
+    </message>
+    <message>
+        <source>&amp;Device</source>
+        <translation>Apparaa&amp;t</translation>
+    </message>
+    <message>
+        <source>&amp;Baud</source>
+        <translation>Bau&amp;drate</translation>
+    </message>
+    <message>
+        <source>As its family</source>
+        <translation>Zoals de familie</translation>
+    </message>
+    <message>
+        <source>Simulated</source>
+        <translation>Gesimuleerd</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Netwerk</translation>
+    </message>
+    <message>
+        <source>Serial port</source>
+        <translation>Seriële poort</translation>
+    </message>
+    <message>
+        <source>%1 is no address.</source>
+        <translation>%1 is geen adres.</translation>
     </message>
 </context>
 <context>
@@ -1645,6 +1768,50 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <message>
         <source>nothing yet</source>
         <translation>nog niets</translation>
+    </message>
+</context>
+<context>
+    <name>DifferenceTree</name>
+    <message>
+        <source>Setting</source>
+        <translation>Instelling</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Differences</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First the other sources and modes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings</source>
+        <translation>
+            <numerusform>%n instelling</numerusform>
+            <numerusform>%n instellingen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings do not apply to this model</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings cannot be read now</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -1830,8 +1997,9 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source> %1 ms</source>
-        <translation> %1 ms</translation>
+        <source>%1: %2, %3 ms</source>
+        <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1879,6 +2047,14 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <message>
         <source>oldest answer %1</source>
         <translation>oudste antwoord %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not watched</source>
+        <comment>projectors</comment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1958,6 +2134,10 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <message>
         <source>password missing or wrong</source>
         <translation>wachtwoord ontbreekt of is onjuist</translation>
+    </message>
+    <message>
+        <source>the projector reports none of its settings now</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2168,6 +2348,33 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
 </context>
 <context>
+    <name>ModelFields</name>
+    <message>
+        <source>&amp;Family</source>
+        <translation>&amp;Familie</translation>
+    </message>
+    <message>
+        <source>&amp;Model</source>
+        <translation>&amp;Model</translation>
+    </message>
+    <message>
+        <source>All &amp;fields of the model</source>
+        <translation>Alle &amp;velden van het model</translation>
+    </message>
+    <message>
+        <source>Dialog &amp;type</source>
+        <translation>&amp;Soort dialoogvenster</translation>
+    </message>
+    <message>
+        <source>Model cod&amp;e</source>
+        <translation>Model&amp;code</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Geen</translation>
+    </message>
+</context>
+<context>
     <name>Notify</name>
     <message>
         <source>Advanced Control</source>
@@ -2285,6 +2492,26 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <source>Quiet hours</source>
         <translation>Stille uren</translation>
     </message>
+    <message>
+        <source>As the desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Colors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(the same time twice: none)</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetActions</name>
@@ -2325,10 +2552,6 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>Als voorinstelling opslaan</translation>
     </message>
     <message>
-        <source>Name of the preset:</source>
-        <translation>Naam van de voorinstelling:</translation>
-    </message>
-    <message>
         <source>Saved as the preset %1</source>
         <translation>Opgeslagen als voorinstelling %1</translation>
     </message>
@@ -2339,13 +2562,6 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <message>
         <source>Preset %1</source>
         <translation>Voorinstelling %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>Put the preset %1 on %n projectors?</source>
-        <translation>
-            <numerusform>Voorinstelling %1 toepassen op %n projector?</numerusform>
-            <numerusform>Voorinstelling %1 toepassen op %n projectors?</numerusform>
-        </translation>
     </message>
     <message>
         <source>Should Be Like</source>
@@ -2367,8 +2583,86 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         </translation>
     </message>
     <message>
-        <source>Compare</source>
-        <translation>Vergelijken</translation>
+        <source>Reading the settings of %1…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What It Should Be</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Should be</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PresetDialog</name>
+    <message>
+        <source>Save as Preset</source>
+        <translation>Als voorinstelling opslaan</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Instelling</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Waarde</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Name of the preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check all settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This &amp;Page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check the settings of the selected page, and no others</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>N&amp;one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Uncheck all settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings are checked.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The preset %1 will be replaced.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2380,26 +2674,6 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
 </context>
 <context>
     <name>ProfileActions</name>
-    <message>
-        <source>&amp;Open Profiles…</source>
-        <translation>Profielen &amp;openen…</translation>
-    </message>
-    <message>
-        <source>&amp;Reload</source>
-        <translation>&amp;Herladen</translation>
-    </message>
-    <message>
-        <source>&amp;Save Profiles As…</source>
-        <translation>&amp;Profielen opslaan als…</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Ongedaan maken</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>Op&amp;nieuw</translation>
-    </message>
     <message>
         <source>&amp;Add…</source>
         <translation>&amp;Toevoegen…</translation>
@@ -2419,26 +2693,6 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <message>
         <source>Ta&amp;g…</source>
         <translation>&amp;Labelen…</translation>
-    </message>
-    <message>
-        <source>This could not be done; nothing was changed.</source>
-        <translation>Dit was niet mogelijk; er is niets gewijzigd.</translation>
-    </message>
-    <message>
-        <source>Open Profiles</source>
-        <translation>Profielen openen</translation>
-    </message>
-    <message>
-        <source>Profiles (*.json);;All files (*)</source>
-        <translation>Profielen (*.json);;Alle bestanden (*)</translation>
-    </message>
-    <message>
-        <source>Reload</source>
-        <translation>Herladen</translation>
-    </message>
-    <message>
-        <source>Save Profiles As</source>
-        <translation>Profielen opslaan als</translation>
     </message>
     <message>
         <source>Add</source>
@@ -2531,58 +2785,6 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation>&amp;Naam</translation>
     </message>
     <message>
-        <source>&amp;Family</source>
-        <translation>&amp;Familie</translation>
-    </message>
-    <message>
-        <source>&amp;Model</source>
-        <translation>&amp;Model</translation>
-    </message>
-    <message>
-        <source>Dialog &amp;type</source>
-        <translation>&amp;Soort dialoogvenster</translation>
-    </message>
-    <message>
-        <source>Model cod&amp;e</source>
-        <translation>Model&amp;code</translation>
-    </message>
-    <message>
-        <source>&amp;Reached through</source>
-        <translation>Be&amp;reikbaar via</translation>
-    </message>
-    <message>
-        <source>Connect&amp;ion</source>
-        <translation>Ver&amp;binding</translation>
-    </message>
-    <message>
-        <source>&amp;Address</source>
-        <translation>&amp;Adres</translation>
-    </message>
-    <message>
-        <source>&amp;Port</source>
-        <translation>&amp;Poort</translation>
-    </message>
-    <message>
-        <source>Pass&amp;word</source>
-        <translation>&amp;Wachtwoord</translation>
-    </message>
-    <message>
-        <source>Port n&amp;umber</source>
-        <translation>Poortn&amp;ummer</translation>
-    </message>
-    <message>
-        <source>&amp;Device</source>
-        <translation>Apparaa&amp;t</translation>
-    </message>
-    <message>
-        <source>&amp;Baud</source>
-        <translation>Bau&amp;drate</translation>
-    </message>
-    <message>
-        <source>All &amp;fields of the model</source>
-        <translation>Alle &amp;velden van het model</translation>
-    </message>
-    <message>
         <source>Add Projector</source>
         <translation>Projector toevoegen</translation>
     </message>
@@ -2591,36 +2793,8 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation>Projector bewerken</translation>
     </message>
     <message>
-        <source>Save Profiles As…</source>
-        <translation>Profielen opslaan als…</translation>
-    </message>
-    <message>
-        <source>%1 cannot be changed.</source>
-        <translation>%1 kan niet gewijzigd worden.</translation>
-    </message>
-    <message>
         <source>Duplicate Projector</source>
         <translation>Projector dupliceren</translation>
-    </message>
-    <message>
-        <source>None</source>
-        <translation>Geen</translation>
-    </message>
-    <message>
-        <source>As its family</source>
-        <translation>Zoals de familie</translation>
-    </message>
-    <message>
-        <source>Simulated</source>
-        <translation>Gesimuleerd</translation>
-    </message>
-    <message>
-        <source>Network</source>
-        <translation>Netwerk</translation>
-    </message>
-    <message>
-        <source>Serial port</source>
-        <translation>Seriële poort</translation>
     </message>
     <message>
         <source>Still to be filled in: %1</source>
@@ -2629,10 +2803,6 @@ een minteken ervoor neemt een label weg:</numerusform>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>%1 is no address.</source>
-        <translation>%1 is geen adres.</translation>
     </message>
 </context>
 <context>
@@ -2767,6 +2937,64 @@ een minteken ervoor neemt een label weg:</numerusform>
     </message>
 </context>
 <context>
+    <name>ProfileFileActions</name>
+    <message>
+        <source>&amp;Open Profiles…</source>
+        <translation>Profielen &amp;openen…</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>&amp;Herladen</translation>
+    </message>
+    <message>
+        <source>&amp;Save Profiles As…</source>
+        <translation>&amp;Profielen opslaan als…</translation>
+    </message>
+    <message>
+        <source>Open Profiles</source>
+        <translation>Profielen openen</translation>
+    </message>
+    <message>
+        <source>Profiles (*.json);;All files (*)</source>
+        <translation>Profielen (*.json);;Alle bestanden (*)</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Herladen</translation>
+    </message>
+    <message>
+        <source>Save Profiles As</source>
+        <translation>Profielen opslaan als</translation>
+    </message>
+    <message>
+        <source>Read-Only File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be changed. Save the profiles in another file first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Profiles As…</source>
+        <translation>Profielen opslaan als…</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileHistory</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Ongedaan maken</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>Op&amp;nieuw</translation>
+    </message>
+    <message>
+        <source>This could not be done; nothing was changed.</source>
+        <translation>Dit was niet mogelijk; er is niets gewijzigd.</translation>
+    </message>
+</context>
+<context>
     <name>Program</name>
     <message>
         <source>no profiles at %1; name a file with --profiles</source>
@@ -2813,7 +3041,7 @@ een minteken ervoor neemt een label weg:</numerusform>
     </message>
 </context>
 <context>
-    <name>ProjectorTableModel</name>
+    <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
         <translation>Naam</translation>
@@ -2901,193 +3129,6 @@ een minteken ervoor neemt een label weg:</numerusform>
         <source>Folder</source>
         <comment>All other platforms</comment>
         <translation>Map</translation>
-    </message>
-</context>
-<context>
-    <name>RestoreDialog</name>
-    <message>
-        <source>Projector</source>
-        <translation>Projector</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>Instelling</translation>
-    </message>
-    <message>
-        <source>Here</source>
-        <translation>Hier</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>Bestand</translation>
-    </message>
-    <message>
-        <source>Result</source>
-        <translation>Resultaat</translation>
-    </message>
-    <message>
-        <source>not read</source>
-        <translation>niet gelezen</translation>
-    </message>
-    <message>
-        <source>already so</source>
-        <translation>ongewijzigd</translation>
-    </message>
-    <message>
-        <source>different</source>
-        <translation>afwijkend</translation>
-    </message>
-    <message>
-        <source>changed</source>
-        <translation>gewijzigd</translation>
-    </message>
-    <message>
-        <source>refused</source>
-        <translation>geweigerd</translation>
-    </message>
-    <message>
-        <source>accepted, not yet so</source>
-        <translation>aanvaard, nog niet van kracht</translation>
-    </message>
-    <message>
-        <source>refused: the projector is busy or in standby</source>
-        <translation>geweigerd: de projector is bezet of in stand-by</translation>
-    </message>
-    <message>
-        <source>not confirmed</source>
-        <translation>niet bevestigd</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not have it</source>
-        <translation>overgeslagen: dit model heeft het niet</translation>
-    </message>
-    <message>
-        <source>skipped: this projector does not offer it</source>
-        <translation>overgeslagen: deze projector biedt het niet</translation>
-    </message>
-    <message>
-        <source>skipped: it is not one to put back</source>
-        <translation>overgeslagen: wordt niet hersteld</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not take the value</source>
-        <translation>overgeslagen: dit model aanvaardt de waarde niet</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n changed</source>
-        <extracomment>How many settings came to this, in a list such as &quot;12 changed, 3 refused&quot;.</extracomment>
-        <translation>
-            <numerusform>%n gewijzigd</numerusform>
-            <numerusform>%n gewijzigd</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n different</source>
-        <translation>
-            <numerusform>%n afwijkend</numerusform>
-            <numerusform>%n afwijkend</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n already so</source>
-        <translation>
-            <numerusform>%n ongewijzigd</numerusform>
-            <numerusform>%n ongewijzigd</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not yet so</source>
-        <translation>
-            <numerusform>%n nog niet van kracht</numerusform>
-            <numerusform>%n nog niet van kracht</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n refused</source>
-        <translation>
-            <numerusform>%n geweigerd</numerusform>
-            <numerusform>%n geweigerd</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not confirmed</source>
-        <translation>
-            <numerusform>%n niet bevestigd</numerusform>
-            <numerusform>%n niet bevestigd</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not read</source>
-        <translation>
-            <numerusform>%n niet gelezen</numerusform>
-            <numerusform>%n niet gelezen</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n skipped</source>
-        <translation>
-            <numerusform>%n overgeslagen</numerusform>
-            <numerusform>%n overgeslagen</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Apply Settings</source>
-        <translation>Instellingen toepassen</translation>
-    </message>
-    <message>
-        <source>Compare Settings</source>
-        <translation>Instellingen vergelijken</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filteren</translation>
-    </message>
-    <message>
-        <source>&amp;Differences only</source>
-        <translation>Alleen &amp;verschillen</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Instellingen</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Voortgang</translation>
-    </message>
-    <message>
-        <source>&amp;Compare Again</source>
-        <translation>Opnieuw ver&amp;gelijken</translation>
-    </message>
-    <message>
-        <source>&amp;Apply</source>
-        <translation>&amp;Toepassen</translation>
-    </message>
-    <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>Wacht op de projector van een open dialoogvenster…</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Stoppen</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Sluiten</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>Beforehand: other sources and modes</source>
-        <translation>Vooraf: andere bronnen en modi</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n settings</source>
-        <translation>
-            <numerusform>%n instelling</numerusform>
-            <numerusform>%n instellingen</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -3191,21 +3232,6 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation>Instellingen toe&amp;passen…</translation>
     </message>
     <message>
-        <source>%1: no answer</source>
-        <translation>%1: geen antwoord</translation>
-    </message>
-    <message>
-        <source>%1: nothing can be read</source>
-        <translation>%1: er kan niets gelezen worden</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1: %n settings cannot be read and are left out</source>
-        <translation>
-            <numerusform>%1: %n instelling kan niet gelezen worden en wordt weggelaten</numerusform>
-            <numerusform>%1: %n instellingen kunnen niet gelezen worden en worden weggelaten</numerusform>
-        </translation>
-    </message>
-    <message>
         <source>Save Settings</source>
         <translation>Instellingen opslaan</translation>
     </message>
@@ -3218,20 +3244,46 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation>Instellingen (*.json)</translation>
     </message>
     <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>Wacht op de projector van een open dialoogvenster…</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Stoppen</translation>
-    </message>
-    <message>
         <source>Reading settings…</source>
         <translation>Instellingen worden gelezen…</translation>
     </message>
     <message>
         <source>Open Settings</source>
         <translation>Instellingen openen</translation>
+    </message>
+    <message>
+        <source>Settings saved in %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Settings of %n projectors saved in %1.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings could not be read.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Apply Settings</source>
+        <translation>Instellingen toepassen</translation>
+    </message>
+    <message>
+        <source>Compare Settings</source>
+        <translation>Instellingen vergelijken</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Bestand</translation>
+    </message>
+    <message>
+        <source>The values before are kept in %1.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3680,10 +3732,6 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation>Tabellen (*.csv *.tsv *.txt);;Alle bestanden (*)</translation>
     </message>
     <message>
-        <source>%1 added, %2 already known, %3 rows not taken.</source>
-        <translation>%1 toegevoegd, %2 al bekend, %3 rijen niet overgenomen.</translation>
-    </message>
-    <message>
         <source>Line %1: %2</source>
         <translation>Regel %1: %2</translation>
     </message>
@@ -3699,16 +3747,30 @@ een minteken ervoor neemt een label weg:</numerusform>
         <source>Tables (*.csv);;All files (*)</source>
         <translation>Tabellen (*.csv);;Alle bestanden (*)</translation>
     </message>
-</context>
-<context>
-    <name>WholeFile</name>
-    <message>
-        <source>cannot write %1: %2</source>
-        <translation>kan %1 niet schrijven: %2</translation>
+    <message numerus="yes">
+        <source>%n projectors added</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n already known</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rows not taken</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
-    <name>WorkActions</name>
+    <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
         <translation>I&amp;nschakelen</translation>
@@ -3840,6 +3902,16 @@ een minteken ervoor neemt een label weg:</numerusform>
         <source>No inputs are known</source>
         <translation>Geen ingangen bekend</translation>
     </message>
+</context>
+<context>
+    <name>WholeFile</name>
+    <message>
+        <source>cannot write %1: %2</source>
+        <translation>kan %1 niet schrijven: %2</translation>
+    </message>
+</context>
+<context>
+    <name>WorkActions</name>
     <message>
         <source>%1, %2: %3</source>
         <translation>%1, %2: %3</translation>
@@ -3941,6 +4013,17 @@ een minteken ervoor neemt een label weg:</numerusform>
     <message>
         <source>stopped</source>
         <translation>gestopt</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>done, %n settings could not be read</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 </TS>

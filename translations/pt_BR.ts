@@ -152,16 +152,8 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <translation>comparar com ajustes salvos</translation>
     </message>
     <message>
-        <source>Prints what differs from a file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder.</source>
-        <translation>Mostra o que difere de um arquivo (“-” é a entrada padrão), ou do arquivo de cada projetor em uma pasta.</translation>
-    </message>
-    <message>
         <source>restore saved settings</source>
         <translation>restaurar ajustes salvos</translation>
-    </message>
-    <message>
-        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation>Lê os projetores, envia o que difere do arquivo (“-” é a entrada padrão), ou do arquivo de cada projetor em uma pasta, e relê. O que é substituído é guardado antes, para que “acctl undo” possa restaurá-lo. Uma execução interrompida pode ser repetida a qualquer momento.</translation>
     </message>
     <message>
         <source>undo the last run of set or apply</source>
@@ -1013,6 +1005,14 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <source>--until: &apos;%1&apos; is not KEY=VALUE</source>
         <translation>--until: “%1” não é KEY=VALUE</translation>
     </message>
+    <message>
+        <source>Prints what differs from a file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -1401,10 +1401,6 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <translation>&amp;Copiar</translation>
     </message>
     <message>
-        <source>Projector, command or result</source>
-        <translation>Projetor, comando ou resultado</translation>
-    </message>
-    <message>
         <source>Filter the log</source>
         <translation>Filtrar o registro</translation>
     </message>
@@ -1430,6 +1426,18 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <message>
         <source>Clear</source>
         <translation>Limpar</translation>
+    </message>
+    <message>
+        <source>Projector, setting, command or result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All projectors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the commands of</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1485,6 +1493,121 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <message>
         <source>ok</source>
         <translation>ok</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Ajuste</translation>
+    </message>
+</context>
+<context>
+    <name>ComparisonDialog</name>
+    <message>
+        <source>Progress</source>
+        <translation>Progresso</translation>
+    </message>
+    <message>
+        <source>&amp;Ask Again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>&amp;Aplicar</translation>
+    </message>
+    <message>
+        <source>Reading settings…</source>
+        <translation>Lendo ajustes…</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Parar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Nothing differs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors differ.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors have all these settings already.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors could not be read.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionFields</name>
+    <message>
+        <source>&amp;Reached through</source>
+        <translation>Acessível &amp;por</translation>
+    </message>
+    <message>
+        <source>Connect&amp;ion</source>
+        <translation>Cone&amp;xão</translation>
+    </message>
+    <message>
+        <source>&amp;Address</source>
+        <translation>&amp;Endereço</translation>
+    </message>
+    <message>
+        <source>&amp;Port</source>
+        <translation>P&amp;orta</translation>
+    </message>
+    <message>
+        <source>Pass&amp;word</source>
+        <translation>&amp;Senha</translation>
+    </message>
+    <message>
+        <source>Port n&amp;umber</source>
+        <translation>N&amp;úmero da porta</translation>
+    </message>
+    <message>
+        <source>&amp;Device</source>
+        <translation>&amp;Dispositivo</translation>
+    </message>
+    <message>
+        <source>&amp;Baud</source>
+        <translation>&amp;Taxa em bauds</translation>
+    </message>
+    <message>
+        <source>As its family</source>
+        <translation>Como sua família</translation>
+    </message>
+    <message>
+        <source>Simulated</source>
+        <translation>Simulado</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Rede</translation>
+    </message>
+    <message>
+        <source>Serial port</source>
+        <translation>Porta serial</translation>
+    </message>
+    <message>
+        <source>%1 is no address.</source>
+        <translation>%1 não é um endereço.</translation>
     </message>
 </context>
 <context>
@@ -1645,6 +1768,50 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <message>
         <source>nothing yet</source>
         <translation>nada ainda</translation>
+    </message>
+</context>
+<context>
+    <name>DifferenceTree</name>
+    <message>
+        <source>Setting</source>
+        <translation>Ajuste</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Differences</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First the other sources and modes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings</source>
+        <translation>
+            <numerusform>%n ajuste</numerusform>
+            <numerusform>%n ajustes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings do not apply to this model</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings cannot be read now</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -1830,8 +1997,9 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source> %1 ms</source>
-        <translation> %1 ms</translation>
+        <source>%1: %2, %3 ms</source>
+        <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1879,6 +2047,14 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <message>
         <source>oldest answer %1</source>
         <translation>resposta mais antiga %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not watched</source>
+        <comment>projectors</comment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1958,6 +2134,10 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <message>
         <source>password missing or wrong</source>
         <translation>senha ausente ou incorreta</translation>
+    </message>
+    <message>
+        <source>the projector reports none of its settings now</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2168,6 +2348,33 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
 </context>
 <context>
+    <name>ModelFields</name>
+    <message>
+        <source>&amp;Family</source>
+        <translation>&amp;Família</translation>
+    </message>
+    <message>
+        <source>&amp;Model</source>
+        <translation>&amp;Modelo</translation>
+    </message>
+    <message>
+        <source>All &amp;fields of the model</source>
+        <translation>Todos os campos do mode&amp;lo</translation>
+    </message>
+    <message>
+        <source>Dialog &amp;type</source>
+        <translation>&amp;Tipo de caixa de diálogo</translation>
+    </message>
+    <message>
+        <source>Model cod&amp;e</source>
+        <translation>&amp;Código do modelo</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Nenhuma</translation>
+    </message>
+</context>
+<context>
     <name>Notify</name>
     <message>
         <source>Advanced Control</source>
@@ -2285,6 +2492,26 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <source>Quiet hours</source>
         <translation>Horas de silêncio</translation>
     </message>
+    <message>
+        <source>As the desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Colors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(the same time twice: none)</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetActions</name>
@@ -2325,10 +2552,6 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <translation>Salvar como predefinição</translation>
     </message>
     <message>
-        <source>Name of the preset:</source>
-        <translation>Nome da predefinição:</translation>
-    </message>
-    <message>
         <source>Saved as the preset %1</source>
         <translation>Salvo como a predefinição %1</translation>
     </message>
@@ -2339,13 +2562,6 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <message>
         <source>Preset %1</source>
         <translation>Predefinição %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>Put the preset %1 on %n projectors?</source>
-        <translation>
-            <numerusform>Aplicar a predefinição %1 a %n projetor?</numerusform>
-            <numerusform>Aplicar a predefinição %1 a %n projetores?</numerusform>
-        </translation>
     </message>
     <message>
         <source>Should Be Like</source>
@@ -2367,8 +2583,86 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         </translation>
     </message>
     <message>
-        <source>Compare</source>
-        <translation>Comparar</translation>
+        <source>Reading the settings of %1…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What It Should Be</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Should be</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PresetDialog</name>
+    <message>
+        <source>Save as Preset</source>
+        <translation>Salvar como predefinição</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Ajuste</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valor</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Name of the preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check all settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This &amp;Page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check the settings of the selected page, and no others</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>N&amp;one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Uncheck all settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings are checked.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The preset %1 will be replaced.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2380,26 +2674,6 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
 </context>
 <context>
     <name>ProfileActions</name>
-    <message>
-        <source>&amp;Open Profiles…</source>
-        <translation>&amp;Abrir perfis…</translation>
-    </message>
-    <message>
-        <source>&amp;Reload</source>
-        <translation>&amp;Recarregar</translation>
-    </message>
-    <message>
-        <source>&amp;Save Profiles As…</source>
-        <translation>Sal&amp;var perfis como…</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Desfazer</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>Re&amp;fazer</translation>
-    </message>
     <message>
         <source>&amp;Add…</source>
         <translation>&amp;Adicionar…</translation>
@@ -2419,26 +2693,6 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <message>
         <source>Ta&amp;g…</source>
         <translation>Eti&amp;quetar…</translation>
-    </message>
-    <message>
-        <source>This could not be done; nothing was changed.</source>
-        <translation>Não foi possível; nada foi alterado.</translation>
-    </message>
-    <message>
-        <source>Open Profiles</source>
-        <translation>Abrir perfis</translation>
-    </message>
-    <message>
-        <source>Profiles (*.json);;All files (*)</source>
-        <translation>Perfis (*.json);;Todos os arquivos (*)</translation>
-    </message>
-    <message>
-        <source>Reload</source>
-        <translation>Recarregar</translation>
-    </message>
-    <message>
-        <source>Save Profiles As</source>
-        <translation>Salvar perfis como</translation>
     </message>
     <message>
         <source>Add</source>
@@ -2531,58 +2785,6 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
         <translation>&amp;Nome</translation>
     </message>
     <message>
-        <source>&amp;Family</source>
-        <translation>&amp;Família</translation>
-    </message>
-    <message>
-        <source>&amp;Model</source>
-        <translation>&amp;Modelo</translation>
-    </message>
-    <message>
-        <source>Dialog &amp;type</source>
-        <translation>&amp;Tipo de caixa de diálogo</translation>
-    </message>
-    <message>
-        <source>Model cod&amp;e</source>
-        <translation>&amp;Código do modelo</translation>
-    </message>
-    <message>
-        <source>&amp;Reached through</source>
-        <translation>Acessível &amp;por</translation>
-    </message>
-    <message>
-        <source>Connect&amp;ion</source>
-        <translation>Cone&amp;xão</translation>
-    </message>
-    <message>
-        <source>&amp;Address</source>
-        <translation>&amp;Endereço</translation>
-    </message>
-    <message>
-        <source>&amp;Port</source>
-        <translation>P&amp;orta</translation>
-    </message>
-    <message>
-        <source>Pass&amp;word</source>
-        <translation>&amp;Senha</translation>
-    </message>
-    <message>
-        <source>Port n&amp;umber</source>
-        <translation>N&amp;úmero da porta</translation>
-    </message>
-    <message>
-        <source>&amp;Device</source>
-        <translation>&amp;Dispositivo</translation>
-    </message>
-    <message>
-        <source>&amp;Baud</source>
-        <translation>&amp;Taxa em bauds</translation>
-    </message>
-    <message>
-        <source>All &amp;fields of the model</source>
-        <translation>Todos os campos do mode&amp;lo</translation>
-    </message>
-    <message>
         <source>Add Projector</source>
         <translation>Adicionar projetor</translation>
     </message>
@@ -2591,36 +2793,8 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
         <translation>Editar projetor</translation>
     </message>
     <message>
-        <source>Save Profiles As…</source>
-        <translation>Salvar perfis como…</translation>
-    </message>
-    <message>
-        <source>%1 cannot be changed.</source>
-        <translation>%1 não pode ser alterado.</translation>
-    </message>
-    <message>
         <source>Duplicate Projector</source>
         <translation>Duplicar projetor</translation>
-    </message>
-    <message>
-        <source>None</source>
-        <translation>Nenhuma</translation>
-    </message>
-    <message>
-        <source>As its family</source>
-        <translation>Como sua família</translation>
-    </message>
-    <message>
-        <source>Simulated</source>
-        <translation>Simulado</translation>
-    </message>
-    <message>
-        <source>Network</source>
-        <translation>Rede</translation>
-    </message>
-    <message>
-        <source>Serial port</source>
-        <translation>Porta serial</translation>
     </message>
     <message>
         <source>Still to be filled in: %1</source>
@@ -2629,10 +2803,6 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>%1 is no address.</source>
-        <translation>%1 não é um endereço.</translation>
     </message>
 </context>
 <context>
@@ -2767,6 +2937,64 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
     </message>
 </context>
 <context>
+    <name>ProfileFileActions</name>
+    <message>
+        <source>&amp;Open Profiles…</source>
+        <translation>&amp;Abrir perfis…</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>&amp;Recarregar</translation>
+    </message>
+    <message>
+        <source>&amp;Save Profiles As…</source>
+        <translation>Sal&amp;var perfis como…</translation>
+    </message>
+    <message>
+        <source>Open Profiles</source>
+        <translation>Abrir perfis</translation>
+    </message>
+    <message>
+        <source>Profiles (*.json);;All files (*)</source>
+        <translation>Perfis (*.json);;Todos os arquivos (*)</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Recarregar</translation>
+    </message>
+    <message>
+        <source>Save Profiles As</source>
+        <translation>Salvar perfis como</translation>
+    </message>
+    <message>
+        <source>Read-Only File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be changed. Save the profiles in another file first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Profiles As…</source>
+        <translation>Salvar perfis como…</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileHistory</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Desfazer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>Re&amp;fazer</translation>
+    </message>
+    <message>
+        <source>This could not be done; nothing was changed.</source>
+        <translation>Não foi possível; nada foi alterado.</translation>
+    </message>
+</context>
+<context>
     <name>Program</name>
     <message>
         <source>no profiles at %1; name a file with --profiles</source>
@@ -2813,7 +3041,7 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
     </message>
 </context>
 <context>
-    <name>ProjectorTableModel</name>
+    <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
         <translation>Nome</translation>
@@ -2901,193 +3129,6 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
         <source>Folder</source>
         <comment>All other platforms</comment>
         <translation>Pasta</translation>
-    </message>
-</context>
-<context>
-    <name>RestoreDialog</name>
-    <message>
-        <source>Projector</source>
-        <translation>Projetor</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>Ajuste</translation>
-    </message>
-    <message>
-        <source>Here</source>
-        <translation>Aqui</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>Arquivo</translation>
-    </message>
-    <message>
-        <source>Result</source>
-        <translation>Resultado</translation>
-    </message>
-    <message>
-        <source>not read</source>
-        <translation>não lido</translation>
-    </message>
-    <message>
-        <source>already so</source>
-        <translation>inalterado</translation>
-    </message>
-    <message>
-        <source>different</source>
-        <translation>diferente</translation>
-    </message>
-    <message>
-        <source>changed</source>
-        <translation>alterado</translation>
-    </message>
-    <message>
-        <source>refused</source>
-        <translation>recusado</translation>
-    </message>
-    <message>
-        <source>accepted, not yet so</source>
-        <translation>aceito, ainda sem efeito</translation>
-    </message>
-    <message>
-        <source>refused: the projector is busy or in standby</source>
-        <translation>recusado: o projetor está ocupado ou em espera</translation>
-    </message>
-    <message>
-        <source>not confirmed</source>
-        <translation>não confirmado</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not have it</source>
-        <translation>ignorado: este modelo não o tem</translation>
-    </message>
-    <message>
-        <source>skipped: this projector does not offer it</source>
-        <translation>ignorado: este projetor não o oferece</translation>
-    </message>
-    <message>
-        <source>skipped: it is not one to put back</source>
-        <translation>ignorado: não é restaurado</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not take the value</source>
-        <translation>ignorado: este modelo não aceita o valor</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n changed</source>
-        <extracomment>How many settings came to this, in a list such as &quot;12 changed, 3 refused&quot;.</extracomment>
-        <translation>
-            <numerusform>%n alterado</numerusform>
-            <numerusform>%n alterados</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n different</source>
-        <translation>
-            <numerusform>%n diferente</numerusform>
-            <numerusform>%n diferentes</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n already so</source>
-        <translation>
-            <numerusform>%n inalterado</numerusform>
-            <numerusform>%n inalterados</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not yet so</source>
-        <translation>
-            <numerusform>%n ainda sem efeito</numerusform>
-            <numerusform>%n ainda sem efeito</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n refused</source>
-        <translation>
-            <numerusform>%n recusado</numerusform>
-            <numerusform>%n recusados</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not confirmed</source>
-        <translation>
-            <numerusform>%n não confirmado</numerusform>
-            <numerusform>%n não confirmados</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not read</source>
-        <translation>
-            <numerusform>%n não lido</numerusform>
-            <numerusform>%n não lidos</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n skipped</source>
-        <translation>
-            <numerusform>%n ignorado</numerusform>
-            <numerusform>%n ignorados</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Apply Settings</source>
-        <translation>Aplicar ajustes</translation>
-    </message>
-    <message>
-        <source>Compare Settings</source>
-        <translation>Comparar ajustes</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filtrar</translation>
-    </message>
-    <message>
-        <source>&amp;Differences only</source>
-        <translation>Somente &amp;diferenças</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Ajustes</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Progresso</translation>
-    </message>
-    <message>
-        <source>&amp;Compare Again</source>
-        <translation>&amp;Comparar novamente</translation>
-    </message>
-    <message>
-        <source>&amp;Apply</source>
-        <translation>&amp;Aplicar</translation>
-    </message>
-    <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>Aguardando o projetor de uma caixa de diálogo aberta…</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Parar</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Fechar</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>Beforehand: other sources and modes</source>
-        <translation>Antes: outras fontes e modos</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n settings</source>
-        <translation>
-            <numerusform>%n ajuste</numerusform>
-            <numerusform>%n ajustes</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -3191,21 +3232,6 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
         <translation>Apl&amp;icar ajustes…</translation>
     </message>
     <message>
-        <source>%1: no answer</source>
-        <translation>%1: sem resposta</translation>
-    </message>
-    <message>
-        <source>%1: nothing can be read</source>
-        <translation>%1: nada pode ser lido</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1: %n settings cannot be read and are left out</source>
-        <translation>
-            <numerusform>%1: %n ajuste não pode ser lido e é omitido</numerusform>
-            <numerusform>%1: %n ajustes não podem ser lidos e são omitidos</numerusform>
-        </translation>
-    </message>
-    <message>
         <source>Save Settings</source>
         <translation>Salvar ajustes</translation>
     </message>
@@ -3218,20 +3244,46 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
         <translation>Ajustes (*.json)</translation>
     </message>
     <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>Aguardando o projetor de uma caixa de diálogo aberta…</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Parar</translation>
-    </message>
-    <message>
         <source>Reading settings…</source>
         <translation>Lendo ajustes…</translation>
     </message>
     <message>
         <source>Open Settings</source>
         <translation>Abrir ajustes</translation>
+    </message>
+    <message>
+        <source>Settings saved in %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Settings of %n projectors saved in %1.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings could not be read.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Apply Settings</source>
+        <translation>Aplicar ajustes</translation>
+    </message>
+    <message>
+        <source>Compare Settings</source>
+        <translation>Comparar ajustes</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Arquivo</translation>
+    </message>
+    <message>
+        <source>The values before are kept in %1.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3680,10 +3732,6 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
         <translation>Tabelas (*.csv *.tsv *.txt);;Todos os arquivos (*)</translation>
     </message>
     <message>
-        <source>%1 added, %2 already known, %3 rows not taken.</source>
-        <translation>%1 adicionados, %2 já conhecidos, %3 linhas não aceitas.</translation>
-    </message>
-    <message>
         <source>Line %1: %2</source>
         <translation>Linha %1: %2</translation>
     </message>
@@ -3699,16 +3747,30 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
         <source>Tables (*.csv);;All files (*)</source>
         <translation>Tabelas (*.csv);;Todos os arquivos (*)</translation>
     </message>
-</context>
-<context>
-    <name>WholeFile</name>
-    <message>
-        <source>cannot write %1: %2</source>
-        <translation>não é possível gravar %1: %2</translation>
+    <message numerus="yes">
+        <source>%n projectors added</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n already known</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rows not taken</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
-    <name>WorkActions</name>
+    <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
         <translation>&amp;Ligar</translation>
@@ -3840,6 +3902,16 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
         <source>No inputs are known</source>
         <translation>Nenhuma entrada conhecida</translation>
     </message>
+</context>
+<context>
+    <name>WholeFile</name>
+    <message>
+        <source>cannot write %1: %2</source>
+        <translation>não é possível gravar %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>WorkActions</name>
     <message>
         <source>%1, %2: %3</source>
         <translation>%1, %2: %3</translation>
@@ -3941,6 +4013,17 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
     <message>
         <source>stopped</source>
         <translation>parado</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>done, %n settings could not be read</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 </TS>

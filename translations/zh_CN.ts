@@ -150,16 +150,8 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <translation>与保存的设置比较</translation>
     </message>
     <message>
-        <source>Prints what differs from a file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder.</source>
-        <translation>显示与文件（“-”表示标准输入）或与文件夹中每台投影机各自文件的差异。</translation>
-    </message>
-    <message>
         <source>restore saved settings</source>
         <translation>还原保存的设置</translation>
-    </message>
-    <message>
-        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation>读取投影机，发送与文件（“-”表示标准输入）或与文件夹中每台投影机各自文件不同的设置，再读回。被替换的值会先保存下来，以便用“acctl undo”还原。中断的运行可随时重复。</translation>
     </message>
     <message>
         <source>undo the last run of set or apply</source>
@@ -994,6 +986,14 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <source>--until: &apos;%1&apos; is not KEY=VALUE</source>
         <translation>--until：“%1”不是 KEY=VALUE</translation>
     </message>
+    <message>
+        <source>Prints what differs from a file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder.</source>
+        <translation>打印与某个文件（&apos;-&apos; 为标准输入）、与主程序的某个预设，或与文件夹中每台投影机自己的文件之间的差异。</translation>
+    </message>
+    <message>
+        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
+        <translation>读取投影机，发送与文件（&apos;-&apos; 为标准输入）、与主程序的某个预设，或与文件夹中每台投影机自己的文件不同的部分，并读回结果。被替换的值会先保存，以便 &apos;acctl undo&apos; 恢复。中断的运行可随时重复。</translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -1389,10 +1389,6 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <translation>不显示已执行成功的命令</translation>
     </message>
     <message>
-        <source>Projector, command or result</source>
-        <translation>投影机、命令或结果</translation>
-    </message>
-    <message>
         <source>Filter the log</source>
         <translation>筛选记录</translation>
     </message>
@@ -1409,6 +1405,18 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <translation>
             <numerusform>要删除全部 %n 条记录吗？</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Projector, setting, command or result</source>
+        <translation>投影机、设置、命令或结果</translation>
+    </message>
+    <message>
+        <source>All projectors</source>
+        <translation>所有投影机</translation>
+    </message>
+    <message>
+        <source>Show the commands of</source>
+        <translation>显示其命令</translation>
     </message>
 </context>
 <context>
@@ -1464,6 +1472,63 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     <message>
         <source>not yet so</source>
         <translation>尚未生效</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>设置</translation>
+    </message>
+</context>
+<context>
+    <name>ComparisonDialog</name>
+    <message>
+        <source>Progress</source>
+        <translation>进度</translation>
+    </message>
+    <message>
+        <source>&amp;Ask Again</source>
+        <translation>重新询问(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>应用(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Reading settings…</source>
+        <translation>正在读取设置…</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Nothing differs.</source>
+        <translation>没有差异。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors differ.</source>
+        <translation>
+            <numerusform>%n 台投影机有差异。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors have all these settings already.</source>
+        <translation>
+            <numerusform>%n 台投影机已具有全部这些设置。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors could not be read.</source>
+        <translation>
+            <numerusform>%n 台投影机无法读取。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1678,6 +1743,47 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <translation>
             <numerusform>已选择 %n 台投影机</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>DifferenceTree</name>
+    <message>
+        <source>Setting</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>当前</translation>
+    </message>
+    <message>
+        <source>Differences</source>
+        <translation>差异</translation>
+    </message>
+    <message>
+        <source>First the other sources and modes</source>
+        <translation>首先是其他输入源和模式</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings</source>
+        <translation>
+            <numerusform>%n 项设置</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings do not apply to this model</source>
+        <translation>
+            <numerusform>%n 项设置不适用于此型号</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings cannot be read now</source>
+        <translation>
+            <numerusform>%n 项设置现在无法读取</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
     </message>
 </context>
 <context>
@@ -1909,6 +2015,13 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
             <numerusform>%n 台有警报</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n not watched</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n 台未监视</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>FleetWork</name>
@@ -1987,6 +2100,10 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     <message>
         <source>password missing or wrong</source>
         <translation>缺少密码或密码错误</translation>
+    </message>
+    <message>
+        <source>the projector reports none of its settings now</source>
+        <translation>投影机现在不报告任何设置</translation>
     </message>
 </context>
 <context>
@@ -2340,6 +2457,26 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <source>Quiet hours</source>
         <translation>免打扰时段</translation>
     </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>与桌面相同</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>浅色</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>深色</translation>
+    </message>
+    <message>
+        <source>&amp;Colors</source>
+        <translation>颜色(&amp;C)</translation>
+    </message>
+    <message>
+        <source>(the same time twice: none)</source>
+        <translation>（两个时间相同：不设）</translation>
+    </message>
 </context>
 <context>
     <name>PresetActions</name>
@@ -2380,10 +2517,6 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <translation>保存为预设</translation>
     </message>
     <message>
-        <source>Name of the preset:</source>
-        <translation>预设名称：</translation>
-    </message>
-    <message>
         <source>Saved as the preset %1</source>
         <translation>已保存为预设 %1</translation>
     </message>
@@ -2407,21 +2540,92 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <source>Put Back</source>
         <translation>恢复应有设置</translation>
     </message>
-    <message>
-        <source>Compare</source>
-        <translation>比较</translation>
-    </message>
-    <message numerus="yes">
-        <source>Put the preset %1 on %n projectors?</source>
-        <translation>
-            <numerusform>要将预设 %1 应用到 %n 台投影机吗？</numerusform>
-        </translation>
-    </message>
     <message numerus="yes">
         <source>Put back the settings of %n projectors?</source>
         <translation>
             <numerusform>要恢复 %n 台投影机的应有设置吗？</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Reading the settings of %1…</source>
+        <translation>正在读取 %1 的设置…</translation>
+    </message>
+    <message>
+        <source>Preset</source>
+        <translation>预设</translation>
+    </message>
+    <message>
+        <source>What It Should Be</source>
+        <translation>应有的设置</translation>
+    </message>
+    <message>
+        <source>Should be</source>
+        <translation>应为</translation>
+    </message>
+</context>
+<context>
+    <name>PresetDialog</name>
+    <message>
+        <source>Save as Preset</source>
+        <translation>保存为预设</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation>预设的设置</translation>
+    </message>
+    <message>
+        <source>&amp;Name of the preset</source>
+        <translation>预设名称(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>全部(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Check all settings</source>
+        <translation>选中所有设置</translation>
+    </message>
+    <message>
+        <source>This &amp;Page</source>
+        <translation>此页(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Check the settings of the selected page, and no others</source>
+        <translation>只选中所选页的设置</translation>
+    </message>
+    <message>
+        <source>N&amp;one</source>
+        <translation>无(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Uncheck all settings</source>
+        <translation>取消选中所有设置</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
+        <translation>不能使用此预设名称：请去掉斜杠和开头的点。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings are checked.</source>
+        <translation>
+            <numerusform>已选中 %n 项设置。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The preset %1 will be replaced.</source>
+        <translation>预设 %1 将被替换。</translation>
     </message>
 </context>
 <context>
@@ -2886,184 +3090,6 @@ a minus in front takes a tag away:</source>
     </message>
 </context>
 <context>
-    <name>RestoreDialog</name>
-    <message>
-        <source>Progress</source>
-        <translation>进度</translation>
-    </message>
-    <message>
-        <source>Apply Settings</source>
-        <translation>应用设置</translation>
-    </message>
-    <message>
-        <source>Compare Settings</source>
-        <translation>比较设置</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>筛选</translation>
-    </message>
-    <message>
-        <source>&amp;Differences only</source>
-        <translation>仅显示差异(&amp;D)</translation>
-    </message>
-    <message>
-        <source>Projector</source>
-        <translation>投影机</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>设置</translation>
-    </message>
-    <message>
-        <source>Here</source>
-        <translation>当前值</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>文件中的值</translation>
-    </message>
-    <message>
-        <source>Result</source>
-        <translation>结果</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>设置</translation>
-    </message>
-    <message>
-        <source>&amp;Apply</source>
-        <translation>应用(&amp;A)</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>停止</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>关闭</translation>
-    </message>
-    <message>
-        <source>not read</source>
-        <translation>未读取</translation>
-    </message>
-    <message>
-        <source>already so</source>
-        <translation>已一致</translation>
-    </message>
-    <message>
-        <source>different</source>
-        <translation>不同</translation>
-    </message>
-    <message>
-        <source>changed</source>
-        <translation>已更改</translation>
-    </message>
-    <message>
-        <source>refused</source>
-        <translation>被拒绝</translation>
-    </message>
-    <message>
-        <source>accepted, not yet so</source>
-        <translation>已接受，尚未生效</translation>
-    </message>
-    <message>
-        <source>refused: the projector is busy or in standby</source>
-        <translation>被拒绝：投影机正忙或处于待机</translation>
-    </message>
-    <message>
-        <source>not confirmed</source>
-        <translation>未确认</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not have it</source>
-        <translation>已跳过：此型号没有该设置</translation>
-    </message>
-    <message>
-        <source>&amp;Compare Again</source>
-        <translation>重新比较(&amp;C)</translation>
-    </message>
-    <message>
-        <source>skipped: this projector does not offer it</source>
-        <translation>已跳过：此投影机不提供该设置</translation>
-    </message>
-    <message>
-        <source>skipped: it is not one to put back</source>
-        <translation>已跳过：该设置不可还原</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not take the value</source>
-        <translation>已跳过：此型号不接受该值</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1：%2</translation>
-    </message>
-    <message>
-        <source>Beforehand: other sources and modes</source>
-        <translation>预先恢复：其他输入源和模式</translation>
-    </message>
-    <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>正在等待已打开对话框的投影机…</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n changed</source>
-        <extracomment>How many settings came to this, in a list such as &quot;12 changed, 3 refused&quot;.</extracomment>
-        <translation>
-            <numerusform>已更改 %n 项</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n different</source>
-        <translation>
-            <numerusform>不同 %n 项</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n already so</source>
-        <translation>
-            <numerusform>已一致 %n 项</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not yet so</source>
-        <translation>
-            <numerusform>尚未生效 %n 项</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n refused</source>
-        <translation>
-            <numerusform>被拒绝 %n 项</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not confirmed</source>
-        <translation>
-            <numerusform>未确认 %n 项</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not read</source>
-        <translation>
-            <numerusform>未读取 %n 项</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n skipped</source>
-        <translation>
-            <numerusform>已跳过 %n 项</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n settings</source>
-        <translation>
-            <numerusform>%n 项设置</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>Search</name>
     <message>
         <source>&quot;%1&quot; is neither an IP address nor a range of them</source>
@@ -3162,14 +3188,6 @@ a minus in front takes a tag away:</source>
         <translation>应用设置(&amp;P)…</translation>
     </message>
     <message>
-        <source>%1: no answer</source>
-        <translation>%1：无应答</translation>
-    </message>
-    <message>
-        <source>%1: nothing can be read</source>
-        <translation>%1：无法读取任何设置</translation>
-    </message>
-    <message>
         <source>Save Settings</source>
         <translation>保存设置</translation>
     </message>
@@ -3186,22 +3204,40 @@ a minus in front takes a tag away:</source>
         <translation>正在读取设置…</translation>
     </message>
     <message>
-        <source>Stop</source>
-        <translation>停止</translation>
-    </message>
-    <message>
         <source>Open Settings</source>
         <translation>打开设置文件</translation>
     </message>
     <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>正在等待已打开对话框的投影机…</translation>
+        <source>Settings saved in %1.</source>
+        <translation>设置已保存到 %1。</translation>
     </message>
     <message numerus="yes">
-        <source>%1: %n settings cannot be read and are left out</source>
+        <source>Settings of %n projectors saved in %1.</source>
         <translation>
-            <numerusform>%1：有 %n 项设置无法读取，未保存</numerusform>
+            <numerusform>%n 台投影机的设置已保存到 %1。</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings could not be read.</source>
+        <translation>
+            <numerusform>%n 项设置无法读取。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Apply Settings</source>
+        <translation>应用设置</translation>
+    </message>
+    <message>
+        <source>Compare Settings</source>
+        <translation>比较设置</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>The values before are kept in %1.</source>
+        <translation>之前的值保存在 %1 中。</translation>
     </message>
 </context>
 <context>
@@ -3914,6 +3950,16 @@ a minus in front takes a tag away:</source>
         <comment>projectors</comment>
         <translation>
             <numerusform>，%n 台失败</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message numerus="yes">
+        <source>done, %n settings could not be read</source>
+        <translation>
+            <numerusform>完成，%n 项设置无法读取</numerusform>
         </translation>
     </message>
 </context>

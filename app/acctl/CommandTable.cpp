@@ -79,19 +79,20 @@ constexpr CommandForm kCommands[] = {
      "acctl save 'Lecture hall' good.json\n"
      "acctl save '@building-3' -o saved",
      1, kMany},
-    {Command::Diff, "diff", Words::ProjectorFile, "P FILE|DIR",
+    {Command::Diff, "diff", Words::ProjectorFile, "P FILE|PRESET|DIR",
      QT_TRANSLATE_NOOP("Acctl", "compare with saved settings"),
      QT_TRANSLATE_NOOP("Acctl",
-         "Prints what differs from a file ('-' is standard input), or from each projector's own file in a folder."),
+         "Prints what differs from a file ('-' is standard input), from a preset of the host application, or from each "
+         "projector's own file in a folder."),
      "acctl diff 'Seminar*' good.json\n"
      "acctl diff '@building-3' saved --exit-code",
      2, 2},
-    {Command::Apply, "apply", Words::FileProjectors, "FILE P... | DIR [P...]",
+    {Command::Apply, "apply", Words::FileProjectors, "FILE|PRESET P... | DIR [P...]",
      QT_TRANSLATE_NOOP("Acctl", "restore saved settings"),
      QT_TRANSLATE_NOOP("Acctl",
-         "Reads the projectors, sends what differs from the file ('-' is standard input), or from each projector's own "
-     "file in a folder, and reads it back. What is replaced is kept first, so that 'acctl undo' can restore it. An "
-     "interrupted run can be repeated at any time."),
+         "Reads the projectors, sends what differs from the file ('-' is standard input), from a preset of the host "
+         "application, or from each projector's own file in a folder, and reads it back. What is replaced is kept "
+         "first, so that 'acctl undo' can restore it. An interrupted run can be repeated at any time."),
      "acctl apply good.json 'Seminar*' --only 'picture.*' --dry-run\n"
      "acctl apply saved",
      1, kMany},

@@ -43,10 +43,11 @@ constexpr Named kExitCodes[] = {
 constexpr Named kVariables[] = {
     {"ACCTL_PASSWORD", "The PJLink password if no option gives one. At a terminal it is asked for if it is missing."},
     {"ACCTL_CONFIG", "The configuration file, instead of the user's own."},
-    {"XDG_CONFIG_HOME, XDG_STATE_HOME, XDG_CACHE_HOME", "The folders of the files below."},
+    {"XDG_CONFIG_HOME, XDG_DATA_HOME, XDG_STATE_HOME, XDG_CACHE_HOME", "The folders of the files below."},
 };
 constexpr Named kFiles[] = {
     {"~/.config/advanced-control/acctl.conf", "Defaults, one a line, such as 'jobs = 32'."},
+    {"~/.local/share/advanced-control/presets", "Presets, which 'apply' and 'diff' find by name."},
     {"~/.local/state/advanced-control/undo", "What 'acctl undo' restores."},
     {"~/.cache/advanced-control/locks", "Locks, so that runs for one projector wait for each other."},
 };

@@ -8,6 +8,7 @@
 
 #include "app/acctl/Message.h"
 #include "app/acctl/Selection.h"
+#include "app/profiles/PresetFolder.h"
 #include "fleet/WholeFile.h"
 
 namespace {
@@ -110,12 +111,13 @@ std::string LoadSettingsFiles(const Arguments& arguments, Projectors& projectors
   if (QFileInfo(Wide(arguments.file)).isDir()) {
     return LoadFolder(arguments, projectors, profiles, files, left);
   }
+  const QString file = PresetFolder::FileMeantBy(Wide(arguments.file));
   if (arguments.projectors.empty()) {
-    const bool isMissing = arguments.file != "-" && !QFileInfo::exists(Wide(arguments.file));
+    const bool isMissing = arguments.file != "-" && !QFileInfo::exists(file);
     return isMissing ? Message(Acctl::tr("%1: there is no such file or folder"), arguments.file)
                      : Message(Acctl::tr("name the projectors to which the file is applied"));
   }
-  files.common = ReadSettingsFile(Wide(arguments.file));
+  files.common = ReadSettingsFile(file);
   if (!files.common.error.isEmpty()) return files.common.error.toStdString();
   std::string error = CheckOnly(arguments, files.common);
   return error.empty() ? CheckUndo(arguments, files.common.snapshot, projectors) : error;

@@ -25,6 +25,9 @@ void FleetSummary::Show(const std::vector<ProjectorRow>& rows) {
     parts += tr("%n not reachable", "projectors", silent);
   if (const int alerts = count([](const ProjectorRow& row) { return row.hasAlert; }); alerts > 0)
     parts += tr("%n with alerts", "projectors", alerts);
+  if (const int unwatched = count([](const ProjectorRow& row) { return !row.isWatched; });
+      unwatched > 0)
+    parts += tr("%n not watched", "projectors", unwatched);
   std::optional<WallTime> oldest;
   for (const ProjectorRow& row : rows) {
     if (row.state.reachability != Reachability::Answers || !row.state.answered) continue;

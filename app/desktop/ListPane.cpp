@@ -118,8 +118,9 @@ void ListPane::ShowDetails() {
       current == nullptr ? std::vector<StateChange>() : watch_.Projectors().History(current->id));
 }
 
-// The last answers are no news for the fleet. They are fetched here: each time of the rows in
-// sight, and in turn of the others, which sorting and the status bar need too.
+// The fleet does not report an answer that changes nothing. So the times of the last answers are
+// fetched here, of the rows in sight each time and of the others in turn: sorting and the status
+// bar need those too.
 void ListPane::Count() {
   std::vector<std::string> ids;
   for (const int position : view_->InSight())

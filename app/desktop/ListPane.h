@@ -37,13 +37,13 @@ class ListPane : public QWidget {
   std::vector<const ProjectorRow*> Selected() const;
 
   QByteArray SaveState() const;
-  /// False where there is none.
+  /// False if `state` is none.
   bool RestoreState(const QByteArray& state);
-  /// Gives the list what the groups and details do not need.
+  /// Gives the list the width that the groups and details do not need.
   void Spread(int width);
 
  Q_SIGNALS:
-  /// Something has changed that counts.
+  /// Emitted once a second, and when the list has changed.
   void Counted(const std::vector<ProjectorRow>& rows);
 
  private:
@@ -57,5 +57,5 @@ class ListPane : public QWidget {
   ProjectorView* view_;
   DetailsPanel* details_ = nullptr;
   QTimer counting_;
-  std::size_t nextFetched_ = 0;  ///< Position of the next row whose last answer is fetched unseen.
+  std::size_t nextFetched_ = 0;  ///< Position of the row whose last answer was fetched last.
 };

@@ -15,7 +15,7 @@
 
 /// The projectors of the profile file as the window uses them: watched by the fleet, each with a
 /// session once it is used. Simulated ones are served to the fleet, so that dialogs, list and jobs
-/// have to do with the same projector.
+/// work with the same projector.
 class LiveProjectors : public QObject {
   Q_OBJECT
 
@@ -41,7 +41,7 @@ class LiveProjectors : public QObject {
   void TakeSimulation(const ProjectorSession& session);
 
  Q_SIGNALS:
-  /// There is news of these.
+  /// What is known of these projectors has changed.
   void Changed(const std::vector<std::string>& ids);
 
  private:

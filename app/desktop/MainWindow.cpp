@@ -1,7 +1,6 @@
 #include "app/desktop/MainWindow.h"
 
 #include <algorithm>
-#include <map>
 #include <utility>
 
 #include <QApplication>
@@ -13,6 +12,7 @@
 #include <QSettings>
 #include <QStatusBar>
 
+#include "app/desktop/DriftCheck.h"
 #include "app/desktop/FleetSummary.h"
 #include "app/desktop/ListPane.h"
 #include "app/desktop/LiveProjectors.h"
@@ -20,15 +20,12 @@
 #include "app/desktop/Notify.h"
 #include "app/desktop/Preferences.h"
 #include "app/desktop/PresetActions.h"
+#include "app/desktop/SettingsActions.h"
 #include "app/desktop/alerts/AlertList.h"
 #include "app/desktop/dialogs/DialogKeeper.h"
 #include "app/desktop/log/CommandLog.h"
-#include "app/desktop/log/SettingNames.h"
-#include "app/desktop/profiles/ProfileActions.h"
-#include "app/desktop/profiles/ProfileFileActions.h"
+#include "app/desktop/profiles/ProfileEditing.h"
 #include "app/desktop/profiles/ProfileHistory.h"
-#include "app/desktop/profiles/TransferActions.h"
-#include "app/desktop/settings/SettingsActions.h"
 #include "app/desktop/simulation/Demonstration.h"
 #include "app/desktop/simulation/FaultPanel.h"
 #include "app/desktop/work/UsualActions.h"
@@ -42,13 +39,14 @@ namespace {
 constexpr std::size_t kOpenedUnasked = 8;
 constexpr int kToldFor = 10'000;  // milliseconds
 
-QString CommandName(const FleetProfile& profile, const PjtCommand& command) {
-  static std::map<std::pair<int, int>, std::map<std::uint16_t, QString>> all;
-  const CModelInfo2& model = profile.model->info;
-  auto& names = all[{model.DialogType, model.ModelCode}];
-  if (names.empty()) names = SettingNames(model.DialogType, model.ModelCode);
-  const auto name = names.find(command.code);
-  return name == names.end() ? QString() : name->second;
+/// The position of the projector that was selected last, or else of one that has settings on every
+/// tab; −1 if there is none.
+int FirstSelected(const std::vector<FleetProfile>& all, const std::string& last) {
+  auto first = std::ranges::find(all, last, &FleetProfile::name);
+  if (first == all.end())
+    first = std::ranges::find_if(
+        all, [](const FleetProfile& profile) { return HasRowsOnEveryTab(profile.model->info); });
+  return first == all.end() ? -1 : static_cast<int>(first - all.begin());
 }
 
 }  // namespace
@@ -66,45 +64,32 @@ MainWindow::MainWindow(ProfileDocument profiles, QSettings* settings, const Flee
           policy,
           [this](const FleetProfile& profile, const PjtCommand& command, const PjtReply& reply,
                  std::chrono::microseconds elapsed) {
-            log_->Add({QDateTime::currentDateTime(), QString::fromStdString(profile.name),
-                       CommandName(profile, command), command, reply, elapsed});
+            log_->Add(profile, command, reply, elapsed);
           },
           this)),
       pane_(new ListPane(live_->Watch())),
       work_(new WorkActions([this](const std::string& id) { return pane_->NameOf(id); },
                             live_->Watch(), *this)),
       usual_(new UsualActions([this] { return pane_->Selected(); }, *work_, live_->Watch(), *this)),
-      history_(new ProfileHistory(profiles_, *this)),
-      files_(new ProfileFileActions(profiles_, *history_, *this)),
-      profileActions_(new ProfileActions(
-          profiles_, *history_, *files_, [this] { return pane_->View().Selected(); }, *this)),
-      transfers_(new TransferActions(profiles_, *history_, *files_, *this)),
+      editing_(new ProfileEditing(
+          profiles_, [this] { return pane_->View().Selected(); }, *this)),
       presets_(new PresetActions({.selected = [this] { return pane_->Selected(); },
                                   .watch = live_->Watch(),
                                   .work = *work_,
                                   .document = profiles_,
-                                  .edits = *history_,
+                                  .edits = editing_->History(),
                                   .window = *this})),
-      settingsActions_(new SettingsActions(
-          [this] {
-            ProjectorSessions sessions;
-            for (const ProjectorRow* row : pane_->Selected())
-              sessions.push_back(live_->Session(row->profile));
-            return sessions;
-          },
-          [this](QObject* context, std::function<void()> work) {
-            return dialogs_->RunWhenQuiet(context, std::move(work));
-          },
-          *this)),
+      settingsActions_(new SettingsActions({.selected = [this] { return pane_->Selected(); },
+                                            .watch = live_->Watch(),
+                                            .work = *work_,
+                                            .drift = presets_->Drift(),
+                                            .window = *this})),
       dialogs_(std::make_unique<DialogKeeper>(*this, settings)) {
   setCentralWidget(pane_);
   MakeDocks(*this, *alerts_, *faults_, *log_);
   MakeMenus(*this, {.pane = *pane_,
                     .log = *log_,
-                    .files = *files_,
-                    .history = *history_,
-                    .profiles = *profileActions_,
-                    .transfers = *transfers_,
+                    .editing = *editing_,
                     .usual = *usual_,
                     .presets = *presets_,
                     .settings = *settingsActions_,
@@ -119,7 +104,8 @@ MainWindow::MainWindow(ProfileDocument profiles, QSettings* settings, const Flee
   Connect();
   ConnectAlerts();
   ShowProfiles();
-  SelectFirst();
+  if (const int first = FirstSelected(profiles_.Projectors(), memory_.LastProjector()); first >= 0)
+    pane_->View().Select(first);
   memory_.Restore(*this, *pane_, *log_);
   pane_->View().FocusTable();
 }
@@ -151,7 +137,7 @@ void MainWindow::Connect() {
   connect(&pane_->View(), &ProjectorView::SelectionChanged, this, &MainWindow::TakeSelection);
   connect(findChild<QDockWidget*>(QStringLiteral("simulation")), &QDockWidget::visibilityChanged,
           this, &MainWindow::TakeSelection);
-  connect(history_, &ProfileHistory::Changed, this, [this](int selected) {
+  connect(&editing_->History(), &ProfileHistory::Changed, this, [this](int selected) {
     ShowProfiles();
     if (selected >= 0) pane_->View().Select(selected);
   });
@@ -168,6 +154,7 @@ void MainWindow::Connect() {
   connect(dialogs_.get(), &DialogKeeper::Closed, this,
           [this, setOpen](const ProjectorSession* session) {
             live_->Watch().TakeBack(live_->IdOf(*session));
+            presets_->Drift().Check({live_->IdOf(*session)});
             setOpen(session, false);
           });
 }
@@ -196,9 +183,7 @@ void MainWindow::TakeSelection() {
   const bool isWanted = current != nullptr && dock->isVisible();
   faults_->SetSession(isWanted ? live_->Session(current->profile).get() : nullptr);
   const bool any = pane_->View().SelectedCount() > 0;
-  files_->Update();
-  profileActions_->Update();
-  transfers_->Update();
+  editing_->Update();
   settingsActions_->Update(any);
   usual_->Update(any);
   presets_->Update(any);
@@ -207,8 +192,10 @@ void MainWindow::TakeSelection() {
 void MainWindow::ShowPreferences() {
   auto* dialog = new Preferences(*memory_.Settings(), this);
   dialog->setAttribute(Qt::WA_DeleteOnClose);
-  connect(dialog, &QDialog::accepted, this,
-          [this] { alerts_->SetRules(AlertRules::Read(memory_.Settings())); });
+  connect(dialog, &QDialog::accepted, this, [this] {
+    alerts_->SetRules(AlertRules::Read(memory_.Settings()));
+    live_->Watch().SetInterval(std::chrono::seconds(Preferences::Interval(memory_.Settings())));
+  });
   dialog->open();
 }
 
@@ -221,16 +208,6 @@ void MainWindow::ShowProfiles() {
   setWindowTitle(profiles_.HasFile()
                      ? tr("Advanced Control: %1").arg(QFileInfo(profiles_.FileName()).fileName())
                      : tr("Advanced Control"));
-}
-
-// Selects the last selected projector, or else one that has settings on every tab.
-void MainWindow::SelectFirst() {
-  const auto& all = profiles_.Projectors();
-  auto first = std::ranges::find(all, memory_.LastProjector(), &FleetProfile::name);
-  if (first == all.end())
-    first = std::ranges::find_if(
-        all, [](const FleetProfile& profile) { return HasRowsOnEveryTab(profile.model->info); });
-  if (first != all.end()) pane_->View().Select(static_cast<int>(first - all.begin()));
 }
 
 void MainWindow::OpenSelected() {

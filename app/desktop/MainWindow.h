@@ -19,12 +19,9 @@ class FaultPanel;
 class ListPane;
 class LiveProjectors;
 class PresetActions;
-class ProfileActions;
-class ProfileFileActions;
-class ProfileHistory;
+class ProfileEditing;
 class QSettings;
 class SettingsActions;
-class TransferActions;
 class UsualActions;
 class WorkActions;
 
@@ -60,7 +57,6 @@ class MainWindow : public QMainWindow {
   void Connect();
   void ConnectAlerts();
   void ShowProfiles();
-  void SelectFirst();
   void OpenSelected();
   void TakeSelection();
   void ShowPreferences();
@@ -74,10 +70,7 @@ class MainWindow : public QMainWindow {
   ListPane* pane_;
   WorkActions* work_;
   UsualActions* usual_;
-  ProfileHistory* history_;
-  ProfileFileActions* files_;
-  ProfileActions* profileActions_;
-  TransferActions* transfers_;
+  ProfileEditing* editing_;
   PresetActions* presets_;
   SettingsActions* settingsActions_;
   std::unique_ptr<DialogKeeper> dialogs_;

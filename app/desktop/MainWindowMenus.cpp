@@ -13,13 +13,14 @@
 #include "app/desktop/ListPane.h"
 #include "app/desktop/Mnemonic.h"
 #include "app/desktop/PresetActions.h"
+#include "app/desktop/SettingsActions.h"
 #include "app/desktop/alerts/AlertList.h"
 #include "app/desktop/log/CommandLog.h"
 #include "app/desktop/profiles/ProfileActions.h"
+#include "app/desktop/profiles/ProfileEditing.h"
 #include "app/desktop/profiles/ProfileFileActions.h"
 #include "app/desktop/profiles/ProfileHistory.h"
 #include "app/desktop/profiles/TransferActions.h"
-#include "app/desktop/settings/SettingsActions.h"
 #include "app/desktop/simulation/FaultPanel.h"
 #include "app/desktop/work/UsualActions.h"
 
@@ -59,9 +60,10 @@ void MakeMenus(QMainWindow& window, const MenuParts& parts) {
   };
 
   QMenu* file = window.menuBar()->addMenu(MenuText::tr("&File"));
-  file->addActions({parts.files.Open(), parts.files.Reload(), parts.files.SaveAs()});
+  file->addActions({parts.editing.Files().Open(), parts.editing.Files().Reload(),
+                    parts.editing.Files().SaveAs()});
   file->addSeparator();
-  file->addActions({parts.transfers.Import(), parts.transfers.Export()});
+  file->addActions({parts.editing.Transfers().Import(), parts.editing.Transfers().Export()});
   file->addSeparator();
   file->addAction(parts.log.SaveAs());
   file->addSeparator();
@@ -69,14 +71,15 @@ void MakeMenus(QMainWindow& window, const MenuParts& parts) {
       [&window] { window.close(); });
 
   QMenu* edit = window.menuBar()->addMenu(MenuText::tr("&Edit"));
-  edit->addActions({parts.history.Undo(), parts.history.Redo()});
+  edit->addActions({parts.editing.History().Undo(), parts.editing.History().Redo()});
   edit->addSeparator();
-  const QList<QAction*> profile{parts.profiles.Add(), parts.profiles.Edit(),
-                                parts.profiles.Duplicate(), parts.profiles.Tag(),
-                                parts.profiles.Remove()};
+  const QList<QAction*> profile{parts.editing.Projectors().Add(), parts.editing.Projectors().Edit(),
+                                parts.editing.Projectors().Duplicate(),
+                                parts.editing.Projectors().Tag(),
+                                parts.editing.Projectors().Remove()};
   edit->addActions(profile);
   edit->addSeparator();
-  edit->addAction(parts.transfers.Find());
+  edit->addAction(parts.editing.Transfers().Find());
   edit->addSeparator();
   QAction* preferences = add(edit, MenuText::tr("&Preferences…"),
                              QKeySequence(Qt::CTRL | Qt::Key_Comma), parts.preferences);
@@ -138,7 +141,7 @@ void MakeMenus(QMainWindow& window, const MenuParts& parts) {
   tools->addActions({open, parts.usual.PowerOn(), parts.usual.PowerOff(), parts.usual.Input(),
                      parts.usual.Blank(), parts.presets.Presets()});
   tools->addSeparator();
-  tools->addActions({refresh, parts.transfers.Find()});
+  tools->addActions({refresh, parts.editing.Transfers().Find()});
   for (auto* button : tools->findChildren<QToolButton*>()) {
     if (button->defaultAction() != nullptr && button->defaultAction()->menu() != nullptr)
       button->setPopupMode(QToolButton::InstantPopup);

@@ -7,22 +7,16 @@ class CommandLog;
 class FaultPanel;
 class ListPane;
 class PresetActions;
-class ProfileActions;
-class ProfileFileActions;
-class ProfileHistory;
+class ProfileEditing;
 class QMainWindow;
 class SettingsActions;
-class TransferActions;
 class UsualActions;
 
 /// The parts of the main window whose actions its menus hold.
 struct MenuParts {
   ListPane& pane;
   CommandLog& log;
-  const ProfileFileActions& files;
-  const ProfileHistory& history;
-  const ProfileActions& profiles;
-  const TransferActions& transfers;
+  const ProfileEditing& editing;
   const UsualActions& usual;
   const PresetActions& presets;
   const SettingsActions& settings;

@@ -12,13 +12,16 @@ namespace {
 
 constexpr qsizetype kLinesShown = 10;
 
-/// Where the last file was chosen while the program runs.
-QString& LastFolder() {
+QString& Folder() {
   static QString folder;
   return folder;
 }
 
 }  // namespace
+
+QString LastFolder() { return Folder(); }
+
+void SetLastFolder(const QString& folder) { Folder() = folder; }
 
 void AskForFile(QWidget& window, const FileQuestion& question,
                 std::function<void(const QString& path)> take) {
@@ -34,11 +37,11 @@ void AskForFile(QWidget& window, const FileQuestion& question,
     dialog->setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog->setNameFilter(question.filter);
   }
-  if (!LastFolder().isEmpty()) dialog->setDirectory(LastFolder());
+  if (QFileInfo(Folder()).isDir()) dialog->setDirectory(Folder());
   if (!question.suggestion.isEmpty()) dialog->selectFile(question.suggestion);
   QObject::connect(dialog, &QFileDialog::fileSelected, &window,
                    [kind = question.kind](const QString& path) {
-                     LastFolder() = kind == Kind::Folder ? path : QFileInfo(path).absolutePath();
+                     SetLastFolder(kind == Kind::Folder ? path : QFileInfo(path).absolutePath());
                    });
   QObject::connect(dialog, &QFileDialog::fileSelected, &window, std::move(take));
   dialog->open();

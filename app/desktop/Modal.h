@@ -23,6 +23,11 @@ struct FileQuestion {
 void AskForFile(QWidget& window, const FileQuestion& question,
                 std::function<void(const QString& path)> take);
 
+/// The folder of the file that was chosen last, where the next question begins; empty if there is
+/// none. The window remembers it between runs.
+QString LastFolder();
+void SetLastFolder(const QString& folder);
+
 /// Shows an error as plain text. If it has many lines, only the first ones are shown, and the
 /// others on request. `detail` is shown below in a smaller font; may be empty.
 void ShowError(QWidget& window, const QString& title, const QString& text,

@@ -21,6 +21,7 @@
 namespace {
 
 constexpr const char* kLanguageKey = "language";
+constexpr const char* kThemeKey = "theme";
 constexpr const char* kIntervalKey = "fleet/intervalSeconds";
 constexpr int kUsualInterval = 60;
 constexpr int kShortestInterval = 10;
@@ -46,14 +47,27 @@ int Preferences::Language(const QSettings& settings) {
   return settings.value(kLanguageKey).toInt();
 }
 
+Theme Preferences::ThemeOf(const QSettings& settings) {
+  const int theme = settings.value(kThemeKey).toInt();
+  return theme == static_cast<int>(Theme::Light)  ? Theme::Light
+         : theme == static_cast<int>(Theme::Dark) ? Theme::Dark
+                                                  : Theme::Desktop;
+}
+
 Preferences::Preferences(QSettings& settings, QWidget* parent)
-    : QDialog(parent), settings_(settings), language_(new CComboBox) {
+    : QDialog(parent), settings_(settings), language_(new CComboBox), theme_(new CComboBox) {
   setWindowTitle(tr("Preferences"));
   const AlertRules rules = AlertRules::Read(&settings);
   language_->Add(tr("As the system"), 0);
   for (const CatalogLanguage& language : CatalogLanguages(CatalogFolders()))
     language_->Add(QString::fromStdString(language.name), static_cast<int>(language.id));
   language_->SelectValue(Language(settings));
+  theme_->Add(tr("As the desktop"), static_cast<int>(Theme::Desktop));
+  theme_->Add(tr("Light"), static_cast<int>(Theme::Light));
+  theme_->Add(tr("Dark"), static_cast<int>(Theme::Dark));
+  theme_->SelectValue(static_cast<int>(ThemeOf(settings)));
+  connect(theme_, &QComboBox::activated, this,
+          [this] { Apply(static_cast<Theme>(theme_->SelectedValue().value_or(0))); });
   interval_ = MakeNumber(kShortestInterval, kLongestInterval, Interval(&settings), tr(" s"));
   lamp_ = MakeNumber(0, 200, rules.lampPercent, tr(" %"));
   lamp_->setSpecialValueText(tr("never"));
@@ -74,6 +88,7 @@ Preferences::Preferences(QSettings& settings, QWidget* parent)
 
   auto* general = new QFormLayout;
   general->addRow(tr("&Language (after a restart)"), language_);
+  general->addRow(tr("&Colors"), theme_);
   general->addRow(tr("Ask each projector &every"), interval_);
   auto* alerts = new QGroupBox(tr("Alerts"));
   auto* form = new QFormLayout(alerts);
@@ -87,6 +102,8 @@ Preferences::Preferences(QSettings& settings, QWidget* parent)
   quiet->addWidget(new QLabel(QStringLiteral("–")));
   quiet->addWidget(quietTo_);
   quiet->addStretch();
+  auto* none = new QLabel(tr("(the same time twice: none)"));
+  quiet->addWidget(none);
   form->addRow(tr("Quiet hours"), quiet);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
   connect(buttons, &QDialogButtonBox::accepted, this, &Preferences::accept);
@@ -98,8 +115,14 @@ Preferences::Preferences(QSettings& settings, QWidget* parent)
   RemoveForeignButtonIcons(*this);
 }
 
+void Preferences::reject() {
+  if (theme_->SelectedValue() != static_cast<int>(ThemeOf(settings_))) Apply(ThemeOf(settings_));
+  QDialog::reject();
+}
+
 void Preferences::accept() {
   settings_.setValue(kLanguageKey, language_->SelectedValue().value_or(0));
+  settings_.setValue(kThemeKey, theme_->SelectedValue().value_or(0));
   settings_.setValue(kIntervalKey, interval_->value());
   AlertRules{.lampPercent = lamp_->value(),
              .silent = std::chrono::minutes(silent_->value()),

@@ -2,6 +2,7 @@
 
 #include <QDialog>
 
+#include "app/desktop/Theme.h"
 #include "app/desktop/alerts/AlertRules.h"
 
 class CComboBox;
@@ -10,8 +11,8 @@ class QSettings;
 class QSpinBox;
 class QTimeEdit;
 
-/// Language, how often projectors are asked, and when alerts are raised. Written to the settings
-/// when it is accepted.
+/// Language, theme, how often projectors are asked, and when alerts are raised. Written to the
+/// settings when it is accepted. A theme is shown as soon as it is chosen.
 class Preferences : public QDialog {
   Q_OBJECT
 
@@ -24,11 +25,15 @@ class Preferences : public QDialog {
   /// The identifier of the language that the user chose; 0 for that of the system.
   static int Language(const QSettings& settings);
 
+  static Theme ThemeOf(const QSettings& settings);
+
   void accept() override;
+  void reject() override;
 
  private:
   QSettings& settings_;
   CComboBox* language_;
+  CComboBox* theme_;
   QSpinBox* interval_;
   QSpinBox* lamp_;
   QSpinBox* silent_;

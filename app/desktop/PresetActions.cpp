@@ -1,19 +1,20 @@
 #include "app/desktop/PresetActions.h"
 
 #include <map>
+#include <set>
 #include <utility>
 
 #include <QAction>
-#include <QInputDialog>
 #include <QMenu>
 
+#include "app/desktop/DriftCheck.h"
 #include "app/desktop/Modal.h"
-#include "app/desktop/presets/PresetFolder.h"
+#include "app/desktop/presets/PresetDialog.h"
 #include "app/desktop/profiles/ProfileDocument.h"
 #include "app/desktop/profiles/ProfileHistory.h"
 #include "app/desktop/projectors/FleetWatch.h"
 #include "app/desktop/work/WorkActions.h"
-#include "toolkit/Icons.h"
+#include "app/profiles/PresetFolder.h"
 
 namespace {
 
@@ -24,7 +25,8 @@ QString EntryText(QString name) { return name.replace(QLatin1Char('&'), QStringL
 PresetActions::PresetActions(Parts parts)
     : QObject(&parts.window),
       parts_(std::move(parts)),
-      presets_(new QAction(tr("P&resets"), this)) {
+      presets_(new QAction(tr("P&resets"), this)),
+      drift_(new DriftCheck(parts_.document, parts_.watch, parts_.work.Texts(), parts_.window)) {
   auto* menu = new QMenu(&parts_.window);
   presets_->setMenu(menu);
   connect(menu, &QMenu::aboutToShow, this, [this, menu] { Fill(*menu); });
@@ -45,7 +47,7 @@ void PresetActions::Fill(QMenu& menu) {
   menu.addSeparator();
   QAction* save = menu.addAction(tr("&Save as Preset…"));
   save->setEnabled(rows.size() == 1);
-  connect(save, &QAction::triggered, this, &PresetActions::AskForName);
+  connect(save, &QAction::triggered, this, &PresetActions::Take);
   menu.addSeparator();
   QMenu* wanted = menu.addMenu(tr("Should &Be Like"));
   wanted->setEnabled(parts_.document.HasFile());
@@ -54,54 +56,57 @@ void PresetActions::Fill(QMenu& menu) {
     connect(wanted->addAction(EntryText(name)), &QAction::triggered, this,
             [this, name] { SetWanted(name); });
   connect(menu.addAction(tr("&Compare with What It Should Be")), &QAction::triggered, this,
-          [this] { UseWanted(false); });
+          [this] { CompareWithWanted(); });
   connect(menu.addAction(tr("&Put Back What It Should Be")), &QAction::triggered, this,
-          [this] { UseWanted(true); });
+          [this] { PutBack(); });
 }
 
-void PresetActions::AskForName() {
+void PresetActions::Take() {
   const Rows rows = parts_.selected();
   if (rows.size() != 1) return;
-  const FleetProfile profile = rows.front()->profile;
-  auto* question = new QInputDialog(&parts_.window);
-  question->setAttribute(Qt::WA_DeleteOnClose);
-  question->setWindowTitle(tr("Save as Preset"));
-  question->setLabelText(tr("Name of the preset:"));
-  connect(question, &QInputDialog::textValueSelected, this, [this, profile](const QString& typed) {
-    QString name = typed.trimmed();
-    name.replace(QLatin1Char('/'), QLatin1Char('-'));
-    if (name.isEmpty() || name.startsWith(QLatin1Char('.'))) return;
-    WorkPlan plan{
-        .title = tr("Save as Preset"),
-        .question = {},
-        .parts = {{.work = TakeSnapshots(), .targets = {parts_.watch.TargetOf(profile)}}}};
-    parts_.work.Do(std::move(plan), [this, name](const WorkRun& run) { Save(name, run); });
-  });
-  question->open();
-  RemoveForeignButtonIcons(*question);
+  const std::string name = rows.front()->profile.name;
+  const FleetTarget target = parts_.watch.TargetOf(rows.front()->profile);
+  Q_EMIT parts_.work.Told(tr("Reading the settings of %1…").arg(QString::fromStdString(name)));
+  parts_.work.Do({.title = tr("Save as Preset"),
+                  .question = {},
+                  .parts = {{.work = TakeSnapshots(), .targets = {target}}}},
+                 [this, name, model = target.model](const WorkRun& run) {
+                   if (run.Taken().empty()) return;  // the work said why
+                   Snapshot taken = *run.Taken().begin()->second;
+                   taken.projector = name;
+                   AskWhatToSave(std::move(taken), *model);
+                 });
 }
 
-void PresetActions::Save(const QString& name, const WorkRun& run) {
-  if (run.Taken().empty()) return;  // the work said why
-  const QString error = PresetFolder::Write(name, *run.Taken().begin()->second);
-  if (!error.isEmpty()) return ShowError(parts_.window, tr("Save as Preset"), error);
-  Q_EMIT parts_.work.Told(tr("Saved as the preset %1").arg(name));
+void PresetActions::AskWhatToSave(Snapshot taken, const ModelData& model) {
+  auto* dialog = new PresetDialog(std::make_shared<const Snapshot>(std::move(taken)),
+                                  ModelSettings(model), parts_.work.Texts(), &parts_.window);
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  connect(dialog, &QDialog::accepted, this, [this, dialog] {
+    const QString error = PresetFolder::Write(dialog->Name(), dialog->Chosen());
+    if (!error.isEmpty()) return ShowError(parts_.window, tr("Save as Preset"), error);
+    Q_EMIT parts_.work.Told(tr("Saved as the preset %1").arg(dialog->Name()));
+  });
+  dialog->open();
 }
 
 void PresetActions::Apply(const QString& name) {
   const PresetFolder::Contents preset = PresetFolder::Read(name);
   if (!preset.snapshot) return ShowError(parts_.window, tr("Presets"), preset.error);
-  ApplySnapshots apply;
-  WorkPart part;
-  for (const ProjectorRow* row : parts_.selected()) {
-    part.targets.push_back(parts_.watch.TargetOf(row->profile));
-    apply.snapshots[row->id] = preset.snapshot;
-  }
-  part.work = std::move(apply);
-  const auto count = static_cast<int>(part.targets.size());
-  parts_.work.Do({.title = tr("Preset %1").arg(name),
-                  .question = tr("Put the preset %1 on %n projectors?", nullptr, count).arg(name),
-                  .parts = {std::move(part)}});
+  Comparison comparison{.title = tr("Preset %1").arg(name), .column = tr("Preset")};
+  for (const ProjectorRow* row : parts_.selected())
+    comparison.Add(*row, parts_.watch, preset.snapshot);
+  Preview(std::move(comparison));
+}
+
+void PresetActions::Preview(Comparison comparison) {
+  auto* dialog = new ComparisonDialog(std::move(comparison), parts_.watch, parts_.work.Texts(),
+                                      &parts_.window);
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  connect(dialog, &ComparisonDialog::ApplyWanted, this, [this](const WorkPlan& plan) {
+    parts_.work.Do(plan, [this](const WorkRun& run) { drift_->CheckAfter(run); });
+  });
+  dialog->open();
 }
 
 void PresetActions::SetWanted(const QString& name) {
@@ -118,45 +123,58 @@ void PresetActions::SetWanted(const QString& name) {
                     name.isEmpty() ? QJsonValue(QJsonValue::Undefined) : QJsonValue(name)});
   });
   if (!error.isEmpty()) return ShowError(parts_.window, tr("Should Be Like"), error);
-  if (name.isEmpty()) {
-    for (const int position : positions)
-      parts_.watch.Projectors().LearnDrift(
-          FleetIdOf(parts_.document.Projectors()[static_cast<std::size_t>(position)]), {});
-  } else {
-    UseWanted(false);
-  }
+  std::set<std::string> ids;
+  for (const int position : positions)
+    ids.insert(FleetIdOf(parts_.document.Projectors()[static_cast<std::size_t>(position)]));
+  for (const std::string& id : ids) parts_.watch.Projectors().LearnDrift(id, {});
+  drift_->Check(ids);
 }
 
-void PresetActions::UseWanted(bool putsBack) {
-  SnapshotsById snapshots;
+Comparison PresetActions::WithWanted() {
+  Comparison comparison{
+      .title = tr("What It Should Be"), .column = tr("Should be"), .areWanted = true};
   std::map<std::string, PresetFolder::Contents> read;
-  WorkPart part;
   for (const ProjectorRow* row : parts_.selected()) {
     const std::string& name = row->profile.snapshot;
     if (name.empty()) continue;
     auto [preset, isNew] = read.try_emplace(name);
     if (isNew) preset->second = PresetFolder::Read(QString::fromStdString(name));
-    if (!preset->second.snapshot)
-      return ShowError(parts_.window, tr("Presets"), preset->second.error);
-    snapshots[row->id] = preset->second.snapshot;
-    part.targets.push_back(parts_.watch.TargetOf(row->profile));
+    if (!preset->second.snapshot) {
+      ShowError(parts_.window, tr("Presets"), preset->second.error);
+      return {};
+    }
+    comparison.Add(*row, parts_.watch, preset->second.snapshot);
   }
-  if (part.targets.empty())
-    return ShowError(parts_.window, tr("Presets"),
-                     tr("None of the selected projectors has a preset that it should be like."));
-  if (putsBack) {
-    part.work = ApplySnapshots{snapshots};
-    const auto count = static_cast<int>(part.targets.size());
-    // Afterwards it is known what still differs.
-    WorkPart compare{.work = CompareSnapshots{std::move(snapshots)}, .targets = part.targets};
-    return parts_.work.Do(
-        {.title = tr("Put Back"),
-         .question = tr("Put back the settings of %n projectors?", nullptr, count),
-         .parts = {std::move(part)}},
-        [this, compare](const WorkRun&) {
-          parts_.work.Do({.title = tr("Compare"), .question = {}, .parts = {compare}});
-        });
+  if (comparison.projectors.empty())
+    ShowError(parts_.window, tr("Presets"),
+              tr("None of the selected projectors has a preset that it should be like."));
+  return comparison;
+}
+
+void PresetActions::CompareWithWanted() {
+  Comparison comparison = WithWanted();
+  if (!comparison.projectors.empty()) Preview(std::move(comparison));
+}
+
+// Settings that a model does not have are left out; they would count as refused.
+void PresetActions::PutBack() {
+  const Comparison comparison = WithWanted();
+  UsualSettings models;
+  ApplySnapshots apply;
+  WorkPart part;
+  for (const ComparedProjector& projector : comparison.projectors) {
+    Snapshot own = *projector.wanted;
+    std::erase_if(own.settings, [&](const SavedSetting& saved) {
+      const ModelSetting* setting = models.Of(projector.target.model).Find(saved.key);
+      return setting == nullptr || !setting->Restorable() || !setting->Allows(saved.value);
+    });
+    apply.snapshots[projector.target.id] = std::make_shared<const Snapshot>(std::move(own));
+    part.targets.push_back(projector.target);
   }
-  part.work = CompareSnapshots{std::move(snapshots)};
-  parts_.work.Do({.title = tr("Compare"), .question = {}, .parts = {std::move(part)}});
+  part.work = std::move(apply);
+  const auto count = static_cast<int>(part.targets.size());
+  parts_.work.Do({.title = tr("Put Back"),
+                  .question = tr("Put back the settings of %n projectors?", nullptr, count),
+                  .parts = {std::move(part)}},
+                 [this](const WorkRun& run) { drift_->CheckAfter(run); });
 }

@@ -5,15 +5,15 @@
 
 #include <QObject>
 
-#include "app/desktop/projectors/ProjectorRow.h"
+#include "app/desktop/work/ComparisonDialog.h"
 
+class DriftCheck;
 class FleetWatch;
 class ProfileDocument;
 class ProfileHistory;
 class QAction;
 class QMenu;
 class WorkActions;
-class WorkRun;
 
 /// Menu actions for presets: making one from a projector's present settings, putting one on the
 /// selected projectors, and saying which one projectors should be like.
@@ -38,16 +38,23 @@ class PresetActions : public QObject {
   /// With a menu.
   QAction* Presets() const { return presets_; }
   void Update(bool any);
+  DriftCheck& Drift() const { return *drift_; }
 
  private:
   void Fill(QMenu& menu);
-  void AskForName();
-  void Save(const QString& name, const WorkRun& run);
+  /// Makes a preset of the selected projector's settings.
+  void Take();
+  void AskWhatToSave(Snapshot taken, const ModelData& model);
   void Apply(const QString& name);
+  void Preview(Comparison comparison);
   void SetWanted(const QString& name);
-  /// Compares the selected projectors with what they should be, or puts that back.
-  void UseWanted(bool putsBack);
+  /// The selected projectors that have a preset that they should be like. If there are none, says
+  /// so, and returns none.
+  Comparison WithWanted();
+  void CompareWithWanted();
+  void PutBack();
 
   const Parts parts_;
   QAction* presets_;
+  DriftCheck* drift_;
 };

@@ -7,6 +7,7 @@
 #include <QSettings>
 
 #include "app/desktop/ListPane.h"
+#include "app/desktop/Modal.h"
 #include "app/desktop/log/CommandLog.h"
 
 namespace {
@@ -18,7 +19,8 @@ constexpr const char* kGeometryKey = "window/geometry";
 constexpr const char* kStateKey = "window/docks";
 constexpr const char* kSidesKey = "window/panes";
 constexpr const char* kProjectorColumnsKey = "window/liveColumns";
-constexpr const char* kLogColumnsKey = "window/logColumns";
+constexpr const char* kLogColumnsKey = "window/commandColumns";
+constexpr const char* kFolderKey = "window/folder";
 constexpr const char* kProjectorKey = "window/projector";
 constexpr const char* kProfilesKey = "window/profiles";
 
@@ -30,6 +32,7 @@ WindowMemory::WindowMemory(QSettings* settings, const QString& firstFile)
 // The first time, the window opens at the lower right, so that a dialog at the upper left covers
 // little of it.
 void WindowMemory::Restore(QMainWindow& window, ListPane& pane, CommandLog& log) const {
+  if (settings_ != nullptr) SetLastFolder(settings_->value(kFolderKey).toString());
   const QRect screen = window.screen()->availableGeometry();
   if (settings_ != nullptr &&
       window.restoreGeometry(settings_->value(kGeometryKey).toByteArray())) {
@@ -53,6 +56,7 @@ void WindowMemory::Store(const QMainWindow& window, const ListPane& pane, const 
   settings_->setValue(kSidesKey, pane.SaveState());
   settings_->setValue(kProjectorColumnsKey, pane.View().Columns().saveState());
   settings_->setValue(kLogColumnsKey, log.Columns().saveState());
+  settings_->setValue(kFolderKey, LastFolder());
   if (file != firstFile_) settings_->setValue(kProfilesKey, QFileInfo(file).absoluteFilePath());
   if (const ProjectorRow* current = pane.View().Current())
     settings_->setValue(kProjectorKey, QString::fromStdString(current->profile.name));

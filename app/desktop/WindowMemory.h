@@ -9,8 +9,8 @@ class ListPane;
 class QMainWindow;
 class QSettings;
 
-/// What the main window remembers between runs: its place, docks and columns, the profile file and
-/// the selected projector.
+/// What the main window remembers between runs: its place, docks and columns, the profile file, the
+/// selected projector, and the folder of the last file.
 class WindowMemory {
  public:
   /// `settings`, not owned, may be null: then nothing is remembered. `firstFile` is the profile

@@ -123,6 +123,7 @@ int RunWindow(Request request) {
   QSettings settings(kName, kName);
   MainWindow window(profiles, &settings,
                     {.interval = std::chrono::seconds(Preferences::Interval(&settings))});
+  Apply(Preferences::ThemeOf(settings));
   if (areShipped) window.Demonstrate();
   window.show();
   // The user may close the dialog and the window while the dialog is being read.

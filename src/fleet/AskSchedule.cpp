@@ -12,20 +12,29 @@ void AskSchedule::Begin(SessionTime now, const FleetPolicy& policy, Random& rand
 
 void AskSchedule::Answered(const FleetPolicy& policy) {
   failures_ = 0;
-  SetNext(policy.interval, policy);
+  SetNext(PauseOf(policy), policy);
 }
 
 void AskSchedule::Unanswered(const FleetPolicy& policy) {
-  constexpr int kMostDoublings = 20;
-  const int doublings = std::min(failures_++, kMostDoublings);
-  SetNext(std::min<SessionTime::duration>(policy.interval * (std::int64_t{1} << doublings),
-                                          std::max(policy.longestPause, policy.interval)),
-          policy);
+  ++failures_;
+  SetNext(PauseOf(policy), policy);
+}
+
+void AskSchedule::Adapt(const FleetPolicy& policy) {
+  const bool wasAsked = begun_ != SessionTime{};
+  if (wasAsked) SetNext(PauseOf(policy), policy);
 }
 
 void AskSchedule::Hasten(SessionTime now, const FleetPolicy& policy) {
   const bool wasAsked = begun_ != SessionTime{};
   next_ = std::min(next_, wasAsked ? std::max(now, begun_ + policy.soonest) : now);
+}
+
+SessionTime::duration AskSchedule::PauseOf(const FleetPolicy& policy) const {
+  constexpr int kMostDoublings = 20;
+  const int doublings = std::clamp(failures_ - 1, 0, kMostDoublings);
+  return std::min<SessionTime::duration>(policy.interval * (std::int64_t{1} << doublings),
+                                         std::max(policy.longestPause, policy.interval));
 }
 
 void AskSchedule::SetNext(SessionTime::duration pause, const FleetPolicy& policy) {

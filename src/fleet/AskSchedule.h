@@ -18,6 +18,8 @@ class AskSchedule {
   /// The result of the visit. An abandoned visit has none.
   void Answered(const FleetPolicy& policy);
   void Unanswered(const FleetPolicy& policy);
+  /// The interval has changed.
+  void Adapt(const FleetPolicy& policy);
   /// Brings the next visit forward, as far as the policy allows.
   void Hasten(SessionTime now, const FleetPolicy& policy);
 
@@ -25,6 +27,7 @@ class AskSchedule {
   SessionTime Next() const { return next_; }
 
  private:
+  SessionTime::duration PauseOf(const FleetPolicy& policy) const;
   void SetNext(SessionTime::duration pause, const FleetPolicy& policy);
 
   SessionTime begun_{};

@@ -62,6 +62,9 @@ void Fleet::Remove(const std::string& id) {
 void Fleet::SetAsking(bool asks) {
   Change([&] { watcher_->SetAsking(asks); });
 }
+void Fleet::SetInterval(std::chrono::milliseconds interval) {
+  Change([&] { watcher_->SetInterval(interval); });
+}
 void Fleet::AskSoon(const std::string& id) {
   Change([&] { watcher_->AskSoon(id); });
 }

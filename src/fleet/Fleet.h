@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -42,6 +43,8 @@ class PROJECTOR_FLEET_EXPORT Fleet {
 
   /// Ends all visits and begins none until asking is switched on again, as it is at first.
   void SetAsking(bool asks);
+  /// Replaces `FleetPolicy::interval`, for the pauses under way, too.
+  void SetInterval(std::chrono::milliseconds interval);
 
   class Pause;
 

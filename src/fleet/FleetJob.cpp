@@ -90,7 +90,9 @@ void FleetJob::WorkOn(std::size_t index, JobLoop::Peer peer) {
     ProjectorWork work(target, channel, texts_, goesOn, told);
     result = work.Do(work_,
                      [&](const Snapshot& undo) { put([&](WorkResult& now) { now.undo = undo; }); });
-    if (fleet_ && result.differing) fleet_->LearnDrift(target.id, result.differing);
+    const auto* const compare = std::get_if<CompareSnapshots>(&work_);
+    if (fleet_ && result.differing && compare->areWanted)
+      fleet_->LearnDrift(target.id, result.differing);
   }
   {
     const std::lock_guard lock(mutex_);

@@ -31,6 +31,8 @@ class FleetSchedule {
   /// The result of the visit. An abandoned visit has none.
   void Answered(Peer peer) { plans_[peer].Answered(policy_); }
   void Unanswered(Peer peer) { plans_[peer].Unanswered(policy_); }
+  /// The policy's interval has changed.
+  void Adapt(Peer peer) { plans_[peer].Adapt(policy_); }
   /// Brings the next visit forward, as far as the policy allows.
   void Hasten(Peer peer) { plans_[peer].Hasten(clock_.Now(), policy_); }
 

@@ -84,6 +84,15 @@ void FleetWatcher::SetAsking(bool asks) {
   }
 }
 
+void FleetWatcher::SetInterval(std::chrono::milliseconds interval) {
+  policy_.interval = interval;
+  for (const Peer peer : roster_.All()) {
+    if (queue_.Has(peer)) continue;  // the end of its visit sets the next pause
+    schedule_.Adapt(peer);
+    StartTimer(peer);
+  }
+}
+
 void FleetWatcher::Pause(const std::string& id) {
   const auto peer = roster_.Find(id);
   if (!peer) return;

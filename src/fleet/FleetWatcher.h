@@ -34,6 +34,7 @@ class FleetWatcher final : private VisitsUnderWay::Owner {
   void Set(FleetTarget target);
   void Remove(const std::string& id);
   void SetAsking(bool asks);
+  void SetInterval(std::chrono::milliseconds interval);
 
   // Of a projector that is not in the fleet these do nothing.
 
@@ -61,7 +62,7 @@ class FleetWatcher final : private VisitsUnderWay::Owner {
   void AskPeerSoon(Peer peer);
   void StartTimer(Peer peer);
 
-  const FleetPolicy policy_;
+  FleetPolicy policy_;
   const FleetClock& clock_;
   FleetStates& states_;
   bool asks_ = true;

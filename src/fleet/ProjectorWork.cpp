@@ -26,6 +26,31 @@ constexpr Failure kFailures[] = {
     {Outcome::Unknown, "the model does not have it"},
 };
 
+SettingDifference::Kind KindOf(Outcome outcome) {
+  using Kind = SettingDifference::Kind;
+  switch (outcome) {
+    case Outcome::Differs:
+      return Kind::Differs;
+    case Outcome::Unknown:
+    case Outcome::NotOffered:
+    case Outcome::NotSettable:
+    case Outcome::NotAllowed:
+      return Kind::DoesNotApply;
+    default:
+      return Kind::NotRead;
+  }
+}
+
+std::shared_ptr<const std::vector<SettingDifference>> DifferencesIn(
+    const Restoration& restoration) {
+  std::vector<SettingDifference> differences;
+  for (const RestoredSetting& restored : restoration.Settings()) {
+    if (restored.outcome == Outcome::AlreadySo) continue;
+    differences.push_back({restored.saved, KindOf(restored.outcome), restored.before});
+  }
+  return std::make_shared<const std::vector<SettingDifference>>(std::move(differences));
+}
+
 const Snapshot* SnapshotOf(const SnapshotsById& snapshots, const std::string& id) {
   const auto found = snapshots.find(id);
   return found == snapshots.end() ? nullptr : found->second.get();
@@ -98,7 +123,9 @@ WorkResult ProjectorWork::Do(const TakeSnapshots&) {
   if (taken.settings.empty() && !unread.empty()) {
     return Refused("the projector reports none of its settings now");
   }
-  return {.outcome = WorkOutcome::Done, .snapshot = std::move(taken)};
+  return {.outcome = WorkOutcome::Done,
+          .snapshot = std::move(taken),
+          .unread = static_cast<int>(unread.size())};
 }
 
 WorkResult ProjectorWork::Do(const ApplySnapshots& apply) {
@@ -113,7 +140,12 @@ WorkResult ProjectorWork::Do(const CompareSnapshots& compare) {
   restoration.Read(progress_);
   if (IsGone()) return Unanswered();
   if (!goesOn_()) return {.outcome = WorkOutcome::Stopped};
-  return {.outcome = WorkOutcome::Done, .differing = restoration.Count(Outcome::Differs)};
+  // One that reports nothing now, as in standby, is not known to be as it should be.
+  const int differing = restoration.Count(Outcome::Differs);
+  const bool isKnown = differing + restoration.Count(Outcome::AlreadySo) > 0;
+  return {.outcome = WorkOutcome::Done,
+          .differing = isKnown ? std::optional(differing) : std::nullopt,
+          .differences = DifferencesIn(restoration)};
 }
 
 WorkResult ProjectorWork::Apply(const Snapshot& snapshot) {
@@ -143,7 +175,11 @@ WorkResult ProjectorWork::OutcomeOf(const Restoration& restoration) const {
   for (const auto& [outcome, reason] : kFailures) {
     for (const auto* const all : {&restoration.Beforehand(), &restoration.Settings()}) {
       const auto failed = std::ranges::find(*all, outcome, &RestoredSetting::outcome);
-      if (failed != all->end()) return Refused(failed->saved.key + ": " + reason);
+      if (failed == all->end()) continue;
+      WorkResult result = Refused(failed->saved.key + ": " + reason);
+      if (failed->setting != nullptr)
+        result.setting = texts_.Name(settings_, *failed->setting, failed->saved.source);
+      return result;
     }
   }
   if (restoration.Count(Outcome::Pending) > 0) return {.outcome = WorkOutcome::Pending};

@@ -35,7 +35,7 @@ class Building(unittest.TestCase):
         self.environment = {**os.environ, "LC_ALL": "C", "HOME": str(self.folder), "ACCTL_PROFILES": "served.json",
                             "PATH": f"{PROGRAMS}:{SOURCES}/integrations/monitoring:{os.environ['PATH']}",
                             **{f"XDG_{name}_HOME": str(self.folder / name.lower())
-                               for name in ("CACHE", "CONFIG", "STATE")}}
+                               for name in ("CACHE", "CONFIG", "DATA", "STATE")}}
 
     def start_simulator(self, *options):
         simulator = subprocess.Popen(

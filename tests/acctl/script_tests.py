@@ -227,6 +227,16 @@ class Runs(Building):
         self.check(["apply", "saved"], 2, errors="is also of Seminar 2")
         self.check(["apply", "sav"], 2, errors="sav: there is no such file or folder")
 
+    def test_presets_are_found_by_name(self):
+        presets = self.folder / "data/advanced-control/presets"
+        presets.mkdir(parents=True)
+        self.acctl("save", "Office", presets / "Lecture, dark.json", "--only", "main.contrast")
+        self.acctl("set", "Office", "contrast=-5")
+        self.check(["diff", "Office", "Lecture, dark"], 0, "^Office .*contrast")
+        self.check(["apply", "Lecture, dark", "Office"], 0, "changed")
+        self.acctl("save", "Office", "Lecture, dark", "--only", "main.brightness")
+        self.check(["diff", "Office", "Lecture, dark"], 1, "already so|same|nothing")  # the file counts
+
     def test_save_replaces_only_files_of_settings(self):
         notes = self.folder / "notes.txt"
         notes.write_text("precious")

@@ -1,5 +1,8 @@
+#include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
 #include <QGuiApplication>
+#include <QMessageBox>
 #include <QPalette>
 #include <QTableView>
 #include <QTemporaryDir>
@@ -8,13 +11,15 @@
 
 #include "app/desktop/log/CommandLog.h"
 #include "app/desktop/log/SettingNames.h"
+#include "device/channels/LoggingChannel.h"
+#include "fleet/ProfileFile.h"
 #include "tests/support/Programs.h"
 #include "tests/support/Soon.h"
 
 namespace {
 
 CommandLogModel::Entry Entry(const QString& projector, PjtCommand command, PjtReply reply) {
-  return {{}, projector, QStringLiteral("Sharpness"), command, reply, {}};
+  return {{}, projector, QStringLiteral("Sharpness"), QStringLiteral("4"), command, reply, {}};
 }
 
 const PjtCommand kRead{PjtOperation::Get, 0x2201};
@@ -40,27 +45,59 @@ struct Shown {
 
 TEST(CommandLog, ShowsSettingNamesAndOutcomes) {
   const Shown cases[] = {
-      {kRead, {.result = 1, .value = 128}, "Get Sharpness 0x2201\t128\tok"},
-      {kRead, {.answered = false}, "Get Sharpness 0x2201\t\tno answer"},
-      {kChange, {.result = 1}, "Set Sharpness 0x2201\t0x82\tok"},
-      {kChange, {.result = 0}, "Set Sharpness 0x2201\t0x82\trefused"},
-      {{PjtOperation::SetBrightness, 0, 140}, {.result = 0}, "SetBrightness\t140\trefused"},
-      {kRead, {.answered = false, .abandoned = true}, "Get Sharpness 0x2201\t\tleft"},
-      {kRead, {.offered = false}, "Get Sharpness 0x2201\t\tnot offered"},
-      {kChange, {.busy = true}, "Set Sharpness 0x2201\t0x82\tbusy"},
-      {kChange, {.result = 1, .pending = true}, "Set Sharpness 0x2201\t0x82\tnot yet so"},
+      {kRead, {.result = 1, .value = 128}, "Get 0x2201\t4 (128)\tok"},
+      {kRead, {.answered = false}, "Get 0x2201\t\tno answer"},
+      {kChange, {.result = 1}, "Set 0x2201\t4 (130)\tok"},
+      {kChange, {.result = 0}, "Set 0x2201\t4 (130)\trefused"},
+      {{PjtOperation::SetBrightness, 0, 140}, {.result = 0}, "SetBrightness\t4 (140)\trefused"},
+      {{PjtOperation::GetInputSrcVolume, 0, 3}, {}, "GetInputSrcVolume(3)\t\trefused"},
+      {kRead, {.answered = false, .abandoned = true}, "Get 0x2201\t\tleft"},
+      {kRead, {.offered = false}, "Get 0x2201\t\tnot offered"},
+      {kChange, {.busy = true}, "Set 0x2201\t4 (130)\tbusy"},
+      {kChange, {.result = 1, .pending = true}, "Set 0x2201\t4 (130)\tnot yet so"},
   };
   for (const auto& [command, reply, text] : cases) {
     CommandLogModel model;
     model.Append({Entry("A", command, reply)});
-    EXPECT_EQ(LogText(model, {0}), QStringLiteral("\tA\t%1\t0.0\n").arg(text));
+    EXPECT_EQ(LogText(model, {0}), QStringLiteral("\tA\tSharpness\t%1\t0.0\n").arg(text));
     const bool isRed = model.index(0, CommandLogModel::Result).data(Qt::ForegroundRole).isValid();
     EXPECT_EQ(isRed, !IsSuccess(command.operation, reply.result) && !reply.abandoned);
   }
-  const auto names = SettingNames(5, 30);
-  EXPECT_EQ(names.at(0x2201), "Sharpness");
-  EXPECT_EQ(names.at(0x6000), "Power Status");
-  EXPECT_EQ(SettingNames(0, 0).at(0x2201), "Sharpness") << "of no row";
+}
+
+TEST(CommandLog, NamesSettingsAndValuesAsTheDialogDoes) {
+  using Op = PjtOperation;
+  const auto list = ReadProfileList(TEST_CATALOG_DIR "/projectors.json");
+  const auto model = [&](const char* name) {
+    return std::ranges::find(list.profiles, name, &FleetProfile::name)->model;
+  };
+  struct Case {
+    const char* model;
+    PjtCommand command;
+    PjtReply reply;
+    const char* setting;
+    const char* value;
+  };
+  const PjtReply done{.result = 1};
+  const auto read = [](int value) {
+    return PjtReply{.result = 1, .value = static_cast<std::int16_t>(value)};
+  };
+  const Case cases[] = {
+      {"Projector 5-30", {Op::Get, 0x2201}, read(126), "Sharpness", "2"},
+      {"Projector 5-30", {Op::Set, 0x2201, 122}, done, "Sharpness", "-2"},
+      {"Projector 5-30", {Op::SetBrightness, 0, 131}, done, "Brightness", "3"},
+      {"Projector 5-30", {Op::Get, 0x6000}, read(1), "Power Status", "On"},
+      {"Projector 5-30", {Op::ExecBrightnessReset}, {.result = 0}, "Brightness", ""},
+      {"Projector 5-30", {Op::SetAspect, 0, 1}, done, "Aspect", "16:9"},
+      {"Projector 5-30", {Op::Get, 0x2201}, {.result = 0}, "Sharpness", ""},
+      {"Projector 5-30", {Op::Get, 0x7FFF}, read(1), "", ""},
+  };
+  SettingNames names;
+  for (const Case& one : cases) {
+    const auto meaning = names.Of(model(one.model), one.command, one.reply);
+    EXPECT_EQ(meaning.setting, one.setting) << FormatCommand(one.command);
+    EXPECT_EQ(meaning.value, one.value) << FormatCommand(one.command);
+  }
 }
 
 TEST(CommandLog, RefusalsAreReadableOnEveryPalette) {
@@ -92,7 +129,9 @@ TEST(CommandLog, CopiesAndSavesShownRowsAndFollowsNewOnes) {
   QObject::connect(table.model(), &QAbstractItemModel::rowsInserted, [&] { ++insertions; });
   for (int i = 0; i < 5000; ++i) {
     log.Add(Entry("A", kRead, {.result = 1, .value = 1}));
-    log.Add(Entry("A", kChange, {.result = 1}));
+    CommandLogModel::Entry change = Entry("A", kChange, {.result = 1});
+    change.time = QDateTime({2026, 3, 1}, {9, 30});
+    log.Add(change);
   }
   ASSERT_TRUE(Soon([&table] { return table.model()->rowCount() == 10'000; }));
   EXPECT_LT(insertions, 100) << "many at a time";
@@ -106,14 +145,33 @@ TEST(CommandLog, CopiesAndSavesShownRowsAndFollowsNewOnes) {
   QTest::keyClick(&table, Qt::Key_C, Qt::ControlModifier);
   const QString line = LogText(*table.model(), {7});
   EXPECT_EQ(QGuiApplication::clipboard()->text(), line);
-  EXPECT_EQ(line.count('\t'), 5);
+  EXPECT_EQ(line.count('\t'), 6);
 
   const QTemporaryDir folder;
   ASSERT_EQ(log.Save(folder.filePath("log.tsv")), "");
   const QList<QByteArray> lines = Contents(folder.filePath("log.tsv")).split('\n');
   EXPECT_EQ(lines.size(), 5002);
-  EXPECT_EQ(lines[0], "Time\tProjector\tCommand\tValue\tResult\tms");
+  EXPECT_EQ(lines[0], "Time\tProjector\tSetting\tCommand\tValue\tResult\tms");
+  EXPECT_TRUE(lines[1].startsWith("2026-03-01 09:30:00.000\tA\t")) << "with its date";
   EXPECT_NE(log.Save("/nowhere/log.tsv"), "");
+
+  log.Add(Entry("B", kChange, {.result = 0}));
+  ASSERT_TRUE(Soon([&table] { return table.model()->rowCount() == 5001; }));
+  auto& projectors = *log.findChild<QComboBox*>();
+  const auto choose = [&](const QString& name) {
+    projectors.setCurrentText(name);
+    Q_EMIT projectors.activated(projectors.currentIndex());
+    return table.model()->rowCount();
+  };
+  EXPECT_EQ(choose("B"), 1);
+  log.ErrorsOnly()->trigger();
+  EXPECT_EQ(choose("A"), 0);
+  EXPECT_EQ(choose("All projectors"), 1);
+  log.ClearAll()->trigger();
+  auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+  ASSERT_NE(question, nullptr);
+  question->reject();
+  EXPECT_EQ(table.model()->rowCount(), 1) << "asked, and answered with Esc";
 }
 
 }  // namespace

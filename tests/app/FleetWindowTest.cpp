@@ -12,25 +12,20 @@
 #include <QTreeWidget>
 #include <gtest/gtest.h>
 
-#include "app/desktop/MainWindow.h"
 #include "app/desktop/alerts/AlertList.h"
 #include "app/desktop/groups/GroupList.h"
+#include "app/desktop/profiles/ConnectionTest.h"
 #include "app/desktop/profiles/SearchDialog.h"
 #include "app/desktop/profiles/TransferActions.h"
-#include "app/desktop/work/WorkDialog.h"
-#include "tests/app/Windows.h"
+#include "tests/app/Work.h"
+#include "tests/fleet/Served.h"
 #include "tests/support/Programs.h"
-#include "tests/support/Soon.h"
 
 namespace {
 
 using namespace std::chrono_literals;
 
 const FleetPolicy kOften{.interval = 200ms, .longestPause = 200ms, .soonest = 200ms};
-
-const std::vector<ProjectorRow>& Rows(const MainWindow& window) {
-  return window.findChild<ProjectorView*>()->Model().All();
-}
 
 std::ptrdiff_t CountIn(const MainWindow& window, ProjectorGroup::Kind kind) {
   return std::ranges::count_if(
@@ -39,16 +34,6 @@ std::ptrdiff_t CountIn(const MainWindow& window, ProjectorGroup::Kind kind) {
 
 QPushButton& Button(const WorkDialog& dialog, const QString& text) {
   return Find<QPushButton>(dialog, text);
-}
-
-/// The window of the work, when it is done.
-WorkDialog& Done(const MainWindow& window) {
-  WorkDialog* dialog = nullptr;
-  EXPECT_TRUE(Soon([&] {
-    dialog = window.findChild<WorkDialog*>();
-    return dialog != nullptr && !dialog->Run().IsRunning();
-  }));
-  return *dialog;
 }
 
 std::ptrdiff_t Failed(const WorkDialog& dialog) {
@@ -65,10 +50,7 @@ TEST(FleetWindow, SwitchesFiveHundredOffTriesAgainAndUndoes) {
   ASSERT_EQ(document.Load(file), "");
   MainWindow window(document, nullptr, {.longestPause = 1s, .soonest = 200ms});
   window.show();
-  ASSERT_TRUE(Soon([&] {
-    return std::ranges::none_of(
-        Rows(window), [](const ProjectorRow& row) { return HealthOf(row) == Health::NotAsked; });
-  }));
+  ASSERT_TRUE(AreWatched(window));
   const auto silent = CountIn(window, ProjectorGroup::Kind::Unreachable);
   const auto off = CountIn(window, ProjectorGroup::Kind::Off);
   EXPECT_EQ(silent, 25);
@@ -143,6 +125,84 @@ TEST(FleetWindow, TheFirstReadingIsNoEventAndUnseenRowsStayUpToDate) {
   window.Session(0)->Simulator().SetValue(SettingId::ErrorStatus, 4);
   EXPECT_TRUE(
       Soon([&] { return events.item(0)->text().endsWith(QString("Temperature: OK → Error")); }));
+}
+
+TEST(FleetWindow, SearchFindsAProjectorAndMarksTheKnown) {
+  // An address of this process's own: the port is that of the protocol.
+  const auto own = static_cast<unsigned>(QCoreApplication::applicationPid());
+  const std::string address =
+      "127.77." + std::to_string(own >> 8 & 0xFF) + '.' + std::to_string(own % 253 + 1);
+  PjLinkServer server(std::make_shared<SimulatedProjector>(DescribeModel(SimulatedModelData())),
+                      {.served = {.texts = {{"NAME", "Hall"}, {"INF2", "QD-M7450"}}}});
+  ASSERT_TRUE(server.Listen(address, 4352));
+  FleetProfile known = Profile("Hall");
+  known.link = ProjectorLink::PjLink;
+  known.connection = {.isNetwork = true, .address = address, .port = 4352};
+  for (const bool isKnown : {false, true}) {
+    SearchDialog dialog(isKnown ? std::vector{known} : std::vector<FleetProfile>(), nullptr);
+    dialog.open();
+    QTest::keyClicks(dialog.findChild<QLineEdit*>(), QString::fromStdString(address));
+    Find<QPushButton>(dialog, "Search").click();
+    const auto& list = *dialog.findChild<QTreeWidget*>();
+    ASSERT_TRUE(Soon([&] { return list.topLevelItemCount() == 1; }));
+    EXPECT_EQ(list.topLevelItem(0)->text(0), "Hall");
+    EXPECT_EQ(list.topLevelItem(0)->text(1), "QD-M7450");
+    EXPECT_EQ(list.topLevelItem(0)->text(3), isKnown ? "known already" : "");
+    EXPECT_EQ(dialog.Chosen().size(), isKnown ? 0U : 1U);
+    EXPECT_EQ(Find<QPushButton>(dialog, "Add the Checked").isEnabled(), !isKnown);
+  }
+}
+
+TEST(FleetWindow, TestConnectionSaysWhatAnswers) {
+  Served served;
+  ProjectorAddress address = AddressError{"none"};
+  ConnectionTest test([&] { return address; });
+  auto& result = Find<QLabel>(test, "Result of the test");
+  const auto said = [&](const ProjectorAddress& asked) {
+    address = asked;
+    Find<QPushButton>(test, "Test Connection").click();
+    EXPECT_TRUE(Soon([&] { return result.text() != "Asking…"; }));
+    return result.text().section(" · ", 0, 1);
+  };
+  EXPECT_EQ(said(AddressError{"none"}), "There is nothing to connect to.");
+  EXPECT_EQ(said(served.Wire()), "A projector answers: OK · On");
+  EXPECT_EQ(said(served.PjLink("secret")), "A projector answers: OK · On");
+  EXPECT_EQ(said(served.PjLink("other")), "Wrong password");
+  EXPECT_EQ(said(TcpAddress{.host = "127.0.0.1", .port = 1}), "No answer");
+}
+
+TEST(FleetWindow, AlertsFollowTheRules) {
+  const WallTime now = std::chrono::system_clock::now();
+  ProjectorRow row{.id = "x", .profile = Profile("X")};
+  row.profile.ratedLampHours = 2000;
+  row.state = {.reachability = Reachability::Answers, .since = now, .lamps = {{.hours = 1799}}};
+  const auto found = [&](const AlertRules& rules = {}) {
+    std::vector<std::pair<Alert::Kind, ProjectorPart>> kinds;
+    for (const Alert& alert : FindAlerts(rules, {row}, now))
+      kinds.emplace_back(alert.kind, alert.part);
+    return kinds;
+  };
+  using Kinds = std::vector<std::pair<Alert::Kind, ProjectorPart>>;
+  using enum Alert::Kind;
+  EXPECT_EQ(found(), Kinds());
+  row.state.lamps[0].hours = 1800;
+  EXPECT_EQ(found(), (Kinds{{Lamp, ProjectorPart::Other}}));
+  EXPECT_EQ(found({.lampPercent = 0}), Kinds());
+  row.state.drift = 3;
+  EXPECT_EQ(found({.lampPercent = 91}), (Kinds{{Drift, ProjectorPart::Other}}));
+  EXPECT_EQ(found({.lampPercent = 91, .drift = false}), Kinds());
+  row.state = {.reachability = Reachability::Answers, .problems = PartProblems{}};
+  for (std::size_t part = 0; part < row.state.problems->size(); ++part) {
+    row.state.problems = PartProblems{};
+    (*row.state.problems)[part] = ProblemGrade::Warning;
+    EXPECT_EQ(found(), (Kinds{{Problem, static_cast<ProjectorPart>(part)}}));
+    EXPECT_EQ(found({.problems = false}), Kinds());
+  }
+  row.state = {.reachability = Reachability::Silent, .since = now - 5min + 1s};
+  EXPECT_EQ(found(), Kinds());
+  row.state.since = now - 5min;
+  EXPECT_EQ(found(), (Kinds{{Silent, ProjectorPart::Other}}));
+  EXPECT_EQ(found({.silent = 0min}), Kinds());
 }
 
 TEST(FleetWindow, EnterSearchesForProjectors) {

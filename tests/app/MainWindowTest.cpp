@@ -11,7 +11,6 @@
 #include <QMenu>
 #include <QPointer>
 #include <QProgressBar>
-#include <QProgressDialog>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QSettings>
@@ -24,17 +23,17 @@
 #include <gtest/gtest.h>
 
 #include "app/desktop/MainWindow.h"
+#include "app/desktop/Preferences.h"
 #include "app/desktop/log/CommandLog.h"
-#include "app/desktop/presets/PresetFolder.h"
 #include "app/desktop/profiles/ProfileEditor.h"
 #include "app/desktop/simulation/FaultPanel.h"
+#include "app/profiles/PresetFolder.h"
 #include "app/profiles/SettingsFile.h"
 #include "app/profiles/Translations.h"
 #include "host/CAdvanceDlg.h"
 #include "i18n/Catalog.h"
 #include "pages/common/CTabPage.h"
 #include "tests/app/Windows.h"
-#include "tests/support/Soon.h"
 #include "toolkit/FittedScroll.h"
 #include "toolkit/StateLabel.h"
 
@@ -55,21 +54,21 @@ TEST(MainWindow, HasOneDialogPerProjectorAndLogsTheirCommands) {
   EXPECT_TRUE(window.isEnabled() && table.isEnabled());
   const auto* log = window.findChild<CommandLog*>()->findChild<QTableView*>()->model();
   EXPECT_TRUE(Soon([log] { return log->rowCount() > 10; })) << "the log gathers entries";
-  EXPECT_TRUE(LogText(*log, {0}).contains("\tB\tGet Power Status 0x6000\t1\tok\t"));
+  EXPECT_TRUE(LogText(*log, {0}).contains("\tB\tPower Status\tGet 0x6000\tOn (1)\tok\t"));
   EXPECT_FALSE(window.findChild<CommandLog*>()->isVisible()) << "it takes no room at first";
   const CAdvanceDlg& dialog = *window.Dialog(0);
   EXPECT_EQ(dialog.size(), FittedToScreen(dialog, dialog.sizeHint())) << "no smaller for the log";
 }
 
-TEST(MainWindow, QuestionsHoldUpNoDialogAndWorkWaitsForDialogs) {
+TEST(MainWindow, QuestionsAndWorkHoldUpNoDialog) {
   MainWindow window({Profile("A")});
   window.show();
+  ASSERT_TRUE(AreWatched(window));
   CAdvanceDlg* dialog = window.OpenDialog(0);
   ProjectorSession& session = *window.Session(0);
   session.SetFault({}, {Fault::Kind::Late, std::chrono::milliseconds(20)});
   const QTemporaryDir folder;
   const QString file = folder.filePath("settings.json");
-  QProgressDialog* progress = nullptr;
   const auto inTheWait = [&](const auto& act) {
     QTimer::singleShot(25, &window, [&] {
       EXPECT_TRUE(dialog->Projector().IsWaiting());
@@ -88,16 +87,14 @@ TEST(MainWindow, QuestionsHoldUpNoDialogAndWorkWaitsForDialogs) {
     ASSERT_NE(ask, nullptr);
     ask->selectFile(file);
     QMetaObject::invokeMethod(ask, "accept");
-    progress = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget());
-    ASSERT_NE(progress, nullptr);
-    EXPECT_EQ(progress->labelText(), "Waiting for the projector of an open dialog…");
   });
-  EXPECT_FALSE(QFile::exists(file));
-  session.ClearFaults();
-  const QPointer watched = progress;
-  ASSERT_TRUE(Soon([&] { return watched == nullptr; }));
+  ASSERT_TRUE(Soon([&] { return QFile::exists(file); }));
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << "nothing went wrong";
   EXPECT_EQ(ReadSettingsFile(file).error, "");
+  Find<QAction>(window, "Compare with File").trigger();
+  auto* ask = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+  ASSERT_NE(ask, nullptr);
+  EXPECT_EQ(ask->directory().path(), folder.path()) << "where the last file was";
 }
 
 TEST(MainWindow, TellsADialogTheRatedHoursAndTheWantedPreset) {
@@ -179,6 +176,35 @@ TEST(FaultPanel, SetsAndRemovesFaultsOfTheSelectedProjector) {
   Find<QPushButton>(panel, "Remove All").click();
   EXPECT_TRUE(first.Faults().empty());
   EXPECT_EQ(brightness(first), 1);
+}
+
+TEST(MainWindow, PreferencesTakeEffectAtOnce) {
+  const QTemporaryDir folder;
+  QSettings settings(folder.filePath("s.ini"), QSettings::IniFormat);
+  MainWindow window(Shipped(folder), &settings);
+  window.show();
+  const auto isDark = [&window] {
+    return window.palette().color(QPalette::Base).lightness() < 128;
+  };
+  ASSERT_FALSE(isDark());
+  QAction& preferences = Find<QAction>(window, "Preferences");
+  Answer(preferences, [&](const QDialog& dialog) {
+    Choose(dialog, "Colors", "Dark");
+    EXPECT_TRUE(isDark()) << "as soon as it is chosen";
+  });
+  EXPECT_FALSE(isDark()) << "the dialog was left with Esc";
+  Answer(preferences, [&](QDialog& dialog) {
+    Choose(dialog, "Colors", "Dark");
+    qobject_cast<QSpinBox*>(Find<QLabel>(dialog, "Ask each projector every").buddy())->setValue(30);
+    qobject_cast<QSpinBox*>(Find<QLabel>(dialog, "Silent for").buddy())->setValue(7);
+    dialog.accept();
+  });
+  EXPECT_TRUE(isDark());
+  EXPECT_EQ(Preferences::ThemeOf(settings), Theme::Dark);
+  EXPECT_EQ(Preferences::Interval(&settings), 30);
+  EXPECT_EQ(AlertRules::Read(&settings).silent, std::chrono::minutes(7));
+  Apply(Theme::Desktop);
+  EXPECT_FALSE(isDark());
 }
 
 TEST(MainWindow, RestoresItsStateAndClosesWithoutWaiting) {

@@ -7,6 +7,7 @@
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QProxyStyle>
 #include <QPushButton>
 #include <QTest>
 #include <QUndoStack>
@@ -28,6 +29,31 @@ QString Selected(const QWidget& window) {
 TEST(ProjectorList, InitiallySelectsAProjectorWithRowsOnEveryTab) {
   const MainWindow window({Profile("no tabs", MakeModel(9, 30)), Profile("A"), Profile("B")});
   EXPECT_EQ(Selected(window), "A");
+}
+
+/// A desktop on which a single click activates.
+class SingleClickStyle : public QProxyStyle {
+ public:
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* result) const override {
+    return hint == SH_ItemView_ActivateItemOnSingleClick
+               ? 1
+               : QProxyStyle::styleHint(hint, option, widget, result);
+  }
+};
+
+TEST(ProjectorList, OnlyADoubleClickOpensADialog) {
+  MainWindow window({Profile("A"), Profile("B")});
+  SingleClickStyle style;
+  QTableView& table = Table(window);
+  table.setStyle(&style);
+  window.show();
+  const QPoint second = table.visualRect(table.model()->index(1, 0)).center();
+  QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, second);
+  EXPECT_EQ(Selected(window), "B");
+  EXPECT_EQ(window.Dialog(1), nullptr);
+  QTest::mouseDClick(table.viewport(), Qt::LeftButton, {}, second);
+  EXPECT_NE(window.Dialog(1), nullptr);
 }
 
 TEST(ProjectorList, IsSearchedAndSorted) {

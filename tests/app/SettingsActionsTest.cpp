@@ -1,119 +1,109 @@
-#include <gmock/gmock.h>
+// Settings saved in files, and compared and applied by choice; several projectors at once.
 
-#include <QCheckBox>
-#include <QDeadlineTimer>
 #include <QDir>
-#include <QTemporaryDir>
+#include <QLabel>
+#include <QMessageBox>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QStatusBar>
 #include <QTest>
-#include <QTreeView>
+#include <QTreeWidget>
 #include <gtest/gtest.h>
 
-#include "app/desktop/projectors/ProjectorSession.h"
-#include "app/desktop/settings/SettingsActions.h"
+#include "app/desktop/MainWindow.h"
+#include "app/desktop/SettingsActions.h"
 #include "app/profiles/SettingsFile.h"
-#include "fleet/ProfileFile.h"
-#include "tests/support/Soon.h"
+#include "fleet/FleetUndo.h"
+#include "tests/app/Windows.h"
+#include "tests/app/Work.h"
 
 namespace {
 
-constexpr int kSettingColumn = 1, kResultColumn = 4;
-const QString kBeforehand = "Beforehand: other sources and modes";
-
-/// Two projectors of one model, and a file with the settings of the first.
-struct ProjectorPair {
-  ProjectorPair() {
-    for (const FleetProfile& profile :
-         ReadProfileList(TEST_CATALOG_DIR "/projectors.json").profiles) {
-      if (profile.name != "Projector 5-30" && profile.name != "Projector 5-31") continue;
-      sessions.push_back(std::make_shared<ProjectorSession>(
-          profile, [this](const PjtCommand&, const PjtReply& reply, std::chrono::microseconds) {
-            if (!reply.answered) sessions[1]->ClearFaults();
-          }));
-    }
-    EXPECT_EQ(SettingsActions::SaveTo(file, {sessions[0]}), QStringList());
+/// Two projectors of one model in the window, both selected, and a folder.
+struct Pair {
+  Pair() {
+    window.show();
+    EXPECT_TRUE(AreWatched(window));
+    Table(window).selectAll();
   }
-  SimulatedProjector& Projector(std::size_t index) { return sessions[index]->Simulator(); }
+  SimulatedProjector& Projector(std::size_t index) { return window.Session(index)->Simulator(); }
 
-  QTemporaryDir folder;
+  const QTemporaryDir folder;
   const QString file = folder.filePath("good.json");
-  ProjectorSessions sessions;
+  MainWindow window{{Profile("A"), Profile("B")}};
+  SettingsActions& actions = *window.findChild<SettingsActions*>();
 };
 
-/// The texts of a column in the order shown.
-QStringList Column(const RestoreDialog& dialog, int column) {
-  const QAbstractItemModel& model = *dialog.findChild<QTreeView*>()->model();
-  QStringList texts;
-  for (int row = 0; row < model.rowCount(); ++row) {
-    texts.append(model.index(row, column).data().toString());
-  }
-  return texts;
+TEST(SettingsActions, SavesSeveralAtOnceAndTriesAgain) {
+  Pair pair;
+  MainWindow& window = pair.window;
+  MakeSilent(window, 1, true);
+  pair.actions.SaveTo(pair.folder.path());
+  WorkDialog* dialog = &Done(window);
+  EXPECT_EQ(Results(*dialog), QStringList({"A: done", "B: no answer"}));
+  const auto files = [&] { return QDir(pair.folder.path()).entryList({"*.json"}); };
+  EXPECT_EQ(files(), QStringList("A.json"));
+  MakeSilent(window, 1, false);
+  Find<QPushButton>(*dialog, "Retry the Failed").click();
+  EXPECT_TRUE(Soon([&] { return files() == QStringList({"A.json", "B.json"}); }));
+  EXPECT_TRUE(window.statusBar()->currentMessage().startsWith("Settings of 2 projectors saved in"));
+  const SettingsFileContents saved = ReadSettingsFile(pair.folder.filePath("B.json"));
+  EXPECT_EQ(saved.snapshot.projector, "B");
+  EXPECT_GT(saved.snapshot.settings.size(), 50U);
+  dialog->close();
+
+  window.findChild<ProjectorView*>()->Select(0);
+  pair.actions.SaveTo("/proc/x.json");
+  ASSERT_TRUE(Soon([] { return QApplication::activeModalWidget() != nullptr; }));
+  auto* error = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+  ASSERT_NE(error, nullptr);
+  EXPECT_TRUE(error->text().startsWith("cannot write /proc/x.json: "));
 }
 
-TEST(SettingsActions, RestoresCheckedSettingsOfEveryProjector) {
-  ProjectorPair projectors;
-  projectors.Projector(0).SetValue(SettingId::Brightness, 135);
-  projectors.Projector(1).SetValue(SettingId::Contrast, 120);
-  projectors.Projector(1).SetValue(SettingId::PositionV, 50);
-  projectors.sessions[1]->SetFault({}, {.kind = Fault::Kind::DropOut});
-  Snapshot snapshot = ReadSettingsFile(projectors.file).snapshot;
+TEST(SettingsActions, AppliesWhatIsCheckedAndUndoesTheRun) {
+  Pair pair;
+  MainWindow& window = pair.window;
+  window.findChild<ProjectorView*>()->Select(0);
+  pair.actions.SaveTo(pair.file);
+  ASSERT_TRUE(Soon([&] { return QFile::exists(pair.file); }));
+  Snapshot snapshot = ReadSettingsFile(pair.file).snapshot;
   snapshot.beforehand = {{"picture.sharpness", 129, ""}};
   snapshot.settings.insert(snapshot.settings.begin(), {"audio.volume", 16, "", 99});
-  RestoreDialog dialog(RestoreDialog::Purpose::Restore, snapshot, projectors.file,
-                       projectors.sessions, [](QObject*, const std::function<void()>& work) {
-                         work();
-                         return true;
-                       });
-  dialog.show();
-  ASSERT_TRUE(Soon([&] { return Column(dialog, kSettingColumn).size() >= 50; }));
-  EXPECT_EQ(Column(dialog, kResultColumn)[5], "not read");
-  QAbstractItemModel& model = *dialog.findChild<QTreeView*>()->model();
-  model.setData(model.index(3, kSettingColumn), Qt::Unchecked, Qt::CheckStateRole);
-  dialog.Compare();
-  EXPECT_EQ(Column(dialog, kSettingColumn),
-            QStringList({kBeforehand, "Audio: Volume (99)", "Picture: Brightness", kBeforehand,
-                         "Audio: Volume (99)", "Picture: Contrast", "Image: Position V"}));
-  EXPECT_EQ(Column(dialog, 2), QStringList({"", "", "7", "", "", "-8", "50"}));
-  EXPECT_EQ(Column(dialog, 3),
-            QStringList({"1 settings", "16", "0", "1 settings", "16", "0", "40"}));
+  snapshot.settings.push_back({"main.contrast", 130, ""});  // of other models
+  Write(pair.file, WriteSnapshot(snapshot));
+  pair.Projector(0).SetValue(SettingId::Brightness, 135);
+  pair.Projector(1).SetValue(SettingId::Contrast, 120);
+  pair.Projector(1).SetValue(SettingId::PositionV, 50);
 
-  QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
-  EXPECT_TRUE(dialog.isVisible());
-  auto* table = dialog.findChild<QTreeView*>();
-  for (const auto key : {Qt::Key_Home, Qt::Key_End, Qt::Key_Space}) QTest::keyClick(table, key);
-  EXPECT_EQ(model.index(6, kSettingColumn).data(Qt::CheckStateRole), Qt::Unchecked);
-  projectors.sessions[1]->SetFault(PjtOperation::SetContrast, {.kind = Fault::Kind::DropOut});
-  dialog.Restore();
-  const QString skipped = "skipped: this model does not take the value";
-  EXPECT_EQ(Column(dialog, kResultColumn), QStringList({"changed", skipped, "changed", "not read",
-                                                        skipped, "changed", "different"}));
-  EXPECT_EQ(projectors.Projector(0).Value(SettingId::Sharpness), 129);
-  EXPECT_EQ(projectors.Projector(1).Value(SettingId::Sharpness), 128);
-  EXPECT_EQ(projectors.Projector(0).Value(SettingId::Brightness), 128);
-  EXPECT_EQ(projectors.Projector(1).Value(SettingId::Contrast), 128);
-  EXPECT_EQ(projectors.Projector(1).Value(SettingId::PositionV), 50);
-  EXPECT_EQ(QDir(projectors.folder.path()).entryList({"good.undo.*"}).size(), 2);
-  dialog.findChild<QCheckBox*>()->setChecked(false);
-  EXPECT_GT(Column(dialog, kSettingColumn).size(), 100) << "what is the same is shown on demand";
-}
+  Table(window).selectAll();
+  pair.actions.OpenFile(pair.file, true);
+  auto* dialog = window.findChild<ComparisonDialog*>();
+  ASSERT_TRUE(HasCompared(*dialog));
+  auto& tree = *dialog->findChild<QTreeWidget*>();
+  const QString first = "  First the other sources and modes||1 settings";
+  const QString foreign = "  2 settings do not apply to this model||";
+  EXPECT_EQ(Lines(tree),
+            QStringList({"A||", first, "  Picture: Brightness|7|0", foreign, "B||", first,
+                         "  Picture: Contrast|-8|0", "  Image: Position V|50|40", foreign}));
+  Find<QLabel>(*dialog, "2 projectors differ.");
 
-TEST(SettingsActions, ReportsWhatCannotBeSaved) {
-  ProjectorPair projectors;
-  projectors.sessions[1]->SetFault({}, {.kind = Fault::Kind::FailRead});
-  const QStringList errors = SettingsActions::SaveTo(projectors.folder.path(), projectors.sessions);
-  EXPECT_EQ(errors, QStringList("Projector 5-31: nothing can be read"));
-  const QDeadlineTimer soon(
-      std::chrono::minutes(1));  // much shorter than a time-out for each setting
-  const auto falter = [&] { projectors.sessions[0]->SetFault({}, {.kind = Fault::Kind::DropOut}); };
-  EXPECT_EQ(SettingsActions::SaveTo("/nowhere", {projectors.sessions[0]}, {.step = falter}),
-            QStringList("Projector 5-30: no answer"));
-  EXPECT_FALSE(soon.hasExpired());
-  projectors.sessions[0]->ClearFaults();
-  SettingsActions::SaveTo(projectors.folder.path(),
-                          {projectors.sessions[0], projectors.sessions[0]});
-  EXPECT_EQ(QDir(projectors.folder.path()).entryList({"Projector_5-30*.json"}).size(), 3);
-  EXPECT_THAT(
-      SettingsActions::SaveTo("/proc/x.json", {projectors.sessions[0]}).join('\n').toStdString(),
-      testing::StartsWith("cannot write /proc/x.json: "));
+  QTreeWidgetItem* b = tree.topLevelItem(1);
+  for (QTreeWidgetItem* item : {tree.topLevelItem(0), b}) item->child(0)->setCheckState(0, {});
+  b->child(2)->setCheckState(0, Qt::Unchecked);
+  EXPECT_EQ(b->checkState(0), Qt::PartiallyChecked);
+  Find<QPushButton>(*dialog, "Apply").click();
+  WorkDialog& work = Done(window);
+  EXPECT_EQ(Results(work), QStringList({"A: done", "B: done"}));
+  EXPECT_EQ(pair.Projector(0).Value(SettingId::Brightness), 128);
+  EXPECT_EQ(pair.Projector(1).Value(SettingId::Contrast), 128);
+  EXPECT_EQ(pair.Projector(1).Value(SettingId::PositionV), 50) << "unchecked";
+  EXPECT_EQ(pair.Projector(1).Value(SettingId::Sharpness), 128) << "unchecked";
+  const QStringList undo = QDir(pair.folder.path()).entryList({"good.undo.*.json"});
+  ASSERT_EQ(undo.size(), 1);
+  EXPECT_EQ(ReadFleetUndo(Contents(pair.folder.filePath(undo[0]))).undo.size(), 2U);
+  Find<QPushButton>(work, "Undo All").click();
+  EXPECT_TRUE(Soon([&] { return pair.Projector(1).Value(SettingId::Contrast) == 120; }));
+  EXPECT_TRUE(Soon([&] { return pair.Projector(0).Value(SettingId::Brightness) == 135; }));
 }
 
 }  // namespace

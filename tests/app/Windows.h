@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdlib>
 #include <functional>
 
@@ -18,6 +19,7 @@
 #include "app/desktop/profiles/ProfileDocument.h"
 #include "app/desktop/projectors/ProjectorView.h"
 #include "tests/support/Models.h"
+#include "tests/support/Soon.h"
 
 // Operates the host application's windows as a user does.
 
@@ -42,6 +44,18 @@ Part& Find(const QObject& window, const QString& name) {
 
 inline QTableView& Table(const QWidget& window) {
   return *window.findChild<ProjectorView*>()->findChild<QTableView*>();
+}
+
+inline const std::vector<ProjectorRow>& Rows(const QWidget& window) {
+  return window.findChild<ProjectorView*>()->Model().All();
+}
+
+/// Whether all projectors have been asked, and jobs can reach them.
+inline bool AreWatched(const QWidget& window) {
+  return Soon([&] {
+    return std::ranges::all_of(
+        Rows(window), [](const ProjectorRow& row) { return HealthOf(row) != Health::NotAsked; });
+  });
 }
 
 /// Chooses an entry as an assistive technology does, which finds a list by its name.

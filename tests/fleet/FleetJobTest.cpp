@@ -112,6 +112,15 @@ TEST_F(FleetJobTest, TakesAndComparesSnapshotsAndSwitchesPower) {
   EXPECT_EQ(Outcomes(compared), (std::vector{Done, Refused, Refused, Done, NoAnswer}));
   EXPECT_EQ(fleet.State("0")->drift, 0);
   EXPECT_EQ(fleet.State("3")->drift, 1);
+  ASSERT_EQ(compared[3].differences->size(), 1U);
+  EXPECT_EQ(compared[3].differences->front().saved.key, "setup.mirror");
+  EXPECT_EQ(compared[3].differences->front().here, 2);
+  served[0].device->Execute({PjtOperation::SetMirror, 0, 2});
+  Do(CompareSnapshots{{{"0", wanted}}, false}, &fleet);
+  EXPECT_EQ(fleet.State("0")->drift, 0) << "this is not how it should be";
+  served[0].device->SetFault(Fault{.kind = Fault::Kind::FailRead});
+  EXPECT_EQ(Do(CompareSnapshots{{{"0", wanted}}})[0].differing, std::nullopt) << "nobody knows";
+  served[0].device->SetFault(Fault{});
 
   fleet.SetAsking(false);
   served[1].device->SetFault(PjtOperation::SetPowerOff, {.kind = Fault::Kind::Refuse});

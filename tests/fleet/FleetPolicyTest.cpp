@@ -8,6 +8,18 @@ namespace {
 
 using namespace std::chrono_literals;
 
+TEST(FleetPolicyTest, ANewIntervalCountsAtOnce) {
+  SteppedFleet fleet({.interval = 1h, .jitter = 0});
+  const SteppedFleet::Projector& it = fleet.Add("a");
+  fleet.RunFor(30min);
+  ASSERT_EQ(it.connections.size(), 1U);
+  fleet.watcher.SetInterval(10min);
+  fleet.RunFor(1s);
+  EXPECT_EQ(it.connections.size(), 2U) << "the pause was over";
+  fleet.RunFor(10min);
+  EXPECT_EQ(it.connections.size(), 3U);
+}
+
 TEST(FleetPolicyTest, AsksASilentOneLessAndLess) {
   SteppedFleet fleet;
   SteppedFleet::Projector& it = fleet.Add("a");

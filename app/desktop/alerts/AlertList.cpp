@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <QDateTime>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLocale>
@@ -12,6 +13,18 @@
 #include "app/desktop/projectors/StateTexts.h"
 #include "toolkit/IsolatedText.h"
 
+namespace {
+
+constexpr int kGap = 30;  // beside the time
+
+/// The number in the text of an alert; 0 if it has none.
+int NumberOf(const Alert& alert, const ProjectorRow& row) {
+  if (alert.kind == Alert::Kind::Lamp) return LampHoursOf(row.state);
+  return alert.kind == Alert::Kind::Drift ? row.state.drift.value_or(0) : 0;
+}
+
+}  // namespace
+
 AlertList::AlertList(QWidget* parent)
     : QWidget(parent),
       list_(new QTreeWidget),
@@ -19,11 +32,14 @@ AlertList::AlertList(QWidget* parent)
       acknowledgeAll_(new QPushButton(tr("Acknowledge A&ll"))) {
   list_->setHeaderLabels({tr("Since"), tr("Alert"), tr("State")});
   list_->setRootIsDecorated(false);
+  list_->setUniformRowHeights(true);
   list_->setSelectionMode(QTreeWidget::ExtendedSelection);
   list_->setItemDelegate(new IsolatedTexts(list_));
   list_->setAccessibleName(tr("Alerts"));
   list_->header()->setSectionResizeMode(1, QHeaderView::Stretch);
   list_->header()->setStretchLastSection(false);
+  const QString time = QLocale().toString(QDateTime::currentDateTime(), QLocale::ShortFormat);
+  list_->setColumnWidth(0, list_->fontMetrics().horizontalAdvance(time) + kGap);
   auto* buttons = new QHBoxLayout;
   buttons->addStretch();
   buttons->addWidget(acknowledge_);
@@ -59,20 +75,28 @@ QString AlertList::TextOf(const Alert& alert, const ProjectorRow& row) const {
   return tr("%1: %2").arg(name, StateTexts::Part(alert.part));
 }
 
+// Thousands of projectors may have alerts at the same time, so nothing here searches in a list.
 void AlertList::Look(const std::vector<ProjectorRow>& rows, WallTime now) {
-  const std::vector<Alert> found = FindAlerts(rules_, rows, now);
-  const std::set<Alert> present(found.begin(), found.end());
-  bool hasChanged =
-      std::erase_if(alerts_, [&](const auto& one) { return !present.contains(one.first); }) > 0;
+  const QString since = QLocale().toString(QDateTime::currentDateTime(), QLocale::ShortFormat);
+  bool hasChanged = false;
   QStringList raised;
-  for (const Alert& alert : present) {
-    const auto [entry, isNew] = alerts_.try_emplace(alert);
-    if (!isNew) continue;
-    const auto row = std::ranges::find(rows, alert.id, &ProjectorRow::id);
-    entry->second = {.text = TextOf(alert, *row), .since = QDateTime::currentDateTime()};
-    raised += entry->second.text;
-    hasChanged = true;
+  ++looks_;
+  for (const ProjectorRow& row : rows) {
+    for (const Alert& alert : FindAlerts(rules_, row, now)) {
+      const auto [found, isNew] = alerts_.try_emplace(alert, Entry{.since = since});
+      Entry& entry = found->second;
+      entry.seen = looks_;
+      // Hours and numbers of settings change while the alert stays.
+      const int number = NumberOf(alert, row);
+      if (!isNew && entry.number == number) continue;
+      entry.number = number;
+      entry.text = TextOf(alert, row);
+      if (isNew) raised += entry.text;
+      hasChanged = true;
+    }
   }
+  const auto isGone = [this](const auto& one) { return one.second.seen != looks_; };
+  hasChanged = std::erase_if(alerts_, isGone) > 0 || hasChanged;
   if (!hasChanged) return;
   Show();
   Q_EMIT Changed();
@@ -98,17 +122,19 @@ void AlertList::Acknowledge(bool all) {
 }
 
 void AlertList::Show() {
-  list_->clear();
+  QFont bold = list_->font();
+  bold.setBold(true);
+  QList<QTreeWidgetItem*> items;
+  items.reserve(static_cast<qsizetype>(alerts_.size()));
   for (const auto& [alert, entry] : alerts_) {
     auto* item = new QTreeWidgetItem(
-        list_, {QLocale().toString(entry.since, QLocale::ShortFormat), entry.text,
-                entry.isAcknowledged ? tr("acknowledged") : tr("open")});
+        {entry.since, entry.text, entry.isAcknowledged ? tr("acknowledged") : tr("open")});
     item->setData(0, Qt::UserRole, QString::fromStdString(alert.id));
-    QFont font = item->font(1);
-    font.setBold(!entry.isAcknowledged);
-    item->setFont(1, font);
+    if (!entry.isAcknowledged) item->setFont(1, bold);
+    items += item;
   }
-  list_->resizeColumnToContents(0);
+  list_->clear();
+  list_->addTopLevelItems(items);
   acknowledge_->setEnabled(!alerts_.empty());
   acknowledgeAll_->setEnabled(!Open().empty());
 }

@@ -1,10 +1,9 @@
 #pragma once
 
 #include <map>
-#include <set>
 #include <vector>
 
-#include <QDateTime>
+#include <QString>
 #include <QWidget>
 
 #include "app/desktop/alerts/AlertRules.h"
@@ -21,7 +20,7 @@ class AlertList : public QWidget {
   explicit AlertList(QWidget* parent = nullptr);
 
   void SetRules(const AlertRules& rules) { rules_ = rules; }
-  /// Looks for alerts.
+  /// Takes over the alerts that the rules find in these projectors.
   void Look(const std::vector<ProjectorRow>& rows, WallTime now);
   /// Those that nobody has acknowledged.
   std::vector<Alert> Open() const;
@@ -29,14 +28,16 @@ class AlertList : public QWidget {
  Q_SIGNALS:
   /// There are others than before, or some were acknowledged.
   void Changed();
-  /// These are new: a line for each, for a notification.
+  /// New alerts, a line of text each, for a notification.
   void Raised(const QStringList& texts);
   void Activated(const std::string& id);
 
  private:
   struct Entry {
-    QString text;
-    QDateTime since;
+    QString since;
+    QString text{};
+    int number = 0;     ///< In the text.
+    unsigned seen = 0;  ///< When the alert was found last, as `looks_`.
     bool isAcknowledged = false;
   };
 
@@ -46,6 +47,7 @@ class AlertList : public QWidget {
 
   AlertRules rules_;
   std::map<Alert, Entry> alerts_;
+  unsigned looks_ = 0;
   QTreeWidget* list_;
   QPushButton* acknowledge_;
   QPushButton* acknowledgeAll_;

@@ -44,25 +44,22 @@ void AlertRules::Write(QSettings& settings) const {
   settings.setValue(kQuietTo, quietTo);
 }
 
-std::vector<Alert> FindAlerts(const AlertRules& rules, const std::vector<ProjectorRow>& rows,
-                              WallTime now) {
+std::vector<Alert> FindAlerts(const AlertRules& rules, const ProjectorRow& row, WallTime now) {
   using Kind = Alert::Kind;
   std::vector<Alert> alerts;
-  for (const ProjectorRow& row : rows) {
-    const LiveState& state = row.state;
-    const bool isSilent = HealthOf(row) == Health::Unreachable;
-    if (isSilent && rules.silent.count() > 0 && now - state.since >= rules.silent)
-      alerts.push_back({row.id, Kind::Silent});
-    const int hours = LampHoursOf(state);
-    const int rated = row.profile.ratedLampHours;
-    if (rules.lampPercent > 0 && rated > 0 && hours * kPercent >= rated * rules.lampPercent)
-      alerts.push_back({row.id, Kind::Lamp});
-    if (rules.drift && state.drift.value_or(0) > 0) alerts.push_back({row.id, Kind::Drift});
-    if (!rules.problems || !state.problems) continue;
-    for (std::size_t part = 0; part < state.problems->size(); ++part) {
-      if ((*state.problems)[part] != ProblemGrade::None)
-        alerts.push_back({row.id, Kind::Problem, static_cast<ProjectorPart>(part)});
-    }
+  const LiveState& state = row.state;
+  const bool isSilent = HealthOf(row) == Health::Unreachable;
+  if (isSilent && rules.silent.count() > 0 && now - state.since >= rules.silent)
+    alerts.push_back({row.id, Kind::Silent});
+  const int hours = LampHoursOf(state);
+  const int rated = row.profile.ratedLampHours;
+  if (rules.lampPercent > 0 && rated > 0 && hours * kPercent >= rated * rules.lampPercent)
+    alerts.push_back({row.id, Kind::Lamp});
+  if (rules.drift && state.drift.value_or(0) > 0) alerts.push_back({row.id, Kind::Drift});
+  if (!rules.problems || !state.problems) return alerts;
+  for (std::size_t part = 0; part < state.problems->size(); ++part) {
+    if ((*state.problems)[part] != ProblemGrade::None)
+      alerts.push_back({row.id, Kind::Problem, static_cast<ProjectorPart>(part)});
   }
   return alerts;
 }

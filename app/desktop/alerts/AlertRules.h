@@ -9,7 +9,7 @@
 
 #include "app/desktop/projectors/ProjectorRow.h"
 
-/// When somebody is to be told.
+/// When alerts are raised, and when the desktop shows them.
 struct AlertRules {
   int lampPercent = 90;            ///< Of the rated hours; 0 for never.
   std::chrono::minutes silent{5};  ///< 0 for never.
@@ -24,7 +24,7 @@ struct AlertRules {
   void Write(QSettings& settings) const;
 };
 
-/// Something about a projector that somebody should see to.
+/// A state of a projector that needs attention.
 struct Alert {
   enum class Kind : std::uint8_t { Silent, Lamp, Drift, Problem };
 
@@ -35,6 +35,5 @@ struct Alert {
   friend auto operator<=>(const Alert&, const Alert&) = default;
 };
 
-/// What the rules find in the projectors at a time.
-std::vector<Alert> FindAlerts(const AlertRules& rules, const std::vector<ProjectorRow>& rows,
-                              WallTime now);
+/// What the rules find in a projector at a time.
+std::vector<Alert> FindAlerts(const AlertRules& rules, const ProjectorRow& row, WallTime now);

@@ -15,8 +15,8 @@ class QLabel;
 class QListWidget;
 class QProgressBar;
 
-/// How one projector is: its states, lamp and filter, what happened to it lately, and buttons for
-/// the usual work.
+/// Shows one projector: its state, lamp and filter, its recent events, and buttons for the everyday
+/// changes.
 class DetailsPanel : public QWidget {
   Q_OBJECT
 

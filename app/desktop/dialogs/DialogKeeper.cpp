@@ -16,7 +16,6 @@ namespace {
 constexpr int kGap = 8;
 constexpr int kCascade = 28;
 constexpr std::size_t kCascadeLength = 8;
-constexpr auto kQuietCheck = std::chrono::milliseconds(50);
 constexpr auto kRetirementCheck = std::chrono::milliseconds(50);
 constexpr const char* kTabKey = "dialog/tab";
 
@@ -52,23 +51,6 @@ DialogKeeper::~DialogKeeper() = default;
 CAdvanceDlg* DialogKeeper::Of(const ProjectorSession& session) const {
   const auto found = dialogs_.find(&session);
   return found == dialogs_.end() ? nullptr : found->second.get();
-}
-
-bool DialogKeeper::IsWaiting() const {
-  const auto waits = [](const auto& dialog) { return dialog->Projector().IsWaiting(); };
-  return std::ranges::any_of(dialogs_, [&](const auto& open) { return waits(open.second); }) ||
-         std::ranges::any_of(retired_, waits);
-}
-
-bool DialogKeeper::RunWhenQuiet(QObject* context, std::function<void()> work) {
-  const bool isQuiet = !IsWaiting();
-  if (isQuiet) {
-    work();
-  } else {
-    QTimer::singleShot(kQuietCheck, context,
-                       [this, context, work = std::move(work)] { RunWhenQuiet(context, work); });
-  }
-  return isQuiet;
 }
 
 CAdvanceDlg* DialogKeeper::Open(const ProjectorSession& session, std::optional<int> tab) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -31,11 +30,6 @@ class DialogKeeper : public QObject {
   /// closed while it was being read. Owned by the keeper.
   CAdvanceDlg* Open(const ProjectorSession& session, std::optional<int> tab = {});
 
-  /// Runs work on projectors now, or as soon as no dialog waits for a projector. This keeps a
-  /// waiting handler from being held up by the work, and the user from sending commands during it.
-  /// Returns whether the work has run already. It never runs after `context` is destroyed.
-  bool RunWhenQuiet(QObject* context, std::function<void()> work);
-
   /// The projector's open dialog, or null.
   CAdvanceDlg* Of(const ProjectorSession& session) const;
 
@@ -53,7 +47,6 @@ class DialogKeeper : public QObject {
   void Closed(const ProjectorSession* session);
 
  private:
-  bool IsWaiting() const;
   void Arrange(CAdvanceDlg& dialog);
   void Place(CAdvanceDlg& dialog) const;
   void SelectTab(CAdvanceDlg& dialog, const CModelInfo2& model, std::optional<int> tab);

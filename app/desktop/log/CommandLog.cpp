@@ -1,43 +1,30 @@
 #include "app/desktop/log/CommandLog.h"
 
-#include <algorithm>
-#include <array>
 #include <numeric>
 #include <utility>
 
 #include <QAction>
-#include <QClipboard>
-#include <QFontDatabase>
-#include <QFontMetrics>
-#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QHelpEvent>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QPaintEvent>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QTableView>
 #include <QToolButton>
-#include <QToolTip>
 #include <QVBoxLayout>
 
 #include "app/desktop/Mnemonic.h"
 #include "app/desktop/Modal.h"
+#include "app/desktop/log/LogTable.h"
+#include "app/desktop/log/SettingNames.h"
 #include "fleet/WholeFile.h"
+#include "toolkit/CComboBox.h"
 #include "toolkit/Icons.h"
-#include "toolkit/IsolatedText.h"
 
 namespace {
 
 constexpr int kLeastFilter = 14;  // characters
 constexpr auto kGatherTime = std::chrono::milliseconds(40);
-
-// The widest usual text of each column.
-constexpr std::array<const char*, CommandLogModel::ColumnCount> kWidthSamples{
-    "00:00:00.000", "Projector 5-30 b", "Get User Gamma Point 8 0x30B1 ",
-    "0xFFFF",       "not offered",      "2000.0"};
 
 QToolButton* ButtonOf(QAction* action) {
   action->setIconText(WithoutMnemonic(action->text()));
@@ -49,61 +36,18 @@ QToolButton* ButtonOf(QAction* action) {
 
 }  // namespace
 
-/// A table that aligns its rows at the bottom, so that the newest one is always at the same place.
-class CommandLog::RowsAtFoot : public QTableView {
- protected:
-  void updateGeometries() override {
-    QTableView::updateGeometries();
-    free_ = std::max(0, viewport()->height() - verticalHeader()->length());
-    if (free_ > 0) verticalHeader()->setOffset(-free_);
-  }
-
-  void paintEvent(QPaintEvent* event) override {
-    QPaintEvent rows(event->region() & viewport()->rect().adjusted(0, free_, 0, 0));
-    QTableView::paintEvent(&rows);
-  }
-
- private:
-  int free_ = 0;
-};
-
-/// Shows the full text of a cell that is cut off as a tool tip.
-class CommandLog::Cells : public IsolatedTexts {
- public:
-  using IsolatedTexts::IsolatedTexts;
-
-  bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
-                 const QModelIndex& index) override {
-    const bool cutOff = sizeHint(option, index).width() > option.rect.width();
-    if (event->type() != QEvent::ToolTip || !cutOff) {
-      return IsolatedTexts::helpEvent(event, view, option, index);
-    }
-    QToolTip::showText(event->globalPos(), index.data().toString(), view);
-    return true;
-  }
-};
-
 CommandLog::CommandLog(QWidget* parent)
     : QWidget(parent),
       model_(new CommandLogModel(this)),
-      shown_(new CommandLogFilter(this)),
-      view_(new RowsAtFoot),
+      shown_(new CommandLogFilter(*model_, this)),
+      view_(new LogTable(*shown_)),
       changesOnly_(new QAction(tr("Changes &Only"), this)),
       errorsOnly_(new QAction(tr("&Errors Only"), this)),
       saveAs_(new QAction(tr("Save &Log As…"), this)),
       clear_(new QAction(tr("Clea&r Log…"), this)),
-      filter_(new QLineEdit) {
-  shown_->setSourceModel(model_);
-  view_->setModel(shown_);
-  view_->setItemDelegate(new Cells(view_));
+      filter_(new QLineEdit),
+      projectors_(new CComboBox) {
   view_->setAccessibleName(tr("Command log"));
-  view_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-  view_->setSelectionBehavior(QTableView::SelectRows);
-  view_->setTabKeyNavigation(false);
-  view_->setShowGrid(false);
-  view_->setWordWrap(false);
-  MakeColumns();
-
   changesOnly_->setCheckable(true);
   changesOnly_->setToolTip(tr("Leave out the commands that only read"));
   errorsOnly_->setCheckable(true);
@@ -115,12 +59,16 @@ CommandLog::CommandLog(QWidget* parent)
   view_->addActions({changesOnly_, errorsOnly_, saveAs_, clear_});
   view_->setContextMenuPolicy(Qt::ActionsContextMenu);
 
-  filter_->setPlaceholderText(tr("Projector, command or result"));
+  filter_->setPlaceholderText(tr("Projector, setting, command or result"));
   filter_->setAccessibleName(tr("Filter the log"));
   filter_->setClearButtonEnabled(true);
   filter_->setMinimumWidth(filter_->fontMetrics().averageCharWidth() * kLeastFilter);
   auto* head = new QHBoxLayout;
+  projectors_->addItem(tr("All projectors"));
+  projectors_->Select(0);
+  projectors_->setAccessibleName(tr("Show the commands of"));
   head->addWidget(filter_, 1);
+  head->addWidget(projectors_);
   for (QAction* action : {changesOnly_, errorsOnly_, saveAs_, clear_})
     head->addWidget(ButtonOf(action));
   auto* layout = new QVBoxLayout(this);
@@ -131,7 +79,10 @@ CommandLog::CommandLog(QWidget* parent)
   connect(changesOnly_, &QAction::toggled, shown_, &CommandLogFilter::ShowChangesOnly);
   connect(errorsOnly_, &QAction::toggled, shown_, &CommandLogFilter::ShowErrorsOnly);
   connect(filter_, &QLineEdit::textChanged, shown_, &CommandLogFilter::ShowOnly);
-  connect(copy, &QAction::triggered, this, &CommandLog::CopySelected);
+  connect(projectors_, &QComboBox::activated, this, [this](int chosen) {
+    shown_->ShowProjector(chosen == 0 ? QString() : projectors_->itemText(chosen));
+  });
+  connect(copy, &QAction::triggered, view_, &LogTable::CopySelected);
   connect(saveAs_, &QAction::triggered, this, &CommandLog::AskAndSave);
   connect(clear_, &QAction::triggered, this, &CommandLog::AskAndClear);
   gather_.setSingleShot(true);
@@ -139,23 +90,24 @@ CommandLog::CommandLog(QWidget* parent)
   connect(&gather_, &QTimer::timeout, this, &CommandLog::ShowPending);
 }
 
-void CommandLog::MakeColumns() {
-  view_->verticalHeader()->hide();
-  const QFontMetrics metrics(view_->font());
-  view_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-  view_->verticalHeader()->setDefaultSectionSize(metrics.height() + 2);
-  QHeaderView& columns = Columns();
-  columns.setHighlightSections(false);
-  columns.setFont(font());
-  columns.setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-  for (int column = 0; column < CommandLogModel::ColumnCount; ++column) {
-    const QString sample = QString::fromLatin1(kWidthSamples[static_cast<std::size_t>(column)]);
-    view_->setColumnWidth(column, metrics.horizontalAdvance(sample) + 12);
-  }
-  columns.setStretchLastSection(true);
-}
+CommandLog::~CommandLog() = default;
 
 QHeaderView& CommandLog::Columns() const { return *view_->horizontalHeader(); }
+
+void CommandLog::Add(const FleetProfile& profile, const PjtCommand& command, const PjtReply& reply,
+                     std::chrono::microseconds elapsed) {
+  if (!names_) names_ = std::make_unique<SettingNames>();
+  SettingNames::Meaning meaning = names_->Of(profile.model, command, reply);
+  Add({QDateTime::currentDateTime(), QString::fromStdString(profile.name),
+       std::move(meaning.setting), std::move(meaning.value), command, reply, elapsed});
+}
+
+// The list of projectors has those that occur in the log.
+void CommandLog::AddProjectors(const std::vector<CommandLogModel::Entry>& entries) {
+  for (const CommandLogModel::Entry& entry : entries) {
+    if (projectors_->findText(entry.projector) < 0) projectors_->addItem(entry.projector);
+  }
+}
 
 void CommandLog::Add(CommandLogModel::Entry entry) {
   pending_.push_back(std::move(entry));
@@ -170,18 +122,10 @@ void CommandLog::Clear() {
 void CommandLog::ShowPending() {
   const QScrollBar* bar = view_->verticalScrollBar();
   const bool follows = bar->value() == bar->maximum();
+  AddProjectors(pending_);
   model_->Append(std::exchange(pending_, {}));
   if (follows) view_->scrollToBottom();
   Q_EMIT Updated();
-}
-
-void CommandLog::CopySelected() const {
-  std::vector<int> rows;
-  for (const QModelIndex& index : view_->selectionModel()->selectedRows()) {
-    rows.push_back(index.row());
-  }
-  std::ranges::sort(rows);
-  if (!rows.empty()) QGuiApplication::clipboard()->setText(LogText(*shown_, rows));
 }
 
 QString CommandLog::Save(const QString& fileName) const {

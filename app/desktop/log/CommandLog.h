@@ -1,26 +1,35 @@
 #pragma once
 
 #include <chrono>
+#include <memory>
 #include <vector>
 
 #include <QTimer>
 #include <QWidget>
 
 #include "app/desktop/log/CommandLogModel.h"
+#include "fleet/FleetProfile.h"
 
+class CComboBox;
+class LogTable;
 class QAction;
 class QHeaderView;
 class QLineEdit;
+class SettingNames;
 
 /// The command log as a table, with the newest row at the bottom. It scrolls along unless the user
-/// has scrolled back. Rows can be copied, saved, and limited to changes.
+/// has scrolled back. Rows can be copied, saved, and limited to changes, errors and a projector.
 class CommandLog : public QWidget {
   Q_OBJECT
 
  public:
   explicit CommandLog(QWidget* parent = nullptr);
+  ~CommandLog() override;
 
-  /// Adds an entry. Entries that arrive in quick succession are shown together.
+  /// Adds an entry, at the present time. Entries that arrive in quick succession are shown
+  /// together.
+  void Add(const FleetProfile& profile, const PjtCommand& command, const PjtReply& reply,
+           std::chrono::microseconds elapsed);
   void Add(CommandLogModel::Entry entry);
   void Clear();
 
@@ -40,23 +49,21 @@ class CommandLog : public QWidget {
   void Updated();
 
  private:
-  class Cells;
-  class RowsAtFoot;
-
-  void MakeColumns();
+  void AddProjectors(const std::vector<CommandLogModel::Entry>& entries);
   void ShowPending();
-  void CopySelected() const;
   void AskAndSave();
   void AskAndClear();
 
   CommandLogModel* model_;
   CommandLogFilter* shown_;
-  RowsAtFoot* view_;
+  LogTable* view_;
   QAction* changesOnly_;
   QAction* errorsOnly_;
   QAction* saveAs_;
   QAction* clear_;
   QLineEdit* filter_;
+  CComboBox* projectors_;
+  std::unique_ptr<SettingNames> names_;  ///< Null before the first command.
   std::vector<CommandLogModel::Entry> pending_;
   QTimer gather_;
 };

@@ -9,6 +9,7 @@
 #include <QGuiApplication>
 #include <QPalette>
 
+#include "app/desktop/log/SettingNames.h"
 #include "device/channels/LoggingChannel.h"
 
 namespace {
@@ -16,33 +17,29 @@ namespace {
 constexpr std::array<const char*, CommandLogModel::ColumnCount> kTitles{
     QT_TRANSLATE_NOOP("CommandLogModel", "Time"),
     QT_TRANSLATE_NOOP("CommandLogModel", "Projector"),
+    QT_TRANSLATE_NOOP("CommandLogModel", "Setting"),
     QT_TRANSLATE_NOOP("CommandLogModel", "Command"),
     QT_TRANSLATE_NOOP("CommandLogModel", "Value"),
     QT_TRANSLATE_NOOP("CommandLogModel", "Result"),
     QT_TRANSLATE_NOOP("CommandLogModel", "ms")};
 
-struct EntryTexts {
-  QString command;
-  QString value;  ///< The value sent, or the value of the reply.
-};
+// "Get 0x2201", "SetBrightness", "GetInputSrcVolume(3)": without the value, which has a column.
+QString CommandText(const PjtCommand& command) {
+  QString text = QString::fromStdString(FormatCommand(command));
+  const OperationForm& form = FormOf(command.operation);
+  text.truncate(text.indexOf(QLatin1Char('(')) < 0 ? text.size() : text.indexOf(QLatin1Char('(')));
+  if (form.first == Argument::Address) text += QStringLiteral("(%1)").arg(command.first);
+  return text.trimmed();
+}
 
-// "Get 0x2201" is shown with its setting's name in the middle, "SetBrightness(140)" as the command
-// SetBrightness with the value 140.
-EntryTexts Describe(const CommandLogModel::Entry& entry) {
-  const std::string command = FormatCommand(entry.command);
-  const std::string all = FormatCommand(entry.command, &entry.reply);
-  const QString outcome = QString::fromStdString(all.substr(command.size()));
-  EntryTexts texts{QString::fromStdString(command), {}};
-  if (const auto open = texts.command.indexOf(QLatin1Char('('));
-      open >= 0 && !IsRead(entry.command.operation)) {
-    texts.value = texts.command.mid(open + 1).chopped(1);
-    texts.command = texts.command.left(open).trimmed();
-  }
-  if (outcome.startsWith(QStringLiteral(" = "))) texts.value = outcome.mid(3);
-  if (!entry.setting.isEmpty() && FormOf(entry.command.operation).isGeneric) {
-    texts.command.insert(texts.command.indexOf(QLatin1Char(' ')), QLatin1Char(' ') + entry.setting);
-  }
-  return texts;
+// "4 (132)": as the dialog shows it, and as the projector takes it.
+QString ValueText(const CommandLogModel::Entry& entry) {
+  const auto value = ValueOf(entry.command, entry.reply);
+  if (!value) return {};
+  const QString raw = QString::number(*value);
+  return entry.value.isEmpty() || entry.value == raw
+             ? raw
+             : QStringLiteral("%1 (%2)").arg(entry.value, raw);
 }
 
 /// The outcome of a command as a text.
@@ -126,10 +123,12 @@ QVariant CommandLogModel::data(const QModelIndex& index, int role) const {
       return entry.time.toString(QStringLiteral("HH:mm:ss.zzz"));
     case Projector:
       return entry.projector;
+    case Setting:
+      return entry.setting;
     case Command:
-      return Describe(entry).command;
+      return CommandText(entry.command);
     case Value:
-      return Describe(entry).value;
+      return ValueText(entry);
     case Result:
       return tr(OutcomeOf(entry).text);
     case Duration:
@@ -144,6 +143,11 @@ QVariant CommandLogModel::headerData(int section, Qt::Orientation orientation, i
   return tr(kTitles[static_cast<std::size_t>(section)]);
 }
 
+CommandLogFilter::CommandLogFilter(CommandLogModel& log, QObject* parent)
+    : QSortFilterProxyModel(parent) {
+  setSourceModel(&log);
+}
+
 void CommandLogFilter::ShowChangesOnly(bool only) {
   changesOnly_ = only;
   invalidateFilter();
@@ -151,6 +155,11 @@ void CommandLogFilter::ShowChangesOnly(bool only) {
 
 void CommandLogFilter::ShowErrorsOnly(bool only) {
   errorsOnly_ = only;
+  invalidateFilter();
+}
+
+void CommandLogFilter::ShowProjector(const QString& name) {
+  projector_ = name;
   invalidateFilter();
 }
 
@@ -163,11 +172,14 @@ bool CommandLogFilter::filterAcceptsRow(int row, const QModelIndex& /*parent*/) 
   const auto* log = static_cast<const CommandLogModel*>(sourceModel());
   if (changesOnly_ && !log->IsChange(row)) return false;
   if (errorsOnly_ && !log->IsError(row)) return false;
+  const auto textOf = [&](int column) { return log->index(row, column).data().toString(); };
+  if (!projector_.isEmpty() && textOf(CommandLogModel::Projector) != projector_) return false;
   if (words_.isEmpty()) return true;
   QString text;
-  for (const auto column : {CommandLogModel::Projector, CommandLogModel::Command,
-                            CommandLogModel::Value, CommandLogModel::Result}) {
-    text += log->index(row, column).data().toString() + QLatin1Char('\n');
+  for (const auto column :
+       {CommandLogModel::Projector, CommandLogModel::Setting, CommandLogModel::Command,
+        CommandLogModel::Value, CommandLogModel::Result}) {
+    text += textOf(column) + QLatin1Char('\n');
   }
   return std::ranges::all_of(
       words_, [&text](const QString& word) { return text.contains(word, Qt::CaseInsensitive); });

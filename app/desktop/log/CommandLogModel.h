@@ -17,13 +17,14 @@ class CommandLogModel : public QAbstractTableModel {
   Q_OBJECT
 
  public:
-  enum Column { Time, Projector, Command, Value, Result, Duration, ColumnCount };
+  enum Column { Time, Projector, Setting, Command, Value, Result, Duration, ColumnCount };
   static constexpr std::size_t kMaximumEntries = 20'000;
 
   struct Entry {
     QDateTime time;
     QString projector;
-    QString setting;  ///< Name of a generic command's setting; may be empty.
+    QString setting;  ///< As `SettingNames` calls it; may be empty.
+    QString value;    ///< The same for its value.
     PjtCommand command;
     PjtReply reply;
     std::chrono::microseconds elapsed;
@@ -52,16 +53,19 @@ class CommandLogModel : public QAbstractTableModel {
   std::deque<Entry> entries_;
 };
 
-/// Limits the log to changes, to errors, and to rows that contain a text, if wanted.
+/// Limits the log to changes, to errors, to a projector, and to rows that contain a text, if
+/// wanted.
 class CommandLogFilter : public QSortFilterProxyModel {
   Q_OBJECT
 
  public:
-  using QSortFilterProxyModel::QSortFilterProxyModel;
+  CommandLogFilter(CommandLogModel& log, QObject* parent);
 
   void ShowChangesOnly(bool only);
   void ShowErrorsOnly(bool only);
-  /// Each word of `text` must occur in a row: in the projector's name, the command or the result.
+  /// All of them if `name` is empty.
+  void ShowProjector(const QString& name);
+  /// Each word of `text` must occur in a row.
   void ShowOnly(const QString& text);
 
  protected:
@@ -70,6 +74,7 @@ class CommandLogFilter : public QSortFilterProxyModel {
  private:
   bool changesOnly_ = false;
   bool errorsOnly_ = false;
+  QString projector_;
   QStringList words_;
 };
 

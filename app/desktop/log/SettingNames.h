@@ -1,10 +1,38 @@
 #pragma once
 
-#include <cstdint>
 #include <map>
+#include <memory>
+#include <optional>
 
 #include <QString>
 
-/// Names of the settings behind the generic commands, by command code, in the catalog's language:
-/// the captions of the model's dialog, or the simulation's names for settings without a row.
-std::map<std::uint16_t, QString> SettingNames(int dialogType, int modelCode);
+#include "device/ProjectorChannel.h"
+#include "fleet/FleetProfile.h"
+#include "snapshots/SettingTexts.h"
+
+/// The value that a command sends or that its reply has: as the projector takes it. Nothing for a
+/// command without one.
+std::optional<int> ValueOf(const PjtCommand& command, const PjtReply& reply);
+
+/// Says which setting a command is about, and what its value is called, both as in the dialog and
+/// in the catalog's language.
+class SettingNames {
+ public:
+  struct Meaning {
+    QString setting{};  ///< The simulation's name for a setting without a row; may be empty.
+    QString value{};    ///< Empty if the dialog shows no such value.
+  };
+
+  SettingNames();
+  ~SettingNames();
+
+  /// Models are remembered.
+  Meaning Of(const std::shared_ptr<const ProfileModel>& model, const PjtCommand& command,
+             const PjtReply& reply);
+
+ private:
+  class OfModel;
+
+  const SettingTexts texts_;
+  std::map<std::shared_ptr<const ProfileModel>, std::unique_ptr<OfModel>> models_;
+};

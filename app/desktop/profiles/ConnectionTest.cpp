@@ -8,6 +8,7 @@
 
 #include "app/desktop/projectors/StateTexts.h"
 #include "fleet/Fleet.h"
+#include "fleet/SearchDriver.h"
 
 namespace {
 
@@ -37,35 +38,68 @@ ConnectionTest::~ConnectionTest() = default;
 void ConnectionTest::Clear() {
   looking_.stop();
   fleet_.reset();
+  inquiry_.reset();
   result_->clear();
   button_->setEnabled(true);
 }
 
 void ConnectionTest::Begin() {
-  const ProjectorAddress address = address_();
-  if (std::holds_alternative<AddressError>(address))
+  asked_ = address_();
+  if (std::holds_alternative<AddressError>(asked_))
     return result_->setText(tr("There is nothing to connect to."));
-  if (std::holds_alternative<SerialAddress>(address))
+  if (std::holds_alternative<SerialAddress>(asked_))
     return result_->setText(tr("A serial line is tried when its dialog opens."));
   result_->setText(tr("Asking…"));
   button_->setEnabled(false);
   fleet_ = std::make_unique<Fleet>();
-  fleet_->Set({.id = kId, .address = address});
+  fleet_->Set({.id = kId, .address = asked_});
   looking_.start(kLook);
 }
 
 void ConnectionTest::Look() {
-  ProjectorRow row{.id = kId, .profile = {}};
+  state_ = fleet_->State(kId).value_or(LiveState());
+  if (state_.reachability == Reachability::NeverAsked) return;
+  looking_.stop();
+  fleet_.reset();
+  AskWho();
+}
+
+// Many projectors take one connection at a time, so this comes after the state. Over our own
+// protocol, and at an address that has a name, nobody is asked.
+void ConnectionTest::AskWho() {
+  const auto* pjLink = std::get_if<PjLinkAddress>(&asked_);
+  const QHostAddress address(pjLink == nullptr ? QString() : QString::fromStdString(pjLink->host));
+  if (state_.reachability != Reachability::Answers || address.isNull()) return Show({});
+  // The driver calls both from inside itself, where it must not be deleted.
+  const auto who = std::make_shared<QStringList>();
+  inquiry_ = std::make_unique<SearchDriver>(
+      SearchOptions{.addresses = {address}, .port = pjLink->port, .password = pjLink->password},
+      [who](const FoundProjector& found) {
+        for (const std::string& text : {found.name, found.maker, found.model})
+          if (!text.empty()) *who += QString::fromStdString(text);
+      },
+      [this, who] {
+        QMetaObject::invokeMethod(
+            this,
+            [this, who] {
+              if (inquiry_) Show(*who);
+            },
+            Qt::QueuedConnection);
+      });
+  inquiry_->Start();
+}
+
+void ConnectionTest::Show(const QStringList& who) {
+  ProjectorRow row{.id = kId, .profile = {}, .state = state_};
   row.isWatched = true;
-  row.state = fleet_->State(kId).value_or(LiveState());
-  if (row.state.reachability == Reachability::NeverAsked) return;
-  QStringList parts{StateTexts::State(row)};
-  for (const QString& part : {StateTexts::Power(row.state), StateTexts::Source(row.state),
-                              StateTexts::LampHours(row.state), StateTexts::Problems(row.state)}) {
+  QStringList parts = who;
+  for (const QString& part :
+       {StateTexts::State(row), StateTexts::Power(state_), StateTexts::Source(state_),
+        StateTexts::LampHours(state_), StateTexts::Problems(state_)}) {
     if (!part.isEmpty()) parts += part;
   }
   Clear();
-  const bool answers = row.state.reachability == Reachability::Answers;
+  const bool answers = state_.reachability == Reachability::Answers;
   result_->setText(answers ? tr("A projector answers: %1").arg(parts.join(QStringLiteral(" · ")))
                            : parts.first());
 }

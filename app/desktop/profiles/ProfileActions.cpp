@@ -8,7 +8,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 
-#include "app/desktop/MakeAction.h"
+#include "app/desktop/profiles/MakeAction.h"
 #include "app/desktop/profiles/ProfileDocument.h"
 #include "app/desktop/profiles/ProfileEditor.h"
 #include "app/desktop/profiles/ProfileFileActions.h"

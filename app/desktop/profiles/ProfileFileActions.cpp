@@ -7,8 +7,8 @@
 #include <QPushButton>
 #include <QWidget>
 
-#include "app/desktop/MakeAction.h"
 #include "app/desktop/Modal.h"
+#include "app/desktop/profiles/MakeAction.h"
 #include "app/desktop/profiles/ProfileDocument.h"
 #include "app/desktop/profiles/ProfileHistory.h"
 #include "toolkit/Icons.h"

@@ -23,6 +23,9 @@ FleetWatch::FleetWatch(const FleetPolicy& policy, QObject* parent)
     : QObject(parent), fleet_(std::make_unique<Fleet>(policy, [this] {
         QMetaObject::invokeMethod(this, &FleetWatch::TakeChanges, Qt::QueuedConnection);
       })) {
+  // With the event loop, so that the window is painted first.
+  fleet_->SetAsking(false);
+  QTimer::singleShot(0, this, [this] { fleet_->SetAsking(true); });
   connect(&tending_, &QTimer::timeout, this, &FleetWatch::Tend);
   tending_.start(kTending);
 }
@@ -56,7 +59,7 @@ void FleetWatch::SetServed(const std::string& id, const Served& served) {
   Watch(profile->second);
 }
 
-// PJLink tells more of a state than our wire: warming up, and how grave a problem is.
+// PJLink reports more than our own protocol: warming up, and how serious a problem is.
 void FleetWatch::Watch(const FleetProfile& profile) {
   FleetTarget target = AdvancedControl::TargetOf(profile);
   if (IsSimulated(profile)) {
@@ -117,7 +120,7 @@ void FleetWatch::TakeChanges() {
 
 void FleetWatch::Tend() {
   std::erase_if(uses_, [](const auto& use) { return Clock::now() > use.second.until; });
-  // What switches will soon be done.
+  // Warming up and cooling down do not take long.
   for (const auto& [id, state] : fleet_->States()) {
     if (state.power == PowerState::WarmingUp || state.power == PowerState::CoolingDown)
       fleet_->AskSoon(id);

@@ -37,6 +37,9 @@ class FleetWatch : public QObject {
   void SetServed(const std::string& id, const Served& served);
   bool IsWatched(const std::string& id) const { return watched_.contains(id); }
 
+  /// Between two visits to a projector, from now on.
+  void SetInterval(std::chrono::seconds interval) { fleet_->SetInterval(interval); }
+
   /// For a job. The address of one that cannot be reached is an error.
   FleetTarget TargetOf(const FleetProfile& profile) const;
 
@@ -44,14 +47,15 @@ class FleetWatch : public QObject {
   void LeaveToDialog(const std::string& id);
   /// The dialog is closed.
   void TakeBack(const std::string& id);
-  /// Takes over what a command of a dialog or of other work told, and leaves the connection to it.
+  /// Updates the state with the reply to a command of a dialog or of other work, and leaves the
+  /// connection to that work for a while.
   void Learn(const std::string& id, const PjtCommand& command, const PjtReply& reply,
              std::optional<PowerState> power);
 
   Fleet& Projectors() { return *fleet_; }
 
  Q_SIGNALS:
-  /// There is news of these.
+  /// What is known of these projectors has changed.
   void Changed(const std::vector<std::string>& ids);
 
  private:

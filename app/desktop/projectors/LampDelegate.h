@@ -9,7 +9,7 @@ class LampDelegate : public IsolatedTexts {
  public:
   using IsolatedTexts::IsolatedTexts;
 
-  /// Of the bar of a lamp that has burned `share` of its rated hours, 1 being all of them.
+  /// The color of the bar when the lamp has burned `share` of its rated hours, 1 being all of them.
   static QColor Color(double share);
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option,

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "app/desktop/presets/PresetFolder.h"
+#include "app/profiles/PresetFolder.h"
 #include "app/profiles/ProjectorAccess.h"
 #include "host/CAdvanceDlg.h"
 

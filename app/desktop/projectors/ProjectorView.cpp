@@ -77,8 +77,9 @@ ProjectorView::ProjectorView(QWidget* parent)
     if (!table_->currentIndex().isValid()) SelectOnly(model_->index(0, 0));
     Q_EMIT Activated();
   });
-  // Emitted for a double-click and Enter.
-  connect(table_, &QTableView::activated, this, &ProjectorView::Activated);
+  // Not the signal `activated`, which some desktops emit for a single click.
+  table_->installEventFilter(this);
+  connect(table_, &QTableView::doubleClicked, this, &ProjectorView::Activated);
   connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
           &ProjectorView::SelectionChanged);
   connect(table_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
@@ -227,10 +228,18 @@ void ProjectorView::FocusSearch() {
 
 void ProjectorView::FocusTable() { table_->setFocus(); }
 
-// Keys that lead from the search box into the list, and that clear the search.
+// Keys that open dialogs from the list, lead from the search box into the list, and clear the
+// search.
 bool ProjectorView::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::KeyPress) {
-    const int key = static_cast<QKeyEvent*>(event)->key();
+    const auto* press = static_cast<QKeyEvent*>(event);
+    const int key = press->key();
+    if (watched == table_) {
+      const bool isEnter = key == Qt::Key_Return || key == Qt::Key_Enter;
+      if (!isEnter || (press->modifiers() & ~Qt::KeypadModifier) != 0) return false;
+      Q_EMIT Activated();
+      return true;
+    }
     if (key == Qt::Key_Down) {
       FocusTable();
       return true;

@@ -9,7 +9,7 @@
 #include "app/desktop/projectors/ProjectorRow.h"
 #include "fleet/StateChange.h"
 
-/// Says in words how a projector is, in the program's language. A text is empty where nothing is
+/// The state of a projector in words, in the program's language. A text is empty if nothing is
 /// known.
 class StateTexts {
   Q_DECLARE_TR_FUNCTIONS(StateTexts)
@@ -36,6 +36,6 @@ class StateTexts {
   static QString Change(const StateChange& change);
   static QString Part(ProjectorPart part);
 
-  /// A sign of a shape and a color of its own, so that neither is needed to tell them apart.
+  /// An icon with its own shape and color: either is enough to tell them apart.
   static QIcon Icon(Health health);
 };

@@ -13,7 +13,7 @@ WorkActions::WorkActions(WorkDialog::NameOf nameOf, FleetWatch& watch, QWidget& 
       texts_(CatalogFolders(), SystemLanguageId()) {}
 
 // Jobs that run use the fleet, which ends after this object.
-WorkActions::~WorkActions() { qDeleteAll(window_.findChildren<WorkDialog*>()); }
+WorkActions::~WorkActions() { qDeleteAll(window_.findChildren<WorkRun*>()); }
 
 void WorkActions::Do(WorkPlan plan, const Then& then) {
   std::size_t count = plan.missing.size();

@@ -13,7 +13,7 @@ class QProgressBar;
 class QPushButton;
 class QTreeWidget;
 
-/// Names the projectors and asks once, then shows how far the work is and what came of each.
+/// Names the projectors and asks once, then shows the progress and the result of each.
 class WorkDialog : public QDialog {
   Q_OBJECT
 
@@ -24,7 +24,7 @@ class WorkDialog : public QDialog {
   WorkDialog(WorkRun* run, const NameOf& nameOf, QWidget* parent);
 
   WorkRun& Run() const { return *run_; }
-  /// Without the question.
+  /// Begins without the question.
   void Begin();
 
   void reject() override;

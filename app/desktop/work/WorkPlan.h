@@ -14,10 +14,10 @@ struct WorkPart {
   std::vector<FleetTarget> targets;
 };
 
-/// What is to be done to projectors, and how a person calls it.
+/// Work for a number of projectors, as it is presented to the user.
 struct WorkPlan {
   QString title;     ///< "Switch Off"
-  QString question;  ///< "Switch off these 12 projectors?"
+  QString question;  ///< "Switch off 12 projectors?"; empty if it begins without one.
   std::vector<WorkPart> parts;
   std::vector<std::string> missing{};  ///< Identities of those that cannot do it.
 };

@@ -21,6 +21,7 @@ constexpr std::chrono::milliseconds kLook{100};
     QT_TRANSLATE_NOOP("FleetWork", "there is no snapshot for it"),
     QT_TRANSLATE_NOOP("FleetWork", "not confirmed, it may have changed"),
     QT_TRANSLATE_NOOP("FleetWork", "not all of it could be sent"),
+    QT_TRANSLATE_NOOP("FleetWork", "the projector reports none of its settings now"),
     QT_TRANSLATE_NOOP("FleetWork", "no answer"),
     QT_TRANSLATE_NOOP("FleetWork", "not reachable"),
     QT_TRANSLATE_NOOP("FleetWork", "not connected"),
@@ -128,6 +129,10 @@ void WorkRun::Collect(const Job& job) {
     WorkLine& line = lines_[places_.at(id)];
     line.outcome = results[i].outcome;
     line.reason = results[i].reason.empty() ? QString() : Translated(results[i].reason);
+    if (!results[i].setting.empty())
+      line.reason = tr("%1: %2").arg(QString::fromStdString(results[i].setting), line.reason);
+    line.unread = results[i].unread;
+    line.differences = results[i].differences;
     if (results[i].snapshot)
       taken_.try_emplace(id, std::make_shared<const Snapshot>(*results[i].snapshot));
   }
@@ -189,7 +194,8 @@ QString WorkRun::TextOf(const WorkLine& line) {
     case WorkOutcome::Working:
       return tr("working…");
     case WorkOutcome::Done:
-      return tr("done");
+      return line.unread == 0 ? tr("done")
+                              : tr("done, %n settings could not be read", nullptr, line.unread);
     case WorkOutcome::Pending:
       return tr("accepted, still under way");
     case WorkOutcome::Refused:

@@ -15,11 +15,13 @@
 
 class FleetWatch;
 
-/// What came of the work on one projector.
+/// The result of the work on one projector.
 struct WorkLine {
   std::string id;
   WorkOutcome outcome = WorkOutcome::Waiting;
   QString reason{};
+  int unread = 0;  ///< Settings that are missing in the snapshot that was taken.
+  std::shared_ptr<const std::vector<SettingDifference>> differences{};  ///< Of a comparison.
 
   bool HasFailed() const {
     return outcome == WorkOutcome::Refused || outcome == WorkOutcome::NoAnswer ||
@@ -27,7 +29,7 @@ struct WorkLine {
   }
 };
 
-/// Carries out a plan with jobs of the fleet, again on those that failed, and knows what undoes it.
+/// Carries out a plan with jobs of the fleet, repeats it on those that failed, and can undo it.
 class WorkRun : public QObject {
   Q_OBJECT
 
@@ -49,8 +51,10 @@ class WorkRun : public QObject {
   QString Summary() const;
   /// The snapshots that were taken.
   const SnapshotsById& Taken() const { return taken_; }
+  /// What the projectors had before their settings were changed.
+  const SnapshotsById& Undo() const { return undo_; }
 
-  /// What undoes all that has been done; nothing while that is nothing.
+  /// The plan that undoes all that was done; nothing if nothing was.
   std::optional<WorkPlan> UndoPlan() const;
 
   static QString TextOf(const WorkLine& line);

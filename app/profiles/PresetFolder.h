@@ -14,8 +14,13 @@ namespace PresetFolder {
 QString Path();
 /// The names of all presets, sorted.
 QStringList Names();
+/// Whether a preset can be called so.
+bool IsName(const QString& name);
 /// The file of a preset, whether or not it exists.
 QString FileOf(const QString& name);
+/// The path that a person means by `text`, which may be "-": that of the preset of this name, if
+/// there is one and no file or folder of that name; else `text` itself.
+QString FileMeantBy(const QString& text);
 
 struct Contents {
   std::shared_ptr<const Snapshot> snapshot;  ///< Null after an error.

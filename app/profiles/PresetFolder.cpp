@@ -1,7 +1,10 @@
-#include "app/desktop/presets/PresetFolder.h"
+#include "app/profiles/PresetFolder.h"
+
+#include <algorithm>
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 #include "app/profiles/SettingsFile.h"
@@ -22,8 +25,22 @@ QStringList Names() {
   return names;
 }
 
+// Files whose names begin with a dot are hidden, and most file systems take 255 bytes.
+bool IsName(const QString& name) {
+  constexpr qsizetype kMostBytes = 200;
+  return !name.isEmpty() && name == name.trimmed() && !name.startsWith(QLatin1Char('.')) &&
+         !name.contains(QLatin1Char('/')) && name.toUtf8().size() <= kMostBytes &&
+         std::ranges::all_of(name, [](QChar one) { return one.isPrint(); });
+}
+
 QString FileOf(const QString& name) {
   return Path() + QLatin1Char('/') + name + QStringLiteral(".json");
+}
+
+QString FileMeantBy(const QString& text) {
+  const bool isOther = text == QLatin1String("-") || QFileInfo::exists(text) || !IsName(text);
+  const bool isPreset = !isOther && QFileInfo::exists(FileOf(text));
+  return isPreset ? FileOf(text) : text;
 }
 
 Contents Read(const QString& name) {

@@ -1,0 +1,65 @@
+#include "app/desktop/DriftCheck.h"
+
+#include <map>
+#include <utility>
+
+#include <QWidget>
+
+#include "app/desktop/profiles/ProfileDocument.h"
+#include "app/desktop/projectors/FleetWatch.h"
+#include "app/desktop/work/WorkRun.h"
+#include "app/profiles/PresetFolder.h"
+
+namespace {
+
+constexpr std::chrono::minutes kFirst{1};
+constexpr std::chrono::hours kEvery{1};
+
+}  // namespace
+
+DriftCheck::DriftCheck(const ProfileDocument& document, FleetWatch& watch,
+                       const SettingTexts& texts, QWidget& window)
+    : QObject(&window), document_(document), watch_(watch), texts_(texts), window_(window) {
+  connect(&timer_, &QTimer::timeout, this, [this] {
+    timer_.setInterval(kEvery);
+    CheckAll();
+  });
+  timer_.start(kFirst);
+}
+
+void DriftCheck::CheckAll() {
+  std::set<std::string> all;
+  for (const FleetProfile& profile : document_.Projectors()) all.insert(FleetIdOf(profile));
+  Check(all);
+}
+
+void DriftCheck::CheckAfter(const WorkRun& run) {
+  std::set<std::string> ids;
+  for (const WorkLine& line : run.Lines()) ids.insert(line.id);
+  Check(ids);
+}
+
+// A preset that cannot be read counts as none; who uses it is told why.
+void DriftCheck::Check(const std::set<std::string>& ids) {
+  std::map<std::string, std::shared_ptr<const Snapshot>> presets;
+  CompareSnapshots compare;
+  WorkPart part;
+  for (const FleetProfile& profile : document_.Projectors()) {
+    const std::string id = FleetIdOf(profile);
+    if (profile.snapshot.empty() || !ids.contains(id)) continue;
+    const auto state = watch_.Projectors().State(id);
+    if (state && state->power == PowerState::Standby) continue;  // it has nothing to say now
+    const auto [preset, isNew] = presets.try_emplace(profile.snapshot);
+    if (isNew)
+      preset->second = PresetFolder::Read(QString::fromStdString(profile.snapshot)).snapshot;
+    if (!preset->second) continue;
+    compare.snapshots[id] = preset->second;
+    part.targets.push_back(watch_.TargetOf(profile));
+  }
+  if (part.targets.empty()) return;
+  part.work = std::move(compare);
+  auto* run = new WorkRun(watch_, texts_, {.title = {}, .question = {}, .parts = {std::move(part)}},
+                          &window_);
+  connect(run, &WorkRun::Finished, run, &QObject::deleteLater);
+  run->Start();
+}

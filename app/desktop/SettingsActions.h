@@ -1,0 +1,71 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+#include <QObject>
+
+#include "app/desktop/projectors/ProjectorRow.h"
+
+class DriftCheck;
+class FleetWatch;
+class QAction;
+class QWidget;
+class WorkActions;
+class WorkRun;
+
+/// Menu actions that save the settings of projectors in files, compare them with a file, and
+/// restore them from a file: several projectors at once, as the other work on the selection. Asks
+/// for files, and reports errors.
+class SettingsActions : public QObject {
+  Q_OBJECT
+
+ public:
+  using Rows = std::vector<const ProjectorRow*>;
+
+  struct Parts {
+    std::function<Rows()> selected;
+    FleetWatch& watch;
+    WorkActions& work;
+    DriftCheck& drift;
+    QWidget& window;
+  };
+
+  /// The window owns it, and it must not outlive the others.
+  explicit SettingsActions(Parts parts);
+
+  QAction* Save() const { return save_; }
+  QAction* Compare() const { return compare_; }
+  QAction* Apply() const { return apply_; }
+
+  /// Enables the actions if projectors are selected.
+  void Update(bool any);
+
+  /// Saves the settings of each selected projector: those of a single one in the file `path`, those
+  /// of several in new files in the folder `path`, named after the projectors.
+  void SaveTo(const QString& path);
+  /// Compares the selected projectors with a file; `applies` lets the user send what differs. What
+  /// is replaced is kept in a file beside it.
+  void OpenFile(const QString& path, bool applies);
+
+ private:
+  /// What is being saved where.
+  struct Saving {
+    QString path;
+    std::map<std::string, std::string> names{};  ///< Of the projectors by identity.
+    std::set<std::string> saved{};               ///< Identities.
+  };
+
+  void AskWhereToSave();
+  void AskForSettings(bool applies);
+  void Write(Saving& saving, const WorkRun& run);
+  void KeepUndo(const QString& path, const WorkRun& run);
+
+  const Parts parts_;
+  QAction* save_;
+  QAction* compare_;
+  QAction* apply_;
+};

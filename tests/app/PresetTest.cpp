@@ -1,0 +1,139 @@
+// Presets: made from a projector, put on others, and what projectors should be like.
+
+#include <gmock/gmock.h>
+
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include "app/desktop/alerts/AlertList.h"
+#include "app/desktop/presets/PresetDialog.h"
+#include "app/profiles/PresetFolder.h"
+#include "tests/app/Work.h"
+
+namespace {
+
+/// The window with the shipped projectors, and a folder for presets of its own.
+class PresetTest : public testing::Test {
+ protected:
+  PresetTest() {
+    qputenv("XDG_DATA_HOME", folder.path().toUtf8());
+    window.emplace(Shipped(folder));
+    window->show();
+    a = Position("Projector 5-30");
+    b = Position("Projector 4-24");
+    EXPECT_TRUE(Soon([&] { return Row(a).state.power && Row(b).state.power; }));
+    for (const std::size_t one : {a, b})
+      window->Session(one)->Simulator().SetValue(SettingId::Power, 1);
+  }
+  ~PresetTest() override { qunsetenv("XDG_DATA_HOME"); }
+
+  std::size_t Position(const char* name) const {
+    return static_cast<std::size_t>(
+        std::ranges::find(Rows(*window), name,
+                          [](const ProjectorRow& row) { return row.profile.name; }) -
+        Rows(*window).begin());
+  }
+  const ProjectorRow& Row(std::size_t position) const { return Rows(*window)[position]; }
+
+  void Select(const std::vector<std::size_t>& positions) {
+    auto& view = *window->findChild<ProjectorView*>();
+    view.Select(static_cast<int>(positions.front()));
+    for (const std::size_t position : positions) {
+      Table(*window).selectionModel()->select(
+          view.Model().IndexOf(static_cast<int>(position)),
+          QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    }
+  }
+
+  /// Chooses an entry of the menu; `in` names a menu within it.
+  void Choose(const QString& entry, const QString& in = {}) {
+    QMenu* menu = Find<QAction>(*window, "Presets").menu();
+    Q_EMIT menu->aboutToShow();
+    for (QMenu* inner : menu->findChildren<QMenu*>()) {
+      if (inner->title().remove('&') == in) menu = inner;
+    }
+    for (QAction* action : menu->actions()) {
+      if (action->text().remove('&').remove(u'…') == entry) return action->trigger();
+    }
+    ADD_FAILURE() << "no " << entry.toStdString();
+  }
+
+  const QTemporaryDir folder;
+  std::optional<MainWindow> window;
+  std::size_t a = 0, b = 0;
+};
+
+TEST_F(PresetTest, APageOfAProjectorIsSavedAndPutOnOthers) {
+  Select({a});
+  window->Session(a)->Simulator().SetValue(SettingId::Brightness, 120);
+  Choose("Save as Preset");
+  ASSERT_TRUE(Soon([&] { return window->findChild<PresetDialog*>() != nullptr; }));
+  auto& dialog = *window->findChild<PresetDialog*>();
+  auto& tree = *dialog.findChild<QTreeWidget*>();
+  auto& save = Find<QPushButton>(dialog, "Save");
+  EXPECT_THAT(Lines(tree), testing::Contains("  Brightness|-8"));
+  const auto type = [&](const char* name) {
+    dialog.findChild<QLineEdit*>()->clear();
+    QTest::keyClicks(dialog.findChild<QLineEdit*>(), name);
+    return save.isEnabled();
+  };
+  EXPECT_FALSE(save.isEnabled()) << "without a name";
+  EXPECT_TRUE(type("Dark"));
+  EXPECT_FALSE(type("../Dark") || type(".Dark"));
+  Find<QPushButton>(dialog, "None").click();
+  EXPECT_FALSE(type("Dark")) << "nothing is checked";
+  tree.setCurrentItem(tree.findItems("Brightness", Qt::MatchRecursive).value(0));
+  Find<QPushButton>(dialog, "This Page").click();
+  ASSERT_TRUE(save.isEnabled());
+  save.click();
+  EXPECT_EQ(window->statusBar()->currentMessage(), "Saved as the preset Dark");
+  const auto preset = PresetFolder::Read("Dark").snapshot;
+  ASSERT_NE(preset, nullptr);
+  EXPECT_EQ(preset->projector, "Projector 5-30");
+  EXPECT_GT(preset->settings.size(), 5U);
+  for (const SavedSetting& saved : preset->settings)
+    EXPECT_TRUE(saved.key.starts_with("picture.")) << saved.key;
+
+  window->Session(a)->Simulator().SetValue(SettingId::Brightness, 128);
+  Select({a, b});
+  Choose("Dark");
+  auto* preview = window->findChild<ComparisonDialog*>();
+  ASSERT_NE(preview, nullptr);
+  ASSERT_TRUE(HasCompared(*preview));
+  const QStringList lines = Lines(*preview->findChild<QTreeWidget*>());
+  EXPECT_THAT(lines, testing::Contains("  Picture: Brightness|0|-8"));
+  EXPECT_EQ(lines.filter("do not apply to this model").size(), 1) << "on the other model";
+  EXPECT_EQ(lines.filter("picture.").size(), 0) << "keys are for programs";
+  Find<QPushButton>(*preview, "Apply").click();
+  EXPECT_TRUE(
+      Soon([&] { return window->Session(a)->Simulator().Value(SettingId::Brightness) == 120; }));
+}
+
+TEST_F(PresetTest, WhatIsNotAsItShouldBeIsToldAndPutBack) {
+  Snapshot day = EmptySnapshot("any", Row(a).profile.model->data);
+  day.settings = {{.key = "picture.brightness", .value = 140, .text = {}},
+                  {.key = "main.contrast", .value = 130, .text = {}}};  // of other models
+  ASSERT_EQ(PresetFolder::Write("day", day), "");
+  Select({a});
+  Choose("day", "Should Be Like");
+  EXPECT_TRUE(Soon([&] { return Row(a).state.drift == 1; }));
+  const auto& alerts = *window->findChild<AlertList*>();
+  const auto hasAlert = [&] {
+    return std::ranges::any_of(alerts.Open(), [&](const Alert& alert) {
+      return alert.kind == Alert::Kind::Drift && alert.id == Row(a).id;
+    });
+  };
+  EXPECT_TRUE(Soon(hasAlert));
+  Choose("Put Back What It Should Be");
+  EXPECT_TRUE(Soon([&] { return Row(a).state.drift == 0; }));
+  EXPECT_EQ(window->Session(a)->Simulator().Value(SettingId::Brightness), 140);
+  EXPECT_TRUE(Soon([&] { return !hasAlert(); }));
+}
+
+}  // namespace

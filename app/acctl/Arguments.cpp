@@ -19,29 +19,13 @@ struct GivenWords {
   std::string error;
 };
 
-Arguments Wrong(Arguments arguments, std::string error) {
-  arguments.error = std::move(error);
-  return arguments;
-}
-
-/// Whether JSON is wanted, for errors before the options are taken.
-bool WantsJson(const std::vector<std::string>& words) {
-  for (std::size_t i = 0; i < words.size(); ++i) {
-    const bool isFormat = i > 0 && (words[i - 1] == "-o" || words[i - 1] == "--format");
-    if (words[i] == "--json" || words[i] == "--format=json" || (isFormat && words[i] == "json")) {
-      return true;
-    }
-  }
-  return false;
-}
-
 // "--name", "--name value", "--name=value", "-o value". Words after "--" are never options, and
-// any other single minus begins a value.
+// any other single minus begins a value. After an error it goes on, as the form of the output may
+// follow.
 GivenWords Separate(const std::vector<std::string>& words) {
   GivenWords given;
   const auto fail = [&given](std::string error) {
-    given.error = std::move(error);
-    return given;
+    if (given.error.empty()) given.error = std::move(error);
   };
   for (auto word = words.begin(); word != words.end(); ++word) {
     if (*word == "--") {
@@ -61,11 +45,19 @@ GivenWords Separate(const std::vector<std::string>& words) {
       name.resize(equals);
     }
     const OptionForm* const option = FindOption(name);
-    if (option == nullptr) return fail("there is no option --" + name);
-    if (option->value.empty() && value) return fail("--" + name + " takes no value");
+    if (option == nullptr) {
+      fail("there is no option --" + name);
+      continue;
+    }
+    if (option->value.empty() && value) {
+      fail("--" + name + " takes no value");
+      continue;
+    }
     if (!option->value.empty() && !value) {
-      if (word + 1 == words.end())
-        return fail("--" + name + " needs " + std::string(option->value));
+      if (word + 1 == words.end()) {
+        fail("--" + name + " needs " + std::string(option->value));
+        break;
+      }
       value = *++word;
     }
     given.options.push_back({option, value.value_or(std::string()), isShort});
@@ -73,13 +65,29 @@ GivenWords Separate(const std::vector<std::string>& words) {
   return given;
 }
 
+/// -o is the folder of `save`, and the form of the output of any other command.
+bool IsFolder(const GivenOption& option, Command command) {
+  return option.isShort && option.form->name == "format" && command == Command::Save;
+}
+
+/// The form of the output that is asked for, whatever else is wrong; nothing without one.
+std::optional<Format> AskedFormat(const GivenWords& given, Command command) {
+  std::optional<Format> asked;
+  for (const GivenOption& option : given.options) {
+    const bool isFormat = option.form->name == "format" || option.form->name == "json";
+    Arguments taken;
+    if (!isFormat || IsFolder(option, command)) continue;
+    if (option.form->take(taken, option.value)) asked = taken.format;
+  }
+  return asked;
+}
+
 std::string TakeOptions(const GivenWords& given, const CommandForm& form, Arguments& arguments) {
-  for (const auto& [given_, value, isShort] : given.options) {
-    const bool isFolder = isShort && given_->name == "format" && form.command == Command::Save;
-    const OptionForm& option = isFolder ? *FindOption("folder") : *given_;
+  for (const GivenOption& one : given.options) {
+    const OptionForm& option = IsFolder(one, form.command) ? *FindOption("folder") : *one.form;
     const std::string name = "--" + std::string(option.name);
     if (!option.IsOf(form.command)) return std::string(form.name) + " takes no " + name;
-    if (!option.take(arguments, value)) return name + ": '" + value + "' is not possible";
+    if (!option.take(arguments, one.value)) return name + ": '" + one.value + "' is not possible";
   }
   return {};
 }
@@ -180,9 +188,9 @@ bool NeedsFile(Command command) {
 Arguments ParseArguments(const std::vector<std::string>& words) {
   Arguments arguments;
   TakeOwnSettings(arguments);
-  if (!arguments.error.empty()) return arguments;
   // The words of `complete` are those of another command, which may be incomplete.
-  if (!words.empty() && words.front() == FormOf(Command::Complete).name) {
+  const bool completes = !words.empty() && words.front() == FormOf(Command::Complete).name;
+  if (completes && arguments.error.empty()) {
     arguments.command = Command::Complete;
     arguments.words.assign(words.begin() + 1, words.end());
     const auto option = std::ranges::find(words, "--profiles");
@@ -190,38 +198,38 @@ Arguments ParseArguments(const std::vector<std::string>& words) {
     return arguments;
   }
   GivenWords given = Separate(words);
+  const CommandForm* const form = given.words.empty() ? nullptr : FindCommand(given.words.front());
+  if (form != nullptr) arguments.command = form->command;
+  const auto asked = AskedFormat(given, arguments.command);
   const Format usual = arguments.format;
-  if (WantsJson(words)) arguments.format = Format::Json;
-  if (!given.error.empty()) return Wrong(std::move(arguments), std::move(given.error));
+  const auto wrong = [&](std::string error) {
+    arguments.format = asked.value_or(usual);
+    arguments.error = std::move(error);
+    return arguments;
+  };
+  if (!arguments.error.empty()) return wrong(arguments.error);
+  if (!given.error.empty()) return wrong(given.error);
   if (IsAsked(given, "version")) {
     arguments.command = Command::Version;
     return arguments;
   }
   const bool wantsHelp = IsAsked(given, "help");
   if (given.words.empty()) {
-    if (wantsHelp) return arguments;
-    return Wrong(std::move(arguments), "a command is missing; --help lists them");
+    return wantsHelp ? arguments : wrong("a command is missing; --help lists them");
   }
-  const CommandForm* const form = FindCommand(given.words.front());
   if (form == nullptr) {
-    return Wrong(std::move(arguments),
-                 "there is no command '" + given.words.front() + "'; --help lists them");
+    return wrong("there is no command '" + given.words.front() + "'; --help lists them");
   }
   if (wantsHelp) {
     arguments.topic = form->command;
+    arguments.command = Command::Help;
     return arguments;
   }
-  arguments.command = form->command;
-  arguments.format = Format::Text;
   std::string error = TakeOptions(given, *form, arguments);
-  if (!error.empty()) return Wrong(std::move(arguments), std::move(error));
-  const bool isGiven = IsAsked(given, "format") || IsAsked(given, "json");
-  if (!isGiven) arguments.format = usual;
+  if (!error.empty()) return wrong(std::move(error));
   const bool isOfValues = arguments.format == Format::Tsv || arguments.format == Format::Value;
   if (isOfValues && !HasValues(form->command)) {
-    if (isGiven) {
-      return Wrong(std::move(arguments), std::string(form->name) + " has no such --format");
-    }
+    if (asked) return wrong(std::string(form->name) + " has no such --format");
     arguments.format = Format::Text;
   }
   given.words.erase(given.words.begin());
@@ -229,13 +237,10 @@ Arguments ParseArguments(const std::vector<std::string>& words) {
   const bool isRight = count >= form->least && count <= form->most;
   if (isRight) Distribute(std::move(given.words), form->words, arguments);
   if (!isRight || !TakeSpecialWords(arguments)) {
-    return Wrong(std::move(arguments),
-                 "use: acctl " + std::string(form->name) + ' ' + std::string(form->usage));
+    return wrong("use: acctl " + std::string(form->name) + ' ' + std::string(form->usage));
   }
   const bool needsFile = NeedsFile(form->command) && arguments.folder.empty();
-  if (needsFile && arguments.file.empty()) {
-    return Wrong(std::move(arguments), "the name of the file is empty");
-  }
+  if (needsFile && arguments.file.empty()) return wrong("the name of the file is empty");
   return arguments;
 }
 

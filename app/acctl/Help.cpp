@@ -41,6 +41,7 @@ constexpr Named kFiles[] = {
     {"~/.config/advanced-control/acctl.conf", "Defaults, one a line, such as 'jobs = 32'."},
     {"~/.local/state/advanced-control/undo", "What 'acctl undo' restores."},
     {"~/.cache/advanced-control/locks", "Locks, so that runs for one projector wait for each other."},
+    {"$XDG_RUNTIME_DIR/advanced-control", "Where running simulators serve simulated projectors."},
 };
 // clang-format on
 

@@ -46,7 +46,7 @@ std::string CheckOnly(const Arguments& arguments, SettingsFileContents& contents
 
 std::string LoadFolder(const Arguments& arguments, Projectors& projectors,
                        const std::vector<FleetProfile>& profiles, SettingsFiles& files,
-                       std::vector<std::string>& left) {
+                       std::vector<Problem>& left) {
   const QDir folder(Wide(arguments.file));
   for (const QString& name : folder.entryList({"*.json"}, QDir::Files, QDir::Name)) {
     SettingsFileContents contents = ReadSettingsFile(folder.filePath(name));
@@ -54,7 +54,8 @@ std::string LoadFolder(const Arguments& arguments, Projectors& projectors,
     const std::string projector = contents.snapshot.projector;
     const std::string path = contents.name.toStdString();
     if (FindProfile(profiles, projector) == nullptr) {
-      left.push_back(path + ": there is no projector '" + projector + "'");
+      left.push_back(
+          {ProblemCode::NoSuchProjector, path + ": there is no projector '" + projector + "'"});
       continue;
     }
     if (!arguments.only.empty()) contents.snapshot.beforehand.clear();
@@ -65,7 +66,8 @@ std::string LoadFolder(const Arguments& arguments, Projectors& projectors,
   std::erase_if(projectors, [&](const FleetProfile* profile) {
     const bool isMissing = !files.own.contains(profile->name);
     if (isMissing && !arguments.projectors.empty()) {
-      left.push_back(profile->name + ": there is no file of it in " + arguments.file);
+      left.push_back(
+          {ProblemCode::File, profile->name + ": there is no file of it in " + arguments.file});
     }
     return isMissing;
   });
@@ -99,7 +101,7 @@ std::string PathIn(const QDir& folder, const std::string& projector,
 
 std::string LoadSettingsFiles(const Arguments& arguments, Projectors& projectors,
                               const std::vector<FleetProfile>& profiles, SettingsFiles& files,
-                              std::vector<std::string>& left) {
+                              std::vector<Problem>& left) {
   if (QFileInfo(Wide(arguments.file)).isDir()) {
     return LoadFolder(arguments, projectors, profiles, files, left);
   }
@@ -165,7 +167,7 @@ std::string ChooseRun(const Arguments& arguments, RecordedRun& run) {
 }
 
 void TakeRun(const RecordedRun& run, const std::vector<FleetProfile>& profiles,
-             Projectors& projectors, SettingsFiles& files, std::vector<std::string>& left) {
+             Projectors& projectors, SettingsFiles& files, std::vector<Problem>& left) {
   std::set<std::string> known;
   for (const FleetProfile& profile : profiles) {
     const auto found = run.undo.find(FleetIdOf(profile));
@@ -175,7 +177,8 @@ void TakeRun(const RecordedRun& run, const std::vector<FleetProfile>& profiles,
     files.own[profile.name] = {.snapshot = *found->second, .name = run.path};
   }
   for (const auto& [id, snapshot] : run.undo) {
-    if (!known.contains(id))
-      left.push_back(snapshot->projector + ": is no longer in the profile file");
+    if (known.contains(id)) continue;
+    left.push_back(
+        {ProblemCode::NoSuchProjector, snapshot->projector + ": is no longer in the profile file"});
   }
 }

@@ -24,13 +24,13 @@ TEST(DriftCheck, TellsHowManySettingsDiffer) {
                         .snapshot = "good"};
   };
   int changes = 0;
-  BridgeFleet fleet(
-      {profile("Hall", ProjectorLink::Network), profile("No", ProjectorLink::Simulated)}, {}, {},
-      [&](std::size_t) { ++changes; });
-  ASSERT_EQ(fleet.Count(), 1U) << "without what is simulated";
-  EXPECT_EQ(fleet.FindName("Hall"), 0U);
-  EXPECT_FALSE(fleet.FindName("No"));
-  EXPECT_EQ(fleet.Find(fleet.Id(0)), 0U);
+  const ShareProfiles projectors(
+      {profile("Hall", ProjectorLink::Network), profile("No", ProjectorLink::Simulated)}, {});
+  BridgeFleet fleet(projectors, {}, [&](std::size_t) { ++changes; });
+  ASSERT_EQ(projectors.Count(), 1U) << "without what is simulated";
+  EXPECT_EQ(projectors.FindName("Hall"), 0U);
+  EXPECT_FALSE(projectors.FindName("No"));
+  EXPECT_EQ(projectors.Find(projectors.Id(0)), 0U);
 
   const QTemporaryDir folder;
   Snapshot snapshot = EmptySnapshot("Hall", model->data);

@@ -2,8 +2,11 @@
 
 #include <algorithm>
 
+#include "app/acctl/Message.h"
 #include "app/acctl/OptionTable.h"
 #include "app/acctl/OwnSettings.h"
+#include "app/profiles/Translations.h"
+#include "i18n/SystemLanguage.h"
 
 namespace {
 
@@ -18,6 +21,29 @@ struct GivenWords {
   std::vector<std::string> words;
   std::string error;
 };
+
+/// Whether the words ask for a format, for errors before the options are taken.
+bool NamesFormat(const std::vector<std::string>& words, const std::string& format) {
+  for (std::size_t i = 0; i < words.size(); ++i) {
+    const bool isFormat = i > 0 && (words[i - 1] == "-o" || words[i - 1] == "--format");
+    if (words[i] == "--format=" + format || (isFormat && words[i] == format)) return true;
+  }
+  return false;
+}
+
+bool WantsJson(const std::vector<std::string>& words) {
+  return NamesFormat(words, "json") || std::ranges::find(words, "--json") != words.end();
+}
+
+/// Texts for people are in their language; those in JSON are English. `arguments` has the defaults.
+void ChooseLanguage(const std::vector<std::string>& words, const Arguments& arguments) {
+  const bool isJson = WantsJson(words) || NamesFormat(words, "jsonl") ||
+                      arguments.format == Format::Json || arguments.format == Format::JsonLines;
+  QStringList list;
+  for (const std::string& word : words) list += Wide(word);
+  const auto named = isJson ? std::optional(kEnglishUnitedStates) : NamedLanguage(list);
+  InstallTranslations(named ? *named : arguments.language.value_or(SystemLanguageId()));
+}
 
 // "--name", "--name value", "--name=value", "-o value". Words after "--" are never options, and
 // any other single minus begins a value. After an error it goes on, as the form of the output may
@@ -46,16 +72,17 @@ GivenWords Separate(const std::vector<std::string>& words) {
     }
     const OptionForm* const option = FindOption(name);
     if (option == nullptr) {
-      fail("there is no option --" + name);
+      fail(Message(Acctl::tr("there is no option --%1"), name));
       continue;
     }
     if (option->value.empty() && value) {
-      fail("--" + name + " takes no value");
+      fail(Message(Acctl::tr("--%1 takes no value"), name));
       continue;
     }
     if (!option->value.empty() && !value) {
       if (word + 1 == words.end()) {
-        fail("--" + name + " needs " + std::string(option->value));
+        //: An option and what must follow it: "--profiles needs FILE".
+        fail(Message(Acctl::tr("--%1 needs %2"), name, option->value));
         break;
       }
       value = *++word;
@@ -86,8 +113,14 @@ std::string TakeOptions(const GivenWords& given, const CommandForm& form, Argume
   for (const GivenOption& one : given.options) {
     const OptionForm& option = IsFolder(one, form.command) ? *FindOption("folder") : *one.form;
     const std::string name = "--" + std::string(option.name);
-    if (!option.IsOf(form.command)) return std::string(form.name) + " takes no " + name;
-    if (!option.take(arguments, one.value)) return name + ": '" + one.value + "' is not possible";
+    if (!option.IsOf(form.command)) {
+      //: A command and an option: "list takes no --wait".
+      return Message(Acctl::tr("%1 takes no %2"), form.name, name);
+    }
+    if (!option.take(arguments, one.value)) {
+      //: An option and its value.
+      return Message(Acctl::tr("%1: '%2' is not possible"), name, one.value);
+    }
   }
   return {};
 }
@@ -187,7 +220,9 @@ bool NeedsFile(Command command) {
 
 Arguments ParseArguments(const std::vector<std::string>& words) {
   Arguments arguments;
+  ChooseLanguage(words, arguments);
   TakeOwnSettings(arguments);
+  if (arguments.language || arguments.format != Format::Text) ChooseLanguage(words, arguments);
   // The words of `complete` are those of another command, which may be incomplete.
   const bool completes = !words.empty() && words.front() == FormOf(Command::Complete).name;
   if (completes && arguments.error.empty()) {
@@ -215,10 +250,12 @@ Arguments ParseArguments(const std::vector<std::string>& words) {
   }
   const bool wantsHelp = IsAsked(given, "help");
   if (given.words.empty()) {
-    return wantsHelp ? arguments : wrong("a command is missing; --help lists them");
+    return wantsHelp ? arguments
+                     : wrong(Message(Acctl::tr("a command is missing; --help lists them")));
   }
   if (form == nullptr) {
-    return wrong("there is no command '" + given.words.front() + "'; --help lists them");
+    return wrong(
+        Message(Acctl::tr("there is no command '%1'; --help lists them"), given.words.front()));
   }
   if (wantsHelp) {
     arguments.topic = form->command;
@@ -229,7 +266,7 @@ Arguments ParseArguments(const std::vector<std::string>& words) {
   if (!error.empty()) return wrong(std::move(error));
   const bool isOfValues = arguments.format == Format::Tsv || arguments.format == Format::Value;
   if (isOfValues && !HasValues(form->command)) {
-    if (asked) return wrong(std::string(form->name) + " has no such --format");
+    if (asked) return wrong(Message(Acctl::tr("%1 has no such --format"), form->name));
     arguments.format = Format::Text;
   }
   given.words.erase(given.words.begin());
@@ -237,10 +274,13 @@ Arguments ParseArguments(const std::vector<std::string>& words) {
   const bool isRight = count >= form->least && count <= form->most;
   if (isRight) Distribute(std::move(given.words), form->words, arguments);
   if (!isRight || !TakeSpecialWords(arguments)) {
-    return wrong("use: acctl " + std::string(form->name) + ' ' + std::string(form->usage));
+    return wrong(Message(Acctl::tr("use: %1"),
+                         "acctl " + std::string(form->name) + ' ' + std::string(form->usage)));
   }
   const bool needsFile = NeedsFile(form->command) && arguments.folder.empty();
-  if (needsFile && arguments.file.empty()) return wrong("the name of the file is empty");
+  if (needsFile && arguments.file.empty()) {
+    return wrong(Message(Acctl::tr("the name of the file is empty")));
+  }
   return arguments;
 }
 

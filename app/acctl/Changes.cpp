@@ -5,6 +5,7 @@
 #include <map>
 
 #include "app/acctl/Aliases.h"
+#include "app/acctl/Message.h"
 #include "app/acctl/Reading.h"
 
 namespace {
@@ -23,20 +24,21 @@ std::optional<Change> ChangeOf(const Work& work, const Target& target, const std
     return {};
   }
   if (target.LacksEntries(*setting)) return {};
-  if (!kSet.isPossible(*setting)) return fail(ProblemCode::NotPossible, kSet.refusal);
-  const std::string quoted = "'" + word + "'";
+  if (!kSet.isPossible(*setting))
+    return fail(ProblemCode::NotPossible, Message(Acctl::tr(kSet.refusal)));
   const auto typed = work.texts.Parse(*setting, word);
   if (!typed || (!typed->relative && !setting->Allows(typed->amount))) {
-    return fail(ProblemCode::OutOfRange,
-                quoted + " is not one of: " + work.texts.Shown().Values(*setting));
+    return fail(ProblemCode::OutOfRange, Message(Acctl::tr("'%1' is not one of: %2"), word,
+                                                 work.texts.Shown().Values(*setting)));
   }
   if (target.OnlySteps(*setting) && !typed->relative) {
-    return fail(ProblemCode::OutOfRange,
-                quoted + " is no step such as +1 or -1, and PJLink can only step it");
+    return fail(
+        ProblemCode::OutOfRange,
+        Message(Acctl::tr("'%1' is no step such as +1 or -1, and PJLink can only step it"), word));
   }
   if (typed->relative && IsUnbounded(target, *setting) && std::abs(typed->amount) > kMostSteps) {
     return fail(ProblemCode::OutOfRange,
-                quoted + " is more than " + std::to_string(kMostSteps) + " steps");
+                Message(Acctl::tr("'%1' is more than %n steps", nullptr, kMostSteps), word));
   }
   return Change{setting, *typed, word};
 }
@@ -76,7 +78,7 @@ void CheckSteps(std::vector<Change>& changes, const Work& work, ProjectorAccess&
       }
       if (!value) {
         report.Add(FailureOf(projector,
-                             {ProblemCode::NotReadable, kNotReadable, std::string(setting.key)}));
+                             {ProblemCode::NotReadable, NotReadable(), std::string(setting.key)}));
         continue;
       }
       value = AimOf(change, work, target, value, ExitCode::WrongUse, report);
@@ -97,22 +99,23 @@ std::optional<int> AimOf(const Change& change, const Work& work, const Target& t
   const bool isUnbounded = IsUnbounded(target, setting);
   const std::string key(setting.key);
   if ((change.typed.relative || isUnbounded) && !present) {
-    report.Add({ProblemCode::NotReadable, kNotReadable, key});
+    report.Add({ProblemCode::NotReadable, NotReadable(), key});
     return {};
   }
   const SettingTexts& texts = work.texts.Shown();
   const auto value = Resolve(setting, change.typed, present);
   if (!value) {
+    //: A step such as +3, the value that it starts from, and the values that are possible.
     report.Add({ProblemCode::OutOfRange,
-                "'" + change.word + "' from " + texts.Value(setting, *present) +
-                    " is not one of: " + texts.Values(setting),
+                Message(Acctl::tr("'%1' from %2 is not one of: %3"), change.word,
+                        texts.Value(setting, *present), texts.Values(setting)),
                 key,
                 {},
                 wrong});
   } else if (isUnbounded && std::abs(*value - *present) > kMostSteps) {
     report.Add({ProblemCode::OutOfRange,
-                "'" + change.word + "' is more than " + std::to_string(kMostSteps) +
-                    " steps from " + texts.Value(setting, *present),
+                Message(Acctl::tr("'%1' is more than %n steps from %2", nullptr, kMostSteps),
+                        change.word, texts.Value(setting, *present)),
                 key,
                 {},
                 wrong});
@@ -129,7 +132,7 @@ std::vector<Change> CheckedChanges(const Work& work, ProjectorAccess& projector,
         FindSetting(target.settings, work.arguments.words[i], kSet.isPossible);
     if (setting == nullptr || !target.LacksEntries(*setting)) continue;
     report.Add({ProblemCode::InputsUnknown,
-                kInputsNotRead,
+                InputsNotRead(),
                 std::string(setting->key),
                 {},
                 ExitCode::NoAnswer});

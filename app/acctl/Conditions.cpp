@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "app/acctl/Aliases.h"
+#include "app/acctl/Message.h"
 
 namespace {
 
@@ -67,8 +68,8 @@ bool IsEqual(const Condition& condition, const ValueTexts& texts, const ModelSet
 
 ConditionList ParseConditions(std::string_view text) {
   ConditionList list;
-  const auto fail = [&list](std::string_view part, const char* why) {
-    list.error = "--where '" + std::string(part) + "': " + why;
+  const auto fail = [&list](std::string_view part, const QString& why) {
+    list.error = "--where '" + std::string(part) + "': " + why.toStdString();
     return list;
   };
   while (true) {
@@ -78,17 +79,18 @@ ConditionList ParseConditions(std::string_view text) {
     const std::string_view rest = end == std::string_view::npos ? "" : text.substr(end);
     const auto* const sign = std::ranges::find_if(
         kSigns, [&rest](const auto& known) { return rest.starts_with(known.first); });
-    if (sign == kSigns.end()) return fail(text, "one of = != < <= > >= is missing");
+    if (sign == kSigns.end()) return fail(text, Acctl::tr("one of = != < <= > >= is missing"));
     Condition condition{std::string(text.substr(0, end)), sign->second, {}};
     std::string_view value = rest.substr(sign->first.size());
     const bool isQuoted = value.starts_with('"');
     if (isQuoted) value.remove_prefix(1);
     const auto stop = value.find(isQuoted ? '"' : ' ');
     condition.value = value.substr(0, stop);
-    if (condition.value.empty()) return fail(text, "a value is missing");
-    if (!IsKnown(condition.key)) return fail(condition.key, "no model has such a setting");
+    if (condition.value.empty()) return fail(text, Acctl::tr("a value is missing"));
+    if (!IsKnown(condition.key))
+      return fail(condition.key, Acctl::tr("no model has such a setting"));
     if (!IsForEquality(condition) && !NumberOf(condition.value)) {
-      return fail(condition.key, "only numbers are less or greater");
+      return fail(condition.key, Acctl::tr("only numbers are less or greater"));
     }
     text = stop == std::string_view::npos ? "" : value.substr(stop + (isQuoted ? 1 : 0));
     list.conditions.push_back(std::move(condition));
@@ -110,8 +112,9 @@ std::string ImpossibleValue(const std::vector<Condition>& conditions, const Valu
       return !isListed || texts.Parse(*setting, condition.value);
     });
     if (isPossible || lacking == nullptr) continue;
-    return condition.key + ": '" + condition.value +
-           "' is not one of: " + texts.ValuesWithCodes(*lacking);
+    return condition.key + ": " +
+           Message(Acctl::tr("'%1' is not one of: %2"), condition.value,
+                   texts.ValuesWithCodes(*lacking));
   }
   return {};
 }

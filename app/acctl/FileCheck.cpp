@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <numeric>
 
+#include "app/acctl/Message.h"
 #include "app/acctl/Selection.h"
 #include "app/acctl/Uses.h"
 #include "fleet/JsonLines.h"
@@ -27,13 +28,15 @@ std::size_t Distance(std::string_view one, std::string_view other) {
   return row.back();
 }
 
-/// "; did you mean picture.tint?", or how to list all keys.
-std::string Advice(const std::string& key, const std::vector<std::string_view>& keys) {
+/// "no model has such a setting; did you mean picture.tint?", or how to list all keys.
+std::string NoSuchKey(const std::string& key, const std::vector<std::string_view>& keys) {
   constexpr std::size_t kFar = 4;
   const auto distance = [&key](std::string_view known) { return Distance(key, known); };
   const auto nearest = std::ranges::min_element(keys, {}, distance);
-  if (nearest == keys.end() || distance(*nearest) >= kFar) return "; acctl settings lists all keys";
-  return std::string("; did you mean ").append(*nearest).append("?");
+  if (nearest == keys.end() || distance(*nearest) >= kFar) {
+    return Message(Acctl::tr("no model has such a setting; acctl settings lists all keys"));
+  }
+  return Message(Acctl::tr("no model has such a setting; did you mean %1?"), *nearest);
 }
 
 /// The values that a file may have for a setting: "97 to 159, shown as -31 to 31", "0 (Off), 1
@@ -41,10 +44,11 @@ std::string Advice(const std::string& key, const std::vector<std::string_view>& 
 std::string Possible(const SettingTexts& texts, const ModelSetting& setting) {
   if (setting.kind == Kind::Number) {
     const Range range = setting.range.value_or(Range{0, 0xFFFF});
-    const std::string values =
-        std::to_string(range.minimum) + " to " + std::to_string(range.maximum);
     const bool isShownSo = setting.bias == 0 || !setting.range;
-    return isShownSo ? values : values + ", shown as " + texts.Values(setting);
+    //: A range of numbers.
+    return isShownSo ? Message(Acctl::tr("%1 to %2"), range.minimum, range.maximum)
+                     : Message(Acctl::tr("%1 to %2, shown as %3"), range.minimum, range.maximum,
+                               texts.Values(setting));
   }
   std::string values;
   for (const ListEntry& entry : setting.entries) {
@@ -85,18 +89,20 @@ class Entry {
       return form.model->HasSource(*form.setting, *saved_.source);
     };
     if (!saved_.source || !IsKnown() || std::ranges::any_of(forms_, has)) return {};
-    const std::string source = "source " + std::to_string(*saved_.source);
     const auto [model, setting] = forms_.front();
-    if (setting->of == OfSource::None) return source + ": this is not kept for each source";
-    return source + " does not exist; there are " + Possible(texts_, *model->Input());
+    if (setting->of == OfSource::None) {
+      return Message(Acctl::tr("source %1: this is not kept for each source"), *saved_.source);
+    }
+    return Message(Acctl::tr("source %1 does not exist; there are %2"), *saved_.source,
+                   Possible(texts_, *model->Input()));
   }
 
   std::string ValueMistake() const {
     if (!IsKnown() || std::ranges::any_of(forms_, [this](const Form& f) { return Passes(f); })) {
       return {};
     }
-    return "value " + std::to_string(saved_.value) + " is not possible; possible are " +
-           Possible(texts_, *forms_.front().setting);
+    return Message(Acctl::tr("value %1 is not possible; possible are %2"), saved_.value,
+                   Possible(texts_, *forms_.front().setting));
   }
 
   std::string TextMistake(InputNames inputs) const {
@@ -113,9 +119,10 @@ class Entry {
     };
     if (saved_.text.empty() || !IsKnown() || std::ranges::any_of(forms_, isSo)) return {};
     const ModelSetting& setting = *forms_.front().setting;
-    return "text \"" + saved_.text + "\" is not that of value " + std::to_string(saved_.value) +
-           ", which is \"" + texts_.Value(setting, saved_.value) +
-           "\"; change both, or remove the text";
+    return Message(
+        Acctl::tr("text \"%1\" is not that of value %2, which is \"%3\"; change both, or "
+                  "remove the text"),
+        saved_.text, saved_.value, texts_.Value(setting, saved_.value));
   }
 
  private:
@@ -161,7 +168,7 @@ std::vector<std::string> MistakesIn(const Work& work, const SettingsFileContents
   const std::vector<std::string_view> keys = AllKeys();
   const auto check = [&](const SavedSetting& saved, const QString& path) {
     if (std::ranges::find(keys, saved.key) == keys.end()) {
-      add(saved, path + ".key", "no model has such a setting" + Advice(saved.key, keys));
+      add(saved, path + ".key", NoSuchKey(saved.key, keys));
       return;
     }
     // Without the file's own model, nobody knows what it allows.

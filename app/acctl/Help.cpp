@@ -5,32 +5,40 @@
 #include <string_view>
 #include <vector>
 
+#include <QTextBoundaryFinder>
+
+#include "app/acctl/Message.h"
 #include "app/acctl/OptionTable.h"
+#include "app/profiles/Table.h"
 
 namespace {
 
 // clang-format off
-constexpr std::string_view kIntroduction =
+// Those that only the manual page has are not translated, as it is English.
+constexpr std::string_view kIntroduction = QT_TRANSLATE_NOOP("Acctl",
     "Reads, changes, saves and restores the settings of projectors that the Advanced Control dialog shows. The "
-    "projectors are those of a profile file.";
-constexpr std::string_view kWords =
+    "projectors are those of a profile file.");
+constexpr std::string_view kWords = QT_TRANSLATE_NOOP("Acctl",
     "P selects projectors: a name, a pattern such as 'Lecture*', @TAG, or model=PATTERN. Several are separated by "
     "commas, and !P leaves projectors out. KEY is the key of a setting, a pattern such as 'picture.*', or a short name "
     "such as brightness, input or power, which is the same on all models. VALUE is a number as the dialog shows it, the "
-    "text of an entry in any language of the dialog, or its code.";
+    "text of an entry in any language of the dialog, or its code.");
 
 struct Named {
   std::string_view name;
   std::string_view text;
 };
 constexpr Named kExitCodes[] = {
-    {"0", "Done. Also if a projector in standby could not report everything, or accepted a change that has not taken "
-          "effect yet."},
-    {"1", "Something was refused, a projector lacks a setting that was named, or a file or the output could not be read "
-          "or written."},
-    {"2", "Wrong use: nothing was sent to any projector."},
-    {"3", "A projector did not answer or did not report its inputs, or another run of acctl used it."},
-    {"128 + signal", "Interrupted; the report says what was done."},
+    {"0", QT_TRANSLATE_NOOP("Acctl",
+          "Done. Also if a projector in standby could not report everything, or accepted a change that has not taken "
+          "effect yet.")},
+    {"1", QT_TRANSLATE_NOOP("Acctl",
+          "Something was refused, a projector lacks a setting that was named, or a file or the output could not be read "
+          "or written.")},
+    {"2", QT_TRANSLATE_NOOP("Acctl", "Wrong use: nothing was sent to any projector.")},
+    {"3", QT_TRANSLATE_NOOP("Acctl",
+          "A projector did not answer or did not report its inputs, or another run of acctl used it.")},
+    {"128 + signal", QT_TRANSLATE_NOOP("Acctl", "Interrupted; the report says what was done.")},
 };
 constexpr Named kVariables[] = {
     {"ACCTL_PASSWORD", "The PJLink password if no option gives one. At a terminal it is asked for if it is missing."},
@@ -58,23 +66,52 @@ std::vector<std::string> Lines(std::string_view text) {
   return lines;
 }
 
+/// The parts of a text between which a line may end, with their blanks: words, or in languages
+/// without blanks between words what must stay together.
+QStringList Parts(const QString& text) {
+  QStringList parts;
+  QTextBoundaryFinder finder(QTextBoundaryFinder::Line, text);
+  for (qsizetype begin = 0, end = finder.toNextBoundary(); end > begin;
+       begin = end, end = finder.toNextBoundary()) {
+    const QString part = text.mid(begin, end - begin);
+    // A file's name or an option is one word.
+    const bool isWithin = !parts.isEmpty() && part.front().unicode() < 0x80 &&
+                          parts.back().back().unicode() < 0x80 && !parts.back().back().isSpace();
+    if (isWithin) {
+      parts.back() += part;
+    } else {
+      parts += part;
+    }
+  }
+  return parts;
+}
+
 /// The text in lines of up to 79 columns.
 std::string Wrapped(std::string_view text, std::size_t indent = 0) {
-  constexpr std::size_t kWidth = 79;
+  constexpr int kWidth = 79;
   std::string wrapped;
   for (const std::string& paragraph : Lines(text)) {
-    std::istringstream words(paragraph);
-    std::string line(indent, ' ');
-    for (std::string word; words >> word;) {
-      if (line.size() > indent && line.size() + 1 + word.size() > kWidth) {
-        wrapped += line + '\n';
-        line.assign(indent, ' ');
+    const std::string margin(indent, ' ');
+    QString line;
+    const auto end = [&] { wrapped += margin + line.trimmed().toStdString() + '\n'; };
+    for (const QString& part : Parts(Wide(paragraph))) {
+      const QString longer = line + part;
+      const int width = DisplayWidth(longer.trimmed().toStdString()) + static_cast<int>(indent);
+      if (!line.isEmpty() && width > kWidth) {
+        end();
+        line = part;
+      } else {
+        line = longer;
       }
-      line += (line.size() > indent ? " " : "") + word;
     }
-    wrapped += line + '\n';
+    end();
   }
   return wrapped;
+}
+
+/// A text of the tables in the user's language.
+std::string Translated(std::string_view text) {
+  return Message(Acctl::tr(std::string(text).c_str()));
 }
 
 /// "  left   text", with the text wrapped in its own column.
@@ -161,28 +198,36 @@ std::string CommandPage(const CommandForm& form) {
 }  // namespace
 
 std::string HelpText(std::optional<Command> topic) {
+  const auto title = [](const QString& text) { return '\n' + text.toStdString() + '\n'; };
   std::string text;
   if (topic) {
     const CommandForm& form = FormOf(*topic);
-    text = "Use: " + UsageOf(form) + "\n\n";
-    text += Wrapped(form.description.empty() ? form.summary : form.description);
-    text += "\nOptions\n";
+    //: Above the help of a command; %1 is how it is called.
+    text = Message(Acctl::tr("Use: %1"), UsageOf(form)) + "\n\n";
+    text += Wrapped(Translated(form.description.empty() ? form.summary : form.description));
+    text += title(Acctl::tr("Options"));
   } else {
-    text = "Use: acctl [options] command ...\n\n" + Wrapped(kIntroduction) + "\nCommands\n";
+    text = Message(Acctl::tr("Use: %1"), "acctl [options] command ...") + "\n\n";
+    text += Wrapped(Translated(kIntroduction)) + title(Acctl::tr("Commands"));
     for (const CommandForm& form : CommandForms()) {
-      if (!form.summary.empty()) text += Entry(std::string(form.name), form.summary);
+      if (!form.summary.empty()) text += Entry(std::string(form.name), Translated(form.summary));
     }
-    text += "\nOptions of all commands; 'acctl help COMMAND' lists its own, with examples\n";
+    text += title(
+        Acctl::tr("Options of all commands; 'acctl help COMMAND' lists its own, with examples"));
   }
-  for (const OptionForm* option : OptionsOf(topic)) text += Entry(SwitchOf(*option), option->help);
-  text += '\n' + Wrapped(kWords);
+  for (const OptionForm* option : OptionsOf(topic)) {
+    text += Entry(SwitchOf(*option), Translated(option->help));
+  }
+  text += '\n' + Wrapped(Translated(kWords));
   if (topic) {
-    text += "\nExamples\n";
+    text += title(Acctl::tr("Examples"));
     for (const std::string& line : Lines(FormOf(*topic).examples)) text += "  " + line + '\n';
     return text;
   }
-  text += "\nExit codes\n";
-  for (const auto& [code, meaning] : kExitCodes) text += Entry(std::string(code), meaning);
+  text += title(Acctl::tr("Exit codes"));
+  for (const auto& [code, meaning] : kExitCodes) {
+    text += Entry(std::string(code), Translated(meaning));
+  }
   return text;
 }
 

@@ -8,6 +8,7 @@
 
 #include "app/acctl/Aliases.h"
 #include "app/acctl/Describing.h"
+#include "app/acctl/Message.h"
 #include "app/acctl/Output.h"
 #include "app/acctl/Printer.h"
 #include "app/acctl/ProjectorRuns.h"
@@ -54,6 +55,23 @@ std::vector<const FleetProfile*> ModelsOf(const std::vector<FleetProfile>& profi
   return models;
 }
 
+std::string KindText(ModelSetting::Kind kind) {
+  switch (kind) {
+    case ModelSetting::Kind::Number:
+      //: A kind of setting: a value with a range.
+      return Message(Acctl::tr("number"));
+    case ModelSetting::Kind::Choice:
+      //: A kind of setting: a list of entries.
+      return Message(Acctl::tr("choice"));
+    case ModelSetting::Kind::State:
+      //: A kind of setting: on or off, or a counter.
+      return Message(Acctl::tr("state"));
+    default:
+      //: A kind of setting: something that the projector does once.
+      return Message(Acctl::tr("action"));
+  }
+}
+
 /// A setting of one model, and the models that have the same one.
 struct Explained {
   const ModelSetting* setting;
@@ -64,17 +82,22 @@ struct Explained {
 std::string Text(const ValueTexts& texts, const Explained& explained) {
   const ModelSetting& setting = *explained.setting;
   Table table;
+  const auto label = [](const QString& text) { return "  " + text.toStdString(); };
   const std::string alias(AliasOf(setting.key));
-  table.Add({std::string(setting.key), alias.empty() ? "" : "short name: " + alias});
+  table.Add(
+      {std::string(setting.key), alias.empty() ? "" : Message(Acctl::tr("short name: %1"), alias)});
   const bool isListed =
       setting.kind == ModelSetting::Kind::Choice || setting.kind == ModelSetting::Kind::Number;
-  table.Add({"  tab", texts.Shown().Tab(setting)});
-  table.Add({"  caption", texts.Shown().Caption(setting)});
-  table.Add({"  kind", NameOf(setting.kind)});
+  //: Of the dialog, on which the setting is.
+  table.Add({label(Acctl::tr("tab")), texts.Shown().Tab(setting)});
+  //: Of the setting in the dialog.
+  table.Add({label(Acctl::tr("caption")), texts.Shown().Caption(setting)});
+  //: What kind of setting it is: number, choice, state or action.
+  table.Add({label(Acctl::tr("kind")), KindText(setting.kind)});
   if (setting.kind == ModelSetting::Kind::Choice && setting.entries.empty()) {
-    table.Add({"  values", "those that the projector reports"});
+    table.Add({label(Acctl::tr("values")), Message(Acctl::tr("those that the projector reports"))});
   } else if (isListed || setting.changeable) {
-    table.Add({"  values", texts.ValuesWithCodes(setting)});
+    table.Add({label(Acctl::tr("values")), texts.ValuesWithCodes(setting)});
   }
   std::string uses;
   const auto add = [&uses](bool isSo, const char* use) {
@@ -83,10 +106,14 @@ std::string Text(const ValueTexts& texts, const Explained& explained) {
   add(setting.readable, "get");
   add(setting.changeable, "set");
   add(setting.reset.has_value(), "reset");
-  add(setting.Restorable(), "save and apply");
-  if (!uses.empty()) table.Add({"  commands", uses});
-  if (setting.IsPerSource()) table.Add({"  kept", "for each input source"});
-  table.Add({"  models", Joined(explained.models)});
+  add(setting.Restorable(), "save");
+  add(setting.Restorable(), "apply");
+  if (!uses.empty()) table.Add({label(Acctl::tr("commands")), uses});
+  if (setting.IsPerSource()) {
+    //: The setting has a value of its own "for each input source".
+    table.Add({label(Acctl::tr("kept")), Message(Acctl::tr("for each input source"))});
+  }
+  table.Add({label(Acctl::tr("models")), Joined(explained.models)});
   return table.Text();
 }
 
@@ -132,7 +159,8 @@ int ListModels(const Work& work, ModelCache& models) {
       table.Add({model.ModelName});
     } else {
       table.Add({model.ModelName, std::to_string(model.DialogType), std::to_string(model.ModelCode),
-                 Counted(static_cast<int>(count), "projector"), Counted(settings, "setting")});
+                 CountedProjectors(static_cast<int>(count)),
+                 Message(Acctl::tr("%n settings", nullptr, settings))});
     }
     json.append(QJsonObject{{"model", Wide(model.ModelName)},
                             {"dialogType", model.DialogType},
@@ -164,7 +192,7 @@ int Explain(const Work& work, ModelCache& models) {
   }
   if (found.empty()) {
     return ReportError(work.arguments, {.code = ProblemCode::NoSuchSetting,
-                                        .text = "no model has such a setting",
+                                        .text = Message(Acctl::tr("no model has such a setting")),
                                         .key = work.arguments.words.front(),
                                         .exitCode = ExitCode::WrongUse});
   }

@@ -7,12 +7,14 @@
 #include <string>
 #include <unistd.h>
 
+#include "app/acctl/Message.h"
+
 bool Print(std::string_view text) {
   while (!text.empty()) {
     const ssize_t written = write(STDOUT_FILENO, text.data(), text.size());
     if (written < 0 && errno == EINTR) continue;
     if (written < 0) {
-      if (errno != EPIPE) Complain(std::string("cannot write: ") + std::strerror(errno));
+      if (errno != EPIPE) Complain(Message(Acctl::tr("cannot write: %1"), std::strerror(errno)));
       return false;
     }
     text.remove_prefix(static_cast<std::size_t>(written));

@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include "app/acctl/Message.h"
 #include "app/acctl/OptionTable.h"
 #include "app/acctl/Report.h"
 #include "fleet/WholeFile.h"
@@ -22,7 +23,7 @@ std::string VariableOf(const OptionForm& option) {
 
 std::string Take(Arguments& arguments, const OptionForm& option, const std::string& value) {
   if (option.take(arguments, value)) return {};
-  return "'" + value + "' is not possible";
+  return Message(Acctl::tr("'%1' is not possible"), value);
 }
 
 /// Lines like "jobs = 32"; '#' begins a comment.
@@ -34,10 +35,12 @@ std::string TakeFile(Arguments& arguments, const QString& path, const QByteArray
     if (line.isEmpty() || line.startsWith('#')) continue;
     const std::string place = path.toStdString() + ':' + std::to_string(number) + ": ";
     const auto equals = line.indexOf('=');
-    if (equals < 0) return place + "'=' is missing";
+    if (equals < 0) return place + Message(Acctl::tr("'=' is missing"));
     const std::string name = line.left(equals).trimmed().toStdString();
     const OptionForm* const option = FindOption(name);
-    if (option == nullptr || !option->isDefault) return place + "there is no setting " + name;
+    if (option == nullptr || !option->isDefault) {
+      return place + Message(Acctl::tr("there is no setting %1"), name);
+    }
     const auto error = Take(arguments, *option, line.mid(equals + 1).trimmed().toStdString());
     if (!error.empty()) return place + name + ": " + error;
   }
@@ -56,7 +59,7 @@ void TakeOwnSettings(Arguments& arguments) {
   if (const FileBytes file = ReadToEnd(path, kMost); file.error.isEmpty()) {
     arguments.error = TakeFile(arguments, path, file.bytes);
   } else if (named != nullptr ? *named != '\0' : QFileInfo::exists(path)) {
-    arguments.error = "cannot read " + path.toStdString() + ": " + file.error.toStdString();
+    arguments.error = Message(Acctl::tr("cannot read %1: %2"), path, file.error);
   }
   for (const OptionForm& option : OptionForms()) {
     if (!option.isDefault || !arguments.error.empty()) continue;

@@ -11,6 +11,7 @@
 #include <sys/resource.h>
 #include <thread>
 
+#include "app/acctl/Message.h"
 #include "app/profiles/OutOfMemory.h"
 
 void Meter::Draw(int done) {
@@ -19,7 +20,9 @@ void Meter::Draw(int done) {
   drawn_ = done;
   std::string bar(static_cast<std::size_t>(kWidth * done / total_), '#');
   bar.resize(kWidth, '.');
-  std::fprintf(stderr, "\r%s %d of %d", bar.c_str(), done, total_);
+  //: Behind a bar: how many projectors are done, and how many there are.
+  const std::string text = Message(Acctl::tr("%1 of %2"), done, total_);
+  std::fprintf(stderr, "\r%s %s", bar.c_str(), text.c_str());
 }
 
 void Meter::Clear() {

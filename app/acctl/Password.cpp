@@ -8,6 +8,7 @@
 #include <termios.h>
 #include <unistd.h>
 
+#include "app/acctl/Message.h"
 #include "app/acctl/Report.h"
 #include "fleet/WholeFile.h"
 
@@ -19,10 +20,9 @@ std::string GivenPassword(const Arguments& arguments, std::string& error) {
     QByteArray line = file.bytes.split('\n').front();
     if (line.endsWith('\r')) line.chop(1);
     std::string password = line.toStdString();
-    const std::string reason = file.error.isEmpty() ? "its first line is empty"  //
-                                                    : file.error.toStdString();
+    const QString reason = file.error.isEmpty() ? Acctl::tr("its first line is empty") : file.error;
     if (password.empty())
-      error = "--password-file " + arguments.connecting.passwordFile + ": " + reason;
+      error = "--password-file " + arguments.connecting.passwordFile + ": " + reason.toStdString();
     return password;
   }
   const char* const password = std::getenv("ACCTL_PASSWORD");
@@ -36,7 +36,7 @@ std::optional<std::string> AskForPassword(const std::string& projector,
   termios hidden = shown;
   hidden.c_lflag &= ~static_cast<tcflag_t>(ECHO);
   tcsetattr(STDIN_FILENO, TCSAFLUSH, &hidden);
-  std::fprintf(stderr, "Password of %s: ", projector.c_str());
+  std::fputs(Message(Acctl::tr("Password of %1: "), projector).c_str(), stderr);
   constexpr int kPause = 100;  // milliseconds
   std::string typed;
   bool isOver = false;

@@ -5,6 +5,7 @@
 
 #include <QJsonDocument>
 
+#include "app/acctl/Message.h"
 #include "app/acctl/Output.h"
 
 namespace {
@@ -74,7 +75,7 @@ int ReportErrors(const Arguments& arguments, std::span<const Problem> problems) 
 }
 
 std::string ShownName(const std::string& name, bool isSimulated) {
-  return isSimulated ? name + " (simulated)" : name;
+  return isSimulated ? Message(Acctl::tr("%1 (simulated)"), name) : name;
 }
 
 void Printer::Write(std::string_view text) {

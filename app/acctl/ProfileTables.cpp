@@ -6,6 +6,7 @@
 #include <QJsonDocument>
 #include <QTimer>
 
+#include "app/acctl/Message.h"
 #include "app/acctl/Output.h"
 #include "app/acctl/Printer.h"
 #include "app/acctl/Signals.h"
@@ -65,8 +66,11 @@ QString AddFound(const Arguments& arguments, const std::vector<FoundProjector>& 
   const TakenProjectors taken = TakeFound(file.text, found, password);
   result["added"] = QJsonArray::fromStringList(taken.added);
   result["moved"] = QJsonArray::fromStringList(taken.moved);
-  text += std::to_string(taken.added.size()) + " added, " + std::to_string(taken.moved.size()) +
-          " moved, " + std::to_string(taken.known) + " known\n";
+  //: Numbers of projectors: new ones, those with a new address, and those that the file has
+  //: already.
+  text += Message(Acctl::tr("%1 added, %2 moved, %3 known"), taken.added.size(), taken.moved.size(),
+                  taken.known) +
+          '\n';
   return taken.text == file.text ? QString() : WriteProfileText(Wide(arguments.file), taken.text);
 }
 
@@ -105,8 +109,9 @@ int Find(const Arguments& arguments, const std::string& password) {
   Table table;
   QJsonArray json;
   for (const FoundProjector& projector : found) {
-    table.Add({projector.address, projector.name, projector.maker, projector.model,
-               projector.needsPassword ? "needs a password" : projector.serial});
+    table.Add(
+        {projector.address, projector.name, projector.maker, projector.model,
+         projector.needsPassword ? Message(Acctl::tr("needs a password")) : projector.serial});
     json.append(Describe(projector));
   }
   QJsonObject result{{"found", json}};
@@ -126,16 +131,16 @@ int Find(const Arguments& arguments, const std::string& password) {
 int Import(const Arguments& arguments) {
   constexpr qsizetype kMost = qsizetype{64} << 20;
   if (arguments.profiles.empty()) {
-    return ReportError(arguments, {.code = ProblemCode::WrongUse,
-                                   .text = "name the profile file with --profiles",
-                                   .exitCode = ExitCode::WrongUse});
+    return ReportError(arguments,
+                       {.code = ProblemCode::WrongUse,
+                        .text = Message(Acctl::tr("name the profile file with --profiles")),
+                        .exitCode = ExitCode::WrongUse});
   }
   const ProfileFileText file = ReadOrBegin(arguments.profiles);
   const FileBytes csv = ReadToEnd(Wide(arguments.file), kMost);
-  const QString unread =
-      csv.error.isEmpty()
-          ? QString()
-          : QStringLiteral("cannot read %1: %2").arg(Wide(arguments.file), csv.error);
+  const QString unread = csv.error.isEmpty()
+                             ? QString()
+                             : Acctl::tr("cannot read %1: %2").arg(Wide(arguments.file), csv.error);
   for (const QString& error : {file.error, unread}) {
     if (!error.isEmpty()) return ReportError(arguments, {ProblemCode::File, error.toStdString()});
   }
@@ -150,9 +155,10 @@ int Import(const Arguments& arguments) {
     Complain(arguments.file + ':' + std::to_string(fault.line) + ": " + fault.reason.toStdString());
     faults.append(QJsonObject{{"line", fault.line}, {"text", fault.reason}});
   }
-  const std::string text = std::to_string(import.added) + " added, " +
-                           std::to_string(import.changed) + " known, " +
-                           std::to_string(import.faults.size()) + " wrong\n";
+  //: Numbers of projectors in a table: new ones, those that the file has already, and wrong rows.
+  const std::string text = Message(Acctl::tr("%1 added, %2 known, %3 wrong"), import.added,
+                                   import.changed, import.faults.size()) +
+                           '\n';
   const QJsonObject result{{"added", static_cast<int>(import.added)},
                            {"changed", static_cast<int>(import.changed)},
                            {"unused", QJsonArray::fromStringList(import.unused)},

@@ -8,6 +8,7 @@
 
 #include "app/acctl/Completion.h"
 #include "app/acctl/Listing.h"
+#include "app/acctl/Message.h"
 #include "app/acctl/Output.h"
 #include "app/acctl/Password.h"
 #include "app/acctl/ProfileTables.h"
@@ -41,7 +42,7 @@ std::string TakeWordsFrom(Arguments& arguments) {
   constexpr qsizetype kMost = qsizetype{1} << 20;
   const FileBytes file = ReadToEnd(Wide(arguments.from), kMost);
   if (!file.error.isEmpty()) {
-    return "cannot read " + arguments.from + ": " + file.error.toStdString();
+    return Message(Acctl::tr("cannot read %1: %2"), arguments.from, file.error);
   }
   std::vector<std::string> lines;
   for (const QByteArray& whole : file.bytes.split('\n')) {
@@ -50,10 +51,11 @@ std::string TakeWordsFrom(Arguments& arguments) {
   }
   for (std::size_t i = 0; i < lines.size(); ++i) {
     if (!AddAssignment(lines[i], arguments.words)) {
-      return arguments.from + ": '" + lines[i] + "' is not KEY=VALUE";
+      return Message(Acctl::tr("%1: '%2' is not KEY=VALUE"), arguments.from, lines[i]);
     }
   }
-  return arguments.words.empty() ? arguments.from + ": has no KEY=VALUE" : std::string();
+  return arguments.words.empty() ? Message(Acctl::tr("%1: has no KEY=VALUE"), arguments.from)
+                                 : std::string();
 }
 
 /// One run of the program for a command that works with projectors.
@@ -131,7 +133,7 @@ std::string ProgramRun::Prepare() {
       return "--connect: " + wrong->text;
     }
     if (projectors_.size() > 1) {
-      return "this takes one projector, not " + std::to_string(projectors_.size());
+      return Message(Acctl::tr("this takes one projector, not %1"), projectors_.size());
     }
   }
   if (error.empty()) password_ = GivenPassword(arguments_, error);
@@ -158,8 +160,9 @@ int ProgramRun::ListRecordedRuns() const {
       continue;
     }
     const auto count = static_cast<int>(run.undo.size());
-    table.Add({run.name, run.time, Counted(count, "projector"), run.isUndone ? "undone" : "",
-               run.command});
+    //: Of a run of the program: somebody has undone it.
+    table.Add({run.name, run.time, CountedProjectors(count),
+               run.isUndone ? Message(Acctl::tr("undone")) : "", run.command});
     json.append(QJsonObject{{"run", Wide(run.name)},
                             {"time", Wide(run.time)},
                             {"command", Wide(run.command)},
@@ -244,8 +247,8 @@ int ProgramRun::Run() {
   if (isUndone) {
     const QString error = MarkUndone(undone_);
     if (!error.isEmpty()) {
-      Complain("cannot record in " + undone_.path.toStdString() +
-               " that it is undone: " + error.toStdString());
+      Complain(
+          Message(Acctl::tr("cannot record in %1 that it is undone: %2"), undone_.path, error));
       code = ExitCode::Refused;
     }
   }

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "app/acctl/Commands.h"
+#include "app/acctl/Message.h"
 #include "app/acctl/Output.h"
 #include "app/acctl/Password.h"
 #include "app/acctl/Signals.h"
@@ -122,7 +123,7 @@ ProjectorRuns::Attempt ProjectorRuns::Try(int number, const Step& step,
   }
   if (open->lock && !open->lock->IsHeld()) {
     attempt.report.Add({.code = ProblemCode::Locked,
-                        .text = "another run of acctl works on it",
+                        .text = Message(Acctl::tr("another run of acctl works on it")),
                         .exitCode = ExitCode::NoAnswer});
     return attempt;
   }
@@ -203,7 +204,8 @@ Report ProjectorRuns::RunOne(int number, const std::vector<std::optional<Report>
   if (const auto& report = checked[static_cast<std::size_t>(number)]) return *report;
   Report report;
   if (arguments.failFast && hasFailed_) {
-    report.Add({.code = ProblemCode::Stopped, .text = "not begun, as another projector failed"});
+    report.Add({.code = ProblemCode::Stopped,
+                .text = Message(Acctl::tr("not begun, as another projector failed"))});
     return report;
   }
   report = Act(number, {ActionOf(arguments.command)});
@@ -212,9 +214,10 @@ Report ProjectorRuns::RunOne(int number, const std::vector<std::optional<Report>
     report.code = ExitCode::Refused;
   }
   if (IsChanging(arguments) && IsSimulatedHere(Profile(number), work_)) {
-    report.Add({.code = ProblemCode::Simulated,
-                .text = "simulated by acctl itself, nothing lasting was changed",
-                .exitCode = ExitCode::Done});
+    report.Add(
+        {.code = ProblemCode::Simulated,
+         .text = Message(Acctl::tr("simulated by acctl itself, nothing lasting was changed")),
+         .exitCode = ExitCode::Done});
   }
   if (report.code != ExitCode::Done) hasFailed_ = true;
   return report;
@@ -235,7 +238,7 @@ int ProjectorRuns::Run() {
   }
   const bool isPrinted = printer_.Finish();
   if (const int signal = ReceivedSignal(); signal != 0) {
-    Complain("interrupted; what was done is reported above");
+    Complain(Message(Acctl::tr("interrupted; what was done is reported above")));
     return ExitCode::Signalled + signal;
   }
   return isPrinted ? code_ : std::max(code_, ExitCode::Refused);

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "app/acctl/Aliases.h"
+#include "app/acctl/Message.h"
 #include "device/CommandCode.h"
 
 namespace {
@@ -36,6 +37,13 @@ const char* NameOf(PowerState power) {
   }
 }
 
+/// Says which settings a resting projector could not report.
+std::string LeftOutText(PowerState power, const std::string& keys) {
+  if (power == PowerState::Standby) return Message(Acctl::tr("in standby, left out: %1"), keys);
+  if (power == PowerState::WarmingUp) return Message(Acctl::tr("warming up, left out: %1"), keys);
+  return Message(Acctl::tr("cooling down, left out: %1"), keys);
+}
+
 std::string Joined(const std::vector<std::string>& keys) {
   std::string text;
   for (const std::string& key : keys) text.append(text.empty() ? "" : ", ").append(key);
@@ -58,11 +66,7 @@ std::optional<PowerState> AskPower(ProjectorAccess& projector) {
   return value ? std::optional(StateOf(*value, projector)) : std::nullopt;
 }
 
-const char* RestOf(std::optional<PowerState> power) {
-  if (power == PowerState::Standby) return "in standby";
-  if (power == PowerState::WarmingUp) return "warming up";
-  return power == PowerState::CoolingDown ? "cooling down" : nullptr;
-}
+bool Rests(std::optional<PowerState> power) { return power && *power != PowerState::On; }
 
 const char* RestCodeOf(PowerState power) {
   if (power == PowerState::Standby) return ProblemCode::Standby;
@@ -71,15 +75,15 @@ const char* RestCodeOf(PowerState power) {
 }
 
 void ReportUnread(const std::vector<std::string>& keys, std::optional<PowerState> power,
-                  const char* what, Report& report) {
+                  const std::string& what, Report& report) {
   if (power) report.json["power"] = NameOf(*power);
   if (keys.empty()) return;
   QJsonArray unread;
   for (const std::string& key : keys) unread.append(Wide(key));
   report.json["unread"] = unread;
-  if (const char* const rest = RestOf(power)) {
+  if (Rests(power)) {
     report.Add({.code = RestCodeOf(*power),
-                .text = std::string(rest) + ", left out: " + Joined(keys),
+                .text = LeftOutText(*power, Joined(keys)),
                 .exitCode = ExitCode::Done});
     return;
   }
@@ -105,7 +109,7 @@ void ReadInto(const Work& work, ProjectorAccess& projector,
     } else if (const auto& channel = projector.Channel();
                !channel.HasAnswered() || (!channel.IsOffered() && IsNamed(work, *setting))) {
       report.Add(FailureOf(projector,
-                           {ProblemCode::NotReadable, kNotReadable, std::string(setting->key)}));
+                           {ProblemCode::NotReadable, NotReadable(), std::string(setting->key)}));
     } else if (channel.IsOffered()) {
       unread.emplace_back(setting->key);
     } else if (!work.arguments.words.empty()) {
@@ -114,10 +118,11 @@ void ReadInto(const Work& work, ProjectorAccess& projector,
     if (!progress.goesOn()) break;
   }
   if (!unread.empty() && !power) power = AskPower(projector);
-  ReportUnread(unread, power, kNotReadable, report);
+  ReportUnread(unread, power, NotReadable(), report);
   if (!notOffered.empty()) {
     report.Add({.code = ProblemCode::NotOffered,
-                .text = std::string("skipped, ") + kNotOffered + ": " + Joined(notOffered),
+                .text = Message(Acctl::tr("skipped, this projector does not offer it: %1"),
+                                Joined(notOffered)),
                 .exitCode = ExitCode::Done});
   }
   values.PutInto(report);

@@ -13,16 +13,16 @@ Progress ProgressOf(const Work& work, const ProjectorAccess& projector);
 /// Asks for the power state; nothing if the projector does not report it.
 std::optional<PowerState> AskPower(ProjectorAccess& projector);
 
-/// Why a healthy projector cannot report or do something now: "in standby", "warming up", "cooling
-/// down"; null for one that is on, or does not say.
-const char* RestOf(std::optional<PowerState> power);
-/// The code of a problem with the same meaning.
+/// Whether a healthy projector cannot report or do something now, because it is in standby or
+/// changes its power state. False if it does not say.
+bool Rests(std::optional<PowerState> power);
+/// The code of this problem.
 const char* RestCodeOf(PowerState power);
 
 /// Adds settings that could not be read although the projector has answered to the report. In
 /// standby that is one note and no error.
 void ReportUnread(const std::vector<std::string>& keys, std::optional<PowerState> power,
-                  const char* what, Report& report);
+                  const std::string& what, Report& report);
 
 /// Reads settings into the report, until the projector is gone. A setting that the projector does
 /// not offer is an error if its key was given, and a note if a pattern includes it.

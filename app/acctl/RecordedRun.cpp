@@ -7,7 +7,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include "app/acctl/Report.h"
+#include "app/acctl/Message.h"
 #include "fleet/FleetUndo.h"
 
 namespace {
@@ -41,7 +41,7 @@ void TakeLines(const QByteArray& text, RecordedRun& run) {
   for (qsizetype i = 0; i + 1 < lines.size(); ++i) {
     if (TakeLine(QJsonDocument::fromJson(lines[i]).object(), run)) continue;
     if (lines[i + 1].startsWith("{\"undone\"")) continue;
-    run.error = QStringLiteral("%1:%2: not a line of an undo file").arg(run.path).arg(i + 1);
+    run.error = Acctl::tr("%1:%2: not a line of an undo file").arg(run.path).arg(i + 1);
     return;
   }
 }
@@ -59,7 +59,7 @@ RecordedRun ParseRun(const QByteArray& text, const QString& path) {
     if (!job.error.isEmpty()) run.error = path + QStringLiteral(": ") + job.error;
   }
   if (run.error.isEmpty() && run.undo.empty()) {
-    run.error = path + QStringLiteral(": there is nothing to undo");
+    run.error = Acctl::tr("%1: there is nothing to undo").arg(path);
   }
   return run;
 }

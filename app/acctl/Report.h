@@ -8,6 +8,8 @@
 #include <QJsonObject>
 #include <QString>
 
+#include "app/acctl/Message.h"
+
 /// How the program ends. If several apply, the highest is used.
 namespace ExitCode {
 inline constexpr int Done = 0;
@@ -48,7 +50,7 @@ inline constexpr const char* Internal = "internal";
 /// Something that went wrong or was left out.
 struct Problem {
   const char* code;     ///< One of `ProblemCode`.
-  std::string text;     ///< One line for people, in English.
+  std::string text;     ///< One line for people.
   std::string key{};    ///< The setting; empty if it is not about one.
   std::string place{};  ///< What stands before the text instead of the key; empty for the key.
   int exitCode = ExitCode::Refused;  ///< `Done` for a note, which is no error.
@@ -72,11 +74,6 @@ struct Report {
   }
 };
 
-/// "1 projector", "2 projectors"
-inline std::string Counted(int count, std::string_view what) {
-  return std::to_string(count) + ' ' + std::string(what) + (count == 1 ? "" : "s");
-}
-
-inline QString Wide(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+inline std::string CountedProjectors(int count) {
+  return Message(Acctl::tr("%n projectors", nullptr, count));
 }

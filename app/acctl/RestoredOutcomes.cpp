@@ -8,6 +8,7 @@
 #include <QJsonArray>
 
 #include "app/acctl/Aliases.h"
+#include "app/acctl/Message.h"
 #include "app/profiles/Table.h"
 
 namespace {
@@ -22,25 +23,36 @@ struct OutcomeList {
 };
 
 constexpr std::array<OutcomeList, 12> kLists{{
-    {Outcome::Changed, "changed", "changed", nullptr, nullptr, ExitCode::Done},
-    {Outcome::Differs, "different", "different", nullptr, nullptr, ExitCode::Done},
-    {Outcome::AlreadySo, "alreadySo", "already so", nullptr, nullptr, ExitCode::Done},
-    {Outcome::Pending, "pending", "not yet so", "accepted, but not so yet", ProblemCode::Pending,
+    {Outcome::Changed, "changed", QT_TRANSLATE_N_NOOP("Acctl", "%n changed"), nullptr, nullptr,
      ExitCode::Done},
-    {Outcome::Refused, "refused", "refused", nullptr, ProblemCode::Refused, ExitCode::Refused},
-    {Outcome::Busy, "busy", "busy", "the projector is busy or in standby", ProblemCode::Busy,
+    {Outcome::Differs, "different", QT_TRANSLATE_N_NOOP("Acctl", "%n different"), nullptr, nullptr,
+     ExitCode::Done},
+    {Outcome::AlreadySo, "alreadySo", QT_TRANSLATE_N_NOOP("Acctl", "%n already so"), nullptr,
+     nullptr, ExitCode::Done},
+    {Outcome::Pending, "pending", QT_TRANSLATE_N_NOOP("Acctl", "%n not yet so"),
+     QT_TRANSLATE_NOOP("Acctl", "accepted, but not so yet"), ProblemCode::Pending, ExitCode::Done},
+    {Outcome::Refused, "refused", QT_TRANSLATE_N_NOOP("Acctl", "%n refused"), nullptr,
+     ProblemCode::Refused, ExitCode::Refused},
+    {Outcome::Busy, "busy", QT_TRANSLATE_N_NOOP("Acctl", "%n busy"),
+     QT_TRANSLATE_NOOP("Acctl", "the projector is busy or in standby"), ProblemCode::Busy,
      ExitCode::Refused},
-    {Outcome::Unconfirmed, "unconfirmed", "unconfirmed", "not confirmed, it may have changed",
-     ProblemCode::Unconfirmed, ExitCode::Refused},
-    {Outcome::NotReached, "notDone", "not done", nullptr, ProblemCode::Stopped, ExitCode::Done},
-    {Outcome::Unknown, "skipped", nullptr, "skipped, this model does not have it",
-     ProblemCode::NoSuchSetting, ExitCode::Done},
-    {Outcome::NotOffered, "skipped", nullptr, "skipped, this projector does not offer it",
+    {Outcome::Unconfirmed, "unconfirmed", QT_TRANSLATE_N_NOOP("Acctl", "%n unconfirmed"),
+     QT_TRANSLATE_NOOP("Acctl", "not confirmed, it may have changed"), ProblemCode::Unconfirmed,
+     ExitCode::Refused},
+    {Outcome::NotReached, "notDone", QT_TRANSLATE_N_NOOP("Acctl", "%n not done"), nullptr,
+     ProblemCode::Stopped, ExitCode::Done},
+    {Outcome::Unknown, "skipped", nullptr,
+     QT_TRANSLATE_NOOP("Acctl", "skipped, this model does not have it"), ProblemCode::NoSuchSetting,
+     ExitCode::Done},
+    {Outcome::NotOffered, "skipped", nullptr,
+     QT_TRANSLATE_NOOP("Acctl", "skipped, this projector does not offer it"),
      ProblemCode::NotOffered, ExitCode::Done},
-    {Outcome::NotSettable, "skipped", nullptr, "skipped, it cannot be restored",
-     ProblemCode::NotPossible, ExitCode::Done},
-    {Outcome::NotAllowed, "skipped", nullptr, "skipped, this model does not take it",
-     ProblemCode::OutOfRange, ExitCode::Done},
+    {Outcome::NotSettable, "skipped", nullptr,
+     QT_TRANSLATE_NOOP("Acctl", "skipped, it cannot be restored"), ProblemCode::NotPossible,
+     ExitCode::Done},
+    {Outcome::NotAllowed, "skipped", nullptr,
+     QT_TRANSLATE_NOOP("Acctl", "skipped, this model does not take it"), ProblemCode::OutOfRange,
+     ExitCode::Done},
 }};
 
 const OutcomeList& ListOf(Outcome outcome) {
@@ -80,25 +92,26 @@ bool RestoredOutcomes::IsStopped(const RestoredSetting& restored) const {
 ReportedSetting RestoredOutcomes::Judge(const RestoredSetting& restored) const {
   const auto isNow = [&] { return work_.texts.Shown().Value(*restored.setting, *restored.now); };
   if (IsStopped(restored)) {
-    return {&restored, Outcome::NotReached, ProblemCode::Stopped, "stopped at " + isNow()};
+    return {&restored, Outcome::NotReached, ProblemCode::Stopped,
+            Message(Acctl::tr("stopped at %1"), isNow())};
   }
   const bool lacksEntries = restored.setting != nullptr && target_.LacksEntries(*restored.setting);
   if (restored.outcome == Outcome::NotSettable && lacksEntries) {
-    return {&restored, Outcome::NotReached, ProblemCode::InputsUnknown, kInputsNotRead,
+    return {&restored, Outcome::NotReached, ProblemCode::InputsUnknown, InputsNotRead(),
             ExitCode::NoAnswer};
   }
   if (restored.outcome == Outcome::NotOffered && !target_.Carries(kSaved, *restored.setting)) {
-    return {&restored, Outcome::NotOffered, ProblemCode::NotInProtocol, kNotInPjLink};
+    return {&restored, Outcome::NotOffered, ProblemCode::NotInProtocol, NotInPjLink()};
   }
   if (Sends() && restored.outcome == Outcome::Differs && restored.setting->IsStepped() &&
       std::abs(*restored.before - restored.saved.value) > kMostSteps) {
     return {&restored, Outcome::NotReached, ProblemCode::OutOfRange,
-            "not sent, it is more than " + std::to_string(kMostSteps) + " steps away",
+            Message(Acctl::tr("not sent, it is more than %n steps away", nullptr, kMostSteps)),
             ExitCode::Refused};
   }
   if (restored.outcome == Outcome::Refused) {
-    const std::string reason =
-        restored.now ? "refused, it is " + isNow() : std::string("it ") + kNotReadable;
+    const std::string reason = restored.now ? Message(Acctl::tr("refused, it is %1"), isNow())
+                                            : Message(Acctl::tr("it cannot be read now"));
     return {&restored, Outcome::Refused,
             restored.now ? ProblemCode::Refused : ProblemCode::NotReadable, reason,
             ExitCode::Refused};
@@ -118,18 +131,19 @@ std::string RestoredOutcomes::Summary() const {
   std::string text;
   int skipped = 0;
   const auto add = [&text](int count, const char* what) {
-    if (count > 0) text += (text.empty() ? "" : ", ") + std::to_string(count) + ' ' + what;
+    if (count > 0) text += (text.empty() ? "" : ", ") + Message(Acctl::tr(what, nullptr, count));
   };
   for (const OutcomeList& list : kLists) {
     if (list.text == nullptr) {
       skipped += Count(list.outcome);
     } else {
       const bool isLeft = list.outcome == Outcome::NotReached && !Sends();
-      add(Count(list.outcome), isLeft ? "not compared" : list.text);
+      add(Count(list.outcome),
+          isLeft ? QT_TRANSLATE_N_NOOP("Acctl", "%n not compared") : list.text);
     }
   }
-  add(skipped, "skipped");
-  return text.empty() ? "nothing to do" : text;
+  add(skipped, QT_TRANSLATE_N_NOOP("Acctl", "%n skipped"));
+  return text.empty() ? Message(Acctl::tr("nothing to do")) : text;
 }
 
 QJsonObject RestoredOutcomes::Describe(const ReportedSetting& reported) const {
@@ -171,7 +185,7 @@ void RestoredOutcomes::PutInto(Report& report) const {
     if (!reported.reason.empty()) {
       json["reason"] = Wide(reported.reason);
     } else if (list.problem != nullptr) {
-      json["reason"] = list.problem;
+      json["reason"] = Acctl::tr(list.problem);
     }
     lists[list.member].append(json);
     if (reported.outcome == Outcome::NotOffered && !reported.reason.empty()) {
@@ -179,7 +193,8 @@ void RestoredOutcomes::PutInto(Report& report) const {
     } else if (!reported.reason.empty()) {
       report.Add({reported.code, reported.reason, saved.key, NameOf(saved), reported.exitCode});
     } else if (list.problem != nullptr && list.exitCode != ExitCode::Done) {
-      report.Add({list.code, list.problem, saved.key, NameOf(saved), list.exitCode});
+      report.Add(
+          {list.code, Message(Acctl::tr(list.problem)), saved.key, NameOf(saved), list.exitCode});
     } else if (list.problem != nullptr) {
       std::string& same = keys[static_cast<std::size_t>(&list - kLists.data())];
       same += (same.empty() ? "" : ", ") + NameOf(saved);
@@ -188,14 +203,15 @@ void RestoredOutcomes::PutInto(Report& report) const {
   for (std::size_t i = 0; i < kLists.size(); ++i) {
     if (keys[i].empty()) continue;
     report.Add({.code = kLists[i].code,
-                .text = std::string(kLists[i].problem) + ": " + keys[i],
+                .text = Message(Acctl::tr("%1: %2"), Acctl::tr(kLists[i].problem), keys[i]),
                 .exitCode = kLists[i].exitCode});
   }
   if (notInPjLink > 0) {
-    report.Add({.code = ProblemCode::NotInProtocol,
-                .text = std::string("skipped, ") + kNotInPjLink + ": " +
-                        std::to_string(notInPjLink) + " of the file's settings",
-                .exitCode = ExitCode::Done});
+    report.Add(
+        {.code = ProblemCode::NotInProtocol,
+         .text = Message(Acctl::tr("skipped, PJLink does not have them: %n of the file's settings",
+                                   nullptr, notInPjLink)),
+         .exitCode = ExitCode::Done});
   }
   for (const auto& [member, list] : lists) report.json[member] = list;
 }

@@ -2,6 +2,7 @@
 
 #include "app/acctl/Commands.h"
 #include "app/acctl/FileCheck.h"
+#include "app/acctl/Message.h"
 #include "app/acctl/Reading.h"
 #include "app/acctl/RestoredOutcomes.h"
 #include "app/acctl/Selection.h"
@@ -57,8 +58,9 @@ Report RunApply(const Work& work, ProjectorAccess& projector) {
   });
   if (wasKept) report.json["undo"] = work.undo->Path();
   if (!isKept) {
-    report.Add({ProblemCode::File, work.undo->Error().toStdString() +
-                                       (wasKept ? "; no more was sent" : "; nothing was sent")});
+    const QString error = work.undo->Error();
+    report.Add({ProblemCode::File, wasKept ? Message(Acctl::tr("%1; no more was sent"), error)
+                                           : Message(Acctl::tr("%1; nothing was sent"), error)});
   }
   ReportIfGone(projector, report);
   const RestoredOutcomes outcomes(work, TargetOf(projector), restoration);

@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include "app/acctl/Message.h"
 #include "app/acctl/Selection.h"
 #include "fleet/WholeFile.h"
 
@@ -26,8 +27,8 @@ std::string CheckUndo(const Arguments& arguments, const Snapshot& file,
   const auto other = std::ranges::find_if(
       projectors, [&file](const FleetProfile* profile) { return profile->name != file.projector; });
   if (other == projectors.end()) return {};
-  return arguments.file + ": undoes a change of " + file.projector + "; --force applies it to " +
-         (*other)->name;
+  return Message(Acctl::tr("%1: undoes a change of %2; --force applies it to %3"), arguments.file,
+                 file.projector, (*other)->name);
 }
 
 /// Takes the settings that --only means, and checks that there are some for each pattern.
@@ -37,7 +38,7 @@ std::string CheckOnly(const Arguments& arguments, SettingsFileContents& contents
     const bool isNone = std::ranges::none_of(
         snapshot.settings,
         [&pattern](const SavedSetting& saved) { return IsLike(saved.key, {pattern}); });
-    if (isNone) return "--only " + pattern + ": the file has no such setting";
+    if (isNone) return Message(Acctl::tr("--only %1: the file has no such setting"), pattern);
   }
   // A part of these would be restored under a source or mode that they do not belong to.
   if (!arguments.only.empty()) snapshot.beforehand.clear();
@@ -54,20 +55,25 @@ std::string LoadFolder(const Arguments& arguments, Projectors& projectors,
     const std::string projector = contents.snapshot.projector;
     const std::string path = contents.name.toStdString();
     if (FindProfile(profiles, projector) == nullptr) {
-      left.push_back(
-          {ProblemCode::NoSuchProjector, path + ": there is no projector '" + projector + "'"});
+      left.push_back({ProblemCode::NoSuchProjector,
+                      Message(Acctl::tr("%1: there is no projector '%2'"), path, projector)});
       continue;
     }
     if (!arguments.only.empty()) contents.snapshot.beforehand.clear();
     const auto [other, isNew] = files.own.try_emplace(projector, std::move(contents));
-    if (!isNew) return path + ": " + other->second.name.toStdString() + " is also of " + projector;
+    if (!isNew) {
+      //: Two files, and the projector that both are of.
+      return Message(Acctl::tr("%1: %2 is also of %3"), path, other->second.name, projector);
+    }
   }
-  if (files.own.empty()) return arguments.file + ": the folder has no files of settings";
+  if (files.own.empty()) {
+    return Message(Acctl::tr("%1: the folder has no files of settings"), arguments.file);
+  }
   std::erase_if(projectors, [&](const FleetProfile* profile) {
     const bool isMissing = !files.own.contains(profile->name);
     if (isMissing && !arguments.projectors.empty()) {
-      left.push_back(
-          {ProblemCode::File, profile->name + ": there is no file of it in " + arguments.file});
+      left.push_back({ProblemCode::File, Message(Acctl::tr("%1: there is no file of it in %2"),
+                                                 profile->name, arguments.file)});
     }
     return isMissing;
   });
@@ -79,7 +85,7 @@ std::string WhyKept(const std::string& path, bool force) {
   const QFileInfo info(Wide(path));
   if (force || path == "-" || !info.isFile() || info.size() == 0) return {};
   if (ReadSettingsFile(Wide(path)).error.isEmpty()) return {};
-  return path + ": is not a file of settings; --force replaces it";
+  return Message(Acctl::tr("%1: is not a file of settings; --force replaces it"), path);
 }
 
 /// The file of a projector in a folder: a new one, or its own.
@@ -107,8 +113,8 @@ std::string LoadSettingsFiles(const Arguments& arguments, Projectors& projectors
   }
   if (arguments.projectors.empty()) {
     const bool isMissing = arguments.file != "-" && !QFileInfo::exists(Wide(arguments.file));
-    return isMissing ? arguments.file + ": there is no such file or folder"
-                     : "name the projectors to which the file is applied";
+    return isMissing ? Message(Acctl::tr("%1: there is no such file or folder"), arguments.file)
+                     : Message(Acctl::tr("name the projectors to which the file is applied"));
   }
   files.common = ReadSettingsFile(Wide(arguments.file));
   if (!files.common.error.isEmpty()) return files.common.error.toStdString();
@@ -120,13 +126,15 @@ std::string ChooseSavePaths(const Arguments& arguments, const Projectors& projec
                             std::map<std::string, std::string>& paths) {
   if (arguments.folder.empty()) {
     if (projectors.size() > 1) {
-      return "one file is for one projector, not " + std::to_string(projectors.size()) +
-             "; -o names a folder";
+      return Message(Acctl::tr("one file is for one projector, not %1; -o names a folder"),
+                     projectors.size());
     }
     for (const FleetProfile* profile : projectors) paths[profile->name] = arguments.file;
     return WhyKept(arguments.file, arguments.force);
   }
-  if (!QDir().mkpath(Wide(arguments.folder))) return "cannot make the folder " + arguments.folder;
+  if (!QDir().mkpath(Wide(arguments.folder))) {
+    return Message(Acctl::tr("cannot make the folder %1"), arguments.folder);
+  }
   const QDir folder(Wide(arguments.folder));
   std::set<std::string> taken;
   for (const FleetProfile* profile : projectors) {
@@ -155,15 +163,17 @@ std::string ChooseRun(const Arguments& arguments, RecordedRun& run) {
     return !recorded.error.isEmpty() || (!recorded.isUndo && !recorded.isUndone);
   });
   if (found != runs.end() && !found->error.isEmpty()) {
-    const char* const help = arguments.file.empty() ? "; name an earlier run to undo that one" : "";
-    return found->error.toStdString() + help;
+    return arguments.file.empty()
+               ? Message(Acctl::tr("%1; name an earlier run to undo that one"), found->error)
+               : found->error.toStdString();
   }
   if (found != runs.end()) {
     run = std::move(*found);
     return {};
   }
-  return arguments.file.empty() ? "there is no run to undo"
-                                : "there is no run '" + arguments.file + "'; --list shows them";
+  return arguments.file.empty()
+             ? Message(Acctl::tr("there is no run to undo"))
+             : Message(Acctl::tr("there is no run '%1'; --list shows them"), arguments.file);
 }
 
 void TakeRun(const RecordedRun& run, const std::vector<FleetProfile>& profiles,
@@ -179,6 +189,7 @@ void TakeRun(const RecordedRun& run, const std::vector<FleetProfile>& profiles,
   for (const auto& [id, snapshot] : run.undo) {
     if (known.contains(id)) continue;
     left.push_back(
-        {ProblemCode::NoSuchProjector, snapshot->projector + ": is no longer in the profile file"});
+        {ProblemCode::NoSuchProjector,
+         Message(Acctl::tr("%1: is no longer in the profile file"), snapshot->projector)});
   }
 }

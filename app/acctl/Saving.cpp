@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "app/acctl/Commands.h"
+#include "app/acctl/Message.h"
 #include "app/acctl/Reading.h"
 #include "app/acctl/Selection.h"
 #include "fleet/WholeFile.h"
@@ -21,12 +22,12 @@ bool AddUnread(const Work& work, ProjectorAccess& projector, std::vector<std::st
   const ModelSetting* const input = target.settings.Input();
   const bool isInputUnread = input != nullptr && target.LacksEntries(*input) && isMeant(input->key);
   const auto power = unread.empty() && !isInputUnread ? std::nullopt : AskPower(projector);
-  const bool rests = RestOf(power) != nullptr;
+  const bool rests = Rests(power);
   if (isInputUnread && rests) unread.emplace_back(input->key);
-  ReportUnread(unread, power, "cannot be read now, and is left out", report);
+  ReportUnread(unread, power, Message(Acctl::tr("cannot be read now, and is left out")), report);
   if (isInputUnread && !rests) {
     report.Add({ProblemCode::InputsUnknown,
-                kInputsNotRead,
+                InputsNotRead(),
                 std::string(input->key),
                 {},
                 ExitCode::NoAnswer});
@@ -55,7 +56,7 @@ Report RunSave(const Work& work, ProjectorAccess& projector) {
   const bool rests = AddUnread(work, projector, std::move(unread), report);
   if (snapshot.settings.empty()) {
     report.Add({.code = ProblemCode::NotReadable,
-                .text = "nothing can be read, and nothing was written",
+                .text = Message(Acctl::tr("nothing can be read, and nothing was written")),
                 .exitCode = rests ? ExitCode::Done : ExitCode::Refused});
     report.json["saved"] = 0;
     return report;
@@ -71,7 +72,7 @@ Report RunSave(const Work& work, ProjectorAccess& projector) {
     return report;
   }
   const auto count = static_cast<int>(snapshot.settings.size());
-  report.text = Counted(count, "setting") + " saved in " + file + '\n';
+  report.text = Message(Acctl::tr("%n settings saved in %1", nullptr, count), file) + '\n';
   report.json["file"] = Wide(file);
   report.json["saved"] = count;
   return report;

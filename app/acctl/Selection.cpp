@@ -4,6 +4,8 @@
 #include <fnmatch.h>
 #include <unordered_set>
 
+#include "app/acctl/Message.h"
+
 namespace {
 
 bool Fits(std::string_view text, std::string_view pattern) {
@@ -77,7 +79,8 @@ class Selector {
       found = true;
     }
     if (!found && selection_.error.empty()) {
-      selection_.error = "there is no projector '" + std::string(term) + "'; acctl list shows all";
+      selection_.error =
+          Message(Acctl::tr("there is no projector '%1'; acctl list shows all"), term);
     }
   }
 

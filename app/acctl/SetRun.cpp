@@ -5,6 +5,7 @@
 #include <thread>
 #include <utility>
 
+#include "app/acctl/Message.h"
 #include "app/acctl/Reading.h"
 #include "app/acctl/UndoRuns.h"
 
@@ -13,6 +14,18 @@ namespace {
 /// A projector that is changing its power state counts as done.
 bool IsSo(const ModelSetting& setting, int value, int now) {
   return setting.kind == ModelSetting::Kind::State ? (now == 1) == (value == 1) : now == value;
+}
+
+std::string BusyText(std::optional<PowerState> power) {
+  if (power == PowerState::Standby) {
+    return Message(Acctl::tr("refused, the projector is in standby"));
+  }
+  if (power == PowerState::WarmingUp) {
+    return Message(Acctl::tr("refused, the projector is warming up"));
+  }
+  return power == PowerState::CoolingDown
+             ? Message(Acctl::tr("refused, the projector is cooling down"))
+             : Message(Acctl::tr("refused, the projector is busy"));
 }
 
 }  // namespace
@@ -102,7 +115,7 @@ void SetRun::Make() {
   }
   if (isKept) return;
   report_.Add({.code = ProblemCode::File,
-               .text = "this cannot be undone: " + work_.undo->Error().toStdString(),
+               .text = Message(Acctl::tr("this cannot be undone: %1"), work_.undo->Error()),
                .exitCode = ExitCode::Done});
 }
 
@@ -131,15 +144,19 @@ void SetRun::MakeSteps(Result& result) {
     result.outcome = "done";
     return;
   }
-  const std::string accepted = std::to_string(done) + " of " + std::to_string(std::abs(wanted)) +
-                               (std::abs(wanted) == 1 ? " step" : " steps") + " accepted";
   const CPjtInterface::Tally after = projector_.Connection().Sent();
   if (after.commands - before.commands == done) {
-    Fail(result, "stopped", ProblemCode::Stopped, "stopped, " + accepted, ExitCode::Done);
+    Fail(result, "stopped", ProblemCode::Stopped,
+         Message(Acctl::tr("stopped, %1 of %n steps accepted", nullptr, std::abs(wanted)), done),
+         ExitCode::Done);
     return;
   }
   Judge(result, before, false, after);
-  if (result.problem) result.problem->text += "; " + accepted;
+  if (result.problem) {
+    result.problem->text =
+        Message(Acctl::tr("%1; %2 of %n steps accepted", nullptr, std::abs(wanted)),
+                result.problem->text, done);
+  }
 }
 
 void SetRun::Fail(Result& result, const char* outcome, const char* code, std::string text,
@@ -151,7 +168,7 @@ void SetRun::Fail(Result& result, const char* outcome, const char* code, std::st
 
 std::string SetRun::NowText(const Result& result) const {
   if (!result.now) return {};
-  return ", it is " + work_.texts.Shown().Value(*result.change->setting, *result.now);
+  return work_.texts.Shown().Value(*result.change->setting, *result.now);
 }
 
 /// Decides the outcome of a change from the commands that were sent between `before` and `after`,
@@ -159,51 +176,57 @@ std::string SetRun::NowText(const Result& result) const {
 void SetRun::Judge(Result& result, const CPjtInterface::Tally& before, bool accepted,
                    const CPjtInterface::Tally& after) {
   const ModelSetting& setting = *result.change->setting;
-  const std::string isNow = NowText(result);
+  const std::string now = NowText(result);
   if (result.now && IsSo(setting, *result.aim, *result.now)) {
     result.outcome = "done";
     return;
   }
   if (work_.isInterrupted() && setting.IsStepped() && result.now) {
-    return Fail(result, "stopped", ProblemCode::Stopped, "stopped at " + isNow.substr(8),
+    return Fail(result, "stopped", ProblemCode::Stopped, Message(Acctl::tr("stopped at %1"), now),
                 ExitCode::Done);
   }
   const bool isAnswered = projector_.Channel().HasAnswered();
   // If it does not answer any more, nobody knows.
   if (after.pending > before.pending && isAnswered) {
-    return Fail(result, "pending", ProblemCode::Pending, "accepted, but not so yet" + isNow,
+    return Fail(result, "pending", ProblemCode::Pending,
+                result.now ? Message(Acctl::tr("accepted, but not so yet, it is %1"), now)
+                           : Message(Acctl::tr("accepted, but not so yet")),
                 ExitCode::Done);
   }
   const Problem silence = NoAnswerOf(projector_);
   if (after.uncertain > before.uncertain) {
-    return Fail(result, "unconfirmed", silence.code,
-                silence.text + ", it may have been changed" + isNow, ExitCode::NoAnswer);
+    return Fail(
+        result, "unconfirmed", silence.code,
+        result.now ? Message(Acctl::tr("%1, it may have been changed, it is %2"), silence.text, now)
+                   : Message(Acctl::tr("%1, it may have been changed"), silence.text),
+        ExitCode::NoAnswer);
   }
   if (after.unanswered > before.unanswered) {
     return Fail(result, "notDone", silence.code, silence.text, ExitCode::NoAnswer);
   }
   if (after.notOffered > before.notOffered) {
-    return Fail(result, "refused", ProblemCode::NotOffered, kNotOffered, ExitCode::Refused);
+    return Fail(result, "refused", ProblemCode::NotOffered, NotOffered(), ExitCode::Refused);
   }
   const bool isBusy = after.busy > before.busy;
   if (isBusy || (!accepted && !result.now)) {
     const auto power = AskPower(projector_);
-    const char* const rest = RestOf(power);
-    if (rest != nullptr || isBusy) {
-      return Fail(result, "busy", rest != nullptr ? RestCodeOf(*power) : ProblemCode::Busy,
-                  std::string("refused, the projector is ") + (rest != nullptr ? rest : "busy"),
-                  ExitCode::Refused);
+    if (Rests(power) || isBusy) {
+      return Fail(result, "busy", Rests(power) ? RestCodeOf(*power) : ProblemCode::Busy,
+                  BusyText(power), ExitCode::Refused);
     }
   }
   if (!accepted || result.now) {
-    return Fail(result, "refused", ProblemCode::Refused, "refused" + isNow, ExitCode::Refused);
+    return Fail(
+        result, "refused", ProblemCode::Refused,
+        result.now ? Message(Acctl::tr("refused, it is %1"), now) : Message(Acctl::tr("refused")),
+        ExitCode::Refused);
   }
   if (!setting.readable) {
     result.outcome = "done";
     return;
   }
-  const Problem failure = FailureOf(projector_, {ProblemCode::Unconfirmed, kNotReadable});
-  Fail(result, "unconfirmed", failure.code, "accepted, but " + failure.text,
+  const Problem failure = FailureOf(projector_, {ProblemCode::Unconfirmed, NotReadable()});
+  Fail(result, "unconfirmed", failure.code, Message(Acctl::tr("accepted, but %1"), failure.text),
        isAnswered ? ExitCode::Refused : ExitCode::NoAnswer);
 }
 
@@ -245,7 +268,9 @@ void SetRun::WaitForEffect(std::chrono::milliseconds time) {
     if (projector_.Channel().IsGone()) {
       Fail(result, "unconfirmed", silence.code, silence.text, ExitCode::NoAnswer);
     } else {
-      Fail(result, "pending", ProblemCode::Pending, "not so in time" + NowText(result),
+      Fail(result, "pending", ProblemCode::Pending,
+           result.now ? Message(Acctl::tr("not so in time, it is %1"), NowText(result))
+                      : Message(Acctl::tr("not so in time")),
            ExitCode::Refused);
     }
   }
@@ -285,11 +310,13 @@ void SetRun::AddUnknownBefore(const Result& result) {
   const bool isReadable = setting.readable && !TargetOf(projector_).OnlySteps(setting);
   if (result.before || !wasReached || !isReadable) return;
   const bool isMissed = setting.Restorable() && !work_.arguments.dryRun;
-  report_.Add({.code = ProblemCode::NotReadable,
-               .text = isMissed ? "the value before could not be read, and cannot be restored"
-                                : "the value before could not be read",
-               .key = std::string(setting.key),
-               .exitCode = ExitCode::Done});
+  report_.Add(
+      {.code = ProblemCode::NotReadable,
+       .text = Message(isMissed
+                           ? Acctl::tr("the value before could not be read, and cannot be restored")
+                           : Acctl::tr("the value before could not be read")),
+       .key = std::string(setting.key),
+       .exitCode = ExitCode::Done});
 }
 
 void SetRun::Finish() {

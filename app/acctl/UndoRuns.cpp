@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QStandardPaths>
 
+#include "app/acctl/Message.h"
 #include "fleet/WholeFile.h"
 
 namespace {
@@ -51,7 +52,7 @@ RecordedRun ReadRun(const QString& path) {
   if (file.error.isEmpty()) return ParseRun(file.bytes, path);
   return {.path = path,
           .name = QFileInfo(path).completeBaseName().toStdString(),
-          .error = QStringLiteral("cannot read %1: %2").arg(path, file.error)};
+          .error = Acctl::tr("cannot read %1: %2").arg(path, file.error)};
 }
 
 std::vector<RecordedRun> ListRuns(const QString& folder) {
@@ -107,8 +108,8 @@ bool UndoRecorder::Create(const QByteArray& line) {
 
 bool UndoRecorder::Append(const QByteArray& line) {
   if (WriteAndSync(file_, line)) return true;
-  error_ = QStringLiteral("cannot write %1: %2")
-               .arg(path_, QString::fromLocal8Bit(std::strerror(errno)));
+  error_ =
+      Acctl::tr("cannot write %1: %2").arg(path_, QString::fromLocal8Bit(std::strerror(errno)));
   return false;
 }
 

@@ -21,6 +21,20 @@ bool IsInPjLink(const std::optional<Call>& call) {
   return call && PjLinkChannel::Has(call->Command());
 }
 
+/// Why the connection has no answer.
+QString ReasonOf(ConnectionState state) {
+  [[maybe_unused]] static constexpr const char* kReasons[] = {
+      QT_TRANSLATE_NOOP("Acctl", "wrong connection parameters"),
+      QT_TRANSLATE_NOOP("Acctl", "unknown host name"),
+      QT_TRANSLATE_NOOP("Acctl", "not reachable"),
+      QT_TRANSLATE_NOOP("Acctl", "connection lost"),
+      QT_TRANSLATE_NOOP("Acctl", "answers are not understood"),
+      QT_TRANSLATE_NOOP("Acctl", "another version of the protocol"),
+      QT_TRANSLATE_NOOP("Acctl", "password missing or wrong"),
+  };
+  return Acctl::tr(std::string(ConnectionStateText(state)).c_str());
+}
+
 bool Names(const Target& target, const Use& use, const std::string& word,
            const ModelSetting& setting) {
   if (setting.key == word) return true;
@@ -73,7 +87,7 @@ bool IsResetOverPjLink(const ModelSetting& setting, const ModelData&) {
 }
 
 Problem NoAnswerOf(const ProjectorAccess& projector) {
-  Problem problem{ProblemCode::NoAnswer, "no answer"};
+  Problem problem{ProblemCode::NoAnswer, Message(Acctl::tr("no answer"))};
   problem.exitCode = ExitCode::NoAnswer;
   switch (const ConnectionState state = projector.Channel().Connection()) {
     case ConnectionState::None:
@@ -86,7 +100,7 @@ Problem NoAnswerOf(const ProjectorAccess& projector) {
       problem.code = ProblemCode::WrongPassword;
       [[fallthrough]];
     default:
-      problem.text += " (" + std::string(ConnectionStateText(state)) + ')';
+      problem.text = Message(Acctl::tr("no answer (%1)"), ReasonOf(state));
       return problem;
   }
 }
@@ -101,7 +115,7 @@ Problem FailureOf(const ProjectorAccess& projector, Problem otherwise) {
   }
   if (!channel.IsOffered()) {
     problem.code = ProblemCode::NotOffered;
-    problem.text = kNotOffered;
+    problem.text = NotOffered();
   }
   return problem;
 }
@@ -126,7 +140,7 @@ bool IsLack(const Problem& problem) {
 
 Problem LackOf(std::string_view word, bool isInModel, bool isForSeveral) {
   return {.code = isInModel ? ProblemCode::NotInProtocol : ProblemCode::NoSuchSetting,
-          .text = isInModel ? kNotInPjLink : kNoSuchSetting,
+          .text = isInModel ? NotInPjLink() : Message(Acctl::tr("this model has no such setting")),
           .key = std::string(word),
           .exitCode = isForSeveral ? ExitCode::Refused : ExitCode::WrongUse};
 }
@@ -156,13 +170,13 @@ std::vector<const ModelSetting*> Chosen(const Target& target, const Use& use,
     });
     if (exists && !isPossible) {
       report.Add({.code = ProblemCode::NotPossible,
-                  .text = use.refusal,
+                  .text = Message(Acctl::tr(use.refusal)),
                   .key = word,
                   .exitCode = ExitCode::WrongUse});
     } else if (isPossible && FindSetting(settings, word) == nullptr) {
       // One pattern is for projectors of every kind.
       report.Add({.code = ProblemCode::NotInProtocol,
-                  .text = std::string("skipped, ") + kNotInPjLink,
+                  .text = Message(Acctl::tr("skipped, PJLink does not have it")),
                   .key = word,
                   .exitCode = ExitCode::Done});
     } else {

@@ -5,14 +5,16 @@
 #include <vector>
 
 #include "app/acctl/Arguments.h"
+#include "app/acctl/Message.h"
 #include "app/acctl/Report.h"
 #include "app/profiles/ProjectorAccess.h"
 
-inline constexpr const char* kNotReadable = "cannot be read now";
-inline constexpr const char* kNotOffered = "this projector does not offer it";
-inline constexpr const char* kInputsNotRead = "not read, the projector did not report its inputs";
-inline constexpr const char* kNotInPjLink = "PJLink does not have it";
-inline constexpr const char* kNoSuchSetting = "this model has no such setting";
+inline std::string NotReadable() { return Message(Acctl::tr("cannot be read now")); }
+inline std::string NotOffered() { return Message(Acctl::tr("this projector does not offer it")); }
+inline std::string InputsNotRead() {
+  return Message(Acctl::tr("not read, the projector did not report its inputs"));
+}
+inline std::string NotInPjLink() { return Message(Acctl::tr("PJLink does not have it")); }
 
 struct Use;
 
@@ -62,18 +64,19 @@ inline constexpr Use kListed{[](const ModelSetting&) { return true; }, "",
                                       IsChangedOverPjLink(setting, model);
                              }};
 inline constexpr Use kRead{[](const ModelSetting& setting) { return setting.readable; },
-                           "this cannot be read", IsReadOverPjLink};
+                           QT_TRANSLATE_NOOP("Acctl", "this cannot be read"), IsReadOverPjLink};
 inline constexpr Use kSet{[](const ModelSetting& setting) { return setting.changeable; },
-                          "this cannot be set", IsChangedOverPjLink};
-inline constexpr Use kSaved{
-    [](const ModelSetting& setting) { return setting.Restorable(); }, "this cannot be restored",
-    [](const ModelSetting& setting, const ModelData& model) {
-      return IsReadOverPjLink(setting, model) && IsChangedOverPjLink(setting, model);
-    }};
+                          QT_TRANSLATE_NOOP("Acctl", "this cannot be set"), IsChangedOverPjLink};
+inline constexpr Use kSaved{[](const ModelSetting& setting) { return setting.Restorable(); },
+                            QT_TRANSLATE_NOOP("Acctl", "this cannot be restored"),
+                            [](const ModelSetting& setting, const ModelData& model) {
+                              return IsReadOverPjLink(setting, model) &&
+                                     IsChangedOverPjLink(setting, model);
+                            }};
 // Resetting an hour counter cannot be undone, so no pattern or short name stands for one.
 inline constexpr Use kReset{
-    [](const ModelSetting& setting) { return setting.reset.has_value(); }, "this cannot be reset",
-    IsResetOverPjLink,
+    [](const ModelSetting& setting) { return setting.reset.has_value(); },
+    QT_TRANSLATE_NOOP("Acctl", "this cannot be reset"), IsResetOverPjLink,
     [](const ModelSetting& setting) { return setting.kind != ModelSetting::Kind::State; }};
 
 /// What `get`, `set`, `reset` and `watch` can use; for any other command everything.

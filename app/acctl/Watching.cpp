@@ -10,6 +10,7 @@
 #include <QJsonDocument>
 
 #include "app/acctl/Conditions.h"
+#include "app/acctl/Message.h"
 #include "app/acctl/Output.h"
 #include "app/acctl/ProjectorRuns.h"
 #include "app/acctl/Reading.h"
@@ -29,6 +30,16 @@ struct Seen {
     return !value || texts.Code(setting, *value, power) == texts.Code(setting, *value, other.power);
   }
 };
+
+/// Adds to a problem that the projector rests.
+std::string RestingText(const std::string& problem, PowerState power) {
+  if (power == PowerState::Standby) {
+    return Message(Acctl::tr("%1, the projector is in standby"), problem);
+  }
+  return power == PowerState::WarmingUp
+             ? Message(Acctl::tr("%1, the projector is warming up"), problem)
+             : Message(Acctl::tr("%1, the projector is cooling down"), problem);
+}
 
 /// What the threads of all projectors share.
 struct Shared {
@@ -76,7 +87,8 @@ class ProjectorWatch {
     }
     if (!shared_.until || isFinished_ || shared_.work.isInterrupted()) return;
     shared_.Fail(isSilent_ ? ExitCode::NoAnswer : ExitCode::Refused);
-    if (!isSilent_) Add({ProblemCode::Pending, "not so in time", shared_.until->key});
+    if (!isSilent_)
+      Add({ProblemCode::Pending, Message(Acctl::tr("not so in time")), shared_.until->key});
   }
 
  private:
@@ -104,7 +116,9 @@ class ProjectorWatch {
   void Take(ProjectorAccess& projector, const ModelSetting& setting, std::optional<int> value) {
     if (!projector.Channel().HasAnswered()) return;
     if (std::exchange(isSilent_, false)) {
-      Add({.code = "answers", .text = "answers again", .exitCode = ExitCode::Done});
+      Add({.code = "answers",
+           .text = Message(Acctl::tr("answers again")),
+           .exitCode = ExitCode::Done});
     }
     const Seen seen{value, projector.Connection().Power()};
     const auto [known, isNew] = last_.try_emplace(std::string(setting.key), seen);
@@ -130,9 +144,9 @@ class ProjectorWatch {
 
   void AddUnread(ProjectorAccess& projector, const ModelSetting& setting) {
     Problem problem =
-        FailureOf(projector, {ProblemCode::NotReadable, kNotReadable, std::string(setting.key)});
-    if (const char* const rest = RestOf(AskPower(projector))) {
-      problem.text += std::string(", the projector is ") + rest;
+        FailureOf(projector, {ProblemCode::NotReadable, NotReadable(), std::string(setting.key)});
+    if (const auto power = AskPower(projector); Rests(power)) {
+      problem.text = RestingText(problem.text, *power);
     }
     Add(problem);
   }
@@ -208,16 +222,16 @@ int Watch(const Work& work, const Projectors& projectors, ModelCache& models) {
   Shared shared{.work = work, .until = {}, .end = {}};
   if (!work.arguments.until.empty()) {
     const auto fail = [&work](const std::string& error) {
-      return ReportError(work.arguments, {.code = ProblemCode::WrongUse,
-                                          .text = "--until" + error,
-                                          .exitCode = ExitCode::WrongUse});
+      return ReportError(
+          work.arguments,
+          {.code = ProblemCode::WrongUse, .text = error, .exitCode = ExitCode::WrongUse});
     };
     const ConditionList until = ParseConditions(work.arguments.until);
     if (!until.error.empty() || until.conditions.size() != 1) {
-      return fail(": '" + work.arguments.until + "' is not KEY=VALUE");
+      return fail(Message(Acctl::tr("--until: '%1' is not KEY=VALUE"), work.arguments.until));
     }
     const std::string error = ImpossibleValue(until.conditions, work.texts, projectors, models);
-    if (!error.empty()) return fail(' ' + error);
+    if (!error.empty()) return fail("--until " + error);
     shared.until = until.conditions.front();
   }
   if (work.arguments.wait) shared.end = Clock::now() + *work.arguments.wait;

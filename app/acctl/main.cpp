@@ -12,6 +12,7 @@
 
 #include "app/acctl/Arguments.h"
 #include "app/acctl/Help.h"
+#include "app/acctl/Message.h"
 #include "app/acctl/Output.h"
 #include "app/acctl/Printer.h"
 #include "app/acctl/ProgramRun.h"
@@ -43,8 +44,8 @@ ProfileList ReadProfiles(Arguments& arguments) {
     return ReadProfileList(*place);
   }
   return {.profiles = {},
-          .error = QStringLiteral("no profiles at %1; name a file with --profiles")
-                       .arg(places.join(QStringLiteral(" or ")))};
+          .error = Acctl::tr("no profiles at %1; name a file with --profiles")
+                       .arg(places.join(QStringLiteral(", ")))};
 }
 
 std::string VersionText() { return "acctl " ADVANCED_CONTROL_VERSION "\n"; }

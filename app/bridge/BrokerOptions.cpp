@@ -2,8 +2,6 @@
 
 #include <QFile>
 
-#include "app/bridge/OptionReading.h"
-
 void BrokerOptions::AddTo(QCommandLineParser& parser) const {
   parser.addOptions({broker_, mqtt_, userFile_, passwordFile_, tls_, caFile_, certFile_, keyFile_});
 }
@@ -13,26 +11,27 @@ std::optional<BrokerAddress> BrokerOptions::Read(const QCommandLineParser& parse
     for (const auto* option :
          {&userFile_, &passwordFile_, &tls_, &caFile_, &certFile_, &keyFile_}) {
       if (parser.isSet(*option)) {
-        throw WrongOption{QStringLiteral("--%1 needs --broker").arg(option->names().constFirst())};
+        throw WrongOption{
+            BridgeOptions::tr("--%1 needs --broker").arg(option->names().constFirst())};
       }
     }
     return {};
   }
+  constexpr int kTlsPort = 8883;
   BrokerAddress broker;
   broker.usesTls = parser.isSet(tls_) || parser.isSet(caFile_) || parser.isSet(certFile_);
-  constexpr int kTlsPort = 8883;
   if (broker.usesTls) broker.port = kTlsPort;
   const auto place = HostAndPort(parser.value(broker_), static_cast<quint16>(broker.port));
   if (!place || place->second == 0)
-    ThrowWrong(parser, broker_, QStringLiteral("is no host with a port"));
+    ThrowWrong(parser, broker_, BridgeOptions::tr("'%1' is no host with a port"));
   broker.host = place->first;
   broker.port = place->second;
   const QString version = parser.value(mqtt_);
   if (version != "3" && version != "5")
-    ThrowWrong(parser, mqtt_, QStringLiteral("is neither 3 nor 5"));
+    ThrowWrong(parser, mqtt_, BridgeOptions::tr("'%1' is neither 3 nor 5"));
   broker.version = version == "5" ? 5 : 4;
   if (parser.isSet(certFile_) != parser.isSet(keyFile_)) {
-    throw WrongOption{QStringLiteral("--cert-file and --key-file need each other")};
+    throw WrongOption{BridgeOptions::tr("--cert-file and --key-file need each other")};
   }
   broker.caFile = QFile::encodeName(parser.value(caFile_));
   broker.certFile = QFile::encodeName(parser.value(certFile_));

@@ -5,6 +5,7 @@
 #include <QCommandLineParser>
 
 #include "app/bridge/Broker.h"
+#include "app/bridge/OptionReading.h"
 
 /// The options that say how to reach the message broker.
 class BrokerOptions {
@@ -14,17 +15,24 @@ class BrokerOptions {
   std::optional<BrokerAddress> Read(const QCommandLineParser& parser) const;
 
  private:
-  const QCommandLineOption broker_{"broker", "Send messages to the MQTT broker at <host:port>.",
-                                   "host:port"};
-  const QCommandLineOption mqtt_{"mqtt", "Version of MQTT, 3 (3.1.1) or 5.", "version", "3"};
-  const QCommandLineOption userFile_{"user-file",
-                                     "The first line of <file> is the user at the broker.", "file"};
+  const QCommandLineOption broker_{
+      "broker", BridgeOptions::tr("Send messages to the MQTT broker at <host:port>."),
+      BridgeOptions::tr("host:port")};
+  const QCommandLineOption mqtt_{"mqtt", BridgeOptions::tr("Version of MQTT, 3 (3.1.1) or 5."),
+                                 BridgeOptions::tr("version"), "3"};
+  const QCommandLineOption userFile_{
+      "user-file", BridgeOptions::tr("The first line of <file> is the user at the broker."),
+      BridgeOptions::tr("file")};
   const QCommandLineOption passwordFile_{
-      "password-file", "The first line of <file> is the password at the broker.", "file"};
-  const QCommandLineOption tls_{"tls",
-                                "Encrypt, and trust the authorities that the system trusts."};
-  const QCommandLineOption caFile_{"ca-file", "Encrypt, and trust the authorities in <file>.",
-                                   "file"};
-  const QCommandLineOption certFile_{"cert-file", "The certificate of this client.", "file"};
-  const QCommandLineOption keyFile_{"key-file", "Its key.", "file"};
+      "password-file", BridgeOptions::tr("The first line of <file> is the password at the broker."),
+      BridgeOptions::tr("file")};
+  const QCommandLineOption tls_{
+      "tls", BridgeOptions::tr("Encrypt, and trust the authorities that the system trusts.")};
+  const QCommandLineOption caFile_{
+      "ca-file", BridgeOptions::tr("Encrypt, and trust the authorities in <file>."),
+      BridgeOptions::tr("file")};
+  const QCommandLineOption certFile_{
+      "cert-file", BridgeOptions::tr("The certificate of this client."), BridgeOptions::tr("file")};
+  const QCommandLineOption keyFile_{"key-file", BridgeOptions::tr("Its key."),
+                                    BridgeOptions::tr("file")};
 };

@@ -1,8 +1,10 @@
 #include "app/bridge/Discovery.h"
 
 #include <algorithm>
+#include <array>
 #include <optional>
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -42,7 +44,20 @@ QJsonObject DeviceOf(const FleetProfile& profile, const QByteArray& id) {
   return device;
 }
 
-QJsonObject BinarySensor(const char* name, const char* deviceClass, const QString& isOn) {
+struct Names {
+  Q_DECLARE_TR_FUNCTIONS(Discovery)
+};
+
+/// In the order of `ProjectorPart`.
+constexpr std::array<const char*, PjLink::kParts> kProblems{
+    QT_TRANSLATE_NOOP("Discovery", "Problem: fan"), QT_TRANSLATE_NOOP("Discovery", "Problem: lamp"),
+    QT_TRANSLATE_NOOP("Discovery", "Problem: temperature"),
+    QT_TRANSLATE_NOOP("Discovery", "Problem: cover"),
+    QT_TRANSLATE_NOOP("Discovery", "Problem: filter"),
+    //: Any other problem of a projector.
+    QT_TRANSLATE_NOOP("Discovery", "Problem: other")};
+
+QJsonObject BinarySensor(const QString& name, const char* deviceClass, const QString& isOn) {
   return {{kPlatform, "binary_sensor"},
           {"name", name},
           {"device_class", deviceClass},
@@ -97,13 +112,13 @@ QByteArray Discovery::MessageOf(const FleetProfile& profile, const QByteArray& i
 }
 
 QJsonObject Discovery::Components(const FleetProfile& profile, const QByteArray& id) const {
-  QJsonObject components{{"reachable", BinarySensor("Reachable", "connectivity",
+  QJsonObject components{{"reachable", BinarySensor(Names::tr("Reachable"), "connectivity",
                                                     "value_json.reachability == 'answers'")}};
   for (std::size_t i = 0; i < PjLink::kParts; ++i) {
     const char* const part = NameOf(static_cast<ProjectorPart>(i));
     const QString name = Text(part);
     components["problem_" + name] = BinarySensor(
-        qUtf8Printable("Problem: " + name), "problem",
+        Names::tr(kProblems[i]), "problem",
         QStringLiteral("(value_json.problems or {}).get('%1', 'none') != 'none'").arg(name));
   }
   const auto topic = [&](std::string_view key) {
@@ -113,7 +128,7 @@ QJsonObject Discovery::Components(const FleetProfile& profile, const QByteArray&
   if (rules_.Allows(kPowerKey)) {
     components["power"] = QJsonObject{
         {kPlatform, "switch"},
-        {"name", "Power"},
+        {"name", Names::tr("Power")},
         {"command_topic", topic(kPowerKey)},
         {"payload_on", "on"},
         {"payload_off", "off"},

@@ -4,8 +4,7 @@
 
 void ThrowWrong(const QCommandLineParser& parser, const QCommandLineOption& option,
                 const QString& what) {
-  throw WrongOption{
-      QStringLiteral("--%1: '%2' %3").arg(option.names().constFirst(), parser.value(option), what)};
+  throw WrongOption{"--" + option.names().constFirst() + ": " + what.arg(parser.value(option))};
 }
 
 std::optional<std::pair<QString, quint16>> HostAndPort(const QString& text, quint16 port) {
@@ -28,9 +27,9 @@ QByteArray FirstLine(const QString& path) {
   if (path.isEmpty()) return {};
   QFile file(path);
   if (!file.open(QFile::ReadOnly)) {
-    throw WrongOption{QStringLiteral("cannot read %1: %2").arg(path, file.errorString())};
+    throw WrongOption{BridgeOptions::tr("cannot read %1: %2").arg(path, file.errorString())};
   }
   QByteArray line = file.readLine(kLongestSecret).trimmed();
-  if (line.isEmpty()) throw WrongOption{QStringLiteral("%1 is empty").arg(path)};
+  if (line.isEmpty()) throw WrongOption{BridgeOptions::tr("%1 is empty").arg(path)};
   return line;
 }

@@ -5,16 +5,22 @@
 
 #include <QByteArray>
 #include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QString>
 
 // What the readers of options share.
+
+/// `BridgeOptions::tr` gives the texts about options in the user's language.
+struct BridgeOptions {
+  Q_DECLARE_TR_FUNCTIONS(BridgeOptions)
+};
 
 /// Thrown while options are read, caught before the reader returns.
 struct WrongOption {
   QString error;
 };
 
-/// `what` follows the value: "is no port".
+/// `what` has %1 for the option's value.
 [[noreturn]] void ThrowWrong(const QCommandLineParser& parser, const QCommandLineOption& option,
                              const QString& what);
 

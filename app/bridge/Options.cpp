@@ -8,6 +8,8 @@
 
 #include "app/bridge/BrokerOptions.h"
 #include "app/bridge/OptionReading.h"
+#include "i18n/Catalog.h"
+#include "i18n/CatalogLanguages.h"
 
 namespace {
 
@@ -26,49 +28,68 @@ class Reader {
   CommandDesk::Rules ReadCommands() const;
 
   QCommandLineParser parser_;
-  const QCommandLineOption help_{{"h", "help"}, "Display this help."};
-  const QCommandLineOption profiles_{"profiles", "The projectors are those of <file>.", "file"};
+  const QCommandLineOption help_{{"h", "help"}, BridgeOptions::tr("Display this help.")};
+  const QCommandLineOption profiles_{"profiles",
+                                     BridgeOptions::tr("The projectors are those of <file>."),
+                                     BridgeOptions::tr("file")};
   const QCommandLineOption share_{
-      "share", "Watch one of several shares: 2/5 is the second of five.", "share", "1/1"};
-  const QCommandLineOption tags_{"tag", "Watch only projectors with <tag>, or one of several.",
-                                 "tag"};
+      "share", BridgeOptions::tr("Watch one of several shares: 2/5 is the second of five."),
+      BridgeOptions::tr("share"), "1/1"};
+  const QCommandLineOption tags_{
+      "tag", BridgeOptions::tr("Watch only projectors with <tag>, or one of several."),
+      BridgeOptions::tr("tag")};
   const QCommandLineOption interval_{
-      "interval", "Visit each projector every <seconds>, at least 5.", "seconds", "60"};
+      "interval", BridgeOptions::tr("Visit each projector every <seconds>, at least 5."),
+      BridgeOptions::tr("seconds"), "60"};
   const QCommandLineOption compare_{
-      "compare", "Once a day, compare each projector with its snapshot in <folder>.", "folder"};
+      "compare",
+      BridgeOptions::tr("Once a day, compare each projector with its snapshot in <folder>."),
+      BridgeOptions::tr("folder")};
   const QCommandLineOption notices_{
-      "notices", "Listen at <address> for the status notices of projectors.", "address"};
-  const QCommandLineOption listen_{"listen", "Serve metrics at <address:port>; 'none' for nowhere.",
-                                   "address:port", "127.0.0.1:9550"};
+      "notices", BridgeOptions::tr("Listen at <address> for the status notices of projectors."),
+      BridgeOptions::tr("address")};
+  const QCommandLineOption listen_{
+      "listen", BridgeOptions::tr("Serve metrics at <address:port>; 'none' for nowhere."),
+      BridgeOptions::tr("address:port"), "127.0.0.1:9550"};
   const QCommandLineOption textFile_{
-      "text-file", "Write metrics to <file> every 15 seconds, for a collector of text files.",
-      "file"};
+      "text-file",
+      BridgeOptions::tr("Write metrics to <file> every 15 seconds, for a collector of text files."),
+      BridgeOptions::tr("file")};
   const BrokerOptions broker_;
-  const QCommandLineOption prefix_{"topic", "The first level of all topics.", "topic",
-                                   "projectors"};
+  const QCommandLineOption prefix_{"topic", BridgeOptions::tr("The first level of all topics."),
+                                   BridgeOptions::tr("topic"), "projectors"};
   const QCommandLineOption discovery_{
-      "discovery", "The first level of discovery topics; 'none' for no discovery.", "topic",
-      "homeassistant"};
+      "discovery",
+      BridgeOptions::tr("The first level of discovery topics; 'none' for no discovery."),
+      BridgeOptions::tr("topic"), "homeassistant"};
   const QCommandLineOption takeover_{
-      "takeover", "Take the share of a bridge that has said nothing for <seconds>.", "seconds",
-      "30"};
+      "takeover",
+      BridgeOptions::tr("Take the share of a bridge that has said nothing for <seconds>."),
+      BridgeOptions::tr("seconds"), "30"};
   const QCommandLineOption allow_{
       "allow-commands",
-      "Settings that may be commanded: keys or patterns, separated by commas; 'power' is the "
-      "power. Without it nothing may be.",
-      "keys"};
-  const QCommandLineOption perMinute_{"commands-per-minute",
-                                      "Commands that each projector takes in a minute.", "n", "30"};
+      BridgeOptions::tr(
+          "Settings that may be commanded: keys or patterns, separated by commas; 'power' is the "
+          "power. Without it nothing may be."),
+      BridgeOptions::tr("keys")};
+  const QCommandLineOption perMinute_{
+      "commands-per-minute", BridgeOptions::tr("Commands that each projector takes in a minute."),
+      BridgeOptions::tr("n"), "30"};
   const QCommandLineOption language_{
-      "language", "Names in discovery messages are in the language with this identifier.", "id",
-      "1033"};
+      "language",
+      BridgeOptions::tr(
+          "Names in discovery messages, and messages of this program, are in the language "
+          "<name>, such as de or zh-TW."),
+      BridgeOptions::tr("name"), "1033"};
 };
 
 std::chrono::milliseconds Reader::Seconds(const QCommandLineOption& option, double least) const {
   bool isNumber = false;
   const double seconds = parser_.value(option).toDouble(&isNumber);
   if (!isNumber || !(seconds >= least && seconds <= kLongest)) {
-    ThrowWrong(parser_, option, QStringLiteral("is no time from %1 seconds to a day").arg(least));
+    ThrowWrong(parser_, option,
+               BridgeOptions::tr("'%1' is no time from %2 seconds to a day")
+                   .arg(QStringLiteral("%1"), QString::number(least)));
   }
   return std::chrono::milliseconds(std::lround(1000 * seconds));
 }
@@ -78,7 +99,7 @@ QByteArray Reader::Prefix(const QCommandLineOption& option) const {
   const QString text = parser_.value(option);
   for (const QString& level : text.split('/')) {
     if (level.isEmpty() || level.contains('+') || level.contains('#')) {
-      ThrowWrong(parser_, option, QStringLiteral("is no topic"));
+      ThrowWrong(parser_, option, BridgeOptions::tr("'%1' is no topic"));
     }
   }
   return text.toUtf8();
@@ -86,7 +107,7 @@ QByteArray Reader::Prefix(const QCommandLineOption& option) const {
 
 Share Reader::ReadShare() const {
   auto share = ParseShare(parser_.value(share_).toStdString());
-  if (!share) ThrowWrong(parser_, share_, QStringLiteral("is no share such as 2/5"));
+  if (!share) ThrowWrong(parser_, share_, BridgeOptions::tr("'%1' is no share such as 2/5"));
   for (const QString& tag : parser_.values(tags_)) share->tags.push_back(tag.toStdString());
   return *share;
 }
@@ -97,7 +118,7 @@ void Reader::ReadListener(Options& options) const {
   if (!options.listens) return;
   const auto place = HostAndPort(parser_.value(listen_), options.listenPort);
   if (!place || !options.listenAddress.setAddress(place->first)) {
-    ThrowWrong(parser_, listen_, QStringLiteral("is no numeric address with a port"));
+    ThrowWrong(parser_, listen_, BridgeOptions::tr("'%1' is no numeric address with a port"));
   }
   options.listenPort = place->second;
 }
@@ -110,14 +131,17 @@ CommandDesk::Rules Reader::ReadCommands() const {
       const KeyRules rules({keys.back()});
       const auto allows = [&rules](std::string_view known) { return rules.Allows(known); };
       if (rules.Allows(kPowerKey) || std::ranges::any_of(AllKeys(), allows)) continue;
-      throw WrongOption{QStringLiteral("--allow-commands: '%1' is no setting that may be commanded")
-                            .arg(key.trimmed())};
+      throw WrongOption{
+          BridgeOptions::tr("--allow-commands: '%1' is no setting that may be commanded")
+              .arg(key.trimmed())};
     }
   }
   constexpr int kMost = 6000;
   const int perMinute = parser_.value(perMinute_).toInt();
   if (perMinute < 1 || perMinute > kMost) {
-    ThrowWrong(parser_, perMinute_, QStringLiteral("is no number from 1 to %1").arg(kMost));
+    ThrowWrong(parser_, perMinute_,
+               BridgeOptions::tr("'%1' is no number from 1 to %2")
+                   .arg(QStringLiteral("%1"), QString::number(kMost)));
   }
   return {.keys = KeyRules(std::move(keys)),
           .perMinute = perMinute,
@@ -125,15 +149,15 @@ CommandDesk::Rules Reader::ReadCommands() const {
 }
 
 Options Reader::Read(const QStringList& arguments) {
-  parser_.setApplicationDescription(
-      "Watches projectors, and tells a metrics store and a message broker of them.");
+  parser_.setApplicationDescription(BridgeOptions::tr(
+      "Watches projectors, and tells a metrics store and a message broker of them."));
   parser_.addOptions(
       {help_, profiles_, share_, tags_, interval_, compare_, notices_, listen_, textFile_});
   broker_.AddTo(parser_);
   parser_.addOptions({prefix_, discovery_, takeover_, allow_, perMinute_, language_});
   if (!parser_.parse(arguments)) throw WrongOption{parser_.errorText()};
   if (const QStringList rest = parser_.positionalArguments(); !rest.isEmpty()) {
-    throw WrongOption{QStringLiteral("unexpected argument '%1'").arg(rest.first())};
+    throw WrongOption{BridgeOptions::tr("unexpected argument '%1'").arg(rest.first())};
   }
   Options options;
   if (parser_.isSet(help_)) {
@@ -141,29 +165,30 @@ Options Reader::Read(const QStringList& arguments) {
     return options;
   }
   options.profiles = parser_.value(profiles_);
-  if (options.profiles.isEmpty()) throw WrongOption{QStringLiteral("--profiles is missing")};
+  if (options.profiles.isEmpty()) throw WrongOption{BridgeOptions::tr("--profiles is missing")};
   options.share = ReadShare();
   constexpr double kShortestInterval = 5;
   options.interval = Seconds(interval_, kShortestInterval);
   if (parser_.isSet(notices_) && !options.notices.setAddress(parser_.value(notices_))) {
-    ThrowWrong(parser_, notices_, QStringLiteral("is no numeric address"));
+    ThrowWrong(parser_, notices_, BridgeOptions::tr("'%1' is no numeric address"));
   }
   options.snapshots = parser_.value(compare_);
   if (parser_.isSet(compare_) && !QDir(options.snapshots).exists()) {
-    ThrowWrong(parser_, compare_, QStringLiteral("is no folder"));
+    ThrowWrong(parser_, compare_, BridgeOptions::tr("'%1' is no folder"));
   }
   ReadListener(options);
   options.broker = broker_.Read(parser_);
   if (parser_.isSet(allow_) && !options.broker) {
-    throw WrongOption{QStringLiteral("--allow-commands needs --broker")};
+    throw WrongOption{BridgeOptions::tr("--%1 needs --broker").arg(allow_.names().constFirst())};
   }
   options.prefix = Prefix(prefix_);
   options.discoveryPrefix = parser_.value(discovery_) == kNone ? QByteArray() : Prefix(discovery_);
   options.takeover = Seconds(takeover_, 1);
   options.commands = ReadCommands();
-  bool isNumber = false;
-  options.language = parser_.value(language_).toUInt(&isNumber);
-  if (!isNumber) ThrowWrong(parser_, language_, QStringLiteral("is no number"));
+  const auto language =
+      FindLanguage(CatalogLanguages(CatalogFolders()), parser_.value(language_).toStdString());
+  if (!language) ThrowWrong(parser_, language_, BridgeOptions::tr("there are no texts in '%1'"));
+  options.language = *language;
   return options;
 }
 

@@ -13,8 +13,10 @@
 #include "app/bridge/Log.h"
 #include "app/bridge/Options.h"
 #include "app/profiles/OutOfMemory.h"
+#include "app/profiles/Translations.h"
 #include "fleet/ProfileFile.h"
 #include "i18n/Catalog.h"
+#include "i18n/SystemLanguage.h"
 
 namespace {
 
@@ -60,6 +62,7 @@ int Run(const Options& options, int signals) {
   ProfileList profiles = ReadProfileList(options.profiles);
   if (!profiles.error.isEmpty()) return Fail(profiles.error);
   RaiseDescriptorLimit();
+  InstallTranslations(options.language);  // also of the names in discovery messages
   const SettingTexts texts(CatalogFolders(), options.language);
   Bridge bridge(options, std::move(profiles.profiles), texts);
   profiles = {};
@@ -76,6 +79,8 @@ int main(int argc, char* argv[]) {
   EndWhenOutOfMemory("advanced-control-bridge");
   const int signals = SignalFile();
   const QCoreApplication application(argc, argv);
+  const auto language = NamedLanguage(QCoreApplication::arguments());
+  InstallTranslations(language.value_or(SystemLanguageId()));
   const Options options = ParseOptions(QCoreApplication::arguments());
   if (!options.error.isEmpty()) return Fail(options.error);
   if (!options.help.isEmpty()) {

@@ -14,17 +14,17 @@ void FleetSummary::Show(const std::vector<ProjectorRow>& rows) {
     const ProjectorGroup group{kind};
     return count([&group](const ProjectorRow& row) { return group.Has(row); });
   };
-  QStringList parts{tr("%1 on").arg(count([](const ProjectorRow& row) {
-                      return row.state.power == PowerState::On ||
-                             row.state.power == PowerState::WarmingUp;
-                    })),
-                    tr("%1 off").arg(in(ProjectorGroup::Kind::Off))};
+  QStringList parts{tr("%n on", "projectors", count([](const ProjectorRow& row) {
+                         return row.state.power == PowerState::On ||
+                                row.state.power == PowerState::WarmingUp;
+                       })),
+                    tr("%n off", "projectors", in(ProjectorGroup::Kind::Off))};
   if (const int problems = in(ProjectorGroup::Kind::Problems); problems > 0)
-    parts += tr("%1 with problems").arg(problems);
+    parts += tr("%n with problems", "projectors", problems);
   if (const int silent = in(ProjectorGroup::Kind::Unreachable); silent > 0)
-    parts += tr("%1 not reachable").arg(silent);
+    parts += tr("%n not reachable", "projectors", silent);
   if (const int alerts = count([](const ProjectorRow& row) { return row.hasAlert; }); alerts > 0)
-    parts += tr("%1 with alerts").arg(alerts);
+    parts += tr("%n with alerts", "projectors", alerts);
   std::optional<WallTime> oldest;
   for (const ProjectorRow& row : rows) {
     if (row.state.reachability != Reachability::Answers || !row.state.answered) continue;

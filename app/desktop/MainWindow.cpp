@@ -246,9 +246,10 @@ void MainWindow::OpenSelected() {
       dialogs_->Open(*Session(static_cast<std::size_t>(position)));
   };
   if (positions.size() <= kOpenedUnasked) return open();
-  auto* question = new QMessageBox(QMessageBox::Question, tr("Open Settings"),
-                                   tr("Open %1 dialogs?").arg(positions.size()),
-                                   QMessageBox::Open | QMessageBox::Cancel, this);
+  auto* question =
+      new QMessageBox(QMessageBox::Question, tr("Open Settings"),
+                      tr("Open %n dialogs?", nullptr, static_cast<int>(positions.size())),
+                      QMessageBox::Open | QMessageBox::Cancel, this);
   question->setAttribute(Qt::WA_DeleteOnClose);
   connect(question, &QDialog::accepted, this, open);
   RemoveForeignButtonIcons(*question);

@@ -13,7 +13,8 @@
 #include <QTimeEdit>
 #include <QVBoxLayout>
 
-#include "i18n/SystemLanguage.h"
+#include "i18n/Catalog.h"
+#include "i18n/CatalogLanguages.h"
 #include "toolkit/CComboBox.h"
 #include "toolkit/Icons.h"
 
@@ -50,8 +51,8 @@ Preferences::Preferences(QSettings& settings, QWidget* parent)
   setWindowTitle(tr("Preferences"));
   const AlertRules rules = AlertRules::Read(&settings);
   language_->Add(tr("As the system"), 0);
-  language_->Add(QStringLiteral("English"), static_cast<int>(kEnglishUnitedStates));
-  language_->Add(QStringLiteral("简体中文"), static_cast<int>(kChineseSimplified));
+  for (const CatalogLanguage& language : CatalogLanguages(CatalogFolders()))
+    language_->Add(QString::fromStdString(language.name), static_cast<int>(language.id));
   language_->SelectValue(Language(settings));
   interval_ = MakeNumber(kShortestInterval, kLongestInterval, Interval(&settings), tr(" s"));
   lamp_ = MakeNumber(0, 200, rules.lampPercent, tr(" %"));

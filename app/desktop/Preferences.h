@@ -21,7 +21,7 @@ class Preferences : public QDialog {
 
   /// Seconds between two visits to a projector. `settings` may be null.
   static int Interval(const QSettings* settings);
-  /// The language that the user chose, 1033 or 2052; 0 for that of the system.
+  /// The identifier of the language that the user chose; 0 for that of the system.
   static int Language(const QSettings& settings);
 
   void accept() override;

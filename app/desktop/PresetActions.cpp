@@ -73,7 +73,7 @@ void PresetActions::AskForName() {
     if (name.isEmpty() || name.startsWith(QLatin1Char('.'))) return;
     WorkPlan plan{
         .title = tr("Save as Preset"),
-        .question = tr("Save the settings of %1 projectors?"),
+        .question = {},
         .parts = {{.work = TakeSnapshots(), .targets = {parts_.watch.TargetOf(profile)}}}};
     parts_.work.Do(std::move(plan), [this, name](const WorkRun& run) { Save(name, run); });
   });
@@ -98,10 +98,10 @@ void PresetActions::Apply(const QString& name) {
     apply.snapshots[row->id] = preset.snapshot;
   }
   part.work = std::move(apply);
-  parts_.work.Do(
-      {.title = tr("Preset %1").arg(name),
-       .question = tr("Put the preset %2 on %1 projectors?").arg(QStringLiteral("%1"), name),
-       .parts = {std::move(part)}});
+  const auto count = static_cast<int>(part.targets.size());
+  parts_.work.Do({.title = tr("Preset %1").arg(name),
+                  .question = tr("Put the preset %1 on %n projectors?", nullptr, count).arg(name),
+                  .parts = {std::move(part)}});
 }
 
 void PresetActions::SetWanted(const QString& name) {
@@ -146,11 +146,12 @@ void PresetActions::UseWanted(bool putsBack) {
                      tr("None of the selected projectors has a preset that it should be like."));
   if (putsBack) {
     part.work = ApplySnapshots{snapshots};
+    const auto count = static_cast<int>(part.targets.size());
     // Afterwards it is known what still differs.
     WorkPart compare{.work = CompareSnapshots{std::move(snapshots)}, .targets = part.targets};
     return parts_.work.Do(
         {.title = tr("Put Back"),
-         .question = tr("Put back the settings of %1 projectors?"),
+         .question = tr("Put back the settings of %n projectors?", nullptr, count),
          .parts = {std::move(part)}},
         [this, compare](const WorkRun&) {
           parts_.work.Do({.title = tr("Compare"), .question = {}, .parts = {compare}});

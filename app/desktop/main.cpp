@@ -15,11 +15,11 @@
 #include "app/desktop/CommandLine.h"
 #include "app/desktop/MainWindow.h"
 #include "app/desktop/Preferences.h"
-#include "app/desktop/Translations.h"
 #include "app/desktop/dialogs/Pictures.h"
 #include "app/desktop/profiles/ProfileDocument.h"
 #include "app/profiles/OutOfMemory.h"
 #include "app/profiles/Table.h"
+#include "app/profiles/Translations.h"
 #include "fleet/WholeFile.h"
 #include "i18n/Catalog.h"
 #include "i18n/CatalogLanguages.h"
@@ -65,14 +65,14 @@ QString ReadProfiles(const CommandLine& line, ProfileDocument& document, bool& a
   areShipped = place != places.end();
   if (areShipped) return document.Load(*place);
   return Program::tr("no profiles at %1; name a file with --profiles")
-      .arg(places.join(Program::tr(" or ")));
+      .arg(places.join(QStringLiteral(", ")));
 }
 
 // The library chose the catalog by the environment when it was loaded, so it has to choose again.
 void ChooseLanguage(std::uint32_t language) {
   qputenv("LC_ALL", QByteArray::fromStdString(LocaleOf(language)));
   LoadCatalog();
-  InstallTranslations();
+  InstallTranslations(ShownLanguageId());
 }
 
 // Tab 0 is the status page, which every projector has.
@@ -101,10 +101,10 @@ void PrintList(const std::vector<FleetProfile>& profiles) {
 int RunTour(const std::vector<FleetProfile>& profiles, const QString& folder) {
   const TourResult tour = SaveTour(profiles, folder);
   if (!tour.error.isEmpty()) return Fail(tour.error);
-  const QString said = Program::tr("%1 pictures of %2 kinds of projectors saved in %3")
-                           .arg(tour.pictures)
-                           .arg(tour.projectors)
-                           .arg(folder);
+  const QString said =
+      Program::tr("%n pictures of %1 kinds of projectors saved in %2", nullptr, tour.pictures)
+          .arg(tour.projectors)
+          .arg(folder);
   std::printf("%s\n", qUtf8Printable(said));
   return 0;
 }
@@ -134,7 +134,7 @@ int RunWindow(Request request) {
 /// Reads and checks everything that needs no window. Returns an exit code if no window is needed.
 std::variant<Request, int> Prepare(int argc, char* argv[]) {
   const QCoreApplication application(argc, argv);
-  InstallTranslations();
+  InstallTranslations(ShownLanguageId());
   Request request{.line = ParseCommandLine(QCoreApplication::arguments()), .profiles = {}};
   const CommandLine& line = request.line;
   const int preferred = Preferences::Language(QSettings(kName, kName));
@@ -204,7 +204,7 @@ int Run(int argc, char* argv[]) {
   if (!line.style && qEnvironmentVariableIsEmpty("QT_STYLE_OVERRIDE")) {
     QApplication::setStyle(QStringLiteral("Fusion"));
   }
-  InstallTranslations();
+  InstallTranslations(ShownLanguageId());
 
   switch (line.action) {
     case CommandLine::Action::Tour:

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 
 #include "device/ModelData.h"
 
@@ -12,6 +13,10 @@ namespace {
 constexpr std::size_t kMostProjectors = 100'000;
 constexpr int kMostChanges = 100'000;
 constexpr double kLongestSwitching = 3600;
+
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(SimulatorArguments)
+};
 
 /// Thrown while arguments are read, caught before the reader returns.
 struct WrongArgument {
@@ -30,13 +35,13 @@ class Reader {
 
  private:
   QString Value(const QCommandLineOption& option) const { return parser_.value(option); }
+  /// `what` has %1 for the option's value.
   [[noreturn]] void ThrowWrong(const QCommandLineOption& option, const QString& what) const {
-    throw WrongArgument{
-        QStringLiteral("--%1: '%2' %3.").arg(option.names().constFirst(), Value(option), what)};
+    throw WrongArgument{"--" + option.names().constFirst() + ": " + what.arg(Value(option))};
   }
   std::uint16_t PortOf(const QCommandLineOption& option) const {
     const auto port = Port(Value(option));
-    if (!port) ThrowWrong(option, QStringLiteral("is no port"));
+    if (!port) ThrowWrong(option, Texts::tr("'%1' is no port."));
     return *port;
   }
   std::uint64_t Number(const QCommandLineOption& option, std::uint64_t least,
@@ -44,13 +49,15 @@ class Reader {
     bool isNumber = false;
     const std::uint64_t number = Value(option).toULongLong(&isNumber);
     if (isNumber && number >= least && number <= most) return number;
-    ThrowWrong(option, QStringLiteral("is no number from %1 to %2").arg(least).arg(most));
+    ThrowWrong(option,
+               Texts::tr("'%1' is no number from %2 to %3.")
+                   .arg(QStringLiteral("%1"), QString::number(least), QString::number(most)));
   }
   std::chrono::milliseconds Seconds(const QCommandLineOption& option) const {
     bool isNumber = false;
     const double seconds = Value(option).toDouble(&isNumber);
     if (!isNumber || !(seconds >= 0 && seconds <= kLongestSwitching)) {
-      ThrowWrong(option, QStringLiteral("is no time up to an hour"));
+      ThrowWrong(option, Texts::tr("'%1' is no time up to an hour."));
     }
     return std::chrono::milliseconds(std::lround(1000 * seconds));
   }
@@ -58,68 +65,84 @@ class Reader {
   FleetOptions Fleet(const ServiceOptions& service) const;
 
   QCommandLineParser parser_;
-  const QCommandLineOption help_{{"h", "help"}, "Display this help."};
-  const QCommandLineOption profiles_{"profiles", "Serve the projectors of <file>.", "file"};
+  const QCommandLineOption help_{{"h", "help"}, Texts::tr("Display this help.")};
+  const QCommandLineOption profiles_{"profiles", Texts::tr("Serve the projectors of <file>."),
+                                     Texts::tr("file")};
   const QCommandLineOption projector_{
-      "projector", "Serve only the projector <name>; may be given several times.", "name"};
-  const QCommandLineOption address_{"address",
-                                    "Listen on <address> instead of 127.0.0.1; with --fleet, the "
-                                    "address of the first projector instead of 127.64.0.1.",
-                                    "address", "127.0.0.1"};
+      "projector", Texts::tr("Serve only the projector <name>; may be given several times."),
+      Texts::tr("name")};
+  const QCommandLineOption address_{
+      "address",
+      Texts::tr("Listen on <address> instead of 127.0.0.1; with --fleet, the "
+                "address of the first projector instead of 127.64.0.1."),
+      Texts::tr("address"), "127.0.0.1"};
   const QCommandLineOption port_{
       "port",
-      "The first projector is at port <n>, the others at those that follow; 0, as without it, "
-      "takes any that are free. With --fleet, <n> is the port of every projector for our own "
-      "protocol, and the next one for PJLink.",
-      "n", "0"};
-  const QCommandLineOption password_{"password", "PJLink asks for <text>.", "text"};
-  const QCommandLineOption serial_{"serial", "Serve each projector on a pseudo terminal too."};
+      Texts::tr(
+          "The first projector is at port <n>, the others at those that follow; 0, as without it, "
+          "takes any that are free. With --fleet, <n> is the port of every projector for our own "
+          "protocol, and the next one for PJLink."),
+      Texts::tr("n"), "0"};
+  const QCommandLineOption password_{"password", Texts::tr("PJLink asks for <text>."),
+                                     Texts::tr("text")};
+  const QCommandLineOption serial_{"serial",
+                                   Texts::tr("Serve each projector on a pseudo terminal too.")};
   const QCommandLineOption fault_{"fault",
-                                  "Begin with a fault: " + QString::fromLatin1(kFaultNames) +
-                                      ". Of a share of the projectors: 'silent 5%'. May be given "
-                                      "several times.",
-                                  "fault"};
-  const QCommandLineOption seed_{"seed", "Everything that is left to chance depends on <n>.", "n",
-                                 "1"};
-  const QCommandLineOption control_{
-      "control",
-      "Listen at port <n> of the loopback address for faults, a line each: projector's number from "
-      "1, or *, and the fault.",
-      "n", "0"};
+                                  Texts::tr("Begin with a fault: %1. Of a share of the projectors: "
+                                            "'silent 5%'. May be given several times.")
+                                      .arg(QLatin1String(kFaultNames)),
+                                  Texts::tr("fault")};
+  const QCommandLineOption seed_{
+      "seed", Texts::tr("Everything that is left to chance depends on <n>."), Texts::tr("n"), "1"};
+  const QCommandLineOption control_{"control",
+                                    Texts::tr("Listen at port <n> of the loopback address for "
+                                              "faults, a line each: projector's number from "
+                                              "1, or *, and the fault."),
+                                    Texts::tr("n"), "0"};
   const QCommandLineOption write_{
-      "write-profiles", "Write profiles that lead a host to the served projectors to <file>.",
-      "file"};
-  const QCommandLineOption fleet_{
-      "fleet",
-      "Serve <n> projectors, made after those of the profiles, each at a loopback address of its "
-      "own.",
-      "n"};
+      "write-profiles",
+      Texts::tr("Write profiles that lead a host to the served projectors to <file>."),
+      Texts::tr("file")};
+  const QCommandLineOption fleet_{"fleet",
+                                  Texts::tr("Serve <n> projectors, made after those of the "
+                                            "profiles, each at a loopback address of its "
+                                            "own."),
+                                  Texts::tr("n")};
   const QCommandLineOption link_{
-      "link", "Of a fleet: what --write-profiles uses; pjlink, network or mixed.", "way", "pjlink"};
-  const QCommandLineOption warmUp_{"warm-up", "Of a fleet: seconds until a projector is on.",
-                                   "seconds", "20"};
+      "link", Texts::tr("Of a fleet: what --write-profiles uses; pjlink, network or mixed."),
+      Texts::tr("way"), "pjlink"};
+  const QCommandLineOption warmUp_{"warm-up",
+                                   Texts::tr("Of a fleet: seconds until a projector is on."),
+                                   Texts::tr("seconds"), "20"};
   const QCommandLineOption coolDown_{
-      "cool-down", "Of a fleet: seconds until a projector is in standby.", "seconds", "30"};
+      "cool-down", Texts::tr("Of a fleet: seconds until a projector is in standby."),
+      Texts::tr("seconds"), "30"};
   const QCommandLineOption changes_{
-      "changes", "Of a fleet: so many changes of state in a second happen by themselves.", "n",
-      "0"};
+      "changes",
+      Texts::tr("Of a fleet: so many changes of state in a second happen by themselves."),
+      Texts::tr("n"), "0"};
   const QCommandLineOption notices_{
-      "notices", "Of a fleet: send PJLink's status notices to this address.", "address:port"};
+      "notices", Texts::tr("Of a fleet: send PJLink's status notices to this address."),
+      Texts::tr("address:port")};
   const QCommandLineOption counts_{
-      "counts", "Of a fleet: at the end, write how often each projector was asked to <file>.",
-      "file"};
+      "counts",
+      Texts::tr("Of a fleet: at the end, write how often each projector was asked to <file>."),
+      Texts::tr("file")};
+  const QCommandLineOption language_{
+      "language", Texts::tr("Help and errors are in the language <name>, such as de or zh-TW."),
+      Texts::tr("name")};
 };
 
 Arguments Reader::Read(const QStringList& arguments) {
-  parser_.setApplicationDescription(
+  parser_.setApplicationDescription(Texts::tr(
       "Serves simulated projectors over TCP, PJLink and pseudo terminals. Prints an address a "
-      "line, then \"ready\".");
+      "line, then \"ready\"."));
   parser_.addOptions({help_, profiles_, projector_, address_, port_, password_, serial_, fault_,
                       seed_, control_, write_, fleet_, link_, warmUp_, coolDown_, changes_,
-                      notices_, counts_});
+                      notices_, counts_, language_});
   if (!parser_.parse(arguments)) throw WrongArgument{parser_.errorText()};
   if (const QStringList rest = parser_.positionalArguments(); !rest.isEmpty()) {
-    throw WrongArgument{QStringLiteral("Unexpected argument '%1'.").arg(rest.first())};
+    throw WrongArgument{Texts::tr("Unexpected argument '%1'.").arg(rest.first())};
   }
   Arguments result;
   if (parser_.isSet(help_)) {
@@ -138,7 +161,7 @@ Arguments Reader::Read(const QStringList& arguments) {
   }
   for (const auto* option : {&link_, &warmUp_, &coolDown_, &changes_, &notices_, &counts_}) {
     if (parser_.isSet(*option)) {
-      throw WrongArgument{QStringLiteral("--%1 needs --fleet.").arg(option->names().constFirst())};
+      throw WrongArgument{Texts::tr("--%1 needs --fleet.").arg(option->names().constFirst())};
     }
   }
   return result;
@@ -147,11 +170,11 @@ Arguments Reader::Read(const QStringList& arguments) {
 ServiceOptions Reader::Service() const {
   ServiceOptions service;
   if (!service.address.setAddress(Value(address_))) {
-    ThrowWrong(address_, QStringLiteral("is no address"));
+    ThrowWrong(address_, Texts::tr("'%1' is no address."));
   }
   service.password = Value(password_).toStdString();
   if (constexpr std::size_t most = NameSlot{}.size(); service.password.size() > most) {
-    throw WrongArgument{QStringLiteral("--password: is longer than %1 bytes.").arg(most)};
+    throw WrongArgument{Texts::tr("--password: is longer than %1 bytes.").arg(most)};
   }
   service.serial = parser_.isSet(serial_);
   service.firstPort = PortOf(port_);
@@ -160,7 +183,7 @@ ServiceOptions Reader::Service() const {
     const auto fault = ParseFault(text);
     if (!fault) {
       throw WrongArgument{
-          QStringLiteral("--fault: '%1' is none of %2.").arg(text, QLatin1String(kFaultNames))};
+          Texts::tr("--fault: '%1' is none of %2.").arg(text, QLatin1String(kFaultNames))};
     }
     service.faults.push_back(*fault);
   }
@@ -169,23 +192,23 @@ ServiceOptions Reader::Service() const {
 
 FleetOptions Reader::Fleet(const ServiceOptions& service) const {
   constexpr std::uint32_t kLastAddress = 0x7FFFFFFE;
-  if (service.serial) throw WrongArgument{QStringLiteral("--fleet has no serial lines.")};
+  if (service.serial) throw WrongArgument{Texts::tr("--fleet has no serial lines.")};
   FleetOptions fleet{.faults = service.faults};
   FleetProjectors::Options& projectors = fleet.projectors;
   projectors.count = Number(fleet_, 1, kMostProjectors);
   if (parser_.isSet(address_)) {
     if (!service.address.isLoopback() || service.address.protocol() != QHostAddress::IPv4Protocol) {
-      ThrowWrong(address_, QStringLiteral("is no IPv4 loopback address"));
+      ThrowWrong(address_, Texts::tr("'%1' is no IPv4 loopback address."));
     }
     projectors.firstAddress = service.address.toIPv4Address();
   }
   if (kLastAddress - projectors.firstAddress + 1 < projectors.count) {
-    ThrowWrong(address_, QStringLiteral("leaves too few addresses"));
+    ThrowWrong(address_, Texts::tr("'%1' leaves too few addresses."));
   }
   projectors.seed = service.seed;
   projectors.warmUp = Seconds(warmUp_);
   projectors.coolDown = Seconds(coolDown_);
-  if (service.firstPort == UINT16_MAX) ThrowWrong(port_, QStringLiteral("leaves none for PJLink"));
+  if (service.firstPort == UINT16_MAX) ThrowWrong(port_, Texts::tr("'%1' leaves none for PJLink."));
   fleet.server.wirePort = service.firstPort;
   fleet.server.pjLinkPort =
       static_cast<std::uint16_t>(service.firstPort == 0 ? 0 : service.firstPort + 1);
@@ -194,7 +217,7 @@ FleetOptions Reader::Fleet(const ServiceOptions& service) const {
     const QHostAddress host(Value(notices_).section(QLatin1Char(':'), 0, -2));
     const auto port = Port(Value(notices_).section(QLatin1Char(':'), -1));
     if (!port || host.protocol() != QHostAddress::IPv4Protocol || !host.isLoopback()) {
-      ThrowWrong(notices_, QStringLiteral("is no IPv4 loopback address with a port"));
+      ThrowWrong(notices_, Texts::tr("'%1' is no IPv4 loopback address with a port."));
     }
     fleet.server.notices = FleetSockets::End{host.toIPv4Address(), *port};
   }
@@ -202,7 +225,7 @@ FleetOptions Reader::Fleet(const ServiceOptions& service) const {
   fleet.countsFile = Value(counts_);
   const QStringList ways{"pjlink", "network", "mixed"};
   const auto way = ways.indexOf(Value(link_));
-  if (way < 0) ThrowWrong(link_, QStringLiteral("is none of pjlink, network and mixed"));
+  if (way < 0) ThrowWrong(link_, Texts::tr("'%1' is none of pjlink, network and mixed."));
   fleet.link = static_cast<FleetLink>(way);
   return fleet;
 }

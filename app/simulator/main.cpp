@@ -16,12 +16,18 @@
 
 #include "app/profiles/OutOfMemory.h"
 #include "app/profiles/SimulatorNotice.h"
+#include "app/profiles/Translations.h"
 #include "app/simulator/Arguments.h"
 #include "app/simulator/ControlServer.h"
 #include "app/simulator/ServedProjectors.h"
 #include "app/simulator/fleet/FleetService.h"
+#include "i18n/SystemLanguage.h"
 
 namespace {
+
+struct Program {
+  Q_DECLARE_TR_FUNCTIONS(Simulator)
+};
 
 int Fail(const QString& message) {
   std::fprintf(stderr, "advanced-control-simulator: %s\n", qUtf8Printable(message));
@@ -84,7 +90,7 @@ int Serve(Projectors& projectors, const Arguments& arguments, int endingSignals)
   ControlServer control(projectors, arguments.service.seed);
   if (arguments.control) {
     const int port = control.Listen(arguments.controlPort);
-    if (port == 0) return Fail(QStringLiteral("--control: the port cannot be had"));
+    if (port == 0) return Fail(Program::tr("--control: the port cannot be had"));
     std::printf("control: 127.0.0.1:%d\n", port);
   }
   std::puts("ready");
@@ -99,7 +105,7 @@ int Run(const Arguments& arguments, int endingSignals) {
   ProfileList contents = ReadProfileList(ProfileFile(arguments));
   if (!contents.error.isEmpty()) return Fail(contents.error);
   if (const auto unknown = Choose(contents.profiles, arguments.projectors)) {
-    return Fail(QStringLiteral("there is no projector '%1'").arg(*unknown));
+    return Fail(Program::tr("there is no projector '%1'").arg(*unknown));
   }
   if (arguments.fleet) {
     RaiseDescriptorLimit();
@@ -121,6 +127,8 @@ int main(int argc, char* argv[]) {
   EndConsoleProgramWhenOutOfMemory("advanced-control-simulator");
   const int endingSignals = EndingSignals();
   const QCoreApplication application(argc, argv);
+  const auto language = NamedLanguage(QCoreApplication::arguments());
+  InstallTranslations(language.value_or(SystemLanguageId()));
   const Arguments arguments = ParseArguments(QCoreApplication::arguments());
   if (!arguments.error.isEmpty()) return Fail(arguments.error);
   if (!arguments.help.isEmpty()) {

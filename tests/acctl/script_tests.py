@@ -252,6 +252,8 @@ class Runs(Building):
         before = job.read_text()
         self.check(["undo", "job.undo"], 0, "2 changed")
         self.assertEqual(job.read_text(), before)
+        job.write_text(' {"undoOfJob": [{"id": "a\\nb", "snapshot": {}}]}')
+        self.assertEqual(self.acctl("undo", "job.undo").stderr.count("\n"), 1)
         # What is undone and cannot be recorded is reported with an exit code of its own.
         pipe = self.acctl("undo", "/dev/stdin", text=run.read_text())
         self.assertEqual(pipe.returncode, 1)

@@ -121,6 +121,17 @@ TEST(FleetWindow, RaisesAnAlertUntilItsCauseIsGone) {
   EXPECT_TRUE(Soon([&] { return Rows(window)[1].hasAlert; })) << "it came again";
 }
 
+TEST(FleetWindow, ShowsWhatADialogHasRead) {
+  MainWindow window({Profile("A")}, {.interval = 1h});
+  window.show();
+  SimulatedProjector& projector = window.Session(0)->Simulator();
+  ASSERT_TRUE(Soon([&] { return Rows(window)[0].state.answered.has_value(); }));
+  projector.SetValue(SettingId::LampTime, 777);
+  window.OpenDialog(0, 0);
+  EXPECT_TRUE(
+      Soon([&] { return Rows(window)[0].state.lamps == std::vector<LampState>{{.hours = 777}}; }));
+}
+
 TEST(FleetWindow, TheFirstReadingIsNoEventAndUnseenRowsStayUpToDate) {
   MainWindow window({Profile("A"), Profile("B")}, kOften);  // not shown: no row is in sight
   const auto& state = Rows(window)[1].state;

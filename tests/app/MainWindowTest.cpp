@@ -24,12 +24,12 @@
 #include <gtest/gtest.h>
 
 #include "app/desktop/MainWindow.h"
-#include "app/desktop/Translations.h"
 #include "app/desktop/log/CommandLog.h"
 #include "app/desktop/presets/PresetFolder.h"
 #include "app/desktop/profiles/ProfileEditor.h"
 #include "app/desktop/simulation/FaultPanel.h"
 #include "app/profiles/SettingsFile.h"
+#include "app/profiles/Translations.h"
 #include "host/CAdvanceDlg.h"
 #include "i18n/Catalog.h"
 #include "pages/common/CTabPage.h"
@@ -212,7 +212,7 @@ TEST(MainWindow, IsTranslatedCompletely) {
   const auto speak = [](const char* locale) {
     qputenv("LC_ALL", locale);
     LoadCatalog();
-    InstallTranslations();
+    InstallTranslations(ShownLanguageId());
   };
   speak("zh_CN.UTF-8");
   {

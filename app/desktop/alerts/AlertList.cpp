@@ -50,7 +50,9 @@ QString AlertList::TextOf(const Alert& alert, const ProjectorRow& row) const {
           .arg(name, StateTexts::LampHours(row.state),
                StateTexts::Hours(row.profile.ratedLampHours));
     case Alert::Kind::Drift:
-      return tr("%1: %2 settings are not as they should be").arg(name).arg(*row.state.drift);
+      return tr("%1: %n settings are not as they should be", nullptr,
+                static_cast<int>(*row.state.drift))
+          .arg(name);
     case Alert::Kind::Problem:
       break;
   }

@@ -151,7 +151,7 @@ void DetailsPanel::Show(const ProjectorRow* row, std::size_t count,
   place_->setVisible(isOne);
   if (!isOne) {
     name_->setText(count == 0 ? tr("No projector selected")
-                              : tr("%1 projectors selected").arg(count));
+                              : tr("%n projectors selected", nullptr, static_cast<int>(count)));
     return;
   }
   name_->setText(QString::fromStdString(row->profile.name));

@@ -210,9 +210,10 @@ void CommandLog::AskAndSave() {
 
 void CommandLog::AskAndClear() {
   if (model_->rowCount() == 0) return;
-  auto* question = new QMessageBox(QMessageBox::Question, tr("Clear Log"),
-                                   tr("Remove all %1 entries of the log?").arg(model_->rowCount()),
-                                   QMessageBox::NoButton, this);
+  auto* question =
+      new QMessageBox(QMessageBox::Question, tr("Clear Log"),
+                      tr("Remove all %n entries of the log?", nullptr, model_->rowCount()),
+                      QMessageBox::NoButton, this);
   question->setAttribute(Qt::WA_DeleteOnClose);
   const QPushButton* clear = question->addButton(tr("Clear"), QMessageBox::DestructiveRole);
   question->setDefaultButton(question->addButton(QMessageBox::Cancel));

@@ -207,7 +207,8 @@ void ProfileActions::RemoveProjectors() {
   auto* question = new QMessageBox(
       QMessageBox::Question, isOne ? tr("Remove Projector") : tr("Remove Projectors"),
       isOne ? tr("Remove \"%1\" from %2?").arg(names.front(), document_.FileName())
-            : tr("Remove %1 projectors from %2?").arg(names.size()).arg(document_.FileName()),
+            : tr("Remove %n projectors from %1?", nullptr, static_cast<int>(names.size()))
+                  .arg(document_.FileName()),
       QMessageBox::NoButton, &window_);
   question->setAttribute(Qt::WA_DeleteOnClose);
   question->setTextFormat(Qt::PlainText);  // the name must not be taken as markup
@@ -235,9 +236,9 @@ void ProfileActions::TagProjectors() {
   auto* question = new QInputDialog(&window_);
   question->setAttribute(Qt::WA_DeleteOnClose);
   question->setWindowTitle(tr("Tag"));
-  question->setLabelText(
-      tr("Tags for %1 projectors, separated by commas;\na minus in front takes a tag away:")
-          .arg(rows.size()));
+  question->setLabelText(tr(
+      "Tags for %n projectors, separated by commas;\na minus in front takes a tag away:", nullptr,
+      static_cast<int>(rows.size())));
   connect(question, &QInputDialog::textValueSelected, this, [this, rows](const QString& text) {
     QStringList added, removed;
     for (const QString& part : text.split(QLatin1Char(','))) {

@@ -111,9 +111,9 @@ void SearchDialog::Add(const FoundProjector& found) {
 void SearchDialog::ShowProgress() {
   if (isOver_) showing_.stop();
   search_->setEnabled(isOver_);
-  QString text = isOver_ ? tr("%1 found").arg(found_.size())
-                         : tr("%1 found, %2 of %3 addresses asked…")
-                               .arg(found_.size())
+  QString text = isOver_ ? tr("%n found", "projectors", static_cast<int>(found_.size()))
+                         : tr("%n found, %1 of %2 addresses asked…", "projectors",
+                              static_cast<int>(found_.size()))
                                .arg(driver_->Done())
                                .arg(driver_->Count());
   if (!driver_->Problem().isEmpty()) text += QLatin1Char('\n') + driver_->Problem();

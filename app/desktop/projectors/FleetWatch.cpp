@@ -105,8 +105,8 @@ void FleetWatch::Learn(const std::string& id, const PjtCommand& command, const P
     return;
   }
   Hold(id, open_.contains(id) ? Clock::duration(kUse) : Clock::duration(kTending));
-  if (uses_.contains(id)) return fleet_->Learn(id, command, reply, power);
-  if (!IsRead(command.operation)) fleet_->AskSoon(id);
+  fleet_->Learn(id, command, reply, power);
+  if (!uses_.contains(id) && !IsRead(command.operation)) fleet_->AskSoon(id);
 }
 
 void FleetWatch::TakeChanges() {

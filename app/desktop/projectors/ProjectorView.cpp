@@ -136,7 +136,7 @@ void ProjectorView::TakeSearch(const QString& text) {
   model_->Search(text);
   const int count = model_->rowCount();
   found_->setVisible(!text.trimmed().isEmpty());
-  found_->setText(count == 0 ? tr("Nothing found") : tr("%1 found").arg(count));
+  found_->setText(count == 0 ? tr("Nothing found") : tr("%n found", "projectors", count));
   const bool isExact = count > 0 && QString::compare(model_->index(0, 0).data().toString(),
                                                      text.trimmed(), Qt::CaseInsensitive) == 0;
   if (count > 0 && (isExact || !table_->selectionModel()->hasSelection()))

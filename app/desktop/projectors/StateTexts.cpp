@@ -154,7 +154,8 @@ QString StateTexts::LampHours(const LiveState& state) {
 
 QString StateTexts::Drift(const LiveState& state) {
   if (!state.drift) return {};
-  return *state.drift == 0 ? tr("As it should be") : tr("%1 differ").arg(*state.drift);
+  return *state.drift == 0 ? tr("As it should be")
+                           : tr("%n differ", "settings", static_cast<int>(*state.drift));
 }
 
 QString StateTexts::Ago(std::chrono::seconds age) {

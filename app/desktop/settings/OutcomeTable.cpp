@@ -89,17 +89,18 @@ QString OutcomeTable::Summary() const {
   const int skipped = count(Outcome::Unknown) + count(Outcome::NotOffered) +
                       count(Outcome::NotSettable) + count(Outcome::NotAllowed);
   QStringList parts;
-  const auto add = [&parts](int number, const QString& what) {
-    if (number > 0) parts.append(what.arg(number));
+  const auto add = [&parts](int number, const char* what) {
+    if (number > 0) parts.append(tr(what, nullptr, number));
   };
-  add(count(Outcome::Changed), tr("%1 changed"));
-  add(count(Outcome::Differs), tr("%1 different"));
-  add(count(Outcome::AlreadySo), tr("%1 already so"));
-  add(count(Outcome::Pending), tr("%1 not yet so"));
-  add(count(Outcome::Refused) + count(Outcome::Busy), tr("%1 refused"));
-  add(count(Outcome::Unconfirmed), tr("%1 not confirmed"));
-  add(count(Outcome::NotReached), tr("%1 not read"));
-  add(skipped, tr("%1 skipped"));
+  //: How many settings came to this, in a list such as "12 changed, 3 refused".
+  add(count(Outcome::Changed), QT_TR_N_NOOP("%n changed"));
+  add(count(Outcome::Differs), QT_TR_N_NOOP("%n different"));
+  add(count(Outcome::AlreadySo), QT_TR_N_NOOP("%n already so"));
+  add(count(Outcome::Pending), QT_TR_N_NOOP("%n not yet so"));
+  add(count(Outcome::Refused) + count(Outcome::Busy), QT_TR_N_NOOP("%n refused"));
+  add(count(Outcome::Unconfirmed), QT_TR_N_NOOP("%n not confirmed"));
+  add(count(Outcome::NotReached), QT_TR_N_NOOP("%n not read"));
+  add(skipped, QT_TR_N_NOOP("%n skipped"));
   return parts.join(QStringLiteral(", "));
 }
 

@@ -255,7 +255,7 @@ void RestoreDialog::AddBeforehandRow(ProjectorPart& projector) {
   projector.beforehandRow =
       model_->Append(Wide(projector.name), tr("Beforehand: other sources and modes"), {}, true);
   model_->SetValues(*projector.beforehandRow, {},
-                    tr("%1 settings").arg(static_cast<int>(snapshot_.beforehand.size())));
+                    tr("%n settings", nullptr, static_cast<int>(snapshot_.beforehand.size())));
   ShowBeforehand(*projector.restoration, *projector.beforehandRow);
 }
 

@@ -67,9 +67,9 @@ QStringList SettingsActions::SaveTo(const QString& path, const ProjectorSessions
       continue;
     }
     if (!unread.empty()) {
-      errors.append(tr("%1: %2 settings cannot be read and are left out")
-                        .arg(shownName)
-                        .arg(static_cast<int>(unread.size())));
+      errors.append(tr("%1: %n settings cannot be read and are left out", nullptr,
+                       static_cast<int>(unread.size()))
+                        .arg(shownName));
     }
     const QByteArray bytes = WriteSnapshot(snapshot);
     const QString error =

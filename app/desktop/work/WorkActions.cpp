@@ -46,10 +46,17 @@ WorkActions::WorkActions(std::function<Rows()> selected, WorkDialog::NameOf name
       power_(new QAction(tr("P&ower"), this)),
       input_(new QAction(tr("&Input"), this)),
       blank_(
-          MakeSwitch(tr("&Blank"), "other.blank", tr("Blank the Picture"), tr("Show the Picture"))),
-      mute_(MakeSwitch(tr("&Mute"), "other.mute", tr("Mute the Sound"), tr("Unmute the Sound"))),
-      freeze_(MakeSwitch(tr("Free&ze"), "other.freeze", tr("Freeze the Picture"),
-                         tr("Release the Picture"))) {
+          MakeSwitch(tr("&Blank"), "other.blank",
+                     {tr("Blank the Picture"), QT_TR_N_NOOP("Blank the picture of %n projectors?")},
+                     {tr("Show the Picture"), QT_TR_N_NOOP("Show the picture of %n projectors?")})),
+      mute_(
+          MakeSwitch(tr("&Mute"), "other.mute",
+                     {tr("Mute the Sound"), QT_TR_N_NOOP("Mute the sound of %n projectors?")},
+                     {tr("Unmute the Sound"), QT_TR_N_NOOP("Unmute the sound of %n projectors?")})),
+      freeze_(MakeSwitch(
+          tr("Free&ze"), "other.freeze",
+          {tr("Freeze the Picture"), QT_TR_N_NOOP("Freeze the picture of %n projectors?")},
+          {tr("Release the Picture"), QT_TR_N_NOOP("Release the picture of %n projectors?")})) {
   connect(on_, &QAction::triggered, this, [this] { SwitchAll(true); });
   connect(off_, &QAction::triggered, this, [this] { SwitchAll(false); });
   auto* powers = new QMenu(&window_);
@@ -64,18 +71,19 @@ WorkActions::WorkActions(std::function<Rows()> selected, WorkDialog::NameOf name
 // Jobs that run use the fleet, which ends after this object.
 WorkActions::~WorkActions() { qDeleteAll(window_.findChildren<WorkDialog*>()); }
 
-QAction* WorkActions::MakeSwitch(const QString& text, const char* key, const QString& onText,
-                                 const QString& offText) {
+int WorkActions::SelectedCount() const { return static_cast<int>(selected_().size()); }
+
+QAction* WorkActions::MakeSwitch(const QString& text, const char* key, const Switch& on,
+                                 const Switch& off) {
   auto* action = new QAction(text, this);
   auto* menu = new QMenu(&window_);
-  const auto add = [&](const QString& title, const QString& question, const char* value) {
-    connect(menu->addAction(title), &QAction::triggered, this,
-            [this, title, question, key, value] { Set(title, question, key, value); });
+  const auto add = [&](const Switch& way, const char* value) {
+    connect(menu->addAction(way.title), &QAction::triggered, this, [this, way, key, value] {
+      Set(way.title, tr(way.question, nullptr, SelectedCount()), key, value);
+    });
   };
-  // `Do` puts the number in.
-  const QString question = tr("%2 on %1 projectors?");
-  add(onText, question.arg(QStringLiteral("%1"), onText), "1");
-  add(offText, question.arg(QStringLiteral("%1"), offText), "0");
+  add(on, "1");
+  add(off, "0");
   action->setMenu(menu);
   return action;
 }
@@ -87,7 +95,8 @@ void WorkActions::Update(bool any) {
 
 void WorkActions::SwitchAll(bool on) {
   WorkPlan plan{.title = on ? tr("Switch On") : tr("Switch Off"),
-                .question = on ? tr("Switch on %1 projectors?") : tr("Switch off %1 projectors?"),
+                .question = on ? tr("Switch on %n projectors?", nullptr, SelectedCount())
+                               : tr("Switch off %n projectors?", nullptr, SelectedCount()),
                 .parts = {{.work = SwitchPower{.on = on}, .targets = {}}}};
   for (const ProjectorRow* row : selected_())
     plan.parts.front().targets.push_back(watch_.TargetOf(row->profile));
@@ -135,8 +144,8 @@ void WorkActions::FillInputs(QMenu& menu) {
     connect(menu.addAction(shown.replace(QLatin1Char('&'), QStringLiteral("&&"))),
             &QAction::triggered, this, [this, text, name] {
               Set(tr("Input %1").arg(text),
-                  tr("Choose the input %2 on %1 projectors?").arg(QStringLiteral("%1"), text), {},
-                  name);
+                  tr("Choose the input %1 on %n projectors?", nullptr, SelectedCount()).arg(text),
+                  {}, name);
             });
   }
   if (names.empty()) menu.addAction(tr("No inputs are known"))->setEnabled(false);
@@ -146,7 +155,6 @@ void WorkActions::Do(WorkPlan plan, const Then& then) {
   std::size_t count = plan.missing.size();
   for (const WorkPart& part : plan.parts) count += part.targets.size();
   if (count == 0) return;
-  if (plan.question.contains(QLatin1String("%1"))) plan.question = plan.question.arg(count);
   auto* dialog = new WorkDialog(new WorkRun(watch_, texts_, plan), nameOf_, &window_);
   connect(dialog, &WorkDialog::UndoWanted, this, [this](const WorkPlan& undo) { Do(undo); });
   if (then)

@@ -52,8 +52,14 @@ class WorkActions : public QObject {
   void Told(const QString& text);
 
  private:
-  QAction* MakeSwitch(const QString& text, const char* key, const QString& onText,
-                      const QString& offText);
+  /// One way of a switch: what a menu calls it, and the question for several projectors.
+  struct Switch {
+    QString title;
+    const char* question;
+  };
+
+  int SelectedCount() const;
+  QAction* MakeSwitch(const QString& text, const char* key, const Switch& on, const Switch& off);
   void FillInputs(QMenu& menu);
   void SwitchAll(bool on);
   /// `key` is empty for the input source, whose key depends on the model.

@@ -141,9 +141,10 @@ QString WorkRun::Summary() const {
   const int pending =
       count([](const WorkLine& line) { return line.outcome == WorkOutcome::Pending; });
   const int failed = count([](const WorkLine& line) { return line.HasFailed(); });
-  QString text = tr("%1 of %2 done").arg(done + pending).arg(lines_.size());
-  if (pending > 0) text += tr(", of these %1 still under way").arg(pending);
-  if (failed > 0) text += tr(", %1 failed").arg(failed);
+  QString text =
+      tr("%1 of %n done", "projectors", static_cast<int>(lines_.size())).arg(done + pending);
+  if (pending > 0) text += tr(", of these %n still under way", "projectors", pending);
+  if (failed > 0) text += tr(", %n failed", "projectors", failed);
   return text;
 }
 

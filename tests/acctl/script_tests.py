@@ -360,4 +360,6 @@ class Watching(Building):
         self.acctl("set", "*", "contrast=4")
         self.assertEqual(watch.wait(60), 0)
         self.check(["watch", "Office", "power", "--until", "contrast=9", "--wait", "0.2"], 1, "On", "not so in time")
-        self.check(["watch", "Office", "power", "--until", "input=hdim"], 2, errors="'hdim' is not one of")
+        for wrong in ("input=hdim", "power=offf"):
+            self.check(["watch", "Office", "power", "--until", wrong], 2, errors="'.*' is not one of")
+        self.check(["watch", "Office", "power", "--until", "power=warming-up", "--wait", "0.2"], 1, "On", "not so in time")

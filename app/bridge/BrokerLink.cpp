@@ -88,7 +88,9 @@ void BrokerLink::FollowRole() {
   if (std::exchange(holds_, holds) != holds) {
     publisher_.Stop();
     // Not while the connection is telling something.
-    QTimer::singleShot(0, &context_, [this] { Connect(); });
+    QTimer::singleShot(0, &context_, [this] {
+      if (!isClosing_) Connect();
+    });
   } else if (keeper_.IsSettled() && !std::exchange(isSettled_, true)) {
     Settle();
   }

@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # What takes too long for every change: fuzzing on the kept corpus, random walks over the host application and the
 # dialogs of every model, kills of both ends, and calls that fail; then every page in every language, each file
-# compiled without the headers of others, clang-tidy over everything, what the tests reach, the checks of a release, and
-# whether memory grows in a hundred sweeps of a fleet; and how many of forty mutants the tests notice. Adds a line to the table in docs/reliability.md.
+# compiled without the headers of others, clang-tidy over everything, what the tests reach, the checks of a release,
+# bridges with ten thousand projectors and with broken brokers, and whether memory grows in a hundred sweeps of a fleet;
+# and how many of forty mutants the tests notice. Adds a line to the table in docs/reliability.md.
 # Usage: scripts/long.sh [time, such as 2h or 20m]
 #
 # A quarter of the time goes to each of the first four. The sanitizers watch the walks; PRESET=dev takes another build.
@@ -83,6 +84,8 @@ further "clang-tidy over everything" "scripts/tidy.py --deep"
 further "coverage" "scripts/coverage.sh"
 further "the checks of a release" "scripts/check-release.sh"
 
+further "a bridge with ten thousand projectors" "scripts/bridge-load.py build/check/bin"
+further "bridges through failures" "$bin/bridge_program_tests --gtest_filter='BridgeProgram.*' --gtest_repeat=10"
 further "a hundred sweeps of a fleet" \
   "! build/check/bin/fleet-bench --benchmark_filter=ManySweeps 2>&1 | tee /dev/stderr | grep -q 'ERROR OCCURRED'"
 

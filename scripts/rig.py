@@ -23,11 +23,11 @@ def is_free(port):
         return taken.connect_ex(("127.0.0.1", port)) != 0
 
 
-def free_port():
-    """The first of two, for the wire and PJLink. Below the range of outgoing connections, which
-    might take one while the simulator is away."""
+def free_port(count=2):
+    """The first of as many that follow each other; a projector has one for the wire and one for PJLink. Below the
+    range of outgoing connections, which might take one while the simulator is away."""
     port = 10_000 + 4 * (os.getpid() % 5_000)
-    while not (is_free(port) and is_free(port + 1)):
+    while not all(is_free(port + i) for i in range(count)):
         port += 4
     return port
 

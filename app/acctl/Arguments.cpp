@@ -22,11 +22,6 @@ struct GivenWords {
   std::string error;
 };
 
-Arguments Wrong(Arguments arguments, std::string error) {
-  arguments.error = std::move(error);
-  return arguments;
-}
-
 /// Whether the words ask for a format, for errors before the options are taken.
 bool NamesFormat(const std::vector<std::string>& words, const std::string& format) {
   for (std::size_t i = 0; i < words.size(); ++i) {
@@ -51,12 +46,12 @@ void ChooseLanguage(const std::vector<std::string>& words, const Arguments& argu
 }
 
 // "--name", "--name value", "--name=value", "-o value". Words after "--" are never options, and
-// any other single minus begins a value.
+// any other single minus begins a value. After an error it goes on, as the form of the output may
+// follow.
 GivenWords Separate(const std::vector<std::string>& words) {
   GivenWords given;
   const auto fail = [&given](std::string error) {
-    given.error = std::move(error);
-    return given;
+    if (given.error.empty()) given.error = std::move(error);
   };
   for (auto word = words.begin(); word != words.end(); ++word) {
     if (*word == "--") {
@@ -76,13 +71,19 @@ GivenWords Separate(const std::vector<std::string>& words) {
       name.resize(equals);
     }
     const OptionForm* const option = FindOption(name);
-    if (option == nullptr) return fail(Message(Acctl::tr("there is no option --%1"), name));
-    if (option->value.empty() && value)
-      return fail(Message(Acctl::tr("--%1 takes no value"), name));
+    if (option == nullptr) {
+      fail(Message(Acctl::tr("there is no option --%1"), name));
+      continue;
+    }
+    if (option->value.empty() && value) {
+      fail(Message(Acctl::tr("--%1 takes no value"), name));
+      continue;
+    }
     if (!option->value.empty() && !value) {
       if (word + 1 == words.end()) {
         //: An option and what must follow it: "--profiles needs FILE".
-        return fail(Message(Acctl::tr("--%1 needs %2"), name, option->value));
+        fail(Message(Acctl::tr("--%1 needs %2"), name, option->value));
+        break;
       }
       value = *++word;
     }
@@ -91,18 +92,34 @@ GivenWords Separate(const std::vector<std::string>& words) {
   return given;
 }
 
+/// -o is the folder of `save`, and the form of the output of any other command.
+bool IsFolder(const GivenOption& option, Command command) {
+  return option.isShort && option.form->name == "format" && command == Command::Save;
+}
+
+/// The form of the output that is asked for, whatever else is wrong; nothing without one.
+std::optional<Format> AskedFormat(const GivenWords& given, Command command) {
+  std::optional<Format> asked;
+  for (const GivenOption& option : given.options) {
+    const bool isFormat = option.form->name == "format" || option.form->name == "json";
+    Arguments taken;
+    if (!isFormat || IsFolder(option, command)) continue;
+    if (option.form->take(taken, option.value)) asked = taken.format;
+  }
+  return asked;
+}
+
 std::string TakeOptions(const GivenWords& given, const CommandForm& form, Arguments& arguments) {
-  for (const auto& [given_, value, isShort] : given.options) {
-    const bool isFolder = isShort && given_->name == "format" && form.command == Command::Save;
-    const OptionForm& option = isFolder ? *FindOption("folder") : *given_;
+  for (const GivenOption& one : given.options) {
+    const OptionForm& option = IsFolder(one, form.command) ? *FindOption("folder") : *one.form;
     const std::string name = "--" + std::string(option.name);
     if (!option.IsOf(form.command)) {
       //: A command and an option: "list takes no --wait".
       return Message(Acctl::tr("%1 takes no %2"), form.name, name);
     }
-    if (!option.take(arguments, value)) {
+    if (!option.take(arguments, one.value)) {
       //: An option and its value.
-      return Message(Acctl::tr("%1: '%2' is not possible"), name, value);
+      return Message(Acctl::tr("%1: '%2' is not possible"), name, one.value);
     }
   }
   return {};
@@ -206,9 +223,9 @@ Arguments ParseArguments(const std::vector<std::string>& words) {
   ChooseLanguage(words, arguments);
   TakeOwnSettings(arguments);
   if (arguments.language || arguments.format != Format::Text) ChooseLanguage(words, arguments);
-  if (!arguments.error.empty()) return arguments;
   // The words of `complete` are those of another command, which may be incomplete.
-  if (!words.empty() && words.front() == FormOf(Command::Complete).name) {
+  const bool completes = !words.empty() && words.front() == FormOf(Command::Complete).name;
+  if (completes && arguments.error.empty()) {
     arguments.command = Command::Complete;
     arguments.words.assign(words.begin() + 1, words.end());
     const auto option = std::ranges::find(words, "--profiles");
@@ -216,40 +233,40 @@ Arguments ParseArguments(const std::vector<std::string>& words) {
     return arguments;
   }
   GivenWords given = Separate(words);
+  const CommandForm* const form = given.words.empty() ? nullptr : FindCommand(given.words.front());
+  if (form != nullptr) arguments.command = form->command;
+  const auto asked = AskedFormat(given, arguments.command);
   const Format usual = arguments.format;
-  if (WantsJson(words)) arguments.format = Format::Json;
-  if (!given.error.empty()) return Wrong(std::move(arguments), std::move(given.error));
+  const auto wrong = [&](std::string error) {
+    arguments.format = asked.value_or(usual);
+    arguments.error = std::move(error);
+    return arguments;
+  };
+  if (!arguments.error.empty()) return wrong(arguments.error);
+  if (!given.error.empty()) return wrong(given.error);
   if (IsAsked(given, "version")) {
     arguments.command = Command::Version;
     return arguments;
   }
   const bool wantsHelp = IsAsked(given, "help");
   if (given.words.empty()) {
-    if (wantsHelp) return arguments;
-    return Wrong(std::move(arguments),
-                 Message(Acctl::tr("a command is missing; --help lists them")));
+    return wantsHelp ? arguments
+                     : wrong(Message(Acctl::tr("a command is missing; --help lists them")));
   }
-  const CommandForm* const form = FindCommand(given.words.front());
   if (form == nullptr) {
-    return Wrong(
-        std::move(arguments),
+    return wrong(
         Message(Acctl::tr("there is no command '%1'; --help lists them"), given.words.front()));
   }
   if (wantsHelp) {
     arguments.topic = form->command;
+    arguments.command = Command::Help;
     return arguments;
   }
-  arguments.command = form->command;
-  arguments.format = Format::Text;
   std::string error = TakeOptions(given, *form, arguments);
-  if (!error.empty()) return Wrong(std::move(arguments), std::move(error));
-  const bool isGiven = IsAsked(given, "format") || IsAsked(given, "json");
-  if (!isGiven) arguments.format = usual;
+  if (!error.empty()) return wrong(std::move(error));
   const bool isOfValues = arguments.format == Format::Tsv || arguments.format == Format::Value;
   if (isOfValues && !HasValues(form->command)) {
-    if (isGiven) {
-      return Wrong(std::move(arguments), Message(Acctl::tr("%1 has no such --format"), form->name));
-    }
+    if (asked) return wrong(Message(Acctl::tr("%1 has no such --format"), form->name));
     arguments.format = Format::Text;
   }
   given.words.erase(given.words.begin());
@@ -257,13 +274,12 @@ Arguments ParseArguments(const std::vector<std::string>& words) {
   const bool isRight = count >= form->least && count <= form->most;
   if (isRight) Distribute(std::move(given.words), form->words, arguments);
   if (!isRight || !TakeSpecialWords(arguments)) {
-    return Wrong(std::move(arguments),
-                 Message(Acctl::tr("use: %1"),
+    return wrong(Message(Acctl::tr("use: %1"),
                          "acctl " + std::string(form->name) + ' ' + std::string(form->usage)));
   }
   const bool needsFile = NeedsFile(form->command) && arguments.folder.empty();
   if (needsFile && arguments.file.empty()) {
-    return Wrong(std::move(arguments), Message(Acctl::tr("the name of the file is empty")));
+    return wrong(Message(Acctl::tr("the name of the file is empty")));
   }
   return arguments;
 }

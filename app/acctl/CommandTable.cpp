@@ -55,7 +55,7 @@ constexpr CommandForm kCommands[] = {
      "state and the results of actions."),
      "acctl set 'Lecture hall' brightness+=3 active-iris=theater\n"
      "acctl set '@building-3' power=standby --wait 90s\n"
-     "acctl set 'Seminar*' input=hdmi --dry-run",
+     "acctl set 'Seminar*' input=rgb1 --dry-run",
      1, kMany},
     {Command::Reset, "reset", Words::ProjectorWords, "P KEY...",
      QT_TRANSLATE_NOOP("Acctl", "reset settings to the projector's standard"),

@@ -97,6 +97,16 @@ ConditionList ParseConditions(std::string_view text) {
   }
 }
 
+namespace {
+
+bool IsPowerCode(std::string_view text) {
+  using enum PowerState;
+  return std::ranges::any_of(std::array{Standby, WarmingUp, On, CoolingDown},
+                             [text](PowerState power) { return CodeOf(power) == text; });
+}
+
+}  // namespace
+
 std::string ImpossibleValue(const std::vector<Condition>& conditions, const ValueTexts& texts,
                             const Projectors& projectors, ModelCache& models) {
   for (const Condition& condition : conditions) {
@@ -109,7 +119,8 @@ std::string ImpossibleValue(const std::vector<Condition>& conditions, const Valu
       lacking = setting;
       const bool isListed =
           setting->kind == ModelSetting::Kind::Choice && !setting->entries.empty();
-      return !isListed || texts.Parse(*setting, condition.value);
+      if (!isListed && !IsPower(*setting)) return true;
+      return texts.Parse(*setting, condition.value) || IsPowerCode(condition.value);
     });
     if (isPossible || lacking == nullptr) continue;
     return condition.key + ": " +

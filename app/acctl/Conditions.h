@@ -27,7 +27,8 @@ struct ConditionList {
 ConditionList ParseConditions(std::string_view text);
 
 /// Why a condition is about a value that none of the projectors' models has; empty if there is
-/// none. Numbers, states and choices that only a projector knows may have any value.
+/// none. Numbers, states except the power, and choices that only a projector knows may have any
+/// value.
 std::string ImpossibleValue(const std::vector<Condition>& conditions, const ValueTexts& texts,
                             const Projectors& projectors, ModelCache& models);
 

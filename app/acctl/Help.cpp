@@ -50,6 +50,7 @@ constexpr Named kFiles[] = {
     {"~/.local/share/advanced-control/presets", "Presets, which 'apply' and 'diff' find by name."},
     {"~/.local/state/advanced-control/undo", "What 'acctl undo' restores."},
     {"~/.cache/advanced-control/locks", "Locks, so that runs for one projector wait for each other."},
+    {"$XDG_RUNTIME_DIR/advanced-control", "Where running simulators serve simulated projectors."},
 };
 // clang-format on
 

@@ -191,12 +191,10 @@ int Explain(const Work& work, ModelCache& models) {
     }
   }
   if (found.empty()) {
-    const Problem problem{.code = ProblemCode::NoSuchSetting,
-                          .text = Message(Acctl::tr("no model has such a setting")),
-                          .key = work.arguments.words.front()};
-    Complain(problem.Line());
-    Print(ErrorOutput(work.arguments, problem));
-    return ExitCode::WrongUse;
+    return ReportError(work.arguments, {.code = ProblemCode::NoSuchSetting,
+                                        .text = Message(Acctl::tr("no model has such a setting")),
+                                        .key = work.arguments.words.front(),
+                                        .exitCode = ExitCode::WrongUse});
   }
   std::string text;
   QJsonArray json;

@@ -54,12 +54,6 @@ void RejectCommonLacks(const std::vector<Report>& reports,
 
 }  // namespace
 
-const ModelSettings& ModelCache::Of(const FleetProfile& profile) {
-  auto& model = models_[profile.model.get()];
-  if (!model) model = std::make_unique<ModelSettings>(profile.model->data);
-  return *model;
-}
-
 std::vector<std::string> FileMistakes(const Work& work, const Projectors& projectors,
                                       ModelCache& models) {
   std::vector<std::string> mistakes;

@@ -1,23 +1,13 @@
 #pragma once
 
 #include <functional>
-#include <map>
-#include <memory>
 #include <optional>
 #include <vector>
 
+#include "app/acctl/ModelCache.h"
 #include "app/acctl/Parallel.h"
 #include "app/acctl/Uses.h"
 #include "app/acctl/Work.h"
-
-/// The settings of models, made once for all projectors of a model. One thread.
-class ModelCache {
- public:
-  const ModelSettings& Of(const FleetProfile& profile);
-
- private:
-  std::map<const ProfileModel*, std::unique_ptr<const ModelSettings>> models_;
-};
 
 using Projectors = std::vector<const FleetProfile*>;
 

@@ -63,13 +63,15 @@ QJsonObject Describe(const Problem& problem) {
   return json;
 }
 
-std::string ErrorOutput(const Arguments& arguments, const Problem& problem) {
-  QJsonObject json = Envelope(arguments.command);
-  json["errors"] = QJsonArray{Describe(problem)};
-  if (arguments.format == Format::JsonLines) return Line({{"error", Describe(problem)}});
-  if (arguments.format != Format::Json) return {};
-  json["projectors"] = QJsonArray();
-  return QJsonDocument(json).toJson().toStdString();
+int ReportErrors(const Arguments& arguments, std::span<const Problem> problems) {
+  Printer printer(arguments, 0);
+  int code = ExitCode::Done;
+  for (const Problem& problem : problems) {
+    printer.Add(problem);
+    code = std::max(code, problem.exitCode);
+  }
+  printer.Finish();
+  return code;
 }
 
 std::string ShownName(const std::string& name, bool isSimulated) {
@@ -143,11 +145,18 @@ void Printer::Add(const std::string& name, bool isSimulated, const Report& repor
   }
 }
 
+void Printer::Add(const Problem& problem) {
+  Complain(problem.Line());
+  if (arguments_.format == Format::JsonLines) Write(Line({{"error", Describe(problem)}}));
+  errors_.append(Describe(problem));
+}
+
 bool Printer::Finish() {
   const bool isFile = arguments_.command == Command::Save && arguments_.file == "-";
-  if (arguments_.format != Format::Json || isFile) return isPrinted_;
+  if (arguments_.format != Format::Json || (isFile && errors_.isEmpty())) return isPrinted_;
   QJsonObject json = Envelope(arguments_.command);
   json["projectors"] = projectors_;
+  if (!errors_.isEmpty()) json["errors"] = errors_;
   Write(QJsonDocument(json).toJson().toStdString());
   return isPrinted_;
 }

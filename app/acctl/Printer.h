@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 
 #include <QJsonArray>
@@ -8,9 +9,11 @@
 #include "app/acctl/Arguments.h"
 #include "app/acctl/Report.h"
 
-/// An error that is not about a projector, as standard output has it in JSON; nothing in any other
-/// format.
-std::string ErrorOutput(const Arguments& arguments, const Problem& problem);
+/// Reports errors that end a command before it has begun. Returns the highest of their exit codes.
+int ReportErrors(const Arguments& arguments, std::span<const Problem> problems);
+inline int ReportError(const Arguments& arguments, const Problem& problem) {
+  return ReportErrors(arguments, {&problem, 1});
+}
 
 /// The outermost object of all output in JSON.
 QJsonObject Envelope(Command command);
@@ -24,8 +27,9 @@ class Printer {
   Printer(const Arguments& arguments, int nameWidth)
       : arguments_(arguments), nameWidth_(nameWidth) {}
 
-  /// `name` as it is shown, for instance with "(simulated)".
   void Add(const std::string& name, bool isSimulated, const Report& report);
+  /// Adds an error that is not about a projector.
+  void Add(const Problem& problem);
   /// Prints what is left. False if something could not be printed.
   bool Finish();
 
@@ -38,6 +42,7 @@ class Printer {
   const Arguments& arguments_;
   const int nameWidth_;
   QJsonArray projectors_;
+  QJsonArray errors_;
   bool isBegun_ = false;
   bool isPrinted_ = true;
 };

@@ -20,12 +20,6 @@
 
 namespace {
 
-int Fail(const Arguments& arguments, const Problem& problem) {
-  Complain(problem.Line());
-  Print(ErrorOutput(arguments, problem));
-  return problem.exitCode;
-}
-
 /// Prints the result of a command in the format of the arguments.
 int Finish(const Arguments& arguments, const std::string& text, const QJsonObject& result,
            int code) {
@@ -92,9 +86,9 @@ int Find(const Arguments& arguments, const std::string& password) {
     for (const std::string& word : arguments.words) words += Wide(word);
     SearchRange range = ParseSearchRange(words.join(' '));
     if (!range.error.isEmpty()) {
-      return Fail(arguments, {.code = ProblemCode::WrongUse,
-                              .text = range.error.toStdString(),
-                              .exitCode = ExitCode::WrongUse});
+      return ReportError(arguments, {.code = ProblemCode::WrongUse,
+                                     .text = range.error.toStdString(),
+                                     .exitCode = ExitCode::WrongUse});
     }
     options.addresses = std::move(range.addresses);
   }
@@ -112,10 +106,6 @@ int Find(const Arguments& arguments, const std::string& password) {
   QTimer::singleShot(0, &loop, [&search] { search.Start(); });
   loop.exec();
   int code = ExitCode::Done;
-  if (!search.Problem().isEmpty()) {
-    Complain(search.Problem().toStdString());
-    code = ExitCode::Refused;
-  }
   Table table;
   QJsonArray json;
   for (const FoundProjector& projector : found) {
@@ -125,10 +115,15 @@ int Find(const Arguments& arguments, const std::string& password) {
     json.append(Describe(projector));
   }
   QJsonObject result{{"found", json}};
+  if (const QString problem = search.Problem(); !problem.isEmpty()) {
+    Complain(problem.toStdString());
+    result["errors"] = QJsonArray{QJsonObject{{"code", ProblemCode::Internal}, {"text", problem}}};
+    code = ExitCode::Refused;
+  }
   std::string text = table.Text();
   if (!arguments.file.empty()) {
     const QString error = AddFound(arguments, found, password, result, text);
-    if (!error.isEmpty()) return Fail(arguments, {ProblemCode::File, error.toStdString()});
+    if (!error.isEmpty()) return ReportError(arguments, {ProblemCode::File, error.toStdString()});
   }
   return Finish(arguments, text, result, code);
 }
@@ -136,9 +131,10 @@ int Find(const Arguments& arguments, const std::string& password) {
 int Import(const Arguments& arguments) {
   constexpr qsizetype kMost = qsizetype{64} << 20;
   if (arguments.profiles.empty()) {
-    return Fail(arguments, {.code = ProblemCode::WrongUse,
-                            .text = Message(Acctl::tr("name the profile file with --profiles")),
-                            .exitCode = ExitCode::WrongUse});
+    return ReportError(arguments,
+                       {.code = ProblemCode::WrongUse,
+                        .text = Message(Acctl::tr("name the profile file with --profiles")),
+                        .exitCode = ExitCode::WrongUse});
   }
   const ProfileFileText file = ReadOrBegin(arguments.profiles);
   const FileBytes csv = ReadToEnd(Wide(arguments.file), kMost);
@@ -146,14 +142,14 @@ int Import(const Arguments& arguments) {
                              ? QString()
                              : Acctl::tr("cannot read %1: %2").arg(Wide(arguments.file), csv.error);
   for (const QString& error : {file.error, unread}) {
-    if (!error.isEmpty()) return Fail(arguments, {ProblemCode::File, error.toStdString()});
+    if (!error.isEmpty()) return ReportError(arguments, {ProblemCode::File, error.toStdString()});
   }
   const CsvImport import = ImportCsv(file.text, csv.bytes);
   QString error = import.error;
   if (error.isEmpty() && import.text != file.text && !arguments.dryRun) {
     error = WriteProfileText(Wide(arguments.profiles), import.text);
   }
-  if (!error.isEmpty()) return Fail(arguments, {ProblemCode::File, error.toStdString()});
+  if (!error.isEmpty()) return ReportError(arguments, {ProblemCode::File, error.toStdString()});
   QJsonArray faults;
   for (const CsvFault& fault : import.faults) {
     Complain(arguments.file + ':' + std::to_string(fault.line) + ": " + fault.reason.toStdString());

@@ -24,12 +24,6 @@
 
 namespace {
 
-int Fail(const Arguments& arguments, const Problem& problem) {
-  Complain(problem.Line());
-  Print(ErrorOutput(arguments, problem));
-  return problem.exitCode;
-}
-
 /// The command line for the list of runs, without passwords.
 std::string CommandLine(const std::vector<std::string>& words) {
   std::string line;
@@ -100,7 +94,7 @@ class ProgramRun {
   SettingsFiles files_;
   std::map<std::string, std::string> paths_;
   std::vector<Condition> conditions_;
-  std::vector<std::string> left_;  // what takes no part, and why
+  std::vector<Problem> left_;  // what takes no part, and why
   std::string password_;
   ModelCache models_;
 };
@@ -199,19 +193,26 @@ int ProgramRun::RunOnProjectors(const ValueTexts& texts) {
             .files = std::move(files_),
             .paths = std::move(paths_),
             .password = password_,
+            .models = &models_,
             .undo = &undo,
             .isInterrupted = [] { return ReceivedSignal() != 0; }};
   for (const FleetProfile* profile : projectors_) work.ids[profile->name] = FleetIdOf(*profile);
+  const bool needsSimulator = std::ranges::any_of(projectors_, [this](const FleetProfile* profile) {
+    return IsSimulated(*profile, arguments_);
+  });
+  if (needsSimulator) work.served = FindServed(Wide(arguments_.profiles));
   if (arguments_.command == Command::Diff || arguments_.command == Command::Apply) {
     const auto mistakes = FileMistakes(work, projectors_, models_);
+    std::vector<Problem> problems;
     for (const std::string& mistake : mistakes) {
-      Fail(arguments_,
-           {.code = ProblemCode::WrongFile, .text = mistake, .exitCode = ExitCode::WrongUse});
+      problems.push_back(
+          {.code = ProblemCode::WrongFile, .text = mistake, .exitCode = ExitCode::WrongUse});
     }
-    if (!mistakes.empty()) return ExitCode::WrongUse;
+    if (!problems.empty()) return ReportErrors(arguments_, problems);
   }
   if (arguments_.command == Command::Watch) return Watch(work, projectors_, models_);
   ProjectorRuns runs(work, projectors_, models_);
+  for (const Problem& problem : left_) runs.Add(problem);
   if (!conditions_.empty()) runs.Filter(conditions_);
   return runs.Run();
 }
@@ -240,9 +241,7 @@ int ProgramRun::Run() {
     default:
       break;
   }
-  for (const std::string& line : left_) Complain(line);
   int code = RunOnProjectors(texts);
-  if (!left_.empty()) code = std::max(code, ExitCode::Refused);
   const bool isUndone =
       arguments_.command == Command::Undo && !arguments_.dryRun && code == ExitCode::Done;
   if (isUndone) {
@@ -259,8 +258,8 @@ int ProgramRun::Run() {
 }  // namespace
 
 int FailWrongUse(const Arguments& arguments, const std::string& error) {
-  return Fail(arguments,
-              {.code = ProblemCode::WrongUse, .text = error, .exitCode = ExitCode::WrongUse});
+  return ReportError(
+      arguments, {.code = ProblemCode::WrongUse, .text = error, .exitCode = ExitCode::WrongUse});
 }
 
 bool NeedsProfiles(const Arguments& arguments) {

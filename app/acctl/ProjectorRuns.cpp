@@ -43,10 +43,16 @@ bool IsChanging(const Arguments& arguments) {
                                command == Command::Apply || command == Command::Undo);
 }
 
-/// The projector's address; nothing if it is simulated.
+/// Whether a projector is simulated by this program, so that nothing that it is told lasts.
+bool IsSimulatedHere(const FleetProfile& profile, const Work& work) {
+  return IsSimulated(profile, work.arguments) && !work.served.contains(profile.name);
+}
+
+/// The projector's address; nothing if it is simulated here.
 std::optional<ProjectorAddress> PresentAddress(const FleetProfile& profile, const Work& work,
                                                const std::string& password) {
-  if (IsSimulated(profile, work.arguments)) return std::nullopt;
+  if (IsSimulatedHere(profile, work)) return std::nullopt;
+  if (IsSimulated(profile, work.arguments)) return ParseAddress(work.served.at(profile.name));
   const std::string& given = work.arguments.connecting.address;
   ProjectorAddress address = given.empty() ? AddressOf(profile) : ParseAddress(given);
   auto* const pjLink = std::get_if<PjLinkAddress>(&address);
@@ -65,7 +71,8 @@ void Connect(const Work& work, const FleetProfile& profile,
              const std::optional<ProjectorAddress>& address, OpenProjector& open) {
   const auto timeOut = work.arguments.connecting.timeOut;
   if (open.access) return;
-  open.access.emplace(profile, ChannelTo(profile, address, timeOut), timeOut);
+  open.access.emplace(profile, ChannelTo(profile, address, timeOut), timeOut,
+                      work.models->Share(profile));
   open.access->AskForInputs(InputsNeededBy(work, TargetOf(*open.access)));
 }
 
@@ -161,6 +168,11 @@ Report ProjectorRuns::Act(int number, const Step& step) {
   return std::move(attempt.report);
 }
 
+void ProjectorRuns::Add(const Problem& problem) {
+  code_ = std::max(code_, problem.exitCode);
+  printer_.Add(problem);
+}
+
 void ProjectorRuns::Filter(const std::vector<Condition>& conditions) {
   constexpr const char* kMeets = "meets";
   const Step step{[&](const Work& work, ProjectorAccess& projector) {
@@ -201,7 +213,7 @@ Report ProjectorRuns::RunOne(int number, const std::vector<std::optional<Report>
   if (work_.isForSeveral && report.code == ExitCode::WrongUse && IsChanging(arguments)) {
     report.code = ExitCode::Refused;
   }
-  if (IsChanging(arguments) && IsSimulated(Profile(number), arguments)) {
+  if (IsChanging(arguments) && IsSimulatedHere(Profile(number), work_)) {
     report.Add(
         {.code = ProblemCode::Simulated,
          .text = Message(Acctl::tr("simulated by acctl itself, nothing lasting was changed")),

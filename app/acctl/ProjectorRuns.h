@@ -12,7 +12,7 @@
 #include "app/acctl/Preflight.h"
 #include "app/acctl/Printer.h"
 
-/// Whether a projector is simulated by this program, so that nothing that it is told lasts.
+/// Whether a projector is only simulated: by a simulator program that serves it, or else here.
 bool IsSimulated(const FleetProfile& profile, const Arguments& arguments);
 
 /// Opens a projector without waiting for others; null if another run of the program uses it.
@@ -25,6 +25,8 @@ class ProjectorRuns {
  public:
   ProjectorRuns(const Work& work, Projectors projectors, ModelCache& models);
 
+  /// Reports an error that is not about one of the projectors.
+  void Add(const Problem& problem);
   /// Leaves out projectors that do not meet the conditions. Those that do not answer are reported.
   void Filter(const std::vector<Condition>& conditions);
   /// The exit code.

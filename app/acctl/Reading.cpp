@@ -93,7 +93,7 @@ void ReportUnread(const std::vector<std::string>& keys, std::optional<PowerState
 void ReadInto(const Work& work, ProjectorAccess& projector,
               const std::vector<const ModelSetting*>& settings, Report& report) {
   const Progress progress = ProgressOf(work, projector);
-  Values values(work.texts);
+  Values values(work.texts, work.arguments.format);
   std::vector<std::string> notOffered;
   std::vector<std::string> unread;
   std::optional<PowerState> power;

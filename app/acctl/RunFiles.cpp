@@ -48,7 +48,7 @@ std::string CheckOnly(const Arguments& arguments, SettingsFileContents& contents
 
 std::string LoadFolder(const Arguments& arguments, Projectors& projectors,
                        const std::vector<FleetProfile>& profiles, SettingsFiles& files,
-                       std::vector<std::string>& left) {
+                       std::vector<Problem>& left) {
   const QDir folder(Wide(arguments.file));
   for (const QString& name : folder.entryList({"*.json"}, QDir::Files, QDir::Name)) {
     SettingsFileContents contents = ReadSettingsFile(folder.filePath(name));
@@ -56,7 +56,8 @@ std::string LoadFolder(const Arguments& arguments, Projectors& projectors,
     const std::string projector = contents.snapshot.projector;
     const std::string path = contents.name.toStdString();
     if (FindProfile(profiles, projector) == nullptr) {
-      left.push_back(Message(Acctl::tr("%1: there is no projector '%2'"), path, projector));
+      left.push_back({ProblemCode::NoSuchProjector,
+                      Message(Acctl::tr("%1: there is no projector '%2'"), path, projector)});
       continue;
     }
     if (!arguments.only.empty()) contents.snapshot.beforehand.clear();
@@ -72,8 +73,8 @@ std::string LoadFolder(const Arguments& arguments, Projectors& projectors,
   std::erase_if(projectors, [&](const FleetProfile* profile) {
     const bool isMissing = !files.own.contains(profile->name);
     if (isMissing && !arguments.projectors.empty()) {
-      left.push_back(
-          Message(Acctl::tr("%1: there is no file of it in %2"), profile->name, arguments.file));
+      left.push_back({ProblemCode::File, Message(Acctl::tr("%1: there is no file of it in %2"),
+                                                 profile->name, arguments.file)});
     }
     return isMissing;
   });
@@ -107,7 +108,7 @@ std::string PathIn(const QDir& folder, const std::string& projector,
 
 std::string LoadSettingsFiles(const Arguments& arguments, Projectors& projectors,
                               const std::vector<FleetProfile>& profiles, SettingsFiles& files,
-                              std::vector<std::string>& left) {
+                              std::vector<Problem>& left) {
   if (QFileInfo(Wide(arguments.file)).isDir()) {
     return LoadFolder(arguments, projectors, profiles, files, left);
   }
@@ -178,7 +179,7 @@ std::string ChooseRun(const Arguments& arguments, RecordedRun& run) {
 }
 
 void TakeRun(const RecordedRun& run, const std::vector<FleetProfile>& profiles,
-             Projectors& projectors, SettingsFiles& files, std::vector<std::string>& left) {
+             Projectors& projectors, SettingsFiles& files, std::vector<Problem>& left) {
   std::set<std::string> known;
   for (const FleetProfile& profile : profiles) {
     const auto found = run.undo.find(FleetIdOf(profile));
@@ -188,8 +189,9 @@ void TakeRun(const RecordedRun& run, const std::vector<FleetProfile>& profiles,
     files.own[profile.name] = {.snapshot = *found->second, .name = run.path};
   }
   for (const auto& [id, snapshot] : run.undo) {
-    if (!known.contains(id))
-      left.push_back(
-          Message(Acctl::tr("%1: is no longer in the profile file"), snapshot->projector));
+    if (known.contains(id)) continue;
+    left.push_back(
+        {ProblemCode::NoSuchProjector,
+         Message(Acctl::tr("%1: is no longer in the profile file"), snapshot->projector)});
   }
 }

@@ -14,7 +14,7 @@
 /// projector.
 std::string LoadSettingsFiles(const Arguments& arguments, Projectors& projectors,
                               const std::vector<FleetProfile>& profiles, SettingsFiles& files,
-                              std::vector<std::string>& left);
+                              std::vector<Problem>& left);
 
 /// Decides the file in which each projector is saved: the given one, or one in the folder that is
 /// named like the projector. A file that is not one of settings is only replaced with --force.
@@ -28,7 +28,7 @@ std::string ChooseRun(const Arguments& arguments, RecordedRun& run);
 /// Takes what a run replaced as the files of its projectors; `left` gets a line for each projector
 /// that is in no profile any more.
 void TakeRun(const RecordedRun& run, const std::vector<FleetProfile>& profiles,
-             Projectors& projectors, SettingsFiles& files, std::vector<std::string>& left);
+             Projectors& projectors, SettingsFiles& files, std::vector<Problem>& left);
 
 /// The folder for undo files.
 QString UndoFolderOf(const Arguments& arguments);

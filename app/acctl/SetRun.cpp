@@ -303,8 +303,24 @@ QJsonObject SetRun::Describe(const Result& result) const {
   return json;
 }
 
+/// Says that nobody can tell what was there before, nor restore it.
+void SetRun::AddUnknownBefore(const Result& result) {
+  const ModelSetting& setting = *result.change->setting;
+  const bool wasReached = std::string_view(result.outcome) != "notDone";
+  const bool isReadable = setting.readable && !TargetOf(projector_).OnlySteps(setting);
+  if (result.before || !wasReached || !isReadable) return;
+  const bool isMissed = setting.Restorable() && !work_.arguments.dryRun;
+  report_.Add(
+      {.code = ProblemCode::NotReadable,
+       .text = Message(isMissed
+                           ? Acctl::tr("the value before could not be read, and cannot be restored")
+                           : Acctl::tr("the value before could not be read")),
+       .key = std::string(setting.key),
+       .exitCode = ExitCode::Done});
+}
+
 void SetRun::Finish() {
-  Values values(work_.texts);
+  Values values(work_.texts, work_.arguments.format);
   QJsonArray changes;
   for (const Result& result : results_) {
     const ModelSetting& setting = *result.change->setting;
@@ -316,6 +332,7 @@ void SetRun::Finish() {
       values.AddChanged(setting, before, *value, power);
     }
     if (result.problem) report_.Add(*result.problem);
+    AddUnknownBefore(result);
     changes.append(Describe(result));
   }
   values.PutInto(report_);

@@ -43,6 +43,7 @@ class SetRun {
   bool KeepBefore(const Result& result);
   void Judge(Result& result, const CPjtInterface::Tally& before, bool accepted,
              const CPjtInterface::Tally& after);
+  void AddUnknownBefore(const Result& result);
   bool IsInEffect(const Result& result) const;
   void Fail(Result& result, const char* outcome, const char* code, std::string text, int exitCode);
   std::string NowText(const Result& result) const;

@@ -6,21 +6,7 @@
 
 #include <QString>
 
-#include "fleet/FleetWork.h"
-
-/// What one run of the program replaced, from its undo file.
-struct RecordedRun {
-  QString path{};
-  std::string name{};     ///< The file's name without its suffix; runs sort by it.
-  std::string time{};     ///< ISO 8601, UTC.
-  std::string command{};  ///< As it was typed, without passwords.
-  std::string address{};  ///< Of --connect; empty without.
-  SnapshotsById undo{};
-  bool isUndo = false;    ///< It undid another run itself.
-  bool isUndone = false;  ///< All of it was undone.
-  bool isOfJob = false;   ///< The file is one of the host application.
-  QString error{};        ///< One line; empty if the file could be read.
-};
+#include "app/acctl/RecordedRun.h"
 
 /// Reads an undo file of this program, or one of a job of the host application.
 RecordedRun ReadRun(const QString& path);

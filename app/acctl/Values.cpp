@@ -22,16 +22,16 @@ QJsonObject DescribeValueAlone(const ValueTexts& texts, const ModelSetting& sett
 }
 
 void Values::Add(const ModelSetting& setting, int value, std::optional<PowerState> power) {
+  if (!isText_) return json_.append(DescribeValue(texts_, setting, value, power));
   table_.Add({std::string(setting.key), texts_.Shown().Caption(setting),
               texts_.Shown().Value(setting, value, power)});
-  json_.append(DescribeValue(texts_, setting, value, power));
 }
 
 void Values::AddChanged(const ModelSetting& setting, const std::string& before, int value,
                         std::optional<PowerState> power) {
+  if (!isText_) return json_.append(DescribeValue(texts_, setting, value, power));
   table_.Add({std::string(setting.key), texts_.Shown().Caption(setting),
               before.empty() ? "?" : before, "->", texts_.Shown().Value(setting, value, power)});
-  json_.append(DescribeValue(texts_, setting, value, power));
 }
 
 void Values::PutInto(Report& report) const {

@@ -7,6 +7,7 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
+#include "app/acctl/Arguments.h"
 #include "app/acctl/Report.h"
 #include "app/acctl/ValueCodes.h"
 #include "app/profiles/ProjectorAccess.h"
@@ -19,10 +20,11 @@ QJsonObject DescribeValue(const ValueTexts& texts, const ModelSetting& setting, 
 QJsonObject DescribeValueAlone(const ValueTexts& texts, const ModelSetting& setting, int value,
                                std::optional<PowerState> power = {});
 
-/// Settings with their values, for people and for programs.
+/// Settings with their values, for people or for programs.
 class Values {
  public:
-  explicit Values(const ValueTexts& texts) : texts_(texts) {}
+  /// `format` is that of the output.
+  Values(const ValueTexts& texts, Format format) : texts_(texts), isText_(format == Format::Text) {}
 
   void Add(const ModelSetting& setting, int value, std::optional<PowerState> power);
   /// A value that was changed, with the text of the value before; empty if that is unknown.
@@ -32,6 +34,7 @@ class Values {
 
  private:
   const ValueTexts& texts_;
+  const bool isText_;
   Table table_;
   QJsonArray json_;
 };

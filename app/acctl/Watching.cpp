@@ -203,15 +203,15 @@ class ProjectorWatch {
 /// Reports words that are wrong for a projector. Whether there are any.
 bool HasWrongWords(const Work& work, const Projectors& projectors, ModelCache& models) {
   Meter meter(false, 0);
+  Printer printer(work.arguments, 0);
   const auto checked = CheckWords(work, projectors, models, meter, [](int) { return Report(); });
   bool isWrong = false;
   for (std::size_t i = 0; i < projectors.size(); ++i) {
     if (!checked[i]) continue;
     isWrong = true;
-    for (const Problem& problem : checked[i]->problems) {
-      Complain(projectors[i]->name + ": " + problem.Line());
-    }
+    printer.Add(projectors[i]->name, IsSimulated(*projectors[i], work.arguments), *checked[i]);
   }
+  if (isWrong) printer.Finish();
   return isWrong;
 }
 
@@ -221,16 +221,17 @@ int Watch(const Work& work, const Projectors& projectors, ModelCache& models) {
   if (HasWrongWords(work, projectors, models)) return ExitCode::WrongUse;
   Shared shared{.work = work, .until = {}, .end = {}};
   if (!work.arguments.until.empty()) {
+    const auto fail = [&work](const std::string& error) {
+      return ReportError(
+          work.arguments,
+          {.code = ProblemCode::WrongUse, .text = error, .exitCode = ExitCode::WrongUse});
+    };
     const ConditionList until = ParseConditions(work.arguments.until);
     if (!until.error.empty() || until.conditions.size() != 1) {
-      Complain(Message(Acctl::tr("--until: '%1' is not KEY=VALUE"), work.arguments.until));
-      return ExitCode::WrongUse;
+      return fail(Message(Acctl::tr("--until: '%1' is not KEY=VALUE"), work.arguments.until));
     }
     const std::string error = ImpossibleValue(until.conditions, work.texts, projectors, models);
-    if (!error.empty()) {
-      Complain("--until " + error);
-      return ExitCode::WrongUse;
-    }
+    if (!error.empty()) return fail("--until " + error);
     shared.until = until.conditions.front();
   }
   if (work.arguments.wait) shared.end = Clock::now() + *work.arguments.wait;

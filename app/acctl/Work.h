@@ -10,9 +10,11 @@
 #include "app/acctl/Report.h"
 #include "app/acctl/ValueCodes.h"
 #include "app/profiles/SettingsFile.h"
+#include "app/profiles/SimulatorNotice.h"
 #include "fleet/FleetProfile.h"
 #include "snapshots/Snapshot.h"
 
+class ModelCache;
 class UndoRecorder;
 
 /// The files of settings that a command uses: one for all projectors, or each projector's own.
@@ -36,7 +38,9 @@ struct Work {
   SettingsFiles files{};
   std::map<std::string, std::string> paths{};  ///< The file to save each projector in, by name.
   std::map<std::string, std::string> ids{};    ///< What tells a projector from others, by name.
+  ServedAddresses served{};                    ///< Of simulated projectors, by name.
   std::string password{};                      ///< Of PJLink projectors whose profile has none.
+  ModelCache* models = nullptr;                ///< Null if no projector is asked.
   UndoRecorder* undo = nullptr;                ///< Null if the command changes nothing.
   std::function<bool()> isInterrupted;
 };

@@ -31,14 +31,18 @@ void GuardOutput() {
   close(opened);
 }
 
-ProfileList ReadProfiles(const Arguments& arguments) {
+/// Reads the file that comes with the program if none is named, and names it.
+ProfileList ReadProfiles(Arguments& arguments) {
   if (!arguments.profiles.empty()) return ReadProfileList(Wide(arguments.profiles));
   const QDir folder(QCoreApplication::applicationDirPath());
   const QStringList places{
       folder.filePath("projectors.json"),
       QDir::cleanPath(folder.filePath("../share/advanced-control/projectors.json"))};
   const auto place = std::ranges::find_if(places, qOverload<const QString&>(&QFileInfo::exists));
-  if (place != places.end()) return ReadProfileList(*place);
+  if (place != places.end()) {
+    arguments.profiles = place->toStdString();
+    return ReadProfileList(*place);
+  }
   return {.profiles = {},
           .error = Acctl::tr("no profiles at %1; name a file with --profiles")
                        .arg(places.join(QStringLiteral(", ")))};
@@ -64,7 +68,7 @@ int PrintPage(const Arguments& arguments) {
 int Main(int argc, char* argv[]) {
   const QCoreApplication application(argc, argv);
   const std::vector<std::string> words(argv + 1, argv + argc);
-  const Arguments arguments = ParseArguments(words);
+  Arguments arguments = ParseArguments(words);
   if (!arguments.error.empty()) return FailWrongUse(arguments, arguments.error);
   const bool isPage = arguments.command == Command::Help || arguments.command == Command::Man ||
                       arguments.command == Command::Version;

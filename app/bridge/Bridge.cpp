@@ -4,7 +4,6 @@
 
 #include "app/bridge/Log.h"
 #include "app/bridge/StateMessage.h"
-#include "fleet/WholeFile.h"
 
 namespace {
 
@@ -12,9 +11,6 @@ using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::milliseconds kTick{250};
 constexpr std::chrono::seconds kObserving{2};
-constexpr std::chrono::seconds kWriting{15};
-constexpr std::chrono::milliseconds kRendered{500};
-constexpr int kNotFound = 404;
 constexpr quint16 kNoticesPort = 4352;
 
 FleetPolicy PolicyOf(const Options& options) {
@@ -33,20 +29,22 @@ Bridge::Bridge(const Options& options, std::vector<FleetProfile> profiles,
       topics_(options.prefix, options.share.Name()),
       texts_(texts),
       discovery_(models_, texts_, options_.commands.keys, topics_),
-      fleet_(std::move(profiles), options.share, PolicyOf(options),
+      projectors_(std::move(profiles), options.share),
+      others_(projectors_, options.takeover),
+      fleet_(projectors_, PolicyOf(options),
              [this](std::size_t projector) {
                if (link_) link_->Messages().Renew(Publisher::Kind::State, projector);
              }),
       desk_(options.commands, models_, texts_, topics_,
             {.find =
                  [this](const QByteArray& id, std::size_t& index) {
-                   const auto found = fleet_.Find(id);
+                   const auto found = projectors_.Find(id);
                    index = found.value_or(0);
-                   return found ? &fleet_.Profile(*found) : nullptr;
+                   return found ? &projectors_.Profile(*found) : nullptr;
                  },
              .run =
                  [this](std::size_t projector, const Command& command) {
-                   return runner_.Add(projector, TargetOf(fleet_.Profile(projector)), command);
+                   return runner_.Add(projector, TargetOf(projectors_.Profile(projector)), command);
                  },
              .answer =
                  [this](BrokerMessage answer) { link_->Messages().Answer(std::move(answer)); }}),
@@ -55,24 +53,21 @@ Bridge::Bridge(const Options& options, std::vector<FleetProfile> profiles,
                 FinishCommand(projector, command, result);
               }),
       drift_(fleet_, texts_, options_.snapshots),
-      listener_([this](const HttpRequest& request) { return AnswerRequest(request); }) {
+      metrics_(fleet_, [this] { return Counts(); }) {
   QObject::connect(&tick_, &QTimer::timeout, &tick_, [this] { Tick(); });
   QObject::connect(&observing_, &QTimer::timeout, &observing_, [this] { fleet_.Observe(); });
-  QObject::connect(&writing_, &QTimer::timeout, &writing_, [this] { WriteTextFile(); });
 }
 
 QString Bridge::Start() {
-  if (!fleet_.Error().isEmpty()) return fleet_.Error();
-  if (fleet_.Count() == 0) Log(QStringLiteral("the share has no projector that is not simulated"));
+  if (!projectors_.Error().isEmpty()) return projectors_.Error();
+  if (projectors_.Count() == 0)
+    Log(QStringLiteral("the share has no projector that is not simulated"));
   if (options_.listens) {
-    const auto listening = listener_.Listen(options_.listenAddress, options_.listenPort);
-    if (listening.port == 0) return "--listen: " + listening.error;
-    Log(QStringLiteral("serves metrics at port %1").arg(listening.port));
+    const QString error = metrics_.Listen(options_.listenAddress, options_.listenPort);
+    if (!error.isEmpty()) return "--listen: " + error;
   }
   if (!options_.textFile.isEmpty()) {
-    if (QString error = CheckWholeFile(options_.textFile); !error.isEmpty()) return error;
-    writing_.start(kWriting);
-    QTimer::singleShot(kObserving, &writing_, [this] { WriteTextFile(); });
+    if (QString error = metrics_.WriteTo(options_.textFile); !error.isEmpty()) return error;
   }
   const QString notices = options_.notices.toString();
   if (!options_.notices.isNull() &&
@@ -83,7 +78,7 @@ QString Bridge::Start() {
     StartBroker();
     if (const QString error = link_->Start(); !error.isEmpty()) return "--broker: " + error;
   }
-  Log(QStringLiteral("watches %1 projectors").arg(fleet_.Count()));
+  Log(QStringLiteral("watches %1 projectors").arg(projectors_.Count()));
   if (!options_.snapshots.isEmpty()) drift_.Start([this] { return MayAsk(); });
   tick_.start(kTick);
   observing_.start(kObserving);
@@ -92,12 +87,16 @@ QString Bridge::Start() {
 }
 
 void Bridge::StartBroker() {
-  BrokerLink::Services services{.topics = {},
+  BrokerLink::Services services{.topics = {topics_.EveryHolder()},
                                 .received = [this](const BrokerMessage& message) { Take(message); },
-                                .renewed = [this] { desk_.TakeSwitch({}); }};
+                                .renewed = [this] { desk_.TakeSwitch({}); },
+                                .share = JsonOf(options_.share)};
   if (!desk_.Keys().IsEmpty()) {
     // The switch first, so that its message comes before any command.
-    services.topics = {topics_.CommandSwitch(), topics_.EverySet(), topics_.EveryKeySet()};
+    for (const QByteArray& topic :
+         {topics_.CommandSwitch(), topics_.EverySet(), topics_.EveryKeySet()}) {
+      services.topics.push_back(topic);
+    }
   }
   if (!options_.discoveryPrefix.isEmpty()) {
     services.topics.push_back(options_.discoveryPrefix + "/status");
@@ -105,12 +104,12 @@ void Bridge::StartBroker() {
   link_ = std::make_unique<BrokerLink>(
       *options_.broker, topics_, options_.takeover,
       [this](Publisher::Kind kind, std::size_t projector) { return MessageOf(kind, projector); },
-      fleet_.Count(), std::move(services));
+      projectors_.Count(), std::move(services));
 }
 
 BrokerMessage Bridge::MessageOf(Publisher::Kind kind, std::size_t projector) {
-  const FleetProfile& profile = fleet_.Profile(projector);
-  const QByteArray& id = fleet_.Id(projector);
+  const FleetProfile& profile = projectors_.Profile(projector);
+  const QByteArray& id = projectors_.Id(projector);
   if (kind == Publisher::Kind::Discovery) {
     if (options_.discoveryPrefix.isEmpty()) return {};
     return {options_.discoveryPrefix + "/device/" + id + "/config",
@@ -128,6 +127,8 @@ void Bridge::Take(const BrokerMessage& message) {
     Log(desk_.TakesCommands() ? QStringLiteral("takes commands")
                               : QStringLiteral("commands are switched off"));
     if (!desk_.TakesCommands()) runner_.StopAll();
+  } else if (topics_.IsHolder(message.topic)) {
+    if (const QString told = others_.Take(message, Clock::now()); !told.isEmpty()) Log(told);
   } else if (message.topic == options_.discoveryPrefix + "/status") {
     const bool hasStarted = message.payload == "online" && !message.isRetained;
     if (hasStarted) link_->Messages().Forget(Publisher::Kind::Discovery);
@@ -146,7 +147,7 @@ void Bridge::SwitchCommands(bool on) {
 void Bridge::FinishCommand(std::size_t projector, const Command& command,
                            const WorkResult& result) {
   const bool isAsleep = fleet_.State(projector).power == PowerState::Standby;
-  desk_.Finish(fleet_.Id(projector), command, result, isAsleep);
+  desk_.Finish(projectors_.Id(projector), command, result, isAsleep);
 }
 
 void Bridge::Tick() {
@@ -158,7 +159,8 @@ void Bridge::Tick() {
 BridgeCounts Bridge::Counts() const {
   BridgeCounts counts{.version = ADVANCED_CONTROL_VERSION,
                       .share = options_.share.Name().toStdString(),
-                      .projectors = fleet_.Count(),
+                      .projectors = projectors_.Count(),
+                      .common = others_.Common(Clock::now()),
                       .holdsShare = MayAsk(),
                       .takesCommands = desk_.TakesCommands(),
                       .visits = fleet_.Tally(),
@@ -170,40 +172,4 @@ BridgeCounts Bridge::Counts() const {
   }
   MeasureProcess(counts);
   return counts;
-}
-
-const QByteArray& Bridge::AllMetrics() {
-  if (const auto now = Clock::now(); rendered_.isEmpty() || now - renderedAt_ > kRendered) {
-    MetricsText text;
-    if (MayAsk()) AddProjectors(text, fleet_.States());
-    AddBridge(text, Counts());
-    rendered_ = text.Text();
-    renderedAt_ = now;
-  }
-  return rendered_;
-}
-
-QByteArray Bridge::Probe(std::size_t projector) const {
-  MetricsText text;
-  const MeasuredProjector measured{&fleet_.Profile(projector), fleet_.State(projector)};
-  AddProjectors(text, {&measured, 1});
-  return text.Text();
-}
-
-MetricsListener::Answer Bridge::AnswerRequest(const HttpRequest& request) {
-  if (request.Path() == "/metrics") return {.body = AllMetrics()};
-  if (request.Path() == "/healthz") return {.body = "ok\n"};
-  if (request.Path() != "/probe") {
-    return {kNotFound, "Only /metrics, /probe?target=NAME and /healthz are here.\n"};
-  }
-  const QByteArray target = request.Parameter("target");
-  const auto projector = fleet_.FindName(target.toStdString());
-  if (!projector) return {kNotFound, "This share has no projector of that name.\n"};
-  return {.body = Probe(*projector)};
-}
-
-void Bridge::WriteTextFile() {
-  const QString error = WriteWholeFile(options_.textFile, AllMetrics());
-  if (!error.isEmpty() && !failedToWrite_) Log(error);
-  failedToWrite_ = !error.isEmpty();
 }

@@ -1,8 +1,6 @@
 #pragma once
 
-#include <chrono>
 #include <memory>
-#include <optional>
 #include <vector>
 
 #include <QTimer>
@@ -13,9 +11,11 @@
 #include "app/bridge/CommandRunner.h"
 #include "app/bridge/Discovery.h"
 #include "app/bridge/DriftCheck.h"
-#include "app/bridge/MetricsListener.h"
+#include "app/bridge/MetricsService.h"
 #include "app/bridge/ModelBook.h"
 #include "app/bridge/Options.h"
+#include "app/bridge/OtherShares.h"
+#include "app/bridge/ShareProfiles.h"
 
 /// The whole bridge: what the fleet tells goes to the metrics and to the broker, and commands go to
 /// the fleet. Lives on the main thread.
@@ -34,29 +34,23 @@ class Bridge {
   BrokerMessage MessageOf(Publisher::Kind kind, std::size_t projector);
   void Take(const BrokerMessage& message);
   void FinishCommand(std::size_t projector, const Command& command, const WorkResult& result);
-  MetricsListener::Answer AnswerRequest(const HttpRequest& request);
-  QByteArray Probe(std::size_t projector) const;
-  const QByteArray& AllMetrics();
   BridgeCounts Counts() const;
   bool MayAsk() const { return !link_ || link_->MayAsk(); }
   void Tick();
-  void WriteTextFile();
 
   const Options options_;
   const Topics topics_;
   const SettingTexts& texts_;
   ModelBook models_;
   const Discovery discovery_;
+  const ShareProfiles projectors_;
+  OtherShares others_;
   BridgeFleet fleet_;
   std::unique_ptr<BrokerLink> link_;  ///< Null without a broker.
   CommandDesk desk_;
   CommandRunner runner_;
   DriftCheck drift_;
-  MetricsListener listener_;
-  QByteArray rendered_;  ///< The last metrics, for clients that come together.
-  std::chrono::steady_clock::time_point renderedAt_{};
+  MetricsService metrics_;
   QTimer tick_;
   QTimer observing_;
-  QTimer writing_;
-  bool failedToWrite_ = false;
 };

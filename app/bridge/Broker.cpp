@@ -130,6 +130,11 @@ void Broker::Run() {
   for (milliseconds pause = kFirstPause;; pause = std::min(pause * 2, kLongestPause)) {
     refusal_ = 0;
     int code = mosquitto_connect(client_.get(), host.constData(), address_.port, kKeepAlive);
+    {
+      // What ends the connection did nothing if it came before it was made.
+      const std::lock_guard lock(mutex_);
+      if (isEnding_) return;
+    }
     while (code == MOSQ_ERR_SUCCESS) code = mosquitto_loop(client_.get(), kWait, 1);
     if (isConnected_.exchange(false)) pause = kFirstPause;
     std::unique_lock lock(mutex_);

@@ -2,17 +2,10 @@
 
 #include <utility>
 
+#include <QTimer>
 #include <QUuid>
 
 #include "app/bridge/Log.h"
-
-namespace {
-
-constexpr std::chrono::seconds kFarewell{2};
-const QByteArray kOnline = "online";
-const QByteArray kOffline = "offline";
-
-}  // namespace
 
 BrokerLink::BrokerLink(const BrokerAddress& address, const Topics& topics,
                        std::chrono::milliseconds takeover, Publisher::Make make,
@@ -23,63 +16,43 @@ BrokerLink::BrokerLink(const BrokerAddress& address, const Topics& topics,
       instance_(QUuid::createUuid().toByteArray(QUuid::WithoutBraces)),
       keeper_(instance_.toStdString(), takeover, Now()),
       publisher_(projectors, std::move(make),
-                 [this](const BrokerMessage& message) { return broker_->Publish(message); }) {}
+                 [this](const BrokerMessage& message) { return session_->Publish(message); }) {}
 
 BrokerLink::~BrokerLink() {
   isClosing_ = true;
-  if (!isConnected_ || !keeper_.IsSettled()) return;
+  if (!session_ || !session_->IsConnected() || !keeper_.IsSettled()) return;
   publisher_.Stop();
-  SayAvailability(false);
-  QTimer::singleShot(kFarewell, &ending_, &QEventLoop::quit);
-  if (farewell_) ending_.exec();
+  session_->SayOffline();
 }
 
 QString BrokerLink::Start() {
   Connect();
-  return broker_->Error();
+  return session_->Error();
 }
 
 /// Makes a connection for the present role, in place of the one that is there.
 void BrokerLink::Connect() {
-  broker_.reset();
-  isConnected_ = isSettled_ = false;
-  holds_ = HoldsShare();
+  session_.reset();
+  isSettled_ = false;
   publisher_.Restart();
   keeper_.Disconnected();
-  std::optional<BrokerMessage> will;
-  if (holds_) will = BrokerMessage{topics_.Availability(), kOffline, true};
-  broker_ = std::make_unique<Broker>(
-      address_, will,
-      Broker::Listener{.connected = [this] { TakeConnected(); },
-                       .disconnected = [this](const QString& reason) { TakeDisconnected(reason); },
-                       .subscribed =
-                           [this](int number) {
-                             if (number == helloSubscription_)
-                               broker_->Publish({topics_.Hello(), instance_});
-                           },
-                       .received = [this](const BrokerMessage& message) { Take(message); },
-                       .sent =
-                           [this](int number) {
-                             if (number == farewell_) ending_.quit();
-                             publisher_.Sent(number);
-                           }});
+  holds_ = keeper_.GetRole() == ShareKeeper::Role::Holding;
+  session_ = std::make_unique<BrokerSession>(
+      address_, topics_, instance_, holds_,
+      BrokerSession::Listener{.connected = [this] { TakeConnected(); },
+                              .disconnected = [this] { TakeDisconnected(); },
+                              .received = [this](const BrokerMessage& message) { Take(message); },
+                              .sent = [this](int number) { publisher_.Sent(number); }});
 }
 
 void BrokerLink::TakeConnected() {
-  Log(QStringLiteral("connected to the broker"));
-  isConnected_ = true;
-  toldProblem_ = isSettled_ = false;
+  isSettled_ = false;
   keeper_.Connected(Now());
   services_.renewed();
-  broker_->Subscribe(topics_.Holder());
-  broker_->Subscribe(topics_.Availability());
-  helloSubscription_ = broker_->Subscribe(topics_.Hello());
 }
 
-void BrokerLink::TakeDisconnected(const QString& reason) {
-  if (isConnected_ || !toldProblem_) Log("not connected to the broker: " + reason);
-  toldProblem_ = true;
-  isConnected_ = isSettled_ = false;
+void BrokerLink::TakeDisconnected() {
+  isSettled_ = false;
   keeper_.Disconnected();
   publisher_.Stop();
 }
@@ -95,10 +68,10 @@ void BrokerLink::Take(const BrokerMessage& message) {
   } else if (message.topic == topics_.Holder()) {
     if (const auto holder = ParseHolder(message.payload)) keeper_.TakeHolder(*holder, Now());
   } else if (message.topic == topics_.Availability()) {
-    const bool isOnline = message.payload == kOnline;
+    const bool isOnline = message.payload == "online";
     keeper_.TakeAvailability(isOnline);
     // The will of a connection that had this share before came late.
-    if (!isOnline && isSettled_) SayAvailability(true);
+    if (!isOnline && isSettled_) session_->SayOnline();
   } else {
     services_.received(message);
   }
@@ -111,11 +84,13 @@ void BrokerLink::FollowRole() {
     Log(standsBack ? QStringLiteral("stands back: another bridge has the share")
                    : QStringLiteral("takes the share over"));
   }
-  if (HoldsShare() != holds_) {
-    holds_ = HoldsShare();
+  const bool holds = keeper_.GetRole() == ShareKeeper::Role::Holding;
+  if (std::exchange(holds_, holds) != holds) {
     publisher_.Stop();
     // Not while the connection is telling something.
-    QTimer::singleShot(0, &ending_, [this] { Connect(); });
+    QTimer::singleShot(0, &context_, [this] {
+      if (!isClosing_) Connect();
+    });
   } else if (keeper_.IsSettled() && !std::exchange(isSettled_, true)) {
     Settle();
   }
@@ -123,8 +98,8 @@ void BrokerLink::FollowRole() {
 
 /// The share is ours, and the broker has told what it knows.
 void BrokerLink::Settle() {
-  SayAvailability(true);
-  for (const QByteArray& topic : services_.topics) broker_->Subscribe(topic);
+  session_->SayOnline();
+  for (const QByteArray& topic : services_.topics) session_->Subscribe(topic);
   if (!keeper_.BrokerRemembers()) {
     publisher_.Forget(Publisher::Kind::State);
     publisher_.Forget(Publisher::Kind::Discovery);
@@ -133,17 +108,11 @@ void BrokerLink::Settle() {
   Tick();
 }
 
-void BrokerLink::SayAvailability(bool isOnline) {
-  const auto number =
-      broker_->Publish({topics_.Availability(), isOnline ? kOnline : kOffline, true});
-  if (!isOnline) farewell_ = number;
-}
-
 void BrokerLink::Tick() {
   keeper_.Tick(Now());
   if (isSettled_) {
     if (const auto beat = keeper_.TakeBeat(Now())) {
-      broker_->Publish({topics_.Holder(), HolderMessage(*beat), true});
+      session_->Publish({topics_.Holder(), HolderMessage(*beat, services_.share), true});
     }
   }
   FollowRole();

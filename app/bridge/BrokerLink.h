@@ -2,14 +2,13 @@
 
 #include <functional>
 #include <memory>
-#include <optional>
+#include <vector>
 
 #include <QByteArray>
-#include <QEventLoop>
+#include <QJsonObject>
 #include <QObject>
-#include <QTimer>
 
-#include "app/bridge/Broker.h"
+#include "app/bridge/BrokerSession.h"
 #include "app/bridge/Publisher.h"
 #include "app/bridge/ShareKeeper.h"
 #include "app/bridge/Topics.h"
@@ -25,6 +24,7 @@ class BrokerLink {
     std::function<void(const BrokerMessage& message)> received;
     /// The connection is new; nothing has been received over it.
     std::function<void()> renewed;
+    QJsonObject share;  ///< For other bridges.
   };
 
   BrokerLink(const BrokerAddress& address, const Topics& topics, std::chrono::milliseconds takeover,
@@ -41,19 +41,17 @@ class BrokerLink {
 
   Publisher& Messages() { return publisher_; }
   const Publisher& Messages() const { return publisher_; }
-  bool IsConnected() const { return isConnected_; }
-  bool HoldsShare() const { return keeper_.GetRole() == ShareKeeper::Role::Holding; }
+  bool IsConnected() const { return session_->IsConnected(); }
   bool MayAsk() const { return keeper_.MayAsk(Now()); }
 
  private:
   static ShareKeeper::Time Now() { return std::chrono::steady_clock::now(); }
   void Connect();
   void TakeConnected();
-  void TakeDisconnected(const QString& reason);
+  void TakeDisconnected();
   void Take(const BrokerMessage& message);
   void FollowRole();
   void Settle();
-  void SayAvailability(bool isOnline);
 
   const BrokerAddress address_;
   const Topics topics_;
@@ -61,14 +59,10 @@ class BrokerLink {
   const QByteArray instance_;
   ShareKeeper keeper_;
   Publisher publisher_;
-  bool isConnected_ = false;
   bool holds_ = false;      ///< What the present connection is for.
   bool isSettled_ = false;  ///< What follows from being settled was done.
-  bool toldProblem_ = false;
   bool stoodBack_ = false;
   bool isClosing_ = false;
-  std::optional<int> helloSubscription_{};
-  std::optional<int> farewell_{};
-  QEventLoop ending_;
-  std::unique_ptr<Broker> broker_;
+  std::unique_ptr<BrokerSession> session_;
+  QObject context_;  ///< Ends first, with the connection that is to be made.
 };

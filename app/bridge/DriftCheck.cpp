@@ -45,8 +45,7 @@ void DriftCheck::Check() {
   std::map<std::string, std::shared_ptr<const Snapshot>> files;
   std::vector<FleetTarget> targets;
   CompareSnapshots work;
-  for (std::size_t i = 0; i < fleet_.Count(); ++i) {
-    const FleetProfile& profile = fleet_.Profile(i);
+  for (const FleetProfile& profile : fleet_.Projectors().All()) {
     const QString name = QString::fromStdString(profile.snapshot);
     if (name.isEmpty() || name.contains('/')) continue;
     const auto [file, isNew] = files.try_emplace(profile.snapshot);

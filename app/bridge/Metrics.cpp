@@ -146,6 +146,8 @@ void AddBridge(MetricsText& text, const BridgeCounts& counts) {
                MetricsText::Label("share", counts.share),
            1);
   gauge("projector_bridge_projectors", "Projectors of the share.", quint64{counts.projectors});
+  gauge("projector_bridge_common_projectors",
+        "Projectors that bridges with other shares visit too.", quint64{counts.common});
   gauge("projector_bridge_holds_share",
         "Whether the bridge works; 0 while another one has its share.", counts.holdsShare ? 1 : 0);
   if (counts.isConnected) {

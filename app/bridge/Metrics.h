@@ -25,6 +25,7 @@ struct BridgeCounts {
   std::string version{};
   std::string share{};
   std::size_t projectors = 0;
+  std::size_t common = 0;  ///< Projectors that bridges with other shares have too.
   bool holdsShare = true;
   std::optional<bool> isConnected{};  ///< To the broker; nothing without one.
   bool takesCommands = false;

@@ -4,40 +4,27 @@
 #include <array>
 #include <utility>
 
-#include "app/bridge/Topics.h"
-
 namespace {
 
 constexpr std::array kNames{"state", "discovery"};
 
-std::uint64_t HashOf(const QByteArray& payload) {
-  return StableHash({payload.data(), static_cast<std::size_t>(payload.size())});
-}
-
 }  // namespace
 
 Publisher::Publisher(std::size_t projectors, Make make, Send send)
-    : make_(std::move(make)), send_(std::move(send)) {
-  for (Queue& queue : queues_) {
-    queue.isDue.resize(projectors);
-    queue.sent.resize(projectors);
-  }
-}
+    : make_(std::move(make)),
+      send_(std::move(send)),
+      messages_{DueMessages(projectors), DueMessages(projectors)} {}
 
 void Publisher::Renew(Kind kind, std::size_t projector) {
-  Queue& queue = QueueOf(kind);
-  if (queue.isDue[projector]) return;
-  queue.isDue[projector] = true;
-  queue.due.push_back(projector);
-  Pump();
+  if (Of(kind).Renew(projector)) Pump();
 }
 
 void Publisher::RenewAll(Kind kind) {
-  for (std::size_t i = 0; i < QueueOf(kind).isDue.size(); ++i) Renew(kind, i);
+  for (std::size_t i = 0; i < Of(kind).Count(); ++i) Renew(kind, i);
 }
 
 void Publisher::Forget(Kind kind) {
-  std::ranges::fill(QueueOf(kind).sent, std::nullopt);
+  Of(kind).Forget();
   RenewAll(kind);
 }
 
@@ -61,16 +48,14 @@ void Publisher::Sent(int number) {
   if (underWay_.erase(number) > 0) Pump();
 }
 
-bool Publisher::HasDue() const {
-  return std::ranges::any_of(queues_, [](const Queue& queue) { return !queue.due.empty(); });
-}
+bool Publisher::HasDue() const { return !std::ranges::all_of(messages_, &DueMessages::IsEmpty); }
 
 void Publisher::Pump() {
   while (isOpen_ && underWay_.size() < kUnderWay) {
     if (!answers_.empty()) {
       if (!SendMessage(answers_.front(), "answer")) return;
       answers_.pop_front();
-    } else if (!SendNext(QueueOf(Kind::State).due.empty() ? Kind::Discovery : Kind::State)) {
+    } else if (!SendNext(Of(Kind::State).IsEmpty() ? Kind::Discovery : Kind::State)) {
       return;
     }
   }
@@ -78,16 +63,15 @@ void Publisher::Pump() {
 
 /// Whether there was one, and it could be sent or did not have to.
 bool Publisher::SendNext(Kind kind) {
-  Queue& queue = QueueOf(kind);
-  if (queue.due.empty()) return false;
-  const std::size_t projector = queue.due.front();
-  const BrokerMessage message = make_(kind, projector);
-  const std::uint64_t hash = HashOf(message.payload);
-  const bool isNew = !message.topic.isEmpty() && queue.sent[projector] != hash;
-  if (isNew && !SendMessage(message, kNames.at(static_cast<std::size_t>(kind)))) return false;
-  if (isNew) queue.sent[projector] = hash;
-  queue.due.pop_front();
-  queue.isDue[projector] = false;
+  DueMessages& messages = Of(kind);
+  if (messages.IsEmpty()) return false;
+  const BrokerMessage message = make_(kind, messages.First());
+  if (message.topic.isEmpty() || messages.IsSent(message.payload)) {
+    messages.Pop();
+    return true;
+  }
+  if (!SendMessage(message, kNames.at(static_cast<std::size_t>(kind)))) return false;
+  messages.Pop(message.payload);
   return true;
 }
 

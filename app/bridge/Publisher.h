@@ -8,9 +8,9 @@
 #include <optional>
 #include <set>
 #include <string>
-#include <vector>
 
 #include "app/bridge/Broker.h"
+#include "app/bridge/DueMessages.h"
 
 /// Decides what is sent to the broker, and when. States and discovery messages of projectors are
 /// made when their turn comes, so that only the latest is sent, and nothing that the broker has
@@ -52,14 +52,8 @@ class Publisher {
   const std::map<std::string, std::uint64_t>& Counts() const { return counts_; }
 
  private:
-  struct Queue {
-    std::deque<std::size_t> due{};
-    std::vector<bool> isDue{};
-    std::vector<std::optional<std::uint64_t>> sent{};  ///< Hashes of what the broker has.
-  };
-
   bool HasDue() const;
-  Queue& QueueOf(Kind kind) { return queues_.at(static_cast<std::size_t>(kind)); }
+  DueMessages& Of(Kind kind) { return messages_.at(static_cast<std::size_t>(kind)); }
   void Pump();
   bool SendNext(Kind kind);
   bool SendMessage(const BrokerMessage& message, const char* kind);
@@ -67,7 +61,7 @@ class Publisher {
   const Make make_;
   const Send send_;
   bool isOpen_ = false;
-  std::array<Queue, kKinds> queues_{};
+  std::array<DueMessages, kKinds> messages_;
   std::deque<BrokerMessage> answers_{};
   std::set<int> underWay_{};
   std::map<std::string, std::uint64_t> counts_{};

@@ -4,6 +4,8 @@
 #include <charconv>
 #include <cstdint>
 
+#include <QJsonArray>
+
 #include "app/bridge/Topics.h"
 
 namespace {
@@ -48,4 +50,20 @@ std::optional<Share> ParseShare(const std::string& text) {
   const auto count = Number(std::string_view(text).substr(slash + 1));
   if (!number || !count || *number < 1 || *number > *count || *count > kMostShares) return {};
   return Share{.number = *number, .count = *count};
+}
+
+QJsonObject JsonOf(const Share& share) {
+  QJsonArray tags;
+  for (const std::string& tag : share.tags) tags.append(QString::fromStdString(tag));
+  const QString part = QString::number(share.number) + '/' + QString::number(share.count);
+  return {{"part", part}, {"tags", tags}};
+}
+
+std::optional<Share> ShareOf(const QJsonObject& json) {
+  auto share = ParseShare(json["part"].toString().toStdString());
+  if (!share) return {};
+  for (const auto& tag : json["tags"].toArray()) {
+    share->tags.push_back(tag.toString().toStdString());
+  }
+  return share;
 }

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include <QByteArray>
+#include <QJsonObject>
 
 #include "fleet/FleetProfile.h"
 
@@ -25,3 +26,8 @@ struct Share {
 
 /// Parses "2/5". Nothing for any other text, or for more than 1000 shares.
 std::optional<Share> ParseShare(const std::string& text);
+
+/// How bridges tell each other what their shares are.
+QJsonObject JsonOf(const Share& share);
+/// Nothing for an invalid one.
+std::optional<Share> ShareOf(const QJsonObject& json);

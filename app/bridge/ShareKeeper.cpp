@@ -5,9 +5,10 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-QByteArray HolderMessage(const Holder& holder) {
-  const QJsonObject json{{"instance", QString::fromStdString(holder.instance)},
-                         {"beat", static_cast<double>(holder.beat)}};
+QByteArray HolderMessage(const Holder& holder, const QJsonObject& share) {
+  QJsonObject json{{"instance", QString::fromStdString(holder.instance)},
+                   {"beat", static_cast<double>(holder.beat)}};
+  if (!share.isEmpty()) json["share"] = share;
   return QJsonDocument(json).toJson(QJsonDocument::Compact);
 }
 

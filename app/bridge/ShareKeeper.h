@@ -6,6 +6,7 @@
 #include <string>
 
 #include <QByteArray>
+#include <QJsonObject>
 
 /// Who holds a share, and how often they have said so.
 struct Holder {
@@ -15,7 +16,8 @@ struct Holder {
   friend bool operator==(const Holder&, const Holder&) = default;
 };
 
-QByteArray HolderMessage(const Holder& holder);
+/// `share` says which share it is, for bridges with other shares.
+QByteArray HolderMessage(const Holder& holder, const QJsonObject& share = {});
 /// Nothing for an invalid message.
 std::optional<Holder> ParseHolder(const QByteArray& message);
 

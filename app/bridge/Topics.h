@@ -32,6 +32,12 @@ class Topics {
   /// "off" switches the commands of all bridges off.
   QByteArray CommandSwitch() const { return prefix_ + "/bridge/commands"; }
 
+  /// The holders of all shares.
+  QByteArray EveryHolder() const { return prefix_ + "/bridge/+/holder"; }
+  bool IsHolder(const QByteArray& topic) const {
+    return topic.startsWith(prefix_ + "/bridge/") && topic.endsWith("/holder");
+  }
+
   // Of the share.
   QByteArray Availability() const { return bridge_ + "/availability"; }
   QByteArray Holder() const { return bridge_ + "/holder"; }

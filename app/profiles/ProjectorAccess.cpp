@@ -28,13 +28,15 @@ bool HasGreeted(const ProjectorChannel& channel) {
 
 ProjectorAccess::ProjectorAccess(const FleetProfile& profile,
                                  const std::shared_ptr<ProjectorChannel>& channel,
-                                 std::chrono::milliseconds timeOut)
+                                 std::chrono::milliseconds timeOut,
+                                 std::shared_ptr<const ModelSettings> settings)
     : name_(profile.name),
-      settings_(profile.model->data),
+      settings_(settings ? std::move(settings)
+                         : std::make_shared<const ModelSettings>(profile.model->data)),
       pjLink_(std::dynamic_pointer_cast<PjLinkChannel>(channel)),
       channel_(std::make_shared<PatientChannel>(
           channel, timeOut, [&channel = *channel] { return HasGreeted(channel); })) {
-  tellsInputs_ = pjLink_ != nullptr && settings_.Model().MySourceList.Size() == 0;
+  tellsInputs_ = pjLink_ != nullptr && settings_->Model().MySourceList.Size() == 0;
   connection_.SetChannel(channel_);
   if (!pjLink_) return;
   remembered_ = ReadPjLinkCache(pjLink_->Address());
@@ -50,7 +52,7 @@ ProjectorAccess::~ProjectorAccess() {
 }
 
 void ProjectorAccess::AskForInputs(InputsNeeded needed) {
-  const bool areKnown = pjLink_ == nullptr || settings_.Model().MySourceList.Size() > 0;
+  const bool areKnown = pjLink_ == nullptr || settings_->Model().MySourceList.Size() > 0;
   if (areKnown || needed == InputsNeeded::None) return;
   std::vector<PjLinkInput> inputs;
   bool areTold = false;
@@ -65,9 +67,9 @@ void ProjectorAccess::AskForInputs(InputsNeeded needed) {
   // A projector that has accepted the connection may still answer other questions.
   if (lacksInputs_ && !pjLink_->HasGreeted()) channel_->GiveUp();
   if (inputs.empty()) return;
-  ModelData model = settings_.Model();
+  ModelData model = settings_->Model();
   model.MySourceList = SourcesOf(inputs, InputCodes::AllNames);
-  settings_ = ModelSettings(std::move(model));
+  settings_ = std::make_shared<const ModelSettings>(std::move(model));
 }
 
 bool ProjectorAccess::HasSteps(const ModelSetting& setting) {

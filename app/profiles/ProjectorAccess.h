@@ -26,9 +26,11 @@ enum class InputsNeeded {
 /// thread at a time. The class and inputs of a PJLink projector are remembered for the next run.
 class ProjectorAccess {
  public:
-  /// `timeOut` is the channel's time-out for an answer.
+  /// `timeOut` is the channel's time-out for an answer. `settings` are those of the profile's
+  /// model, which projectors may share; without them they are made.
   ProjectorAccess(const FleetProfile& profile, const std::shared_ptr<ProjectorChannel>& channel,
-                  std::chrono::milliseconds timeOut = std::chrono::seconds(2));
+                  std::chrono::milliseconds timeOut = std::chrono::seconds(2),
+                  std::shared_ptr<const ModelSettings> settings = nullptr);
   ~ProjectorAccess();
   ProjectorAccess(const ProjectorAccess&) = delete;
   ProjectorAccess& operator=(const ProjectorAccess&) = delete;
@@ -51,14 +53,14 @@ class ProjectorAccess {
   static bool HasSteps(const ModelSetting& setting);
 
   const std::string& Name() const { return name_; }
-  const ModelSettings& Settings() const { return settings_; }
+  const ModelSettings& Settings() const { return *settings_; }
   CPjtInterface& Connection() { return connection_; }
   const PatientChannel& Channel() const { return *channel_; }
 
  private:
   std::string name_;
-  ModelSettings settings_;
-  std::shared_ptr<PjLinkChannel> pjLink_;  ///< Null unless the projector speaks PJLink.
+  std::shared_ptr<const ModelSettings> settings_;  ///< Never null.
+  std::shared_ptr<PjLinkChannel> pjLink_;          ///< Null unless the projector speaks PJLink.
   std::shared_ptr<PatientChannel> channel_;
   CPjtInterface connection_;
   PjLinkFacts remembered_;

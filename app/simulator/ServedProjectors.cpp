@@ -83,10 +83,23 @@ bool ServedProjectors::Serve(const FleetProfile& profile) {
   return true;
 }
 
-std::string ServedProjectors::Addresses() const {
+/// As a part of an address.
+std::string ServedProjectors::Host() const {
   QString host = options_.address.toString();
   if (host.contains(QLatin1Char(':'))) host = QLatin1Char('[') + host + QLatin1Char(']');
-  const std::string address = host.toStdString();
+  return host.toStdString();
+}
+
+ServedAddresses ServedProjectors::WireAddresses() const {
+  ServedAddresses addresses;
+  for (const Service& service : services_) {
+    addresses[service.name] = "tcp://" + Host() + ':' + std::to_string(service.wirePort);
+  }
+  return addresses;
+}
+
+std::string ServedProjectors::Addresses() const {
+  const std::string address = Host();
   std::string lines;
   for (const Service& service : services_) {
     const std::string name = service.name + ": ";

@@ -8,6 +8,7 @@
 #include <QHostAddress>
 #include <QJsonObject>
 
+#include "app/profiles/SimulatorNotice.h"
 #include "app/simulator/ControlServer.h"
 #include "app/simulator/Faults.h"
 #include "fleet/ProfileFile.h"
@@ -46,6 +47,8 @@ class ServedProjectors final : public ControlledProjectors {
 
   /// One line for each connection of each projector: name, colon, address.
   std::string Addresses() const;
+  /// Where each projector is served with our own protocol.
+  ServedAddresses WireAddresses() const;
 
   /// A profile file for the served projectors, based on the file `original` that they were read
   /// from.
@@ -55,6 +58,7 @@ class ServedProjectors final : public ControlledProjectors {
 
  private:
   bool Serve(const FleetProfile& profile);
+  std::string Host() const;
   QJsonObject NetworkConnection(int port, const std::string& password) const;
 
   const ServiceOptions options_;

@@ -15,6 +15,7 @@
 #include <QSocketNotifier>
 
 #include "app/profiles/OutOfMemory.h"
+#include "app/profiles/SimulatorNotice.h"
 #include "app/profiles/Translations.h"
 #include "app/simulator/Arguments.h"
 #include "app/simulator/ControlServer.h"
@@ -116,6 +117,7 @@ int Run(const Arguments& arguments, int endingSignals) {
   }
   ServedProjectors projectors(contents.profiles, arguments.service);
   if (!projectors.ErrorText().isEmpty()) return Fail(projectors.ErrorText());
+  const SimulatorNotice notice(ProfileFile(arguments), projectors.WireAddresses());
   return Serve(projectors, arguments, endingSignals);
 }
 

@@ -12,6 +12,14 @@ constexpr QLatin1String kProjectors("undoOfJob");
 constexpr QLatin1String kId("id");
 constexpr QLatin1String kSnapshot("snapshot");
 
+/// A file may have any characters in a text.
+QString OneLine(QString text) {
+  for (QChar& c : text) {
+    if (c < QLatin1Char(' ')) c = QLatin1Char(' ');
+  }
+  return text;
+}
+
 }  // namespace
 
 QByteArray WriteFleetUndo(const SnapshotsById& undo) {
@@ -42,9 +50,9 @@ FleetUndoContents ReadFleetUndo(const QByteArray& text) {
     const std::string id = entry.value(kId).toString().toStdString();
     const auto read = ReadSnapshot(QJsonDocument(entry.value(kSnapshot).toObject()).toJson());
     if (id.empty() || !read.error.isEmpty()) {
-      const QString what = id.empty()
-                               ? QStringLiteral("a projector without an identity")
-                               : QString::fromStdString(id) + QLatin1String(": ") + read.error;
+      const QString what =
+          id.empty() ? QStringLiteral("a projector without an identity")
+                     : OneLine(QString::fromStdString(id)) + QLatin1String(": ") + read.error;
       return {.undo = {}, .error = what};
     }
     contents.undo.emplace(id, std::make_shared<const Snapshot>(read.snapshot));

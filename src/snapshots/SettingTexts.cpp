@@ -15,6 +15,10 @@ namespace {
 
 // Larger than any value, and the sum of two such numbers does not overflow.
 constexpr int kLargest = 1'000'000;
+// Device values of the power state; any other is standby, too.
+constexpr int kStandby = 0;
+constexpr int kOn = 1;
+constexpr int kCoolingDown = 2;
 
 std::optional<int> Number(std::string_view text) {
   if (text.starts_with('+')) text.remove_prefix(1);
@@ -113,30 +117,31 @@ std::string SettingTexts::Entry(const ListEntry& entry) const {
 }
 
 std::string SettingTexts::Entry(const ModelSetting& setting, const ListEntry& entry) const {
+  if (IsPower(setting) && entry.value == kStandby) {
+    return Text(kListCategory, ListText::PowerStandby);
+  }
   return Entry(entry) +
          (IsNameShared(setting, entry) ? " (" + std::to_string(entry.value) + ')' : std::string());
 }
 
 std::string SettingTexts::Value(const ModelSetting& setting, int value) const {
-  const auto entry = std::ranges::find(setting.entries, value, &ListEntry::value);
-  if (entry != setting.entries.end()) {
-    if (std::string text = Entry(setting, *entry); !text.empty()) return text;
-  }
-  if (setting.otherwise != 0) return Text(kListCategory, setting.otherwise, value);
-  return std::to_string(value - setting.bias);
+  return Value(setting, value, std::nullopt);
 }
 
 std::string SettingTexts::Value(const ModelSetting& setting, int value,
                                 std::optional<PowerState> power) const {
-  constexpr int kOn = 1;
-  constexpr int kCoolingDown = 2;
   if (IsPower(setting) && power == PowerState::WarmingUp && value == kOn) {
     return Text(kListCategory, ListText::PowerWarmingUp);
   }
   if (IsPower(setting) && value != kOn && value != kCoolingDown) {
     return Text(kListCategory, ListText::PowerStandby);
   }
-  return Value(setting, value);
+  const auto entry = std::ranges::find(setting.entries, value, &ListEntry::value);
+  if (entry != setting.entries.end()) {
+    if (std::string text = Entry(setting, *entry); !text.empty()) return text;
+  }
+  if (setting.otherwise != 0) return Text(kListCategory, setting.otherwise, value);
+  return std::to_string(value - setting.bias);
 }
 
 bool SettingTexts::IsShownAs(const ModelSetting& setting, int value, std::string_view text) const {
@@ -186,7 +191,7 @@ std::optional<TypedValue> SettingTexts::Parse(const ModelSetting& setting,
     return TypedValue{std::ranges::find_if(setting.entries, isPlainName)->value};
   }
   if (IsPower(setting) && Is(ListEntry(ListText::PowerStandby), text, likely_))
-    return TypedValue{0};
+    return TypedValue{kStandby};
   const bool absolute = text.starts_with('=');
   const bool relative = text.starts_with('+') || text.starts_with('-');
   const auto number = Number(absolute ? text.substr(1) : text);

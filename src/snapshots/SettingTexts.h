@@ -43,10 +43,11 @@ class PROJECTOR_SETTINGS_EXPORT SettingTexts {
   /// The text of an entry; followed by its device value if another entry has the same name:
   /// "HDMI (31)".
   std::string Entry(const ModelSetting& setting, const ListEntry& entry) const;
-  /// A device value as the dialog shows it: its entry's text, else the shown number.
+  /// A device value as the dialog shows it: its entry's text, else the shown number. A projector in
+  /// standby is not shown as off.
   std::string Value(const ModelSetting& setting, int value) const;
   /// The same, but with the exact power state that `CPjtInterface::Power` returns: a projector that
-  /// is warming up is not shown as on, and one in standby is not shown as off.
+  /// is warming up is not shown as on.
   std::string Value(const ModelSetting& setting, int value, std::optional<PowerState> power) const;
   /// Whether a text is the text of a device value in any language.
   bool IsShownAs(const ModelSetting& setting, int value, std::string_view text) const;

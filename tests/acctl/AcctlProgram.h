@@ -21,7 +21,8 @@ inline const QTemporaryDir kCache;
 inline const QTemporaryDir kState;
 inline const bool kAreFoldersSet = qputenv("XDG_CACHE_HOME", kCache.path().toUtf8()) &&
                                    qputenv("XDG_STATE_HOME", kState.path().toUtf8()) &&
-                                   qputenv("XDG_CONFIG_HOME", kState.path().toUtf8());
+                                   qputenv("XDG_CONFIG_HOME", kState.path().toUtf8()) &&
+                                   qunsetenv("XDG_RUNTIME_DIR");  // no simulator is looked for
 
 /// The undo files of the runs so far.
 inline QStringList UndoFiles() {

@@ -13,7 +13,7 @@ class LookingUp(Building):
         for words, output in (
                 (["explain", "active-iris"], "values +Off \\(off\\), Theater \\(theater\\), "),
                 (["explain", "volume"], "short name: volume\n(.*\n)+.*kept +for each input source"),
-                (["explain", "power"], "commands +get, set"),
+                (["explain", "power"], "values +Standby \\(standby\\), On \\(on\\)\n.*commands +get, set"),
                 (["models", "Model 5-*"], "^Model 5-30 +5 +30 +1 projector +\\d+ settings$"),
                 (["help", "set"], "Use: acctl set P KEY=VALUE(.*\n)+Examples\n  acctl set"),
                 (["set", "--help"], "  --wait TIME"), (["--help"], "^  explain  ")):
@@ -69,6 +69,17 @@ class LookingUp(Building):
 
 
 class Manual(Building):
+    def test_every_example_of_the_help_works(self):
+        (self.folder / "rooms.csv").write_text("name,address\nA,192.0.2.7\n")
+        commands = re.findall(r"^  (\w+) {2,}", self.acctl("--help").stdout.split("Options")[0], re.MULTILINE)
+        # What waits for a state comes before what ends it.
+        for command in ["watch", *(command for command in commands if command not in ("watch", "find"))]:
+            for line in self.acctl("help", command).stdout.split("\nExamples\n")[1].splitlines():
+                line += " --wait 0.1" if "power -o json" in line else ""
+                with self.subTest(line=line):
+                    run = self.run_program("bash", "-c", line, ACCTL_INTERVAL="0.1")
+                    self.assertEqual(run.returncode, 0, run.stderr + run.stdout)
+
     def test_every_command_of_the_manual_works(self):
         for page in sorted((SOURCES / "docs/acctl").glob("*.md")):
             blocks = re.findall(r"^```sh\n(.*?)^```", page.read_text(), re.DOTALL | re.MULTILINE)

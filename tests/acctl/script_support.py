@@ -5,12 +5,16 @@ import os
 import re
 import shutil
 import subprocess
+import sys
 import tempfile
 import unittest
 from pathlib import Path
 
 PROGRAMS = Path(os.environ["PROGRAMS"])
 SOURCES = Path(__file__).resolve().parents[2]
+sys.path.append(str(SOURCES / "scripts"))
+from rig import free_port  # noqa: E402,F401
+
 ROOMS = {"Lecture hall": ("Projector 5-30", ["building-3", "hall"]), "Seminar 1": ("Projector 5-31", ["building-3"]),
          "Seminar 2": ("Projector 4-24", ["building-3"]), "Office": ("Projector 2-6", ["building-1"])}
 
@@ -36,11 +40,12 @@ class Building(unittest.TestCase):
                             "PATH": f"{PROGRAMS}:{SOURCES}/integrations/monitoring:{os.environ['PATH']}",
                             **{f"XDG_{name}_HOME": str(self.folder / name.lower())
                                for name in ("CACHE", "CONFIG", "DATA", "STATE")}}
+        self.environment.pop("XDG_RUNTIME_DIR", None)
 
-    def start_simulator(self, *options):
+    def start_simulator(self, *options, **environment):
         simulator = subprocess.Popen(
             [PROGRAMS / "advanced-control-simulator", "--profiles", self.folder / "rooms.json", "--write-profiles",
-             self.folder / "served.json", *options], stdout=subprocess.PIPE, text=True)
+             self.folder / "served.json", *options], stdout=subprocess.PIPE, text=True, env={**os.environ, **environment})
         self.addCleanup(self.stop, simulator)
         for line in simulator.stdout:
             if line.strip() == "ready":

@@ -6,7 +6,7 @@ import shutil
 
 import jsonschema
 
-from script_support import SOURCES, Building
+from script_support import ROOMS, SOURCES, Building, free_port
 
 ALL = "@building-3"
 SCHEMA = json.loads((SOURCES / "app/acctl/acctl.schema.json").read_text())
@@ -99,7 +99,8 @@ class Output(Building):
                  "^projector\tkey\tvalue\tcode\ttext\tsimulated\nOffice\tother.power\t1\ton\tOn\tfalse\n$"),
                 (["set", "Office", "contrast=-3"], "^Office  main.contrast  Contrast  0  ->  -3\n$"),
                 (["set", "Office", "contrast+=2"], "^Office  main.contrast  Contrast  -3  ->  -1\n$"),
-                (["set", "Office", "contrast-=2", "--dry-run"], "^Office  main.contrast  Contrast  -1  ->  -3\n$")):
+                (["set", "Office", "contrast-=2", "--dry-run"], "^Office  main.contrast  Contrast  -1  ->  -3\n$"),
+                (["set", "Office", "power=off", "--dry-run"], "^Office  other.power  Power  On  ->  Standby\n$")):
             self.check(words, 0, output)
         value = json.loads(self.acctl("-o", "jsonl", "get", "Office", "contrast").stdout)
         self.assertEqual({name: value[name] for name in ("name", "alias", "shown", "code")},
@@ -138,6 +139,40 @@ class Output(Building):
         self.assertEqual(entry["errors"][0], {"code": "standby", "key": "other.mute",
                                               "text": "refused, the projector is in standby"})
 
+    def test_errors_have_the_form_that_was_asked_for(self):
+        self.acctl("save", "Office", "office.json")
+        saved = json.loads((self.folder / "office.json").read_text())
+        for setting in saved["settings"][:2]:
+            setting["value"] = 999
+        (self.folder / "office.json").write_text(json.dumps(saved))
+        self.acctl("save", "Seminar 1", "-o", "saved")
+        for words, environment, code, problem in (
+                (["--jobs", "0", "get", "Office", "-o", "json"], {}, 2, "wrong-use"),
+                (["--fast", "list", "--json"], {}, 2, "wrong-use"),
+                (["list", "--jobs", "0"], {"ACCTL_FORMAT": "json"}, 2, "wrong-use"),
+                (["list", "--format=json"], {"ACCTL_TIMEOUT": "x"}, 2, "wrong-use"),
+                (["watch", "Office", "power", "--until", "x", "-o", "json"], {}, 2, "wrong-use"),
+                (["diff", "Office", "office.json", "-o", "json"], {}, 2, "wrong-file"),
+                (["diff", "Office,Seminar 1", "saved", "-o", "json"], {}, 1, "file")):
+            with self.subTest(words=words):
+                run = self.acctl(*words, **environment)
+                output = json.loads(run.stdout)
+                VALIDATOR.validate(output)
+                self.assertEqual((run.returncode, output["errors"][0]["code"]), (code, problem))
+        run = self.acctl("list", "--jobs", "0", "-o", "jsonl")
+        self.assertEqual(json.loads(run.stdout)["error"]["code"], "wrong-use")
+        wrong = self.json("watch", "*", "active-iris", "smell", code=2)["projectors"]
+        self.assertEqual(wrong[0]["errors"][0]["code"], "no-such-setting")
+
+    def test_a_value_before_that_cannot_be_read_is_noted(self):
+        self.stop(self.simulator)
+        self.start_simulator("--fault", "fail-read")
+        run = self.check(["set", "Office", "contrast=3"], 1,
+                         errors="main.contrast: the value before could not be read, and cannot be restored")
+        self.assertIn("accepted, but cannot be read now", run.stderr)
+        entry = self.json("set", "Office", "contrast=3", code=1)["projectors"][0]
+        self.assertEqual([(note["code"], note["key"]) for note in entry["notes"]], [("not-readable", "main.contrast")])
+
     def test_simulated_projectors_are_marked(self):
         rooms = {"ACCTL_PROFILES": "rooms.json"}
         run = self.acctl("set", "Office", "contrast=3", **rooms)
@@ -145,6 +180,20 @@ class Output(Building):
         self.assertIn("nothing lasting was changed", run.stderr)
         self.assertTrue(self.json("get", "Office", "contrast", **rooms)["projectors"][0]["simulated"])
         self.assertTrue(self.acctl("get", "Office", "contrast", "-o", "tsv", **rooms).stdout.endswith("\ttrue\n"))
+
+    def test_simulated_projectors_keep_their_state_while_a_simulator_serves_them(self):
+        rooms = {"ACCTL_PROFILES": "rooms.json", "XDG_RUNTIME_DIR": str(self.folder)}
+        simulator = self.start_simulator("--projector", "Office", XDG_RUNTIME_DIR=str(self.folder))
+        run = self.acctl("set", "Off*,Seminar 1", "contrast=3", **rooms)
+        self.assertIn("Office (simulated) ", run.stdout)
+        self.assertEqual(run.stderr, "acctl: Seminar 1: simulated by acctl itself, nothing lasting was changed\n")
+        self.assertEqual(self.acctl("get", "Office,Seminar 1", "contrast", "-o", "value", **rooms).stdout, "3\n0\n")
+        simulator.kill()
+        simulator.wait()
+        run = self.acctl("get", "Office", "contrast", "-o", "value", **rooms)
+        self.assertEqual((run.stdout, run.stderr), ("0\n", ""), "what a dead simulator has left is no use")
+        self.start_simulator("--projector", "Office", XDG_RUNTIME_DIR=str(self.folder))
+        self.assertEqual(self.acctl("set", "Office", "contrast=3", **rooms).stderr, "")
 
 
 class Runs(Building):
@@ -203,6 +252,8 @@ class Runs(Building):
         before = job.read_text()
         self.check(["undo", "job.undo"], 0, "2 changed")
         self.assertEqual(job.read_text(), before)
+        job.write_text(' {"undoOfJob": [{"id": "a\\nb", "snapshot": {}}]}')
+        self.assertEqual(self.acctl("undo", "job.undo").stderr.count("\n"), 1)
         # What is undone and cannot be recorded is reported with an exit code of its own.
         pipe = self.acctl("undo", "/dev/stdin", text=run.read_text())
         self.assertEqual(pipe.returncode, 1)
@@ -292,10 +343,33 @@ class Watching(Building):
         watch.stdout.close()
         self.assertEqual(watch.wait(60), 1)
 
+    def test_it_goes_on_when_projectors_come_back(self):
+        self.stop(self.simulator)
+        port = str(free_port(2 * len(ROOMS)))
+        simulator = self.start_simulator("--port", port)
+        watch = self.start("watch", "Seminar*", "contrast", "-o", "jsonl", "--interval", "0.05", "--timeout", "1")
+        lines = lambda count: [json.loads(watch.stdout.readline()) for _ in range(count)]
+        lines(2)
+        simulator.kill()
+        simulator.wait()
+        silent = lines(2)
+        self.start_simulator("--port", port)
+        again = lines(2)
+        self.acctl("set", "Seminar 2", "contrast=5")
+        change = lines(1)[0]
+        watch.terminate()
+        self.assertEqual((watch.wait(60), watch.stdout.read()), (0, ""), "each is told once")
+        for told, kind, code in ((silent, "error", "no-answer"), (again, "note", "answers")):
+            self.assertEqual([line[kind]["code"] for line in told], [code] * 2)
+            self.assertEqual({line["name"] for line in told}, {"Seminar 1", "Seminar 2"})
+        self.assertEqual((change["name"], change["old"]["code"], change["new"]["code"]), ("Seminar 2", "0", "5"))
+
     def test_it_ends_when_a_value_is_reached(self):
         watch = self.start("watch", "*", "contrast", "--until", "contrast=4", "--interval", "0.05")
         watch.stdout.readline()
         self.acctl("set", "*", "contrast=4")
         self.assertEqual(watch.wait(60), 0)
         self.check(["watch", "Office", "power", "--until", "contrast=9", "--wait", "0.2"], 1, "On", "not so in time")
-        self.check(["watch", "Office", "power", "--until", "input=hdim"], 2, errors="'hdim' is not one of")
+        for wrong in ("input=hdim", "power=offf"):
+            self.check(["watch", "Office", "power", "--until", wrong], 2, errors="'.*' is not one of")
+        self.check(["watch", "Office", "power", "--until", "power=warming-up", "--wait", "0.2"], 1, "On", "not so in time")

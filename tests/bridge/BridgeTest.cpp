@@ -1,5 +1,6 @@
 // The program between simulated projectors, Debian's message broker and clients that others wrote.
 
+#include <algorithm>
 #include <csignal>
 #include <gmock/gmock.h>
 #include <map>
@@ -45,6 +46,22 @@ class Subscriber {
     const auto& last = Last();
     const auto found = last.find(topic);
     return found == last.end() ? QJsonObject() : QJsonDocument::fromJson(found->second).object();
+  }
+  /// The level of a projector in this power state whose discovery message has these settings; empty
+  /// until there is one.
+  QByteArray Find(const char* power, const std::vector<const char*>& settings) {
+    for (const auto& [topic, payload] : Last()) {
+      const QByteArray level = topic.split('/')[1];
+      const auto config = last_.find("homeassistant/device/" + level + "/config");
+      if (!topic.endsWith("/state") || config == last_.end() || Json(topic)["power"] != power) {
+        continue;
+      }
+      const auto has = [&](const char* key) {
+        return config->second.contains("/set/" + QByteArray(key) + '"');
+      };
+      if (std::ranges::all_of(settings, has)) return level;
+    }
+    return {};
   }
   bool Saw(const char* text) { return daemon_->Said().contains(text); }
   int Count(const QByteArray& topic) { return Last(), counts_[topic]; }
@@ -180,13 +197,18 @@ TEST_F(BridgeProgram, ServesFiveHundredProjectorsThroughFailures) {
 TEST_F(BridgeProgram, TellsABrokerThatForgotEverythingAgain) {
   StartProjectors(20);
   MosquittoBroker broker(folder_.path(), false);
-  const auto bridge = Bridge(At(broker) + QStringList{"--mqtt", "5", "--discovery", "none"});
+  const QStringList options{"--mqtt", "5", "--discovery", "none", "--takeover", "3"};
+  const auto bridge = Bridge(At(broker) + options);
   for (int i = 0; i < 2; ++i) {
     Subscriber subscriber(broker.port, {"projectors/#"});
     EXPECT_TRUE(Soon([&] { return subscriber.With("/state", "\"answers\"") == 20; })) << i;
     broker.Stop();
     broker.Start();
   }
+  // A second bridge has a share of its projectors.
+  const auto other = Bridge(At(broker) + options + QStringList{"--share", "1/2"});
+  EXPECT_TRUE(bridge->Says("the bridge with the share 1-of-2 has "));
+  EXPECT_TRUE(other->Says("the bridge with the share 1-of-1 has "));
 }
 
 TEST_F(BridgeProgram, CarriesOutWhatIsAllowedAndAnswers) {
@@ -195,18 +217,9 @@ TEST_F(BridgeProgram, CarriesOutWhatIsAllowedAndAnswers) {
   auto bridge =
       Bridge(At(broker) + QStringList{"--allow-commands", "power,picture.*,setup.auto-keystone"});
   Subscriber subscriber(broker.port, {"projectors/#", "homeassistant/#"});
-  // One that is on and has the setting.
   QByteArray id;
   ASSERT_TRUE(Soon([&] {
-    for (const auto& [topic, payload] : subscriber.Last()) {
-      if (!topic.endsWith("/state") || !payload.contains("\"power\":\"on\"")) continue;
-      const QByteArray level = topic.split('/')[1];
-      const auto config = subscriber.Last().find("homeassistant/device/" + level + "/config");
-      const bool has = config != subscriber.Last().end() &&
-                       config->second.contains("/set/picture.brightness") &&
-                       config->second.contains("/set/setup.auto-keystone");
-      if (has) id = level;
-    }
+    id = subscriber.Find("on", {"picture.brightness", "setup.auto-keystone"});
     return !id.isEmpty();
   })) << bridge->Said().data();
   const QByteArray answer = "projectors/" + id + "/answer";
@@ -263,6 +276,22 @@ TEST_F(BridgeProgram, CarriesOutWhatIsAllowedAndAnswers) {
   bridge = Bridge(At(broker) + QStringList{"--allow-commands", "power"});
   EXPECT_TRUE(Soon([&] { return subscriber.Count(answer) > before; }));
   EXPECT_EQ(subscriber.Json(answer)["outcome"], "error");
+}
+
+TEST_F(BridgeProgram, TellsThatAProjectorIsInStandby) {
+  StartProjectors(40);  // over PJLink, which refuses then
+  MosquittoBroker broker(folder_.path());
+  const auto bridge = Bridge(At(broker) + QStringList{"--allow-commands", "other.*"});
+  Subscriber subscriber(broker.port, {"projectors/#", "homeassistant/#"});
+  QByteArray id;
+  ASSERT_TRUE(Soon([&] {
+    id = subscriber.Find("standby", {"other.mute"});
+    return !id.isEmpty();
+  })) << bridge->Said().data();
+  Publish(broker, {"-t", "projectors/" + QString(id) + "/set/other.mute", "-m", "1"});
+  const QByteArray answer = "projectors/" + id + "/answer";
+  EXPECT_TRUE(Soon([&] { return subscriber.Count(answer) > 0; }));
+  EXPECT_EQ(subscriber.Json(answer)["outcome"], "standby") << subscriber.Last().at(answer).data();
 }
 
 TEST_F(BridgeProgram, ProvesWhoItIs) {

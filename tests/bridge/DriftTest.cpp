@@ -7,6 +7,7 @@
 
 #include "app/bridge/DriftCheck.h"
 #include "snapshots/Snapshot.h"
+#include "tests/bridge/Profiles.h"
 #include "tests/fleet/Served.h"
 #include "tests/support/Programs.h"
 
@@ -14,27 +15,23 @@ namespace {
 
 TEST(DriftCheck, TellsHowManySettingsDiffer) {
   Served served;
-  auto model = std::make_shared<ProfileModel>();
-  model->data = SimulatedModelData();
-  const auto profile = [&](const char* name, ProjectorLink link) {
-    return FleetProfile{.name = name,
-                        .model = model,
-                        .connection = {.address = "127.0.0.1", .port = served.wirePort},
-                        .link = link,
-                        .snapshot = "good"};
-  };
+  FleetProfile hall = ProfileOf("Hall", SimulatedModelData());
+  hall.connection.port = served.wirePort;
+  hall.link = ProjectorLink::Network;
+  hall.snapshot = "good";
+  FleetProfile simulated = ProfileOf("No");
+  simulated.link = ProjectorLink::Simulated;
   int changes = 0;
-  BridgeFleet fleet(
-      {profile("Hall", ProjectorLink::Network), profile("No", ProjectorLink::Simulated)}, {}, {},
-      [&](std::size_t) { ++changes; });
-  ASSERT_EQ(fleet.Count(), 1U) << "without what is simulated";
-  EXPECT_EQ(fleet.FindName("Hall"), 0U);
-  EXPECT_FALSE(fleet.FindName("No"));
-  EXPECT_EQ(fleet.Find(fleet.Id(0)), 0U);
+  const ShareProfiles projectors({hall, simulated}, {});
+  BridgeFleet fleet(projectors, {}, [&](std::size_t) { ++changes; });
+  ASSERT_EQ(projectors.Count(), 1U) << "without what is simulated";
+  EXPECT_EQ(projectors.FindName("Hall"), 0U);
+  EXPECT_FALSE(projectors.FindName("No"));
+  EXPECT_EQ(projectors.Find(projectors.Id(0)), 0U);
 
   const QTemporaryDir folder;
-  Snapshot snapshot = EmptySnapshot("Hall", model->data);
-  const ModelSettings settings(model->data);
+  Snapshot snapshot = EmptySnapshot("Hall", hall.model->data);
+  const ModelSettings settings(hall.model->data);
   for (const ModelSetting& setting : settings.All()) {
     if (!setting.Restorable() || !setting.range || snapshot.settings.size() == 2) continue;
     snapshot.settings.push_back({std::string(setting.key), setting.range->minimum, "", {}});

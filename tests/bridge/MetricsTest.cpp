@@ -17,6 +17,7 @@
 #include "app/bridge/Metrics.h"
 #include "app/bridge/MetricsListener.h"
 #include "tests/bridge/Daemons.h"
+#include "tests/bridge/Profiles.h"
 
 namespace {
 
@@ -31,12 +32,6 @@ Outcome Promtool(const QStringList& arguments, const QByteArray& input = {}) {
   promtool.write(input);
   promtool.closeWriteChannel();
   return Finish(promtool);
-}
-
-FleetProfile Profile(const std::string& name) {
-  auto model = std::make_shared<ProfileModel>();
-  model->data.ModelName = "5-30";
-  return {.name = name, .model = model, .connection = {}, .ratedLampHours = 3000};
 }
 
 LiveState FullState() {
@@ -54,8 +49,9 @@ LiveState FullState() {
 }
 
 QByteArray Everything() {
-  const FleetProfile known = Profile("Hall \"1\"\\\n");
-  const FleetProfile unknown = Profile("Hall 2");
+  FleetProfile known = ProfileOf("Hall \"1\"\\\n");
+  known.ratedLampHours = 3000;
+  const FleetProfile unknown = ProfileOf("Hall 2");
   LiveState silent;
   silent.reachability = Reachability::Silent;
   const std::vector<MeasuredProjector> projectors{

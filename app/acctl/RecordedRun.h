@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+
+#include <QByteArray>
+#include <QString>
+
+#include "fleet/FleetWork.h"
+
+/// What one run of the program replaced, from its undo file.
+struct RecordedRun {
+  QString path{};
+  std::string name{};     ///< The file's name without its suffix; runs sort by it.
+  std::string time{};     ///< ISO 8601, UTC.
+  std::string command{};  ///< As it was typed, without passwords.
+  std::string address{};  ///< Of --connect; empty without.
+  SnapshotsById undo{};
+  bool isUndo = false;    ///< It undid another run itself.
+  bool isUndone = false;  ///< All of it was undone.
+  bool isOfJob = false;   ///< The file is one of the host application.
+  QString error{};        ///< One line; empty if the file could be read.
+};
+
+/// Parses an undo file of this program, or one of a job of the host application. `path` is for the
+/// error.
+RecordedRun ParseRun(const QByteArray& text, const QString& path);
+/// The line that begins an undo file.
+QByteArray HeaderLine(const RecordedRun& run);
+/// The line that records what a run replaced on the projector with the identity `id`.
+QByteArray ChangeLine(const std::string& id, const Snapshot& undo);
+/// What is appended when all of a run was undone at the present time.
+QByteArray UndoneLine();

@@ -1,0 +1,91 @@
+#include "app/profiles/SimulatorNotice.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include "fleet/WholeFile.h"
+
+namespace {
+
+/// Empty without a folder for it.
+QString NoticePath(const QString& profiles) {
+  const QString folder = qEnvironmentVariable("XDG_RUNTIME_DIR");
+  if (folder.isEmpty()) return {};
+  const QByteArray path = QFileInfo(profiles).canonicalFilePath().toUtf8();
+  const auto name = QCryptographicHash::hash(path, QCryptographicHash::Sha1).toHex();
+  return folder + QStringLiteral("/advanced-control/simulator-") + QString::fromLatin1(name);
+}
+
+struct flock Lock() {
+  struct flock lock {};
+  lock.l_type = F_WRLCK;
+  lock.l_whence = SEEK_SET;
+  return lock;
+}
+
+/// The file, locked by this process; −1 if it cannot be had.
+int OpenLocked(const QString& path) {
+  while (true) {
+    const int file = open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+    if (file < 0) return -1;
+    auto lock = Lock();
+    struct stat status {};
+    const bool isHeld = fcntl(file, F_SETLK, &lock) == 0 && fstat(file, &status) == 0;
+    if (isHeld && status.st_nlink > 0) return file;
+    close(file);
+    if (!isHeld) return -1;  // else the one before has just removed it
+  }
+}
+
+}  // namespace
+
+SimulatorNotice::SimulatorNotice(const QString& profiles, const ServedAddresses& served)
+    : path_(NoticePath(profiles)) {
+  if (path_.isEmpty()) return;
+  QDir().mkpath(QFileInfo(path_).path());
+  file_ = OpenLocked(path_);
+  QJsonObject json;
+  for (const auto& [name, address] : served) {
+    json[QString::fromStdString(name)] = QString::fromStdString(address);
+  }
+  const QByteArray text = QJsonDocument(json).toJson(QJsonDocument::Compact);
+  const bool isTold = file_ >= 0 && ftruncate(file_, 0) == 0 &&
+                      write(file_, text.constData(), static_cast<std::size_t>(text.size())) ==
+                          static_cast<ssize_t>(text.size());
+  if (file_ < 0 || isTold) return;
+  close(file_);
+  file_ = -1;
+}
+
+SimulatorNotice::~SimulatorNotice() {
+  if (file_ < 0) return;
+  QFile::remove(path_);
+  close(file_);
+}
+
+ServedAddresses FindServed(const QString& profiles) {
+  constexpr qsizetype kMost = qsizetype{16} << 20;
+  const QString path = NoticePath(profiles);
+  const int file =
+      path.isEmpty() ? -1 : open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+  if (file < 0) return {};
+  // Only looks, since a lock of its own would keep a simulator out that begins now.
+  auto lock = Lock();
+  const bool isHeld = fcntl(file, F_GETLK, &lock) == 0 && lock.l_type != F_UNLCK;
+  close(file);
+  if (!isHeld) return {};
+  ServedAddresses served;
+  const QJsonObject json = QJsonDocument::fromJson(ReadToEnd(path, kMost).bytes).object();
+  for (auto entry = json.begin(); entry != json.end(); ++entry) {
+    served.emplace(entry.key().toStdString(), entry.value().toString().toStdString());
+  }
+  return served;
+}

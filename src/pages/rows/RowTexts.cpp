@@ -1,5 +1,6 @@
 #include "pages/rows/RowTexts.h"
 
+#include "i18n/Catalog.h"
 #include "i18n/LocalizeControlTexts.h"
 #include "settings/CatalogNumbers.h"
 #include "toolkit/CComboBox.h"
@@ -22,6 +23,7 @@ QString TextOf(const ListEntry& entry) {
 }
 
 void FillList(CComboBox& list, std::span<const ListEntry> entries) {
+  const CatalogBatch batch;
   list.clear();
   for (const ListEntry& entry : entries) list.Add(TextOf(entry), entry.value);
 }

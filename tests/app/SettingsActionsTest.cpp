@@ -11,7 +11,9 @@
 #include "app/desktop/projectors/ProjectorSession.h"
 #include "app/desktop/settings/SettingsActions.h"
 #include "app/profiles/SettingsFile.h"
+#include "app/profiles/Translations.h"
 #include "fleet/ProfileFile.h"
+#include "i18n/SystemLanguage.h"
 #include "tests/support/Soon.h"
 
 namespace {
@@ -58,6 +60,7 @@ TEST(SettingsActions, RestoresCheckedSettingsOfEveryProjector) {
   Snapshot snapshot = ReadSettingsFile(projectors.file).snapshot;
   snapshot.beforehand = {{"picture.sharpness", 129, ""}};
   snapshot.settings.insert(snapshot.settings.begin(), {"audio.volume", 16, "", 99});
+  InstallTranslations(kEnglishUnitedStates);  // for the plurals
   RestoreDialog dialog(RestoreDialog::Purpose::Restore, snapshot, projectors.file,
                        projectors.sessions, [](QObject*, const std::function<void()>& work) {
                          work();
@@ -74,7 +77,7 @@ TEST(SettingsActions, RestoresCheckedSettingsOfEveryProjector) {
                          "Audio: Volume (99)", "Picture: Contrast", "Image: Position V"}));
   EXPECT_EQ(Column(dialog, 2), QStringList({"", "", "7", "", "", "-8", "50"}));
   EXPECT_EQ(Column(dialog, 3),
-            QStringList({"1 settings", "16", "0", "1 settings", "16", "0", "40"}));
+            QStringList({"1 setting", "16", "0", "1 setting", "16", "0", "40"}));
 
   QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
   EXPECT_TRUE(dialog.isVisible());

@@ -4,12 +4,13 @@
 set -euo pipefail
 cd "$(dirname "$0")"
 
+TIMEFORMAT="  %0R s (processors: %0U s + %0S s)"
 scripts/setup.sh
 echo "Building (build/asan)"
 cmake --preset asan >/dev/null
-cmake --build --preset asan
+time cmake --build --preset asan
 cmake --build --preset asan --target format-check
 echo "Testing"
 # Many tests mostly wait.
-ctest --preset asan -j $((2 * $(nproc))) "$@" ||
+time ctest --preset asan -j $((2 * $(nproc))) "$@" ||
   { echo "Tests failed. To see them again: ctest --preset asan --rerun-failed" >&2; exit 1; }

@@ -45,7 +45,9 @@ public_headers(ProjectorCommon
   device/PjtOperations.def
   device/ProjectorChannel.h
   device/protocol/WireFrame.h
-  simulator/SettingsTable.h)
+  simulator/PowerSwitch.h
+  simulator/SettingsTable.h
+  simulator/SimulatedValues.h)
 # The catalog.
 public_headers(ProjectorSettings
   i18n/Catalog.h

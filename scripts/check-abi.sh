@@ -16,7 +16,7 @@ git worktree add --detach "$then" "$since" >/dev/null
 for source in . "$then"; do
   into=build/abi/$([ "$source" = . ] && echo now || echo before)
   cmake -S "$source" -B "$into" -G Ninja -DCMAKE_BUILD_TYPE=Debug -DADVANCEDCONTROL_TESTS=OFF \
-    -DADVANCEDCONTROL_BENCHMARKS=OFF -DADVANCEDCONTROL_PRECOMPILE=ON >/dev/null
+    -DADVANCEDCONTROL_BENCHMARKS=OFF -DADVANCEDCONTROL_PRECOMPILE=ON -DADVANCEDCONTROL_COMBINE=ON >/dev/null
   # A library that an earlier state has not is not compared.
   for library in $libraries; do
     cmake --build "$into" --target "$library" >/dev/null || [ "$source" != . ]

@@ -6,10 +6,11 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-# check <what> <command line>
+# check <what> <command line>: also tells the time that passed, and that of the processors.
+TIMEFORMAT="  %0R s (processors: %0U s + %0S s)"
 check() {
   echo "$1"
-  bash -euo pipefail -c "$2" || { echo "$1: failed. To see it again: $2" >&2; exit 1; }
+  time bash -euo pipefail -c "$2" || { echo "$1: failed. To see it again: $2" >&2; exit 1; }
 }
 
 export QT_QPA_PLATFORM=offscreen
@@ -23,9 +24,9 @@ check "Calls that fail" "scripts/faults.py build/check 15"
 check "Installed library" "cmake -DBUILD_DIR=$PWD/build/check -DSOURCE_DIR=$PWD -P scripts/CheckInstalled.cmake"
 check "Benchmarks for a moment" \
   "build/check/bin/advanced-control-bench --benchmark_min_time=0.01 --benchmark_filter='OpenDialog|RefreshPicture/ms:0' >/dev/null"
-check "clang-tidy over the last changes" "scripts/tidy.py build/check --since HEAD~3"
+check "clang-tidy over the last changes" "scripts/tidy.py --since HEAD~3"
 cmake --preset tsan >/dev/null
 check "Build under the thread sanitizer (build/tsan)" "cmake --build --preset tsan --target device_tests fleet_tests"
-check "Channels under the thread sanitizer" "build/tsan/bin/device_tests --gtest_brief=1"
-check "Fleet under the thread sanitizer" "build/tsan/bin/fleet_tests --gtest_brief=1"
+check "Channels and fleet under the thread sanitizer" \
+  "ctest --preset tsan -j $jobs -R '^(device|fleet)_tests'"
 check "Fuzz targets for a moment" "scripts/fuzz.sh 2"

@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """Makes one call fail in each run of a program: scripts/faults.py BUILD SECONDS [SEED | POINT...].
 
-BUILD is an optimised build that has the target failing_calls: the sanitizers bring an allocator of their own, and in
+BUILD is an optimised build that has the targets failing_calls and host_files: the sanitizers bring an allocator of their own, and in
 a debug build Qt asserts before it touches memory that it did not get. The calls are an allocation, or a system call
 that ends with an error, is cut short or is interrupted (tests/support/FailingCalls.cpp). All points of all commands are
 tried in an order that the seed tells, until the time is over. A point such as "apply:error:117" tries this one alone.
@@ -25,6 +25,7 @@ from rig import LONGEST, PROJECTOR, Found, Rig, free_port
 
 HOWS = ("allocation", "error", "cut", "interrupt")
 CODES = (0, 1, 2, 3)
+BROKER = "/usr/sbin/mosquitto"
 
 
 class Faults(Rig):
@@ -33,11 +34,22 @@ class Faults(Rig):
         self.library = next((build / "bin").glob("*failing_calls.so"))
         self.clean = {}  # what a run without a fault prints
         self.commands = {"save": self.save, "set": self.set, "apply": self.apply, "undo": self.undo,
-                         "serve": self.serve}
+                         "serve": self.serve, "edit": self.edit, "log": self.log, "bridge": self.bridge}
+        self.runs = 0
+        self.broker_port = free_port()
+        configuration = self.folder / "broker.conf"
+        configuration.write_text(f"listener {self.broker_port} 127.0.0.1\nallow_anonymous true\n")
+        self.broker = subprocess.Popen([BROKER, "-c", configuration], stdout=subprocess.DEVNULL,
+                                       stderr=subprocess.DEVNULL)
         self.finish(self.acctl("apply", "changed.json", PROJECTOR))
         shutil.move(self.undo_files()[0], self.folder / "undo.json")
         self.finish(self.acctl("undo", "undo.json"))
         self.forget_undo()
+
+    def stop(self):
+        super().stop()
+        self.broker.kill()
+        self.broker.wait()
 
     def environment(self, how, number):
         environment = dict(self.own, LC_ALL="zh_CN.UTF-8", LD_PRELOAD=str(self.library),
@@ -130,6 +142,55 @@ class Faults(Rig):
             raise Found(f"served.json is not whole: {error}") from None
 
 
+    def write(self, environment, command, file, before):
+        """The host application writes a file. Returns whether success is told, and what is in the file."""
+        path = self.folder / file
+        path.write_text(before)
+        program = subprocess.Popen([self.programs / "host_files", command, path], stdout=subprocess.PIPE,
+                                   stderr=subprocess.PIPE, text=True,
+                                   env=environment | {"FAIL_LATER": "1", "QT_QPA_PLATFORM": "offscreen"})
+        done, _, _ = self.end(program)
+        after = path.read_text()
+        if after != self.clean.setdefault(command, after) and (done or after != before):
+            raise Found(f"{file} is neither the old file nor the new one")
+
+    def edit(self, environment):
+        self.write(environment, "edit", "edited.json", self.profiles.read_text())
+
+    def log(self, environment):
+        self.write(environment, "log", "log.txt", "an older log\n")
+
+    def bridge(self, environment):
+        """A bridge, until it has published a state and written its file of metrics."""
+        self.runs += 1
+        topic, metrics = f"run{self.runs}", self.folder / "metrics.prom"
+        metrics.unlink(missing_ok=True)
+        bridge = subprocess.Popen(
+            [self.programs / "advanced-control-bridge", "--profiles", self.profiles, "--listen", "none", "--text-file",
+             metrics, "--broker", f"127.0.0.1:{self.broker_port}", "--topic", topic, "--interval", "5"],
+            stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True, env=environment)
+        heard = subprocess.Popen(
+            ["mosquitto_sub", "-h", "127.0.0.1", "-p", str(self.broker_port), "-t", f"{topic}/+/state", "-C", "1"],
+            stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
+        end = time.monotonic() + LONGEST
+        while bridge.poll() is None and time.monotonic() < end:
+            if heard.poll() is not None and metrics.exists():
+                break
+            time.sleep(0.02)
+        state = heard.stdout.read() if heard.poll() is not None else ""
+        heard.kill()
+        heard.wait()
+        missing = bridge.poll() is None and (not state or not metrics.exists())
+        bridge.terminate()
+        self.end(bridge)
+        if missing:
+            raise Found("it tells nothing of its projector")
+        if state:
+            json.loads(state)
+        if metrics.exists() and "\nprocess_cpu_seconds_total " not in metrics.read_text():
+            raise Found("metrics.prom is not whole")
+
+
 def points_of(rig, names, seed):
     """In turn from each command and kind of fault, since most points are allocations."""
     groups = []
@@ -166,7 +227,8 @@ def main():
     wanted = [word for word in rest if ":" in word]
     seed = int(rest[0]) if rest and not wanted else 0
     for rig in rigs:
-        rig.counts("set")  # which prints what it prints without a fault
+        for command in ("set", "edit", "log"):
+            rig.counts(command)  # which leaves what there is without a fault
     points = wanted or points_of(rigs[0], rigs[0].commands, seed)
     end = time.monotonic() + float(seconds)
     found, tried = [], []

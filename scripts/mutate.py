@@ -4,6 +4,7 @@
   scripts/mutate.py --sample 60 --files 'src/settings/**' 'src/i18n/*'
   scripts/mutate.py --changed main        what the lines changed since main are worth
   scripts/mutate.py --only ID             one mutant again
+  scripts/mutate.py --sample 20 --files 'src/i18n/*' --suites i18n_tests     at once, without a record of the reach
 
 A mutant is killed when a test fails or does not end. One that lives shows a fault that no test would notice, code that
 nothing needs, or a change that makes no difference. Results are kept in build/mutation/results.jsonl: a run that was
@@ -28,7 +29,7 @@ from functools import partial
 from pathlib import Path
 
 from mutation.mutants import find_mutants
-from mutation.reach import Reach
+from mutation.reach import Reach, Suites
 from mutation.workplace import Workplace
 
 ROOT = Path(__file__).resolve().parent.parent
@@ -50,6 +51,8 @@ def parse_arguments():
     parser.add_argument("--jobs", type=int, default=os.cpu_count())
     parser.add_argument("--budget", type=float, default=300, metavar="SECONDS",
                         help="of tests for one mutant, the quickest first (default: 300)")
+    parser.add_argument("--suites", nargs="+", metavar="SUITE",
+                        help="run these test programs on each mutant, and record no reach")
     parser.add_argument("--keep-reach", action="store_true",
                         help="take the recorded reach of the tests, though the sources have changed since")
     return parser.parse_args()
@@ -79,9 +82,9 @@ def choose(arguments):
         patterns = [mutant.split(":")[0] for mutant in arguments.only]
     files = [file for file in sources if any(fnmatch.fnmatch(file, pattern) for pattern in patterns)
              and (lines is None or file in lines)]
-    if not (ROOT / "build/coverage/compile_commands.json").exists():
-        subprocess.run(["cmake", "--preset", "coverage"], cwd=ROOT, check=True, stdout=subprocess.DEVNULL)
-    find = partial(find_mutants, ROOT, ROOT / "build/coverage", WORK / "mutants")
+    commands = WORK / "commands"  # which name every file; other builds combine them
+    subprocess.run(["cmake", "--preset", "dev", "-B", commands], cwd=ROOT, check=True, stdout=subprocess.DEVNULL)
+    find = partial(find_mutants, ROOT, commands, WORK / "mutants")
     with ProcessPoolExecutor(arguments.jobs) as pool:
         found = list(pool.map(find, files))
     mutants = [mutant for ofFile in found for mutant in ofFile
@@ -132,7 +135,7 @@ def run(mutants, reach, results, arguments):
     failures = []
 
     def work(number):
-        workplace = Workplace(ROOT, WORK / str(number))
+        workplace = Workplace(ROOT, WORK / str(number), arguments.suites)
         try:
             while not failures:
                 mutant = waiting.get_nowait()
@@ -195,7 +198,8 @@ def main():
 
     wanted = [mutant for mutant in mutants if is_open(mutant)]
     if wanted:
-        reach = Reach(ROOT, WORK, arguments.jobs, arguments.keep_reach)
+        reach = (Suites(arguments.suites) if arguments.suites
+                 else Reach(ROOT, WORK, arguments.jobs, arguments.keep_reach))
         run(wanted, reach, results, arguments)
     return 1 if report(mutants, results) else 0
 

@@ -1,13 +1,14 @@
 #!/usr/bin/env python3
-"""clang-tidy over the code of a build: scripts/tidy.py BUILD_FOLDER [--since COMMIT | --deep | FILE...].
+"""clang-tidy over src/ and app/: scripts/tidy.py [--since COMMIT | --deep | FILE...].
 
 With --since, only over the files that were changed since the commit, or whose header was, and of many only over those
-changed last. With --deep, over the tests
-too, and with the checks of the analyzer, which take a minute for a large file.
+changed last. The compiler also reads each of these by itself, which shows whether it includes what it uses: the builds
+of the other checks combine files. With --deep, over the tests too, and with the checks of the analyzer, which take a
+minute for a large file.
 
-Most of its time goes into the headers that the files share. So a few files of a folder are looked
-at as if they were one. Where that finds anything, also that they do not go together, each of them
-is looked at alone, and only that counts."""
+Most of the time goes into the headers that the files share. So a few files of a folder are looked at as if they were
+one. Where that finds anything, also that they do not go together, each of them is looked at alone, and only that
+counts."""
 
 import json
 import os
@@ -18,6 +19,7 @@ from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
+BUILD = ROOT / "build/tidy"
 TOGETHER = 6
 MOST_CHANGED = 24
 # Every table of rows and templates defines its own `kRows`, so these files cannot be combined. They
@@ -28,13 +30,15 @@ DEEP = ("tests/",)
 ANALYZER = "clang-analyzer-*"
 
 
-def read_commands(build):
-    """The arguments for each source file, without it, what is written, and headers precompiled for another compiler."""
+def read_commands():
+    """The compiler and its arguments for each source file, without the file and what is written."""
+    subprocess.run(["cmake", "--preset", "dev", "-B", BUILD, "-DCMAKE_CXX_COMPILER_LAUNCHER="], cwd=ROOT, check=True,
+                   stdout=subprocess.DEVNULL)
     commands = {}
-    for entry in json.loads((build / "compile_commands.json").read_text()):
+    for entry in json.loads((BUILD / "compile_commands.json").read_text()):
         arguments = shlex.split(entry["command"].replace("-isystem ", "-isystem"))
         file = Path(entry["file"])
-        for flag, words in (("-o", 2), ("-c", 1), (entry["file"], 1), ("-Winvalid-pch", 1), ("-include", 2)):
+        for flag, words in (("-o", 2), ("-c", 1), (entry["file"], 1)):
             if flag in arguments:
                 at = arguments.index(flag)
                 del arguments[at:at + words]
@@ -60,10 +64,15 @@ def tidy(file, arguments, checks, *options):
                           capture_output=True, text=True)
 
 
-def tidy_together(number, files, commands, build, checks):
+def read_alone(file, command):
+    """What the compiler finds in the file."""
+    return subprocess.run([*command, "-fsyntax-only", file], cwd=ROOT, capture_output=True, text=True).stderr
+
+
+def tidy_together(number, files, commands, checks):
     """The findings."""
     if len(files) > 1:
-        file = build / "tidy" / f"{number}.cpp"
+        file = BUILD / "together" / f"{number}.cpp"
         file.write_text("".join(f'#include "{ROOT / name}"\n' for name in files))
         arguments = dict.fromkeys(word for name in files for word in commands[name][1:])
         if tidy(str(file), arguments, f"{checks},-bugprone-suspicious-include",
@@ -83,23 +92,25 @@ def changed_since(commit, files):
     stems = {os.path.splitext(name)[0]: name for name in files}
     changed = dict.fromkeys(stem for stem in (os.path.splitext(name)[0] for name in log.stdout.split()) if stem in stems)
     if len(changed) > MOST_CHANGED:
-        print(f"{len(changed) - MOST_CHANGED} more files were changed: scripts/tidy.py BUILD_FOLDER looks at all")
+        print(f"{len(changed) - MOST_CHANGED} more files were changed: scripts/tidy.py looks at all")
     return sorted(stems[stem] for stem in list(changed)[:MOST_CHANGED])
 
 
 def main():
-    build = Path(sys.argv[1]).resolve()
-    (build / "tidy").mkdir(exist_ok=True)
-    commands = read_commands(build)
-    deep = sys.argv[2:] == ["--deep"]
+    commands = read_commands()
+    (BUILD / "together").mkdir(exist_ok=True)
+    deep = sys.argv[1:] == ["--deep"]
+    since = sys.argv[1:2] == ["--since"]
     files = sorted(name for name in commands if name.startswith(FOLDERS + DEEP if deep else FOLDERS))
-    if sys.argv[2:3] == ["--since"]:
-        files = changed_since(sys.argv[3], files)
-    elif sys.argv[2:] and not deep:
-        files = sys.argv[2:]
+    if since:
+        files = changed_since(sys.argv[2], files)
+    elif sys.argv[1:] and not deep:
+        files = sys.argv[1:]
     with ThreadPoolExecutor(os.cpu_count()) as pool:
-        found = "".join(pool.map(lambda job: tidy_together(*job, commands, build, ANALYZER if deep else ""),
+        found = "".join(pool.map(lambda job: tidy_together(*job, commands, ANALYZER if deep else ""),
                                  enumerate(batches(files))))
+        if since:
+            found += "".join(pool.map(lambda file: read_alone(file, commands[file]), files))
     print(found, end="")
     return bool(found)
 

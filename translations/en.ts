@@ -386,7 +386,31 @@ a minus in front takes a tag away:</numerusform>
     </message>
 </context>
 <context>
-    <name>WorkActions</name>
+    <name>TransferActions</name>
+    <message numerus="yes">
+        <source>%n projectors added</source>
+        <translation>
+            <numerusform>%n projector added</numerusform>
+            <numerusform>%n projectors added</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n already known</source>
+        <translation>
+            <numerusform>%n already known</numerusform>
+            <numerusform>%n already known</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rows not taken</source>
+        <translation>
+            <numerusform>%n row not taken</numerusform>
+            <numerusform>%n rows not taken</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>UsualActions</name>
     <message numerus="yes">
         <source>Blank the picture of %n projectors?</source>
         <translation>

@@ -1467,6 +1467,61 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
 </context>
 <context>
+    <name>ConnectionFields</name>
+    <message>
+        <source>&amp;Reached through</source>
+        <translation>连接方式(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Connect&amp;ion</source>
+        <translation>连接(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Address</source>
+        <translation>地址(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Port</source>
+        <translation>端口(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Pass&amp;word</source>
+        <translation>密码(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Port n&amp;umber</source>
+        <translation>串口号(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Device</source>
+        <translation>设备(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Baud</source>
+        <translation>波特率(&amp;B)</translation>
+    </message>
+    <message>
+        <source>As its family</source>
+        <translation>与系列相同</translation>
+    </message>
+    <message>
+        <source>Simulated</source>
+        <translation>模拟</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>网络</translation>
+    </message>
+    <message>
+        <source>Serial port</source>
+        <translation>串口</translation>
+    </message>
+    <message>
+        <source>%1 is no address.</source>
+        <translation>%1 不是有效地址。</translation>
+    </message>
+</context>
+<context>
     <name>ConnectionTest</name>
     <message>
         <source>&amp;Test Connection</source>
@@ -1792,10 +1847,6 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <translation>请选择，或输入名称或代码的一部分</translation>
     </message>
     <message>
-        <source> %1 ms</source>
-        <translation> %1 毫秒</translation>
-    </message>
-    <message>
         <source>Po&amp;wer</source>
         <translation>电源(&amp;W)</translation>
     </message>
@@ -1810,6 +1861,11 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     <message>
         <source>%1: %2</source>
         <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1: %2, %3 ms</source>
+        <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
+        <translation>%1：%2，%3 毫秒</translation>
     </message>
 </context>
 <context>
@@ -2140,6 +2196,33 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
 </context>
 <context>
+    <name>ModelFields</name>
+    <message>
+        <source>&amp;Family</source>
+        <translation>系列(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Model</source>
+        <translation>型号(&amp;M)</translation>
+    </message>
+    <message>
+        <source>All &amp;fields of the model</source>
+        <translation>显示机型的全部字段(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Dialog &amp;type</source>
+        <translation>对话框类型(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Model cod&amp;e</source>
+        <translation>型号代码(&amp;E)</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+</context>
+<context>
     <name>Notify</name>
     <message>
         <source>Advanced Control</source>
@@ -2351,40 +2434,12 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
 <context>
     <name>ProfileActions</name>
     <message>
-        <source>&amp;Open Profiles…</source>
-        <translation>打开配置文件(&amp;O)…</translation>
-    </message>
-    <message>
-        <source>&amp;Reload</source>
-        <translation>重新加载(&amp;R)</translation>
-    </message>
-    <message>
-        <source>&amp;Save Profiles As…</source>
-        <translation>配置文件另存为(&amp;S)…</translation>
-    </message>
-    <message>
         <source>&amp;Add…</source>
         <translation>添加(&amp;A)…</translation>
     </message>
     <message>
         <source>&amp;Edit…</source>
         <translation>编辑(&amp;E)…</translation>
-    </message>
-    <message>
-        <source>Open Profiles</source>
-        <translation>打开配置文件</translation>
-    </message>
-    <message>
-        <source>Profiles (*.json);;All files (*)</source>
-        <translation>配置文件 (*.json);;所有文件 (*)</translation>
-    </message>
-    <message>
-        <source>Reload</source>
-        <translation>重新加载</translation>
-    </message>
-    <message>
-        <source>Save Profiles As</source>
-        <translation>配置文件另存为</translation>
     </message>
     <message>
         <source>Duplicate</source>
@@ -2401,18 +2456,6 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     <message>
         <source>Remove</source>
         <translation>移除</translation>
-    </message>
-    <message>
-        <source>This could not be done; nothing was changed.</source>
-        <translation>操作未能完成，未作任何更改。</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>撤销(&amp;U)</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>重做(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Duplicate…</source>
@@ -2498,80 +2541,12 @@ a minus in front takes a tag away:</source>
         <translation>名称(&amp;N)</translation>
     </message>
     <message>
-        <source>&amp;Model</source>
-        <translation>型号(&amp;M)</translation>
-    </message>
-    <message>
-        <source>Dialog &amp;type</source>
-        <translation>对话框类型(&amp;T)</translation>
-    </message>
-    <message>
-        <source>Model cod&amp;e</source>
-        <translation>型号代码(&amp;E)</translation>
-    </message>
-    <message>
         <source>Add Projector</source>
         <translation>添加投影机</translation>
     </message>
     <message>
         <source>Edit Projector</source>
         <translation>编辑投影机</translation>
-    </message>
-    <message>
-        <source>None</source>
-        <translation>无</translation>
-    </message>
-    <message>
-        <source>&amp;Family</source>
-        <translation>系列(&amp;F)</translation>
-    </message>
-    <message>
-        <source>As its family</source>
-        <translation>与系列相同</translation>
-    </message>
-    <message>
-        <source>Network</source>
-        <translation>网络</translation>
-    </message>
-    <message>
-        <source>Serial port</source>
-        <translation>串口</translation>
-    </message>
-    <message>
-        <source>Connect&amp;ion</source>
-        <translation>连接(&amp;I)</translation>
-    </message>
-    <message>
-        <source>&amp;Address</source>
-        <translation>地址(&amp;A)</translation>
-    </message>
-    <message>
-        <source>&amp;Port</source>
-        <translation>端口(&amp;P)</translation>
-    </message>
-    <message>
-        <source>Port n&amp;umber</source>
-        <translation>串口号(&amp;U)</translation>
-    </message>
-    <message>
-        <source>&amp;Baud</source>
-        <translation>波特率(&amp;B)</translation>
-    </message>
-    <message>
-        <source>Simulated</source>
-        <translation>模拟</translation>
-    </message>
-    <message>
-        <source>&amp;Reached through</source>
-        <translation>连接方式(&amp;R)</translation>
-    </message>
-    <message>
-        <source>Pass&amp;word</source>
-        <translation>密码(&amp;W)</translation>
-    </message>
-    <message>
-        <source>&amp;Device</source>
-        <translation>设备(&amp;D)</translation>
     </message>
     <message>
         <source>Still to be filled in: %1</source>
@@ -2582,24 +2557,8 @@ a minus in front takes a tag away:</source>
         <translation>%1：%2</translation>
     </message>
     <message>
-        <source>All &amp;fields of the model</source>
-        <translation>显示机型的全部字段(&amp;F)</translation>
-    </message>
-    <message>
-        <source>Save Profiles As…</source>
-        <translation>另存配置文件…</translation>
-    </message>
-    <message>
-        <source>%1 cannot be changed.</source>
-        <translation>无法修改 %1。</translation>
-    </message>
-    <message>
         <source>Duplicate Projector</source>
         <translation>复制投影机</translation>
-    </message>
-    <message>
-        <source>%1 is no address.</source>
-        <translation>%1 不是有效地址。</translation>
     </message>
 </context>
 <context>
@@ -2734,6 +2693,64 @@ a minus in front takes a tag away:</source>
     </message>
 </context>
 <context>
+    <name>ProfileFileActions</name>
+    <message>
+        <source>&amp;Open Profiles…</source>
+        <translation>打开配置文件(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>重新加载(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Save Profiles As…</source>
+        <translation>配置文件另存为(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>Open Profiles</source>
+        <translation>打开配置文件</translation>
+    </message>
+    <message>
+        <source>Profiles (*.json);;All files (*)</source>
+        <translation>配置文件 (*.json);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>重新加载</translation>
+    </message>
+    <message>
+        <source>Save Profiles As</source>
+        <translation>配置文件另存为</translation>
+    </message>
+    <message>
+        <source>Read-Only File</source>
+        <translation>只读文件</translation>
+    </message>
+    <message>
+        <source>%1 cannot be changed. Save the profiles in another file first.</source>
+        <translation>无法更改 %1。请先将配置另存为其他文件。</translation>
+    </message>
+    <message>
+        <source>Save Profiles As…</source>
+        <translation>另存配置文件…</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileHistory</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>撤销(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>重做(&amp;R)</translation>
+    </message>
+    <message>
+        <source>This could not be done; nothing was changed.</source>
+        <translation>操作未能完成，未作任何更改。</translation>
+    </message>
+</context>
+<context>
     <name>Program</name>
     <message>
         <source>no profiles at %1; name a file with --profiles</source>
@@ -2779,14 +2796,10 @@ a minus in front takes a tag away:</source>
     </message>
 </context>
 <context>
-    <name>ProjectorTableModel</name>
+    <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
         <translation>名称</translation>
-    </message>
-    <message>
-        <source>Model</source>
-        <translation>型号</translation>
     </message>
     <message>
         <source>State</source>
@@ -2807,6 +2820,10 @@ a minus in front takes a tag away:</source>
     <message>
         <source>Problem</source>
         <translation>故障</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>型号</translation>
     </message>
     <message>
         <source>Place</source>
@@ -3632,10 +3649,6 @@ a minus in front takes a tag away:</source>
         <translation>表格 (*.csv *.tsv *.txt);;所有文件 (*)</translation>
     </message>
     <message>
-        <source>%1 added, %2 already known, %3 rows not taken.</source>
-        <translation>添加 %1 台，%2 台已存在，%3 行未导入。</translation>
-    </message>
-    <message>
         <source>Line %1: %2</source>
         <translation>第 %1 行：%2</translation>
     </message>
@@ -3651,16 +3664,27 @@ a minus in front takes a tag away:</source>
         <source>Tables (*.csv);;All files (*)</source>
         <translation>表格 (*.csv);;所有文件 (*)</translation>
     </message>
-</context>
-<context>
-    <name>WholeFile</name>
-    <message>
-        <source>cannot write %1: %2</source>
-        <translation>无法写入 %1：%2</translation>
+    <message numerus="yes">
+        <source>%n projectors added</source>
+        <translation>
+            <numerusform>已添加 %n 台投影机</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n already known</source>
+        <translation>
+            <numerusform>%n 台已存在</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rows not taken</source>
+        <translation>
+            <numerusform>%n 行未导入</numerusform>
+        </translation>
     </message>
 </context>
 <context>
-    <name>WorkActions</name>
+    <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
         <translation>开机(&amp;N)</translation>
@@ -3685,9 +3709,21 @@ a minus in front takes a tag away:</source>
         <source>Blank the Picture</source>
         <translation>图像消隐</translation>
     </message>
+    <message numerus="yes">
+        <source>Blank the picture of %n projectors?</source>
+        <translation>
+            <numerusform>要对 %n 台投影机消隐画面吗？</numerusform>
+        </translation>
+    </message>
     <message>
         <source>Show the Picture</source>
         <translation>显示图像</translation>
+    </message>
+    <message numerus="yes">
+        <source>Show the picture of %n projectors?</source>
+        <translation>
+            <numerusform>要对 %n 台投影机显示画面吗？</numerusform>
+        </translation>
     </message>
     <message>
         <source>&amp;Mute</source>
@@ -3697,9 +3733,21 @@ a minus in front takes a tag away:</source>
         <source>Mute the Sound</source>
         <translation>静音</translation>
     </message>
+    <message numerus="yes">
+        <source>Mute the sound of %n projectors?</source>
+        <translation>
+            <numerusform>要对 %n 台投影机静音吗？</numerusform>
+        </translation>
+    </message>
     <message>
         <source>Unmute the Sound</source>
         <translation>取消静音</translation>
+    </message>
+    <message numerus="yes">
+        <source>Unmute the sound of %n projectors?</source>
+        <translation>
+            <numerusform>要对 %n 台投影机取消静音吗？</numerusform>
+        </translation>
     </message>
     <message>
         <source>Free&amp;ze</source>
@@ -3709,9 +3757,21 @@ a minus in front takes a tag away:</source>
         <source>Freeze the Picture</source>
         <translation>冻结画面</translation>
     </message>
+    <message numerus="yes">
+        <source>Freeze the picture of %n projectors?</source>
+        <translation>
+            <numerusform>要对 %n 台投影机冻结画面吗？</numerusform>
+        </translation>
+    </message>
     <message>
         <source>Release the Picture</source>
         <translation>取消冻结</translation>
+    </message>
+    <message numerus="yes">
+        <source>Release the picture of %n projectors?</source>
+        <translation>
+            <numerusform>要对 %n 台投影机解除冻结吗？</numerusform>
+        </translation>
     </message>
     <message>
         <source>Switch On</source>
@@ -3720,54 +3780,6 @@ a minus in front takes a tag away:</source>
     <message>
         <source>Switch Off</source>
         <translation>关机</translation>
-    </message>
-    <message>
-        <source>Input %1</source>
-        <translation>信号源 %1</translation>
-    </message>
-    <message>
-        <source>No inputs are known</source>
-        <translation>没有已知的信号源</translation>
-    </message>
-    <message>
-        <source>%1, %2: %3</source>
-        <translation>%1，%2：%3</translation>
-    </message>
-    <message numerus="yes">
-        <source>Blank the picture of %n projectors?</source>
-        <translation>
-            <numerusform>将 %n 台投影机的画面设为空白？</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Show the picture of %n projectors?</source>
-        <translation>
-            <numerusform>显示 %n 台投影机的画面？</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Mute the sound of %n projectors?</source>
-        <translation>
-            <numerusform>将 %n 台投影机的声音静音？</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Unmute the sound of %n projectors?</source>
-        <translation>
-            <numerusform>恢复 %n 台投影机的声音？</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Freeze the picture of %n projectors?</source>
-        <translation>
-            <numerusform>冻结 %n 台投影机的画面？</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Release the picture of %n projectors?</source>
-        <translation>
-            <numerusform>解除 %n 台投影机的画面冻结？</numerusform>
-        </translation>
     </message>
     <message numerus="yes">
         <source>Switch on %n projectors?</source>
@@ -3781,11 +3793,33 @@ a minus in front takes a tag away:</source>
             <numerusform>要关闭 %n 台投影机吗？</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Input %1</source>
+        <translation>信号源 %1</translation>
+    </message>
     <message numerus="yes">
         <source>Choose the input %1 on %n projectors?</source>
         <translation>
             <numerusform>要将 %n 台投影机切换到信号源 %1 吗？</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>No inputs are known</source>
+        <translation>没有已知的信号源</translation>
+    </message>
+</context>
+<context>
+    <name>WholeFile</name>
+    <message>
+        <source>cannot write %1: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>WorkActions</name>
+    <message>
+        <source>%1, %2: %3</source>
+        <translation>%1，%2：%3</translation>
     </message>
 </context>
 <context>

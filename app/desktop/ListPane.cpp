@@ -1,6 +1,8 @@
 #include "app/desktop/ListPane.h"
 
 #include <algorithm>
+#include <string_view>
+#include <unordered_set>
 #include <utility>
 
 #include <QScrollArea>
@@ -81,6 +83,24 @@ void ListPane::Refresh(const std::vector<std::string>& ids) {
     const int position = view_->Model().Find(id);
     if (position >= 0) view_->Model().Change(position, [this](ProjectorRow& row) { Show(row); });
   }
+}
+
+void ListPane::MarkAlerts(const std::vector<Alert>& alerts) {
+  std::unordered_set<std::string_view> ids;
+  for (const Alert& alert : alerts) ids.insert(alert.id);
+  const std::vector<ProjectorRow>& rows = view_->Model().All();
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    const bool has = ids.contains(rows[i].id);
+    if (rows[i].hasAlert != has)
+      view_->Model().Change(static_cast<int>(i), [has](ProjectorRow& row) { row.hasAlert = has; });
+  }
+}
+
+QString ListPane::NameOf(const std::string& id) const {
+  const int position = view_->Model().Find(id);
+  if (position < 0) return {};
+  return QString::fromStdString(
+      view_->Model().All()[static_cast<std::size_t>(position)].profile.name);
 }
 
 std::vector<const ProjectorRow*> ListPane::Selected() const {

@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <QWidget>
 
+#include "app/desktop/alerts/AlertRules.h"
 #include "app/desktop/projectors/ProjectorView.h"
 
 class DetailsPanel;
@@ -28,6 +29,10 @@ class ListPane : public QWidget {
   void SetProfiles(const std::vector<FleetProfile>& profiles);
   /// Shows what the fleet knows of these now.
   void Refresh(const std::vector<std::string>& ids);
+  /// Marks the projectors that have alerts, and only these.
+  void MarkAlerts(const std::vector<Alert>& alerts);
+  /// The name of a projector; empty if it is not in the list.
+  QString NameOf(const std::string& id) const;
   /// The selected projectors; valid until the list changes.
   std::vector<const ProjectorRow*> Selected() const;
 

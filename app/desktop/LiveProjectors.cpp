@@ -3,8 +3,9 @@
 #include <algorithm>
 #include <utility>
 
-LiveProjectors::LiveProjectors(const FleetPolicy& policy, Observer observer)
-    : observer_(std::move(observer)),
+LiveProjectors::LiveProjectors(const FleetPolicy& policy, Observer observer, QObject* parent)
+    : QObject(parent),
+      observer_(std::move(observer)),
       watch_(policy),
       sessions_([this](const std::string& id, const FleetProfile& profile) {
         return MakeObserver(id, profile);

@@ -24,7 +24,7 @@ class LiveProjectors : public QObject {
   using Observer = std::function<void(const FleetProfile& profile, const PjtCommand& command,
                                       const PjtReply& reply, std::chrono::microseconds elapsed)>;
 
-  LiveProjectors(const FleetPolicy& policy, Observer observer);
+  LiveProjectors(const FleetPolicy& policy, Observer observer, QObject* parent);
 
   /// A projector whose name, model and connection have not changed keeps its session, which takes
   /// over its new profile. Returns the sessions of the others.

@@ -6,6 +6,7 @@
 
 #include <QMainWindow>
 
+#include "app/desktop/WindowMemory.h"
 #include "app/desktop/profiles/ProfileDocument.h"
 #include "app/desktop/projectors/ProjectorSession.h"
 #include "fleet/FleetPolicy.h"
@@ -19,10 +20,12 @@ class ListPane;
 class LiveProjectors;
 class PresetActions;
 class ProfileActions;
-class ProjectorView;
+class ProfileFileActions;
+class ProfileHistory;
 class QSettings;
 class SettingsActions;
 class TransferActions;
+class UsualActions;
 class WorkActions;
 
 /// The groups and the list of projectors, the details of the selected one, and docks for the log of
@@ -50,35 +53,29 @@ class MainWindow : public QMainWindow {
   /// Brings the simulated projectors into different states.
   void Demonstrate();
 
-  /// The profile file that the user opened last; empty if there is none.
-  static QString LastProfiles(const QSettings& settings);
-
  protected:
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  void MakeDocks();
-  void MakeMenus();
   void Connect();
+  void ConnectAlerts();
   void ShowProfiles();
   void SelectFirst();
   void OpenSelected();
   void TakeSelection();
-  void TakeAlerts();
   void ShowPreferences();
-  void Restore();
-  void Remember();
 
   ProfileDocument profiles_;
-  const QString firstProfiles_;  // opened at the start; not stored as the last file
-  QSettings* settings_;
+  const WindowMemory memory_;
   CommandLog* log_;
   FaultPanel* faults_;
   AlertList* alerts_;
-  std::unique_ptr<LiveProjectors> live_;
+  LiveProjectors* live_;
   ListPane* pane_;
-  ProjectorView* projectors_;
   WorkActions* work_;
+  UsualActions* usual_;
+  ProfileHistory* history_;
+  ProfileFileActions* files_;
   ProfileActions* profileActions_;
   TransferActions* transfers_;
   PresetActions* presets_;

@@ -1,7 +1,9 @@
-// The menus, tool bar and docks of the main window.
+#include "app/desktop/MainWindowMenus.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QDockWidget>
+#include <QMainWindow>
 #include <QMenuBar>
 #include <QScrollArea>
 #include <QToolBar>
@@ -9,124 +11,134 @@
 
 #include "app/desktop/HelpWindows.h"
 #include "app/desktop/ListPane.h"
-#include "app/desktop/LiveProjectors.h"
-#include "app/desktop/MainWindow.h"
 #include "app/desktop/Mnemonic.h"
 #include "app/desktop/PresetActions.h"
 #include "app/desktop/alerts/AlertList.h"
 #include "app/desktop/log/CommandLog.h"
 #include "app/desktop/profiles/ProfileActions.h"
+#include "app/desktop/profiles/ProfileFileActions.h"
+#include "app/desktop/profiles/ProfileHistory.h"
 #include "app/desktop/profiles/TransferActions.h"
 #include "app/desktop/settings/SettingsActions.h"
 #include "app/desktop/simulation/FaultPanel.h"
-#include "app/desktop/work/WorkActions.h"
+#include "app/desktop/work/UsualActions.h"
 
-// Both are closed at first, so that dialogs have room.
-void MainWindow::MakeDocks() {
-  const auto add = [this](const QString& title, const char* name, QWidget* widget,
-                          Qt::DockWidgetArea area) {
-    auto* dock = new QDockWidget(title, this);
+namespace {
+
+struct MenuText {
+  Q_DECLARE_TR_FUNCTIONS(MainWindow)
+};
+
+}  // namespace
+
+void MakeDocks(QMainWindow& window, AlertList& alerts, FaultPanel& faults, CommandLog& log) {
+  const auto add = [&window](const QString& title, const char* name, QWidget* widget,
+                             Qt::DockWidgetArea area) {
+    auto* dock = new QDockWidget(title, &window);
     dock->setObjectName(QLatin1String(name));
     dock->setWidget(widget);
-    addDockWidget(area, dock);
+    window.addDockWidget(area, dock);
     dock->hide();
   };
-  auto* faults = new QScrollArea;
-  faults->setWidget(faults_);
-  faults->setWidgetResizable(true);
-  faults->setFrameShape(QFrame::NoFrame);
-  add(tr("Alerts"), "alerts", alerts_, Qt::BottomDockWidgetArea);
-  add(tr("Simulation"), "simulation", faults, Qt::RightDockWidgetArea);
-  add(tr("Command Log"), "log", log_, Qt::BottomDockWidgetArea);
+  auto* scrolled = new QScrollArea;
+  scrolled->setWidget(&faults);
+  scrolled->setWidgetResizable(true);
+  scrolled->setFrameShape(QFrame::NoFrame);
+  add(MenuText::tr("Alerts"), "alerts", &alerts, Qt::BottomDockWidgetArea);
+  add(MenuText::tr("Simulation"), "simulation", scrolled, Qt::RightDockWidgetArea);
+  add(MenuText::tr("Command Log"), "log", &log, Qt::BottomDockWidgetArea);
 }
 
-void MainWindow::MakeMenus() {
-  const auto add = [this](QMenu* menu, const QString& text, const QKeySequence& keys, auto act) {
+void MakeMenus(QMainWindow& window, const MenuParts& parts) {
+  const auto add = [&window](QMenu* menu, const QString& text, const QKeySequence& keys,
+                             const std::function<void()>& act) {
     QAction* action = menu->addAction(text);
     action->setShortcut(keys);
-    connect(action, &QAction::triggered, this, act);
+    if (act) QObject::connect(action, &QAction::triggered, &window, act);
     return action;
   };
 
-  QMenu* file = menuBar()->addMenu(tr("&File"));
-  file->addActions({profileActions_->Open(), profileActions_->Reload(), profileActions_->SaveAs()});
+  QMenu* file = window.menuBar()->addMenu(MenuText::tr("&File"));
+  file->addActions({parts.files.Open(), parts.files.Reload(), parts.files.SaveAs()});
   file->addSeparator();
-  file->addActions({transfers_->Import(), transfers_->Export()});
+  file->addActions({parts.transfers.Import(), parts.transfers.Export()});
   file->addSeparator();
-  file->addAction(log_->SaveAs());
+  file->addAction(parts.log.SaveAs());
   file->addSeparator();
-  add(file, tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), [this] { close(); });
+  add(file, MenuText::tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q),
+      [&window] { window.close(); });
 
-  QMenu* edit = menuBar()->addMenu(tr("&Edit"));
-  edit->addActions({profileActions_->Undo(), profileActions_->Redo()});
+  QMenu* edit = window.menuBar()->addMenu(MenuText::tr("&Edit"));
+  edit->addActions({parts.history.Undo(), parts.history.Redo()});
   edit->addSeparator();
-  const QList<QAction*> profile{profileActions_->Add(), profileActions_->Edit(),
-                                profileActions_->Duplicate(), profileActions_->Tag(),
-                                profileActions_->Remove()};
+  const QList<QAction*> profile{parts.profiles.Add(), parts.profiles.Edit(),
+                                parts.profiles.Duplicate(), parts.profiles.Tag(),
+                                parts.profiles.Remove()};
   edit->addActions(profile);
   edit->addSeparator();
-  edit->addAction(transfers_->Find());
+  edit->addAction(parts.transfers.Find());
   edit->addSeparator();
-  QAction* preferences = add(edit, tr("&Preferences…"), QKeySequence(Qt::CTRL | Qt::Key_Comma),
-                             &MainWindow::ShowPreferences);
+  QAction* preferences = add(edit, MenuText::tr("&Preferences…"),
+                             QKeySequence(Qt::CTRL | Qt::Key_Comma), parts.preferences);
   preferences->setMenuRole(QAction::PreferencesRole);
-  preferences->setEnabled(settings_ != nullptr);
+  preferences->setEnabled(parts.preferences != nullptr);
 
-  QMenu* projector = menuBar()->addMenu(tr("&Projector"));
-  QAction* open = add(projector, tr("&Open Settings"), QKeySequence(Qt::CTRL | Qt::Key_Return),
-                      &MainWindow::OpenSelected);
-  open->setIconText(tr("Open"));
-  QAction* refresh = add(projector, tr("Re&fresh"), QKeySequence(Qt::CTRL | Qt::Key_R), [this] {
-    for (const ProjectorRow* row : pane_->Selected()) live_->Watch().Projectors().AskSoon(row->id);
-  });
+  QMenu* projector = window.menuBar()->addMenu(MenuText::tr("&Projector"));
+  QAction* open = add(projector, MenuText::tr("&Open Settings"),
+                      QKeySequence(Qt::CTRL | Qt::Key_Return), parts.open);
+  open->setIconText(MenuText::tr("Open"));
+  QAction* refresh =
+      add(projector, MenuText::tr("Re&fresh"), QKeySequence(Qt::CTRL | Qt::Key_R), parts.refresh);
   projector->addSeparator();
-  const QList<QAction*> usual{work_->Power(), work_->Input(),  work_->Blank(),
-                              work_->Mute(),  work_->Freeze(), presets_->Presets()};
+  const QList<QAction*> usual{parts.usual.Power(), parts.usual.Input(),  parts.usual.Blank(),
+                              parts.usual.Mute(),  parts.usual.Freeze(), parts.presets.Presets()};
   projector->addActions(usual);
   projector->addSeparator();
-  const QList<QAction*> settings{settingsActions_->Save(), settingsActions_->Compare(),
-                                 settingsActions_->Apply()};
+  const QList<QAction*> settings{parts.settings.Save(), parts.settings.Compare(),
+                                 parts.settings.Apply()};
   projector->addActions(settings);
-  const auto gap = [this] {
-    auto* separator = new QAction(this);
+  const auto gap = [&window] {
+    auto* separator = new QAction(&window);
     separator->setSeparator(true);
     return QList<QAction*>{separator};
   };
-  projectors_->AddContextActions(QList<QAction*>{open, refresh} + gap() + usual + gap() + settings +
-                                 gap() + profile);
-  for (QAction* action : QList<QAction*>{refresh, work_->PowerOn(), work_->PowerOff()} + usual)
+  parts.pane.View().AddContextActions(QList<QAction*>{open, refresh} + gap() + usual + gap() +
+                                      settings + gap() + profile);
+  for (QAction* action :
+       QList<QAction*>{refresh, parts.usual.PowerOn(), parts.usual.PowerOff()} + usual)
     action->setIconText(WithoutMnemonic(action->text()));
-  pane_->AddDetails(QList<QAction*>{open} + usual);
+  parts.pane.AddDetails(QList<QAction*>{open} + usual);
 
-  QMenu* view = menuBar()->addMenu(tr("&View"));
-  add(view, tr("&Find"), QKeySequence::Find, [this] { projectors_->FocusSearch(); });
+  QMenu* view = window.menuBar()->addMenu(MenuText::tr("&View"));
+  add(view, MenuText::tr("&Find"), QKeySequence::Find,
+      [&view = parts.pane.View()] { view.FocusSearch(); });
   view->addSeparator();
   const auto addToggle = [&](const char* dock, const QString& text, const QKeySequence& keys) {
-    QAction* toggle = findChild<QDockWidget*>(QLatin1String(dock))->toggleViewAction();
+    QAction* toggle = window.findChild<QDockWidget*>(QLatin1String(dock))->toggleViewAction();
     toggle->setText(text);
     toggle->setShortcut(keys);
     view->addAction(toggle);
   };
-  addToggle("simulation", tr("&Simulation"), Qt::CTRL | Qt::Key_1);
-  addToggle("log", tr("&Command Log"), Qt::CTRL | Qt::Key_2);
-  addToggle("alerts", tr("&Alerts"), Qt::CTRL | Qt::Key_3);
+  addToggle("simulation", MenuText::tr("&Simulation"), Qt::CTRL | Qt::Key_1);
+  addToggle("log", MenuText::tr("&Command Log"), Qt::CTRL | Qt::Key_2);
+  addToggle("alerts", MenuText::tr("&Alerts"), Qt::CTRL | Qt::Key_3);
   view->addSeparator();
-  view->addActions({log_->ChangesOnly(), log_->ErrorsOnly(), log_->ClearAll()});
-  log_->ChangesOnly()->setShortcut(Qt::CTRL | Qt::Key_H);
-  log_->ClearAll()->setShortcut(Qt::CTRL | Qt::Key_L);
+  view->addActions({parts.log.ChangesOnly(), parts.log.ErrorsOnly(), parts.log.ClearAll()});
+  parts.log.ChangesOnly()->setShortcut(Qt::CTRL | Qt::Key_H);
+  parts.log.ClearAll()->setShortcut(Qt::CTRL | Qt::Key_L);
 
-  QMenu* help = menuBar()->addMenu(tr("&Help"));
-  add(help, tr("&Keyboard Shortcuts"), QKeySequence::HelpContents,
-      [this] { ShowShortcuts(*this); });
-  add(help, tr("&About"), {}, [this] { ShowAbout(*this); });
+  QMenu* help = window.menuBar()->addMenu(MenuText::tr("&Help"));
+  add(help, MenuText::tr("&Keyboard Shortcuts"), QKeySequence::HelpContents,
+      [&window] { ShowShortcuts(window); });
+  add(help, MenuText::tr("&About"), {}, [&window] { ShowAbout(window); });
 
-  QToolBar* tools = addToolBar(tr("Tools"));
+  QToolBar* tools = window.addToolBar(MenuText::tr("Tools"));
   tools->setObjectName(QStringLiteral("tools"));
   tools->setToolButtonStyle(Qt::ToolButtonTextOnly);
-  tools->addActions({open, work_->PowerOn(), work_->PowerOff(), work_->Input(), work_->Blank(),
-                     presets_->Presets()});
+  tools->addActions({open, parts.usual.PowerOn(), parts.usual.PowerOff(), parts.usual.Input(),
+                     parts.usual.Blank(), parts.presets.Presets()});
   tools->addSeparator();
-  tools->addActions({refresh, transfers_->Find()});
+  tools->addActions({refresh, parts.transfers.Find()});
   for (auto* button : tools->findChildren<QToolButton*>()) {
     if (button->defaultAction() != nullptr && button->defaultAction()->menu() != nullptr)
       button->setPopupMode(QToolButton::InstantPopup);

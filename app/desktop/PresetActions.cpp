@@ -9,8 +9,8 @@
 
 #include "app/desktop/Modal.h"
 #include "app/desktop/presets/PresetFolder.h"
-#include "app/desktop/profiles/ProfileActions.h"
 #include "app/desktop/profiles/ProfileDocument.h"
+#include "app/desktop/profiles/ProfileHistory.h"
 #include "app/desktop/projectors/FleetWatch.h"
 #include "app/desktop/work/WorkActions.h"
 #include "toolkit/Icons.h"

@@ -8,8 +8,8 @@
 #include "app/desktop/projectors/ProjectorRow.h"
 
 class FleetWatch;
-class ProfileActions;
 class ProfileDocument;
+class ProfileHistory;
 class QAction;
 class QMenu;
 class WorkActions;
@@ -28,7 +28,7 @@ class PresetActions : public QObject {
     FleetWatch& watch;
     WorkActions& work;
     ProfileDocument& document;
-    ProfileActions& edits;
+    ProfileHistory& edits;
     QWidget& window;
   };
 

@@ -15,6 +15,7 @@
 #include "app/desktop/CommandLine.h"
 #include "app/desktop/MainWindow.h"
 #include "app/desktop/Preferences.h"
+#include "app/desktop/WindowMemory.h"
 #include "app/desktop/dialogs/Pictures.h"
 #include "app/desktop/profiles/ProfileDocument.h"
 #include "app/profiles/OutOfMemory.h"
@@ -57,7 +58,7 @@ QStringList ProfileFilePlaces() {
 QString ReadProfiles(const CommandLine& line, ProfileDocument& document, bool& areShipped) {
   if (!line.profiles.isEmpty()) return document.Load(line.profiles);
   if (line.action == CommandLine::Action::Window && line.open.isEmpty()) {
-    const QString last = MainWindow::LastProfiles(QSettings(kName, kName));
+    const QString last = WindowMemory::LastProfiles(QSettings(kName, kName));
     if (!last.isEmpty() && document.Load(last).isEmpty()) return {};
   }
   const QStringList places = ProfileFilePlaces();

@@ -219,7 +219,7 @@ FleetOptions Reader::Fleet(const ServiceOptions& service) const {
     if (!port || host.protocol() != QHostAddress::IPv4Protocol || !host.isLoopback()) {
       ThrowWrong(notices_, Texts::tr("'%1' is no IPv4 loopback address with a port."));
     }
-    fleet.server.notices = FleetSockets::End{host.toIPv4Address(), *port};
+    fleet.server.notices = FleetSockets::Endpoint{host.toIPv4Address(), *port};
   }
   fleet.changes = static_cast<int>(Number(changes_, 0, kMostChanges));
   fleet.countsFile = Value(counts_);

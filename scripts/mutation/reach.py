@@ -145,3 +145,16 @@ class Reach:
             return users
         suites = next(suites for folder, suites in TABLE_SUITES if mutant.file.startswith(folder))
         return [test for test in self.tests if test.split(":")[0] in suites]
+
+
+class Suites:
+    """Test programs that are run on every mutant, whatever they reach."""
+
+    def __init__(self, suites):
+        self.tests = [f"{suite}:*" for suite in suites]
+
+    def seconds(self, test):
+        return 60.0 + self.tests.index(test)  # allows for a slow one; in the order of the command line
+
+    def of(self, _):
+        return self.tests

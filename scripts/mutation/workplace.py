@@ -12,8 +12,9 @@ from mutation.reach import test_environment
 
 
 class Workplace:
-    def __init__(self, root, folder):
+    def __init__(self, root, folder, suites=None):
         self.root = root
+        self.suites = suites or []  # all if there is none
         self.tree = folder / "tree"
         self.build = self.tree / "build/dev"
         self.originals = folder / "objects"
@@ -46,7 +47,7 @@ class Workplace:
         options += shlex.split(os.environ.get("MUTATE_CMAKE", ""))
         subprocess.run(["cmake", "--preset", "dev", *options], cwd=self.tree, check=True,
                        stdout=subprocess.DEVNULL)
-        built = subprocess.run(["ninja", "-C", self.build], capture_output=True, text=True,
+        built = subprocess.run(["ninja", "-C", self.build, *self.suites], capture_output=True, text=True,
                                env=self.environment(False))
         if built.returncode != 0:
             raise SystemExit(f"{self.tree} does not build:\n{built.stdout[-3000:]}")

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <sys/resource.h>
 
+#include "fleet/FleetStates.h"
 #include "fleet/FleetWatcher.h"
 
 namespace AdvancedControl {
@@ -24,7 +25,8 @@ FleetPolicy WithinLimits(FleetPolicy policy) {
 
 Fleet::Fleet(const FleetPolicy& policy, std::function<void()> onChanges)
     : onChanges_(std::move(onChanges)),
-      watcher_(std::make_unique<FleetWatcher>(WithinLimits(policy), network_, clock_)),
+      states_(std::make_unique<FleetStates>(clock_, policy.history)),
+      watcher_(std::make_unique<FleetWatcher>(WithinLimits(policy), network_, clock_, *states_)),
       thread_([this] { Run(); }) {}
 
 Fleet::~Fleet() {
@@ -35,17 +37,15 @@ Fleet::~Fleet() {
 void Fleet::Run() {
   while (true) {
     SessionTime next{};
-    bool tells = false;
     {
       // Callers on other threads go first; one of them may be a user interface.
       while (callers_ > 0) std::this_thread::yield();
       const std::lock_guard lock(mutex_);
       if (ends_) return;
-      network_.Pass(*watcher_);
+      network_.Pass(watcher_->Events());
       next = watcher_->Tick();
-      tells = watcher_->HasChanges() && !std::exchange(toldChanges_, true);
     }
-    if (tells) onChanges_();
+    if (states_->MustTell()) onChanges_();
     network_.Wait(next);
   }
 }
@@ -72,13 +72,6 @@ void Fleet::Remove(const std::string& id) {
 void Fleet::SetAsking(bool asks) {
   Change([&] { watcher_->SetAsking(asks); });
 }
-void Fleet::Learn(const std::string& id, const PjtCommand& command, const PjtReply& reply,
-                  std::optional<PowerState> power) {
-  Change([&] { watcher_->Learn(id, command, reply, power); });
-}
-void Fleet::LearnDrift(const std::string& id, std::optional<int> drift) {
-  Change([&] { watcher_->LearnDrift(id, drift); });
-}
 void Fleet::AskSoon(const std::string& id) {
   Change([&] { watcher_->AskSoon(id); });
 }
@@ -87,23 +80,29 @@ std::uint16_t Fleet::ListenForNotices(const std::string& address, std::uint16_t 
   return Locked([&] { return network_.ListenForNotices(address, port); });
 }
 
-std::optional<LiveState> Fleet::State(const std::string& id) const {
-  return Locked([&] { return watcher_->State(id); });
-}
-std::vector<std::pair<std::string, LiveState>> Fleet::States() const {
-  return Locked([&] { return watcher_->States(); });
-}
-std::vector<StateChange> Fleet::History(const std::string& id) const {
-  return Locked([&] { return watcher_->History(id); });
-}
-FleetChanges Fleet::TakeChanges() {
-  return Locked([&] {
-    toldChanges_ = false;
-    return watcher_->TakeChanges();
-  });
-}
 FleetTally Fleet::Tally() const {
   return Locked([&] { return watcher_->Tally(); });
+}
+
+void Fleet::Learn(const std::string& id, const PjtCommand& command, const PjtReply& reply,
+                  std::optional<PowerState> power) {
+  states_->Learn(id, command, reply, power);
+  network_.Wake();
+}
+void Fleet::LearnDrift(const std::string& id, std::optional<int> drift) {
+  states_->Change(id, [&](LiveState& state) { state.drift = drift; });
+  network_.Wake();
+}
+
+std::optional<LiveState> Fleet::State(const std::string& id) const { return states_->State(id); }
+std::vector<std::pair<std::string, LiveState>> Fleet::States() const { return states_->States(); }
+std::vector<StateChange> Fleet::History(const std::string& id) const {
+  return states_->History(id);
+}
+FleetChanges Fleet::TakeChanges() {
+  FleetChanges taken = states_->TakeChanges();
+  network_.Wake();  // to tell of the rest
+  return taken;
 }
 
 Fleet::Pause::Pause(Fleet& fleet, std::string id) : fleet_(fleet), id_(std::move(id)) {

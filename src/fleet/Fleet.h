@@ -21,6 +21,7 @@
 
 namespace AdvancedControl {
 
+class FleetStates;
 class FleetWatcher;
 
 /// Watches any number of projectors from one thread of its own, as docs/fleet.md describes. All
@@ -43,19 +44,7 @@ class PROJECTOR_FLEET_EXPORT Fleet {
   /// Ends all visits and begins none until asking is switched on again, as it is at first.
   void SetAsking(bool asks);
 
-  /// While an object of this class exists, the fleet does not visit the projector, so that another
-  /// connection can be used. It must not outlive the fleet.
-  class PROJECTOR_FLEET_EXPORT Pause {
-   public:
-    [[nodiscard]] Pause(Fleet& fleet, std::string id);
-    ~Pause();
-    Pause(const Pause&) = delete;
-    Pause& operator=(const Pause&) = delete;
-
-   private:
-    Fleet& fleet_;
-    const std::string id_;
-  };
+  class Pause;
 
   /// Updates the state with the reply to a command that was sent over another connection. `power`
   /// is the exact state that the connection reports.
@@ -65,9 +54,8 @@ class PROJECTOR_FLEET_EXPORT Fleet {
   void LearnDrift(const std::string& id, std::optional<int> drift);
   /// Visits the projector as early as the policy allows.
   void AskSoon(const std::string& id);
-  /// Does so for each PJLink projector with a numeric address that sends a status notice.
-  /// `address` is one of this machine's, numeric; port 0 is any free one. The port, or 0 when it
-  /// cannot be had.
+  /// Takes the status notices of PJLink projectors with a numeric address. `address` is one of this
+  /// machine's, numeric; port 0 is any free one. The port, or 0 when it cannot be had.
   std::uint16_t ListenForNotices(const std::string& address, std::uint16_t port = 4352);
 
   /// Nothing for a projector that is not in the fleet.
@@ -75,7 +63,8 @@ class PROJECTOR_FLEET_EXPORT Fleet {
   std::vector<std::pair<std::string, LiveState>> States() const;
   /// The last changes of a projector, the oldest first.
   std::vector<StateChange> History(const std::string& id) const;
-  /// The changes since the last call.
+  /// The oldest changes that were not taken yet, up to a thousand, so that an event loop is not
+  /// busy for long. If there are more, `onChanges` is called again.
   FleetChanges TakeChanges();
   FleetTally Tally() const;
 
@@ -87,12 +76,26 @@ class PROJECTOR_FLEET_EXPORT Fleet {
   const std::function<void()> onChanges_;
   const SystemFleetClock clock_;
   SocketNetwork network_;
-  std::unique_ptr<FleetWatcher> watcher_;  ///< Under the mutex.
+  const std::unique_ptr<FleetStates> states_;
+  const std::unique_ptr<FleetWatcher> watcher_;  ///< Under the mutex.
   mutable std::mutex mutex_;
   mutable std::atomic<int> callers_ = 0;  ///< Waiting for the mutex, beside the fleet's thread.
-  bool toldChanges_ = false;              ///< Under the mutex.
   bool ends_ = false;                     ///< Under the mutex.
   std::thread thread_;
+};
+
+/// While an object of this class exists, the fleet visits nothing at the projector's address, so
+/// that another connection can be used. It must not outlive the fleet.
+class PROJECTOR_FLEET_EXPORT Fleet::Pause {
+ public:
+  [[nodiscard]] Pause(Fleet& fleet, std::string id);
+  ~Pause();
+  Pause(const Pause&) = delete;
+  Pause& operator=(const Pause&) = delete;
+
+ private:
+  Fleet& fleet_;
+  const std::string id_;
 };
 
 }  // namespace AdvancedControl

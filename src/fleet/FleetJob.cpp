@@ -6,6 +6,7 @@
 
 #include "fleet/Fleet.h"
 #include "fleet/JobChannel.h"
+#include "fleet/MakeVisit.h"
 #include "fleet/ProjectorWork.h"
 
 namespace AdvancedControl {
@@ -20,8 +21,13 @@ FleetJob::FleetJob(Fleet* fleet, std::vector<FleetTarget> targets, FleetWork wor
       results_(targets_.size()) {
   const std::size_t atOnce =
       std::min(std::clamp<std::size_t>(options_.atOnce, 1, kMostAtOnce), targets_.size());
+  for (std::size_t i = 0; i < targets_.size(); ++i) {
+    queue_.Add(static_cast<VisitQueue::Peer>(i), PlaceOf(targets_[i]));
+  }
   thread_ = std::thread([this, atOnce] {
-    loop_.Run(static_cast<JobLoop::Peer>(atOnce), [this](JobLoop::Peer peer) { Run(peer); });
+    loop_.Run(static_cast<JobLoop::Peer>(atOnce), [this](JobLoop::Peer peer) {
+      while (const auto index = Next()) WorkOn(*index, peer);
+    });
   });
 }
 
@@ -58,17 +64,10 @@ SnapshotsById FleetJob::Undo() const {
   return undo;
 }
 
-/// One of those that work at the same time.
-void FleetJob::Run(JobLoop::Peer peer) {
-  while (true) {
-    std::size_t index = 0;
-    {
-      const std::lock_guard lock(mutex_);
-      if (next_ == targets_.size()) return;
-      index = next_++;
-    }
-    WorkOn(index, peer);
-  }
+/// If there is none, those who work at an address go on with the others there.
+std::optional<std::size_t> FleetJob::Next() {
+  const std::lock_guard lock(mutex_);
+  return queue_.Next();
 }
 
 void FleetJob::WorkOn(std::size_t index, JobLoop::Peer peer) {
@@ -96,6 +95,7 @@ void FleetJob::WorkOn(std::size_t index, JobLoop::Peer peer) {
   {
     const std::lock_guard lock(mutex_);
     results_[index] = std::move(result);
+    queue_.Leave(static_cast<VisitQueue::Peer>(index));
     ++finished_;
   }
   finishes_.notify_all();

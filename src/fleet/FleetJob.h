@@ -7,6 +7,7 @@
 #include <functional>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <thread>
 #include <vector>
@@ -16,15 +17,16 @@
 #include "fleet/FleetTarget.h"
 #include "fleet/FleetWork.h"
 #include "fleet/JobLoop.h"
+#include "fleet/VisitQueue.h"
 #include "snapshots/SettingTexts.h"
 
 namespace AdvancedControl {
 
 class Fleet;
 
-/// The same work on many projectors, several at a time, on one thread of its own. While it works on
-/// one, the fleet keeps away and learns from it. Its functions may be called from any thread, and
-/// all but `Wait` return at once.
+/// The same work on many projectors, several at a time but one at each address, on one thread of
+/// its own. While it works on one, the fleet keeps away and learns from it. Its functions may be
+/// called from any thread, and all but `Wait` return at once.
 class PROJECTOR_FLEET_EXPORT FleetJob {
  public:
   /// Bounds `Options::atOnce`.
@@ -68,7 +70,8 @@ class PROJECTOR_FLEET_EXPORT FleetJob {
   SnapshotsById Undo() const;
 
  private:
-  void Run(JobLoop::Peer peer);
+  /// One whose address is free.
+  std::optional<std::size_t> Next();
   void WorkOn(std::size_t index, JobLoop::Peer peer);
 
   Fleet* const fleet_;
@@ -81,7 +84,7 @@ class PROJECTOR_FLEET_EXPORT FleetJob {
   mutable std::mutex mutex_;
   std::condition_variable finishes_;
   std::vector<WorkResult> results_;  ///< Under the mutex, as is what follows.
-  std::size_t next_ = 0;
+  VisitQueue queue_;                 ///< Of indexes.
   std::size_t finished_ = 0;
   JobLoop loop_;
   std::thread thread_;

@@ -16,6 +16,13 @@ class FleetNetwork {
  public:
   using Peer = std::uint32_t;
 
+  /// A status notice of PJLink, which says how its sender is now.
+  struct Notice {
+    std::string address;  ///< Of the sender, as `TextOf` writes it.
+    std::string command;  ///< Four letters, in any case.
+    std::string value;
+  };
+
   /// Receives events, never from inside a call to the network.
   class Listener {
    public:
@@ -27,8 +34,7 @@ class FleetNetwork {
     virtual void Received(Peer peer, std::string_view bytes) = 0;
     /// The other end closed the connection, or it broke.
     virtual void Closed(Peer peer) = 0;
-    /// A status notice came from this numeric address.
-    virtual void Noticed(const std::string& address) = 0;
+    virtual void Noticed(const Notice& notice) = 0;
   };
 
   virtual ~FleetNetwork() = default;

@@ -45,7 +45,7 @@ class JobLoop final : private FleetNetwork::Listener {
   void InUse(Peer peer) override { NotConnected(peer, ConnectionState::NotReachable); }
   void Received(Peer peer, std::string_view bytes) override;
   void Closed(Peer peer) override;
-  void Noticed(const std::string&) override {}
+  void Noticed(const FleetNetwork::Notice&) override {}
   /// Tells a work's channel what happened.
   void Tell(Peer peer, const auto& what);
   /// Continues each work that has waited long enough. The time at which the next one has.

@@ -3,6 +3,7 @@
 #include <variant>
 
 #include "fleet/PjLinkVisit.h"
+#include "fleet/SocketAddress.h"
 #include "fleet/WireVisit.h"
 
 namespace AdvancedControl {
@@ -40,6 +41,12 @@ std::pair<std::string, std::uint16_t> HostOf(const FleetTarget& target) {
     return {serial->device, 0};
   }
   return {};
+}
+
+std::pair<std::string, std::uint16_t> PlaceOf(const FleetTarget& target) {
+  auto [host, port] = HostOf(target);
+  if (const auto numeric = ParseSocketAddress(host, port)) host = TextOf(*numeric);
+  return {std::move(host), port};
 }
 
 }  // namespace AdvancedControl

@@ -14,47 +14,21 @@ namespace {
 
 constexpr int kThreads = 2;
 
-using AddressList = std::unique_ptr<addrinfo, decltype(&freeaddrinfo)>;
-
-AddressList Ask(const std::string& name, int flags) {
+std::vector<SocketAddress> AddressesOf(const std::string& name) {
   addrinfo hints{};
   hints.ai_socktype = SOCK_STREAM;
-  hints.ai_flags = flags;
-  addrinfo* found = nullptr;
-  if (getaddrinfo(name.c_str(), nullptr, &hints, &found) != 0) found = nullptr;
-  return {found, freeaddrinfo};
-}
-
-std::optional<SocketAddress> AddressOf(const addrinfo& found) {
-  SocketAddress address{};
-  if (found.ai_family == AF_INET) {
-    address.v4 = *reinterpret_cast<const sockaddr_in*>(found.ai_addr);
-  } else if (found.ai_family == AF_INET6) {
-    address.v6 = *reinterpret_cast<const sockaddr_in6*>(found.ai_addr);
-  } else {
-    return std::nullopt;
-  }
-  return address;
-}
-
-std::vector<SocketAddress> AddressesOf(const std::string& name) {
-  const AddressList list = Ask(name, AI_ADDRCONFIG);
+  hints.ai_flags = AI_ADDRCONFIG;
+  addrinfo* first = nullptr;
+  if (getaddrinfo(name.c_str(), nullptr, &hints, &first) != 0) return {};
+  const std::unique_ptr<addrinfo, decltype(&freeaddrinfo)> list(first, freeaddrinfo);
   std::vector<SocketAddress> addresses;
-  for (const addrinfo* found = list.get(); found != nullptr; found = found->ai_next) {
-    if (const auto address = AddressOf(*found)) addresses.push_back(*address);
+  for (const addrinfo* found = first; found != nullptr; found = found->ai_next) {
+    if (const auto address = SocketAddress::Of(*found->ai_addr)) addresses.push_back(*address);
   }
   return addresses;
 }
 
 }  // namespace
-
-std::optional<SocketAddress> ParseSocketAddress(const std::string& text, std::uint16_t port) {
-  const AddressList list = Ask(text, AI_NUMERICHOST);
-  auto address = list ? AddressOf(*list) : std::nullopt;
-  if (address && address->any.sa_family == AF_INET) address->v4.sin_port = htons(port);
-  if (address && address->any.sa_family == AF_INET6) address->v6.sin6_port = htons(port);
-  return address;
-}
 
 struct NameResolver::Shared {
   std::mutex mutex;

@@ -2,24 +2,13 @@
 
 #include <cstdint>
 #include <memory>
-#include <netinet/in.h>
-#include <optional>
 #include <string>
 #include <vector>
 
 #include "Namespace.h"
+#include "fleet/SocketAddress.h"
 
 namespace AdvancedControl {
-
-/// An address with a port, as sockets take it.
-union SocketAddress {
-  sockaddr any;
-  sockaddr_in v4;
-  sockaddr_in6 v6;
-};
-
-/// The address that a text such as "192.0.2.1" or "fe80::1%eth0" is; nothing for a name.
-std::optional<SocketAddress> ParseSocketAddress(const std::string& text, std::uint16_t port);
 
 /// Looks up host names on two threads of its own, which start with the first name. The system
 /// function for it cannot be interrupted: a lookup that is running at the end continues by itself,

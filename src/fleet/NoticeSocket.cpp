@@ -1,28 +1,15 @@
 #include "fleet/NoticeSocket.h"
 
-#include <arpa/inet.h>
 #include <array>
 #include <cerrno>
+#include <string_view>
 #include <unistd.h>
 #include <utility>
 
 #include "device/protocol/PjLinkLine.h"
-#include "fleet/NameResolver.h"
+#include "fleet/SocketAddress.h"
 
 namespace AdvancedControl {
-
-namespace {
-
-std::string TextOf(const SocketAddress& address) {
-  std::array<char, INET6_ADDRSTRLEN> text{};
-  const bool isV4 = address.any.sa_family == AF_INET;
-  const void* const bytes = isV4 ? static_cast<const void*>(&address.v4.sin_addr)
-                                 : static_cast<const void*>(&address.v6.sin6_addr);
-  inet_ntop(address.any.sa_family, bytes, text.data(), text.size());
-  return text.data();
-}
-
-}  // namespace
 
 NoticeSocket::~NoticeSocket() { Close(); }
 
@@ -32,7 +19,7 @@ std::uint16_t NoticeSocket::Open(const std::string& address, std::uint16_t port)
   if (!place) return 0;
   const int family = place->any.sa_family;
   socket_ = socket(family, SOCK_DGRAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
-  socklen_t size = family == AF_INET ? sizeof place->v4 : sizeof place->v6;
+  socklen_t size = place->Size();
   if (socket_ < 0 || bind(socket_, &place->any, size) != 0 ||
       getsockname(socket_, &place->any, &size) != 0) {
     Close();
@@ -41,16 +28,18 @@ std::uint16_t NoticeSocket::Open(const std::string& address, std::uint16_t port)
   return ntohs(family == AF_INET ? place->v4.sin_port : place->v6.sin6_port);
 }
 
-std::optional<std::string> NoticeSocket::Next() const {
+std::optional<FleetNetwork::Notice> NoticeSocket::Next() const {
   std::array<char, 256> text{};
   SocketAddress sender{};
   while (true) {
     socklen_t size = sizeof sender;
     const auto length = recvfrom(socket_, text.data(), text.size(), 0, &sender.any, &size);
     if (length < 0 && errno != EINTR) return std::nullopt;
-    if (length > 0 && PjLink::IsNotice({text.data(), static_cast<std::size_t>(length)})) {
-      return TextOf(sender);
-    }
+    if (length <= 0) continue;
+    const std::string_view datagram(text.data(), static_cast<std::size_t>(length));
+    if (!PjLink::IsNotice(datagram)) continue;
+    const auto line = PjLink::Parse(datagram.substr(0, datagram.find_first_of("\r\n")));
+    if (line) return FleetNetwork::Notice{TextOf(sender), line->command, line->parameter};
   }
 }
 

@@ -5,11 +5,12 @@
 #include <string>
 
 #include "Namespace.h"
+#include "fleet/FleetNetwork.h"
 
 namespace AdvancedControl {
 
 /// Receives the status notices of PJLink, which projectors send over UDP to an address in their
-/// settings. Anyone can send them, so a notice is only a reason to ask the projector.
+/// settings.
 class NoticeSocket {
  public:
   NoticeSocket() = default;
@@ -22,8 +23,8 @@ class NoticeSocket {
   std::uint16_t Open(const std::string& address, std::uint16_t port);
   /// Becomes readable with each notice; −1 when it is not open.
   int File() const { return socket_; }
-  /// The address of the sender of the next notice; nothing when there is none left.
-  std::optional<std::string> Next() const;
+  /// Nothing when there is none left.
+  std::optional<FleetNetwork::Notice> Next() const;
 
  private:
   void Close();

@@ -1,42 +1,14 @@
 #include "fleet/PjLinkVisit.h"
 
 #include <algorithm>
-#include <span>
 
-#include "device/protocol/PjLinkLine.h"
+#include "fleet/PjLinkStatus.h"
 
 namespace AdvancedControl {
 
 namespace {
 
 constexpr std::size_t kMostNames = 64;
-
-/// A question, and the items that its answer tells.
-struct StatusQuestion {
-  const PjLinkMapping* mapping = nullptr;
-  std::vector<StatusItem> items{};
-};
-
-/// The power state's is the first.
-std::span<const StatusQuestion> StatusQuestions() {
-  static const auto kQuestions = [] {
-    std::vector<StatusQuestion> questions;
-    for (const StatusItem item : kAllStatusItems) {
-      const PjLinkMapping* const mapping = PjLinkMapping::Find(ReadingOf(item).Command());
-      if (mapping == nullptr) continue;
-      const auto same = std::ranges::find(questions, mapping->command, [](const auto& question) {
-        return question.mapping->command;
-      });
-      if (same == questions.end()) {
-        questions.push_back({mapping, {item}});
-      } else {
-        same->items.push_back(item);
-      }
-    }
-    return questions;
-  }();
-  return kQuestions;
-}
 
 }  // namespace
 
@@ -79,7 +51,7 @@ bool PjLinkVisit::Ask(SessionTime now) {
       return true;
     }
   }
-  const auto questions = StatusQuestions();
+  const auto questions = PjLinkStatus::Questions();
   const bool isAsleep = question_ > 0 && state_.power == PowerState::Standby;
   const auto lacks = [this](StatusItem item) { return Lacks(item); };
   while (question_ < questions.size() && std::ranges::all_of(questions[question_].items, lacks)) {
@@ -106,37 +78,12 @@ void PjLinkVisit::TakeTold(SessionTime now) {
 }
 
 void PjLinkVisit::TakeStatusText(const PjLinkResult& told) {
-  const StatusQuestion& question = StatusQuestions()[question_];
+  const PjLinkStatus::Question& question = PjLinkStatus::Questions()[question_];
+  const bool isAnswer = told.kind == PjLinkResult::Kind::Text;
+  if (isAnswer) PjLinkStatus::Take(state_, question, told.text, model_.get(), memory_.inputs);
   for (const StatusItem item : question.items) {
-    const auto value = PjLinkMapping::Find(ReadingOf(item).Command())->value(told.text);
-    if (told.kind == PjLinkResult::Kind::Text && value) {
-      Take(item, *value);
-    } else {
-      ForgetStatus(state_, item);
-    }
+    if (!isAnswer) ForgetStatus(state_, item);
     SetLacks(item, told.kind == PjLinkResult::Kind::None);
-  }
-  if (told.kind != PjLinkResult::Kind::Text) return;
-  // What PJLink tells beyond a device value.
-  switch (question.items.front()) {
-    case StatusItem::Power:
-      if (const auto power = PjLink::Power(told.text)) TakePower(state_, *power);
-      break;
-    case StatusItem::Error:
-      state_.problems = PjLink::ErrorGrades(told.text);
-      break;
-    case StatusItem::LampTime:
-      if (auto lamps = PjLink::Lamps(told.text); !lamps.empty()) state_.lamps = std::move(lamps);
-      break;
-    case StatusItem::Source: {
-      if (!LacksName()) break;
-      const auto known =
-          std::ranges::find(memory_.inputs, state_.source->number, &PjLinkInput::number);
-      if (known != memory_.inputs.end()) state_.source->name = known->name;
-      break;
-    }
-    default:
-      break;
   }
 }
 
@@ -149,7 +96,7 @@ void PjLinkVisit::TakeName(const std::string& name) {
 }
 
 void PjLinkVisit::GiveUp() {
-  const auto questions = StatusQuestions();
+  const auto questions = PjLinkStatus::Questions();
   for (std::size_t i = question_; i < questions.size(); ++i) {
     for (const StatusItem item : questions[i].items) ForgetStatus(state_, item);
   }

@@ -1,16 +1,16 @@
 #pragma once
 
 #include <array>
-#include <chrono>
+#include <deque>
 #include <sys/epoll.h>
-#include <unordered_map>
 #include <vector>
 
 #include "Namespace.h"
-#include "device/protocol/SessionStep.h"
+#include "fleet/FileEvents.h"
 #include "fleet/FleetNetwork.h"
-#include "fleet/NameResolver.h"
+#include "fleet/HostNames.h"
 #include "fleet/NoticeSocket.h"
+#include "fleet/SocketConnection.h"
 
 namespace AdvancedControl {
 
@@ -18,11 +18,6 @@ namespace AdvancedControl {
 /// turn. `Wait` and `Wake` may run at any time; the other functions must be called one at a time.
 class SocketNetwork final : public FleetNetwork {
  public:
-  SocketNetwork();
-  ~SocketNetwork() override;
-  SocketNetwork(const SocketNetwork&) = delete;
-  SocketNetwork& operator=(const SocketNetwork&) = delete;
-
   void Connect(Peer peer, const std::string& host, std::uint16_t port) override;
   void OpenLine(Peer peer, const std::string& device, std::int32_t baud) override;
   void Send(Peer peer, std::string_view bytes) override;
@@ -32,58 +27,40 @@ class SocketNetwork final : public FleetNetwork {
   std::uint16_t ListenForNotices(const std::string& address, std::uint16_t port);
 
   /// Waits until something happens, or until then, or for `Wake`. Touches no connection.
-  void Wait(SessionTime until);
+  void Wait(SessionTime until) { events_.Wait(until); }
   /// Ends the wait under way or the next one.
-  void Wake() const;
+  void Wake() const { events_.Wake(); }
   /// Passes on what happened during the last wait.
   void Pass(Listener& listener);
 
  private:
-  enum class Stage : std::uint8_t { None, LookingUp, Connecting, Open, Failed };
-
-  struct Link {
-    int file = -1;
-    bool isLine = false;           ///< A serial port, and not a socket.
-    std::uint32_t generation = 0;  ///< Grows with each connection, so that late events are known.
-    Stage stage = Stage::None;
-    std::uint16_t port = 0;
-    std::string name{};  ///< Of the host, where it is one.
-  };
-  /// The addresses of a name. If one cannot be connected to, the next one is tried next time.
-  struct Known {
-    std::vector<SocketAddress> addresses;
-    std::size_t next = 0;
-    SessionTime time{};
-  };
+  using Stage = SocketConnection::Stage;
   struct Failure {
     enum class Kind : std::uint8_t { NotConnected, InUse, Closed };
 
     Peer peer;
-    std::uint32_t generation;
+    std::uint32_t attempt;
     Kind kind;
     ConnectionState problem;
   };
 
-  Link& LinkOf(Peer peer);
+  SocketConnection& At(Peer peer);
   void ConnectByName(Peer peer);
   void Open(Peer peer, const SocketAddress& address);
-  void WatchFile(Peer peer);
+  void Watch(Peer peer);
   void Fail(Peer peer, Failure::Kind kind, ConnectionState problem = ConnectionState::NotReachable);
   void PassNotices(Listener& listener);
   void PassEvent(const epoll_event& event, Listener& listener);
   void PassBytes(Peer peer, Listener& listener);
+  void PassFailures(Listener& listener);
   void TakeNames();
-  bool IsCurrent(Peer peer, std::uint32_t generation) const;
+  bool IsCurrent(Peer peer, std::uint32_t attempt) const;
 
-  const int epoll_;
-  const int wakes_;
-  NameResolver resolver_;
+  FileEvents events_;
+  HostNames names_{events_.WakeFile()};
   NoticeSocket notices_;
-  std::vector<Link> links_;  ///< By peer.
-  std::unordered_map<std::string, Known> names_;
-  std::vector<Failure> failures_;  ///< To be told with the next `Pass`.
-  std::array<epoll_event, 64> events_{};
-  int count_ = 0;
+  std::deque<SocketConnection> connections_;  ///< By peer.
+  std::vector<Failure> failures_;             ///< To be told with the next `Pass`.
   std::array<char, 4096> buffer_{};
 };
 

@@ -1,6 +1,8 @@
 #include "simulator/SimulatedLayout.h"
 
+#include <algorithm>
 #include <charconv>
+#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -8,7 +10,7 @@ namespace AdvancedControl {
 
 namespace {
 
-/// What a command code without a known meaning is: a value that is just kept.
+/// The setting of a command code without a known meaning, which stores any value.
 constexpr Setting kPlain{.id = SettingId::Count, .name = "", .range = {0, 0xFFFF}};
 
 std::optional<int> Number(std::string_view text) {
@@ -52,7 +54,7 @@ SimulatedModel DescribeModel(const ModelData& data) {
 }
 
 SimulatedProjector::Layout::Layout(SimulatedModel model) {
-  slotOfSetting.fill(-1);
+  slotOfSetting_.fill(-1);
   for (const Setting& setting : SettingsTable()) {
     if (Knows(setting.sets, model.pageSet) && !model.missing.contains(setting.id)) {
       Add(setting, model);
@@ -64,7 +66,7 @@ SimulatedProjector::Layout::Layout(SimulatedModel model) {
       return setting.code == code && Knows(setting.sets, model.pageSet);
     });
     if (hasMeaning) continue;
-    slotOfCode.emplace(code, slots.size());
+    slotOfCode_.emplace(code, slots.size());
     slots.push_back(
         {.setting = &kPlain, .index = slots.size(), .range = kPlain.range, .values = {}});
   }
@@ -72,7 +74,7 @@ SimulatedProjector::Layout::Layout(SimulatedModel model) {
 
 void SimulatedProjector::Layout::Add(const Setting& setting, SimulatedModel& model) {
   const std::size_t index = slots.size();
-  Slot slot{.setting = &setting, .index = index, .range = setting.range, .values = {}};
+  SimulatedSlot slot{.setting = &setting, .index = index, .range = setting.range, .values = {}};
   slot.values.assign(setting.values.begin(), setting.values.end());
   if (const auto own = model.ranges.find(setting.id); own != model.ranges.end()) {
     slot.range = own->second;
@@ -90,12 +92,22 @@ void SimulatedProjector::Layout::Add(const Setting& setting, SimulatedModel& mod
   slots.push_back(std::move(slot));
 
   present.push_back(setting.id);
-  slotOfSetting[static_cast<std::size_t>(setting.id)] = static_cast<int>(index);
-  if (setting.code != 0) slotOfCode.emplace(setting.code, index);
+  slotOfSetting_[static_cast<std::size_t>(setting.id)] = static_cast<int>(index);
+  if (setting.code != 0) slotOfCode_.emplace(setting.code, index);
   for (const Binding& binding : setting.operations) {
     if (binding.verb == Verb::None) continue;
     routes[static_cast<std::size_t>(binding.operation)].push_back({index, binding});
   }
+}
+
+const SimulatedSlot* SimulatedProjector::Layout::Find(SettingId id) const {
+  const int index = slotOfSetting_[static_cast<std::size_t>(id)];
+  return index < 0 ? nullptr : &slots[static_cast<std::size_t>(index)];
+}
+
+const SimulatedSlot* SimulatedProjector::Layout::FindCode(std::uint16_t code) const {
+  const auto found = slotOfCode_.find(code);
+  return found == slotOfCode_.end() ? nullptr : &slots[found->second];
 }
 
 std::shared_ptr<const SimulatedProjector::Layout> SimulatedProjector::MakeLayout(

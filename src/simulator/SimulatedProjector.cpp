@@ -10,10 +10,6 @@ namespace AdvancedControl {
 namespace {
 
 constexpr int kShownBias = CommandCode::kZeroPoint;
-// Of the running state.
-constexpr int kStandby = 0;
-constexpr int kOn = 1;
-constexpr int kCoolingDown = 2;
 
 /// The value that a command sets; its place depends on the operation's family.
 int WrittenValue(const PjtCommand& command) {
@@ -28,44 +24,21 @@ SimulatedProjector::SimulatedProjector(SimulatedModel model)
     : SimulatedProjector(MakeLayout(std::move(model))) {}
 
 SimulatedProjector::SimulatedProjector(std::shared_ptr<const Layout> layout)
-    : layout_(std::move(layout)) {
-  for (const Slot& slot : layout_->slots) values_.push_back(slot.standard);
-}
+    : layout_(std::move(layout)), values_(layout_->slots) {}
 
 SimulatedProjector::~SimulatedProjector() = default;
 
 std::span<const SettingId> SimulatedProjector::Settings() const { return layout_->present; }
 
-const SimulatedProjector::Slot* SimulatedProjector::SlotOf(SettingId id) const {
-  const int index = layout_->slotOfSetting[static_cast<std::size_t>(id)];
-  return index < 0 ? nullptr : &layout_->slots[static_cast<std::size_t>(index)];
-}
-
-int SimulatedProjector::At(const Slot& slot, int source) const {
-  if (slot.setting->perSource) {
-    const auto found = bySource_.find({slot.index, source});
-    if (found != bySource_.end()) return found->second;
-  }
-  return values_[slot.index];
-}
-
-void SimulatedProjector::Put(const Slot& slot, int value, int source) {
-  if (slot.setting->perSource) {
-    bySource_[{slot.index, source}] = value;
-  } else {
-    values_[slot.index] = value;
-  }
-}
-
 int SimulatedProjector::SourceOrCurrent(int source) const {
   if (source != kCurrentSource) return source;
-  const Slot* const input = SlotOf(SettingId::InputSource);
-  return input ? values_[input->index] : 0;
+  const SimulatedSlot* const input = layout_->Find(SettingId::InputSource);
+  return input ? values_.Single(*input) : 0;
 }
 
 PjtReply SimulatedProjector::Execute(const PjtCommand& command) {
   const std::lock_guard lock(mutex_);
-  FinishSwitching();
+  UpdatePower();
   const std::optional<int> value =
       FormOf(command.operation).isGeneric ? ExecuteGeneric(command) : ExecuteNamed(command);
   if (!value) return {.result = RefusedResult(command.operation)};
@@ -73,19 +46,18 @@ PjtReply SimulatedProjector::Execute(const PjtCommand& command) {
 }
 
 std::optional<int> SimulatedProjector::ExecuteGeneric(const PjtCommand& command) {
-  const auto found = layout_->slotOfCode.find(command.code);
-  if (found == layout_->slotOfCode.end()) return std::nullopt;
-  const Slot* target = &layout_->slots[found->second];
+  const SimulatedSlot* target = layout_->FindCode(command.code);
+  if (!target) return std::nullopt;
   const int written = static_cast<std::uint16_t>(command.first);
   if (command.operation == PjtOperation::Set && !target->Allows(written)) {
-    const auto other = std::ranges::find(layout_->slots, command.code, [](const Slot& candidate) {
-      return candidate.setting->alsoSetBy;
-    });
+    const auto other = std::ranges::find(
+        layout_->slots, command.code,
+        [](const SimulatedSlot& candidate) { return candidate.setting->alsoSetBy; });
     if (other != layout_->slots.end() && !other->values.empty()) target = &*other;
   }
-  const Slot& slot = *target;
+  const SimulatedSlot& slot = *target;
   const int source = SourceOrCurrent(kCurrentSource);
-  const int current = At(slot, source);
+  const int current = values_.At(slot, source);
 
   std::optional<int> wanted;
   switch (command.operation) {
@@ -102,22 +74,22 @@ std::optional<int> SimulatedProjector::ExecuteGeneric(const PjtCommand& command)
       break;
   }
   if (slot.setting->reported || !wanted || !slot.Allows(*wanted)) return std::nullopt;
-  Put(slot, *wanted, source);
+  values_.Put(slot, *wanted, source);
   return wanted;
 }
 
 std::optional<int> SimulatedProjector::ExecuteNamed(const PjtCommand& command) {
+  const auto done = [](bool isDone) { return isDone ? std::optional(0) : std::nullopt; };
   if (command.operation == PjtOperation::SetMyMemory) {
-    return UseMemory(command.first) ? std::optional(0) : std::nullopt;
+    return done(values_.UseMemory(command.first, layout_->slots));
   }
-  const bool isSwitch = command.operation == PjtOperation::SetPowerOn ||
-                        command.operation == PjtOperation::SetPowerOff;
-  if (isSwitch && TakesTime()) {
-    return SwitchPower(command.operation == PjtOperation::SetPowerOn) ? std::optional(0)
-                                                                      : std::nullopt;
+  const bool on = command.operation == PjtOperation::SetPowerOn;
+  if (power_.TakesTime() && (on || command.operation == PjtOperation::SetPowerOff)) {
+    const SimulatedSlot* const power = layout_->Find(SettingId::Power);
+    return done(power && power_.Switch(on, values_.Single(*power)));
   }
   std::optional<int> result;
-  for (const Route& route : layout_->routes[static_cast<std::size_t>(command.operation)]) {
+  for (const SimulatedRoute& route : layout_->routes[static_cast<std::size_t>(command.operation)]) {
     const int selector = route.binding.selector;
     if (selector != Binding::kAny && selector != command.first) continue;
     if (const auto value = ExecuteRoute(route, command)) result = value;
@@ -125,13 +97,14 @@ std::optional<int> SimulatedProjector::ExecuteNamed(const PjtCommand& command) {
   return result;
 }
 
-std::optional<int> SimulatedProjector::ExecuteRoute(const Route& route, const PjtCommand& command) {
-  const Slot& slot = layout_->slots[route.slot];
+std::optional<int> SimulatedProjector::ExecuteRoute(const SimulatedRoute& route,
+                                                    const PjtCommand& command) {
+  const SimulatedSlot& slot = layout_->slots[route.slot];
   const Binding& binding = route.binding;
   const int source = command.first;
   if (slot.setting->perSource && !IsSource(source)) return std::nullopt;
 
-  const int current = At(slot, source);
+  const int current = values_.At(slot, source);
   std::optional<int> wanted;
   switch (binding.verb) {
     case Verb::None:
@@ -155,124 +128,77 @@ std::optional<int> SimulatedProjector::ExecuteRoute(const Route& route, const Pj
       break;
   }
   if (!wanted || !slot.Allows(*wanted)) return std::nullopt;
-  Put(slot, *wanted, source);
+  values_.Put(slot, *wanted, source);
   return binding.form == ValueForm::Shown ? *wanted - kShownBias : *wanted;
-}
-
-bool SimulatedProjector::UseMemory(int position) {
-  const int count = static_cast<int>(memories_.size());
-  if (position < 0 || position >= 2 * count) return false;
-  const bool load = position < count;
-  std::vector<int>& memory = memories_[static_cast<std::size_t>(position % count)];
-  if (load && memory.empty()) {
-    for (const Slot& slot : layout_->slots) {
-      if (slot.setting->inMemory) values_[slot.index] = slot.standard;
-    }
-    return true;
-  }
-  if (!load) memory.clear();
-  auto kept = memory.begin();
-  for (const Slot& slot : layout_->slots) {
-    if (!slot.setting->inMemory) continue;
-    if (load) {
-      values_[slot.index] = *kept++;
-    } else {
-      memory.push_back(values_[slot.index]);
-    }
-  }
-  return true;
 }
 
 void SimulatedProjector::SetPowerTimes(std::chrono::milliseconds warmUp,
                                        std::chrono::milliseconds coolDown) {
   const std::lock_guard lock(mutex_);
-  warmUp_ = warmUp;
-  coolDown_ = coolDown;
+  power_.SetTimes(warmUp, coolDown);
 }
 
-bool SimulatedProjector::SwitchPower(bool on) {
-  const Slot* const power = SlotOf(SettingId::Power);
-  if (!power) return false;
-  const int wanted = on ? kOn : kStandby;
-  int& state = values_[power->index];
-  if (state == wanted) return true;
-  if (switchedAt_) return false;
-  state = on ? kOn : kCoolingDown;
-  switchedAt_ = Clock::now() + (on ? warmUp_ : coolDown_);
-  return true;
-}
-
-void SimulatedProjector::FinishSwitching() const {
-  if (!switchedAt_ || Clock::now() < *switchedAt_) return;
-  switchedAt_.reset();
-  int& state = values_[SlotOf(SettingId::Power)->index];
-  if (state == kCoolingDown) state = kStandby;
+void SimulatedProjector::UpdatePower() const {
+  if (const auto* const power = layout_->Find(SettingId::Power)) {
+    power_.Update(values_.Single(*power));
+  }
 }
 
 std::optional<PowerState> SimulatedProjector::Power() const {
   const std::lock_guard lock(mutex_);
-  const Slot* const power = SlotOf(SettingId::Power);
-  if (!power || !TakesTime()) return std::nullopt;
-  FinishSwitching();
-  switch (values_[power->index]) {
-    case kStandby:
-      return PowerState::Standby;
-    case kCoolingDown:
-      return PowerState::CoolingDown;
-    default:
-      return switchedAt_ ? PowerState::WarmingUp : PowerState::On;
-  }
+  const SimulatedSlot* const power = layout_->Find(SettingId::Power);
+  if (!power || !power_.TakesTime()) return std::nullopt;
+  UpdatePower();
+  return power_.Power(values_.Single(*power));
 }
 
-bool SimulatedProjector::Has(SettingId id) const { return SlotOf(id) != nullptr; }
+bool SimulatedProjector::Has(SettingId id) const { return layout_->Find(id) != nullptr; }
 
 const Setting* SimulatedProjector::Describe(SettingId id) const {
-  const Slot* const slot = SlotOf(id);
+  const SimulatedSlot* const slot = layout_->Find(id);
   return slot ? slot->setting : nullptr;
 }
 
 SettingRange SimulatedProjector::RangeOf(SettingId id) const {
-  const Slot* const slot = SlotOf(id);
+  const SimulatedSlot* const slot = layout_->Find(id);
   return slot ? slot->range : SettingRange{};
 }
 
 std::span<const int> SimulatedProjector::ValuesOf(SettingId id) const {
-  const Slot* const slot = SlotOf(id);
+  const SimulatedSlot* const slot = layout_->Find(id);
   return slot ? std::span<const int>(slot->values) : std::span<const int>();
 }
 
 int SimulatedProjector::Value(SettingId id, int source) const {
   const std::lock_guard lock(mutex_);
-  const Slot* const slot = SlotOf(id);
+  const SimulatedSlot* const slot = layout_->Find(id);
   if (!slot) return 0;
-  FinishSwitching();
-  return At(*slot, SourceOrCurrent(source));
+  UpdatePower();
+  return values_.At(*slot, SourceOrCurrent(source));
 }
 
 void SimulatedProjector::SetValue(SettingId id, int value, int source) {
   const std::lock_guard lock(mutex_);
-  const Slot* const slot = SlotOf(id);
+  const SimulatedSlot* const slot = layout_->Find(id);
   if (!slot) return;
-  if (id == SettingId::Power) switchedAt_.reset();
-  Put(*slot, value, SourceOrCurrent(source));
+  if (id == SettingId::Power) power_.Cancel();
+  values_.Put(*slot, value, SourceOrCurrent(source));
 }
 
 std::optional<int> SimulatedProjector::CodeValue(std::uint16_t code) const {
   const std::lock_guard lock(mutex_);
-  if (const auto found = layout_->slotOfCode.find(code); found != layout_->slotOfCode.end()) {
-    FinishSwitching();
-    return At(layout_->slots[found->second], SourceOrCurrent(kCurrentSource));
-  }
-  return std::nullopt;
+  const SimulatedSlot* const slot = layout_->FindCode(code);
+  if (!slot) return std::nullopt;
+  UpdatePower();
+  return values_.At(*slot, SourceOrCurrent(kCurrentSource));
 }
 
 void SimulatedProjector::SetCodeValue(std::uint16_t code, int value) {
   const std::lock_guard lock(mutex_);
-  if (const auto found = layout_->slotOfCode.find(code); found != layout_->slotOfCode.end()) {
-    const Slot& slot = layout_->slots[found->second];
-    if (slot.setting->id == SettingId::Power) switchedAt_.reset();
-    Put(slot, value, SourceOrCurrent(kCurrentSource));
-  }
+  const SimulatedSlot* const slot = layout_->FindCode(code);
+  if (!slot) return;
+  if (slot->setting->id == SettingId::Power) power_.Cancel();
+  values_.Put(*slot, value, SourceOrCurrent(kCurrentSource));
 }
 
 }  // namespace AdvancedControl

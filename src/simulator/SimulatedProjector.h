@@ -1,8 +1,6 @@
 #pragma once
 
-#include <array>
 #include <chrono>
-#include <cstddef>
 #include <cstdint>
 #include <map>
 #include <memory>
@@ -10,16 +8,19 @@
 #include <optional>
 #include <set>
 #include <span>
-#include <utility>
 #include <vector>
 
 #include "Namespace.h"
 #include "ProjectorCommonExport.h"
 #include "device/ModelData.h"
 #include "device/ProjectorChannel.h"
+#include "simulator/PowerSwitch.h"
 #include "simulator/SettingsTable.h"
+#include "simulator/SimulatedValues.h"
 
 namespace AdvancedControl {
+
+struct SimulatedRoute;
 
 /// How a model's projector differs from the settings table.
 struct SimulatedModel {
@@ -42,8 +43,8 @@ class PROJECTOR_COMMON_EXPORT SimulatedProjector : public ProjectorChannel {
   static constexpr int kCurrentSource = -1;
   static constexpr int kStandbySource = 15;
 
-  /// What all projectors of a model have in common. A program that simulates many makes it once,
-  /// and each then takes about a kilobyte. Does not change; any thread.
+  /// What all projectors of a model have in common. A program that simulates many projectors makes
+  /// it once for each model; a projector then takes about a kilobyte. Does not change; any thread.
   class Layout;
   static std::shared_ptr<const Layout> MakeLayout(SimulatedModel model);
 
@@ -84,33 +85,19 @@ class PROJECTOR_COMMON_EXPORT SimulatedProjector : public ProjectorChannel {
   void SetCodeValue(std::uint16_t code, int value);
 
  private:
-  using Clock = std::chrono::steady_clock;
-  struct Slot;
-  struct Route;
-
-  const Slot* SlotOf(SettingId id) const;
-  int At(const Slot& slot, int source) const;
-  void Put(const Slot& slot, int value, int source);
   int SourceOrCurrent(int source) const;
   std::optional<int> ExecuteGeneric(const PjtCommand& command);
   std::optional<int> ExecuteNamed(const PjtCommand& command);
-  std::optional<int> ExecuteRoute(const Route& route, const PjtCommand& command);
-  bool UseMemory(int position);
-  bool TakesTime() const { return warmUp_.count() > 0 || coolDown_.count() > 0; }
-  bool SwitchPower(bool on);
-  void FinishSwitching() const;
+  std::optional<int> ExecuteRoute(const SimulatedRoute& route, const PjtCommand& command);
+  /// Brings the running state up to date.
+  void UpdatePower() const;
 
   const std::shared_ptr<const Layout> layout_;
 
   mutable std::mutex mutex_;
-  // Under the mutex.
-  mutable std::vector<int>
-      values_;  // one for each slot; of a setting kept per source, the standard
-  std::map<std::pair<std::size_t, int>, int> bySource_;  // those that differ from it
-  std::array<std::vector<int>, 4> memories_;             // empty while they hold the standards
-  std::chrono::milliseconds warmUp_{0};
-  std::chrono::milliseconds coolDown_{0};
-  mutable std::optional<Clock::time_point> switchedAt_;  // when the power is as it was asked to be
+  // Protected by the mutex.
+  mutable SimulatedValues values_;
+  mutable PowerSwitch power_;
 };
 
 }  // namespace AdvancedControl

@@ -60,9 +60,9 @@ TEST(Acctl, PrintsAlignedTextInBothLanguages) {
   EXPECT_EQ(Acctl({"get", kRoom, "picture.brightness", "picture.active-iris"}).output,
             kSimulated + "picture.brightness   Brightness   0\n" + kSimulated +
                 "picture.active-iris  Active Iris  Off\n");
-  EXPECT_EQ(
-      Acctl({"get", kRoom, "picture.t*", "picture.gamma"}, "zh_CN.UTF-8").output,
-      kSimulated + "picture.tint   色调  0\n" + kSimulated + "picture.gamma  伽马  #1-默认\n");
+  EXPECT_EQ(Acctl({"get", kRoom, "picture.t*", "picture.gamma"}, "zh_CN.UTF-8").output,
+            "Projector 5-30（模拟）  picture.tint   色调  0\n"
+            "Projector 5-30（模拟）  picture.gamma  伽马  #1-默认\n");
   EXPECT_EQ(Acctl({"set", kRoom, "picture.active-iris", "影院", "picture.tint", "=-3"}).output,
             kSimulated + "picture.active-iris  Active Iris  Off  ->  Theater\n" + kSimulated +
                 "picture.tint         Tint         0    ->  -3\n");

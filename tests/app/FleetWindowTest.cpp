@@ -177,7 +177,7 @@ TEST(FleetWindow, TakesATableAndNamesItsTenWrongLines) {
   window.findChild<TransferActions*>()->ImportFile(folder.filePath("t.csv"));
   auto* said = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
   ASSERT_NE(said, nullptr);
-  EXPECT_EQ(said->text(), "10 added, 0 already known, 10 rows not taken.");
+  EXPECT_EQ(said->text(), "10 projectors added · 0 already known · 10 rows not taken");
   EXPECT_EQ(said->informativeText().count("Line "), 10);
   EXPECT_TRUE(said->informativeText().startsWith("Line 3: "));
   said->close();

@@ -39,6 +39,7 @@ bool IsTranslated(QString text) {
 /// language.
 bool HasOwnText(const QWidget& widget) {
   return widget.objectName() == "value" || widget.inherits("QLineEdit") ||
+         widget.inherits("QTimeEdit") ||
          widget.objectName() == "qt_toolbar_ext_button";
 }
 

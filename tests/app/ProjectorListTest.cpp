@@ -1,9 +1,11 @@
 // The list of projectors, its search, and the profile editor.
 
 #include <algorithm>
+#include <memory>
 #include <tuple>
 
 #include <QDialogButtonBox>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
@@ -11,6 +13,7 @@
 #include <gtest/gtest.h>
 
 #include "app/desktop/MainWindow.h"
+#include "app/desktop/profiles/ProfileEditor.h"
 #include "host/CAdvanceDlg.h"
 #include "tests/app/Windows.h"
 #include "tests/support/Soon.h"
@@ -170,6 +173,56 @@ TEST(ProjectorList, ProjectorsAreAddedEditedDuplicatedAndRemoved) {
   EXPECT_EQ(Shipped(folder).Text(), text);
   while (undo->canRedo()) undo->redo();
   EXPECT_EQ(inFile().size(), before.size() + 1);
+}
+
+TEST(ProjectorList, AFileThatCannotBeWrittenIsSaidBeforeAnybodyTypes) {
+  auto gone = std::make_unique<QTemporaryDir>();
+  MainWindow window(Shipped(*gone));
+  window.show();
+  gone.reset();
+  const QTemporaryDir folder;
+  for (const char* edit :
+       {"Add", "Edit", "Duplicate", "Remove", "Tag", "Import Table", "Find on the Network"}) {
+    Answer(Find<QAction>(window, edit),
+           [](QDialog& question) { EXPECT_EQ(question.windowTitle(), "Read-Only File"); });
+  }
+  Answer(Find<QAction>(window, "Edit"), [&](QDialog& question) {
+    Find<QPushButton>(question, "Save Profiles As").click();
+    auto* ask = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(ask, nullptr);
+    ask->selectFile(folder.filePath("p.json"));
+    QMetaObject::invokeMethod(ask, "accept");
+  });
+  auto* editor = window.findChild<ProfileEditor*>();
+  ASSERT_NE(editor, nullptr) << "the edit goes on";
+  Field(*editor, "Name").setText("Hall");
+  EXPECT_TRUE(Accept(*editor));
+  EXPECT_EQ(Selected(window), "Hall");
+  Find<QAction>(window, "Undo Edit").trigger();
+  EXPECT_NE(Selected(window), "Hall");
+}
+
+TEST(ProjectorList, OrdersAndFindsOnlyWhatChanged) {
+  ProjectorTableModel model;
+  std::vector<ProjectorRow> rows;
+  for (const char* name : {"B", "A", "C"}) rows.push_back({.id = name, .profile = Profile(name)});
+  model.SetRows(rows);
+  int arranged = 0;
+  QObject::connect(&model, &QAbstractItemModel::layoutChanged, &model, [&] { ++arranged; });
+  const auto heat = [&](int position) {
+    model.Change(position, [](ProjectorRow& row) {
+      row.state.reachability = Reachability::Answers;
+      row.state.lamps = {{.hours = 100, .isOn = true}};
+    });
+    model.Rearrange();
+  };
+  heat(2);
+  EXPECT_EQ(arranged, 0) << "the order of the file depends on nothing";
+  model.sort(ProjectorColumns::Lamp, Qt::DescendingOrder);
+  EXPECT_EQ(model.index(0, 0).data(), "C");
+  heat(0);
+  EXPECT_EQ(model.index(0, 0).data(), "B") << "as before among equals";
+  EXPECT_EQ(arranged, 2);
 }
 
 }  // namespace

@@ -126,12 +126,11 @@ TEST_F(SimulatorTest, TheListShowsTheStateOfEveryConnection) {
   profiles[3].name = "wrong password";
   profiles[3].connection.secret = "wrong";
   profiles.push_back({.name = "simulated", .model = profiles[0].model, .connection = {}});
-  // Two of them have one address: pauses must become longer than a visit, so that both have a turn.
-  MainWindow window(profiles, {.interval = 200ms, .longestPause = 5s, .soonest = 200ms});
+  MainWindow window(profiles, {.interval = 200ms, .longestPause = 200ms, .soonest = 200ms});
   window.show();
   const auto& model = window.findChild<ProjectorView*>()->Model();
   const auto comesTo = [&model](int row, const QString& state) {
-    const auto shown = [&] { return model.index(row, ProjectorTableModel::State).data(); };
+    const auto shown = [&] { return model.index(row, ProjectorColumns::State).data(); };
     const auto isSo = [&] { return shown().toString() == state; };
     EXPECT_TRUE(Soon(isSo)) << row << ": " << shown().toString().toStdString();
   };

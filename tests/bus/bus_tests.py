@@ -1,13 +1,16 @@
 #!/usr/bin/python3
-"""The dialog as an assistive technology meets it, over a real accessibility bus.
+"""Dialog and main window as an assistive technology meets them, over a real accessibility bus.
 
-Usage, inside a session bus of its own: bus_tests.py BUS_HOST
+Usage, inside a session bus of its own: bus_tests.py BUS_HOST ADVANCED_CONTROL
 """
 
+import ctypes
+import json
 import os
 import select
 import subprocess
 import sys
+import tempfile
 import time
 import unittest
 
@@ -24,6 +27,7 @@ from gi.repository import Atspi  # noqa: E402
 
 SECONDS = 20  # for what must come; nothing waits that long
 HOST = sys.argv.pop(1)
+PROGRAM = sys.argv.pop(1)
 
 
 def until(what, condition):
@@ -63,17 +67,45 @@ def press(node):
     Atspi.Action.do_action(node, 0)
 
 
+def program_of(process):
+    """The program on the bus that a process is."""
+    desktop = Atspi.get_desktop(0)
+    program = until("a program on the bus", lambda: next(
+        (child for child in children(desktop)
+         if child is not None and child.get_process_id() == process.pid), None))
+    program.set_cache_mask(Atspi.Cache.NONE)
+    return program
+
+
+class Keyboard:
+    """Presses keys as a person does. There is no window manager, so that the test chooses the
+    window that has the keyboard."""
+
+    def __init__(self):
+        self.x = ctypes.CDLL("libX11.so.6")
+        self.test = ctypes.CDLL("libXtst.so.6")
+        self.x.XOpenDisplay.restype = ctypes.c_void_p
+        self.x.XStringToKeysym.restype = ctypes.c_ulong
+        self.display = ctypes.c_void_p(self.x.XOpenDisplay(None))
+
+    def press(self, keys):
+        """For example "Control_L a"."""
+        codes = [self.x.XKeysymToKeycode(self.display, ctypes.c_ulong(
+            self.x.XStringToKeysym(key.encode()))) for key in keys.split()]
+        for code in codes:
+            self.test.XTestFakeKeyEvent(self.display, code, 1, ctypes.c_ulong(0))
+        for code in reversed(codes):
+            self.test.XTestFakeKeyEvent(self.display, code, 0, ctypes.c_ulong(0))
+        self.x.XFlush(self.display)
+
+
 class Dialog:
     """The dialog of one model in a process of its own."""
 
     def __init__(self, dialog_type, code):
         self.process = subprocess.Popen([HOST, str(dialog_type), str(code)], bufsize=0,
                                         stdin=subprocess.PIPE, stdout=subprocess.PIPE)
-        desktop = Atspi.get_desktop(0)
-        program = until("a program on the bus", lambda: next(
-            (child for child in children(desktop)
-             if child is not None and child.get_process_id() == self.process.pid), None))
-        program.set_cache_mask(Atspi.Cache.NONE)
+        program = program_of(self.process)
         self.window = until("a dialog", lambda: next(iter(children(program)), None))
         self.tabs = [node for node in shown_in(self.window)
                      if node.get_role() == Atspi.Role.PAGE_TAB]
@@ -220,6 +252,90 @@ class BusTest(unittest.TestCase):
         press(next(node for node in children(popup) if node.get_name() == "Close"))
         until("an end of the pop-up", lambda: len(children(program)) == 1)
         self.assertEqual(dialog.close(), 0)
+
+
+class Window:
+    """The main window with three simulated projectors, in a process of its own."""
+
+    NAMES = ["Aula", "Hall 1", "Hall 2"]
+
+    def __init__(self, folder):
+        profiles = {"projectors": [
+            {"name": name, "model": "QD-M7450", "dialogType": 5, "modelCode": 30,
+             "tags": [name.split()[0]], "connection": {"serial": {"port": number + 1}}}
+            for number, name in enumerate(self.NAMES)]}
+        file = os.path.join(folder, "p.json")
+        with open(file, "w", encoding="utf-8") as text:
+            json.dump(profiles, text)
+        self.process = subprocess.Popen([PROGRAM, "--profiles", file],
+                                        env=dict(os.environ, HOME=folder, XDG_CONFIG_HOME=folder))
+        self.program = program_of(self.process)
+        self.keyboard = Keyboard()
+        self.window = until("a window", lambda: next(iter(children(self.program)), None))
+        self.table = until("a list", lambda: self.find(self.window, "Projectors"))
+        self.groups = self.find(self.window, "Groups")
+        self.focus(self.window)
+
+    def close(self):
+        self.focus(self.window)
+        self.keyboard.press("Control_L q")
+        return self.process.wait(SECONDS)
+
+    def find(self, window, name, roles=()):
+        return next((node for node in shown_in(window) if node.get_name() == name
+                     and (not roles or node.get_role_name() in roles)), None)
+
+    def focus(self, node):
+        Atspi.Component.grab_focus(node)
+
+    def rows(self):
+        """A list of texts for each row: name, state, power and so on."""
+        table = self.table.get_table_iface()
+        return [[table.get_accessible_at(row, column).get_name()
+                 for column in range(table.get_n_columns())] for row in range(table.get_n_rows())]
+
+    def names(self):
+        return [row[0] for row in self.rows()]
+
+    def dialog(self, title):
+        return until(title, lambda: next((window for window in children(self.program)
+                                          if window is not None and window.get_name() == title), None))
+
+
+class WindowTest(unittest.TestCase):
+    def test_list_groups_and_work_on_many_by_keyboard_and_by_name(self):
+        with tempfile.TemporaryDirectory() as folder:
+            window = Window(folder)
+            until("three that answer", lambda: all(
+                row[1:3] == ["OK", "On"] for row in window.rows()))
+            self.assertEqual(window.names(), Window.NAMES)
+            self.assertEqual(until("the numbers of the groups", lambda: [
+                node.get_name() for node in children(window.groups)]),
+                ["All (3)", "Problems (0)", "Off (0)", "Not reachable (0)", "Aula (1)", "Hall (2)"])
+
+            # The keyboard chooses the last group, and the first one again.
+            window.focus(window.groups)
+            window.keyboard.press("End")
+            until("the halls alone", lambda: window.names() == ["Hall 1", "Hall 2"])
+            window.focus(window.table)
+            window.keyboard.press("Control_L a")
+            until("two selected", lambda: window.find(window.window, "2 projectors selected"))
+            press(window.find(window.window, "Switch Off", ["push button", "button"]))
+            asked = window.dialog("Switch Off")
+            until("the question", lambda: window.find(asked, "Switch off 2 projectors?"))
+            window.focus(asked)
+            window.keyboard.press("Return")
+            until("the result", lambda: window.find(asked, "2 of 2 done"))
+            done = [node.get_name() for node in shown_in(asked)]
+            self.assertEqual(done.count("done"), 2)
+            press(window.find(asked, "Close"))
+            until("their state", lambda: all(row[2] in ("Cooling down", "Standby")
+                                             for row in window.rows()))
+            window.focus(window.groups)
+            window.keyboard.press("Home")
+            until("all of them", lambda: window.names() == Window.NAMES)
+            self.assertEqual(window.rows()[0][2], "On")
+            self.assertEqual(window.close(), 0)
 
 
 if __name__ == "__main__":

@@ -268,7 +268,7 @@ TEST(PjLinkSession, OneSettingNeedsThreeExchangesAtFirstAndTwoLater) {
     SteppedSession all;
     all.projector.states["POWR"] = power;
     if (*power == '0') all.projector.refuses = {{"INPT", 99}, {"AVMT", 99}, {"FREZ", 99}};
-    all.session.KeepLast();
+    all.session.KeepNext();
     for (const auto& command : {kGetInput, kGetInput}) all.Do(command);
     EXPECT_EQ(all.projector.TakeRequests(), inputs);
     all.Do(Get(Code::RunningState));

@@ -3,12 +3,14 @@
 #include <deque>
 #include <filesystem>
 #include <iterator>
+#include <numeric>
 
 #include <QNetworkProxy>
 #include <QTcpServer>
 #include <QTcpSocket>
 
 #include "app/simulator/PseudoTerminal.h"
+#include "device/channels/ForwardingChannel.h"
 #include "fleet/Fleet.h"
 #include "fleet/FleetJob.h"
 #include "fleet/FleetUndo.h"
@@ -135,34 +137,83 @@ TEST_F(FleetJobTest, WorksOverPjLinkAndASerialPort) {
   EXPECT_EQ(Outcomes(Do(SwitchPower{false})), (std::vector{Done, Done, NoAnswer}));
 }
 
+/// Accepts connections and says nothing.
+struct SilentServer {
+  QTcpServer server;
+  std::vector<std::unique_ptr<QTcpSocket>> connections{};
+
+  SilentServer() {
+    server.setProxy(QNetworkProxy::NoProxy);  // looking for one takes a thread
+    EXPECT_TRUE(server.listen(QHostAddress::LocalHost));
+  }
+  TcpAddress Address() const { return {.host = "127.0.0.1", .port = server.serverPort()}; }
+  std::size_t Accept() {
+    while (auto* const next = server.nextPendingConnection()) connections.emplace_back(next);
+    return connections.size();
+  }
+};
+
 TEST_F(FleetJobTest, WaitsForSixtyFourAtOnceOnOneThread) {
-  QTcpServer silent;
-  silent.setProxy(QNetworkProxy::NoProxy);  // looking for one takes a thread
-  silent.setMaxPendingConnections(100);
-  ASSERT_TRUE(silent.listen(QHostAddress::LocalHost));
+  std::deque<SilentServer> silent(70);
   targets.clear();
-  for (int i = 0; i < 70; ++i) {
-    targets.push_back(
-        {std::to_string(i), TcpAddress{.host = "127.0.0.1", .port = silent.serverPort()}});
+  for (SilentServer& one : silent) {
+    targets.push_back({std::to_string(targets.size()), one.Address()});
   }
   const auto threads = [] {
     return std::distance(std::filesystem::directory_iterator("/proc/self/task"), {});
   };
   const auto before = threads();
-  std::vector<std::unique_ptr<QTcpSocket>> connections;
-  const auto accept = [&] {
-    while (auto* const next = silent.nextPendingConnection()) connections.emplace_back(next);
-    return connections.size();
-  };
   FleetJob job(nullptr, targets, SwitchPower{true}, texts, {.timeOut = 60s});
-  EXPECT_TRUE(Becomes([&] { return accept() == 64; }));
+  EXPECT_TRUE(Becomes([&] {
+    return std::accumulate(silent.begin(), silent.end(), std::size_t{0},
+                           [](std::size_t sum, auto& one) { return sum + one.Accept(); }) == 64;
+  }));
   EXPECT_EQ(threads(), before + 1);
   job.Cancel();
-  connections.clear();
+  silent.clear();
   EXPECT_TRUE(Becomes([&] { return job.HowFar().finished == targets.size(); }));
   const auto outcomes = Outcomes(job.Results());
   EXPECT_EQ(std::ranges::count(outcomes, NoAnswer), 64);
   EXPECT_EQ(std::ranges::count(outcomes, Stopped), 6);
+}
+
+TEST_F(FleetJobTest, WorksOnOneAtATimeAtAnAddress) {
+  SilentServer silent;
+  targets.clear();
+  for (const char* const id : {"one", "same", "again"}) targets.push_back({id, silent.Address()});
+  FleetJob job(nullptr, targets, SwitchPower{true}, texts, {.timeOut = 60s});
+  for (std::size_t i = 0; i < targets.size(); ++i) {
+    EXPECT_TRUE(Becomes([&] { return silent.Accept() > i; }));
+    EXPECT_EQ(silent.connections.size(), i + 1);
+    EXPECT_EQ(job.HowFar().finished, i);
+    silent.connections.back()->close();
+  }
+  EXPECT_TRUE(Becomes([&] { return job.HowFar().finished == targets.size(); }));
+}
+
+/// Accepts to be switched off, and stays on.
+class LazyProjector final : public ForwardingChannel {
+ public:
+  explicit LazyProjector(std::shared_ptr<ProjectorChannel> inner)
+      : ForwardingChannel(std::move(inner)) {}
+  PjtReply Execute(const PjtCommand& command) override {
+    if (command.operation != PjtOperation::SetPowerOff) return Inner().Execute(command);
+    return {.result = AcceptedResult(command.operation)};
+  }
+};
+
+TEST_F(FleetJobTest, TellsWhatIsAcceptedAndNotYetSo) {
+  const auto lazy = std::make_shared<LazyProjector>(served[0].device);
+  WireServer wire(lazy);
+  PjLinkServer pjLink(lazy, {});
+  ASSERT_TRUE(pjLink.Listen("127.0.0.1", 0));
+  targets = {
+      {"wire", TcpAddress{.host = "127.0.0.1", .port = wire.Listen(QHostAddress::LocalHost, 0)}},
+      {"pjlink", PjLinkAddress{.host = "127.0.0.1",
+                               .port = static_cast<std::uint16_t>(pjLink.Port()),
+                               .password = {}}}};
+  EXPECT_EQ(Outcomes(Do(SwitchPower{false})), (std::vector{Pending, Pending}));
+  EXPECT_EQ(Outcomes(Do(SwitchPower{true})), (std::vector{Done, Done}));
 }
 
 TEST_F(FleetJobTest, StopsAtOnceWhenItIsCancelled) {

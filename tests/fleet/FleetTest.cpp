@@ -91,7 +91,7 @@ TEST_F(FleetTest, WatchesASerialPortAndLeavesItToOthers) {
   EXPECT_EQ(fleet.Tally().unanswered, before.unanswered);
 }
 
-TEST_F(FleetTest, AsksWhoSendsNotices) {
+TEST_F(FleetTest, TakesNoticesInsteadOfAsking) {
   Fleet slow({.soonest = 0ms});
   slow.Set({"a", served.PjLink("secret")});
   const std::uint16_t port = slow.ListenForNotices("127.0.0.1", 0);
@@ -106,10 +106,31 @@ TEST_F(FleetTest, AsksWhoSendsNotices) {
   const auto send = [&](const QByteArray& text) {
     projector.writeDatagram(text, QHostAddress::LocalHost, port);
   };
-  send("%2POWR=1\r");
-  EXPECT_TRUE(Becomes([&] { return slow.Tally().answered == 2; }));
+  send("%2erst=002000\r\n");
+  EXPECT_TRUE(Becomes([&] {
+    const auto problems = slow.State("a")->problems;
+    return problems && problems->at(2) == ProblemGrade::Error;
+  }));
+  EXPECT_EQ(slow.Tally().begun, 1);
   send("%2lkup=00:00:00:00:00:00");
-  EXPECT_TRUE(Becomes([&] { return slow.Tally().answered == 3; }));
+  EXPECT_TRUE(Becomes([&] { return slow.Tally().answered == 2; }));
+  EXPECT_EQ(slow.State("a")->problems, PartProblems()) << "as it says itself";
+}
+
+TEST_F(FleetTest, HandsOutManyChangesInParts) {
+  fleet.SetAsking(false);
+  fleet.Set({"a", served.PjLink("secret")});
+  constexpr int kChanges = 2500;
+  for (int i = 1; i <= kChanges; ++i) fleet.LearnDrift("a", i);
+  std::vector<std::size_t> parts;
+  int taken = 0, told = 0;
+  EXPECT_TRUE(Becomes([&] {
+    if (std::exchange(told, wakes.load()) == wakes) return false;
+    parts.push_back(fleet.TakeChanges().changes.size());
+    return (taken += static_cast<int>(parts.back())) == kChanges;
+  }));
+  EXPECT_EQ(parts, (std::vector<std::size_t>{1000, 1000, 500}));
+  EXPECT_EQ(wakes, 3);
 }
 
 // Many visits are in the middle of something whenever it ends.

@@ -1,11 +1,15 @@
 // A fleet and its projectors in a time of their own.
 
+#include <algorithm>
 #include <array>
 #include <functional>
+#include <map>
+#include <ranges>
 
 #include <gtest/gtest.h>
 
 #include "device/CommandCode.h"
+#include "fleet/MakeVisit.h"
 #include "tests/fleet/SteppedFleet.h"
 
 namespace {
@@ -201,13 +205,13 @@ TEST(FleetWatcher, TellsChangesAndKeepsTheLast) {
   SteppedFleet fleet(policy);
   Projector& it = fleet.Add("a");
   fleet.RunFor(30s);
-  fleet.watcher.TakeChanges();
+  fleet.states.TakeChanges();
   it.device.states["INPT"] = "32";
   it.device.facts["ERST"] = "000200";
   it.device.facts["LAMP"] = "1201 1";
   const WallTime before = fleet.Wall();
   fleet.RunFor(60s);
-  const FleetChanges told = fleet.watcher.TakeChanges();
+  const FleetChanges told = fleet.states.TakeChanges();
   ASSERT_EQ(told.changes.size(), 3);
   const StateChange& source = told.changes[0].change;
   EXPECT_EQ(told.changes[0].id, "a");
@@ -217,12 +221,12 @@ TEST(FleetWatcher, TellsChangesAndKeepsTheLast) {
   EXPECT_TRUE(source.time > before && source.time < fleet.Wall());
   EXPECT_EQ(told.changes[1].change.index, static_cast<int>(ProjectorPart::Cover));
   EXPECT_EQ(told.changes[2].change.now, FieldValue{1201});
-  const auto history = fleet.watcher.History("a");
+  const auto history = fleet.states.History("a");
   ASSERT_EQ(history.size(), 4) << "bounded, and hours are no news";
   EXPECT_EQ(history.back(), told.changes[1].change);
   fleet.RunFor(120s);
-  EXPECT_FALSE(fleet.watcher.HasChanges()) << "nothing has changed";
-  fleet.watcher.LearnDrift("a", 3);
+  EXPECT_TRUE(fleet.states.TakeChanges().changes.empty()) << "nothing has changed";
+  fleet.states.Change("a", [](LiveState& state) { state.drift = 3; });
   fleet.RunFor(60s);
   EXPECT_EQ(fleet.State("a").drift, 3);
 }
@@ -237,8 +241,8 @@ TEST(FleetWatcher, StaysAwayWhileSomebodyElseWorks) {
   fleet.watcher.Pause("a");
   fleet.watcher.Pause("a");
   EXPECT_EQ(it.open, 0);
-  fleet.watcher.Learn("a", {PjtOperation::Get, CommandCode::InputSource},
-                      {.result = 1, .value = 32}, {});
+  fleet.states.Learn("a", {PjtOperation::Get, CommandCode::InputSource}, {.result = 1, .value = 32},
+                     {});
   EXPECT_EQ(Words(fleet.State("a")), "answers, 32 ");
   fleet.watcher.Resume("a");
   fleet.RunFor(200s);
@@ -256,8 +260,6 @@ TEST(FleetWatcher, StaysAwayWhileSomebodyElseWorks) {
   fleet.RunFor(10s);
   EXPECT_EQ(other.connections.size(), asked + 1);
   fleet.watcher.AskSoon("b");
-  fleet.watcher.Noticed("b");
-  fleet.watcher.Noticed("nobody");
   fleet.RunFor(10s);
   EXPECT_EQ(other.connections.size(), asked + 2);
   fleet.watcher.AskSoon("b");
@@ -266,7 +268,7 @@ TEST(FleetWatcher, StaysAwayWhileSomebodyElseWorks) {
   fleet.RunFor(10s);
   EXPECT_EQ(other.connections.size(), asked + 4) << "the visit may have asked too early";
   fleet.watcher.Remove("b");
-  EXPECT_FALSE(fleet.watcher.State("b"));
+  EXPECT_FALSE(fleet.states.State("b"));
   fleet.RunFor(100s);
   EXPECT_EQ(other.connections.size(), asked + 4);
 }
@@ -281,16 +283,123 @@ TEST(FleetWatcher, MovesAlongWithAProjector) {
   EXPECT_EQ(fleet.projectors["elsewhere"].connections.size(), 1) << "at once";
   EXPECT_EQ(fleet.State("a").power, PowerState::Standby);
   EXPECT_EQ(fleet.projectors["a"].connections.size(), 1);
-  for (const char* const id : {"one", "same"}) {
-    fleet.watcher.Set({id, PjLinkAddress{.host = "twice", .password = {}}});
-  }
   fleet.watcher.Set({"nowhere", AddressError{"no address"}});
   fleet.RunFor(100s);
-  EXPECT_EQ(fleet.projectors["twice"].mostConnections, 1);
-  EXPECT_EQ(fleet.State("one").power, PowerState::On);
-  EXPECT_EQ(fleet.State("same").power, PowerState::On);
   EXPECT_EQ(fleet.State("nowhere").reachability, Reachability::NeverAsked);
   EXPECT_EQ(fleet.State("nowhere").connection, ConnectionState::WrongParameters);
+}
+
+TEST(FleetWatcher, TakesTurnsAtAnAddress) {
+  SteppedFleet fleet({.interval = 1s});
+  std::map<std::string, int> visits{{"one", 0}, {"same", 0}, {"again", 0}};
+  for (const auto& [id, none] : visits) {
+    fleet.watcher.Set({id, PjLinkAddress{.host = "shared", .password = {}}});
+  }
+  Projector& it = fleet.projectors["shared"];
+  it.device.answers = 500ms;  // so that a visit takes longer than the interval
+  std::map<std::string, std::optional<WallTime>> answered;
+  for (int second = 0; second < 120; ++second) {
+    fleet.RunFor(1s);
+    for (auto& [id, count] : visits) {
+      const auto now = fleet.State(id).answered;
+      if (std::exchange(answered[id], now) != now) ++count;
+    }
+  }
+  EXPECT_EQ(it.mostConnections, 1);
+  const auto [least, most] = std::ranges::minmax(visits | std::views::values);
+  EXPECT_GE(least, 5);
+  EXPECT_LE(most, least + 1);
+
+  // Whoever works on one of them works on all.
+  while (it.open == 0) fleet.RunFor(1ms);
+  fleet.watcher.Pause("one");
+  EXPECT_EQ(it.open, 0);
+  const auto asked = it.connections.size();
+  fleet.RunFor(60s);
+  EXPECT_EQ(it.connections.size(), asked);
+  fleet.watcher.Set({"one", PjLinkAddress{.host = "elsewhere", .password = {}}});
+  fleet.RunFor(1s);
+  EXPECT_EQ(it.connections.size(), asked + 1) << "the pause has moved along";
+  EXPECT_EQ(fleet.projectors["elsewhere"].connections.size(), 0);
+  fleet.watcher.Resume("one");
+  fleet.watcher.Pause("same");
+  fleet.watcher.Remove("same");
+  fleet.RunFor(30s);
+  EXPECT_GT(it.connections.size(), asked + 2);
+  EXPECT_GT(fleet.projectors["elsewhere"].connections.size(), 1);
+}
+
+TEST(FleetWatcher, KnowsAnAddressHoweverItIsWritten) {
+  const auto place = [](const char* host) {
+    return PlaceOf({"a", PjLinkAddress{.host = host, .password = {}}}).first;
+  };
+  EXPECT_EQ(place("2001:DB8:0::7"), "2001:db8::7");
+  EXPECT_EQ(place("::ffff:192.0.2.7"), "192.0.2.7");
+  EXPECT_EQ(place("hall.example"), "hall.example");
+}
+
+TEST(FleetWatcher, AsksOnlyForWhatANoticeDoesNotTell) {
+  struct Case {
+    const char* name;
+    FleetNetwork::Notice notice;
+    const char* told;
+    int visits = 0;
+  };
+  const char* const kUsual =
+      "answers, on, 31 HDMI (31), 000000, 1200 h lit, filter 80 h, not blank, "
+      "not mute, not freeze";
+  const Case cases[] = {
+      {"switched off",
+       {"a", "POWR", "2"},
+       "answers, cooling down, 31 HDMI (31), 000000, 1200 h lit, "
+       "filter 80 h, not blank, not mute, not freeze"},
+      {"in standby", {"a", "powr", "0"}, "answers, standby, 000000, 1200 h lit, filter 80 h"},
+      {"too hot",
+       {"a", "ERST", "002000"},
+       "answers, on, 31 HDMI (31), 002000, 1200 h lit, filter 80 "
+       "h, not blank, not mute, not freeze"},
+      {"another input",
+       {"a", "INPT", "32"},
+       "answers, on, 32 , 000000, 1200 h lit, filter 80 h, not "
+       "blank, not mute, not freeze"},
+      {"a network again", {"a", "LKUP", "00:00:5e:00:53:01"}, kUsual, 1},
+      {"nonsense", {"a", "POWR", "9"}, kUsual, 1},
+      {"somebody else's", {"b", "POWR", "0"}, kUsual},
+  };
+  for (const Case& one : cases) {
+    SCOPED_TRACE(one.name);
+    SteppedFleet fleet;
+    Projector& it = fleet.Add("a");
+    fleet.RunFor(10s);
+    fleet.watcher.Events().Noticed(one.notice);
+    EXPECT_EQ(Words(fleet.State("a")), one.told);
+    fleet.RunFor(20s);
+    EXPECT_EQ(it.connections.size(), 1 + one.visits);
+  }
+  SteppedFleet fleet;
+  Projector& it = fleet.Add("a");
+  it.device.states["POWR"] = "0";
+  fleet.RunFor(10s);
+  it.device.states["POWR"] = "1";
+  fleet.watcher.Events().Noticed({"a", "POWR", "3"});
+  EXPECT_EQ(Words(fleet.State("a")), "answers, warming up");
+  fleet.watcher.Events().Noticed({"a", "POWR", "1"});
+  fleet.RunFor(10s);
+  EXPECT_EQ(Words(fleet.State("a")), kUsual) << "one that is on has more to tell";
+  it.device.answers = 100ms;
+  fleet.RunFor(50s);
+  while (it.open == 0) fleet.RunFor(1ms);
+  fleet.watcher.Events().Noticed({"a", "POWR", "0"});
+  const auto asked = it.connections.size();
+  fleet.RunFor(10s);
+  EXPECT_EQ(it.connections.size(), asked + 1) << "the visit may have asked too early";
+  it.isThere = false;
+  fleet.RunFor(90s);
+  EXPECT_EQ(Words(fleet.State("a")).substr(0, 6), "silent");
+  it.isThere = true;
+  fleet.watcher.Events().Noticed({"a", "POWR", "1"});
+  fleet.RunFor(10s);
+  EXPECT_EQ(Words(fleet.State("a")), kUsual) << "it is there again";
 }
 
 }  // namespace

@@ -47,7 +47,8 @@ class SteppedFleet final : public FleetNetwork, public FleetClock {
     std::optional<WireResponder> responder{};
   };
 
-  explicit SteppedFleet(const FleetPolicy& policy = {}) : watcher(policy, *this, *this) {}
+  explicit SteppedFleet(const FleetPolicy& policy = {})
+      : states(*this, policy.history), watcher(policy, *this, *this, states) {}
 
   Projector& Add(const std::string& id, const std::string& password = {}) {
     watcher.Set({id, PjLinkAddress{.host = id, .password = password}});
@@ -77,7 +78,7 @@ class SteppedFleet final : public FleetNetwork, public FleetClock {
     }
   }
 
-  LiveState State(const std::string& id) const { return watcher.State(id).value_or(LiveState{}); }
+  LiveState State(const std::string& id) const { return states.State(id).value_or(LiveState{}); }
 
   SessionTime Now() const override { return now_; }
   WallTime Wall() const override { return WallTime(now_.time_since_epoch()); }
@@ -91,14 +92,14 @@ class SteppedFleet final : public FleetNetwork, public FleetClock {
     if (!projector.isThere) return;
     Later(Milliseconds(1), peer, attempt, [this, peer, attempt, host] {
       Projector& met = projectors[host];
-      if (met.isTaken) return watcher.InUse(peer);
+      if (met.isTaken) return watcher.Events().InUse(peer);
       if (met.isRefusing || !met.device.Connect(now_)) {
-        return watcher.NotConnected(peer, ConnectionState::NotReachable);
+        return watcher.Events().NotConnected(peer, ConnectionState::NotReachable);
       }
       links_[peer].isOpen = true;
       met.mostConnections = std::max(met.mostConnections, ++met.open);
       if (met.wire) met.responder.emplace(*met.wire);
-      watcher.Connected(peer);
+      watcher.Events().Connected(peer);
       if (!met.wire) Bytes(peer, attempt, met.device.greeting, Milliseconds(1));
     });
   }
@@ -118,7 +119,7 @@ class SteppedFleet final : public FleetNetwork, public FleetClock {
     if (!projector.device.IsOpen()) {
       Later(projector.device.answers, peer, link.attempt, [this, peer] {
         Forget(peer);
-        watcher.Closed(peer);
+        watcher.Events().Closed(peer);
       });
     }
   }
@@ -129,6 +130,7 @@ class SteppedFleet final : public FleetNetwork, public FleetClock {
   }
 
   std::map<std::string, Projector> projectors;
+  FleetStates states;
   FleetWatcher watcher;
 
  private:
@@ -145,7 +147,7 @@ class SteppedFleet final : public FleetNetwork, public FleetClock {
   }
 
   void Bytes(Peer peer, int attempt, const std::string& bytes, Milliseconds after) {
-    Later(after, peer, attempt, [this, peer, bytes] { watcher.Received(peer, bytes); });
+    Later(after, peer, attempt, [this, peer, bytes] { watcher.Events().Received(peer, bytes); });
   }
 
   void Later(Milliseconds after, Peer peer, int attempt, std::function<void()> happens) {

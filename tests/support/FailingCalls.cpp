@@ -5,6 +5,7 @@
 //                      "cut" (one byte is read or written; any other call is left alone) or
 //                      "interrupt"
 //   FAIL_COUNTS=PATH   writes to this file how many allocations and system calls main has made
+//   FAIL_LATER=1       the two above count from the program's call of BeginFailing on
 //   FAIL_SYNC=WHAT     fsync of each "file" or "folder"; with "kill" the program dies in the first
 //   FAIL_ACCEPT=N      the first N connections that are accepted, as if their peers had left
 
@@ -89,7 +90,7 @@ int CountedMain(int argc, char** argv, char** environment) {
   failingAllocation = Number("FAIL_ALLOCATION");
   failingCall = Number("FAIL_CALL");
   if (const char* const text = std::getenv("FAIL_HOW")) how = text;
-  isInMain = true;
+  isInMain = std::getenv("FAIL_LATER") == nullptr;
   const int result = realMain(argc, argv, environment);
   isInMain = false;
   if (const char* const path = std::getenv("FAIL_COUNTS")) {
@@ -123,6 +124,8 @@ int __libc_start_main(Main* program, int argc, char** argv, void (*init)(), void
   return Real<int(Main*, int, char**, void (*)(), void (*)(), void (*)(), void*)>(
       "__libc_start_main")(CountedMain, argc, argv, init, fini, loader, stackEnd);
 }
+
+void BeginFailing() { isInMain = true; }
 
 void* malloc(std::size_t size) { return FailsAllocation() ? nullptr : __libc_malloc(size); }
 

@@ -6,8 +6,9 @@
 #include <QMessageBox>
 
 #include "app/desktop/Modal.h"
-#include "app/desktop/profiles/ProfileActions.h"
 #include "app/desktop/profiles/ProfileDocument.h"
+#include "app/desktop/profiles/ProfileFileActions.h"
+#include "app/desktop/profiles/ProfileHistory.h"
 #include "app/desktop/profiles/SearchDialog.h"
 #include "fleet/ProfileCsv.h"
 #include "fleet/SearchProfiles.h"
@@ -20,17 +21,20 @@ constexpr qsizetype kMostBytes = 64 << 20;
 
 }  // namespace
 
-TransferActions::TransferActions(ProfileDocument& document, ProfileActions& edits, QWidget& window)
+TransferActions::TransferActions(ProfileDocument& document, ProfileHistory& history,
+                                 ProfileFileActions& files, QWidget& window)
     : QObject(&window),
       document_(document),
-      edits_(edits),
+      history_(history),
       window_(window),
       find_(new QAction(tr("Find on the &Network…"), this)),
       import_(new QAction(tr("&Import Table…"), this)),
       export_(new QAction(tr("E&xport Table…"), this)) {
   find_->setIconText(tr("Find Projectors"));
-  connect(find_, &QAction::triggered, this, &TransferActions::AskForSearch);
-  connect(import_, &QAction::triggered, this, &TransferActions::AskForImport);
+  connect(find_, &QAction::triggered, this,
+          [this, &files] { files.WhenWritable([this] { AskForSearch(); }); });
+  connect(import_, &QAction::triggered, this,
+          [this, &files] { files.WhenWritable([this] { AskForImport(); }); });
   connect(export_, &QAction::triggered, this, &TransferActions::AskForExport);
   Update();
 }
@@ -45,9 +49,8 @@ void TransferActions::AskForSearch() {
   connect(dialog, &QDialog::accepted, this, [this, dialog] {
     const TakenProjectors taken = TakeFound(document_.Text(), dialog->Chosen(), dialog->Password());
     const int first = static_cast<int>(document_.Projectors().size());
-    const QString error = edits_.Do(tr("Add Found Projectors"), taken.added.isEmpty() ? -1 : first,
-                                    [&] { return document_.Write(taken.text); });
-    if (!error.isEmpty()) ShowError(window_, tr("Find Projectors"), error);
+    history_.DoAndReport(tr("Add Found Projectors"), taken.added.isEmpty() ? -1 : first,
+                         [&] { return document_.Write(taken.text); });
   });
   dialog->open();
 }
@@ -67,13 +70,13 @@ void TransferActions::ImportFile(const QString& path) {
   if (!file.error.isEmpty()) return ShowError(window_, title, file.error);
   const CsvImport imported = ImportCsv(document_.Text(), file.bytes);
   if (!imported.error.isEmpty()) return ShowError(window_, title, imported.error);
-  const QString error = edits_.Do(title, -1, [&] { return document_.Write(imported.text); });
+  const QString error = history_.Do(title, -1, [&] { return document_.Write(imported.text); });
   if (!error.isEmpty()) return ShowError(window_, title, error);
-  auto* box = new QMessageBox(QMessageBox::Information, title,
-                              tr("%1 added, %2 already known, %3 rows not taken.")
-                                  .arg(imported.added)
-                                  .arg(imported.changed)
-                                  .arg(imported.faults.size()),
+  const QStringList said{
+      tr("%n projectors added", nullptr, static_cast<int>(imported.added)),
+      tr("%n already known", nullptr, static_cast<int>(imported.changed)),
+      tr("%n rows not taken", nullptr, static_cast<int>(imported.faults.size()))};
+  auto* box = new QMessageBox(QMessageBox::Information, title, said.join(QStringLiteral(" · ")),
                               QMessageBox::Ok, &window_);
   box->setAttribute(Qt::WA_DeleteOnClose);
   box->setTextFormat(Qt::PlainText);

@@ -5,8 +5,9 @@
 
 #include <QObject>
 
-class ProfileActions;
 class ProfileDocument;
+class ProfileFileActions;
+class ProfileHistory;
 class QAction;
 class QWidget;
 
@@ -16,8 +17,9 @@ class TransferActions : public QObject {
   Q_OBJECT
 
  public:
-  /// The changes are made through `edits`. Both must outlive this object, which the window owns.
-  TransferActions(ProfileDocument& document, ProfileActions& edits, QWidget& window);
+  /// All must outlive this object, which the window owns.
+  TransferActions(ProfileDocument& document, ProfileHistory& history, ProfileFileActions& files,
+                  QWidget& window);
 
   QAction* Find() const { return find_; }
   QAction* Import() const { return import_; }
@@ -34,7 +36,7 @@ class TransferActions : public QObject {
   void AskForExport();
 
   ProfileDocument& document_;
-  ProfileActions& edits_;
+  ProfileHistory& history_;
   QWidget& window_;
   QAction* find_;
   QAction* import_;

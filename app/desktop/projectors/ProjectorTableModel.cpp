@@ -1,29 +1,14 @@
 #include "app/desktop/projectors/ProjectorTableModel.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 #include <QFont>
 
-#include "app/desktop/projectors/RowOrder.h"
 #include "app/desktop/projectors/StateTexts.h"
 #include "settings/PageTables.h"
 
 namespace {
-
-constexpr std::array<const char*, ProjectorTableModel::ColumnCount> kTitles{
-    QT_TRANSLATE_NOOP("ProjectorTableModel", "Name"),
-    QT_TRANSLATE_NOOP("ProjectorTableModel", "State"),
-    QT_TRANSLATE_NOOP("ProjectorTableModel", "Power"),
-    QT_TRANSLATE_NOOP("ProjectorTableModel", "Source"),
-    QT_TRANSLATE_NOOP("ProjectorTableModel", "Lamp"),
-    QT_TRANSLATE_NOOP("ProjectorTableModel", "Problem"),
-    QT_TRANSLATE_NOOP("ProjectorTableModel", "Model"),
-    QT_TRANSLATE_NOOP("ProjectorTableModel", "Place"),
-    QT_TRANSLATE_NOOP("ProjectorTableModel", "Settings"),
-    QT_TRANSLATE_NOOP("ProjectorTableModel", "Last answer"),
-    QT_TRANSLATE_NOOP("ProjectorTableModel", "Address")};
 
 bool HasRows(PageId page, int modelCode) {
   const PageTable& table = TableOf(page);
@@ -32,31 +17,6 @@ bool HasRows(PageId page, int modelCode) {
     if (!isReset && Has(table, row, modelCode)) return true;
   }
   return false;
-}
-
-bool ShowsState(int column) {
-  using enum ProjectorTableModel::Column;
-  return column != Name && column != Model && column != Place && column != Address;
-}
-
-/// A number to sort by; nothing for a column of texts.
-std::optional<double> NumberOf(const ProjectorRow& row, int column) {
-  switch (column) {
-    case ProjectorTableModel::State:
-      return -static_cast<double>(HealthOf(row));  // the most urgent first
-    case ProjectorTableModel::Power:
-      return row.state.power ? static_cast<double>(*row.state.power) : -1;
-    case ProjectorTableModel::Lamp:
-      return LampHoursOf(row.state);
-    case ProjectorTableModel::Settings:
-      return row.state.drift.value_or(-1);
-    case ProjectorTableModel::Answered:
-      return row.state.answered
-                 ? static_cast<double>(-row.state.answered->time_since_epoch().count())
-                 : 0.0;
-    default:
-      return std::nullopt;
-  }
 }
 
 }  // namespace
@@ -73,11 +33,11 @@ ProjectorTableModel::ProjectorTableModel(QObject* parent) : QAbstractTableModel(
 void ProjectorTableModel::SetRows(std::vector<ProjectorRow> rows) {
   beginResetModel();
   rows_ = std::move(rows);
-  search_.SetRows(rows_);
+  arrangement_.SetRows(rows_);
   positions_.clear();
   for (const ProjectorRow& row : rows_)
     positions_.emplace(row.id, static_cast<int>(positions_.size()));
-  shown_ = Arranged();
+  shown_ = arrangement_.Of(rows_);
   rowsOf_.assign(rows_.size(), -1);
   for (std::size_t i = 0; i < shown_.size(); ++i)
     rowsOf_[static_cast<std::size_t>(shown_[i])] = static_cast<int>(i);
@@ -97,11 +57,9 @@ QModelIndex ProjectorTableModel::IndexOf(int position) const {
 }
 
 void ProjectorTableModel::ShowChanged(int position) {
-  isOutOfDate_ =
-      isOutOfDate_ || ShowsState(sortColumn_) ||
-      (group_.kind != ProjectorGroup::Kind::All && group_.kind != ProjectorGroup::Kind::Tag);
+  isOutOfDate_ = isOutOfDate_ || arrangement_.DependsOnState();
   if (const QModelIndex first = IndexOf(position); first.isValid()) {
-    Q_EMIT dataChanged(first, first.siblingAtColumn(ColumnCount - 1));
+    Q_EMIT dataChanged(first, first.siblingAtColumn(ProjectorColumns::ColumnCount - 1));
   }
 }
 
@@ -110,24 +68,23 @@ void ProjectorTableModel::Rearrange() {
 }
 
 void ProjectorTableModel::Search(const QString& text) {
-  search_.SetText(text);
+  arrangement_.Search(text);
   Arrange();
 }
 
 void ProjectorTableModel::SetGroup(const ProjectorGroup& group) {
-  group_ = group;
+  arrangement_.SetGroup(group);
   Arrange();
 }
 
 void ProjectorTableModel::sort(int column, Qt::SortOrder order) {
-  sortColumn_ = column;
-  sortOrder_ = order;
+  arrangement_.Sort(column, order);
   Arrange();
 }
 
 // Views keep their selection and their place.
 void ProjectorTableModel::Arrange() {
-  std::vector<int> next = Arranged();
+  std::vector<int> next = arrangement_.Of(rows_);
   isOutOfDate_ = false;
   if (next == shown_) return;
   Q_EMIT layoutAboutToBeChanged({}, QAbstractItemModel::VerticalSortHint);
@@ -149,61 +106,12 @@ void ProjectorTableModel::Arrange() {
   Q_EMIT layoutChanged({}, QAbstractItemModel::VerticalSortHint);
 }
 
-std::vector<int> ProjectorTableModel::Arranged() {
-  std::vector<int> positions = search_.Matching(rows_, group_);
-  if (sortColumn_ >= 0) {
-    const auto sort = [this, &positions](const auto& keyOf) {
-      SortBy(positions, sortOrder_,
-             [&](int position) { return keyOf(rows_[static_cast<std::size_t>(position)]); });
-    };
-    if (!rows_.empty() && NumberOf(rows_.front(), sortColumn_)) {
-      sort([this](const ProjectorRow& row) { return *NumberOf(row, sortColumn_); });
-    } else {
-      sort([this](const ProjectorRow& row) { return TextOf(row, sortColumn_); });
-    }
-  }
-  search_.PutExactFirst(rows_, positions);
-  return positions;
-}
-
 int ProjectorTableModel::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(shown_.size());
 }
 
 int ProjectorTableModel::columnCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : ColumnCount;
-}
-
-QString ProjectorTableModel::TextOf(const ProjectorRow& row, int column) const {
-  switch (column) {
-    case Name:
-      return QString::fromStdString(row.profile.name);
-    case State:
-      return row.isOpen ? tr("%1 · open").arg(StateTexts::State(row)) : StateTexts::State(row);
-    case Power:
-      return StateTexts::Power(row.state);
-    case Source:
-      return StateTexts::Source(row.state);
-    case Lamp:
-      return StateTexts::LampHours(row.state);
-    case Problem:
-      return StateTexts::Problems(row.state);
-    case Model:
-      return QString::fromStdString(row.profile.model->info.ModelName);
-    case Place: {
-      QStringList tags;
-      for (const std::string& tag : row.profile.tags) tags += QString::fromStdString(tag);
-      return tags.join(QStringLiteral(", "));
-    }
-    case Settings:
-      return StateTexts::Drift(row.state);
-    case Answered:
-      return StateTexts::Answered(row.state, std::chrono::system_clock::now());
-    case Address:
-      return ConnectionText(row.profile.connection);
-    default:
-      return {};
-  }
+  return parent.isValid() ? 0 : ProjectorColumns::ColumnCount;
 }
 
 QVariant ProjectorTableModel::data(const QModelIndex& index, int role) const {
@@ -211,22 +119,24 @@ QVariant ProjectorTableModel::data(const QModelIndex& index, int role) const {
   const ProjectorRow& row = At(index);
   switch (role) {
     case Qt::DisplayRole:
-      return TextOf(row, index.column());
+      return ProjectorColumns::Text(row, index.column());
     case Qt::ToolTipRole:
-      if (index.column() == Name)
+      if (index.column() == ProjectorColumns::Name)
         return TabNames(row.profile.model->info).join(QStringLiteral(" · "));
-      return TextOf(row, index.column());
+      return ProjectorColumns::Text(row, index.column());
     case Qt::DecorationRole:
-      return index.column() == State ? QVariant(StateTexts::Icon(HealthOf(row))) : QVariant();
+      return index.column() == ProjectorColumns::State ? QVariant(StateTexts::Icon(HealthOf(row)))
+                                                       : QVariant();
     case Qt::FontRole:
-      if (!row.hasAlert || index.column() != Name) return {};
+      if (!row.hasAlert || index.column() != ProjectorColumns::Name) return {};
       {
         QFont bold;
         bold.setBold(true);
         return bold;
       }
     case kShareRole:
-      if (index.column() != Lamp || row.profile.ratedLampHours == 0 || LampHoursOf(row.state) < 0)
+      if (index.column() != ProjectorColumns::Lamp || row.profile.ratedLampHours == 0 ||
+          LampHoursOf(row.state) < 0)
         return {};
       return static_cast<double>(LampHoursOf(row.state)) / row.profile.ratedLampHours;
     default:
@@ -236,5 +146,5 @@ QVariant ProjectorTableModel::data(const QModelIndex& index, int role) const {
 
 QVariant ProjectorTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
-  return tr(kTitles[static_cast<std::size_t>(section)]);
+  return ProjectorColumns::Title(section);
 }

@@ -7,8 +7,9 @@
 
 #include <QAbstractTableModel>
 
+#include "app/desktop/projectors/ProjectorColumns.h"
 #include "app/desktop/projectors/ProjectorRow.h"
-#include "app/desktop/projectors/RowSearch.h"
+#include "app/desktop/projectors/RowArrangement.h"
 
 /// Whether every tab of the model's dialog has a setting.
 bool HasRowsOnEveryTab(const CModelInfo2& model);
@@ -20,20 +21,6 @@ class ProjectorTableModel : public QAbstractTableModel {
   Q_OBJECT
 
  public:
-  enum Column {
-    Name,
-    State,
-    Power,
-    Source,
-    Lamp,
-    Problem,
-    Model,
-    Place,
-    Settings,
-    Answered,
-    Address,
-    ColumnCount
-  };
   /// Of the lamp: hours as a share of the rated hours, a number; nothing if one is not known.
   static constexpr int kShareRole = Qt::UserRole;
 
@@ -58,7 +45,6 @@ class ProjectorTableModel : public QAbstractTableModel {
   /// text comes first.
   void Search(const QString& text);
   void SetGroup(const ProjectorGroup& group);
-  const ProjectorGroup& Group() const { return group_; }
 
   int PositionAt(int row) const { return shown_[static_cast<std::size_t>(row)]; }
   const ProjectorRow& At(const QModelIndex& index) const {
@@ -75,18 +61,13 @@ class ProjectorTableModel : public QAbstractTableModel {
   void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
 
  private:
-  QString TextOf(const ProjectorRow& row, int column) const;
   void ShowChanged(int position);
   void Arrange();
-  std::vector<int> Arranged();
 
   std::vector<ProjectorRow> rows_;
   std::unordered_map<std::string, int> positions_;
   std::vector<int> shown_;   // positions, by row
   std::vector<int> rowsOf_;  // rows, by position; −1 for one that is not shown
-  RowSearch search_;
-  ProjectorGroup group_;
-  int sortColumn_ = -1;
-  Qt::SortOrder sortOrder_ = Qt::AscendingOrder;
+  RowArrangement arrangement_;
   bool isOutOfDate_ = false;  // filter or order may be
 };

@@ -26,7 +26,7 @@ constexpr int kManyHours = 12'345;
 constexpr int kMinimumWidth = 170;
 
 // The widest usual text of each column.
-constexpr std::array<const char*, ProjectorTableModel::ColumnCount> kWidthSamples{
+constexpr std::array<const char*, ProjectorColumns::ColumnCount> kWidthSamples{
     "Lecture Hall 12",     "Wrong pass", "Cooling down",      "Component",       "",
     "Temperature",         "Model 5-30", "Building A, Libra", "As it should be", "12 min ago",
     "192.168.100.100:4352"};
@@ -47,7 +47,7 @@ ProjectorView::ProjectorView(QWidget* parent)
   found_->hide();
   table_->setModel(model_);
   table_->setItemDelegate(new IsolatedTexts(table_));
-  table_->setItemDelegateForColumn(ProjectorTableModel::Lamp, new LampDelegate(table_));
+  table_->setItemDelegateForColumn(ProjectorColumns::Lamp, new LampDelegate(table_));
   table_->setAccessibleName(tr("Projectors"));
   table_->setSelectionBehavior(QTableView::SelectRows);
   table_->setSelectionMode(QTableView::ExtendedSelection);
@@ -96,18 +96,18 @@ void ProjectorView::MakeColumns() {
   columns.setSectionsMovable(true);
   table_->setSortingEnabled(true);
   const QFontMetrics metrics = table_->fontMetrics();
-  for (int column = 0; column < ProjectorTableModel::ColumnCount; ++column) {
+  for (int column = 0; column < ProjectorColumns::ColumnCount; ++column) {
     const QString title = model_->headerData(column, Qt::Horizontal).toString();
     const QString sample =
-        column == ProjectorTableModel::Lamp
+        column == ProjectorColumns::Lamp
             ? StateTexts::Hours(kManyHours)
             : QString::fromLatin1(kWidthSamples[static_cast<std::size_t>(column)]);
     const int text =
         std::max(metrics.horizontalAdvance(sample), metrics.horizontalAdvance(title) + kColumnGap);
     table_->setColumnWidth(
-        column, text + kColumnGap + (column == ProjectorTableModel::State ? kIconWidth : 0));
+        column, text + kColumnGap + (column == ProjectorColumns::State ? kIconWidth : 0));
   }
-  for (const auto column : {ProjectorTableModel::Settings, ProjectorTableModel::Address})
+  for (const auto column : {ProjectorColumns::Settings, ProjectorColumns::Address})
     columns.setSectionHidden(column, true);
   columns.setContextMenuPolicy(Qt::CustomContextMenu);
   connect(&columns, &QWidget::customContextMenuRequested, this, &ProjectorView::AskForColumns);
@@ -116,7 +116,7 @@ void ProjectorView::MakeColumns() {
 void ProjectorView::AskForColumns(const QPoint& place) {
   auto* menu = new QMenu(this);
   menu->setAttribute(Qt::WA_DeleteOnClose);
-  for (int column = 1; column < ProjectorTableModel::ColumnCount; ++column) {
+  for (int column = 1; column < ProjectorColumns::ColumnCount; ++column) {
     QAction* action = menu->addAction(model_->headerData(column, Qt::Horizontal).toString());
     action->setCheckable(true);
     action->setChecked(!Columns().isSectionHidden(column));

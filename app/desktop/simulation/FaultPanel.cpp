@@ -254,12 +254,11 @@ void FaultPanel::ShowFaults() {
       for (int i = 0; i < target_->count() && text.isEmpty(); ++i) {
         if (target_->itemData(i).value<FaultTarget>() == target) text = target_->itemText(i);
       }
-      text =
-          tr("%1: %2").arg(text, tr(std::ranges::find(kKinds, fault.kind, &NamedKind::kind)->name));
-      if (fault.kind == Fault::Kind::Late) {
-        text += tr(" %1 ms").arg(fault.delay.count());
-      }
-      faults_->addItem(text);
+      const QString kind = tr(std::ranges::find(kKinds, fault.kind, &NamedKind::kind)->name);
+      const bool isLate = fault.kind == Fault::Kind::Late;
+      //: A command, what is wrong with it ("Delay"), and for how many milliseconds.
+      faults_->addItem(isLate ? tr("%1: %2, %3 ms").arg(text, kind).arg(fault.delay.count())
+                              : tr("%1: %2").arg(text, kind));
     }
     faults_->setCurrentRow(0);
   }

@@ -5,11 +5,15 @@
 #include <string>
 #include <vector>
 
+#include "fleet/FleetTarget.h"
 #include "settings/ModelSettings.h"
 
 /// The settings of models that people change every day.
 class UsualSettings {
  public:
+  /// If nobody knows the model of a projector on PJLink, its usual settings are those of any model:
+  /// the protocol has no others.
+  FleetTarget WithKnownModel(FleetTarget target);
   /// The key with which the model's input source is chosen; empty if it has none.
   std::string InputKey(const std::shared_ptr<const ModelData>& model);
   /// Whether the model has a setting of this key that can be changed.
@@ -17,5 +21,8 @@ class UsualSettings {
   const ModelSettings& Of(const std::shared_ptr<const ModelData>& model);
 
  private:
-  std::map<std::shared_ptr<const ModelData>, ModelSettings> models_;
+  using Model = std::shared_ptr<const ModelData>;
+
+  std::map<Model, ModelSettings> models_;
+  std::map<Model, Model> usual_;  // what takes the place of an unknown model
 };

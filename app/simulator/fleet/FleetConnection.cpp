@@ -15,21 +15,21 @@ constexpr std::chrono::seconds kTimeForHello{10};
 
 }  // namespace
 
-/// Counts what comes over the wire.
-class FleetConnection::Counted final : public ForwardingChannel {
+/// Counts the commands that arrive over the wire.
+class FleetConnection::CountingChannel final : public ForwardingChannel {
  public:
-  Counted(std::shared_ptr<ProjectorChannel> inner, AskedCounts& asked)
-      : ForwardingChannel(std::move(inner)), asked_(asked) {}
+  CountingChannel(std::shared_ptr<ProjectorChannel> inner, RequestCounts& counts)
+      : ForwardingChannel(std::move(inner)), counts_(counts) {}
 
   PjtReply Execute(const PjtCommand& command) override {
     const bool isPoll =
         command.operation == PjtOperation::Get && command.code == CommandCode::RunningState;
-    asked_.CountRequest(isPoll, !IsRead(command.operation));
+    counts_.CountRequest(isPoll, !IsRead(command.operation));
     return Inner().Execute(command);
   }
 
  private:
-  AskedCounts& asked_;
+  RequestCounts& counts_;
 };
 
 struct FleetConnection::PjLinkEnd {
@@ -42,27 +42,27 @@ struct FleetConnection::PjLinkEnd {
 };
 
 struct FleetConnection::WireEnd {
-  WireEnd(std::shared_ptr<ProjectorChannel> projector, AskedCounts& asked)
-      : counted(std::move(projector), asked) {}
+  WireEnd(std::shared_ptr<ProjectorChannel> projector, RequestCounts& counts)
+      : channel(std::move(projector), counts) {}
 
-  Counted counted;
-  WireResponder responder{counted};
+  CountingChannel channel;
+  WireResponder responder{channel};
 };
 
 FleetConnection::FleetConnection(FleetProjectors& projectors, std::size_t projector,
                                  FleetProtocol protocol, const std::string& password)
     : projectors_(projectors), projector_(projector), protocol_(protocol) {
   FleetProjector& served = projectors_.At(projector);
-  served.asked.CountConnection();
+  served.counts.CountConnection();
   if (protocol == FleetProtocol::PjLink) {
     pjLink_ = std::make_unique<PjLinkEnd>(projectors_.ChannelOf(projector),
                                           projectors.Served(projector), password);
   } else {
-    wire_ = std::make_unique<WireEnd>(projectors_.ChannelOf(projector), served.asked);
+    wire_ = std::make_unique<WireEnd>(projectors_.ChannelOf(projector), served.counts);
   }
 }
 
-FleetConnection::~FleetConnection() { --projectors_.At(projector_).asked.open; }
+FleetConnection::~FleetConnection() { --projectors_.At(projector_).counts.open; }
 
 std::string FleetConnection::Greeting() const {
   return pjLink_ ? pjLink_->session.Greeting() : std::string();
@@ -83,8 +83,8 @@ std::vector<std::string> FleetConnection::Receive(std::string_view bytes) {
   while (auto exchange = pjLink_->session.Next()) {
     const auto line = PjLink::Parse(exchange->request);
     const bool isQuestion = line && line->parameter.starts_with(PjLink::kQuery);
-    served.asked.CountRequest(isQuestion && PjLink::SameWord(line->command, "POWR"),
-                              line && !isQuestion);
+    served.counts.CountRequest(isQuestion && PjLink::SameWord(line->command, "POWR"),
+                               line && !isQuestion);
     if (!exchange->reply.empty()) replies.push_back(std::move(exchange->reply));
   }
   return replies;

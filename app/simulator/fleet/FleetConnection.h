@@ -11,12 +11,13 @@
 
 enum class FleetProtocol { Wire, PjLink };
 
-/// A projector's end of one connection, without the socket.
+/// A projector's end of one connection, without the socket. Counts itself and its requests in the
+/// projector's `RequestCounts`.
 class FleetConnection {
  public:
   using Clock = std::chrono::steady_clock;
 
-  /// `projectors` must live as long as this. The connection is counted while it lives.
+  /// `projectors` must outlive this.
   FleetConnection(FleetProjectors& projectors, std::size_t projector, FleetProtocol protocol,
                   const std::string& password);
   ~FleetConnection();
@@ -26,20 +27,20 @@ class FleetConnection {
   std::size_t Projector() const { return projector_; }
   FleetProtocol Protocol() const { return protocol_; }
 
-  /// What is sent first, empty for nothing.
+  /// What the projector sends first; may be empty.
   std::string Greeting() const;
-  /// The replies to what is complete by now.
+  /// Takes received bytes, and returns the replies to the requests that are complete now.
   std::vector<std::string> Receive(std::string_view bytes);
-  /// Whether the projector closes it after these.
+  /// Whether the projector closes the connection after the last replies.
   bool IsOver() const;
-  /// Whether the other end has been silent for longer than a projector puts up with.
+  /// Whether the other end has been silent for so long that the projector closes the connection.
   bool IsAbandoned(Clock::time_point now) const;
 
-  std::string unsent;             ///< What the socket did not take yet.
-  Clock::time_point nextPiece{};  ///< Of replies that are sent byte by byte.
+  std::string unsent;             ///< Bytes that the socket has not taken yet.
+  Clock::time_point nextPiece{};  ///< When the next byte is sent, if replies trickle.
 
  private:
-  class Counted;
+  class CountingChannel;
   struct PjLinkEnd;
   struct WireEnd;
 

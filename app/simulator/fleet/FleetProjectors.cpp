@@ -13,7 +13,7 @@ namespace {
 
 constexpr int kErrorParts = 6;
 
-/// Numbers that depend on seed and projector alone.
+/// Random numbers that depend only on seed and projector.
 class Chance {
  public:
   Chance(std::uint64_t seed, std::size_t projector) : seed_(Scrambled(seed, projector)) {}
@@ -40,10 +40,11 @@ std::string OneError(Chance& chance) {
 
 }  // namespace
 
-/// A simulation that may refuse. `FaultChannel` can do more, and is as large as a projector.
-class FleetProjector::Refusing final : public ForwardingChannel {
+/// Refuses commands if the projector's fault demands it. `FaultChannel` can do more, but is as
+/// large as a projector.
+class FleetProjector::RefusingChannel final : public ForwardingChannel {
  public:
-  explicit Refusing(std::shared_ptr<ProjectorChannel> inner)
+  explicit RefusingChannel(std::shared_ptr<ProjectorChannel> inner)
       : ForwardingChannel(std::move(inner)) {}
 
   PjtReply Execute(const PjtCommand& command) override {
@@ -56,12 +57,12 @@ class FleetProjector::Refusing final : public ForwardingChannel {
   Fault::Kind kind = Fault::Kind::None;
 };
 
-void AskedCounts::CountConnection() {
+void RequestCounts::CountConnection() {
   ++connections;
   mostOpen = std::max(mostOpen, ++open);
 }
 
-void AskedCounts::CountRequest(bool isPoll, bool isChange) {
+void RequestCounts::CountRequest(bool isPoll, bool isChange) {
   ++requests;
   if (isChange) ++changes;
   if (!isPoll) return;
@@ -102,7 +103,7 @@ void FleetProjectors::Make(std::size_t index, const Options& options,
   std::snprintf(number.data(), number.size(), "Projector %05zu", index + 1);
   projector.name = number.data();
   projector.simulated = std::make_shared<SimulatedProjector>(std::move(layout));
-  projector.channel = std::make_shared<FleetProjector::Refusing>(projector.simulated);
+  projector.channel = std::make_shared<FleetProjector::RefusingChannel>(projector.simulated);
   SimulatedProjector& simulated = *projector.simulated;
   simulated.SetValue(SettingId::Power, chance.Percent(kPercentOn) ? 1 : 0);
   simulated.SetValue(SettingId::LampTime, chance.Below(kMostLampHours));
@@ -178,13 +179,13 @@ std::size_t FleetProjectors::ChangeOne(std::uint64_t chance) {
 }
 
 ServedProjector FleetProjectors::Served(std::size_t projector) const {
-  const FleetProjector& of = projectors_[projector];
-  const CModelInfo2& model = profiles_[of.model].model->info;
-  ServedProjector served{.protocolClass = of.protocolClass,
+  const FleetProjector& asked = projectors_[projector];
+  const CModelInfo2& model = profiles_[asked.model].model->info;
+  ServedProjector served{.protocolClass = asked.protocolClass,
                          .inputs = InputsOf(model.MySourceList),
-                         .errors = of.errors,
-                         .moreLampHours = of.moreLampHours};
-  served.texts["NAME"] = of.name;
+                         .errors = asked.errors,
+                         .moreLampHours = asked.moreLampHours};
+  served.texts["NAME"] = asked.name;
   served.texts["INF2"] = model.ModelName;
   served.texts["SNUM"] = SerialOf(projector);
   return served;

@@ -14,43 +14,43 @@
 #include "simulator/PjLinkResponder.h"
 #include "simulator/SimulatedProjector.h"
 
-/// How often a projector was asked.
-struct AskedCounts {
+/// How often programs have connected to a projector and sent requests.
+struct RequestCounts {
   using Clock = std::chrono::steady_clock;
 
   std::uint32_t connections = 0;
-  std::uint32_t open = 0;      ///< Connections at this time.
-  std::uint32_t mostOpen = 0;  ///< At any time.
+  std::uint32_t open = 0;      ///< Connections that are open now.
+  std::uint32_t mostOpen = 0;  ///< The most connections that were open at the same time.
   std::uint32_t requests = 0;
   std::uint32_t changes = 0;  ///< Requests that change something.
-  std::uint32_t polls = 0;    ///< Questions for the power state.
+  std::uint32_t polls = 0;    ///< Requests for the power state.
   Clock::time_point lastPoll{};
-  /// Between two questions for the power state.
+  /// The shortest time between two requests for the power state.
   std::chrono::milliseconds shortestPause = std::chrono::milliseconds::max();
 
   void CountConnection();
   void CountRequest(bool isPoll, bool isChange);
 };
 
-/// One of many simulated projectors. A few kilobytes.
+/// One of many simulated projectors. Takes a few kilobytes.
 struct FleetProjector {
   std::string name;
-  std::uint32_t address = 0;  ///< IPv4; 0 while it is nowhere.
+  std::uint32_t address = 0;  ///< IPv4; 0 while it is off the network.
   std::size_t model = 0;      ///< Index of its profile.
   int protocolClass = 2;
-  std::string errors;  ///< Six digits.
-  std::vector<int> moreLampHours;
+  std::string errors;              ///< The six digits of PJLink's error status.
+  std::vector<int> moreLampHours;  ///< Hours of the second and further lamps.
   std::shared_ptr<SimulatedProjector> simulated;
-  class Refusing;
-  std::shared_ptr<Refusing> channel;  ///< In front of the simulation.
+  class RefusingChannel;
+  std::shared_ptr<RefusingChannel> channel;  ///< Leads to `simulated`.
   ServiceFault fault{};
-  AskedCounts asked{};
-  std::string told;  ///< The state of which notices were sent.
+  RequestCounts counts{};
+  std::string notices;  ///< The last status notice of each kind.
 };
 
-/// Many simulated projectors at loopback addresses that follow each other. They differ in model,
-/// protocol class, power state, input, hours of lamps and filter, and some have errors; all of it
-/// depends on the seed alone.
+/// Many simulated projectors at successive loopback addresses. They differ in model, protocol
+/// class, power state, input, hours of lamps and filter, and some have errors. All of this depends
+/// only on the seed.
 class FleetProjectors {
  public:
   struct Options {
@@ -61,7 +61,7 @@ class FleetProjectors {
     std::chrono::milliseconds coolDown{30'000};
   };
 
-  /// Made after the profiles, one after the other and again from the first.
+  /// Each projector is made from the next profile; after the last profile comes the first again.
   FleetProjectors(std::vector<FleetProfile> profiles, const Options& options);
 
   std::size_t Count() const { return projectors_.size(); }
@@ -71,23 +71,24 @@ class FleetProjectors {
     return profiles_[projectors_[projector].model];
   }
 
-  /// The projector with its fault.
+  /// The channel to the projector, which refuses commands if the projector's fault demands it.
   std::shared_ptr<ProjectorChannel> ChannelOf(std::size_t projector) const;
-  /// Who has an address.
+  /// The projector at an address; nothing if there is none.
   std::optional<std::size_t> Find(std::uint32_t address) const;
-  /// Takes a projector to an address that nobody has, or nowhere (0).
+  /// Gives a projector another address, or takes it off the network (0). False if another projector
+  /// has the address.
   bool Move(std::size_t projector, std::uint32_t address);
   void SetFault(std::size_t projector, const ServiceFault& fault);
   void SetErrors(std::size_t projector, const std::string& digits);
-  /// Something happens at a projector: `chance` says which one, and what.
+  /// Changes something at one projector, and returns which. Both depend only on `chance`.
   std::size_t ChangeOne(std::uint64_t chance);
 
-  /// What it shows over PJLink.
+  /// What the projector reports over PJLink.
   ServedProjector Served(std::size_t projector) const;
-  /// "02:00:00:00:00:01", the same wherever it is.
+  /// "02:00:00:00:00:01"; does not depend on the address.
   static std::string MacOf(std::size_t projector);
   static std::string SerialOf(std::size_t projector);
-  /// As a profile has it.
+  /// The projector's identity in a profile.
   std::string IdentityOf(std::size_t projector) const;
 
  private:

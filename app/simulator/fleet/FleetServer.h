@@ -1,89 +1,55 @@
 #pragma once
 
-#include <chrono>
+#include <cstddef>
 #include <cstdint>
-#include <functional>
-#include <map>
-#include <memory>
 #include <optional>
 #include <string>
-#include <string_view>
-#include <vector>
 
-#include <QObject>
-#include <QSocketNotifier>
-#include <QTimer>
-
-#include "app/simulator/fleet/FleetConnection.h"
+#include "app/simulator/fleet/FleetConnections.h"
+#include "app/simulator/fleet/FleetEvents.h"
+#include "app/simulator/fleet/FleetNotices.h"
 #include "app/simulator/fleet/FleetProjectors.h"
 #include "app/simulator/fleet/FleetSockets.h"
+#include "app/simulator/fleet/FleetTimer.h"
 
-/// Serves many projectors over our wire and PJLink while the event loop runs: a port of each at
+/// Serves many projectors over our wire and PJLink while the event loop runs: one port of each at
 /// every loopback address. A connection belongs to the projector at the address that it was made
-/// to; where there is none, it is reset. Answers the search of PJLink class 2 and sends its status
-/// notices.
-class FleetServer final : public QObject {
+/// to, and is reset if there is none. Also answers the search of PJLink class 2 and sends its
+/// status notices.
+class FleetServer {
  public:
   struct Options {
-    std::uint16_t wirePort = 0;                ///< 0 takes one that is free.
-    std::uint16_t pjLinkPort = 0;              ///< Of TCP and UDP.
-    std::string password;                      ///< Of PJLink; empty for none.
-    std::optional<FleetSockets::End> notices;  ///< Who gets status notices.
+    std::uint16_t wirePort = 0;                     ///< 0 chooses a free port.
+    std::uint16_t pjLinkPort = 0;                   ///< Of TCP and UDP; 0 chooses a free port.
+    std::string password;                           ///< Of PJLink; empty for none.
+    std::optional<FleetSockets::Endpoint> notices;  ///< Where to send status notices.
   };
 
-  /// `projectors` must live as long as this.
-  FleetServer(FleetProjectors& projectors, Options options);
-  ~FleetServer() override;
+  /// `projectors` must outlive this.
+  FleetServer(FleetProjectors& projectors, const Options& options);
+  ~FleetServer();
+  FleetServer(const FleetServer&) = delete;
+  FleetServer& operator=(const FleetServer&) = delete;
 
-  /// Whether the ports could be had; errno says why not.
+  /// Returns whether all ports could be opened; otherwise errno has the reason.
   bool Listen();
-  std::uint16_t WirePort() const { return options_.wirePort; }
-  std::uint16_t PjLinkPort() const { return options_.pjLinkPort; }
+  std::uint16_t WirePort() const { return wirePort_; }
+  std::uint16_t PjLinkPort() const { return pjLinkPort_; }
 
-  /// Ends a projector's connections without a word, as when it loses its network.
-  void Disconnect(std::size_t projector);
-  // To whoever gets notices.
-  /// Tells that the projector is on the network, and its state.
-  void TellPresence(std::size_t projector);
-  /// Tells what has changed of its state since.
-  void TellChanges(std::size_t projector);
+  /// Resets a projector's connections, as when it loses its network.
+  void Disconnect(std::size_t projector) { connections_.Disconnect(projector); }
+  FleetNotices& Notices() { return notices_; }
 
  private:
-  using Clock = std::chrono::steady_clock;
-  using Action = std::function<void()>;
-
-  void HandleEvents();
-  bool Watch(int descriptor, std::uint32_t events);
+  void Handle(int descriptor, std::uint32_t events);
   void AcceptAll(int listener, FleetProtocol protocol);
-  void Serve(int socket, FleetProtocol protocol);
-  void Read(int socket);
-  void Reply(int socket, std::string_view reply);
-  void SendSome(int socket, std::string_view bytes);
-  void SendRest(int socket);
-  void SendLater(int socket, Clock::time_point due, std::string bytes, bool ends);
-  void End(int socket);
-  void EndWhenSent(int socket);
-  FleetConnection* ConnectionAt(int socket);
 
-  void AnswerSearch();
-  void EachInTurn(const std::function<void(std::size_t)>& action);
-  void AnswerSearchFrom(std::size_t projector, FleetSockets::End asker);
-  void Notify(const FleetProjector& projector, std::string_view text);
-
-  void RunAt(Clock::time_point due, Action action);
-  void RunDue();
-  void EndAbandoned();
-
-  FleetProjectors& projectors_;
-  Options options_;
-  int events_ = -1;  // epoll
+  std::uint16_t wirePort_;
+  std::uint16_t pjLinkPort_;
   int wireListener_ = -1;
   int pjLinkListener_ = -1;
-  int datagrams_ = -1;
-  std::unique_ptr<QSocketNotifier> notifier_;
-  std::vector<std::unique_ptr<FleetConnection>> connections_;  // by descriptor
-  std::vector<std::uint32_t> generations_;  // of connections with the same descriptor
-  std::multimap<Clock::time_point, Action> due_;
-  QTimer timer_;
-  QTimer tidying_;
+  FleetEvents events_;
+  FleetTimer timer_;
+  FleetNotices notices_;
+  FleetConnections connections_;
 };

@@ -32,14 +32,15 @@ FleetService::FleetService(std::vector<FleetProfile> profiles, const FleetOption
   for (std::size_t i = 0; i < faults.size(); ++i) SetFault(i, faults[i]);
   QObject::connect(&changing_, &QTimer::timeout, &changing_, [this, due = 0.0]() mutable {
     for (due += options_.changes * kChangesEvery / 1000.0; due >= 1; --due) {
-      server_.TellChanges(projectors_.ChangeOne(Scrambled(options_.projectors.seed, ++changed_)));
+      server_.Notices().SendChanges(
+          projectors_.ChangeOne(Scrambled(options_.projectors.seed, ++changed_)));
     }
   });
 }
 
 QString FleetService::Start() {
   if (!server_.Listen()) {
-    return QStringLiteral("the ports of the fleet cannot be had: %1").arg(qt_error_string());
+    return QStringLiteral("cannot open the ports of the fleet: %1").arg(qt_error_string());
   }
   if (options_.changes > 0) changing_.start(kChangesEvery);
   return {};
@@ -91,16 +92,16 @@ QString FleetService::WriteCounts() const {
       "projector,address,connections,most at once,requests,changes,polls,shortest pause in ms\n";
   for (std::size_t i = 0; i < Count(); ++i) {
     const FleetProjector& projector = projectors_.At(i);
-    const AskedCounts& asked = projector.asked;
-    const bool hasPause = asked.polls > 1;
+    const RequestCounts& counts = projector.counts;
+    const bool hasPause = counts.polls > 1;
     text += QByteArray::fromStdString(std::to_string(i + 1)) + ',' +
             QByteArray::fromStdString(AddressText(projector.address));
     for (const std::uint32_t count :
-         {asked.connections, asked.mostOpen, asked.requests, asked.changes, asked.polls}) {
+         {counts.connections, counts.mostOpen, counts.requests, counts.changes, counts.polls}) {
       text += ',' + QByteArray::number(count);
     }
     text += ',';
-    if (hasPause) text += QByteArray::number(static_cast<qlonglong>(asked.shortestPause.count()));
+    if (hasPause) text += QByteArray::number(static_cast<qlonglong>(counts.shortestPause.count()));
     text += '\n';
   }
   return WriteWholeFile(options_.countsFile, text);
@@ -140,30 +141,30 @@ QString FleetService::ObeyOne(std::size_t projector, const QString& verb, const 
       return QStringLiteral("error: another projector has %1").arg(what);
     }
     server_.Disconnect(projector);
-    server_.TellPresence(projector);
+    server_.Notices().Announce(projector);
     return kDone;
   } else {
     return Unknown();
   }
-  server_.TellChanges(projector);
+  server_.Notices().SendChanges(projector);
   return kDone;
 }
 
 QString FleetService::Count(std::optional<std::size_t> projector) const {
-  AskedCounts total;
-  const auto add = [&total](const AskedCounts& asked) {
-    total.connections += asked.connections;
-    total.open += asked.open;
-    total.mostOpen = std::max(total.mostOpen, asked.mostOpen);
-    total.requests += asked.requests;
-    total.changes += asked.changes;
-    total.polls += asked.polls;
-    total.shortestPause = std::min(total.shortestPause, asked.shortestPause);
+  RequestCounts total;
+  const auto add = [&total](const RequestCounts& counts) {
+    total.connections += counts.connections;
+    total.open += counts.open;
+    total.mostOpen = std::max(total.mostOpen, counts.mostOpen);
+    total.requests += counts.requests;
+    total.changes += counts.changes;
+    total.polls += counts.polls;
+    total.shortestPause = std::min(total.shortestPause, counts.shortestPause);
   };
   if (projector) {
-    add(projectors_.At(*projector).asked);
+    add(projectors_.At(*projector).counts);
   } else {
-    for (std::size_t i = 0; i < projectors_.Count(); ++i) add(projectors_.At(i).asked);
+    for (std::size_t i = 0; i < projectors_.Count(); ++i) add(projectors_.At(i).counts);
   }
   const bool hasPause = total.shortestPause != std::chrono::milliseconds::max();
   return QStringLiteral(

@@ -13,39 +13,39 @@
 #include "app/simulator/fleet/FleetProjectors.h"
 #include "app/simulator/fleet/FleetServer.h"
 
-/// How profiles lead to the projectors of a fleet.
+/// The kind of connection in the profiles of a fleet.
 enum class FleetLink { PjLink, Network, Mixed };
 
 struct FleetOptions {
   FleetProjectors::Options projectors{};
   FleetServer::Options server{};
   std::vector<FaultShare> faults{};
-  int changes = 0;  ///< Changes of state in a second that happen by themselves.
+  int changes = 0;  ///< How many random changes of state happen in a second.
   FleetLink link = FleetLink::PjLink;
-  QString countsFile{};  ///< Where to write how often each projector was asked; empty for nowhere.
+  QString countsFile{};  ///< File for the projectors' `RequestCounts`; empty for none.
 };
 
-/// A fleet as the program serves it: disturbed by faults, by itself and by the lines of the control
+/// Serves a fleet, and disturbs it: with faults, random changes, and the commands of the control
 /// port.
 class FleetService final : public ControlledProjectors {
  public:
   FleetService(std::vector<FleetProfile> profiles, const FleetOptions& options);
 
-  /// What went wrong, one line; empty when the fleet is served.
+  /// Starts to serve. Returns one line about what went wrong, or nothing.
   QString Start();
 
-  /// Where the projectors are, a line for each protocol.
+  /// The projectors' addresses and ports, in one line for each protocol.
   std::string Addresses() const;
-  /// A profile file for them, made of the one that they came from.
+  /// A profile file for the projectors, made from the one that describes their models.
   QByteArray Profiles(const QByteArray& original) const;
-  /// Writes how often each was asked, if there is a file for it. One line that says what went
-  /// wrong, or nothing.
+  /// Writes the projectors' `RequestCounts` to the file for them, if there is one. Returns one line
+  /// about what went wrong, or nothing.
   QString WriteCounts() const;
 
   std::size_t Count() const override { return projectors_.Count(); }
   void SetFault(std::size_t projector, const ServiceFault& fault) override;
-  /// "address 127.64.0.9", "address none", "power 0", "errors 020000", "count"; for all of them
-  /// "count", and "counts", which writes the file.
+  /// For one projector "address 127.64.0.9", "address none", "power 0", "errors 020000" and
+  /// "count"; for all together "count", and "counts", which writes the file.
   std::optional<QString> Obey(std::optional<std::size_t> projector, const QString& line) override;
 
  private:

@@ -24,22 +24,22 @@ sockaddr_in MakeAddress(std::uint32_t address, std::uint16_t port) {
   return made;
 }
 
-End EndOf(const sockaddr_in& address) {
+Endpoint EndpointOf(const sockaddr_in& address) {
   return {ntohl(address.sin_addr.s_addr), ntohs(address.sin_port)};
 }
 
-bool Set(int socket, int level, int option, int value) {
+bool SetOption(int socket, int level, int option, int value) {
   return setsockopt(socket, level, option, &value, sizeof value) == 0;
 }
 
-// Bound to every address of the loopback interface, and to no other.
-int Bound(int type, std::uint16_t port) {
+/// A socket that is bound to every address of the loopback interface, and to no other.
+int OpenBound(int type, std::uint16_t port) {
   const int made = socket(AF_INET, type | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
   if (made < 0) return made;
   constexpr char kLoopback[] = "lo";
   const sockaddr_in address = MakeAddress(INADDR_ANY, port);
   if (setsockopt(made, SOL_SOCKET, SO_BINDTODEVICE, kLoopback, sizeof kLoopback) == 0 &&
-      Set(made, SOL_SOCKET, SO_REUSEADDR, 1) &&
+      SetOption(made, SOL_SOCKET, SO_REUSEADDR, 1) &&
       bind(made, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0) {
     return made;
   }
@@ -52,9 +52,9 @@ int Bound(int type, std::uint16_t port) {
 }  // namespace
 
 int Listen(std::uint16_t port) {
-  const int made = Bound(SOCK_STREAM, port);
+  const int made = OpenBound(SOCK_STREAM, port);
   if (made < 0) return made;
-  Set(made, IPPROTO_TCP, TCP_NODELAY, 1);  // connections inherit it
+  SetOption(made, IPPROTO_TCP, TCP_NODELAY, 1);  // connections inherit it
   if (listen(made, kWaiting) == 0) return made;
   const int error = errno;
   close(made);
@@ -66,19 +66,19 @@ int Accept(int listener) {
   return accept4(listener, nullptr, nullptr, SOCK_NONBLOCK | SOCK_CLOEXEC);
 }
 
-int Datagrams(std::uint16_t port) {
-  const int made = Bound(SOCK_DGRAM, port);
+int OpenDatagrams(std::uint16_t port) {
+  const int made = OpenBound(SOCK_DGRAM, port);
   if (made < 0) return made;
-  Set(made, IPPROTO_IP, IP_PKTINFO, 1);
-  Set(made, SOL_SOCKET, SO_RCVBUF, kReceiveBuffer);
+  SetOption(made, IPPROTO_IP, IP_PKTINFO, 1);
+  SetOption(made, SOL_SOCKET, SO_RCVBUF, kReceiveBuffer);
   return made;
 }
 
-End LocalEnd(int socket) {
+Endpoint LocalEndpoint(int socket) {
   sockaddr_in address{};
   socklen_t size = sizeof address;
   if (getsockname(socket, reinterpret_cast<sockaddr*>(&address), &size) != 0) return {};
-  return EndOf(address);
+  return EndpointOf(address);
 }
 
 void Reset(int socket) {
@@ -101,7 +101,7 @@ std::optional<Datagram> Receive(int socket) {
   message.msg_controllen = control.size();
   const ssize_t size = recvmsg(socket, &message, 0);
   if (size < 0) return std::nullopt;
-  Datagram datagram{EndOf(from), 0, {text.data(), static_cast<std::size_t>(size)}};
+  Datagram datagram{EndpointOf(from), 0, {text.data(), static_cast<std::size_t>(size)}};
   for (cmsghdr* header = CMSG_FIRSTHDR(&message); header; header = CMSG_NXTHDR(&message, header)) {
     if (header->cmsg_level != IPPROTO_IP || header->cmsg_type != IP_PKTINFO) continue;
     in_pktinfo info{};
@@ -111,7 +111,7 @@ std::optional<Datagram> Receive(int socket) {
   return datagram;
 }
 
-bool Send(int socket, std::uint32_t from, const End& to, std::string_view text) {
+bool Send(int socket, std::uint32_t from, const Endpoint& to, std::string_view text) {
   in_pktinfo info{};
   info.ipi_spec_dst.s_addr = htonl(from);
   alignas(cmsghdr) std::array<char, CMSG_SPACE(sizeof info)> control{};

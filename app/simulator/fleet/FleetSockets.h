@@ -4,36 +4,36 @@
 #include <optional>
 #include <string_view>
 
-/// The sockets of a fleet, on the loopback interface. Descriptors do not block; whoever gets one
-/// closes it. Where there is none, errno says why. Addresses and ports are numbers as people write
-/// them, 0x7F000001 for 127.0.0.1.
+/// Sockets on the loopback interface that do not block. The caller closes the descriptors that it
+/// gets; −1 means failure, and errno has the reason. Addresses and ports are in the machine's byte
+/// order: 0x7F000001 is 127.0.0.1.
 namespace FleetSockets {
 
-struct End {
+struct Endpoint {
   std::uint32_t address = 0;
   std::uint16_t port = 0;
 };
 
-/// Listens on the port at every loopback address, 0 for any that is free; −1 when it cannot be had.
+/// Listens on the port at every loopback address; 0 chooses a free port.
 int Listen(std::uint16_t port);
-/// The next connection; −1 when none waits.
+/// The next connection; −1 with `EAGAIN` if none waits.
 int Accept(int listener);
-/// Takes datagrams to the port at every loopback address.
-int Datagrams(std::uint16_t port);
+/// Receives datagrams to the port at every loopback address.
+int OpenDatagrams(std::uint16_t port);
 
 /// The address and port of this end.
-End LocalEnd(int socket);
+Endpoint LocalEndpoint(int socket);
 /// Closes a connection as if nothing listened there.
 void Reset(int socket);
 
 struct Datagram {
-  End from;
+  Endpoint from;
   std::uint32_t to = 0;  ///< The address that it was sent to.
   std::string_view text;
 };
-/// The next datagram, nothing when none waits. Its text is valid until the next call.
+/// The next datagram; nothing if none waits. Its text is valid until the next call.
 std::optional<Datagram> Receive(int socket);
-/// Sends from one of the machine's addresses.
-bool Send(int socket, std::uint32_t from, const End& to, std::string_view text);
+/// Sends from the address `from`, which must be one of the machine's.
+bool Send(int socket, std::uint32_t from, const Endpoint& to, std::string_view text);
 
 }  // namespace FleetSockets

@@ -2,8 +2,6 @@
 
 #include <atomic>
 #include <chrono>
-#include <memory>
-#include <mutex>
 #include <optional>
 #include <string>
 #include <utility>
@@ -12,10 +10,10 @@
 #include "Namespace.h"
 #include "ProjectorCommonExport.h"
 #include "device/ProjectorChannel.h"
+#include "device/channels/PjLinkInputInquiry.h"
+#include "device/channels/PjLinkSocket.h"
 #include "device/protocol/PjLinkInputs.h"
 #include "device/protocol/PjLinkSession.h"
-
-class QTcpSocket;
 
 namespace AdvancedControl {
 
@@ -99,33 +97,18 @@ class PROJECTOR_COMMON_EXPORT PjLinkChannel : public ProjectorChannel {
   std::string Address() const;
 
  private:
-  using Clock = std::chrono::steady_clock;
-
-  /// Starts `work` and drives the session until it is finished.
+  /// Starts `work` and performs the session's steps until it is finished.
   void Run(const auto& work);
-  void ReceiveUnsolicited();
-  void Drive(const PjLinkStep& step);
-  void Connect(const PjLinkStep& step);
-  void Listen(std::chrono::milliseconds time);
   bool CanConnect();
   PjLinkResult Ask(const PjLinkQuestion& question);
 
-  const std::string host_;
-  const int port_;
   const Limits limits_;
   PjLinkSession session_;
+  PjLinkSocket socket_;
   std::chrono::milliseconds longest_ = limits_.answer;
-  std::optional<char> rememberedClass_;
-  std::unique_ptr<QTcpSocket> socket_;
   std::atomic<ConnectionState> state_ = ConnectionState::Unused;
   std::atomic<std::optional<PowerState>> power_;
-
-  std::atomic<bool> asksForInputs_ = false;
-  PjLinkInputs inputs_;
-  std::chrono::milliseconds pause_ = limits_.firstPause;
-  Clock::time_point nextTry_{};
-  std::mutex inputsMutex_;
-  std::optional<SourceList> reportedInputs_;  ///< Protected by the mutex.
+  PjLinkInputInquiry inquiry_;
 };
 
 }  // namespace AdvancedControl

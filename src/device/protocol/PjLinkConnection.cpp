@@ -2,22 +2,16 @@
 
 #include <utility>
 
-#include "device/protocol/PjLinkLine.h"
-
 namespace AdvancedControl {
 
 using Kind = PjLinkStep::Kind;
 
 void PjLinkConnection::Ask(PjLinkRequest request, PjLinkLimits::Time time, PjLinkTime now) {
-  request_ = std::move(request);
-  answerTime_ = time;
-  answer_ = {};
-  sawOtherLine_ = false;
-  mayRepeat_ = request_.parameter.starts_with(PjLink::kQuery);
+  exchange_.Start(std::move(request), time);
   // The rest of an incomplete line would arrive later.
   if (reader_.HasPart()) Drop();
   if (!isOpen_) return Open(now);
-  stage_ = !mayRepeat_ && replies_ == 1 ? Stage::Settling : Stage::Sending;
+  stage_ = !exchange_.IsQuestion() && replies_ == 1 ? Stage::Settling : Stage::Sending;
   until_ = repliedAt_ + limits_.closing;
 }
 
@@ -25,9 +19,7 @@ PjLinkStep PjLinkConnection::Next(PjLinkTime now) {
   const bool isLate = now >= until_;
   if (stage_ == Stage::Connecting && isLate) GiveUp(ConnectionState::NotReachable);
   if (stage_ == Stage::Greeting && isLate) GiveUp(ConnectionState::NoAnswer);
-  if (stage_ == Stage::Awaiting && isLate) {
-    GiveUp(sawOtherLine_ ? ConnectionState::NotUnderstood : ConnectionState::NoAnswer);
-  }
+  if (stage_ == Stage::Awaiting && isLate) GiveUp(exchange_.Silence());
   if (std::exchange(closes_, false)) return {.kind = Kind::Close};
   switch (stage_) {
     case Stage::Idle:
@@ -35,18 +27,15 @@ PjLinkStep PjLinkConnection::Next(PjLinkTime now) {
     case Stage::Pausing:
       if (!isLate) return {.kind = Kind::Wait, .until = until_};
       stage_ = Stage::Connecting;
-      until_ = connectBy_;
+      until_ = attempts_.Deadline();
       return {.kind = Kind::Connect, .until = until_};
     case Stage::Settling:
       if (!isLate) return {.kind = Kind::Wait, .until = until_};
       [[fallthrough]];
-    case Stage::Sending: {
+    case Stage::Sending:
       stage_ = Stage::Awaiting;
-      until_ = now + answerTime_;
-      answer_.sent = true;
-      const PjLink::Line line{request_.protocolClass, request_.command, ' ', request_.parameter};
-      return {.kind = Kind::Send, .bytes = std::exchange(proof_, {}) + PjLink::Format(line) + '\r'};
-    }
+      until_ = now + exchange_.AnswerTime();
+      return {.kind = Kind::Send, .bytes = login_.TakeProof() + exchange_.Send()};
     default:
       return {.kind = Kind::Wait, .until = until_};
   }
@@ -71,7 +60,7 @@ void PjLinkConnection::Received(std::string_view bytes, PjLinkTime now) {
     const auto line = reader_.Next();
     if (!line) break;
     if (stage_ == Stage::Greeting) HandleGreeting(*line);
-    if (stage_ == Stage::Awaiting) HandleReply(*line, now);
+    if (stage_ == Stage::Awaiting) HandleLine(*line, now);
   }
   if (reader_.IsTooLong()) GiveUp(ConnectionState::NotUnderstood);
 }
@@ -88,7 +77,7 @@ void PjLinkConnection::Closed(PjLinkTime now) {
       Open(now);
       break;
     case Stage::Awaiting:
-      if (std::exchange(mayRepeat_, false)) {
+      if (exchange_.TakeRepetition()) {
         Open(now);
       } else {
         Finish(ConnectionState::Lost);
@@ -101,56 +90,41 @@ void PjLinkConnection::Closed(PjLinkTime now) {
 
 void PjLinkConnection::Open(PjLinkTime now) {
   state_ = ConnectionState::Connecting;
-  connectBy_ = now + limits_.connect;
-  pause_ = limits_.pause;
-  problem_.reset();
+  attempts_.Start(now + limits_.connect, limits_.pause);
   stage_ = Stage::Pausing;
   until_ = now;
 }
 
 void PjLinkConnection::OpenLater(ConnectionState problem, PjLinkTime now) {
-  // The look-up of a known name ran out of time.
-  const bool isUnknown = problem == ConnectionState::NameUnknown;
-  if (isUnknown && problem_) problem = *problem_;
-  problem_ = problem;
-  until_ = now + pause_;
-  if (isUnknown || until_ >= connectBy_) return Finish(problem);
+  const auto next = attempts_.Fail(problem, now);
+  if (!next) return Finish(attempts_.Problem());
   stage_ = Stage::Pausing;
-  pause_ *= 2;
+  until_ = *next;
 }
 
 void PjLinkConnection::HandleGreeting(std::string_view line) {
-  const auto seed = PjLink::ParseGreeting(line);
-  if (!seed) {
-    return GiveUp(PjLink::SameWord(line, PjLink::kWrongPassword) ? ConnectionState::PasswordRequired
-                                                                 : ConnectionState::NotUnderstood);
-  }
-  proof_ = seed->empty() ? std::string() : PjLink::Digest(*seed, password_);
-  hasGreeted_ = true;
+  if (const auto problem = login_.Take(line)) return GiveUp(*problem);
   stage_ = Stage::Sending;
 }
 
-void PjLinkConnection::HandleReply(const std::string& line, PjLinkTime now) {
-  const auto reply = PjLink::Parse(line);
-  const bool isReply = reply && reply->separator == '=';
-  if (isReply && PjLink::SameWord(reply->command, request_.command)) {
-    answer_.parameter = reply->parameter;
-    ++replies_;
-    repliedAt_ = now;
-    return Finish(ConnectionState::Connected);
-  }
-  if (PjLink::SameWord(line, PjLink::kWrongPassword)) {
-    answer_.sent = false;  // without it the projector carries nothing out
-    hasGreeted_ = false;
-    return GiveUp(ConnectionState::PasswordRequired);
-  }
-  if (isReply) return;
-  // The answer to a change may still follow.
-  sawOtherLine_ = true;
-  if (std::exchange(mayRepeat_, false)) {
-    stage_ = Stage::Sending;
-  } else if (request_.parameter.starts_with(PjLink::kQuery)) {
-    GiveUp(ConnectionState::NotUnderstood);
+void PjLinkConnection::HandleLine(const std::string& line, PjLinkTime now) {
+  switch (exchange_.Take(line)) {
+    case PjLinkExchange::Line::Answer:
+      ++replies_;
+      repliedAt_ = now;
+      return Finish(ConnectionState::Connected);
+    case PjLinkExchange::Line::PasswordRefused:
+      login_.Refuse();
+      return GiveUp(ConnectionState::PasswordRequired);
+    case PjLinkExchange::Line::OtherReply:
+      return;
+    case PjLinkExchange::Line::Noise:
+      if (exchange_.TakeRepetition()) {
+        stage_ = Stage::Sending;
+      } else if (exchange_.IsQuestion()) {
+        GiveUp(ConnectionState::NotUnderstood);
+      }
+      return;  // the answer to a change may still follow
   }
 }
 

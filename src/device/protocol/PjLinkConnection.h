@@ -1,13 +1,16 @@
 #pragma once
 
 #include <chrono>
-#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "Namespace.h"
 #include "ProjectorCommonExport.h"
 #include "device/ConnectionState.h"
+#include "device/protocol/PjLinkAttempts.h"
+#include "device/protocol/PjLinkExchange.h"
+#include "device/protocol/PjLinkLogin.h"
 #include "device/protocol/PjLinkReader.h"
 #include "device/protocol/SessionStep.h"
 
@@ -15,18 +18,6 @@ namespace AdvancedControl {
 
 using PjLinkTime = SessionTime;
 using PjLinkStep = SessionStep;
-
-struct PjLinkRequest {
-  char protocolClass = '1';
-  std::string command{};
-  std::string parameter{};
-};
-
-struct PjLinkAnswer {
-  /// Parameter of the reply, which may be `OK` or an error; nothing without a reply.
-  std::optional<std::string> parameter{};
-  bool sent = false;  ///< Whether the projector may have carried out the request.
-};
 
 struct PjLinkLimits {
   using Time = std::chrono::milliseconds;
@@ -63,15 +54,15 @@ struct PjLinkLimits {
 class PROJECTOR_COMMON_EXPORT PjLinkConnection {
  public:
   PjLinkConnection(std::string password, const PjLinkLimits& limits)
-      : password_(std::move(password)), limits_(limits) {}
+      : limits_(limits), login_(std::move(password)) {}
 
   /// Starts a request. `time` is the time-out for its answer.
   void Ask(PjLinkRequest request, PjLinkLimits::Time time, PjLinkTime now);
   PjLinkStep Next(PjLinkTime now);
-  const PjLinkAnswer& Answer() const { return answer_; }
+  const PjLinkAnswer& Answer() const { return exchange_.Answer(); }
   ConnectionState State() const { return state_; }
   /// Whether the projector has accepted a connection, and the password, at least once.
-  bool HasGreeted() const { return hasGreeted_; }
+  bool HasGreeted() const { return login_.HasGreeted(); }
 
   // Reports of the driver; allowed at any time.
 
@@ -81,38 +72,37 @@ class PROJECTOR_COMMON_EXPORT PjLinkConnection {
   void Closed(PjLinkTime now);
 
  private:
-  enum class Stage { Idle, Pausing, Connecting, Greeting, Settling, Sending, Awaiting };
+  enum class Stage : std::uint8_t {
+    Idle,
+    Pausing,
+    Connecting,
+    Greeting,
+    Settling,
+    Sending,
+    Awaiting
+  };
 
   void Open(PjLinkTime now);
   void OpenLater(ConnectionState problem, PjLinkTime now);
   void HandleGreeting(std::string_view line);
-  void HandleReply(const std::string& line, PjLinkTime now);
+  void HandleLine(const std::string& line, PjLinkTime now);
   void GiveUp(ConnectionState problem);
   void Finish(ConnectionState state);
   void Drop();
 
-  const std::string password_;
   const PjLinkLimits limits_;
-  PjLinkRequest request_;
-  PjLinkLimits::Time answerTime_{};
-  PjLinkAnswer answer_;
-  bool mayRepeat_ = false;
-  bool sawOtherLine_ = false;  ///< A line other than a reply came after the request was sent.
-
+  PjLinkExchange exchange_;
+  PjLinkLogin login_;
+  PjLinkAttempts attempts_;
   Stage stage_ = Stage::Idle;
   ConnectionState state_ = ConnectionState::Unused;
-  bool hasGreeted_ = false;
   bool isOpen_ = false;  ///< As reported by the driver.
   bool closes_ = false;  ///< The driver must close it.
   int replies_ = 0;      ///< Number of replies on this connection.
   PjLinkTime repliedAt_{};
-  PjLinkTime until_{};  ///< End of the pause, of connecting, of settling, or of waiting for the
-                        ///< answer.
-  PjLinkTime connectBy_{};
-  PjLinkLimits::Time pause_{};
-  std::optional<ConnectionState> problem_;  ///< Result of the last attempt to connect.
+  /// End of the pause, of connecting, of settling, or of waiting for the answer.
+  PjLinkTime until_{};
   PjLinkReader reader_;
-  std::string proof_;  ///< Sent before the session's first request.
 };
 
 }  // namespace AdvancedControl

@@ -67,6 +67,10 @@ bool SameWord(std::string_view a, std::string_view b) {
   return std::ranges::equal(a, b, {}, Upper, Upper);
 }
 
+bool IsError(std::string_view parameter) {
+  return parameter.size() == 4 && SameWord(parameter.substr(0, 3), "ERR");
+}
+
 std::string FormatGreeting(std::string_view seed) {
   return std::string(kGreeting) + (seed.empty() ? "0" : "1 ") + std::string(seed);
 }

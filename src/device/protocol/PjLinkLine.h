@@ -49,6 +49,9 @@ PROJECTOR_COMMON_EXPORT bool IsNotice(std::string_view datagram);
 /// Whether the words are equal, ignoring the case of ASCII letters.
 PROJECTOR_COMMON_EXPORT bool SameWord(std::string_view a, std::string_view b);
 
+/// Whether the parameter of a reply is an error, known here or not.
+PROJECTOR_COMMON_EXPORT bool IsError(std::string_view parameter);
+
 /// The line with which a projector opens a session. `seed` is empty for a session without a
 /// password.
 PROJECTOR_COMMON_EXPORT std::string FormatGreeting(std::string_view seed);

@@ -1,37 +1,19 @@
 #pragma once
 
-#include <map>
+#include <algorithm>
+#include <cstdint>
 #include <optional>
 #include <string>
-#include <string_view>
 
 #include "Namespace.h"
 #include "ProjectorCommonExport.h"
 #include "device/ProjectorChannel.h"
 #include "device/protocol/PjLinkConnection.h"
-#include "device/protocol/PjLinkMapping.h"
+#include "device/protocol/PjLinkExecution.h"
+#include "device/protocol/PjLinkKnownClass.h"
+#include "device/protocol/PjLinkQuestion.h"
 
 namespace AdvancedControl {
-
-/// A question to a projector that is not for a setting.
-struct PjLinkQuestion {
-  PjLinkClass protocolClass = PjLinkClass::First;
-  std::string command{};
-  std::string parameter = "?";
-};
-
-/// The result of a question.
-struct PjLinkResult {
-  enum class Kind {
-    Text,
-    None,    ///< The projector does not support the question; `text` is empty.
-    NotNow,  ///< The projector does not answer it in its present state; `text` is empty.
-    Lost,    ///< No answer came; `text` is empty.
-  };
-
-  Kind kind = Kind::Lost;
-  std::string text{};  ///< UTF-8, without control characters.
-};
 
 /// A session with a PJLink projector: translates commands and questions into requests, interprets
 /// the answers, and decides when to ask again and when to give up. It has no socket and no clock: a
@@ -54,95 +36,53 @@ struct PjLinkResult {
 class PROJECTOR_COMMON_EXPORT PjLinkSession {
  public:
   PjLinkSession(const std::string& password, const PjLinkLimits& limits)
-      : limits_(limits), connection_(password, limits) {}
+      : longestAnswer_(limits.answer), connection_(password, limits) {}
 
   /// Sets the time-out of further requests. The time-out of the limits still applies if it is
   /// shorter.
-  void GiveUpAfter(PjLinkLimits::Time time) { longest_ = time; }
+  void GiveUpAfter(PjLinkLimits::Time time) { answerTime_ = std::min(longestAnswer_, time); }
 
   void Begin(const PjtCommand& command, PjLinkTime now);
   void Begin(PjLinkQuestion question, PjLinkTime now);
-  /// Keeps the value that the last command read. If the next command reads the same within a
+  /// Keeps the value that the next command reads. If the command after it reads the same within a
   /// second, this value is used.
-  void KeepLast() { keepsLast_ = true; }
+  void KeepNext() { execution_.KeepNext(); }
 
   PjLinkStep Next(PjLinkTime now);
   PjLinkConnection& Connection() { return connection_; }
 
-  const PjtReply& Reply() const { return reply_; }
+  const PjtReply& Reply() const { return execution_.Reply(); }
   const PjLinkResult& Result() const { return result_; }
   ConnectionState State() const { return connection_.State(); }
   bool HasGreeted() const { return connection_.HasGreeted(); }
 
   /// The class, '1' or '2', once it is known.
-  std::optional<char> ProtocolClass() const { return class_; }
+  std::optional<char> ProtocolClass() const { return class_.Value(); }
   /// Uses a class from an earlier session.
   void RememberClass(char protocolClass);
   /// The power state that the projector reported last.
-  std::optional<PowerState> Power() const { return power_; }
+  std::optional<PowerState> Power() const { return execution_.Power(); }
 
  private:
-  enum class Stage { Idle, Class, Command, Power, Confirm, Question, Pausing };
+  enum class Stage : std::uint8_t { Idle, AskingClass, Asking, Pausing };
 
-  using Reader = decltype(PjLinkMapping::value);
-
-  /// The last answer to a command's question.
-  struct KeptAnswer {
-    std::string parameter;
-    Reader reader;  ///< The reader that has already used it, or null.
-    PjLinkTime time;
-  };
-
-  void Reset();
-  void BeginWork(PjLinkClass needed, PjLinkTime now);
-  void AskForWork(PjLinkTime now);
-  void Ask(Stage stage, std::string_view command, std::string_view parameter, PjLinkTime now);
-  void AskAfterPause(Stage stage, PjLinkTime now);
-  void Resume(PjLinkTime now);
+  /// Takes the next request of the work, or finishes the work.
+  void Continue(PjLinkNextRequest request, PjLinkTime now);
+  void Ask(PjLinkTime now);
   void Handle(const PjLinkAnswer& answer, PjLinkTime now);
-  void HandleClass(const PjLinkAnswer& answer, PjLinkTime now);
-  void HandleCommand(const PjLinkAnswer& answer, PjLinkTime now);
-  void HandleValue(const std::string& parameter, PjLinkTime now);
-  void HandleNotNow(PjLinkTime now);
-  void HandlePower(const PjLinkAnswer& answer, PjLinkTime now);
-  void HandleConfirmation(const PjLinkAnswer& answer, PjLinkTime now);
-  void HandleQuestionAnswer(const PjLinkAnswer& answer, PjLinkTime now);
-  bool AnswerFromKept(PjLinkTime now);
-  void Keep(const std::string& parameter, Reader reader, PjLinkTime now);
-  void KeepPower(const std::string& parameter, PjLinkTime now);
-  bool CannotDoItNow() const;
-  void Finish(const PjtReply& reply);
-  PjtReply Refused() const { return {.result = RefusedResult(command_.operation)}; }
-  PjLinkLimits::Time AnswerTime() const { return std::min(limits_.answer, longest_); }
-  char ClassOf(PjLinkClass needed) const;
 
-  const PjLinkLimits limits_;
-  PjLinkLimits::Time longest_ = limits_.answer;
+  const PjLinkLimits::Time longestAnswer_;
+  PjLinkLimits::Time answerTime_ = longestAnswer_;
   PjLinkConnection connection_;
-  std::optional<char> class_;
-  bool isClassRemembered_ = false;  ///< And not confirmed by the projector in this session.
-  std::optional<PowerState> power_;
-  std::optional<PjLinkTime>
-      powerAt_;  ///< When the power state was reported; nothing if a change came since.
+  PjLinkKnownClass class_;
 
   // The work in progress.
-  PjtCommand command_{PjtOperation::Get};
-  const PjLinkMapping* mapping_ = nullptr;  ///< Null for a question.
-  PjLinkQuestion question_;
-  std::string parameter_;
-  int lostAnswers_ = 0;           ///< Number of lost answers to the session's own questions.
-  bool askedForPower_ = false;    ///< Whether the power state was requested for this work.
-  bool gotGarbledValue_ = false;  ///< Whether a garbled value was received.
-  bool keepsLast_ = false;
-
   Stage stage_ = Stage::Idle;
-  Stage resumedStage_ = Stage::Idle;  ///< The stage after the pause.
-  PjLinkTime resumeAt_{};
-  std::optional<PjLinkTime> askUntil_;  ///< End of the repetitions.
-  PjLinkLimits::Time pause_{};
-  std::map<std::string_view, KeptAnswer> kept_;  ///< By command; none from before the last change.
-  PjtReply reply_;
-  PjLinkResult result_;
+  bool isQuestion_ = false;       ///< Whether the work is a question, and not a command.
+  std::uint8_t lostAnswers_ = 0;  ///< Number of lost answers to questions.
+  PjLinkWorkRequest request_;
+  PjLinkExecution execution_;  ///< Of a command.
+  PjLinkResult result_;        ///< Of a question.
 };
 
 }  // namespace AdvancedControl

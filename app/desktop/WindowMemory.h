@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string>
+
+#include <QString>
+
+class CommandLog;
+class ListPane;
+class QMainWindow;
+class QSettings;
+
+/// What the main window remembers between runs: its place, docks and columns, the profile file and
+/// the selected projector.
+class WindowMemory {
+ public:
+  /// `settings`, not owned, may be null: then nothing is remembered. `firstFile` is the profile
+  /// file that the program opened by itself; it does not count as opened by the user.
+  WindowMemory(QSettings* settings, const QString& firstFile);
+
+  QSettings* Settings() const { return settings_; }
+
+  void Restore(QMainWindow& window, ListPane& pane, CommandLog& log) const;
+  /// `file` is the present profile file.
+  void Store(const QMainWindow& window, const ListPane& pane, const CommandLog& log,
+             const QString& file) const;
+
+  /// The name of the projector that was selected last.
+  std::string LastProjector() const;
+  /// The profile file that the user opened last; empty if there is none.
+  static QString LastProfiles(const QSettings& settings);
+
+ private:
+  QSettings* settings_;
+  const QString firstFile_;
+};

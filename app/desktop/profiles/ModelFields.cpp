@@ -1,0 +1,98 @@
+#include "app/desktop/profiles/ModelFields.h"
+
+#include <algorithm>
+#include <limits>
+
+#include <QCheckBox>
+#include <QCompleter>
+#include <QIntValidator>
+#include <QLineEdit>
+
+#include "app/desktop/profiles/EntryForm.h"
+#include "app/desktop/profiles/ProfileDocument.h"
+#include "toolkit/CComboBox.h"
+
+ModelFields::ModelFields(const ProfileDocument& document, EntryForm& form)
+    : QObject(&form),
+      document_(document),
+      form_(form),
+      family_(form.AddList(tr("&Family"), "like")),
+      model_(form.AddField(tr("&Model"), "model")),
+      more_(new QCheckBox(tr("All &fields of the model"))),
+      models_(document.Models()) {
+  form.AddWidget(more_);
+  dialogType_ = form.AddField(tr("Dialog &type"), "dialogType");
+  modelCode_ = form.AddField(tr("Model cod&e"), "modelCode");
+  dialogType_->setValidator(new QIntValidator(1, 5, dialogType_));
+  modelCode_->setValidator(new QIntValidator(0, std::numeric_limits<int>::max(), modelCode_));
+  FillFamilies();
+  OfferModels();
+  connect(model_, &QLineEdit::textChanged, this, &ModelFields::TakeModel);
+  connect(more_, &QCheckBox::toggled, this, &ModelFields::ShowRows);
+  connect(family_, &QComboBox::currentIndexChanged, this, &ModelFields::ShowFamily);
+  ShowFamily();
+  ShowRows();
+}
+
+void ModelFields::FillFamilies() {
+  family_->addItem(tr("None"), QString());
+  for (const QString& name : document_.Families()) family_->addItem(name, name);
+  family_->setCurrentIndex(family_->findData(form_.Entry()["like"].toString()));
+}
+
+void ModelFields::OfferModels() {
+  auto* names = new QCompleter(models_.keys(), model_);
+  names->setCaseSensitivity(Qt::CaseInsensitive);
+  names->setFilterMode(Qt::MatchContains);
+  model_->setCompleter(names);
+}
+
+// A model that the file knows brings its numbers.
+void ModelFields::TakeModel() {
+  const auto model = models_.constFind(model_->text().trimmed());
+  if (model == models_.constEnd()) return;
+  modelMembers_ = *model;
+  family_->setCurrentIndex(std::max(0, family_->findData(modelMembers_.take("like").toString())));
+  dialogType_->setText(EntryForm::TextOf(modelMembers_.take("dialogType")));
+  modelCode_->setText(EntryForm::TextOf(modelMembers_.take("modelCode")));
+  modelMembers_.remove("model");
+}
+
+void ModelFields::ShowFamily() {
+  const QJsonObject family = Family();
+  model_->setPlaceholderText(EntryForm::TextOf(family["model"]));
+  dialogType_->setPlaceholderText(EntryForm::TextOf(family["dialogType"]));
+  modelCode_->setPlaceholderText(EntryForm::TextOf(family["modelCode"]));
+  Q_EMIT FamilyChanged();
+}
+
+void ModelFields::ShowRows() {
+  for (QWidget* field : {static_cast<QWidget*>(family_), static_cast<QWidget*>(dialogType_),
+                         static_cast<QWidget*>(modelCode_)})
+    form_.SetRowVisible(field, more_->isChecked());
+}
+
+void ModelFields::ShowAll() { more_->setChecked(true); }
+
+QJsonObject ModelFields::Family() const {
+  return document_.Family(family_->currentData().toString());
+}
+
+JsonEdit::Members ModelFields::Members() const {
+  JsonEdit::Members all{
+      {"model", form_.ValueOf(model_)},
+      {"like", EntryForm::TextOrNothing(family_->currentData().toString())},
+      {"dialogType", form_.ValueOf(dialogType_)},
+      {"modelCode", form_.ValueOf(modelCode_)},
+  };
+  for (auto member = modelMembers_.constBegin(); member != modelMembers_.constEnd(); ++member)
+    all.push_back({member.key(), *member});
+  return all;
+}
+
+std::vector<QLineEdit*> ModelFields::Missing() const {
+  std::vector<QLineEdit*> missing;
+  for (QLineEdit* field : {model_, dialogType_, modelCode_})
+    if (field->placeholderText().isEmpty() && EntryForm::IsBlank(field)) missing.push_back(field);
+  return missing;
+}

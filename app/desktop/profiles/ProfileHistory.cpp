@@ -1,0 +1,87 @@
+#include "app/desktop/profiles/ProfileHistory.h"
+
+#include <utility>
+
+#include <QAction>
+#include <QUndoCommand>
+#include <QUndoStack>
+#include <QWidget>
+
+#include "app/desktop/Modal.h"
+#include "app/desktop/profiles/ProfileDocument.h"
+
+namespace {
+
+constexpr int kMostUndone = 50;
+
+}  // namespace
+
+/// The text of the file before and after an edit.
+class ProfileHistory::TextEdit : public QUndoCommand {
+ public:
+  TextEdit(ProfileHistory& history, const QString& title, QByteArray before, QByteArray after)
+      : QUndoCommand(title),
+        history_(history),
+        before_(std::move(before)),
+        after_(std::move(after)) {}
+
+  void undo() override { Put(before_); }
+  void redo() override {
+    if (std::exchange(isDone_, true)) Put(after_);
+  }
+
+ private:
+  // If it cannot be written, it is not tried again.
+  void Put(const QByteArray& text) {
+    const QString error = history_.document_.Write(text);
+    setObsolete(!error.isEmpty());
+    history_.Report(this->text(), error);
+    if (error.isEmpty()) Q_EMIT history_.Changed(-1);
+  }
+
+  ProfileHistory& history_;
+  const QByteArray before_;
+  const QByteArray after_;
+  bool isDone_ = false;
+};
+
+ProfileHistory::ProfileHistory(ProfileDocument& document, QWidget& window)
+    : QObject(&window),
+      document_(document),
+      window_(window),
+      stack_(new QUndoStack(this)),
+      undo_(stack_->createUndoAction(this, tr("&Undo"))),
+      redo_(stack_->createRedoAction(this, tr("&Redo"))) {
+  stack_->setUndoLimit(kMostUndone);
+  undo_->setShortcut(QKeySequence::Undo);
+  redo_->setShortcut(QKeySequence::Redo);
+}
+
+QString ProfileHistory::Do(const QString& title, int selected,
+                           const std::function<QString()>& edit) {
+  const QByteArray before = document_.Text();
+  const QString error = edit();
+  if (!error.isEmpty()) return error;
+  if (before != document_.Text())
+    stack_->push(new TextEdit(*this, title, before, document_.Text()));
+  Q_EMIT Changed(selected);
+  return {};
+}
+
+void ProfileHistory::DoAndReport(const QString& title, int selected,
+                                 const std::function<QString()>& edit) {
+  Report(title, Do(title, selected, edit));
+}
+
+void ProfileHistory::Replace(const QString& title, const std::function<QString()>& replace) {
+  const QByteArray before = document_.Text();
+  const QString error = replace();
+  if (before != document_.Text()) stack_->clear();
+  Report(title, error);
+  if (error.isEmpty()) Q_EMIT Changed(-1);
+}
+
+void ProfileHistory::Report(const QString& title, const QString& error) {
+  if (!error.isEmpty())
+    ShowError(window_, title, tr("This could not be done; nothing was changed."), error);
+}

@@ -1,0 +1,84 @@
+#include "app/desktop/projectors/ProjectorColumns.h"
+
+#include <array>
+#include <chrono>
+
+#include <QStringList>
+
+#include "app/desktop/projectors/StateTexts.h"
+
+namespace {
+
+constexpr std::array<const char*, ProjectorColumns::ColumnCount> kTitles{
+    QT_TRANSLATE_NOOP("ProjectorColumns", "Name"),
+    QT_TRANSLATE_NOOP("ProjectorColumns", "State"),
+    QT_TRANSLATE_NOOP("ProjectorColumns", "Power"),
+    QT_TRANSLATE_NOOP("ProjectorColumns", "Source"),
+    QT_TRANSLATE_NOOP("ProjectorColumns", "Lamp"),
+    QT_TRANSLATE_NOOP("ProjectorColumns", "Problem"),
+    QT_TRANSLATE_NOOP("ProjectorColumns", "Model"),
+    QT_TRANSLATE_NOOP("ProjectorColumns", "Place"),
+    QT_TRANSLATE_NOOP("ProjectorColumns", "Settings"),
+    QT_TRANSLATE_NOOP("ProjectorColumns", "Last answer"),
+    QT_TRANSLATE_NOOP("ProjectorColumns", "Address")};
+
+}  // namespace
+
+QString ProjectorColumns::Title(int column) {
+  return tr(kTitles[static_cast<std::size_t>(column)]);
+}
+
+bool ProjectorColumns::ShowsState(int column) {
+  return column != Name && column != Model && column != Place && column != Address;
+}
+
+std::optional<double> ProjectorColumns::Number(const ProjectorRow& row, int column) {
+  switch (column) {
+    case State:
+      return -static_cast<double>(HealthOf(row));  // the most urgent first
+    case Power:
+      return row.state.power ? static_cast<double>(*row.state.power) : -1;
+    case Lamp:
+      return LampHoursOf(row.state);
+    case Settings:
+      return row.state.drift.value_or(-1);
+    case Answered:
+      return row.state.answered
+                 ? static_cast<double>(-row.state.answered->time_since_epoch().count())
+                 : 0.0;
+    default:
+      return std::nullopt;
+  }
+}
+
+QString ProjectorColumns::Text(const ProjectorRow& row, int column) {
+  switch (column) {
+    case Name:
+      return QString::fromStdString(row.profile.name);
+    case State:
+      return row.isOpen ? tr("%1 · open").arg(StateTexts::State(row)) : StateTexts::State(row);
+    case Power:
+      return StateTexts::Power(row.state);
+    case Source:
+      return StateTexts::Source(row.state);
+    case Lamp:
+      return StateTexts::LampHours(row.state);
+    case Problem:
+      return StateTexts::Problems(row.state);
+    case Model:
+      return QString::fromStdString(row.profile.model->info.ModelName);
+    case Place: {
+      QStringList tags;
+      for (const std::string& tag : row.profile.tags) tags += QString::fromStdString(tag);
+      return tags.join(QStringLiteral(", "));
+    }
+    case Settings:
+      return StateTexts::Drift(row.state);
+    case Answered:
+      return StateTexts::Answered(row.state, std::chrono::system_clock::now());
+    case Address:
+      return ConnectionText(row.profile.connection);
+    default:
+      return {};
+  }
+}

@@ -1,0 +1,43 @@
+#include "fleet/HostNames.h"
+
+#include <chrono>
+#include <utility>
+
+namespace AdvancedControl {
+
+namespace {
+
+constexpr std::chrono::minutes kNameLasts{10};
+
+SessionTime Now() { return std::chrono::steady_clock::now(); }
+
+}  // namespace
+
+bool HostNames::IsKnown(const std::string& name) const {
+  const auto known = known_.find(name);
+  return known != known_.end() && Now() < known->second.time + kNameLasts;
+}
+
+std::optional<SocketAddress> HostNames::AddressOf(const std::string& name,
+                                                  std::uint16_t port) const {
+  const Known& known = known_.at(name);
+  if (known.addresses.empty()) return std::nullopt;
+  SocketAddress address = known.addresses[known.next % known.addresses.size()];
+  address.SetPort(port);
+  return address;
+}
+
+void HostNames::TakeFailure(const std::string& name) {
+  if (const auto known = known_.find(name); known != known_.end()) ++known->second.next;
+}
+
+std::vector<HostNames::Answer> HostNames::Take() {
+  std::vector<Answer> answers;
+  for (auto& found : resolver_.Take()) {
+    known_[found.name] = {std::move(found.addresses), 0, Now()};
+    answers.push_back({found.asker, std::move(found.name)});
+  }
+  return answers;
+}
+
+}  // namespace AdvancedControl

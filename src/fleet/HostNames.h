@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "Namespace.h"
+#include "device/protocol/SessionStep.h"
+#include "fleet/NameResolver.h"
+
+namespace AdvancedControl {
+
+/// The addresses of host names. Each name is looked up at most once in ten minutes.
+class HostNames {
+ public:
+  /// `wakes` as for `NameResolver`: `Take` has something then.
+  explicit HostNames(int wakes) : resolver_(wakes) {}
+
+  bool IsKnown(const std::string& name) const;
+  /// The address to connect to, for a known name; nothing where no host has the name.
+  std::optional<SocketAddress> AddressOf(const std::string& name, std::uint16_t port) const;
+  /// The address could not be connected to. `AddressOf` returns the next one from now on.
+  void TakeFailure(const std::string& name);
+
+  /// Looks a name up for somebody.
+  void LookUp(std::uint32_t asker, const std::string& name) { resolver_.LookUp(asker, name); }
+  struct Answer {
+    std::uint32_t asker;
+    std::string name;  ///< Known from now on.
+  };
+  std::vector<Answer> Take();
+
+ private:
+  struct Known {
+    std::vector<SocketAddress> addresses;
+    std::size_t next = 0;
+    SessionTime time{};
+  };
+
+  NameResolver resolver_;
+  std::unordered_map<std::string, Known> known_;
+};
+
+}  // namespace AdvancedControl

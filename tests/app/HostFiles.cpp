@@ -1,0 +1,57 @@
+// Writes a file as the host application does, so that scripts/faults.py can make calls fail
+// meanwhile:
+//
+//   host_files edit FILE   renames the first projector of a profile file, as the profile editor
+//   does host_files log FILE    saves a command log
+//
+// An error is printed, and ends the program with 1.
+
+#include <cstdio>
+#include <dlfcn.h>
+
+#include <QApplication>
+#include <QEventLoop>
+
+#include "app/desktop/log/CommandLog.h"
+#include "app/desktop/profiles/ProfileDocument.h"
+#include "app/profiles/OutOfMemory.h"
+
+namespace {
+
+/// Calls may fail from here on.
+void BeginFailing() {
+  if (void* const begin = dlsym(RTLD_DEFAULT, "BeginFailing")) {
+    reinterpret_cast<void (*)()>(begin)();
+  }
+}
+
+QString Edit(const QString& file) {
+  BeginFailing();
+  ProfileDocument document;
+  const QString error = document.Load(file);
+  return error.isEmpty() ? document.Change(0, {{"name", "Renamed"}}) : error;
+}
+
+QString SaveLog(const QString& file) {
+  CommandLog log;
+  QEventLoop untilShown;
+  QObject::connect(&log, &CommandLog::Updated, &untilShown, &QEventLoop::quit);
+  for (std::int16_t value = 0; value < 50; ++value) {
+    log.Add({{}, "A", "Sharpness", {PjtOperation::Set, 0x2201, value}, {.result = 1}, {}});
+  }
+  untilShown.exec();
+  BeginFailing();
+  return log.Save(file);
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  EndWhenOutOfMemory("host_files");
+  const QApplication application(argc, argv);
+  const QStringList arguments = QApplication::arguments();
+  const bool isLog = arguments.value(1) == "log";
+  const QString error = isLog ? SaveLog(arguments.value(2)) : Edit(arguments.value(2));
+  if (!error.isEmpty()) std::fprintf(stderr, "host_files: %s\n", qUtf8Printable(error));
+  return error.isEmpty() ? 0 : 1;
+}

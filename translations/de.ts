@@ -1488,6 +1488,61 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
 </context>
 <context>
+    <name>ConnectionFields</name>
+    <message>
+        <source>&amp;Reached through</source>
+        <translation type="unfinished">E&amp;rreichbar über</translation>
+    </message>
+    <message>
+        <source>Connect&amp;ion</source>
+        <translation type="unfinished">Ver&amp;bindung</translation>
+    </message>
+    <message>
+        <source>&amp;Address</source>
+        <translation type="unfinished">&amp;Adresse</translation>
+    </message>
+    <message>
+        <source>&amp;Port</source>
+        <translation type="unfinished">&amp;Port</translation>
+    </message>
+    <message>
+        <source>Pass&amp;word</source>
+        <translation type="unfinished">Pass&amp;wort</translation>
+    </message>
+    <message>
+        <source>Port n&amp;umber</source>
+        <translation type="unfinished">Portn&amp;ummer</translation>
+    </message>
+    <message>
+        <source>&amp;Device</source>
+        <translation type="unfinished">&amp;Gerät</translation>
+    </message>
+    <message>
+        <source>&amp;Baud</source>
+        <translation type="unfinished">Ba&amp;udrate</translation>
+    </message>
+    <message>
+        <source>As its family</source>
+        <translation type="unfinished">Wie die Familie</translation>
+    </message>
+    <message>
+        <source>Simulated</source>
+        <translation type="unfinished">Simuliert</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation type="unfinished">Netzwerk</translation>
+    </message>
+    <message>
+        <source>Serial port</source>
+        <translation type="unfinished">Serielle Schnittstelle</translation>
+    </message>
+    <message>
+        <source>%1 is no address.</source>
+        <translation type="unfinished">%1 ist keine Adresse.</translation>
+    </message>
+</context>
+<context>
     <name>ConnectionTest</name>
     <message>
         <source>&amp;Test Connection</source>
@@ -1830,8 +1885,9 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source> %1 ms</source>
-        <translation> %1 ms</translation>
+        <source>%1: %2, %3 ms</source>
+        <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2168,6 +2224,33 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
 </context>
 <context>
+    <name>ModelFields</name>
+    <message>
+        <source>&amp;Family</source>
+        <translation type="unfinished">&amp;Familie</translation>
+    </message>
+    <message>
+        <source>&amp;Model</source>
+        <translation type="unfinished">&amp;Modell</translation>
+    </message>
+    <message>
+        <source>All &amp;fields of the model</source>
+        <translation type="unfinished">Alle Fel&amp;der des Modells</translation>
+    </message>
+    <message>
+        <source>Dialog &amp;type</source>
+        <translation type="unfinished">Dialogt&amp;yp</translation>
+    </message>
+    <message>
+        <source>Model cod&amp;e</source>
+        <translation type="unfinished">Modell&amp;code</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation type="unfinished">Keine</translation>
+    </message>
+</context>
+<context>
     <name>Notify</name>
     <message>
         <source>Advanced Control</source>
@@ -2381,26 +2464,6 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
 <context>
     <name>ProfileActions</name>
     <message>
-        <source>&amp;Open Profiles…</source>
-        <translation>Profile ö&amp;ffnen …</translation>
-    </message>
-    <message>
-        <source>&amp;Reload</source>
-        <translation>&amp;Neu laden</translation>
-    </message>
-    <message>
-        <source>&amp;Save Profiles As…</source>
-        <translation>Profile &amp;speichern unter …</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Rückgängig</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;Wiederholen</translation>
-    </message>
-    <message>
         <source>&amp;Add…</source>
         <translation>&amp;Hinzufügen …</translation>
     </message>
@@ -2419,26 +2482,6 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <message>
         <source>Ta&amp;g…</source>
         <translation>Schlag&amp;wörter …</translation>
-    </message>
-    <message>
-        <source>This could not be done; nothing was changed.</source>
-        <translation>Das war nicht möglich; nichts wurde geändert.</translation>
-    </message>
-    <message>
-        <source>Open Profiles</source>
-        <translation>Profile öffnen</translation>
-    </message>
-    <message>
-        <source>Profiles (*.json);;All files (*)</source>
-        <translation>Profile (*.json);;Alle Dateien (*)</translation>
-    </message>
-    <message>
-        <source>Reload</source>
-        <translation>Neu laden</translation>
-    </message>
-    <message>
-        <source>Save Profiles As</source>
-        <translation>Profile speichern unter</translation>
     </message>
     <message>
         <source>Add</source>
@@ -2531,58 +2574,6 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
         <translation>&amp;Name</translation>
     </message>
     <message>
-        <source>&amp;Family</source>
-        <translation>&amp;Familie</translation>
-    </message>
-    <message>
-        <source>&amp;Model</source>
-        <translation>&amp;Modell</translation>
-    </message>
-    <message>
-        <source>Dialog &amp;type</source>
-        <translation>Dialogt&amp;yp</translation>
-    </message>
-    <message>
-        <source>Model cod&amp;e</source>
-        <translation>Modell&amp;code</translation>
-    </message>
-    <message>
-        <source>&amp;Reached through</source>
-        <translation>E&amp;rreichbar über</translation>
-    </message>
-    <message>
-        <source>Connect&amp;ion</source>
-        <translation>Ver&amp;bindung</translation>
-    </message>
-    <message>
-        <source>&amp;Address</source>
-        <translation>&amp;Adresse</translation>
-    </message>
-    <message>
-        <source>&amp;Port</source>
-        <translation>&amp;Port</translation>
-    </message>
-    <message>
-        <source>Pass&amp;word</source>
-        <translation>Pass&amp;wort</translation>
-    </message>
-    <message>
-        <source>Port n&amp;umber</source>
-        <translation>Portn&amp;ummer</translation>
-    </message>
-    <message>
-        <source>&amp;Device</source>
-        <translation>&amp;Gerät</translation>
-    </message>
-    <message>
-        <source>&amp;Baud</source>
-        <translation>Ba&amp;udrate</translation>
-    </message>
-    <message>
-        <source>All &amp;fields of the model</source>
-        <translation>Alle Fel&amp;der des Modells</translation>
-    </message>
-    <message>
         <source>Add Projector</source>
         <translation>Projektor hinzufügen</translation>
     </message>
@@ -2591,36 +2582,8 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
         <translation>Projektor bearbeiten</translation>
     </message>
     <message>
-        <source>Save Profiles As…</source>
-        <translation>Profile speichern unter …</translation>
-    </message>
-    <message>
-        <source>%1 cannot be changed.</source>
-        <translation>%1 kann nicht geändert werden.</translation>
-    </message>
-    <message>
         <source>Duplicate Projector</source>
         <translation>Projektor duplizieren</translation>
-    </message>
-    <message>
-        <source>None</source>
-        <translation>Keine</translation>
-    </message>
-    <message>
-        <source>As its family</source>
-        <translation>Wie die Familie</translation>
-    </message>
-    <message>
-        <source>Simulated</source>
-        <translation>Simuliert</translation>
-    </message>
-    <message>
-        <source>Network</source>
-        <translation>Netzwerk</translation>
-    </message>
-    <message>
-        <source>Serial port</source>
-        <translation>Serielle Schnittstelle</translation>
     </message>
     <message>
         <source>Still to be filled in: %1</source>
@@ -2629,10 +2592,6 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>%1 is no address.</source>
-        <translation>%1 ist keine Adresse.</translation>
     </message>
 </context>
 <context>
@@ -2767,6 +2726,64 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
     </message>
 </context>
 <context>
+    <name>ProfileFileActions</name>
+    <message>
+        <source>&amp;Open Profiles…</source>
+        <translation type="unfinished">Profile ö&amp;ffnen …</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation type="unfinished">&amp;Neu laden</translation>
+    </message>
+    <message>
+        <source>&amp;Save Profiles As…</source>
+        <translation type="unfinished">Profile &amp;speichern unter …</translation>
+    </message>
+    <message>
+        <source>Open Profiles</source>
+        <translation type="unfinished">Profile öffnen</translation>
+    </message>
+    <message>
+        <source>Profiles (*.json);;All files (*)</source>
+        <translation type="unfinished">Profile (*.json);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation type="unfinished">Neu laden</translation>
+    </message>
+    <message>
+        <source>Save Profiles As</source>
+        <translation type="unfinished">Profile speichern unter</translation>
+    </message>
+    <message>
+        <source>Read-Only File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be changed. Save the profiles in another file first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Profiles As…</source>
+        <translation type="unfinished">Profile speichern unter …</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileHistory</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation type="unfinished">&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation type="unfinished">&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>This could not be done; nothing was changed.</source>
+        <translation type="unfinished">Das war nicht möglich; nichts wurde geändert.</translation>
+    </message>
+</context>
+<context>
     <name>Program</name>
     <message>
         <source>no profiles at %1; name a file with --profiles</source>
@@ -2813,54 +2830,54 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
     </message>
 </context>
 <context>
-    <name>ProjectorTableModel</name>
+    <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
-        <translation>Name</translation>
+        <translation type="unfinished">Name</translation>
     </message>
     <message>
         <source>State</source>
-        <translation>Zustand</translation>
+        <translation type="unfinished">Zustand</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation>Ein/Aus</translation>
+        <translation type="unfinished">Ein/Aus</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation>Quelle</translation>
+        <translation type="unfinished">Quelle</translation>
     </message>
     <message>
         <source>Lamp</source>
-        <translation>Lampe</translation>
+        <translation type="unfinished">Lampe</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation>Problem</translation>
+        <translation type="unfinished">Problem</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation>Modell</translation>
+        <translation type="unfinished">Modell</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation>Ort</translation>
+        <translation type="unfinished">Ort</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation>Einstellungen</translation>
+        <translation type="unfinished">Einstellungen</translation>
     </message>
     <message>
         <source>Last answer</source>
-        <translation>Letzte Antwort</translation>
+        <translation type="unfinished">Letzte Antwort</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation>Adresse</translation>
+        <translation type="unfinished">Adresse</translation>
     </message>
     <message>
         <source>%1 · open</source>
-        <translation>%1 · offen</translation>
+        <translation type="unfinished">%1 · offen</translation>
     </message>
 </context>
 <context>
@@ -3680,10 +3697,6 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
         <translation>Tabellen (*.csv *.tsv *.txt);;Alle Dateien (*)</translation>
     </message>
     <message>
-        <source>%1 added, %2 already known, %3 rows not taken.</source>
-        <translation>%1 hinzugefügt, %2 schon bekannt, %3 Zeilen nicht übernommen.</translation>
-    </message>
-    <message>
         <source>Line %1: %2</source>
         <translation>Zeile %1: %2</translation>
     </message>
@@ -3699,6 +3712,161 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
         <source>Tables (*.csv);;All files (*)</source>
         <translation>Tabellen (*.csv);;Alle Dateien (*)</translation>
     </message>
+    <message numerus="yes">
+        <source>%n projectors added</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n already known</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rows not taken</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>UsualActions</name>
+    <message>
+        <source>Switch O&amp;n</source>
+        <translation type="unfinished">Ei&amp;nschalten</translation>
+    </message>
+    <message>
+        <source>Switch O&amp;ff</source>
+        <translation type="unfinished">Auss&amp;chalten</translation>
+    </message>
+    <message>
+        <source>P&amp;ower</source>
+        <translation type="unfinished">&amp;Ein/Aus</translation>
+    </message>
+    <message>
+        <source>&amp;Input</source>
+        <translation type="unfinished">E&amp;ingang</translation>
+    </message>
+    <message>
+        <source>&amp;Blank</source>
+        <translation type="unfinished">&amp;Leerbild</translation>
+    </message>
+    <message>
+        <source>Blank the Picture</source>
+        <translation type="unfinished">Leerbild zeigen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Blank the picture of %n projectors?</source>
+        <translation type="unfinished">
+            <numerusform>Auf %n Projektor ein Leerbild zeigen?</numerusform>
+            <numerusform>Auf %n Projektoren ein Leerbild zeigen?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Show the Picture</source>
+        <translation type="unfinished">Bild zeigen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Show the picture of %n projectors?</source>
+        <translation type="unfinished">
+            <numerusform>Auf %n Projektor das Bild zeigen?</numerusform>
+            <numerusform>Auf %n Projektoren das Bild zeigen?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Mute</source>
+        <translation type="unfinished">&amp;Stumm</translation>
+    </message>
+    <message>
+        <source>Mute the Sound</source>
+        <translation type="unfinished">Ton stummschalten</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mute the sound of %n projectors?</source>
+        <translation type="unfinished">
+            <numerusform>Ton von %n Projektor stummschalten?</numerusform>
+            <numerusform>Ton von %n Projektoren stummschalten?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Unmute the Sound</source>
+        <translation type="unfinished">Ton einschalten</translation>
+    </message>
+    <message numerus="yes">
+        <source>Unmute the sound of %n projectors?</source>
+        <translation type="unfinished">
+            <numerusform>Ton von %n Projektor einschalten?</numerusform>
+            <numerusform>Ton von %n Projektoren einschalten?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Free&amp;ze</source>
+        <translation type="unfinished">Ein&amp;frieren</translation>
+    </message>
+    <message>
+        <source>Freeze the Picture</source>
+        <translation type="unfinished">Bild einfrieren</translation>
+    </message>
+    <message numerus="yes">
+        <source>Freeze the picture of %n projectors?</source>
+        <translation type="unfinished">
+            <numerusform>Bild von %n Projektor einfrieren?</numerusform>
+            <numerusform>Bild von %n Projektoren einfrieren?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Release the Picture</source>
+        <translation type="unfinished">Bild freigeben</translation>
+    </message>
+    <message numerus="yes">
+        <source>Release the picture of %n projectors?</source>
+        <translation type="unfinished">
+            <numerusform>Bild von %n Projektor freigeben?</numerusform>
+            <numerusform>Bild von %n Projektoren freigeben?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Switch On</source>
+        <translation type="unfinished">Einschalten</translation>
+    </message>
+    <message>
+        <source>Switch Off</source>
+        <translation type="unfinished">Ausschalten</translation>
+    </message>
+    <message numerus="yes">
+        <source>Switch on %n projectors?</source>
+        <translation type="unfinished">
+            <numerusform>%n Projektor einschalten?</numerusform>
+            <numerusform>%n Projektoren einschalten?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Switch off %n projectors?</source>
+        <translation type="unfinished">
+            <numerusform>%n Projektor ausschalten?</numerusform>
+            <numerusform>%n Projektoren ausschalten?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Input %1</source>
+        <translation type="unfinished">Eingang %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Choose the input %1 on %n projectors?</source>
+        <translation type="unfinished">
+            <numerusform>Auf %n Projektor den Eingang %1 wählen?</numerusform>
+            <numerusform>Auf %n Projektoren den Eingang %1 wählen?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No inputs are known</source>
+        <translation type="unfinished">Keine Eingänge bekannt</translation>
+    </message>
 </context>
 <context>
     <name>WholeFile</name>
@@ -3709,137 +3877,6 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
 </context>
 <context>
     <name>WorkActions</name>
-    <message>
-        <source>Switch O&amp;n</source>
-        <translation>Ei&amp;nschalten</translation>
-    </message>
-    <message>
-        <source>Switch O&amp;ff</source>
-        <translation>Auss&amp;chalten</translation>
-    </message>
-    <message>
-        <source>P&amp;ower</source>
-        <translation>&amp;Ein/Aus</translation>
-    </message>
-    <message>
-        <source>&amp;Input</source>
-        <translation>E&amp;ingang</translation>
-    </message>
-    <message>
-        <source>&amp;Blank</source>
-        <translation>&amp;Leerbild</translation>
-    </message>
-    <message>
-        <source>Blank the Picture</source>
-        <translation>Leerbild zeigen</translation>
-    </message>
-    <message numerus="yes">
-        <source>Blank the picture of %n projectors?</source>
-        <translation>
-            <numerusform>Auf %n Projektor ein Leerbild zeigen?</numerusform>
-            <numerusform>Auf %n Projektoren ein Leerbild zeigen?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Show the Picture</source>
-        <translation>Bild zeigen</translation>
-    </message>
-    <message numerus="yes">
-        <source>Show the picture of %n projectors?</source>
-        <translation>
-            <numerusform>Auf %n Projektor das Bild zeigen?</numerusform>
-            <numerusform>Auf %n Projektoren das Bild zeigen?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>&amp;Mute</source>
-        <translation>&amp;Stumm</translation>
-    </message>
-    <message>
-        <source>Mute the Sound</source>
-        <translation>Ton stummschalten</translation>
-    </message>
-    <message numerus="yes">
-        <source>Mute the sound of %n projectors?</source>
-        <translation>
-            <numerusform>Ton von %n Projektor stummschalten?</numerusform>
-            <numerusform>Ton von %n Projektoren stummschalten?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Unmute the Sound</source>
-        <translation>Ton einschalten</translation>
-    </message>
-    <message numerus="yes">
-        <source>Unmute the sound of %n projectors?</source>
-        <translation>
-            <numerusform>Ton von %n Projektor einschalten?</numerusform>
-            <numerusform>Ton von %n Projektoren einschalten?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Free&amp;ze</source>
-        <translation>Ein&amp;frieren</translation>
-    </message>
-    <message>
-        <source>Freeze the Picture</source>
-        <translation>Bild einfrieren</translation>
-    </message>
-    <message numerus="yes">
-        <source>Freeze the picture of %n projectors?</source>
-        <translation>
-            <numerusform>Bild von %n Projektor einfrieren?</numerusform>
-            <numerusform>Bild von %n Projektoren einfrieren?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Release the Picture</source>
-        <translation>Bild freigeben</translation>
-    </message>
-    <message numerus="yes">
-        <source>Release the picture of %n projectors?</source>
-        <translation>
-            <numerusform>Bild von %n Projektor freigeben?</numerusform>
-            <numerusform>Bild von %n Projektoren freigeben?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Switch On</source>
-        <translation>Einschalten</translation>
-    </message>
-    <message>
-        <source>Switch Off</source>
-        <translation>Ausschalten</translation>
-    </message>
-    <message numerus="yes">
-        <source>Switch on %n projectors?</source>
-        <translation>
-            <numerusform>%n Projektor einschalten?</numerusform>
-            <numerusform>%n Projektoren einschalten?</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Switch off %n projectors?</source>
-        <translation>
-            <numerusform>%n Projektor ausschalten?</numerusform>
-            <numerusform>%n Projektoren ausschalten?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Input %1</source>
-        <translation>Eingang %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>Choose the input %1 on %n projectors?</source>
-        <translation>
-            <numerusform>Auf %n Projektor den Eingang %1 wählen?</numerusform>
-            <numerusform>Auf %n Projektoren den Eingang %1 wählen?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>No inputs are known</source>
-        <translation>Keine Eingänge bekannt</translation>
-    </message>
     <message>
         <source>%1, %2: %3</source>
         <translation>%1, %2: %3</translation>

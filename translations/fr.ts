@@ -24,15 +24,15 @@
     <message>
         <source>%1: &apos;%2&apos; is not possible</source>
         <extracomment>An option and its value.</extracomment>
-        <translation>%1 : « %2 » n’est pas possible</translation>
+        <translation>%1&#xa0;: «&#xa0;%2&#xa0;» n’est pas possible</translation>
     </message>
     <message>
         <source>a command is missing; --help lists them</source>
-        <translation>il manque une commande ; --help les affiche</translation>
+        <translation>il manque une commande&#xa0;; --help les affiche</translation>
     </message>
     <message>
         <source>there is no command &apos;%1&apos;; --help lists them</source>
-        <translation>la commande « %1 » n’existe pas ; --help les affiche</translation>
+        <translation>la commande «&#xa0;%1&#xa0;» n’existe pas&#xa0;; --help les affiche</translation>
     </message>
     <message>
         <source>%1 has no such --format</source>
@@ -40,7 +40,7 @@
     </message>
     <message>
         <source>use: %1</source>
-        <translation>usage : %1</translation>
+        <translation>usage&#xa0;: %1</translation>
     </message>
     <message>
         <source>the name of the file is empty</source>
@@ -48,29 +48,29 @@
     </message>
     <message>
         <source>&apos;%1&apos; is not one of: %2</source>
-        <translation>« %1 » n’est pas possible ; valeurs possibles : %2</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas possible&#xa0;; valeurs possibles&#xa0;: %2</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no step such as +1 or -1, and PJLink can only step it</source>
-        <translation>« %1 » n’est pas un pas comme +1 ou -1, et PJLink ne peut modifier ce réglage que pas à pas</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un pas comme +1 ou -1, et PJLink ne peut modifier ce réglage que pas à pas</translation>
     </message>
     <message numerus="yes">
         <source>&apos;%1&apos; is more than %n steps</source>
         <translation>
-            <numerusform>« %1 » dépasse %n pas</numerusform>
-            <numerusform>« %1 » dépasse %n pas</numerusform>
+            <numerusform>«&#xa0;%1&#xa0;» dépasse %n pas</numerusform>
+            <numerusform>«&#xa0;%1&#xa0;» dépasse %n pas</numerusform>
         </translation>
     </message>
     <message>
         <source>&apos;%1&apos; from %2 is not one of: %3</source>
         <extracomment>A step such as +3, the value that it starts from, and the values that are possible.</extracomment>
-        <translation>« %1 » à partir de %2 n’est pas possible ; valeurs possibles : %3</translation>
+        <translation>«&#xa0;%1&#xa0;» à partir de %2 n’est pas possible&#xa0;; valeurs possibles&#xa0;: %3</translation>
     </message>
     <message numerus="yes">
         <source>&apos;%1&apos; is more than %n steps from %2</source>
         <translation>
-            <numerusform>« %1 » dépasse %n pas à partir de %2</numerusform>
-            <numerusform>« %1 » dépasse %n pas à partir de %2</numerusform>
+            <numerusform>«&#xa0;%1&#xa0;» dépasse %n pas à partir de %2</numerusform>
+            <numerusform>«&#xa0;%1&#xa0;» dépasse %n pas à partir de %2</numerusform>
         </translation>
     </message>
     <message>
@@ -95,7 +95,7 @@
     </message>
     <message>
         <source>Prints the settings that the model has: key, tab, caption and possible values. The projector is not asked.</source>
-        <translation>Affiche les réglages du modèle : clé, onglet, libellé et valeurs possibles. Le projecteur n’est pas interrogé.</translation>
+        <translation>Affiche les réglages du modèle&#xa0;: clé, onglet, libellé et valeurs possibles. Le projecteur n’est pas interrogé.</translation>
     </message>
     <message>
         <source>explain a setting</source>
@@ -103,7 +103,7 @@
     </message>
     <message>
         <source>Prints what a setting is: tab and caption, possible values with their codes, the models that have it, and whether it can be set, reset, and saved and restored.</source>
-        <translation>Explique un réglage : onglet et libellé, valeurs possibles avec leurs codes, modèles qui le possèdent, et s’il peut être modifié, réinitialisé, enregistré et restauré.</translation>
+        <translation>Explique un réglage&#xa0;: onglet et libellé, valeurs possibles avec leurs codes, modèles qui le possèdent, et s’il peut être modifié, réinitialisé, enregistré et restauré.</translation>
     </message>
     <message>
         <source>print present values</source>
@@ -111,7 +111,7 @@
     </message>
     <message>
         <source>Reads settings from the projectors and prints them; without a key, all of them.</source>
-        <translation>Lit des réglages des projecteurs et les affiche ; sans clé, tous.</translation>
+        <translation>Lit des réglages des projecteurs et les affiche&#xa0;; sans clé, tous.</translation>
     </message>
     <message>
         <source>change settings</source>
@@ -120,8 +120,8 @@
     <message>
         <source>Changes settings in the order given, reads each back, and prints the value before and after. All keys and values are checked for all projectors first; if a value is wrong for one, nothing is sent to any. A key that a projector does not have is reported, and does not stop the others.
 KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the form KEY VALUE, +3 and -3 are steps, and =-3 is a number below zero. &apos;acctl undo&apos; restores what was there before, except the power state and the results of actions.</source>
-        <translation>Modifie des réglages dans l’ordre indiqué, relit chacun et affiche la valeur avant et après. Toutes les clés et valeurs sont d’abord vérifiées pour tous les projecteurs ; si une valeur est incorrecte pour l’un d’eux, rien n’est envoyé à aucun. Une clé qu’un projecteur ne possède pas est signalée et n’arrête pas les autres.
-KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme KEY VALUE, +3 et -3 sont des pas, et =-3 est un nombre négatif. « acctl undo » rétablit l’état précédent, sauf l’alimentation et le résultat des actions.</translation>
+        <translation>Modifie des réglages dans l’ordre indiqué, relit chacun et affiche la valeur avant et après. Toutes les clés et valeurs sont d’abord vérifiées pour tous les projecteurs&#xa0;; si une valeur est incorrecte pour l’un d’eux, rien n’est envoyé à aucun. Une clé qu’un projecteur ne possède pas est signalée et n’arrête pas les autres.
+KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la forme KEY VALUE, +3 et -3 sont des pas, et =-3 est un nombre négatif. «&#xa0;acctl undo&#xa0;» rétablit l’état précédent, sauf l’alimentation et le résultat des actions.</translation>
     </message>
     <message>
         <source>reset settings to the projector&apos;s standard</source>
@@ -145,7 +145,7 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>Saves every setting that can be restored: those of one projector in FILE (&apos;-&apos; is standard output), or those of any number in a folder, a file each. A file that is not a file of settings is not replaced without --force.</source>
-        <translation>Enregistre tous les réglages qui peuvent être restaurés : ceux d’un projecteur dans FILE (« - » est la sortie standard), ou ceux d’autant de projecteurs que voulu dans un dossier, un fichier chacun. Un fichier qui n’est pas un fichier de réglages n’est pas remplacé sans --force.</translation>
+        <translation>Enregistre tous les réglages qui peuvent être restaurés&#xa0;: ceux d’un projecteur dans FILE («&#xa0;-&#xa0;» est la sortie standard), ou ceux d’autant de projecteurs que voulu dans un dossier, un fichier chacun. Un fichier qui n’est pas un fichier de réglages n’est pas remplacé sans --force.</translation>
     </message>
     <message>
         <source>compare with saved settings</source>
@@ -153,7 +153,7 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>Prints what differs from a file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder.</source>
-        <translation>Affiche ce qui diffère d’un fichier (« - » est l’entrée standard), ou du fichier de chaque projecteur dans un dossier.</translation>
+        <translation>Affiche ce qui diffère d’un fichier («&#xa0;-&#xa0;» est l’entrée standard), ou du fichier de chaque projecteur dans un dossier.</translation>
     </message>
     <message>
         <source>restore saved settings</source>
@@ -161,7 +161,7 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation>Lit les projecteurs, envoie ce qui diffère du fichier (« - » est l’entrée standard), ou du fichier de chaque projecteur dans un dossier, et le relit. Ce qui est remplacé est d’abord conservé, pour que « acctl undo » puisse le restaurer. Une exécution interrompue peut être répétée à tout moment.</translation>
+        <translation>Lit les projecteurs, envoie ce qui diffère du fichier («&#xa0;-&#xa0;» est l’entrée standard), ou du fichier de chaque projecteur dans un dossier, et le relit. Ce qui est remplacé est d’abord conservé, pour que «&#xa0;acctl undo&#xa0;» puisse le restaurer. Une exécution interrompue peut être répétée à tout moment.</translation>
     </message>
     <message>
         <source>undo the last run of set or apply</source>
@@ -169,7 +169,7 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>Restaure ce que la dernière exécution de « set » ou « apply » a remplacé, sur tous ses projecteurs, ou ce que RUN a remplacé : un nom qu’affiche « acctl undo --list », ou un fichier. Une annulation peut elle-même être annulée par son nom.</translation>
+        <translation>Restaure ce que la dernière exécution de «&#xa0;set&#xa0;» ou «&#xa0;apply&#xa0;» a remplacé, sur tous ses projecteurs, ou ce que RUN a remplacé&#xa0;: un nom qu’affiche «&#xa0;acctl undo --list&#xa0;», ou un fichier. Une annulation peut elle-même être annulée par son nom.</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -193,7 +193,7 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>Adds the rows of comma-separated values (&apos;-&apos; is standard input) to the profile file that --profiles or ACCTL_PROFILES names, and changes those that it has.</source>
-        <translation>Ajoute les lignes de valeurs séparées par des virgules (« - » est l’entrée standard) au fichier de profils qu’indique --profiles ou ACCTL_PROFILES, et modifie les projecteurs qu’il contient déjà.</translation>
+        <translation>Ajoute les lignes de valeurs séparées par des virgules («&#xa0;-&#xa0;» est l’entrée standard) au fichier de profils qu’indique --profiles ou ACCTL_PROFILES, et modifie les projecteurs qu’il contient déjà.</translation>
     </message>
     <message>
         <source>print projectors as a table</source>
@@ -225,11 +225,11 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>no model has such a setting; acctl settings lists all keys</source>
-        <translation>aucun modèle n’a ce réglage ; acctl settings affiche toutes les clés</translation>
+        <translation>aucun modèle n’a ce réglage&#xa0;; acctl settings affiche toutes les clés</translation>
     </message>
     <message>
         <source>no model has such a setting; did you mean %1?</source>
-        <translation>aucun modèle n’a ce réglage ; vouliez-vous dire %1 ?</translation>
+        <translation>aucun modèle n’a ce réglage&#xa0;; vouliez-vous dire %1&#xa0;?</translation>
     </message>
     <message>
         <source>%1 to %2</source>
@@ -242,19 +242,19 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>source %1: this is not kept for each source</source>
-        <translation>source %1 : ce réglage n’est pas propre à chaque source</translation>
+        <translation>source %1&#xa0;: ce réglage n’est pas propre à chaque source</translation>
     </message>
     <message>
         <source>source %1 does not exist; there are %2</source>
-        <translation>la source %1 n’existe pas ; il y a %2</translation>
+        <translation>la source %1 n’existe pas&#xa0;; il y a %2</translation>
     </message>
     <message>
         <source>value %1 is not possible; possible are %2</source>
-        <translation>la valeur %1 n’est pas possible ; valeurs possibles : %2</translation>
+        <translation>la valeur %1 n’est pas possible&#xa0;; valeurs possibles&#xa0;: %2</translation>
     </message>
     <message>
         <source>text &quot;%1&quot; is not that of value %2, which is &quot;%3&quot;; change both, or remove the text</source>
-        <translation>le texte « %1 » n’est pas celui de la valeur %2, qui est « %3 » ; modifiez les deux, ou supprimez le texte</translation>
+        <translation>le texte «&#xa0;%1&#xa0;» n’est pas celui de la valeur %2, qui est «&#xa0;%3&#xa0;»&#xa0;; modifiez les deux, ou supprimez le texte</translation>
     </message>
     <message>
         <source>Reads, changes, saves and restores the settings of projectors that the Advanced Control dialog shows. The projectors are those of a profile file.</source>
@@ -262,7 +262,7 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>P selects projectors: a name, a pattern such as &apos;Lecture*&apos;, @TAG, or model=PATTERN. Several are separated by commas, and !P leaves projectors out. KEY is the key of a setting, a pattern such as &apos;picture.*&apos;, or a short name such as brightness, input or power, which is the same on all models. VALUE is a number as the dialog shows it, the text of an entry in any language of the dialog, or its code.</source>
-        <translation>P désigne des projecteurs : un nom, un motif comme « Lecture* », @TAG ou model=PATTERN. Plusieurs sont séparés par des virgules, et !P exclut des projecteurs. KEY est la clé d’un réglage, un motif comme « picture.* », ou un nom court comme brightness, input ou power, identique sur tous les modèles. VALUE est un nombre tel que la boîte de dialogue l’affiche, le texte d’un élément dans n’importe quelle langue de celle-ci, ou son code.</translation>
+        <translation>P désigne des projecteurs&#xa0;: un nom, un motif comme «&#xa0;Lecture*&#xa0;», @TAG ou model=PATTERN. Plusieurs sont séparés par des virgules, et !P exclut des projecteurs. KEY est la clé d’un réglage, un motif comme «&#xa0;picture.*&#xa0;», ou un nom court comme brightness, input ou power, identique sur tous les modèles. VALUE est un nombre tel que la boîte de dialogue l’affiche, le texte d’un élément dans n’importe quelle langue de celle-ci, ou son code.</translation>
     </message>
     <message>
         <source>Done. Also if a projector in standby could not report everything, or accepted a change that has not taken effect yet.</source>
@@ -274,7 +274,7 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>Wrong use: nothing was sent to any projector.</source>
-        <translation>Mauvais usage : rien n’a été envoyé à aucun projecteur.</translation>
+        <translation>Mauvais usage&#xa0;: rien n’a été envoyé à aucun projecteur.</translation>
     </message>
     <message>
         <source>A projector did not answer or did not report its inputs, or another run of acctl used it.</source>
@@ -282,12 +282,12 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>Interrupted; the report says what was done.</source>
-        <translation>Interrompu ; le rapport indique ce qui a été fait.</translation>
+        <translation>Interrompu&#xa0;; le rapport indique ce qui a été fait.</translation>
     </message>
     <message>
         <source>Use: %1</source>
         <extracomment>Above the help of a command; %1 is how it is called.</extracomment>
-        <translation>Usage : %1</translation>
+        <translation>Usage&#xa0;: %1</translation>
     </message>
     <message>
         <source>Options</source>
@@ -299,7 +299,7 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>Options of all commands; &apos;acctl help COMMAND&apos; lists its own, with examples</source>
-        <translation>Options de toutes les commandes ; « acctl help COMMAND » affiche celles d’une commande, avec des exemples</translation>
+        <translation>Options de toutes les commandes&#xa0;; «&#xa0;acctl help COMMAND&#xa0;» affiche celles d’une commande, avec des exemples</translation>
     </message>
     <message>
         <source>Examples</source>
@@ -331,7 +331,7 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>short name: %1</source>
-        <translation>nom court : %1</translation>
+        <translation>nom court&#xa0;: %1</translation>
     </message>
     <message>
         <source>tab</source>
@@ -382,7 +382,7 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>no profiles at %1; name a file with --profiles</source>
-        <translation>aucun profil à %1 ; indiquez un fichier avec --profiles</translation>
+        <translation>aucun profil à %1&#xa0;; indiquez un fichier avec --profiles</translation>
     </message>
     <message>
         <source>read the projectors from FILE</source>
@@ -390,19 +390,19 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>only projectors in this state, such as &apos;power=on lamp-hours&gt;1500&apos;</source>
-        <translation>seulement les projecteurs dans cet état, par exemple « power=on lamp-hours&gt;1500 »</translation>
+        <translation>seulement les projecteurs dans cet état, par exemple «&#xa0;power=on lamp-hours&gt;1500&#xa0;»</translation>
     </message>
     <message>
         <source>the projector is at ADDRESS; P gives only its model</source>
-        <translation>le projecteur est à ADDRESS ; P indique seulement son modèle</translation>
+        <translation>le projecteur est à ADDRESS&#xa0;; P indique seulement son modèle</translation>
     </message>
     <message>
         <source>the port of the projectors that are searched; 4352 by default</source>
-        <translation>le port des projecteurs recherchés ; 4352 par défaut</translation>
+        <translation>le port des projecteurs recherchés&#xa0;; 4352 par défaut</translation>
     </message>
     <message>
         <source>PJLink password; other users of this machine can see it here</source>
-        <translation>mot de passe PJLink ; les autres utilisateurs de cette machine peuvent le voir ici</translation>
+        <translation>mot de passe PJLink&#xa0;; les autres utilisateurs de cette machine peuvent le voir ici</translation>
     </message>
     <message>
         <source>the first line of FILE is the password</source>
@@ -410,7 +410,7 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>output: text, json, jsonl (a line for each value or projector), tsv or value</source>
-        <translation>sortie : text, json, jsonl (une ligne par valeur ou projecteur), tsv ou value</translation>
+        <translation>sortie&#xa0;: text, json, jsonl (une ligne par valeur ou projecteur), tsv ou value</translation>
     </message>
     <message>
         <source>the same as --format json</source>
@@ -426,11 +426,11 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>only keys that match GLOB; may be repeated</source>
-        <translation>seulement les clés qui correspondent à GLOB ; peut être répété</translation>
+        <translation>seulement les clés qui correspondent à GLOB&#xa0;; peut être répété</translation>
     </message>
     <message>
         <source>take KEY=VALUE lines from FILE (&apos;-&apos; is standard input)</source>
-        <translation>prendre des lignes KEY=VALUE dans FILE (« - » est l’entrée standard)</translation>
+        <translation>prendre des lignes KEY=VALUE dans FILE («&#xa0;-&#xa0;» est l’entrée standard)</translation>
     </message>
     <message>
         <source>save each projector in a file of its own in DIR</source>
@@ -462,7 +462,7 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>apply: also the undo file of another projector; save: replace any file</source>
-        <translation>apply : aussi le fichier d’annulation d’un autre projecteur ; save : remplacer n’importe quel fichier</translation>
+        <translation>apply&#xa0;: aussi le fichier d’annulation d’un autre projecteur&#xa0;; save&#xa0;: remplacer n’importe quel fichier</translation>
     </message>
     <message>
         <source>list the runs that can be undone</source>
@@ -474,19 +474,19 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>remove undo files older than N days; 30 by default, 0 keeps all</source>
-        <translation>supprimer les fichiers d’annulation de plus de N jours ; 30 par défaut, 0 les garde tous</translation>
+        <translation>supprimer les fichiers d’annulation de plus de N jours&#xa0;; 30 par défaut, 0 les garde tous</translation>
     </message>
     <message>
         <source>projectors at once, 1 to 1024; by default 512 to read and 64 to change</source>
-        <translation>projecteurs à la fois, de 1 à 1024 ; par défaut 512 pour lire et 64 pour modifier</translation>
+        <translation>projecteurs à la fois, de 1 à 1024&#xa0;; par défaut 512 pour lire et 64 pour modifier</translation>
     </message>
     <message>
         <source>time for one answer; 2 by default</source>
-        <translation>délai d’une réponse ; 2 par défaut</translation>
+        <translation>délai d’une réponse&#xa0;; 2 par défaut</translation>
     </message>
     <message>
         <source>try a projector that does not answer N more times; 0 by default</source>
-        <translation>réessayer N fois un projecteur qui ne répond pas ; 0 par défaut</translation>
+        <translation>réessayer N fois un projecteur qui ne répond pas&#xa0;; 0 par défaut</translation>
     </message>
     <message>
         <source>begin no other projector after the first error</source>
@@ -494,7 +494,7 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>time between two readings; 1 by default</source>
-        <translation>temps entre deux lectures ; 1 par défaut</translation>
+        <translation>temps entre deux lectures&#xa0;; 1 par défaut</translation>
     </message>
     <message>
         <source>language of texts, such as de or zh-TW</source>
@@ -502,7 +502,7 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>this text; with a command, its own</source>
-        <translation>ce texte ; avec une commande, l’aide de celle-ci</translation>
+        <translation>ce texte&#xa0;; avec une commande, l’aide de celle-ci</translation>
     </message>
     <message>
         <source>the version</source>
@@ -510,15 +510,15 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>cannot write: %1</source>
-        <translation>impossible d’écrire : %1</translation>
+        <translation>impossible d’écrire&#xa0;: %1</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not possible</source>
-        <translation>« %1 » n’est pas possible</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas possible</translation>
     </message>
     <message>
         <source>&apos;=&apos; is missing</source>
-        <translation>il manque « = »</translation>
+        <translation>il manque «&#xa0;=&#xa0;»</translation>
     </message>
     <message>
         <source>there is no setting %1</source>
@@ -526,7 +526,7 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>cannot read %1: %2</source>
-        <translation>impossible de lire %1 : %2</translation>
+        <translation>impossible de lire %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -539,7 +539,7 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>Password of %1: </source>
-        <translation>Mot de passe de %1 : </translation>
+        <translation>Mot de passe de %1&#xa0;: </translation>
     </message>
     <message>
         <source>%1 (simulated)</source>
@@ -565,11 +565,11 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>%1: &apos;%2&apos; is not KEY=VALUE</source>
-        <translation>%1 : « %2 » n’est pas KEY=VALUE</translation>
+        <translation>%1&#xa0;: «&#xa0;%2&#xa0;» n’est pas KEY=VALUE</translation>
     </message>
     <message>
         <source>%1: has no KEY=VALUE</source>
-        <translation>%1 : ne contient pas KEY=VALUE</translation>
+        <translation>%1&#xa0;: ne contient pas KEY=VALUE</translation>
     </message>
     <message>
         <source>this takes one projector, not %1</source>
@@ -582,7 +582,7 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>cannot record in %1 that it is undone: %2</source>
-        <translation>impossible de noter dans %1 que c’est annulé : %2</translation>
+        <translation>impossible de noter dans %1 que c’est annulé&#xa0;: %2</translation>
     </message>
     <message>
         <source>another run of acctl works on it</source>
@@ -598,23 +598,23 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>interrupted; what was done is reported above</source>
-        <translation>interrompu ; ce qui a été fait est indiqué ci-dessus</translation>
+        <translation>interrompu&#xa0;; ce qui a été fait est indiqué ci-dessus</translation>
     </message>
     <message>
         <source>in standby, left out: %1</source>
-        <translation>en veille, omis : %1</translation>
+        <translation>en veille, omis&#xa0;: %1</translation>
     </message>
     <message>
         <source>warming up, left out: %1</source>
-        <translation>en préchauffage, omis : %1</translation>
+        <translation>en préchauffage, omis&#xa0;: %1</translation>
     </message>
     <message>
         <source>cooling down, left out: %1</source>
-        <translation>en refroidissement, omis : %1</translation>
+        <translation>en refroidissement, omis&#xa0;: %1</translation>
     </message>
     <message>
         <source>skipped, this projector does not offer it: %1</source>
-        <translation>ignoré, ce projecteur ne le propose pas : %1</translation>
+        <translation>ignoré, ce projecteur ne le propose pas&#xa0;: %1</translation>
     </message>
     <message numerus="yes">
         <source>%n projectors</source>
@@ -746,55 +746,55 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message numerus="yes">
         <source>skipped, PJLink does not have them: %n of the file&apos;s settings</source>
         <translation>
-            <numerusform>ignoré, PJLink ne le connaît pas : %n réglage du fichier</numerusform>
-            <numerusform>ignorés, PJLink ne les connaît pas : %n réglages du fichier</numerusform>
+            <numerusform>ignoré, PJLink ne le connaît pas&#xa0;: %n réglage du fichier</numerusform>
+            <numerusform>ignorés, PJLink ne les connaît pas&#xa0;: %n réglages du fichier</numerusform>
         </translation>
     </message>
     <message>
         <source>%1; no more was sent</source>
-        <translation>%1 ; rien d’autre n’a été envoyé</translation>
+        <translation>%1&#xa0;; rien d’autre n’a été envoyé</translation>
     </message>
     <message>
         <source>%1; nothing was sent</source>
-        <translation>%1 ; rien n’a été envoyé</translation>
+        <translation>%1&#xa0;; rien n’a été envoyé</translation>
     </message>
     <message>
         <source>%1: undoes a change of %2; --force applies it to %3</source>
-        <translation>%1 : annule une modification de %2 ; --force l’applique à %3</translation>
+        <translation>%1&#xa0;: annule une modification de %2&#xa0;; --force l’applique à %3</translation>
     </message>
     <message>
         <source>--only %1: the file has no such setting</source>
-        <translation>--only %1 : le fichier n’a pas ce réglage</translation>
+        <translation>--only %1&#xa0;: le fichier n’a pas ce réglage</translation>
     </message>
     <message>
         <source>%1: there is no projector &apos;%2&apos;</source>
-        <translation>%1 : le projecteur « %2 » n’existe pas</translation>
+        <translation>%1&#xa0;: le projecteur «&#xa0;%2&#xa0;» n’existe pas</translation>
     </message>
     <message>
         <source>%1: %2 is also of %3</source>
         <extracomment>Two files, and the projector that both are of.</extracomment>
-        <translation>%1 : %2 est aussi de %3</translation>
+        <translation>%1&#xa0;: %2 est aussi de %3</translation>
     </message>
     <message>
         <source>%1: the folder has no files of settings</source>
-        <translation>%1 : le dossier ne contient aucun fichier de réglages</translation>
+        <translation>%1&#xa0;: le dossier ne contient aucun fichier de réglages</translation>
     </message>
     <message>
         <source>%1: there is no file of it in %2</source>
-        <translation>%1 : il n’y a pas de fichier correspondant dans %2</translation>
+        <translation>%1&#xa0;: il n’y a pas de fichier correspondant dans %2</translation>
     </message>
     <message>
         <source>%1: is not a file of settings; --force replaces it</source>
-        <translation>%1 : n’est pas un fichier de réglages ; --force le remplace</translation>
+        <translation>%1&#xa0;: n’est pas un fichier de réglages&#xa0;; --force le remplace</translation>
     </message>
     <message>
         <source>%1: there is no such file or folder</source>
-        <translation>%1 : ce fichier ou dossier n’existe pas</translation>
+        <translation>%1&#xa0;: ce fichier ou dossier n’existe pas</translation>
     </message>
     <message>
         <source>name the projectors to which the file is applied</source>
@@ -802,7 +802,7 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>one file is for one projector, not %1; -o names a folder</source>
-        <translation>un fichier est pour un projecteur, pas pour %1 ; -o indique un dossier</translation>
+        <translation>un fichier est pour un projecteur, pas pour %1&#xa0;; -o indique un dossier</translation>
     </message>
     <message>
         <source>cannot make the folder %1</source>
@@ -810,7 +810,7 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>%1; name an earlier run to undo that one</source>
-        <translation>%1 ; indiquez une exécution antérieure pour l’annuler</translation>
+        <translation>%1&#xa0;; indiquez une exécution antérieure pour l’annuler</translation>
     </message>
     <message>
         <source>there is no run to undo</source>
@@ -818,11 +818,11 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>there is no run &apos;%1&apos;; --list shows them</source>
-        <translation>l’exécution « %1 » n’existe pas ; --list les affiche</translation>
+        <translation>l’exécution «&#xa0;%1&#xa0;» n’existe pas&#xa0;; --list les affiche</translation>
     </message>
     <message>
         <source>%1: is no longer in the profile file</source>
-        <translation>%1 : n’est plus dans le fichier de profils</translation>
+        <translation>%1&#xa0;: n’est plus dans le fichier de profils</translation>
     </message>
     <message>
         <source>cannot be read now, and is left out</source>
@@ -841,7 +841,7 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>there is no projector &apos;%1&apos;; acctl list shows all</source>
-        <translation>le projecteur « %1 » n’existe pas ; acctl list les affiche tous</translation>
+        <translation>le projecteur «&#xa0;%1&#xa0;» n’existe pas&#xa0;; acctl list les affiche tous</translation>
     </message>
     <message>
         <source>refused, the projector is in standby</source>
@@ -861,7 +861,7 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>this cannot be undone: %1</source>
-        <translation>cela ne peut pas être annulé : %1</translation>
+        <translation>cela ne peut pas être annulé&#xa0;: %1</translation>
     </message>
     <message numerus="yes">
         <source>stopped, %1 of %n steps accepted</source>
@@ -873,8 +873,8 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     <message numerus="yes">
         <source>%1; %2 of %n steps accepted</source>
         <translation>
-            <numerusform>%1 ; %2 pas accepté sur %n</numerusform>
-            <numerusform>%1 ; %2 pas acceptés sur %n</numerusform>
+            <numerusform>%1&#xa0;; %2 pas accepté sur %n</numerusform>
+            <numerusform>%1&#xa0;; %2 pas acceptés sur %n</numerusform>
         </translation>
     </message>
     <message>
@@ -907,15 +907,15 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>%1:%2: not a line of an undo file</source>
-        <translation>%1:%2 : n’est pas une ligne d’un fichier d’annulation</translation>
+        <translation>%1:%2&#xa0;: n’est pas une ligne d’un fichier d’annulation</translation>
     </message>
     <message>
         <source>%1: there is nothing to undo</source>
-        <translation>%1 : il n’y a rien à annuler</translation>
+        <translation>%1&#xa0;: il n’y a rien à annuler</translation>
     </message>
     <message>
         <source>cannot write %1: %2</source>
-        <translation>impossible d’écrire %1 : %2</translation>
+        <translation>impossible d’écrire %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>wrong connection parameters</source>
@@ -1011,7 +1011,7 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>--until: &apos;%1&apos; is not KEY=VALUE</source>
-        <translation>--until : « %1 » n’est pas KEY=VALUE</translation>
+        <translation>--until&#xa0;: «&#xa0;%1&#xa0;» n’est pas KEY=VALUE</translation>
     </message>
 </context>
 <context>
@@ -1046,18 +1046,18 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>%1: the lamp has %2 of %3</source>
-        <translation>%1 : la lampe a %2 sur %3</translation>
+        <translation>%1&#xa0;: la lampe a %2 sur %3</translation>
     </message>
     <message numerus="yes">
         <source>%1: %n settings are not as they should be</source>
         <translation>
-            <numerusform>%1 : %n réglage n’est pas comme il devrait être</numerusform>
-            <numerusform>%1 : %n réglages ne sont pas comme ils devraient être</numerusform>
+            <numerusform>%1&#xa0;: %n réglage n’est pas comme il devrait être</numerusform>
+            <numerusform>%1&#xa0;: %n réglages ne sont pas comme ils devraient être</numerusform>
         </translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>acknowledged</source>
@@ -1084,7 +1084,7 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>Watch one of several shares: 2/5 is the second of five.</source>
-        <translation>Surveiller une part parmi plusieurs : 2/5 est la deuxième de cinq.</translation>
+        <translation>Surveiller une part parmi plusieurs&#xa0;: 2/5 est la deuxième de cinq.</translation>
     </message>
     <message>
         <source>share</source>
@@ -1124,7 +1124,7 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>Serve metrics at &lt;address:port&gt;; &apos;none&apos; for nowhere.</source>
-        <translation>Servir les métriques à &lt;adresse:port&gt; ; « none » pour nulle part.</translation>
+        <translation>Servir les métriques à &lt;adresse:port&gt;&#xa0;; «&#xa0;none&#xa0;» pour nulle part.</translation>
     </message>
     <message>
         <source>address:port</source>
@@ -1184,7 +1184,7 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>The first level of discovery topics; &apos;none&apos; for no discovery.</source>
-        <translation>Le premier niveau des sujets de découverte ; « none » pour aucune découverte.</translation>
+        <translation>Le premier niveau des sujets de découverte&#xa0;; «&#xa0;none&#xa0;» pour aucune découverte.</translation>
     </message>
     <message>
         <source>Take the share of a bridge that has said nothing for &lt;seconds&gt;.</source>
@@ -1192,7 +1192,7 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>Settings that may be commanded: keys or patterns, separated by commas; &apos;power&apos; is the power. Without it nothing may be.</source>
-        <translation>Réglages qui peuvent être commandés : clés ou motifs, séparés par des virgules ; « power » est l’alimentation. Sans cette option, aucun.</translation>
+        <translation>Réglages qui peuvent être commandés&#xa0;: clés ou motifs, séparés par des virgules&#xa0;; «&#xa0;power&#xa0;» est l’alimentation. Sans cette option, aucun.</translation>
     </message>
     <message>
         <source>keys</source>
@@ -1216,23 +1216,23 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>&apos;%1&apos; is no time from %2 seconds to a day</source>
-        <translation>« %1 » n’est pas une durée de %2 secondes à un jour</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une durée de %2 secondes à un jour</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no topic</source>
-        <translation>« %1 » n’est pas un sujet</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un sujet</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no share such as 2/5</source>
-        <translation>« %1 » n’est pas une part comme 2/5</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une part comme 2/5</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no numeric address with a port</source>
-        <translation>« %1 » n’est pas une adresse numérique avec un port</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une adresse numérique avec un port</translation>
     </message>
     <message>
         <source>cannot read %1: %2</source>
-        <translation>impossible de lire %1 : %2</translation>
+        <translation>impossible de lire %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 is empty</source>
@@ -1244,11 +1244,11 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>&apos;%1&apos; is no host with a port</source>
-        <translation>« %1 » n’est pas un hôte avec un port</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un hôte avec un port</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is neither 3 nor 5</source>
-        <translation>« %1 » n’est ni 3 ni 5</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est ni 3 ni 5</translation>
     </message>
     <message>
         <source>--cert-file and --key-file need each other</source>
@@ -1256,11 +1256,11 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>--allow-commands: &apos;%1&apos; is no setting that may be commanded</source>
-        <translation>--allow-commands : « %1 » n’est pas un réglage qui peut être commandé</translation>
+        <translation>--allow-commands&#xa0;: «&#xa0;%1&#xa0;» n’est pas un réglage qui peut être commandé</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no number from 1 to %2</source>
-        <translation>« %1 » n’est pas un nombre de 1 à %2</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un nombre de 1 à %2</translation>
     </message>
     <message>
         <source>Watches projectors, and tells a metrics store and a message broker of them.</source>
@@ -1268,7 +1268,7 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>unexpected argument &apos;%1&apos;</source>
-        <translation>argument inattendu « %1 »</translation>
+        <translation>argument inattendu «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>--profiles is missing</source>
@@ -1276,22 +1276,22 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>&apos;%1&apos; is no numeric address</source>
-        <translation>« %1 » n’est pas une adresse numérique</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une adresse numérique</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no folder</source>
-        <translation>« %1 » n’est pas un dossier</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un dossier</translation>
     </message>
     <message>
         <source>there are no texts in &apos;%1&apos;</source>
-        <translation>il n’y a pas de textes en « %1 »</translation>
+        <translation>il n’y a pas de textes en «&#xa0;%1&#xa0;»</translation>
     </message>
 </context>
 <context>
     <name>CommandLine</name>
     <message>
         <source>Unexpected &apos;=&apos; in &apos;%1&apos;.</source>
-        <translation>« = » inattendu dans « %1 ».</translation>
+        <translation>«&#xa0;=&#xa0;» inattendu dans «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>--%1 needs a value.</source>
@@ -1323,7 +1323,7 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>With --open: select tab &lt;n&gt;, counted from 0.</source>
-        <translation>Avec --open : choisir l’onglet &lt;n&gt;, compté à partir de 0.</translation>
+        <translation>Avec --open&#xa0;: choisir l’onglet &lt;n&gt;, compté à partir de 0.</translation>
     </message>
     <message>
         <source>Print the table of projectors.</source>
@@ -1331,7 +1331,7 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>With --open: save a picture (PNG) of the dialog and exit.</source>
-        <translation>Avec --open : enregistrer une image (PNG) de la boîte de dialogue et quitter.</translation>
+        <translation>Avec --open&#xa0;: enregistrer une image (PNG) de la boîte de dialogue et quitter.</translation>
     </message>
     <message>
         <source>Save pictures of all tabs of all kinds of projectors in &lt;folder&gt; and exit.</source>
@@ -1347,11 +1347,11 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>--language: there are no texts in &apos;%1&apos;.</source>
-        <translation>--language : il n’y a pas de textes en « %1 ».</translation>
+        <translation>--language&#xa0;: il n’y a pas de textes en «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Unexpected argument &apos;%1&apos;.</source>
-        <translation>Argument inattendu « %1 ».</translation>
+        <translation>Argument inattendu «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Only one of --list, --tour and --open can be given.</source>
@@ -1363,7 +1363,7 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>--tab: &apos;%1&apos; is not a number.</source>
-        <translation>--tab : « %1 » n’est pas un nombre.</translation>
+        <translation>--tab&#xa0;: «&#xa0;%1&#xa0;» n’est pas un nombre.</translation>
     </message>
 </context>
 <context>
@@ -1423,8 +1423,8 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     <message numerus="yes">
         <source>Remove all %n entries of the log?</source>
         <translation>
-            <numerusform>Supprimer %n entrée du journal ?</numerusform>
-            <numerusform>Supprimer les %n entrées du journal ?</numerusform>
+            <numerusform>Supprimer %n entrée du journal&#xa0;?</numerusform>
+            <numerusform>Supprimer les %n entrées du journal&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
@@ -1488,6 +1488,61 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
 </context>
 <context>
+    <name>ConnectionFields</name>
+    <message>
+        <source>&amp;Reached through</source>
+        <translation type="unfinished">Accessi&amp;ble par</translation>
+    </message>
+    <message>
+        <source>Connect&amp;ion</source>
+        <translation type="unfinished">Connex&amp;ion</translation>
+    </message>
+    <message>
+        <source>&amp;Address</source>
+        <translation type="unfinished">&amp;Adresse</translation>
+    </message>
+    <message>
+        <source>&amp;Port</source>
+        <translation type="unfinished">&amp;Port</translation>
+    </message>
+    <message>
+        <source>Pass&amp;word</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Port n&amp;umber</source>
+        <translation type="unfinished">N&amp;uméro de port</translation>
+    </message>
+    <message>
+        <source>&amp;Device</source>
+        <translation type="unfinished">Périphéri&amp;que</translation>
+    </message>
+    <message>
+        <source>&amp;Baud</source>
+        <translation type="unfinished">&amp;Débit en bauds</translation>
+    </message>
+    <message>
+        <source>As its family</source>
+        <translation type="unfinished">Comme sa famille</translation>
+    </message>
+    <message>
+        <source>Simulated</source>
+        <translation type="unfinished">Simulé</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation type="unfinished">Réseau</translation>
+    </message>
+    <message>
+        <source>Serial port</source>
+        <translation type="unfinished">Port série</translation>
+    </message>
+    <message>
+        <source>%1 is no address.</source>
+        <translation type="unfinished">%1 n’est pas une adresse.</translation>
+    </message>
+</context>
+<context>
     <name>ConnectionTest</name>
     <message>
         <source>&amp;Test Connection</source>
@@ -1511,7 +1566,7 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>A projector answers: %1</source>
-        <translation>Un projecteur répond : %1</translation>
+        <translation>Un projecteur répond&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1557,39 +1612,39 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>State:</source>
-        <translation>État :</translation>
+        <translation>État&#xa0;:</translation>
     </message>
     <message>
         <source>Power:</source>
-        <translation>Alimentation :</translation>
+        <translation>Alimentation&#xa0;:</translation>
     </message>
     <message>
         <source>Source:</source>
-        <translation>Source :</translation>
+        <translation>Source&#xa0;:</translation>
     </message>
     <message>
         <source>Problem:</source>
-        <translation>Problème :</translation>
+        <translation>Problème&#xa0;:</translation>
     </message>
     <message>
         <source>Picture and sound:</source>
-        <translation>Image et son :</translation>
+        <translation>Image et son&#xa0;:</translation>
     </message>
     <message>
         <source>Lamp:</source>
-        <translation>Lampe :</translation>
+        <translation>Lampe&#xa0;:</translation>
     </message>
     <message>
         <source>Filter:</source>
-        <translation>Filtre :</translation>
+        <translation>Filtre&#xa0;:</translation>
     </message>
     <message>
         <source>Settings:</source>
-        <translation>Réglages :</translation>
+        <translation>Réglages&#xa0;:</translation>
     </message>
     <message>
         <source>Answered:</source>
-        <translation>A répondu :</translation>
+        <translation>A répondu&#xa0;:</translation>
     </message>
     <message>
         <source>Share of the lamp&apos;s rated hours</source>
@@ -1651,28 +1706,28 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     <name>Discovery</name>
     <message>
         <source>Problem: fan</source>
-        <translation>Problème : ventilateur</translation>
+        <translation>Problème&#xa0;: ventilateur</translation>
     </message>
     <message>
         <source>Problem: lamp</source>
-        <translation>Problème : lampe</translation>
+        <translation>Problème&#xa0;: lampe</translation>
     </message>
     <message>
         <source>Problem: temperature</source>
-        <translation>Problème : température</translation>
+        <translation>Problème&#xa0;: température</translation>
     </message>
     <message>
         <source>Problem: cover</source>
-        <translation>Problème : capot</translation>
+        <translation>Problème&#xa0;: capot</translation>
     </message>
     <message>
         <source>Problem: filter</source>
-        <translation>Problème : filtre</translation>
+        <translation>Problème&#xa0;: filtre</translation>
     </message>
     <message>
         <source>Problem: other</source>
         <extracomment>Any other problem of a projector.</extracomment>
-        <translation>Problème : autre</translation>
+        <translation>Problème&#xa0;: autre</translation>
     </message>
     <message>
         <source>Reachable</source>
@@ -1827,11 +1882,12 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
-        <source> %1 ms</source>
-        <translation> %1 ms</translation>
+        <source>%1: %2, %3 ms</source>
+        <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2035,7 +2091,7 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;The live settings of projectors: every value is read from the projector, every change is sent at once.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;Les réglages des projecteurs en direct : chaque valeur est lue sur le projecteur, chaque modification est envoyée aussitôt.&lt;/p&gt;</translation>
+        <translation>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;Les réglages des projecteurs en direct&#xa0;: chaque valeur est lue sur le projecteur, chaque modification est envoyée aussitôt.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
@@ -2069,7 +2125,7 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
-        <translation>Advanced Control : %1</translation>
+        <translation>Advanced Control&#xa0;: %1</translation>
     </message>
     <message>
         <source>Advanced Control</source>
@@ -2082,8 +2138,8 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     <message numerus="yes">
         <source>Open %n dialogs?</source>
         <translation>
-            <numerusform>Ouvrir %n boîte de dialogue ?</numerusform>
-            <numerusform>Ouvrir %n boîtes de dialogue ?</numerusform>
+            <numerusform>Ouvrir %n boîte de dialogue&#xa0;?</numerusform>
+            <numerusform>Ouvrir %n boîtes de dialogue&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
@@ -2168,6 +2224,33 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
 </context>
 <context>
+    <name>ModelFields</name>
+    <message>
+        <source>&amp;Family</source>
+        <translation type="unfinished">&amp;Famille</translation>
+    </message>
+    <message>
+        <source>&amp;Model</source>
+        <translation type="unfinished">&amp;Modèle</translation>
+    </message>
+    <message>
+        <source>All &amp;fields of the model</source>
+        <translation type="unfinished">Tous les &amp;champs du modèle</translation>
+    </message>
+    <message>
+        <source>Dialog &amp;type</source>
+        <translation type="unfinished">T&amp;ype de boîte de dialogue</translation>
+    </message>
+    <message>
+        <source>Model cod&amp;e</source>
+        <translation type="unfinished">&amp;Code du modèle</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation type="unfinished">Aucune</translation>
+    </message>
+</context>
+<context>
     <name>Notify</name>
     <message>
         <source>Advanced Control</source>
@@ -2197,7 +2280,7 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>A list that shows how hundreds of projectors are and changes many of them at once, and for each of them a dialog with a tab per group of settings. Every value is read live from the projector, and every change is sent at once. A log shows each command and its result.</source>
-        <translation>Une liste montre l’état de centaines de projecteurs et permet d’en modifier plusieurs à la fois ; chacun a une boîte de dialogue avec un onglet par groupe de réglages. Chaque valeur est lue en direct sur le projecteur, et chaque modification est envoyée aussitôt. Un journal montre chaque commande et son résultat.</translation>
+        <translation>Une liste montre l’état de centaines de projecteurs et permet d’en modifier plusieurs à la fois&#xa0;; chacun a une boîte de dialogue avec un onglet par groupe de réglages. Chaque valeur est lue en direct sur le projecteur, et chaque modification est envoyée aussitôt. Un journal montre chaque commande et son résultat.</translation>
     </message>
     <message>
         <source>Projectors can be simulated, with faults that are set by hand.</source>
@@ -2326,7 +2409,7 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>Name of the preset:</source>
-        <translation>Nom du préréglage :</translation>
+        <translation>Nom du préréglage&#xa0;:</translation>
     </message>
     <message>
         <source>Saved as the preset %1</source>
@@ -2343,8 +2426,8 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     <message numerus="yes">
         <source>Put the preset %1 on %n projectors?</source>
         <translation>
-            <numerusform>Appliquer le préréglage %1 à %n projecteur ?</numerusform>
-            <numerusform>Appliquer le préréglage %1 à %n projecteurs ?</numerusform>
+            <numerusform>Appliquer le préréglage %1 à %n projecteur&#xa0;?</numerusform>
+            <numerusform>Appliquer le préréglage %1 à %n projecteurs&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
@@ -2362,8 +2445,8 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     <message numerus="yes">
         <source>Put back the settings of %n projectors?</source>
         <translation>
-            <numerusform>Rétablir les réglages de %n projecteur ?</numerusform>
-            <numerusform>Rétablir les réglages de %n projecteurs ?</numerusform>
+            <numerusform>Rétablir les réglages de %n projecteur&#xa0;?</numerusform>
+            <numerusform>Rétablir les réglages de %n projecteurs&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
@@ -2380,26 +2463,6 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
 </context>
 <context>
     <name>ProfileActions</name>
-    <message>
-        <source>&amp;Open Profiles…</source>
-        <translation>&amp;Ouvrir des profils…</translation>
-    </message>
-    <message>
-        <source>&amp;Reload</source>
-        <translation>&amp;Recharger</translation>
-    </message>
-    <message>
-        <source>&amp;Save Profiles As…</source>
-        <translation>&amp;Enregistrer les profils sous…</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Annuler</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>R&amp;établir</translation>
-    </message>
     <message>
         <source>&amp;Add…</source>
         <translation>A&amp;jouter…</translation>
@@ -2419,26 +2482,6 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     <message>
         <source>Ta&amp;g…</source>
         <translation>Éti&amp;queter…</translation>
-    </message>
-    <message>
-        <source>This could not be done; nothing was changed.</source>
-        <translation>Cela n’a pas été possible ; rien n’a été modifié.</translation>
-    </message>
-    <message>
-        <source>Open Profiles</source>
-        <translation>Ouvrir des profils</translation>
-    </message>
-    <message>
-        <source>Profiles (*.json);;All files (*)</source>
-        <translation>Profils (*.json);;Tous les fichiers (*)</translation>
-    </message>
-    <message>
-        <source>Reload</source>
-        <translation>Recharger</translation>
-    </message>
-    <message>
-        <source>Save Profiles As</source>
-        <translation>Enregistrer les profils sous</translation>
     </message>
     <message>
         <source>Add</source>
@@ -2462,13 +2505,13 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
     </message>
     <message>
         <source>Remove &quot;%1&quot; from %2?</source>
-        <translation>Supprimer « %1 » de %2 ?</translation>
+        <translation>Supprimer «&#xa0;%1&#xa0;» de %2&#xa0;?</translation>
     </message>
     <message numerus="yes">
         <source>Remove %n projectors from %1?</source>
         <translation>
-            <numerusform>Supprimer %n projecteur de %1 ?</numerusform>
-            <numerusform>Supprimer %n projecteurs de %1 ?</numerusform>
+            <numerusform>Supprimer %n projecteur de %1&#xa0;?</numerusform>
+            <numerusform>Supprimer %n projecteurs de %1&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
@@ -2483,10 +2526,10 @@ KEY=VALUE fixe une valeur ; KEY+=N et KEY-=N la font varier de N. Sous la forme
         <source>Tags for %n projectors, separated by commas;
 a minus in front takes a tag away:</source>
         <translation>
-            <numerusform>Étiquettes de %n projecteur, séparées par des virgules ;
-un signe moins devant retire une étiquette :</numerusform>
-            <numerusform>Étiquettes de %n projecteurs, séparées par des virgules ;
-un signe moins devant retire une étiquette :</numerusform>
+            <numerusform>Étiquettes de %n projecteur, séparées par des virgules&#xa0;;
+un signe moins devant retire une étiquette&#xa0;:</numerusform>
+            <numerusform>Étiquettes de %n projecteurs, séparées par des virgules&#xa0;;
+un signe moins devant retire une étiquette&#xa0;:</numerusform>
         </translation>
     </message>
 </context>
@@ -2494,27 +2537,27 @@ un signe moins devant retire une étiquette :</numerusform>
     <name>ProfileCsv</name>
     <message>
         <source>&quot;%1&quot; is no MAC number</source>
-        <translation>« %1 » n’est pas une adresse MAC</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une adresse MAC</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no link</source>
-        <translation>« %1 » n’est pas un type de liaison</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un type de liaison</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is the name of another projector, with the identity %2</source>
-        <translation>« %1 » est le nom d’un autre projecteur, d’identité %2</translation>
+        <translation>«&#xa0;%1&#xa0;» est le nom d’un autre projecteur, d’identité %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no number of hours</source>
-        <translation>« %1 » n’est pas un nombre d’heures</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un nombre d’heures</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is the name of another projector</source>
-        <translation>« %1 » est le nom d’un autre projecteur</translation>
+        <translation>«&#xa0;%1&#xa0;» est le nom d’un autre projecteur</translation>
     </message>
     <message>
         <source>the header has no column &quot;name&quot;</source>
-        <translation>l’en-tête n’a pas de colonne « name »</translation>
+        <translation>l’en-tête n’a pas de colonne «&#xa0;name&#xa0;»</translation>
     </message>
 </context>
 <context>
@@ -2531,58 +2574,6 @@ un signe moins devant retire une étiquette :</numerusform>
         <translation>&amp;Nom</translation>
     </message>
     <message>
-        <source>&amp;Family</source>
-        <translation>&amp;Famille</translation>
-    </message>
-    <message>
-        <source>&amp;Model</source>
-        <translation>&amp;Modèle</translation>
-    </message>
-    <message>
-        <source>Dialog &amp;type</source>
-        <translation>T&amp;ype de boîte de dialogue</translation>
-    </message>
-    <message>
-        <source>Model cod&amp;e</source>
-        <translation>&amp;Code du modèle</translation>
-    </message>
-    <message>
-        <source>&amp;Reached through</source>
-        <translation>Accessi&amp;ble par</translation>
-    </message>
-    <message>
-        <source>Connect&amp;ion</source>
-        <translation>Connex&amp;ion</translation>
-    </message>
-    <message>
-        <source>&amp;Address</source>
-        <translation>&amp;Adresse</translation>
-    </message>
-    <message>
-        <source>&amp;Port</source>
-        <translation>&amp;Port</translation>
-    </message>
-    <message>
-        <source>Pass&amp;word</source>
-        <translation>Mot de pass&amp;e</translation>
-    </message>
-    <message>
-        <source>Port n&amp;umber</source>
-        <translation>N&amp;uméro de port</translation>
-    </message>
-    <message>
-        <source>&amp;Device</source>
-        <translation>Périphéri&amp;que</translation>
-    </message>
-    <message>
-        <source>&amp;Baud</source>
-        <translation>&amp;Débit en bauds</translation>
-    </message>
-    <message>
-        <source>All &amp;fields of the model</source>
-        <translation>Tous les &amp;champs du modèle</translation>
-    </message>
-    <message>
         <source>Add Projector</source>
         <translation>Ajouter un projecteur</translation>
     </message>
@@ -2591,48 +2582,16 @@ un signe moins devant retire une étiquette :</numerusform>
         <translation>Modifier le projecteur</translation>
     </message>
     <message>
-        <source>Save Profiles As…</source>
-        <translation>Enregistrer les profils sous…</translation>
-    </message>
-    <message>
-        <source>%1 cannot be changed.</source>
-        <translation>%1 ne peut pas être modifié.</translation>
-    </message>
-    <message>
         <source>Duplicate Projector</source>
         <translation>Dupliquer le projecteur</translation>
     </message>
     <message>
-        <source>None</source>
-        <translation>Aucune</translation>
-    </message>
-    <message>
-        <source>As its family</source>
-        <translation>Comme sa famille</translation>
-    </message>
-    <message>
-        <source>Simulated</source>
-        <translation>Simulé</translation>
-    </message>
-    <message>
-        <source>Network</source>
-        <translation>Réseau</translation>
-    </message>
-    <message>
-        <source>Serial port</source>
-        <translation>Port série</translation>
-    </message>
-    <message>
         <source>Still to be filled in: %1</source>
-        <translation>Reste à remplir : %1</translation>
+        <translation>Reste à remplir&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
-    </message>
-    <message>
-        <source>%1 is no address.</source>
-        <translation>%1 n’est pas une adresse.</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -2643,7 +2602,7 @@ un signe moins devant retire une étiquette :</numerusform>
     </message>
     <message>
         <source>has %1 families; at most %2 are possible</source>
-        <translation>a %1 familles ; %2 au plus sont possibles</translation>
+        <translation>a %1 familles&#xa0;; %2 au plus sont possibles</translation>
     </message>
     <message>
         <source>leads through more than %1 families</source>
@@ -2651,19 +2610,19 @@ un signe moins devant retire une étiquette :</numerusform>
     </message>
     <message>
         <source>makes &quot;%1&quot; like itself</source>
-        <translation>rend « %1 » semblable à elle-même</translation>
+        <translation>rend «&#xa0;%1&#xa0;» semblable à elle-même</translation>
     </message>
     <message>
         <source>there is no family &quot;%1&quot;</source>
-        <translation>la famille « %1 » n’existe pas</translation>
+        <translation>la famille «&#xa0;%1&#xa0;» n’existe pas</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is missing</source>
-        <translation>il manque « %1 »</translation>
+        <translation>il manque «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is the %2 of projectors[%3] too</source>
-        <translation>« %1 » est aussi %2 de projectors[%3]</translation>
+        <translation>«&#xa0;%1&#xa0;» est aussi %2 de projectors[%3]</translation>
     </message>
     <message>
         <source>the file must hold an object</source>
@@ -2671,7 +2630,7 @@ un signe moins devant retire une étiquette :</numerusform>
     </message>
     <message>
         <source>&quot;projectors&quot; is missing</source>
-        <translation>il manque « projectors »</translation>
+        <translation>il manque «&#xa0;projectors&#xa0;»</translation>
     </message>
     <message>
         <source>there is no projector</source>
@@ -2683,7 +2642,7 @@ un signe moins devant retire une étiquette :</numerusform>
     </message>
     <message>
         <source>cannot read profiles %1: %2</source>
-        <translation>impossible de lire les profils %1 : %2</translation>
+        <translation>impossible de lire les profils %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>not a regular file</source>
@@ -2695,7 +2654,7 @@ un signe moins devant retire une étiquette :</numerusform>
     </message>
     <message>
         <source>must be given by its name &quot;%1&quot;</source>
-        <translation>doit être donné par son nom « %1 »</translation>
+        <translation>doit être donné par son nom «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>must be [minimum, maximum] or null</source>
@@ -2707,7 +2666,7 @@ un signe moins devant retire une étiquette :</numerusform>
     </message>
     <message>
         <source>unknown key; known are %1</source>
-        <translation>clé inconnue ; clés connues : %1</translation>
+        <translation>clé inconnue&#xa0;; clés connues&#xa0;: %1</translation>
     </message>
     <message>
         <source>must be an object</source>
@@ -2719,7 +2678,7 @@ un signe moins devant retire une étiquette :</numerusform>
     </message>
     <message>
         <source>has %1 entries; at most %2 are possible</source>
-        <translation>a %1 éléments ; %2 au plus sont possibles</translation>
+        <translation>a %1 éléments&#xa0;; %2 au plus sont possibles</translation>
     </message>
     <message>
         <source>must be a text that is not empty</source>
@@ -2735,11 +2694,11 @@ un signe moins devant retire une étiquette :</numerusform>
     </message>
     <message>
         <source>is %1; it must be %2 to %3</source>
-        <translation>vaut %1 ; doit être compris entre %2 et %3</translation>
+        <translation>vaut %1&#xa0;; doit être compris entre %2 et %3</translation>
     </message>
     <message>
         <source>must be a number, a text or an object with &quot;value&quot; and &quot;name&quot;</source>
-        <translation>doit être un nombre, un texte ou un objet avec « value » et « name »</translation>
+        <translation>doit être un nombre, un texte ou un objet avec «&#xa0;value&#xa0;» et «&#xa0;name&#xa0;»</translation>
     </message>
     <message>
         <source>must be a path that begins with /</source>
@@ -2751,7 +2710,7 @@ un signe moins devant retire une étiquette :</numerusform>
     </message>
     <message>
         <source>must have either &quot;network&quot; or &quot;serial&quot;</source>
-        <translation>doit avoir soit « network », soit « serial »</translation>
+        <translation>doit avoir soit «&#xa0;network&#xa0;», soit «&#xa0;serial&#xa0;»</translation>
     </message>
     <message>
         <source>must be simulated, network, serial or pjlink</source>
@@ -2763,14 +2722,72 @@ un signe moins devant retire une étiquette :</numerusform>
     </message>
     <message>
         <source>there is no setting &quot;%1&quot;</source>
-        <translation>le réglage « %1 » n’existe pas</translation>
+        <translation>le réglage «&#xa0;%1&#xa0;» n’existe pas</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileFileActions</name>
+    <message>
+        <source>&amp;Open Profiles…</source>
+        <translation type="unfinished">&amp;Ouvrir des profils…</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation type="unfinished">&amp;Recharger</translation>
+    </message>
+    <message>
+        <source>&amp;Save Profiles As…</source>
+        <translation type="unfinished">&amp;Enregistrer les profils sous…</translation>
+    </message>
+    <message>
+        <source>Open Profiles</source>
+        <translation type="unfinished">Ouvrir des profils</translation>
+    </message>
+    <message>
+        <source>Profiles (*.json);;All files (*)</source>
+        <translation type="unfinished">Profils (*.json);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation type="unfinished">Recharger</translation>
+    </message>
+    <message>
+        <source>Save Profiles As</source>
+        <translation type="unfinished">Enregistrer les profils sous</translation>
+    </message>
+    <message>
+        <source>Read-Only File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be changed. Save the profiles in another file first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Profiles As…</source>
+        <translation type="unfinished">Enregistrer les profils sous…</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileHistory</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation type="unfinished">&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation type="unfinished">R&amp;établir</translation>
+    </message>
+    <message>
+        <source>This could not be done; nothing was changed.</source>
+        <translation type="unfinished">Cela n’a pas été possible&#xa0;; rien n’a été modifié.</translation>
     </message>
 </context>
 <context>
     <name>Program</name>
     <message>
         <source>no profiles at %1; name a file with --profiles</source>
-        <translation>aucun profil à %1 ; indiquez un fichier avec --profiles</translation>
+        <translation>aucun profil à %1&#xa0;; indiquez un fichier avec --profiles</translation>
     </message>
     <message>
         <source>Name</source>
@@ -2801,66 +2818,66 @@ un signe moins devant retire une étiquette :</numerusform>
     </message>
     <message>
         <source>--open: there is no projector &apos;%1&apos;; --list names all.</source>
-        <translation>--open : le projecteur « %1 » n’existe pas ; --list les affiche tous.</translation>
+        <translation>--open&#xa0;: le projecteur «&#xa0;%1&#xa0;» n’existe pas&#xa0;; --list les affiche tous.</translation>
     </message>
     <message>
         <source>--tab: there is no tab %1; &apos;%2&apos; has tabs 0 to %3.</source>
-        <translation>--tab : l’onglet %1 n’existe pas ; « %2 » a les onglets 0 à %3.</translation>
+        <translation>--tab&#xa0;: l’onglet %1 n’existe pas&#xa0;; «&#xa0;%2&#xa0;» a les onglets 0 à %3.</translation>
     </message>
     <message>
         <source>no display; use --list, --tour or --screenshot without one.</source>
-        <translation>aucun écran ; utilisez --list, --tour ou --screenshot sans écran.</translation>
+        <translation>aucun écran&#xa0;; utilisez --list, --tour ou --screenshot sans écran.</translation>
     </message>
 </context>
 <context>
-    <name>ProjectorTableModel</name>
+    <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
-        <translation>Nom</translation>
+        <translation type="unfinished">Nom</translation>
     </message>
     <message>
         <source>State</source>
-        <translation>État</translation>
+        <translation type="unfinished">État</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation>Alimentation</translation>
+        <translation type="unfinished">Alimentation</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation>Source</translation>
+        <translation type="unfinished">Source</translation>
     </message>
     <message>
         <source>Lamp</source>
-        <translation>Lampe</translation>
+        <translation type="unfinished">Lampe</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation>Problème</translation>
+        <translation type="unfinished">Problème</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation>Modèle</translation>
+        <translation type="unfinished">Modèle</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation>Lieu</translation>
+        <translation type="unfinished">Lieu</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation>Réglages</translation>
+        <translation type="unfinished">Réglages</translation>
     </message>
     <message>
         <source>Last answer</source>
-        <translation>Dernière réponse</translation>
+        <translation type="unfinished">Dernière réponse</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation>Adresse</translation>
+        <translation type="unfinished">Adresse</translation>
     </message>
     <message>
         <source>%1 · open</source>
-        <translation>%1 · ouvert</translation>
+        <translation type="unfinished">%1 · ouvert</translation>
     </message>
 </context>
 <context>
@@ -2951,7 +2968,7 @@ un signe moins devant retire une étiquette :</numerusform>
     </message>
     <message>
         <source>refused: the projector is busy or in standby</source>
-        <translation>refusé : le projecteur est occupé ou en veille</translation>
+        <translation>refusé&#xa0;: le projecteur est occupé ou en veille</translation>
     </message>
     <message>
         <source>not confirmed</source>
@@ -2959,19 +2976,19 @@ un signe moins devant retire une étiquette :</numerusform>
     </message>
     <message>
         <source>skipped: this model does not have it</source>
-        <translation>ignoré : ce modèle ne l’a pas</translation>
+        <translation>ignoré&#xa0;: ce modèle ne l’a pas</translation>
     </message>
     <message>
         <source>skipped: this projector does not offer it</source>
-        <translation>ignoré : ce projecteur ne le propose pas</translation>
+        <translation>ignoré&#xa0;: ce projecteur ne le propose pas</translation>
     </message>
     <message>
         <source>skipped: it is not one to put back</source>
-        <translation>ignoré : ne se restaure pas</translation>
+        <translation>ignoré&#xa0;: ne se restaure pas</translation>
     </message>
     <message>
         <source>skipped: this model does not take the value</source>
-        <translation>ignoré : ce modèle n’accepte pas la valeur</translation>
+        <translation>ignoré&#xa0;: ce modèle n’accepte pas la valeur</translation>
     </message>
     <message numerus="yes">
         <source>%n changed</source>
@@ -3076,11 +3093,11 @@ un signe moins devant retire une étiquette :</numerusform>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Beforehand: other sources and modes</source>
-        <translation>Au préalable : autres sources et modes</translation>
+        <translation>Au préalable&#xa0;: autres sources et modes</translation>
     </message>
     <message numerus="yes">
         <source>%n settings</source>
@@ -3094,7 +3111,7 @@ un signe moins devant retire une étiquette :</numerusform>
     <name>Search</name>
     <message>
         <source>&quot;%1&quot; is neither an IP address nor a range of them</source>
-        <translation>« %1 » n’est ni une adresse IP ni une plage d’adresses</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est ni une adresse IP ni une plage d’adresses</translation>
     </message>
     <message>
         <source>more than %1 addresses</source>
@@ -3192,17 +3209,17 @@ un signe moins devant retire une étiquette :</numerusform>
     </message>
     <message>
         <source>%1: no answer</source>
-        <translation>%1 : aucune réponse</translation>
+        <translation>%1&#xa0;: aucune réponse</translation>
     </message>
     <message>
         <source>%1: nothing can be read</source>
-        <translation>%1 : rien ne peut être lu</translation>
+        <translation>%1&#xa0;: rien ne peut être lu</translation>
     </message>
     <message numerus="yes">
         <source>%1: %n settings cannot be read and are left out</source>
         <translation>
-            <numerusform>%1 : %n réglage ne peut pas être lu et est omis</numerusform>
-            <numerusform>%1 : %n réglages ne peuvent pas être lus et sont omis</numerusform>
+            <numerusform>%1&#xa0;: %n réglage ne peut pas être lu et est omis</numerusform>
+            <numerusform>%1&#xa0;: %n réglages ne peuvent pas être lus et sont omis</numerusform>
         </translation>
     </message>
     <message>
@@ -3238,7 +3255,7 @@ un signe moins devant retire une étiquette :</numerusform>
     <name>SettingsFile</name>
     <message>
         <source>cannot read %1: %2</source>
-        <translation>impossible de lire %1 : %2</translation>
+        <translation>impossible de lire %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>standard input</source>
@@ -3250,37 +3267,37 @@ un signe moins devant retire une étiquette :</numerusform>
     </message>
     <message>
         <source>%1; no more was sent</source>
-        <translation>%1 ; rien d’autre n’a été envoyé</translation>
+        <translation>%1&#xa0;; rien d’autre n’a été envoyé</translation>
     </message>
     <message>
         <source>%1; nothing was sent</source>
-        <translation>%1 ; rien n’a été envoyé</translation>
+        <translation>%1&#xa0;; rien n’a été envoyé</translation>
     </message>
 </context>
 <context>
     <name>Simulator</name>
     <message>
         <source>--control: the port cannot be had</source>
-        <translation>--control : le port n’est pas disponible</translation>
+        <translation>--control&#xa0;: le port n’est pas disponible</translation>
     </message>
     <message>
         <source>there is no projector &apos;%1&apos;</source>
-        <translation>le projecteur « %1 » n’existe pas</translation>
+        <translation>le projecteur «&#xa0;%1&#xa0;» n’existe pas</translation>
     </message>
 </context>
 <context>
     <name>SimulatorArguments</name>
     <message>
         <source>&apos;%1&apos; is no port.</source>
-        <translation>« %1 » n’est pas un port.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un port.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no number from %2 to %3.</source>
-        <translation>« %1 » n’est pas un nombre de %2 à %3.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un nombre de %2 à %3.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no time up to an hour.</source>
-        <translation>« %1 » n’est pas une durée d’une heure au plus.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une durée d’une heure au plus.</translation>
     </message>
     <message>
         <source>Display this help.</source>
@@ -3296,7 +3313,7 @@ un signe moins devant retire une étiquette :</numerusform>
     </message>
     <message>
         <source>Serve only the projector &lt;name&gt;; may be given several times.</source>
-        <translation>Servir seulement le projecteur &lt;nom&gt; ; peut être répété.</translation>
+        <translation>Servir seulement le projecteur &lt;nom&gt;&#xa0;; peut être répété.</translation>
     </message>
     <message>
         <source>name</source>
@@ -3304,7 +3321,7 @@ un signe moins devant retire une étiquette :</numerusform>
     </message>
     <message>
         <source>Listen on &lt;address&gt; instead of 127.0.0.1; with --fleet, the address of the first projector instead of 127.64.0.1.</source>
-        <translation>Écouter à &lt;adresse&gt; au lieu de 127.0.0.1 ; avec --fleet, l’adresse du premier projecteur au lieu de 127.64.0.1.</translation>
+        <translation>Écouter à &lt;adresse&gt; au lieu de 127.0.0.1&#xa0;; avec --fleet, l’adresse du premier projecteur au lieu de 127.64.0.1.</translation>
     </message>
     <message>
         <source>address</source>
@@ -3312,7 +3329,7 @@ un signe moins devant retire une étiquette :</numerusform>
     </message>
     <message>
         <source>The first projector is at port &lt;n&gt;, the others at those that follow; 0, as without it, takes any that are free. With --fleet, &lt;n&gt; is the port of every projector for our own protocol, and the next one for PJLink.</source>
-        <translation>Le premier projecteur est au port &lt;n&gt;, les autres aux suivants ; 0, comme sans cette option, prend des ports libres. Avec --fleet, &lt;n&gt; est le port de chaque projecteur pour notre propre protocole, et le suivant celui de PJLink.</translation>
+        <translation>Le premier projecteur est au port &lt;n&gt;, les autres aux suivants&#xa0;; 0, comme sans cette option, prend des ports libres. Avec --fleet, &lt;n&gt; est le port de chaque projecteur pour notre propre protocole, et le suivant celui de PJLink.</translation>
     </message>
     <message>
         <source>n</source>
@@ -3332,7 +3349,7 @@ un signe moins devant retire une étiquette :</numerusform>
     </message>
     <message>
         <source>Begin with a fault: %1. Of a share of the projectors: &apos;silent 5%&apos;. May be given several times.</source>
-        <translation>Commencer par une panne : %1. Pour une part des projecteurs : « silent 5% ». Peut être répété.</translation>
+        <translation>Commencer par une panne&#xa0;: %1. Pour une part des projecteurs&#xa0;: «&#xa0;silent 5%&#xa0;». Peut être répété.</translation>
     </message>
     <message>
         <source>fault</source>
@@ -3344,7 +3361,7 @@ un signe moins devant retire une étiquette :</numerusform>
     </message>
     <message>
         <source>Listen at port &lt;n&gt; of the loopback address for faults, a line each: projector&apos;s number from 1, or *, and the fault.</source>
-        <translation>Écouter au port &lt;n&gt; de l’adresse de bouclage les pannes, une par ligne : numéro du projecteur à partir de 1, ou *, et la panne.</translation>
+        <translation>Écouter au port &lt;n&gt; de l’adresse de bouclage les pannes, une par ligne&#xa0;: numéro du projecteur à partir de 1, ou *, et la panne.</translation>
     </message>
     <message>
         <source>Write profiles that lead a host to the served projectors to &lt;file&gt;.</source>
@@ -3356,7 +3373,7 @@ un signe moins devant retire une étiquette :</numerusform>
     </message>
     <message>
         <source>Of a fleet: what --write-profiles uses; pjlink, network or mixed.</source>
-        <translation>Pour un parc : ce qu’utilise --write-profiles ; pjlink, network ou mixed.</translation>
+        <translation>Pour un parc&#xa0;: ce qu’utilise --write-profiles&#xa0;; pjlink, network ou mixed.</translation>
     </message>
     <message>
         <source>way</source>
@@ -3364,7 +3381,7 @@ un signe moins devant retire une étiquette :</numerusform>
     </message>
     <message>
         <source>Of a fleet: seconds until a projector is on.</source>
-        <translation>Pour un parc : secondes jusqu’à ce qu’un projecteur soit allumé.</translation>
+        <translation>Pour un parc&#xa0;: secondes jusqu’à ce qu’un projecteur soit allumé.</translation>
     </message>
     <message>
         <source>seconds</source>
@@ -3372,15 +3389,15 @@ un signe moins devant retire une étiquette :</numerusform>
     </message>
     <message>
         <source>Of a fleet: seconds until a projector is in standby.</source>
-        <translation>Pour un parc : secondes jusqu’à ce qu’un projecteur soit en veille.</translation>
+        <translation>Pour un parc&#xa0;: secondes jusqu’à ce qu’un projecteur soit en veille.</translation>
     </message>
     <message>
         <source>Of a fleet: so many changes of state in a second happen by themselves.</source>
-        <translation>Pour un parc : nombre de changements d’état qui se produisent d’eux-mêmes par seconde.</translation>
+        <translation>Pour un parc&#xa0;: nombre de changements d’état qui se produisent d’eux-mêmes par seconde.</translation>
     </message>
     <message>
         <source>Of a fleet: send PJLink&apos;s status notices to this address.</source>
-        <translation>Pour un parc : envoyer les notifications d’état de PJLink à cette adresse.</translation>
+        <translation>Pour un parc&#xa0;: envoyer les notifications d’état de PJLink à cette adresse.</translation>
     </message>
     <message>
         <source>address:port</source>
@@ -3388,7 +3405,7 @@ un signe moins devant retire une étiquette :</numerusform>
     </message>
     <message>
         <source>Of a fleet: at the end, write how often each projector was asked to &lt;file&gt;.</source>
-        <translation>Pour un parc : écrire à la fin dans &lt;fichier&gt; combien de fois chaque projecteur a été interrogé.</translation>
+        <translation>Pour un parc&#xa0;: écrire à la fin dans &lt;fichier&gt; combien de fois chaque projecteur a été interrogé.</translation>
     </message>
     <message>
         <source>Help and errors are in the language &lt;name&gt;, such as de or zh-TW.</source>
@@ -3396,11 +3413,11 @@ un signe moins devant retire une étiquette :</numerusform>
     </message>
     <message>
         <source>Serves simulated projectors over TCP, PJLink and pseudo terminals. Prints an address a line, then &quot;ready&quot;.</source>
-        <translation>Sert des projecteurs simulés par TCP, PJLink et pseudo-terminaux. Affiche une adresse par ligne, puis « ready ».</translation>
+        <translation>Sert des projecteurs simulés par TCP, PJLink et pseudo-terminaux. Affiche une adresse par ligne, puis «&#xa0;ready&#xa0;».</translation>
     </message>
     <message>
         <source>Unexpected argument &apos;%1&apos;.</source>
-        <translation>Argument inattendu « %1 ».</translation>
+        <translation>Argument inattendu «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>--%1 needs --fleet.</source>
@@ -3408,15 +3425,15 @@ un signe moins devant retire une étiquette :</numerusform>
     </message>
     <message>
         <source>&apos;%1&apos; is no address.</source>
-        <translation>« %1 » n’est pas une adresse.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une adresse.</translation>
     </message>
     <message>
         <source>--password: is longer than %1 bytes.</source>
-        <translation>--password : dépasse %1 octets.</translation>
+        <translation>--password&#xa0;: dépasse %1 octets.</translation>
     </message>
     <message>
         <source>--fault: &apos;%1&apos; is none of %2.</source>
-        <translation>--fault : « %1 » n’est aucun de %2.</translation>
+        <translation>--fault&#xa0;: «&#xa0;%1&#xa0;» n’est aucun de %2.</translation>
     </message>
     <message>
         <source>--fleet has no serial lines.</source>
@@ -3424,23 +3441,23 @@ un signe moins devant retire une étiquette :</numerusform>
     </message>
     <message>
         <source>&apos;%1&apos; is no IPv4 loopback address.</source>
-        <translation>« %1 » n’est pas une adresse de bouclage IPv4.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une adresse de bouclage IPv4.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; leaves too few addresses.</source>
-        <translation>« %1 » laisse trop peu d’adresses.</translation>
+        <translation>«&#xa0;%1&#xa0;» laisse trop peu d’adresses.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; leaves none for PJLink.</source>
-        <translation>« %1 » ne laisse pas de port pour PJLink.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne laisse pas de port pour PJLink.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no IPv4 loopback address with a port.</source>
-        <translation>« %1 » n’est pas une adresse de bouclage IPv4 avec un port.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une adresse de bouclage IPv4 avec un port.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is none of pjlink, network and mixed.</source>
-        <translation>« %1 » n’est ni pjlink, ni network, ni mixed.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est ni pjlink, ni network, ni mixed.</translation>
     </message>
 </context>
 <context>
@@ -3479,7 +3496,7 @@ un signe moins devant retire une étiquette :</numerusform>
     </message>
     <message>
         <source>&quot;%1&quot; stands here twice</source>
-        <translation>« %1 » figure ici deux fois</translation>
+        <translation>«&#xa0;%1&#xa0;» figure ici deux fois</translation>
     </message>
     <message>
         <source>is larger than 4 MiB</source>
@@ -3491,7 +3508,7 @@ un signe moins devant retire une étiquette :</numerusform>
     </message>
     <message>
         <source>line %1: </source>
-        <translation>ligne %1 : </translation>
+        <translation>ligne %1&#xa0;: </translation>
     </message>
 </context>
 <context>
@@ -3646,7 +3663,7 @@ un signe moins devant retire une étiquette :</numerusform>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -3680,16 +3697,12 @@ un signe moins devant retire une étiquette :</numerusform>
         <translation>Tableaux (*.csv *.tsv *.txt);;Tous les fichiers (*)</translation>
     </message>
     <message>
-        <source>%1 added, %2 already known, %3 rows not taken.</source>
-        <translation>%1 ajoutés, %2 déjà connus, %3 lignes non reprises.</translation>
-    </message>
-    <message>
         <source>Line %1: %2</source>
-        <translation>Ligne %1 : %2</translation>
+        <translation>Ligne %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Columns that mean nothing here: %1</source>
-        <translation>Colonnes sans signification ici : %1</translation>
+        <translation>Colonnes sans signification ici&#xa0;: %1</translation>
     </message>
     <message>
         <source>Export Table</source>
@@ -3699,150 +3712,174 @@ un signe moins devant retire une étiquette :</numerusform>
         <source>Tables (*.csv);;All files (*)</source>
         <translation>Tableaux (*.csv);;Tous les fichiers (*)</translation>
     </message>
+    <message numerus="yes">
+        <source>%n projectors added</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n already known</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rows not taken</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>UsualActions</name>
+    <message>
+        <source>Switch O&amp;n</source>
+        <translation type="unfinished">Allu&amp;mer</translation>
+    </message>
+    <message>
+        <source>Switch O&amp;ff</source>
+        <translation type="unfinished">Étei&amp;ndre</translation>
+    </message>
+    <message>
+        <source>P&amp;ower</source>
+        <translation type="unfinished">A&amp;limentation</translation>
+    </message>
+    <message>
+        <source>&amp;Input</source>
+        <translation type="unfinished">&amp;Entrée</translation>
+    </message>
+    <message>
+        <source>&amp;Blank</source>
+        <translation type="unfinished">Écran &amp;vide</translation>
+    </message>
+    <message>
+        <source>Blank the Picture</source>
+        <translation type="unfinished">Afficher un écran vide</translation>
+    </message>
+    <message numerus="yes">
+        <source>Blank the picture of %n projectors?</source>
+        <translation type="unfinished">
+            <numerusform>Afficher un écran vide sur %n projecteur&#xa0;?</numerusform>
+            <numerusform>Afficher un écran vide sur %n projecteurs&#xa0;?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Show the Picture</source>
+        <translation type="unfinished">Afficher l’image</translation>
+    </message>
+    <message numerus="yes">
+        <source>Show the picture of %n projectors?</source>
+        <translation type="unfinished">
+            <numerusform>Afficher l’image de %n projecteur&#xa0;?</numerusform>
+            <numerusform>Afficher l’image de %n projecteurs&#xa0;?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Mute</source>
+        <translation type="unfinished">Mu&amp;et</translation>
+    </message>
+    <message>
+        <source>Mute the Sound</source>
+        <translation type="unfinished">Couper le son</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mute the sound of %n projectors?</source>
+        <translation type="unfinished">
+            <numerusform>Couper le son de %n projecteur&#xa0;?</numerusform>
+            <numerusform>Couper le son de %n projecteurs&#xa0;?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Unmute the Sound</source>
+        <translation type="unfinished">Rétablir le son</translation>
+    </message>
+    <message numerus="yes">
+        <source>Unmute the sound of %n projectors?</source>
+        <translation type="unfinished">
+            <numerusform>Rétablir le son de %n projecteur&#xa0;?</numerusform>
+            <numerusform>Rétablir le son de %n projecteurs&#xa0;?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Free&amp;ze</source>
+        <translation type="unfinished">Arrêt sur ima&amp;ge</translation>
+    </message>
+    <message>
+        <source>Freeze the Picture</source>
+        <translation type="unfinished">Arrêter l’image</translation>
+    </message>
+    <message numerus="yes">
+        <source>Freeze the picture of %n projectors?</source>
+        <translation type="unfinished">
+            <numerusform>Arrêter l’image de %n projecteur&#xa0;?</numerusform>
+            <numerusform>Arrêter l’image de %n projecteurs&#xa0;?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Release the Picture</source>
+        <translation type="unfinished">Libérer l’image</translation>
+    </message>
+    <message numerus="yes">
+        <source>Release the picture of %n projectors?</source>
+        <translation type="unfinished">
+            <numerusform>Libérer l’image de %n projecteur&#xa0;?</numerusform>
+            <numerusform>Libérer l’image de %n projecteurs&#xa0;?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Switch On</source>
+        <translation type="unfinished">Allumer</translation>
+    </message>
+    <message>
+        <source>Switch Off</source>
+        <translation type="unfinished">Éteindre</translation>
+    </message>
+    <message numerus="yes">
+        <source>Switch on %n projectors?</source>
+        <translation type="unfinished">
+            <numerusform>Allumer %n projecteur&#xa0;?</numerusform>
+            <numerusform>Allumer %n projecteurs&#xa0;?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Switch off %n projectors?</source>
+        <translation type="unfinished">
+            <numerusform>Éteindre %n projecteur&#xa0;?</numerusform>
+            <numerusform>Éteindre %n projecteurs&#xa0;?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Input %1</source>
+        <translation type="unfinished">Entrée %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Choose the input %1 on %n projectors?</source>
+        <translation type="unfinished">
+            <numerusform>Choisir l’entrée %1 sur %n projecteur&#xa0;?</numerusform>
+            <numerusform>Choisir l’entrée %1 sur %n projecteurs&#xa0;?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No inputs are known</source>
+        <translation type="unfinished">Aucune entrée connue</translation>
+    </message>
 </context>
 <context>
     <name>WholeFile</name>
     <message>
         <source>cannot write %1: %2</source>
-        <translation>impossible d’écrire %1 : %2</translation>
+        <translation>impossible d’écrire %1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
     <name>WorkActions</name>
     <message>
-        <source>Switch O&amp;n</source>
-        <translation>Allu&amp;mer</translation>
-    </message>
-    <message>
-        <source>Switch O&amp;ff</source>
-        <translation>Étei&amp;ndre</translation>
-    </message>
-    <message>
-        <source>P&amp;ower</source>
-        <translation>A&amp;limentation</translation>
-    </message>
-    <message>
-        <source>&amp;Input</source>
-        <translation>&amp;Entrée</translation>
-    </message>
-    <message>
-        <source>&amp;Blank</source>
-        <translation>Écran &amp;vide</translation>
-    </message>
-    <message>
-        <source>Blank the Picture</source>
-        <translation>Afficher un écran vide</translation>
-    </message>
-    <message numerus="yes">
-        <source>Blank the picture of %n projectors?</source>
-        <translation>
-            <numerusform>Afficher un écran vide sur %n projecteur ?</numerusform>
-            <numerusform>Afficher un écran vide sur %n projecteurs ?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Show the Picture</source>
-        <translation>Afficher l’image</translation>
-    </message>
-    <message numerus="yes">
-        <source>Show the picture of %n projectors?</source>
-        <translation>
-            <numerusform>Afficher l’image de %n projecteur ?</numerusform>
-            <numerusform>Afficher l’image de %n projecteurs ?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>&amp;Mute</source>
-        <translation>Mu&amp;et</translation>
-    </message>
-    <message>
-        <source>Mute the Sound</source>
-        <translation>Couper le son</translation>
-    </message>
-    <message numerus="yes">
-        <source>Mute the sound of %n projectors?</source>
-        <translation>
-            <numerusform>Couper le son de %n projecteur ?</numerusform>
-            <numerusform>Couper le son de %n projecteurs ?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Unmute the Sound</source>
-        <translation>Rétablir le son</translation>
-    </message>
-    <message numerus="yes">
-        <source>Unmute the sound of %n projectors?</source>
-        <translation>
-            <numerusform>Rétablir le son de %n projecteur ?</numerusform>
-            <numerusform>Rétablir le son de %n projecteurs ?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Free&amp;ze</source>
-        <translation>Arrêt sur ima&amp;ge</translation>
-    </message>
-    <message>
-        <source>Freeze the Picture</source>
-        <translation>Arrêter l’image</translation>
-    </message>
-    <message numerus="yes">
-        <source>Freeze the picture of %n projectors?</source>
-        <translation>
-            <numerusform>Arrêter l’image de %n projecteur ?</numerusform>
-            <numerusform>Arrêter l’image de %n projecteurs ?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Release the Picture</source>
-        <translation>Libérer l’image</translation>
-    </message>
-    <message numerus="yes">
-        <source>Release the picture of %n projectors?</source>
-        <translation>
-            <numerusform>Libérer l’image de %n projecteur ?</numerusform>
-            <numerusform>Libérer l’image de %n projecteurs ?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Switch On</source>
-        <translation>Allumer</translation>
-    </message>
-    <message>
-        <source>Switch Off</source>
-        <translation>Éteindre</translation>
-    </message>
-    <message numerus="yes">
-        <source>Switch on %n projectors?</source>
-        <translation>
-            <numerusform>Allumer %n projecteur ?</numerusform>
-            <numerusform>Allumer %n projecteurs ?</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Switch off %n projectors?</source>
-        <translation>
-            <numerusform>Éteindre %n projecteur ?</numerusform>
-            <numerusform>Éteindre %n projecteurs ?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Input %1</source>
-        <translation>Entrée %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>Choose the input %1 on %n projectors?</source>
-        <translation>
-            <numerusform>Choisir l’entrée %1 sur %n projecteur ?</numerusform>
-            <numerusform>Choisir l’entrée %1 sur %n projecteurs ?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>No inputs are known</source>
-        <translation>Aucune entrée connue</translation>
-    </message>
-    <message>
         <source>%1, %2: %3</source>
-        <translation>%1, %2 : %3</translation>
+        <translation>%1, %2&#xa0;: %3</translation>
     </message>
 </context>
 <context>
@@ -3916,7 +3953,7 @@ un signe moins devant retire une étiquette :</numerusform>
     </message>
     <message>
         <source>Undo: %1</source>
-        <translation>Annulation : %1</translation>
+        <translation>Annulation&#xa0;: %1</translation>
     </message>
     <message>
         <source>working…</source>

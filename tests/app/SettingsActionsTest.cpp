@@ -76,8 +76,7 @@ TEST(SettingsActions, RestoresCheckedSettingsOfEveryProjector) {
             QStringList({kBeforehand, "Audio: Volume (99)", "Picture: Brightness", kBeforehand,
                          "Audio: Volume (99)", "Picture: Contrast", "Image: Position V"}));
   EXPECT_EQ(Column(dialog, 2), QStringList({"", "", "7", "", "", "-8", "50"}));
-  EXPECT_EQ(Column(dialog, 3),
-            QStringList({"1 setting", "16", "0", "1 setting", "16", "0", "40"}));
+  EXPECT_EQ(Column(dialog, 3), QStringList({"1 setting", "16", "0", "1 setting", "16", "0", "40"}));
 
   QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
   EXPECT_TRUE(dialog.isVisible());

@@ -94,6 +94,7 @@ void LookUpTexts(benchmark::State& state, const Language& language) {
   }
 
   std::vector<double> catalog;
+  std::vector<double> batched;
   std::vector<double> catalogString;
   std::vector<double> gettext;
   std::vector<double> qt;
@@ -110,6 +111,13 @@ void LookUpTexts(benchmark::State& state, const Language& language) {
       }
     });
     state.SetIterationTime(catalog.back() * std::size(kTexts));
+    time(batched, [&] {
+      const CatalogBatch batch;
+      for (const CatalogText& text : kTexts) {
+        catalogText(text);
+        benchmark::DoNotOptimize(buffer);
+      }
+    });
     time(qt, [&] {
       for (const std::string& key : keys) {
         benchmark::DoNotOptimize(translator.translate(kContext, key.c_str()));
@@ -128,10 +136,12 @@ void LookUpTexts(benchmark::State& state, const Language& language) {
   }
   state.counters["texts"] = static_cast<double>(std::size(kTexts));
   state.counters["GetCatalogText_ns"] = Median(catalog) * 1e9;
+  state.counters["batch_ns"] = Median(batched) * 1e9;
   state.counters["CatalogString_ns"] = Median(catalogString) * 1e9;
   state.counters["dgettext_ns"] = Median(gettext) * 1e9;
   state.counters["QTranslator_ns"] = Median(qt) * 1e9;
   state.counters["ratio_to_Qt"] = Median(catalog) / Median(qt);
+  state.counters["batch_to_Qt"] = Median(batched) / Median(qt);
 }
 
 // The module of all languages, and by turns one of a single language.

@@ -19,9 +19,23 @@ function(install_compressed source destination component)
   install(FILES ${compressed} DESTINATION ${folder} COMPONENT ${component})
 endfunction()
 
-install(FILES packaging/advanced-control.desktop
+# What menus and software catalogs show, in all languages.
+find_program(MSGFMT_EXECUTABLE msgfmt REQUIRED)
+file(GLOB translations CONFIGURE_DEPENDS translations/*.ts)
+list(JOIN translations " " translationNames)
+set(entry advanced-control.desktop)
+set(metainfo org.advancedcontrol.advancedcontrol.metainfo.xml)
+set(translated ${PROJECT_BINARY_DIR}/packaging/translated)
+add_custom_command(OUTPUT ${translated}/${entry} ${translated}/${metainfo}
+  COMMAND ${CMAKE_COMMAND} -DPACKAGING_DIR=${PROJECT_SOURCE_DIR}/packaging
+          "-DTRANSLATIONS=${translationNames}" -DMSGFMT=${MSGFMT_EXECUTABLE} -DOUTPUT_DIR=${translated}
+          -P ${PROJECT_SOURCE_DIR}/cmake/TranslatePackage.cmake
+  DEPENDS ${translations} packaging/${entry} packaging/${metainfo} cmake/TranslatePackage.cmake
+  VERBATIM)
+add_custom_target(PackageTexts ALL DEPENDS ${translated}/${entry} ${translated}/${metainfo})
+install(FILES ${translated}/${entry}
         DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT program)
-install(FILES packaging/org.advancedcontrol.advancedcontrol.metainfo.xml
+install(FILES ${translated}/${metainfo}
         DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo COMPONENT program)
 install(FILES app/desktop/icons/advanced-control.svg
         DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps COMPONENT program)
@@ -80,7 +94,7 @@ set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/t
 set(CPACK_COMPONENT_LIBRARY_DESCRIPTION "live settings dialog for projectors
 A dialog with a tab per group of settings, every value read live from a
 projector and every change sent at once, for applications that manage
-projectors. With its texts in English and Simplified Chinese.")
+projectors. With its texts in seventeen languages.")
 
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libadvancedcontrol-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
@@ -94,7 +108,7 @@ set(CPACK_DEBIAN_PROGRAM_PACKAGE_NAME advanced-control)
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_DEPENDS "${library} (= ${version})")
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_RECOMMENDS
-    "qt6-translations-l10n, qt6-wayland, fonts-dejavu-core | fonts-noto-core, fonts-wqy-microhei | fonts-noto-cjk")
+    "qt6-translations-l10n, qt6-wayland, fonts-dejavu-core | fonts-noto-core, fonts-noto-cjk | fonts-wqy-microhei")
 set(CPACK_COMPONENT_PROGRAM_DESCRIPTION "read and change the settings of projectors
 A list of projectors, and for each of them a dialog with a tab per group of
 settings, every value read live and every change sent at once. A log shows

@@ -1013,6 +1013,14 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Prints what differs from a file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder.</source>
+        <translation>Gibt aus, was von einer Datei („-“ ist die Standardeingabe) oder von der eigenen Datei jedes Projektors in einem Ordner abweicht.</translation>
+    </message>
+    <message>
+        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
+        <translation>Liest die Projektoren, sendet, was von der Datei („-“ ist die Standardeingabe) oder von der eigenen Datei jedes Projektors in einem Ordner abweicht, und liest es zurück. Was ersetzt wird, wird vorher gesichert, damit „acctl undo“ es wiederherstellen kann. Ein unterbrochener Lauf kann jederzeit wiederholt werden.</translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -1439,6 +1447,10 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <source>Show the commands of</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Projector, command or result</source>
+        <translation>Projektor, Befehl oder Ergebnis</translation>
+    </message>
 </context>
 <context>
     <name>CommandLogModel</name>
@@ -1559,55 +1571,55 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <name>ConnectionFields</name>
     <message>
         <source>&amp;Reached through</source>
-        <translation>E&amp;rreichbar über</translation>
+        <translation type="unfinished">E&amp;rreichbar über</translation>
     </message>
     <message>
         <source>Connect&amp;ion</source>
-        <translation>Ver&amp;bindung</translation>
+        <translation type="unfinished">Ver&amp;bindung</translation>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation>&amp;Adresse</translation>
+        <translation type="unfinished">&amp;Adresse</translation>
     </message>
     <message>
         <source>&amp;Port</source>
-        <translation>&amp;Port</translation>
+        <translation type="unfinished">&amp;Port</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
-        <translation>Pass&amp;wort</translation>
+        <translation type="unfinished">Pass&amp;wort</translation>
     </message>
     <message>
         <source>Port n&amp;umber</source>
-        <translation>Portn&amp;ummer</translation>
+        <translation type="unfinished">Portn&amp;ummer</translation>
     </message>
     <message>
         <source>&amp;Device</source>
-        <translation>&amp;Gerät</translation>
+        <translation type="unfinished">&amp;Gerät</translation>
     </message>
     <message>
         <source>&amp;Baud</source>
-        <translation>Ba&amp;udrate</translation>
+        <translation type="unfinished">Ba&amp;udrate</translation>
     </message>
     <message>
         <source>As its family</source>
-        <translation>Wie die Familie</translation>
+        <translation type="unfinished">Wie die Familie</translation>
     </message>
     <message>
         <source>Simulated</source>
-        <translation>Simuliert</translation>
+        <translation type="unfinished">Simuliert</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation>Netzwerk</translation>
+        <translation type="unfinished">Netzwerk</translation>
     </message>
     <message>
         <source>Serial port</source>
-        <translation>Serielle Schnittstelle</translation>
+        <translation type="unfinished">Serielle Schnittstelle</translation>
     </message>
     <message>
         <source>%1 is no address.</source>
-        <translation>%1 ist keine Adresse.</translation>
+        <translation type="unfinished">%1 ist keine Adresse.</translation>
     </message>
 </context>
 <context>
@@ -2351,27 +2363,27 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <name>ModelFields</name>
     <message>
         <source>&amp;Family</source>
-        <translation>&amp;Familie</translation>
+        <translation type="unfinished">&amp;Familie</translation>
     </message>
     <message>
         <source>&amp;Model</source>
-        <translation>&amp;Modell</translation>
+        <translation type="unfinished">&amp;Modell</translation>
     </message>
     <message>
         <source>All &amp;fields of the model</source>
-        <translation>Alle Fel&amp;der des Modells</translation>
+        <translation type="unfinished">Alle Fel&amp;der des Modells</translation>
     </message>
     <message>
         <source>Dialog &amp;type</source>
-        <translation>Dialogt&amp;yp</translation>
+        <translation type="unfinished">Dialogt&amp;yp</translation>
     </message>
     <message>
         <source>Model cod&amp;e</source>
-        <translation>Modell&amp;code</translation>
+        <translation type="unfinished">Modell&amp;code</translation>
     </message>
     <message>
         <source>None</source>
-        <translation>Keine</translation>
+        <translation type="unfinished">Keine</translation>
     </message>
 </context>
 <context>
@@ -2597,6 +2609,21 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <message>
         <source>Should be</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name of the preset:</source>
+        <translation>Name der Vorgabe:</translation>
+    </message>
+    <message numerus="yes">
+        <source>Put the preset %1 on %n projectors?</source>
+        <translation>
+            <numerusform>Vorgabe %1 auf %n Projektor anwenden?</numerusform>
+            <numerusform>Vorgabe %1 auf %n Projektoren anwenden?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation>Vergleichen</translation>
     </message>
 </context>
 <context>
@@ -2940,31 +2967,31 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
     <name>ProfileFileActions</name>
     <message>
         <source>&amp;Open Profiles…</source>
-        <translation>Profile ö&amp;ffnen …</translation>
+        <translation type="unfinished">Profile ö&amp;ffnen …</translation>
     </message>
     <message>
         <source>&amp;Reload</source>
-        <translation>&amp;Neu laden</translation>
+        <translation type="unfinished">&amp;Neu laden</translation>
     </message>
     <message>
         <source>&amp;Save Profiles As…</source>
-        <translation>Profile &amp;speichern unter …</translation>
+        <translation type="unfinished">Profile &amp;speichern unter …</translation>
     </message>
     <message>
         <source>Open Profiles</source>
-        <translation>Profile öffnen</translation>
+        <translation type="unfinished">Profile öffnen</translation>
     </message>
     <message>
         <source>Profiles (*.json);;All files (*)</source>
-        <translation>Profile (*.json);;Alle Dateien (*)</translation>
+        <translation type="unfinished">Profile (*.json);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation>Neu laden</translation>
+        <translation type="unfinished">Neu laden</translation>
     </message>
     <message>
         <source>Save Profiles As</source>
-        <translation>Profile speichern unter</translation>
+        <translation type="unfinished">Profile speichern unter</translation>
     </message>
     <message>
         <source>Read-Only File</source>
@@ -2976,22 +3003,22 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
     </message>
     <message>
         <source>Save Profiles As…</source>
-        <translation>Profile speichern unter …</translation>
+        <translation type="unfinished">Profile speichern unter …</translation>
     </message>
 </context>
 <context>
     <name>ProfileHistory</name>
     <message>
         <source>&amp;Undo</source>
-        <translation>&amp;Rückgängig</translation>
+        <translation type="unfinished">&amp;Rückgängig</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation>&amp;Wiederholen</translation>
+        <translation type="unfinished">&amp;Wiederholen</translation>
     </message>
     <message>
         <source>This could not be done; nothing was changed.</source>
-        <translation>Das war nicht möglich; nichts wurde geändert.</translation>
+        <translation type="unfinished">Das war nicht möglich; nichts wurde geändert.</translation>
     </message>
 </context>
 <context>
@@ -3044,51 +3071,51 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
     <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
-        <translation>Name</translation>
+        <translation type="unfinished">Name</translation>
     </message>
     <message>
         <source>State</source>
-        <translation>Zustand</translation>
+        <translation type="unfinished">Zustand</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation>Ein/Aus</translation>
+        <translation type="unfinished">Ein/Aus</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation>Quelle</translation>
+        <translation type="unfinished">Quelle</translation>
     </message>
     <message>
         <source>Lamp</source>
-        <translation>Lampe</translation>
+        <translation type="unfinished">Lampe</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation>Problem</translation>
+        <translation type="unfinished">Problem</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation>Modell</translation>
+        <translation type="unfinished">Modell</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation>Ort</translation>
+        <translation type="unfinished">Ort</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation>Einstellungen</translation>
+        <translation type="unfinished">Einstellungen</translation>
     </message>
     <message>
         <source>Last answer</source>
-        <translation>Letzte Antwort</translation>
+        <translation type="unfinished">Letzte Antwort</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation>Adresse</translation>
+        <translation type="unfinished">Adresse</translation>
     </message>
     <message>
         <source>%1 · open</source>
-        <translation>%1 · offen</translation>
+        <translation type="unfinished">%1 · offen</translation>
     </message>
 </context>
 <context>
@@ -3284,6 +3311,29 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
     <message>
         <source>The values before are kept in %1.</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: no answer</source>
+        <translation>%1: keine Antwort</translation>
+    </message>
+    <message>
+        <source>%1: nothing can be read</source>
+        <translation>%1: nichts kann gelesen werden</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n settings cannot be read and are left out</source>
+        <translation>
+            <numerusform>%1: %n Einstellung kann nicht gelesen werden und wird ausgelassen</numerusform>
+            <numerusform>%1: %n Einstellungen können nicht gelesen werden und werden ausgelassen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Waiting for the projector of an open dialog…</source>
+        <translation>Wartet auf den Projektor eines offenen Dialogs …</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
     </message>
 </context>
 <context>
@@ -3773,134 +3823,134 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
     <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
-        <translation>Ei&amp;nschalten</translation>
+        <translation type="unfinished">Ei&amp;nschalten</translation>
     </message>
     <message>
         <source>Switch O&amp;ff</source>
-        <translation>Auss&amp;chalten</translation>
+        <translation type="unfinished">Auss&amp;chalten</translation>
     </message>
     <message>
         <source>P&amp;ower</source>
-        <translation>&amp;Ein/Aus</translation>
+        <translation type="unfinished">&amp;Ein/Aus</translation>
     </message>
     <message>
         <source>&amp;Input</source>
-        <translation>E&amp;ingang</translation>
+        <translation type="unfinished">E&amp;ingang</translation>
     </message>
     <message>
         <source>&amp;Blank</source>
-        <translation>&amp;Leerbild</translation>
+        <translation type="unfinished">&amp;Leerbild</translation>
     </message>
     <message>
         <source>Blank the Picture</source>
-        <translation>Leerbild zeigen</translation>
+        <translation type="unfinished">Leerbild zeigen</translation>
     </message>
     <message numerus="yes">
         <source>Blank the picture of %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Auf %n Projektor ein Leerbild zeigen?</numerusform>
             <numerusform>Auf %n Projektoren ein Leerbild zeigen?</numerusform>
         </translation>
     </message>
     <message>
         <source>Show the Picture</source>
-        <translation>Bild zeigen</translation>
+        <translation type="unfinished">Bild zeigen</translation>
     </message>
     <message numerus="yes">
         <source>Show the picture of %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Auf %n Projektor das Bild zeigen?</numerusform>
             <numerusform>Auf %n Projektoren das Bild zeigen?</numerusform>
         </translation>
     </message>
     <message>
         <source>&amp;Mute</source>
-        <translation>&amp;Stumm</translation>
+        <translation type="unfinished">&amp;Stumm</translation>
     </message>
     <message>
         <source>Mute the Sound</source>
-        <translation>Ton stummschalten</translation>
+        <translation type="unfinished">Ton stummschalten</translation>
     </message>
     <message numerus="yes">
         <source>Mute the sound of %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Ton von %n Projektor stummschalten?</numerusform>
             <numerusform>Ton von %n Projektoren stummschalten?</numerusform>
         </translation>
     </message>
     <message>
         <source>Unmute the Sound</source>
-        <translation>Ton einschalten</translation>
+        <translation type="unfinished">Ton einschalten</translation>
     </message>
     <message numerus="yes">
         <source>Unmute the sound of %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Ton von %n Projektor einschalten?</numerusform>
             <numerusform>Ton von %n Projektoren einschalten?</numerusform>
         </translation>
     </message>
     <message>
         <source>Free&amp;ze</source>
-        <translation>Ein&amp;frieren</translation>
+        <translation type="unfinished">Ein&amp;frieren</translation>
     </message>
     <message>
         <source>Freeze the Picture</source>
-        <translation>Bild einfrieren</translation>
+        <translation type="unfinished">Bild einfrieren</translation>
     </message>
     <message numerus="yes">
         <source>Freeze the picture of %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Bild von %n Projektor einfrieren?</numerusform>
             <numerusform>Bild von %n Projektoren einfrieren?</numerusform>
         </translation>
     </message>
     <message>
         <source>Release the Picture</source>
-        <translation>Bild freigeben</translation>
+        <translation type="unfinished">Bild freigeben</translation>
     </message>
     <message numerus="yes">
         <source>Release the picture of %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Bild von %n Projektor freigeben?</numerusform>
             <numerusform>Bild von %n Projektoren freigeben?</numerusform>
         </translation>
     </message>
     <message>
         <source>Switch On</source>
-        <translation>Einschalten</translation>
+        <translation type="unfinished">Einschalten</translation>
     </message>
     <message>
         <source>Switch Off</source>
-        <translation>Ausschalten</translation>
+        <translation type="unfinished">Ausschalten</translation>
     </message>
     <message numerus="yes">
         <source>Switch on %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>%n Projektor einschalten?</numerusform>
             <numerusform>%n Projektoren einschalten?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Switch off %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>%n Projektor ausschalten?</numerusform>
             <numerusform>%n Projektoren ausschalten?</numerusform>
         </translation>
     </message>
     <message>
         <source>Input %1</source>
-        <translation>Eingang %1</translation>
+        <translation type="unfinished">Eingang %1</translation>
     </message>
     <message numerus="yes">
         <source>Choose the input %1 on %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Auf %n Projektor den Eingang %1 wählen?</numerusform>
             <numerusform>Auf %n Projektoren den Eingang %1 wählen?</numerusform>
         </translation>
     </message>
     <message>
         <source>No inputs are known</source>
-        <translation>Keine Eingänge bekannt</translation>
+        <translation type="unfinished">Keine Eingänge bekannt</translation>
     </message>
 </context>
 <context>
@@ -4023,6 +4073,193 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
         <translation type="unfinished">
             <numerusform></numerusform>
             <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>RestoreDialog</name>
+    <message>
+        <source>Projector</source>
+        <translation>Projektor</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Einstellung</translation>
+    </message>
+    <message>
+        <source>Here</source>
+        <translation>Hier</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>not read</source>
+        <translation>nicht gelesen</translation>
+    </message>
+    <message>
+        <source>already so</source>
+        <translation>unverändert</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>abweichend</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>geändert</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>abgelehnt</translation>
+    </message>
+    <message>
+        <source>accepted, not yet so</source>
+        <translation>angenommen, noch nicht wirksam</translation>
+    </message>
+    <message>
+        <source>refused: the projector is busy or in standby</source>
+        <translation>abgelehnt: der Projektor ist beschäftigt oder im Standby</translation>
+    </message>
+    <message>
+        <source>not confirmed</source>
+        <translation>nicht bestätigt</translation>
+    </message>
+    <message>
+        <source>skipped: this model does not have it</source>
+        <translation>übersprungen: dieses Modell hat es nicht</translation>
+    </message>
+    <message>
+        <source>skipped: this projector does not offer it</source>
+        <translation>übersprungen: dieser Projektor bietet es nicht an</translation>
+    </message>
+    <message>
+        <source>skipped: it is not one to put back</source>
+        <translation>übersprungen: wird nicht wiederhergestellt</translation>
+    </message>
+    <message>
+        <source>skipped: this model does not take the value</source>
+        <translation>übersprungen: dieses Modell nimmt den Wert nicht an</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n changed</source>
+        <extracomment>How many settings came to this, in a list such as &quot;12 changed, 3 refused&quot;.</extracomment>
+        <translation>
+            <numerusform>%n geändert</numerusform>
+            <numerusform>%n geändert</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n different</source>
+        <translation>
+            <numerusform>%n abweichend</numerusform>
+            <numerusform>%n abweichend</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n already so</source>
+        <translation>
+            <numerusform>%n unverändert</numerusform>
+            <numerusform>%n unverändert</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not yet so</source>
+        <translation>
+            <numerusform>%n noch nicht wirksam</numerusform>
+            <numerusform>%n noch nicht wirksam</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n refused</source>
+        <translation>
+            <numerusform>%n abgelehnt</numerusform>
+            <numerusform>%n abgelehnt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not confirmed</source>
+        <translation>
+            <numerusform>%n nicht bestätigt</numerusform>
+            <numerusform>%n nicht bestätigt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not read</source>
+        <translation>
+            <numerusform>%n nicht gelesen</numerusform>
+            <numerusform>%n nicht gelesen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n skipped</source>
+        <translation>
+            <numerusform>%n übersprungen</numerusform>
+            <numerusform>%n übersprungen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Apply Settings</source>
+        <translation>Einstellungen anwenden</translation>
+    </message>
+    <message>
+        <source>Compare Settings</source>
+        <translation>Einstellungen vergleichen</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtern</translation>
+    </message>
+    <message>
+        <source>&amp;Differences only</source>
+        <translation>Nur &amp;Unterschiede</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>&amp;Compare Again</source>
+        <translation>Noch einmal &amp;vergleichen</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>&amp;Anwenden</translation>
+    </message>
+    <message>
+        <source>Waiting for the projector of an open dialog…</source>
+        <translation>Wartet auf den Projektor eines offenen Dialogs …</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Beforehand: other sources and modes</source>
+        <translation>Vorher: andere Quellen und Betriebsarten</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings</source>
+        <translation>
+            <numerusform>%n Einstellung</numerusform>
+            <numerusform>%n Einstellungen</numerusform>
         </translation>
     </message>
 </context>

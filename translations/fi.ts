@@ -1487,6 +1487,61 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     </message>
 </context>
 <context>
+    <name>ConnectionFields</name>
+    <message>
+        <source>&amp;Reached through</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connect&amp;ion</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Port</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pass&amp;word</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Port n&amp;umber</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Device</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Baud</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As its family</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Simulated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Serial port</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is no address.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ConnectionTest</name>
     <message>
         <source>&amp;Test Connection</source>
@@ -1829,7 +1884,8 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source> %1 ms</source>
+        <source>%1: %2, %3 ms</source>
+        <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2167,6 +2223,33 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     </message>
 </context>
 <context>
+    <name>ModelFields</name>
+    <message>
+        <source>&amp;Family</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Model</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All &amp;fields of the model</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dialog &amp;type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Model cod&amp;e</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Notify</name>
     <message>
         <source>Advanced Control</source>
@@ -2380,26 +2463,6 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
 <context>
     <name>ProfileActions</name>
     <message>
-        <source>&amp;Open Profiles…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Reload</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Save Profiles As…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>&amp;Add…</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2417,26 +2480,6 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     </message>
     <message>
         <source>Ta&amp;g…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>This could not be done; nothing was changed.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Open Profiles</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Profiles (*.json);;All files (*)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Reload</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Save Profiles As</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2528,58 +2571,6 @@ a minus in front takes a tag away:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Family</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Model</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Dialog &amp;type</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Model cod&amp;e</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Reached through</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Connect&amp;ion</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Address</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Port</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Pass&amp;word</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Port n&amp;umber</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Device</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Baud</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>All &amp;fields of the model</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Add Projector</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2588,35 +2579,7 @@ a minus in front takes a tag away:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Save Profiles As…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 cannot be changed.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Duplicate Projector</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>None</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>As its family</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Simulated</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Network</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Serial port</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2625,10 +2588,6 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 is no address.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2764,6 +2723,64 @@ a minus in front takes a tag away:</source>
     </message>
 </context>
 <context>
+    <name>ProfileFileActions</name>
+    <message>
+        <source>&amp;Open Profiles…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save Profiles As…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Profiles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Profiles (*.json);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Profiles As</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read-Only File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be changed. Save the profiles in another file first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Profiles As…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ProfileHistory</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This could not be done; nothing was changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Program</name>
     <message>
         <source>no profiles at %1; name a file with --profiles</source>
@@ -2810,7 +2827,7 @@ a minus in front takes a tag away:</source>
     </message>
 </context>
 <context>
-    <name>ProjectorTableModel</name>
+    <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
         <translation type="unfinished"></translation>
@@ -3677,10 +3694,6 @@ a minus in front takes a tag away:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 added, %2 already known, %3 rows not taken.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Line %1: %2</source>
         <translation type="unfinished"></translation>
     </message>
@@ -3696,16 +3709,30 @@ a minus in front takes a tag away:</source>
         <source>Tables (*.csv);;All files (*)</source>
         <translation type="unfinished"></translation>
     </message>
-</context>
-<context>
-    <name>WholeFile</name>
-    <message>
-        <source>cannot write %1: %2</source>
-        <translation type="unfinished"></translation>
+    <message numerus="yes">
+        <source>%n projectors added</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n already known</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rows not taken</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
-    <name>WorkActions</name>
+    <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
         <translation type="unfinished"></translation>
@@ -3837,6 +3864,16 @@ a minus in front takes a tag away:</source>
         <source>No inputs are known</source>
         <translation type="unfinished"></translation>
     </message>
+</context>
+<context>
+    <name>WholeFile</name>
+    <message>
+        <source>cannot write %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>WorkActions</name>
     <message>
         <source>%1, %2: %3</source>
         <translation type="unfinished"></translation>

@@ -1013,6 +1013,14 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Prints what differs from a file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder.</source>
+        <translation>Affiche ce qui diffère d’un fichier («&#xa0;-&#xa0;» est l’entrée standard), ou du fichier de chaque projecteur dans un dossier.</translation>
+    </message>
+    <message>
+        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
+        <translation>Lit les projecteurs, envoie ce qui diffère du fichier («&#xa0;-&#xa0;» est l’entrée standard), ou du fichier de chaque projecteur dans un dossier, et le relit. Ce qui est remplacé est d’abord conservé, pour que «&#xa0;acctl undo&#xa0;» puisse le restaurer. Une exécution interrompue peut être répétée à tout moment.</translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -1439,6 +1447,10 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <source>Show the commands of</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Projector, command or result</source>
+        <translation>Projecteur, commande ou résultat</translation>
+    </message>
 </context>
 <context>
     <name>CommandLogModel</name>
@@ -1559,19 +1571,19 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     <name>ConnectionFields</name>
     <message>
         <source>&amp;Reached through</source>
-        <translation>Accessi&amp;ble par</translation>
+        <translation type="unfinished">Accessi&amp;ble par</translation>
     </message>
     <message>
         <source>Connect&amp;ion</source>
-        <translation>Connex&amp;ion</translation>
+        <translation type="unfinished">Connex&amp;ion</translation>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation>&amp;Adresse</translation>
+        <translation type="unfinished">&amp;Adresse</translation>
     </message>
     <message>
         <source>&amp;Port</source>
-        <translation>&amp;Port</translation>
+        <translation type="unfinished">&amp;Port</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
@@ -1579,35 +1591,35 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message>
         <source>Port n&amp;umber</source>
-        <translation>N&amp;uméro de port</translation>
+        <translation type="unfinished">N&amp;uméro de port</translation>
     </message>
     <message>
         <source>&amp;Device</source>
-        <translation>Périphéri&amp;que</translation>
+        <translation type="unfinished">Périphéri&amp;que</translation>
     </message>
     <message>
         <source>&amp;Baud</source>
-        <translation>&amp;Débit en bauds</translation>
+        <translation type="unfinished">&amp;Débit en bauds</translation>
     </message>
     <message>
         <source>As its family</source>
-        <translation>Comme sa famille</translation>
+        <translation type="unfinished">Comme sa famille</translation>
     </message>
     <message>
         <source>Simulated</source>
-        <translation>Simulé</translation>
+        <translation type="unfinished">Simulé</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation>Réseau</translation>
+        <translation type="unfinished">Réseau</translation>
     </message>
     <message>
         <source>Serial port</source>
-        <translation>Port série</translation>
+        <translation type="unfinished">Port série</translation>
     </message>
     <message>
         <source>%1 is no address.</source>
-        <translation>%1 n’est pas une adresse.</translation>
+        <translation type="unfinished">%1 n’est pas une adresse.</translation>
     </message>
 </context>
 <context>
@@ -2351,27 +2363,27 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     <name>ModelFields</name>
     <message>
         <source>&amp;Family</source>
-        <translation>&amp;Famille</translation>
+        <translation type="unfinished">&amp;Famille</translation>
     </message>
     <message>
         <source>&amp;Model</source>
-        <translation>&amp;Modèle</translation>
+        <translation type="unfinished">&amp;Modèle</translation>
     </message>
     <message>
         <source>All &amp;fields of the model</source>
-        <translation>Tous les &amp;champs du modèle</translation>
+        <translation type="unfinished">Tous les &amp;champs du modèle</translation>
     </message>
     <message>
         <source>Dialog &amp;type</source>
-        <translation>T&amp;ype de boîte de dialogue</translation>
+        <translation type="unfinished">T&amp;ype de boîte de dialogue</translation>
     </message>
     <message>
         <source>Model cod&amp;e</source>
-        <translation>&amp;Code du modèle</translation>
+        <translation type="unfinished">&amp;Code du modèle</translation>
     </message>
     <message>
         <source>None</source>
-        <translation>Aucune</translation>
+        <translation type="unfinished">Aucune</translation>
     </message>
 </context>
 <context>
@@ -2597,6 +2609,21 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     <message>
         <source>Should be</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name of the preset:</source>
+        <translation>Nom du préréglage&#xa0;:</translation>
+    </message>
+    <message numerus="yes">
+        <source>Put the preset %1 on %n projectors?</source>
+        <translation>
+            <numerusform>Appliquer le préréglage %1 à %n projecteur&#xa0;?</numerusform>
+            <numerusform>Appliquer le préréglage %1 à %n projecteurs&#xa0;?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation>Comparer</translation>
     </message>
 </context>
 <context>
@@ -2940,31 +2967,31 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     <name>ProfileFileActions</name>
     <message>
         <source>&amp;Open Profiles…</source>
-        <translation>&amp;Ouvrir des profils…</translation>
+        <translation type="unfinished">&amp;Ouvrir des profils…</translation>
     </message>
     <message>
         <source>&amp;Reload</source>
-        <translation>&amp;Recharger</translation>
+        <translation type="unfinished">&amp;Recharger</translation>
     </message>
     <message>
         <source>&amp;Save Profiles As…</source>
-        <translation>&amp;Enregistrer les profils sous…</translation>
+        <translation type="unfinished">&amp;Enregistrer les profils sous…</translation>
     </message>
     <message>
         <source>Open Profiles</source>
-        <translation>Ouvrir des profils</translation>
+        <translation type="unfinished">Ouvrir des profils</translation>
     </message>
     <message>
         <source>Profiles (*.json);;All files (*)</source>
-        <translation>Profils (*.json);;Tous les fichiers (*)</translation>
+        <translation type="unfinished">Profils (*.json);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation>Recharger</translation>
+        <translation type="unfinished">Recharger</translation>
     </message>
     <message>
         <source>Save Profiles As</source>
-        <translation>Enregistrer les profils sous</translation>
+        <translation type="unfinished">Enregistrer les profils sous</translation>
     </message>
     <message>
         <source>Read-Only File</source>
@@ -2976,22 +3003,22 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     </message>
     <message>
         <source>Save Profiles As…</source>
-        <translation>Enregistrer les profils sous…</translation>
+        <translation type="unfinished">Enregistrer les profils sous…</translation>
     </message>
 </context>
 <context>
     <name>ProfileHistory</name>
     <message>
         <source>&amp;Undo</source>
-        <translation>&amp;Annuler</translation>
+        <translation type="unfinished">&amp;Annuler</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation>R&amp;établir</translation>
+        <translation type="unfinished">R&amp;établir</translation>
     </message>
     <message>
         <source>This could not be done; nothing was changed.</source>
-        <translation>Cela n’a pas été possible&#xa0;; rien n’a été modifié.</translation>
+        <translation type="unfinished">Cela n’a pas été possible&#xa0;; rien n’a été modifié.</translation>
     </message>
 </context>
 <context>
@@ -3044,51 +3071,51 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
-        <translation>Nom</translation>
+        <translation type="unfinished">Nom</translation>
     </message>
     <message>
         <source>State</source>
-        <translation>État</translation>
+        <translation type="unfinished">État</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation>Alimentation</translation>
+        <translation type="unfinished">Alimentation</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation>Source</translation>
+        <translation type="unfinished">Source</translation>
     </message>
     <message>
         <source>Lamp</source>
-        <translation>Lampe</translation>
+        <translation type="unfinished">Lampe</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation>Problème</translation>
+        <translation type="unfinished">Problème</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation>Modèle</translation>
+        <translation type="unfinished">Modèle</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation>Lieu</translation>
+        <translation type="unfinished">Lieu</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation>Réglages</translation>
+        <translation type="unfinished">Réglages</translation>
     </message>
     <message>
         <source>Last answer</source>
-        <translation>Dernière réponse</translation>
+        <translation type="unfinished">Dernière réponse</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation>Adresse</translation>
+        <translation type="unfinished">Adresse</translation>
     </message>
     <message>
         <source>%1 · open</source>
-        <translation>%1 · ouvert</translation>
+        <translation type="unfinished">%1 · ouvert</translation>
     </message>
 </context>
 <context>
@@ -3284,6 +3311,29 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     <message>
         <source>The values before are kept in %1.</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: no answer</source>
+        <translation>%1&#xa0;: aucune réponse</translation>
+    </message>
+    <message>
+        <source>%1: nothing can be read</source>
+        <translation>%1&#xa0;: rien ne peut être lu</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n settings cannot be read and are left out</source>
+        <translation>
+            <numerusform>%1&#xa0;: %n réglage ne peut pas être lu et est omis</numerusform>
+            <numerusform>%1&#xa0;: %n réglages ne peuvent pas être lus et sont omis</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Waiting for the projector of an open dialog…</source>
+        <translation>Attente du projecteur d’une boîte de dialogue ouverte…</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
     </message>
 </context>
 <context>
@@ -3773,134 +3823,134 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
-        <translation>Allu&amp;mer</translation>
+        <translation type="unfinished">Allu&amp;mer</translation>
     </message>
     <message>
         <source>Switch O&amp;ff</source>
-        <translation>Étei&amp;ndre</translation>
+        <translation type="unfinished">Étei&amp;ndre</translation>
     </message>
     <message>
         <source>P&amp;ower</source>
-        <translation>A&amp;limentation</translation>
+        <translation type="unfinished">A&amp;limentation</translation>
     </message>
     <message>
         <source>&amp;Input</source>
-        <translation>&amp;Entrée</translation>
+        <translation type="unfinished">&amp;Entrée</translation>
     </message>
     <message>
         <source>&amp;Blank</source>
-        <translation>Écran &amp;vide</translation>
+        <translation type="unfinished">Écran &amp;vide</translation>
     </message>
     <message>
         <source>Blank the Picture</source>
-        <translation>Afficher un écran vide</translation>
+        <translation type="unfinished">Afficher un écran vide</translation>
     </message>
     <message numerus="yes">
         <source>Blank the picture of %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Afficher un écran vide sur %n projecteur&#xa0;?</numerusform>
             <numerusform>Afficher un écran vide sur %n projecteurs&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
         <source>Show the Picture</source>
-        <translation>Afficher l’image</translation>
+        <translation type="unfinished">Afficher l’image</translation>
     </message>
     <message numerus="yes">
         <source>Show the picture of %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Afficher l’image de %n projecteur&#xa0;?</numerusform>
             <numerusform>Afficher l’image de %n projecteurs&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
         <source>&amp;Mute</source>
-        <translation>Mu&amp;et</translation>
+        <translation type="unfinished">Mu&amp;et</translation>
     </message>
     <message>
         <source>Mute the Sound</source>
-        <translation>Couper le son</translation>
+        <translation type="unfinished">Couper le son</translation>
     </message>
     <message numerus="yes">
         <source>Mute the sound of %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Couper le son de %n projecteur&#xa0;?</numerusform>
             <numerusform>Couper le son de %n projecteurs&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
         <source>Unmute the Sound</source>
-        <translation>Rétablir le son</translation>
+        <translation type="unfinished">Rétablir le son</translation>
     </message>
     <message numerus="yes">
         <source>Unmute the sound of %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Rétablir le son de %n projecteur&#xa0;?</numerusform>
             <numerusform>Rétablir le son de %n projecteurs&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
         <source>Free&amp;ze</source>
-        <translation>Arrêt sur ima&amp;ge</translation>
+        <translation type="unfinished">Arrêt sur ima&amp;ge</translation>
     </message>
     <message>
         <source>Freeze the Picture</source>
-        <translation>Arrêter l’image</translation>
+        <translation type="unfinished">Arrêter l’image</translation>
     </message>
     <message numerus="yes">
         <source>Freeze the picture of %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Arrêter l’image de %n projecteur&#xa0;?</numerusform>
             <numerusform>Arrêter l’image de %n projecteurs&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
         <source>Release the Picture</source>
-        <translation>Libérer l’image</translation>
+        <translation type="unfinished">Libérer l’image</translation>
     </message>
     <message numerus="yes">
         <source>Release the picture of %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Libérer l’image de %n projecteur&#xa0;?</numerusform>
             <numerusform>Libérer l’image de %n projecteurs&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
         <source>Switch On</source>
-        <translation>Allumer</translation>
+        <translation type="unfinished">Allumer</translation>
     </message>
     <message>
         <source>Switch Off</source>
-        <translation>Éteindre</translation>
+        <translation type="unfinished">Éteindre</translation>
     </message>
     <message numerus="yes">
         <source>Switch on %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Allumer %n projecteur&#xa0;?</numerusform>
             <numerusform>Allumer %n projecteurs&#xa0;?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Switch off %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Éteindre %n projecteur&#xa0;?</numerusform>
             <numerusform>Éteindre %n projecteurs&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
         <source>Input %1</source>
-        <translation>Entrée %1</translation>
+        <translation type="unfinished">Entrée %1</translation>
     </message>
     <message numerus="yes">
         <source>Choose the input %1 on %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Choisir l’entrée %1 sur %n projecteur&#xa0;?</numerusform>
             <numerusform>Choisir l’entrée %1 sur %n projecteurs&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
         <source>No inputs are known</source>
-        <translation>Aucune entrée connue</translation>
+        <translation type="unfinished">Aucune entrée connue</translation>
     </message>
 </context>
 <context>
@@ -4023,6 +4073,193 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
         <translation type="unfinished">
             <numerusform></numerusform>
             <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>RestoreDialog</name>
+    <message>
+        <source>Projector</source>
+        <translation>Projecteur</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Réglage</translation>
+    </message>
+    <message>
+        <source>Here</source>
+        <translation>Ici</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Résultat</translation>
+    </message>
+    <message>
+        <source>not read</source>
+        <translation>non lu</translation>
+    </message>
+    <message>
+        <source>already so</source>
+        <translation>inchangé</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>différent</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>modifié</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>refusé</translation>
+    </message>
+    <message>
+        <source>accepted, not yet so</source>
+        <translation>accepté, pas encore en vigueur</translation>
+    </message>
+    <message>
+        <source>refused: the projector is busy or in standby</source>
+        <translation>refusé&#xa0;: le projecteur est occupé ou en veille</translation>
+    </message>
+    <message>
+        <source>not confirmed</source>
+        <translation>non confirmé</translation>
+    </message>
+    <message>
+        <source>skipped: this model does not have it</source>
+        <translation>ignoré&#xa0;: ce modèle ne l’a pas</translation>
+    </message>
+    <message>
+        <source>skipped: this projector does not offer it</source>
+        <translation>ignoré&#xa0;: ce projecteur ne le propose pas</translation>
+    </message>
+    <message>
+        <source>skipped: it is not one to put back</source>
+        <translation>ignoré&#xa0;: ne se restaure pas</translation>
+    </message>
+    <message>
+        <source>skipped: this model does not take the value</source>
+        <translation>ignoré&#xa0;: ce modèle n’accepte pas la valeur</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n changed</source>
+        <extracomment>How many settings came to this, in a list such as &quot;12 changed, 3 refused&quot;.</extracomment>
+        <translation>
+            <numerusform>%n modifié</numerusform>
+            <numerusform>%n modifiés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n different</source>
+        <translation>
+            <numerusform>%n différent</numerusform>
+            <numerusform>%n différents</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n already so</source>
+        <translation>
+            <numerusform>%n inchangé</numerusform>
+            <numerusform>%n inchangés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not yet so</source>
+        <translation>
+            <numerusform>%n pas encore en vigueur</numerusform>
+            <numerusform>%n pas encore en vigueur</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n refused</source>
+        <translation>
+            <numerusform>%n refusé</numerusform>
+            <numerusform>%n refusés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not confirmed</source>
+        <translation>
+            <numerusform>%n non confirmé</numerusform>
+            <numerusform>%n non confirmés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not read</source>
+        <translation>
+            <numerusform>%n non lu</numerusform>
+            <numerusform>%n non lus</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n skipped</source>
+        <translation>
+            <numerusform>%n ignoré</numerusform>
+            <numerusform>%n ignorés</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Apply Settings</source>
+        <translation>Appliquer les réglages</translation>
+    </message>
+    <message>
+        <source>Compare Settings</source>
+        <translation>Comparer les réglages</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtrer</translation>
+    </message>
+    <message>
+        <source>&amp;Differences only</source>
+        <translation>&amp;Différences seulement</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Réglages</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progression</translation>
+    </message>
+    <message>
+        <source>&amp;Compare Again</source>
+        <translation>&amp;Comparer de nouveau</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>&amp;Appliquer</translation>
+    </message>
+    <message>
+        <source>Waiting for the projector of an open dialog…</source>
+        <translation>Attente du projecteur d’une boîte de dialogue ouverte…</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Beforehand: other sources and modes</source>
+        <translation>Au préalable&#xa0;: autres sources et modes</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings</source>
+        <translation>
+            <numerusform>%n réglage</numerusform>
+            <numerusform>%n réglages</numerusform>
         </translation>
     </message>
 </context>

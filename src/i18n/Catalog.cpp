@@ -50,36 +50,68 @@ int Fail(std::string problem) {
 // Whether the current directory contains this name.
 bool MarkerExists(const char* name) { return access(name, F_OK) == 0; }
 
-// The text of a message. If it has % sequences, it is expanded into `storage`.
-std::optional<std::string_view> TextOf(const CatalogMessage& message,
-                                       std::span<const CatalogInsert> inserts,
-                                       std::string& storage) {
-  if (message.plain) return message.text;
-  auto expanded = ExpandMessage(message.text, inserts);
+// Expands a text into `storage`. Its data is null if that fails.
+std::string_view Expanded(std::string_view text, std::span<const CatalogInsert> inserts,
+                          std::string& storage) {
+  auto expanded = ExpandMessage(text, inserts);
   if (!expanded) return {};
   storage = std::move(*expanded);
   return storage;
 }
 
-std::optional<std::string_view> FindText(int category, int number,
-                                         std::span<const CatalogInsert> inserts,
-                                         std::string& storage) {
+// The text of a message. If it has % sequences, it is expanded into `storage`.
+inline std::string_view TextOf(CatalogMessage message, std::span<const CatalogInsert> inserts,
+                               std::string& storage) {
+  return message.plain ? message.text : Expanded(message.text, inserts, storage);
+}
+
+inline std::string_view TextIn(const MessageCatalog& catalog, MessageTable::Part part,
+                               std::uint32_t id, std::span<const CatalogInsert> inserts,
+                               std::string& storage) {
+  const CatalogMessage message = catalog.Find(part, id);
+  return message ? TextOf(message, inserts, storage) : std::string_view();
+}
+
+/// The messages that come before those of 1033; none if these are shown.
+std::optional<MessageTable::Part> OwnPart(const MessageCatalog& catalog) {
+  const std::uint32_t language = SystemLanguageId();
+  if (language == kEnglishUnitedStates) return {};
+  const auto own = catalog.PartOf(language);
+  // Either marker selects the text of 1033.
+  if (!own || MarkerExists(kChineseMarker) || MarkerExists(kEnglishMarker)) return {};
+  return own;
+}
+
+/// What the batch that began first has seen.
+struct Batch {
+  int depth = 0;
+  bool isCurrent = false;  // nobody has loaded another catalog since
+  std::optional<MessageTable::Part> own;
+};
+Batch& PresentBatch() {
+  static Batch batch;
+  return batch;
+}
+
+// The data is null if there is no text.
+std::string_view FindText(int category, int number, std::span<const CatalogInsert> inserts,
+                          std::string& storage) {
   const auto& catalog = LoadedCatalog();
   if (!catalog || number < 0 || number > 0xFFFF || category < -256 || category > 0xFEFF) return {};
   const std::uint32_t id = MessageId(category, number);
-  const auto english = catalog->FindEnglish(id);
-  // The text is the same in every language, as nearly all are. Skips the query for language and
-  // markers, which would take longer than everything else.
-  if (english && english->sameEverywhere) return TextOf(*english, inserts, storage);
-  const std::uint32_t language = SystemLanguageId();
-  if (language != kEnglishUnitedStates) {
-    const auto own = catalog->Find(language, id);
-    // Either marker selects the text of 1033.
-    if (own && !MarkerExists(kChineseMarker) && !MarkerExists(kEnglishMarker)) {
-      if (const auto text = TextOf(*own, inserts, storage)) return text;
-    }
+  const Batch& batch = PresentBatch();
+  if (batch.isCurrent && batch.own) {
+    const std::string_view text = TextIn(*catalog, *batch.own, id, inserts, storage);
+    if (text.data() != nullptr) return text;
   }
-  return english ? TextOf(*english, inserts, storage) : std::nullopt;
+  const CatalogMessage english = catalog->FindEnglish(id);
+  // Skips the query for language and markers, which would take longer than everything else.
+  const bool isEnglish = batch.isCurrent || english.sameEverywhere;
+  if (const auto part = isEnglish ? std::nullopt : OwnPart(*catalog)) {
+    const std::string_view text = TextIn(*catalog, *part, id, inserts, storage);
+    if (text.data() != nullptr) return text;
+  }
+  return english ? TextOf(english, inserts, storage) : std::string_view();
 }
 
 bool ContinuesCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; }
@@ -160,7 +192,22 @@ int LoadCatalog(std::span<const std::string> folders) {
 
 std::string CatalogProblem() { return Problem(); }
 
-void ReleaseCatalog() { LoadedCatalog().reset(); }
+void ReleaseCatalog() {
+  PresentBatch().isCurrent = false;
+  LoadedCatalog().reset();
+}
+
+CatalogBatch::CatalogBatch() {
+  Batch& batch = PresentBatch();
+  if (batch.depth++ > 0 || !IsCatalogLoaded()) return;
+  batch.own = OwnPart(*LoadedCatalog());
+  batch.isCurrent = true;
+}
+
+CatalogBatch::~CatalogBatch() {
+  Batch& batch = PresentBatch();
+  if (--batch.depth == 0) batch.isCurrent = false;
+}
 
 bool IsCatalogLoaded() { return LoadedCatalog().has_value(); }
 
@@ -181,12 +228,10 @@ void GetCatalogTextV(int category, int number, int bufferSize, char* buffer,
                      std::span<const CatalogInsert> inserts) {
   if (bufferSize <= 0 || !buffer) return;
   std::string storage;
-  if (const auto text = FindText(category, number, inserts, storage)) {
-    // Removes the line break that ends every entry.
-    CopyText(WithoutLastCharacter(WithoutLastCharacter(*text)), bufferSize, buffer);
-  } else {
-    CopyText(kNoCatalog, bufferSize, buffer);
-  }
+  const std::string_view text = FindText(category, number, inserts, storage);
+  // Removes the line break that ends every entry.
+  CopyText(text.data() != nullptr ? WithoutLastCharacter(WithoutLastCharacter(text)) : kNoCatalog,
+           bufferSize, buffer);
 }
 
 }  // namespace AdvancedControl

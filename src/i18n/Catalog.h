@@ -77,6 +77,16 @@ requires(sizeof...(Inserts) > 0) void GetCatalogText(int category, int number, i
   GetCatalogTextV(category, number, bufferSize, buffer, list);
 }
 
+/// Many texts at once: during its lifetime, language and marker files count as they were when the
+/// first one was made, so that they are looked up once. The event loop must not run meanwhile.
+class PROJECTOR_SETTINGS_EXPORT CatalogBatch {
+ public:
+  CatalogBatch();
+  ~CatalogBatch();
+  CatalogBatch(const CatalogBatch&) = delete;
+  CatalogBatch& operator=(const CatalogBatch&) = delete;
+};
+
 /// The text that `GetCatalogText` writes to a buffer of `bufferSize` bytes.
 template <int bufferSize = 1024, class... Inserts>
 std::string CatalogText(int category, int number, const Inserts&... inserts) {

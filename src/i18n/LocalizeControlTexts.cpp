@@ -6,6 +6,7 @@
 
 #include <QWidget>
 
+#include "i18n/Catalog.h"
 #include "i18n/CatalogLanguages.h"
 #include "toolkit/WindowText.h"
 
@@ -40,6 +41,7 @@ void LocalizeCaption(int category, QWidget& window) {
 void LocalizeControlTexts(int category, QWidget& dialog) {
   if (!IsCatalogLoaded()) return;
   if (IsRightToLeft(ShownLanguageId())) dialog.setLayoutDirection(Qt::RightToLeft);
+  const CatalogBatch batch;
   LocalizeCaption(category, dialog);
   for (QObject* child : dialog.children()) {
     if (child->isWidgetType()) LocalizeCaption(category, *static_cast<QWidget*>(child));

@@ -22,8 +22,17 @@ class MessageCatalog {
     return messages_.Find(languageId, messageId);
   }
 
+  /// Where the messages of a language are, if it has any. With this a lookup is faster; its result
+  /// is false if there is no message.
+  std::optional<MessageTable::Part> PartOf(std::uint32_t languageId) const {
+    return messages_.PartOf(languageId);
+  }
+  CatalogMessage Find(MessageTable::Part part, std::uint32_t messageId) const {
+    return messages_.Find(part, messageId);
+  }
+
   /// The same in language 1033.
-  std::optional<CatalogMessage> FindEnglish(std::uint32_t messageId) const {
+  CatalogMessage FindEnglish(std::uint32_t messageId) const {
     return messages_.FindEnglish(messageId);
   }
 

@@ -261,19 +261,14 @@ std::optional<MessageTable> MessageTable::Parse(std::span<const std::byte> modul
   return table;
 }
 
-CatalogMessage MessageTable::At(Place place) const {
-  return {.text = {texts_.data() + place.offset, place.length},
-          .plain = place.plain != 0,
-          .sameEverywhere = place.sameEverywhere != 0};
-}
-
-const MessageTable::LanguagePart* MessageTable::FindLanguage(std::uint32_t languageId) const {
+std::optional<MessageTable::Part> MessageTable::PartOf(std::uint32_t languageId) const {
   const auto found =
       std::ranges::lower_bound(languages_, languageId, {}, &LanguagePart::languageId);
-  return found != languages_.end() && found->languageId == languageId ? &*found : nullptr;
+  const bool isKnown = found != languages_.end() && found->languageId == languageId;
+  return isKnown ? std::optional(found->part) : std::nullopt;
 }
 
-std::optional<std::size_t> MessageTable::FindIn(Part part, std::uint32_t messageId) const {
+std::optional<std::size_t> MessageTable::Search(Part part, std::uint32_t messageId) const {
   const std::span ids = std::span(ids_).subspan(part.begin, part.end - part.begin);
   const auto found = std::ranges::lower_bound(ids, messageId);
   if (found == ids.end() || *found != messageId) return {};
@@ -281,10 +276,11 @@ std::optional<std::size_t> MessageTable::FindIn(Part part, std::uint32_t message
 }
 
 void MessageTable::MarkSameEverywhere() {
-  const LanguagePart* const english = FindLanguage(kEnglishUnitedStates);
-  if (english == nullptr) return;
-  const Part own = english->part;
+  const auto english = PartOf(kEnglishUnitedStates);
+  if (!english) return;
+  const Part own = *english;
   english_ = own;
+  index_.Build(std::span(ids_).subspan(own.begin, own.end - own.begin));
   for (std::uint32_t i = own.begin; i < own.end; ++i) places_[i].sameEverywhere = 1;
   std::vector<Part> others;
   for (const LanguagePart& language : languages_) others.push_back(language.part);
@@ -307,13 +303,9 @@ void MessageTable::MarkSameEverywhere() {
 
 std::optional<CatalogMessage> MessageTable::Find(std::uint32_t languageId,
                                                  std::uint32_t messageId) const {
-  const LanguagePart* const language = FindLanguage(languageId);
-  return language != nullptr ? Find(language->part, messageId) : std::nullopt;
-}
-
-std::optional<CatalogMessage> MessageTable::Find(Part part, std::uint32_t messageId) const {
-  const auto found = FindIn(part, messageId);
-  return found ? std::optional(At(places_[*found])) : std::nullopt;
+  const auto part = PartOf(languageId);
+  const CatalogMessage message = part ? Find(*part, messageId) : CatalogMessage();
+  return message ? std::optional(message) : std::nullopt;
 }
 
 std::vector<MessageTable::Language> MessageTable::Languages() const {

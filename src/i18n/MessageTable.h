@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "Namespace.h"
+#include "i18n/MessageIndex.h"
 
 namespace AdvancedControl {
 
@@ -22,6 +23,9 @@ struct CatalogMessage {
   bool plain = false;
   /// True for a message of language 1033 if no other language of the table has another text for it.
   bool sameEverywhere = false;
+
+  /// Whether there is a message; one without text has an address too.
+  explicit operator bool() const { return text.data() != nullptr; }
 };
 
 /// The messages of one module, decoded to UTF-8. It no longer needs the file. May be read from
@@ -44,12 +48,26 @@ class MessageTable {
   /// table, even if the table is moved.
   std::optional<CatalogMessage> Find(std::uint32_t languageId, std::uint32_t messageId) const;
 
-  /// The same in language 1033, faster.
-  std::optional<CatalogMessage> FindEnglish(std::uint32_t messageId) const {
-    return Find(english_, messageId);
+  /// Where the messages of a language are among all: positions, in the order of their numbers.
+  struct Part {
+    std::uint32_t begin;
+    std::uint32_t end;
+
+    // No null pointer is written here.
+    auto operator<=>(const Part&) const = default;  // NOLINT(modernize-use-nullptr)
+  };
+  /// Nothing if the table has no messages in the language.
+  std::optional<Part> PartOf(std::uint32_t languageId) const;
+  /// The message in the language that the part is of, faster; false if there is none.
+  CatalogMessage Find(Part part, std::uint32_t messageId) const {
+    const auto found = FindIn(part, messageId);
+    return found ? At(places_[*found]) : CatalogMessage();
   }
 
-  bool HasLanguage(std::uint32_t languageId) const { return FindLanguage(languageId) != nullptr; }
+  /// The same in language 1033.
+  CatalogMessage FindEnglish(std::uint32_t messageId) const { return Find(english_, messageId); }
+
+  bool HasLanguage(std::uint32_t languageId) const { return PartOf(languageId).has_value(); }
 
   /// A language of the table and the first one that has the same messages, by identifier. Languages
   /// that share nothing have themselves.
@@ -74,29 +92,33 @@ class MessageTable {
     std::uint32_t sameEverywhere : 1;
   };
 
-  // The messages of a language: a part of `ids_` and `places_`, sorted by number.
-  struct Part {
-    std::uint32_t begin;
-    std::uint32_t end;
-
-    // No null pointer is written here.
-    auto operator<=>(const Part&) const = default;  // NOLINT(modernize-use-nullptr)
-  };
   struct LanguagePart {
     std::uint32_t languageId;
     Part part;
   };
   class Reader;
 
-  CatalogMessage At(Place place) const;
-  const LanguagePart* FindLanguage(std::uint32_t languageId) const;
-  std::optional<CatalogMessage> Find(Part part, std::uint32_t messageId) const;
-  std::optional<std::size_t> FindIn(Part part, std::uint32_t messageId) const;
+  CatalogMessage At(Place place) const {
+    return {.text = {texts_.data() + place.offset, place.length},
+            .plain = place.plain != 0,
+            .sameEverywhere = place.sameEverywhere != 0};
+  }
+  std::optional<std::size_t> FindIn(Part part, std::uint32_t messageId) const {
+    // Languages mostly have the same messages.
+    if (const auto same = index_.Find(messageId)) {
+      const std::size_t place = part.begin + *same;
+      if (place < part.end && ids_[place] == messageId) return place;
+    }
+    return Search(part, messageId);
+  }
+  std::optional<std::size_t> Search(Part part, std::uint32_t messageId) const;
   void MarkSameEverywhere();
 
   // Sorted arrays, not hash tables, because a module could contain keys chosen to collide.
+  // `ids_` and `places_` have the messages of each language one after the other.
   std::vector<LanguagePart> languages_;
   Part english_{.begin = 0, .end = 0};  // of language 1033
+  MessageIndex index_;                  // of `english_`, from its beginning
   std::vector<std::uint32_t> ids_;
   std::vector<Place> places_;
   std::vector<char> texts_;

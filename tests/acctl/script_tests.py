@@ -106,6 +106,21 @@ class Output(Building):
         self.assertEqual({name: value[name] for name in ("name", "alias", "shown", "code")},
                          {"name": "Office", "alias": "contrast", "shown": -1, "code": "-1"})
 
+    def test_texts_are_in_the_users_language_and_those_for_programs_are_english(self):
+        wrong = ["get", "Lecture hall", "smell"]
+        chinese = {"LC_ALL": "zh_CN.UTF-8"}
+        self.assertIn("smell: this model has no such setting", self.acctl(*wrong).stderr)
+        for words, environment in ((wrong, chinese), ([*wrong, "--language=zh_SG"], {}),
+                                   (wrong, {"ACCTL_LANGUAGE": "zh-CN"}), (["--help"], chinese),
+                                   (["help", "set", "--language", "2052"], {}), (["lost"], chinese)):
+            run = self.acctl(*words, **environment)
+            self.assertRegex(run.stdout + run.stderr, "[\u4e00-\u9fff]{3}", words)
+        for words in ([*wrong, "-o", "json"], [*wrong, "--json"], ["lost", "-o", "jsonl"], ["man", "set"]):
+            runs = [self.acctl(*words), self.acctl(*words, **chinese)]
+            self.assertEqual(runs[0].stdout, runs[1].stdout)
+            self.assertEqual(runs[0].stderr, runs[1].stderr)
+        self.assertIn("1 projector ", self.acctl("models", "Model 5-30").stdout)
+
     def test_codes_are_the_same_in_every_language_and_can_be_set(self):
         for language, text in (("1033", "Theater"), ("2052", "影院")):
             run = self.json("set", "Lecture hall", "active-iris=theater", "--language", language)

@@ -188,6 +188,27 @@ TEST_F(CatalogTest, EachCallUsesThePresentLanguage) {
   expectTexts("in 1033", kNoCatalog);
 }
 
+TEST_F(CatalogTest, ABatchUsesTheLanguageOfItsBeginning) {
+  SetLocale("de_DE");
+  const std::vector<TestTable> tables = {
+      {1031, {{kFirst, {Unicode(u"own\r\n")}}}},
+      {1033, {{kFirst, {Unicode(u"english\r\n"), Unicode(u"only\r\n")}}}}};
+  LoadTables(tables);
+  {
+    const CatalogBatch batch;
+    Touch("GETENG");
+    const CatalogBatch within;
+    EXPECT_EQ(CatalogText(4, 1) + CatalogText(4, 2) + CatalogText(4, 3),
+              std::string("ownonly") + kNoCatalog);
+  }
+  EXPECT_EQ(CatalogText(4, 1), "english");
+  const CatalogBatch batch;
+  fs::remove("GETENG");
+  EXPECT_EQ(CatalogText(4, 1), "english");
+  LoadTables(tables);  // another catalog
+  EXPECT_EQ(CatalogText(4, 1), "own");
+}
+
 TEST_F(CatalogTest, AMessageThatCannotBeFormattedFallsBack) {
   SetLocale("zh_CN");
   LoadTables({{1033, {{kFirst, {Unicode(u"no insert\r\n"), Unicode(u"%2\r\n")}}}},

@@ -52,6 +52,29 @@ TEST(MessageTable, ReadsBothModuleKindsAndBothEncodings) {
   }
 }
 
+TEST(MessageTable, FindsNumbersFarApartInManyCategories) {
+  std::vector<std::uint32_t> ids;
+  for (std::uint32_t category = 1; category <= 12; ++category) {
+    for (const std::uint32_t number : {0U, 1U, 8191U, 8192U, 65535U})
+      ids.push_back(category << 16 | number);
+  }
+  const auto tableOf = [&ids](std::uint32_t language, bool isLeftOut) {
+    TestTable table{language, {}};
+    for (const std::uint32_t id : ids) {
+      if (!isLeftOut || id % 3 != 0) table.blocks.push_back({id, {Unicode(u"x")}});
+    }
+    return table;
+  };
+  const auto table =
+      MessageTable::Parse(TestModule({tableOf(1031, true), tableOf(1033, false)}).bytes);
+  ASSERT_TRUE(table);
+  for (const std::uint32_t id : ids) {
+    EXPECT_EQ(TextIn(*table, 1033, id), "x") << id;
+    EXPECT_EQ(TextIn(*table, 1031, id), id % 3 != 0 ? "x" : "(none)") << id;
+    EXPECT_EQ(TextIn(*table, 1033, id ^ 4), "(none)") << id;
+  }
+}
+
 TEST(MessageTable, LowerResourceComesFirst) {
   const TestModule module({{1033, {{1, {Unicode(u"second"), Unicode(u"only here")}}}, 5},
                            {1033, {{1, {Unicode(u"first")}}}, 1}});

@@ -140,7 +140,7 @@ DetailsPanel::DetailsPanel(const QList<QAction*>& actions, QWidget* parent)
   layout->addSpacing(6);
   layout->addWidget(body_, 1);
   layout->addStretch();  // while the body is hidden
-  setMinimumWidth(kUsualWidth * 3 / 4);
+  setMinimumWidth(std::max(kUsualWidth * 3 / 4, body_->minimumSizeHint().width()));
 }
 
 void DetailsPanel::Show(const ProjectorRow* row, std::size_t count,

@@ -1,5 +1,6 @@
 #include "pages/rows/RowTexts.h"
 
+#include "i18n/Catalog.h"
 #include "i18n/LocalizeControlTexts.h"
 #include "settings/CatalogNumbers.h"
 #include "toolkit/CComboBox.h"
@@ -28,6 +29,7 @@ QString TextOf(const ListEntry& entry) {
 }
 
 void FillList(CComboBox& list, std::span<const ListEntry> entries) {
+  const CatalogBatch batch;
   std::vector<std::pair<QString, int>> texts;
   texts.reserve(entries.size());
   for (const ListEntry& entry : entries) texts.emplace_back(TextOf(entry), entry.value);

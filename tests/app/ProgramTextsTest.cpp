@@ -1,0 +1,125 @@
+// The host application's windows in a language made from English, with accents, brackets and 40 %
+// more letters: each text is translated and has room.
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QRegularExpression>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTranslator>
+#include <gtest/gtest.h>
+
+#include "app/desktop/MainWindow.h"
+#include "app/desktop/Preferences.h"
+#include "app/desktop/profiles/ProfileEditor.h"
+#include "app/desktop/profiles/SearchDialog.h"
+#include "app/profiles/Translations.h"
+#include "i18n/Catalog.h"
+#include "i18n/CatalogLanguages.h"
+#include "i18n/SystemLanguage.h"
+#include "tests/app/Windows.h"
+
+namespace {
+
+// Without what is in brackets.
+bool IsTranslated(QString text) {
+  static const QRegularExpression known(QStringLiteral("\\[[^\\]]*\\]"));
+  static const QStringList kUntranslated{"OK", "Cancel", "Apply"};  // Qt's own
+  text.remove(known).remove('&');
+  return kUntranslated.contains(text) ||
+         std::ranges::none_of(text, [](QChar character) { return character.isLetter(); });
+}
+
+/// Names of projectors and languages, addresses and what a user types are the same in every
+/// language.
+bool HasOwnText(const QWidget& widget) {
+  return widget.objectName() == "value" || widget.inherits("QLineEdit") ||
+         widget.inherits("QTimeEdit") || widget.objectName() == "qt_toolbar_ext_button";
+}
+
+void ExpectTranslated(const QWidget& window) {
+  EXPECT_TRUE(IsTranslated(window.windowTitle())) << window.windowTitle().toStdString();
+  for (const QWidget* widget : window.findChildren<QWidget*>()) {
+    if (!widget->isVisible()) continue;
+    QStringList texts{widget->toolTip()};
+    if (!HasOwnText(*widget)) texts += widget->property("text").toString();
+    texts += widget->property("title").toString();
+    texts += widget->property("placeholderText").toString();
+    for (const QString& text : texts) {
+      EXPECT_TRUE(IsTranslated(text))
+          << widget->metaObject()->className() << ": " << text.toStdString();
+    }
+  }
+}
+
+void ExpectRoom(const QWidget& window) {
+  const QRect all = window.rect();
+  for (const QWidget* widget : window.findChildren<QWidget*>()) {
+    const auto* label = qobject_cast<const QLabel*>(widget);
+    const bool isText = qobject_cast<const QAbstractButton*>(widget) != nullptr ||
+                        qobject_cast<const QComboBox*>(widget) != nullptr ||
+                        (label != nullptr && !label->wordWrap());
+    if (!isText || !widget->isVisible() || HasOwnText(*widget)) continue;
+    const std::string name = widget->metaObject()->className() + std::string(" ") +
+                             widget->property("text").toString().toStdString();
+    EXPECT_GE(widget->width(), widget->minimumSizeHint().width()) << name;
+    EXPECT_GE(widget->height(), widget->minimumSizeHint().height()) << name;
+    EXPECT_TRUE(all.contains(QRect(widget->mapTo(&window, QPoint()), widget->size()))) << name;
+  }
+}
+
+/// The window and the dialogs that need no projector.
+void ForEachWindow(const std::function<void(QWidget&)>& look) {
+  const QTemporaryDir folder;
+  const auto show = [&look](QWidget& window) {
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    SCOPED_TRACE(window.metaObject()->className());
+    look(window);
+  };
+  const ProfileDocument document = Shipped(folder);
+  MainWindow window(Shipped(folder));
+  show(window);
+  ProfileEditor editor(document, {}, {});
+  show(editor);
+  QSettings settings(folder.filePath("settings"), QSettings::IniFormat);
+  Preferences preferences(settings);
+  show(preferences);
+  SearchDialog search(document.Projectors(), nullptr);
+  show(search);
+}
+
+TEST(ProgramTexts, AreAllTranslatedAndHaveRoomWhenTheyAreLonger) {
+  QTranslator pseudo;
+  ASSERT_TRUE(pseudo.load(TEST_PSEUDO_DIR "/translations/qps_ploc.qm"));
+  QCoreApplication::installTranslator(&pseudo);
+  ForEachWindow([](QWidget& window) {
+    ExpectTranslated(window);
+    ExpectRoom(window);
+  });
+}
+
+TEST(ProgramTexts, TurnTheMainWindowAndLeaveItRoomInEveryLanguage) {
+  const QTemporaryDir folder;
+  for (const CatalogLanguage& language : CatalogLanguages(CatalogFolders())) {
+    SCOPED_TRACE(language.tag);
+    InstallTranslations(language.id);
+    EXPECT_EQ(QApplication::isRightToLeft(), IsRightToLeft(language.id));
+    const MainWindow window(Shipped(folder));
+    EXPECT_LE(window.minimumSizeHint().width(), 940) << "1920 pixels at 200 %";
+    EXPECT_LE(window.minimumSizeHint().height(), 500);
+    int width = 0;
+    for (const QAction* entry : window.menuBar()->actions()) {
+      width += window.menuBar()->fontMetrics().horizontalAdvance(entry->text()) + 16;
+    }
+    EXPECT_LE(width, 940) << "the menus do not fit in one line";
+  }
+  InstallTranslations(kEnglishUnitedStates);
+}
+
+}  // namespace

@@ -95,7 +95,7 @@ TEST(MessageTable, MarksEnglishTextsThatEveryLanguageHas) {
   ASSERT_TRUE(table);
   std::vector<std::uint32_t> same;
   for (const std::uint32_t id : {1, 2, 3, 4, 6}) {
-    if (table->FindEnglish(id)->sameEverywhere) same.push_back(id);
+    if (table->FindEnglish(id).sameEverywhere) same.push_back(id);
   }
   EXPECT_EQ(same, (std::vector<std::uint32_t>{1, 2, 6}));
 }

@@ -139,7 +139,8 @@ TEST(FleetWindow, SearchFindsAProjectorAndMarksTheKnown) {
   known.link = ProjectorLink::PjLink;
   known.connection = {.isNetwork = true, .address = address, .port = 4352};
   for (const bool isKnown : {false, true}) {
-    SearchDialog dialog(isKnown ? std::vector{known} : std::vector<FleetProfile>(), nullptr);
+    const std::vector<FleetProfile> all(isKnown ? 1 : 0, known);
+    SearchDialog dialog(all, nullptr);
     dialog.open();
     QTest::keyClicks(dialog.findChild<QLineEdit*>(), QString::fromStdString(address));
     Find<QPushButton>(dialog, "Search").click();

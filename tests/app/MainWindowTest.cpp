@@ -187,24 +187,27 @@ TEST(MainWindow, PreferencesTakeEffectAtOnce) {
     return window.palette().color(QPalette::Base).lightness() < 128;
   };
   ASSERT_FALSE(isDark());
-  QAction& preferences = Find<QAction>(window, "Preferences");
-  Answer(preferences, [&](const QDialog& dialog) {
-    Choose(dialog, "Colors", "Dark");
-    EXPECT_TRUE(isDark()) << "as soon as it is chosen";
-  });
-  EXPECT_FALSE(isDark()) << "the dialog was left with Esc";
-  Answer(preferences, [&](QDialog& dialog) {
-    Choose(dialog, "Colors", "Dark");
-    qobject_cast<QSpinBox*>(Find<QLabel>(dialog, "Ask each projector every").buddy())->setValue(30);
-    qobject_cast<QSpinBox*>(Find<QLabel>(dialog, "Silent for").buddy())->setValue(7);
-    dialog.accept();
-  });
-  EXPECT_TRUE(isDark());
+  const auto open = [&window] {
+    Find<QAction>(window, "Preferences").trigger();
+    return qobject_cast<QDialog*>(QApplication::activeModalWidget());
+  };
+  QDialog* dialog = open();
+  ASSERT_NE(dialog, nullptr);
+  Choose(*dialog, "Colors", "Dark");
+  EXPECT_TRUE(Soon(isDark)) << "as soon as it is chosen";
+  dialog->reject();
+  EXPECT_TRUE(Soon([&] { return !isDark(); })) << "the dialog was left with Esc";
+  dialog = open();
+  Choose(*dialog, "Colors", "Dark");
+  qobject_cast<QSpinBox*>(Find<QLabel>(*dialog, "Ask each projector every").buddy())->setValue(30);
+  qobject_cast<QSpinBox*>(Find<QLabel>(*dialog, "Silent for").buddy())->setValue(7);
+  dialog->accept();
+  EXPECT_TRUE(Soon(isDark));
   EXPECT_EQ(Preferences::ThemeOf(settings), Theme::Dark);
   EXPECT_EQ(Preferences::Interval(&settings), 30);
   EXPECT_EQ(AlertRules::Read(&settings).silent, std::chrono::minutes(7));
   Apply(Theme::Desktop);
-  EXPECT_FALSE(isDark());
+  EXPECT_TRUE(Soon([&] { return !isDark(); }));
 }
 
 TEST(MainWindow, RestoresItsStateAndClosesWithoutWaiting) {

@@ -1,6 +1,7 @@
 // Presets: made from a projector, put on others, and what projectors should be like.
 
 #include <gmock/gmock.h>
+#include <set>
 
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -97,8 +98,9 @@ TEST_F(PresetTest, APageOfAProjectorIsSavedAndPutOnOthers) {
   ASSERT_NE(preset, nullptr);
   EXPECT_EQ(preset->projector, "Projector 5-30");
   EXPECT_GT(preset->settings.size(), 5U);
+  const std::set<std::string> ofPage{"picture", "gamma", "color-temp"};
   for (const SavedSetting& saved : preset->settings)
-    EXPECT_TRUE(saved.key.starts_with("picture.")) << saved.key;
+    EXPECT_TRUE(ofPage.contains(saved.key.substr(0, saved.key.find('.')))) << saved.key;
 
   window->Session(a)->Simulator().SetValue(SettingId::Brightness, 128);
   Select({a, b});

@@ -16,6 +16,7 @@
 #include "fleet/FleetUndo.h"
 #include "tests/app/Windows.h"
 #include "tests/app/Work.h"
+#include "tests/support/Programs.h"
 
 namespace {
 
@@ -68,7 +69,7 @@ TEST(SettingsActions, AppliesWhatIsCheckedAndUndoesTheRun) {
   ASSERT_TRUE(Soon([&] { return QFile::exists(pair.file); }));
   Snapshot snapshot = ReadSettingsFile(pair.file).snapshot;
   snapshot.beforehand = {{"picture.sharpness", 129, ""}};
-  snapshot.settings.insert(snapshot.settings.begin(), {"audio.volume", 16, "", 99});
+  snapshot.settings.insert(snapshot.settings.begin(), {"audio.volume", 9999, "", 0});
   snapshot.settings.push_back({"main.contrast", 130, ""});  // of other models
   Write(pair.file, WriteSnapshot(snapshot));
   pair.Projector(0).SetValue(SettingId::Brightness, 135);

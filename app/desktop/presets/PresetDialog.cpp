@@ -72,7 +72,6 @@ void PresetDialog::MakeLayout() {
 
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
   save_ = buttons->addButton(tr("&Save"), QDialogButtonBox::AcceptRole);
-  save_->setDefault(true);
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   auto* layout = new QVBoxLayout(this);
@@ -81,6 +80,7 @@ void PresetDialog::MakeLayout() {
   layout->addWidget(tree_, 1);
   layout->addWidget(remark_);
   layout->addWidget(buttons);
+  save_->setDefault(true);  // only now that the dialog knows the button
   RemoveForeignButtonIcons(*this);
   resize(kUsualSize.boundedTo(screen()->availableGeometry().size() - kFrame));
   name_->setFocus();

@@ -65,7 +65,6 @@ void ComparisonDialog::MakeLayout() {
   again_ = buttons->addButton(tr("&Ask Again"), QDialogButtonBox::ActionRole);
   apply_ = buttons->addButton(tr("&Apply"), QDialogButtonBox::ApplyRole);
   apply_->setVisible(comparison_.applies);
-  apply_->setDefault(comparison_.applies);
   resize(kUsualSize.boundedTo(screen()->availableGeometry().size() - kFrame));
   auto* layout = new QVBoxLayout(this);
   if (!comparison_.source.isEmpty()) {
@@ -80,6 +79,7 @@ void ComparisonDialog::MakeLayout() {
   layout->addWidget(tree_, 1);
   layout->addWidget(progress_);
   layout->addWidget(buttons);
+  apply_->setDefault(comparison_.applies);  // only now that the dialog knows the button
   RemoveForeignButtonIcons(*this);
   connect(again_, &QPushButton::clicked, run_, &WorkRun::RetryFailed);
   connect(apply_, &QPushButton::clicked, this, &ComparisonDialog::Apply);

@@ -230,7 +230,7 @@ void TakeChanges(benchmark::State& state) {
         policy, [&] { QMetaObject::invokeMethod(&application, take, Qt::QueuedConnection); });
     for (const std::uint16_t port : server.Ports()) fleet->Set(TargetOf(Protocol::PjLink, port));
     AwaitVisits(*fleet, static_cast<std::uint64_t>(count));
-    take();
+    while (!fleet->TakeChanges().changes.empty()) continue;
     taken = 0;
     longest = 0;
     std::thread changing([&] {

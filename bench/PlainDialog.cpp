@@ -8,8 +8,10 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSlider>
+#include <QStyle>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QToolButton>
 
 #include "pages/common/CTabPage.h"
 #include "toolkit/WindowText.h"
@@ -151,11 +153,13 @@ std::unique_ptr<QDialog> MakePlainDialog(const PlainBlueprint& blueprint, bool f
   bottom->addWidget(new QLabel);  // the status text; its button is made only when needed
   auto* top = new QHBoxLayout;
   for (const char* text : {"the projector", "when it was read"}) top->addWidget(new QLabel(text));
+  auto* again = new QToolButton;
+  again->setIcon(dialog->style()->standardIcon(QStyle::SP_BrowserReload));
+  top->addWidget(again);
   layout->insertLayout(0, top);
-  for (QWidget* widget : std::initializer_list<QWidget*>{new QPushButton, new QLineEdit}) {
-    bottom->addWidget(widget);
-    widget->hide();
-  }
+  auto* retry = new QPushButton;
+  bottom->addWidget(retry);
+  retry->hide();
   bottom->addStretch(1);
   bottom->addWidget(new QPushButton(blueprint.closeText));
   dialog->resize(blueprint.size);
@@ -166,5 +170,5 @@ std::vector<qsizetype> WidgetCounts(const QWidget& dialog) {
   return {dialog.findChildren<QLabel*>().size(),    dialog.findChildren<QComboBox*>().size(),
           dialog.findChildren<QSlider*>().size(),   dialog.findChildren<QPushButton*>().size(),
           dialog.findChildren<QLineEdit*>().size(), dialog.findChildren<QCheckBox*>().size(),
-          dialog.findChildren<QTabBar*>().size()};
+          dialog.findChildren<QTabBar*>().size(),   dialog.findChildren<QToolButton*>().size()};
 }

@@ -3,8 +3,9 @@
 #
 # Fails if a text that the code uses is missing from the message catalog in English or in Simplified
 # Chinese, whose module has no English texts to fall back to. The code uses a text through a constant
-# in settings/CatalogNumbers.h or through the caption of a template ("73;Brightness"). Also fails if a
-# translation has other inserts than the English text, and lists the texts that a language lacks.
+# in settings/CatalogNumbers.h or ErrorNumbers.h, or through the caption of a template ("73;Brightness").
+# Also fails if a translation has other inserts than the English text, and lists the texts that a
+# language lacks.
 #
 # With SAME_TEXTS it also fails if a translation equals the English text and the file does not say
 # that it may. A line of it is "<text> = <languages>", or "<text> = *" for all of them.
@@ -64,21 +65,23 @@ endmacro()
 
 # The constants.
 read_text("${SOURCE_DIR}/settings/CatalogNumbers.h" header)
+read_text("${SOURCE_DIR}/settings/ErrorNumbers.h" errors)
+string(APPEND header "${errors}")
 set(named 0)
 foreach(group "Caption kCaptionCategory" "ListText kListCategory" "ErrorText kErrorCategory")
   string(REGEX MATCH "^(.*) (.*)$" group "${group}")
   set(scope ${CMAKE_MATCH_1})
   if(NOT header MATCHES "int ${CMAKE_MATCH_2} =[ \n]*([0-9]+)<sc>")
-    message(FATAL_ERROR "CheckCatalog: CatalogNumbers.h has no number for ${CMAKE_MATCH_2}")
+    message(FATAL_ERROR "CheckCatalog: no header has a number for ${CMAKE_MATCH_2}")
   endif()
   set(category ${CMAKE_MATCH_1})
   if(NOT header MATCHES "namespace ${scope} {(.*)}  // namespace ${scope}\n")
-    message(FATAL_ERROR "CheckCatalog: CatalogNumbers.h has no namespace ${scope}")
+    message(FATAL_ERROR "CheckCatalog: no header has the namespace ${scope}")
   endif()
   string(REGEX MATCHALL "inline constexpr[^<]*<sc>" constants "${CMAKE_MATCH_1}")
   foreach(constant IN LISTS constants)
     if(NOT constant MATCHES "^inline constexpr int ([A-Za-z0-9]+) =[ \n]*([0-9]+)<sc>$")
-      problem("CatalogNumbers.h: \"${constant}\" is not a named number")
+      problem("\"${constant}\" is not a named number")
       continue()
     endif()
     set(user "${scope}::${CMAKE_MATCH_1}")

@@ -57,6 +57,7 @@ public_headers(ProjectorSettings
   i18n/MessageFormat.h
   settings/Call.h
   settings/CatalogNumbers.h
+  settings/ErrorNumbers.h
   settings/ListEntry.h
   settings/ModelCodes.h
   settings/PageSets.h

@@ -81,7 +81,7 @@ class Faults(Rig):
         # Text for people, which is in the language of the run; a lost answer is not waited for for long.
         program = subprocess.Popen(
             [self.programs / "acctl", "--profiles", self.profiles, "--timeout", "1", *arguments], cwd=self.folder,
-            stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True, env=environment)
+            stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True, errors="replace", env=environment)
         return self.end(program)
 
     def save(self, environment):
@@ -122,7 +122,8 @@ class Faults(Rig):
         port = free_port()
         simulator = subprocess.Popen(
             [self.programs / "advanced-control-simulator", "--projector", PROJECTOR, "--port", str(port),
-             "--write-profiles", file], stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True, env=environment)
+             "--write-profiles", file], stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True, errors="replace",
+            env=environment)
         while (line := simulator.stdout.readline().strip()) != "ready" and line:
             continue
         if line:
@@ -147,7 +148,7 @@ class Faults(Rig):
         path = self.folder / file
         path.write_text(before)
         program = subprocess.Popen([self.programs / "host_files", command, path], stdout=subprocess.PIPE,
-                                   stderr=subprocess.PIPE, text=True,
+                                   stderr=subprocess.PIPE, text=True, errors="replace",
                                    env=environment | {"FAIL_LATER": "1", "QT_QPA_PLATFORM": "offscreen"})
         done, _, _ = self.end(program)
         after = path.read_text()
@@ -168,7 +169,7 @@ class Faults(Rig):
         bridge = subprocess.Popen(
             [self.programs / "advanced-control-bridge", "--profiles", self.profiles, "--listen", "none", "--text-file",
              metrics, "--broker", f"127.0.0.1:{self.broker_port}", "--topic", topic, "--interval", "5"],
-            stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True, env=environment)
+            stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True, errors="replace", env=environment)
         heard = subprocess.Popen(
             ["mosquitto_sub", "-h", "127.0.0.1", "-p", str(self.broker_port), "-t", f"{topic}/+/state", "-C", "1"],
             stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # What takes too long for every change: fuzzing on the kept corpus, random walks over the host application and the
 # dialogs of every model, kills of both ends, and calls that fail; then every page in every language, each file
-# compiled without the headers of others, clang-tidy over everything, the checks of a release, and whether memory grows
-# in a hundred sweeps of a fleet. Adds a line to the table in docs/reliability.md.
+# compiled without the headers of others, clang-tidy over everything, what the tests reach, the checks of a release, and
+# whether memory grows in a hundred sweeps of a fleet; and how many of forty mutants the tests notice. Adds a line to the table in docs/reliability.md.
 # Usage: scripts/long.sh [time, such as 2h or 20m]
 #
 # A quarter of the time goes to each of the first four. The sanitizers watch the walks; PRESET=dev takes another build.
@@ -80,10 +80,15 @@ further() {
 }
 further "each file alone" "cmake --preset dev && cmake --build --preset dev"
 further "clang-tidy over everything" "scripts/tidy.py --deep"
+further "coverage" "scripts/coverage.sh"
 further "the checks of a release" "scripts/check-release.sh"
 
 further "a hundred sweeps of a fleet" \
   "! build/check/bin/fleet-bench --benchmark_filter=ManySweeps 2>&1 | tee /dev/stderr | grep -q 'ERROR OCCURRED'"
+
+echo "Forty mutants"
+scripts/mutate.py --sample 40 --seed "$seed" >"$logs/mutants.log" 2>&1  # some always live
+sed -n '/^folder/,$p' "$logs/mutants.log"
 
 said=none
 [ ${#findings[@]} -eq 0 ] || said="${#findings[@]}, to be mended"

@@ -5,1883 +5,1884 @@
     <name>Acctl</name>
     <message>
         <source>there is no option --%1</source>
-        <translation type="unfinished"></translation>
+        <translation>l’opzione --%1 non esiste</translation>
     </message>
     <message>
         <source>--%1 takes no value</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 non accetta valori</translation>
     </message>
     <message>
         <source>--%1 needs %2</source>
         <extracomment>An option and what must follow it: &quot;--profiles needs FILE&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>--%1 richiede %2</translation>
     </message>
     <message>
         <source>%1 takes no %2</source>
         <extracomment>A command and an option: &quot;list takes no --wait&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 non accetta %2</translation>
     </message>
     <message>
         <source>%1: &apos;%2&apos; is not possible</source>
         <extracomment>An option and its value.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: “%2” non è possibile</translation>
     </message>
     <message>
         <source>a command is missing; --help lists them</source>
-        <translation type="unfinished"></translation>
+        <translation>manca un comando; --help li elenca</translation>
     </message>
     <message>
         <source>there is no command &apos;%1&apos;; --help lists them</source>
-        <translation type="unfinished"></translation>
+        <translation>il comando “%1” non esiste; --help li elenca</translation>
     </message>
     <message>
         <source>%1 has no such --format</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non ha questo --format</translation>
     </message>
     <message>
         <source>use: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>uso: %1</translation>
     </message>
     <message>
         <source>the name of the file is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>il nome del file è vuoto</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not one of: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” non è possibile; valori possibili: %2</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no step such as +1 or -1, and PJLink can only step it</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” non è un passo come +1 o -1, e PJLink può cambiare questa impostazione solo a passi</translation>
     </message>
     <message numerus="yes">
         <source>&apos;%1&apos; is more than %n steps</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>“%1” supera %n passo</numerusform>
+            <numerusform>“%1” supera %n passi</numerusform>
         </translation>
     </message>
     <message>
         <source>&apos;%1&apos; from %2 is not one of: %3</source>
         <extracomment>A step such as +3, the value that it starts from, and the values that are possible.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>“%1” a partire da %2 non è possibile; valori possibili: %3</translation>
     </message>
     <message numerus="yes">
         <source>&apos;%1&apos; is more than %n steps from %2</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>“%1” supera %n passo a partire da %2</numerusform>
+            <numerusform>“%1” supera %n passi a partire da %2</numerusform>
         </translation>
     </message>
     <message>
         <source>list projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>elenca i proiettori</translation>
     </message>
     <message>
         <source>Prints name, model, page set, series code, connection and tags of the projectors, or of all.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra nome, modello, insieme di pagine, codice di serie, connessione ed etichette dei proiettori indicati, o di tutti.</translation>
     </message>
     <message>
         <source>list models</source>
-        <translation type="unfinished"></translation>
+        <translation>elenca i modelli</translation>
     </message>
     <message>
         <source>Prints the models of the profile file, with the number of projectors and of settings of each.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra i modelli del file dei profili, con il numero di proiettori e di impostazioni di ciascuno.</translation>
     </message>
     <message>
         <source>list settings and their values</source>
-        <translation type="unfinished"></translation>
+        <translation>elenca le impostazioni e i loro valori</translation>
     </message>
     <message>
         <source>Prints the settings that the model has: key, tab, caption and possible values. The projector is not asked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra le impostazioni del modello: chiave, scheda, didascalia e valori possibili. Il proiettore non viene interrogato.</translation>
     </message>
     <message>
         <source>explain a setting</source>
-        <translation type="unfinished"></translation>
+        <translation>spiega un’impostazione</translation>
     </message>
     <message>
         <source>Prints what a setting is: tab and caption, possible values with their codes, the models that have it, and whether it can be set, reset, and saved and restored.</source>
-        <translation type="unfinished"></translation>
+        <translation>Spiega un’impostazione: scheda e didascalia, valori possibili con i loro codici, modelli che la possiedono, e se può essere cambiata, reimpostata, salvata e ripristinata.</translation>
     </message>
     <message>
         <source>print present values</source>
-        <translation type="unfinished"></translation>
+        <translation>mostra i valori attuali</translation>
     </message>
     <message>
         <source>Reads settings from the projectors and prints them; without a key, all of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Legge impostazioni dai proiettori e le mostra; senza una chiave, tutte.</translation>
     </message>
     <message>
         <source>change settings</source>
-        <translation type="unfinished"></translation>
+        <translation>cambia impostazioni</translation>
     </message>
     <message>
         <source>Changes settings in the order given, reads each back, and prints the value before and after. All keys and values are checked for all projectors first; if a value is wrong for one, nothing is sent to any. A key that a projector does not have is reported, and does not stop the others.
 KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the form KEY VALUE, +3 and -3 are steps, and =-3 is a number below zero. &apos;acctl undo&apos; restores what was there before, except the power state and the results of actions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambia impostazioni nell’ordine indicato, le rilegge e mostra il valore prima e dopo. Prima vengono controllate tutte le chiavi e tutti i valori per tutti i proiettori; se un valore è errato per uno di essi, non viene inviato nulla a nessuno. Una chiave che un proiettore non ha viene segnalata e non ferma gli altri.
+KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Nella forma KEY VALUE, +3 e -3 sono passi, e =-3 è un numero negativo. “acctl undo” ripristina ciò che c’era prima, tranne l’alimentazione e i risultati delle azioni.</translation>
     </message>
     <message>
         <source>reset settings to the projector&apos;s standard</source>
-        <translation type="unfinished"></translation>
+        <translation>riporta impostazioni allo standard del proiettore</translation>
     </message>
     <message>
         <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Riporta impostazioni allo standard del proiettore stesso e mostra il nuovo valore. I contatori di ore si azzerano solo con la loro chiave esatta, perché ciò non può essere annullato.</translation>
     </message>
     <message>
         <source>print power, input, errors and hours</source>
-        <translation type="unfinished"></translation>
+        <translation>mostra alimentazione, ingresso, errori e ore</translation>
     </message>
     <message>
         <source>Prints the status page of the projectors, or of all.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra la pagina di stato dei proiettori indicati, o di tutti.</translation>
     </message>
     <message>
         <source>save settings in files</source>
-        <translation type="unfinished"></translation>
+        <translation>salva impostazioni in file</translation>
     </message>
     <message>
         <source>Saves every setting that can be restored: those of one projector in FILE (&apos;-&apos; is standard output), or those of any number in a folder, a file each. A file that is not a file of settings is not replaced without --force.</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva tutte le impostazioni che possono essere ripristinate: quelle di un proiettore in FILE (“-” è l’output standard), o quelle di un numero qualsiasi di essi in una cartella, un file ciascuno. Un file che non è un file di impostazioni non viene sostituito senza --force.</translation>
     </message>
     <message>
         <source>compare with saved settings</source>
-        <translation type="unfinished"></translation>
+        <translation>confronta con impostazioni salvate</translation>
     </message>
     <message>
         <source>Prints what differs from a file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra ciò che differisce da un file (“-” è l’input standard), o dal file di ciascun proiettore in una cartella.</translation>
     </message>
     <message>
         <source>restore saved settings</source>
-        <translation type="unfinished"></translation>
+        <translation>ripristina impostazioni salvate</translation>
     </message>
     <message>
         <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Legge i proiettori, invia ciò che differisce dal file (“-” è l’input standard), o dal file di ciascun proiettore in una cartella, e lo rilegge. Ciò che viene sostituito è prima conservato, perché “acctl undo” possa ripristinarlo. Un’esecuzione interrotta può essere ripetuta in qualsiasi momento.</translation>
     </message>
     <message>
         <source>undo the last run of set or apply</source>
-        <translation type="unfinished"></translation>
+        <translation>annulla l’ultima esecuzione di set o apply</translation>
     </message>
     <message>
         <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripristina ciò che l’ultima esecuzione di “set” o “apply” ha sostituito, su tutti i suoi proiettori, o ciò che RUN ha sostituito: un nome mostrato da “acctl undo --list”, o un file. Anche un annullamento può essere annullato con il suo nome.</translation>
     </message>
     <message>
         <source>print values and every change</source>
-        <translation type="unfinished"></translation>
+        <translation>mostra valori e ogni cambiamento</translation>
     </message>
     <message>
         <source>Prints values, and then every change until it is interrupted, until nobody reads its output any more, or until all projectors have the value of --until. A projector that falls silent is tried again and again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra valori e poi ogni cambiamento, finché non viene interrotto, finché nessuno legge più l’output, o finché tutti i proiettori hanno il valore di --until. Un proiettore che smette di rispondere viene ritentato di continuo.</translation>
     </message>
     <message>
         <source>search the network for projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>cerca proiettori nella rete</translation>
     </message>
     <message>
         <source>Asks every PJLink projector of the network, or the addresses given, who it is. ADDRESSES are like 192.0.2.7, 192.0.2.0/24 or 192.0.2.10-40. Nothing is stored unless --add names a profile file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiede a ogni proiettore PJLink della rete, o degli indirizzi indicati, chi è. ADDRESSES si scrive come 192.0.2.7, 192.0.2.0/24 o 192.0.2.10-40. Nulla viene salvato, a meno che --add indichi un file di profili.</translation>
     </message>
     <message>
         <source>take projectors from a table</source>
-        <translation type="unfinished"></translation>
+        <translation>importa proiettori da una tabella</translation>
     </message>
     <message>
         <source>Adds the rows of comma-separated values (&apos;-&apos; is standard input) to the profile file that --profiles or ACCTL_PROFILES names, and changes those that it has.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiunge le righe di valori separati da virgole (“-” è l’input standard) al file dei profili indicato da --profiles o ACCTL_PROFILES, e cambia i proiettori che già contiene.</translation>
     </message>
     <message>
         <source>print projectors as a table</source>
-        <translation type="unfinished"></translation>
+        <translation>mostra i proiettori come tabella</translation>
     </message>
     <message>
         <source>Prints the projectors, or all, as comma-separated values, without passwords.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra i proiettori indicati, o tutti, come valori separati da virgole, senza password.</translation>
     </message>
     <message>
         <source>explain a command</source>
-        <translation type="unfinished"></translation>
+        <translation>spiega un comando</translation>
     </message>
     <message>
         <source>one of = != &lt; &lt;= &gt; &gt;= is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>manca uno dei segni = != &lt; &lt;= &gt; &gt;=</translation>
     </message>
     <message>
         <source>a value is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>manca un valore</translation>
     </message>
     <message>
         <source>no model has such a setting</source>
-        <translation type="unfinished"></translation>
+        <translation>nessun modello ha questa impostazione</translation>
     </message>
     <message>
         <source>only numbers are less or greater</source>
-        <translation type="unfinished"></translation>
+        <translation>solo i numeri sono minori o maggiori</translation>
     </message>
     <message>
         <source>no model has such a setting; acctl settings lists all keys</source>
-        <translation type="unfinished"></translation>
+        <translation>nessun modello ha questa impostazione; acctl settings elenca tutte le chiavi</translation>
     </message>
     <message>
         <source>no model has such a setting; did you mean %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>nessun modello ha questa impostazione; si intendeva %1?</translation>
     </message>
     <message>
         <source>%1 to %2</source>
         <extracomment>A range of numbers.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>da %1 a %2</translation>
     </message>
     <message>
         <source>%1 to %2, shown as %3</source>
-        <translation type="unfinished"></translation>
+        <translation>da %1 a %2, mostrato come %3</translation>
     </message>
     <message>
         <source>source %1: this is not kept for each source</source>
-        <translation type="unfinished"></translation>
+        <translation>sorgente %1: questa impostazione non è propria di ciascuna sorgente</translation>
     </message>
     <message>
         <source>source %1 does not exist; there are %2</source>
-        <translation type="unfinished"></translation>
+        <translation>la sorgente %1 non esiste; ci sono %2</translation>
     </message>
     <message>
         <source>value %1 is not possible; possible are %2</source>
-        <translation type="unfinished"></translation>
+        <translation>il valore %1 non è possibile; valori possibili: %2</translation>
     </message>
     <message>
         <source>text &quot;%1&quot; is not that of value %2, which is &quot;%3&quot;; change both, or remove the text</source>
-        <translation type="unfinished"></translation>
+        <translation>il testo “%1” non è quello del valore %2, che è “%3”; cambiare entrambi o rimuovere il testo</translation>
     </message>
     <message>
         <source>Reads, changes, saves and restores the settings of projectors that the Advanced Control dialog shows. The projectors are those of a profile file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Legge, cambia, salva e ripristina le impostazioni dei proiettori mostrate dalla finestra di dialogo Advanced Control. I proiettori sono quelli di un file di profili.</translation>
     </message>
     <message>
         <source>P selects projectors: a name, a pattern such as &apos;Lecture*&apos;, @TAG, or model=PATTERN. Several are separated by commas, and !P leaves projectors out. KEY is the key of a setting, a pattern such as &apos;picture.*&apos;, or a short name such as brightness, input or power, which is the same on all models. VALUE is a number as the dialog shows it, the text of an entry in any language of the dialog, or its code.</source>
-        <translation type="unfinished"></translation>
+        <translation>P seleziona i proiettori: un nome, un modello di nome come “Lecture*”, @TAG o model=PATTERN. Più d’uno si separano con virgole, e !P esclude proiettori. KEY è la chiave di un’impostazione, un modello come “picture.*”, o un nome breve come brightness, input o power, uguale per tutti i modelli. VALUE è un numero come lo mostra la finestra di dialogo, il testo di una voce in una qualsiasi delle sue lingue, o il suo codice.</translation>
     </message>
     <message>
         <source>Done. Also if a projector in standby could not report everything, or accepted a change that has not taken effect yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fatto. Anche se un proiettore in standby non ha potuto comunicare tutto, o ha accettato una modifica che non ha ancora avuto effetto.</translation>
     </message>
     <message>
         <source>Something was refused, a projector lacks a setting that was named, or a file or the output could not be read or written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Qualcosa è stato rifiutato, a un proiettore manca un’impostazione indicata, oppure un file o l’output non ha potuto essere letto o scritto.</translation>
     </message>
     <message>
         <source>Wrong use: nothing was sent to any projector.</source>
-        <translation type="unfinished"></translation>
+        <translation>Uso errato: non è stato inviato nulla a nessun proiettore.</translation>
     </message>
     <message>
         <source>A projector did not answer or did not report its inputs, or another run of acctl used it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un proiettore non ha risposto o non ha comunicato i suoi ingressi, oppure lo usava un’altra esecuzione di acctl.</translation>
     </message>
     <message>
         <source>Interrupted; the report says what was done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Interrotto; il resoconto dice che cosa è stato fatto.</translation>
     </message>
     <message>
         <source>Use: %1</source>
         <extracomment>Above the help of a command; %1 is how it is called.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Uso: %1</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opzioni</translation>
     </message>
     <message>
         <source>Commands</source>
-        <translation type="unfinished"></translation>
+        <translation>Comandi</translation>
     </message>
     <message>
         <source>Options of all commands; &apos;acctl help COMMAND&apos; lists its own, with examples</source>
-        <translation type="unfinished"></translation>
+        <translation>Opzioni di tutti i comandi; “acctl help COMMAND” elenca quelle di un comando, con esempi</translation>
     </message>
     <message>
         <source>Examples</source>
-        <translation type="unfinished"></translation>
+        <translation>Esempi</translation>
     </message>
     <message>
         <source>Exit codes</source>
-        <translation type="unfinished"></translation>
+        <translation>Codici di uscita</translation>
     </message>
     <message>
         <source>number</source>
         <extracomment>A kind of setting: a value with a range.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>numero</translation>
     </message>
     <message>
         <source>choice</source>
         <extracomment>A kind of setting: a list of entries.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>scelta</translation>
     </message>
     <message>
         <source>state</source>
         <extracomment>A kind of setting: on or off, or a counter.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>stato</translation>
     </message>
     <message>
         <source>action</source>
         <extracomment>A kind of setting: something that the projector does once.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>azione</translation>
     </message>
     <message>
         <source>short name: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>nome breve: %1</translation>
     </message>
     <message>
         <source>tab</source>
         <extracomment>Of the dialog, on which the setting is.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>scheda</translation>
     </message>
     <message>
         <source>caption</source>
         <extracomment>Of the setting in the dialog.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>didascalia</translation>
     </message>
     <message>
         <source>kind</source>
         <extracomment>What kind of setting it is: number, choice, state or action.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>tipo</translation>
     </message>
     <message>
         <source>values</source>
-        <translation type="unfinished"></translation>
+        <translation>valori</translation>
     </message>
     <message>
         <source>those that the projector reports</source>
-        <translation type="unfinished"></translation>
+        <translation>quelli comunicati dal proiettore</translation>
     </message>
     <message>
         <source>commands</source>
-        <translation type="unfinished"></translation>
+        <translation>comandi</translation>
     </message>
     <message>
         <source>kept</source>
         <extracomment>The setting has a value of its own &quot;for each input source&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>conservato</translation>
     </message>
     <message>
         <source>for each input source</source>
-        <translation type="unfinished"></translation>
+        <translation>per ciascuna sorgente di ingresso</translation>
     </message>
     <message>
         <source>models</source>
-        <translation type="unfinished"></translation>
+        <translation>modelli</translation>
     </message>
     <message numerus="yes">
         <source>%n settings</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n impostazione</numerusform>
+            <numerusform>%n impostazioni</numerusform>
         </translation>
     </message>
     <message>
         <source>no profiles at %1; name a file with --profiles</source>
-        <translation type="unfinished"></translation>
+        <translation>nessun profilo in %1; indicare un file con --profiles</translation>
     </message>
     <message>
         <source>read the projectors from FILE</source>
-        <translation type="unfinished"></translation>
+        <translation>leggi i proiettori da FILE</translation>
     </message>
     <message>
         <source>only projectors in this state, such as &apos;power=on lamp-hours&gt;1500&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>solo i proiettori in questo stato, ad esempio “power=on lamp-hours&gt;1500”</translation>
     </message>
     <message>
         <source>the projector is at ADDRESS; P gives only its model</source>
-        <translation type="unfinished"></translation>
+        <translation>il proiettore è a ADDRESS; P indica solo il suo modello</translation>
     </message>
     <message>
         <source>the port of the projectors that are searched; 4352 by default</source>
-        <translation type="unfinished"></translation>
+        <translation>la porta dei proiettori cercati; predefinita 4352</translation>
     </message>
     <message>
         <source>PJLink password; other users of this machine can see it here</source>
-        <translation type="unfinished"></translation>
+        <translation>password di PJLink; gli altri utenti di questo computer possono vederla qui</translation>
     </message>
     <message>
         <source>the first line of FILE is the password</source>
-        <translation type="unfinished"></translation>
+        <translation>la prima riga di FILE è la password</translation>
     </message>
     <message>
         <source>output: text, json, jsonl (a line for each value or projector), tsv or value</source>
-        <translation type="unfinished"></translation>
+        <translation>output: text, json, jsonl (una riga per valore o proiettore), tsv o value</translation>
     </message>
     <message>
         <source>the same as --format json</source>
-        <translation type="unfinished"></translation>
+        <translation>lo stesso di --format json</translation>
     </message>
     <message>
         <source>only names or keys, one a line</source>
-        <translation type="unfinished"></translation>
+        <translation>solo nomi o chiavi, uno per riga</translation>
     </message>
     <message>
         <source>only settings that get, set, reset or watch can use</source>
-        <translation type="unfinished"></translation>
+        <translation>solo le impostazioni utilizzabili da get, set, reset o watch</translation>
     </message>
     <message>
         <source>only keys that match GLOB; may be repeated</source>
-        <translation type="unfinished"></translation>
+        <translation>solo le chiavi che corrispondono a GLOB; può essere ripetuto</translation>
     </message>
     <message>
         <source>take KEY=VALUE lines from FILE (&apos;-&apos; is standard input)</source>
-        <translation type="unfinished"></translation>
+        <translation>prendi righe KEY=VALUE da FILE (“-” è l’input standard)</translation>
     </message>
     <message>
         <source>save each projector in a file of its own in DIR</source>
-        <translation type="unfinished"></translation>
+        <translation>salva ogni proiettore in un proprio file in DIR</translation>
     </message>
     <message>
         <source>add what was found to the profile file FILE</source>
-        <translation type="unfinished"></translation>
+        <translation>aggiungi ciò che è stato trovato al file dei profili FILE</translation>
     </message>
     <message>
         <source>print what would change, and change nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>mostra ciò che cambierebbe, senza cambiare nulla</translation>
     </message>
     <message>
         <source>wait until the state is reached, up to TIME, such as 90s or 5m</source>
-        <translation type="unfinished"></translation>
+        <translation>attendi che lo stato sia raggiunto, al massimo TIME, ad esempio 90s o 5m</translation>
     </message>
     <message>
         <source>end when every projector has this value</source>
-        <translation type="unfinished"></translation>
+        <translation>termina quando tutti i proiettori hanno questo valore</translation>
     </message>
     <message>
         <source>exit with 1 if something differs, with 2 if something could not be compared</source>
-        <translation type="unfinished"></translation>
+        <translation>termina con 1 se qualcosa differisce, con 2 se qualcosa non ha potuto essere confrontato</translation>
     </message>
     <message>
         <source>skip what is wrong in FILE instead of sending nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>ignora ciò che è errato in FILE invece di non inviare nulla</translation>
     </message>
     <message>
         <source>apply: also the undo file of another projector; save: replace any file</source>
-        <translation type="unfinished"></translation>
+        <translation>apply: anche il file di annullamento di un altro proiettore; save: sostituisci qualsiasi file</translation>
     </message>
     <message>
         <source>list the runs that can be undone</source>
-        <translation type="unfinished"></translation>
+        <translation>elenca le esecuzioni che possono essere annullate</translation>
     </message>
     <message>
         <source>the folder for undo files</source>
-        <translation type="unfinished"></translation>
+        <translation>la cartella dei file di annullamento</translation>
     </message>
     <message>
         <source>remove undo files older than N days; 30 by default, 0 keeps all</source>
-        <translation type="unfinished"></translation>
+        <translation>elimina i file di annullamento più vecchi di N giorni; predefinito 30, 0 li conserva tutti</translation>
     </message>
     <message>
         <source>projectors at once, 1 to 1024; by default 512 to read and 64 to change</source>
-        <translation type="unfinished"></translation>
+        <translation>proiettori contemporanei, da 1 a 1024; predefinito 512 per leggere e 64 per cambiare</translation>
     </message>
     <message>
         <source>time for one answer; 2 by default</source>
-        <translation type="unfinished"></translation>
+        <translation>tempo per una risposta; predefinito 2</translation>
     </message>
     <message>
         <source>try a projector that does not answer N more times; 0 by default</source>
-        <translation type="unfinished"></translation>
+        <translation>ritenta altre N volte un proiettore che non risponde; predefinito 0</translation>
     </message>
     <message>
         <source>begin no other projector after the first error</source>
-        <translation type="unfinished"></translation>
+        <translation>non iniziare nessun altro proiettore dopo il primo errore</translation>
     </message>
     <message>
         <source>time between two readings; 1 by default</source>
-        <translation type="unfinished"></translation>
+        <translation>tempo tra due letture; predefinito 1</translation>
     </message>
     <message>
         <source>language of texts, such as de or zh-TW</source>
-        <translation type="unfinished"></translation>
+        <translation>lingua dei testi, ad esempio de o zh-TW</translation>
     </message>
     <message>
         <source>this text; with a command, its own</source>
-        <translation type="unfinished"></translation>
+        <translation>questo testo; con un comando, il suo</translation>
     </message>
     <message>
         <source>the version</source>
-        <translation type="unfinished"></translation>
+        <translation>la versione</translation>
     </message>
     <message>
         <source>cannot write: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>impossibile scrivere: %1</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not possible</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” non è possibile</translation>
     </message>
     <message>
         <source>&apos;=&apos; is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>manca “=”</translation>
     </message>
     <message>
         <source>there is no setting %1</source>
-        <translation type="unfinished"></translation>
+        <translation>l’impostazione %1 non esiste</translation>
     </message>
     <message>
         <source>cannot read %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>impossibile leggere %1: %2</translation>
     </message>
     <message>
         <source>%1 of %2</source>
         <extracomment>Behind a bar: how many projectors are done, and how many there are.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 di %2</translation>
     </message>
     <message>
         <source>its first line is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>la prima riga è vuota</translation>
     </message>
     <message>
         <source>Password of %1: </source>
-        <translation type="unfinished"></translation>
+        <translation>Password di %1: </translation>
     </message>
     <message>
         <source>%1 (simulated)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (simulato)</translation>
     </message>
     <message>
         <source>%1 added, %2 moved, %3 known</source>
         <extracomment>Numbers of projectors: new ones, those with a new address, and those that the file has already.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 aggiunti, %2 spostati, %3 già noti</translation>
     </message>
     <message>
         <source>needs a password</source>
-        <translation type="unfinished"></translation>
+        <translation>richiede una password</translation>
     </message>
     <message>
         <source>name the profile file with --profiles</source>
-        <translation type="unfinished"></translation>
+        <translation>indicare il file dei profili con --profiles</translation>
     </message>
     <message>
         <source>%1 added, %2 known, %3 wrong</source>
         <extracomment>Numbers of projectors in a table: new ones, those that the file has already, and wrong rows.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 aggiunti, %2 già noti, %3 errati</translation>
     </message>
     <message>
         <source>%1: &apos;%2&apos; is not KEY=VALUE</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: “%2” non è KEY=VALUE</translation>
     </message>
     <message>
         <source>%1: has no KEY=VALUE</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: non contiene KEY=VALUE</translation>
     </message>
     <message>
         <source>this takes one projector, not %1</source>
-        <translation type="unfinished"></translation>
+        <translation>qui è possibile un solo proiettore, non %1</translation>
     </message>
     <message>
         <source>undone</source>
         <extracomment>Of a run of the program: somebody has undone it.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>annullato</translation>
     </message>
     <message>
         <source>cannot record in %1 that it is undone: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>impossibile annotare in %1 che è annullato: %2</translation>
     </message>
     <message>
         <source>another run of acctl works on it</source>
-        <translation type="unfinished"></translation>
+        <translation>lo usa un’altra esecuzione di acctl</translation>
     </message>
     <message>
         <source>not begun, as another projector failed</source>
-        <translation type="unfinished"></translation>
+        <translation>non iniziato, perché un altro proiettore non è riuscito</translation>
     </message>
     <message>
         <source>simulated by acctl itself, nothing lasting was changed</source>
-        <translation type="unfinished"></translation>
+        <translation>simulato da acctl stesso, nulla è stato cambiato in modo duraturo</translation>
     </message>
     <message>
         <source>interrupted; what was done is reported above</source>
-        <translation type="unfinished"></translation>
+        <translation>interrotto; ciò che è stato fatto è indicato sopra</translation>
     </message>
     <message>
         <source>in standby, left out: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>in standby, tralasciato: %1</translation>
     </message>
     <message>
         <source>warming up, left out: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>in riscaldamento, tralasciato: %1</translation>
     </message>
     <message>
         <source>cooling down, left out: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>in raffreddamento, tralasciato: %1</translation>
     </message>
     <message>
         <source>skipped, this projector does not offer it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ignorato, questo proiettore non lo offre: %1</translation>
     </message>
     <message numerus="yes">
         <source>%n projectors</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n proiettore</numerusform>
+            <numerusform>%n proiettori</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n changed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n cambiata</numerusform>
+            <numerusform>%n cambiate</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n different</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n diversa</numerusform>
+            <numerusform>%n diverse</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n already so</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n invariata</numerusform>
+            <numerusform>%n invariate</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n not yet so</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n non ancora attiva</numerusform>
+            <numerusform>%n non ancora attive</numerusform>
         </translation>
     </message>
     <message>
         <source>accepted, but not so yet</source>
-        <translation type="unfinished"></translation>
+        <translation>accettata, ma non ancora attiva</translation>
     </message>
     <message numerus="yes">
         <source>%n refused</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n rifiutata</numerusform>
+            <numerusform>%n rifiutate</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n busy</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n occupato</numerusform>
+            <numerusform>%n occupati</numerusform>
         </translation>
     </message>
     <message>
         <source>the projector is busy or in standby</source>
-        <translation type="unfinished"></translation>
+        <translation>il proiettore è occupato o in standby</translation>
     </message>
     <message numerus="yes">
         <source>%n unconfirmed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n non confermata</numerusform>
+            <numerusform>%n non confermate</numerusform>
         </translation>
     </message>
     <message>
         <source>not confirmed, it may have changed</source>
-        <translation type="unfinished"></translation>
+        <translation>non confermata, potrebbe essere cambiata</translation>
     </message>
     <message numerus="yes">
         <source>%n not done</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n non eseguita</numerusform>
+            <numerusform>%n non eseguite</numerusform>
         </translation>
     </message>
     <message>
         <source>skipped, this model does not have it</source>
-        <translation type="unfinished"></translation>
+        <translation>ignorata, questo modello non la ha</translation>
     </message>
     <message>
         <source>skipped, this projector does not offer it</source>
-        <translation type="unfinished"></translation>
+        <translation>ignorata, questo proiettore non la offre</translation>
     </message>
     <message>
         <source>skipped, it cannot be restored</source>
-        <translation type="unfinished"></translation>
+        <translation>ignorata, non può essere ripristinata</translation>
     </message>
     <message>
         <source>skipped, this model does not take it</source>
-        <translation type="unfinished"></translation>
+        <translation>ignorata, questo modello non accetta il valore</translation>
     </message>
     <message>
         <source>stopped at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>fermato a %1</translation>
     </message>
     <message numerus="yes">
         <source>not sent, it is more than %n steps away</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>non inviato, dista più di %n passo</numerusform>
+            <numerusform>non inviato, dista più di %n passi</numerusform>
         </translation>
     </message>
     <message>
         <source>refused, it is %1</source>
-        <translation type="unfinished"></translation>
+        <translation>rifiutata, il valore è %1</translation>
     </message>
     <message>
         <source>it cannot be read now</source>
-        <translation type="unfinished"></translation>
+        <translation>il valore ora non può essere letto</translation>
     </message>
     <message numerus="yes">
         <source>%n not compared</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n non confrontata</numerusform>
+            <numerusform>%n non confrontate</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n skipped</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ignorata</numerusform>
+            <numerusform>%n ignorate</numerusform>
         </translation>
     </message>
     <message>
         <source>nothing to do</source>
-        <translation type="unfinished"></translation>
+        <translation>nulla da fare</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message numerus="yes">
         <source>skipped, PJLink does not have them: %n of the file&apos;s settings</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>ignorata, PJLink non la conosce: %n impostazione del file</numerusform>
+            <numerusform>ignorate, PJLink non le conosce: %n impostazioni del file</numerusform>
         </translation>
     </message>
     <message>
         <source>%1; no more was sent</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; non è stato inviato altro</translation>
     </message>
     <message>
         <source>%1; nothing was sent</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; non è stato inviato nulla</translation>
     </message>
     <message>
         <source>%1: undoes a change of %2; --force applies it to %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: annulla una modifica di %2; --force la applica a %3</translation>
     </message>
     <message>
         <source>--only %1: the file has no such setting</source>
-        <translation type="unfinished"></translation>
+        <translation>--only %1: il file non ha questa impostazione</translation>
     </message>
     <message>
         <source>%1: there is no projector &apos;%2&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: il proiettore “%2” non esiste</translation>
     </message>
     <message>
         <source>%1: %2 is also of %3</source>
         <extracomment>Two files, and the projector that both are of.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: anche %2 è di %3</translation>
     </message>
     <message>
         <source>%1: the folder has no files of settings</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: la cartella non contiene file di impostazioni</translation>
     </message>
     <message>
         <source>%1: there is no file of it in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: non ha alcun file in %2</translation>
     </message>
     <message>
         <source>%1: is not a file of settings; --force replaces it</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: non è un file di impostazioni; --force lo sostituisce</translation>
     </message>
     <message>
         <source>%1: there is no such file or folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: questo file o questa cartella non esiste</translation>
     </message>
     <message>
         <source>name the projectors to which the file is applied</source>
-        <translation type="unfinished"></translation>
+        <translation>indicare i proiettori a cui si applica il file</translation>
     </message>
     <message>
         <source>one file is for one projector, not %1; -o names a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>un file è per un proiettore, non per %1; -o indica una cartella</translation>
     </message>
     <message>
         <source>cannot make the folder %1</source>
-        <translation type="unfinished"></translation>
+        <translation>impossibile creare la cartella %1</translation>
     </message>
     <message>
         <source>%1; name an earlier run to undo that one</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; indicare un’esecuzione precedente per annullare quella</translation>
     </message>
     <message>
         <source>there is no run to undo</source>
-        <translation type="unfinished"></translation>
+        <translation>non ci sono esecuzioni da annullare</translation>
     </message>
     <message>
         <source>there is no run &apos;%1&apos;; --list shows them</source>
-        <translation type="unfinished"></translation>
+        <translation>l’esecuzione “%1” non esiste; --list le elenca</translation>
     </message>
     <message>
         <source>%1: is no longer in the profile file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: non è più nel file dei profili</translation>
     </message>
     <message>
         <source>cannot be read now, and is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>ora non può essere letta e viene tralasciata</translation>
     </message>
     <message>
         <source>nothing can be read, and nothing was written</source>
-        <translation type="unfinished"></translation>
+        <translation>non si può leggere nulla, e non è stato scritto nulla</translation>
     </message>
     <message numerus="yes">
         <source>%n settings saved in %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n impostazione salvata in %1</numerusform>
+            <numerusform>%n impostazioni salvate in %1</numerusform>
         </translation>
     </message>
     <message>
         <source>there is no projector &apos;%1&apos;; acctl list shows all</source>
-        <translation type="unfinished"></translation>
+        <translation>il proiettore “%1” non esiste; acctl list li elenca tutti</translation>
     </message>
     <message>
         <source>refused, the projector is in standby</source>
-        <translation type="unfinished"></translation>
+        <translation>rifiutata, il proiettore è in standby</translation>
     </message>
     <message>
         <source>refused, the projector is warming up</source>
-        <translation type="unfinished"></translation>
+        <translation>rifiutata, il proiettore è in riscaldamento</translation>
     </message>
     <message>
         <source>refused, the projector is cooling down</source>
-        <translation type="unfinished"></translation>
+        <translation>rifiutata, il proiettore è in raffreddamento</translation>
     </message>
     <message>
         <source>refused, the projector is busy</source>
-        <translation type="unfinished"></translation>
+        <translation>rifiutata, il proiettore è occupato</translation>
     </message>
     <message>
         <source>this cannot be undone: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>questo non può essere annullato: %1</translation>
     </message>
     <message numerus="yes">
         <source>stopped, %1 of %n steps accepted</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>fermato, accettato %1 passo su %n</numerusform>
+            <numerusform>fermato, accettati %1 passi su %n</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1; %2 of %n steps accepted</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1; accettato %2 passo su %n</numerusform>
+            <numerusform>%1; accettati %2 passi su %n</numerusform>
         </translation>
     </message>
     <message>
         <source>accepted, but not so yet, it is %1</source>
-        <translation type="unfinished"></translation>
+        <translation>accettata, ma non ancora attiva, il valore è %1</translation>
     </message>
     <message>
         <source>%1, it may have been changed, it is %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, potrebbe essere cambiata, il valore è %2</translation>
     </message>
     <message>
         <source>%1, it may have been changed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, potrebbe essere cambiata</translation>
     </message>
     <message>
         <source>refused</source>
-        <translation type="unfinished"></translation>
+        <translation>rifiutata</translation>
     </message>
     <message>
         <source>accepted, but %1</source>
-        <translation type="unfinished"></translation>
+        <translation>accettata, ma %1</translation>
     </message>
     <message>
         <source>not so in time, it is %1</source>
-        <translation type="unfinished"></translation>
+        <translation>non raggiunto in tempo, il valore è %1</translation>
     </message>
     <message>
         <source>not so in time</source>
-        <translation type="unfinished"></translation>
+        <translation>non raggiunto in tempo</translation>
     </message>
     <message>
         <source>%1:%2: not a line of an undo file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:%2: non è una riga di un file di annullamento</translation>
     </message>
     <message>
         <source>%1: there is nothing to undo</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: non c’è nulla da annullare</translation>
     </message>
     <message>
         <source>cannot write %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>impossibile scrivere %1: %2</translation>
     </message>
     <message>
         <source>wrong connection parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>parametri di connessione errati</translation>
     </message>
     <message>
         <source>unknown host name</source>
-        <translation type="unfinished"></translation>
+        <translation>nome host sconosciuto</translation>
     </message>
     <message>
         <source>not reachable</source>
-        <translation type="unfinished"></translation>
+        <translation>non raggiungibile</translation>
     </message>
     <message>
         <source>connection lost</source>
-        <translation type="unfinished"></translation>
+        <translation>connessione persa</translation>
     </message>
     <message>
         <source>answers are not understood</source>
-        <translation type="unfinished"></translation>
+        <translation>risposte non comprensibili</translation>
     </message>
     <message>
         <source>another version of the protocol</source>
-        <translation type="unfinished"></translation>
+        <translation>altra versione del protocollo</translation>
     </message>
     <message>
         <source>password missing or wrong</source>
-        <translation type="unfinished"></translation>
+        <translation>password mancante o errata</translation>
     </message>
     <message>
         <source>no answer</source>
-        <translation type="unfinished"></translation>
+        <translation>nessuna risposta</translation>
     </message>
     <message>
         <source>no answer (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>nessuna risposta (%1)</translation>
     </message>
     <message>
         <source>this model has no such setting</source>
-        <translation type="unfinished"></translation>
+        <translation>questo modello non ha questa impostazione</translation>
     </message>
     <message>
         <source>skipped, PJLink does not have it</source>
-        <translation type="unfinished"></translation>
+        <translation>ignorata, PJLink non la conosce</translation>
     </message>
     <message>
         <source>cannot be read now</source>
-        <translation type="unfinished"></translation>
+        <translation>ora non può essere letta</translation>
     </message>
     <message>
         <source>this projector does not offer it</source>
-        <translation type="unfinished"></translation>
+        <translation>questo proiettore non la offre</translation>
     </message>
     <message>
         <source>not read, the projector did not report its inputs</source>
-        <translation type="unfinished"></translation>
+        <translation>non letta, il proiettore non ha comunicato i suoi ingressi</translation>
     </message>
     <message>
         <source>PJLink does not have it</source>
-        <translation type="unfinished"></translation>
+        <translation>PJLink non la conosce</translation>
     </message>
     <message>
         <source>this cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>questa non può essere letta</translation>
     </message>
     <message>
         <source>this cannot be set</source>
-        <translation type="unfinished"></translation>
+        <translation>questa non può essere cambiata</translation>
     </message>
     <message>
         <source>this cannot be restored</source>
-        <translation type="unfinished"></translation>
+        <translation>questa non può essere ripristinata</translation>
     </message>
     <message>
         <source>this cannot be reset</source>
-        <translation type="unfinished"></translation>
+        <translation>questa non può essere reimpostata</translation>
     </message>
     <message>
         <source>%1, the projector is in standby</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, il proiettore è in standby</translation>
     </message>
     <message>
         <source>%1, the projector is warming up</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, il proiettore è in riscaldamento</translation>
     </message>
     <message>
         <source>%1, the projector is cooling down</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, il proiettore è in raffreddamento</translation>
     </message>
     <message>
         <source>answers again</source>
-        <translation type="unfinished"></translation>
+        <translation>risponde di nuovo</translation>
     </message>
     <message>
         <source>--until: &apos;%1&apos; is not KEY=VALUE</source>
-        <translation type="unfinished"></translation>
+        <translation>--until: “%1” non è KEY=VALUE</translation>
     </message>
 </context>
 <context>
     <name>AlertList</name>
     <message>
         <source>&amp;Acknowledge</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Conferma</translation>
     </message>
     <message>
         <source>Acknowledge A&amp;ll</source>
-        <translation type="unfinished"></translation>
+        <translation>Conferma &amp;tutti</translation>
     </message>
     <message>
         <source>Since</source>
-        <translation type="unfinished"></translation>
+        <translation>Da</translation>
     </message>
     <message>
         <source>Alert</source>
-        <translation type="unfinished"></translation>
+        <translation>Avviso</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Stato</translation>
     </message>
     <message>
         <source>Alerts</source>
-        <translation type="unfinished"></translation>
+        <translation>Avvisi</translation>
     </message>
     <message>
         <source>%1 does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non risponde</translation>
     </message>
     <message>
         <source>%1: the lamp has %2 of %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: la lampada ha %2 di %3</translation>
     </message>
     <message numerus="yes">
         <source>%1: %n settings are not as they should be</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1: %n impostazione non è come dovrebbe</numerusform>
+            <numerusform>%1: %n impostazioni non sono come dovrebbero</numerusform>
         </translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>acknowledged</source>
-        <translation type="unfinished"></translation>
+        <translation>confermato</translation>
     </message>
     <message>
         <source>open</source>
-        <translation type="unfinished"></translation>
+        <translation>aperto</translation>
     </message>
 </context>
 <context>
     <name>BridgeOptions</name>
     <message>
         <source>Display this help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra questo aiuto.</translation>
     </message>
     <message>
         <source>The projectors are those of &lt;file&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>I proiettori sono quelli di &lt;file&gt;.</translation>
     </message>
     <message>
         <source>file</source>
-        <translation type="unfinished"></translation>
+        <translation>file</translation>
     </message>
     <message>
         <source>Watch one of several shares: 2/5 is the second of five.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sorveglia una di più parti: 2/5 è la seconda di cinque.</translation>
     </message>
     <message>
         <source>share</source>
-        <translation type="unfinished"></translation>
+        <translation>parte</translation>
     </message>
     <message>
         <source>Watch only projectors with &lt;tag&gt;, or one of several.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sorveglia solo i proiettori con &lt;etichetta&gt;, o con una di più etichette.</translation>
     </message>
     <message>
         <source>tag</source>
-        <translation type="unfinished"></translation>
+        <translation>etichetta</translation>
     </message>
     <message>
         <source>Visit each projector every &lt;seconds&gt;, at least 5.</source>
-        <translation type="unfinished"></translation>
+        <translation>Visita ogni proiettore ogni &lt;secondi&gt;, almeno 5.</translation>
     </message>
     <message>
         <source>seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>secondi</translation>
     </message>
     <message>
         <source>Once a day, compare each projector with its snapshot in &lt;folder&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una volta al giorno, confronta ogni proiettore con la sua istantanea in &lt;cartella&gt;.</translation>
     </message>
     <message>
         <source>folder</source>
-        <translation type="unfinished"></translation>
+        <translation>cartella</translation>
     </message>
     <message>
         <source>Listen at &lt;address&gt; for the status notices of projectors.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ascolta a &lt;indirizzo&gt; le notifiche di stato dei proiettori.</translation>
     </message>
     <message>
         <source>address</source>
-        <translation type="unfinished"></translation>
+        <translation>indirizzo</translation>
     </message>
     <message>
         <source>Serve metrics at &lt;address:port&gt;; &apos;none&apos; for nowhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Offri le metriche a &lt;indirizzo:porta&gt;; “none” per nessun indirizzo.</translation>
     </message>
     <message>
         <source>address:port</source>
-        <translation type="unfinished"></translation>
+        <translation>indirizzo:porta</translation>
     </message>
     <message>
         <source>Write metrics to &lt;file&gt; every 15 seconds, for a collector of text files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Scrivi le metriche in &lt;file&gt; ogni 15 secondi, per un raccoglitore di file di testo.</translation>
     </message>
     <message>
         <source>Send messages to the MQTT broker at &lt;host:port&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Invia messaggi al broker MQTT a &lt;host:porta&gt;.</translation>
     </message>
     <message>
         <source>host:port</source>
-        <translation type="unfinished"></translation>
+        <translation>host:porta</translation>
     </message>
     <message>
         <source>Version of MQTT, 3 (3.1.1) or 5.</source>
-        <translation type="unfinished"></translation>
+        <translation>Versione di MQTT, 3 (3.1.1) o 5.</translation>
     </message>
     <message>
         <source>version</source>
-        <translation type="unfinished"></translation>
+        <translation>versione</translation>
     </message>
     <message>
         <source>The first line of &lt;file&gt; is the user at the broker.</source>
-        <translation type="unfinished"></translation>
+        <translation>La prima riga di &lt;file&gt; è l’utente presso il broker.</translation>
     </message>
     <message>
         <source>The first line of &lt;file&gt; is the password at the broker.</source>
-        <translation type="unfinished"></translation>
+        <translation>La prima riga di &lt;file&gt; è la password presso il broker.</translation>
     </message>
     <message>
         <source>Encrypt, and trust the authorities that the system trusts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cifra, e considera attendibili le autorità che il sistema considera attendibili.</translation>
     </message>
     <message>
         <source>Encrypt, and trust the authorities in &lt;file&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cifra, e considera attendibili le autorità in &lt;file&gt;.</translation>
     </message>
     <message>
         <source>The certificate of this client.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il certificato di questo client.</translation>
     </message>
     <message>
         <source>Its key.</source>
-        <translation type="unfinished"></translation>
+        <translation>La sua chiave.</translation>
     </message>
     <message>
         <source>The first level of all topics.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il primo livello di tutti gli argomenti.</translation>
     </message>
     <message>
         <source>topic</source>
-        <translation type="unfinished"></translation>
+        <translation>argomento</translation>
     </message>
     <message>
         <source>The first level of discovery topics; &apos;none&apos; for no discovery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il primo livello degli argomenti di rilevamento; “none” per nessun rilevamento.</translation>
     </message>
     <message>
         <source>Take the share of a bridge that has said nothing for &lt;seconds&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prendi la parte di un ponte che non dà notizie da &lt;secondi&gt;.</translation>
     </message>
     <message>
         <source>Settings that may be commanded: keys or patterns, separated by commas; &apos;power&apos; is the power. Without it nothing may be.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni che possono essere comandate: chiavi o modelli di chiavi, separati da virgole; “power” è l’alimentazione. Senza questa opzione, nessuna.</translation>
     </message>
     <message>
         <source>keys</source>
-        <translation type="unfinished"></translation>
+        <translation>chiavi</translation>
     </message>
     <message>
         <source>Commands that each projector takes in a minute.</source>
-        <translation type="unfinished"></translation>
+        <translation>Comandi che ogni proiettore accetta al minuto.</translation>
     </message>
     <message>
         <source>n</source>
-        <translation type="unfinished"></translation>
+        <translation>n</translation>
     </message>
     <message>
         <source>Names in discovery messages, and messages of this program, are in the language &lt;name&gt;, such as de or zh-TW.</source>
-        <translation type="unfinished"></translation>
+        <translation>I nomi nei messaggi di rilevamento e i messaggi di questo programma sono nella lingua &lt;nome&gt;, ad esempio de o zh-TW.</translation>
     </message>
     <message>
         <source>name</source>
-        <translation type="unfinished"></translation>
+        <translation>nome</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no time from %2 seconds to a day</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” non è un tempo da %2 secondi a un giorno</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no topic</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” non è un argomento</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no share such as 2/5</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” non è una parte come 2/5</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no numeric address with a port</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” non è un indirizzo numerico con porta</translation>
     </message>
     <message>
         <source>cannot read %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>impossibile leggere %1: %2</translation>
     </message>
     <message>
         <source>%1 is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 è vuoto</translation>
     </message>
     <message>
         <source>--%1 needs --broker</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 richiede --broker</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no host with a port</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” non è un host con porta</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is neither 3 nor 5</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” non è né 3 né 5</translation>
     </message>
     <message>
         <source>--cert-file and --key-file need each other</source>
-        <translation type="unfinished"></translation>
+        <translation>--cert-file e --key-file vanno usati insieme</translation>
     </message>
     <message>
         <source>--allow-commands: &apos;%1&apos; is no setting that may be commanded</source>
-        <translation type="unfinished"></translation>
+        <translation>--allow-commands: “%1” non è un’impostazione che può essere comandata</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no number from 1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” non è un numero da 1 a %2</translation>
     </message>
     <message>
         <source>Watches projectors, and tells a metrics store and a message broker of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sorveglia proiettori e ne comunica lo stato a un archivio di metriche e a un broker di messaggi.</translation>
     </message>
     <message>
         <source>unexpected argument &apos;%1&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>argomento inatteso “%1”</translation>
     </message>
     <message>
         <source>--profiles is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>manca --profiles</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no numeric address</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” non è un indirizzo numerico</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no folder</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” non è una cartella</translation>
     </message>
     <message>
         <source>there are no texts in &apos;%1&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>non ci sono testi in “%1”</translation>
     </message>
 </context>
 <context>
     <name>CommandLine</name>
     <message>
         <source>Unexpected &apos;=&apos; in &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>“=” inatteso in “%1”.</translation>
     </message>
     <message>
         <source>--%1 needs a value.</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 richiede un valore.</translation>
     </message>
     <message>
         <source>Opens the settings dialogs of projectors, real or simulated.</source>
-        <translation type="unfinished"></translation>
+        <translation>Apre le finestre di dialogo delle impostazioni di proiettori, reali o simulati.</translation>
     </message>
     <message>
         <source>Display this help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra questo aiuto.</translation>
     </message>
     <message>
         <source>Read the projectors from &lt;file&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Leggi i proiettori da &lt;file&gt;.</translation>
     </message>
     <message>
         <source>file</source>
-        <translation type="unfinished"></translation>
+        <translation>file</translation>
     </message>
     <message>
         <source>Open the dialog of the projector &lt;name&gt; at start.</source>
-        <translation type="unfinished"></translation>
+        <translation>All’avvio apri la finestra di dialogo del proiettore &lt;nome&gt;.</translation>
     </message>
     <message>
         <source>name</source>
-        <translation type="unfinished"></translation>
+        <translation>nome</translation>
     </message>
     <message>
         <source>With --open: select tab &lt;n&gt;, counted from 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>Con --open: scegli la scheda &lt;n&gt;, contata da 0.</translation>
     </message>
     <message>
         <source>Print the table of projectors.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra la tabella dei proiettori.</translation>
     </message>
     <message>
         <source>With --open: save a picture (PNG) of the dialog and exit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Con --open: salva un’immagine (PNG) della finestra di dialogo ed esci.</translation>
     </message>
     <message>
         <source>Save pictures of all tabs of all kinds of projectors in &lt;folder&gt; and exit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva immagini di tutte le schede di tutti i tipi di proiettori in &lt;cartella&gt; ed esci.</translation>
     </message>
     <message>
         <source>folder</source>
-        <translation type="unfinished"></translation>
+        <translation>cartella</translation>
     </message>
     <message>
         <source>Show texts in the language &lt;name&gt;, such as de or zh-TW.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra i testi nella lingua &lt;nome&gt;, ad esempio de o zh-TW.</translation>
     </message>
     <message>
         <source>--language: there are no texts in &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>--language: non ci sono testi in “%1”.</translation>
     </message>
     <message>
         <source>Unexpected argument &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Argomento inatteso “%1”.</translation>
     </message>
     <message>
         <source>Only one of --list, --tour and --open can be given.</source>
-        <translation type="unfinished"></translation>
+        <translation>È possibile solo una delle opzioni --list, --tour e --open.</translation>
     </message>
     <message>
         <source>--%1 needs --open.</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 richiede --open.</translation>
     </message>
     <message>
         <source>--tab: &apos;%1&apos; is not a number.</source>
-        <translation type="unfinished"></translation>
+        <translation>--tab: “%1” non è un numero.</translation>
     </message>
 </context>
 <context>
     <name>CommandLog</name>
     <message>
         <source>Changes &amp;Only</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo &amp;modifiche</translation>
     </message>
     <message>
         <source>&amp;Errors Only</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo &amp;errori</translation>
     </message>
     <message>
         <source>Save &amp;Log As…</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva &amp;registro con nome…</translation>
     </message>
     <message>
         <source>Clea&amp;r Log…</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;vuota registro…</translation>
     </message>
     <message>
         <source>Command log</source>
-        <translation type="unfinished"></translation>
+        <translation>Registro dei comandi</translation>
     </message>
     <message>
         <source>Leave out the commands that only read</source>
-        <translation type="unfinished"></translation>
+        <translation>Ometti i comandi che leggono soltanto</translation>
     </message>
     <message>
         <source>Leave out the commands that were carried out</source>
-        <translation type="unfinished"></translation>
+        <translation>Ometti i comandi che sono stati eseguiti</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copia</translation>
     </message>
     <message>
         <source>Projector, command or result</source>
-        <translation type="unfinished"></translation>
+        <translation>Proiettore, comando o risultato</translation>
     </message>
     <message>
         <source>Filter the log</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtra il registro</translation>
     </message>
     <message>
         <source>Save Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva registro</translation>
     </message>
     <message>
         <source>Tables (*.tsv);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelle (*.tsv);;Tutti i file (*)</translation>
     </message>
     <message>
         <source>Clear Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Svuota registro</translation>
     </message>
     <message numerus="yes">
         <source>Remove all %n entries of the log?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Rimuovere %n voce del registro?</numerusform>
+            <numerusform>Rimuovere tutte le %n voci del registro?</numerusform>
         </translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Svuota</translation>
     </message>
 </context>
 <context>
     <name>CommandLogModel</name>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Ora</translation>
     </message>
     <message>
         <source>Projector</source>
-        <translation type="unfinished"></translation>
+        <translation>Proiettore</translation>
     </message>
     <message>
         <source>Command</source>
-        <translation type="unfinished"></translation>
+        <translation>Comando</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valore</translation>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Risultato</translation>
     </message>
     <message>
         <source>ms</source>
-        <translation type="unfinished"></translation>
+        <translation>ms</translation>
     </message>
     <message>
         <source>left</source>
-        <translation type="unfinished"></translation>
+        <translation>abbandonato</translation>
     </message>
     <message>
         <source>no answer</source>
-        <translation type="unfinished"></translation>
+        <translation>nessuna risposta</translation>
     </message>
     <message>
         <source>busy</source>
-        <translation type="unfinished"></translation>
+        <translation>occupato</translation>
     </message>
     <message>
         <source>not offered</source>
-        <translation type="unfinished"></translation>
+        <translation>non offerto</translation>
     </message>
     <message>
         <source>refused</source>
-        <translation type="unfinished"></translation>
+        <translation>rifiutato</translation>
     </message>
     <message>
         <source>not yet so</source>
-        <translation type="unfinished"></translation>
+        <translation>non ancora attivo</translation>
     </message>
     <message>
         <source>ok</source>
-        <translation type="unfinished"></translation>
+        <translation>ok</translation>
     </message>
 </context>
 <context>
     <name>ConnectionFields</name>
     <message>
         <source>&amp;Reached through</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Raggiungibile tramite</translation>
     </message>
     <message>
         <source>Connect&amp;ion</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Connes&amp;sione</translation>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Indirizzo</translation>
     </message>
     <message>
         <source>&amp;Port</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Porta</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Pass&amp;word</translation>
     </message>
     <message>
         <source>Port n&amp;umber</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">N&amp;umero di porta</translation>
     </message>
     <message>
         <source>&amp;Device</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Dispositivo</translation>
     </message>
     <message>
         <source>&amp;Baud</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Baud</translation>
     </message>
     <message>
         <source>As its family</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Come la famiglia</translation>
     </message>
     <message>
         <source>Simulated</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Simulato</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Rete</translation>
     </message>
     <message>
         <source>Serial port</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Porta seriale</translation>
     </message>
     <message>
         <source>%1 is no address.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 non è un indirizzo.</translation>
     </message>
 </context>
 <context>
     <name>ConnectionTest</name>
     <message>
         <source>&amp;Test Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Prova connessione</translation>
     </message>
     <message>
         <source>Result of the test</source>
-        <translation type="unfinished"></translation>
+        <translation>Risultato della prova</translation>
     </message>
     <message>
         <source>There is nothing to connect to.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non c’è nulla a cui connettersi.</translation>
     </message>
     <message>
         <source>A serial line is tried when its dialog opens.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una linea seriale viene provata quando si apre la sua finestra di dialogo.</translation>
     </message>
     <message>
         <source>Asking…</source>
-        <translation type="unfinished"></translation>
+        <translation>Interrogazione…</translation>
     </message>
     <message>
         <source>A projector answers: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Risponde un proiettore: %1</translation>
     </message>
 </context>
 <context>
     <name>Csv</name>
     <message>
         <source>a quotation mark is not closed</source>
-        <translation type="unfinished"></translation>
+        <translation>le virgolette non sono chiuse</translation>
     </message>
     <message>
         <source>a text goes on behind its closing quotation mark</source>
-        <translation type="unfinished"></translation>
+        <translation>un testo prosegue dopo le virgolette di chiusura</translation>
     </message>
     <message>
         <source>more than %1 cells</source>
-        <translation type="unfinished"></translation>
+        <translation>più di %1 celle</translation>
     </message>
     <message>
         <source>%1 cells, but the header has %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 celle, ma l’intestazione ne ha %2</translation>
     </message>
     <message>
         <source>more than %1 rows</source>
-        <translation type="unfinished"></translation>
+        <translation>più di %1 righe</translation>
     </message>
     <message>
         <source>there is no header</source>
-        <translation type="unfinished"></translation>
+        <translation>manca l’intestazione</translation>
     </message>
     <message>
         <source>more than %1 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>più di %1 byte</translation>
     </message>
 </context>
 <context>
     <name>DetailsPanel</name>
     <message>
         <source>simulated</source>
-        <translation type="unfinished"></translation>
+        <translation>simulato</translation>
     </message>
     <message>
         <source>Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Dettagli</translation>
     </message>
     <message>
         <source>State:</source>
-        <translation type="unfinished"></translation>
+        <translation>Stato:</translation>
     </message>
     <message>
         <source>Power:</source>
-        <translation type="unfinished"></translation>
+        <translation>Alimentazione:</translation>
     </message>
     <message>
         <source>Source:</source>
-        <translation type="unfinished"></translation>
+        <translation>Sorgente:</translation>
     </message>
     <message>
         <source>Problem:</source>
-        <translation type="unfinished"></translation>
+        <translation>Problema:</translation>
     </message>
     <message>
         <source>Picture and sound:</source>
-        <translation type="unfinished"></translation>
+        <translation>Immagine e suono:</translation>
     </message>
     <message>
         <source>Lamp:</source>
-        <translation type="unfinished"></translation>
+        <translation>Lampada:</translation>
     </message>
     <message>
         <source>Filter:</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro:</translation>
     </message>
     <message>
         <source>Settings:</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni:</translation>
     </message>
     <message>
         <source>Answered:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ha risposto:</translation>
     </message>
     <message>
         <source>Share of the lamp&apos;s rated hours</source>
-        <translation type="unfinished"></translation>
+        <translation>Parte della durata nominale della lampada</translation>
     </message>
     <message>
         <source>Recent e&amp;vents</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;venti recenti</translation>
     </message>
     <message>
         <source>Recent events</source>
-        <translation type="unfinished"></translation>
+        <translation>Eventi recenti</translation>
     </message>
     <message>
         <source>No projector selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun proiettore selezionato</translation>
     </message>
     <message numerus="yes">
         <source>%n projectors selected</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n proiettore selezionato</numerusform>
+            <numerusform>%n proiettori selezionati</numerusform>
         </translation>
     </message>
     <message>
         <source>blank</source>
-        <translation type="unfinished"></translation>
+        <translation>schermo vuoto</translation>
     </message>
     <message>
         <source>muted</source>
-        <translation type="unfinished"></translation>
+        <translation>muto</translation>
     </message>
     <message>
         <source>frozen</source>
-        <translation type="unfinished"></translation>
+        <translation>fermo immagine</translation>
     </message>
     <message>
         <source>shown</source>
-        <translation type="unfinished"></translation>
+        <translation>visibile</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 di %2</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>nessuno</translation>
     </message>
     <message>
         <source>%1  %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1  %2</translation>
     </message>
     <message>
         <source>nothing yet</source>
-        <translation type="unfinished"></translation>
+        <translation>ancora nulla</translation>
     </message>
 </context>
 <context>
     <name>Discovery</name>
     <message>
         <source>Problem: fan</source>
-        <translation type="unfinished"></translation>
+        <translation>Problema: ventola</translation>
     </message>
     <message>
         <source>Problem: lamp</source>
-        <translation type="unfinished"></translation>
+        <translation>Problema: lampada</translation>
     </message>
     <message>
         <source>Problem: temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Problema: temperatura</translation>
     </message>
     <message>
         <source>Problem: cover</source>
-        <translation type="unfinished"></translation>
+        <translation>Problema: coperchio</translation>
     </message>
     <message>
         <source>Problem: filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Problema: filtro</translation>
     </message>
     <message>
         <source>Problem: other</source>
         <extracomment>Any other problem of a projector.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Problema: altro</translation>
     </message>
     <message>
         <source>Reachable</source>
-        <translation type="unfinished"></translation>
+        <translation>Raggiungibile</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished"></translation>
+        <translation>Alimentazione</translation>
     </message>
 </context>
 <context>
     <name>FaultPanel</name>
     <message>
         <source>Standby</source>
-        <translation type="unfinished"></translation>
+        <translation>Standby</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>Acceso</translation>
     </message>
     <message>
         <source>Cooling down</source>
-        <translation type="unfinished"></translation>
+        <translation>Raffreddamento</translation>
     </message>
     <message>
         <source>No error</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun errore</translation>
     </message>
     <message>
         <source>Cover</source>
-        <translation type="unfinished"></translation>
+        <translation>Coperchio</translation>
     </message>
     <message>
         <source>Fan</source>
-        <translation type="unfinished"></translation>
+        <translation>Ventola</translation>
     </message>
     <message>
         <source>Lamp</source>
-        <translation type="unfinished"></translation>
+        <translation>Lampada</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatura</translation>
     </message>
     <message>
         <source>Air flow</source>
-        <translation type="unfinished"></translation>
+        <translation>Flusso d’aria</translation>
     </message>
     <message>
         <source>Lamp time</source>
-        <translation type="unfinished"></translation>
+        <translation>Ore lampada</translation>
     </message>
     <message>
         <source>Cold</source>
-        <translation type="unfinished"></translation>
+        <translation>Freddo</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro</translation>
     </message>
     <message>
         <source>Filter time</source>
-        <translation type="unfinished"></translation>
+        <translation>Ore filtro</translation>
     </message>
     <message>
         <source>Other (99)</source>
-        <translation type="unfinished"></translation>
+        <translation>Altro (99)</translation>
     </message>
     <message>
         <source>Refuse</source>
-        <translation type="unfinished"></translation>
+        <translation>Rifiuta</translation>
     </message>
     <message>
         <source>Fail reads</source>
-        <translation type="unfinished"></translation>
+        <translation>Letture non riuscite</translation>
     </message>
     <message>
         <source>Delay</source>
-        <translation type="unfinished"></translation>
+        <translation>Ritarda</translation>
     </message>
     <message>
         <source>Drop out</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna risposta</translation>
     </message>
     <message>
         <source>&amp;Set Fault</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Imposta guasto</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rimuovi</translation>
     </message>
     <message>
         <source>Remove &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>Rimuovi &amp;tutti</translation>
     </message>
     <message>
         <source> ms</source>
-        <translation type="unfinished"></translation>
+        <translation> ms</translation>
     </message>
     <message>
         <source>Faults in force</source>
-        <translation type="unfinished"></translation>
+        <translation>Guasti attivi</translation>
     </message>
     <message>
         <source>Po&amp;wer</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;limentazione</translation>
     </message>
     <message>
         <source>&amp;Error status</source>
-        <translation type="unfinished"></translation>
+        <translation>Stato di &amp;errore</translation>
     </message>
     <message>
         <source>&amp;Command</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Comando</translation>
     </message>
     <message>
         <source>Fa&amp;ult</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guasto</translation>
     </message>
     <message>
         <source>&amp;Delay</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ritardo</translation>
     </message>
     <message>
         <source>&amp;In force</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Attivi</translation>
     </message>
     <message>
         <source>No projector selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun proiettore selezionato</translation>
     </message>
     <message>
         <source>Simulation of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Simulazione di %1</translation>
     </message>
     <message>
         <source>Simulated faults of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Guasti simulati di %1</translation>
     </message>
     <message>
         <source>All commands</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutti i comandi</translation>
     </message>
     <message>
         <source> (any code)</source>
-        <translation type="unfinished"></translation>
+        <translation> (qualsiasi codice)</translation>
     </message>
     <message>
         <source>Choose, or type a part of a name or code</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegliere o digitare parte di un nome o di un codice</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1: %2, %3 ms</source>
@@ -1894,366 +1895,366 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     <message numerus="yes">
         <source>%n on</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n acceso</numerusform>
+            <numerusform>%n accesi</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n off</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n spento</numerusform>
+            <numerusform>%n spenti</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n with problems</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n con problemi</numerusform>
+            <numerusform>%n con problemi</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n not reachable</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n non raggiungibile</numerusform>
+            <numerusform>%n non raggiungibili</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n with alerts</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n con avvisi</numerusform>
+            <numerusform>%n con avvisi</numerusform>
         </translation>
     </message>
     <message>
         <source>oldest answer %1</source>
-        <translation type="unfinished"></translation>
+        <translation>risposta più vecchia %1</translation>
     </message>
 </context>
 <context>
     <name>FleetWork</name>
     <message>
         <source>refused</source>
-        <translation type="unfinished"></translation>
+        <translation>rifiutata</translation>
     </message>
     <message>
         <source>the projector is busy or in standby</source>
-        <translation type="unfinished"></translation>
+        <translation>il proiettore è occupato o in standby</translation>
     </message>
     <message>
         <source>the projector does not have it</source>
-        <translation type="unfinished"></translation>
+        <translation>il proiettore non la ha</translation>
     </message>
     <message>
         <source>the model does not allow this value</source>
-        <translation type="unfinished"></translation>
+        <translation>il modello non consente questo valore</translation>
     </message>
     <message>
         <source>it cannot be set</source>
-        <translation type="unfinished"></translation>
+        <translation>non può essere cambiata</translation>
     </message>
     <message>
         <source>the model does not have it</source>
-        <translation type="unfinished"></translation>
+        <translation>il modello non la ha</translation>
     </message>
     <message>
         <source>the model has no such setting</source>
-        <translation type="unfinished"></translation>
+        <translation>il modello non ha questa impostazione</translation>
     </message>
     <message>
         <source>there is no snapshot for it</source>
-        <translation type="unfinished"></translation>
+        <translation>non ha alcuna istantanea</translation>
     </message>
     <message>
         <source>not confirmed, it may have changed</source>
-        <translation type="unfinished"></translation>
+        <translation>non confermata, potrebbe essere cambiata</translation>
     </message>
     <message>
         <source>not all of it could be sent</source>
-        <translation type="unfinished"></translation>
+        <translation>non è stato possibile inviare tutto</translation>
     </message>
     <message>
         <source>no answer</source>
-        <translation type="unfinished"></translation>
+        <translation>nessuna risposta</translation>
     </message>
     <message>
         <source>not reachable</source>
-        <translation type="unfinished"></translation>
+        <translation>non raggiungibile</translation>
     </message>
     <message>
         <source>not connected</source>
-        <translation type="unfinished"></translation>
+        <translation>non connesso</translation>
     </message>
     <message>
         <source>wrong connection parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>parametri di connessione errati</translation>
     </message>
     <message>
         <source>unknown host name</source>
-        <translation type="unfinished"></translation>
+        <translation>nome host sconosciuto</translation>
     </message>
     <message>
         <source>connection lost</source>
-        <translation type="unfinished"></translation>
+        <translation>connessione persa</translation>
     </message>
     <message>
         <source>answers are not understood</source>
-        <translation type="unfinished"></translation>
+        <translation>risposte non comprensibili</translation>
     </message>
     <message>
         <source>another version of the protocol</source>
-        <translation type="unfinished"></translation>
+        <translation>altra versione del protocollo</translation>
     </message>
     <message>
         <source>password missing or wrong</source>
-        <translation type="unfinished"></translation>
+        <translation>password mancante o errata</translation>
     </message>
 </context>
 <context>
     <name>GroupList</name>
     <message>
         <source>Groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppi</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutti</translation>
     </message>
     <message>
         <source>Problems</source>
-        <translation type="unfinished"></translation>
+        <translation>Problemi</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Spenti</translation>
     </message>
     <message>
         <source>Not reachable</source>
-        <translation type="unfinished"></translation>
+        <translation>Non raggiungibili</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>HelpWindows</name>
     <message>
         <source>In a projector&apos;s dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>Nella finestra di dialogo di un proiettore</translation>
     </message>
     <message>
         <source>Ctrl+Tab, Ctrl+Page Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Tab, Ctrl+Pag giù</translation>
     </message>
     <message>
         <source>Next tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Scheda successiva</translation>
     </message>
     <message>
         <source>Ctrl+Shift+Tab, Ctrl+Page Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Maiusc+Tab, Ctrl+Pag su</translation>
     </message>
     <message>
         <source>Previous tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Scheda precedente</translation>
     </message>
     <message>
         <source>Ctrl+F</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+F</translation>
     </message>
     <message>
         <source>Find a setting</source>
-        <translation type="unfinished"></translation>
+        <translation>Trova un’impostazione</translation>
     </message>
     <message>
         <source>Esc</source>
-        <translation type="unfinished"></translation>
+        <translation>Esc</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiudi</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Scorciatoie da tastiera</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Informazioni</translation>
     </message>
     <message>
         <source>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;The live settings of projectors: every value is read from the projector, every change is sent at once.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;Le impostazioni dei proiettori dal vivo: ogni valore è letto dal proiettore, ogni modifica è inviata subito.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
     <name>JsonLines</name>
     <message>
         <source>control character in a text</source>
-        <translation type="unfinished"></translation>
+        <translation>carattere di controllo in un testo</translation>
     </message>
     <message>
         <source>half a surrogate pair in a text</source>
-        <translation type="unfinished"></translation>
+        <translation>metà di una coppia surrogata in un testo</translation>
     </message>
     <message>
         <source>text of more than %1 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>testo di più di %1 byte</translation>
     </message>
     <message>
         <source>more than %1 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>più di %1 byte</translation>
     </message>
     <message>
         <source>nested more than %1 deep</source>
-        <translation type="unfinished"></translation>
+        <translation>più di %1 livelli di annidamento</translation>
     </message>
     <message>
         <source>more than %1 values</source>
-        <translation type="unfinished"></translation>
+        <translation>più di %1 valori</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Advanced Control: %1</translation>
     </message>
     <message>
         <source>Advanced Control</source>
-        <translation type="unfinished"></translation>
+        <translation>Advanced Control</translation>
     </message>
     <message>
         <source>Open Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri impostazioni</translation>
     </message>
     <message numerus="yes">
         <source>Open %n dialogs?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Aprire %n finestra di dialogo?</numerusform>
+            <numerusform>Aprire %n finestre di dialogo?</numerusform>
         </translation>
     </message>
     <message>
         <source>Alerts</source>
-        <translation type="unfinished"></translation>
+        <translation>Avvisi</translation>
     </message>
     <message>
         <source>Simulation</source>
-        <translation type="unfinished"></translation>
+        <translation>Simulazione</translation>
     </message>
     <message>
         <source>Command Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Registro dei comandi</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;File</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Esci</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Modifica</translation>
     </message>
     <message>
         <source>&amp;Preferences…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Preferenze…</translation>
     </message>
     <message>
         <source>&amp;Projector</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Proiettore</translation>
     </message>
     <message>
         <source>&amp;Open Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Apri impostazioni</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri</translation>
     </message>
     <message>
         <source>Re&amp;fresh</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;ggiorna</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Visualizza</translation>
     </message>
     <message>
         <source>&amp;Find</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Trova</translation>
     </message>
     <message>
         <source>&amp;Simulation</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Simulazione</translation>
     </message>
     <message>
         <source>&amp;Command Log</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Registro dei comandi</translation>
     </message>
     <message>
         <source>&amp;Alerts</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Avvisi</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;iuto</translation>
     </message>
     <message>
         <source>&amp;Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Scorciatoie da tastiera</translation>
     </message>
     <message>
         <source>&amp;About</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Informazioni</translation>
     </message>
     <message>
         <source>Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Strumenti</translation>
     </message>
 </context>
 <context>
     <name>ModelFields</name>
     <message>
         <source>&amp;Family</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Famiglia</translation>
     </message>
     <message>
         <source>&amp;Model</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Modello</translation>
     </message>
     <message>
         <source>All &amp;fields of the model</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tutti i c&amp;ampi del modello</translation>
     </message>
     <message>
         <source>Dialog &amp;type</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Tipo di finestra di dialogo</translation>
     </message>
     <message>
         <source>Model cod&amp;e</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Codice del modello</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nessuna</translation>
     </message>
 </context>
 <context>
     <name>Notify</name>
     <message>
         <source>Advanced Control</source>
-        <translation type="unfinished"></translation>
+        <translation>Advanced Control</translation>
     </message>
 </context>
 <context>
@@ -2261,272 +2262,274 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     <message>
         <source>Advanced Control</source>
         <extracomment>The name of the program in the menu.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Advanced Control</translation>
     </message>
     <message>
         <source>Projector Settings</source>
         <extracomment>What kind of program it is, in the menu.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni di proiettori</translation>
     </message>
     <message>
         <source>Read and change the settings of projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Leggi e cambia le impostazioni di proiettori</translation>
     </message>
     <message>
         <source>projector;beamer;brightness;keystone;</source>
         <extracomment>Words that people may search for, each with a semicolon behind it; as many as are useful.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>proiettore;videoproiettore;luminosità;trapezio;</translation>
     </message>
     <message>
         <source>A list that shows how hundreds of projectors are and changes many of them at once, and for each of them a dialog with a tab per group of settings. Every value is read live from the projector, and every change is sent at once. A log shows each command and its result.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un elenco mostra come stanno centinaia di proiettori e permette di cambiarne molti insieme; ciascuno ha una finestra di dialogo con una scheda per gruppo di impostazioni. Ogni valore è letto dal vivo dal proiettore, e ogni modifica è inviata subito. Un registro mostra ogni comando e il suo risultato.</translation>
     </message>
     <message>
         <source>Projectors can be simulated, with faults that are set by hand.</source>
-        <translation type="unfinished"></translation>
+        <translation>I proiettori possono essere simulati, con guasti impostati a mano.</translation>
     </message>
 </context>
 <context>
     <name>Pictures</name>
     <message>
         <source>the dialog of %1 cannot be created</source>
-        <translation type="unfinished"></translation>
+        <translation>impossibile creare la finestra di dialogo di %1</translation>
     </message>
     <message>
         <source>cannot write to the folder %1</source>
-        <translation type="unfinished"></translation>
+        <translation>impossibile scrivere nella cartella %1</translation>
     </message>
 </context>
 <context>
     <name>Preferences</name>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Preferenze</translation>
     </message>
     <message>
         <source>As the system</source>
-        <translation type="unfinished"></translation>
+        <translation>Come il sistema</translation>
     </message>
     <message>
         <source> s</source>
-        <translation type="unfinished"></translation>
+        <translation> s</translation>
     </message>
     <message>
         <source> %</source>
-        <translation type="unfinished"></translation>
+        <translation> %</translation>
     </message>
     <message>
         <source>never</source>
-        <translation type="unfinished"></translation>
+        <translation>mai</translation>
     </message>
     <message>
         <source> min</source>
-        <translation type="unfinished"></translation>
+        <translation> min</translation>
     </message>
     <message>
         <source>&amp;Fan, lamp, temperature, cover, filter</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ventola, lampada, temperatura, coperchio, filtro</translation>
     </message>
     <message>
         <source>Settings that are not as they should &amp;be</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni che non sono come &amp;dovrebbero</translation>
     </message>
     <message>
         <source>Notify on the &amp;desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Notifica sul desktop</translation>
     </message>
     <message>
         <source>Quiet from</source>
-        <translation type="unfinished"></translation>
+        <translation>Silenzio da</translation>
     </message>
     <message>
         <source>Quiet until</source>
-        <translation type="unfinished"></translation>
+        <translation>Silenzio fino a</translation>
     </message>
     <message>
         <source>&amp;Language (after a restart)</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lingua (dopo un riavvio)</translation>
     </message>
     <message>
         <source>Ask each projector &amp;every</source>
-        <translation type="unfinished"></translation>
+        <translation>Inte&amp;rroga ogni proiettore ogni</translation>
     </message>
     <message>
         <source>Alerts</source>
-        <translation type="unfinished"></translation>
+        <translation>Avvisi</translation>
     </message>
     <message>
         <source>Lamp &amp;hours, of the rated hours</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ore lampada, rispetto alla durata nominale</translation>
     </message>
     <message>
         <source>&amp;Silent for</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Senza risposta da</translation>
     </message>
     <message>
         <source>Quiet hours</source>
-        <translation type="unfinished"></translation>
+        <translation>Ore di silenzio</translation>
     </message>
 </context>
 <context>
     <name>PresetActions</name>
     <message>
         <source>P&amp;resets</source>
-        <translation type="unfinished"></translation>
+        <translation>Pr&amp;eimpostazioni</translation>
     </message>
     <message>
         <source>Put on the selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Applica alla selezione</translation>
     </message>
     <message>
         <source>No presets yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Ancora nessuna preimpostazione</translation>
     </message>
     <message>
         <source>&amp;Save as Preset…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Salva come preimpostazione…</translation>
     </message>
     <message>
         <source>Should &amp;Be Like</source>
-        <translation type="unfinished"></translation>
+        <translation>Deve &amp;corrispondere a</translation>
     </message>
     <message>
         <source>Nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna</translation>
     </message>
     <message>
         <source>&amp;Compare with What It Should Be</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;nfronta con lo stato voluto</translation>
     </message>
     <message>
         <source>&amp;Put Back What It Should Be</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ripristina lo stato voluto</translation>
     </message>
     <message>
         <source>Save as Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva come preimpostazione</translation>
     </message>
     <message>
         <source>Name of the preset:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome della preimpostazione:</translation>
     </message>
     <message>
         <source>Saved as the preset %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvato come preimpostazione %1</translation>
     </message>
     <message>
         <source>Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Preimpostazioni</translation>
     </message>
     <message>
         <source>Preset %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Preimpostazione %1</translation>
     </message>
     <message numerus="yes">
         <source>Put the preset %1 on %n projectors?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Applicare la preimpostazione %1 a %n proiettore?</numerusform>
+            <numerusform>Applicare la preimpostazione %1 a %n proiettori?</numerusform>
         </translation>
     </message>
     <message>
         <source>Should Be Like</source>
-        <translation type="unfinished"></translation>
+        <translation>Deve corrispondere a</translation>
     </message>
     <message>
         <source>None of the selected projectors has a preset that it should be like.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuno dei proiettori selezionati ha una preimpostazione a cui deve corrispondere.</translation>
     </message>
     <message>
         <source>Put Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripristina</translation>
     </message>
     <message numerus="yes">
         <source>Put back the settings of %n projectors?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ripristinare le impostazioni di %n proiettore?</numerusform>
+            <numerusform>Ripristinare le impostazioni di %n proiettori?</numerusform>
         </translation>
     </message>
     <message>
         <source>Compare</source>
-        <translation type="unfinished"></translation>
+        <translation>Confronta</translation>
     </message>
 </context>
 <context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
-        <translation type="unfinished"></translation>
+        <translation>impossibile creare la cartella %1</translation>
     </message>
 </context>
 <context>
     <name>ProfileActions</name>
     <message>
         <source>&amp;Add…</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;ggiungi…</translation>
     </message>
     <message>
         <source>&amp;Edit…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Modifica…</translation>
     </message>
     <message>
         <source>&amp;Duplicate…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Duplica…</translation>
     </message>
     <message>
         <source>&amp;Remove…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ri&amp;muovi…</translation>
     </message>
     <message>
         <source>Ta&amp;g…</source>
-        <translation type="unfinished"></translation>
+        <translation>Etic&amp;hetta…</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiungi</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifica</translation>
     </message>
     <message>
         <source>Duplicate</source>
-        <translation type="unfinished"></translation>
+        <translation>Duplica</translation>
     </message>
     <message>
         <source>Remove Projector</source>
-        <translation type="unfinished"></translation>
+        <translation>Rimuovi proiettore</translation>
     </message>
     <message>
         <source>Remove Projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Rimuovi proiettori</translation>
     </message>
     <message>
         <source>Remove &quot;%1&quot; from %2?</source>
-        <translation type="unfinished"></translation>
+        <translation>Rimuovere “%1” da %2?</translation>
     </message>
     <message numerus="yes">
         <source>Remove %n projectors from %1?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Rimuovere %n proiettore da %1?</numerusform>
+            <numerusform>Rimuovere %n proiettori da %1?</numerusform>
         </translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Rimuovi</translation>
     </message>
     <message>
         <source>Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Etichetta</translation>
     </message>
     <message numerus="yes">
         <source>Tags for %n projectors, separated by commas;
 a minus in front takes a tag away:</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Etichette per %n proiettore, separate da virgole;
+un segno meno davanti toglie un’etichetta:</numerusform>
+            <numerusform>Etichette per %n proiettori, separate da virgole;
+un segno meno davanti toglie un’etichetta:</numerusform>
         </translation>
     </message>
 </context>
@@ -2534,223 +2537,223 @@ a minus in front takes a tag away:</source>
     <name>ProfileCsv</name>
     <message>
         <source>&quot;%1&quot; is no MAC number</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” non è un indirizzo MAC</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no link</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” non è un tipo di collegamento</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is the name of another projector, with the identity %2</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” è il nome di un altro proiettore, con identità %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no number of hours</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” non è un numero di ore</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is the name of another projector</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” è il nome di un altro proiettore</translation>
     </message>
     <message>
         <source>the header has no column &quot;name&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>l’intestazione non ha la colonna “name”</translation>
     </message>
 </context>
 <context>
     <name>ProfileDocument</name>
     <message>
         <source>%1 was changed by another program. Reload it (F5), then do this again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 è stato cambiato da un altro programma. Ricaricarlo (F5), poi ripetere l’operazione.</translation>
     </message>
 </context>
 <context>
     <name>ProfileEditor</name>
     <message>
         <source>&amp;Name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nome</translation>
     </message>
     <message>
         <source>Add Projector</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiungi proiettore</translation>
     </message>
     <message>
         <source>Edit Projector</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifica proiettore</translation>
     </message>
     <message>
         <source>Duplicate Projector</source>
-        <translation type="unfinished"></translation>
+        <translation>Duplica proiettore</translation>
     </message>
     <message>
         <source>Still to be filled in: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ancora da compilare: %1</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
     <name>ProfileFile</name>
     <message>
         <source>serial port %1</source>
-        <translation type="unfinished"></translation>
+        <translation>porta seriale %1</translation>
     </message>
     <message>
         <source>has %1 families; at most %2 are possible</source>
-        <translation type="unfinished"></translation>
+        <translation>ha %1 famiglie; sono possibili al massimo %2</translation>
     </message>
     <message>
         <source>leads through more than %1 families</source>
-        <translation type="unfinished"></translation>
+        <translation>passa per più di %1 famiglie</translation>
     </message>
     <message>
         <source>makes &quot;%1&quot; like itself</source>
-        <translation type="unfinished"></translation>
+        <translation>rende “%1” uguale a sé stessa</translation>
     </message>
     <message>
         <source>there is no family &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>la famiglia “%1” non esiste</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>manca “%1”</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is the %2 of projectors[%3] too</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” è anche %2 di projectors[%3]</translation>
     </message>
     <message>
         <source>the file must hold an object</source>
-        <translation type="unfinished"></translation>
+        <translation>il file deve contenere un oggetto</translation>
     </message>
     <message>
         <source>&quot;projectors&quot; is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>manca “projectors”</translation>
     </message>
     <message>
         <source>there is no projector</source>
-        <translation type="unfinished"></translation>
+        <translation>non c’è alcun proiettore</translation>
     </message>
     <message>
         <source>stands here twice</source>
-        <translation type="unfinished"></translation>
+        <translation>compare qui due volte</translation>
     </message>
     <message>
         <source>cannot read profiles %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>impossibile leggere i profili %1: %2</translation>
     </message>
     <message>
         <source>not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>non è un file normale</translation>
     </message>
     <message>
         <source>is neither the name of a range nor a number 0 to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>non è né il nome di un intervallo né un numero da 0 a %1</translation>
     </message>
     <message>
         <source>must be given by its name &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>va indicato con il nome “%1”</translation>
     </message>
     <message>
         <source>must be [minimum, maximum] or null</source>
-        <translation type="unfinished"></translation>
+        <translation>deve essere [minimo, massimo] o null</translation>
     </message>
     <message>
         <source>has a minimum above its maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>ha un minimo superiore al massimo</translation>
     </message>
     <message>
         <source>unknown key; known are %1</source>
-        <translation type="unfinished"></translation>
+        <translation>chiave sconosciuta; sono note %1</translation>
     </message>
     <message>
         <source>must be an object</source>
-        <translation type="unfinished"></translation>
+        <translation>deve essere un oggetto</translation>
     </message>
     <message>
         <source>must be an array</source>
-        <translation type="unfinished"></translation>
+        <translation>deve essere un array</translation>
     </message>
     <message>
         <source>has %1 entries; at most %2 are possible</source>
-        <translation type="unfinished"></translation>
+        <translation>ha %1 voci; sono possibili al massimo %2</translation>
     </message>
     <message>
         <source>must be a text that is not empty</source>
-        <translation type="unfinished"></translation>
+        <translation>deve essere un testo non vuoto</translation>
     </message>
     <message>
         <source>is longer than %1 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>è più lungo di %1 byte</translation>
     </message>
     <message>
         <source>must be a whole number</source>
-        <translation type="unfinished"></translation>
+        <translation>deve essere un numero intero</translation>
     </message>
     <message>
         <source>is %1; it must be %2 to %3</source>
-        <translation type="unfinished"></translation>
+        <translation>è %1; deve essere da %2 a %3</translation>
     </message>
     <message>
         <source>must be a number, a text or an object with &quot;value&quot; and &quot;name&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>deve essere un numero, un testo o un oggetto con “value” e “name”</translation>
     </message>
     <message>
         <source>must be a path that begins with /</source>
-        <translation type="unfinished"></translation>
+        <translation>deve essere un percorso che inizia con /</translation>
     </message>
     <message>
         <source>is neither the name of a host nor an IP address</source>
-        <translation type="unfinished"></translation>
+        <translation>non è né il nome di un host né un indirizzo IP</translation>
     </message>
     <message>
         <source>must have either &quot;network&quot; or &quot;serial&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>deve avere “network” oppure “serial”</translation>
     </message>
     <message>
         <source>must be simulated, network, serial or pjlink</source>
-        <translation type="unfinished"></translation>
+        <translation>deve essere simulated, network, serial o pjlink</translation>
     </message>
     <message>
         <source>needs a %1 connection</source>
-        <translation type="unfinished"></translation>
+        <translation>richiede una connessione %1</translation>
     </message>
     <message>
         <source>there is no setting &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>l’impostazione “%1” non esiste</translation>
     </message>
 </context>
 <context>
     <name>ProfileFileActions</name>
     <message>
         <source>&amp;Open Profiles…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Apri profili…</translation>
     </message>
     <message>
         <source>&amp;Reload</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Ricarica</translation>
     </message>
     <message>
         <source>&amp;Save Profiles As…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Salva profili con nome…</translation>
     </message>
     <message>
         <source>Open Profiles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Apri profili</translation>
     </message>
     <message>
         <source>Profiles (*.json);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Profili (*.json);;Tutti i file (*)</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ricarica</translation>
     </message>
     <message>
         <source>Save Profiles As</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Salva profili con nome</translation>
     </message>
     <message>
         <source>Read-Only File</source>
@@ -2762,145 +2765,145 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Save Profiles As…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Salva profili con nome…</translation>
     </message>
 </context>
 <context>
     <name>ProfileHistory</name>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ann&amp;ulla</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ri&amp;peti</translation>
     </message>
     <message>
         <source>This could not be done; nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Non è stato possibile; nulla è stato cambiato.</translation>
     </message>
 </context>
 <context>
     <name>Program</name>
     <message>
         <source>no profiles at %1; name a file with --profiles</source>
-        <translation type="unfinished"></translation>
+        <translation>nessun profilo in %1; indicare un file con --profiles</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modello</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo</translation>
     </message>
     <message>
         <source>Code</source>
-        <translation type="unfinished"></translation>
+        <translation>Codice</translation>
     </message>
     <message>
         <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Connessione</translation>
     </message>
     <message numerus="yes">
         <source>%n pictures of %1 kinds of projectors saved in %2</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n immagine di %1 tipi di proiettori salvata in %2</numerusform>
+            <numerusform>%n immagini di %1 tipi di proiettori salvate in %2</numerusform>
         </translation>
     </message>
     <message>
         <source>--open: there is no projector &apos;%1&apos;; --list names all.</source>
-        <translation type="unfinished"></translation>
+        <translation>--open: il proiettore “%1” non esiste; --list li elenca tutti.</translation>
     </message>
     <message>
         <source>--tab: there is no tab %1; &apos;%2&apos; has tabs 0 to %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>--tab: la scheda %1 non esiste; “%2” ha le schede da 0 a %3.</translation>
     </message>
     <message>
         <source>no display; use --list, --tour or --screenshot without one.</source>
-        <translation type="unfinished"></translation>
+        <translation>nessuno schermo; senza schermo usare --list, --tour o --screenshot.</translation>
     </message>
 </context>
 <context>
     <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nome</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Stato</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Alimentazione</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sorgente</translation>
     </message>
     <message>
         <source>Lamp</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Lampada</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Problema</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Modello</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Luogo</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Impostazioni</translation>
     </message>
     <message>
         <source>Last answer</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ultima risposta</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Indirizzo</translation>
     </message>
     <message>
         <source>%1 · open</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 · aperta</translation>
     </message>
 </context>
 <context>
     <name>ProjectorView</name>
     <message>
         <source>Find a name, model, place, address, tab or setting</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca nome, modello, luogo, indirizzo, scheda o impostazione</translation>
     </message>
     <message>
         <source>Find projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca proiettori</translation>
     </message>
     <message>
         <source>Projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Proiettori</translation>
     </message>
     <message>
         <source>Nothing found</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun risultato</translation>
     </message>
     <message numerus="yes">
         <source>%n found</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n trovato</numerusform>
+            <numerusform>%n trovati</numerusform>
         </translation>
     </message>
 </context>
@@ -2909,198 +2912,198 @@ a minus in front takes a tag away:</source>
     <message>
         <source>Drive</source>
         <comment>All other platforms</comment>
-        <translation type="unfinished"></translation>
+        <translation>Unità</translation>
     </message>
     <message>
         <source>Folder</source>
         <comment>All other platforms</comment>
-        <translation type="unfinished"></translation>
+        <translation>Cartella</translation>
     </message>
 </context>
 <context>
     <name>RestoreDialog</name>
     <message>
         <source>Projector</source>
-        <translation type="unfinished"></translation>
+        <translation>Proiettore</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazione</translation>
     </message>
     <message>
         <source>Here</source>
-        <translation type="unfinished"></translation>
+        <translation>Qui</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>File</translation>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Risultato</translation>
     </message>
     <message>
         <source>not read</source>
-        <translation type="unfinished"></translation>
+        <translation>non letta</translation>
     </message>
     <message>
         <source>already so</source>
-        <translation type="unfinished"></translation>
+        <translation>invariata</translation>
     </message>
     <message>
         <source>different</source>
-        <translation type="unfinished"></translation>
+        <translation>diversa</translation>
     </message>
     <message>
         <source>changed</source>
-        <translation type="unfinished"></translation>
+        <translation>cambiata</translation>
     </message>
     <message>
         <source>refused</source>
-        <translation type="unfinished"></translation>
+        <translation>rifiutata</translation>
     </message>
     <message>
         <source>accepted, not yet so</source>
-        <translation type="unfinished"></translation>
+        <translation>accettata, non ancora attiva</translation>
     </message>
     <message>
         <source>refused: the projector is busy or in standby</source>
-        <translation type="unfinished"></translation>
+        <translation>rifiutata: il proiettore è occupato o in standby</translation>
     </message>
     <message>
         <source>not confirmed</source>
-        <translation type="unfinished"></translation>
+        <translation>non confermata</translation>
     </message>
     <message>
         <source>skipped: this model does not have it</source>
-        <translation type="unfinished"></translation>
+        <translation>ignorata: questo modello non la ha</translation>
     </message>
     <message>
         <source>skipped: this projector does not offer it</source>
-        <translation type="unfinished"></translation>
+        <translation>ignorata: questo proiettore non la offre</translation>
     </message>
     <message>
         <source>skipped: it is not one to put back</source>
-        <translation type="unfinished"></translation>
+        <translation>ignorata: non si ripristina</translation>
     </message>
     <message>
         <source>skipped: this model does not take the value</source>
-        <translation type="unfinished"></translation>
+        <translation>ignorata: questo modello non accetta il valore</translation>
     </message>
     <message numerus="yes">
         <source>%n changed</source>
         <extracomment>How many settings came to this, in a list such as &quot;12 changed, 3 refused&quot;.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n cambiata</numerusform>
+            <numerusform>%n cambiate</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n different</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n diversa</numerusform>
+            <numerusform>%n diverse</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n already so</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n invariata</numerusform>
+            <numerusform>%n invariate</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n not yet so</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n non ancora attiva</numerusform>
+            <numerusform>%n non ancora attive</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n refused</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n rifiutata</numerusform>
+            <numerusform>%n rifiutate</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n not confirmed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n non confermata</numerusform>
+            <numerusform>%n non confermate</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n not read</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n non letta</numerusform>
+            <numerusform>%n non lette</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n skipped</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ignorata</numerusform>
+            <numerusform>%n ignorate</numerusform>
         </translation>
     </message>
     <message>
         <source>Apply Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Applica impostazioni</translation>
     </message>
     <message>
         <source>Compare Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Confronta impostazioni</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtra</translation>
     </message>
     <message>
         <source>&amp;Differences only</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo &amp;differenze</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Avanzamento</translation>
     </message>
     <message>
         <source>&amp;Compare Again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Confronta di nuovo</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Applica</translation>
     </message>
     <message>
         <source>Waiting for the projector of an open dialog…</source>
-        <translation type="unfinished"></translation>
+        <translation>In attesa del proiettore di una finestra di dialogo aperta…</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Ferma</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiudi</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>Beforehand: other sources and modes</source>
-        <translation type="unfinished"></translation>
+        <translation>Prima: altre sorgenti e modalità</translation>
     </message>
     <message numerus="yes">
         <source>%n settings</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n impostazione</numerusform>
+            <numerusform>%n impostazioni</numerusform>
         </translation>
     </message>
 </context>
@@ -3108,85 +3111,85 @@ a minus in front takes a tag away:</source>
     <name>Search</name>
     <message>
         <source>&quot;%1&quot; is neither an IP address nor a range of them</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” non è né un indirizzo IP né un intervallo di indirizzi</translation>
     </message>
     <message>
         <source>more than %1 addresses</source>
-        <translation type="unfinished"></translation>
+        <translation>più di %1 indirizzi</translation>
     </message>
 </context>
 <context>
     <name>SearchDialog</name>
     <message>
         <source>&amp;Search</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cerca</translation>
     </message>
     <message>
         <source>Find Projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca proiettori</translation>
     </message>
     <message>
         <source>the networks of this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>le reti di questo computer</translation>
     </message>
     <message>
         <source>For example 192.0.2.0/24, or 192.0.2.10-40</source>
-        <translation type="unfinished"></translation>
+        <translation>Ad esempio 192.0.2.0/24, o 192.0.2.10-40</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modello</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished"></translation>
+        <translation>Indirizzo</translation>
     </message>
     <message>
         <source>Remark</source>
-        <translation type="unfinished"></translation>
+        <translation>Nota</translation>
     </message>
     <message>
         <source>Projectors found</source>
-        <translation type="unfinished"></translation>
+        <translation>Proiettori trovati</translation>
     </message>
     <message>
         <source>&amp;Addresses</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Indirizzi</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
-        <translation type="unfinished"></translation>
+        <translation>Pass&amp;word</translation>
     </message>
     <message>
         <source>Add the &amp;Checked</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aggiungi i selezionati</translation>
     </message>
     <message>
         <source>known already</source>
-        <translation type="unfinished"></translation>
+        <translation>già noto</translation>
     </message>
     <message>
         <source>wants a password</source>
-        <translation type="unfinished"></translation>
+        <translation>vuole una password</translation>
     </message>
     <message numerus="yes">
         <source>%n found</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n trovato</numerusform>
+            <numerusform>%n trovati</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n found, %1 of %2 addresses asked…</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n trovato, interrogati %1 indirizzi su %2…</numerusform>
+            <numerusform>%n trovati, interrogati %1 indirizzi su %2…</numerusform>
         </translation>
     </message>
 </context>
@@ -3194,520 +3197,520 @@ a minus in front takes a tag away:</source>
     <name>SettingsActions</name>
     <message>
         <source>Save Se&amp;ttings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Sa&amp;lva impostazioni…</translation>
     </message>
     <message>
         <source>&amp;Compare with File…</source>
-        <translation type="unfinished"></translation>
+        <translation>Con&amp;fronta con file…</translation>
     </message>
     <message>
         <source>A&amp;pply Settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Appl&amp;ica impostazioni…</translation>
     </message>
     <message>
         <source>%1: no answer</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: nessuna risposta</translation>
     </message>
     <message>
         <source>%1: nothing can be read</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: non si può leggere nulla</translation>
     </message>
     <message numerus="yes">
         <source>%1: %n settings cannot be read and are left out</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1: %n impostazione non può essere letta e viene tralasciata</numerusform>
+            <numerusform>%1: %n impostazioni non possono essere lette e vengono tralasciate</numerusform>
         </translation>
     </message>
     <message>
         <source>Save Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva impostazioni</translation>
     </message>
     <message>
         <source>Save Settings in Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva impostazioni in una cartella</translation>
     </message>
     <message>
         <source>Settings (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni (*.json)</translation>
     </message>
     <message>
         <source>Waiting for the projector of an open dialog…</source>
-        <translation type="unfinished"></translation>
+        <translation>In attesa del proiettore di una finestra di dialogo aperta…</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Ferma</translation>
     </message>
     <message>
         <source>Reading settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lettura delle impostazioni…</translation>
     </message>
     <message>
         <source>Open Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri impostazioni</translation>
     </message>
 </context>
 <context>
     <name>SettingsFile</name>
     <message>
         <source>cannot read %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>impossibile leggere %1: %2</translation>
     </message>
     <message>
         <source>standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>input standard</translation>
     </message>
     <message>
         <source>%1 stands here twice</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 compare qui due volte</translation>
     </message>
     <message>
         <source>%1; no more was sent</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; non è stato inviato altro</translation>
     </message>
     <message>
         <source>%1; nothing was sent</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; non è stato inviato nulla</translation>
     </message>
 </context>
 <context>
     <name>Simulator</name>
     <message>
         <source>--control: the port cannot be had</source>
-        <translation type="unfinished"></translation>
+        <translation>--control: la porta non è disponibile</translation>
     </message>
     <message>
         <source>there is no projector &apos;%1&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>il proiettore “%1” non esiste</translation>
     </message>
 </context>
 <context>
     <name>SimulatorArguments</name>
     <message>
         <source>&apos;%1&apos; is no port.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” non è una porta.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no number from %2 to %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” non è un numero da %2 a %3.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no time up to an hour.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” non è un tempo fino a un’ora.</translation>
     </message>
     <message>
         <source>Display this help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra questo aiuto.</translation>
     </message>
     <message>
         <source>Serve the projectors of &lt;file&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Servi i proiettori di &lt;file&gt;.</translation>
     </message>
     <message>
         <source>file</source>
-        <translation type="unfinished"></translation>
+        <translation>file</translation>
     </message>
     <message>
         <source>Serve only the projector &lt;name&gt;; may be given several times.</source>
-        <translation type="unfinished"></translation>
+        <translation>Servi solo il proiettore &lt;nome&gt;; può essere ripetuto.</translation>
     </message>
     <message>
         <source>name</source>
-        <translation type="unfinished"></translation>
+        <translation>nome</translation>
     </message>
     <message>
         <source>Listen on &lt;address&gt; instead of 127.0.0.1; with --fleet, the address of the first projector instead of 127.64.0.1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ascolta a &lt;indirizzo&gt; invece di 127.0.0.1; con --fleet, l’indirizzo del primo proiettore invece di 127.64.0.1.</translation>
     </message>
     <message>
         <source>address</source>
-        <translation type="unfinished"></translation>
+        <translation>indirizzo</translation>
     </message>
     <message>
         <source>The first projector is at port &lt;n&gt;, the others at those that follow; 0, as without it, takes any that are free. With --fleet, &lt;n&gt; is the port of every projector for our own protocol, and the next one for PJLink.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il primo proiettore è alla porta &lt;n&gt;, gli altri alle successive; 0, come senza l’opzione, prende porte libere. Con --fleet, &lt;n&gt; è la porta di ogni proiettore per il nostro protocollo, e la successiva quella per PJLink.</translation>
     </message>
     <message>
         <source>n</source>
-        <translation type="unfinished"></translation>
+        <translation>n</translation>
     </message>
     <message>
         <source>PJLink asks for &lt;text&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>PJLink chiede &lt;testo&gt;.</translation>
     </message>
     <message>
         <source>text</source>
-        <translation type="unfinished"></translation>
+        <translation>testo</translation>
     </message>
     <message>
         <source>Serve each projector on a pseudo terminal too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Servi ogni proiettore anche su uno pseudoterminale.</translation>
     </message>
     <message>
         <source>Begin with a fault: %1. Of a share of the projectors: &apos;silent 5%&apos;. May be given several times.</source>
-        <translation type="unfinished"></translation>
+        <translation>Inizia con un guasto: %1. Per una parte dei proiettori: “silent 5%”. Può essere ripetuto.</translation>
     </message>
     <message>
         <source>fault</source>
-        <translation type="unfinished"></translation>
+        <translation>guasto</translation>
     </message>
     <message>
         <source>Everything that is left to chance depends on &lt;n&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutto ciò che è lasciato al caso dipende da &lt;n&gt;.</translation>
     </message>
     <message>
         <source>Listen at port &lt;n&gt; of the loopback address for faults, a line each: projector&apos;s number from 1, or *, and the fault.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ascolta alla porta &lt;n&gt; dell’indirizzo di loopback i guasti, uno per riga: numero del proiettore da 1, o *, e il guasto.</translation>
     </message>
     <message>
         <source>Write profiles that lead a host to the served projectors to &lt;file&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Scrivi in &lt;file&gt; profili che portano un host ai proiettori serviti.</translation>
     </message>
     <message>
         <source>Serve &lt;n&gt; projectors, made after those of the profiles, each at a loopback address of its own.</source>
-        <translation type="unfinished"></translation>
+        <translation>Servi &lt;n&gt; proiettori, fatti come quelli dei profili, ciascuno a un proprio indirizzo di loopback.</translation>
     </message>
     <message>
         <source>Of a fleet: what --write-profiles uses; pjlink, network or mixed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Per una flotta: ciò che usa --write-profiles; pjlink, network o mixed.</translation>
     </message>
     <message>
         <source>way</source>
-        <translation type="unfinished"></translation>
+        <translation>via</translation>
     </message>
     <message>
         <source>Of a fleet: seconds until a projector is on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Per una flotta: secondi prima che un proiettore sia acceso.</translation>
     </message>
     <message>
         <source>seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>secondi</translation>
     </message>
     <message>
         <source>Of a fleet: seconds until a projector is in standby.</source>
-        <translation type="unfinished"></translation>
+        <translation>Per una flotta: secondi prima che un proiettore sia in standby.</translation>
     </message>
     <message>
         <source>Of a fleet: so many changes of state in a second happen by themselves.</source>
-        <translation type="unfinished"></translation>
+        <translation>Per una flotta: quanti cambiamenti di stato avvengono da soli in un secondo.</translation>
     </message>
     <message>
         <source>Of a fleet: send PJLink&apos;s status notices to this address.</source>
-        <translation type="unfinished"></translation>
+        <translation>Per una flotta: invia le notifiche di stato di PJLink a questo indirizzo.</translation>
     </message>
     <message>
         <source>address:port</source>
-        <translation type="unfinished"></translation>
+        <translation>indirizzo:porta</translation>
     </message>
     <message>
         <source>Of a fleet: at the end, write how often each projector was asked to &lt;file&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Per una flotta: alla fine scrivi in &lt;file&gt; quante volte ogni proiettore è stato interrogato.</translation>
     </message>
     <message>
         <source>Help and errors are in the language &lt;name&gt;, such as de or zh-TW.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aiuto ed errori sono nella lingua &lt;nome&gt;, ad esempio de o zh-TW.</translation>
     </message>
     <message>
         <source>Serves simulated projectors over TCP, PJLink and pseudo terminals. Prints an address a line, then &quot;ready&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Serve proiettori simulati via TCP, PJLink e pseudoterminali. Mostra un indirizzo per riga, poi “ready”.</translation>
     </message>
     <message>
         <source>Unexpected argument &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Argomento inatteso “%1”.</translation>
     </message>
     <message>
         <source>--%1 needs --fleet.</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 richiede --fleet.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no address.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” non è un indirizzo.</translation>
     </message>
     <message>
         <source>--password: is longer than %1 bytes.</source>
-        <translation type="unfinished"></translation>
+        <translation>--password: è più lunga di %1 byte.</translation>
     </message>
     <message>
         <source>--fault: &apos;%1&apos; is none of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>--fault: “%1” non è nessuno di %2.</translation>
     </message>
     <message>
         <source>--fleet has no serial lines.</source>
-        <translation type="unfinished"></translation>
+        <translation>--fleet non ha linee seriali.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no IPv4 loopback address.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” non è un indirizzo IPv4 di loopback.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; leaves too few addresses.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” lascia troppo pochi indirizzi.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; leaves none for PJLink.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” non lascia porte per PJLink.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no IPv4 loopback address with a port.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” non è un indirizzo IPv4 di loopback con porta.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is none of pjlink, network and mixed.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” non è né pjlink né network né mixed.</translation>
     </message>
 </context>
 <context>
     <name>Snapshot</name>
     <message>
         <source>a whole number is missing here</source>
-        <translation type="unfinished"></translation>
+        <translation>qui manca un numero intero</translation>
     </message>
     <message>
         <source>must be a whole number from %1 to %2, and is %3</source>
-        <translation type="unfinished"></translation>
+        <translation>deve essere un numero intero da %1 a %2, ed è %3</translation>
     </message>
     <message>
         <source>must be a line of text</source>
-        <translation type="unfinished"></translation>
+        <translation>deve essere una riga di testo</translation>
     </message>
     <message>
         <source>must be an object</source>
-        <translation type="unfinished"></translation>
+        <translation>deve essere un oggetto</translation>
     </message>
     <message>
         <source>must be an array</source>
-        <translation type="unfinished"></translation>
+        <translation>deve essere un array</translation>
     </message>
     <message>
         <source>has more than %1 entries</source>
-        <translation type="unfinished"></translation>
+        <translation>ha più di %1 voci</translation>
     </message>
     <message>
         <source>this is no file of saved settings</source>
-        <translation type="unfinished"></translation>
+        <translation>questo non è un file di impostazioni salvate</translation>
     </message>
     <message>
         <source>only version %1 is known</source>
-        <translation type="unfinished"></translation>
+        <translation>è nota solo la versione %1</translation>
     </message>
     <message>
         <source>&quot;%1&quot; stands here twice</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” compare qui due volte</translation>
     </message>
     <message>
         <source>is larger than 4 MiB</source>
-        <translation type="unfinished"></translation>
+        <translation>è più grande di 4 MiB</translation>
     </message>
     <message>
         <source>must hold an object</source>
-        <translation type="unfinished"></translation>
+        <translation>deve contenere un oggetto</translation>
     </message>
     <message>
         <source>line %1: </source>
-        <translation type="unfinished"></translation>
+        <translation>riga %1: </translation>
     </message>
 </context>
 <context>
     <name>StateTexts</name>
     <message>
         <source>Not watched</source>
-        <translation type="unfinished"></translation>
+        <translation>Non sorvegliato</translation>
     </message>
     <message>
         <source>Asking…</source>
-        <translation type="unfinished"></translation>
+        <translation>Interrogazione…</translation>
     </message>
     <message>
         <source>Unknown host</source>
-        <translation type="unfinished"></translation>
+        <translation>Host sconosciuto</translation>
     </message>
     <message>
         <source>No answer</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna risposta</translation>
     </message>
     <message>
         <source>Wrong password</source>
-        <translation type="unfinished"></translation>
+        <translation>Password errata</translation>
     </message>
     <message>
         <source>Not understood</source>
-        <translation type="unfinished"></translation>
+        <translation>Non compreso</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Errore</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Avvertenza</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Standby</source>
-        <translation type="unfinished"></translation>
+        <translation>Standby</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>Acceso</translation>
     </message>
     <message>
         <source>Cooling down</source>
-        <translation type="unfinished"></translation>
+        <translation>Raffreddamento</translation>
     </message>
     <message>
         <source>Warming up</source>
-        <translation type="unfinished"></translation>
+        <translation>Riscaldamento</translation>
     </message>
     <message>
         <source>Fan</source>
-        <translation type="unfinished"></translation>
+        <translation>Ventola</translation>
     </message>
     <message>
         <source>Lamp</source>
-        <translation type="unfinished"></translation>
+        <translation>Lampada</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatura</translation>
     </message>
     <message>
         <source>Cover</source>
-        <translation type="unfinished"></translation>
+        <translation>Coperchio</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro</translation>
     </message>
     <message>
         <source>Other</source>
-        <translation type="unfinished"></translation>
+        <translation>Altro</translation>
     </message>
     <message>
         <source>%1 (warning)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (avvertenza)</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 h</translation>
     </message>
     <message>
         <source>As it should be</source>
-        <translation type="unfinished"></translation>
+        <translation>Come dovrebbe</translation>
     </message>
     <message numerus="yes">
         <source>%n differ</source>
         <comment>settings</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n differisce</numerusform>
+            <numerusform>%n differiscono</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 s ago</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s fa</translation>
     </message>
     <message>
         <source>%1 min ago</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 min fa</translation>
     </message>
     <message>
         <source>%1 h ago</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 h fa</translation>
     </message>
     <message>
         <source>unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>sconosciuto</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished"></translation>
+        <translation>disattivato</translation>
     </message>
     <message>
         <source>on</source>
-        <translation type="unfinished"></translation>
+        <translation>attivato</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Stato</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished"></translation>
+        <translation>Alimentazione</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Sorgente</translation>
     </message>
     <message>
         <source>Blank</source>
-        <translation type="unfinished"></translation>
+        <translation>Schermo vuoto</translation>
     </message>
     <message>
         <source>Mute</source>
-        <translation type="unfinished"></translation>
+        <translation>Muto</translation>
     </message>
     <message>
         <source>Freeze</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermo immagine</translation>
     </message>
     <message>
         <source>Settings that differ</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni diverse</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
     <name>TransferActions</name>
     <message>
         <source>Find on the &amp;Network…</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca nella &amp;rete…</translation>
     </message>
     <message>
         <source>&amp;Import Table…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importa tabella…</translation>
     </message>
     <message>
         <source>E&amp;xport Table…</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;sporta tabella…</translation>
     </message>
     <message>
         <source>Find Projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca proiettori</translation>
     </message>
     <message>
         <source>Add Found Projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiungi i proiettori trovati</translation>
     </message>
     <message>
         <source>Import Table</source>
-        <translation type="unfinished"></translation>
+        <translation>Importa tabella</translation>
     </message>
     <message>
         <source>Tables (*.csv *.tsv *.txt);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelle (*.csv *.tsv *.txt);;Tutti i file (*)</translation>
     </message>
     <message>
         <source>Line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Riga %1: %2</translation>
     </message>
     <message>
         <source>Columns that mean nothing here: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Colonne qui senza significato: %1</translation>
     </message>
     <message>
         <source>Export Table</source>
-        <translation type="unfinished"></translation>
+        <translation>Esporta tabella</translation>
     </message>
     <message>
         <source>Tables (*.csv);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelle (*.csv);;Tutti i file (*)</translation>
     </message>
     <message numerus="yes">
         <source>%n projectors added</source>
@@ -3735,246 +3738,246 @@ a minus in front takes a tag away:</source>
     <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Acce&amp;ndi</translation>
     </message>
     <message>
         <source>Switch O&amp;ff</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">S&amp;pegni</translation>
     </message>
     <message>
         <source>P&amp;ower</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">A&amp;limentazione</translation>
     </message>
     <message>
         <source>&amp;Input</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Ingresso</translation>
     </message>
     <message>
         <source>&amp;Blank</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Schermo &amp;vuoto</translation>
     </message>
     <message>
         <source>Blank the Picture</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Mostra schermo vuoto</translation>
     </message>
     <message numerus="yes">
         <source>Blank the picture of %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Mostrare uno schermo vuoto su %n proiettore?</numerusform>
+            <numerusform>Mostrare uno schermo vuoto su %n proiettori?</numerusform>
         </translation>
     </message>
     <message>
         <source>Show the Picture</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Mostra l’immagine</translation>
     </message>
     <message numerus="yes">
         <source>Show the picture of %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Mostrare l’immagine di %n proiettore?</numerusform>
+            <numerusform>Mostrare l’immagine di %n proiettori?</numerusform>
         </translation>
     </message>
     <message>
         <source>&amp;Mute</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">M&amp;uto</translation>
     </message>
     <message>
         <source>Mute the Sound</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Disattiva il suono</translation>
     </message>
     <message numerus="yes">
         <source>Mute the sound of %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Disattivare il suono di %n proiettore?</numerusform>
+            <numerusform>Disattivare il suono di %n proiettori?</numerusform>
         </translation>
     </message>
     <message>
         <source>Unmute the Sound</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Riattiva il suono</translation>
     </message>
     <message numerus="yes">
         <source>Unmute the sound of %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Riattivare il suono di %n proiettore?</numerusform>
+            <numerusform>Riattivare il suono di %n proiettori?</numerusform>
         </translation>
     </message>
     <message>
         <source>Free&amp;ze</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Fermo immagine</translation>
     </message>
     <message>
         <source>Freeze the Picture</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ferma l’immagine</translation>
     </message>
     <message numerus="yes">
         <source>Freeze the picture of %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Fermare l’immagine di %n proiettore?</numerusform>
+            <numerusform>Fermare l’immagine di %n proiettori?</numerusform>
         </translation>
     </message>
     <message>
         <source>Release the Picture</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sblocca l’immagine</translation>
     </message>
     <message numerus="yes">
         <source>Release the picture of %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Sbloccare l’immagine di %n proiettore?</numerusform>
+            <numerusform>Sbloccare l’immagine di %n proiettori?</numerusform>
         </translation>
     </message>
     <message>
         <source>Switch On</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Accendi</translation>
     </message>
     <message>
         <source>Switch Off</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Spegni</translation>
     </message>
     <message numerus="yes">
         <source>Switch on %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Accendere %n proiettore?</numerusform>
+            <numerusform>Accendere %n proiettori?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Switch off %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Spegnere %n proiettore?</numerusform>
+            <numerusform>Spegnere %n proiettori?</numerusform>
         </translation>
     </message>
     <message>
         <source>Input %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ingresso %1</translation>
     </message>
     <message numerus="yes">
         <source>Choose the input %1 on %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Scegliere l’ingresso %1 su %n proiettore?</numerusform>
+            <numerusform>Scegliere l’ingresso %1 su %n proiettori?</numerusform>
         </translation>
     </message>
     <message>
         <source>No inputs are known</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nessun ingresso noto</translation>
     </message>
 </context>
 <context>
     <name>WholeFile</name>
     <message>
         <source>cannot write %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>impossibile scrivere %1: %2</translation>
     </message>
 </context>
 <context>
     <name>WorkActions</name>
     <message>
         <source>%1, %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2: %3</translation>
     </message>
 </context>
 <context>
     <name>WorkDialog</name>
     <message>
         <source>Projector</source>
-        <translation type="unfinished"></translation>
+        <translation>Proiettore</translation>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Risultato</translation>
     </message>
     <message>
         <source>Projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Proiettori</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Avanzamento</translation>
     </message>
     <message>
         <source>&amp;Retry the Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Riprova i non riusciti</translation>
     </message>
     <message>
         <source>&amp;Undo All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Annulla tutto</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Ferma</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiudi</translation>
     </message>
 </context>
 <context>
     <name>WorkRun</name>
     <message>
         <source>the model does not have it</source>
-        <translation type="unfinished"></translation>
+        <translation>il modello non la ha</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %n done</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 di %n completato</numerusform>
+            <numerusform>%1 di %n completati</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>, of these %n still under way</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>, di cui %n ancora in corso</numerusform>
+            <numerusform>, di cui %n ancora in corso</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>, %n failed</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>, %n non riuscito</numerusform>
+            <numerusform>, %n non riusciti</numerusform>
         </translation>
     </message>
     <message>
         <source>Undo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Annullamento: %1</translation>
     </message>
     <message>
         <source>working…</source>
-        <translation type="unfinished"></translation>
+        <translation>in corso…</translation>
     </message>
     <message>
         <source>done</source>
-        <translation type="unfinished"></translation>
+        <translation>completato</translation>
     </message>
     <message>
         <source>accepted, still under way</source>
-        <translation type="unfinished"></translation>
+        <translation>accettato, ancora in corso</translation>
     </message>
     <message>
         <source>refused</source>
-        <translation type="unfinished"></translation>
+        <translation>rifiutato</translation>
     </message>
     <message>
         <source>no answer</source>
-        <translation type="unfinished"></translation>
+        <translation>nessuna risposta</translation>
     </message>
     <message>
         <source>stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>fermato</translation>
     </message>
 </context>
 </TS>

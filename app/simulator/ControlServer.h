@@ -9,14 +9,14 @@
 #include "app/simulator/Faults.h"
 #include "simulator/TcpListener.h"
 
-/// Projectors that are disturbed while they are served.
+/// Served projectors that the control port can disturb.
 class ControlledProjectors {
  public:
   virtual ~ControlledProjectors() = default;
   virtual std::size_t Count() const = 0;
   virtual void SetFault(std::size_t projector, const ServiceFault& fault) = 0;
-  /// Carries out a line that is no fault's; without a projector it is for all of them. The answer,
-  /// nothing if the line is not understood.
+  /// Executes a command that sets no fault, for one projector or, if none is given, for all.
+  /// Returns the answer; nothing if the command is unknown.
   virtual std::optional<QString> Obey(std::optional<std::size_t> projector, const QString& line) {
     static_cast<void>(projector);
     static_cast<void>(line);
@@ -28,7 +28,7 @@ class ControlledProjectors {
 /// 5%"), and answers each with "ok" or an error.
 class ControlServer final {
  public:
-  /// `seed` says who has the fault of a share.
+  /// `seed` determines which projectors have the fault of a share.
   ControlServer(ControlledProjectors& projectors, std::uint64_t seed);
 
   /// Listens at the loopback address; 0 chooses a free port. Returns the port, or 0 on failure.

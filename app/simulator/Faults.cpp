@@ -67,7 +67,7 @@ std::vector<ServiceFault> Distribute(std::span<const FaultShare> shares, std::si
 }
 
 std::uint64_t Scrambled(std::uint64_t seed, std::uint64_t index) {
-  // A finalizer in the manner of multiply and shift: every bit of the result depends on every bit.
+  // Multiplies and shifts, so that every bit of the result depends on every bit of the arguments.
   std::uint64_t number = seed * 0x9E3779B97F4A7C15U + index + 1;
   number = (number ^ (number >> 30U)) * 0xBF58476D1CE4E5B9U;
   number = (number ^ (number >> 27U)) * 0x94D049BB133111EBU;

@@ -21,7 +21,7 @@ struct ServiceOptions {
   std::string password;         ///< For PJLink; empty for none.
   bool serial = false;          ///< Whether to serve on pseudo terminals too.
   std::vector<FaultShare> faults;
-  std::uint64_t seed = 1;  ///< Of the shares.
+  std::uint64_t seed = 1;  ///< Determines which projectors have the fault of a share.
 };
 
 /// A served projector with the servers of all its connections.

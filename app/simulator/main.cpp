@@ -66,7 +66,7 @@ std::optional<QString> Choose(std::vector<FleetProfile>& profiles, const QString
   return std::nullopt;
 }
 
-// A limit below what the system grants would end a fleet at a thousand connections.
+// The usual limit of descriptors would allow a fleet only a thousand connections.
 void RaiseDescriptorLimit() {
   rlimit limit{};
   if (getrlimit(RLIMIT_NOFILE, &limit) != 0) return;
@@ -74,7 +74,7 @@ void RaiseDescriptorLimit() {
   setrlimit(RLIMIT_NOFILE, &limit);
 }
 
-// Writes the profiles of what is served, tells where it is, and serves until a signal comes.
+// Writes the profiles, prints the addresses, and serves until a signal ends the program.
 template <typename Projectors>
 int Serve(Projectors& projectors, const Arguments& arguments, int endingSignals) {
   if (!arguments.writeProfiles.isEmpty()) {

@@ -36,30 +36,20 @@ Fleet::~Fleet() {
 
 void Fleet::Run() {
   while (true) {
-    SessionTime next{};
-    {
-      // Callers on other threads go first; one of them may be a user interface.
-      while (callers_ > 0) std::this_thread::yield();
-      const std::lock_guard lock(mutex_);
-      if (ends_) return;
+    const auto next = lock_.ForLoop([this]() -> std::optional<SessionTime> {
+      if (ends_) return std::nullopt;
       network_.Pass(watcher_->Events());
-      next = watcher_->Tick();
-    }
+      return watcher_->Tick();
+    });
+    if (!next) return;
     if (states_->MustTell()) onChanges_();
-    network_.Wait(next);
+    network_.Wait(*next);
   }
 }
 
-auto Fleet::Locked(const auto& use) const {
-  ++callers_;
-  const std::lock_guard lock(mutex_);
-  --callers_;
-  return use();
-}
-
-/// The same, where something may be due earlier now.
+/// For what may make something due earlier.
 void Fleet::Change(const auto& use) {
-  Locked(use);
+  lock_.ForCaller(use);
   network_.Wake();
 }
 
@@ -77,11 +67,11 @@ void Fleet::AskSoon(const std::string& id) {
 }
 
 std::uint16_t Fleet::ListenForNotices(const std::string& address, std::uint16_t port) {
-  return Locked([&] { return network_.ListenForNotices(address, port); });
+  return lock_.ForCaller([&] { return network_.ListenForNotices(address, port); });
 }
 
 FleetTally Fleet::Tally() const {
-  return Locked([&] { return watcher_->Tally(); });
+  return lock_.ForCaller([&] { return watcher_->Tally(); });
 }
 
 void Fleet::Learn(const std::string& id, const PjtCommand& command, const PjtReply& reply,

@@ -1,9 +1,7 @@
 #pragma once
 
-#include <atomic>
 #include <functional>
 #include <memory>
-#include <mutex>
 #include <optional>
 #include <string>
 #include <thread>
@@ -12,6 +10,7 @@
 
 #include "Namespace.h"
 #include "ProjectorFleetExport.h"
+#include "fleet/CallersFirst.h"
 #include "fleet/FleetClock.h"
 #include "fleet/FleetEvents.h"
 #include "fleet/FleetPolicy.h"
@@ -70,17 +69,15 @@ class PROJECTOR_FLEET_EXPORT Fleet {
 
  private:
   void Run();
-  auto Locked(const auto& use) const;
   void Change(const auto& use);
 
   const std::function<void()> onChanges_;
   const SystemFleetClock clock_;
   SocketNetwork network_;
   const std::unique_ptr<FleetStates> states_;
-  const std::unique_ptr<FleetWatcher> watcher_;  ///< Under the mutex.
-  mutable std::mutex mutex_;
-  mutable std::atomic<int> callers_ = 0;  ///< Waiting for the mutex, beside the fleet's thread.
-  bool ends_ = false;                     ///< Under the mutex.
+  mutable CallersFirst lock_;
+  const std::unique_ptr<FleetWatcher> watcher_;  ///< Under the lock.
+  bool ends_ = false;                            ///< Under the lock.
   std::thread thread_;
 };
 

@@ -63,7 +63,10 @@ CAdvanceDlg::Parts::Parts(CAdvanceDlg& owner)
   };
   connect(&strip, &ProjectorStrip::ReadAgain, &waiting, readAgain);
   AddShortcut(QKeySequence::Refresh, readAgain);
-  AddShortcut(QKeySequence::Find, [this] { search.Start(); });
+  AddShortcut(QKeySequence::Find, [this] {
+    search.Start();
+    frame.Place(Framed());
+  });
   AddShortcut(QKeySequence(Qt::CTRL | Qt::Key_Tab), [this] { pages.SelectNeighbour(1); });
   AddShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab),
               [this] { pages.SelectNeighbour(-1); });
@@ -163,6 +166,19 @@ void CAdvanceDlg::SetWanted(WantedSettings wanted) {
 
 const WantedSettings* CAdvanceDlg::Wanted() const {
   return parts_->wanted.IsEmpty() ? nullptr : &parts_->wanted;
+}
+
+void CAdvanceDlg::SetLastSeen(const Snapshot& seen) {
+  parts_->lastSeen.clear();
+  for (const SavedSetting& setting : seen.settings) {
+    if (!setting.source) parts_->lastSeen.insert_or_assign(setting.key, setting.value);
+  }
+  parts_->pages.ShowDifferences();
+}
+
+std::optional<int> CAdvanceDlg::LastSeen(std::string_view key) const {
+  const auto found = parts_->lastSeen.find(key);
+  return found == parts_->lastSeen.end() ? std::nullopt : std::optional(found->second);
 }
 
 void CAdvanceDlg::SetRatedLampHours(int hours) {

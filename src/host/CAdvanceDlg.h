@@ -1,7 +1,9 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
+#include <string_view>
 
 #include "AdvancedControlExport.h"
 #include "Namespace.h"
@@ -119,6 +121,13 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog,
   /// The same with the settings of a snapshot.
   void SetWanted(const AdvancedControl::Snapshot& wanted);
   const AdvancedControl::WantedSettings* Wanted() const override;
+
+  /// Gives the settings that the host has last seen on the projector. The tab of a page that was
+  /// not read then shows how many of its wanted settings differed at that time, with a question
+  /// mark; without them such a tab shows nothing. The dialog never reads a page only to count. May
+  /// be called at any time.
+  void SetLastSeen(const AdvancedControl::Snapshot& seen);
+  std::optional<int> LastSeen(std::string_view key) const override;
 
   /// The page of the selected tab, or null.
   CTabPage* ShownPage() const;

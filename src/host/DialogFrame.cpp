@@ -55,7 +55,7 @@ void DialogFrame::Place(const Parts& parts) const {
   QRect line(kMargin, bottomRight.top(), bottomRight.left() - 2 * kMargin, bottomRight.height());
   place(parts.status, line);
   line.setLeft(std::max(line.left(), line.right() - kFindWidth));
-  place(parts.find, line);
+  if (parts.find != nullptr) place(*parts.find, line);
   parts.pages.Area().setGeometry(
       QRect(kPagePosition, QPoint(width, bottomRight.top()) -
                                QPoint(kPagePosition.x() + 1, kMargin + kPagePosition.x() + 1)));

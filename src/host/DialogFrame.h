@@ -22,7 +22,7 @@ class DialogFrame {
     DialogPages& pages;
     QWidget& strip;
     StatusLine& status;
-    FindLine& find;
+    FindLine* find;  ///< Null until the first search.
     QWidget& close;
   };
 

@@ -7,6 +7,7 @@
 #include "settings/CatalogNumbers.h"
 #include "toolkit/CTabCtrl.h"
 #include "toolkit/FittedScroll.h"
+#include "toolkit/TemplateRows.h"
 
 namespace AdvancedControl {
 
@@ -14,24 +15,34 @@ namespace {
 
 constexpr int kTabWidth = 120;
 
+QString DifferencesText(int read, int seen) {
+  const auto text = [](int number, int count) {
+    return count > 0 ? CatalogString(kListCategory, number, std::int64_t{count}) : QString();
+  };
+  QStringList texts{text(ListText::NotAsWanted, read), text(ListText::SeenNotAsWanted, seen)};
+  texts.removeAll(QString());
+  return texts.join(QLatin1Char('\n'));
+}
+
 }  // namespace
 
 DialogPages::DialogPages(QWidget& dialog) : area_(new FittedScroll(new QWidget, &dialog)) {
-  for (std::size_t i = 0; i < kPageCount; ++i) {
-    pages_[i] = MakePage(static_cast<PageId>(i), area_->widget());
-  }
   auto* layout = new QVBoxLayout(area_->widget());
   layout->setContentsMargins({});
 }
 
 DialogPages::~DialogPages() = default;
 
-CTabPage& DialogPages::Page(PageId page) const { return *pages_[static_cast<std::size_t>(page)]; }
+CTabPage& DialogPages::Page(PageId page) const {
+  auto& made = pages_[static_cast<std::size_t>(page)];
+  if (made == nullptr) made = MakePage(page, area_->widget());
+  return *made;
+}
 
 std::vector<CTabPage*> DialogPages::Created() const {
   std::vector<CTabPage*> created;
   for (const auto& page : pages_) {
-    if (page->Template() != nullptr) created.push_back(page.get());
+    if (page != nullptr && page->Template() != nullptr) created.push_back(page.get());
   }
   return created;
 }
@@ -67,10 +78,11 @@ void DialogPages::InsertTabs() {
 
 QSize DialogPages::FitPages() const {
   const std::vector<CTabPage*> created = Created();
-  const std::vector<TemplateDialog*> dialogs(created.begin(), created.end());
-  TemplateDialog::ShareCaptionWidths(dialogs);
+  std::vector<const TemplateRows*> rows;
+  for (const CTabPage* page : created) rows.push_back(&page->Rows());
+  TemplateRows::ShareCaptionWidths(rows);
   QSize whole;
-  for (TemplateDialog* page : dialogs) {
+  for (CTabPage* page : created) {
     page->setMinimumSize(page->DialogSize());
     whole = whole.expandedTo(page->minimumSize());
   }
@@ -115,11 +127,16 @@ void DialogPages::ShowDifferences() const {
     const auto id = PageIdOfTab(tab);
     if (!id) continue;
     CTabPage& page = Page(*id);
-    const int differences = page.Reader().Differences();
-    const QString text =
-        differences == 0 ? page.accessibleName()
-                         : QStringLiteral("%1 (%2)").arg(page.accessibleName()).arg(differences);
-    if (tabs_->tabText(tab) != text) tabs_->setTabText(tab, text);
+    const int read = page.Reader().Differences();
+    const int seen = page.Reader().DifferencesWhenSeen();
+    const QString form = seen > 0   ? QStringLiteral("%1 (%2?)")
+                         : read > 0 ? QStringLiteral("%1 (%2)")
+                                    : QStringLiteral("%1");
+    QString text = form.arg(page.accessibleName());
+    if (read + seen > 0) text = text.arg(read + seen);
+    if (tabs_->tabText(tab) == text) continue;
+    tabs_->setTabText(tab, text);
+    tabs_->setTabToolTip(tab, DifferencesText(read, seen));
   }
 }
 

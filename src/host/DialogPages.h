@@ -31,7 +31,8 @@ class DialogPages {
   explicit DialogPages(QWidget& dialog);
   ~DialogPages();
 
-  /// Any page; only those of the model's page set have controls once they are created.
+  /// Any page, made when it is first asked for; only those of the model's page set have controls
+  /// once they are created.
   CTabPage& Page(PageId page) const;
   /// The pages that have controls, in the order of `PageId`.
   std::vector<CTabPage*> Created() const;
@@ -54,7 +55,8 @@ class DialogPages {
   CTabPage* Shown() const { return shown_; }
   /// Shows the page of the selected tab, marked as unread, and hides all others.
   void ShowSelected();
-  /// Lets each tab say how many rows of its page differ from the wanted values.
+  /// Lets each tab say how many rows of its page differ from the wanted values. A question mark
+  /// says that some of them were not read, and differed when the host last saw them.
   void ShowDifferences() const;
   /// Selects the tab `step` places further on, and gives it the focus.
   void SelectNeighbour(int step);
@@ -64,7 +66,7 @@ class DialogPages {
   void InsertTabs();
 
   FittedScroll* area_;
-  std::array<std::unique_ptr<CTabPage>, kPageCount> pages_;
+  mutable std::array<std::unique_ptr<CTabPage>, kPageCount> pages_;  // null until asked for
   const ModelData* model_ = nullptr;
   QPointer<CTabCtrl> tabs_;
   CTabPage* shown_ = nullptr;

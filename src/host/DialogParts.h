@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <string>
 
 #include <QTimer>
@@ -43,6 +44,7 @@ struct CAdvanceDlg::Parts {
   const ResourceModule* savedResources = nullptr;  // restored when the dialog closes
   std::string projectorName;
   WantedSettings wanted;
+  std::map<std::string, int, std::less<>> lastSeen;  // device values by key
   CPjtInterface::Tally shownTally;  // until which the strip shows whether the projector answers
   bool hostOption = false;
   bool reading = false;  // a page is being read

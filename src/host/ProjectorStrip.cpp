@@ -8,6 +8,8 @@
 
 #include "i18n/LocalizeControlTexts.h"
 #include "settings/CatalogNumbers.h"
+#include "toolkit/Icons.h"
+#include "toolkit/LineLabel.h"
 
 namespace AdvancedControl {
 
@@ -29,7 +31,7 @@ ProjectorStrip::ProjectorStrip(QWidget* parent, std::function<Age()> age)
       projector_(new QLabel),
       read_(new QLabel),
       again_(new QToolButton) {
-  again_->setText(QStringLiteral("\u21bb"));
+  again_->setIcon(ThemedIcon(IconName::Refresh));
   again_->setAutoRaise(true);
   again_->setFocusPolicy(Qt::NoFocus);  // F5 does the same
   connect(again_, &QToolButton::clicked, this, &ProjectorStrip::ReadAgain);
@@ -53,6 +55,7 @@ void ProjectorStrip::SetProjector(const QStringList& parts) {
   const QString again = CatalogString(kListCategory, ListText::ReadAgain);
   again_->setAccessibleName(again);
   again_->setToolTip(again);
+  LineLabel::AlignToStart(*projector_);  // the language is known now
   ShowProjector();
 }
 

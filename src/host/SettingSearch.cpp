@@ -29,11 +29,6 @@ void FocusOn(CDialog& dialog, int control) {
 
 }  // namespace
 
-SettingSearch::SettingSearch(CDialog& dialog, DialogPages& pages)
-    : dialog_(dialog), pages_(pages), line_(new FindLine(&dialog)) {
-  connect(line_, &FindLine::Found, this, &SettingSearch::GoTo);
-}
-
 void SettingSearch::Start() {
   std::vector<FindLine::Place> places;
   const auto add = [&places](FindLine::Place place, const PageTable& table,
@@ -61,6 +56,10 @@ void SettingSearch::Start() {
       const QString opener = CaptionText(FindRow(TableOf(*id), popUp.control));
       add({.where = WhatAndWhere(opener, where), .tab = tab, .popUp = popUp}, *popUp.table, model);
     }
+  }
+  if (line_ == nullptr) {
+    line_ = new FindLine(&dialog_);
+    connect(line_, &FindLine::Found, this, &SettingSearch::GoTo);
   }
   line_->Start(std::move(places));
 }

@@ -18,12 +18,12 @@ class DialogPages;
 class SettingSearch final : public QObject {
  public:
   /// Both must outlive the search.
-  SettingSearch(CDialog& dialog, DialogPages& pages);
+  SettingSearch(CDialog& dialog, DialogPages& pages) : dialog_(dialog), pages_(pages) {}
 
   /// Lets the user type the caption.
   void Start();
-  /// The line in which the user types; owned by the dialog.
-  FindLine& Line() const { return *line_; }
+  /// The line in which the user types; owned by the dialog, null until the first `Start`.
+  FindLine* Line() const { return line_; }
 
  private:
   void GoTo(const FindLine::Place& place);
@@ -31,7 +31,7 @@ class SettingSearch final : public QObject {
 
   CDialog& dialog_;
   DialogPages& pages_;
-  FindLine* line_;
+  FindLine* line_ = nullptr;
 };
 
 }  // namespace AdvancedControl

@@ -2,12 +2,9 @@
 
 #include <optional>
 
-#include <QGuiApplication>
-#include <QIconEngine>
 #include <QPainter>
-#include <QPalette>
 
-#include "toolkit/Contrast.h"
+#include "toolkit/PaintedIcon.h"
 
 namespace AdvancedControl {
 
@@ -29,31 +26,21 @@ std::optional<int> Turn(int number) {
   }
 }
 
-class ArrowEngine final : public QIconEngine {
+class ArrowEngine final : public PaintedIcon {
  public:
   explicit ArrowEngine(int turn) : turn_(turn) {}
 
   void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
-    const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
     static constexpr QPointF kUp[] = {{0, -0.3}, {0.4, 0.25}, {-0.4, 0.25}};
-    const QPalette palette = WithReadableDisabledTexts(QGuiApplication::palette());
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setPen(Qt::NoPen);
-    painter->setBrush(palette.brush(group, QPalette::ButtonText));
+    painter->setBrush(TextColor(mode));
     painter->translate(QRectF(rect).center());
     painter->rotate(turn_);
     painter->scale(rect.width(), rect.height());
     painter->drawPolygon(kUp, 3);
     painter->restore();
-  }
-
-  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-    QPixmap pixmap(size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    paint(&painter, pixmap.rect(), mode, state);
-    return pixmap;
   }
 
   QIconEngine* clone() const override { return new ArrowEngine(turn_); }

@@ -3,6 +3,7 @@
 #include "Namespace.h"
 #include "device/CommandCode.h"
 #include "settings/CatalogNumbers.h"
+#include "settings/ErrorNumbers.h"
 #include "settings/Rows.h"
 
 namespace AdvancedControl {

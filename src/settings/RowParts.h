@@ -2,6 +2,7 @@
 
 #include "Namespace.h"
 #include "settings/CatalogNumbers.h"
+#include "settings/ErrorNumbers.h"
 #include "settings/Rows.h"
 
 namespace AdvancedControl {
@@ -40,6 +41,11 @@ constexpr ValueRow NamedSlider(std::string_view key, int caption, const ValueIds
           .rangeText = rangeText,
           .range = range,
           .ticks = ticks};
+}
+
+constexpr ValueRow InUnit(int unit, ValueRow row) {
+  row.unit = unit;
+  return row;
 }
 
 }  // namespace AdvancedControl

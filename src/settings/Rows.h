@@ -150,6 +150,7 @@ struct ValueRow {
   bool stepsOnly = false;
   std::optional<PerModel<Range>> bounds{};  ///< Shown values, for − and +; else the slider's.
   int ticks = 1;                            ///< 0 means an eighth of the slider's maximum.
+  int unit = 0;                  ///< Text of the list category shown behind the number; 0 for none.
   std::optional<int> initial{};  ///< Shown, and used as the last known value, until one is read.
   RefusedDrag refusedDrag = RefusedDrag::ShowsError;
   int error = 0;

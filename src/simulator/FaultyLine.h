@@ -17,7 +17,7 @@ struct LineFault {
     None,
     Silent,   ///< Nothing is sent.
     Late,     ///< Each reply is sent after `amount` milliseconds.
-    Cut,      ///< The next reply ends after `amount` bytes, and a connection with it.
+    Cut,      ///< The next reply ends after `amount` bytes, and a TCP connection is then closed.
     Garbage,  ///< Replies are replaced by other bytes.
     Trickle,  ///< Replies are sent byte by byte.
   };
@@ -31,7 +31,7 @@ struct LineFault {
 /// Sends the replies of a server with a fault, which may change at any time.
 class FaultyLine {
  public:
-  /// Both must outlive this object. Pending timers end with the line.
+  /// Both must outlive this object. Timers under way end when `line` is deleted.
   FaultyLine(QIODevice& line, const LineFault& fault) : line_(line), fault_(fault) {}
   FaultyLine(const FaultyLine&) = delete;
   FaultyLine& operator=(const FaultyLine&) = delete;

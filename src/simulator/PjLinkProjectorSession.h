@@ -14,7 +14,7 @@ namespace AdvancedControl {
 /// The projector's end of one PJLink session, without a socket: greeting, password, requests.
 class PROJECTOR_COMMON_EXPORT PjLinkProjectorSession {
  public:
-  /// `responder` must live as long as this. An empty password: none is wanted.
+  /// `responder` must outlive this. `password` is empty for a projector without one.
   PjLinkProjectorSession(PjLinkResponder& responder, std::string_view password);
 
   /// What the projector sends first, with its end.
@@ -36,7 +36,7 @@ class PROJECTOR_COMMON_EXPORT PjLinkProjectorSession {
   PjLinkResponder& responder_;
   PjLinkReader reader_;
   std::string greeting_;
-  std::string wantedProof_;  // before the next request; empty once given, or without password
+  std::string wantedProof_;  ///< Must precede the next request; empty if nothing must.
   bool isOver_ = false;
 };
 

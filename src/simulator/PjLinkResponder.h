@@ -29,9 +29,9 @@ PROJECTOR_COMMON_EXPORT std::vector<ServedInput> InputsOf(const SourceList& sour
 struct ServedProjector {
   int protocolClass = 2;  ///< 1 or 2.
   std::vector<ServedInput> inputs{};
-  /// Six digits, as `ERST` yields them; empty for what the projector's error status says.
+  /// The six digits of `ERST`; empty to derive them from the projector's error status.
   std::string errors{};
-  /// Of the lamps after the first.
+  /// Hours of the second and further lamps.
   std::vector<int> moreLampHours{};
   /// Answers of the commands that return a text; UTF-8, cut to the length that the standard allows.
   std::map<std::string, std::string, std::less<>> texts{
@@ -59,7 +59,7 @@ class PROJECTOR_COMMON_EXPORT PjLinkResponder {
   /// nothing if `text` is not a request.
   std::optional<std::string> Answer(std::string_view text);
 
-  /// Six digits instead of `ServedProjector::errors`.
+  /// Replaces `ServedProjector::errors`.
   void SetErrors(std::string_view digits) { served_.errors = digits; }
 
  private:

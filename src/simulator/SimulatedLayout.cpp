@@ -60,7 +60,8 @@ SimulatedProjector::Layout::Layout(SimulatedModel model) {
       Add(setting, model);
     }
   }
-  // A code that only other page sets give a meaning is plain here; one of a missing setting is not.
+  // A code that has a meaning only in other page sets is plain here. That of a missing setting is
+  // not.
   for (const std::uint16_t code : PlainCodes()) {
     const bool hasMeaning = std::ranges::any_of(SettingsTable(), [&](const Setting& setting) {
       return setting.code == code && Knows(setting.sets, model.pageSet);

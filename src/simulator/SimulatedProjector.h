@@ -56,10 +56,10 @@ class PROJECTOR_COMMON_EXPORT SimulatedProjector : public ProjectorChannel {
 
   PjtReply Execute(const PjtCommand& command) override;
 
-  /// Lets switching on and off take time, none at first. Meanwhile the projector warms up, which
-  /// reads as on, or cools down, and refuses to be switched.
+  /// Sets how long switching on and off takes; no time at first. While the projector warms up,
+  /// which reads as on, or cools down, it refuses to be switched.
   void SetPowerTimes(std::chrono::milliseconds warmUp, std::chrono::milliseconds coolDown);
-  /// Nothing while switching takes no time.
+  /// Nothing if switching takes no time.
   std::optional<PowerState> Power() const override;
 
   /// The settings this projector has, in the table's order. Does not change.

@@ -19,7 +19,7 @@ namespace AdvancedControl {
 /// should answer at once.
 class PROJECTOR_COMMON_EXPORT WireServer {
  public:
-  /// Of the port, at once; see `TcpListener` for further ones.
+  /// Connections that the port serves at once; see `TcpListener` for further ones.
   static constexpr int kMaximumConnections = 8;
 
   explicit WireServer(std::shared_ptr<ProjectorChannel> projector);

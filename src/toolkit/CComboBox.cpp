@@ -4,6 +4,7 @@
 
 #include <QAbstractItemView>
 #include <QScrollBar>
+#include <QStandardItemModel>
 #include <QStyleOption>
 #include <QWheelEvent>
 
@@ -28,6 +29,18 @@ void CComboBox::Add(const QString& text, int value) {
   const bool first = count() == 0;
   addItem(text, value);
   if (first) setCurrentIndex(-1);
+}
+
+void CComboBox::Fill(const std::vector<std::pair<QString, int>>& entries) {
+  clear();
+  QList<QStandardItem*> items;
+  items.reserve(static_cast<qsizetype>(entries.size()));
+  for (const auto& [text, value] : entries) {
+    items.append(new QStandardItem(text));
+    items.last()->setData(value, Qt::UserRole);
+  }
+  static_cast<QStandardItemModel*>(model())->invisibleRootItem()->appendRows(items);
+  setCurrentIndex(-1);
 }
 
 void CComboBox::Select(int position) {

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <optional>
+#include <utility>
+#include <vector>
 
 #include <QComboBox>
 
@@ -22,6 +24,9 @@ class ADVANCED_CONTROL_EXPORT CComboBox : public QComboBox {
   void Add(const QString& text) { Add(text, count()); }
   /// Adds an entry with a value.
   void Add(const QString& text, int value);
+
+  /// Replaces the entries with these texts and values; faster than adding each one.
+  void Fill(const std::vector<std::pair<QString, int>>& entries);
 
   /// Selects the entry at a position, or none if the position is outside the list.
   void Select(int position);

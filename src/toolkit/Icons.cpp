@@ -3,14 +3,11 @@
 #include <algorithm>
 
 #include <QDialogButtonBox>
-#include <QGuiApplication>
-#include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
-#include <QPalette>
 #include <QPushButton>
 
-#include "toolkit/Contrast.h"
+#include "toolkit/PaintedIcon.h"
 
 namespace AdvancedControl {
 
@@ -85,7 +82,7 @@ void DrawSign(QPainter& painter, const Design& design) {
   }
 }
 
-class DrawnIcon final : public QIconEngine {
+class DrawnIcon final : public PaintedIcon {
  public:
   explicit DrawnIcon(IconName name) : name_(name) {}
 
@@ -99,23 +96,13 @@ class DrawnIcon final : public QIconEngine {
     if (design.color.isValid()) {
       DrawSign(*painter, design);
     } else {
-      const QPalette palette = WithReadableDisabledTexts(QGuiApplication::palette());
-      const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
       if (name_ == IconName::Reset) {  // runs counter-clockwise
         painter->translate(1, 0);
         painter->scale(-1, 1);
       }
-      DrawTurn(*painter, palette.color(group, QPalette::ButtonText));
+      DrawTurn(*painter, TextColor(mode));
     }
     painter->restore();
-  }
-
-  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-    QPixmap pixmap(size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    paint(&painter, pixmap.rect(), mode, state);
-    return pixmap;
   }
 
   QIconEngine* clone() const override { return new DrawnIcon(name_); }

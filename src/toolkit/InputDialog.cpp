@@ -2,8 +2,8 @@
 
 #include <utility>
 
+#include <QAbstractButton>
 #include <QKeyEvent>
-#include <QPushButton>
 
 #include "toolkit/InputGate.h"
 
@@ -43,8 +43,9 @@ void InputDialog::keyPressEvent(QKeyEvent* event) {
     event->ignore();
     return;
   }
-  auto* button = qobject_cast<QPushButton*>(focusWidget());
-  if (button != nullptr && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
+  auto* button = qobject_cast<QAbstractButton*>(focusWidget());
+  const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (isEnter && button != nullptr && !button->isCheckable()) {
     if (!event->isAutoRepeat()) button->click();
   } else {
     TemplateDialog::keyPressEvent(event);

@@ -11,7 +11,7 @@ namespace AdvancedControl {
 
 namespace {
 
-// Instance events that begin an action. Events that end one, such as a release, must reach the
+// Events that begin an action. Events that end one, such as a release, must reach the
 // control where it began.
 bool IsInput(const QEvent& event) {
   switch (event.type()) {

@@ -16,7 +16,13 @@ void LineLabel::changeEvent(QEvent* event) {
   if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
     measured_ = {};
   }
+  if (event->type() == QEvent::LayoutDirectionChange) AlignToStart(*this);
   QLabel::changeEvent(event);
+}
+
+void LineLabel::AlignToStart(QLabel& label) {
+  label.setAlignment(Qt::AlignVCenter | Qt::AlignAbsolute |
+                     (label.isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));
 }
 
 }  // namespace AdvancedControl

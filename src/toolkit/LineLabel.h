@@ -6,13 +6,19 @@
 
 namespace AdvancedControl {
 
-/// A one-line label that measures its text once; QLabel would lay it out three times.
-/// User-interface thread only.
+/// A one-line label that measures its text once; QLabel would lay it out three times. Its text
+/// starts at the side where the layout starts, whatever the text's own direction. User-interface
+/// thread only.
 class LineLabel : public QLabel {
  public:
   LineLabel(const QString& text, QWidget* parent) : QLabel(text, parent) {
     setTextFormat(Qt::PlainText);
+    if (isRightToLeft()) AlignToStart(*this);
   }
+
+  /// Aligns a label with the side where its layout starts; QLabel follows the direction of its
+  /// text.
+  static void AlignToStart(QLabel& label);
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override { return sizeHint(); }

@@ -1,17 +1,18 @@
 #include "toolkit/TemplateControls.h"
 
 #include <algorithm>
+#include <string_view>
 #include <utility>
 
 #include <QCheckBox>
 #include <QGridLayout>
-#include <QLineEdit>
 #include <QPushButton>
 
 #include "toolkit/CComboBox.h"
 #include "toolkit/CSliderCtrl.h"
 #include "toolkit/CTabCtrl.h"
 #include "toolkit/LineLabel.h"
+#include "toolkit/NumberField.h"
 #include "toolkit/StateLabel.h"
 
 namespace AdvancedControl {
@@ -42,18 +43,14 @@ QPushButton* MakeSmallButton(const QString& caption, QWidget* parent) {
   return button;
 }
 
-QLineEdit* MakeField(QWidget* parent) {
-  auto* field = new QLineEdit(parent);
-  field->setReadOnly(true);
-  field->setFocusPolicy(Qt::ClickFocus);
-  field->setAlignment(Qt::AlignRight);
-  field->setFixedWidth(field->fontMetrics().horizontalAdvance(QStringLiteral("-00000")) + 16);
-  return field;
-}
-
 CComboBox* MakeCombo(std::span<const char* const> entries, QWidget* parent) {
   auto* combo = new CComboBox(parent);
-  for (const char* entry : entries) combo->Add(QString::fromUtf8(entry));
+  std::vector<std::pair<QString, int>> texts;
+  texts.reserve(entries.size());
+  for (const char* entry : entries) {
+    texts.emplace_back(QString::fromUtf8(entry), static_cast<int>(texts.size()));
+  }
+  combo->Fill(texts);
   return combo;
 }
 
@@ -113,7 +110,7 @@ QWidget* MakeControl(const ControlTemplate& control, QWidget* parent) {
       return slider;
     }
     case ControlKind::Field:
-      return MakeField(parent);
+      return new NumberField(parent);
     case ControlKind::Combo:
       return MakeCombo(control.entries, parent);
     case ControlKind::Button:
@@ -184,10 +181,12 @@ void PlaceRow(const RowTemplate& row, const std::vector<QWidget*>& controls, QGr
     }
   }
   if (together.empty()) return;
-  const bool arrows = Has(row, ControlKind::Arrow);
+  const auto arrow = std::ranges::find(row.controls, ControlKind::Arrow, &ControlTemplate::kind);
+  const bool hasArrows = arrow != row.controls.end();
   // The left arrow stays left in a mirrored layout.
-  if (arrows && together.front()->isRightToLeft()) std::swap(together[0], together[1]);
-  PlaceTogether(together, grid, gridRow, arrows ? RowColumn::Slider : RowColumn::Minus);
+  const bool isLeft = hasArrows && std::string_view(arrow->caption) == "←";
+  if (isLeft && together.front()->isRightToLeft()) std::swap(together[0], together[1]);
+  PlaceTogether(together, grid, gridRow, hasArrows ? RowColumn::Slider : RowColumn::Minus);
 }
 
 }  // namespace AdvancedControl

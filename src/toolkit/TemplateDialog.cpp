@@ -2,27 +2,24 @@
 
 #include <algorithm>
 #include <utility>
+#include <vector>
 
 #include <QEvent>
-#include <QFontMetrics>
-#include <QGridLayout>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "toolkit/CComboBox.h"
 #include "toolkit/Contrast.h"
 #include "toolkit/FittedScroll.h"
 #include "toolkit/Flash.h"
 #include "toolkit/ResourceModule.h"
 #include "toolkit/TemplateControls.h"
+#include "toolkit/TemplateRows.h"
 
 namespace AdvancedControl {
 
 namespace {
-
-constexpr int kColumnGap = 32;
-constexpr int kShortestList = 70;  // in dialog units
 
 bool HoldsTab(const RowTemplate& row) {
   return std::ranges::any_of(row.controls,
@@ -55,174 +52,62 @@ void AssignMnemonics(const TemplateDialog& dialog) {
 }  // namespace
 
 TemplateDialog::TemplateDialog(int templateNumber, CWnd* parent)
-    : QDialog(parent), templateNumber_(templateNumber) {}
+    : QDialog(parent),
+      templateNumber_(templateNumber),
+      rows_(std::make_unique<TemplateRows>(*this)) {}
+
+TemplateDialog::~TemplateDialog() = default;
 
 bool TemplateDialog::BuildControls() {
   // If the dialog ran before, the controls of that run still exist.
   for (const auto& [id, control] : std::exchange(controls_, {})) delete control;
-  rows_.clear();
-  delete layout();
-  delete scroll_;
+  rows_->Clear();
 
   template_ = ResourceChain::FindDialog(templateNumber_);
   if (template_ == nullptr) return false;
-  MakeDisabledTextsReadable();
   setWindowTitle(QString::fromUtf8(template_->caption));
   for (const RowTemplate& row : template_->rows) {
-    PlacedRow placed{};
+    std::vector<QWidget*> controls;
     for (const ControlTemplate& control : row.controls) {
       if (control.kind == ControlKind::None) break;
       QWidget* widget = MakeControl(control, this);
-      placed.controls.push_back(widget);
+      controls.push_back(widget);
       controls_[control.id] = widget;
     }
-    rows_.push_back(std::move(placed));
+    rows_->Add(std::move(controls));
   }
   // A dialog with tabs lays out its pages and controls itself.
-  if (std::ranges::none_of(template_->rows, HoldsTab)) CreateLayout();
+  if (std::ranges::none_of(template_->rows, HoldsTab)) rows_->Arrange();
   return true;
 }
 
-// Only for a window, because its pages inherit its palette.
+// Done when shown, because setting a palette costs time for each control, and most pages are never
+// shown. A dialog with tabs has nothing of its own to disable.
 void TemplateDialog::MakeDisabledTextsReadable() {
-  if (!isWindow()) return;
+  if (!isVisible() || template_ == nullptr || layout() == nullptr) return;
   const QPalette readable = WithReadableDisabledTexts(palette());
   if (readable != palette()) setPalette(readable);
 }
 
 void TemplateDialog::changeEvent(QEvent* event) {
   QDialog::changeEvent(event);
-  if (event->type() == QEvent::PaletteChange && template_ != nullptr) MakeDisabledTextsReadable();
+  if (event->type() == QEvent::PaletteChange) MakeDisabledTextsReadable();
 }
 
-void TemplateDialog::CreateLayout() {
-  auto* columns = new QHBoxLayout(this);
-  columns->setContentsMargins(isWindow() ? 16 : 0, isWindow() ? 12 : 0, isWindow() ? 16 : 0,
-                              isWindow() ? 12 : 0);
-  columns->setSpacing(isWindow() ? kColumnGap : 0);
-  if (isWindow()) columns->setSizeConstraint(QLayout::SetFixedSize);  // follows absent rows
-  QGridLayout* const left = MakeRowColumns(*this);
-  columns->addLayout(left, 1);
-  // A page has two columns even if it uses only one, so that rows are at the same place on all
-  // tabs.
-  QGridLayout* const right = isWindow() ? nullptr : MakeRowColumns(*this);
-  if (right != nullptr) {
-    columns->addSpacing(kColumnGap);  // also beside an empty column
-    columns->addLayout(right, 1);
-  }
-  int leftRow = 0;
-  int rightRow = 0;
-  bool stretched = false;
-  for (std::size_t i = 0; i < rows_.size(); ++i) {
-    const RowTemplate& row = template_->rows[i];
-    if (row.place == RowPlace::Bottom && !stretched) {
-      left->setRowStretch(leftRow++, 1);
-      stretched = true;
-    }
-    PlacedRow& placed = rows_[i];
-    placed.grid = row.place == RowPlace::Right && right != nullptr ? right : left;
-    placed.gridRow = placed.grid == left ? leftRow++ : rightRow++;
-    PlaceRow(row, placed.controls, placed.grid, placed.gridRow);
-  }
-  if (!stretched) left->setRowStretch(leftRow++, 1);
-  if (right != nullptr) {
-    right->setRowStretch(rightRow, 1);
-  } else {
-    // Absent rows reduce a window's height, but its width stays at least that of the template.
-    const QMargins margins = layout()->contentsMargins();
-    const int width = FromDialogUnits(template_->width, 0).width();
-    left->addItem(new QSpacerItem(width - margins.left() - margins.right(), 0), leftRow, 0, 1,
-                  RowColumn::Count);
-  }
+void TemplateDialog::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  MakeDisabledTextsReadable();
 }
 
 void TemplateDialog::FinishLayout() {
   UpdateRows();
   AssignMnemonics(*this);
-  FitToScreen();
+  rows_->FitToScreen();
 }
 
-void TemplateDialog::UpdateRows() {
-  pitch_ = FromDialogUnits(0, template_->rulerHeight).height();
-  int buttonWidth = 0;
-  for (const PlacedRow& row : rows_) {
-    if (!row.present) continue;
-    for (const QWidget* control : row.controls) {
-      pitch_ = std::max(pitch_, control->sizeHint().height() + 2);
-    }
-  }
-  std::vector<QWidget*> buttons;
-  for (const RowTemplate& row : template_->rows) {
-    for (const ControlTemplate& control : row.controls) {
-      if (control.kind != ControlKind::Button && control.kind != ControlKind::Close) continue;
-      buttons.push_back(GetDlgItem(control.id));
-      buttonWidth = std::max(buttonWidth, buttons.back()->sizeHint().width());
-    }
-  }
-  for (QWidget* button : buttons) button->setMinimumWidth(buttonWidth);
-  ShareListWidths();
-  for (const PlacedRow& row : rows_) {
-    if (row.grid != nullptr) row.grid->setRowMinimumHeight(row.gridRow, row.present ? pitch_ : 0);
-  }
-}
+void TemplateDialog::UpdateRows() { rows_->Update(); }
 
-// The lists of a column are as wide as the widest of them, so that their ends and the buttons
-// beside them are aligned.
-void TemplateDialog::ShareListWidths() {
-  const int least = FromDialogUnits(kShortestList, 0).width();
-  std::unordered_map<const QGridLayout*, std::vector<CComboBox*>> columns;
-  for (const PlacedRow& row : rows_) {
-    if (!row.present) continue;
-    for (QWidget* control : row.controls) {
-      if (auto* list = qobject_cast<CComboBox*>(control)) columns[row.grid].push_back(list);
-    }
-  }
-  for (const auto& [grid, lists] : columns) {
-    int width = least;
-    for (const CComboBox* list : lists) width = std::max(width, list->sizeHint().width());
-    for (CComboBox* list : lists) list->setMinimumWidth(width);
-  }
-}
-
-void TemplateDialog::ShareCaptionWidths(std::span<TemplateDialog* const> dialogs) {
-  for (const RowPlace place : {RowPlace::Left, RowPlace::Right}) {
-    int width = 0;
-    std::vector<QGridLayout*> columns;
-    for (TemplateDialog* dialog : dialogs) {
-      for (std::size_t i = 0; i < dialog->rows_.size(); ++i) {
-        const PlacedRow& row = dialog->rows_[i];
-        const RowTemplate& line = dialog->template_->rows[i];
-        const bool isRight = line.place == RowPlace::Right;
-        if (!row.present || row.grid == nullptr || isRight != (place == RowPlace::Right)) continue;
-        if (line.controls.front().kind != ControlKind::Label) continue;
-        width = std::max(width, row.controls.front()->sizeHint().width());
-        if (columns.empty() || columns.back() != row.grid) columns.push_back(row.grid);
-      }
-    }
-    for (QGridLayout* column : columns) column->setColumnMinimumWidth(RowColumn::Label, width);
-  }
-}
-
-// A pop-up that is too large for the screen scrolls its rows; Close stays visible.
-void TemplateDialog::FitToScreen() {
-  if (!isWindow() || layout() == nullptr || scroll_ != nullptr) return;
-  const QSize wanted = layout()->totalSizeHint();
-  if (wanted == wanted.boundedTo(AvailableSize(*this))) return;
-  auto* rows = new QWidget(this);
-  rows->setLayout(layout());  // also moves the controls
-  auto* frame = new QVBoxLayout(this);
-  frame->addWidget(scroll_ = new FittedScroll(rows, this));
-  for (std::size_t i = 0; i < rows_.size(); ++i) {
-    const ControlTemplate& close = template_->rows[i].controls.front();
-    if (close.kind != ControlKind::Close) continue;
-    rows_[i].grid->setRowMinimumHeight(rows_[i].gridRow, 0);
-    rows_[i].grid = nullptr;
-    frame->addWidget(GetDlgItem(close.id), 0, Qt::AlignRight);
-  }
-  frame->activate();
-  const QSize outside = frame->totalSizeHint() - scroll_->sizeHint();
-  resize(FittedToScreen(*this, rows->layout()->totalSizeHint() + outside));
-}
+bool TemplateDialog::IsScrolled() const { return rows_->AreScrolled(); }
 
 bool TemplateDialog::AcceptsInputWhileBusy(const QWidget& target) const {
   for (const QWidget* part = &target; part != nullptr && part != this;
@@ -247,26 +132,14 @@ void TemplateDialog::NoSuchControl(int id) const {
   qFatal("dialog %d has no control %d of the kind asked for", templateNumber_, id);
 }
 
-TemplateDialog::PlacedRow* TemplateDialog::RowOf(int id) {
-  QWidget* control = GetDlgItem(id);
-  const auto row = std::ranges::find_if(rows_, [control](const PlacedRow& candidate) {
-    return std::ranges::find(candidate.controls, control) != candidate.controls.end();
-  });
-  return control == nullptr || row == rows_.end() ? nullptr : &*row;
-}
-
 void TemplateDialog::ShowRow(int id, bool present) {
-  PlacedRow* row = RowOf(id);
-  if (row == nullptr) NoSuchControl(id);
-  row->present = present;
-  for (QWidget* control : row->controls) control->setVisible(present);
-  if (row->grid != nullptr) row->grid->setRowMinimumHeight(row->gridRow, present ? pitch_ : 0);
+  if (!rows_->Show(GetDlgItem(id), present)) NoSuchControl(id);
 }
 
-QRect TemplateDialog::RowRect(int id) {
+QRect TemplateDialog::RowRect(int id) const {
   QRect rect;
-  if (const PlacedRow* row = RowOf(id); row != nullptr) {
-    for (const QWidget* control : row->controls) rect = rect.united(control->geometry());
+  for (const QWidget* control : rows_->ControlsBeside(GetDlgItem(id))) {
+    rect = rect.united(control->geometry());
   }
   return rect;
 }
@@ -282,12 +155,10 @@ void TemplateDialog::Highlight(int id) {
 }
 
 void TemplateDialog::GreyCaption(int id) {
-  const PlacedRow* row = RowOf(id);
-  if (row == nullptr) return;
   std::vector<QWidget*> captions;
   bool operable = false;
   bool enabled = false;
-  for (QWidget* control : row->controls) {
+  for (QWidget* control : rows_->ControlsBeside(GetDlgItem(id))) {
     if (qobject_cast<QLabel*>(control) != nullptr) {
       captions.push_back(control);
     } else if (qobject_cast<QLineEdit*>(control) == nullptr && !control->isHidden()) {
@@ -301,38 +172,15 @@ void TemplateDialog::GreyCaption(int id) {
 
 void TemplateDialog::ShowNotice(const QString& text) {
   auto* notice = new QLabel(text, this);
-  notice->setMinimumHeight(
-      FromDialogUnits(0, template_->rulerHeight).height());  // as high as a row
   controls_[kNoticeId] = notice;
-  auto* left = static_cast<QGridLayout*>(layout()->itemAt(0)->layout());
-  left->addWidget(notice, 0, 0, 1, RowColumn::Count, Qt::AlignTop | Qt::AlignLeft);
+  rows_->PlaceNotice(*notice);
 }
 
-void TemplateDialog::PlaceBesideClose(QWidget& widget) {
-  for (std::size_t i = 0; i < rows_.size(); ++i) {
-    if (template_->rows[i].controls.front().kind != ControlKind::Close) continue;
-    rows_[i].grid->addWidget(&widget, rows_[i].gridRow, RowColumn::Label, 1, RowColumn::Count,
-                             Qt::AlignVCenter | Qt::AlignLeft);
-  }
-}
-
-QSize TemplateDialog::FromDialogUnits(int width, int height) const {
-  // Cached per font, because shaping the alphabet takes longer than creating several controls.
-  static QString measuredFont;
-  static QSize base;
-  if (const QString key = font().key(); key != measuredFont) {
-    const QFontMetrics metrics(font());
-    const int alphabet = metrics.horizontalAdvance(
-        QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz"));
-    base = {(alphabet / 26 + 1) / 2, metrics.height()};
-    measuredFont = key;
-  }
-  return {width * base.width() / 4, height * base.height() / 8};
-}
+void TemplateDialog::PlaceBesideClose(QWidget& widget) { rows_->PlaceBesideClose(widget); }
 
 QSize TemplateDialog::DialogSize() const {
   QSize size =
-      template_ != nullptr ? FromDialogUnits(template_->width, template_->height) : QSize();
+      template_ != nullptr ? FromDialogUnits(*this, template_->width, template_->height) : QSize();
   if (layout() != nullptr) size = size.expandedTo(layout()->totalSizeHint());
   return size;
 }

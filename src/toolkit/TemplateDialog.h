@@ -1,29 +1,29 @@
 #pragma once
 
-#include <span>
+#include <memory>
 #include <unordered_map>
-#include <vector>
 
 #include <QDialog>
-#include <QPointer>
 
 #include "AdvancedControlExport.h"
 #include "Namespace.h"
 #include "toolkit/CWnd.h"
 #include "toolkit/DialogTemplate.h"
 
-class QGridLayout;
-
 namespace AdvancedControl {
 
-/// A dialog laid out by a numbered template: makes the controls, finds them by number, and gives
-/// all present rows the same pitch. User-interface thread only.
+class TemplateRows;
+
+/// A dialog laid out by a numbered template: makes the controls, finds them by number, and
+/// shows or removes their rows. User-interface thread only.
 class ADVANCED_CONTROL_EXPORT TemplateDialog : public QDialog {
   Q_OBJECT
 
  public:
   /// Number of the sentence that `ShowNotice` shows.
   static constexpr int kNoticeId = -1;
+
+  ~TemplateDialog() override;
 
   int TemplateNumber() const { return templateNumber_; }
   /// The template the controls were built from; null before that.
@@ -50,9 +50,7 @@ class ADVANCED_CONTROL_EXPORT TemplateDialog : public QDialog {
   /// Shows or removes the row that holds this control; the rows below close the gap.
   void ShowRow(int id, bool present);
 
-  /// Gives the captions of all these dialogs the same width, the left columns and the right columns
-  /// each, so that controls keep their place when the dialogs change. Absent rows do not count.
-  static void ShareCaptionWidths(std::span<TemplateDialog* const> dialogs);
+  const TemplateRows& Rows() const { return *rows_; }
 
   /// Scrolls a control's row into view and highlights it for a few seconds.
   void Highlight(int id);
@@ -73,10 +71,10 @@ class ADVANCED_CONTROL_EXPORT TemplateDialog : public QDialog {
 
   const std::unordered_map<int, QWidget*>& Controls() const { return controls_; }
   /// Whether the rows scroll because they do not fit on the screen.
-  bool IsScrolled() const { return scroll_ != nullptr; }
+  bool IsScrolled() const;
 
   /// The rectangle of a control's row, from its first control to its last.
-  QRect RowRect(int id);
+  QRect RowRect(int id) const;
 
   /// Greys the captions of a control's row if none of its controls can be operated.
   void GreyCaption(int id);
@@ -85,34 +83,19 @@ class ADVANCED_CONTROL_EXPORT TemplateDialog : public QDialog {
   void ShowNotice(const QString& text);
 
   void changeEvent(QEvent* event) override;
+  void showEvent(QShowEvent* event) override;
 
   /// Places a widget in the row of Close, at the opposite side.
   void PlaceBesideClose(QWidget& widget);
 
-  /// Dialog units to device-independent pixels, in the dialog's font.
-  QSize FromDialogUnits(int width, int height) const;
-
  private:
-  struct PlacedRow {
-    QGridLayout* grid;
-    int gridRow;
-    bool present = true;
-    std::vector<QWidget*> controls;
-  };
-
   [[noreturn]] void NoSuchControl(int id) const;
-  PlacedRow* RowOf(int id);
-  void CreateLayout();
   void MakeDisabledTextsReadable();
-  void ShareListWidths();
-  void FitToScreen();
 
   int templateNumber_;
   const DialogTemplate* template_ = nullptr;
-  QPointer<QWidget> scroll_;  // scrolls the rows of a window that is too large for the screen
-  int pitch_ = 0;             // height of the present rows, in pixels
   std::unordered_map<int, QWidget*> controls_;
-  std::vector<PlacedRow> rows_;  // in the template's order
+  std::unique_ptr<TemplateRows> rows_;
 };
 
 }  // namespace AdvancedControl

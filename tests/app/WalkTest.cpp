@@ -100,6 +100,7 @@ class Walk {
     } else if (choice == 11) {
       QTest::keyClick(&dialog, Qt::Key_F, Qt::ControlModifier);
       auto* line = dialog.findChild<FindLine*>();
+      if (line == nullptr) return;  // the dialog took no input
       QTest::keyClicks(line, QStringLiteral("r"));
       QTest::keyClick(line, Qt::Key_Return);
     } else {

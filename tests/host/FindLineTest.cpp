@@ -20,9 +20,16 @@ bool IsHighlighted(const CDialog& dialog, int control) {
 struct Finding : testing::Test {
   OpenDialog open{FullModel(5, 30), 0,
                   [](RecordingChannel& projector) { projector.Refuse("Get 0x2004"); }};
-  FindLine& line = *open.Dialog().findChild<FindLine*>();
+  FindLine& line = Made();
   QTabBar& tabs = *open.Dialog().findChild<QTabBar*>();
 
+  // The line is made by the first search.
+  FindLine& Made() {
+    QTest::keyClick(&open.Dialog(), Qt::Key_F, Qt::ControlModifier);
+    auto& made = *open.Dialog().findChild<FindLine*>();
+    QTest::keyClick(&made, Qt::Key_Escape);
+    return made;
+  }
   void Find(const char* text, const std::vector<Qt::Key>& keys) {
     QTest::keyClick(&open.Dialog(), Qt::Key_F, Qt::ControlModifier);
     QTest::keyClicks(&line, QString::fromUtf8(text));

@@ -92,6 +92,18 @@ TEST_F(PendingInputTest, IsCarriedOutInOrder) {
   }
 }
 
+TEST_F(PendingInputTest, IsShownUntilTheLastPressIsAnswered) {
+  Open(kPictureTab);
+  const int start = Page().SliderAt(kSlider);
+  std::vector<int> shown;
+  QObject::connect(&Page().Item<QLineEdit>(kField), &QLineEdit::textChanged, &dialog_,
+                   [&](const QString& text) { shown.push_back(text.toInt()); });
+  SentBy([this] {
+    for (int i = 0; i < 3; ++i) Page().Click(kPlus);
+  });
+  EXPECT_THAT(shown, testing::ElementsAre(start + 2, start + 3, start + 4));
+}
+
 TEST_F(PendingInputTest, IsDroppedByAnythingElse) {
   const std::pair<const char*, std::function<void()>> cases[] = {
       {"another row", [this] { Page().Click(kContrastPlus); }},

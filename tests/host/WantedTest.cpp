@@ -23,7 +23,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr int kPictureTab = 1, kOtherTab = 8;
+constexpr int kPictureTab = 1, kOptionTab = 7, kOtherTab = 8;
 constexpr int kBrightness = 20136, kIris = 20293, kContrast = 20138;
 
 std::string StripText(CAdvanceDlg& dialog) {
@@ -152,6 +152,23 @@ TEST_F(WantedTest, MarksWhatDiffersAndSetsIt) {
   EXPECT_THAT(Differing(), IsEmpty());
   EXPECT_EQ(Tab(), QStringLiteral("Picture"));
   EXPECT_FALSE(brightness.toolTip().contains(QStringLiteral("Wanted")));
+}
+
+TEST_F(WantedTest, CountsPagesThatWereNotReadAsTheHostLastSawThem) {
+  const auto tab = [this](int index) {
+    return open.Dialog().findChild<QTabBar*>()->tabText(index);
+  };
+  wanted.settings.push_back({.key = "option.auto-off", .value = 5, .text = {}});
+  open.Dialog().SetWanted(wanted);
+  EXPECT_EQ(tab(kOptionTab), QStringLiteral("Option")) << "nothing is known";
+  Snapshot seen = wanted;
+  for (SavedSetting& setting : seen.settings) setting.value = 1;
+  open.Dialog().SetLastSeen(seen);
+  EXPECT_EQ(tab(kOptionTab), QStringLiteral("Option (1?)"));
+  EXPECT_EQ(Tab(), QStringLiteral("Picture (2)")) << "this one was read";
+  EXPECT_THAT(open.Projector().Take(), IsEmpty());
+  open.SelectTab(kOptionTab);
+  EXPECT_EQ(tab(kOptionTab), QStringLiteral("Option (1)"));
 }
 
 }  // namespace

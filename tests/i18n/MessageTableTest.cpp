@@ -84,6 +84,22 @@ TEST(MessageTable, LowerResourceComesFirst) {
   EXPECT_EQ(TextIn(*table, 1033, 2), "only here");
 }
 
+TEST(MessageTable, MarksEnglishTextsThatEveryLanguageHas) {
+  const auto table = MessageTable::Parse(
+      TestModule(
+          {{1031, {{2, {Ansi("two"), Ansi("drei"), Ansi("four")}}, {6, {Ansi("six")}}}},
+           {1033,
+            {{1, {Ansi("one"), Ansi("two"), Ansi("three"), Ansi("four")}}, {6, {Ansi("six")}}}},
+           {1036, {{1, {Ansi("one")}}, {4, {Ansi("quatre"), Ansi("cinq"), Ansi("six")}}}}})
+          .bytes);
+  ASSERT_TRUE(table);
+  std::vector<std::uint32_t> same;
+  for (const std::uint32_t id : {1, 2, 3, 4, 6}) {
+    if (table->FindEnglish(id)->sameEverywhere) same.push_back(id);
+  }
+  EXPECT_EQ(same, (std::vector<std::uint32_t>{1, 2, 6}));
+}
+
 // Texts in an ANSI code page differ by language, although the bytes are the same.
 TEST(MessageTable, LanguagesWithTheSameTableShareItsUnicodeTexts) {
   const auto parse = [](const TestEntry& entry) {

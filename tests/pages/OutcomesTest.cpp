@@ -4,11 +4,13 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <QTabBar>
 #include <gtest/gtest.h>
 
 #include "pages/common/StatusLine.h"
 #include "pages/rows/RowMarks.h"
 #include "tests/support/DialogDriver.h"
+#include "toolkit/CSliderCtrl.h"
 
 namespace {
 
@@ -19,11 +21,12 @@ std::string Said(const CDialog& dialog) {
   return dialog.window()->findChild<StatusLine*>()->findChild<QLabel*>()->text().toStdString();
 }
 
+// The rows of the shown page that are marked as refused.
 std::vector<int> Marked(const CDialog& dialog) {
   std::vector<int> controls;
-  if (const auto* marks = dialog.window()->findChild<RowMarks*>()) {
+  for (const auto* marks : dialog.window()->findChildren<RowMarks*>()) {
     for (const RowMarks::Mark& mark : marks->Shown()) {
-      if (mark.refused) controls.push_back(mark.control);
+      if (mark.refused && marks->isVisible()) controls.push_back(mark.control);
     }
   }
   return controls;
@@ -86,11 +89,75 @@ constexpr Case kCases[] = {
      "Lamp Time reset"},
     {"without a result", 5, 30, 4, [](const DialogDriver& page) { page.Click(20305); }, nullptr,
      "Sent: Auto Keystone"},
+    {"with a unit", 5, 30, 7, [](const DialogDriver& page) { page.Drag(20369, 5); },
+     "SetAutoPowerOff", "Not accepted: Auto Off 5\u00a0min. The projector has 0\u00a0min.", 20369},
     {"only shown", 1, 1, 4, [](const DialogDriver& page) { page.Choose(21061, 1); }, nullptr,
      "This setting is only shown here. A choice is not sent."},
 };
 
 INSTANTIATE_TEST_SUITE_P(Rows, Outcomes, testing::ValuesIn(kCases));
+
+TEST(Outcomes, OfAnEntryWhoseValueAnotherOneHasToo) {
+  CModelInfo2 model = MakeModel(1, 1);
+  for (const int value : {0, 1, 1, 2}) AddEntry(model.AspectList, value, "aspect");
+  OpenDialog open(model, 1);
+  open.Projector().Answer("Get 0x2008", 1);
+  for (const int position : {2, 3}) {
+    open.Driver().Choose(20108, position);
+    EXPECT_EQ(Marked(open.Page()).size(), position == 3) << "it reads 1: " << Said(open.Page());
+  }
+}
+
+void Operate(const DialogDriver& driver, QWidget& control, int id) {
+  if (const auto* list = qobject_cast<CComboBox*>(&control)) {
+    driver.Choose(id, list->currentIndex() == 0 ? list->count() - 1 : 0);
+  } else if (const auto* slider = qobject_cast<CSliderCtrl*>(&control)) {
+    driver.Drag(id, slider->value() == slider->minimum() ? slider->maximum() : slider->minimum());
+  } else {
+    driver.Click(id);
+  }
+}
+
+// Operates a control twice; the second time the projector refuses what was sent the first time.
+void ExpectARefusalIsTold(OpenDialog& open, MessageBoxes& boxes, QWidget& control, int id) {
+  const auto nameOf = [](const std::string& change) { return change.substr(0, change.find(' ')); };
+  open.Projector().Take();
+  Operate(open.Driver(), control, id);
+  const auto changes = open.Projector().TakeChanges();
+  boxes.Take();
+  for (const std::string& change : changes) open.Projector().Refuse(nameOf(change));
+  open.Page().InitDisp();
+  const auto refused = [&open] { return open.Dialog().Projector().Sent().refused; };
+  const int before = refused();
+  Operate(open.Driver(), control, id);
+  if (refused() > before) {  // not known of operations without a result
+    EXPECT_TRUE(!boxes.Take().empty() || !Said(open.Page()).empty());
+    EXPECT_THAT(Marked(open.Page()), testing::Not(IsEmpty()));
+  }
+  for (const std::string& change : changes) open.Projector().Accept(nameOf(change));
+  open.Page().InitDisp();
+}
+
+TEST(Outcomes, OfEveryRefusedActAreToldAndMarked) {
+  using enum ControlKind;
+  for (const auto& [type, code] : {std::pair{1, 1}, {2, 14}, {3, 10}, {4, 9}, {5, 53}}) {
+    OpenDialog open(FullModel(type, code));
+    MessageBoxes boxes(true);
+    for (int tab = 0; tab < open.Dialog().findChild<QTabBar*>()->count(); ++tab) {
+      open.SelectTab(tab);
+      for (const RowTemplate& row : open.Page().Template()->rows) {
+        for (const auto& [kind, id, caption, entries] : row.controls) {
+          QWidget* control = open.Page().GetDlgItem(id);
+          const bool opensPopUp = std::string_view(caption).ends_with("...");
+          if (kind <= Text || kind == Field || opensPopUp) continue;
+          if (!control->isVisible() || !control->isEnabled()) continue;
+          SCOPED_TRACE("type " + std::to_string(type) + ": " + NameOf(*control));
+          ExpectARefusalIsTold(open, boxes, *control, id);
+        }
+      }
+    }
+  }
+}
 
 TEST(OutcomesOfPopUps, AreSaidInThePopUp) {
   OpenDialog open(FullModel(5, 30));

@@ -216,6 +216,10 @@ TEST(Setup5, ArrowButtonsShowAPictureAndKeepTheirSignAsTheirName) {
   const Type5Page page(kSetupTab, 44);
   const auto& left = page.driver.Item<QAbstractButton>(20334);
   EXPECT_LT(left.x(), page.driver.Item<QAbstractButton>(20350).x()) << "also where all is mirrored";
+  const auto& up = page.driver.Item<QAbstractButton>(20335);
+  EXPECT_TRUE(page.driver.Item<QLabel>(20612).alignment().testFlag(Qt::AlignRight))
+      << "its text, H, runs from left to right";
+  EXPECT_GT(up.x(), page.driver.Item<QAbstractButton>(20336).x()) << "up comes first";
   QGuiApplication::setLayoutDirection(Qt::LeftToRight);
   // A point that the arrow covers, and its mirror image, which stays blank.
   for (const auto& [id, name, ink, blank] :

@@ -97,6 +97,23 @@ TEST_F(FleetSimulator, ProjectorsDifferAndAreTheSameForTheSameSeed) {
   EXPECT_NE(everything(), first);
 }
 
+TEST_F(FleetSimulator, SomeHaveEachKindOfError) {
+  constexpr std::size_t kMany = 400;
+  Start({"--fleet", QString::number(kMany)});
+  const std::string none = "%1ERST=000000";
+  std::set<std::size_t> kinds;
+  std::size_t wrong = 0;
+  for (std::size_t i = 0; i < kMany; ++i) {
+    const std::string answer = Ask(AddressOf(i), "%1ERST ?");
+    if (answer == none) continue;
+    ++wrong;
+    kinds.insert(answer.find_first_of("12", none.find('0')));
+  }
+  EXPECT_EQ(kinds.size(), 6U) << "fan, lamp, temperature, cover, filter, other";
+  EXPECT_GT(wrong, kMany / 20);
+  EXPECT_LT(wrong, kMany / 8);
+}
+
 TEST_F(FleetSimulator, AnswersOnTheWireToo) {
   Start({});
   QTcpSocket wire;
@@ -132,6 +149,19 @@ TEST_F(FleetSimulator, AShareHasAFault) {
   EXPECT_EQ(Control("4 refuse"), "ok");
   EXPECT_EQ(Ask(AddressOf(3), "%1POWR ?"), "%1POWR=ERR1");
   EXPECT_EQ(Ask(AddressOf(4), "%1INF1 ?"), "%1INF1=Advanced Control");
+}
+
+TEST_F(FleetSimulator, ADelayedRefusalClosesTheConnection) {
+  for (const char* fault : {"late 20", "trickle"}) {
+    Start({"--password", "secret", "--fault", fault});
+    QTcpSocket socket;
+    socket.connectToHost(AddressOf(0), port_);
+    socket.write(QByteArray(32, '0') + "%1POWR ?\r");  // a wrong proof
+    std::string text;
+    while (socket.waitForReadyRead(kTimeOut)) text += socket.readAll().toStdString();
+    EXPECT_THAT(text, EndsWith("PJLINK ERRA\r")) << fault;
+    EXPECT_EQ(socket.state(), QAbstractSocket::UnconnectedState) << fault;
+  }
 }
 
 TEST_F(FleetSimulator, SwitchingTakesTimeAndNoticesTellOfIt) {

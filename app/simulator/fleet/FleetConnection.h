@@ -36,8 +36,8 @@ class FleetConnection {
   /// Whether the other end has been silent for so long that the projector closes the connection.
   bool IsAbandoned(Clock::time_point now) const;
 
-  std::string unsent;             ///< Bytes that the socket has not taken yet.
-  Clock::time_point nextPiece{};  ///< When the next byte is sent, if replies trickle.
+  std::string unsent;                ///< Bytes that the socket has not taken yet.
+  Clock::time_point repliesUntil{};  ///< When the last of its delayed replies is sent.
 
  private:
   class CountingChannel;

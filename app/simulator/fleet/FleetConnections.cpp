@@ -19,12 +19,6 @@ constexpr std::uint32_t kMostWireConnections = 8;
 constexpr std::size_t kMostUnsent = 65536;
 constexpr auto kAbandonedCheck = 1s;
 
-/// Whether replies are sent later than they are made.
-bool IsDelayed(const FleetProjector& projector) {
-  const LineFault::Kind fault = projector.fault.line.kind;
-  return fault == LineFault::Kind::Late || fault == LineFault::Kind::Trickle;
-}
-
 }  // namespace
 
 FleetConnections::FleetConnections(FleetProjectors& projectors, FleetEvents& events,
@@ -101,8 +95,8 @@ void FleetConnections::Read(int socket) {
     Reply(socket, reply);
     if (At(socket) != connection) break;
   }
-  if (At(socket) == connection && connection->IsOver() && !IsDelayed(projectors_.At(projector))) {
-    EndIfSent(socket);
+  if (At(socket) == connection && connection->IsOver()) {  // after replies that are delayed
+    RunAt(socket, connection->repliesUntil, [this, socket] { EndIfSent(socket); });
   }
   if (projectors_.At(projector).counts.changes != changes) notices_.SendChanges(projector);
 }
@@ -117,20 +111,16 @@ void FleetConnections::Reply(int socket, std::string_view reply) {
     case LineFault::Kind::Silent:
       return;
     case LineFault::Kind::Late:
-      return SendLater(socket, now + std::chrono::milliseconds(fault.amount), std::string(reply),
-                       connection->IsOver());
+      return SendAt(socket, now + std::chrono::milliseconds(fault.amount), std::string(reply));
     case LineFault::Kind::Cut:
       Send(socket, reply.substr(0, static_cast<std::size_t>(fault.amount)));
       return End(socket);
     case LineFault::Kind::Garbage:
       return Send(socket, std::string(reply.size(), '?'));
-    case LineFault::Kind::Trickle:
-      connection->nextPiece = std::max(connection->nextPiece, now);
-      for (std::size_t i = 0; i < reply.size(); ++i) {
-        connection->nextPiece += 1ms;
-        SendLater(socket, connection->nextPiece, std::string(1, reply[i]),
-                  connection->IsOver() && i + 1 == reply.size());
-      }
+    case LineFault::Kind::Trickle: {
+      auto due = std::max(connection->repliesUntil, now);
+      for (const char byte : reply) SendAt(socket, due += 1ms, std::string(1, byte));
+    }
   }
 }
 
@@ -159,13 +149,16 @@ void FleetConnections::SendRest(int socket) {
   events_.Watch(socket, EPOLLIN);
 }
 
-void FleetConnections::SendLater(int socket, Clock::time_point due, std::string bytes, bool ends) {
+void FleetConnections::SendAt(int socket, Clock::time_point due, std::string bytes) {
+  Clock::time_point& until = At(socket)->repliesUntil;
+  until = std::max(until, due);
+  RunAt(socket, due, [this, socket, bytes = std::move(bytes)] { Send(socket, bytes); });
+}
+
+void FleetConnections::RunAt(int socket, Clock::time_point due, FleetTimer::Action action) {
   const std::uint32_t generation = generations_[static_cast<std::size_t>(socket)];
-  timer_.RunAt(due, [this, socket, generation, bytes = std::move(bytes), ends] {
-    const bool isSame = generations_[static_cast<std::size_t>(socket)] == generation && At(socket);
-    if (!isSame) return;
-    Send(socket, bytes);
-    if (ends) EndIfSent(socket);
+  timer_.RunAt(due, [this, socket, generation, action = std::move(action)] {
+    if (At(socket) && generations_[static_cast<std::size_t>(socket)] == generation) action();
   });
 }
 

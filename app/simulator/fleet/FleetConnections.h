@@ -43,8 +43,9 @@ class FleetConnections {
   /// Sends what the socket takes; the rest waits until it takes more.
   void Send(int socket, std::string_view bytes);
   void SendRest(int socket);
-  /// Sends the bytes at `due`, and then ends the connection if `ends`.
-  void SendLater(int socket, Clock::time_point due, std::string bytes, bool ends);
+  void SendAt(int socket, Clock::time_point due, std::string bytes);
+  /// Runs the action at `due` unless the connection ends before.
+  void RunAt(int socket, Clock::time_point due, FleetTimer::Action action);
   void End(int socket);
   /// Ends the connection if the socket took everything; otherwise `SendRest` does it.
   void EndIfSent(int socket);

@@ -78,7 +78,7 @@ QByteArray FleetService::Profiles(const QByteArray& original) const {
     entry["connection"] = QJsonObject{{"network", network}};
     entry["identity"] = QString::fromStdString(projectors_.IdentityOf(i));
     entry["tags"] = QJsonArray{QStringLiteral("Building %1").arg(i / kInABuilding + 1)};
-    // The projector tells them, with PJLink's numbers.
+    // The projector reports its inputs itself, with PJLink's numbers.
     if (isPjLink) entry["mySources"] = QJsonArray();
     entries.append(entry);
   }

@@ -154,6 +154,11 @@ int PageReader::Differences() const {
       rows_, [](const auto& row) { return row->memory.present && Differs(*row); }));
 }
 
+int PageReader::DifferencesWhenSeen() const {
+  return static_cast<int>(std::ranges::count_if(
+      rows_, [](const auto& row) { return row->memory.present && DifferedWhenSeen(*row); }));
+}
+
 std::optional<std::chrono::milliseconds> PageReader::SinceRead() const {
   if (!sinceRead_.isValid()) return {};
   return std::chrono::milliseconds(sinceRead_.elapsed());

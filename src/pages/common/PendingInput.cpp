@@ -84,11 +84,11 @@ bool PendingInput::Keeps(const QWidget& control) const {
 void PendingInput::Keep(const Notification& entry, CSliderCtrl* slider) {
   if (slider != nullptr) {
     if (acts_.size() > 1 && acts_.back().slider != nullptr) acts_.pop_back();
-    acts_.push_back({&entry, slider, slider->value()});
+    acts_.push_back({&entry, slider, slider->value(), true});
   } else {
     const auto* button = qobject_cast<const QAbstractButton*>(host_.Dialog().GetDlgItem(entry.id));
     if (button->isDown() || std::exchange(pressed_, nullptr) != button) return;
-    acts_.push_back({&entry, nullptr});
+    acts_.push_back({.entry = &entry, .slider = nullptr, .kept = true});
   }
   Show();
 }
@@ -110,8 +110,9 @@ void PendingInput::Drop() {
   if (movedSlider) row_->Widgets().ReturnSlider();
 }
 
+// What was kept is pending until the projector has answered.
 void PendingInput::Show() {
-  if (acts_.size() < 2) return row_->Widgets().ShowPending({});
+  if (std::ranges::none_of(acts_, &Act::kept)) return row_->Widgets().ShowPending({});
   const Range bounds = row_->Numbers().value_or(kUnbounded);
   std::optional<int> number = row_->Position();
   bool keepsSlider = false;

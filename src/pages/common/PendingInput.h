@@ -41,6 +41,7 @@ class PendingInput final : public QObject {
     const Notification* entry;
     CSliderCtrl* slider;  ///< Null for a step.
     int position = 0;     ///< Of the slider.
+    bool kept = false;    ///< The user did it while the row waited.
   };
 
   void Handle(const Act& act);

@@ -7,6 +7,7 @@
 #include "i18n/LocalizeControlTexts.h"
 #include "pages/common/DialogContext.h"
 #include "settings/CatalogNumbers.h"
+#include "settings/ErrorNumbers.h"
 #include "toolkit/CDialog.h"
 
 namespace AdvancedControl {

@@ -28,16 +28,18 @@ void ActionRowView::OnPageRead() {
 void ActionRowView::Act(int) {
   const int position = list_ != nullptr ? list_->currentIndex() : 0;
   if (position < 0) return;
+  const CPjtInterface::Tally before = Projector().Sent();
   const bool done = Perform(Projector(), row_.call, position).accepted;
+  const bool isRefused = IsRefusedSince(before);
   const QString entry = list_ != nullptr ? list_->currentText() : QString();
   if (ReadsAgain(row_.rereads, done)) Host().ReadAgain();
-  if (done) {
+  if (done && !isRefused) {
     Confirm(*this, {});
     Dialog().Say(DoneText(position, entry));
     return;
   }
   TellRefusal(*this, entry);
-  if (row_.error != 0) Dialog().ShowError(row_.error);
+  if (!done && row_.error != 0) Dialog().ShowError(row_.error);
 }
 
 QString ActionRowView::DoneText(int position, const QString& entry) const {

@@ -24,7 +24,10 @@ void CheckRowView::Read(Source source) {
 
 void CheckRowView::Act(int) {
   const int value = check_->isChecked() ? 1 : 0;
-  if (SendRow(Projector(), Row(), Model(), value) == Sent::Accepted) return Confirm(*this, value);
+  const CPjtInterface::Tally before = Projector().Sent();
+  if (SendRow(Projector(), Row(), Model(), value) == Sent::Accepted) {
+    return IsRefusedSince(before) ? TellRefusal(*this, TextAt(value)) : Confirm(*this, value);
+  }
   if (const auto present = ReadSetting(0)) {
     check_->setChecked(*present != 0);
     memory.known = Position();

@@ -59,6 +59,7 @@ void ListRowView::Act(int) {
   const CPjtInterface::Tally before = Projector().Sent();
   const Sending how{.text = text.toStdString(), .source = source, .position = position};
   const Sent sent = SendRow(Projector(), Row(), Model(), *chosen, how);
+  const bool isRefused = IsRefusedSince(before);
   if (sent == Sent::Nothing) {
     if (const auto value = ReadSetting(source)) list_->SelectValue(*value);
     return Dialog().Say(
@@ -66,10 +67,11 @@ void ListRowView::Act(int) {
   }
   if (row_.rules.readsBackAlways) Host().ReadRow(*this, *source);
   if (sent == Sent::Accepted) {
-    // A setter without a result: only reading the setting shows that the choice was not accepted.
+    // Reading the setting tells most about a setter that returns nothing.
     const bool isOpen = Projector().Sent().pending > before.pending;
     const bool isReadBack = row_.rules.readsBackAlways && IsRead(memory.note) && !isOpen;
-    if (isReadBack && memory.known != position) return TellRefusal(*this, text);
+    const bool isAsChosen = memory.known && AreSame(*memory.known, position);
+    if (isReadBack ? !isAsChosen : isRefused) return TellRefusal(*this, text);
     if (!row_.rules.readsBackAlways) Confirm(*this, position);
     return;
   }
@@ -95,6 +97,11 @@ void ListRowView::ReadBack(int source) {
 
 std::optional<int> ListRowView::Position() const {
   return list_->currentIndex() >= 0 ? std::optional(list_->currentIndex()) : std::nullopt;
+}
+
+// A host's list may have several entries with one value.
+bool ListRowView::AreSame(int position, int other) const {
+  return list_->itemData(position) == list_->itemData(other);
 }
 
 QString ListRowView::TextAt(int position) const { return list_->itemText(position); }

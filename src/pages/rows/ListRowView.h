@@ -20,6 +20,7 @@ class ListRowView final : public RowView {
   void Read(Source source) override;
   void Act(int control) override;
   std::optional<int> Position() const override;
+  bool AreSame(int position, int other) const override;
   QString TextAt(int position) const override;
   bool CanMoveTo(int position) const override;
   void MoveTo(int position) override;

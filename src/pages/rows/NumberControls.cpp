@@ -3,10 +3,10 @@
 #include <utility>
 
 #include <QAbstractButton>
-#include <QLineEdit>
 
 #include "pages/common/SettingsDialog.h"
 #include "toolkit/CSliderCtrl.h"
+#include "toolkit/NumberField.h"
 
 namespace AdvancedControl {
 
@@ -14,7 +14,7 @@ NumberControls::NumberControls(const SettingsDialog& dialog, const ValueIds& ids
     : minus_(&dialog.Item<QAbstractButton>(ids.minus)),
       slider_(ids.slider != 0 ? &dialog.Item<CSliderCtrl>(ids.slider) : nullptr),
       plus_(&dialog.Item<QAbstractButton>(ids.plus)),
-      field_(&dialog.Item<QLineEdit>(ids.field)) {
+      field_(&dialog.Item<NumberField>(ids.field)) {
   field_->setContextMenuPolicy(Qt::NoContextMenu);  // the row's own menu opens there too
 }
 

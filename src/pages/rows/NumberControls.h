@@ -6,8 +6,8 @@
 #include "settings/Rows.h"
 
 class CSliderCtrl;
+class NumberField;
 class QAbstractButton;
-class QLineEdit;
 class QWidget;
 
 namespace AdvancedControl {
@@ -27,7 +27,7 @@ class NumberControls {
   bool IsPlus(const QWidget& control) const;
   /// Null for a row without one.
   CSliderCtrl* Slider() const { return slider_; }
-  QLineEdit& Field() const { return *field_; }
+  NumberField& Field() const { return *field_; }
 
   bool AreEnabled() const;
   /// Enables or disables −, slider and +. The field of a disabled row is empty.
@@ -61,7 +61,7 @@ class NumberControls {
   QAbstractButton* minus_ = nullptr;
   CSliderCtrl* slider_ = nullptr;
   QAbstractButton* plus_ = nullptr;
-  QLineEdit* field_ = nullptr;
+  NumberField* field_ = nullptr;
   std::optional<int> number_;
   Pending pending_;
   bool collects_ = false;

@@ -8,6 +8,7 @@
 
 #include "pages/rows/RowMarks.h"
 #include "pages/rows/RowOutcomes.h"
+#include "pages/rows/RowTexts.h"
 #include "pages/rows/RowView.h"
 #include "toolkit/CComboBox.h"
 
@@ -28,10 +29,12 @@ RowNote NoteOf(const RowView& row, const SettingsDialog& dialog,
   return row.Numbers() ? RowNote::Range : RowNote::None;
 }
 
-QString RangeText(const Range& range) {
+QString RangeText(const RowView& row) {
+  const Range range = row.Numbers().value_or(kUnbounded);
   if (range.minimum <= kUnbounded.minimum || range.minimum >= range.maximum) return {};
-  return CatalogString(kListCategory, ListText::RangeNote, std::int64_t{range.minimum},
-                       std::int64_t{range.maximum});
+  return WithUnit(CatalogString(kListCategory, ListText::RangeNote, std::int64_t{range.minimum},
+                                std::int64_t{range.maximum}),
+                  row.Row());
 }
 
 QString NoteText(const RowView& row) {
@@ -47,7 +50,7 @@ QString NoteText(const RowView& row) {
     case RowNote::OnlyShown:
       return CatalogString(kListCategory, ListText::OnlyShown);
     case RowNote::Range:
-      return RangeText(row.Numbers().value_or(kUnbounded));
+      return RangeText(row);
     case RowNote::None:
       break;
   }

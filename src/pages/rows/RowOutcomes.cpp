@@ -22,6 +22,11 @@ std::optional<int> PositionOf(const RowView& row, int value) {
   return position >= 0 ? std::optional(position) : std::nullopt;
 }
 
+bool IsOtherThanWanted(const RowView& row, std::optional<int> position) {
+  const auto wanted = WantedPosition(row);
+  return wanted && !(position && row.AreSame(*position, *wanted));
+}
+
 }  // namespace
 
 QString NameOf(const RowView& row) {
@@ -62,8 +67,13 @@ std::optional<int> WantedPosition(const RowView& row) {
 }
 
 bool Differs(const RowView& row) {
-  const auto wanted = row.memory.isKnown ? WantedPosition(row) : std::nullopt;
-  return wanted && row.memory.known != wanted;
+  return row.memory.isKnown && IsOtherThanWanted(row, row.memory.known);
+}
+
+bool DifferedWhenSeen(const RowView& row) {
+  if (row.memory.isKnown) return false;
+  const auto seen = DialogOf(row).Context().LastSeen(KeyOf(row.Row()));
+  return seen && IsOtherThanWanted(row, PositionOf(row, *seen));
 }
 
 }  // namespace AdvancedControl

@@ -27,5 +27,7 @@ void TellRefusal(RowView& row, const QString& tried);
 std::optional<int> WantedPosition(const RowView& row);
 /// Whether the projector has another position.
 bool Differs(const RowView& row);
+/// Whether it had another one when the host last saw it; false for a row that was read since.
+bool DifferedWhenSeen(const RowView& row);
 
 }  // namespace AdvancedControl

@@ -18,14 +18,22 @@ QString CaptionText(const PageRow& row) {
   return PlainText(KeyOf(row)).section(QLatin1Char('.'), -1).toUpper();
 }
 
+QString WithUnit(const QString& text, const PageRow& row) {
+  const auto* number = std::get_if<ValueRow>(&row);
+  if (number == nullptr || number->unit == 0) return text;
+  return text + QChar(QChar::Nbsp) + CatalogString(kListCategory, number->unit);
+}
+
 QString TextOf(const ListEntry& entry) {
   return entry.text ? CatalogString(kListCategory, *entry.text) : PlainText(entry.name);
 }
 
 void FillList(CComboBox& list, std::span<const ListEntry> entries) {
   const CatalogBatch batch;
-  list.clear();
-  for (const ListEntry& entry : entries) list.Add(TextOf(entry), entry.value);
+  std::vector<std::pair<QString, int>> texts;
+  texts.reserve(entries.size());
+  for (const ListEntry& entry : entries) texts.emplace_back(TextOf(entry), entry.value);
+  list.Fill(texts);
 }
 
 }  // namespace AdvancedControl

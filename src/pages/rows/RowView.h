@@ -59,6 +59,8 @@ class RowView {
 
   /// The position shown; nothing if the row shows none.
   virtual std::optional<int> Position() const { return {}; }
+  /// Whether two positions stand for the same value.
+  virtual bool AreSame(int position, int other) const { return position == other; }
   /// The text of a position.
   virtual QString TextAt(int position) const { return QString::number(position); }
   /// The text that the row shows.
@@ -78,6 +80,11 @@ class RowView {
   SettingsDialog& Dialog() const { return host_.Dialog(); }
   CPjtInterface& Projector() const { return *Dialog().projector; }
   const ModelData& Model() const { return Dialog().Model(); }
+  /// Whether the projector has refused a command since `before`, even one whose operation returns
+  /// nothing.
+  bool IsRefusedSince(const CPjtInterface::Tally& before) const {
+    return Projector().Sent().refused > before.refused;
+  }
   /// Reads the setting from the projector; nothing if the source is unknown or the read fails.
   std::optional<int> ReadSetting(Source source) const;
 

@@ -1,10 +1,11 @@
 #include "pages/rows/ValueRowView.h"
 
 #include <QAbstractButton>
-#include <QLineEdit>
 
 #include "pages/rows/RowOutcomes.h"
+#include "pages/rows/RowTexts.h"
 #include "toolkit/CSliderCtrl.h"
+#include "toolkit/NumberField.h"
 
 namespace AdvancedControl {
 
@@ -36,6 +37,10 @@ void ValueRowView::Prepare() {
   const Range range = SliderRange(row_, Model());
   const int ticks = row_.ticks != 0 ? row_.ticks : range.maximum / 8;
   if (auto* slider = controls_.Slider()) slider->SetRange(range.minimum, range.maximum, ticks);
+  if (row_.unit != 0) {
+    controls_.Field().SetUnit(CatalogString(kListCategory, row_.unit),
+                              QString::number(range.maximum));
+  }
   if (!row_.initial) return;
   remembered_ = Word(*row_.initial);
   controls_.ShowNumber(*row_.initial);
@@ -111,12 +116,13 @@ bool ValueRowView::Release() {
     TellRefusal(*this, TextAt(position));
     return true;
   }
+  const CPjtInterface::Tally before = Projector().Sent();
   if (source && SendRow(Projector(), Row(), Model(), position + row_.bias, {.source = source}) ==
                     Sent::Accepted) {
     remembered_ = Word(position);
     controls_.ShowNumber(position);
     controls_.MoveSlider(position);
-    Confirm(*this, position);
+    IsRefusedSince(before) ? TellRefusal(*this, TextAt(position)) : Confirm(*this, position);
     return true;
   }
   Refuse(row_.refusedDrag == RefusedDrag::Stays ? position : remembered_, TextAt(position),
@@ -157,6 +163,10 @@ int ValueRowView::ShowDevice(int value) {
   controls_.ShowNumber(shown);
   controls_.MoveSlider(shown);
   return shown;
+}
+
+QString ValueRowView::TextAt(int position) const {
+  return WithUnit(QString::number(position), Row());
 }
 
 std::optional<Range> ValueRowView::Numbers() const {

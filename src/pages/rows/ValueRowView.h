@@ -22,6 +22,7 @@ class ValueRowView final : public RowView {
   void Read(Source source) override;
   void Act(int control) override;
   std::optional<int> Position() const override { return controls_.Number(); }
+  QString TextAt(int position) const override;
   bool CanMoveTo(int position) const override;
   void MoveTo(int position) override;
   std::optional<Range> Numbers() const override;

@@ -27,7 +27,7 @@ constexpr PageRow kRows[] = {
     ListRow{"option.auto-search", 16, Id::AutoSearch, kSwitch, Named(Op::GetAutoSearch), Named(Op::SetAutoSearch), kReadBack},
     ListRow{"option.auto-keystone", 18, Id::AutoKeystone, kSwitch, Named(Op::GetAutoKeystone), Named(Op::SetAutoKeystone), kReadBack},
     ListRow{"option.auto-on", 93, Id::AutoOn, kSwitch, Named(Op::GetAutoOn), Named(Op::SetAutoPowerOn), kReadBack},
-    NamedSlider("option.auto-off", 94, {Id::AutoOffMinus, Id::AutoOff, Id::AutoOffPlus, Id::AutoOffField}, {Op::GetAutoOff, Op::SetAutoPowerOff, Op::DecrementAutoPowerOff, Op::IncrementAutoPowerOff}, RangeIndex::AutoOff, {0, 99}, 5),
+    InUnit(ListText::Minutes, NamedSlider("option.auto-off", 94, {Id::AutoOffMinus, Id::AutoOff, Id::AutoOffPlus, Id::AutoOffField}, {Op::GetAutoOff, Op::SetAutoPowerOff, Op::DecrementAutoPowerOff, Op::IncrementAutoPowerOff}, RangeIndex::AutoOff, {0, 99}, 5)),
     ListRow{"option.my-button-1", 95, Id::MyButton1, MyButtonEntries, Named(Op::GetMyButton1), Named(Op::SetMyButton1), kMyButton},
     ListRow{"option.my-button-2", 96, Id::MyButton2, MyButtonEntries, Named(Op::GetMyButton2), Named(Op::SetMyButton2), kMyButton},
     // Unlike in other reads, any result but 0 is a success.

@@ -2,6 +2,7 @@
 
 #include "device/CommandCode.h"
 #include "settings/CatalogNumbers.h"
+#include "settings/ErrorNumbers.h"
 #include "settings/PageTables.h"
 
 namespace AdvancedControl {

@@ -31,6 +31,7 @@ constexpr PageRow kRows[] = {
              .range = kZoom,
              .bounds = kZoom,
              .ticks = 2,
+             .unit = ListText::Percent,
              .error = ErrorText::ElectricZoomRefused},
     ValueRow{.key = "setup.keystone",
              .caption = 77,

@@ -105,7 +105,7 @@ constexpr PageRow kRows[] = {
     // Only the buttons insist on the result 1.
     ValueRow{.key = "setup.d-zoom", .caption = 194, .ids = {Id::DZoomMinus, Id::DZoom, Id::DZoomPlus, Id::DZoomField}, .code = CommandCode::DigitalZoom,
              .read = AnyResult(Get(CommandCode::DigitalZoom)), .set = AnyResult(Set(CommandCode::DigitalZoom)),
-             .range = Range{80, 100}, .ticks = 2, .refusedDrag = RefusedDrag::GoesBack, .error = ErrorText::DZoomRefused},
+             .range = Range{80, 100}, .ticks = 2, .unit = ListText::Percent, .refusedDrag = RefusedDrag::GoesBack, .error = ErrorText::DZoomRefused},
     Shift("setup.d-shift-v", {Id::DShiftVMinus, 0, Id::DShiftVPlus, Id::DShiftVField}, CommandCode::DigitalShiftV),
     Shift("setup.d-shift-h", {Id::DShiftHMinus, 0, Id::DShiftHPlus, Id::DShiftHField}, CommandCode::DigitalShiftH),
     ListRow{"setup.audio-rgb1", 139, Id::AudioRgb1, kThreeAudios, Named(Op::GetAudioRGB1), Named(Op::SetAudioRGB1), kRouting},

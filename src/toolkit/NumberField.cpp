@@ -1,0 +1,48 @@
+#include "toolkit/NumberField.h"
+
+#include <algorithm>
+
+#include <QPainter>
+#include <QStyleOptionFrame>
+
+namespace {
+
+// In pixels.
+constexpr int kAround = 16;   // at both sides of a number
+constexpr int kMargins = 12;  // the least around a number with a unit
+constexpr int kUnitGap = 4;
+constexpr int kUnitMargin = 2;
+
+}  // namespace
+
+NumberField::NumberField(QWidget* parent) : QLineEdit(parent) {
+  setReadOnly(true);
+  setFocusPolicy(Qt::ClickFocus);
+  setAlignment(Qt::AlignRight);
+  setFixedWidth(fontMetrics().horizontalAdvance(QStringLiteral("-00000")) + kAround);
+}
+
+void NumberField::SetUnit(const QString& unit, const QString& widest) {
+  unit_ = unit;
+  const QFontMetrics metrics = fontMetrics();
+  const int room = kUnitGap + metrics.horizontalAdvance(unit);
+  // In a mirrored layout the number stays at the right, and the unit is drawn at its left.
+  if (!isRightToLeft()) setTextMargins(0, 0, room, 0);
+  setFixedWidth(std::max(width(), metrics.horizontalAdvance(widest) + room + kMargins));
+}
+
+void NumberField::paintEvent(QPaintEvent* event) {
+  QLineEdit::paintEvent(event);
+  if (unit_.isEmpty() || text().isEmpty()) return;
+  QStyleOptionFrame option;
+  initStyleOption(&option);
+  QRect inside = style()
+                     ->subElementRect(QStyle::SE_LineEditContents, &option, this)
+                     .adjusted(kUnitMargin, 0, -kUnitMargin, 0);
+  if (isRightToLeft()) {
+    inside.setRight(inside.right() - fontMetrics().horizontalAdvance(text()) - kUnitGap);
+  }
+  QPainter painter(this);
+  painter.setPen(palette().color(QPalette::Text));
+  painter.drawText(inside, Qt::AlignVCenter | Qt::AlignRight, unit_);
+}

@@ -1,0 +1,110 @@
+// Who may connect to a projector, and when: visits, and those who work on it.
+
+#include <algorithm>
+#include <map>
+#include <ranges>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "device/CommandCode.h"
+#include "fleet/MakeVisit.h"
+#include "tests/fleet/SteppedFleet.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+using Projector = SteppedFleet::Projector;
+
+TEST(FleetTurns, StaysAwayWhileSomebodyElseWorks) {
+  SteppedFleet fleet;
+  Projector& it = fleet.Add("a");
+  Projector& other = fleet.Add("b");
+  it.device.answers = 500ms;
+  fleet.RunFor(1s);
+  ASSERT_EQ(it.open, 1) << "in the middle of a visit";
+  fleet.watcher.Pause("a");
+  fleet.watcher.Pause("a");
+  EXPECT_EQ(it.open, 0);
+  fleet.states.Learn("a", {PjtOperation::Get, CommandCode::InputSource}, {.result = 1, .value = 32},
+                     {});
+  EXPECT_EQ(fleet.State("a").source, (PlayingSource{32, ""}));
+  fleet.watcher.Resume("a");
+  fleet.RunFor(200s);
+  EXPECT_EQ(it.connections.size(), 1);
+  EXPECT_GE(other.connections.size(), 3);
+  fleet.watcher.Resume("a");
+  fleet.RunFor(6s);
+  EXPECT_EQ(it.connections.size(), 2) << "what was changed is wanted soon";
+
+  fleet.watcher.SetAsking(false);
+  const auto asked = other.connections.size();
+  fleet.RunFor(300s);
+  EXPECT_EQ(it.connections.size() + other.connections.size(), 2 + asked);
+  fleet.watcher.SetAsking(true);
+  fleet.RunFor(10s);
+  EXPECT_EQ(other.connections.size(), asked + 1);
+  fleet.watcher.AskSoon("b");
+  fleet.RunFor(10s);
+  EXPECT_EQ(other.connections.size(), asked + 2);
+  fleet.watcher.AskSoon("b");
+  fleet.RunFor(1ms);
+  fleet.watcher.AskSoon("b");
+  fleet.RunFor(10s);
+  EXPECT_EQ(other.connections.size(), asked + 4) << "the visit may have asked too early";
+  fleet.watcher.Remove("b");
+  EXPECT_FALSE(fleet.states.State("b"));
+  fleet.RunFor(100s);
+  EXPECT_EQ(other.connections.size(), asked + 4);
+}
+
+TEST(FleetTurns, TakesTurnsAtAnAddress) {
+  SteppedFleet fleet({.interval = 1s});
+  std::map<std::string, int> visits{{"one", 0}, {"same", 0}, {"again", 0}};
+  for (const auto& [id, none] : visits) {
+    fleet.watcher.Set({id, PjLinkAddress{.host = "shared", .password = {}}});
+  }
+  Projector& it = fleet.projectors["shared"];
+  it.device.answers = 500ms;  // so that a visit takes longer than the interval
+  std::map<std::string, std::optional<WallTime>> answered;
+  for (int second = 0; second < 120; ++second) {
+    fleet.RunFor(1s);
+    for (auto& [id, count] : visits) {
+      const auto now = fleet.State(id).answered;
+      if (std::exchange(answered[id], now) != now) ++count;
+    }
+  }
+  EXPECT_EQ(it.mostConnections, 1);
+  const auto [least, most] = std::ranges::minmax(visits | std::views::values);
+  EXPECT_GE(least, 5);
+  EXPECT_LE(most, least + 1);
+
+  // Whoever works on one of them works on all.
+  while (it.open == 0) fleet.RunFor(1ms);
+  fleet.watcher.Pause("one");
+  EXPECT_EQ(it.open, 0);
+  const auto asked = it.connections.size();
+  fleet.RunFor(60s);
+  EXPECT_EQ(it.connections.size(), asked);
+  fleet.watcher.Set({"one", PjLinkAddress{.host = "elsewhere", .password = {}}});
+  fleet.RunFor(1s);
+  EXPECT_EQ(it.connections.size(), asked + 1) << "the pause has moved along";
+  EXPECT_EQ(fleet.projectors["elsewhere"].connections.size(), 0);
+  fleet.watcher.Resume("one");
+  fleet.watcher.Pause("same");
+  fleet.watcher.Remove("same");
+  fleet.RunFor(30s);
+  EXPECT_GT(it.connections.size(), asked + 2);
+  EXPECT_GT(fleet.projectors["elsewhere"].connections.size(), 1);
+}
+
+TEST(FleetTurns, KnowsAnAddressHoweverItIsWritten) {
+  const auto place = [](const char* host) {
+    return PlaceOf({"a", PjLinkAddress{.host = host, .password = {}}}).first;
+  };
+  EXPECT_EQ(place("2001:DB8:0::7"), "2001:db8::7");
+  EXPECT_EQ(place("::ffff:192.0.2.7"), "192.0.2.7");
+  EXPECT_EQ(place("hall.example"), "hall.example");
+}
+
+}  // namespace

@@ -1013,6 +1013,14 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Prints what differs from a file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder.</source>
+        <translation>Muestra lo que difiere de un archivo («-» es la entrada estándar), o del archivo propio de cada proyector en una carpeta.</translation>
+    </message>
+    <message>
+        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
+        <translation>Lee los proyectores, envía lo que difiere del archivo («-» es la entrada estándar), o del archivo propio de cada proyector en una carpeta, y lo vuelve a leer. Lo que se sustituye se guarda antes, para que «acctl undo» pueda restaurarlo. Una ejecución interrumpida se puede repetir en cualquier momento.</translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -1439,6 +1447,10 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <source>Show the commands of</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Projector, command or result</source>
+        <translation>Proyector, orden o resultado</translation>
+    </message>
 </context>
 <context>
     <name>CommandLogModel</name>
@@ -1559,19 +1571,19 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <name>ConnectionFields</name>
     <message>
         <source>&amp;Reached through</source>
-        <translation>Accesible me&amp;diante</translation>
+        <translation type="unfinished">Accesible me&amp;diante</translation>
     </message>
     <message>
         <source>Connect&amp;ion</source>
-        <translation>Cone&amp;xión</translation>
+        <translation type="unfinished">Cone&amp;xión</translation>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation>&amp;Dirección</translation>
+        <translation type="unfinished">&amp;Dirección</translation>
     </message>
     <message>
         <source>&amp;Port</source>
-        <translation>&amp;Puerto</translation>
+        <translation type="unfinished">&amp;Puerto</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
@@ -1579,35 +1591,35 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>Port n&amp;umber</source>
-        <translation>N&amp;úmero de puerto</translation>
+        <translation type="unfinished">N&amp;úmero de puerto</translation>
     </message>
     <message>
         <source>&amp;Device</source>
-        <translation>D&amp;ispositivo</translation>
+        <translation type="unfinished">D&amp;ispositivo</translation>
     </message>
     <message>
         <source>&amp;Baud</source>
-        <translation>&amp;Baudios</translation>
+        <translation type="unfinished">&amp;Baudios</translation>
     </message>
     <message>
         <source>As its family</source>
-        <translation>Como su familia</translation>
+        <translation type="unfinished">Como su familia</translation>
     </message>
     <message>
         <source>Simulated</source>
-        <translation>Simulado</translation>
+        <translation type="unfinished">Simulado</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation>Red</translation>
+        <translation type="unfinished">Red</translation>
     </message>
     <message>
         <source>Serial port</source>
-        <translation>Puerto serie</translation>
+        <translation type="unfinished">Puerto serie</translation>
     </message>
     <message>
         <source>%1 is no address.</source>
-        <translation>%1 no es una dirección.</translation>
+        <translation type="unfinished">%1 no es una dirección.</translation>
     </message>
 </context>
 <context>
@@ -2351,27 +2363,27 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <name>ModelFields</name>
     <message>
         <source>&amp;Family</source>
-        <translation>&amp;Familia</translation>
+        <translation type="unfinished">&amp;Familia</translation>
     </message>
     <message>
         <source>&amp;Model</source>
-        <translation>&amp;Modelo</translation>
+        <translation type="unfinished">&amp;Modelo</translation>
     </message>
     <message>
         <source>All &amp;fields of the model</source>
-        <translation>T&amp;odos los campos del modelo</translation>
+        <translation type="unfinished">T&amp;odos los campos del modelo</translation>
     </message>
     <message>
         <source>Dialog &amp;type</source>
-        <translation>&amp;Tipo de cuadro de diálogo</translation>
+        <translation type="unfinished">&amp;Tipo de cuadro de diálogo</translation>
     </message>
     <message>
         <source>Model cod&amp;e</source>
-        <translation>&amp;Código de modelo</translation>
+        <translation type="unfinished">&amp;Código de modelo</translation>
     </message>
     <message>
         <source>None</source>
-        <translation>Ninguna</translation>
+        <translation type="unfinished">Ninguna</translation>
     </message>
 </context>
 <context>
@@ -2597,6 +2609,21 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <message>
         <source>Should be</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name of the preset:</source>
+        <translation>Nombre del preajuste:</translation>
+    </message>
+    <message numerus="yes">
+        <source>Put the preset %1 on %n projectors?</source>
+        <translation>
+            <numerusform>¿Aplicar el preajuste %1 a %n proyector?</numerusform>
+            <numerusform>¿Aplicar el preajuste %1 a %n proyectores?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation>Comparar</translation>
     </message>
 </context>
 <context>
@@ -2940,31 +2967,31 @@ un signo menos delante quita una etiqueta:</numerusform>
     <name>ProfileFileActions</name>
     <message>
         <source>&amp;Open Profiles…</source>
-        <translation>&amp;Abrir perfiles…</translation>
+        <translation type="unfinished">&amp;Abrir perfiles…</translation>
     </message>
     <message>
         <source>&amp;Reload</source>
-        <translation>&amp;Recargar</translation>
+        <translation type="unfinished">&amp;Recargar</translation>
     </message>
     <message>
         <source>&amp;Save Profiles As…</source>
-        <translation>&amp;Guardar perfiles como…</translation>
+        <translation type="unfinished">&amp;Guardar perfiles como…</translation>
     </message>
     <message>
         <source>Open Profiles</source>
-        <translation>Abrir perfiles</translation>
+        <translation type="unfinished">Abrir perfiles</translation>
     </message>
     <message>
         <source>Profiles (*.json);;All files (*)</source>
-        <translation>Perfiles (*.json);;Todos los archivos (*)</translation>
+        <translation type="unfinished">Perfiles (*.json);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation>Recargar</translation>
+        <translation type="unfinished">Recargar</translation>
     </message>
     <message>
         <source>Save Profiles As</source>
-        <translation>Guardar perfiles como</translation>
+        <translation type="unfinished">Guardar perfiles como</translation>
     </message>
     <message>
         <source>Read-Only File</source>
@@ -2976,22 +3003,22 @@ un signo menos delante quita una etiqueta:</numerusform>
     </message>
     <message>
         <source>Save Profiles As…</source>
-        <translation>Guardar perfiles como…</translation>
+        <translation type="unfinished">Guardar perfiles como…</translation>
     </message>
 </context>
 <context>
     <name>ProfileHistory</name>
     <message>
         <source>&amp;Undo</source>
-        <translation>&amp;Deshacer</translation>
+        <translation type="unfinished">&amp;Deshacer</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation>Re&amp;hacer</translation>
+        <translation type="unfinished">Re&amp;hacer</translation>
     </message>
     <message>
         <source>This could not be done; nothing was changed.</source>
-        <translation>No se pudo hacer; no se cambió nada.</translation>
+        <translation type="unfinished">No se pudo hacer; no se cambió nada.</translation>
     </message>
 </context>
 <context>
@@ -3044,51 +3071,51 @@ un signo menos delante quita una etiqueta:</numerusform>
     <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
-        <translation>Nombre</translation>
+        <translation type="unfinished">Nombre</translation>
     </message>
     <message>
         <source>State</source>
-        <translation>Estado</translation>
+        <translation type="unfinished">Estado</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation>Alimentación</translation>
+        <translation type="unfinished">Alimentación</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation>Fuente</translation>
+        <translation type="unfinished">Fuente</translation>
     </message>
     <message>
         <source>Lamp</source>
-        <translation>Lámpara</translation>
+        <translation type="unfinished">Lámpara</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation>Problema</translation>
+        <translation type="unfinished">Problema</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation>Modelo</translation>
+        <translation type="unfinished">Modelo</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation>Lugar</translation>
+        <translation type="unfinished">Lugar</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation>Ajustes</translation>
+        <translation type="unfinished">Ajustes</translation>
     </message>
     <message>
         <source>Last answer</source>
-        <translation>Última respuesta</translation>
+        <translation type="unfinished">Última respuesta</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation>Dirección</translation>
+        <translation type="unfinished">Dirección</translation>
     </message>
     <message>
         <source>%1 · open</source>
-        <translation>%1 · abierto</translation>
+        <translation type="unfinished">%1 · abierto</translation>
     </message>
 </context>
 <context>
@@ -3284,6 +3311,29 @@ un signo menos delante quita una etiqueta:</numerusform>
     <message>
         <source>The values before are kept in %1.</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: no answer</source>
+        <translation>%1: sin respuesta</translation>
+    </message>
+    <message>
+        <source>%1: nothing can be read</source>
+        <translation>%1: no se puede leer nada</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n settings cannot be read and are left out</source>
+        <translation>
+            <numerusform>%1: %n ajuste no se puede leer y se omite</numerusform>
+            <numerusform>%1: %n ajustes no se pueden leer y se omiten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Waiting for the projector of an open dialog…</source>
+        <translation>Esperando al proyector de un cuadro de diálogo abierto…</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
     </message>
 </context>
 <context>
@@ -3773,134 +3823,134 @@ un signo menos delante quita una etiqueta:</numerusform>
     <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
-        <translation>E&amp;ncender</translation>
+        <translation type="unfinished">E&amp;ncender</translation>
     </message>
     <message>
         <source>Switch O&amp;ff</source>
-        <translation>Apa&amp;gar</translation>
+        <translation type="unfinished">Apa&amp;gar</translation>
     </message>
     <message>
         <source>P&amp;ower</source>
-        <translation>A&amp;limentación</translation>
+        <translation type="unfinished">A&amp;limentación</translation>
     </message>
     <message>
         <source>&amp;Input</source>
-        <translation>&amp;Entrada</translation>
+        <translation type="unfinished">&amp;Entrada</translation>
     </message>
     <message>
         <source>&amp;Blank</source>
-        <translation>Pantalla &amp;vacía</translation>
+        <translation type="unfinished">Pantalla &amp;vacía</translation>
     </message>
     <message>
         <source>Blank the Picture</source>
-        <translation>Mostrar pantalla vacía</translation>
+        <translation type="unfinished">Mostrar pantalla vacía</translation>
     </message>
     <message numerus="yes">
         <source>Blank the picture of %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>¿Mostrar una pantalla vacía en %n proyector?</numerusform>
             <numerusform>¿Mostrar una pantalla vacía en %n proyectores?</numerusform>
         </translation>
     </message>
     <message>
         <source>Show the Picture</source>
-        <translation>Mostrar la imagen</translation>
+        <translation type="unfinished">Mostrar la imagen</translation>
     </message>
     <message numerus="yes">
         <source>Show the picture of %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>¿Mostrar la imagen de %n proyector?</numerusform>
             <numerusform>¿Mostrar la imagen de %n proyectores?</numerusform>
         </translation>
     </message>
     <message>
         <source>&amp;Mute</source>
-        <translation>&amp;Silencio</translation>
+        <translation type="unfinished">&amp;Silencio</translation>
     </message>
     <message>
         <source>Mute the Sound</source>
-        <translation>Silenciar el sonido</translation>
+        <translation type="unfinished">Silenciar el sonido</translation>
     </message>
     <message numerus="yes">
         <source>Mute the sound of %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>¿Silenciar el sonido de %n proyector?</numerusform>
             <numerusform>¿Silenciar el sonido de %n proyectores?</numerusform>
         </translation>
     </message>
     <message>
         <source>Unmute the Sound</source>
-        <translation>Activar el sonido</translation>
+        <translation type="unfinished">Activar el sonido</translation>
     </message>
     <message numerus="yes">
         <source>Unmute the sound of %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>¿Activar el sonido de %n proyector?</numerusform>
             <numerusform>¿Activar el sonido de %n proyectores?</numerusform>
         </translation>
     </message>
     <message>
         <source>Free&amp;ze</source>
-        <translation>C&amp;ongelar</translation>
+        <translation type="unfinished">C&amp;ongelar</translation>
     </message>
     <message>
         <source>Freeze the Picture</source>
-        <translation>Congelar la imagen</translation>
+        <translation type="unfinished">Congelar la imagen</translation>
     </message>
     <message numerus="yes">
         <source>Freeze the picture of %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>¿Congelar la imagen de %n proyector?</numerusform>
             <numerusform>¿Congelar la imagen de %n proyectores?</numerusform>
         </translation>
     </message>
     <message>
         <source>Release the Picture</source>
-        <translation>Descongelar la imagen</translation>
+        <translation type="unfinished">Descongelar la imagen</translation>
     </message>
     <message numerus="yes">
         <source>Release the picture of %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>¿Descongelar la imagen de %n proyector?</numerusform>
             <numerusform>¿Descongelar la imagen de %n proyectores?</numerusform>
         </translation>
     </message>
     <message>
         <source>Switch On</source>
-        <translation>Encender</translation>
+        <translation type="unfinished">Encender</translation>
     </message>
     <message>
         <source>Switch Off</source>
-        <translation>Apagar</translation>
+        <translation type="unfinished">Apagar</translation>
     </message>
     <message numerus="yes">
         <source>Switch on %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>¿Encender %n proyector?</numerusform>
             <numerusform>¿Encender %n proyectores?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Switch off %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>¿Apagar %n proyector?</numerusform>
             <numerusform>¿Apagar %n proyectores?</numerusform>
         </translation>
     </message>
     <message>
         <source>Input %1</source>
-        <translation>Entrada %1</translation>
+        <translation type="unfinished">Entrada %1</translation>
     </message>
     <message numerus="yes">
         <source>Choose the input %1 on %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>¿Elegir la entrada %1 en %n proyector?</numerusform>
             <numerusform>¿Elegir la entrada %1 en %n proyectores?</numerusform>
         </translation>
     </message>
     <message>
         <source>No inputs are known</source>
-        <translation>No se conocen entradas</translation>
+        <translation type="unfinished">No se conocen entradas</translation>
     </message>
 </context>
 <context>
@@ -4023,6 +4073,193 @@ un signo menos delante quita una etiqueta:</numerusform>
         <translation type="unfinished">
             <numerusform></numerusform>
             <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>RestoreDialog</name>
+    <message>
+        <source>Projector</source>
+        <translation>Proyector</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Ajuste</translation>
+    </message>
+    <message>
+        <source>Here</source>
+        <translation>Aquí</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <source>not read</source>
+        <translation>no leído</translation>
+    </message>
+    <message>
+        <source>already so</source>
+        <translation>sin cambios</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>diferente</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>cambiado</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>rechazado</translation>
+    </message>
+    <message>
+        <source>accepted, not yet so</source>
+        <translation>aceptado, aún sin efecto</translation>
+    </message>
+    <message>
+        <source>refused: the projector is busy or in standby</source>
+        <translation>rechazado: el proyector está ocupado o en espera</translation>
+    </message>
+    <message>
+        <source>not confirmed</source>
+        <translation>sin confirmar</translation>
+    </message>
+    <message>
+        <source>skipped: this model does not have it</source>
+        <translation>omitido: este modelo no lo tiene</translation>
+    </message>
+    <message>
+        <source>skipped: this projector does not offer it</source>
+        <translation>omitido: este proyector no lo ofrece</translation>
+    </message>
+    <message>
+        <source>skipped: it is not one to put back</source>
+        <translation>omitido: no se restaura</translation>
+    </message>
+    <message>
+        <source>skipped: this model does not take the value</source>
+        <translation>omitido: este modelo no admite el valor</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n changed</source>
+        <extracomment>How many settings came to this, in a list such as &quot;12 changed, 3 refused&quot;.</extracomment>
+        <translation>
+            <numerusform>%n cambiado</numerusform>
+            <numerusform>%n cambiados</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n different</source>
+        <translation>
+            <numerusform>%n diferente</numerusform>
+            <numerusform>%n diferentes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n already so</source>
+        <translation>
+            <numerusform>%n sin cambios</numerusform>
+            <numerusform>%n sin cambios</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not yet so</source>
+        <translation>
+            <numerusform>%n aún sin efecto</numerusform>
+            <numerusform>%n aún sin efecto</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n refused</source>
+        <translation>
+            <numerusform>%n rechazado</numerusform>
+            <numerusform>%n rechazados</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not confirmed</source>
+        <translation>
+            <numerusform>%n sin confirmar</numerusform>
+            <numerusform>%n sin confirmar</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not read</source>
+        <translation>
+            <numerusform>%n no leído</numerusform>
+            <numerusform>%n no leídos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n skipped</source>
+        <translation>
+            <numerusform>%n omitido</numerusform>
+            <numerusform>%n omitidos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Apply Settings</source>
+        <translation>Aplicar ajustes</translation>
+    </message>
+    <message>
+        <source>Compare Settings</source>
+        <translation>Comparar ajustes</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtrar</translation>
+    </message>
+    <message>
+        <source>&amp;Differences only</source>
+        <translation>Solo &amp;diferencias</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progreso</translation>
+    </message>
+    <message>
+        <source>&amp;Compare Again</source>
+        <translation>&amp;Comparar de nuevo</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>&amp;Aplicar</translation>
+    </message>
+    <message>
+        <source>Waiting for the projector of an open dialog…</source>
+        <translation>Esperando al proyector de un cuadro de diálogo abierto…</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Beforehand: other sources and modes</source>
+        <translation>Antes: otras fuentes y modos</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings</source>
+        <translation>
+            <numerusform>%n ajuste</numerusform>
+            <numerusform>%n ajustes</numerusform>
         </translation>
     </message>
 </context>

@@ -1587,7 +1587,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message>
         <source>Pass&amp;word</source>
-        <translation>Mot de pass&amp;e</translation>
+        <translation type="unfinished">Mot de &amp;passe</translation>
     </message>
     <message>
         <source>Port n&amp;umber</source>

@@ -1013,6 +1013,14 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Prints what differs from a file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder.</source>
+        <translation>Mostra ciò che differisce da un file (“-” è l’input standard), o dal file di ciascun proiettore in una cartella.</translation>
+    </message>
+    <message>
+        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
+        <translation>Legge i proiettori, invia ciò che differisce dal file (“-” è l’input standard), o dal file di ciascun proiettore in una cartella, e lo rilegge. Ciò che viene sostituito è prima conservato, perché “acctl undo” possa ripristinarlo. Un’esecuzione interrotta può essere ripetuta in qualsiasi momento.</translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -1439,6 +1447,10 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <source>Show the commands of</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Projector, command or result</source>
+        <translation>Proiettore, comando o risultato</translation>
+    </message>
 </context>
 <context>
     <name>CommandLogModel</name>
@@ -1559,55 +1571,55 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <name>ConnectionFields</name>
     <message>
         <source>&amp;Reached through</source>
-        <translation>&amp;Raggiungibile tramite</translation>
+        <translation type="unfinished">&amp;Raggiungibile tramite</translation>
     </message>
     <message>
         <source>Connect&amp;ion</source>
-        <translation>Connes&amp;sione</translation>
+        <translation type="unfinished">Connes&amp;sione</translation>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation>&amp;Indirizzo</translation>
+        <translation type="unfinished">&amp;Indirizzo</translation>
     </message>
     <message>
         <source>&amp;Port</source>
-        <translation>&amp;Porta</translation>
+        <translation type="unfinished">&amp;Porta</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
-        <translation>Pass&amp;word</translation>
+        <translation type="unfinished">Pass&amp;word</translation>
     </message>
     <message>
         <source>Port n&amp;umber</source>
-        <translation>N&amp;umero di porta</translation>
+        <translation type="unfinished">N&amp;umero di porta</translation>
     </message>
     <message>
         <source>&amp;Device</source>
-        <translation>&amp;Dispositivo</translation>
+        <translation type="unfinished">&amp;Dispositivo</translation>
     </message>
     <message>
         <source>&amp;Baud</source>
-        <translation>&amp;Baud</translation>
+        <translation type="unfinished">&amp;Baud</translation>
     </message>
     <message>
         <source>As its family</source>
-        <translation>Come la famiglia</translation>
+        <translation type="unfinished">Come la famiglia</translation>
     </message>
     <message>
         <source>Simulated</source>
-        <translation>Simulato</translation>
+        <translation type="unfinished">Simulato</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation>Rete</translation>
+        <translation type="unfinished">Rete</translation>
     </message>
     <message>
         <source>Serial port</source>
-        <translation>Porta seriale</translation>
+        <translation type="unfinished">Porta seriale</translation>
     </message>
     <message>
         <source>%1 is no address.</source>
-        <translation>%1 non è un indirizzo.</translation>
+        <translation type="unfinished">%1 non è un indirizzo.</translation>
     </message>
 </context>
 <context>
@@ -2351,27 +2363,27 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <name>ModelFields</name>
     <message>
         <source>&amp;Family</source>
-        <translation>&amp;Famiglia</translation>
+        <translation type="unfinished">&amp;Famiglia</translation>
     </message>
     <message>
         <source>&amp;Model</source>
-        <translation>&amp;Modello</translation>
+        <translation type="unfinished">&amp;Modello</translation>
     </message>
     <message>
         <source>All &amp;fields of the model</source>
-        <translation>Tutti i c&amp;ampi del modello</translation>
+        <translation type="unfinished">Tutti i c&amp;ampi del modello</translation>
     </message>
     <message>
         <source>Dialog &amp;type</source>
-        <translation>&amp;Tipo di finestra di dialogo</translation>
+        <translation type="unfinished">&amp;Tipo di finestra di dialogo</translation>
     </message>
     <message>
         <source>Model cod&amp;e</source>
-        <translation>&amp;Codice del modello</translation>
+        <translation type="unfinished">&amp;Codice del modello</translation>
     </message>
     <message>
         <source>None</source>
-        <translation>Nessuna</translation>
+        <translation type="unfinished">Nessuna</translation>
     </message>
 </context>
 <context>
@@ -2597,6 +2609,21 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <message>
         <source>Should be</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name of the preset:</source>
+        <translation>Nome della preimpostazione:</translation>
+    </message>
+    <message numerus="yes">
+        <source>Put the preset %1 on %n projectors?</source>
+        <translation>
+            <numerusform>Applicare la preimpostazione %1 a %n proiettore?</numerusform>
+            <numerusform>Applicare la preimpostazione %1 a %n proiettori?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation>Confronta</translation>
     </message>
 </context>
 <context>
@@ -2940,31 +2967,31 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     <name>ProfileFileActions</name>
     <message>
         <source>&amp;Open Profiles…</source>
-        <translation>&amp;Apri profili…</translation>
+        <translation type="unfinished">&amp;Apri profili…</translation>
     </message>
     <message>
         <source>&amp;Reload</source>
-        <translation>&amp;Ricarica</translation>
+        <translation type="unfinished">&amp;Ricarica</translation>
     </message>
     <message>
         <source>&amp;Save Profiles As…</source>
-        <translation>&amp;Salva profili con nome…</translation>
+        <translation type="unfinished">&amp;Salva profili con nome…</translation>
     </message>
     <message>
         <source>Open Profiles</source>
-        <translation>Apri profili</translation>
+        <translation type="unfinished">Apri profili</translation>
     </message>
     <message>
         <source>Profiles (*.json);;All files (*)</source>
-        <translation>Profili (*.json);;Tutti i file (*)</translation>
+        <translation type="unfinished">Profili (*.json);;Tutti i file (*)</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation>Ricarica</translation>
+        <translation type="unfinished">Ricarica</translation>
     </message>
     <message>
         <source>Save Profiles As</source>
-        <translation>Salva profili con nome</translation>
+        <translation type="unfinished">Salva profili con nome</translation>
     </message>
     <message>
         <source>Read-Only File</source>
@@ -2976,22 +3003,22 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     </message>
     <message>
         <source>Save Profiles As…</source>
-        <translation>Salva profili con nome…</translation>
+        <translation type="unfinished">Salva profili con nome…</translation>
     </message>
 </context>
 <context>
     <name>ProfileHistory</name>
     <message>
         <source>&amp;Undo</source>
-        <translation>Ann&amp;ulla</translation>
+        <translation type="unfinished">Ann&amp;ulla</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation>Ri&amp;peti</translation>
+        <translation type="unfinished">Ri&amp;peti</translation>
     </message>
     <message>
         <source>This could not be done; nothing was changed.</source>
-        <translation>Non è stato possibile; nulla è stato cambiato.</translation>
+        <translation type="unfinished">Non è stato possibile; nulla è stato cambiato.</translation>
     </message>
 </context>
 <context>
@@ -3044,51 +3071,51 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
-        <translation>Nome</translation>
+        <translation type="unfinished">Nome</translation>
     </message>
     <message>
         <source>State</source>
-        <translation>Stato</translation>
+        <translation type="unfinished">Stato</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation>Alimentazione</translation>
+        <translation type="unfinished">Alimentazione</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation>Sorgente</translation>
+        <translation type="unfinished">Sorgente</translation>
     </message>
     <message>
         <source>Lamp</source>
-        <translation>Lampada</translation>
+        <translation type="unfinished">Lampada</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation>Problema</translation>
+        <translation type="unfinished">Problema</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation>Modello</translation>
+        <translation type="unfinished">Modello</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation>Luogo</translation>
+        <translation type="unfinished">Luogo</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation>Impostazioni</translation>
+        <translation type="unfinished">Impostazioni</translation>
     </message>
     <message>
         <source>Last answer</source>
-        <translation>Ultima risposta</translation>
+        <translation type="unfinished">Ultima risposta</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation>Indirizzo</translation>
+        <translation type="unfinished">Indirizzo</translation>
     </message>
     <message>
         <source>%1 · open</source>
-        <translation>%1 · aperta</translation>
+        <translation type="unfinished">%1 · aperta</translation>
     </message>
 </context>
 <context>
@@ -3284,6 +3311,29 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     <message>
         <source>The values before are kept in %1.</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: no answer</source>
+        <translation>%1: nessuna risposta</translation>
+    </message>
+    <message>
+        <source>%1: nothing can be read</source>
+        <translation>%1: non si può leggere nulla</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n settings cannot be read and are left out</source>
+        <translation>
+            <numerusform>%1: %n impostazione non può essere letta e viene tralasciata</numerusform>
+            <numerusform>%1: %n impostazioni non possono essere lette e vengono tralasciate</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Waiting for the projector of an open dialog…</source>
+        <translation>In attesa del proiettore di una finestra di dialogo aperta…</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Ferma</translation>
     </message>
 </context>
 <context>
@@ -3773,134 +3823,134 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
-        <translation>Acce&amp;ndi</translation>
+        <translation type="unfinished">Acce&amp;ndi</translation>
     </message>
     <message>
         <source>Switch O&amp;ff</source>
-        <translation>S&amp;pegni</translation>
+        <translation type="unfinished">S&amp;pegni</translation>
     </message>
     <message>
         <source>P&amp;ower</source>
-        <translation>A&amp;limentazione</translation>
+        <translation type="unfinished">A&amp;limentazione</translation>
     </message>
     <message>
         <source>&amp;Input</source>
-        <translation>&amp;Ingresso</translation>
+        <translation type="unfinished">&amp;Ingresso</translation>
     </message>
     <message>
         <source>&amp;Blank</source>
-        <translation>Schermo &amp;vuoto</translation>
+        <translation type="unfinished">Schermo &amp;vuoto</translation>
     </message>
     <message>
         <source>Blank the Picture</source>
-        <translation>Mostra schermo vuoto</translation>
+        <translation type="unfinished">Mostra schermo vuoto</translation>
     </message>
     <message numerus="yes">
         <source>Blank the picture of %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Mostrare uno schermo vuoto su %n proiettore?</numerusform>
             <numerusform>Mostrare uno schermo vuoto su %n proiettori?</numerusform>
         </translation>
     </message>
     <message>
         <source>Show the Picture</source>
-        <translation>Mostra l’immagine</translation>
+        <translation type="unfinished">Mostra l’immagine</translation>
     </message>
     <message numerus="yes">
         <source>Show the picture of %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Mostrare l’immagine di %n proiettore?</numerusform>
             <numerusform>Mostrare l’immagine di %n proiettori?</numerusform>
         </translation>
     </message>
     <message>
         <source>&amp;Mute</source>
-        <translation>M&amp;uto</translation>
+        <translation type="unfinished">M&amp;uto</translation>
     </message>
     <message>
         <source>Mute the Sound</source>
-        <translation>Disattiva il suono</translation>
+        <translation type="unfinished">Disattiva il suono</translation>
     </message>
     <message numerus="yes">
         <source>Mute the sound of %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Disattivare il suono di %n proiettore?</numerusform>
             <numerusform>Disattivare il suono di %n proiettori?</numerusform>
         </translation>
     </message>
     <message>
         <source>Unmute the Sound</source>
-        <translation>Riattiva il suono</translation>
+        <translation type="unfinished">Riattiva il suono</translation>
     </message>
     <message numerus="yes">
         <source>Unmute the sound of %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Riattivare il suono di %n proiettore?</numerusform>
             <numerusform>Riattivare il suono di %n proiettori?</numerusform>
         </translation>
     </message>
     <message>
         <source>Free&amp;ze</source>
-        <translation>&amp;Fermo immagine</translation>
+        <translation type="unfinished">&amp;Fermo immagine</translation>
     </message>
     <message>
         <source>Freeze the Picture</source>
-        <translation>Ferma l’immagine</translation>
+        <translation type="unfinished">Ferma l’immagine</translation>
     </message>
     <message numerus="yes">
         <source>Freeze the picture of %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Fermare l’immagine di %n proiettore?</numerusform>
             <numerusform>Fermare l’immagine di %n proiettori?</numerusform>
         </translation>
     </message>
     <message>
         <source>Release the Picture</source>
-        <translation>Sblocca l’immagine</translation>
+        <translation type="unfinished">Sblocca l’immagine</translation>
     </message>
     <message numerus="yes">
         <source>Release the picture of %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Sbloccare l’immagine di %n proiettore?</numerusform>
             <numerusform>Sbloccare l’immagine di %n proiettori?</numerusform>
         </translation>
     </message>
     <message>
         <source>Switch On</source>
-        <translation>Accendi</translation>
+        <translation type="unfinished">Accendi</translation>
     </message>
     <message>
         <source>Switch Off</source>
-        <translation>Spegni</translation>
+        <translation type="unfinished">Spegni</translation>
     </message>
     <message numerus="yes">
         <source>Switch on %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Accendere %n proiettore?</numerusform>
             <numerusform>Accendere %n proiettori?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Switch off %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Spegnere %n proiettore?</numerusform>
             <numerusform>Spegnere %n proiettori?</numerusform>
         </translation>
     </message>
     <message>
         <source>Input %1</source>
-        <translation>Ingresso %1</translation>
+        <translation type="unfinished">Ingresso %1</translation>
     </message>
     <message numerus="yes">
         <source>Choose the input %1 on %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Scegliere l’ingresso %1 su %n proiettore?</numerusform>
             <numerusform>Scegliere l’ingresso %1 su %n proiettori?</numerusform>
         </translation>
     </message>
     <message>
         <source>No inputs are known</source>
-        <translation>Nessun ingresso noto</translation>
+        <translation type="unfinished">Nessun ingresso noto</translation>
     </message>
 </context>
 <context>
@@ -4023,6 +4073,193 @@ un segno meno davanti toglie un’etichetta:</numerusform>
         <translation type="unfinished">
             <numerusform></numerusform>
             <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>RestoreDialog</name>
+    <message>
+        <source>Projector</source>
+        <translation>Proiettore</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Impostazione</translation>
+    </message>
+    <message>
+        <source>Here</source>
+        <translation>Qui</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Risultato</translation>
+    </message>
+    <message>
+        <source>not read</source>
+        <translation>non letta</translation>
+    </message>
+    <message>
+        <source>already so</source>
+        <translation>invariata</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>diversa</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>cambiata</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>rifiutata</translation>
+    </message>
+    <message>
+        <source>accepted, not yet so</source>
+        <translation>accettata, non ancora attiva</translation>
+    </message>
+    <message>
+        <source>refused: the projector is busy or in standby</source>
+        <translation>rifiutata: il proiettore è occupato o in standby</translation>
+    </message>
+    <message>
+        <source>not confirmed</source>
+        <translation>non confermata</translation>
+    </message>
+    <message>
+        <source>skipped: this model does not have it</source>
+        <translation>ignorata: questo modello non la ha</translation>
+    </message>
+    <message>
+        <source>skipped: this projector does not offer it</source>
+        <translation>ignorata: questo proiettore non la offre</translation>
+    </message>
+    <message>
+        <source>skipped: it is not one to put back</source>
+        <translation>ignorata: non si ripristina</translation>
+    </message>
+    <message>
+        <source>skipped: this model does not take the value</source>
+        <translation>ignorata: questo modello non accetta il valore</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n changed</source>
+        <extracomment>How many settings came to this, in a list such as &quot;12 changed, 3 refused&quot;.</extracomment>
+        <translation>
+            <numerusform>%n cambiata</numerusform>
+            <numerusform>%n cambiate</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n different</source>
+        <translation>
+            <numerusform>%n diversa</numerusform>
+            <numerusform>%n diverse</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n already so</source>
+        <translation>
+            <numerusform>%n invariata</numerusform>
+            <numerusform>%n invariate</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not yet so</source>
+        <translation>
+            <numerusform>%n non ancora attiva</numerusform>
+            <numerusform>%n non ancora attive</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n refused</source>
+        <translation>
+            <numerusform>%n rifiutata</numerusform>
+            <numerusform>%n rifiutate</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not confirmed</source>
+        <translation>
+            <numerusform>%n non confermata</numerusform>
+            <numerusform>%n non confermate</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not read</source>
+        <translation>
+            <numerusform>%n non letta</numerusform>
+            <numerusform>%n non lette</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n skipped</source>
+        <translation>
+            <numerusform>%n ignorata</numerusform>
+            <numerusform>%n ignorate</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Apply Settings</source>
+        <translation>Applica impostazioni</translation>
+    </message>
+    <message>
+        <source>Compare Settings</source>
+        <translation>Confronta impostazioni</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtra</translation>
+    </message>
+    <message>
+        <source>&amp;Differences only</source>
+        <translation>Solo &amp;differenze</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Impostazioni</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Avanzamento</translation>
+    </message>
+    <message>
+        <source>&amp;Compare Again</source>
+        <translation>&amp;Confronta di nuovo</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>&amp;Applica</translation>
+    </message>
+    <message>
+        <source>Waiting for the projector of an open dialog…</source>
+        <translation>In attesa del proiettore di una finestra di dialogo aperta…</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Ferma</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Beforehand: other sources and modes</source>
+        <translation>Prima: altre sorgenti e modalità</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings</source>
+        <translation>
+            <numerusform>%n impostazione</numerusform>
+            <numerusform>%n impostazioni</numerusform>
         </translation>
     </message>
 </context>

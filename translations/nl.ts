@@ -1013,6 +1013,14 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Prints what differs from a file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder.</source>
+        <translation>Toont wat afwijkt van een bestand (‘-’ is de standaardinvoer), of van het eigen bestand van elke projector in een map.</translation>
+    </message>
+    <message>
+        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
+        <translation>Leest de projectors, stuurt wat afwijkt van het bestand (‘-’ is de standaardinvoer), of van het eigen bestand van elke projector in een map, en leest het terug. Wat vervangen wordt, wordt eerst bewaard, zodat ‘acctl undo’ het kan herstellen. Een afgebroken uitvoering kan altijd herhaald worden.</translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -1439,6 +1447,10 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <source>Show the commands of</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Projector, command or result</source>
+        <translation>Projector, opdracht of resultaat</translation>
+    </message>
 </context>
 <context>
     <name>CommandLogModel</name>
@@ -1559,55 +1571,55 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <name>ConnectionFields</name>
     <message>
         <source>&amp;Reached through</source>
-        <translation>Be&amp;reikbaar via</translation>
+        <translation type="unfinished">Be&amp;reikbaar via</translation>
     </message>
     <message>
         <source>Connect&amp;ion</source>
-        <translation>Ver&amp;binding</translation>
+        <translation type="unfinished">Ver&amp;binding</translation>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation>&amp;Adres</translation>
+        <translation type="unfinished">&amp;Adres</translation>
     </message>
     <message>
         <source>&amp;Port</source>
-        <translation>&amp;Poort</translation>
+        <translation type="unfinished">&amp;Poort</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
-        <translation>&amp;Wachtwoord</translation>
+        <translation type="unfinished">&amp;Wachtwoord</translation>
     </message>
     <message>
         <source>Port n&amp;umber</source>
-        <translation>Poortn&amp;ummer</translation>
+        <translation type="unfinished">Poortn&amp;ummer</translation>
     </message>
     <message>
         <source>&amp;Device</source>
-        <translation>Apparaa&amp;t</translation>
+        <translation type="unfinished">Apparaa&amp;t</translation>
     </message>
     <message>
         <source>&amp;Baud</source>
-        <translation>Bau&amp;drate</translation>
+        <translation type="unfinished">Bau&amp;drate</translation>
     </message>
     <message>
         <source>As its family</source>
-        <translation>Zoals de familie</translation>
+        <translation type="unfinished">Zoals de familie</translation>
     </message>
     <message>
         <source>Simulated</source>
-        <translation>Gesimuleerd</translation>
+        <translation type="unfinished">Gesimuleerd</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation>Netwerk</translation>
+        <translation type="unfinished">Netwerk</translation>
     </message>
     <message>
         <source>Serial port</source>
-        <translation>Seriële poort</translation>
+        <translation type="unfinished">Seriële poort</translation>
     </message>
     <message>
         <source>%1 is no address.</source>
-        <translation>%1 is geen adres.</translation>
+        <translation type="unfinished">%1 is geen adres.</translation>
     </message>
 </context>
 <context>
@@ -2351,27 +2363,27 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <name>ModelFields</name>
     <message>
         <source>&amp;Family</source>
-        <translation>&amp;Familie</translation>
+        <translation type="unfinished">&amp;Familie</translation>
     </message>
     <message>
         <source>&amp;Model</source>
-        <translation>&amp;Model</translation>
+        <translation type="unfinished">&amp;Model</translation>
     </message>
     <message>
         <source>All &amp;fields of the model</source>
-        <translation>Alle &amp;velden van het model</translation>
+        <translation type="unfinished">Alle &amp;velden van het model</translation>
     </message>
     <message>
         <source>Dialog &amp;type</source>
-        <translation>&amp;Soort dialoogvenster</translation>
+        <translation type="unfinished">&amp;Soort dialoogvenster</translation>
     </message>
     <message>
         <source>Model cod&amp;e</source>
-        <translation>Model&amp;code</translation>
+        <translation type="unfinished">Model&amp;code</translation>
     </message>
     <message>
         <source>None</source>
-        <translation>Geen</translation>
+        <translation type="unfinished">Geen</translation>
     </message>
 </context>
 <context>
@@ -2597,6 +2609,21 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <message>
         <source>Should be</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name of the preset:</source>
+        <translation>Naam van de voorinstelling:</translation>
+    </message>
+    <message numerus="yes">
+        <source>Put the preset %1 on %n projectors?</source>
+        <translation>
+            <numerusform>Voorinstelling %1 toepassen op %n projector?</numerusform>
+            <numerusform>Voorinstelling %1 toepassen op %n projectors?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation>Vergelijken</translation>
     </message>
 </context>
 <context>
@@ -2940,31 +2967,31 @@ een minteken ervoor neemt een label weg:</numerusform>
     <name>ProfileFileActions</name>
     <message>
         <source>&amp;Open Profiles…</source>
-        <translation>Profielen &amp;openen…</translation>
+        <translation type="unfinished">Profielen &amp;openen…</translation>
     </message>
     <message>
         <source>&amp;Reload</source>
-        <translation>&amp;Herladen</translation>
+        <translation type="unfinished">&amp;Herladen</translation>
     </message>
     <message>
         <source>&amp;Save Profiles As…</source>
-        <translation>&amp;Profielen opslaan als…</translation>
+        <translation type="unfinished">&amp;Profielen opslaan als…</translation>
     </message>
     <message>
         <source>Open Profiles</source>
-        <translation>Profielen openen</translation>
+        <translation type="unfinished">Profielen openen</translation>
     </message>
     <message>
         <source>Profiles (*.json);;All files (*)</source>
-        <translation>Profielen (*.json);;Alle bestanden (*)</translation>
+        <translation type="unfinished">Profielen (*.json);;Alle bestanden (*)</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation>Herladen</translation>
+        <translation type="unfinished">Herladen</translation>
     </message>
     <message>
         <source>Save Profiles As</source>
-        <translation>Profielen opslaan als</translation>
+        <translation type="unfinished">Profielen opslaan als</translation>
     </message>
     <message>
         <source>Read-Only File</source>
@@ -2976,22 +3003,22 @@ een minteken ervoor neemt een label weg:</numerusform>
     </message>
     <message>
         <source>Save Profiles As…</source>
-        <translation>Profielen opslaan als…</translation>
+        <translation type="unfinished">Profielen opslaan als…</translation>
     </message>
 </context>
 <context>
     <name>ProfileHistory</name>
     <message>
         <source>&amp;Undo</source>
-        <translation>&amp;Ongedaan maken</translation>
+        <translation type="unfinished">&amp;Ongedaan maken</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation>Op&amp;nieuw</translation>
+        <translation type="unfinished">Op&amp;nieuw</translation>
     </message>
     <message>
         <source>This could not be done; nothing was changed.</source>
-        <translation>Dit was niet mogelijk; er is niets gewijzigd.</translation>
+        <translation type="unfinished">Dit was niet mogelijk; er is niets gewijzigd.</translation>
     </message>
 </context>
 <context>
@@ -3044,51 +3071,51 @@ een minteken ervoor neemt een label weg:</numerusform>
     <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
-        <translation>Naam</translation>
+        <translation type="unfinished">Naam</translation>
     </message>
     <message>
         <source>State</source>
-        <translation>Toestand</translation>
+        <translation type="unfinished">Toestand</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation>Voeding</translation>
+        <translation type="unfinished">Voeding</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation>Bron</translation>
+        <translation type="unfinished">Bron</translation>
     </message>
     <message>
         <source>Lamp</source>
-        <translation>Lamp</translation>
+        <translation type="unfinished">Lamp</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation>Probleem</translation>
+        <translation type="unfinished">Probleem</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation>Model</translation>
+        <translation type="unfinished">Model</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation>Plaats</translation>
+        <translation type="unfinished">Plaats</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation>Instellingen</translation>
+        <translation type="unfinished">Instellingen</translation>
     </message>
     <message>
         <source>Last answer</source>
-        <translation>Laatste antwoord</translation>
+        <translation type="unfinished">Laatste antwoord</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation>Adres</translation>
+        <translation type="unfinished">Adres</translation>
     </message>
     <message>
         <source>%1 · open</source>
-        <translation>%1 · open</translation>
+        <translation type="unfinished">%1 · open</translation>
     </message>
 </context>
 <context>
@@ -3284,6 +3311,29 @@ een minteken ervoor neemt een label weg:</numerusform>
     <message>
         <source>The values before are kept in %1.</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: no answer</source>
+        <translation>%1: geen antwoord</translation>
+    </message>
+    <message>
+        <source>%1: nothing can be read</source>
+        <translation>%1: er kan niets gelezen worden</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n settings cannot be read and are left out</source>
+        <translation>
+            <numerusform>%1: %n instelling kan niet gelezen worden en wordt weggelaten</numerusform>
+            <numerusform>%1: %n instellingen kunnen niet gelezen worden en worden weggelaten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Waiting for the projector of an open dialog…</source>
+        <translation>Wacht op de projector van een open dialoogvenster…</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stoppen</translation>
     </message>
 </context>
 <context>
@@ -3773,134 +3823,134 @@ een minteken ervoor neemt een label weg:</numerusform>
     <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
-        <translation>I&amp;nschakelen</translation>
+        <translation type="unfinished">I&amp;nschakelen</translation>
     </message>
     <message>
         <source>Switch O&amp;ff</source>
-        <translation>&amp;Uitschakelen</translation>
+        <translation type="unfinished">&amp;Uitschakelen</translation>
     </message>
     <message>
         <source>P&amp;ower</source>
-        <translation>V&amp;oeding</translation>
+        <translation type="unfinished">V&amp;oeding</translation>
     </message>
     <message>
         <source>&amp;Input</source>
-        <translation>In&amp;gang</translation>
+        <translation type="unfinished">In&amp;gang</translation>
     </message>
     <message>
         <source>&amp;Blank</source>
-        <translation>&amp;Leeg beeld</translation>
+        <translation type="unfinished">&amp;Leeg beeld</translation>
     </message>
     <message>
         <source>Blank the Picture</source>
-        <translation>Leeg beeld tonen</translation>
+        <translation type="unfinished">Leeg beeld tonen</translation>
     </message>
     <message numerus="yes">
         <source>Blank the picture of %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Een leeg beeld tonen op %n projector?</numerusform>
             <numerusform>Een leeg beeld tonen op %n projectors?</numerusform>
         </translation>
     </message>
     <message>
         <source>Show the Picture</source>
-        <translation>Beeld tonen</translation>
+        <translation type="unfinished">Beeld tonen</translation>
     </message>
     <message numerus="yes">
         <source>Show the picture of %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Het beeld van %n projector tonen?</numerusform>
             <numerusform>Het beeld van %n projectors tonen?</numerusform>
         </translation>
     </message>
     <message>
         <source>&amp;Mute</source>
-        <translation>De&amp;mpen</translation>
+        <translation type="unfinished">De&amp;mpen</translation>
     </message>
     <message>
         <source>Mute the Sound</source>
-        <translation>Geluid dempen</translation>
+        <translation type="unfinished">Geluid dempen</translation>
     </message>
     <message numerus="yes">
         <source>Mute the sound of %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Het geluid van %n projector dempen?</numerusform>
             <numerusform>Het geluid van %n projectors dempen?</numerusform>
         </translation>
     </message>
     <message>
         <source>Unmute the Sound</source>
-        <translation>Geluid inschakelen</translation>
+        <translation type="unfinished">Geluid inschakelen</translation>
     </message>
     <message numerus="yes">
         <source>Unmute the sound of %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Het geluid van %n projector inschakelen?</numerusform>
             <numerusform>Het geluid van %n projectors inschakelen?</numerusform>
         </translation>
     </message>
     <message>
         <source>Free&amp;ze</source>
-        <translation>Beeld be&amp;vriezen</translation>
+        <translation type="unfinished">Beeld be&amp;vriezen</translation>
     </message>
     <message>
         <source>Freeze the Picture</source>
-        <translation>Beeld bevriezen</translation>
+        <translation type="unfinished">Beeld bevriezen</translation>
     </message>
     <message numerus="yes">
         <source>Freeze the picture of %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Het beeld van %n projector bevriezen?</numerusform>
             <numerusform>Het beeld van %n projectors bevriezen?</numerusform>
         </translation>
     </message>
     <message>
         <source>Release the Picture</source>
-        <translation>Beeld vrijgeven</translation>
+        <translation type="unfinished">Beeld vrijgeven</translation>
     </message>
     <message numerus="yes">
         <source>Release the picture of %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Het beeld van %n projector vrijgeven?</numerusform>
             <numerusform>Het beeld van %n projectors vrijgeven?</numerusform>
         </translation>
     </message>
     <message>
         <source>Switch On</source>
-        <translation>Inschakelen</translation>
+        <translation type="unfinished">Inschakelen</translation>
     </message>
     <message>
         <source>Switch Off</source>
-        <translation>Uitschakelen</translation>
+        <translation type="unfinished">Uitschakelen</translation>
     </message>
     <message numerus="yes">
         <source>Switch on %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>%n projector inschakelen?</numerusform>
             <numerusform>%n projectors inschakelen?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Switch off %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>%n projector uitschakelen?</numerusform>
             <numerusform>%n projectors uitschakelen?</numerusform>
         </translation>
     </message>
     <message>
         <source>Input %1</source>
-        <translation>Ingang %1</translation>
+        <translation type="unfinished">Ingang %1</translation>
     </message>
     <message numerus="yes">
         <source>Choose the input %1 on %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Ingang %1 kiezen op %n projector?</numerusform>
             <numerusform>Ingang %1 kiezen op %n projectors?</numerusform>
         </translation>
     </message>
     <message>
         <source>No inputs are known</source>
-        <translation>Geen ingangen bekend</translation>
+        <translation type="unfinished">Geen ingangen bekend</translation>
     </message>
 </context>
 <context>
@@ -4023,6 +4073,193 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation type="unfinished">
             <numerusform></numerusform>
             <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>RestoreDialog</name>
+    <message>
+        <source>Projector</source>
+        <translation>Projector</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Instelling</translation>
+    </message>
+    <message>
+        <source>Here</source>
+        <translation>Hier</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Bestand</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Resultaat</translation>
+    </message>
+    <message>
+        <source>not read</source>
+        <translation>niet gelezen</translation>
+    </message>
+    <message>
+        <source>already so</source>
+        <translation>ongewijzigd</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>afwijkend</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>gewijzigd</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>geweigerd</translation>
+    </message>
+    <message>
+        <source>accepted, not yet so</source>
+        <translation>aanvaard, nog niet van kracht</translation>
+    </message>
+    <message>
+        <source>refused: the projector is busy or in standby</source>
+        <translation>geweigerd: de projector is bezet of in stand-by</translation>
+    </message>
+    <message>
+        <source>not confirmed</source>
+        <translation>niet bevestigd</translation>
+    </message>
+    <message>
+        <source>skipped: this model does not have it</source>
+        <translation>overgeslagen: dit model heeft het niet</translation>
+    </message>
+    <message>
+        <source>skipped: this projector does not offer it</source>
+        <translation>overgeslagen: deze projector biedt het niet</translation>
+    </message>
+    <message>
+        <source>skipped: it is not one to put back</source>
+        <translation>overgeslagen: wordt niet hersteld</translation>
+    </message>
+    <message>
+        <source>skipped: this model does not take the value</source>
+        <translation>overgeslagen: dit model aanvaardt de waarde niet</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n changed</source>
+        <extracomment>How many settings came to this, in a list such as &quot;12 changed, 3 refused&quot;.</extracomment>
+        <translation>
+            <numerusform>%n gewijzigd</numerusform>
+            <numerusform>%n gewijzigd</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n different</source>
+        <translation>
+            <numerusform>%n afwijkend</numerusform>
+            <numerusform>%n afwijkend</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n already so</source>
+        <translation>
+            <numerusform>%n ongewijzigd</numerusform>
+            <numerusform>%n ongewijzigd</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not yet so</source>
+        <translation>
+            <numerusform>%n nog niet van kracht</numerusform>
+            <numerusform>%n nog niet van kracht</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n refused</source>
+        <translation>
+            <numerusform>%n geweigerd</numerusform>
+            <numerusform>%n geweigerd</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not confirmed</source>
+        <translation>
+            <numerusform>%n niet bevestigd</numerusform>
+            <numerusform>%n niet bevestigd</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not read</source>
+        <translation>
+            <numerusform>%n niet gelezen</numerusform>
+            <numerusform>%n niet gelezen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n skipped</source>
+        <translation>
+            <numerusform>%n overgeslagen</numerusform>
+            <numerusform>%n overgeslagen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Apply Settings</source>
+        <translation>Instellingen toepassen</translation>
+    </message>
+    <message>
+        <source>Compare Settings</source>
+        <translation>Instellingen vergelijken</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filteren</translation>
+    </message>
+    <message>
+        <source>&amp;Differences only</source>
+        <translation>Alleen &amp;verschillen</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Instellingen</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Voortgang</translation>
+    </message>
+    <message>
+        <source>&amp;Compare Again</source>
+        <translation>Opnieuw ver&amp;gelijken</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>&amp;Toepassen</translation>
+    </message>
+    <message>
+        <source>Waiting for the projector of an open dialog…</source>
+        <translation>Wacht op de projector van een open dialoogvenster…</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stoppen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Beforehand: other sources and modes</source>
+        <translation>Vooraf: andere bronnen en modi</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings</source>
+        <translation>
+            <numerusform>%n instelling</numerusform>
+            <numerusform>%n instellingen</numerusform>
         </translation>
     </message>
 </context>

@@ -1013,6 +1013,14 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Prints what differs from a file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder.</source>
+        <translation>Mostra o que difere de um arquivo (“-” é a entrada padrão), ou do arquivo de cada projetor em uma pasta.</translation>
+    </message>
+    <message>
+        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
+        <translation>Lê os projetores, envia o que difere do arquivo (“-” é a entrada padrão), ou do arquivo de cada projetor em uma pasta, e relê. O que é substituído é guardado antes, para que “acctl undo” possa restaurá-lo. Uma execução interrompida pode ser repetida a qualquer momento.</translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -1439,6 +1447,10 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <source>Show the commands of</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Projector, command or result</source>
+        <translation>Projetor, comando ou resultado</translation>
+    </message>
 </context>
 <context>
     <name>CommandLogModel</name>
@@ -1559,55 +1571,55 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <name>ConnectionFields</name>
     <message>
         <source>&amp;Reached through</source>
-        <translation>Acessível &amp;por</translation>
+        <translation type="unfinished">Acessível &amp;por</translation>
     </message>
     <message>
         <source>Connect&amp;ion</source>
-        <translation>Cone&amp;xão</translation>
+        <translation type="unfinished">Cone&amp;xão</translation>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation>&amp;Endereço</translation>
+        <translation type="unfinished">&amp;Endereço</translation>
     </message>
     <message>
         <source>&amp;Port</source>
-        <translation>P&amp;orta</translation>
+        <translation type="unfinished">P&amp;orta</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
-        <translation>&amp;Senha</translation>
+        <translation type="unfinished">&amp;Senha</translation>
     </message>
     <message>
         <source>Port n&amp;umber</source>
-        <translation>N&amp;úmero da porta</translation>
+        <translation type="unfinished">N&amp;úmero da porta</translation>
     </message>
     <message>
         <source>&amp;Device</source>
-        <translation>&amp;Dispositivo</translation>
+        <translation type="unfinished">&amp;Dispositivo</translation>
     </message>
     <message>
         <source>&amp;Baud</source>
-        <translation>&amp;Taxa em bauds</translation>
+        <translation type="unfinished">&amp;Taxa em bauds</translation>
     </message>
     <message>
         <source>As its family</source>
-        <translation>Como sua família</translation>
+        <translation type="unfinished">Como sua família</translation>
     </message>
     <message>
         <source>Simulated</source>
-        <translation>Simulado</translation>
+        <translation type="unfinished">Simulado</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation>Rede</translation>
+        <translation type="unfinished">Rede</translation>
     </message>
     <message>
         <source>Serial port</source>
-        <translation>Porta serial</translation>
+        <translation type="unfinished">Porta serial</translation>
     </message>
     <message>
         <source>%1 is no address.</source>
-        <translation>%1 não é um endereço.</translation>
+        <translation type="unfinished">%1 não é um endereço.</translation>
     </message>
 </context>
 <context>
@@ -2351,27 +2363,27 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <name>ModelFields</name>
     <message>
         <source>&amp;Family</source>
-        <translation>&amp;Família</translation>
+        <translation type="unfinished">&amp;Família</translation>
     </message>
     <message>
         <source>&amp;Model</source>
-        <translation>&amp;Modelo</translation>
+        <translation type="unfinished">&amp;Modelo</translation>
     </message>
     <message>
         <source>All &amp;fields of the model</source>
-        <translation>Todos os campos do mode&amp;lo</translation>
+        <translation type="unfinished">Todos os campos do mode&amp;lo</translation>
     </message>
     <message>
         <source>Dialog &amp;type</source>
-        <translation>&amp;Tipo de caixa de diálogo</translation>
+        <translation type="unfinished">&amp;Tipo de caixa de diálogo</translation>
     </message>
     <message>
         <source>Model cod&amp;e</source>
-        <translation>&amp;Código do modelo</translation>
+        <translation type="unfinished">&amp;Código do modelo</translation>
     </message>
     <message>
         <source>None</source>
-        <translation>Nenhuma</translation>
+        <translation type="unfinished">Nenhuma</translation>
     </message>
 </context>
 <context>
@@ -2597,6 +2609,21 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <message>
         <source>Should be</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name of the preset:</source>
+        <translation>Nome da predefinição:</translation>
+    </message>
+    <message numerus="yes">
+        <source>Put the preset %1 on %n projectors?</source>
+        <translation>
+            <numerusform>Aplicar a predefinição %1 a %n projetor?</numerusform>
+            <numerusform>Aplicar a predefinição %1 a %n projetores?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation>Comparar</translation>
     </message>
 </context>
 <context>
@@ -2940,31 +2967,31 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
     <name>ProfileFileActions</name>
     <message>
         <source>&amp;Open Profiles…</source>
-        <translation>&amp;Abrir perfis…</translation>
+        <translation type="unfinished">&amp;Abrir perfis…</translation>
     </message>
     <message>
         <source>&amp;Reload</source>
-        <translation>&amp;Recarregar</translation>
+        <translation type="unfinished">&amp;Recarregar</translation>
     </message>
     <message>
         <source>&amp;Save Profiles As…</source>
-        <translation>Sal&amp;var perfis como…</translation>
+        <translation type="unfinished">Sal&amp;var perfis como…</translation>
     </message>
     <message>
         <source>Open Profiles</source>
-        <translation>Abrir perfis</translation>
+        <translation type="unfinished">Abrir perfis</translation>
     </message>
     <message>
         <source>Profiles (*.json);;All files (*)</source>
-        <translation>Perfis (*.json);;Todos os arquivos (*)</translation>
+        <translation type="unfinished">Perfis (*.json);;Todos os arquivos (*)</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation>Recarregar</translation>
+        <translation type="unfinished">Recarregar</translation>
     </message>
     <message>
         <source>Save Profiles As</source>
-        <translation>Salvar perfis como</translation>
+        <translation type="unfinished">Salvar perfis como</translation>
     </message>
     <message>
         <source>Read-Only File</source>
@@ -2976,22 +3003,22 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
     </message>
     <message>
         <source>Save Profiles As…</source>
-        <translation>Salvar perfis como…</translation>
+        <translation type="unfinished">Salvar perfis como…</translation>
     </message>
 </context>
 <context>
     <name>ProfileHistory</name>
     <message>
         <source>&amp;Undo</source>
-        <translation>&amp;Desfazer</translation>
+        <translation type="unfinished">&amp;Desfazer</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation>Re&amp;fazer</translation>
+        <translation type="unfinished">Re&amp;fazer</translation>
     </message>
     <message>
         <source>This could not be done; nothing was changed.</source>
-        <translation>Não foi possível; nada foi alterado.</translation>
+        <translation type="unfinished">Não foi possível; nada foi alterado.</translation>
     </message>
 </context>
 <context>
@@ -3044,51 +3071,51 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
     <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
-        <translation>Nome</translation>
+        <translation type="unfinished">Nome</translation>
     </message>
     <message>
         <source>State</source>
-        <translation>Estado</translation>
+        <translation type="unfinished">Estado</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation>Alimentação</translation>
+        <translation type="unfinished">Alimentação</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation>Fonte</translation>
+        <translation type="unfinished">Fonte</translation>
     </message>
     <message>
         <source>Lamp</source>
-        <translation>Lâmpada</translation>
+        <translation type="unfinished">Lâmpada</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation>Problema</translation>
+        <translation type="unfinished">Problema</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation>Modelo</translation>
+        <translation type="unfinished">Modelo</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation>Local</translation>
+        <translation type="unfinished">Local</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation>Ajustes</translation>
+        <translation type="unfinished">Ajustes</translation>
     </message>
     <message>
         <source>Last answer</source>
-        <translation>Última resposta</translation>
+        <translation type="unfinished">Última resposta</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation>Endereço</translation>
+        <translation type="unfinished">Endereço</translation>
     </message>
     <message>
         <source>%1 · open</source>
-        <translation>%1 · aberto</translation>
+        <translation type="unfinished">%1 · aberto</translation>
     </message>
 </context>
 <context>
@@ -3284,6 +3311,29 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
     <message>
         <source>The values before are kept in %1.</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: no answer</source>
+        <translation>%1: sem resposta</translation>
+    </message>
+    <message>
+        <source>%1: nothing can be read</source>
+        <translation>%1: nada pode ser lido</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n settings cannot be read and are left out</source>
+        <translation>
+            <numerusform>%1: %n ajuste não pode ser lido e é omitido</numerusform>
+            <numerusform>%1: %n ajustes não podem ser lidos e são omitidos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Waiting for the projector of an open dialog…</source>
+        <translation>Aguardando o projetor de uma caixa de diálogo aberta…</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Parar</translation>
     </message>
 </context>
 <context>
@@ -3773,134 +3823,134 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
     <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
-        <translation>&amp;Ligar</translation>
+        <translation type="unfinished">&amp;Ligar</translation>
     </message>
     <message>
         <source>Switch O&amp;ff</source>
-        <translation>&amp;Desligar</translation>
+        <translation type="unfinished">&amp;Desligar</translation>
     </message>
     <message>
         <source>P&amp;ower</source>
-        <translation>Alime&amp;ntação</translation>
+        <translation type="unfinished">Alime&amp;ntação</translation>
     </message>
     <message>
         <source>&amp;Input</source>
-        <translation>&amp;Entrada</translation>
+        <translation type="unfinished">&amp;Entrada</translation>
     </message>
     <message>
         <source>&amp;Blank</source>
-        <translation>Tela &amp;vazia</translation>
+        <translation type="unfinished">Tela &amp;vazia</translation>
     </message>
     <message>
         <source>Blank the Picture</source>
-        <translation>Mostrar tela vazia</translation>
+        <translation type="unfinished">Mostrar tela vazia</translation>
     </message>
     <message numerus="yes">
         <source>Blank the picture of %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Mostrar uma tela vazia em %n projetor?</numerusform>
             <numerusform>Mostrar uma tela vazia em %n projetores?</numerusform>
         </translation>
     </message>
     <message>
         <source>Show the Picture</source>
-        <translation>Mostrar a imagem</translation>
+        <translation type="unfinished">Mostrar a imagem</translation>
     </message>
     <message numerus="yes">
         <source>Show the picture of %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Mostrar a imagem de %n projetor?</numerusform>
             <numerusform>Mostrar a imagem de %n projetores?</numerusform>
         </translation>
     </message>
     <message>
         <source>&amp;Mute</source>
-        <translation>M&amp;udo</translation>
+        <translation type="unfinished">M&amp;udo</translation>
     </message>
     <message>
         <source>Mute the Sound</source>
-        <translation>Silenciar o som</translation>
+        <translation type="unfinished">Silenciar o som</translation>
     </message>
     <message numerus="yes">
         <source>Mute the sound of %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Silenciar o som de %n projetor?</numerusform>
             <numerusform>Silenciar o som de %n projetores?</numerusform>
         </translation>
     </message>
     <message>
         <source>Unmute the Sound</source>
-        <translation>Ativar o som</translation>
+        <translation type="unfinished">Ativar o som</translation>
     </message>
     <message numerus="yes">
         <source>Unmute the sound of %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Ativar o som de %n projetor?</numerusform>
             <numerusform>Ativar o som de %n projetores?</numerusform>
         </translation>
     </message>
     <message>
         <source>Free&amp;ze</source>
-        <translation>Con&amp;gelar</translation>
+        <translation type="unfinished">Con&amp;gelar</translation>
     </message>
     <message>
         <source>Freeze the Picture</source>
-        <translation>Congelar a imagem</translation>
+        <translation type="unfinished">Congelar a imagem</translation>
     </message>
     <message numerus="yes">
         <source>Freeze the picture of %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Congelar a imagem de %n projetor?</numerusform>
             <numerusform>Congelar a imagem de %n projetores?</numerusform>
         </translation>
     </message>
     <message>
         <source>Release the Picture</source>
-        <translation>Descongelar a imagem</translation>
+        <translation type="unfinished">Descongelar a imagem</translation>
     </message>
     <message numerus="yes">
         <source>Release the picture of %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Descongelar a imagem de %n projetor?</numerusform>
             <numerusform>Descongelar a imagem de %n projetores?</numerusform>
         </translation>
     </message>
     <message>
         <source>Switch On</source>
-        <translation>Ligar</translation>
+        <translation type="unfinished">Ligar</translation>
     </message>
     <message>
         <source>Switch Off</source>
-        <translation>Desligar</translation>
+        <translation type="unfinished">Desligar</translation>
     </message>
     <message numerus="yes">
         <source>Switch on %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Ligar %n projetor?</numerusform>
             <numerusform>Ligar %n projetores?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Switch off %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Desligar %n projetor?</numerusform>
             <numerusform>Desligar %n projetores?</numerusform>
         </translation>
     </message>
     <message>
         <source>Input %1</source>
-        <translation>Entrada %1</translation>
+        <translation type="unfinished">Entrada %1</translation>
     </message>
     <message numerus="yes">
         <source>Choose the input %1 on %n projectors?</source>
-        <translation>
+        <translation type="unfinished">
             <numerusform>Escolher a entrada %1 em %n projetor?</numerusform>
             <numerusform>Escolher a entrada %1 em %n projetores?</numerusform>
         </translation>
     </message>
     <message>
         <source>No inputs are known</source>
-        <translation>Nenhuma entrada conhecida</translation>
+        <translation type="unfinished">Nenhuma entrada conhecida</translation>
     </message>
 </context>
 <context>
@@ -4023,6 +4073,193 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
         <translation type="unfinished">
             <numerusform></numerusform>
             <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>RestoreDialog</name>
+    <message>
+        <source>Projector</source>
+        <translation>Projetor</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Ajuste</translation>
+    </message>
+    <message>
+        <source>Here</source>
+        <translation>Aqui</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Arquivo</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <source>not read</source>
+        <translation>não lido</translation>
+    </message>
+    <message>
+        <source>already so</source>
+        <translation>inalterado</translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>diferente</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>alterado</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>recusado</translation>
+    </message>
+    <message>
+        <source>accepted, not yet so</source>
+        <translation>aceito, ainda sem efeito</translation>
+    </message>
+    <message>
+        <source>refused: the projector is busy or in standby</source>
+        <translation>recusado: o projetor está ocupado ou em espera</translation>
+    </message>
+    <message>
+        <source>not confirmed</source>
+        <translation>não confirmado</translation>
+    </message>
+    <message>
+        <source>skipped: this model does not have it</source>
+        <translation>ignorado: este modelo não o tem</translation>
+    </message>
+    <message>
+        <source>skipped: this projector does not offer it</source>
+        <translation>ignorado: este projetor não o oferece</translation>
+    </message>
+    <message>
+        <source>skipped: it is not one to put back</source>
+        <translation>ignorado: não é restaurado</translation>
+    </message>
+    <message>
+        <source>skipped: this model does not take the value</source>
+        <translation>ignorado: este modelo não aceita o valor</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n changed</source>
+        <extracomment>How many settings came to this, in a list such as &quot;12 changed, 3 refused&quot;.</extracomment>
+        <translation>
+            <numerusform>%n alterado</numerusform>
+            <numerusform>%n alterados</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n different</source>
+        <translation>
+            <numerusform>%n diferente</numerusform>
+            <numerusform>%n diferentes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n already so</source>
+        <translation>
+            <numerusform>%n inalterado</numerusform>
+            <numerusform>%n inalterados</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not yet so</source>
+        <translation>
+            <numerusform>%n ainda sem efeito</numerusform>
+            <numerusform>%n ainda sem efeito</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n refused</source>
+        <translation>
+            <numerusform>%n recusado</numerusform>
+            <numerusform>%n recusados</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not confirmed</source>
+        <translation>
+            <numerusform>%n não confirmado</numerusform>
+            <numerusform>%n não confirmados</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not read</source>
+        <translation>
+            <numerusform>%n não lido</numerusform>
+            <numerusform>%n não lidos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n skipped</source>
+        <translation>
+            <numerusform>%n ignorado</numerusform>
+            <numerusform>%n ignorados</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Apply Settings</source>
+        <translation>Aplicar ajustes</translation>
+    </message>
+    <message>
+        <source>Compare Settings</source>
+        <translation>Comparar ajustes</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtrar</translation>
+    </message>
+    <message>
+        <source>&amp;Differences only</source>
+        <translation>Somente &amp;diferenças</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progresso</translation>
+    </message>
+    <message>
+        <source>&amp;Compare Again</source>
+        <translation>&amp;Comparar novamente</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>&amp;Aplicar</translation>
+    </message>
+    <message>
+        <source>Waiting for the projector of an open dialog…</source>
+        <translation>Aguardando o projetor de uma caixa de diálogo aberta…</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Parar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Beforehand: other sources and modes</source>
+        <translation>Antes: outras fontes e modos</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings</source>
+        <translation>
+            <numerusform>%n ajuste</numerusform>
+            <numerusform>%n ajustes</numerusform>
         </translation>
     </message>
 </context>

@@ -58,6 +58,7 @@ void ExpectTranslated(const QWidget& window) {
 }
 
 void ExpectRoom(const QWidget& window) {
+  constexpr int kMargin = 2;  // beside a label's text
   const QRect all = window.rect();
   for (const QWidget* widget : window.findChildren<QWidget*>()) {
     const auto* label = qobject_cast<const QLabel*>(widget);
@@ -67,7 +68,7 @@ void ExpectRoom(const QWidget& window) {
     if (!isText || !widget->isVisible() || HasOwnText(*widget)) continue;
     const std::string name = widget->metaObject()->className() + std::string(" ") +
                              widget->property("text").toString().toStdString();
-    EXPECT_GE(widget->width(), widget->minimumSizeHint().width()) << name;
+    EXPECT_GE(widget->width() + kMargin, widget->minimumSizeHint().width()) << name;
     EXPECT_GE(widget->height(), widget->minimumSizeHint().height()) << name;
     EXPECT_TRUE(all.contains(QRect(widget->mapTo(&window, QPoint()), widget->size()))) << name;
   }

@@ -37,7 +37,7 @@ QString SaveLog(const QString& file) {
   QEventLoop untilShown;
   QObject::connect(&log, &CommandLog::Updated, &untilShown, &QEventLoop::quit);
   for (std::int16_t value = 0; value < 50; ++value) {
-    log.Add({{}, "A", "Sharpness", {PjtOperation::Set, 0x2201, value}, {.result = 1}, {}});
+    log.Add({{}, "A", "Sharpness", {}, {PjtOperation::Set, 0x2201, value}, {.result = 1}, {}});
   }
   untilShown.exec();
   BeginFailing();

@@ -575,7 +575,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     <message>
         <source>undone</source>
         <extracomment>Of a run of the program: somebody has undone it.</extracomment>
-        <translation>取り消し済み</translation>
+        <translation>復元済み</translation>
     </message>
     <message>
         <source>cannot record in %1 that it is undone: %2</source>
@@ -583,7 +583,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
     <message>
         <source>another run of acctl works on it</source>
-        <translation>ほかの acctl が処理中です</translation>
+        <translation>ほかの acctl が使用中です</translation>
     </message>
     <message>
         <source>not begun, as another projector failed</source>
@@ -611,7 +611,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
     <message>
         <source>skipped, this projector does not offer it: %1</source>
-        <translation>プロジェクターが対応していないため省略: %1</translation>
+        <translation>プロジェクターが対応していないためスキップ: %1</translation>
     </message>
     <message numerus="yes">
         <source>%n projectors</source>
@@ -656,12 +656,12 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     <message numerus="yes">
         <source>%n busy</source>
         <translation>
-            <numerusform>ビジー %n 件</numerusform>
+            <numerusform>処理中 %n 件</numerusform>
         </translation>
     </message>
     <message>
         <source>the projector is busy or in standby</source>
-        <translation>プロジェクターがビジーかスタンバイ中です</translation>
+        <translation>プロジェクターが処理中かスタンバイ中です</translation>
     </message>
     <message numerus="yes">
         <source>%n unconfirmed</source>
@@ -681,19 +681,19 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
     <message>
         <source>skipped, this model does not have it</source>
-        <translation>省略 (この機種にはありません)</translation>
+        <translation>スキップ (この機種にはありません)</translation>
     </message>
     <message>
         <source>skipped, this projector does not offer it</source>
-        <translation>省略 (このプロジェクターは対応していません)</translation>
+        <translation>スキップ (このプロジェクターは対応していません)</translation>
     </message>
     <message>
         <source>skipped, it cannot be restored</source>
-        <translation>省略 (復元できません)</translation>
+        <translation>スキップ (復元できません)</translation>
     </message>
     <message>
         <source>skipped, this model does not take it</source>
-        <translation>省略 (この機種では受け付けられません)</translation>
+        <translation>スキップ (この機種では受け付けられません)</translation>
     </message>
     <message>
         <source>stopped at %1</source>
@@ -722,7 +722,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     <message numerus="yes">
         <source>%n skipped</source>
         <translation>
-            <numerusform>省略 %n 件</numerusform>
+            <numerusform>スキップ %n 件</numerusform>
         </translation>
     </message>
     <message>
@@ -736,7 +736,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     <message numerus="yes">
         <source>skipped, PJLink does not have them: %n of the file&apos;s settings</source>
         <translation>
-            <numerusform>PJLink にないため省略: ファイルの設定のうち %n 件</numerusform>
+            <numerusform>PJLink にないためスキップ: ファイルの設定のうち %n 件</numerusform>
         </translation>
     </message>
     <message>
@@ -840,7 +840,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
     <message>
         <source>refused, the projector is busy</source>
-        <translation>拒否されました (プロジェクターはビジー)</translation>
+        <translation>拒否されました (プロジェクターは処理中)</translation>
     </message>
     <message>
         <source>this cannot be undone: %1</source>
@@ -940,7 +940,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
     <message>
         <source>skipped, PJLink does not have it</source>
-        <translation>PJLink にないため省略</translation>
+        <translation>PJLink にないためスキップ</translation>
     </message>
     <message>
         <source>cannot be read now</source>
@@ -1011,7 +1011,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
     <message>
         <source>Alert</source>
-        <translation>警告</translation>
+        <translation>アラート</translation>
     </message>
     <message>
         <source>State</source>
@@ -1019,7 +1019,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
     <message>
         <source>Alerts</source>
-        <translation>警告</translation>
+        <translation>アラート</translation>
     </message>
     <message>
         <source>%1 does not answer</source>
@@ -1439,7 +1439,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
     <message>
         <source>left</source>
-        <translation>切断</translation>
+        <translation>中断</translation>
     </message>
     <message>
         <source>no answer</source>
@@ -1447,7 +1447,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
     <message>
         <source>busy</source>
-        <translation>ビジー</translation>
+        <translation>処理中</translation>
     </message>
     <message>
         <source>not offered</source>
@@ -1470,7 +1470,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     <name>ConnectionTest</name>
     <message>
         <source>&amp;Test Connection</source>
-        <translation>接続をテスト(&amp;T)</translation>
+        <translation>接続をテスト(&amp;S)</translation>
     </message>
     <message>
         <source>Result of the test</source>
@@ -1576,11 +1576,11 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
     <message>
         <source>Recent e&amp;vents</source>
-        <translation>最近の出来事(&amp;V)</translation>
+        <translation>最近のイベント(&amp;N)</translation>
     </message>
     <message>
         <source>Recent events</source>
-        <translation>最近の出来事</translation>
+        <translation>最近のイベント</translation>
     </message>
     <message>
         <source>No projector selected</source>
@@ -1745,7 +1745,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
     <message>
         <source>Remove &amp;All</source>
-        <translation>すべて解除(&amp;A)</translation>
+        <translation>すべて解除(&amp;M)</translation>
     </message>
     <message>
         <source> ms</source>
@@ -1761,7 +1761,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
     <message>
         <source>&amp;Error status</source>
-        <translation>エラーの状態(&amp;E)</translation>
+        <translation>エラーの状態(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Command</source>
@@ -1846,7 +1846,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <source>%n with alerts</source>
         <comment>projectors</comment>
         <translation>
-            <numerusform>警告あり %n 台</numerusform>
+            <numerusform>アラートあり %n 台</numerusform>
         </translation>
     </message>
     <message>
@@ -1862,7 +1862,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
     <message>
         <source>the projector is busy or in standby</source>
-        <translation>プロジェクターがビジーかスタンバイ中です</translation>
+        <translation>プロジェクターが処理中かスタンバイ中です</translation>
     </message>
     <message>
         <source>the projector does not have it</source>
@@ -2060,7 +2060,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
     <message>
         <source>Alerts</source>
-        <translation>警告</translation>
+        <translation>アラート</translation>
     </message>
     <message>
         <source>Simulation</source>
@@ -2120,7 +2120,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
     <message>
         <source>&amp;Alerts</source>
-        <translation>警告(&amp;A)</translation>
+        <translation>アラート(&amp;A)</translation>
     </message>
     <message>
         <source>&amp;Help</source>
@@ -2243,7 +2243,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
     <message>
         <source>Alerts</source>
-        <translation>警告</translation>
+        <translation>アラート</translation>
     </message>
     <message>
         <source>Lamp &amp;hours, of the rated hours</source>
@@ -2384,7 +2384,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
     <message>
         <source>&amp;Remove…</source>
-        <translation>削除(&amp;R)…</translation>
+        <translation>削除(&amp;V)…</translation>
     </message>
     <message>
         <source>Ta&amp;g…</source>
@@ -2547,7 +2547,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>All &amp;fields of the model</source>
-        <translation>機種の全項目(&amp;F)</translation>
+        <translation>機種の全項目(&amp;L)</translation>
     </message>
     <message>
         <source>Add Projector</source>
@@ -2916,7 +2916,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>refused: the projector is busy or in standby</source>
-        <translation>拒否: プロジェクターがビジーかスタンバイ中です</translation>
+        <translation>拒否: プロジェクターが処理中かスタンバイ中です</translation>
     </message>
     <message>
         <source>not confirmed</source>
@@ -2924,19 +2924,19 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>skipped: this model does not have it</source>
-        <translation>省略: この機種にはありません</translation>
+        <translation>スキップ: この機種にはありません</translation>
     </message>
     <message>
         <source>skipped: this projector does not offer it</source>
-        <translation>省略: このプロジェクターは対応していません</translation>
+        <translation>スキップ: このプロジェクターは対応していません</translation>
     </message>
     <message>
         <source>skipped: it is not one to put back</source>
-        <translation>省略: 復元の対象ではありません</translation>
+        <translation>スキップ: 復元の対象ではありません</translation>
     </message>
     <message>
         <source>skipped: this model does not take the value</source>
-        <translation>省略: この機種では受け付けられない値です</translation>
+        <translation>スキップ: この機種では受け付けられない値です</translation>
     </message>
     <message numerus="yes">
         <source>%n changed</source>
@@ -2984,7 +2984,7 @@ a minus in front takes a tag away:</source>
     <message numerus="yes">
         <source>%n skipped</source>
         <translation>
-            <numerusform>省略 %n 件</numerusform>
+            <numerusform>スキップ %n 件</numerusform>
         </translation>
     </message>
     <message>
@@ -3479,7 +3479,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Warning</source>
-        <translation>注意</translation>
+        <translation>警告</translation>
     </message>
     <message>
         <source>OK</source>
@@ -3527,7 +3527,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>%1 (warning)</source>
-        <translation>%1 (注意)</translation>
+        <translation>%1 (警告)</translation>
     </message>
     <message>
         <source>%1 h</source>
@@ -3671,7 +3671,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>P&amp;ower</source>
-        <translation>電源(&amp;O)</translation>
+        <translation>電源(&amp;W)</translation>
     </message>
     <message>
         <source>&amp;Input</source>
@@ -3844,7 +3844,7 @@ a minus in front takes a tag away:</source>
         <source>, of these %n still under way</source>
         <comment>projectors</comment>
         <translation>
-            <numerusform>、うち %n 台は処理中</numerusform>
+            <numerusform>、うち %n 台は反映待ち</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3868,7 +3868,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>accepted, still under way</source>
-        <translation>受け付け済み、処理中</translation>
+        <translation>受け付け済み、反映待ち</translation>
     </message>
     <message>
         <source>refused</source>

@@ -960,19 +960,19 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     </message>
     <message>
         <source>this cannot be read</source>
-        <translation>이 설정은 읽을 수 없습니다</translation>
+        <translation>이 설정은 읽을 수 없음</translation>
     </message>
     <message>
         <source>this cannot be set</source>
-        <translation>이 설정은 변경할 수 없습니다</translation>
+        <translation>이 설정은 변경할 수 없음</translation>
     </message>
     <message>
         <source>this cannot be restored</source>
-        <translation>이 설정은 복원할 수 없습니다</translation>
+        <translation>이 설정은 복원할 수 없음</translation>
     </message>
     <message>
         <source>this cannot be reset</source>
-        <translation>이 설정은 초기화할 수 없습니다</translation>
+        <translation>이 설정은 초기화할 수 없음</translation>
     </message>
     <message>
         <source>%1, the projector is in standby</source>
@@ -1064,11 +1064,11 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     </message>
     <message>
         <source>Watch one of several shares: 2/5 is the second of five.</source>
-        <translation>여러 몫 중 하나를 감시합니다. 2/5는 다섯 중 두 번째입니다.</translation>
+        <translation>나눈 담당분 중 하나만 감시합니다. 2/5는 다섯 중 두 번째입니다.</translation>
     </message>
     <message>
         <source>share</source>
-        <translation>몫</translation>
+        <translation>담당분</translation>
     </message>
     <message>
         <source>Watch only projectors with &lt;tag&gt;, or one of several.</source>
@@ -1168,7 +1168,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     </message>
     <message>
         <source>Take the share of a bridge that has said nothing for &lt;seconds&gt;.</source>
-        <translation>&lt;초&gt; 동안 소식이 없는 브리지의 몫을 넘겨받습니다.</translation>
+        <translation>&lt;초&gt; 동안 소식이 없는 브리지의 담당분을 넘겨받습니다.</translation>
     </message>
     <message>
         <source>Settings that may be commanded: keys or patterns, separated by commas; &apos;power&apos; is the power. Without it nothing may be.</source>
@@ -1204,7 +1204,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     </message>
     <message>
         <source>&apos;%1&apos; is no share such as 2/5</source>
-        <translation>‘%1’은(는) 2/5와 같은 몫이 아닙니다</translation>
+        <translation>‘%1’은(는) 2/5와 같은 담당분 표기가 아닙니다</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no numeric address with a port</source>
@@ -1470,7 +1470,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     <name>ConnectionTest</name>
     <message>
         <source>&amp;Test Connection</source>
-        <translation>연결 테스트(&amp;T)</translation>
+        <translation>연결 테스트(&amp;S)</translation>
     </message>
     <message>
         <source>Result of the test</source>
@@ -1576,7 +1576,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     </message>
     <message>
         <source>Recent e&amp;vents</source>
-        <translation>최근 이벤트(&amp;V)</translation>
+        <translation>최근 이벤트(&amp;N)</translation>
     </message>
     <message>
         <source>Recent events</source>
@@ -1602,7 +1602,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     </message>
     <message>
         <source>frozen</source>
-        <translation>정지됨</translation>
+        <translation>화면 정지</translation>
     </message>
     <message>
         <source>shown</source>
@@ -1745,7 +1745,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     </message>
     <message>
         <source>Remove &amp;All</source>
-        <translation>모두 제거(&amp;A)</translation>
+        <translation>모두 제거(&amp;M)</translation>
     </message>
     <message>
         <source> ms</source>
@@ -1761,7 +1761,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     </message>
     <message>
         <source>&amp;Error status</source>
-        <translation>오류 상태(&amp;E)</translation>
+        <translation>오류 상태(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Command</source>
@@ -2203,7 +2203,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     </message>
     <message>
         <source> %</source>
-        <translation type="unfinished"></translation>
+        <translation> %</translation>
     </message>
     <message>
         <source>never</source>
@@ -2384,7 +2384,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     </message>
     <message>
         <source>&amp;Remove…</source>
-        <translation>제거(&amp;R)…</translation>
+        <translation>제거(&amp;V)…</translation>
     </message>
     <message>
         <source>Ta&amp;g…</source>
@@ -2547,7 +2547,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>All &amp;fields of the model</source>
-        <translation>모델의 모든 항목(&amp;F)</translation>
+        <translation>모델의 모든 항목(&amp;L)</translation>
     </message>
     <message>
         <source>Add Projector</source>
@@ -3671,7 +3671,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>P&amp;ower</source>
-        <translation>전원(&amp;O)</translation>
+        <translation>전원(&amp;W)</translation>
     </message>
     <message>
         <source>&amp;Input</source>

@@ -260,7 +260,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
     <message>
         <source>P selects projectors: a name, a pattern such as &apos;Lecture*&apos;, @TAG, or model=PATTERN. Several are separated by commas, and !P leaves projectors out. KEY is the key of a setting, a pattern such as &apos;picture.*&apos;, or a short name such as brightness, input or power, which is the same on all models. VALUE is a number as the dialog shows it, the text of an entry in any language of the dialog, or its code.</source>
-        <translation>P でプロジェクターを選択します。名前、「Lecture*」のようなパターン、@TAG、または model=PATTERN を指定します。複数の場合はコンマで区切り、!P で除外します。KEY は設定のキー、「picture.*」のようなパターン、または全機種に共通の brightness、input、power などの短縮名です。VALUE は、画面に表示される数値、項目のテキスト (表示できるどの言語でも可)、またはそのコードです。</translation>
+        <translation>P でプロジェクターを選択します。名前、&apos;Lecture*&apos; のようなパターン、@TAG、または model=PATTERN を指定します。複数の場合はコンマで区切り、!P で除外します。KEY は設定のキー、&apos;picture.*&apos; のようなパターン、または全機種に共通の brightness、input、power などの短縮名です。VALUE は、画面に表示される数値、項目のテキスト (表示できるどの言語でも可)、またはそのコードです。</translation>
     </message>
     <message>
         <source>Done. Also if a projector in standby could not report everything, or accepted a change that has not taken effect yet.</source>
@@ -3285,7 +3285,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Begin with a fault: %1. Of a share of the projectors: &apos;silent 5%&apos;. May be given several times.</source>
-        <translation>障害のある状態で開始します: %1。一部のプロジェクターだけの場合は「silent 5%」のように割合で指定します。複数回指定できます。</translation>
+        <translation>障害のある状態で開始します: %1。一部のプロジェクターだけの場合は &apos;silent 5%&apos; のように割合で指定します。複数回指定できます。</translation>
     </message>
     <message>
         <source>fault</source>

@@ -260,7 +260,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     </message>
     <message>
         <source>P selects projectors: a name, a pattern such as &apos;Lecture*&apos;, @TAG, or model=PATTERN. Several are separated by commas, and !P leaves projectors out. KEY is the key of a setting, a pattern such as &apos;picture.*&apos;, or a short name such as brightness, input or power, which is the same on all models. VALUE is a number as the dialog shows it, the text of an entry in any language of the dialog, or its code.</source>
-        <translation>P는 프로젝터를 선택합니다. 이름, ‘Lecture*’와 같은 패턴, @TAG 또는 model=PATTERN을 지정합니다. 여럿은 쉼표로 구분하고, !P로 제외합니다. KEY는 설정의 키, ‘picture.*’와 같은 패턴 또는 모든 모델에 공통인 brightness, input, power 같은 짧은 이름입니다. VALUE는 대화 상자에 표시되는 숫자, 항목의 텍스트(대화 상자의 어느 언어든 가능) 또는 그 코드입니다.</translation>
+        <translation>P는 프로젝터를 선택합니다. 이름, &apos;Lecture*&apos;와 같은 패턴, @TAG 또는 model=PATTERN을 지정합니다. 여럿은 쉼표로 구분하고, !P로 제외합니다. KEY는 설정의 키, &apos;picture.*&apos;와 같은 패턴 또는 모든 모델에 공통인 brightness, input, power 같은 짧은 이름입니다. VALUE는 대화 상자에 표시되는 숫자, 항목의 텍스트(대화 상자의 어느 언어든 가능) 또는 그 코드입니다.</translation>
     </message>
     <message>
         <source>Done. Also if a projector in standby could not report everything, or accepted a change that has not taken effect yet.</source>
@@ -3285,7 +3285,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Begin with a fault: %1. Of a share of the projectors: &apos;silent 5%&apos;. May be given several times.</source>
-        <translation>장애가 있는 상태로 시작합니다: %1. 일부 프로젝터에만 적용하려면 ‘silent 5%’처럼 비율을 지정합니다. 여러 번 지정할 수 있습니다.</translation>
+        <translation>장애가 있는 상태로 시작합니다: %1. 일부 프로젝터에만 적용하려면 &apos;silent 5%&apos;처럼 비율을 지정합니다. 여러 번 지정할 수 있습니다.</translation>
     </message>
     <message>
         <source>fault</source>

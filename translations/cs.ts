@@ -1512,7 +1512,7 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     <name>ConnectionTest</name>
     <message>
         <source>&amp;Test Connection</source>
-        <translation>Vyzkouše&amp;t připojení</translation>
+        <translation>Vyzk&amp;oušet připojení</translation>
     </message>
     <message>
         <source>Result of the test</source>
@@ -2338,7 +2338,7 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     </message>
     <message>
         <source>Nothing</source>
-        <translation>Nic</translation>
+        <translation>Bez požadavku</translation>
     </message>
     <message>
         <source>&amp;Compare with What It Should Be</source>
@@ -3395,7 +3395,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Write profiles that lead a host to the served projectors to &lt;file&gt;.</source>
-        <translation>Zapíše do souboru &lt;soubor&gt; profily, které vedou hostitelskou aplikaci ke zpřístupněným projektorům.</translation>
+        <translation>Zapíše do souboru &lt;soubor&gt; profily zpřístupněných projektorů pro hostitelskou aplikaci.</translation>
     </message>
     <message>
         <source>Serve &lt;n&gt; projectors, made after those of the profiles, each at a loopback address of its own.</source>
@@ -3654,7 +3654,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>unknown</source>
-        <translation>neznámý</translation>
+        <translation>neznámo</translation>
     </message>
     <message>
         <source>off</source>

@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>--%1 takes no value</source>
-        <translation>a --%1 kapcsolónak nincs értéke</translation>
+        <translation>a --%1 kapcsoló nem vár értéket</translation>
     </message>
     <message>
         <source>--%1 needs %2</source>
@@ -36,7 +36,7 @@
     </message>
     <message>
         <source>%1 has no such --format</source>
-        <translation>%1: nincs ilyen --format</translation>
+        <translation>%1: ez a --format itt nem használható</translation>
     </message>
     <message>
         <source>use: %1</source>
@@ -439,7 +439,7 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     </message>
     <message>
         <source>print what would change, and change nothing</source>
-        <translation>a leendő módosítások kiírása, módosítás nélkül</translation>
+        <translation>csak kiírja, mi módosulna, de nem módosít</translation>
     </message>
     <message>
         <source>wait until the state is reached, up to TIME, such as 90s or 5m</source>
@@ -451,11 +451,11 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     </message>
     <message>
         <source>exit with 1 if something differs, with 2 if something could not be compared</source>
-        <translation>eltérés esetén 1, sikertelen összehasonlítás esetén 2 a kilépési kód</translation>
+        <translation>kilépési kód: 1, ha van eltérés; 2, ha valami nem hasonlítható össze</translation>
     </message>
     <message>
         <source>skip what is wrong in FILE instead of sending nothing</source>
-        <translation>a FILE hibás részeinek kihagyása, ahelyett hogy semmit sem küldene</translation>
+        <translation>kihagyja a FILE hibás részeit, ahelyett hogy semmit sem küldene</translation>
     </message>
     <message>
         <source>apply: also the undo file of another projector; save: replace any file</source>
@@ -697,7 +697,7 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     </message>
     <message>
         <source>stopped at %1</source>
-        <translation>megállt itt: %1</translation>
+        <translation>itt megállt: %1</translation>
     </message>
     <message numerus="yes">
         <source>not sent, it is more than %n steps away</source>
@@ -884,7 +884,7 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     </message>
     <message>
         <source>not so in time</source>
-        <translation>nem érte el időben</translation>
+        <translation>nem érte el időben az értéket</translation>
     </message>
     <message>
         <source>%1:%2: not a line of an undo file</source>
@@ -1315,7 +1315,7 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     </message>
     <message>
         <source>Save pictures of all tabs of all kinds of projectors in &lt;folder&gt; and exit.</source>
-        <translation>Minden projektorfajta összes lapjának képe a &lt;mappa&gt; mappába, majd kilépés.</translation>
+        <translation>Az összes projektorfajta minden lapjának képét a &lt;mappa&gt; mappába menti, majd kilép.</translation>
     </message>
     <message>
         <source>folder</source>
@@ -2775,7 +2775,7 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
     </message>
     <message>
         <source>no display; use --list, --tour or --screenshot without one.</source>
-        <translation>nincs megjelenítő; nélküle a --list, a --tour vagy a --screenshot használható.</translation>
+        <translation>nincs képernyő; nélküle a --list, a --tour vagy a --screenshot használható.</translation>
     </message>
 </context>
 <context>

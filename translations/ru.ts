@@ -646,9 +646,9 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     <message numerus="yes">
         <source>%n already so</source>
         <translation>
-            <numerusform>без изменений: %n</numerusform>
-            <numerusform>без изменений: %n</numerusform>
-            <numerusform>без изменений: %n</numerusform>
+            <numerusform>уже задано: %n</numerusform>
+            <numerusform>уже задано: %n</numerusform>
+            <numerusform>уже задано: %n</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -794,7 +794,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     <message>
         <source>%1: %2 is also of %3</source>
         <extracomment>Two files, and the projector that both are of.</extracomment>
-        <translation>%1: %2 относится и к %3</translation>
+        <translation>%1: файл %2 относится к тому же проектору %3</translation>
     </message>
     <message>
         <source>%1: the folder has no files of settings</source>
@@ -1037,15 +1037,15 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     <name>AlertList</name>
     <message>
         <source>&amp;Acknowledge</source>
-        <translation>&amp;Подтвердить</translation>
+        <translation>По&amp;дтвердить</translation>
     </message>
     <message>
         <source>Acknowledge A&amp;ll</source>
-        <translation>Подтвердить &amp;все</translation>
+        <translation>Подтвердить вс&amp;е</translation>
     </message>
     <message>
         <source>Since</source>
-        <translation>С какого времени</translation>
+        <translation>Начало</translation>
     </message>
     <message>
         <source>Alert</source>
@@ -1104,7 +1104,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
     <message>
         <source>Watch one of several shares: 2/5 is the second of five.</source>
-        <translation>Наблюдать за одной из нескольких долей: 2/5 — вторая из пяти.</translation>
+        <translation>Следить за одной из нескольких долей: 2/5 — вторая из пяти.</translation>
     </message>
     <message>
         <source>share</source>
@@ -1112,7 +1112,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
     <message>
         <source>Watch only projectors with &lt;tag&gt;, or one of several.</source>
-        <translation>Наблюдать только за проекторами с тегом &lt;тег&gt; или одним из нескольких.</translation>
+        <translation>Следить только за проекторами с тегом &lt;тег&gt; или одним из нескольких.</translation>
     </message>
     <message>
         <source>tag</source>
@@ -1284,7 +1284,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
     <message>
         <source>Watches projectors, and tells a metrics store and a message broker of them.</source>
-        <translation>Наблюдает за проекторами и передаёт сведения о них в хранилище метрик и брокеру сообщений.</translation>
+        <translation>Следит за проекторами и передаёт сведения о них в хранилище метрик и брокеру сообщений.</translation>
     </message>
     <message>
         <source>unexpected argument &apos;%1&apos;</source>
@@ -1390,15 +1390,15 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     <name>CommandLog</name>
     <message>
         <source>Changes &amp;Only</source>
-        <translation>Только &amp;изменения</translation>
+        <translation>Только и&amp;зменения</translation>
     </message>
     <message>
         <source>&amp;Errors Only</source>
-        <translation>Только &amp;ошибки</translation>
+        <translation>Только о&amp;шибки</translation>
     </message>
     <message>
         <source>Save &amp;Log As…</source>
-        <translation>&amp;Сохранить журнал как…</translation>
+        <translation>Сохранить &amp;журнал как…</translation>
     </message>
     <message>
         <source>Clea&amp;r Log…</source>
@@ -1618,7 +1618,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
     <message>
         <source>Recent e&amp;vents</source>
-        <translation>Недавние со&amp;бытия</translation>
+        <translation>&amp;Недавние события</translation>
     </message>
     <message>
         <source>Recent events</source>
@@ -1789,7 +1789,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
     <message>
         <source>Remove &amp;All</source>
-        <translation>Убрать &amp;все</translation>
+        <translation>Убр&amp;ать все</translation>
     </message>
     <message>
         <source> ms</source>
@@ -1801,7 +1801,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
     <message>
         <source>Po&amp;wer</source>
-        <translation>&amp;Питание</translation>
+        <translation>Пи&amp;тание</translation>
     </message>
     <message>
         <source>&amp;Error status</source>
@@ -1813,11 +1813,11 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
     <message>
         <source>Fa&amp;ult</source>
-        <translation>&amp;Сбой</translation>
+        <translation>С&amp;бой</translation>
     </message>
     <message>
         <source>&amp;Delay</source>
-        <translation>За&amp;держка</translation>
+        <translation>Задер&amp;жка</translation>
     </message>
     <message>
         <source>&amp;In force</source>
@@ -2156,7 +2156,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
     <message>
         <source>Re&amp;fresh</source>
-        <translation>О&amp;бновить</translation>
+        <translation>Об&amp;новить</translation>
     </message>
     <message>
         <source>&amp;View</source>
@@ -2318,7 +2318,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     <name>PresetActions</name>
     <message>
         <source>P&amp;resets</source>
-        <translation>Пресе&amp;ты</translation>
+        <translation>П&amp;ресеты</translation>
     </message>
     <message>
         <source>Put on the selection</source>
@@ -2696,7 +2696,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>&quot;%1&quot; is the %2 of projectors[%3] too</source>
-        <translation>«%1» — то же %2, что и у projectors[%3]</translation>
+        <translation>значение «%1» поля %2 уже есть у projectors[%3]</translation>
     </message>
     <message>
         <source>the file must hold an object</source>
@@ -2966,7 +2966,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>already so</source>
-        <translation>без изменений</translation>
+        <translation>уже совпадает</translation>
     </message>
     <message>
         <source>different</source>
@@ -3028,9 +3028,9 @@ a minus in front takes a tag away:</source>
     <message numerus="yes">
         <source>%n already so</source>
         <translation>
-            <numerusform>без изменений: %n</numerusform>
-            <numerusform>без изменений: %n</numerusform>
-            <numerusform>без изменений: %n</numerusform>
+            <numerusform>уже совпадает: %n</numerusform>
+            <numerusform>уже совпадает: %n</numerusform>
+            <numerusform>уже совпадает: %n</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3545,7 +3545,7 @@ a minus in front takes a tag away:</source>
     <name>StateTexts</name>
     <message>
         <source>Not watched</source>
-        <translation>Не наблюдается</translation>
+        <translation>Не отслеживается</translation>
     </message>
     <message>
         <source>Asking…</source>
@@ -3629,7 +3629,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>As it should be</source>
-        <translation>По эталону</translation>
+        <translation>Как в эталоне</translation>
     </message>
     <message numerus="yes">
         <source>%n differ</source>
@@ -3767,7 +3767,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>P&amp;ower</source>
-        <translation>П&amp;итание</translation>
+        <translation>Питани&amp;е</translation>
     </message>
     <message>
         <source>&amp;Input</source>

@@ -179,7 +179,7 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     </message>
     <message>
         <source>Prints values, and then every change until it is interrupted, until nobody reads its output any more, or until all projectors have the value of --until. A projector that falls silent is tried again and again.</source>
-        <translation>Wypisuje wartości, a potem każdą zmianę – do przerwania, dopóki ktoś odczytuje wyjście lub dopóki wszystkie projektory nie osiągną wartości z --until. Projektor, który zamilknie, jest odpytywany wciąż od nowa.</translation>
+        <translation>Wypisuje wartości, a potem każdą zmianę. Kończy pracę po przerwaniu, gdy nikt już nie odczytuje wyjścia lub gdy wszystkie projektory mają wartość z --until. Projektor, który zamilknie, jest odpytywany wciąż od nowa.</translation>
     </message>
     <message>
         <source>search the network for projectors</source>
@@ -1085,7 +1085,7 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     </message>
     <message>
         <source>open</source>
-        <translation>aktywny</translation>
+        <translation>niepotwierdzony</translation>
     </message>
 </context>
 <context>
@@ -1698,7 +1698,7 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     </message>
     <message>
         <source>Reachable</source>
-        <translation>Osiągalność</translation>
+        <translation>Dostępność</translation>
     </message>
     <message>
         <source>Power</source>
@@ -1749,7 +1749,7 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     </message>
     <message>
         <source>Cold</source>
-        <translation>Zimno</translation>
+        <translation>Zbyt niska temperatura</translation>
     </message>
     <message>
         <source>Filter</source>
@@ -1821,7 +1821,7 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     </message>
     <message>
         <source>&amp;In force</source>
-        <translation>D&amp;ziałające</translation>
+        <translation>Działa&amp;jące</translation>
     </message>
     <message>
         <source>No projector selected</source>
@@ -2684,7 +2684,7 @@ minus przed tagiem go usuwa:</numerusform>
     </message>
     <message>
         <source>makes &quot;%1&quot; like itself</source>
-        <translation>upodabnia „%1” do samego siebie</translation>
+        <translation>czyni „%1” wzorem dla samego siebie</translation>
     </message>
     <message>
         <source>there is no family &quot;%1&quot;</source>
@@ -3859,11 +3859,11 @@ minus przed tagiem go usuwa:</numerusform>
     </message>
     <message>
         <source>Switch On</source>
-        <translation>Włącz</translation>
+        <translation>Włączanie</translation>
     </message>
     <message>
         <source>Switch Off</source>
-        <translation>Wyłącz</translation>
+        <translation>Wyłączanie</translation>
     </message>
     <message numerus="yes">
         <source>Switch on %n projectors?</source>

@@ -179,7 +179,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
     <message>
         <source>Prints values, and then every change until it is interrupted, until nobody reads its output any more, or until all projectors have the value of --until. A projector that falls silent is tried again and again.</source>
-        <translation>Выводит значения, а затем каждое изменение — до прерывания, до тех пор пока вывод кто-то читает или пока все проекторы не получат значение из --until. К замолчавшему проектору обращения повторяются снова и снова.</translation>
+        <translation>Выводит значения, а затем каждое изменение. Завершается, если прервать, если вывод больше никто не читает или когда у всех проекторов будет значение из --until. Замолчавший проектор опрашивается снова и снова.</translation>
     </message>
     <message>
         <source>search the network for projectors</source>
@@ -605,15 +605,15 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
     <message>
         <source>in standby, left out: %1</source>
-        <translation>в режиме ожидания, не выведено: %1</translation>
+        <translation>в режиме ожидания, пропущено: %1</translation>
     </message>
     <message>
         <source>warming up, left out: %1</source>
-        <translation>прогрев, не выведено: %1</translation>
+        <translation>прогрев, пропущено: %1</translation>
     </message>
     <message>
         <source>cooling down, left out: %1</source>
-        <translation>охлаждение, не выведено: %1</translation>
+        <translation>охлаждение, пропущено: %1</translation>
     </message>
     <message>
         <source>skipped, this projector does not offer it: %1</source>
@@ -1085,7 +1085,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
     <message>
         <source>open</source>
-        <translation>активно</translation>
+        <translation>не подтверждено</translation>
     </message>
 </context>
 <context>
@@ -1749,7 +1749,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
     <message>
         <source>Cold</source>
-        <translation>Холод</translation>
+        <translation>Низкая температура</translation>
     </message>
     <message>
         <source>Filter</source>
@@ -1821,7 +1821,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
     <message>
         <source>&amp;In force</source>
-        <translation>Де&amp;йствует</translation>
+        <translation>Де&amp;йствующие</translation>
     </message>
     <message>
         <source>No projector selected</source>
@@ -2684,7 +2684,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>makes &quot;%1&quot; like itself</source>
-        <translation>делает «%1» подобным самому себе</translation>
+        <translation>делает «%1» образцом для самого себя</translation>
     </message>
     <message>
         <source>there is no family &quot;%1&quot;</source>

@@ -1509,6 +1509,61 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     </message>
 </context>
 <context>
+    <name>ConnectionFields</name>
+    <message>
+        <source>&amp;Reached through</source>
+        <translation>&amp;Sposób połączenia</translation>
+    </message>
+    <message>
+        <source>Connect&amp;ion</source>
+        <translation>Połą&amp;czenie</translation>
+    </message>
+    <message>
+        <source>&amp;Address</source>
+        <translation>&amp;Adres</translation>
+    </message>
+    <message>
+        <source>&amp;Port</source>
+        <translation>&amp;Port</translation>
+    </message>
+    <message>
+        <source>Pass&amp;word</source>
+        <translation>&amp;Hasło</translation>
+    </message>
+    <message>
+        <source>Port n&amp;umber</source>
+        <translation>N&amp;umer portu</translation>
+    </message>
+    <message>
+        <source>&amp;Device</source>
+        <translation>Urzą&amp;dzenie</translation>
+    </message>
+    <message>
+        <source>&amp;Baud</source>
+        <translation>Prędkość (&amp;bod)</translation>
+    </message>
+    <message>
+        <source>As its family</source>
+        <translation>Jak w rodzinie</translation>
+    </message>
+    <message>
+        <source>Simulated</source>
+        <translation>Symulacja</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Sieć</translation>
+    </message>
+    <message>
+        <source>Serial port</source>
+        <translation>Port szeregowy</translation>
+    </message>
+    <message>
+        <source>%1 is no address.</source>
+        <translation>%1 nie jest adresem.</translation>
+    </message>
+</context>
+<context>
     <name>ConnectionTest</name>
     <message>
         <source>&amp;Test Connection</source>
@@ -1852,8 +1907,9 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source> %1 ms</source>
-        <translation> %1 ms</translation>
+        <source>%1: %2, %3 ms</source>
+        <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
+        <translation>%1: %2, %3 ms</translation>
     </message>
 </context>
 <context>
@@ -2196,6 +2252,33 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     </message>
 </context>
 <context>
+    <name>ModelFields</name>
+    <message>
+        <source>&amp;Family</source>
+        <translation>&amp;Rodzina</translation>
+    </message>
+    <message>
+        <source>&amp;Model</source>
+        <translation>&amp;Model</translation>
+    </message>
+    <message>
+        <source>All &amp;fields of the model</source>
+        <translation>&amp;Wszystkie pola modelu</translation>
+    </message>
+    <message>
+        <source>Dialog &amp;type</source>
+        <translation>&amp;Typ okna</translation>
+    </message>
+    <message>
+        <source>Model cod&amp;e</source>
+        <translation>&amp;Kod modelu</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Brak</translation>
+    </message>
+</context>
+<context>
     <name>Notify</name>
     <message>
         <source>Advanced Control</source>
@@ -2378,7 +2461,7 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     </message>
     <message>
         <source>Should Be Like</source>
-        <translation>Wzorzec</translation>
+        <translation>Wyznaczenie wzorca</translation>
     </message>
     <message>
         <source>None of the selected projectors has a preset that it should be like.</source>
@@ -2411,26 +2494,6 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
 <context>
     <name>ProfileActions</name>
     <message>
-        <source>&amp;Open Profiles…</source>
-        <translation>&amp;Otwórz profile…</translation>
-    </message>
-    <message>
-        <source>&amp;Reload</source>
-        <translation>&amp;Wczytaj ponownie</translation>
-    </message>
-    <message>
-        <source>&amp;Save Profiles As…</source>
-        <translation>&amp;Zapisz profile jako…</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Cofnij</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;Ponów</translation>
-    </message>
-    <message>
         <source>&amp;Add…</source>
         <translation>&amp;Dodaj…</translation>
     </message>
@@ -2451,36 +2514,16 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation>&amp;Tagi…</translation>
     </message>
     <message>
-        <source>This could not be done; nothing was changed.</source>
-        <translation>Nie udało się tego wykonać; niczego nie zmieniono.</translation>
-    </message>
-    <message>
-        <source>Open Profiles</source>
-        <translation>Otwieranie profili</translation>
-    </message>
-    <message>
-        <source>Profiles (*.json);;All files (*)</source>
-        <translation>Profile (*.json);;Wszystkie pliki (*)</translation>
-    </message>
-    <message>
-        <source>Reload</source>
-        <translation>Wczytaj ponownie</translation>
-    </message>
-    <message>
-        <source>Save Profiles As</source>
-        <translation>Zapis profili</translation>
-    </message>
-    <message>
         <source>Add</source>
-        <translation>Dodaj</translation>
+        <translation>Dodanie</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation>Edytuj</translation>
+        <translation>Edytowanie</translation>
     </message>
     <message>
         <source>Duplicate</source>
-        <translation>Powiel</translation>
+        <translation>Powielenie</translation>
     </message>
     <message>
         <source>Remove Projector</source>
@@ -2508,7 +2551,7 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     </message>
     <message>
         <source>Tag</source>
-        <translation>Tagi</translation>
+        <translation>Tagowanie</translation>
     </message>
     <message numerus="yes">
         <source>Tags for %n projectors, separated by commas;
@@ -2564,58 +2607,6 @@ minus przed tagiem go usuwa:</numerusform>
         <translation>&amp;Nazwa</translation>
     </message>
     <message>
-        <source>&amp;Family</source>
-        <translation>&amp;Rodzina</translation>
-    </message>
-    <message>
-        <source>&amp;Model</source>
-        <translation>&amp;Model</translation>
-    </message>
-    <message>
-        <source>Dialog &amp;type</source>
-        <translation>&amp;Typ okna</translation>
-    </message>
-    <message>
-        <source>Model cod&amp;e</source>
-        <translation>&amp;Kod modelu</translation>
-    </message>
-    <message>
-        <source>&amp;Reached through</source>
-        <translation>&amp;Sposób połączenia</translation>
-    </message>
-    <message>
-        <source>Connect&amp;ion</source>
-        <translation>Połą&amp;czenie</translation>
-    </message>
-    <message>
-        <source>&amp;Address</source>
-        <translation>&amp;Adres</translation>
-    </message>
-    <message>
-        <source>&amp;Port</source>
-        <translation>&amp;Port</translation>
-    </message>
-    <message>
-        <source>Pass&amp;word</source>
-        <translation>&amp;Hasło</translation>
-    </message>
-    <message>
-        <source>Port n&amp;umber</source>
-        <translation>N&amp;umer portu</translation>
-    </message>
-    <message>
-        <source>&amp;Device</source>
-        <translation>Urzą&amp;dzenie</translation>
-    </message>
-    <message>
-        <source>&amp;Baud</source>
-        <translation>Prędkość (&amp;bod)</translation>
-    </message>
-    <message>
-        <source>All &amp;fields of the model</source>
-        <translation>&amp;Wszystkie pola modelu</translation>
-    </message>
-    <message>
         <source>Add Projector</source>
         <translation>Dodawanie projektora</translation>
     </message>
@@ -2624,36 +2615,8 @@ minus przed tagiem go usuwa:</numerusform>
         <translation>Edycja projektora</translation>
     </message>
     <message>
-        <source>Save Profiles As…</source>
-        <translation>Zapis profili</translation>
-    </message>
-    <message>
-        <source>%1 cannot be changed.</source>
-        <translation>%1 nie można zmienić.</translation>
-    </message>
-    <message>
         <source>Duplicate Projector</source>
         <translation>Powielanie projektora</translation>
-    </message>
-    <message>
-        <source>None</source>
-        <translation>Brak</translation>
-    </message>
-    <message>
-        <source>As its family</source>
-        <translation>Jak w rodzinie</translation>
-    </message>
-    <message>
-        <source>Simulated</source>
-        <translation>Symulacja</translation>
-    </message>
-    <message>
-        <source>Network</source>
-        <translation>Sieć</translation>
-    </message>
-    <message>
-        <source>Serial port</source>
-        <translation>Port szeregowy</translation>
     </message>
     <message>
         <source>Still to be filled in: %1</source>
@@ -2662,10 +2625,6 @@ minus przed tagiem go usuwa:</numerusform>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>%1 is no address.</source>
-        <translation>%1 nie jest adresem.</translation>
     </message>
 </context>
 <context>
@@ -2800,6 +2759,64 @@ minus przed tagiem go usuwa:</numerusform>
     </message>
 </context>
 <context>
+    <name>ProfileFileActions</name>
+    <message>
+        <source>&amp;Open Profiles…</source>
+        <translation>&amp;Otwórz profile…</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>&amp;Wczytaj ponownie</translation>
+    </message>
+    <message>
+        <source>&amp;Save Profiles As…</source>
+        <translation>&amp;Zapisz profile jako…</translation>
+    </message>
+    <message>
+        <source>Open Profiles</source>
+        <translation>Otwieranie profili</translation>
+    </message>
+    <message>
+        <source>Profiles (*.json);;All files (*)</source>
+        <translation>Profile (*.json);;Wszystkie pliki (*)</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Ponowne wczytanie</translation>
+    </message>
+    <message>
+        <source>Save Profiles As</source>
+        <translation>Zapis profili</translation>
+    </message>
+    <message>
+        <source>Read-Only File</source>
+        <translation>Plik tylko do odczytu</translation>
+    </message>
+    <message>
+        <source>%1 cannot be changed. Save the profiles in another file first.</source>
+        <translation>%1 nie można zmienić. Najpierw zapisz profile w innym pliku.</translation>
+    </message>
+    <message>
+        <source>Save Profiles As…</source>
+        <translation>Zapisz profile jako…</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileHistory</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Cofnij</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Ponów</translation>
+    </message>
+    <message>
+        <source>This could not be done; nothing was changed.</source>
+        <translation>Nie udało się tego wykonać; niczego nie zmieniono.</translation>
+    </message>
+</context>
+<context>
     <name>Program</name>
     <message>
         <source>no profiles at %1; name a file with --profiles</source>
@@ -2847,7 +2864,7 @@ minus przed tagiem go usuwa:</numerusform>
     </message>
 </context>
 <context>
-    <name>ProjectorTableModel</name>
+    <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
         <translation>Nazwa</translation>
@@ -3728,10 +3745,6 @@ minus przed tagiem go usuwa:</numerusform>
         <translation>Tabele (*.csv *.tsv *.txt);;Wszystkie pliki (*)</translation>
     </message>
     <message>
-        <source>%1 added, %2 already known, %3 rows not taken.</source>
-        <translation>Dodano: %1, już znane: %2, odrzucone wiersze: %3.</translation>
-    </message>
-    <message>
         <source>Line %1: %2</source>
         <translation>Wiersz %1: %2</translation>
     </message>
@@ -3747,16 +3760,33 @@ minus przed tagiem go usuwa:</numerusform>
         <source>Tables (*.csv);;All files (*)</source>
         <translation>Tabele (*.csv);;Wszystkie pliki (*)</translation>
     </message>
-</context>
-<context>
-    <name>WholeFile</name>
-    <message>
-        <source>cannot write %1: %2</source>
-        <translation>nie można zapisać %1: %2</translation>
+    <message numerus="yes">
+        <source>%n projectors added</source>
+        <translation>
+            <numerusform>dodano %n projektor</numerusform>
+            <numerusform>dodano %n projektory</numerusform>
+            <numerusform>dodano %n projektorów</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n already known</source>
+        <translation>
+            <numerusform>już znane: %n</numerusform>
+            <numerusform>już znane: %n</numerusform>
+            <numerusform>już znane: %n</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rows not taken</source>
+        <translation>
+            <numerusform>%n wiersz odrzucony</numerusform>
+            <numerusform>%n wiersze odrzucone</numerusform>
+            <numerusform>%n wierszy odrzuconych</numerusform>
+        </translation>
     </message>
 </context>
 <context>
-    <name>WorkActions</name>
+    <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
         <translation>&amp;Włącz</translation>
@@ -3897,6 +3927,16 @@ minus przed tagiem go usuwa:</numerusform>
         <source>No inputs are known</source>
         <translation>Nie są znane żadne wejścia</translation>
     </message>
+</context>
+<context>
+    <name>WholeFile</name>
+    <message>
+        <source>cannot write %1: %2</source>
+        <translation>nie można zapisać %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>WorkActions</name>
     <message>
         <source>%1, %2: %3</source>
         <translation>%1, %2: %3</translation>

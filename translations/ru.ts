@@ -1509,6 +1509,61 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
 </context>
 <context>
+    <name>ConnectionFields</name>
+    <message>
+        <source>&amp;Reached through</source>
+        <translation>С&amp;пособ связи</translation>
+    </message>
+    <message>
+        <source>Connect&amp;ion</source>
+        <translation>Сое&amp;динение</translation>
+    </message>
+    <message>
+        <source>&amp;Address</source>
+        <translation>&amp;Адрес</translation>
+    </message>
+    <message>
+        <source>&amp;Port</source>
+        <translation>П&amp;орт</translation>
+    </message>
+    <message>
+        <source>Pass&amp;word</source>
+        <translation>Паро&amp;ль</translation>
+    </message>
+    <message>
+        <source>Port n&amp;umber</source>
+        <translation>&amp;Номер порта</translation>
+    </message>
+    <message>
+        <source>&amp;Device</source>
+        <translation>&amp;Устройство</translation>
+    </message>
+    <message>
+        <source>&amp;Baud</source>
+        <translation>Скорость (&amp;бод)</translation>
+    </message>
+    <message>
+        <source>As its family</source>
+        <translation>Как у семейства</translation>
+    </message>
+    <message>
+        <source>Simulated</source>
+        <translation>Имитация</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Сеть</translation>
+    </message>
+    <message>
+        <source>Serial port</source>
+        <translation>Последовательный порт</translation>
+    </message>
+    <message>
+        <source>%1 is no address.</source>
+        <translation>%1 — не адрес.</translation>
+    </message>
+</context>
+<context>
     <name>ConnectionTest</name>
     <message>
         <source>&amp;Test Connection</source>
@@ -1852,8 +1907,9 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source> %1 ms</source>
-        <translation> %1 мс</translation>
+        <source>%1: %2, %3 ms</source>
+        <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
+        <translation>%1: %2, %3 мс</translation>
     </message>
 </context>
 <context>
@@ -2196,6 +2252,33 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
 </context>
 <context>
+    <name>ModelFields</name>
+    <message>
+        <source>&amp;Family</source>
+        <translation>&amp;Семейство</translation>
+    </message>
+    <message>
+        <source>&amp;Model</source>
+        <translation>&amp;Модель</translation>
+    </message>
+    <message>
+        <source>All &amp;fields of the model</source>
+        <translation>&amp;Все поля модели</translation>
+    </message>
+    <message>
+        <source>Dialog &amp;type</source>
+        <translation>&amp;Тип диалога</translation>
+    </message>
+    <message>
+        <source>Model cod&amp;e</source>
+        <translation>&amp;Код модели</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Нет</translation>
+    </message>
+</context>
+<context>
     <name>Notify</name>
     <message>
         <source>Advanced Control</source>
@@ -2378,7 +2461,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
     <message>
         <source>Should Be Like</source>
-        <translation>Эталон</translation>
+        <translation>Назначение эталона</translation>
     </message>
     <message>
         <source>None of the selected projectors has a preset that it should be like.</source>
@@ -2411,26 +2494,6 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
 <context>
     <name>ProfileActions</name>
     <message>
-        <source>&amp;Open Profiles…</source>
-        <translation>&amp;Открыть профили…</translation>
-    </message>
-    <message>
-        <source>&amp;Reload</source>
-        <translation>&amp;Перезагрузить</translation>
-    </message>
-    <message>
-        <source>&amp;Save Profiles As…</source>
-        <translation>&amp;Сохранить профили как…</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Отменить</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;Вернуть</translation>
-    </message>
-    <message>
         <source>&amp;Add…</source>
         <translation>&amp;Добавить…</translation>
     </message>
@@ -2451,36 +2514,16 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation>&amp;Теги…</translation>
     </message>
     <message>
-        <source>This could not be done; nothing was changed.</source>
-        <translation>Не удалось выполнить; ничего не изменено.</translation>
-    </message>
-    <message>
-        <source>Open Profiles</source>
-        <translation>Открытие профилей</translation>
-    </message>
-    <message>
-        <source>Profiles (*.json);;All files (*)</source>
-        <translation>Профили (*.json);;Все файлы (*)</translation>
-    </message>
-    <message>
-        <source>Reload</source>
-        <translation>Перезагрузить</translation>
-    </message>
-    <message>
-        <source>Save Profiles As</source>
-        <translation>Сохранение профилей</translation>
-    </message>
-    <message>
         <source>Add</source>
-        <translation>Добавить</translation>
+        <translation>Добавление</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation>Изменить</translation>
+        <translation>Изменение</translation>
     </message>
     <message>
         <source>Duplicate</source>
-        <translation>Дублировать</translation>
+        <translation>Дублирование</translation>
     </message>
     <message>
         <source>Remove Projector</source>
@@ -2508,7 +2551,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
     <message>
         <source>Tag</source>
-        <translation>Теги</translation>
+        <translation>Изменение тегов</translation>
     </message>
     <message numerus="yes">
         <source>Tags for %n projectors, separated by commas;
@@ -2564,58 +2607,6 @@ a minus in front takes a tag away:</source>
         <translation>&amp;Имя</translation>
     </message>
     <message>
-        <source>&amp;Family</source>
-        <translation>&amp;Семейство</translation>
-    </message>
-    <message>
-        <source>&amp;Model</source>
-        <translation>&amp;Модель</translation>
-    </message>
-    <message>
-        <source>Dialog &amp;type</source>
-        <translation>&amp;Тип диалога</translation>
-    </message>
-    <message>
-        <source>Model cod&amp;e</source>
-        <translation>&amp;Код модели</translation>
-    </message>
-    <message>
-        <source>&amp;Reached through</source>
-        <translation>С&amp;пособ связи</translation>
-    </message>
-    <message>
-        <source>Connect&amp;ion</source>
-        <translation>Сое&amp;динение</translation>
-    </message>
-    <message>
-        <source>&amp;Address</source>
-        <translation>&amp;Адрес</translation>
-    </message>
-    <message>
-        <source>&amp;Port</source>
-        <translation>П&amp;орт</translation>
-    </message>
-    <message>
-        <source>Pass&amp;word</source>
-        <translation>Паро&amp;ль</translation>
-    </message>
-    <message>
-        <source>Port n&amp;umber</source>
-        <translation>&amp;Номер порта</translation>
-    </message>
-    <message>
-        <source>&amp;Device</source>
-        <translation>&amp;Устройство</translation>
-    </message>
-    <message>
-        <source>&amp;Baud</source>
-        <translation>Скорость (&amp;бод)</translation>
-    </message>
-    <message>
-        <source>All &amp;fields of the model</source>
-        <translation>&amp;Все поля модели</translation>
-    </message>
-    <message>
         <source>Add Projector</source>
         <translation>Добавление проектора</translation>
     </message>
@@ -2624,36 +2615,8 @@ a minus in front takes a tag away:</source>
         <translation>Изменение проектора</translation>
     </message>
     <message>
-        <source>Save Profiles As…</source>
-        <translation>Сохранение профилей</translation>
-    </message>
-    <message>
-        <source>%1 cannot be changed.</source>
-        <translation>%1 изменить нельзя.</translation>
-    </message>
-    <message>
         <source>Duplicate Projector</source>
         <translation>Дублирование проектора</translation>
-    </message>
-    <message>
-        <source>None</source>
-        <translation>Нет</translation>
-    </message>
-    <message>
-        <source>As its family</source>
-        <translation>Как у семейства</translation>
-    </message>
-    <message>
-        <source>Simulated</source>
-        <translation>Имитация</translation>
-    </message>
-    <message>
-        <source>Network</source>
-        <translation>Сеть</translation>
-    </message>
-    <message>
-        <source>Serial port</source>
-        <translation>Последовательный порт</translation>
     </message>
     <message>
         <source>Still to be filled in: %1</source>
@@ -2662,10 +2625,6 @@ a minus in front takes a tag away:</source>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>%1 is no address.</source>
-        <translation>%1 — не адрес.</translation>
     </message>
 </context>
 <context>
@@ -2800,6 +2759,64 @@ a minus in front takes a tag away:</source>
     </message>
 </context>
 <context>
+    <name>ProfileFileActions</name>
+    <message>
+        <source>&amp;Open Profiles…</source>
+        <translation>&amp;Открыть профили…</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>П&amp;рочитать заново</translation>
+    </message>
+    <message>
+        <source>&amp;Save Profiles As…</source>
+        <translation>&amp;Сохранить профили как…</translation>
+    </message>
+    <message>
+        <source>Open Profiles</source>
+        <translation>Открытие профилей</translation>
+    </message>
+    <message>
+        <source>Profiles (*.json);;All files (*)</source>
+        <translation>Профили (*.json);;Все файлы (*)</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Повторное чтение файла</translation>
+    </message>
+    <message>
+        <source>Save Profiles As</source>
+        <translation>Сохранение профилей</translation>
+    </message>
+    <message>
+        <source>Read-Only File</source>
+        <translation>Файл только для чтения</translation>
+    </message>
+    <message>
+        <source>%1 cannot be changed. Save the profiles in another file first.</source>
+        <translation>%1 изменить нельзя. Сначала сохраните профили в другом файле.</translation>
+    </message>
+    <message>
+        <source>Save Profiles As…</source>
+        <translation>Сохранить профили как…</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileHistory</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Отменить</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Вернуть</translation>
+    </message>
+    <message>
+        <source>This could not be done; nothing was changed.</source>
+        <translation>Не удалось выполнить; ничего не изменено.</translation>
+    </message>
+</context>
+<context>
     <name>Program</name>
     <message>
         <source>no profiles at %1; name a file with --profiles</source>
@@ -2847,7 +2864,7 @@ a minus in front takes a tag away:</source>
     </message>
 </context>
 <context>
-    <name>ProjectorTableModel</name>
+    <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
         <translation>Имя</translation>
@@ -3728,10 +3745,6 @@ a minus in front takes a tag away:</source>
         <translation>Таблицы (*.csv *.tsv *.txt);;Все файлы (*)</translation>
     </message>
     <message>
-        <source>%1 added, %2 already known, %3 rows not taken.</source>
-        <translation>Добавлено: %1, уже известно: %2, не принято строк: %3.</translation>
-    </message>
-    <message>
         <source>Line %1: %2</source>
         <translation>Строка %1: %2</translation>
     </message>
@@ -3747,16 +3760,33 @@ a minus in front takes a tag away:</source>
         <source>Tables (*.csv);;All files (*)</source>
         <translation>Таблицы (*.csv);;Все файлы (*)</translation>
     </message>
-</context>
-<context>
-    <name>WholeFile</name>
-    <message>
-        <source>cannot write %1: %2</source>
-        <translation>не удалось записать %1: %2</translation>
+    <message numerus="yes">
+        <source>%n projectors added</source>
+        <translation>
+            <numerusform>добавлен %n проектор</numerusform>
+            <numerusform>добавлено %n проектора</numerusform>
+            <numerusform>добавлено %n проекторов</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n already known</source>
+        <translation>
+            <numerusform>уже известно: %n</numerusform>
+            <numerusform>уже известно: %n</numerusform>
+            <numerusform>уже известно: %n</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rows not taken</source>
+        <translation>
+            <numerusform>%n строка не принята</numerusform>
+            <numerusform>%n строки не приняты</numerusform>
+            <numerusform>%n строк не принято</numerusform>
+        </translation>
     </message>
 </context>
 <context>
-    <name>WorkActions</name>
+    <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
         <translation>Вк&amp;лючить</translation>
@@ -3897,6 +3927,16 @@ a minus in front takes a tag away:</source>
         <source>No inputs are known</source>
         <translation>Входы неизвестны</translation>
     </message>
+</context>
+<context>
+    <name>WholeFile</name>
+    <message>
+        <source>cannot write %1: %2</source>
+        <translation>не удалось записать %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>WorkActions</name>
     <message>
         <source>%1, %2: %3</source>
         <translation>%1, %2: %3</translation>

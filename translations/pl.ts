@@ -1961,7 +1961,7 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     </message>
     <message>
         <source>oldest answer %1</source>
-        <translation>najstarsza odpowiedź %1</translation>
+        <translation>najstarsza odpowiedź: %1</translation>
     </message>
 </context>
 <context>

@@ -1961,7 +1961,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
     <message>
         <source>oldest answer %1</source>
-        <translation>самый давний ответ %1</translation>
+        <translation>самый давний ответ: %1</translation>
     </message>
 </context>
 <context>
@@ -2597,7 +2597,7 @@ a minus in front takes a tag away:</source>
     <name>ProfileDocument</name>
     <message>
         <source>%1 was changed by another program. Reload it (F5), then do this again.</source>
-        <translation>Файл %1 изменён другой программой. Перезагрузите его (F5) и повторите действие.</translation>
+        <translation>Файл %1 изменён другой программой. Прочитайте его заново (F5) и повторите действие.</translation>
     </message>
 </context>
 <context>

@@ -154,16 +154,8 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <translation>porovnat s uloženým nastavením</translation>
     </message>
     <message>
-        <source>Prints what differs from a file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder.</source>
-        <translation>Vypíše rozdíly oproti souboru („-“ je standardní vstup) nebo oproti vlastnímu souboru každého projektoru ve složce.</translation>
-    </message>
-    <message>
         <source>restore saved settings</source>
         <translation>obnovit uložené nastavení</translation>
-    </message>
-    <message>
-        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation>Načte projektory, odešle vše, co se liší od souboru („-“ je standardní vstup) nebo od vlastního souboru každého projektoru ve složce, a načte to zpět. Nahrazené hodnoty se nejdříve uschovají, aby je „acctl undo“ mohlo obnovit. Přerušený běh lze kdykoli zopakovat.</translation>
     </message>
     <message>
         <source>undo the last run of set or apply</source>
@@ -1032,6 +1024,22 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <source>--until: &apos;%1&apos; is not KEY=VALUE</source>
         <translation>--until: „%1“ není KEY=VALUE</translation>
     </message>
+    <message>
+        <source>Prints what differs from a file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the value before could not be read, and cannot be restored</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the value before could not be read</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -1421,10 +1429,6 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <translation>&amp;Kopírovat</translation>
     </message>
     <message>
-        <source>Projector, command or result</source>
-        <translation>Projektor, příkaz nebo výsledek</translation>
-    </message>
-    <message>
         <source>Filter the log</source>
         <translation>Filtrovat záznam</translation>
     </message>
@@ -1451,6 +1455,18 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     <message>
         <source>Clear</source>
         <translation>Vymazat</translation>
+    </message>
+    <message>
+        <source>Projector, setting, command or result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All projectors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the commands of</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1507,24 +1523,87 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <source>ok</source>
         <translation>v pořádku</translation>
     </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Nastavení</translation>
+    </message>
+</context>
+<context>
+    <name>ComparisonDialog</name>
+    <message>
+        <source>Progress</source>
+        <translation type="unfinished">Průběh</translation>
+    </message>
+    <message>
+        <source>&amp;Ask Again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation type="unfinished">Po&amp;užít</translation>
+    </message>
+    <message>
+        <source>Reading settings…</source>
+        <translation type="unfinished">Načítání nastavení…</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation type="unfinished">Zastavit</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished">Zrušit</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Zavřít</translation>
+    </message>
+    <message>
+        <source>Nothing differs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors differ.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors have all these settings already.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors could not be read.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ConnectionFields</name>
     <message>
         <source>&amp;Reached through</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Spojení přes</translation>
     </message>
     <message>
         <source>Connect&amp;ion</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Př&amp;ipojení</translation>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Adresa</translation>
     </message>
     <message>
         <source>&amp;Port</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Port</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
@@ -1532,35 +1611,35 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     </message>
     <message>
         <source>Port n&amp;umber</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Čís&amp;lo portu</translation>
     </message>
     <message>
         <source>&amp;Device</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Zařízení</translation>
     </message>
     <message>
         <source>&amp;Baud</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Přenosová r&amp;ychlost</translation>
     </message>
     <message>
         <source>As its family</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Podle rodiny</translation>
     </message>
     <message>
         <source>Simulated</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Simulované</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Síť</translation>
     </message>
     <message>
         <source>Serial port</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sériový port</translation>
     </message>
     <message>
         <source>%1 is no address.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 není adresa.</translation>
     </message>
 </context>
 <context>
@@ -1722,6 +1801,53 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     <message>
         <source>nothing yet</source>
         <translation>zatím nic</translation>
+    </message>
+</context>
+<context>
+    <name>DifferenceTree</name>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Nastavení</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Differences</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First the other sources and modes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings</source>
+        <translation type="unfinished">
+            <numerusform>%n nastavení</numerusform>
+            <numerusform>%n nastavení</numerusform>
+            <numerusform>%n nastavení</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings do not apply to this model</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings cannot be read now</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1: %2</translation>
     </message>
 </context>
 <context>
@@ -1911,10 +2037,6 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source> %1 ms</source>
-        <translation> %1 ms</translation>
-    </message>
 </context>
 <context>
     <name>FleetSummary</name>
@@ -1966,6 +2088,15 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     <message>
         <source>oldest answer %1</source>
         <translation>nejstarší odpověď %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not watched</source>
+        <comment>projectors</comment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2045,6 +2176,10 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     <message>
         <source>password missing or wrong</source>
         <translation>heslo chybí nebo je nesprávné</translation>
+    </message>
+    <message>
+        <source>the projector reports none of its settings now</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2259,27 +2394,27 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     <name>ModelFields</name>
     <message>
         <source>&amp;Family</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Rodina</translation>
     </message>
     <message>
         <source>&amp;Model</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Model</translation>
     </message>
     <message>
         <source>All &amp;fields of the model</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Všechna pole modelu</translation>
     </message>
     <message>
         <source>Dialog &amp;type</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Typ dialogu</translation>
     </message>
     <message>
         <source>Model cod&amp;e</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Kód mod&amp;elu</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Žádná</translation>
     </message>
 </context>
 <context>
@@ -2400,6 +2535,26 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <source>Quiet hours</source>
         <translation>Doba klidu</translation>
     </message>
+    <message>
+        <source>As the desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Colors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(the same time twice: none)</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetActions</name>
@@ -2440,10 +2595,6 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <translation>Uložit jako předvolbu</translation>
     </message>
     <message>
-        <source>Name of the preset:</source>
-        <translation>Název předvolby:</translation>
-    </message>
-    <message>
         <source>Saved as the preset %1</source>
         <translation>Uloženo jako předvolba %1</translation>
     </message>
@@ -2454,14 +2605,6 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     <message>
         <source>Preset %1</source>
         <translation>Předvolba %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>Put the preset %1 on %n projectors?</source>
-        <translation>
-            <numerusform>Použít předvolbu %1 na %n projektor?</numerusform>
-            <numerusform>Použít předvolbu %1 na %n projektory?</numerusform>
-            <numerusform>Použít předvolbu %1 na %n projektorů?</numerusform>
-        </translation>
     </message>
     <message>
         <source>Should Be Like</source>
@@ -2484,8 +2627,87 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         </translation>
     </message>
     <message>
-        <source>Compare</source>
-        <translation>Porovnat</translation>
+        <source>Reading the settings of %1…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What It Should Be</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Should be</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PresetDialog</name>
+    <message>
+        <source>Save as Preset</source>
+        <translation type="unfinished">Uložit jako předvolbu</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Nastavení</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">Hodnota</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Name of the preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check all settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This &amp;Page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check the settings of the selected page, and no others</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>N&amp;one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Uncheck all settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings are checked.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The preset %1 will be replaced.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2569,46 +2791,6 @@ a minus in front takes a tag away:</source>
 štítek s minusem na začátku se odebere:</numerusform>
         </translation>
     </message>
-    <message>
-        <source>&amp;Open Profiles…</source>
-        <translation>&amp;Otevřít profily…</translation>
-    </message>
-    <message>
-        <source>&amp;Reload</source>
-        <translation>&amp;Načíst znovu</translation>
-    </message>
-    <message>
-        <source>&amp;Save Profiles As…</source>
-        <translation>&amp;Uložit profily jako…</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Zpět</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>Zn&amp;ovu</translation>
-    </message>
-    <message>
-        <source>This could not be done; nothing was changed.</source>
-        <translation>Toto nebylo možné provést; nic se nezměnilo.</translation>
-    </message>
-    <message>
-        <source>Open Profiles</source>
-        <translation>Otevřít profily</translation>
-    </message>
-    <message>
-        <source>Profiles (*.json);;All files (*)</source>
-        <translation>Profily (*.json);;Všechny soubory (*)</translation>
-    </message>
-    <message>
-        <source>Reload</source>
-        <translation>Načíst znovu</translation>
-    </message>
-    <message>
-        <source>Save Profiles As</source>
-        <translation>Uložit profily jako</translation>
-    </message>
 </context>
 <context>
     <name>ProfileCsv</name>
@@ -2669,90 +2851,6 @@ a minus in front takes a tag away:</source>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>&amp;Family</source>
-        <translation>&amp;Rodina</translation>
-    </message>
-    <message>
-        <source>&amp;Model</source>
-        <translation>&amp;Model</translation>
-    </message>
-    <message>
-        <source>Dialog &amp;type</source>
-        <translation>&amp;Typ dialogu</translation>
-    </message>
-    <message>
-        <source>Model cod&amp;e</source>
-        <translation>Kód mod&amp;elu</translation>
-    </message>
-    <message>
-        <source>&amp;Reached through</source>
-        <translation>&amp;Spojení přes</translation>
-    </message>
-    <message>
-        <source>Connect&amp;ion</source>
-        <translation>Př&amp;ipojení</translation>
-    </message>
-    <message>
-        <source>&amp;Address</source>
-        <translation>&amp;Adresa</translation>
-    </message>
-    <message>
-        <source>&amp;Port</source>
-        <translation>&amp;Port</translation>
-    </message>
-    <message>
-        <source>Pass&amp;word</source>
-        <translation>&amp;Heslo</translation>
-    </message>
-    <message>
-        <source>Port n&amp;umber</source>
-        <translation>Čís&amp;lo portu</translation>
-    </message>
-    <message>
-        <source>&amp;Device</source>
-        <translation>&amp;Zařízení</translation>
-    </message>
-    <message>
-        <source>&amp;Baud</source>
-        <translation>Přenosová r&amp;ychlost</translation>
-    </message>
-    <message>
-        <source>All &amp;fields of the model</source>
-        <translation>&amp;Všechna pole modelu</translation>
-    </message>
-    <message>
-        <source>Save Profiles As…</source>
-        <translation>Uložit profily jako…</translation>
-    </message>
-    <message>
-        <source>%1 cannot be changed.</source>
-        <translation>%1 nelze změnit.</translation>
-    </message>
-    <message>
-        <source>None</source>
-        <translation>Žádná</translation>
-    </message>
-    <message>
-        <source>As its family</source>
-        <translation>Podle rodiny</translation>
-    </message>
-    <message>
-        <source>Simulated</source>
-        <translation>Simulované</translation>
-    </message>
-    <message>
-        <source>Network</source>
-        <translation>Síť</translation>
-    </message>
-    <message>
-        <source>Serial port</source>
-        <translation>Sériový port</translation>
-    </message>
-    <message>
-        <source>%1 is no address.</source>
-        <translation>%1 není adresa.</translation>
     </message>
 </context>
 <context>
@@ -2890,31 +2988,31 @@ a minus in front takes a tag away:</source>
     <name>ProfileFileActions</name>
     <message>
         <source>&amp;Open Profiles…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Otevřít profily…</translation>
     </message>
     <message>
         <source>&amp;Reload</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Načíst znovu</translation>
     </message>
     <message>
         <source>&amp;Save Profiles As…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Uložit profily jako…</translation>
     </message>
     <message>
         <source>Open Profiles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Otevřít profily</translation>
     </message>
     <message>
         <source>Profiles (*.json);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Profily (*.json);;Všechny soubory (*)</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Načíst znovu</translation>
     </message>
     <message>
         <source>Save Profiles As</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Uložit profily jako</translation>
     </message>
     <message>
         <source>Read-Only File</source>
@@ -2926,22 +3024,22 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Save Profiles As…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Uložit profily jako…</translation>
     </message>
 </context>
 <context>
     <name>ProfileHistory</name>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Zpět</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Zn&amp;ovu</translation>
     </message>
     <message>
         <source>This could not be done; nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Toto nebylo možné provést; nic se nezměnilo.</translation>
     </message>
 </context>
 <context>
@@ -2995,51 +3093,51 @@ a minus in front takes a tag away:</source>
     <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Název</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Stav</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Napájení</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Zdroj</translation>
     </message>
     <message>
         <source>Lamp</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Lampa</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Problém</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Model</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Umístění</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nastavení</translation>
     </message>
     <message>
         <source>Last answer</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Poslední odpověď</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Adresa</translation>
     </message>
     <message>
         <source>%1 · open</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 · otevřený</translation>
     </message>
 </context>
 <context>
@@ -3081,202 +3179,6 @@ a minus in front takes a tag away:</source>
         <source>Folder</source>
         <comment>All other platforms</comment>
         <translation>Složka</translation>
-    </message>
-</context>
-<context>
-    <name>RestoreDialog</name>
-    <message>
-        <source>Projector</source>
-        <translation>Projektor</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>Nastavení</translation>
-    </message>
-    <message>
-        <source>Here</source>
-        <translation>Zde</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>Soubor</translation>
-    </message>
-    <message>
-        <source>Result</source>
-        <translation>Výsledek</translation>
-    </message>
-    <message>
-        <source>not read</source>
-        <translation>nenačteno</translation>
-    </message>
-    <message>
-        <source>already so</source>
-        <translation>beze změny</translation>
-    </message>
-    <message>
-        <source>different</source>
-        <translation>odlišné</translation>
-    </message>
-    <message>
-        <source>changed</source>
-        <translation>změněno</translation>
-    </message>
-    <message>
-        <source>refused</source>
-        <translation>odmítnuto</translation>
-    </message>
-    <message>
-        <source>accepted, not yet so</source>
-        <translation>přijato, zatím se neprojevilo</translation>
-    </message>
-    <message>
-        <source>refused: the projector is busy or in standby</source>
-        <translation>odmítnuto: projektor je zaneprázdněn nebo v pohotovosti</translation>
-    </message>
-    <message>
-        <source>not confirmed</source>
-        <translation>nepotvrzeno</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not have it</source>
-        <translation>přeskočeno: tento model je nemá</translation>
-    </message>
-    <message>
-        <source>skipped: this projector does not offer it</source>
-        <translation>přeskočeno: tento projektor je nenabízí</translation>
-    </message>
-    <message>
-        <source>skipped: it is not one to put back</source>
-        <translation>přeskočeno: neobnovuje se</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not take the value</source>
-        <translation>přeskočeno: tento model hodnotu nepřijímá</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n changed</source>
-        <extracomment>How many settings came to this, in a list such as &quot;12 changed, 3 refused&quot;.</extracomment>
-        <translation>
-            <numerusform>%n změněno</numerusform>
-            <numerusform>%n změněna</numerusform>
-            <numerusform>%n změněno</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n different</source>
-        <translation>
-            <numerusform>%n odlišné</numerusform>
-            <numerusform>%n odlišná</numerusform>
-            <numerusform>%n odlišných</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n already so</source>
-        <translation>
-            <numerusform>%n beze změny</numerusform>
-            <numerusform>%n beze změny</numerusform>
-            <numerusform>%n beze změny</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not yet so</source>
-        <translation>
-            <numerusform>%n se zatím neprojevilo</numerusform>
-            <numerusform>%n se zatím neprojevila</numerusform>
-            <numerusform>%n se zatím neprojevilo</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n refused</source>
-        <translation>
-            <numerusform>%n odmítnuto</numerusform>
-            <numerusform>%n odmítnuta</numerusform>
-            <numerusform>%n odmítnuto</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not confirmed</source>
-        <translation>
-            <numerusform>%n nepotvrzeno</numerusform>
-            <numerusform>%n nepotvrzena</numerusform>
-            <numerusform>%n nepotvrzeno</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not read</source>
-        <translation>
-            <numerusform>%n nenačteno</numerusform>
-            <numerusform>%n nenačtena</numerusform>
-            <numerusform>%n nenačteno</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n skipped</source>
-        <translation>
-            <numerusform>%n přeskočeno</numerusform>
-            <numerusform>%n přeskočena</numerusform>
-            <numerusform>%n přeskočeno</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Apply Settings</source>
-        <translation>Použít nastavení</translation>
-    </message>
-    <message>
-        <source>Compare Settings</source>
-        <translation>Porovnat nastavení</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filtr</translation>
-    </message>
-    <message>
-        <source>&amp;Differences only</source>
-        <translation>Jen &amp;rozdíly</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Nastavení</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Průběh</translation>
-    </message>
-    <message>
-        <source>&amp;Compare Again</source>
-        <translation>&amp;Porovnat znovu</translation>
-    </message>
-    <message>
-        <source>&amp;Apply</source>
-        <translation>Po&amp;užít</translation>
-    </message>
-    <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>Čeká se na projektor otevřeného dialogu…</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Zastavit</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Zavřít</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>Beforehand: other sources and modes</source>
-        <translation>Předem: jiné zdroje a režimy</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n settings</source>
-        <translation>
-            <numerusform>%n nastavení</numerusform>
-            <numerusform>%n nastavení</numerusform>
-            <numerusform>%n nastavení</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -3382,22 +3284,6 @@ a minus in front takes a tag away:</source>
         <translation>Po&amp;užít nastavení…</translation>
     </message>
     <message>
-        <source>%1: no answer</source>
-        <translation>%1: bez odpovědi</translation>
-    </message>
-    <message>
-        <source>%1: nothing can be read</source>
-        <translation>%1: nic nelze načíst</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1: %n settings cannot be read and are left out</source>
-        <translation>
-            <numerusform>%1: %n nastavení nelze načíst a vynechává se</numerusform>
-            <numerusform>%1: %n nastavení nelze načíst a vynechávají se</numerusform>
-            <numerusform>%1: %n nastavení nelze načíst a vynechávají se</numerusform>
-        </translation>
-    </message>
-    <message>
         <source>Save Settings</source>
         <translation>Uložit nastavení</translation>
     </message>
@@ -3410,20 +3296,48 @@ a minus in front takes a tag away:</source>
         <translation>Nastavení (*.json)</translation>
     </message>
     <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>Čeká se na projektor otevřeného dialogu…</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Zastavit</translation>
-    </message>
-    <message>
         <source>Reading settings…</source>
         <translation>Načítání nastavení…</translation>
     </message>
     <message>
         <source>Open Settings</source>
         <translation>Otevřít nastavení</translation>
+    </message>
+    <message>
+        <source>Settings saved in %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Settings of %n projectors saved in %1.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings could not be read.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Apply Settings</source>
+        <translation type="unfinished">Použít nastavení</translation>
+    </message>
+    <message>
+        <source>Compare Settings</source>
+        <translation type="unfinished">Porovnat nastavení</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation type="unfinished">Soubor</translation>
+    </message>
+    <message>
+        <source>The values before are kept in %1.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3912,152 +3826,148 @@ a minus in front takes a tag away:</source>
             <numerusform></numerusform>
         </translation>
     </message>
-    <message>
-        <source>%1 added, %2 already known, %3 rows not taken.</source>
-        <translation>Přidáno: %1, už známo: %2, nepřevzatých řádků: %3.</translation>
-    </message>
 </context>
 <context>
     <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Zapnout</translation>
     </message>
     <message>
         <source>Switch O&amp;ff</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">V&amp;ypnout</translation>
     </message>
     <message>
         <source>P&amp;ower</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Napájení</translation>
     </message>
     <message>
         <source>&amp;Input</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Vstup</translation>
     </message>
     <message>
         <source>&amp;Blank</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Prázdný o&amp;braz</translation>
     </message>
     <message>
         <source>Blank the Picture</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Zobrazit prázdný obraz</translation>
     </message>
     <message numerus="yes">
         <source>Blank the picture of %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Zobrazit prázdný obraz na %n projektoru?</numerusform>
+            <numerusform>Zobrazit prázdný obraz na %n projektorech?</numerusform>
+            <numerusform>Zobrazit prázdný obraz na %n projektorech?</numerusform>
         </translation>
     </message>
     <message>
         <source>Show the Picture</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Zobrazit obraz</translation>
     </message>
     <message numerus="yes">
         <source>Show the picture of %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Zobrazit obraz na %n projektoru?</numerusform>
+            <numerusform>Zobrazit obraz na %n projektorech?</numerusform>
+            <numerusform>Zobrazit obraz na %n projektorech?</numerusform>
         </translation>
     </message>
     <message>
         <source>&amp;Mute</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Zt&amp;lumení</translation>
     </message>
     <message>
         <source>Mute the Sound</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ztlumit zvuk</translation>
     </message>
     <message numerus="yes">
         <source>Mute the sound of %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Ztlumit zvuk %n projektoru?</numerusform>
+            <numerusform>Ztlumit zvuk %n projektorů?</numerusform>
+            <numerusform>Ztlumit zvuk %n projektorů?</numerusform>
         </translation>
     </message>
     <message>
         <source>Unmute the Sound</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Zrušit ztlumení zvuku</translation>
     </message>
     <message numerus="yes">
         <source>Unmute the sound of %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Zrušit ztlumení zvuku %n projektoru?</numerusform>
+            <numerusform>Zrušit ztlumení zvuku %n projektorů?</numerusform>
+            <numerusform>Zrušit ztlumení zvuku %n projektorů?</numerusform>
         </translation>
     </message>
     <message>
         <source>Free&amp;ze</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Zm&amp;razení obrazu</translation>
     </message>
     <message>
         <source>Freeze the Picture</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Zmrazit obraz</translation>
     </message>
     <message numerus="yes">
         <source>Freeze the picture of %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Zmrazit obraz %n projektoru?</numerusform>
+            <numerusform>Zmrazit obraz %n projektorů?</numerusform>
+            <numerusform>Zmrazit obraz %n projektorů?</numerusform>
         </translation>
     </message>
     <message>
         <source>Release the Picture</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Zrušit zmrazení obrazu</translation>
     </message>
     <message numerus="yes">
         <source>Release the picture of %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Zrušit zmrazení obrazu %n projektoru?</numerusform>
+            <numerusform>Zrušit zmrazení obrazu %n projektorů?</numerusform>
+            <numerusform>Zrušit zmrazení obrazu %n projektorů?</numerusform>
         </translation>
     </message>
     <message>
         <source>Switch On</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Zapnout</translation>
     </message>
     <message>
         <source>Switch Off</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Vypnout</translation>
     </message>
     <message numerus="yes">
         <source>Switch on %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Zapnout %n projektor?</numerusform>
+            <numerusform>Zapnout %n projektory?</numerusform>
+            <numerusform>Zapnout %n projektorů?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Switch off %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Vypnout %n projektor?</numerusform>
+            <numerusform>Vypnout %n projektory?</numerusform>
+            <numerusform>Vypnout %n projektorů?</numerusform>
         </translation>
     </message>
     <message>
         <source>Input %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Vstup %1</translation>
     </message>
     <message numerus="yes">
         <source>Choose the input %1 on %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Vybrat vstup %1 na %n projektoru?</numerusform>
+            <numerusform>Vybrat vstup %1 na %n projektorech?</numerusform>
+            <numerusform>Vybrat vstup %1 na %n projektorech?</numerusform>
         </translation>
     </message>
     <message>
         <source>No inputs are known</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nejsou známy žádné vstupy</translation>
     </message>
 </context>
 <context>
@@ -4072,146 +3982,6 @@ a minus in front takes a tag away:</source>
     <message>
         <source>%1, %2: %3</source>
         <translation>%1, %2: %3</translation>
-    </message>
-    <message>
-        <source>Switch O&amp;n</source>
-        <translation>&amp;Zapnout</translation>
-    </message>
-    <message>
-        <source>Switch O&amp;ff</source>
-        <translation>V&amp;ypnout</translation>
-    </message>
-    <message>
-        <source>P&amp;ower</source>
-        <translation>&amp;Napájení</translation>
-    </message>
-    <message>
-        <source>&amp;Input</source>
-        <translation>&amp;Vstup</translation>
-    </message>
-    <message>
-        <source>&amp;Blank</source>
-        <translation>Prázdný o&amp;braz</translation>
-    </message>
-    <message>
-        <source>Blank the Picture</source>
-        <translation>Zobrazit prázdný obraz</translation>
-    </message>
-    <message numerus="yes">
-        <source>Blank the picture of %n projectors?</source>
-        <translation>
-            <numerusform>Zobrazit prázdný obraz na %n projektoru?</numerusform>
-            <numerusform>Zobrazit prázdný obraz na %n projektorech?</numerusform>
-            <numerusform>Zobrazit prázdný obraz na %n projektorech?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Show the Picture</source>
-        <translation>Zobrazit obraz</translation>
-    </message>
-    <message numerus="yes">
-        <source>Show the picture of %n projectors?</source>
-        <translation>
-            <numerusform>Zobrazit obraz na %n projektoru?</numerusform>
-            <numerusform>Zobrazit obraz na %n projektorech?</numerusform>
-            <numerusform>Zobrazit obraz na %n projektorech?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>&amp;Mute</source>
-        <translation>Zt&amp;lumení</translation>
-    </message>
-    <message>
-        <source>Mute the Sound</source>
-        <translation>Ztlumit zvuk</translation>
-    </message>
-    <message numerus="yes">
-        <source>Mute the sound of %n projectors?</source>
-        <translation>
-            <numerusform>Ztlumit zvuk %n projektoru?</numerusform>
-            <numerusform>Ztlumit zvuk %n projektorů?</numerusform>
-            <numerusform>Ztlumit zvuk %n projektorů?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Unmute the Sound</source>
-        <translation>Zrušit ztlumení zvuku</translation>
-    </message>
-    <message numerus="yes">
-        <source>Unmute the sound of %n projectors?</source>
-        <translation>
-            <numerusform>Zrušit ztlumení zvuku %n projektoru?</numerusform>
-            <numerusform>Zrušit ztlumení zvuku %n projektorů?</numerusform>
-            <numerusform>Zrušit ztlumení zvuku %n projektorů?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Free&amp;ze</source>
-        <translation>Zm&amp;razení obrazu</translation>
-    </message>
-    <message>
-        <source>Freeze the Picture</source>
-        <translation>Zmrazit obraz</translation>
-    </message>
-    <message numerus="yes">
-        <source>Freeze the picture of %n projectors?</source>
-        <translation>
-            <numerusform>Zmrazit obraz %n projektoru?</numerusform>
-            <numerusform>Zmrazit obraz %n projektorů?</numerusform>
-            <numerusform>Zmrazit obraz %n projektorů?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Release the Picture</source>
-        <translation>Zrušit zmrazení obrazu</translation>
-    </message>
-    <message numerus="yes">
-        <source>Release the picture of %n projectors?</source>
-        <translation>
-            <numerusform>Zrušit zmrazení obrazu %n projektoru?</numerusform>
-            <numerusform>Zrušit zmrazení obrazu %n projektorů?</numerusform>
-            <numerusform>Zrušit zmrazení obrazu %n projektorů?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Switch On</source>
-        <translation>Zapnout</translation>
-    </message>
-    <message>
-        <source>Switch Off</source>
-        <translation>Vypnout</translation>
-    </message>
-    <message numerus="yes">
-        <source>Switch on %n projectors?</source>
-        <translation>
-            <numerusform>Zapnout %n projektor?</numerusform>
-            <numerusform>Zapnout %n projektory?</numerusform>
-            <numerusform>Zapnout %n projektorů?</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Switch off %n projectors?</source>
-        <translation>
-            <numerusform>Vypnout %n projektor?</numerusform>
-            <numerusform>Vypnout %n projektory?</numerusform>
-            <numerusform>Vypnout %n projektorů?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Input %1</source>
-        <translation>Vstup %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>Choose the input %1 on %n projectors?</source>
-        <translation>
-            <numerusform>Vybrat vstup %1 na %n projektoru?</numerusform>
-            <numerusform>Vybrat vstup %1 na %n projektorech?</numerusform>
-            <numerusform>Vybrat vstup %1 na %n projektorech?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>No inputs are known</source>
-        <translation>Nejsou známy žádné vstupy</translation>
     </message>
 </context>
 <context>
@@ -4314,56 +4084,17 @@ a minus in front takes a tag away:</source>
         <source>stopped</source>
         <translation>zastaveno</translation>
     </message>
-</context>
-<context>
-    <name>ProjectorTableModel</name>
     <message>
-        <source>Name</source>
-        <translation>Název</translation>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1: %2</translation>
     </message>
-    <message>
-        <source>State</source>
-        <translation>Stav</translation>
-    </message>
-    <message>
-        <source>Power</source>
-        <translation>Napájení</translation>
-    </message>
-    <message>
-        <source>Source</source>
-        <translation>Zdroj</translation>
-    </message>
-    <message>
-        <source>Lamp</source>
-        <translation>Lampa</translation>
-    </message>
-    <message>
-        <source>Problem</source>
-        <translation>Problém</translation>
-    </message>
-    <message>
-        <source>Model</source>
-        <translation>Model</translation>
-    </message>
-    <message>
-        <source>Place</source>
-        <translation>Umístění</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Nastavení</translation>
-    </message>
-    <message>
-        <source>Last answer</source>
-        <translation>Poslední odpověď</translation>
-    </message>
-    <message>
-        <source>Address</source>
-        <translation>Adresa</translation>
-    </message>
-    <message>
-        <source>%1 · open</source>
-        <translation>%1 · otevřený</translation>
+    <message numerus="yes">
+        <source>done, %n settings could not be read</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 </TS>

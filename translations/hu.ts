@@ -150,16 +150,8 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <translation>összehasonlítás mentett beállításokkal</translation>
     </message>
     <message>
-        <source>Prints what differs from a file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder.</source>
-        <translation>Kiírja az eltéréseket egy fájlhoz képest („-” a szabványos bemenet), vagy egy mappában az egyes projektorok saját fájljához képest.</translation>
-    </message>
-    <message>
         <source>restore saved settings</source>
         <translation>mentett beállítások visszaállítása</translation>
-    </message>
-    <message>
-        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation>Beolvassa a projektorokat, elküldi azt, ami eltér a fájltól („-” a szabványos bemenet), vagy egy mappában az egyes projektorok saját fájljától, majd visszaolvassa. A lecserélt értékeket előbb megőrzi, hogy az „acctl undo” visszaállíthassa őket. A megszakított futtatás bármikor megismételhető.</translation>
     </message>
     <message>
         <source>undo the last run of set or apply</source>
@@ -994,6 +986,22 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <source>--until: &apos;%1&apos; is not KEY=VALUE</source>
         <translation>--until: „%1” nem KEY=VALUE alakú</translation>
     </message>
+    <message>
+        <source>Prints what differs from a file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the value before could not be read, and cannot be restored</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the value before could not be read</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -1381,10 +1389,6 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <translation>&amp;Másolás</translation>
     </message>
     <message>
-        <source>Projector, command or result</source>
-        <translation>Projektor, parancs vagy eredmény</translation>
-    </message>
-    <message>
         <source>Filter the log</source>
         <translation>Napló szűrése</translation>
     </message>
@@ -1409,6 +1413,18 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     <message>
         <source>Clear</source>
         <translation>Törlés</translation>
+    </message>
+    <message>
+        <source>Projector, setting, command or result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All projectors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the commands of</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1465,24 +1481,81 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <source>ok</source>
         <translation>rendben</translation>
     </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Beállítás</translation>
+    </message>
+</context>
+<context>
+    <name>ComparisonDialog</name>
+    <message>
+        <source>Progress</source>
+        <translation type="unfinished">Folyamat</translation>
+    </message>
+    <message>
+        <source>&amp;Ask Again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation type="unfinished">&amp;Alkalmazás</translation>
+    </message>
+    <message>
+        <source>Reading settings…</source>
+        <translation type="unfinished">Beállítások beolvasása…</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation type="unfinished">Leállítás</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished">Mégse</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Bezárás</translation>
+    </message>
+    <message>
+        <source>Nothing differs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors differ.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors have all these settings already.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors could not be read.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ConnectionFields</name>
     <message>
         <source>&amp;Reached through</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Elérés mód&amp;ja</translation>
     </message>
     <message>
         <source>Connect&amp;ion</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Kapc&amp;solat</translation>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">C&amp;ím</translation>
     </message>
     <message>
         <source>&amp;Port</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Port</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
@@ -1490,35 +1563,35 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     </message>
     <message>
         <source>Port n&amp;umber</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">P&amp;ortszám</translation>
     </message>
     <message>
         <source>&amp;Device</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Eszköz</translation>
     </message>
     <message>
         <source>&amp;Baud</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Átviteli se&amp;besség</translation>
     </message>
     <message>
         <source>As its family</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">A család szerint</translation>
     </message>
     <message>
         <source>Simulated</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Szimulált</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Hálózat</translation>
     </message>
     <message>
         <source>Serial port</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Soros port</translation>
     </message>
     <message>
         <source>%1 is no address.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ez nem cím: %1.</translation>
     </message>
 </context>
 <context>
@@ -1678,6 +1751,47 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     <message>
         <source>nothing yet</source>
         <translation>még semmi</translation>
+    </message>
+</context>
+<context>
+    <name>DifferenceTree</name>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Beállítás</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Differences</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First the other sources and modes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings</source>
+        <translation type="unfinished">
+            <numerusform>%n beállítás</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings do not apply to this model</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings cannot be read now</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1: %2</translation>
     </message>
 </context>
 <context>
@@ -1867,10 +1981,6 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source> %1 ms</source>
-        <translation> %1 ms</translation>
-    </message>
 </context>
 <context>
     <name>FleetSummary</name>
@@ -1912,6 +2022,13 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     <message>
         <source>oldest answer %1</source>
         <translation>legrégebbi válasz: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not watched</source>
+        <comment>projectors</comment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1991,6 +2108,10 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     <message>
         <source>password missing or wrong</source>
         <translation>a jelszó hiányzik vagy hibás</translation>
+    </message>
+    <message>
+        <source>the projector reports none of its settings now</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2203,27 +2324,27 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     <name>ModelFields</name>
     <message>
         <source>&amp;Family</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Család</translation>
     </message>
     <message>
         <source>&amp;Model</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Modell</translation>
     </message>
     <message>
         <source>All &amp;fields of the model</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">A modell összes me&amp;zője</translation>
     </message>
     <message>
         <source>Dialog &amp;type</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ablak &amp;típusa</translation>
     </message>
     <message>
         <source>Model cod&amp;e</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Modell&amp;kód</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nincs</translation>
     </message>
 </context>
 <context>
@@ -2344,6 +2465,26 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <source>Quiet hours</source>
         <translation>Csendes órák</translation>
     </message>
+    <message>
+        <source>As the desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Colors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(the same time twice: none)</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetActions</name>
@@ -2384,10 +2525,6 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <translation>Mentés előbeállításként</translation>
     </message>
     <message>
-        <source>Name of the preset:</source>
-        <translation>Az előbeállítás neve:</translation>
-    </message>
-    <message>
         <source>Saved as the preset %1</source>
         <translation>Mentve előbeállításként: %1</translation>
     </message>
@@ -2398,12 +2535,6 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     <message>
         <source>Preset %1</source>
         <translation>Előbeállítás: %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>Put the preset %1 on %n projectors?</source>
-        <translation>
-            <numerusform>Alkalmazza az előbeállítást (%1) %n projektorra?</numerusform>
-        </translation>
     </message>
     <message>
         <source>Should Be Like</source>
@@ -2424,8 +2555,85 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         </translation>
     </message>
     <message>
-        <source>Compare</source>
-        <translation>Összehasonlítás</translation>
+        <source>Reading the settings of %1…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What It Should Be</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Should be</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PresetDialog</name>
+    <message>
+        <source>Save as Preset</source>
+        <translation type="unfinished">Mentés előbeállításként</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Beállítás</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">Érték</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Name of the preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check all settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This &amp;Page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check the settings of the selected page, and no others</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>N&amp;one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Uncheck all settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings are checked.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The preset %1 will be replaced.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2503,46 +2711,6 @@ a minus in front takes a tag away:</source>
 elöl álló mínusz eltávolítja a címkét:</numerusform>
         </translation>
     </message>
-    <message>
-        <source>&amp;Open Profiles…</source>
-        <translation>&amp;Profilok megnyitása…</translation>
-    </message>
-    <message>
-        <source>&amp;Reload</source>
-        <translation>Új&amp;ratöltés</translation>
-    </message>
-    <message>
-        <source>&amp;Save Profiles As…</source>
-        <translation>Profilok &amp;mentése másként…</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Visszavonás</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>Új&amp;ra</translation>
-    </message>
-    <message>
-        <source>This could not be done; nothing was changed.</source>
-        <translation>Ez nem sikerült; semmi sem módosult.</translation>
-    </message>
-    <message>
-        <source>Open Profiles</source>
-        <translation>Profilok megnyitása</translation>
-    </message>
-    <message>
-        <source>Profiles (*.json);;All files (*)</source>
-        <translation>Profilok (*.json);;Minden fájl (*)</translation>
-    </message>
-    <message>
-        <source>Reload</source>
-        <translation>Újratöltés</translation>
-    </message>
-    <message>
-        <source>Save Profiles As</source>
-        <translation>Profilok mentése másként</translation>
-    </message>
 </context>
 <context>
     <name>ProfileCsv</name>
@@ -2603,90 +2771,6 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>&amp;Family</source>
-        <translation>&amp;Család</translation>
-    </message>
-    <message>
-        <source>&amp;Model</source>
-        <translation>&amp;Modell</translation>
-    </message>
-    <message>
-        <source>Dialog &amp;type</source>
-        <translation>Ablak &amp;típusa</translation>
-    </message>
-    <message>
-        <source>Model cod&amp;e</source>
-        <translation>Modell&amp;kód</translation>
-    </message>
-    <message>
-        <source>&amp;Reached through</source>
-        <translation>Elérés mód&amp;ja</translation>
-    </message>
-    <message>
-        <source>Connect&amp;ion</source>
-        <translation>Kapc&amp;solat</translation>
-    </message>
-    <message>
-        <source>&amp;Address</source>
-        <translation>C&amp;ím</translation>
-    </message>
-    <message>
-        <source>&amp;Port</source>
-        <translation>&amp;Port</translation>
-    </message>
-    <message>
-        <source>Pass&amp;word</source>
-        <translation>Jelsz&amp;ó</translation>
-    </message>
-    <message>
-        <source>Port n&amp;umber</source>
-        <translation>P&amp;ortszám</translation>
-    </message>
-    <message>
-        <source>&amp;Device</source>
-        <translation>&amp;Eszköz</translation>
-    </message>
-    <message>
-        <source>&amp;Baud</source>
-        <translation>Átviteli se&amp;besség</translation>
-    </message>
-    <message>
-        <source>All &amp;fields of the model</source>
-        <translation>A modell összes me&amp;zője</translation>
-    </message>
-    <message>
-        <source>Save Profiles As…</source>
-        <translation>Profilok mentése másként…</translation>
-    </message>
-    <message>
-        <source>%1 cannot be changed.</source>
-        <translation>Nem módosítható: %1.</translation>
-    </message>
-    <message>
-        <source>None</source>
-        <translation>Nincs</translation>
-    </message>
-    <message>
-        <source>As its family</source>
-        <translation>A család szerint</translation>
-    </message>
-    <message>
-        <source>Simulated</source>
-        <translation>Szimulált</translation>
-    </message>
-    <message>
-        <source>Network</source>
-        <translation>Hálózat</translation>
-    </message>
-    <message>
-        <source>Serial port</source>
-        <translation>Soros port</translation>
-    </message>
-    <message>
-        <source>%1 is no address.</source>
-        <translation>Ez nem cím: %1.</translation>
     </message>
 </context>
 <context>
@@ -2824,31 +2908,31 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
     <name>ProfileFileActions</name>
     <message>
         <source>&amp;Open Profiles…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Profilok megnyitása…</translation>
     </message>
     <message>
         <source>&amp;Reload</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Új&amp;ratöltés</translation>
     </message>
     <message>
         <source>&amp;Save Profiles As…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Profilok &amp;mentése másként…</translation>
     </message>
     <message>
         <source>Open Profiles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Profilok megnyitása</translation>
     </message>
     <message>
         <source>Profiles (*.json);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Profilok (*.json);;Minden fájl (*)</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Újratöltés</translation>
     </message>
     <message>
         <source>Save Profiles As</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Profilok mentése másként</translation>
     </message>
     <message>
         <source>Read-Only File</source>
@@ -2860,22 +2944,22 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
     </message>
     <message>
         <source>Save Profiles As…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Profilok mentése másként…</translation>
     </message>
 </context>
 <context>
     <name>ProfileHistory</name>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Visszavonás</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Új&amp;ra</translation>
     </message>
     <message>
         <source>This could not be done; nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ez nem sikerült; semmi sem módosult.</translation>
     </message>
 </context>
 <context>
@@ -2927,51 +3011,51 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
     <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Név</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Állapot</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tápellátás</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Forrás</translation>
     </message>
     <message>
         <source>Lamp</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Lámpa</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Probléma</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Modell</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Hely</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Beállítások</translation>
     </message>
     <message>
         <source>Last answer</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Utolsó válasz</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Cím</translation>
     </message>
     <message>
         <source>%1 · open</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 · nyitva</translation>
     </message>
 </context>
 <context>
@@ -3011,184 +3095,6 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
         <source>Folder</source>
         <comment>All other platforms</comment>
         <translation>Mappa</translation>
-    </message>
-</context>
-<context>
-    <name>RestoreDialog</name>
-    <message>
-        <source>Projector</source>
-        <translation>Projektor</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>Beállítás</translation>
-    </message>
-    <message>
-        <source>Here</source>
-        <translation>Itt</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>Fájl</translation>
-    </message>
-    <message>
-        <source>Result</source>
-        <translation>Eredmény</translation>
-    </message>
-    <message>
-        <source>not read</source>
-        <translation>nem lett beolvasva</translation>
-    </message>
-    <message>
-        <source>already so</source>
-        <translation>változatlan</translation>
-    </message>
-    <message>
-        <source>different</source>
-        <translation>eltérő</translation>
-    </message>
-    <message>
-        <source>changed</source>
-        <translation>módosítva</translation>
-    </message>
-    <message>
-        <source>refused</source>
-        <translation>elutasítva</translation>
-    </message>
-    <message>
-        <source>accepted, not yet so</source>
-        <translation>elfogadva, még nem lépett életbe</translation>
-    </message>
-    <message>
-        <source>refused: the projector is busy or in standby</source>
-        <translation>elutasítva: a projektor foglalt vagy készenlétben van</translation>
-    </message>
-    <message>
-        <source>not confirmed</source>
-        <translation>nincs megerősítve</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not have it</source>
-        <translation>kihagyva: ebben a modellben nincs meg</translation>
-    </message>
-    <message>
-        <source>skipped: this projector does not offer it</source>
-        <translation>kihagyva: ez a projektor nem kínálja</translation>
-    </message>
-    <message>
-        <source>skipped: it is not one to put back</source>
-        <translation>kihagyva: nem visszaállítandó</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not take the value</source>
-        <translation>kihagyva: ez a modell nem fogadja el az értéket</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n changed</source>
-        <extracomment>How many settings came to this, in a list such as &quot;12 changed, 3 refused&quot;.</extracomment>
-        <translation>
-            <numerusform>%n módosítva</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n different</source>
-        <translation>
-            <numerusform>%n eltérő</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n already so</source>
-        <translation>
-            <numerusform>%n változatlan</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not yet so</source>
-        <translation>
-            <numerusform>%n még nem lépett életbe</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n refused</source>
-        <translation>
-            <numerusform>%n elutasítva</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not confirmed</source>
-        <translation>
-            <numerusform>%n nincs megerősítve</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not read</source>
-        <translation>
-            <numerusform>%n nem lett beolvasva</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n skipped</source>
-        <translation>
-            <numerusform>%n kihagyva</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Apply Settings</source>
-        <translation>Beállítások alkalmazása</translation>
-    </message>
-    <message>
-        <source>Compare Settings</source>
-        <translation>Beállítások összehasonlítása</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Szűrő</translation>
-    </message>
-    <message>
-        <source>&amp;Differences only</source>
-        <translation>Csak az &amp;eltérések</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Beállítások</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Folyamat</translation>
-    </message>
-    <message>
-        <source>&amp;Compare Again</source>
-        <translation>Ö&amp;sszehasonlítás újra</translation>
-    </message>
-    <message>
-        <source>&amp;Apply</source>
-        <translation>&amp;Alkalmazás</translation>
-    </message>
-    <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>Várakozás egy nyitott ablak projektorára…</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Leállítás</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Bezárás</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>Beforehand: other sources and modes</source>
-        <translation>Előtte: más források és módok</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n settings</source>
-        <translation>
-            <numerusform>%n beállítás</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -3290,20 +3196,6 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
         <translation>Beállítások &amp;alkalmazása…</translation>
     </message>
     <message>
-        <source>%1: no answer</source>
-        <translation>%1: nincs válasz</translation>
-    </message>
-    <message>
-        <source>%1: nothing can be read</source>
-        <translation>%1: semmi sem olvasható</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1: %n settings cannot be read and are left out</source>
-        <translation>
-            <numerusform>%1: %n beállítás nem olvasható, ezért kimarad</numerusform>
-        </translation>
-    </message>
-    <message>
         <source>Save Settings</source>
         <translation>Beállítások mentése</translation>
     </message>
@@ -3316,20 +3208,44 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
         <translation>Beállítások (*.json)</translation>
     </message>
     <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>Várakozás egy nyitott ablak projektorára…</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Leállítás</translation>
-    </message>
-    <message>
         <source>Reading settings…</source>
         <translation>Beállítások beolvasása…</translation>
     </message>
     <message>
         <source>Open Settings</source>
         <translation>Beállítások megnyitása</translation>
+    </message>
+    <message>
+        <source>Settings saved in %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Settings of %n projectors saved in %1.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings could not be read.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Apply Settings</source>
+        <translation type="unfinished">Beállítások alkalmazása</translation>
+    </message>
+    <message>
+        <source>Compare Settings</source>
+        <translation type="unfinished">Beállítások összehasonlítása</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation type="unfinished">Fájl</translation>
+    </message>
+    <message>
+        <source>The values before are kept in %1.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3810,134 +3726,130 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
             <numerusform></numerusform>
         </translation>
     </message>
-    <message>
-        <source>%1 added, %2 already known, %3 rows not taken.</source>
-        <translation>%1 hozzáadva, %2 már ismert, %3 sor nem lett átvéve.</translation>
-    </message>
 </context>
 <context>
     <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Bekapcsolás</translation>
     </message>
     <message>
         <source>Switch O&amp;ff</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Kikapcsolás</translation>
     </message>
     <message>
         <source>P&amp;ower</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Tápellátás</translation>
     </message>
     <message>
         <source>&amp;Input</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">B&amp;emenet</translation>
     </message>
     <message>
         <source>&amp;Blank</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Üres kép</translation>
     </message>
     <message>
         <source>Blank the Picture</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Üres kép bekapcsolása</translation>
     </message>
     <message numerus="yes">
         <source>Blank the picture of %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>Bekapcsolja az üres képet %n projektoron?</numerusform>
         </translation>
     </message>
     <message>
         <source>Show the Picture</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Kép megjelenítése</translation>
     </message>
     <message numerus="yes">
         <source>Show the picture of %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>Megjeleníti a képet %n projektoron?</numerusform>
         </translation>
     </message>
     <message>
         <source>&amp;Mute</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Némítás</translation>
     </message>
     <message>
         <source>Mute the Sound</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Hang némítása</translation>
     </message>
     <message numerus="yes">
         <source>Mute the sound of %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>Elnémítja %n projektor hangját?</numerusform>
         </translation>
     </message>
     <message>
         <source>Unmute the Sound</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Némítás megszüntetése</translation>
     </message>
     <message numerus="yes">
         <source>Unmute the sound of %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>Megszünteti %n projektor némítását?</numerusform>
         </translation>
     </message>
     <message>
         <source>Free&amp;ze</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Kime&amp;revítés</translation>
     </message>
     <message>
         <source>Freeze the Picture</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Kép kimerevítése</translation>
     </message>
     <message numerus="yes">
         <source>Freeze the picture of %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>Kimerevíti %n projektor képét?</numerusform>
         </translation>
     </message>
     <message>
         <source>Release the Picture</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Kimerevítés megszüntetése</translation>
     </message>
     <message numerus="yes">
         <source>Release the picture of %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>Megszünteti %n projektor képének kimerevítését?</numerusform>
         </translation>
     </message>
     <message>
         <source>Switch On</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Bekapcsolás</translation>
     </message>
     <message>
         <source>Switch Off</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Kikapcsolás</translation>
     </message>
     <message numerus="yes">
         <source>Switch on %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>Bekapcsol %n projektort?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Switch off %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>Kikapcsol %n projektort?</numerusform>
         </translation>
     </message>
     <message>
         <source>Input %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Bemenet: %1</translation>
     </message>
     <message numerus="yes">
         <source>Choose the input %1 on %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>Kiválasztja ezt a bemenetet %n projektoron: %1?</numerusform>
         </translation>
     </message>
     <message>
         <source>No inputs are known</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nincsenek ismert bemenetek</translation>
     </message>
 </context>
 <context>
@@ -3952,128 +3864,6 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
     <message>
         <source>%1, %2: %3</source>
         <translation>%1, %2: %3</translation>
-    </message>
-    <message>
-        <source>Switch O&amp;n</source>
-        <translation>&amp;Bekapcsolás</translation>
-    </message>
-    <message>
-        <source>Switch O&amp;ff</source>
-        <translation>&amp;Kikapcsolás</translation>
-    </message>
-    <message>
-        <source>P&amp;ower</source>
-        <translation>&amp;Tápellátás</translation>
-    </message>
-    <message>
-        <source>&amp;Input</source>
-        <translation>B&amp;emenet</translation>
-    </message>
-    <message>
-        <source>&amp;Blank</source>
-        <translation>&amp;Üres kép</translation>
-    </message>
-    <message>
-        <source>Blank the Picture</source>
-        <translation>Üres kép bekapcsolása</translation>
-    </message>
-    <message numerus="yes">
-        <source>Blank the picture of %n projectors?</source>
-        <translation>
-            <numerusform>Bekapcsolja az üres képet %n projektoron?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Show the Picture</source>
-        <translation>Kép megjelenítése</translation>
-    </message>
-    <message numerus="yes">
-        <source>Show the picture of %n projectors?</source>
-        <translation>
-            <numerusform>Megjeleníti a képet %n projektoron?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>&amp;Mute</source>
-        <translation>&amp;Némítás</translation>
-    </message>
-    <message>
-        <source>Mute the Sound</source>
-        <translation>Hang némítása</translation>
-    </message>
-    <message numerus="yes">
-        <source>Mute the sound of %n projectors?</source>
-        <translation>
-            <numerusform>Elnémítja %n projektor hangját?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Unmute the Sound</source>
-        <translation>Némítás megszüntetése</translation>
-    </message>
-    <message numerus="yes">
-        <source>Unmute the sound of %n projectors?</source>
-        <translation>
-            <numerusform>Megszünteti %n projektor némítását?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Free&amp;ze</source>
-        <translation>Kime&amp;revítés</translation>
-    </message>
-    <message>
-        <source>Freeze the Picture</source>
-        <translation>Kép kimerevítése</translation>
-    </message>
-    <message numerus="yes">
-        <source>Freeze the picture of %n projectors?</source>
-        <translation>
-            <numerusform>Kimerevíti %n projektor képét?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Release the Picture</source>
-        <translation>Kimerevítés megszüntetése</translation>
-    </message>
-    <message numerus="yes">
-        <source>Release the picture of %n projectors?</source>
-        <translation>
-            <numerusform>Megszünteti %n projektor képének kimerevítését?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Switch On</source>
-        <translation>Bekapcsolás</translation>
-    </message>
-    <message>
-        <source>Switch Off</source>
-        <translation>Kikapcsolás</translation>
-    </message>
-    <message numerus="yes">
-        <source>Switch on %n projectors?</source>
-        <translation>
-            <numerusform>Bekapcsol %n projektort?</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Switch off %n projectors?</source>
-        <translation>
-            <numerusform>Kikapcsol %n projektort?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Input %1</source>
-        <translation>Bemenet: %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>Choose the input %1 on %n projectors?</source>
-        <translation>
-            <numerusform>Kiválasztja ezt a bemenetet %n projektoron: %1?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>No inputs are known</source>
-        <translation>Nincsenek ismert bemenetek</translation>
     </message>
 </context>
 <context>
@@ -4170,56 +3960,15 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
         <source>stopped</source>
         <translation>leállítva</translation>
     </message>
-</context>
-<context>
-    <name>ProjectorTableModel</name>
     <message>
-        <source>Name</source>
-        <translation>Név</translation>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1: %2</translation>
     </message>
-    <message>
-        <source>State</source>
-        <translation>Állapot</translation>
-    </message>
-    <message>
-        <source>Power</source>
-        <translation>Tápellátás</translation>
-    </message>
-    <message>
-        <source>Source</source>
-        <translation>Forrás</translation>
-    </message>
-    <message>
-        <source>Lamp</source>
-        <translation>Lámpa</translation>
-    </message>
-    <message>
-        <source>Problem</source>
-        <translation>Probléma</translation>
-    </message>
-    <message>
-        <source>Model</source>
-        <translation>Modell</translation>
-    </message>
-    <message>
-        <source>Place</source>
-        <translation>Hely</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Beállítások</translation>
-    </message>
-    <message>
-        <source>Last answer</source>
-        <translation>Utolsó válasz</translation>
-    </message>
-    <message>
-        <source>Address</source>
-        <translation>Cím</translation>
-    </message>
-    <message>
-        <source>%1 · open</source>
-        <translation>%1 · nyitva</translation>
+    <message numerus="yes">
+        <source>done, %n settings could not be read</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 </TS>

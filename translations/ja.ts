@@ -150,16 +150,8 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <translation>保存した設定と比較</translation>
     </message>
     <message>
-        <source>Prints what differs from a file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder.</source>
-        <translation>ファイル (「-」は標準入力)、またはフォルダー内の各プロジェクターのファイルと異なる設定を表示します。</translation>
-    </message>
-    <message>
         <source>restore saved settings</source>
         <translation>保存した設定を復元</translation>
-    </message>
-    <message>
-        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation>プロジェクターを読み取り、ファイル (「-」は標準入力)、またはフォルダー内の各プロジェクターのファイルと異なる設定を送信して、読み直します。置き換えられる値は先に保存されるので、「acctl undo」で復元できます。中断した場合は、いつでも再実行できます。</translation>
     </message>
     <message>
         <source>undo the last run of set or apply</source>
@@ -994,6 +986,22 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <source>--until: &apos;%1&apos; is not KEY=VALUE</source>
         <translation>--until: 「%1」は KEY=VALUE の形式ではありません</translation>
     </message>
+    <message>
+        <source>Prints what differs from a file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the value before could not be read, and cannot be restored</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the value before could not be read</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -1381,10 +1389,6 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <translation>コピー(&amp;C)</translation>
     </message>
     <message>
-        <source>Projector, command or result</source>
-        <translation>プロジェクター、コマンド、結果</translation>
-    </message>
-    <message>
         <source>Filter the log</source>
         <translation>ログを絞り込む</translation>
     </message>
@@ -1409,6 +1413,18 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     <message>
         <source>Clear</source>
         <translation>消去</translation>
+    </message>
+    <message>
+        <source>Projector, setting, command or result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All projectors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the commands of</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1465,60 +1481,117 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <source>ok</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">設定</translation>
+    </message>
+</context>
+<context>
+    <name>ComparisonDialog</name>
+    <message>
+        <source>Progress</source>
+        <translation type="unfinished">進行状況</translation>
+    </message>
+    <message>
+        <source>&amp;Ask Again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation type="unfinished">適用(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Reading settings…</source>
+        <translation type="unfinished">設定を読み取り中…</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation type="unfinished">中止</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished">キャンセル</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">閉じる</translation>
+    </message>
+    <message>
+        <source>Nothing differs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors differ.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors have all these settings already.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors could not be read.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ConnectionFields</name>
     <message>
         <source>&amp;Reached through</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">接続方法(&amp;R)</translation>
     </message>
     <message>
         <source>Connect&amp;ion</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">接続(&amp;I)</translation>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">アドレス(&amp;A)</translation>
     </message>
     <message>
         <source>&amp;Port</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ポート(&amp;P)</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">パスワード(&amp;W)</translation>
     </message>
     <message>
         <source>Port n&amp;umber</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ポート番号(&amp;U)</translation>
     </message>
     <message>
         <source>&amp;Device</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">デバイス(&amp;D)</translation>
     </message>
     <message>
         <source>&amp;Baud</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ボーレート(&amp;B)</translation>
     </message>
     <message>
         <source>As its family</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ファミリーと同じ</translation>
     </message>
     <message>
         <source>Simulated</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">シミュレーション</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ネットワーク</translation>
     </message>
     <message>
         <source>Serial port</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">シリアルポート</translation>
     </message>
     <message>
         <source>%1 is no address.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 はアドレスではありません。</translation>
     </message>
 </context>
 <context>
@@ -1678,6 +1751,47 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     <message>
         <source>nothing yet</source>
         <translation>まだありません</translation>
+    </message>
+</context>
+<context>
+    <name>DifferenceTree</name>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">設定</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Differences</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First the other sources and modes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings</source>
+        <translation type="unfinished">
+            <numerusform>設定 %n 件</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings do not apply to this model</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings cannot be read now</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1: %2</translation>
     </message>
 </context>
 <context>
@@ -1867,10 +1981,6 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source> %1 ms</source>
-        <translation> %1 ms</translation>
-    </message>
 </context>
 <context>
     <name>FleetSummary</name>
@@ -1912,6 +2022,13 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     <message>
         <source>oldest answer %1</source>
         <translation>最も古い応答 %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not watched</source>
+        <comment>projectors</comment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1991,6 +2108,10 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     <message>
         <source>password missing or wrong</source>
         <translation>パスワードがないか、間違っています</translation>
+    </message>
+    <message>
+        <source>the projector reports none of its settings now</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2203,27 +2324,27 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     <name>ModelFields</name>
     <message>
         <source>&amp;Family</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ファミリー(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Model</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">機種(&amp;M)</translation>
     </message>
     <message>
         <source>All &amp;fields of the model</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">機種の全項目(&amp;L)</translation>
     </message>
     <message>
         <source>Dialog &amp;type</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ダイアログの種類(&amp;T)</translation>
     </message>
     <message>
         <source>Model cod&amp;e</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">機種コード(&amp;E)</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">なし</translation>
     </message>
 </context>
 <context>
@@ -2344,6 +2465,26 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <source>Quiet hours</source>
         <translation>通知停止の時間帯</translation>
     </message>
+    <message>
+        <source>As the desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Colors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(the same time twice: none)</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetActions</name>
@@ -2384,10 +2525,6 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <translation>プリセットとして保存</translation>
     </message>
     <message>
-        <source>Name of the preset:</source>
-        <translation>プリセットの名前:</translation>
-    </message>
-    <message>
         <source>Saved as the preset %1</source>
         <translation>プリセット %1 として保存しました</translation>
     </message>
@@ -2398,12 +2535,6 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     <message>
         <source>Preset %1</source>
         <translation>プリセット %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>Put the preset %1 on %n projectors?</source>
-        <translation>
-            <numerusform>プリセット %1 を %n 台のプロジェクターに適用しますか?</numerusform>
-        </translation>
     </message>
     <message>
         <source>Should Be Like</source>
@@ -2424,8 +2555,85 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         </translation>
     </message>
     <message>
-        <source>Compare</source>
-        <translation>比較</translation>
+        <source>Reading the settings of %1…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What It Should Be</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Should be</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PresetDialog</name>
+    <message>
+        <source>Save as Preset</source>
+        <translation type="unfinished">プリセットとして保存</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">設定</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">値</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Name of the preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check all settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This &amp;Page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check the settings of the selected page, and no others</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>N&amp;one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Uncheck all settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings are checked.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The preset %1 will be replaced.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2503,46 +2711,6 @@ a minus in front takes a tag away:</source>
 先頭にマイナスを付けると、そのタグを外します:</numerusform>
         </translation>
     </message>
-    <message>
-        <source>&amp;Open Profiles…</source>
-        <translation>プロファイルを開く(&amp;O)…</translation>
-    </message>
-    <message>
-        <source>&amp;Reload</source>
-        <translation>再読み込み(&amp;R)</translation>
-    </message>
-    <message>
-        <source>&amp;Save Profiles As…</source>
-        <translation>プロファイルに名前を付けて保存(&amp;S)…</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>元に戻す(&amp;U)</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>やり直す(&amp;R)</translation>
-    </message>
-    <message>
-        <source>This could not be done; nothing was changed.</source>
-        <translation>この操作は実行できませんでした。何も変更されていません。</translation>
-    </message>
-    <message>
-        <source>Open Profiles</source>
-        <translation>プロファイルを開く</translation>
-    </message>
-    <message>
-        <source>Profiles (*.json);;All files (*)</source>
-        <translation>プロファイル (*.json);;すべてのファイル (*)</translation>
-    </message>
-    <message>
-        <source>Reload</source>
-        <translation>再読み込み</translation>
-    </message>
-    <message>
-        <source>Save Profiles As</source>
-        <translation>プロファイルに名前を付けて保存</translation>
-    </message>
 </context>
 <context>
     <name>ProfileCsv</name>
@@ -2603,90 +2771,6 @@ a minus in front takes a tag away:</source>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>&amp;Family</source>
-        <translation>ファミリー(&amp;F)</translation>
-    </message>
-    <message>
-        <source>&amp;Model</source>
-        <translation>機種(&amp;M)</translation>
-    </message>
-    <message>
-        <source>Dialog &amp;type</source>
-        <translation>ダイアログの種類(&amp;T)</translation>
-    </message>
-    <message>
-        <source>Model cod&amp;e</source>
-        <translation>機種コード(&amp;E)</translation>
-    </message>
-    <message>
-        <source>&amp;Reached through</source>
-        <translation>接続方法(&amp;R)</translation>
-    </message>
-    <message>
-        <source>Connect&amp;ion</source>
-        <translation>接続(&amp;I)</translation>
-    </message>
-    <message>
-        <source>&amp;Address</source>
-        <translation>アドレス(&amp;A)</translation>
-    </message>
-    <message>
-        <source>&amp;Port</source>
-        <translation>ポート(&amp;P)</translation>
-    </message>
-    <message>
-        <source>Pass&amp;word</source>
-        <translation>パスワード(&amp;W)</translation>
-    </message>
-    <message>
-        <source>Port n&amp;umber</source>
-        <translation>ポート番号(&amp;U)</translation>
-    </message>
-    <message>
-        <source>&amp;Device</source>
-        <translation>デバイス(&amp;D)</translation>
-    </message>
-    <message>
-        <source>&amp;Baud</source>
-        <translation>ボーレート(&amp;B)</translation>
-    </message>
-    <message>
-        <source>All &amp;fields of the model</source>
-        <translation>機種の全項目(&amp;L)</translation>
-    </message>
-    <message>
-        <source>Save Profiles As…</source>
-        <translation>プロファイルに名前を付けて保存…</translation>
-    </message>
-    <message>
-        <source>%1 cannot be changed.</source>
-        <translation>%1 は変更できません。</translation>
-    </message>
-    <message>
-        <source>None</source>
-        <translation>なし</translation>
-    </message>
-    <message>
-        <source>As its family</source>
-        <translation>ファミリーと同じ</translation>
-    </message>
-    <message>
-        <source>Simulated</source>
-        <translation>シミュレーション</translation>
-    </message>
-    <message>
-        <source>Network</source>
-        <translation>ネットワーク</translation>
-    </message>
-    <message>
-        <source>Serial port</source>
-        <translation>シリアルポート</translation>
-    </message>
-    <message>
-        <source>%1 is no address.</source>
-        <translation>%1 はアドレスではありません。</translation>
     </message>
 </context>
 <context>
@@ -2824,31 +2908,31 @@ a minus in front takes a tag away:</source>
     <name>ProfileFileActions</name>
     <message>
         <source>&amp;Open Profiles…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">プロファイルを開く(&amp;O)…</translation>
     </message>
     <message>
         <source>&amp;Reload</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">再読み込み(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Save Profiles As…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">プロファイルに名前を付けて保存(&amp;S)…</translation>
     </message>
     <message>
         <source>Open Profiles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">プロファイルを開く</translation>
     </message>
     <message>
         <source>Profiles (*.json);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">プロファイル (*.json);;すべてのファイル (*)</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">再読み込み</translation>
     </message>
     <message>
         <source>Save Profiles As</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">プロファイルに名前を付けて保存</translation>
     </message>
     <message>
         <source>Read-Only File</source>
@@ -2860,22 +2944,22 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Save Profiles As…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">プロファイルに名前を付けて保存…</translation>
     </message>
 </context>
 <context>
     <name>ProfileHistory</name>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">元に戻す(&amp;U)</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">やり直す(&amp;R)</translation>
     </message>
     <message>
         <source>This could not be done; nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">この操作は実行できませんでした。何も変更されていません。</translation>
     </message>
 </context>
 <context>
@@ -2927,51 +3011,51 @@ a minus in front takes a tag away:</source>
     <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">名前</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">状態</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">電源</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ソース</translation>
     </message>
     <message>
         <source>Lamp</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ランプ</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">問題</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">機種</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">場所</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">設定</translation>
     </message>
     <message>
         <source>Last answer</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">最終応答</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">アドレス</translation>
     </message>
     <message>
         <source>%1 · open</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 · 表示中</translation>
     </message>
 </context>
 <context>
@@ -3011,184 +3095,6 @@ a minus in front takes a tag away:</source>
         <source>Folder</source>
         <comment>All other platforms</comment>
         <translation>フォルダー</translation>
-    </message>
-</context>
-<context>
-    <name>RestoreDialog</name>
-    <message>
-        <source>Projector</source>
-        <translation>プロジェクター</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>設定</translation>
-    </message>
-    <message>
-        <source>Here</source>
-        <translation>現在の値</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>ファイル</translation>
-    </message>
-    <message>
-        <source>Result</source>
-        <translation>結果</translation>
-    </message>
-    <message>
-        <source>not read</source>
-        <translation>読み取れません</translation>
-    </message>
-    <message>
-        <source>already so</source>
-        <translation>変更不要</translation>
-    </message>
-    <message>
-        <source>different</source>
-        <translation>相違あり</translation>
-    </message>
-    <message>
-        <source>changed</source>
-        <translation>変更しました</translation>
-    </message>
-    <message>
-        <source>refused</source>
-        <translation>拒否されました</translation>
-    </message>
-    <message>
-        <source>accepted, not yet so</source>
-        <translation>受け付け済み、未反映</translation>
-    </message>
-    <message>
-        <source>refused: the projector is busy or in standby</source>
-        <translation>拒否: プロジェクターが処理中かスタンバイ中です</translation>
-    </message>
-    <message>
-        <source>not confirmed</source>
-        <translation>未確認</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not have it</source>
-        <translation>スキップ: この機種にはありません</translation>
-    </message>
-    <message>
-        <source>skipped: this projector does not offer it</source>
-        <translation>スキップ: このプロジェクターは対応していません</translation>
-    </message>
-    <message>
-        <source>skipped: it is not one to put back</source>
-        <translation>スキップ: 復元の対象ではありません</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not take the value</source>
-        <translation>スキップ: この機種では受け付けられない値です</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n changed</source>
-        <extracomment>How many settings came to this, in a list such as &quot;12 changed, 3 refused&quot;.</extracomment>
-        <translation>
-            <numerusform>変更 %n 件</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n different</source>
-        <translation>
-            <numerusform>相違 %n 件</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n already so</source>
-        <translation>
-            <numerusform>変更不要 %n 件</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not yet so</source>
-        <translation>
-            <numerusform>未反映 %n 件</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n refused</source>
-        <translation>
-            <numerusform>拒否 %n 件</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not confirmed</source>
-        <translation>
-            <numerusform>未確認 %n 件</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not read</source>
-        <translation>
-            <numerusform>読み取り不可 %n 件</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n skipped</source>
-        <translation>
-            <numerusform>スキップ %n 件</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Apply Settings</source>
-        <translation>設定の適用</translation>
-    </message>
-    <message>
-        <source>Compare Settings</source>
-        <translation>設定の比較</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>絞り込み</translation>
-    </message>
-    <message>
-        <source>&amp;Differences only</source>
-        <translation>異なる設定のみ(&amp;D)</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>設定</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>進行状況</translation>
-    </message>
-    <message>
-        <source>&amp;Compare Again</source>
-        <translation>再比較(&amp;C)</translation>
-    </message>
-    <message>
-        <source>&amp;Apply</source>
-        <translation>適用(&amp;A)</translation>
-    </message>
-    <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>開いているダイアログのプロジェクターを待機中…</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>中止</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>閉じる</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>Beforehand: other sources and modes</source>
-        <translation>事前処理: ほかのソースとモード</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n settings</source>
-        <translation>
-            <numerusform>設定 %n 件</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -3290,20 +3196,6 @@ a minus in front takes a tag away:</source>
         <translation>設定を適用(&amp;P)…</translation>
     </message>
     <message>
-        <source>%1: no answer</source>
-        <translation>%1: 応答がありません</translation>
-    </message>
-    <message>
-        <source>%1: nothing can be read</source>
-        <translation>%1: 何も読み取れません</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1: %n settings cannot be read and are left out</source>
-        <translation>
-            <numerusform>%1: 設定 %n 件を読み取れないため、除外します</numerusform>
-        </translation>
-    </message>
-    <message>
         <source>Save Settings</source>
         <translation>設定の保存</translation>
     </message>
@@ -3316,20 +3208,44 @@ a minus in front takes a tag away:</source>
         <translation>設定 (*.json)</translation>
     </message>
     <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>開いているダイアログのプロジェクターを待機中…</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>中止</translation>
-    </message>
-    <message>
         <source>Reading settings…</source>
         <translation>設定を読み取り中…</translation>
     </message>
     <message>
         <source>Open Settings</source>
         <translation>設定を開く</translation>
+    </message>
+    <message>
+        <source>Settings saved in %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Settings of %n projectors saved in %1.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings could not be read.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Apply Settings</source>
+        <translation type="unfinished">設定の適用</translation>
+    </message>
+    <message>
+        <source>Compare Settings</source>
+        <translation type="unfinished">設定の比較</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation type="unfinished">ファイル</translation>
+    </message>
+    <message>
+        <source>The values before are kept in %1.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3810,134 +3726,130 @@ a minus in front takes a tag away:</source>
             <numerusform></numerusform>
         </translation>
     </message>
-    <message>
-        <source>%1 added, %2 already known, %3 rows not taken.</source>
-        <translation>追加 %1 件、登録済み %2 件、取り込めない行 %3 行。</translation>
-    </message>
 </context>
 <context>
     <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">電源を入れる(&amp;N)</translation>
     </message>
     <message>
         <source>Switch O&amp;ff</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">電源を切る(&amp;F)</translation>
     </message>
     <message>
         <source>P&amp;ower</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">電源(&amp;W)</translation>
     </message>
     <message>
         <source>&amp;Input</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">入力(&amp;I)</translation>
     </message>
     <message>
         <source>&amp;Blank</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ブランク(&amp;B)</translation>
     </message>
     <message>
         <source>Blank the Picture</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">映像をブランクにする</translation>
     </message>
     <message numerus="yes">
         <source>Blank the picture of %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>%n 台のプロジェクターの映像をブランクにしますか?</numerusform>
         </translation>
     </message>
     <message>
         <source>Show the Picture</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">映像を表示</translation>
     </message>
     <message numerus="yes">
         <source>Show the picture of %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>%n 台のプロジェクターの映像を表示しますか?</numerusform>
         </translation>
     </message>
     <message>
         <source>&amp;Mute</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ミュート(&amp;M)</translation>
     </message>
     <message>
         <source>Mute the Sound</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">音声をミュート</translation>
     </message>
     <message numerus="yes">
         <source>Mute the sound of %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>%n 台のプロジェクターの音声をミュートしますか?</numerusform>
         </translation>
     </message>
     <message>
         <source>Unmute the Sound</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ミュートを解除</translation>
     </message>
     <message numerus="yes">
         <source>Unmute the sound of %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>%n 台のプロジェクターのミュートを解除しますか?</numerusform>
         </translation>
     </message>
     <message>
         <source>Free&amp;ze</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">静止(&amp;Z)</translation>
     </message>
     <message>
         <source>Freeze the Picture</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">映像を静止</translation>
     </message>
     <message numerus="yes">
         <source>Freeze the picture of %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>%n 台のプロジェクターの映像を静止しますか?</numerusform>
         </translation>
     </message>
     <message>
         <source>Release the Picture</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">静止を解除</translation>
     </message>
     <message numerus="yes">
         <source>Release the picture of %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>%n 台のプロジェクターの静止を解除しますか?</numerusform>
         </translation>
     </message>
     <message>
         <source>Switch On</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">電源を入れる</translation>
     </message>
     <message>
         <source>Switch Off</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">電源を切る</translation>
     </message>
     <message numerus="yes">
         <source>Switch on %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>%n 台のプロジェクターの電源を入れますか?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Switch off %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>%n 台のプロジェクターの電源を切りますか?</numerusform>
         </translation>
     </message>
     <message>
         <source>Input %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">入力 %1</translation>
     </message>
     <message numerus="yes">
         <source>Choose the input %1 on %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>%n 台のプロジェクターの入力を %1 に切り替えますか?</numerusform>
         </translation>
     </message>
     <message>
         <source>No inputs are known</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">入力の情報がありません</translation>
     </message>
 </context>
 <context>
@@ -3952,128 +3864,6 @@ a minus in front takes a tag away:</source>
     <message>
         <source>%1, %2: %3</source>
         <translation>%1、%2: %3</translation>
-    </message>
-    <message>
-        <source>Switch O&amp;n</source>
-        <translation>電源を入れる(&amp;N)</translation>
-    </message>
-    <message>
-        <source>Switch O&amp;ff</source>
-        <translation>電源を切る(&amp;F)</translation>
-    </message>
-    <message>
-        <source>P&amp;ower</source>
-        <translation>電源(&amp;W)</translation>
-    </message>
-    <message>
-        <source>&amp;Input</source>
-        <translation>入力(&amp;I)</translation>
-    </message>
-    <message>
-        <source>&amp;Blank</source>
-        <translation>ブランク(&amp;B)</translation>
-    </message>
-    <message>
-        <source>Blank the Picture</source>
-        <translation>映像をブランクにする</translation>
-    </message>
-    <message numerus="yes">
-        <source>Blank the picture of %n projectors?</source>
-        <translation>
-            <numerusform>%n 台のプロジェクターの映像をブランクにしますか?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Show the Picture</source>
-        <translation>映像を表示</translation>
-    </message>
-    <message numerus="yes">
-        <source>Show the picture of %n projectors?</source>
-        <translation>
-            <numerusform>%n 台のプロジェクターの映像を表示しますか?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>&amp;Mute</source>
-        <translation>ミュート(&amp;M)</translation>
-    </message>
-    <message>
-        <source>Mute the Sound</source>
-        <translation>音声をミュート</translation>
-    </message>
-    <message numerus="yes">
-        <source>Mute the sound of %n projectors?</source>
-        <translation>
-            <numerusform>%n 台のプロジェクターの音声をミュートしますか?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Unmute the Sound</source>
-        <translation>ミュートを解除</translation>
-    </message>
-    <message numerus="yes">
-        <source>Unmute the sound of %n projectors?</source>
-        <translation>
-            <numerusform>%n 台のプロジェクターのミュートを解除しますか?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Free&amp;ze</source>
-        <translation>静止(&amp;Z)</translation>
-    </message>
-    <message>
-        <source>Freeze the Picture</source>
-        <translation>映像を静止</translation>
-    </message>
-    <message numerus="yes">
-        <source>Freeze the picture of %n projectors?</source>
-        <translation>
-            <numerusform>%n 台のプロジェクターの映像を静止しますか?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Release the Picture</source>
-        <translation>静止を解除</translation>
-    </message>
-    <message numerus="yes">
-        <source>Release the picture of %n projectors?</source>
-        <translation>
-            <numerusform>%n 台のプロジェクターの静止を解除しますか?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Switch On</source>
-        <translation>電源を入れる</translation>
-    </message>
-    <message>
-        <source>Switch Off</source>
-        <translation>電源を切る</translation>
-    </message>
-    <message numerus="yes">
-        <source>Switch on %n projectors?</source>
-        <translation>
-            <numerusform>%n 台のプロジェクターの電源を入れますか?</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Switch off %n projectors?</source>
-        <translation>
-            <numerusform>%n 台のプロジェクターの電源を切りますか?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Input %1</source>
-        <translation>入力 %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>Choose the input %1 on %n projectors?</source>
-        <translation>
-            <numerusform>%n 台のプロジェクターの入力を %1 に切り替えますか?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>No inputs are known</source>
-        <translation>入力の情報がありません</translation>
     </message>
 </context>
 <context>
@@ -4170,56 +3960,15 @@ a minus in front takes a tag away:</source>
         <source>stopped</source>
         <translation>中止</translation>
     </message>
-</context>
-<context>
-    <name>ProjectorTableModel</name>
     <message>
-        <source>Name</source>
-        <translation>名前</translation>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1: %2</translation>
     </message>
-    <message>
-        <source>State</source>
-        <translation>状態</translation>
-    </message>
-    <message>
-        <source>Power</source>
-        <translation>電源</translation>
-    </message>
-    <message>
-        <source>Source</source>
-        <translation>ソース</translation>
-    </message>
-    <message>
-        <source>Lamp</source>
-        <translation>ランプ</translation>
-    </message>
-    <message>
-        <source>Problem</source>
-        <translation>問題</translation>
-    </message>
-    <message>
-        <source>Model</source>
-        <translation>機種</translation>
-    </message>
-    <message>
-        <source>Place</source>
-        <translation>場所</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>設定</translation>
-    </message>
-    <message>
-        <source>Last answer</source>
-        <translation>最終応答</translation>
-    </message>
-    <message>
-        <source>Address</source>
-        <translation>アドレス</translation>
-    </message>
-    <message>
-        <source>%1 · open</source>
-        <translation>%1 · 表示中</translation>
+    <message numerus="yes">
+        <source>done, %n settings could not be read</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 </TS>

@@ -150,16 +150,8 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <translation>저장한 설정과 비교</translation>
     </message>
     <message>
-        <source>Prints what differs from a file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder.</source>
-        <translation>파일(‘-’는 표준 입력) 또는 폴더에 있는 각 프로젝터의 파일과 다른 설정을 표시합니다.</translation>
-    </message>
-    <message>
         <source>restore saved settings</source>
         <translation>저장한 설정 복원</translation>
-    </message>
-    <message>
-        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation>프로젝터를 읽고, 파일(‘-’는 표준 입력) 또는 폴더에 있는 각 프로젝터의 파일과 다른 설정을 전송한 뒤 다시 읽습니다. 바뀌기 전의 값을 먼저 보관하므로 ‘acctl undo’로 복원할 수 있습니다. 중단된 실행은 언제든지 다시 할 수 있습니다.</translation>
     </message>
     <message>
         <source>undo the last run of set or apply</source>
@@ -994,6 +986,22 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <source>--until: &apos;%1&apos; is not KEY=VALUE</source>
         <translation>--until: ‘%1’은(는) KEY=VALUE 형식이 아닙니다</translation>
     </message>
+    <message>
+        <source>Prints what differs from a file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the value before could not be read, and cannot be restored</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the value before could not be read</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -1381,10 +1389,6 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <translation>복사(&amp;C)</translation>
     </message>
     <message>
-        <source>Projector, command or result</source>
-        <translation>프로젝터, 명령 또는 결과</translation>
-    </message>
-    <message>
         <source>Filter the log</source>
         <translation>로그 필터링</translation>
     </message>
@@ -1409,6 +1413,18 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     <message>
         <source>Clear</source>
         <translation>지우기</translation>
+    </message>
+    <message>
+        <source>Projector, setting, command or result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All projectors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the commands of</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1465,60 +1481,117 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <source>ok</source>
         <translation>정상</translation>
     </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">설정</translation>
+    </message>
+</context>
+<context>
+    <name>ComparisonDialog</name>
+    <message>
+        <source>Progress</source>
+        <translation type="unfinished">진행 상황</translation>
+    </message>
+    <message>
+        <source>&amp;Ask Again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation type="unfinished">적용(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Reading settings…</source>
+        <translation type="unfinished">설정을 읽는 중…</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation type="unfinished">중지</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished">취소</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">닫기</translation>
+    </message>
+    <message>
+        <source>Nothing differs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors differ.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors have all these settings already.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors could not be read.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ConnectionFields</name>
     <message>
         <source>&amp;Reached through</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">연결 방법(&amp;R)</translation>
     </message>
     <message>
         <source>Connect&amp;ion</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">연결(&amp;I)</translation>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">주소(&amp;A)</translation>
     </message>
     <message>
         <source>&amp;Port</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">포트(&amp;P)</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">암호(&amp;W)</translation>
     </message>
     <message>
         <source>Port n&amp;umber</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">포트 번호(&amp;U)</translation>
     </message>
     <message>
         <source>&amp;Device</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">장치(&amp;D)</translation>
     </message>
     <message>
         <source>&amp;Baud</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">전송 속도(&amp;B)</translation>
     </message>
     <message>
         <source>As its family</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">제품군과 같음</translation>
     </message>
     <message>
         <source>Simulated</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">시뮬레이션</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">네트워크</translation>
     </message>
     <message>
         <source>Serial port</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">직렬 포트</translation>
     </message>
     <message>
         <source>%1 is no address.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1은(는) 주소가 아닙니다.</translation>
     </message>
 </context>
 <context>
@@ -1678,6 +1751,47 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     <message>
         <source>nothing yet</source>
         <translation>아직 없음</translation>
+    </message>
+</context>
+<context>
+    <name>DifferenceTree</name>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">설정</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Differences</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First the other sources and modes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings</source>
+        <translation type="unfinished">
+            <numerusform>설정 %n개</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings do not apply to this model</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings cannot be read now</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1: %2</translation>
     </message>
 </context>
 <context>
@@ -1867,10 +1981,6 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source> %1 ms</source>
-        <translation> %1 ms</translation>
-    </message>
 </context>
 <context>
     <name>FleetSummary</name>
@@ -1912,6 +2022,13 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     <message>
         <source>oldest answer %1</source>
         <translation>가장 오래된 응답 %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not watched</source>
+        <comment>projectors</comment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1991,6 +2108,10 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     <message>
         <source>password missing or wrong</source>
         <translation>암호가 없거나 틀림</translation>
+    </message>
+    <message>
+        <source>the projector reports none of its settings now</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2203,27 +2324,27 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     <name>ModelFields</name>
     <message>
         <source>&amp;Family</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">제품군(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Model</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">모델(&amp;M)</translation>
     </message>
     <message>
         <source>All &amp;fields of the model</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">모델의 모든 항목(&amp;L)</translation>
     </message>
     <message>
         <source>Dialog &amp;type</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">대화 상자 유형(&amp;T)</translation>
     </message>
     <message>
         <source>Model cod&amp;e</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">모델 코드(&amp;E)</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">없음</translation>
     </message>
 </context>
 <context>
@@ -2344,6 +2465,26 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <source>Quiet hours</source>
         <translation>알림 중지 시간대</translation>
     </message>
+    <message>
+        <source>As the desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Colors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(the same time twice: none)</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetActions</name>
@@ -2384,10 +2525,6 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <translation>프리셋으로 저장</translation>
     </message>
     <message>
-        <source>Name of the preset:</source>
-        <translation>프리셋 이름:</translation>
-    </message>
-    <message>
         <source>Saved as the preset %1</source>
         <translation>프리셋 %1(으)로 저장함</translation>
     </message>
@@ -2398,12 +2535,6 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     <message>
         <source>Preset %1</source>
         <translation>프리셋 %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>Put the preset %1 on %n projectors?</source>
-        <translation>
-            <numerusform>프리셋 %1을(를) 프로젝터 %n대에 적용하시겠습니까?</numerusform>
-        </translation>
     </message>
     <message>
         <source>Should Be Like</source>
@@ -2424,8 +2555,85 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         </translation>
     </message>
     <message>
-        <source>Compare</source>
-        <translation>비교</translation>
+        <source>Reading the settings of %1…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What It Should Be</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Should be</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PresetDialog</name>
+    <message>
+        <source>Save as Preset</source>
+        <translation type="unfinished">프리셋으로 저장</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">설정</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">값</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Name of the preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check all settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This &amp;Page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check the settings of the selected page, and no others</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>N&amp;one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Uncheck all settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings are checked.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The preset %1 will be replaced.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2503,46 +2711,6 @@ a minus in front takes a tag away:</source>
 앞에 빼기 기호를 붙이면 그 태그를 제거합니다:</numerusform>
         </translation>
     </message>
-    <message>
-        <source>&amp;Open Profiles…</source>
-        <translation>프로필 열기(&amp;O)…</translation>
-    </message>
-    <message>
-        <source>&amp;Reload</source>
-        <translation>다시 불러오기(&amp;R)</translation>
-    </message>
-    <message>
-        <source>&amp;Save Profiles As…</source>
-        <translation>프로필을 다른 이름으로 저장(&amp;S)…</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>실행 취소(&amp;U)</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>다시 실행(&amp;R)</translation>
-    </message>
-    <message>
-        <source>This could not be done; nothing was changed.</source>
-        <translation>이 작업을 수행할 수 없습니다. 아무것도 변경되지 않았습니다.</translation>
-    </message>
-    <message>
-        <source>Open Profiles</source>
-        <translation>프로필 열기</translation>
-    </message>
-    <message>
-        <source>Profiles (*.json);;All files (*)</source>
-        <translation>프로필(*.json);;모든 파일(*)</translation>
-    </message>
-    <message>
-        <source>Reload</source>
-        <translation>다시 불러오기</translation>
-    </message>
-    <message>
-        <source>Save Profiles As</source>
-        <translation>프로필을 다른 이름으로 저장</translation>
-    </message>
 </context>
 <context>
     <name>ProfileCsv</name>
@@ -2603,90 +2771,6 @@ a minus in front takes a tag away:</source>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>&amp;Family</source>
-        <translation>제품군(&amp;F)</translation>
-    </message>
-    <message>
-        <source>&amp;Model</source>
-        <translation>모델(&amp;M)</translation>
-    </message>
-    <message>
-        <source>Dialog &amp;type</source>
-        <translation>대화 상자 유형(&amp;T)</translation>
-    </message>
-    <message>
-        <source>Model cod&amp;e</source>
-        <translation>모델 코드(&amp;E)</translation>
-    </message>
-    <message>
-        <source>&amp;Reached through</source>
-        <translation>연결 방법(&amp;R)</translation>
-    </message>
-    <message>
-        <source>Connect&amp;ion</source>
-        <translation>연결(&amp;I)</translation>
-    </message>
-    <message>
-        <source>&amp;Address</source>
-        <translation>주소(&amp;A)</translation>
-    </message>
-    <message>
-        <source>&amp;Port</source>
-        <translation>포트(&amp;P)</translation>
-    </message>
-    <message>
-        <source>Pass&amp;word</source>
-        <translation>암호(&amp;W)</translation>
-    </message>
-    <message>
-        <source>Port n&amp;umber</source>
-        <translation>포트 번호(&amp;U)</translation>
-    </message>
-    <message>
-        <source>&amp;Device</source>
-        <translation>장치(&amp;D)</translation>
-    </message>
-    <message>
-        <source>&amp;Baud</source>
-        <translation>전송 속도(&amp;B)</translation>
-    </message>
-    <message>
-        <source>All &amp;fields of the model</source>
-        <translation>모델의 모든 항목(&amp;L)</translation>
-    </message>
-    <message>
-        <source>Save Profiles As…</source>
-        <translation>프로필을 다른 이름으로 저장…</translation>
-    </message>
-    <message>
-        <source>%1 cannot be changed.</source>
-        <translation>%1을(를) 변경할 수 없습니다.</translation>
-    </message>
-    <message>
-        <source>None</source>
-        <translation>없음</translation>
-    </message>
-    <message>
-        <source>As its family</source>
-        <translation>제품군과 같음</translation>
-    </message>
-    <message>
-        <source>Simulated</source>
-        <translation>시뮬레이션</translation>
-    </message>
-    <message>
-        <source>Network</source>
-        <translation>네트워크</translation>
-    </message>
-    <message>
-        <source>Serial port</source>
-        <translation>직렬 포트</translation>
-    </message>
-    <message>
-        <source>%1 is no address.</source>
-        <translation>%1은(는) 주소가 아닙니다.</translation>
     </message>
 </context>
 <context>
@@ -2824,31 +2908,31 @@ a minus in front takes a tag away:</source>
     <name>ProfileFileActions</name>
     <message>
         <source>&amp;Open Profiles…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">프로필 열기(&amp;O)…</translation>
     </message>
     <message>
         <source>&amp;Reload</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">다시 불러오기(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Save Profiles As…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">프로필을 다른 이름으로 저장(&amp;S)…</translation>
     </message>
     <message>
         <source>Open Profiles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">프로필 열기</translation>
     </message>
     <message>
         <source>Profiles (*.json);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">프로필(*.json);;모든 파일(*)</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">다시 불러오기</translation>
     </message>
     <message>
         <source>Save Profiles As</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">프로필을 다른 이름으로 저장</translation>
     </message>
     <message>
         <source>Read-Only File</source>
@@ -2860,22 +2944,22 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Save Profiles As…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">프로필을 다른 이름으로 저장…</translation>
     </message>
 </context>
 <context>
     <name>ProfileHistory</name>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">실행 취소(&amp;U)</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">다시 실행(&amp;R)</translation>
     </message>
     <message>
         <source>This could not be done; nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">이 작업을 수행할 수 없습니다. 아무것도 변경되지 않았습니다.</translation>
     </message>
 </context>
 <context>
@@ -2927,51 +3011,51 @@ a minus in front takes a tag away:</source>
     <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">이름</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">상태</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">전원</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">소스</translation>
     </message>
     <message>
         <source>Lamp</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">램프</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">문제</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">모델</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">장소</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">설정</translation>
     </message>
     <message>
         <source>Last answer</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">마지막 응답</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">주소</translation>
     </message>
     <message>
         <source>%1 · open</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 · 열림</translation>
     </message>
 </context>
 <context>
@@ -3011,184 +3095,6 @@ a minus in front takes a tag away:</source>
         <source>Folder</source>
         <comment>All other platforms</comment>
         <translation>폴더</translation>
-    </message>
-</context>
-<context>
-    <name>RestoreDialog</name>
-    <message>
-        <source>Projector</source>
-        <translation>프로젝터</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>설정</translation>
-    </message>
-    <message>
-        <source>Here</source>
-        <translation>현재 값</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>파일</translation>
-    </message>
-    <message>
-        <source>Result</source>
-        <translation>결과</translation>
-    </message>
-    <message>
-        <source>not read</source>
-        <translation>읽지 못함</translation>
-    </message>
-    <message>
-        <source>already so</source>
-        <translation>이미 같음</translation>
-    </message>
-    <message>
-        <source>different</source>
-        <translation>다름</translation>
-    </message>
-    <message>
-        <source>changed</source>
-        <translation>변경됨</translation>
-    </message>
-    <message>
-        <source>refused</source>
-        <translation>거부됨</translation>
-    </message>
-    <message>
-        <source>accepted, not yet so</source>
-        <translation>승인됨, 적용 대기</translation>
-    </message>
-    <message>
-        <source>refused: the projector is busy or in standby</source>
-        <translation>거부됨: 프로젝터가 사용 중이거나 대기 상태임</translation>
-    </message>
-    <message>
-        <source>not confirmed</source>
-        <translation>확인 안 됨</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not have it</source>
-        <translation>건너뜀: 이 모델에 없음</translation>
-    </message>
-    <message>
-        <source>skipped: this projector does not offer it</source>
-        <translation>건너뜀: 이 프로젝터가 지원하지 않음</translation>
-    </message>
-    <message>
-        <source>skipped: it is not one to put back</source>
-        <translation>건너뜀: 복원 대상이 아님</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not take the value</source>
-        <translation>건너뜀: 이 모델에서 사용할 수 없는 값임</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n changed</source>
-        <extracomment>How many settings came to this, in a list such as &quot;12 changed, 3 refused&quot;.</extracomment>
-        <translation>
-            <numerusform>변경 %n개</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n different</source>
-        <translation>
-            <numerusform>다름 %n개</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n already so</source>
-        <translation>
-            <numerusform>이미 같음 %n개</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not yet so</source>
-        <translation>
-            <numerusform>적용 대기 %n개</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n refused</source>
-        <translation>
-            <numerusform>거부 %n개</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not confirmed</source>
-        <translation>
-            <numerusform>확인 안 됨 %n개</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not read</source>
-        <translation>
-            <numerusform>읽지 못함 %n개</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n skipped</source>
-        <translation>
-            <numerusform>건너뜀 %n개</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Apply Settings</source>
-        <translation>설정 적용</translation>
-    </message>
-    <message>
-        <source>Compare Settings</source>
-        <translation>설정 비교</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>필터</translation>
-    </message>
-    <message>
-        <source>&amp;Differences only</source>
-        <translation>다른 설정만(&amp;D)</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>설정</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>진행 상황</translation>
-    </message>
-    <message>
-        <source>&amp;Compare Again</source>
-        <translation>다시 비교(&amp;C)</translation>
-    </message>
-    <message>
-        <source>&amp;Apply</source>
-        <translation>적용(&amp;A)</translation>
-    </message>
-    <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>대화 상자가 열려 있는 프로젝터를 기다리는 중…</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>중지</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>닫기</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>Beforehand: other sources and modes</source>
-        <translation>사전 작업: 다른 소스와 모드</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n settings</source>
-        <translation>
-            <numerusform>설정 %n개</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -3290,20 +3196,6 @@ a minus in front takes a tag away:</source>
         <translation>설정 적용(&amp;P)…</translation>
     </message>
     <message>
-        <source>%1: no answer</source>
-        <translation>%1: 응답 없음</translation>
-    </message>
-    <message>
-        <source>%1: nothing can be read</source>
-        <translation>%1: 읽을 수 있는 것이 없음</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1: %n settings cannot be read and are left out</source>
-        <translation>
-            <numerusform>%1: 설정 %n개를 읽을 수 없어 제외합니다</numerusform>
-        </translation>
-    </message>
-    <message>
         <source>Save Settings</source>
         <translation>설정 저장</translation>
     </message>
@@ -3316,20 +3208,44 @@ a minus in front takes a tag away:</source>
         <translation>설정(*.json)</translation>
     </message>
     <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>대화 상자가 열려 있는 프로젝터를 기다리는 중…</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>중지</translation>
-    </message>
-    <message>
         <source>Reading settings…</source>
         <translation>설정을 읽는 중…</translation>
     </message>
     <message>
         <source>Open Settings</source>
         <translation>설정 열기</translation>
+    </message>
+    <message>
+        <source>Settings saved in %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Settings of %n projectors saved in %1.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings could not be read.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Apply Settings</source>
+        <translation type="unfinished">설정 적용</translation>
+    </message>
+    <message>
+        <source>Compare Settings</source>
+        <translation type="unfinished">설정 비교</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation type="unfinished">파일</translation>
+    </message>
+    <message>
+        <source>The values before are kept in %1.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3810,134 +3726,130 @@ a minus in front takes a tag away:</source>
             <numerusform></numerusform>
         </translation>
     </message>
-    <message>
-        <source>%1 added, %2 already known, %3 rows not taken.</source>
-        <translation>추가 %1개, 이미 있음 %2개, 가져오지 못한 행 %3개.</translation>
-    </message>
 </context>
 <context>
     <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">켜기(&amp;N)</translation>
     </message>
     <message>
         <source>Switch O&amp;ff</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">끄기(&amp;F)</translation>
     </message>
     <message>
         <source>P&amp;ower</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">전원(&amp;W)</translation>
     </message>
     <message>
         <source>&amp;Input</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">입력(&amp;I)</translation>
     </message>
     <message>
         <source>&amp;Blank</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">빈 화면(&amp;B)</translation>
     </message>
     <message>
         <source>Blank the Picture</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">빈 화면으로 전환</translation>
     </message>
     <message numerus="yes">
         <source>Blank the picture of %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>프로젝터 %n대를 빈 화면으로 전환하시겠습니까?</numerusform>
         </translation>
     </message>
     <message>
         <source>Show the Picture</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">영상 표시</translation>
     </message>
     <message numerus="yes">
         <source>Show the picture of %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>프로젝터 %n대의 영상을 표시하시겠습니까?</numerusform>
         </translation>
     </message>
     <message>
         <source>&amp;Mute</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">음소거(&amp;M)</translation>
     </message>
     <message>
         <source>Mute the Sound</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">음소거</translation>
     </message>
     <message numerus="yes">
         <source>Mute the sound of %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>프로젝터 %n대를 음소거하시겠습니까?</numerusform>
         </translation>
     </message>
     <message>
         <source>Unmute the Sound</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">음소거 해제</translation>
     </message>
     <message numerus="yes">
         <source>Unmute the sound of %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>프로젝터 %n대의 음소거를 해제하시겠습니까?</numerusform>
         </translation>
     </message>
     <message>
         <source>Free&amp;ze</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">화면 정지(&amp;Z)</translation>
     </message>
     <message>
         <source>Freeze the Picture</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">화면 정지</translation>
     </message>
     <message numerus="yes">
         <source>Freeze the picture of %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>프로젝터 %n대의 화면을 정지하시겠습니까?</numerusform>
         </translation>
     </message>
     <message>
         <source>Release the Picture</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">화면 정지 해제</translation>
     </message>
     <message numerus="yes">
         <source>Release the picture of %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>프로젝터 %n대의 화면 정지를 해제하시겠습니까?</numerusform>
         </translation>
     </message>
     <message>
         <source>Switch On</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">켜기</translation>
     </message>
     <message>
         <source>Switch Off</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">끄기</translation>
     </message>
     <message numerus="yes">
         <source>Switch on %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>프로젝터 %n대를 켜시겠습니까?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Switch off %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>프로젝터 %n대를 끄시겠습니까?</numerusform>
         </translation>
     </message>
     <message>
         <source>Input %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">입력 %1</translation>
     </message>
     <message numerus="yes">
         <source>Choose the input %1 on %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>프로젝터 %n대의 입력을 %1(으)로 바꾸시겠습니까?</numerusform>
         </translation>
     </message>
     <message>
         <source>No inputs are known</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">알려진 입력 없음</translation>
     </message>
 </context>
 <context>
@@ -3952,128 +3864,6 @@ a minus in front takes a tag away:</source>
     <message>
         <source>%1, %2: %3</source>
         <translation>%1, %2: %3</translation>
-    </message>
-    <message>
-        <source>Switch O&amp;n</source>
-        <translation>켜기(&amp;N)</translation>
-    </message>
-    <message>
-        <source>Switch O&amp;ff</source>
-        <translation>끄기(&amp;F)</translation>
-    </message>
-    <message>
-        <source>P&amp;ower</source>
-        <translation>전원(&amp;W)</translation>
-    </message>
-    <message>
-        <source>&amp;Input</source>
-        <translation>입력(&amp;I)</translation>
-    </message>
-    <message>
-        <source>&amp;Blank</source>
-        <translation>빈 화면(&amp;B)</translation>
-    </message>
-    <message>
-        <source>Blank the Picture</source>
-        <translation>빈 화면으로 전환</translation>
-    </message>
-    <message numerus="yes">
-        <source>Blank the picture of %n projectors?</source>
-        <translation>
-            <numerusform>프로젝터 %n대를 빈 화면으로 전환하시겠습니까?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Show the Picture</source>
-        <translation>영상 표시</translation>
-    </message>
-    <message numerus="yes">
-        <source>Show the picture of %n projectors?</source>
-        <translation>
-            <numerusform>프로젝터 %n대의 영상을 표시하시겠습니까?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>&amp;Mute</source>
-        <translation>음소거(&amp;M)</translation>
-    </message>
-    <message>
-        <source>Mute the Sound</source>
-        <translation>음소거</translation>
-    </message>
-    <message numerus="yes">
-        <source>Mute the sound of %n projectors?</source>
-        <translation>
-            <numerusform>프로젝터 %n대를 음소거하시겠습니까?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Unmute the Sound</source>
-        <translation>음소거 해제</translation>
-    </message>
-    <message numerus="yes">
-        <source>Unmute the sound of %n projectors?</source>
-        <translation>
-            <numerusform>프로젝터 %n대의 음소거를 해제하시겠습니까?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Free&amp;ze</source>
-        <translation>화면 정지(&amp;Z)</translation>
-    </message>
-    <message>
-        <source>Freeze the Picture</source>
-        <translation>화면 정지</translation>
-    </message>
-    <message numerus="yes">
-        <source>Freeze the picture of %n projectors?</source>
-        <translation>
-            <numerusform>프로젝터 %n대의 화면을 정지하시겠습니까?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Release the Picture</source>
-        <translation>화면 정지 해제</translation>
-    </message>
-    <message numerus="yes">
-        <source>Release the picture of %n projectors?</source>
-        <translation>
-            <numerusform>프로젝터 %n대의 화면 정지를 해제하시겠습니까?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Switch On</source>
-        <translation>켜기</translation>
-    </message>
-    <message>
-        <source>Switch Off</source>
-        <translation>끄기</translation>
-    </message>
-    <message numerus="yes">
-        <source>Switch on %n projectors?</source>
-        <translation>
-            <numerusform>프로젝터 %n대를 켜시겠습니까?</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Switch off %n projectors?</source>
-        <translation>
-            <numerusform>프로젝터 %n대를 끄시겠습니까?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Input %1</source>
-        <translation>입력 %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>Choose the input %1 on %n projectors?</source>
-        <translation>
-            <numerusform>프로젝터 %n대의 입력을 %1(으)로 바꾸시겠습니까?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>No inputs are known</source>
-        <translation>알려진 입력 없음</translation>
     </message>
 </context>
 <context>
@@ -4170,56 +3960,15 @@ a minus in front takes a tag away:</source>
         <source>stopped</source>
         <translation>중지됨</translation>
     </message>
-</context>
-<context>
-    <name>ProjectorTableModel</name>
     <message>
-        <source>Name</source>
-        <translation>이름</translation>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1: %2</translation>
     </message>
-    <message>
-        <source>State</source>
-        <translation>상태</translation>
-    </message>
-    <message>
-        <source>Power</source>
-        <translation>전원</translation>
-    </message>
-    <message>
-        <source>Source</source>
-        <translation>소스</translation>
-    </message>
-    <message>
-        <source>Lamp</source>
-        <translation>램프</translation>
-    </message>
-    <message>
-        <source>Problem</source>
-        <translation>문제</translation>
-    </message>
-    <message>
-        <source>Model</source>
-        <translation>모델</translation>
-    </message>
-    <message>
-        <source>Place</source>
-        <translation>장소</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>설정</translation>
-    </message>
-    <message>
-        <source>Last answer</source>
-        <translation>마지막 응답</translation>
-    </message>
-    <message>
-        <source>Address</source>
-        <translation>주소</translation>
-    </message>
-    <message>
-        <source>%1 · open</source>
-        <translation>%1 · 열림</translation>
+    <message numerus="yes">
+        <source>done, %n settings could not be read</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 </TS>

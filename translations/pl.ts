@@ -154,16 +154,8 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation>porównuje z zapisanymi ustawieniami</translation>
     </message>
     <message>
-        <source>Prints what differs from a file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder.</source>
-        <translation>Wypisuje różnice względem pliku („-” to standardowe wejście) albo własnego pliku każdego projektora w folderze.</translation>
-    </message>
-    <message>
         <source>restore saved settings</source>
         <translation>przywraca zapisane ustawienia</translation>
-    </message>
-    <message>
-        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation>Odczytuje projektory, wysyła to, co różni się od pliku („-” to standardowe wejście) albo od własnego pliku każdego projektora w folderze, i odczytuje ponownie. Zastępowane wartości są najpierw zachowywane, aby „acctl undo” mogło je przywrócić. Przerwane wykonanie można powtórzyć w dowolnej chwili.</translation>
     </message>
     <message>
         <source>undo the last run of set or apply</source>
@@ -1032,6 +1024,22 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <source>--until: &apos;%1&apos; is not KEY=VALUE</source>
         <translation>--until: „%1” nie ma postaci KEY=VALUE</translation>
     </message>
+    <message>
+        <source>Prints what differs from a file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the value before could not be read, and cannot be restored</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the value before could not be read</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -1421,10 +1429,6 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation>&amp;Kopiuj</translation>
     </message>
     <message>
-        <source>Projector, command or result</source>
-        <translation>Projektor, polecenie lub wynik</translation>
-    </message>
-    <message>
         <source>Filter the log</source>
         <translation>Filtruj dziennik</translation>
     </message>
@@ -1451,6 +1455,18 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     <message>
         <source>Clear</source>
         <translation>Wyczyść</translation>
+    </message>
+    <message>
+        <source>Projector, setting, command or result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All projectors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the commands of</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1506,6 +1522,69 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     <message>
         <source>ok</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Ustawienie</translation>
+    </message>
+</context>
+<context>
+    <name>ComparisonDialog</name>
+    <message>
+        <source>Progress</source>
+        <translation type="unfinished">Postęp</translation>
+    </message>
+    <message>
+        <source>&amp;Ask Again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation type="unfinished">&amp;Zastosuj</translation>
+    </message>
+    <message>
+        <source>Reading settings…</source>
+        <translation type="unfinished">Odczytywanie ustawień…</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation type="unfinished">Zatrzymaj</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished">Anuluj</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Zamknij</translation>
+    </message>
+    <message>
+        <source>Nothing differs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors differ.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors have all these settings already.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors could not be read.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1722,6 +1801,53 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     <message>
         <source>nothing yet</source>
         <translation>jeszcze nic</translation>
+    </message>
+</context>
+<context>
+    <name>DifferenceTree</name>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Ustawienie</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Differences</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First the other sources and modes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings</source>
+        <translation type="unfinished">
+            <numerusform>%n ustawienie</numerusform>
+            <numerusform>%n ustawienia</numerusform>
+            <numerusform>%n ustawień</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings do not apply to this model</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings cannot be read now</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1: %2</translation>
     </message>
 </context>
 <context>
@@ -1963,6 +2089,15 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <source>oldest answer %1</source>
         <translation>najstarsza odpowiedź: %1</translation>
     </message>
+    <message numerus="yes">
+        <source>%n not watched</source>
+        <comment>projectors</comment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>FleetWork</name>
@@ -2041,6 +2176,10 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     <message>
         <source>password missing or wrong</source>
         <translation>brak hasła lub złe hasło</translation>
+    </message>
+    <message>
+        <source>the projector reports none of its settings now</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2396,6 +2535,26 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <source>Quiet hours</source>
         <translation>Czas bez powiadomień</translation>
     </message>
+    <message>
+        <source>As the desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Colors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(the same time twice: none)</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetActions</name>
@@ -2436,10 +2595,6 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation>Zapis zestawu</translation>
     </message>
     <message>
-        <source>Name of the preset:</source>
-        <translation>Nazwa zestawu:</translation>
-    </message>
-    <message>
         <source>Saved as the preset %1</source>
         <translation>Zapisano jako zestaw %1</translation>
     </message>
@@ -2450,14 +2605,6 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     <message>
         <source>Preset %1</source>
         <translation>Zestaw %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>Put the preset %1 on %n projectors?</source>
-        <translation>
-            <numerusform>Zastosować zestaw %1 do %n projektora?</numerusform>
-            <numerusform>Zastosować zestaw %1 do %n projektorów?</numerusform>
-            <numerusform>Zastosować zestaw %1 do %n projektorów?</numerusform>
-        </translation>
     </message>
     <message>
         <source>Should Be Like</source>
@@ -2480,8 +2627,87 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         </translation>
     </message>
     <message>
-        <source>Compare</source>
-        <translation>Porównanie</translation>
+        <source>Reading the settings of %1…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What It Should Be</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Should be</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PresetDialog</name>
+    <message>
+        <source>Save as Preset</source>
+        <translation type="unfinished">Zapis zestawu</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Ustawienie</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">Wartość</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Name of the preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check all settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This &amp;Page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check the settings of the selected page, and no others</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>N&amp;one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Uncheck all settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings are checked.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The preset %1 will be replaced.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2956,202 +3182,6 @@ minus przed tagiem go usuwa:</numerusform>
     </message>
 </context>
 <context>
-    <name>RestoreDialog</name>
-    <message>
-        <source>Projector</source>
-        <translation>Projektor</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>Ustawienie</translation>
-    </message>
-    <message>
-        <source>Here</source>
-        <translation>Tutaj</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>Plik</translation>
-    </message>
-    <message>
-        <source>Result</source>
-        <translation>Wynik</translation>
-    </message>
-    <message>
-        <source>not read</source>
-        <translation>nieodczytane</translation>
-    </message>
-    <message>
-        <source>already so</source>
-        <translation>już zgodne</translation>
-    </message>
-    <message>
-        <source>different</source>
-        <translation>różni się</translation>
-    </message>
-    <message>
-        <source>changed</source>
-        <translation>zmienione</translation>
-    </message>
-    <message>
-        <source>refused</source>
-        <translation>odrzucone</translation>
-    </message>
-    <message>
-        <source>accepted, not yet so</source>
-        <translation>przyjęte, jeszcze nie działa</translation>
-    </message>
-    <message>
-        <source>refused: the projector is busy or in standby</source>
-        <translation>odrzucone: projektor jest zajęty lub w gotowości</translation>
-    </message>
-    <message>
-        <source>not confirmed</source>
-        <translation>niepotwierdzone</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not have it</source>
-        <translation>pominięte: ten model tego nie ma</translation>
-    </message>
-    <message>
-        <source>skipped: this projector does not offer it</source>
-        <translation>pominięte: ten projektor tego nie oferuje</translation>
-    </message>
-    <message>
-        <source>skipped: it is not one to put back</source>
-        <translation>pominięte: to ustawienie nie jest przywracane</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not take the value</source>
-        <translation>pominięte: ten model nie przyjmuje tej wartości</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n changed</source>
-        <extracomment>How many settings came to this, in a list such as &quot;12 changed, 3 refused&quot;.</extracomment>
-        <translation>
-            <numerusform>zmienione: %n</numerusform>
-            <numerusform>zmienione: %n</numerusform>
-            <numerusform>zmienione: %n</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n different</source>
-        <translation>
-            <numerusform>różni się: %n</numerusform>
-            <numerusform>różni się: %n</numerusform>
-            <numerusform>różni się: %n</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n already so</source>
-        <translation>
-            <numerusform>już zgodne: %n</numerusform>
-            <numerusform>już zgodne: %n</numerusform>
-            <numerusform>już zgodne: %n</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not yet so</source>
-        <translation>
-            <numerusform>jeszcze nie działa: %n</numerusform>
-            <numerusform>jeszcze nie działa: %n</numerusform>
-            <numerusform>jeszcze nie działa: %n</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n refused</source>
-        <translation>
-            <numerusform>odrzucone: %n</numerusform>
-            <numerusform>odrzucone: %n</numerusform>
-            <numerusform>odrzucone: %n</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not confirmed</source>
-        <translation>
-            <numerusform>niepotwierdzone: %n</numerusform>
-            <numerusform>niepotwierdzone: %n</numerusform>
-            <numerusform>niepotwierdzone: %n</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not read</source>
-        <translation>
-            <numerusform>nieodczytane: %n</numerusform>
-            <numerusform>nieodczytane: %n</numerusform>
-            <numerusform>nieodczytane: %n</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n skipped</source>
-        <translation>
-            <numerusform>pominięte: %n</numerusform>
-            <numerusform>pominięte: %n</numerusform>
-            <numerusform>pominięte: %n</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Apply Settings</source>
-        <translation>Stosowanie ustawień</translation>
-    </message>
-    <message>
-        <source>Compare Settings</source>
-        <translation>Porównanie ustawień</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filtr</translation>
-    </message>
-    <message>
-        <source>&amp;Differences only</source>
-        <translation>Tylko &amp;różnice</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Ustawienia</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Postęp</translation>
-    </message>
-    <message>
-        <source>&amp;Compare Again</source>
-        <translation>&amp;Porównaj ponownie</translation>
-    </message>
-    <message>
-        <source>&amp;Apply</source>
-        <translation>&amp;Zastosuj</translation>
-    </message>
-    <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>Oczekiwanie na projektor otwartego okna…</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Zatrzymaj</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Zamknij</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>Beforehand: other sources and modes</source>
-        <translation>Najpierw: inne źródła i tryby</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n settings</source>
-        <translation>
-            <numerusform>%n ustawienie</numerusform>
-            <numerusform>%n ustawienia</numerusform>
-            <numerusform>%n ustawień</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>Search</name>
     <message>
         <source>&quot;%1&quot; is neither an IP address nor a range of them</source>
@@ -3254,22 +3284,6 @@ minus przed tagiem go usuwa:</numerusform>
         <translation>Zastosu&amp;j ustawienia…</translation>
     </message>
     <message>
-        <source>%1: no answer</source>
-        <translation>%1: brak odpowiedzi</translation>
-    </message>
-    <message>
-        <source>%1: nothing can be read</source>
-        <translation>%1: niczego nie można odczytać</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1: %n settings cannot be read and are left out</source>
-        <translation>
-            <numerusform>%1: %n ustawienia nie można odczytać, zostało pominięte</numerusform>
-            <numerusform>%1: %n ustawień nie można odczytać, zostały pominięte</numerusform>
-            <numerusform>%1: %n ustawień nie można odczytać, zostały pominięte</numerusform>
-        </translation>
-    </message>
-    <message>
         <source>Save Settings</source>
         <translation>Zapis ustawień</translation>
     </message>
@@ -3282,20 +3296,48 @@ minus przed tagiem go usuwa:</numerusform>
         <translation>Ustawienia (*.json)</translation>
     </message>
     <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>Oczekiwanie na projektor otwartego okna…</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Zatrzymaj</translation>
-    </message>
-    <message>
         <source>Reading settings…</source>
         <translation>Odczytywanie ustawień…</translation>
     </message>
     <message>
         <source>Open Settings</source>
         <translation>Otwieranie ustawień</translation>
+    </message>
+    <message>
+        <source>Settings saved in %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Settings of %n projectors saved in %1.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings could not be read.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Apply Settings</source>
+        <translation type="unfinished">Stosowanie ustawień</translation>
+    </message>
+    <message>
+        <source>Compare Settings</source>
+        <translation type="unfinished">Porównanie ustawień</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation type="unfinished">Plik</translation>
+    </message>
+    <message>
+        <source>The values before are kept in %1.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -4041,6 +4083,18 @@ minus przed tagiem go usuwa:</numerusform>
     <message>
         <source>stopped</source>
         <translation>zatrzymano</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>done, %n settings could not be read</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 </TS>

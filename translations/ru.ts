@@ -154,16 +154,8 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation>сравнить с сохранёнными настройками</translation>
     </message>
     <message>
-        <source>Prints what differs from a file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder.</source>
-        <translation>Выводит отличия от файла («-» — стандартный ввод) или от собственного файла каждого проектора в папке.</translation>
-    </message>
-    <message>
         <source>restore saved settings</source>
         <translation>восстановить сохранённые настройки</translation>
-    </message>
-    <message>
-        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation>Читает проекторы, отправляет то, что отличается от файла («-» — стандартный ввод) или от собственного файла каждого проектора в папке, и считывает обратно. Заменяемые значения предварительно сохраняются, чтобы их мог восстановить «acctl undo». Прерванный запуск можно повторить в любой момент.</translation>
     </message>
     <message>
         <source>undo the last run of set or apply</source>
@@ -1032,6 +1024,22 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <source>--until: &apos;%1&apos; is not KEY=VALUE</source>
         <translation>--until: «%1» — не KEY=VALUE</translation>
     </message>
+    <message>
+        <source>Prints what differs from a file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the value before could not be read, and cannot be restored</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the value before could not be read</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -1421,10 +1429,6 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation>&amp;Копировать</translation>
     </message>
     <message>
-        <source>Projector, command or result</source>
-        <translation>Проектор, команда или результат</translation>
-    </message>
-    <message>
         <source>Filter the log</source>
         <translation>Фильтр журнала</translation>
     </message>
@@ -1451,6 +1455,18 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     <message>
         <source>Clear</source>
         <translation>Очистить</translation>
+    </message>
+    <message>
+        <source>Projector, setting, command or result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All projectors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the commands of</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1506,6 +1522,69 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     <message>
         <source>ok</source>
         <translation>успешно</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Настройка</translation>
+    </message>
+</context>
+<context>
+    <name>ComparisonDialog</name>
+    <message>
+        <source>Progress</source>
+        <translation type="unfinished">Ход выполнения</translation>
+    </message>
+    <message>
+        <source>&amp;Ask Again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation type="unfinished">&amp;Применить</translation>
+    </message>
+    <message>
+        <source>Reading settings…</source>
+        <translation type="unfinished">Чтение настроек…</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation type="unfinished">Остановить</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished">Отмена</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Закрыть</translation>
+    </message>
+    <message>
+        <source>Nothing differs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors differ.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors have all these settings already.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors could not be read.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1722,6 +1801,53 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     <message>
         <source>nothing yet</source>
         <translation>пока ничего</translation>
+    </message>
+</context>
+<context>
+    <name>DifferenceTree</name>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Настройка</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Differences</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First the other sources and modes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings</source>
+        <translation type="unfinished">
+            <numerusform>%n настройка</numerusform>
+            <numerusform>%n настройки</numerusform>
+            <numerusform>%n настроек</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings do not apply to this model</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings cannot be read now</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1: %2</translation>
     </message>
 </context>
 <context>
@@ -1963,6 +2089,15 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <source>oldest answer %1</source>
         <translation>самый давний ответ: %1</translation>
     </message>
+    <message numerus="yes">
+        <source>%n not watched</source>
+        <comment>projectors</comment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>FleetWork</name>
@@ -2041,6 +2176,10 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     <message>
         <source>password missing or wrong</source>
         <translation>пароль неверен или не указан</translation>
+    </message>
+    <message>
+        <source>the projector reports none of its settings now</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2396,6 +2535,26 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <source>Quiet hours</source>
         <translation>Время без уведомлений</translation>
     </message>
+    <message>
+        <source>As the desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Colors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(the same time twice: none)</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetActions</name>
@@ -2436,10 +2595,6 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation>Сохранение пресета</translation>
     </message>
     <message>
-        <source>Name of the preset:</source>
-        <translation>Имя пресета:</translation>
-    </message>
-    <message>
         <source>Saved as the preset %1</source>
         <translation>Сохранено как пресет %1</translation>
     </message>
@@ -2450,14 +2605,6 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     <message>
         <source>Preset %1</source>
         <translation>Пресет %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>Put the preset %1 on %n projectors?</source>
-        <translation>
-            <numerusform>Применить пресет %1 к %n проектору?</numerusform>
-            <numerusform>Применить пресет %1 к %n проекторам?</numerusform>
-            <numerusform>Применить пресет %1 к %n проекторам?</numerusform>
-        </translation>
     </message>
     <message>
         <source>Should Be Like</source>
@@ -2480,8 +2627,87 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         </translation>
     </message>
     <message>
-        <source>Compare</source>
-        <translation>Сравнение</translation>
+        <source>Reading the settings of %1…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What It Should Be</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Should be</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PresetDialog</name>
+    <message>
+        <source>Save as Preset</source>
+        <translation type="unfinished">Сохранение пресета</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Настройка</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">Значение</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Name of the preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check all settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This &amp;Page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check the settings of the selected page, and no others</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>N&amp;one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Uncheck all settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings are checked.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The preset %1 will be replaced.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2956,202 +3182,6 @@ a minus in front takes a tag away:</source>
     </message>
 </context>
 <context>
-    <name>RestoreDialog</name>
-    <message>
-        <source>Projector</source>
-        <translation>Проектор</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>Настройка</translation>
-    </message>
-    <message>
-        <source>Here</source>
-        <translation>Здесь</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>Файл</translation>
-    </message>
-    <message>
-        <source>Result</source>
-        <translation>Результат</translation>
-    </message>
-    <message>
-        <source>not read</source>
-        <translation>не прочитано</translation>
-    </message>
-    <message>
-        <source>already so</source>
-        <translation>уже совпадает</translation>
-    </message>
-    <message>
-        <source>different</source>
-        <translation>отличается</translation>
-    </message>
-    <message>
-        <source>changed</source>
-        <translation>изменено</translation>
-    </message>
-    <message>
-        <source>refused</source>
-        <translation>отклонено</translation>
-    </message>
-    <message>
-        <source>accepted, not yet so</source>
-        <translation>принято, ещё не в силе</translation>
-    </message>
-    <message>
-        <source>refused: the projector is busy or in standby</source>
-        <translation>отклонено: проектор занят или в режиме ожидания</translation>
-    </message>
-    <message>
-        <source>not confirmed</source>
-        <translation>не подтверждено</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not have it</source>
-        <translation>пропущено: у этой модели этого нет</translation>
-    </message>
-    <message>
-        <source>skipped: this projector does not offer it</source>
-        <translation>пропущено: этот проектор этого не предлагает</translation>
-    </message>
-    <message>
-        <source>skipped: it is not one to put back</source>
-        <translation>пропущено: эта настройка не восстанавливается</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not take the value</source>
-        <translation>пропущено: эта модель не принимает такое значение</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n changed</source>
-        <extracomment>How many settings came to this, in a list such as &quot;12 changed, 3 refused&quot;.</extracomment>
-        <translation>
-            <numerusform>изменено: %n</numerusform>
-            <numerusform>изменено: %n</numerusform>
-            <numerusform>изменено: %n</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n different</source>
-        <translation>
-            <numerusform>отличается: %n</numerusform>
-            <numerusform>отличается: %n</numerusform>
-            <numerusform>отличается: %n</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n already so</source>
-        <translation>
-            <numerusform>уже совпадает: %n</numerusform>
-            <numerusform>уже совпадает: %n</numerusform>
-            <numerusform>уже совпадает: %n</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not yet so</source>
-        <translation>
-            <numerusform>ещё не в силе: %n</numerusform>
-            <numerusform>ещё не в силе: %n</numerusform>
-            <numerusform>ещё не в силе: %n</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n refused</source>
-        <translation>
-            <numerusform>отклонено: %n</numerusform>
-            <numerusform>отклонено: %n</numerusform>
-            <numerusform>отклонено: %n</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not confirmed</source>
-        <translation>
-            <numerusform>не подтверждено: %n</numerusform>
-            <numerusform>не подтверждено: %n</numerusform>
-            <numerusform>не подтверждено: %n</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not read</source>
-        <translation>
-            <numerusform>не прочитано: %n</numerusform>
-            <numerusform>не прочитано: %n</numerusform>
-            <numerusform>не прочитано: %n</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n skipped</source>
-        <translation>
-            <numerusform>пропущено: %n</numerusform>
-            <numerusform>пропущено: %n</numerusform>
-            <numerusform>пропущено: %n</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Apply Settings</source>
-        <translation>Применение настроек</translation>
-    </message>
-    <message>
-        <source>Compare Settings</source>
-        <translation>Сравнение настроек</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Фильтр</translation>
-    </message>
-    <message>
-        <source>&amp;Differences only</source>
-        <translation>Только &amp;отличия</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Настройки</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Ход выполнения</translation>
-    </message>
-    <message>
-        <source>&amp;Compare Again</source>
-        <translation>&amp;Сравнить снова</translation>
-    </message>
-    <message>
-        <source>&amp;Apply</source>
-        <translation>&amp;Применить</translation>
-    </message>
-    <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>Ожидание проектора открытого диалога…</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Остановить</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Закрыть</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>Beforehand: other sources and modes</source>
-        <translation>Предварительно: другие источники и режимы</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n settings</source>
-        <translation>
-            <numerusform>%n настройка</numerusform>
-            <numerusform>%n настройки</numerusform>
-            <numerusform>%n настроек</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>Search</name>
     <message>
         <source>&quot;%1&quot; is neither an IP address nor a range of them</source>
@@ -3254,22 +3284,6 @@ a minus in front takes a tag away:</source>
         <translation>При&amp;менить настройки…</translation>
     </message>
     <message>
-        <source>%1: no answer</source>
-        <translation>%1: нет ответа</translation>
-    </message>
-    <message>
-        <source>%1: nothing can be read</source>
-        <translation>%1: ничего прочитать нельзя</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1: %n settings cannot be read and are left out</source>
-        <translation>
-            <numerusform>%1: %n настройку прочитать нельзя, она не сохраняется</numerusform>
-            <numerusform>%1: %n настройки прочитать нельзя, они не сохраняются</numerusform>
-            <numerusform>%1: %n настроек прочитать нельзя, они не сохраняются</numerusform>
-        </translation>
-    </message>
-    <message>
         <source>Save Settings</source>
         <translation>Сохранение настроек</translation>
     </message>
@@ -3282,20 +3296,48 @@ a minus in front takes a tag away:</source>
         <translation>Настройки (*.json)</translation>
     </message>
     <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>Ожидание проектора открытого диалога…</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Остановить</translation>
-    </message>
-    <message>
         <source>Reading settings…</source>
         <translation>Чтение настроек…</translation>
     </message>
     <message>
         <source>Open Settings</source>
         <translation>Открытие настроек</translation>
+    </message>
+    <message>
+        <source>Settings saved in %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Settings of %n projectors saved in %1.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings could not be read.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Apply Settings</source>
+        <translation type="unfinished">Применение настроек</translation>
+    </message>
+    <message>
+        <source>Compare Settings</source>
+        <translation type="unfinished">Сравнение настроек</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation type="unfinished">Файл</translation>
+    </message>
+    <message>
+        <source>The values before are kept in %1.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -4041,6 +4083,18 @@ a minus in front takes a tag away:</source>
     <message>
         <source>stopped</source>
         <translation>остановлено</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>done, %n settings could not be read</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 </TS>

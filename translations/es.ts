@@ -1567,19 +1567,19 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <name>ConnectionFields</name>
     <message>
         <source>&amp;Reached through</source>
-        <translation type="unfinished">Accesible me&amp;diante</translation>
+        <translation>Accesible me&amp;diante</translation>
     </message>
     <message>
         <source>Connect&amp;ion</source>
-        <translation type="unfinished">Cone&amp;xión</translation>
+        <translation>Cone&amp;xión</translation>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation type="unfinished">&amp;Dirección</translation>
+        <translation>&amp;Dirección</translation>
     </message>
     <message>
         <source>&amp;Port</source>
-        <translation type="unfinished">&amp;Puerto</translation>
+        <translation>&amp;Puerto</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
@@ -1587,35 +1587,35 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>Port n&amp;umber</source>
-        <translation type="unfinished">N&amp;úmero de puerto</translation>
+        <translation>N&amp;úmero de puerto</translation>
     </message>
     <message>
         <source>&amp;Device</source>
-        <translation type="unfinished">D&amp;ispositivo</translation>
+        <translation>D&amp;ispositivo</translation>
     </message>
     <message>
         <source>&amp;Baud</source>
-        <translation type="unfinished">&amp;Baudios</translation>
+        <translation>&amp;Baudios</translation>
     </message>
     <message>
         <source>As its family</source>
-        <translation type="unfinished">Como su familia</translation>
+        <translation>Como su familia</translation>
     </message>
     <message>
         <source>Simulated</source>
-        <translation type="unfinished">Simulado</translation>
+        <translation>Simulado</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished">Red</translation>
+        <translation>Red</translation>
     </message>
     <message>
         <source>Serial port</source>
-        <translation type="unfinished">Puerto serie</translation>
+        <translation>Puerto serie</translation>
     </message>
     <message>
         <source>%1 is no address.</source>
-        <translation type="unfinished">%1 no es una dirección.</translation>
+        <translation>%1 no es una dirección.</translation>
     </message>
 </context>
 <context>
@@ -2359,27 +2359,27 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <name>ModelFields</name>
     <message>
         <source>&amp;Family</source>
-        <translation type="unfinished">&amp;Familia</translation>
+        <translation>&amp;Familia</translation>
     </message>
     <message>
         <source>&amp;Model</source>
-        <translation type="unfinished">&amp;Modelo</translation>
+        <translation>&amp;Modelo</translation>
     </message>
     <message>
         <source>All &amp;fields of the model</source>
-        <translation type="unfinished">T&amp;odos los campos del modelo</translation>
+        <translation>T&amp;odos los campos del modelo</translation>
     </message>
     <message>
         <source>Dialog &amp;type</source>
-        <translation type="unfinished">&amp;Tipo de cuadro de diálogo</translation>
+        <translation>&amp;Tipo de cuadro de diálogo</translation>
     </message>
     <message>
         <source>Model cod&amp;e</source>
-        <translation type="unfinished">&amp;Código de modelo</translation>
+        <translation>&amp;Código de modelo</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished">Ninguna</translation>
+        <translation>Ninguna</translation>
     </message>
 </context>
 <context>
@@ -2948,31 +2948,31 @@ un signo menos delante quita una etiqueta:</numerusform>
     <name>ProfileFileActions</name>
     <message>
         <source>&amp;Open Profiles…</source>
-        <translation type="unfinished">&amp;Abrir perfiles…</translation>
+        <translation>&amp;Abrir perfiles…</translation>
     </message>
     <message>
         <source>&amp;Reload</source>
-        <translation type="unfinished">&amp;Recargar</translation>
+        <translation>&amp;Recargar</translation>
     </message>
     <message>
         <source>&amp;Save Profiles As…</source>
-        <translation type="unfinished">&amp;Guardar perfiles como…</translation>
+        <translation>&amp;Guardar perfiles como…</translation>
     </message>
     <message>
         <source>Open Profiles</source>
-        <translation type="unfinished">Abrir perfiles</translation>
+        <translation>Abrir perfiles</translation>
     </message>
     <message>
         <source>Profiles (*.json);;All files (*)</source>
-        <translation type="unfinished">Perfiles (*.json);;Todos los archivos (*)</translation>
+        <translation>Perfiles (*.json);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished">Recargar</translation>
+        <translation>Recargar</translation>
     </message>
     <message>
         <source>Save Profiles As</source>
-        <translation type="unfinished">Guardar perfiles como</translation>
+        <translation>Guardar perfiles como</translation>
     </message>
     <message>
         <source>Read-Only File</source>
@@ -2984,22 +2984,22 @@ un signo menos delante quita una etiqueta:</numerusform>
     </message>
     <message>
         <source>Save Profiles As…</source>
-        <translation type="unfinished">Guardar perfiles como…</translation>
+        <translation>Guardar perfiles como…</translation>
     </message>
 </context>
 <context>
     <name>ProfileHistory</name>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished">&amp;Deshacer</translation>
+        <translation>&amp;Deshacer</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished">Re&amp;hacer</translation>
+        <translation>Re&amp;hacer</translation>
     </message>
     <message>
         <source>This could not be done; nothing was changed.</source>
-        <translation type="unfinished">No se pudo hacer; no se cambió nada.</translation>
+        <translation>No se pudo hacer; no se cambió nada.</translation>
     </message>
 </context>
 <context>
@@ -3052,51 +3052,51 @@ un signo menos delante quita una etiqueta:</numerusform>
     <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished">Nombre</translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished">Estado</translation>
+        <translation>Estado</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished">Alimentación</translation>
+        <translation>Alimentación</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished">Fuente</translation>
+        <translation>Fuente</translation>
     </message>
     <message>
         <source>Lamp</source>
-        <translation type="unfinished">Lámpara</translation>
+        <translation>Lámpara</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation type="unfinished">Problema</translation>
+        <translation>Problema</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished">Modelo</translation>
+        <translation>Modelo</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished">Lugar</translation>
+        <translation>Lugar</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished">Ajustes</translation>
+        <translation>Ajustes</translation>
     </message>
     <message>
         <source>Last answer</source>
-        <translation type="unfinished">Última respuesta</translation>
+        <translation>Última respuesta</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished">Dirección</translation>
+        <translation>Dirección</translation>
     </message>
     <message>
         <source>%1 · open</source>
-        <translation type="unfinished">%1 · abierto</translation>
+        <translation>%1 · abierto</translation>
     </message>
 </context>
 <context>
@@ -3781,134 +3781,134 @@ un signo menos delante quita una etiqueta:</numerusform>
     <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
-        <translation type="unfinished">E&amp;ncender</translation>
+        <translation>E&amp;ncender</translation>
     </message>
     <message>
         <source>Switch O&amp;ff</source>
-        <translation type="unfinished">Apa&amp;gar</translation>
+        <translation>Apa&amp;gar</translation>
     </message>
     <message>
         <source>P&amp;ower</source>
-        <translation type="unfinished">A&amp;limentación</translation>
+        <translation>A&amp;limentación</translation>
     </message>
     <message>
         <source>&amp;Input</source>
-        <translation type="unfinished">&amp;Entrada</translation>
+        <translation>&amp;Entrada</translation>
     </message>
     <message>
         <source>&amp;Blank</source>
-        <translation type="unfinished">Pantalla &amp;vacía</translation>
+        <translation>Pantalla &amp;vacía</translation>
     </message>
     <message>
         <source>Blank the Picture</source>
-        <translation type="unfinished">Mostrar pantalla vacía</translation>
+        <translation>Mostrar pantalla vacía</translation>
     </message>
     <message numerus="yes">
         <source>Blank the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>¿Mostrar una pantalla vacía en %n proyector?</numerusform>
             <numerusform>¿Mostrar una pantalla vacía en %n proyectores?</numerusform>
         </translation>
     </message>
     <message>
         <source>Show the Picture</source>
-        <translation type="unfinished">Mostrar la imagen</translation>
+        <translation>Mostrar la imagen</translation>
     </message>
     <message numerus="yes">
         <source>Show the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>¿Mostrar la imagen de %n proyector?</numerusform>
             <numerusform>¿Mostrar la imagen de %n proyectores?</numerusform>
         </translation>
     </message>
     <message>
         <source>&amp;Mute</source>
-        <translation type="unfinished">&amp;Silencio</translation>
+        <translation>&amp;Silencio</translation>
     </message>
     <message>
         <source>Mute the Sound</source>
-        <translation type="unfinished">Silenciar el sonido</translation>
+        <translation>Silenciar el sonido</translation>
     </message>
     <message numerus="yes">
         <source>Mute the sound of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>¿Silenciar el sonido de %n proyector?</numerusform>
             <numerusform>¿Silenciar el sonido de %n proyectores?</numerusform>
         </translation>
     </message>
     <message>
         <source>Unmute the Sound</source>
-        <translation type="unfinished">Activar el sonido</translation>
+        <translation>Activar el sonido</translation>
     </message>
     <message numerus="yes">
         <source>Unmute the sound of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>¿Activar el sonido de %n proyector?</numerusform>
             <numerusform>¿Activar el sonido de %n proyectores?</numerusform>
         </translation>
     </message>
     <message>
         <source>Free&amp;ze</source>
-        <translation type="unfinished">C&amp;ongelar</translation>
+        <translation>C&amp;ongelar</translation>
     </message>
     <message>
         <source>Freeze the Picture</source>
-        <translation type="unfinished">Congelar la imagen</translation>
+        <translation>Congelar la imagen</translation>
     </message>
     <message numerus="yes">
         <source>Freeze the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>¿Congelar la imagen de %n proyector?</numerusform>
             <numerusform>¿Congelar la imagen de %n proyectores?</numerusform>
         </translation>
     </message>
     <message>
         <source>Release the Picture</source>
-        <translation type="unfinished">Descongelar la imagen</translation>
+        <translation>Descongelar la imagen</translation>
     </message>
     <message numerus="yes">
         <source>Release the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>¿Descongelar la imagen de %n proyector?</numerusform>
             <numerusform>¿Descongelar la imagen de %n proyectores?</numerusform>
         </translation>
     </message>
     <message>
         <source>Switch On</source>
-        <translation type="unfinished">Encender</translation>
+        <translation>Encender</translation>
     </message>
     <message>
         <source>Switch Off</source>
-        <translation type="unfinished">Apagar</translation>
+        <translation>Apagar</translation>
     </message>
     <message numerus="yes">
         <source>Switch on %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>¿Encender %n proyector?</numerusform>
             <numerusform>¿Encender %n proyectores?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Switch off %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>¿Apagar %n proyector?</numerusform>
             <numerusform>¿Apagar %n proyectores?</numerusform>
         </translation>
     </message>
     <message>
         <source>Input %1</source>
-        <translation type="unfinished">Entrada %1</translation>
+        <translation>Entrada %1</translation>
     </message>
     <message numerus="yes">
         <source>Choose the input %1 on %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>¿Elegir la entrada %1 en %n proyector?</numerusform>
             <numerusform>¿Elegir la entrada %1 en %n proyectores?</numerusform>
         </translation>
     </message>
     <message>
         <source>No inputs are known</source>
-        <translation type="unfinished">No se conocen entradas</translation>
+        <translation>No se conocen entradas</translation>
     </message>
 </context>
 <context>

@@ -1007,19 +1007,19 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>Prints what differs from a file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra lo que difiere de un archivo («-» es la entrada estándar), de un preajuste de la aplicación, o del archivo propio de cada proyector en una carpeta.</translation>
     </message>
     <message>
         <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lee los proyectores, envía lo que difiere del archivo («-» es la entrada estándar), de un preajuste de la aplicación, o del archivo propio de cada proyector en una carpeta, y lo vuelve a leer. Lo que se sustituye se guarda antes, para que «acctl undo» pueda restaurarlo. Una ejecución interrumpida se puede repetir en cualquier momento.</translation>
     </message>
     <message>
         <source>the value before could not be read, and cannot be restored</source>
-        <translation type="unfinished"></translation>
+        <translation>el valor anterior no se pudo leer y no se puede restaurar</translation>
     </message>
     <message>
         <source>the value before could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>el valor anterior no se pudo leer</translation>
     </message>
 </context>
 <context>
@@ -1437,15 +1437,15 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>Projector, setting, command or result</source>
-        <translation type="unfinished"></translation>
+        <translation>Proyector, ajuste, orden o resultado</translation>
     </message>
     <message>
         <source>All projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los proyectores</translation>
     </message>
     <message>
         <source>Show the commands of</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar las órdenes de</translation>
     </message>
 </context>
 <context>
@@ -1515,7 +1515,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>&amp;Ask Again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Preguntar de nuevo</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -1539,27 +1539,27 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>Nothing differs.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay diferencias.</translation>
     </message>
     <message numerus="yes">
         <source>%n projectors differ.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n proyector difiere.</numerusform>
+            <numerusform>%n proyectores difieren.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n projectors have all these settings already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n proyector ya tiene todos estos ajustes.</numerusform>
+            <numerusform>%n proyectores ya tienen todos estos ajustes.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n projectors could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n proyector no se pudo leer.</numerusform>
+            <numerusform>%n proyectores no se pudieron leer.</numerusform>
         </translation>
     </message>
 </context>
@@ -1786,15 +1786,15 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Ahora</translation>
     </message>
     <message>
         <source>Differences</source>
-        <translation type="unfinished"></translation>
+        <translation>Diferencias</translation>
     </message>
     <message>
         <source>First the other sources and modes</source>
-        <translation type="unfinished"></translation>
+        <translation>Primero las otras fuentes y modos</translation>
     </message>
     <message numerus="yes">
         <source>%n settings</source>
@@ -1805,16 +1805,16 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message numerus="yes">
         <source>%n settings do not apply to this model</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ajuste no se aplica a este modelo</numerusform>
+            <numerusform>%n ajustes no se aplican a este modelo</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n settings cannot be read now</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ajuste no se puede leer ahora</numerusform>
+            <numerusform>%n ajustes no se pueden leer ahora</numerusform>
         </translation>
     </message>
     <message>
@@ -2007,7 +2007,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <message>
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2, %3 ms</translation>
     </message>
 </context>
 <context>
@@ -2059,9 +2059,9 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <message numerus="yes">
         <source>%n not watched</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n no vigilado</numerusform>
+            <numerusform>%n no vigilados</numerusform>
         </translation>
     </message>
 </context>
@@ -2145,7 +2145,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>the projector reports none of its settings now</source>
-        <translation type="unfinished"></translation>
+        <translation>el proyector no informa ahora de ninguno de sus ajustes</translation>
     </message>
 </context>
 <context>
@@ -2502,23 +2502,23 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>As the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Como el escritorio</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Claro</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Oscuro</translation>
     </message>
     <message>
         <source>&amp;Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Colores</translation>
     </message>
     <message>
         <source>(the same time twice: none)</source>
-        <translation type="unfinished"></translation>
+        <translation>(dos veces la misma hora: ninguna)</translation>
     </message>
 </context>
 <context>
@@ -2592,19 +2592,19 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>Reading the settings of %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Leyendo los ajustes de %1…</translation>
     </message>
     <message>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Preajuste</translation>
     </message>
     <message>
         <source>What It Should Be</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado deseado</translation>
     </message>
     <message>
         <source>Should be</source>
-        <translation type="unfinished"></translation>
+        <translation>Debe coincidir con</translation>
     </message>
 </context>
 <context>
@@ -2623,54 +2623,54 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustes del preajuste</translation>
     </message>
     <message>
         <source>&amp;Name of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nombre del preajuste</translation>
     </message>
     <message>
         <source>&amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Todos</translation>
     </message>
     <message>
         <source>Check all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcar todos los ajustes</translation>
     </message>
     <message>
         <source>This &amp;Page</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta &amp;página</translation>
     </message>
     <message>
         <source>Check the settings of the selected page, and no others</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcar los ajustes de la página seleccionada y ningún otro</translation>
     </message>
     <message>
         <source>N&amp;one</source>
-        <translation type="unfinished"></translation>
+        <translation>N&amp;inguno</translation>
     </message>
     <message>
         <source>Uncheck all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Desmarcar todos los ajustes</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar</translation>
     </message>
     <message>
         <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un preajuste no se puede llamar así: sin barras, ni un punto al principio.</translation>
     </message>
     <message numerus="yes">
         <source>%n settings are checked.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ajuste está marcado.</numerusform>
+            <numerusform>%n ajustes están marcados.</numerusform>
         </translation>
     </message>
     <message>
         <source>The preset %1 will be replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se sustituirá el preajuste %1.</translation>
     </message>
 </context>
 <context>
@@ -2976,11 +2976,11 @@ un signo menos delante quita una etiqueta:</numerusform>
     </message>
     <message>
         <source>Read-Only File</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo de solo lectura</translation>
     </message>
     <message>
         <source>%1 cannot be changed. Save the profiles in another file first.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no se puede cambiar. Guarde antes los perfiles en otro archivo.</translation>
     </message>
     <message>
         <source>Save Profiles As…</source>
@@ -3261,20 +3261,20 @@ un signo menos delante quita una etiqueta:</numerusform>
     </message>
     <message>
         <source>Settings saved in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustes guardados en %1.</translation>
     </message>
     <message numerus="yes">
         <source>Settings of %n projectors saved in %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ajustes de %n proyector guardados en %1.</numerusform>
+            <numerusform>Ajustes de %n proyectores guardados en %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n settings could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>No se pudo leer %n ajuste.</numerusform>
+            <numerusform>No se pudieron leer %n ajustes.</numerusform>
         </translation>
     </message>
     <message>
@@ -3291,7 +3291,7 @@ un signo menos delante quita una etiqueta:</numerusform>
     </message>
     <message>
         <source>The values before are kept in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los valores anteriores se conservan en %1.</translation>
     </message>
 </context>
 <context>
@@ -3757,23 +3757,23 @@ un signo menos delante quita una etiqueta:</numerusform>
     </message>
     <message numerus="yes">
         <source>%n projectors added</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n proyector añadido</numerusform>
+            <numerusform>%n proyectores añadidos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n already known</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ya conocido</numerusform>
+            <numerusform>%n ya conocidos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n rows not taken</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n fila no aceptada</numerusform>
+            <numerusform>%n filas no aceptadas</numerusform>
         </translation>
     </message>
 </context>
@@ -4028,9 +4028,9 @@ un signo menos delante quita una etiqueta:</numerusform>
     </message>
     <message numerus="yes">
         <source>done, %n settings could not be read</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>hecho, no se pudo leer %n ajuste</numerusform>
+            <numerusform>hecho, no se pudieron leer %n ajustes</numerusform>
         </translation>
     </message>
 </context>

@@ -1490,7 +1490,7 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
     </message>
     <message>
         <source>Port n&amp;umber</source>
-        <translation>埠號(&amp;U)</translation>
+        <translation>序列埠號(&amp;U)</translation>
     </message>
     <message>
         <source>&amp;Device</source>
@@ -2207,7 +2207,7 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
     </message>
     <message>
         <source>All &amp;fields of the model</source>
-        <translation>機型的所有欄位(&amp;F)</translation>
+        <translation>顯示機型的所有欄位(&amp;L)</translation>
     </message>
     <message>
         <source>Dialog &amp;type</source>
@@ -3054,7 +3054,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Beforehand: other sources and modes</source>
-        <translation>先前狀態：其他來源與模式</translation>
+        <translation>先還原：其他來源與模式</translation>
     </message>
     <message numerus="yes">
         <source>%n settings</source>

@@ -1014,12 +1014,12 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Prints what differs from a file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder.</source>
-        <translation>Gibt aus, was von einer Datei („-“ ist die Standardeingabe) oder von der eigenen Datei jedes Projektors in einem Ordner abweicht.</translation>
+        <source>the value before could not be read, and cannot be restored</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation>Liest die Projektoren, sendet, was von der Datei („-“ ist die Standardeingabe) oder von der eigenen Datei jedes Projektors in einem Ordner abweicht, und liest es zurück. Was ersetzt wird, wird vorher gesichert, damit „acctl undo“ es wiederherstellen kann. Ein unterbrochener Lauf kann jederzeit wiederholt werden.</translation>
+        <source>the value before could not be read</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1446,10 +1446,6 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <message>
         <source>Show the commands of</source>
         <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Projector, command or result</source>
-        <translation>Projektor, Befehl oder Ergebnis</translation>
     </message>
 </context>
 <context>
@@ -2610,21 +2606,6 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <source>Should be</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>Name of the preset:</source>
-        <translation>Name der Vorgabe:</translation>
-    </message>
-    <message numerus="yes">
-        <source>Put the preset %1 on %n projectors?</source>
-        <translation>
-            <numerusform>Vorgabe %1 auf %n Projektor anwenden?</numerusform>
-            <numerusform>Vorgabe %1 auf %n Projektoren anwenden?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Compare</source>
-        <translation>Vergleichen</translation>
-    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -3311,29 +3292,6 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
     <message>
         <source>The values before are kept in %1.</source>
         <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1: no answer</source>
-        <translation>%1: keine Antwort</translation>
-    </message>
-    <message>
-        <source>%1: nothing can be read</source>
-        <translation>%1: nichts kann gelesen werden</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1: %n settings cannot be read and are left out</source>
-        <translation>
-            <numerusform>%1: %n Einstellung kann nicht gelesen werden und wird ausgelassen</numerusform>
-            <numerusform>%1: %n Einstellungen können nicht gelesen werden und werden ausgelassen</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>Wartet auf den Projektor eines offenen Dialogs …</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Anhalten</translation>
     </message>
 </context>
 <context>
@@ -4073,193 +4031,6 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
         <translation type="unfinished">
             <numerusform></numerusform>
             <numerusform></numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>RestoreDialog</name>
-    <message>
-        <source>Projector</source>
-        <translation>Projektor</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>Einstellung</translation>
-    </message>
-    <message>
-        <source>Here</source>
-        <translation>Hier</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>Datei</translation>
-    </message>
-    <message>
-        <source>Result</source>
-        <translation>Ergebnis</translation>
-    </message>
-    <message>
-        <source>not read</source>
-        <translation>nicht gelesen</translation>
-    </message>
-    <message>
-        <source>already so</source>
-        <translation>unverändert</translation>
-    </message>
-    <message>
-        <source>different</source>
-        <translation>abweichend</translation>
-    </message>
-    <message>
-        <source>changed</source>
-        <translation>geändert</translation>
-    </message>
-    <message>
-        <source>refused</source>
-        <translation>abgelehnt</translation>
-    </message>
-    <message>
-        <source>accepted, not yet so</source>
-        <translation>angenommen, noch nicht wirksam</translation>
-    </message>
-    <message>
-        <source>refused: the projector is busy or in standby</source>
-        <translation>abgelehnt: der Projektor ist beschäftigt oder im Standby</translation>
-    </message>
-    <message>
-        <source>not confirmed</source>
-        <translation>nicht bestätigt</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not have it</source>
-        <translation>übersprungen: dieses Modell hat es nicht</translation>
-    </message>
-    <message>
-        <source>skipped: this projector does not offer it</source>
-        <translation>übersprungen: dieser Projektor bietet es nicht an</translation>
-    </message>
-    <message>
-        <source>skipped: it is not one to put back</source>
-        <translation>übersprungen: wird nicht wiederhergestellt</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not take the value</source>
-        <translation>übersprungen: dieses Modell nimmt den Wert nicht an</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n changed</source>
-        <extracomment>How many settings came to this, in a list such as &quot;12 changed, 3 refused&quot;.</extracomment>
-        <translation>
-            <numerusform>%n geändert</numerusform>
-            <numerusform>%n geändert</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n different</source>
-        <translation>
-            <numerusform>%n abweichend</numerusform>
-            <numerusform>%n abweichend</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n already so</source>
-        <translation>
-            <numerusform>%n unverändert</numerusform>
-            <numerusform>%n unverändert</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not yet so</source>
-        <translation>
-            <numerusform>%n noch nicht wirksam</numerusform>
-            <numerusform>%n noch nicht wirksam</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n refused</source>
-        <translation>
-            <numerusform>%n abgelehnt</numerusform>
-            <numerusform>%n abgelehnt</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not confirmed</source>
-        <translation>
-            <numerusform>%n nicht bestätigt</numerusform>
-            <numerusform>%n nicht bestätigt</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not read</source>
-        <translation>
-            <numerusform>%n nicht gelesen</numerusform>
-            <numerusform>%n nicht gelesen</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n skipped</source>
-        <translation>
-            <numerusform>%n übersprungen</numerusform>
-            <numerusform>%n übersprungen</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Apply Settings</source>
-        <translation>Einstellungen anwenden</translation>
-    </message>
-    <message>
-        <source>Compare Settings</source>
-        <translation>Einstellungen vergleichen</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filtern</translation>
-    </message>
-    <message>
-        <source>&amp;Differences only</source>
-        <translation>Nur &amp;Unterschiede</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Einstellungen</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Fortschritt</translation>
-    </message>
-    <message>
-        <source>&amp;Compare Again</source>
-        <translation>Noch einmal &amp;vergleichen</translation>
-    </message>
-    <message>
-        <source>&amp;Apply</source>
-        <translation>&amp;Anwenden</translation>
-    </message>
-    <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>Wartet auf den Projektor eines offenen Dialogs …</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Anhalten</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Schließen</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>Beforehand: other sources and modes</source>
-        <translation>Vorher: andere Quellen und Betriebsarten</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n settings</source>
-        <translation>
-            <numerusform>%n Einstellung</numerusform>
-            <numerusform>%n Einstellungen</numerusform>
         </translation>
     </message>
 </context>

@@ -1014,12 +1014,12 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Prints what differs from a file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder.</source>
-        <translation>Muestra lo que difiere de un archivo («-» es la entrada estándar), o del archivo propio de cada proyector en una carpeta.</translation>
+        <source>the value before could not be read, and cannot be restored</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation>Lee los proyectores, envía lo que difiere del archivo («-» es la entrada estándar), o del archivo propio de cada proyector en una carpeta, y lo vuelve a leer. Lo que se sustituye se guarda antes, para que «acctl undo» pueda restaurarlo. Una ejecución interrumpida se puede repetir en cualquier momento.</translation>
+        <source>the value before could not be read</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1446,10 +1446,6 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <message>
         <source>Show the commands of</source>
         <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Projector, command or result</source>
-        <translation>Proyector, orden o resultado</translation>
     </message>
 </context>
 <context>
@@ -2610,21 +2606,6 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <source>Should be</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>Name of the preset:</source>
-        <translation>Nombre del preajuste:</translation>
-    </message>
-    <message numerus="yes">
-        <source>Put the preset %1 on %n projectors?</source>
-        <translation>
-            <numerusform>¿Aplicar el preajuste %1 a %n proyector?</numerusform>
-            <numerusform>¿Aplicar el preajuste %1 a %n proyectores?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Compare</source>
-        <translation>Comparar</translation>
-    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -3311,29 +3292,6 @@ un signo menos delante quita una etiqueta:</numerusform>
     <message>
         <source>The values before are kept in %1.</source>
         <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1: no answer</source>
-        <translation>%1: sin respuesta</translation>
-    </message>
-    <message>
-        <source>%1: nothing can be read</source>
-        <translation>%1: no se puede leer nada</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1: %n settings cannot be read and are left out</source>
-        <translation>
-            <numerusform>%1: %n ajuste no se puede leer y se omite</numerusform>
-            <numerusform>%1: %n ajustes no se pueden leer y se omiten</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>Esperando al proyector de un cuadro de diálogo abierto…</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Detener</translation>
     </message>
 </context>
 <context>
@@ -4073,193 +4031,6 @@ un signo menos delante quita una etiqueta:</numerusform>
         <translation type="unfinished">
             <numerusform></numerusform>
             <numerusform></numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>RestoreDialog</name>
-    <message>
-        <source>Projector</source>
-        <translation>Proyector</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>Ajuste</translation>
-    </message>
-    <message>
-        <source>Here</source>
-        <translation>Aquí</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>Archivo</translation>
-    </message>
-    <message>
-        <source>Result</source>
-        <translation>Resultado</translation>
-    </message>
-    <message>
-        <source>not read</source>
-        <translation>no leído</translation>
-    </message>
-    <message>
-        <source>already so</source>
-        <translation>sin cambios</translation>
-    </message>
-    <message>
-        <source>different</source>
-        <translation>diferente</translation>
-    </message>
-    <message>
-        <source>changed</source>
-        <translation>cambiado</translation>
-    </message>
-    <message>
-        <source>refused</source>
-        <translation>rechazado</translation>
-    </message>
-    <message>
-        <source>accepted, not yet so</source>
-        <translation>aceptado, aún sin efecto</translation>
-    </message>
-    <message>
-        <source>refused: the projector is busy or in standby</source>
-        <translation>rechazado: el proyector está ocupado o en espera</translation>
-    </message>
-    <message>
-        <source>not confirmed</source>
-        <translation>sin confirmar</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not have it</source>
-        <translation>omitido: este modelo no lo tiene</translation>
-    </message>
-    <message>
-        <source>skipped: this projector does not offer it</source>
-        <translation>omitido: este proyector no lo ofrece</translation>
-    </message>
-    <message>
-        <source>skipped: it is not one to put back</source>
-        <translation>omitido: no se restaura</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not take the value</source>
-        <translation>omitido: este modelo no admite el valor</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n changed</source>
-        <extracomment>How many settings came to this, in a list such as &quot;12 changed, 3 refused&quot;.</extracomment>
-        <translation>
-            <numerusform>%n cambiado</numerusform>
-            <numerusform>%n cambiados</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n different</source>
-        <translation>
-            <numerusform>%n diferente</numerusform>
-            <numerusform>%n diferentes</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n already so</source>
-        <translation>
-            <numerusform>%n sin cambios</numerusform>
-            <numerusform>%n sin cambios</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not yet so</source>
-        <translation>
-            <numerusform>%n aún sin efecto</numerusform>
-            <numerusform>%n aún sin efecto</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n refused</source>
-        <translation>
-            <numerusform>%n rechazado</numerusform>
-            <numerusform>%n rechazados</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not confirmed</source>
-        <translation>
-            <numerusform>%n sin confirmar</numerusform>
-            <numerusform>%n sin confirmar</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not read</source>
-        <translation>
-            <numerusform>%n no leído</numerusform>
-            <numerusform>%n no leídos</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n skipped</source>
-        <translation>
-            <numerusform>%n omitido</numerusform>
-            <numerusform>%n omitidos</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Apply Settings</source>
-        <translation>Aplicar ajustes</translation>
-    </message>
-    <message>
-        <source>Compare Settings</source>
-        <translation>Comparar ajustes</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filtrar</translation>
-    </message>
-    <message>
-        <source>&amp;Differences only</source>
-        <translation>Solo &amp;diferencias</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Ajustes</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Progreso</translation>
-    </message>
-    <message>
-        <source>&amp;Compare Again</source>
-        <translation>&amp;Comparar de nuevo</translation>
-    </message>
-    <message>
-        <source>&amp;Apply</source>
-        <translation>&amp;Aplicar</translation>
-    </message>
-    <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>Esperando al proyector de un cuadro de diálogo abierto…</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Detener</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Cerrar</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>Beforehand: other sources and modes</source>
-        <translation>Antes: otras fuentes y modos</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n settings</source>
-        <translation>
-            <numerusform>%n ajuste</numerusform>
-            <numerusform>%n ajustes</numerusform>
         </translation>
     </message>
 </context>

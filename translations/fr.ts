@@ -1014,12 +1014,12 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Prints what differs from a file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder.</source>
-        <translation>Affiche ce qui diffère d’un fichier («&#xa0;-&#xa0;» est l’entrée standard), ou du fichier de chaque projecteur dans un dossier.</translation>
+        <source>the value before could not be read, and cannot be restored</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation>Lit les projecteurs, envoie ce qui diffère du fichier («&#xa0;-&#xa0;» est l’entrée standard), ou du fichier de chaque projecteur dans un dossier, et le relit. Ce qui est remplacé est d’abord conservé, pour que «&#xa0;acctl undo&#xa0;» puisse le restaurer. Une exécution interrompue peut être répétée à tout moment.</translation>
+        <source>the value before could not be read</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1446,10 +1446,6 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     <message>
         <source>Show the commands of</source>
         <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Projector, command or result</source>
-        <translation>Projecteur, commande ou résultat</translation>
     </message>
 </context>
 <context>
@@ -2610,21 +2606,6 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <source>Should be</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>Name of the preset:</source>
-        <translation>Nom du préréglage&#xa0;:</translation>
-    </message>
-    <message numerus="yes">
-        <source>Put the preset %1 on %n projectors?</source>
-        <translation>
-            <numerusform>Appliquer le préréglage %1 à %n projecteur&#xa0;?</numerusform>
-            <numerusform>Appliquer le préréglage %1 à %n projecteurs&#xa0;?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Compare</source>
-        <translation>Comparer</translation>
-    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -3311,29 +3292,6 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     <message>
         <source>The values before are kept in %1.</source>
         <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1: no answer</source>
-        <translation>%1&#xa0;: aucune réponse</translation>
-    </message>
-    <message>
-        <source>%1: nothing can be read</source>
-        <translation>%1&#xa0;: rien ne peut être lu</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1: %n settings cannot be read and are left out</source>
-        <translation>
-            <numerusform>%1&#xa0;: %n réglage ne peut pas être lu et est omis</numerusform>
-            <numerusform>%1&#xa0;: %n réglages ne peuvent pas être lus et sont omis</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>Attente du projecteur d’une boîte de dialogue ouverte…</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Arrêter</translation>
     </message>
 </context>
 <context>
@@ -4073,193 +4031,6 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
         <translation type="unfinished">
             <numerusform></numerusform>
             <numerusform></numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>RestoreDialog</name>
-    <message>
-        <source>Projector</source>
-        <translation>Projecteur</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>Réglage</translation>
-    </message>
-    <message>
-        <source>Here</source>
-        <translation>Ici</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>Fichier</translation>
-    </message>
-    <message>
-        <source>Result</source>
-        <translation>Résultat</translation>
-    </message>
-    <message>
-        <source>not read</source>
-        <translation>non lu</translation>
-    </message>
-    <message>
-        <source>already so</source>
-        <translation>inchangé</translation>
-    </message>
-    <message>
-        <source>different</source>
-        <translation>différent</translation>
-    </message>
-    <message>
-        <source>changed</source>
-        <translation>modifié</translation>
-    </message>
-    <message>
-        <source>refused</source>
-        <translation>refusé</translation>
-    </message>
-    <message>
-        <source>accepted, not yet so</source>
-        <translation>accepté, pas encore en vigueur</translation>
-    </message>
-    <message>
-        <source>refused: the projector is busy or in standby</source>
-        <translation>refusé&#xa0;: le projecteur est occupé ou en veille</translation>
-    </message>
-    <message>
-        <source>not confirmed</source>
-        <translation>non confirmé</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not have it</source>
-        <translation>ignoré&#xa0;: ce modèle ne l’a pas</translation>
-    </message>
-    <message>
-        <source>skipped: this projector does not offer it</source>
-        <translation>ignoré&#xa0;: ce projecteur ne le propose pas</translation>
-    </message>
-    <message>
-        <source>skipped: it is not one to put back</source>
-        <translation>ignoré&#xa0;: ne se restaure pas</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not take the value</source>
-        <translation>ignoré&#xa0;: ce modèle n’accepte pas la valeur</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n changed</source>
-        <extracomment>How many settings came to this, in a list such as &quot;12 changed, 3 refused&quot;.</extracomment>
-        <translation>
-            <numerusform>%n modifié</numerusform>
-            <numerusform>%n modifiés</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n different</source>
-        <translation>
-            <numerusform>%n différent</numerusform>
-            <numerusform>%n différents</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n already so</source>
-        <translation>
-            <numerusform>%n inchangé</numerusform>
-            <numerusform>%n inchangés</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not yet so</source>
-        <translation>
-            <numerusform>%n pas encore en vigueur</numerusform>
-            <numerusform>%n pas encore en vigueur</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n refused</source>
-        <translation>
-            <numerusform>%n refusé</numerusform>
-            <numerusform>%n refusés</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not confirmed</source>
-        <translation>
-            <numerusform>%n non confirmé</numerusform>
-            <numerusform>%n non confirmés</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not read</source>
-        <translation>
-            <numerusform>%n non lu</numerusform>
-            <numerusform>%n non lus</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n skipped</source>
-        <translation>
-            <numerusform>%n ignoré</numerusform>
-            <numerusform>%n ignorés</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Apply Settings</source>
-        <translation>Appliquer les réglages</translation>
-    </message>
-    <message>
-        <source>Compare Settings</source>
-        <translation>Comparer les réglages</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filtrer</translation>
-    </message>
-    <message>
-        <source>&amp;Differences only</source>
-        <translation>&amp;Différences seulement</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Réglages</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Progression</translation>
-    </message>
-    <message>
-        <source>&amp;Compare Again</source>
-        <translation>&amp;Comparer de nouveau</translation>
-    </message>
-    <message>
-        <source>&amp;Apply</source>
-        <translation>&amp;Appliquer</translation>
-    </message>
-    <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>Attente du projecteur d’une boîte de dialogue ouverte…</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Arrêter</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Fermer</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1&#xa0;: %2</translation>
-    </message>
-    <message>
-        <source>Beforehand: other sources and modes</source>
-        <translation>Au préalable&#xa0;: autres sources et modes</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n settings</source>
-        <translation>
-            <numerusform>%n réglage</numerusform>
-            <numerusform>%n réglages</numerusform>
         </translation>
     </message>
 </context>

@@ -5,992 +5,1001 @@
     <name>Acctl</name>
     <message>
         <source>there is no option --%1</source>
-        <translation type="unfinished"></translation>
+        <translation>nincs --%1 kapcsoló</translation>
     </message>
     <message>
         <source>--%1 takes no value</source>
-        <translation type="unfinished"></translation>
+        <translation>a --%1 kapcsoló nem vár értéket</translation>
     </message>
     <message>
         <source>--%1 needs %2</source>
         <extracomment>An option and what must follow it: &quot;--profiles needs FILE&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>a --%1 kapcsolóhoz meg kell adni: %2</translation>
     </message>
     <message>
         <source>%1 takes no %2</source>
         <extracomment>A command and an option: &quot;list takes no --wait&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: itt nem használható: %2</translation>
     </message>
     <message>
         <source>%1: &apos;%2&apos; is not possible</source>
         <extracomment>An option and its value.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: „%2” nem lehetséges</translation>
     </message>
     <message>
         <source>a command is missing; --help lists them</source>
-        <translation type="unfinished"></translation>
+        <translation>hiányzik a parancs; a parancsok listája: --help</translation>
     </message>
     <message>
         <source>there is no command &apos;%1&apos;; --help lists them</source>
-        <translation type="unfinished"></translation>
+        <translation>nincs „%1” parancs; a parancsok listája: --help</translation>
     </message>
     <message>
         <source>%1 has no such --format</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: ez a --format itt nem használható</translation>
     </message>
     <message>
         <source>use: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>használat: %1</translation>
     </message>
     <message>
         <source>the name of the file is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>a fájlnév üres</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not one of: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” nem szerepel a lehetőségek között: %2</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no step such as +1 or -1, and PJLink can only step it</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” nem olyan lépés, mint a +1 vagy a -1, és a PJLink csak léptetni tudja</translation>
     </message>
     <message numerus="yes">
         <source>&apos;%1&apos; is more than %n steps</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>„%1” több mint %n lépés</numerusform>
         </translation>
     </message>
     <message>
         <source>&apos;%1&apos; from %2 is not one of: %3</source>
         <extracomment>A step such as +3, the value that it starts from, and the values that are possible.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>„%1” (kiindulás: %2) nem szerepel a lehetőségek között: %3</translation>
     </message>
     <message numerus="yes">
         <source>&apos;%1&apos; is more than %n steps from %2</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>„%1” (kiindulás: %2) több mint %n lépés</numerusform>
         </translation>
     </message>
     <message>
         <source>list projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>projektorok listázása</translation>
     </message>
     <message>
         <source>Prints name, model, page set, series code, connection and tags of the projectors, or of all.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kiírja a megadott vagy az összes projektor nevét, modelljét, lapkészletét, sorozatkódját, kapcsolatát és címkéit.</translation>
     </message>
     <message>
         <source>list models</source>
-        <translation type="unfinished"></translation>
+        <translation>modellek listázása</translation>
     </message>
     <message>
         <source>Prints the models of the profile file, with the number of projectors and of settings of each.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kiírja a profilfájlban szereplő modelleket, és mindegyikhez a projektorok és a beállítások számát.</translation>
     </message>
     <message>
         <source>list settings and their values</source>
-        <translation type="unfinished"></translation>
+        <translation>beállítások és értékeik listázása</translation>
     </message>
     <message>
         <source>Prints the settings that the model has: key, tab, caption and possible values. The projector is not asked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kiírja a modell beállításait: kulcs, lap, felirat és lehetséges értékek. A projektort nem kérdezi le.</translation>
     </message>
     <message>
         <source>explain a setting</source>
-        <translation type="unfinished"></translation>
+        <translation>egy beállítás ismertetése</translation>
     </message>
     <message>
         <source>Prints what a setting is: tab and caption, possible values with their codes, the models that have it, and whether it can be set, reset, and saved and restored.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kiírja, mi az adott beállítás: a lapot és a feliratot, a lehetséges értékeket a kódjukkal, a modelleket, amelyekben megvan, és hogy módosítható, alaphelyzetbe állítható, illetve menthető és visszaállítható-e.</translation>
     </message>
     <message>
         <source>print present values</source>
-        <translation type="unfinished"></translation>
+        <translation>aktuális értékek kiírása</translation>
     </message>
     <message>
         <source>Reads settings from the projectors and prints them; without a key, all of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beolvassa és kiírja a projektorok beállításait; kulcs nélkül az összeset.</translation>
     </message>
     <message>
         <source>change settings</source>
-        <translation type="unfinished"></translation>
+        <translation>beállítások módosítása</translation>
     </message>
     <message>
         <source>Changes settings in the order given, reads each back, and prints the value before and after. All keys and values are checked for all projectors first; if a value is wrong for one, nothing is sent to any. A key that a projector does not have is reported, and does not stop the others.
 KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the form KEY VALUE, +3 and -3 are steps, and =-3 is a number below zero. &apos;acctl undo&apos; restores what was there before, except the power state and the results of actions.</source>
-        <translation type="unfinished"></translation>
+        <translation>A megadott sorrendben módosítja a beállításokat, mindegyiket visszaolvassa, és kiírja az előtte és utána érvényes értéket. Előbb minden kulcsot és értéket ellenőriz minden projektorra; ha egy érték akár csak egynél is hibás, egyiknek sem küld semmit. Ha egy projektorban nincs meg egy kulcs, azt jelzi, de a többit ez nem akadályozza.
+A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez képest léptet. A KEY VALUE alakban a +3 és a -3 lépés, a =-3 pedig negatív szám. Az „acctl undo” visszaállítja a korábbi állapotot, kivéve a tápellátást és a műveletek eredményét.</translation>
     </message>
     <message>
         <source>reset settings to the projector&apos;s standard</source>
-        <translation type="unfinished"></translation>
+        <translation>beállítások visszaállítása a projektor alapértékére</translation>
     </message>
     <message>
         <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Visszaállítja a beállításokat a projektor saját alapértékére, és kiírja az új értéket. Az óraszámlálókat csak pontos kulcs megadásakor nullázza, mert ez nem vonható vissza.</translation>
     </message>
     <message>
         <source>print power, input, errors and hours</source>
-        <translation type="unfinished"></translation>
+        <translation>tápellátás, bemenet, hibák és üzemórák kiírása</translation>
     </message>
     <message>
         <source>Prints the status page of the projectors, or of all.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kiírja a megadott vagy az összes projektor állapotlapját.</translation>
     </message>
     <message>
         <source>save settings in files</source>
-        <translation type="unfinished"></translation>
+        <translation>beállítások mentése fájlba</translation>
     </message>
     <message>
         <source>Saves every setting that can be restored: those of one projector in FILE (&apos;-&apos; is standard output), or those of any number in a folder, a file each. A file that is not a file of settings is not replaced without --force.</source>
-        <translation type="unfinished"></translation>
+        <translation>Menti az összes visszaállítható beállítást: egy projektorét a FILE fájlba („-” a szabványos kimenet), vagy akárhány projektorét egy mappába, mindegyiket külön fájlba. Ha egy fájl nem beállításfájl, --force nélkül nem írja felül.</translation>
     </message>
     <message>
         <source>compare with saved settings</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Prints what differs from a file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>összehasonlítás mentett beállításokkal</translation>
     </message>
     <message>
         <source>restore saved settings</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation type="unfinished"></translation>
+        <translation>mentett beállítások visszaállítása</translation>
     </message>
     <message>
         <source>undo the last run of set or apply</source>
-        <translation type="unfinished"></translation>
+        <translation>az utolsó set vagy apply visszavonása</translation>
     </message>
     <message>
         <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Minden érintett projektoron visszaállítja, amit az utolsó „set” vagy „apply” lecserélt, vagy amit a RUN futtatás: ez lehet az „acctl undo --list” által kiírt név vagy egy fájl. A visszavonás is visszavonható a neve alapján.</translation>
     </message>
     <message>
         <source>print values and every change</source>
-        <translation type="unfinished"></translation>
+        <translation>értékek és minden változás kiírása</translation>
     </message>
     <message>
         <source>Prints values, and then every change until it is interrupted, until nobody reads its output any more, or until all projectors have the value of --until. A projector that falls silent is tried again and again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kiírja az értékeket, majd minden változást, amíg meg nem szakítják, amíg valaki olvassa a kimenetét, vagy amíg minden projektor el nem éri az --until értékét. Az elnémult projektorral újra meg újra próbálkozik.</translation>
     </message>
     <message>
         <source>search the network for projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>projektorok keresése a hálózaton</translation>
     </message>
     <message>
         <source>Asks every PJLink projector of the network, or the addresses given, who it is. ADDRESSES are like 192.0.2.7, 192.0.2.0/24 or 192.0.2.10-40. Nothing is stored unless --add names a profile file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bemutatkozásra kéri a hálózat összes vagy a megadott címek PJLink-projektorait. Az ADDRESSES lehet például 192.0.2.7, 192.0.2.0/24 vagy 192.0.2.10-40. Semmit sem tárol, hacsak az --add meg nem ad egy profilfájlt.</translation>
     </message>
     <message>
         <source>take projectors from a table</source>
-        <translation type="unfinished"></translation>
+        <translation>projektorok átvétele táblázatból</translation>
     </message>
     <message>
         <source>Adds the rows of comma-separated values (&apos;-&apos; is standard input) to the profile file that --profiles or ACCTL_PROFILES names, and changes those that it has.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vesszővel tagolt értékek sorait („-” a szabványos bemenet) adja a --profiles vagy az ACCTL_PROFILES szerinti profilfájlhoz, a már meglévőket pedig módosítja.</translation>
     </message>
     <message>
         <source>print projectors as a table</source>
-        <translation type="unfinished"></translation>
+        <translation>projektorok kiírása táblázatként</translation>
     </message>
     <message>
         <source>Prints the projectors, or all, as comma-separated values, without passwords.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kiírja a megadott vagy az összes projektort vesszővel tagolt értékekként, jelszavak nélkül.</translation>
     </message>
     <message>
         <source>explain a command</source>
-        <translation type="unfinished"></translation>
+        <translation>egy parancs ismertetése</translation>
     </message>
     <message>
         <source>one of = != &lt; &lt;= &gt; &gt;= is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>hiányzik ezek egyike: = != &lt; &lt;= &gt; &gt;=</translation>
     </message>
     <message>
         <source>a value is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>hiányzik az érték</translation>
     </message>
     <message>
         <source>no model has such a setting</source>
-        <translation type="unfinished"></translation>
+        <translation>egyik modellben sincs ilyen beállítás</translation>
     </message>
     <message>
         <source>only numbers are less or greater</source>
-        <translation type="unfinished"></translation>
+        <translation>csak szám lehet kisebb vagy nagyobb</translation>
     </message>
     <message>
         <source>no model has such a setting; acctl settings lists all keys</source>
-        <translation type="unfinished"></translation>
+        <translation>egyik modellben sincs ilyen beállítás; az összes kulcs listája: acctl settings</translation>
     </message>
     <message>
         <source>no model has such a setting; did you mean %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>egyik modellben sincs ilyen beállítás; erre gondolt: %1?</translation>
     </message>
     <message>
         <source>%1 to %2</source>
         <extracomment>A range of numbers.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 – %2</translation>
     </message>
     <message>
         <source>%1 to %2, shown as %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – %2, kijelzett értéke %3</translation>
     </message>
     <message>
         <source>source %1: this is not kept for each source</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 forrás: ennek nincs forrásonként külön értéke</translation>
     </message>
     <message>
         <source>source %1 does not exist; there are %2</source>
-        <translation type="unfinished"></translation>
+        <translation>nincs ilyen forrás: %1; lehetséges: %2</translation>
     </message>
     <message>
         <source>value %1 is not possible; possible are %2</source>
-        <translation type="unfinished"></translation>
+        <translation>a megadott érték (%1) nem lehetséges; lehetséges: %2</translation>
     </message>
     <message>
         <source>text &quot;%1&quot; is not that of value %2, which is &quot;%3&quot;; change both, or remove the text</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” nem a megadott érték (%2) szövege, az ugyanis „%3”; módosítsa mindkettőt, vagy törölje a szöveget</translation>
     </message>
     <message>
         <source>Reads, changes, saves and restores the settings of projectors that the Advanced Control dialog shows. The projectors are those of a profile file.</source>
-        <translation type="unfinished"></translation>
+        <translation>A projektoroknak a Speciális vezérlés ablakában látható beállításait olvassa, módosítja, menti és állítja vissza. A projektorokat egy profilfájl sorolja fel.</translation>
     </message>
     <message>
         <source>P selects projectors: a name, a pattern such as &apos;Lecture*&apos;, @TAG, or model=PATTERN. Several are separated by commas, and !P leaves projectors out. KEY is the key of a setting, a pattern such as &apos;picture.*&apos;, or a short name such as brightness, input or power, which is the same on all models. VALUE is a number as the dialog shows it, the text of an entry in any language of the dialog, or its code.</source>
-        <translation type="unfinished"></translation>
+        <translation>A P projektorokat választ ki: név, minta (például &apos;Lecture*&apos;), @TAG vagy model=PATTERN. Több megadása vesszővel elválasztva lehetséges, a !P pedig kihagy projektorokat. A KEY egy beállítás kulcsa, minta (például &apos;picture.*&apos;) vagy rövid név (például brightness, input vagy power), amely minden modellnél ugyanaz. A VALUE az ablakban látható szám, egy elem szövege az ablak bármelyik nyelvén, vagy az elem kódja.</translation>
     </message>
     <message>
         <source>Done. Also if a projector in standby could not report everything, or accepted a change that has not taken effect yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kész. Akkor is, ha egy készenlétben lévő projektor nem tudott mindent jelenteni, vagy ha egy elfogadott módosítás még nem lépett életbe.</translation>
     </message>
     <message>
         <source>Something was refused, a projector lacks a setting that was named, or a file or the output could not be read or written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Valamit elutasított a projektor, hiányzik belőle egy megadott beállítás, vagy egy fájl, illetve a kimenet nem olvasható vagy nem írható.</translation>
     </message>
     <message>
         <source>Wrong use: nothing was sent to any projector.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hibás használat: egyik projektornak sem lett elküldve semmi.</translation>
     </message>
     <message>
         <source>A projector did not answer or did not report its inputs, or another run of acctl used it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Egy projektor nem válaszolt, nem jelentette a bemeneteit, vagy az acctl egy másik futtatása használta.</translation>
     </message>
     <message>
         <source>Interrupted; the report says what was done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Megszakítva; a jelentésben olvasható, mi történt meg.</translation>
     </message>
     <message>
         <source>Use: %1</source>
         <extracomment>Above the help of a command; %1 is how it is called.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Használat: %1</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Kapcsolók</translation>
     </message>
     <message>
         <source>Commands</source>
-        <translation type="unfinished"></translation>
+        <translation>Parancsok</translation>
     </message>
     <message>
         <source>Options of all commands; &apos;acctl help COMMAND&apos; lists its own, with examples</source>
-        <translation type="unfinished"></translation>
+        <translation>Minden parancs kapcsolói; egy parancs sajátjai példákkal: „acctl help COMMAND”</translation>
     </message>
     <message>
         <source>Examples</source>
-        <translation type="unfinished"></translation>
+        <translation>Példák</translation>
     </message>
     <message>
         <source>Exit codes</source>
-        <translation type="unfinished"></translation>
+        <translation>Kilépési kódok</translation>
     </message>
     <message>
         <source>number</source>
         <extracomment>A kind of setting: a value with a range.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>szám</translation>
     </message>
     <message>
         <source>choice</source>
         <extracomment>A kind of setting: a list of entries.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>választás</translation>
     </message>
     <message>
         <source>state</source>
         <extracomment>A kind of setting: on or off, or a counter.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>állapot</translation>
     </message>
     <message>
         <source>action</source>
         <extracomment>A kind of setting: something that the projector does once.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>művelet</translation>
     </message>
     <message>
         <source>short name: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>rövid név: %1</translation>
     </message>
     <message>
         <source>tab</source>
         <extracomment>Of the dialog, on which the setting is.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>lap</translation>
     </message>
     <message>
         <source>caption</source>
         <extracomment>Of the setting in the dialog.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>felirat</translation>
     </message>
     <message>
         <source>kind</source>
         <extracomment>What kind of setting it is: number, choice, state or action.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>fajta</translation>
     </message>
     <message>
         <source>values</source>
-        <translation type="unfinished"></translation>
+        <translation>értékek</translation>
     </message>
     <message>
         <source>those that the projector reports</source>
-        <translation type="unfinished"></translation>
+        <translation>amelyeket a projektor jelent</translation>
     </message>
     <message>
         <source>commands</source>
-        <translation type="unfinished"></translation>
+        <translation>parancsok</translation>
     </message>
     <message>
         <source>kept</source>
         <extracomment>The setting has a value of its own &quot;for each input source&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>tárolás</translation>
     </message>
     <message>
         <source>for each input source</source>
-        <translation type="unfinished"></translation>
+        <translation>bemeneti forrásonként</translation>
     </message>
     <message>
         <source>models</source>
-        <translation type="unfinished"></translation>
+        <translation>modellek</translation>
     </message>
     <message numerus="yes">
         <source>%n settings</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n beállítás</numerusform>
         </translation>
     </message>
     <message>
         <source>no profiles at %1; name a file with --profiles</source>
-        <translation type="unfinished"></translation>
+        <translation>itt nincsenek profilok: %1; adjon meg fájlt a --profiles kapcsolóval</translation>
     </message>
     <message>
         <source>read the projectors from FILE</source>
-        <translation type="unfinished"></translation>
+        <translation>a projektorok beolvasása a FILE fájlból</translation>
     </message>
     <message>
         <source>only projectors in this state, such as &apos;power=on lamp-hours&gt;1500&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>csak az ilyen állapotú projektorok, például &apos;power=on lamp-hours&gt;1500&apos;</translation>
     </message>
     <message>
         <source>the projector is at ADDRESS; P gives only its model</source>
-        <translation type="unfinished"></translation>
+        <translation>a projektor címe ADDRESS; a P csak a modelljét adja meg</translation>
     </message>
     <message>
         <source>the port of the projectors that are searched; 4352 by default</source>
-        <translation type="unfinished"></translation>
+        <translation>a keresett projektorok portja; alapértelmezés: 4352</translation>
     </message>
     <message>
         <source>PJLink password; other users of this machine can see it here</source>
-        <translation type="unfinished"></translation>
+        <translation>PJLink-jelszó; a gép többi felhasználója itt láthatja</translation>
     </message>
     <message>
         <source>the first line of FILE is the password</source>
-        <translation type="unfinished"></translation>
+        <translation>a jelszó a FILE fájl első sora</translation>
     </message>
     <message>
         <source>output: text, json, jsonl (a line for each value or projector), tsv or value</source>
-        <translation type="unfinished"></translation>
+        <translation>kimenet: text, json, jsonl (értékenként vagy projektoronként egy sor), tsv vagy value</translation>
     </message>
     <message>
         <source>the same as --format json</source>
-        <translation type="unfinished"></translation>
+        <translation>ugyanaz, mint --format json</translation>
     </message>
     <message>
         <source>only names or keys, one a line</source>
-        <translation type="unfinished"></translation>
+        <translation>csak nevek vagy kulcsok, soronként egy</translation>
     </message>
     <message>
         <source>only settings that get, set, reset or watch can use</source>
-        <translation type="unfinished"></translation>
+        <translation>csak a get, set, reset vagy watch paranccsal használható beállítások</translation>
     </message>
     <message>
         <source>only keys that match GLOB; may be repeated</source>
-        <translation type="unfinished"></translation>
+        <translation>csak a GLOB mintára illő kulcsok; ismételhető</translation>
     </message>
     <message>
         <source>take KEY=VALUE lines from FILE (&apos;-&apos; is standard input)</source>
-        <translation type="unfinished"></translation>
+        <translation>KEY=VALUE sorok átvétele a FILE fájlból („-” a szabványos bemenet)</translation>
     </message>
     <message>
         <source>save each projector in a file of its own in DIR</source>
-        <translation type="unfinished"></translation>
+        <translation>minden projektor mentése külön fájlba a DIR mappában</translation>
     </message>
     <message>
         <source>add what was found to the profile file FILE</source>
-        <translation type="unfinished"></translation>
+        <translation>a megtaláltak hozzáadása a FILE profilfájlhoz</translation>
     </message>
     <message>
         <source>print what would change, and change nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>csak kiírja, mi módosulna, de nem módosít</translation>
     </message>
     <message>
         <source>wait until the state is reached, up to TIME, such as 90s or 5m</source>
-        <translation type="unfinished"></translation>
+        <translation>várakozás az állapot elérésére legfeljebb TIME ideig, például 90s vagy 5m</translation>
     </message>
     <message>
         <source>end when every projector has this value</source>
-        <translation type="unfinished"></translation>
+        <translation>befejezés, ha már minden projektor értéke ez</translation>
     </message>
     <message>
         <source>exit with 1 if something differs, with 2 if something could not be compared</source>
-        <translation type="unfinished"></translation>
+        <translation>kilépési kód: 1, ha van eltérés; 2, ha valami nem hasonlítható össze</translation>
     </message>
     <message>
         <source>skip what is wrong in FILE instead of sending nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>kihagyja a FILE hibás részeit, ahelyett hogy semmit sem küldene</translation>
     </message>
     <message>
         <source>apply: also the undo file of another projector; save: replace any file</source>
-        <translation type="unfinished"></translation>
+        <translation>apply: más projektor visszavonási fájlja is; save: bármely fájl felülírása</translation>
     </message>
     <message>
         <source>list the runs that can be undone</source>
-        <translation type="unfinished"></translation>
+        <translation>a visszavonható futtatások listázása</translation>
     </message>
     <message>
         <source>the folder for undo files</source>
-        <translation type="unfinished"></translation>
+        <translation>a visszavonási fájlok mappája</translation>
     </message>
     <message>
         <source>remove undo files older than N days; 30 by default, 0 keeps all</source>
-        <translation type="unfinished"></translation>
+        <translation>az N napnál régebbi visszavonási fájlok törlése; alapértelmezés: 30, 0: mind megmarad</translation>
     </message>
     <message>
         <source>projectors at once, 1 to 1024; by default 512 to read and 64 to change</source>
-        <translation type="unfinished"></translation>
+        <translation>az egyszerre kezelt projektorok száma, 1–1024; alapértelmezés: olvasáshoz 512, módosításhoz 64</translation>
     </message>
     <message>
         <source>time for one answer; 2 by default</source>
-        <translation type="unfinished"></translation>
+        <translation>várakozás egy válaszra; alapértelmezés: 2</translation>
     </message>
     <message>
         <source>try a projector that does not answer N more times; 0 by default</source>
-        <translation type="unfinished"></translation>
+        <translation>a nem válaszoló projektor további N próbája; alapértelmezés: 0</translation>
     </message>
     <message>
         <source>begin no other projector after the first error</source>
-        <translation type="unfinished"></translation>
+        <translation>az első hiba után nem kezd újabb projektorba</translation>
     </message>
     <message>
         <source>time between two readings; 1 by default</source>
-        <translation type="unfinished"></translation>
+        <translation>két olvasás közti idő; alapértelmezés: 1</translation>
     </message>
     <message>
         <source>language of texts, such as de or zh-TW</source>
-        <translation type="unfinished"></translation>
+        <translation>a szövegek nyelve, például de vagy zh-TW</translation>
     </message>
     <message>
         <source>this text; with a command, its own</source>
-        <translation type="unfinished"></translation>
+        <translation>ez a szöveg; parancs után annak súgója</translation>
     </message>
     <message>
         <source>the version</source>
-        <translation type="unfinished"></translation>
+        <translation>a verzió</translation>
     </message>
     <message>
         <source>cannot write: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>nem írható: %1</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not possible</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” nem lehetséges</translation>
     </message>
     <message>
         <source>&apos;=&apos; is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>hiányzik: „=”</translation>
     </message>
     <message>
         <source>there is no setting %1</source>
-        <translation type="unfinished"></translation>
+        <translation>nincs ilyen beállítás: %1</translation>
     </message>
     <message>
         <source>cannot read %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>nem olvasható: %1: %2</translation>
     </message>
     <message>
         <source>%1 of %2</source>
         <extracomment>Behind a bar: how many projectors are done, and how many there are.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 / %2</translation>
     </message>
     <message>
         <source>its first line is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>az első sora üres</translation>
     </message>
     <message>
         <source>Password of %1: </source>
-        <translation type="unfinished"></translation>
+        <translation>%1 jelszava: </translation>
     </message>
     <message>
         <source>%1 (simulated)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (szimulált)</translation>
     </message>
     <message>
         <source>%1 added, %2 moved, %3 known</source>
         <extracomment>Numbers of projectors: new ones, those with a new address, and those that the file has already.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 hozzáadva, %2 új címen, %3 ismert</translation>
     </message>
     <message>
         <source>needs a password</source>
-        <translation type="unfinished"></translation>
+        <translation>jelszó szükséges</translation>
     </message>
     <message>
         <source>name the profile file with --profiles</source>
-        <translation type="unfinished"></translation>
+        <translation>adja meg a profilfájlt a --profiles kapcsolóval</translation>
     </message>
     <message>
         <source>%1 added, %2 known, %3 wrong</source>
         <extracomment>Numbers of projectors in a table: new ones, those that the file has already, and wrong rows.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 hozzáadva, %2 ismert, %3 hibás</translation>
     </message>
     <message>
         <source>%1: &apos;%2&apos; is not KEY=VALUE</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: „%2” nem KEY=VALUE alakú</translation>
     </message>
     <message>
         <source>%1: has no KEY=VALUE</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: nincs benne KEY=VALUE sor</translation>
     </message>
     <message>
         <source>this takes one projector, not %1</source>
-        <translation type="unfinished"></translation>
+        <translation>itt csak egy projektor adható meg, nem %1</translation>
     </message>
     <message>
         <source>undone</source>
         <extracomment>Of a run of the program: somebody has undone it.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>visszavonva</translation>
     </message>
     <message>
         <source>cannot record in %1 that it is undone: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>a visszavonás nem jegyezhető fel itt: %1: %2</translation>
     </message>
     <message>
         <source>another run of acctl works on it</source>
-        <translation type="unfinished"></translation>
+        <translation>az acctl egy másik futtatása dolgozik rajta</translation>
     </message>
     <message>
         <source>not begun, as another projector failed</source>
-        <translation type="unfinished"></translation>
+        <translation>nem kezdődött el, mert egy másik projektornál hiba történt</translation>
     </message>
     <message>
         <source>simulated by acctl itself, nothing lasting was changed</source>
-        <translation type="unfinished"></translation>
+        <translation>az acctl maga szimulálta, semmi sem módosult tartósan</translation>
     </message>
     <message>
         <source>interrupted; what was done is reported above</source>
-        <translation type="unfinished"></translation>
+        <translation>megszakítva; ami megtörtént, fentebb olvasható</translation>
     </message>
     <message>
         <source>in standby, left out: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>készenlétben van, kimarad: %1</translation>
     </message>
     <message>
         <source>warming up, left out: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>bemelegszik, kimarad: %1</translation>
     </message>
     <message>
         <source>cooling down, left out: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>lehűl, kimarad: %1</translation>
     </message>
     <message>
         <source>skipped, this projector does not offer it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>kihagyva, ez a projektor nem kínálja: %1</translation>
     </message>
     <message numerus="yes">
         <source>%n projectors</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n projektor</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n changed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n módosítva</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n different</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n eltérő</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n already so</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n változatlan</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n not yet so</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n még nem lépett életbe</numerusform>
         </translation>
     </message>
     <message>
         <source>accepted, but not so yet</source>
-        <translation type="unfinished"></translation>
+        <translation>elfogadva, még nem lépett életbe</translation>
     </message>
     <message numerus="yes">
         <source>%n refused</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n elutasítva</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n busy</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n foglaltság miatt elmaradt</numerusform>
         </translation>
     </message>
     <message>
         <source>the projector is busy or in standby</source>
-        <translation type="unfinished"></translation>
+        <translation>a projektor foglalt vagy készenlétben van</translation>
     </message>
     <message numerus="yes">
         <source>%n unconfirmed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n nincs megerősítve</numerusform>
         </translation>
     </message>
     <message>
         <source>not confirmed, it may have changed</source>
-        <translation type="unfinished"></translation>
+        <translation>nincs megerősítve, lehet, hogy módosult</translation>
     </message>
     <message numerus="yes">
         <source>%n not done</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n elmaradt</numerusform>
         </translation>
     </message>
     <message>
         <source>skipped, this model does not have it</source>
-        <translation type="unfinished"></translation>
+        <translation>kihagyva, ebben a modellben nincs meg</translation>
     </message>
     <message>
         <source>skipped, this projector does not offer it</source>
-        <translation type="unfinished"></translation>
+        <translation>kihagyva, ez a projektor nem kínálja</translation>
     </message>
     <message>
         <source>skipped, it cannot be restored</source>
-        <translation type="unfinished"></translation>
+        <translation>kihagyva, nem állítható vissza</translation>
     </message>
     <message>
         <source>skipped, this model does not take it</source>
-        <translation type="unfinished"></translation>
+        <translation>kihagyva, ez a modell nem fogadja el</translation>
     </message>
     <message>
         <source>stopped at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>itt megállt: %1</translation>
     </message>
     <message numerus="yes">
         <source>not sent, it is more than %n steps away</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>nem lett elküldve, több mint %n lépésre van</numerusform>
         </translation>
     </message>
     <message>
         <source>refused, it is %1</source>
-        <translation type="unfinished"></translation>
+        <translation>elutasítva, értéke %1</translation>
     </message>
     <message>
         <source>it cannot be read now</source>
-        <translation type="unfinished"></translation>
+        <translation>most nem olvasható</translation>
     </message>
     <message numerus="yes">
         <source>%n not compared</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n nem lett összehasonlítva</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n skipped</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n kihagyva</numerusform>
         </translation>
     </message>
     <message>
         <source>nothing to do</source>
-        <translation type="unfinished"></translation>
+        <translation>nincs teendő</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message numerus="yes">
         <source>skipped, PJLink does not have them: %n of the file&apos;s settings</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>kihagyva, a PJLink nem ismeri: a fájl %n beállítása</numerusform>
         </translation>
     </message>
     <message>
         <source>%1; no more was sent</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; több nem lett elküldve</translation>
     </message>
     <message>
         <source>%1; nothing was sent</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; semmi sem lett elküldve</translation>
     </message>
     <message>
         <source>%1: undoes a change of %2; --force applies it to %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: egy másik projektor (%2) módosítását vonja vissza; a --force hatására erre alkalmazza: %3</translation>
     </message>
     <message>
         <source>--only %1: the file has no such setting</source>
-        <translation type="unfinished"></translation>
+        <translation>--only %1: a fájlban nincs ilyen beállítás</translation>
     </message>
     <message>
         <source>%1: there is no projector &apos;%2&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: nincs „%2” nevű projektor</translation>
     </message>
     <message>
         <source>%1: %2 is also of %3</source>
         <extracomment>Two files, and the projector that both are of.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: a következő fájl is ugyanezé a projektoré (%2): %3</translation>
     </message>
     <message>
         <source>%1: the folder has no files of settings</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: a mappában nincsenek beállításfájlok</translation>
     </message>
     <message>
         <source>%1: there is no file of it in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: nincs hozzá fájl itt: %2</translation>
     </message>
     <message>
         <source>%1: is not a file of settings; --force replaces it</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: nem beállításfájl; a --force felülírja</translation>
     </message>
     <message>
         <source>%1: there is no such file or folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: nincs ilyen fájl vagy mappa</translation>
     </message>
     <message>
         <source>name the projectors to which the file is applied</source>
-        <translation type="unfinished"></translation>
+        <translation>adja meg, mely projektorokra kell alkalmazni a fájlt</translation>
     </message>
     <message>
         <source>one file is for one projector, not %1; -o names a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>egy fájl csak egy projektorhoz használható, itt viszont %1 van; mappa az -o kapcsolóval adható meg</translation>
     </message>
     <message>
         <source>cannot make the folder %1</source>
-        <translation type="unfinished"></translation>
+        <translation>a mappa nem hozható létre: %1</translation>
     </message>
     <message>
         <source>%1; name an earlier run to undo that one</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; korábbi futtatás visszavonásához adja meg annak nevét</translation>
     </message>
     <message>
         <source>there is no run to undo</source>
-        <translation type="unfinished"></translation>
+        <translation>nincs visszavonható futtatás</translation>
     </message>
     <message>
         <source>there is no run &apos;%1&apos;; --list shows them</source>
-        <translation type="unfinished"></translation>
+        <translation>nincs „%1” futtatás; a lista: --list</translation>
     </message>
     <message>
         <source>%1: is no longer in the profile file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: már nincs a profilfájlban</translation>
     </message>
     <message>
         <source>cannot be read now, and is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>most nem olvasható, kimarad</translation>
     </message>
     <message>
         <source>nothing can be read, and nothing was written</source>
-        <translation type="unfinished"></translation>
+        <translation>semmi sem olvasható, és semmi sem lett kiírva</translation>
     </message>
     <message numerus="yes">
         <source>%n settings saved in %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n beállítás mentve ide: %1</numerusform>
         </translation>
     </message>
     <message>
         <source>there is no projector &apos;%1&apos;; acctl list shows all</source>
-        <translation type="unfinished"></translation>
+        <translation>nincs „%1” nevű projektor; az összes listája: acctl list</translation>
     </message>
     <message>
         <source>refused, the projector is in standby</source>
-        <translation type="unfinished"></translation>
+        <translation>elutasítva, a projektor készenlétben van</translation>
     </message>
     <message>
         <source>refused, the projector is warming up</source>
-        <translation type="unfinished"></translation>
+        <translation>elutasítva, a projektor bemelegszik</translation>
     </message>
     <message>
         <source>refused, the projector is cooling down</source>
-        <translation type="unfinished"></translation>
+        <translation>elutasítva, a projektor lehűl</translation>
     </message>
     <message>
         <source>refused, the projector is busy</source>
-        <translation type="unfinished"></translation>
+        <translation>elutasítva, a projektor foglalt</translation>
     </message>
     <message>
         <source>this cannot be undone: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ez nem vonható vissza: %1</translation>
     </message>
     <message numerus="yes">
         <source>stopped, %1 of %n steps accepted</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>megállt, elfogadott lépések: %1 / %n</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1; %2 of %n steps accepted</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1; elfogadott lépések: %2 / %n</numerusform>
         </translation>
     </message>
     <message>
         <source>accepted, but not so yet, it is %1</source>
-        <translation type="unfinished"></translation>
+        <translation>elfogadva, még nem lépett életbe, értéke %1</translation>
     </message>
     <message>
         <source>%1, it may have been changed, it is %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, lehet, hogy módosult, értéke %2</translation>
     </message>
     <message>
         <source>%1, it may have been changed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, lehet, hogy módosult</translation>
     </message>
     <message>
         <source>refused</source>
-        <translation type="unfinished"></translation>
+        <translation>elutasítva</translation>
     </message>
     <message>
         <source>accepted, but %1</source>
-        <translation type="unfinished"></translation>
+        <translation>elfogadva, de %1</translation>
     </message>
     <message>
         <source>not so in time, it is %1</source>
-        <translation type="unfinished"></translation>
+        <translation>nem érte el időben, értéke %1</translation>
     </message>
     <message>
         <source>not so in time</source>
-        <translation type="unfinished"></translation>
+        <translation>nem érte el időben az értéket</translation>
     </message>
     <message>
         <source>%1:%2: not a line of an undo file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:%2: ez nem egy visszavonási fájl sora</translation>
     </message>
     <message>
         <source>%1: there is nothing to undo</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: nincs mit visszavonni</translation>
     </message>
     <message>
         <source>cannot write %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>nem írható: %1: %2</translation>
     </message>
     <message>
         <source>wrong connection parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>hibás kapcsolati adatok</translation>
     </message>
     <message>
         <source>unknown host name</source>
-        <translation type="unfinished"></translation>
+        <translation>ismeretlen gépnév</translation>
     </message>
     <message>
         <source>not reachable</source>
-        <translation type="unfinished"></translation>
+        <translation>nem érhető el</translation>
     </message>
     <message>
         <source>connection lost</source>
-        <translation type="unfinished"></translation>
+        <translation>megszakadt a kapcsolat</translation>
     </message>
     <message>
         <source>answers are not understood</source>
-        <translation type="unfinished"></translation>
+        <translation>a válaszok nem értelmezhetők</translation>
     </message>
     <message>
         <source>another version of the protocol</source>
-        <translation type="unfinished"></translation>
+        <translation>a protokoll másik verziója</translation>
     </message>
     <message>
         <source>password missing or wrong</source>
-        <translation type="unfinished"></translation>
+        <translation>a jelszó hiányzik vagy hibás</translation>
     </message>
     <message>
         <source>no answer</source>
-        <translation type="unfinished"></translation>
+        <translation>nincs válasz</translation>
     </message>
     <message>
         <source>no answer (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>nincs válasz (%1)</translation>
     </message>
     <message>
         <source>this model has no such setting</source>
-        <translation type="unfinished"></translation>
+        <translation>ebben a modellben nincs ilyen beállítás</translation>
     </message>
     <message>
         <source>skipped, PJLink does not have it</source>
-        <translation type="unfinished"></translation>
+        <translation>kihagyva, a PJLink nem ismeri</translation>
     </message>
     <message>
         <source>cannot be read now</source>
-        <translation type="unfinished"></translation>
+        <translation>most nem olvasható</translation>
     </message>
     <message>
         <source>this projector does not offer it</source>
-        <translation type="unfinished"></translation>
+        <translation>ez a projektor nem kínálja</translation>
     </message>
     <message>
         <source>not read, the projector did not report its inputs</source>
-        <translation type="unfinished"></translation>
+        <translation>nem lett beolvasva, a projektor nem jelentette a bemeneteit</translation>
     </message>
     <message>
         <source>PJLink does not have it</source>
-        <translation type="unfinished"></translation>
+        <translation>a PJLink nem ismeri</translation>
     </message>
     <message>
         <source>this cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>ez nem olvasható</translation>
     </message>
     <message>
         <source>this cannot be set</source>
-        <translation type="unfinished"></translation>
+        <translation>ez nem állítható be</translation>
     </message>
     <message>
         <source>this cannot be restored</source>
-        <translation type="unfinished"></translation>
+        <translation>ez nem állítható vissza</translation>
     </message>
     <message>
         <source>this cannot be reset</source>
-        <translation type="unfinished"></translation>
+        <translation>ez nem állítható alapértékre</translation>
     </message>
     <message>
         <source>%1, the projector is in standby</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, a projektor készenlétben van</translation>
     </message>
     <message>
         <source>%1, the projector is warming up</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, a projektor bemelegszik</translation>
     </message>
     <message>
         <source>%1, the projector is cooling down</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, a projektor lehűl</translation>
     </message>
     <message>
         <source>answers again</source>
-        <translation type="unfinished"></translation>
+        <translation>újra válaszol</translation>
     </message>
     <message>
         <source>--until: &apos;%1&apos; is not KEY=VALUE</source>
+        <translation>--until: „%1” nem KEY=VALUE alakú</translation>
+    </message>
+    <message>
+        <source>Prints what differs from a file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the value before could not be read, and cannot be restored</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the value before could not be read</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -998,415 +1007,423 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     <name>AlertList</name>
     <message>
         <source>&amp;Acknowledge</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nyugtázás</translation>
     </message>
     <message>
         <source>Acknowledge A&amp;ll</source>
-        <translation type="unfinished"></translation>
+        <translation>Ö&amp;sszes nyugtázása</translation>
     </message>
     <message>
         <source>Since</source>
-        <translation type="unfinished"></translation>
+        <translation>Kezdete</translation>
     </message>
     <message>
         <source>Alert</source>
-        <translation type="unfinished"></translation>
+        <translation>Riasztás</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Állapot</translation>
     </message>
     <message>
         <source>Alerts</source>
-        <translation type="unfinished"></translation>
+        <translation>Riasztások</translation>
     </message>
     <message>
         <source>%1 does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nem válaszol</translation>
     </message>
     <message>
         <source>%1: the lamp has %2 of %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: a lámpa üzemideje %2 / %3</translation>
     </message>
     <message numerus="yes">
         <source>%1: %n settings are not as they should be</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1: %n beállítás eltér az elvárttól</numerusform>
         </translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>acknowledged</source>
-        <translation type="unfinished"></translation>
+        <translation>nyugtázva</translation>
     </message>
     <message>
         <source>open</source>
-        <translation type="unfinished"></translation>
+        <translation>nyitott</translation>
     </message>
 </context>
 <context>
     <name>BridgeOptions</name>
     <message>
         <source>Display this help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ez a súgó.</translation>
     </message>
     <message>
         <source>The projectors are those of &lt;file&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>A projektorok a &lt;fájl&gt; fájlból származnak.</translation>
     </message>
     <message>
         <source>file</source>
-        <translation type="unfinished"></translation>
+        <translation>fájl</translation>
     </message>
     <message>
         <source>Watch one of several shares: 2/5 is the second of five.</source>
-        <translation type="unfinished"></translation>
+        <translation>Több rész közül egynek a figyelése: 2/5 az öt rész közül a második.</translation>
     </message>
     <message>
         <source>share</source>
-        <translation type="unfinished"></translation>
+        <translation>rész</translation>
     </message>
     <message>
         <source>Watch only projectors with &lt;tag&gt;, or one of several.</source>
-        <translation type="unfinished"></translation>
+        <translation>Csak az olyan projektorok figyelése, amelyeken rajta van a &lt;címke&gt;, vagy ha több van megadva, azok egyike.</translation>
     </message>
     <message>
         <source>tag</source>
-        <translation type="unfinished"></translation>
+        <translation>címke</translation>
     </message>
     <message>
         <source>Visit each projector every &lt;seconds&gt;, at least 5.</source>
-        <translation type="unfinished"></translation>
+        <translation>Minden projektor lekérdezése ennyi másodpercenként: &lt;másodperc&gt;, legalább 5.</translation>
     </message>
     <message>
         <source>seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>másodperc</translation>
     </message>
     <message>
         <source>Once a day, compare each projector with its snapshot in &lt;folder&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Naponta egyszer minden projektor összehasonlítása a &lt;mappa&gt; mappában lévő pillanatképével.</translation>
     </message>
     <message>
         <source>folder</source>
-        <translation type="unfinished"></translation>
+        <translation>mappa</translation>
     </message>
     <message>
         <source>Listen at &lt;address&gt; for the status notices of projectors.</source>
-        <translation type="unfinished"></translation>
+        <translation>A projektorok állapotértesítéseinek fogadása a &lt;cím&gt; címen.</translation>
     </message>
     <message>
         <source>address</source>
-        <translation type="unfinished"></translation>
+        <translation>cím</translation>
     </message>
     <message>
         <source>Serve metrics at &lt;address:port&gt;; &apos;none&apos; for nowhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Metrikák kiszolgálása a &lt;cím:port&gt; címen; „none”: sehol.</translation>
     </message>
     <message>
         <source>address:port</source>
-        <translation type="unfinished"></translation>
+        <translation>cím:port</translation>
     </message>
     <message>
         <source>Write metrics to &lt;file&gt; every 15 seconds, for a collector of text files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Metrikák írása 15 másodpercenként a &lt;fájl&gt; fájlba, szövegfájlokat gyűjtő program számára.</translation>
     </message>
     <message>
         <source>Send messages to the MQTT broker at &lt;host:port&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Üzenetek küldése a &lt;gép:port&gt; címen lévő MQTT-közvetítőnek.</translation>
     </message>
     <message>
         <source>host:port</source>
-        <translation type="unfinished"></translation>
+        <translation>gép:port</translation>
     </message>
     <message>
         <source>Version of MQTT, 3 (3.1.1) or 5.</source>
-        <translation type="unfinished"></translation>
+        <translation>Az MQTT verziója, 3 (3.1.1) vagy 5.</translation>
     </message>
     <message>
         <source>version</source>
-        <translation type="unfinished"></translation>
+        <translation>verzió</translation>
     </message>
     <message>
         <source>The first line of &lt;file&gt; is the user at the broker.</source>
-        <translation type="unfinished"></translation>
+        <translation>A &lt;fájl&gt; első sora a közvetítőnél használt felhasználónév.</translation>
     </message>
     <message>
         <source>The first line of &lt;file&gt; is the password at the broker.</source>
-        <translation type="unfinished"></translation>
+        <translation>A &lt;fájl&gt; első sora a közvetítőnél használt jelszó.</translation>
     </message>
     <message>
         <source>Encrypt, and trust the authorities that the system trusts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Titkosítás, a rendszer által elfogadott hitelesítésszolgáltatók elfogadásával.</translation>
     </message>
     <message>
         <source>Encrypt, and trust the authorities in &lt;file&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Titkosítás, a &lt;fájl&gt; hitelesítésszolgáltatóinak elfogadásával.</translation>
     </message>
     <message>
         <source>The certificate of this client.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ennek az ügyfélnek a tanúsítványa.</translation>
     </message>
     <message>
         <source>Its key.</source>
-        <translation type="unfinished"></translation>
+        <translation>A tanúsítvány kulcsa.</translation>
     </message>
     <message>
         <source>The first level of all topics.</source>
-        <translation type="unfinished"></translation>
+        <translation>Minden téma első szintje.</translation>
     </message>
     <message>
         <source>topic</source>
-        <translation type="unfinished"></translation>
+        <translation>téma</translation>
     </message>
     <message>
         <source>The first level of discovery topics; &apos;none&apos; for no discovery.</source>
-        <translation type="unfinished"></translation>
+        <translation>A felderítési témák első szintje; „none”: nincs felderítés.</translation>
     </message>
     <message>
         <source>Take the share of a bridge that has said nothing for &lt;seconds&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Az olyan híd részének átvétele, amely ennyi ideje nem jelentkezett: &lt;másodperc&gt;.</translation>
     </message>
     <message>
         <source>Settings that may be commanded: keys or patterns, separated by commas; &apos;power&apos; is the power. Without it nothing may be.</source>
-        <translation type="unfinished"></translation>
+        <translation>Paranccsal módosítható beállítások: kulcsok vagy minták vesszővel elválasztva; „power” a tápellátás. Nélküle egyik sem módosítható.</translation>
     </message>
     <message>
         <source>keys</source>
-        <translation type="unfinished"></translation>
+        <translation>kulcsok</translation>
     </message>
     <message>
         <source>Commands that each projector takes in a minute.</source>
-        <translation type="unfinished"></translation>
+        <translation>Az egy projektor által percenként fogadott parancsok száma.</translation>
     </message>
     <message>
         <source>n</source>
-        <translation type="unfinished"></translation>
+        <translation>n</translation>
     </message>
     <message>
         <source>Names in discovery messages, and messages of this program, are in the language &lt;name&gt;, such as de or zh-TW.</source>
-        <translation type="unfinished"></translation>
+        <translation>A felderítési üzenetek nevei és a program üzenetei ezen a nyelven jelennek meg: &lt;név&gt;, például de vagy zh-TW.</translation>
     </message>
     <message>
         <source>name</source>
-        <translation type="unfinished"></translation>
+        <translation>név</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no time from %2 seconds to a day</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” nem %2 másodperc és egy nap közötti idő</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no topic</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” nem téma</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no share such as 2/5</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” nem olyan rész, mint a 2/5</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no numeric address with a port</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” nem numerikus cím porttal</translation>
     </message>
     <message>
         <source>cannot read %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>nem olvasható: %1: %2</translation>
     </message>
     <message>
         <source>%1 is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>üres: %1</translation>
     </message>
     <message>
         <source>--%1 needs --broker</source>
-        <translation type="unfinished"></translation>
+        <translation>a --%1 kapcsolóhoz --broker is szükséges</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no host with a port</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” nem gépnév porttal</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is neither 3 nor 5</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” nem 3 és nem 5</translation>
     </message>
     <message>
         <source>--cert-file and --key-file need each other</source>
-        <translation type="unfinished"></translation>
+        <translation>a --cert-file és a --key-file csak együtt használható</translation>
     </message>
     <message>
         <source>--allow-commands: &apos;%1&apos; is no setting that may be commanded</source>
-        <translation type="unfinished"></translation>
+        <translation>--allow-commands: „%1” nem paranccsal módosítható beállítás</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no number from 1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” nem 1 és %2 közötti szám</translation>
     </message>
     <message>
         <source>Watches projectors, and tells a metrics store and a message broker of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Projektorokat figyel, és adatokat küld róluk metrikatárolónak és üzenetközvetítőnek.</translation>
     </message>
     <message>
         <source>unexpected argument &apos;%1&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>váratlan argumentum: „%1”</translation>
     </message>
     <message>
         <source>--profiles is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>hiányzik: --profiles</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no numeric address</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” nem numerikus cím</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no folder</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” nem mappa</translation>
     </message>
     <message>
         <source>there are no texts in &apos;%1&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>nincsenek szövegek ezen a nyelven: „%1”</translation>
     </message>
 </context>
 <context>
     <name>CommandLine</name>
     <message>
         <source>Unexpected &apos;=&apos; in &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Váratlan „=” itt: „%1”.</translation>
     </message>
     <message>
         <source>--%1 needs a value.</source>
-        <translation type="unfinished"></translation>
+        <translation>A --%1 kapcsolóhoz érték szükséges.</translation>
     </message>
     <message>
         <source>Opens the settings dialogs of projectors, real or simulated.</source>
-        <translation type="unfinished"></translation>
+        <translation>Valódi vagy szimulált projektorok beállításablakait nyitja meg.</translation>
     </message>
     <message>
         <source>Display this help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ez a súgó.</translation>
     </message>
     <message>
         <source>Read the projectors from &lt;file&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>A projektorok beolvasása a &lt;fájl&gt; fájlból.</translation>
     </message>
     <message>
         <source>file</source>
-        <translation type="unfinished"></translation>
+        <translation>fájl</translation>
     </message>
     <message>
         <source>Open the dialog of the projector &lt;name&gt; at start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Indításkor a &lt;név&gt; nevű projektor ablakának megnyitása.</translation>
     </message>
     <message>
         <source>name</source>
-        <translation type="unfinished"></translation>
+        <translation>név</translation>
     </message>
     <message>
         <source>With --open: select tab &lt;n&gt;, counted from 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>--open esetén: az &lt;n&gt;. lap kiválasztása, 0-tól számolva.</translation>
     </message>
     <message>
         <source>Print the table of projectors.</source>
-        <translation type="unfinished"></translation>
+        <translation>A projektorok táblázatának kiírása.</translation>
     </message>
     <message>
         <source>With --open: save a picture (PNG) of the dialog and exit.</source>
-        <translation type="unfinished"></translation>
+        <translation>--open esetén: az ablak képének mentése (PNG), majd kilépés.</translation>
     </message>
     <message>
         <source>Save pictures of all tabs of all kinds of projectors in &lt;folder&gt; and exit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Az összes projektorfajta minden lapjának képét a &lt;mappa&gt; mappába menti, majd kilép.</translation>
     </message>
     <message>
         <source>folder</source>
-        <translation type="unfinished"></translation>
+        <translation>mappa</translation>
     </message>
     <message>
         <source>Show texts in the language &lt;name&gt;, such as de or zh-TW.</source>
-        <translation type="unfinished"></translation>
+        <translation>A szövegek nyelve &lt;név&gt;, például de vagy zh-TW.</translation>
     </message>
     <message>
         <source>--language: there are no texts in &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>--language: nincsenek szövegek ezen a nyelven: „%1”.</translation>
     </message>
     <message>
         <source>Unexpected argument &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Váratlan argumentum: „%1”.</translation>
     </message>
     <message>
         <source>Only one of --list, --tour and --open can be given.</source>
-        <translation type="unfinished"></translation>
+        <translation>A --list, a --tour és az --open közül csak egy adható meg.</translation>
     </message>
     <message>
         <source>--%1 needs --open.</source>
-        <translation type="unfinished"></translation>
+        <translation>A --%1 kapcsolóhoz --open is szükséges.</translation>
     </message>
     <message>
         <source>--tab: &apos;%1&apos; is not a number.</source>
-        <translation type="unfinished"></translation>
+        <translation>--tab: „%1” nem szám.</translation>
     </message>
 </context>
 <context>
     <name>CommandLog</name>
     <message>
         <source>Changes &amp;Only</source>
-        <translation type="unfinished"></translation>
+        <translation>Csak a &amp;változások</translation>
     </message>
     <message>
         <source>&amp;Errors Only</source>
-        <translation type="unfinished"></translation>
+        <translation>Csak a &amp;hibák</translation>
     </message>
     <message>
         <source>Save &amp;Log As…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Napló mentése másként…</translation>
     </message>
     <message>
         <source>Clea&amp;r Log…</source>
-        <translation type="unfinished"></translation>
+        <translation>Napló &amp;törlése…</translation>
     </message>
     <message>
         <source>Command log</source>
-        <translation type="unfinished"></translation>
+        <translation>Parancsnapló</translation>
     </message>
     <message>
         <source>Leave out the commands that only read</source>
-        <translation type="unfinished"></translation>
+        <translation>A csak olvasó parancsok elrejtése</translation>
     </message>
     <message>
         <source>Leave out the commands that were carried out</source>
-        <translation type="unfinished"></translation>
+        <translation>A végrehajtott parancsok elrejtése</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Projector, command or result</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Másolás</translation>
     </message>
     <message>
         <source>Filter the log</source>
-        <translation type="unfinished"></translation>
+        <translation>Napló szűrése</translation>
     </message>
     <message>
         <source>Save Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Napló mentése</translation>
     </message>
     <message>
         <source>Tables (*.tsv);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Táblázatok (*.tsv);;Minden fájl (*)</translation>
     </message>
     <message>
         <source>Clear Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Napló törlése</translation>
     </message>
     <message numerus="yes">
         <source>Remove all %n entries of the log?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Törli a napló összes (%n) bejegyzését?</numerusform>
         </translation>
     </message>
     <message>
         <source>Clear</source>
+        <translation>Törlés</translation>
+    </message>
+    <message>
+        <source>Projector, setting, command or result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All projectors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the commands of</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1414,74 +1431,131 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     <name>CommandLogModel</name>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Idő</translation>
     </message>
     <message>
         <source>Projector</source>
-        <translation type="unfinished"></translation>
+        <translation>Projektor</translation>
     </message>
     <message>
         <source>Command</source>
-        <translation type="unfinished"></translation>
+        <translation>Parancs</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Érték</translation>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Eredmény</translation>
     </message>
     <message>
         <source>ms</source>
-        <translation type="unfinished"></translation>
+        <translation>ms</translation>
     </message>
     <message>
         <source>left</source>
-        <translation type="unfinished"></translation>
+        <translation>félbehagyva</translation>
     </message>
     <message>
         <source>no answer</source>
-        <translation type="unfinished"></translation>
+        <translation>nincs válasz</translation>
     </message>
     <message>
         <source>busy</source>
-        <translation type="unfinished"></translation>
+        <translation>foglalt</translation>
     </message>
     <message>
         <source>not offered</source>
-        <translation type="unfinished"></translation>
+        <translation>nem kínálja</translation>
     </message>
     <message>
         <source>refused</source>
-        <translation type="unfinished"></translation>
+        <translation>elutasítva</translation>
     </message>
     <message>
         <source>not yet so</source>
-        <translation type="unfinished"></translation>
+        <translation>még nem lépett életbe</translation>
     </message>
     <message>
         <source>ok</source>
+        <translation>rendben</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Beállítás</translation>
+    </message>
+</context>
+<context>
+    <name>ComparisonDialog</name>
+    <message>
+        <source>Progress</source>
+        <translation type="unfinished">Folyamat</translation>
+    </message>
+    <message>
+        <source>&amp;Ask Again</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation type="unfinished">&amp;Alkalmazás</translation>
+    </message>
+    <message>
+        <source>Reading settings…</source>
+        <translation type="unfinished">Beállítások beolvasása…</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation type="unfinished">Leállítás</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished">Mégse</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Bezárás</translation>
+    </message>
+    <message>
+        <source>Nothing differs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors differ.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors have all these settings already.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors could not be read.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
     <name>ConnectionFields</name>
     <message>
         <source>&amp;Reached through</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Elérés mód&amp;ja</translation>
     </message>
     <message>
         <source>Connect&amp;ion</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Kapc&amp;solat</translation>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">C&amp;ím</translation>
     </message>
     <message>
         <source>&amp;Port</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Port</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
@@ -1489,377 +1563,418 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     </message>
     <message>
         <source>Port n&amp;umber</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">P&amp;ortszám</translation>
     </message>
     <message>
         <source>&amp;Device</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Eszköz</translation>
     </message>
     <message>
         <source>&amp;Baud</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Átviteli se&amp;besség</translation>
     </message>
     <message>
         <source>As its family</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">A család szerint</translation>
     </message>
     <message>
         <source>Simulated</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Szimulált</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Hálózat</translation>
     </message>
     <message>
         <source>Serial port</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Soros port</translation>
     </message>
     <message>
         <source>%1 is no address.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ez nem cím: %1.</translation>
     </message>
 </context>
 <context>
     <name>ConnectionTest</name>
     <message>
         <source>&amp;Test Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Kapcsolat teszte&amp;lése</translation>
     </message>
     <message>
         <source>Result of the test</source>
-        <translation type="unfinished"></translation>
+        <translation>A teszt eredménye</translation>
     </message>
     <message>
         <source>There is nothing to connect to.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nincs mihez kapcsolódni.</translation>
     </message>
     <message>
         <source>A serial line is tried when its dialog opens.</source>
-        <translation type="unfinished"></translation>
+        <translation>A soros vonal próbája a projektor ablakának megnyitásakor történik.</translation>
     </message>
     <message>
         <source>Asking…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lekérdezés…</translation>
     </message>
     <message>
         <source>A projector answers: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Egy projektor válaszol: %1</translation>
     </message>
 </context>
 <context>
     <name>Csv</name>
     <message>
         <source>a quotation mark is not closed</source>
-        <translation type="unfinished"></translation>
+        <translation>hiányzik egy záró idézőjel</translation>
     </message>
     <message>
         <source>a text goes on behind its closing quotation mark</source>
-        <translation type="unfinished"></translation>
+        <translation>a záró idézőjel után folytatódik a szöveg</translation>
     </message>
     <message>
         <source>more than %1 cells</source>
-        <translation type="unfinished"></translation>
+        <translation>több mint %1 cella</translation>
     </message>
     <message>
         <source>%1 cells, but the header has %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 cella van, de a fejlécben %2</translation>
     </message>
     <message>
         <source>more than %1 rows</source>
-        <translation type="unfinished"></translation>
+        <translation>több mint %1 sor</translation>
     </message>
     <message>
         <source>there is no header</source>
-        <translation type="unfinished"></translation>
+        <translation>nincs fejléc</translation>
     </message>
     <message>
         <source>more than %1 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>több mint %1 bájt</translation>
     </message>
 </context>
 <context>
     <name>DetailsPanel</name>
     <message>
         <source>simulated</source>
-        <translation type="unfinished"></translation>
+        <translation>szimulált</translation>
     </message>
     <message>
         <source>Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Részletek</translation>
     </message>
     <message>
         <source>State:</source>
-        <translation type="unfinished"></translation>
+        <translation>Állapot:</translation>
     </message>
     <message>
         <source>Power:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tápellátás:</translation>
     </message>
     <message>
         <source>Source:</source>
-        <translation type="unfinished"></translation>
+        <translation>Forrás:</translation>
     </message>
     <message>
         <source>Problem:</source>
-        <translation type="unfinished"></translation>
+        <translation>Probléma:</translation>
     </message>
     <message>
         <source>Picture and sound:</source>
-        <translation type="unfinished"></translation>
+        <translation>Kép és hang:</translation>
     </message>
     <message>
         <source>Lamp:</source>
-        <translation type="unfinished"></translation>
+        <translation>Lámpa:</translation>
     </message>
     <message>
         <source>Filter:</source>
-        <translation type="unfinished"></translation>
+        <translation>Szűrő:</translation>
     </message>
     <message>
         <source>Settings:</source>
-        <translation type="unfinished"></translation>
+        <translation>Beállítások:</translation>
     </message>
     <message>
         <source>Answered:</source>
-        <translation type="unfinished"></translation>
+        <translation>Válasz:</translation>
     </message>
     <message>
         <source>Share of the lamp&apos;s rated hours</source>
-        <translation type="unfinished"></translation>
+        <translation>A lámpa névleges üzemidejéből eltelt rész</translation>
     </message>
     <message>
         <source>Recent e&amp;vents</source>
-        <translation type="unfinished"></translation>
+        <translation>Legutóbbi &amp;események</translation>
     </message>
     <message>
         <source>Recent events</source>
-        <translation type="unfinished"></translation>
+        <translation>Legutóbbi események</translation>
     </message>
     <message>
         <source>No projector selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Nincs projektor kijelölve</translation>
     </message>
     <message numerus="yes">
         <source>%n projectors selected</source>
+        <translation>
+            <numerusform>%n projektor kijelölve</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>blank</source>
+        <translation>üres kép</translation>
+    </message>
+    <message>
+        <source>muted</source>
+        <translation>némítva</translation>
+    </message>
+    <message>
+        <source>frozen</source>
+        <translation>kimerevítve</translation>
+    </message>
+    <message>
+        <source>shown</source>
+        <translation>látható</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>nincs</translation>
+    </message>
+    <message>
+        <source>%1  %2</source>
+        <translation>%1  %2</translation>
+    </message>
+    <message>
+        <source>nothing yet</source>
+        <translation>még semmi</translation>
+    </message>
+</context>
+<context>
+    <name>DifferenceTree</name>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Beállítás</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Differences</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First the other sources and modes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings</source>
+        <translation type="unfinished">
+            <numerusform>%n beállítás</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings do not apply to this model</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings cannot be read now</source>
         <translation type="unfinished">
             <numerusform></numerusform>
         </translation>
     </message>
     <message>
-        <source>blank</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>muted</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>frozen</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>shown</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>none</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1  %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>nothing yet</source>
-        <translation type="unfinished"></translation>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1: %2</translation>
     </message>
 </context>
 <context>
     <name>Discovery</name>
     <message>
         <source>Problem: fan</source>
-        <translation type="unfinished"></translation>
+        <translation>Probléma: ventilátor</translation>
     </message>
     <message>
         <source>Problem: lamp</source>
-        <translation type="unfinished"></translation>
+        <translation>Probléma: lámpa</translation>
     </message>
     <message>
         <source>Problem: temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Probléma: hőmérséklet</translation>
     </message>
     <message>
         <source>Problem: cover</source>
-        <translation type="unfinished"></translation>
+        <translation>Probléma: fedél</translation>
     </message>
     <message>
         <source>Problem: filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Probléma: szűrő</translation>
     </message>
     <message>
         <source>Problem: other</source>
         <extracomment>Any other problem of a projector.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Probléma: egyéb</translation>
     </message>
     <message>
         <source>Reachable</source>
-        <translation type="unfinished"></translation>
+        <translation>Elérhető</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished"></translation>
+        <translation>Tápellátás</translation>
     </message>
 </context>
 <context>
     <name>FaultPanel</name>
     <message>
         <source>Standby</source>
-        <translation type="unfinished"></translation>
+        <translation>Készenlét</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>Be</translation>
     </message>
     <message>
         <source>Cooling down</source>
-        <translation type="unfinished"></translation>
+        <translation>Lehűlés</translation>
     </message>
     <message>
         <source>No error</source>
-        <translation type="unfinished"></translation>
+        <translation>Nincs hiba</translation>
     </message>
     <message>
         <source>Cover</source>
-        <translation type="unfinished"></translation>
+        <translation>Fedél</translation>
     </message>
     <message>
         <source>Fan</source>
-        <translation type="unfinished"></translation>
+        <translation>Ventilátor</translation>
     </message>
     <message>
         <source>Lamp</source>
-        <translation type="unfinished"></translation>
+        <translation>Lámpa</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Hőmérséklet</translation>
     </message>
     <message>
         <source>Air flow</source>
-        <translation type="unfinished"></translation>
+        <translation>Légáramlás</translation>
     </message>
     <message>
         <source>Lamp time</source>
-        <translation type="unfinished"></translation>
+        <translation>Lámpa üzemideje</translation>
     </message>
     <message>
         <source>Cold</source>
-        <translation type="unfinished"></translation>
+        <translation>Túl alacsony hőmérséklet</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Szűrő</translation>
     </message>
     <message>
         <source>Filter time</source>
-        <translation type="unfinished"></translation>
+        <translation>Szűrő üzemideje</translation>
     </message>
     <message>
         <source>Other (99)</source>
-        <translation type="unfinished"></translation>
+        <translation>Egyéb (99)</translation>
     </message>
     <message>
         <source>Refuse</source>
-        <translation type="unfinished"></translation>
+        <translation>Elutasítás</translation>
     </message>
     <message>
         <source>Fail reads</source>
-        <translation type="unfinished"></translation>
+        <translation>Olvasási hibák</translation>
     </message>
     <message>
         <source>Delay</source>
-        <translation type="unfinished"></translation>
+        <translation>Késleltetés</translation>
     </message>
     <message>
         <source>Drop out</source>
-        <translation type="unfinished"></translation>
+        <translation>Kiesés</translation>
     </message>
     <message>
         <source>&amp;Set Fault</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hiba előidézése</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Megszüntetés</translation>
     </message>
     <message>
         <source>Remove &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>Összes m&amp;egszüntetése</translation>
     </message>
     <message>
         <source> ms</source>
-        <translation type="unfinished"></translation>
+        <translation> ms</translation>
     </message>
     <message>
         <source>Faults in force</source>
-        <translation type="unfinished"></translation>
+        <translation>Érvényes hibák</translation>
     </message>
     <message>
         <source>Po&amp;wer</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tápellátás</translation>
     </message>
     <message>
         <source>&amp;Error status</source>
-        <translation type="unfinished"></translation>
+        <translation>Hiba&amp;állapot</translation>
     </message>
     <message>
         <source>&amp;Command</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Parancs</translation>
     </message>
     <message>
         <source>Fa&amp;ult</source>
-        <translation type="unfinished"></translation>
+        <translation>Hi&amp;ba</translation>
     </message>
     <message>
         <source>&amp;Delay</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Késleltetés</translation>
     </message>
     <message>
         <source>&amp;In force</source>
-        <translation type="unfinished"></translation>
+        <translation>É&amp;rvényes</translation>
     </message>
     <message>
         <source>No projector selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Nincs projektor kijelölve</translation>
     </message>
     <message>
         <source>Simulation of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Szimuláció: %1</translation>
     </message>
     <message>
         <source>Simulated faults of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Szimulált hibák: %1</translation>
     </message>
     <message>
         <source>All commands</source>
-        <translation type="unfinished"></translation>
+        <translation>Minden parancs</translation>
     </message>
     <message>
         <source> (any code)</source>
-        <translation type="unfinished"></translation>
+        <translation> (bármely kód)</translation>
     </message>
     <message>
         <source>Choose, or type a part of a name or code</source>
-        <translation type="unfinished"></translation>
+        <translation>Válasszon, vagy írja be egy név vagy kód részletét</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1: %2, %3 ms</source>
@@ -1872,119 +1987,130 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     <message numerus="yes">
         <source>%n on</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n bekapcsolva</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n off</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n kikapcsolva</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n with problems</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n problémás</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n not reachable</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n nem érhető el</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n with alerts</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n riasztással</numerusform>
         </translation>
     </message>
     <message>
         <source>oldest answer %1</source>
-        <translation type="unfinished"></translation>
+        <translation>legrégebbi válasz: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not watched</source>
+        <comment>projectors</comment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
     <name>FleetWork</name>
     <message>
         <source>refused</source>
-        <translation type="unfinished"></translation>
+        <translation>elutasítva</translation>
     </message>
     <message>
         <source>the projector is busy or in standby</source>
-        <translation type="unfinished"></translation>
+        <translation>a projektor foglalt vagy készenlétben van</translation>
     </message>
     <message>
         <source>the projector does not have it</source>
-        <translation type="unfinished"></translation>
+        <translation>a projektorban nincs meg</translation>
     </message>
     <message>
         <source>the model does not allow this value</source>
-        <translation type="unfinished"></translation>
+        <translation>a modell nem engedi ezt az értéket</translation>
     </message>
     <message>
         <source>it cannot be set</source>
-        <translation type="unfinished"></translation>
+        <translation>nem állítható be</translation>
     </message>
     <message>
         <source>the model does not have it</source>
-        <translation type="unfinished"></translation>
+        <translation>a modellben nincs meg</translation>
     </message>
     <message>
         <source>the model has no such setting</source>
-        <translation type="unfinished"></translation>
+        <translation>a modellben nincs ilyen beállítás</translation>
     </message>
     <message>
         <source>there is no snapshot for it</source>
-        <translation type="unfinished"></translation>
+        <translation>nincs hozzá pillanatkép</translation>
     </message>
     <message>
         <source>not confirmed, it may have changed</source>
-        <translation type="unfinished"></translation>
+        <translation>nincs megerősítve, lehet, hogy módosult</translation>
     </message>
     <message>
         <source>not all of it could be sent</source>
-        <translation type="unfinished"></translation>
+        <translation>nem lehetett mindent elküldeni</translation>
     </message>
     <message>
         <source>no answer</source>
-        <translation type="unfinished"></translation>
+        <translation>nincs válasz</translation>
     </message>
     <message>
         <source>not reachable</source>
-        <translation type="unfinished"></translation>
+        <translation>nem érhető el</translation>
     </message>
     <message>
         <source>not connected</source>
-        <translation type="unfinished"></translation>
+        <translation>nincs kapcsolat</translation>
     </message>
     <message>
         <source>wrong connection parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>hibás kapcsolati adatok</translation>
     </message>
     <message>
         <source>unknown host name</source>
-        <translation type="unfinished"></translation>
+        <translation>ismeretlen gépnév</translation>
     </message>
     <message>
         <source>connection lost</source>
-        <translation type="unfinished"></translation>
+        <translation>megszakadt a kapcsolat</translation>
     </message>
     <message>
         <source>answers are not understood</source>
-        <translation type="unfinished"></translation>
+        <translation>a válaszok nem értelmezhetők</translation>
     </message>
     <message>
         <source>another version of the protocol</source>
-        <translation type="unfinished"></translation>
+        <translation>a protokoll másik verziója</translation>
     </message>
     <message>
         <source>password missing or wrong</source>
+        <translation>a jelszó hiányzik vagy hibás</translation>
+    </message>
+    <message>
+        <source>the projector reports none of its settings now</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1992,240 +2118,240 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     <name>GroupList</name>
     <message>
         <source>Groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Csoportok</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Mind</translation>
     </message>
     <message>
         <source>Problems</source>
-        <translation type="unfinished"></translation>
+        <translation>Problémák</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Kikapcsolva</translation>
     </message>
     <message>
         <source>Not reachable</source>
-        <translation type="unfinished"></translation>
+        <translation>Nem érhető el</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>HelpWindows</name>
     <message>
         <source>In a projector&apos;s dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>A projektor ablakában</translation>
     </message>
     <message>
         <source>Ctrl+Tab, Ctrl+Page Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Tab, Ctrl+Page Down</translation>
     </message>
     <message>
         <source>Next tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Következő lap</translation>
     </message>
     <message>
         <source>Ctrl+Shift+Tab, Ctrl+Page Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Shift+Tab, Ctrl+Page Up</translation>
     </message>
     <message>
         <source>Previous tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Előző lap</translation>
     </message>
     <message>
         <source>Ctrl+F</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+F</translation>
     </message>
     <message>
         <source>Find a setting</source>
-        <translation type="unfinished"></translation>
+        <translation>Beállítás keresése</translation>
     </message>
     <message>
         <source>Esc</source>
-        <translation type="unfinished"></translation>
+        <translation>Esc</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Bezárás</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Gyorsbillentyűk</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Névjegy</translation>
     </message>
     <message>
         <source>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;The live settings of projectors: every value is read from the projector, every change is sent at once.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h3&gt;Speciális vezérlés %1&lt;/h3&gt;&lt;p&gt;Projektorok élő beállításai: minden érték a projektorból származik, és minden módosítás azonnal a projektorhoz kerül.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
     <name>JsonLines</name>
     <message>
         <source>control character in a text</source>
-        <translation type="unfinished"></translation>
+        <translation>vezérlőkarakter a szövegben</translation>
     </message>
     <message>
         <source>half a surrogate pair in a text</source>
-        <translation type="unfinished"></translation>
+        <translation>fél helyettesítő pár a szövegben</translation>
     </message>
     <message>
         <source>text of more than %1 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bájtnál hosszabb szöveg</translation>
     </message>
     <message>
         <source>more than %1 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>több mint %1 bájt</translation>
     </message>
     <message>
         <source>nested more than %1 deep</source>
-        <translation type="unfinished"></translation>
+        <translation>több mint %1 szint mély</translation>
     </message>
     <message>
         <source>more than %1 values</source>
-        <translation type="unfinished"></translation>
+        <translation>több mint %1 érték</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Speciális vezérlés: %1</translation>
     </message>
     <message>
         <source>Advanced Control</source>
-        <translation type="unfinished"></translation>
+        <translation>Speciális vezérlés</translation>
     </message>
     <message>
         <source>Open Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Beállítások megnyitása</translation>
     </message>
     <message numerus="yes">
         <source>Open %n dialogs?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Megnyit %n ablakot?</numerusform>
         </translation>
     </message>
     <message>
         <source>Alerts</source>
-        <translation type="unfinished"></translation>
+        <translation>Riasztások</translation>
     </message>
     <message>
         <source>Simulation</source>
-        <translation type="unfinished"></translation>
+        <translation>Szimuláció</translation>
     </message>
     <message>
         <source>Command Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Parancsnapló</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fájl</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kilépés</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;zerkesztés</translation>
     </message>
     <message>
         <source>&amp;Preferences…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Programbeállítások…</translation>
     </message>
     <message>
         <source>&amp;Projector</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Projektor</translation>
     </message>
     <message>
         <source>&amp;Open Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Beállítások &amp;megnyitása</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Megnyitás</translation>
     </message>
     <message>
         <source>Re&amp;fresh</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Frissítés</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nézet</translation>
     </message>
     <message>
         <source>&amp;Find</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Keresés</translation>
     </message>
     <message>
         <source>&amp;Simulation</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Szimuláció</translation>
     </message>
     <message>
         <source>&amp;Command Log</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Parancsnapló</translation>
     </message>
     <message>
         <source>&amp;Alerts</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Riasztások</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Súgó</translation>
     </message>
     <message>
         <source>&amp;Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gyorsbillentyűk</translation>
     </message>
     <message>
         <source>&amp;About</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Névjegy</translation>
     </message>
     <message>
         <source>Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Eszközök</translation>
     </message>
 </context>
 <context>
     <name>ModelFields</name>
     <message>
         <source>&amp;Family</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Család</translation>
     </message>
     <message>
         <source>&amp;Model</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Modell</translation>
     </message>
     <message>
         <source>All &amp;fields of the model</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">A modell összes me&amp;zője</translation>
     </message>
     <message>
         <source>Dialog &amp;type</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ablak &amp;típusa</translation>
     </message>
     <message>
         <source>Model cod&amp;e</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Modell&amp;kód</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nincs</translation>
     </message>
 </context>
 <context>
     <name>Notify</name>
     <message>
         <source>Advanced Control</source>
-        <translation type="unfinished"></translation>
+        <translation>Speciális vezérlés</translation>
     </message>
 </context>
 <context>
@@ -2233,110 +2359,130 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     <message>
         <source>Advanced Control</source>
         <extracomment>The name of the program in the menu.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Speciális vezérlés</translation>
     </message>
     <message>
         <source>Projector Settings</source>
         <extracomment>What kind of program it is, in the menu.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Projektorbeállítások</translation>
     </message>
     <message>
         <source>Read and change the settings of projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Projektorok beállításainak olvasása és módosítása</translation>
     </message>
     <message>
         <source>projector;beamer;brightness;keystone;</source>
         <extracomment>Words that people may search for, each with a semicolon behind it; as many as are useful.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>projektor;vetítő;kivetítő;fényerő;trapéz;</translation>
     </message>
     <message>
         <source>A list that shows how hundreds of projectors are and changes many of them at once, and for each of them a dialog with a tab per group of settings. Every value is read live from the projector, and every change is sent at once. A log shows each command and its result.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista, amely több száz projektor állapotát mutatja, és egyszerre sokat módosít közülük; minden projektorhoz külön ablak tartozik, benne beállításcsoportonként egy lappal. Minden érték közvetlenül a projektorból származik, és minden módosítás azonnal a projektorhoz kerül. Napló mutatja az összes parancsot és azok eredményét.</translation>
     </message>
     <message>
         <source>Projectors can be simulated, with faults that are set by hand.</source>
-        <translation type="unfinished"></translation>
+        <translation>A projektorok szimulálhatók, kézzel előidézett hibákkal.</translation>
     </message>
 </context>
 <context>
     <name>Pictures</name>
     <message>
         <source>the dialog of %1 cannot be created</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ablaka nem hozható létre</translation>
     </message>
     <message>
         <source>cannot write to the folder %1</source>
-        <translation type="unfinished"></translation>
+        <translation>a mappa nem írható: %1</translation>
     </message>
 </context>
 <context>
     <name>Preferences</name>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Programbeállítások</translation>
     </message>
     <message>
         <source>As the system</source>
-        <translation type="unfinished"></translation>
+        <translation>A rendszer szerint</translation>
     </message>
     <message>
         <source> s</source>
-        <translation type="unfinished"></translation>
+        <translation> mp</translation>
     </message>
     <message>
         <source> %</source>
-        <translation type="unfinished"></translation>
+        <translation> %</translation>
     </message>
     <message>
         <source>never</source>
-        <translation type="unfinished"></translation>
+        <translation>soha</translation>
     </message>
     <message>
         <source> min</source>
-        <translation type="unfinished"></translation>
+        <translation> perc</translation>
     </message>
     <message>
         <source>&amp;Fan, lamp, temperature, cover, filter</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ventilátor, lámpa, hőmérséklet, fedél, szűrő</translation>
     </message>
     <message>
         <source>Settings that are not as they should &amp;be</source>
-        <translation type="unfinished"></translation>
+        <translation>Az &amp;elvárttól eltérő beállítások</translation>
     </message>
     <message>
         <source>Notify on the &amp;desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Értesítés az &amp;asztalon</translation>
     </message>
     <message>
         <source>Quiet from</source>
-        <translation type="unfinished"></translation>
+        <translation>Csend kezdete</translation>
     </message>
     <message>
         <source>Quiet until</source>
-        <translation type="unfinished"></translation>
+        <translation>Csend vége</translation>
     </message>
     <message>
         <source>&amp;Language (after a restart)</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nyelv (újraindítás után)</translation>
     </message>
     <message>
         <source>Ask each projector &amp;every</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Projektorok lekérdezésének gyakorisága</translation>
     </message>
     <message>
         <source>Alerts</source>
-        <translation type="unfinished"></translation>
+        <translation>Riasztások</translation>
     </message>
     <message>
         <source>Lamp &amp;hours, of the rated hours</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lámpa üzemideje a névlegeshez képest</translation>
     </message>
     <message>
         <source>&amp;Silent for</source>
-        <translation type="unfinished"></translation>
+        <translation>Nem válaszol ennyi &amp;ideje</translation>
     </message>
     <message>
         <source>Quiet hours</source>
+        <translation>Csendes órák</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Colors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(the same time twice: none)</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2344,82 +2490,149 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     <name>PresetActions</name>
     <message>
         <source>P&amp;resets</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;lőbeállítások</translation>
     </message>
     <message>
         <source>Put on the selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Alkalmazás a kijelöltekre</translation>
     </message>
     <message>
         <source>No presets yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Még nincs előbeállítás</translation>
     </message>
     <message>
         <source>&amp;Save as Preset…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mentés előbeállításként…</translation>
     </message>
     <message>
         <source>Should &amp;Be Like</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ilyennek kell lennie</translation>
     </message>
     <message>
         <source>Nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>Nincs elvárás</translation>
     </message>
     <message>
         <source>&amp;Compare with What It Should Be</source>
-        <translation type="unfinished"></translation>
+        <translation>Össze&amp;hasonlítás az elvárttal</translation>
     </message>
     <message>
         <source>&amp;Put Back What It Should Be</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Elvárt beállítások visszaállítása</translation>
     </message>
     <message>
         <source>Save as Preset</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Name of the preset:</source>
-        <translation type="unfinished"></translation>
+        <translation>Mentés előbeállításként</translation>
     </message>
     <message>
         <source>Saved as the preset %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Mentve előbeállításként: %1</translation>
     </message>
     <message>
         <source>Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Előbeállítások</translation>
     </message>
     <message>
         <source>Preset %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message numerus="yes">
-        <source>Put the preset %1 on %n projectors?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-        </translation>
+        <translation>Előbeállítás: %1</translation>
     </message>
     <message>
         <source>Should Be Like</source>
-        <translation type="unfinished"></translation>
+        <translation>Ilyennek kell lennie</translation>
     </message>
     <message>
         <source>None of the selected projectors has a preset that it should be like.</source>
-        <translation type="unfinished"></translation>
+        <translation>Egyik kijelölt projektorhoz sem tartozik elvárt előbeállítás.</translation>
     </message>
     <message>
         <source>Put Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Visszaállítás</translation>
     </message>
     <message numerus="yes">
         <source>Put back the settings of %n projectors?</source>
+        <translation>
+            <numerusform>Visszaállítja %n projektor elvárt beállításait?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Reading the settings of %1…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What It Should Be</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Should be</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PresetDialog</name>
+    <message>
+        <source>Save as Preset</source>
+        <translation type="unfinished">Mentés előbeállításként</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Beállítás</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">Érték</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Name of the preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check all settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This &amp;Page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check the settings of the selected page, and no others</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>N&amp;one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Uncheck all settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings are checked.</source>
         <translation type="unfinished">
             <numerusform></numerusform>
         </translation>
     </message>
     <message>
-        <source>Compare</source>
+        <source>The preset %1 will be replaced.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2427,74 +2640,75 @@ KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the fo
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
-        <translation type="unfinished"></translation>
+        <translation>a mappa nem hozható létre: %1</translation>
     </message>
 </context>
 <context>
     <name>ProfileActions</name>
     <message>
         <source>&amp;Add…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hozzáadás…</translation>
     </message>
     <message>
         <source>&amp;Edit…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Szerkesztés…</translation>
     </message>
     <message>
         <source>&amp;Duplicate…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kettőzés…</translation>
     </message>
     <message>
         <source>&amp;Remove…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Eltávolítás…</translation>
     </message>
     <message>
         <source>Ta&amp;g…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Címkék…</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Hozzáadás</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Szerkesztés</translation>
     </message>
     <message>
         <source>Duplicate</source>
-        <translation type="unfinished"></translation>
+        <translation>Kettőzés</translation>
     </message>
     <message>
         <source>Remove Projector</source>
-        <translation type="unfinished"></translation>
+        <translation>Projektor eltávolítása</translation>
     </message>
     <message>
         <source>Remove Projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Projektorok eltávolítása</translation>
     </message>
     <message>
         <source>Remove &quot;%1&quot; from %2?</source>
-        <translation type="unfinished"></translation>
+        <translation>Eltávolítja: „%1” (innen: %2)?</translation>
     </message>
     <message numerus="yes">
         <source>Remove %n projectors from %1?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Eltávolít %n projektort innen: %1?</numerusform>
         </translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Eltávolítás</translation>
     </message>
     <message>
         <source>Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Címkék</translation>
     </message>
     <message numerus="yes">
         <source>Tags for %n projectors, separated by commas;
 a minus in front takes a tag away:</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n projektor címkéi, vesszővel elválasztva;
+elöl álló mínusz eltávolítja a címkét:</numerusform>
         </translation>
     </message>
 </context>
@@ -2502,223 +2716,223 @@ a minus in front takes a tag away:</source>
     <name>ProfileCsv</name>
     <message>
         <source>&quot;%1&quot; is no MAC number</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” nem MAC-cím</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no link</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” nem kapcsolatfajta</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is the name of another projector, with the identity %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” egy másik projektor neve, amelynek azonosítója %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no number of hours</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” nem óraszám</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is the name of another projector</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” egy másik projektor neve</translation>
     </message>
     <message>
         <source>the header has no column &quot;name&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>a fejlécben nincs „name” oszlop</translation>
     </message>
 </context>
 <context>
     <name>ProfileDocument</name>
     <message>
         <source>%1 was changed by another program. Reload it (F5), then do this again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Egy másik program módosította: %1. Töltse be újra (F5), majd ismételje meg a műveletet.</translation>
     </message>
 </context>
 <context>
     <name>ProfileEditor</name>
     <message>
         <source>&amp;Name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Név</translation>
     </message>
     <message>
         <source>Add Projector</source>
-        <translation type="unfinished"></translation>
+        <translation>Projektor hozzáadása</translation>
     </message>
     <message>
         <source>Edit Projector</source>
-        <translation type="unfinished"></translation>
+        <translation>Projektor szerkesztése</translation>
     </message>
     <message>
         <source>Duplicate Projector</source>
-        <translation type="unfinished"></translation>
+        <translation>Projektor kettőzése</translation>
     </message>
     <message>
         <source>Still to be filled in: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Még kitöltendő: %1</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
     <name>ProfileFile</name>
     <message>
         <source>serial port %1</source>
-        <translation type="unfinished"></translation>
+        <translation>soros port: %1</translation>
     </message>
     <message>
         <source>has %1 families; at most %2 are possible</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 család van benne; legfeljebb %2 lehet</translation>
     </message>
     <message>
         <source>leads through more than %1 families</source>
-        <translation type="unfinished"></translation>
+        <translation>több mint %1 családon át vezet</translation>
     </message>
     <message>
         <source>makes &quot;%1&quot; like itself</source>
-        <translation type="unfinished"></translation>
+        <translation>önmagából származtatja ezt: „%1”</translation>
     </message>
     <message>
         <source>there is no family &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>nincs „%1” család</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>hiányzik: „%1”</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is the %2 of projectors[%3] too</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” már szerepel itt: projectors[%3], mint %2</translation>
     </message>
     <message>
         <source>the file must hold an object</source>
-        <translation type="unfinished"></translation>
+        <translation>a fájlnak objektumot kell tartalmaznia</translation>
     </message>
     <message>
         <source>&quot;projectors&quot; is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>hiányzik: „projectors”</translation>
     </message>
     <message>
         <source>there is no projector</source>
-        <translation type="unfinished"></translation>
+        <translation>nincs benne projektor</translation>
     </message>
     <message>
         <source>stands here twice</source>
-        <translation type="unfinished"></translation>
+        <translation>kétszer szerepel itt</translation>
     </message>
     <message>
         <source>cannot read profiles %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>a profilok nem olvashatók: %1: %2</translation>
     </message>
     <message>
         <source>not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>nem szabályos fájl</translation>
     </message>
     <message>
         <source>is neither the name of a range nor a number 0 to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>sem nem tartomány neve, sem nem 0 és %1 közötti szám</translation>
     </message>
     <message>
         <source>must be given by its name &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>ezzel a névvel kell megadni: „%1”</translation>
     </message>
     <message>
         <source>must be [minimum, maximum] or null</source>
-        <translation type="unfinished"></translation>
+        <translation>csak [minimum, maximum] vagy null lehet</translation>
     </message>
     <message>
         <source>has a minimum above its maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>a minimuma nagyobb a maximumánál</translation>
     </message>
     <message>
         <source>unknown key; known are %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ismeretlen kulcs; az ismertek: %1</translation>
     </message>
     <message>
         <source>must be an object</source>
-        <translation type="unfinished"></translation>
+        <translation>csak objektum lehet</translation>
     </message>
     <message>
         <source>must be an array</source>
-        <translation type="unfinished"></translation>
+        <translation>csak tömb lehet</translation>
     </message>
     <message>
         <source>has %1 entries; at most %2 are possible</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 eleme van; legfeljebb %2 lehet</translation>
     </message>
     <message>
         <source>must be a text that is not empty</source>
-        <translation type="unfinished"></translation>
+        <translation>csak nem üres szöveg lehet</translation>
     </message>
     <message>
         <source>is longer than %1 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>hosszabb, mint %1 bájt</translation>
     </message>
     <message>
         <source>must be a whole number</source>
-        <translation type="unfinished"></translation>
+        <translation>csak egész szám lehet</translation>
     </message>
     <message>
         <source>is %1; it must be %2 to %3</source>
-        <translation type="unfinished"></translation>
+        <translation>értéke %1; %2 és %3 között kell lennie</translation>
     </message>
     <message>
         <source>must be a number, a text or an object with &quot;value&quot; and &quot;name&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>csak szám, szöveg vagy „value” és „name” mezőt tartalmazó objektum lehet</translation>
     </message>
     <message>
         <source>must be a path that begins with /</source>
-        <translation type="unfinished"></translation>
+        <translation>csak / jellel kezdődő útvonal lehet</translation>
     </message>
     <message>
         <source>is neither the name of a host nor an IP address</source>
-        <translation type="unfinished"></translation>
+        <translation>sem nem gépnév, sem nem IP-cím</translation>
     </message>
     <message>
         <source>must have either &quot;network&quot; or &quot;serial&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>vagy „network”, vagy „serial” szükséges benne</translation>
     </message>
     <message>
         <source>must be simulated, network, serial or pjlink</source>
-        <translation type="unfinished"></translation>
+        <translation>csak simulated, network, serial vagy pjlink lehet</translation>
     </message>
     <message>
         <source>needs a %1 connection</source>
-        <translation type="unfinished"></translation>
+        <translation>ilyen kapcsolat kell hozzá: %1</translation>
     </message>
     <message>
         <source>there is no setting &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>nincs „%1” beállítás</translation>
     </message>
 </context>
 <context>
     <name>ProfileFileActions</name>
     <message>
         <source>&amp;Open Profiles…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Profilok megnyitása…</translation>
     </message>
     <message>
         <source>&amp;Reload</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Új&amp;ratöltés</translation>
     </message>
     <message>
         <source>&amp;Save Profiles As…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Profilok &amp;mentése másként…</translation>
     </message>
     <message>
         <source>Open Profiles</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Profilok megnyitása</translation>
     </message>
     <message>
         <source>Profiles (*.json);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Profilok (*.json);;Minden fájl (*)</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Újratöltés</translation>
     </message>
     <message>
         <source>Save Profiles As</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Profilok mentése másként</translation>
     </message>
     <message>
         <source>Read-Only File</source>
@@ -2730,143 +2944,143 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Save Profiles As…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Profilok mentése másként…</translation>
     </message>
 </context>
 <context>
     <name>ProfileHistory</name>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Visszavonás</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Új&amp;ra</translation>
     </message>
     <message>
         <source>This could not be done; nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ez nem sikerült; semmi sem módosult.</translation>
     </message>
 </context>
 <context>
     <name>Program</name>
     <message>
         <source>no profiles at %1; name a file with --profiles</source>
-        <translation type="unfinished"></translation>
+        <translation>itt nincsenek profilok: %1; adjon meg fájlt a --profiles kapcsolóval</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Név</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modell</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Típus</translation>
     </message>
     <message>
         <source>Code</source>
-        <translation type="unfinished"></translation>
+        <translation>Kód</translation>
     </message>
     <message>
         <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Kapcsolat</translation>
     </message>
     <message numerus="yes">
         <source>%n pictures of %1 kinds of projectors saved in %2</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 projektorfajta %n képe mentve ide: %2</numerusform>
         </translation>
     </message>
     <message>
         <source>--open: there is no projector &apos;%1&apos;; --list names all.</source>
-        <translation type="unfinished"></translation>
+        <translation>--open: nincs „%1” nevű projektor; az összeset a --list sorolja fel.</translation>
     </message>
     <message>
         <source>--tab: there is no tab %1; &apos;%2&apos; has tabs 0 to %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>--tab: nincs %1. lap; „%2” lapjai 0-tól %3-ig számozottak.</translation>
     </message>
     <message>
         <source>no display; use --list, --tour or --screenshot without one.</source>
-        <translation type="unfinished"></translation>
+        <translation>nincs képernyő; nélküle a --list, a --tour vagy a --screenshot használható.</translation>
     </message>
 </context>
 <context>
     <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Név</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Állapot</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tápellátás</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Forrás</translation>
     </message>
     <message>
         <source>Lamp</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Lámpa</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Probléma</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Modell</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Hely</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Beállítások</translation>
     </message>
     <message>
         <source>Last answer</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Utolsó válasz</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Cím</translation>
     </message>
     <message>
         <source>%1 · open</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 · nyitva</translation>
     </message>
 </context>
 <context>
     <name>ProjectorView</name>
     <message>
         <source>Find a name, model, place, address, tab or setting</source>
-        <translation type="unfinished"></translation>
+        <translation>Név, modell, hely, cím, lap vagy beállítás keresése</translation>
     </message>
     <message>
         <source>Find projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Projektorok keresése</translation>
     </message>
     <message>
         <source>Projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Projektorok</translation>
     </message>
     <message>
         <source>Nothing found</source>
-        <translation type="unfinished"></translation>
+        <translation>Nincs találat</translation>
     </message>
     <message numerus="yes">
         <source>%n found</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n találat</numerusform>
         </translation>
     </message>
 </context>
@@ -2875,273 +3089,95 @@ a minus in front takes a tag away:</source>
     <message>
         <source>Drive</source>
         <comment>All other platforms</comment>
-        <translation type="unfinished"></translation>
+        <translation>Meghajtó</translation>
     </message>
     <message>
         <source>Folder</source>
         <comment>All other platforms</comment>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>RestoreDialog</name>
-    <message>
-        <source>Projector</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Here</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Result</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>not read</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>already so</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>different</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>changed</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>refused</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>accepted, not yet so</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>refused: the projector is busy or in standby</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>not confirmed</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>skipped: this model does not have it</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>skipped: this projector does not offer it</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>skipped: it is not one to put back</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>skipped: this model does not take the value</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message numerus="yes">
-        <source>%n changed</source>
-        <extracomment>How many settings came to this, in a list such as &quot;12 changed, 3 refused&quot;.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n different</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n already so</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not yet so</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n refused</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not confirmed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not read</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n skipped</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Apply Settings</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Compare Settings</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Differences only</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Compare Again</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Apply</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Beforehand: other sources and modes</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message numerus="yes">
-        <source>%n settings</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-        </translation>
+        <translation>Mappa</translation>
     </message>
 </context>
 <context>
     <name>Search</name>
     <message>
         <source>&quot;%1&quot; is neither an IP address nor a range of them</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” sem nem IP-cím, sem nem címtartomány</translation>
     </message>
     <message>
         <source>more than %1 addresses</source>
-        <translation type="unfinished"></translation>
+        <translation>több mint %1 cím</translation>
     </message>
 </context>
 <context>
     <name>SearchDialog</name>
     <message>
         <source>&amp;Search</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Keresés</translation>
     </message>
     <message>
         <source>Find Projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Projektorok keresése</translation>
     </message>
     <message>
         <source>the networks of this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>a számítógép hálózatai</translation>
     </message>
     <message>
         <source>For example 192.0.2.0/24, or 192.0.2.10-40</source>
-        <translation type="unfinished"></translation>
+        <translation>Például 192.0.2.0/24 vagy 192.0.2.10-40</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Név</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modell</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished"></translation>
+        <translation>Cím</translation>
     </message>
     <message>
         <source>Remark</source>
-        <translation type="unfinished"></translation>
+        <translation>Megjegyzés</translation>
     </message>
     <message>
         <source>Projectors found</source>
-        <translation type="unfinished"></translation>
+        <translation>Megtalált projektorok</translation>
     </message>
     <message>
         <source>&amp;Addresses</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Címek</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jelszó</translation>
     </message>
     <message>
         <source>Add the &amp;Checked</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bejelöltek hozzáadása</translation>
     </message>
     <message>
         <source>known already</source>
-        <translation type="unfinished"></translation>
+        <translation>már szerepel</translation>
     </message>
     <message>
         <source>wants a password</source>
-        <translation type="unfinished"></translation>
+        <translation>jelszót kér</translation>
     </message>
     <message numerus="yes">
         <source>%n found</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n találat</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n found, %1 of %2 addresses asked…</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n találat, lekérdezett címek: %1 / %2…</numerusform>
         </translation>
     </message>
 </context>
@@ -3149,56 +3185,66 @@ a minus in front takes a tag away:</source>
     <name>SettingsActions</name>
     <message>
         <source>Save Se&amp;ttings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Beállítások menté&amp;se…</translation>
     </message>
     <message>
         <source>&amp;Compare with File…</source>
-        <translation type="unfinished"></translation>
+        <translation>Össze&amp;hasonlítás fájllal…</translation>
     </message>
     <message>
         <source>A&amp;pply Settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Beállítások &amp;alkalmazása…</translation>
     </message>
     <message>
-        <source>%1: no answer</source>
-        <translation type="unfinished"></translation>
+        <source>Save Settings</source>
+        <translation>Beállítások mentése</translation>
     </message>
     <message>
-        <source>%1: nothing can be read</source>
+        <source>Save Settings in Folder</source>
+        <translation>Beállítások mentése mappába</translation>
+    </message>
+    <message>
+        <source>Settings (*.json)</source>
+        <translation>Beállítások (*.json)</translation>
+    </message>
+    <message>
+        <source>Reading settings…</source>
+        <translation>Beállítások beolvasása…</translation>
+    </message>
+    <message>
+        <source>Open Settings</source>
+        <translation>Beállítások megnyitása</translation>
+    </message>
+    <message>
+        <source>Settings saved in %1.</source>
         <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
-        <source>%1: %n settings cannot be read and are left out</source>
+        <source>Settings of %n projectors saved in %1.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings could not be read.</source>
         <translation type="unfinished">
             <numerusform></numerusform>
         </translation>
     </message>
     <message>
-        <source>Save Settings</source>
-        <translation type="unfinished"></translation>
+        <source>Apply Settings</source>
+        <translation type="unfinished">Beállítások alkalmazása</translation>
     </message>
     <message>
-        <source>Save Settings in Folder</source>
-        <translation type="unfinished"></translation>
+        <source>Compare Settings</source>
+        <translation type="unfinished">Beállítások összehasonlítása</translation>
     </message>
     <message>
-        <source>Settings (*.json)</source>
-        <translation type="unfinished"></translation>
+        <source>File</source>
+        <translation type="unfinished">Fájl</translation>
     </message>
     <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Reading settings…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Open Settings</source>
+        <source>The values before are kept in %1.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -3206,461 +3252,461 @@ a minus in front takes a tag away:</source>
     <name>SettingsFile</name>
     <message>
         <source>cannot read %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>nem olvasható: %1: %2</translation>
     </message>
     <message>
         <source>standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>szabványos bemenet</translation>
     </message>
     <message>
         <source>%1 stands here twice</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kétszer szerepel itt</translation>
     </message>
     <message>
         <source>%1; no more was sent</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; több nem lett elküldve</translation>
     </message>
     <message>
         <source>%1; nothing was sent</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; semmi sem lett elküldve</translation>
     </message>
 </context>
 <context>
     <name>Simulator</name>
     <message>
         <source>--control: the port cannot be had</source>
-        <translation type="unfinished"></translation>
+        <translation>--control: a port nem használható</translation>
     </message>
     <message>
         <source>there is no projector &apos;%1&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>nincs „%1” nevű projektor</translation>
     </message>
 </context>
 <context>
     <name>SimulatorArguments</name>
     <message>
         <source>&apos;%1&apos; is no port.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” nem port.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no number from %2 to %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” nem %2 és %3 közötti szám.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no time up to an hour.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” nem legfeljebb egyórás idő.</translation>
     </message>
     <message>
         <source>Display this help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ez a súgó.</translation>
     </message>
     <message>
         <source>Serve the projectors of &lt;file&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>A &lt;fájl&gt; projektorainak kiszolgálása.</translation>
     </message>
     <message>
         <source>file</source>
-        <translation type="unfinished"></translation>
+        <translation>fájl</translation>
     </message>
     <message>
         <source>Serve only the projector &lt;name&gt;; may be given several times.</source>
-        <translation type="unfinished"></translation>
+        <translation>Csak a &lt;név&gt; nevű projektor kiszolgálása; többször is megadható.</translation>
     </message>
     <message>
         <source>name</source>
-        <translation type="unfinished"></translation>
+        <translation>név</translation>
     </message>
     <message>
         <source>Listen on &lt;address&gt; instead of 127.0.0.1; with --fleet, the address of the first projector instead of 127.64.0.1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Figyelés a &lt;cím&gt; címen 127.0.0.1 helyett; --fleet esetén az első projektor címe 127.64.0.1 helyett.</translation>
     </message>
     <message>
         <source>address</source>
-        <translation type="unfinished"></translation>
+        <translation>cím</translation>
     </message>
     <message>
         <source>The first projector is at port &lt;n&gt;, the others at those that follow; 0, as without it, takes any that are free. With --fleet, &lt;n&gt; is the port of every projector for our own protocol, and the next one for PJLink.</source>
-        <translation type="unfinished"></translation>
+        <translation>Az első projektor portja &lt;n&gt;, a többié az utána következők; 0 esetén, vagy ha nincs megadva, tetszőleges szabad portok. --fleet esetén &lt;n&gt; minden projektor portja a saját protokollhoz, a következő pedig a PJLinkhez.</translation>
     </message>
     <message>
         <source>n</source>
-        <translation type="unfinished"></translation>
+        <translation>n</translation>
     </message>
     <message>
         <source>PJLink asks for &lt;text&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>A PJLink ezt a jelszót kéri: &lt;szöveg&gt;.</translation>
     </message>
     <message>
         <source>text</source>
-        <translation type="unfinished"></translation>
+        <translation>szöveg</translation>
     </message>
     <message>
         <source>Serve each projector on a pseudo terminal too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Minden projektor kiszolgálása pszeudoterminálon is.</translation>
     </message>
     <message>
         <source>Begin with a fault: %1. Of a share of the projectors: &apos;silent 5%&apos;. May be given several times.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kezdés hibával: %1. A projektorok egy részénél: &apos;silent 5%&apos;. Többször is megadható.</translation>
     </message>
     <message>
         <source>fault</source>
-        <translation type="unfinished"></translation>
+        <translation>hiba</translation>
     </message>
     <message>
         <source>Everything that is left to chance depends on &lt;n&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Minden véletlenszerű dolog ettől függ: &lt;n&gt;.</translation>
     </message>
     <message>
         <source>Listen at port &lt;n&gt; of the loopback address for faults, a line each: projector&apos;s number from 1, or *, and the fault.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hibák fogadása a visszacsatolási cím &lt;n&gt; portján, soronként egy: a projektor sorszáma 1-től, vagy *, majd a hiba.</translation>
     </message>
     <message>
         <source>Write profiles that lead a host to the served projectors to &lt;file&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>A kiszolgált projektorok profiljainak írása a &lt;fájl&gt; fájlba a gazdaprogram számára.</translation>
     </message>
     <message>
         <source>Serve &lt;n&gt; projectors, made after those of the profiles, each at a loopback address of its own.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;n&gt; projektor kiszolgálása a profilok mintájára, mindegyik saját visszacsatolási címen.</translation>
     </message>
     <message>
         <source>Of a fleet: what --write-profiles uses; pjlink, network or mixed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Flottánál: mit használjon a --write-profiles; pjlink, network vagy mixed.</translation>
     </message>
     <message>
         <source>way</source>
-        <translation type="unfinished"></translation>
+        <translation>mód</translation>
     </message>
     <message>
         <source>Of a fleet: seconds until a projector is on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Flottánál: ennyi másodperc alatt kapcsol be egy projektor.</translation>
     </message>
     <message>
         <source>seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>másodperc</translation>
     </message>
     <message>
         <source>Of a fleet: seconds until a projector is in standby.</source>
-        <translation type="unfinished"></translation>
+        <translation>Flottánál: ennyi másodperc alatt kerül készenlétbe egy projektor.</translation>
     </message>
     <message>
         <source>Of a fleet: so many changes of state in a second happen by themselves.</source>
-        <translation type="unfinished"></translation>
+        <translation>Flottánál: ennyi állapotváltozás történik magától másodpercenként.</translation>
     </message>
     <message>
         <source>Of a fleet: send PJLink&apos;s status notices to this address.</source>
-        <translation type="unfinished"></translation>
+        <translation>Flottánál: a PJLink állapotértesítéseinek küldése erre a címre.</translation>
     </message>
     <message>
         <source>address:port</source>
-        <translation type="unfinished"></translation>
+        <translation>cím:port</translation>
     </message>
     <message>
         <source>Of a fleet: at the end, write how often each projector was asked to &lt;file&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Flottánál: a végén annak kiírása a &lt;fájl&gt; fájlba, hányszor lett lekérdezve az egyes projektorok.</translation>
     </message>
     <message>
         <source>Help and errors are in the language &lt;name&gt;, such as de or zh-TW.</source>
-        <translation type="unfinished"></translation>
+        <translation>A súgó és a hibaüzenetek nyelve &lt;név&gt;, például de vagy zh-TW.</translation>
     </message>
     <message>
         <source>Serves simulated projectors over TCP, PJLink and pseudo terminals. Prints an address a line, then &quot;ready&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Szimulált projektorokat szolgál ki TCP-n, PJLinken és pszeudoterminálokon. Soronként egy címet ír ki, majd ezt: „ready”.</translation>
     </message>
     <message>
         <source>Unexpected argument &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Váratlan argumentum: „%1”.</translation>
     </message>
     <message>
         <source>--%1 needs --fleet.</source>
-        <translation type="unfinished"></translation>
+        <translation>A --%1 kapcsolóhoz --fleet is szükséges.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no address.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” nem cím.</translation>
     </message>
     <message>
         <source>--password: is longer than %1 bytes.</source>
-        <translation type="unfinished"></translation>
+        <translation>--password: hosszabb, mint %1 bájt.</translation>
     </message>
     <message>
         <source>--fault: &apos;%1&apos; is none of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>--fault: „%1” nem szerepel ezek között: %2.</translation>
     </message>
     <message>
         <source>--fleet has no serial lines.</source>
-        <translation type="unfinished"></translation>
+        <translation>A --fleet nem használ soros vonalat.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no IPv4 loopback address.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” nem IPv4-es visszacsatolási cím.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; leaves too few addresses.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” után nem marad elég cím.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; leaves none for PJLink.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” után nem marad port a PJLinknek.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no IPv4 loopback address with a port.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” nem IPv4-es visszacsatolási cím porttal.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is none of pjlink, network and mixed.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” nem pjlink, network vagy mixed.</translation>
     </message>
 </context>
 <context>
     <name>Snapshot</name>
     <message>
         <source>a whole number is missing here</source>
-        <translation type="unfinished"></translation>
+        <translation>itt hiányzik egy egész szám</translation>
     </message>
     <message>
         <source>must be a whole number from %1 to %2, and is %3</source>
-        <translation type="unfinished"></translation>
+        <translation>csak %1 és %2 közötti egész szám lehet, de az értéke %3</translation>
     </message>
     <message>
         <source>must be a line of text</source>
-        <translation type="unfinished"></translation>
+        <translation>csak egysoros szöveg lehet</translation>
     </message>
     <message>
         <source>must be an object</source>
-        <translation type="unfinished"></translation>
+        <translation>csak objektum lehet</translation>
     </message>
     <message>
         <source>must be an array</source>
-        <translation type="unfinished"></translation>
+        <translation>csak tömb lehet</translation>
     </message>
     <message>
         <source>has more than %1 entries</source>
-        <translation type="unfinished"></translation>
+        <translation>több mint %1 eleme van</translation>
     </message>
     <message>
         <source>this is no file of saved settings</source>
-        <translation type="unfinished"></translation>
+        <translation>ez nem mentett beállítások fájlja</translation>
     </message>
     <message>
         <source>only version %1 is known</source>
-        <translation type="unfinished"></translation>
+        <translation>csak ez a verzió ismert: %1</translation>
     </message>
     <message>
         <source>&quot;%1&quot; stands here twice</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” kétszer szerepel itt</translation>
     </message>
     <message>
         <source>is larger than 4 MiB</source>
-        <translation type="unfinished"></translation>
+        <translation>nagyobb 4 MiB-nál</translation>
     </message>
     <message>
         <source>must hold an object</source>
-        <translation type="unfinished"></translation>
+        <translation>objektumot kell tartalmaznia</translation>
     </message>
     <message>
         <source>line %1: </source>
-        <translation type="unfinished"></translation>
+        <translation>%1. sor: </translation>
     </message>
 </context>
 <context>
     <name>StateTexts</name>
     <message>
         <source>Not watched</source>
-        <translation type="unfinished"></translation>
+        <translation>Nincs figyelve</translation>
     </message>
     <message>
         <source>Asking…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lekérdezés…</translation>
     </message>
     <message>
         <source>Unknown host</source>
-        <translation type="unfinished"></translation>
+        <translation>Ismeretlen gép</translation>
     </message>
     <message>
         <source>No answer</source>
-        <translation type="unfinished"></translation>
+        <translation>Nincs válasz</translation>
     </message>
     <message>
         <source>Wrong password</source>
-        <translation type="unfinished"></translation>
+        <translation>Hibás jelszó</translation>
     </message>
     <message>
         <source>Not understood</source>
-        <translation type="unfinished"></translation>
+        <translation>Nem értelmezhető</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Hiba</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Figyelmeztetés</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Standby</source>
-        <translation type="unfinished"></translation>
+        <translation>Készenlét</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>Be</translation>
     </message>
     <message>
         <source>Cooling down</source>
-        <translation type="unfinished"></translation>
+        <translation>Lehűlés</translation>
     </message>
     <message>
         <source>Warming up</source>
-        <translation type="unfinished"></translation>
+        <translation>Bemelegedés</translation>
     </message>
     <message>
         <source>Fan</source>
-        <translation type="unfinished"></translation>
+        <translation>Ventilátor</translation>
     </message>
     <message>
         <source>Lamp</source>
-        <translation type="unfinished"></translation>
+        <translation>Lámpa</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Hőmérséklet</translation>
     </message>
     <message>
         <source>Cover</source>
-        <translation type="unfinished"></translation>
+        <translation>Fedél</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Szűrő</translation>
     </message>
     <message>
         <source>Other</source>
-        <translation type="unfinished"></translation>
+        <translation>Egyéb</translation>
     </message>
     <message>
         <source>%1 (warning)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (figyelmeztetés)</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 óra</translation>
     </message>
     <message>
         <source>As it should be</source>
-        <translation type="unfinished"></translation>
+        <translation>Az elvárt szerint</translation>
     </message>
     <message numerus="yes">
         <source>%n differ</source>
         <comment>settings</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n eltér</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 s ago</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mp-e</translation>
     </message>
     <message>
         <source>%1 min ago</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 perce</translation>
     </message>
     <message>
         <source>%1 h ago</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 órája</translation>
     </message>
     <message>
         <source>unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>ismeretlen</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished"></translation>
+        <translation>ki</translation>
     </message>
     <message>
         <source>on</source>
-        <translation type="unfinished"></translation>
+        <translation>be</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Állapot</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished"></translation>
+        <translation>Tápellátás</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Forrás</translation>
     </message>
     <message>
         <source>Blank</source>
-        <translation type="unfinished"></translation>
+        <translation>Üres kép</translation>
     </message>
     <message>
         <source>Mute</source>
-        <translation type="unfinished"></translation>
+        <translation>Némítás</translation>
     </message>
     <message>
         <source>Freeze</source>
-        <translation type="unfinished"></translation>
+        <translation>Kimerevítés</translation>
     </message>
     <message>
         <source>Settings that differ</source>
-        <translation type="unfinished"></translation>
+        <translation>Eltérő beállítások</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
     <name>TransferActions</name>
     <message>
         <source>Find on the &amp;Network…</source>
-        <translation type="unfinished"></translation>
+        <translation>Keresés a háló&amp;zaton…</translation>
     </message>
     <message>
         <source>&amp;Import Table…</source>
-        <translation type="unfinished"></translation>
+        <translation>Táblázat &amp;importálása…</translation>
     </message>
     <message>
         <source>E&amp;xport Table…</source>
-        <translation type="unfinished"></translation>
+        <translation>Táblázat &amp;exportálása…</translation>
     </message>
     <message>
         <source>Find Projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Projektorok keresése</translation>
     </message>
     <message>
         <source>Add Found Projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Megtalált projektorok hozzáadása</translation>
     </message>
     <message>
         <source>Import Table</source>
-        <translation type="unfinished"></translation>
+        <translation>Táblázat importálása</translation>
     </message>
     <message>
         <source>Tables (*.csv *.tsv *.txt);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Táblázatok (*.csv *.tsv *.txt);;Minden fájl (*)</translation>
     </message>
     <message>
         <source>Line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. sor: %2</translation>
     </message>
     <message>
         <source>Columns that mean nothing here: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Itt nem értelmezett oszlopok: %1</translation>
     </message>
     <message>
         <source>Export Table</source>
-        <translation type="unfinished"></translation>
+        <translation>Táblázat exportálása</translation>
     </message>
     <message>
         <source>Tables (*.csv);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Táblázatok (*.csv);;Minden fájl (*)</translation>
     </message>
     <message numerus="yes">
         <source>%n projectors added</source>
@@ -3685,234 +3731,244 @@ a minus in front takes a tag away:</source>
     <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Bekapcsolás</translation>
     </message>
     <message>
         <source>Switch O&amp;ff</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Kikapcsolás</translation>
     </message>
     <message>
         <source>P&amp;ower</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Tápellátás</translation>
     </message>
     <message>
         <source>&amp;Input</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">B&amp;emenet</translation>
     </message>
     <message>
         <source>&amp;Blank</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Üres kép</translation>
     </message>
     <message>
         <source>Blank the Picture</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Üres kép bekapcsolása</translation>
     </message>
     <message numerus="yes">
         <source>Blank the picture of %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>Bekapcsolja az üres képet %n projektoron?</numerusform>
         </translation>
     </message>
     <message>
         <source>Show the Picture</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Kép megjelenítése</translation>
     </message>
     <message numerus="yes">
         <source>Show the picture of %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>Megjeleníti a képet %n projektoron?</numerusform>
         </translation>
     </message>
     <message>
         <source>&amp;Mute</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Némítás</translation>
     </message>
     <message>
         <source>Mute the Sound</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Hang némítása</translation>
     </message>
     <message numerus="yes">
         <source>Mute the sound of %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>Elnémítja %n projektor hangját?</numerusform>
         </translation>
     </message>
     <message>
         <source>Unmute the Sound</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Némítás megszüntetése</translation>
     </message>
     <message numerus="yes">
         <source>Unmute the sound of %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>Megszünteti %n projektor némítását?</numerusform>
         </translation>
     </message>
     <message>
         <source>Free&amp;ze</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Kime&amp;revítés</translation>
     </message>
     <message>
         <source>Freeze the Picture</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Kép kimerevítése</translation>
     </message>
     <message numerus="yes">
         <source>Freeze the picture of %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>Kimerevíti %n projektor képét?</numerusform>
         </translation>
     </message>
     <message>
         <source>Release the Picture</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Kimerevítés megszüntetése</translation>
     </message>
     <message numerus="yes">
         <source>Release the picture of %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>Megszünteti %n projektor képének kimerevítését?</numerusform>
         </translation>
     </message>
     <message>
         <source>Switch On</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Bekapcsolás</translation>
     </message>
     <message>
         <source>Switch Off</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Kikapcsolás</translation>
     </message>
     <message numerus="yes">
         <source>Switch on %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>Bekapcsol %n projektort?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Switch off %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>Kikapcsol %n projektort?</numerusform>
         </translation>
     </message>
     <message>
         <source>Input %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Bemenet: %1</translation>
     </message>
     <message numerus="yes">
         <source>Choose the input %1 on %n projectors?</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>Kiválasztja ezt a bemenetet %n projektoron: %1?</numerusform>
         </translation>
     </message>
     <message>
         <source>No inputs are known</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nincsenek ismert bemenetek</translation>
     </message>
 </context>
 <context>
     <name>WholeFile</name>
     <message>
         <source>cannot write %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>nem írható: %1: %2</translation>
     </message>
 </context>
 <context>
     <name>WorkActions</name>
     <message>
         <source>%1, %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2: %3</translation>
     </message>
 </context>
 <context>
     <name>WorkDialog</name>
     <message>
         <source>Projector</source>
-        <translation type="unfinished"></translation>
+        <translation>Projektor</translation>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Eredmény</translation>
     </message>
     <message>
         <source>Projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Projektorok</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Folyamat</translation>
     </message>
     <message>
         <source>&amp;Retry the Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sikertelenek újra</translation>
     </message>
     <message>
         <source>&amp;Undo All</source>
-        <translation type="unfinished"></translation>
+        <translation>Összes &amp;visszavonása</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Mégse</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Leállítás</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Bezárás</translation>
     </message>
 </context>
 <context>
     <name>WorkRun</name>
     <message>
         <source>the model does not have it</source>
-        <translation type="unfinished"></translation>
+        <translation>a modellben nincs meg</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %n done</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>kész: %1 / %n</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>, of these %n still under way</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>, ebből %n még folyamatban</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>, %n failed</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>, %n sikertelen</numerusform>
         </translation>
     </message>
     <message>
         <source>Undo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Visszavonás: %1</translation>
     </message>
     <message>
         <source>working…</source>
-        <translation type="unfinished"></translation>
+        <translation>folyamatban…</translation>
     </message>
     <message>
         <source>done</source>
-        <translation type="unfinished"></translation>
+        <translation>kész</translation>
     </message>
     <message>
         <source>accepted, still under way</source>
-        <translation type="unfinished"></translation>
+        <translation>elfogadva, még folyamatban</translation>
     </message>
     <message>
         <source>refused</source>
-        <translation type="unfinished"></translation>
+        <translation>elutasítva</translation>
     </message>
     <message>
         <source>no answer</source>
-        <translation type="unfinished"></translation>
+        <translation>nincs válasz</translation>
     </message>
     <message>
         <source>stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>leállítva</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>done, %n settings could not be read</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 </TS>

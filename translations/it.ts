@@ -1014,12 +1014,12 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Prints what differs from a file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder.</source>
-        <translation>Mostra ciò che differisce da un file (“-” è l’input standard), o dal file di ciascun proiettore in una cartella.</translation>
+        <source>the value before could not be read, and cannot be restored</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation>Legge i proiettori, invia ciò che differisce dal file (“-” è l’input standard), o dal file di ciascun proiettore in una cartella, e lo rilegge. Ciò che viene sostituito è prima conservato, perché “acctl undo” possa ripristinarlo. Un’esecuzione interrotta può essere ripetuta in qualsiasi momento.</translation>
+        <source>the value before could not be read</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1446,10 +1446,6 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <message>
         <source>Show the commands of</source>
         <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Projector, command or result</source>
-        <translation>Proiettore, comando o risultato</translation>
     </message>
 </context>
 <context>
@@ -2610,21 +2606,6 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <source>Should be</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>Name of the preset:</source>
-        <translation>Nome della preimpostazione:</translation>
-    </message>
-    <message numerus="yes">
-        <source>Put the preset %1 on %n projectors?</source>
-        <translation>
-            <numerusform>Applicare la preimpostazione %1 a %n proiettore?</numerusform>
-            <numerusform>Applicare la preimpostazione %1 a %n proiettori?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Compare</source>
-        <translation>Confronta</translation>
-    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -3311,29 +3292,6 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     <message>
         <source>The values before are kept in %1.</source>
         <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1: no answer</source>
-        <translation>%1: nessuna risposta</translation>
-    </message>
-    <message>
-        <source>%1: nothing can be read</source>
-        <translation>%1: non si può leggere nulla</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1: %n settings cannot be read and are left out</source>
-        <translation>
-            <numerusform>%1: %n impostazione non può essere letta e viene tralasciata</numerusform>
-            <numerusform>%1: %n impostazioni non possono essere lette e vengono tralasciate</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>In attesa del proiettore di una finestra di dialogo aperta…</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Ferma</translation>
     </message>
 </context>
 <context>
@@ -4073,193 +4031,6 @@ un segno meno davanti toglie un’etichetta:</numerusform>
         <translation type="unfinished">
             <numerusform></numerusform>
             <numerusform></numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>RestoreDialog</name>
-    <message>
-        <source>Projector</source>
-        <translation>Proiettore</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>Impostazione</translation>
-    </message>
-    <message>
-        <source>Here</source>
-        <translation>Qui</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>File</translation>
-    </message>
-    <message>
-        <source>Result</source>
-        <translation>Risultato</translation>
-    </message>
-    <message>
-        <source>not read</source>
-        <translation>non letta</translation>
-    </message>
-    <message>
-        <source>already so</source>
-        <translation>invariata</translation>
-    </message>
-    <message>
-        <source>different</source>
-        <translation>diversa</translation>
-    </message>
-    <message>
-        <source>changed</source>
-        <translation>cambiata</translation>
-    </message>
-    <message>
-        <source>refused</source>
-        <translation>rifiutata</translation>
-    </message>
-    <message>
-        <source>accepted, not yet so</source>
-        <translation>accettata, non ancora attiva</translation>
-    </message>
-    <message>
-        <source>refused: the projector is busy or in standby</source>
-        <translation>rifiutata: il proiettore è occupato o in standby</translation>
-    </message>
-    <message>
-        <source>not confirmed</source>
-        <translation>non confermata</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not have it</source>
-        <translation>ignorata: questo modello non la ha</translation>
-    </message>
-    <message>
-        <source>skipped: this projector does not offer it</source>
-        <translation>ignorata: questo proiettore non la offre</translation>
-    </message>
-    <message>
-        <source>skipped: it is not one to put back</source>
-        <translation>ignorata: non si ripristina</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not take the value</source>
-        <translation>ignorata: questo modello non accetta il valore</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n changed</source>
-        <extracomment>How many settings came to this, in a list such as &quot;12 changed, 3 refused&quot;.</extracomment>
-        <translation>
-            <numerusform>%n cambiata</numerusform>
-            <numerusform>%n cambiate</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n different</source>
-        <translation>
-            <numerusform>%n diversa</numerusform>
-            <numerusform>%n diverse</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n already so</source>
-        <translation>
-            <numerusform>%n invariata</numerusform>
-            <numerusform>%n invariate</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not yet so</source>
-        <translation>
-            <numerusform>%n non ancora attiva</numerusform>
-            <numerusform>%n non ancora attive</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n refused</source>
-        <translation>
-            <numerusform>%n rifiutata</numerusform>
-            <numerusform>%n rifiutate</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not confirmed</source>
-        <translation>
-            <numerusform>%n non confermata</numerusform>
-            <numerusform>%n non confermate</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not read</source>
-        <translation>
-            <numerusform>%n non letta</numerusform>
-            <numerusform>%n non lette</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n skipped</source>
-        <translation>
-            <numerusform>%n ignorata</numerusform>
-            <numerusform>%n ignorate</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Apply Settings</source>
-        <translation>Applica impostazioni</translation>
-    </message>
-    <message>
-        <source>Compare Settings</source>
-        <translation>Confronta impostazioni</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filtra</translation>
-    </message>
-    <message>
-        <source>&amp;Differences only</source>
-        <translation>Solo &amp;differenze</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Impostazioni</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Avanzamento</translation>
-    </message>
-    <message>
-        <source>&amp;Compare Again</source>
-        <translation>&amp;Confronta di nuovo</translation>
-    </message>
-    <message>
-        <source>&amp;Apply</source>
-        <translation>&amp;Applica</translation>
-    </message>
-    <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>In attesa del proiettore di una finestra di dialogo aperta…</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Ferma</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Chiudi</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>Beforehand: other sources and modes</source>
-        <translation>Prima: altre sorgenti e modalità</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n settings</source>
-        <translation>
-            <numerusform>%n impostazione</numerusform>
-            <numerusform>%n impostazioni</numerusform>
         </translation>
     </message>
 </context>

@@ -1014,12 +1014,12 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Prints what differs from a file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder.</source>
-        <translation>Toont wat afwijkt van een bestand (‘-’ is de standaardinvoer), of van het eigen bestand van elke projector in een map.</translation>
+        <source>the value before could not be read, and cannot be restored</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation>Leest de projectors, stuurt wat afwijkt van het bestand (‘-’ is de standaardinvoer), of van het eigen bestand van elke projector in een map, en leest het terug. Wat vervangen wordt, wordt eerst bewaard, zodat ‘acctl undo’ het kan herstellen. Een afgebroken uitvoering kan altijd herhaald worden.</translation>
+        <source>the value before could not be read</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1446,10 +1446,6 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <message>
         <source>Show the commands of</source>
         <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Projector, command or result</source>
-        <translation>Projector, opdracht of resultaat</translation>
     </message>
 </context>
 <context>
@@ -2610,21 +2606,6 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <source>Should be</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>Name of the preset:</source>
-        <translation>Naam van de voorinstelling:</translation>
-    </message>
-    <message numerus="yes">
-        <source>Put the preset %1 on %n projectors?</source>
-        <translation>
-            <numerusform>Voorinstelling %1 toepassen op %n projector?</numerusform>
-            <numerusform>Voorinstelling %1 toepassen op %n projectors?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Compare</source>
-        <translation>Vergelijken</translation>
-    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -3311,29 +3292,6 @@ een minteken ervoor neemt een label weg:</numerusform>
     <message>
         <source>The values before are kept in %1.</source>
         <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1: no answer</source>
-        <translation>%1: geen antwoord</translation>
-    </message>
-    <message>
-        <source>%1: nothing can be read</source>
-        <translation>%1: er kan niets gelezen worden</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1: %n settings cannot be read and are left out</source>
-        <translation>
-            <numerusform>%1: %n instelling kan niet gelezen worden en wordt weggelaten</numerusform>
-            <numerusform>%1: %n instellingen kunnen niet gelezen worden en worden weggelaten</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>Wacht op de projector van een open dialoogvenster…</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Stoppen</translation>
     </message>
 </context>
 <context>
@@ -4073,193 +4031,6 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation type="unfinished">
             <numerusform></numerusform>
             <numerusform></numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>RestoreDialog</name>
-    <message>
-        <source>Projector</source>
-        <translation>Projector</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>Instelling</translation>
-    </message>
-    <message>
-        <source>Here</source>
-        <translation>Hier</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>Bestand</translation>
-    </message>
-    <message>
-        <source>Result</source>
-        <translation>Resultaat</translation>
-    </message>
-    <message>
-        <source>not read</source>
-        <translation>niet gelezen</translation>
-    </message>
-    <message>
-        <source>already so</source>
-        <translation>ongewijzigd</translation>
-    </message>
-    <message>
-        <source>different</source>
-        <translation>afwijkend</translation>
-    </message>
-    <message>
-        <source>changed</source>
-        <translation>gewijzigd</translation>
-    </message>
-    <message>
-        <source>refused</source>
-        <translation>geweigerd</translation>
-    </message>
-    <message>
-        <source>accepted, not yet so</source>
-        <translation>aanvaard, nog niet van kracht</translation>
-    </message>
-    <message>
-        <source>refused: the projector is busy or in standby</source>
-        <translation>geweigerd: de projector is bezet of in stand-by</translation>
-    </message>
-    <message>
-        <source>not confirmed</source>
-        <translation>niet bevestigd</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not have it</source>
-        <translation>overgeslagen: dit model heeft het niet</translation>
-    </message>
-    <message>
-        <source>skipped: this projector does not offer it</source>
-        <translation>overgeslagen: deze projector biedt het niet</translation>
-    </message>
-    <message>
-        <source>skipped: it is not one to put back</source>
-        <translation>overgeslagen: wordt niet hersteld</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not take the value</source>
-        <translation>overgeslagen: dit model aanvaardt de waarde niet</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n changed</source>
-        <extracomment>How many settings came to this, in a list such as &quot;12 changed, 3 refused&quot;.</extracomment>
-        <translation>
-            <numerusform>%n gewijzigd</numerusform>
-            <numerusform>%n gewijzigd</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n different</source>
-        <translation>
-            <numerusform>%n afwijkend</numerusform>
-            <numerusform>%n afwijkend</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n already so</source>
-        <translation>
-            <numerusform>%n ongewijzigd</numerusform>
-            <numerusform>%n ongewijzigd</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not yet so</source>
-        <translation>
-            <numerusform>%n nog niet van kracht</numerusform>
-            <numerusform>%n nog niet van kracht</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n refused</source>
-        <translation>
-            <numerusform>%n geweigerd</numerusform>
-            <numerusform>%n geweigerd</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not confirmed</source>
-        <translation>
-            <numerusform>%n niet bevestigd</numerusform>
-            <numerusform>%n niet bevestigd</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not read</source>
-        <translation>
-            <numerusform>%n niet gelezen</numerusform>
-            <numerusform>%n niet gelezen</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n skipped</source>
-        <translation>
-            <numerusform>%n overgeslagen</numerusform>
-            <numerusform>%n overgeslagen</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Apply Settings</source>
-        <translation>Instellingen toepassen</translation>
-    </message>
-    <message>
-        <source>Compare Settings</source>
-        <translation>Instellingen vergelijken</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filteren</translation>
-    </message>
-    <message>
-        <source>&amp;Differences only</source>
-        <translation>Alleen &amp;verschillen</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Instellingen</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Voortgang</translation>
-    </message>
-    <message>
-        <source>&amp;Compare Again</source>
-        <translation>Opnieuw ver&amp;gelijken</translation>
-    </message>
-    <message>
-        <source>&amp;Apply</source>
-        <translation>&amp;Toepassen</translation>
-    </message>
-    <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>Wacht op de projector van een open dialoogvenster…</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Stoppen</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Sluiten</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>Beforehand: other sources and modes</source>
-        <translation>Vooraf: andere bronnen en modi</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n settings</source>
-        <translation>
-            <numerusform>%n instelling</numerusform>
-            <numerusform>%n instellingen</numerusform>
         </translation>
     </message>
 </context>

@@ -1014,12 +1014,12 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Prints what differs from a file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder.</source>
-        <translation>Mostra o que difere de um arquivo (“-” é a entrada padrão), ou do arquivo de cada projetor em uma pasta.</translation>
+        <source>the value before could not be read, and cannot be restored</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation>Lê os projetores, envia o que difere do arquivo (“-” é a entrada padrão), ou do arquivo de cada projetor em uma pasta, e relê. O que é substituído é guardado antes, para que “acctl undo” possa restaurá-lo. Uma execução interrompida pode ser repetida a qualquer momento.</translation>
+        <source>the value before could not be read</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1446,10 +1446,6 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <message>
         <source>Show the commands of</source>
         <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Projector, command or result</source>
-        <translation>Projetor, comando ou resultado</translation>
     </message>
 </context>
 <context>
@@ -2610,21 +2606,6 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <source>Should be</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>Name of the preset:</source>
-        <translation>Nome da predefinição:</translation>
-    </message>
-    <message numerus="yes">
-        <source>Put the preset %1 on %n projectors?</source>
-        <translation>
-            <numerusform>Aplicar a predefinição %1 a %n projetor?</numerusform>
-            <numerusform>Aplicar a predefinição %1 a %n projetores?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Compare</source>
-        <translation>Comparar</translation>
-    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -3311,29 +3292,6 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
     <message>
         <source>The values before are kept in %1.</source>
         <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1: no answer</source>
-        <translation>%1: sem resposta</translation>
-    </message>
-    <message>
-        <source>%1: nothing can be read</source>
-        <translation>%1: nada pode ser lido</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1: %n settings cannot be read and are left out</source>
-        <translation>
-            <numerusform>%1: %n ajuste não pode ser lido e é omitido</numerusform>
-            <numerusform>%1: %n ajustes não podem ser lidos e são omitidos</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>Aguardando o projetor de uma caixa de diálogo aberta…</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Parar</translation>
     </message>
 </context>
 <context>
@@ -4073,193 +4031,6 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
         <translation type="unfinished">
             <numerusform></numerusform>
             <numerusform></numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>RestoreDialog</name>
-    <message>
-        <source>Projector</source>
-        <translation>Projetor</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>Ajuste</translation>
-    </message>
-    <message>
-        <source>Here</source>
-        <translation>Aqui</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>Arquivo</translation>
-    </message>
-    <message>
-        <source>Result</source>
-        <translation>Resultado</translation>
-    </message>
-    <message>
-        <source>not read</source>
-        <translation>não lido</translation>
-    </message>
-    <message>
-        <source>already so</source>
-        <translation>inalterado</translation>
-    </message>
-    <message>
-        <source>different</source>
-        <translation>diferente</translation>
-    </message>
-    <message>
-        <source>changed</source>
-        <translation>alterado</translation>
-    </message>
-    <message>
-        <source>refused</source>
-        <translation>recusado</translation>
-    </message>
-    <message>
-        <source>accepted, not yet so</source>
-        <translation>aceito, ainda sem efeito</translation>
-    </message>
-    <message>
-        <source>refused: the projector is busy or in standby</source>
-        <translation>recusado: o projetor está ocupado ou em espera</translation>
-    </message>
-    <message>
-        <source>not confirmed</source>
-        <translation>não confirmado</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not have it</source>
-        <translation>ignorado: este modelo não o tem</translation>
-    </message>
-    <message>
-        <source>skipped: this projector does not offer it</source>
-        <translation>ignorado: este projetor não o oferece</translation>
-    </message>
-    <message>
-        <source>skipped: it is not one to put back</source>
-        <translation>ignorado: não é restaurado</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not take the value</source>
-        <translation>ignorado: este modelo não aceita o valor</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n changed</source>
-        <extracomment>How many settings came to this, in a list such as &quot;12 changed, 3 refused&quot;.</extracomment>
-        <translation>
-            <numerusform>%n alterado</numerusform>
-            <numerusform>%n alterados</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n different</source>
-        <translation>
-            <numerusform>%n diferente</numerusform>
-            <numerusform>%n diferentes</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n already so</source>
-        <translation>
-            <numerusform>%n inalterado</numerusform>
-            <numerusform>%n inalterados</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not yet so</source>
-        <translation>
-            <numerusform>%n ainda sem efeito</numerusform>
-            <numerusform>%n ainda sem efeito</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n refused</source>
-        <translation>
-            <numerusform>%n recusado</numerusform>
-            <numerusform>%n recusados</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not confirmed</source>
-        <translation>
-            <numerusform>%n não confirmado</numerusform>
-            <numerusform>%n não confirmados</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not read</source>
-        <translation>
-            <numerusform>%n não lido</numerusform>
-            <numerusform>%n não lidos</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n skipped</source>
-        <translation>
-            <numerusform>%n ignorado</numerusform>
-            <numerusform>%n ignorados</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Apply Settings</source>
-        <translation>Aplicar ajustes</translation>
-    </message>
-    <message>
-        <source>Compare Settings</source>
-        <translation>Comparar ajustes</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filtrar</translation>
-    </message>
-    <message>
-        <source>&amp;Differences only</source>
-        <translation>Somente &amp;diferenças</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Ajustes</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Progresso</translation>
-    </message>
-    <message>
-        <source>&amp;Compare Again</source>
-        <translation>&amp;Comparar novamente</translation>
-    </message>
-    <message>
-        <source>&amp;Apply</source>
-        <translation>&amp;Aplicar</translation>
-    </message>
-    <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>Aguardando o projetor de uma caixa de diálogo aberta…</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Parar</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Fechar</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>Beforehand: other sources and modes</source>
-        <translation>Antes: outras fontes e modos</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n settings</source>
-        <translation>
-            <numerusform>%n ajuste</numerusform>
-            <numerusform>%n ajustes</numerusform>
         </translation>
     </message>
 </context>

@@ -995,14 +995,6 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <translation>读取投影机，发送与文件（&apos;-&apos; 为标准输入）、与主程序的某个预设，或与文件夹中每台投影机自己的文件不同的部分，并读回结果。被替换的值会先保存，以便 &apos;acctl undo&apos; 恢复。中断的运行可随时重复。</translation>
     </message>
     <message>
-        <source>Prints what differs from a file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder.</source>
-        <translation>显示与文件（“-”表示标准输入）或与文件夹中每台投影机各自文件的差异。</translation>
-    </message>
-    <message>
-        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation>读取投影机，发送与文件（“-”表示标准输入）或与文件夹中每台投影机各自文件不同的设置，再读回。被替换的值会先保存下来，以便用“acctl undo”还原。中断的运行可随时重复。</translation>
-    </message>
-    <message>
         <source>the value before could not be read, and cannot be restored</source>
         <translation>无法读取更改前的值，因此不能恢复</translation>
     </message>
@@ -1433,10 +1425,6 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     <message>
         <source>Show the commands of</source>
         <translation>显示其命令</translation>
-    </message>
-    <message>
-        <source>Projector, command or result</source>
-        <translation>投影机、命令或结果</translation>
     </message>
 </context>
 <context>
@@ -2582,20 +2570,6 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <source>Should be</source>
         <translation>应为</translation>
     </message>
-    <message>
-        <source>Name of the preset:</source>
-        <translation>预设名称：</translation>
-    </message>
-    <message>
-        <source>Compare</source>
-        <translation>比较</translation>
-    </message>
-    <message numerus="yes">
-        <source>Put the preset %1 on %n projectors?</source>
-        <translation>
-            <numerusform>要将预设 %1 应用到 %n 台投影机吗？</numerusform>
-        </translation>
-    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -3272,28 +3246,6 @@ a minus in front takes a tag away:</source>
     <message>
         <source>The values before are kept in %1.</source>
         <translation>之前的值保存在 %1 中。</translation>
-    </message>
-    <message>
-        <source>%1: no answer</source>
-        <translation>%1：无应答</translation>
-    </message>
-    <message>
-        <source>%1: nothing can be read</source>
-        <translation>%1：无法读取任何设置</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>停止</translation>
-    </message>
-    <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>正在等待已打开对话框的投影机…</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1: %n settings cannot be read and are left out</source>
-        <translation>
-            <numerusform>%1：有 %n 项设置无法读取，未保存</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -4016,184 +3968,6 @@ a minus in front takes a tag away:</source>
         <source>done, %n settings could not be read</source>
         <translation>
             <numerusform>完成，%n 项设置无法读取</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>RestoreDialog</name>
-    <message>
-        <source>Progress</source>
-        <translation>进度</translation>
-    </message>
-    <message>
-        <source>Apply Settings</source>
-        <translation>应用设置</translation>
-    </message>
-    <message>
-        <source>Compare Settings</source>
-        <translation>比较设置</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>筛选</translation>
-    </message>
-    <message>
-        <source>&amp;Differences only</source>
-        <translation>仅显示差异(&amp;D)</translation>
-    </message>
-    <message>
-        <source>Projector</source>
-        <translation>投影机</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>设置</translation>
-    </message>
-    <message>
-        <source>Here</source>
-        <translation>当前值</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>文件中的值</translation>
-    </message>
-    <message>
-        <source>Result</source>
-        <translation>结果</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>设置</translation>
-    </message>
-    <message>
-        <source>&amp;Apply</source>
-        <translation>应用(&amp;A)</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>停止</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>关闭</translation>
-    </message>
-    <message>
-        <source>not read</source>
-        <translation>未读取</translation>
-    </message>
-    <message>
-        <source>already so</source>
-        <translation>已一致</translation>
-    </message>
-    <message>
-        <source>different</source>
-        <translation>不同</translation>
-    </message>
-    <message>
-        <source>changed</source>
-        <translation>已更改</translation>
-    </message>
-    <message>
-        <source>refused</source>
-        <translation>被拒绝</translation>
-    </message>
-    <message>
-        <source>accepted, not yet so</source>
-        <translation>已接受，尚未生效</translation>
-    </message>
-    <message>
-        <source>refused: the projector is busy or in standby</source>
-        <translation>被拒绝：投影机正忙或处于待机</translation>
-    </message>
-    <message>
-        <source>not confirmed</source>
-        <translation>未确认</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not have it</source>
-        <translation>已跳过：此型号没有该设置</translation>
-    </message>
-    <message>
-        <source>&amp;Compare Again</source>
-        <translation>重新比较(&amp;C)</translation>
-    </message>
-    <message>
-        <source>skipped: this projector does not offer it</source>
-        <translation>已跳过：此投影机不提供该设置</translation>
-    </message>
-    <message>
-        <source>skipped: it is not one to put back</source>
-        <translation>已跳过：该设置不可还原</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not take the value</source>
-        <translation>已跳过：此型号不接受该值</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1：%2</translation>
-    </message>
-    <message>
-        <source>Beforehand: other sources and modes</source>
-        <translation>预先恢复：其他输入源和模式</translation>
-    </message>
-    <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>正在等待已打开对话框的投影机…</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n changed</source>
-        <extracomment>How many settings came to this, in a list such as &quot;12 changed, 3 refused&quot;.</extracomment>
-        <translation>
-            <numerusform>已更改 %n 项</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n different</source>
-        <translation>
-            <numerusform>不同 %n 项</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n already so</source>
-        <translation>
-            <numerusform>已一致 %n 项</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not yet so</source>
-        <translation>
-            <numerusform>尚未生效 %n 项</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n refused</source>
-        <translation>
-            <numerusform>被拒绝 %n 项</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not confirmed</source>
-        <translation>
-            <numerusform>未确认 %n 项</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not read</source>
-        <translation>
-            <numerusform>未读取 %n 项</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n skipped</source>
-        <translation>
-            <numerusform>已跳过 %n 项</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n settings</source>
-        <translation>
-            <numerusform>%n 项设置</numerusform>
         </translation>
     </message>
 </context>

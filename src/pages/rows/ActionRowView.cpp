@@ -7,8 +7,8 @@
 
 namespace AdvancedControl {
 
-std::vector<RowView::Operated> ActionRowView::OperatedControls() const {
-  std::vector<Operated> operated{{Notification::Event::Clicked, row_.control}};
+std::vector<OperatedControl> ActionRowView::OperatedControls() const {
+  std::vector<OperatedControl> operated{{Notification::Event::Clicked, row_.control}};
   if (row_.list != 0) operated.push_back({Notification::Event::Passive, row_.list});
   return operated;
 }
@@ -30,7 +30,7 @@ void ActionRowView::Act(int) {
   if (position < 0) return;
   const CPjtInterface::Tally before = Projector().Sent();
   const bool done = Perform(Projector(), row_.call, position).accepted;
-  const bool isRefused = IsRefusedSince(before);
+  const bool isRefused = IsRefusedSince(*this, before);
   const QString entry = list_ != nullptr ? list_->currentText() : QString();
   if (ReadsAgain(row_.rereads, done)) Host().ReadAgain();
   if (done && !isRefused) {

@@ -13,7 +13,7 @@ class ActionRowView final : public RowView {
   ActionRowView(const PageTable& table, const PageRow& row, RowHost& host)
       : RowView(table, row, host), row_(std::get<ActionRow>(row)) {}
 
-  std::vector<Operated> OperatedControls() const override;
+  std::vector<OperatedControl> OperatedControls() const override;
   void Bind() override;
   void Prepare() override;
   void OnPageRead() override;

@@ -9,7 +9,7 @@
 
 namespace AdvancedControl {
 
-std::vector<RowView::Operated> CheckRowView::OperatedControls() const {
+std::vector<OperatedControl> CheckRowView::OperatedControls() const {
   return {{Notification::Event::Clicked, row_.control}};
 }
 
@@ -26,7 +26,8 @@ void CheckRowView::Act(int) {
   const int value = check_->isChecked() ? 1 : 0;
   const CPjtInterface::Tally before = Projector().Sent();
   if (SendRow(Projector(), Row(), Model(), value) == Sent::Accepted) {
-    return IsRefusedSince(before) ? TellRefusal(*this, TextAt(value)) : Confirm(*this, value);
+    return IsRefusedSince(*this, before) ? TellRefusal(*this, TextAt(value))
+                                         : Confirm(*this, value);
   }
   if (const auto present = ReadSetting(0)) {
     check_->setChecked(*present != 0);

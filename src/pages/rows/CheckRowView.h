@@ -13,7 +13,7 @@ class CheckRowView final : public RowView {
   CheckRowView(const PageTable& table, const PageRow& row, RowHost& host)
       : RowView(table, row, host), row_(std::get<CheckRow>(row)) {}
 
-  std::vector<Operated> OperatedControls() const override;
+  std::vector<OperatedControl> OperatedControls() const override;
   void Bind() override;
   void Read(Source source) override;
   void Act(int control) override;

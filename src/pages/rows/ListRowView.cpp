@@ -9,7 +9,7 @@
 
 namespace AdvancedControl {
 
-std::vector<RowView::Operated> ListRowView::OperatedControls() const {
+std::vector<OperatedControl> ListRowView::OperatedControls() const {
   return {{Notification::Event::SelChange, row_.control}};
 }
 
@@ -59,7 +59,7 @@ void ListRowView::Act(int) {
   const CPjtInterface::Tally before = Projector().Sent();
   const Sending how{.text = text.toStdString(), .source = source, .position = position};
   const Sent sent = SendRow(Projector(), Row(), Model(), *chosen, how);
-  const bool isRefused = IsRefusedSince(before);
+  const bool isRefused = IsRefusedSince(*this, before);
   if (sent == Sent::Nothing) {
     if (const auto value = ReadSetting(source)) list_->SelectValue(*value);
     return Dialog().Say(

@@ -13,7 +13,7 @@ class ListRowView final : public RowView {
   ListRowView(const PageTable& table, const PageRow& row, RowHost& host)
       : RowView(table, row, host), row_(std::get<ListRow>(row)) {}
 
-  std::vector<Operated> OperatedControls() const override;
+  std::vector<OperatedControl> OperatedControls() const override;
   void Bind() override;
   void Prepare() override;
   void UseTemplate() override;

@@ -14,7 +14,7 @@
 
 namespace AdvancedControl {
 
-std::vector<RowView::Operated> ResetRowView::OperatedControls() const {
+std::vector<OperatedControl> ResetRowView::OperatedControls() const {
   return {{Notification::Event::Clicked, row_.control}, {Notification::Event::Passive, row_.list}};
 }
 

@@ -13,7 +13,7 @@ class ResetRowView final : public RowView {
   ResetRowView(const PageTable& table, const PageRow& row, RowHost& host)
       : RowView(table, row, host), row_(std::get<ResetRow>(row)) {}
 
-  std::vector<Operated> OperatedControls() const override;
+  std::vector<OperatedControl> OperatedControls() const override;
   void Bind() override;
   /// Lists the resets of the present rows. Nothing is selected afterwards.
   void Prepare() override;

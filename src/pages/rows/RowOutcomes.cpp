@@ -47,6 +47,10 @@ void Confirm(RowView& row, std::optional<int> position) {
   if (isNews) row.Host().ShowNotes(row);
 }
 
+bool IsRefusedSince(const RowView& row, const CPjtInterface::Tally& before) {
+  return row.Host().Dialog().projector->Sent().refused > before.refused;
+}
+
 void TellRefusal(RowView& row, const QString& tried) {
   SettingsDialog& dialog = DialogOf(row);
   if (dialog.projector->IsAbandoned()) return;

@@ -5,6 +5,7 @@
 #include <QString>
 
 #include "Namespace.h"
+#include "device/CPjtInterface.h"
 
 namespace AdvancedControl {
 
@@ -18,6 +19,10 @@ QString NameOf(const RowView& row);
 
 /// Remembers the position that the projector has now: it was read, or a change was accepted.
 void Confirm(RowView& row, std::optional<int> position);
+
+/// Whether the projector has refused a command since `before`, even one whose operation returns
+/// nothing.
+bool IsRefusedSince(const RowView& row, const CPjtInterface::Tally& before);
 
 /// Tells the user that the projector did not accept `tried`, the text of a value or of a button, in
 /// the line beside Close and by a mark on the row, which stays until `Confirm`.

@@ -14,6 +14,12 @@
 
 namespace AdvancedControl {
 
+/// A control that the user operates, and how it reports that.
+struct OperatedControl {
+  Notification::Event event;
+  int control;
+};
+
 /// One row of a page: its widgets, remembered values and behaviour. Each kind of row has a class.
 /// User-interface thread only.
 ///
@@ -23,12 +29,6 @@ class RowView {
  public:
   /// The input source that a row is read for; 0 if it belongs to none, nothing if unknown.
   using Source = std::optional<int>;
-
-  /// A control that the user operates, and how it reports that.
-  struct Operated {
-    Notification::Event event;
-    int control;
-  };
 
   /// `row` is one of `table`. All three must outlive the view.
   RowView(const PageTable& table, const PageRow& row, RowHost& host)
@@ -41,7 +41,7 @@ class RowView {
   /// All controls by which the page finds the row.
   virtual std::vector<int> Controls() const;
   /// The controls that report to `Act`, and a list beside the row's button.
-  virtual std::vector<Operated> OperatedControls() const { return {}; }
+  virtual std::vector<OperatedControl> OperatedControls() const { return {}; }
 
   /// Finds the row's controls; called each time the page has made new ones.
   virtual void Bind() = 0;
@@ -80,11 +80,6 @@ class RowView {
   SettingsDialog& Dialog() const { return host_.Dialog(); }
   CPjtInterface& Projector() const { return *Dialog().projector; }
   const ModelData& Model() const { return Dialog().Model(); }
-  /// Whether the projector has refused a command since `before`, even one whose operation returns
-  /// nothing.
-  bool IsRefusedSince(const CPjtInterface::Tally& before) const {
-    return Projector().Sent().refused > before.refused;
-  }
   /// Reads the setting from the projector; nothing if the source is unknown or the read fails.
   std::optional<int> ReadSetting(Source source) const;
 

@@ -23,9 +23,10 @@ std::vector<int> ValueRowView::Controls() const {
   return controls;
 }
 
-std::vector<RowView::Operated> ValueRowView::OperatedControls() const {
+std::vector<OperatedControl> ValueRowView::OperatedControls() const {
   using Event = Notification::Event;
-  std::vector<Operated> operated{{Event::Clicked, row_.ids.minus}, {Event::Clicked, row_.ids.plus}};
+  std::vector<OperatedControl> operated{{Event::Clicked, row_.ids.minus},
+                                        {Event::Clicked, row_.ids.plus}};
   if (row_.ids.slider != 0) operated.push_back({Event::HScroll, row_.ids.slider});
   if (row_.reset.button != 0) operated.push_back({Event::Clicked, row_.reset.button});
   return operated;
@@ -122,7 +123,7 @@ bool ValueRowView::Release() {
     remembered_ = Word(position);
     controls_.ShowNumber(position);
     controls_.MoveSlider(position);
-    IsRefusedSince(before) ? TellRefusal(*this, TextAt(position)) : Confirm(*this, position);
+    IsRefusedSince(*this, before) ? TellRefusal(*this, TextAt(position)) : Confirm(*this, position);
     return true;
   }
   Refuse(row_.refusedDrag == RefusedDrag::Stays ? position : remembered_, TextAt(position),

@@ -16,7 +16,7 @@ class ValueRowView final : public RowView {
       : RowView(table, row, host), row_(std::get<ValueRow>(row)) {}
 
   std::vector<int> Controls() const override;
-  std::vector<Operated> OperatedControls() const override;
+  std::vector<OperatedControl> OperatedControls() const override;
   void Bind() override;
   void Prepare() override;
   void Read(Source source) override;

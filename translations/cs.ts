@@ -1607,7 +1607,7 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     </message>
     <message>
         <source>Pass&amp;word</source>
-        <translation>He&amp;slo</translation>
+        <translation>&amp;Heslo</translation>
     </message>
     <message>
         <source>Port n&amp;umber</source>

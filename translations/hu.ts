@@ -1559,7 +1559,7 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     </message>
     <message>
         <source>Pass&amp;word</source>
-        <translation>&amp;Jelszó</translation>
+        <translation>Je&amp;lszó</translation>
     </message>
     <message>
         <source>Port n&amp;umber</source>

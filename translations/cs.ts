@@ -1026,19 +1026,19 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     </message>
     <message>
         <source>Prints what differs from a file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vypíše rozdíly oproti souboru („-“ je standardní vstup), oproti předvolbě hostitelské aplikace nebo oproti vlastnímu souboru každého projektoru ve složce.</translation>
     </message>
     <message>
         <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Načte projektory, odešle vše, co se liší od souboru („-“ je standardní vstup), od předvolby hostitelské aplikace nebo od vlastního souboru každého projektoru ve složce, a načte to zpět. Nahrazené hodnoty se nejdříve uschovají, aby je „acctl undo“ mohlo obnovit. Přerušený běh lze kdykoli zopakovat.</translation>
     </message>
     <message>
         <source>the value before could not be read, and cannot be restored</source>
-        <translation type="unfinished"></translation>
+        <translation>předchozí hodnotu se nepodařilo načíst, nelze ji obnovit</translation>
     </message>
     <message>
         <source>the value before could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>předchozí hodnotu se nepodařilo načíst</translation>
     </message>
 </context>
 <context>
@@ -1458,15 +1458,15 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     </message>
     <message>
         <source>Projector, setting, command or result</source>
-        <translation type="unfinished"></translation>
+        <translation>Projektor, nastavení, příkaz nebo výsledek</translation>
     </message>
     <message>
         <source>All projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechny projektory</translation>
     </message>
     <message>
         <source>Show the commands of</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazit příkazy projektoru</translation>
     </message>
 </context>
 <context>
@@ -1525,65 +1525,65 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">Nastavení</translation>
+        <translation>Nastavení</translation>
     </message>
 </context>
 <context>
     <name>ComparisonDialog</name>
     <message>
         <source>Progress</source>
-        <translation type="unfinished">Průběh</translation>
+        <translation>Průběh</translation>
     </message>
     <message>
         <source>&amp;Ask Again</source>
-        <translation type="unfinished"></translation>
+        <translation>Načíst &amp;znovu</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
-        <translation type="unfinished">Po&amp;užít</translation>
+        <translation>Po&amp;užít</translation>
     </message>
     <message>
         <source>Reading settings…</source>
-        <translation type="unfinished">Načítání nastavení…</translation>
+        <translation>Načítání nastavení…</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished">Zastavit</translation>
+        <translation>Zastavit</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Zrušit</translation>
+        <translation>Zrušit</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Zavřít</translation>
+        <translation>Zavřít</translation>
     </message>
     <message>
         <source>Nothing differs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nic se neliší.</translation>
     </message>
     <message numerus="yes">
         <source>%n projectors differ.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n projektor se liší.</numerusform>
+            <numerusform>%n projektory se liší.</numerusform>
+            <numerusform>%n projektorů se liší.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n projectors have all these settings already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n projektor už má všechna tato nastavení.</numerusform>
+            <numerusform>%n projektory už mají všechna tato nastavení.</numerusform>
+            <numerusform>%n projektorů už má všechna tato nastavení.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n projectors could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n projektor se nepodařilo načíst.</numerusform>
+            <numerusform>%n projektory se nepodařilo načíst.</numerusform>
+            <numerusform>%n projektorů se nepodařilo načíst.</numerusform>
         </translation>
     </message>
 </context>
@@ -1591,55 +1591,55 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     <name>ConnectionFields</name>
     <message>
         <source>&amp;Reached through</source>
-        <translation type="unfinished">&amp;Spojení přes</translation>
+        <translation>&amp;Spojení přes</translation>
     </message>
     <message>
         <source>Connect&amp;ion</source>
-        <translation type="unfinished">Př&amp;ipojení</translation>
+        <translation>Př&amp;ipojení</translation>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation type="unfinished">&amp;Adresa</translation>
+        <translation>&amp;Adresa</translation>
     </message>
     <message>
         <source>&amp;Port</source>
-        <translation type="unfinished">&amp;Port</translation>
+        <translation>&amp;Port</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Heslo</translation>
     </message>
     <message>
         <source>Port n&amp;umber</source>
-        <translation type="unfinished">Čís&amp;lo portu</translation>
+        <translation>Čís&amp;lo portu</translation>
     </message>
     <message>
         <source>&amp;Device</source>
-        <translation type="unfinished">&amp;Zařízení</translation>
+        <translation>&amp;Zařízení</translation>
     </message>
     <message>
         <source>&amp;Baud</source>
-        <translation type="unfinished">Přenosová r&amp;ychlost</translation>
+        <translation>Přenosová r&amp;ychlost</translation>
     </message>
     <message>
         <source>As its family</source>
-        <translation type="unfinished">Podle rodiny</translation>
+        <translation>Podle rodiny</translation>
     </message>
     <message>
         <source>Simulated</source>
-        <translation type="unfinished">Simulované</translation>
+        <translation>Simulované</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished">Síť</translation>
+        <translation>Síť</translation>
     </message>
     <message>
         <source>Serial port</source>
-        <translation type="unfinished">Sériový port</translation>
+        <translation>Sériový port</translation>
     </message>
     <message>
         <source>%1 is no address.</source>
-        <translation type="unfinished">%1 není adresa.</translation>
+        <translation>%1 není adresa.</translation>
     </message>
 </context>
 <context>
@@ -1807,23 +1807,23 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     <name>DifferenceTree</name>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">Nastavení</translation>
+        <translation>Nastavení</translation>
     </message>
     <message>
         <source>Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Nyní</translation>
     </message>
     <message>
         <source>Differences</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozdíly</translation>
     </message>
     <message>
         <source>First the other sources and modes</source>
-        <translation type="unfinished"></translation>
+        <translation>Předem: jiné zdroje a režimy</translation>
     </message>
     <message numerus="yes">
         <source>%n settings</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n nastavení</numerusform>
             <numerusform>%n nastavení</numerusform>
             <numerusform>%n nastavení</numerusform>
@@ -1831,23 +1831,23 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     </message>
     <message numerus="yes">
         <source>%n settings do not apply to this model</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n nastavení se tohoto modelu netýká</numerusform>
+            <numerusform>%n nastavení se tohoto modelu netýkají</numerusform>
+            <numerusform>%n nastavení se tohoto modelu netýká</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n settings cannot be read now</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n nastavení teď nelze načíst</numerusform>
+            <numerusform>%n nastavení teď nelze načíst</numerusform>
+            <numerusform>%n nastavení teď nelze načíst</numerusform>
         </translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -2035,7 +2035,7 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     <message>
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2, %3 ms</translation>
     </message>
 </context>
 <context>
@@ -2092,10 +2092,10 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     <message numerus="yes">
         <source>%n not watched</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n nesledovaný</numerusform>
+            <numerusform>%n nesledované</numerusform>
+            <numerusform>%n nesledovaných</numerusform>
         </translation>
     </message>
 </context>
@@ -2179,7 +2179,7 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     </message>
     <message>
         <source>the projector reports none of its settings now</source>
-        <translation type="unfinished"></translation>
+        <translation>projektor teď nehlásí žádné ze svých nastavení</translation>
     </message>
 </context>
 <context>
@@ -2394,27 +2394,27 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     <name>ModelFields</name>
     <message>
         <source>&amp;Family</source>
-        <translation type="unfinished">&amp;Rodina</translation>
+        <translation>&amp;Rodina</translation>
     </message>
     <message>
         <source>&amp;Model</source>
-        <translation type="unfinished">&amp;Model</translation>
+        <translation>&amp;Model</translation>
     </message>
     <message>
         <source>All &amp;fields of the model</source>
-        <translation type="unfinished">&amp;Všechna pole modelu</translation>
+        <translation>&amp;Všechna pole modelu</translation>
     </message>
     <message>
         <source>Dialog &amp;type</source>
-        <translation type="unfinished">&amp;Typ dialogu</translation>
+        <translation>&amp;Typ dialogu</translation>
     </message>
     <message>
         <source>Model cod&amp;e</source>
-        <translation type="unfinished">Kód mod&amp;elu</translation>
+        <translation>Kód mod&amp;elu</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished">Žádná</translation>
+        <translation>Žádná</translation>
     </message>
 </context>
 <context>
@@ -2537,23 +2537,23 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     </message>
     <message>
         <source>As the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Podle pracovního prostředí</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Světlé</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Tmavé</translation>
     </message>
     <message>
         <source>&amp;Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Barvy</translation>
     </message>
     <message>
         <source>(the same time twice: none)</source>
-        <translation type="unfinished"></translation>
+        <translation>(stejné časy: bez doby klidu)</translation>
     </message>
 </context>
 <context>
@@ -2628,86 +2628,86 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     </message>
     <message>
         <source>Reading the settings of %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Načítání nastavení projektoru %1…</translation>
     </message>
     <message>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Předvolba</translation>
     </message>
     <message>
         <source>What It Should Be</source>
-        <translation type="unfinished"></translation>
+        <translation>Požadovaný stav</translation>
     </message>
     <message>
         <source>Should be</source>
-        <translation type="unfinished"></translation>
+        <translation>Má být</translation>
     </message>
 </context>
 <context>
     <name>PresetDialog</name>
     <message>
         <source>Save as Preset</source>
-        <translation type="unfinished">Uložit jako předvolbu</translation>
+        <translation>Uložit jako předvolbu</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">Nastavení</translation>
+        <translation>Nastavení</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">Hodnota</translation>
+        <translation>Hodnota</translation>
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Nastavení předvolby</translation>
     </message>
     <message>
         <source>&amp;Name of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Název předvolby</translation>
     </message>
     <message>
         <source>&amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vše</translation>
     </message>
     <message>
         <source>Check all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Zaškrtnout všechna nastavení</translation>
     </message>
     <message>
         <source>This &amp;Page</source>
-        <translation type="unfinished"></translation>
+        <translation>Tato &amp;stránka</translation>
     </message>
     <message>
         <source>Check the settings of the selected page, and no others</source>
-        <translation type="unfinished"></translation>
+        <translation>Zaškrtnout pouze nastavení vybrané stránky</translation>
     </message>
     <message>
         <source>N&amp;one</source>
-        <translation type="unfinished"></translation>
+        <translation>Žá&amp;dné</translation>
     </message>
     <message>
         <source>Uncheck all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrušit zaškrtnutí všech nastavení</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Uložit</translation>
     </message>
     <message>
         <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
-        <translation type="unfinished"></translation>
+        <translation>Takto předvolbu pojmenovat nelze: vynechte lomítka a tečku na začátku.</translation>
     </message>
     <message numerus="yes">
         <source>%n settings are checked.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Zaškrtnuto je %n nastavení.</numerusform>
+            <numerusform>Zaškrtnuta jsou %n nastavení.</numerusform>
+            <numerusform>Zaškrtnuto je %n nastavení.</numerusform>
         </translation>
     </message>
     <message>
         <source>The preset %1 will be replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Předvolba %1 bude nahrazena.</translation>
     </message>
 </context>
 <context>
@@ -2988,58 +2988,58 @@ a minus in front takes a tag away:</source>
     <name>ProfileFileActions</name>
     <message>
         <source>&amp;Open Profiles…</source>
-        <translation type="unfinished">&amp;Otevřít profily…</translation>
+        <translation>&amp;Otevřít profily…</translation>
     </message>
     <message>
         <source>&amp;Reload</source>
-        <translation type="unfinished">&amp;Načíst znovu</translation>
+        <translation>&amp;Načíst znovu</translation>
     </message>
     <message>
         <source>&amp;Save Profiles As…</source>
-        <translation type="unfinished">&amp;Uložit profily jako…</translation>
+        <translation>&amp;Uložit profily jako…</translation>
     </message>
     <message>
         <source>Open Profiles</source>
-        <translation type="unfinished">Otevřít profily</translation>
+        <translation>Otevřít profily</translation>
     </message>
     <message>
         <source>Profiles (*.json);;All files (*)</source>
-        <translation type="unfinished">Profily (*.json);;Všechny soubory (*)</translation>
+        <translation>Profily (*.json);;Všechny soubory (*)</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished">Načíst znovu</translation>
+        <translation>Načíst znovu</translation>
     </message>
     <message>
         <source>Save Profiles As</source>
-        <translation type="unfinished">Uložit profily jako</translation>
+        <translation>Uložit profily jako</translation>
     </message>
     <message>
         <source>Read-Only File</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor jen pro čtení</translation>
     </message>
     <message>
         <source>%1 cannot be changed. Save the profiles in another file first.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nelze změnit. Nejdříve uložte profily do jiného souboru.</translation>
     </message>
     <message>
         <source>Save Profiles As…</source>
-        <translation type="unfinished">Uložit profily jako…</translation>
+        <translation>Uložit profily jako…</translation>
     </message>
 </context>
 <context>
     <name>ProfileHistory</name>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished">&amp;Zpět</translation>
+        <translation>&amp;Zpět</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished">Zn&amp;ovu</translation>
+        <translation>Zn&amp;ovu</translation>
     </message>
     <message>
         <source>This could not be done; nothing was changed.</source>
-        <translation type="unfinished">Toto nebylo možné provést; nic se nezměnilo.</translation>
+        <translation>Toto nebylo možné provést; nic se nezměnilo.</translation>
     </message>
 </context>
 <context>
@@ -3093,51 +3093,51 @@ a minus in front takes a tag away:</source>
     <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished">Název</translation>
+        <translation>Název</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished">Stav</translation>
+        <translation>Stav</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished">Napájení</translation>
+        <translation>Napájení</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished">Zdroj</translation>
+        <translation>Zdroj</translation>
     </message>
     <message>
         <source>Lamp</source>
-        <translation type="unfinished">Lampa</translation>
+        <translation>Lampa</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation type="unfinished">Problém</translation>
+        <translation>Problém</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished">Model</translation>
+        <translation>Model</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished">Umístění</translation>
+        <translation>Umístění</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished">Nastavení</translation>
+        <translation>Nastavení</translation>
     </message>
     <message>
         <source>Last answer</source>
-        <translation type="unfinished">Poslední odpověď</translation>
+        <translation>Poslední odpověď</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished">Adresa</translation>
+        <translation>Adresa</translation>
     </message>
     <message>
         <source>%1 · open</source>
-        <translation type="unfinished">%1 · otevřený</translation>
+        <translation>%1 · otevřený</translation>
     </message>
 </context>
 <context>
@@ -3305,39 +3305,39 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Settings saved in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nastavení uloženo do %1.</translation>
     </message>
     <message numerus="yes">
         <source>Settings of %n projectors saved in %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Nastavení %n projektoru uloženo do %1.</numerusform>
+            <numerusform>Nastavení %n projektorů uloženo do %1.</numerusform>
+            <numerusform>Nastavení %n projektorů uloženo do %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n settings could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n nastavení se nepodařilo načíst.</numerusform>
+            <numerusform>%n nastavení se nepodařilo načíst.</numerusform>
+            <numerusform>%n nastavení se nepodařilo načíst.</numerusform>
         </translation>
     </message>
     <message>
         <source>Apply Settings</source>
-        <translation type="unfinished">Použít nastavení</translation>
+        <translation>Použít nastavení</translation>
     </message>
     <message>
         <source>Compare Settings</source>
-        <translation type="unfinished">Porovnat nastavení</translation>
+        <translation>Porovnat nastavení</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished">Soubor</translation>
+        <translation>Soubor</translation>
     </message>
     <message>
         <source>The values before are kept in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Předchozí hodnoty jsou uschovány v %1.</translation>
     </message>
 </context>
 <context>
@@ -3804,26 +3804,26 @@ a minus in front takes a tag away:</source>
     </message>
     <message numerus="yes">
         <source>%n projectors added</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n projektor přidán</numerusform>
+            <numerusform>%n projektory přidány</numerusform>
+            <numerusform>%n projektorů přidáno</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n already known</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n už známý</numerusform>
+            <numerusform>%n už známé</numerusform>
+            <numerusform>%n už známých</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n rows not taken</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n nepřevzatý řádek</numerusform>
+            <numerusform>%n nepřevzaté řádky</numerusform>
+            <numerusform>%n nepřevzatých řádků</numerusform>
         </translation>
     </message>
 </context>
@@ -3831,31 +3831,31 @@ a minus in front takes a tag away:</source>
     <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
-        <translation type="unfinished">&amp;Zapnout</translation>
+        <translation>&amp;Zapnout</translation>
     </message>
     <message>
         <source>Switch O&amp;ff</source>
-        <translation type="unfinished">V&amp;ypnout</translation>
+        <translation>V&amp;ypnout</translation>
     </message>
     <message>
         <source>P&amp;ower</source>
-        <translation type="unfinished">&amp;Napájení</translation>
+        <translation>&amp;Napájení</translation>
     </message>
     <message>
         <source>&amp;Input</source>
-        <translation type="unfinished">&amp;Vstup</translation>
+        <translation>&amp;Vstup</translation>
     </message>
     <message>
         <source>&amp;Blank</source>
-        <translation type="unfinished">Prázdný o&amp;braz</translation>
+        <translation>Prázdný o&amp;braz</translation>
     </message>
     <message>
         <source>Blank the Picture</source>
-        <translation type="unfinished">Zobrazit prázdný obraz</translation>
+        <translation>Zobrazit prázdný obraz</translation>
     </message>
     <message numerus="yes">
         <source>Blank the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Zobrazit prázdný obraz na %n projektoru?</numerusform>
             <numerusform>Zobrazit prázdný obraz na %n projektorech?</numerusform>
             <numerusform>Zobrazit prázdný obraz na %n projektorech?</numerusform>
@@ -3863,11 +3863,11 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Show the Picture</source>
-        <translation type="unfinished">Zobrazit obraz</translation>
+        <translation>Zobrazit obraz</translation>
     </message>
     <message numerus="yes">
         <source>Show the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Zobrazit obraz na %n projektoru?</numerusform>
             <numerusform>Zobrazit obraz na %n projektorech?</numerusform>
             <numerusform>Zobrazit obraz na %n projektorech?</numerusform>
@@ -3875,15 +3875,15 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>&amp;Mute</source>
-        <translation type="unfinished">Zt&amp;lumení</translation>
+        <translation>Zt&amp;lumení</translation>
     </message>
     <message>
         <source>Mute the Sound</source>
-        <translation type="unfinished">Ztlumit zvuk</translation>
+        <translation>Ztlumit zvuk</translation>
     </message>
     <message numerus="yes">
         <source>Mute the sound of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Ztlumit zvuk %n projektoru?</numerusform>
             <numerusform>Ztlumit zvuk %n projektorů?</numerusform>
             <numerusform>Ztlumit zvuk %n projektorů?</numerusform>
@@ -3891,11 +3891,11 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Unmute the Sound</source>
-        <translation type="unfinished">Zrušit ztlumení zvuku</translation>
+        <translation>Zrušit ztlumení zvuku</translation>
     </message>
     <message numerus="yes">
         <source>Unmute the sound of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Zrušit ztlumení zvuku %n projektoru?</numerusform>
             <numerusform>Zrušit ztlumení zvuku %n projektorů?</numerusform>
             <numerusform>Zrušit ztlumení zvuku %n projektorů?</numerusform>
@@ -3903,15 +3903,15 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Free&amp;ze</source>
-        <translation type="unfinished">Zm&amp;razení obrazu</translation>
+        <translation>Zm&amp;razení obrazu</translation>
     </message>
     <message>
         <source>Freeze the Picture</source>
-        <translation type="unfinished">Zmrazit obraz</translation>
+        <translation>Zmrazit obraz</translation>
     </message>
     <message numerus="yes">
         <source>Freeze the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Zmrazit obraz %n projektoru?</numerusform>
             <numerusform>Zmrazit obraz %n projektorů?</numerusform>
             <numerusform>Zmrazit obraz %n projektorů?</numerusform>
@@ -3919,11 +3919,11 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Release the Picture</source>
-        <translation type="unfinished">Zrušit zmrazení obrazu</translation>
+        <translation>Zrušit zmrazení obrazu</translation>
     </message>
     <message numerus="yes">
         <source>Release the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Zrušit zmrazení obrazu %n projektoru?</numerusform>
             <numerusform>Zrušit zmrazení obrazu %n projektorů?</numerusform>
             <numerusform>Zrušit zmrazení obrazu %n projektorů?</numerusform>
@@ -3931,15 +3931,15 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Switch On</source>
-        <translation type="unfinished">Zapnout</translation>
+        <translation>Zapnout</translation>
     </message>
     <message>
         <source>Switch Off</source>
-        <translation type="unfinished">Vypnout</translation>
+        <translation>Vypnout</translation>
     </message>
     <message numerus="yes">
         <source>Switch on %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Zapnout %n projektor?</numerusform>
             <numerusform>Zapnout %n projektory?</numerusform>
             <numerusform>Zapnout %n projektorů?</numerusform>
@@ -3947,7 +3947,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message numerus="yes">
         <source>Switch off %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Vypnout %n projektor?</numerusform>
             <numerusform>Vypnout %n projektory?</numerusform>
             <numerusform>Vypnout %n projektorů?</numerusform>
@@ -3955,11 +3955,11 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Input %1</source>
-        <translation type="unfinished">Vstup %1</translation>
+        <translation>Vstup %1</translation>
     </message>
     <message numerus="yes">
         <source>Choose the input %1 on %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Vybrat vstup %1 na %n projektoru?</numerusform>
             <numerusform>Vybrat vstup %1 na %n projektorech?</numerusform>
             <numerusform>Vybrat vstup %1 na %n projektorech?</numerusform>
@@ -3967,7 +3967,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>No inputs are known</source>
-        <translation type="unfinished">Nejsou známy žádné vstupy</translation>
+        <translation>Nejsou známy žádné vstupy</translation>
     </message>
 </context>
 <context>
@@ -4086,14 +4086,14 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message numerus="yes">
         <source>done, %n settings could not be read</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>hotovo, %n nastavení se nepodařilo načíst</numerusform>
+            <numerusform>hotovo, %n nastavení se nepodařilo načíst</numerusform>
+            <numerusform>hotovo, %n nastavení se nepodařilo načíst</numerusform>
         </translation>
     </message>
 </context>

@@ -988,19 +988,19 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     </message>
     <message>
         <source>Prints what differs from a file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kiírja az eltéréseket egy fájlhoz („-” a szabványos bemenet), a gazdaalkalmazás egy előbeállításához, vagy egy mappában az egyes projektorok saját fájljához képest.</translation>
     </message>
     <message>
         <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beolvassa a projektorokat, elküldi azt, ami eltér a fájltól („-” a szabványos bemenet), a gazdaalkalmazás egy előbeállításától, vagy egy mappában az egyes projektorok saját fájljától, majd visszaolvassa. A lecserélt értékeket előbb megőrzi, hogy az „acctl undo” visszaállíthassa őket. A megszakított futtatás bármikor megismételhető.</translation>
     </message>
     <message>
         <source>the value before could not be read, and cannot be restored</source>
-        <translation type="unfinished"></translation>
+        <translation>a korábbi érték nem volt beolvasható, ezért nem állítható vissza</translation>
     </message>
     <message>
         <source>the value before could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>a korábbi érték nem volt beolvasható</translation>
     </message>
 </context>
 <context>
@@ -1416,15 +1416,15 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     </message>
     <message>
         <source>Projector, setting, command or result</source>
-        <translation type="unfinished"></translation>
+        <translation>Projektor, beállítás, parancs vagy eredmény</translation>
     </message>
     <message>
         <source>All projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Minden projektor</translation>
     </message>
     <message>
         <source>Show the commands of</source>
-        <translation type="unfinished"></translation>
+        <translation>Projektor, amelynek a parancsai láthatók</translation>
     </message>
 </context>
 <context>
@@ -1483,59 +1483,59 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">Beállítás</translation>
+        <translation>Beállítás</translation>
     </message>
 </context>
 <context>
     <name>ComparisonDialog</name>
     <message>
         <source>Progress</source>
-        <translation type="unfinished">Folyamat</translation>
+        <translation>Folyamat</translation>
     </message>
     <message>
         <source>&amp;Ask Again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ismételt beolvasás</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
-        <translation type="unfinished">&amp;Alkalmazás</translation>
+        <translation>&amp;Alkalmazás</translation>
     </message>
     <message>
         <source>Reading settings…</source>
-        <translation type="unfinished">Beállítások beolvasása…</translation>
+        <translation>Beállítások beolvasása…</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished">Leállítás</translation>
+        <translation>Leállítás</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Mégse</translation>
+        <translation>Mégse</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Bezárás</translation>
+        <translation>Bezárás</translation>
     </message>
     <message>
         <source>Nothing differs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nincs eltérés.</translation>
     </message>
     <message numerus="yes">
         <source>%n projectors differ.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n projektor eltér.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n projectors have all these settings already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n projektoron már mindegyik beállítás ilyen.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n projectors could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n projektor nem volt beolvasható.</numerusform>
         </translation>
     </message>
 </context>
@@ -1543,55 +1543,55 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     <name>ConnectionFields</name>
     <message>
         <source>&amp;Reached through</source>
-        <translation type="unfinished">Elérés mód&amp;ja</translation>
+        <translation>Elérés mód&amp;ja</translation>
     </message>
     <message>
         <source>Connect&amp;ion</source>
-        <translation type="unfinished">Kapc&amp;solat</translation>
+        <translation>Kapc&amp;solat</translation>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation type="unfinished">C&amp;ím</translation>
+        <translation>C&amp;ím</translation>
     </message>
     <message>
         <source>&amp;Port</source>
-        <translation type="unfinished">&amp;Port</translation>
+        <translation>&amp;Port</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
-        <translation type="unfinished"></translation>
+        <translation>Je&amp;lszó</translation>
     </message>
     <message>
         <source>Port n&amp;umber</source>
-        <translation type="unfinished">P&amp;ortszám</translation>
+        <translation>P&amp;ortszám</translation>
     </message>
     <message>
         <source>&amp;Device</source>
-        <translation type="unfinished">&amp;Eszköz</translation>
+        <translation>&amp;Eszköz</translation>
     </message>
     <message>
         <source>&amp;Baud</source>
-        <translation type="unfinished">Átviteli se&amp;besség</translation>
+        <translation>Átviteli se&amp;besség</translation>
     </message>
     <message>
         <source>As its family</source>
-        <translation type="unfinished">A család szerint</translation>
+        <translation>A család szerint</translation>
     </message>
     <message>
         <source>Simulated</source>
-        <translation type="unfinished">Szimulált</translation>
+        <translation>Szimulált</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished">Hálózat</translation>
+        <translation>Hálózat</translation>
     </message>
     <message>
         <source>Serial port</source>
-        <translation type="unfinished">Soros port</translation>
+        <translation>Soros port</translation>
     </message>
     <message>
         <source>%1 is no address.</source>
-        <translation type="unfinished">Ez nem cím: %1.</translation>
+        <translation>Ez nem cím: %1.</translation>
     </message>
 </context>
 <context>
@@ -1757,41 +1757,41 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     <name>DifferenceTree</name>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">Beállítás</translation>
+        <translation>Beállítás</translation>
     </message>
     <message>
         <source>Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Jelenleg</translation>
     </message>
     <message>
         <source>Differences</source>
-        <translation type="unfinished"></translation>
+        <translation>Eltérések</translation>
     </message>
     <message>
         <source>First the other sources and modes</source>
-        <translation type="unfinished"></translation>
+        <translation>Előtte: más források és módok</translation>
     </message>
     <message numerus="yes">
         <source>%n settings</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n beállítás</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n settings do not apply to this model</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n beállítás nem vonatkozik erre a modellre</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n settings cannot be read now</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n beállítás most nem olvasható</numerusform>
         </translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -1979,7 +1979,7 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     <message>
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2, %3 ms</translation>
     </message>
 </context>
 <context>
@@ -2026,8 +2026,8 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     <message numerus="yes">
         <source>%n not watched</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n nem figyelt</numerusform>
         </translation>
     </message>
 </context>
@@ -2111,7 +2111,7 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     </message>
     <message>
         <source>the projector reports none of its settings now</source>
-        <translation type="unfinished"></translation>
+        <translation>a projektor most egyik beállítását sem jelenti</translation>
     </message>
 </context>
 <context>
@@ -2324,27 +2324,27 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     <name>ModelFields</name>
     <message>
         <source>&amp;Family</source>
-        <translation type="unfinished">&amp;Család</translation>
+        <translation>&amp;Család</translation>
     </message>
     <message>
         <source>&amp;Model</source>
-        <translation type="unfinished">&amp;Modell</translation>
+        <translation>&amp;Modell</translation>
     </message>
     <message>
         <source>All &amp;fields of the model</source>
-        <translation type="unfinished">A modell összes me&amp;zője</translation>
+        <translation>A modell összes me&amp;zője</translation>
     </message>
     <message>
         <source>Dialog &amp;type</source>
-        <translation type="unfinished">Ablak &amp;típusa</translation>
+        <translation>Ablak &amp;típusa</translation>
     </message>
     <message>
         <source>Model cod&amp;e</source>
-        <translation type="unfinished">Modell&amp;kód</translation>
+        <translation>Modell&amp;kód</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished">Nincs</translation>
+        <translation>Nincs</translation>
     </message>
 </context>
 <context>
@@ -2467,23 +2467,23 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     </message>
     <message>
         <source>As the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Az asztali környezet szerint</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Világos</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Sötét</translation>
     </message>
     <message>
         <source>&amp;Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;zínek</translation>
     </message>
     <message>
         <source>(the same time twice: none)</source>
-        <translation type="unfinished"></translation>
+        <translation>(azonos időpontok: nincs)</translation>
     </message>
 </context>
 <context>
@@ -2556,84 +2556,84 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     </message>
     <message>
         <source>Reading the settings of %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Beállítások beolvasása: %1…</translation>
     </message>
     <message>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Előbeállítás</translation>
     </message>
     <message>
         <source>What It Should Be</source>
-        <translation type="unfinished"></translation>
+        <translation>Elvárt beállítások</translation>
     </message>
     <message>
         <source>Should be</source>
-        <translation type="unfinished"></translation>
+        <translation>Elvárt</translation>
     </message>
 </context>
 <context>
     <name>PresetDialog</name>
     <message>
         <source>Save as Preset</source>
-        <translation type="unfinished">Mentés előbeállításként</translation>
+        <translation>Mentés előbeállításként</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">Beállítás</translation>
+        <translation>Beállítás</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">Érték</translation>
+        <translation>Érték</translation>
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Az előbeállítás tartalma</translation>
     </message>
     <message>
         <source>&amp;Name of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Az előbeállítás &amp;neve</translation>
     </message>
     <message>
         <source>&amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mind</translation>
     </message>
     <message>
         <source>Check all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Minden beállítás bejelölése</translation>
     </message>
     <message>
         <source>This &amp;Page</source>
-        <translation type="unfinished"></translation>
+        <translation>Ez az &amp;oldal</translation>
     </message>
     <message>
         <source>Check the settings of the selected page, and no others</source>
-        <translation type="unfinished"></translation>
+        <translation>Csak a kijelölt oldal beállításainak bejelölése</translation>
     </message>
     <message>
         <source>N&amp;one</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Egyik sem</translation>
     </message>
     <message>
         <source>Uncheck all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Minden bejelölés törlése</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Menté&amp;s</translation>
     </message>
     <message>
         <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
-        <translation type="unfinished"></translation>
+        <translation>Az előbeállításnak nem lehet ez a neve: hagyja el a perjeleket és a kezdő pontot.</translation>
     </message>
     <message numerus="yes">
         <source>%n settings are checked.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n beállítás van bejelölve.</numerusform>
         </translation>
     </message>
     <message>
         <source>The preset %1 will be replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ez az előbeállítás le lesz cserélve: %1.</translation>
     </message>
 </context>
 <context>
@@ -2908,58 +2908,58 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
     <name>ProfileFileActions</name>
     <message>
         <source>&amp;Open Profiles…</source>
-        <translation type="unfinished">&amp;Profilok megnyitása…</translation>
+        <translation>&amp;Profilok megnyitása…</translation>
     </message>
     <message>
         <source>&amp;Reload</source>
-        <translation type="unfinished">Új&amp;ratöltés</translation>
+        <translation>Új&amp;ratöltés</translation>
     </message>
     <message>
         <source>&amp;Save Profiles As…</source>
-        <translation type="unfinished">Profilok &amp;mentése másként…</translation>
+        <translation>Profilok &amp;mentése másként…</translation>
     </message>
     <message>
         <source>Open Profiles</source>
-        <translation type="unfinished">Profilok megnyitása</translation>
+        <translation>Profilok megnyitása</translation>
     </message>
     <message>
         <source>Profiles (*.json);;All files (*)</source>
-        <translation type="unfinished">Profilok (*.json);;Minden fájl (*)</translation>
+        <translation>Profilok (*.json);;Minden fájl (*)</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished">Újratöltés</translation>
+        <translation>Újratöltés</translation>
     </message>
     <message>
         <source>Save Profiles As</source>
-        <translation type="unfinished">Profilok mentése másként</translation>
+        <translation>Profilok mentése másként</translation>
     </message>
     <message>
         <source>Read-Only File</source>
-        <translation type="unfinished"></translation>
+        <translation>Írásvédett fájl</translation>
     </message>
     <message>
         <source>%1 cannot be changed. Save the profiles in another file first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nem módosítható: %1. Előbb mentse a profilokat másik fájlba.</translation>
     </message>
     <message>
         <source>Save Profiles As…</source>
-        <translation type="unfinished">Profilok mentése másként…</translation>
+        <translation>Profilok mentése másként…</translation>
     </message>
 </context>
 <context>
     <name>ProfileHistory</name>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished">&amp;Visszavonás</translation>
+        <translation>&amp;Visszavonás</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished">Új&amp;ra</translation>
+        <translation>Új&amp;ra</translation>
     </message>
     <message>
         <source>This could not be done; nothing was changed.</source>
-        <translation type="unfinished">Ez nem sikerült; semmi sem módosult.</translation>
+        <translation>Ez nem sikerült; semmi sem módosult.</translation>
     </message>
 </context>
 <context>
@@ -3011,51 +3011,51 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
     <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished">Név</translation>
+        <translation>Név</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished">Állapot</translation>
+        <translation>Állapot</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished">Tápellátás</translation>
+        <translation>Tápellátás</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished">Forrás</translation>
+        <translation>Forrás</translation>
     </message>
     <message>
         <source>Lamp</source>
-        <translation type="unfinished">Lámpa</translation>
+        <translation>Lámpa</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation type="unfinished">Probléma</translation>
+        <translation>Probléma</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished">Modell</translation>
+        <translation>Modell</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished">Hely</translation>
+        <translation>Hely</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished">Beállítások</translation>
+        <translation>Beállítások</translation>
     </message>
     <message>
         <source>Last answer</source>
-        <translation type="unfinished">Utolsó válasz</translation>
+        <translation>Utolsó válasz</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished">Cím</translation>
+        <translation>Cím</translation>
     </message>
     <message>
         <source>%1 · open</source>
-        <translation type="unfinished">%1 · nyitva</translation>
+        <translation>%1 · nyitva</translation>
     </message>
 </context>
 <context>
@@ -3217,35 +3217,35 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
     </message>
     <message>
         <source>Settings saved in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beállítások mentve ide: %1.</translation>
     </message>
     <message numerus="yes">
         <source>Settings of %n projectors saved in %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n projektor beállításai mentve ide: %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n settings could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n beállítás nem volt beolvasható.</numerusform>
         </translation>
     </message>
     <message>
         <source>Apply Settings</source>
-        <translation type="unfinished">Beállítások alkalmazása</translation>
+        <translation>Beállítások alkalmazása</translation>
     </message>
     <message>
         <source>Compare Settings</source>
-        <translation type="unfinished">Beállítások összehasonlítása</translation>
+        <translation>Beállítások összehasonlítása</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished">Fájl</translation>
+        <translation>Fájl</translation>
     </message>
     <message>
         <source>The values before are kept in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>A korábbi értékek itt találhatók: %1.</translation>
     </message>
 </context>
 <context>
@@ -3710,20 +3710,20 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
     </message>
     <message numerus="yes">
         <source>%n projectors added</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n projektor hozzáadva</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n already known</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n már ismert</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n rows not taken</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n sor nem lett átvéve</numerusform>
         </translation>
     </message>
 </context>
@@ -3731,125 +3731,125 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
     <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
-        <translation type="unfinished">&amp;Bekapcsolás</translation>
+        <translation>&amp;Bekapcsolás</translation>
     </message>
     <message>
         <source>Switch O&amp;ff</source>
-        <translation type="unfinished">&amp;Kikapcsolás</translation>
+        <translation>&amp;Kikapcsolás</translation>
     </message>
     <message>
         <source>P&amp;ower</source>
-        <translation type="unfinished">&amp;Tápellátás</translation>
+        <translation>&amp;Tápellátás</translation>
     </message>
     <message>
         <source>&amp;Input</source>
-        <translation type="unfinished">B&amp;emenet</translation>
+        <translation>B&amp;emenet</translation>
     </message>
     <message>
         <source>&amp;Blank</source>
-        <translation type="unfinished">&amp;Üres kép</translation>
+        <translation>&amp;Üres kép</translation>
     </message>
     <message>
         <source>Blank the Picture</source>
-        <translation type="unfinished">Üres kép bekapcsolása</translation>
+        <translation>Üres kép bekapcsolása</translation>
     </message>
     <message numerus="yes">
         <source>Blank the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Bekapcsolja az üres képet %n projektoron?</numerusform>
         </translation>
     </message>
     <message>
         <source>Show the Picture</source>
-        <translation type="unfinished">Kép megjelenítése</translation>
+        <translation>Kép megjelenítése</translation>
     </message>
     <message numerus="yes">
         <source>Show the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Megjeleníti a képet %n projektoron?</numerusform>
         </translation>
     </message>
     <message>
         <source>&amp;Mute</source>
-        <translation type="unfinished">&amp;Némítás</translation>
+        <translation>&amp;Némítás</translation>
     </message>
     <message>
         <source>Mute the Sound</source>
-        <translation type="unfinished">Hang némítása</translation>
+        <translation>Hang némítása</translation>
     </message>
     <message numerus="yes">
         <source>Mute the sound of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Elnémítja %n projektor hangját?</numerusform>
         </translation>
     </message>
     <message>
         <source>Unmute the Sound</source>
-        <translation type="unfinished">Némítás megszüntetése</translation>
+        <translation>Némítás megszüntetése</translation>
     </message>
     <message numerus="yes">
         <source>Unmute the sound of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Megszünteti %n projektor némítását?</numerusform>
         </translation>
     </message>
     <message>
         <source>Free&amp;ze</source>
-        <translation type="unfinished">Kime&amp;revítés</translation>
+        <translation>Kime&amp;revítés</translation>
     </message>
     <message>
         <source>Freeze the Picture</source>
-        <translation type="unfinished">Kép kimerevítése</translation>
+        <translation>Kép kimerevítése</translation>
     </message>
     <message numerus="yes">
         <source>Freeze the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Kimerevíti %n projektor képét?</numerusform>
         </translation>
     </message>
     <message>
         <source>Release the Picture</source>
-        <translation type="unfinished">Kimerevítés megszüntetése</translation>
+        <translation>Kimerevítés megszüntetése</translation>
     </message>
     <message numerus="yes">
         <source>Release the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Megszünteti %n projektor képének kimerevítését?</numerusform>
         </translation>
     </message>
     <message>
         <source>Switch On</source>
-        <translation type="unfinished">Bekapcsolás</translation>
+        <translation>Bekapcsolás</translation>
     </message>
     <message>
         <source>Switch Off</source>
-        <translation type="unfinished">Kikapcsolás</translation>
+        <translation>Kikapcsolás</translation>
     </message>
     <message numerus="yes">
         <source>Switch on %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Bekapcsol %n projektort?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Switch off %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Kikapcsol %n projektort?</numerusform>
         </translation>
     </message>
     <message>
         <source>Input %1</source>
-        <translation type="unfinished">Bemenet: %1</translation>
+        <translation>Bemenet: %1</translation>
     </message>
     <message numerus="yes">
         <source>Choose the input %1 on %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Kiválasztja ezt a bemenetet %n projektoron: %1?</numerusform>
         </translation>
     </message>
     <message>
         <source>No inputs are known</source>
-        <translation type="unfinished">Nincsenek ismert bemenetek</translation>
+        <translation>Nincsenek ismert bemenetek</translation>
     </message>
 </context>
 <context>
@@ -3962,12 +3962,12 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message numerus="yes">
         <source>done, %n settings could not be read</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>kész, %n beállítás nem volt beolvasható</numerusform>
         </translation>
     </message>
 </context>

@@ -988,19 +988,19 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
     <message>
         <source>Prints what differs from a file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル (「-」は標準入力)、ホストアプリケーションのプリセット、またはフォルダー内の各プロジェクターのファイルと異なる設定を表示します。</translation>
     </message>
     <message>
         <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation type="unfinished"></translation>
+        <translation>プロジェクターを読み取り、ファイル (「-」は標準入力)、ホストアプリケーションのプリセット、またはフォルダー内の各プロジェクターのファイルと異なる設定を送信して、読み直します。置き換えられる値は先に保存されるので、「acctl undo」で復元できます。中断した場合は、いつでも再実行できます。</translation>
     </message>
     <message>
         <source>the value before could not be read, and cannot be restored</source>
-        <translation type="unfinished"></translation>
+        <translation>変更前の値を読み取れなかったため、元に戻せません</translation>
     </message>
     <message>
         <source>the value before could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>変更前の値を読み取れませんでした</translation>
     </message>
 </context>
 <context>
@@ -1416,15 +1416,15 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
     <message>
         <source>Projector, setting, command or result</source>
-        <translation type="unfinished"></translation>
+        <translation>プロジェクター、設定、コマンド、結果</translation>
     </message>
     <message>
         <source>All projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてのプロジェクター</translation>
     </message>
     <message>
         <source>Show the commands of</source>
-        <translation type="unfinished"></translation>
+        <translation>コマンドを表示するプロジェクター</translation>
     </message>
 </context>
 <context>
@@ -1483,59 +1483,59 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">設定</translation>
+        <translation>設定</translation>
     </message>
 </context>
 <context>
     <name>ComparisonDialog</name>
     <message>
         <source>Progress</source>
-        <translation type="unfinished">進行状況</translation>
+        <translation>進行状況</translation>
     </message>
     <message>
         <source>&amp;Ask Again</source>
-        <translation type="unfinished"></translation>
+        <translation>再読み取り(&amp;G)</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
-        <translation type="unfinished">適用(&amp;A)</translation>
+        <translation>適用(&amp;A)</translation>
     </message>
     <message>
         <source>Reading settings…</source>
-        <translation type="unfinished">設定を読み取り中…</translation>
+        <translation>設定を読み取り中…</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished">中止</translation>
+        <translation>中止</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">キャンセル</translation>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">閉じる</translation>
+        <translation>閉じる</translation>
     </message>
     <message>
         <source>Nothing differs.</source>
-        <translation type="unfinished"></translation>
+        <translation>相違はありません。</translation>
     </message>
     <message numerus="yes">
         <source>%n projectors differ.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 台のプロジェクターに相違があります。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n projectors have all these settings already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 台のプロジェクターは、すでにすべての設定が一致しています。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n projectors could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 台のプロジェクターを読み取れませんでした。</numerusform>
         </translation>
     </message>
 </context>
@@ -1543,55 +1543,55 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     <name>ConnectionFields</name>
     <message>
         <source>&amp;Reached through</source>
-        <translation type="unfinished">接続方法(&amp;R)</translation>
+        <translation>接続方法(&amp;R)</translation>
     </message>
     <message>
         <source>Connect&amp;ion</source>
-        <translation type="unfinished">接続(&amp;I)</translation>
+        <translation>接続(&amp;I)</translation>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation type="unfinished">アドレス(&amp;A)</translation>
+        <translation>アドレス(&amp;A)</translation>
     </message>
     <message>
         <source>&amp;Port</source>
-        <translation type="unfinished">ポート(&amp;P)</translation>
+        <translation>ポート(&amp;P)</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
-        <translation type="unfinished">パスワード(&amp;W)</translation>
+        <translation>パスワード(&amp;W)</translation>
     </message>
     <message>
         <source>Port n&amp;umber</source>
-        <translation type="unfinished">ポート番号(&amp;U)</translation>
+        <translation>ポート番号(&amp;U)</translation>
     </message>
     <message>
         <source>&amp;Device</source>
-        <translation type="unfinished">デバイス(&amp;D)</translation>
+        <translation>デバイス(&amp;D)</translation>
     </message>
     <message>
         <source>&amp;Baud</source>
-        <translation type="unfinished">ボーレート(&amp;B)</translation>
+        <translation>ボーレート(&amp;B)</translation>
     </message>
     <message>
         <source>As its family</source>
-        <translation type="unfinished">ファミリーと同じ</translation>
+        <translation>ファミリーと同じ</translation>
     </message>
     <message>
         <source>Simulated</source>
-        <translation type="unfinished">シミュレーション</translation>
+        <translation>シミュレーション</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished">ネットワーク</translation>
+        <translation>ネットワーク</translation>
     </message>
     <message>
         <source>Serial port</source>
-        <translation type="unfinished">シリアルポート</translation>
+        <translation>シリアルポート</translation>
     </message>
     <message>
         <source>%1 is no address.</source>
-        <translation type="unfinished">%1 はアドレスではありません。</translation>
+        <translation>%1 はアドレスではありません。</translation>
     </message>
 </context>
 <context>
@@ -1757,41 +1757,41 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     <name>DifferenceTree</name>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">設定</translation>
+        <translation>設定</translation>
     </message>
     <message>
         <source>Now</source>
-        <translation type="unfinished"></translation>
+        <translation>現在</translation>
     </message>
     <message>
         <source>Differences</source>
-        <translation type="unfinished"></translation>
+        <translation>相違</translation>
     </message>
     <message>
         <source>First the other sources and modes</source>
-        <translation type="unfinished"></translation>
+        <translation>事前処理: ほかのソースとモード</translation>
     </message>
     <message numerus="yes">
         <source>%n settings</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>設定 %n 件</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n settings do not apply to this model</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>この機種に該当しない設定 %n 件</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n settings cannot be read now</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>現在読み取れない設定 %n 件</numerusform>
         </translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -1979,7 +1979,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     <message>
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2、%3 ms</translation>
     </message>
 </context>
 <context>
@@ -2026,8 +2026,8 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     <message numerus="yes">
         <source>%n not watched</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>監視対象外 %n 台</numerusform>
         </translation>
     </message>
 </context>
@@ -2111,7 +2111,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
     <message>
         <source>the projector reports none of its settings now</source>
-        <translation type="unfinished"></translation>
+        <translation>プロジェクターは現在、どの設定も報告していません</translation>
     </message>
 </context>
 <context>
@@ -2324,27 +2324,27 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     <name>ModelFields</name>
     <message>
         <source>&amp;Family</source>
-        <translation type="unfinished">ファミリー(&amp;F)</translation>
+        <translation>ファミリー(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Model</source>
-        <translation type="unfinished">機種(&amp;M)</translation>
+        <translation>機種(&amp;M)</translation>
     </message>
     <message>
         <source>All &amp;fields of the model</source>
-        <translation type="unfinished">機種の全項目(&amp;L)</translation>
+        <translation>機種の全項目(&amp;L)</translation>
     </message>
     <message>
         <source>Dialog &amp;type</source>
-        <translation type="unfinished">ダイアログの種類(&amp;T)</translation>
+        <translation>ダイアログの種類(&amp;T)</translation>
     </message>
     <message>
         <source>Model cod&amp;e</source>
-        <translation type="unfinished">機種コード(&amp;E)</translation>
+        <translation>機種コード(&amp;E)</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished">なし</translation>
+        <translation>なし</translation>
     </message>
 </context>
 <context>
@@ -2467,23 +2467,23 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
     <message>
         <source>As the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>デスクトップと同じ</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>ライト</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>ダーク</translation>
     </message>
     <message>
         <source>&amp;Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>配色(&amp;C)</translation>
     </message>
     <message>
         <source>(the same time twice: none)</source>
-        <translation type="unfinished"></translation>
+        <translation>(同じ時刻にすると停止なし)</translation>
     </message>
 </context>
 <context>
@@ -2556,84 +2556,84 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
     <message>
         <source>Reading the settings of %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 の設定を読み取り中…</translation>
     </message>
     <message>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセット</translation>
     </message>
     <message>
         <source>What It Should Be</source>
-        <translation type="unfinished"></translation>
+        <translation>基準プリセット</translation>
     </message>
     <message>
         <source>Should be</source>
-        <translation type="unfinished"></translation>
+        <translation>基準</translation>
     </message>
 </context>
 <context>
     <name>PresetDialog</name>
     <message>
         <source>Save as Preset</source>
-        <translation type="unfinished">プリセットとして保存</translation>
+        <translation>プリセットとして保存</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">設定</translation>
+        <translation>設定</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">値</translation>
+        <translation>値</translation>
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセットの設定</translation>
     </message>
     <message>
         <source>&amp;Name of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセットの名前(&amp;N)</translation>
     </message>
     <message>
         <source>&amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>すべて(&amp;A)</translation>
     </message>
     <message>
         <source>Check all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>すべての設定を選択</translation>
     </message>
     <message>
         <source>This &amp;Page</source>
-        <translation type="unfinished"></translation>
+        <translation>このページ(&amp;P)</translation>
     </message>
     <message>
         <source>Check the settings of the selected page, and no others</source>
-        <translation type="unfinished"></translation>
+        <translation>選択したページの設定だけを選択</translation>
     </message>
     <message>
         <source>N&amp;one</source>
-        <translation type="unfinished"></translation>
+        <translation>なし(&amp;O)</translation>
     </message>
     <message>
         <source>Uncheck all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>すべての設定の選択を解除</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>保存(&amp;S)</translation>
     </message>
     <message>
         <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
-        <translation type="unfinished"></translation>
+        <translation>この名前はプリセットに使用できません。スラッシュと先頭のピリオドを除いてください。</translation>
     </message>
     <message numerus="yes">
         <source>%n settings are checked.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 件の設定を選択しています。</numerusform>
         </translation>
     </message>
     <message>
         <source>The preset %1 will be replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセット %1 は置き換えられます。</translation>
     </message>
 </context>
 <context>
@@ -2908,58 +2908,58 @@ a minus in front takes a tag away:</source>
     <name>ProfileFileActions</name>
     <message>
         <source>&amp;Open Profiles…</source>
-        <translation type="unfinished">プロファイルを開く(&amp;O)…</translation>
+        <translation>プロファイルを開く(&amp;O)…</translation>
     </message>
     <message>
         <source>&amp;Reload</source>
-        <translation type="unfinished">再読み込み(&amp;R)</translation>
+        <translation>再読み込み(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Save Profiles As…</source>
-        <translation type="unfinished">プロファイルに名前を付けて保存(&amp;S)…</translation>
+        <translation>プロファイルに名前を付けて保存(&amp;S)…</translation>
     </message>
     <message>
         <source>Open Profiles</source>
-        <translation type="unfinished">プロファイルを開く</translation>
+        <translation>プロファイルを開く</translation>
     </message>
     <message>
         <source>Profiles (*.json);;All files (*)</source>
-        <translation type="unfinished">プロファイル (*.json);;すべてのファイル (*)</translation>
+        <translation>プロファイル (*.json);;すべてのファイル (*)</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished">再読み込み</translation>
+        <translation>再読み込み</translation>
     </message>
     <message>
         <source>Save Profiles As</source>
-        <translation type="unfinished">プロファイルに名前を付けて保存</translation>
+        <translation>プロファイルに名前を付けて保存</translation>
     </message>
     <message>
         <source>Read-Only File</source>
-        <translation type="unfinished"></translation>
+        <translation>読み取り専用ファイル</translation>
     </message>
     <message>
         <source>%1 cannot be changed. Save the profiles in another file first.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 は変更できません。先にプロファイルを別のファイルに保存してください。</translation>
     </message>
     <message>
         <source>Save Profiles As…</source>
-        <translation type="unfinished">プロファイルに名前を付けて保存…</translation>
+        <translation>プロファイルに名前を付けて保存…</translation>
     </message>
 </context>
 <context>
     <name>ProfileHistory</name>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished">元に戻す(&amp;U)</translation>
+        <translation>元に戻す(&amp;U)</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished">やり直す(&amp;R)</translation>
+        <translation>やり直す(&amp;R)</translation>
     </message>
     <message>
         <source>This could not be done; nothing was changed.</source>
-        <translation type="unfinished">この操作は実行できませんでした。何も変更されていません。</translation>
+        <translation>この操作は実行できませんでした。何も変更されていません。</translation>
     </message>
 </context>
 <context>
@@ -3011,51 +3011,51 @@ a minus in front takes a tag away:</source>
     <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished">名前</translation>
+        <translation>名前</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished">状態</translation>
+        <translation>状態</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished">電源</translation>
+        <translation>電源</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished">ソース</translation>
+        <translation>ソース</translation>
     </message>
     <message>
         <source>Lamp</source>
-        <translation type="unfinished">ランプ</translation>
+        <translation>ランプ</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation type="unfinished">問題</translation>
+        <translation>問題</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished">機種</translation>
+        <translation>機種</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished">場所</translation>
+        <translation>場所</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished">設定</translation>
+        <translation>設定</translation>
     </message>
     <message>
         <source>Last answer</source>
-        <translation type="unfinished">最終応答</translation>
+        <translation>最終応答</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished">アドレス</translation>
+        <translation>アドレス</translation>
     </message>
     <message>
         <source>%1 · open</source>
-        <translation type="unfinished">%1 · 表示中</translation>
+        <translation>%1 · 表示中</translation>
     </message>
 </context>
 <context>
@@ -3217,35 +3217,35 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Settings saved in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>設定を %1 に保存しました。</translation>
     </message>
     <message numerus="yes">
         <source>Settings of %n projectors saved in %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 台のプロジェクターの設定を %1 に保存しました。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n settings could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 件の設定を読み取れませんでした。</numerusform>
         </translation>
     </message>
     <message>
         <source>Apply Settings</source>
-        <translation type="unfinished">設定の適用</translation>
+        <translation>設定の適用</translation>
     </message>
     <message>
         <source>Compare Settings</source>
-        <translation type="unfinished">設定の比較</translation>
+        <translation>設定の比較</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished">ファイル</translation>
+        <translation>ファイル</translation>
     </message>
     <message>
         <source>The values before are kept in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>変更前の値は %1 に保存されています。</translation>
     </message>
 </context>
 <context>
@@ -3710,20 +3710,20 @@ a minus in front takes a tag away:</source>
     </message>
     <message numerus="yes">
         <source>%n projectors added</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>追加したプロジェクター %n 台</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n already known</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>登録済み %n 台</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n rows not taken</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>取り込めない行 %n 行</numerusform>
         </translation>
     </message>
 </context>
@@ -3731,125 +3731,125 @@ a minus in front takes a tag away:</source>
     <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
-        <translation type="unfinished">電源を入れる(&amp;N)</translation>
+        <translation>電源を入れる(&amp;N)</translation>
     </message>
     <message>
         <source>Switch O&amp;ff</source>
-        <translation type="unfinished">電源を切る(&amp;F)</translation>
+        <translation>電源を切る(&amp;F)</translation>
     </message>
     <message>
         <source>P&amp;ower</source>
-        <translation type="unfinished">電源(&amp;W)</translation>
+        <translation>電源(&amp;W)</translation>
     </message>
     <message>
         <source>&amp;Input</source>
-        <translation type="unfinished">入力(&amp;I)</translation>
+        <translation>入力(&amp;I)</translation>
     </message>
     <message>
         <source>&amp;Blank</source>
-        <translation type="unfinished">ブランク(&amp;B)</translation>
+        <translation>ブランク(&amp;B)</translation>
     </message>
     <message>
         <source>Blank the Picture</source>
-        <translation type="unfinished">映像をブランクにする</translation>
+        <translation>映像をブランクにする</translation>
     </message>
     <message numerus="yes">
         <source>Blank the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n 台のプロジェクターの映像をブランクにしますか?</numerusform>
         </translation>
     </message>
     <message>
         <source>Show the Picture</source>
-        <translation type="unfinished">映像を表示</translation>
+        <translation>映像を表示</translation>
     </message>
     <message numerus="yes">
         <source>Show the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n 台のプロジェクターの映像を表示しますか?</numerusform>
         </translation>
     </message>
     <message>
         <source>&amp;Mute</source>
-        <translation type="unfinished">ミュート(&amp;M)</translation>
+        <translation>ミュート(&amp;M)</translation>
     </message>
     <message>
         <source>Mute the Sound</source>
-        <translation type="unfinished">音声をミュート</translation>
+        <translation>音声をミュート</translation>
     </message>
     <message numerus="yes">
         <source>Mute the sound of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n 台のプロジェクターの音声をミュートしますか?</numerusform>
         </translation>
     </message>
     <message>
         <source>Unmute the Sound</source>
-        <translation type="unfinished">ミュートを解除</translation>
+        <translation>ミュートを解除</translation>
     </message>
     <message numerus="yes">
         <source>Unmute the sound of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n 台のプロジェクターのミュートを解除しますか?</numerusform>
         </translation>
     </message>
     <message>
         <source>Free&amp;ze</source>
-        <translation type="unfinished">静止(&amp;Z)</translation>
+        <translation>静止(&amp;Z)</translation>
     </message>
     <message>
         <source>Freeze the Picture</source>
-        <translation type="unfinished">映像を静止</translation>
+        <translation>映像を静止</translation>
     </message>
     <message numerus="yes">
         <source>Freeze the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n 台のプロジェクターの映像を静止しますか?</numerusform>
         </translation>
     </message>
     <message>
         <source>Release the Picture</source>
-        <translation type="unfinished">静止を解除</translation>
+        <translation>静止を解除</translation>
     </message>
     <message numerus="yes">
         <source>Release the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n 台のプロジェクターの静止を解除しますか?</numerusform>
         </translation>
     </message>
     <message>
         <source>Switch On</source>
-        <translation type="unfinished">電源を入れる</translation>
+        <translation>電源を入れる</translation>
     </message>
     <message>
         <source>Switch Off</source>
-        <translation type="unfinished">電源を切る</translation>
+        <translation>電源を切る</translation>
     </message>
     <message numerus="yes">
         <source>Switch on %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n 台のプロジェクターの電源を入れますか?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Switch off %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n 台のプロジェクターの電源を切りますか?</numerusform>
         </translation>
     </message>
     <message>
         <source>Input %1</source>
-        <translation type="unfinished">入力 %1</translation>
+        <translation>入力 %1</translation>
     </message>
     <message numerus="yes">
         <source>Choose the input %1 on %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n 台のプロジェクターの入力を %1 に切り替えますか?</numerusform>
         </translation>
     </message>
     <message>
         <source>No inputs are known</source>
-        <translation type="unfinished">入力の情報がありません</translation>
+        <translation>入力の情報がありません</translation>
     </message>
 </context>
 <context>
@@ -3962,12 +3962,12 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message numerus="yes">
         <source>done, %n settings could not be read</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>完了、%n 件の設定は読み取れませんでした</numerusform>
         </translation>
     </message>
 </context>

@@ -988,19 +988,19 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     </message>
     <message>
         <source>Prints what differs from a file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>파일(‘-’는 표준 입력), 호스트 응용 프로그램의 프리셋 또는 폴더에 있는 각 프로젝터의 파일과 다른 설정을 표시합니다.</translation>
     </message>
     <message>
         <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation type="unfinished"></translation>
+        <translation>프로젝터를 읽고, 파일(‘-’는 표준 입력), 호스트 응용 프로그램의 프리셋 또는 폴더에 있는 각 프로젝터의 파일과 다른 설정을 전송한 뒤 다시 읽습니다. 바뀌기 전의 값을 먼저 보관하므로 ‘acctl undo’로 복원할 수 있습니다. 중단된 실행은 언제든지 다시 할 수 있습니다.</translation>
     </message>
     <message>
         <source>the value before could not be read, and cannot be restored</source>
-        <translation type="unfinished"></translation>
+        <translation>이전 값을 읽을 수 없었으므로 복원할 수 없음</translation>
     </message>
     <message>
         <source>the value before could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>이전 값을 읽을 수 없었음</translation>
     </message>
 </context>
 <context>
@@ -1416,15 +1416,15 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     </message>
     <message>
         <source>Projector, setting, command or result</source>
-        <translation type="unfinished"></translation>
+        <translation>프로젝터, 설정, 명령 또는 결과</translation>
     </message>
     <message>
         <source>All projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>모든 프로젝터</translation>
     </message>
     <message>
         <source>Show the commands of</source>
-        <translation type="unfinished"></translation>
+        <translation>명령을 표시할 프로젝터</translation>
     </message>
 </context>
 <context>
@@ -1483,59 +1483,59 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">설정</translation>
+        <translation>설정</translation>
     </message>
 </context>
 <context>
     <name>ComparisonDialog</name>
     <message>
         <source>Progress</source>
-        <translation type="unfinished">진행 상황</translation>
+        <translation>진행 상황</translation>
     </message>
     <message>
         <source>&amp;Ask Again</source>
-        <translation type="unfinished"></translation>
+        <translation>다시 읽기(&amp;G)</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
-        <translation type="unfinished">적용(&amp;A)</translation>
+        <translation>적용(&amp;A)</translation>
     </message>
     <message>
         <source>Reading settings…</source>
-        <translation type="unfinished">설정을 읽는 중…</translation>
+        <translation>설정을 읽는 중…</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished">중지</translation>
+        <translation>중지</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">취소</translation>
+        <translation>취소</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">닫기</translation>
+        <translation>닫기</translation>
     </message>
     <message>
         <source>Nothing differs.</source>
-        <translation type="unfinished"></translation>
+        <translation>다른 설정이 없습니다.</translation>
     </message>
     <message numerus="yes">
         <source>%n projectors differ.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>프로젝터 %n대의 설정이 다릅니다.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n projectors have all these settings already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>프로젝터 %n대는 이미 모든 설정이 일치합니다.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n projectors could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>프로젝터 %n대를 읽을 수 없었습니다.</numerusform>
         </translation>
     </message>
 </context>
@@ -1543,55 +1543,55 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     <name>ConnectionFields</name>
     <message>
         <source>&amp;Reached through</source>
-        <translation type="unfinished">연결 방법(&amp;R)</translation>
+        <translation>연결 방법(&amp;R)</translation>
     </message>
     <message>
         <source>Connect&amp;ion</source>
-        <translation type="unfinished">연결(&amp;I)</translation>
+        <translation>연결(&amp;I)</translation>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation type="unfinished">주소(&amp;A)</translation>
+        <translation>주소(&amp;A)</translation>
     </message>
     <message>
         <source>&amp;Port</source>
-        <translation type="unfinished">포트(&amp;P)</translation>
+        <translation>포트(&amp;P)</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
-        <translation type="unfinished">암호(&amp;W)</translation>
+        <translation>암호(&amp;W)</translation>
     </message>
     <message>
         <source>Port n&amp;umber</source>
-        <translation type="unfinished">포트 번호(&amp;U)</translation>
+        <translation>포트 번호(&amp;U)</translation>
     </message>
     <message>
         <source>&amp;Device</source>
-        <translation type="unfinished">장치(&amp;D)</translation>
+        <translation>장치(&amp;D)</translation>
     </message>
     <message>
         <source>&amp;Baud</source>
-        <translation type="unfinished">전송 속도(&amp;B)</translation>
+        <translation>전송 속도(&amp;B)</translation>
     </message>
     <message>
         <source>As its family</source>
-        <translation type="unfinished">제품군과 같음</translation>
+        <translation>제품군과 같음</translation>
     </message>
     <message>
         <source>Simulated</source>
-        <translation type="unfinished">시뮬레이션</translation>
+        <translation>시뮬레이션</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished">네트워크</translation>
+        <translation>네트워크</translation>
     </message>
     <message>
         <source>Serial port</source>
-        <translation type="unfinished">직렬 포트</translation>
+        <translation>직렬 포트</translation>
     </message>
     <message>
         <source>%1 is no address.</source>
-        <translation type="unfinished">%1은(는) 주소가 아닙니다.</translation>
+        <translation>%1은(는) 주소가 아닙니다.</translation>
     </message>
 </context>
 <context>
@@ -1757,41 +1757,41 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     <name>DifferenceTree</name>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">설정</translation>
+        <translation>설정</translation>
     </message>
     <message>
         <source>Now</source>
-        <translation type="unfinished"></translation>
+        <translation>현재</translation>
     </message>
     <message>
         <source>Differences</source>
-        <translation type="unfinished"></translation>
+        <translation>다른 설정</translation>
     </message>
     <message>
         <source>First the other sources and modes</source>
-        <translation type="unfinished"></translation>
+        <translation>사전 작업: 다른 소스와 모드</translation>
     </message>
     <message numerus="yes">
         <source>%n settings</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>설정 %n개</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n settings do not apply to this model</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>이 모델에 해당하지 않는 설정 %n개</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n settings cannot be read now</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>지금 읽을 수 없는 설정 %n개</numerusform>
         </translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -1979,7 +1979,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     <message>
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2, %3 ms</translation>
     </message>
 </context>
 <context>
@@ -2026,8 +2026,8 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     <message numerus="yes">
         <source>%n not watched</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>확인하지 않음 %n대</numerusform>
         </translation>
     </message>
 </context>
@@ -2111,7 +2111,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     </message>
     <message>
         <source>the projector reports none of its settings now</source>
-        <translation type="unfinished"></translation>
+        <translation>프로젝터가 지금은 어떤 설정도 알려 주지 않음</translation>
     </message>
 </context>
 <context>
@@ -2324,27 +2324,27 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     <name>ModelFields</name>
     <message>
         <source>&amp;Family</source>
-        <translation type="unfinished">제품군(&amp;F)</translation>
+        <translation>제품군(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Model</source>
-        <translation type="unfinished">모델(&amp;M)</translation>
+        <translation>모델(&amp;M)</translation>
     </message>
     <message>
         <source>All &amp;fields of the model</source>
-        <translation type="unfinished">모델의 모든 항목(&amp;L)</translation>
+        <translation>모델의 모든 항목(&amp;L)</translation>
     </message>
     <message>
         <source>Dialog &amp;type</source>
-        <translation type="unfinished">대화 상자 유형(&amp;T)</translation>
+        <translation>대화 상자 유형(&amp;T)</translation>
     </message>
     <message>
         <source>Model cod&amp;e</source>
-        <translation type="unfinished">모델 코드(&amp;E)</translation>
+        <translation>모델 코드(&amp;E)</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished">없음</translation>
+        <translation>없음</translation>
     </message>
 </context>
 <context>
@@ -2467,23 +2467,23 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     </message>
     <message>
         <source>As the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>데스크톱 설정에 따름</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>밝게</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>어둡게</translation>
     </message>
     <message>
         <source>&amp;Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>색상(&amp;C)</translation>
     </message>
     <message>
         <source>(the same time twice: none)</source>
-        <translation type="unfinished"></translation>
+        <translation>(두 시각이 같으면 사용 안 함)</translation>
     </message>
 </context>
 <context>
@@ -2556,84 +2556,84 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     </message>
     <message>
         <source>Reading the settings of %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>%1의 설정을 읽는 중…</translation>
     </message>
     <message>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>프리셋</translation>
     </message>
     <message>
         <source>What It Should Be</source>
-        <translation type="unfinished"></translation>
+        <translation>기준 프리셋</translation>
     </message>
     <message>
         <source>Should be</source>
-        <translation type="unfinished"></translation>
+        <translation>기준</translation>
     </message>
 </context>
 <context>
     <name>PresetDialog</name>
     <message>
         <source>Save as Preset</source>
-        <translation type="unfinished">프리셋으로 저장</translation>
+        <translation>프리셋으로 저장</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">설정</translation>
+        <translation>설정</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">값</translation>
+        <translation>값</translation>
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>프리셋의 설정</translation>
     </message>
     <message>
         <source>&amp;Name of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>프리셋 이름(&amp;N)</translation>
     </message>
     <message>
         <source>&amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>모두(&amp;A)</translation>
     </message>
     <message>
         <source>Check all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>모든 설정 선택</translation>
     </message>
     <message>
         <source>This &amp;Page</source>
-        <translation type="unfinished"></translation>
+        <translation>이 페이지(&amp;P)</translation>
     </message>
     <message>
         <source>Check the settings of the selected page, and no others</source>
-        <translation type="unfinished"></translation>
+        <translation>선택한 페이지의 설정만 선택</translation>
     </message>
     <message>
         <source>N&amp;one</source>
-        <translation type="unfinished"></translation>
+        <translation>없음(&amp;O)</translation>
     </message>
     <message>
         <source>Uncheck all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>모든 설정 선택 해제</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>저장(&amp;S)</translation>
     </message>
     <message>
         <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
-        <translation type="unfinished"></translation>
+        <translation>프리셋에 사용할 수 없는 이름입니다. 슬래시와 맨 앞의 마침표를 빼십시오.</translation>
     </message>
     <message numerus="yes">
         <source>%n settings are checked.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>설정 %n개를 선택했습니다.</numerusform>
         </translation>
     </message>
     <message>
         <source>The preset %1 will be replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>프리셋 %1을(를) 바꿉니다.</translation>
     </message>
 </context>
 <context>
@@ -2908,58 +2908,58 @@ a minus in front takes a tag away:</source>
     <name>ProfileFileActions</name>
     <message>
         <source>&amp;Open Profiles…</source>
-        <translation type="unfinished">프로필 열기(&amp;O)…</translation>
+        <translation>프로필 열기(&amp;O)…</translation>
     </message>
     <message>
         <source>&amp;Reload</source>
-        <translation type="unfinished">다시 불러오기(&amp;R)</translation>
+        <translation>다시 불러오기(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Save Profiles As…</source>
-        <translation type="unfinished">프로필을 다른 이름으로 저장(&amp;S)…</translation>
+        <translation>프로필을 다른 이름으로 저장(&amp;S)…</translation>
     </message>
     <message>
         <source>Open Profiles</source>
-        <translation type="unfinished">프로필 열기</translation>
+        <translation>프로필 열기</translation>
     </message>
     <message>
         <source>Profiles (*.json);;All files (*)</source>
-        <translation type="unfinished">프로필(*.json);;모든 파일(*)</translation>
+        <translation>프로필(*.json);;모든 파일(*)</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished">다시 불러오기</translation>
+        <translation>다시 불러오기</translation>
     </message>
     <message>
         <source>Save Profiles As</source>
-        <translation type="unfinished">프로필을 다른 이름으로 저장</translation>
+        <translation>프로필을 다른 이름으로 저장</translation>
     </message>
     <message>
         <source>Read-Only File</source>
-        <translation type="unfinished"></translation>
+        <translation>읽기 전용 파일</translation>
     </message>
     <message>
         <source>%1 cannot be changed. Save the profiles in another file first.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1을(를) 변경할 수 없습니다. 먼저 프로필을 다른 파일에 저장하십시오.</translation>
     </message>
     <message>
         <source>Save Profiles As…</source>
-        <translation type="unfinished">프로필을 다른 이름으로 저장…</translation>
+        <translation>프로필을 다른 이름으로 저장…</translation>
     </message>
 </context>
 <context>
     <name>ProfileHistory</name>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished">실행 취소(&amp;U)</translation>
+        <translation>실행 취소(&amp;U)</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished">다시 실행(&amp;R)</translation>
+        <translation>다시 실행(&amp;R)</translation>
     </message>
     <message>
         <source>This could not be done; nothing was changed.</source>
-        <translation type="unfinished">이 작업을 수행할 수 없습니다. 아무것도 변경되지 않았습니다.</translation>
+        <translation>이 작업을 수행할 수 없습니다. 아무것도 변경되지 않았습니다.</translation>
     </message>
 </context>
 <context>
@@ -3011,51 +3011,51 @@ a minus in front takes a tag away:</source>
     <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished">이름</translation>
+        <translation>이름</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished">상태</translation>
+        <translation>상태</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished">전원</translation>
+        <translation>전원</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished">소스</translation>
+        <translation>소스</translation>
     </message>
     <message>
         <source>Lamp</source>
-        <translation type="unfinished">램프</translation>
+        <translation>램프</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation type="unfinished">문제</translation>
+        <translation>문제</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished">모델</translation>
+        <translation>모델</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished">장소</translation>
+        <translation>장소</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished">설정</translation>
+        <translation>설정</translation>
     </message>
     <message>
         <source>Last answer</source>
-        <translation type="unfinished">마지막 응답</translation>
+        <translation>마지막 응답</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished">주소</translation>
+        <translation>주소</translation>
     </message>
     <message>
         <source>%1 · open</source>
-        <translation type="unfinished">%1 · 열림</translation>
+        <translation>%1 · 열림</translation>
     </message>
 </context>
 <context>
@@ -3217,35 +3217,35 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Settings saved in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>설정을 %1에 저장했습니다.</translation>
     </message>
     <message numerus="yes">
         <source>Settings of %n projectors saved in %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>프로젝터 %n대의 설정을 %1에 저장했습니다.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n settings could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>설정 %n개를 읽을 수 없었습니다.</numerusform>
         </translation>
     </message>
     <message>
         <source>Apply Settings</source>
-        <translation type="unfinished">설정 적용</translation>
+        <translation>설정 적용</translation>
     </message>
     <message>
         <source>Compare Settings</source>
-        <translation type="unfinished">설정 비교</translation>
+        <translation>설정 비교</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished">파일</translation>
+        <translation>파일</translation>
     </message>
     <message>
         <source>The values before are kept in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>이전 값은 %1에 보관되어 있습니다.</translation>
     </message>
 </context>
 <context>
@@ -3710,20 +3710,20 @@ a minus in front takes a tag away:</source>
     </message>
     <message numerus="yes">
         <source>%n projectors added</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>추가한 프로젝터 %n대</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n already known</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>이미 있음 %n대</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n rows not taken</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>가져오지 못한 행 %n개</numerusform>
         </translation>
     </message>
 </context>
@@ -3731,125 +3731,125 @@ a minus in front takes a tag away:</source>
     <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
-        <translation type="unfinished">켜기(&amp;N)</translation>
+        <translation>켜기(&amp;N)</translation>
     </message>
     <message>
         <source>Switch O&amp;ff</source>
-        <translation type="unfinished">끄기(&amp;F)</translation>
+        <translation>끄기(&amp;F)</translation>
     </message>
     <message>
         <source>P&amp;ower</source>
-        <translation type="unfinished">전원(&amp;W)</translation>
+        <translation>전원(&amp;W)</translation>
     </message>
     <message>
         <source>&amp;Input</source>
-        <translation type="unfinished">입력(&amp;I)</translation>
+        <translation>입력(&amp;I)</translation>
     </message>
     <message>
         <source>&amp;Blank</source>
-        <translation type="unfinished">빈 화면(&amp;B)</translation>
+        <translation>빈 화면(&amp;B)</translation>
     </message>
     <message>
         <source>Blank the Picture</source>
-        <translation type="unfinished">빈 화면으로 전환</translation>
+        <translation>빈 화면으로 전환</translation>
     </message>
     <message numerus="yes">
         <source>Blank the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>프로젝터 %n대를 빈 화면으로 전환하시겠습니까?</numerusform>
         </translation>
     </message>
     <message>
         <source>Show the Picture</source>
-        <translation type="unfinished">영상 표시</translation>
+        <translation>영상 표시</translation>
     </message>
     <message numerus="yes">
         <source>Show the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>프로젝터 %n대의 영상을 표시하시겠습니까?</numerusform>
         </translation>
     </message>
     <message>
         <source>&amp;Mute</source>
-        <translation type="unfinished">음소거(&amp;M)</translation>
+        <translation>음소거(&amp;M)</translation>
     </message>
     <message>
         <source>Mute the Sound</source>
-        <translation type="unfinished">음소거</translation>
+        <translation>음소거</translation>
     </message>
     <message numerus="yes">
         <source>Mute the sound of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>프로젝터 %n대를 음소거하시겠습니까?</numerusform>
         </translation>
     </message>
     <message>
         <source>Unmute the Sound</source>
-        <translation type="unfinished">음소거 해제</translation>
+        <translation>음소거 해제</translation>
     </message>
     <message numerus="yes">
         <source>Unmute the sound of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>프로젝터 %n대의 음소거를 해제하시겠습니까?</numerusform>
         </translation>
     </message>
     <message>
         <source>Free&amp;ze</source>
-        <translation type="unfinished">화면 정지(&amp;Z)</translation>
+        <translation>화면 정지(&amp;Z)</translation>
     </message>
     <message>
         <source>Freeze the Picture</source>
-        <translation type="unfinished">화면 정지</translation>
+        <translation>화면 정지</translation>
     </message>
     <message numerus="yes">
         <source>Freeze the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>프로젝터 %n대의 화면을 정지하시겠습니까?</numerusform>
         </translation>
     </message>
     <message>
         <source>Release the Picture</source>
-        <translation type="unfinished">화면 정지 해제</translation>
+        <translation>화면 정지 해제</translation>
     </message>
     <message numerus="yes">
         <source>Release the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>프로젝터 %n대의 화면 정지를 해제하시겠습니까?</numerusform>
         </translation>
     </message>
     <message>
         <source>Switch On</source>
-        <translation type="unfinished">켜기</translation>
+        <translation>켜기</translation>
     </message>
     <message>
         <source>Switch Off</source>
-        <translation type="unfinished">끄기</translation>
+        <translation>끄기</translation>
     </message>
     <message numerus="yes">
         <source>Switch on %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>프로젝터 %n대를 켜시겠습니까?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Switch off %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>프로젝터 %n대를 끄시겠습니까?</numerusform>
         </translation>
     </message>
     <message>
         <source>Input %1</source>
-        <translation type="unfinished">입력 %1</translation>
+        <translation>입력 %1</translation>
     </message>
     <message numerus="yes">
         <source>Choose the input %1 on %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>프로젝터 %n대의 입력을 %1(으)로 바꾸시겠습니까?</numerusform>
         </translation>
     </message>
     <message>
         <source>No inputs are known</source>
-        <translation type="unfinished">알려진 입력 없음</translation>
+        <translation>알려진 입력 없음</translation>
     </message>
 </context>
 <context>
@@ -3962,12 +3962,12 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message numerus="yes">
         <source>done, %n settings could not be read</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>완료, 설정 %n개를 읽을 수 없었음</numerusform>
         </translation>
     </message>
 </context>

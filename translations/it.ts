@@ -1567,55 +1567,55 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <name>ConnectionFields</name>
     <message>
         <source>&amp;Reached through</source>
-        <translation type="unfinished">&amp;Raggiungibile tramite</translation>
+        <translation>&amp;Raggiungibile tramite</translation>
     </message>
     <message>
         <source>Connect&amp;ion</source>
-        <translation type="unfinished">Connes&amp;sione</translation>
+        <translation>Connes&amp;sione</translation>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation type="unfinished">&amp;Indirizzo</translation>
+        <translation>&amp;Indirizzo</translation>
     </message>
     <message>
         <source>&amp;Port</source>
-        <translation type="unfinished">&amp;Porta</translation>
+        <translation>&amp;Porta</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
-        <translation type="unfinished">Pass&amp;word</translation>
+        <translation>Pass&amp;word</translation>
     </message>
     <message>
         <source>Port n&amp;umber</source>
-        <translation type="unfinished">N&amp;umero di porta</translation>
+        <translation>N&amp;umero di porta</translation>
     </message>
     <message>
         <source>&amp;Device</source>
-        <translation type="unfinished">&amp;Dispositivo</translation>
+        <translation>&amp;Dispositivo</translation>
     </message>
     <message>
         <source>&amp;Baud</source>
-        <translation type="unfinished">&amp;Baud</translation>
+        <translation>&amp;Baud</translation>
     </message>
     <message>
         <source>As its family</source>
-        <translation type="unfinished">Come la famiglia</translation>
+        <translation>Come la famiglia</translation>
     </message>
     <message>
         <source>Simulated</source>
-        <translation type="unfinished">Simulato</translation>
+        <translation>Simulato</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished">Rete</translation>
+        <translation>Rete</translation>
     </message>
     <message>
         <source>Serial port</source>
-        <translation type="unfinished">Porta seriale</translation>
+        <translation>Porta seriale</translation>
     </message>
     <message>
         <source>%1 is no address.</source>
-        <translation type="unfinished">%1 non è un indirizzo.</translation>
+        <translation>%1 non è un indirizzo.</translation>
     </message>
 </context>
 <context>
@@ -2359,27 +2359,27 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <name>ModelFields</name>
     <message>
         <source>&amp;Family</source>
-        <translation type="unfinished">&amp;Famiglia</translation>
+        <translation>&amp;Famiglia</translation>
     </message>
     <message>
         <source>&amp;Model</source>
-        <translation type="unfinished">&amp;Modello</translation>
+        <translation>&amp;Modello</translation>
     </message>
     <message>
         <source>All &amp;fields of the model</source>
-        <translation type="unfinished">Tutti i c&amp;ampi del modello</translation>
+        <translation>Tutti i c&amp;ampi del modello</translation>
     </message>
     <message>
         <source>Dialog &amp;type</source>
-        <translation type="unfinished">&amp;Tipo di finestra di dialogo</translation>
+        <translation>&amp;Tipo di finestra di dialogo</translation>
     </message>
     <message>
         <source>Model cod&amp;e</source>
-        <translation type="unfinished">&amp;Codice del modello</translation>
+        <translation>&amp;Codice del modello</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished">Nessuna</translation>
+        <translation>Nessuna</translation>
     </message>
 </context>
 <context>
@@ -2948,31 +2948,31 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     <name>ProfileFileActions</name>
     <message>
         <source>&amp;Open Profiles…</source>
-        <translation type="unfinished">&amp;Apri profili…</translation>
+        <translation>&amp;Apri profili…</translation>
     </message>
     <message>
         <source>&amp;Reload</source>
-        <translation type="unfinished">&amp;Ricarica</translation>
+        <translation>&amp;Ricarica</translation>
     </message>
     <message>
         <source>&amp;Save Profiles As…</source>
-        <translation type="unfinished">&amp;Salva profili con nome…</translation>
+        <translation>&amp;Salva profili con nome…</translation>
     </message>
     <message>
         <source>Open Profiles</source>
-        <translation type="unfinished">Apri profili</translation>
+        <translation>Apri profili</translation>
     </message>
     <message>
         <source>Profiles (*.json);;All files (*)</source>
-        <translation type="unfinished">Profili (*.json);;Tutti i file (*)</translation>
+        <translation>Profili (*.json);;Tutti i file (*)</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished">Ricarica</translation>
+        <translation>Ricarica</translation>
     </message>
     <message>
         <source>Save Profiles As</source>
-        <translation type="unfinished">Salva profili con nome</translation>
+        <translation>Salva profili con nome</translation>
     </message>
     <message>
         <source>Read-Only File</source>
@@ -2984,22 +2984,22 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     </message>
     <message>
         <source>Save Profiles As…</source>
-        <translation type="unfinished">Salva profili con nome…</translation>
+        <translation>Salva profili con nome…</translation>
     </message>
 </context>
 <context>
     <name>ProfileHistory</name>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished">Ann&amp;ulla</translation>
+        <translation>Ann&amp;ulla</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished">Ri&amp;peti</translation>
+        <translation>Ri&amp;peti</translation>
     </message>
     <message>
         <source>This could not be done; nothing was changed.</source>
-        <translation type="unfinished">Non è stato possibile; nulla è stato cambiato.</translation>
+        <translation>Non è stato possibile; nulla è stato cambiato.</translation>
     </message>
 </context>
 <context>
@@ -3052,51 +3052,51 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished">Nome</translation>
+        <translation>Nome</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished">Stato</translation>
+        <translation>Stato</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished">Alimentazione</translation>
+        <translation>Alimentazione</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished">Sorgente</translation>
+        <translation>Sorgente</translation>
     </message>
     <message>
         <source>Lamp</source>
-        <translation type="unfinished">Lampada</translation>
+        <translation>Lampada</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation type="unfinished">Problema</translation>
+        <translation>Problema</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished">Modello</translation>
+        <translation>Modello</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished">Luogo</translation>
+        <translation>Luogo</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished">Impostazioni</translation>
+        <translation>Impostazioni</translation>
     </message>
     <message>
         <source>Last answer</source>
-        <translation type="unfinished">Ultima risposta</translation>
+        <translation>Ultima risposta</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished">Indirizzo</translation>
+        <translation>Indirizzo</translation>
     </message>
     <message>
         <source>%1 · open</source>
-        <translation type="unfinished">%1 · aperta</translation>
+        <translation>%1 · aperta</translation>
     </message>
 </context>
 <context>
@@ -3781,134 +3781,134 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
-        <translation type="unfinished">Acce&amp;ndi</translation>
+        <translation>Acce&amp;ndi</translation>
     </message>
     <message>
         <source>Switch O&amp;ff</source>
-        <translation type="unfinished">S&amp;pegni</translation>
+        <translation>S&amp;pegni</translation>
     </message>
     <message>
         <source>P&amp;ower</source>
-        <translation type="unfinished">A&amp;limentazione</translation>
+        <translation>A&amp;limentazione</translation>
     </message>
     <message>
         <source>&amp;Input</source>
-        <translation type="unfinished">&amp;Ingresso</translation>
+        <translation>&amp;Ingresso</translation>
     </message>
     <message>
         <source>&amp;Blank</source>
-        <translation type="unfinished">Schermo &amp;vuoto</translation>
+        <translation>Schermo &amp;vuoto</translation>
     </message>
     <message>
         <source>Blank the Picture</source>
-        <translation type="unfinished">Mostra schermo vuoto</translation>
+        <translation>Mostra schermo vuoto</translation>
     </message>
     <message numerus="yes">
         <source>Blank the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Mostrare uno schermo vuoto su %n proiettore?</numerusform>
             <numerusform>Mostrare uno schermo vuoto su %n proiettori?</numerusform>
         </translation>
     </message>
     <message>
         <source>Show the Picture</source>
-        <translation type="unfinished">Mostra l’immagine</translation>
+        <translation>Mostra l’immagine</translation>
     </message>
     <message numerus="yes">
         <source>Show the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Mostrare l’immagine di %n proiettore?</numerusform>
             <numerusform>Mostrare l’immagine di %n proiettori?</numerusform>
         </translation>
     </message>
     <message>
         <source>&amp;Mute</source>
-        <translation type="unfinished">M&amp;uto</translation>
+        <translation>M&amp;uto</translation>
     </message>
     <message>
         <source>Mute the Sound</source>
-        <translation type="unfinished">Disattiva il suono</translation>
+        <translation>Disattiva il suono</translation>
     </message>
     <message numerus="yes">
         <source>Mute the sound of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Disattivare il suono di %n proiettore?</numerusform>
             <numerusform>Disattivare il suono di %n proiettori?</numerusform>
         </translation>
     </message>
     <message>
         <source>Unmute the Sound</source>
-        <translation type="unfinished">Riattiva il suono</translation>
+        <translation>Riattiva il suono</translation>
     </message>
     <message numerus="yes">
         <source>Unmute the sound of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Riattivare il suono di %n proiettore?</numerusform>
             <numerusform>Riattivare il suono di %n proiettori?</numerusform>
         </translation>
     </message>
     <message>
         <source>Free&amp;ze</source>
-        <translation type="unfinished">&amp;Fermo immagine</translation>
+        <translation>&amp;Fermo immagine</translation>
     </message>
     <message>
         <source>Freeze the Picture</source>
-        <translation type="unfinished">Ferma l’immagine</translation>
+        <translation>Ferma l’immagine</translation>
     </message>
     <message numerus="yes">
         <source>Freeze the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Fermare l’immagine di %n proiettore?</numerusform>
             <numerusform>Fermare l’immagine di %n proiettori?</numerusform>
         </translation>
     </message>
     <message>
         <source>Release the Picture</source>
-        <translation type="unfinished">Sblocca l’immagine</translation>
+        <translation>Sblocca l’immagine</translation>
     </message>
     <message numerus="yes">
         <source>Release the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Sbloccare l’immagine di %n proiettore?</numerusform>
             <numerusform>Sbloccare l’immagine di %n proiettori?</numerusform>
         </translation>
     </message>
     <message>
         <source>Switch On</source>
-        <translation type="unfinished">Accendi</translation>
+        <translation>Accendi</translation>
     </message>
     <message>
         <source>Switch Off</source>
-        <translation type="unfinished">Spegni</translation>
+        <translation>Spegni</translation>
     </message>
     <message numerus="yes">
         <source>Switch on %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Accendere %n proiettore?</numerusform>
             <numerusform>Accendere %n proiettori?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Switch off %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Spegnere %n proiettore?</numerusform>
             <numerusform>Spegnere %n proiettori?</numerusform>
         </translation>
     </message>
     <message>
         <source>Input %1</source>
-        <translation type="unfinished">Ingresso %1</translation>
+        <translation>Ingresso %1</translation>
     </message>
     <message numerus="yes">
         <source>Choose the input %1 on %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Scegliere l’ingresso %1 su %n proiettore?</numerusform>
             <numerusform>Scegliere l’ingresso %1 su %n proiettori?</numerusform>
         </translation>
     </message>
     <message>
         <source>No inputs are known</source>
-        <translation type="unfinished">Nessun ingresso noto</translation>
+        <translation>Nessun ingresso noto</translation>
     </message>
 </context>
 <context>

@@ -1567,55 +1567,55 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <name>ConnectionFields</name>
     <message>
         <source>&amp;Reached through</source>
-        <translation type="unfinished">Be&amp;reikbaar via</translation>
+        <translation>Be&amp;reikbaar via</translation>
     </message>
     <message>
         <source>Connect&amp;ion</source>
-        <translation type="unfinished">Ver&amp;binding</translation>
+        <translation>Ver&amp;binding</translation>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation type="unfinished">&amp;Adres</translation>
+        <translation>&amp;Adres</translation>
     </message>
     <message>
         <source>&amp;Port</source>
-        <translation type="unfinished">&amp;Poort</translation>
+        <translation>&amp;Poort</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
-        <translation type="unfinished">&amp;Wachtwoord</translation>
+        <translation>&amp;Wachtwoord</translation>
     </message>
     <message>
         <source>Port n&amp;umber</source>
-        <translation type="unfinished">Poortn&amp;ummer</translation>
+        <translation>Poortn&amp;ummer</translation>
     </message>
     <message>
         <source>&amp;Device</source>
-        <translation type="unfinished">Apparaa&amp;t</translation>
+        <translation>Apparaa&amp;t</translation>
     </message>
     <message>
         <source>&amp;Baud</source>
-        <translation type="unfinished">Bau&amp;drate</translation>
+        <translation>Bau&amp;drate</translation>
     </message>
     <message>
         <source>As its family</source>
-        <translation type="unfinished">Zoals de familie</translation>
+        <translation>Zoals de familie</translation>
     </message>
     <message>
         <source>Simulated</source>
-        <translation type="unfinished">Gesimuleerd</translation>
+        <translation>Gesimuleerd</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished">Netwerk</translation>
+        <translation>Netwerk</translation>
     </message>
     <message>
         <source>Serial port</source>
-        <translation type="unfinished">Seriële poort</translation>
+        <translation>Seriële poort</translation>
     </message>
     <message>
         <source>%1 is no address.</source>
-        <translation type="unfinished">%1 is geen adres.</translation>
+        <translation>%1 is geen adres.</translation>
     </message>
 </context>
 <context>
@@ -2359,27 +2359,27 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <name>ModelFields</name>
     <message>
         <source>&amp;Family</source>
-        <translation type="unfinished">&amp;Familie</translation>
+        <translation>&amp;Familie</translation>
     </message>
     <message>
         <source>&amp;Model</source>
-        <translation type="unfinished">&amp;Model</translation>
+        <translation>&amp;Model</translation>
     </message>
     <message>
         <source>All &amp;fields of the model</source>
-        <translation type="unfinished">Alle &amp;velden van het model</translation>
+        <translation>Alle &amp;velden van het model</translation>
     </message>
     <message>
         <source>Dialog &amp;type</source>
-        <translation type="unfinished">&amp;Soort dialoogvenster</translation>
+        <translation>&amp;Soort dialoogvenster</translation>
     </message>
     <message>
         <source>Model cod&amp;e</source>
-        <translation type="unfinished">Model&amp;code</translation>
+        <translation>Model&amp;code</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished">Geen</translation>
+        <translation>Geen</translation>
     </message>
 </context>
 <context>
@@ -2948,31 +2948,31 @@ een minteken ervoor neemt een label weg:</numerusform>
     <name>ProfileFileActions</name>
     <message>
         <source>&amp;Open Profiles…</source>
-        <translation type="unfinished">Profielen &amp;openen…</translation>
+        <translation>Profielen &amp;openen…</translation>
     </message>
     <message>
         <source>&amp;Reload</source>
-        <translation type="unfinished">&amp;Herladen</translation>
+        <translation>&amp;Herladen</translation>
     </message>
     <message>
         <source>&amp;Save Profiles As…</source>
-        <translation type="unfinished">&amp;Profielen opslaan als…</translation>
+        <translation>&amp;Profielen opslaan als…</translation>
     </message>
     <message>
         <source>Open Profiles</source>
-        <translation type="unfinished">Profielen openen</translation>
+        <translation>Profielen openen</translation>
     </message>
     <message>
         <source>Profiles (*.json);;All files (*)</source>
-        <translation type="unfinished">Profielen (*.json);;Alle bestanden (*)</translation>
+        <translation>Profielen (*.json);;Alle bestanden (*)</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished">Herladen</translation>
+        <translation>Herladen</translation>
     </message>
     <message>
         <source>Save Profiles As</source>
-        <translation type="unfinished">Profielen opslaan als</translation>
+        <translation>Profielen opslaan als</translation>
     </message>
     <message>
         <source>Read-Only File</source>
@@ -2984,22 +2984,22 @@ een minteken ervoor neemt een label weg:</numerusform>
     </message>
     <message>
         <source>Save Profiles As…</source>
-        <translation type="unfinished">Profielen opslaan als…</translation>
+        <translation>Profielen opslaan als…</translation>
     </message>
 </context>
 <context>
     <name>ProfileHistory</name>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished">&amp;Ongedaan maken</translation>
+        <translation>&amp;Ongedaan maken</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished">Op&amp;nieuw</translation>
+        <translation>Op&amp;nieuw</translation>
     </message>
     <message>
         <source>This could not be done; nothing was changed.</source>
-        <translation type="unfinished">Dit was niet mogelijk; er is niets gewijzigd.</translation>
+        <translation>Dit was niet mogelijk; er is niets gewijzigd.</translation>
     </message>
 </context>
 <context>
@@ -3052,51 +3052,51 @@ een minteken ervoor neemt een label weg:</numerusform>
     <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished">Naam</translation>
+        <translation>Naam</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished">Toestand</translation>
+        <translation>Toestand</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished">Voeding</translation>
+        <translation>Voeding</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished">Bron</translation>
+        <translation>Bron</translation>
     </message>
     <message>
         <source>Lamp</source>
-        <translation type="unfinished">Lamp</translation>
+        <translation>Lamp</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation type="unfinished">Probleem</translation>
+        <translation>Probleem</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished">Model</translation>
+        <translation>Model</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished">Plaats</translation>
+        <translation>Plaats</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished">Instellingen</translation>
+        <translation>Instellingen</translation>
     </message>
     <message>
         <source>Last answer</source>
-        <translation type="unfinished">Laatste antwoord</translation>
+        <translation>Laatste antwoord</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished">Adres</translation>
+        <translation>Adres</translation>
     </message>
     <message>
         <source>%1 · open</source>
-        <translation type="unfinished">%1 · open</translation>
+        <translation>%1 · open</translation>
     </message>
 </context>
 <context>
@@ -3781,134 +3781,134 @@ een minteken ervoor neemt een label weg:</numerusform>
     <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
-        <translation type="unfinished">I&amp;nschakelen</translation>
+        <translation>I&amp;nschakelen</translation>
     </message>
     <message>
         <source>Switch O&amp;ff</source>
-        <translation type="unfinished">&amp;Uitschakelen</translation>
+        <translation>&amp;Uitschakelen</translation>
     </message>
     <message>
         <source>P&amp;ower</source>
-        <translation type="unfinished">V&amp;oeding</translation>
+        <translation>V&amp;oeding</translation>
     </message>
     <message>
         <source>&amp;Input</source>
-        <translation type="unfinished">In&amp;gang</translation>
+        <translation>In&amp;gang</translation>
     </message>
     <message>
         <source>&amp;Blank</source>
-        <translation type="unfinished">&amp;Leeg beeld</translation>
+        <translation>&amp;Leeg beeld</translation>
     </message>
     <message>
         <source>Blank the Picture</source>
-        <translation type="unfinished">Leeg beeld tonen</translation>
+        <translation>Leeg beeld tonen</translation>
     </message>
     <message numerus="yes">
         <source>Blank the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Een leeg beeld tonen op %n projector?</numerusform>
             <numerusform>Een leeg beeld tonen op %n projectors?</numerusform>
         </translation>
     </message>
     <message>
         <source>Show the Picture</source>
-        <translation type="unfinished">Beeld tonen</translation>
+        <translation>Beeld tonen</translation>
     </message>
     <message numerus="yes">
         <source>Show the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Het beeld van %n projector tonen?</numerusform>
             <numerusform>Het beeld van %n projectors tonen?</numerusform>
         </translation>
     </message>
     <message>
         <source>&amp;Mute</source>
-        <translation type="unfinished">De&amp;mpen</translation>
+        <translation>De&amp;mpen</translation>
     </message>
     <message>
         <source>Mute the Sound</source>
-        <translation type="unfinished">Geluid dempen</translation>
+        <translation>Geluid dempen</translation>
     </message>
     <message numerus="yes">
         <source>Mute the sound of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Het geluid van %n projector dempen?</numerusform>
             <numerusform>Het geluid van %n projectors dempen?</numerusform>
         </translation>
     </message>
     <message>
         <source>Unmute the Sound</source>
-        <translation type="unfinished">Geluid inschakelen</translation>
+        <translation>Geluid inschakelen</translation>
     </message>
     <message numerus="yes">
         <source>Unmute the sound of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Het geluid van %n projector inschakelen?</numerusform>
             <numerusform>Het geluid van %n projectors inschakelen?</numerusform>
         </translation>
     </message>
     <message>
         <source>Free&amp;ze</source>
-        <translation type="unfinished">Beeld be&amp;vriezen</translation>
+        <translation>Beeld be&amp;vriezen</translation>
     </message>
     <message>
         <source>Freeze the Picture</source>
-        <translation type="unfinished">Beeld bevriezen</translation>
+        <translation>Beeld bevriezen</translation>
     </message>
     <message numerus="yes">
         <source>Freeze the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Het beeld van %n projector bevriezen?</numerusform>
             <numerusform>Het beeld van %n projectors bevriezen?</numerusform>
         </translation>
     </message>
     <message>
         <source>Release the Picture</source>
-        <translation type="unfinished">Beeld vrijgeven</translation>
+        <translation>Beeld vrijgeven</translation>
     </message>
     <message numerus="yes">
         <source>Release the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Het beeld van %n projector vrijgeven?</numerusform>
             <numerusform>Het beeld van %n projectors vrijgeven?</numerusform>
         </translation>
     </message>
     <message>
         <source>Switch On</source>
-        <translation type="unfinished">Inschakelen</translation>
+        <translation>Inschakelen</translation>
     </message>
     <message>
         <source>Switch Off</source>
-        <translation type="unfinished">Uitschakelen</translation>
+        <translation>Uitschakelen</translation>
     </message>
     <message numerus="yes">
         <source>Switch on %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n projector inschakelen?</numerusform>
             <numerusform>%n projectors inschakelen?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Switch off %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n projector uitschakelen?</numerusform>
             <numerusform>%n projectors uitschakelen?</numerusform>
         </translation>
     </message>
     <message>
         <source>Input %1</source>
-        <translation type="unfinished">Ingang %1</translation>
+        <translation>Ingang %1</translation>
     </message>
     <message numerus="yes">
         <source>Choose the input %1 on %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Ingang %1 kiezen op %n projector?</numerusform>
             <numerusform>Ingang %1 kiezen op %n projectors?</numerusform>
         </translation>
     </message>
     <message>
         <source>No inputs are known</source>
-        <translation type="unfinished">Geen ingangen bekend</translation>
+        <translation>Geen ingangen bekend</translation>
     </message>
 </context>
 <context>

@@ -1525,14 +1525,14 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">Ustawienie</translation>
+        <translation>Ustawienie</translation>
     </message>
 </context>
 <context>
     <name>ComparisonDialog</name>
     <message>
         <source>Progress</source>
-        <translation type="unfinished">Postęp</translation>
+        <translation>Postęp</translation>
     </message>
     <message>
         <source>&amp;Ask Again</source>
@@ -1540,23 +1540,23 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     </message>
     <message>
         <source>&amp;Apply</source>
-        <translation type="unfinished">&amp;Zastosuj</translation>
+        <translation>&amp;Zastosuj</translation>
     </message>
     <message>
         <source>Reading settings…</source>
-        <translation type="unfinished">Odczytywanie ustawień…</translation>
+        <translation>Odczytywanie ustawień…</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished">Zatrzymaj</translation>
+        <translation>Zatrzymaj</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Anuluj</translation>
+        <translation>Anuluj</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Zamknij</translation>
+        <translation>Zamknij</translation>
     </message>
     <message>
         <source>Nothing differs.</source>
@@ -1807,7 +1807,7 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     <name>DifferenceTree</name>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">Ustawienie</translation>
+        <translation>Ustawienie</translation>
     </message>
     <message>
         <source>Now</source>
@@ -1823,7 +1823,7 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     </message>
     <message numerus="yes">
         <source>%n settings</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n ustawienie</numerusform>
             <numerusform>%n ustawienia</numerusform>
             <numerusform>%n ustawień</numerusform>
@@ -1847,7 +1847,7 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -2647,15 +2647,15 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     <name>PresetDialog</name>
     <message>
         <source>Save as Preset</source>
-        <translation type="unfinished">Zapis zestawu</translation>
+        <translation>Zapis zestawu</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">Ustawienie</translation>
+        <translation>Ustawienie</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">Wartość</translation>
+        <translation>Wartość</translation>
     </message>
     <message>
         <source>Settings of the preset</source>
@@ -3325,15 +3325,15 @@ minus przed tagiem go usuwa:</numerusform>
     </message>
     <message>
         <source>Apply Settings</source>
-        <translation type="unfinished">Stosowanie ustawień</translation>
+        <translation>Stosowanie ustawień</translation>
     </message>
     <message>
         <source>Compare Settings</source>
-        <translation type="unfinished">Porównanie ustawień</translation>
+        <translation>Porównanie ustawień</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished">Plik</translation>
+        <translation>Plik</translation>
     </message>
     <message>
         <source>The values before are kept in %1.</source>
@@ -4086,7 +4086,7 @@ minus przed tagiem go usuwa:</numerusform>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message numerus="yes">
         <source>done, %n settings could not be read</source>

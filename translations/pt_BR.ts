@@ -1567,55 +1567,55 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <name>ConnectionFields</name>
     <message>
         <source>&amp;Reached through</source>
-        <translation type="unfinished">Acessível &amp;por</translation>
+        <translation>Acessível &amp;por</translation>
     </message>
     <message>
         <source>Connect&amp;ion</source>
-        <translation type="unfinished">Cone&amp;xão</translation>
+        <translation>Cone&amp;xão</translation>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation type="unfinished">&amp;Endereço</translation>
+        <translation>&amp;Endereço</translation>
     </message>
     <message>
         <source>&amp;Port</source>
-        <translation type="unfinished">P&amp;orta</translation>
+        <translation>P&amp;orta</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
-        <translation type="unfinished">&amp;Senha</translation>
+        <translation>&amp;Senha</translation>
     </message>
     <message>
         <source>Port n&amp;umber</source>
-        <translation type="unfinished">N&amp;úmero da porta</translation>
+        <translation>N&amp;úmero da porta</translation>
     </message>
     <message>
         <source>&amp;Device</source>
-        <translation type="unfinished">&amp;Dispositivo</translation>
+        <translation>&amp;Dispositivo</translation>
     </message>
     <message>
         <source>&amp;Baud</source>
-        <translation type="unfinished">&amp;Taxa em bauds</translation>
+        <translation>&amp;Taxa em bauds</translation>
     </message>
     <message>
         <source>As its family</source>
-        <translation type="unfinished">Como sua família</translation>
+        <translation>Como sua família</translation>
     </message>
     <message>
         <source>Simulated</source>
-        <translation type="unfinished">Simulado</translation>
+        <translation>Simulado</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished">Rede</translation>
+        <translation>Rede</translation>
     </message>
     <message>
         <source>Serial port</source>
-        <translation type="unfinished">Porta serial</translation>
+        <translation>Porta serial</translation>
     </message>
     <message>
         <source>%1 is no address.</source>
-        <translation type="unfinished">%1 não é um endereço.</translation>
+        <translation>%1 não é um endereço.</translation>
     </message>
 </context>
 <context>
@@ -2359,27 +2359,27 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <name>ModelFields</name>
     <message>
         <source>&amp;Family</source>
-        <translation type="unfinished">&amp;Família</translation>
+        <translation>&amp;Família</translation>
     </message>
     <message>
         <source>&amp;Model</source>
-        <translation type="unfinished">&amp;Modelo</translation>
+        <translation>&amp;Modelo</translation>
     </message>
     <message>
         <source>All &amp;fields of the model</source>
-        <translation type="unfinished">Todos os campos do mode&amp;lo</translation>
+        <translation>Todos os campos do mode&amp;lo</translation>
     </message>
     <message>
         <source>Dialog &amp;type</source>
-        <translation type="unfinished">&amp;Tipo de caixa de diálogo</translation>
+        <translation>&amp;Tipo de caixa de diálogo</translation>
     </message>
     <message>
         <source>Model cod&amp;e</source>
-        <translation type="unfinished">&amp;Código do modelo</translation>
+        <translation>&amp;Código do modelo</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished">Nenhuma</translation>
+        <translation>Nenhuma</translation>
     </message>
 </context>
 <context>
@@ -2948,31 +2948,31 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
     <name>ProfileFileActions</name>
     <message>
         <source>&amp;Open Profiles…</source>
-        <translation type="unfinished">&amp;Abrir perfis…</translation>
+        <translation>&amp;Abrir perfis…</translation>
     </message>
     <message>
         <source>&amp;Reload</source>
-        <translation type="unfinished">&amp;Recarregar</translation>
+        <translation>&amp;Recarregar</translation>
     </message>
     <message>
         <source>&amp;Save Profiles As…</source>
-        <translation type="unfinished">Sal&amp;var perfis como…</translation>
+        <translation>Sal&amp;var perfis como…</translation>
     </message>
     <message>
         <source>Open Profiles</source>
-        <translation type="unfinished">Abrir perfis</translation>
+        <translation>Abrir perfis</translation>
     </message>
     <message>
         <source>Profiles (*.json);;All files (*)</source>
-        <translation type="unfinished">Perfis (*.json);;Todos os arquivos (*)</translation>
+        <translation>Perfis (*.json);;Todos os arquivos (*)</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished">Recarregar</translation>
+        <translation>Recarregar</translation>
     </message>
     <message>
         <source>Save Profiles As</source>
-        <translation type="unfinished">Salvar perfis como</translation>
+        <translation>Salvar perfis como</translation>
     </message>
     <message>
         <source>Read-Only File</source>
@@ -2984,22 +2984,22 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
     </message>
     <message>
         <source>Save Profiles As…</source>
-        <translation type="unfinished">Salvar perfis como…</translation>
+        <translation>Salvar perfis como…</translation>
     </message>
 </context>
 <context>
     <name>ProfileHistory</name>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished">&amp;Desfazer</translation>
+        <translation>&amp;Desfazer</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished">Re&amp;fazer</translation>
+        <translation>Re&amp;fazer</translation>
     </message>
     <message>
         <source>This could not be done; nothing was changed.</source>
-        <translation type="unfinished">Não foi possível; nada foi alterado.</translation>
+        <translation>Não foi possível; nada foi alterado.</translation>
     </message>
 </context>
 <context>
@@ -3052,51 +3052,51 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
     <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished">Nome</translation>
+        <translation>Nome</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished">Estado</translation>
+        <translation>Estado</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished">Alimentação</translation>
+        <translation>Alimentação</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished">Fonte</translation>
+        <translation>Fonte</translation>
     </message>
     <message>
         <source>Lamp</source>
-        <translation type="unfinished">Lâmpada</translation>
+        <translation>Lâmpada</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation type="unfinished">Problema</translation>
+        <translation>Problema</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished">Modelo</translation>
+        <translation>Modelo</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished">Local</translation>
+        <translation>Local</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished">Ajustes</translation>
+        <translation>Ajustes</translation>
     </message>
     <message>
         <source>Last answer</source>
-        <translation type="unfinished">Última resposta</translation>
+        <translation>Última resposta</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished">Endereço</translation>
+        <translation>Endereço</translation>
     </message>
     <message>
         <source>%1 · open</source>
-        <translation type="unfinished">%1 · aberto</translation>
+        <translation>%1 · aberto</translation>
     </message>
 </context>
 <context>
@@ -3781,134 +3781,134 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
     <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
-        <translation type="unfinished">&amp;Ligar</translation>
+        <translation>&amp;Ligar</translation>
     </message>
     <message>
         <source>Switch O&amp;ff</source>
-        <translation type="unfinished">&amp;Desligar</translation>
+        <translation>&amp;Desligar</translation>
     </message>
     <message>
         <source>P&amp;ower</source>
-        <translation type="unfinished">Alime&amp;ntação</translation>
+        <translation>Alime&amp;ntação</translation>
     </message>
     <message>
         <source>&amp;Input</source>
-        <translation type="unfinished">&amp;Entrada</translation>
+        <translation>&amp;Entrada</translation>
     </message>
     <message>
         <source>&amp;Blank</source>
-        <translation type="unfinished">Tela &amp;vazia</translation>
+        <translation>Tela &amp;vazia</translation>
     </message>
     <message>
         <source>Blank the Picture</source>
-        <translation type="unfinished">Mostrar tela vazia</translation>
+        <translation>Mostrar tela vazia</translation>
     </message>
     <message numerus="yes">
         <source>Blank the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Mostrar uma tela vazia em %n projetor?</numerusform>
             <numerusform>Mostrar uma tela vazia em %n projetores?</numerusform>
         </translation>
     </message>
     <message>
         <source>Show the Picture</source>
-        <translation type="unfinished">Mostrar a imagem</translation>
+        <translation>Mostrar a imagem</translation>
     </message>
     <message numerus="yes">
         <source>Show the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Mostrar a imagem de %n projetor?</numerusform>
             <numerusform>Mostrar a imagem de %n projetores?</numerusform>
         </translation>
     </message>
     <message>
         <source>&amp;Mute</source>
-        <translation type="unfinished">M&amp;udo</translation>
+        <translation>M&amp;udo</translation>
     </message>
     <message>
         <source>Mute the Sound</source>
-        <translation type="unfinished">Silenciar o som</translation>
+        <translation>Silenciar o som</translation>
     </message>
     <message numerus="yes">
         <source>Mute the sound of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Silenciar o som de %n projetor?</numerusform>
             <numerusform>Silenciar o som de %n projetores?</numerusform>
         </translation>
     </message>
     <message>
         <source>Unmute the Sound</source>
-        <translation type="unfinished">Ativar o som</translation>
+        <translation>Ativar o som</translation>
     </message>
     <message numerus="yes">
         <source>Unmute the sound of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Ativar o som de %n projetor?</numerusform>
             <numerusform>Ativar o som de %n projetores?</numerusform>
         </translation>
     </message>
     <message>
         <source>Free&amp;ze</source>
-        <translation type="unfinished">Con&amp;gelar</translation>
+        <translation>Con&amp;gelar</translation>
     </message>
     <message>
         <source>Freeze the Picture</source>
-        <translation type="unfinished">Congelar a imagem</translation>
+        <translation>Congelar a imagem</translation>
     </message>
     <message numerus="yes">
         <source>Freeze the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Congelar a imagem de %n projetor?</numerusform>
             <numerusform>Congelar a imagem de %n projetores?</numerusform>
         </translation>
     </message>
     <message>
         <source>Release the Picture</source>
-        <translation type="unfinished">Descongelar a imagem</translation>
+        <translation>Descongelar a imagem</translation>
     </message>
     <message numerus="yes">
         <source>Release the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Descongelar a imagem de %n projetor?</numerusform>
             <numerusform>Descongelar a imagem de %n projetores?</numerusform>
         </translation>
     </message>
     <message>
         <source>Switch On</source>
-        <translation type="unfinished">Ligar</translation>
+        <translation>Ligar</translation>
     </message>
     <message>
         <source>Switch Off</source>
-        <translation type="unfinished">Desligar</translation>
+        <translation>Desligar</translation>
     </message>
     <message numerus="yes">
         <source>Switch on %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Ligar %n projetor?</numerusform>
             <numerusform>Ligar %n projetores?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Switch off %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Desligar %n projetor?</numerusform>
             <numerusform>Desligar %n projetores?</numerusform>
         </translation>
     </message>
     <message>
         <source>Input %1</source>
-        <translation type="unfinished">Entrada %1</translation>
+        <translation>Entrada %1</translation>
     </message>
     <message numerus="yes">
         <source>Choose the input %1 on %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Escolher a entrada %1 em %n projetor?</numerusform>
             <numerusform>Escolher a entrada %1 em %n projetores?</numerusform>
         </translation>
     </message>
     <message>
         <source>No inputs are known</source>
-        <translation type="unfinished">Nenhuma entrada conhecida</translation>
+        <translation>Nenhuma entrada conhecida</translation>
     </message>
 </context>
 <context>

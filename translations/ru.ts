@@ -1525,14 +1525,14 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">Настройка</translation>
+        <translation>Настройка</translation>
     </message>
 </context>
 <context>
     <name>ComparisonDialog</name>
     <message>
         <source>Progress</source>
-        <translation type="unfinished">Ход выполнения</translation>
+        <translation>Ход выполнения</translation>
     </message>
     <message>
         <source>&amp;Ask Again</source>
@@ -1540,23 +1540,23 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
     <message>
         <source>&amp;Apply</source>
-        <translation type="unfinished">&amp;Применить</translation>
+        <translation>&amp;Применить</translation>
     </message>
     <message>
         <source>Reading settings…</source>
-        <translation type="unfinished">Чтение настроек…</translation>
+        <translation>Чтение настроек…</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished">Остановить</translation>
+        <translation>Остановить</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Отмена</translation>
+        <translation>Отмена</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Закрыть</translation>
+        <translation>Закрыть</translation>
     </message>
     <message>
         <source>Nothing differs.</source>
@@ -1807,7 +1807,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     <name>DifferenceTree</name>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">Настройка</translation>
+        <translation>Настройка</translation>
     </message>
     <message>
         <source>Now</source>
@@ -1823,7 +1823,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
     <message numerus="yes">
         <source>%n settings</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n настройка</numerusform>
             <numerusform>%n настройки</numerusform>
             <numerusform>%n настроек</numerusform>
@@ -1847,7 +1847,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -2647,15 +2647,15 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     <name>PresetDialog</name>
     <message>
         <source>Save as Preset</source>
-        <translation type="unfinished">Сохранение пресета</translation>
+        <translation>Сохранение пресета</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">Настройка</translation>
+        <translation>Настройка</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">Значение</translation>
+        <translation>Значение</translation>
     </message>
     <message>
         <source>Settings of the preset</source>
@@ -3325,15 +3325,15 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Apply Settings</source>
-        <translation type="unfinished">Применение настроек</translation>
+        <translation>Применение настроек</translation>
     </message>
     <message>
         <source>Compare Settings</source>
-        <translation type="unfinished">Сравнение настроек</translation>
+        <translation>Сравнение настроек</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished">Файл</translation>
+        <translation>Файл</translation>
     </message>
     <message>
         <source>The values before are kept in %1.</source>
@@ -4086,7 +4086,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message numerus="yes">
         <source>done, %n settings could not be read</source>

@@ -1007,19 +1007,19 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>Prints what differs from a file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra ciò che differisce da un file (“-” è l’input standard), da una preimpostazione dell’applicazione grafica o dal file di ciascun proiettore in una cartella.</translation>
     </message>
     <message>
         <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Legge i proiettori, invia ciò che differisce dal file (“-” è l’input standard), da una preimpostazione dell’applicazione grafica o dal file di ciascun proiettore in una cartella, e lo rilegge. Ciò che viene sostituito è prima conservato, perché “acctl undo” possa ripristinarlo. Un’esecuzione interrotta può essere ripetuta in qualsiasi momento.</translation>
     </message>
     <message>
         <source>the value before could not be read, and cannot be restored</source>
-        <translation type="unfinished"></translation>
+        <translation>non è stato possibile leggere il valore precedente, che quindi non può essere ripristinato</translation>
     </message>
     <message>
         <source>the value before could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>non è stato possibile leggere il valore precedente</translation>
     </message>
 </context>
 <context>
@@ -1437,15 +1437,15 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>Projector, setting, command or result</source>
-        <translation type="unfinished"></translation>
+        <translation>Proiettore, impostazione, comando o risultato</translation>
     </message>
     <message>
         <source>All projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutti i proiettori</translation>
     </message>
     <message>
         <source>Show the commands of</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra i comandi di</translation>
     </message>
 </context>
 <context>
@@ -1515,7 +1515,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>&amp;Ask Again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Interroga di nuovo</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -1539,27 +1539,27 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>Nothing differs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna differenza.</translation>
     </message>
     <message numerus="yes">
         <source>%n projectors differ.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n proiettore differisce.</numerusform>
+            <numerusform>%n proiettori differiscono.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n projectors have all these settings already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n proiettore ha già tutte queste impostazioni.</numerusform>
+            <numerusform>%n proiettori hanno già tutte queste impostazioni.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n projectors could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Non è stato possibile leggere %n proiettore.</numerusform>
+            <numerusform>Non è stato possibile leggere %n proiettori.</numerusform>
         </translation>
     </message>
 </context>
@@ -1786,15 +1786,15 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Ora</translation>
     </message>
     <message>
         <source>Differences</source>
-        <translation type="unfinished"></translation>
+        <translation>Differenze</translation>
     </message>
     <message>
         <source>First the other sources and modes</source>
-        <translation type="unfinished"></translation>
+        <translation>Prima le altre sorgenti e modalità</translation>
     </message>
     <message numerus="yes">
         <source>%n settings</source>
@@ -1805,16 +1805,16 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message numerus="yes">
         <source>%n settings do not apply to this model</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n impostazione non riguarda questo modello</numerusform>
+            <numerusform>%n impostazioni non riguardano questo modello</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n settings cannot be read now</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n impostazione ora non può essere letta</numerusform>
+            <numerusform>%n impostazioni ora non possono essere lette</numerusform>
         </translation>
     </message>
     <message>
@@ -2007,7 +2007,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <message>
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2, %3 ms</translation>
     </message>
 </context>
 <context>
@@ -2059,9 +2059,9 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <message numerus="yes">
         <source>%n not watched</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n non sorvegliato</numerusform>
+            <numerusform>%n non sorvegliati</numerusform>
         </translation>
     </message>
 </context>
@@ -2145,7 +2145,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>the projector reports none of its settings now</source>
-        <translation type="unfinished"></translation>
+        <translation>il proiettore al momento non comunica nessuna impostazione</translation>
     </message>
 </context>
 <context>
@@ -2502,23 +2502,23 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>As the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Come il desktop</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiaro</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Scuro</translation>
     </message>
     <message>
         <source>&amp;Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Colori</translation>
     </message>
     <message>
         <source>(the same time twice: none)</source>
-        <translation type="unfinished"></translation>
+        <translation>(due orari uguali: nessuna)</translation>
     </message>
 </context>
 <context>
@@ -2592,19 +2592,19 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>Reading the settings of %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lettura delle impostazioni di %1…</translation>
     </message>
     <message>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Preimpostazione</translation>
     </message>
     <message>
         <source>What It Should Be</source>
-        <translation type="unfinished"></translation>
+        <translation>Stato voluto</translation>
     </message>
     <message>
         <source>Should be</source>
-        <translation type="unfinished"></translation>
+        <translation>Valore voluto</translation>
     </message>
 </context>
 <context>
@@ -2623,54 +2623,54 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni della preimpostazione</translation>
     </message>
     <message>
         <source>&amp;Name of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nome della preimpostazione</translation>
     </message>
     <message>
         <source>&amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tutte</translation>
     </message>
     <message>
         <source>Check all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleziona tutte le impostazioni</translation>
     </message>
     <message>
         <source>This &amp;Page</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa &amp;pagina</translation>
     </message>
     <message>
         <source>Check the settings of the selected page, and no others</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleziona solo le impostazioni della pagina corrente</translation>
     </message>
     <message>
         <source>N&amp;one</source>
-        <translation type="unfinished"></translation>
+        <translation>N&amp;essuna</translation>
     </message>
     <message>
         <source>Uncheck all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Deseleziona tutte le impostazioni</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Salva</translation>
     </message>
     <message>
         <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome non valido per una preimpostazione: non usare barre né un punto iniziale.</translation>
     </message>
     <message numerus="yes">
         <source>%n settings are checked.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n impostazione selezionata.</numerusform>
+            <numerusform>%n impostazioni selezionate.</numerusform>
         </translation>
     </message>
     <message>
         <source>The preset %1 will be replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>La preimpostazione %1 sarà sostituita.</translation>
     </message>
 </context>
 <context>
@@ -2976,11 +2976,11 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     </message>
     <message>
         <source>Read-Only File</source>
-        <translation type="unfinished"></translation>
+        <translation>File in sola lettura</translation>
     </message>
     <message>
         <source>%1 cannot be changed. Save the profiles in another file first.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non può essere modificato. Salvare prima i profili in un altro file.</translation>
     </message>
     <message>
         <source>Save Profiles As…</source>
@@ -3261,20 +3261,20 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     </message>
     <message>
         <source>Settings saved in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni salvate in %1.</translation>
     </message>
     <message numerus="yes">
         <source>Settings of %n projectors saved in %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Impostazioni di %n proiettore salvate in %1.</numerusform>
+            <numerusform>Impostazioni di %n proiettori salvate in %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n settings could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Non è stato possibile leggere %n impostazione.</numerusform>
+            <numerusform>Non è stato possibile leggere %n impostazioni.</numerusform>
         </translation>
     </message>
     <message>
@@ -3291,7 +3291,7 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     </message>
     <message>
         <source>The values before are kept in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>I valori precedenti sono conservati in %1.</translation>
     </message>
 </context>
 <context>
@@ -3757,23 +3757,23 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     </message>
     <message numerus="yes">
         <source>%n projectors added</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n proiettore aggiunto</numerusform>
+            <numerusform>%n proiettori aggiunti</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n already known</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n già presente</numerusform>
+            <numerusform>%n già presenti</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n rows not taken</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n riga non importata</numerusform>
+            <numerusform>%n righe non importate</numerusform>
         </translation>
     </message>
 </context>
@@ -4028,9 +4028,9 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     </message>
     <message numerus="yes">
         <source>done, %n settings could not be read</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>completato, non è stato possibile leggere %n impostazione</numerusform>
+            <numerusform>completato, non è stato possibile leggere %n impostazioni</numerusform>
         </translation>
     </message>
 </context>

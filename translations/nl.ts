@@ -1007,19 +1007,19 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>Prints what differs from a file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Toont wat afwijkt van een bestand (‘-’ is de standaardinvoer), van een voorinstelling van de grafische toepassing of van het eigen bestand van elke projector in een map.</translation>
     </message>
     <message>
         <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Leest de projectors, stuurt wat afwijkt van het bestand (‘-’ is de standaardinvoer), van een voorinstelling van de grafische toepassing of van het eigen bestand van elke projector in een map, en leest het terug. Wat vervangen wordt, wordt eerst bewaard, zodat ‘acctl undo’ het kan herstellen. Een afgebroken uitvoering kan altijd herhaald worden.</translation>
     </message>
     <message>
         <source>the value before could not be read, and cannot be restored</source>
-        <translation type="unfinished"></translation>
+        <translation>de vorige waarde kon niet gelezen worden en kan niet hersteld worden</translation>
     </message>
     <message>
         <source>the value before could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>de vorige waarde kon niet gelezen worden</translation>
     </message>
 </context>
 <context>
@@ -1437,15 +1437,15 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>Projector, setting, command or result</source>
-        <translation type="unfinished"></translation>
+        <translation>Projector, instelling, opdracht of resultaat</translation>
     </message>
     <message>
         <source>All projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle projectors</translation>
     </message>
     <message>
         <source>Show the commands of</source>
-        <translation type="unfinished"></translation>
+        <translation>Opdrachten tonen van</translation>
     </message>
 </context>
 <context>
@@ -1515,7 +1515,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>&amp;Ask Again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Opnieuw opvragen</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -1539,27 +1539,27 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>Nothing differs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geen verschillen.</translation>
     </message>
     <message numerus="yes">
         <source>%n projectors differ.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n projector wijkt af.</numerusform>
+            <numerusform>%n projectors wijken af.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n projectors have all these settings already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n projector heeft al deze instellingen al.</numerusform>
+            <numerusform>%n projectors hebben al deze instellingen al.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n projectors could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n projector kon niet gelezen worden.</numerusform>
+            <numerusform>%n projectors konden niet gelezen worden.</numerusform>
         </translation>
     </message>
 </context>
@@ -1786,15 +1786,15 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Nu</translation>
     </message>
     <message>
         <source>Differences</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschillen</translation>
     </message>
     <message>
         <source>First the other sources and modes</source>
-        <translation type="unfinished"></translation>
+        <translation>Eerst de andere bronnen en modi</translation>
     </message>
     <message numerus="yes">
         <source>%n settings</source>
@@ -1805,16 +1805,16 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message numerus="yes">
         <source>%n settings do not apply to this model</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n instelling is niet van toepassing op dit model</numerusform>
+            <numerusform>%n instellingen zijn niet van toepassing op dit model</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n settings cannot be read now</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n instelling kan nu niet gelezen worden</numerusform>
+            <numerusform>%n instellingen kunnen nu niet gelezen worden</numerusform>
         </translation>
     </message>
     <message>
@@ -2007,7 +2007,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <message>
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2, %3 ms</translation>
     </message>
 </context>
 <context>
@@ -2059,9 +2059,9 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <message numerus="yes">
         <source>%n not watched</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n niet bewaakt</numerusform>
+            <numerusform>%n niet bewaakt</numerusform>
         </translation>
     </message>
 </context>
@@ -2145,7 +2145,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>the projector reports none of its settings now</source>
-        <translation type="unfinished"></translation>
+        <translation>de projector meldt op dit moment geen enkele instelling</translation>
     </message>
 </context>
 <context>
@@ -2482,7 +2482,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>Ask each projector &amp;every</source>
-        <translation>Elke projector be&amp;vragen om de</translation>
+        <translation>Elke pro&amp;jector bevragen om de</translation>
     </message>
     <message>
         <source>Alerts</source>
@@ -2502,23 +2502,23 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>As the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoals het bureaublad</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Licht</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Donker</translation>
     </message>
     <message>
         <source>&amp;Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kleuren</translation>
     </message>
     <message>
         <source>(the same time twice: none)</source>
-        <translation type="unfinished"></translation>
+        <translation>(twee gelijke tijden: geen)</translation>
     </message>
 </context>
 <context>
@@ -2592,19 +2592,19 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>Reading the settings of %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Instellingen van %1 worden gelezen…</translation>
     </message>
     <message>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Voorinstelling</translation>
     </message>
     <message>
         <source>What It Should Be</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewenste toestand</translation>
     </message>
     <message>
         <source>Should be</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewenst</translation>
     </message>
 </context>
 <context>
@@ -2623,54 +2623,54 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Instellingen van de voorinstelling</translation>
     </message>
     <message>
         <source>&amp;Name of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Naam van de voorinstelling</translation>
     </message>
     <message>
         <source>&amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alle</translation>
     </message>
     <message>
         <source>Check all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle instellingen aankruisen</translation>
     </message>
     <message>
         <source>This &amp;Page</source>
-        <translation type="unfinished"></translation>
+        <translation>Deze &amp;pagina</translation>
     </message>
     <message>
         <source>Check the settings of the selected page, and no others</source>
-        <translation type="unfinished"></translation>
+        <translation>Alleen de instellingen van de gekozen pagina aankruisen</translation>
     </message>
     <message>
         <source>N&amp;one</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Geen</translation>
     </message>
     <message>
         <source>Uncheck all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Geen enkele instelling aankruisen</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Op&amp;slaan</translation>
     </message>
     <message>
         <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deze naam is niet toegestaan: gebruik geen slashes en begin niet met een punt.</translation>
     </message>
     <message numerus="yes">
         <source>%n settings are checked.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n instelling aangekruist.</numerusform>
+            <numerusform>%n instellingen aangekruist.</numerusform>
         </translation>
     </message>
     <message>
         <source>The preset %1 will be replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>De voorinstelling %1 wordt vervangen.</translation>
     </message>
 </context>
 <context>
@@ -2976,11 +2976,11 @@ een minteken ervoor neemt een label weg:</numerusform>
     </message>
     <message>
         <source>Read-Only File</source>
-        <translation type="unfinished"></translation>
+        <translation>Alleen-lezenbestand</translation>
     </message>
     <message>
         <source>%1 cannot be changed. Save the profiles in another file first.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kan niet gewijzigd worden. Sla de profielen eerst in een ander bestand op.</translation>
     </message>
     <message>
         <source>Save Profiles As…</source>
@@ -3261,20 +3261,20 @@ een minteken ervoor neemt een label weg:</numerusform>
     </message>
     <message>
         <source>Settings saved in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Instellingen opgeslagen in %1.</translation>
     </message>
     <message numerus="yes">
         <source>Settings of %n projectors saved in %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Instellingen van %n projector opgeslagen in %1.</numerusform>
+            <numerusform>Instellingen van %n projectors opgeslagen in %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n settings could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n instelling kon niet gelezen worden.</numerusform>
+            <numerusform>%n instellingen konden niet gelezen worden.</numerusform>
         </translation>
     </message>
     <message>
@@ -3291,7 +3291,7 @@ een minteken ervoor neemt een label weg:</numerusform>
     </message>
     <message>
         <source>The values before are kept in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>De vorige waarden zijn bewaard in %1.</translation>
     </message>
 </context>
 <context>
@@ -3757,23 +3757,23 @@ een minteken ervoor neemt een label weg:</numerusform>
     </message>
     <message numerus="yes">
         <source>%n projectors added</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n projector toegevoegd</numerusform>
+            <numerusform>%n projectors toegevoegd</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n already known</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n al bekend</numerusform>
+            <numerusform>%n al bekend</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n rows not taken</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n rij niet overgenomen</numerusform>
+            <numerusform>%n rijen niet overgenomen</numerusform>
         </translation>
     </message>
 </context>
@@ -4028,9 +4028,9 @@ een minteken ervoor neemt een label weg:</numerusform>
     </message>
     <message numerus="yes">
         <source>done, %n settings could not be read</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>klaar, %n instelling kon niet gelezen worden</numerusform>
+            <numerusform>klaar, %n instellingen konden niet gelezen worden</numerusform>
         </translation>
     </message>
 </context>

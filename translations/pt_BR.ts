@@ -1007,19 +1007,19 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>Prints what differs from a file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra o que difere de um arquivo (“-” é a entrada padrão), de uma predefinição do aplicativo gráfico ou do arquivo de cada projetor em uma pasta.</translation>
     </message>
     <message>
         <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lê os projetores, envia o que difere do arquivo (“-” é a entrada padrão), de uma predefinição do aplicativo gráfico ou do arquivo de cada projetor em uma pasta, e relê. O que é substituído é guardado antes, para que “acctl undo” possa restaurá-lo. Uma execução interrompida pode ser repetida a qualquer momento.</translation>
     </message>
     <message>
         <source>the value before could not be read, and cannot be restored</source>
-        <translation type="unfinished"></translation>
+        <translation>não foi possível ler o valor anterior, que não poderá ser restaurado</translation>
     </message>
     <message>
         <source>the value before could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>não foi possível ler o valor anterior</translation>
     </message>
 </context>
 <context>
@@ -1437,15 +1437,15 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>Projector, setting, command or result</source>
-        <translation type="unfinished"></translation>
+        <translation>Projetor, ajuste, comando ou resultado</translation>
     </message>
     <message>
         <source>All projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos os projetores</translation>
     </message>
     <message>
         <source>Show the commands of</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar os comandos de</translation>
     </message>
 </context>
 <context>
@@ -1515,7 +1515,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>&amp;Ask Again</source>
-        <translation type="unfinished"></translation>
+        <translation>Consultar &amp;novamente</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -1539,27 +1539,27 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>Nothing differs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhuma diferença.</translation>
     </message>
     <message numerus="yes">
         <source>%n projectors differ.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n projetor difere.</numerusform>
+            <numerusform>%n projetores diferem.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n projectors have all these settings already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n projetor já tem todos esses ajustes.</numerusform>
+            <numerusform>%n projetores já têm todos esses ajustes.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n projectors could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Não foi possível ler %n projetor.</numerusform>
+            <numerusform>Não foi possível ler %n projetores.</numerusform>
         </translation>
     </message>
 </context>
@@ -1786,15 +1786,15 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Agora</translation>
     </message>
     <message>
         <source>Differences</source>
-        <translation type="unfinished"></translation>
+        <translation>Diferenças</translation>
     </message>
     <message>
         <source>First the other sources and modes</source>
-        <translation type="unfinished"></translation>
+        <translation>Primeiro as outras fontes e modos</translation>
     </message>
     <message numerus="yes">
         <source>%n settings</source>
@@ -1805,16 +1805,16 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message numerus="yes">
         <source>%n settings do not apply to this model</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ajuste não se aplica a este modelo</numerusform>
+            <numerusform>%n ajustes não se aplicam a este modelo</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n settings cannot be read now</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ajuste não pode ser lido agora</numerusform>
+            <numerusform>%n ajustes não podem ser lidos agora</numerusform>
         </translation>
     </message>
     <message>
@@ -2007,7 +2007,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <message>
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2, %3 ms</translation>
     </message>
 </context>
 <context>
@@ -2059,9 +2059,9 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <message numerus="yes">
         <source>%n not watched</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n não monitorado</numerusform>
+            <numerusform>%n não monitorados</numerusform>
         </translation>
     </message>
 </context>
@@ -2145,7 +2145,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>the projector reports none of its settings now</source>
-        <translation type="unfinished"></translation>
+        <translation>o projetor não informa nenhum ajuste no momento</translation>
     </message>
 </context>
 <context>
@@ -2502,23 +2502,23 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>As the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Igual à área de trabalho</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Claro</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Escuro</translation>
     </message>
     <message>
         <source>&amp;Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;res</translation>
     </message>
     <message>
         <source>(the same time twice: none)</source>
-        <translation type="unfinished"></translation>
+        <translation>(dois horários iguais: nenhuma)</translation>
     </message>
 </context>
 <context>
@@ -2592,19 +2592,19 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>Reading the settings of %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lendo os ajustes de %1…</translation>
     </message>
     <message>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Predefinição</translation>
     </message>
     <message>
         <source>What It Should Be</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado desejado</translation>
     </message>
     <message>
         <source>Should be</source>
-        <translation type="unfinished"></translation>
+        <translation>Desejado</translation>
     </message>
 </context>
 <context>
@@ -2623,54 +2623,54 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustes da predefinição</translation>
     </message>
     <message>
         <source>&amp;Name of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nome da predefinição</translation>
     </message>
     <message>
         <source>&amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Todos</translation>
     </message>
     <message>
         <source>Check all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcar todos os ajustes</translation>
     </message>
     <message>
         <source>This &amp;Page</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta &amp;página</translation>
     </message>
     <message>
         <source>Check the settings of the selected page, and no others</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcar somente os ajustes da página selecionada</translation>
     </message>
     <message>
         <source>N&amp;one</source>
-        <translation type="unfinished"></translation>
+        <translation>N&amp;enhum</translation>
     </message>
     <message>
         <source>Uncheck all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Desmarcar todos os ajustes</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Salvar</translation>
     </message>
     <message>
         <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome inválido para uma predefinição: não use barras nem comece com um ponto.</translation>
     </message>
     <message numerus="yes">
         <source>%n settings are checked.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ajuste marcado.</numerusform>
+            <numerusform>%n ajustes marcados.</numerusform>
         </translation>
     </message>
     <message>
         <source>The preset %1 will be replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>A predefinição %1 será substituída.</translation>
     </message>
 </context>
 <context>
@@ -2976,11 +2976,11 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
     </message>
     <message>
         <source>Read-Only File</source>
-        <translation type="unfinished"></translation>
+        <translation>Arquivo somente leitura</translation>
     </message>
     <message>
         <source>%1 cannot be changed. Save the profiles in another file first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível alterar %1. Salve antes os perfis em outro arquivo.</translation>
     </message>
     <message>
         <source>Save Profiles As…</source>
@@ -3261,20 +3261,20 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
     </message>
     <message>
         <source>Settings saved in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustes salvos em %1.</translation>
     </message>
     <message numerus="yes">
         <source>Settings of %n projectors saved in %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ajustes de %n projetor salvos em %1.</numerusform>
+            <numerusform>Ajustes de %n projetores salvos em %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n settings could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Não foi possível ler %n ajuste.</numerusform>
+            <numerusform>Não foi possível ler %n ajustes.</numerusform>
         </translation>
     </message>
     <message>
@@ -3291,7 +3291,7 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
     </message>
     <message>
         <source>The values before are kept in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Os valores anteriores estão guardados em %1.</translation>
     </message>
 </context>
 <context>
@@ -3757,23 +3757,23 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
     </message>
     <message numerus="yes">
         <source>%n projectors added</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n projetor adicionado</numerusform>
+            <numerusform>%n projetores adicionados</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n already known</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n já conhecido</numerusform>
+            <numerusform>%n já conhecidos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n rows not taken</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n linha não importada</numerusform>
+            <numerusform>%n linhas não importadas</numerusform>
         </translation>
     </message>
 </context>
@@ -4028,9 +4028,9 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
     </message>
     <message numerus="yes">
         <source>done, %n settings could not be read</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>concluído, não foi possível ler %n ajuste</numerusform>
+            <numerusform>concluído, não foi possível ler %n ajustes</numerusform>
         </translation>
     </message>
 </context>

@@ -1386,7 +1386,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>Save &amp;Log As…</source>
-        <translation>Salva &amp;registro con nome…</translation>
+        <translation>Salva re&amp;gistro con nome…</translation>
     </message>
     <message>
         <source>Clea&amp;r Log…</source>
@@ -1970,7 +1970,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>&amp;Delay</source>
-        <translation>&amp;Ritardo</translation>
+        <translation>Ritar&amp;do</translation>
     </message>
     <message>
         <source>&amp;In force</source>
@@ -2300,7 +2300,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>&amp;Preferences…</source>
-        <translation>&amp;Preferenze…</translation>
+        <translation>Pre&amp;ferenze…</translation>
     </message>
     <message>
         <source>&amp;Projector</source>
@@ -2696,7 +2696,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>&amp;Remove…</source>
-        <translation>Ri&amp;muovi…</translation>
+        <translation>&amp;Rimuovi…</translation>
     </message>
     <message>
         <source>Ta&amp;g…</source>
@@ -3229,15 +3229,15 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     <name>SettingsActions</name>
     <message>
         <source>Save Se&amp;ttings…</source>
-        <translation>Sa&amp;lva impostazioni…</translation>
+        <translation>&amp;Salva impostazioni…</translation>
     </message>
     <message>
         <source>&amp;Compare with File…</source>
-        <translation>Con&amp;fronta con file…</translation>
+        <translation>Co&amp;nfronta con file…</translation>
     </message>
     <message>
         <source>A&amp;pply Settings…</source>
-        <translation>Appl&amp;ica impostazioni…</translation>
+        <translation>Appli&amp;ca impostazioni…</translation>
     </message>
     <message>
         <source>Save Settings</source>
@@ -3713,7 +3713,7 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     <name>TransferActions</name>
     <message>
         <source>Find on the &amp;Network…</source>
-        <translation>Cerca nella &amp;rete…</translation>
+        <translation>&amp;Cerca nella rete…</translation>
     </message>
     <message>
         <source>&amp;Import Table…</source>
@@ -3721,7 +3721,7 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     </message>
     <message>
         <source>E&amp;xport Table…</source>
-        <translation>E&amp;sporta tabella…</translation>
+        <translation>Esp&amp;orta tabella…</translation>
     </message>
     <message>
         <source>Find Projectors</source>

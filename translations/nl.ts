@@ -2300,7 +2300,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>&amp;Preferences…</source>
-        <translation>&amp;Voorkeuren…</translation>
+        <translation>Voor&amp;keuren…</translation>
     </message>
     <message>
         <source>&amp;Projector</source>
@@ -3229,11 +3229,11 @@ een minteken ervoor neemt een label weg:</numerusform>
     <name>SettingsActions</name>
     <message>
         <source>Save Se&amp;ttings…</source>
-        <translation>&amp;Instellingen opslaan…</translation>
+        <translation>Instellingen op&amp;slaan…</translation>
     </message>
     <message>
         <source>&amp;Compare with File…</source>
-        <translation>Ver&amp;gelijken met bestand…</translation>
+        <translation>Vergelij&amp;ken met bestand…</translation>
     </message>
     <message>
         <source>A&amp;pply Settings…</source>
@@ -3713,7 +3713,7 @@ een minteken ervoor neemt een label weg:</numerusform>
     <name>TransferActions</name>
     <message>
         <source>Find on the &amp;Network…</source>
-        <translation>Zoeken in het &amp;netwerk…</translation>
+        <translation>&amp;Zoeken in het netwerk…</translation>
     </message>
     <message>
         <source>&amp;Import Table…</source>
@@ -3789,7 +3789,7 @@ een minteken ervoor neemt een label weg:</numerusform>
     </message>
     <message>
         <source>P&amp;ower</source>
-        <translation>V&amp;oeding</translation>
+        <translation>Voe&amp;ding</translation>
     </message>
     <message>
         <source>&amp;Input</source>

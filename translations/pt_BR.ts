@@ -1378,7 +1378,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <name>CommandLog</name>
     <message>
         <source>Changes &amp;Only</source>
-        <translation>Somente &amp;alterações</translation>
+        <translation>Somente al&amp;terações</translation>
     </message>
     <message>
         <source>&amp;Errors Only</source>
@@ -1386,7 +1386,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>Save &amp;Log As…</source>
-        <translation>Salvar &amp;registro como…</translation>
+        <translation>Salvar re&amp;gistro como…</translation>
     </message>
     <message>
         <source>Clea&amp;r Log…</source>

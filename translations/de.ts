@@ -1007,19 +1007,19 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
     <message>
         <source>Prints what differs from a file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gibt aus, was von einer Datei („-“ ist die Standardeingabe), von einer Vorgabe der Anwendung oder von der eigenen Datei jedes Projektors in einem Ordner abweicht.</translation>
     </message>
     <message>
         <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Liest die Projektoren, sendet, was von der Datei („-“ ist die Standardeingabe), von einer Vorgabe der Anwendung oder von der eigenen Datei jedes Projektors in einem Ordner abweicht, und liest es zurück. Was ersetzt wird, wird vorher gesichert, damit „acctl undo“ es wiederherstellen kann. Ein unterbrochener Lauf kann jederzeit wiederholt werden.</translation>
     </message>
     <message>
         <source>the value before could not be read, and cannot be restored</source>
-        <translation type="unfinished"></translation>
+        <translation>der vorherige Wert konnte nicht gelesen werden und kann nicht wiederhergestellt werden</translation>
     </message>
     <message>
         <source>the value before could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>der vorherige Wert konnte nicht gelesen werden</translation>
     </message>
 </context>
 <context>
@@ -1437,15 +1437,15 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
     <message>
         <source>Projector, setting, command or result</source>
-        <translation type="unfinished"></translation>
+        <translation>Projektor, Einstellung, Befehl oder Ergebnis</translation>
     </message>
     <message>
         <source>All projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Projektoren</translation>
     </message>
     <message>
         <source>Show the commands of</source>
-        <translation type="unfinished"></translation>
+        <translation>Befehle zeigen von</translation>
     </message>
 </context>
 <context>
@@ -1515,7 +1515,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
     <message>
         <source>&amp;Ask Again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Erneut abfragen</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -1539,27 +1539,27 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
     <message>
         <source>Nothing differs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts weicht ab.</translation>
     </message>
     <message numerus="yes">
         <source>%n projectors differ.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Projektor weicht ab.</numerusform>
+            <numerusform>%n Projektoren weichen ab.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n projectors have all these settings already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Projektor hat alle diese Einstellungen schon.</numerusform>
+            <numerusform>%n Projektoren haben alle diese Einstellungen schon.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n projectors could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Projektor konnte nicht gelesen werden.</numerusform>
+            <numerusform>%n Projektoren konnten nicht gelesen werden.</numerusform>
         </translation>
     </message>
 </context>
@@ -1567,55 +1567,55 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <name>ConnectionFields</name>
     <message>
         <source>&amp;Reached through</source>
-        <translation type="unfinished">E&amp;rreichbar über</translation>
+        <translation>E&amp;rreichbar über</translation>
     </message>
     <message>
         <source>Connect&amp;ion</source>
-        <translation type="unfinished">Ver&amp;bindung</translation>
+        <translation>Ver&amp;bindung</translation>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation type="unfinished">&amp;Adresse</translation>
+        <translation>&amp;Adresse</translation>
     </message>
     <message>
         <source>&amp;Port</source>
-        <translation type="unfinished">&amp;Port</translation>
+        <translation>&amp;Port</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
-        <translation type="unfinished">Pass&amp;wort</translation>
+        <translation>Pass&amp;wort</translation>
     </message>
     <message>
         <source>Port n&amp;umber</source>
-        <translation type="unfinished">Portn&amp;ummer</translation>
+        <translation>Portn&amp;ummer</translation>
     </message>
     <message>
         <source>&amp;Device</source>
-        <translation type="unfinished">&amp;Gerät</translation>
+        <translation>&amp;Gerät</translation>
     </message>
     <message>
         <source>&amp;Baud</source>
-        <translation type="unfinished">Ba&amp;udrate</translation>
+        <translation>Ba&amp;udrate</translation>
     </message>
     <message>
         <source>As its family</source>
-        <translation type="unfinished">Wie die Familie</translation>
+        <translation>Wie die Familie</translation>
     </message>
     <message>
         <source>Simulated</source>
-        <translation type="unfinished">Simuliert</translation>
+        <translation>Simuliert</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished">Netzwerk</translation>
+        <translation>Netzwerk</translation>
     </message>
     <message>
         <source>Serial port</source>
-        <translation type="unfinished">Serielle Schnittstelle</translation>
+        <translation>Serielle Schnittstelle</translation>
     </message>
     <message>
         <source>%1 is no address.</source>
-        <translation type="unfinished">%1 ist keine Adresse.</translation>
+        <translation>%1 ist keine Adresse.</translation>
     </message>
 </context>
 <context>
@@ -1786,15 +1786,15 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
     <message>
         <source>Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Jetzt</translation>
     </message>
     <message>
         <source>Differences</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterschiede</translation>
     </message>
     <message>
         <source>First the other sources and modes</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuerst die anderen Quellen und Betriebsarten</translation>
     </message>
     <message numerus="yes">
         <source>%n settings</source>
@@ -1805,16 +1805,16 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
     <message numerus="yes">
         <source>%n settings do not apply to this model</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Einstellung gilt für dieses Modell nicht</numerusform>
+            <numerusform>%n Einstellungen gelten für dieses Modell nicht</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n settings cannot be read now</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Einstellung kann gerade nicht gelesen werden</numerusform>
+            <numerusform>%n Einstellungen können gerade nicht gelesen werden</numerusform>
         </translation>
     </message>
     <message>
@@ -2059,9 +2059,9 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <message numerus="yes">
         <source>%n not watched</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n nicht beobachtet</numerusform>
+            <numerusform>%n nicht beobachtet</numerusform>
         </translation>
     </message>
 </context>
@@ -2145,7 +2145,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
     <message>
         <source>the projector reports none of its settings now</source>
-        <translation type="unfinished"></translation>
+        <translation>der Projektor meldet gerade keine seiner Einstellungen</translation>
     </message>
 </context>
 <context>
@@ -2359,27 +2359,27 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <name>ModelFields</name>
     <message>
         <source>&amp;Family</source>
-        <translation type="unfinished">&amp;Familie</translation>
+        <translation>&amp;Familie</translation>
     </message>
     <message>
         <source>&amp;Model</source>
-        <translation type="unfinished">&amp;Modell</translation>
+        <translation>&amp;Modell</translation>
     </message>
     <message>
         <source>All &amp;fields of the model</source>
-        <translation type="unfinished">Alle Fel&amp;der des Modells</translation>
+        <translation>Alle Fel&amp;der des Modells</translation>
     </message>
     <message>
         <source>Dialog &amp;type</source>
-        <translation type="unfinished">Dialogt&amp;yp</translation>
+        <translation>Dialogt&amp;yp</translation>
     </message>
     <message>
         <source>Model cod&amp;e</source>
-        <translation type="unfinished">Modell&amp;code</translation>
+        <translation>Modell&amp;code</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished">Keine</translation>
+        <translation>Keine</translation>
     </message>
 </context>
 <context>
@@ -2502,23 +2502,23 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
     <message>
         <source>As the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie der Desktop</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Hell</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunkel</translation>
     </message>
     <message>
         <source>&amp;Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Farben</translation>
     </message>
     <message>
         <source>(the same time twice: none)</source>
-        <translation type="unfinished"></translation>
+        <translation>(zweimal dieselbe Zeit: keine)</translation>
     </message>
 </context>
 <context>
@@ -2592,19 +2592,19 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
     <message>
         <source>Reading the settings of %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen von %1 werden gelesen …</translation>
     </message>
     <message>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgabe</translation>
     </message>
     <message>
         <source>What It Should Be</source>
-        <translation type="unfinished"></translation>
+        <translation>Sollzustand</translation>
     </message>
     <message>
         <source>Should be</source>
-        <translation type="unfinished"></translation>
+        <translation>Soll entsprechen</translation>
     </message>
 </context>
 <context>
@@ -2623,54 +2623,54 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen der Vorgabe</translation>
     </message>
     <message>
         <source>&amp;Name of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Name der Vorgabe</translation>
     </message>
     <message>
         <source>&amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alle</translation>
     </message>
     <message>
         <source>Check all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Einstellungen markieren</translation>
     </message>
     <message>
         <source>This &amp;Page</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese &amp;Seite</translation>
     </message>
     <message>
         <source>Check the settings of the selected page, and no others</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungen der gewählten Seite markieren und keine anderen</translation>
     </message>
     <message>
         <source>N&amp;one</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Keine</translation>
     </message>
     <message>
         <source>Uncheck all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Einstellung markieren</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;peichern</translation>
     </message>
     <message>
         <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
-        <translation type="unfinished"></translation>
+        <translation>So kann eine Vorgabe nicht heißen: keine Schrägstriche und kein Punkt am Anfang.</translation>
     </message>
     <message numerus="yes">
         <source>%n settings are checked.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Einstellung ist markiert.</numerusform>
+            <numerusform>%n Einstellungen sind markiert.</numerusform>
         </translation>
     </message>
     <message>
         <source>The preset %1 will be replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Vorgabe %1 wird ersetzt.</translation>
     </message>
 </context>
 <context>
@@ -2948,31 +2948,31 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
     <name>ProfileFileActions</name>
     <message>
         <source>&amp;Open Profiles…</source>
-        <translation type="unfinished">Profile ö&amp;ffnen …</translation>
+        <translation>Profile ö&amp;ffnen …</translation>
     </message>
     <message>
         <source>&amp;Reload</source>
-        <translation type="unfinished">&amp;Neu laden</translation>
+        <translation>&amp;Neu laden</translation>
     </message>
     <message>
         <source>&amp;Save Profiles As…</source>
-        <translation type="unfinished">Profile &amp;speichern unter …</translation>
+        <translation>Profile &amp;speichern unter …</translation>
     </message>
     <message>
         <source>Open Profiles</source>
-        <translation type="unfinished">Profile öffnen</translation>
+        <translation>Profile öffnen</translation>
     </message>
     <message>
         <source>Profiles (*.json);;All files (*)</source>
-        <translation type="unfinished">Profile (*.json);;Alle Dateien (*)</translation>
+        <translation>Profile (*.json);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished">Neu laden</translation>
+        <translation>Neu laden</translation>
     </message>
     <message>
         <source>Save Profiles As</source>
-        <translation type="unfinished">Profile speichern unter</translation>
+        <translation>Profile speichern unter</translation>
     </message>
     <message>
         <source>Read-Only File</source>
@@ -2984,22 +2984,22 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
     </message>
     <message>
         <source>Save Profiles As…</source>
-        <translation type="unfinished">Profile speichern unter …</translation>
+        <translation>Profile speichern unter …</translation>
     </message>
 </context>
 <context>
     <name>ProfileHistory</name>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished">&amp;Rückgängig</translation>
+        <translation>&amp;Rückgängig</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished">&amp;Wiederholen</translation>
+        <translation>&amp;Wiederholen</translation>
     </message>
     <message>
         <source>This could not be done; nothing was changed.</source>
-        <translation type="unfinished">Das war nicht möglich; nichts wurde geändert.</translation>
+        <translation>Das war nicht möglich; nichts wurde geändert.</translation>
     </message>
 </context>
 <context>
@@ -3052,51 +3052,51 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
     <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished">Name</translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished">Zustand</translation>
+        <translation>Zustand</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished">Ein/Aus</translation>
+        <translation>Ein/Aus</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished">Quelle</translation>
+        <translation>Quelle</translation>
     </message>
     <message>
         <source>Lamp</source>
-        <translation type="unfinished">Lampe</translation>
+        <translation>Lampe</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation type="unfinished">Problem</translation>
+        <translation>Problem</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished">Modell</translation>
+        <translation>Modell</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished">Ort</translation>
+        <translation>Ort</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished">Einstellungen</translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>Last answer</source>
-        <translation type="unfinished">Letzte Antwort</translation>
+        <translation>Letzte Antwort</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished">Adresse</translation>
+        <translation>Adresse</translation>
     </message>
     <message>
         <source>%1 · open</source>
-        <translation type="unfinished">%1 · offen</translation>
+        <translation>%1 · offen</translation>
     </message>
 </context>
 <context>
@@ -3261,20 +3261,20 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
     </message>
     <message>
         <source>Settings saved in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen in %1 gespeichert.</translation>
     </message>
     <message numerus="yes">
         <source>Settings of %n projectors saved in %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Einstellungen von %n Projektor in %1 gespeichert.</numerusform>
+            <numerusform>Einstellungen von %n Projektoren in %1 gespeichert.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n settings could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Einstellung konnte nicht gelesen werden.</numerusform>
+            <numerusform>%n Einstellungen konnten nicht gelesen werden.</numerusform>
         </translation>
     </message>
     <message>
@@ -3291,7 +3291,7 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
     </message>
     <message>
         <source>The values before are kept in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die vorherigen Werte sind in %1 gesichert.</translation>
     </message>
 </context>
 <context>
@@ -3781,134 +3781,134 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
     <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
-        <translation type="unfinished">Ei&amp;nschalten</translation>
+        <translation>Ei&amp;nschalten</translation>
     </message>
     <message>
         <source>Switch O&amp;ff</source>
-        <translation type="unfinished">Auss&amp;chalten</translation>
+        <translation>Auss&amp;chalten</translation>
     </message>
     <message>
         <source>P&amp;ower</source>
-        <translation type="unfinished">&amp;Ein/Aus</translation>
+        <translation>&amp;Ein/Aus</translation>
     </message>
     <message>
         <source>&amp;Input</source>
-        <translation type="unfinished">E&amp;ingang</translation>
+        <translation>E&amp;ingang</translation>
     </message>
     <message>
         <source>&amp;Blank</source>
-        <translation type="unfinished">&amp;Leerbild</translation>
+        <translation>&amp;Leerbild</translation>
     </message>
     <message>
         <source>Blank the Picture</source>
-        <translation type="unfinished">Leerbild zeigen</translation>
+        <translation>Leerbild zeigen</translation>
     </message>
     <message numerus="yes">
         <source>Blank the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Auf %n Projektor ein Leerbild zeigen?</numerusform>
             <numerusform>Auf %n Projektoren ein Leerbild zeigen?</numerusform>
         </translation>
     </message>
     <message>
         <source>Show the Picture</source>
-        <translation type="unfinished">Bild zeigen</translation>
+        <translation>Bild zeigen</translation>
     </message>
     <message numerus="yes">
         <source>Show the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Auf %n Projektor das Bild zeigen?</numerusform>
             <numerusform>Auf %n Projektoren das Bild zeigen?</numerusform>
         </translation>
     </message>
     <message>
         <source>&amp;Mute</source>
-        <translation type="unfinished">&amp;Stumm</translation>
+        <translation>&amp;Stumm</translation>
     </message>
     <message>
         <source>Mute the Sound</source>
-        <translation type="unfinished">Ton stummschalten</translation>
+        <translation>Ton stummschalten</translation>
     </message>
     <message numerus="yes">
         <source>Mute the sound of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Ton von %n Projektor stummschalten?</numerusform>
             <numerusform>Ton von %n Projektoren stummschalten?</numerusform>
         </translation>
     </message>
     <message>
         <source>Unmute the Sound</source>
-        <translation type="unfinished">Ton einschalten</translation>
+        <translation>Ton einschalten</translation>
     </message>
     <message numerus="yes">
         <source>Unmute the sound of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Ton von %n Projektor einschalten?</numerusform>
             <numerusform>Ton von %n Projektoren einschalten?</numerusform>
         </translation>
     </message>
     <message>
         <source>Free&amp;ze</source>
-        <translation type="unfinished">Ein&amp;frieren</translation>
+        <translation>Ein&amp;frieren</translation>
     </message>
     <message>
         <source>Freeze the Picture</source>
-        <translation type="unfinished">Bild einfrieren</translation>
+        <translation>Bild einfrieren</translation>
     </message>
     <message numerus="yes">
         <source>Freeze the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Bild von %n Projektor einfrieren?</numerusform>
             <numerusform>Bild von %n Projektoren einfrieren?</numerusform>
         </translation>
     </message>
     <message>
         <source>Release the Picture</source>
-        <translation type="unfinished">Bild freigeben</translation>
+        <translation>Bild freigeben</translation>
     </message>
     <message numerus="yes">
         <source>Release the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Bild von %n Projektor freigeben?</numerusform>
             <numerusform>Bild von %n Projektoren freigeben?</numerusform>
         </translation>
     </message>
     <message>
         <source>Switch On</source>
-        <translation type="unfinished">Einschalten</translation>
+        <translation>Einschalten</translation>
     </message>
     <message>
         <source>Switch Off</source>
-        <translation type="unfinished">Ausschalten</translation>
+        <translation>Ausschalten</translation>
     </message>
     <message numerus="yes">
         <source>Switch on %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n Projektor einschalten?</numerusform>
             <numerusform>%n Projektoren einschalten?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Switch off %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n Projektor ausschalten?</numerusform>
             <numerusform>%n Projektoren ausschalten?</numerusform>
         </translation>
     </message>
     <message>
         <source>Input %1</source>
-        <translation type="unfinished">Eingang %1</translation>
+        <translation>Eingang %1</translation>
     </message>
     <message numerus="yes">
         <source>Choose the input %1 on %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Auf %n Projektor den Eingang %1 wählen?</numerusform>
             <numerusform>Auf %n Projektoren den Eingang %1 wählen?</numerusform>
         </translation>
     </message>
     <message>
         <source>No inputs are known</source>
-        <translation type="unfinished">Keine Eingänge bekannt</translation>
+        <translation>Keine Eingänge bekannt</translation>
     </message>
 </context>
 <context>
@@ -4028,9 +4028,9 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
     </message>
     <message numerus="yes">
         <source>done, %n settings could not be read</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>erledigt, %n Einstellung konnte nicht gelesen werden</numerusform>
+            <numerusform>erledigt, %n Einstellungen konnten nicht gelesen werden</numerusform>
         </translation>
     </message>
 </context>

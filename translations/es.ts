@@ -1007,19 +1007,19 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>Prints what differs from a file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra lo que difiere de un archivo («-» es la entrada estándar), de un preajuste de la aplicación, o del archivo propio de cada proyector en una carpeta.</translation>
     </message>
     <message>
         <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lee los proyectores, envía lo que difiere del archivo («-» es la entrada estándar), de un preajuste de la aplicación, o del archivo propio de cada proyector en una carpeta, y lo vuelve a leer. Lo que se sustituye se guarda antes, para que «acctl undo» pueda restaurarlo. Una ejecución interrumpida se puede repetir en cualquier momento.</translation>
     </message>
     <message>
         <source>the value before could not be read, and cannot be restored</source>
-        <translation type="unfinished"></translation>
+        <translation>el valor anterior no se pudo leer y no se puede restaurar</translation>
     </message>
     <message>
         <source>the value before could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>el valor anterior no se pudo leer</translation>
     </message>
 </context>
 <context>
@@ -1437,15 +1437,15 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>Projector, setting, command or result</source>
-        <translation type="unfinished"></translation>
+        <translation>Proyector, ajuste, orden o resultado</translation>
     </message>
     <message>
         <source>All projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los proyectores</translation>
     </message>
     <message>
         <source>Show the commands of</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar las órdenes de</translation>
     </message>
 </context>
 <context>
@@ -1515,7 +1515,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>&amp;Ask Again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Preguntar de nuevo</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -1539,27 +1539,27 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>Nothing differs.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay diferencias.</translation>
     </message>
     <message numerus="yes">
         <source>%n projectors differ.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n proyector difiere.</numerusform>
+            <numerusform>%n proyectores difieren.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n projectors have all these settings already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n proyector ya tiene todos estos ajustes.</numerusform>
+            <numerusform>%n proyectores ya tienen todos estos ajustes.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n projectors could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n proyector no se pudo leer.</numerusform>
+            <numerusform>%n proyectores no se pudieron leer.</numerusform>
         </translation>
     </message>
 </context>
@@ -1567,19 +1567,19 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <name>ConnectionFields</name>
     <message>
         <source>&amp;Reached through</source>
-        <translation type="unfinished">Accesible me&amp;diante</translation>
+        <translation>Accesible me&amp;diante</translation>
     </message>
     <message>
         <source>Connect&amp;ion</source>
-        <translation type="unfinished">Cone&amp;xión</translation>
+        <translation>Cone&amp;xión</translation>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation type="unfinished">&amp;Dirección</translation>
+        <translation>&amp;Dirección</translation>
     </message>
     <message>
         <source>&amp;Port</source>
-        <translation type="unfinished">&amp;Puerto</translation>
+        <translation>&amp;Puerto</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
@@ -1587,35 +1587,35 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>Port n&amp;umber</source>
-        <translation type="unfinished">N&amp;úmero de puerto</translation>
+        <translation>N&amp;úmero de puerto</translation>
     </message>
     <message>
         <source>&amp;Device</source>
-        <translation type="unfinished">D&amp;ispositivo</translation>
+        <translation>D&amp;ispositivo</translation>
     </message>
     <message>
         <source>&amp;Baud</source>
-        <translation type="unfinished">&amp;Baudios</translation>
+        <translation>&amp;Baudios</translation>
     </message>
     <message>
         <source>As its family</source>
-        <translation type="unfinished">Como su familia</translation>
+        <translation>Como su familia</translation>
     </message>
     <message>
         <source>Simulated</source>
-        <translation type="unfinished">Simulado</translation>
+        <translation>Simulado</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished">Red</translation>
+        <translation>Red</translation>
     </message>
     <message>
         <source>Serial port</source>
-        <translation type="unfinished">Puerto serie</translation>
+        <translation>Puerto serie</translation>
     </message>
     <message>
         <source>%1 is no address.</source>
-        <translation type="unfinished">%1 no es una dirección.</translation>
+        <translation>%1 no es una dirección.</translation>
     </message>
 </context>
 <context>
@@ -1786,15 +1786,15 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Ahora</translation>
     </message>
     <message>
         <source>Differences</source>
-        <translation type="unfinished"></translation>
+        <translation>Diferencias</translation>
     </message>
     <message>
         <source>First the other sources and modes</source>
-        <translation type="unfinished"></translation>
+        <translation>Primero las otras fuentes y modos</translation>
     </message>
     <message numerus="yes">
         <source>%n settings</source>
@@ -1805,16 +1805,16 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message numerus="yes">
         <source>%n settings do not apply to this model</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ajuste no se aplica a este modelo</numerusform>
+            <numerusform>%n ajustes no se aplican a este modelo</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n settings cannot be read now</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ajuste no se puede leer ahora</numerusform>
+            <numerusform>%n ajustes no se pueden leer ahora</numerusform>
         </translation>
     </message>
     <message>
@@ -2007,7 +2007,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <message>
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2, %3 ms</translation>
     </message>
 </context>
 <context>
@@ -2059,9 +2059,9 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <message numerus="yes">
         <source>%n not watched</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n no vigilado</numerusform>
+            <numerusform>%n no vigilados</numerusform>
         </translation>
     </message>
 </context>
@@ -2145,7 +2145,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>the projector reports none of its settings now</source>
-        <translation type="unfinished"></translation>
+        <translation>el proyector no informa ahora de ninguno de sus ajustes</translation>
     </message>
 </context>
 <context>
@@ -2359,27 +2359,27 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <name>ModelFields</name>
     <message>
         <source>&amp;Family</source>
-        <translation type="unfinished">&amp;Familia</translation>
+        <translation>&amp;Familia</translation>
     </message>
     <message>
         <source>&amp;Model</source>
-        <translation type="unfinished">&amp;Modelo</translation>
+        <translation>&amp;Modelo</translation>
     </message>
     <message>
         <source>All &amp;fields of the model</source>
-        <translation type="unfinished">T&amp;odos los campos del modelo</translation>
+        <translation>T&amp;odos los campos del modelo</translation>
     </message>
     <message>
         <source>Dialog &amp;type</source>
-        <translation type="unfinished">&amp;Tipo de cuadro de diálogo</translation>
+        <translation>&amp;Tipo de cuadro de diálogo</translation>
     </message>
     <message>
         <source>Model cod&amp;e</source>
-        <translation type="unfinished">&amp;Código de modelo</translation>
+        <translation>&amp;Código de modelo</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished">Ninguna</translation>
+        <translation>Ninguna</translation>
     </message>
 </context>
 <context>
@@ -2502,23 +2502,23 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>As the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Como el escritorio</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Claro</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Oscuro</translation>
     </message>
     <message>
         <source>&amp;Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Colores</translation>
     </message>
     <message>
         <source>(the same time twice: none)</source>
-        <translation type="unfinished"></translation>
+        <translation>(dos veces la misma hora: ninguna)</translation>
     </message>
 </context>
 <context>
@@ -2592,19 +2592,19 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>Reading the settings of %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Leyendo los ajustes de %1…</translation>
     </message>
     <message>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Preajuste</translation>
     </message>
     <message>
         <source>What It Should Be</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado deseado</translation>
     </message>
     <message>
         <source>Should be</source>
-        <translation type="unfinished"></translation>
+        <translation>Debe coincidir con</translation>
     </message>
 </context>
 <context>
@@ -2623,54 +2623,54 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustes del preajuste</translation>
     </message>
     <message>
         <source>&amp;Name of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nombre del preajuste</translation>
     </message>
     <message>
         <source>&amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Todos</translation>
     </message>
     <message>
         <source>Check all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcar todos los ajustes</translation>
     </message>
     <message>
         <source>This &amp;Page</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta &amp;página</translation>
     </message>
     <message>
         <source>Check the settings of the selected page, and no others</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcar los ajustes de la página seleccionada y ningún otro</translation>
     </message>
     <message>
         <source>N&amp;one</source>
-        <translation type="unfinished"></translation>
+        <translation>N&amp;inguno</translation>
     </message>
     <message>
         <source>Uncheck all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Desmarcar todos los ajustes</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar</translation>
     </message>
     <message>
         <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un preajuste no se puede llamar así: sin barras, ni un punto al principio.</translation>
     </message>
     <message numerus="yes">
         <source>%n settings are checked.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ajuste está marcado.</numerusform>
+            <numerusform>%n ajustes están marcados.</numerusform>
         </translation>
     </message>
     <message>
         <source>The preset %1 will be replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se sustituirá el preajuste %1.</translation>
     </message>
 </context>
 <context>
@@ -2948,58 +2948,58 @@ un signo menos delante quita una etiqueta:</numerusform>
     <name>ProfileFileActions</name>
     <message>
         <source>&amp;Open Profiles…</source>
-        <translation type="unfinished">&amp;Abrir perfiles…</translation>
+        <translation>&amp;Abrir perfiles…</translation>
     </message>
     <message>
         <source>&amp;Reload</source>
-        <translation type="unfinished">&amp;Recargar</translation>
+        <translation>&amp;Recargar</translation>
     </message>
     <message>
         <source>&amp;Save Profiles As…</source>
-        <translation type="unfinished">&amp;Guardar perfiles como…</translation>
+        <translation>&amp;Guardar perfiles como…</translation>
     </message>
     <message>
         <source>Open Profiles</source>
-        <translation type="unfinished">Abrir perfiles</translation>
+        <translation>Abrir perfiles</translation>
     </message>
     <message>
         <source>Profiles (*.json);;All files (*)</source>
-        <translation type="unfinished">Perfiles (*.json);;Todos los archivos (*)</translation>
+        <translation>Perfiles (*.json);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished">Recargar</translation>
+        <translation>Recargar</translation>
     </message>
     <message>
         <source>Save Profiles As</source>
-        <translation type="unfinished">Guardar perfiles como</translation>
+        <translation>Guardar perfiles como</translation>
     </message>
     <message>
         <source>Read-Only File</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo de solo lectura</translation>
     </message>
     <message>
         <source>%1 cannot be changed. Save the profiles in another file first.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no se puede cambiar. Guarde antes los perfiles en otro archivo.</translation>
     </message>
     <message>
         <source>Save Profiles As…</source>
-        <translation type="unfinished">Guardar perfiles como…</translation>
+        <translation>Guardar perfiles como…</translation>
     </message>
 </context>
 <context>
     <name>ProfileHistory</name>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished">&amp;Deshacer</translation>
+        <translation>&amp;Deshacer</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished">Re&amp;hacer</translation>
+        <translation>Re&amp;hacer</translation>
     </message>
     <message>
         <source>This could not be done; nothing was changed.</source>
-        <translation type="unfinished">No se pudo hacer; no se cambió nada.</translation>
+        <translation>No se pudo hacer; no se cambió nada.</translation>
     </message>
 </context>
 <context>
@@ -3052,51 +3052,51 @@ un signo menos delante quita una etiqueta:</numerusform>
     <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished">Nombre</translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished">Estado</translation>
+        <translation>Estado</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished">Alimentación</translation>
+        <translation>Alimentación</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished">Fuente</translation>
+        <translation>Fuente</translation>
     </message>
     <message>
         <source>Lamp</source>
-        <translation type="unfinished">Lámpara</translation>
+        <translation>Lámpara</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation type="unfinished">Problema</translation>
+        <translation>Problema</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished">Modelo</translation>
+        <translation>Modelo</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished">Lugar</translation>
+        <translation>Lugar</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished">Ajustes</translation>
+        <translation>Ajustes</translation>
     </message>
     <message>
         <source>Last answer</source>
-        <translation type="unfinished">Última respuesta</translation>
+        <translation>Última respuesta</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished">Dirección</translation>
+        <translation>Dirección</translation>
     </message>
     <message>
         <source>%1 · open</source>
-        <translation type="unfinished">%1 · abierto</translation>
+        <translation>%1 · abierto</translation>
     </message>
 </context>
 <context>
@@ -3261,20 +3261,20 @@ un signo menos delante quita una etiqueta:</numerusform>
     </message>
     <message>
         <source>Settings saved in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustes guardados en %1.</translation>
     </message>
     <message numerus="yes">
         <source>Settings of %n projectors saved in %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ajustes de %n proyector guardados en %1.</numerusform>
+            <numerusform>Ajustes de %n proyectores guardados en %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n settings could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>No se pudo leer %n ajuste.</numerusform>
+            <numerusform>No se pudieron leer %n ajustes.</numerusform>
         </translation>
     </message>
     <message>
@@ -3291,7 +3291,7 @@ un signo menos delante quita una etiqueta:</numerusform>
     </message>
     <message>
         <source>The values before are kept in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los valores anteriores se conservan en %1.</translation>
     </message>
 </context>
 <context>
@@ -3757,23 +3757,23 @@ un signo menos delante quita una etiqueta:</numerusform>
     </message>
     <message numerus="yes">
         <source>%n projectors added</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n proyector añadido</numerusform>
+            <numerusform>%n proyectores añadidos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n already known</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ya conocido</numerusform>
+            <numerusform>%n ya conocidos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n rows not taken</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n fila no aceptada</numerusform>
+            <numerusform>%n filas no aceptadas</numerusform>
         </translation>
     </message>
 </context>
@@ -3781,134 +3781,134 @@ un signo menos delante quita una etiqueta:</numerusform>
     <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
-        <translation type="unfinished">E&amp;ncender</translation>
+        <translation>E&amp;ncender</translation>
     </message>
     <message>
         <source>Switch O&amp;ff</source>
-        <translation type="unfinished">Apa&amp;gar</translation>
+        <translation>Apa&amp;gar</translation>
     </message>
     <message>
         <source>P&amp;ower</source>
-        <translation type="unfinished">A&amp;limentación</translation>
+        <translation>A&amp;limentación</translation>
     </message>
     <message>
         <source>&amp;Input</source>
-        <translation type="unfinished">&amp;Entrada</translation>
+        <translation>&amp;Entrada</translation>
     </message>
     <message>
         <source>&amp;Blank</source>
-        <translation type="unfinished">Pantalla &amp;vacía</translation>
+        <translation>Pantalla &amp;vacía</translation>
     </message>
     <message>
         <source>Blank the Picture</source>
-        <translation type="unfinished">Mostrar pantalla vacía</translation>
+        <translation>Mostrar pantalla vacía</translation>
     </message>
     <message numerus="yes">
         <source>Blank the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>¿Mostrar una pantalla vacía en %n proyector?</numerusform>
             <numerusform>¿Mostrar una pantalla vacía en %n proyectores?</numerusform>
         </translation>
     </message>
     <message>
         <source>Show the Picture</source>
-        <translation type="unfinished">Mostrar la imagen</translation>
+        <translation>Mostrar la imagen</translation>
     </message>
     <message numerus="yes">
         <source>Show the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>¿Mostrar la imagen de %n proyector?</numerusform>
             <numerusform>¿Mostrar la imagen de %n proyectores?</numerusform>
         </translation>
     </message>
     <message>
         <source>&amp;Mute</source>
-        <translation type="unfinished">&amp;Silencio</translation>
+        <translation>&amp;Silencio</translation>
     </message>
     <message>
         <source>Mute the Sound</source>
-        <translation type="unfinished">Silenciar el sonido</translation>
+        <translation>Silenciar el sonido</translation>
     </message>
     <message numerus="yes">
         <source>Mute the sound of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>¿Silenciar el sonido de %n proyector?</numerusform>
             <numerusform>¿Silenciar el sonido de %n proyectores?</numerusform>
         </translation>
     </message>
     <message>
         <source>Unmute the Sound</source>
-        <translation type="unfinished">Activar el sonido</translation>
+        <translation>Activar el sonido</translation>
     </message>
     <message numerus="yes">
         <source>Unmute the sound of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>¿Activar el sonido de %n proyector?</numerusform>
             <numerusform>¿Activar el sonido de %n proyectores?</numerusform>
         </translation>
     </message>
     <message>
         <source>Free&amp;ze</source>
-        <translation type="unfinished">C&amp;ongelar</translation>
+        <translation>C&amp;ongelar</translation>
     </message>
     <message>
         <source>Freeze the Picture</source>
-        <translation type="unfinished">Congelar la imagen</translation>
+        <translation>Congelar la imagen</translation>
     </message>
     <message numerus="yes">
         <source>Freeze the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>¿Congelar la imagen de %n proyector?</numerusform>
             <numerusform>¿Congelar la imagen de %n proyectores?</numerusform>
         </translation>
     </message>
     <message>
         <source>Release the Picture</source>
-        <translation type="unfinished">Descongelar la imagen</translation>
+        <translation>Descongelar la imagen</translation>
     </message>
     <message numerus="yes">
         <source>Release the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>¿Descongelar la imagen de %n proyector?</numerusform>
             <numerusform>¿Descongelar la imagen de %n proyectores?</numerusform>
         </translation>
     </message>
     <message>
         <source>Switch On</source>
-        <translation type="unfinished">Encender</translation>
+        <translation>Encender</translation>
     </message>
     <message>
         <source>Switch Off</source>
-        <translation type="unfinished">Apagar</translation>
+        <translation>Apagar</translation>
     </message>
     <message numerus="yes">
         <source>Switch on %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>¿Encender %n proyector?</numerusform>
             <numerusform>¿Encender %n proyectores?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Switch off %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>¿Apagar %n proyector?</numerusform>
             <numerusform>¿Apagar %n proyectores?</numerusform>
         </translation>
     </message>
     <message>
         <source>Input %1</source>
-        <translation type="unfinished">Entrada %1</translation>
+        <translation>Entrada %1</translation>
     </message>
     <message numerus="yes">
         <source>Choose the input %1 on %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>¿Elegir la entrada %1 en %n proyector?</numerusform>
             <numerusform>¿Elegir la entrada %1 en %n proyectores?</numerusform>
         </translation>
     </message>
     <message>
         <source>No inputs are known</source>
-        <translation type="unfinished">No se conocen entradas</translation>
+        <translation>No se conocen entradas</translation>
     </message>
 </context>
 <context>
@@ -4028,9 +4028,9 @@ un signo menos delante quita una etiqueta:</numerusform>
     </message>
     <message numerus="yes">
         <source>done, %n settings could not be read</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>hecho, no se pudo leer %n ajuste</numerusform>
+            <numerusform>hecho, no se pudieron leer %n ajustes</numerusform>
         </translation>
     </message>
 </context>

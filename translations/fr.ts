@@ -1007,19 +1007,19 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message>
         <source>Prints what differs from a file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche ce qui diffère d’un fichier (« - » est l’entrée standard), d’un préréglage de l’application, ou du fichier de chaque projecteur dans un dossier.</translation>
     </message>
     <message>
         <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lit les projecteurs, envoie ce qui diffère du fichier (« - » est l’entrée standard), d’un préréglage de l’application, ou du fichier de chaque projecteur dans un dossier, et le relit. Ce qui est remplacé est d’abord conservé, pour que « acctl undo » puisse le restaurer. Une exécution interrompue peut être répétée à tout moment.</translation>
     </message>
     <message>
         <source>the value before could not be read, and cannot be restored</source>
-        <translation type="unfinished"></translation>
+        <translation>la valeur précédente n’a pas pu être lue et ne peut pas être restaurée</translation>
     </message>
     <message>
         <source>the value before could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>la valeur précédente n’a pas pu être lue</translation>
     </message>
 </context>
 <context>
@@ -1437,15 +1437,15 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message>
         <source>Projector, setting, command or result</source>
-        <translation type="unfinished"></translation>
+        <translation>Projecteur, réglage, commande ou résultat</translation>
     </message>
     <message>
         <source>All projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les projecteurs</translation>
     </message>
     <message>
         <source>Show the commands of</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les commandes de</translation>
     </message>
 </context>
 <context>
@@ -1515,7 +1515,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message>
         <source>&amp;Ask Again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Interroger de nouveau</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -1539,27 +1539,27 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message>
         <source>Nothing differs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien ne diffère.</translation>
     </message>
     <message numerus="yes">
         <source>%n projectors differ.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n projecteur diffère.</numerusform>
+            <numerusform>%n projecteurs diffèrent.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n projectors have all these settings already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n projecteur a déjà tous ces réglages.</numerusform>
+            <numerusform>%n projecteurs ont déjà tous ces réglages.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n projectors could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n projecteur n’a pas pu être lu.</numerusform>
+            <numerusform>%n projecteurs n’ont pas pu être lus.</numerusform>
         </translation>
     </message>
 </context>
@@ -1567,55 +1567,55 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     <name>ConnectionFields</name>
     <message>
         <source>&amp;Reached through</source>
-        <translation type="unfinished">Accessi&amp;ble par</translation>
+        <translation>Accessi&amp;ble par</translation>
     </message>
     <message>
         <source>Connect&amp;ion</source>
-        <translation type="unfinished">Connex&amp;ion</translation>
+        <translation>Connex&amp;ion</translation>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation type="unfinished">&amp;Adresse</translation>
+        <translation>&amp;Adresse</translation>
     </message>
     <message>
         <source>&amp;Port</source>
-        <translation type="unfinished">&amp;Port</translation>
+        <translation>&amp;Port</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
-        <translation type="unfinished">Mot de &amp;passe</translation>
+        <translation>Mot de &amp;passe</translation>
     </message>
     <message>
         <source>Port n&amp;umber</source>
-        <translation type="unfinished">N&amp;uméro de port</translation>
+        <translation>N&amp;uméro de port</translation>
     </message>
     <message>
         <source>&amp;Device</source>
-        <translation type="unfinished">Périphéri&amp;que</translation>
+        <translation>Périphéri&amp;que</translation>
     </message>
     <message>
         <source>&amp;Baud</source>
-        <translation type="unfinished">&amp;Débit en bauds</translation>
+        <translation>&amp;Débit en bauds</translation>
     </message>
     <message>
         <source>As its family</source>
-        <translation type="unfinished">Comme sa famille</translation>
+        <translation>Comme sa famille</translation>
     </message>
     <message>
         <source>Simulated</source>
-        <translation type="unfinished">Simulé</translation>
+        <translation>Simulé</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished">Réseau</translation>
+        <translation>Réseau</translation>
     </message>
     <message>
         <source>Serial port</source>
-        <translation type="unfinished">Port série</translation>
+        <translation>Port série</translation>
     </message>
     <message>
         <source>%1 is no address.</source>
-        <translation type="unfinished">%1 n’est pas une adresse.</translation>
+        <translation>%1 n’est pas une adresse.</translation>
     </message>
 </context>
 <context>
@@ -1786,15 +1786,15 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message>
         <source>Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Actuellement</translation>
     </message>
     <message>
         <source>Differences</source>
-        <translation type="unfinished"></translation>
+        <translation>Différences</translation>
     </message>
     <message>
         <source>First the other sources and modes</source>
-        <translation type="unfinished"></translation>
+        <translation>D’abord les autres sources et modes</translation>
     </message>
     <message numerus="yes">
         <source>%n settings</source>
@@ -1805,16 +1805,16 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message numerus="yes">
         <source>%n settings do not apply to this model</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n réglage ne s’applique pas à ce modèle</numerusform>
+            <numerusform>%n réglages ne s’appliquent pas à ce modèle</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n settings cannot be read now</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n réglage ne peut pas être lu actuellement</numerusform>
+            <numerusform>%n réglages ne peuvent pas être lus actuellement</numerusform>
         </translation>
     </message>
     <message>
@@ -2059,9 +2059,9 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     <message numerus="yes">
         <source>%n not watched</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n non surveillé</numerusform>
+            <numerusform>%n non surveillés</numerusform>
         </translation>
     </message>
 </context>
@@ -2145,7 +2145,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message>
         <source>the projector reports none of its settings now</source>
-        <translation type="unfinished"></translation>
+        <translation>le projecteur n’indique actuellement aucun de ses réglages</translation>
     </message>
 </context>
 <context>
@@ -2359,27 +2359,27 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     <name>ModelFields</name>
     <message>
         <source>&amp;Family</source>
-        <translation type="unfinished">&amp;Famille</translation>
+        <translation>&amp;Famille</translation>
     </message>
     <message>
         <source>&amp;Model</source>
-        <translation type="unfinished">&amp;Modèle</translation>
+        <translation>&amp;Modèle</translation>
     </message>
     <message>
         <source>All &amp;fields of the model</source>
-        <translation type="unfinished">Tous les &amp;champs du modèle</translation>
+        <translation>Tous les &amp;champs du modèle</translation>
     </message>
     <message>
         <source>Dialog &amp;type</source>
-        <translation type="unfinished">T&amp;ype de boîte de dialogue</translation>
+        <translation>T&amp;ype de boîte de dialogue</translation>
     </message>
     <message>
         <source>Model cod&amp;e</source>
-        <translation type="unfinished">&amp;Code du modèle</translation>
+        <translation>&amp;Code du modèle</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished">Aucune</translation>
+        <translation>Aucune</translation>
     </message>
 </context>
 <context>
@@ -2502,23 +2502,23 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message>
         <source>As the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme le bureau</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Clair</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Sombre</translation>
     </message>
     <message>
         <source>&amp;Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;ouleurs</translation>
     </message>
     <message>
         <source>(the same time twice: none)</source>
-        <translation type="unfinished"></translation>
+        <translation>(deux fois la même heure : aucune)</translation>
     </message>
 </context>
 <context>
@@ -2592,19 +2592,19 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message>
         <source>Reading the settings of %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture des réglages de %1…</translation>
     </message>
     <message>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Préréglage</translation>
     </message>
     <message>
         <source>What It Should Be</source>
-        <translation type="unfinished"></translation>
+        <translation>État voulu</translation>
     </message>
     <message>
         <source>Should be</source>
-        <translation type="unfinished"></translation>
+        <translation>Doit correspondre à</translation>
     </message>
 </context>
 <context>
@@ -2623,54 +2623,54 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages du préréglage</translation>
     </message>
     <message>
         <source>&amp;Name of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nom du préréglage</translation>
     </message>
     <message>
         <source>&amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tous</translation>
     </message>
     <message>
         <source>Check all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Cocher tous les réglages</translation>
     </message>
     <message>
         <source>This &amp;Page</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette &amp;page</translation>
     </message>
     <message>
         <source>Check the settings of the selected page, and no others</source>
-        <translation type="unfinished"></translation>
+        <translation>Cocher les réglages de la page sélectionnée, et aucun autre</translation>
     </message>
     <message>
         <source>N&amp;one</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aucun</translation>
     </message>
     <message>
         <source>Uncheck all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Décocher tous les réglages</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer</translation>
     </message>
     <message>
         <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un préréglage ne peut pas s’appeler ainsi : pas de barre oblique, ni de point au début.</translation>
     </message>
     <message numerus="yes">
         <source>%n settings are checked.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n réglage est coché.</numerusform>
+            <numerusform>%n réglages sont cochés.</numerusform>
         </translation>
     </message>
     <message>
         <source>The preset %1 will be replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le préréglage %1 sera remplacé.</translation>
     </message>
 </context>
 <context>
@@ -2948,31 +2948,31 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     <name>ProfileFileActions</name>
     <message>
         <source>&amp;Open Profiles…</source>
-        <translation type="unfinished">&amp;Ouvrir des profils…</translation>
+        <translation>&amp;Ouvrir des profils…</translation>
     </message>
     <message>
         <source>&amp;Reload</source>
-        <translation type="unfinished">&amp;Recharger</translation>
+        <translation>&amp;Recharger</translation>
     </message>
     <message>
         <source>&amp;Save Profiles As…</source>
-        <translation type="unfinished">&amp;Enregistrer les profils sous…</translation>
+        <translation>&amp;Enregistrer les profils sous…</translation>
     </message>
     <message>
         <source>Open Profiles</source>
-        <translation type="unfinished">Ouvrir des profils</translation>
+        <translation>Ouvrir des profils</translation>
     </message>
     <message>
         <source>Profiles (*.json);;All files (*)</source>
-        <translation type="unfinished">Profils (*.json);;Tous les fichiers (*)</translation>
+        <translation>Profils (*.json);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished">Recharger</translation>
+        <translation>Recharger</translation>
     </message>
     <message>
         <source>Save Profiles As</source>
-        <translation type="unfinished">Enregistrer les profils sous</translation>
+        <translation>Enregistrer les profils sous</translation>
     </message>
     <message>
         <source>Read-Only File</source>
@@ -2984,22 +2984,22 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     </message>
     <message>
         <source>Save Profiles As…</source>
-        <translation type="unfinished">Enregistrer les profils sous…</translation>
+        <translation>Enregistrer les profils sous…</translation>
     </message>
 </context>
 <context>
     <name>ProfileHistory</name>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished">&amp;Annuler</translation>
+        <translation>&amp;Annuler</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished">R&amp;établir</translation>
+        <translation>R&amp;établir</translation>
     </message>
     <message>
         <source>This could not be done; nothing was changed.</source>
-        <translation type="unfinished">Cela n’a pas été possible&#xa0;; rien n’a été modifié.</translation>
+        <translation>Cela n’a pas été possible ; rien n’a été modifié.</translation>
     </message>
 </context>
 <context>
@@ -3052,51 +3052,51 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished">Nom</translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished">État</translation>
+        <translation>État</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished">Alimentation</translation>
+        <translation>Alimentation</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished">Source</translation>
+        <translation>Source</translation>
     </message>
     <message>
         <source>Lamp</source>
-        <translation type="unfinished">Lampe</translation>
+        <translation>Lampe</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation type="unfinished">Problème</translation>
+        <translation>Problème</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished">Modèle</translation>
+        <translation>Modèle</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished">Lieu</translation>
+        <translation>Lieu</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished">Réglages</translation>
+        <translation>Réglages</translation>
     </message>
     <message>
         <source>Last answer</source>
-        <translation type="unfinished">Dernière réponse</translation>
+        <translation>Dernière réponse</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished">Adresse</translation>
+        <translation>Adresse</translation>
     </message>
     <message>
         <source>%1 · open</source>
-        <translation type="unfinished">%1 · ouvert</translation>
+        <translation>%1 · ouvert</translation>
     </message>
 </context>
 <context>
@@ -3261,20 +3261,20 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     </message>
     <message>
         <source>Settings saved in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages enregistrés dans %1.</translation>
     </message>
     <message numerus="yes">
         <source>Settings of %n projectors saved in %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Réglages de %n projecteur enregistrés dans %1.</numerusform>
+            <numerusform>Réglages de %n projecteurs enregistrés dans %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n settings could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n réglage n’a pas pu être lu.</numerusform>
+            <numerusform>%n réglages n’ont pas pu être lus.</numerusform>
         </translation>
     </message>
     <message>
@@ -3291,7 +3291,7 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     </message>
     <message>
         <source>The values before are kept in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les valeurs précédentes sont conservées dans %1.</translation>
     </message>
 </context>
 <context>
@@ -3781,134 +3781,134 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
-        <translation type="unfinished">Allu&amp;mer</translation>
+        <translation>Allu&amp;mer</translation>
     </message>
     <message>
         <source>Switch O&amp;ff</source>
-        <translation type="unfinished">Étei&amp;ndre</translation>
+        <translation>Étei&amp;ndre</translation>
     </message>
     <message>
         <source>P&amp;ower</source>
-        <translation type="unfinished">A&amp;limentation</translation>
+        <translation>A&amp;limentation</translation>
     </message>
     <message>
         <source>&amp;Input</source>
-        <translation type="unfinished">&amp;Entrée</translation>
+        <translation>&amp;Entrée</translation>
     </message>
     <message>
         <source>&amp;Blank</source>
-        <translation type="unfinished">Écran &amp;vide</translation>
+        <translation>Écran &amp;vide</translation>
     </message>
     <message>
         <source>Blank the Picture</source>
-        <translation type="unfinished">Afficher un écran vide</translation>
+        <translation>Afficher un écran vide</translation>
     </message>
     <message numerus="yes">
         <source>Blank the picture of %n projectors?</source>
-        <translation type="unfinished">
-            <numerusform>Afficher un écran vide sur %n projecteur&#xa0;?</numerusform>
-            <numerusform>Afficher un écran vide sur %n projecteurs&#xa0;?</numerusform>
+        <translation>
+            <numerusform>Afficher un écran vide sur %n projecteur ?</numerusform>
+            <numerusform>Afficher un écran vide sur %n projecteurs ?</numerusform>
         </translation>
     </message>
     <message>
         <source>Show the Picture</source>
-        <translation type="unfinished">Afficher l’image</translation>
+        <translation>Afficher l’image</translation>
     </message>
     <message numerus="yes">
         <source>Show the picture of %n projectors?</source>
-        <translation type="unfinished">
-            <numerusform>Afficher l’image de %n projecteur&#xa0;?</numerusform>
-            <numerusform>Afficher l’image de %n projecteurs&#xa0;?</numerusform>
+        <translation>
+            <numerusform>Afficher l’image de %n projecteur ?</numerusform>
+            <numerusform>Afficher l’image de %n projecteurs ?</numerusform>
         </translation>
     </message>
     <message>
         <source>&amp;Mute</source>
-        <translation type="unfinished">Mu&amp;et</translation>
+        <translation>Mu&amp;et</translation>
     </message>
     <message>
         <source>Mute the Sound</source>
-        <translation type="unfinished">Couper le son</translation>
+        <translation>Couper le son</translation>
     </message>
     <message numerus="yes">
         <source>Mute the sound of %n projectors?</source>
-        <translation type="unfinished">
-            <numerusform>Couper le son de %n projecteur&#xa0;?</numerusform>
-            <numerusform>Couper le son de %n projecteurs&#xa0;?</numerusform>
+        <translation>
+            <numerusform>Couper le son de %n projecteur ?</numerusform>
+            <numerusform>Couper le son de %n projecteurs ?</numerusform>
         </translation>
     </message>
     <message>
         <source>Unmute the Sound</source>
-        <translation type="unfinished">Rétablir le son</translation>
+        <translation>Rétablir le son</translation>
     </message>
     <message numerus="yes">
         <source>Unmute the sound of %n projectors?</source>
-        <translation type="unfinished">
-            <numerusform>Rétablir le son de %n projecteur&#xa0;?</numerusform>
-            <numerusform>Rétablir le son de %n projecteurs&#xa0;?</numerusform>
+        <translation>
+            <numerusform>Rétablir le son de %n projecteur ?</numerusform>
+            <numerusform>Rétablir le son de %n projecteurs ?</numerusform>
         </translation>
     </message>
     <message>
         <source>Free&amp;ze</source>
-        <translation type="unfinished">Arrêt sur ima&amp;ge</translation>
+        <translation>Arrêt sur ima&amp;ge</translation>
     </message>
     <message>
         <source>Freeze the Picture</source>
-        <translation type="unfinished">Arrêter l’image</translation>
+        <translation>Arrêter l’image</translation>
     </message>
     <message numerus="yes">
         <source>Freeze the picture of %n projectors?</source>
-        <translation type="unfinished">
-            <numerusform>Arrêter l’image de %n projecteur&#xa0;?</numerusform>
-            <numerusform>Arrêter l’image de %n projecteurs&#xa0;?</numerusform>
+        <translation>
+            <numerusform>Arrêter l’image de %n projecteur ?</numerusform>
+            <numerusform>Arrêter l’image de %n projecteurs ?</numerusform>
         </translation>
     </message>
     <message>
         <source>Release the Picture</source>
-        <translation type="unfinished">Libérer l’image</translation>
+        <translation>Libérer l’image</translation>
     </message>
     <message numerus="yes">
         <source>Release the picture of %n projectors?</source>
-        <translation type="unfinished">
-            <numerusform>Libérer l’image de %n projecteur&#xa0;?</numerusform>
-            <numerusform>Libérer l’image de %n projecteurs&#xa0;?</numerusform>
+        <translation>
+            <numerusform>Libérer l’image de %n projecteur ?</numerusform>
+            <numerusform>Libérer l’image de %n projecteurs ?</numerusform>
         </translation>
     </message>
     <message>
         <source>Switch On</source>
-        <translation type="unfinished">Allumer</translation>
+        <translation>Allumer</translation>
     </message>
     <message>
         <source>Switch Off</source>
-        <translation type="unfinished">Éteindre</translation>
+        <translation>Éteindre</translation>
     </message>
     <message numerus="yes">
         <source>Switch on %n projectors?</source>
-        <translation type="unfinished">
-            <numerusform>Allumer %n projecteur&#xa0;?</numerusform>
-            <numerusform>Allumer %n projecteurs&#xa0;?</numerusform>
+        <translation>
+            <numerusform>Allumer %n projecteur ?</numerusform>
+            <numerusform>Allumer %n projecteurs ?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Switch off %n projectors?</source>
-        <translation type="unfinished">
-            <numerusform>Éteindre %n projecteur&#xa0;?</numerusform>
-            <numerusform>Éteindre %n projecteurs&#xa0;?</numerusform>
+        <translation>
+            <numerusform>Éteindre %n projecteur ?</numerusform>
+            <numerusform>Éteindre %n projecteurs ?</numerusform>
         </translation>
     </message>
     <message>
         <source>Input %1</source>
-        <translation type="unfinished">Entrée %1</translation>
+        <translation>Entrée %1</translation>
     </message>
     <message numerus="yes">
         <source>Choose the input %1 on %n projectors?</source>
-        <translation type="unfinished">
-            <numerusform>Choisir l’entrée %1 sur %n projecteur&#xa0;?</numerusform>
-            <numerusform>Choisir l’entrée %1 sur %n projecteurs&#xa0;?</numerusform>
+        <translation>
+            <numerusform>Choisir l’entrée %1 sur %n projecteur ?</numerusform>
+            <numerusform>Choisir l’entrée %1 sur %n projecteurs ?</numerusform>
         </translation>
     </message>
     <message>
         <source>No inputs are known</source>
-        <translation type="unfinished">Aucune entrée connue</translation>
+        <translation>Aucune entrée connue</translation>
     </message>
 </context>
 <context>
@@ -4028,9 +4028,9 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     </message>
     <message numerus="yes">
         <source>done, %n settings could not be read</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>terminé, %n réglage n’a pas pu être lu</numerusform>
+            <numerusform>terminé, %n réglages n’ont pas pu être lus</numerusform>
         </translation>
     </message>
 </context>

@@ -68,8 +68,8 @@ TEST(SettingsActions, AppliesWhatIsCheckedAndUndoesTheRun) {
   pair.actions.SaveTo(pair.file);
   ASSERT_TRUE(Soon([&] { return QFile::exists(pair.file); }));
   Snapshot snapshot = ReadSettingsFile(pair.file).snapshot;
-  snapshot.beforehand = {{"picture.sharpness", 129, ""}};
-  snapshot.settings.insert(snapshot.settings.begin(), {"audio.volume", 9999, "", 0});
+  snapshot.beforehand = {{"picture.sharpness", 129, ""}, {"picture.tint", 129, ""}};
+  snapshot.settings.insert(snapshot.settings.begin(), {"audio.volume", 999, "", 99});
   snapshot.settings.push_back({"main.contrast", 130, ""});  // of other models
   Write(pair.file, WriteSnapshot(snapshot));
   pair.Projector(0).SetValue(SettingId::Brightness, 135);
@@ -79,13 +79,16 @@ TEST(SettingsActions, AppliesWhatIsCheckedAndUndoesTheRun) {
   Table(window).selectAll();
   pair.actions.OpenFile(pair.file, true);
   auto* dialog = window.findChild<ComparisonDialog*>();
+  ASSERT_NE(dialog, nullptr);
   ASSERT_TRUE(HasCompared(*dialog));
   auto& tree = *dialog->findChild<QTreeWidget*>();
-  const QString first = "  First the other sources and modes||1 settings";
+  const QString first = "  First the other sources and modes||2 settings";
   const QString foreign = "  2 settings do not apply to this model||";
-  EXPECT_EQ(Lines(tree),
-            QStringList({"A||", first, "  Picture: Brightness|7|0", foreign, "B||", first,
-                         "  Picture: Contrast|-8|0", "  Image: Position V|50|40", foreign}));
+  const QStringList expected{
+      "A||",  first, "  Picture: Brightness|7|0", foreign,
+      "B||",  first, "  Picture: Contrast|-8|0",  "  Image: Position V|50|40",
+      foreign};
+  EXPECT_EQ(Lines(tree).join('\n').toStdString(), expected.join('\n').toStdString());
   Find<QLabel>(*dialog, "2 projectors differ.");
 
   QTreeWidgetItem* b = tree.topLevelItem(1);

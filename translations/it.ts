@@ -1007,19 +1007,19 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>Prints what differs from a file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra ciò che differisce da un file (“-” è l’input standard), da una preimpostazione dell’applicazione grafica o dal file di ciascun proiettore in una cartella.</translation>
     </message>
     <message>
         <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Legge i proiettori, invia ciò che differisce dal file (“-” è l’input standard), da una preimpostazione dell’applicazione grafica o dal file di ciascun proiettore in una cartella, e lo rilegge. Ciò che viene sostituito è prima conservato, perché “acctl undo” possa ripristinarlo. Un’esecuzione interrotta può essere ripetuta in qualsiasi momento.</translation>
     </message>
     <message>
         <source>the value before could not be read, and cannot be restored</source>
-        <translation type="unfinished"></translation>
+        <translation>non è stato possibile leggere il valore precedente, che quindi non può essere ripristinato</translation>
     </message>
     <message>
         <source>the value before could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>non è stato possibile leggere il valore precedente</translation>
     </message>
 </context>
 <context>
@@ -1386,7 +1386,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>Save &amp;Log As…</source>
-        <translation>Salva &amp;registro con nome…</translation>
+        <translation>Salva re&amp;gistro con nome…</translation>
     </message>
     <message>
         <source>Clea&amp;r Log…</source>
@@ -1437,15 +1437,15 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>Projector, setting, command or result</source>
-        <translation type="unfinished"></translation>
+        <translation>Proiettore, impostazione, comando o risultato</translation>
     </message>
     <message>
         <source>All projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutti i proiettori</translation>
     </message>
     <message>
         <source>Show the commands of</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra i comandi di</translation>
     </message>
 </context>
 <context>
@@ -1515,7 +1515,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>&amp;Ask Again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Interroga di nuovo</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -1539,27 +1539,27 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>Nothing differs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna differenza.</translation>
     </message>
     <message numerus="yes">
         <source>%n projectors differ.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n proiettore differisce.</numerusform>
+            <numerusform>%n proiettori differiscono.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n projectors have all these settings already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n proiettore ha già tutte queste impostazioni.</numerusform>
+            <numerusform>%n proiettori hanno già tutte queste impostazioni.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n projectors could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Non è stato possibile leggere %n proiettore.</numerusform>
+            <numerusform>Non è stato possibile leggere %n proiettori.</numerusform>
         </translation>
     </message>
 </context>
@@ -1567,55 +1567,55 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <name>ConnectionFields</name>
     <message>
         <source>&amp;Reached through</source>
-        <translation type="unfinished">&amp;Raggiungibile tramite</translation>
+        <translation>&amp;Raggiungibile tramite</translation>
     </message>
     <message>
         <source>Connect&amp;ion</source>
-        <translation type="unfinished">Connes&amp;sione</translation>
+        <translation>Connes&amp;sione</translation>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation type="unfinished">&amp;Indirizzo</translation>
+        <translation>&amp;Indirizzo</translation>
     </message>
     <message>
         <source>&amp;Port</source>
-        <translation type="unfinished">&amp;Porta</translation>
+        <translation>&amp;Porta</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
-        <translation type="unfinished">Pass&amp;word</translation>
+        <translation>Pass&amp;word</translation>
     </message>
     <message>
         <source>Port n&amp;umber</source>
-        <translation type="unfinished">N&amp;umero di porta</translation>
+        <translation>N&amp;umero di porta</translation>
     </message>
     <message>
         <source>&amp;Device</source>
-        <translation type="unfinished">&amp;Dispositivo</translation>
+        <translation>&amp;Dispositivo</translation>
     </message>
     <message>
         <source>&amp;Baud</source>
-        <translation type="unfinished">&amp;Baud</translation>
+        <translation>&amp;Baud</translation>
     </message>
     <message>
         <source>As its family</source>
-        <translation type="unfinished">Come la famiglia</translation>
+        <translation>Come la famiglia</translation>
     </message>
     <message>
         <source>Simulated</source>
-        <translation type="unfinished">Simulato</translation>
+        <translation>Simulato</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished">Rete</translation>
+        <translation>Rete</translation>
     </message>
     <message>
         <source>Serial port</source>
-        <translation type="unfinished">Porta seriale</translation>
+        <translation>Porta seriale</translation>
     </message>
     <message>
         <source>%1 is no address.</source>
-        <translation type="unfinished">%1 non è un indirizzo.</translation>
+        <translation>%1 non è un indirizzo.</translation>
     </message>
 </context>
 <context>
@@ -1786,15 +1786,15 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Ora</translation>
     </message>
     <message>
         <source>Differences</source>
-        <translation type="unfinished"></translation>
+        <translation>Differenze</translation>
     </message>
     <message>
         <source>First the other sources and modes</source>
-        <translation type="unfinished"></translation>
+        <translation>Prima le altre sorgenti e modalità</translation>
     </message>
     <message numerus="yes">
         <source>%n settings</source>
@@ -1805,16 +1805,16 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message numerus="yes">
         <source>%n settings do not apply to this model</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n impostazione non riguarda questo modello</numerusform>
+            <numerusform>%n impostazioni non riguardano questo modello</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n settings cannot be read now</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n impostazione ora non può essere letta</numerusform>
+            <numerusform>%n impostazioni ora non possono essere lette</numerusform>
         </translation>
     </message>
     <message>
@@ -1970,7 +1970,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>&amp;Delay</source>
-        <translation>&amp;Ritardo</translation>
+        <translation>Ritar&amp;do</translation>
     </message>
     <message>
         <source>&amp;In force</source>
@@ -2007,7 +2007,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <message>
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2, %3 ms</translation>
     </message>
 </context>
 <context>
@@ -2059,9 +2059,9 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <message numerus="yes">
         <source>%n not watched</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n non sorvegliato</numerusform>
+            <numerusform>%n non sorvegliati</numerusform>
         </translation>
     </message>
 </context>
@@ -2145,7 +2145,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>the projector reports none of its settings now</source>
-        <translation type="unfinished"></translation>
+        <translation>il proiettore al momento non comunica nessuna impostazione</translation>
     </message>
 </context>
 <context>
@@ -2300,7 +2300,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>&amp;Preferences…</source>
-        <translation>&amp;Preferenze…</translation>
+        <translation>Pre&amp;ferenze…</translation>
     </message>
     <message>
         <source>&amp;Projector</source>
@@ -2359,27 +2359,27 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <name>ModelFields</name>
     <message>
         <source>&amp;Family</source>
-        <translation type="unfinished">&amp;Famiglia</translation>
+        <translation>&amp;Famiglia</translation>
     </message>
     <message>
         <source>&amp;Model</source>
-        <translation type="unfinished">&amp;Modello</translation>
+        <translation>&amp;Modello</translation>
     </message>
     <message>
         <source>All &amp;fields of the model</source>
-        <translation type="unfinished">Tutti i c&amp;ampi del modello</translation>
+        <translation>Tutti i c&amp;ampi del modello</translation>
     </message>
     <message>
         <source>Dialog &amp;type</source>
-        <translation type="unfinished">&amp;Tipo di finestra di dialogo</translation>
+        <translation>&amp;Tipo di finestra di dialogo</translation>
     </message>
     <message>
         <source>Model cod&amp;e</source>
-        <translation type="unfinished">&amp;Codice del modello</translation>
+        <translation>&amp;Codice del modello</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished">Nessuna</translation>
+        <translation>Nessuna</translation>
     </message>
 </context>
 <context>
@@ -2502,23 +2502,23 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>As the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Come il desktop</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiaro</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Scuro</translation>
     </message>
     <message>
         <source>&amp;Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Colori</translation>
     </message>
     <message>
         <source>(the same time twice: none)</source>
-        <translation type="unfinished"></translation>
+        <translation>(due orari uguali: nessuna)</translation>
     </message>
 </context>
 <context>
@@ -2592,19 +2592,19 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>Reading the settings of %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lettura delle impostazioni di %1…</translation>
     </message>
     <message>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Preimpostazione</translation>
     </message>
     <message>
         <source>What It Should Be</source>
-        <translation type="unfinished"></translation>
+        <translation>Stato voluto</translation>
     </message>
     <message>
         <source>Should be</source>
-        <translation type="unfinished"></translation>
+        <translation>Valore voluto</translation>
     </message>
 </context>
 <context>
@@ -2623,54 +2623,54 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni della preimpostazione</translation>
     </message>
     <message>
         <source>&amp;Name of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nome della preimpostazione</translation>
     </message>
     <message>
         <source>&amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tutte</translation>
     </message>
     <message>
         <source>Check all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleziona tutte le impostazioni</translation>
     </message>
     <message>
         <source>This &amp;Page</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa &amp;pagina</translation>
     </message>
     <message>
         <source>Check the settings of the selected page, and no others</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleziona solo le impostazioni della pagina corrente</translation>
     </message>
     <message>
         <source>N&amp;one</source>
-        <translation type="unfinished"></translation>
+        <translation>N&amp;essuna</translation>
     </message>
     <message>
         <source>Uncheck all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Deseleziona tutte le impostazioni</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Salva</translation>
     </message>
     <message>
         <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome non valido per una preimpostazione: non usare barre né un punto iniziale.</translation>
     </message>
     <message numerus="yes">
         <source>%n settings are checked.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n impostazione selezionata.</numerusform>
+            <numerusform>%n impostazioni selezionate.</numerusform>
         </translation>
     </message>
     <message>
         <source>The preset %1 will be replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>La preimpostazione %1 sarà sostituita.</translation>
     </message>
 </context>
 <context>
@@ -2696,7 +2696,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>&amp;Remove…</source>
-        <translation>Ri&amp;muovi…</translation>
+        <translation>&amp;Rimuovi…</translation>
     </message>
     <message>
         <source>Ta&amp;g…</source>
@@ -2948,58 +2948,58 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     <name>ProfileFileActions</name>
     <message>
         <source>&amp;Open Profiles…</source>
-        <translation type="unfinished">&amp;Apri profili…</translation>
+        <translation>&amp;Apri profili…</translation>
     </message>
     <message>
         <source>&amp;Reload</source>
-        <translation type="unfinished">&amp;Ricarica</translation>
+        <translation>&amp;Ricarica</translation>
     </message>
     <message>
         <source>&amp;Save Profiles As…</source>
-        <translation type="unfinished">&amp;Salva profili con nome…</translation>
+        <translation>&amp;Salva profili con nome…</translation>
     </message>
     <message>
         <source>Open Profiles</source>
-        <translation type="unfinished">Apri profili</translation>
+        <translation>Apri profili</translation>
     </message>
     <message>
         <source>Profiles (*.json);;All files (*)</source>
-        <translation type="unfinished">Profili (*.json);;Tutti i file (*)</translation>
+        <translation>Profili (*.json);;Tutti i file (*)</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished">Ricarica</translation>
+        <translation>Ricarica</translation>
     </message>
     <message>
         <source>Save Profiles As</source>
-        <translation type="unfinished">Salva profili con nome</translation>
+        <translation>Salva profili con nome</translation>
     </message>
     <message>
         <source>Read-Only File</source>
-        <translation type="unfinished"></translation>
+        <translation>File in sola lettura</translation>
     </message>
     <message>
         <source>%1 cannot be changed. Save the profiles in another file first.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non può essere modificato. Salvare prima i profili in un altro file.</translation>
     </message>
     <message>
         <source>Save Profiles As…</source>
-        <translation type="unfinished">Salva profili con nome…</translation>
+        <translation>Salva profili con nome…</translation>
     </message>
 </context>
 <context>
     <name>ProfileHistory</name>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished">Ann&amp;ulla</translation>
+        <translation>Ann&amp;ulla</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished">Ri&amp;peti</translation>
+        <translation>Ri&amp;peti</translation>
     </message>
     <message>
         <source>This could not be done; nothing was changed.</source>
-        <translation type="unfinished">Non è stato possibile; nulla è stato cambiato.</translation>
+        <translation>Non è stato possibile; nulla è stato cambiato.</translation>
     </message>
 </context>
 <context>
@@ -3052,51 +3052,51 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished">Nome</translation>
+        <translation>Nome</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished">Stato</translation>
+        <translation>Stato</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished">Alimentazione</translation>
+        <translation>Alimentazione</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished">Sorgente</translation>
+        <translation>Sorgente</translation>
     </message>
     <message>
         <source>Lamp</source>
-        <translation type="unfinished">Lampada</translation>
+        <translation>Lampada</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation type="unfinished">Problema</translation>
+        <translation>Problema</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished">Modello</translation>
+        <translation>Modello</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished">Luogo</translation>
+        <translation>Luogo</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished">Impostazioni</translation>
+        <translation>Impostazioni</translation>
     </message>
     <message>
         <source>Last answer</source>
-        <translation type="unfinished">Ultima risposta</translation>
+        <translation>Ultima risposta</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished">Indirizzo</translation>
+        <translation>Indirizzo</translation>
     </message>
     <message>
         <source>%1 · open</source>
-        <translation type="unfinished">%1 · aperta</translation>
+        <translation>%1 · aperta</translation>
     </message>
 </context>
 <context>
@@ -3229,15 +3229,15 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     <name>SettingsActions</name>
     <message>
         <source>Save Se&amp;ttings…</source>
-        <translation>Sa&amp;lva impostazioni…</translation>
+        <translation>&amp;Salva impostazioni…</translation>
     </message>
     <message>
         <source>&amp;Compare with File…</source>
-        <translation>Con&amp;fronta con file…</translation>
+        <translation>Co&amp;nfronta con file…</translation>
     </message>
     <message>
         <source>A&amp;pply Settings…</source>
-        <translation>Appl&amp;ica impostazioni…</translation>
+        <translation>Appli&amp;ca impostazioni…</translation>
     </message>
     <message>
         <source>Save Settings</source>
@@ -3261,20 +3261,20 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     </message>
     <message>
         <source>Settings saved in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni salvate in %1.</translation>
     </message>
     <message numerus="yes">
         <source>Settings of %n projectors saved in %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Impostazioni di %n proiettore salvate in %1.</numerusform>
+            <numerusform>Impostazioni di %n proiettori salvate in %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n settings could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Non è stato possibile leggere %n impostazione.</numerusform>
+            <numerusform>Non è stato possibile leggere %n impostazioni.</numerusform>
         </translation>
     </message>
     <message>
@@ -3291,7 +3291,7 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     </message>
     <message>
         <source>The values before are kept in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>I valori precedenti sono conservati in %1.</translation>
     </message>
 </context>
 <context>
@@ -3713,7 +3713,7 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     <name>TransferActions</name>
     <message>
         <source>Find on the &amp;Network…</source>
-        <translation>Cerca nella &amp;rete…</translation>
+        <translation>&amp;Cerca nella rete…</translation>
     </message>
     <message>
         <source>&amp;Import Table…</source>
@@ -3721,7 +3721,7 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     </message>
     <message>
         <source>E&amp;xport Table…</source>
-        <translation>E&amp;sporta tabella…</translation>
+        <translation>Esp&amp;orta tabella…</translation>
     </message>
     <message>
         <source>Find Projectors</source>
@@ -3757,23 +3757,23 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     </message>
     <message numerus="yes">
         <source>%n projectors added</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n proiettore aggiunto</numerusform>
+            <numerusform>%n proiettori aggiunti</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n already known</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n già presente</numerusform>
+            <numerusform>%n già presenti</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n rows not taken</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n riga non importata</numerusform>
+            <numerusform>%n righe non importate</numerusform>
         </translation>
     </message>
 </context>
@@ -3781,134 +3781,134 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
-        <translation type="unfinished">Acce&amp;ndi</translation>
+        <translation>Acce&amp;ndi</translation>
     </message>
     <message>
         <source>Switch O&amp;ff</source>
-        <translation type="unfinished">S&amp;pegni</translation>
+        <translation>S&amp;pegni</translation>
     </message>
     <message>
         <source>P&amp;ower</source>
-        <translation type="unfinished">A&amp;limentazione</translation>
+        <translation>A&amp;limentazione</translation>
     </message>
     <message>
         <source>&amp;Input</source>
-        <translation type="unfinished">&amp;Ingresso</translation>
+        <translation>&amp;Ingresso</translation>
     </message>
     <message>
         <source>&amp;Blank</source>
-        <translation type="unfinished">Schermo &amp;vuoto</translation>
+        <translation>Schermo &amp;vuoto</translation>
     </message>
     <message>
         <source>Blank the Picture</source>
-        <translation type="unfinished">Mostra schermo vuoto</translation>
+        <translation>Mostra schermo vuoto</translation>
     </message>
     <message numerus="yes">
         <source>Blank the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Mostrare uno schermo vuoto su %n proiettore?</numerusform>
             <numerusform>Mostrare uno schermo vuoto su %n proiettori?</numerusform>
         </translation>
     </message>
     <message>
         <source>Show the Picture</source>
-        <translation type="unfinished">Mostra l’immagine</translation>
+        <translation>Mostra l’immagine</translation>
     </message>
     <message numerus="yes">
         <source>Show the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Mostrare l’immagine di %n proiettore?</numerusform>
             <numerusform>Mostrare l’immagine di %n proiettori?</numerusform>
         </translation>
     </message>
     <message>
         <source>&amp;Mute</source>
-        <translation type="unfinished">M&amp;uto</translation>
+        <translation>M&amp;uto</translation>
     </message>
     <message>
         <source>Mute the Sound</source>
-        <translation type="unfinished">Disattiva il suono</translation>
+        <translation>Disattiva il suono</translation>
     </message>
     <message numerus="yes">
         <source>Mute the sound of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Disattivare il suono di %n proiettore?</numerusform>
             <numerusform>Disattivare il suono di %n proiettori?</numerusform>
         </translation>
     </message>
     <message>
         <source>Unmute the Sound</source>
-        <translation type="unfinished">Riattiva il suono</translation>
+        <translation>Riattiva il suono</translation>
     </message>
     <message numerus="yes">
         <source>Unmute the sound of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Riattivare il suono di %n proiettore?</numerusform>
             <numerusform>Riattivare il suono di %n proiettori?</numerusform>
         </translation>
     </message>
     <message>
         <source>Free&amp;ze</source>
-        <translation type="unfinished">&amp;Fermo immagine</translation>
+        <translation>&amp;Fermo immagine</translation>
     </message>
     <message>
         <source>Freeze the Picture</source>
-        <translation type="unfinished">Ferma l’immagine</translation>
+        <translation>Ferma l’immagine</translation>
     </message>
     <message numerus="yes">
         <source>Freeze the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Fermare l’immagine di %n proiettore?</numerusform>
             <numerusform>Fermare l’immagine di %n proiettori?</numerusform>
         </translation>
     </message>
     <message>
         <source>Release the Picture</source>
-        <translation type="unfinished">Sblocca l’immagine</translation>
+        <translation>Sblocca l’immagine</translation>
     </message>
     <message numerus="yes">
         <source>Release the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Sbloccare l’immagine di %n proiettore?</numerusform>
             <numerusform>Sbloccare l’immagine di %n proiettori?</numerusform>
         </translation>
     </message>
     <message>
         <source>Switch On</source>
-        <translation type="unfinished">Accendi</translation>
+        <translation>Accendi</translation>
     </message>
     <message>
         <source>Switch Off</source>
-        <translation type="unfinished">Spegni</translation>
+        <translation>Spegni</translation>
     </message>
     <message numerus="yes">
         <source>Switch on %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Accendere %n proiettore?</numerusform>
             <numerusform>Accendere %n proiettori?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Switch off %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Spegnere %n proiettore?</numerusform>
             <numerusform>Spegnere %n proiettori?</numerusform>
         </translation>
     </message>
     <message>
         <source>Input %1</source>
-        <translation type="unfinished">Ingresso %1</translation>
+        <translation>Ingresso %1</translation>
     </message>
     <message numerus="yes">
         <source>Choose the input %1 on %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Scegliere l’ingresso %1 su %n proiettore?</numerusform>
             <numerusform>Scegliere l’ingresso %1 su %n proiettori?</numerusform>
         </translation>
     </message>
     <message>
         <source>No inputs are known</source>
-        <translation type="unfinished">Nessun ingresso noto</translation>
+        <translation>Nessun ingresso noto</translation>
     </message>
 </context>
 <context>
@@ -4028,9 +4028,9 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     </message>
     <message numerus="yes">
         <source>done, %n settings could not be read</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>completato, non è stato possibile leggere %n impostazione</numerusform>
+            <numerusform>completato, non è stato possibile leggere %n impostazioni</numerusform>
         </translation>
     </message>
 </context>

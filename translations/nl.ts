@@ -1007,19 +1007,19 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>Prints what differs from a file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Toont wat afwijkt van een bestand (‘-’ is de standaardinvoer), van een voorinstelling van de grafische toepassing of van het eigen bestand van elke projector in een map.</translation>
     </message>
     <message>
         <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Leest de projectors, stuurt wat afwijkt van het bestand (‘-’ is de standaardinvoer), van een voorinstelling van de grafische toepassing of van het eigen bestand van elke projector in een map, en leest het terug. Wat vervangen wordt, wordt eerst bewaard, zodat ‘acctl undo’ het kan herstellen. Een afgebroken uitvoering kan altijd herhaald worden.</translation>
     </message>
     <message>
         <source>the value before could not be read, and cannot be restored</source>
-        <translation type="unfinished"></translation>
+        <translation>de vorige waarde kon niet gelezen worden en kan niet hersteld worden</translation>
     </message>
     <message>
         <source>the value before could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>de vorige waarde kon niet gelezen worden</translation>
     </message>
 </context>
 <context>
@@ -1437,15 +1437,15 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>Projector, setting, command or result</source>
-        <translation type="unfinished"></translation>
+        <translation>Projector, instelling, opdracht of resultaat</translation>
     </message>
     <message>
         <source>All projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle projectors</translation>
     </message>
     <message>
         <source>Show the commands of</source>
-        <translation type="unfinished"></translation>
+        <translation>Opdrachten tonen van</translation>
     </message>
 </context>
 <context>
@@ -1515,7 +1515,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>&amp;Ask Again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Opnieuw opvragen</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -1539,27 +1539,27 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>Nothing differs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geen verschillen.</translation>
     </message>
     <message numerus="yes">
         <source>%n projectors differ.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n projector wijkt af.</numerusform>
+            <numerusform>%n projectors wijken af.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n projectors have all these settings already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n projector heeft al deze instellingen al.</numerusform>
+            <numerusform>%n projectors hebben al deze instellingen al.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n projectors could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n projector kon niet gelezen worden.</numerusform>
+            <numerusform>%n projectors konden niet gelezen worden.</numerusform>
         </translation>
     </message>
 </context>
@@ -1567,55 +1567,55 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <name>ConnectionFields</name>
     <message>
         <source>&amp;Reached through</source>
-        <translation type="unfinished">Be&amp;reikbaar via</translation>
+        <translation>Be&amp;reikbaar via</translation>
     </message>
     <message>
         <source>Connect&amp;ion</source>
-        <translation type="unfinished">Ver&amp;binding</translation>
+        <translation>Ver&amp;binding</translation>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation type="unfinished">&amp;Adres</translation>
+        <translation>&amp;Adres</translation>
     </message>
     <message>
         <source>&amp;Port</source>
-        <translation type="unfinished">&amp;Poort</translation>
+        <translation>&amp;Poort</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
-        <translation type="unfinished">&amp;Wachtwoord</translation>
+        <translation>&amp;Wachtwoord</translation>
     </message>
     <message>
         <source>Port n&amp;umber</source>
-        <translation type="unfinished">Poortn&amp;ummer</translation>
+        <translation>Poortn&amp;ummer</translation>
     </message>
     <message>
         <source>&amp;Device</source>
-        <translation type="unfinished">Apparaa&amp;t</translation>
+        <translation>Apparaa&amp;t</translation>
     </message>
     <message>
         <source>&amp;Baud</source>
-        <translation type="unfinished">Bau&amp;drate</translation>
+        <translation>Bau&amp;drate</translation>
     </message>
     <message>
         <source>As its family</source>
-        <translation type="unfinished">Zoals de familie</translation>
+        <translation>Zoals de familie</translation>
     </message>
     <message>
         <source>Simulated</source>
-        <translation type="unfinished">Gesimuleerd</translation>
+        <translation>Gesimuleerd</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished">Netwerk</translation>
+        <translation>Netwerk</translation>
     </message>
     <message>
         <source>Serial port</source>
-        <translation type="unfinished">Seriële poort</translation>
+        <translation>Seriële poort</translation>
     </message>
     <message>
         <source>%1 is no address.</source>
-        <translation type="unfinished">%1 is geen adres.</translation>
+        <translation>%1 is geen adres.</translation>
     </message>
 </context>
 <context>
@@ -1786,15 +1786,15 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Nu</translation>
     </message>
     <message>
         <source>Differences</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschillen</translation>
     </message>
     <message>
         <source>First the other sources and modes</source>
-        <translation type="unfinished"></translation>
+        <translation>Eerst de andere bronnen en modi</translation>
     </message>
     <message numerus="yes">
         <source>%n settings</source>
@@ -1805,16 +1805,16 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message numerus="yes">
         <source>%n settings do not apply to this model</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n instelling is niet van toepassing op dit model</numerusform>
+            <numerusform>%n instellingen zijn niet van toepassing op dit model</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n settings cannot be read now</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n instelling kan nu niet gelezen worden</numerusform>
+            <numerusform>%n instellingen kunnen nu niet gelezen worden</numerusform>
         </translation>
     </message>
     <message>
@@ -2007,7 +2007,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <message>
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2, %3 ms</translation>
     </message>
 </context>
 <context>
@@ -2059,9 +2059,9 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <message numerus="yes">
         <source>%n not watched</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n niet bewaakt</numerusform>
+            <numerusform>%n niet bewaakt</numerusform>
         </translation>
     </message>
 </context>
@@ -2145,7 +2145,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>the projector reports none of its settings now</source>
-        <translation type="unfinished"></translation>
+        <translation>de projector meldt op dit moment geen enkele instelling</translation>
     </message>
 </context>
 <context>
@@ -2300,7 +2300,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>&amp;Preferences…</source>
-        <translation>&amp;Voorkeuren…</translation>
+        <translation>Voor&amp;keuren…</translation>
     </message>
     <message>
         <source>&amp;Projector</source>
@@ -2359,27 +2359,27 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <name>ModelFields</name>
     <message>
         <source>&amp;Family</source>
-        <translation type="unfinished">&amp;Familie</translation>
+        <translation>&amp;Familie</translation>
     </message>
     <message>
         <source>&amp;Model</source>
-        <translation type="unfinished">&amp;Model</translation>
+        <translation>&amp;Model</translation>
     </message>
     <message>
         <source>All &amp;fields of the model</source>
-        <translation type="unfinished">Alle &amp;velden van het model</translation>
+        <translation>Alle &amp;velden van het model</translation>
     </message>
     <message>
         <source>Dialog &amp;type</source>
-        <translation type="unfinished">&amp;Soort dialoogvenster</translation>
+        <translation>&amp;Soort dialoogvenster</translation>
     </message>
     <message>
         <source>Model cod&amp;e</source>
-        <translation type="unfinished">Model&amp;code</translation>
+        <translation>Model&amp;code</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished">Geen</translation>
+        <translation>Geen</translation>
     </message>
 </context>
 <context>
@@ -2482,7 +2482,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>Ask each projector &amp;every</source>
-        <translation>Elke projector be&amp;vragen om de</translation>
+        <translation>Elke pro&amp;jector bevragen om de</translation>
     </message>
     <message>
         <source>Alerts</source>
@@ -2502,23 +2502,23 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>As the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoals het bureaublad</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Licht</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Donker</translation>
     </message>
     <message>
         <source>&amp;Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kleuren</translation>
     </message>
     <message>
         <source>(the same time twice: none)</source>
-        <translation type="unfinished"></translation>
+        <translation>(twee gelijke tijden: geen)</translation>
     </message>
 </context>
 <context>
@@ -2592,19 +2592,19 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>Reading the settings of %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Instellingen van %1 worden gelezen…</translation>
     </message>
     <message>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Voorinstelling</translation>
     </message>
     <message>
         <source>What It Should Be</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewenste toestand</translation>
     </message>
     <message>
         <source>Should be</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewenst</translation>
     </message>
 </context>
 <context>
@@ -2623,54 +2623,54 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Instellingen van de voorinstelling</translation>
     </message>
     <message>
         <source>&amp;Name of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Naam van de voorinstelling</translation>
     </message>
     <message>
         <source>&amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alle</translation>
     </message>
     <message>
         <source>Check all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle instellingen aankruisen</translation>
     </message>
     <message>
         <source>This &amp;Page</source>
-        <translation type="unfinished"></translation>
+        <translation>Deze &amp;pagina</translation>
     </message>
     <message>
         <source>Check the settings of the selected page, and no others</source>
-        <translation type="unfinished"></translation>
+        <translation>Alleen de instellingen van de gekozen pagina aankruisen</translation>
     </message>
     <message>
         <source>N&amp;one</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Geen</translation>
     </message>
     <message>
         <source>Uncheck all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Geen enkele instelling aankruisen</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Op&amp;slaan</translation>
     </message>
     <message>
         <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deze naam is niet toegestaan: gebruik geen slashes en begin niet met een punt.</translation>
     </message>
     <message numerus="yes">
         <source>%n settings are checked.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n instelling aangekruist.</numerusform>
+            <numerusform>%n instellingen aangekruist.</numerusform>
         </translation>
     </message>
     <message>
         <source>The preset %1 will be replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>De voorinstelling %1 wordt vervangen.</translation>
     </message>
 </context>
 <context>
@@ -2948,58 +2948,58 @@ een minteken ervoor neemt een label weg:</numerusform>
     <name>ProfileFileActions</name>
     <message>
         <source>&amp;Open Profiles…</source>
-        <translation type="unfinished">Profielen &amp;openen…</translation>
+        <translation>Profielen &amp;openen…</translation>
     </message>
     <message>
         <source>&amp;Reload</source>
-        <translation type="unfinished">&amp;Herladen</translation>
+        <translation>&amp;Herladen</translation>
     </message>
     <message>
         <source>&amp;Save Profiles As…</source>
-        <translation type="unfinished">&amp;Profielen opslaan als…</translation>
+        <translation>&amp;Profielen opslaan als…</translation>
     </message>
     <message>
         <source>Open Profiles</source>
-        <translation type="unfinished">Profielen openen</translation>
+        <translation>Profielen openen</translation>
     </message>
     <message>
         <source>Profiles (*.json);;All files (*)</source>
-        <translation type="unfinished">Profielen (*.json);;Alle bestanden (*)</translation>
+        <translation>Profielen (*.json);;Alle bestanden (*)</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished">Herladen</translation>
+        <translation>Herladen</translation>
     </message>
     <message>
         <source>Save Profiles As</source>
-        <translation type="unfinished">Profielen opslaan als</translation>
+        <translation>Profielen opslaan als</translation>
     </message>
     <message>
         <source>Read-Only File</source>
-        <translation type="unfinished"></translation>
+        <translation>Alleen-lezenbestand</translation>
     </message>
     <message>
         <source>%1 cannot be changed. Save the profiles in another file first.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kan niet gewijzigd worden. Sla de profielen eerst in een ander bestand op.</translation>
     </message>
     <message>
         <source>Save Profiles As…</source>
-        <translation type="unfinished">Profielen opslaan als…</translation>
+        <translation>Profielen opslaan als…</translation>
     </message>
 </context>
 <context>
     <name>ProfileHistory</name>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished">&amp;Ongedaan maken</translation>
+        <translation>&amp;Ongedaan maken</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished">Op&amp;nieuw</translation>
+        <translation>Op&amp;nieuw</translation>
     </message>
     <message>
         <source>This could not be done; nothing was changed.</source>
-        <translation type="unfinished">Dit was niet mogelijk; er is niets gewijzigd.</translation>
+        <translation>Dit was niet mogelijk; er is niets gewijzigd.</translation>
     </message>
 </context>
 <context>
@@ -3052,51 +3052,51 @@ een minteken ervoor neemt een label weg:</numerusform>
     <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished">Naam</translation>
+        <translation>Naam</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished">Toestand</translation>
+        <translation>Toestand</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished">Voeding</translation>
+        <translation>Voeding</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished">Bron</translation>
+        <translation>Bron</translation>
     </message>
     <message>
         <source>Lamp</source>
-        <translation type="unfinished">Lamp</translation>
+        <translation>Lamp</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation type="unfinished">Probleem</translation>
+        <translation>Probleem</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished">Model</translation>
+        <translation>Model</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished">Plaats</translation>
+        <translation>Plaats</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished">Instellingen</translation>
+        <translation>Instellingen</translation>
     </message>
     <message>
         <source>Last answer</source>
-        <translation type="unfinished">Laatste antwoord</translation>
+        <translation>Laatste antwoord</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished">Adres</translation>
+        <translation>Adres</translation>
     </message>
     <message>
         <source>%1 · open</source>
-        <translation type="unfinished">%1 · open</translation>
+        <translation>%1 · open</translation>
     </message>
 </context>
 <context>
@@ -3229,11 +3229,11 @@ een minteken ervoor neemt een label weg:</numerusform>
     <name>SettingsActions</name>
     <message>
         <source>Save Se&amp;ttings…</source>
-        <translation>&amp;Instellingen opslaan…</translation>
+        <translation>Instellingen op&amp;slaan…</translation>
     </message>
     <message>
         <source>&amp;Compare with File…</source>
-        <translation>Ver&amp;gelijken met bestand…</translation>
+        <translation>Vergelij&amp;ken met bestand…</translation>
     </message>
     <message>
         <source>A&amp;pply Settings…</source>
@@ -3261,20 +3261,20 @@ een minteken ervoor neemt een label weg:</numerusform>
     </message>
     <message>
         <source>Settings saved in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Instellingen opgeslagen in %1.</translation>
     </message>
     <message numerus="yes">
         <source>Settings of %n projectors saved in %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Instellingen van %n projector opgeslagen in %1.</numerusform>
+            <numerusform>Instellingen van %n projectors opgeslagen in %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n settings could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n instelling kon niet gelezen worden.</numerusform>
+            <numerusform>%n instellingen konden niet gelezen worden.</numerusform>
         </translation>
     </message>
     <message>
@@ -3291,7 +3291,7 @@ een minteken ervoor neemt een label weg:</numerusform>
     </message>
     <message>
         <source>The values before are kept in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>De vorige waarden zijn bewaard in %1.</translation>
     </message>
 </context>
 <context>
@@ -3713,7 +3713,7 @@ een minteken ervoor neemt een label weg:</numerusform>
     <name>TransferActions</name>
     <message>
         <source>Find on the &amp;Network…</source>
-        <translation>Zoeken in het &amp;netwerk…</translation>
+        <translation>&amp;Zoeken in het netwerk…</translation>
     </message>
     <message>
         <source>&amp;Import Table…</source>
@@ -3757,23 +3757,23 @@ een minteken ervoor neemt een label weg:</numerusform>
     </message>
     <message numerus="yes">
         <source>%n projectors added</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n projector toegevoegd</numerusform>
+            <numerusform>%n projectors toegevoegd</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n already known</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n al bekend</numerusform>
+            <numerusform>%n al bekend</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n rows not taken</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n rij niet overgenomen</numerusform>
+            <numerusform>%n rijen niet overgenomen</numerusform>
         </translation>
     </message>
 </context>
@@ -3781,134 +3781,134 @@ een minteken ervoor neemt een label weg:</numerusform>
     <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
-        <translation type="unfinished">I&amp;nschakelen</translation>
+        <translation>I&amp;nschakelen</translation>
     </message>
     <message>
         <source>Switch O&amp;ff</source>
-        <translation type="unfinished">&amp;Uitschakelen</translation>
+        <translation>&amp;Uitschakelen</translation>
     </message>
     <message>
         <source>P&amp;ower</source>
-        <translation type="unfinished">V&amp;oeding</translation>
+        <translation>Voe&amp;ding</translation>
     </message>
     <message>
         <source>&amp;Input</source>
-        <translation type="unfinished">In&amp;gang</translation>
+        <translation>In&amp;gang</translation>
     </message>
     <message>
         <source>&amp;Blank</source>
-        <translation type="unfinished">&amp;Leeg beeld</translation>
+        <translation>&amp;Leeg beeld</translation>
     </message>
     <message>
         <source>Blank the Picture</source>
-        <translation type="unfinished">Leeg beeld tonen</translation>
+        <translation>Leeg beeld tonen</translation>
     </message>
     <message numerus="yes">
         <source>Blank the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Een leeg beeld tonen op %n projector?</numerusform>
             <numerusform>Een leeg beeld tonen op %n projectors?</numerusform>
         </translation>
     </message>
     <message>
         <source>Show the Picture</source>
-        <translation type="unfinished">Beeld tonen</translation>
+        <translation>Beeld tonen</translation>
     </message>
     <message numerus="yes">
         <source>Show the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Het beeld van %n projector tonen?</numerusform>
             <numerusform>Het beeld van %n projectors tonen?</numerusform>
         </translation>
     </message>
     <message>
         <source>&amp;Mute</source>
-        <translation type="unfinished">De&amp;mpen</translation>
+        <translation>De&amp;mpen</translation>
     </message>
     <message>
         <source>Mute the Sound</source>
-        <translation type="unfinished">Geluid dempen</translation>
+        <translation>Geluid dempen</translation>
     </message>
     <message numerus="yes">
         <source>Mute the sound of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Het geluid van %n projector dempen?</numerusform>
             <numerusform>Het geluid van %n projectors dempen?</numerusform>
         </translation>
     </message>
     <message>
         <source>Unmute the Sound</source>
-        <translation type="unfinished">Geluid inschakelen</translation>
+        <translation>Geluid inschakelen</translation>
     </message>
     <message numerus="yes">
         <source>Unmute the sound of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Het geluid van %n projector inschakelen?</numerusform>
             <numerusform>Het geluid van %n projectors inschakelen?</numerusform>
         </translation>
     </message>
     <message>
         <source>Free&amp;ze</source>
-        <translation type="unfinished">Beeld be&amp;vriezen</translation>
+        <translation>Beeld be&amp;vriezen</translation>
     </message>
     <message>
         <source>Freeze the Picture</source>
-        <translation type="unfinished">Beeld bevriezen</translation>
+        <translation>Beeld bevriezen</translation>
     </message>
     <message numerus="yes">
         <source>Freeze the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Het beeld van %n projector bevriezen?</numerusform>
             <numerusform>Het beeld van %n projectors bevriezen?</numerusform>
         </translation>
     </message>
     <message>
         <source>Release the Picture</source>
-        <translation type="unfinished">Beeld vrijgeven</translation>
+        <translation>Beeld vrijgeven</translation>
     </message>
     <message numerus="yes">
         <source>Release the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Het beeld van %n projector vrijgeven?</numerusform>
             <numerusform>Het beeld van %n projectors vrijgeven?</numerusform>
         </translation>
     </message>
     <message>
         <source>Switch On</source>
-        <translation type="unfinished">Inschakelen</translation>
+        <translation>Inschakelen</translation>
     </message>
     <message>
         <source>Switch Off</source>
-        <translation type="unfinished">Uitschakelen</translation>
+        <translation>Uitschakelen</translation>
     </message>
     <message numerus="yes">
         <source>Switch on %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n projector inschakelen?</numerusform>
             <numerusform>%n projectors inschakelen?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Switch off %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n projector uitschakelen?</numerusform>
             <numerusform>%n projectors uitschakelen?</numerusform>
         </translation>
     </message>
     <message>
         <source>Input %1</source>
-        <translation type="unfinished">Ingang %1</translation>
+        <translation>Ingang %1</translation>
     </message>
     <message numerus="yes">
         <source>Choose the input %1 on %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Ingang %1 kiezen op %n projector?</numerusform>
             <numerusform>Ingang %1 kiezen op %n projectors?</numerusform>
         </translation>
     </message>
     <message>
         <source>No inputs are known</source>
-        <translation type="unfinished">Geen ingangen bekend</translation>
+        <translation>Geen ingangen bekend</translation>
     </message>
 </context>
 <context>
@@ -4028,9 +4028,9 @@ een minteken ervoor neemt een label weg:</numerusform>
     </message>
     <message numerus="yes">
         <source>done, %n settings could not be read</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>klaar, %n instelling kon niet gelezen worden</numerusform>
+            <numerusform>klaar, %n instellingen konden niet gelezen worden</numerusform>
         </translation>
     </message>
 </context>

@@ -1026,19 +1026,19 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     </message>
     <message>
         <source>Prints what differs from a file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wypisuje różnice względem pliku („-” to standardowe wejście), zestawu aplikacji graficznej albo własnego pliku każdego projektora w folderze.</translation>
     </message>
     <message>
         <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Odczytuje projektory, wysyła to, co różni się od pliku („-” to standardowe wejście), od zestawu aplikacji graficznej albo od własnego pliku każdego projektora w folderze, i odczytuje ponownie. Zastępowane wartości są najpierw zachowywane, aby „acctl undo” mogło je przywrócić. Przerwane wykonanie można powtórzyć w dowolnej chwili.</translation>
     </message>
     <message>
         <source>the value before could not be read, and cannot be restored</source>
-        <translation type="unfinished"></translation>
+        <translation>poprzedniej wartości nie udało się odczytać i nie będzie można jej przywrócić</translation>
     </message>
     <message>
         <source>the value before could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>poprzedniej wartości nie udało się odczytać</translation>
     </message>
 </context>
 <context>
@@ -1458,15 +1458,15 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     </message>
     <message>
         <source>Projector, setting, command or result</source>
-        <translation type="unfinished"></translation>
+        <translation>Projektor, ustawienie, polecenie lub wynik</translation>
     </message>
     <message>
         <source>All projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Wszystkie projektory</translation>
     </message>
     <message>
         <source>Show the commands of</source>
-        <translation type="unfinished"></translation>
+        <translation>Pokaż polecenia</translation>
     </message>
 </context>
 <context>
@@ -1525,65 +1525,65 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">Ustawienie</translation>
+        <translation>Ustawienie</translation>
     </message>
 </context>
 <context>
     <name>ComparisonDialog</name>
     <message>
         <source>Progress</source>
-        <translation type="unfinished">Postęp</translation>
+        <translation>Postęp</translation>
     </message>
     <message>
         <source>&amp;Ask Again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Odpytaj ponownie</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
-        <translation type="unfinished">&amp;Zastosuj</translation>
+        <translation>&amp;Zastosuj</translation>
     </message>
     <message>
         <source>Reading settings…</source>
-        <translation type="unfinished">Odczytywanie ustawień…</translation>
+        <translation>Odczytywanie ustawień…</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished">Zatrzymaj</translation>
+        <translation>Zatrzymaj</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Anuluj</translation>
+        <translation>Anuluj</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Zamknij</translation>
+        <translation>Zamknij</translation>
     </message>
     <message>
         <source>Nothing differs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Brak różnic.</translation>
     </message>
     <message numerus="yes">
         <source>%n projectors differ.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n projektor się różni.</numerusform>
+            <numerusform>%n projektory się różnią.</numerusform>
+            <numerusform>%n projektorów się różni.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n projectors have all these settings already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n projektor ma już wszystkie te ustawienia.</numerusform>
+            <numerusform>%n projektory mają już wszystkie te ustawienia.</numerusform>
+            <numerusform>%n projektorów ma już wszystkie te ustawienia.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n projectors could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Nie udało się odczytać %n projektora.</numerusform>
+            <numerusform>Nie udało się odczytać %n projektorów.</numerusform>
+            <numerusform>Nie udało się odczytać %n projektorów.</numerusform>
         </translation>
     </message>
 </context>
@@ -1807,23 +1807,23 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     <name>DifferenceTree</name>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">Ustawienie</translation>
+        <translation>Ustawienie</translation>
     </message>
     <message>
         <source>Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Obecnie</translation>
     </message>
     <message>
         <source>Differences</source>
-        <translation type="unfinished"></translation>
+        <translation>Różnice</translation>
     </message>
     <message>
         <source>First the other sources and modes</source>
-        <translation type="unfinished"></translation>
+        <translation>Najpierw inne źródła i tryby</translation>
     </message>
     <message numerus="yes">
         <source>%n settings</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n ustawienie</numerusform>
             <numerusform>%n ustawienia</numerusform>
             <numerusform>%n ustawień</numerusform>
@@ -1831,23 +1831,23 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     </message>
     <message numerus="yes">
         <source>%n settings do not apply to this model</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ustawienie nie dotyczy tego modelu</numerusform>
+            <numerusform>%n ustawienia nie dotyczą tego modelu</numerusform>
+            <numerusform>%n ustawień nie dotyczy tego modelu</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n settings cannot be read now</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ustawienia nie można teraz odczytać</numerusform>
+            <numerusform>%n ustawień nie można teraz odczytać</numerusform>
+            <numerusform>%n ustawień nie można teraz odczytać</numerusform>
         </translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -2092,10 +2092,10 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     <message numerus="yes">
         <source>%n not watched</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n bez nadzoru</numerusform>
+            <numerusform>%n bez nadzoru</numerusform>
+            <numerusform>%n bez nadzoru</numerusform>
         </translation>
     </message>
 </context>
@@ -2179,7 +2179,7 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     </message>
     <message>
         <source>the projector reports none of its settings now</source>
-        <translation type="unfinished"></translation>
+        <translation>projektor nie podaje teraz żadnego ze swoich ustawień</translation>
     </message>
 </context>
 <context>
@@ -2537,23 +2537,23 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     </message>
     <message>
         <source>As the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Jak na pulpicie</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Jasne</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciemne</translation>
     </message>
     <message>
         <source>&amp;Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kolory</translation>
     </message>
     <message>
         <source>(the same time twice: none)</source>
-        <translation type="unfinished"></translation>
+        <translation>(dwie takie same godziny: brak)</translation>
     </message>
 </context>
 <context>
@@ -2628,86 +2628,86 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     </message>
     <message>
         <source>Reading the settings of %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Odczytywanie ustawień %1…</translation>
     </message>
     <message>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Zestaw</translation>
     </message>
     <message>
         <source>What It Should Be</source>
-        <translation type="unfinished"></translation>
+        <translation>Wzorzec</translation>
     </message>
     <message>
         <source>Should be</source>
-        <translation type="unfinished"></translation>
+        <translation>Wzorzec</translation>
     </message>
 </context>
 <context>
     <name>PresetDialog</name>
     <message>
         <source>Save as Preset</source>
-        <translation type="unfinished">Zapis zestawu</translation>
+        <translation>Zapis zestawu</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">Ustawienie</translation>
+        <translation>Ustawienie</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">Wartość</translation>
+        <translation>Wartość</translation>
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Ustawienia zestawu</translation>
     </message>
     <message>
         <source>&amp;Name of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nazwa zestawu</translation>
     </message>
     <message>
         <source>&amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wszystkie</translation>
     </message>
     <message>
         <source>Check all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Zaznacz wszystkie ustawienia</translation>
     </message>
     <message>
         <source>This &amp;Page</source>
-        <translation type="unfinished"></translation>
+        <translation>Ta &amp;strona</translation>
     </message>
     <message>
         <source>Check the settings of the selected page, and no others</source>
-        <translation type="unfinished"></translation>
+        <translation>Zaznacz tylko ustawienia wybranej strony</translation>
     </message>
     <message>
         <source>N&amp;one</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Żadne</translation>
     </message>
     <message>
         <source>Uncheck all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Odznacz wszystkie ustawienia</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zapisz</translation>
     </message>
     <message>
         <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
-        <translation type="unfinished"></translation>
+        <translation>Niedozwolona nazwa zestawu: pomiń ukośniki i kropkę na początku.</translation>
     </message>
     <message numerus="yes">
         <source>%n settings are checked.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Zaznaczono %n ustawienie.</numerusform>
+            <numerusform>Zaznaczono %n ustawienia.</numerusform>
+            <numerusform>Zaznaczono %n ustawień.</numerusform>
         </translation>
     </message>
     <message>
         <source>The preset %1 will be replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zestaw %1 zostanie zastąpiony.</translation>
     </message>
 </context>
 <context>
@@ -3020,7 +3020,7 @@ minus przed tagiem go usuwa:</numerusform>
     </message>
     <message>
         <source>%1 cannot be changed. Save the profiles in another file first.</source>
-        <translation>%1 nie można zmienić. Najpierw zapisz profile w innym pliku.</translation>
+        <translation>Nie można zmienić %1. Zapisz najpierw profile w innym pliku.</translation>
     </message>
     <message>
         <source>Save Profiles As…</source>
@@ -3305,39 +3305,39 @@ minus przed tagiem go usuwa:</numerusform>
     </message>
     <message>
         <source>Settings saved in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ustawienia zapisano w %1.</translation>
     </message>
     <message numerus="yes">
         <source>Settings of %n projectors saved in %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ustawienia %n projektora zapisano w %1.</numerusform>
+            <numerusform>Ustawienia %n projektorów zapisano w %1.</numerusform>
+            <numerusform>Ustawienia %n projektorów zapisano w %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n settings could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Nie udało się odczytać %n ustawienia.</numerusform>
+            <numerusform>Nie udało się odczytać %n ustawień.</numerusform>
+            <numerusform>Nie udało się odczytać %n ustawień.</numerusform>
         </translation>
     </message>
     <message>
         <source>Apply Settings</source>
-        <translation type="unfinished">Stosowanie ustawień</translation>
+        <translation>Stosowanie ustawień</translation>
     </message>
     <message>
         <source>Compare Settings</source>
-        <translation type="unfinished">Porównanie ustawień</translation>
+        <translation>Porównanie ustawień</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished">Plik</translation>
+        <translation>Plik</translation>
     </message>
     <message>
         <source>The values before are kept in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Poprzednie wartości zachowano w %1.</translation>
     </message>
 </context>
 <context>
@@ -3805,25 +3805,25 @@ minus przed tagiem go usuwa:</numerusform>
     <message numerus="yes">
         <source>%n projectors added</source>
         <translation>
-            <numerusform>dodano %n projektor</numerusform>
-            <numerusform>dodano %n projektory</numerusform>
-            <numerusform>dodano %n projektorów</numerusform>
+            <numerusform>Dodano %n projektor</numerusform>
+            <numerusform>Dodano %n projektory</numerusform>
+            <numerusform>Dodano %n projektorów</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n already known</source>
         <translation>
-            <numerusform>już znane: %n</numerusform>
-            <numerusform>już znane: %n</numerusform>
-            <numerusform>już znane: %n</numerusform>
+            <numerusform>%n już znany</numerusform>
+            <numerusform>%n już znane</numerusform>
+            <numerusform>%n już znanych</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n rows not taken</source>
         <translation>
-            <numerusform>%n wiersz odrzucony</numerusform>
-            <numerusform>%n wiersze odrzucone</numerusform>
-            <numerusform>%n wierszy odrzuconych</numerusform>
+            <numerusform>nie przyjęto %n wiersza</numerusform>
+            <numerusform>nie przyjęto %n wierszy</numerusform>
+            <numerusform>nie przyjęto %n wierszy</numerusform>
         </translation>
     </message>
 </context>
@@ -4086,14 +4086,14 @@ minus przed tagiem go usuwa:</numerusform>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message numerus="yes">
         <source>done, %n settings could not be read</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>gotowe, nie udało się odczytać %n ustawienia</numerusform>
+            <numerusform>gotowe, nie udało się odczytać %n ustawień</numerusform>
+            <numerusform>gotowe, nie udało się odczytać %n ustawień</numerusform>
         </translation>
     </message>
 </context>

@@ -1007,19 +1007,19 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>Prints what differs from a file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra o que difere de um arquivo (“-” é a entrada padrão), de uma predefinição do aplicativo gráfico ou do arquivo de cada projetor em uma pasta.</translation>
     </message>
     <message>
         <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lê os projetores, envia o que difere do arquivo (“-” é a entrada padrão), de uma predefinição do aplicativo gráfico ou do arquivo de cada projetor em uma pasta, e relê. O que é substituído é guardado antes, para que “acctl undo” possa restaurá-lo. Uma execução interrompida pode ser repetida a qualquer momento.</translation>
     </message>
     <message>
         <source>the value before could not be read, and cannot be restored</source>
-        <translation type="unfinished"></translation>
+        <translation>não foi possível ler o valor anterior, que não poderá ser restaurado</translation>
     </message>
     <message>
         <source>the value before could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>não foi possível ler o valor anterior</translation>
     </message>
 </context>
 <context>
@@ -1378,7 +1378,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <name>CommandLog</name>
     <message>
         <source>Changes &amp;Only</source>
-        <translation>Somente &amp;alterações</translation>
+        <translation>Somente al&amp;terações</translation>
     </message>
     <message>
         <source>&amp;Errors Only</source>
@@ -1386,7 +1386,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>Save &amp;Log As…</source>
-        <translation>Salvar &amp;registro como…</translation>
+        <translation>Salvar re&amp;gistro como…</translation>
     </message>
     <message>
         <source>Clea&amp;r Log…</source>
@@ -1437,15 +1437,15 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>Projector, setting, command or result</source>
-        <translation type="unfinished"></translation>
+        <translation>Projetor, ajuste, comando ou resultado</translation>
     </message>
     <message>
         <source>All projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos os projetores</translation>
     </message>
     <message>
         <source>Show the commands of</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar os comandos de</translation>
     </message>
 </context>
 <context>
@@ -1515,7 +1515,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>&amp;Ask Again</source>
-        <translation type="unfinished"></translation>
+        <translation>Consultar &amp;novamente</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -1539,27 +1539,27 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>Nothing differs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhuma diferença.</translation>
     </message>
     <message numerus="yes">
         <source>%n projectors differ.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n projetor difere.</numerusform>
+            <numerusform>%n projetores diferem.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n projectors have all these settings already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n projetor já tem todos esses ajustes.</numerusform>
+            <numerusform>%n projetores já têm todos esses ajustes.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n projectors could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Não foi possível ler %n projetor.</numerusform>
+            <numerusform>Não foi possível ler %n projetores.</numerusform>
         </translation>
     </message>
 </context>
@@ -1567,55 +1567,55 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <name>ConnectionFields</name>
     <message>
         <source>&amp;Reached through</source>
-        <translation type="unfinished">Acessível &amp;por</translation>
+        <translation>Acessível &amp;por</translation>
     </message>
     <message>
         <source>Connect&amp;ion</source>
-        <translation type="unfinished">Cone&amp;xão</translation>
+        <translation>Cone&amp;xão</translation>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation type="unfinished">&amp;Endereço</translation>
+        <translation>&amp;Endereço</translation>
     </message>
     <message>
         <source>&amp;Port</source>
-        <translation type="unfinished">P&amp;orta</translation>
+        <translation>P&amp;orta</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
-        <translation type="unfinished">&amp;Senha</translation>
+        <translation>&amp;Senha</translation>
     </message>
     <message>
         <source>Port n&amp;umber</source>
-        <translation type="unfinished">N&amp;úmero da porta</translation>
+        <translation>N&amp;úmero da porta</translation>
     </message>
     <message>
         <source>&amp;Device</source>
-        <translation type="unfinished">&amp;Dispositivo</translation>
+        <translation>&amp;Dispositivo</translation>
     </message>
     <message>
         <source>&amp;Baud</source>
-        <translation type="unfinished">&amp;Taxa em bauds</translation>
+        <translation>&amp;Taxa em bauds</translation>
     </message>
     <message>
         <source>As its family</source>
-        <translation type="unfinished">Como sua família</translation>
+        <translation>Como sua família</translation>
     </message>
     <message>
         <source>Simulated</source>
-        <translation type="unfinished">Simulado</translation>
+        <translation>Simulado</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished">Rede</translation>
+        <translation>Rede</translation>
     </message>
     <message>
         <source>Serial port</source>
-        <translation type="unfinished">Porta serial</translation>
+        <translation>Porta serial</translation>
     </message>
     <message>
         <source>%1 is no address.</source>
-        <translation type="unfinished">%1 não é um endereço.</translation>
+        <translation>%1 não é um endereço.</translation>
     </message>
 </context>
 <context>
@@ -1786,15 +1786,15 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Agora</translation>
     </message>
     <message>
         <source>Differences</source>
-        <translation type="unfinished"></translation>
+        <translation>Diferenças</translation>
     </message>
     <message>
         <source>First the other sources and modes</source>
-        <translation type="unfinished"></translation>
+        <translation>Primeiro as outras fontes e modos</translation>
     </message>
     <message numerus="yes">
         <source>%n settings</source>
@@ -1805,16 +1805,16 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message numerus="yes">
         <source>%n settings do not apply to this model</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ajuste não se aplica a este modelo</numerusform>
+            <numerusform>%n ajustes não se aplicam a este modelo</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n settings cannot be read now</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ajuste não pode ser lido agora</numerusform>
+            <numerusform>%n ajustes não podem ser lidos agora</numerusform>
         </translation>
     </message>
     <message>
@@ -2007,7 +2007,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <message>
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2, %3 ms</translation>
     </message>
 </context>
 <context>
@@ -2059,9 +2059,9 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <message numerus="yes">
         <source>%n not watched</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n não monitorado</numerusform>
+            <numerusform>%n não monitorados</numerusform>
         </translation>
     </message>
 </context>
@@ -2145,7 +2145,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>the projector reports none of its settings now</source>
-        <translation type="unfinished"></translation>
+        <translation>o projetor não informa nenhum ajuste no momento</translation>
     </message>
 </context>
 <context>
@@ -2359,27 +2359,27 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <name>ModelFields</name>
     <message>
         <source>&amp;Family</source>
-        <translation type="unfinished">&amp;Família</translation>
+        <translation>&amp;Família</translation>
     </message>
     <message>
         <source>&amp;Model</source>
-        <translation type="unfinished">&amp;Modelo</translation>
+        <translation>&amp;Modelo</translation>
     </message>
     <message>
         <source>All &amp;fields of the model</source>
-        <translation type="unfinished">Todos os campos do mode&amp;lo</translation>
+        <translation>Todos os campos do mode&amp;lo</translation>
     </message>
     <message>
         <source>Dialog &amp;type</source>
-        <translation type="unfinished">&amp;Tipo de caixa de diálogo</translation>
+        <translation>&amp;Tipo de caixa de diálogo</translation>
     </message>
     <message>
         <source>Model cod&amp;e</source>
-        <translation type="unfinished">&amp;Código do modelo</translation>
+        <translation>&amp;Código do modelo</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished">Nenhuma</translation>
+        <translation>Nenhuma</translation>
     </message>
 </context>
 <context>
@@ -2502,23 +2502,23 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>As the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Igual à área de trabalho</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Claro</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Escuro</translation>
     </message>
     <message>
         <source>&amp;Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;res</translation>
     </message>
     <message>
         <source>(the same time twice: none)</source>
-        <translation type="unfinished"></translation>
+        <translation>(dois horários iguais: nenhuma)</translation>
     </message>
 </context>
 <context>
@@ -2592,19 +2592,19 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>Reading the settings of %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lendo os ajustes de %1…</translation>
     </message>
     <message>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Predefinição</translation>
     </message>
     <message>
         <source>What It Should Be</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado desejado</translation>
     </message>
     <message>
         <source>Should be</source>
-        <translation type="unfinished"></translation>
+        <translation>Desejado</translation>
     </message>
 </context>
 <context>
@@ -2623,54 +2623,54 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustes da predefinição</translation>
     </message>
     <message>
         <source>&amp;Name of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nome da predefinição</translation>
     </message>
     <message>
         <source>&amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Todos</translation>
     </message>
     <message>
         <source>Check all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcar todos os ajustes</translation>
     </message>
     <message>
         <source>This &amp;Page</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta &amp;página</translation>
     </message>
     <message>
         <source>Check the settings of the selected page, and no others</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcar somente os ajustes da página selecionada</translation>
     </message>
     <message>
         <source>N&amp;one</source>
-        <translation type="unfinished"></translation>
+        <translation>N&amp;enhum</translation>
     </message>
     <message>
         <source>Uncheck all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Desmarcar todos os ajustes</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Salvar</translation>
     </message>
     <message>
         <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome inválido para uma predefinição: não use barras nem comece com um ponto.</translation>
     </message>
     <message numerus="yes">
         <source>%n settings are checked.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ajuste marcado.</numerusform>
+            <numerusform>%n ajustes marcados.</numerusform>
         </translation>
     </message>
     <message>
         <source>The preset %1 will be replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>A predefinição %1 será substituída.</translation>
     </message>
 </context>
 <context>
@@ -2948,58 +2948,58 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
     <name>ProfileFileActions</name>
     <message>
         <source>&amp;Open Profiles…</source>
-        <translation type="unfinished">&amp;Abrir perfis…</translation>
+        <translation>&amp;Abrir perfis…</translation>
     </message>
     <message>
         <source>&amp;Reload</source>
-        <translation type="unfinished">&amp;Recarregar</translation>
+        <translation>&amp;Recarregar</translation>
     </message>
     <message>
         <source>&amp;Save Profiles As…</source>
-        <translation type="unfinished">Sal&amp;var perfis como…</translation>
+        <translation>Sal&amp;var perfis como…</translation>
     </message>
     <message>
         <source>Open Profiles</source>
-        <translation type="unfinished">Abrir perfis</translation>
+        <translation>Abrir perfis</translation>
     </message>
     <message>
         <source>Profiles (*.json);;All files (*)</source>
-        <translation type="unfinished">Perfis (*.json);;Todos os arquivos (*)</translation>
+        <translation>Perfis (*.json);;Todos os arquivos (*)</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished">Recarregar</translation>
+        <translation>Recarregar</translation>
     </message>
     <message>
         <source>Save Profiles As</source>
-        <translation type="unfinished">Salvar perfis como</translation>
+        <translation>Salvar perfis como</translation>
     </message>
     <message>
         <source>Read-Only File</source>
-        <translation type="unfinished"></translation>
+        <translation>Arquivo somente leitura</translation>
     </message>
     <message>
         <source>%1 cannot be changed. Save the profiles in another file first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível alterar %1. Salve antes os perfis em outro arquivo.</translation>
     </message>
     <message>
         <source>Save Profiles As…</source>
-        <translation type="unfinished">Salvar perfis como…</translation>
+        <translation>Salvar perfis como…</translation>
     </message>
 </context>
 <context>
     <name>ProfileHistory</name>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished">&amp;Desfazer</translation>
+        <translation>&amp;Desfazer</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished">Re&amp;fazer</translation>
+        <translation>Re&amp;fazer</translation>
     </message>
     <message>
         <source>This could not be done; nothing was changed.</source>
-        <translation type="unfinished">Não foi possível; nada foi alterado.</translation>
+        <translation>Não foi possível; nada foi alterado.</translation>
     </message>
 </context>
 <context>
@@ -3052,51 +3052,51 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
     <name>ProjectorColumns</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished">Nome</translation>
+        <translation>Nome</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished">Estado</translation>
+        <translation>Estado</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished">Alimentação</translation>
+        <translation>Alimentação</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished">Fonte</translation>
+        <translation>Fonte</translation>
     </message>
     <message>
         <source>Lamp</source>
-        <translation type="unfinished">Lâmpada</translation>
+        <translation>Lâmpada</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation type="unfinished">Problema</translation>
+        <translation>Problema</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished">Modelo</translation>
+        <translation>Modelo</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished">Local</translation>
+        <translation>Local</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished">Ajustes</translation>
+        <translation>Ajustes</translation>
     </message>
     <message>
         <source>Last answer</source>
-        <translation type="unfinished">Última resposta</translation>
+        <translation>Última resposta</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished">Endereço</translation>
+        <translation>Endereço</translation>
     </message>
     <message>
         <source>%1 · open</source>
-        <translation type="unfinished">%1 · aberto</translation>
+        <translation>%1 · aberto</translation>
     </message>
 </context>
 <context>
@@ -3261,20 +3261,20 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
     </message>
     <message>
         <source>Settings saved in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustes salvos em %1.</translation>
     </message>
     <message numerus="yes">
         <source>Settings of %n projectors saved in %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ajustes de %n projetor salvos em %1.</numerusform>
+            <numerusform>Ajustes de %n projetores salvos em %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n settings could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Não foi possível ler %n ajuste.</numerusform>
+            <numerusform>Não foi possível ler %n ajustes.</numerusform>
         </translation>
     </message>
     <message>
@@ -3291,7 +3291,7 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
     </message>
     <message>
         <source>The values before are kept in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Os valores anteriores estão guardados em %1.</translation>
     </message>
 </context>
 <context>
@@ -3757,23 +3757,23 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
     </message>
     <message numerus="yes">
         <source>%n projectors added</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n projetor adicionado</numerusform>
+            <numerusform>%n projetores adicionados</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n already known</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n já conhecido</numerusform>
+            <numerusform>%n já conhecidos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n rows not taken</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n linha não importada</numerusform>
+            <numerusform>%n linhas não importadas</numerusform>
         </translation>
     </message>
 </context>
@@ -3781,134 +3781,134 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
     <name>UsualActions</name>
     <message>
         <source>Switch O&amp;n</source>
-        <translation type="unfinished">&amp;Ligar</translation>
+        <translation>&amp;Ligar</translation>
     </message>
     <message>
         <source>Switch O&amp;ff</source>
-        <translation type="unfinished">&amp;Desligar</translation>
+        <translation>&amp;Desligar</translation>
     </message>
     <message>
         <source>P&amp;ower</source>
-        <translation type="unfinished">Alime&amp;ntação</translation>
+        <translation>Alime&amp;ntação</translation>
     </message>
     <message>
         <source>&amp;Input</source>
-        <translation type="unfinished">&amp;Entrada</translation>
+        <translation>&amp;Entrada</translation>
     </message>
     <message>
         <source>&amp;Blank</source>
-        <translation type="unfinished">Tela &amp;vazia</translation>
+        <translation>Tela &amp;vazia</translation>
     </message>
     <message>
         <source>Blank the Picture</source>
-        <translation type="unfinished">Mostrar tela vazia</translation>
+        <translation>Mostrar tela vazia</translation>
     </message>
     <message numerus="yes">
         <source>Blank the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Mostrar uma tela vazia em %n projetor?</numerusform>
             <numerusform>Mostrar uma tela vazia em %n projetores?</numerusform>
         </translation>
     </message>
     <message>
         <source>Show the Picture</source>
-        <translation type="unfinished">Mostrar a imagem</translation>
+        <translation>Mostrar a imagem</translation>
     </message>
     <message numerus="yes">
         <source>Show the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Mostrar a imagem de %n projetor?</numerusform>
             <numerusform>Mostrar a imagem de %n projetores?</numerusform>
         </translation>
     </message>
     <message>
         <source>&amp;Mute</source>
-        <translation type="unfinished">M&amp;udo</translation>
+        <translation>M&amp;udo</translation>
     </message>
     <message>
         <source>Mute the Sound</source>
-        <translation type="unfinished">Silenciar o som</translation>
+        <translation>Silenciar o som</translation>
     </message>
     <message numerus="yes">
         <source>Mute the sound of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Silenciar o som de %n projetor?</numerusform>
             <numerusform>Silenciar o som de %n projetores?</numerusform>
         </translation>
     </message>
     <message>
         <source>Unmute the Sound</source>
-        <translation type="unfinished">Ativar o som</translation>
+        <translation>Ativar o som</translation>
     </message>
     <message numerus="yes">
         <source>Unmute the sound of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Ativar o som de %n projetor?</numerusform>
             <numerusform>Ativar o som de %n projetores?</numerusform>
         </translation>
     </message>
     <message>
         <source>Free&amp;ze</source>
-        <translation type="unfinished">Con&amp;gelar</translation>
+        <translation>Con&amp;gelar</translation>
     </message>
     <message>
         <source>Freeze the Picture</source>
-        <translation type="unfinished">Congelar a imagem</translation>
+        <translation>Congelar a imagem</translation>
     </message>
     <message numerus="yes">
         <source>Freeze the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Congelar a imagem de %n projetor?</numerusform>
             <numerusform>Congelar a imagem de %n projetores?</numerusform>
         </translation>
     </message>
     <message>
         <source>Release the Picture</source>
-        <translation type="unfinished">Descongelar a imagem</translation>
+        <translation>Descongelar a imagem</translation>
     </message>
     <message numerus="yes">
         <source>Release the picture of %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Descongelar a imagem de %n projetor?</numerusform>
             <numerusform>Descongelar a imagem de %n projetores?</numerusform>
         </translation>
     </message>
     <message>
         <source>Switch On</source>
-        <translation type="unfinished">Ligar</translation>
+        <translation>Ligar</translation>
     </message>
     <message>
         <source>Switch Off</source>
-        <translation type="unfinished">Desligar</translation>
+        <translation>Desligar</translation>
     </message>
     <message numerus="yes">
         <source>Switch on %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Ligar %n projetor?</numerusform>
             <numerusform>Ligar %n projetores?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Switch off %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Desligar %n projetor?</numerusform>
             <numerusform>Desligar %n projetores?</numerusform>
         </translation>
     </message>
     <message>
         <source>Input %1</source>
-        <translation type="unfinished">Entrada %1</translation>
+        <translation>Entrada %1</translation>
     </message>
     <message numerus="yes">
         <source>Choose the input %1 on %n projectors?</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Escolher a entrada %1 em %n projetor?</numerusform>
             <numerusform>Escolher a entrada %1 em %n projetores?</numerusform>
         </translation>
     </message>
     <message>
         <source>No inputs are known</source>
-        <translation type="unfinished">Nenhuma entrada conhecida</translation>
+        <translation>Nenhuma entrada conhecida</translation>
     </message>
 </context>
 <context>
@@ -4028,9 +4028,9 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
     </message>
     <message numerus="yes">
         <source>done, %n settings could not be read</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>concluído, não foi possível ler %n ajuste</numerusform>
+            <numerusform>concluído, não foi possível ler %n ajustes</numerusform>
         </translation>
     </message>
 </context>

@@ -1026,19 +1026,19 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
     <message>
         <source>Prints what differs from a file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Выводит отличия от файла («-» — стандартный ввод), от пресета графического приложения или от собственного файла каждого проектора в папке.</translation>
     </message>
     <message>
         <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Читает проекторы, отправляет то, что отличается от файла («-» — стандартный ввод), от пресета графического приложения или от собственного файла каждого проектора в папке, и считывает обратно. Заменяемые значения предварительно сохраняются, чтобы их мог восстановить «acctl undo». Прерванный запуск можно повторить в любой момент.</translation>
     </message>
     <message>
         <source>the value before could not be read, and cannot be restored</source>
-        <translation type="unfinished"></translation>
+        <translation>прежнее значение не удалось прочитать, восстановить его будет нельзя</translation>
     </message>
     <message>
         <source>the value before could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>прежнее значение не удалось прочитать</translation>
     </message>
 </context>
 <context>
@@ -1458,15 +1458,15 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
     <message>
         <source>Projector, setting, command or result</source>
-        <translation type="unfinished"></translation>
+        <translation>Проектор, настройка, команда или результат</translation>
     </message>
     <message>
         <source>All projectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Все проекторы</translation>
     </message>
     <message>
         <source>Show the commands of</source>
-        <translation type="unfinished"></translation>
+        <translation>Показать команды</translation>
     </message>
 </context>
 <context>
@@ -1525,65 +1525,65 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">Настройка</translation>
+        <translation>Настройка</translation>
     </message>
 </context>
 <context>
     <name>ComparisonDialog</name>
     <message>
         <source>Progress</source>
-        <translation type="unfinished">Ход выполнения</translation>
+        <translation>Ход выполнения</translation>
     </message>
     <message>
         <source>&amp;Ask Again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Опросить снова</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
-        <translation type="unfinished">&amp;Применить</translation>
+        <translation>&amp;Применить</translation>
     </message>
     <message>
         <source>Reading settings…</source>
-        <translation type="unfinished">Чтение настроек…</translation>
+        <translation>Чтение настроек…</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished">Остановить</translation>
+        <translation>Остановить</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Отмена</translation>
+        <translation>Отмена</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Закрыть</translation>
+        <translation>Закрыть</translation>
     </message>
     <message>
         <source>Nothing differs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Отличий нет.</translation>
     </message>
     <message numerus="yes">
         <source>%n projectors differ.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Отличается %n проектор.</numerusform>
+            <numerusform>Отличаются %n проектора.</numerusform>
+            <numerusform>Отличаются %n проекторов.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n projectors have all these settings already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>У %n проектора все эти настройки уже заданы.</numerusform>
+            <numerusform>У %n проекторов все эти настройки уже заданы.</numerusform>
+            <numerusform>У %n проекторов все эти настройки уже заданы.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n projectors could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Не удалось прочитать %n проектор.</numerusform>
+            <numerusform>Не удалось прочитать %n проектора.</numerusform>
+            <numerusform>Не удалось прочитать %n проекторов.</numerusform>
         </translation>
     </message>
 </context>
@@ -1807,23 +1807,23 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     <name>DifferenceTree</name>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">Настройка</translation>
+        <translation>Настройка</translation>
     </message>
     <message>
         <source>Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Сейчас</translation>
     </message>
     <message>
         <source>Differences</source>
-        <translation type="unfinished"></translation>
+        <translation>Отличия</translation>
     </message>
     <message>
         <source>First the other sources and modes</source>
-        <translation type="unfinished"></translation>
+        <translation>Сначала другие источники и режимы</translation>
     </message>
     <message numerus="yes">
         <source>%n settings</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n настройка</numerusform>
             <numerusform>%n настройки</numerusform>
             <numerusform>%n настроек</numerusform>
@@ -1831,23 +1831,23 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
     <message numerus="yes">
         <source>%n settings do not apply to this model</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n настройка не относится к этой модели</numerusform>
+            <numerusform>%n настройки не относятся к этой модели</numerusform>
+            <numerusform>%n настроек не относятся к этой модели</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n settings cannot be read now</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n настройку сейчас прочитать нельзя</numerusform>
+            <numerusform>%n настройки сейчас прочитать нельзя</numerusform>
+            <numerusform>%n настроек сейчас прочитать нельзя</numerusform>
         </translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -2092,10 +2092,10 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     <message numerus="yes">
         <source>%n not watched</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n не отслеживается</numerusform>
+            <numerusform>%n не отслеживаются</numerusform>
+            <numerusform>%n не отслеживаются</numerusform>
         </translation>
     </message>
 </context>
@@ -2179,7 +2179,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
     <message>
         <source>the projector reports none of its settings now</source>
-        <translation type="unfinished"></translation>
+        <translation>сейчас проектор не сообщает ни одной настройки</translation>
     </message>
 </context>
 <context>
@@ -2537,23 +2537,23 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
     <message>
         <source>As the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Как на рабочем столе</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Светлая</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Тёмная</translation>
     </message>
     <message>
         <source>&amp;Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Цветовая схема</translation>
     </message>
     <message>
         <source>(the same time twice: none)</source>
-        <translation type="unfinished"></translation>
+        <translation>(если время одинаковое — выключено)</translation>
     </message>
 </context>
 <context>
@@ -2628,86 +2628,86 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
     <message>
         <source>Reading the settings of %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Чтение настроек %1…</translation>
     </message>
     <message>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Пресет</translation>
     </message>
     <message>
         <source>What It Should Be</source>
-        <translation type="unfinished"></translation>
+        <translation>Эталон</translation>
     </message>
     <message>
         <source>Should be</source>
-        <translation type="unfinished"></translation>
+        <translation>Эталон</translation>
     </message>
 </context>
 <context>
     <name>PresetDialog</name>
     <message>
         <source>Save as Preset</source>
-        <translation type="unfinished">Сохранение пресета</translation>
+        <translation>Сохранение пресета</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">Настройка</translation>
+        <translation>Настройка</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">Значение</translation>
+        <translation>Значение</translation>
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Настройки пресета</translation>
     </message>
     <message>
         <source>&amp;Name of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Имя пресета</translation>
     </message>
     <message>
         <source>&amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Все</translation>
     </message>
     <message>
         <source>Check all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Отметить все настройки</translation>
     </message>
     <message>
         <source>This &amp;Page</source>
-        <translation type="unfinished"></translation>
+        <translation>Эта &amp;страница</translation>
     </message>
     <message>
         <source>Check the settings of the selected page, and no others</source>
-        <translation type="unfinished"></translation>
+        <translation>Отметить только настройки выбранной страницы</translation>
     </message>
     <message>
         <source>N&amp;one</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ничего</translation>
     </message>
     <message>
         <source>Uncheck all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Снять все отметки</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Со&amp;хранить</translation>
     </message>
     <message>
         <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
-        <translation type="unfinished"></translation>
+        <translation>Недопустимое имя пресета: уберите косые черты и точку в начале.</translation>
     </message>
     <message numerus="yes">
         <source>%n settings are checked.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Отмечена %n настройка.</numerusform>
+            <numerusform>Отмечены %n настройки.</numerusform>
+            <numerusform>Отмечено %n настроек.</numerusform>
         </translation>
     </message>
     <message>
         <source>The preset %1 will be replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Пресет %1 будет заменён.</translation>
     </message>
 </context>
 <context>
@@ -3020,7 +3020,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>%1 cannot be changed. Save the profiles in another file first.</source>
-        <translation>%1 изменить нельзя. Сначала сохраните профили в другом файле.</translation>
+        <translation>Изменить %1 нельзя. Сначала сохраните профили в другом файле.</translation>
     </message>
     <message>
         <source>Save Profiles As…</source>
@@ -3305,39 +3305,39 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Settings saved in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Настройки сохранены в %1.</translation>
     </message>
     <message numerus="yes">
         <source>Settings of %n projectors saved in %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Настройки %n проектора сохранены в %1.</numerusform>
+            <numerusform>Настройки %n проекторов сохранены в %1.</numerusform>
+            <numerusform>Настройки %n проекторов сохранены в %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n settings could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Не удалось прочитать %n настройку.</numerusform>
+            <numerusform>Не удалось прочитать %n настройки.</numerusform>
+            <numerusform>Не удалось прочитать %n настроек.</numerusform>
         </translation>
     </message>
     <message>
         <source>Apply Settings</source>
-        <translation type="unfinished">Применение настроек</translation>
+        <translation>Применение настроек</translation>
     </message>
     <message>
         <source>Compare Settings</source>
-        <translation type="unfinished">Сравнение настроек</translation>
+        <translation>Сравнение настроек</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished">Файл</translation>
+        <translation>Файл</translation>
     </message>
     <message>
         <source>The values before are kept in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Прежние значения сохранены в %1.</translation>
     </message>
 </context>
 <context>
@@ -3805,25 +3805,25 @@ a minus in front takes a tag away:</source>
     <message numerus="yes">
         <source>%n projectors added</source>
         <translation>
-            <numerusform>добавлен %n проектор</numerusform>
-            <numerusform>добавлено %n проектора</numerusform>
-            <numerusform>добавлено %n проекторов</numerusform>
+            <numerusform>Добавлен %n проектор</numerusform>
+            <numerusform>Добавлено %n проектора</numerusform>
+            <numerusform>Добавлено %n проекторов</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n already known</source>
         <translation>
-            <numerusform>уже известно: %n</numerusform>
-            <numerusform>уже известно: %n</numerusform>
-            <numerusform>уже известно: %n</numerusform>
+            <numerusform>%n уже известен</numerusform>
+            <numerusform>%n уже известны</numerusform>
+            <numerusform>%n уже известны</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n rows not taken</source>
         <translation>
-            <numerusform>%n строка не принята</numerusform>
-            <numerusform>%n строки не приняты</numerusform>
-            <numerusform>%n строк не принято</numerusform>
+            <numerusform>не принята %n строка</numerusform>
+            <numerusform>не приняты %n строки</numerusform>
+            <numerusform>не принято %n строк</numerusform>
         </translation>
     </message>
 </context>
@@ -4086,14 +4086,14 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message numerus="yes">
         <source>done, %n settings could not be read</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>готово, не удалось прочитать %n настройку</numerusform>
+            <numerusform>готово, не удалось прочитать %n настройки</numerusform>
+            <numerusform>готово, не удалось прочитать %n настроек</numerusform>
         </translation>
     </message>
 </context>

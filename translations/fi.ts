@@ -1460,7 +1460,7 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     </message>
     <message>
         <source>left</source>
-        <translation>jäljellä</translation>
+        <translation>keskeytetty</translation>
     </message>
     <message>
         <source>no answer</source>

@@ -153,7 +153,7 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     </message>
     <message>
         <source>Prints what differs from a file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder.</source>
-        <translation>Tulostaa erot tiedostoon (”-” on vakiosyöte) tai kunkin projektorin omaan tiedostoon kansiossa.</translation>
+        <translation>Tulostaa, mikä poikkeaa tiedostosta (”-” on vakiosyöte) tai kunkin projektorin omasta tiedostosta kansiossa.</translation>
     </message>
     <message>
         <source>restore saved settings</source>
@@ -169,7 +169,7 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     </message>
     <message>
         <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>Palauttaa kaikille sen projektoreille sen, minkä viimeisin &apos;set&apos; tai &apos;apply&apos; korvasi, tai sen, minkä RUN korvasi: nimi, jonka &apos;acctl undo --list&apos; tulostaa, tai tiedosto. Kumoamisen voi puolestaan kumota sen nimellä.</translation>
+        <translation>Palauttaa arvot, jotka viimeisin &apos;set&apos; tai &apos;apply&apos; korvasi kaikissa projektoreissaan, tai arvot, jotka RUN korvasi. RUN on nimi, jonka &apos;acctl undo --list&apos; tulostaa, tai tiedosto. Myös kumoamisen voi kumota sen nimellä.</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -751,8 +751,8 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     <message numerus="yes">
         <source>skipped, PJLink does not have them: %n of the file&apos;s settings</source>
         <translation>
-            <numerusform>ohitettu, ei PJLinkissä: %n tiedoston asetus</numerusform>
-            <numerusform>ohitettu, ei PJLinkissä: %n tiedoston asetusta</numerusform>
+            <numerusform>ohitettu %n tiedostossa oleva asetus, jota PJLinkissä ei ole</numerusform>
+            <numerusform>ohitettu %n tiedostossa olevaa asetusta, joita PJLinkissä ei ole</numerusform>
         </translation>
     </message>
     <message>
@@ -1100,7 +1100,7 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     </message>
     <message>
         <source>Visit each projector every &lt;seconds&gt;, at least 5.</source>
-        <translation>Käy jokaisella projektorilla &lt;sekuntia&gt; välein, vähintään 5.</translation>
+        <translation>Kysy jokaiselta projektorilta &lt;sekuntia&gt; sekunnin välein, vähintään 5.</translation>
     </message>
     <message>
         <source>seconds</source>
@@ -1124,7 +1124,7 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     </message>
     <message>
         <source>Serve metrics at &lt;address:port&gt;; &apos;none&apos; for nowhere.</source>
-        <translation>Tarjoa mittareita osoitteessa &lt;osoite:portti&gt;; ”none”: ei missään.</translation>
+        <translation>Tarjoa mittaustietoja osoitteessa &lt;osoite:portti&gt;; ”none”: ei missään.</translation>
     </message>
     <message>
         <source>address:port</source>
@@ -1132,7 +1132,7 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     </message>
     <message>
         <source>Write metrics to &lt;file&gt; every 15 seconds, for a collector of text files.</source>
-        <translation>Kirjoita mittarit 15 sekunnin välein tiedostoon &lt;tiedosto&gt; tekstitiedostojen kerääjää varten.</translation>
+        <translation>Kirjoita mittaustiedot 15 sekunnin välein tiedostoon &lt;tiedosto&gt; tekstitiedostojen kerääjää varten.</translation>
     </message>
     <message>
         <source>Send messages to the MQTT broker at &lt;host:port&gt;.</source>
@@ -1188,7 +1188,7 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     </message>
     <message>
         <source>Take the share of a bridge that has said nothing for &lt;seconds&gt;.</source>
-        <translation>Ota haltuun sen sillan osuus, joka on ollut vaiti &lt;sekuntia&gt;.</translation>
+        <translation>Ota haltuun sen sillan osuus, joka on ollut vaiti &lt;sekuntia&gt; sekuntia.</translation>
     </message>
     <message>
         <source>Settings that may be commanded: keys or patterns, separated by commas; &apos;power&apos; is the power. Without it nothing may be.</source>
@@ -1200,7 +1200,7 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     </message>
     <message>
         <source>Commands that each projector takes in a minute.</source>
-        <translation>Komentoja, jotka kukin projektori ottaa vastaan minuutissa.</translation>
+        <translation>Montako komentoa kukin projektori ottaa vastaan minuutissa.</translation>
     </message>
     <message>
         <source>n</source>
@@ -1264,7 +1264,7 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     </message>
     <message>
         <source>Watches projectors, and tells a metrics store and a message broker of them.</source>
-        <translation>Valvoo projektoreita ja kertoo niistä mittarivarastolle ja viestinvälittäjälle.</translation>
+        <translation>Valvoo projektoreita ja kertoo niistä mittaustietokannalle ja viestinvälittäjälle.</translation>
     </message>
     <message>
         <source>unexpected argument &apos;%1&apos;</source>
@@ -2679,7 +2679,7 @@ miinus edessä poistaa tunnisteen:</numerusform>
     </message>
     <message>
         <source>stands here twice</source>
-        <translation>on täällä kahdesti</translation>
+        <translation>esiintyy tässä kahdesti</translation>
     </message>
     <message>
         <source>cannot read profiles %1: %2</source>
@@ -3246,7 +3246,7 @@ miinus edessä poistaa tunnisteen:</numerusform>
     </message>
     <message>
         <source>%1 stands here twice</source>
-        <translation>%1 on täällä kahdesti</translation>
+        <translation>%1 esiintyy tässä kahdesti</translation>
     </message>
     <message>
         <source>%1; no more was sent</source>
@@ -3479,7 +3479,7 @@ miinus edessä poistaa tunnisteen:</numerusform>
     </message>
     <message>
         <source>&quot;%1&quot; stands here twice</source>
-        <translation>”%1” on täällä kahdesti</translation>
+        <translation>”%1” esiintyy tässä kahdesti</translation>
     </message>
     <message>
         <source>is larger than 4 MiB</source>
@@ -3681,7 +3681,7 @@ miinus edessä poistaa tunnisteen:</numerusform>
     </message>
     <message>
         <source>%1 added, %2 already known, %3 rows not taken.</source>
-        <translation>%1 lisätty, %2 tunnettiin jo, %3 riviä jätettiin ottamatta.</translation>
+        <translation>%1 lisätty, %2 tunnettiin jo, %3 riviä jätettiin pois.</translation>
     </message>
     <message>
         <source>Line %1: %2</source>

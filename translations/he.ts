@@ -5,16 +5,16 @@
     <name>Acctl</name>
     <message>
         <source>there is no option --%1</source>
-        <translation>אין אפשרות ‎--%1</translation>
+        <translation>אין אפשרות --%1</translation>
     </message>
     <message>
         <source>--%1 takes no value</source>
-        <translation>‎--%1 אינה מקבלת ערך</translation>
+        <translation>--%1 אינה מקבלת ערך</translation>
     </message>
     <message>
         <source>--%1 needs %2</source>
         <extracomment>An option and what must follow it: &quot;--profiles needs FILE&quot;.</extracomment>
-        <translation>‎--%1 דורשת %2</translation>
+        <translation>--%1 דורשת %2</translation>
     </message>
     <message>
         <source>%1 takes no %2</source>
@@ -28,15 +28,15 @@
     </message>
     <message>
         <source>a command is missing; --help lists them</source>
-        <translation>חסרה פקודה; ‎--help מציגה את הפקודות</translation>
+        <translation>חסרה פקודה; --help מציגה את הפקודות</translation>
     </message>
     <message>
         <source>there is no command &apos;%1&apos;; --help lists them</source>
-        <translation>אין פקודה &quot;%1&quot;; ‎--help מציגה את הפקודות</translation>
+        <translation>אין פקודה &quot;%1&quot;; --help מציגה את הפקודות</translation>
     </message>
     <message>
         <source>%1 has no such --format</source>
-        <translation>ל־%1 אין ‎--format כזה</translation>
+        <translation>ל־%1 אין --format כזה</translation>
     </message>
     <message>
         <source>use: %1</source>
@@ -52,7 +52,7 @@
     </message>
     <message>
         <source>&apos;%1&apos; is no step such as +1 or -1, and PJLink can only step it</source>
-        <translation>&quot;%1&quot; אינו צעד כגון ‎+1 או ‎-1, וב־PJLink אפשר לשנות ערך זה רק בצעדים</translation>
+        <translation>&quot;%1&quot; אינו צעד כגון +1 או -1, וב־PJLink אפשר לשנות ערך זה רק בצעדים</translation>
     </message>
     <message numerus="yes">
         <source>&apos;%1&apos; is more than %n steps</source>
@@ -121,7 +121,7 @@
         <source>Changes settings in the order given, reads each back, and prints the value before and after. All keys and values are checked for all projectors first; if a value is wrong for one, nothing is sent to any. A key that a projector does not have is reported, and does not stop the others.
 KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the form KEY VALUE, +3 and -3 are steps, and =-3 is a number below zero. &apos;acctl undo&apos; restores what was there before, except the power state and the results of actions.</source>
         <translation>הפקודה משנה הגדרות לפי הסדר שניתן, קוראת כל אחת בחזרה ומדפיסה את הערך לפני ואחרי. תחילה נבדקים כל המפתחות והערכים לכל המקרנים; אם ערך שגוי עבור אחד מהם, דבר אינו נשלח לאף מקרן. על מפתח שאין למקרן נמסרת הודעה, והוא אינו מונע את השאר.
-KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך הנוכחי. בצורה KEY VALUE, ‏‎+3 ו־‎-3 הם צעדים, ו־‎=-3 הוא מספר קטן מאפס. &apos;acctl undo&apos; משחזרת את מה שהיה קודם, מלבד מצב ההפעלה ותוצאות של פעולות.</translation>
+KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך הנוכחי. בצורה KEY VALUE, +3 ו־-3 הם צעדים, ו־=-3 הוא מספר קטן מאפס. &apos;acctl undo&apos; משחזרת את מה שהיה קודם, מלבד מצב ההפעלה ותוצאות של פעולות.</translation>
     </message>
     <message>
         <source>reset settings to the projector&apos;s standard</source>
@@ -145,7 +145,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>Saves every setting that can be restored: those of one projector in FILE (&apos;-&apos; is standard output), or those of any number in a folder, a file each. A file that is not a file of settings is not replaced without --force.</source>
-        <translation>הפקודה שומרת כל הגדרה שאפשר לשחזר: של מקרן אחד בקובץ FILE (הסימן &quot;-&quot; הוא הפלט התקני), או של כל מספר מקרנים בתיקייה, קובץ לכל אחד. קובץ שאינו קובץ הגדרות אינו מוחלף ללא ‎--force.</translation>
+        <translation>הפקודה שומרת כל הגדרה שאפשר לשחזר: של מקרן אחד בקובץ FILE (הסימן &quot;-&quot; הוא הפלט התקני), או של כל מספר מקרנים בתיקייה, קובץ לכל אחד. קובץ שאינו קובץ הגדרות אינו מוחלף ללא --force.</translation>
     </message>
     <message>
         <source>compare with saved settings</source>
@@ -177,7 +177,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>Prints values, and then every change until it is interrupted, until nobody reads its output any more, or until all projectors have the value of --until. A projector that falls silent is tried again and again.</source>
-        <translation>הפקודה מדפיסה ערכים, ולאחר מכן כל שינוי, עד שהיא נקטעת, עד שאיש אינו קורא עוד את הפלט שלה, או עד שלכל המקרנים יש הערך של ‎--until. מקרן שמשתתק מקבל ניסיונות חוזרים שוב ושוב.</translation>
+        <translation>הפקודה מדפיסה ערכים, ולאחר מכן כל שינוי, עד שהיא נקטעת, עד שאיש אינו קורא עוד את הפלט שלה, או עד שלכל המקרנים יש הערך של --until. מקרן שמשתתק מקבל ניסיונות חוזרים שוב ושוב.</translation>
     </message>
     <message>
         <source>search the network for projectors</source>
@@ -185,7 +185,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>Asks every PJLink projector of the network, or the addresses given, who it is. ADDRESSES are like 192.0.2.7, 192.0.2.0/24 or 192.0.2.10-40. Nothing is stored unless --add names a profile file.</source>
-        <translation>הפקודה שואלת כל מקרן PJLink ברשת, או את הכתובות שניתנו, מי הוא. ADDRESSES הן כגון 192.0.2.7, ‏192.0.2.0/24 או 192.0.2.10-40. דבר אינו נשמר אלא אם ‎--add מציינת קובץ פרופילים.</translation>
+        <translation>הפקודה שואלת כל מקרן PJLink ברשת, או את הכתובות שניתנו, מי הוא. ADDRESSES הן כגון 192.0.2.7, 192.0.2.0/24 או 192.0.2.10-40. דבר אינו נשמר אלא אם --add מציינת קובץ פרופילים.</translation>
     </message>
     <message>
         <source>take projectors from a table</source>
@@ -193,7 +193,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>Adds the rows of comma-separated values (&apos;-&apos; is standard input) to the profile file that --profiles or ACCTL_PROFILES names, and changes those that it has.</source>
-        <translation>הפקודה מוסיפה את השורות של ערכים מופרדים בפסיקים (הסימן &quot;-&quot; הוא הקלט התקני) לקובץ הפרופילים ש־‎--profiles או ACCTL_PROFILES מציינים, ומשנה את מה שכבר נמצא בו.</translation>
+        <translation>הפקודה מוסיפה את השורות של ערכים מופרדים בפסיקים (הסימן &quot;-&quot; הוא הקלט התקני) לקובץ הפרופילים ש־--profiles או ACCTL_PROFILES מציינים, ומשנה את מה שכבר נמצא בו.</translation>
     </message>
     <message>
         <source>print projectors as a table</source>
@@ -262,7 +262,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>P selects projectors: a name, a pattern such as &apos;Lecture*&apos;, @TAG, or model=PATTERN. Several are separated by commas, and !P leaves projectors out. KEY is the key of a setting, a pattern such as &apos;picture.*&apos;, or a short name such as brightness, input or power, which is the same on all models. VALUE is a number as the dialog shows it, the text of an entry in any language of the dialog, or its code.</source>
-        <translation>P בוחר מקרנים: שם, תבנית כגון &apos;Lecture*&apos;, ‏@TAG, או model=PATTERN. כמה בחירות מופרדות בפסיקים, ו־!P משמיט מקרנים. KEY הוא מפתח של הגדרה, תבנית כגון &apos;picture.*&apos;, או שם קצר כגון brightness, ‏input או power, שזהה בכל הדגמים. VALUE הוא מספר כפי שהחלון מציג אותו, הטקסט של פריט ברשימה בכל אחת משפות החלון, או הקוד שלו.</translation>
+        <translation>P בוחר מקרנים: שם, תבנית כגון &apos;Lecture*&apos;, @TAG, או model=PATTERN. כמה בחירות מופרדות בפסיקים, ו־!P משמיט מקרנים. KEY הוא מפתח של הגדרה, תבנית כגון &apos;picture.*&apos;, או שם קצר כגון brightness, input או power, שזהה בכל הדגמים. VALUE הוא מספר כפי שהחלון מציג אותו, הטקסט של פריט ברשימה בכל אחת משפות החלון, או הקוד שלו.</translation>
     </message>
     <message>
         <source>Done. Also if a projector in standby could not report everything, or accepted a change that has not taken effect yet.</source>
@@ -382,7 +382,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>no profiles at %1; name a file with --profiles</source>
-        <translation>אין פרופילים ב־%1; יש לציין קובץ באמצעות ‎--profiles</translation>
+        <translation>אין פרופילים ב־%1; יש לציין קובץ באמצעות --profiles</translation>
     </message>
     <message>
         <source>read the projectors from FILE</source>
@@ -394,7 +394,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>the projector is at ADDRESS; P gives only its model</source>
-        <translation>המקרן נמצא בכתובת ADDRESS; ‏P קובע רק את הדגם שלו</translation>
+        <translation>המקרן נמצא בכתובת ADDRESS; P קובע רק את הדגם שלו</translation>
     </message>
     <message>
         <source>the port of the projectors that are searched; 4352 by default</source>
@@ -410,11 +410,11 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>output: text, json, jsonl (a line for each value or projector), tsv or value</source>
-        <translation>פלט: text, ‏json, ‏jsonl (שורה לכל ערך או מקרן), tsv או value</translation>
+        <translation>פלט: text, json, jsonl (שורה לכל ערך או מקרן), tsv או value</translation>
     </message>
     <message>
         <source>the same as --format json</source>
-        <translation>כמו ‎--format json</translation>
+        <translation>כמו --format json</translation>
     </message>
     <message>
         <source>only names or keys, one a line</source>
@@ -422,7 +422,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>only settings that get, set, reset or watch can use</source>
-        <translation>רק הגדרות ש־get, ‏set, ‏reset או watch יכולות להשתמש בהן</translation>
+        <translation>רק הגדרות ש־get, set, reset או watch יכולות להשתמש בהן</translation>
     </message>
     <message>
         <source>only keys that match GLOB; may be repeated</source>
@@ -474,7 +474,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>remove undo files older than N days; 30 by default, 0 keeps all</source>
-        <translation>הסרת קובצי ביטול ישנים מ־N ימים; ברירת המחדל 30, ‏0 שומר את כולם</translation>
+        <translation>הסרת קובצי ביטול ישנים מ־N ימים; ברירת המחדל 30, 0 שומר את כולם</translation>
     </message>
     <message>
         <source>projectors at once, 1 to 1024; by default 512 to read and 64 to change</source>
@@ -556,7 +556,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>name the profile file with --profiles</source>
-        <translation>יש לציין את קובץ הפרופילים באמצעות ‎--profiles</translation>
+        <translation>יש לציין את קובץ הפרופילים באמצעות --profiles</translation>
     </message>
     <message>
         <source>%1 added, %2 known, %3 wrong</source>
@@ -765,11 +765,11 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>%1: undoes a change of %2; --force applies it to %3</source>
-        <translation>%1: מבטל שינוי של %2; ‎--force תחיל אותו על %3</translation>
+        <translation>%1: מבטל שינוי של %2; --force תחיל אותו על %3</translation>
     </message>
     <message>
         <source>--only %1: the file has no such setting</source>
-        <translation>‎--only %1: אין בקובץ הגדרה כזאת</translation>
+        <translation>--only %1: אין בקובץ הגדרה כזאת</translation>
     </message>
     <message>
         <source>%1: there is no projector &apos;%2&apos;</source>
@@ -790,7 +790,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>%1: is not a file of settings; --force replaces it</source>
-        <translation>%1: אינו קובץ הגדרות; ‎--force תחליף אותו</translation>
+        <translation>%1: אינו קובץ הגדרות; --force תחליף אותו</translation>
     </message>
     <message>
         <source>%1: there is no such file or folder</source>
@@ -802,7 +802,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>one file is for one projector, not %1; -o names a folder</source>
-        <translation>קובץ אחד מיועד למקרן אחד, לא ל־%1; ‎-o מציינת תיקייה</translation>
+        <translation>קובץ אחד מיועד למקרן אחד, לא ל־%1; -o מציינת תיקייה</translation>
     </message>
     <message>
         <source>cannot make the folder %1</source>
@@ -818,7 +818,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>there is no run &apos;%1&apos;; --list shows them</source>
-        <translation>אין הרצה &quot;%1&quot;; ‎--list מציגה את ההרצות</translation>
+        <translation>אין הרצה &quot;%1&quot;; --list מציגה את ההרצות</translation>
     </message>
     <message>
         <source>%1: is no longer in the profile file</source>
@@ -841,7 +841,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>there is no projector &apos;%1&apos;; acctl list shows all</source>
-        <translation>אין מקרן &quot;%1&quot;; ‏acctl list מציגה את כולם</translation>
+        <translation>אין מקרן &quot;%1&quot;; acctl list מציגה את כולם</translation>
     </message>
     <message>
         <source>refused, the projector is in standby</source>
@@ -1011,7 +1011,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>--until: &apos;%1&apos; is not KEY=VALUE</source>
-        <translation>‎--until: &quot;%1&quot; אינו בצורה KEY=VALUE</translation>
+        <translation>--until: &quot;%1&quot; אינו בצורה KEY=VALUE</translation>
     </message>
 </context>
 <context>
@@ -1124,7 +1124,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>Serve metrics at &lt;address:port&gt;; &apos;none&apos; for nowhere.</source>
-        <translation>הגשת מדדים בכתובת &lt;כתובת:פתחה&gt;; ‏&apos;none&apos; כדי לא להגיש.</translation>
+        <translation>הגשת מדדים בכתובת &lt;כתובת:פתחה&gt;; &apos;none&apos; כדי לא להגיש.</translation>
     </message>
     <message>
         <source>address:port</source>
@@ -1144,7 +1144,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>Version of MQTT, 3 (3.1.1) or 5.</source>
-        <translation>גרסת MQTT, ‏3 (3.1.1) או 5.</translation>
+        <translation>גרסת MQTT, 3 (3.1.1) או 5.</translation>
     </message>
     <message>
         <source>version</source>
@@ -1240,7 +1240,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>--%1 needs --broker</source>
-        <translation>‎--%1 דורשת ‎--broker</translation>
+        <translation>--%1 דורשת --broker</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no host with a port</source>
@@ -1252,11 +1252,11 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>--cert-file and --key-file need each other</source>
-        <translation>‎--cert-file ו־‎--key-file דורשות זו את זו</translation>
+        <translation>--cert-file ו־--key-file דורשות זו את זו</translation>
     </message>
     <message>
         <source>--allow-commands: &apos;%1&apos; is no setting that may be commanded</source>
-        <translation>‎--allow-commands: &quot;%1&quot; אינה הגדרה שאפשר לפקד עליה</translation>
+        <translation>--allow-commands: &quot;%1&quot; אינה הגדרה שאפשר לפקד עליה</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no number from 1 to %2</source>
@@ -1272,7 +1272,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>--profiles is missing</source>
-        <translation>חסרה ‎--profiles</translation>
+        <translation>חסרה --profiles</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no numeric address</source>
@@ -1295,7 +1295,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>--%1 needs a value.</source>
-        <translation>‎--%1 דורשת ערך.</translation>
+        <translation>--%1 דורשת ערך.</translation>
     </message>
     <message>
         <source>Opens the settings dialogs of projectors, real or simulated.</source>
@@ -1323,7 +1323,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>With --open: select tab &lt;n&gt;, counted from 0.</source>
-        <translation>עם ‎--open: בחירת הלשונית &lt;n&gt;, בספירה מ־0.</translation>
+        <translation>עם --open: בחירת הלשונית &lt;n&gt;, בספירה מ־0.</translation>
     </message>
     <message>
         <source>Print the table of projectors.</source>
@@ -1331,7 +1331,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>With --open: save a picture (PNG) of the dialog and exit.</source>
-        <translation>עם ‎--open: שמירת תמונה (PNG) של החלון ויציאה.</translation>
+        <translation>עם --open: שמירת תמונה (PNG) של החלון ויציאה.</translation>
     </message>
     <message>
         <source>Save pictures of all tabs of all kinds of projectors in &lt;folder&gt; and exit.</source>
@@ -1347,7 +1347,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>--language: there are no texts in &apos;%1&apos;.</source>
-        <translation>‎--language: אין טקסטים ב־&quot;%1&quot;.</translation>
+        <translation>--language: אין טקסטים ב־&quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Unexpected argument &apos;%1&apos;.</source>
@@ -1355,15 +1355,15 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>Only one of --list, --tour and --open can be given.</source>
-        <translation>אפשר לציין רק אחת מבין ‎--list, ‏‎--tour ו־‎--open.</translation>
+        <translation>אפשר לציין רק אחת מבין --list, --tour ו־--open.</translation>
     </message>
     <message>
         <source>--%1 needs --open.</source>
-        <translation>‎--%1 דורשת ‎--open.</translation>
+        <translation>--%1 דורשת --open.</translation>
     </message>
     <message>
         <source>--tab: &apos;%1&apos; is not a number.</source>
-        <translation>‎--tab: &quot;%1&quot; אינו מספר.</translation>
+        <translation>--tab: &quot;%1&quot; אינו מספר.</translation>
     </message>
 </context>
 <context>
@@ -1995,7 +1995,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>Ctrl+Tab, Ctrl+Page Down</source>
-        <translation>Ctrl+Tab, ‏Ctrl+Page Down</translation>
+        <translation>Ctrl+Tab, Ctrl+Page Down</translation>
     </message>
     <message>
         <source>Next tab</source>
@@ -2003,7 +2003,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>Ctrl+Shift+Tab, Ctrl+Page Up</source>
-        <translation>Ctrl+Shift+Tab, ‏Ctrl+Page Up</translation>
+        <translation>Ctrl+Shift+Tab, Ctrl+Page Up</translation>
     </message>
     <message>
         <source>Previous tab</source>
@@ -2755,7 +2755,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>must be simulated, network, serial or pjlink</source>
-        <translation>חייב להיות simulated, ‏network, ‏serial או pjlink</translation>
+        <translation>חייב להיות simulated, network, serial או pjlink</translation>
     </message>
     <message>
         <source>needs a %1 connection</source>
@@ -2770,7 +2770,7 @@ a minus in front takes a tag away:</source>
     <name>Program</name>
     <message>
         <source>no profiles at %1; name a file with --profiles</source>
-        <translation>אין פרופילים ב־%1; יש לציין קובץ באמצעות ‎--profiles</translation>
+        <translation>אין פרופילים ב־%1; יש לציין קובץ באמצעות --profiles</translation>
     </message>
     <message>
         <source>Name</source>
@@ -2801,15 +2801,15 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>--open: there is no projector &apos;%1&apos;; --list names all.</source>
-        <translation>‎--open: אין מקרן &quot;%1&quot;; ‎--list מציגה את כולם.</translation>
+        <translation>--open: אין מקרן &quot;%1&quot;; --list מציגה את כולם.</translation>
     </message>
     <message>
         <source>--tab: there is no tab %1; &apos;%2&apos; has tabs 0 to %3.</source>
-        <translation>‎--tab: אין לשונית %1; ל־&quot;%2&quot; יש לשוניות 0 עד %3.</translation>
+        <translation>--tab: אין לשונית %1; ל־&quot;%2&quot; יש לשוניות 0 עד %3.</translation>
     </message>
     <message>
         <source>no display; use --list, --tour or --screenshot without one.</source>
-        <translation>אין תצוגה; בלעדיה יש להשתמש ב־‎--list, ‏‎--tour או ‎--screenshot.</translation>
+        <translation>אין תצוגה; בלעדיה יש להשתמש ב־--list, --tour או --screenshot.</translation>
     </message>
 </context>
 <context>
@@ -3261,7 +3261,7 @@ a minus in front takes a tag away:</source>
     <name>Simulator</name>
     <message>
         <source>--control: the port cannot be had</source>
-        <translation>‎--control: הפתחה אינה זמינה</translation>
+        <translation>--control: הפתחה אינה זמינה</translation>
     </message>
     <message>
         <source>there is no projector &apos;%1&apos;</source>
@@ -3304,7 +3304,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Listen on &lt;address&gt; instead of 127.0.0.1; with --fleet, the address of the first projector instead of 127.64.0.1.</source>
-        <translation>האזנה בכתובת &lt;כתובת&gt; במקום 127.0.0.1; עם ‎--fleet, הכתובת של המקרן הראשון במקום 127.64.0.1.</translation>
+        <translation>האזנה בכתובת &lt;כתובת&gt; במקום 127.0.0.1; עם --fleet, הכתובת של המקרן הראשון במקום 127.64.0.1.</translation>
     </message>
     <message>
         <source>address</source>
@@ -3312,7 +3312,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>The first projector is at port &lt;n&gt;, the others at those that follow; 0, as without it, takes any that are free. With --fleet, &lt;n&gt; is the port of every projector for our own protocol, and the next one for PJLink.</source>
-        <translation>המקרן הראשון בפתחה &lt;n&gt;, והאחרים בבאות אחריה; 0, כמו ללא אפשרות זו, לוקח פתחות פנויות כלשהן. עם ‎--fleet,‏ &lt;n&gt; היא הפתחה של כל מקרן לפרוטוקול שלנו, והבאה אחריה ל־PJLink.</translation>
+        <translation>המקרן הראשון בפתחה &lt;n&gt;, והאחרים בבאות אחריה; 0, כמו ללא אפשרות זו, לוקח פתחות פנויות כלשהן. עם --fleet, &lt;n&gt; היא הפתחה של כל מקרן לפרוטוקול שלנו, והבאה אחריה ל־PJLink.</translation>
     </message>
     <message>
         <source>n</source>
@@ -3356,7 +3356,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Of a fleet: what --write-profiles uses; pjlink, network or mixed.</source>
-        <translation>עם ‎--fleet: מה ש־‎--write-profiles משתמשת בו; pjlink, ‏network או mixed.</translation>
+        <translation>עם --fleet: מה ש־--write-profiles משתמשת בו; pjlink, network או mixed.</translation>
     </message>
     <message>
         <source>way</source>
@@ -3364,7 +3364,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Of a fleet: seconds until a projector is on.</source>
-        <translation>עם ‎--fleet: שניות עד שמקרן פועל.</translation>
+        <translation>עם --fleet: שניות עד שמקרן פועל.</translation>
     </message>
     <message>
         <source>seconds</source>
@@ -3372,15 +3372,15 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Of a fleet: seconds until a projector is in standby.</source>
-        <translation>עם ‎--fleet: שניות עד שמקרן בהמתנה.</translation>
+        <translation>עם --fleet: שניות עד שמקרן בהמתנה.</translation>
     </message>
     <message>
         <source>Of a fleet: so many changes of state in a second happen by themselves.</source>
-        <translation>עם ‎--fleet: מספר שינויי המצב בשנייה שמתרחשים מעצמם.</translation>
+        <translation>עם --fleet: מספר שינויי המצב בשנייה שמתרחשים מעצמם.</translation>
     </message>
     <message>
         <source>Of a fleet: send PJLink&apos;s status notices to this address.</source>
-        <translation>עם ‎--fleet: שליחת הודעות המצב של PJLink לכתובת הזאת.</translation>
+        <translation>עם --fleet: שליחת הודעות המצב של PJLink לכתובת הזאת.</translation>
     </message>
     <message>
         <source>address:port</source>
@@ -3388,7 +3388,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Of a fleet: at the end, write how often each projector was asked to &lt;file&gt;.</source>
-        <translation>עם ‎--fleet: בסיום, כתיבת מספר הפעמים שכל מקרן נשאל לקובץ &lt;קובץ&gt;.</translation>
+        <translation>עם --fleet: בסיום, כתיבת מספר הפעמים שכל מקרן נשאל לקובץ &lt;קובץ&gt;.</translation>
     </message>
     <message>
         <source>Help and errors are in the language &lt;name&gt;, such as de or zh-TW.</source>
@@ -3396,7 +3396,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Serves simulated projectors over TCP, PJLink and pseudo terminals. Prints an address a line, then &quot;ready&quot;.</source>
-        <translation>הגשת מקרנים בהדמיה דרך TCP, ‏PJLink ומסופים מדומים. מודפסת כתובת אחת בכל שורה, ולבסוף &quot;ready&quot;.</translation>
+        <translation>הגשת מקרנים בהדמיה דרך TCP, PJLink ומסופים מדומים. מודפסת כתובת אחת בכל שורה, ולבסוף &quot;ready&quot;.</translation>
     </message>
     <message>
         <source>Unexpected argument &apos;%1&apos;.</source>
@@ -3404,7 +3404,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>--%1 needs --fleet.</source>
-        <translation>‎--%1 דורשת ‎--fleet.</translation>
+        <translation>--%1 דורשת --fleet.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no address.</source>
@@ -3412,15 +3412,15 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>--password: is longer than %1 bytes.</source>
-        <translation>‎--password: ארוך יותר מ־%1 בתים.</translation>
+        <translation>--password: ארוך יותר מ־%1 בתים.</translation>
     </message>
     <message>
         <source>--fault: &apos;%1&apos; is none of %2.</source>
-        <translation>‎--fault: &quot;%1&quot; אינו אחד מאלה: %2.</translation>
+        <translation>--fault: &quot;%1&quot; אינו אחד מאלה: %2.</translation>
     </message>
     <message>
         <source>--fleet has no serial lines.</source>
-        <translation>ל־‎--fleet אין קווים טוריים.</translation>
+        <translation>ל־--fleet אין קווים טוריים.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no IPv4 loopback address.</source>
@@ -3440,7 +3440,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>&apos;%1&apos; is none of pjlink, network and mixed.</source>
-        <translation>&quot;%1&quot; אינו pjlink, ‏network או mixed.</translation>
+        <translation>&quot;%1&quot; אינו pjlink, network או mixed.</translation>
     </message>
 </context>
 <context>

@@ -5,7 +5,7 @@
     <name>Acctl</name>
     <message>
         <source>there is no option --%1</source>
-        <translation>אין אפשרות --%1</translation>
+        <translation>לא קיימת האפשרות --%1</translation>
     </message>
     <message>
         <source>--%1 takes no value</source>
@@ -121,7 +121,7 @@
         <source>Changes settings in the order given, reads each back, and prints the value before and after. All keys and values are checked for all projectors first; if a value is wrong for one, nothing is sent to any. A key that a projector does not have is reported, and does not stop the others.
 KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the form KEY VALUE, +3 and -3 are steps, and =-3 is a number below zero. &apos;acctl undo&apos; restores what was there before, except the power state and the results of actions.</source>
         <translation>הפקודה משנה הגדרות לפי הסדר שניתן, קוראת כל אחת בחזרה ומדפיסה את הערך לפני ואחרי. תחילה נבדקים כל המפתחות והערכים לכל המקרנים; אם ערך שגוי עבור אחד מהם, דבר אינו נשלח לאף מקרן. על מפתח שאין למקרן נמסרת הודעה, והוא אינו מונע את השאר.
-KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך הנוכחי. בצורה KEY VALUE, +3 ו־-3 הם צעדים, ו־=-3 הוא מספר קטן מאפס. &apos;acctl undo&apos; משחזרת את מה שהיה קודם, מלבד מצב ההפעלה ותוצאות של פעולות.</translation>
+KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך הנוכחי. בצורה KEY VALUE, +3 או -3 הם צעדים, והכתיב =-3 הוא מספר קטן מאפס. &apos;acctl undo&apos; משחזרת את מה שהיה קודם, מלבד מצב ההפעלה ותוצאות של פעולות.</translation>
     </message>
     <message>
         <source>reset settings to the projector&apos;s standard</source>
